@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/news_item.h"
+#include "backend/result.h"
+
+namespace wirepane {
+
+enum class Take {
+    TakenIn,       // new, or a later version of what was there
+    AlreadyThere,  // nothing changed
+    Rejected,      // this item cannot be taken; the others can
+};
+
+struct TakeOutcome {
+    Take take = Take::TakenIn;
+    QString reason;  // for Rejected: a sentence
+};
+
+// What takes items in. An error (a full disk, a damaged store) ends the taking in; nothing since the last begin()
+// stays then.
+class ItemSink {
+public:
+    virtual ~ItemSink() = default;
+
+    // Between begin() and commit() items are taken in all or nothing.
+    virtual Done begin() = 0;
+    virtual Result<TakeOutcome> take(const StoreItem& item) = 0;
+    virtual Done commit() = 0;
+    virtual void rollback() = 0;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <variant>
+#include <vector>
+
+namespace wirepane {
+
+struct SymbolRef {
+    unsigned char market = 0;  // service id of the market; 0: not known
+    QString code;
+
+    bool operator==(const SymbolRef&) const = default;
+};
+
+// One piece of news on its way into the store, whatever it came from.
+struct NewsItem {
+    unsigned char service = 1;
+    QString identity;      // what the source calls it, unique within the service: the same item twice is one item
+    int version = 0;       // a later version replaces an earlier one
+    std::int64_t time = 0;  // seconds since 1970, UTC
+    QString title;          // one line of plain text
+    std::optional<QString> story;  // plain text in wire form; absent: not known yet
+    QString category;              // name of its category; empty: none. The store gives each name an id
+    std::vector<SymbolRef> related;  // the first is the main symbol
+
+    std::optional<std::int32_t> sequence;    // given by a feed that numbers its headlines; else the store numbers
+    std::optional<std::int32_t> categoryId;  // given by a feed that knows the store's ids; goes before `category`
+};
+
+// One entry of the symbol table.
+struct SymbolItem {
+    unsigned char market = 0;
+    QString code;
+    QString name;
+    int category = 1;  // the market's kind of symbol
+};
+
+// One entry of a service's category catalogue.
+struct CategoryItem {
+    unsigned char service = 0;
+    std::int32_t id = 0;
+    QString name;
+    QString colour;  // "#rrggbb"; empty: the grid's own
+};
+
+using StoreItem = std::variant<NewsItem, SymbolItem, CategoryItem>;
+
+// What was wrong with one item of a source, for a person to act on.
+struct Rejection {
+    QString place;   // "line 12", "item 3 (urn:x:1)"
+    QString reason;  // a sentence
+};
+
+}  // namespace wirepane

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/contract/bk_quote_interface.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace {
+BKQuoteInterface* installed = nullptr;
+}
+
+BKQuoteInterface::~BKQuoteInterface() {
+    if (installed == this)
+        installed = nullptr;
+}
+
+BKQuoteInterface* BKQuoteInterface::GetBKInterface() {
+    return installed;
+}
+
+void BKQuoteInterface::SetBKInterface(BKQuoteInterface* backEnd) {
+    installed = backEnd;
+}
+
+void BKQuoteInterface::Attach(NewsReceiver* receiver) {
+    if (receiver != nullptr && std::find(receivers.begin(), receivers.end(), receiver) == receivers.end())
+        receivers.push_back(receiver);
+}
+
+void BKQuoteInterface::Detach(NewsReceiver* receiver) {
+    UnregisterSymbols(receiver);
+    if (deliveries > 0)
+        std::replace(receivers.begin(), receivers.end(), receiver, static_cast<NewsReceiver*>(nullptr));
+    else
+        std::erase(receivers, receiver);
+}
+
+void BKQuoteInterface::ForEachReceiver(const std::function<void(NewsReceiver&)>& call) {
+    ++deliveries;
+    // By index: a receiver may attach another one, which is called too.
+    for (std::size_t i = 0; i < receivers.size(); ++i) {
+        if (receivers[i] != nullptr)
+            call(*receivers[i]);
+    }
+    if (--deliveries == 0)
+        std::erase(receivers, nullptr);
+}
+
+void BKQuoteInterface::RegisterSymbols(NewsReceiver*, const std::vector<CSymbolInfo>&,
+                                       const std::vector<CSymbolInfo>&) {}
+
+void BKQuoteInterface::UnregisterSymbols(NewsReceiver*) {}
+
+bool BKQuoteInterface::BKQNEWS_bGetShortNameByService(QString& name, unsigned char service) {
+    return BKQNEWS_bGetFullNameByService(name, service);
+}
+
+unsigned char BKQuoteInterface::BKQbyGetNewsDateRange() {
+    return 255;
+}
+
+bool BKQuoteInterface::bNewsAPI_GetNewsCatId(unsigned char, std::vector<QString>& ids,
+                                             std::vector<QString>& names) {
+    ids.clear();
+    names.clear();
+    return false;
+}
+
+int BKQuoteInterface::BKQCheckAuthSupport(unsigned char) {
+    return 0;
+}
+
+int BKQuoteInterface::BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>&, unsigned char,
+                                                const CSymbolInfo&) {
+    return 0;
+}
+
+bool BKQuoteInterface::BKNEWS_GetSymbolListBySeqNo(CNewsSymLst&, const CHeadlineTable&) {
+    return false;
+}
+
+QString BKQuoteInterface::LangGetLangString(const QString& key) {
+    return qtTrId(key.toUtf8().constData());
+}
+
+bool BKQuoteInterface::LangIsConvertToSimplified(const unsigned char&) {
+    return false;
+}
+
+void BKQuoteInterface::LangConvertToSimplifiedChinese(const QString& in, QString& out) {
+    out = in;
+}
+
+QString BKQuoteInterface::PathGetSysPath() {
+    return QCoreApplication::applicationDirPath();
+}

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/news_receiver.h"
+#include "host/contract/records.h"
+#include "host/contract/search_condition.h"
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+// Kinds of headline tables in the key form of BKQNEWS_iGetHeadlineTable and BKNEWS_bReRequestHeadlineTable.
+enum class TableKind : int { ByDate = 0, ByCategory = 1, Search = 3, SecondSearch = 4 };
+
+// The back end that a host gives to the news module. The module owns no news: everything it shows comes from
+// here, as a synchronous look-up into what the back end has at hand, or as the later answer to a request.
+//
+// Thread: every operation is called on, and every answer must arrive on, the interface thread. No operation may
+// run an event loop or throw. Look-ups must return at once: what is not at hand is reported as absent.
+//
+// A host must implement the operations that are pure. The others have a default that answers "nothing".
+class BKQuoteInterface {
+public:
+    BKQuoteInterface() = default;
+    BKQuoteInterface(const BKQuoteInterface&) = delete;
+    BKQuoteInterface& operator=(const BKQuoteInterface&) = delete;
+    // Uninstalls itself when it is the installed one. All receivers must have been detached before.
+    virtual ~BKQuoteInterface();
+
+    // The back end that the host installed; null before that. Not owned.
+    static BKQuoteInterface* GetBKInterface();
+    // Installs the back end of this process. Call it before the first view is created; the host keeps ownership
+    // and keeps it alive until the last view is gone.
+    static void SetBKInterface(BKQuoteInterface* backEnd);
+
+    // --- Who is told -----------------------------------------------------------------------------------------
+
+    // From Attach to Detach the receiver gets the back end's calls. Both may be called during a delivery; a
+    // detached receiver is not called again. Attaching twice is attaching once.
+    void Attach(NewsReceiver* receiver);
+    void Detach(NewsReceiver* receiver);
+
+    // Real-time distribution: a symbol with an empty code stands for the whole service. `view` has been attached.
+    virtual void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
+                                 const std::vector<CSymbolInfo>& removed);
+    // Ends all registrations of `view`.
+    virtual void UnregisterSymbols(NewsReceiver* view);
+
+    // --- Services --------------------------------------------------------------------------------------------
+
+    // Fills `services` with the ids of the news services, in the order in which lists and menus show them.
+    // False, and `services` empty, when there are none.
+    virtual bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& services) = 0;
+    // Display names. False, and `name` unchanged, for an unknown service.
+    virtual bool BKQNEWS_bGetFullNameByService(QString& name, unsigned char service) = 0;
+    virtual bool BKQNEWS_bGetShortNameByService(QString& name, unsigned char service);
+    // The service's current news date as yyyymmdd.
+    virtual QString BKQNEWS_cszGetCurrDateByService(unsigned char service) = 0;
+    // How many days back the user may page.
+    virtual unsigned char BKQbyGetNewsDateRange();
+    // The category ids (decimal texts) and names of a service, pairwise. False: both empty.
+    virtual bool bNewsAPI_GetNewsCatId(unsigned char service, std::vector<QString>& ids,
+                                       std::vector<QString>& names);
+    // Non-zero when the user may see this service.
+    virtual int BKQCheckAuthSupport(unsigned char service);
+    // 1 while the back end is connected to its source; pushed headlines are ignored otherwise.
+    virtual int bIsConnect() = 0;
+
+    // --- Headlines and stories ---------------------------------------------------------------------------------
+
+    // Appends the table of `service` for a symbol, or of a kind for a key (yyyymmdd, category id text, "SEARCH"),
+    // to `table`. Result: how many entries were appended. Entries may come in any order; tables that come newest
+    // first are merged without being sorted again.
+    virtual int BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>& table, unsigned char service,
+                                          const CSymbolInfo& symbol);
+    virtual int BKQNEWS_iGetHeadlineTable(unsigned char service, std::vector<CHeadlineTable>& table, int kind,
+                                          const QString& key) = 0;
+    // Appends the headlines of those entries that belong to `service` and are at hand to `headlines`, in the
+    // order of the entries. Result: how many were appended.
+    virtual int BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadline>& headlines,
+                                     const std::vector<CHeadlineTable>& entries) = 0;
+    // True when the story is at hand; otherwise `story` is unchanged.
+    virtual bool BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) = 0;
+    // The symbols related to a headline. False, and `symbols` unchanged, when they are not at hand.
+    virtual bool BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& symbols, const CHeadlineTable& entry);
+
+    // --- Texts -----------------------------------------------------------------------------------------------
+
+    // The display text of a language key in the language in force; the key itself when there is none. The default
+    // asks the translators that the application has installed.
+    virtual QString LangGetLangString(const QString& key);
+    // True when texts of `service` are shown converted to simplified characters.
+    virtual bool LangIsConvertToSimplified(const unsigned char& service);
+    // `out` becomes `in` converted; the default leaves it as it is.
+    virtual void LangConvertToSimplifiedChinese(const QString& in, QString& out);
+
+    // The folder that holds "Application.ini" and "NewsService.ini", without a separator at its end.
+    virtual QString PathGetSysPath();
+
+protected:
+    // Calls `call` for every attached receiver, in the order of attaching. Interface thread only.
+    void ForEachReceiver(const std::function<void(NewsReceiver&)>& call);
+
+private:
+    std::vector<NewsReceiver*> receivers;  // null: detached during a delivery, removed after it
+    int deliveries = 0;                    // depth of ForEachReceiver
+};

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+// Where a view's settings stand in the host's layout store.
+struct ViewSettingPath {
+    QString section;
+    int first = 0;   // the host's two layout numbers
+    int second = 0;
+    QString viewKey;  // the class of the view, such as "TRVNewsCtrlView"
+};
+
+// The host's store of per-view settings. A value is a boolean, an integer, a text or a list of texts. Interface
+// thread only.
+class TRVCfgIO2 {
+public:
+    TRVCfgIO2() = default;
+    TRVCfgIO2(const TRVCfgIO2&) = delete;
+    TRVCfgIO2& operator=(const TRVCfgIO2&) = delete;
+    virtual ~TRVCfgIO2();
+
+    // Reads one setting. False, and `value` unchanged, when it is absent or is not of that kind (a number out
+    // of the type's range included). Numbers and booleans may be stored as texts.
+    bool GetViewInfo(const ViewSettingPath& path, const QString& key, bool& value) const;
+    bool GetViewInfo(const ViewSettingPath& path, const QString& key, int& value) const;
+    bool GetViewInfo(const ViewSettingPath& path, const QString& key, unsigned short& value) const;
+    bool GetViewInfo(const ViewSettingPath& path, const QString& key, QString& value) const;
+    bool GetViewInfo(const ViewSettingPath& path, const QString& key, QStringList& value) const;
+
+    // Writes one setting: a bool, an int, a QString or a QStringList.
+    virtual void SetViewInfo(const ViewSettingPath& path, const QString& key, const QVariant& value) = 0;
+
+protected:
+    // The stored value; an invalid variant when there is none.
+    virtual QVariant Value(const ViewSettingPath& path, const QString& key) const = 0;
+};
+
+// Settings kept in memory: for scripts, tests and hosts that keep none. One view; the path is not looked at.
+class MemoryCfgIO : public TRVCfgIO2 {
+public:
+    QMap<QString, QVariant> values;
+
+    void SetViewInfo(const ViewSettingPath& path, const QString& key, const QVariant& value) override;
+
+protected:
+    QVariant Value(const ViewSettingPath& path, const QString& key) const override;
+};

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+
+// How the host displays items of its catalogues. Interface thread only.
+class TRVItemDisplay {
+public:
+    TRVItemDisplay() = default;
+    TRVItemDisplay(const TRVItemDisplay&) = delete;
+    TRVItemDisplay& operator=(const TRVItemDisplay&) = delete;
+    virtual ~TRVItemDisplay();  // uninstalls itself when it is the installed one
+
+    // The installed display; one without colours before a host installs its own. Never null, not owned.
+    static TRVItemDisplay* GetItemDisplay();
+    static void SetItemDisplay(TRVItemDisplay* display);
+
+    // The colours of a news category; an invalid colour means the grid's own.
+    virtual void GetNewsCatColor(int categoryId, QColor& text, QColor& background);
+};

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/records.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+// A search condition. The keywords keep their order of insertion and never repeat.
+struct CSearch {
+    std::vector<QString> keywords;
+    unsigned char scope = 0;   // 0 headlines, 1 stories, 2 headlines and stories
+    unsigned char method = 0;  // 0 not set, 1 all keywords must match, 2 any keyword may match
+    std::int64_t time = 0;     // when it was composed, seconds since 1970; not part of equality
+    std::vector<CSymbolInfo> symbols;  // narrows the search to stories of these symbols; empty: no narrowing
+    bool keywordSearch = false;        // true: a shown story has the keywords marked
+};
+
+// Two conditions ask for the same: keywords in order, scope, method and symbols are equal.
+inline bool operator==(const CSearch& a, const CSearch& b) {
+    return a.keywords == b.keywords && a.scope == b.scope && a.method == b.method && a.symbols == b.symbols;
+}

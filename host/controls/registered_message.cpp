@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/registered_message.h"
+
+#include <QApplication>
+#include <QHash>
+#include <QWidget>
+
+QEvent::Type RegisterMessage(const QString& name) {
+    static QHash<QString, int> types;
+    auto known = types.constFind(name);
+    if (known == types.constEnd())
+        known = types.insert(name, QEvent::registerEventType());
+    return static_cast<QEvent::Type>(*known);
+}
+
+void SendRegisteredMessage(QWidget* window, QEvent::Type type, quintptr first, quintptr second) {
+    if (window == nullptr)
+        return;
+    RegisteredMessageEvent event(type, first, second);
+    QApplication::sendEvent(window, &event);
+}

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/views/news_module.h"
+
+#include <QObject>
+#include <QPluginLoader>
+
+NewsModule* LoadNewsModule(const QString& file, QString& error) {
+    QPluginLoader loader(file);
+    QObject* plugin = loader.instance();
+    if (plugin == nullptr) {
+        error = QStringLiteral("The news module %1 cannot be loaded: %2").arg(file, loader.errorString());
+        return nullptr;
+    }
+    auto* module = qobject_cast<NewsModule*>(plugin);
+    if (module == nullptr)
+        error = QStringLiteral("%1 is not a news module of this version").arg(file);
+    return module;
+}

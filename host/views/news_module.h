@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+#include <QtPlugin>
+
+#include "host/contract/records.h"
+
+class CSuperSheetWnd;
+class QWidget;
+class TRVQuoteBaseView;
+
+// What a terminal uses a news module through, which it loads at run time. Interface thread only.
+class NewsModule {
+public:
+    virtual ~NewsModule() = default;
+
+    // The names of the view classes that CreateView knows, such as "TRVNewsCtrlView".
+    virtual QStringList ViewClasses() const = 0;
+
+    // Creates a view by the name of its class as a child of `parent`, which owns it; null for an unknown name.
+    // The caller then calls OnInitialUpdate and InitialViewInfo, in this order, once each. A back end must have
+    // been installed (BKQuoteInterface::SetBKInterface) before.
+    virtual TRVQuoteBaseView* CreateView(const QString& className, QWidget* parent) = 0;
+};
+
+#define WIREPANE_NEWS_MODULE_IID "wirepane.NewsModule/1"
+Q_DECLARE_INTERFACE(NewsModule, WIREPANE_NEWS_MODULE_IID)
+
+// What scripts and tests may look at in a news view; a view that offers it implements it beside its base class.
+class NewsViewInspection {
+public:
+    virtual ~NewsViewInspection() = default;
+
+    // The view's own state under the names of the automation interface (mode, newsType, services, ...), without
+    // its controls, which are found by number.
+    virtual QVariantMap State() const = 0;
+    // The grid of headline list 0..6; null when the list has none.
+    virtual CSuperSheetWnd* Sheet(int list) const = 0;
+    // The keys of rows [from, from + count) of a list, cut to the rows that exist.
+    virtual std::vector<HeadlineKey> Keys(int list, int from, int count) const = 0;
+};
+
+// Loads the module from a file. Null when that fails; `error` then says why, in a sentence with the file's name.
+// The module stays loaded until the process ends.
+NewsModule* LoadNewsModule(const QString& file, QString& error);
