@@ -17,8 +17,8 @@ enum class TableKind : int { ByDate = 0, ByCategory = 1, Search = 3, SecondSearc
 // The back end that a host gives to the news module. The module owns no news: everything it shows comes from
 // here, as a synchronous look-up into what the back end has at hand, or as the later answer to a request.
 //
-// Thread: every operation is called on, and every answer must arrive on, the interface thread. No operation may
-// run an event loop or throw. Look-ups must return at once: what is not at hand is reported as absent.
+// Thread: every operation is called on, and every answer must arrive on, the interface thread. No operation
+// may run an event loop or throw. Look-ups must return at once: what is not at hand is reported as absent.
 //
 // A host must implement the operations that are pure. The others have a default that answers "nothing".
 class BKQuoteInterface {
@@ -31,24 +31,27 @@ public:
 
     // The back end that the host installed; null before that. Not owned.
     static BKQuoteInterface* GetBKInterface();
-    // Installs the back end of this process. Call it before the first view is created; the host keeps ownership
-    // and keeps it alive until the last view is gone.
+    // Installs the back end of this process. Call it before the first view is created; the host keeps
+    // ownership and keeps it alive until the last view is gone.
     static void SetBKInterface(BKQuoteInterface* backEnd);
 
-    // --- Who is told -----------------------------------------------------------------------------------------
+    // --- Who is told
+    // -----------------------------------------------------------------------------------------
 
     // From Attach to Detach the receiver gets the back end's calls. Both may be called during a delivery; a
     // detached receiver is not called again. Attaching twice is attaching once.
     void Attach(NewsReceiver* receiver);
     void Detach(NewsReceiver* receiver);
 
-    // Real-time distribution: a symbol with an empty code stands for the whole service. `view` has been attached.
+    // Real-time distribution: a symbol with an empty code stands for the whole service. `view` has been
+    // attached.
     virtual void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                                  const std::vector<CSymbolInfo>& removed);
     // Ends all registrations of `view`.
     virtual void UnregisterSymbols(NewsReceiver* view);
 
-    // --- Services --------------------------------------------------------------------------------------------
+    // --- Services
+    // --------------------------------------------------------------------------------------------
 
     // Fills `services` with the ids of the news services, in the order in which lists and menus show them.
     // False, and `services` empty, when there are none.
@@ -68,11 +71,12 @@ public:
     // 1 while the back end is connected to its source; pushed headlines are ignored otherwise.
     virtual int bIsConnect() = 0;
 
-    // --- Headlines and stories ---------------------------------------------------------------------------------
+    // --- Headlines and stories
+    // ---------------------------------------------------------------------------------
 
-    // Appends the table of `service` for a symbol, or of a kind for a key (yyyymmdd, category id text, "SEARCH"),
-    // to `table`. Result: how many entries were appended. Entries may come in any order; tables that come newest
-    // first are merged without being sorted again.
+    // Appends the table of `service` for a symbol, or of a kind for a key (yyyymmdd, category id text,
+    // "SEARCH"), to `table`. Result: how many entries were appended. Entries may come in any order; tables
+    // that come newest first are merged without being sorted again.
     virtual int BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>& table, unsigned char service,
                                           const CSymbolInfo& symbol);
     virtual int BKQNEWS_iGetHeadlineTable(unsigned char service, std::vector<CHeadlineTable>& table, int kind,
@@ -86,10 +90,11 @@ public:
     // The symbols related to a headline. False, and `symbols` unchanged, when they are not at hand.
     virtual bool BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& symbols, const CHeadlineTable& entry);
 
-    // --- Texts -----------------------------------------------------------------------------------------------
+    // --- Texts
+    // -----------------------------------------------------------------------------------------------
 
-    // The display text of a language key in the language in force; the key itself when there is none. The default
-    // asks the translators that the application has installed.
+    // The display text of a language key in the language in force; the key itself when there is none. The
+    // default asks the translators that the application has installed.
     virtual QString LangGetLangString(const QString& key);
     // True when texts of `service` are shown converted to simplified characters.
     virtual bool LangIsConvertToSimplified(const unsigned char& service);

@@ -30,7 +30,8 @@ std::optional<qlonglong> wholeNumber(const QVariant& value) {
 template <class Number>
 bool readNumber(const QVariant& stored, Number& value) {
     const auto number = wholeNumber(stored);
-    if (!number || *number < std::numeric_limits<Number>::min() || *number > std::numeric_limits<Number>::max())
+    if (!number || *number < std::numeric_limits<Number>::min() ||
+        *number > std::numeric_limits<Number>::max())
         return false;
     value = static_cast<Number>(*number);
     return true;

@@ -10,13 +10,13 @@
 // Where a view's settings stand in the host's layout store.
 struct ViewSettingPath {
     QString section;
-    int first = 0;   // the host's two layout numbers
+    int first = 0;  // the host's two layout numbers
     int second = 0;
     QString viewKey;  // the class of the view, such as "TRVNewsCtrlView"
 };
 
-// The host's store of per-view settings. A value is a boolean, an integer, a text or a list of texts. Interface
-// thread only.
+// The host's store of per-view settings. A value is a boolean, an integer, a text or a list of texts.
+// Interface thread only.
 class TRVCfgIO2 {
 public:
     TRVCfgIO2() = default;

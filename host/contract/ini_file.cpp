@@ -23,7 +23,8 @@ QString entryName(const QString& section, const QString& key) {
 }
 
 QString unquoted(const QString& value) {
-    if (value.size() >= 2 && value.front() == value.back() && (value.front() == u'"' || value.front() == u'\''))
+    if (value.size() >= 2 && value.front() == value.back() &&
+        (value.front() == u'"' || value.front() == u'\''))
         return value.mid(1, value.size() - 2);
     return value;
 }

@@ -13,8 +13,8 @@ class NewsReceiver {
 public:
     virtual ~NewsReceiver() = default;
 
-    // A headline has been published. `categoryId` is the decimal text of its category, `symbolCode` the code of
-    // its main symbol (empty: none).
+    // A headline has been published. `categoryId` is the decimal text of its category, `symbolCode` the code
+    // of its main symbol (empty: none).
     virtual void RecvNewHeadLine(const CHeadline*, const QString& categoryId, const QString& symbolCode);
     // The headlines of these entries can be had now.
     virtual void RespHeadLine(const std::vector<CHeadlineTable>&);

@@ -36,13 +36,15 @@ struct CHeadline {
     unsigned char service = 0;
     std::int64_t time = 0;  // seconds since 1970, UTC
     std::int32_t sequence = 0;
-    QString title;             // plain text, never markup
-    std::uint16_t flags = 0;   // the back end's own; the module does not read it
+    QString title;            // plain text, never markup
+    std::uint16_t flags = 0;  // the back end's own; the module does not read it
     std::int32_t categoryId = 0;
     std::uint64_t reserved = 0;  // the back end's own; the module does not read it
 };
 
-inline HeadlineKey KeyOf(const CHeadlineTable& entry) { return {entry.time, entry.sequence, entry.service}; }
+inline HeadlineKey KeyOf(const CHeadlineTable& entry) {
+    return {entry.time, entry.sequence, entry.service};
+}
 inline HeadlineKey KeyOf(const CHeadline& headline) {
     return {headline.time, headline.sequence, headline.service};
 }

@@ -12,9 +12,9 @@
 // A search condition. The keywords keep their order of insertion and never repeat.
 struct CSearch {
     std::vector<QString> keywords;
-    unsigned char scope = 0;   // 0 headlines, 1 stories, 2 headlines and stories
-    unsigned char method = 0;  // 0 not set, 1 all keywords must match, 2 any keyword may match
-    std::int64_t time = 0;     // when it was composed, seconds since 1970; not part of equality
+    unsigned char scope = 0;           // 0 headlines, 1 stories, 2 headlines and stories
+    unsigned char method = 0;          // 0 not set, 1 all keywords must match, 2 any keyword may match
+    std::int64_t time = 0;             // when it was composed, seconds since 1970; not part of equality
     std::vector<CSymbolInfo> symbols;  // narrows the search to stories of these symbols; empty: no narrowing
     bool keywordSearch = false;        // true: a shown story has the keywords marked
 };

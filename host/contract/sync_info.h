@@ -15,7 +15,8 @@ public:
     CSyncInfo& operator=(const CSyncInfo&) = delete;
     virtual ~CSyncInfo();  // uninstalls itself when it is the installed one
 
-    // The installed settings; one with all the defaults before a host installs its own. Never null, not owned.
+    // The installed settings; one with all the defaults before a host installs its own. Never null, not
+    // owned.
     static CSyncInfo* GetSettingCFG();
     // Installs the settings of this process; null goes back to the defaults. The host keeps ownership.
     static void SetSettingCFG(CSyncInfo* settings);

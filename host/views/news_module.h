@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/records.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
 #include <QtPlugin>
-
-#include "host/contract/records.h"
 
 class CSuperSheetWnd;
 class QWidget;
@@ -21,22 +21,27 @@ public:
     // The names of the view classes that CreateView knows, such as "TRVNewsCtrlView".
     virtual QStringList ViewClasses() const = 0;
 
-    // Creates a view by the name of its class as a child of `parent`, which owns it; null for an unknown name.
-    // The caller then calls OnInitialUpdate and InitialViewInfo, in this order, once each. A back end must have
-    // been installed (BKQuoteInterface::SetBKInterface) before.
+    // Creates a view by the name of its class as a child of `parent`, which owns it; null for an unknown
+    // name. The caller then calls OnInitialUpdate and InitialViewInfo, in this order, once each. A back end
+    // must have been installed (BKQuoteInterface::SetBKInterface) before.
     virtual TRVQuoteBaseView* CreateView(const QString& className, QWidget* parent) = 0;
 };
 
 #define WIREPANE_NEWS_MODULE_IID "wirepane.NewsModule/1"
 Q_DECLARE_INTERFACE(NewsModule, WIREPANE_NEWS_MODULE_IID)
 
-// What scripts and tests may look at in a news view; a view that offers it implements it beside its base class.
-class NewsViewInspection {
+// What a terminal and its scripts can do with a news view beyond what any view offers. A news view implements
+// it beside its base class: dynamic_cast from TRVQuoteBaseView.
+class NewsViewAccess {
 public:
-    virtual ~NewsViewInspection() = default;
+    virtual ~NewsViewAccess() = default;
 
-    // The view's own state under the names of the automation interface (mode, newsType, services, ...), without
-    // its controls, which are found by number.
+    // 0: with an embedded story pane; 1: two columns, no pane; 2: symbol news only; 3: no pane, no page
+    // buttons. Set it before InitialViewInfo.
+    virtual void vSetNewsType(int newsType) = 0;
+
+    // The view's own state under the names of the automation interface (mode, newsType, services, ...),
+    // without its controls, which are found by number.
     virtual QVariantMap State() const = 0;
     // The grid of headline list 0..6; null when the list has none.
     virtual CSuperSheetWnd* Sheet(int list) const = 0;
@@ -44,6 +49,6 @@ public:
     virtual std::vector<HeadlineKey> Keys(int list, int from, int count) const = 0;
 };
 
-// Loads the module from a file. Null when that fails; `error` then says why, in a sentence with the file's name.
-// The module stays loaded until the process ends.
+// Loads the module from a file. Null when that fails; `error` then says why, in a sentence with the file's
+// name. The module stays loaded until the process ends.
 NewsModule* LoadNewsModule(const QString& file, QString& error);

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/views/quote_base_view.h"
+
+#include "host/contract/bk_quote_interface.h"
+
+TRVQuoteBaseView::TRVQuoteBaseView(QWidget* parent) : RVComVirtualBaseView(parent) {}
+
+TRVQuoteBaseView::~TRVQuoteBaseView() {
+    if (auto* backEnd = BKQuoteInterface::GetBKInterface())
+        backEnd->Detach(this);
+}
+
+void TRVQuoteBaseView::OnInitialUpdate() {
+    RVComVirtualBaseView::OnInitialUpdate();
+    if (auto* backEnd = BKQuoteInterface::GetBKInterface())
+        backEnd->Attach(this);
+}
+
+void TRVQuoteBaseView::InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
+                                       const QString& name) {
+    settingsReader = reader;
+    settingsPath = {section, first, second, name};
+}
+
+void TRVQuoteBaseView::SaveViewInfo(TRVCfgIO2*, const QString&, int, int) {}
+
+void TRVQuoteBaseView::ChangeActiveApp(int) {}
+
+void TRVQuoteBaseView::ChangeSymbol(const QWidget*, unsigned char, unsigned char service, const QString& code,
+                                    const QString&) {
+    baseSymbol = {service, code};
+}
+
+int TRVQuoteBaseView::GetCurrSymbolInfo(unsigned char& service, QString& code) {
+    service = baseSymbol.market;
+    code = baseSymbol.code;
+    return code.isEmpty() ? 0 : 1;
+}
+
+void TRVQuoteBaseView::vReRegisterSymbols() {}
+
+void TRVQuoteBaseView::vUnregisterViewSymbol() {}
+
+int TRVQuoteBaseView::bIsAuthService(unsigned char service) {
+    auto* backEnd = BKQuoteInterface::GetBKInterface();
+    return backEnd != nullptr && backEnd->BKQCheckAuthSupport(service) != 0 ? 1 : 0;
+}
+
+void C_RegisterSymbol(TRVQuoteBaseView* view, const std::vector<CSymbolInfo>& added,
+                      const std::vector<CSymbolInfo>& removed) {
+    if (auto* backEnd = BKQuoteInterface::GetBKInterface())
+        backEnd->RegisterSymbols(view, added, removed);
+}
+
+void C_UnRegisterSymbol(TRVQuoteBaseView* view) {
+    if (auto* backEnd = BKQuoteInterface::GetBKInterface())
+        backEnd->UnregisterSymbols(view);
+}

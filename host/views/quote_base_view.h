@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/cfg_io.h"
+#include "host/contract/news_receiver.h"
+#include "host/views/com_virtual_base_view.h"
+
+#include <vector>
+
+// Whether a view has something to show.
+enum class DataState : int { Normal = 0, NotSupported = 1 };
+
+// A view of quotes or news: it hears the back end, has a current symbol and a link group, and keeps settings.
+// It attaches itself to the installed back end in OnInitialUpdate and detaches when it is destroyed.
+class TRVQuoteBaseView : public RVComVirtualBaseView, public NewsReceiver {
+    Q_OBJECT
+
+public:
+    explicit TRVQuoteBaseView(QWidget* parent = nullptr);
+    ~TRVQuoteBaseView() override;
+
+    void OnInitialUpdate() override;
+
+    // The host hands the view its settings: where they are read from, the section, the host's two layout
+    // numbers and the view's name. Once per view, after OnInitialUpdate.
+    virtual void InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
+                                 const QString& name);
+    // The host saves its layout: the view writes its settings to the same place.
+    virtual void SaveViewInfo(TRVCfgIO2* writer, const QString& section, int first, int second);
+
+    // The application has become active (non-zero) or inactive.
+    virtual void ChangeActiveApp(int active);
+
+    // A symbol change by the host or by a linked view; `sender` is null when it comes from the host.
+    virtual void ChangeSymbol(const QWidget* sender, unsigned char group, unsigned char service,
+                              const QString& code, const QString& name);
+    // The symbol that other views may take from this one.
+    virtual int GetCurrSymbolInfo(unsigned char& service, QString& code);
+    // Quote registrations: made again after a reconnection, ended while the view is not shown.
+    virtual void vReRegisterSymbols();
+    virtual void vUnregisterViewSymbol();
+
+    // Views of one link group follow one symbol; 0: not linked.
+    void vSetLinkGroup(unsigned char group) { linkGroup = group; }
+    unsigned char GetLinkGroup() const { return linkGroup; }
+
+    // What kind of view the host made of the class; set before InitialViewInfo.
+    void vSetTypeName(const QString& name) { typeName = name; }
+    const QString& cszGetTypeName() const { return typeName; }
+
+    DataState GetDataState() const { return dataState; }
+
+    // 1 when the user may see this service.
+    static int bIsAuthService(unsigned char service);
+
+signals:
+    // The user has chosen a symbol here that the views of `group` shall follow.
+    void SendChangeSymbol(unsigned char group, unsigned char service, const QString& code);
+
+protected:
+    void vSetDataState(DataState state) { dataState = state; }
+    void vSetBaseSymbol(const CSymbolInfo& symbol) { baseSymbol = symbol; }
+
+    // Where the settings stand and who reads them; valid from InitialViewInfo on. The reader is the host's.
+    TRVCfgIO2* settingsReader = nullptr;
+    ViewSettingPath settingsPath;
+
+private:
+    CSymbolInfo baseSymbol;
+    QString typeName;
+    unsigned char linkGroup = 0;
+    DataState dataState = DataState::Normal;
+};
+
+// Real-time distribution by the installed back end; without one nothing happens.
+void C_RegisterSymbol(TRVQuoteBaseView* view, const std::vector<CSymbolInfo>& added,
+                      const std::vector<CSymbolInfo>& removed);
+void C_UnRegisterSymbol(TRVQuoteBaseView* view);
