@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/sheet_builder.h"
+
+#include <QBrush>
+
+#include <algorithm>
+
+QColor SheetCells::TextColour(int /*row*/, int /*column*/) const {
+    return {};
+}
+
+CSheetBuilder::CSheetBuilder(QObject* parent) : QAbstractTableModel(parent) {}
+
+bool CSheetBuilder::hasColumn(int column) const {
+    return column >= 0 && column < static_cast<int>(columns.size());
+}
+
+void CSheetBuilder::vInsertColumn(int width, Qt::Alignment alignment) {
+    const int end = static_cast<int>(columns.size());
+    beginInsertColumns({}, end, end);
+    columns.push_back({std::max(0, width), alignment, {}});
+    endInsertColumns();
+}
+
+void CSheetBuilder::vSetHeaderText(int column, const QString& text) {
+    if (!hasColumn(column))
+        return;
+    columns[column].header = text;
+    emit headerDataChanged(Qt::Horizontal, column, column);
+}
+
+int CSheetBuilder::iGetInitialWidth(int column) const {
+    return hasColumn(column) ? columns[column].width : 0;
+}
+
+void CSheetBuilder::vSetCells(const SheetCells* cells) {
+    source = cells;
+    if (rows > 0 && !columns.empty())
+        emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
+}
+
+void CSheetBuilder::vSetRowCount(int count) {
+    count = std::max(0, count);
+    if (count == 0 && rows == 0)
+        return;
+    beginResetModel();
+    rows = count;
+    endResetModel();
+}
+
+void CSheetBuilder::vInsertRows(int row, int count) {
+    if (count <= 0 || row < 0 || row > rows)
+        return;
+    beginInsertRows({}, row, row + count - 1);
+    rows += count;
+    endInsertRows();
+}
+
+void CSheetBuilder::vRemoveRows(int row, int count) {
+    if (count <= 0 || row < 0 || count > rows - row)
+        return;
+    beginRemoveRows({}, row, row + count - 1);
+    rows -= count;
+    endRemoveRows();
+}
+
+void CSheetBuilder::vRowWritten(int row) {
+    if (row >= 0 && row < rows && !columns.empty())
+        emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+}
+
+int CSheetBuilder::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows;
+}
+
+int CSheetBuilder::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(columns.size());
+}
+
+QVariant CSheetBuilder::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(columns[index.column()].alignment);
+    if (source == nullptr)
+        return {};
+    if (role == Qt::DisplayRole)
+        return source->Text(index.row(), index.column());
+    if (role == Qt::ForegroundRole) {
+        const QColor colour = source->TextColour(index.row(), index.column());
+        return colour.isValid() ? QVariant(QBrush(colour)) : QVariant();
+    }
+    return {};
+}
+
+QVariant CSheetBuilder::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || !hasColumn(section))
+        return {};
+    if (role == Qt::DisplayRole)
+        return columns[section].header;
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(columns[section].alignment);
+    return {};
+}
+
+Qt::ItemFlags CSheetBuilder::flags(const QModelIndex& index) const {
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+}

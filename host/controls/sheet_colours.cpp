@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/sheet_colours.h"
+
+namespace {
+
+QColor chosen(const QColor& own, const QColor& other) {
+    return own.isValid() ? own : other;
+}
+
+// `share` parts of 100 of `over` on `under`: text stays readable on it in its usual colour.
+QColor mixed(const QColor& over, const QColor& under, int share) {
+    const auto part = [share](int a, int b) { return (a * share + b * (100 - share)) / 100; };
+    return {part(over.red(), under.red()), part(over.green(), under.green()),
+            part(over.blue(), under.blue())};
+}
+
+}  // namespace
+
+QColor SheetColours::RowBackground(bool odd, const QPalette& palette) const {
+    return odd ? chosen(oddRow, palette.color(QPalette::AlternateBase))
+               : chosen(evenRow, palette.color(QPalette::Base));
+}
+
+QColor SheetColours::MarkBackground(bool hasFocus, const QPalette& palette) const {
+    const QColor row = RowBackground(false, palette);
+    if (hasFocus)
+        return chosen(focused, mixed(palette.color(QPalette::Active, QPalette::Highlight), row, 28));
+    return chosen(unfocused, mixed(Text(palette), row, 14));
+}
+
+QColor SheetColours::Text(const QPalette& palette) const {
+    return chosen(text, palette.color(QPalette::Text));
+}

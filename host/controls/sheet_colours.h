@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+// The colours of a sheet's rows. A colour that was not set (invalid) follows the palette, so a sheet without
+// colours of its own fits a light and a dark scheme.
+struct SheetColours {
+    QColor evenRow;
+    QColor oddRow;
+    QColor text;
+    QColor focused;    // the marking of rows while the sheet has the keyboard
+    QColor unfocused;  // and while it has not
+    bool marking = true;
+
+    QColor RowBackground(bool odd, const QPalette& palette) const;
+    QColor MarkBackground(bool hasFocus, const QPalette& palette) const;
+    QColor Text(const QPalette& palette) const;
+};

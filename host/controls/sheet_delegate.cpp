@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/sheet_delegate.h"
+
+#include <QAbstractItemView>
+#include <QPainter>
+
+SheetDelegate::SheetDelegate(QAbstractItemView* sheet) : QStyledItemDelegate(sheet), view(sheet) {}
+
+QColor SheetDelegate::background(const QModelIndex& index, bool selected) const {
+    const bool current = colours.marking && view->currentIndex().row() == index.row();
+    if (selected || current)
+        return colours.MarkBackground(view->hasFocus(), view->palette());
+    return colours.RowBackground((index.row() % 2 == 1) != firstRowOdd, view->palette());
+}
+
+void SheetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const {
+    painter->fillRect(option.rect, background(index, option.state.testFlag(QStyle::State_Selected)));
+    const QString text = index.data(Qt::DisplayRole).toString();
+    if (text.isEmpty())
+        return;
+    const QVariant own = index.data(Qt::ForegroundRole);
+    const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
+    const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+    painter->setFont(option.font);
+    painter->setPen(own.isValid() ? own.value<QBrush>().color() : colours.Text(view->palette()));
+    painter->drawText(room, static_cast<int>(alignment) | Qt::TextSingleLine,
+                      option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
+}
+
+QSize SheetDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const QString text = index.data(Qt::DisplayRole).toString();
+    return {option.fontMetrics.horizontalAdvance(text) + 2 * margin + 1, option.fontMetrics.height()};
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/sheet_header.h"
+
+#include "host/controls/sheet_delegate.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+SheetHeader::SheetHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+    setSectionsClickable(false);
+    setHighlightSections(false);
+    setSectionResizeMode(QHeaderView::Interactive);
+    setMinimumSectionSize(1);
+}
+
+QColor SheetHeader::shownBackground() const {
+    return background.isValid() ? background : palette().color(QPalette::Button);
+}
+
+QColor SheetHeader::shownText() const {
+    return text.isValid() ? text : palette().color(QPalette::ButtonText);
+}
+
+void SheetHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
+    if (!rect.isValid())
+        return;
+    QColor line = shownText();
+    line.setAlpha(60);
+    painter->fillRect(rect, shownBackground());
+    painter->fillRect(QRect(rect.right(), rect.top() + 3, 1, rect.height() - 6), line);
+    painter->fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), line);
+    const QRect room = rect.adjusted(SheetDelegate::margin, 0, -SheetDelegate::margin, -1);
+    const QVariant alignment = model()->headerData(logicalIndex, Qt::Horizontal, Qt::TextAlignmentRole);
+    const QString caption = model()->headerData(logicalIndex, Qt::Horizontal, Qt::DisplayRole).toString();
+    painter->setPen(shownText());
+    painter->drawText(room, static_cast<int>(alignment.value<Qt::Alignment>()) | Qt::TextSingleLine,
+                      fontMetrics().elidedText(caption, Qt::ElideRight, room.width()));
+}
+
+void SheetHeader::paintEvent(QPaintEvent* event) {
+    QHeaderView::paintEvent(event);
+    // The base fills what is right of the last section from the style: keep the row in one colour.
+    const int end = length() - offset();
+    if (end < viewport()->width())
+        QPainter(viewport()).fillRect(QRect(end, 0, viewport()->width() - end, height()), shownBackground());
+}

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHeaderView>
+
+// The header row of a sheet: flat, one line of plain text per column, lined up with the cells below. Colours
+// that were not set (invalid) follow the palette's buttons.
+class SheetHeader : public QHeaderView {
+public:
+    explicit SheetHeader(QWidget* parent);
+
+    QColor background;
+    QColor text;
+
+protected:
+    void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor shownBackground() const;
+    QColor shownText() const;
+};

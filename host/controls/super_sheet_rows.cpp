@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// The rows of a sheet: which of them are on screen, selected and current, and in which colours.
+#include "host/controls/sheet_delegate.h"
+#include "host/controls/sheet_header.h"
+#include "host/controls/super_sheet_wnd.h"
+
+#include <QFocusEvent>
+#include <QHeaderView>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <utility>
+
+void CSuperSheetWnd::vResetScroll() {
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(0);
+    horizontalScrollBar()->setValue(0);
+}
+
+void CSuperSheetWnd::vAutoVerScrolling(int row) {
+    if (row < 0 || row >= iGetRowCount())
+        return;
+    executeDelayedItemsLayout();
+    const int first = iGetFirstVisibleRow();
+    const int page = std::max(1, iGetRowsPerPage());
+    if (row < first)
+        verticalScrollBar()->setValue(row);
+    else if (row >= first + page)
+        verticalScrollBar()->setValue(row - page + 1);
+}
+
+void CSuperSheetWnd::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    if (hint == EnsureVisible)
+        vAutoVerScrolling(index.row());
+    else
+        QTableView::scrollTo(index, hint);
+}
+
+int CSuperSheetWnd::iGetFirstVisibleRow() const {
+    // With rows of one height, scrolled by the row, the bar's value is the row: asking the header would walk
+    // it.
+    return std::clamp(verticalScrollBar()->value(), 0, std::max(0, iGetRowCount() - 1));
+}
+
+int CSuperSheetWnd::iGetRowsPerPage() const {
+    return viewport()->height() / verticalHeader()->defaultSectionSize();
+}
+
+int CSuperSheetWnd::iCalcRowNdx(const QPoint& client) const {
+    const QPoint point = viewport()->mapFrom(this, client);
+    if (!viewport()->rect().contains(point))
+        return -1;
+    const int row = iGetFirstVisibleRow() + point.y() / verticalHeader()->defaultSectionSize();
+    return row < iGetRowCount() ? row : -1;
+}
+
+bool CSuperSheetWnd::bHasFocus() const {
+    return hasFocus();
+}
+
+QPoint CSuperSheetWnd::cptGetFocusNdx() const {
+    const QModelIndex current = currentIndex();
+    return {current.column(), current.row()};
+}
+
+void CSuperSheetWnd::vGetAllSelectionNdx(std::vector<int>& rows) const {
+    rows.clear();
+    if (selectionModel() == nullptr)
+        return;
+    std::vector<std::pair<int, int>> ranges;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        ranges.emplace_back(range.top(), range.bottom());
+    std::sort(ranges.begin(), ranges.end());
+    for (const auto& [top, bottom] : ranges) {
+        for (int row = rows.empty() ? top : std::max(top, rows.back() + 1); row <= bottom; ++row)
+            rows.push_back(row);
+    }
+}
+
+void CSuperSheetWnd::vSetActiveSelection(int row, int column) {
+    const auto first = std::find_if(widths.begin(), widths.end(), [](int width) { return width > 0; });
+    const int shown = column >= 0 ? column : static_cast<int>(first - widths.begin());
+    if (row < 0 || row >= iGetRowCount() || !hasColumn(shown) || selectionModel() == nullptr)
+        return;
+    const bool scrolls = hasAutoScroll();
+    setAutoScroll(false);
+    selectionModel()->setCurrentIndex(builder->index(row, shown),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    setAutoScroll(scrolls);
+}
+
+void CSuperSheetWnd::vClearSelection() {
+    if (selectionModel() != nullptr)
+        selectionModel()->clear();
+}
+
+void CSuperSheetWnd::keyboardSearch(const QString& /*search*/) {
+    // A typed letter would be looked for in every row of the table.
+}
+
+QModelIndex CSuperSheetWnd::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const QModelIndex current = currentIndex();
+    if (iGetRowCount() == 0 || !current.isValid())
+        return QTableView::moveCursor(action, modifiers);
+    // A row is selected as a whole: left and right scroll, home and end go to the first and last row.
+    switch (action) {
+        case MoveLeft:
+            horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepSub);
+            return current;
+        case MoveRight:
+            horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
+            return current;
+        case MoveHome:
+            return current.siblingAtRow(0);
+        case MoveEnd:
+            return builder->index(iGetRowCount() - 1, current.column());
+        default:
+            return QTableView::moveCursor(action, modifiers);
+    }
+}
+
+void CSuperSheetWnd::focusInEvent(QFocusEvent* event) {
+    if (currentIndex().isValid()) {
+        QTableView::focusInEvent(event);
+        return;
+    }
+    // The item view would make row 0 current, though the user chose none.
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+void CSuperSheetWnd::vSetHeaderRowBkColor(const QColor& colour) {
+    header->background = colour;
+    header->viewport()->update();
+}
+
+void CSuperSheetWnd::vSetHeaderRowFgColor(const QColor& colour) {
+    header->text = colour;
+    header->viewport()->update();
+}
+
+void CSuperSheetWnd::vSetFrameColor(const QColor& colour) {
+    frameColour = colour;
+    update();
+}
+
+void CSuperSheetWnd::vSetBkColor(const QColor& first, const QColor& second) {
+    delegate->colours.evenRow = first;
+    delegate->colours.oddRow = second;
+    QPalette below;
+    if (first.isValid())
+        below.setColor(QPalette::Base, first);
+    viewport()->setPalette(below);
+    viewport()->update();
+}
+
+void CSuperSheetWnd::vSetFocusColor(bool marking, const QColor& focused, const QColor& unfocused) {
+    delegate->colours.marking = marking;
+    delegate->colours.focused = focused;
+    delegate->colours.unfocused = unfocused;
+    viewport()->update();
+}
+
+void CSuperSheetWnd::vSetFgColor(const QColor& colour) {
+    delegate->colours.text = colour;
+    viewport()->update();
+}
+
+void CSuperSheetWnd::vSetFont(const QFont& font) {
+    setFont(font);
+    header->setFont(font);
+}

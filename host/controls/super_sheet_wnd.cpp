@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/super_sheet_wnd.h"
+
+#include "host/controls/registered_message.h"
+#include "host/controls/sheet_delegate.h"
+#include "host/controls/sheet_header.h"
+#include "host/controls/thin_bar_style.h"
+
+#include <QHeaderView>
+#include <QResizeEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+CSuperSheetWnd::CSuperSheetWnd(CSheetBuilder* sheetBuilder, QWidget* parent)
+    : QTableView(parent),
+      builder(sheetBuilder),
+      delegate(new SheetDelegate(this)),
+      header(new SheetHeader(this)) {
+    if (builder != nullptr)
+        builder->setParent(this);
+    setItemDelegate(delegate);
+    setHorizontalHeader(header);
+    // Per row work in the header is what makes many rows dear: one fixed height, nothing measured.
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->hide();
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setShowGrid(false);
+    setWordWrap(false);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    connect(header, &QHeaderView::sectionResized, this,
+            [this](int column, int, int size) { sectionResized(column, size); });
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &CSuperSheetWnd::ScrolledVertically);
+    applyHeights();
+}
+
+bool CSuperSheetWnd::bCreateSheet() {
+    if (builder == nullptr)
+        return false;
+    if (model() == builder)
+        return true;
+    setModel(builder);
+    connectRows();
+    columnsInserted(0, builder->columnCount() - 1);
+    return true;
+}
+
+void CSuperSheetWnd::connectRows() {
+    connect(builder, &QAbstractItemModel::columnsInserted, this,
+            [this](const QModelIndex&, int first, int last) { columnsInserted(first, last); });
+    connect(builder, &QAbstractItemModel::modelReset, this, [this] {
+        vResetRowBkColor();
+        verticalScrollBar()->setValue(0);
+    });
+    const auto keepColours = [this](const QModelIndex&, int first, int last) {
+        keepRowColours(first, last - first + 1);
+    };
+    connect(builder, &QAbstractItemModel::rowsInserted, this, keepColours);
+    connect(builder, &QAbstractItemModel::rowsRemoved, this, keepColours);
+}
+
+void CSuperSheetWnd::vSetThinBar(bool thin) {
+    auto* style = findChild<ThinBarStyle*>(QString(), Qt::FindDirectChildrenOnly);
+    if (thin && style == nullptr)
+        style = new ThinBarStyle(this);
+    for (QScrollBar* bar : {verticalScrollBar(), horizontalScrollBar()})
+        bar->setStyle(thin ? style : nullptr);
+    updateGeometries();
+}
+
+void CSuperSheetWnd::vSetSmoothHorizontalScroll(bool smooth) {
+    setHorizontalScrollMode(smooth ? QAbstractItemView::ScrollPerPixel : QAbstractItemView::ScrollPerItem);
+}
+
+void CSuperSheetWnd::vSetHeaderRowHeight(int height) {
+    headerHeight = std::max(1, height);
+    applyHeights();
+}
+
+void CSuperSheetWnd::vSetRowHeight(int height) {
+    rowHeight = std::max(1, height);
+    applyHeights();
+}
+
+int CSuperSheetWnd::heightFor(int height) const {
+    const int fontHeight = fontMetrics().height();
+    return fontHeight > height ? fontHeight + 2 : height;
+}
+
+void CSuperSheetWnd::applyHeights() {
+    header->setFixedHeight(heightFor(headerHeight));
+    verticalHeader()->setDefaultSectionSize(heightFor(rowHeight));
+    updateGeometries();
+}
+
+bool CSuperSheetWnd::hasColumn(int column) const {
+    return column >= 0 && column < static_cast<int>(widths.size());
+}
+
+void CSuperSheetWnd::vInsertColumn(int width, Qt::Alignment alignment) {
+    if (builder != nullptr)
+        builder->vInsertColumn(width, alignment);
+}
+
+void CSuperSheetWnd::columnsInserted(int first, int last) {
+    for (int column = first; column <= last; ++column) {
+        widths.insert(widths.begin() + column, 0);
+        vSetColWidth(column, builder->iGetInitialWidth(column));
+    }
+}
+
+void CSuperSheetWnd::vSetHeaderText(int column, const QString& text) {
+    if (builder == nullptr)
+        return;
+    const bool named = accessibleName() != headerTexts();
+    builder->vSetHeaderText(column, text);
+    if (!named)
+        setAccessibleName(headerTexts());
+}
+
+QString CSuperSheetWnd::headerTexts() const {
+    QStringList texts;
+    for (int column = 0; column < builder->columnCount(); ++column)
+        texts << builder->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral(", "));
+}
+
+void CSuperSheetWnd::vSetColWidth(int column, int width) {
+    if (!hasColumn(column) || width < 0)
+        return;
+    widths[column] = width;
+    stretching = true;
+    setColumnHidden(column, width == 0);
+    if (width > 0)
+        setColumnWidth(column, width);
+    stretching = false;
+    stretchLastColumn();
+}
+
+int CSuperSheetWnd::iGetColWidth(int column) const {
+    return hasColumn(column) ? columnWidth(column) : 0;
+}
+
+void CSuperSheetWnd::sectionResized(int column, int size) {
+    if (stretching || !hasColumn(column) || size == 0)
+        return;
+    widths[column] = size;
+    stretchLastColumn();
+}
+
+void CSuperSheetWnd::stretchLastColumn() {
+    const auto shown = std::find_if(widths.rbegin(), widths.rend(), [](int width) { return width > 0; });
+    if (shown == widths.rend() || stretching)
+        return;
+    const int last = static_cast<int>(widths.rend() - shown) - 1;
+    stretching = true;
+    int others = 0;
+    for (int column = 0; column < last; ++column) {
+        others += widths[column];
+        setColumnWidth(column, widths[column]);
+    }
+    setColumnWidth(last, std::max(widths[last], viewport()->width() - others));
+    stretching = false;
+}
+
+void CSuperSheetWnd::vSetCells(const SheetCells* cells) {
+    if (builder != nullptr)
+        builder->vSetCells(cells);
+}
+
+void CSuperSheetWnd::vAddRows(int count) {
+    if (builder != nullptr)
+        builder->vInsertRows(builder->iGetRowCount(), count);
+}
+
+void CSuperSheetWnd::vClearRows() {
+    if (builder != nullptr)
+        builder->vSetRowCount(0);
+}
+
+int CSuperSheetWnd::iGetRowCount() const {
+    return builder != nullptr ? builder->iGetRowCount() : 0;
+}
+
+void CSuperSheetWnd::vInvalidateRow(int row) {
+    if (builder != nullptr)
+        builder->vRowWritten(row);
+}
+
+void CSuperSheetWnd::vResetRowBkColor() {
+    if (!delegate->firstRowOdd)
+        return;
+    delegate->firstRowOdd = false;
+    viewport()->update();
+}
+
+void CSuperSheetWnd::keepRowColours(int firstRow, int count) {
+    if (builder->iGetRowCount() == 0 || (firstRow == 0 && builder->iGetRowCount() == count))
+        vResetRowBkColor();
+    else if (firstRow == 0 && count % 2 == 1)
+        delegate->firstRowOdd = !delegate->firstRowOdd;
+}
+
+void CSuperSheetWnd::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    stretchLastColumn();
+    if (size() == toldSize)
+        return;  // only a scroll bar came or went
+    toldSize = size();
+    SendRegisteredMessage(parentWidget(), RegisterMessage(QStringLiteral("RVMSG_CHANGESIZE")),
+                          reinterpret_cast<quintptr>(this));
+}
+
+void CSuperSheetWnd::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        applyHeights();
+}
+
+void CSuperSheetWnd::initStyleOption(QStyleOptionFrame* option) const {
+    QTableView::initStyleOption(option);
+    if (frameColour.isValid())
+        option->palette.setColor(QPalette::WindowText, frameColour);
+}

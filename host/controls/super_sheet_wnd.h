@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/controls/sheet_builder.h"
+
+#include <QTableView>
+
+#include <vector>
+
+class SheetDelegate;
+class SheetHeader;
+
+// A grid of rows of one height under a header row: rows are selected whole (also several, with Shift and
+// Ctrl), and drawn only while on screen, so that a million of them cost as much as a page. Rows and columns
+// count from 0; sizes are pixels; a row or column out of range is ignored. A builder that starts over
+// (vSetRowCount, vClearRows) leaves no selection and no current row, and the sheet at its top. Where no
+// colour is set the palette's are used. Interface thread.
+//
+// Tells its parent by the registered message "RVMSG_CHANGESIZE" that its size changed; the first parameter is
+// this sheet.
+class CSuperSheetWnd : public QTableView {
+    Q_OBJECT
+
+public:
+    // Takes the builder over. It may be null: bCreateSheet then fails, and the sheet stays without rows.
+    CSuperSheetWnd(CSheetBuilder* builder, QWidget* parent);
+
+    // Puts the sheet over its builder. False without a builder.
+    bool bCreateSheet();
+    // Narrow scroll bars without arrows.
+    void vSetThinBar(bool thin);
+    // Horizontal scrolling by the pixel instead of by the column.
+    void vSetSmoothHorizontalScroll(bool smooth);
+    // Heights are exact, except that they grow to the font's height + 2 where the font is taller.
+    void vSetHeaderRowHeight(int height);
+    void vSetRowHeight(int height);
+
+    // Columns are cut at their width; the last one is stretched to the sheet's right edge when there is room.
+    // The user can resize them.
+    void vInsertColumn(int width, Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter);
+    // The header texts are the sheet's accessible name, until another one is set.
+    void vSetHeaderText(int column, const QString& text);
+    // A width of 0 takes the column out of sight, and out of the user's reach.
+    void vSetColWidth(int column, int width);
+    // The width on screen, with what the last column was stretched by.
+    int iGetColWidth(int column) const;
+
+    // The source of the cells, as CSheetBuilder::vSetCells.
+    void vSetCells(const SheetCells* cells);
+    // Appends empty rows.
+    void vAddRows(int count);
+    void vClearRows();
+    int iGetRowCount() const;
+    // The cells of a row have been written: it is drawn again.
+    void vInvalidateRow(int row);
+    // Row 0 has the first row colour again. (A row keeps its colour while rows come and go above the others.)
+    void vResetRowBkColor();
+
+    // To the first row and the left edge.
+    void vResetScroll();
+    // Scrolls no further than brings the row fully into sight.
+    void vAutoVerScrolling(int row);
+    // 0 also when there are no rows.
+    int iGetFirstVisibleRow() const;
+    // The number of whole rows that fit.
+    int iGetRowsPerPage() const;
+    // The row at a point of this widget (its header and frame included); -1 where there is none.
+    int iCalcRowNdx(const QPoint& client) const;
+
+    // True while the sheet itself takes the keys.
+    bool bHasFocus() const;
+    // The current cell as (column, row), kept while another window has the keyboard; (-1, -1) when there is
+    // none. Getting the keyboard makes no row current: the user's first key or click does, or
+    // vSetActiveSelection.
+    QPoint cptGetFocusNdx() const;
+    // All selected rows, ascending; what was in `rows` goes. Costs as much as the answer is long.
+    void vGetAllSelectionNdx(std::vector<int>& rows) const;
+    // Selects the row alone and makes it current, without scrolling; column -1: the row as a whole.
+    void vSetActiveSelection(int row, int column);
+    // No row is selected or current.
+    void vClearSelection();
+
+    // An invalid colour goes back to the palette's.
+    void vSetHeaderRowBkColor(const QColor& colour);
+    void vSetHeaderRowFgColor(const QColor& colour);
+    void vSetFrameColor(const QColor& colour);
+    // The backgrounds of every other row, beginning with row 0; below the rows the first is used.
+    void vSetBkColor(const QColor& first, const QColor& second);
+    // The background of the current row (with `marking`) and of selected rows, while the sheet has the
+    // keyboard and while it has not.
+    void vSetFocusColor(bool marking, const QColor& focused, const QColor& unfocused);
+    void vSetFgColor(const QColor& colour);
+    void vSetFont(const QFont& font);
+
+signals:
+    // The first visible row changed, by the user or by code.
+    void ScrolledVertically();
+
+public:
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+    void keyboardSearch(const QString& search) override;
+
+protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void initStyleOption(QStyleOptionFrame* option) const override;
+
+private:
+    void connectRows();
+    void columnsInserted(int first, int last);
+    void sectionResized(int column, int size);
+    void stretchLastColumn();
+    void applyHeights();
+    void keepRowColours(int firstRow, int count);
+    int heightFor(int height) const;
+    QString headerTexts() const;
+    bool hasColumn(int column) const;
+
+    CSheetBuilder* builder;
+    SheetDelegate* delegate;
+    SheetHeader* header;
+    std::vector<int> widths;  // as set or dragged, before stretching; 0: hidden
+    QColor frameColour;
+    QSize toldSize;
+    int rowHeight = 20;
+    int headerHeight = 20;
+    bool stretching = false;
+};
