@@ -49,6 +49,11 @@ public:
     void vSetTypeName(const QString& name) { typeName = name; }
     const QString& cszGetTypeName() const { return typeName; }
 
+    // The host's wish that pop-up windows of the view follow the application's activation also where they are
+    // kept on top.
+    void vSetPopupFollowsApplication(bool follows) { popupFollowsApplication = follows; }
+    bool bPopupFollowsApplication() const { return popupFollowsApplication; }
+
     DataState GetDataState() const { return dataState; }
 
     // 1 when the user may see this service.
@@ -70,6 +75,7 @@ private:
     CSymbolInfo baseSymbol;
     QString typeName;
     unsigned char linkGroup = 0;
+    bool popupFollowsApplication = false;
     DataState dataState = DataState::Normal;
 };
 

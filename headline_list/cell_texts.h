@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/bk_quote_interface.h"
+
+#include <QDate>
+#include <QString>
+
+#include <cstdint>
+
+// The texts that the cells of headline grids show.
+
+// "hh:mm", or "MM/dd hh:mm" with the date, in local time. A time outside any calendar gives an empty text.
+QString TimeText(std::int64_t secondsSince1970, bool showDate);
+
+// A day as the back end's tables are asked for: yyyymmdd; the fields of an invalid date are -1 each.
+QString DateKey(const QDate& day);
+
+// A text of a service as it is to be shown: as it is, or, where the back end asks for it, converted to
+// simplified characters with the market's own term replaced by the usual one.
+QString ShownText(BKQuoteInterface& backEnd, unsigned char service, const QString& text);

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "headline_list/cell_state.h"
+#include "headline_list/headline_table.h"
+#include "headline_list/list_index.h"
+#include "headline_list/list_owner.h"
+#include "headline_list/sort_order.h"
+#include "host/contract/bk_quote_interface.h"
+#include "host/controls/super_sheet_wnd.h"
+
+#include <QPointer>
+
+#include <vector>
+
+// One headline list: the table of its entries and the grid that shows them. Row i of the grid always stands
+// for entry i of the table. The grid gets its rows at once, its texts only where rows are on screen. Without
+// a grid every operation on the grid does nothing.
+class HeadlineList : public SheetCells {
+public:
+    // `backEnd` and `owner` must outlive the list.
+    HeadlineList(const ListKind& kind, BKQuoteInterface& backEnd, ListOwner& owner);
+    ~HeadlineList() override;
+
+    // The grid belongs to its window; it may go before the list does.
+    void vSetGrid(CSuperSheetWnd* grid);
+    CSuperSheetWnd* pGetGrid() const { return sheet; }
+    const ListKind& Kind() const { return kind; }
+    const HeadlineTable& Table() const { return table; }
+
+    // Replaces the table by these runs, newest first. The grid follows with vFillHeadlineTable.
+    void vSetTable(TableRuns runs);
+
+    // Gives the grid one empty row per entry, at the top of its scroll range, and repaints it at once.
+    void vFillHeadlineTable();
+    // vFillHeadlineTable and vFillHeadline.
+    void vRefill();
+
+    // Writes the visible rows whose headlines the back end has at hand.
+    void vFillHeadline();
+    // Writes the placeholder into every visible row whose time cell is not that of its entry.
+    void vFillTempHeadline();
+    // Writes one row from its headline, unless its title cell holds the headline's title already.
+    void vUpdateHeadline(int row, const CHeadline& headline, bool showDate);
+    // Writes the cells of one row.
+    void vFillSheet(int row, const QString& time, const QString& category, const QString& title);
+
+    // Forgets what was written: the next refill writes every visible row anew, as after a change of language.
+    void vForgetWrittenCells() { cells.clear(); }
+
+    // The entries of the visible rows: those of one page and one row more.
+    std::vector<CHeadlineTable> vGetShowedHeadlineTable() const;
+
+    // The cells for the grid.
+    QString Text(int row, int column) const override;
+    QColor TextColour(int row, int column) const override;
+
+private:
+    bool hasTwoColumns() const { return owner.GetNewsType() == 1; }
+    std::vector<unsigned char> servicesToAsk() const;
+    const WrittenCells* cellsOf(int row) const;
+
+    const ListKind& kind;
+    BKQuoteInterface& backEnd;
+    ListOwner& owner;
+    QPointer<CSuperSheetWnd> sheet;
+    HeadlineTable table;
+    CellState cells;
+};
+
+// The width of the category column while it is shown.
+inline constexpr int categoryColumnWidth = 50;
+
+// Creates a headline grid with the columns and header texts of the news type as a visible child of `parent`.
+CSuperSheetWnd* CreateHeadlineSheet(QWidget* parent, const QRect& rectangle, int newsType,
+                                    BKQuoteInterface& backEnd);
+
+// Sets the header texts again, after a change of language.
+void SetHeadlineSheetTexts(CSuperSheetWnd& sheet, int newsType, BKQuoteInterface& backEnd);

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/bk_quote_interface.h"
+
+#include <QLatin1StringView>
+#include <QString>
+
+// The language keys of the module, in one table: their texts live in the host's catalogues.
+namespace keys {
+
+inline constexpr QLatin1StringView caption{"IDS_NEWSCTRLVIEW_STRING_NEWS"};
+inline constexpr QLatin1StringView symbolNewsCaption{"IDS_MMSEXTENSION-MAINFRM_NEWSCTRLVIEW"};
+inline constexpr QLatin1StringView noData{"IDC_BASEVIEW-STRING_NO_DATA"};
+
+inline constexpr QLatin1StringView allNews{"IDS_MENU_8_1"};
+inline constexpr QLatin1StringView categoryNews{"IDS_NEWSCTRLVIEW_STRING_CATEGORY_NEWS"};
+inline constexpr QLatin1StringView symbolNews{"IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS"};
+inline constexpr QLatin1StringView searchNews{"IDS_NEWSCTRLVIEW_STRING_SEARCH_NEWS"};
+inline constexpr QLatin1StringView relationSearchNews{"IDS_NEWSCTRLVIEW_STRING_RELATIONSEARCH_NEWS"};
+inline constexpr QLatin1StringView warrantNews{"IDS_NEWSCTRLVIEW_STRING_WARRANT_NEWS"};
+inline constexpr QLatin1StringView warningSearchNews{"IDS_NEWSCTRLVIEW_STRING_WARNINGSEARCH_NEWS"};
+
+inline constexpr QLatin1StringView selectNewsService{"IDS_NEWSCTRLVIEW_STRING_SELECT_NEWS_SERVICE"};
+
+inline constexpr QLatin1StringView searchButton{"IDS_NEWSCTRLVIEW_BUTTON_SEARCH"};
+inline constexpr QLatin1StringView dealsSearchButton{"IDS_NEWSCTRLVIEW_BUTTON_DEALS_SEARCH"};
+inline constexpr QLatin1StringView relationSearchButton{"IDS_NEWSCTRLVIEW_BUTTON_RELATION_SEARCH"};
+inline constexpr QLatin1StringView warningSearchButton{"IDS_NEWSCTRLVIEW_BUTTON_WARNING_SEARCH"};
+inline constexpr QLatin1StringView showTypeButton{"IDS_NEWSCTRLVIEW_BUTTON_SHOW_TYPE"};
+inline constexpr QLatin1StringView pageDownButton{"IDS_NEWSCTRLVIEW_BUTTON_PAGE_DOWN"};
+inline constexpr QLatin1StringView pageUpButton{"IDS_NEWSCTRLVIEW_BUTTON_PAGE_UP"};
+
+inline constexpr QLatin1StringView storyDialogTitle{"IDS_DIALOG-STORY_TITLE"};
+inline constexpr QLatin1StringView storyPrevious{"IDS_DIALOG-STORY_PREV_BUTTON"};
+inline constexpr QLatin1StringView storyNext{"IDS_DIALOG-STORY_NEXT_BUTTON"};
+inline constexpr QLatin1StringView storyPrint{"IDS_DIALOG-STORY_PRINT"};
+inline constexpr QLatin1StringView storySaveAs{"IDS_DIALOG-STORY_SAVEAS"};
+
+inline constexpr QLatin1StringView time{"IDS_NEWSCTRLVIEW_STRING_TIME"};
+inline constexpr QLatin1StringView category{"IDS_NEWSCTRLVIEW_STRING_CATEGORY"};
+inline constexpr QLatin1StringView title{"IDS_NEWSCTRLVIEW_STRING_TITLE"};
+inline constexpr QLatin1StringView recover{"IDS_NEWSCTRLVIEW_STRING_RECOVER"};
+
+// The term to be replaced after conversion to simplified characters, and what replaces it. Spelled so.
+inline constexpr QLatin1StringView replaceNews{"IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS"};
+inline constexpr QLatin1StringView replaceMessage{"IDS_NEWSCTRLVIEW_STRING_REPLASE_MESSAGE"};
+
+}  // namespace keys
+
+// The text of a key in the language in force.
+inline QString LangText(BKQuoteInterface& backEnd, QLatin1StringView key) {
+    return backEnd.LangGetLangString(QString(key));
+}

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "headline_list/relation_condition.h"
+#include "headline_list/service_entry.h"
+#include "headline_list/sort_order.h"
+#include "host/contract/bk_quote_interface.h"
+
+#include <QString>
+
+#include <vector>
+
+// How the tables of lists are read from the back end: one run per selected service, in the order of the
+// services.
+
+// By a kind of table and its key: yyyymmdd, or a category id text.
+TableRuns ReadTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
+                     const QString& key);
+
+// By symbol.
+TableRuns ReadSymbolTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
+                           const CSymbolInfo& symbol);
+
+// The tables of a day, of which only the entries stay whose headline passes one of the conditions.
+TableRuns ReadRelatedTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
+                            const QString& dateKey, const std::vector<RelationCondition>& conditions);
+
+// One service's table, selected or not.
+TableRuns ReadServiceTable(BKQuoteInterface& backEnd, unsigned char service, TableKind kind,
+                           const QString& key);

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/category_catalogue.h"
+
+#include <QStringList>
+
+namespace {
+
+constexpr qsizetype longestList = 1024;
+
+std::vector<QString> listFrom(const IniFile& file, const QString& key) {
+    QString text = file.text(QStringLiteral("CONFIG"), key, {}, longestList);
+    text.replace(u',', u' ').replace(u'\n', u' ');
+    const QStringList parts = text.split(u' ', Qt::SkipEmptyParts);
+    return {parts.begin(), parts.end()};
+}
+
+}  // namespace
+
+bool CategoryCatalogue::bLoad(const IniFile& file) {
+    return bPair(listFrom(file, QStringLiteral("CatId")), listFrom(file, QStringLiteral("SHORTNAME")));
+}
+
+bool CategoryCatalogue::bLoad(BKQuoteInterface& backEnd, unsigned char service) {
+    std::vector<QString> ids;
+    std::vector<QString> texts;
+    return backEnd.bNewsAPI_GetNewsCatId(service, ids, texts) && bPair(ids, texts);
+}
+
+bool CategoryCatalogue::bPair(const std::vector<QString>& ids, const std::vector<QString>& texts) {
+    names.clear();
+    idsByName.clear();
+    if (ids.size() != texts.size())
+        return false;
+    for (std::size_t i = 0; i < ids.size(); ++i) {
+        const int id = ids[i].toInt();
+        names.emplace(id, texts[i]);
+        idsByName.emplace(texts[i], id);
+    }
+    return true;
+}
+
+const QString* CategoryCatalogue::NameOf(int id) const {
+    const auto found = names.find(id);
+    return found == names.end() ? nullptr : &found->second;
+}
+
+int CategoryCatalogue::GetCategoryIDbyName(const QString& name) const {
+    const auto found = idsByName.find(name);
+    return found == idsByName.end() ? -1 : found->second;
+}

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/ini_file.h"
+
+#include <QColor>
+#include <QString>
+
+#include <map>
+#include <vector>
+
+// Category ids and their short names, both ways.
+class CategoryCatalogue {
+public:
+    // The host's catalogue: section "CONFIG", lists "CatId" and "SHORTNAME". False, and the catalogue empty,
+    // when the two differ in length.
+    bool bLoad(const IniFile& file);
+    // What the back end knows of one service. False, and the catalogue empty, when that is nothing.
+    bool bLoad(BKQuoteInterface& backEnd, unsigned char service);
+
+    // The short name; null when the id is unknown.
+    const QString* NameOf(int id) const;
+    // The id of exactly this name; -1 when there is none.
+    int GetCategoryIDbyName(const QString& name) const;
+
+private:
+    bool bPair(const std::vector<QString>& ids, const std::vector<QString>& names);
+
+    std::map<int, QString> names;
+    std::map<QString, int> idsByName;
+};

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Numbers of the view's controls, commands and timers.
+namespace ids {
+
+// Controls of the control row and the tab strip.
+inline constexpr int relationSearchButton = 3001;
+inline constexpr int dealsSearchButton = 3002;
+inline constexpr int categoryCombo = 3004;
+inline constexpr int symbolCombo = 3005;
+inline constexpr int warningSearchButton = 3006;
+inline constexpr int searchButton = 3007;
+inline constexpr int searchEdit = 3008;
+inline constexpr int datePicker = 3009;
+inline constexpr int serviceButton = 3010;
+inline constexpr int serviceCombo = 3011;
+inline constexpr int tabStrip = 3100;
+inline constexpr int pageDownButton = 8067;
+inline constexpr int pageUpButton = 8068;
+inline constexpr int printButton = 8069;
+inline constexpr int saveAsButton = 8070;
+inline constexpr int showTypeButton = 25458;
+
+// Commands of menus.
+inline constexpr int firstServiceCommand = 5050;
+inline constexpr int lastServiceCommand = 5060;
+
+// Child views: this plus their own number.
+inline constexpr int firstChildView = 59648;
+inline constexpr int storyPane = 1;
+
+inline constexpr int refreshTimer = 1;
+inline constexpr int refreshDelayMs = 100;
+
+}  // namespace ids

@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/control_set.h"
+
+#include "headline_list/language_keys.h"
+#include "host/controls/quote_combo_box_auto.h"
+#include "host/controls/s_button.h"
+#include "host/controls/s_date_time_ctrl.h"
+#include "host/controls/s_edit.h"
+#include "host/controls/sc_combo_box.h"
+#include "host/controls/xtp_tab_control.h"
+#include "host/views/virtual_base_view.h"
+#include "news_view/control_ids.h"
+#include "news_view/mode_table.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+struct ButtonText {
+    int id;
+    QLatin1StringView key;
+};
+
+constexpr std::array buttonTexts{
+    ButtonText{ids::serviceButton, keys::selectNewsService},
+    ButtonText{ids::relationSearchButton, keys::relationSearchButton},
+    ButtonText{ids::dealsSearchButton, keys::dealsSearchButton},
+    ButtonText{ids::warningSearchButton, keys::warningSearchButton},
+    ButtonText{ids::searchButton, keys::searchButton},
+    ButtonText{ids::showTypeButton, keys::showTypeButton},
+    ButtonText{ids::pageDownButton, keys::pageDownButton},
+    ButtonText{ids::pageUpButton, keys::pageUpButton},
+    ButtonText{ids::printButton, keys::storyPrint},
+    ButtonText{ids::saveAsButton, keys::storySaveAs},
+};
+
+struct Placement {
+    int id;
+    QRect ViewLayout::*place;
+};
+
+constexpr std::array placements{
+    Placement{ids::tabStrip, &ViewLayout::tabStrip},
+    Placement{ids::showTypeButton, &ViewLayout::showTypeButton},
+    Placement{ids::serviceButton, &ViewLayout::serviceButton},
+    Placement{ids::relationSearchButton, &ViewLayout::relationButton},
+    Placement{ids::warningSearchButton, &ViewLayout::relationButton},
+    Placement{ids::datePicker, &ViewLayout::datePicker},
+    Placement{ids::categoryCombo, &ViewLayout::categoryCombo},
+    Placement{ids::serviceCombo, &ViewLayout::serviceCombo},
+    Placement{ids::symbolCombo, &ViewLayout::symbolCombo},
+    Placement{ids::searchEdit, &ViewLayout::searchEdit},
+    Placement{ids::searchButton, &ViewLayout::searchButton},
+    Placement{ids::dealsSearchButton, &ViewLayout::dealsButton},
+    Placement{ids::pageDownButton, &ViewLayout::pageDown},
+    Placement{ids::pageUpButton, &ViewLayout::pageUp},
+    Placement{ids::saveAsButton, &ViewLayout::saveAs},
+    Placement{ids::printButton, &ViewLayout::print},
+};
+
+}  // namespace
+
+ControlSet::ControlSet(TRVVirtualBaseView& newsView, BKQuoteInterface& newsBackEnd)
+    : view(newsView), backEnd(newsBackEnd) {}
+
+QWidget* ControlSet::window() const {
+    return &view;
+}
+
+template <class Control>
+Control* ControlSet::vAdd(int id, const QRect& rectangle) {
+    auto* control = new Control(&view);
+    SetWindowId(control, id);
+    control->setGeometry(rectangle);
+    return control;
+}
+
+void ControlSet::vAddButton(int id, const QRect& rectangle) {
+    auto* button = vAdd<SButton>(id, rectangle);
+    QObject::connect(button, &SButton::clicked, &view, [this, id] { view.OnCommand(id); });
+    button->show();
+}
+
+void ControlSet::CreateTypeBtn() {
+    vAddButton(ids::showTypeButton, {});
+}
+
+void ControlSet::CreateFunctionBtn() {
+    for (const int id : {ids::pageDownButton, ids::pageUpButton, ids::saveAsButton, ids::printButton})
+        vAddButton(id, {});
+}
+
+void ControlSet::vCreateServiceButton(const QRect& rectangle) {
+    vAddButton(ids::serviceButton, rectangle);
+}
+
+void ControlSet::vCreateTabStrip(const QRect& rectangle) {
+    auto* strip = vAdd<CXTPTabControl>(ids::tabStrip, rectangle);
+    QObject::connect(strip, &CXTPTabControl::SelChange, &view, [this] { view.OnCommand(ids::tabStrip); });
+    strip->show();
+}
+
+void ControlSet::vCreateDatePicker(const QRect& rectangle, const QDate& date) {
+    vAdd<SDateTimeCtrl>(ids::datePicker, rectangle)->vSetDate(date);
+}
+
+void ControlSet::vCreateCategoryCombo(const QRect& rectangle) {
+    auto* combo = vAdd<SCComboBox>(ids::categoryCombo, rectangle);
+    QObject::connect(combo, &SCComboBox::SelChange, &view, [this] { view.OnCommand(ids::categoryCombo); });
+}
+
+void ControlSet::CreateControls(ListIndex mode, const QRect& rectangle, const QFont& font) {
+    switch (mode) {
+        case ListIndex::Symbol:
+            vAdd<SCComboBox>(ids::serviceCombo, rectangle)->setFont(font);
+            vAdd<CQuoteComboBoxAuto>(ids::symbolCombo, rectangle)->setFont(font);
+            break;
+        case ListIndex::Search:
+            vAdd<SEdit>(ids::searchEdit, rectangle)->setFont(font);
+            vAddButton(ids::searchButton, rectangle);
+            vAddButton(ids::dealsSearchButton, rectangle);
+            break;
+        case ListIndex::Relation:
+            vAddButton(ids::relationSearchButton, rectangle);
+            break;
+        case ListIndex::WarningTerm:
+            vAddButton(ids::warningSearchButton, rectangle);
+            break;
+        default:
+            break;
+    }
+}
+
+void ControlSet::vAddTab(ListIndex mode) {
+    if (auto* strip = Find<CXTPTabControl>(ids::tabStrip))
+        strip->iInsertTab(LangText(backEnd, ModeOf(mode).captionKey), static_cast<int>(mode));
+}
+
+int ControlSet::iGetTabIndex(int mode) const {
+    const auto* strip = Find<CXTPTabControl>(ids::tabStrip);
+    for (int i = 0; strip != nullptr && i < strip->count(); ++i) {
+        if (strip->iGetItemData(i) == mode)
+            return i;
+    }
+    return 0;
+}
+
+void ControlSet::ShowHideCtrObject(ListIndex mode) {
+    const auto shown = ModeOf(mode).controls;
+    for (const int id : SwitchableControls()) {
+        if (QWidget* control = GetDlgItem(&view, id))
+            control->setVisible(std::find(shown.begin(), shown.end(), id) != shown.end());
+    }
+}
+
+void ControlSet::vPlace(const ViewLayout& layout) {
+    for (const Placement& placement : placements) {
+        if (QWidget* control = GetDlgItem(&view, placement.id))
+            control->setGeometry(layout.*placement.place);
+    }
+}
+
+void ControlSet::vSetFont(const QFont& font) {
+    for (const Placement& placement : placements) {
+        if (QWidget* control = GetDlgItem(&view, placement.id))
+            control->setFont(font);
+    }
+}
+
+void ControlSet::vLoadLanguageString() {
+    for (const ButtonText& text : buttonTexts) {
+        if (auto* button = Find<SButton>(text.id))
+            button->setText(LangText(backEnd, text.key));
+    }
+    auto* strip = Find<CXTPTabControl>(ids::tabStrip);
+    for (int i = 0; strip != nullptr && i < strip->count(); ++i) {
+        if (const auto mode = ListOfNumber(strip->iGetItemData(i)))
+            strip->setTabText(i, LangText(backEnd, ModeOf(*mode).captionKey));
+    }
+}

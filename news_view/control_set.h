@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "headline_list/list_index.h"
+#include "host/contract/bk_quote_interface.h"
+#include "host/controls/window_id.h"
+#include "news_view/view_layout.h"
+
+#include <QDate>
+#include <QFont>
+
+class CXTPTabControl;
+class QWidget;
+class SButton;
+class TRVVirtualBaseView;
+
+// The controls of a news view: creates them, finds them by number, gives them their texts, places, fonts, and
+// shows those of a mode. A control that was not created is skipped everywhere. Buttons send their number as a
+// command.
+class ControlSet {
+public:
+    // Both must outlive the set; the controls belong to the view's window.
+    ControlSet(TRVVirtualBaseView& view, BKQuoteInterface& backEnd);
+
+    void CreateTypeBtn();
+    void CreateFunctionBtn();
+    void vCreateServiceButton(const QRect& rectangle);
+    void vCreateTabStrip(const QRect& rectangle);
+    void vCreateDatePicker(const QRect& rectangle, const QDate& date);
+    void vCreateCategoryCombo(const QRect& rectangle);
+    // The controls of the symbol, search, relation-search and warning-term modes.
+    void CreateControls(ListIndex mode, const QRect& rectangle, const QFont& font);
+
+    // Adds the mode's tab, when there is a tab strip.
+    void vAddTab(ListIndex mode);
+    // The index of the mode's tab; 0 when there is none.
+    int iGetTabIndex(int mode) const;
+
+    // Shows the controls of the mode and hides the other switchable ones.
+    void ShowHideCtrObject(ListIndex mode);
+    void vPlace(const ViewLayout& layout);
+    void vSetFont(const QFont& font);
+    // Sets every text in the language in force.
+    void vLoadLanguageString();
+
+    // A control of a kind by its number; null when there is none.
+    template <class Control>
+    Control* Find(int id) const {
+        return qobject_cast<Control*>(GetDlgItem(window(), id));
+    }
+
+private:
+    QWidget* window() const;
+    void vAddButton(int id, const QRect& rectangle);
+    template <class Control>
+    Control* vAdd(int id, const QRect& rectangle);
+
+    TRVVirtualBaseView& view;
+    BKQuoteInterface& backEnd;
+};

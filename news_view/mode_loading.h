@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "headline_list/list_index.h"
+#include "news_view/application_switches.h"
+
+#include <array>
+
+// Decides what a switch to a mode reads, and remembers what has been read once.
+class ModeLoading {
+public:
+    // The mode whose list a switch to `mode` reads. With both search switches on it is always the search
+    // list, and with the warning switch on the warning-term mode reads the search list: hosts rely on it.
+    static ListIndex LoadingMode(ListIndex mode, const ApplicationSwitches& switches);
+
+    // True when the list is to be read now; a list that is read once only is marked as read.
+    bool bTakeLoad(ListIndex loading);
+    // True for the first call with this catalogue only.
+    bool bTakeCategoryCatalogue() { return takeOnce(categoryCatalogueLoaded); }
+
+    // A list that has never been shown takes no pushed headlines.
+    bool bWasShown(ListIndex list) const { return shown[static_cast<std::size_t>(list)]; }
+
+private:
+    static bool takeOnce(bool& done);
+
+    std::array<bool, listCount> shown{};
+    bool categoryCatalogueLoaded = false;
+};

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/mode_table.h"
+
+#include "headline_list/language_keys.h"
+#include "news_view/control_ids.h"
+
+#include <array>
+#include <bit>
+
+namespace {
+
+constexpr std::array allControls{ids::datePicker, ids::serviceButton};
+constexpr std::array categoryControls{ids::categoryCombo, ids::serviceButton};
+constexpr std::array symbolControls{ids::serviceCombo, ids::symbolCombo, ids::serviceButton};
+constexpr std::array searchControls{ids::dealsSearchButton, ids::searchEdit, ids::searchButton,
+                                    ids::serviceButton};
+constexpr std::array relationControls{ids::relationSearchButton, ids::serviceButton};
+constexpr std::array warningControls{ids::warningSearchButton};
+
+const std::array<ModeDescription, listCount> modes{{
+    {ListIndex::All, keys::allNews, 0x01, LoadRule::FirstSwitch, allControls},
+    {ListIndex::Category, keys::categoryNews, 0x02, LoadRule::EverySwitch, categoryControls},
+    {ListIndex::Symbol, keys::symbolNews, symbolNewsMask, LoadRule::EverySwitch, symbolControls},
+    {ListIndex::Search, keys::searchNews, 0x08, LoadRule::EverySwitch, searchControls},
+    {ListIndex::Relation, keys::relationSearchNews, 0x08, LoadRule::FirstSwitch, relationControls},
+    {ListIndex::Warrant, keys::warrantNews, 0x20, LoadRule::EverySwitch, {}},
+    {ListIndex::WarningTerm, keys::warningSearchNews, 0x40, LoadRule::Never, warningControls},
+}};
+
+constexpr std::array creationOrder{ListIndex::All,    ListIndex::Category, ListIndex::Symbol,
+                                   ListIndex::Search, ListIndex::Relation, ListIndex::WarningTerm,
+                                   ListIndex::Warrant};
+
+constexpr std::array switchable{ids::relationSearchButton, ids::dealsSearchButton,   ids::categoryCombo,
+                                ids::symbolCombo,          ids::warningSearchButton, ids::searchButton,
+                                ids::searchEdit,           ids::datePicker,          ids::serviceButton,
+                                ids::serviceCombo};
+
+constexpr std::uint32_t sevenFunctions = 0x7F;
+
+}  // namespace
+
+const ModeDescription& ModeOf(ListIndex list) {
+    return modes[static_cast<std::size_t>(list)];
+}
+
+std::span<const ListIndex> ModesInOrderOfCreation() {
+    return creationOrder;
+}
+
+std::span<const int> SwitchableControls() {
+    return switchable;
+}
+
+std::uint32_t KnownFunctions(std::uint32_t mask) {
+    return mask & sevenFunctions;
+}
+
+bool IsSingleFunction(std::uint32_t mask) {
+    return std::has_single_bit(KnownFunctions(mask));
+}

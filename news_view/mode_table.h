@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "headline_list/list_index.h"
+
+#include <QLatin1StringView>
+
+#include <cstdint>
+#include <span>
+
+// When a switch to a mode reads its list.
+enum class LoadRule { FirstSwitch, EverySwitch, Never };
+
+// What one function mode of the view is; its number is that of its list, its tab's item data and its grid
+// slot.
+struct ModeDescription {
+    ListIndex list;
+    QLatin1StringView captionKey;
+    std::uint32_t maskBit;  // of the enabled-function mask
+    LoadRule load;
+    std::span<const int> controls;  // ids of the controls that it shows; all other switchable ones are hidden
+};
+
+// The description of a mode.
+const ModeDescription& ModeOf(ListIndex list);
+
+// The modes in the order in which their grids and tabs are created.
+std::span<const ListIndex> ModesInOrderOfCreation();
+
+// The ids of the controls that mode switching shows or hides.
+std::span<const int> SwitchableControls();
+
+inline constexpr std::uint32_t defaultFunctionMask = 0x6F;
+inline constexpr std::uint32_t symbolNewsMask = 0x04;
+
+// The bits of a stored mask that mean something.
+std::uint32_t KnownFunctions(std::uint32_t mask);
+
+// True for exactly one enabled function: such a view has no tab strip.
+bool IsSingleFunction(std::uint32_t mask);

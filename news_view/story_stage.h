@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+
+class NewsStoryView;
+class TRVNewsStory;
+
+// Where a story is shown: the pane inside the view, or the pop-up dialog. Keeps the dialog's place among the
+// windows as the host wants it.
+class StoryStage {
+public:
+    ~StoryStage();
+
+    // The pane belongs to the view; null when there is none.
+    void vSetPane(NewsStoryView* pane);
+    NewsStoryView* pGetPane() const;
+    // The dialog belongs to the stage from here on.
+    void vSetDialog(TRVNewsStory* dialog);
+    TRVNewsStory* pGetDialog() const;
+    bool bCanShow() const;
+
+    void vHideDialog();
+
+    // False when the host wants the dialog as an ordinary window.
+    static bool IsStoryDlgOnTop();
+    // Applies the host's wish without moving or sizing the dialog; the active window stays active.
+    void SetStoryWndStyle();
+    // The application became active or inactive: an inactive application has no window on top of others.
+    void ChangeActiveApp(bool active);
+
+private:
+    void vSetTopMost(bool topMost);
+
+    QPointer<NewsStoryView> pane;
+    QPointer<TRVNewsStory> dialog;
+};

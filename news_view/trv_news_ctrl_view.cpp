@@ -1,0 +1,249 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/trv_news_ctrl_view.h"
+
+#include "headline_list/cell_texts.h"
+#include "headline_list/language_keys.h"
+#include "host/contract/clock.h"
+#include "host/controls/registered_message.h"
+#include "host/controls/s_date_time_ctrl.h"
+#include "host/controls/sc_combo_box.h"
+#include "news_view/control_ids.h"
+#include "story/news_story_view.h"
+#include "story/trv_news_story.h"
+
+#include <QDateTime>
+
+TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
+    : TRVQuoteBaseView(parent),
+      backEnd(*BKQuoteInterface::GetBKInterface()),
+      lists(backEnd, *this),
+      controls(*this, backEnd),
+      pickedDate(host_clock::today()),
+      newsDay(pickedDate) {}
+
+TRVNewsCtrlView::~TRVNewsCtrlView() {
+    C_UnRegisterSymbol(this);
+}
+
+void TRVNewsCtrlView::GetCaption(QString& caption) {
+    caption = LangText(backEnd, keys::caption);
+}
+
+void TRVNewsCtrlView::ChangeActiveApp(int active) {
+    if (!StoryStage::IsStoryDlgOnTop() || bPopupFollowsApplication())
+        stage.ChangeActiveApp(active != 0);
+}
+
+bool TRVNewsCtrlView::OnCommand(int id) {
+    switch (id) {
+        case ids::tabStrip:
+            OnSelchangeTabMode();
+            return true;
+        case ids::showTypeButton:
+            OnBtnChangeShowType();
+            return true;
+        case ids::categoryCombo:
+            OnSelchangeComboIndex();
+            return true;
+        default:
+            return TRVQuoteBaseView::OnCommand(id);
+    }
+}
+
+// --- Deferred refresh
+// ----------------------------------------------------------------------------------------------
+
+void TRVNewsCtrlView::vUpdateView() {
+    KillTimer(ids::refreshTimer);
+    SetTimer(ids::refreshTimer, ids::refreshDelayMs);
+}
+
+void TRVNewsCtrlView::vRealUpdateView() {
+    HeadlineList* list = CurrentList();
+    if (list == nullptr || list->pGetGrid() == nullptr)
+        return;
+    list->vFillHeadline();
+    list->vFillTempHeadline();
+}
+
+void TRVNewsCtrlView::OnTimer(int id) {
+    if (id == ids::refreshTimer) {
+        vRealUpdateView();
+        ChangeCurrViewCategoryState(settings.showCategory);
+        KillTimer(ids::refreshTimer);
+    }
+    TRVQuoteBaseView::OnTimer(id);
+}
+
+bool TRVNewsCtrlView::OnRegisteredMessage(const RegisteredMessageEvent& message) {
+    static const QEvent::Type changeSize = RegisterMessage(QStringLiteral("RVMSG_CHANGESIZE"));
+    if (message.type() != changeSize)
+        return TRVQuoteBaseView::OnRegisteredMessage(message);
+    OnChangeSize(message.firstParameter);
+    return true;
+}
+
+void TRVNewsCtrlView::OnChangeSize(quintptr sender) {
+    if (width() == lastClientWidth)
+        return;
+    lastClientWidth = width();
+    if (sender == reinterpret_cast<quintptr>(pGetCurrSheetView()))
+        vUpdateView();
+}
+
+// --- Lists
+// ------------------------------------------------------------------------------------------------------------
+
+bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
+    const auto index = ListOfNumber(number);
+    if (!index || *index == ListIndex::WarningTerm || List(*index).pGetGrid() == nullptr)
+        return false;
+    bool hasRows = true;
+    switch (*index) {
+        case ListIndex::All:
+            hasRows = lists.bRebuildAllNews(PickedDateKey());
+            break;
+        case ListIndex::Category:
+            List(*index).vRefill();
+            return true;
+        case ListIndex::Symbol:
+            GetSymbolNews(newsSymbol.code);
+            return !newsSymbol.code.isEmpty();
+        case ListIndex::Search: {
+            const bool warningTerms =
+                switches.showWarningSearch &&
+                (currentMode == static_cast<int>(ListIndex::WarningTerm) || switches.showNormalSearch);
+            List(warningTerms ? ListIndex::WarningTerm : ListIndex::Search).vRefill();
+            return true;
+        }
+        case ListIndex::Relation:
+            hasRows = lists.bRebuildRelation(DateKey(host_clock::today()), relationConditions);
+            break;
+        case ListIndex::Warrant:
+            services.vSelect(static_cast<std::size_t>(services.iGetWarrantIndex()), true);
+            NewsServices::RegisterService(*this, warrantService);
+            if (!lists.bRebuildWarrant(PickedDateKey()))
+                statusText.clear();
+            return true;
+        case ListIndex::WarningTerm:
+            break;
+    }
+    if (!hasRows)
+        statusText.clear();
+    return hasRows;
+}
+
+void TRVNewsCtrlView::GetSymbolNews(const QString& code) {
+    if (NewsStoryView* pane = stage.pGetPane())
+        pane->OnClearStory();
+    newsSymbol.code = code;
+    lists.bRebuildSymbol(newsSymbol);
+}
+
+HeadlineList* TRVNewsCtrlView::CurrentList() {
+    const auto index = ListOfNumber(currentMode);
+    return index ? &List(*index) : nullptr;
+}
+
+CSuperSheetWnd* TRVNewsCtrlView::pGetCurrSheetView() const {
+    return Sheet(currentMode);
+}
+
+CHeadlineTable TRVNewsCtrlView::GetHeadlineTable(int row) const {
+    CHeadlineTable entry;
+    bGetHeadlineTable(entry, currentMode, row);
+    return entry;
+}
+
+bool TRVNewsCtrlView::bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const {
+    const auto index = ListOfNumber(list);
+    if (!index || row < 0 || row >= lists[*index].Table().size())
+        return false;
+    entry = lists[*index].Table().at(row);
+    return true;
+}
+
+int TRVNewsCtrlView::iGetHeadlineTableSize(int list) const {
+    const auto index = ListOfNumber(list);
+    return index ? lists[*index].Table().size() : -1;
+}
+
+void TRVNewsCtrlView::vGetNewsActiveService(std::vector<unsigned char>& active) const {
+    active = services.ActiveServices(currentMode);
+}
+
+int TRVNewsCtrlView::GetSheetWidth() const {
+    if (newsType != 0 || storyShowType == StoryShowType::None || storyShowType == StoryShowType::Below)
+        return width();
+    return storyShowType == StoryShowType::Right ? width() / 2 : 0;
+}
+
+QString TRVNewsCtrlView::PickedDateKey() const {
+    const bool hasPicker = controls.Find<SDateTimeCtrl>(ids::datePicker) != nullptr;
+    return DateKey(hasPicker ? pickedDate : QDate());
+}
+
+// --- Categories
+// -------------------------------------------------------------------------------------------------------
+
+QString TRVNewsCtrlView::cszTransferCatIDToCatName(int id) const {
+    const bool warrants = currentMode == static_cast<int>(ListIndex::Warrant);
+    const QString* name = warrants ? warrantCategories.NameOf(id) : nullptr;
+    if (name == nullptr)
+        name = categories.NameOf(id);
+    return name != nullptr ? *name : LangText(backEnd, keys::recover);
+}
+
+int TRVNewsCtrlView::GetCategoryIDbyName(const QString& name) const {
+    return categories.GetCategoryIDbyName(name);
+}
+
+int TRVNewsCtrlView::GetCategoryColor(const QString& name, QColor& text, QColor& background) const {
+    const int id = GetCategoryIDbyName(name);
+    if (id < 0)
+        return 0;
+    TRVItemDisplay::GetItemDisplay()->GetNewsCatColor(id, text, background);
+    return 1;
+}
+
+void TRVNewsCtrlView::ChangeCurrViewCategoryState(bool show) {
+    CSuperSheetWnd* sheet = pGetCurrSheetView();
+    if (newsType == 1 || sheet == nullptr)
+        return;
+    sheet->vSetColWidth(1, show ? categoryColumnWidth : 0);
+}
+
+void TRVNewsCtrlView::vFillCategoryCombo() {
+    auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
+    if (combo == nullptr)
+        return;
+    combo->clear();
+    categoryComboIds.clear();
+    for (const ServiceEntry& entry : services.Entries()) {
+        std::vector<QString> idTexts;
+        std::vector<QString> names;
+        if (!entry.selected || !backEnd.bNewsAPI_GetNewsCatId(entry.service, idTexts, names))
+            continue;
+        for (std::size_t i = 0; i < std::min(idTexts.size(), names.size()); ++i) {
+            if (std::find(categoryComboIds.begin(), categoryComboIds.end(), idTexts[i]) !=
+                categoryComboIds.end())
+                continue;
+            categoryComboIds.push_back(idTexts[i]);
+            combo->addItem(ShownText(backEnd, entry.service, names[i]));
+        }
+    }
+    const auto stored = std::find(categoryComboIds.begin(), categoryComboIds.end(), settings.categoryId);
+    combo->setCurrentIndex(
+        stored == categoryComboIds.end() ? 0 : static_cast<int>(stored - categoryComboIds.begin()));
+    OnSelchangeComboIndex();
+}
+
+void TRVNewsCtrlView::OnSelchangeComboIndex() {
+    const auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
+    const int index = combo != nullptr ? combo->currentIndex() : -1;
+    if (index < 0 || index >= static_cast<int>(categoryComboIds.size()))
+        return;
+    settings.categoryId = categoryComboIds[static_cast<std::size_t>(index)];
+    lists.bRebuildCategory(settings.categoryId);
+}

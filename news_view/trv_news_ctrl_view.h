@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "headline_list/entry_source.h"
+#include "headline_list/headline_lists.h"
+#include "headline_list/list_owner.h"
+#include "host/views/news_module.h"
+#include "host/views/quote_base_view.h"
+#include "news_view/application_switches.h"
+#include "news_view/category_catalogue.h"
+#include "news_view/control_set.h"
+#include "news_view/mode_loading.h"
+#include "news_view/news_services.h"
+#include "news_view/story_stage.h"
+#include "news_view/view_layout.h"
+#include "news_view/view_settings.h"
+
+#include <QMenu>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+// The news view that a terminal places in its frames. It owns the parts that do the work (services, lists,
+// controls, story stage, catalogues) and forwards to them; what it does itself is the order in which things
+// happen.
+//
+// The host creates it by its class name, then calls OnInitialUpdate and InitialViewInfo. A back end is
+// installed before and outlives the view.
+class TRVNewsCtrlView : public TRVQuoteBaseView,
+                        public NewsViewAccess,
+                        public EntrySource,
+                        private ListOwner {
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE explicit TRVNewsCtrlView(QWidget* parent = nullptr);
+    ~TRVNewsCtrlView() override;
+
+    // --- The host's calls
+    // --------------------------------------------------------------------------------------
+
+    void OnInitialUpdate() override;
+    void InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
+                         const QString& name) override;
+    void SaveViewInfo(TRVCfgIO2* writer, const QString& section, int first, int second) override;
+    void GetCaption(QString& caption) override;
+    void ChangeActiveApp(int active) override;
+    void vChangeCast() override;
+    bool OnCommand(int id) override;
+
+    // --- Modes and layout
+    // ----------------------------------------------------------------------------------------
+
+    void SwitchFunction(int mode);
+    void ShowHideCtrObject(int mode);
+    void vSetComponentPos();
+    // The usable mode for a stored number: 0 when it is unknown or the user may not see it.
+    int iGetFunctionID(int stored) const;
+    int iGetTabIndex(int mode) const { return controls.iGetTabIndex(mode); }
+    // When the mode has no grid, `mode` becomes the first that has one; unchanged when none has.
+    void CheckInitialView(int& mode) const;
+    void OnSelchangeTabMode();
+    void OnBtnChangeShowType();
+    void SetStoryShowType(unsigned short type);
+    unsigned short GetStoryShowType() const { return static_cast<unsigned short>(storyShowType); }
+    void SetStoryWndStyle() { stage.SetStoryWndStyle(); }
+    bool IsStoryDlgOnTop() const { return StoryStage::IsStoryDlgOnTop(); }
+    void vSetNewsType(int type) override { newsType = type; }
+    int GetNewsType() const override { return newsType; }
+
+    // --- Lists
+    // -----------------------------------------------------------------------------------------------------
+
+    // Rebuilds the table of a list and fills its grid. True when the list has rows or needs no table of its
+    // own; false for an index above 5, an absent grid, or an empty list 0 or 4.
+    bool InitialHeadlineTable(int list);
+    // Starts the deferred refresh anew: calls within 100 ms become one.
+    void vUpdateView();
+    // Refills the visible rows of the current grid at once.
+    void vRealUpdateView();
+    CSuperSheetWnd* pGetCurrSheetView() const;
+    // A copy of an entry of the current list; all zero when there is no current list or no such row.
+    CHeadlineTable GetHeadlineTable(int row) const;
+    bool bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const override;
+    int iGetHeadlineTableSize(int list) const override;
+    void vGetNewsActiveService(std::vector<unsigned char>& services) const override;
+    // The width that the story show type leaves for the grid.
+    int GetSheetWidth() const;
+    // Reads the news of a symbol of the current news symbol's service into the symbol list.
+    void GetSymbolNews(const QString& code);
+
+    // --- Categories
+    // ------------------------------------------------------------------------------------------------
+
+    QString cszTransferCatIDToCatName(int id) const override;
+    int GetCategoryIDbyName(const QString& name) const;
+    int GetCategoryColor(const QString& name, QColor& text, QColor& background) const override;
+    // Shows or hides the category column of the current grid; not in a view with two columns.
+    void ChangeCurrViewCategoryState(bool show);
+    void OnSelchangeComboIndex();
+
+    // --- For the host's scripts
+    // ---------------------------------------------------------------------------------
+
+    QVariantMap State() const override;
+    CSuperSheetWnd* Sheet(int list) const override;
+    std::vector<HeadlineKey> Keys(int list, int from, int count) const override;
+
+protected:
+    void OnTimer(int id) override;
+    bool OnRegisteredMessage(const RegisteredMessageEvent& message) override;
+    void OnDraw(QPainter& painter) override;
+    bool OnEraseBkgnd(QPainter& painter) override;
+    void vNotSupportSymbol(QPainter& painter) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    // Start-up.
+    void GetConfigFromIni();
+    void vFillServiceMenu();
+    void vTakeNewsType();
+    void vCreateStoryPane();
+    void bInitialTransferCatObject();
+    void bInitialTransferWarrantCatObject();
+    void vViewCreate();
+    void vCreateMode(ListIndex mode, const QRect& gridArea, const QRect& row);
+    bool bModeIsOffered(ListIndex mode) const;
+    void vInitialSheetWnd(ListIndex list, const QRect& rectangle);
+    void vOpenFocusedTab();
+    // Creates a child view of a class as a visible child in the rectangle; null when that fails.
+    TRVQuoteBaseView* CreateView(const QMetaObject& runtimeClass, const QString& name, int id,
+                                 const QRect& rectangle);
+
+    // Modes.
+    void vTakeServicesOver(ListIndex toLoad);
+    void vLoadMode(ListIndex toLoad);
+    void vFillCategoryCombo();
+
+    // Lists and painting.
+    void OnChangeSize(quintptr sender);
+    void DrawTitile(QPainter& painter);
+    LayoutInput vLayoutInput() const;
+    QString PickedDateKey() const;
+    HeadlineList& List(ListIndex index) { return lists[index]; }
+    HeadlineList* CurrentList();
+    const std::vector<ServiceEntry>& vGetServices() const override { return services.Entries(); }
+    void vCategoryStateAfterWriting() override { ChangeCurrViewCategoryState(settings.showCategory); }
+    void vSetGridColours();
+
+    BKQuoteInterface& backEnd;
+    NewsServices services;
+    HeadlineLists lists;
+    ControlSet controls;
+    StoryStage stage;
+    CategoryCatalogue categories;
+    CategoryCatalogue warrantCategories;
+    std::vector<QString> categoryComboIds;
+    std::vector<RelationCondition> relationConditions;
+    ModeLoading loading;
+    ApplicationSwitches switches;
+    ViewSettings settings;
+    std::unique_ptr<QMenu> serviceMenu;
+
+    CSymbolInfo newsSymbol;
+    QString statusText;  // what the view has to say about its lists; empty most of the time
+    QDate pickedDate;
+    QDate newsDay;
+    int newsType = 0;
+    int currentMode = 0;
+    int lastClientWidth = 0;
+    StoryShowType storyShowType = StoryShowType::None;
+    bool laidOut = false;
+    bool initialised = false;
+};

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRect>
+
+#include <array>
+
+// How the story of a headline is shown beside the grid.
+enum class StoryShowType : unsigned short { None = 0, Right = 1, Below = 2 };
+
+// All that the layout of a news view depends on. Pixels of the view's client area.
+struct LayoutInput {
+    QRect client;            // the client rectangle
+    int fontHeight = 16;     // of the view font's text
+    int titleHeight = 0;     // of the title band; 0 when none is shown
+    int firstTabHeight = 0;  // 0 when the strip is absent or has no tabs
+    int serviceCount = 0;
+    int serviceComboText = 0;  // widths of the widest item texts
+    int symbolComboText = 0;
+    int captionButtonWidth = 0;  // of the platform's window buttons
+    int newsType = 0;
+    StoryShowType showType = StoryShowType::None;
+    bool hasStoryPane = false;
+    bool hasRelatedQuotes = false;
+    bool hasAllNewsGrid = false;
+};
+
+// Where everything goes. An empty rectangle means: no room.
+struct ViewLayout {
+    QRect tabStrip, showTypeButton;
+    QRect serviceButton, relationButton, datePicker, categoryCombo, serviceCombo, symbolCombo, searchEdit;
+    QRect searchButton, dealsButton;  // warning-term search takes the relation button's rectangle
+    QRect pageDown, pageUp, saveAs, print;
+    QRect grid;
+    QRect gridWithoutControls;  // of the symbol and the warrant grid
+    QRect storyPane, relatedQuotes;
+    bool storyHidesHeadline = false;
+};
+
+ViewLayout LayOut(const LayoutInput& in);

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// Switching the news view between its modes, and laying it out.
+#include "host/controls/sc_combo_box.h"
+#include "host/controls/xtp_tab_control.h"
+#include "news_view/control_ids.h"
+#include "news_view/trv_news_ctrl_view.h"
+#include "story/news_story_view.h"
+
+#include <QStyle>
+
+namespace {
+constexpr int symbolMode = static_cast<int>(ListIndex::Symbol);
+constexpr int storyShowTypes = 3;
+}  // namespace
+
+int TRVNewsCtrlView::iGetFunctionID(int stored) const {
+    if (!ListOfNumber(stored) || (stored == symbolMode && bIsAuthService(16) != 1))
+        return 0;
+    return stored;
+}
+
+void TRVNewsCtrlView::CheckInitialView(int& mode) const {
+    if (Sheet(mode) != nullptr)
+        return;
+    for (int candidate = 0; candidate < listCount; ++candidate) {
+        if (Sheet(candidate) != nullptr) {
+            mode = candidate;
+            return;
+        }
+    }
+}
+
+void TRVNewsCtrlView::OnSelchangeTabMode() {
+    if (const auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip))
+        SwitchFunction(strip->iGetItemData(strip->GetCurSel()));
+}
+
+void TRVNewsCtrlView::SwitchFunction(int mode) {
+    const auto index = ListOfNumber(mode);
+    if (!stage.bCanShow() || !index)
+        return;
+    // The warrant mode clears the ticks for its own purposes: the user's choice comes back first.
+    if (currentMode == static_cast<int>(ListIndex::Warrant))
+        services.vRestoreSelection();
+    ShowHideCtrObject(mode);
+    currentMode = mode;
+    settings.focusedTab = mode;
+    stage.vHideDialog();
+    if (newsType == 0 && storyShowType != StoryShowType::None && stage.pGetPane() != nullptr)
+        stage.pGetPane()->OnClearStory();
+
+    const ListIndex toLoad = ModeLoading::LoadingMode(*index, switches);
+    services.vClearWarrantSelection();
+    if (toLoad == ListIndex::Warrant && List(toLoad).pGetGrid() == nullptr)
+        return;
+    vTakeServicesOver(toLoad);
+    vLoadMode(toLoad);
+    update();
+    vUpdateView();
+    CSuperSheetWnd* sheet = pGetCurrSheetView();
+    if (newsType != 1 && sheet != nullptr) {
+        sheet->setFocus();
+        sheet->viewport()->update();
+    }
+}
+
+void TRVNewsCtrlView::vTakeServicesOver(ListIndex toLoad) {
+    if (toLoad == ListIndex::WarningTerm)
+        return;
+    services.vCopyToSaved();
+    if (toLoad == ListIndex::Warrant) {
+        services.vClearSelection();
+        return;
+    }
+    if (!services.bAnySelected() && !services.Entries().empty())
+        services.vSelectInBoth(0);
+    const QList<QAction*> actions = serviceMenu != nullptr ? serviceMenu->actions() : QList<QAction*>();
+    for (QAction* action : actions) {
+        const auto service = static_cast<std::size_t>(action->data().toInt() - ids::firstServiceCommand);
+        action->setChecked(services.Entries().at(service).selected);
+    }
+}
+
+void TRVNewsCtrlView::vLoadMode(ListIndex toLoad) {
+    const bool allNewsEnabled = (settings.functions & ModeOf(ListIndex::All).maskBit) != 0;
+    if (toLoad == ListIndex::Category && allNewsEnabled && loading.bTakeCategoryCatalogue())
+        vFillCategoryCombo();
+    if (loading.bTakeLoad(toLoad))
+        InitialHeadlineTable(static_cast<int>(toLoad));
+}
+
+void TRVNewsCtrlView::ShowHideCtrObject(int mode) {
+    const auto index = ListOfNumber(mode);
+    if (!index)
+        return;
+    controls.ShowHideCtrObject(*index);
+    for (int list = 0; list < listCount; ++list) {
+        if (CSuperSheetWnd* sheet = Sheet(list))
+            sheet->setVisible(list == mode);
+    }
+}
+
+void TRVNewsCtrlView::SetStoryShowType(unsigned short type) {
+    storyShowType = static_cast<StoryShowType>(type % storyShowTypes);
+    vSetComponentPos();
+}
+
+void TRVNewsCtrlView::OnBtnChangeShowType() {
+    if (newsType == 0 && GetDlgItem(this, ids::showTypeButton) != nullptr) {
+        stage.vHideDialog();
+        SetStoryShowType(static_cast<unsigned short>(GetStoryShowType() + 1));
+    }
+    if (CSuperSheetWnd* sheet = pGetCurrSheetView())
+        sheet->setFocus();
+}
+
+LayoutInput TRVNewsCtrlView::vLayoutInput() const {
+    LayoutInput in;
+    in.client = rect();
+    in.fontHeight = g_iGetFontHeight(GetViewFont());
+    in.titleHeight = iGetTitleHeight();
+    const auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip);
+    in.firstTabHeight = strip != nullptr && strip->count() > 0 ? strip->tabRect(0).height() : 0;
+    in.serviceCount = static_cast<int>(services.Entries().size());
+    const auto widestItem = [this](int id) {
+        const auto* combo = controls.Find<SCComboBox>(id);
+        return combo != nullptr ? combo->iGetWidestItem() : 0;
+    };
+    in.serviceComboText = widestItem(ids::serviceCombo);
+    in.symbolComboText = widestItem(ids::symbolCombo);
+    in.captionButtonWidth = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    in.newsType = newsType;
+    in.showType = storyShowType;
+    in.hasStoryPane = stage.pGetPane() != nullptr;
+    in.hasAllNewsGrid = Sheet(static_cast<int>(ListIndex::All)) != nullptr;
+    return in;
+}
+
+void TRVNewsCtrlView::vSetComponentPos() {
+    const ViewLayout layout = LayOut(vLayoutInput());
+    controls.vPlace(layout);
+    if (NewsStoryView* pane = stage.pGetPane()) {
+        pane->HideHeadLine(layout.storyHidesHeadline ? 1 : 0);
+        pane->setGeometry(layout.storyPane);
+        pane->setVisible(!layout.storyPane.isEmpty());
+        pane->vSetComponentPos();
+    }
+    for (const ListKind& kind : listKinds) {
+        const bool withoutControls = kind.index == ListIndex::Symbol || kind.index == ListIndex::Warrant;
+        if (CSuperSheetWnd* sheet = lists[kind.index].pGetGrid())
+            sheet->setGeometry(withoutControls ? layout.gridWithoutControls : layout.grid);
+    }
+    laidOut = true;
+    update();
+    vUpdateView();
+}
+
+void TRVNewsCtrlView::resizeEvent(QResizeEvent* event) {
+    TRVQuoteBaseView::resizeEvent(event);
+    if (initialised)
+        vSetComponentPos();
+}

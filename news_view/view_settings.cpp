@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/view_settings.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString functionsKey = u"EnabledFunctions"_s;
+const QString showTypeKey = u"NewsShowType"_s;
+const QString showCategoryKey = u"ShowCategory"_s;
+const QString focusedTabKey = u"FocusedTab"_s;
+const QString symbolKey = u"SymbolID"_s;
+const QString categoryKey = u"CategoryID"_s;
+
+constexpr unsigned short highestShowType = 2;
+
+}  // namespace
+
+ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& path, int defaultTab) {
+    ViewSettings settings;
+    int mask = 0;
+    if (reader.GetViewInfo(path, functionsKey, mask))
+        settings.functions = KnownFunctions(static_cast<std::uint32_t>(mask));
+    unsigned short showType = 0;
+    if (reader.GetViewInfo(path, showTypeKey, showType) && showType <= highestShowType)
+        settings.newsShowType = showType;
+    reader.GetViewInfo(path, showCategoryKey, settings.showCategory);
+    settings.focusedTab = defaultTab;
+    reader.GetViewInfo(path, focusedTabKey, settings.focusedTab);
+    reader.GetViewInfo(path, symbolKey, settings.symbolId);
+    reader.GetViewInfo(path, categoryKey, settings.categoryId);
+    return settings;
+}
+
+void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
+    writer.SetViewInfo(path, functionsKey, static_cast<int>(functions));
+    writer.SetViewInfo(path, showTypeKey, int{newsShowType});
+    writer.SetViewInfo(path, showCategoryKey, showCategory);
+    writer.SetViewInfo(path, focusedTabKey, focusedTab);
+    writer.SetViewInfo(path, symbolKey, symbolId);
+    writer.SetViewInfo(path, categoryKey, categoryId);
+}

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/cfg_io.h"
+#include "news_view/mode_table.h"
+
+#include <QString>
+
+#include <cstdint>
+
+// The settings of a view that are plain values; what is absent or makes no sense has its default. The
+// services keep their own (NewsServices).
+struct ViewSettings {
+    std::uint32_t functions = defaultFunctionMask;  // "EnabledFunctions": the enabled-function mask
+    unsigned short newsShowType = 1;                // "NewsShowType": 0 none, 1 right, 2 below
+    bool showCategory = true;                       // "ShowCategory"
+    int focusedTab = 0;                             // "FocusedTab": the function mode to open with
+    QString symbolId;                               // "SymbolID"
+    QString categoryId;                             // "CategoryID"
+
+    // `defaultTab`: the focused tab when none is stored.
+    static ViewSettings read(const TRVCfgIO2& reader, const ViewSettingPath& path, int defaultTab);
+    void write(TRVCfgIO2& writer, const ViewSettingPath& path) const;
+};

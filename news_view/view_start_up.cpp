@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// The start-up of the news view: what the host's first calls build, in the order in which it must be built.
+#include "headline_list/cell_texts.h"
+#include "headline_list/language_keys.h"
+#include "host/contract/ini_file.h"
+#include "host/controls/xtp_tab_control.h"
+#include "news_view/control_ids.h"
+#include "news_view/trv_news_ctrl_view.h"
+#include "story/news_story_view.h"
+#include "story/trv_news_story.h"
+
+namespace {
+
+const QString viewKey = QStringLiteral("TRVNewsCtrlView");
+const QString symbolNewsType = QStringLiteral("MULTITIMESALSE_SYMBOLNEWS");
+
+constexpr unsigned char securitiesService = 16;
+constexpr int serviceButtonRoom = 84;
+constexpr int gridTop = 52;
+constexpr int tabStripHeight = 22;
+
+}  // namespace
+
+void TRVNewsCtrlView::OnInitialUpdate() {
+    TRVQuoteBaseView::OnInitialUpdate();
+    GetConfigFromIni();
+    services.vLoad(backEnd);
+    vFillServiceMenu();
+}
+
+void TRVNewsCtrlView::GetConfigFromIni() {
+    switches = ApplicationSwitches::read(
+        IniFile::load(backEnd.PathGetSysPath() + QStringLiteral("/Application.ini")));
+}
+
+void TRVNewsCtrlView::vFillServiceMenu() {
+    serviceMenu = std::make_unique<QMenu>();
+    int command = ids::firstServiceCommand;
+    for (const ServiceEntry& entry : services.Entries()) {
+        const int id = command++;
+        if (entry.service == warrantService || id > ids::lastServiceCommand)
+            continue;
+        QString name;
+        backEnd.BKQNEWS_bGetFullNameByService(name, entry.service);
+        QAction* action = serviceMenu->addAction(name.replace(u'&', QStringLiteral("&&")));
+        action->setCheckable(true);
+        action->setData(id);
+        connect(action, &QAction::triggered, this, [this, id] { OnCommand(id); });
+    }
+}
+
+void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
+                                      const QString&) {
+    TRVQuoteBaseView::InitialViewInfo(reader, section, first, second, viewKey);
+    vTakeNewsType();
+    if (newsType == 0) {
+        vCreateStoryPane();
+        controls.CreateTypeBtn();
+        controls.CreateFunctionBtn();
+    }
+    services.vInitialNewsService(*reader, settingsPath, *this);
+    bInitialTransferCatObject();
+    bInitialTransferWarrantCatObject();
+    vViewCreate();
+    storyShowType =
+        stage.pGetPane() != nullptr ? static_cast<StoryShowType>(settings.newsShowType) : StoryShowType::None;
+    controls.vLoadLanguageString();
+    vChangeCast();
+    vSetComponentPos();
+    vOpenFocusedTab();
+    ChangeCurrViewCategoryState(settings.showCategory);
+}
+
+void TRVNewsCtrlView::vTakeNewsType() {
+    const bool namedSymbolNews =
+        windowTitle().compare(LangText(backEnd, keys::symbolNewsCaption), Qt::CaseInsensitive) == 0;
+    if (cszGetTypeName() == symbolNewsType || namedSymbolNews)
+        newsType = 2;
+    const bool symbolNewsOnly = newsType == 1 || newsType == 2;
+    settings = ViewSettings::read(*settingsReader, settingsPath,
+                                  symbolNewsOnly ? static_cast<int>(ListIndex::Symbol) : 0);
+    newsSymbol = {securitiesService, settings.symbolId};
+    if (symbolNewsOnly) {
+        settings.functions = symbolNewsMask;
+        newsSymbol.code = CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(GetLinkGroup());
+    }
+}
+
+void TRVNewsCtrlView::vCreateStoryPane() {
+    const int top = gridTop + iGetTitleHeight();
+    auto* pane = qobject_cast<NewsStoryView*>(
+        CreateView(NewsStoryView::staticMetaObject, QStringLiteral("NewsStoryView"), ids::storyPane,
+                   QRect(width() / 2, top, width() - width() / 2, height() - top)));
+    if (pane == nullptr)
+        return;
+    pane->vSetNewsParent(this);
+    pane->InitialViewInfo(settingsReader, settingsPath.section, settingsPath.first, settingsPath.second, {});
+    stage.vSetPane(pane);
+}
+
+TRVQuoteBaseView* TRVNewsCtrlView::CreateView(const QMetaObject& runtimeClass, const QString& name, int id,
+                                              const QRect& rectangle) {
+    QObject* created = runtimeClass.newInstance(Q_ARG(QWidget*, this));
+    auto* view = qobject_cast<TRVQuoteBaseView*>(created);
+    if (view == nullptr) {
+        delete created;
+        return nullptr;
+    }
+    view->setObjectName(name);
+    SetWindowId(view, ids::firstChildView + id);
+    view->setGeometry(rectangle);
+    view->show();
+    view->vSetFrameId(iGetFrameId());
+    view->OnInitialUpdate();
+    return view;
+}
+
+void TRVNewsCtrlView::bInitialTransferCatObject() {
+    categories.bLoad(IniFile::load(backEnd.PathGetSysPath() + QStringLiteral("/NewsService.ini")));
+}
+
+void TRVNewsCtrlView::bInitialTransferWarrantCatObject() {
+    if (services.iGetWarrantIndex() >= 0)
+        warrantCategories.bLoad(backEnd, warrantService);
+}
+
+void TRVNewsCtrlView::vViewCreate() {
+    QRect client = rect();
+    client.setTop(client.top() + iGetTitleHeight());
+    const int base = client.left() + (services.Entries().size() > 1 ? serviceButtonRoom : 0);
+    const int left = client.left() + 4;
+    controls.vCreateServiceButton(services.Entries().size() == 1
+                                      ? QRect(left, client.top() + 27, 0, 20)
+                                      : QRect(left, client.top() + 27, base - left, 20));
+    if (!IsSingleFunction(settings.functions))
+        controls.vCreateTabStrip(QRect(client.left(), client.top(), client.width(), tabStripHeight));
+    if (stage.pGetDialog() == nullptr)
+        stage.vSetDialog(new TRVNewsStory(this));
+
+    const QRect gridArea(client.left(), client.top() + gridTop, client.width(), client.height() - gridTop);
+    const QRect row(base + 4, client.top() + 25, 120, 25);
+    for (const ListIndex mode : ModesInOrderOfCreation())
+        vCreateMode(mode, gridArea, row);
+}
+
+// Whether the mode has a grid and a tab.
+bool TRVNewsCtrlView::bModeIsOffered(ListIndex mode) const {
+    switch (mode) {
+        case ListIndex::Symbol:
+            return bIsAuthService(securitiesService) == 1;
+        case ListIndex::Relation:
+            return switches.showNormalSearch;
+        case ListIndex::WarningTerm:
+            return switches.showWarningSearch;
+        case ListIndex::Warrant:
+            return services.iGetWarrantIndex() >= 0;
+        default:
+            return true;
+    }
+}
+
+void TRVNewsCtrlView::vCreateMode(ListIndex mode, const QRect& gridArea, const QRect& row) {
+    if ((settings.functions & ModeOf(mode).maskBit) == 0)
+        return;
+    if (bModeIsOffered(mode)) {
+        vInitialSheetWnd(mode, gridArea);
+        controls.vAddTab(mode);
+    } else if (mode == ListIndex::Symbol || mode == ListIndex::Warrant) {
+        return;
+    }
+    if (mode == ListIndex::All)
+        controls.vCreateDatePicker(row, pickedDate);
+    else if (mode == ListIndex::Category)
+        controls.vCreateCategoryCombo(QRect(row.x(), row.y(), 120, 200));
+    else
+        controls.CreateControls(mode, row, GetViewFont());
+}
+
+void TRVNewsCtrlView::vInitialSheetWnd(ListIndex list, const QRect& rectangle) {
+    CSuperSheetWnd* sheet = CreateHeadlineSheet(this, rectangle, newsType, backEnd);
+    if (sheet == nullptr)
+        return;
+    lists[list].vSetGrid(sheet);
+    // A row that scrolls into view is written at once; the deferred refresh comes after the last step.
+    connect(sheet, &CSuperSheetWnd::ScrolledVertically, this, [this] {
+        vRealUpdateView();
+        vUpdateView();
+    });
+}
+
+void TRVNewsCtrlView::vOpenFocusedTab() {
+    CSyncInfo* sync = CSyncInfo::GetSettingCFG();
+    int mode = sync->SYS_bGetIsLinkNews() ? static_cast<int>(ListIndex::Symbol)
+                                          : iGetFunctionID(settings.focusedTab);
+    CheckInitialView(mode);
+    if (auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip))
+        strip->SetCurSel(iGetTabIndex(mode));
+    initialised = true;
+    SwitchFunction(mode);
+    sync->SYS_vSetIsLinkNews(false);
+}
+
+void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, int first, int second) {
+    const ViewSettingPath path{section, first, second, viewKey};
+    settings.newsShowType = GetStoryShowType();
+    settings.symbolId = newsSymbol.code;
+    settings.write(*writer, path);
+    services.vSave(*writer, path);
+}

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// What the news view lets the host's scripts look at.
+#include "host/controls/xtp_tab_control.h"
+#include "news_view/control_ids.h"
+#include "news_view/trv_news_ctrl_view.h"
+
+#include <QVariantList>
+
+#include <algorithm>
+
+namespace {
+
+int dateNumber(const QDate& date) {
+    return date.isValid() ? date.year() * 10000 + date.month() * 100 + date.day() : 0;
+}
+
+}  // namespace
+
+CSuperSheetWnd* TRVNewsCtrlView::Sheet(int list) const {
+    const auto index = ListOfNumber(list);
+    return index ? lists[*index].pGetGrid() : nullptr;
+}
+
+std::vector<HeadlineKey> TRVNewsCtrlView::Keys(int list, int from, int count) const {
+    std::vector<HeadlineKey> result;
+    if (const auto index = ListOfNumber(list)) {
+        for (const CHeadlineTable& entry : lists[*index].Table().rows(from, count))
+            result.push_back(KeyOf(entry));
+    }
+    return result;
+}
+
+QVariantMap TRVNewsCtrlView::State() const {
+    QVariantList tabs;
+    if (const auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip)) {
+        for (int i = 0; i < strip->count(); ++i) {
+            tabs.append(QVariantMap{{QStringLiteral("mode"), strip->iGetItemData(i)},
+                                    {QStringLiteral("text"), strip->tabText(i)},
+                                    {QStringLiteral("selected"), i == strip->GetCurSel()}});
+        }
+    }
+    QVariantList serviceStates;
+    for (std::size_t i = 0; i < services.Entries().size(); ++i) {
+        const ServiceEntry& entry = services.Entries()[i];
+        QString name;
+        backEnd.BKQNEWS_bGetFullNameByService(name, entry.service);
+        serviceStates.append(QVariantMap{{QStringLiteral("id"), entry.service},
+                                         {QStringLiteral("name"), name},
+                                         {QStringLiteral("selected"), entry.selected},
+                                         {QStringLiteral("date"), entry.date},
+                                         {QStringLiteral("pending"), entry.searchPending},
+                                         {QStringLiteral("registered"), services.bIsRegistered(i)}});
+    }
+    return {{QStringLiteral("mode"), currentMode},
+            {QStringLiteral("newsType"), newsType},
+            {QStringLiteral("storyShowType"), GetStoryShowType()},
+            {QStringLiteral("mask"), settings.functions},
+            {QStringLiteral("focusedTab"), settings.focusedTab},
+            {QStringLiteral("dataState"), static_cast<int>(GetDataState())},
+            {QStringLiteral("caption"), statusText},
+            {QStringLiteral("showCategory"), settings.showCategory},
+            {QStringLiteral("pickedDate"), dateNumber(pickedDate)},
+            {QStringLiteral("newsDay"), dateNumber(newsDay)},
+            {QStringLiteral("symbol"), QVariantMap{{QStringLiteral("service"), newsSymbol.market},
+                                                   {QStringLiteral("code"), newsSymbol.code}}},
+            {QStringLiteral("tabs"), tabs},
+            {QStringLiteral("services"), serviceStates}};
+}

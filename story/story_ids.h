@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Numbers of the controls of the story pane and the story dialog.
+namespace story_ids {
+
+inline constexpr int dialog = 8065;
+inline constexpr int title = 8066;
+inline constexpr int previousButton = 8067;
+inline constexpr int nextButton = 8068;
+inline constexpr int printButton = 8069;
+inline constexpr int saveAsButton = 8070;
+inline constexpr int storyText = 8071;
+
+}  // namespace story_ids
