@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "headline_list/cell_texts.h"
+
+#include "headline_list/relation_condition.h"
+#include "tests/support/fake_back_end.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+TEST(CellTexts, TimesAreLocal) {
+    struct Case {
+        std::int64_t time;
+        const char* timeOnly;
+        const char* withDate;
+    };
+    const Case cases[] = {
+        {localTime(2026, 3, 2, 9, 5), "09:05", "03/02 09:05"},
+        {localTime(2026, 12, 31, 23, 59, 59), "23:59", "12/31 23:59"},
+        {localTime(2027, 1, 1, 0, 0), "00:00", "01/01 00:00"},
+        {0, "08:00", "01/01 08:00"},
+        {localTime(1969, 12, 31, 12, 30), "12:30", "12/31 12:30"},
+        {std::numeric_limits<std::int64_t>::max(), "", ""},
+        {std::numeric_limits<std::int64_t>::min(), "", ""},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(TimeText(c.time, false).toStdString(), c.timeOnly) << c.time;
+        EXPECT_EQ(TimeText(c.time, true).toStdString(), c.withDate) << c.time;
+    }
+}
+
+TEST(CellTexts, ADayIsEightDigits) {
+    EXPECT_EQ(DateKey(QDate(2026, 3, 2)), QStringLiteral("20260302"));
+    EXPECT_EQ(DateKey(QDate()), QStringLiteral("-001-1-1"));
+}
+
+TEST(CellTexts, SimplifiedTextHasTheMarketsTermReplaced) {
+    FakeBackEnd backEnd;
+    backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS")] = QStringLiteral("资讯");
+    backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_REPLASE_MESSAGE")] = QStringLiteral("信息");
+    const QString title = QStringLiteral("新聞資讯與資讯");
+    EXPECT_EQ(ShownText(backEnd, 1, title), title);
+    backEnd.simplified = true;
+    EXPECT_EQ(ShownText(backEnd, 1, title), QStringLiteral("新闻信息與信息"));
+    backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS")] = QStringLiteral("");
+    EXPECT_EQ(ShownText(backEnd, 1, title), QStringLiteral("新闻资讯與资讯"));
+}
+
+TEST(RelationCondition, MatchesAsStated) {
+    constexpr std::int32_t every = RelationCondition::everyCategory;
+    struct Case {
+        const char* what;
+        std::vector<RelationCondition> conditions;
+        const char* title;
+        std::int32_t category;
+        const char* symbol;
+        bool wanted;
+    };
+    const Case cases[] = {
+        {"no condition", {}, "RATES", 1, "", false},
+        {"no words, all must hit", {{1, {every}, {}}}, "anything", 1, "", true},
+        {"no words, one must hit", {{0, {every}, {}}}, "anything", 1, "", false},
+        {"upper-case word in a lower-case title",
+         {{1, {every}, {QStringLiteral("RATE")}}},
+         "rates rise",
+         1,
+         "",
+         true},
+        {"lower-case word never hits a title",
+         {{1, {every}, {QStringLiteral("rate")}}},
+         "rate",
+         1,
+         "",
+         false},
+        {"lower-case word hits the symbol", {{1, {every}, {QStringLiteral("abc")}}}, "none", 1, "ABC", true},
+        {"part of the symbol is no hit", {{1, {every}, {QStringLiteral("AB")}}}, "none", 1, "ABC", false},
+        {"all words must hit",
+         {{1, {every}, {QStringLiteral("RATE"), QStringLiteral("OIL")}}},
+         "rate",
+         1,
+         "",
+         false},
+        {"one word may hit",
+         {{2, {every}, {QStringLiteral("RATE"), QStringLiteral("OIL")}}},
+         "rate",
+         1,
+         "",
+         true},
+        {"other category", {{1, {2, 3}, {}}}, "any", 1, "", false},
+        {"one of the categories", {{1, {2, 3}, {}}}, "any", 3, "", true},
+        {"-999 beside others is no joker", {{1, {every, 3}, {}}}, "any", 1, "", false},
+        {"the second condition matches", {{1, {9}, {}}, {1, {1}, {}}}, "any", 1, "", true},
+    };
+    for (const Case& c : cases) {
+        CHeadline headline;
+        headline.title = QString::fromUtf8(c.title);
+        EXPECT_EQ(CheckIsRelationSearch(c.conditions, headline, c.category, QString::fromUtf8(c.symbol)),
+                  c.wanted)
+            << c.what;
+    }
+}

@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "headline_list/headline_list.h"
+
+#include "headline_list/headline_lists.h"
+#include "headline_list/table_reading.h"
+#include "tests/support/fake_back_end.h"
+
+#include <gtest/gtest.h>
+#include <map>
+
+namespace {
+
+// Stands in for the view: services with the first two ticked, one known category.
+class Owner : public ListOwner {
+public:
+    const std::vector<ServiceEntry>& vGetServices() const override { return services; }
+    int GetNewsType() const override { return newsType; }
+    QString cszTransferCatIDToCatName(int id) const override {
+        return id == 7 ? QStringLiteral("Markets") : QStringLiteral("(recover)");
+    }
+    int GetCategoryColor(const QString& name, QColor& text, QColor&) const override {
+        if (name != QStringLiteral("Markets"))
+            return 0;
+        text = Qt::red;
+        return 1;
+    }
+    void vCategoryStateAfterWriting() override { ++rowsWritten; }
+
+    std::vector<ServiceEntry> services{
+        {1, true, 0, false}, {2, true, 0, false}, {16, false, 0, false}, {52, false, 0, false}};
+    int newsType = 0;
+    int rowsWritten = 0;
+};
+
+class HeadlineListTest : public testing::Test {
+protected:
+    HeadlineListTest() {
+        backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_RECOVER")] = QStringLiteral("...");
+    }
+
+    HeadlineList& list(ListIndex index, int height = 16 * 5 + 16 + 4) {
+        HeadlineList& result = lists[index];
+        if (result.pGetGrid() == nullptr) {
+            result.vSetGrid(CreateHeadlineSheet(&window, QRect(0, 0, 600, height), owner.newsType, backEnd));
+            window.resize(700, 900);
+            window.show();
+        }
+        return result;
+    }
+
+    // The rows as the grid shows them, " | " between the cells.
+    QStringList rows(const HeadlineList& of) const {
+        QStringList result;
+        for (int row = 0; row < of.pGetGrid()->iGetRowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < of.pGetGrid()->model()->columnCount(); ++column)
+                cells.append(of.Text(row, column));
+            result.append(cells.join(QStringLiteral(" | ")));
+        }
+        return result;
+    }
+
+    FakeBackEnd backEnd;
+    Owner owner;
+    QWidget window;
+    HeadlineLists lists{backEnd, owner};
+};
+
+const QString day = QStringLiteral("20260302");
+
+}  // namespace
+
+TEST_F(HeadlineListTest, ADayOfTickedServicesIsMergedNewestFirst) {
+    backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("a1"), 7);
+    backEnd.add(1, localTime(2026, 3, 2, 9, 30), 2, QStringLiteral("a2"));
+    backEnd.add(2, localTime(2026, 3, 2, 9, 10), 1, QStringLiteral("b1"), 7);
+    backEnd.add(2, localTime(2026, 3, 2, 9, 30), 9, QStringLiteral("b9"), 7);
+    backEnd.add(16, localTime(2026, 3, 2, 9, 20), 1, QStringLiteral("not ticked"));
+    backEnd.add(1, localTime(2026, 3, 1, 9, 20), 3, QStringLiteral("the day before"));
+    HeadlineList& all = list(ListIndex::All);
+    EXPECT_TRUE(lists.bRebuildAllNews(day));
+    EXPECT_EQ(rows(all),
+              (QStringList{QStringLiteral("09:30 | Markets | b9"), QStringLiteral("09:30 | (recover) | a2"),
+                           QStringLiteral("09:10 | Markets | b1"), QStringLiteral("09:00 | Markets | a1")}));
+    EXPECT_EQ(all.TextColour(0, 1), QColor(Qt::red));
+    EXPECT_FALSE(all.TextColour(1, 1).isValid());
+    EXPECT_FALSE(all.TextColour(0, 2).isValid());
+
+    EXPECT_FALSE(lists.bRebuildAllNews(QStringLiteral("20250101")));
+    EXPECT_EQ(all.pGetGrid()->iGetRowCount(), 0);
+    EXPECT_EQ(rows(all), QStringList());
+}
+
+TEST_F(HeadlineListTest, OnlyVisibleRowsAreReadAndWritten) {
+    for (int i = 0; i < 200; ++i)
+        backEnd.add(1, localTime(2026, 3, 2, 9, 0, i % 60) + 60 * (i / 60), i, QString::number(i));
+    HeadlineList& all = list(ListIndex::All);
+    lists.bRebuildAllNews(day);
+    const int page = all.pGetGrid()->iGetRowsPerPage();
+    ASSERT_GE(page, 4);
+    ASSERT_LE(page, 6);
+    EXPECT_EQ(owner.rowsWritten, page + 1);
+    EXPECT_EQ(all.Text(page, 2), QString::number(199 - page));
+    EXPECT_EQ(all.Text(page + 1, 2), QString());
+
+    backEnd.asked.clear();
+    all.pGetGrid()->vAutoVerScrolling(199);
+    all.vFillHeadline();
+    EXPECT_EQ(all.Text(199, 2), QStringLiteral("0"));
+    EXPECT_EQ(all.Text(100, 2), QString());
+    ASSERT_EQ(backEnd.asked.size(), 2);  // one request per ticked service
+    EXPECT_TRUE(backEnd.asked[0].startsWith(QStringLiteral("headlines 1 [")))
+        << backEnd.asked[0].toStdString();
+}
+
+TEST_F(HeadlineListTest, ARowWithItsTitleIsNotWrittenAgain) {
+    backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("same"), 7);
+    HeadlineList& all = list(ListIndex::All);
+    lists.bRebuildAllNews(day);
+    const int written = owner.rowsWritten;
+    all.vFillHeadline();
+    EXPECT_EQ(owner.rowsWritten, written);
+
+    // Its time cell stays as it was written even when the headline is shown with its date now.
+    CHeadline headline;
+    headline.service = 1;
+    headline.time = localTime(2026, 3, 2, 9, 0);
+    headline.sequence = 1;
+    headline.title = QStringLiteral("same");
+    all.vUpdateHeadline(0, headline, true);
+    EXPECT_EQ(all.Text(0, 0), QStringLiteral("09:00"));
+    headline.title = QStringLiteral("corrected");
+    all.vUpdateHeadline(0, headline, true);
+    EXPECT_EQ(rows(all), QStringList{QStringLiteral("03/02 09:00 | (recover) | corrected")});
+}
+
+TEST_F(HeadlineListTest, RowsWithoutAHeadlineShowThePlaceholder) {
+    backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("late"), 7, {}, false);
+    backEnd.add(1, localTime(2026, 3, 2, 8, 0), 2, QStringLiteral("here"), 7);
+    HeadlineList& all = list(ListIndex::All);
+    lists.bRebuildAllNews(day);
+    EXPECT_EQ(rows(all).front(), QStringLiteral(" |  | "));
+    all.vFillTempHeadline();
+    EXPECT_EQ(rows(all),
+              (QStringList{QStringLiteral("09:00 | ... | ..."), QStringLiteral("08:00 | Markets | here")}));
+    const int written = owner.rowsWritten;
+    all.vFillTempHeadline();
+    EXPECT_EQ(owner.rowsWritten, written) << "a row whose time is right is left alone";
+}
+
+TEST_F(HeadlineListTest, EachListAsksItsOwnServices) {
+    for (const ServiceEntry& entry : owner.services)
+        backEnd.add(entry.service, localTime(2026, 3, 2, 9, 0), entry.service, QString::number(entry.service),
+                    7, QStringLiteral("2330"));
+    struct Case {
+        ListIndex list;
+        QStringList asked;
+    };
+    const Case cases[] = {
+        {ListIndex::All, {QStringLiteral("headlines 1 "), QStringLiteral("headlines 2 ")}},
+        {ListIndex::Search,
+         {QStringLiteral("headlines 1 "), QStringLiteral("headlines 2 "), QStringLiteral("headlines 16 "),
+          QStringLiteral("headlines 52 ")}},
+        {ListIndex::Warrant, {QStringLiteral("headlines 52 ")}},
+    };
+    for (const Case& c : cases) {
+        HeadlineList& tested = list(c.list);
+        tested.vSetTable(ReadServiceTable(backEnd, 52, TableKind::ByDate, day));
+        backEnd.asked.clear();
+        tested.vRefill();
+        ASSERT_EQ(backEnd.asked.size(), c.asked.size());
+        for (qsizetype i = 0; i < c.asked.size(); ++i)
+            EXPECT_TRUE(backEnd.asked[i].startsWith(c.asked[i])) << backEnd.asked[i].toStdString();
+    }
+    list(ListIndex::Category);
+    list(ListIndex::Symbol);
+    list(ListIndex::Relation);
+    EXPECT_TRUE(lists.bRebuildCategory(QStringLiteral("7")));
+    EXPECT_EQ(rows(lists[ListIndex::Category]).size(), 2);
+    EXPECT_EQ(lists[ListIndex::Category].Text(0, 0), QStringLiteral("03/02 09:00"));
+    EXPECT_TRUE(lists.bRebuildSymbol({16, QStringLiteral("2330")}));
+    EXPECT_FALSE(lists.bRebuildSymbol({16, QStringLiteral("233")}));
+    EXPECT_FALSE(lists.bRebuildRelation(day, {}));
+    EXPECT_TRUE(lists.bRebuildRelation(day, {{1, {7}, {QStringLiteral("2")}}}));
+    EXPECT_EQ(rows(lists[ListIndex::Relation]), QStringList{QStringLiteral("09:00 | Markets | 2")});
+}
+
+TEST_F(HeadlineListTest, TheRelationTestSkipsHeadlinesThatAreNotAtHand) {
+    backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("RATE not at hand"), 7, {}, false);
+    backEnd.add(1, localTime(2026, 3, 2, 8, 0), 2, QStringLiteral("OIL"), 7);
+    backEnd.add(1, localTime(2026, 3, 2, 7, 0), 3, QStringLiteral("RATE"), 7);
+    list(ListIndex::Relation);
+    EXPECT_TRUE(lists.bRebuildRelation(day, {{1, {7}, {QStringLiteral("RATE")}}}));
+    EXPECT_EQ(rows(lists[ListIndex::Relation]), QStringList{QStringLiteral("07:00 | Markets | RATE")});
+}
+
+TEST_F(HeadlineListTest, TwoColumnsHaveNoCategory) {
+    owner.newsType = 1;
+    backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("two"), 7);
+    HeadlineList& all = list(ListIndex::All);
+    lists.bRebuildAllNews(day);
+    EXPECT_EQ(rows(all), QStringList{QStringLiteral("09:00 | two")});
+    EXPECT_FALSE(all.TextColour(0, 1).isValid());
+    const int written = owner.rowsWritten;
+    all.vFillHeadline();
+    EXPECT_EQ(owner.rowsWritten, written) << "the title is compared in column 1";
+}
+
+TEST_F(HeadlineListTest, NothingHappensWithoutAGridOrARow) {
+    backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("unseen"));
+    EXPECT_TRUE(lists.bRebuildAllNews(day));
+    EXPECT_EQ(owner.rowsWritten, 0);
+    lists[ListIndex::All].vFillTempHeadline();
+    lists[ListIndex::All].vUpdateHeadline(0, {}, true);
+    lists[ListIndex::All].vUpdateHeadline(-1, {}, true);
+    lists[ListIndex::All].vUpdateHeadline(99, {}, true);
+    EXPECT_EQ(owner.rowsWritten, 0);
+
+    // The grid may be destroyed before the list, and the list before the grid.
+    delete list(ListIndex::Search).pGetGrid();
+    lists[ListIndex::Search].vRefill();
+    EXPECT_EQ(lists[ListIndex::Search].pGetGrid(), nullptr);
+}

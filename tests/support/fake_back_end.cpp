@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "tests/support/fake_back_end.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+
+void FakeBackEnd::add(unsigned char service, std::int64_t time, std::int32_t sequence, const QString& title,
+                      std::int32_t category, const QString& symbol, bool atHand) {
+    CHeadline headline;
+    headline.service = service;
+    headline.time = time;
+    headline.sequence = sequence;
+    headline.title = title;
+    headline.categoryId = category;
+    pieces.push_back({headline, symbol, atHand});
+}
+
+void FakeBackEnd::RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
+                                  const std::vector<CSymbolInfo>& removed) {
+    for (const CSymbolInfo& symbol : added)
+        registrations[view].insert(symbol.market);
+    for (const CSymbolInfo& symbol : removed)
+        registrations[view].erase(symbol.market);
+}
+
+void FakeBackEnd::UnregisterSymbols(NewsReceiver* view) {
+    registrations.erase(view);
+}
+
+bool FakeBackEnd::BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& out) {
+    out = services;
+    return !out.empty();
+}
+
+bool FakeBackEnd::BKQNEWS_bGetFullNameByService(QString& name, unsigned char service) {
+    name = QStringLiteral("Service %1").arg(service);
+    return true;
+}
+
+QString FakeBackEnd::BKQNEWS_cszGetCurrDateByService(unsigned char) {
+    return QStringLiteral("20260302");
+}
+
+bool FakeBackEnd::bNewsAPI_GetNewsCatId(unsigned char service, std::vector<QString>& ids,
+                                        std::vector<QString>& names) {
+    ids.clear();
+    names.clear();
+    for (const auto& [id, name] : categories[service]) {
+        ids.push_back(id);
+        names.push_back(name);
+    }
+    return !ids.empty();
+}
+
+template <class Wanted>
+int FakeBackEnd::append(std::vector<CHeadlineTable>& table, unsigned char service, Wanted wanted) const {
+    int count = 0;
+    for (const Piece& piece : pieces) {
+        if (piece.headline.service != service || !wanted(piece))
+            continue;
+        table.push_back({piece.headline.time, piece.headline.sequence, service, 0, 0});
+        ++count;
+    }
+    return count;
+}
+
+int FakeBackEnd::BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>& table, unsigned char service,
+                                           const CSymbolInfo& symbol) {
+    asked.append(QStringLiteral("table %1 symbol %2").arg(service).arg(symbol.code));
+    return append(table, service, [&](const Piece& piece) { return piece.symbol == symbol.code; });
+}
+
+int FakeBackEnd::BKQNEWS_iGetHeadlineTable(unsigned char service, std::vector<CHeadlineTable>& table,
+                                           int kind, const QString& key) {
+    asked.append(QStringLiteral("table %1 %2 %3").arg(service).arg(kind).arg(key));
+    return append(table, service, [&](const Piece& piece) {
+        const QDate day = QDateTime::fromSecsSinceEpoch(piece.headline.time).date();
+        return kind == 0 ? day.toString(QStringLiteral("yyyyMMdd")) == key
+                         : QString::number(piece.headline.categoryId) == key;
+    });
+}
+
+int FakeBackEnd::BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadline>& headlines,
+                                      const std::vector<CHeadlineTable>& entries) {
+    int count = 0;
+    QStringList sequences;
+    for (const CHeadlineTable& entry : entries) {
+        sequences.append(QString::number(entry.sequence));
+        const auto piece = std::find_if(pieces.begin(), pieces.end(), [&](const Piece& candidate) {
+            return KeyOf(candidate.headline) == KeyOf(entry);
+        });
+        if (piece == pieces.end() || !piece->atHand || entry.service != service)
+            continue;
+        headlines.push_back(piece->headline);
+        ++count;
+    }
+    asked.append(QStringLiteral("headlines %1 [%2]").arg(service).arg(sequences.join(u' ')));
+    return count;
+}
+
+void FakeBackEnd::LangConvertToSimplifiedChinese(const QString& in, QString& out) {
+    out = in;
+    out.replace(QStringLiteral("聞"), QStringLiteral("闻"))
+        .replace(QStringLiteral("資"), QStringLiteral("资"));
+}
+
+std::int64_t localTime(int year, int month, int day, int hour, int minute, int second) {
+    return QDateTime(QDate(year, month, day), QTime(hour, minute, second)).toSecsSinceEpoch();
+}

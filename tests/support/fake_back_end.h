@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/bk_quote_interface.h"
+
+#include <QHash>
+#include <QStringList>
+
+#include <map>
+#include <set>
+#include <vector>
+
+// A back end for tests: holds headlines in memory, answers like a real one, and writes down what it was
+// asked.
+class FakeBackEnd : public BKQuoteInterface {
+public:
+    FakeBackEnd() { SetBKInterface(this); }
+
+    // Adds a headline; `atHand` false: its table entry is known, its title is not.
+    void add(unsigned char service, std::int64_t time, std::int32_t sequence, const QString& title,
+             std::int32_t category = 0, const QString& symbol = {}, bool atHand = true);
+
+    std::vector<unsigned char> services{1, 2, 16, 22, 52, 122};
+    std::map<unsigned char, std::vector<std::pair<QString, QString>>> categories;  // id text, name
+    std::set<unsigned char> unauthorised;
+    bool simplified = false;
+    bool connected = true;
+    QString sysPath = QStringLiteral("/nonexistent");
+    QStringList asked;  // "table 1 0 20260302", "headlines 1 [3 2]", ...
+    std::map<NewsReceiver*, std::set<unsigned char>> registrations;
+
+    void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
+                         const std::vector<CSymbolInfo>& removed) override;
+    void UnregisterSymbols(NewsReceiver* view) override;
+    bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& out) override;
+    bool BKQNEWS_bGetFullNameByService(QString& name, unsigned char service) override;
+    QString BKQNEWS_cszGetCurrDateByService(unsigned char service) override;
+    bool bNewsAPI_GetNewsCatId(unsigned char service, std::vector<QString>& ids,
+                               std::vector<QString>& names) override;
+    int BKQCheckAuthSupport(unsigned char service) override {
+        return unauthorised.count(service) == 0 ? 1 : 0;
+    }
+    int bIsConnect() override { return connected ? 1 : 0; }
+    int BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>& table, unsigned char service,
+                                  const CSymbolInfo& symbol) override;
+    int BKQNEWS_iGetHeadlineTable(unsigned char service, std::vector<CHeadlineTable>& table, int kind,
+                                  const QString& key) override;
+    int BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadline>& headlines,
+                             const std::vector<CHeadlineTable>& entries) override;
+    bool BKQNEWS_bGetStory(CStory&, const CHeadlineTable&) override { return false; }
+    QString LangGetLangString(const QString& key) override { return texts.value(key, key); }
+    bool LangIsConvertToSimplified(const unsigned char&) override { return simplified; }
+    void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
+    QString PathGetSysPath() override { return sysPath; }
+
+    QHash<QString, QString> texts;  // language texts; a key without one is its own text
+
+private:
+    struct Piece {
+        CHeadline headline;
+        QString symbol;
+        bool atHand;
+    };
+    template <class Wanted>
+    int append(std::vector<CHeadlineTable>& table, unsigned char service, Wanted wanted) const;
+
+    std::vector<Piece> pieces;
+};
+
+// Seconds since 1970 of a local time; the tests run in UTC+8.
+std::int64_t localTime(int year, int month, int day, int hour, int minute, int second = 0);
