@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/my_rich_edit.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QMimeData>
+#include <QTextCursor>
+#include <QTextDocumentFragment>
+
+MyRichEdit::MyRichEdit(QWidget* parent) : QTextEdit(parent) {
+    setReadOnly(true);
+    setAcceptRichText(false);
+    setUndoRedoEnabled(false);
+    setTabChangesFocus(true);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    applyColours();
+}
+
+void MyRichEdit::vSetText(const QString& text) {
+    shown = text;
+    setPlainText(text);
+}
+
+void MyRichEdit::vSetTextColor(const QColor& colour) {
+    textColour = colour;
+    applyColours();
+}
+
+void MyRichEdit::vSetBkColor(const QColor& colour) {
+    background = colour;
+    applyColours();
+}
+
+void MyRichEdit::applyColours() {
+    const QPalette standard = QApplication::palette(this);
+    QPalette own;
+    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
+        own.setBrush(QPalette::Inactive, role, standard.brush(QPalette::Active, role));
+    if (textColour.isValid())
+        own.setColor(QPalette::Text, textColour);
+    if (background.isValid())
+        own.setColor(QPalette::Base, background);
+    setPalette(own);
+}
+
+void MyRichEdit::changeEvent(QEvent* event) {
+    QTextEdit::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        applyColours();
+}
+
+QMimeData* MyRichEdit::createMimeDataFromSelection() const {
+    auto* copied = new QMimeData;
+    copied->setText(textCursor().selection().toPlainText());
+    return copied;
+}

@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+// Captions of buttons and tabs take '&' as the mark of a key. Names are data: these write one so that its '&'
+// is shown, and read it back.
+QString CaptionOfName(QString name);
+QString NameOfCaption(QString caption);

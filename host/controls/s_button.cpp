@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/s_button.h"
+
+#include "host/controls/plain_caption.h"
+
+#include <QStyleOptionButton>
+
+SButton::SButton(QWidget* parent) : QPushButton(parent) {
+    setAutoDefault(false);
+}
+
+void SButton::vSetText(const QString& text) {
+    setText(CaptionOfName(text));
+    setAccessibleName(text);
+}
+
+QString SButton::szGetText() const {
+    return NameOfCaption(text());
+}
+
+void SButton::initStyleOption(QStyleOptionButton* option) const {
+    QPushButton::initStyleOption(option);
+    const QRect room = style()->subElementRect(QStyle::SE_PushButtonContents, option, this);
+    option->text =
+        option->fontMetrics.elidedText(option->text, Qt::ElideRight, room.width(), Qt::TextShowMnemonic);
+}

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPushButton>
+
+// A push button that cuts a text too long for it with dots instead of at both ends.
+class SButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    explicit SButton(QWidget* parent = nullptr);
+
+    // Shows the text as it stands, with its '&'. (setText makes a key of what follows an '&'.)
+    void vSetText(const QString& text);
+    // The text as vSetText took it.
+    QString szGetText() const;
+
+protected:
+    void initStyleOption(QStyleOptionButton* option) const override;
+};

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDateEdit>
+
+// A date picker with a drop-down calendar, which F4, Alt+Down and the arrow open. It tells of the user's
+// changes only, at once and in this order: DropDown, any number of DateTimeChange, CloseUp. Esc closes the
+// calendar and goes back to the date it was opened with.
+class SDateTimeCtrl : public QDateEdit {
+    Q_OBJECT
+
+public:
+    explicit SDateTimeCtrl(QWidget* parent = nullptr);
+
+    // Sets the date and tells nobody. An invalid date is ignored.
+    void vSetDate(const QDate& date);
+    bool bIsDropped() const { return dropped; }
+
+signals:
+    // The calendar opens.
+    void DropDown();
+    // The user changed the date, in the line or in the open calendar.
+    void DateTimeChange(const QDate& date);
+    // The calendar has closed, with this date in force.
+    void CloseUp(const QDate& date);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void openCalendar();
+
+    QDate dateAtOpening;
+    bool dropped = false;
+};

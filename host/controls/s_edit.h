@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLineEdit>
+
+// A line of text. `textEdited` tells of the user's changes, `textChanged` of those in code too.
+class SEdit : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit SEdit(QWidget* parent = nullptr);
+};

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+// Which of `count` items, texts "CODE NAME", fit what was typed: at most `most` indexes, an exact code first,
+// then codes that begin with it, then names that contain it; each group in the items' order, cases alike.
+// Nothing fits an empty text.
+std::vector<int> SymbolMatches(const QString& typed, int count, const std::function<QString(int)>& text,
+                               int most);

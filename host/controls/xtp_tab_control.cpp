@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/xtp_tab_control.h"
+
+#include "host/controls/plain_caption.h"
+
+#include <QSignalBlocker>
+
+CXTPTabControl::CXTPTabControl(QWidget* parent) : QTabBar(parent) {
+    setExpanding(false);
+    setDrawBase(false);
+    setUsesScrollButtons(true);
+    setElideMode(Qt::ElideNone);
+    connect(this, &QTabBar::currentChanged, this, &CXTPTabControl::SelChange);
+}
+
+int CXTPTabControl::iInsertTab(const QString& text, int itemData) {
+    const QSignalBlocker silent(this);
+    const int index = addTab(CaptionOfName(text));
+    setTabData(index, itemData);
+    return index;
+}
+
+void CXTPTabControl::vSetTabText(int index, const QString& text) {
+    setTabText(index, CaptionOfName(text));
+}
+
+QString CXTPTabControl::szGetTabText(int index) const {
+    return NameOfCaption(tabText(index));
+}
+
+int CXTPTabControl::iGetItemData(int index) const {
+    return tabData(index).toInt();
+}
+
+void CXTPTabControl::SetCurSel(int index) {
+    const QSignalBlocker silent(this);
+    setCurrentIndex(index);
+}

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTabBar>
+
+// A strip of tabs with a number each. Texts are data: their '&' is shown.
+class CXTPTabControl : public QTabBar {
+    Q_OBJECT
+
+public:
+    explicit CXTPTabControl(QWidget* parent = nullptr);
+
+    // Appends a tab and returns its index; the first one becomes the selected one.
+    int iInsertTab(const QString& text, int itemData);
+    void vSetTabText(int index, const QString& text);
+    QString szGetTabText(int index) const;
+    // 0 for an index out of range.
+    int iGetItemData(int index) const;
+
+    // The selected tab; -1 when there is none.
+    int GetCurSel() const { return currentIndex(); }
+    // Selects a tab and tells nobody. An index out of range is ignored.
+    void SetCurSel(int index);
+
+signals:
+    // The user selected another tab, by mouse, wheel or keys.
+    void SelChange(int index);
+};
