@@ -7,16 +7,27 @@
 
 SheetDelegate::SheetDelegate(QAbstractItemView* sheet) : QStyledItemDelegate(sheet), view(sheet) {}
 
-QColor SheetDelegate::background(const QModelIndex& index, bool selected) const {
-    const bool current = colours.marking && view->currentIndex().row() == index.row();
-    if (selected || current)
-        return colours.MarkBackground(view->hasFocus(), view->palette());
-    return colours.RowBackground((index.row() % 2 == 1) != firstRowOdd, view->palette());
+bool SheetDelegate::isMarkedCurrent(const QModelIndex& index) const {
+    return colours.marking && view->currentIndex().row() == index.row();
+}
+
+void SheetDelegate::paintBackground(QPainter& painter, const QRect& cell, const QModelIndex& index,
+                                    bool selected) const {
+    const bool current = isMarkedCurrent(index);
+    const bool odd = (index.row() % 2 == 1) != firstRowOdd;
+    painter.fillRect(cell, selected || current ? colours.MarkBackground(view->hasFocus(), view->palette())
+                                               : colours.RowBackground(odd, view->palette()));
+    if (!current || !view->hasFocus())
+        return;
+    QColor line = colours.Text(view->palette());
+    line.setAlpha(70);
+    painter.fillRect(QRect(cell.left(), cell.top(), cell.width(), 1), line);
+    painter.fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), line);
 }
 
 void SheetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const {
-    painter->fillRect(option.rect, background(index, option.state.testFlag(QStyle::State_Selected)));
+    paintBackground(*painter, option.rect, index, option.state.testFlag(QStyle::State_Selected));
     const QString text = index.data(Qt::DisplayRole).toString();
     if (text.isEmpty())
         return;

@@ -24,7 +24,8 @@ public:
     bool firstRowOdd = false;  // row 0 has the colour of odd rows
 
 private:
-    QColor background(const QModelIndex& index, bool selected) const;
+    bool isMarkedCurrent(const QModelIndex& index) const;
+    void paintBackground(QPainter& painter, const QRect& cell, const QModelIndex& index, bool selected) const;
 
     const QAbstractItemView* view;
 };

@@ -28,7 +28,8 @@ void SheetHeader::paintSection(QPainter* painter, const QRect& rect, int logical
     QColor line = shownText();
     line.setAlpha(60);
     painter->fillRect(rect, shownBackground());
-    painter->fillRect(QRect(rect.right(), rect.top() + 3, 1, rect.height() - 6), line);
+    if (rect.right() < viewport()->width() - 1)
+        painter->fillRect(QRect(rect.right(), rect.top() + 3, 1, rect.height() - 6), line);
     painter->fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), line);
     const QRect room = rect.adjusted(SheetDelegate::margin, 0, -SheetDelegate::margin, -1);
     const QVariant alignment = model()->headerData(logicalIndex, Qt::Horizontal, Qt::TextAlignmentRole);

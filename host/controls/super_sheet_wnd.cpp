@@ -81,12 +81,12 @@ void CSuperSheetWnd::vSetSmoothHorizontalScroll(bool smooth) {
 }
 
 void CSuperSheetWnd::vSetHeaderRowHeight(int height) {
-    headerHeight = std::max(1, height);
+    wantedHeaderHeight = std::max(1, height);
     applyHeights();
 }
 
 void CSuperSheetWnd::vSetRowHeight(int height) {
-    rowHeight = std::max(1, height);
+    wantedRowHeight = std::max(1, height);
     applyHeights();
 }
 
@@ -96,8 +96,8 @@ int CSuperSheetWnd::heightFor(int height) const {
 }
 
 void CSuperSheetWnd::applyHeights() {
-    header->setFixedHeight(heightFor(headerHeight));
-    verticalHeader()->setDefaultSectionSize(heightFor(rowHeight));
+    header->setFixedHeight(heightFor(wantedHeaderHeight));
+    verticalHeader()->setDefaultSectionSize(heightFor(wantedRowHeight));
     updateGeometries();
 }
 
@@ -228,6 +228,7 @@ void CSuperSheetWnd::changeEvent(QEvent* event) {
 
 void CSuperSheetWnd::initStyleOption(QStyleOptionFrame* option) const {
     QTableView::initStyleOption(option);
-    if (frameColour.isValid())
-        option->palette.setColor(QPalette::WindowText, frameColour);
+    QColor faint = palette().color(QPalette::WindowText);
+    faint.setAlpha(80);
+    option->palette.setColor(QPalette::WindowText, frameColour.isValid() ? frameColour : faint);
 }

@@ -125,7 +125,7 @@ private:
     std::vector<int> widths;  // as set or dragged, before stretching; 0: hidden
     QColor frameColour;
     QSize toldSize;
-    int rowHeight = 20;
-    int headerHeight = 20;
+    int wantedRowHeight = 20;
+    int wantedHeaderHeight = 20;
     bool stretching = false;
 };
