@@ -177,6 +177,6 @@ void ControlSet::vLoadLanguageString() {
     auto* strip = Find<CXTPTabControl>(ids::tabStrip);
     for (int i = 0; strip != nullptr && i < strip->count(); ++i) {
         if (const auto mode = ListOfNumber(strip->iGetItemData(i)))
-            strip->setTabText(i, LangText(backEnd, ModeOf(*mode).captionKey));
+            strip->vSetTabText(i, LangText(backEnd, ModeOf(*mode).captionKey));
     }
 }

@@ -5,6 +5,7 @@
 #include "headline_list/cell_texts.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/clock.h"
+#include "host/contract/item_display.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/sc_combo_box.h"
@@ -12,7 +13,7 @@
 #include "story/news_story_view.h"
 #include "story/trv_news_story.h"
 
-#include <QDateTime>
+#include <algorithm>
 
 TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
     : TRVQuoteBaseView(parent),

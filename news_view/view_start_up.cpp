@@ -4,6 +4,7 @@
 #include "headline_list/cell_texts.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/ini_file.h"
+#include "host/contract/sync_info.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"

@@ -36,7 +36,7 @@ QVariantMap TRVNewsCtrlView::State() const {
     if (const auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip)) {
         for (int i = 0; i < strip->count(); ++i) {
             tabs.append(QVariantMap{{QStringLiteral("mode"), strip->iGetItemData(i)},
-                                    {QStringLiteral("text"), strip->tabText(i)},
+                                    {QStringLiteral("text"), strip->szGetTabText(i)},
                                     {QStringLiteral("selected"), i == strip->GetCurSel()}});
         }
     }

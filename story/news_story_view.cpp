@@ -63,7 +63,7 @@ void NewsStoryView::vChangeCast() {
         if (edit == nullptr)
             continue;
         edit->setFont(paneFont);
-        edit->vSetBackgroundColor(colBackground);
+        edit->vSetBkColor(colBackground);
         edit->vSetTextColor(colText);
     }
     vSetComponentPos();

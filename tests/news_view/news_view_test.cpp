@@ -1,0 +1,326 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/contract/clock.h"
+#include "host/contract/sync_info.h"
+#include "host/controls/registered_message.h"
+#include "host/controls/s_button.h"
+#include "host/controls/sc_combo_box.h"
+#include "host/controls/xtp_tab_control.h"
+#include "news_view/control_ids.h"
+#include "news_view/trv_news_ctrl_view.h"
+#include "tests/support/fake_back_end.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace {
+
+// A terminal in small: one frame, one view over a fake back end, on the morning of 2 March 2026.
+class NewsViewTest : public testing::Test {
+protected:
+    NewsViewTest() {
+        host_clock::startAt(localTime(2026, 3, 2, 9, 30));
+        backEnd.sysPath = folder.path();
+        writeFile(QStringLiteral("NewsService.ini"), "[CONFIG]\nCatId=1,2\nSHORTNAME=Markets,Economy\n");
+        for (const unsigned char service : backEnd.services)
+            backEnd.categories[service] = {{QStringLiteral("1"), QStringLiteral("Markets")},
+                                           {QStringLiteral("2"), QStringLiteral("Economy")}};
+        backEnd.categories[52] = {{QStringLiteral("1"), QStringLiteral("Issue")}};
+    }
+
+    void writeFile(const QString& name, const QByteArray& bytes) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    // A news item of 2 March; its title tells its service and time.
+    void addNews(unsigned char service, int hour, int minute, std::int32_t sequence,
+                 std::int32_t category = 1, const QString& symbol = {}) {
+        backEnd.add(service, localTime(2026, 3, 2, hour, minute), sequence,
+                    QStringLiteral("s%1 %2:%3").arg(service).arg(hour).arg(minute, 2, 10, QLatin1Char('0')),
+                    category, symbol);
+    }
+
+    TRVNewsCtrlView& open(const QMap<QString, QVariant>& stored = {}, int newsType = 0) {
+        settings.values = stored;
+        frame.resize(1000, 700);
+        view = std::make_unique<TRVNewsCtrlView>(&frame);
+        view->resize(1000, 700);
+        view->OnInitialUpdate();
+        view->vSetNewsType(newsType);
+        view->InitialViewInfo(&settings, QStringLiteral("Layout"), 0, 0, {});
+        frame.show();
+        return *view;
+    }
+
+    QStringList titles(int list) const {
+        QStringList result;
+        CSuperSheetWnd* sheet = view->Sheet(list);
+        for (int row = 0; sheet != nullptr && row < sheet->iGetRowCount(); ++row)
+            result.append(sheet->model()->index(row, sheet->model()->columnCount() - 1).data().toString());
+        return result;
+    }
+
+    QList<int> tabModes() const {
+        QList<int> modes;
+        const QVariantList tabs = view->State()[QStringLiteral("tabs")].toList();
+        for (const QVariant& tab : tabs)
+            modes.append(tab.toMap()[QStringLiteral("mode")].toInt());
+        return modes;
+    }
+
+    bool isShown(int id) const {
+        const QWidget* control = GetDlgItem(view.get(), id);
+        return control != nullptr && !control->isHidden();
+    }
+
+    QTemporaryDir folder;
+    FakeBackEnd backEnd;
+    MemoryCfgIO settings;
+    QWidget frame;
+    std::unique_ptr<TRVNewsCtrlView> view;
+};
+
+}  // namespace
+
+TEST_F(NewsViewTest, OpensWithTheDayNewestFirst) {
+    addNews(1, 9, 0, 1);
+    addNews(2, 9, 10, 1);
+    addNews(16, 8, 0, 1, 2);
+    addNews(52, 9, 20, 1);
+    open();
+    EXPECT_EQ(titles(0), (QStringList{QStringLiteral("s2 9:10"), QStringLiteral("s1 9:00"),
+                                      QStringLiteral("s16 8:00")}));
+    EXPECT_EQ(view->Sheet(0)->model()->index(2, 1).data().toString(), QStringLiteral("Economy"));
+    EXPECT_EQ(backEnd.registrations[view.get()], (std::set<unsigned char>{1, 2, 16, 22, 122}));
+    CHeadlineTable entry;
+    EXPECT_TRUE(view->bGetHeadlineTable(entry, 0, 2));
+    EXPECT_EQ(entry.service, 16);
+    EXPECT_FALSE(view->bGetHeadlineTable(entry, 0, 3));
+    EXPECT_FALSE(view->bGetHeadlineTable(entry, 7, 0));
+    EXPECT_EQ(view->iGetHeadlineTableSize(0), 3);
+    EXPECT_EQ(view->iGetHeadlineTableSize(7), -1);
+    EXPECT_EQ(KeyOf(view->GetHeadlineTable(99)), HeadlineKey());
+    NewsReceiver* receiver = view.get();
+    view.reset();
+    EXPECT_EQ(backEnd.registrations.count(static_cast<NewsReceiver*>(receiver)), 0U);
+}
+
+TEST_F(NewsViewTest, TheMaskDecidesTabsAndGrids) {
+    struct Case {
+        const char* what;
+        int mask;
+        QByteArray switches;
+        QList<int> tabs;
+        QList<int> grids;
+    };
+    const Case cases[] = {
+        {"the default", 0x6F, "", {0, 1, 2, 3, 5}, {0, 1, 2, 3, 5}},
+        {"all", 0x7F, "ShowNormalSearch=1\n", {0, 1, 2, 3, 4, 5}, {0, 1, 2, 3, 4, 5}},
+        {"the warning-term tab stands before the warrants",
+         0x7F,
+         "ShowWarningSearch=1\n",
+         {0, 1, 2, 3, 6, 5},
+         {0, 1, 2, 3, 5, 6}},
+        {"a switch must be 1", 0x48, "ShowNormalSearch=2\nShowWarningSearch=yes\n", {3}, {3}},
+        {"one function has no tab strip", 0x01, "", {}, {0}},
+        {"unknown bits are ignored", 0x101, "", {}, {0}},
+        {"only warrants", 0x20, "", {}, {5}},
+    };
+    for (const Case& c : cases) {
+        writeFile(QStringLiteral("Application.ini"), "[NewsCtrlSearchView]\n" + c.switches);
+        open({{QStringLiteral("EnabledFunctions"), c.mask}});
+        EXPECT_EQ(tabModes(), c.tabs) << c.what;
+        QList<int> grids;
+        for (int list = 0; list < listCount; ++list) {
+            if (view->Sheet(list) != nullptr)
+                grids.append(list);
+        }
+        EXPECT_EQ(grids, c.grids) << c.what;
+        EXPECT_EQ(GetDlgItem(view.get(), ids::tabStrip) == nullptr, c.tabs.isEmpty()) << c.what;
+    }
+}
+
+TEST_F(NewsViewTest, EachModeShowsItsControlsAndItsGrid) {
+    writeFile(QStringLiteral("Application.ini"), "[NewsCtrlSearchView]\nShowNormalSearch=1\n");
+    open({{QStringLiteral("EnabledFunctions"), 0x7F}});
+    const QMap<int, QList<int>> shown = {{0, {3009, 3010}},       {1, {3004, 3010}},
+                                         {2, {3005, 3010, 3011}}, {3, {3002, 3007, 3008, 3010}},
+                                         {4, {3001, 3010}},       {5, {}}};
+    for (auto mode = shown.begin(); mode != shown.end(); ++mode) {
+        view->SwitchFunction(mode.key());
+        for (const int id : {3001, 3002, 3004, 3005, 3006, 3007, 3008, 3009, 3010, 3011})
+            EXPECT_EQ(isShown(id), mode->contains(id)) << "mode " << mode.key() << ", control " << id;
+        for (int list = 0; list < listCount; ++list) {
+            if (CSuperSheetWnd* sheet = view->Sheet(list)) {
+                EXPECT_EQ(!sheet->isHidden(), list == mode.key());
+            }
+        }
+        EXPECT_EQ(view->pGetCurrSheetView(), view->Sheet(mode.key()));
+    }
+    view->SwitchFunction(7);
+    view->SwitchFunction(-1);
+    EXPECT_EQ(view->State()[QStringLiteral("mode")].toInt(), 5)
+        << "a number outside the modes changes nothing";
+}
+
+TEST_F(NewsViewTest, ListsAreReadAsTheirModeSays) {
+    addNews(1, 9, 0, 1, 1, QStringLiteral("2330"));
+    addNews(52, 9, 5, 1);
+    open({{QStringLiteral("EnabledFunctions"), 0x7F}, {QStringLiteral("SymbolID"), QStringLiteral("2330")}});
+    const auto tablesAsked = [this](int mode) {
+        backEnd.asked.clear();
+        view->SwitchFunction(mode);
+        return backEnd.asked.filter(QStringLiteral("table "));
+    };
+    EXPECT_EQ(tablesAsked(0), QStringList()) << "all news was read when the view opened";
+    const QStringList symbol = tablesAsked(2);
+    EXPECT_EQ(symbol.size(), 5);
+    EXPECT_EQ(symbol.front(), QStringLiteral("table 1 symbol 2330"));
+    EXPECT_EQ(titles(2), QStringList{QStringLiteral("s1 9:00")});
+    EXPECT_EQ(tablesAsked(2), symbol) << "read at every switch";
+    EXPECT_EQ(tablesAsked(5), QStringList{QStringLiteral("table 52 0 20260302")});
+    EXPECT_EQ(titles(5), QStringList{QStringLiteral("s52 9:05")});
+    EXPECT_EQ(view->Sheet(5)->model()->index(0, 1).data().toString(), QStringLiteral("Issue"));
+    EXPECT_EQ(view->Sheet(5)->model()->index(0, 0).data().toString(), QStringLiteral("03/02 09:05"));
+    EXPECT_EQ(tablesAsked(5).size(), 1);
+    EXPECT_EQ(tablesAsked(0), QStringList());
+    std::vector<unsigned char> active;
+    view->vGetNewsActiveService(active);
+    EXPECT_EQ(active, (std::vector<unsigned char>{1, 2, 16, 22, 122}))
+        << "the warrant mode leaves the user's choice";
+    tablesAsked(1);
+    EXPECT_EQ(titles(1), QStringList{QStringLiteral("s1 9:00")});
+}
+
+TEST_F(NewsViewTest, AUserPicksACategoryAndATab) {
+    addNews(1, 9, 0, 1, 1);
+    addNews(1, 9, 1, 2, 2);
+    open({{QStringLiteral("FocusedTab"), 1}, {QStringLiteral("CategoryID"), QStringLiteral("2")}});
+    EXPECT_EQ(titles(1), QStringList{QStringLiteral("s1 9:01")}) << "opens with the stored category";
+    auto* combo = qobject_cast<SCComboBox*>(GetDlgItem(view.get(), ids::categoryCombo));
+    ASSERT_NE(combo, nullptr);
+    QTest::keyClick(combo, Qt::Key_Up);
+    EXPECT_EQ(titles(1), QStringList{QStringLiteral("s1 9:00")});
+
+    auto* strip = qobject_cast<CXTPTabControl*>(GetDlgItem(view.get(), ids::tabStrip));
+    ASSERT_NE(strip, nullptr);
+    QTest::mouseClick(strip, Qt::LeftButton, {}, strip->tabRect(3).center());
+    EXPECT_EQ(view->State()[QStringLiteral("mode")].toInt(), 3);
+}
+
+TEST_F(NewsViewTest, OpensWithAModeThatExists) {
+    struct Case {
+        const char* what;
+        QMap<QString, QVariant> stored;
+        int newsType;
+        int mode;
+    };
+    const QString mask = QStringLiteral("EnabledFunctions");
+    const QString tab = QStringLiteral("FocusedTab");
+    const Case cases[] = {
+        {"the stored one", {{tab, 3}}, 0, 3},
+        {"one without a grid", {{tab, 5}, {mask, 0x0E}}, 0, 1},
+        {"a number that is no mode", {{tab, 99}}, 0, 0},
+        {"symbol news only", {}, 1, 2},
+        {"symbol news only, by type", {}, 2, 2},
+        {"without a pane", {}, 3, 0},
+        {"a mask without functions", {{mask, 0}}, 0, 0},
+    };
+    for (const Case& c : cases) {
+        open(c.stored, c.newsType);
+        EXPECT_EQ(view->State()[QStringLiteral("mode")].toInt(), c.mode) << c.what;
+        EXPECT_EQ(GetDlgItem(view.get(), ids::showTypeButton) != nullptr, c.newsType == 0) << c.what;
+        EXPECT_EQ(GetDlgItem(view.get(), ids::firstChildView + ids::storyPane) != nullptr, c.newsType == 0)
+            << c.what;
+    }
+    backEnd.unauthorised = {16};
+    open({{tab, 2}});
+    EXPECT_EQ(view->State()[QStringLiteral("mode")].toInt(), 0)
+        << "the symbol mode needs the right to see service 16";
+    EXPECT_EQ(view->Sheet(2), nullptr);
+}
+
+TEST_F(NewsViewTest, SurvivesABackEndWithoutServices) {
+    backEnd.services.clear();
+    open({{QStringLiteral("EnabledFunctions"), 0x7F}});
+    EXPECT_EQ(view->Sheet(5), nullptr);
+    for (int mode = 0; mode < listCount; ++mode)
+        view->SwitchFunction(mode);
+    EXPECT_EQ(view->State()[QStringLiteral("services")].toList().size(), 0);
+}
+
+TEST_F(NewsViewTest, ChangesWithin100MsAreOneRefresh) {
+    addNews(1, 9, 0, 1);
+    open();
+    QTest::qWait(ids::refreshDelayMs + 50);
+    EXPECT_EQ(view->RunningTimers(), std::vector<int>());
+    backEnd.asked.clear();
+    for (int i = 0; i < 5; ++i)
+        view->vUpdateView();
+    EXPECT_EQ(view->RunningTimers(), std::vector<int>{ids::refreshTimer});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }, 2000));
+    EXPECT_EQ(backEnd.asked.size(), 5) << "one question to each of the five ticked services";
+}
+
+TEST_F(NewsViewTest, OnlyTheCurrentGridsWidthChangeRefreshes) {
+    open();
+    const QEvent::Type changeSize = RegisterMessage(QStringLiteral("RVMSG_CHANGESIZE"));
+    const auto sentBy = [&](int list) {
+        view->KillTimer(ids::refreshTimer);
+        SendRegisteredMessage(view.get(), changeSize, reinterpret_cast<quintptr>(view->Sheet(list)));
+        return !view->RunningTimers().empty();
+    };
+    sentBy(0);
+    EXPECT_FALSE(sentBy(0)) << "the width is the stored one";
+    view->resize(900, 700);
+    sentBy(1);
+    EXPECT_FALSE(sentBy(0)) << "another mode's grid has recorded the width already";
+}
+
+TEST_F(NewsViewTest, TheStoryTakesItsShareInThreeWays) {
+    open();
+    auto* button = qobject_cast<SButton*>(GetDlgItem(view.get(), ids::showTypeButton));
+    ASSERT_NE(button, nullptr);
+    const auto gridSize = [this] { return view->Sheet(0)->size(); };
+    EXPECT_EQ(view->GetStoryShowType(), 1);
+    EXPECT_EQ(gridSize().width(), 500);
+    EXPECT_EQ(view->GetSheetWidth(), 500);
+    const int whole = gridSize().height();
+    button->click();
+    EXPECT_EQ(view->GetStoryShowType(), 2);
+    EXPECT_EQ(gridSize(), QSize(1000, whole - 200));
+    button->click();
+    EXPECT_EQ(view->GetStoryShowType(), 0);
+    EXPECT_EQ(gridSize(), QSize(1000, whole));
+    EXPECT_EQ(view->GetSheetWidth(), 1000);
+    button->click();
+    EXPECT_EQ(view->GetStoryShowType(), 1);
+}
+
+TEST_F(NewsViewTest, HidingTheCategoryColumnKeepsTheColumn) {
+    open({{QStringLiteral("ShowCategory"), false}});
+    EXPECT_EQ(view->Sheet(0)->iGetColWidth(1), 0);
+    EXPECT_EQ(view->Sheet(0)->model()->columnCount(), 3);
+    view->ChangeCurrViewCategoryState(true);
+    EXPECT_EQ(view->Sheet(0)->iGetColWidth(1), 50);
+}
+
+TEST_F(NewsViewTest, WhatIsSavedOpensTheSame) {
+    open({{QStringLiteral("Sheet0ServiceCheck2"), true}, {QStringLiteral("NewsShowType"), 2}});
+    view->SwitchFunction(5);
+    MemoryCfgIO saved;
+    view->SaveViewInfo(&saved, QStringLiteral("Layout"), 0, 0);
+    EXPECT_FALSE(saved.values.isEmpty());
+    open(saved.values);
+    EXPECT_EQ(view->GetStoryShowType(), 2);
+    view->SwitchFunction(0);
+    std::vector<unsigned char> active;
+    view->vGetNewsActiveService(active);
+    EXPECT_EQ(active, std::vector<unsigned char>{2});
+}

@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/view_layout.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// A view of 1000 x 700 pixels with a font of 16 pixels: unit width 70, page buttons 64, control row 31..51.
+LayoutInput ordinary() {
+    LayoutInput in;
+    in.client = QRect(0, 0, 1000, 700);
+    in.fontHeight = 16;
+    in.firstTabHeight = 20;
+    in.serviceCount = 6;
+    in.serviceComboText = 60;
+    in.symbolComboText = 100;
+    in.captionButtonWidth = 20;
+    in.showType = StoryShowType::None;
+    in.hasStoryPane = true;
+    in.hasAllNewsGrid = true;
+    return in;
+}
+
+}  // namespace
+
+TEST(ViewLayout, ControlsOfAnOrdinaryView) {
+    const ViewLayout out = LayOut(ordinary());
+    EXPECT_EQ(out.tabStrip, QRect(0, 0, 924, 22));
+    EXPECT_EQ(out.showTypeButton, QRect(924, 0, 73, 22));
+    EXPECT_EQ(out.serviceButton, QRect(4, 27, 76, 20));
+    EXPECT_EQ(out.relationButton, QRect(82, 27, 70, 20));
+    EXPECT_EQ(out.datePicker, QRect(84, 27, 102, 20));
+    EXPECT_EQ(out.categoryCombo, QRect(84, 27, 122, 20));
+    EXPECT_EQ(out.serviceCombo, QRect(84, 27, 80, 20));
+    EXPECT_EQ(out.symbolCombo, QRect(168, 27, 125, 20));
+    EXPECT_EQ(out.searchEdit, QRect(83, 27, 152, 20));
+    EXPECT_EQ(out.searchButton, QRect(237, 27, 70, 20));
+    EXPECT_EQ(out.dealsButton, QRect(309, 27, 76, 20));
+    EXPECT_EQ(out.pageDown, QRect(717, 27, 64, 20));
+    EXPECT_EQ(out.pageUp, QRect(784, 27, 64, 20));
+    EXPECT_EQ(out.saveAs, QRect(851, 27, 70, 20));
+    EXPECT_EQ(out.print, QRect(930, 27, 70, 20));
+    EXPECT_EQ(out.grid, QRect(0, 55, 1000, 645));
+    EXPECT_TRUE(out.storyPane.isEmpty());
+}
+
+TEST(ViewLayout, ALargerFontAndATitleMoveEverythingDown) {
+    LayoutInput in = ordinary();
+    in.fontHeight = 25;
+    in.firstTabHeight = 0;
+    in.titleHeight = 30;
+    const ViewLayout out = LayOut(in);
+    EXPECT_EQ(out.tabStrip, QRect(0, 30, 888, 31));
+    EXPECT_EQ(out.serviceButton, QRect(4, 66, 112, 29));
+    EXPECT_EQ(out.datePicker, QRect(120, 66, 156, 29));
+    EXPECT_EQ(out.grid, QRect(0, 103, 1000, 597));
+}
+
+TEST(ViewLayout, OneServiceNeedsNoButton) {
+    LayoutInput in = ordinary();
+    in.serviceCount = 1;
+    const ViewLayout out = LayOut(in);
+    EXPECT_EQ(out.serviceButton.width(), 0);
+    for (const QRect& control :
+         {out.relationButton, out.datePicker, out.categoryCombo, out.serviceCombo, out.searchEdit})
+        EXPECT_EQ(control.x(), 4);
+    EXPECT_EQ(out.searchEdit.width(), 152);
+}
+
+TEST(ViewLayout, PageButtonsGiveWayFromTheLast) {
+    struct Case {
+        int width;
+        int shown;
+    };
+    // The controls reach 385; each button needs 67 of what is left.
+    const Case cases[] = {{1000, 4}, {665, 4}, {652, 3}, {586, 3}, {585, 2},
+                          {519, 2},  {518, 1}, {452, 1}, {451, 0}, {200, 0}};
+    for (const Case& c : cases) {
+        LayoutInput in = ordinary();
+        in.client.setWidth(c.width);
+        const ViewLayout out = LayOut(in);
+        const int shown =
+            !out.pageDown.isEmpty() + !out.pageUp.isEmpty() + !out.saveAs.isEmpty() + !out.print.isEmpty();
+        EXPECT_EQ(shown, c.shown) << c.width;
+        EXPECT_EQ(out.pageDown.isEmpty(), c.shown < 1) << c.width;
+        EXPECT_EQ(out.print.isEmpty(), c.shown < 4) << c.width;
+    }
+}
+
+TEST(ViewLayout, TheStoryTakesItsShare) {
+    struct Case {
+        const char* what;
+        StoryShowType type;
+        int newsType, height;
+        bool quotes;
+        QRect grid, pane, relatedQuotes;
+    };
+    const Case cases[] = {
+        {"right", StoryShowType::Right, 0, 700, false, {0, 55, 500, 645}, {510, 55, 490, 645}, {}},
+        {"right with quotes",
+         StoryShowType::Right,
+         0,
+         700,
+         true,
+         {0, 55, 500, 645},
+         {510, 55, 490, 525},
+         {510, 580, 490, 120}},
+        {"right with quotes, low",
+         StoryShowType::Right,
+         0,
+         355,
+         true,
+         {0, 55, 500, 300},
+         {510, 55, 490, 200},
+         {510, 255, 490, 100}},
+        {"below", StoryShowType::Below, 0, 1000, false, {0, 55, 1000, 745}, {0, 800, 1000, 200}, {}},
+        {"below, low", StoryShowType::Below, 0, 500, false, {0, 55, 1000, 295}, {0, 350, 1000, 150}, {}},
+        {"below with quotes",
+         StoryShowType::Below,
+         0,
+         1000,
+         true,
+         {0, 55, 1000, 745},
+         {0, 800, 500, 200},
+         {500, 800, 500, 200}},
+        {"no pane for this news type", StoryShowType::Right, 1, 700, false, {0, 55, 1000, 645}, {}, {}},
+    };
+    for (const Case& c : cases) {
+        LayoutInput in = ordinary();
+        in.client.setHeight(c.height);
+        in.showType = c.type;
+        in.newsType = c.newsType;
+        in.hasRelatedQuotes = c.quotes;
+        const ViewLayout out = LayOut(in);
+        EXPECT_EQ(out.grid, c.grid) << c.what;
+        EXPECT_EQ(out.storyPane, c.pane) << c.what;
+        EXPECT_EQ(out.relatedQuotes, c.relatedQuotes) << c.what;
+        EXPECT_EQ(out.storyHidesHeadline, c.type == StoryShowType::Right && c.newsType == 0) << c.what;
+    }
+}
+
+TEST(ViewLayout, SymbolAndWarrantGridsUseTheFreeRow) {
+    LayoutInput in = ordinary();
+    EXPECT_EQ(LayOut(in).gridWithoutControls, LayOut(in).grid);
+    in.hasAllNewsGrid = false;
+    EXPECT_EQ(LayOut(in).gridWithoutControls, QRect(0, 24, 1000, 676));
+}
+
+TEST(ViewLayout, NoSizeIsTooSmall) {
+    for (const int size : {0, 1, 20, 60}) {
+        LayoutInput in = ordinary();
+        in.client = QRect(0, 0, size, size);
+        for (const StoryShowType type : {StoryShowType::None, StoryShowType::Right, StoryShowType::Below}) {
+            in.showType = type;
+            in.hasRelatedQuotes = true;
+            const ViewLayout out = LayOut(in);
+            for (const QRect& rectangle : {out.tabStrip, out.grid, out.storyPane, out.relatedQuotes})
+                EXPECT_TRUE(rectangle.width() >= 0 && rectangle.height() >= 0) << size;
+        }
+    }
+}
