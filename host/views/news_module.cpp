@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/views/news_module.h"
 
+#include <QFileInfo>
 #include <QObject>
 #include <QPluginLoader>
 
 NewsModule* LoadNewsModule(const QString& file, QString& error) {
-    QPluginLoader loader(file);
+    QPluginLoader loader(QFileInfo(file).absoluteFilePath());
     QObject* plugin = loader.instance();
     if (plugin == nullptr) {
         error = QStringLiteral("The news module %1 cannot be loaded: %2").arg(file, loader.errorString());
