@@ -24,7 +24,9 @@ CQuoteComboBoxAuto::CQuoteComboBoxAuto(QWidget* parent)
     completer->setModel(offered);
     completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     completer->setWidget(lineEdit());
-    lineEdit()->installEventFilter(this);
+    // What the line holds becomes an item by an offer only, not by being spelt out when the line is left.
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+    connect(this, &QComboBox::activated, this, &CQuoteComboBoxAuto::stopTyping);
     connect(lineEdit(), &QLineEdit::textEdited, this, &CQuoteComboBoxAuto::offer);
     connect(completer, qOverload<const QModelIndex&>(&QCompleter::activated), this,
             [this](const QModelIndex& index) { take(index.row()); });
@@ -66,19 +68,21 @@ void CQuoteComboBoxAuto::stopTyping() {
     completer->popup()->hide();
 }
 
-bool CQuoteComboBoxAuto::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != lineEdit() || !typing)
-        return SCComboBox::eventFilter(watched, event);
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            take(0);
-            return true;
-        }
-    } else if (event->type() == QEvent::FocusOut &&
-               static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
-        stopTyping();
-        setEditText(itemText(currentIndex()));
+void CQuoteComboBoxAuto::keyPressEvent(QKeyEvent* event) {
+    if (typing && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+        take(0);
+        event->accept();
+        return;
     }
-    return SCComboBox::eventFilter(watched, event);
+    SCComboBox::keyPressEvent(event);
+}
+
+void CQuoteComboBoxAuto::focusOutEvent(QFocusEvent* event) {
+    SCComboBox::focusOutEvent(event);
+    const bool comesBack =
+        event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+    if (!typing || comesBack)
+        return;
+    stopTyping();
+    setEditText(itemText(currentIndex()));
 }

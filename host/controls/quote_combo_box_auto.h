@@ -23,7 +23,8 @@ public:
     explicit CQuoteComboBoxAuto(QWidget* parent = nullptr);
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void offer(const QString& typed);

@@ -7,6 +7,7 @@
 #include "host/controls/sheet_header.h"
 #include "host/controls/thin_bar_style.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QResizeEvent>
 #include <QScrollBar>
@@ -73,7 +74,8 @@ void CSuperSheetWnd::vSetThinBar(bool thin) {
         style = new ThinBarStyle(this);
     for (QScrollBar* bar : {verticalScrollBar(), horizontalScrollBar()})
         bar->setStyle(thin ? style : nullptr);
-    updateGeometries();
+    QEvent anew(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(this, &anew);
 }
 
 void CSuperSheetWnd::vSetSmoothHorizontalScroll(bool smooth) {

@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/my_rich_edit.h"
+#include "host/controls/s_button.h"
+#include "host/controls/sc_combo_box.h"
+#include "host/controls/xt_tip_window.h"
+#include "host/controls/xtp_tab_control.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextBlock>
+
+#include <gtest/gtest.h>
+
+TEST(Tabs, TellOfTheUserOnlyAndKeepTheirNumbers) {
+    CXTPTabControl tabs;
+    QSignalSpy told(&tabs, &CXTPTabControl::SelChange);
+    EXPECT_EQ(tabs.GetCurSel(), -1);
+    EXPECT_EQ(tabs.iInsertTab(QStringLiteral("All"), 0), 0);
+    EXPECT_EQ(tabs.iInsertTab(QStringLiteral("Category"), 1), 1);
+    EXPECT_EQ(tabs.iInsertTab(QStringLiteral("Warrants"), 5), 2);
+    EXPECT_EQ(tabs.GetCurSel(), 0);
+    tabs.SetCurSel(2);
+    EXPECT_EQ(tabs.GetCurSel(), 2);
+    for (const int outside : {3, -1})
+        tabs.SetCurSel(outside);
+    EXPECT_EQ(tabs.GetCurSel(), 2);
+    EXPECT_EQ(tabs.iGetItemData(2), 5);
+    EXPECT_EQ(tabs.iGetItemData(3), 0);
+    EXPECT_EQ(told.count(), 0);
+
+    tabs.show();
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
+    QTest::keyClick(&tabs, Qt::Key_Right);
+    ASSERT_EQ(told.count(), 2);
+    EXPECT_EQ(told[0][0].toInt(), 1);
+    EXPECT_EQ(told[1][0].toInt(), 2);
+}
+
+// '&' is shown as itself: a name with one looks like the same name with "&&" where that means a plain '&'.
+TEST(PlainText, ShowsAmpersandsOfNames) {
+    const QString name = QStringLiteral("R&D && Co");
+    const QString caption = QStringLiteral("R&&D &&&& Co");
+
+    SButton button;
+    QPushButton plain;
+    button.vSetText(name);
+    EXPECT_EQ(button.szGetText(), name);
+    EXPECT_EQ(button.text(), caption);
+    EXPECT_TRUE(button.shortcut().isEmpty());
+    button.setText(QStringLiteral("&Search"));  // a key where one is wanted
+    EXPECT_EQ(button.shortcut(), QKeySequence(Qt::ALT | Qt::Key_S));
+
+    CXTPTabControl tabs;
+    tabs.iInsertTab(name, 1);
+    EXPECT_EQ(tabs.tabText(0), caption);
+    EXPECT_EQ(tabs.szGetTabText(0), name);
+    tabs.vSetTabText(0, QStringLiteral("a&b"));
+    EXPECT_EQ(tabs.szGetTabText(0), QStringLiteral("a&b"));
+
+    // A combo needs no doubling: with '&' taken for a mark, both texts would be drawn alike.
+    const auto picture = [](const QString& text) {
+        SCComboBox combo;
+        combo.resize(120, 24);
+        combo.addItem(text);
+        return combo.grab().toImage();
+    };
+    EXPECT_NE(picture(QStringLiteral("a&b")), picture(QStringLiteral("ab")));
+    EXPECT_NE(picture(QStringLiteral("a&b")), picture(QStringLiteral("a&&b")));
+}
+
+TEST(Button, CutsATextThatIsTooLongWithDots) {
+    const QString text = QStringLiteral("Select news services & more");
+    SButton button;
+    button.vSetText(text);
+    button.resize(60, 24);
+    const QImage narrow = button.grab().toImage();
+    QPushButton dotted;
+    dotted.setAutoDefault(false);
+    dotted.resize(60, 24);
+    // Among the dotted beginnings there is one that looks the same.
+    bool found = false;
+    for (qsizetype length = 1; length < text.size() && !found; ++length) {
+        dotted.setText(text.left(length) + QChar(0x2026));
+        found = dotted.grab().toImage() == narrow;
+    }
+    EXPECT_TRUE(found);
+    EXPECT_EQ(button.szGetText(), text);
+}
+
+TEST(RichEdit, ShowsTextAsItStandsAndGivesItBack) {
+    MyRichEdit edit;
+    const QString text = QStringLiteral("2026/03/10 09:00:00 \r\n<b>AT&amp;T</b> up\r\n\r\nlast  \nline");
+    edit.vSetText(text);
+    EXPECT_EQ(edit.szGetText(), text);
+    QStringList shown;
+    for (QTextBlock block = edit.document()->begin(); block.isValid(); block = block.next())
+        shown << block.text();
+    EXPECT_EQ(shown,
+              (QStringList{QStringLiteral("2026/03/10 09:00:00 "), QStringLiteral("<b>AT&amp;T</b> up"),
+                           QString(), QStringLiteral("last  "), QStringLiteral("line")}));
+    edit.show();
+    QTest::keyClicks(&edit, QStringLiteral("typed"));
+    EXPECT_EQ(edit.document()->blockCount(), 5);
+    edit.selectAll();
+    edit.copy();
+    const QMimeData* copied = QApplication::clipboard()->mimeData();
+    EXPECT_EQ(copied->formats(), QStringList{QStringLiteral("text/plain")});
+    EXPECT_TRUE(copied->text().contains(QStringLiteral("<b>AT&amp;T</b>")));
+}
+
+TEST(RichEdit, KeepsTheSelectionInSightWithoutTheKeyboard) {
+    QWidget window;
+    auto* edit = new MyRichEdit(&window);
+    auto* line = new QLineEdit(&window);
+    edit->setGeometry(0, 0, 200, 100);
+    line->setGeometry(0, 110, 200, 20);
+    QPalette colours;
+    colours.setColor(QPalette::Active, QPalette::Highlight, QColor(1, 2, 250));
+    colours.setColor(QPalette::Inactive, QPalette::Highlight, Qt::white);
+    QApplication::setPalette(colours);
+    edit->vSetTextColor(QColor(200, 0, 0));
+    edit->vSetBkColor(QColor(20, 30, 40));
+    edit->vSetText(QStringLiteral("selected words"));
+    window.show();
+    edit->selectAll();
+    line->setFocus();
+    const QImage picture = edit->viewport()->grab().toImage();
+    QApplication::setPalette(QPalette());
+    int marked = 0;
+    for (int x = 0; x < picture.width(); ++x)
+        marked += picture.pixelColor(x, 6) == QColor(1, 2, 250) ? 1 : 0;
+    EXPECT_GT(marked, 40);
+    EXPECT_EQ(picture.pixelColor(150, 80), QColor(20, 30, 40));
+}
+
+TEST(TipWindow, StandsCentredOnThePointAndGoesInTime) {
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    CXTTipWindow tip(&window);
+    const QPoint centre(300, 200);
+    tip.vShow(centre, QStringLiteral("<b>No news</b> & none"), 60);
+    EXPECT_TRUE(tip.isVisible());
+    EXPECT_EQ(tip.windowTitle(), QString());
+    EXPECT_EQ(tip.textFormat(), Qt::PlainText);
+    EXPECT_LE((tip.geometry().center() - centre).manhattanLength(), 2);
+    EXPECT_FALSE(tip.isActiveWindow());
+    EXPECT_TRUE(QTest::qWaitFor([&tip] { return !tip.isVisible(); }));
+
+    tip.vShow(centre, QStringLiteral("until stopped"), 0);
+    tip.vStop();
+    EXPECT_FALSE(tip.isVisible());
+    tip.vShow(centre, QStringLiteral("clicked"), 10'000);
+    QTest::mouseClick(&tip, Qt::LeftButton);
+    EXPECT_FALSE(tip.isVisible());
+}
+
+TEST(TipWindow, StaysOnTheScreenAndTakesTheNewTime) {
+    CXTTipWindow tip;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const QPoint& corner : {screen.topLeft(), screen.bottomRight()}) {
+        tip.vShow(corner, QString(400, u'W'), 10'000);
+        EXPECT_TRUE(screen.contains(tip.geometry()));
+        EXPECT_LE(tip.width(), screen.width() / 2);
+    }
+    QElapsedTimer shown;
+    tip.vShow(screen.center(), QStringLiteral("one"), 30);
+    shown.start();
+    tip.vShow(screen.center(), QStringLiteral("two"), 300);
+    EXPECT_EQ(tip.text(), QStringLiteral("two"));
+    EXPECT_TRUE(QTest::qWaitFor([&tip] { return !tip.isVisible(); }));
+    EXPECT_GE(shown.elapsed(), 250);
+}

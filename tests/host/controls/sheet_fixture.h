@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/controls/super_sheet_wnd.h"
+
+#include <QWidget>
+
+#include <gtest/gtest.h>
+#include <utility>
+#include <vector>
+
+// Cells that say where they are; counts how often they are asked.
+class NumberedCells : public SheetCells {
+public:
+    QString Text(int row, int column) const override;
+    QColor TextColour(int row, int column) const override;
+
+    mutable int asked = 0;
+    mutable int lowestAsked = 1 << 30;
+    mutable int highestAsked = -1;
+};
+
+// A window with a sheet of the headline columns (time 100, category 50, title 300), heights 16.
+class SheetFixture : public testing::Test {
+protected:
+    SheetFixture();
+
+    // Makes the sheet so high that exactly `rows` rows fit under its header, and shows it.
+    void showWithRows(int rows);
+    void showAt(const QSize& size);
+    std::vector<int> selection() const;
+
+    QWidget window;
+    NumberedCells cells;
+    CSuperSheetWnd* sheet;
+};

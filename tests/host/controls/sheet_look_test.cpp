@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/registered_message.h"
+#include "tests/host/controls/sheet_fixture.h"
+
+#include <QHeaderView>
+#include <QImage>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+
+namespace {
+
+using SheetLook = SheetFixture;
+
+// The colour of the left edge of a row on screen, where no text is.
+QColor rowColour(CSuperSheetWnd& sheet, int rowOnScreen) {
+    QCoreApplication::processEvents();
+    return sheet.viewport()->grab().toImage().pixelColor(1, rowOnScreen * 16 + 8);
+}
+
+bool holds(const QImage& picture, const QColor& colour) {
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (picture.pixelColor(x, y) == colour)
+                return true;
+    return false;
+}
+
+class Listener : public QWidget {
+public:
+    bool event(QEvent* happened) override {
+        if (happened->type() == RegisterMessage(QStringLiteral("RVMSG_CHANGESIZE")))
+            senders.push_back(static_cast<RegisteredMessageEvent*>(happened)->firstParameter);
+        return QWidget::event(happened);
+    }
+
+    std::vector<quintptr> senders;
+};
+
+}  // namespace
+
+TEST_F(SheetLook, HeightsAreExactAndGrowForTallFonts) {
+    QFont font = sheet->font();
+    font.setPixelSize(12);
+    sheet->vSetFont(font);
+    sheet->vAddRows(3);
+    showAt({600, 300});
+    const int small = QFontMetrics(font).height();
+    ASSERT_LE(small, 16);
+    EXPECT_EQ(sheet->rowHeight(2), 16);
+    EXPECT_EQ(sheet->horizontalHeader()->height(), 16);
+    EXPECT_EQ(sheet->viewport()->height(), 300 - 16 - 2 * sheet->frameWidth());
+    font.setPixelSize(30);
+    sheet->vSetFont(font);
+    const int tall = QFontMetrics(font).height() + 2;
+    EXPECT_EQ(sheet->rowHeight(2), tall);
+    EXPECT_EQ(sheet->horizontalHeader()->height(), tall);
+    font.setPixelSize(12);
+    sheet->vSetFont(font);
+    EXPECT_EQ(sheet->rowHeight(2), 16);
+}
+
+TEST_F(SheetLook, TheLastColumnStretchesButKeepsItsWidth) {
+    const int frame = 2 * sheet->frameWidth();
+    const struct {
+        int width;
+        std::vector<std::pair<int, int>> set;  // column, width
+        std::vector<int> widths;
+    } steps[] = {
+        {600 + frame, {}, {100, 50, 450}},         {400 + frame, {}, {100, 50, 300}},
+        {600 + frame, {{1, 0}}, {100, 0, 500}},    {600 + frame, {{1, 50}}, {100, 50, 450}},
+        {600 + frame, {{0, 200}}, {200, 50, 350}}, {600 + frame, {{2, 0}}, {200, 400, 0}},
+        {600 + frame, {{2, 700}}, {200, 50, 700}}, {600 + frame, {{3, 9}, {-1, 9}, {0, -4}}, {200, 50, 700}}};
+    for (const auto& step : steps) {
+        showAt({step.width, 300});
+        for (const auto& [column, width] : step.set)
+            sheet->vSetColWidth(column, width);
+        for (int column = 0; column < 3; ++column)
+            EXPECT_EQ(sheet->iGetColWidth(column), step.widths[column]) << step.width << ' ' << column;
+    }
+    sheet->vClearRows();
+    sheet->vAddRows(10);
+    static_cast<CSheetBuilder*>(sheet->model())->vSetRowCount(5);
+    EXPECT_EQ(sheet->iGetColWidth(0), 200);  // a reset is no reason to lose them
+    EXPECT_EQ(sheet->iGetColWidth(2), 700);
+}
+
+TEST_F(SheetLook, TheUserDragsColumnsButNotHiddenOnes) {
+    showAt({600, 300});
+    const auto drag = [this](int from, int to) {
+        QWidget* header = sheet->horizontalHeader()->viewport();
+        QTest::mousePress(header, Qt::LeftButton, {}, {from, 8});
+        QTest::mouseMove(header, {(from + to) / 2, 8});
+        QTest::mouseMove(header, {to, 8});
+        QTest::mouseRelease(header, Qt::LeftButton, {}, {to, 8});
+    };
+    drag(99, 139);
+    EXPECT_EQ(sheet->iGetColWidth(0), 140);
+    EXPECT_EQ(sheet->iGetColWidth(2), 600 - 2 * sheet->frameWidth() - 190);
+    sheet->vSetColWidth(1, 0);
+    drag(139, 99);
+    drag(101, 130);  // right of the edge where the hidden column is
+    EXPECT_EQ(sheet->iGetColWidth(1), 0);
+    EXPECT_EQ(sheet->iGetColWidth(0) + sheet->iGetColWidth(2), 600 - 2 * sheet->frameWidth());
+}
+
+TEST_F(SheetLook, TellsItsParentOnceOfEachNewSize) {
+    Listener parent;
+    parent.resize(500, 500);
+    auto* inner = new CSuperSheetWnd(new CSheetBuilder, &parent);
+    inner->bCreateSheet();
+    inner->vInsertColumn(50);
+    parent.show();
+    inner->setGeometry(0, 0, 300, 100);
+    QCoreApplication::processEvents();
+    parent.senders.clear();
+    inner->setGeometry(0, 0, 200, 100);
+    inner->setGeometry(0, 20, 200, 100);  // moved only
+    inner->vAddRows(100);                 // a scroll bar comes: the viewport shrinks, the sheet does not
+    QCoreApplication::processEvents();
+    EXPECT_EQ(parent.senders, std::vector<quintptr>{reinterpret_cast<quintptr>(inner)});
+}
+
+TEST_F(SheetLook, RowsAlternateAndKeepTheirColourWhileOthersComeAbove) {
+    const QColor first(10, 20, 30);
+    const QColor second(90, 100, 110);
+    sheet->vSetBkColor(first, second);
+    sheet->vAddRows(4);
+    showAt({600, 300});
+    auto* builder = static_cast<CSheetBuilder*>(sheet->model());
+    EXPECT_EQ(rowColour(*sheet, 0), first);
+    EXPECT_EQ(rowColour(*sheet, 1), second);
+    EXPECT_EQ(rowColour(*sheet, 4), first);  // below the rows
+    builder->vInsertRows(0, 1);
+    EXPECT_EQ(rowColour(*sheet, 0), second);
+    EXPECT_EQ(rowColour(*sheet, 1), first);
+    builder->vInsertRows(0, 2);
+    EXPECT_EQ(rowColour(*sheet, 3), first);
+    builder->vRemoveRows(0, 1);
+    EXPECT_EQ(rowColour(*sheet, 2), first);
+    builder->vInsertRows(0, 1);
+    EXPECT_EQ(rowColour(*sheet, 0), second);
+    sheet->vResetRowBkColor();
+    EXPECT_EQ(rowColour(*sheet, 0), first);
+    builder->vInsertRows(0, 1);
+    sheet->vClearRows();
+    sheet->vAddRows(3);
+    EXPECT_EQ(rowColour(*sheet, 0), first);
+}
+
+TEST_F(SheetLook, TheCurrentRowIsMarkedByWhoHasTheKeyboard) {
+    auto* line = new QLineEdit(&window);
+    const QColor focused(1, 2, 3);
+    const QColor unfocused(4, 5, 6);
+    sheet->vSetBkColor(Qt::white, Qt::white);
+    sheet->vSetFocusColor(true, focused, unfocused);
+    sheet->vAddRows(5);
+    showAt({600, 300});
+    sheet->setFocus();
+    sheet->vSetActiveSelection(2, -1);
+    EXPECT_EQ(rowColour(*sheet, 2), focused);
+    EXPECT_EQ(rowColour(*sheet, 1), QColor(Qt::white));
+    line->setFocus();
+    EXPECT_EQ(rowColour(*sheet, 2), unfocused);
+    sheet->selectionModel()->clearSelection();
+    EXPECT_EQ(rowColour(*sheet, 2), unfocused);
+    sheet->vSetFocusColor(false, focused, unfocused);
+    EXPECT_EQ(rowColour(*sheet, 2), QColor(Qt::white));
+    sheet->selectRow(3);
+    EXPECT_EQ(rowColour(*sheet, 3), unfocused);
+}
+
+TEST_F(SheetLook, ColoursReachTextHeaderAndFrameAndFollowThePaletteWhenUnset) {
+    QFont solid = sheet->font();
+    solid.setStyleStrategy(QFont::NoAntialias);
+    sheet->vSetFont(solid);
+    sheet->vSetHeaderText(0, QStringLiteral("Time"));
+    sheet->vAddRows(3);
+    showAt({600, 300});
+    sheet->vSetFgColor(QColor(1, 1, 200));
+    sheet->vSetHeaderRowBkColor(QColor(2, 2, 2));
+    sheet->vSetHeaderRowFgColor(QColor(250, 3, 3));
+    sheet->vSetFrameColor(QColor(4, 250, 4));
+    QImage picture = sheet->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(0, 100), QColor(4, 250, 4));
+    EXPECT_EQ(picture.pixelColor(3, 4), QColor(2, 2, 2));
+    EXPECT_TRUE(holds(picture.copy(1, 1, 100, 15), QColor(250, 3, 3)));
+    EXPECT_TRUE(holds(picture.copy(1, 17, 100, 16), QColor(1, 1, 200)));
+    EXPECT_TRUE(holds(picture.copy(101, 17, 50, 16), QColor(Qt::red)));  // the cell's own
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(9, 9, 9));
+    dark.setColor(QPalette::Button, QColor(8, 8, 8));
+    window.setPalette(dark);
+    sheet->vSetHeaderRowBkColor({});
+    picture = sheet->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(3, 4), QColor(8, 8, 8));
+    EXPECT_EQ(rowColour(*sheet, 0), QColor(9, 9, 9));
+    EXPECT_EQ(rowColour(*sheet, 10), QColor(9, 9, 9));
+}
+
+TEST_F(SheetLook, ThinBarsComeAndGo) {
+    sheet->vAddRows(1000);
+    showAt({600, 300});
+    const int usual = sheet->verticalScrollBar()->width();
+    sheet->vSetThinBar(true);
+    EXPECT_EQ(sheet->verticalScrollBar()->width(), 8);
+    EXPECT_EQ(sheet->iGetColWidth(2), sheet->viewport()->width() - 150);
+    // A press in the groove, away from the thumb, turns the page; there are no arrows to hit.
+    QTest::mouseClick(sheet->verticalScrollBar(), Qt::LeftButton, {},
+                      {4, sheet->verticalScrollBar()->height() - 2});
+    EXPECT_EQ(sheet->iGetFirstVisibleRow(), sheet->verticalScrollBar()->pageStep());
+    sheet->vSetThinBar(false);
+    EXPECT_EQ(sheet->verticalScrollBar()->width(), usual);
+}
+
+TEST_F(SheetLook, IsNamedByItsHeadersUnlessNamedOtherwise) {
+    sheet->vSetHeaderText(0, QStringLiteral("Time"));
+    sheet->vSetHeaderText(2, QStringLiteral("Title"));
+    EXPECT_EQ(sheet->accessibleName(), QStringLiteral("Time, Title"));
+    sheet->setAccessibleName(QStringLiteral("Headlines"));
+    sheet->vSetHeaderText(2, QStringLiteral("Headline"));
+    EXPECT_EQ(sheet->accessibleName(), QStringLiteral("Headlines"));
+}
