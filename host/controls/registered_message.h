@@ -7,8 +7,8 @@
 
 class QWidget;
 
-// Messages that cross module boundaries are known by name: the same name gives the same event type in host and
-// module. Interface thread only.
+// Messages that cross module boundaries are known by name: the same name gives the same event type in host
+// and module. Interface thread only.
 QEvent::Type RegisterMessage(const QString& name);
 
 // A registered message with its two parameters.

@@ -4,8 +4,8 @@
 
 class QWidget;
 
-// Controls are addressed by number within their window: menus, scripts and tests find them so. The same number
-// may mean different controls in different windows.
+// Controls are addressed by number within their window: menus, scripts and tests find them so. The same
+// number may mean different controls in different windows.
 void SetWindowId(QWidget* control, int id);
 
 // The number of a control; 0 when it has none.
