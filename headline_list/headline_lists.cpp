@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/headline_lists.h"
 
-#include "headline_list/table_reading.h"
-
 HeadlineLists::HeadlineLists(BKQuoteInterface& newsBackEnd, ListOwner& listOwner)
     : backEnd(newsBackEnd), owner(listOwner) {
     for (const ListKind& kind : listKinds)
@@ -21,11 +19,6 @@ bool HeadlineLists::bRebuildAllNews(const QString& dateKey) {
     return bRebuild(ListIndex::All, ReadTables(backEnd, owner.vGetServices(), TableKind::ByDate, dateKey));
 }
 
-bool HeadlineLists::bRebuildCategory(const QString& categoryId) {
-    return bRebuild(ListIndex::Category,
-                    ReadTables(backEnd, owner.vGetServices(), TableKind::ByCategory, categoryId));
-}
-
 bool HeadlineLists::bRebuildSymbol(const CSymbolInfo& symbol) {
     return bRebuild(ListIndex::Symbol, ReadSymbolTables(backEnd, owner.vGetServices(), symbol));
 }
@@ -33,10 +26,21 @@ bool HeadlineLists::bRebuildSymbol(const CSymbolInfo& symbol) {
 bool HeadlineLists::bRebuildRelation(const QString& dateKey,
                                      const std::vector<RelationCondition>& conditions) {
     return bRebuild(ListIndex::Relation,
-                    ReadRelatedTables(backEnd, owner.vGetServices(), dateKey, conditions));
+                    ReadTables(backEnd, owner.vGetServices(), TableKind::ByDate, dateKey, &conditions));
 }
 
 bool HeadlineLists::bRebuildWarrant(const QString& dateKey) {
     return bRebuild(ListIndex::Warrant,
                     ReadServiceTable(backEnd, warrantService, TableKind::ByDate, dateKey));
+}
+
+void HeadlineLists::vChangeNewsTable(ListIndex list, TableKind kind, const QString& key,
+                                     RelationFilter filter) {
+    if ((*this)[list].pGetGrid() != nullptr)
+        bRebuild(list, ReadTables(backEnd, owner.vGetServices(), kind, key, filter));
+}
+
+void HeadlineLists::vChangeSymbolTable(const CSymbolInfo& symbol, RelationFilter filter) {
+    if ((*this)[ListIndex::Symbol].pGetGrid() != nullptr)
+        bRebuild(ListIndex::Symbol, ReadSymbolTables(backEnd, owner.vGetServices(), symbol, filter));
 }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "headline_list/headline_list.h"
-#include "headline_list/relation_condition.h"
+#include "headline_list/table_reading.h"
 
 #include <QString>
 
@@ -22,10 +22,13 @@ public:
     // Each rebuilds one table, gives its grid the rows at the top and writes the visible ones. True when
     // there are rows. Dates are keys: yyyymmdd.
     bool bRebuildAllNews(const QString& dateKey);
-    bool bRebuildCategory(const QString& categoryId);
     bool bRebuildSymbol(const CSymbolInfo& symbol);
     bool bRebuildRelation(const QString& dateKey, const std::vector<RelationCondition>& conditions);
     bool bRebuildWarrant(const QString& dateKey);
+
+    // Reads a list again after the set of chosen services has changed. A list without a grid is left alone.
+    void vChangeNewsTable(ListIndex list, TableKind kind, const QString& key, RelationFilter filter);
+    void vChangeSymbolTable(const CSymbolInfo& symbol, RelationFilter filter);
 
 private:
     bool bRebuild(ListIndex list, TableRuns runs);

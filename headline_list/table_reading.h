@@ -14,17 +14,16 @@
 // How the tables of lists are read from the back end: one run per selected service, in the order of the
 // services.
 
+// The headlines that pass one of these conditions stay; null: all stay.
+using RelationFilter = const std::vector<RelationCondition>*;
+
 // By a kind of table and its key: yyyymmdd, or a category id text.
 TableRuns ReadTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
-                     const QString& key);
+                     const QString& key, RelationFilter filter = nullptr);
 
 // By symbol.
 TableRuns ReadSymbolTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
-                           const CSymbolInfo& symbol);
-
-// The tables of a day, of which only the entries stay whose headline passes one of the conditions.
-TableRuns ReadRelatedTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
-                            const QString& dateKey, const std::vector<RelationCondition>& conditions);
+                           const CSymbolInfo& symbol, RelationFilter filter = nullptr);
 
 // One service's table, selected or not.
 TableRuns ReadServiceTable(BKQuoteInterface& backEnd, unsigned char service, TableKind kind,

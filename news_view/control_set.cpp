@@ -114,8 +114,13 @@ void ControlSet::vCreateCategoryCombo(const QRect& rectangle) {
 void ControlSet::CreateControls(ListIndex mode, const QRect& rectangle, const QFont& font) {
     switch (mode) {
         case ListIndex::Symbol:
-            vAdd<SCComboBox>(ids::serviceCombo, rectangle)->setFont(font);
-            vAdd<CQuoteComboBoxAuto>(ids::symbolCombo, rectangle)->setFont(font);
+            for (SCComboBox* combo :
+                 {vAdd<SCComboBox>(ids::serviceCombo, rectangle),
+                  static_cast<SCComboBox*>(vAdd<CQuoteComboBoxAuto>(ids::symbolCombo, rectangle))}) {
+                combo->setFont(font);
+                const int id = WindowId(combo);
+                QObject::connect(combo, &SCComboBox::SelChange, &view, [this, id] { view.OnCommand(id); });
+            }
             break;
         case ListIndex::Search:
             vAdd<SEdit>(ids::searchEdit, rectangle)->setFont(font);

@@ -16,8 +16,9 @@ public:
 
     // True when the list is to be read now; a list that is read once only is marked as read.
     bool bTakeLoad(ListIndex loading);
-    // True for the first call with this catalogue only.
+    // Each is true at its first call only.
     bool bTakeCategoryCatalogue() { return takeOnce(categoryCatalogueLoaded); }
+    bool bTakeSymbolInformation() { return takeOnce(symbolInformationLoaded); }
 
     // A list that has never been shown takes no pushed headlines.
     bool bWasShown(ListIndex list) const { return shown[static_cast<std::size_t>(list)]; }
@@ -27,4 +28,5 @@ private:
 
     std::array<bool, listCount> shown{};
     bool categoryCatalogueLoaded = false;
+    bool symbolInformationLoaded = false;
 };

@@ -71,8 +71,9 @@ void NewsServices::vClearSelection() {
         entry.selected = false;
 }
 
-bool NewsServices::bAnySelected() const {
-    return std::any_of(live.begin(), live.end(), [](const ServiceEntry& entry) { return entry.selected; });
+int NewsServices::iSelectedCount() const {
+    return static_cast<int>(
+        std::count_if(live.begin(), live.end(), [](const ServiceEntry& entry) { return entry.selected; }));
 }
 
 void NewsServices::vClearWarrantSelection() {

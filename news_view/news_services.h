@@ -39,7 +39,7 @@ public:
     void vRestoreSelection();
     // Unticks every service of the live list.
     void vClearSelection();
-    bool bAnySelected() const;
+    int iSelectedCount() const;
     // The warrant service is never ticked by the user; its list ticks it for itself.
     void vClearWarrantSelection();
 

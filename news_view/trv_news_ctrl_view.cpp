@@ -20,6 +20,7 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       backEnd(*BKQuoteInterface::GetBKInterface()),
       lists(backEnd, *this),
       controls(*this, backEnd),
+      symbols(backEnd, controls),
       pickedDate(host_clock::today()),
       newsDay(pickedDate) {}
 
@@ -47,13 +48,27 @@ bool TRVNewsCtrlView::OnCommand(int id) {
         case ids::categoryCombo:
             OnSelchangeComboIndex();
             return true;
+        case ids::symbolCombo:
+            OnSelchangeComboSymbol();
+            return true;
+        case ids::serviceCombo:
+            OnSelchangeComboService();
+            return true;
+        case ids::serviceButton:
+            OnSelectService();
+            return true;
+        case ids::changeCategoryState:
+            OnChangeCategoryState();
+            return true;
         default:
-            return TRVQuoteBaseView::OnCommand(id);
+            if (id < ids::firstServiceCommand || id > ids::lastServiceCommand)
+                return TRVQuoteBaseView::OnCommand(id);
+            OnSelectCheckService(static_cast<unsigned int>(id));
+            return true;
     }
 }
 
-// --- Deferred refresh
-// ----------------------------------------------------------------------------------------------
+// --- Deferred refresh ---
 
 void TRVNewsCtrlView::vUpdateView() {
     KillTimer(ids::refreshTimer);
@@ -93,8 +108,7 @@ void TRVNewsCtrlView::OnChangeSize(quintptr sender) {
         vUpdateView();
 }
 
-// --- Lists
-// ------------------------------------------------------------------------------------------------------------
+// --- Lists ---
 
 bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
     const auto index = ListOfNumber(number);
@@ -108,9 +122,16 @@ bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
         case ListIndex::Category:
             List(*index).vRefill();
             return true;
-        case ListIndex::Symbol:
-            GetSymbolNews(newsSymbol.code);
-            return !newsSymbol.code.isEmpty();
+        case ListIndex::Symbol: {
+            const QString code = symbols.Current().code;
+            if (const int row = symbols.iSymbolIndex(code); row >= 0)
+                symbols.vSelectSymbol(row);
+            if (symbolFromLink)
+                OnSelchangeComboSymbol();
+            else
+                GetSymbolNews(code);
+            return !code.isEmpty();
+        }
         case ListIndex::Search: {
             const bool warningTerms =
                 switches.showWarningSearch &&
@@ -133,13 +154,6 @@ bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
     if (!hasRows)
         statusText.clear();
     return hasRows;
-}
-
-void TRVNewsCtrlView::GetSymbolNews(const QString& code) {
-    if (NewsStoryView* pane = stage.pGetPane())
-        pane->OnClearStory();
-    newsSymbol.code = code;
-    lists.bRebuildSymbol(newsSymbol);
 }
 
 HeadlineList* TRVNewsCtrlView::CurrentList() {
@@ -183,68 +197,4 @@ int TRVNewsCtrlView::GetSheetWidth() const {
 QString TRVNewsCtrlView::PickedDateKey() const {
     const bool hasPicker = controls.Find<SDateTimeCtrl>(ids::datePicker) != nullptr;
     return DateKey(hasPicker ? pickedDate : QDate());
-}
-
-// --- Categories
-// -------------------------------------------------------------------------------------------------------
-
-QString TRVNewsCtrlView::cszTransferCatIDToCatName(int id) const {
-    const bool warrants = currentMode == static_cast<int>(ListIndex::Warrant);
-    const QString* name = warrants ? warrantCategories.NameOf(id) : nullptr;
-    if (name == nullptr)
-        name = categories.NameOf(id);
-    return name != nullptr ? *name : LangText(backEnd, keys::recover);
-}
-
-int TRVNewsCtrlView::GetCategoryIDbyName(const QString& name) const {
-    return categories.GetCategoryIDbyName(name);
-}
-
-int TRVNewsCtrlView::GetCategoryColor(const QString& name, QColor& text, QColor& background) const {
-    const int id = GetCategoryIDbyName(name);
-    if (id < 0)
-        return 0;
-    TRVItemDisplay::GetItemDisplay()->GetNewsCatColor(id, text, background);
-    return 1;
-}
-
-void TRVNewsCtrlView::ChangeCurrViewCategoryState(bool show) {
-    CSuperSheetWnd* sheet = pGetCurrSheetView();
-    if (newsType == 1 || sheet == nullptr)
-        return;
-    sheet->vSetColWidth(1, show ? categoryColumnWidth : 0);
-}
-
-void TRVNewsCtrlView::vFillCategoryCombo() {
-    auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
-    if (combo == nullptr)
-        return;
-    combo->clear();
-    categoryComboIds.clear();
-    for (const ServiceEntry& entry : services.Entries()) {
-        std::vector<QString> idTexts;
-        std::vector<QString> names;
-        if (!entry.selected || !backEnd.bNewsAPI_GetNewsCatId(entry.service, idTexts, names))
-            continue;
-        for (std::size_t i = 0; i < std::min(idTexts.size(), names.size()); ++i) {
-            if (std::find(categoryComboIds.begin(), categoryComboIds.end(), idTexts[i]) !=
-                categoryComboIds.end())
-                continue;
-            categoryComboIds.push_back(idTexts[i]);
-            combo->addItem(ShownText(backEnd, entry.service, names[i]));
-        }
-    }
-    const auto stored = std::find(categoryComboIds.begin(), categoryComboIds.end(), settings.categoryId);
-    combo->setCurrentIndex(
-        stored == categoryComboIds.end() ? 0 : static_cast<int>(stored - categoryComboIds.begin()));
-    OnSelchangeComboIndex();
-}
-
-void TRVNewsCtrlView::OnSelchangeComboIndex() {
-    const auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
-    const int index = combo != nullptr ? combo->currentIndex() : -1;
-    if (index < 0 || index >= static_cast<int>(categoryComboIds.size()))
-        return;
-    settings.categoryId = categoryComboIds[static_cast<std::size_t>(index)];
-    lists.bRebuildCategory(settings.categoryId);
 }

@@ -13,6 +13,7 @@
 #include "news_view/mode_loading.h"
 #include "news_view/news_services.h"
 #include "news_view/story_stage.h"
+#include "news_view/symbol_binding.h"
 #include "news_view/view_layout.h"
 #include "news_view/view_settings.h"
 
@@ -38,8 +39,7 @@ public:
     Q_INVOKABLE explicit TRVNewsCtrlView(QWidget* parent = nullptr);
     ~TRVNewsCtrlView() override;
 
-    // --- The host's calls
-    // --------------------------------------------------------------------------------------
+    // --- The host's calls ---
 
     void OnInitialUpdate() override;
     void InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
@@ -50,8 +50,7 @@ public:
     void vChangeCast() override;
     bool OnCommand(int id) override;
 
-    // --- Modes and layout
-    // ----------------------------------------------------------------------------------------
+    // --- Modes and layout ---
 
     void SwitchFunction(int mode);
     void ShowHideCtrObject(int mode);
@@ -70,8 +69,7 @@ public:
     void vSetNewsType(int type) override { newsType = type; }
     int GetNewsType() const override { return newsType; }
 
-    // --- Lists
-    // -----------------------------------------------------------------------------------------------------
+    // --- Lists ---
 
     // Rebuilds the table of a list and fills its grid. True when the list has rows or needs no table of its
     // own; false for an index above 5, an absent grid, or an empty list 0 or 4.
@@ -88,11 +86,25 @@ public:
     void vGetNewsActiveService(std::vector<unsigned char>& services) const override;
     // The width that the story show type leaves for the grid.
     int GetSheetWidth() const;
-    // Reads the news of a symbol of the current news symbol's service into the symbol list.
+    // Reads the news of the current news symbol into the symbol list.
     void GetSymbolNews(const QString& code);
 
-    // --- Categories
-    // ------------------------------------------------------------------------------------------------
+    // --- Services and symbols ---
+
+    // Shows the service menu under its button.
+    void OnSelectService();
+    // Ticks or unticks the service of a menu command; the last ticked service stays ticked.
+    void OnSelectCheckService(unsigned int id);
+    void OnSelchangeComboService();
+    void OnSelchangeComboSymbol();
+    void OnSelSymbol(const QString& code);
+    bool bUpdateSymbolVec();
+    void ChangeSymbol(const QWidget* sender, unsigned char group, unsigned char service, const QString& code,
+                      const QString& name) override;
+    int GetCurrSymbolInfo(unsigned char& service, QString& code) override;
+    void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) override;
+
+    // --- Categories ---
 
     QString cszTransferCatIDToCatName(int id) const override;
     int GetCategoryIDbyName(const QString& name) const;
@@ -100,9 +112,9 @@ public:
     // Shows or hides the category column of the current grid; not in a view with two columns.
     void ChangeCurrViewCategoryState(bool show);
     void OnSelchangeComboIndex();
+    void OnChangeCategoryState();
 
-    // --- For the host's scripts
-    // ---------------------------------------------------------------------------------
+    // --- For the host's scripts ---
 
     QVariantMap State() const override;
     CSuperSheetWnd* Sheet(int list) const override;
@@ -137,7 +149,21 @@ private:
     // Modes.
     void vTakeServicesOver(ListIndex toLoad);
     void vLoadMode(ListIndex toLoad);
+    bool bInitialCategoryInfo();
+    void vRefreshCategoryCombo(const QString& name);
+    bool bInitialSymbolInfo();
+    void vSetNotSupported();
+    void vSetSupported();
+    void vDoNormalChangeSymbol(unsigned char service, const QString& code);
+    void vOnChangeServiceCombobox(unsigned char service);
+    void vOnChangeSymbolCombobox();
+    void vCheckServiceMenu();
     void vFillCategoryCombo();
+    void vReloadForServices();
+    // While the relation-search list is current, every reloaded table is filtered by its conditions: hosts
+    // rely on it.
+    const std::vector<RelationCondition>* vRelationFilter() const;
+    void vChangeNewsTable(ListIndex list, TableKind kind, const QString& key);
 
     // Lists and painting.
     void OnChangeSize(quintptr sender);
@@ -154,6 +180,7 @@ private:
     NewsServices services;
     HeadlineLists lists;
     ControlSet controls;
+    SymbolBinding symbols;
     StoryStage stage;
     CategoryCatalogue categories;
     CategoryCatalogue warrantCategories;
@@ -164,7 +191,6 @@ private:
     ViewSettings settings;
     std::unique_ptr<QMenu> serviceMenu;
 
-    CSymbolInfo newsSymbol;
     QString statusText;  // what the view has to say about its lists; empty most of the time
     QDate pickedDate;
     QDate newsDay;
@@ -172,6 +198,7 @@ private:
     int currentMode = 0;
     int lastClientWidth = 0;
     StoryShowType storyShowType = StoryShowType::None;
+    bool symbolFromLink = false;  // the host asked for the news of the linked symbol
     bool laidOut = false;
     bool initialised = false;
 };

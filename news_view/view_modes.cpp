@@ -73,19 +73,17 @@ void TRVNewsCtrlView::vTakeServicesOver(ListIndex toLoad) {
         services.vClearSelection();
         return;
     }
-    if (!services.bAnySelected() && !services.Entries().empty())
+    if (services.iSelectedCount() == 0 && !services.Entries().empty())
         services.vSelectInBoth(0);
-    const QList<QAction*> actions = serviceMenu != nullptr ? serviceMenu->actions() : QList<QAction*>();
-    for (QAction* action : actions) {
-        const auto service = static_cast<std::size_t>(action->data().toInt() - ids::firstServiceCommand);
-        action->setChecked(services.Entries().at(service).selected);
-    }
+    vCheckServiceMenu();
 }
 
 void TRVNewsCtrlView::vLoadMode(ListIndex toLoad) {
     const bool allNewsEnabled = (settings.functions & ModeOf(ListIndex::All).maskBit) != 0;
     if (toLoad == ListIndex::Category && allNewsEnabled && loading.bTakeCategoryCatalogue())
-        vFillCategoryCombo();
+        bInitialCategoryInfo();
+    if (toLoad == ListIndex::Symbol && allNewsEnabled && loading.bTakeSymbolInformation())
+        bInitialSymbolInfo();
     if (loading.bTakeLoad(toLoad))
         InitialHeadlineTable(static_cast<int>(toLoad));
 }

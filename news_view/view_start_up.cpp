@@ -81,10 +81,12 @@ void TRVNewsCtrlView::vTakeNewsType() {
     const bool symbolNewsOnly = newsType == 1 || newsType == 2;
     settings = ViewSettings::read(*settingsReader, settingsPath,
                                   symbolNewsOnly ? static_cast<int>(ListIndex::Symbol) : 0);
-    newsSymbol = {securitiesService, settings.symbolId};
+    symbolFromLink = CSyncInfo::GetSettingCFG()->SYS_bGetIsLinkNews();
+    symbols.vSetCurrent({securitiesService, {}});
     if (symbolNewsOnly) {
         settings.functions = symbolNewsMask;
-        newsSymbol.code = CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(GetLinkGroup());
+        symbols.vSetCurrent(
+            {securitiesService, CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(GetLinkGroup())});
     }
 }
 
@@ -192,8 +194,7 @@ void TRVNewsCtrlView::vInitialSheetWnd(ListIndex list, const QRect& rectangle) {
 
 void TRVNewsCtrlView::vOpenFocusedTab() {
     CSyncInfo* sync = CSyncInfo::GetSettingCFG();
-    int mode = sync->SYS_bGetIsLinkNews() ? static_cast<int>(ListIndex::Symbol)
-                                          : iGetFunctionID(settings.focusedTab);
+    int mode = symbolFromLink ? static_cast<int>(ListIndex::Symbol) : iGetFunctionID(settings.focusedTab);
     CheckInitialView(mode);
     if (auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip))
         strip->SetCurSel(iGetTabIndex(mode));
@@ -205,7 +206,8 @@ void TRVNewsCtrlView::vOpenFocusedTab() {
 void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, int first, int second) {
     const ViewSettingPath path{section, first, second, viewKey};
     settings.newsShowType = GetStoryShowType();
-    settings.symbolId = newsSymbol.code;
+    if (!symbols.Current().code.isEmpty())
+        settings.symbolId = symbols.Current().code;
     settings.write(*writer, path);
     services.vSave(*writer, path);
 }

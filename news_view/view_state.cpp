@@ -62,8 +62,8 @@ QVariantMap TRVNewsCtrlView::State() const {
             {QStringLiteral("showCategory"), settings.showCategory},
             {QStringLiteral("pickedDate"), dateNumber(pickedDate)},
             {QStringLiteral("newsDay"), dateNumber(newsDay)},
-            {QStringLiteral("symbol"), QVariantMap{{QStringLiteral("service"), newsSymbol.market},
-                                                   {QStringLiteral("code"), newsSymbol.code}}},
+            {QStringLiteral("symbol"), QVariantMap{{QStringLiteral("service"), symbols.Current().market},
+                                                   {QStringLiteral("code"), symbols.Current().code}}},
             {QStringLiteral("tabs"), tabs},
             {QStringLiteral("services"), serviceStates}};
 }

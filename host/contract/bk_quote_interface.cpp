@@ -71,6 +71,33 @@ int BKQuoteInterface::BKQCheckAuthSupport(unsigned char) {
     return 0;
 }
 
+bool BKQuoteInterface::bGetAllServiceID(std::vector<unsigned char>& services) {
+    services.clear();
+    return false;
+}
+
+bool BKQuoteInterface::bGetServiceID2Delay(unsigned char, unsigned char&) {
+    return false;
+}
+
+int BKQuoteInterface::bIsFromTheSameAuthServiceID(unsigned char service, unsigned char other) {
+    return service == other ? 1 : 0;
+}
+
+bool BKQuoteInterface::bGetSymbolID(unsigned char, std::vector<QString>& codes, std::vector<QString>& names) {
+    codes.clear();
+    names.clear();
+    return false;
+}
+
+int BKQuoteInterface::bIsSymbolIDExist(unsigned char, const QString&) {
+    return 0;
+}
+
+bool BKQuoteInterface::bGetCategorybySymbolID(int&, unsigned char, const QString&) {
+    return false;
+}
+
 int BKQuoteInterface::BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>&, unsigned char,
                                                 const CSymbolInfo&) {
     return 0;

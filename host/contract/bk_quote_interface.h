@@ -35,8 +35,7 @@ public:
     // ownership and keeps it alive until the last view is gone.
     static void SetBKInterface(BKQuoteInterface* backEnd);
 
-    // --- Who is told
-    // -----------------------------------------------------------------------------------------
+    // --- Who is told ---
 
     // From Attach to Detach the receiver gets the back end's calls. Both may be called during a delivery; a
     // detached receiver is not called again. Attaching twice is attaching once.
@@ -50,8 +49,7 @@ public:
     // Ends all registrations of `view`.
     virtual void UnregisterSymbols(NewsReceiver* view);
 
-    // --- Services
-    // --------------------------------------------------------------------------------------------
+    // --- Services ---
 
     // Fills `services` with the ids of the news services, in the order in which lists and menus show them.
     // False, and `services` empty, when there are none.
@@ -68,11 +66,26 @@ public:
                                        std::vector<QString>& names);
     // Non-zero when the user may see this service.
     virtual int BKQCheckAuthSupport(unsigned char service);
+    // Fills `services` with the ids of all services that carry symbols. False: none.
+    virtual bool bGetAllServiceID(std::vector<unsigned char>& services);
+    // The id under which a service's delayed data comes. False, and `delayed` unchanged, when there is none.
+    virtual bool bGetServiceID2Delay(unsigned char service, unsigned char& delayed);
+    // 1 when both services fall under the same authorisation.
+    virtual int bIsFromTheSameAuthServiceID(unsigned char service, unsigned char other);
     // 1 while the back end is connected to its source; pushed headlines are ignored otherwise.
     virtual int bIsConnect() = 0;
 
-    // --- Headlines and stories
-    // ---------------------------------------------------------------------------------
+    // --- Symbols ---
+
+    // Replaces `codes` and `names` by all symbols of a service, pairwise. False: both empty.
+    virtual bool bGetSymbolID(unsigned char service, std::vector<QString>& codes,
+                              std::vector<QString>& names);
+    // 1 when the service has a symbol of exactly this code.
+    virtual int bIsSymbolIDExist(unsigned char service, const QString& code);
+    // The market's kind of a symbol. False, and `category` unchanged, for an unknown symbol.
+    virtual bool bGetCategorybySymbolID(int& category, unsigned char service, const QString& code);
+
+    // --- Headlines and stories ---
 
     // Appends the table of `service` for a symbol, or of a kind for a key (yyyymmdd, category id text,
     // "SEARCH"), to `table`. Result: how many entries were appended. Entries may come in any order; tables
@@ -90,8 +103,7 @@ public:
     // The symbols related to a headline. False, and `symbols` unchanged, when they are not at hand.
     virtual bool BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& symbols, const CHeadlineTable& entry);
 
-    // --- Texts
-    // -----------------------------------------------------------------------------------------------
+    // --- Texts ---
 
     // The display text of a language key in the language in force; the key itself when there is none. The
     // default asks the translators that the application has installed.

@@ -176,7 +176,7 @@ TEST_F(HeadlineListTest, EachListAsksItsOwnServices) {
     list(ListIndex::Category);
     list(ListIndex::Symbol);
     list(ListIndex::Relation);
-    EXPECT_TRUE(lists.bRebuildCategory(QStringLiteral("7")));
+    lists.vChangeNewsTable(ListIndex::Category, TableKind::ByCategory, QStringLiteral("7"), nullptr);
     EXPECT_EQ(rows(lists[ListIndex::Category]).size(), 2);
     EXPECT_EQ(lists[ListIndex::Category].Text(0, 0), QStringLiteral("03/02 09:00"));
     EXPECT_TRUE(lists.bRebuildSymbol({16, QStringLiteral("2330")}));

@@ -29,6 +29,11 @@ protected:
         for (const unsigned char service : backEnd.services)
             backEnd.categories[service] = {{QStringLiteral("1"), QStringLiteral("Markets")},
                                            {QStringLiteral("2"), QStringLiteral("Economy")}};
+        backEnd.symbols[16] = {{QStringLiteral("#001"), QStringLiteral("Index")},
+                               {QStringLiteral("2330"), QStringLiteral("Aster Chips")},
+                               {QStringLiteral("6214"), QStringLiteral("Lantern Foods")}};
+        backEnd.symbols[122] = {{QStringLiteral("4001"), QStringLiteral("Young Board")}};
+        backEnd.symbols[22] = {{QStringLiteral("00700"), QStringLiteral("Harbour Holdings")}};
         backEnd.categories[52] = {{QStringLiteral("1"), QStringLiteral("Issue")}};
     }
 
@@ -179,6 +184,7 @@ TEST_F(NewsViewTest, ListsAreReadAsTheirModeSays) {
         return backEnd.asked.filter(QStringLiteral("table "));
     };
     EXPECT_EQ(tablesAsked(0), QStringList()) << "all news was read when the view opened";
+    EXPECT_EQ(tablesAsked(2).size(), 10) << "for the combo's choice, and for the switch";
     const QStringList symbol = tablesAsked(2);
     EXPECT_EQ(symbol.size(), 5);
     EXPECT_EQ(symbol.front(), QStringLiteral("table 1 symbol 2330"));
@@ -196,6 +202,76 @@ TEST_F(NewsViewTest, ListsAreReadAsTheirModeSays) {
         << "the warrant mode leaves the user's choice";
     tablesAsked(1);
     EXPECT_EQ(titles(1), QStringList{QStringLiteral("s1 9:00")});
+}
+
+TEST_F(NewsViewTest, TheSymbolModeFollowsCombosAndLinkedViews) {
+    addNews(1, 9, 0, 1, 1, QStringLiteral("2330"));
+    addNews(1, 9, 1, 2, 1, QStringLiteral("6214"));
+    addNews(1, 9, 2, 3, 1, QStringLiteral("4001"));
+    open({{QStringLiteral("FocusedTab"), 2}, {QStringLiteral("SymbolID"), QStringLiteral("unknown")}});
+    view->vSetLinkGroup(3);
+    QStringList told;
+    QObject::connect(view.get(), &TRVQuoteBaseView::SendChangeSymbol, view.get(),
+                     [&](unsigned char group, unsigned char service, const QString& code) {
+                         told.append(QStringLiteral("%1 %2 %3").arg(group).arg(service).arg(code));
+                     });
+    EXPECT_EQ(titles(2), QStringList{QStringLiteral("s1 9:01")}) << "an unknown symbol falls back to 6214";
+
+    auto* symbolCombo = qobject_cast<SCComboBox*>(GetDlgItem(view.get(), ids::symbolCombo));
+    auto* serviceCombo = qobject_cast<SCComboBox*>(GetDlgItem(view.get(), ids::serviceCombo));
+    ASSERT_TRUE(symbolCombo != nullptr && serviceCombo != nullptr);
+    EXPECT_EQ(serviceCombo->count(), 3);
+    EXPECT_EQ(symbolCombo->count(), 2) << "an index is not supported";
+    EXPECT_EQ(symbolCombo->currentText(), QStringLiteral("6214 Lantern Foods"));
+
+    const auto change = [this](const QWidget* sender, unsigned char group, unsigned char service,
+                               const QString& code) {
+        backEnd.asked.clear();
+        view->ChangeSymbol(sender, group, service, code, {});
+        return !backEnd.asked.filter(QStringLiteral(" symbol ")).isEmpty();
+    };
+    EXPECT_FALSE(change(nullptr, 2, 16, QStringLiteral("2330"))) << "another link group";
+    EXPECT_TRUE(change(nullptr, 3, 16, QStringLiteral("2330")));
+    EXPECT_EQ(titles(2), QStringList{QStringLiteral("s1 9:00")});
+    EXPECT_EQ(symbolCombo->currentText(), QStringLiteral("2330 Aster Chips"));
+    EXPECT_FALSE(change(nullptr, 3, 16, QStringLiteral("2330"))) << "the same symbol again reloads nothing";
+    EXPECT_TRUE(change(view.get(), 9, 122, QStringLiteral("4001"))) << "its own change is taken in any group";
+    EXPECT_EQ(serviceCombo->currentIndex(), 1);
+    EXPECT_EQ(titles(2), QStringList{QStringLiteral("s1 9:02")});
+    unsigned char service = 0;
+    QString code;
+    EXPECT_EQ(view->GetCurrSymbolInfo(service, code), 1);
+    EXPECT_EQ(service, 122);
+    EXPECT_EQ(code, QStringLiteral("4001"));
+    EXPECT_EQ(told, QStringList()) << "what came from elsewhere is not announced";
+
+    QTest::keyClick(serviceCombo, Qt::Key_Down);
+    EXPECT_EQ(serviceCombo->currentIndex(), 2);
+    EXPECT_EQ(symbolCombo->currentText(), QString());
+    EXPECT_EQ(told, QStringList());
+    view->vSetLinkGroup(0);
+    EXPECT_FALSE(change(nullptr, 0, 16, QStringLiteral("2330"))) << "a view that is not linked";
+}
+
+TEST_F(NewsViewTest, TheLastTickedServiceStaysTicked) {
+    addNews(1, 9, 0, 1);
+    addNews(2, 9, 1, 1);
+    open();
+    const auto choose = [this](int command) {
+        view->OnCommand(command);
+        return titles(0);
+    };
+    EXPECT_EQ(choose(5050), QStringList{QStringLiteral("s2 9:01")});
+    EXPECT_EQ(backEnd.registrations[view.get()], (std::set<unsigned char>{2, 16, 22, 122}));
+    choose(5052);
+    choose(5053);
+    choose(5055);
+    backEnd.asked.clear();
+    EXPECT_EQ(choose(5051), QStringList{QStringLiteral("s2 9:01")});
+    EXPECT_EQ(backEnd.asked, QStringList()) << "nothing is reloaded";
+    EXPECT_EQ(backEnd.registrations[view.get()], std::set<unsigned char>{2});
+    EXPECT_EQ(choose(5050), (QStringList{QStringLiteral("s2 9:01"), QStringLiteral("s1 9:00")}));
+    EXPECT_EQ(choose(5060).size(), 2) << "a command without a service";
 }
 
 TEST_F(NewsViewTest, AUserPicksACategoryAndATab) {

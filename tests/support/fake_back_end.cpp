@@ -54,6 +54,44 @@ bool FakeBackEnd::bNewsAPI_GetNewsCatId(unsigned char service, std::vector<QStri
     return !ids.empty();
 }
 
+bool FakeBackEnd::bGetAllServiceID(std::vector<unsigned char>& out) {
+    out.clear();
+    for (const auto& [service, list] : symbols)
+        out.push_back(service);
+    return !out.empty();
+}
+
+bool FakeBackEnd::bGetSymbolID(unsigned char service, std::vector<QString>& codes,
+                               std::vector<QString>& names) {
+    asked.append(QStringLiteral("symbols %1").arg(service));
+    codes.clear();
+    names.clear();
+    for (const auto& [code, name] : symbols[service]) {
+        codes.push_back(code);
+        names.push_back(name);
+    }
+    return !codes.empty();
+}
+
+bool FakeBackEnd::GetSymbolsByService(unsigned char service, std::vector<QString>& codes,
+                                      std::vector<QString>& names, int) {
+    return bGetSymbolID(service, codes, names);
+}
+
+int FakeBackEnd::bIsSymbolIDExist(unsigned char service, const QString& code) {
+    const auto& list = symbols[service];
+    return std::any_of(list.begin(), list.end(), [&](const auto& symbol) { return symbol.first == code; })
+               ? 1
+               : 0;
+}
+
+bool FakeBackEnd::bGetCategorybySymbolID(int& category, unsigned char service, const QString& code) {
+    if (bIsSymbolIDExist(service, code) == 0)
+        return false;
+    category = hongKongCategory;
+    return true;
+}
+
 template <class Wanted>
 int FakeBackEnd::append(std::vector<CHeadlineTable>& table, unsigned char service, Wanted wanted) const {
     int count = 0;

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/search_control.h"
+#include "tests/support/qt_printers.h"
 
 #include <QHash>
 #include <QStringList>
@@ -13,9 +15,12 @@
 
 // A back end for tests: holds headlines in memory, answers like a real one, and writes down what it was
 // asked.
-class FakeBackEnd : public BKQuoteInterface {
+class FakeBackEnd : public BKQuoteInterface, public SearchControl {
 public:
-    FakeBackEnd() { SetBKInterface(this); }
+    FakeBackEnd() {
+        SetBKInterface(this);
+        SetSearchObjInterface(this);
+    }
 
     // Adds a headline; `atHand` false: its table entry is known, its title is not.
     void add(unsigned char service, std::int64_t time, std::int32_t sequence, const QString& title,
@@ -23,6 +28,8 @@ public:
 
     std::vector<unsigned char> services{1, 2, 16, 22, 52, 122};
     std::map<unsigned char, std::vector<std::pair<QString, QString>>> categories;  // id text, name
+    std::map<unsigned char, std::vector<std::pair<QString, QString>>> symbols;     // code, name
+    int hongKongCategory = 1;  // of every symbol of service 22
     std::set<unsigned char> unauthorised;
     bool simplified = false;
     bool connected = true;
@@ -41,6 +48,13 @@ public:
     int BKQCheckAuthSupport(unsigned char service) override {
         return unauthorised.count(service) == 0 ? 1 : 0;
     }
+    bool bGetAllServiceID(std::vector<unsigned char>& out) override;
+    bool bGetSymbolID(unsigned char service, std::vector<QString>& codes,
+                      std::vector<QString>& names) override;
+    bool GetSymbolsByService(unsigned char service, std::vector<QString>& codes, std::vector<QString>& names,
+                             int kind) override;
+    int bIsSymbolIDExist(unsigned char service, const QString& code) override;
+    bool bGetCategorybySymbolID(int& category, unsigned char service, const QString& code) override;
     int bIsConnect() override { return connected ? 1 : 0; }
     int BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>& table, unsigned char service,
                                   const CSymbolInfo& symbol) override;

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/contract/search_control.h"
+
+namespace {
+
+constexpr unsigned char stockExchange = 16;
+
+SearchControl* installed = nullptr;
+
+SearchControl& none() {
+    static SearchControl search;
+    return search;
+}
+
+}  // namespace
+
+SearchControl::~SearchControl() {
+    if (installed == this)
+        installed = nullptr;
+}
+
+SearchControl* SearchControl::GetSearchObjInterface() {
+    return installed != nullptr ? installed : &none();
+}
+
+void SearchControl::SetSearchObjInterface(SearchControl* search) {
+    installed = search;
+}
+
+bool SearchControl::GetSymbolsByService(unsigned char, std::vector<QString>& codes,
+                                        std::vector<QString>& names, int) {
+    codes.clear();
+    names.clear();
+    return false;
+}
+
+bool bIsNormalTWSESymbolID(unsigned char service, const QString& code) {
+    return service == stockExchange && !code.isEmpty() && !code.startsWith(u'#');
+}

@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/symbol_binding.h"
+
+#include "host/contract/search_control.h"
+#include "host/controls/quote_combo_box_auto.h"
+#include "host/controls/sc_combo_box.h"
+#include "news_view/control_ids.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+constexpr unsigned char stockExchange = 16;
+constexpr unsigned char emergingBoard = 122;
+constexpr unsigned char hongKong = 22;
+constexpr int symbolsWithNews = 1;
+constexpr int supportedHongKongCategory = 1;
+
+const QString stockExchangeLabel = QStringLiteral("台灣證券");
+const QString emergingBoardLabel = QStringLiteral("興櫃股票");
+const QString hongKongLabel = QStringLiteral("香港股市");
+
+bool contains(const std::vector<unsigned char>& services, unsigned char service) {
+    return std::find(services.begin(), services.end(), service) != services.end();
+}
+
+}  // namespace
+
+SymbolBinding::SymbolBinding(BKQuoteInterface& newsBackEnd, const ControlSet& controlSet)
+    : backEnd(newsBackEnd), controls(controlSet) {}
+
+int SymbolBinding::iInitServiceComboBox(unsigned char& selected) {
+    auto* combo = controls.Find<SCComboBox>(ids::serviceCombo);
+    std::vector<unsigned char> all;
+    if (combo == nullptr || !backEnd.bGetAllServiceID(all))
+        return -1;
+    combo->clear();
+    services.clear();
+    vOfferService(stockExchange, stockExchangeLabel, all);
+    vOfferService(emergingBoard, emergingBoardLabel, all);
+    vOfferService(hongKong, hongKongLabel, all);
+    unsigned char delayed = 0;
+    if (!contains(services, hongKong) && backEnd.bGetServiceID2Delay(hongKong, delayed))
+        vOfferService(delayed, hongKongLabel, all);
+    if (services.empty())
+        return -1;
+    const int index = std::max(iServiceIndex(current.market), 0);
+    selected = ServiceAt(index);
+    combo->setCurrentIndex(index);
+    return index;
+}
+
+void SymbolBinding::vOfferService(unsigned char service, const QString& label,
+                                  const std::vector<unsigned char>& all) {
+    if (!contains(all, service) || backEnd.BKQCheckAuthSupport(service) == 0)
+        return;
+    services.push_back(service);
+    controls.Find<SCComboBox>(ids::serviceCombo)->addItem(label);
+}
+
+void SymbolBinding::vDropService(unsigned char service) {
+    const int index = iServiceIndex(service);
+    if (index < 0)
+        return;
+    services.erase(services.begin() + index);
+    if (auto* combo = controls.Find<SCComboBox>(ids::serviceCombo))
+        combo->removeItem(index);
+}
+
+bool SymbolBinding::bGetSymbols(unsigned char service, std::vector<QString>& codes,
+                                std::vector<QString>& names) const {
+    const bool found = service == emergingBoard ? backEnd.bGetSymbolID(service, codes, names)
+                                                : SearchControl::GetSearchObjInterface()->GetSymbolsByService(
+                                                      service, codes, names, symbolsWithNews);
+    return found && !codes.empty() && codes.size() == names.size();
+}
+
+int SymbolBinding::iInitSymbolComboBox(unsigned char service) {
+    auto* combo = controls.Find<CQuoteComboBoxAuto>(ids::symbolCombo);
+    if (combo == nullptr)
+        return -1;
+    std::vector<QString> codes;
+    std::vector<QString> names;
+    if (!bGetSymbols(service, codes, names)) {
+        vDropService(service);
+        return -1;
+    }
+    symbols.clear();
+    indexOfCode.clear();
+    QStringList items;
+    for (std::size_t i = 0; i < codes.size(); ++i) {
+        if (!IsSupportNews(service, codes[i]))
+            continue;
+        indexOfCode.insert(codes[i], static_cast<int>(symbols.size()));
+        symbols.push_back({service, codes[i]});
+        items.append(codes[i] + u' ' + names[i]);
+    }
+    combo->clear();
+    combo->addItems(items);
+    const int index = iSymbolIndex(current.code);
+    combo->setCurrentIndex(index);
+    return index;
+}
+
+bool SymbolBinding::IsSupportNews(unsigned char service, const QString& code) const {
+    const bool candidate = bIsNormalTWSESymbolID(service, code) ||
+                           (service == emergingBoard && !code.startsWith(u'#')) ||
+                           backEnd.bIsFromTheSameAuthServiceID(service, hongKong) == 1;
+    if (!candidate || service != hongKong)
+        return candidate;
+    int category = 0;
+    return backEnd.bGetCategorybySymbolID(category, hongKong, code) && category == supportedHongKongCategory;
+}
+
+int SymbolBinding::iServiceIndex(unsigned char service) const {
+    const auto found = std::find(services.begin(), services.end(), service);
+    return found == services.end() ? -1 : static_cast<int>(found - services.begin());
+}
+
+std::optional<CSymbolInfo> SymbolBinding::SelectedSymbol() const {
+    const auto* combo = controls.Find<CQuoteComboBoxAuto>(ids::symbolCombo);
+    const int index = combo != nullptr ? combo->currentIndex() : -1;
+    if (index < 0 || index >= static_cast<int>(symbols.size()))
+        return std::nullopt;
+    return symbols[static_cast<std::size_t>(index)];
+}
+
+void SymbolBinding::vSelectService(int index) {
+    if (auto* combo = controls.Find<SCComboBox>(ids::serviceCombo))
+        combo->setCurrentIndex(index);
+}
+
+void SymbolBinding::vSelectSymbol(int index) {
+    if (auto* combo = controls.Find<CQuoteComboBoxAuto>(ids::symbolCombo))
+        combo->setCurrentIndex(index);
+}

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/bk_quote_interface.h"
+#include "news_view/control_set.h"
+
+#include <QHash>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+// The symbol whose news the symbol mode shows, and the two combos that choose it: the service combo, and the
+// symbol combo with the supported symbols of the chosen service. What happens when it changes is the view's
+// affair.
+class SymbolBinding {
+public:
+    SymbolBinding(BKQuoteInterface& backEnd, const ControlSet& controls);
+
+    // The current news symbol.
+    const CSymbolInfo& Current() const { return current; }
+    void vSetCurrent(const CSymbolInfo& symbol) { current = symbol; }
+
+    // Fills the service combo with the markets that the user may see and selects the current symbol's, else
+    // the first. The index of the selection, its service in `selected`; -1, and `selected` unchanged, when
+    // there is none.
+    int iInitServiceComboBox(unsigned char& selected);
+    // Fills the symbol combo with the supported symbols of a service and selects the current symbol. The
+    // index of the selection; -1 when it is not among them or there are none. A service whose symbols cannot
+    // be had leaves the service combo for good.
+    int iInitSymbolComboBox(unsigned char service);
+
+    // Whether the symbol mode can show news of a symbol.
+    bool IsSupportNews(unsigned char service, const QString& code) const;
+
+    // The place of a service in the service combo; -1 when it is not offered.
+    int iServiceIndex(unsigned char service) const;
+    unsigned char ServiceAt(int index) const { return services.at(static_cast<std::size_t>(index)); }
+    // The place of a code in the symbol combo, by exact text and in constant time; -1 when it is not there.
+    int iSymbolIndex(const QString& code) const { return indexOfCode.value(code, -1); }
+    bool bHasSymbols() const { return !symbols.empty(); }
+    // What is selected in the symbol combo.
+    std::optional<CSymbolInfo> SelectedSymbol() const;
+
+    void vSelectService(int index);
+    void vSelectSymbol(int index);
+
+private:
+    void vOfferService(unsigned char service, const QString& label, const std::vector<unsigned char>& all);
+    void vDropService(unsigned char service);
+    bool bGetSymbols(unsigned char service, std::vector<QString>& codes, std::vector<QString>& names) const;
+
+    BKQuoteInterface& backEnd;
+    const ControlSet& controls;
+    CSymbolInfo current;
+    std::vector<unsigned char> services;  // in the order of the service combo
+    std::vector<CSymbolInfo> symbols;     // in the order of the symbol combo
+    QHash<QString, int> indexOfCode;
+};

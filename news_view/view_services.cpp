@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// The service menu of the news view, and what a change of the chosen services reloads.
+#include "headline_list/cell_texts.h"
+#include "host/contract/clock.h"
+#include "host/controls/sc_combo_box.h"
+#include "news_view/control_ids.h"
+#include "news_view/trv_news_ctrl_view.h"
+
+void TRVNewsCtrlView::OnSelectService() {
+    const QWidget* button = GetDlgItem(this, ids::serviceButton);
+    if (button != nullptr)
+        serviceMenu->popup(button->mapToGlobal(button->rect().bottomLeft()));
+}
+
+void TRVNewsCtrlView::OnSelectCheckService(unsigned int id) {
+    const std::size_t index = id - ids::firstServiceCommand;
+    if (index >= services.Entries().size())
+        return;
+    const bool selected = services.Entries()[index].selected;
+    const bool isLast = selected && services.iSelectedCount() < 2;
+    if (!isLast)
+        services.vSelect(index, !selected);
+    // Choosing an item has turned its check mark already: it is set to what holds, refused or not.
+    vCheckServiceMenu();
+    if (isLast)
+        return;
+    services.vCopyToSaved();
+    vReloadForServices();
+    services.CheckRegisterService(*this);
+    update();
+}
+
+void TRVNewsCtrlView::vCheckServiceMenu() {
+    const QList<QAction*> actions = serviceMenu->actions();
+    for (QAction* action : actions) {
+        const auto service = static_cast<std::size_t>(action->data().toInt() - ids::firstServiceCommand);
+        action->setChecked(services.Entries().at(service).selected);
+    }
+}
+
+void TRVNewsCtrlView::vReloadForServices() {
+    vChangeNewsTable(ListIndex::All, TableKind::ByDate, PickedDateKey());
+    if (Sheet(static_cast<int>(ListIndex::Category)) != nullptr) {
+        const auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
+        vRefreshCategoryCombo(combo != nullptr ? combo->currentText() : QString());
+    }
+    if (symbols.SelectedSymbol())
+        lists.vChangeSymbolTable(symbols.Current(), vRelationFilter());
+    vChangeNewsTable(ListIndex::Relation, TableKind::ByDate, DateKey(host_clock::today()));
+}
+
+void TRVNewsCtrlView::vChangeNewsTable(ListIndex list, TableKind kind, const QString& key) {
+    lists.vChangeNewsTable(list, kind, key, vRelationFilter());
+}
+
+RelationFilter TRVNewsCtrlView::vRelationFilter() const {
+    return currentMode == static_cast<int>(ListIndex::Relation) ? &relationConditions : nullptr;
+}
