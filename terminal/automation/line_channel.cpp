@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/automation/line_channel.h"
+
+namespace wirepane {
+
+void LineChannel::received(const QByteArray& bytes) {
+    splitter.feed(
+        bytes, [this](const QByteArray& line) { emit lineReceived(line); }, [this] { emit lineTooLong(); });
+}
+
+void LineChannel::receivedAll() {
+    splitter.finish([this](const QByteArray& line) { emit lineReceived(line); });
+    emit ended();
+}
+
+}  // namespace wirepane

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "terminal/automation/json_rpc.h"
+
+#include <QSize>
+
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <vector>
+
+namespace wirepane {
+
+// Reads the parameters of a request and remembers the first one that is missing or wrong: read them all, then
+// ask for the error. A parameter that is null counts as absent. What could not be read comes back as nothing.
+class Params {
+public:
+    explicit Params(QJsonObject values);
+
+    const std::optional<RpcError>& error() const { return firstError; }
+    // Records an error of the caller's own, unless there is one already.
+    void fail(const QString& message, RpcCode code = RpcCode::BadParameters);
+
+    bool has(const QString& name) const;
+    QJsonValue value(const QString& name) const { return values.value(name); }
+
+    // The value, nothing when it is absent.
+    std::optional<std::int64_t> optionalNumber(const QString& name,
+                                               std::int64_t least = std::numeric_limits<std::int32_t>::min(),
+                                               std::int64_t most = std::numeric_limits<std::int32_t>::max());
+    std::optional<QString> optionalText(const QString& name);
+    std::optional<bool> optionalBool(const QString& name);
+    // [width, height], each 1..8192.
+    std::optional<QSize> optionalSize(const QString& name);
+    std::optional<std::vector<int>> optionalNumbers(const QString& name);
+    QJsonObject optionalObject(const QString& name);
+
+    // The value; it is an error when it is absent.
+    std::int64_t number(const QString& name, std::int64_t least = std::numeric_limits<std::int32_t>::min(),
+                        std::int64_t most = std::numeric_limits<std::int32_t>::max());
+    QString text(const QString& name);
+    bool boolean(const QString& name);
+    QSize size(const QString& name);
+
+private:
+    template <class Value>
+    Value required(const QString& name, const std::optional<Value>& read);
+
+    QJsonObject values;
+    std::optional<RpcError> firstError;
+};
+
+}  // namespace wirepane

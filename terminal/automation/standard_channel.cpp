@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/automation/standard_channel.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <unistd.h>
+
+namespace wirepane {
+
+namespace {
+constexpr std::size_t chunkSize = 64 * 1024;
+}
+
+StandardChannel::StandardChannel(QObject* parent)
+    : LineChannel(parent), output(dup(STDOUT_FILENO)), notifier(STDIN_FILENO, QSocketNotifier::Read) {
+    dup2(STDERR_FILENO, STDOUT_FILENO);
+    // A reader that is gone must not end the program.
+    std::signal(SIGPIPE, SIG_IGN);
+    connect(&notifier, &QSocketNotifier::activated, this, &StandardChannel::read);
+}
+
+StandardChannel::~StandardChannel() {
+    if (output >= 0)
+        close(output);
+}
+
+void StandardChannel::read() {
+    std::array<char, chunkSize> buffer;
+    const ssize_t count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
+    if (count > 0) {
+        received(QByteArray(buffer.data(), count));
+    } else if (count == 0 || (errno != EINTR && errno != EAGAIN)) {
+        notifier.setEnabled(false);
+        receivedAll();
+    }
+}
+
+void StandardChannel::send(const QByteArray& line) {
+    qsizetype sent = 0;
+    while (sent < line.size()) {
+        const ssize_t count =
+            ::write(output, line.constData() + sent, static_cast<std::size_t>(line.size() - sent));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return;
+        sent += count;
+    }
+}
+
+}  // namespace wirepane

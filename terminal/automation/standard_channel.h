@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "terminal/automation/line_channel.h"
+
+#include <QSocketNotifier>
+
+namespace wirepane {
+
+// Standard input and output. From its construction on, the process's standard output belongs to the channel
+// alone: whatever else writes there lands on standard error.
+class StandardChannel : public LineChannel {
+    Q_OBJECT
+
+public:
+    explicit StandardChannel(QObject* parent = nullptr);
+    ~StandardChannel() override;
+
+    void send(const QByteArray& line) override;
+
+private:
+    void read();
+
+    int output;
+    QSocketNotifier notifier;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/settings/terminal_settings.h"
+
+#include "terminal/settings/settings_file.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+constexpr int defaultFont = 9;
+}
+
+TerminalSettings::TerminalSettings(SettingsFile& settingsFile) : file(settingsFile) {}
+
+QJsonValue TerminalSettings::stored(const QString& name) const {
+    return file.value(u"terminal"_s, name);
+}
+
+void TerminalSettings::store(const QString& name, const QJsonValue& value) {
+    file.setValue(u"terminal"_s, name, value);
+}
+
+ColourScheme TerminalSettings::scheme() const {
+    return schemeByName(stored(u"scheme"_s).toString()).value_or(ColourScheme::Light);
+}
+
+void TerminalSettings::setScheme(ColourScheme scheme) {
+    store(u"scheme"_s, schemeName(scheme));
+}
+
+int TerminalSettings::fontSize() const {
+    return std::clamp(stored(u"fontSize"_s).toInt(defaultFont), smallestFont, largestFont);
+}
+
+void TerminalSettings::setFontSize(int points) {
+    store(u"fontSize"_s, std::clamp(points, smallestFont, largestFont));
+}
+
+QString TerminalSettings::language() const {
+    return stored(u"language"_s).toString();
+}
+
+void TerminalSettings::setLanguage(const QString& language) {
+    store(u"language"_s, language);
+}
+
+SearchSwitches TerminalSettings::switches() const {
+    SearchSwitches result;
+    result.normalSearch = stored(u"showNormalSearch"_s).toBool(result.normalSearch);
+    result.warningSearch = stored(u"showWarningSearch"_s).toBool(result.warningSearch);
+    return result;
+}
+
+void TerminalSettings::setSwitches(const SearchSwitches& switches) {
+    store(u"showNormalSearch"_s, switches.normalSearch);
+    store(u"showWarningSearch"_s, switches.warningSearch);
+}
+
+void TerminalSettings::setPopupPosition(int position) {
+    store(u"popupPosition"_s, position);
+}
+
+void TerminalSettings::setCurrentSymbol(unsigned char linkGroup, const QString& code) {
+    currentSymbols.insert(linkGroup, code);
+}
+
+QByteArray TerminalSettings::frameGeometry() const {
+    return QByteArray::fromBase64(stored(u"frameGeometry"_s).toString().toLatin1());
+}
+
+void TerminalSettings::setFrameGeometry(const QByteArray& geometry) {
+    store(u"frameGeometry"_s, QString::fromLatin1(geometry.toBase64()));
+}
+
+QColor TerminalSettings::SYS_crGetOtherColor(const QString& name) {
+    return schemeColour(scheme(), name);
+}
+
+QFont TerminalSettings::SYS_fntGetViewFont() {
+    QFont font = QGuiApplication::font();
+    font.setPointSize(fontSize());
+    return font;
+}
+
+int TerminalSettings::SYS_eGetPopupWndPosition() {
+    return stored(u"popupPosition"_s).toInt(1);
+}
+
+QString TerminalSettings::SYS_cszGetCurrentSymbol(unsigned char linkGroup) {
+    return currentSymbols.value(linkGroup);
+}
+
+bool TerminalSettings::SYS_bGetIsLinkNews() {
+    return linkNews;
+}
+
+void TerminalSettings::SYS_vSetIsLinkNews(bool linked) {
+    linkNews = linked;
+}
+
+}  // namespace wirepane

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/sync_info.h"
+#include "terminal/settings/colour_scheme.h"
+
+#include <QHash>
+#include <QJsonValue>
+
+namespace wirepane {
+
+class SettingsFile;
+
+// The switches of the module's search modes, as "Application.ini" gives them to a view that opens.
+struct SearchSwitches {
+    bool normalSearch = true;
+    bool warningSearch = false;
+};
+
+// The terminal's own settings, and what views read of them. Setters take effect for the next reader and are
+// on disk after the settings file is saved; who changes what is on screen tells the views.
+class TerminalSettings : public CSyncInfo {
+public:
+    static constexpr int smallestFont = 6;  // points
+    static constexpr int largestFont = 36;
+
+    // `file` is not owned and must outlive the settings.
+    explicit TerminalSettings(SettingsFile& file);
+
+    ColourScheme scheme() const;
+    void setScheme(ColourScheme scheme);
+    // Points, always within the limits above.
+    int fontSize() const;
+    void setFontSize(int points);
+    // "en", "zh-TW" or "zh-CN"; empty: as the system is set.
+    QString language() const;
+    void setLanguage(const QString& language);
+    SearchSwitches switches() const;
+    void setSwitches(const SearchSwitches& switches);
+    // 1: the pop-up story window is an ordinary window; 0: it stays on top.
+    void setPopupPosition(int position);
+    // The current symbol of a link group.
+    void setCurrentSymbol(unsigned char linkGroup, const QString& code);
+    // The main frame's place, as QWidget::saveGeometry gives it.
+    QByteArray frameGeometry() const;
+    void setFrameGeometry(const QByteArray& geometry);
+
+    QColor SYS_crGetOtherColor(const QString& name) override;
+    QFont SYS_fntGetViewFont() override;
+    int SYS_eGetPopupWndPosition() override;
+    QString SYS_cszGetCurrentSymbol(unsigned char linkGroup) override;
+    bool SYS_bGetIsLinkNews() override;
+    void SYS_vSetIsLinkNews(bool linked) override;
+
+private:
+    QJsonValue stored(const QString& name) const;
+    void store(const QString& name, const QJsonValue& value);
+
+    SettingsFile& file;
+    QHash<unsigned char, QString> currentSymbols;
+    bool linkNews = false;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/translations/languages.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+QString catalogueSuffix(const QString& code) {
+    return QString(code).replace(u'-', u'_');
+}
+
+}  // namespace
+
+QStringList Languages::codes() {
+    return {u"en"_s, u"zh-TW"_s, u"zh-CN"_s};
+}
+
+QString Languages::ofSystem() {
+    const QLocale locale = QLocale::system();
+    if (locale.language() != QLocale::Chinese)
+        return u"en"_s;
+    return locale.script() == QLocale::TraditionalChineseScript ? u"zh-TW"_s : u"zh-CN"_s;
+}
+
+bool Languages::use(const QString& code) {
+    if (!codes().contains(code))
+        return false;
+    QCoreApplication::removeTranslator(&texts);
+    QCoreApplication::removeTranslator(&toolkitTexts);
+    if (toolkitTexts.load(u"qtbase_"_s + catalogueSuffix(code),
+                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&toolkitTexts);
+    const bool loaded = texts.load(u":/i18n/wirepane_"_s + catalogueSuffix(code));
+    if (loaded)
+        QCoreApplication::installTranslator(&texts);
+    currentCode = code;
+    return loaded;
+}
+
+}  // namespace wirepane

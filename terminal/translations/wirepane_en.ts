@@ -1,0 +1,283 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="IDC_BASEVIEW-STRING_NO_DATA">
+        <source></source>
+        <translation>There is no news for this symbol.</translation>
+    </message>
+    <message id="IDS_DIALOG-STORY_NEXT_BUTTON">
+        <source></source>
+        <translation>Next</translation>
+    </message>
+    <message id="IDS_DIALOG-STORY_PREV_BUTTON">
+        <source></source>
+        <translation>Previous</translation>
+    </message>
+    <message id="IDS_DIALOG-STORY_PRINT">
+        <source></source>
+        <translation>Print</translation>
+    </message>
+    <message id="IDS_DIALOG-STORY_SAVEAS">
+        <source></source>
+        <translation>Save As</translation>
+    </message>
+    <message id="IDS_DIALOG-STORY_TITLE">
+        <source></source>
+        <translation>News Story</translation>
+    </message>
+    <message id="IDS_MENU_8_1">
+        <source></source>
+        <translation>All News</translation>
+    </message>
+    <message id="IDS_MMSEXTENSION-MAINFRM_NEWSCTRLVIEW">
+        <source></source>
+        <translation>Symbol News</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_DEALS_SEARCH">
+        <source></source>
+        <translation>Advanced</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_PAGE_DOWN">
+        <source></source>
+        <translation>Next</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_PAGE_UP">
+        <source></source>
+        <translation>Previous</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_RELATION_SEARCH">
+        <source></source>
+        <translation>Key Sets</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_SEARCH">
+        <source></source>
+        <translation>Search</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_SHOW_TYPE">
+        <source></source>
+        <translation>Layout</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_WARNING_SEARCH">
+        <source></source>
+        <translation>Terms</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_AFTERDAYS">
+        <source></source>
+        <translation>The date lies in the future.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_CATEGORY">
+        <source></source>
+        <translation>Topic</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_CATEGORY_NEWS">
+        <source></source>
+        <translation>By Category</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_CLEAR_SERVICE">
+        <source></source>
+        <translation>has started a new news day.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_DETAILED_STORY">
+        <source></source>
+        <translation>Open Story</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INSOMEDAYS">
+        <source></source>
+        <translation> days can be selected.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH">
+        <source></source>
+        <translation>Enter a keyword to search for.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALID_DATE1">
+        <source></source>
+        <translation>has no news for this date.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS">
+        <source></source>
+        <translation>News</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_CLASS_NOT_FOUND">
+        <source></source>
+        <translation>has no news in this category.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_NOT_FOUND">
+        <source></source>
+        <translation>No news matches the search.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NO_NEWS_STORY">
+        <source></source>
+        <translation>This headline has no story.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_ONLYSELECT">
+        <source></source>
+        <translation>Only the last </translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_NEWS">
+        <source></source>
+        <translation>Print…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PS">
+        <source></source>
+        <translation>(End of story)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER">
+        <source></source>
+        <translation>Pending…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER_HEADLINELIST">
+        <source></source>
+        <translation>Reload Headlines</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER_STORY">
+        <source></source>
+        <translation>Reload Story</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_REINPUT">
+        <source></source>
+        <translation>The words AND and OR cannot be searched for. Enter other keywords.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_RELATIONSEARCH_NEWS">
+        <source></source>
+        <translation>Relation Search</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_REPLASE_MESSAGE">
+        <source></source>
+        <translation>消息</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS">
+        <source></source>
+        <translation>讯息</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SAVE_AS_NEWS">
+        <source></source>
+        <translation>Save As…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SEARCH_NEWS">
+        <source></source>
+        <translation>Search</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SELECT_NEWS_SERVICE">
+        <source></source>
+        <translation>Services</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SHOW_CATEGORY">
+        <source></source>
+        <translation>Category Column</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS">
+        <source></source>
+        <translation>By Symbol</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS_NOT_FOUND">
+        <source></source>
+        <translation>has no news for this symbol.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_TIME">
+        <source></source>
+        <translation>Time</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_TITLE">
+        <source></source>
+        <translation>Headline</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WAIT_FOR_UPDATE">
+        <source></source>
+        <translation>The story is being updated. Please wait.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WARNINGSEARCH_NEWS">
+        <source></source>
+        <translation>Warning Terms</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WARRANT_NEWS">
+        <source></source>
+        <translation>Warrants</translation>
+    </message>
+    <message id="TERMINAL_APP_TITLE">
+        <source></source>
+        <translation>Wirepane</translation>
+    </message>
+    <message id="TERMINAL_AS_OF">
+        <source></source>
+        <translation>As of %1</translation>
+    </message>
+    <message id="TERMINAL_FEED_CONNECTED">
+        <source></source>
+        <translation>Connected</translation>
+    </message>
+    <message id="TERMINAL_FEED_DISCONNECTED">
+        <source></source>
+        <translation>Not connected</translation>
+    </message>
+    <message id="TERMINAL_FONT_LARGER">
+        <source></source>
+        <translation>&amp;Larger Font</translation>
+    </message>
+    <message id="TERMINAL_FONT_SMALLER">
+        <source></source>
+        <translation>&amp;Smaller Font</translation>
+    </message>
+    <message id="TERMINAL_LANGUAGE_EN">
+        <source></source>
+        <translation>English</translation>
+    </message>
+    <message id="TERMINAL_LANGUAGE_ZH_CN">
+        <source></source>
+        <translation>简体中文</translation>
+    </message>
+    <message id="TERMINAL_LANGUAGE_ZH_TW">
+        <source></source>
+        <translation>繁體中文</translation>
+    </message>
+    <message id="TERMINAL_MENU_FILE">
+        <source></source>
+        <translation>&amp;File</translation>
+    </message>
+    <message id="TERMINAL_MENU_LANGUAGE">
+        <source></source>
+        <translation>Lan&amp;guage</translation>
+    </message>
+    <message id="TERMINAL_MENU_SCHEME">
+        <source></source>
+        <translation>&amp;Colours</translation>
+    </message>
+    <message id="TERMINAL_MENU_VIEW">
+        <source></source>
+        <translation>&amp;View</translation>
+    </message>
+    <message id="TERMINAL_QUIT">
+        <source></source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message id="TERMINAL_READ_AS_OF">
+        <source></source>
+        <translation>&amp;Read as of…</translation>
+    </message>
+    <message id="TERMINAL_READ_AS_OF_EXPLANATION">
+        <source></source>
+        <translation>The terminal shows the news as of this moment.</translation>
+    </message>
+    <message id="TERMINAL_READ_AS_OF_NOW">
+        <source></source>
+        <translation>Present</translation>
+    </message>
+    <message id="TERMINAL_READ_AS_OF_TITLE">
+        <source></source>
+        <translation>Read As Of</translation>
+    </message>
+    <message id="TERMINAL_SCHEME_DARK">
+        <source></source>
+        <translation>&amp;Dark</translation>
+    </message>
+    <message id="TERMINAL_SCHEME_LIGHT">
+        <source></source>
+        <translation>&amp;Light</translation>
+    </message>
+    <message id="TERMINAL_SERVICES_COUNT">
+        <source></source>
+        <translation>Services: %1</translation>
+    </message>
+</context>
+</TS>

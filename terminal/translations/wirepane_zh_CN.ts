@@ -1,0 +1,283 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="IDC_BASEVIEW-STRING_NO_DATA">
+        <source></source>
+        <translation>此品种没有新闻。</translation>
+    </message>
+    <message id="IDS_DIALOG-STORY_NEXT_BUTTON">
+        <source></source>
+        <translation>下一条</translation>
+    </message>
+    <message id="IDS_DIALOG-STORY_PREV_BUTTON">
+        <source></source>
+        <translation>上一条</translation>
+    </message>
+    <message id="IDS_DIALOG-STORY_PRINT">
+        <source></source>
+        <translation>打印</translation>
+    </message>
+    <message id="IDS_DIALOG-STORY_SAVEAS">
+        <source></source>
+        <translation>另存</translation>
+    </message>
+    <message id="IDS_DIALOG-STORY_TITLE">
+        <source></source>
+        <translation>新闻内容</translation>
+    </message>
+    <message id="IDS_MENU_8_1">
+        <source></source>
+        <translation>全部新闻</translation>
+    </message>
+    <message id="IDS_MMSEXTENSION-MAINFRM_NEWSCTRLVIEW">
+        <source></source>
+        <translation>个股新闻</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_DEALS_SEARCH">
+        <source></source>
+        <translation>高级搜索</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_PAGE_DOWN">
+        <source></source>
+        <translation>下一条</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_PAGE_UP">
+        <source></source>
+        <translation>上一条</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_RELATION_SEARCH">
+        <source></source>
+        <translation>关键词组</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_SEARCH">
+        <source></source>
+        <translation>搜索</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_SHOW_TYPE">
+        <source></source>
+        <translation>版面</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_BUTTON_WARNING_SEARCH">
+        <source></source>
+        <translation>警示词</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_AFTERDAYS">
+        <source></source>
+        <translation>所选日期晚于今天。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_CATEGORY">
+        <source></source>
+        <translation>分类</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_CATEGORY_NEWS">
+        <source></source>
+        <translation>分类新闻</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_CLEAR_SERVICE">
+        <source></source>
+        <translation>已开始新的新闻日。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_DETAILED_STORY">
+        <source></source>
+        <translation>详细内容</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INSOMEDAYS">
+        <source></source>
+        <translation> 天内的日期。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH">
+        <source></source>
+        <translation>请输入搜索关键词。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALID_DATE1">
+        <source></source>
+        <translation>这一天没有新闻。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS">
+        <source></source>
+        <translation>新闻</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_CLASS_NOT_FOUND">
+        <source></source>
+        <translation>此分类没有新闻。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_NOT_FOUND">
+        <source></source>
+        <translation>没有找到符合条件的新闻。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NO_NEWS_STORY">
+        <source></source>
+        <translation>本条新闻没有正文。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_ONLYSELECT">
+        <source></source>
+        <translation>只能选择最近 </translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_NEWS">
+        <source></source>
+        <translation>打印…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PS">
+        <source></source>
+        <translation>（全文完）</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER">
+        <source></source>
+        <translation>补发中…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER_HEADLINELIST">
+        <source></source>
+        <translation>重新载入标题</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER_STORY">
+        <source></source>
+        <translation>重新载入正文</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_REINPUT">
+        <source></source>
+        <translation>关键词不能含有 AND 或 OR，请重新输入。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_RELATIONSEARCH_NEWS">
+        <source></source>
+        <translation>关联新闻</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_REPLASE_MESSAGE">
+        <source></source>
+        <translation>消息</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS">
+        <source></source>
+        <translation>讯息</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SAVE_AS_NEWS">
+        <source></source>
+        <translation>另存为…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SEARCH_NEWS">
+        <source></source>
+        <translation>新闻搜索</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SELECT_NEWS_SERVICE">
+        <source></source>
+        <translation>新闻来源</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SHOW_CATEGORY">
+        <source></source>
+        <translation>显示分类栏</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS">
+        <source></source>
+        <translation>个股新闻</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS_NOT_FOUND">
+        <source></source>
+        <translation>此品种没有新闻。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_TIME">
+        <source></source>
+        <translation>时间</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_TITLE">
+        <source></source>
+        <translation>标题</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WAIT_FOR_UPDATE">
+        <source></source>
+        <translation>新闻内容更新中，请稍候。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WARNINGSEARCH_NEWS">
+        <source></source>
+        <translation>警示新闻</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WARRANT_NEWS">
+        <source></source>
+        <translation>权证新闻</translation>
+    </message>
+    <message id="TERMINAL_APP_TITLE">
+        <source></source>
+        <translation>Wirepane</translation>
+    </message>
+    <message id="TERMINAL_AS_OF">
+        <source></source>
+        <translation>时点 %1</translation>
+    </message>
+    <message id="TERMINAL_FEED_CONNECTED">
+        <source></source>
+        <translation>已连接</translation>
+    </message>
+    <message id="TERMINAL_FEED_DISCONNECTED">
+        <source></source>
+        <translation>未连接</translation>
+    </message>
+    <message id="TERMINAL_FONT_LARGER">
+        <source></source>
+        <translation>放大字体(&amp;L)</translation>
+    </message>
+    <message id="TERMINAL_FONT_SMALLER">
+        <source></source>
+        <translation>缩小字体(&amp;S)</translation>
+    </message>
+    <message id="TERMINAL_LANGUAGE_EN">
+        <source></source>
+        <translation>English</translation>
+    </message>
+    <message id="TERMINAL_LANGUAGE_ZH_CN">
+        <source></source>
+        <translation>简体中文</translation>
+    </message>
+    <message id="TERMINAL_LANGUAGE_ZH_TW">
+        <source></source>
+        <translation>繁體中文</translation>
+    </message>
+    <message id="TERMINAL_MENU_FILE">
+        <source></source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message id="TERMINAL_MENU_LANGUAGE">
+        <source></source>
+        <translation>语言(&amp;G)</translation>
+    </message>
+    <message id="TERMINAL_MENU_SCHEME">
+        <source></source>
+        <translation>配色(&amp;C)</translation>
+    </message>
+    <message id="TERMINAL_MENU_VIEW">
+        <source></source>
+        <translation>查看(&amp;V)</translation>
+    </message>
+    <message id="TERMINAL_QUIT">
+        <source></source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message id="TERMINAL_READ_AS_OF">
+        <source></source>
+        <translation>指定时点阅读(&amp;R)…</translation>
+    </message>
+    <message id="TERMINAL_READ_AS_OF_EXPLANATION">
+        <source></source>
+        <translation>终端将以此时点为现在，显示当时的新闻。</translation>
+    </message>
+    <message id="TERMINAL_READ_AS_OF_NOW">
+        <source></source>
+        <translation>当前时间</translation>
+    </message>
+    <message id="TERMINAL_READ_AS_OF_TITLE">
+        <source></source>
+        <translation>指定时点阅读</translation>
+    </message>
+    <message id="TERMINAL_SCHEME_DARK">
+        <source></source>
+        <translation>深色(&amp;D)</translation>
+    </message>
+    <message id="TERMINAL_SCHEME_LIGHT">
+        <source></source>
+        <translation>浅色(&amp;L)</translation>
+    </message>
+    <message id="TERMINAL_SERVICES_COUNT">
+        <source></source>
+        <translation>新闻来源：%1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/settings/layout_store.h"
+
+#include "terminal/settings/settings_file.h"
+#include "terminal/settings/terminal_settings.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace wirepane;
+
+namespace {
+
+TEST(LayoutStoreTest, KeepsEachKindOfSettingApartByViewAndPlace) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"wirepane.ini"_s);
+    const ViewSettingPath one{u"main"_s, 0, 1, u"TRVNewsCtrlView"_s};
+    const ViewSettingPath others[] = {
+        {u"main"_s, 1, 0, u"TRVNewsCtrlView"_s},
+        {u"mainTRV"_s, 0, 1, u"NewsCtrlView"_s},
+        {u"main"_s, 0, 1, u"OtherView"_s},
+        {u""_s, 0, 1, u"TRVNewsCtrlView"_s},
+    };
+    {
+        SettingsFile file(path);
+        LayoutStore store(file);
+        store.SetViewInfo(one, u"ShowCategory"_s, false);
+        store.SetViewInfo(one, u"FocusedTab"_s, 65535);
+        store.SetViewInfo(one, u"SymbolID"_s, u"2330,\"台\""_s);
+        store.SetViewInfo(one, u"Items"_s, QStringList{u"a,b"_s, u""_s});
+        ASSERT_TRUE(file.save());
+    }
+    SettingsFile file(path);
+    const LayoutStore store(file);
+    bool show = true;
+    int tab = 0;
+    unsigned short tab16 = 0;
+    QString symbol;
+    QStringList items;
+    EXPECT_TRUE(store.GetViewInfo(one, u"ShowCategory"_s, show));
+    EXPECT_TRUE(store.GetViewInfo(one, u"FocusedTab"_s, tab));
+    EXPECT_TRUE(store.GetViewInfo(one, u"FocusedTab"_s, tab16));
+    EXPECT_TRUE(store.GetViewInfo(one, u"SymbolID"_s, symbol));
+    EXPECT_TRUE(store.GetViewInfo(one, u"Items"_s, items));
+    EXPECT_FALSE(show);
+    EXPECT_EQ(tab, 65535);
+    EXPECT_EQ(tab16, 65535);
+    EXPECT_EQ(symbol, u"2330,\"台\""_s);
+    EXPECT_EQ(items, (QStringList{u"a,b"_s, u""_s}));
+    for (const ViewSettingPath& other : others)
+        EXPECT_FALSE(store.GetViewInfo(other, u"FocusedTab"_s, tab)) << other.section.toStdString();
+}
+
+TEST(TerminalSettingsTest, TakesValuesThatMakeNoSenseAsDefaults) {
+    QTemporaryDir folder;
+    SettingsFile file(folder.filePath(u"wirepane.ini"_s));
+    file.setValue(u"terminal"_s, u"fontSize"_s, 4000);
+    file.setValue(u"terminal"_s, u"scheme"_s, u"pink"_s);
+    file.setValue(u"terminal"_s, u"popupPosition"_s, u"above"_s);
+    file.setValue(u"terminal"_s, u"frameGeometry"_s, 12);
+    TerminalSettings settings(file);
+    EXPECT_EQ(settings.fontSize(), TerminalSettings::largestFont);
+    EXPECT_EQ(settings.scheme(), ColourScheme::Light);
+    EXPECT_EQ(settings.SYS_eGetPopupWndPosition(), 1);
+    EXPECT_TRUE(settings.frameGeometry().isEmpty());
+}
+
+// What a scheme draws must be readable: the contrast of text and ground after the usual luminance formula.
+double contrast(const QColor& text, const QColor& ground) {
+    const auto luminance = [](const QColor& colour) {
+        const auto linear = [](double part) {
+            return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+               0.0722 * linear(colour.blueF());
+    };
+    const double a = luminance(text);
+    const double b = luminance(ground);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+TEST(ColourSchemeTest, TextIsReadableOnEveryGround) {
+    const QString text = u"COLOR_LISTCTL_NORMALTEXT"_s;
+    const std::pair<QString, QString> pairs[] = {
+        {text, u"COLOR_LISTCTL_BACKGROUND"_s},
+        {text, u"COLOR_LISTCTL_BACKGROUNDSLASH"_s},
+        {text, u"COLOR_LISTCTL_CLICKLINE"_s},
+        {text, u"COLOR_LISTCTL_CLICKLINE_GRAY"_s},
+        {u"COLOR_LISTCTL_HDTEXTCOLOR1"_s, u"COLOR_LISTCTL_HDBkCOLOR1"_s},
+    };
+    for (const ColourScheme scheme : {ColourScheme::Light, ColourScheme::Dark}) {
+        for (const auto& [front, ground] : pairs) {
+            const QColor frontColour = schemeColour(scheme, front);
+            const QColor groundColour = schemeColour(scheme, ground);
+            ASSERT_TRUE(frontColour.isValid() && groundColour.isValid()) << ground.toStdString();
+            EXPECT_GE(contrast(frontColour, groundColour), 4.5) << ground.toStdString();
+        }
+    }
+    EXPECT_FALSE(schemeColour(ColourScheme::Dark, u"COLOR_UNKNOWN"_s).isValid());
+}
+
+}  // namespace

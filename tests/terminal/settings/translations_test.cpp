@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/translations/languages.h"
+#include "terminal/translations/terminal_text.h"
+
+#include <QCoreApplication>
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+#include <QXmlStreamReader>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace wirepane;
+
+namespace {
+
+const QString sources = QStringLiteral(WIREPANE_SOURCES);
+
+QHash<QString, QString> catalogue(const QString& code) {
+    QFile file(u"%1/terminal/translations/wirepane_%2.ts"_s.arg(sources, QString(code).replace(u'-', u'_')));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+    QXmlStreamReader xml(&file);
+    QHash<QString, QString> texts;
+    QString id;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (xml.isStartElement() && xml.name() == "message"_L1) {
+            id = xml.attributes().value("id"_L1).toString();
+            EXPECT_FALSE(texts.contains(id)) << id.toStdString();
+        } else if (xml.isStartElement() && xml.name() == "translation"_L1) {
+            texts.insert(id, xml.readElementText());
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+    return texts;
+}
+
+// The keys that the rooms' sources name.
+QSet<QString> keysInSources() {
+    static const QRegularExpression key(u"\"((?:IDS|IDC|TERMINAL)_[A-Za-z0-9_-]+)\""_s);
+    QSet<QString> found;
+    for (const QString& room : {u"host"_s, u"headline_list"_s, u"story"_s, u"output"_s, u"search"_s,
+                                u"news_view"_s, u"terminal"_s}) {
+        QDirIterator files(sources + u'/' + room, {u"*.h"_s, u"*.cpp"_s}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+            auto matches = key.globalMatch(QString::fromUtf8(file.readAll()));
+            while (matches.hasNext())
+                found.insert(matches.next().captured(1));
+        }
+    }
+    return found;
+}
+
+TEST(TranslationsTest, EveryKeyOfTheSourcesHasATextInEveryLanguage) {
+    const QSet<QString> used = keysInSources();
+    ASSERT_TRUE(used.contains(u"IDS_NEWSCTRLVIEW_STRING_NEWS"_s));
+    ASSERT_TRUE(used.contains(u"TERMINAL_QUIT"_s));
+    for (const QString& code : Languages::codes()) {
+        const auto texts = catalogue(code);
+        for (const QString& key : used)
+            EXPECT_FALSE(texts.value(key).isEmpty()) << key.toStdString() << " in " << code.toStdString();
+    }
+}
+
+TEST(TranslationsTest, TheCatalogueInForceGivesItsTexts) {
+    Languages languages;
+    for (const QString& code : Languages::codes()) {
+        const auto texts = catalogue(code);
+        ASSERT_TRUE(languages.use(code)) << code.toStdString();
+        for (auto text = texts.begin(); text != texts.end(); ++text)
+            EXPECT_EQ(qtTrId(text.key().toUtf8().constData()), text.value()) << text.key().toStdString();
+    }
+    EXPECT_FALSE(languages.use(u"de"_s));
+    EXPECT_EQ(languages.current(), u"zh-CN"_s);
+    EXPECT_EQ(terminalText(TextId::LanguageSimplifiedChinese), u"简体中文"_s);
+}
+
+TEST(TranslationsTest, LanguagesHaveTheSamePlaceholdersAndEdges) {
+    const auto english = catalogue(u"en"_s);
+    for (const QString& code : {u"zh-TW"_s, u"zh-CN"_s}) {
+        const auto texts = catalogue(code);
+        EXPECT_EQ(QSet<QString>(texts.keyBegin(), texts.keyEnd()),
+                  QSet<QString>(english.keyBegin(), english.keyEnd()));
+        for (auto text = english.begin(); text != english.end(); ++text)
+            EXPECT_EQ(texts.value(text.key()).count(u"%1"_s), text->count(u"%1"_s))
+                << text.key().toStdString();
+    }
+    // A view whose caption is this one is opened as a view of symbol news.
+    for (const QString& code : Languages::codes()) {
+        const auto texts = catalogue(code);
+        EXPECT_NE(texts[u"IDS_NEWSCTRLVIEW_STRING_NEWS"_s].toLower(),
+                  texts[u"IDS_MMSEXTENSION-MAINFRM_NEWSCTRLVIEW"_s].toLower());
+    }
+}
+
+}  // namespace
