@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/result.h"
+
+#include <QString>
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+
+struct sqlite3;
+
+namespace wirepane {
+
+// A connection to one database file. Used by one thread at a time; statements must be gone before it.
+//
+// Failures: operations that can fail answer false, and failure() then holds the sentence.
+class Database {
+public:
+    enum class Mode {
+        Create,     // read and write; made when absent
+        Write,      // read and write; must be there
+        Read,       // read only; sees what other programs have committed
+        Immutable,  // read only, for a folder where nothing may be made; nobody else may write meanwhile
+    };
+
+    // Nothing is read from the file yet: a file that is no database is found out by the first statement.
+    static Result<std::unique_ptr<Database>> open(const QString& path, Mode mode,
+                                                  std::chrono::milliseconds busyTimeout);
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    // Runs one or several statements that give no rows.
+    bool execute(const char* sql);
+    // The single number that `sql` gives; false, and `value` unchanged, on failure or without a row.
+    bool readNumber(const char* sql, std::int64_t& value);
+    bool readText(const char* sql, QString& value);
+
+    bool isReadOnly() const;
+    bool inTransaction() const;
+    std::int64_t lastInsertId() const;
+    // Rows that the last statement changed.
+    int changes() const;
+    // While off, closing leaves the file and its log exactly as they are.
+    void setCheckpointOnClose(bool on);
+
+    const QString& path() const { return filePath; }
+    // The sentence about the last failure; empty when there was none.
+    const QString& failure() const { return failureText; }
+    // Takes down what SQLite says about the failure that just happened.
+    void noteFailure();
+    // SQLite's result code of the last failure.
+    int failureCode() const { return code; }
+
+    sqlite3* handle() const { return connection; }
+
+private:
+    Database(QString path, sqlite3* connection);
+
+    QString filePath;
+    sqlite3* connection;
+    QString failureText;
+    int code = 0;
+};
+
+}  // namespace wirepane

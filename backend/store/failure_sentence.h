@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace wirepane {
+
+// What went wrong with a store file, as a sentence for a person: it names the file, what that means, and the
+// reason. `code` is SQLite's extended result code, `message` its own words, `systemError` the errno behind it
+// (0: none).
+QString failureSentence(const QString& path, int code, const QString& message, int systemError);
+
+}  // namespace wirepane

@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/item_check.h"
+
+#include "backend/store/limits.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+// Where a character stands that no text may hold; the length when there is none.
+qsizetype badCharacter(QStringView text, qsizetype from) {
+    for (qsizetype i = from; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (c.isNull() || c.isLowSurrogate())
+            return i;
+        if (c.isHighSurrogate()) {
+            if (i + 1 == text.size() || !text[i + 1].isLowSurrogate())
+                return i;
+            ++i;
+        }
+    }
+    return text.size();
+}
+
+QString tooLong(QLatin1StringView what, qsizetype length, qsizetype most) {
+    return u"The %1 has %2 characters; at most %3 are taken."_s.arg(what).arg(length).arg(most);
+}
+
+QString symbolFault(const QString& code) {
+    if (code.isEmpty())
+        return u"A symbol has no code."_s;
+    if (code.size() > limits::codeLength)
+        return tooLong("code of a symbol"_L1, code.size(), limits::codeLength);
+    return {};
+}
+
+bool isColour(const QString& text) {
+    const auto isHex = [](QChar c) {
+        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
+    };
+    return text.size() == 7 && text.front() == u'#' && std::all_of(text.begin() + 1, text.end(), isHex);
+}
+
+std::vector<SymbolRef> cleanedSymbols(const std::vector<SymbolRef>& symbols) {
+    QSet<std::pair<unsigned char, QString>> seen;
+    std::vector<SymbolRef> kept;
+    for (const SymbolRef& symbol : symbols) {
+        SymbolRef clean{symbol.market, cleanText(symbol.code)};
+        if (seen.contains({clean.market, clean.code}))
+            continue;
+        seen.insert({clean.market, clean.code});
+        kept.push_back(std::move(clean));
+    }
+    return kept;
+}
+
+}  // namespace
+
+QString cleanText(const QString& text) {
+    qsizetype bad = badCharacter(text, 0);
+    if (bad == text.size())
+        return text;
+    QString clean = text;
+    while (bad < clean.size()) {
+        clean[bad] = QChar::ReplacementCharacter;
+        bad = badCharacter(clean, bad + 1);
+    }
+    return clean;
+}
+
+QString cleanCategoryName(const QString& name) {
+    QString clean;
+    for (const QChar c : cleanText(name)) {
+        if (!c.isSpace() && c != u',' && c.category() != QChar::Other_Control)
+            clean += c;
+        else if (!clean.isEmpty() && !clean.endsWith(u'-'))
+            clean += u'-';
+    }
+    clean.truncate(limits::categoryNameLength);
+    if (!clean.isEmpty() && clean.back().isHighSurrogate())
+        clean.chop(1);
+    while (clean.endsWith(u'-'))
+        clean.chop(1);
+    return clean;
+}
+
+NewsItem cleaned(const NewsItem& item) {
+    NewsItem clean = item;
+    clean.identity = cleanText(item.identity);
+    clean.title = cleanText(item.title);
+    if (item.story)
+        clean.story = cleanText(*item.story);
+    clean.category = cleanCategoryName(item.category);
+    clean.related = cleanedSymbols(item.related);
+    return clean;
+}
+
+SymbolItem cleaned(const SymbolItem& item) {
+    SymbolItem clean = item;
+    clean.code = cleanText(item.code);
+    clean.name = cleanText(item.name);
+    return clean;
+}
+
+CategoryItem cleaned(const CategoryItem& item) {
+    CategoryItem clean = item;
+    clean.name = cleanCategoryName(item.name);
+    clean.colour = item.colour.toLower();
+    return clean;
+}
+
+QString faultOf(const NewsItem& item) {
+    if (item.service == 0)
+        return u"It belongs to no news service."_s;
+    if (item.identity.isEmpty())
+        return u"It has no identity."_s;
+    if (item.identity.size() > limits::identityLength)
+        return tooLong("identity"_L1, item.identity.size(), limits::identityLength);
+    if (item.title.trimmed().isEmpty())
+        return u"The title is empty."_s;
+    if (item.title.size() > limits::titleLength)
+        return tooLong("title"_L1, item.title.size(), limits::titleLength);
+    if (item.story && item.story->size() > limits::storyLength)
+        return tooLong("story"_L1, item.story->size(), limits::storyLength);
+    if (item.time < limits::firstTime || item.time > limits::lastTime)
+        return u"Its time (%1 seconds since 1970) does not lie within the years 1900 to 9999."_s.arg(
+            item.time);
+    if (item.related.size() > limits::relatedSymbols)
+        return u"It names %1 related symbols; at most %2 are taken."_s.arg(item.related.size())
+            .arg(limits::relatedSymbols);
+    for (const SymbolRef& symbol : item.related) {
+        if (QString fault = symbolFault(symbol.code); !fault.isEmpty())
+            return fault;
+    }
+    return {};
+}
+
+QString faultOf(const SymbolItem& item) {
+    if (item.market == 0)
+        return u"The symbol belongs to no market."_s;
+    if (item.name.size() > limits::symbolNameLength)
+        return tooLong("name of the symbol"_L1, item.name.size(), limits::symbolNameLength);
+    return symbolFault(item.code);
+}
+
+QString faultOf(const CategoryItem& item) {
+    if (item.service == 0)
+        return u"The category belongs to no news service."_s;
+    if (item.id < 1)
+        return u"The category has the id %1; ids count from 1 on."_s.arg(item.id);
+    if (item.name.isEmpty())
+        return u"The category has no name."_s;
+    if (!item.colour.isEmpty() && !isColour(item.colour))
+        return u"The colour \"%1\" is not of the form #rrggbb."_s.arg(item.colour.left(20));
+    return {};
+}
+
+}  // namespace wirepane

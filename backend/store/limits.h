@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+#include <cstddef>
+#include <cstdint>
+
+// What the store takes at most. Lengths are in characters as QString counts them (UTF-16 code units).
+namespace wirepane::limits {
+
+inline constexpr qsizetype titleLength = 8192;
+inline constexpr qsizetype storyLength = qsizetype{4} * 1024 * 1024;
+inline constexpr qsizetype identityLength = 2048;
+inline constexpr qsizetype codeLength = 64;
+inline constexpr qsizetype symbolNameLength = 256;
+inline constexpr qsizetype categoryNameLength = 64;  // a longer name is cut
+inline constexpr std::size_t relatedSymbols = 1000;
+
+inline constexpr std::int64_t firstTime = -2208988800;  // 1900-01-01 00:00:00 UTC
+inline constexpr std::int64_t lastTime = 253402300799;  // 9999-12-31 23:59:59 UTC
+
+}  // namespace wirepane::limits

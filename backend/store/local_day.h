@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDate>
+
+#include <cstdint>
+
+namespace wirepane {
+
+// The seconds of a local calendar day: from `begin` to before `end`, since 1970 (UTC).
+struct DayBounds {
+    std::int64_t begin = 0;
+    std::int64_t end = 0;
+
+    bool contains(std::int64_t time) const { return time >= begin && time < end; }
+    bool operator==(const DayBounds&) const = default;
+};
+
+DayBounds boundsOf(QDate day);
+
+// A date as the number yyyymmdd.
+std::int32_t dayNumber(QDate day);
+// The date of an eight-digit text yyyymmdd; invalid when it is none.
+QDate dayOfText(const QString& text);
+
+// Tells the local day of times, quickly for times near each other.
+class LocalDays {
+public:
+    // As yyyymmdd.
+    std::int32_t numberOf(std::int64_t time);
+
+private:
+    DayBounds bounds;
+    std::int32_t number = 0;
+};
+
+}  // namespace wirepane

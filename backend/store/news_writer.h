@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/news_item.h"
+#include "backend/store/database.h"
+#include "backend/store/statement.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace wirepane {
+
+// What the store holds of a piece of news, as far as the next version of it asks.
+struct KnownNews {
+    std::int64_t id = 0;
+    int version = 0;
+    std::int64_t time = 0;
+    std::int32_t day = 0;
+    std::int32_t sequence = 0;
+    std::int32_t category = 0;
+    bool hasStory = false;
+};
+
+// Where a piece of news is put.
+struct NewsPlace {
+    std::int32_t day = 0;  // the local day that its number belongs to, as yyyymmdd
+    std::int32_t sequence = 0;
+    std::int32_t category = 0;
+};
+
+// The rows of one piece of news: headline, story, related symbols and search index, always in step.
+// Operations answer false on failure, which the database then holds.
+class NewsWriter {
+public:
+    explicit NewsWriter(Database& database);
+
+    // Nothing when the news is not there, or on failure (then `failed` is set).
+    std::optional<KnownNews> find(unsigned char service, const QString& identity, bool& failed);
+    // Whether no other piece of news than `exceptId` has this number on this day or at this time.
+    bool isFree(const NewsItem& item, std::int32_t day, std::int32_t sequence, std::int64_t exceptId,
+                bool& failed);
+
+    bool insert(const NewsItem& item, const NewsPlace& place);
+    bool replace(std::int64_t id, const NewsItem& item, const NewsPlace& place);
+    bool insertStory(std::int64_t id, const QString& story);
+
+private:
+    bool writeStory(std::int64_t id, const std::optional<QString>& story);
+    bool writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place);
+
+    Database& database;
+    Statement findIdentity;
+    Statement findNumber;
+    Statement insertHeadline;
+    Statement updateHeadline;
+    Statement insertText;
+    Statement deleteText;
+    Statement insertRelated;
+    Statement deleteRelated;
+    Statement addToSearch;
+    Statement takeFromSearch;
+};
+
+}  // namespace wirepane

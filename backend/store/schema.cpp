@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/schema.h"
+
+#include <array>
+
+namespace wirepane {
+
+namespace {
+
+constexpr const char* firstVersion = R"sql(
+PRAGMA application_id = 1464880709;
+
+CREATE TABLE services(
+    id INTEGER PRIMARY KEY CHECK(id BETWEEN 1 AND 255),
+    full_name TEXT NOT NULL,
+    short_name TEXT NOT NULL,
+    position INTEGER NOT NULL,
+    authorised INTEGER NOT NULL DEFAULT 1);
+
+CREATE TABLE categories(
+    space INTEGER NOT NULL CHECK(space IN (0, 52)),
+    id INTEGER NOT NULL,
+    name TEXT NOT NULL,
+    colour TEXT NOT NULL DEFAULT '',
+    PRIMARY KEY(space, id),
+    UNIQUE(space, name)) WITHOUT ROWID;
+
+CREATE TABLE service_categories(
+    service INTEGER NOT NULL REFERENCES services(id),
+    category INTEGER NOT NULL,
+    space INTEGER NOT NULL CHECK(space = CASE service WHEN 52 THEN 52 ELSE 0 END),
+    PRIMARY KEY(service, category),
+    FOREIGN KEY(space, category) REFERENCES categories(space, id)) WITHOUT ROWID;
+
+CREATE TABLE symbols(
+    market INTEGER NOT NULL,
+    code TEXT NOT NULL,
+    name TEXT NOT NULL,
+    category INTEGER NOT NULL,
+    PRIMARY KEY(market, code)) WITHOUT ROWID;
+
+CREATE TABLE headlines(
+    id INTEGER PRIMARY KEY,
+    service INTEGER NOT NULL REFERENCES services(id),
+    time INTEGER NOT NULL,
+    sequence INTEGER NOT NULL,
+    day INTEGER NOT NULL,
+    category INTEGER NOT NULL,
+    version INTEGER NOT NULL,
+    received INTEGER NOT NULL,
+    identity TEXT NOT NULL,
+    title TEXT NOT NULL);
+CREATE UNIQUE INDEX headlines_by_time ON headlines(service, time, sequence);
+CREATE UNIQUE INDEX headlines_by_number ON headlines(service, day, sequence);
+CREATE UNIQUE INDEX headlines_by_identity ON headlines(service, identity);
+CREATE INDEX headlines_by_category ON headlines(service, category, time, sequence);
+
+CREATE TABLE numbering(
+    service INTEGER NOT NULL REFERENCES services(id),
+    day INTEGER NOT NULL,
+    last INTEGER NOT NULL,
+    PRIMARY KEY(service, day)) WITHOUT ROWID;
+
+CREATE TABLE stories(
+    headline INTEGER PRIMARY KEY REFERENCES headlines(id) ON DELETE CASCADE,
+    text TEXT NOT NULL);
+
+CREATE TABLE related_symbols(
+    headline INTEGER NOT NULL REFERENCES headlines(id) ON DELETE CASCADE,
+    position INTEGER NOT NULL,
+    market INTEGER NOT NULL,
+    code TEXT NOT NULL,
+    service INTEGER NOT NULL,
+    time INTEGER NOT NULL,
+    sequence INTEGER NOT NULL,
+    PRIMARY KEY(headline, position)) WITHOUT ROWID;
+CREATE INDEX headlines_by_symbol ON related_symbols(service, market, code, time, sequence);
+
+CREATE VIEW news_text(id, title, story) AS
+    SELECT headlines.id, headlines.title, replace(coalesce(stories.text, ''), '@@@@', char(10))
+    FROM headlines LEFT JOIN stories ON stories.headline = headlines.id;
+CREATE VIRTUAL TABLE news_search USING fts5(
+    title, story, content='news_text', content_rowid='id', tokenize='unicode61');
+)sql";
+
+constexpr std::array steps{firstVersion};
+
+}  // namespace
+
+std::span<const char* const> storeMigrations() {
+    return steps;
+}
+
+std::int64_t storeVersion() {
+    return static_cast<std::int64_t>(steps.size());
+}
+
+}  // namespace wirepane

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/database.h"
+
+namespace wirepane {
+
+// Gives a store that was just made its first services, with the first categories of each. Call it inside the
+// transaction that makes the tables. False on failure.
+bool addDefaults(Database& database);
+
+}  // namespace wirepane

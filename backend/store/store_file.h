@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/database.h"
+
+#include <chrono>
+#include <optional>
+
+namespace wirepane {
+
+struct StoreOptions {
+    // How long to wait for another program that is writing.
+    std::chrono::milliseconds busyTimeout{5000};
+};
+
+// Opens a news store for reading and writing, makes it when the file is absent or empty, and brings an older
+// one up to date. Folders are not made. A file that cannot be used (no news store, damaged, of a newer
+// version, read-only, in use) is an error and stays as it is.
+Result<std::unique_ptr<Database>> openStore(const QString& path, const StoreOptions& options = {});
+
+// Why this open database cannot be used as a news store; nothing when it can, or when it is still empty.
+// Reads only.
+std::optional<Error> storeFault(Database& database);
+
+}  // namespace wirepane

@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/store_writer.h"
+
+#include "backend/store/item_check.h"
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+StoredNews rejected(const QString& reason) {
+    StoredNews stored;
+    stored.outcome = {Take::Rejected, reason};
+    return stored;
+}
+
+HeadlineKey keyOf(const NewsItem& item, const KnownNews& known) {
+    return {known.time, known.sequence, item.service};
+}
+
+bool isLater(const NewsItem& item, const KnownNews& known) {
+    return item.version > known.version || (item.version == known.version && item.time > known.time);
+}
+
+QString numberTaken(const NewsItem& item) {
+    if (!item.sequence)
+        return u"No sequence number is left on its day."_s;
+    return u"Its sequence number %1 belongs to another headline of that service and day."_s.arg(
+        *item.sequence);
+}
+
+}  // namespace
+
+StoreWriter::StoreWriter(Database& owner)
+    : database(owner),
+      news(owner),
+      numbers(owner),
+      categories(owner),
+      insertService(owner,
+                    "INSERT OR IGNORE INTO services(id, full_name, short_name, position) "
+                    "SELECT ?1, ?2, ?2, coalesce(max(position), 0) + 1 FROM services"),
+      findSymbol(owner, "SELECT name, category FROM symbols WHERE market = ? AND code = ?"),
+      writeSymbol(owner, "REPLACE INTO symbols(market, code, name, category) VALUES(?, ?, ?, ?)") {}
+
+Done StoreWriter::begin() {
+    if (!database.execute("BEGIN IMMEDIATE"))
+        return Error{database.failure()};
+    numbers.restart();
+    categories.restart();
+    services.clear();
+    days = {};
+    begun = true;
+    return Nothing{};
+}
+
+Done StoreWriter::commit() {
+    if (!begun)
+        return Error{u"Nothing was begun that could be kept."_s};
+    if (!numbers.save() || !database.execute("COMMIT"))
+        return fail();
+    begun = false;
+    return Nothing{};
+}
+
+void StoreWriter::rollback() {
+    // SQLite itself takes back what a full disk stopped.
+    if (begun && database.inTransaction())
+        database.execute("ROLLBACK");
+    begun = false;
+}
+
+Error StoreWriter::fail() {
+    const Error error{database.failure()};
+    rollback();
+    return error;
+}
+
+Result<TakeOutcome> StoreWriter::take(const StoreItem& item) {
+    if (const auto* symbol = std::get_if<SymbolItem>(&item))
+        return takeSymbol(cleaned(*symbol));
+    if (const auto* category = std::get_if<CategoryItem>(&item))
+        return takeCategory(cleaned(*category));
+    const Result<StoredNews> stored = takeNews(std::get<NewsItem>(item));
+    if (!stored)
+        return Error{stored.error()};
+    return stored.value().outcome;
+}
+
+Result<StoredNews> StoreWriter::takeNews(const NewsItem& given) {
+    if (!begun)
+        return Error{u"Nothing was begun that the news could be part of."_s};
+    const NewsItem item = cleaned(given);
+    if (const QString fault = faultOf(item); !fault.isEmpty())
+        return rejected(fault);
+    bool failed = false;
+    const std::optional<KnownNews> known = news.find(item.service, item.identity, failed);
+    if (failed)
+        return fail();
+    if (!known)
+        return add(item);
+    if (isLater(item, *known))
+        return replace(item, *known);
+    if (item.version == known->version && item.story && !known->hasStory)
+        return addStory(item, *known);
+    StoredNews stored;
+    stored.outcome.take = Take::AlreadyThere;
+    stored.key = keyOf(item, *known);
+    stored.categoryId = known->category;
+    return stored;
+}
+
+Result<StoredNews> StoreWriter::add(const NewsItem& item) {
+    NewsPlace place{.day = days.numberOf(item.time)};
+    const Result<std::optional<std::int32_t>> number = numberFor(item, place.day, nullptr);
+    if (!number)
+        return Error{number.error()};
+    if (!number.value())
+        return rejected(numberTaken(item));
+    place.sequence = *number.value();
+    if (!ensureService(item.service) || !findCategory(item, place.category) || !news.insert(item, place))
+        return fail();
+    StoredNews stored;
+    stored.key = {item.time, place.sequence, item.service};
+    stored.categoryId = place.category;
+    return stored;
+}
+
+Result<StoredNews> StoreWriter::replace(const NewsItem& item, const KnownNews& known) {
+    NewsPlace place{.day = days.numberOf(item.time)};
+    const Result<std::optional<std::int32_t>> number = numberFor(item, place.day, &known);
+    if (!number)
+        return Error{number.error()};
+    if (!number.value())
+        return rejected(numberTaken(item));
+    place.sequence = *number.value();
+    if (!findCategory(item, place.category) || !news.replace(known.id, item, place))
+        return fail();
+    StoredNews stored;
+    stored.key = {item.time, place.sequence, item.service};
+    stored.before = keyOf(item, known);
+    stored.categoryId = place.category;
+    return stored;
+}
+
+Result<StoredNews> StoreWriter::addStory(const NewsItem& item, const KnownNews& known) {
+    if (!news.insertStory(known.id, *item.story))
+        return fail();
+    StoredNews stored;
+    stored.onlyStory = true;
+    stored.key = keyOf(item, known);
+    stored.before = stored.key;
+    stored.categoryId = known.category;
+    return stored;
+}
+
+Result<std::optional<std::int32_t>> StoreWriter::numberFor(const NewsItem& item, std::int32_t day,
+                                                           const KnownNews* known) {
+    const std::int64_t own = known != nullptr ? known->id : 0;
+    const bool keeps = known != nullptr && known->day == day;
+    std::optional<std::int32_t> number = keeps ? known->sequence : item.sequence;
+    bool failed = false;
+    if (number) {
+        const bool isFree = news.isFree(item, day, *number, own, failed);
+        if (failed || (isFree && !numbers.use(item.service, day, *number)))
+            return fail();
+        // A kept number can only be in the way of the moved time's, and then a new one is as good.
+        if (isFree || !keeps)
+            return isFree ? number : std::nullopt;
+    }
+    do {
+        number = numbers.next(item.service, day, failed);
+    } while (!failed && number && !news.isFree(item, day, *number, own, failed) && !failed);
+    if (failed)
+        return fail();
+    return number;
+}
+
+bool StoreWriter::ensureService(unsigned char service) {
+    if (services.contains(service))
+        return true;
+    if (!Query(insertService, service, u"Service %1"_s.arg(service)).run())
+        return false;
+    services.insert(service);
+    return true;
+}
+
+bool StoreWriter::findCategory(const NewsItem& item, std::int32_t& id) {
+    id = item.categoryId.value_or(0);
+    if (item.categoryId || item.category.isEmpty())
+        return true;
+    const std::optional<std::int32_t> found = categories.idOf(item.service, item.category);
+    id = found.value_or(0);
+    return found.has_value();
+}
+
+Result<TakeOutcome> StoreWriter::takeSymbol(const SymbolItem& item) {
+    if (!begun)
+        return Error{u"Nothing was begun that the symbol could be part of."_s};
+    if (const QString fault = faultOf(item); !fault.isEmpty())
+        return TakeOutcome{Take::Rejected, fault};
+    {
+        Query query(findSymbol, item.market, item.code);
+        if (query.next() && query.text(0) == item.name && query.number(1) == item.category)
+            return TakeOutcome{Take::AlreadyThere, {}};
+    }
+    if (!Query(writeSymbol, item.market, item.code, item.name, item.category).run())
+        return fail();
+    return TakeOutcome{};
+}
+
+Result<TakeOutcome> StoreWriter::takeCategory(const CategoryItem& item) {
+    if (!begun)
+        return Error{u"Nothing was begun that the category could be part of."_s};
+    if (const QString fault = faultOf(item); !fault.isEmpty())
+        return TakeOutcome{Take::Rejected, fault};
+    if (!ensureService(item.service))
+        return fail();
+    Result<TakeOutcome> outcome = categories.take(item);
+    if (!outcome)
+        rollback();
+    return outcome;
+}
+
+}  // namespace wirepane

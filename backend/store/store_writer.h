@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/item_sink.h"
+#include "backend/store/category_book.h"
+#include "backend/store/day_numbers.h"
+#include "backend/store/local_day.h"
+#include "backend/store/news_writer.h"
+#include "host/contract/records.h"
+
+#include <QSet>
+
+#include <optional>
+
+namespace wirepane {
+
+// What became of a piece of news.
+struct StoredNews {
+    TakeOutcome outcome;
+    bool onlyStory = false;             // taken in: only the story that was missing
+    HeadlineKey key;                    // unless rejected: where it stands
+    std::optional<HeadlineKey> before;  // where its earlier version stood
+    std::int32_t categoryId = 0;
+};
+
+// Writes items into an open store, once each, however often they come.
+//
+// News is known by service and identity. A later version, or the same version with a later time, replaces
+// title, story, category and related symbols; it keeps the sequence number while the local day stays the
+// same. The same version with a story that was missing adds the story. Anything else is already there. News
+// without a number gets the next one of its service and local day; a given number that another piece of news
+// of that day has is a reason to reject it. Services and categories that the store does not know are made.
+//
+// Texts are cleaned (item_check.h) and checked against limits.h; what does not pass is rejected with a
+// reason.
+//
+// An error takes everything back since begin(). Thread: that of the database, which must outlive the writer.
+class StoreWriter : public ItemSink {
+public:
+    explicit StoreWriter(Database& database);
+
+    Done begin() override;
+    Result<TakeOutcome> take(const StoreItem& item) override;
+    Done commit() override;
+    void rollback() override;
+
+    // As take(), and tells where the news stands now.
+    Result<StoredNews> takeNews(const NewsItem& item);
+
+private:
+    Result<TakeOutcome> takeSymbol(const SymbolItem& item);
+    Result<TakeOutcome> takeCategory(const CategoryItem& item);
+
+    Result<StoredNews> add(const NewsItem& item);
+    Result<StoredNews> replace(const NewsItem& item, const KnownNews& known);
+    Result<StoredNews> addStory(const NewsItem& item, const KnownNews& known);
+
+    // The sequence number for an item on a day; nothing when its own is taken or none is left.
+    Result<std::optional<std::int32_t>> numberFor(const NewsItem& item, std::int32_t day,
+                                                  const KnownNews* known);
+    bool ensureService(unsigned char service);
+    bool findCategory(const NewsItem& item, std::int32_t& id);
+    // Takes everything back and says why.
+    Error fail();
+
+    Database& database;
+    NewsWriter news;
+    DayNumbers numbers;
+    CategoryBook categories;
+    Statement insertService;
+    Statement findSymbol;
+    Statement writeSymbol;
+    LocalDays days;
+    QSet<unsigned char> services;  // known to be there
+    bool begun = false;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/database.h"
+
+namespace wirepane {
+
+// A writing transaction: taken back at the end of its life unless it was committed.
+class Transaction {
+public:
+    explicit Transaction(Database& database) : owner(database), begun(database.execute("BEGIN IMMEDIATE")) {}
+    ~Transaction() {
+        if (begun && owner.inTransaction())
+            owner.execute("ROLLBACK");
+    }
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+
+    // False: another program is writing, or the file cannot be written; the database holds the sentence.
+    bool hasBegun() const { return begun; }
+    bool commit() { return begun && owner.execute("COMMIT"); }
+
+private:
+    Database& owner;
+    bool begun;
+};
+
+}  // namespace wirepane
