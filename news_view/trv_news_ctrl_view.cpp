@@ -10,7 +10,7 @@
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/sc_combo_box.h"
 #include "news_view/control_ids.h"
-#include "story/news_story_view.h"
+#include "story/quote_dlg_tip_msg.h"
 #include "story/trv_news_story.h"
 
 #include <algorithm>
@@ -26,6 +26,7 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
 
 TRVNewsCtrlView::~TRVNewsCtrlView() {
     C_UnRegisterSymbol(this);
+    delete tip;
 }
 
 void TRVNewsCtrlView::GetCaption(QString& caption) {

@@ -18,10 +18,13 @@
 #include "news_view/view_settings.h"
 
 #include <QMenu>
+#include <QPointer>
 
 #include <array>
 #include <memory>
 #include <vector>
+
+class CQuoteDlgTipMsg;
 
 // The news view that a terminal places in its frames. It owns the parts that do the work (services, lists,
 // controls, story stage, catalogues) and forwards to them; what it does itself is the order in which things
@@ -190,6 +193,7 @@ private:
     ApplicationSwitches switches;
     ViewSettings settings;
     std::unique_ptr<QMenu> serviceMenu;
+    QPointer<CQuoteDlgTipMsg> tip;
 
     QString statusText;  // what the view has to say about its lists; empty most of the time
     QDate pickedDate;

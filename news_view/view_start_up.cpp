@@ -9,6 +9,7 @@
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "story/news_story_view.h"
+#include "story/quote_dlg_tip_msg.h"
 #include "story/trv_news_story.h"
 
 namespace {
@@ -28,6 +29,9 @@ void TRVNewsCtrlView::OnInitialUpdate() {
     GetConfigFromIni();
     services.vLoad(backEnd);
     vFillServiceMenu();
+    tip = new CQuoteDlgTipMsg(this);
+    tip->CreateByID(nullptr);
+    tip->vSetFont(GetViewFont());
 }
 
 void TRVNewsCtrlView::GetConfigFromIni() {

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QLabel>
+
+// A line of plain text in colours of its own; colours that were not set (invalid) follow the palette.
+class CQuoteStaticEx : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit CQuoteStaticEx(QWidget* parent = nullptr);
+
+    void vSetColors(const QColor& text, const QColor& background);
+};

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "story/quote_dlg_tip_msg.h"
+
+#include "host/controls/quote_static_ex.h"
+#include "host/controls/window_id.h"
+#include "story/story_ids.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QMouseEvent>
+#include <QTimerEvent>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int placePeriodMs = 100;
+constexpr int countDownPeriodMs = 1000;
+constexpr int smallestWidth = 100;
+constexpr int largestWidth = 800;
+constexpr int smallestHeight = 22;
+constexpr int horizontalRoom = 10;
+constexpr int verticalRoom = 8;
+constexpr int keepPlace = -1;
+constexpr QPoint placeForOrigin(2, 2);  // a tip at (0, 0) would hide its window's corner
+
+}  // namespace
+
+CQuoteDlgTipMsg::CQuoteDlgTipMsg(QWidget* parent) : QWidget(parent) {
+    SetWindowId(this, story_ids::tip);
+    setFocusPolicy(Qt::NoFocus);
+    hide();
+}
+
+bool CQuoteDlgTipMsg::CreateByID(QWidget* parent) {
+    if (parent != nullptr)
+        setParent(parent);
+    label = new CQuoteStaticEx(this);
+    SetWindowId(label, story_ids::tipText);
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
+    vPlace();
+    return true;
+}
+
+void CQuoteDlgTipMsg::vSetInfo(QWidget* focusOwner, const QString& tipText, const QColor& foreground,
+                               const QColor& background, int timeMs) {
+    displayTimeMs = timeMs;
+    owner = focusOwner;
+    text = tipText;
+    vSetInfoColor(foreground, background);
+}
+
+void CQuoteDlgTipMsg::vSetInfoColor(const QColor& foreground, const QColor& background) {
+    textColour = foreground;
+    backColour = background;
+}
+
+// Text that is too wide is cut by its average character width, so that what stays fills the largest tip.
+void CQuoteDlgTipMsg::vFitToText() {
+    const QFontMetrics metrics(tipFont.value_or(font()));
+    const int textWidth = metrics.horizontalAdvance(text);
+    int width = textWidth + horizontalRoom;
+    if (width > largestWidth) {
+        const int average = textWidth / static_cast<int>(text.size());
+        text.truncate(average == 0 ? largestWidth : largestWidth / average);
+        width = largestWidth;
+    }
+    tipSize =
+        QSize(std::max(width, smallestWidth), std::max(metrics.height() + verticalRoom, smallestHeight));
+}
+
+void CQuoteDlgTipMsg::vShow(QWidget* parent, int top, int left, bool toTheLeft) {
+    const QWidget* active = QApplication::activeWindow();
+    if (label == nullptr || active == nullptr || (parent != nullptr && parent->window() != active->window()))
+        return;
+    label->vSetColors(textColour, backColour);
+    if (top != keepPlace && left != keepPlace)
+        position = QPoint(left, top);
+    vFitToText();
+    if (toTheLeft)
+        position.rx() -= tipSize.width();
+    if (parent != nullptr) {
+        hide();
+        owner = parent;
+        setParent(parent);
+    }
+    vPlace();
+    label->setFont(tipFont.value_or(font()));
+    label->setText(text);
+    label->setGeometry(QRect(QPoint(0, 0), tipSize));
+    show();
+    raise();
+    remainingMs = displayTimeMs;
+    placeTimer.start(placePeriodMs, this);
+    countDown.start(countDownPeriodMs, this);
+    if (owner != nullptr)
+        owner->setFocus();
+}
+
+void CQuoteDlgTipMsg::vStop() {
+    placeTimer.stop();
+    countDown.stop();
+    hide();
+}
+
+void CQuoteDlgTipMsg::vPlace() {
+    if (owner == nullptr && parentWidget() == nullptr)
+        return;
+    setGeometry(QRect(position.isNull() ? placeForOrigin : position, tipSize));
+}
+
+void CQuoteDlgTipMsg::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == placeTimer.timerId()) {
+        vPlace();
+    } else if (event->timerId() == countDown.timerId()) {
+        remainingMs -= countDownPeriodMs;
+        if (remainingMs < 1)
+            vStop();
+    } else {
+        QWidget::timerEvent(event);
+    }
+}
+
+void CQuoteDlgTipMsg::mousePressEvent(QMouseEvent* event) {
+    QWidget::mousePressEvent(event);
+    vStop();
+}
