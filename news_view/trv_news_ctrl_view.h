@@ -156,6 +156,7 @@ private:
     void vRefreshCategoryCombo(const QString& name);
     bool bInitialSymbolInfo();
     void vSetNotSupported();
+    void vHideSymbolMode();
     void vSetSupported();
     void vDoNormalChangeSymbol(unsigned char service, const QString& code);
     void vOnChangeServiceCombobox(unsigned char service);

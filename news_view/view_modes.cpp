@@ -97,6 +97,8 @@ void TRVNewsCtrlView::ShowHideCtrObject(int mode) {
         if (CSuperSheetWnd* sheet = Sheet(list))
             sheet->setVisible(list == mode);
     }
+    if (mode == symbolMode && GetDataState() == DataState::NotSupported)
+        vHideSymbolMode();
 }
 
 void TRVNewsCtrlView::SetStoryShowType(unsigned short type) {

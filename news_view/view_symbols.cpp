@@ -42,16 +42,20 @@ bool TRVNewsCtrlView::bInitialSymbolInfo() {
     return true;
 }
 
-// The view has nothing to show for its symbol: the symbol mode's controls go.
 void TRVNewsCtrlView::vSetNotSupported() {
     vSetDataState(DataState::NotSupported);
+    vHideSymbolMode();
+    update();
+}
+
+// The grid and the controls of the symbol mode make room for the notice that there is nothing to show.
+void TRVNewsCtrlView::vHideSymbolMode() {
     for (const int id : {ids::serviceButton, ids::serviceCombo, ids::symbolCombo}) {
         if (QWidget* control = GetDlgItem(this, id))
             control->hide();
     }
     if (CSuperSheetWnd* sheet = Sheet(symbolMode))
         sheet->hide();
-    update();
 }
 
 void TRVNewsCtrlView::vSetSupported() {
