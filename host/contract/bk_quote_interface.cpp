@@ -107,6 +107,27 @@ bool BKQuoteInterface::BKNEWS_GetSymbolListBySeqNo(CNewsSymLst&, const CHeadline
     return false;
 }
 
+bool BKQuoteInterface::BKQNews_bReRequestHeadlineStory(const CHeadlineTable&) {
+    return false;
+}
+
+bool BKQuoteInterface::BKNEWS_bReRequestHeadlineTable(unsigned char, const CSymbolInfo&) {
+    return false;
+}
+
+bool BKQuoteInterface::BKNEWS_bReRequestHeadlineTable(unsigned char, int, const QString&) {
+    return false;
+}
+
+bool BKQuoteInterface::BKQNEWS_bReCoverHeadline(unsigned char, std::vector<CHeadline>&,
+                                                const std::vector<CHeadlineTable>&) {
+    return false;
+}
+
+bool BKQuoteInterface::BKQNEWS_bSearchNews(unsigned char, int, const CSearch&) {
+    return false;
+}
+
 QString BKQuoteInterface::LangGetLangString(const QString& key) {
     return qtTrId(key.toUtf8().constData());
 }

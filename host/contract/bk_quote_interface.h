@@ -103,6 +103,21 @@ public:
     // The symbols related to a headline. False, and `symbols` unchanged, when they are not at hand.
     virtual bool BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& symbols, const CHeadlineTable& entry);
 
+    // --- Requests: true when sent; the answer comes later ---
+
+    // The story of an entry: NewsReceiver::RespStory.
+    virtual bool BKQNews_bReRequestHeadlineStory(const CHeadlineTable& entry);
+    // A table by symbol (vRecvSymHeadlineTableRecovery), by date (vRecvAllHeadlineTableRecovery) or by
+    // category (vRecvCatHeadlineTableRecovery).
+    virtual bool BKNEWS_bReRequestHeadlineTable(unsigned char service, const CSymbolInfo& symbol);
+    virtual bool BKNEWS_bReRequestHeadlineTable(unsigned char service, int kind, const QString& key);
+    // The headlines of entries after a reconnection: appended to `headlines` where they are at hand, else
+    // RespHeadLine later.
+    virtual bool BKQNEWS_bReCoverHeadline(unsigned char service, std::vector<CHeadline>& headlines,
+                                          const std::vector<CHeadlineTable>& entries);
+    // A search in one service; `kind` is the number of the list that asks: RespSearchHeadLineTable.
+    virtual bool BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition);
+
     // --- Texts ---
 
     // The display text of a language key in the language in force; the key itself when there is none. The
