@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/news_item.h"
+#include "backend/sample/word_tables.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+namespace wirepane::sample {
+
+// The markets of the sample wire, by the service ids of their symbols.
+inline constexpr unsigned char exchangeMarket = 16;
+inline constexpr unsigned char hongKongMarket = 22;
+inline constexpr unsigned char warrantMarket = 52;
+inline constexpr unsigned char emergingMarket = 122;
+
+// An invented company. Money is in millions of its market's currency.
+struct Company {
+    unsigned char market = exchangeMarket;
+    QString code;
+    QString english;
+    QString chinese;
+    const Sector* sector = nullptr;
+    int annualRevenue = 0;  // millions
+    int netMargin = 0;      // tenths of a percent
+    int grossMargin = 0;    // tenths of a percent
+    int shares = 0;         // millions
+    int price = 0;          // around which the share trades, in hundredths
+    std::uint64_t seed = 0;
+
+    QStringView name(Language language) const { return language == Language::English ? english : chinese; }
+    SymbolRef symbol() const { return {market, code}; }
+};
+
+// An invented warrant on one of the companies of the exchange market.
+struct Warrant {
+    QString code;
+    QString name;
+    const Company* underlying = nullptr;
+    int issuer = 0;  // index into brokers()
+
+    SymbolRef symbol() const { return {warrantMarket, code}; }
+};
+
+// The companies and warrants of the sample wire: always the same ones, ordered by code in every market.
+class CompanyRegister {
+public:
+    CompanyRegister();
+    CompanyRegister(const CompanyRegister&) = delete;
+    CompanyRegister& operator=(const CompanyRegister&) = delete;
+
+    // The companies of markets 16, 22 and 122; of any other number, those of market 16.
+    const std::vector<Company>& companies(unsigned char market) const;
+    const std::vector<Warrant>& warrants() const { return allWarrants; }
+
+private:
+    void addTaiwan(unsigned char market, int first, int count);
+    void addHongKong(int count);
+    void addWarrants(int count);
+
+    std::vector<Company> exchange;
+    std::vector<Company> emerging;
+    std::vector<Company> hongKong;
+    std::vector<Warrant> allWarrants;
+};
+
+}  // namespace wirepane::sample

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/sample/company_register.h"
+#include "backend/sample/topic.h"
+
+#include <QStringView>
+
+#include <cstdint>
+#include <span>
+
+namespace wirepane::sample {
+
+// A category of news. Ids are unique over all services; a category that several services share has one id.
+struct Category {
+    std::int32_t id = 0;
+    QStringView name;
+    QStringView colour;  // "#rrggbb", readable on light and on dark
+};
+
+std::span<const Category> categories();
+const Category& categoryOf(std::int32_t id);
+
+// A topic that a service reports on.
+struct Beat {
+    Topic topic;
+    std::int32_t category;
+    int weight = 0;
+    int fromMinute = 0;  // of the day
+    int toMinute = 24 * 60;
+    bool tradingDaysOnly = false;
+    int englishPermille = 0;  // of a Chinese service's headlines on it
+};
+
+// The weight of news at a minute of the day; between two points it changes evenly.
+struct RhythmPoint {
+    int minute = 0;
+    int weight = 0;
+};
+
+// What a service is for in the sample wire.
+struct ServiceRole {
+    Language language = Language::English;
+    unsigned char market = exchangeMarket;
+    unsigned char otherMarket = 0;  // 0: none
+    int otherMarketPermille = 0;    // part of the company news that is about the other market
+    int share = 0;                  // of all headlines, beside the other services' shares
+    int weekendPermille = 0;        // of a working day's headlines
+    std::span<const Beat> beats;
+    std::span<const RhythmPoint> rhythm;
+};
+
+// The role of a service. Services without a fixed role are ordinary wires: the odd ones English, the even
+// ones Chinese.
+const ServiceRole& roleOf(unsigned char service);
+bool isOrdinaryWire(unsigned char service);
+
+}  // namespace wirepane::sample
