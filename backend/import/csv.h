@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QStringView>
+
+#include <optional>
+
+namespace wirepane {
+
+struct CsvRecord {
+    QStringList fields;
+    qint64 line = 0;     // the line that it starts on, from 1
+    bool closed = true;  // false: its last field opens a quote that the text never closes
+};
+
+// Comma-separated values: fields in quotes may hold commas, line breaks and doubled quotes; lines end in LF,
+// CRLF or CR; a byte order mark at the start is left out, and so are empty lines.
+class CsvReader {
+public:
+    // `csv` outlives this.
+    explicit CsvReader(QStringView csv);
+
+    // The next record; nothing at the end.
+    std::optional<CsvRecord> next();
+
+    qsizetype position() const { return at; }  // characters read so far
+
+private:
+    CsvRecord record();
+    QString field(bool& closed);
+    QString quotedField(bool& closed);
+    bool takeLineEnd();
+
+    QStringView text;
+    qsizetype at = 0;
+    qint64 line = 1;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/import/feed_reader.h"
+
+#include "backend/import/feed_entry.h"
+#include "backend/import/xml_source.h"
+
+#include <utility>
+#include <vector>
+
+namespace wirepane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView rdfNamespace("http://www.w3.org/1999/02/22-rdf-syntax-ns#");
+
+class FeedReading {
+public:
+    FeedReading(const ReadOptions& readOptions, const ItemVisitor& visitor)
+        : options(readOptions), visit(visitor) {}
+
+    void read(const QByteArray& source) {
+        const Done opened = xml.open(source);
+        if (!opened) {
+            visit({Error{opened.error()}, u"line 1"_s, 0});
+            return;
+        }
+        if (xml.enterChild())
+            readContainer();
+        for (const Waiting& waiting : std::exchange(undated, {})) {
+            if (going)
+                handOver(waiting.entry, waiting.number);
+        }
+        if (going && !xml.fault().isEmpty())
+            visit({Error{xml.fault()}, u"line %1"_s.arg(xml.reader().lineNumber()), position()});
+    }
+
+private:
+    struct Waiting {
+        FeedEntry entry;
+        qsizetype number;
+    };
+
+    // The root or a channel: entries, and what the feed says of itself.
+    void readContainer() {
+        const QString root = xml.reader().namespaceUri().toString();
+        const bool isRdf = root == rdfNamespace;
+        while (going && xml.enterChild()) {
+            const QStringView name = xml.reader().name();
+            if (name == "item"_L1 || name == "entry"_L1)
+                readEntry();
+            else if (name == "channel"_L1)
+                readContainer();
+            else
+                feed.takeElement(xml, isRdf ? xml.reader().namespaceUri().toString() : root);
+        }
+    }
+
+    void readEntry() {
+        FeedEntry entry;
+        entry.identity = xml.reader().attributes().value(rdfNamespace, "about"_L1).toString();
+        const QString own = xml.reader().namespaceUri().toString();
+        while (xml.enterChild())
+            entry.takeElement(xml, own);
+        if (!xml.fault().isEmpty())
+            return;  // cut off in the middle
+        ++count;
+        // The feed's own date may stand behind its entries.
+        if (!entry.time() && !feed.time())
+            undated.push_back({std::move(entry), count});
+        else
+            handOver(entry, count);
+    }
+
+    void handOver(const FeedEntry& entry, qsizetype number) {
+        const Result<StoreItem> content = feedItem(entry, feed, options.service);
+        const QString name = entry.identity.isEmpty() ? entry.link : entry.identity;
+        QString place = u"item %1"_s.arg(number);
+        if (!name.isEmpty())
+            place += u" ("_s + name.left(200) + u')';
+        going = visit({content, place, position()});
+    }
+
+    qint64 position() const { return xml.reader().characterOffset(); }
+
+    const ReadOptions& options;
+    const ItemVisitor& visit;
+    XmlSource xml;
+    FeedEntry feed;
+    std::vector<Waiting> undated;
+    qsizetype count = 0;
+    bool going = true;
+};
+
+}  // namespace
+
+bool isFeedRoot(QStringView name) {
+    return name == "rss"_L1 || name == "RDF"_L1 || name == "feed"_L1;
+}
+
+void readFeed(const QByteArray& source, const ReadOptions& options, const ItemVisitor& visit) {
+    FeedReading(options, visit).read(source);
+}
+
+}  // namespace wirepane

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/import/feed_text.h"
+
+#include "backend/import/plain_text.h"
+#include "backend/import/xml_source.h"
+
+#include <QByteArray>
+#include <QRegularExpression>
+
+namespace wirepane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isXmlType(QStringView type) {
+    return type == "xhtml"_L1 || type.endsWith("xml"_L1);
+}
+
+// A media type that is neither text nor XML says that the content is base64.
+bool isBinaryType(QStringView type) {
+    return type.contains(u'/') && !type.startsWith("text/"_L1) && !isXmlType(type);
+}
+
+// The lines of text are indented as the XML around them is, which says nothing about paragraphs.
+QString withoutIndents(const QString& text) {
+    static const QRegularExpression indent(u"\\n[ \\t]+(?=\\S)"_s);
+    return text.trimmed().replace(indent, u"\n"_s);
+}
+
+}  // namespace
+
+QString feedText(XmlSource& xml, FeedTextKind kind) {
+    const QXmlStreamAttributes attributes = xml.reader().attributes();
+    const QString type = attributes.value("type"_L1).toString().toLower();
+    const QString mode = attributes.value("mode"_L1).toString().toLower();
+    const XmlSource::Content content = xml.content();
+    if (content.hasChildren)
+        return plainText(content.markup);
+    if (mode == "base64"_L1 || (mode.isEmpty() && isBinaryType(type)))
+        return plainText(QString::fromUtf8(QByteArray::fromBase64(content.text.toUtf8())));
+    if (type.contains("html"_L1) && type != "xhtml"_L1)
+        return plainText(content.text);
+    const bool stated = kind == FeedTextKind::Stated || !type.isEmpty();
+    const QString text = withoutIndents(content.text);
+    return stated ? text : textOfUnknownForm(text);
+}
+
+}  // namespace wirepane

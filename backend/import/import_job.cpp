@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/import/import_job.h"
+
+#include "backend/import/source_reader.h"
+#include "host/contract/clock.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <utility>
+
+namespace wirepane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 toldEvery = 100;  // milliseconds
+constexpr std::int64_t day = 86400;
+constexpr std::int64_t recentDays = 255;
+
+bool isRecent(const NewsItem& item) {
+    const std::int64_t now = host_clock::now();
+    return item.time >= now - recentDays * day && item.time <= now + day;
+}
+
+}  // namespace
+
+ImportTotals& ImportTotals::operator+=(const ImportTotals& other) {
+    takenIn += other.takenIn;
+    alreadyThere += other.alreadyThere;
+    rejected += other.rejected;
+    return *this;
+}
+
+int importExitStatus(const ImportReport& report) {
+    if (report.failure || (report.filesRead == 0 && !report.stopped))
+        return 2;
+    return report.totals.rejected > 0 || report.filesRejected > 0 || report.stopped ? 1 : 0;
+}
+
+ImportJob::ImportJob(QStringList fileNames, ItemSink& itemSink, ReadOptions readOptions)
+    : files(std::move(fileNames)), sink(itemSink), options(std::move(readOptions)) {}
+
+ImportReport ImportJob::run() {
+    report = {};
+    progress = {};
+    bytesBefore = 0;
+    for (const QString& path : std::as_const(files))
+        progress.bytesTotal += QFileInfo(path).size();
+    sinceTold.start();
+    for (const QString& path : std::as_const(files)) {
+        report.stopped = report.stopped || stopping;
+        if (report.stopped || report.failure)
+            break;
+        runFile(path);
+        bytesBefore += QFileInfo(path).size();
+    }
+    showProgress(progress.file, 0, true);
+    return report;
+}
+
+// Only regular files: a pipe or a device would never end, or wait for ever.
+void ImportJob::runFile(const QString& path) {
+    const QFileInfo info(path);
+    QFile file(path);
+    if (!info.exists())
+        rejectFile(path, u"The file does not exist."_s);
+    else if (!info.isFile())
+        rejectFile(path, u"This is not a file."_s);
+    else if (!file.open(QIODevice::ReadOnly))
+        rejectFile(path, u"The file cannot be opened: %1."_s.arg(file.errorString()));
+    else
+        takeFile(file, path);
+}
+
+void ImportJob::takeFile(QFile& file, const QString& path) {
+    if (const Done begun = sink.begin(); !begun) {
+        report.failure = begun.error();
+        return;
+    }
+    ReadOptions ofFile = options;
+    ofFile.sourceName = QFileInfo(path).fileName();
+    FileState state;
+    const Done read =
+        readSource(file, ofFile, [&](SourceItem&& item) { return takeItem(std::move(item), path, state); });
+    if (read && file.error() != QFileDevice::NoError)
+        finishFile(path, state, Error{u"The file cannot be read to its end: %1."_s.arg(file.errorString())});
+    else
+        finishFile(path, state, read);
+}
+
+bool ImportJob::takeItem(SourceItem&& item, const QString& path, FileState& state) {
+    if (stopping)
+        return false;
+    ++progress.items;
+    showProgress(path, item.bytesRead, false);
+    if (item.content)
+        return store(item.content.value(), path, item.place, state);
+    rejectItem(path, item.place, item.content.error(), state);
+    return true;
+}
+
+bool ImportJob::store(const StoreItem& item, const QString& path, const QString& place, FileState& state) {
+    const Result<TakeOutcome> outcome = sink.take(item);
+    if (!outcome) {
+        state.failure = outcome.error();
+        return false;
+    }
+    if (outcome.value().take == Take::Rejected) {
+        rejectItem(path, place, outcome.value().reason, state);
+        return true;
+    }
+    ++(outcome.value().take == Take::TakenIn ? state.totals.takenIn : state.totals.alreadyThere);
+    if (const auto* news = std::get_if<NewsItem>(&item)) {
+        state.anyNews = true;
+        state.anyRecent = state.anyRecent || isRecent(*news);
+    }
+    return true;
+}
+
+void ImportJob::finishFile(const QString& path, FileState& state, const Done& read) {
+    if (!read || state.failure || stopping) {
+        sink.rollback();
+        report.failure = state.failure;
+        report.stopped = stopping;
+        if (!read)
+            rejectFile(path, read.error());
+        return;
+    }
+    if (const Done committed = sink.commit(); !committed) {
+        sink.rollback();
+        report.failure = committed.error();
+        return;
+    }
+    ++report.filesRead;
+    report.totals += state.totals;
+    report.anyNews = report.anyNews || state.anyNews;
+    report.anyRecent = report.anyRecent || state.anyRecent;
+}
+
+void ImportJob::rejectFile(const QString& path, const QString& reason) {
+    ++report.filesRejected;
+    if (reject)
+        reject({path, {{}, reason}});
+}
+
+void ImportJob::rejectItem(const QString& path, const QString& place, const QString& reason,
+                           FileState& state) {
+    ++state.totals.rejected;
+    if (reject)
+        reject({path, {place, reason}});
+}
+
+void ImportJob::showProgress(const QString& path, qint64 bytesOfFile, bool always) {
+    progress.file = path;
+    progress.bytesDone = qMin(bytesBefore + bytesOfFile, progress.bytesTotal);
+    if (!tell || (!always && sinceTold.elapsed() < toldEvery))
+        return;
+    sinceTold.restart();
+    tell(progress);
+}
+
+}  // namespace wirepane

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/import/reading.h"
+#include "backend/item_sink.h"
+
+#include <QElapsedTimer>
+#include <QStringList>
+
+#include <atomic>
+#include <functional>
+#include <optional>
+
+class QFile;
+
+namespace wirepane {
+
+struct ImportTotals {
+    qint64 takenIn = 0;
+    qint64 alreadyThere = 0;
+    qint64 rejected = 0;  // items
+
+    ImportTotals& operator+=(const ImportTotals& other);
+};
+
+// An item that was not taken, or, with an empty place, a whole file.
+struct ImportRejection {
+    QString file;
+    Rejection rejection;
+};
+
+struct ImportProgress {
+    QString file;           // the one being read
+    qint64 bytesDone = 0;   // of all files; about, within a file
+    qint64 bytesTotal = 0;  // of all files
+    qint64 items = 0;       // seen so far
+};
+
+// What an import did. Totals count the files that were taken in as a whole.
+struct ImportReport {
+    ImportTotals totals;
+    int filesRead = 0;
+    int filesRejected = 0;
+    bool stopped = false;            // by stop()
+    std::optional<QString> failure;  // of the store; it ended the import
+    bool anyNews = false;            // of the items that are now in the store, one is a piece of news
+    bool anyRecent = false;          // one of those lies within the last 255 days of the host's clock
+
+    // All that was taken in is too old to be seen without moving the clock.
+    bool nothingRecent() const { return anyNews && !anyRecent; }
+};
+
+// What a command that imported returns: 0 when everything was taken or was there already, 1 when something
+// was not, 2 when no file could be read or the store failed.
+int importExitStatus(const ImportReport& report);
+
+// Takes files into a store. Each file is taken in as a whole or not at all; running the same files again is
+// harmless, and that is how a stopped import goes on. run() works on the thread that calls it, and so do the
+// two callbacks.
+class ImportJob {
+public:
+    // `sink` outlives the job. Of `options` the source name is filled in per file.
+    ImportJob(QStringList files, ItemSink& sink, ReadOptions options = {});
+
+    // Both before run(). Rejections come as they happen, progress at most ten times a second and once at the
+    // end.
+    void onRejection(std::function<void(const ImportRejection&)> callback) { reject = std::move(callback); }
+    void onProgress(std::function<void(const ImportProgress&)> callback) { tell = std::move(callback); }
+
+    // From any thread: the file being read is given up, those before it stay.
+    void stop() { stopping = true; }
+
+    ImportReport run();
+
+private:
+    // What happened to the file being read; it counts once the file is committed.
+    struct FileState {
+        ImportTotals totals;
+        bool anyNews = false;
+        bool anyRecent = false;
+        std::optional<QString> failure;
+    };
+
+    void runFile(const QString& path);
+    void takeFile(QFile& file, const QString& path);
+    bool takeItem(SourceItem&& item, const QString& path, FileState& state);
+    bool store(const StoreItem& item, const QString& path, const QString& place, FileState& state);
+    void finishFile(const QString& path, FileState& state, const Done& read);
+    void rejectFile(const QString& path, const QString& reason);
+    void rejectItem(const QString& path, const QString& place, const QString& reason, FileState& state);
+    void showProgress(const QString& path, qint64 bytesOfFile, bool always);
+
+    QStringList files;
+    ItemSink& sink;
+    ReadOptions options;
+    std::function<void(const ImportRejection&)> reject;
+    std::function<void(const ImportProgress&)> tell;
+    std::atomic<bool> stopping = false;
+    ImportReport report;
+    ImportProgress progress;
+    qint64 bytesBefore = 0;  // of the files that are done
+    QElapsedTimer sinceTold;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/import/json_reader.h"
+
+#include "backend/import/json_list.h"
+#include "backend/import/ninjs_record.h"
+
+#include <optional>
+
+namespace wirepane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QByteArrayView byteOrderMark("\xef\xbb\xbf");
+
+Result<StoreItem> storeItem(QByteArrayView record, const ReadOptions& options) {
+    Result<NewsItem> item = ninjsItem(record, options.service);
+    if (!item)
+        return Error{item.error()};
+    return StoreItem(std::move(item.value()));
+}
+
+QString placeOf(qsizetype number, const Result<StoreItem>& content) {
+    const QString place = u"item %1"_s.arg(number);
+    if (!content)
+        return place;
+    return place + u" ("_s + std::get<NewsItem>(content.value()).identity + u')';
+}
+
+// The next line with its end, or nothing when it is longer than the limit; then it has been read past.
+std::optional<QByteArray> nextLine(QIODevice& source, qint64 limit) {
+    constexpr qint64 skippedAtOnce = 1 << 20;
+    QByteArray line = source.readLine(limit + 1);
+    if (line.endsWith('\n') || source.atEnd())
+        return line;
+    QByteArray skipped;
+    do {
+        skipped = source.readLine(skippedAtOnce);
+    } while (!skipped.isEmpty() && !skipped.endsWith('\n'));
+    return std::nullopt;
+}
+
+}  // namespace
+
+void readJsonLines(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
+    for (qint64 number = 1; !source.atEnd(); ++number) {
+        const std::optional<QByteArray> line = nextLine(source, options.limits.line);
+        const QString place = u"line %1"_s.arg(number);
+        if (!line) {
+            const Error tooLong{u"The line is longer than %1 bytes."_s.arg(options.limits.line)};
+            if (!visit({tooLong, place, source.pos()}))
+                return;
+            continue;
+        }
+        QByteArrayView record(*line);
+        if (number == 1 && record.startsWith(byteOrderMark))
+            record = record.sliced(byteOrderMark.size());
+        record = record.trimmed();
+        if (!record.isEmpty() && !visit({storeItem(record, options), place, source.pos()}))
+            return;
+    }
+}
+
+void readJsonList(const QByteArray& source, const ReadOptions& options, const ItemVisitor& visit) {
+    JsonList list(source);
+    qsizetype number = 0;
+    while (const auto record = list.next()) {
+        const Result<StoreItem> content = storeItem(*record, options);
+        if (!visit({content, placeOf(++number, content), list.position()}))
+            return;
+    }
+    if (!list.isClosed())
+        visit({Error{u"The list has no end: “]” is missing."_s}, u"item %1"_s.arg(number), source.size()});
+    else if (!list.rest().isEmpty())
+        visit({Error{u"There is something behind the end of the list."_s}, u"the end"_s, source.size()});
+}
+
+void readJsonDocument(const QByteArray& source, const ReadOptions& options, const ItemVisitor& visit) {
+    QByteArrayView record(source);
+    if (record.startsWith(byteOrderMark))
+        record = record.sliced(byteOrderMark.size());
+    const Result<StoreItem> content = storeItem(record, options);
+    visit({content, placeOf(1, content), source.size()});
+}
+
+}  // namespace wirepane

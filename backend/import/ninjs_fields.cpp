@@ -1,0 +1,218 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/import/ninjs_fields.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace wirepane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array textFields{
+    QLatin1StringView("uri"),
+    QLatin1StringView("type"),
+    QLatin1StringView("mimetype"),
+    QLatin1StringView("representationtype"),
+    QLatin1StringView("profile"),
+    QLatin1StringView("version"),
+    QLatin1StringView("firstcreated"),
+    QLatin1StringView("versioncreated"),
+    QLatin1StringView("contentcreated"),
+    QLatin1StringView("embargoed"),
+    QLatin1StringView("embargoeduntil"),
+    QLatin1StringView("expires"),
+    QLatin1StringView("pubstatus"),
+    QLatin1StringView("copyrightholder"),
+    QLatin1StringView("copyrightnotice"),
+    QLatin1StringView("usageterms"),
+    QLatin1StringView("ednote"),
+    QLatin1StringView("language"),
+    QLatin1StringView("title"),
+    QLatin1StringView("by"),
+    QLatin1StringView("byline"),
+    QLatin1StringView("headline"),
+    QLatin1StringView("slugline"),
+    QLatin1StringView("located"),
+};
+
+constexpr std::array textFamilies{QLatin1StringView("body_"), QLatin1StringView("description_"),
+                                  QLatin1StringView("headline_")};
+
+// A list and the texts that its entries hold.
+struct ListField {
+    QLatin1StringView singular;
+    QLatin1StringView plural;
+    std::array<QLatin1StringView, 3> texts;
+};
+
+constexpr std::array listFields{
+    ListField{QLatin1StringView("subject"), QLatin1StringView("subjects"), {QLatin1StringView("name")}},
+    ListField{
+        QLatin1StringView("organisation"), QLatin1StringView("organisations"), {QLatin1StringView("name")}},
+    ListField{QLatin1StringView("symbols"),
+              QLatin1StringView("symbols"),
+              {QLatin1StringView("ticker"), QLatin1StringView("exchange")}},
+    ListField{QLatin1StringView("headlines"),
+              QLatin1StringView("headlines"),
+              {QLatin1StringView("value"), QLatin1StringView("role"), QLatin1StringView("contenttype")}},
+    ListField{QLatin1StringView("bodies"),
+              QLatin1StringView("bodies"),
+              {QLatin1StringView("value"), QLatin1StringView("role"), QLatin1StringView("contenttype")}},
+    ListField{QLatin1StringView("descriptions"),
+              QLatin1StringView("descriptions"),
+              {QLatin1StringView("value"), QLatin1StringView("role"), QLatin1StringView("contenttype")}},
+};
+
+QLatin1StringView nameOfType(const QJsonValue& value) {
+    switch (value.type()) {
+        case QJsonValue::Bool:
+            return "true or false"_L1;
+        case QJsonValue::Double:
+            return "a number"_L1;
+        case QJsonValue::String:
+            return "a text"_L1;
+        case QJsonValue::Array:
+            return "a list"_L1;
+        case QJsonValue::Object:
+            return "an object"_L1;
+        default:
+            return "nothing"_L1;
+    }
+}
+
+// What is wrong with a field of a record, as a sentence; nothing when it is as it must be.
+using Fault = std::optional<QString>;
+
+Fault wrongType(const QString& field, QLatin1StringView wanted, const QJsonValue& value) {
+    return u"The field “%1” must be %2, not %3."_s.arg(field, wanted, nameOfType(value));
+}
+
+bool isText(const QJsonValue& value) {
+    return value.isString() || value.isNull();
+}
+
+const ListField* listField(const QString& name) {
+    const auto* found = std::find_if(listFields.begin(), listFields.end(), [&](const ListField& field) {
+        return name == field.singular || name == field.plural;
+    });
+    return found == listFields.end() ? nullptr : found;
+}
+
+Fault faultOfList(const ListField& field, const QString& name, const QJsonValue& list);
+
+Fault faultOfEntry(const ListField& field, const QString& place, const QJsonValue& entry) {
+    if (!entry.isObject())
+        return wrongType(place, "an object"_L1, entry);
+    const QJsonObject object = entry.toObject();
+    for (auto member = object.begin(); member != object.end(); ++member) {
+        const QString name = member.key().toLower();
+        const QString memberPlace = place + u'.' + member.key();
+        const auto& texts = field.texts;
+        if (std::find(texts.begin(), texts.end(), name) != texts.end() && !isText(member.value()))
+            return wrongType(memberPlace, "a text"_L1, member.value());
+        if (name == "symbols"_L1) {
+            if (const Fault fault = faultOfList(*listField(name), memberPlace, member.value()))
+                return fault;
+        }
+    }
+    return std::nullopt;
+}
+
+Fault faultOfList(const ListField& field, const QString& name, const QJsonValue& list) {
+    if (list.isNull())
+        return std::nullopt;
+    if (!list.isArray())
+        return wrongType(name, "a list"_L1, list);
+    const QJsonArray entries = list.toArray();
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        if (const Fault fault = faultOfEntry(field, u"%1[%2]"_s.arg(name).arg(i), entries.at(i)))
+            return fault;
+    }
+    return std::nullopt;
+}
+
+Fault faultOfField(const QString& name, const QJsonValue& value) {
+    const QString lower = name.toLower();
+    const bool mustBeText = std::find(textFields.begin(), textFields.end(), lower) != textFields.end() ||
+                            std::any_of(textFamilies.begin(), textFamilies.end(),
+                                        [&](QLatin1StringView family) { return lower.startsWith(family); });
+    if (mustBeText && !isText(value))
+        return wrongType(name, "a text"_L1, value);
+    const ListField* list = listField(lower);
+    return list != nullptr ? faultOfList(*list, name, value) : std::nullopt;
+}
+
+Result<QJsonObject> jsonObject(QByteArrayView record) {
+    const QByteArrayView text = record.trimmed();
+    if (!text.startsWith('{'))
+        return Error{u"The record is not a JSON object."_s};
+    QJsonParseError problem;
+    const auto document =
+        QJsonDocument::fromJson(QByteArray::fromRawData(text.data(), text.size()), &problem);
+    if (problem.error != QJsonParseError::NoError)
+        return Error{u"The record is not valid JSON: %1 (at byte %2)."_s.arg(problem.errorString())
+                         .arg(problem.offset)};
+    return document.object();
+}
+
+}  // namespace
+
+NinjsFields::NinjsFields(const QJsonObject& object) {
+    for (auto field = object.begin(); field != object.end(); ++field)
+        fields.insert(field.key().toLower(), field.value());
+}
+
+Result<NinjsFields> NinjsFields::read(QByteArrayView record) {
+    const Result<QJsonObject> object = jsonObject(record);
+    if (!object)
+        return Error{object.error()};
+    const QJsonObject& content = object.value();
+    for (auto field = content.begin(); field != content.end(); ++field) {
+        if (const Fault fault = faultOfField(field.key(), field.value()))
+            return Error{*fault};
+    }
+    return NinjsFields(content);
+}
+
+QString NinjsFields::text(QLatin1StringView name) const {
+    return fields.value(name).toString();
+}
+
+std::vector<NinjsFields> NinjsFields::list(QLatin1StringView name) const {
+    const ListField* field = listField(name);
+    std::vector<NinjsFields> entries;
+    for (const QLatin1StringView key : {field->singular, field->plural}) {
+        if (!entries.empty())
+            break;
+        for (const QJsonValue& entry : fields.value(key).toArray())
+            entries.push_back(NinjsFields(entry.toObject()));
+    }
+    return entries;
+}
+
+std::vector<NinjsFields::Value> NinjsFields::family(QLatin1StringView name) const {
+    std::vector<Value> values;
+    const auto add = [&values](const Value& value) {
+        if (!value.text.trimmed().isEmpty())
+            values.push_back(value);
+    };
+    const QString prefix = name + u'_';
+    for (auto field = fields.lowerBound(prefix); field != fields.end() && field.key().startsWith(prefix);
+         ++field)
+        add({field->toString(), field.key().sliced(prefix.size()), {}});
+    const QString plural = name == "body"_L1 ? u"bodies"_s : name + u's';
+    for (const QJsonValue& entry : fields.value(plural).toArray()) {
+        const NinjsFields value(entry.toObject());
+        add({value.text("value"_L1), value.text("role"_L1), value.text("contenttype"_L1)});
+    }
+    return values;
+}
+
+}  // namespace wirepane

@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/import/ninjs_record.h"
+
+#include "backend/import/markets.h"
+#include "backend/import/news_time.h"
+#include "backend/import/ninjs_fields.h"
+#include "backend/import/plain_text.h"
+#include "backend/import/wire_form.h"
+#include "host/contract/clock.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <optional>
+
+namespace wirepane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype longestIdentity = 1000;
+constexpr std::size_t mostSymbols = 100;
+
+using Value = NinjsFields::Value;
+
+// How well a value suits as text: the lower the better.
+enum class Form { Text, Markup, Unknown };
+
+Form formOf(const Value& value) {
+    const QString says = (value.contentType.isEmpty() ? value.role : value.contentType).toLower();
+    if (says.contains("html"_L1) || says.contains("xml"_L1) || says.contains("nitf"_L1))
+        return Form::Markup;
+    const bool text = says.startsWith("text/plain"_L1) || says == "text"_L1 || says.endsWith("_text"_L1);
+    return text ? Form::Text : Form::Unknown;
+}
+
+QString plain(const Value& value) {
+    switch (formOf(value)) {
+        case Form::Text:
+            return value.text;
+        case Form::Markup:
+            return plainText(value.text);
+        default:
+            return textOfUnknownForm(value.text);
+    }
+}
+
+// In wire form, from the value that comes closest to text; empty when there is none.
+QString bestText(const std::vector<Value>& values) {
+    const auto best =
+        std::min_element(values.begin(), values.end(),
+                         [](const Value& one, const Value& other) { return formOf(one) < formOf(other); });
+    return best == values.end() ? QString() : wireForm(plain(*best));
+}
+
+// The value of the main role, else the first, as one line.
+QString mainLine(const std::vector<Value>& values) {
+    if (values.empty())
+        return {};
+    const auto main = std::find_if(values.begin(), values.end(),
+                                   [](const Value& value) { return value.role == "main"_L1; });
+    return titleLine(plain(main == values.end() ? values.front() : *main));
+}
+
+struct Times {
+    std::optional<std::int64_t> time;
+    QString notUnderstood;  // the first field that holds something else, with what it holds
+};
+
+Times timesOf(const NinjsFields& fields) {
+    constexpr std::array names{QLatin1StringView("versioncreated"), QLatin1StringView("firstcreated"),
+                               QLatin1StringView("contentcreated")};
+    Times times;
+    for (const QLatin1StringView name : names) {
+        const QString text = fields.text(name);
+        if (text.isEmpty())
+            continue;
+        times.time = newsTime(text);
+        if (times.time)
+            break;
+        if (times.notUnderstood.isEmpty())
+            times.notUnderstood = u"“%1” is “%2”"_s.arg(name, titleLine(text.left(60)));
+    }
+    return times;
+}
+
+Result<std::int64_t> timeOf(const NinjsFields& fields) {
+    const Times times = timesOf(fields);
+    if (times.time)
+        return *times.time;
+    if (!times.notUnderstood.isEmpty())
+        return Error{u"The record has no time that can be read: %1."_s.arg(times.notUnderstood)};
+    return Error{u"The record has no time (“versioncreated”, “firstcreated” or “contentcreated”)."_s};
+}
+
+// Why the record may not be shown, or nothing.
+std::optional<QString> heldBack(const NinjsFields& fields) {
+    const QString status = fields.text("pubstatus"_L1);
+    if (!status.isEmpty() && status != "usable"_L1)
+        return u"The record is not for publication: “pubstatus” is “%1”."_s.arg(titleLine(status.left(60)));
+    for (const QLatin1StringView name : {"embargoed"_L1, "embargoeduntil"_L1}) {
+        const QString until = fields.text(name);
+        const auto time = newsTime(until);
+        if (!until.isEmpty() && (!time || *time > host_clock::now()))
+            return u"The record is under embargo: “%1” is “%2”."_s.arg(name, titleLine(until.left(60)));
+    }
+    return std::nullopt;
+}
+
+// A later version must have a greater number: the record's own where it numbers its versions, else its time.
+int versionOf(const NinjsFields& fields, std::int64_t time) {
+    bool isNumber = false;
+    const int version = fields.text("version"_L1).section(u'.', 0, 0).toInt(&isNumber);
+    if (isNumber && version >= 0)
+        return version;
+    return int(std::clamp<std::int64_t>(time, 0, std::numeric_limits<int>::max()));
+}
+
+std::vector<SymbolRef> symbolsOf(const NinjsFields& fields) {
+    std::vector<SymbolRef> symbols;
+    for (const NinjsFields& organisation : fields.list("organisation"_L1)) {
+        for (const NinjsFields& symbol : organisation.list("symbols"_L1)) {
+            const SymbolRef ref{marketOfExchange(symbol.text("exchange"_L1)),
+                                cleanLine(symbol.text("ticker"_L1))};
+            if (!ref.code.isEmpty() && symbols.size() < mostSymbols &&
+                std::find(symbols.begin(), symbols.end(), ref) == symbols.end())
+                symbols.push_back(ref);
+        }
+    }
+    return symbols;
+}
+
+QString categoryOf(const NinjsFields& fields) {
+    for (const NinjsFields& subject : fields.list("subject"_L1)) {
+        const QString name = titleLine(subject.text("name"_L1));
+        if (!name.isEmpty())
+            return name;
+    }
+    return {};
+}
+
+QString firstOf(std::initializer_list<QString> texts) {
+    const auto* found =
+        std::find_if(texts.begin(), texts.end(), [](const QString& text) { return !text.isEmpty(); });
+    return found == texts.end() ? QString() : *found;
+}
+
+}  // namespace
+
+Result<NewsItem> ninjsItem(QByteArrayView record, unsigned char service) {
+    const Result<NinjsFields> read = NinjsFields::read(record);
+    if (!read)
+        return Error{read.error()};
+    const NinjsFields& fields = read.value();
+
+    NewsItem item;
+    item.service = service;
+    item.identity = cleanLine(fields.text("uri"_L1));
+    if (item.identity.isEmpty())
+        return Error{u"The record has no “uri”."_s};
+    if (item.identity.size() > longestIdentity)
+        return Error{u"The “uri” of the record is longer than %1 characters."_s.arg(longestIdentity)};
+    if (const auto reason = heldBack(fields))
+        return Error{*reason};
+
+    const QString body = bestText(fields.family("body"_L1));
+    const QString description = bestText(fields.family("description"_L1));
+    item.title = firstOf({titleLine(fields.text("headline"_L1)), mainLine(fields.family("headline"_L1)),
+                          titleLine(fields.text("title"_L1))});
+    const QString type = fields.text("type"_L1);
+    if (item.title.isEmpty() && (type.isEmpty() || type == "text"_L1))
+        item.title = firstOf(
+            {titleFromStory(body), titleFromStory(description), titleLine(fields.text("slugline"_L1))});
+    if (item.title.isEmpty())
+        return Error{u"The record has no title and no text to make one from."_s};
+
+    const Result<std::int64_t> time = timeOf(fields);
+    if (!time)
+        return Error{time.error()};
+    item.time = time.value();
+    item.version = versionOf(fields, item.time);
+    const QString story = firstOf({body, description});
+    if (!story.isEmpty())
+        item.story = story;
+    item.category = categoryOf(fields);
+    item.related = symbolsOf(fields);
+    return item;
+}
+
+}  // namespace wirepane

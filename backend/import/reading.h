@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/news_item.h"
+#include "backend/result.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace wirepane {
+
+// One item of a source as a reader hands it over: the item, or the sentence that says why it cannot be taken.
+struct SourceItem {
+    Result<StoreItem> content;
+    QString place;         // where in the source: "line 12", "item 3 (urn:x:1)"
+    qint64 bytesRead = 0;  // how much of the source has been read when it is handed over
+};
+
+// Takes what a reader finds, one by one; false stops the reading.
+using ItemVisitor = std::function<bool(SourceItem&&)>;
+
+// What no source may exceed; tests make them smaller.
+struct ReadLimits {
+    qint64 line = qint64(64) << 20;   // bytes of one line of JSON; a longer one is rejected, reading goes on
+    qint64 file = qint64(512) << 20;  // bytes of a source that is read as a whole; a larger one is refused
+};
+
+struct ReadOptions {
+    unsigned char service = 1;  // the service that news belongs to
+    unsigned char market = 0;   // the market of symbols whose list does not name one; 0: see docs/formats.md
+    QString sourceName;         // the file's name, without its folder
+    ReadLimits limits;
+};
+
+}  // namespace wirepane

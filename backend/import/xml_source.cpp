@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/import/xml_source.h"
+
+#include "backend/import/html_entities.h"
+
+#include <QRegularExpression>
+#include <QStringBuilder>
+#include <QStringDecoder>
+
+namespace wirepane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int deepestNesting = 256;
+constexpr int longestExpansion = 65536;  // characters that one entity may expand to
+constexpr qsizetype declarationLength = 1024;
+
+// The encoding that the XML declaration names; empty when it names none or a byte order mark says it.
+QByteArray declaredEncoding(const QByteArray& document) {
+    static const QRegularExpression form(
+        u"^\\s*<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([A-Za-z0-9._:-]+)[\"']"_s);
+    const auto match =
+        form.match(QString::fromLatin1(document.first(qMin(document.size(), declarationLength))));
+    return match.captured(1).toLatin1();
+}
+
+}  // namespace
+
+QString XmlSource::HtmlEntities::resolveUndeclaredEntity(const QString& name) {
+    const char32_t character = htmlEntity(name);
+    return character != 0 ? QStringView(QChar::fromUcs4(character)).toString() : QString();
+}
+
+Done XmlSource::open(const QByteArray& document) {
+    xml.setEntityResolver(&entities);
+    xml.setEntityExpansionLimit(longestExpansion);
+    const QByteArray encoding = declaredEncoding(document);
+    if (encoding.isEmpty() || encoding.compare("utf-8", Qt::CaseInsensitive) == 0) {
+        xml.addData(document);
+        return Nothing{};
+    }
+    QStringDecoder decoder(encoding.constData());
+    if (!decoder.isValid())
+        return Error{u"The file declares the encoding “%1”, which is not known here."_s.arg(
+            QLatin1StringView(encoding))};
+    xml.addData(QString(decoder(document)));
+    return Nothing{};
+}
+
+bool XmlSource::advance() {
+    const auto token = xml.readNext();
+    if (token == QXmlStreamReader::StartElement && ++depth > deepestNesting)
+        xml.raiseError(u"elements are nested deeper than %1"_s.arg(deepestNesting));
+    else if (token == QXmlStreamReader::EndElement)
+        --depth;
+    return !xml.atEnd();
+}
+
+bool XmlSource::enterChild() {
+    while (advance()) {
+        if (xml.isStartElement())
+            return true;
+        if (xml.isEndElement())
+            return false;
+    }
+    return false;
+}
+
+void XmlSource::skip() {
+    const int outside = depth - 1;
+    while (depth > outside && advance()) {
+    }
+}
+
+XmlSource::Content XmlSource::content() {
+    Content content;
+    const int outside = depth - 1;
+    while (depth > outside && advance()) {
+        if (xml.isCharacters() || xml.isEntityReference()) {
+            content.text += xml.text();
+            content.markup += xml.text().toString().toHtmlEscaped();
+        } else if (xml.isStartElement()) {
+            addElement(content);
+        } else if (xml.isEndElement() && depth > outside) {
+            content.markup += u"</" % xml.name() % u'>';
+        }
+    }
+    return content;
+}
+
+void XmlSource::addElement(Content& content) {
+    content.hasChildren = true;
+    content.markup += u'<' % xml.name() % u'>';
+}
+
+QString XmlSource::fault() const {
+    return xml.hasError() ? u"The XML cannot be read: %1."_s.arg(xml.errorString()) : QString();
+}
+
+}  // namespace wirepane

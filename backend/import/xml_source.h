@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/result.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QXmlStreamReader>
+
+namespace wirepane {
+
+// One XML document from outside: its encoding, HTML's named entities, and bounds on nesting and entity
+// expansion.
+class XmlSource {
+public:
+    // The document must be opened before anything is read. Fails when the declared encoding is not known.
+    Done open(const QByteArray& document);
+
+    // Goes to the next child of the current element; false at the end of that element or of the document.
+    bool enterChild();
+    // Goes to the end of the current element.
+    void skip();
+
+    // What stands in an element, and goes to its end.
+    struct Content {
+        QString text;    // the text in it, that of its children included
+        QString markup;  // the same with the tags of its children, escaped as in the source
+        bool hasChildren = false;
+    };
+    Content content();
+
+    const QXmlStreamReader& reader() const { return xml; }
+    // What is wrong with the document, as a sentence; empty when nothing is.
+    QString fault() const;
+
+private:
+    bool advance();
+    void addElement(Content& content);
+
+    struct HtmlEntities : QXmlStreamEntityResolver {
+        QString resolveUndeclaredEntity(const QString& name) override;
+    };
+
+    HtmlEntities entities;
+    QXmlStreamReader xml;
+    int depth = 0;
+};
+
+}  // namespace wirepane

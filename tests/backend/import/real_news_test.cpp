@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/import/import_job.h"
+#include "backend/import/plain_text.h"
+#include "tests/backend/import/read_all.h"
+#include "tests/backend/import/recording_sink.h"
+
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+#include <set>
+
+namespace wirepane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+    return file.readAll();
+}
+
+// Real files of the formats; the folder is given by the environment and may be missing.
+class RealNews : public testing::Test {
+protected:
+    void SetUp() override {
+        root = qEnvironmentVariable("WIREPANE_TEST_NEWS");
+        if (root.isEmpty() || !QFileInfo(root).isDir())
+            GTEST_SKIP() << "no real news: WIREPANE_TEST_NEWS names no folder";
+    }
+
+    QStringList files(const QString& folder, const QString& pattern) const {
+        QStringList found;
+        QDirIterator all(root + u'/' + folder, {pattern}, QDir::Files, QDirIterator::Subdirectories);
+        while (all.hasNext())
+            found += all.next();
+        found.sort();
+        EXPECT_FALSE(found.isEmpty()) << qPrintable(folder);
+        return found;
+    }
+
+    QString root;
+};
+
+TEST_F(RealNews, TheWireIsTakenInWhole) {
+    RecordingSink sink;
+    ImportJob job(files(u"wire"_s, u"*.jsonl"_s), sink);
+    QStringList reasons;
+    job.onRejection([&reasons](const ImportRejection& one) { reasons += one.rejection.reason; });
+    const ImportReport report = job.run();
+    EXPECT_EQ(report.filesRejected, 0);
+    EXPECT_EQ(report.totals.takenIn + report.totals.rejected, 10'000);
+    EXPECT_EQ(report.totals.takenIn, qint64(sink.stored.news.size()));
+    // Those without headline are without text as well.
+    reasons.removeAll(u"The record has no title and no text to make one from."_s);
+    EXPECT_TRUE(reasons.isEmpty()) << qPrintable(reasons.join(u'\n'));
+    EXPECT_EQ(report.totals.rejected, 51);
+    const NewsItem& first = sink.stored.news.at(u"urn:wire:1"_s);
+    EXPECT_EQ(first.title, u"BAHIA COCOA REVIEW");
+    EXPECT_TRUE(first.story->startsWith(u"Showers continued throughout the week in the Bahia cocoa zone, "));
+    EXPECT_EQ(first.story->count(u"@@@@"), 17);
+    for (const auto& [identity, item] : sink.stored.news)
+        EXPECT_FALSE(item.title.contains(u'\n') || item.story.value_or(QString()).contains(u'\n'));
+}
+
+bool lacksTitleOrTime(const QString& complaints) {
+    return complaints.contains(u"has no title") || complaints.contains(u"has no time");
+}
+
+TEST_F(RealNews, NinjsExamplesAreTakenUnlessTheyLackTitleOrTime) {
+    for (const QString& path : files(u"ninjs/examples"_s, u"*.json"_s)) {
+        const auto out = readAll(bytesOf(path));
+        EXPECT_EQ(out.refusal, u"") << qPrintable(path);
+        const bool isSchema = path.endsWith(u"extension-schema.json");
+        for (const Rejection& rejection : out.rejections)
+            EXPECT_TRUE(isSchema || lacksTitleOrTime(rejection.reason))
+                << qPrintable(path + rejection.reason);
+        EXPECT_EQ(out.items.empty(), !out.rejections.empty()) << qPrintable(path);
+    }
+}
+
+TEST_F(RealNews, TheNinjsSuiteIsTakenOrRejectedAsItSays) {
+    int taken = 0;
+    for (const QString& path : files(u"ninjs/validation"_s, u"*.json"_s)) {
+        const auto out = readAll(bytesOf(path));
+        taken += int(out.items.size());
+        const bool heldBack =
+            path.contains(u"_withheld") || path.contains(u"_canceled") || path.contains(u"_embargoed");
+        EXPECT_TRUE(path.contains(u"should_fail") || !out.items.empty() || heldBack ||
+                    lacksTitleOrTime(out.complaints()))
+            << qPrintable(path + out.complaints());
+    }
+    EXPECT_GT(taken, 3);
+    const std::set<QString> checked{
+        u"001_no_uri_declared"_s,     u"005_profile_must_be_string"_s, u"006_version_must_be_string"_s,
+        u"007_pubstatus_cancelled"_s, u"008_usageterms_object"_s,      u"010_body_must_be_string"_s,
+        u"001_title_as_number"_s,     u"002_firstcreated_bad_type"_s,  u"003_ednote_bad_type"_s,
+        u"005_pubstatus_replaced"_s,  u"012_location_not_object"_s};
+    std::size_t seen = 0;
+    for (const QString& path : files(u"ninjs/validation"_s, u"*.json"_s)) {
+        if (!path.contains(u"should_fail") || !checked.contains(QFileInfo(path).completeBaseName()))
+            continue;
+        ++seen;
+        const auto out = readAll(bytesOf(path));
+        EXPECT_TRUE(out.items.empty()) << qPrintable(path);
+        EXPECT_FALSE(lacksTitleOrTime(out.complaints())) << qPrintable(path + out.complaints());
+    }
+    EXPECT_EQ(seen, checked.size());
+}
+
+// The value that a file's leading comment expects of its first entry.
+QString expectation(const QByteArray& source, const QString& property) {
+    const QRegularExpression form(
+        u"Expect:[^\\n]*entries\\[0\\]\\['%1'\\] == '?(.*?)'?\\s*\\n"_s.arg(property));
+    return form.match(QString::fromUtf8(source)).captured(1);
+}
+
+// Most files of the collection hold a single element; what an entry needs besides is put in.
+QByteArray completed(QByteArray source, const QByteArray& missing) {
+    for (const QByteArray& start :
+         std::vector<QByteArray>{"<item>", "<entry>", "<item rdf:about=\"http://example.com/1\">"})
+        source.replace(start, start + missing);
+    return source;
+}
+
+TEST_F(RealNews, FeedTitlesAreAsTheirFilesSay) {
+    int compared = 0;
+    for (const QString& path : files(u"feeds"_s, u"*.xml"_s)) {
+        const QByteArray source = bytesOf(path);
+        const QString expected = expectation(source, u"title"_s);
+        if (expected.isEmpty() || path.contains(u"/cdf/"))
+            continue;
+        const bool isAtom = path.contains(u"/atom");
+        const auto out =
+            readAll(completed(source, isAtom ? "<updated>2004-01-01</updated>" : "<pubDate>2004</pubDate>"));
+        ASSERT_EQ(out.items.size(), 1U) << qPrintable(path + out.complaints() + out.refusal);
+        const QString text = path.contains(u"text_plain") ? expected : plainText(expected);
+        EXPECT_EQ(out.news().title, text) << qPrintable(path);
+        ++compared;
+    }
+    EXPECT_EQ(compared, 22);
+}
+
+TEST_F(RealNews, FeedTimesAreAsTheirFilesSay) {
+    int compared = 0;
+    for (const QString& path : files(u"feeds"_s, u"*.xml"_s)) {
+        const QByteArray source = bytesOf(path);
+        for (const QString& property : {u"published_parsed"_s, u"updated_parsed"_s, u"created_parsed"_s}) {
+            const QStringList parts = expectation(source, property).remove(u'(').remove(u')').split(u", "_s);
+            // Of an element that is there twice the first counts here, the last there.
+            const bool isTwice = path.contains(u"multiple_values") || path.contains(u"overwriting");
+            if (parts.size() < 6 || isTwice || path.contains(u"/cdf/"))
+                continue;
+            const QDateTime expected(QDate(parts[0].toInt(), parts[1].toInt(), parts[2].toInt()),
+                                     QTime(parts[3].toInt(), parts[4].toInt(), parts[5].toInt()), Qt::UTC);
+            const auto out = readAll(completed(source, "<title>T</title>"));
+            ASSERT_EQ(out.items.size(), 1U) << qPrintable(path + out.complaints());
+            EXPECT_EQ(out.news().time, expected.toSecsSinceEpoch()) << qPrintable(path);
+            ++compared;
+        }
+    }
+    EXPECT_EQ(compared, 10);
+}
+
+TEST_F(RealNews, EveryFeedFileComesToAnEnd) {
+    QElapsedTimer clock;
+    clock.start();
+    for (const QString& path : files(u"feeds"_s, u"*.xml"_s)) {
+        const auto out = readAll(bytesOf(path));
+        const bool broken = path.contains(u"rss_incomplete_cdata");
+        EXPECT_FALSE(broken && out.rejections.empty() && out.refusal.isEmpty());
+    }
+    EXPECT_LT(clock.elapsed(), 10'000);
+}
+
+TEST_F(RealNews, SymbolListsAreWhole) {
+    RecordingSink sink;
+    ImportJob job(files(u"symbols"_s, u"*.csv"_s), sink);
+    QStringList rejections;
+    job.onRejection([&](const ImportRejection& one) { rejections += one.file + one.rejection.reason; });
+    const ImportReport report = job.run();
+    EXPECT_TRUE(rejections.isEmpty()) << qPrintable(rejections.join(u'\n'));
+    std::map<int, int> perMarket;
+    std::set<QString> american;
+    for (const StoreItem& item : sink.stored.others) {
+        const auto& symbol = std::get<SymbolItem>(item);
+        ++perMarket[symbol.market];
+        if (symbol.market == 1)
+            american.insert(symbol.code);
+    }
+    EXPECT_EQ(perMarket, (std::map<int, int>{{1, 5569}, {16, 992}, {122, 813}}));
+    EXPECT_TRUE(american.contains(u"NA"_s));
+    EXPECT_EQ(report.totals.takenIn, 5569 + 992 + 813);
+}
+
+}  // namespace
+}  // namespace wirepane

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "tests/backend/import/read_all.h"
+
+#include <QStringEncoder>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace wirepane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QString symbolText(const StoreItem& item) {
+    const auto& symbol = std::get<SymbolItem>(item);
+    return u"%1 %2 %3 %4"_s.arg(QString::number(symbol.market), symbol.code, symbol.name,
+                                QString::number(symbol.category));
+}
+
+QString symbolsOf(const ReadOut& out) {
+    QStringList all;
+    for (const StoreItem& item : out.items)
+        all += symbolText(item);
+    return all.join(u'\n');
+}
+
+const QString companies =
+    u"\ufeff出表日期,公司代號,公司名稱,公司簡稱\r\n\"1120831\",\"1101\",\"臺灣水泥股份有限公司\",\"台泥\"\r\n"_s;
+
+TEST(SymbolTable, ReadsTheKnownLists) {
+    ReadOptions options;
+    options.sourceName = u"t187ap03_L.csv"_s;
+    EXPECT_EQ(symbolsOf(readAll(companies.toUtf8(), options)), u"16 1101 台泥 1");
+    options.sourceName = u"t187ap03_O.csv"_s;
+    EXPECT_EQ(symbolsOf(readAll(companies.toUtf8(), options)), u"122 1101 台泥 1");
+    options.market = 22;
+    EXPECT_EQ(symbolsOf(readAll(companies.toUtf8(), options)), u"22 1101 台泥 1");
+    const auto american = readAll(
+        "Symbol,Company Name,Security Name,ETF\nNA,Nano Labs,\"Nano Labs - Shares, A\",N\n"
+        "File Creation Time: 0731202621:31,,,\n,,,\n");
+    EXPECT_EQ(symbolsOf(american), u"1 NA Nano Labs - Shares, A 1");
+    EXPECT_EQ(american.complaints(), u"");
+}
+
+TEST(SymbolTable, ReadsCodePage950AndUtf16) {
+    QStringEncoder encoder("windows-950");
+    ASSERT_TRUE(encoder.isValid());
+    const QByteArray bytes = encoder(companies.sliced(1));
+    EXPECT_EQ(symbolsOf(readAll(bytes)), u"16 1101 台泥 1");
+    QStringEncoder wide(QStringEncoder::Utf16LE);
+    EXPECT_EQ(symbolsOf(readAll(wide(companies))), u"16 1101 台泥 1");
+}
+
+TEST(SymbolTable, ABadRowIsOneRejection) {
+    const auto out = readAll(
+        "market,code,name,category\n16,2330,台積電,2\n0,1,x,\n256,2,x,\n16,,x,\n16,a b,x,\n16,3,,\n"
+        "x,4,x,\n16,5,x,many\n122,6,ok\n16,\"7\n");
+    EXPECT_EQ(symbolsOf(out), u"16 2330 台積電 2\n122 6 ok 1");
+    EXPECT_EQ(out.complaints(),
+              u"line 3: “0” is not a market: it must be a number from 1 to 255.\n"
+              "line 4: “256” is not a market: it must be a number from 1 to 255.\n"
+              "line 5: “” is not a symbol code.\n"
+              "line 6: “a b” is not a symbol code.\n"
+              "line 7: The symbol “3” has no name.\n"
+              "line 8: “x” is not a market: it must be a number from 1 to 255.\n"
+              "line 9: “many” is not a category: it must be a number from 0 to 2147483647.\n"
+              "line 11: A quote is opened and never closed; nothing behind it is read."_s);
+}
+
+TEST(CategoryTable, ReadsRowsAndRejectsBadOnes) {
+    const auto out = readAll(
+        "Service,ID,Name,Colour\n1,7,Economy,#FF0000\n52,-1,x,\n1,8,Plain,\n1,9,,\n1,10,x,red\n300,1,x,\n");
+    ASSERT_EQ(out.items.size(), 2U);
+    const auto& first = std::get<CategoryItem>(out.items.front());
+    EXPECT_EQ(first.service, 1);
+    EXPECT_EQ(first.id, 7);
+    EXPECT_EQ(first.name, u"Economy");
+    EXPECT_EQ(first.colour, u"#ff0000");
+    EXPECT_EQ(std::get<CategoryItem>(out.items.back()).colour, u"");
+    EXPECT_EQ(out.rejections.size(), 4U);
+    EXPECT_EQ(out.rejections.at(2).reason, u"“red” is not a colour: it must be as “#rrggbb”.");
+}
+
+}  // namespace
+}  // namespace wirepane
