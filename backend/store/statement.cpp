@@ -58,9 +58,13 @@ std::int64_t Query::number(int column) const {
     return sqlite3_column_int64(running, column);
 }
 
+QByteArrayView Query::bytes(int column) const {
+    const auto* first = reinterpret_cast<const char*>(sqlite3_column_text(running, column));
+    return {first, sqlite3_column_bytes(running, column)};
+}
+
 QString Query::text(int column) const {
-    const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(running, column));
-    return QString::fromUtf8(bytes, sqlite3_column_bytes(running, column));
+    return QString::fromUtf8(bytes(column));
 }
 
 bool Query::isNull(int column) const {

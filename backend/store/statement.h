@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 
 #include <concepts>
@@ -53,6 +54,8 @@ public:
     std::int64_t number(int column) const;
     std::int32_t smallNumber(int column) const { return static_cast<std::int32_t>(number(column)); }
     QString text(int column) const;
+    // The text in UTF-8, valid until the next row.
+    QByteArrayView bytes(int column) const;
     bool isNull(int column) const;
 
 private:

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/day_index.h"
+
+#include <algorithm>
+
+namespace wirepane {
+
+namespace {
+constexpr std::size_t mostDays = 10'000;  // most of them empty, then
+}
+
+DayIndex::DayIndex(Database& database, std::size_t mostEntries)
+    : range(database,
+            "SELECT time, sequence FROM headlines WHERE service = ? AND time >= ? AND time < ? "
+            "ORDER BY time, sequence"),
+      most(mostEntries) {}
+
+int DayIndex::append(std::vector<CHeadlineTable>& table, unsigned char service, QDate date) {
+    if (!date.isValid())
+        return 0;
+    const Day& day = find(service, date);
+    const std::size_t size = day.entries.size();
+    // Doubling keeps the appending of several services linear.
+    if (table.capacity() < table.size() + size)
+        table.reserve(std::max(table.size() + size, 2 * table.capacity()));
+    for (auto entry = day.entries.rbegin(); entry != day.entries.rend(); ++entry)
+        table.push_back({day.bounds.begin + entry->second, entry->sequence, service, 0, 0});
+    return static_cast<int>(size);
+}
+
+DayIndex::Day& DayIndex::find(unsigned char service, QDate date) {
+    Day& day = days[{service, date}];
+    day.lastUse = ++uses;
+    // The bounds of a day move when the time zone changes.
+    const DayBounds bounds = boundsOf(date);
+    if (day.bounds != bounds) {
+        count -= day.entries.size();
+        day.bounds = bounds;
+        load(day, service);
+        count += day.entries.size();
+        makeRoom(day);
+    }
+    return day;
+}
+
+void DayIndex::load(Day& day, unsigned char service) {
+    day.entries.clear();
+    Query query(range, service, day.bounds.begin, day.bounds.end);
+    while (query.next())
+        day.entries.push_back(
+            {static_cast<std::int32_t>(query.number(0) - day.bounds.begin), query.smallNumber(1)});
+    // A day that could not be read whole is read again the next time.
+    if (query.failed())
+        day.bounds = {};
+}
+
+void DayIndex::makeRoom(const Day& kept) {
+    while ((count > most && days.size() > 1) || days.size() > mostDays) {
+        auto oldest = days.end();
+        for (auto day = days.begin(); day != days.end(); ++day) {
+            if (&day->second != &kept &&
+                (oldest == days.end() || day->second.lastUse < oldest->second.lastUse))
+                oldest = day;
+        }
+        count -= oldest->second.entries.size();
+        days.erase(oldest);
+    }
+}
+
+template <class Change>
+void DayIndex::forDaysOf(const HeadlineKey& key, Change change) {
+    for (auto day = days.lower_bound({key.service, QDate()});
+         day != days.end() && day->first.first == key.service; ++day) {
+        if (day->second.bounds.contains(key.time))
+            change(day->second.entries,
+                   Entry{static_cast<std::int32_t>(key.time - day->second.bounds.begin), key.sequence});
+    }
+}
+
+void DayIndex::add(const HeadlineKey& key) {
+    forDaysOf(key, [this](std::vector<Entry>& entries, const Entry& entry) {
+        const auto place = std::lower_bound(entries.begin(), entries.end(), entry);
+        if (place != entries.end() && *place == entry)
+            return;
+        entries.insert(place, entry);
+        ++count;
+    });
+}
+
+void DayIndex::remove(const HeadlineKey& key) {
+    forDaysOf(key, [this](std::vector<Entry>& entries, const Entry& entry) {
+        const auto place = std::lower_bound(entries.begin(), entries.end(), entry);
+        if (place == entries.end() || *place != entry)
+            return;
+        entries.erase(place);
+        --count;
+    });
+}
+
+void DayIndex::clear() {
+    days.clear();
+    count = 0;
+}
+
+}  // namespace wirepane

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/local_day.h"
+#include "backend/store/statement.h"
+#include "host/contract/records.h"
+
+#include <QDate>
+
+#include <cstddef>
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace wirepane {
+
+// The headline tables of services and local days, kept in memory: 8 bytes an entry, read once from an index,
+// kept right by add() and remove(). The days that were not asked for longest give way when there are too many
+// entries. Thread: that of the database, which must outlive it.
+class DayIndex {
+public:
+    explicit DayIndex(Database& database, std::size_t mostEntries = 4'000'000);
+
+    // Appends the entries of that day to `table`, newest first. Result: how many.
+    int append(std::vector<CHeadlineTable>& table, unsigned char service, QDate day);
+
+    // A headline was written to the store; one was moved away.
+    void add(const HeadlineKey& key);
+    void remove(const HeadlineKey& key);
+    // Forgets everything: somebody else wrote to the store.
+    void clear();
+
+    // How many entries are in memory.
+    std::size_t entryCount() const { return count; }
+
+private:
+    // Ordered as the table is, oldest first, so that news is added at the cheap end.
+    struct Entry {
+        std::int32_t second = 0;  // since the day's begin
+        std::int32_t sequence = 0;
+
+        auto operator<=>(const Entry&) const = default;
+    };
+    struct Day {
+        DayBounds bounds;
+        std::vector<Entry> entries;
+        std::int64_t lastUse = 0;
+    };
+    using Days = std::map<std::pair<unsigned char, QDate>, Day>;
+
+    Day& find(unsigned char service, QDate day);
+    void load(Day& day, unsigned char service);
+    void makeRoom(const Day& kept);
+    // Calls `change` with every day in memory that holds the time of `key`, and with the entry.
+    template <class Change>
+    void forDaysOf(const HeadlineKey& key, Change change);
+
+    Statement range;
+    std::size_t most;
+    std::size_t count = 0;
+    std::int64_t uses = 0;
+    Days days;
+};
+
+}  // namespace wirepane

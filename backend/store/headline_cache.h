@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/store_reader.h"
+#include "host/contract/records.h"
+
+#include <QCache>
+
+#include <cstddef>
+
+namespace wirepane {
+
+// The headlines that were looked up last, in front of the store. Thread: that of the reader, which must
+// outlive it.
+class HeadlineCache {
+public:
+    explicit HeadlineCache(StoreReader& reader, qsizetype mostHeadlines = 4096);
+
+    // The headline, from memory or from the store; null when there is none. Valid until the next call.
+    const CHeadline* find(const HeadlineKey& key);
+    void forget(const HeadlineKey& key);
+    void clear();
+
+private:
+    struct Key {
+        HeadlineKey headline;
+
+        bool operator==(const Key&) const = default;
+        friend std::size_t qHash(const Key& key, std::size_t seed) {
+            return qHashMulti(seed, key.headline.time, key.headline.sequence, key.headline.service);
+        }
+    };
+
+    StoreReader& store;
+    QCache<Key, CHeadline> headlines;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/store_reader.h"
+
+#include "backend/store/schema.h"
+
+#include <algorithm>
+
+namespace wirepane {
+
+namespace {
+
+bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
+    return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
+}
+
+int appendEntries(std::vector<CHeadlineTable>& table, unsigned char service, Query& query) {
+    const std::size_t before = table.size();
+    while (query.next())
+        table.push_back({query.number(0), query.smallNumber(1), service, 0, 0});
+    return static_cast<int>(table.size() - before);
+}
+
+}  // namespace
+
+StoreReader::StoreReader(Database& database)
+    : dataVersion(database, "PRAGMA data_version"),
+      allServices(database, "SELECT id FROM services ORDER BY position, id"),
+      oneService(database, "SELECT full_name, short_name, authorised FROM services WHERE id = ?"),
+      allCategories(database,
+                    "SELECT id, name, colour FROM service_categories "
+                    "JOIN categories ON categories.space = service_categories.space AND id = category "
+                    "WHERE service = ? ORDER BY category"),
+      oneColour(database, "SELECT colour FROM categories WHERE space = ? AND id = ?"),
+      byCategory(database,
+                 "SELECT time, sequence FROM headlines WHERE service = ? AND category = ? AND time >= ? AND "
+                 "time < ? ORDER BY time DESC, sequence DESC"),
+      bySymbol(database,
+               "SELECT time, sequence FROM related_symbols WHERE service = ? AND market = ? AND code = ? AND "
+               "time >= ? AND time < ? ORDER BY time DESC, sequence DESC"),
+      oneHeadline(database,
+                  "SELECT title, category FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),
+      oneStory(database,
+               "SELECT text FROM headlines JOIN stories ON headline = id "
+               "WHERE service = ? AND time = ? AND sequence = ?"),
+      allRelated(
+          database,
+          "SELECT market, code FROM headlines LEFT JOIN related_symbols ON headline = id "
+          "WHERE headlines.service = ? AND headlines.time = ? AND headlines.sequence = ? ORDER BY position") {
+}
+
+bool StoreReader::changedElsewhere() {
+    Query query(dataVersion);
+    if (!query.next())
+        return true;
+    const std::int64_t version = query.number(0);
+    const bool changed = lastVersion != version;
+    lastVersion = version;
+    return changed;
+}
+
+std::vector<unsigned char> StoreReader::serviceIds() {
+    std::vector<unsigned char> ids;
+    for (Query query(allServices); query.next();)
+        ids.push_back(static_cast<unsigned char>(query.number(0)));
+    return ids;
+}
+
+std::optional<StoredService> StoreReader::service(unsigned char id) {
+    Query query(oneService, id);
+    if (!query.next())
+        return std::nullopt;
+    return StoredService{query.text(0), query.text(1), query.number(2) != 0};
+}
+
+std::vector<StoredCategory> StoreReader::categories(unsigned char service) {
+    std::vector<StoredCategory> found;
+    for (Query query(allCategories, service); query.next();)
+        found.push_back({query.smallNumber(0), query.text(1), query.text(2)});
+    return found;
+}
+
+QString StoreReader::categoryColour(unsigned char service, std::int32_t id) {
+    Query query(oneColour, categorySpaceOf(service), id);
+    return query.next() ? query.text(0) : QString();
+}
+
+int StoreReader::appendCategory(std::vector<CHeadlineTable>& table, unsigned char service,
+                                std::int32_t category, const DayBounds& bounds) {
+    Query query(byCategory, service, category, bounds.begin, bounds.end);
+    return appendEntries(table, service, query);
+}
+
+int StoreReader::appendSymbol(std::vector<CHeadlineTable>& table, unsigned char service,
+                              const CSymbolInfo& symbol, const DayBounds& bounds) {
+    const auto start = static_cast<std::ptrdiff_t>(table.size());
+    int count = 0;
+    {
+        Query query(bySymbol, service, symbol.market, symbol.code, bounds.begin, bounds.end);
+        count = appendEntries(table, service, query);
+    }
+    if (symbol.market == 0)
+        return count;
+    Query query(bySymbol, service, 0, symbol.code, bounds.begin, bounds.end);
+    if (appendEntries(table, service, query) > 0) {
+        const auto first = table.begin() + start;
+        std::inplace_merge(first, first + count, table.end(), isNewer);
+        table.erase(std::unique(first, table.end(),
+                                [](const auto& a, const auto& b) { return KeyOf(a) == KeyOf(b); }),
+                    table.end());
+    }
+    return static_cast<int>(table.end() - table.begin() - start);
+}
+
+std::optional<CHeadline> StoreReader::headline(const HeadlineKey& key) {
+    Query query(oneHeadline, key.service, key.time, key.sequence);
+    if (!query.next())
+        return std::nullopt;
+    CHeadline headline;
+    headline.service = key.service;
+    headline.time = key.time;
+    headline.sequence = key.sequence;
+    headline.title = query.text(0);
+    headline.categoryId = query.smallNumber(1);
+    return headline;
+}
+
+std::optional<QString> StoreReader::story(const HeadlineKey& key) {
+    Query query(oneStory, key.service, key.time, key.sequence);
+    if (!query.next())
+        return std::nullopt;
+    return query.text(0);
+}
+
+std::optional<std::vector<CSymbolInfo>> StoreReader::relatedSymbols(const HeadlineKey& key) {
+    std::optional<std::vector<CSymbolInfo>> symbols;
+    for (Query query(allRelated, key.service, key.time, key.sequence); query.next();) {
+        if (!symbols)
+            symbols.emplace();
+        if (!query.isNull(0))
+            symbols->push_back({static_cast<unsigned char>(query.number(0)), query.text(1)});
+    }
+    return symbols;
+}
+
+}  // namespace wirepane

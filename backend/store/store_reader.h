@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/local_day.h"
+#include "backend/store/statement.h"
+#include "host/contract/records.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace wirepane {
+
+struct StoredCategory {
+    std::int32_t id = 0;
+    QString name;
+    QString colour;  // "#rrggbb"; empty: none of its own
+};
+
+struct StoredService {
+    QString fullName;
+    QString shortName;
+    bool authorised = false;
+};
+
+// The look-ups into an open store, each answered from an index. What cannot be read counts as not there.
+// Thread: that of the database, which must outlive the reader.
+class StoreReader {
+public:
+    explicit StoreReader(Database& database);
+
+    // True when another program has written since the last call (the first call: true).
+    bool changedElsewhere();
+
+    // In the order of display.
+    std::vector<unsigned char> serviceIds();
+    std::optional<StoredService> service(unsigned char id);
+    // By id.
+    std::vector<StoredCategory> categories(unsigned char service);
+    // The colour of a category id of this service's numbering (see categorySpaceOf); empty: none.
+    QString categoryColour(unsigned char service, std::int32_t id);
+
+    // Append the entries of a category, or of a symbol, within `bounds` to `table`, newest first. A related
+    // symbol whose market is not known (0) counts for its code in every market. Result: how many.
+    int appendCategory(std::vector<CHeadlineTable>& table, unsigned char service, std::int32_t category,
+                       const DayBounds& bounds);
+    int appendSymbol(std::vector<CHeadlineTable>& table, unsigned char service, const CSymbolInfo& symbol,
+                     const DayBounds& bounds);
+
+    std::optional<CHeadline> headline(const HeadlineKey& key);
+    std::optional<QString> story(const HeadlineKey& key);
+    // Nothing for an unknown headline; the main symbol first.
+    std::optional<std::vector<CSymbolInfo>> relatedSymbols(const HeadlineKey& key);
+
+private:
+    Statement dataVersion;
+    Statement allServices;
+    Statement oneService;
+    Statement allCategories;
+    Statement oneColour;
+    Statement byCategory;
+    Statement bySymbol;
+    Statement oneHeadline;
+    Statement oneStory;
+    Statement allRelated;
+    std::optional<std::int64_t> lastVersion;
+};
+
+}  // namespace wirepane

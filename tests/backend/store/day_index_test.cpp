@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/day_index.h"
+
+#include "tests/backend/store/store_fixture.h"
+
+#include <ctime>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+const QDate monday(2026, 3, 2);
+
+class DayIndexTest : public StoreFixture {
+protected:
+    void fill(QDate from, int dayCount, int perDay) {
+        ASSERT_TRUE(writer->begin());
+        for (int day = 0; day < dayCount; ++day) {
+            for (int i = 0; i < perDay; ++i) {
+                const std::int64_t time = boundsOf(from.addDays(day)).begin + i * 100;
+                ASSERT_TRUE(writer->takeNews(newsItem(1, u"%1/%2"_s.arg(day).arg(i), time, u"T"_s)));
+            }
+        }
+        ASSERT_TRUE(writer->commit());
+    }
+};
+
+// Runs with the local time of another place.
+class TimeZone {
+public:
+    explicit TimeZone(const char* name) : before(qgetenv("TZ")) { set(name); }
+    ~TimeZone() { set(before); }
+    TimeZone(const TimeZone&) = delete;
+    TimeZone& operator=(const TimeZone&) = delete;
+
+private:
+    static void set(const QByteArray& name) {
+        qputenv("TZ", name);
+        tzset();
+    }
+    QByteArray before;
+};
+
+TEST_F(DayIndexTest, TooManyEntriesDropTheDaysAskedForLongestAgo) {
+    fill(monday, 4, 10);
+    DayIndex index(*store, 25);
+    std::vector<CHeadlineTable> table;
+    EXPECT_EQ(index.append(table, 1, monday), 10);
+    EXPECT_EQ(index.append(table, 1, monday.addDays(1)), 10);
+    EXPECT_EQ(index.append(table, 1, monday), 10);
+    EXPECT_EQ(index.append(table, 1, monday.addDays(2)), 10);
+    EXPECT_EQ(index.entryCount(), 20u);
+    EXPECT_EQ(table.size(), 40u);
+    // The first day is still in memory, the second one is not: only the second shows what the store has now.
+    takeNews(newsItem(1, u"new"_s, boundsOf(monday).begin, u"T"_s));
+    takeNews(newsItem(1, u"new too"_s, boundsOf(monday.addDays(1)).begin, u"T"_s));
+    EXPECT_EQ(index.append(table, 1, monday), 10);
+    EXPECT_EQ(index.append(table, 1, monday.addDays(1)), 11);
+    // A day of more entries than are kept is answered all the same.
+    DayIndex tiny(*store, 3);
+    EXPECT_EQ(tiny.append(table, 1, monday), 11);
+    EXPECT_EQ(tiny.append(table, 1, QDate()), 0);
+}
+
+TEST_F(DayIndexTest, ADayIsTheLocalDayAlsoAfterAMoveToAnotherZone) {
+    fill(monday, 1, 864);  // one every hundred seconds
+    DayIndex index(*store);
+    std::vector<CHeadlineTable> table;
+    EXPECT_EQ(index.append(table, 1, monday), 864);
+    EXPECT_EQ(table.front().time, at(23, 58, 20));
+    EXPECT_EQ(KeyOf(table.back()), (HeadlineKey{at(0, 0), 1, 1}));
+    const std::int64_t lastOfUtcDay = at(7, 58, 20);
+    const TimeZone utc("UTC");
+    table.clear();
+    EXPECT_EQ(index.append(table, 1, monday), 576);
+    EXPECT_EQ(index.append(table, 1, monday.addDays(-1)), 288);
+    EXPECT_EQ(table[576].time, lastOfUtcDay);
+    // News of an instant that has a number already gets another one, whatever the day is called now.
+    const StoredNews stored = takeNews(newsItem(1, u"late"_s, lastOfUtcDay, u"T"_s));
+    EXPECT_EQ(stored.outcome.take, Take::TakenIn);
+    EXPECT_EQ(rows("SELECT count(DISTINCT sequence) FROM headlines WHERE time = "
+                   "(SELECT time FROM headlines WHERE identity = 'late')"),
+              QStringList{u"2"_s});
+}
+
+TEST_F(DayIndexTest, ADayWithAChangeOfTheClockHasItsOwnLength) {
+    const TimeZone zone("America/New_York");
+    const QDate spring(2026, 3, 8);
+    EXPECT_EQ(boundsOf(spring).end - boundsOf(spring).begin, 23 * 3600);
+    fill(spring, 2, 1);
+    DayIndex index(*store);
+    std::vector<CHeadlineTable> table;
+    EXPECT_EQ(index.append(table, 1, spring), 1);
+    EXPECT_EQ(index.append(table, 1, spring.addDays(1)), 1);
+}
+
+}  // namespace
+
+}  // namespace wirepane

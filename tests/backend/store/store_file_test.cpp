@@ -1,0 +1,262 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/store_file.h"
+
+#include "backend/store/migrations.h"
+#include "backend/store/schema.h"
+#include "backend/store/store_checker.h"
+#include "backend/store/transaction.h"
+#include "tests/backend/store/store_fixture.h"
+
+#include <QFile>
+
+#include <random>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr StoreOptions impatient{.busyTimeout = 20ms};
+
+class StoreFileTest : public StoreFixture {
+protected:
+    // Closes the store, so that its file holds everything.
+    QString closedStore() {
+        writer.reset();
+        store.reset();
+        return pathOf(u"news.db"_s);
+    }
+    void fill(int count) {
+        ASSERT_TRUE(writer->begin());
+        for (int i = 0; i < count; ++i) {
+            NewsItem item = newsItem(1, QString::number(i), at(9, 0, i % 60), u"Headline %1"_s.arg(i));
+            item.story = u"Story %1 of the day."_s.arg(i).repeated(20);
+            item.related = {{16, QString::number(1000 + i % 7)}};
+            ASSERT_TRUE(writer->takeNews(item));
+        }
+        ASSERT_TRUE(writer->commit());
+    }
+};
+
+void write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+std::unique_ptr<Database> plainDatabase(const QString& path, const char* sql) {
+    auto opened = Database::open(path, Database::Mode::Create, 20ms);
+    EXPECT_TRUE(opened);
+    EXPECT_TRUE(opened.value()->execute(sql)) << opened.value()->failure().toStdString();
+    return std::move(opened.value());
+}
+
+// Gives up the rights of the super-user for its life, where the tests run as that.
+class AsOrdinaryUser {
+public:
+    AsOrdinaryUser() : changed(geteuid() == 0 && seteuid(65534) == 0) {}
+    ~AsOrdinaryUser() {
+        if (changed && seteuid(0) != 0)
+            std::abort();
+    }
+    AsOrdinaryUser(const AsOrdinaryUser&) = delete;
+    AsOrdinaryUser& operator=(const AsOrdinaryUser&) = delete;
+
+private:
+    bool changed;
+};
+
+TEST_F(StoreFileTest, ANewStoreHasItsServicesAndKeepsWhatItHoldsWhenOpenedAgain) {
+    const char* const listing =
+        "SELECT services.id, full_name, count(category), min(category) FROM services "
+        "JOIN service_categories ON service = services.id GROUP BY services.id ORDER BY position";
+    const QStringList expected{u"1|General News|6|1"_s,    u"2|Market News|6|1"_s,
+                               u"16|Stock Exchange|5|1"_s, u"22|Hong Kong Market|5|1"_s,
+                               u"52|Warrants|4|1"_s,       u"122|Emerging Board|4|1"_s};
+    EXPECT_EQ(rows(listing), expected);
+    fill(3);
+    const auto again = openStore(closedStore());
+    ASSERT_TRUE(again);
+    EXPECT_EQ(rowsOf(*again.value(), listing), expected);
+    EXPECT_EQ(rowsOf(*again.value(), "SELECT count(*) FROM headlines"), QStringList{u"3"_s});
+    // An empty file is as good as none.
+    write(pathOf(u"empty.db"_s), {});
+    EXPECT_TRUE(openStore(pathOf(u"empty.db"_s)));
+}
+
+TEST_F(StoreFileTest, TheSearchKnowsItsTokenizer) {
+    EXPECT_EQ(
+        rows("SELECT sql LIKE '%tokenize=''unicode61''%' FROM sqlite_schema WHERE name = 'news_search'"),
+        QStringList{u"1"_s});
+    EXPECT_STREQ(searchTokenizer, "unicode61");
+    takeNews(newsItem(1, u"a"_s, at(9, 0), u"Zürich exchange"_s));
+    EXPECT_EQ(rows("SELECT rowid FROM news_search('zurich')"), QStringList{u"1"_s});
+}
+
+TEST_F(StoreFileTest, MigrationsRunOnceInOrderAndAllOrNothing) {
+    const auto database = plainDatabase(pathOf(u"m.db"_s), "PRAGMA user_version = 1; CREATE TABLE a(x)");
+    const char* const steps[] = {"CREATE TABLE a(x)", "CREATE TABLE b(x); INSERT INTO b VALUES(2)",
+                                 "UPDATE b SET x = x + 1"};
+    EXPECT_TRUE(migrate(*database, steps));
+    EXPECT_TRUE(migrate(*database, steps));
+    EXPECT_EQ(rowsOf(*database, "SELECT x FROM b"), QStringList{u"3"_s});
+    EXPECT_EQ(rowsOf(*database, "PRAGMA user_version"), QStringList{u"3"_s});
+
+    const char* const broken[] = {"", "", "", "UPDATE b SET x = 9", "UPDATE c SET x = 9"};
+    {
+        Transaction transaction(*database);
+        ASSERT_TRUE(transaction.hasBegun());
+        EXPECT_FALSE(migrate(*database, broken));
+    }
+    EXPECT_TRUE(database->failure().contains(u"no such table: c"_s)) << database->failure().toStdString();
+    EXPECT_EQ(rowsOf(*database, "SELECT x FROM b"), QStringList{u"3"_s});
+    EXPECT_EQ(rowsOf(*database, "PRAGMA user_version"), QStringList{u"3"_s});
+}
+
+TEST_F(StoreFileTest, AFileThatIsNoUsableStoreIsNamedAndLeftAlone) {
+    fill(200);
+    const QByteArray good = bytesOf(closedStore());
+    ASSERT_GT(good.size(), 50'000);
+    const auto patched = [&](qsizetype from, const QByteArray& bytes) {
+        return QByteArray(good).replace(from, bytes.size(), bytes);
+    };
+    struct Case {
+        const char* what;
+        QByteArray bytes;
+        QString expected;
+    };
+    const Case cases[] = {
+        {"a text", QByteArray("This is a letter, not a store. ").repeated(200), u"is not a news store"_s},
+        {"a newer store", patched(60, QByteArray("\0\0\0\7", 4)), u"newer version"_s},
+        {"another program's database", patched(68, "ABCD"), u"but not a news store"_s},
+        {"a store cut in the middle", good.first(good.size() / 2), u"is damaged"_s},
+        {"a store cut within its first page", good.first(700), u"is damaged"_s},
+        {"a store with a spoilt list of tables", patched(100, QByteArray(2000, '\x5a')), u"is damaged"_s},
+        {"a store with a spoilt start", patched(0, QByteArray(40, '\x5a')), u"is not a news store"_s},
+    };
+    const QString path = pathOf(u"case.db"_s);
+    for (const Case& one : cases) {
+        write(path, one.bytes);
+        const auto opened = openStore(path, impatient);
+        ASSERT_FALSE(opened) << one.what;
+        EXPECT_TRUE(opened.error().contains(one.expected))
+            << one.what << ": " << opened.error().toStdString();
+        EXPECT_TRUE(opened.error().contains(path)) << one.what;
+        EXPECT_EQ(bytesOf(path), one.bytes) << one.what;
+        QFile::remove(path + u"-wal"_s);
+        QFile::remove(path + u"-shm"_s);
+    }
+    EXPECT_FALSE(openStore(folder.path(), impatient));
+    EXPECT_FALSE(openStore(pathOf(u"no/such/folder.db"_s), impatient));
+    EXPECT_FALSE(openStore({}, impatient));
+}
+
+TEST_F(StoreFileTest, AStoreThatIsInUseElsewhereSaysSo) {
+    const auto second = openStore(pathOf(u"news.db"_s), impatient);
+    ASSERT_TRUE(second);
+    StoreWriter other(*second.value());
+    ASSERT_TRUE(writer->begin());
+    const Done begun = other.begin();
+    ASSERT_FALSE(begun);
+    EXPECT_TRUE(begun.error().contains(u"is being used by another program"_s)) << begun.error().toStdString();
+    ASSERT_TRUE(writer->commit());
+    EXPECT_TRUE(other.begin());
+    other.rollback();
+
+    const QString path = pathOf(u"locked.db"_s);
+    const auto holder = plainDatabase(path, "CREATE TABLE t(x); BEGIN EXCLUSIVE");
+    const auto locked = openStore(path, impatient);
+    ASSERT_FALSE(locked);
+    EXPECT_TRUE(locked.error().contains(u"is being used by another program"_s))
+        << locked.error().toStdString();
+}
+
+TEST_F(StoreFileTest, AReadOnlyFolderOrFileIsSaidToBeSo) {
+    fill(3);
+    const QString path = closedStore();
+    const QByteArray before = bytesOf(path);
+    const auto mayRead = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    const auto mayEnter = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+    QFile::setPermissions(path, mayRead);
+    QFile::setPermissions(folder.path(), mayRead | mayEnter);
+    {
+        const AsOrdinaryUser user;
+        const auto existing = openStore(path, impatient);
+        ASSERT_FALSE(existing);
+        EXPECT_TRUE(existing.error().contains(u"cannot be"_s)) << existing.error().toStdString();
+        EXPECT_TRUE(existing.error().contains(path)) << existing.error().toStdString();
+        EXPECT_FALSE(openStore(pathOf(u"new.db"_s), impatient));
+        // Verifying needs no more than reading.
+        const Result<QStringList> checked = StoreChecker(path).check();
+        ASSERT_TRUE(checked) << checked.error().toStdString();
+        EXPECT_EQ(checked.value(), QStringList{});
+    }
+    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(bytesOf(path), before);
+    EXPECT_FALSE(QFile::exists(pathOf(u"new.db"_s)));
+}
+
+TEST_F(StoreFileTest, AFullDiskTakesBackTheTransactionAndNothingElse) {
+    fill(20);
+    const QStringList before = rows("SELECT identity, title FROM headlines ORDER BY id");
+    // The same answer as a full disk gives.
+    const int pages = rows("PRAGMA page_count").constFirst().toInt();
+    ASSERT_TRUE(store->execute(("PRAGMA max_page_count = " + std::to_string(pages + 40)).c_str()));
+    ASSERT_TRUE(writer->begin());
+    NewsItem item = newsItem(1, u"big"_s, at(10, 0), u"Big"_s);
+    item.story = QString(1'000'000, u'x');
+    const Result<StoredNews> stored = writer->takeNews(item);
+    ASSERT_FALSE(stored);
+    EXPECT_TRUE(stored.error().contains(u"the disk is full"_s)) << stored.error().toStdString();
+    EXPECT_FALSE(writer->commit());
+    EXPECT_EQ(rows("SELECT identity, title FROM headlines ORDER BY id"), before);
+    // With room again, the same item goes in.
+    ASSERT_TRUE(store->execute("PRAGMA max_page_count = 1000000"));
+    EXPECT_EQ(takeNews(item).outcome.take, Take::TakenIn);
+    EXPECT_EQ(StoreChecker(pathOf(u"news.db"_s)).check().value(), QStringList{});
+}
+
+// Whatever is damaged: no crash, no hang, and what fails says that the store is damaged.
+TEST_F(StoreFileTest, DamageAnywhereIsSurvived) {
+    fill(300);
+    const QByteArray good = bytesOf(closedStore());
+    const QString path = pathOf(u"spoilt.db"_s);
+    std::mt19937 random(20260302);
+    int noticed = 0;
+    for (int round = 0; round < 60; ++round) {
+        QByteArray bytes = good;
+        for (int i = 0; i < 40; ++i)
+            bytes[static_cast<qsizetype>(random() % static_cast<unsigned>(bytes.size()))] =
+                static_cast<char>(random());
+        write(path, bytes);
+        QFile::remove(path + u"-wal"_s);
+        QFile::remove(path + u"-shm"_s);
+        const Result<QStringList> checked = StoreChecker(path).check();
+        noticed += !checked || !checked.value().isEmpty() ? 1 : 0;
+        const auto opened = openStore(path, impatient);
+        if (!opened)
+            continue;
+        StoreWriter spoilt(*opened.value());
+        ASSERT_TRUE(spoilt.begin());
+        for (int i = 0; i < 40; ++i) {
+            NewsItem item = newsItem(1, QString::number(i), at(9, 0), u"Again"_s);
+            item.version = 1;
+            const Result<StoredNews> stored = spoilt.takeNews(item);
+            if (!stored) {
+                EXPECT_TRUE(stored.error().contains(path)) << stored.error().toStdString();
+                break;
+            }
+        }
+        spoilt.rollback();
+    }
+    // Bytes that nothing reads may change unnoticed; most may not.
+    EXPECT_GT(noticed, 40);
+}
+
+}  // namespace
+
+}  // namespace wirepane
