@@ -5,6 +5,8 @@
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -14,6 +16,9 @@ namespace {
 CHeadlineTable entryOf(const HeadlineKey& key) {
     return {key.time, key.sequence, key.service, 0, 0};
 }
+
+constexpr unsigned char hongKong = 22;
+constexpr unsigned char delayedHongKong = 23;
 
 // The days that a table without a date reaches over.
 DayBounds newsRange(int daysBack) {
@@ -47,6 +52,7 @@ void EmbeddedBackEnd::catchUp() {
         return;
     days.clear();
     headlineCache.clear();
+    symbolsRead = false;
 }
 
 // --- Taking in ---
@@ -64,6 +70,7 @@ Result<TakeOutcome> EmbeddedBackEnd::takeIn(const StoreItem& item) {
         return Error{kept.error()};
     const auto* symbol = std::get_if<SymbolItem>(&item);
     if (symbol != nullptr && outcome.value().take == Take::TakenIn) {
+        symbolTable.put(*symbol);
         const std::vector<CSymbolUpdateInfo> changes{{symbol->market, symbol->code}};
         ForEachReceiver([&](NewsReceiver& receiver) { receiver.vDoSymbolUpdate(changes); });
     }
@@ -129,6 +136,52 @@ std::vector<unsigned char> EmbeddedBackEnd::registeredServices(NewsReceiver* rec
     if (found == registrations.end())
         return {};
     return {found->second.begin(), found->second.end()};
+}
+
+// --- Symbols ---
+
+SymbolTable& EmbeddedBackEnd::symbols() {
+    if (!symbolsRead)
+        symbolsRead = static_cast<bool>(symbolTable.load(*database));
+    return symbolTable;
+}
+
+bool EmbeddedBackEnd::bGetAllServiceID(std::vector<unsigned char>& services) {
+    services = symbols().markets();
+    return !services.empty();
+}
+
+// The delayed Hong Kong market is a service of its own where a store has it.
+bool EmbeddedBackEnd::bGetServiceID2Delay(unsigned char service, unsigned char& delayed) {
+    if (service != hongKong)
+        return false;
+    const std::vector<unsigned char> markets = symbols().markets();
+    if (std::find(markets.begin(), markets.end(), delayedHongKong) == markets.end())
+        return false;
+    delayed = delayedHongKong;
+    return true;
+}
+
+int EmbeddedBackEnd::bIsFromTheSameAuthServiceID(unsigned char service, unsigned char other) {
+    const auto group = [](unsigned char id) { return id == delayedHongKong ? hongKong : id; };
+    return group(service) == group(other) ? 1 : 0;
+}
+
+bool EmbeddedBackEnd::bGetSymbolID(unsigned char service, std::vector<QString>& codes,
+                                   std::vector<QString>& names) {
+    return symbols().GetSymbolsByService(service, codes, names, 0);
+}
+
+int EmbeddedBackEnd::bIsSymbolIDExist(unsigned char service, const QString& code) {
+    return symbols().find(service, code) != nullptr ? 1 : 0;
+}
+
+bool EmbeddedBackEnd::bGetCategorybySymbolID(int& category, unsigned char service, const QString& code) {
+    const SymbolItem* symbol = symbols().find(service, code);
+    if (symbol == nullptr)
+        return false;
+    category = symbol->category;
+    return true;
 }
 
 // --- Services ---

@@ -9,6 +9,7 @@
 #include "backend/store/simplified_chinese.h"
 #include "backend/store/store_reader.h"
 #include "backend/store/store_writer.h"
+#include "backend/store/symbol_table.h"
 #include "host/contract/bk_quote_interface.h"
 
 #include <QColor>
@@ -52,6 +53,9 @@ public:
     // themselves: name their service for one of theirs.
     QColor categoryColour(std::int32_t id, unsigned char service = 0);
 
+    // The symbols of the store, read at the first use; also the host's symbol search.
+    SymbolTable& symbols();
+
     void setConnected(bool on) { connected = on; }              // at first: true
     void setConvertsToSimplified(bool on) { simplified = on; }  // at first: false
     void setSysPath(const QString& path) { sysPath = path; }    // at first: the contract's default
@@ -67,6 +71,13 @@ public:
     bool bNewsAPI_GetNewsCatId(unsigned char service, std::vector<QString>& ids,
                                std::vector<QString>& names) override;
     int BKQCheckAuthSupport(unsigned char service) override;
+    bool bGetAllServiceID(std::vector<unsigned char>& services) override;
+    bool bGetServiceID2Delay(unsigned char service, unsigned char& delayed) override;
+    int bIsFromTheSameAuthServiceID(unsigned char service, unsigned char other) override;
+    bool bGetSymbolID(unsigned char service, std::vector<QString>& codes,
+                      std::vector<QString>& names) override;
+    int bIsSymbolIDExist(unsigned char service, const QString& code) override;
+    bool bGetCategorybySymbolID(int& category, unsigned char service, const QString& code) override;
     int bIsConnect() override { return connected ? 1 : 0; }
     int BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>& table, unsigned char service,
                                   const CSymbolInfo& symbol) override;
@@ -103,6 +114,8 @@ private:
     HeadlineCache headlineCache;
     RequestLog requests;
     SimplifiedChinese chinese;
+    SymbolTable symbolTable;
+    bool symbolsRead = false;
     std::map<NewsReceiver*, std::set<unsigned char>> registrations;
     bool connected = true;
     bool simplified = false;

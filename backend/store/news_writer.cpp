@@ -4,7 +4,18 @@
 
 #include "host/contract/clock.h"
 
+using namespace Qt::StringLiterals;
+
 namespace wirepane {
+
+namespace {
+
+// The story as the view news_text gives it: the search sees no paragraph marks.
+QString searchedText(const QString& story) {
+    return QString(story).replace("@@@@"_L1, "\n"_L1);
+}
+
+}  // namespace
 
 NewsWriter::NewsWriter(Database& owner)
     : database(owner),
@@ -27,12 +38,10 @@ NewsWriter::NewsWriter(Database& owner)
                     "INSERT INTO related_symbols(headline, position, market, code, service, time, sequence) "
                     "VALUES(?, ?, ?, ?, ?, ?, ?)"),
       deleteRelated(owner, "DELETE FROM related_symbols WHERE headline = ?"),
-      addToSearch(owner,
-                  "INSERT INTO news_search(rowid, title, story) "
-                  "SELECT id, title, story FROM news_text WHERE id = ?"),
-      takeFromSearch(owner,
-                     "INSERT INTO news_search(news_search, rowid, title, story) "
-                     "SELECT 'delete', id, title, story FROM news_text WHERE id = ?") {}
+      readSearched(owner, "SELECT title, story FROM news_text WHERE id = ?"),
+      insertSearched(owner, "INSERT INTO news_search(rowid, title, story) VALUES(?, ?, ?)"),
+      deleteSearched(owner,
+                     "INSERT INTO news_search(news_search, rowid, title, story) VALUES('delete', ?, ?, ?)") {}
 
 std::optional<KnownNews> NewsWriter::find(unsigned char service, const QString& identity, bool& failed) {
     Query query(findIdentity, service, identity);
@@ -58,21 +67,42 @@ bool NewsWriter::insert(const NewsItem& item, const NewsPlace& place) {
              .run())
         return false;
     const std::int64_t id = database.lastInsertId();
-    return writeStory(id, item.story) && writeRelated(id, item, place) && Query(addToSearch, id).run();
+    return writeStory(id, item.story) && writeRelated(id, item, place) &&
+           addToSearch(id, item.title, item.story);
 }
 
 bool NewsWriter::replace(std::int64_t id, const NewsItem& item, const NewsPlace& place) {
-    // The index forgets a text only when it is told the very text that it knows.
-    return Query(takeFromSearch, id).run() &&
+    QString before;
+    return takeFromSearch(id, before) &&
            Query(updateHeadline, id, item.time, place.sequence, place.day, place.category, item.version,
                  host_clock::now(), item.title)
                .run() &&
            Query(deleteText, id).run() && writeStory(id, item.story) && Query(deleteRelated, id).run() &&
-           writeRelated(id, item, place) && Query(addToSearch, id).run();
+           writeRelated(id, item, place) && addToSearch(id, item.title, item.story);
 }
 
 bool NewsWriter::insertStory(std::int64_t id, const QString& story) {
-    return Query(takeFromSearch, id).run() && writeStory(id, story) && Query(addToSearch, id).run();
+    QString title;
+    return takeFromSearch(id, title) && writeStory(id, story) && addToSearch(id, title, story);
+}
+
+// A row for the index is never selected from another table in the same statement: that would make the index
+// write what it gathers, row by row.
+bool NewsWriter::addToSearch(std::int64_t id, const QString& title, const std::optional<QString>& story) {
+    return Query(insertSearched, id, title, story ? searchedText(*story) : QString()).run();
+}
+
+bool NewsWriter::takeFromSearch(std::int64_t id, QString& title) {
+    QString story;
+    {
+        Query query(readSearched, id);
+        if (!query.next())
+            return false;
+        title = query.text(0);
+        story = query.text(1);
+    }
+    // The index forgets a text only when it is told the very text that it knows.
+    return Query(deleteSearched, id, title, story).run();
 }
 
 bool NewsWriter::writeStory(std::int64_t id, const std::optional<QString>& story) {

@@ -48,6 +48,9 @@ public:
 private:
     bool writeStory(std::int64_t id, const std::optional<QString>& story);
     bool writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place);
+    bool addToSearch(std::int64_t id, const QString& title, const std::optional<QString>& story);
+    // Takes out what the index holds of a piece of news; `title` becomes the title that it had.
+    bool takeFromSearch(std::int64_t id, QString& title);
 
     Database& database;
     Statement findIdentity;
@@ -58,8 +61,9 @@ private:
     Statement deleteText;
     Statement insertRelated;
     Statement deleteRelated;
-    Statement addToSearch;
-    Statement takeFromSearch;
+    Statement readSearched;
+    Statement insertSearched;
+    Statement deleteSearched;
 };
 
 }  // namespace wirepane

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/symbol_table.h"
+
+#include "backend/store/database.h"
+#include "backend/store/statement.h"
+
+#include <algorithm>
+#include <array>
+
+namespace wirepane {
+
+namespace {
+
+QString folded(const QString& text) {
+    return text.normalized(QString::NormalizationForm_KC).toCaseFolded();
+}
+
+}  // namespace
+
+Done SymbolTable::load(Database& database) {
+    Statement all(database, "SELECT market, code, name, category FROM symbols");
+    std::map<unsigned char, std::map<QString, Entry>> read;
+    std::swap(read, byMarket);
+    Query rows(all);
+    while (rows.next())
+        put({static_cast<unsigned char>(rows.number(0)), rows.text(1), rows.text(2), rows.smallNumber(3)});
+    if (!rows.failed())
+        return Nothing{};
+    std::swap(read, byMarket);
+    return Error{database.failure()};
+}
+
+void SymbolTable::put(const SymbolItem& symbol) {
+    byMarket[symbol.market][symbol.code] = {symbol, folded(symbol.code), folded(symbol.name)};
+}
+
+std::vector<unsigned char> SymbolTable::markets() const {
+    std::vector<unsigned char> result;
+    for (const auto& [market, symbols] : byMarket)
+        result.push_back(market);
+    return result;
+}
+
+const SymbolItem* SymbolTable::find(unsigned char market, const QString& code) const {
+    const auto symbols = byMarket.find(market);
+    if (symbols == byMarket.end())
+        return nullptr;
+    const auto entry = symbols->second.find(code);
+    return entry == symbols->second.end() ? nullptr : &entry->second.symbol;
+}
+
+std::vector<SymbolItem> SymbolTable::search(const QString& text, std::size_t limit) const {
+    const QString wanted = folded(text.trimmed());
+    std::array<std::vector<SymbolItem>, 3> found;  // exact code, code, name
+    if (wanted.isEmpty())
+        return {};
+    for (const auto& [market, symbols] : byMarket) {
+        for (const auto& [code, entry] : symbols) {
+            if (entry.foldedCode == wanted)
+                found[0].push_back(entry.symbol);
+            else if (entry.foldedCode.startsWith(wanted))
+                found[1].push_back(entry.symbol);
+            else if (entry.foldedName.contains(wanted))
+                found[2].push_back(entry.symbol);
+        }
+    }
+    std::vector<SymbolItem> result;
+    for (const auto& group : found)
+        result.insert(result.end(), group.begin(), group.end());
+    result.resize(std::min(result.size(), limit));
+    return result;
+}
+
+bool SymbolTable::GetSymbolsByService(unsigned char service, std::vector<QString>& codes,
+                                      std::vector<QString>& names, int) {
+    codes.clear();
+    names.clear();
+    const auto symbols = byMarket.find(service);
+    if (symbols == byMarket.end())
+        return false;
+    for (const auto& [code, entry] : symbols->second) {
+        codes.push_back(code);
+        names.push_back(entry.symbol.name);
+    }
+    return true;
+}
+
+}  // namespace wirepane

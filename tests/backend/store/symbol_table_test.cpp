@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/embedded_back_end.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace wirepane {
+
+namespace {
+
+std::string codesOf(const std::vector<SymbolItem>& symbols) {
+    std::string codes;
+    for (const SymbolItem& symbol : symbols)
+        codes += (codes.empty() ? "" : " ") + symbol.code.toStdString();
+    return codes;
+}
+
+class SymbolTableTest : public testing::Test {
+protected:
+    void SetUp() override {
+        auto opened = EmbeddedBackEnd::open(folder.filePath(QStringLiteral("news.db")));
+        ASSERT_TRUE(opened) << opened.error().toStdString();
+        backEnd = std::move(opened.value());
+        put(16, "2330", "Aster Chips");
+        put(16, "2331", "台灣水泥 ABC");
+        put(16, "1101", "Harbour 2330 Holdings");
+        put(122, "23", "Young Board");
+        put(1, "NA", "Nano Labs");
+    }
+    void put(unsigned char market, const char* code, const char* name, int category = 1) {
+        ASSERT_TRUE(
+            backEnd->takeIn(SymbolItem{market, QString::fromUtf8(code), QString::fromUtf8(name), category}));
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<EmbeddedBackEnd> backEnd;
+};
+
+}  // namespace
+
+TEST_F(SymbolTableTest, FindsByCodeAndName) {
+    struct Case {
+        const char* text;
+        std::size_t limit;
+        const char* codes;
+    };
+    const Case cases[] = {
+        {"23", 9, "23 2330 2331 1101"},  // the exact code, codes that begin so, names that hold it
+        {"2330", 9, "2330 1101"},
+        {"２３３０", 9, "2330 1101"},
+        {"aster", 9, "2330"},
+        {"ＡＢＣ", 9, "2331"},
+        {"水泥", 9, "2331"},
+        {"na", 9, "NA"},
+        {"330", 9, "1101"},
+        {"", 9, ""},
+        {"  ", 9, ""},
+        {"%", 9, ""},
+        {"23", 2, "23 2330"},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(codesOf(backEnd->symbols().search(QString::fromUtf8(c.text), c.limit)), c.codes) << c.text;
+}
+
+TEST_F(SymbolTableTest, AnswersWhatViewsAsk) {
+    std::vector<unsigned char> services;
+    EXPECT_TRUE(backEnd->bGetAllServiceID(services));
+    EXPECT_EQ(services, (std::vector<unsigned char>{1, 16, 122}));
+    std::vector<QString> codes;
+    std::vector<QString> names;
+    EXPECT_TRUE(backEnd->bGetSymbolID(16, codes, names));
+    EXPECT_EQ(codes,
+              (std::vector<QString>{QStringLiteral("1101"), QStringLiteral("2330"), QStringLiteral("2331")}));
+    EXPECT_EQ(names.at(1), QStringLiteral("Aster Chips"));
+    EXPECT_FALSE(backEnd->bGetSymbolID(99, codes, names));
+    EXPECT_TRUE(codes.empty() && names.empty());
+    EXPECT_EQ(backEnd->bIsSymbolIDExist(16, QStringLiteral("2330")), 1);
+    EXPECT_EQ(backEnd->bIsSymbolIDExist(122, QStringLiteral("2330")), 0);
+
+    put(16, "2330", "Aster Chips renamed", 7);
+    int category = 0;
+    EXPECT_TRUE(backEnd->bGetCategorybySymbolID(category, 16, QStringLiteral("2330")));
+    EXPECT_EQ(category, 7);
+    EXPECT_FALSE(backEnd->bGetCategorybySymbolID(category, 16, QStringLiteral("none")));
+
+    unsigned char delayed = 0;
+    EXPECT_FALSE(backEnd->bGetServiceID2Delay(22, delayed));
+    put(23, "00700", "Harbour Holdings");
+    EXPECT_TRUE(backEnd->bGetServiceID2Delay(22, delayed));
+    EXPECT_EQ(delayed, 23);
+    EXPECT_FALSE(backEnd->bGetServiceID2Delay(16, delayed));
+    EXPECT_EQ(backEnd->bIsFromTheSameAuthServiceID(23, 22), 1);
+    EXPECT_EQ(backEnd->bIsFromTheSameAuthServiceID(16, 22), 0);
+}
+
+TEST_F(SymbolTableTest, SeesWhatAnotherProgramAdds) {
+    EXPECT_EQ(backEnd->bIsSymbolIDExist(16, QStringLiteral("9999")), 0);
+    auto other = EmbeddedBackEnd::open(backEnd->storePath());
+    ASSERT_TRUE(other);
+    ASSERT_TRUE(other.value()->takeIn(SymbolItem{16, QStringLiteral("9999"), QStringLiteral("Added"), 1}));
+    NewsItem news;
+    news.identity = QStringLiteral("urn:test:1");
+    news.title = QStringLiteral("makes this program look at the store again");
+    ASSERT_TRUE(backEnd->takeIn(news));
+    EXPECT_EQ(backEnd->bIsSymbolIDExist(16, QStringLiteral("9999")), 1);
+}
+
+}  // namespace wirepane
