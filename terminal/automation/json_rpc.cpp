@@ -40,9 +40,10 @@ std::variant<RpcRequest, RejectedLine> parseRequest(const QByteArray& line) {
     if (!object.value("method"_L1).isString())
         return rejected(answerId, RpcCode::InvalidRequest, u"\"method\" must be a text"_s);
     const QJsonValue params = object.value("params"_L1);
-    if (!params.isUndefined() && !params.isObject())
+    if (!params.isUndefined() && !params.isObject() && !params.isArray())
         return rejected(answerId, RpcCode::BadParameters, u"parameters are an object of names and values"_s);
-    return RpcRequest{id, object.value("method"_L1).toString(), params.toObject()};
+    return RpcRequest{id, object.value("method"_L1).toString(), params.toObject(),
+                      params.isArray() ? std::optional(params.toArray()) : std::nullopt};
 }
 
 QByteArray resultLine(const QJsonValue& id, const QJsonValue& result) {

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
 
+#include <optional>
 #include <variant>
 
 namespace wirepane {
@@ -30,6 +32,7 @@ struct RpcRequest {
     QJsonValue id;  // Undefined: a notification, which is carried out and not answered
     QString method;
     QJsonObject params;
+    std::optional<QJsonArray> list;  // the parameters where they are a bare list
 };
 
 // A line that is no request, with the id that its answer carries (null when none could be read).
@@ -38,7 +41,7 @@ struct RejectedLine {
     RpcError error;
 };
 
-// Reads one line of JSON-RPC 2.0. Batches and positional parameters are not part of the interface.
+// Reads one line of JSON-RPC 2.0. Batches are not part of the interface.
 std::variant<RpcRequest, RejectedLine> parseRequest(const QByteArray& line);
 
 // Answers, each one line with its line feed.

@@ -19,13 +19,19 @@ void MethodTable::add(const QString& name, std::function<Answer(Params&)> method
     });
 }
 
+void MethodTable::addWithList(const QString& name, const QString& listName,
+                              std::function<Answer(Params&)> method) {
+    listNames.insert(name, listName);
+    add(name, std::move(method));
+}
+
 void MethodTable::addModal(const QString& name, std::function<Answer(Params&)> method) {
     addDeferred(name, [method = std::move(method)](Params& params, const Reply& reply) {
         auto answered = std::make_shared<bool>(false);
         // Runs no earlier than in a loop that the method opens, or after the method.
         QTimer::singleShot(0, qApp, [answered, reply] {
             if (!std::exchange(*answered, true))
-                reply(QJsonObject());
+                reply({});
         });
         const Answer answer = method(params);
         if (!std::exchange(*answered, true))
@@ -43,7 +49,16 @@ void MethodTable::call(const RpcRequest& request, const Reply& reply) const {
         reply(RpcError{RpcCode::UnknownMethod, u"there is no method \"%1\""_s.arg(request.method)});
         return;
     }
-    Params params(request.params);
+    QJsonObject values = request.params;
+    if (request.list) {
+        const QString listName = listNames.value(request.method);
+        if (listName.isEmpty()) {
+            reply(RpcError{RpcCode::BadParameters, u"\"%1\" takes named parameters"_s.arg(request.method)});
+            return;
+        }
+        values.insert(listName, *request.list);
+    }
+    Params params(values);
     (*method)(params, reply);
 }
 

@@ -50,9 +50,7 @@ void RequestQueue::runNext() {
 
 void RequestQueue::answer(const QPointer<LineChannel>& channel, const QJsonValue& id, const Answer& answer) {
     if (channel && !id.isUndefined()) {
-        const auto* error = std::get_if<RpcError>(&answer);
-        channel->send(error != nullptr ? errorLine(id, *error)
-                                       : resultLine(id, std::get<QJsonObject>(answer)));
+        channel->send(answer.error ? errorLine(id, *answer.error) : resultLine(id, answer.result));
     }
     running = false;
     schedule();

@@ -9,6 +9,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
 
@@ -40,7 +41,11 @@ MainFrame::MainFrame()
 }
 
 void MainFrame::buildMenus() {
+    // One of the old menus may be running the command that makes them anew.
+    const auto old = menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly);
     menuBar()->clear();
+    for (QMenu* menu : old)
+        menu->deleteLater();
     addFileMenu(*this);
     addViewMenu(*this, checkedScheme, checkedLanguage);
 }
@@ -51,6 +56,8 @@ void MainFrame::retranslate() {
 }
 
 void MainFrame::showChoices(const QString& scheme, const QString& language) {
+    if (scheme == checkedScheme && language == checkedLanguage)
+        return;
     checkedScheme = scheme;
     checkedLanguage = language;
     buildMenus();

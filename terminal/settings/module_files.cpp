@@ -28,25 +28,39 @@ Done writeFile(const QString& path, const QString& content) {
     return Nothing{};
 }
 
+struct CategoryLists {
+    QString ids;
+    QString names;
+    std::size_t count = 0;
+};
+
+CategoryLists listsOf(const std::vector<CategoryName>& categories) {
+    CategoryLists lists;
+    for (const CategoryName& category : categories) {
+        const QString separator = lists.count == 0 ? QString() : u","_s;
+        const QString id = separator + QString::number(category.id);
+        const QString name = separator + shortName(category.name);
+        if (lists.ids.size() + id.size() > longestList || lists.names.size() + name.size() > longestList)
+            break;
+        lists.ids += id;
+        lists.names += name;
+        ++lists.count;
+    }
+    return lists;
+}
+
 }  // namespace
 
 Done writeCategoryFile(const QString& folder, const std::vector<CategoryName>& categories) {
-    QString ids;
-    QString names;
-    for (const CategoryName& category : categories) {
-        const QString separator = ids.isEmpty() ? QString() : u","_s;
-        const QString id = separator + QString::number(category.id);
-        const QString name = separator + shortName(category.name);
-        if (ids.size() + id.size() > longestList || names.size() + name.size() > longestList)
-            break;
-        ids += id;
-        names += name;
-    }
+    const CategoryLists lists = listsOf(categories);
     // The quotation marks keep those that a name begins or ends with.
     return writeFile(QDir(folder).filePath(u"NewsService.ini"_s),
-                     u"[CONFIG]\nCatId=\"%1\"\nSHORTNAME=\"%2\"\n"_s.arg(ids, names));
+                     u"[CONFIG]\nCatId=\"%1\"\nSHORTNAME=\"%2\"\n"_s.arg(lists.ids, lists.names));
 }
 
+bool categoryFileHoldsAll(const std::vector<CategoryName>& categories) {
+    return listsOf(categories).count == categories.size();
+}
 Done writeSwitchesFile(const QString& folder, const SearchSwitches& switches) {
     return writeFile(QDir(folder).filePath(u"Application.ini"_s),
                      u"[NewsCtrlSearchView]\nShowNormalSearch=%1\nShowWarningSearch=%2\n"_s

@@ -24,6 +24,9 @@ struct CategoryName {
 // '-'.
 Done writeCategoryFile(const QString& folder, const std::vector<CategoryName>& categories);
 
+// Whether the file has room for all of them.
+bool categoryFileHoldsAll(const std::vector<CategoryName>& categories);
+
 // Writes "Application.ini": which search modes have a tab.
 Done writeSwitchesFile(const QString& folder, const SearchSwitches& switches);
 

@@ -29,7 +29,7 @@ TEST(JsonRpcTest, LinesThatAreNoRequestAreRefusedByTheirKind) {
         {R"({"id":"a","method":"x"})", -32600, R"("a")"},
         {R"({"jsonrpc":"2.0","id":2})", -32600, "2"},
         {R"({"jsonrpc":"2.0","id":3,"method":4})", -32600, "3"},
-        {R"({"jsonrpc":"2.0","id":5,"method":"x","params":[1]})", -32602, "5"},
+        {R"({"jsonrpc":"2.0","id":5,"method":"x","params":1})", -32602, "5"},
         {R"({"jsonrpc":"2.0","id":6,"method":"x","params":null})", -32602, "6"},
     };
     for (const BadLine& bad : lines) {

@@ -48,6 +48,9 @@ protected:
             return Answer();
         });
         table.add(u"state"_s, [this](Params&) { return QJsonObject{{u"open"_s, open}}; });
+        table.addWithList(u"list"_s, u"items"_s, [](Params& params) {
+            return QJsonObject{{u"size"_s, params.value(u"items"_s).toArray().size()}};
+        });
         table.add(u"end"_s, [this](Params&) {
             dialog.quit();
             return Answer();
@@ -92,6 +95,15 @@ TEST_F(RequestQueueTest, AnErrorBeforeTheDialogOpensIsTheAnswer) {
     channel.type(request(1, "dialog") + request(2, "now"));
     waitForAnswers(2);
     EXPECT_TRUE(channel.answers[0].contains("-32602")) << channel.answers[0].toStdString();
+}
+
+TEST_F(RequestQueueTest, OnlyAMethodThatTakesAListGetsOne) {
+    channel.type(
+        "{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"list\",\"params\":[1,2]}\n"
+        "{\"jsonrpc\":\"2.0\",\"id\":2,\"method\":\"now\",\"params\":[1,2]}\n");
+    waitForAnswers(2);
+    EXPECT_TRUE(channel.answers[0].contains("{\"size\":2}")) << channel.answers[0].toStdString();
+    EXPECT_TRUE(channel.answers[1].contains("-32602")) << channel.answers[1].toStdString();
 }
 
 TEST_F(RequestQueueTest, ANotificationIsCarriedOutAndNotAnswered) {

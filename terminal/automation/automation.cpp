@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/automation/automation.h"
+
+#include "terminal/automation/standard_channel.h"
+
+#include <QCoreApplication>
+
+namespace wirepane {
+
+Automation::Automation(Session& session)
+    : views(session),
+      grids(session),
+      controls(session),
+      feed(session),
+      host(session),
+      app(session),
+      queue(table) {
+    views.addTo(table);
+    grids.addTo(table);
+    controls.addTo(table);
+    feed.addTo(table);
+    host.addTo(table);
+    app.addTo(table);
+}
+
+void Automation::serve(StandardChannel& channel) {
+    queue.listenTo(&channel);
+    connect(&channel, &LineChannel::ended, this, &Automation::endWhenIdle);
+}
+
+void Automation::endWhenIdle() {
+    if (queue.isIdle())
+        QCoreApplication::exit(0);
+    else
+        connect(&queue, &RequestQueue::becameIdle, qApp, [] { QCoreApplication::exit(0); });
+}
+
+Done Automation::listen(const QString& socketName) {
+    connect(&sockets, &SocketServer::connected, &queue, &RequestQueue::listenTo);
+    return sockets.listen(socketName);
+}
+
+}  // namespace wirepane

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/automation/user_input.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPointer>
+#include <QTabBar>
+
+namespace wirepane {
+
+namespace {
+
+void pressKey(const QPointer<QWidget>& target, Qt::Key key) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(target, &press);
+    if (target.isNull())
+        return;
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
+    QApplication::sendEvent(target, &release);
+}
+
+void click(const QPointer<QWidget>& target, const QPoint& point) {
+    const QPointF local(point);
+    const QPointF global = target->mapToGlobal(local);
+    QMouseEvent press(QEvent::MouseButtonPress, local, global, Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(target, &press);
+    if (target.isNull())
+        return;
+    QMouseEvent release(QEvent::MouseButtonRelease, local, global, Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QApplication::sendEvent(target, &release);
+}
+
+}  // namespace
+
+void chooseComboEntry(QComboBox& combo, int entry) {
+    combo.setFocus();
+    combo.showPopup();
+    combo.view()->setCurrentIndex(combo.model()->index(entry, combo.modelColumn(), combo.rootModelIndex()));
+    pressKey(combo.view(), Qt::Key_Return);
+}
+
+void clickTab(QTabBar& tabs, int tab) {
+    if (!tabs.rect().contains(tabs.tabRect(tab).center())) {
+        // Too narrow for all tabs: the keyboard reaches those that the mouse does not.
+        tabs.setFocus();
+        const int steps = tab - tabs.currentIndex();
+        const QPointer<QWidget> target(&tabs);
+        for (int i = 0; i < std::abs(steps) && target; ++i)
+            pressKey(target, steps > 0 ? Qt::Key_Right : Qt::Key_Left);
+        return;
+    }
+    click(&tabs, tabs.tabRect(tab).center());
+}
+
+void typeText(QLineEdit& edit, const QString& text) {
+    edit.setFocus();
+    edit.selectAll();
+    // Both count as the user's doing and are notified as such.
+    if (text.isEmpty())
+        edit.del();
+    else
+        edit.insert(text);
+}
+
+void setChecked(QAbstractButton& button, bool checked) {
+    if (button.isChecked() != checked)
+        button.click();
+}
+
+}  // namespace wirepane

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/automation/view_lookup.h"
+
+#include "host/controls/window_id.h"
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+constexpr int lastList = 6;
+}
+
+OpenView* viewOf(Params& params, Workspace& workspace) {
+    const auto number = params.optionalNumber(u"view"_s);
+    if (params.error())
+        return nullptr;
+    OpenView* view = number ? workspace.find(static_cast<int>(*number)) : workspace.newest();
+    if (view == nullptr)
+        params.fail(number ? u"there is no view %1"_s.arg(*number) : u"no view is open"_s, RpcCode::NotFound);
+    return view;
+}
+
+CSuperSheetWnd* sheetOf(Params& params, const OpenView& view) {
+    const auto list = static_cast<int>(params.number(u"list"_s, 0, lastList));
+    if (params.error())
+        return nullptr;
+    CSuperSheetWnd* sheet = view.access->Sheet(list);
+    if (sheet == nullptr)
+        params.fail(u"view %1 has no grid for list %2"_s.arg(view.number).arg(list), RpcCode::NotFound);
+    return sheet;
+}
+
+QWidget* controlOf(Params& params, const OpenView& view) {
+    const auto id = static_cast<int>(params.number(u"id"_s, 1));
+    if (params.error())
+        return nullptr;
+    QWidget* control = GetDlgItem(view.view, id);
+    if (control == nullptr)
+        params.fail(u"view %1 has no control %2"_s.arg(view.number).arg(id), RpcCode::NotFound);
+    return control;
+}
+
+}  // namespace wirepane

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/automation/view_methods.h"
+
+#include "terminal/automation/view_lookup.h"
+#include "terminal/automation/window_report.h"
+#include "terminal/session/session.h"
+#include "terminal/settings/layout_store.h"
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr QSize ordinaryViewSize(1000, 700);
+constexpr int lastNewsType = 3;
+
+std::unique_ptr<MemoryCfgIO> settingsFrom(Params& params) {
+    auto settings = std::make_unique<MemoryCfgIO>();
+    const QJsonObject given = params.optionalObject(u"settings"_s);
+    for (auto setting = given.begin(); setting != given.end(); ++setting) {
+        const QVariant value = settingFromJson(setting.value());
+        if (!value.isValid())
+            params.fail(u"the setting \"%1\" must be a boolean, a number, a text or a list of texts"_s.arg(
+                setting.key()));
+        settings->values.insert(setting.key(), value);
+    }
+    if (const auto mask = params.optionalNumber(u"mask"_s))
+        settings->values.insert(u"EnabledFunctions"_s, static_cast<int>(*mask));
+    return settings;
+}
+
+}  // namespace
+
+void ViewMethods::addTo(MethodTable& table) {
+    table.add(u"view.open"_s, [this](Params& params) { return open(params); });
+    table.add(u"view.close"_s, [this](Params& params) { return close(params); });
+    table.add(u"view.resize"_s, [this](Params& params) { return resize(params); });
+    table.add(u"view.state"_s, [this](Params& params) { return state(params); });
+    table.addModal(u"view.command"_s, [this](Params& params) { return command(params); });
+}
+
+Answer ViewMethods::open(Params& params) {
+    ViewRequest request;
+    request.size = params.optionalSize(u"size"_s).value_or(ordinaryViewSize);
+    request.newsType = static_cast<int>(params.optionalNumber(u"newsType"_s, 0, lastNewsType).value_or(0));
+    request.typeName = params.optionalText(u"typeName"_s).value_or(QString());
+    request.section = params.optionalText(u"section"_s).value_or(request.section);
+    request.ownSettings = settingsFrom(params);
+    if (params.error())
+        return {};
+    const auto opened = session.openView(std::move(request));
+    if (!opened)
+        return RpcError{RpcCode::Refused, opened.error()};
+    return QJsonObject{{u"view"_s, opened.value()->number}};
+}
+
+Answer ViewMethods::close(Params& params) {
+    const OpenView* view = viewOf(params, session.workspace());
+    const bool save = params.optionalBool(u"save"_s).value_or(false);
+    if (view == nullptr || params.error())
+        return {};
+    if (save)
+        session.workspace().save(*view);
+    QJsonObject stored;
+    if (view->ownSettings) {
+        const auto& values = view->ownSettings->values;
+        for (auto value = values.begin(); value != values.end(); ++value)
+            stored.insert(value.key(), settingToJson(value.value()));
+    }
+    session.workspace().close(view->number);
+    return QJsonObject{{u"settings"_s, stored}};
+}
+
+Answer ViewMethods::resize(Params& params) {
+    const OpenView* view = viewOf(params, session.workspace());
+    const QSize size = params.size(u"size"_s);
+    if (view != nullptr && !params.error())
+        session.workspace().resize(*view, size);
+    return {};
+}
+
+Answer ViewMethods::state(Params& params) {
+    const OpenView* view = viewOf(params, session.workspace());
+    return view != nullptr ? Answer(viewReport(*view)) : Answer();
+}
+
+Answer ViewMethods::command(Params& params) {
+    const OpenView* view = viewOf(params, session.workspace());
+    const auto id = static_cast<int>(params.number(u"id"_s));
+    if (view == nullptr || params.error())
+        return {};
+    const int number = view->number;
+    if (!view->view->OnCommand(id))
+        return RpcError{RpcCode::NotFound, u"view %1 has no command %2"_s.arg(number).arg(id)};
+    return {};
+}
+
+}  // namespace wirepane

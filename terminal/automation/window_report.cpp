@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/automation/window_report.h"
+
+#include "host/controls/plain_caption.h"
+#include "host/controls/super_sheet_wnd.h"
+#include "host/controls/window_id.h"
+#include "terminal/frame/workspace.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QTextEdit>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int listCount = 7;
+
+QJsonObject comboReport(const QComboBox& combo) {
+    QJsonArray items;
+    for (int i = 0; i < combo.count(); ++i)
+        items.append(combo.itemText(i));
+    return {{u"text"_s, combo.currentText()}, {u"items"_s, items}, {u"index"_s, combo.currentIndex()}};
+}
+
+QJsonObject tabsReport(const QTabBar& tabs) {
+    QJsonArray items;
+    for (int i = 0; i < tabs.count(); ++i)
+        items.append(NameOfCaption(tabs.tabText(i)));
+    return {{u"text"_s, NameOfCaption(tabs.tabText(tabs.currentIndex()))},
+            {u"items"_s, items},
+            {u"index"_s, tabs.currentIndex()}};
+}
+
+QJsonObject buttonReport(const QAbstractButton& button) {
+    return {{u"text"_s, NameOfCaption(button.text())}, {u"checked"_s, button.isChecked()}};
+}
+
+// What a control shows, by its kind.
+QJsonObject contentReport(const QWidget& control) {
+    if (const auto* combo = qobject_cast<const QComboBox*>(&control))
+        return comboReport(*combo);
+    if (const auto* tabs = qobject_cast<const QTabBar*>(&control))
+        return tabsReport(*tabs);
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&control))
+        return buttonReport(*button);
+    if (const auto* edit = qobject_cast<const QLineEdit*>(&control))
+        return {{u"text"_s, edit->text()}};
+    if (const auto* date = qobject_cast<const QDateTimeEdit*>(&control))
+        return {{u"text"_s, date->text()}};
+    if (const auto* label = qobject_cast<const QLabel*>(&control))
+        return {{u"text"_s, label->text()}};
+    if (const auto* text = qobject_cast<const QTextEdit*>(&control))
+        return {{u"text"_s, text->toPlainText()}};
+    return {};
+}
+
+QJsonObject controlReport(const QWidget& window, const QWidget& control) {
+    QJsonObject report{{u"id"_s, WindowId(&control)},
+                       {u"class"_s, QString::fromLatin1(control.metaObject()->className())},
+                       {u"text"_s, QString()},
+                       {u"visible"_s, control.isVisibleTo(&window)},
+                       {u"enabled"_s, control.isEnabledTo(&window)},
+                       {u"rect"_s, rectangleReport(control.geometry())}};
+    const QJsonObject content = contentReport(control);
+    for (auto part = content.begin(); part != content.end(); ++part)
+        report.insert(part.key(), part.value());
+    return report;
+}
+
+QJsonArray gridsReport(const OpenView& view) {
+    QJsonArray grids;
+    for (int list = 0; list < listCount; ++list) {
+        const CSuperSheetWnd* sheet = view.access->Sheet(list);
+        if (sheet == nullptr)
+            continue;
+        const QRect place(sheet->mapTo(view.view, QPoint(0, 0)), sheet->size());
+        grids.append(QJsonObject{{u"list"_s, list},
+                                 {u"visible"_s, sheet->isVisibleTo(view.view)},
+                                 {u"rect"_s, rectangleReport(place)},
+                                 {u"rows"_s, sheet->iGetRowCount()}});
+    }
+    return grids;
+}
+
+}  // namespace
+
+QJsonArray rectangleReport(const QRect& rectangle) {
+    return {rectangle.x(), rectangle.y(), rectangle.width(), rectangle.height()};
+}
+
+QJsonArray controlsReport(const QWidget& window) {
+    QList<const QWidget*> controls;
+    const auto children = window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    std::copy_if(children.begin(), children.end(), std::back_inserter(controls),
+                 [](const QWidget* child) { return !child->isWindow() && WindowId(child) != 0; });
+    std::sort(controls.begin(), controls.end(),
+              [](const QWidget* a, const QWidget* b) { return WindowId(a) < WindowId(b); });
+    QJsonArray report;
+    for (const QWidget* control : controls)
+        report.append(controlReport(window, *control));
+    return report;
+}
+
+QJsonObject viewReport(const OpenView& view) {
+    QString caption;
+    view.view->GetCaption(caption);
+    QJsonArray timers;
+    for (const int id : view.view->RunningTimers())
+        timers.append(id);
+    QJsonObject report{{u"view"_s, view.number},
+                       {u"title"_s, caption},
+                       {u"dataState"_s, static_cast<int>(view.view->GetDataState())},
+                       {u"linkGroup"_s, view.view->GetLinkGroup()},
+                       {u"size"_s, QJsonArray{view.view->width(), view.view->height()}},
+                       {u"timers"_s, timers},
+                       {u"controls"_s, controlsReport(*view.view)},
+                       {u"grids"_s, gridsReport(view)}};
+    const QJsonObject own = QJsonObject::fromVariantMap(view.access->State());
+    for (auto part = own.begin(); part != own.end(); ++part)
+        report.insert(part.key(), part.value());
+    return report;
+}
+
+}  // namespace wirepane

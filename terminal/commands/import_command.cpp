@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/commands/import_command.h"
+
+#include "backend/import/import_job.h"
+#include "backend/store/store_writer.h"
+#include "terminal/commands/command_arguments.h"
+#include "terminal/commands/console.h"
+#include "terminal/commands/exit_status.h"
+#include "terminal/commands/interrupt.h"
+#include "terminal/session/store_opening.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr qint64 silentMs = 500;  // a shorter import shows no progress
+constexpr int lastService = 255;
+
+QString rejectionLine(const ImportRejection& rejected) {
+    const QString place = rejected.rejection.place.isEmpty() ? QString() : u": "_s + rejected.rejection.place;
+    return QDir::toNativeSeparators(rejected.file) + place + u": "_s + rejected.rejection.reason;
+}
+
+QString progressLine(const ImportProgress& progress) {
+    const qint64 percent = progress.bytesTotal > 0 ? progress.bytesDone * 100 / progress.bytesTotal : 0;
+    return u"%1 % – %2 items – %3"_s.arg(qMin<qint64>(percent, 100))
+        .arg(progress.items)
+        .arg(QDir::toNativeSeparators(progress.file));
+}
+
+int reportEnd(const ImportReport& report) {
+    clearPassing();
+    printLine(u"%1 taken in, %2 already there, %3 rejected"_s.arg(report.totals.takenIn)
+                  .arg(report.totals.alreadyThere)
+                  .arg(report.totals.rejected));
+    if (report.filesRejected > 0)
+        printNote(u"%1 of %2 files could not be read."_s.arg(report.filesRejected)
+                      .arg(report.filesRead + report.filesRejected));
+    if (report.nothingRecent())
+        printNote(
+            u"None of this news lies within the last 255 days: to see it, start the terminal with --now "
+            "and a moment of that time."_s);
+    if (report.failure)
+        printNote(*report.failure);
+    if (report.stopped)
+        printNote(u"Stopped. The files taken in so far are kept; the same command goes on with the rest."_s);
+    return importExitStatus(report);
+}
+
+}  // namespace
+
+int runImport() {
+    CommandArguments arguments(u"import"_s,
+                               u"Takes news into the store: ninjs (JSON, one document, a list or "
+                               "JSON lines), RSS, Atom, and CSV tables of symbols and "
+                               "categories. Each file is taken in as a whole."_s);
+    arguments.parser.addPositionalArgument(u"file"_s, u"A file to take in."_s, u"file..."_s);
+    arguments.parser.addOption(
+        {u"service"_s, u"The id of the news service that the news belongs to. Default: 1"_s, u"id"_s});
+    if (const auto status = arguments.read())
+        return *status;
+    ReadOptions options;
+    options.service = static_cast<unsigned char>(arguments.number(u"service"_s, 1, 1, lastService));
+    arguments.applyNow();
+    if (arguments.rest().isEmpty())
+        arguments.fail(u"import needs a file."_s);
+    if (const auto status = arguments.fault())
+        return *status;
+
+    const auto store = openOrMakeStore(arguments.storeFile());
+    if (!store) {
+        printNote(store.error());
+        return exitUnusable;
+    }
+    StoreWriter writer(*store.value());
+    ImportJob job(arguments.rest(), writer, options);
+    job.onRejection([](const ImportRejection& rejected) { printNote(rejectionLine(rejected)); });
+    QElapsedTimer started;
+    started.start();
+    job.onProgress([&started](const ImportProgress& progress) {
+        if (started.elapsed() > silentMs)
+            printPassing(progressLine(progress));
+    });
+    const OnInterrupt stopping([&job] { job.stop(); });
+    return reportEnd(job.run());
+}
+
+}  // namespace wirepane

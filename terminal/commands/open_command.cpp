@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/commands/open_command.h"
+
+#include "terminal/automation/automation.h"
+#include "terminal/automation/standard_channel.h"
+#include "terminal/commands/command_arguments.h"
+#include "terminal/commands/console.h"
+#include "terminal/commands/exit_status.h"
+#include "terminal/session/frame_commands.h"
+#include "terminal/session/session.h"
+#include "terminal/tour/tour.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <algorithm>
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+bool hasDisplay() {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
+}
+
+void addOptions(QCommandLineParser& parser) {
+    parser.addOptions({
+        {u"config"_s, u"The folder of settings and layout. Default: %1"_s.arg(defaultConfigFolder()),
+         u"folder"_s},
+        {u"lang"_s, u"The language: %1."_s.arg(Languages::codes().join(u", "_s)), u"code"_s},
+        {u"sample"_s, u"Fills a store without news with the sample wire."_s},
+        {u"offscreen"_s, u"Draws all windows off screen."_s},
+        {u"automation"_s, u"Is driven by JSON-RPC on standard input and output."_s},
+        {u"automation-socket"_s, u"Is driven by JSON-RPC on a local socket."_s, u"name"_s},
+        {u"tour"_s, u"Shows itself off screen on the sample wire and writes pictures into the folder."_s,
+         u"folder"_s},
+    });
+}
+
+OpenOptions openOptions(CommandArguments& arguments) {
+    const QCommandLineParser& parser = arguments.parser;
+    OpenOptions options;
+    options.automation = parser.isSet(u"automation"_s);
+    options.automationSocket = parser.value(u"automation-socket"_s);
+    options.tour = parser.isSet(u"tour"_s) || (!hasDisplay() && !options.isScripted());
+    options.tourFolder = parser.isSet(u"tour"_s) ? parser.value(u"tour"_s) : u"out"_s;
+    // The tour touches nothing of the user's unless he names it.
+    options.storeFile = options.tour && !parser.isSet(u"store"_s) ? QString() : arguments.storeFile();
+    options.configFolder = parser.value(u"config"_s);
+    if (options.configFolder.isEmpty() && !options.tour)
+        options.configFolder = defaultConfigFolder();
+    options.language = parser.value(u"lang"_s);
+    options.sample = parser.isSet(u"sample"_s);
+    if (!options.language.isEmpty() && !Languages::codes().contains(options.language))
+        arguments.fail(u"--lang takes one of %1."_s.arg(Languages::codes().join(u", "_s)));
+    if (!arguments.rest().isEmpty())
+        arguments.fail(u"There is no command \"%1\" here; a command is the first argument."_s.arg(
+            arguments.rest().constFirst()));
+    arguments.applyNow();
+    return options;
+}
+
+// The user's terminal. Without a store of their own, users start with the sample wire.
+int runForUser(Session& session) {
+    const FrameCommands commands(session);
+    MainFrame& frame = session.frame();
+    if (!frame.restoreGeometry(session.settings().frameGeometry()))
+        frame.resize(frame.sizeHint());
+    frame.show();
+    if (const Done opened = session.openUserView(); !opened) {
+        QMessageBox::critical(&frame, QApplication::applicationName(), opened.error());
+        return exitUnusable;
+    }
+    return QApplication::exec();
+}
+
+int runForScripts(Session& session, const OpenOptions& options, StandardChannel* channel) {
+    Automation automation(session);
+    if (channel != nullptr)
+        automation.serve(*channel);
+    if (!options.automationSocket.isEmpty()) {
+        if (const Done listening = automation.listen(options.automationSocket); !listening) {
+            printNote(listening.error());
+            return exitUnusable;
+        }
+    }
+    session.frame().show();
+    return QApplication::exec();
+}
+
+int runOpened(const OpenOptions& options, StandardChannel* channel) {
+    const bool sample = options.sample || !options.isScripted();
+    const auto session = Session::open({options.storeFile, options.configFolder, options.language, sample});
+    if (!session) {
+        printNote(session.error());
+        return exitUnusable;
+    }
+    if (!session.value()->settingsMessage().isEmpty())
+        printNote(session.value()->settingsMessage());
+    return options.isScripted() ? runForScripts(*session.value(), options, channel)
+                                : runForUser(*session.value());
+}
+
+}  // namespace
+
+bool wantsOffscreen(int argc, const char* const* argv) {
+    const auto given = [&](const char* option) {
+        return std::any_of(argv + 1, argv + argc, [option](const char* argument) {
+            const std::size_t length = std::strlen(option);
+            return std::strncmp(argument, option, length) == 0 &&
+                   (argument[length] == '\0' || argument[length] == '=');
+        });
+    };
+    return given("--offscreen") || given("--tour") || !hasDisplay();
+}
+
+int runTerminal() {
+    CommandArguments arguments(
+        QString(), u"A news terminal. Commands, given as the first argument: import, sample, check."_s);
+    addOptions(arguments.parser);
+    if (const auto status = arguments.read())
+        return *status;
+    OpenOptions options = openOptions(arguments);
+    if (const auto status = arguments.fault())
+        return *status;
+    if (options.tour)
+        return runTour(options);
+    // Before anything else can print.
+    const std::unique_ptr<StandardChannel> channel =
+        options.automation ? std::make_unique<StandardChannel>() : nullptr;
+    return runOpened(options, channel.get());
+}
+
+}  // namespace wirepane

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/program.h"
+
+#include "terminal/commands/check_command.h"
+#include "terminal/commands/import_command.h"
+#include "terminal/commands/open_command.h"
+#include "terminal/commands/sample_command.h"
+
+#include <QApplication>
+
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+struct Command {
+    const char* name;
+    int (*run)();
+};
+
+constexpr Command commands[] = {
+    {"import", &runImport},
+    {"sample", &runSample},
+    {"check", &runCheck},
+};
+
+void nameApplication() {
+    QCoreApplication::setApplicationName(u"wirepane"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(WIREPANE_VERSION));
+}
+
+}  // namespace
+
+int runProgram(int argc, char** argv) {
+    for (const Command& command : commands) {
+        if (argc > 1 && std::strcmp(argv[1], command.name) == 0) {
+            const QCoreApplication application(argc, argv);
+            nameApplication();
+            return command.run();
+        }
+    }
+    if (wantsOffscreen(argc, argv) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    nameApplication();
+    return runTerminal();
+}
+
+}  // namespace wirepane

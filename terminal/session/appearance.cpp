@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/session/appearance.h"
+
+#include "terminal/frame/workspace.h"
+#include "terminal/settings/terminal_settings.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+Appearance::Appearance(TerminalSettings& terminalSettings, Workspace& openViews)
+    : settings(terminalSettings), workspace(openViews) {}
+
+void Appearance::apply() {
+    // The one style that draws every part in the palette's colours on every platform.
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setPalette(schemePalette(settings.scheme()));
+    QApplication::setFont(settings.SYS_fntGetViewFont());
+    tellViews();
+}
+
+void Appearance::setScheme(ColourScheme scheme) {
+    settings.setScheme(scheme);
+    QApplication::setPalette(schemePalette(scheme));
+    tellViews();
+}
+
+void Appearance::setFontSize(int points) {
+    settings.setFontSize(points);
+    QApplication::setFont(settings.SYS_fntGetViewFont());
+    tellViews();
+}
+
+void Appearance::tellViews() {
+    for (const auto& open : workspace.views())
+        open->view->vChangeCast();
+}
+
+}  // namespace wirepane

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "terminal/settings/colour_scheme.h"
+
+namespace wirepane {
+
+class TerminalSettings;
+class Workspace;
+
+// Brings scheme and font to the application's windows and to the views that are open.
+class Appearance {
+public:
+    // Neither is owned.
+    Appearance(TerminalSettings& settings, Workspace& workspace);
+
+    // Takes what the settings say; once at start.
+    void apply();
+    void setScheme(ColourScheme scheme);
+    // Points, cut to what the settings allow.
+    void setFontSize(int points);
+
+private:
+    void tellViews();
+
+    TerminalSettings& settings;
+    Workspace& workspace;
+};
+
+}  // namespace wirepane

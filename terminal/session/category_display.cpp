@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/session/category_display.h"
+
+#include "backend/store/embedded_back_end.h"
+#include "backend/store/statement.h"
+
+#include <algorithm>
+#include <chrono>
+#include <map>
+
+namespace wirepane {
+
+namespace {
+
+constexpr unsigned char warrantService = 52;
+constexpr std::chrono::milliseconds busyTimeout{1000};
+
+// How many headlines have each category. Empty when that cannot be read: the order is a matter of taste then.
+std::map<std::int32_t, std::int64_t> categoryUse(const QString& storeFile) {
+    std::map<std::int32_t, std::int64_t> use;
+    const auto database = Database::open(storeFile, Database::Mode::Read, busyTimeout);
+    if (!database)
+        return use;
+    Statement count(*database.value(),
+                    "SELECT category, count(*) FROM headlines WHERE service <> 52 GROUP BY category");
+    Query rows(count);
+    while (rows.next())
+        use[rows.smallNumber(0)] = rows.number(1);
+    return use;
+}
+
+void putMostUsedFirst(std::vector<CategoryName>& categories, const QString& storeFile) {
+    auto use = categoryUse(storeFile);
+    std::stable_sort(categories.begin(), categories.end(),
+                     [&use](const CategoryName& a, const CategoryName& b) { return use[a.id] > use[b.id]; });
+}
+
+}  // namespace
+
+CategoryDisplay::CategoryDisplay(EmbeddedBackEnd& embedded) : backEnd(embedded) {}
+
+void CategoryDisplay::GetNewsCatColor(int categoryId, QColor& text, QColor& background) {
+    text = backEnd.categoryColour(categoryId);
+    background = QColor();
+}
+
+std::vector<CategoryName> categoryNames(EmbeddedBackEnd& backEnd) {
+    std::vector<unsigned char> services;
+    backEnd.BKQNEWS_bGetAllNewsService(services);
+    std::map<std::int32_t, QString> found;
+    for (const unsigned char service : services) {
+        std::vector<QString> ids;
+        std::vector<QString> names;
+        if (service == warrantService || !backEnd.bNewsAPI_GetNewsCatId(service, ids, names))
+            continue;
+        for (std::size_t i = 0; i < ids.size(); ++i)
+            found.emplace(ids[i].toInt(), names[i]);
+    }
+    std::vector<CategoryName> result;
+    result.reserve(found.size());
+    for (const auto& [id, name] : found)
+        result.push_back({id, name});
+    // Counting reads the whole store: only where something must be left out.
+    if (!categoryFileHoldsAll(result))
+        putMostUsedFirst(result, backEnd.storePath());
+    return result;
+}
+
+}  // namespace wirepane

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/session/module_location.h"
+
+#include "host/views/news_module.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+const QString moduleFile = QStringLiteral(WIREPANE_MODULE_FILE);
+
+}  // namespace
+
+Result<NewsModule*> loadModule() {
+    const QDir programFolder(QCoreApplication::applicationDirPath());
+    for (const QString& folder : {u"."_s, u"../lib/wirepane"_s}) {
+        const QString file = QDir::cleanPath(programFolder.filePath(folder + u'/' + moduleFile));
+        if (!QFileInfo::exists(file))
+            continue;
+        QString error;
+        if (NewsModule* module = LoadNewsModule(file, error))
+            return module;
+        return Error{error};
+    }
+    return Error{u"The news module %1 was found neither in %2 nor in %3."_s.arg(
+        moduleFile, programFolder.path(), QDir::cleanPath(programFolder.filePath(u"../lib/wirepane"_s)))};
+}
+
+}  // namespace wirepane

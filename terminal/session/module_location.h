@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/result.h"
+
+class NewsModule;
+
+namespace wirepane {
+
+// Loads the news module: the file beside the program, else the one in "../lib/wirepane".
+Result<NewsModule*> loadModule();
+
+}  // namespace wirepane

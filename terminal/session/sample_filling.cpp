@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/session/sample_filling.h"
+
+#include "backend/store/store_writer.h"
+
+#include <optional>
+#include <utility>
+#include <variant>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr std::int64_t progressEvery = 1000;  // items
+
+// The wire numbers its categories for itself; the store may know their names under numbers of its own.
+StoreItem withStoreCategories(StoreItem&& item) {
+    if (auto* news = std::get_if<NewsItem>(&item))
+        news->categoryId.reset();
+    return std::move(item);
+}
+
+// Takes items into a store, and counts.
+class Filling {
+public:
+    explicit Filling(Database& store) : writer(store) {}
+
+    Done begin() { return writer.begin(); }
+    Done commit() { return writer.commit(); }
+    void rollback() { writer.rollback(); }
+
+    Done take(const StoreItem& item) {
+        const auto outcome = writer.take(item);
+        if (!outcome)
+            return Error{outcome.error()};
+        const bool named = std::holds_alternative<CategoryItem>(item);
+        if (outcome.value().take == Take::Rejected && !named)
+            return Error{u"The sample wire does not fit into this store: %1"_s.arg(outcome.value().reason)};
+        ++(outcome.value().take == Take::TakenIn ? totals.takenIn : totals.alreadyThere);
+        return Nothing{};
+    }
+
+    SampleTotals totals;
+
+private:
+    StoreWriter writer;
+};
+
+}  // namespace
+
+Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& options,
+                                    const std::function<bool(std::int64_t)>& progress) {
+    Filling filling(store);
+    if (const Done begun = filling.begin(); !begun)
+        return Error{begun.error()};
+    std::int64_t seen = 0;
+    std::optional<Error> failure;
+    const bool whole = SampleWire(options).run([&](StoreItem&& item) {
+        const Done taken = filling.take(withStoreCategories(std::move(item)));
+        if (!taken)
+            failure = Error{taken.error()};
+        return !failure && (++seen % progressEvery != 0 || !progress || progress(seen));
+    });
+    if (!whole) {
+        filling.rollback();
+        return failure.value_or(Error{u"Stopped; nothing of the sample was kept."_s});
+    }
+    if (const Done committed = filling.commit(); !committed)
+        return Error{committed.error()};
+    return filling.totals;
+}
+
+}  // namespace wirepane

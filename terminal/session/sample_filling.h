@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/result.h"
+#include "backend/sample/sample_wire.h"
+
+#include <functional>
+
+namespace wirepane {
+
+class Database;
+
+struct SampleTotals {
+    std::int64_t takenIn = 0;
+    std::int64_t alreadyThere = 0;
+};
+
+// Takes a sample wire into an open store, all of it or nothing. `progress` hears how many items have been
+// seen, now and then; its false stops the taking in, of which nothing stays then.
+Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& options,
+                                    const std::function<bool(std::int64_t items)>& progress = {});
+
+}  // namespace wirepane

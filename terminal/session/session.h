@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/result.h"
+#include "backend/store/embedded_back_end.h"
+#include "terminal/frame/main_frame.h"
+#include "terminal/frame/workspace.h"
+#include "terminal/session/appearance.h"
+#include "terminal/session/category_display.h"
+#include "terminal/settings/layout_store.h"
+#include "terminal/settings/settings_file.h"
+#include "terminal/settings/terminal_settings.h"
+#include "terminal/translations/languages.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace wirepane {
+
+struct SessionOptions {
+    QString storeFile;           // made when absent
+    QString configFolder;        // made when absent
+    QString language;            // empty: as set before, or as the system is set
+    bool sampleWhenNew = false;  // a store without headlines is filled with the sample wire
+};
+
+// One running terminal: the store behind its back end, the settings, the news module and the main frame, and
+// what menus and scripts do to all of them. It installs the back end and the settings for the process; there
+// is one session at a time.
+class Session : public QObject {
+    Q_OBJECT
+
+public:
+    // Fails when the store, the settings folder or the module cannot be used.
+    static Result<std::unique_ptr<Session>> open(const SessionOptions& options);
+    ~Session() override;
+
+    EmbeddedBackEnd& backEnd() { return *store; }
+    TerminalSettings& settings() { return *terminalSettings; }
+    Workspace& workspace() { return *openViews; }
+    MainFrame& frame() { return *mainFrame; }
+    Appearance& appearance() { return *look; }
+    // What was wrong with the settings file, in a sentence; empty when nothing was.
+    const QString& settingsMessage() const { return settingsFile.message(); }
+
+    // Opens a view, with the module's files as they must stand at this moment.
+    Result<OpenView*> openView(ViewRequest request);
+    // Opens the user's view with the settings that the last one was closed with.
+    Done openUserView();
+    // Takes this moment (seconds since 1970) as the present one, and opens the user's views anew.
+    Done readAsOf(std::int64_t moment);
+    // Stores what the views that keep their settings in the layout store, and the frame, are set to.
+    Done saveLayout();
+
+    void setScheme(ColourScheme scheme);
+    void setFontSize(int points);
+    // False for a language that the terminal does not have.
+    bool setLanguage(const QString& code);
+    void setConnected(bool connected);
+    // The application has become the active one, or is no longer.
+    void setActive(bool active);
+    // Brings title and status bar up to date.
+    void showStatus();
+
+private:
+    explicit Session(const SessionOptions& options);
+
+    Done start(const SessionOptions& options);
+    Done prepareModuleFiles();
+    Done openStore(const SessionOptions& options);
+
+    QString configFolder;
+    QString storeFile;
+    SettingsFile settingsFile;
+    LayoutStore layout;
+    Languages languages;
+    // In the order in which they depend on each other; destroyed from the last to the first.
+    std::unique_ptr<TerminalSettings> terminalSettings;
+    std::unique_ptr<EmbeddedBackEnd> store;
+    std::unique_ptr<CategoryDisplay> categoryDisplay;
+    std::unique_ptr<MainFrame> mainFrame;
+    std::unique_ptr<Workspace> openViews;
+    std::unique_ptr<Appearance> look;
+};
+
+}  // namespace wirepane

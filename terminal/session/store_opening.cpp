@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/session/store_opening.h"
+
+#include "backend/store/store_file.h"
+#include "host/contract/clock.h"
+#include "terminal/session/sample_filling.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+Done makeFolderOf(const QString& file) {
+    const QString folder = QFileInfo(file).absolutePath();
+    if (!QDir().mkpath(folder))
+        return Error{u"The folder %1 cannot be made."_s.arg(folder)};
+    return Nothing{};
+}
+
+Done fillWhenNew(const QString& storeFile) {
+    const auto database = openOrMakeStore(storeFile);
+    if (!database)
+        return Error{database.error()};
+    std::int64_t hasNews = 0;
+    if (!database.value()->readNumber("SELECT EXISTS(SELECT 1 FROM headlines)", hasNews))
+        return Error{database.value()->failure()};
+    if (hasNews != 0)
+        return Nothing{};
+    SampleOptions options;
+    options.now = host_clock::now();
+    const auto filled = fillWithSample(*database.value(), options);
+    return filled ? Done(Nothing{}) : Done(Error{filled.error()});
+}
+
+}  // namespace
+
+Result<std::unique_ptr<Database>> openOrMakeStore(const QString& storeFile) {
+    if (const Done folder = makeFolderOf(storeFile); !folder)
+        return Error{folder.error()};
+    return openStore(storeFile);
+}
+
+Result<std::unique_ptr<EmbeddedBackEnd>> openBackEnd(const QString& storeFile, bool sampleWhenNew) {
+    if (const Done folder = makeFolderOf(storeFile); !folder)
+        return Error{folder.error()};
+    if (sampleWhenNew) {
+        if (const Done filled = fillWhenNew(storeFile); !filled)
+            return Error{filled.error()};
+    }
+    return EmbeddedBackEnd::open(storeFile);
+}
+
+}  // namespace wirepane

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/embedded_back_end.h"
+
+#include <memory>
+
+namespace wirepane {
+
+// Opens a store for writing, which is made, with its folder, when it is absent.
+Result<std::unique_ptr<Database>> openOrMakeStore(const QString& storeFile);
+
+// Opens the back end over a store, which is made, with its folder, when it is absent. With `sampleWhenNew` a
+// store that holds no headline yet is filled with the sample wire up to the present moment.
+Result<std::unique_ptr<EmbeddedBackEnd>> openBackEnd(const QString& storeFile, bool sampleWhenNew);
+
+}  // namespace wirepane

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/tour/tour.h"
+
+#include "host/controls/window_id.h"
+#include "terminal/automation/user_input.h"
+#include "terminal/commands/console.h"
+#include "terminal/commands/exit_status.h"
+#include "terminal/commands/open_command.h"
+#include "terminal/frame/frame_picture.h"
+#include "terminal/session/session.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int tabStrip = 3100;  // the view's tabs
+constexpr int categoryTab = 1;
+constexpr int settleMs = 300;  // longer than the view's deferred refresh
+
+void settle() {
+    QEventLoop loop;
+    QTimer::singleShot(settleMs, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+class Tour {
+public:
+    Tour(Session& running, const QString& path) : session(running), folder(path) {}
+
+    Done play() {
+        if (!folder.mkpath(u"."_s))
+            return Error{u"The folder %1 cannot be made."_s.arg(folder.absolutePath())};
+        session.frame().resize(session.frame().sizeHint());
+        session.frame().show();
+        if (const Done opened = session.openUserView(); !opened)
+            return opened;
+        session.setScheme(ColourScheme::Light);
+        if (const Done taken = picture(u"1-all-news-light.png"_s); !taken)
+            return taken;
+        session.setScheme(ColourScheme::Dark);
+        if (const Done taken = picture(u"2-all-news-dark.png"_s); !taken)
+            return taken;
+        session.setScheme(ColourScheme::Light);
+        showTab(categoryTab);
+        return picture(u"3-by-category.png"_s);
+    }
+
+private:
+    void showTab(int tab) {
+        auto* tabs = qobject_cast<QTabBar*>(GetDlgItem(session.workspace().newest()->view, tabStrip));
+        if (tabs != nullptr && tab < tabs->count())
+            clickTab(*tabs, tab);
+    }
+
+    Done picture(const QString& name) {
+        settle();
+        const QString path = folder.filePath(name);
+        if (!pictureWithWindowsAbove(session.frame()).save(path))
+            return Error{u"The picture %1 cannot be written."_s.arg(path)};
+        return Nothing{};
+    }
+
+    Session& session;
+    QDir folder;
+};
+
+}  // namespace
+
+int runTour(const OpenOptions& options) {
+    const QTemporaryDir scratch;
+    const auto orScratch = [&scratch](const QString& given, const QString& name) {
+        return given.isEmpty() ? scratch.filePath(name) : given;
+    };
+    const auto session =
+        Session::open({orScratch(options.storeFile, u"tour.wirepane"_s),
+                       orScratch(options.configFolder, u"settings"_s), options.language, true});
+    const Done played = session ? Tour(*session.value(), options.tourFolder).play() : Error{session.error()};
+    if (!played) {
+        printNote(played.error());
+        return exitUnusable;
+    }
+    printNote(u"The tour's pictures are in %1."_s.arg(
+        QDir::toNativeSeparators(QDir(options.tourFolder).absolutePath())));
+    return exitDone;
+}
+
+}  // namespace wirepane

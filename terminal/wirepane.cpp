@@ -1,0 +1,7 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/program.h"
+
+int main(int argc, char** argv) {
+    return wirepane::runProgram(argc, argv);
+}

@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "tests/terminal/program/program_runner.h"
+#include "tests/terminal/program/script_client.h"
+
+#include <QDateTime>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace wirepane::test;
+
+namespace {
+
+// 09:30 local time of the tests, on a Monday.
+const QString now = u"2026-03-02T09:30:00"_s;
+
+qint64 localSeconds(const QString& moment) {
+    return QDateTime::fromString(moment, Qt::ISODate).toSecsSinceEpoch();
+}
+
+QJsonObject news(int service, const QString& moment, int sequence, const QString& title, int category = 1) {
+    return {{u"service"_s, service},      {u"time"_s, localSeconds(moment)},  {u"seq"_s, sequence},
+            {u"title"_s, title},          {u"category"_s, category},          {u"symbol"_s, u""_s},
+            {u"related"_s, QJsonArray()}, {u"story"_s, u"Text of "_s + title}};
+}
+
+class AutomationSessionTest : public testing::Test {
+protected:
+    QStringList arguments() const {
+        return {u"--store"_s,  scratch.path(u"news.wirepane"_s),
+                u"--config"_s, scratch.path(u"config"_s),
+                u"--now"_s,    now,
+                u"--lang"_s,   u"en"_s};
+    }
+
+    Scratch scratch;
+};
+
+QStringList titlesOf(const QJsonObject& grid) {
+    QStringList titles;
+    const QJsonArray cells = grid[u"cells"_s].toArray();
+    for (const QJsonValue& row : cells)
+        titles.append(row.toArray().last().toString());
+    return titles;
+}
+
+TEST_F(AutomationSessionTest, AGridShowsWhatTheFeedBrought) {
+    ScriptClient script(arguments());
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:01:00"_s, 1, u"First & <b>plain</b>"_s));
+    script.result(u"feed.push"_s, news(16, u"2026-03-02T09:15:00"_s, 1, u"台積電 公告"_s));
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:15:00"_s, 2, u"Same minute"_s));
+    script.result(u"feed.push"_s, news(1, u"2026-03-01T23:59:59"_s, 1, u"Yesterday"_s));
+
+    const QJsonObject opened =
+        script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{900, 600}}}).toObject();
+    EXPECT_EQ(opened[u"view"_s].toInt(), 1);
+    script.result(u"idle"_s);
+    const QJsonObject grid = script.result(u"grid.read"_s, QJsonObject{{u"list"_s, 0}}).toObject();
+    EXPECT_EQ(grid[u"rows"_s].toInt(), 3);
+    EXPECT_EQ(titlesOf(grid), (QStringList{u"Same minute"_s, u"台積電 公告"_s, u"First & <b>plain</b>"_s}));
+    EXPECT_EQ(grid[u"cells"_s].toArray().last().toArray().first().toString(), u"09:01"_s);
+    const QJsonObject key = grid[u"keys"_s].toArray().last().toObject();
+    EXPECT_EQ(key[u"service"_s].toInt(), 1);
+    EXPECT_EQ(key[u"seq"_s].toInt(), 1);
+    EXPECT_EQ(key[u"time"_s].toInteger(), localSeconds(u"2026-03-02T09:01:00"_s));
+}
+
+TEST_F(AutomationSessionTest, AViewTellsItsStateAndGivesItsSettingsBack) {
+    ScriptClient script(arguments());
+    const QJsonObject open{{u"size"_s, QJsonArray{801, 603}},
+                           {u"mask"_s, 3},
+                           {u"settings"_s, QJsonObject{{u"ShowCategory"_s, false}, {u"FocusedTab"_s, 1}}}};
+    const int view = script.result(u"view.open"_s, open)[u"view"_s].toInt();
+    const QJsonObject state = script.result(u"view.state"_s).toObject();
+    EXPECT_EQ(state[u"mask"_s].toInt(), 3);
+    EXPECT_EQ(state[u"mode"_s].toInt(), 1);
+    EXPECT_EQ(state[u"showCategory"_s].toBool(true), false);
+    EXPECT_EQ(state[u"title"_s].toString(), u"News"_s);
+    EXPECT_EQ(state[u"tabs"_s].toArray().size(), 2);
+    bool tabStripSeen = false;
+    for (const QJsonValue& control : state[u"controls"_s].toArray())
+        tabStripSeen = tabStripSeen || control[u"id"_s].toInt() == 3100;
+    EXPECT_TRUE(tabStripSeen);
+    const QString picture = scratch.path(u"view.png"_s);
+    const QJsonObject shot =
+        script.result(u"screenshot"_s, QJsonObject{{u"path"_s, picture}, {u"view"_s, view}}).toObject();
+    EXPECT_EQ(shot[u"size"_s].toArray(), (QJsonArray{801, 603}));
+    EXPECT_EQ(QImage(picture).size(), QSize(801, 603));
+
+    script.result(u"control.choose"_s, QJsonObject{{u"id"_s, 3100}, {u"index"_s, 0}});
+    EXPECT_EQ(script.result(u"view.state"_s)[u"mode"_s].toInt(), 0);
+    script.result(u"view.resize"_s, QJsonObject{{u"size"_s, QJsonArray{1200, 700}}});
+    const QJsonArray grids = script.result(u"view.state"_s)[u"grids"_s].toArray();
+    ASSERT_FALSE(grids.isEmpty());
+    EXPECT_GT(grids[0][u"rect"_s].toArray()[1].toInt(), 0);
+
+    const QJsonObject closed =
+        script.result(u"view.close"_s, QJsonObject{{u"view"_s, view}, {u"save"_s, true}})[u"settings"_s]
+            .toObject();
+    EXPECT_EQ(closed[u"FocusedTab"_s].toInt(-1), 0);
+    EXPECT_EQ(closed[u"ShowCategory"_s].toBool(true), false);
+    EXPECT_TRUE(closed.contains(u"Sheet0ServiceCheck1"_s));
+    EXPECT_EQ(script.errorCode(u"view.state"_s), -32001);
+}
+
+TEST_F(AutomationSessionTest, SelectionAndScrollingReachTheGrid) {
+    ScriptClient script(arguments());
+    for (int i = 0; i < 60; ++i)
+        script.result(u"feed.push"_s, news(1, u"2026-03-02T08:%1:00"_s.arg(i, 2, 10, QChar(u'0')), i + 1,
+                                           u"News %1"_s.arg(i)));
+    script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{700, 400}}, {u"mask"_s, 1}});
+    script.result(u"grid.select"_s,
+                  QJsonObject{{u"list"_s, 0}, {u"rows"_s, QJsonArray{3, 5, 4}}, {u"focus"_s, 5}});
+    script.result(u"grid.scroll"_s, QJsonObject{{u"list"_s, 0}, {u"row"_s, 20}});
+    script.result(u"idle"_s);
+    const QJsonObject grid =
+        script.result(u"grid.read"_s, QJsonObject{{u"list"_s, 0}, {u"from"_s, 20}, {u"count"_s, 3}})
+            .toObject();
+    EXPECT_EQ(grid[u"selection"_s].toArray(), (QJsonArray{3, 4, 5}));
+    EXPECT_EQ(grid[u"focus"_s].toInt(), 5);
+    EXPECT_EQ(grid[u"firstVisible"_s].toInt(), 20);
+    EXPECT_EQ(grid[u"rows"_s].toInt(), 60);
+    EXPECT_EQ(grid[u"keys"_s].toArray().size(), 3);
+    EXPECT_EQ(grid[u"keys"_s].toArray()[0][u"seq"_s].toInt(), 40);
+    EXPECT_EQ(script.errorCode(u"grid.scroll"_s, QJsonObject{{u"list"_s, 0}, {u"row"_s, 60}}), -32001);
+}
+
+TEST_F(AutomationSessionTest, RequestsThatCannotBeDoneSayWhyAndEndNothing) {
+    ScriptClient script(arguments());
+    script.result(u"view.open"_s);
+    const QList<std::tuple<QString, QJsonObject, int>> wrong{
+        {u"no.such"_s, {}, -32601},
+        {u"view.open"_s, {{u"size"_s, u"big"_s}}, -32602},
+        {u"view.open"_s, {{u"newsType"_s, 4}}, -32602},
+        {u"view.open"_s, {{u"settings"_s, QJsonObject{{u"x"_s, QJsonObject()}}}}, -32602},
+        {u"view.state"_s, {{u"view"_s, 7}}, -32001},
+        {u"view.command"_s, {{u"id"_s, 1}}, -32001},
+        {u"grid.read"_s, {{u"list"_s, 7}}, -32602},
+        {u"grid.read"_s, {}, -32602},
+        {u"grid.select"_s, {{u"list"_s, 0}, {u"rows"_s, QJsonArray{0}}}, -32001},
+        {u"control.choose"_s, {{u"id"_s, 9999}, {u"index"_s, 0}}, -32001},
+        {u"control.choose"_s, {{u"id"_s, 3100}, {u"index"_s, 99}}, -32001},
+        {u"control.choose"_s, {{u"id"_s, 3100}, {u"text"_s, u"No such tab"_s}}, -32001},
+        {u"control.choose"_s, {{u"id"_s, 3100}}, -32602},
+        {u"control.set"_s, {{u"id"_s, 3100}, {u"text"_s, u"x"_s}}, -32002},
+        {u"feed.push"_s, {{u"service"_s, 1}}, -32602},
+        {u"feed.push"_s, news(1, now, 1, u""_s), -32602},
+        {u"feed.connect"_s, {{u"on"_s, 1}}, -32602},
+        {u"host.set"_s, {{u"lang"_s, u"fr"_s}}, -32602},
+        {u"host.set"_s, {{u"fontSize"_s, 200}}, -32602},
+        {u"screenshot"_s, {{u"path"_s, u"/no/such/folder/a.png"_s}}, -32002},
+        {u"wait"_s, {{u"ms"_s, -1}}, -32602},
+    };
+    for (const auto& [method, params, code] : wrong)
+        EXPECT_EQ(script.errorCode(method, params), code) << method.toStdString();
+    script.send("not json");
+    EXPECT_EQ(script.read()[u"error"_s][u"code"_s].toInt(), -32700);
+    script.send("[]");
+    EXPECT_EQ(script.read()[u"error"_s][u"code"_s].toInt(), -32600);
+    script.send(QByteArray(17 * 1024 * 1024, 'x'));
+    EXPECT_EQ(script.read()[u"error"_s][u"code"_s].toInt(), -32600);
+    script.result(u"view.state"_s);
+    EXPECT_EQ(script.endInput(), 0);
+}
+
+TEST_F(AutomationSessionTest, TheFeedRecordsWhatViewsAskAndTellsNothingTwice) {
+    ScriptClient script(arguments());
+    script.result(u"feed.requests"_s);
+    script.result(u"view.open"_s, QJsonObject{{u"mask"_s, 1}});
+    const QJsonArray requests = script.result(u"feed.requests"_s).toArray();
+    ASSERT_FALSE(requests.isEmpty());
+    EXPECT_EQ(requests[0][u"operation"_s].toString(), u"BKQNEWS_iGetHeadlineTable"_s);
+    EXPECT_TRUE(requests[0][u"arguments"_s].toArray().contains(u"20260302"_s));
+    EXPECT_TRUE(script.result(u"feed.requests"_s).toArray().isEmpty());
+    script.result(
+        u"feed.symbols"_s,
+        QJsonArray{QJsonObject{{u"market"_s, 16}, {u"code"_s, u"6214"_s}, {u"name"_s, u"Systex"_s}}});
+}
+
+TEST_F(AutomationSessionTest, HostSettingsTakeEffectAtOnceAndSwitchesForTheNextView) {
+    ScriptClient script(arguments());
+    script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{800, 500}}});
+    script.result(u"host.set"_s, QJsonObject{{u"scheme"_s, u"dark"_s}, {u"fontSize"_s, 14}});
+    const QString dark = scratch.path(u"dark.png"_s);
+    script.result(u"screenshot"_s, QJsonObject{{u"path"_s, dark}, {u"view"_s, 1}});
+    const QImage picture(dark);
+    EXPECT_LT(QColor(picture.pixel(picture.width() / 2, picture.height() - 40)).lightness(), 80);
+
+    script.result(u"host.set"_s, QJsonObject{{u"lang"_s, u"zh-TW"_s}});
+    EXPECT_EQ(script.result(u"view.state"_s)[u"title"_s].toString(), u"新聞"_s);
+    const auto tabsOf = [&script] { return script.result(u"view.state"_s)[u"tabs"_s].toArray().size(); };
+    const auto before = tabsOf();
+    script.result(
+        u"host.set"_s,
+        QJsonObject{{u"switches"_s, QJsonObject{{u"ShowNormalSearch"_s, 0}, {u"ShowWarningSearch"_s, 1}}}});
+    EXPECT_EQ(tabsOf(), before);
+    script.result(u"view.open"_s, QJsonObject{{u"mask"_s, 0x48}});
+    const QJsonObject state = script.result(u"view.state"_s).toObject();
+    QList<int> modes;
+    for (const QJsonValue& tab : state[u"tabs"_s].toArray())
+        modes.append(tab[u"mode"_s].toInt());
+    EXPECT_EQ(modes, (QList<int>{3, 6}));
+}
+
+TEST_F(AutomationSessionTest, QuitAnswersAndEndsWithZero) {
+    ScriptClient script(arguments());
+    script.result(u"app.quit"_s);
+    EXPECT_EQ(script.endInput(), 0);
+}
+
+}  // namespace

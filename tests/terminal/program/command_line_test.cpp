@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "tests/terminal/program/program_runner.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace wirepane::test;
+
+namespace {
+
+class CommandLineTest : public testing::Test {
+protected:
+    ProgramOutcome import(const QStringList& files, const QStringList& options = {}) {
+        return runProgram(QStringList{u"import"_s, u"--store"_s, store} + options + files);
+    }
+    ProgramOutcome check() { return runProgram({u"check"_s, u"--store"_s, store}); }
+
+    Scratch scratch;
+    QString store = scratch.path(u"below/a/news.wirepane"_s);
+    QString recent = QDateTime::currentDateTimeUtc().addDays(-1).toString(Qt::ISODate);
+};
+
+TEST_F(CommandLineTest, ImportTellsWhatBecameOfEachItem) {
+    const QByteArray lines = ninjsItem(u"u:1"_s, u"One"_s, u"Body"_s, recent) + '\n' +
+                             ninjsItem(u"u:2"_s, u""_s, u""_s, recent) + '\n' +
+                             ninjsItem(u"u:3"_s, u"Three"_s, u"Body"_s, recent) + '\n';
+    const QString file = scratch.write(u"wire.jsonl"_s, lines);
+    const ProgramOutcome first = import({file});
+    EXPECT_EQ(first.status, 1);
+    EXPECT_EQ(first.out, u"2 taken in, 0 already there, 1 rejected\n"_s);
+    EXPECT_TRUE(first.err.contains(QDir::toNativeSeparators(file) + u": line 2"_s))
+        << first.err.toStdString();
+    EXPECT_FALSE(first.err.contains(u"--now"_s)) << first.err.toStdString();
+
+    const QString whole = scratch.write(u"whole.json"_s, ninjsItem(u"u:3"_s, u"Three"_s, u"Body"_s, recent));
+    const ProgramOutcome again = import({whole});
+    EXPECT_EQ(again.status, 0);
+    EXPECT_EQ(again.out, u"0 taken in, 1 already there, 0 rejected\n"_s);
+    const ProgramOutcome checked = check();
+    EXPECT_EQ(checked.status, 0) << checked.out.toStdString() << checked.err.toStdString();
+}
+
+TEST_F(CommandLineTest, ImportOfOldNewsNamesTheOptionThatShowsIt) {
+    const QString file =
+        scratch.write(u"old.json"_s, ninjsItem(u"u:1"_s, u"Old"_s, u"Body"_s, u"2015-03-02T08:00:00Z"_s));
+    const ProgramOutcome now = import({file});
+    EXPECT_EQ(now.status, 0);
+    EXPECT_TRUE(now.err.contains(u"255 days"_s) && now.err.contains(u"--now"_s)) << now.err.toStdString();
+    const ProgramOutcome then = import({file}, {u"--now"_s, u"2015-04-01T00:00:00"_s});
+    EXPECT_FALSE(then.err.contains(u"--now"_s)) << then.err.toStdString();
+}
+
+TEST_F(CommandLineTest, WhatCannotBeReadEndsWithTheUnusableStatus) {
+    const QString binary = scratch.write(u"picture.png"_s, QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16));
+    const ProgramOutcome unknown = import({binary, scratch.path(u"absent.json"_s)});
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_TRUE(unknown.err.contains(u"picture.png"_s) && unknown.err.contains(u"absent.json"_s))
+        << unknown.err.toStdString();
+    EXPECT_EQ(unknown.out, u"0 taken in, 0 already there, 0 rejected\n"_s);
+}
+
+TEST_F(CommandLineTest, AStoreThatIsNoneIsNamedAndLeftAlone) {
+    const QByteArray content(8192, 'x');
+    const QString notAStore = scratch.write(u"letter.txt"_s, content);
+    const QString file = scratch.write(u"one.json"_s, ninjsItem(u"u:1"_s, u"One"_s, u"Body"_s, recent));
+    const QString config = scratch.path(u"config"_s);
+    const QList<QStringList> commands{
+        {u"import"_s, u"--store"_s, notAStore, file},
+        {u"sample"_s, u"--store"_s, notAStore},
+        {u"check"_s, u"--store"_s, notAStore},
+        {u"--automation"_s, u"--store"_s, notAStore, u"--config"_s, config},
+        {u"--tour"_s, scratch.path(u"tour"_s), u"--store"_s, notAStore, u"--config"_s, config},
+    };
+    for (const QStringList& command : commands) {
+        const ProgramOutcome outcome = runProgram(command);
+        EXPECT_EQ(outcome.status, 2) << command.join(u' ').toStdString();
+        EXPECT_TRUE(outcome.err.contains(notAStore)) << outcome.err.toStdString();
+        EXPECT_TRUE(outcome.out.isEmpty()) << outcome.out.toStdString();
+    }
+    QFile letter(notAStore);
+    ASSERT_TRUE(letter.open(QIODevice::ReadOnly));
+    EXPECT_EQ(letter.readAll(), content);
+}
+
+TEST_F(CommandLineTest, CheckOfAnAbsentStoreMakesNone) {
+    EXPECT_EQ(check().status, 2);
+    EXPECT_FALSE(QFileInfo::exists(store));
+}
+
+TEST_F(CommandLineTest, WrongArgumentsAreSaidAndChangeNothing) {
+    const QList<std::pair<QStringList, QString>> wrong{
+        {{u"import"_s}, u"file"_s},
+        {{u"import"_s, u"--service"_s, u"0"_s, u"x"_s}, u"--service"_s},
+        {{u"import"_s, u"--service"_s, u"256"_s, u"x"_s}, u"--service"_s},
+        {{u"import"_s, u"--no-such"_s, u"x"_s}, u"no-such"_s},
+        {{u"sample"_s, u"--days"_s, u"many"_s}, u"--days"_s},
+        {{u"sample"_s, u"extra"_s}, u"extra"_s},
+        {{u"sample"_s, u"--now"_s, u"yesterday"_s}, u"yesterday"_s},
+        {{u"check"_s, u"extra"_s}, u"extra"_s},
+        {{u"--automation"_s, u"--lang"_s, u"fr"_s}, u"--lang"_s},
+        {{u"--automation"_s, u"imprt"_s}, u"imprt"_s},
+        {{u"--automation"_s, u"--now"_s, u"2026-02-30T00:00:00"_s}, u"--now"_s},
+    };
+    for (const auto& [arguments, named] : wrong) {
+        const ProgramOutcome outcome = runProgram(arguments + QStringList{u"--store"_s, store});
+        EXPECT_EQ(outcome.status, 2) << arguments.join(u' ').toStdString();
+        EXPECT_TRUE(outcome.err.contains(named)) << outcome.err.toStdString();
+        EXPECT_TRUE(outcome.out.isEmpty()) << outcome.out.toStdString();
+    }
+    EXPECT_FALSE(QFileInfo::exists(store));
+}
+
+TEST_F(CommandLineTest, HelpAndVersionGoToStandardOutput) {
+    for (const QString& command : {u"import"_s, u"sample"_s, u"check"_s, QString()}) {
+        QStringList arguments = command.isEmpty() ? QStringList() : QStringList{command};
+        const ProgramOutcome help = runProgram(arguments + QStringList{u"--help"_s});
+        EXPECT_EQ(help.status, 0);
+        EXPECT_TRUE(help.out.contains(u"--store"_s) && help.out.contains(command)) << help.out.toStdString();
+        const ProgramOutcome version = runProgram(arguments + QStringList{u"--version"_s});
+        EXPECT_EQ(version.status, 0);
+        EXPECT_TRUE(version.out.startsWith(u"wirepane "_s)) << version.out.toStdString();
+    }
+}
+
+TEST_F(CommandLineTest, TheSameSampleTwiceIsOneSample) {
+    const QStringList sample{u"sample"_s,
+                             u"--store"_s,
+                             store,
+                             u"--days"_s,
+                             u"2"_s,
+                             u"--per-day"_s,
+                             u"50"_s,
+                             u"--seed"_s,
+                             u"7"_s,
+                             u"--now"_s,
+                             u"2026-03-02T12:00:00"_s};
+    const ProgramOutcome first = runProgram(sample);
+    ASSERT_EQ(first.status, 0) << first.err.toStdString();
+    EXPECT_FALSE(first.out.startsWith(u"0 taken in"_s)) << first.out.toStdString();
+    const ProgramOutcome second = runProgram(sample);
+    EXPECT_EQ(second.status, 0);
+    EXPECT_TRUE(second.out.startsWith(u"0 taken in"_s)) << second.out.toStdString();
+    EXPECT_EQ(check().status, 0);
+}
+
+}  // namespace

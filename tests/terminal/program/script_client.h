@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QProcess>
+#include <QString>
+
+namespace wirepane::test {
+
+// Drives a terminal of its own over standard input and output, as a user's script does.
+class ScriptClient {
+public:
+    // Starts the terminal. `arguments` go beside those for automation.
+    explicit ScriptClient(const QStringList& arguments);
+    ~ScriptClient();
+
+    // Sends a request and waits for its answer: the whole object. Empty when none comes.
+    QJsonObject ask(const QString& method, const QJsonValue& params = QJsonObject());
+    // The result of a request that must succeed.
+    QJsonValue result(const QString& method, const QJsonValue& params = QJsonObject());
+    // The code of the error of a request that must fail.
+    int errorCode(const QString& method, const QJsonValue& params = QJsonObject());
+
+    // Writes a raw line; reads the next answer.
+    void send(const QByteArray& line);
+    QJsonObject read();
+    // Ends the terminal's input; its exit status once it has ended.
+    int endInput();
+    // What the terminal has said on standard error.
+    QString notes() { return QString::fromUtf8(process.readAllStandardError()); }
+    bool isRunning() const { return process.state() == QProcess::Running; }
+
+private:
+    QProcess process;
+    int lastId = 0;
+};
+
+}  // namespace wirepane::test
