@@ -20,14 +20,16 @@ bool earlier(const PlannedItem& a, const PlannedItem& b) {
 
 // Shares a total out by weight; what rounding leaves goes to the first ones.
 std::vector<int> sharedOut(int total, const std::vector<unsigned char>& services) {
+    if (services.empty())
+        return {};
     int weights = 0;
     for (unsigned char service : services)
         weights += roleOf(service).share;
     std::vector<int> counts;
     int left = total;
     for (unsigned char service : services) {
-        counts.push_back(
-            static_cast<int>(static_cast<std::int64_t>(total) * roleOf(service).share / weights));
+        counts.push_back(static_cast<int>(static_cast<std::int64_t>(total) * roleOf(service).share /
+                                          std::max(weights, 1)));
         left -= counts.back();
     }
     for (int i = 0; i < left; ++i)
@@ -60,8 +62,7 @@ DayPlan::DayPlan(std::vector<unsigned char> services, int headlinesPerDay, std::
     : ids(std::move(services)), planSeed(seed) {
     for (unsigned char service : ids)
         rhythms.emplace_back(roleOf(service).rhythm);
-    if (!ids.empty())
-        workingDayCounts = sharedOut(headlinesPerDay, ids);
+    workingDayCounts = sharedOut(headlinesPerDay, ids);
 }
 
 int DayPlan::countOf(std::size_t service, Day day) const {

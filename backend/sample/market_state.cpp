@@ -97,7 +97,7 @@ Quote MarketState::currency(int index, LocalTime at) const {
 }
 
 Quote MarketState::commodity(int index, LocalTime at) const {
-    return quote(commodityStream + static_cast<std::uint64_t>(index), commodities()[index].level, 2'600, at,
+    return quote(commodityStream + static_cast<std::uint64_t>(index), commodities()[index].level, 4'200, at,
                  lateMinute);
 }
 

@@ -8,7 +8,7 @@ namespace {
 
 constexpr Word taiwanFirst[] = {
     {u"Cheng", u"澄"}, {u"Shuo", u"朔"}, {u"Yu", u"嶼"},  {u"Yi", u"翊"},   {u"Xiu", u"岫"},
-    {u"Tang", u"棠"},  {u"Mu", u"沐"},   {u"Ji", u"霽"},  {u"Jin", u"槿"},  {u"Wei", u"蔚"},
+    {u"Tang", u"棠"},  {u"Mu", u"沐"},   {u"Ji", u"霽"},  {u"Jin", u"槿"},  {u"Ran", u"苒"},
     {u"Heng", u"珩"},  {u"Yun", u"昀"},  {u"Kai", u"楷"}, {u"Hui", u"洄"},  {u"Hao", u"皓"},
     {u"Jing", u"璟"},  {u"Song", u"嵩"}, {u"Pan", u"磐"}, {u"Ying", u"穎"}, {u"Duo", u"鐸"},
     {u"Cong", u"琮"},  {u"Xu", u"煦"},   {u"Zi", u"梓"},  {u"Quan", u"荃"}, {u"Shao", u"韶"},

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int risingPermille = 600;
 constexpr int notableChange = 150;  // hundredths of a percent
+constexpr int moverChange = 60;
 
 }  // namespace
 
@@ -91,10 +92,17 @@ const Company& Scene::mover(int index) const {
         static_cast<std::size_t>(draw(fact("mover"), 0, static_cast<int>(quarterSize) - 1));
     for (std::size_t i = 0; i < quarterSize; ++i) {
         const Company& candidate = all[start + (offset + i) % quarterSize];
-        if (share(candidate).up() == gaining)
+        const Quote quote = share(candidate);
+        if (quote.up() == gaining && quote.change() >= moverChange)
             return candidate;
     }
     return all[start + offset];
+}
+
+std::int64_t Scene::deal() const {
+    const std::int64_t part = draw(fact("deal"), 25, 240);
+    const std::int64_t sum = std::max<std::int64_t>(mainCompany->annualRevenue * part / 1000, 12);
+    return sum < 1000 ? sum : sum / 10 * 10;
 }
 
 int Scene::currencyIndex() const {

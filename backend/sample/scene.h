@@ -72,6 +72,7 @@ public:
     const Company& peer() const;
     // The companies that stand out today: 0 and 1 gain, 2 and 3 lose.
     const Company& mover(int index) const;
+    std::int64_t deal() const;  // the sum at stake, in millions
     int currencyIndex() const;
     int commodityIndex() const;
     Quote share(const Company& which) const { return worldRef.markets.share(which, setting.at); }

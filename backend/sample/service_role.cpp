@@ -10,7 +10,11 @@ constexpr int at(int hour, int minute) {
     return hour * 60 + minute;
 }
 
-constexpr int allDay = at(24, 0);
+constexpr int allDay = 24 * 60;
+
+// Companies report by day.
+constexpr int dayBreak = at(6, 30);
+constexpr int nightFall = at(22, 30);
 
 constexpr RhythmPoint englishRhythm[] = {
     {0, 14},          {at(3, 0), 8},    {at(6, 0), 6},    {at(7, 30), 22},  {at(8, 55), 40},
@@ -43,17 +47,17 @@ constexpr RhythmPoint warrantRhythm[] = {
 };
 
 constexpr Beat englishBeats[] = {
-    {Topic::Earnings, 102, 100},
-    {Topic::MonthlyRevenue, 102, 80},
+    {Topic::Earnings, 102, 100, dayBreak, nightFall},
+    {Topic::MonthlyRevenue, 102, 80, dayBreak, nightFall},
     {Topic::Orders, 101, 80},
-    {Topic::Dividend, 101, 40},
-    {Topic::Board, 101, 50},
-    {Topic::Incident, 101, 24},
+    {Topic::Dividend, 101, 40, dayBreak, nightFall},
+    {Topic::Board, 101, 50, dayBreak, nightFall},
+    {Topic::Incident, 101, 24, dayBreak, nightFall},
     {Topic::Product, 101, 60},
     {Topic::Legal, 101, 30},
-    {Topic::Analyst, 103, 90},
+    {Topic::Analyst, 103, 90, dayBreak, nightFall},
     {Topic::Deal, 104, 60},
-    {Topic::Capex, 104, 50},
+    {Topic::Capex, 104, 50, dayBreak, nightFall},
     {Topic::StockMove, 105, 110, at(9, 5), at(13, 29), true},
     {Topic::MarketOpen, 105, 90, at(9, 1), at(9, 40), true},
     {Topic::MarketMidday, 105, 30, at(10, 30), at(13, 0), true},
@@ -68,21 +72,21 @@ constexpr Beat englishBeats[] = {
     {Topic::Weather, 109, 16},
     {Topic::Transport, 111, 40},
     {Topic::Labour, 110, 24},
-    {Topic::Digest, 112, 36},
+    {Topic::Digest, 112, 36, dayBreak, nightFall},
 };
 
 constexpr Beat chineseBeats[] = {
-    {Topic::Earnings, 202, 100},
-    {Topic::MonthlyRevenue, 213, 100},
+    {Topic::Earnings, 202, 100, dayBreak, nightFall},
+    {Topic::MonthlyRevenue, 213, 100, dayBreak, nightFall},
     {Topic::Orders, 201, 80},
-    {Topic::Dividend, 216, 50},
-    {Topic::Board, 201, 30},
-    {Topic::Incident, 201, 20},
+    {Topic::Dividend, 216, 50, dayBreak, nightFall},
+    {Topic::Board, 201, 30, dayBreak, nightFall},
+    {Topic::Incident, 201, 20, dayBreak, nightFall},
     {Topic::Product, 201, 60},
     {Topic::Legal, 201, 24},
-    {Topic::Analyst, 203, 90},
+    {Topic::Analyst, 203, 90, dayBreak, nightFall},
     {Topic::Deal, 204, 50},
-    {Topic::Capex, 204, 56},
+    {Topic::Capex, 204, 56, dayBreak, nightFall},
     {Topic::StockMove, 205, 140, at(9, 5), at(13, 29), true},
     {Topic::MarketOpen, 205, 90, at(9, 1), at(9, 40), true},
     {Topic::MarketMidday, 205, 30, at(10, 30), at(13, 0), true},
@@ -97,7 +101,7 @@ constexpr Beat chineseBeats[] = {
     {Topic::Weather, 209, 14},
     {Topic::Transport, 211, 36},
     {Topic::Labour, 210, 20},
-    {Topic::Digest, 212, 40},
+    {Topic::Digest, 212, 40, dayBreak, nightFall},
 };
 
 constexpr Beat noticeBeats[] = {

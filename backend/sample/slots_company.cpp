@@ -12,7 +12,8 @@ const Word& productOf(const Scene& scene, int which) {
     // The two products of a scene differ: they come from different halves of the sector's list.
     const auto& products = scene.company().sector->products;
     const int half = scene.draw(fact("product half"), 0, 1) ^ which;
-    return products[static_cast<std::size_t>(half * 2 + scene.draw(fact("product") + which, 0, 1))];
+    const int index = half * 2 + scene.draw(fact("product") + which, 0, 1);
+    return products[static_cast<std::size_t>(index)];
 }
 
 std::span<const Word> sitesOf(const Scene& scene) {
@@ -27,12 +28,6 @@ int brokerOf(const Scene& scene) {
 
 std::uint64_t sectorNumber(const Scene& scene) {
     return static_cast<std::uint64_t>(scene.company().sector->name.english.size());
-}
-
-std::int64_t dealOf(const Scene& scene) {
-    const std::int64_t part = scene.draw(fact("deal"), 25, 240);
-    const std::int64_t deal = std::max<std::int64_t>(scene.company().annualRevenue * part / 1000, 12);
-    return deal < 1000 ? deal : deal / 10 * 10;
 }
 
 void writePart(Writer& w, std::uint64_t name, int low, int high) {
@@ -89,8 +84,8 @@ constexpr Slot table[] = {
     {"incidentart", [](Writer& w) { w.text(w.scene.pick(fact("incident"), incidents()).withArticle); }},
     {"incidentartcap",
      [](Writer& w) { w.capitalised(w.scene.pick(fact("incident"), incidents()).withArticle); }},
-    {"deal", [](Writer& w) { w.amount(dealOf(w.scene)); }},
-    {"ordershare", [](Writer& w) { w.decimal(dealOf(w.scene) * 1000 / w.scene.company().annualRevenue, 1); }},
+    {"deal", [](Writer& w) { w.amount(w.scene.deal()); }},
+    {"ordershare", [](Writer& w) { w.decimal(w.scene.deal() * 1000 / w.scene.company().annualRevenue, 1); }},
     {"capex", [](Writer& w) { writePart(w, fact("capex"), 40, 190); }},
     {"loss", [](Writer& w) { writePart(w, fact("loss"), 3, 25); }},
     {"annual", [](Writer& w) { writePart(w, fact("annual"), 1000, 1000); }},

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/sample/slots.h"
 
+#include <algorithm>
+
 namespace wirepane::sample {
 
 namespace {
@@ -63,6 +65,26 @@ std::int64_t placingPrice(const Scene& scene) {
     return scene.share(scene.company()).previous * (1000 - scene.draw(fact("discount"), 40, 160)) / 1000;
 }
 
+int lotsOf(const Scene& scene) {
+    return scene.draw(fact("lots"), 812, 38'640);
+}
+
+// What the shares bought back cost: lots of a thousand at the price named.
+void writeBuyback(Writer& w) {
+    const std::int64_t thousands =
+        static_cast<std::int64_t>(lotsOf(w.scene)) * w.scene.share(w.scene.company()).now / 100;
+    const std::int64_t millions = std::max<std::int64_t>(thousands / 1000, 1);
+    w.amount(millions < 1000 ? millions : millions / 10 * 10);
+}
+
+// The part that the placed shares make up of all shares after the placing.
+void writePlacedShare(Writer& w) {
+    const std::int64_t placed =
+        w.scene.deal() * 100 * 1000 / std::max<std::int64_t>(placingPrice(w.scene), 1);
+    const std::int64_t all = static_cast<std::int64_t>(w.scene.company().shares) * 1000 + placed;
+    w.decimal(placed * 1000 / all, 1);
+}
+
 void writeDiscount(Writer& w) {
     const std::int64_t close = w.scene.share(w.scene.company()).previous;
     w.decimal((close - placingPrice(w.scene)) * 1000 / close, 1);
@@ -80,13 +102,16 @@ constexpr Slot table[] = {
          w.price(live ? quote.now : quote.previous);
      }},
     {"move", [](Writer& w) { writeMove(w, w.scene.company()); }},
-    {"lots", [](Writer& w) { w.integer(w.scene.draw(fact("lots"), 812, 38'640)); }},
+    {"lots", [](Writer& w) { w.integer(lotsOf(w.scene)); }},
     {"cap",
      [](Writer& w) {
          const std::int64_t value = static_cast<std::int64_t>(w.scene.company().shares) *
                                     w.scene.share(w.scene.company()).previous / 100;
          w.amount(value < 1000 ? value : value / 10 * 10);
      }},
+    {"close", [](Writer& w) { w.price(w.scene.share(w.scene.company()).previous); }},
+    {"spent", writeBuyback},
+    {"placed", writePlacedShare},
     {"placing", [](Writer& w) { w.price(placingPrice(w.scene)); }},
     {"discount", writeDiscount},
 

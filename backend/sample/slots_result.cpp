@@ -86,6 +86,12 @@ void writeTargetBefore(Writer& w) {
     w.price(w.scene.up() ? std::max<std::int64_t>(now - difference, step) : now + difference);
 }
 
+// What all who follow the company expect on average.
+void writeMeanTarget(Writer& w) {
+    const int part = inRange(hashOf(w.scene.company().seed, 42), 94, 131);
+    w.price(w.scene.share(w.scene.company()).previous * part / 1000 * 10);
+}
+
 constexpr Slot table[] = {
     {"quarter", writeQuarterAdjective},
     {"quartercap",
@@ -140,6 +146,7 @@ constexpr Slot table[] = {
      [](Writer& w) { w.decimal(dividendOf(w.scene) * 1000 / w.scene.share(w.scene.company()).previous, 1); }},
     {"target", [](Writer& w) { w.price(targetOf(w.scene)); }},
     {"targetold", writeTargetBefore},
+    {"meantarget", writeMeanTarget},
     {"multiple", [](Writer& w) { w.integer(w.scene.draw(fact("multiple"), 12, 28)); }},
     {"raised", [](Writer& w) { w.choose(w.scene.up(), u"raised", u"cut", u"調升", u"調降"); }},
     {"up", [](Writer& w) { w.choose(w.scene.up(), u"up", u"down", u"增", u"減"); }},

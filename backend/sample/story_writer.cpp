@@ -17,7 +17,7 @@ constexpr int longRoundUpPermille = 600;
 // What the briefs of a round-up are about.
 constexpr Topic briefTopics[] = {
     Topic::Earnings, Topic::Orders, Topic::Capex, Topic::Product,        Topic::Dividend, Topic::Analyst,
-    Topic::Deal,     Topic::Board,  Topic::Legal, Topic::MonthlyRevenue, Topic::Incident, Topic::StockMove,
+    Topic::Deal,     Topic::Board,  Topic::Legal, Topic::MonthlyRevenue, Topic::Incident,
 };
 
 bool isRoundUp(const Scene& scene) {
@@ -158,8 +158,6 @@ QString StoryWriter::brief(Scene& scene, int number, Quoted& quoted) const {
 
     QString text = scene.english() ? QString() : QStringLiteral("◆");
     Writer writer(own, text);
-    writer.company(own.company());
-    writer.choose(u" - ", u"：");
     texts.leads[fitting(texts.leads, own, static_cast<std::size_t>(number))].write(writer);
     std::vector<QString> more;
     addChoice(more, own, texts.paragraphs, paragraphPermille / 2, quoted);

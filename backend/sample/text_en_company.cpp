@@ -177,14 +177,14 @@ constexpr Phrase productHeadlines[] = {
     {u"{co} opens {site} lab for {product}"},
 };
 constexpr Phrase productLeads[] = {
-    {u"{co} ({code}) has presented a new generation of {product} that it says takes {saving}% less energy to "
-     u"make than the previous one."},
-    {u"{sectorcap} company {co} ({code}) will start volume production of its new {product} in {nextquarter}, "
-     u"chief executive {chief} said on {weekday}."},
+    {u"{co} ({code}) has presented a new generation of {product}, developed in its laboratory in {site}, "
+     u"that it says takes {saving}% less energy to make than the previous one."},
+    {u"{sectorcap} company {co} ({code}) will start volume production in {nextquarter} of the new {product} "
+     u"that its laboratory in {site} has developed, chief executive {chief} said on {weekday}."},
 };
 constexpr Phrase productParagraphs[] = {
-    {u"Samples have gone to {foreign} and two further customers. The new design comes out of a laboratory in "
-     u"{site} with {workers} engineers."},
+    {u"Samples have gone to {foreign} and two further customers. A team of {workers} engineers worked on the "
+     u"design for two years."},
     {u"\"Our customers asked for lower running costs, not for more functions,\" {chief} said at the "
      u"presentation."},
     {u"The company expects {product} and {product2} together to make up {share}% of revenue next year."},

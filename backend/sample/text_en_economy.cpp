@@ -21,8 +21,8 @@ constexpr Phrase macroLeads[] = {
      u"office said on {weekday}. Economists had expected {forecast}."},
 };
 constexpr Phrase macroParagraphs[] = {
-    {u"The improvement was broad, with orders from abroad rising faster than those from home.", good},
-    {u"The weakness lay mainly in orders from abroad; those from home were stable.", bad},
+    {u"The rise was broad and reached most regions, the office said.", good},
+    {u"The decline came mainly from the more volatile components; the rest was stable.", bad},
     {u"\"One month is not a trend, but the direction agrees with what companies tell us,\" said {analyst}, "
      u"economist at {broker}."},
     {u"The figure for the month before was confirmed at {prior}."},
@@ -66,7 +66,7 @@ constexpr Phrase regulationParagraphs[] = {
 };
 
 constexpr Phrase weatherHeadlines[] = {
-    {u"Typhoon warning: {city} port shuts, markets to trade as usual"},
+    {u"Gale warning: {city} port shuts, markets to trade as usual"},
     {u"Heavy rain stops work at {city} industrial parks"},
     {u"Reservoirs serving {city} at {share}% of capacity"},
     {u"{city} clears up after storm; power back for most"},
@@ -85,14 +85,14 @@ constexpr Phrase weatherParagraphs[] = {
 };
 
 constexpr Phrase transportHeadlines[] = {
-    {u"Container rates on Asia-Europe route {rise} {chg}% on week"},
-    {u"{city} port handles {chg}% {more} boxes in {month}"},
-    {u"{city} airport cargo {up} {chg}% on year in {month}"},
-    {u"Dry bulk index {up} {chg}%, led by larger ships"},
+    {u"Container rates on Asia-Europe route {rise} {rnd}% on week"},
+    {u"{city} port handles {rnd}% {more} boxes in {month}"},
+    {u"{city} airport cargo {up} {rnd}% on year in {month}"},
+    {u"Dry bulk index {up} {rnd}%, led by larger ships"},
     {u"Queue of ships off {city} {shortens} to {count} vessels"},
 };
 constexpr Phrase transportLeads[] = {
-    {u"Freight markets {rose} in the latest week, with rates from Asia to Europe {up} {chg}%, figures from "
+    {u"Freight markets {rose} in the latest week, with rates from Asia to Europe {up} {rnd}%, figures from "
      u"brokers in {city} showed."},
 };
 constexpr Phrase transportParagraphs[] = {
@@ -142,12 +142,12 @@ constexpr Phrase digestParagraphs[] = {
 };
 
 constexpr Phrase buybackHeadlines[] = {
-    {u"{co} buys back {lots},000 shares for {deal}"},
+    {u"{co} buys back {lots},000 shares for {spent}"},
     {u"HK BUYBACK: {co} repurchases shares at up to {price}"},
-    {u"{co} extends buyback, spends {deal} on {weekday}"},
+    {u"{co} extends buyback, spends {spent} on {weekday}"},
 };
 constexpr Phrase buybackLeads[] = {
-    {u"{co} ({code}) bought back {lots},000 of its own shares on the exchange on {weekday} for {deal}, at "
+    {u"{co} ({code}) bought back {lots},000 of its own shares on the exchange on {weekday} for {spent}, at "
      u"prices up to {price}."},
 };
 constexpr Phrase buybackParagraphs[] = {
@@ -185,7 +185,7 @@ constexpr Phrase placingLeads[] = {
      u"the last close of {price}."},
 };
 constexpr Phrase placingParagraphs[] = {
-    {u"The new shares equal {stake2}% of the enlarged capital. {broker} acts as placing agent."},
+    {u"The new shares equal {placed}% of the enlarged capital. {broker} acts as placing agent."},
     {u"The proceeds go into the business with {product} and into the repayment of bank loans."},
 };
 
@@ -205,9 +205,9 @@ constexpr TopicText texts[] = {
 constexpr Phrase background[] = {
     {u"{cofull} supplies {product} and {product2} and employs about {staff} people, most of them in {site}. "
      u"Its chairman is {chair}."},
-    {u"The shares of {co} closed at {price} on the previous trading day. The company is valued at {cap}."},
+    {u"The shares of {co} closed at {close} on the previous trading day. The company is valued at {cap}."},
     {u"Of the {count} analysts who follow {co}, more than half recommend buying the share; the mean target "
-     u"is {target}."},
+     u"is {meantarget}."},
     {u"{co} reported revenue of {annual} for the last full year and a net profit margin of {netmargin}%."},
     {u"Competitors of {co} in the {sector} industry include {peer} ({peercode})."},
 };

@@ -45,14 +45,14 @@ constexpr Phrase dealHeadlines[] = {
     {u"{co} raises {deal} through convertible bond"},  {u"{co} said to weigh bid for {peer}"},
 };
 constexpr Phrase dealLeads[] = {
-    {u"{co} ({code}) has put several strategic steps before its board, the largest of them worth {deal}, "
-     u"people familiar with the plans said on {weekday}."},
-    {u"{sectorcap} company {co} ({code}) is reshaping its holdings in transactions worth {deal} altogether, "
-     u"according to filings on {weekday}."},
+    {u"{co} ({code}) has put a number of steps before its board, the largest worth {deal}: a holding of "
+     u"{stake}% in {foreign}, a stake in {peer} ({peercode}), the sale of property in {site} and a "
+     u"convertible bond."},
+    {u"{sectorcap} company {co} ({code}) is reshaping its holdings in transactions worth up to {deal} each, "
+     u"filings on {weekday} showed. They include a holding of {stake}% in {foreign}, a stake in {peer} "
+     u"({peercode}), the sale of property in {site} and a convertible bond."},
 };
 constexpr Phrase dealParagraphs[] = {
-    {u"The steps include a holding of {stake}% in {foreign}, a stake in {peer} ({peercode}), the sale of "
-     u"property in {site} and a convertible bond."},
     {u"{foreign}, which also supplies {product}, said talks were at an early stage."},
     {u"The money comes from cash at hand and a loan over {years} years, the company said. It expects to "
      u"close by {meeting}."},
@@ -113,8 +113,8 @@ constexpr Phrase openLeads[] = {
     {u"Taiwan's weighted index opened {iup} {iopen}% on {weekday}, following the lead of overnight markets."},
 };
 constexpr Phrase openParagraphs[] = {
-    {u"{up1} ({up1code}) was the most active gainer, {up1move}% higher after its results. {down1} "
-     u"({down1code}) lost {down1move}%."},
+    {u"{up1} ({up1code}) was among the gainers, {up1move}% higher after its results. {down1} ({down1code}) "
+     u"lost {down1move}%."},
     {u"The Taiwan dollar traded at {twd} to the US dollar in early deals."},
     {u"Investors look to {indicator} data from {thecountry}, due later this week."},
     {u"Turnover in the first half hour was a little {thinner} than a day earlier."},
@@ -164,8 +164,7 @@ constexpr Phrase flowLeads[] = {
      u"after the close."},
 };
 constexpr Phrase flowParagraphs[] = {
-    {u"At the top of their purchases stood {up1} ({up1code}) and {up2} ({up2code}); the longest selling list "
-     u"was that of {down1} ({down1code})."},
+    {u"Their purchases included {up1} ({up1code}) and {up2} ({up2code}); they sold {down1} ({down1code})."},
     {u"Domestic funds were on the other side for most of the session. Margin lending came down slightly."},
     {u"The weighted index closed {iup} {ipct}% at {level} points."},
 };

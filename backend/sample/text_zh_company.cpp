@@ -143,13 +143,13 @@ constexpr Phrase productHeadlines[] = {
     {u"{co}{product}送樣{foreign} 最快{nextquarter}出貨"},
 };
 constexpr Phrase productLeads[] = {
-    {u"{co}（{code}）發表新一代{product}，生產耗電較前代減少{saving}%，預計{nextquarter}量產。"},
-    {u"{sector}廠{co}（{code}）總經理{chief}表示，新一代{product}已送樣{foreign}等三家客戶，{nextquarter}"
-     u"可望開始出貨。"},
+    {u"{co}（{code}）發表由{site}研發中心開發的新一代{product}，生產耗電較前代減少{saving}%，預計{"
+     u"nextquarter}量產。"},
+    {u"{sector}廠{co}（{code}）總經理{chief}表示，由{site}研發中心開發的新一代{product}已送樣{foreign}"
+     u"等三家客戶，{nextquarter}可望開始出貨。"},
 };
 constexpr Phrase productParagraphs[] = {
-    {u"{chief}指出，客戶要的不是更多功能，而是更低的使用成本；新產品由{site}研發中心{workers}"
-     u"名工程師歷時兩年開發完成。"},
+    {u"{chief}指出，客戶要的不是更多功能，而是更低的使用成本；新產品由{workers}名工程師歷時兩年開發完成。"},
     {u"公司預期，明年{product}與{product2}合計占營收比重可達{share}%。"},
     {u"{broker}預估，新產品單價約較舊款高一成，有助於拉升毛利率。"},
 };
@@ -183,8 +183,8 @@ constexpr TopicText texts[] = {
 
 constexpr Phrase background[] = {
     {u"{cofull}主要產品為{product}與{product2}，員工約{staff}人，生產基地以{site}為主，董事長為{chair}。"},
-    {u"{co}前一交易日收盤價為{price}，市值約{cap}。"},
-    {u"目前共有{count}位分析師追蹤{co}，過半建議買進，平均目標價{target}。"},
+    {u"{co}前一交易日收盤價為{close}，市值約{cap}。"},
+    {u"目前共有{count}位分析師追蹤{co}，過半建議買進，平均目標價{meantarget}。"},
     {u"{co}去年全年營收{annual}，淨利率{netmargin}%。"},
     {u"{sector}同業包括{peer}（{peercode}）等。"},
 };

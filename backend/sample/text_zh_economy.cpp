@@ -19,8 +19,8 @@ constexpr Phrase macroLeads[] = {
     {u"{country}統計機關{todaydate}公布，{month}{indicator}為{value}，前月為{prior}，市場預估為{forecast}。"},
 };
 constexpr Phrase macroParagraphs[] = {
-    {u"細項顯示改善範圍廣泛，外需訂單增幅大於內需。", good},
-    {u"細項顯示疲弱主要來自外需訂單，內需則大致持穩。", bad},
+    {u"細項顯示升幅廣泛，多數地區同步走高。", good},
+    {u"細項顯示下滑主要來自波動較大的項目，其餘大致持穩。", bad},
     {u"{broker}經濟學家{analyst}表示，單月數據不足以構成趨勢，但方向與企業訪談結果一致。"},
     {u"{centralbank}下次會議訂於{meeting}，目前政策利率為{rate}%。"},
 };
@@ -58,7 +58,7 @@ constexpr Phrase regulationParagraphs[] = {
 };
 
 constexpr Phrase weatherHeadlines[] = {
-    {u"颱風警報 {city}港暫停作業 股市照常交易"},    {u"豪雨襲{city} 園區廠商：生產正常"},
+    {u"強風特報 {city}港暫停作業 股市照常交易"},    {u"豪雨襲{city} 園區廠商：生產正常"},
     {u"{city}供水水庫蓄水率{share}% 產業用水無虞"}, {u"風雨過後 {city}工業區陸續復電"},
     {u"高溫推升用電 {city}備轉容量率{rnd}%"},
 };
@@ -73,14 +73,14 @@ constexpr Phrase weatherParagraphs[] = {
 };
 
 constexpr Phrase transportHeadlines[] = {
-    {u"亞歐線貨櫃運價週{up}{chg}%"},
-    {u"{city}港{month}貨櫃量年{up}{chg}%"},
-    {u"{city}機場{month}貨運量年{up}{chg}%"},
-    {u"散裝運價指數{rise}{chg}% 大型船帶動"},
+    {u"亞歐線貨櫃運價週{up}{rnd}%"},
+    {u"{city}港{month}貨櫃量年{up}{rnd}%"},
+    {u"{city}機場{month}貨運量年{up}{rnd}%"},
+    {u"散裝運價指數{rise}{rnd}% 大型船帶動"},
     {u"{city}外海等泊船舶{count}艘 塞港{shortens}"},
 };
 constexpr Phrase transportLeads[] = {
-    {u"{city}航運經紀商數據顯示，最新一週亞歐線運價{up}{chg}%。"},
+    {u"{city}航運經紀商數據顯示，最新一週亞歐線運價{up}{rnd}%。"},
 };
 constexpr Phrase transportParagraphs[] = {
     {u"港務資料顯示，{city}外海等候靠泊的船舶為{count}艘。"},

@@ -10,13 +10,13 @@ constexpr Mood good = Mood::Good;
 constexpr Mood bad = Mood::Bad;
 
 constexpr Phrase buybackHeadlines[] = {
-    {u"{co}斥{deal}回購{lots}千股"},
+    {u"{co}斥{spent}回購{lots}千股"},
     {u"《回購》{co}最高價{price}購回股份"},
     {u"{co}連續{days}日回購 累計{stake2}%"},
-    {u"{co}再出手回購 涉資{deal}"},
+    {u"{co}再出手回購 涉資{spent}"},
 };
 constexpr Phrase buybackLeads[] = {
-    {u"{co}（{code}）公布，{todaydate}在交易所回購{lots}千股，最高價{price}，涉資{deal}。"},
+    {u"{co}（{code}）公布，{todaydate}在交易所回購{lots}千股，最高價{price}，涉資{spent}。"},
 };
 constexpr Phrase buybackParagraphs[] = {
     {u"自回購授權通過以來，公司累計購回股份占已發行股本{stake2}%。"},
@@ -46,7 +46,7 @@ constexpr Phrase placingLeads[] = {
     {u"{co}（{code}）宣布以每股{placing}配售新股，較上日收市價{price}折讓{discount}%，集資{deal}。"},
 };
 constexpr Phrase placingParagraphs[] = {
-    {u"配售股份占擴大後股本{stake2}%，{broker}為配售代理。"},
+    {u"配售股份占擴大後股本{placed}%，{broker}為配售代理。"},
     {u"所得款項將用於發展{product}業務及償還銀行貸款。"},
 };
 
@@ -122,7 +122,7 @@ constexpr Phrase flowLeads[] = {
     {u"北水{todaydate}{hkbought}{flow}，大市指數{hkiup}{ipct}%。"},
 };
 constexpr Phrase flowParagraphs[] = {
-    {u"淨買入最多的是{up1}（{up1code}），其次為{up2}（{up2code}）；淨賣出最多的是{down1}（{down1code}）。"},
+    {u"淨買入股份包括{up1}（{up1code}）及{up2}（{up2code}），淨賣出股份包括{down1}（{down1code}）。"},
     {u"{broker}分析員{analyst}表示，資金流向反映投資者對{sector}股看法分歧。"},
 };
 

@@ -39,12 +39,11 @@ constexpr Phrase dealHeadlines[] = {
     {u"強強聯手？市場傳{co}有意併{peer}"},
 };
 constexpr Phrase dealLeads[] = {
-    {u"{co}（{code}）董事會討論多項投資與資產活化案，總金額約{deal}，其中包括與同業{peer}（{peercode}"
-     u"）的合作。"},
+    {u"{co}（{code}）董事會討論多項投資與資產活化案，單筆最高{deal}，包括取得{foreign}{stake}%股權、入股{"
+     u"peer}（{peercode}）、處分{site}不動產，以及發行可轉換公司債。"},
 };
 constexpr Phrase dealParagraphs[] = {
-    {u"內容包括取得{foreign}{stake}%股權、處分{site}不動產，以及發行可轉換公司債；{foreign}"
-     u"表示雙方仍在初步洽談階段。"},
+    {u"{foreign}表示，雙方仍在初步洽談階段。"},
     {u"資金來源為自有資金及{years}年期銀行聯貸，預計{meeting}前完成。"},
     {u"{broker}分析師{analyst}認為，{product}產業的規模優勢比五年前更重要，整併將是長期趨勢。"},
 };
@@ -131,14 +130,14 @@ constexpr Phrase closeParagraphs[] = {
 constexpr Phrase flowHeadlines[] = {
     {u"《籌碼》外資{fbought}{flow}"},
     {u"外資{fbought}台股{flow} 加碼{up1}"},
-    {u"外資賣超{down1}居首 買超{up1}"},
+    {u"外資調節{down1} 買超{up1}"},
     {u"三大法人動向：外資{fbought}{flow}"},
 };
 constexpr Phrase flowLeads[] = {
     {u"證交所盤後統計，外資{todaydate}{fbought}台股{flow}。"},
 };
 constexpr Phrase flowParagraphs[] = {
-    {u"外資買超前兩名為{up1}（{up1code}）、{up2}（{up2code}），賣超最多的是{down1}（{down1code}）。"},
+    {u"外資買超個股包括{up1}（{up1code}）、{up2}（{up2code}），賣超個股包括{down1}（{down1code}）。"},
     {u"投信與自營商多數時間站在外資的對立面，融資餘額小幅減少。"},
     {u"加權指數收{level}點，{iup}{ipct}%。"},
 };

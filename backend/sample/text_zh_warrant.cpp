@@ -86,10 +86,11 @@ constexpr Phrase soldHeadlines[] = {
     {u"{warrant}（{wcode}）籌碼偏高 投資人宜留意"},
 };
 constexpr Phrase soldLeads[] = {
-    {u"{warrant}（{wcode}）流通在外比例已達{soldshare}%，{broker}將增額發行{wunits}千單位，以維持造市品質。"},
+    {u"連結{co}（{code}）的{warrant}（{wcode}）流通在外比例已達{soldshare}%，{broker}將增額發行{wunits}"
+     u"千單位，以維持造市品質。"},
 };
 constexpr Phrase soldParagraphs[] = {
-    {u"標的證券{co}（{code}）最近收盤價{price}，該權證履約價{strike}，行使比例1比{ratio}。"},
+    {u"標的證券最近收盤價{price}，該權證履約價{strike}，行使比例1比{ratio}。"},
     {u"流通在外比例偏高時，權證價格可能偏離合理價值，增額完成前委賣報價數量可能受限。"},
 };
 
