@@ -8,9 +8,8 @@
 #include <QTextCursor>
 #include <QTextDocumentFragment>
 
-MyRichEdit::MyRichEdit(QWidget* parent) : QTextEdit(parent) {
+MyRichEdit::MyRichEdit(QWidget* parent) : QPlainTextEdit(parent) {
     setReadOnly(true);
-    setAcceptRichText(false);
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -22,12 +21,26 @@ void MyRichEdit::vSetText(const QString& text) {
     setPlainText(text);
 }
 
+void MyRichEdit::vSetSelection(int start, int end) {
+    QTextCursor selection(document());
+    selection.setPosition(start);
+    selection.setPosition(end, QTextCursor::KeepAnchor);
+    const bool inSight = viewport()->rect().contains(cursorRect(selection));
+    setTextCursor(selection);
+    if (!inSight)
+        centerCursor();
+}
+
 void MyRichEdit::vSetTextColor(const QColor& colour) {
+    if (colour == textColour)
+        return;
     textColour = colour;
     applyColours();
 }
 
 void MyRichEdit::vSetBkColor(const QColor& colour) {
+    if (colour == background)
+        return;
     background = colour;
     applyColours();
 }
@@ -45,7 +58,7 @@ void MyRichEdit::applyColours() {
 }
 
 void MyRichEdit::changeEvent(QEvent* event) {
-    QTextEdit::changeEvent(event);
+    QPlainTextEdit::changeEvent(event);
     if (event->type() == QEvent::ApplicationPaletteChange)
         applyColours();
 }

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QTextEdit>
+#include <QPlainTextEdit>
 
 // A read-only text of several lines. Text is never taken as markup, and is copied as plain text. Colours that
 // were not set (invalid) follow the palette. What is selected stays visible while another window has the
-// keyboard.
-class MyRichEdit : public QTextEdit {
+// keyboard. Lines are laid out when they come into view, so that a long text shows as fast as a short one.
+class MyRichEdit : public QPlainTextEdit {
     Q_OBJECT
 
 public:
@@ -17,6 +17,11 @@ public:
     void vSetText(const QString& text);
     // The text exactly as it was set.
     const QString& szGetText() const { return shown; }
+    // The text as selections count it: each line break is one character (U+2029).
+    QString szGetShownText() const { return document()->toRawText(); }
+    // Selects the characters from `start` to before `end` of the shown text. A selection whose end is out of
+    // sight is scrolled to the middle.
+    void vSetSelection(int start, int end);
 
     void vSetTextColor(const QColor& colour);
     void vSetBkColor(const QColor& colour);

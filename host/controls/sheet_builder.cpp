@@ -42,6 +42,7 @@ void CSheetBuilder::vSetCells(const SheetCells* cells) {
 
 void CSheetBuilder::vSetRowCount(int count) {
     count = std::max(0, count);
+    queue.reset();
     if (count == 0 && rows == 0)
         return;
     beginResetModel();
@@ -50,6 +51,7 @@ void CSheetBuilder::vSetRowCount(int count) {
 }
 
 void CSheetBuilder::vInsertRows(int row, int count) {
+    vTakeUpQueue();
     if (count <= 0 || row < 0 || row > rows)
         return;
     beginInsertRows({}, row, row + count - 1);
@@ -58,6 +60,7 @@ void CSheetBuilder::vInsertRows(int row, int count) {
 }
 
 void CSheetBuilder::vRemoveRows(int row, int count) {
+    vTakeUpQueue();
     if (count <= 0 || row < 0 || count > rows - row)
         return;
     beginRemoveRows({}, row, row + count - 1);
@@ -66,6 +69,8 @@ void CSheetBuilder::vRemoveRows(int row, int count) {
 }
 
 void CSheetBuilder::vRowWritten(int row) {
+    if (queue)
+        row = queue->oldRow(row);
     if (row >= 0 && row < rows && !columns.empty())
         emit dataChanged(index(row, 0), index(row, columnCount() - 1));
 }
@@ -83,12 +88,13 @@ QVariant CSheetBuilder::data(const QModelIndex& index, int role) const {
         return {};
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(columns[index.column()].alignment);
-    if (source == nullptr)
+    const int row = queue ? queue->newRow(index.row()) : index.row();
+    if (source == nullptr || row < 0)
         return {};
     if (role == Qt::DisplayRole)
-        return source->Text(index.row(), index.column());
+        return source->Text(row, index.column());
     if (role == Qt::ForegroundRole) {
-        const QColor colour = source->TextColour(index.row(), index.column());
+        const QColor colour = source->TextColour(row, index.column());
         return colour.isValid() ? QVariant(QBrush(colour)) : QVariant();
     }
     return {};

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/controls/row_runs.h"
+
 #include <QAbstractTableModel>
 #include <QColor>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 // Where a sheet takes the texts of its cells from. The sheet asks for rows on screen only, each time it
@@ -25,6 +28,10 @@ public:
 
 // The columns and the number of rows of a sheet: the model under CSuperSheetWnd. Rows and columns count from
 // 0.
+//
+// Rows that come and go one by one are queued: the cells' source has them at once, the model takes all of
+// them up together, later in the same turn of the event loop or when vTakeUpQueue is called. Until then its
+// rows show the cells that they had. Nothing may be queued from a slot of the model's signals.
 class CSheetBuilder : public QAbstractTableModel {
     Q_OBJECT
 
@@ -41,21 +48,39 @@ public:
     // The source of the cells: not owned, must outlive the builder or be taken out with null (empty cells).
     void vSetCells(const SheetCells* cells);
 
+    // Without what is queued.
     int iGetRowCount() const { return rows; }
-    // Starts over with this many rows: one model reset, and none when the sheet is and stays empty. A count
-    // below 0 counts as 0.
+    // Starts over with this many rows, without what was queued: one model reset, and none when the sheet is
+    // and stays empty. A count below 0 counts as 0.
     void vSetRowCount(int count);
     // Puts `count` rows in before `row` (iGetRowCount(): at the end), without touching what is selected.
+    // Takes the queue up first.
     void vInsertRows(int row, int count);
     void vRemoveRows(int row, int count);
-    // The cells of a row have been written: it is drawn again when it is on screen. Ignored out of range.
+    // The cells of a row (counted with what is queued) have been written: it is drawn again when it is on
+    // screen. Ignored out of range.
     void vRowWritten(int row);
+
+    // A row has come before `row`, has gone, has moved to row 0: rows are counted with what is queued
+    // already. Out of range: ignored. Rows that are selected or current stay so wherever they move.
+    void vQueueInsert(int row);
+    void vQueueRemove(int row);
+    void vQueueMoveToTop(int row);
+    // Where the first of the rows from `row` on that stay in their order goes: how many rows further down.
+    int iGetQueuedShift(int row) const { return queue ? queue->shiftFrom(row) : 0; }
+    // Rows put in at the top, or at few places, are told as rows put in, rows taken out as rows taken out,
+    // all else as a change of layout.
+    void vTakeUpQueue();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+signals:
+    void QueueAboutToBeTakenUp();
+    void QueueTakenUp();
 
 private:
     struct Column {
@@ -64,8 +89,17 @@ private:
         QString header;
     };
     bool hasColumn(int column) const;
+    int queuedRowCount() const { return queue ? queue->size() : rows; }
+    RowRuns& openQueue();
+    void takeOutRows();
+    void putInRows();
+    void putInWhereTheyStand();
+    void putInAtTop();
+    void putInOrder();
 
     std::vector<Column> columns;
     const SheetCells* source = nullptr;
     int rows = 0;
+    std::optional<RowRuns> queue;  // what the source's rows are in the model
+    bool takingUp = false;
 };

@@ -13,6 +13,7 @@
 #include <utility>
 
 void CSuperSheetWnd::vResetScroll() {
+    takeUpRows();
     executeDelayedItemsLayout();
     verticalScrollBar()->setValue(0);
     horizontalScrollBar()->setValue(0);
@@ -38,6 +39,7 @@ void CSuperSheetWnd::scrollTo(const QModelIndex& index, ScrollHint hint) {
 }
 
 int CSuperSheetWnd::iGetFirstVisibleRow() const {
+    takeUpRows();
     // With rows of one height, scrolled by the row, the bar's value is the row: asking the header would walk
     // it.
     return std::clamp(verticalScrollBar()->value(), 0, std::max(0, iGetRowCount() - 1));
@@ -48,6 +50,7 @@ int CSuperSheetWnd::iGetRowsPerPage() const {
 }
 
 int CSuperSheetWnd::iCalcRowNdx(const QPoint& client) const {
+    takeUpRows();
     const QPoint point = viewport()->mapFrom(this, client);
     if (!viewport()->rect().contains(point))
         return -1;
@@ -60,6 +63,7 @@ bool CSuperSheetWnd::bHasFocus() const {
 }
 
 QPoint CSuperSheetWnd::cptGetFocusNdx() const {
+    takeUpRows();
     const QModelIndex current = currentIndex();
     return {current.column(), current.row()};
 }
@@ -68,6 +72,7 @@ void CSuperSheetWnd::vGetAllSelectionNdx(std::vector<int>& rows) const {
     rows.clear();
     if (selectionModel() == nullptr)
         return;
+    takeUpRows();
     std::vector<std::pair<int, int>> ranges;
     for (const QItemSelectionRange& range : selectionModel()->selection())
         ranges.emplace_back(range.top(), range.bottom());
@@ -91,6 +96,7 @@ void CSuperSheetWnd::vSetActiveSelection(int row, int column) {
 }
 
 void CSuperSheetWnd::vClearSelection() {
+    takeUpRows();
     if (selectionModel() != nullptr)
         selectionModel()->clear();
 }
@@ -100,6 +106,7 @@ void CSuperSheetWnd::keyboardSearch(const QString& /*search*/) {
 }
 
 QModelIndex CSuperSheetWnd::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    takeUpRows();
     const QModelIndex current = currentIndex();
     if (iGetRowCount() == 0 || !current.isValid())
         return QTableView::moveCursor(action, modifiers);

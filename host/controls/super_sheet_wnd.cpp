@@ -62,10 +62,17 @@ void CSuperSheetWnd::connectRows() {
         verticalScrollBar()->setValue(0);
     });
     const auto keepColours = [this](const QModelIndex&, int first, int last) {
-        keepRowColours(first, last - first + 1);
+        if (!takingUp)
+            keepRowColours(first, last - first + 1);
     };
     connect(builder, &QAbstractItemModel::rowsInserted, this, keepColours);
     connect(builder, &QAbstractItemModel::rowsRemoved, this, keepColours);
+    connect(builder, &CSheetBuilder::QueueAboutToBeTakenUp, this, [this] {
+        takingUp = true;
+        shownFirst = verticalScrollBar()->value();
+        shownShift = builder->iGetQueuedShift(shownFirst);
+    });
+    connect(builder, &CSheetBuilder::QueueTakenUp, this, &CSuperSheetWnd::keepShownRows);
 }
 
 void CSuperSheetWnd::vSetThinBar(bool thin) {
@@ -177,39 +184,6 @@ void CSuperSheetWnd::stretchLastColumn() {
 void CSuperSheetWnd::vSetCells(const SheetCells* cells) {
     if (builder != nullptr)
         builder->vSetCells(cells);
-}
-
-void CSuperSheetWnd::vAddRows(int count) {
-    if (builder != nullptr)
-        builder->vInsertRows(builder->iGetRowCount(), count);
-}
-
-void CSuperSheetWnd::vClearRows() {
-    if (builder != nullptr)
-        builder->vSetRowCount(0);
-}
-
-int CSuperSheetWnd::iGetRowCount() const {
-    return builder != nullptr ? builder->iGetRowCount() : 0;
-}
-
-void CSuperSheetWnd::vInvalidateRow(int row) {
-    if (builder != nullptr)
-        builder->vRowWritten(row);
-}
-
-void CSuperSheetWnd::vResetRowBkColor() {
-    if (!delegate->firstRowOdd)
-        return;
-    delegate->firstRowOdd = false;
-    viewport()->update();
-}
-
-void CSuperSheetWnd::keepRowColours(int firstRow, int count) {
-    if (builder->iGetRowCount() == 0 || (firstRow == 0 && builder->iGetRowCount() == count))
-        vResetRowBkColor();
-    else if (firstRow == 0 && count % 2 == 1)
-        delegate->firstRowOdd = !delegate->firstRowOdd;
 }
 
 void CSuperSheetWnd::resizeEvent(QResizeEvent* event) {

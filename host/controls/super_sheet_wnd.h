@@ -51,6 +51,13 @@ public:
     // Appends empty rows.
     void vAddRows(int count);
     void vClearRows();
+    // Rows of the source that have come before `row`, gone, or moved to row 0. The sheet takes up all of them
+    // together: before it paints, before anything below reads it, at the latest in the next turn of the event
+    // loop. What is selected or current stays so. The rows on screen keep their places while others come and
+    // go above them; at its top the sheet shows what comes.
+    void vInsertRow(int row);
+    void vDeleteRow(int row);
+    void vMoveRowToTop(int row);
     int iGetRowCount() const;
     // The cells of a row have been written: it is drawn again.
     void vInvalidateRow(int row);
@@ -63,6 +70,8 @@ public:
     void vAutoVerScrolling(int row);
     // 0 also when there are no rows.
     int iGetFirstVisibleRow() const;
+    // What iGetFirstVisibleRow would say, without taking anything up.
+    int iGetFirstVisibleRowToCome() const;
     // The number of whole rows that fit.
     int iGetRowsPerPage() const;
     // The row at a point of this widget (its header and frame included); -1 where there is none.
@@ -107,6 +116,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void initStyleOption(QStyleOptionFrame* option) const override;
+    bool viewportEvent(QEvent* event) override;
 
 private:
     void connectRows();
@@ -115,6 +125,8 @@ private:
     void stretchLastColumn();
     void applyHeights();
     void keepRowColours(int firstRow, int count);
+    void takeUpRows() const;
+    void keepShownRows();
     int heightFor(int height) const;
     QString headerTexts() const;
     bool hasColumn(int column) const;
@@ -128,4 +140,7 @@ private:
     int wantedRowHeight = 20;
     int wantedHeaderHeight = 20;
     bool stretching = false;
+    int shownFirst = 0;  // the first visible row before and after rows are taken up
+    int shownShift = 0;
+    bool takingUp = false;
 };

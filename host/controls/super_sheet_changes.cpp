@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// How the rows of a sheet come and go, and what stays in place meanwhile.
+#include "host/controls/sheet_delegate.h"
+#include "host/controls/super_sheet_wnd.h"
+
+#include <QScrollBar>
+
+#include <algorithm>
+
+void CSuperSheetWnd::vAddRows(int count) {
+    if (builder != nullptr)
+        builder->vInsertRows(iGetRowCount(), count);
+}
+
+void CSuperSheetWnd::vClearRows() {
+    if (builder != nullptr)
+        builder->vSetRowCount(0);
+}
+
+int CSuperSheetWnd::iGetRowCount() const {
+    takeUpRows();
+    return builder != nullptr ? builder->iGetRowCount() : 0;
+}
+
+void CSuperSheetWnd::vInsertRow(int row) {
+    if (builder != nullptr)
+        builder->vQueueInsert(row);
+}
+
+void CSuperSheetWnd::vDeleteRow(int row) {
+    if (builder != nullptr)
+        builder->vQueueRemove(row);
+}
+
+void CSuperSheetWnd::vMoveRowToTop(int row) {
+    if (builder != nullptr)
+        builder->vQueueMoveToTop(row);
+}
+
+void CSuperSheetWnd::takeUpRows() const {
+    if (builder != nullptr)
+        builder->vTakeUpQueue();
+}
+
+int CSuperSheetWnd::iGetFirstVisibleRowToCome() const {
+    const int first = verticalScrollBar()->value();
+    return first == 0 || builder == nullptr ? first : std::max(0, first + builder->iGetQueuedShift(first));
+}
+
+void CSuperSheetWnd::keepShownRows() {
+    takingUp = false;
+    executeDelayedItemsLayout();
+    if (shownFirst > 0)
+        verticalScrollBar()->setValue(shownFirst + shownShift);
+    if (builder->iGetRowCount() == 0)
+        vResetRowBkColor();
+    else if (shownShift % 2 != 0)
+        delegate->firstRowOdd = !delegate->firstRowOdd;
+    viewport()->update();
+}
+
+bool CSuperSheetWnd::viewportEvent(QEvent* event) {
+    takeUpRows();
+    return QTableView::viewportEvent(event);
+}
+
+void CSuperSheetWnd::vInvalidateRow(int row) {
+    if (builder != nullptr)
+        builder->vRowWritten(row);
+}
+
+void CSuperSheetWnd::vResetRowBkColor() {
+    if (!delegate->firstRowOdd)
+        return;
+    delegate->firstRowOdd = false;
+    viewport()->update();
+}
+
+void CSuperSheetWnd::keepRowColours(int firstRow, int count) {
+    if (builder->iGetRowCount() == 0 || (firstRow == 0 && builder->iGetRowCount() == count))
+        vResetRowBkColor();
+    else if (firstRow == 0 && count % 2 == 1)
+        delegate->firstRowOdd = !delegate->firstRowOdd;
+}
