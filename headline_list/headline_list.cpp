@@ -2,8 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/headline_list.h"
 
-#include "headline_list/cell_texts.h"
-#include "headline_list/language_keys.h"
+namespace {
+
+CHeadlineTable entryOf(const CHeadline& headline) {
+    return {headline.time, headline.sequence, headline.service, 0, 0};
+}
+
+}  // namespace
 
 HeadlineList::HeadlineList(const ListKind& listKind, BKQuoteInterface& newsBackEnd, ListOwner& listOwner)
     : kind(listKind), backEnd(newsBackEnd), owner(listOwner) {}
@@ -39,69 +44,52 @@ void HeadlineList::vRefill() {
     vFillHeadline();
 }
 
-std::vector<unsigned char> HeadlineList::servicesToAsk() const {
-    if (kind.fill == FillServices::WarrantOnly)
-        return {warrantService};
-    std::vector<unsigned char> services;
-    for (const ServiceEntry& entry : owner.vGetServices()) {
-        if (entry.selected || kind.fill == FillServices::Every)
-            services.push_back(entry.service);
-    }
-    return services;
-}
-
-std::vector<CHeadlineTable> HeadlineList::vGetShowedHeadlineTable() const {
-    if (sheet == nullptr || sheet->iGetRowCount() == 0)
+HeadlinePlace HeadlineList::vProcessNewHeadline(const CHeadline& headline, bool showDate) {
+    if (sheet == nullptr)
         return {};
-    return table.rows(sheet->iGetFirstVisibleRow(), sheet->iGetRowsPerPage() + 1);
-}
-
-void HeadlineList::vFillHeadline() {
-    const std::vector<CHeadlineTable> shown = vGetShowedHeadlineTable();
-    if (shown.empty())
-        return;
-    std::vector<CHeadline> headlines;
-    for (const unsigned char service : servicesToAsk())
-        backEnd.BKQNEWS_iGetHeadline(service, headlines, shown);
-    for (const CHeadline& headline : headlines) {
-        const int row = table.rowOf(KeyOf(headline));
-        if (row >= 0)
-            vUpdateHeadline(row, headline, kind.showDate);
+    const int known = table.rowOfSameDay(KeyOf(headline));
+    if (known < 0) {
+        const int row = table.insertPosition(headline.time);
+        vInsertHeadline(row, headline, showDate);
+        return {row, -1};
     }
-}
-
-void HeadlineList::vFillTempHeadline() {
-    const QString placeholder = LangText(backEnd, keys::recover);
-    const std::vector<CHeadlineTable> shown = vGetShowedHeadlineTable();
-    int row = shown.empty() ? 0 : sheet->iGetFirstVisibleRow();
-    for (const CHeadlineTable& entry : shown) {
-        const QString time = TimeText(entry.time, kind.showDate);
-        const WrittenCells* written = cellsOf(row);
-        if (written == nullptr || written->time != time)
-            vFillSheet(row, time, placeholder, placeholder);
-        ++row;
+    const int old = table.rowOfNumber(KeyOf(headline), 0);
+    if (old != known) {
+        // Another day's row goes, and this day's stays below the new one.
+        vUpdateHeadline(known, headline, showDate);
+        vInsertHeadline(0, headline, showDate);
+        vDeleteHeadline(old + 1);
+        return {0, old};
     }
+    const HeadlineKey oldKey = KeyOf(table.at(old));
+    table.insert(0, entryOf(headline));
+    table.remove(old + 1);
+    forgetCells(oldKey);
+    sheet->vMoveRowToTop(old);
+    writeHeadline(0, headline, showDate);
+    return {0, old};
 }
 
-void HeadlineList::vUpdateHeadline(int row, const CHeadline& headline, bool showDate) {
-    const WrittenCells* written = cellsOf(row);
-    if (written != nullptr && written->title == headline.title)
+void HeadlineList::vInsertHeadline(int row, const CHeadline& headline, bool showDate) {
+    if (sheet == nullptr || row < 0 || row > table.size())
         return;
-    const QString category = owner.cszTransferCatIDToCatName(headline.categoryId);
-    vFillSheet(row, TimeText(headline.time, showDate), ShownText(backEnd, headline.service, category),
-               ShownText(backEnd, headline.service, headline.title));
+    table.insert(row, entryOf(headline));
+    sheet->vInsertRow(row);
+    writeHeadline(row, headline, showDate);
 }
 
-void HeadlineList::vFillSheet(int row, const QString& time, const QString& category, const QString& title) {
+void HeadlineList::vDeleteHeadline(int row) {
     if (sheet == nullptr || row < 0 || row >= table.size())
         return;
-    WrittenCells written{time, category, title, {}};
-    QColor background;
-    if (!hasTwoColumns())
-        owner.GetCategoryColor(category, written.categoryColour, background);
-    cells.write(KeyOf(table.at(row)), std::move(written));
-    sheet->vInvalidateRow(row);
-    owner.vCategoryStateAfterWriting();
+    const HeadlineKey key = KeyOf(table.at(row));
+    table.remove(row);
+    forgetCells(key);
+    sheet->vDeleteRow(row);
+}
+
+void HeadlineList::forgetCells(const HeadlineKey& key) {
+    if (table.rowOf(key) < 0)
+        cells.forget(key);
 }
 
 const WrittenCells* HeadlineList::cellsOf(int row) const {

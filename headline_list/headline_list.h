@@ -6,6 +6,7 @@
 #include "headline_list/headline_table.h"
 #include "headline_list/list_index.h"
 #include "headline_list/list_owner.h"
+#include "headline_list/relation_condition.h"
 #include "headline_list/sort_order.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/controls/super_sheet_wnd.h"
@@ -14,9 +15,18 @@
 
 #include <vector>
 
+// Where a pushed headline went.
+struct HeadlinePlace {
+    int row = -1;     // -1: nowhere, the list has no grid
+    int oldRow = -1;  // of a headline that was sent again: the row that went; -1: the headline is new
+
+    bool operator==(const HeadlinePlace&) const = default;
+};
+
 // One headline list: the table of its entries and the grid that shows them. Row i of the grid always stands
-// for entry i of the table. The grid gets its rows at once, its texts only where rows are on screen. Without
-// a grid every operation on the grid does nothing.
+// for entry i of the table. A grid that is filled anew gets its rows at once, its texts only where rows are
+// on screen; rows that come and go one by one are in the table at once, and the grid takes them up together.
+// Without a grid every operation on the grid does nothing.
 class HeadlineList : public SheetCells {
 public:
     // `backEnd` and `owner` must outlive the list.
@@ -39,10 +49,27 @@ public:
 
     // Writes the visible rows whose headlines the back end has at hand.
     void vFillHeadline();
-    // Writes the placeholder into every visible row whose time cell is not that of its entry.
+    // Writes the placeholder into every visible row whose time cell is not that of its entry, with the date
+    // or without.
     void vFillTempHeadline();
     // Writes one row from its headline, unless its title cell holds the headline's title already.
     void vUpdateHeadline(int row, const CHeadline& headline, bool showDate);
+    // Writes the rows of these entries whose headlines the back end has at hand; entries that are not listed
+    // are passed over.
+    void vUpdateHeadline(const std::vector<CHeadlineTable>& entries);
+    // Writes the first visible row from its headline, when the back end has it at hand. With `conditions`
+    // only when one of them wants it.
+    void vUpdataTopHeadline(bool showDate, const std::vector<RelationCondition>* conditions = nullptr);
+
+    // Puts a pushed headline in. A new one goes above the first row from the top that is earlier. One that is
+    // listed already with its service and number on its day moves to the top, and the first row with that
+    // service and number, of whatever day, goes.
+    HeadlinePlace vProcessNewHeadline(const CHeadline& headline, bool showDate);
+    // Puts a headline in before `row`, in [0, Table().size()], and writes its row.
+    void vInsertHeadline(int row, const CHeadline& headline, bool showDate);
+    // Takes a row out; one out of range is ignored.
+    void vDeleteHeadline(int row);
+
     // Writes the cells of one row.
     void vFillSheet(int row, const QString& time, const QString& category, const QString& title);
 
@@ -59,7 +86,12 @@ public:
 private:
     bool hasTwoColumns() const { return owner.GetNewsType() == 1; }
     std::vector<unsigned char> servicesToAsk() const;
+    std::vector<CHeadline> headlinesOf(const std::vector<CHeadlineTable>& entries) const;
     const WrittenCells* cellsOf(int row) const;
+    void writeHeadline(int row, const CHeadline& headline, bool showDate);
+    void writeCells(int row, WrittenCells written);
+    void letCellsGo();
+    void forgetCells(const HeadlineKey& key);
 
     const ListKind& kind;
     BKQuoteInterface& backEnd;

@@ -5,27 +5,52 @@
 #include <algorithm>
 
 std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
-    std::vector<CHeadlineTable> result;
     const int first = std::max(from, 0);
-    const int end = count > 0 ? std::min(size(), first + std::min(count, size())) : first;
-    for (int row = first; row < end; ++row)
-        result.push_back(at(row));
-    return result;
+    const int end = count > 0 && first < size() ? first + std::min(count, size() - first) : first;
+    return end > first ? std::vector<CHeadlineTable>(entries.begin() + first, entries.begin() + end)
+                       : std::vector<CHeadlineTable>();
 }
 
 int HeadlineTable::rowOf(const HeadlineKey& key) const {
-    const std::ptrdiff_t position = index.find(oldestFirst, key);
-    return position < 0 ? -1
-                        : static_cast<int>(static_cast<std::ptrdiff_t>(oldestFirst.size()) - 1 - position);
+    return byKey.find(entries, {key.time, key.sequence, key.service, 0, 0});
+}
+
+int HeadlineTable::rowOfSameDay(const HeadlineKey& key) const {
+    return byNumber.find(entries, {key.time, key.sequence, key.service, 0, 0});
+}
+
+int HeadlineTable::rowOfNumber(const HeadlineKey& key, int from) const {
+    const auto found = std::find_if(entries.begin() + std::clamp(from, 0, size()), entries.end(),
+                                    [&](const CHeadlineTable& entry) { return HaveSameNumber(entry, key); });
+    return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
+}
+
+int HeadlineTable::insertPosition(std::int64_t time) const {
+    const auto earlier = std::find_if(entries.begin(), entries.end(),
+                                      [&](const CHeadlineTable& entry) { return entry.time < time; });
+    return static_cast<int>(earlier - entries.begin());
+}
+
+void HeadlineTable::insert(int row, const CHeadlineTable& entry) {
+    entries.insert(entries.begin() + row, entry);
+    byKey.inserted(entries, row);
+    byNumber.inserted(entries, row);
+}
+
+void HeadlineTable::remove(int row) {
+    byKey.removing(entries, row);
+    byNumber.removing(entries, row);
+    entries.erase(entries.begin() + row);
 }
 
 void HeadlineTable::assign(std::vector<CHeadlineTable> newestFirst) {
-    oldestFirst = std::move(newestFirst);
-    std::reverse(oldestFirst.begin(), oldestFirst.end());
-    index.rebuild(oldestFirst);
+    entries = HeadlineRows(newestFirst.begin(), newestFirst.end());
+    byKey.rebuild(entries);
+    byNumber.rebuild(entries);
 }
 
 void HeadlineTable::clear() {
-    oldestFirst = {};
-    index.clear();
+    entries = {};
+    byKey.clear();
+    byNumber.clear();
 }

@@ -2,31 +2,49 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/key_index.h"
+#include "headline_list/row_identities.h"
+#include "headline_list/row_index.h"
 #include "host/contract/records.h"
 
+#include <cstdint>
 #include <vector>
 
-// The entries of one headline list. Row 0 is the newest; behind that the storage runs the other way, so that
-// a new headline goes to its cheap end.
+// The entries of one headline list: row 0 is the newest, as far as the list is sorted (headlines that were
+// sent again leave it unsorted). At the top, rows come and go in constant time; further down, in time that
+// grows with the distance from the top alone.
 class HeadlineTable {
 public:
-    int size() const { return static_cast<int>(oldestFirst.size()); }
-    bool empty() const { return oldestFirst.empty(); }
+    int size() const { return static_cast<int>(entries.size()); }
+    bool empty() const { return entries.empty(); }
 
     // The entry of a row in [0, size()).
-    const CHeadlineTable& at(int row) const { return oldestFirst[oldestFirst.size() - 1 - std::size_t(row)]; }
+    const CHeadlineTable& at(int row) const { return entries[static_cast<std::size_t>(row)]; }
 
     // Up to `count` entries from row `from` on, cut at the end of the table.
     std::vector<CHeadlineTable> rows(int from, int count) const;
 
     // The first row that has this key; -1 when there is none.
     int rowOf(const HeadlineKey& key) const;
+    // The first row with the service and number of the key on its local calendar day; -1 when there is none.
+    int rowOfSameDay(const HeadlineKey& key) const;
+    // The first row from `from` on with the service and number of the key, on whatever day; -1 when there is
+    // none. Reads the rows on its way.
+    int rowOfNumber(const HeadlineKey& key, int from) const;
+
+    // The first row from the top that is earlier than `time`, size() when there is none: where a headline of
+    // that time is put in. Reads the rows above it.
+    int insertPosition(std::int64_t time) const;
+
+    // Puts an entry in before `row`, in [0, size()].
+    void insert(int row, const CHeadlineTable& entry);
+    // Takes out a row in [0, size()).
+    void remove(int row);
 
     void assign(std::vector<CHeadlineTable> newestFirst);
     void clear();
 
 private:
-    std::vector<CHeadlineTable> oldestFirst;
-    KeyIndex index;
+    HeadlineRows entries;
+    RowIndex<SameKey> byKey;
+    RowIndex<SameNumberOnDay> byNumber;
 };

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// How the rows of a headline list are written.
+#include "headline_list/cell_texts.h"
+#include "headline_list/headline_list.h"
+#include "headline_list/language_keys.h"
+
+#include <utility>
+
+std::vector<unsigned char> HeadlineList::servicesToAsk() const {
+    if (kind.fill == FillServices::WarrantOnly)
+        return {warrantService};
+    std::vector<unsigned char> services;
+    for (const ServiceEntry& entry : owner.vGetServices()) {
+        if (entry.selected || kind.fill == FillServices::Every)
+            services.push_back(entry.service);
+    }
+    return services;
+}
+
+std::vector<CHeadlineTable> HeadlineList::vGetShowedHeadlineTable() const {
+    if (sheet == nullptr || sheet->iGetRowCount() == 0)
+        return {};
+    return table.rows(sheet->iGetFirstVisibleRow(), sheet->iGetRowsPerPage() + 1);
+}
+
+std::vector<CHeadline> HeadlineList::headlinesOf(const std::vector<CHeadlineTable>& entries) const {
+    std::vector<CHeadline> headlines;
+    if (entries.empty())
+        return headlines;
+    for (const unsigned char service : servicesToAsk())
+        backEnd.BKQNEWS_iGetHeadline(service, headlines, entries);
+    return headlines;
+}
+
+void HeadlineList::vFillHeadline() {
+    vUpdateHeadline(vGetShowedHeadlineTable());
+}
+
+void HeadlineList::vUpdateHeadline(const std::vector<CHeadlineTable>& entries) {
+    for (const CHeadline& headline : headlinesOf(entries)) {
+        const int row = table.rowOf(KeyOf(headline));
+        if (row >= 0)
+            vUpdateHeadline(row, headline, kind.showDate);
+    }
+}
+
+void HeadlineList::vUpdataTopHeadline(bool showDate, const std::vector<RelationCondition>* conditions) {
+    if (sheet == nullptr || table.empty())
+        return;
+    const int row = sheet->iGetFirstVisibleRow();
+    for (const CHeadline& headline : headlinesOf(table.rows(row, 1))) {
+        if (conditions == nullptr || CheckIsRelationSearch(*conditions, headline, headline.categoryId, {}))
+            vUpdateHeadline(row, headline, showDate);
+    }
+}
+
+void HeadlineList::vFillTempHeadline() {
+    const QString placeholder = LangText(backEnd, keys::recover);
+    const std::vector<CHeadlineTable> shown = vGetShowedHeadlineTable();
+    int row = shown.empty() ? 0 : sheet->iGetFirstVisibleRow();
+    for (const CHeadlineTable& entry : shown) {
+        const WrittenCells* written = cellsOf(row);
+        const bool right = written != nullptr && (written->time == TimeText(entry.time, kind.showDate) ||
+                                                  written->time == TimeText(entry.time, !kind.showDate));
+        if (!right) {
+            const bool showDate = kind.showDate != cells.hasOtherTimeForm(KeyOf(entry));
+            writeCells(row, {TimeText(entry.time, showDate), placeholder, placeholder, {}, showDate});
+        }
+        ++row;
+    }
+}
+
+void HeadlineList::vUpdateHeadline(int row, const CHeadline& headline, bool showDate) {
+    const WrittenCells* written = cellsOf(row);
+    if (written != nullptr && written->title == headline.title)
+        return;
+    // A row whose texts were let go is written as it was: a refresh alone changes nothing in it.
+    const bool otherForm =
+        written == nullptr && showDate == kind.showDate && cells.hasOtherTimeForm(KeyOf(headline));
+    writeHeadline(row, headline, showDate != otherForm);
+}
+
+void HeadlineList::writeHeadline(int row, const CHeadline& headline, bool showDate) {
+    const QString category = owner.cszTransferCatIDToCatName(headline.categoryId);
+    writeCells(row, {TimeText(headline.time, showDate), ShownText(backEnd, headline.service, category),
+                     ShownText(backEnd, headline.service, headline.title), QColor(), showDate});
+}
+
+void HeadlineList::vFillSheet(int row, const QString& time, const QString& category, const QString& title) {
+    writeCells(row, {time, category, title, QColor(), kind.showDate});
+}
+
+void HeadlineList::writeCells(int row, WrittenCells written) {
+    if (sheet == nullptr || row < 0 || row >= table.size())
+        return;
+    QColor background;
+    if (!hasTwoColumns())
+        owner.GetCategoryColor(written.category, written.categoryColour, background);
+    cells.write(KeyOf(table.at(row)), std::move(written));
+    if (cells.size() > CellState::enough)
+        letCellsGo();
+    sheet->vInvalidateRow(row);
+    owner.vCategoryStateAfterWriting();
+}
+
+// Pushes write rows that nobody may ever look at. What is on screen stays, and the page at the top, where a
+// reader of the news comes back to.
+void HeadlineList::letCellsGo() {
+    const int page = sheet->iGetRowsPerPage() + 1;
+    std::vector<CHeadlineTable> kept = table.rows(sheet->iGetFirstVisibleRowToCome(), page);
+    const std::vector<CHeadlineTable> top = table.rows(0, page);
+    kept.insert(kept.end(), top.begin(), top.end());
+    cells.keepOnly(kept, kind.showDate);
+}

@@ -1,0 +1,253 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/records.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <deque>
+#include <vector>
+
+using HeadlineRows = std::deque<CHeadlineTable>;  // row 0 is the newest
+
+// Finds the first row that is the same as a given entry, where Identity says what "the same" means: it has
+// hash(entry) and same(entry, entry).
+//
+// It holds positions only, about six bytes a row; the rows are handed in at every call. A position counts
+// from the bottom, so a row that is put in at the top changes no other; one that comes or goes further down
+// costs as much as there are rows above it. The table grows a segment at a time: no row pays for the whole.
+template <class Identity>
+class RowIndex {
+public:
+    void rebuild(const HeadlineRows& rows);
+    void clear() { *this = RowIndex(); }
+
+    // The first row that is the same as the entry; -1 when there is none.
+    int find(const HeadlineRows& rows, const CHeadlineTable& entry) const;
+
+    // A row has just been put in.
+    void inserted(const HeadlineRows& rows, int row);
+    // A row is about to be taken out.
+    void removing(const HeadlineRows& rows, int row);
+
+private:
+    // A slot is 0 when it is free; else position + 1, and in the lowest bit: rows further down may be the
+    // same.
+    using Slot = std::uint32_t;
+    struct Segment {
+        std::vector<Slot> held;  // at most three quarters full
+        std::uint32_t used = 0;
+        int depth = 0;  // how many leading bits of the hash its rows share
+    };
+    static constexpr std::uint32_t fullSegment = 512;
+    static constexpr std::uint32_t freshSegment = 300;
+    static constexpr int deepest = 24;
+
+    static int positionOf(const HeadlineRows& rows, int row) {
+        return static_cast<int>(rows.size()) - 1 - row;
+    }
+    static Slot slotFor(int position, bool shared) {
+        return ((static_cast<Slot>(position) + 1) << 1) | (shared ? 1U : 0U);
+    }
+    static int positionIn(Slot slot) { return static_cast<int>(slot >> 1) - 1; }
+    static bool isShared(Slot slot) { return (slot & 1U) != 0; }
+    static int rowIn(const HeadlineRows& rows, Slot slot) {
+        return static_cast<int>(rows.size()) - 1 - positionIn(slot);
+    }
+    std::uint64_t hashIn(const HeadlineRows& rows, Slot slot) const {
+        return identity.hash(rows[static_cast<std::size_t>(rowIn(rows, slot))]);
+    }
+
+    std::size_t leadingBits(std::uint64_t hash) const { return depth == 0 ? 0 : hash >> (64 - depth); }
+    static std::size_t home(const Segment& segment, std::uint64_t hash) {
+        return static_cast<std::size_t>(((hash & 0xFFFFFFFFU) * segment.held.size()) >> 32);
+    }
+    static std::size_t next(const Segment& segment, std::size_t i) {
+        return i + 1 == segment.held.size() ? 0 : i + 1;
+    }
+    // The slot that is wanted, or the free one where it would stand.
+    template <class Wanted>
+    static std::size_t seek(const Segment& segment, std::uint64_t hash, Wanted wanted) {
+        std::size_t i = home(segment, hash);
+        while (segment.held[i] != 0 && !wanted(segment.held[i]))
+            i = next(segment, i);
+        return i;
+    }
+
+    void add(const HeadlineRows& rows, int row);
+    void move(const CHeadlineTable& entry, int from, int to);
+    void takeOut(const HeadlineRows& rows, Segment& segment, std::size_t i);
+    Segment& segmentWithRoom(const HeadlineRows& rows, std::uint64_t hash);
+    void refill(const HeadlineRows& rows, Segment& segment, std::size_t slotCount,
+                const std::vector<Slot>& content) const;
+    void split(const HeadlineRows& rows, std::size_t number);
+
+    Identity identity;
+    std::vector<std::uint32_t> directory;  // by the `depth` leading bits of the hash: the segment's number
+    std::vector<Segment> segments;
+    int depth = 0;
+};
+
+template <class Identity>
+void RowIndex<Identity>::rebuild(const HeadlineRows& rows) {
+    clear();
+    while ((rows.size() >> depth) > freshSegment)
+        ++depth;
+    const std::size_t count = std::size_t(1) << depth;
+    segments.resize(count);
+    for (std::size_t number = 0; number < count; ++number) {
+        segments[number].depth = depth;
+        segments[number].held.assign(rows.size() / count * 3 / 2 + 8, 0);
+        directory.push_back(static_cast<std::uint32_t>(number));
+    }
+    for (int row = static_cast<int>(rows.size()); row-- > 0;)
+        add(rows, row);
+}
+
+template <class Identity>
+int RowIndex<Identity>::find(const HeadlineRows& rows, const CHeadlineTable& entry) const {
+    if (segments.empty())
+        return -1;
+    const std::uint64_t hash = identity.hash(entry);
+    const Segment& segment = segments[directory[leadingBits(hash)]];
+    const Slot slot = segment.held[seek(segment, hash, [&](Slot candidate) {
+        return identity.same(rows[static_cast<std::size_t>(rowIn(rows, candidate))], entry);
+    })];
+    return slot == 0 ? -1 : rowIn(rows, slot);
+}
+
+template <class Identity>
+void RowIndex<Identity>::inserted(const HeadlineRows& rows, int row) {
+    if (segments.empty()) {
+        rebuild(rows);
+        return;
+    }
+    // From the top down, so that no two rows ever have one position.
+    for (int above = 0; above < row; ++above) {
+        const int position = positionOf(rows, above);
+        move(rows[static_cast<std::size_t>(above)], position - 1, position);
+    }
+    add(rows, row);
+}
+
+template <class Identity>
+void RowIndex<Identity>::removing(const HeadlineRows& rows, int row) {
+    const std::uint64_t hash = identity.hash(rows[static_cast<std::size_t>(row)]);
+    Segment& segment = segments[directory[leadingBits(hash)]];
+    const int position = positionOf(rows, row);
+    const std::size_t i = seek(segment, hash, [&](Slot slot) { return positionIn(slot) == position; });
+    if (segment.held[i] != 0) {
+        const auto below = rows.begin() + row + 1;
+        const auto heir = !isShared(segment.held[i])
+                              ? rows.end()
+                              : std::find_if(below, rows.end(), [&](const CHeadlineTable& entry) {
+                                    return identity.same(entry, rows[static_cast<std::size_t>(row)]);
+                                });
+        if (heir == rows.end())
+            takeOut(rows, segment, i);
+        else
+            segment.held[i] = slotFor(positionOf(rows, static_cast<int>(heir - rows.begin())), true);
+    }
+    for (int above = row; above-- > 0;) {
+        const int from = positionOf(rows, above);
+        move(rows[static_cast<std::size_t>(above)], from, from - 1);
+    }
+}
+
+// Rows that are the same as one above them are not held; a slot for them is marked as shared.
+template <class Identity>
+void RowIndex<Identity>::add(const HeadlineRows& rows, int row) {
+    const CHeadlineTable& entry = rows[static_cast<std::size_t>(row)];
+    const std::uint64_t hash = identity.hash(entry);
+    Segment& segment = segmentWithRoom(rows, hash);
+    Slot& slot = segment.held[seek(segment, hash, [&](Slot candidate) {
+        return identity.same(rows[static_cast<std::size_t>(rowIn(rows, candidate))], entry);
+    })];
+    if (slot == 0)
+        ++segment.used;
+    const bool isFirst = slot == 0 || row < rowIn(rows, slot);
+    slot = slotFor(isFirst ? positionOf(rows, row) : positionIn(slot), slot != 0);
+}
+
+template <class Identity>
+void RowIndex<Identity>::move(const CHeadlineTable& entry, int from, int to) {
+    const std::uint64_t hash = identity.hash(entry);
+    Segment& segment = segments[directory[leadingBits(hash)]];
+    Slot& slot =
+        segment.held[seek(segment, hash, [&](Slot candidate) { return positionIn(candidate) == from; })];
+    if (slot != 0)
+        slot = slotFor(to, isShared(slot));
+}
+
+// Closes the gap, so that every other slot is still found from its home.
+template <class Identity>
+void RowIndex<Identity>::takeOut(const HeadlineRows& rows, Segment& segment, std::size_t i) {
+    const auto distance = [&](std::size_t from, std::size_t to) {
+        return to >= from ? to - from : to + segment.held.size() - from;
+    };
+    for (std::size_t j = next(segment, i); segment.held[j] != 0; j = next(segment, j)) {
+        if (distance(home(segment, hashIn(rows, segment.held[j])), j) < distance(i, j))
+            continue;
+        segment.held[i] = segment.held[j];
+        i = j;
+    }
+    segment.held[i] = 0;
+    --segment.used;
+}
+
+template <class Identity>
+typename RowIndex<Identity>::Segment& RowIndex<Identity>::segmentWithRoom(const HeadlineRows& rows,
+                                                                          std::uint64_t hash) {
+    while (true) {
+        const std::size_t number = directory[leadingBits(hash)];
+        Segment& segment = segments[number];
+        if ((segment.used + 1) * 4 <= segment.held.size() * 3)
+            return segment;
+        if (segment.used < fullSegment || segment.depth == deepest)
+            refill(rows, segment, segment.held.size() * 5 / 4 + 8, std::vector<Slot>(segment.held));
+        else
+            split(rows, number);
+    }
+}
+
+template <class Identity>
+void RowIndex<Identity>::refill(const HeadlineRows& rows, Segment& segment, std::size_t slotCount,
+                                const std::vector<Slot>& content) const {
+    segment.held = std::vector<Slot>(slotCount, 0);
+    segment.used = 0;
+    for (const Slot slot : content) {
+        if (slot == 0)
+            continue;
+        segment.held[seek(segment, hashIn(rows, slot), [](Slot) { return false; })] = slot;
+        ++segment.used;
+    }
+}
+
+template <class Identity>
+void RowIndex<Identity>::split(const HeadlineRows& rows, std::size_t number) {
+    if (segments[number].depth == depth) {
+        std::vector<std::uint32_t> twice;
+        twice.reserve(directory.size() * 2);
+        for (const std::uint32_t entry : directory)
+            twice.insert(twice.end(), 2, entry);
+        directory = std::move(twice);
+        ++depth;
+    }
+    const int halfDepth = segments[number].depth + 1;
+    std::vector<Slot> halves[2];
+    for (const Slot slot : segments[number].held) {
+        if (slot != 0)
+            halves[(hashIn(rows, slot) >> (64 - halfDepth)) & 1U].push_back(slot);
+    }
+    for (std::size_t i = 0; i < directory.size(); ++i) {
+        if (directory[i] == number && ((i >> (depth - halfDepth)) & 1U) != 0)
+            directory[i] = static_cast<std::uint32_t>(segments.size());
+    }
+    segments.emplace_back();
+    for (const int half : {0, 1}) {
+        Segment& segment = half == 0 ? segments[number] : segments.back();
+        segment.depth = halfDepth;
+        refill(rows, segment, halves[half].size() * 3 / 2 + 8, halves[half]);
+    }
+}
