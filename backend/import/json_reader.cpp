@@ -5,6 +5,7 @@
 #include "backend/import/json_list.h"
 #include "backend/import/ninjs_record.h"
 
+#include <array>
 #include <optional>
 
 namespace wirepane {
@@ -19,7 +20,8 @@ Result<StoreItem> storeItem(QByteArrayView record, const ReadOptions& options) {
     Result<NewsItem> item = ninjsItem(record, options.service);
     if (!item)
         return Error{item.error()};
-    return StoreItem(std::move(item.value()));
+    StoreItem taken = std::move(item.value());
+    return taken;
 }
 
 QString placeOf(qsizetype number, const Result<StoreItem>& content) {
@@ -29,17 +31,20 @@ QString placeOf(qsizetype number, const Result<StoreItem>& content) {
     return place + u" ("_s + std::get<NewsItem>(content.value()).identity + u')';
 }
 
-// The next line with its end, or nothing when it is longer than the limit; then it has been read past.
+// The next line, or nothing when it is longer than the limit; then it has been read past.
 std::optional<QByteArray> nextLine(QIODevice& source, qint64 limit) {
-    constexpr qint64 skippedAtOnce = 1 << 20;
-    QByteArray line = source.readLine(limit + 1);
-    if (line.endsWith('\n') || source.atEnd())
-        return line;
-    QByteArray skipped;
-    do {
-        skipped = source.readLine(skippedAtOnce);
-    } while (!skipped.isEmpty() && !skipped.endsWith('\n'));
-    return std::nullopt;
+    std::array<char, 16384> part;
+    QByteArray line;
+    bool tooLong = false;
+    bool ended = false;
+    while (!ended) {
+        const qint64 length = source.readLine(part.data(), part.size());
+        ended = length <= 0 || part.at(std::size_t(length - 1)) == '\n';
+        tooLong = tooLong || line.size() + length > limit;
+        if (length > 0 && !tooLong)
+            line.append(part.data(), length);
+    }
+    return tooLong ? std::nullopt : std::optional<QByteArray>(line);
 }
 
 }  // namespace

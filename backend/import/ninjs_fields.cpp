@@ -191,7 +191,7 @@ std::vector<NinjsFields> NinjsFields::list(QLatin1StringView name) const {
     for (const QLatin1StringView key : {field->singular, field->plural}) {
         if (!entries.empty())
             break;
-        for (const QJsonValue& entry : fields.value(key).toArray())
+        for (const auto& entry : fields.value(key).toArray())
             entries.push_back(NinjsFields(entry.toObject()));
     }
     return entries;
@@ -208,7 +208,7 @@ std::vector<NinjsFields::Value> NinjsFields::family(QLatin1StringView name) cons
          ++field)
         add({field->toString(), field.key().sliced(prefix.size()), {}});
     const QString plural = name == "body"_L1 ? u"bodies"_s : name + u's';
-    for (const QJsonValue& entry : fields.value(plural).toArray()) {
+    for (const auto& entry : fields.value(plural).toArray()) {
         const NinjsFields value(entry.toObject());
         add({value.text("value"_L1), value.text("role"_L1), value.text("contenttype"_L1)});
     }

@@ -23,7 +23,8 @@ using ItemVisitor = std::function<bool(SourceItem&&)>;
 
 // What no source may exceed; tests make them smaller.
 struct ReadLimits {
-    qint64 line = qint64(64) << 20;   // bytes of one line of JSON; a longer one is rejected, reading goes on
+    qint64 line = qint64(64)
+                  << 20;  // bytes of one line of JSON with its end; a longer one is rejected, reading goes on
     qint64 file = qint64(512) << 20;  // bytes of a source that is read as a whole; a larger one is refused
 };
 

@@ -16,11 +16,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 Result<QByteArray> wholeSource(QIODevice& source, qint64 limit) {
-    QByteArray bytes = source.read(limit + 1);
-    if (bytes.size() > limit)
+    if (source.size() > limit)
         return Error{
             u"The file is larger than %1 bytes; only JSON with one record per line may be."_s.arg(limit)};
-    return bytes;
+    return source.readAll();
 }
 
 Done readTableSource(const QByteArray& bytes, const ReadOptions& options, const ItemVisitor& visit) {

@@ -97,7 +97,12 @@ void XmlSource::addElement(Content& content) {
 }
 
 QString XmlSource::fault() const {
-    return xml.hasError() ? u"The XML cannot be read: %1."_s.arg(xml.errorString()) : QString();
+    if (!xml.hasError())
+        return {};
+    QString problem = xml.errorString();
+    if (problem.endsWith(u'.'))
+        problem.chop(1);
+    return u"The XML cannot be read: %1."_s.arg(problem);
 }
 
 }  // namespace wirepane
