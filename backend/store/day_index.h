@@ -40,7 +40,10 @@ private:
         std::int32_t second = 0;  // since the day's begin
         std::int32_t sequence = 0;
 
-        auto operator<=>(const Entry&) const = default;
+        bool operator==(const Entry&) const = default;
+        bool operator<(const Entry& other) const {
+            return second != other.second ? second < other.second : sequence < other.sequence;
+        }
     };
     struct Day {
         DayBounds bounds;

@@ -37,10 +37,10 @@ public:
     static Result<std::unique_ptr<EmbeddedBackEnd>> open(const QString& storePath);
     explicit EmbeddedBackEnd(std::unique_ptr<Database> store);
 
-    // Stores one item now, in a transaction of its own (within a second at most an item's worth of waiting
-    // for the disk; longer when another program is writing), and tells every receiver: news that is new or
+    // Stores one item now, in a transaction of its own, and tells every receiver: news that is new or
     // replaced as a new headline, a story that was missing as a story that can be had, a symbol as a change
-    // of the catalogue. Nothing is told of what was there already. An error leaves the store as it was.
+    // of the catalogue. Nothing is told of what was there already. Returns when the item is on the disk;
+    // waits up to five seconds for another program that is writing. An error leaves the store as it was.
     Result<TakeOutcome> takeIn(const StoreItem& item);
 
     // The services whose whole distribution the receiver has registered, ascending.

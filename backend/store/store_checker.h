@@ -11,7 +11,7 @@ namespace wirepane {
 
 // Verifies a news store without writing to it: the file's structure, the references between its tables, the
 // rules that the store keeps, and the search index word by word. Other programs may use the store meanwhile.
-// It reads everything: seconds for a hundred thousand stories.
+// It reads everything: about a quarter of a second for a thousand stories of ordinary length.
 class StoreChecker {
 public:
     explicit StoreChecker(QString storePath) : path(std::move(storePath)) {}

@@ -40,13 +40,14 @@ private:
 };
 
 class EmbeddedBackEndTest : public StoreFixture {
-protected:
+public:
     EmbeddedBackEndTest() : backEnd(std::move(openStore(store->path()).value())) {
         host_clock::startAt(at(12, 0));
         backEnd.Attach(&listener);
     }
     ~EmbeddedBackEndTest() override { backEnd.Detach(&listener); }
 
+protected:
     Take takeIn(const StoreItem& item) {
         const Result<TakeOutcome> outcome = backEnd.takeIn(item);
         EXPECT_TRUE(outcome);
