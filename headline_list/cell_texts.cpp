@@ -4,13 +4,16 @@
 
 #include "headline_list/language_keys.h"
 
-#include <QDateTime>
+QDateTime LocalTime(std::int64_t secondsSince1970) {
+    constexpr std::int64_t earliest = -62135596800;  // the beginning of the year 1
+    constexpr std::int64_t latest = 253402300799;    // the end of the year 9999
+    if (secondsSince1970 < earliest || secondsSince1970 > latest)
+        return {};
+    return QDateTime::fromSecsSinceEpoch(secondsSince1970);
+}
 
 QString TimeText(std::int64_t secondsSince1970, bool showDate) {
-    constexpr std::int64_t farthest = 253402300799;  // the end of the year 9999
-    if (secondsSince1970 < -farthest || secondsSince1970 > farthest)
-        return {};
-    const QDateTime local = QDateTime::fromSecsSinceEpoch(secondsSince1970);
+    const QDateTime local = LocalTime(secondsSince1970);
     return local.toString(showDate ? QStringLiteral("MM/dd HH:mm") : QStringLiteral("HH:mm"));
 }
 

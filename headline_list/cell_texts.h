@@ -5,11 +5,15 @@
 #include "host/contract/bk_quote_interface.h"
 
 #include <QDate>
+#include <QDateTime>
 #include <QString>
 
 #include <cstdint>
 
 // The texts that the cells of headline grids show.
+
+// A moment in local time; invalid for a time outside any calendar (farther than the years 1 to 9999).
+QDateTime LocalTime(std::int64_t secondsSince1970);
 
 // "hh:mm", or "MM/dd hh:mm" with the date, in local time. A time outside any calendar gives an empty text.
 QString TimeText(std::int64_t secondsSince1970, bool showDate);

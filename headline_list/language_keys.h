@@ -43,6 +43,10 @@ inline constexpr QLatin1StringView category{"IDS_NEWSCTRLVIEW_STRING_CATEGORY"};
 inline constexpr QLatin1StringView title{"IDS_NEWSCTRLVIEW_STRING_TITLE"};
 inline constexpr QLatin1StringView recover{"IDS_NEWSCTRLVIEW_STRING_RECOVER"};
 
+inline constexpr QLatin1StringView storyRemark{"IDS_NEWSCTRLVIEW_STRING_PS"};
+inline constexpr QLatin1StringView noStory{"IDS_NEWSCTRLVIEW_STRING_NO_NEWS_STORY"};
+inline constexpr QLatin1StringView waitForUpdate{"IDS_NEWSCTRLVIEW_STRING_WAIT_FOR_UPDATE"};
+
 // The term to be replaced after conversion to simplified characters, and what replaces it. Spelled so.
 inline constexpr QLatin1StringView replaceNews{"IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS"};
 inline constexpr QLatin1StringView replaceMessage{"IDS_NEWSCTRLVIEW_STRING_REPLASE_MESSAGE"};
