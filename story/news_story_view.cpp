@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "story/news_story_view.h"
 
+#include "headline_list/language_keys.h"
 #include "host/controls/my_rich_edit.h"
+#include "host/controls/quote_static_ex.h"
 #include "host/controls/window_id.h"
 #include "story/story_ids.h"
 
@@ -13,44 +15,128 @@ constexpr int titleLines = 3;
 
 }  // namespace
 
-NewsStoryView::NewsStoryView(QWidget* parent) : TRVQuoteBaseView(parent), paneFont(GetViewFont()) {}
+NewsStoryView::NewsStoryView(QWidget* parent)
+    : TRVQuoteBaseView(parent), reader(*BKQuoteInterface::GetBKInterface()), paneFont(GetViewFont()) {}
 
 void NewsStoryView::OnInitialUpdate() {
     RVComVirtualBaseView::OnInitialUpdate();
 }
 
-void NewsStoryView::InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
+void NewsStoryView::InitialViewInfo(TRVCfgIO2* settings, const QString& section, int first, int second,
                                     const QString&) {
-    TRVQuoteBaseView::InitialViewInfo(reader, section, first, second, QStringLiteral("NewsStoryView"));
+    TRVQuoteBaseView::InitialViewInfo(settings, section, first, second, QStringLiteral("NewsStoryView"));
     titleEdit = new MyRichEdit(this);
     SetWindowId(titleEdit, story_ids::title);
     storyEdit = new MyRichEdit(this);
     SetWindowId(storyEdit, story_ids::storyText);
+    notice = new CQuoteStaticEx(this);
+    SetWindowId(notice, story_ids::updateNotice);
+    notice->hide();
     titleEdit->show();
     storyEdit->show();
     vChangeCast();
 }
 
-void NewsStoryView::vSetFont(const QFont& font) {
-    paneFont = font;
-    vChangeCast();
+void NewsStoryView::vSetStoryData(int table, int position) {
+    vSetStoryData(table, position, {});
+}
+
+void NewsStoryView::vSetStoryData(int table, int position, const CSearch& condition) {
+    reader.vSetStoryData(table, position, condition);
+    vShowData();
+}
+
+void NewsStoryView::vShowData() {
+    vDraw(reader.ShowData());
+}
+
+void NewsStoryView::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
+    vDraw(reader.RespHeadLine(entries));
+}
+
+void NewsStoryView::RespStory(const CHeadlineTable& entry) {
+    vDraw(reader.RespStory(entry));
+}
+
+void NewsStoryView::vDraw(const StoryTexts& texts) {
+    if (titleEdit == nullptr)
+        return;
+    if (texts.title)
+        titleEdit->vSetText(*texts.title);
+    if (!texts.story)
+        return;
+    vSetNotice({});
+    storyEdit->vSetText(*texts.story);
+    vSetStorySearchMarke();
+}
+
+void NewsStoryView::vStoryUpdateNotify(const CHeadlineTable*) {
+    if (notice != nullptr)
+        vSetNotice(LangText(*BKQuoteInterface::GetBKInterface(), keys::waitForUpdate));
+}
+
+void NewsStoryView::vSetNotice(const QString& text) {
+    notice->setText(text);
+    if (notice->isHidden() == text.isEmpty())
+        return;
+    notice->setHidden(text.isEmpty());
+    vSetComponentPos();
+}
+
+void NewsStoryView::RecvNewHeadLine(const CHeadline*, const QString&, const QString&) {
+    reader.RecvNewHeadLine();
 }
 
 void NewsStoryView::OnClearStory() {
-    for (MyRichEdit* edit : {titleEdit, storyEdit}) {
-        if (edit != nullptr)
-            edit->vSetText({});
+    reader.OnClearStory();
+    if (titleEdit == nullptr)
+        return;
+    titleEdit->vSetText({});
+    storyEdit->vSetText({});
+    vSetNotice({});
+}
+
+void NewsStoryView::vSetStorySearchMarke() {
+    if (storyEdit == nullptr)
+        return;
+    if (const auto match = reader.Mark(storyEdit->szGetShownText()))
+        storyEdit->vSetSelection(match->start, match->end);
+}
+
+void NewsStoryView::vSetTextColor() {
+    if (titleEdit == nullptr)
+        return;
+    titleEdit->vSetTextColor(colText);
+    storyEdit->vSetTextColor(colText);
+    notice->vSetColors(colText, colBackground);
+}
+
+void NewsStoryView::vSetFont(const QFont& font) {
+    if (font == paneFont)
+        return;
+    paneFont = font;
+    vApplyFont();
+    vSetComponentPos();
+}
+
+void NewsStoryView::vApplyFont() {
+    for (QWidget* control : std::initializer_list<QWidget*>{titleEdit, storyEdit, notice}) {
+        if (control != nullptr)
+            control->setFont(paneFont);
     }
 }
 
 void NewsStoryView::vSetComponentPos() {
     if (titleEdit == nullptr)
         return;
+    const int line = g_iGetFontHeight(paneFont);
+    const int top = notice->isHidden() ? 0 : line;
+    notice->setGeometry(0, 0, width(), top);
     QRect title;
-    QRect story = rect();
+    QRect story = rect().adjusted(0, top, 0, 0);
     if (!hideHeadline) {
-        title = QRect(sideMargin, 0, width() - 2 * sideMargin, titleLines * g_iGetFontHeight(paneFont));
-        story = QRect(title.left(), title.bottom() + 1, title.width(), height() - title.height());
+        title = QRect(sideMargin, top, width() - 2 * sideMargin, titleLines * line);
+        story = QRect(title.left(), title.bottom() + 1, title.width(), height() - top - title.height());
     }
     titleEdit->setGeometry(title);
     titleEdit->setVisible(!hideHeadline);
@@ -59,13 +145,13 @@ void NewsStoryView::vSetComponentPos() {
 
 void NewsStoryView::vChangeCast() {
     TRVQuoteBaseView::vChangeCast();
-    for (MyRichEdit* edit : {titleEdit, storyEdit}) {
-        if (edit == nullptr)
-            continue;
-        edit->setFont(paneFont);
-        edit->vSetBkColor(colBackground);
-        edit->vSetTextColor(colText);
+    paneFont = GetViewFont();
+    vApplyFont();
+    for (MyRichEdit* edit : {storyEdit, titleEdit}) {
+        if (edit != nullptr)
+            edit->vSetBkColor(colBackground);
     }
+    vSetTextColor();
     vSetComponentPos();
     update();
 }

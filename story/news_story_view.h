@@ -3,35 +3,64 @@
 #pragma once
 
 #include "host/views/quote_base_view.h"
+#include "story/story_reader.h"
 
 #include <QFont>
-#include <QRect>
 
+class CQuoteStaticEx;
 class EntrySource;
 class MyRichEdit;
 
 // The pane inside the news view that shows the story of the selected headline: a title of three lines above
-// the story. It holds no headlines of its own; its owner is asked for them.
+// the story, and a notice above both while the story is being updated. It holds no headlines of its own: it
+// points at a row of one of its owner's lists, and the owner hands the back end's answers on to it.
 class NewsStoryView : public TRVQuoteBaseView {
     Q_OBJECT
 
 public:
+    // The back end must have been installed.
     Q_INVOKABLE explicit NewsStoryView(QWidget* parent = nullptr);
 
     // Whose headlines are shown; not owned.
-    void vSetNewsParent(EntrySource* owner) { newsParent = owner; }
+    void vSetNewsParent(EntrySource* owner) { reader.vSetSource(owner); }
 
-    // The owner hands the back end's answers on: the pane does not hear the back end itself.
+    // Does not attach to the back end: the pane hears it through its owner alone.
     void OnInitialUpdate() override;
-    // Creates the two text controls.
-    void InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
+    // Creates the controls; until then the operations below only keep what they are given.
+    void InitialViewInfo(TRVCfgIO2* settings, const QString& section, int first, int second,
                          const QString& name) override;
 
+    // Points at a row of a list of the owner and shows it; found by a search: under this condition.
+    void vSetStoryData(int table, int position);
+    void vSetStoryData(int table, int position, const CSearch& condition);
+    // The row alone; nothing is drawn. A negative position counts as 0.
+    void SetHeadLinePos(int position) { reader.SetHeadLinePos(position); }
+    int GetHeadLinePos() const { return reader.GetHeadLinePos(); }
+    // The owner's list that the position refers to.
+    int iGetTable() const { return reader.iGetTable(); }
+
+    // Shows the headline and story at the position, or a placeholder while they are not at hand. An empty
+    // list leaves the pane as it is.
+    void vShowData();
+    // Headlines, a story, can be had now. Whatever does not belong to the headline shown is ignored.
+    void RespHeadLine(const std::vector<CHeadlineTable>& entries) override;
+    void RespStory(const CHeadlineTable& entry) override;
+    // The story is being updated: says so above the title until the next show or story. The entry is not
+    // looked at.
+    void vStoryUpdateNotify(const CHeadlineTable* entry);
+    // A headline arrived at the top of the list: the position moves along.
+    void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
+                         const QString& symbolCode) override;
+    // Empties the pane; answers for what it showed are ignored from here on.
+    void OnClearStory();
+
+    // Selects the last match of the search's keywords and scrolls to it; only where a keyword search found
+    // the headline.
+    void vSetStorySearchMarke();
+    void vSetTextColor();
     void vSetFont(const QFont& font);
     // Non-zero hides the title; the story then fills the whole pane. Takes effect at the next layout.
     void HideHeadLine(int hide) { hideHeadline = hide != 0; }
-    // Empties both controls.
-    void OnClearStory();
     void vSetComponentPos();
     void vChangeCast() override;
 
@@ -40,9 +69,14 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    EntrySource* newsParent = nullptr;
+    void vDraw(const StoryTexts& texts);
+    void vSetNotice(const QString& text);
+    void vApplyFont();
+
+    StoryReader reader;
     MyRichEdit* titleEdit = nullptr;
     MyRichEdit* storyEdit = nullptr;
+    CQuoteStaticEx* notice = nullptr;
     QFont paneFont;
     bool hideHeadline = false;
 };

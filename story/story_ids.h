@@ -12,6 +12,7 @@ inline constexpr int nextButton = 8068;
 inline constexpr int printButton = 8069;
 inline constexpr int saveAsButton = 8070;
 inline constexpr int storyText = 8071;
+inline constexpr int updateNotice = 8072;
 
 inline constexpr int tip = 3059;
 inline constexpr int tipText = 2349;

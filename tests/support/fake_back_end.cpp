@@ -138,6 +138,17 @@ int FakeBackEnd::BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadli
     return count;
 }
 
+bool FakeBackEnd::BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) {
+    asked.append(QStringLiteral("story %1 %2").arg(entry.service).arg(entry.sequence));
+    const auto found = std::find_if(stories.rbegin(), stories.rend(), [&](const CStory& candidate) {
+        return KeyOf(candidate.entry) == KeyOf(entry);
+    });
+    if (!storyAtHand || found == stories.rend())
+        return false;
+    story = *found;
+    return true;
+}
+
 void FakeBackEnd::LangConvertToSimplifiedChinese(const QString& in, QString& out) {
     out = in;
     out.replace(QStringLiteral("聞"), QStringLiteral("闻"))

@@ -25,6 +25,8 @@ public:
     // Adds a headline; `atHand` false: its table entry is known, its title is not.
     void add(unsigned char service, std::int64_t time, std::int32_t sequence, const QString& title,
              std::int32_t category = 0, const QString& symbol = {}, bool atHand = true);
+    // Adds the story of an entry; the one added last counts.
+    void addStory(const CStory& story) { stories.push_back(story); }
 
     std::vector<unsigned char> services{1, 2, 16, 22, 52, 122};
     std::map<unsigned char, std::vector<std::pair<QString, QString>>> categories;  // id text, name
@@ -33,8 +35,9 @@ public:
     std::set<unsigned char> unauthorised;
     bool simplified = false;
     bool connected = true;
+    bool storyAtHand = true;  // false: no story can be had yet
     QString sysPath = QStringLiteral("/nonexistent");
-    QStringList asked;  // "table 1 0 20260302", "headlines 1 [3 2]", ...
+    QStringList asked;  // "table 1 0 20260302", "headlines 1 [3 2]", "story 1 3", ...
     std::map<NewsReceiver*, std::set<unsigned char>> registrations;
 
     void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
@@ -62,7 +65,7 @@ public:
                                   const QString& key) override;
     int BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadline>& headlines,
                              const std::vector<CHeadlineTable>& entries) override;
-    bool BKQNEWS_bGetStory(CStory&, const CHeadlineTable&) override { return false; }
+    bool BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) override;
     QString LangGetLangString(const QString& key) override { return texts.value(key, key); }
     bool LangIsConvertToSimplified(const unsigned char&) override { return simplified; }
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
@@ -80,6 +83,7 @@ private:
     int append(std::vector<CHeadlineTable>& table, unsigned char service, Wanted wanted) const;
 
     std::vector<Piece> pieces;
+    std::vector<CStory> stories;
 };
 
 // Seconds since 1970 of a local time; the tests run in UTC+8.

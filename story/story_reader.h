@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/records.h"
+#include "host/contract/search_condition.h"
+#include "story/keyword_match.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+class EntrySource;
+enum class BodyEnd : int;
+
+// What a story display has to put into its two texts; a text that is absent stays as it is.
+struct StoryTexts {
+    std::optional<QString> title;
+    std::optional<QString> story;
+    bool awaited = false;  // `story` is the placeholder: the story is not at hand yet
+
+    bool operator==(const StoryTexts&) const = default;
+};
+
+// The reading half of a story display: where in its owner's headline lists it stands, and which texts follow
+// from that. The display only draws. Interface thread only.
+//
+// The headline at the position is the one last shown or pointed at: an answer counts only while the owner's
+// list still has that headline there, so that a list that was rebuilt meanwhile shows nothing wrong.
+class StoryReader {
+public:
+    // `newsSource` outlives the reader.
+    explicit StoryReader(BKQuoteInterface& newsSource) : backEnd(newsSource) {}
+
+    // Whose headlines are read; not owned, null: none.
+    void vSetSource(const EntrySource* owner) { source = owner; }
+
+    // Points at a headline of list `table`, which was found under `condition` (empty: not by a search).
+    void vSetStoryData(int table, int position, const CSearch& condition = {});
+    // A negative position counts as 0.
+    void SetHeadLinePos(int newPosition);
+    int GetHeadLinePos() const { return position; }
+    int iGetTable() const { return table; }
+    // A headline was inserted above: the position moves down with its headline.
+    void RecvNewHeadLine();
+    // Nothing is shown: answers are ignored until the reader is pointed at a headline again.
+    void OnClearStory();
+
+    // Shows the headline at the position: title and story, or a placeholder for what is not at hand. Nothing
+    // when the list is empty.
+    StoryTexts ShowData();
+    // Headlines can be had: the title, when the shown headline is among them.
+    StoryTexts RespHeadLine(const std::vector<CHeadlineTable>& entries) const;
+    // A story can be had: its text, when it belongs to the headline at the position; with the title where
+    // another headline is still shown.
+    StoryTexts RespStory(const CHeadlineTable& entry);
+
+    // Which characters of the shown story to select for the keywords; none unless found by keyword search.
+    std::optional<TextRange> Mark(const QString& shownText) const;
+
+private:
+    std::optional<CHeadlineTable> EntryAtPosition() const;
+    bool bIsPointedAt(const CHeadlineTable& entry) const;
+    std::optional<QString> TitleOf(const CHeadlineTable& entry) const;
+    QString TextOf(const CStory& story, unsigned char service, BodyEnd end) const;
+
+    BKQuoteInterface& backEnd;
+    const EntrySource* source = nullptr;
+    CSearch condition;
+    int table = 0;
+    int position = 0;
+    std::optional<CHeadlineTable> pointedAt;
+    bool titleShown = false;  // the title of `pointedAt` is what the display shows
+};
