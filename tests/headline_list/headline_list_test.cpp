@@ -1,71 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "headline_list/headline_list.h"
-
-#include "headline_list/headline_lists.h"
 #include "headline_list/table_reading.h"
-#include "tests/support/fake_back_end.h"
-
-#include <gtest/gtest.h>
-#include <map>
+#include "tests/headline_list/list_fixture.h"
 
 namespace {
-
-// Stands in for the view: services with the first two ticked, one known category.
-class Owner : public ListOwner {
-public:
-    const std::vector<ServiceEntry>& vGetServices() const override { return services; }
-    int GetNewsType() const override { return newsType; }
-    QString cszTransferCatIDToCatName(int id) const override {
-        return id == 7 ? QStringLiteral("Markets") : QStringLiteral("(recover)");
-    }
-    int GetCategoryColor(const QString& name, QColor& text, QColor&) const override {
-        if (name != QStringLiteral("Markets"))
-            return 0;
-        text = Qt::red;
-        return 1;
-    }
-    void vCategoryStateAfterWriting() override { ++rowsWritten; }
-
-    std::vector<ServiceEntry> services{
-        {1, true, 0, false}, {2, true, 0, false}, {16, false, 0, false}, {52, false, 0, false}};
-    int newsType = 0;
-    int rowsWritten = 0;
-};
-
-class HeadlineListTest : public testing::Test {
-protected:
-    HeadlineListTest() {
-        backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_RECOVER")] = QStringLiteral("...");
-    }
-
-    HeadlineList& list(ListIndex index, int height = 16 * 5 + 16 + 4) {
-        HeadlineList& result = lists[index];
-        if (result.pGetGrid() == nullptr) {
-            result.vSetGrid(CreateHeadlineSheet(&window, QRect(0, 0, 600, height), owner.newsType, backEnd));
-            window.resize(700, 900);
-            window.show();
-        }
-        return result;
-    }
-
-    // The rows as the grid shows them, " | " between the cells.
-    QStringList rows(const HeadlineList& of) const {
-        QStringList result;
-        for (int row = 0; row < of.pGetGrid()->iGetRowCount(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < of.pGetGrid()->model()->columnCount(); ++column)
-                cells.append(of.Text(row, column));
-            result.append(cells.join(QStringLiteral(" | ")));
-        }
-        return result;
-    }
-
-    FakeBackEnd backEnd;
-    Owner owner;
-    QWidget window;
-    HeadlineLists lists{backEnd, owner};
-};
 
 const QString day = QStringLiteral("20260302");
 

@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "headline_list/intake.h"
+
+#include "headline_list/date_pager.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Every list is there, has been shown and wants what the cases push, unless a case says otherwise.
+IntakeState openState() {
+    IntakeState state;
+    state.connected = true;
+    state.hasDatePicker = true;
+    state.pickedDate = QDate(2026, 3, 2);
+    state.newsDay = QDate(2026, 3, 2);
+    state.services = {{1, true}, {2, false}, {warrantService, false}, {2, true}};
+    state.exists.fill(true);
+    state.shown.fill(true);
+    state.categoryId = u"7"_s;
+    state.symbolCode = u"2330"_s;
+    state.conditions = {{1, {7}, {}}};
+    return state;
+}
+
+bool& of(std::array<bool, listCount>& flags, ListIndex list) {
+    return flags[static_cast<std::size_t>(list)];
+}
+
+}  // namespace
+
+TEST(Intake, AHeadlineGoesToEveryListThatWantsIt) {
+    const IntakeTarget all{ListIndex::All, false};
+    const IntakeTarget category{ListIndex::Category, true};
+    const IntakeTarget symbol{ListIndex::Symbol, true};
+    const IntakeTarget relation{ListIndex::Relation, true};
+    const IntakeTarget warrant{ListIndex::Warrant, true};
+    struct Case {
+        const char* what;
+        unsigned char service;
+        std::function<void(IntakeState&)> change;
+        std::vector<IntakeTarget> targets;
+        QString categoryId = u"7"_s;
+    };
+    const auto nothing = [](IntakeState&) {};
+    const Case cases[] = {
+        {"all of them", 1, nothing, {all, category, symbol, relation}},
+        {"not connected", 1, [](auto& s) { s.connected = false; }, {}},
+        {"no date picker", 1, [](auto& s) { s.hasDatePicker = false; }, {}},
+        {"another day is picked",
+         1,
+         [](auto& s) { s.pickedDate = QDate(2026, 3, 1); },
+         {category, symbol, relation}},
+        {"no day is known",
+         1,
+         [](auto& s) { s.pickedDate = s.newsDay = QDate(); },
+         {category, symbol, relation}},
+        {"a service that is not ticked", 2, nothing, {}},
+        {"an unknown service", 9, nothing, {}},
+        {"the first entry of a service decides",
+         2,
+         [](auto& s) {
+             s.services.front() = {2, true};
+         },
+         {all, category, symbol, relation}},
+        {"warrants, not ticked", warrantService, nothing, {warrant}},
+        {"warrants, ticked",
+         warrantService,
+         [](auto& s) { s.services[2].selected = true; },
+         {warrant, category, symbol, relation}},
+        {"warrants, never shown", warrantService, [](auto& s) { s.shown.fill(false); }, {warrant}},
+        {"warrants, another day", warrantService, [](auto& s) { s.newsDay = QDate(2026, 3, 3); }, {}},
+        {"nothing shown yet", 1, [](auto& s) { s.shown.fill(false); }, {}},
+        {"all news not shown",
+         1,
+         [](auto& s) { of(s.shown, ListIndex::All) = false; },
+         {category, symbol, relation}},
+        {"category list not shown",
+         1,
+         [](auto& s) { of(s.shown, ListIndex::Category) = false; },
+         {all, symbol, relation}},
+        {"symbol list missing",
+         1,
+         [](auto& s) { of(s.exists, ListIndex::Symbol) = false; },
+         {all, category, relation}},
+        {"relation list missing",
+         1,
+         [](auto& s) { of(s.exists, ListIndex::Relation) = false; },
+         {all, category, symbol}},
+        {"no category chosen", 1, [](auto& s) { s.categoryId.reset(); }, {all, symbol, relation}},
+        {"another category's text", 1, nothing, {all, symbol, relation}, u"07"_s},
+        {"a category that is not the condition's", 1, nothing, {all, symbol}, u"8"_s},
+        {"no symbol chosen", 1, [](auto& s) { s.symbolCode.reset(); }, {all, category, relation}},
+        {"the symbol in other letters",
+         1,
+         [](auto& s) { s.symbolCode = u"233"_s; },
+         {all, category, relation}},
+        {"no condition", 1, [](auto& s) { s.conditions.clear(); }, {all, category, symbol}},
+        {"the symbol is a condition's word",
+         1,
+         [](auto& s) {
+             s.conditions = {{1, {7}, {u"2330"_s}}};
+         },
+         {all, category, symbol, relation}},
+    };
+    const QString symbolCode = u"2330"_s;
+    for (const Case& c : cases) {
+        IntakeState state = openState();
+        c.change(state);
+        CHeadline headline;
+        headline.service = c.service;
+        headline.title = u"Rates rise"_s;
+        EXPECT_EQ(ListsFor({headline, c.categoryId, symbolCode}, state), c.targets) << c.what;
+    }
+}
+
+TEST(DatePager, ADayIsCheckedAgainstTheRange) {
+    const QDate today(2026, 3, 2);
+    const QDate inForce(2026, 2, 27);
+    struct Case {
+        QDate wanted;
+        int range;
+        DateCheck check;
+    };
+    const Case cases[] = {
+        {today, 7, DateCheck::Accepted},
+        {today.addDays(1), 7, DateCheck::TooLate},
+        {QDate(2026, 2, 23), 7, DateCheck::Accepted},
+        {QDate(2026, 2, 22), 7, DateCheck::TooEarly},
+        {inForce, 7, DateCheck::Same},
+        {inForce, 2, DateCheck::TooEarly},
+        {today, 0, DateCheck::Accepted},
+        {today.addDays(-1), 0, DateCheck::TooEarly},
+        {QDate(2025, 6, 20), 255, DateCheck::Accepted},
+        {QDate(2025, 6, 19), 255, DateCheck::TooEarly},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(CheckPickedDate(c.wanted, inForce, today, c.range), c.check)
+            << c.wanted.toString(Qt::ISODate).toStdString() << " range " << c.range;
+}
