@@ -13,6 +13,8 @@
 #include <QDir>
 #include <QElapsedTimer>
 
+#include <atomic>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -73,6 +75,13 @@ int runImport() {
     if (const auto status = arguments.fault())
         return *status;
 
+    std::atomic<ImportJob*> running = nullptr;
+    std::atomic<bool> interrupted = false;
+    const OnInterrupt stopping([&running, &interrupted] {
+        interrupted = true;
+        if (ImportJob* job = running)
+            job->stop();
+    });
     const auto store = openOrMakeStore(arguments.storeFile());
     if (!store) {
         printNote(store.error());
@@ -87,8 +96,12 @@ int runImport() {
         if (started.elapsed() > silentMs)
             printPassing(progressLine(progress));
     });
-    const OnInterrupt stopping([&job] { job.stop(); });
-    return reportEnd(job.run());
+    running = &job;
+    if (interrupted)
+        job.stop();
+    const ImportReport report = job.run();
+    running = nullptr;
+    return reportEnd(report);
 }
 
 }  // namespace wirepane

@@ -13,11 +13,12 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 Appearance::Appearance(TerminalSettings& terminalSettings, Workspace& openViews)
-    : settings(terminalSettings), workspace(openViews) {}
-
-void Appearance::apply() {
+    : settings(terminalSettings), workspace(openViews) {
     // The one style that draws every part in the palette's colours on every platform.
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+}
+
+void Appearance::apply() {
     QApplication::setPalette(schemePalette(settings.scheme()));
     QApplication::setFont(settings.SYS_fntGetViewFont());
     tellViews();
@@ -25,14 +26,12 @@ void Appearance::apply() {
 
 void Appearance::setScheme(ColourScheme scheme) {
     settings.setScheme(scheme);
-    QApplication::setPalette(schemePalette(scheme));
-    tellViews();
+    apply();
 }
 
 void Appearance::setFontSize(int points) {
     settings.setFontSize(points);
-    QApplication::setFont(settings.SYS_fntGetViewFont());
-    tellViews();
+    apply();
 }
 
 void Appearance::tellViews() {

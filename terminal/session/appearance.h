@@ -15,7 +15,7 @@ public:
     // Neither is owned.
     Appearance(TerminalSettings& settings, Workspace& workspace);
 
-    // Takes what the settings say; once at start.
+    // Takes what the settings say: at start, and whenever they have changed.
     void apply();
     void setScheme(ColourScheme scheme);
     // Points, cut to what the settings allow.

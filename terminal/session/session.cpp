@@ -66,10 +66,10 @@ Done Session::start(const SessionOptions& options) {
     mainFrame = std::make_unique<MainFrame>();
     openViews = std::make_unique<Workspace>(*module.value(), mainFrame->desk());
     look = std::make_unique<Appearance>(*terminalSettings, *openViews);
-    look->apply();
     const QString wanted = options.language.isEmpty() ? terminalSettings->language() : options.language;
-    if (!setLanguage(wanted))
-        setLanguage(Languages::ofSystem());
+    if (!useLanguage(wanted))
+        useLanguage(Languages::ofSystem());
+    look->apply();
     connect(openViews.get(), &Workspace::arranged, this, &Session::showStatus);
     connect(mainFrame.get(), &MainFrame::languageChanged, this, &Session::showStatus);
     showStatus();
@@ -133,12 +133,22 @@ void Session::setFontSize(int points) {
 }
 
 bool Session::setLanguage(const QString& code) {
-    if (!languages.use(code))
+    if (!useLanguage(code))
         return false;
     terminalSettings->setLanguage(code);
-    store->setConvertsToSimplified(code == "zh-CN"_L1);
+    look->apply();
     showStatus();
     return true;
+}
+
+bool Session::useLanguage(const QString& code) {
+    const bool simplified = code == "zh-CN"_L1;
+    // Set before the texts change, so that a view that writes them anew writes them so.
+    if (Languages::codes().contains(code)) {
+        store->setConvertsToSimplified(simplified);
+        terminalSettings->setSimplifiedGlyphs(simplified);
+    }
+    return languages.use(code);
 }
 
 void Session::setConnected(bool connected) {

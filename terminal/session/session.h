@@ -56,7 +56,7 @@ public:
 
     void setScheme(ColourScheme scheme);
     void setFontSize(int points);
-    // False for a language that the terminal does not have.
+    // Takes a language into force, for the next start too. False for one that the terminal does not have.
     bool setLanguage(const QString& code);
     void setConnected(bool connected);
     // The application has become the active one, or is no longer.
@@ -69,7 +69,7 @@ private:
 
     Done start(const SessionOptions& options);
     Done prepareModuleFiles();
-    Done openStore(const SessionOptions& options);
+    bool useLanguage(const QString& code);
 
     QString configFolder;
     QString storeFile;

@@ -4,6 +4,8 @@
 
 #include "terminal/settings/settings_file.h"
 
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -13,8 +15,25 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 namespace {
+
 constexpr int defaultFont = 9;
+
+// The family and, for what it lacks, those that draw Chinese characters as the language writes them: left to
+// itself, the system may take glyphs or weights of another language.
+QStringList familiesWithChinese(const QString& family, bool simplified) {
+    const QStringList traditionalFamilies{u"Noto Sans CJK TC"_s, u"Noto Sans TC"_s, u"PingFang TC"_s,
+                                          u"Microsoft JhengHei"_s};
+    const QStringList simplifiedFamilies{u"Noto Sans CJK SC"_s, u"Noto Sans SC"_s, u"PingFang SC"_s,
+                                         u"Microsoft YaHei"_s};
+    QStringList families{family};
+    for (const QString& chinese : simplified ? simplifiedFamilies : traditionalFamilies) {
+        if (QFontDatabase::hasFamily(chinese))
+            families.append(chinese);
+    }
+    return families;
 }
+
+}  // namespace
 
 TerminalSettings::TerminalSettings(SettingsFile& settingsFile) : file(settingsFile) {}
 
@@ -84,6 +103,7 @@ QColor TerminalSettings::SYS_crGetOtherColor(const QString& name) {
 
 QFont TerminalSettings::SYS_fntGetViewFont() {
     QFont font = QGuiApplication::font();
+    font.setFamilies(familiesWithChinese(QFontInfo(font).family(), simplifiedGlyphs));
     font.setPointSize(fontSize());
     return font;
 }

@@ -42,6 +42,8 @@ public:
     void setPopupPosition(int position);
     // The current symbol of a link group.
     void setCurrentSymbol(unsigned char linkGroup, const QString& code);
+    // Whether Chinese text is drawn as it is written in simplified characters; not stored.
+    void setSimplifiedGlyphs(bool simplified) { simplifiedGlyphs = simplified; }
     // The main frame's place, as QWidget::saveGeometry gives it.
     QByteArray frameGeometry() const;
     void setFrameGeometry(const QByteArray& geometry);
@@ -60,6 +62,7 @@ private:
     SettingsFile& file;
     QHash<unsigned char, QString> currentSymbols;
     bool linkNews = false;
+    bool simplifiedGlyphs = false;
 };
 
 }  // namespace wirepane

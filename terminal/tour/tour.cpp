@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/tour/tour.h"
 
+#include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
 #include "terminal/automation/user_input.h"
 #include "terminal/commands/console.h"
@@ -11,6 +12,7 @@
 #include "terminal/session/session.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QEventLoop>
 #include <QTabBar>
@@ -24,7 +26,9 @@ namespace wirepane {
 namespace {
 
 constexpr int tabStrip = 3100;  // the view's tabs
+constexpr int categoryCombo = 3004;
 constexpr int categoryTab = 1;
+constexpr int categoryList = 1;
 constexpr int settleMs = 300;  // longer than the view's deferred refresh
 
 void settle() {
@@ -52,6 +56,7 @@ public:
             return taken;
         session.setScheme(ColourScheme::Light);
         showTab(categoryTab);
+        showCategoryWithNews();
         return picture(u"3-by-category.png"_s);
     }
 
@@ -60,6 +65,16 @@ private:
         auto* tabs = qobject_cast<QTabBar*>(GetDlgItem(session.workspace().newest()->view, tabStrip));
         if (tabs != nullptr && tab < tabs->count())
             clickTab(*tabs, tab);
+    }
+
+    void showCategoryWithNews() {
+        const OpenView& view = *session.workspace().newest();
+        auto* combo = qobject_cast<QComboBox*>(GetDlgItem(view.view, categoryCombo));
+        const CSuperSheetWnd* sheet = view.access->Sheet(categoryList);
+        if (combo == nullptr || sheet == nullptr)
+            return;
+        for (int entry = 0; entry < combo->count() && sheet->iGetRowCount() == 0; ++entry)
+            chooseComboEntry(*combo, entry);
     }
 
     Done picture(const QString& name) {

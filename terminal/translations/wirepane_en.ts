@@ -13,7 +13,7 @@
     </message>
     <message id="IDS_DIALOG-STORY_PREV_BUTTON">
         <source></source>
-        <translation>Previous</translation>
+        <translation>Prev</translation>
     </message>
     <message id="IDS_DIALOG-STORY_PRINT">
         <source></source>
@@ -45,7 +45,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_BUTTON_PAGE_UP">
         <source></source>
-        <translation>Previous</translation>
+        <translation>Prev</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_BUTTON_RELATION_SEARCH">
         <source></source>
