@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <deque>
+#include <span>
 #include <vector>
 
 using HeadlineRows = std::deque<CHeadlineTable>;  // row 0 is the newest
@@ -75,6 +76,11 @@ private:
         return i;
     }
 
+    struct HashedRow {
+        std::uint64_t hash;
+        int row;
+    };
+    void fillFresh(const HeadlineRows& rows, Segment& segment, std::span<const HashedRow> content);
     void add(const HeadlineRows& rows, int row);
     void move(const CHeadlineTable& entry, int from, int to);
     void takeOut(const HeadlineRows& rows, Segment& segment, std::size_t i);
@@ -94,15 +100,50 @@ void RowIndex<Identity>::rebuild(const HeadlineRows& rows) {
     clear();
     while ((rows.size() >> depth) > freshSegment)
         ++depth;
-    const std::size_t count = std::size_t(1) << depth;
-    segments.resize(count);
-    for (std::size_t number = 0; number < count; ++number) {
-        segments[number].depth = depth;
-        segments[number].held.assign(rows.size() / count * 3 / 2 + 8, 0);
-        directory.push_back(static_cast<std::uint32_t>(number));
+    segments.resize(std::size_t(1) << depth);
+    std::vector<std::uint64_t> hashes;
+    hashes.reserve(rows.size());
+    std::vector<std::size_t> ends(segments.size() + 1, 0);
+    for (const CHeadlineTable& entry : rows) {
+        hashes.push_back(identity.hash(entry));
+        ++ends[leadingBits(hashes.back()) + 1];
     }
-    for (int row = static_cast<int>(rows.size()); row-- > 0;)
-        add(rows, row);
+    for (std::size_t number = 1; number < ends.size(); ++number)
+        ends[number] += ends[number - 1];
+    // The rows by segment: one segment's slots and hashes stay at hand while they are filled.
+    std::vector<HashedRow> ordered(rows.size());
+    std::vector<std::size_t> places = ends;
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        ordered[places[leadingBits(hashes[row])]++] = {hashes[row], static_cast<int>(row)};
+    for (std::size_t number = 0; number < segments.size(); ++number) {
+        directory.push_back(static_cast<std::uint32_t>(number));
+        segments[number].depth = depth;
+        fillFresh(rows, segments[number],
+                  std::span(ordered).subspan(ends[number], ends[number + 1] - ends[number]));
+    }
+}
+
+// `content`: newest first.
+template <class Identity>
+void RowIndex<Identity>::fillFresh(const HeadlineRows& rows, Segment& segment,
+                                   std::span<const HashedRow> content) {
+    segment.held.assign(content.size() * 3 / 2 + 8, 0);
+    std::vector<std::uint64_t> standing(segment.held.size());
+    for (const HashedRow& row : content) {
+        std::size_t i = home(segment, row.hash);
+        while (segment.held[i] != 0 &&
+               (standing[i] != row.hash ||
+                !identity.same(rows[static_cast<std::size_t>(rowIn(rows, segment.held[i]))],
+                               rows[static_cast<std::size_t>(row.row)])))
+            i = next(segment, i);
+        if (segment.held[i] != 0) {
+            segment.held[i] |= 1U;
+            continue;
+        }
+        segment.held[i] = slotFor(positionOf(rows, row.row), false);
+        standing[i] = row.hash;
+        ++segment.used;
+    }
 }
 
 template <class Identity>

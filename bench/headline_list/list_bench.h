@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// What the benchmarks of the headline lists share: eight services in memory, a list with its grid on screen,
+// and the comparison with the smallest case.
+#include "headline_list/headline_lists.h"
+
+#include <QWidget>
+
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <malloc.h>
+#include <map>
+#include <string>
+
+inline constexpr int serviceCount = 8;
+inline constexpr std::int64_t start = 1'770'000'000;
+
+// Eight services of headlines in memory, each newest first.
+class ArrayBackEnd : public BKQuoteInterface {
+public:
+    explicit ArrayBackEnd(int entries) : perService(entries / serviceCount) {}
+
+    bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>&) override { return false; }
+    bool BKQNEWS_bGetFullNameByService(QString&, unsigned char) override { return false; }
+    QString BKQNEWS_cszGetCurrDateByService(unsigned char) override { return {}; }
+    int bIsConnect() override { return 1; }
+    bool BKQNEWS_bGetStory(CStory&, const CHeadlineTable&) override { return false; }
+    using BKQuoteInterface::BKQNEWS_iGetHeadlineTable;
+    int BKQNEWS_iGetHeadlineTable(unsigned char service, std::vector<CHeadlineTable>& table, int,
+                                  const QString&) override {
+        for (int i = perService; i-- > 0;)
+            table.push_back({start + i * serviceCount + service, i, service, 0, 0});
+        return perService;
+    }
+    int BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadline>& headlines,
+                             const std::vector<CHeadlineTable>& entries) override {
+        int count = 0;
+        for (const CHeadlineTable& entry : entries) {
+            if (entry.service != service)
+                continue;
+            headlines.push_back({service, entry.time, entry.sequence, title, 0, 1, 0});
+            ++count;
+        }
+        return count;
+    }
+
+private:
+    const int perService;
+    const QString title = QStringLiteral("Shares of shipping lines firm as freight rates recover");
+};
+
+class Owner : public ListOwner {
+public:
+    Owner() {
+        for (int i = 0; i < serviceCount; ++i)
+            services.push_back({static_cast<unsigned char>(i + 1), true, 0, false});
+    }
+    const std::vector<ServiceEntry>& vGetServices() const override { return services; }
+    int GetNewsType() const override { return 0; }
+    QString cszTransferCatIDToCatName(int) const override { return QStringLiteral("Markets"); }
+    int GetCategoryColor(const QString&, QColor&, QColor&) const override { return 0; }
+    void vCategoryStateAfterWriting() override {}
+
+private:
+    std::vector<ServiceEntry> services;
+};
+
+// A list of `entries` headlines with its grid on screen.
+struct Fixture {
+    explicit Fixture(int entries) : backEnd(entries) {
+        window.resize(800, 700);
+        lists[ListIndex::All].vSetGrid(CreateHeadlineSheet(&window, window.rect(), 0, backEnd));
+        window.show();
+    }
+    void open() { lists.bRebuildAllNews({}); }
+
+    QWidget window;
+    ArrayBackEnd backEnd;
+    Owner owner;
+    HeadlineLists lists{backEnd, owner};
+};
+
+inline void tellRatio(benchmark::State& state, const std::string& name, double secondsPerRun) {
+    static std::map<std::string, double> smallest;
+    if (state.range(0) == 1000)
+        smallest[name] = secondsPerRun;
+    if (smallest.count(name) != 0)
+        state.counters["vs_1000"] = secondsPerRun / smallest[name];
+}
+
+template <class Run>
+void measure(benchmark::State& state, const std::string& name, Run run) {
+    double seconds = 0;
+    for (auto unused : state) {
+        const auto from = std::chrono::steady_clock::now();
+        run();
+        seconds += std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
+    }
+    tellRatio(state, name, seconds / static_cast<double>(state.iterations()));
+}
+
+// Bytes in use on the heap.
+inline double usedMemory() {
+    malloc_trim(0);
+    const auto info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+}
