@@ -13,9 +13,9 @@ const WrittenCells* CellState::find(const HeadlineKey& key) const {
     return it == written.constEnd() ? nullptr : &*it;
 }
 
-void CellState::write(const HeadlineKey& key, WrittenCells cells) {
+void CellState::write(const HeadlineKey& key, const WrittenCells& cells) {
     otherTimeForm.remove(key);
-    written.insert(key, std::move(cells));
+    written.insert(key, cells);
 }
 
 void CellState::forget(const HeadlineKey& key) {
@@ -34,7 +34,7 @@ void CellState::keepOnly(const std::vector<CHeadlineTable>& rows, bool showDate)
         const auto it = written.find(KeyOf(row));
         if (it == written.end())
             continue;
-        kept.insert(it.key(), std::move(*it));
+        kept.insert(it.key(), *it);
         written.erase(it);
     }
     for (auto it = written.cbegin(); it != written.cend(); ++it) {

@@ -30,7 +30,7 @@ public:
     int size() const { return static_cast<int>(written.size()); }
     // Null when the headline's row has not been written, or its texts have been let go.
     const WrittenCells* find(const HeadlineKey& key) const;
-    void write(const HeadlineKey& key, WrittenCells cells);
+    void write(const HeadlineKey& key, const WrittenCells& cells);
     void forget(const HeadlineKey& key);
     void clear();
 

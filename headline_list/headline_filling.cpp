@@ -97,7 +97,7 @@ void HeadlineList::writeCells(int row, WrittenCells written) {
     QColor background;
     if (!hasTwoColumns())
         owner.GetCategoryColor(written.category, written.categoryColour, background);
-    cells.write(KeyOf(table.at(row)), std::move(written));
+    cells.write(KeyOf(table.at(row)), written);
     if (cells.size() > CellState::enough)
         letCellsGo();
     sheet->vInvalidateRow(row);
