@@ -48,7 +48,7 @@ void TRVNewsCtrlView::vChangeCast() {
     controls.vSetFont(GetViewFont());
     vSetGridColours();
     if (NewsStoryView* pane = stage.pGetPane())
-        pane->vSetFont(GetViewFont());
+        pane->vChangeCast();
     if (initialised)
         vSetComponentPos();
     update();
