@@ -18,8 +18,8 @@ struct TakeOutcome {
     QString reason;  // for Rejected: a sentence
 };
 
-// What takes items in. An error (a full disk, a damaged store) ends the taking in; nothing since the last begin()
-// stays then.
+// What takes items in. An error (a full disk, a damaged store) ends the taking in; nothing since the last
+// begin() stays then.
 class ItemSink {
 public:
     virtual ~ItemSink() = default;

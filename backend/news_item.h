@@ -21,16 +21,18 @@ struct SymbolRef {
 // One piece of news on its way into the store, whatever it came from.
 struct NewsItem {
     unsigned char service = 1;
-    QString identity;      // what the source calls it, unique within the service: the same item twice is one item
-    int version = 0;       // a later version replaces an earlier one
-    std::int64_t time = 0;  // seconds since 1970, UTC
-    QString title;          // one line of plain text
-    std::optional<QString> story;  // plain text in wire form; absent: not known yet
-    QString category;              // name of its category; empty: none. The store gives each name an id
+    QString identity;  // what the source calls it, unique within the service: the same item twice is one item
+    int version = 0;   // a later version replaces an earlier one
+    std::int64_t time = 0;           // seconds since 1970, UTC
+    QString title;                   // one line of plain text
+    std::optional<QString> story;    // plain text in wire form; absent: not known yet
+    QString category;                // name of its category; empty: none. The store gives each name an id
     std::vector<SymbolRef> related;  // the first is the main symbol
 
-    std::optional<std::int32_t> sequence;    // given by a feed that numbers its headlines; else the store numbers
-    std::optional<std::int32_t> categoryId;  // given by a feed that knows the store's ids; goes before `category`
+    std::optional<std::int32_t>
+        sequence;  // given by a feed that numbers its headlines; else the store numbers
+    std::optional<std::int32_t>
+        categoryId;  // given by a feed that knows the store's ids; goes before `category`
 };
 
 // One entry of the symbol table.

@@ -14,8 +14,8 @@ struct Error {
     QString sentence;
 };
 
-// The one way to fail in the back end: a value, or an error. Reading the one that is not there is a fault of the
-// caller and throws std::bad_variant_access.
+// The one way to fail in the back end: a value, or an error. Reading the one that is not there is a fault of
+// the caller and throws std::bad_variant_access.
 template <class Value>
 class Result {
 public:
