@@ -127,7 +127,8 @@ void RowIndex<Identity>::rebuild(const HeadlineRows& rows) {
 template <class Identity>
 void RowIndex<Identity>::fillFresh(const HeadlineRows& rows, Segment& segment,
                                    std::span<const HashedRow> content) {
-    segment.held.assign(content.size() * 3 / 2 + 8, 0);
+    // Half full: what is pushed next finds room, and few rows to compare with.
+    segment.held.assign(content.size() * 2 + 8, 0);
     std::vector<std::uint64_t> standing(segment.held.size());
     for (const HashedRow& row : content) {
         std::size_t i = home(segment, row.hash);
