@@ -27,6 +27,7 @@ inline constexpr int showTypeButton = 25458;
 inline constexpr int firstServiceCommand = 5050;
 inline constexpr int lastServiceCommand = 5060;
 inline constexpr int changeCategoryState = 5061;
+inline constexpr int showStory = 9270;
 
 // Child views: this plus their own number.
 inline constexpr int firstChildView = 59648;

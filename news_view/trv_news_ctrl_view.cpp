@@ -58,6 +58,9 @@ bool TRVNewsCtrlView::OnCommand(int id) {
         case ids::serviceButton:
             OnSelectService();
             return true;
+        case ids::showStory:
+            OnShowStory();
+            return true;
         case ids::changeCategoryState:
             OnChangeCategoryState();
             return true;

@@ -4,6 +4,7 @@
 
 #include "headline_list/entry_source.h"
 #include "headline_list/headline_lists.h"
+#include "headline_list/intake.h"
 #include "headline_list/list_owner.h"
 #include "host/views/news_module.h"
 #include "host/views/quote_base_view.h"
@@ -107,6 +108,16 @@ public:
     int GetCurrSymbolInfo(unsigned char& service, QString& code) override;
     void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) override;
 
+    // --- Stories and what the back end pushes ---
+
+    // Shows the story of the current grid's focused row; without one the pane is emptied.
+    void OnShowStory();
+    void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
+                         const QString& symbolCode) override;
+    void RespHeadLine(const std::vector<CHeadlineTable>& entries) override;
+    void RespStory(const CHeadlineTable& entry) override;
+    void StoryUpdateNotify(const CHeadlineTable* entry) override;
+
     // --- Categories ---
 
     QString cszTransferCatIDToCatName(int id) const override;
@@ -168,6 +179,10 @@ private:
     // rely on it.
     const std::vector<RelationCondition>* vRelationFilter() const;
     void vChangeNewsTable(ListIndex list, TableKind kind, const QString& key);
+    bool bPaneShowsStories() const;
+    void vForgetShownStory();
+    void vKeepShownStory(ListIndex list, const HeadlinePlace& place);
+    IntakeState vIntakeState() const;
 
     // Lists and painting.
     void OnChangeSize(quintptr sender);
@@ -202,6 +217,7 @@ private:
     int newsType = 0;
     int currentMode = 0;
     int lastClientWidth = 0;
+    int shownStoryRow = -1;
     StoryShowType storyShowType = StoryShowType::None;
     bool symbolFromLink = false;  // the host asked for the news of the linked symbol
     bool laidOut = false;

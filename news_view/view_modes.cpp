@@ -47,8 +47,13 @@ void TRVNewsCtrlView::SwitchFunction(int mode) {
     currentMode = mode;
     settings.focusedTab = mode;
     stage.vHideDialog();
-    if (newsType == 0 && storyShowType != StoryShowType::None && stage.pGetPane() != nullptr)
-        stage.pGetPane()->OnClearStory();
+    if (bPaneShowsStories()) {
+        vForgetShownStory();
+        if (stage.pGetPane() != nullptr)
+            stage.pGetPane()->OnClearStory();
+        if (*index != ListIndex::Category)
+            OnShowStory();
+    }
 
     const ListIndex toLoad = ModeLoading::LoadingMode(*index, switches);
     services.vClearWarrantSelection();
@@ -86,6 +91,8 @@ void TRVNewsCtrlView::vLoadMode(ListIndex toLoad) {
         bInitialSymbolInfo();
     if (loading.bTakeLoad(toLoad))
         InitialHeadlineTable(static_cast<int>(toLoad));
+    if (toLoad == ListIndex::Category)
+        OnShowStory();
 }
 
 void TRVNewsCtrlView::ShowHideCtrObject(int mode) {
@@ -110,6 +117,9 @@ void TRVNewsCtrlView::OnBtnChangeShowType() {
     if (newsType == 0 && GetDlgItem(this, ids::showTypeButton) != nullptr) {
         stage.vHideDialog();
         SetStoryShowType(static_cast<unsigned short>(GetStoryShowType() + 1));
+        vForgetShownStory();
+        if (storyShowType != StoryShowType::None)
+            OnShowStory();
     }
     if (CSuperSheetWnd* sheet = pGetCurrSheetView())
         sheet->setFocus();

@@ -28,6 +28,8 @@ void TRVNewsCtrlView::OnSelectCheckService(unsigned int id) {
     services.vCopyToSaved();
     vReloadForServices();
     services.CheckRegisterService(*this);
+    vForgetShownStory();
+    OnShowStory();
     update();
 }
 

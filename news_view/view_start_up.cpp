@@ -189,6 +189,10 @@ void TRVNewsCtrlView::vInitialSheetWnd(ListIndex list, const QRect& rectangle) {
     if (sheet == nullptr)
         return;
     lists[list].vSetGrid(sheet);
+    connect(sheet->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this, list] {
+        if (bPaneShowsStories() && currentMode == static_cast<int>(list))
+            OnShowStory();
+    });
     // A row that scrolls into view is written at once; the deferred refresh comes after the last step.
     connect(sheet, &CSuperSheetWnd::ScrolledVertically, this, [this] {
         vRealUpdateView();

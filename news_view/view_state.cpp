@@ -60,6 +60,7 @@ QVariantMap TRVNewsCtrlView::State() const {
             {QStringLiteral("dataState"), static_cast<int>(GetDataState())},
             {QStringLiteral("caption"), statusText},
             {QStringLiteral("showCategory"), settings.showCategory},
+            {QStringLiteral("storyRow"), shownStoryRow},
             {QStringLiteral("pickedDate"), dateNumber(pickedDate)},
             {QStringLiteral("newsDay"), dateNumber(newsDay)},
             {QStringLiteral("symbol"), QVariantMap{{QStringLiteral("service"), symbols.Current().market},

@@ -140,6 +140,7 @@ void TRVNewsCtrlView::OnSelchangeComboSymbol() {
         symbols.vSelectSymbol(symbols.iSymbolIndex(selected->code));
         return;
     }
+    vForgetShownStory();
     symbols.vSetCurrent(*selected);
     GetSymbolNews(selected->code);
     emit SendChangeSymbol(GetLinkGroup(), selected->market, selected->code);

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/contract/clock.h"
 #include "host/contract/sync_info.h"
+#include "host/controls/my_rich_edit.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/s_button.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "story/story_ids.h"
 #include "tests/support/fake_back_end.h"
 
 #include <QFile>
@@ -348,8 +350,7 @@ TEST_F(NewsViewTest, SurvivesABackEndWithoutServices) {
 TEST_F(NewsViewTest, ChangesWithin100MsAreOneRefresh) {
     addNews(1, 9, 0, 1);
     open();
-    QTest::qWait(ids::refreshDelayMs + 50);
-    EXPECT_EQ(view->RunningTimers(), std::vector<int>());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
     backEnd.asked.clear();
     for (int i = 0; i < 5; ++i)
         view->vUpdateView();
@@ -413,4 +414,50 @@ TEST_F(NewsViewTest, WhatIsSavedOpensTheSame) {
     std::vector<unsigned char> active;
     view->vGetNewsActiveService(active);
     EXPECT_EQ(active, std::vector<unsigned char>{2});
+}
+
+TEST_F(NewsViewTest, ReadsOnWhileHeadlinesArrive) {
+    addNews(1, 9, 0, 1);
+    addNews(1, 9, 10, 2);
+    for (const int sequence : {1, 2}) {
+        const CHeadlineTable entry{localTime(2026, 3, 2, 9, sequence == 1 ? 0 : 10), sequence, 1, 0, 0};
+        backEnd.addStory({entry.time, QStringLiteral("story %1").arg(sequence), entry});
+    }
+    open();
+    auto* pane = GetDlgItem(view.get(), ids::firstChildView + ids::storyPane);
+    ASSERT_NE(pane, nullptr);
+    const auto story = [pane] {
+        return static_cast<MyRichEdit*>(GetDlgItem(pane, story_ids::storyText))->szGetText();
+    };
+    QTest::keyClick(view->Sheet(0), Qt::Key_Down);
+    EXPECT_TRUE(story().contains(QStringLiteral("story 2"))) << story().toStdString();
+    QTest::keyClick(view->Sheet(0), Qt::Key_Down);
+    EXPECT_TRUE(story().contains(QStringLiteral("story 1")));
+    EXPECT_EQ(view->State()[QStringLiteral("storyRow")].toInt(), 1);
+
+    const auto push = [this](unsigned char service, int hour, int minute, std::int32_t sequence) {
+        CHeadline headline;
+        headline.service = service;
+        headline.time = localTime(2026, 3, 2, hour, minute);
+        headline.sequence = sequence;
+        headline.title = QStringLiteral("pushed %1").arg(sequence);
+        view->RecvNewHeadLine(&headline, QStringLiteral("1"), {});
+    };
+    push(1, 9, 20, 3);
+    push(1, 8, 0, 4);
+    push(52, 9, 21, 1);
+    push(99, 9, 22, 1);
+    EXPECT_EQ(titles(0), (QStringList{QStringLiteral("pushed 3"), QStringLiteral("s1 9:10"),
+                                      QStringLiteral("s1 9:00"), QStringLiteral("pushed 4")}));
+    EXPECT_EQ(view->Sheet(0)->cptGetFocusNdx().y(), 2) << "the selected headline stays selected";
+    EXPECT_TRUE(story().contains(QStringLiteral("story 1"))) << "and its story stays on show";
+    QTest::keyClick(view->Sheet(0), Qt::Key_Up);
+    EXPECT_TRUE(story().contains(QStringLiteral("story 2")));
+
+    push(1, 9, 0, 1);
+    EXPECT_EQ(titles(0).front(), QStringLiteral("pushed 1")) << "a headline sent again moves to the top";
+    EXPECT_EQ(titles(0).size(), 4);
+    backEnd.connected = false;
+    push(1, 9, 30, 9);
+    EXPECT_EQ(titles(0).size(), 4) << "nothing is taken while the back end is disconnected";
 }

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// Headlines that arrive while the view is open.
+#include "headline_list/intake.h"
+#include "host/controls/s_date_time_ctrl.h"
+#include "host/controls/sc_combo_box.h"
+#include "news_view/control_ids.h"
+#include "news_view/trv_news_ctrl_view.h"
+#include "story/news_story_view.h"
+
+IntakeState TRVNewsCtrlView::vIntakeState() const {
+    IntakeState state;
+    state.connected = backEnd.bIsConnect() == 1;
+    state.hasDatePicker = controls.Find<SDateTimeCtrl>(ids::datePicker) != nullptr;
+    state.pickedDate = pickedDate;
+    state.newsDay = newsDay;
+    state.services = services.Saved();
+    for (const ListKind& kind : listKinds) {
+        const auto index = static_cast<std::size_t>(kind.index);
+        state.exists[index] = lists[kind.index].pGetGrid() != nullptr;
+        state.shown[index] = loading.bWasShown(kind.index);
+    }
+    const auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
+    const int category = combo != nullptr ? combo->currentIndex() : -1;
+    if (category >= 0 && category < static_cast<int>(categoryComboIds.size()))
+        state.categoryId = categoryComboIds[static_cast<std::size_t>(category)];
+    if (const auto symbol = symbols.SelectedSymbol())
+        state.symbolCode = symbol->code;
+    state.conditions = relationConditions;
+    return state;
+}
+
+void TRVNewsCtrlView::RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
+                                      const QString& symbolCode) {
+    const IntakeState state = vIntakeState();
+    if (headline == nullptr || !state.connected || !state.hasDatePicker)
+        return;
+    for (const IntakeTarget& target : ListsFor({*headline, categoryId, symbolCode}, state))
+        vKeepShownStory(target.list, List(target.list).vProcessNewHeadline(*headline, target.showDate));
+    vUpdateView();
+    vForgetShownStory();
+}
+
+// The pane keeps its story while rows come and go above it.
+void TRVNewsCtrlView::vKeepShownStory(ListIndex list, const HeadlinePlace& place) {
+    NewsStoryView* pane = stage.pGetPane();
+    if (pane == nullptr || !bPaneShowsStories() || place.row < 0 ||
+        static_cast<int>(list) != pane->iGetTable())
+        return;
+    const int shown = pane->GetHeadLinePos();
+    if (place.oldRow == shown)
+        pane->SetHeadLinePos(place.row);
+    else if (place.row <= shown && (place.oldRow < 0 || place.oldRow > shown))
+        pane->SetHeadLinePos(shown + 1);
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// The story of the selected headline: which row is shown, and what the back end has to say about it.
+#include "news_view/control_ids.h"
+#include "news_view/trv_news_ctrl_view.h"
+#include "story/news_story_view.h"
+
+bool TRVNewsCtrlView::bPaneShowsStories() const {
+    return newsType == 0 && storyShowType != StoryShowType::None;
+}
+
+void TRVNewsCtrlView::OnShowStory() {
+    CSuperSheetWnd* sheet = pGetCurrSheetView();
+    const int row = sheet != nullptr ? sheet->cptGetFocusNdx().y() : -1;
+    NewsStoryView* pane = stage.pGetPane();
+    if (row < 0) {
+        stage.vHideDialog();
+        if (pane != nullptr)
+            pane->OnClearStory();
+        return;
+    }
+    sheet->vAutoVerScrolling(row);
+    if (!bPaneShowsStories() || pane == nullptr || row == shownStoryRow)
+        return;
+    shownStoryRow = row;
+    pane->vSetFont(GetViewFont());
+    pane->vSetStoryData(currentMode, row);
+}
+
+void TRVNewsCtrlView::vForgetShownStory() {
+    shownStoryRow = -1;
+}
+
+void TRVNewsCtrlView::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
+    if (HeadlineList* list = CurrentList())
+        list->vUpdateHeadline(entries);
+    if (bPaneShowsStories() && stage.pGetPane() != nullptr)
+        stage.pGetPane()->RespHeadLine(entries);
+}
+
+void TRVNewsCtrlView::RespStory(const CHeadlineTable& entry) {
+    if (bPaneShowsStories() && stage.pGetPane() != nullptr)
+        stage.pGetPane()->RespStory(entry);
+}
+
+void TRVNewsCtrlView::StoryUpdateNotify(const CHeadlineTable* entry) {
+    const HeadlineList* list = CurrentList();
+    if (entry == nullptr || list == nullptr || stage.pGetPane() == nullptr ||
+        list->Table().rowOf(KeyOf(*entry)) < 0)
+        return;
+    stage.pGetPane()->vStoryUpdateNotify(entry);
+}
