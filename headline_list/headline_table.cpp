@@ -45,9 +45,6 @@ void HeadlineTable::remove(int row) {
 
 void HeadlineTable::assign(std::vector<CHeadlineTable> newestFirst) {
     entries = HeadlineRows(newestFirst.begin(), newestFirst.end());
-    // The container makes its room at the top now, not when the first row is put in there.
-    entries.emplace_front();
-    entries.pop_front();
     byKey.rebuild(entries);
     byNumber.rebuild(entries);
 }
