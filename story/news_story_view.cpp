@@ -12,6 +12,7 @@ namespace {
 
 constexpr int sideMargin = 10;
 constexpr int titleLines = 3;
+constexpr int titlePadding = 1;  // leaves the title's third line readable within the height of three
 
 }  // namespace
 
@@ -27,6 +28,7 @@ void NewsStoryView::InitialViewInfo(TRVCfgIO2* settings, const QString& section,
     TRVQuoteBaseView::InitialViewInfo(settings, section, first, second, QStringLiteral("NewsStoryView"));
     titleEdit = new MyRichEdit(this);
     SetWindowId(titleEdit, story_ids::title);
+    titleEdit->document()->setDocumentMargin(titlePadding);
     storyEdit = new MyRichEdit(this);
     SetWindowId(storyEdit, story_ids::storyText);
     notice = new CQuoteStaticEx(this);
