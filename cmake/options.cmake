@@ -22,6 +22,13 @@ if(WIREPANE_SANITIZE)
     target_link_options(wirepane_options INTERFACE -fsanitize=${WIREPANE_SANITIZE})
 endif()
 
+option(WIREPANE_PRECOMPILE "Precompile the headers that nearly every source includes" ON)
+function(wirepane_precompile target)
+    if(WIREPANE_PRECOMPILE)
+        target_precompile_headers(${target} PRIVATE ${ARGN})
+    endif()
+endfunction()
+
 # wirepane_room(NAME [SHARED] SOURCES... LINK libraries...)
 # One library per room (a shared one only for the host contract).
 function(wirepane_room name)
@@ -33,6 +40,7 @@ function(wirepane_room name)
         add_library(${name} STATIC ${ROOM_SOURCES})
     endif()
     target_link_libraries(${name} PUBLIC wirepane_options ${ROOM_LINK})
+    wirepane_precompile(${name} <QString> <QStringList> <QHash> <QVariant> <functional> <memory> <vector>)
 endfunction()
 
 # wirepane_test(NAME SOURCES... LINK libraries...)
@@ -42,6 +50,7 @@ function(wirepane_test name)
     cmake_parse_arguments(TEST "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE wirepane_options wirepane_test_support ${TEST_LINK})
+    wirepane_precompile(${name} <QString> <QStringList> <QVariant> <gtest/gtest.h> <memory> <vector>)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp;WIREPANE_TEST_NEWS=${CMAKE_SOURCE_DIR}/../shared/news"
