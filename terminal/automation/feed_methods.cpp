@@ -27,7 +27,7 @@ std::vector<SymbolRef> symbolsFrom(Params& params) {
     if (params.has(u"related"_s) && !params.value(u"related"_s).isArray())
         params.fail(u"\"related\" must be a list of {market, code}"_s);
     const QJsonArray items = params.value(u"related"_s).toArray();
-    for (const QJsonValue& item : items) {
+    for (const auto& item : items) {
         Params symbol(item.toObject());
         symbols.push_back(
             {static_cast<unsigned char>(symbol.number(u"market"_s, 0, lastId)), symbol.text(u"code"_s)});
@@ -108,7 +108,7 @@ Answer FeedMethods::symbols(Params& params) {
     if (!params.value(u"symbols"_s).isArray())
         params.fail(u"\"symbols\" must be a list of {market, code, name, supported, category}"_s);
     const QJsonArray items = params.value(u"symbols"_s).toArray();
-    for (const QJsonValue& item : items)
+    for (const auto& item : items)
         table.push_back(symbolFrom(params, item));
     if (params.error())
         return {};

@@ -39,8 +39,8 @@ void MethodTable::addModal(const QString& name, std::function<Answer(Params&)> m
     });
 }
 
-void MethodTable::addDeferred(const QString& name, std::function<void(Params&, const Reply&)> method) {
-    methods.insert(name, std::move(method));
+void MethodTable::addDeferred(const QString& name, const std::function<void(Params&, const Reply&)>& method) {
+    methods.insert(name, method);
 }
 
 void MethodTable::call(const RpcRequest& request, const Reply& reply) const {

@@ -39,7 +39,7 @@ public:
     // loop that it has opened runs, so that further requests can act on what it shows.
     void addModal(const QString& name, std::function<Answer(Params&)> method);
     // A method that answers when it can.
-    void addDeferred(const QString& name, std::function<void(Params&, const Reply&)> method);
+    void addDeferred(const QString& name, const std::function<void(Params&, const Reply&)>& method);
 
     // Calls the method. Parameters that it found wrong are its answer, whatever else it came to.
     void call(const RpcRequest& request, const Reply& reply) const;

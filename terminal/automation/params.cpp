@@ -84,7 +84,7 @@ std::optional<std::vector<int>> Params::optionalNumbers(const QString& name) {
         return std::nullopt;
     std::vector<int> numbers;
     const QJsonArray items = value(name).toArray();
-    for (const QJsonValue& item : items) {
+    for (const auto& item : items) {
         if (const auto number = wholeNumber(item, 0, std::numeric_limits<std::int32_t>::max()))
             numbers.push_back(static_cast<int>(*number));
     }

@@ -9,6 +9,8 @@
 #include <chrono>
 #include <map>
 
+using namespace Qt::StringLiterals;
+
 namespace wirepane {
 
 namespace {
@@ -48,7 +50,8 @@ void CategoryDisplay::GetNewsCatColor(int categoryId, QColor& text, QColor& back
 std::vector<CategoryName> categoryNames(EmbeddedBackEnd& backEnd) {
     std::vector<unsigned char> services;
     backEnd.BKQNEWS_bGetAllNewsService(services);
-    std::map<std::int32_t, QString> found;
+    // News without a category has category 0: it shows a dash instead of the text for unknown categories.
+    std::map<std::int32_t, QString> found{{0, u"\u2013"_s}};
     for (const unsigned char service : services) {
         std::vector<QString> ids;
         std::vector<QString> names;

@@ -5,7 +5,6 @@
 #include "backend/store/store_writer.h"
 
 #include <optional>
-#include <utility>
 #include <variant>
 
 using namespace Qt::StringLiterals;
@@ -17,10 +16,9 @@ namespace {
 constexpr std::int64_t progressEvery = 1000;  // items
 
 // The wire numbers its categories for itself; the store may know their names under numbers of its own.
-StoreItem withStoreCategories(StoreItem&& item) {
+void leaveCategoriesToTheStore(StoreItem& item) {
     if (auto* news = std::get_if<NewsItem>(&item))
         news->categoryId.reset();
-    return std::move(item);
 }
 
 // Takes items into a store, and counts.
@@ -59,7 +57,8 @@ Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& option
     std::int64_t seen = 0;
     std::optional<Error> failure;
     const bool whole = SampleWire(options).run([&](StoreItem&& item) {
-        const Done taken = filling.take(withStoreCategories(std::move(item)));
+        leaveCategoriesToTheStore(item);
+        const Done taken = filling.take(item);
         if (!taken)
             failure = Error{taken.error()};
         return !failure && (++seen % progressEvery != 0 || !progress || progress(seen));

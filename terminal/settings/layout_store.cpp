@@ -62,7 +62,7 @@ QVariant settingFromJson(const QJsonValue& value) {
     if (!std::all_of(array.begin(), array.end(), [](const QJsonValue& item) { return item.isString(); }))
         return {};
     QStringList texts;
-    for (const QJsonValue& item : array)
+    for (const auto& item : array)
         texts.append(item.toString());
     return texts;
 }
