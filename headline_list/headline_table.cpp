@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/headline_table.h"
 
+#include "headline_list/sort_order.h"
+
 #include <algorithm>
 
 std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
@@ -12,10 +14,32 @@ std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
 }
 
 int HeadlineTable::rowOf(const HeadlineKey& key) const {
-    return byKey.find(entries, {key.time, key.sequence, key.service, 0, 0});
+    return indexed ? byKey.find(entries, {key.time, key.sequence, key.service, 0, 0}) : rowInOrder(key);
+}
+
+// Entries of one time and number, of several services, stand side by side in a sorted table.
+int HeadlineTable::rowInOrder(const HeadlineKey& key) const {
+    const auto isBefore = [](const CHeadlineTable& entry, const HeadlineKey& wanted) {
+        return entry.time > wanted.time || (entry.time == wanted.time && entry.sequence > wanted.sequence);
+    };
+    auto entry = std::lower_bound(entries.begin(), entries.end(), key, isBefore);
+    for (; entry != entries.end() && entry->time == key.time && entry->sequence == key.sequence; ++entry) {
+        if (entry->service == key.service)
+            return static_cast<int>(entry - entries.begin());
+    }
+    return -1;
+}
+
+void HeadlineTable::index() const {
+    if (indexed)
+        return;
+    byKey.rebuild(entries);
+    byNumber.rebuild(entries);
+    indexed = true;
 }
 
 int HeadlineTable::rowOfSameDay(const HeadlineKey& key) const {
+    index();
     return byNumber.find(entries, {key.time, key.sequence, key.service, 0, 0});
 }
 
@@ -32,12 +56,14 @@ int HeadlineTable::insertPosition(std::int64_t time) const {
 }
 
 void HeadlineTable::insert(int row, const CHeadlineTable& entry) {
+    index();
     entries.insert(entries.begin() + row, entry);
     byKey.inserted(entries, row);
     byNumber.inserted(entries, row);
 }
 
 void HeadlineTable::remove(int row) {
+    index();
     byKey.removing(entries, row);
     byNumber.removing(entries, row);
     entries.erase(entries.begin() + row);
@@ -45,12 +71,16 @@ void HeadlineTable::remove(int row) {
 
 void HeadlineTable::assign(std::vector<CHeadlineTable> newestFirst) {
     entries = HeadlineRows(newestFirst.begin(), newestFirst.end());
-    byKey.rebuild(entries);
-    byNumber.rebuild(entries);
+    byKey.clear();
+    byNumber.clear();
+    indexed = false;
+    if (!std::is_sorted(entries.begin(), entries.end(), NewerFirst))
+        index();
 }
 
 void HeadlineTable::clear() {
     entries = {};
+    indexed = true;
     byKey.clear();
     byNumber.clear();
 }

@@ -40,11 +40,17 @@ public:
     // Takes out a row in [0, size()).
     void remove(int row);
 
+    // Takes a whole table over. A sorted one is searched by its order until the first push asks for the
+    // indexes, so that opening a day does not wait for them.
     void assign(std::vector<CHeadlineTable> newestFirst);
     void clear();
 
 private:
+    void index() const;
+    int rowInOrder(const HeadlineKey& key) const;
+
     HeadlineRows entries;
-    RowIndex<SameKey> byKey;
-    RowIndex<SameNumberOnDay> byNumber;
+    mutable RowIndex<SameKey> byKey;
+    mutable RowIndex<SameNumberOnDay> byNumber;
+    mutable bool indexed = true;  // false: `entries` are sorted, the indexes are to be built
 };
