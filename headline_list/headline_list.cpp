@@ -11,7 +11,10 @@ CHeadlineTable entryOf(const CHeadline& headline) {
 }  // namespace
 
 HeadlineList::HeadlineList(const ListKind& listKind, BKQuoteInterface& newsBackEnd, ListOwner& listOwner)
-    : kind(listKind), backEnd(newsBackEnd), owner(listOwner) {}
+    : kind(listKind), backEnd(newsBackEnd), owner(listOwner) {
+    afterPainting.setSingleShot(true);
+    QObject::connect(&afterPainting, &QTimer::timeout, &afterPainting, [this] { table.BuildIndexes(); });
+}
 
 HeadlineList::~HeadlineList() {
     if (sheet != nullptr)
@@ -24,8 +27,9 @@ void HeadlineList::vSetGrid(CSuperSheetWnd* grid) {
         sheet->vSetCells(this);
 }
 
-void HeadlineList::vSetTable(TableRuns runs) {
-    table.assign(SortedNewestFirst(std::move(runs)));
+void HeadlineList::vSetTable(const TableRuns& runs) {
+    table.assign(runs);
+    afterPainting.start(0);
 }
 
 void HeadlineList::vFillHeadlineTable() {

@@ -12,6 +12,7 @@
 #include "host/controls/super_sheet_wnd.h"
 
 #include <QPointer>
+#include <QTimer>
 
 #include <vector>
 
@@ -40,7 +41,7 @@ public:
     const HeadlineTable& Table() const { return table; }
 
     // Replaces the table by these runs, newest first. The grid follows with vFillHeadlineTable.
-    void vSetTable(TableRuns runs);
+    void vSetTable(const TableRuns& runs);
 
     // Gives the grid one empty row per entry, at the top of its scroll range, and repaints it at once.
     void vFillHeadlineTable();
@@ -99,6 +100,7 @@ private:
     QPointer<CSuperSheetWnd> sheet;
     HeadlineTable table;
     CellState cells;
+    QTimer afterPainting;  // then the table's indexes are built, for the first push to find
 };
 
 // The width of the category column while it is shown.

@@ -19,19 +19,18 @@ public:
     HeadlineList& operator[](ListIndex list) { return *lists[static_cast<std::size_t>(list)]; }
     const HeadlineList& operator[](ListIndex list) const { return *lists[static_cast<std::size_t>(list)]; }
 
-    // Each rebuilds one table, gives its grid the rows at the top and writes the visible ones. True when
-    // there are rows. Dates are keys: yyyymmdd.
-    bool bRebuildAllNews(const QString& dateKey);
-    bool bRebuildSymbol(const CSymbolInfo& symbol);
-    bool bRebuildRelation(const QString& dateKey, const std::vector<RelationCondition>& conditions);
+    // Each reads one table anew, gives its grid the rows at the top and writes the visible ones. A list
+    // without a grid is left alone. True when there are rows. From the selected services, by date (key:
+    // yyyymmdd) or category (key: its id).
+    bool bRebuild(ListIndex list, TableKind kind, const QString& key, RelationFilter filter = nullptr);
+    // Symbol news, from the selected services.
+    bool bRebuildSymbol(const CSymbolInfo& symbol, RelationFilter filter = nullptr);
+    // Warrant news of a date, from the warrant service alone.
     bool bRebuildWarrant(const QString& dateKey);
 
-    // Reads a list again after the set of chosen services has changed. A list without a grid is left alone.
-    void vChangeNewsTable(ListIndex list, TableKind kind, const QString& key, RelationFilter filter);
-    void vChangeSymbolTable(const CSymbolInfo& symbol, RelationFilter filter);
-
 private:
-    bool bRebuild(ListIndex list, TableRuns runs);
+    template <class Read>
+    bool bRebuildFrom(ListIndex list, Read read);
 
     BKQuoteInterface& backEnd;
     ListOwner& owner;

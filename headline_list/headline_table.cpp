@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/headline_table.h"
 
-#include "headline_list/sort_order.h"
-
 #include <algorithm>
 
 std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
@@ -30,7 +28,7 @@ int HeadlineTable::rowInOrder(const HeadlineKey& key) const {
     return -1;
 }
 
-void HeadlineTable::index() const {
+void HeadlineTable::BuildIndexes() const {
     if (indexed)
         return;
     byKey.rebuild(entries);
@@ -39,7 +37,7 @@ void HeadlineTable::index() const {
 }
 
 int HeadlineTable::rowOfSameDay(const HeadlineKey& key) const {
-    index();
+    BuildIndexes();
     return byNumber.find(entries, {key.time, key.sequence, key.service, 0, 0});
 }
 
@@ -56,26 +54,24 @@ int HeadlineTable::insertPosition(std::int64_t time) const {
 }
 
 void HeadlineTable::insert(int row, const CHeadlineTable& entry) {
-    index();
+    BuildIndexes();
     entries.insert(entries.begin() + row, entry);
     byKey.inserted(entries, row);
     byNumber.inserted(entries, row);
 }
 
 void HeadlineTable::remove(int row) {
-    index();
+    BuildIndexes();
     byKey.removing(entries, row);
     byNumber.removing(entries, row);
     entries.erase(entries.begin() + row);
 }
 
-void HeadlineTable::assign(std::vector<CHeadlineTable> newestFirst) {
-    entries = HeadlineRows(newestFirst.begin(), newestFirst.end());
+void HeadlineTable::assign(const TableRuns& runs) {
+    entries = SortedNewestFirst(runs);
     byKey.clear();
     byNumber.clear();
     indexed = false;
-    if (!std::is_sorted(entries.begin(), entries.end(), NewerFirst))
-        index();
 }
 
 void HeadlineTable::clear() {

@@ -4,6 +4,7 @@
 
 #include "headline_list/row_identities.h"
 #include "headline_list/row_index.h"
+#include "headline_list/sort_order.h"
 #include "host/contract/records.h"
 
 #include <cstdint>
@@ -40,13 +41,15 @@ public:
     // Takes out a row in [0, size()).
     void remove(int row);
 
-    // Takes a whole table over. A sorted one is searched by its order until the first push asks for the
-    // indexes, so that opening a day does not wait for them.
-    void assign(std::vector<CHeadlineTable> newestFirst);
+    // Replaces all entries by those of the runs, newest first. They are searched by their order until
+    // BuildIndexes, so that opening a day does not wait for them.
+    void assign(const TableRuns& runs);
+    // Makes the table ready for pushes; the first push does it where nobody else did. Reads all rows once after
+    // an assign.
+    void BuildIndexes() const;
     void clear();
 
 private:
-    void index() const;
     int rowInOrder(const HeadlineKey& key) const;
 
     HeadlineRows entries;

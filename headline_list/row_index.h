@@ -2,15 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/records.h"
+#include "headline_list/sort_order.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <deque>
 #include <span>
 #include <vector>
-
-using HeadlineRows = std::deque<CHeadlineTable>;  // row 0 is the newest
 
 // Finds the first row that is the same as a given entry, where Identity says what "the same" means: it has
 // hash(entry) and same(entry, entry).

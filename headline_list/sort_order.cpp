@@ -3,35 +3,60 @@
 #include "headline_list/sort_order.h"
 
 #include <algorithm>
+#include <bit>
+#include <span>
 #include <tuple>
 
 namespace {
 
-bool everyRunIsSorted(const TableRuns& runs) {
-    std::size_t from = 0;
-    for (const std::size_t end : runs.ends) {
-        const auto begin = runs.entries.begin();
-        if (!std::is_sorted(begin + from, begin + end, NewerFirst))
-            return false;
-        from = end;
+// Hands out the entries of sorted runs in their common order: a knock-out tournament between the heads of the
+// runs, so that every entry is moved once and meets as few others as there are rounds.
+class RunTournament {
+public:
+    explicit RunTournament(const TableRuns& runs)
+        : heads(runs.begin(), runs.end()), leaves(std::bit_ceil(std::max<std::size_t>(runs.size(), 1))) {
+        heads.resize(leaves);
+        winners.resize(2 * leaves);
+        for (std::size_t run = 0; run < leaves; ++run)
+            winners[leaves + run] = run;
+        for (std::size_t node = leaves; node-- > 1;)
+            play(node);
     }
-    return true;
-}
 
-// Merges neighbouring runs in pairs from `runs` into `merged`.
-void mergePairs(const TableRuns& runs, TableRuns& merged) {
-    merged.entries.resize(runs.entries.size());
-    merged.ends.clear();
-    const auto begin = runs.entries.begin();
-    std::size_t from = 0;
-    for (std::size_t i = 0; i < runs.ends.size(); i += 2) {
-        const std::size_t middle = runs.ends[i];
-        const std::size_t end = i + 1 < runs.ends.size() ? runs.ends[i + 1] : middle;
-        std::merge(begin + from, begin + middle, begin + middle, begin + end, merged.entries.begin() + from,
-                   NewerFirst);
-        merged.ends.push_back(end);
-        from = end;
+    // Null when all entries are out.
+    const CHeadlineTable* take() {
+        std::span<const CHeadlineTable>& head = heads[winners[1]];
+        if (head.empty())
+            return nullptr;
+        const CHeadlineTable* entry = head.data();
+        head = head.subspan(1);
+        for (std::size_t node = (leaves + winners[1]) / 2; node >= 1; node /= 2)
+            play(node);
+        return entry;
     }
+
+private:
+    // Of equal entries the one of the earlier run wins.
+    void play(std::size_t node) {
+        const std::size_t earlier = winners[2 * node];
+        const std::size_t later = winners[2 * node + 1];
+        const bool laterWins =
+            !heads[later].empty() &&
+            (heads[earlier].empty() || NewerFirst(heads[later].front(), heads[earlier].front()));
+        winners[node] = laterWins ? later : earlier;
+    }
+
+    std::vector<std::span<const CHeadlineTable>> heads;  // what is left of each run
+    std::size_t leaves;
+    std::vector<std::size_t> winners;  // by node: 1 is the final, its children are 2 and 3, and so on
+};
+
+HeadlineRows sortedWhole(const TableRuns& runs) {
+    std::vector<CHeadlineTable> entries;
+    for (const std::vector<CHeadlineTable>& run : runs)
+        entries.insert(entries.end(), run.begin(), run.end());
+    std::stable_sort(entries.begin(), entries.end(), NewerFirst);
+    return {entries.begin(), entries.end()};
 }
 
 }  // namespace
@@ -40,17 +65,15 @@ bool NewerFirst(const CHeadlineTable& a, const CHeadlineTable& b) {
     return std::tie(a.time, a.sequence, a.second, a.last) > std::tie(b.time, b.sequence, b.second, b.last);
 }
 
-std::vector<CHeadlineTable> SortedNewestFirst(TableRuns runs) {
-    if (runs.ends.empty() || runs.ends.back() != runs.entries.size())
-        runs.EndRun();
-    if (!everyRunIsSorted(runs)) {
-        std::stable_sort(runs.entries.begin(), runs.entries.end(), NewerFirst);
-        return std::move(runs.entries);
-    }
-    TableRuns merged;
-    while (runs.ends.size() > 1) {
-        mergePairs(runs, merged);
-        std::swap(runs, merged);
-    }
-    return std::move(runs.entries);
+HeadlineRows SortedNewestFirst(const TableRuns& runs) {
+    const auto isSorted = [](const std::vector<CHeadlineTable>& run) {
+        return std::is_sorted(run.begin(), run.end(), NewerFirst);
+    };
+    if (!std::all_of(runs.begin(), runs.end(), isSorted))
+        return sortedWhole(runs);
+    HeadlineRows rows;
+    RunTournament tournament(runs);
+    while (const CHeadlineTable* entry = tournament.take())
+        rows.push_back(*entry);
+    return rows;
 }

@@ -5,18 +5,21 @@
 namespace {
 
 // Headlines come in the order of their entries; those that are not at hand are left out.
-void keepRelated(const std::vector<CHeadlineTable>& entries, const std::vector<CHeadline>& headlines,
-                 const std::vector<RelationCondition>& conditions, std::vector<CHeadlineTable>& kept) {
+std::vector<CHeadlineTable> related(const std::vector<CHeadlineTable>& entries,
+                                    const std::vector<CHeadline>& headlines,
+                                    const std::vector<RelationCondition>& conditions) {
+    std::vector<CHeadlineTable> kept;
     auto headline = headlines.begin();
     for (const CHeadlineTable& entry : entries) {
         if (headline == headlines.end())
-            return;
+            break;
         if (KeyOf(entry) != KeyOf(*headline))
             continue;
         if (CheckIsRelationSearch(conditions, *headline, headline->categoryId, {}))
             kept.push_back(entry);
         ++headline;
     }
+    return kept;
 }
 
 template <class Read>
@@ -29,16 +32,14 @@ TableRuns readSelected(BKQuoteInterface& backEnd, const std::vector<ServiceEntry
     for (const ServiceEntry& entry : services) {
         if (!entry.selected)
             continue;
-        if (filter == nullptr) {
-            read(entry.service, runs.entries);
-        } else {
-            std::vector<CHeadlineTable> entries;
+        std::vector<CHeadlineTable> entries;
+        read(entry.service, entries);
+        if (filter != nullptr) {
             std::vector<CHeadline> headlines;
-            read(entry.service, entries);
             backEnd.BKQNEWS_iGetHeadline(entry.service, headlines, entries);
-            keepRelated(entries, headlines, *filter, runs.entries);
+            entries = related(entries, headlines, *filter);
         }
-        runs.EndRun();
+        runs.push_back(std::move(entries));
     }
     return runs;
 }
@@ -63,8 +64,7 @@ TableRuns ReadSymbolTables(BKQuoteInterface& backEnd, const std::vector<ServiceE
 
 TableRuns ReadServiceTable(BKQuoteInterface& backEnd, unsigned char service, TableKind kind,
                            const QString& key) {
-    TableRuns runs;
-    backEnd.BKQNEWS_iGetHeadlineTable(service, runs.entries, static_cast<int>(kind), key);
-    runs.EndRun();
+    TableRuns runs(1);
+    backEnd.BKQNEWS_iGetHeadlineTable(service, runs.front(), static_cast<int>(kind), key);
     return runs;
 }

@@ -121,7 +121,7 @@ bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
     bool hasRows = true;
     switch (*index) {
         case ListIndex::All:
-            hasRows = lists.bRebuildAllNews(PickedDateKey());
+            hasRows = lists.bRebuild(ListIndex::All, TableKind::ByDate, PickedDateKey());
             break;
         case ListIndex::Category:
             List(*index).vRefill();
@@ -144,7 +144,8 @@ bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
             return true;
         }
         case ListIndex::Relation:
-            hasRows = lists.bRebuildRelation(DateKey(host_clock::today()), relationConditions);
+            hasRows =
+                lists.bRebuild(*index, TableKind::ByDate, DateKey(host_clock::today()), &relationConditions);
             break;
         case ListIndex::Warrant:
             services.vSelect(static_cast<std::size_t>(services.iGetWarrantIndex()), true);

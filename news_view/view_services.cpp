@@ -48,12 +48,12 @@ void TRVNewsCtrlView::vReloadForServices() {
         vRefreshCategoryCombo(combo != nullptr ? combo->currentText() : QString());
     }
     if (symbols.SelectedSymbol())
-        lists.vChangeSymbolTable(symbols.Current(), vRelationFilter());
+        lists.bRebuildSymbol(symbols.Current(), vRelationFilter());
     vChangeNewsTable(ListIndex::Relation, TableKind::ByDate, DateKey(host_clock::today()));
 }
 
 void TRVNewsCtrlView::vChangeNewsTable(ListIndex list, TableKind kind, const QString& key) {
-    lists.vChangeNewsTable(list, kind, key, vRelationFilter());
+    lists.bRebuild(list, kind, key, vRelationFilter());
 }
 
 RelationFilter TRVNewsCtrlView::vRelationFilter() const {

@@ -1,20 +1,17 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-// What the store costs: taking news in, opening a day, looking visible rows up. The counters say what each is
+// What the store costs: taking news in, looking visible rows up. The counters say what each is
 // compared with; a ratio of 1 is as good as the bare database.
 #include "backend/store/embedded_back_end.h"
-#include "backend/store/store_file.h"
 #include "bench/backend/big_store.h"
 #include "bench/backend/news_samples.h"
 #include "bench/backend/plain_inserts.h"
+#include "bench/backend/store_timing.h"
 
 #include <QCoreApplication>
 
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <random>
-#include <sqlite3.h>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -22,26 +19,6 @@ using namespace Qt::StringLiterals;
 namespace wirepane::bench {
 
 namespace {
-
-template <class Run>
-double secondsOf(Run run) {
-    const auto from = std::chrono::steady_clock::now();
-    run();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
-}
-
-double median(std::vector<double> values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-std::unique_ptr<Database> opened(const QString& path) {
-    Result<std::unique_ptr<Database>> store = openStore(path);
-    if (!store)
-        throw std::runtime_error(store.error().toStdString());
-    return std::move(store.value());
-}
 
 void takeAllIn(StoreWriter& writer, const std::vector<NewsItem>& items) {
     bool good = static_cast<bool>(writer.begin());
@@ -73,55 +50,11 @@ void takeIn(benchmark::State& state) {
     state.counters["of_plain"] = median(bare) / median(own);
 }
 
-// The time and number of every headline of the day, and nothing made of them.
-std::int64_t readIndex(Database& store) {
-    const DayBounds bounds = boundsOf(newsDay);
-    sqlite3_stmt* statement = nullptr;
-    sqlite3_prepare_v2(store.handle(),
-                       "SELECT time, sequence FROM headlines WHERE service = ? AND time >= ? AND time < ? "
-                       "ORDER BY time DESC, sequence DESC",
-                       -1, &statement, nullptr);
-    std::int64_t sum = 0;
-    for (int service = 1; service <= serviceCount; ++service) {
-        sqlite3_bind_int(statement, 1, service);
-        sqlite3_bind_int64(statement, 2, bounds.begin);
-        sqlite3_bind_int64(statement, 3, bounds.end);
-        while (sqlite3_step(statement) == SQLITE_ROW)
-            sum += sqlite3_column_int64(statement, 0) + sqlite3_column_int(statement, 1);
-        sqlite3_reset(statement);
-    }
-    sqlite3_finalize(statement);
-    return sum;
-}
-
 std::vector<CHeadlineTable> readTables(EmbeddedBackEnd& backEnd) {
     std::vector<CHeadlineTable> table;
     for (unsigned char service = 1; service <= serviceCount; ++service)
         backEnd.BKQNEWS_iGetHeadlineTable(service, table, 0, newsDay.toString(u"yyyyMMdd"_s));
     return table;
-}
-
-// The day's tables of all services from a back end that was just opened, beside the bare read of the same
-// index by a connection that was just opened. of_bare: the time as a multiple of the bare one's;
-// again_of_bare: the second time.
-void openDay(benchmark::State& state) {
-    const BigStore& store = BigStore::of(static_cast<int>(state.range(0)));
-    std::vector<double> first;
-    std::vector<double> again;
-    std::vector<double> bare;
-    for (auto unused : state) {
-        const auto connection = opened(store.path());
-        bare.push_back(secondsOf([&] { benchmark::DoNotOptimize(readIndex(*connection)); }));
-        EmbeddedBackEnd backEnd(opened(store.path()));
-        std::size_t entries = 0;
-        first.push_back(secondsOf([&] { entries = readTables(backEnd).size(); }));
-        again.push_back(secondsOf([&] { benchmark::DoNotOptimize(readTables(backEnd)); }));
-        state.SetIterationTime(first.back());
-        if (entries != static_cast<std::size_t>(state.range(0)))
-            throw std::runtime_error("the day is not whole");
-    }
-    state.counters["of_bare"] = median(first) / median(bare);
-    state.counters["again_of_bare"] = median(again) / median(bare);
 }
 
 // The headlines of 40 rows anywhere in the day, none of them looked up before. vs_1000: the time as a
@@ -156,11 +89,9 @@ void lookUpVisibleRows(benchmark::State& state) {
 }  // namespace wirepane::bench
 
 using wirepane::bench::lookUpVisibleRows;
-using wirepane::bench::openDay;
 using wirepane::bench::takeIn;
 
 BENCHMARK(takeIn)->Arg(1000)->Arg(20'000)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(openDay)->Arg(1000)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(lookUpVisibleRows)->Arg(1000)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char** argv) {

@@ -12,8 +12,7 @@ void mergeTables(benchmark::State& state) {
     TableRuns runs;
     ArrayBackEnd backEnd(static_cast<int>(state.range(0)));
     for (unsigned char service = 1; service <= serviceCount; ++service) {
-        backEnd.BKQNEWS_iGetHeadlineTable(service, runs.entries, 0, {});
-        runs.EndRun();
+        backEnd.BKQNEWS_iGetHeadlineTable(service, runs.emplace_back(), 0, {});
     }
     measure(state, "merge", [&] { benchmark::DoNotOptimize(SortedNewestFirst(runs)); });
 }

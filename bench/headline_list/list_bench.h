@@ -74,7 +74,7 @@ struct Fixture {
         lists[ListIndex::All].vSetGrid(CreateHeadlineSheet(&window, window.rect(), 0, backEnd));
         window.show();
     }
-    void open() { lists.bRebuildAllNews({}); }
+    void open() { lists.bRebuild(ListIndex::All, TableKind::ByDate, {}); }
 
     QWidget window;
     ArrayBackEnd backEnd;

@@ -17,7 +17,7 @@ TEST_F(HeadlineListTest, ADayOfTickedServicesIsMergedNewestFirst) {
     backEnd.add(16, localTime(2026, 3, 2, 9, 20), 1, QStringLiteral("not ticked"));
     backEnd.add(1, localTime(2026, 3, 1, 9, 20), 3, QStringLiteral("the day before"));
     HeadlineList& all = list(ListIndex::All);
-    EXPECT_TRUE(lists.bRebuildAllNews(day));
+    EXPECT_TRUE(lists.bRebuild(ListIndex::All, TableKind::ByDate, day));
     EXPECT_EQ(rows(all),
               (QStringList{QStringLiteral("09:30 | Markets | b9"), QStringLiteral("09:30 | (recover) | a2"),
                            QStringLiteral("09:10 | Markets | b1"), QStringLiteral("09:00 | Markets | a1")}));
@@ -25,7 +25,7 @@ TEST_F(HeadlineListTest, ADayOfTickedServicesIsMergedNewestFirst) {
     EXPECT_FALSE(all.TextColour(1, 1).isValid());
     EXPECT_FALSE(all.TextColour(0, 2).isValid());
 
-    EXPECT_FALSE(lists.bRebuildAllNews(QStringLiteral("20250101")));
+    EXPECT_FALSE(lists.bRebuild(ListIndex::All, TableKind::ByDate, QStringLiteral("20250101")));
     EXPECT_EQ(all.pGetGrid()->iGetRowCount(), 0);
     EXPECT_EQ(rows(all), QStringList());
 }
@@ -34,7 +34,7 @@ TEST_F(HeadlineListTest, OnlyVisibleRowsAreReadAndWritten) {
     for (int i = 0; i < 200; ++i)
         backEnd.add(1, localTime(2026, 3, 2, 9, 0, i % 60) + 60 * (i / 60), i, QString::number(i));
     HeadlineList& all = list(ListIndex::All);
-    lists.bRebuildAllNews(day);
+    lists.bRebuild(ListIndex::All, TableKind::ByDate, day);
     const int page = all.pGetGrid()->iGetRowsPerPage();
     ASSERT_GE(page, 4);
     ASSERT_LE(page, 6);
@@ -55,7 +55,7 @@ TEST_F(HeadlineListTest, OnlyVisibleRowsAreReadAndWritten) {
 TEST_F(HeadlineListTest, ARowWithItsTitleIsNotWrittenAgain) {
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("same"), 7);
     HeadlineList& all = list(ListIndex::All);
-    lists.bRebuildAllNews(day);
+    lists.bRebuild(ListIndex::All, TableKind::ByDate, day);
     const int written = owner.rowsWritten;
     all.vFillHeadline();
     EXPECT_EQ(owner.rowsWritten, written);
@@ -77,7 +77,7 @@ TEST_F(HeadlineListTest, RowsWithoutAHeadlineShowThePlaceholder) {
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("late"), 7, {}, false);
     backEnd.add(1, localTime(2026, 3, 2, 8, 0), 2, QStringLiteral("here"), 7);
     HeadlineList& all = list(ListIndex::All);
-    lists.bRebuildAllNews(day);
+    lists.bRebuild(ListIndex::All, TableKind::ByDate, day);
     EXPECT_EQ(rows(all).front(), QStringLiteral(" |  | "));
     all.vFillTempHeadline();
     EXPECT_EQ(rows(all),
@@ -114,13 +114,15 @@ TEST_F(HeadlineListTest, EachListAsksItsOwnServices) {
     list(ListIndex::Category);
     list(ListIndex::Symbol);
     list(ListIndex::Relation);
-    lists.vChangeNewsTable(ListIndex::Category, TableKind::ByCategory, QStringLiteral("7"), nullptr);
+    lists.bRebuild(ListIndex::Category, TableKind::ByCategory, QStringLiteral("7"));
     EXPECT_EQ(rows(lists[ListIndex::Category]).size(), 2);
     EXPECT_EQ(lists[ListIndex::Category].Text(0, 0), QStringLiteral("03/02 09:00"));
     EXPECT_TRUE(lists.bRebuildSymbol({16, QStringLiteral("2330")}));
     EXPECT_FALSE(lists.bRebuildSymbol({16, QStringLiteral("233")}));
-    EXPECT_FALSE(lists.bRebuildRelation(day, {}));
-    EXPECT_TRUE(lists.bRebuildRelation(day, {{1, {7}, {QStringLiteral("2")}}}));
+    std::vector<RelationCondition> conditions;
+    EXPECT_FALSE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &conditions));
+    conditions = {{1, {7}, {QStringLiteral("2")}}};
+    EXPECT_TRUE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &conditions));
     EXPECT_EQ(rows(lists[ListIndex::Relation]), QStringList{QStringLiteral("09:00 | Markets | 2")});
 }
 
@@ -129,7 +131,8 @@ TEST_F(HeadlineListTest, TheRelationTestSkipsHeadlinesThatAreNotAtHand) {
     backEnd.add(1, localTime(2026, 3, 2, 8, 0), 2, QStringLiteral("OIL"), 7);
     backEnd.add(1, localTime(2026, 3, 2, 7, 0), 3, QStringLiteral("RATE"), 7);
     list(ListIndex::Relation);
-    EXPECT_TRUE(lists.bRebuildRelation(day, {{1, {7}, {QStringLiteral("RATE")}}}));
+    const std::vector<RelationCondition> conditions = {{1, {7}, {QStringLiteral("RATE")}}};
+    EXPECT_TRUE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &conditions));
     EXPECT_EQ(rows(lists[ListIndex::Relation]), QStringList{QStringLiteral("07:00 | Markets | RATE")});
 }
 
@@ -137,7 +140,7 @@ TEST_F(HeadlineListTest, TwoColumnsHaveNoCategory) {
     owner.newsType = 1;
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("two"), 7);
     HeadlineList& all = list(ListIndex::All);
-    lists.bRebuildAllNews(day);
+    lists.bRebuild(ListIndex::All, TableKind::ByDate, day);
     EXPECT_EQ(rows(all), QStringList{QStringLiteral("09:00 | two")});
     EXPECT_FALSE(all.TextColour(0, 1).isValid());
     const int written = owner.rowsWritten;
@@ -147,7 +150,9 @@ TEST_F(HeadlineListTest, TwoColumnsHaveNoCategory) {
 
 TEST_F(HeadlineListTest, NothingHappensWithoutAGridOrARow) {
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("unseen"));
-    EXPECT_TRUE(lists.bRebuildAllNews(day));
+    EXPECT_FALSE(lists.bRebuild(ListIndex::All, TableKind::ByDate, day));
+    lists[ListIndex::All].vSetTable(ReadServiceTable(backEnd, 1, TableKind::ByDate, day));
+    EXPECT_EQ(lists[ListIndex::All].Table().size(), 1);
     EXPECT_EQ(owner.rowsWritten, 0);
     lists[ListIndex::All].vFillTempHeadline();
     lists[ListIndex::All].vUpdateHeadline(0, {}, true);

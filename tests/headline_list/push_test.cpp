@@ -88,9 +88,9 @@ protected:
     // Fills a list with headlines of one service, newest first, one a minute; the newest is of noon.
     HeadlineList& filled(ListIndex index, int count) {
         HeadlineList& result = list(index);
-        TableRuns runs;
+        TableRuns runs(1);
         for (int i = 0; i < count; ++i)
-            runs.entries.push_back({noon - 60 * i, 1000 - i, 1, 0, 0});
+            runs.front().push_back({noon - 60 * i, 1000 - i, 1, 0, 0});
         result.vSetTable(runs);
         result.vRefill();
         return result;

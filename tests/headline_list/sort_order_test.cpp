@@ -15,7 +15,8 @@ CHeadlineTable entry(std::int64_t time, std::int32_t sequence, unsigned char ser
     return {time, sequence, service, second, last};
 }
 
-std::vector<HeadlineKey> keysOf(const std::vector<CHeadlineTable>& entries) {
+template <class Entries>
+std::vector<HeadlineKey> keysOf(const Entries& entries) {
     std::vector<HeadlineKey> keys;
     for (const CHeadlineTable& e : entries)
         keys.push_back(KeyOf(e));
@@ -52,17 +53,17 @@ TEST(SortOrder, MergingEqualsAStableSort) {
     for (int round = 0; round < 300; ++round) {
         TableRuns runs;
         const int runCount = static_cast<int>(random() % 9);
-        for (int run = 0; run < runCount; ++run) {
-            const auto from = static_cast<std::ptrdiff_t>(runs.entries.size());
+        std::vector<CHeadlineTable> expected;
+        for (int number = 0; number < runCount; ++number) {
+            std::vector<CHeadlineTable>& run = runs.emplace_back();
             const int length = static_cast<int>(random() % 40);
             for (int i = 0; i < length; ++i)
-                runs.entries.push_back(entry(random() % 20, static_cast<std::int32_t>(random() % 4),
-                                             static_cast<unsigned char>(run)));
+                run.push_back(entry(random() % 20, static_cast<std::int32_t>(random() % 4),
+                                    static_cast<unsigned char>(number)));
             if (random() % 8 != 0)
-                std::stable_sort(runs.entries.begin() + from, runs.entries.end(), NewerFirst);
-            runs.EndRun();
+                std::stable_sort(run.begin(), run.end(), NewerFirst);
+            expected.insert(expected.end(), run.begin(), run.end());
         }
-        std::vector<CHeadlineTable> expected = runs.entries;
         std::stable_sort(expected.begin(), expected.end(), NewerFirst);
         ASSERT_EQ(keysOf(SortedNewestFirst(runs)), keysOf(expected)) << "round " << round;
     }
@@ -77,9 +78,8 @@ TEST(HeadlineTable, FindsTheFirstRowOfEveryKey) {
         for (int i = 0; i < size; ++i)
             entries.push_back(entry(random() % 500, static_cast<std::int32_t>(random() % 3),
                                     static_cast<unsigned char>(random() % 2)));
-        if (size % 2 == 1)
-            std::stable_sort(entries.begin(), entries.end(), NewerFirst);
-        table.assign(entries);
+        table.assign({entries});
+        std::stable_sort(entries.begin(), entries.end(), NewerFirst);
         ASSERT_EQ(table.size(), size);
         for (int row = 0; row < size; ++row) {
             const auto first = std::find_if(entries.begin(), entries.end(), [&](const CHeadlineTable& e) {
@@ -96,7 +96,7 @@ TEST(HeadlineTable, FindsTheFirstRowOfEveryKey) {
 
 TEST(HeadlineTable, CutsRowsAtTheEnd) {
     HeadlineTable table;
-    table.assign({entry(3, 0), entry(2, 0), entry(1, 0)});
+    table.assign({{entry(3, 0), entry(2, 0), entry(1, 0)}});
     struct Case {
         int from, count;
         std::vector<std::int64_t> times;

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/store_file.h"
+
+#include <algorithm>
+#include <chrono>
+#include <memory>
+#include <stdexcept>
+#include <vector>
+
+namespace wirepane::bench {
+
+template <class Run>
+double secondsOf(Run run) {
+    const auto from = std::chrono::steady_clock::now();
+    run();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
+}
+
+inline double median(std::vector<double> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+inline std::unique_ptr<Database> opened(const QString& path) {
+    Result<std::unique_ptr<Database>> store = openStore(path);
+    if (!store)
+        throw std::runtime_error(store.error().toStdString());
+    return std::move(store.value());
+}
+
+}  // namespace wirepane::bench
