@@ -83,20 +83,27 @@ void HeadlineList::vUpdateHeadline(int row, const CHeadline& headline, bool show
 
 void HeadlineList::writeHeadline(int row, const CHeadline& headline, bool showDate) {
     const QString category = owner.cszTransferCatIDToCatName(headline.categoryId);
-    writeCells(row, {TimeText(headline.time, showDate), ShownText(backEnd, headline.service, category),
-                     ShownText(backEnd, headline.service, headline.title), QColor(), showDate});
+    writeCells(row,
+               {TimeText(headline.time, showDate), ShownText(backEnd, headline.service, category),
+                ShownText(backEnd, headline.service, headline.title), categoryColour(category), showDate});
 }
 
 void HeadlineList::vFillSheet(int row, const QString& time, const QString& category, const QString& title) {
-    writeCells(row, {time, category, title, QColor(), kind.showDate});
+    writeCells(row, {time, category, title, categoryColour(category), kind.showDate});
 }
 
-void HeadlineList::writeCells(int row, WrittenCells written) {
-    if (sheet == nullptr || row < 0 || row >= table.size())
-        return;
+// By the name as the catalogue has it, not as it is shown.
+QColor HeadlineList::categoryColour(const QString& name) const {
+    QColor text;
     QColor background;
     if (!hasTwoColumns())
-        owner.GetCategoryColor(written.category, written.categoryColour, background);
+        owner.GetCategoryColor(name, text, background);
+    return text;
+}
+
+void HeadlineList::writeCells(int row, const WrittenCells& written) {
+    if (sheet == nullptr || row < 0 || row >= table.size())
+        return;
     cells.write(KeyOf(table.at(row)), written);
     if (cells.size() > CellState::enough)
         letCellsGo();

@@ -90,7 +90,8 @@ private:
     std::vector<CHeadline> headlinesOf(const std::vector<CHeadlineTable>& entries) const;
     const WrittenCells* cellsOf(int row) const;
     void writeHeadline(int row, const CHeadline& headline, bool showDate);
-    void writeCells(int row, WrittenCells written);
+    QColor categoryColour(const QString& name) const;
+    void writeCells(int row, const WrittenCells& written);
     void letCellsGo();
     void forgetCells(const HeadlineKey& key);
 

@@ -44,8 +44,8 @@ public:
     // Replaces all entries by those of the runs, newest first. They are searched by their order until
     // BuildIndexes, so that opening a day does not wait for them.
     void assign(const TableRuns& runs);
-    // Makes the table ready for pushes; the first push does it where nobody else did. Reads all rows once after
-    // an assign.
+    // Makes the table ready for pushes; the first push does it where nobody else did. Reads all rows once
+    // after an assign.
     void BuildIndexes() const;
     void clear();
 

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/fixed_services.h"
+
 #include <cstdint>
 
 // The service whose news are warrant news: it has a list of its own.
-inline constexpr unsigned char warrantService = 52;
 
 // One news service in the view's list.
 struct ServiceEntry {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/symbol_binding.h"
 
+#include "host/contract/fixed_services.h"
 #include "host/contract/search_control.h"
 #include "host/controls/quote_combo_box_auto.h"
 #include "host/controls/sc_combo_box.h"
@@ -13,9 +14,6 @@
 
 namespace {
 
-constexpr unsigned char stockExchange = 16;
-constexpr unsigned char emergingBoard = 122;
-constexpr unsigned char hongKong = 22;
 constexpr int symbolsWithNews = 1;
 constexpr int supportedHongKongCategory = 1;
 
@@ -39,11 +37,11 @@ int SymbolBinding::iInitServiceComboBox(unsigned char& selected) {
         return -1;
     combo->clear();
     services.clear();
-    vOfferService(stockExchange, stockExchangeLabel, all);
-    vOfferService(emergingBoard, emergingBoardLabel, all);
-    vOfferService(hongKong, hongKongLabel, all);
+    vOfferService(stockExchangeService, stockExchangeLabel, all);
+    vOfferService(emergingBoardService, emergingBoardLabel, all);
+    vOfferService(hongKongService, hongKongLabel, all);
     unsigned char delayed = 0;
-    if (!contains(services, hongKong) && backEnd.bGetServiceID2Delay(hongKong, delayed))
+    if (!contains(services, hongKongService) && backEnd.bGetServiceID2Delay(hongKongService, delayed))
         vOfferService(delayed, hongKongLabel, all);
     if (services.empty())
         return -1;
@@ -72,9 +70,10 @@ void SymbolBinding::vDropService(unsigned char service) {
 
 bool SymbolBinding::bGetSymbols(unsigned char service, std::vector<QString>& codes,
                                 std::vector<QString>& names) const {
-    const bool found = service == emergingBoard ? backEnd.bGetSymbolID(service, codes, names)
-                                                : SearchControl::GetSearchObjInterface()->GetSymbolsByService(
-                                                      service, codes, names, symbolsWithNews);
+    const bool found = service == emergingBoardService
+                           ? backEnd.bGetSymbolID(service, codes, names)
+                           : SearchControl::GetSearchObjInterface()->GetSymbolsByService(
+                                 service, codes, names, symbolsWithNews);
     return found && !codes.empty() && codes.size() == names.size();
 }
 
@@ -107,12 +106,13 @@ int SymbolBinding::iInitSymbolComboBox(unsigned char service) {
 
 bool SymbolBinding::IsSupportNews(unsigned char service, const QString& code) const {
     const bool candidate = bIsNormalTWSESymbolID(service, code) ||
-                           (service == emergingBoard && !code.startsWith(u'#')) ||
-                           backEnd.bIsFromTheSameAuthServiceID(service, hongKong) == 1;
-    if (!candidate || service != hongKong)
+                           (service == emergingBoardService && !code.startsWith(u'#')) ||
+                           backEnd.bIsFromTheSameAuthServiceID(service, hongKongService) == 1;
+    if (!candidate || service != hongKongService)
         return candidate;
     int category = 0;
-    return backEnd.bGetCategorybySymbolID(category, hongKong, code) && category == supportedHongKongCategory;
+    return backEnd.bGetCategorybySymbolID(category, hongKongService, code) &&
+           category == supportedHongKongCategory;
 }
 
 int SymbolBinding::iServiceIndex(unsigned char service) const {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Switching the news view between its modes, and laying it out.
+#include "host/contract/fixed_services.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
@@ -15,7 +16,7 @@ constexpr int storyShowTypes = 3;
 }  // namespace
 
 int TRVNewsCtrlView::iGetFunctionID(int stored) const {
-    if (!ListOfNumber(stored) || (stored == symbolMode && bIsAuthService(16) != 1))
+    if (!ListOfNumber(stored) || (stored == symbolMode && bIsAuthService(stockExchangeService) != 1))
         return 0;
     return stored;
 }

@@ -3,6 +3,7 @@
 // The start-up of the news view: what the host's first calls build, in the order in which it must be built.
 #include "headline_list/cell_texts.h"
 #include "headline_list/language_keys.h"
+#include "host/contract/fixed_services.h"
 #include "host/contract/ini_file.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/xtp_tab_control.h"
@@ -17,7 +18,6 @@ namespace {
 const QString viewKey = QStringLiteral("TRVNewsCtrlView");
 const QString symbolNewsType = QStringLiteral("MULTITIMESALSE_SYMBOLNEWS");
 
-constexpr unsigned char securitiesService = 16;
 constexpr int serviceButtonRoom = 84;
 constexpr int gridTop = 52;
 constexpr int tabStripHeight = 22;
@@ -86,11 +86,11 @@ void TRVNewsCtrlView::vTakeNewsType() {
     settings = ViewSettings::read(*settingsReader, settingsPath,
                                   symbolNewsOnly ? static_cast<int>(ListIndex::Symbol) : 0);
     symbolFromLink = CSyncInfo::GetSettingCFG()->SYS_bGetIsLinkNews();
-    symbols.vSetCurrent({securitiesService, {}});
+    symbols.vSetCurrent({stockExchangeService, {}});
     if (symbolNewsOnly) {
         settings.functions = symbolNewsMask;
         symbols.vSetCurrent(
-            {securitiesService, CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(GetLinkGroup())});
+            {stockExchangeService, CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(GetLinkGroup())});
     }
 }
 
@@ -155,7 +155,7 @@ void TRVNewsCtrlView::vViewCreate() {
 bool TRVNewsCtrlView::bModeIsOffered(ListIndex mode) const {
     switch (mode) {
         case ListIndex::Symbol:
-            return bIsAuthService(securitiesService) == 1;
+            return bIsAuthService(stockExchangeService) == 1;
         case ListIndex::Relation:
             return switches.showNormalSearch;
         case ListIndex::WarningTerm:

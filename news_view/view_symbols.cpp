@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The symbol mode of the news view: its combos, and symbol changes by the user, by linked views and by the
 // host.
+#include "host/contract/fixed_services.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/sc_combo_box.h"
 #include "news_view/control_ids.h"
@@ -11,7 +12,6 @@
 namespace {
 
 constexpr int symbolMode = static_cast<int>(ListIndex::Symbol);
-constexpr unsigned char stockExchange = 16;
 constexpr int symbolNewsType = 2;
 
 const QString noSelectionCode = QStringLiteral("#001");
@@ -185,7 +185,7 @@ int TRVNewsCtrlView::GetCurrSymbolInfo(unsigned char& service, QString& code) {
     if (currentMode != symbolMode || !symbols.bHasSymbols())
         return TRVQuoteBaseView::GetCurrSymbolInfo(service, code);
     const CSymbolInfo selected =
-        symbols.SelectedSymbol().value_or(CSymbolInfo{stockExchange, noSelectionCode});
+        symbols.SelectedSymbol().value_or(CSymbolInfo{stockExchangeService, noSelectionCode});
     service = selected.market;
     code = selected.code;
     return 1;

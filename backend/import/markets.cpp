@@ -17,11 +17,11 @@ struct Exchange {
 };
 
 constexpr std::array<Exchange, 15> exchanges{{
-    {"XTAI", listedMarket},
-    {"TWSE", listedMarket},
-    {"TAI", listedMarket},
-    {"ROCO", overTheCounterMarket},
-    {"TPEX", overTheCounterMarket},
+    {"XTAI", stockExchangeService},
+    {"TWSE", stockExchangeService},
+    {"TAI", stockExchangeService},
+    {"ROCO", emergingBoardService},
+    {"TPEX", emergingBoardService},
     {"XNAS", usMarket},
     {"XNGS", usMarket},
     {"XNCM", usMarket},

@@ -19,7 +19,7 @@ struct HeaderName {
 constexpr std::array headerNames{
     HeaderName{u"market", Column::Market},
     HeaderName{u"code", Column::Code},
-    HeaderName{u"公司代號", Column::Code, listedMarket},
+    HeaderName{u"公司代號", Column::Code, stockExchangeService},
     HeaderName{u"Symbol", Column::Code, usMarket},
     HeaderName{u"name", Column::Name},
     HeaderName{u"公司簡稱", Column::Name},

@@ -45,8 +45,8 @@ unsigned char marketOfList(unsigned char byHeader, const ReadOptions& options) {
     if (options.market != unknownMarket)
         return options.market;
     static const QRegularExpression overTheCounter(u"_O(\\W|$)"_s);
-    if (byHeader == listedMarket && overTheCounter.match(options.sourceName).hasMatch())
-        return overTheCounterMarket;
+    if (byHeader == stockExchangeService && overTheCounter.match(options.sourceName).hasMatch())
+        return emergingBoardService;
     return byHeader;
 }
 

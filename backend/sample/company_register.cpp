@@ -60,7 +60,7 @@ void setFinances(Company& company) {
     company.annualRevenue = random.between(scale, scale * 3);
     company.netMargin = random.between(30, 210);
     company.grossMargin = company.netMargin + random.between(80, 220);
-    const bool cheap = company.market == hongKongMarket;
+    const bool cheap = company.market == hongKongService;
     const int earningsPerShare = cheap ? random.between(9, 280) : random.between(90, 1'600);  // hundredths
     const std::int64_t profit = static_cast<std::int64_t>(company.annualRevenue) * company.netMargin / 1000;
     company.shares = static_cast<int>(std::max<std::int64_t>(profit * 100 / earningsPerShare, 10));
@@ -70,22 +70,22 @@ void setFinances(Company& company) {
 }  // namespace
 
 CompanyRegister::CompanyRegister() {
-    addTaiwan(exchangeMarket, 0, exchangeCompanies);
-    addTaiwan(emergingMarket, exchangeCompanies, emergingCompanies);
+    addTaiwan(stockExchangeService, 0, exchangeCompanies);
+    addTaiwan(emergingBoardService, exchangeCompanies, emergingCompanies);
     addHongKong(hongKongCompanies);
     addWarrants(warrantCount);
 }
 
 const std::vector<Company>& CompanyRegister::companies(unsigned char market) const {
-    if (market == hongKongMarket)
+    if (market == hongKongService)
         return hongKong;
-    return market == emergingMarket ? emerging : exchange;
+    return market == emergingBoardService ? emerging : exchange;
 }
 
 void CompanyRegister::addTaiwan(unsigned char market, int first, int count) {
     const NameWalk walk{taiwanFirstSyllables(), taiwanSecondSyllables(), 31 * 7};
     std::vector<int> numbers = codes(count, 1201, 9958, market);
-    if (market == exchangeMarket) {
+    if (market == stockExchangeService) {
         *(std::upper_bound(numbers.begin(), numbers.end(), exampleCode) - 1) = exampleCode;
     } else {  // the two boards share one range of codes
         for (int& number : numbers)
@@ -95,7 +95,7 @@ void CompanyRegister::addTaiwan(unsigned char market, int first, int count) {
         std::sort(numbers.begin(), numbers.end());
         numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
     }
-    std::vector<Company>& companies = market == exchangeMarket ? exchange : emerging;
+    std::vector<Company>& companies = market == stockExchangeService ? exchange : emerging;
     for (std::size_t i = 0; i < numbers.size(); ++i) {
         const auto [front, back] = walk.at(first + static_cast<int>(i));
         Company company;
@@ -112,12 +112,12 @@ void CompanyRegister::addTaiwan(unsigned char market, int first, int count) {
 
 void CompanyRegister::addHongKong(int count) {
     const NameWalk walk{hongKongFirstSyllables(), hongKongSecondSyllables(), 35};
-    const std::vector<int> numbers = codes(count, 11, 9890, hongKongMarket);
+    const std::vector<int> numbers = codes(count, 11, 9890, hongKongService);
     for (int i = 0; i < count; ++i) {
         const auto [front, back] = walk.at(i);
         Company company;
-        company.market = hongKongMarket;
-        company.seed = hashOf(registerSeed, hongKongMarket, static_cast<std::uint64_t>(numbers[i]));
+        company.market = hongKongService;
+        company.seed = hashOf(registerSeed, hongKongService, static_cast<std::uint64_t>(numbers[i]));
         company.code = QString::number(numbers[i]).rightJustified(5, u'0');
         company.sector = &hongKongSectors()[hashOf(company.seed) % hongKongSectors().size()];
         const QString second = back.english.front().toUpper() + back.english.mid(1).toString();
@@ -129,9 +129,9 @@ void CompanyRegister::addHongKong(int count) {
 }
 
 void CompanyRegister::addWarrants(int count) {
-    const std::vector<int> numbers = codes(count, 30'001, 39'999, warrantMarket);
+    const std::vector<int> numbers = codes(count, 30'001, 39'999, warrantService);
     for (int i = 0; i < count; ++i) {
-        Random random(hashOf(registerSeed, warrantMarket, static_cast<std::uint64_t>(i)));
+        Random random(hashOf(registerSeed, warrantService, static_cast<std::uint64_t>(i)));
         Warrant warrant;
         warrant.code = QString::number(numbers[i]).rightJustified(6, u'0');
         warrant.underlying =

@@ -4,6 +4,7 @@
 
 #include "backend/news_item.h"
 #include "backend/sample/word_tables.h"
+#include "host/contract/fixed_services.h"
 
 #include <QString>
 
@@ -12,15 +13,9 @@
 
 namespace wirepane::sample {
 
-// The markets of the sample wire, by the service ids of their symbols.
-inline constexpr unsigned char exchangeMarket = 16;
-inline constexpr unsigned char hongKongMarket = 22;
-inline constexpr unsigned char warrantMarket = 52;
-inline constexpr unsigned char emergingMarket = 122;
-
 // An invented company. Money is in millions of its market's currency.
 struct Company {
-    unsigned char market = exchangeMarket;
+    unsigned char market = stockExchangeService;
     QString code;
     QString english;
     QString chinese;
@@ -43,7 +38,7 @@ struct Warrant {
     const Company* underlying = nullptr;
     int issuer = 0;  // index into brokers()
 
-    SymbolRef symbol() const { return {warrantMarket, code}; }
+    SymbolRef symbol() const { return {warrantService, code}; }
 };
 
 // The companies and warrants of the sample wire: always the same ones, ordered by code in every market.

@@ -72,7 +72,7 @@ Quote MarketState::quote(std::uint64_t stream, std::int64_t usual, int swing, Lo
 }
 
 Quote MarketState::share(const Company& company, LocalTime at) const {
-    const bool hongKongShare = company.market == hongKongMarket;
+    const bool hongKongShare = company.market == hongKongService;
     const int step = priceStep(company.price, hongKongShare);
     const auto rounded = [step](std::int64_t price) {
         return std::max<std::int64_t>((price + step / 2) / step, 5) * step;
@@ -86,7 +86,7 @@ Quote MarketState::share(const Company& company, LocalTime at) const {
 }
 
 Quote MarketState::shareIndex(unsigned char market, LocalTime at) const {
-    if (market == hongKongMarket)
+    if (market == hongKongService)
         return quote(indexStream + market, 2'140'000, 2'000, at, hongKongCloseMinute);
     return quote(indexStream, 2'265'000, 2'000, at, closeMinute);
 }

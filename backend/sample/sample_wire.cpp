@@ -94,13 +94,13 @@ bool SampleWire::Desk::handCategories(const Taker& take) const {
 }
 
 bool SampleWire::Desk::handSymbols(const Taker& take) const {
-    for (unsigned char market : {exchangeMarket, emergingMarket, hongKongMarket})
+    for (unsigned char market : {stockExchangeService, emergingBoardService, hongKongService})
         for (const Company& company : companies.companies(market))
             if (!take(SymbolItem{market, company.code, company.chinese, 1}))
                 return false;
     return std::all_of(companies.warrants().begin(), companies.warrants().end(),
                        [&take](const Warrant& warrant) {
-                           return take(SymbolItem{warrantMarket, warrant.code, warrant.name, 1});
+                           return take(SymbolItem{warrantService, warrant.code, warrant.name, 1});
                        });
 }
 

@@ -34,7 +34,7 @@ struct World {
 struct SceneSetting {
     Topic topic = Topic::Earnings;
     Language language = Language::English;
-    unsigned char market = exchangeMarket;  // whose companies and index it is about
+    unsigned char market = stockExchangeService;  // whose companies and index it is about
     LocalTime at;
     std::uint64_t seed = 0;
 };
@@ -50,7 +50,7 @@ public:
     Topic topic() const { return setting.topic; }
     Language language() const { return setting.language; }
     bool english() const { return setting.language == Language::English; }
-    bool hongKong() const { return setting.market == hongKongMarket; }
+    bool hongKong() const { return setting.market == hongKongService; }
     LocalTime at() const { return setting.at; }
     const SceneSetting& settings() const { return setting; }
     const Company& company() const { return *mainCompany; }

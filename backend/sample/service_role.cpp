@@ -144,28 +144,30 @@ constexpr Beat warrantBeats[] = {
     {Topic::WarrantSoldOut, 408, 40},
 };
 
-constexpr ServiceRole englishWire{Language::English, exchangeMarket, 0, 0, 30, 260,
+constexpr ServiceRole englishWire{Language::English, stockExchangeService, 0, 0, 30, 260,
                                   englishBeats,      englishRhythm};
-constexpr ServiceRole chineseWire{Language::Chinese, exchangeMarket, emergingMarket, 120, 30, 180,
+constexpr ServiceRole chineseWire{Language::Chinese, stockExchangeService, emergingBoardService, 120, 30, 180,
                                   chineseBeats,      chineseRhythm};
-constexpr ServiceRole notices{Language::Chinese, exchangeMarket, 0, 0, 14, 20, noticeBeats, noticeRhythm};
-constexpr ServiceRole emergingNotices{Language::Chinese, emergingMarket, 0, 0, 6, 20,
+constexpr ServiceRole notices{Language::Chinese, stockExchangeService, 0, 0, 14, 20,
+                              noticeBeats,       noticeRhythm};
+constexpr ServiceRole emergingNotices{Language::Chinese, emergingBoardService, 0, 0, 6, 20,
                                       emergingBeats,     noticeRhythm};
-constexpr ServiceRole hongKongWire{Language::Chinese, hongKongMarket, 0, 0, 14, 90,
+constexpr ServiceRole hongKongWire{Language::Chinese, hongKongService, 0, 0, 14, 90,
                                    hongKongBeats,     hongKongRhythm};
-constexpr ServiceRole warrantWire{Language::Chinese, exchangeMarket, 0, 0, 8, 0, warrantBeats, warrantRhythm};
+constexpr ServiceRole warrantWire{Language::Chinese, stockExchangeService, 0, 0, 8, 0,
+                                  warrantBeats,      warrantRhythm};
 
 }  // namespace
 
 const ServiceRole& roleOf(unsigned char service) {
     switch (service) {
-        case exchangeMarket:
+        case stockExchangeService:
             return notices;
-        case emergingMarket:
+        case emergingBoardService:
             return emergingNotices;
-        case hongKongMarket:
+        case hongKongService:
             return hongKongWire;
-        case warrantMarket:
+        case warrantService:
             return warrantWire;
         default:
             return service % 2 == 1 ? englishWire : chineseWire;

@@ -42,7 +42,7 @@ struct RhythmPoint {
 // What a service is for in the sample wire.
 struct ServiceRole {
     Language language = Language::English;
-    unsigned char market = exchangeMarket;
+    unsigned char market = stockExchangeService;
     unsigned char otherMarket = 0;  // 0: none
     int otherMarketPermille = 0;    // part of the company news that is about the other market
     int share = 0;                  // of all headlines, beside the other services' shares

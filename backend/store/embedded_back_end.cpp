@@ -4,6 +4,7 @@
 
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
+#include "host/contract/fixed_services.h"
 
 #include <algorithm>
 
@@ -16,9 +17,6 @@ namespace {
 CHeadlineTable entryOf(const HeadlineKey& key) {
     return {key.time, key.sequence, key.service, 0, 0};
 }
-
-constexpr unsigned char hongKong = 22;
-constexpr unsigned char delayedHongKong = 23;
 
 // The days that a table without a date reaches over.
 DayBounds newsRange(int daysBack) {
@@ -153,17 +151,17 @@ bool EmbeddedBackEnd::bGetAllServiceID(std::vector<unsigned char>& services) {
 
 // The delayed Hong Kong market is a service of its own where a store has it.
 bool EmbeddedBackEnd::bGetServiceID2Delay(unsigned char service, unsigned char& delayed) {
-    if (service != hongKong)
+    if (service != hongKongService)
         return false;
     const std::vector<unsigned char> markets = symbols().markets();
-    if (std::find(markets.begin(), markets.end(), delayedHongKong) == markets.end())
+    if (std::find(markets.begin(), markets.end(), delayedHongKongService) == markets.end())
         return false;
-    delayed = delayedHongKong;
+    delayed = delayedHongKongService;
     return true;
 }
 
 int EmbeddedBackEnd::bIsFromTheSameAuthServiceID(unsigned char service, unsigned char other) {
-    const auto group = [](unsigned char id) { return id == delayedHongKong ? hongKong : id; };
+    const auto group = [](unsigned char id) { return id == delayedHongKongService ? hongKongService : id; };
     return group(service) == group(other) ? 1 : 0;
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/fixed_services.h"
+
 #include <cstdint>
 #include <span>
 
@@ -21,7 +23,6 @@ inline constexpr const char* searchTokenizer = "unicode61";
 
 // Warrants number their categories for themselves; all other services share one numbering, because one file
 // of category names serves them all.
-inline constexpr unsigned char warrantService = 52;
 constexpr int categorySpaceOf(unsigned char service) {
     return service == warrantService ? warrantService : 0;
 }

@@ -4,6 +4,7 @@
 
 #include "backend/store/schema.h"
 #include "backend/store/statement.h"
+#include "host/contract/fixed_services.h"
 
 #include <array>
 
@@ -22,10 +23,10 @@ struct DefaultService {
 constexpr std::array services{
     DefaultService{1, "General News"_L1, "General"_L1, 6},
     DefaultService{2, "Market News"_L1, "Market"_L1, 6},
-    DefaultService{16, "Stock Exchange"_L1, "Exchange"_L1, 5},
-    DefaultService{22, "Hong Kong Market"_L1, "Hong Kong"_L1, 5},
+    DefaultService{stockExchangeService, "Stock Exchange"_L1, "Exchange"_L1, 5},
+    DefaultService{hongKongService, "Hong Kong Market"_L1, "Hong Kong"_L1, 5},
     DefaultService{warrantService, "Warrants"_L1, "Warrants"_L1, 4},
-    DefaultService{122, "Emerging Board"_L1, "Emerging"_L1, 4},
+    DefaultService{emergingBoardService, "Emerging Board"_L1, "Emerging"_L1, 4},
 };
 
 struct DefaultCategory {

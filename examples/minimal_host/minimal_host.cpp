@@ -13,6 +13,7 @@
 #include <QDateTime>
 #include <QTextStream>
 #include <QTimer>
+#include <QTranslator>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -105,6 +106,10 @@ int main(int argc, char** argv) {
                             << '\n';
         return 2;
     }
+
+    QTranslator texts;  // of the language keys: without one the view shows the keys
+    if (texts.load(QStringLiteral(":/wirepane_en.qm")))
+        QCoreApplication::installTranslator(&texts);
 
     TenHeadlines backEnd;
     BKQuoteInterface::SetBKInterface(&backEnd);

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/contract/search_control.h"
 
-namespace {
+#include "host/contract/fixed_services.h"
 
-constexpr unsigned char stockExchange = 16;
+namespace {
 
 SearchControl* installed = nullptr;
 
@@ -36,5 +36,5 @@ bool SearchControl::GetSymbolsByService(unsigned char, std::vector<QString>& cod
 }
 
 bool bIsNormalTWSESymbolID(unsigned char service, const QString& code) {
-    return service == stockExchange && !code.isEmpty() && !code.startsWith(u'#');
+    return service == stockExchangeService && !code.isEmpty() && !code.startsWith(u'#');
 }

@@ -4,6 +4,7 @@
 
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/statement.h"
+#include "host/contract/fixed_services.h"
 
 #include <algorithm>
 #include <chrono>
@@ -15,7 +16,6 @@ namespace wirepane {
 
 namespace {
 
-constexpr unsigned char warrantService = 52;
 constexpr std::chrono::milliseconds busyTimeout{1000};
 
 // How many headlines have each category. Empty when that cannot be read: the order is a matter of taste then.

@@ -148,6 +148,15 @@ TEST_F(HeadlineListTest, TwoColumnsHaveNoCategory) {
     EXPECT_EQ(owner.rowsWritten, written) << "the title is compared in column 1";
 }
 
+TEST_F(HeadlineListTest, ACategoryKeepsItsColourInSimplifiedCharacters) {
+    backEnd.simplified = true;
+    backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("title"), 8);
+    HeadlineList& all = list(ListIndex::All);
+    lists.bRebuild(ListIndex::All, TableKind::ByDate, day);
+    EXPECT_EQ(all.Text(0, 1), QStringLiteral("新闻"));
+    EXPECT_EQ(all.TextColour(0, 1), QColor(Qt::red));
+}
+
 TEST_F(HeadlineListTest, NothingHappensWithoutAGridOrARow) {
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("unseen"));
     EXPECT_FALSE(lists.bRebuild(ListIndex::All, TableKind::ByDate, day));

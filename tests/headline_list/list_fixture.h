@@ -17,10 +17,12 @@ public:
     const std::vector<ServiceEntry>& vGetServices() const override { return services; }
     int GetNewsType() const override { return newsType; }
     QString cszTransferCatIDToCatName(int id) const override {
+        if (id == 8)
+            return QStringLiteral("新聞");
         return id == 7 ? QStringLiteral("Markets") : QStringLiteral("(recover)");
     }
     int GetCategoryColor(const QString& name, QColor& text, QColor&) const override {
-        if (name != QStringLiteral("Markets"))
+        if (name != QStringLiteral("Markets") && name != QStringLiteral("新聞"))
             return 0;
         text = Qt::red;
         return 1;

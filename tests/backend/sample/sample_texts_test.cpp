@@ -36,7 +36,7 @@ TEST(SampleTexts, EverySlotCanBeFilledAndEveryMoodHasItsPhrase) {
             for (const sample::Language language : {role.language, sample::Language::English}) {
                 if (language != role.language && beat.englishPermille == 0)
                     continue;
-                const auto& texts = book.topic(beat.topic, language, role.market == sample::hongKongMarket);
+                const auto& texts = book.topic(beat.topic, language, role.market == hongKongService);
                 for (const auto* list : {&texts.headlines, &texts.leads}) {
                     std::set<sample::Mood> moods;
                     for (const sample::Template& entry : *list)

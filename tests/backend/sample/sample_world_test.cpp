@@ -44,13 +44,13 @@ TEST(Writer, WritesTheSameSumInTheUnitsOfBothLanguages) {
         QString english, chinese;
     };
     const Row rows[] = {
-        {exchangeMarket, 3, QStringLiteral("NT$3 million"), QStringLiteral("300萬元")},
-        {exchangeMarket, 85, QStringLiteral("NT$85 million"), QStringLiteral("8,500萬元")},
-        {exchangeMarket, 512, QStringLiteral("NT$512 million"), QStringLiteral("5.12億元")},
-        {exchangeMarket, 999, QStringLiteral("NT$999 million"), QStringLiteral("9.99億元")},
-        {hongKongMarket, 1'000, QStringLiteral("HK$1.00 billion"), QStringLiteral("10.0億港元")},
-        {hongKongMarket, 3'420, QStringLiteral("HK$3.42 billion"), QStringLiteral("34.2億港元")},
-        {exchangeMarket, 312'450, QStringLiteral("NT$312.45 billion"), QStringLiteral("3,124.5億元")},
+        {stockExchangeService, 3, QStringLiteral("NT$3 million"), QStringLiteral("300萬元")},
+        {stockExchangeService, 85, QStringLiteral("NT$85 million"), QStringLiteral("8,500萬元")},
+        {stockExchangeService, 512, QStringLiteral("NT$512 million"), QStringLiteral("5.12億元")},
+        {stockExchangeService, 999, QStringLiteral("NT$999 million"), QStringLiteral("9.99億元")},
+        {hongKongService, 1'000, QStringLiteral("HK$1.00 billion"), QStringLiteral("10.0億港元")},
+        {hongKongService, 3'420, QStringLiteral("HK$3.42 billion"), QStringLiteral("34.2億港元")},
+        {stockExchangeService, 312'450, QStringLiteral("NT$312.45 billion"), QStringLiteral("3,124.5億元")},
     };
     for (const Row& row : rows) {
         for (Language language : {Language::English, Language::Chinese}) {
@@ -66,7 +66,7 @@ TEST(MarketState, PricesFlowFromOneDayIntoTheNextWithinTheDailyLimit) {
     const CompanyRegister companies;
     const MarketState markets(3);
     const Day monday{LocalTime::fromUtc(afternoon).day.number - 2};
-    for (unsigned char market : {exchangeMarket, hongKongMarket}) {
+    for (unsigned char market : {stockExchangeService, hongKongService}) {
         for (const Company& company : companies.companies(market)) {
             for (int day = 0; day < 4; ++day) {
                 const Quote close = markets.share(company, {{monday.number + day}, 17 * 60});
@@ -83,7 +83,7 @@ TEST(MarketState, PricesFlowFromOneDayIntoTheNextWithinTheDailyLimit) {
 TEST(Results, ReportsOfOnePeriodAgreeWithEachOther) {
     const CompanyRegister companies;
     const Month march{2026 * 12 + 2};
-    for (const Company& company : companies.companies(emergingMarket)) {
+    for (const Company& company : companies.companies(emergingBoardService)) {
         const MonthRevenue third = monthRevenue(company, march);
         const MonthRevenue second = monthRevenue(company, {march.number - 1});
         EXPECT_EQ(third.monthBefore, second.revenue);
