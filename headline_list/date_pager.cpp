@@ -2,10 +2,46 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/date_pager.h"
 
+#include <stdexcept>
+
 DateCheck CheckPickedDate(const QDate& wanted, const QDate& inForce, const QDate& today, int range) {
     if (wanted < today.addDays(-range))
         return DateCheck::TooEarly;
     if (wanted > today)
         return DateCheck::TooLate;
     return wanted == inForce ? DateCheck::Same : DateCheck::Accepted;
+}
+
+QDate DayOfNumber(std::int32_t yyyymmdd) {
+    constexpr int firstYear = 1900;
+    const int year = yyyymmdd / 10000;
+    const int month = yyyymmdd / 100 % 100;
+    const int day = yyyymmdd % 100;
+    if (year < firstYear || month < 1 || month > 12 || day < 1 || day > 31)
+        throw std::invalid_argument("not a calendar day");
+    return QDate(year, month, 1).addDays(day - 1);
+}
+
+int EntryOfNewDay(const std::vector<ServiceEntry>& services, const CMarketStatus& status) {
+    for (std::size_t i = 0; i < services.size(); ++i) {
+        if (services[i].service != status.service)
+            continue;
+        if (!services[i].selected)
+            return -1;
+        if (services[i].date != status.date)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+DateCheck DatePager::Pick(const QDate& wanted, const QDate& today) {
+    const DateCheck check = CheckPickedDate(wanted, picked, today, range);
+    if (check == DateCheck::Accepted)
+        picked = wanted;
+    return check;
+}
+
+void DatePager::vStartNewsDay(const QDate& day, const QDate& shown) {
+    newsDay = day;
+    picked = shown;
 }

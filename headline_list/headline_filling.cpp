@@ -45,6 +45,23 @@ void HeadlineList::vUpdateHeadline(const std::vector<CHeadlineTable>& entries) {
     }
 }
 
+bool HeadlineList::bReCoverHeadline(const std::vector<int>& rows) {
+    const QString placeholder = LangText(backEnd, keys::recover);
+    std::vector<CHeadlineTable> wanted;
+    for (const int row : rows) {
+        if (sheet == nullptr || row < 0 || row >= table.size())
+            continue;
+        wanted.push_back(table.at(row));
+        vFillSheet(row, TimeText(wanted.back().time, kind.showDate), placeholder, placeholder);
+    }
+    std::vector<CHeadline> atHand;
+    if (!wanted.empty()) {
+        for (const unsigned char service : servicesToAsk())
+            backEnd.BKQNEWS_bReCoverHeadline(service, atHand, wanted);
+    }
+    return !atHand.empty();
+}
+
 void HeadlineList::vUpdataTopHeadline(bool showDate, const std::vector<RelationCondition>* conditions) {
     if (sheet == nullptr || table.empty())
         return;

@@ -32,6 +32,11 @@ void HeadlineList::vSetTable(const TableRuns& runs) {
     afterPainting.start(0);
 }
 
+void HeadlineList::vSetTable(const HeadlineTable& other) {
+    table = other;
+    afterPainting.start(0);
+}
+
 void HeadlineList::vFillHeadlineTable() {
     if (sheet == nullptr)
         return;

@@ -42,6 +42,8 @@ public:
 
     // Replaces the table by these runs, newest first. The grid follows with vFillHeadlineTable.
     void vSetTable(const TableRuns& runs);
+    // Replaces the table by another list's, as it stands.
+    void vSetTable(const HeadlineTable& other);
 
     // Gives the grid one empty row per entry, at the top of its scroll range, and repaints it at once.
     void vFillHeadlineTable();
@@ -58,6 +60,10 @@ public:
     // Writes the rows of these entries whose headlines the back end has at hand; entries that are not listed
     // are passed over.
     void vUpdateHeadline(const std::vector<CHeadlineTable>& entries);
+    // Asks the back end for the headlines of these rows again: each shows the placeholder until then. Rows
+    // that do not exist are passed over. True when some headlines were at hand at once; the next refresh
+    // writes them.
+    bool bReCoverHeadline(const std::vector<int>& rows);
     // Writes the first visible row from its headline, when the back end has it at hand. With `conditions`
     // only when one of them wants it.
     void vUpdataTopHeadline(bool showDate, const std::vector<RelationCondition>* conditions = nullptr);

@@ -27,10 +27,16 @@ public:
     bool bRebuildSymbol(const CSymbolInfo& symbol, RelationFilter filter = nullptr);
     // Warrant news of a date, from the warrant service alone.
     bool bRebuildWarrant(const QString& dateKey);
+    // Each ticked one of `services` gives the news of the date at which it stands.
+    bool bRebuildCurrent(ListIndex list, const std::vector<ServiceEntry>& services,
+                         RelationFilter filter = nullptr);
+    // The table becomes that of another list, row by row.
+    bool bRebuildAsCopy(ListIndex list, ListIndex of);
 
 private:
-    template <class Read>
-    bool bRebuildFrom(ListIndex list, Read read);
+    // `fill` gives the list its table.
+    template <class Fill>
+    bool bRebuildFrom(ListIndex list, Fill fill);
 
     BKQuoteInterface& backEnd;
     ListOwner& owner;

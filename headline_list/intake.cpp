@@ -6,7 +6,7 @@
 
 namespace {
 
-bool isTicked(const std::vector<ServiceEntry>& services, unsigned char service) {
+bool isTicked(std::span<const ServiceEntry> services, unsigned char service) {
     const auto entry = std::find_if(services.begin(), services.end(), [&](const ServiceEntry& candidate) {
         return candidate.service == service;
     });

@@ -12,6 +12,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <vector>
 
 // A headline as the back end pushes it.
@@ -27,12 +28,12 @@ struct IntakeState {
     bool hasDatePicker = false;
     QDate pickedDate;
     QDate newsDay;
-    std::vector<ServiceEntry> services;    // the saved copy: the user's own choice
-    std::array<bool, listCount> exists{};  // the list has a grid
-    std::array<bool, listCount> shown{};   // the list has been shown: until then it takes no pushes
-    std::optional<QString> categoryId;     // of the chosen category; none: nothing is chosen
-    std::optional<QString> symbolCode;     // of the chosen symbol
-    std::vector<RelationCondition> conditions;
+    std::span<const ServiceEntry> services;  // the saved copy: the user's own choice
+    std::array<bool, listCount> exists{};    // the list has a grid
+    std::array<bool, listCount> shown{};     // the list has been shown: until then it takes no pushes
+    std::optional<QString> categoryId;       // of the chosen category; none: nothing is chosen
+    std::optional<QString> symbolCode;       // of the chosen symbol
+    std::span<const RelationCondition> conditions;
 };
 
 // A list that takes the headline, and whether its row shows the date beside the time.

@@ -43,6 +43,15 @@ inline constexpr QLatin1StringView category{"IDS_NEWSCTRLVIEW_STRING_CATEGORY"};
 inline constexpr QLatin1StringView title{"IDS_NEWSCTRLVIEW_STRING_TITLE"};
 inline constexpr QLatin1StringView recover{"IDS_NEWSCTRLVIEW_STRING_RECOVER"};
 
+// What tips say about dates and about data that is missing.
+inline constexpr QLatin1StringView onlySelect{"IDS_NEWSCTRLVIEW_STRING_ONLYSELECT"};
+inline constexpr QLatin1StringView inSomeDays{"IDS_NEWSCTRLVIEW_STRING_INSOMEDAYS"};
+inline constexpr QLatin1StringView afterDays{"IDS_NEWSCTRLVIEW_STRING_AFTERDAYS"};
+inline constexpr QLatin1StringView clearService{"IDS_NEWSCTRLVIEW_STRING_CLEAR_SERVICE"};
+inline constexpr QLatin1StringView invalidDate{"IDS_NEWSCTRLVIEW_STRING_INVALID_DATE1"};
+inline constexpr QLatin1StringView classNotFound{"IDS_NEWSCTRLVIEW_STRING_NEWS_CLASS_NOT_FOUND"};
+inline constexpr QLatin1StringView symbolNewsNotFound{"IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS_NOT_FOUND"};
+
 inline constexpr QLatin1StringView storyRemark{"IDS_NEWSCTRLVIEW_STRING_PS"};
 inline constexpr QLatin1StringView noStory{"IDS_NEWSCTRLVIEW_STRING_NO_NEWS_STORY"};
 inline constexpr QLatin1StringView waitForUpdate{"IDS_NEWSCTRLVIEW_STRING_WAIT_FOR_UPDATE"};

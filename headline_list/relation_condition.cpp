@@ -28,7 +28,7 @@ bool matches(const RelationCondition& condition, const QString& upperTitle, std:
 
 }  // namespace
 
-bool CheckIsRelationSearch(const std::vector<RelationCondition>& conditions, const CHeadline& headline,
+bool CheckIsRelationSearch(std::span<const RelationCondition> conditions, const CHeadline& headline,
                            std::int32_t categoryId, const QString& symbolText) {
     if (conditions.empty())
         return false;

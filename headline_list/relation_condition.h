@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 // One condition of the relation-search list: which headlines it wants.
@@ -22,5 +23,5 @@ struct RelationCondition {
 
 // True when at least one condition wants the headline. `symbolText` is the code of its symbol (empty: none);
 // a word that equals it, ignoring case, is a hit.
-bool CheckIsRelationSearch(const std::vector<RelationCondition>& conditions, const CHeadline& headline,
+bool CheckIsRelationSearch(std::span<const RelationCondition> conditions, const CHeadline& headline,
                            std::int32_t categoryId, const QString& symbolText);

@@ -54,6 +54,15 @@ TableRuns ReadTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>&
                         });
 }
 
+TableRuns ReadCurrentTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
+                            RelationFilter filter) {
+    return readSelected(
+        backEnd, services, filter, [&](unsigned char service, std::vector<CHeadlineTable>& entries) {
+            backEnd.BKQNEWS_iGetHeadlineTable(service, entries, static_cast<int>(TableKind::ByDate),
+                                              backEnd.BKQNEWS_cszGetCurrDateByService(service));
+        });
+}
+
 TableRuns ReadSymbolTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
                            const CSymbolInfo& symbol, RelationFilter filter) {
     return readSelected(backEnd, services, filter,

@@ -21,6 +21,10 @@ using RelationFilter = const std::vector<RelationCondition>*;
 TableRuns ReadTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
                      const QString& key, RelationFilter filter = nullptr);
 
+// By date: each service's current news date.
+TableRuns ReadCurrentTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
+                            RelationFilter filter = nullptr);
+
 // By symbol.
 TableRuns ReadSymbolTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
                            const CSymbolInfo& symbol, RelationFilter filter = nullptr);

@@ -24,6 +24,9 @@ inline constexpr int saveAsButton = 8070;
 inline constexpr int showTypeButton = 25458;
 
 // Commands of menus.
+inline constexpr int recoverHeadline = 2050;
+inline constexpr int recoverStory = 2051;
+inline constexpr int recoverHeadlineTable = 2053;
 inline constexpr int firstServiceCommand = 5050;
 inline constexpr int lastServiceCommand = 5060;
 inline constexpr int changeCategoryState = 5061;

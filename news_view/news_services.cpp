@@ -61,6 +61,11 @@ void NewsServices::vSelectInBoth(std::size_t index) {
     saved.at(index).selected = true;
 }
 
+void NewsServices::vSetDate(std::size_t index, std::int32_t date) {
+    live.at(index).date = date;
+    saved.at(index).date = date;
+}
+
 void NewsServices::vRestoreSelection() {
     for (std::size_t i = 0; i < live.size(); ++i)
         live[i].selected = saved[i].selected;

@@ -35,6 +35,8 @@ public:
     // Ticks in both copies.
     void vSelectInBoth(std::size_t index);
     void vCopyToSaved() { saved = live; }
+    // The news date at which a service stands, yyyymmdd, in both copies.
+    void vSetDate(std::size_t index, std::int32_t date);
     // The ticks of the live list become those of the saved copy again.
     void vRestoreSelection();
     // Unticks every service of the live list.

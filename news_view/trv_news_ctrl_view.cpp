@@ -7,7 +7,6 @@
 #include "host/contract/clock.h"
 #include "host/contract/item_display.h"
 #include "host/controls/registered_message.h"
-#include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/sc_combo_box.h"
 #include "news_view/control_ids.h"
 #include "story/quote_dlg_tip_msg.h"
@@ -21,8 +20,7 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       lists(backEnd, *this),
       controls(*this, backEnd),
       symbols(backEnd, controls),
-      pickedDate(host_clock::today()),
-      newsDay(pickedDate) {}
+      dates(host_clock::today()) {}
 
 TRVNewsCtrlView::~TRVNewsCtrlView() {
     C_UnRegisterSymbol(this);
@@ -39,43 +37,37 @@ void TRVNewsCtrlView::ChangeActiveApp(int active) {
 }
 
 bool TRVNewsCtrlView::OnCommand(int id) {
-    switch (id) {
-        case ids::tabStrip:
-            OnSelchangeTabMode();
-            return true;
-        case ids::showTypeButton:
-            OnBtnChangeShowType();
-            return true;
-        case ids::categoryCombo:
-            OnSelchangeComboIndex();
-            return true;
-        case ids::symbolCombo:
-            OnSelchangeComboSymbol();
-            return true;
-        case ids::serviceCombo:
-            OnSelchangeComboService();
-            return true;
-        case ids::serviceButton:
-            OnSelectService();
-            return true;
-        case ids::showStory:
-            OnShowStory();
-            return true;
-        case ids::changeCategoryState:
-            OnChangeCategoryState();
-            return true;
-        default:
-            if (id < ids::firstServiceCommand || id > ids::lastServiceCommand)
-                return TRVQuoteBaseView::OnCommand(id);
-            OnSelectCheckService(static_cast<unsigned int>(id));
-            return true;
-    }
+    struct Command {
+        int id;
+        void (TRVNewsCtrlView::*carryOut)();
+    };
+    static constexpr Command commands[] = {
+        {ids::tabStrip, &TRVNewsCtrlView::OnSelchangeTabMode},
+        {ids::showTypeButton, &TRVNewsCtrlView::OnBtnChangeShowType},
+        {ids::categoryCombo, &TRVNewsCtrlView::OnSelchangeComboIndex},
+        {ids::symbolCombo, &TRVNewsCtrlView::OnSelchangeComboSymbol},
+        {ids::serviceCombo, &TRVNewsCtrlView::OnSelchangeComboService},
+        {ids::serviceButton, &TRVNewsCtrlView::OnSelectService},
+        {ids::recoverHeadline, &TRVNewsCtrlView::OnReCoverHeadline},
+        {ids::recoverStory, &TRVNewsCtrlView::OnReCoverStory},
+        {ids::recoverHeadlineTable, &TRVNewsCtrlView::OnReCoverHeadlineTable},
+        {ids::showStory, &TRVNewsCtrlView::OnShowStory},
+        {ids::changeCategoryState, &TRVNewsCtrlView::OnChangeCategoryState},
+    };
+    const auto* command = std::find_if(std::begin(commands), std::end(commands),
+                                       [id](const Command& candidate) { return candidate.id == id; });
+    if (command != std::end(commands))
+        (this->*command->carryOut)();
+    else if (id >= ids::firstServiceCommand && id <= ids::lastServiceCommand)
+        OnSelectCheckService(static_cast<unsigned int>(id));
+    else
+        return TRVQuoteBaseView::OnCommand(id);
+    return true;
 }
 
 // --- Deferred refresh ---
 
 void TRVNewsCtrlView::vUpdateView() {
-    KillTimer(ids::refreshTimer);
     SetTimer(ids::refreshTimer, ids::refreshDelayMs);
 }
 
@@ -197,9 +189,4 @@ int TRVNewsCtrlView::GetSheetWidth() const {
     if (newsType != 0 || storyShowType == StoryShowType::None || storyShowType == StoryShowType::Below)
         return width();
     return storyShowType == StoryShowType::Right ? width() / 2 : 0;
-}
-
-QString TRVNewsCtrlView::PickedDateKey() const {
-    const bool hasPicker = controls.Find<SDateTimeCtrl>(ids::datePicker) != nullptr;
-    return DateKey(hasPicker ? pickedDate : QDate());
 }

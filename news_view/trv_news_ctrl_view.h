@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/date_pager.h"
 #include "headline_list/entry_source.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/intake.h"
@@ -18,11 +19,13 @@
 #include "news_view/view_layout.h"
 #include "news_view/view_settings.h"
 
+#include <QLatin1StringView>
 #include <QMenu>
 #include <QPointer>
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class CQuoteDlgTipMsg;
@@ -108,6 +111,37 @@ public:
     int GetCurrSymbolInfo(unsigned char& service, QString& code) override;
     void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) override;
 
+    int iBeSelectNewsNum() const { return services.iSelectedCount(); }
+
+    // --- Days ---
+
+    void OnDateTimeDropDown();
+    void OnDateTimeChange(const QDate& date);
+    void OnDateTimeCloseUp();
+    // Picks the date of the all-news list. True when the list was read anew and has rows; false for the date
+    // in force, for a day out of range (a tip says so and the date picker goes back) and without the list.
+    bool bChangeDate(const QDate& date);
+    // A news day has begun: the view follows it when it has ticked the service. A status with a date that no
+    // calendar knows changes nothing.
+    void vRecvNewMarketStatus(const CMarketStatus* status) override;
+    // Reads the all-news list and the relation-search list at each service's current date. False when either
+    // list has no grid.
+    bool bChangeDateByNewHeadLine();
+    // Goes to a row of a list and shows its story, in another mode if need be. Always true.
+    bool bChangeNewsPos(int list, int row);
+
+    // --- Sent again ---
+
+    // Asks for the headlines of the selected rows, for the current list's table, for the focused row's story.
+    void OnReCoverHeadline();
+    void OnReCoverHeadlineTable();
+    void OnReCoverStory();
+    // A table was sent again. An answer that no longer fits what the view shows is dropped; one without data
+    // is told in a tip, and names its service in the status text.
+    void vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo* info) override;
+    void vRecvCatHeadlineTableRecovery(const CHeadlineTableInfo* info) override;
+    void vRecvSymHeadlineTableRecovery(const CHeadlineTableInfo* info) override;
+
     // --- Stories and what the back end pushes ---
 
     // Shows the story of the current grid's focused row; without one the pane is emptied.
@@ -184,6 +218,24 @@ private:
     void vKeepShownStory(ListIndex list, const HeadlinePlace& place);
     IntakeState vIntakeState() const;
 
+    // Days and what is sent again.
+    void vConnectDatePicker();
+    void vRefuseDate(const QString& why);
+    // Shows a tip over the grid of a list for a second.
+    void vTipOver(ListIndex list, const QString& text);
+    // What a tip says of a table without data: the status text, the separator, the key's text.
+    struct NothingFound {
+        QLatin1StringView key;
+        QString separator;
+    };
+    // True when the list was read anew and the back end does not deny having data for it.
+    template <class Rebuild>
+    bool bTakeTableAgain(const CHeadlineTableInfo& info, ListIndex list, Rebuild rebuild,
+                         const NothingFound& nothingFound);
+    bool bIsServiceSelected(unsigned char service) const;
+    // The id of the chosen category; none: nothing is chosen.
+    std::optional<QString> SelectedCategoryId() const;
+
     // Lists and painting.
     void OnChangeSize(quintptr sender);
     void DrawTitile(QPainter& painter);
@@ -212,14 +264,14 @@ private:
     QPointer<CQuoteDlgTipMsg> tip;
 
     QString statusText;  // what the view has to say about its lists; empty most of the time
-    QDate pickedDate;
-    QDate newsDay;
+    DatePager dates;
     int newsType = 0;
     int currentMode = 0;
     int lastClientWidth = 0;
     int shownStoryRow = -1;
     StoryShowType storyShowType = StoryShowType::None;
     bool symbolFromLink = false;  // the host asked for the news of the linked symbol
+    bool calendarOpen = false;
     bool laidOut = false;
     bool initialised = false;
 };

@@ -86,11 +86,18 @@ void TRVNewsCtrlView::vFillCategoryCombo() {
     }
 }
 
-void TRVNewsCtrlView::OnSelchangeComboIndex() {
+std::optional<QString> TRVNewsCtrlView::SelectedCategoryId() const {
     const auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
     const int index = combo != nullptr ? combo->currentIndex() : -1;
     if (index < 0 || index >= static_cast<int>(categoryComboIds.size()))
+        return {};
+    return categoryComboIds[static_cast<std::size_t>(index)];
+}
+
+void TRVNewsCtrlView::OnSelchangeComboIndex() {
+    const auto selected = SelectedCategoryId();
+    if (!selected)
         return;
-    settings.categoryId = categoryComboIds[static_cast<std::size_t>(index)];
+    settings.categoryId = *selected;
     vChangeNewsTable(ListIndex::Category, TableKind::ByCategory, settings.categoryId);
 }

@@ -3,7 +3,6 @@
 // Headlines that arrive while the view is open.
 #include "headline_list/intake.h"
 #include "host/controls/s_date_time_ctrl.h"
-#include "host/controls/sc_combo_box.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "story/news_story_view.h"
@@ -12,21 +11,20 @@ IntakeState TRVNewsCtrlView::vIntakeState() const {
     IntakeState state;
     state.connected = backEnd.bIsConnect() == 1;
     state.hasDatePicker = controls.Find<SDateTimeCtrl>(ids::datePicker) != nullptr;
-    state.pickedDate = pickedDate;
-    state.newsDay = newsDay;
+    if (!state.connected || !state.hasDatePicker)
+        return state;
+    state.pickedDate = dates.Picked();
+    state.newsDay = dates.NewsDay();
     state.services = services.Saved();
+    state.conditions = relationConditions;
     for (const ListKind& kind : listKinds) {
         const auto index = static_cast<std::size_t>(kind.index);
         state.exists[index] = lists[kind.index].pGetGrid() != nullptr;
         state.shown[index] = loading.bWasShown(kind.index);
     }
-    const auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
-    const int category = combo != nullptr ? combo->currentIndex() : -1;
-    if (category >= 0 && category < static_cast<int>(categoryComboIds.size()))
-        state.categoryId = categoryComboIds[static_cast<std::size_t>(category)];
+    state.categoryId = SelectedCategoryId();
     if (const auto symbol = symbols.SelectedSymbol())
         state.symbolCode = symbol->code;
-    state.conditions = relationConditions;
     return state;
 }
 

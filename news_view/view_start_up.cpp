@@ -58,6 +58,7 @@ void TRVNewsCtrlView::vFillServiceMenu() {
 void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
                                       const QString&) {
     TRVQuoteBaseView::InitialViewInfo(reader, section, first, second, viewKey);
+    dates.vSetRange(backEnd.BKQbyGetNewsDateRange());
     vTakeNewsType();
     if (newsType == 0) {
         vCreateStoryPane();
@@ -176,9 +177,10 @@ void TRVNewsCtrlView::vCreateMode(ListIndex mode, const QRect& gridArea, const Q
     } else if (mode == ListIndex::Symbol || mode == ListIndex::Warrant) {
         return;
     }
-    if (mode == ListIndex::All)
-        controls.vCreateDatePicker(row, pickedDate);
-    else if (mode == ListIndex::Category)
+    if (mode == ListIndex::All) {
+        controls.vCreateDatePicker(row, dates.Picked());
+        vConnectDatePicker();
+    } else if (mode == ListIndex::Category)
         controls.vCreateCategoryCombo(QRect(row.x(), row.y(), 120, 200));
     else
         controls.CreateControls(mode, row, GetViewFont());

@@ -38,6 +38,8 @@ public:
     // `parent`.
     void vShow(QWidget* parent, int top, int left, bool toTheLeft);
     void vStop();
+    // The text as it is shown, cut where it was too wide.
+    const QString& cszGetText() const { return text; }
 
 protected:
     void timerEvent(QTimerEvent* event) override;

@@ -53,7 +53,7 @@ inline HeadlineKey KeyOf(const CHeadline& headline) {
 struct CHeadlineTableInfo {
     unsigned char service = 0;
     signed char status = 0;  // negative: the back end holds no data for the request
-    QString key;             // yyyymmdd for date tables, the category id text for category tables
+    QString key;             // yyyymmdd for date tables, the category id text, the symbol's code
 };
 
 // The story of one headline. `text` is in wire form: a paragraph break is "@@@@"; physical line breaks, where

@@ -21,6 +21,7 @@ SDateTimeCtrl::SDateTimeCtrl(QWidget* parent) : QDateEdit(parent) {
 void SDateTimeCtrl::vSetDate(const QDate& date) {
     const QSignalBlocker silent(this);
     setDate(date);
+    dateAtOpening = this->date();
 }
 
 void SDateTimeCtrl::keyPressEvent(QKeyEvent* event) {

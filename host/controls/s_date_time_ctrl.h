@@ -6,7 +6,7 @@
 
 // A date picker with a drop-down calendar, which F4, Alt+Down and the arrow open. It tells of the user's
 // changes only, at once and in this order: DropDown, any number of DateTimeChange, CloseUp. Esc closes the
-// calendar and goes back to the date it was opened with.
+// calendar and goes back to the date it was opened with, or that was set meanwhile.
 class SDateTimeCtrl : public QDateEdit {
     Q_OBJECT
 

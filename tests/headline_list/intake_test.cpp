@@ -12,18 +12,21 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Every list is there, has been shown and wants what the cases push, unless a case says otherwise.
-IntakeState openState() {
-    IntakeState state;
+struct OpenState : IntakeState {
+    std::vector<ServiceEntry> ticked{{1, true}, {2, false}, {warrantService, false}, {2, true}};
+    std::vector<RelationCondition> wanted{{1, {7}, {}}};
+};
+
+OpenState openState() {
+    OpenState state;
     state.connected = true;
     state.hasDatePicker = true;
     state.pickedDate = QDate(2026, 3, 2);
     state.newsDay = QDate(2026, 3, 2);
-    state.services = {{1, true}, {2, false}, {warrantService, false}, {2, true}};
     state.exists.fill(true);
     state.shown.fill(true);
     state.categoryId = u"7"_s;
     state.symbolCode = u"2330"_s;
-    state.conditions = {{1, {7}, {}}};
     return state;
 }
 
@@ -42,11 +45,11 @@ TEST(Intake, AHeadlineGoesToEveryListThatWantsIt) {
     struct Case {
         const char* what;
         unsigned char service;
-        std::function<void(IntakeState&)> change;
+        std::function<void(OpenState&)> change;
         std::vector<IntakeTarget> targets;
         QString categoryId = u"7"_s;
     };
-    const auto nothing = [](IntakeState&) {};
+    const auto nothing = [](OpenState&) {};
     const Case cases[] = {
         {"all of them", 1, nothing, {all, category, symbol, relation}},
         {"not connected", 1, [](auto& s) { s.connected = false; }, {}},
@@ -64,13 +67,13 @@ TEST(Intake, AHeadlineGoesToEveryListThatWantsIt) {
         {"the first entry of a service decides",
          2,
          [](auto& s) {
-             s.services.front() = {2, true};
+             s.ticked.front() = {2, true};
          },
          {all, category, symbol, relation}},
         {"warrants, not ticked", warrantService, nothing, {warrant}},
         {"warrants, ticked",
          warrantService,
-         [](auto& s) { s.services[2].selected = true; },
+         [](auto& s) { s.ticked[2].selected = true; },
          {warrant, category, symbol, relation}},
         {"warrants, never shown", warrantService, [](auto& s) { s.shown.fill(false); }, {warrant}},
         {"warrants, another day", warrantService, [](auto& s) { s.newsDay = QDate(2026, 3, 3); }, {}},
@@ -99,18 +102,20 @@ TEST(Intake, AHeadlineGoesToEveryListThatWantsIt) {
          1,
          [](auto& s) { s.symbolCode = u"233"_s; },
          {all, category, relation}},
-        {"no condition", 1, [](auto& s) { s.conditions.clear(); }, {all, category, symbol}},
+        {"no condition", 1, [](auto& s) { s.wanted.clear(); }, {all, category, symbol}},
         {"the symbol is a condition's word",
          1,
          [](auto& s) {
-             s.conditions = {{1, {7}, {u"2330"_s}}};
+             s.wanted = {{1, {7}, {u"2330"_s}}};
          },
          {all, category, symbol, relation}},
     };
     const QString symbolCode = u"2330"_s;
     for (const Case& c : cases) {
-        IntakeState state = openState();
+        OpenState state = openState();
         c.change(state);
+        state.services = state.ticked;
+        state.conditions = state.wanted;
         CHeadline headline;
         headline.service = c.service;
         headline.title = u"Rates rise"_s;
