@@ -4,6 +4,7 @@
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "story/quote_dlg_tip_msg.h"
 
 #include <QVariantList>
 
@@ -13,6 +14,15 @@ namespace {
 
 int dateNumber(const QDate& date) {
     return date.isValid() ? date.year() * 10000 + date.month() * 100 + date.day() : 0;
+}
+
+QVariantMap tipState(const CQuoteDlgTipMsg* tip, const QWidget& view) {
+    if (tip == nullptr)
+        return {};
+    const QPoint corner = tip->mapTo(&view, QPoint(0, 0));
+    return {{QStringLiteral("visible"), tip->isVisibleTo(&view)},
+            {QStringLiteral("text"), tip->cszGetText()},
+            {QStringLiteral("rect"), QVariantList{corner.x(), corner.y(), tip->width(), tip->height()}}};
 }
 
 }  // namespace
@@ -66,5 +76,6 @@ QVariantMap TRVNewsCtrlView::State() const {
             {QStringLiteral("symbol"), QVariantMap{{QStringLiteral("service"), symbols.Current().market},
                                                    {QStringLiteral("code"), symbols.Current().code}}},
             {QStringLiteral("tabs"), tabs},
+            {QStringLiteral("tip"), tipState(tip, *this)},
             {QStringLiteral("services"), serviceStates}};
 }

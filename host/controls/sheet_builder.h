@@ -68,6 +68,8 @@ public:
     void vQueueMoveToTop(int row);
     // Where the first of the rows from `row` on that stay in their order goes: how many rows further down.
     int iGetQueuedShift(int row) const { return queue ? queue->shiftFrom(row) : 0; }
+    // Where the row goes; -1: it goes away.
+    int iGetQueuedRow(int row) const { return queue ? queue->newRow(row) : row; }
     // Rows put in at the top, or at few places, are told as rows put in, rows taken out as rows taken out,
     // all else as a change of layout.
     void vTakeUpQueue();

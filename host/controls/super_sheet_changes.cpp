@@ -48,16 +48,26 @@ int CSuperSheetWnd::iGetFirstVisibleRowToCome() const {
     return first == 0 || builder == nullptr ? first : std::max(0, first + builder->iGetQueuedShift(first));
 }
 
+// From above, in the place of the first row on screen when that goes; from below, when fewer rows come above
+// the last row on screen than above the first. At its top the sheet shows what comes.
+bool CSuperSheetWnd::bOthersComeOnScreen() const {
+    const bool fromAbove = shownFirst > 0 && builder->iGetQueuedRow(shownFirst) != shownFirst + shownShift;
+    const int last = std::min(shownFirst + iGetRowsPerPage(), builder->iGetRowCount() - 1);
+    return fromAbove || builder->iGetQueuedShift(last) < (shownFirst > 0 ? shownShift : 0);
+}
+
 void CSuperSheetWnd::keepShownRows() {
-    takingUp = false;
     executeDelayedItemsLayout();
     if (shownFirst > 0)
         verticalScrollBar()->setValue(shownFirst + shownShift);
+    takingUp = false;
     if (builder->iGetRowCount() == 0)
         vResetRowBkColor();
     else if (shownShift % 2 != 0)
         delegate->firstRowOdd = !delegate->firstRowOdd;
     viewport()->update();
+    if (othersComeOnScreen)
+        emit ScrolledVertically();
 }
 
 bool CSuperSheetWnd::viewportEvent(QEvent* event) {

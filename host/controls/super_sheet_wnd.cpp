@@ -39,7 +39,10 @@ CSuperSheetWnd::CSuperSheetWnd(CSheetBuilder* sheetBuilder, QWidget* parent)
     setFrameStyle(QFrame::Box | QFrame::Plain);
     connect(header, &QHeaderView::sectionResized, this,
             [this](int column, int, int size) { sectionResized(column, size); });
-    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &CSuperSheetWnd::ScrolledVertically);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (!takingUp)
+            emit ScrolledVertically();
+    });
     applyHeights();
 }
 
@@ -71,6 +74,7 @@ void CSuperSheetWnd::connectRows() {
         takingUp = true;
         shownFirst = verticalScrollBar()->value();
         shownShift = builder->iGetQueuedShift(shownFirst);
+        othersComeOnScreen = bOthersComeOnScreen();
     });
     connect(builder, &CSheetBuilder::QueueTakenUp, this, &CSuperSheetWnd::keepShownRows);
 }

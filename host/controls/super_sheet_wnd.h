@@ -103,7 +103,8 @@ public:
     void vSetFont(const QFont& font);
 
 signals:
-    // The first visible row changed, by the user or by code.
+    // Other rows have come on screen, because the user or code scrolled or because rows on screen went. Not
+    // sent while rows come and go above those on screen, which keep their places then.
     void ScrolledVertically();
 
 public:
@@ -126,6 +127,7 @@ private:
     void applyHeights();
     void keepRowColours(int firstRow, int count);
     void takeUpRows() const;
+    bool bOthersComeOnScreen() const;
     void keepShownRows();
     int heightFor(int height) const;
     QString headerTexts() const;
@@ -142,5 +144,6 @@ private:
     bool stretching = false;
     int shownFirst = 0;  // the first visible row before and after rows are taken up
     int shownShift = 0;
+    bool othersComeOnScreen = false;
     bool takingUp = false;
 };

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "host/contract/clock.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/registered_message.h"
@@ -8,92 +7,12 @@
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
-#include "news_view/trv_news_ctrl_view.h"
 #include "story/story_ids.h"
-#include "tests/support/fake_back_end.h"
+#include "tests/news_view/view_fixture.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
-#include <memory>
-
-namespace {
-
-// A terminal in small: one frame, one view over a fake back end, on the morning of 2 March 2026.
-class NewsViewTest : public testing::Test {
-protected:
-    NewsViewTest() {
-        host_clock::startAt(localTime(2026, 3, 2, 9, 30));
-        backEnd.sysPath = folder.path();
-        writeFile(QStringLiteral("NewsService.ini"), "[CONFIG]\nCatId=1,2\nSHORTNAME=Markets,Economy\n");
-        for (const unsigned char service : backEnd.services)
-            backEnd.categories[service] = {{QStringLiteral("1"), QStringLiteral("Markets")},
-                                           {QStringLiteral("2"), QStringLiteral("Economy")}};
-        backEnd.symbols[16] = {{QStringLiteral("#001"), QStringLiteral("Index")},
-                               {QStringLiteral("2330"), QStringLiteral("Aster Chips")},
-                               {QStringLiteral("6214"), QStringLiteral("Lantern Foods")}};
-        backEnd.symbols[122] = {{QStringLiteral("4001"), QStringLiteral("Young Board")}};
-        backEnd.symbols[22] = {{QStringLiteral("00700"), QStringLiteral("Harbour Holdings")}};
-        backEnd.categories[52] = {{QStringLiteral("1"), QStringLiteral("Issue")}};
-    }
-
-    void writeFile(const QString& name, const QByteArray& bytes) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    // A news item of 2 March; its title tells its service and time.
-    void addNews(unsigned char service, int hour, int minute, std::int32_t sequence,
-                 std::int32_t category = 1, const QString& symbol = {}) {
-        backEnd.add(service, localTime(2026, 3, 2, hour, minute), sequence,
-                    QStringLiteral("s%1 %2:%3").arg(service).arg(hour).arg(minute, 2, 10, QLatin1Char('0')),
-                    category, symbol);
-    }
-
-    TRVNewsCtrlView& open(const QMap<QString, QVariant>& stored = {}, int newsType = 0) {
-        settings.values = stored;
-        frame.resize(1000, 700);
-        view = std::make_unique<TRVNewsCtrlView>(&frame);
-        view->resize(1000, 700);
-        view->OnInitialUpdate();
-        view->vSetNewsType(newsType);
-        view->InitialViewInfo(&settings, QStringLiteral("Layout"), 0, 0, {});
-        frame.show();
-        return *view;
-    }
-
-    QStringList titles(int list) const {
-        QStringList result;
-        CSuperSheetWnd* sheet = view->Sheet(list);
-        for (int row = 0; sheet != nullptr && row < sheet->iGetRowCount(); ++row)
-            result.append(sheet->model()->index(row, sheet->model()->columnCount() - 1).data().toString());
-        return result;
-    }
-
-    QList<int> tabModes() const {
-        QList<int> modes;
-        const QVariantList tabs = view->State()[QStringLiteral("tabs")].toList();
-        for (const QVariant& tab : tabs)
-            modes.append(tab.toMap()[QStringLiteral("mode")].toInt());
-        return modes;
-    }
-
-    bool isShown(int id) const {
-        const QWidget* control = GetDlgItem(view.get(), id);
-        return control != nullptr && !control->isHidden();
-    }
-
-    QTemporaryDir folder;
-    FakeBackEnd backEnd;
-    MemoryCfgIO settings;
-    QWidget frame;
-    std::unique_ptr<TRVNewsCtrlView> view;
-};
-
-}  // namespace
 
 TEST_F(NewsViewTest, OpensWithTheDayNewestFirst) {
     addNews(1, 9, 0, 1);
@@ -435,14 +354,6 @@ TEST_F(NewsViewTest, ReadsOnWhileHeadlinesArrive) {
     EXPECT_TRUE(story().contains(QStringLiteral("story 1")));
     EXPECT_EQ(view->State()[QStringLiteral("storyRow")].toInt(), 1);
 
-    const auto push = [this](unsigned char service, int hour, int minute, std::int32_t sequence) {
-        CHeadline headline;
-        headline.service = service;
-        headline.time = localTime(2026, 3, 2, hour, minute);
-        headline.sequence = sequence;
-        headline.title = QStringLiteral("pushed %1").arg(sequence);
-        view->RecvNewHeadLine(&headline, QStringLiteral("1"), {});
-    };
     push(1, 9, 20, 3);
     push(1, 8, 0, 4);
     push(52, 9, 21, 1);

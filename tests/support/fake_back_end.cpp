@@ -17,6 +17,11 @@ void FakeBackEnd::add(unsigned char service, std::int64_t time, std::int32_t seq
     pieces.push_back({headline, symbol, atHand});
 }
 
+void FakeBackEnd::makeAllAtHand() {
+    for (Piece& piece : pieces)
+        piece.atHand = true;
+}
+
 void FakeBackEnd::RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                                   const std::vector<CSymbolInfo>& removed) {
     for (const CSymbolInfo& symbol : added)
@@ -39,8 +44,33 @@ bool FakeBackEnd::BKQNEWS_bGetFullNameByService(QString& name, unsigned char ser
     return true;
 }
 
-QString FakeBackEnd::BKQNEWS_cszGetCurrDateByService(unsigned char) {
-    return QStringLiteral("20260302");
+QString FakeBackEnd::BKQNEWS_cszGetCurrDateByService(unsigned char service) {
+    const auto known = currentDates.find(service);
+    return known == currentDates.end() ? QStringLiteral("20260302") : known->second;
+}
+
+bool FakeBackEnd::BKQNews_bReRequestHeadlineStory(const CHeadlineTable& entry) {
+    asked.append(QStringLiteral("again story %1 %2").arg(entry.service).arg(entry.sequence));
+    return true;
+}
+
+bool FakeBackEnd::BKNEWS_bReRequestHeadlineTable(unsigned char service, const CSymbolInfo& symbol) {
+    asked.append(QStringLiteral("again %1 symbol %2").arg(service).arg(symbol.code));
+    return true;
+}
+
+bool FakeBackEnd::BKNEWS_bReRequestHeadlineTable(unsigned char service, int kind, const QString& key) {
+    asked.append(QStringLiteral("again %1 %2 %3").arg(service).arg(kind).arg(key));
+    return true;
+}
+
+bool FakeBackEnd::BKQNEWS_bReCoverHeadline(unsigned char service, std::vector<CHeadline>&,
+                                           const std::vector<CHeadlineTable>& entries) {
+    QStringList sequences;
+    for (const CHeadlineTable& entry : entries)
+        sequences.append(QString::number(entry.sequence));
+    asked.append(QStringLiteral("again %1 [%2]").arg(service).arg(sequences.join(u' ')));
+    return true;
 }
 
 bool FakeBackEnd::bNewsAPI_GetNewsCatId(unsigned char service, std::vector<QString>& ids,

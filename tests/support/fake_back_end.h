@@ -25,6 +25,8 @@ public:
     // Adds a headline; `atHand` false: its table entry is known, its title is not.
     void add(unsigned char service, std::int64_t time, std::int32_t sequence, const QString& title,
              std::int32_t category = 0, const QString& symbol = {}, bool atHand = true);
+    // The headlines of pieces that were added as not at hand can be had from now on.
+    void makeAllAtHand();
     // Adds the story of an entry; the one added last counts.
     void addStory(const CStory& story) { stories.push_back(story); }
 
@@ -35,9 +37,11 @@ public:
     std::set<unsigned char> unauthorised;
     bool simplified = false;
     bool connected = true;
-    bool storyAtHand = true;  // false: no story can be had yet
+    bool storyAtHand = true;                        // false: no story can be had yet
+    std::map<unsigned char, QString> currentDates;  // of services that are not at 2 March 2026
     QString sysPath = QStringLiteral("/nonexistent");
-    QStringList asked;  // "table 1 0 20260302", "headlines 1 [3 2]", "story 1 3", ...
+    // "table 1 0 20260302", "headlines 1 [3 2]", "story 1 3", "again 1 0 20260302", "again 1 [3 2]", ...
+    QStringList asked;
     std::map<NewsReceiver*, std::set<unsigned char>> registrations;
 
     void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
@@ -46,6 +50,11 @@ public:
     bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& out) override;
     bool BKQNEWS_bGetFullNameByService(QString& name, unsigned char service) override;
     QString BKQNEWS_cszGetCurrDateByService(unsigned char service) override;
+    bool BKQNews_bReRequestHeadlineStory(const CHeadlineTable& entry) override;
+    bool BKNEWS_bReRequestHeadlineTable(unsigned char service, const CSymbolInfo& symbol) override;
+    bool BKNEWS_bReRequestHeadlineTable(unsigned char service, int kind, const QString& key) override;
+    bool BKQNEWS_bReCoverHeadline(unsigned char service, std::vector<CHeadline>& headlines,
+                                  const std::vector<CHeadlineTable>& entries) override;
     bool bNewsAPI_GetNewsCatId(unsigned char service, std::vector<QString>& ids,
                                std::vector<QString>& names) override;
     int BKQCheckAuthSupport(unsigned char service) override {

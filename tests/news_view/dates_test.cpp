@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// Paging through days, and following the back end's news day.
+#include "host/controls/my_rich_edit.h"
+#include "host/controls/s_date_time_ctrl.h"
+#include "news_view/control_ids.h"
+#include "story/news_story_view.h"
+#include "story/quote_dlg_tip_msg.h"
+#include "story/story_ids.h"
+#include "tests/news_view/view_fixture.h"
+
+#include <QTest>
+
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Dates : public NewsViewTest {
+protected:
+    Dates() {
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_ONLYSELECT"_s] = u"the last "_s;
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_INSOMEDAYS"_s] = u" days"_s;
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_AFTERDAYS"_s] = u"not yet"_s;
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_CLEAR_SERVICE"_s] = u"begins"_s;
+        addNews(1, 9, 0, 1);
+        addNews(2, 9, 10, 1);
+        backEnd.add(1, localTime(2026, 3, 1, 8, 0), 7, u"yesterday"_s, 1);
+        backEnd.add(1, localTime(2026, 3, 3, 8, 0), 1, u"tomorrow"_s, 1);
+    }
+
+    void openActive(const QMap<QString, QVariant>& stored = {}) {
+        open(stored);
+        frame.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+        picker = qobject_cast<SDateTimeCtrl*>(GetDlgItem(view.get(), ids::datePicker));
+        ASSERT_NE(picker, nullptr);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+        backEnd.asked.clear();
+    }
+
+    // What was read, the refresh of rows on screen left out.
+    QStringList tablesRead() {
+        const QStringList read = backEnd.asked.filter(u"table "_s);
+        backEnd.asked.clear();
+        return read;
+    }
+
+    void beginDay(unsigned char service, int date) {
+        const CMarketStatus status{service, date};
+        view->vRecvNewMarketStatus(&status);
+    }
+
+    SDateTimeCtrl* picker = nullptr;
+};
+
+}  // namespace
+
+TEST_F(Dates, TheUserPagesWithinTheRange) {
+    openActive();
+    struct Case {
+        const char* what;
+        QDate wanted;
+        QString tip;
+        QDate inForce;
+        QStringList titles;
+    };
+    const QStringList today{u"s2 9:10"_s, u"s1 9:00"_s};
+    const Case cases[] = {
+        {"tomorrow", {2026, 3, 3}, u"not yet"_s, {2026, 3, 2}, today},
+        {"a day further back than the range", {2025, 6, 19}, u"the last 255 days"_s, {2026, 3, 2}, today},
+        {"the date in force", {2026, 3, 2}, {}, {2026, 3, 2}, today},
+        {"yesterday", {2026, 3, 1}, {}, {2026, 3, 1}, {u"yesterday"_s}},
+        {"refused elsewhere too", {2027, 1, 1}, u"not yet"_s, {2026, 3, 1}, {u"yesterday"_s}},
+        {"the last day of the range, without news", {2025, 6, 20}, {}, {2025, 6, 20}, {}},
+        {"back", {2026, 3, 2}, {}, {2026, 3, 2}, today},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        const QString before = state(u"pickedDate"_s).toString();
+        picker->setDate(c.wanted);
+        EXPECT_EQ(tip(), c.tip);
+        EXPECT_EQ(picker->date(), c.inForce);
+        EXPECT_EQ(state(u"pickedDate"_s).toString(), c.inForce.toString(u"yyyyMMdd"_s));
+        EXPECT_EQ(titles(0), c.titles);
+        EXPECT_EQ(tablesRead().isEmpty(), state(u"pickedDate"_s).toString() == before);
+        view->findChild<CQuoteDlgTipMsg*>()->vStop();
+    }
+}
+
+TEST_F(Dates, OnlyTheDateInForceWhenTheCalendarClosesCounts) {
+    openActive();
+    view->OnDateTimeDropDown();
+    picker->setDate({2026, 3, 1});
+    picker->setDate({2026, 2, 20});
+    EXPECT_EQ(tablesRead(), QStringList());
+    picker->vSetDate({2026, 3, 1});
+    view->OnDateTimeCloseUp();
+    EXPECT_EQ(titles(0), QStringList{u"yesterday"_s});
+    EXPECT_EQ(tablesRead().size(), 5) << "once, from the five ticked services";
+}
+
+TEST_F(Dates, PushesReachThePickedDayOnlyWhileItIsTheNewsDay) {
+    openActive();
+    EXPECT_TRUE(view->bChangeDate({2026, 3, 1}));
+    push(1, 9, 20, 5);
+    EXPECT_EQ(titles(0), QStringList{u"yesterday"_s});
+    EXPECT_TRUE(view->bChangeDate({2026, 3, 2}));
+    push(1, 9, 21, 6);
+    EXPECT_EQ(titles(0).front(), u"pushed 6"_s);
+}
+
+TEST_F(Dates, TheViewFollowsANewDayOfATickedService) {
+    openActive();
+    backEnd.currentDates[1] = u"20260303"_s;
+    struct Case {
+        const char* what;
+        unsigned char service;
+        int date;
+    };
+    const Case ignored[] = {
+        {"the service's own date", 1, 20260302},
+        {"the warrant service", 52, 20260303},
+        {"an unknown service", 99, 20260303},
+        {"month 13", 1, 20261301},
+        {"day 0", 1, 20260300},
+        {"day 32", 1, 20260332},
+        {"a year too early", 1, 18991231},
+        {"no date", 1, -1},
+    };
+    for (const Case& c : ignored) {
+        beginDay(c.service, c.date);
+        EXPECT_EQ(tablesRead(), QStringList()) << c.what;
+        EXPECT_EQ(state(u"newsDay"_s).toInt(), 20260302) << c.what;
+        EXPECT_EQ(tip(), QString()) << c.what;
+    }
+    view->bChangeDate({2026, 3, 1});
+    beginDay(1, 20260303);
+    EXPECT_EQ(state(u"newsDay"_s).toInt(), 20260303);
+    EXPECT_EQ(state(u"pickedDate"_s).toInt(), 20260303);
+    EXPECT_EQ(picker->date(), QDate(2026, 3, 3));
+    EXPECT_EQ(tip(), u"Service 1 begins"_s);
+    EXPECT_EQ(titles(0), (QStringList{u"tomorrow"_s, u"s2 9:10"_s}))
+        << "each service gives the day at which it stands";
+    tablesRead();
+    beginDay(1, 20260303);
+    EXPECT_EQ(tablesRead(), QStringList()) << "reported again";
+    EXPECT_FALSE(view->bChangeDateByNewHeadLine()) << "there is no relation-search list";
+}
+
+TEST_F(Dates, ANewDayDuringTheWarrantModeFollowsTheUsersChoice) {
+    openActive();
+    view->SwitchFunction(5);
+    backEnd.currentDates[1] = u"20260303"_s;
+    beginDay(52, 20260303);
+    EXPECT_EQ(state(u"newsDay"_s).toInt(), 20260302) << "the user has not ticked the warrant service";
+    beginDay(1, 20260303);
+    view->SwitchFunction(0);
+    view->vRealUpdateView();
+    EXPECT_EQ(titles(0), (QStringList{u"tomorrow"_s, u"s2 9:10"_s}));
+}
+
+TEST_F(Dates, ADayThatItsMonthLacksCountsOn) {
+    EXPECT_EQ(DayOfNumber(20260231), QDate(2026, 3, 3));
+    EXPECT_EQ(DayOfNumber(20240229), QDate(2024, 2, 29));
+    EXPECT_THROW(DayOfNumber(20261300), std::invalid_argument);
+}
+
+TEST_F(Dates, GoingToARowShowsItsStory) {
+    const CHeadlineTable first{localTime(2026, 3, 2, 9, 0), 1, 1, 0, 0};
+    backEnd.addStory({first.time, u"the story"_s, first});
+    openActive();
+    auto* pane = qobject_cast<NewsStoryView*>(GetDlgItem(view.get(), ids::firstChildView + ids::storyPane));
+    ASSERT_NE(pane, nullptr);
+    view->SwitchFunction(3);
+    EXPECT_TRUE(view->bChangeNewsPos(0, 1));
+    EXPECT_EQ(state(u"mode"_s).toInt(), 0);
+    EXPECT_EQ(view->Sheet(0)->cptGetFocusNdx().y(), 1);
+    EXPECT_TRUE(static_cast<MyRichEdit*>(GetDlgItem(pane, story_ids::storyText))
+                    ->szGetText()
+                    .contains(u"the story"_s));
+    const std::pair<int, int> positions[] = {{0, 0}, {2, 2}, {3, 1}, {-4, 0}};
+    for (const auto& [wanted, held] : positions) {
+        view->bChangeNewsPos(0, wanted);
+        EXPECT_EQ(pane->GetHeadLinePos(), held) << wanted;
+    }
+}

@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// What the user has sent again, and the back end's answers.
+#include "host/controls/sc_combo_box.h"
+#include "news_view/control_ids.h"
+#include "tests/news_view/view_fixture.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Recovery : public NewsViewTest {
+protected:
+    Recovery() {
+        backEnd.services = {1, 2, 16, 52};
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_RECOVER"_s] = u"..."_s;
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_INVALID_DATE1"_s] = u"no news that day"_s;
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_NEWS_CLASS_NOT_FOUND"_s] = u"no such news"_s;
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS_NOT_FOUND"_s] = u"no news of it"_s;
+    }
+
+    void openActive(const QMap<QString, QVariant>& stored = {}) {
+        open(stored);
+        frame.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+        backEnd.asked.clear();
+    }
+
+    QStringList requests(int command) {
+        backEnd.asked.clear();
+        EXPECT_TRUE(view->OnCommand(command));
+        return backEnd.asked.filter(u"again "_s);
+    }
+
+    using Answer = void (TRVNewsCtrlView::*)(const CHeadlineTableInfo*);
+    // True when the answer made the view read tables.
+    bool answer(Answer callback, unsigned char service, const QString& key, int status = 0) {
+        backEnd.asked.clear();
+        const CHeadlineTableInfo info{service, static_cast<signed char>(status), key};
+        (view.get()->*callback)(&info);
+        return !backEnd.asked.filter(u"table "_s).isEmpty();
+    }
+};
+
+constexpr auto dateAnswer = &TRVNewsCtrlView::vRecvAllHeadlineTableRecovery;
+constexpr auto categoryAnswer = &TRVNewsCtrlView::vRecvCatHeadlineTableRecovery;
+constexpr auto symbolAnswer = &TRVNewsCtrlView::vRecvSymHeadlineTableRecovery;
+
+}  // namespace
+
+TEST_F(Recovery, EachListAsksForItsOwnTable) {
+    openActive({{u"CategoryID"_s, u"2"_s}, {u"SymbolID"_s, u"2330"_s}});
+    const QMap<int, QStringList> asked = {
+        {0, {u"again 1 0 20260302"_s, u"again 2 0 20260302"_s, u"again 16 0 20260302"_s}},
+        {1, {u"again 1 1 2"_s, u"again 2 1 2"_s, u"again 16 1 2"_s}},
+        {2, {u"again 1 symbol 2330"_s, u"again 2 symbol 2330"_s, u"again 16 symbol 2330"_s}},
+        {3, {}},
+        {5, {}},
+    };
+    for (auto mode = asked.begin(); mode != asked.end(); ++mode) {
+        view->SwitchFunction(mode.key());
+        EXPECT_EQ(requests(ids::recoverHeadlineTable), *mode) << "mode " << mode.key();
+    }
+}
+
+TEST_F(Recovery, SelectedRowsAwaitTheirHeadlines) {
+    for (int sequence = 1; sequence <= 4; ++sequence)
+        addNews(1, 9, sequence, sequence);
+    openActive();
+    EXPECT_EQ(requests(ids::recoverHeadline), QStringList()) << "nothing is selected";
+    CSuperSheetWnd& sheet = *view->Sheet(0);
+    sheet.vSetActiveSelection(0, -1);
+    for (const int row : {1, 3})
+        sheet.selectionModel()->select(sheet.model()->index(row, 0),
+                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    EXPECT_EQ(requests(ids::recoverHeadline),
+              (QStringList{u"again 1 [4 3 1]"_s, u"again 2 [4 3 1]"_s, u"again 16 [4 3 1]"_s}));
+    EXPECT_EQ(titles(0), (QStringList{u"..."_s, u"..."_s, u"s1 9:02"_s, u"..."_s}));
+    EXPECT_EQ(sheet.model()->index(0, 0).data().toString(), u"09:04"_s);
+    EXPECT_EQ(sheet.model()->index(0, 1).data().toString(), u"..."_s);
+    view->RespHeadLine({view->GetHeadlineTable(3), {0, 77, 1, 0, 0}});
+    EXPECT_EQ(titles(0).back(), u"s1 9:01"_s);
+    view->vRealUpdateView();
+    EXPECT_EQ(titles(0).front(), u"s1 9:04"_s);
+}
+
+TEST_F(Recovery, TheFocusedRowsStoryIsAskedForAgain) {
+    addNews(1, 9, 0, 1);
+    addNews(1, 9, 1, 2);
+    openActive();
+    EXPECT_EQ(requests(ids::recoverStory), QStringList{u"again story 1 2"_s}) << "the first row stands in";
+    view->Sheet(0)->vSetActiveSelection(1, -1);
+    EXPECT_EQ(requests(ids::recoverStory), QStringList{u"again story 1 1"_s});
+    view->SwitchFunction(3);
+    EXPECT_EQ(requests(ids::recoverStory), QStringList()) << "an empty list";
+}
+
+TEST_F(Recovery, AnAnswerThatNoLongerFitsIsDropped) {
+    openActive({{u"CategoryID"_s, u"2"_s},
+                {u"SymbolID"_s, u"2330"_s},
+                {u"Sheet0ServiceCheck1"_s, true},
+                {u"Sheet0ServiceCheck2"_s, true}});
+    struct Case {
+        const char* what;
+        int mode;
+        Answer callback;
+        unsigned char service;
+        QString key;
+        bool taken;
+    };
+    const Case cases[] = {
+        {"the picked date", 0, dateAnswer, 1, u"20260302"_s, true},
+        {"another date", 0, dateAnswer, 1, u"20260301"_s, false},
+        {"a key of another length is read as it is", 0, dateAnswer, 1, u"x"_s, true},
+        {"a service without a tick", 0, dateAnswer, 16, u"20260302"_s, false},
+        {"warrants outside their mode", 0, dateAnswer, 52, u"20260302"_s, false},
+        {"warrants", 5, dateAnswer, 52, u"20260302"_s, true},
+        {"all news while another list is shown", 3, dateAnswer, 1, u"20260302"_s, false},
+        {"the chosen category", 1, categoryAnswer, 2, u"2"_s, true},
+        {"also while another list is shown", 0, categoryAnswer, 2, u"2"_s, true},
+        {"another category", 1, categoryAnswer, 2, u"1"_s, false},
+        {"a category of a service without a tick", 1, categoryAnswer, 16, u"2"_s, false},
+        {"the current symbol", 2, symbolAnswer, 1, u"2330"_s, true},
+        {"another symbol", 2, symbolAnswer, 1, u"6214"_s, false},
+    };
+    view->SwitchFunction(1);
+    view->SwitchFunction(2);
+    for (const Case& c : cases) {
+        view->SwitchFunction(c.mode);
+        EXPECT_EQ(answer(c.callback, c.service, c.key), c.taken) << c.what;
+    }
+    for (const Answer callback : {dateAnswer, categoryAnswer, symbolAnswer})
+        (view.get()->*callback)(nullptr);
+}
+
+TEST_F(Recovery, ATableThatIsSentAgainReplacesTheOldOne) {
+    openActive();
+    push(1, 9, 30, 9);
+    addNews(1, 9, 0, 1);
+    addNews(2, 9, 10, 1);
+    EXPECT_TRUE(answer(dateAnswer, 1, u"20260302"_s));
+    EXPECT_EQ(titles(0), (QStringList{u"s2 9:10"_s, u"s1 9:00"_s}));
+    EXPECT_EQ(tip(), QString());
+}
+
+TEST_F(Recovery, AServiceWithoutDataIsNamedOnce) {
+    openActive();
+    answer(dateAnswer, 1, u"20260302"_s);
+    EXPECT_EQ(tip(), QString()) << "empty, but not denied";
+    for (int i = 0; i < 2; ++i) {
+        answer(dateAnswer, 1, u"20260302"_s, -1);
+        EXPECT_EQ(state(u"caption"_s).toString(), u"Service 1 "_s);
+    }
+    EXPECT_EQ(tip(), u"Service 1 no news that day"_s);
+    answer(dateAnswer, 2, u"20260302"_s, -1);
+    EXPECT_EQ(tip(), u"Service 1 Service 2 no news that day"_s);
+    view->SwitchFunction(1);
+    answer(categoryAnswer, 1, u"1"_s, -1);
+    EXPECT_EQ(tip(), u"Service 1 Service 2  no such news"_s);
+    addNews(1, 9, 0, 1);
+    answer(categoryAnswer, 1, u"1"_s, -1);
+    EXPECT_EQ(titles(1), QStringList{u"s1 9:00"_s}) << "the other services' news are there";
+}
+
+TEST_F(Recovery, TheWarningTermListFollowsTheAllNewsList) {
+    writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
+    addNews(1, 9, 0, 1);
+    openActive({{u"EnabledFunctions"_s, 0x7F}});
+    EXPECT_EQ(titles(6), QStringList());
+    answer(dateAnswer, 1, u"20260302"_s);
+    EXPECT_EQ(titles(6), QStringList{u"s1 9:00"_s});
+    EXPECT_EQ(view->Sheet(6)->model()->index(0, 0).data().toString(), u"03/02 09:00"_s);
+}

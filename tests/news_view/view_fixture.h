@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/clock.h"
+#include "news_view/trv_news_ctrl_view.h"
+#include "tests/support/fake_back_end.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+// A terminal in small: one frame, one view over a fake back end, on the morning of 2 March 2026.
+class NewsViewTest : public testing::Test {
+protected:
+    NewsViewTest() {
+        host_clock::startAt(localTime(2026, 3, 2, 9, 30));
+        backEnd.sysPath = folder.path();
+        writeFile(QStringLiteral("NewsService.ini"), "[CONFIG]\nCatId=1,2\nSHORTNAME=Markets,Economy\n");
+        for (const unsigned char service : backEnd.services)
+            backEnd.categories[service] = {{QStringLiteral("1"), QStringLiteral("Markets")},
+                                           {QStringLiteral("2"), QStringLiteral("Economy")}};
+        backEnd.symbols[16] = {{QStringLiteral("#001"), QStringLiteral("Index")},
+                               {QStringLiteral("2330"), QStringLiteral("Aster Chips")},
+                               {QStringLiteral("6214"), QStringLiteral("Lantern Foods")}};
+        backEnd.symbols[122] = {{QStringLiteral("4001"), QStringLiteral("Young Board")}};
+        backEnd.symbols[22] = {{QStringLiteral("00700"), QStringLiteral("Harbour Holdings")}};
+        backEnd.categories[52] = {{QStringLiteral("1"), QStringLiteral("Issue")}};
+    }
+
+    void writeFile(const QString& name, const QByteArray& bytes) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    // A news item of 2 March; its title tells its service and time.
+    void addNews(unsigned char service, int hour, int minute, std::int32_t sequence,
+                 std::int32_t category = 1, const QString& symbol = {}) {
+        backEnd.add(service, localTime(2026, 3, 2, hour, minute), sequence,
+                    QStringLiteral("s%1 %2:%3").arg(service).arg(hour).arg(minute, 2, 10, QLatin1Char('0')),
+                    category, symbol);
+    }
+
+    TRVNewsCtrlView& open(const QMap<QString, QVariant>& stored = {}, int newsType = 0) {
+        settings.values = stored;
+        frame.resize(1000, 700);
+        view = std::make_unique<TRVNewsCtrlView>(&frame);
+        view->resize(1000, 700);
+        view->OnInitialUpdate();
+        view->vSetNewsType(newsType);
+        view->InitialViewInfo(&settings, QStringLiteral("Layout"), 0, 0, {});
+        frame.show();
+        return *view;
+    }
+
+    // A headline of 2 March as the back end pushes it.
+    void push(unsigned char service, int hour, int minute, std::int32_t sequence,
+              const QString& symbol = {}) {
+        CHeadline headline;
+        headline.service = service;
+        headline.time = localTime(2026, 3, 2, hour, minute);
+        headline.sequence = sequence;
+        headline.title = QStringLiteral("pushed %1").arg(sequence);
+        headline.categoryId = 1;
+        view->RecvNewHeadLine(&headline, QStringLiteral("1"), symbol);
+    }
+
+    QVariant state(const QString& name) const { return view->State()[name]; }
+    // The text of the tip, empty while none is shown.
+    QString tip() const {
+        const QVariantMap shown = state(QStringLiteral("tip")).toMap();
+        return shown[QStringLiteral("visible")].toBool() ? shown[QStringLiteral("text")].toString()
+                                                         : QString();
+    }
+
+    QStringList titles(int list) const {
+        QStringList result;
+        CSuperSheetWnd* sheet = view->Sheet(list);
+        for (int row = 0; sheet != nullptr && row < sheet->iGetRowCount(); ++row)
+            result.append(sheet->model()->index(row, sheet->model()->columnCount() - 1).data().toString());
+        return result;
+    }
+
+    QList<int> tabModes() const {
+        QList<int> modes;
+        const QVariantList tabs = view->State()[QStringLiteral("tabs")].toList();
+        for (const QVariant& tab : tabs)
+            modes.append(tab.toMap()[QStringLiteral("mode")].toInt());
+        return modes;
+    }
+
+    bool isShown(int id) const {
+        const QWidget* control = GetDlgItem(view.get(), id);
+        return control != nullptr && !control->isHidden();
+    }
+
+    QTemporaryDir folder;
+    FakeBackEnd backEnd;
+    MemoryCfgIO settings;
+    QWidget frame;
+    std::unique_ptr<TRVNewsCtrlView> view;
+};
