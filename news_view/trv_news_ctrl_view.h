@@ -165,6 +165,7 @@ public:
     // --- For the host's scripts ---
 
     QVariantMap State() const override;
+    QVariantMap StoryState(bool inDialog) const override;
     CSuperSheetWnd* Sheet(int list) const override;
     std::vector<HeadlineKey> Keys(int list, int from, int count) const override;
 

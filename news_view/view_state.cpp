@@ -1,11 +1,17 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What the news view lets the host's scripts look at.
+#include "host/controls/my_rich_edit.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "story/news_story_view.h"
 #include "story/quote_dlg_tip_msg.h"
+#include "story/story_ids.h"
+#include "story/trv_news_story.h"
 
+#include <QLineEdit>
+#include <QTextCursor>
 #include <QVariantList>
 
 #include <algorithm>
@@ -16,13 +22,37 @@ int dateNumber(const QDate& date) {
     return date.isValid() ? date.year() * 10000 + date.month() * 100 + date.day() : 0;
 }
 
+QVariantList rectangle(const QRect& rect) {
+    return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
 QVariantMap tipState(const CQuoteDlgTipMsg* tip, const QWidget& view) {
     if (tip == nullptr)
         return {};
-    const QPoint corner = tip->mapTo(&view, QPoint(0, 0));
+    const QRect place(tip->mapTo(&view, QPoint(0, 0)), tip->size());
     return {{QStringLiteral("visible"), tip->isVisibleTo(&view)},
             {QStringLiteral("text"), tip->cszGetText()},
-            {QStringLiteral("rect"), QVariantList{corner.x(), corner.y(), tip->width(), tip->height()}}};
+            {QStringLiteral("rect"), rectangle(place)}};
+}
+
+// What pane and dialog have in common: a title and a story by the same numbers.
+QVariantMap storyTexts(const QWidget& window) {
+    const QWidget* title = GetDlgItem(&window, story_ids::title);
+    const auto* story = qobject_cast<const MyRichEdit*>(GetDlgItem(&window, story_ids::storyText));
+    if (title == nullptr || story == nullptr)
+        return {};
+    const auto* text = qobject_cast<const MyRichEdit*>(title);
+    const auto* line = qobject_cast<const QLineEdit*>(title);
+    const QTextCursor cursor = story->textCursor();
+    return {{QStringLiteral("visible"), window.isVisible()},
+            {QStringLiteral("title"), text != nullptr   ? text->szGetText()
+                                      : line != nullptr ? line->text()
+                                                        : QString()},
+            {QStringLiteral("story"), story->szGetText()},
+            {QStringLiteral("selection"), QVariantList{cursor.selectionStart(), cursor.selectionEnd()}},
+            {QStringLiteral("titleRect"), rectangle(title->geometry())},
+            {QStringLiteral("storyRect"), rectangle(story->geometry())},
+            {QStringLiteral("onTop"), window.windowFlags().testFlag(Qt::WindowStaysOnTopHint)}};
 }
 
 }  // namespace
@@ -39,6 +69,18 @@ std::vector<HeadlineKey> TRVNewsCtrlView::Keys(int list, int from, int count) co
             result.push_back(KeyOf(entry));
     }
     return result;
+}
+
+QVariantMap TRVNewsCtrlView::StoryState(bool inDialog) const {
+    if (inDialog)
+        return stage.pGetDialog() != nullptr ? storyTexts(*stage.pGetDialog()) : QVariantMap();
+    const NewsStoryView* pane = stage.pGetPane();
+    if (pane == nullptr)
+        return {};
+    QVariantMap state = storyTexts(*pane);
+    state.insert(QStringLiteral("position"), pane->GetHeadLinePos());
+    state.insert(QStringLiteral("table"), pane->iGetTable());
+    return state;
 }
 
 QVariantMap TRVNewsCtrlView::State() const {

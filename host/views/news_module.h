@@ -43,6 +43,9 @@ public:
     // The view's own state under the names of the automation interface (mode, newsType, services, ...),
     // without its controls, which are found by number.
     virtual QVariantMap State() const = 0;
+    // What the story pane, or the story dialog, shows, under the names of the automation interface (title,
+    // story, selection, titleRect, ...); empty where there is none.
+    virtual QVariantMap StoryState(bool inDialog) const = 0;
     // The grid of headline list 0..6; null when the list has none.
     virtual CSuperSheetWnd* Sheet(int list) const = 0;
     // The keys of rows [from, from + count) of a list, cut to the rows that exist.

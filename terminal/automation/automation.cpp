@@ -12,6 +12,8 @@ Automation::Automation(Session& session)
     : views(session),
       grids(session),
       controls(session),
+      dates(session),
+      stories(session),
       feed(session),
       host(session),
       app(session),
@@ -19,6 +21,8 @@ Automation::Automation(Session& session)
     views.addTo(table);
     grids.addTo(table);
     controls.addTo(table);
+    dates.addTo(table);
+    stories.addTo(table);
     feed.addTo(table);
     host.addTo(table);
     app.addTo(table);

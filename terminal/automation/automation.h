@@ -4,11 +4,13 @@
 
 #include "terminal/automation/app_methods.h"
 #include "terminal/automation/control_methods.h"
+#include "terminal/automation/date_methods.h"
 #include "terminal/automation/feed_methods.h"
 #include "terminal/automation/grid_methods.h"
 #include "terminal/automation/host_methods.h"
 #include "terminal/automation/request_queue.h"
 #include "terminal/automation/socket_server.h"
+#include "terminal/automation/story_methods.h"
 #include "terminal/automation/view_methods.h"
 
 #include <QObject>
@@ -37,6 +39,8 @@ private:
     ViewMethods views;
     GridMethods grids;
     ControlMethods controls;
+    DateMethods dates;
+    StoryMethods stories;
     FeedMethods feed;
     HostMethods host;
     AppMethods app;

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/automation/user_input.h"
 
+#include "host/controls/s_date_time_ctrl.h"
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -72,6 +75,24 @@ void typeText(QLineEdit& edit, const QString& text) {
 void setChecked(QAbstractButton& button, bool checked) {
     if (button.isChecked() != checked)
         button.click();
+}
+
+void pickDate(SDateTimeCtrl& picker, const QDate& date) {
+    if (picker.bIsDropped())
+        picker.calendarWidget()->setSelectedDate(date);
+    else
+        picker.setDate(date);
+}
+
+void openCalendar(SDateTimeCtrl& picker) {
+    picker.setFocus();
+    if (!picker.bIsDropped())
+        pressKey(&picker, Qt::Key_F4);
+}
+
+void closeCalendar(SDateTimeCtrl& picker) {
+    if (picker.bIsDropped())
+        picker.calendarWidget()->window()->close();
 }
 
 }  // namespace wirepane

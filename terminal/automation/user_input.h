@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDate>
 #include <QString>
 
 class QAbstractButton;
 class QComboBox;
 class QLineEdit;
 class QTabBar;
+class SDateTimeCtrl;
 
 namespace wirepane {
 
@@ -22,5 +24,10 @@ void clickTab(QTabBar& tabs, int tab);
 void typeText(QLineEdit& edit, const QString& text);
 // Clicks a check box or a check button that is not as wanted.
 void setChecked(QAbstractButton& button, bool checked);
+// Picks a date: in the open calendar, else in the line.
+void pickDate(SDateTimeCtrl& picker, const QDate& date);
+// Opens the calendar, and closes it with the date that is picked in it. Nothing where it is so already.
+void openCalendar(SDateTimeCtrl& picker);
+void closeCalendar(SDateTimeCtrl& picker);
 
 }  // namespace wirepane

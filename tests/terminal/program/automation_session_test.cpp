@@ -132,6 +132,8 @@ TEST_F(AutomationSessionTest, RequestsThatCannotBeDoneSayWhyAndEndNothing) {
     script.result(u"view.open"_s);
     const QList<std::tuple<QString, QJsonObject, int>> wrong{
         {u"no.such"_s, {}, -32601},
+        {u"date.set"_s, {{u"date"_s, 20260231}}, -32602},
+        {u"story.state"_s, {{u"where"_s, u"window"_s}}, -32602},
         {u"view.open"_s, {{u"size"_s, u"big"_s}}, -32602},
         {u"view.open"_s, {{u"newsType"_s, 4}}, -32602},
         {u"view.open"_s, {{u"settings"_s, QJsonObject{{u"x"_s, QJsonObject()}}}}, -32602},
@@ -208,6 +210,41 @@ TEST_F(AutomationSessionTest, QuitAnswersAndEndsWithZero) {
     ScriptClient script(arguments());
     script.result(u"app.quit"_s);
     EXPECT_EQ(script.endInput(), 0);
+}
+
+TEST_F(AutomationSessionTest, AScriptPagesThroughDaysAndReadsStories) {
+    ScriptClient script(arguments());
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:01:00"_s, 1, u"Today"_s));
+    script.result(u"feed.push"_s, news(1, u"2026-02-27T09:01:00"_s, 1, u"Friday"_s));
+    script.result(u"view.open"_s);
+    const auto titles = [&] {
+        script.result(u"idle"_s);
+        return titlesOf(script.result(u"grid.read"_s, QJsonObject{{u"list"_s, 0}}).toObject());
+    };
+    const auto set = [&](int date) { script.result(u"date.set"_s, QJsonObject{{u"date"_s, date}}); };
+    EXPECT_EQ(titles(), QStringList{u"Today"_s});
+    set(20260227);
+    EXPECT_EQ(titles(), QStringList{u"Friday"_s});
+    set(20260303);
+    const QJsonObject state = script.result(u"view.state"_s).toObject();
+    EXPECT_EQ(state[u"pickedDate"_s].toInt(), 20260227) << "a day that is to come is refused";
+    EXPECT_TRUE(state[u"tip"_s][u"visible"_s].toBool());
+    script.result(u"date.open"_s);
+    set(20260302);
+    EXPECT_EQ(titles(), QStringList{u"Friday"_s}) << "the calendar is still open";
+    script.result(u"date.close"_s);
+    EXPECT_EQ(titles(), QStringList{u"Today"_s});
+
+    script.result(u"grid.select"_s, QJsonObject{{u"list"_s, 0}, {u"rows"_s, QJsonArray{0}}});
+    const QJsonObject pane = script.result(u"story.state"_s, QJsonObject{{u"where"_s, u"pane"_s}}).toObject();
+    EXPECT_TRUE(pane[u"visible"_s].toBool());
+    EXPECT_EQ(pane[u"title"_s].toString(), u"2026/03/02 09:01:00 \r\nToday"_s);
+    EXPECT_TRUE(pane[u"story"_s].toString().contains(u"Text of Today"_s));
+    EXPECT_EQ(pane[u"position"_s].toInt(), 0);
+    EXPECT_EQ(pane[u"table"_s].toInt(), 0);
+    const QJsonObject dialog =
+        script.result(u"story.state"_s, QJsonObject{{u"where"_s, u"dialog"_s}}).toObject();
+    EXPECT_FALSE(dialog[u"visible"_s].toBool(true));
 }
 
 }  // namespace
