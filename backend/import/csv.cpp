@@ -12,7 +12,8 @@ bool isLineEnd(QChar c) {
 
 }  // namespace
 
-CsvReader::CsvReader(QStringView csv) : text(csv), at(csv.startsWith(QChar::ByteOrderMark) ? 1 : 0) {}
+CsvReader::CsvReader(QStringView csv, QChar separator)
+    : text(csv), comma(separator), at(csv.startsWith(QChar::ByteOrderMark) ? 1 : 0) {}
 
 std::optional<CsvRecord> CsvReader::next() {
     while (takeLineEnd()) {
@@ -38,7 +39,7 @@ QString CsvReader::field(bool& closed) {
     if (at < text.size() && text.at(at) == u'"')
         value = quotedField(closed);
     const qsizetype start = at;
-    while (at < text.size() && text.at(at) != u',' && !isLineEnd(text.at(at)))
+    while (at < text.size() && text.at(at) != comma && !isLineEnd(text.at(at)))
         ++at;
     return value.append(text.sliced(start, at - start));
 }

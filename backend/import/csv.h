@@ -16,12 +16,13 @@ struct CsvRecord {
     bool closed = true;  // false: its last field opens a quote that the text never closes
 };
 
-// Comma-separated values: fields in quotes may hold commas, line breaks and doubled quotes; lines end in LF,
-// CRLF or CR; a byte order mark at the start is left out, and so are empty lines.
+// Values separated by commas, or by another character: fields in quotes may hold commas, line breaks and
+// doubled quotes; lines end in LF, CRLF or CR; a byte order mark at the start is left out, and so are empty
+// lines.
 class CsvReader {
 public:
     // `csv` outlives this.
-    explicit CsvReader(QStringView csv);
+    explicit CsvReader(QStringView csv, QChar separator = u',');
 
     // The next record; nothing at the end.
     std::optional<CsvRecord> next();
@@ -35,6 +36,7 @@ private:
     bool takeLineEnd();
 
     QStringView text;
+    QChar comma;
     qsizetype at = 0;
     qint64 line = 1;
 };

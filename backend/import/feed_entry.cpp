@@ -3,6 +3,7 @@
 #include "backend/import/feed_entry.h"
 
 #include "backend/import/feed_text.h"
+#include "backend/import/item_rules.h"
 #include "backend/import/news_time.h"
 #include "backend/import/wire_form.h"
 #include "backend/import/xml_source.h"
@@ -11,15 +12,12 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace wirepane {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qsizetype longestIdentity = 1000;
 
 enum class Vocabulary { Other, Own, DublinCore, Terms, ContentModule, Atom, Xhtml };
 
@@ -168,8 +166,8 @@ Result<StoreItem> feedItem(const FeedEntry& entry, const FeedEntry& feed, unsign
     NewsItem item;
     item.service = service;
     item.identity = identityOf(entry, feed);
-    if (item.identity.size() > longestIdentity)
-        return Error{u"The entry's identity is longer than %1 characters."_s.arg(longestIdentity)};
+    if (const auto fault = faultOfIdentity(item.identity, u"entry's identity"))
+        return Error{*fault};
     const QString story = wireForm(entry.content.isEmpty() ? entry.summary : entry.content);
     if (!story.isEmpty())
         item.story = story;
@@ -182,8 +180,7 @@ Result<StoreItem> feedItem(const FeedEntry& entry, const FeedEntry& feed, unsign
     if (!time)
         return Error{u"Neither the entry nor its feed has a date that can be read."_s};
     item.time = *time;
-    item.version =
-        int(std::clamp<std::int64_t>(entry.updated.value_or(*time), 0, std::numeric_limits<int>::max()));
+    item.version = versionOf({}, entry.updated.value_or(*time));
     item.category = entry.category;
     return StoreItem(item);
 }

@@ -2,16 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/ninjs_record.h"
 
+#include "backend/import/item_rules.h"
 #include "backend/import/markets.h"
 #include "backend/import/news_time.h"
 #include "backend/import/ninjs_fields.h"
 #include "backend/import/plain_text.h"
 #include "backend/import/wire_form.h"
-#include "host/contract/clock.h"
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <optional>
 
 namespace wirepane {
@@ -19,9 +18,6 @@ namespace wirepane {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qsizetype longestIdentity = 1000;
-constexpr std::size_t mostSymbols = 100;
 
 using Value = NinjsFields::Value;
 
@@ -97,36 +93,23 @@ Result<std::int64_t> timeOf(const NinjsFields& fields) {
 
 // Why the record may not be shown, or nothing.
 std::optional<QString> heldBack(const NinjsFields& fields) {
-    const QString status = fields.text("pubstatus"_L1);
-    if (!status.isEmpty() && status != "usable"_L1)
-        return u"The record is not for publication: “pubstatus” is “%1”."_s.arg(titleLine(status.left(60)));
+    if (const auto reason = notForPublication(fields.text("pubstatus"_L1), "pubstatus"_L1))
+        return reason;
     for (const QLatin1StringView name : {"embargoed"_L1, "embargoeduntil"_L1}) {
         const QString until = fields.text(name);
-        const auto time = newsTime(until);
-        if (!until.isEmpty() && (!time || *time > host_clock::now()))
-            return u"The record is under embargo: “%1” is “%2”."_s.arg(name, titleLine(until.left(60)));
+        const auto reason = until.isEmpty() ? std::nullopt : underEmbargo(until, name);
+        if (reason)
+            return reason;
     }
     return std::nullopt;
-}
-
-// A later version must have a greater number: the record's own where it numbers its versions, else its time.
-int versionOf(const NinjsFields& fields, std::int64_t time) {
-    bool isNumber = false;
-    const int version = fields.text("version"_L1).section(u'.', 0, 0).toInt(&isNumber);
-    if (isNumber && version >= 0)
-        return version;
-    return int(std::clamp<std::int64_t>(time, 0, std::numeric_limits<int>::max()));
 }
 
 std::vector<SymbolRef> symbolsOf(const NinjsFields& fields) {
     std::vector<SymbolRef> symbols;
     for (const NinjsFields& organisation : fields.list("organisation"_L1)) {
         for (const NinjsFields& symbol : organisation.list("symbols"_L1)) {
-            const SymbolRef ref{marketOfExchange(symbol.text("exchange"_L1)),
-                                cleanLine(symbol.text("ticker"_L1))};
-            if (!ref.code.isEmpty() && symbols.size() < mostSymbols &&
-                std::find(symbols.begin(), symbols.end(), ref) == symbols.end())
-                symbols.push_back(ref);
+            addSymbol(symbols,
+                      {marketOfExchange(symbol.text("exchange"_L1)), cleanLine(symbol.text("ticker"_L1))});
         }
     }
     return symbols;
@@ -160,8 +143,8 @@ Result<NewsItem> ninjsItem(QByteArrayView record, unsigned char service) {
     item.identity = cleanLine(fields.text("uri"_L1));
     if (item.identity.isEmpty())
         return Error{u"The record has no “uri”."_s};
-    if (item.identity.size() > longestIdentity)
-        return Error{u"The “uri” of the record is longer than %1 characters."_s.arg(longestIdentity)};
+    if (const auto fault = faultOfIdentity(item.identity, u"“uri” of the record"))
+        return Error{*fault};
     if (const auto reason = heldBack(fields))
         return Error{*reason};
 
@@ -180,7 +163,7 @@ Result<NewsItem> ninjsItem(QByteArrayView record, unsigned char service) {
     if (!time)
         return Error{time.error()};
     item.time = time.value();
-    item.version = versionOf(fields, item.time);
+    item.version = versionOf(fields.text("version"_L1), item.time);
     const QString story = firstOf({body, description});
     if (!story.isEmpty())
         item.story = story;

@@ -8,8 +8,11 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 namespace wirepane {
+
+struct Mapping;
 
 // One item of a source as a reader hands it over: the item, or the sentence that says why it cannot be taken.
 struct SourceItem {
@@ -33,6 +36,7 @@ struct ReadOptions {
     unsigned char market = 0;   // the market of symbols whose list does not name one; 0: see docs/formats.md
     QString sourceName;         // the file's name, without its folder
     ReadLimits limits;
+    std::shared_ptr<const Mapping> mapping;  // how to read tables of news; null: the format is recognised
 };
 
 }  // namespace wirepane

@@ -4,6 +4,7 @@
 
 #include "backend/import/csv.h"
 #include "backend/import/feed_reader.h"
+#include "backend/import/newsml_reader.h"
 #include "backend/import/table_reader.h"
 #include "backend/import/wire_form.h"
 #include "backend/import/xml_source.h"
@@ -54,6 +55,8 @@ Result<SourceFormat> xmlFormat(const QByteArray& head) {
     const QStringView root = xml.reader().name();
     if (isFeedRoot(root))
         return SourceFormat::Feed;
+    if (isNewsmlRoot(root))
+        return SourceFormat::Newsml;
     return Error{u"The file is XML of a kind that is not known here: its root is <%1>."_s.arg(
         titleLine(root.left(60)))};
 }
@@ -65,9 +68,8 @@ Result<SourceFormat> tableFormat(const QByteArray& head) {
     if (header && tableKind(header->fields) != TableKind::Unknown)
         return SourceFormat::Table;
     return Error{
-        u"The file is of no known format: it is neither ninjs, RSS or Atom, nor a table whose header names "
-        u"its "
-        u"columns."_s};
+        u"The file is of no known format: it is neither ninjs, RSS, Atom or NewsML-G2, nor a table whose "
+        u"header names its columns."_s};
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 
 namespace wirepane {
 
-enum class SourceFormat { JsonLines, JsonList, JsonDocument, Feed, Table };
+enum class SourceFormat { JsonLines, JsonList, JsonDocument, Feed, Newsml, Table };
 
 // How many of a source's first bytes are enough to recognise it.
 constexpr qint64 recognisedFrom = 65536;

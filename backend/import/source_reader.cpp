@@ -4,6 +4,8 @@
 
 #include "backend/import/feed_reader.h"
 #include "backend/import/json_reader.h"
+#include "backend/import/mapped_table.h"
+#include "backend/import/newsml_reader.h"
 #include "backend/import/source_format.h"
 #include "backend/import/table_reader.h"
 
@@ -22,6 +24,11 @@ Result<QByteArray> wholeSource(QIODevice& source, qint64 limit) {
     return source.readAll();
 }
 
+bool isJson(SourceFormat format) {
+    return format == SourceFormat::JsonLines || format == SourceFormat::JsonList ||
+           format == SourceFormat::JsonDocument;
+}
+
 Done readTableSource(const QByteArray& bytes, const ReadOptions& options, const ItemVisitor& visit) {
     const auto text = decodedText(bytes);
     if (!text)
@@ -38,6 +45,8 @@ Done readWhole(SourceFormat format, const QByteArray& bytes, const ReadOptions& 
         readJsonList(bytes, options, visit);
     else if (format == SourceFormat::JsonDocument)
         readJsonDocument(bytes, options, visit);
+    else if (format == SourceFormat::Newsml)
+        readNewsml(bytes, options, visit);
     else
         readFeed(bytes, options, visit);
     return Nothing{};
@@ -57,12 +66,16 @@ Done readUtf16Json(const QByteArray& bytes, const ReadOptions& options, const It
 }  // namespace
 
 Done readSource(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
+    if (options.mapping) {
+        const Result<QByteArray> table = wholeSource(source, options.limits.file);
+        return table ? readMappedTable(table.value(), *options.mapping, options, visit)
+                     : Error{table.error()};
+    }
     const QByteArray head = source.peek(recognisedFrom);
     const Result<SourceFormat> format = recognisedFormat(head);
     if (!format)
         return Error{format.error()};
-    const bool converted =
-        isUtf16(head) && format.value() != SourceFormat::Feed && format.value() != SourceFormat::Table;
+    const bool converted = isUtf16(head) && isJson(format.value());
     if (format.value() == SourceFormat::JsonLines && !converted) {
         readJsonLines(source, options, visit);
         return Nothing{};

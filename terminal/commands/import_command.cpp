@@ -3,6 +3,7 @@
 #include "terminal/commands/import_command.h"
 
 #include "backend/import/import_job.h"
+#include "backend/import/mapping.h"
 #include "backend/store/store_writer.h"
 #include "terminal/commands/command_arguments.h"
 #include "terminal/commands/console.h"
@@ -60,15 +61,25 @@ int reportEnd(const ImportReport& report) {
 int runImport() {
     CommandArguments arguments(u"import"_s,
                                u"Takes news into the store: ninjs (JSON, one document, a list or "
-                               "JSON lines), RSS, Atom, and CSV tables of symbols and "
-                               "categories. Each file is taken in as a whole."_s);
+                               "JSON lines), RSS, Atom, NewsML-G2, CSV tables of symbols and "
+                               "categories, and with a mapping any table of news. Each file is "
+                               "taken in as a whole."_s);
     arguments.parser.addPositionalArgument(u"file"_s, u"A file to take in."_s, u"file..."_s);
     arguments.parser.addOption(
         {u"service"_s, u"The id of the news service that the news belongs to. Default: 1"_s, u"id"_s});
+    arguments.parser.addOption(
+        {u"mapping"_s, u"Reads the files as tables of news, as this file describes them."_s, u"file"_s});
     if (const auto status = arguments.read())
         return *status;
     ReadOptions options;
     options.service = static_cast<unsigned char>(arguments.number(u"service"_s, 1, 1, lastService));
+    if (arguments.parser.isSet(u"mapping"_s)) {
+        const Result<Mapping> mapping = Mapping::load(arguments.parser.value(u"mapping"_s));
+        if (mapping)
+            options.mapping = std::make_shared<const Mapping>(mapping.value());
+        else
+            arguments.fail(mapping.error());
+    }
     arguments.applyNow();
     if (arguments.rest().isEmpty())
         arguments.fail(u"import needs a file."_s);

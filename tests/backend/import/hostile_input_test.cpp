@@ -19,12 +19,20 @@ const QByteArray rss =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?><rss><channel><pubDate>2004</pubDate>"
     "<item><guid>urn:1</guid><title>é</title></item>"
     "<item><guid>urn:2</guid><description><![CDATA[<p>x</p>]]></description></item></channel></rss>";
+const QByteArray newsml =
+    "<newsMessage><itemSet>"
+    "<newsItem guid=\"urn:1\"><itemMeta><versionCreated>2004</versionCreated></itemMeta>"
+    "<contentMeta><headline>é</headline></contentMeta></newsItem>"
+    "<newsItem guid=\"urn:2\"><itemMeta><versionCreated>2004</versionCreated></itemMeta>"
+    "<contentSet><inlineXML><nitf><body><body.content><p>x</p></body.content></body></nitf></inlineXML></"
+    "contentSet>"
+    "</newsItem></itemSet></newsMessage>";
 const QByteArray symbols = "market,code,name\r\n16,2330,\"台\"\"積電\"\r\n1,NA,\"N\nA\"\r\n";
 
 // What is read of a source cut off anywhere is what stands whole before the cut, and never something else; a
 // cut record is rejected, not lost in silence.
 TEST(HostileInput, ACutSourceGivesNoWrongItem) {
-    for (const QByteArray& source : std::vector{lines, list, rss}) {
+    for (const QByteArray& source : std::vector{lines, list, rss, newsml}) {
         ASSERT_EQ(readAll(source).items.size(), 2U);
         for (qsizetype length = 0; length < source.size(); ++length) {
             const auto out = readAll(source.first(length));
@@ -42,7 +50,7 @@ TEST(HostileInput, ACutSourceGivesNoWrongItem) {
 
 // Every byte of a small source replaced by others that matter: nothing may crash or hang.
 TEST(HostileInput, AChangedByteIsSurvived) {
-    for (const QByteArray& source : std::vector{lines, list, rss, symbols}) {
+    for (const QByteArray& source : std::vector{lines, list, rss, newsml, symbols}) {
         for (qsizetype at = 0; at < source.size(); ++at) {
             for (const char byte : {'\0', '\xff', '\xed', '"', '<', '&', '[', '}', '\\', '\n', ',', '@'}) {
                 QByteArray changed = source;
@@ -115,7 +123,7 @@ TEST(HostileInput, WhatIsNoNewsIsRefusedWithAReason) {
         {"\xef\xbb\xbf", u"The file is empty."_s},
         {"<html><body>Access denied</body></html>",
          u"The file is XML of a kind that is not known here: its root is <html>."_s},
-        {"<newsItem/>", u"The file is XML of a kind that is not known here: its root is <newsItem>."_s},
+        {"<groupSet/>", u"The file is XML of a kind that is not known here: its root is <groupSet>."_s},
     };
     for (const auto& [source, reason] : sources)
         EXPECT_EQ(readAll(source).refusal, reason);

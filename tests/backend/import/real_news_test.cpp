@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "backend/import/import_job.h"
+#include "backend/import/mapping.h"
 #include "backend/import/plain_text.h"
 #include "tests/backend/import/read_all.h"
 #include "tests/backend/import/recording_sink.h"
@@ -176,6 +177,69 @@ TEST_F(RealNews, EveryFeedFileComesToAnEnd) {
         EXPECT_FALSE(broken && out.rejections.empty() && out.refusal.isEmpty());
     }
     EXPECT_LT(clock.elapsed(), 10'000);
+}
+
+// Every file of the format: its items are news, or say why they are not. Most of the small files have no
+// headline.
+TEST_F(RealNews, EveryNewsmlItemIsNewsOrSaysWhyNot) {
+    std::map<QString, QString> titles;
+    QStringList others;
+    for (const QString& path : files(u"newsml_g2"_s, u"*.xml"_s)) {
+        const auto out = readAll(bytesOf(path));
+        for (std::size_t i = 0; i < out.items.size(); ++i)
+            titles[out.news(i).identity] = out.news(i).title;
+        EXPECT_TRUE(!out.items.empty() || !out.rejections.empty() || !out.refusal.isEmpty())
+            << qPrintable(path);
+        for (const Rejection& rejection : out.rejections) {
+            if (!rejection.reason.contains(u"not a news item") && !rejection.reason.contains(u"no headline"))
+                others += path + rejection.reason;
+        }
+    }
+    EXPECT_TRUE(others.isEmpty()) << qPrintable(others.join(u'\n'));
+    EXPECT_EQ(titles.size(), 10U);
+    EXPECT_EQ(titles[u"urn:newsml:acmenews.com:20161121:US-FINANCE-FED"_s],
+              u"Fed to halt QE to avert \"bubble\"");
+    EXPECT_EQ(titles[u"tag:gettyimages.com,2010:GYI0062134533"_s],
+              u"Variety Of Recessionary Forces Leave Las Vegas Economy Scarred");
+}
+
+ReadOptions mappedBy(const QString& name) {
+    ReadOptions options;
+    const Result<Mapping> mapping = Mapping::load(QStringLiteral(WIREPANE_MAPPINGS) + u'/' + name);
+    EXPECT_TRUE(mapping) << (mapping ? "" : qPrintable(mapping.error()));
+    if (mapping)
+        options.mapping = std::make_shared<const Mapping>(mapping.value());
+    return options;
+}
+
+TEST_F(RealNews, AnnouncementsAreTakenOnceEach) {
+    RecordingSink sink;
+    ImportJob job(files(u"announcements"_s, u"*.json"_s), sink, mappedBy(u"exchange_announcements.json"_s));
+    QStringList faults;
+    job.onRejection([&faults](const ImportRejection& one) { faults += one.rejection.reason; });
+    const ImportReport report = job.run();
+    EXPECT_EQ(report.filesRejected, 2);
+    EXPECT_EQ(faults.filter(u"The file is a page of markup, not a table"_s).size(), 2);
+    EXPECT_EQ(faults.size(), 2) << qPrintable(faults.join(u'\n'));
+    EXPECT_EQ(report.totals.takenIn, 6809);
+    EXPECT_EQ(report.totals.alreadyThere, 113);
+    for (const auto& [identity, item] : sink.stored.news) {
+        EXPECT_FALSE(item.title.contains(u'\n') || item.title.contains(u"&#"_s)) << qPrintable(item.title);
+        EXPECT_TRUE(item.story && item.related.size() == 1);
+        // The snapshots are of three months.
+        EXPECT_TRUE(item.time > 1764000000 && item.time < 1773000000) << item.time;
+    }
+    EXPECT_EQ(job.run().totals.takenIn, 0);
+}
+
+TEST_F(RealNews, ArticlesOfATableAreWhole) {
+    RecordingSink sink;
+    ImportJob job(files(u"wikinews/data"_s, u"*.csv"_s), sink, mappedBy(u"articles.json"_s));
+    EXPECT_EQ(job.run().totals.takenIn, 295);
+    qsizetype longest = 0;
+    for (const auto& [identity, item] : sink.stored.news)
+        longest = std::max(longest, item.story.value_or(QString()).size());
+    EXPECT_GT(longest, 100'000);
 }
 
 TEST_F(RealNews, SymbolListsAreWhole) {

@@ -1,0 +1,263 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/import/mapping.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStringDecoder>
+
+namespace wirepane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 largestFile = qint64(1) << 20;
+
+// Reads the values of one object of the file and remembers the first thing that is wrong.
+class MappingFields {
+public:
+    MappingFields(const QJsonObject& object, QString place, QString& firstFault)
+        : fields(object), where(std::move(place)), fault(firstFault) {}
+
+    QString text(QLatin1StringView name) {
+        const QJsonValue value = take(name);
+        if (!value.isUndefined() && !value.isString())
+            complain(name, u"must be a text"_s);
+        return value.toString();
+    }
+
+    // A text, or a list of texts.
+    QStringList texts(QLatin1StringView name) {
+        const QJsonValue value = take(name);
+        if (value.isUndefined())
+            return {};
+        QStringList found;
+        for (const auto& entry : value.isArray() ? value.toArray() : QJsonArray{value}) {
+            if (!entry.isString() || entry.toString().trimmed().isEmpty())
+                complain(name, u"must be a text or a list of texts, none of them empty"_s);
+            found += entry.toString().trimmed();
+        }
+        return found;
+    }
+
+    int number(QLatin1StringView name, int least, int most, int otherwise) {
+        const QJsonValue value = take(name);
+        if (value.isUndefined())
+            return otherwise;
+        const int found = value.toInt(most + 1);
+        if (found < least || found > most)
+            complain(name, u"must be a number from %1 to %2"_s.arg(least).arg(most));
+        return found;
+    }
+
+    bool has(QLatin1StringView name) const { return fields.contains(name); }
+    QJsonValue value(QLatin1StringView name) const { return fields.value(name); }
+
+    MappingFields inner(QLatin1StringView name) {
+        const QJsonValue value = take(name);
+        if (!value.isUndefined() && !value.isObject())
+            complain(name, u"must be an object"_s);
+        return {value.toObject(), where + name + u'.', fault};
+    }
+
+    QMap<QString, QString> names(QLatin1StringView name) {
+        MappingFields entries = inner(name);
+        QMap<QString, QString> found;
+        for (const QString& key : entries.fields.keys()) {
+            const QJsonValue value = entries.fields.value(key);
+            if (!value.isString() && !value.isDouble())
+                complain(name, u"must hold texts or numbers"_s);
+            found.insert(key, value.toVariant().toString());
+        }
+        return found;
+    }
+
+    void complain(QLatin1StringView name, const QString& problem) {
+        if (fault.isEmpty())
+            fault = u"The mapping's “%1%2” %3."_s.arg(where, name, problem);
+    }
+
+    // A name that nobody asked for is a slip of the pen.
+    void finish() {
+        for (const QString& key : fields.keys()) {
+            if (!asked.contains(key) && fault.isEmpty())
+                fault = u"The mapping's “%1%2” is not known."_s.arg(where, key);
+        }
+    }
+
+private:
+    QJsonValue take(QLatin1StringView name) {
+        asked += name;
+        return fields.value(name);
+    }
+
+    QJsonObject fields;
+    QString where;
+    QString& fault;
+    QStringList asked;
+};
+
+std::optional<TimeForm> readForm(MappingFields& fields, QLatin1StringView name) {
+    const QString form = fields.text(name);
+    if (form.isEmpty())
+        return std::nullopt;
+    const Result<TimeForm> parsed = TimeForm::parse(form);
+    if (!parsed) {
+        fields.complain(name, u"cannot be used: "_s + parsed.error().chopped(1));
+        return std::nullopt;
+    }
+    return parsed.value();
+}
+
+// "+08:00" or "Asia/Taipei".
+QTimeZone readZone(MappingFields& fields) {
+    const QString name = fields.text("zone"_L1);
+    if (name.isEmpty())
+        return QTimeZone::utc();
+    const bool isOffset = name.startsWith(u'+') || name.startsWith(u'-');
+    const QByteArray id = (isOffset ? u"UTC"_s + name : name).toLatin1();
+    if (!QTimeZone::isTimeZoneIdAvailable(id))
+        fields.complain("zone"_L1, u"is neither an offset such as “+08:00” nor a zone that is known here"_s);
+    return QTimeZone(id);
+}
+
+MappedTime readTime(MappingFields fields) {
+    MappedTime time;
+    time.dateColumns = fields.texts("date"_L1);
+    time.dateForm = readForm(fields, "date_form"_L1);
+    time.clockColumn = fields.text("clock"_L1).trimmed();
+    time.clockForm = readForm(fields, "clock_form"_L1);
+    time.yearsFrom = fields.number("years_from"_L1, -10000, 10000, 0);
+    time.zone = readZone(fields);
+    if (time.dateColumns.isEmpty())
+        fields.complain("date"_L1, u"must name a column"_s);
+    if (time.clockColumn.isEmpty() == time.clockForm.has_value())
+        fields.complain("clock_form"_L1, u"and “clock” must be there together"_s);
+    fields.finish();
+    return time;
+}
+
+MappedValue readValue(MappingFields fields) {
+    MappedValue value;
+    value.columns = fields.texts("columns"_L1);
+    value.names = fields.names("names"_L1);
+    value.otherwise = fields.text("otherwise"_L1);
+    fields.finish();
+    return value;
+}
+
+bool isService(const QString& text) {
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return isNumber && number >= 1 && number <= 255;
+}
+
+// A number, or an object as for any value.
+MappedValue readService(MappingFields& fields) {
+    MappedValue service;
+    if (fields.value("service"_L1).isObject())
+        service = readValue(fields.inner("service"_L1));
+    else if (const int number = fields.number("service"_L1, 1, 255, 0); number > 0)
+        service.otherwise = QString::number(number);
+    const bool known = std::all_of(service.names.begin(), service.names.end(), isService);
+    if (!known || !(service.otherwise.isEmpty() || isService(service.otherwise)))
+        fields.complain("service"_L1, u"must name services by numbers from 1 to 255"_s);
+    return service;
+}
+
+MappedSymbols readSymbols(MappingFields fields) {
+    MappedSymbols symbols;
+    symbols.columns = fields.texts("columns"_L1);
+    symbols.separator = fields.text("separator"_L1);
+    symbols.market = static_cast<unsigned char>(fields.number("market"_L1, 0, 255, 0));
+    fields.finish();
+    return symbols;
+}
+
+MappedLines readLines(MappingFields& fields) {
+    const QString name = fields.text("lines"_L1);
+    if (name == "kept"_L1)
+        return MappedLines::Kept;
+    if (name == "numbered"_L1)
+        return MappedLines::Numbered;
+    if (!name.isEmpty() && name != "wrapped"_L1)
+        fields.complain("lines"_L1, u"must be “wrapped”, “kept” or “numbered”"_s);
+    return MappedLines::Wrapped;
+}
+
+QChar readSeparator(MappingFields& fields) {
+    const QString separator = fields.has("separator"_L1) ? fields.text("separator"_L1) : u","_s;
+    if (separator.size() == 1 && separator != u"\"" && separator != u"\n" && separator != u"\r")
+        return separator.front();
+    fields.complain("separator"_L1, u"must be one character"_s);
+    return u',';
+}
+
+QStringList readEncodings(MappingFields& fields) {
+    const QStringList names = fields.texts("encodings"_L1);
+    for (const QString& name : names) {
+        if (!QStringDecoder(name.toLatin1().constData()).isValid())
+            fields.complain("encodings"_L1, u"names “%1”, which is not known here"_s.arg(name));
+    }
+    return names;
+}
+
+Mapping readMapping(MappingFields& fields) {
+    Mapping mapping;
+    mapping.encodings = readEncodings(fields);
+    mapping.separator = readSeparator(fields);
+    mapping.service = readService(fields);
+    mapping.identityPrefix = fields.text("identity_prefix"_L1);
+    mapping.identity = fields.texts("identity"_L1);
+    mapping.title = fields.texts("title"_L1);
+    mapping.story = fields.texts("story"_L1);
+    mapping.lines = readLines(fields);
+    mapping.time = readTime(fields.inner("time"_L1));
+    mapping.category = readValue(fields.inner("category"_L1));
+    mapping.symbols = readSymbols(fields.inner("symbols"_L1));
+    if (mapping.identity.isEmpty())
+        fields.complain("identity"_L1, u"must name the columns that tell one item from another"_s);
+    if (mapping.title.isEmpty() && mapping.story.isEmpty())
+        fields.complain("title"_L1, u"must name a column, unless “story” does"_s);
+    fields.finish();
+    return mapping;
+}
+
+}  // namespace
+
+Result<Mapping> Mapping::parse(const QByteArray& file) {
+    QJsonParseError problem;
+    const auto document = QJsonDocument::fromJson(file, &problem);
+    if (problem.error != QJsonParseError::NoError)
+        return Error{u"The mapping is not valid JSON: %1 (at byte %2)."_s.arg(problem.errorString())
+                         .arg(problem.offset)};
+    if (!document.isObject())
+        return Error{u"The mapping is not a JSON object."_s};
+    QString fault;
+    MappingFields fields(document.object(), {}, fault);
+    Mapping mapping = readMapping(fields);
+    if (!fault.isEmpty())
+        return Error{fault};
+    return mapping;
+}
+
+Result<Mapping> Mapping::load(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return Error{u"The mapping %1 cannot be opened: %2."_s.arg(path, file.errorString())};
+    if (file.size() > largestFile)
+        return Error{u"The mapping %1 is larger than %2 bytes."_s.arg(path).arg(largestFile)};
+    return parse(file.readAll());
+}
+
+QStringList Mapping::neededColumns() const {
+    QStringList needed = identity + time.dateColumns.first(1);
+    if (!title.isEmpty())
+        needed += title.first();
+    return needed;
+}
+
+}  // namespace wirepane
