@@ -31,4 +31,14 @@ public:
     virtual void rollback() = 0;
 };
 
+// A sink that also remembers how far each source has been taken, in the same transactions as the items: what
+// is after the position that is kept has not been taken, and nothing before it is missing.
+class FeedSink : public ItemSink {
+public:
+    // Between begin() and commit(). `source` names the source for good; `position` is the source's own text.
+    virtual Done keepPosition(const QString& source, const QString& position) = 0;
+    // Empty for a source that was never heard of.
+    virtual Result<QString> positionOf(const QString& source) = 0;
+};
+
 }  // namespace wirepane

@@ -18,17 +18,6 @@ CHeadlineTable entryOf(const HeadlineKey& key) {
     return {key.time, key.sequence, key.service, 0, 0};
 }
 
-// The days that a table without a date reaches over.
-DayBounds newsRange(int daysBack) {
-    const QDate today = host_clock::today();
-    return {boundsOf(today.addDays(-daysBack)).begin, boundsOf(today).end};
-}
-
-// How a table's answer says whether there was anything.
-signed char statusOf(int entries) {
-    return entries > 0 ? 0 : -1;
-}
-
 }  // namespace
 
 Result<std::unique_ptr<EmbeddedBackEnd>> EmbeddedBackEnd::open(const QString& storePath) {
@@ -43,7 +32,9 @@ EmbeddedBackEnd::EmbeddedBackEnd(std::unique_ptr<Database> store)
       reader(*database),
       writer(*database),
       days(*database),
-      headlineCache(reader) {}
+      headlineCache(reader),
+      arrivals(*database),
+      delivery(arrivals, [this](const Arrival& arrival) { tell(arrival); }) {}
 
 void EmbeddedBackEnd::catchUp() {
     if (!reader.changedElsewhere())
@@ -56,58 +47,133 @@ void EmbeddedBackEnd::catchUp() {
 // --- Taking in ---
 
 Result<TakeOutcome> EmbeddedBackEnd::takeIn(const StoreItem& item) {
-    catchUp();
-    if (Done begun = writer.begin(); !begun)
+    if (Done begun = begin(); !begun)
         return Error{begun.error()};
-    if (const auto* news = std::get_if<NewsItem>(&item))
-        return takeInNews(*news);
-    const Result<TakeOutcome> outcome = writer.take(item);
+    Result<TakeOutcome> outcome = take(item);
     if (!outcome)
         return outcome;
-    if (Done kept = writer.commit(); !kept)
+    if (Done kept = commit(); !kept)
         return Error{kept.error()};
-    const auto* symbol = std::get_if<SymbolItem>(&item);
-    if (symbol != nullptr && outcome.value().take == Take::TakenIn) {
-        symbolTable.put(*symbol);
-        const std::vector<CSymbolUpdateInfo> changes{{symbol->market, symbol->code}};
-        ForEachReceiver([&](NewsReceiver& receiver) { receiver.vDoSymbolUpdate(changes); });
-    }
     return outcome;
 }
 
-Result<TakeOutcome> EmbeddedBackEnd::takeInNews(const NewsItem& item) {
-    const Result<StoredNews> stored = writer.takeNews(item);
-    if (!stored)
-        return Error{stored.error()};
-    if (Done kept = writer.commit(); !kept)
-        return Error{kept.error()};
-    const StoredNews& news = stored.value();
-    if (news.outcome.take != Take::TakenIn)
-        return news.outcome;
-    if (news.before) {
-        days.remove(*news.before);
-        headlineCache.forget(*news.before);
-    }
-    days.add(news.key);
-    tell(news);
-    return news.outcome;
+Done EmbeddedBackEnd::begin() {
+    changes = {};
+    Done begun = writer.begin();
+    // From here on nobody else can write.
+    if (begun)
+        catchUp();
+    return begun;
 }
 
-void EmbeddedBackEnd::tell(const StoredNews& stored) {
-    if (stored.onlyStory) {
-        const CHeadlineTable entry = entryOf(stored.key);
-        ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespStory(entry); });
+Result<TakeOutcome> EmbeddedBackEnd::take(const StoreItem& item) {
+    const auto* news = std::get_if<NewsItem>(&item);
+    if (news == nullptr) {
+        Result<TakeOutcome> outcome = writer.take(item);
+        const auto* symbol = std::get_if<SymbolItem>(&item);
+        if (symbol != nullptr && outcome && outcome.value().take == Take::TakenIn)
+            changes.symbols.push_back(*symbol);
+        return outcome;
+    }
+    const Result<StoredNews> stored = writer.takeNews(*news);
+    if (!stored)
+        return Error{stored.error()};
+    if (stored.value().outcome.take == Take::TakenIn)
+        changes.news.emplace_back(stored.value().before, stored.value().key);
+    return stored.value().outcome;
+}
+
+Done EmbeddedBackEnd::commit() {
+    if (Done kept = writer.commit(); !kept)
+        return kept;
+    const Changes done = std::exchange(changes, {});
+    for (const auto& [before, key] : done.news) {
+        if (before) {
+            days.remove(*before);
+            headlineCache.forget(*before);
+        }
+        days.add(key);
+        headlineCache.forget(key);
+    }
+    delivery.run();
+    tellOf(done.symbols);
+    return Nothing{};
+}
+
+void EmbeddedBackEnd::rollback() {
+    writer.rollback();
+    changes = {};
+}
+
+Result<TakeOutcome> EmbeddedBackEnd::takeStory(const HeadlineKey& key, const QString& story) {
+    if (Done begun = begin(); !begun)
+        return Error{begun.error()};
+    Result<TakeOutcome> outcome = writer.takeStory(key, story);
+    if (!outcome)
+        return outcome;
+    if (Done kept = commit(); !kept)
+        return Error{kept.error()};
+    return outcome;
+}
+
+void EmbeddedBackEnd::tellOf(const std::vector<SymbolItem>& symbols) {
+    if (symbols.empty())
+        return;
+    std::vector<CSymbolUpdateInfo> updates;
+    for (const SymbolItem& symbol : symbols) {
+        symbolTable.put(symbol);
+        updates.push_back({symbol.market, symbol.code});
+    }
+    ForEachReceiver([&](NewsReceiver& receiver) { receiver.vDoSymbolUpdate(updates); });
+}
+
+// --- Telling ---
+
+void EmbeddedBackEnd::checkForNews() {
+    catchUp();
+    delivery.run();
+}
+
+void EmbeddedBackEnd::setConnected(bool on) {
+    if (on == connected)
+        return;
+    connected = on;
+    if (!on) {
+        delivery.close();
         return;
     }
-    const CHeadline* const read = headlineCache.find(stored.key);
+    catchUp();
+    lastMissed = delivery.open();
+}
+
+void EmbeddedBackEnd::tell(const Arrival& arrival) {
+    if (arrival.onlyStory) {
+        const CHeadlineTable entry = entryOf(arrival.key);
+        answers.give(Held::Stories, [this, entry] {
+            ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespStory(entry); });
+        });
+        return;
+    }
+    const CHeadline* const read = headlineCache.find(arrival.key);
     if (read == nullptr)
         return;
     // A receiver may look other headlines up meanwhile.
     const CHeadline headline = *read;
-    const auto symbols = reader.relatedSymbols(stored.key);
+    const auto symbols = reader.relatedSymbols(arrival.key);
     const QString code = symbols && !symbols->empty() ? symbols->front().code : QString();
     const QString category = QString::number(headline.categoryId);
     ForEachReceiver([&](NewsReceiver& receiver) { receiver.RecvNewHeadLine(&headline, category, code); });
+}
+
+void EmbeddedBackEnd::announceStoryChange(const HeadlineKey& key) {
+    const CHeadlineTable entry = entryOf(key);
+    ForEachReceiver([&](NewsReceiver& receiver) { receiver.StoryUpdateNotify(&entry); });
+}
+
+void EmbeddedBackEnd::startNewsDay(const CMarketStatus& status) {
+    if (dayOfText(QString::number(status.date)).isValid())
+        newsDays[status.service] = status.date;
+    ForEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvNewMarketStatus(&status); });
 }
 
 // --- Registration ---
@@ -203,7 +269,10 @@ bool EmbeddedBackEnd::BKQNEWS_bGetShortNameByService(QString& name, unsigned cha
     return found.has_value();
 }
 
-QString EmbeddedBackEnd::BKQNEWS_cszGetCurrDateByService(unsigned char) {
+QString EmbeddedBackEnd::BKQNEWS_cszGetCurrDateByService(unsigned char service) {
+    const auto reported = newsDays.find(service);
+    if (reported != newsDays.end())
+        return QString::number(reported->second);
     return host_clock::today().toString(u"yyyyMMdd"_s);
 }
 
@@ -226,125 +295,6 @@ int EmbeddedBackEnd::BKQCheckAuthSupport(unsigned char service) {
 QColor EmbeddedBackEnd::categoryColour(std::int32_t id, unsigned char service) {
     const QString colour = reader.categoryColour(service, id);
     return colour.isEmpty() ? QColor() : QColor(colour);
-}
-
-// --- Headlines and stories ---
-
-int EmbeddedBackEnd::tableOf(unsigned char service, std::vector<CHeadlineTable>& table,
-                             const CSymbolInfo& symbol) {
-    if (symbol.code.isEmpty())
-        return 0;
-    return reader.appendSymbol(table, service, symbol, newsRange(BKQbyGetNewsDateRange()));
-}
-
-int EmbeddedBackEnd::tableOf(unsigned char service, std::vector<CHeadlineTable>& table, int kind,
-                             const QString& key) {
-    if (kind == static_cast<int>(TableKind::ByDate)) {
-        catchUp();
-        return days.append(table, service, dayOfText(key));
-    }
-    bool isNumber = false;
-    const int category = key.toInt(&isNumber);
-    if (kind != static_cast<int>(TableKind::ByCategory) || !isNumber)
-        return 0;
-    return reader.appendCategory(table, service, category, newsRange(BKQbyGetNewsDateRange()));
-}
-
-int EmbeddedBackEnd::BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>& table, unsigned char service,
-                                               const CSymbolInfo& symbol) {
-    requests.add(u"BKQNEWS_iGetHeadlineTable"_s, {service, symbol.market, symbol.code});
-    return tableOf(service, table, symbol);
-}
-
-int EmbeddedBackEnd::BKQNEWS_iGetHeadlineTable(unsigned char service, std::vector<CHeadlineTable>& table,
-                                               int kind, const QString& key) {
-    requests.add(u"BKQNEWS_iGetHeadlineTable"_s, {service, kind, key});
-    return tableOf(service, table, kind, key);
-}
-
-int EmbeddedBackEnd::BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadline>& headlines,
-                                          const std::vector<CHeadlineTable>& entries) {
-    catchUp();
-    int count = 0;
-    for (const CHeadlineTable& entry : entries) {
-        const CHeadline* const headline =
-            entry.service == service ? headlineCache.find(KeyOf(entry)) : nullptr;
-        if (headline == nullptr)
-            continue;
-        headlines.push_back(*headline);
-        ++count;
-    }
-    return count;
-}
-
-bool EmbeddedBackEnd::BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) {
-    std::optional<QString> text = reader.story(KeyOf(entry));
-    if (!text)
-        return false;
-    story.time = entry.time;
-    story.text = *std::move(text);
-    story.entry = entry;
-    return true;
-}
-
-bool EmbeddedBackEnd::BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& symbols, const CHeadlineTable& entry) {
-    std::optional<std::vector<CSymbolInfo>> found = reader.relatedSymbols(KeyOf(entry));
-    if (!found)
-        return false;
-    symbols.symbols = *std::move(found);
-    return true;
-}
-
-// --- Requests ---
-
-void EmbeddedBackEnd::tellLater(const std::function<void(NewsReceiver&)>& call) {
-    QMetaObject::invokeMethod(
-        &eventLoop, [this, call] { ForEachReceiver(call); }, Qt::QueuedConnection);
-}
-
-bool EmbeddedBackEnd::BKQNews_bReRequestHeadlineStory(const CHeadlineTable& entry) {
-    requests.add(u"BKQNews_bReRequestHeadlineStory"_s,
-                 {entry.service, qlonglong(entry.time), entry.sequence});
-    if (!reader.story(KeyOf(entry)))
-        return false;
-    tellLater([entry](NewsReceiver& receiver) { receiver.RespStory(entry); });
-    return true;
-}
-
-bool EmbeddedBackEnd::BKNEWS_bReRequestHeadlineTable(unsigned char service, const CSymbolInfo& symbol) {
-    requests.add(u"BKNEWS_bReRequestHeadlineTable"_s, {service, symbol.market, symbol.code});
-    std::vector<CHeadlineTable> table;
-    const CHeadlineTableInfo info{service, statusOf(tableOf(service, table, symbol)), symbol.code};
-    tellLater([info](NewsReceiver& receiver) { receiver.vRecvSymHeadlineTableRecovery(&info); });
-    return true;
-}
-
-bool EmbeddedBackEnd::BKNEWS_bReRequestHeadlineTable(unsigned char service, int kind, const QString& key) {
-    requests.add(u"BKNEWS_bReRequestHeadlineTable"_s, {service, kind, key});
-    const bool byDate = kind == static_cast<int>(TableKind::ByDate);
-    if (!byDate && kind != static_cast<int>(TableKind::ByCategory))
-        return false;
-    std::vector<CHeadlineTable> table;
-    const CHeadlineTableInfo info{service, statusOf(tableOf(service, table, kind, key)), key};
-    tellLater([info, byDate](NewsReceiver& receiver) {
-        if (byDate)
-            receiver.vRecvAllHeadlineTableRecovery(&info);
-        else
-            receiver.vRecvCatHeadlineTableRecovery(&info);
-    });
-    return true;
-}
-
-bool EmbeddedBackEnd::BKQNEWS_bReCoverHeadline(unsigned char service, std::vector<CHeadline>& headlines,
-                                               const std::vector<CHeadlineTable>& entries) {
-    requests.add(u"BKQNEWS_bReCoverHeadline"_s, {service, qlonglong(entries.size())});
-    return BKQNEWS_iGetHeadline(service, headlines, entries) > 0;
-}
-
-bool EmbeddedBackEnd::BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition) {
-    const QStringList keywords(condition.keywords.begin(), condition.keywords.end());
-    requests.add(u"BKQNEWS_bSearchNews"_s, {service, kind, keywords});
-    return false;
 }
 
 // --- Texts ---

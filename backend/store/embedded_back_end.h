@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/store/answer_desk.h"
+#include "backend/store/arrival_log.h"
 #include "backend/store/database.h"
 #include "backend/store/day_index.h"
 #include "backend/store/headline_cache.h"
+#include "backend/store/news_delivery.h"
 #include "backend/store/request_log.h"
 #include "backend/store/simplified_chinese.h"
 #include "backend/store/store_reader.h"
@@ -13,12 +16,13 @@
 #include "host/contract/bk_quote_interface.h"
 
 #include <QColor>
-#include <QObject>
 
-#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace wirepane {
@@ -30,18 +34,59 @@ namespace wirepane {
 //
 // Requests are answered from the event loop; a search cannot be sent yet.
 //
-// Other programs may write to the store meanwhile: look-ups see it, but only takeIn() tells the receivers.
-class EmbeddedBackEnd : public BKQuoteInterface {
+// As a sink it tells every receiver what came in, in the order of coming, once it is on the disk: news that
+// is new or replaced as a new headline, a story that was missing as a story that can be had, a symbol as a
+// change of the catalogue. Nothing is told of what was there already. Of a large batch the first 500 are
+// told before commit() returns, the rest from the event loop.
+//
+// Other programs may write to the store meanwhile: look-ups see it, and checkForNews() tells the receivers.
+class EmbeddedBackEnd : public BKQuoteInterface, public FeedSink {
 public:
     // Opens the store, or makes it (see openStore).
     static Result<std::unique_ptr<EmbeddedBackEnd>> open(const QString& storePath);
     explicit EmbeddedBackEnd(std::unique_ptr<Database> store);
 
-    // Stores one item now, in a transaction of its own, and tells every receiver: news that is new or
-    // replaced as a new headline, a story that was missing as a story that can be had, a symbol as a change
-    // of the catalogue. Nothing is told of what was there already. Returns when the item is on the disk;
-    // waits up to five seconds for another program that is writing. An error leaves the store as it was.
+    // Stores one item now, in a transaction of its own. Waits up to five seconds for another program that is
+    // writing. An error leaves the store as it was.
     Result<TakeOutcome> takeIn(const StoreItem& item);
+    // Stores the story of a headline, in place of the one that it has, if any, and tells the receivers that
+    // it can be had. Rejected: there is no such headline.
+    Result<TakeOutcome> takeStory(const HeadlineKey& key, const QString& story);
+
+    Done begin() override;
+    Result<TakeOutcome> take(const StoreItem& item) override;
+    Done commit() override;
+    void rollback() override;
+    Done keepPosition(const QString& source, const QString& position) override {
+        return writer.keepPosition(source, position);
+    }
+    Result<QString> positionOf(const QString& source) override { return writer.positionOf(source); }
+
+    // Tells the receivers what other programs have written to the store since the last call.
+    void checkForNews();
+    // True when every receiver has been told of everything that is in the store.
+    bool isDelivered() const { return delivery.isDone(); }
+
+    // While not connected, receivers are told nothing. What came meanwhile is told when the connection is
+    // back, oldest first. At first: connected.
+    void setConnected(bool on);
+    // How many headlines were told late after the last break.
+    int lateHeadlines() const { return lastMissed; }
+    // When this headline, or its present version, reached the store, in seconds since 1970; nothing for an
+    // unknown one.
+    std::optional<std::int64_t> receivedTime(const HeadlineKey& key) { return reader.received(key); }
+
+    // A service starts a new news day: it is its current one from now on, and the receivers are told. A date
+    // that is none changes nothing here; it is told all the same.
+    void startNewsDay(const CMarketStatus& status);
+    // The current news day of every service is the present day again.
+    void forgetNewsDays() { newsDays.clear(); }
+    // Tells the receivers that the story of a headline has changed.
+    void announceStoryChange(const HeadlineKey& key);
+
+    // While something is held, look-ups do not find it and answers wait; letting go gives them at once.
+    // Headlines that were looked up meanwhile are told as headlines that can be had.
+    void hold(Held what, bool on);
 
     // The services whose whole distribution the receiver has registered, ascending.
     std::vector<unsigned char> registeredServices(NewsReceiver* receiver) const;
@@ -56,7 +101,6 @@ public:
     // The symbols of the store, read at the first use; also the host's symbol search.
     SymbolTable& symbols();
 
-    void setConnected(bool on) { connected = on; }              // at first: true
     void setConvertsToSimplified(bool on) { simplified = on; }  // at first: false
     void setSysPath(const QString& path) { sysPath = path; }    // at first: the contract's default
     const QString& storePath() const { return database->path(); }
@@ -98,12 +142,22 @@ public:
     QString PathGetSysPath() override;
 
 private:
+    // What the running transaction has changed.
+    struct Changes {
+        std::vector<std::pair<std::optional<HeadlineKey>, HeadlineKey>> news;  // where it stood and stands
+        std::vector<SymbolItem> symbols;
+    };
+    struct EntryOrder {
+        bool operator()(const CHeadlineTable& a, const CHeadlineTable& b) const {
+            return std::tie(a.service, a.time, a.sequence) < std::tie(b.service, b.time, b.sequence);
+        }
+    };
+    using Entries = std::set<CHeadlineTable, EntryOrder>;
+
     // Forgets what is in memory when another program has written to the store.
     void catchUp();
-    Result<TakeOutcome> takeInNews(const NewsItem& item);
-    void tell(const StoredNews& stored);
-    // Tells every receiver from the event loop.
-    void tellLater(const std::function<void(NewsReceiver&)>& call);
+    void tell(const Arrival& arrival);
+    void tellOf(const std::vector<SymbolItem>& symbols);
     int tableOf(unsigned char service, std::vector<CHeadlineTable>& table, int kind, const QString& key);
     int tableOf(unsigned char service, std::vector<CHeadlineTable>& table, const CSymbolInfo& symbol);
 
@@ -112,6 +166,12 @@ private:
     StoreWriter writer;
     DayIndex days;
     HeadlineCache headlineCache;
+    ArrivalLog arrivals;
+    AnswerDesk answers;
+    Entries awaited;                                 // headlines that were looked up while they were held
+    std::map<unsigned char, std::int32_t> newsDays;  // of the services that have reported one
+    Changes changes;
+    int lastMissed = 0;
     RequestLog requests;
     SimplifiedChinese chinese;
     SymbolTable symbolTable;
@@ -120,7 +180,7 @@ private:
     bool connected = true;
     bool simplified = false;
     QString sysPath;
-    QObject eventLoop;  // what waits in it is dropped with it
+    NewsDelivery delivery;
 };
 
 }  // namespace wirepane

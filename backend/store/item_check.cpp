@@ -116,6 +116,11 @@ CategoryItem cleaned(const CategoryItem& item) {
     return clean;
 }
 
+QString faultOfStory(const QString& story) {
+    return story.size() > limits::storyLength ? tooLong("story"_L1, story.size(), limits::storyLength)
+                                              : QString();
+}
+
 QString faultOf(const NewsItem& item) {
     if (item.service == 0)
         return u"It belongs to no news service."_s;
@@ -127,8 +132,8 @@ QString faultOf(const NewsItem& item) {
         return u"The title is empty."_s;
     if (item.title.size() > limits::titleLength)
         return tooLong("title"_L1, item.title.size(), limits::titleLength);
-    if (item.story && item.story->size() > limits::storyLength)
-        return tooLong("story"_L1, item.story->size(), limits::storyLength);
+    if (QString fault = item.story ? faultOfStory(*item.story) : QString(); !fault.isEmpty())
+        return fault;
     if (item.time < limits::firstTime || item.time > limits::lastTime)
         return u"Its time (%1 seconds since 1970) does not lie within the years 1900 to 9999."_s.arg(
             item.time);

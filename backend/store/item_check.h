@@ -21,6 +21,7 @@ CategoryItem cleaned(const CategoryItem& item);
 
 // Why a cleaned item cannot be taken: a sentence; empty when it can.
 QString faultOf(const NewsItem& item);
+QString faultOfStory(const QString& story);
 QString faultOf(const SymbolItem& item);
 QString faultOf(const CategoryItem& item);
 

@@ -23,6 +23,10 @@ NewsWriter::NewsWriter(Database& owner)
                    "SELECT id, version, time, day, sequence, category, "
                    "EXISTS(SELECT 1 FROM stories WHERE headline = headlines.id) "
                    "FROM headlines WHERE service = ? AND identity = ?"),
+      findKey(owner,
+              "SELECT id, version, time, day, sequence, category, "
+              "EXISTS(SELECT 1 FROM stories WHERE headline = headlines.id) "
+              "FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),
       findNumber(owner,
                  "SELECT 1 FROM headlines WHERE service = ?1 AND sequence = ?2 AND (day = ?3 OR time = ?4) "
                  "AND id <> ?5"),
@@ -45,6 +49,15 @@ NewsWriter::NewsWriter(Database& owner)
 
 std::optional<KnownNews> NewsWriter::find(unsigned char service, const QString& identity, bool& failed) {
     Query query(findIdentity, service, identity);
+    return known(query, failed);
+}
+
+std::optional<KnownNews> NewsWriter::find(const HeadlineKey& key, bool& failed) {
+    Query query(findKey, key.service, key.time, key.sequence);
+    return known(query, failed);
+}
+
+std::optional<KnownNews> NewsWriter::known(Query& query, bool& failed) {
     const bool found = query.next();
     failed = query.failed();
     if (!found)
@@ -66,9 +79,9 @@ bool NewsWriter::insert(const NewsItem& item, const NewsPlace& place) {
                item.version, host_clock::now(), item.identity, item.title)
              .run())
         return false;
-    const std::int64_t id = database.lastInsertId();
-    return writeStory(id, item.story) && writeRelated(id, item, place) &&
-           addToSearch(id, item.title, item.story);
+    inserted = database.lastInsertId();
+    return writeStory(inserted, item.story) && writeRelated(inserted, item, place) &&
+           addToSearch(inserted, item.title, item.story);
 }
 
 bool NewsWriter::replace(std::int64_t id, const NewsItem& item, const NewsPlace& place) {
@@ -81,9 +94,10 @@ bool NewsWriter::replace(std::int64_t id, const NewsItem& item, const NewsPlace&
            writeRelated(id, item, place) && addToSearch(id, item.title, item.story);
 }
 
-bool NewsWriter::insertStory(std::int64_t id, const QString& story) {
+bool NewsWriter::putStory(std::int64_t id, const QString& story) {
     QString title;
-    return takeFromSearch(id, title) && writeStory(id, story) && addToSearch(id, title, story);
+    return takeFromSearch(id, title) && Query(deleteText, id).run() && writeStory(id, story) &&
+           addToSearch(id, title, story);
 }
 
 // A row for the index is never selected from another table in the same statement: that would make the index

@@ -5,6 +5,7 @@
 #include "backend/news_item.h"
 #include "backend/store/database.h"
 #include "backend/store/statement.h"
+#include "host/contract/records.h"
 
 #include <cstdint>
 #include <optional>
@@ -37,15 +38,20 @@ public:
 
     // Nothing when the news is not there, or on failure (then `failed` is set).
     std::optional<KnownNews> find(unsigned char service, const QString& identity, bool& failed);
+    std::optional<KnownNews> find(const HeadlineKey& key, bool& failed);
     // Whether no other piece of news than `exceptId` has this number on this day or at this time.
     bool isFree(const NewsItem& item, std::int32_t day, std::int32_t sequence, std::int64_t exceptId,
                 bool& failed);
 
     bool insert(const NewsItem& item, const NewsPlace& place);
+    // The id of the news that was inserted last.
+    std::int64_t insertedId() const { return inserted; }
     bool replace(std::int64_t id, const NewsItem& item, const NewsPlace& place);
-    bool insertStory(std::int64_t id, const QString& story);
+    // Replaces the story, if there is one.
+    bool putStory(std::int64_t id, const QString& story);
 
 private:
+    static std::optional<KnownNews> known(Query& query, bool& failed);
     bool writeStory(std::int64_t id, const std::optional<QString>& story);
     bool writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place);
     bool addToSearch(std::int64_t id, const QString& title, const std::optional<QString>& story);
@@ -54,6 +60,7 @@ private:
 
     Database& database;
     Statement findIdentity;
+    Statement findKey;
     Statement findNumber;
     Statement insertHeadline;
     Statement updateHeadline;
@@ -64,6 +71,7 @@ private:
     Statement readSearched;
     Statement insertSearched;
     Statement deleteSearched;
+    std::int64_t inserted = 0;
 };
 
 }  // namespace wirepane

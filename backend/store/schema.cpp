@@ -84,7 +84,18 @@ CREATE VIRTUAL TABLE news_search USING fts5(
     title, story, content='news_text', content_rowid='id', tokenize='unicode61');
 )sql";
 
-constexpr std::array steps{firstVersion};
+constexpr const char* arrivalsAndPositions = R"sql(
+CREATE TABLE arrivals(
+    position INTEGER PRIMARY KEY,
+    headline INTEGER NOT NULL,
+    only_story INTEGER NOT NULL);
+
+CREATE TABLE feed_positions(
+    source TEXT PRIMARY KEY,
+    position TEXT NOT NULL) WITHOUT ROWID;
+)sql";
+
+constexpr std::array steps{firstVersion, arrivalsAndPositions};
 
 }  // namespace
 

@@ -40,6 +40,7 @@ StoreReader::StoreReader(Database& database)
                "time >= ? AND time < ? ORDER BY time DESC, sequence DESC"),
       oneHeadline(database,
                   "SELECT title, category FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),
+      oneReceived(database, "SELECT received FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),
       oneStory(database,
                "SELECT text FROM headlines JOIN stories ON headline = id "
                "WHERE service = ? AND time = ? AND sequence = ?"),
@@ -123,6 +124,11 @@ std::optional<CHeadline> StoreReader::headline(const HeadlineKey& key) {
     headline.title = query.text(0);
     headline.categoryId = query.smallNumber(1);
     return headline;
+}
+
+std::optional<std::int64_t> StoreReader::received(const HeadlineKey& key) {
+    Query query(oneReceived, key.service, key.time, key.sequence);
+    return query.next() ? std::optional(query.number(0)) : std::nullopt;
 }
 
 std::optional<QString> StoreReader::story(const HeadlineKey& key) {

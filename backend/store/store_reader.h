@@ -50,6 +50,8 @@ public:
                      const DayBounds& bounds);
 
     std::optional<CHeadline> headline(const HeadlineKey& key);
+    // When it was taken in, in seconds since 1970.
+    std::optional<std::int64_t> received(const HeadlineKey& key);
     std::optional<QString> story(const HeadlineKey& key);
     // Nothing for an unknown headline; the main symbol first.
     std::optional<std::vector<CSymbolInfo>> relatedSymbols(const HeadlineKey& key);
@@ -63,6 +65,7 @@ private:
     Statement byCategory;
     Statement bySymbol;
     Statement oneHeadline;
+    Statement oneReceived;
     Statement oneStory;
     Statement allRelated;
     std::optional<std::int64_t> lastVersion;

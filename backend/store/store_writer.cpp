@@ -38,6 +38,8 @@ StoreWriter::StoreWriter(Database& owner)
       news(owner),
       numbers(owner),
       categories(owner),
+      arrivals(owner),
+      positions(owner),
       insertService(owner,
                     "INSERT OR IGNORE INTO services(id, full_name, short_name, position) "
                     "SELECT ?1, ?2, ?2, coalesce(max(position), 0) + 1 FROM services"),
@@ -58,7 +60,7 @@ Done StoreWriter::begin() {
 Done StoreWriter::commit() {
     if (!begun)
         return Error{u"Nothing was begun that could be kept."_s};
-    if (!numbers.save() || !database.execute("COMMIT"))
+    if (!numbers.save() || !arrivals.trim() || !database.execute("COMMIT"))
         return fail();
     begun = false;
     return Nothing{};
@@ -119,7 +121,8 @@ Result<StoredNews> StoreWriter::add(const NewsItem& item) {
     if (!number.value())
         return rejected(numberTaken(item));
     place.sequence = *number.value();
-    if (!ensureService(item.service) || !findCategory(item, place.category) || !news.insert(item, place))
+    if (!ensureService(item.service) || !findCategory(item, place.category) || !news.insert(item, place) ||
+        !arrivals.add(news.insertedId(), false))
         return fail();
     StoredNews stored;
     stored.key = {item.time, place.sequence, item.service};
@@ -135,7 +138,8 @@ Result<StoredNews> StoreWriter::replace(const NewsItem& item, const KnownNews& k
     if (!number.value())
         return rejected(numberTaken(item));
     place.sequence = *number.value();
-    if (!findCategory(item, place.category) || !news.replace(known.id, item, place))
+    if (!findCategory(item, place.category) || !news.replace(known.id, item, place) ||
+        !arrivals.add(known.id, false))
         return fail();
     StoredNews stored;
     stored.key = {item.time, place.sequence, item.service};
@@ -145,7 +149,7 @@ Result<StoredNews> StoreWriter::replace(const NewsItem& item, const KnownNews& k
 }
 
 Result<StoredNews> StoreWriter::addStory(const NewsItem& item, const KnownNews& known) {
-    if (!news.insertStory(known.id, *item.story))
+    if (!news.putStory(known.id, *item.story) || !arrivals.add(known.id, true))
         return fail();
     StoredNews stored;
     stored.onlyStory = true;
@@ -153,6 +157,39 @@ Result<StoredNews> StoreWriter::addStory(const NewsItem& item, const KnownNews& 
     stored.before = stored.key;
     stored.categoryId = known.category;
     return stored;
+}
+
+Result<TakeOutcome> StoreWriter::takeStory(const HeadlineKey& key, const QString& given) {
+    if (!begun)
+        return Error{u"Nothing was begun that the story could be part of."_s};
+    const QString story = cleanText(given);
+    if (const QString fault = faultOfStory(story); !fault.isEmpty())
+        return TakeOutcome{Take::Rejected, fault};
+    bool failed = false;
+    const std::optional<KnownNews> known = news.find(key, failed);
+    if (failed)
+        return fail();
+    if (!known)
+        return TakeOutcome{Take::Rejected, u"There is no headline with this key."_s};
+    if (!news.putStory(known->id, story) || !arrivals.add(known->id, true))
+        return fail();
+    return TakeOutcome{};
+}
+
+Done StoreWriter::keepPosition(const QString& source, const QString& position) {
+    if (!begun)
+        return Error{u"Nothing was begun that the position could be part of."_s};
+    if (!positions.keep(source, position))
+        return fail();
+    return Nothing{};
+}
+
+Result<QString> StoreWriter::positionOf(const QString& source) {
+    bool failed = false;
+    QString position = positions.of(source, failed);
+    if (failed)
+        return Error{database.failure()};
+    return position;
 }
 
 Result<std::optional<std::int32_t>> StoreWriter::numberFor(const NewsItem& item, std::int32_t day,

@@ -3,8 +3,10 @@
 #pragma once
 
 #include "backend/item_sink.h"
+#include "backend/store/arrival_log.h"
 #include "backend/store/category_book.h"
 #include "backend/store/day_numbers.h"
+#include "backend/store/feed_positions.h"
 #include "backend/store/local_day.h"
 #include "backend/store/news_writer.h"
 #include "host/contract/records.h"
@@ -36,7 +38,7 @@ struct StoredNews {
 // reason.
 //
 // An error takes everything back since begin(). Thread: that of the database, which must outlive the writer.
-class StoreWriter : public ItemSink {
+class StoreWriter : public FeedSink {
 public:
     explicit StoreWriter(Database& database);
 
@@ -44,9 +46,14 @@ public:
     Result<TakeOutcome> take(const StoreItem& item) override;
     Done commit() override;
     void rollback() override;
+    Done keepPosition(const QString& source, const QString& position) override;
+    Result<QString> positionOf(const QString& source) override;
 
     // As take(), and tells where the news stands now.
     Result<StoredNews> takeNews(const NewsItem& item);
+    // Puts the story of the headline with this key, whether it had one or not. Rejected: there is no such
+    // headline, or the text is too long.
+    Result<TakeOutcome> takeStory(const HeadlineKey& key, const QString& story);
 
 private:
     Result<TakeOutcome> takeSymbol(const SymbolItem& item);
@@ -68,6 +75,8 @@ private:
     NewsWriter news;
     DayNumbers numbers;
     CategoryBook categories;
+    ArrivalLog arrivals;
+    FeedPositions positions;
     Statement insertService;
     Statement findSymbol;
     Statement writeSymbol;

@@ -62,7 +62,8 @@ void AppMethods::answerWhenIdle(const Reply& reply, int rounds) {
         return;
     }
     QTimer::singleShot(rounds == quietRounds ? 0 : roundMs, this, [this, reply, rounds] {
-        answerWhenIdle(reply, refreshIsDue() ? quietRounds - 1 : rounds - 1);
+        const bool isBusy = refreshIsDue() || !session.backEnd().isDelivered();
+        answerWhenIdle(reply, isBusy ? quietRounds - 1 : rounds - 1);
     });
 }
 

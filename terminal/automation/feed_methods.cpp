@@ -5,6 +5,7 @@
 #include "terminal/session/session.h"
 
 #include <QDateTime>
+#include <QHash>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -62,6 +63,37 @@ SymbolItem symbolFrom(Params& params, const QJsonValue& value) {
     return symbol;
 }
 
+std::optional<RpcError> refusalOf(const Result<TakeOutcome>& taken) {
+    if (!taken)
+        return RpcError{RpcCode::Refused, taken.error()};
+    if (taken.value().take == Take::Rejected)
+        return RpcError{RpcCode::BadParameters, taken.value().reason};
+    return std::nullopt;
+}
+
+// A headline's key, by itself or as the parameter "key".
+HeadlineKey keyFrom(Params& params) {
+    Params key(params.has(u"key"_s) ? params.optionalObject(u"key"_s) : params.all());
+    const HeadlineKey read{key.number(u"time"_s, 0, lastSecond),
+                           static_cast<std::int32_t>(key.number(u"seq"_s)),
+                           static_cast<unsigned char>(key.number(u"service"_s, 1, lastId))};
+    if (key.error())
+        params.fail(key.error()->message);
+    return read;
+}
+
+std::optional<Held> heldFrom(Params& params) {
+    static const QHash<QString, Held> kinds{{u"headlines"_s, Held::Headlines},
+                                            {u"stories"_s, Held::Stories},
+                                            {u"tables"_s, Held::Tables},
+                                            {u"search"_s, Held::Search}};
+    const auto found = kinds.constFind(params.text(u"what"_s));
+    if (found != kinds.constEnd())
+        return *found;
+    params.fail(u"\"what\" must be headlines, stories, tables or search"_s);
+    return std::nullopt;
+}
+
 }  // namespace
 
 FeedMethods::FeedMethods(Session& terminal)
@@ -71,7 +103,11 @@ void FeedMethods::addTo(MethodTable& table) {
     table.addModal(u"feed.push"_s, [this](Params& params) { return push(params); });
     table.addWithList(u"feed.symbols"_s, u"symbols"_s, [this](Params& params) { return symbols(params); });
     table.add(u"feed.requests"_s, [this](Params&) { return requests(); });
-    table.add(u"feed.connect"_s, [this](Params& params) { return connectFeed(params); });
+    table.addModal(u"feed.connect"_s, [this](Params& params) { return connectFeed(params); });
+    table.addModal(u"feed.story"_s, [this](Params& params) { return story(params); });
+    table.addModal(u"feed.updated"_s, [this](Params& params) { return updated(params); });
+    table.addModal(u"feed.hold"_s, [this](Params& params) { return hold(params); });
+    table.addModal(u"feed.marketDay"_s, [this](Params& params) { return marketDay(params); });
 }
 
 Answer FeedMethods::push(Params& params) {
@@ -95,12 +131,7 @@ Answer FeedMethods::push(Params& params) {
 }
 
 std::optional<RpcError> FeedMethods::takeIn(const StoreItem& item) {
-    const auto taken = session.backEnd().takeIn(item);
-    if (!taken)
-        return RpcError{RpcCode::Refused, taken.error()};
-    if (taken.value().take == Take::Rejected)
-        return RpcError{RpcCode::BadParameters, taken.value().reason};
-    return std::nullopt;
+    return refusalOf(session.backEnd().takeIn(item));
 }
 
 Answer FeedMethods::symbols(Params& params) {
@@ -131,6 +162,38 @@ Answer FeedMethods::connectFeed(Params& params) {
     const bool on = params.boolean(u"on"_s);
     if (!params.error())
         session.setConnected(on);
+    return {};
+}
+
+Answer FeedMethods::story(Params& params) {
+    const HeadlineKey key = keyFrom(params);
+    const QString story = params.text(u"story"_s);
+    if (params.error())
+        return {};
+    const auto refusal = refusalOf(session.backEnd().takeStory(key, story));
+    return refusal ? Answer(*refusal) : Answer();
+}
+
+Answer FeedMethods::updated(Params& params) {
+    const HeadlineKey key = keyFrom(params);
+    if (!params.error())
+        session.backEnd().announceStoryChange(key);
+    return {};
+}
+
+Answer FeedMethods::hold(Params& params) {
+    const std::optional<Held> what = heldFrom(params);
+    const bool on = params.boolean(u"on"_s);
+    if (!params.error())
+        session.backEnd().hold(*what, on);
+    return {};
+}
+
+Answer FeedMethods::marketDay(Params& params) {
+    const auto service = static_cast<unsigned char>(params.number(u"service"_s, 1, lastId));
+    const auto date = static_cast<std::int32_t>(params.number(u"date"_s));
+    if (!params.error())
+        session.backEnd().startNewsDay({service, date});
     return {};
 }
 

@@ -22,6 +22,10 @@ private:
     Answer symbols(Params& params);
     Answer requests();
     Answer connectFeed(Params& params);
+    Answer story(Params& params);
+    Answer updated(Params& params);
+    Answer hold(Params& params);
+    Answer marketDay(Params& params);
     // Stores an item and tells the views; why not, when that fails.
     std::optional<RpcError> takeIn(const StoreItem& item);
 

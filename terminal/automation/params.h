@@ -24,6 +24,7 @@ public:
     void fail(const QString& message, RpcCode code = RpcCode::BadParameters);
 
     bool has(const QString& name) const;
+    const QJsonObject& all() const { return values; }
     QJsonValue value(const QString& name) const { return values.value(name); }
 
     // The value, nothing when it is absent.

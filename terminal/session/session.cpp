@@ -99,6 +99,7 @@ Done Session::openUserView() {
 
 Done Session::readAsOf(std::int64_t moment) {
     host_clock::startAt(moment);
+    store->forgetNewsDays();
     std::vector<int> numbers;
     for (const auto& open : openViews->views()) {
         if (open->settings == &layout)
@@ -153,11 +154,12 @@ bool Session::useLanguage(const QString& code) {
 
 void Session::setConnected(bool connected) {
     const bool again = connected && store->bIsConnect() == 0;
-    store->setConnected(connected);
+    // Views register before they are told what they missed.
     for (const auto& open : openViews->views()) {
         if (again)
             open->view->vReRegisterSymbols();
     }
+    store->setConnected(connected);
     showStatus();
 }
 

@@ -4,6 +4,7 @@
 
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
+#include "tests/backend/store/listener.h"
 #include "tests/backend/store/store_fixture.h"
 
 #include <QCoreApplication>
@@ -13,31 +14,6 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 namespace {
-
-// Writes down what it is told.
-class Listener : public NewsReceiver {
-public:
-    void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId, const QString& code) override {
-        heard += u"headline %1/%2 %3 [%4] %5"_s.arg(headline->service)
-                     .arg(headline->sequence)
-                     .arg(headline->title, categoryId, code);
-    }
-    void RespStory(const CHeadlineTable& entry) override { heard += u"story %1"_s.arg(entry.sequence); }
-    void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& changes) override {
-        heard += u"symbol %1"_s.arg(changes.front().code);
-    }
-    void vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo* info) override { hear(u"date"_s, *info); }
-    void vRecvCatHeadlineTableRecovery(const CHeadlineTableInfo* info) override {
-        hear(u"category"_s, *info);
-    }
-    void vRecvSymHeadlineTableRecovery(const CHeadlineTableInfo* info) override { hear(u"symbol"_s, *info); }
-    QStringList heard;
-
-private:
-    void hear(const QString& table, const CHeadlineTableInfo& info) {
-        heard += u"%1 table %2 %3 %4"_s.arg(table).arg(info.service).arg(info.key).arg(info.status);
-    }
-};
 
 class EmbeddedBackEndTest : public StoreFixture {
 public:

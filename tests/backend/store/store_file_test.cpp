@@ -117,6 +117,18 @@ TEST_F(StoreFileTest, MigrationsRunOnceInOrderAndAllOrNothing) {
     EXPECT_EQ(rowsOf(*database, "PRAGMA user_version"), QStringList{u"3"_s});
 }
 
+TEST_F(StoreFileTest, AStoreOfTheFirstVersionIsBroughtUpToDateWithItsNews) {
+    fill(3);
+    ASSERT_TRUE(store->execute("DROP TABLE arrivals; DROP TABLE feed_positions; PRAGMA user_version = 1"));
+    const auto again = openStore(closedStore());
+    ASSERT_TRUE(again) << again.error().toStdString();
+    EXPECT_EQ(rowsOf(*again.value(), "SELECT count(*) FROM headlines"), QStringList{u"3"_s});
+    StoreWriter later(*again.value());
+    ASSERT_TRUE(later.begin() && later.takeNews(newsItem(1, u"new"_s, at(9, 5), u"New"_s)) && later.commit());
+    EXPECT_EQ(rowsOf(*again.value(), "SELECT title FROM arrivals JOIN headlines ON id = headline"),
+              QStringList{u"New"_s});
+}
+
 TEST_F(StoreFileTest, AFileThatIsNoUsableStoreIsNamedAndLeftAlone) {
     fill(200);
     const QByteArray good = bytesOf(closedStore());

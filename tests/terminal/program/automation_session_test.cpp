@@ -181,6 +181,35 @@ TEST_F(AutomationSessionTest, TheFeedRecordsWhatViewsAskAndTellsNothingTwice) {
         QJsonArray{QJsonObject{{u"market"_s, 16}, {u"code"_s, u"6214"_s}, {u"name"_s, u"Systex"_s}}});
 }
 
+TEST_F(AutomationSessionTest, WhatIsPushedDuringABreakIsInTheListAfterIt) {
+    ScriptClient script(arguments());
+    script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{900, 600}}, {u"mask"_s, 1}});
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:01:00"_s, 1, u"Before"_s));
+    script.result(u"feed.connect"_s, QJsonObject{{u"on"_s, false}});
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:20:00"_s, 3, u"Second of the break"_s));
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:10:00"_s, 2, u"First of the break"_s));
+    const auto titles = [&] {
+        script.result(u"idle"_s);
+        return titlesOf(script.result(u"grid.read"_s, QJsonObject{{u"list"_s, 0}}).toObject());
+    };
+    EXPECT_EQ(titles(), QStringList{u"Before"_s});
+    script.result(u"feed.connect"_s, QJsonObject{{u"on"_s, true}});
+    EXPECT_EQ(titles(), (QStringList{u"Second of the break"_s, u"First of the break"_s, u"Before"_s}));
+
+    const QJsonObject key{
+        {u"service"_s, 1}, {u"time"_s, localSeconds(u"2026-03-02T09:01:00"_s)}, {u"seq"_s, 1}};
+    QJsonObject story = key;
+    story[u"story"_s] = u"Told later"_s;
+    script.result(u"feed.story"_s, story);
+    script.result(u"feed.updated"_s, QJsonObject{{u"key"_s, key}});
+    story[u"seq"_s] = 99;
+    EXPECT_EQ(script.errorCode(u"feed.story"_s, story), -32602);
+    EXPECT_EQ(script.errorCode(u"feed.hold"_s, QJsonObject{{u"what"_s, u"all"_s}, {u"on"_s, true}}), -32602);
+    script.result(u"feed.hold"_s, QJsonObject{{u"what"_s, u"stories"_s}, {u"on"_s, true}});
+    script.result(u"feed.marketDay"_s, QJsonObject{{u"service"_s, 1}, {u"date"_s, 20260303}});
+    EXPECT_EQ(script.result(u"view.state"_s)[u"newsDay"_s].toInt(), 20260303);
+}
+
 TEST_F(AutomationSessionTest, HostSettingsTakeEffectAtOnceAndSwitchesForTheNextView) {
     ScriptClient script(arguments());
     script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{800, 500}}});

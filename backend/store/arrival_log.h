@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/statement.h"
+#include "host/contract/records.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace wirepane {
+
+// One change of the store's news that views are to hear of.
+struct Arrival {
+    HeadlineKey key;         // where the news stands now
+    bool onlyStory = false;  // only the story that was missing has come
+};
+
+// The order in which news came into a store, whoever wrote it: every headline that is new or replaced and
+// every story that was missing takes the next position. The log keeps the newest positions and lets the
+// oldest go. Thread: that of the database, which must outlive the log.
+class ArrivalLog {
+public:
+    explicit ArrivalLog(Database& database, std::int64_t mostArrivals = 1'000'000);
+
+    // Inside a transaction. False on failure, which the database then holds.
+    bool add(std::int64_t headlineId, bool onlyStory);
+    // Lets go what is too old.
+    bool trim();
+
+    // The position of the last arrival; 0: none yet. Nothing on failure.
+    std::optional<std::int64_t> last();
+    // What came after `position`, in its order; `position` moves to the last of it. News that was replaced
+    // again meanwhile stands at its last place only.
+    std::vector<Arrival> after(std::int64_t& position);
+
+private:
+    Statement insert;
+    Statement remove;
+    Statement newest;
+    Statement later;
+    std::int64_t most;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// What views ask of the back end to be answered later, and what scripts hold back of it.
+#include "backend/store/embedded_back_end.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+// How a table's answer says whether there was anything.
+signed char statusOf(int entries) {
+    return entries > 0 ? 0 : -1;
+}
+
+}  // namespace
+
+bool EmbeddedBackEnd::BKQNews_bReRequestHeadlineStory(const CHeadlineTable& entry) {
+    requests.add(u"BKQNews_bReRequestHeadlineStory"_s,
+                 {entry.service, qlonglong(entry.time), entry.sequence});
+    if (!reader.story(KeyOf(entry)))
+        return false;
+    answers.giveLater(Held::Stories, [this, entry] {
+        ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespStory(entry); });
+    });
+    return true;
+}
+
+// What the table holds is asked at the moment of the answer.
+bool EmbeddedBackEnd::BKNEWS_bReRequestHeadlineTable(unsigned char service, const CSymbolInfo& symbol) {
+    requests.add(u"BKNEWS_bReRequestHeadlineTable"_s, {service, symbol.market, symbol.code});
+    answers.giveLater(Held::Tables, [this, service, symbol] {
+        std::vector<CHeadlineTable> table;
+        const CHeadlineTableInfo info{service, statusOf(tableOf(service, table, symbol)), symbol.code};
+        ForEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvSymHeadlineTableRecovery(&info); });
+    });
+    return true;
+}
+
+bool EmbeddedBackEnd::BKNEWS_bReRequestHeadlineTable(unsigned char service, int kind, const QString& key) {
+    requests.add(u"BKNEWS_bReRequestHeadlineTable"_s, {service, kind, key});
+    const bool byDate = kind == static_cast<int>(TableKind::ByDate);
+    if (!byDate && kind != static_cast<int>(TableKind::ByCategory))
+        return false;
+    answers.giveLater(Held::Tables, [this, service, kind, key, byDate] {
+        std::vector<CHeadlineTable> table;
+        const CHeadlineTableInfo info{service, statusOf(tableOf(service, table, kind, key)), key};
+        ForEachReceiver([&](NewsReceiver& receiver) {
+            if (byDate)
+                receiver.vRecvAllHeadlineTableRecovery(&info);
+            else
+                receiver.vRecvCatHeadlineTableRecovery(&info);
+        });
+    });
+    return true;
+}
+
+bool EmbeddedBackEnd::BKQNEWS_bReCoverHeadline(unsigned char service, std::vector<CHeadline>& headlines,
+                                               const std::vector<CHeadlineTable>& entries) {
+    requests.add(u"BKQNEWS_bReCoverHeadline"_s, {service, qlonglong(entries.size())});
+    return BKQNEWS_iGetHeadline(service, headlines, entries) > 0 || answers.isHeld(Held::Headlines);
+}
+
+bool EmbeddedBackEnd::BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition) {
+    const QStringList keywords(condition.keywords.begin(), condition.keywords.end());
+    requests.add(u"BKQNEWS_bSearchNews"_s, {service, kind, keywords});
+    return false;
+}
+
+void EmbeddedBackEnd::hold(Held what, bool on) {
+    if (on) {
+        answers.hold(what);
+        return;
+    }
+    answers.release(what);
+    if (what != Held::Headlines || awaited.empty())
+        return;
+    const Entries waited = std::exchange(awaited, {});
+    const std::vector<CHeadlineTable> entries(waited.begin(), waited.end());
+    ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespHeadLine(entries); });
+}
+
+}  // namespace wirepane

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/news_delivery.h"
+
+#include <algorithm>
+
+namespace wirepane {
+
+namespace {
+constexpr int portion = 500;
+}
+
+NewsDelivery::NewsDelivery(ArrivalLog& log, std::function<void(const Arrival&)> telling)
+    : arrivals(log), tell(std::move(telling)), position(log.last().value_or(0)) {}
+
+int NewsDelivery::open() {
+    isOpen = true;
+    std::vector<Arrival> missed = arrivals.after(position);
+    std::stable_sort(missed.begin(), missed.end(), [](const Arrival& a, const Arrival& b) {
+        return a.key.time != b.key.time ? a.key.time < b.key.time : a.key.sequence < b.key.sequence;
+    });
+    waiting.insert(waiting.end(), missed.begin(), missed.end());
+    const auto isHeadline = [](const Arrival& arrival) { return !arrival.onlyStory; };
+    const auto headlines = std::count_if(missed.begin(), missed.end(), isHeadline);
+    handOn();
+    return static_cast<int>(headlines);
+}
+
+void NewsDelivery::run() {
+    if (!isOpen)
+        return;
+    const std::vector<Arrival> fresh = arrivals.after(position);
+    waiting.insert(waiting.end(), fresh.begin(), fresh.end());
+    handOn();
+}
+
+void NewsDelivery::handOn() {
+    // A receiver that takes news in itself only adds to what waits.
+    if (isBusy || isPosted)
+        return;
+    isBusy = true;
+    for (int left = portion; left > 0 && isOpen && !waiting.empty(); --left) {
+        const Arrival next = waiting.front();
+        waiting.pop_front();
+        tell(next);
+    }
+    isBusy = false;
+    if (!isOpen || waiting.empty())
+        return;
+    isPosted = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            isPosted = false;
+            handOn();
+        },
+        Qt::QueuedConnection);
+}
+
+}  // namespace wirepane

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/arrival_log.h"
+
+#include <QObject>
+
+#include <cstddef>
+#include <deque>
+#include <functional>
+
+namespace wirepane {
+
+// Hands what comes into a store on to whoever shall hear of it, each arrival once, whoever wrote it. Many
+// arrivals are handed on in portions, with the event loop running between them. Interface thread.
+class NewsDelivery : public QObject {
+    Q_OBJECT
+
+public:
+    // What is in the store already is not handed on. `log` outlives this.
+    NewsDelivery(ArrivalLog& log, std::function<void(const Arrival&)> tell);
+
+    // While closed nothing is handed on and nothing is lost.
+    void close() { isOpen = false; }
+    // Hands on what came while it was closed, oldest first. Result: how many headlines.
+    int open();
+    // Hands on what has come, in the order of coming.
+    void run();
+    bool isDone() const { return waiting.empty(); }
+
+private:
+    void handOn();
+
+    ArrivalLog& arrivals;
+    std::function<void(const Arrival&)> tell;
+    std::int64_t position;  // of the last arrival that was taken from the log
+    std::deque<Arrival> waiting;
+    bool isOpen = true;
+    bool isBusy = false;    // inside `tell`
+    bool isPosted = false;  // the event loop will go on
+};
+
+}  // namespace wirepane

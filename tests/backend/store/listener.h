@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/news_receiver.h"
+
+#include <QStringList>
+
+namespace wirepane {
+
+using namespace Qt::StringLiterals;
+
+// Writes down what it is told.
+class Listener : public NewsReceiver {
+public:
+    void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId, const QString& code) override {
+        heard += u"headline %1/%2 %3 [%4] %5"_s.arg(headline->service)
+                     .arg(headline->sequence)
+                     .arg(headline->title, categoryId, code);
+    }
+    void RespHeadLine(const std::vector<CHeadlineTable>& entries) override {
+        heard += u"%1 headlines"_s.arg(entries.size());
+    }
+    void StoryUpdateNotify(const CHeadlineTable* entry) override {
+        heard += u"changed story %1"_s.arg(entry->sequence);
+    }
+    void vRecvNewMarketStatus(const CMarketStatus* status) override {
+        heard += u"day %1 of %2"_s.arg(status->date).arg(status->service);
+    }
+    void RespStory(const CHeadlineTable& entry) override { heard += u"story %1"_s.arg(entry.sequence); }
+    void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& changes) override {
+        heard += u"symbol %1"_s.arg(changes.front().code);
+    }
+    void vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo* info) override { hear(u"date"_s, *info); }
+    void vRecvCatHeadlineTableRecovery(const CHeadlineTableInfo* info) override {
+        hear(u"category"_s, *info);
+    }
+    void vRecvSymHeadlineTableRecovery(const CHeadlineTableInfo* info) override { hear(u"symbol"_s, *info); }
+    QStringList heard;
+
+private:
+    void hear(const QString& table, const CHeadlineTableInfo& info) {
+        heard += u"%1 table %2 %3 %4"_s.arg(table).arg(info.service).arg(info.key).arg(info.status);
+    }
+};
+
+}  // namespace wirepane

@@ -1,0 +1,215 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// What the receivers of a back end hear of news that comes late, in bursts, or from another program.
+#include "backend/store/embedded_back_end.h"
+#include "backend/store/store_checker.h"
+#include "backend/store/store_file.h"
+#include "host/contract/clock.h"
+#include "tests/backend/store/listener.h"
+#include "tests/backend/store/store_fixture.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+class LiveNewsTest : public StoreFixture {
+public:
+    LiveNewsTest() : backEnd(std::move(openStore(store->path()).value())) {
+        host_clock::startAt(at(12, 0));
+        backEnd.Attach(&listener);
+    }
+    ~LiveNewsTest() override { backEnd.Detach(&listener); }
+
+protected:
+    void takeIn(const NewsItem& item) {
+        const Result<TakeOutcome> outcome = backEnd.takeIn(item);
+        ASSERT_TRUE(outcome && outcome.value().take == Take::TakenIn);
+    }
+    static NewsItem again(NewsItem item, const QString& title) {
+        item.title = title;
+        ++item.version;
+        return item;
+    }
+    QStringList heard() { return std::exchange(listener.heard, {}); }
+    int entriesOfToday() {
+        std::vector<CHeadlineTable> table;
+        return backEnd.BKQNEWS_iGetHeadlineTable(1, table, 0, u"20260302"_s);
+    }
+
+    EmbeddedBackEnd backEnd;
+    Listener listener;
+};
+
+TEST_F(LiveNewsTest, WhatABreakKeptAwayComesOldestFirstAndOnce) {
+    const NewsItem known = newsItem(1, u"known"_s, at(9, 30), u"Known"_s);
+    takeIn(known);
+    heard();
+    backEnd.setConnected(false);
+    takeIn(newsItem(1, u"b"_s, at(11, 0), u"Later"_s));
+    takeIn(newsItem(2, u"a"_s, at(10, 0), u"Earlier"_s));
+    takeIn(again(known, u"Corrected"_s));
+    NewsItem twice = newsItem(1, u"c"_s, at(11, 30), u"First words"_s);
+    takeIn(twice);
+    takeIn(again(twice, u"Last words"_s));
+    EXPECT_EQ(heard(), QStringList{});
+
+    backEnd.setConnected(true);
+    EXPECT_EQ(heard(), (QStringList{u"headline 1/1 Corrected [0] "_s, u"headline 2/1 Earlier [0] "_s,
+                                    u"headline 1/2 Later [0] "_s, u"headline 1/3 Last words [0] "_s}));
+    EXPECT_EQ(backEnd.lateHeadlines(), 4);
+    backEnd.setConnected(true);
+    backEnd.setConnected(false);
+    backEnd.setConnected(true);
+    EXPECT_EQ(heard(), QStringList{});
+    EXPECT_EQ(backEnd.lateHeadlines(), 0);
+}
+
+TEST_F(LiveNewsTest, WhatAnotherProgramWritesIsToldInTheOrderOfComing) {
+    takeNews(newsItem(1, u"a"_s, at(11, 0), u"A"_s));
+    takeNews(newsItem(1, u"b"_s, at(10, 0), u"B"_s));
+    NewsItem story = newsItem(1, u"b"_s, at(10, 0), u"B"_s);
+    story.story = u"Text"_s;
+    EXPECT_EQ(entriesOfToday(), 2);
+    backEnd.checkForNews();
+    EXPECT_EQ(heard(), (QStringList{u"headline 1/1 A [0] "_s, u"headline 1/2 B [0] "_s}));
+    takeNews(story);
+    takeNews(newsItem(1, u"c"_s, at(9, 0), u"C"_s));
+    // The back end's own news finds the others before it, and has their numbers.
+    takeIn(newsItem(1, u"d"_s, at(9, 0), u"D"_s));
+    EXPECT_EQ(heard(), (QStringList{u"story 2"_s, u"headline 1/3 C [0] "_s, u"headline 1/4 D [0] "_s}));
+    backEnd.checkForNews();
+    EXPECT_EQ(heard(), QStringList{});
+    EXPECT_EQ(entriesOfToday(), 4);
+}
+
+TEST_F(LiveNewsTest, ABurstIsOneTransactionAndIsToldInPortions) {
+    constexpr int burst = 1700;
+    ASSERT_TRUE(backEnd.begin());
+    for (int i = 0; i < burst; ++i)
+        ASSERT_TRUE(backEnd.take(newsItem(1, QString::number(i), at(10, 0, i % 60), u"N"_s)));
+    EXPECT_EQ(rows("SELECT count(*) FROM headlines"), QStringList{u"0"_s});
+    EXPECT_EQ(heard(), QStringList{});
+    ASSERT_TRUE(backEnd.commit());
+    EXPECT_EQ(entriesOfToday(), burst);
+    EXPECT_LT(listener.heard.size(), burst);
+    EXPECT_FALSE(backEnd.isDelivered());
+    // A break in the middle of the portions loses none.
+    backEnd.setConnected(false);
+    QCoreApplication::processEvents();
+    const auto before = listener.heard.size();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(listener.heard.size(), before);
+    backEnd.setConnected(true);
+    while (!backEnd.isDelivered())
+        QCoreApplication::processEvents();
+    ASSERT_EQ(listener.heard.size(), burst);
+    EXPECT_TRUE(listener.heard.constLast().startsWith(u"headline 1/1700 "_s));
+
+    // What is taken back is told to nobody.
+    heard();
+    ASSERT_TRUE(backEnd.begin());
+    ASSERT_TRUE(backEnd.take(newsItem(1, u"x"_s, at(10, 0), u"X"_s)));
+    backEnd.rollback();
+    backEnd.checkForNews();
+    EXPECT_EQ(heard(), QStringList{});
+    EXPECT_EQ(entriesOfToday(), burst);
+}
+
+TEST_F(LiveNewsTest, AStoryCanComeAfterItsHeadlineAndChange) {
+    takeIn(newsItem(1, u"a"_s, at(10, 0), u"Merger of Taishin"_s));
+    heard();
+    const CHeadlineTable entry{at(10, 0), 1, 1, 0, 0};
+    const HeadlineKey key = KeyOf(entry);
+    const auto put = [&](const HeadlineKey& of, const QString& text) {
+        const Result<TakeOutcome> outcome = backEnd.takeStory(of, text);
+        EXPECT_TRUE(outcome);
+        return outcome.value().take;
+    };
+    EXPECT_EQ(put(key, u"Wording one"_s), Take::TakenIn);
+    EXPECT_EQ(put(key, u"Wording@@@@two"_s), Take::TakenIn);
+    EXPECT_EQ(put({at(10, 0), 2, 1}, u"Nobody's"_s), Take::Rejected);
+    EXPECT_EQ(put(key, QString(5'000'000, u'x')), Take::Rejected);
+    backEnd.announceStoryChange(key);
+    EXPECT_EQ(heard(), (QStringList{u"story 1"_s, u"story 1"_s, u"changed story 1"_s}));
+    CStory story;
+    ASSERT_TRUE(backEnd.BKQNEWS_bGetStory(story, entry));
+    EXPECT_EQ(story.text, u"Wording@@@@two"_s);
+    EXPECT_EQ(backEnd.receivedTime(key), at(12, 0));
+    EXPECT_EQ(backEnd.receivedTime({at(10, 0), 2, 1}), std::nullopt);
+    EXPECT_EQ(StoreChecker(store->path()).check().value(), QStringList{});
+}
+
+TEST_F(LiveNewsTest, WhatIsHeldIsNotAtHandAndItsAnswersWait) {
+    NewsItem item = newsItem(1, u"a"_s, at(10, 0), u"A"_s);
+    item.story = u"Text"_s;
+    takeIn(item);
+    heard();
+    const CHeadlineTable entry{at(10, 0), 1, 1, 0, 0};
+    std::vector<CHeadline> headlines;
+    CStory story;
+    for (const Held what : {Held::Headlines, Held::Stories, Held::Tables})
+        backEnd.hold(what, true);
+    EXPECT_EQ(entriesOfToday(), 0);
+    EXPECT_EQ(backEnd.BKQNEWS_iGetHeadline(1, headlines, {entry, entry}), 0);
+    EXPECT_FALSE(backEnd.BKQNEWS_bGetStory(story, entry));
+    EXPECT_TRUE(backEnd.BKQNews_bReRequestHeadlineStory(entry));
+    EXPECT_TRUE(backEnd.BKNEWS_bReRequestHeadlineTable(1, 0, u"20260302"_s));
+    EXPECT_TRUE(backEnd.BKNEWS_bReRequestHeadlineTable(1, 0, u"20260303"_s));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(heard(), QStringList{});
+
+    backEnd.hold(Held::Tables, false);
+    EXPECT_EQ(heard(), (QStringList{u"date table 1 20260302 0"_s, u"date table 1 20260303 -1"_s}));
+    backEnd.hold(Held::Stories, false);
+    EXPECT_EQ(heard(), QStringList{u"story 1"_s});
+    backEnd.hold(Held::Headlines, false);
+    EXPECT_EQ(heard(), QStringList{u"1 headlines"_s});
+    for (const Held what : {Held::Headlines, Held::Stories, Held::Tables})
+        backEnd.hold(what, false);
+    EXPECT_EQ(heard(), QStringList{});
+    EXPECT_EQ(backEnd.BKQNEWS_iGetHeadline(1, headlines, {entry}), 1);
+}
+
+TEST_F(LiveNewsTest, AServiceKeepsTheNewsDayThatItHasReported) {
+    EXPECT_EQ(backEnd.BKQNEWS_cszGetCurrDateByService(1), u"20260302"_s);
+    backEnd.startNewsDay({1, 20260303});
+    backEnd.startNewsDay({1, 20261399});
+    EXPECT_EQ(backEnd.BKQNEWS_cszGetCurrDateByService(1), u"20260303"_s);
+    EXPECT_EQ(backEnd.BKQNEWS_cszGetCurrDateByService(2), u"20260302"_s);
+    EXPECT_EQ(heard(), (QStringList{u"day 20260303 of 1"_s, u"day 20261399 of 1"_s}));
+    backEnd.forgetNewsDays();
+    EXPECT_EQ(backEnd.BKQNEWS_cszGetCurrDateByService(1), u"20260302"_s);
+}
+
+TEST_F(LiveNewsTest, APositionIsKeptWithTheItemsBeforeItOrNotAtAll) {
+    EXPECT_EQ(writer->positionOf(u"wire"_s).value(), QString());
+    ASSERT_TRUE(writer->begin());
+    ASSERT_TRUE(writer->keepPosition(u"wire"_s, u"12"_s));
+    writer->rollback();
+    EXPECT_EQ(writer->positionOf(u"wire"_s).value(), QString());
+    EXPECT_FALSE(writer->keepPosition(u"wire"_s, u"12"_s));
+    ASSERT_TRUE(writer->begin());
+    ASSERT_TRUE(writer->keepPosition(u"wire"_s, u"12"_s));
+    ASSERT_TRUE(writer->keepPosition(u"wire"_s, u"13"_s));
+    ASSERT_TRUE(writer->commit());
+    EXPECT_EQ(backEnd.positionOf(u"wire"_s).value(), u"13"_s);
+}
+
+TEST_F(LiveNewsTest, TheLogOfArrivalsLetsTheOldestGo) {
+    ArrivalLog log(*store, 3);
+    takeNews(newsItem(1, u"a"_s, at(9, 0), u"A"_s));
+    for (int i = 0; i < 5; ++i)
+        ASSERT_TRUE(log.add(1, true) && log.trim());
+    EXPECT_EQ(rows("SELECT min(position), max(position), count(*) FROM arrivals"), QStringList{u"4|6|3"_s});
+    std::int64_t position = 0;
+    EXPECT_EQ(log.after(position).size(), 1u);
+    EXPECT_EQ(position, 6);
+}
+
+}  // namespace
+
+}  // namespace wirepane
