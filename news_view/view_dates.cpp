@@ -11,8 +11,6 @@
 #include "story/news_story_view.h"
 #include "story/quote_dlg_tip_msg.h"
 
-#include <QToolTip>
-
 #include <stdexcept>
 
 namespace {
@@ -79,9 +77,9 @@ void TRVNewsCtrlView::vTipOver(ListIndex list, const QString& text) {
     CSuperSheetWnd* sheet = List(list).pGetGrid();
     if (tip == nullptr || sheet == nullptr)
         return;
-    const QPalette colours = QToolTip::palette();
-    tip->vSetInfo(nullptr, text, colours.color(QPalette::ToolTipText), colours.color(QPalette::ToolTipBase),
-                  tipTimeMs);
+    // The view's colours the other way round, so that the tip stands out from the rows under it.
+    tip->vSetFont(GetViewFont());
+    tip->vSetInfo(nullptr, text, colBackground, colText, tipTimeMs);
     tip->vShow(sheet, 0, 0, false);
 }
 
