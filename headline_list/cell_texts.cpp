@@ -4,17 +4,56 @@
 
 #include "headline_list/language_keys.h"
 
-QDateTime LocalTime(std::int64_t secondsSince1970) {
+#include <chrono>
+
+namespace {
+
+bool isInCalendar(std::int64_t secondsSince1970) {
     constexpr std::int64_t earliest = -62135596800;  // the beginning of the year 1
     constexpr std::int64_t latest = 253402300799;    // the end of the year 9999
-    if (secondsSince1970 < earliest || secondsSince1970 > latest)
-        return {};
-    return QDateTime::fromSecsSinceEpoch(secondsSince1970);
+    return secondsSince1970 >= earliest && secondsSince1970 <= latest;
+}
+
+// Seconds. Asking the system costs more than all else about a cell, and headlines that are written together
+// are near in time: the last answer is kept for the quarter of an hour that it holds for.
+int offsetFromUtc(std::int64_t secondsSince1970) {
+    constexpr std::int64_t quarter = 900;
+    static thread_local std::int64_t knownQuarter = -1;
+    static thread_local int known = 0;
+    // Before 1970 clocks were set at odd seconds.
+    if (secondsSince1970 < 0 || secondsSince1970 / quarter != knownQuarter) {
+        known = QDateTime::fromSecsSinceEpoch(secondsSince1970).offsetFromUtc();
+        knownQuarter = secondsSince1970 < 0 ? -1 : secondsSince1970 / quarter;
+    }
+    return known;
+}
+
+QString twoDigits(unsigned first, char16_t between, unsigned second) {
+    const auto digit = [](unsigned value) { return static_cast<char16_t>(u'0' + value % 10); };
+    const char16_t text[] = {digit(first / 10), digit(first), between, digit(second / 10), digit(second)};
+    return QString::fromUtf16(text, 5);
+}
+
+}  // namespace
+
+QDateTime LocalTime(std::int64_t secondsSince1970) {
+    return isInCalendar(secondsSince1970) ? QDateTime::fromSecsSinceEpoch(secondsSince1970) : QDateTime();
 }
 
 QString TimeText(std::int64_t secondsSince1970, bool showDate) {
-    const QDateTime local = LocalTime(secondsSince1970);
-    return local.toString(showDate ? QStringLiteral("MM/dd HH:mm") : QStringLiteral("HH:mm"));
+    if (!isInCalendar(secondsSince1970))
+        return {};
+    using namespace std::chrono;
+    const sys_seconds local{seconds(secondsSince1970 + offsetFromUtc(secondsSince1970))};
+    const auto day = floor<days>(local);
+    const hh_mm_ss time(local - day);
+    const QString hourAndMinute = twoDigits(static_cast<unsigned>(time.hours().count()), u':',
+                                            static_cast<unsigned>(time.minutes().count()));
+    if (!showDate)
+        return hourAndMinute;
+    const year_month_day date(day);
+    return twoDigits(static_cast<unsigned>(date.month()), u'/', static_cast<unsigned>(date.day())) + u' ' +
+           hourAndMinute;
 }
 
 QString DateKey(const QDate& day) {

@@ -8,6 +8,7 @@
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/s_edit.h"
 #include "host/controls/sc_combo_box.h"
+#include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/virtual_base_view.h"
 #include "news_view/control_ids.h"
@@ -65,14 +66,11 @@ constexpr std::array placements{
 ControlSet::ControlSet(TRVVirtualBaseView& newsView, BKQuoteInterface& newsBackEnd)
     : view(newsView), backEnd(newsBackEnd) {}
 
-QWidget* ControlSet::window() const {
-    return &view;
-}
-
 template <class Control>
 Control* ControlSet::vAdd(int id, const QRect& rectangle) {
     auto* control = new Control(&view);
     SetWindowId(control, id);
+    controls.insert(id, control);
     control->setGeometry(rectangle);
     return control;
 }
@@ -155,21 +153,21 @@ int ControlSet::iGetTabIndex(int mode) const {
 void ControlSet::ShowHideCtrObject(ListIndex mode) {
     const auto shown = ModeOf(mode).controls;
     for (const int id : SwitchableControls()) {
-        if (QWidget* control = GetDlgItem(&view, id))
+        if (QWidget* control = controls.value(id))
             control->setVisible(std::find(shown.begin(), shown.end(), id) != shown.end());
     }
 }
 
 void ControlSet::vPlace(const ViewLayout& layout) {
     for (const Placement& placement : placements) {
-        if (QWidget* control = GetDlgItem(&view, placement.id))
+        if (QWidget* control = controls.value(placement.id))
             control->setGeometry(layout.*placement.place);
     }
 }
 
 void ControlSet::vSetFont(const QFont& font) {
     for (const Placement& placement : placements) {
-        if (QWidget* control = GetDlgItem(&view, placement.id))
+        if (QWidget* control = controls.value(placement.id))
             control->setFont(font);
     }
 }

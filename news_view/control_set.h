@@ -4,14 +4,15 @@
 
 #include "headline_list/list_index.h"
 #include "host/contract/bk_quote_interface.h"
-#include "host/controls/window_id.h"
 #include "news_view/view_layout.h"
 
 #include <QDate>
 #include <QFont>
+#include <QHash>
+#include <QPointer>
+#include <QWidget>
 
 class CXTPTabControl;
-class QWidget;
 class SButton;
 class TRVVirtualBaseView;
 
@@ -47,15 +48,15 @@ public:
     // A control of a kind by its number; null when there is none.
     template <class Control>
     Control* Find(int id) const {
-        return qobject_cast<Control*>(GetDlgItem(window(), id));
+        return qobject_cast<Control*>(controls.value(id).data());
     }
 
 private:
-    QWidget* window() const;
     void vAddButton(int id, const QRect& rectangle);
     template <class Control>
     Control* vAdd(int id, const QRect& rectangle);
 
     TRVVirtualBaseView& view;
     BKQuoteInterface& backEnd;
+    QHash<int, QPointer<QWidget>> controls;  // by number: every pushed headline asks for some
 };

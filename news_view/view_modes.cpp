@@ -3,6 +3,7 @@
 // Switching the news view between its modes, and laying it out.
 #include "host/contract/fixed_services.h"
 #include "host/controls/sc_combo_box.h"
+#include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"

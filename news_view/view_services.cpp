@@ -4,6 +4,7 @@
 #include "headline_list/cell_texts.h"
 #include "host/contract/clock.h"
 #include "host/controls/sc_combo_box.h"
+#include "host/controls/window_id.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 

@@ -6,6 +6,7 @@
 #include "host/contract/fixed_services.h"
 #include "host/contract/ini_file.h"
 #include "host/contract/sync_info.h"
+#include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What the news view lets the host's scripts look at.
 #include "host/controls/my_rich_edit.h"
+#include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"

@@ -5,6 +5,7 @@
 #include "host/contract/fixed_services.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/sc_combo_box.h"
+#include "host/controls/window_id.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "story/news_story_view.h"

@@ -3,6 +3,7 @@
 // Paging through days, and following the back end's news day.
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/s_date_time_ctrl.h"
+#include "host/controls/window_id.h"
 #include "news_view/control_ids.h"
 #include "story/news_story_view.h"
 #include "story/quote_dlg_tip_msg.h"

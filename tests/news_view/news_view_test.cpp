@@ -5,6 +5,7 @@
 #include "host/controls/registered_message.h"
 #include "host/controls/s_button.h"
 #include "host/controls/sc_combo_box.h"
+#include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "story/story_ids.h"

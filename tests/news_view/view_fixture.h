@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/contract/clock.h"
+#include "host/controls/window_id.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "tests/support/fake_back_end.h"
 

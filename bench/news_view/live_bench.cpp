@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// What live news costs with a whole view open: pushes through RecvNewHeadLine beside bare insertions into a
+// table, and how long a key waits for its answer while 50,000 headlines arrive in a second.
+#include "bench/headline_list/list_bench.h"
+#include "host/contract/cfg_io.h"
+#include "news_view/trv_news_ctrl_view.h"
+
+#include <QApplication>
+#include <QInputDevice>
+#include <QKeyEvent>
+#include <QTimer>
+
+#include <algorithm>
+#include <atomic>
+#include <thread>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double secondsSince(Clock::time_point from) {
+    return std::chrono::duration<double>(Clock::now() - from).count();
+}
+
+class LiveBackEnd : public ArrayBackEnd {
+public:
+    explicit LiveBackEnd(int entries) : ArrayBackEnd(entries) { SetBKInterface(this); }
+    bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& services) override {
+        services.clear();
+        for (int i = 1; i <= serviceCount; ++i)
+            services.push_back(static_cast<unsigned char>(i));
+        return true;
+    }
+    bool BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) override {
+        story = {entry.time, QString(2000, QLatin1Char('x')), entry};
+        return true;
+    }
+};
+
+// A view with its story pane over a day of `entries` headlines, all of them read.
+struct LiveView {
+    explicit LiveView(int entries) : backEnd(entries) {
+        view.resize(1000, 700);
+        view.OnInitialUpdate();
+        view.InitialViewInfo(&settings, QStringLiteral("main"), 0, 0, {});
+        view.show();
+        QApplication::processEvents();
+    }
+
+    void push() {
+        ++pushed;
+        const CHeadline headline{static_cast<unsigned char>(1 + pushed % serviceCount),
+                                 start + 100'000'000 + pushed,
+                                 10'000'000 + pushed,
+                                 QStringLiteral("Pushed headline %1").arg(pushed),
+                                 0,
+                                 1,
+                                 0};
+        view.RecvNewHeadLine(&headline, QStringLiteral("1"), {});
+    }
+
+    LiveBackEnd backEnd;
+    MemoryCfgIO settings;
+    TRVNewsCtrlView view;
+    int pushed = 0;
+};
+
+// A thousand pushes to a turn of the event loop.
+void pushThroughTheView(benchmark::State& state) {
+    LiveView live(static_cast<int>(state.range(0)));
+    measure(state, "view", [&] {
+        for (int i = 0; i < 1000; ++i)
+            live.push();
+        QApplication::processEvents();
+    });
+    state.counters["pushes"] =
+        benchmark::Counter(1000.0 * static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+}
+
+void insertIntoABareTable(benchmark::State& state) {
+    TableRuns runs(1);
+    ArrayBackEnd backEnd(static_cast<int>(state.range(0)) * serviceCount);
+    backEnd.BKQNEWS_iGetHeadlineTable(1, runs.front(), 0, {});
+    HeadlineTable table;
+    table.assign(runs);
+    table.BuildIndexes();
+    int inserted = 0;
+    measure(state, "table", [&] {
+        for (int i = 0; i < 1000; ++i) {
+            ++inserted;
+            table.insert(0, {start + 100'000'000 + inserted, 10'000'000 + inserted, 1, 0, 0});
+        }
+    });
+    state.counters["insertions"] =
+        benchmark::Counter(1000.0 * static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+}
+
+// Notes when the keys that were posted to a window have been answered.
+class KeyWatch : public QObject {
+public:
+    // The keyboard is made here, on the interface thread.
+    explicit KeyWatch(QWidget& window) : target(window) { QInputDevice::primaryKeyboard(); }
+
+    // Any thread: a key, and a mark behind it in the queue of events.
+    void post() {
+        QCoreApplication::postEvent(&target, new QKeyEvent(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier));
+        QCoreApplication::postEvent(this, new Mark);
+    }
+    // Seconds from the post to the answer, ascending.
+    std::vector<double> takeWaits() {
+        std::sort(waits.begin(), waits.end());
+        return std::exchange(waits, {});
+    }
+
+protected:
+    bool event(QEvent* event) override {
+        if (auto* mark = dynamic_cast<Mark*>(event)) {
+            waits.push_back(secondsSince(mark->posted));
+            return true;
+        }
+        return QObject::event(event);
+    }
+
+private:
+    struct Mark : QEvent {
+        Mark() : QEvent(QEvent::User) {}
+        Clock::time_point posted = Clock::now();
+    };
+
+    QWidget& target;
+    std::vector<double> waits;
+};
+
+// Headlines come as the clock says, a millisecond's worth at a time; keys come from another thread.
+void keysDuringABurst(benchmark::State& state) {
+    constexpr int burst = 50'000;
+    for (auto unused : state) {
+        LiveView live(static_cast<int>(state.range(0)));
+        KeyWatch watch(*live.view.Sheet(0));
+        const auto from = Clock::now();
+        QTimer feed;
+        QObject::connect(&feed, &QTimer::timeout, &feed, [&] {
+            const int due = std::min(burst, static_cast<int>(secondsSince(from) * burst));
+            while (live.pushed < due)
+                live.push();
+        });
+        feed.setTimerType(Qt::PreciseTimer);
+        feed.start(1);
+        std::atomic<bool> over = false;
+        std::thread user([&] {
+            while (!over) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(3));
+                watch.post();
+            }
+        });
+        while (live.pushed < burst)
+            QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        const double seconds = secondsSince(from);
+        over = true;
+        user.join();
+        QApplication::processEvents();
+        const std::vector<double> waits = watch.takeWaits();
+        const auto wait = [&](double share) {
+            return 1000 * waits[static_cast<std::size_t>(share * static_cast<double>(waits.size() - 1))];
+        };
+        state.counters["keys"] = static_cast<double>(waits.size());
+        state.counters["seconds"] = seconds;
+        state.counters["ms_50"] = wait(0.5);
+        state.counters["ms_90"] = wait(0.9);
+        state.counters["ms_99"] = wait(0.99);
+        state.counters["ms_max"] = wait(1);
+    }
+}
+
+}  // namespace
+
+BENCHMARK(pushThroughTheView)
+    ->Arg(1000)
+    ->Arg(100'000)
+    ->Arg(1'000'000)
+    ->Iterations(50)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(insertIntoABareTable)
+    ->Arg(1000)
+    ->Arg(100'000)
+    ->Arg(1'000'000)
+    ->Iterations(50)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(keysDuringABurst)
+    ->Arg(1000)
+    ->Arg(100'000)
+    ->Arg(1'000'000)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
