@@ -76,8 +76,11 @@ Answer ViewMethods::close(Params& params) {
 Answer ViewMethods::resize(Params& params) {
     const OpenView* view = viewOf(params, session.workspace());
     const QSize size = params.size(u"size"_s);
-    if (view != nullptr && !params.error())
-        session.workspace().resize(*view, size);
+    if (view == nullptr || params.error())
+        return {};
+    if (!session.workspace().resize(*view, size))
+        return RpcError{RpcCode::Refused,
+                        u"view %1 stands in a dock, which gives it its size"_s.arg(view->number)};
     return {};
 }
 

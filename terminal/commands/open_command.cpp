@@ -38,6 +38,7 @@ void addOptions(QCommandLineParser& parser) {
         {u"lang"_s, u"The language: %1."_s.arg(Languages::codes().join(u", "_s)), u"code"_s},
         {u"sample"_s, u"Fills a store without news with the sample wire."_s},
         {u"offscreen"_s, u"Draws all windows off screen."_s},
+        {u"workspace"_s, u"With automation: opens the user's views, and keeps them."_s},
         {u"automation"_s, u"Is driven by JSON-RPC on standard input and output."_s},
         {u"automation-socket"_s, u"Is driven by JSON-RPC on a local socket."_s, u"name"_s},
         {u"tour"_s, u"Shows itself off screen on the sample wire and writes pictures into the folder."_s,
@@ -58,6 +59,7 @@ OpenOptions openOptions(CommandArguments& arguments) {
     if (options.configFolder.isEmpty() && !options.tour)
         options.configFolder = defaultConfigFolder();
     options.language = parser.value(u"lang"_s);
+    options.workspace = parser.isSet(u"workspace"_s);
     options.sample = parser.isSet(u"sample"_s);
     if (!options.language.isEmpty() && !Languages::codes().contains(options.language))
         arguments.fail(u"--lang takes one of %1."_s.arg(Languages::codes().join(u", "_s)));
@@ -68,15 +70,19 @@ OpenOptions openOptions(CommandArguments& arguments) {
     return options;
 }
 
-// The user's terminal. Without a store of their own, users start with the sample wire.
-int runForUser(Session& session) {
-    const FrameCommands commands(session);
+Done openWorkspace(Session& session) {
     MainFrame& frame = session.frame();
     if (!frame.restoreGeometry(session.settings().frameGeometry()))
         frame.resize(frame.sizeHint());
     frame.show();
-    if (const Done opened = session.openUserView(); !opened) {
-        QMessageBox::critical(&frame, QApplication::applicationName(), opened.error());
+    return session.keeper().restore();
+}
+
+// The user's terminal. Without a store of their own, users start with the sample wire.
+int runForUser(Session& session) {
+    const FrameCommands commands(session);
+    if (const Done opened = openWorkspace(session); !opened) {
+        QMessageBox::critical(&session.frame(), QApplication::applicationName(), opened.error());
         return exitUnusable;
     }
     return QApplication::exec();
@@ -92,7 +98,13 @@ int runForScripts(Session& session, const OpenOptions& options, StandardChannel*
             return exitUnusable;
         }
     }
-    session.frame().show();
+    const FrameCommands commands(session);
+    if (!options.workspace) {
+        session.frame().show();
+    } else if (const Done opened = openWorkspace(session); !opened) {
+        printNote(opened.error());
+        return exitUnusable;
+    }
     return QApplication::exec();
 }
 

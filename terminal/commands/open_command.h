@@ -20,6 +20,7 @@ struct OpenOptions {
     bool automation = false;  // on standard input and output
     bool sample = false;
     bool tour = false;
+    bool workspace = false;  // a script works on the user's views
 
     bool isScripted() const { return automation || !automationSocket.isEmpty(); }
 };

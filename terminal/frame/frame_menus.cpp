@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/frame_menus.h"
 
+#include "terminal/frame/link_badge.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/translations/terminal_text.h"
 
@@ -9,11 +10,63 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <array>
+#include <span>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
 namespace {
+
+struct Entry {
+    FrameCommand command;
+    TextId text;
+    QLatin1StringView shortcuts;  // portable names, "; " between two of them
+    bool ofView = false;          // needs an active view
+    bool startsGroup = false;
+};
+
+constexpr std::array fileEntries{
+    Entry{FrameCommand::NewView, TextId::NewView, "Ctrl+N"_L1},
+    Entry{FrameCommand::NewSymbolView, TextId::NewSymbolView, "Ctrl+Shift+N"_L1},
+    Entry{FrameCommand::DuplicateView, TextId::DuplicateView, "Ctrl+D"_L1, true},
+    Entry{FrameCommand::CloseView, TextId::CloseView, "Ctrl+W"_L1, true},
+    Entry{FrameCommand::GoToSymbolBox, TextId::GoToSymbolBox, "Ctrl+K; Ctrl+L"_L1, false, true},
+    Entry{FrameCommand::ReadAsOf, TextId::ReadAsOf, "Ctrl+G"_L1},
+    Entry{FrameCommand::Settings, TextId::Settings, "Ctrl+,"_L1},
+    Entry{FrameCommand::Quit, TextId::Quit, "Ctrl+Q"_L1, false, true},
+};
+
+constexpr std::array fontEntries{
+    Entry{FrameCommand::FontLarger, TextId::FontLarger, "Ctrl++; Ctrl+="_L1, false, true},
+    Entry{FrameCommand::FontSmaller, TextId::FontSmaller, "Ctrl+-"_L1},
+};
+
+constexpr std::array windowEntries{
+    Entry{FrameCommand::NextView, TextId::NextView, "Ctrl+Tab; Ctrl+F6"_L1, true},
+    Entry{FrameCommand::PreviousView, TextId::PreviousView, "Ctrl+Shift+Tab; Ctrl+Shift+F6"_L1, true},
+    Entry{FrameCommand::RenameView, TextId::RenameView, "F2"_L1, true, true},
+    Entry{FrameCommand::FloatView, TextId::FloatView, "Ctrl+Shift+F"_L1, true},
+};
+
+constexpr std::array arrangeEntries{
+    Entry{FrameCommand::ArrangeColumns, TextId::ArrangeColumns, "Ctrl+Shift+1"_L1, true},
+    Entry{FrameCommand::ArrangeRows, TextId::ArrangeRows, "Ctrl+Shift+2"_L1, true},
+    Entry{FrameCommand::ArrangeTabs, TextId::ArrangeTabs, "Ctrl+Shift+3"_L1, true},
+};
+
+void addEntries(MainFrame& frame, QMenu& menu, std::span<const Entry> entries, const MenuState& state) {
+    for (const Entry& entry : entries) {
+        if (entry.startsGroup)
+            menu.addSeparator();
+        QAction* action = menu.addAction(terminalText(entry.text));
+        action->setShortcuts(QKeySequence::listFromString(entry.shortcuts, QKeySequence::PortableText));
+        action->setEnabled(!entry.ofView || state.activeView != 0);
+        QObject::connect(action, &QAction::triggered, &frame,
+                         [&frame, command = entry.command] { emit frame.commanded(command); });
+    }
+}
 
 struct Choice {
     TextId text;
@@ -34,36 +87,61 @@ void addChoices(QMenu& menu, const QList<Choice>& choices, const QString& curren
     }
 }
 
-}  // namespace
-
-void addFileMenu(MainFrame& frame) {
-    QMenu* menu = frame.menuBar()->addMenu(terminalText(TextId::FileMenu));
-    QAction* readAsOf = menu->addAction(terminalText(TextId::ReadAsOf));
-    readAsOf->setShortcut(Qt::CTRL | Qt::Key_G);
-    QObject::connect(readAsOf, &QAction::triggered, &frame, &MainFrame::readAsOfChosen);
-    menu->addSeparator();
-    QAction* quit = menu->addAction(terminalText(TextId::Quit));
-    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
-    QObject::connect(quit, &QAction::triggered, &frame, &MainFrame::close);
+void addFileMenu(MainFrame& frame, const MenuState& state) {
+    addEntries(frame, *frame.menuBar()->addMenu(terminalText(TextId::FileMenu)), fileEntries, state);
 }
 
-void addViewMenu(MainFrame& frame, const QString& scheme, const QString& language) {
+void addLookMenu(MainFrame& frame, const MenuState& state) {
     QMenu* menu = frame.menuBar()->addMenu(terminalText(TextId::ViewMenu));
     addChoices(*menu->addMenu(terminalText(TextId::SchemeMenu)),
-               {{TextId::SchemeLight, u"light"_s}, {TextId::SchemeDark, u"dark"_s}}, scheme,
+               {{TextId::SchemeLight, u"light"_s}, {TextId::SchemeDark, u"dark"_s}}, state.scheme,
                [&frame](const QString& value) { emit frame.schemeChosen(value); });
     addChoices(*menu->addMenu(terminalText(TextId::LanguageMenu)),
                {{TextId::LanguageEnglish, u"en"_s},
                 {TextId::LanguageTraditionalChinese, u"zh-TW"_s},
                 {TextId::LanguageSimplifiedChinese, u"zh-CN"_s}},
-               language, [&frame](const QString& value) { emit frame.languageChosen(value); });
-    menu->addSeparator();
-    QAction* larger = menu->addAction(terminalText(TextId::FontLarger));
-    larger->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
-    QObject::connect(larger, &QAction::triggered, &frame, [&frame] { emit frame.fontStepChosen(1); });
-    QAction* smaller = menu->addAction(terminalText(TextId::FontSmaller));
-    smaller->setShortcut(Qt::CTRL | Qt::Key_Minus);
-    QObject::connect(smaller, &QAction::triggered, &frame, [&frame] { emit frame.fontStepChosen(-1); });
+               state.language, [&frame](const QString& value) { emit frame.languageChosen(value); });
+    addEntries(frame, *menu, fontEntries, state);
+}
+
+// The open views, the first nine with Alt and their place in the list as a shortcut.
+void addViewList(MainFrame& frame, QMenu& menu, const MenuState& state) {
+    constexpr qsizetype withShortcut = 9;
+    auto* group = new QActionGroup(&menu);
+    menu.addSeparator();
+    for (qsizetype i = 0; i < state.views.size(); ++i) {
+        const ListedView& view = state.views[i];
+        QString text = view.title;
+        text.replace(u'&', u"&&"_s);
+        QAction* action = menu.addAction(i < withShortcut ? u"&%1  %2"_s.arg(i + 1).arg(text) : text);
+        if (i < withShortcut)
+            action->setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + i)));
+        action->setCheckable(true);
+        action->setChecked(view.number == state.activeView);
+        group->addAction(action);
+        QObject::connect(action, &QAction::triggered, &frame,
+                         [&frame, number = view.number] { emit frame.viewChosen(number); });
+    }
+}
+
+void addWindowMenu(MainFrame& frame, const MenuState& state) {
+    QMenu* menu = frame.menuBar()->addMenu(terminalText(TextId::ViewsMenu));
+    addEntries(frame, *menu, windowEntries, state);
+    addEntries(frame, *menu->addMenu(terminalText(TextId::ArrangeMenu)), arrangeEntries, state);
+    QMenu* links = menu->addMenu(terminalText(TextId::LinkMenu));
+    links->setEnabled(state.activeView != 0);
+    addLinkGroups(*links, state.linkGroup, true, true,
+                  [&frame](unsigned char group) { emit frame.linkChosen(group); });
+    if (!state.views.isEmpty())
+        addViewList(frame, *menu, state);
+}
+
+}  // namespace
+
+void addFrameMenus(MainFrame& frame, const MenuState& state) {
+    addFileMenu(frame, state);
+    addLookMenu(frame, state);
+    addWindowMenu(frame, state);
 }
 
 }  // namespace wirepane

@@ -2,15 +2,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QList>
 #include <QString>
 
 namespace wirepane {
 
 class MainFrame;
 
-// The menus of the main frame, in the language in force. Each wires its commands to the frame's signals.
-void addFileMenu(MainFrame& frame);
-// Check marks stand at the scheme and the language that are given.
-void addViewMenu(MainFrame& frame, const QString& scheme, const QString& language);
+// A view in the list of the window menu.
+struct ListedView {
+    int number = 0;
+    QString title;
+
+    bool operator==(const ListedView&) const = default;
+};
+
+// What the menus mark as being in force.
+struct MenuState {
+    QString scheme;
+    QString language;
+    QList<ListedView> views;
+    int activeView = 0;  // 0: none; commands on the active view are disabled then
+    unsigned char linkGroup = 0;
+
+    bool operator==(const MenuState&) const = default;
+};
+
+// Adds the menus of the main frame, in the language in force. Each wires its entries to the frame's signals.
+void addFrameMenus(MainFrame& frame, const MenuState& state);
 
 }  // namespace wirepane

@@ -2,16 +2,20 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/main_frame.h"
 
-#include "terminal/frame/frame_menus.h"
+#include "terminal/frame/notice_bar.h"
+#include "terminal/frame/symbol_box.h"
 #include "terminal/frame/view_desk.h"
+#include "terminal/frame/view_dock.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QCloseEvent>
 #include <QDir>
 #include <QLabel>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QToolBar>
 
 using namespace Qt::StringLiterals;
 
@@ -28,16 +32,48 @@ QLabel* statusLabel(QStatusBar* bar, int stretch) {
     return label;
 }
 
+QToolBar* barWith(QWidget* content) {
+    auto* bar = new QToolBar;
+    bar->setObjectName(u"symbol"_s);
+    bar->setMovable(false);
+    bar->setFloatable(false);
+    bar->layout()->setContentsMargins(0, 0, 0, 0);
+    bar->addWidget(content);
+    return bar;
+}
+
+// Entries of menus that go keep their shortcuts until they are gone.
+void discard(QMenu* menu) {
+    const auto actions = menu->findChildren<QAction*>();
+    for (QAction* action : actions)
+        action->setShortcuts(QList<QKeySequence>());
+    menu->deleteLater();
+}
+
 }  // namespace
 
 MainFrame::MainFrame()
     : viewDesk(new ViewDesk(this)),
+      viewDocks(*this),
+      symbols(new SymbolBox),
+      notice(new NoticeBar),
+      symbolBar(barWith(symbols)),
       feedLabel(statusLabel(statusBar(), 0)),
       storeLabel(statusLabel(statusBar(), 1)),
       servicesLabel(statusLabel(statusBar(), 0)),
       asOfLabel(statusLabel(statusBar(), 0)) {
     setCentralWidget(viewDesk);
+    addToolBar(symbolBar);
+    addToolBarBreak();
+    addToolBar(notice);
+    notice->hide();
+    connect(symbols, &SymbolBox::left, this, [this] { emit viewChosen(menuState.activeView); });
     retranslate();
+}
+
+QMenu* MainFrame::createPopupMenu() {
+    // Bars and docks are not switched on and off one by one.
+    return nullptr;
 }
 
 void MainFrame::buildMenus() {
@@ -45,26 +81,29 @@ void MainFrame::buildMenus() {
     const auto old = menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly);
     menuBar()->clear();
     for (QMenu* menu : old)
-        menu->deleteLater();
-    addFileMenu(*this);
-    addViewMenu(*this, checkedScheme, checkedLanguage);
+        discard(menu);
+    addFrameMenus(*this, menuState);
 }
 
 void MainFrame::retranslate() {
     buildMenus();
+    symbols->retranslate();
+    viewDesk->setHint(terminalText(TextId::EmptyDesk));
     showCaption(caption);
 }
 
-void MainFrame::showChoices(const QString& scheme, const QString& language) {
-    if (scheme == checkedScheme && language == checkedLanguage)
+void MainFrame::showChoices(const MenuState& state) {
+    if (state == menuState)
         return;
-    checkedScheme = scheme;
-    checkedLanguage = language;
+    menuState = state;
     buildMenus();
 }
 
 void MainFrame::showStatus(const FrameStatus& status) {
-    feedLabel->setText(terminalText(status.connected ? TextId::FeedConnected : TextId::FeedDisconnected));
+    const QString offline = status.offlineSince.isEmpty()
+                                ? terminalText(TextId::FeedDisconnected)
+                                : terminalText(TextId::OfflineSince).arg(status.offlineSince);
+    feedLabel->setText(status.connected ? terminalText(TextId::FeedConnected) : offline);
     storeLabel->setText(QDir::toNativeSeparators(status.storeFile));
     servicesLabel->setText(terminalText(TextId::ServicesCount).arg(status.services));
     asOfLabel->setText(status.asOf.isEmpty() ? QString() : terminalText(TextId::AsOf).arg(status.asOf));
@@ -77,11 +116,34 @@ void MainFrame::showCaption(const QString& viewCaption) {
     setWindowTitle(caption.isEmpty() ? application : u"%1 – %2"_s.arg(caption, application));
 }
 
+void MainFrame::showNotice(const QString& sentence) {
+    notice->tell(sentence);
+}
+
+QString MainFrame::notices() const {
+    return notice->text();
+}
+
 void MainFrame::resizeDesk(const QSize& size) {
     // What surrounds the desk is known once the layout has been made with the texts of this moment.
     ensurePolished();
-    const QSize around(0, menuBar()->sizeHint().height() + statusBar()->sizeHint().height());
+    const QSize around(0, menuBar()->sizeHint().height() + symbolBar->sizeHint().height() +
+                              statusBar()->sizeHint().height());
     resize(size + around);
+}
+
+bool MainFrame::restoreArrangement(const QByteArray& stored) {
+    const bool restored = viewDocks.restore(stored);
+    // A stored state knows of the bars, too, but it is not what decides on them.
+    symbolBar->show();
+    notice->showOrHide();
+    for (ViewDock* dock : viewDocks.all())
+        dock->show();
+    return restored;
+}
+
+void MainFrame::showDesk(bool shown) {
+    viewDesk->setVisible(shown);
 }
 
 void MainFrame::closeEvent(QCloseEvent* event) {

@@ -2,46 +2,65 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "terminal/frame/frame_command.h"
+#include "terminal/frame/frame_menus.h"
+#include "terminal/frame/view_docks.h"
+
 #include <QMainWindow>
 
 class QLabel;
 
 namespace wirepane {
 
+class NoticeBar;
+class SymbolBox;
 class ViewDesk;
 
 // What the status bar says.
 struct FrameStatus {
     bool connected = false;
+    QString offlineSince;  // while not connected: a time of the day; empty: not known
     QString storeFile;
     int services = 0;
     QString asOf;  // empty: the present moment is the machine's
 };
 
-// The terminal's main window: menus, the desk with the views, the status bar. What its menu commands do is
-// the session's business.
+// The terminal's main window: menus, the symbol box, the docks and the desk with the views, the status bar.
+// What its menu commands do is the session's business.
 class MainFrame : public QMainWindow {
     Q_OBJECT
 
 public:
     MainFrame();
 
+    // Views of a size of their own stand on the desk; the user's views stand in docks around it.
     ViewDesk& desk() { return *viewDesk; }
+    ViewDocks& docks() { return viewDocks; }
+    SymbolBox& symbolBox() { return *symbols; }
 
     // Marks what is in force in the menus.
-    void showChoices(const QString& scheme, const QString& language);
+    void showChoices(const MenuState& state);
     void showStatus(const FrameStatus& status);
-    // The caption of the view on top; it stands in the window's title.
+    // The title of the active view; it stands in the window's title.
     void showCaption(const QString& caption);
+    // Tells the user something that he should know, until he has read it.
+    void showNotice(const QString& sentence);
+    QString notices() const;
     // Gives the desk this size.
     void resizeDesk(const QSize& size);
+    // Puts the docks as ViewDocks::save found them. False: that cannot be understood, they stand as they
+    // stood.
+    bool restoreArrangement(const QByteArray& stored);
+    // The desk gives its room to the docks unless a view stands on it or there is no dock.
+    void showDesk(bool shown);
 
 signals:
-    void readAsOfChosen();
+    void commanded(wirepane::FrameCommand command);
     void schemeChosen(const QString& scheme);
     void languageChosen(const QString& language);
-    // +1: larger, -1: smaller.
-    void fontStepChosen(int step);
+    // For the active view.
+    void linkChosen(unsigned char group);
+    void viewChosen(int number);
     // The window is about to close, or has been told to.
     void closing();
     void languageChanged();
@@ -51,19 +70,23 @@ signals:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    QMenu* createPopupMenu() override;
 
 private:
     void buildMenus();
     void retranslate();
 
     ViewDesk* viewDesk;
+    ViewDocks viewDocks;
+    SymbolBox* symbols;
+    NoticeBar* notice;
+    QToolBar* symbolBar;
     QLabel* feedLabel;
     QLabel* storeLabel;
     QLabel* servicesLabel;
     QLabel* asOfLabel;
     QString caption;
-    QString checkedScheme;
-    QString checkedLanguage;
+    MenuState menuState;
 };
 
 }  // namespace wirepane

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/view_desk.h"
 
+#include <QPainter>
+
 namespace wirepane {
 
 namespace {
@@ -19,6 +21,17 @@ void ViewDesk::place(QWidget* view, const QSize& size) {
     view->setProperty(fillsDesk, !size.isValid());
     view->setGeometry(QRect(QPoint(0, 0), size.isValid() ? size : this->size()));
     view->raise();
+}
+
+void ViewDesk::setHint(const QString& text) {
+    hint = text;
+    update();
+}
+
+void ViewDesk::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, hint);
 }
 
 QSize ViewDesk::sizeHint() const {

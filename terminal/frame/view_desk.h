@@ -17,13 +17,19 @@ public:
     // Gives the view, a child of the desk, its size (an invalid one: it fills the desk) and puts it on top.
     void place(QWidget* view, const QSize& size);
 
+    // What an empty desk says.
+    void setHint(const QString& text);
+
     QSize sizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QList<QWidget*> filling() const;
+
+    QString hint;
 };
 
 }  // namespace wirepane

@@ -2,7 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/workspace.h"
 
+#include "host/contract/bk_quote_interface.h"
+#include "host/controls/super_sheet_wnd.h"
+#include "host/controls/window_id.h"
+#include "host/controls/xtp_tab_control.h"
+#include "terminal/frame/main_frame.h"
 #include "terminal/frame/view_desk.h"
+#include "terminal/frame/view_dock.h"
+
+#include <QApplication>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -13,40 +22,132 @@ namespace wirepane {
 namespace {
 
 const QString viewClass = u"TRVNewsCtrlView"_s;
+const QString symbolNewsKey = u"IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS"_s;
 
-// The host's two layout numbers: one frame, and the view's place in it.
+constexpr int tabStrip = 3100;  // the view's tabs
+constexpr int symbolMode = 2;
+constexpr int listCount = 7;
+constexpr QSize startSize(900, 600);  // of a view whose dock has not been laid out yet
+
+// The first of the host's two layout numbers: one frame. The second is the view's place in it.
 constexpr int frameNumber = 0;
-constexpr int placeNumber = 0;
+
+// The grid that the user sees; the view itself when there is none.
+QWidget* keyboardTarget(const OpenView& open) {
+    for (int list = 0; list < listCount; ++list) {
+        CSuperSheetWnd* sheet = open.access->Sheet(list);
+        if (sheet != nullptr && sheet->isVisibleTo(open.view))
+            return sheet;
+    }
+    return open.view;
+}
+
+// What the view is for: its chosen tab, else its caption.
+QString subjectOf(const OpenView& open, bool& ofSymbol) {
+    const auto* strip = qobject_cast<CXTPTabControl*>(GetDlgItem(open.view, tabStrip));
+    if (strip != nullptr && strip->count() > 0) {
+        ofSymbol = strip->iGetItemData(strip->GetCurSel()) == symbolMode;
+        return strip->szGetTabText(strip->GetCurSel());
+    }
+    ofSymbol = open.newsType == 1 || open.newsType == 2;
+    QString caption;
+    if (ofSymbol)
+        caption = BKQuoteInterface::GetBKInterface()->LangGetLangString(symbolNewsKey);
+    else
+        open.view->GetCaption(caption);
+    return caption;
+}
 
 }  // namespace
 
-Workspace::Workspace(NewsModule& newsModule, ViewDesk& viewDesk, QObject* parent)
-    : QObject(parent), module(newsModule), desk(viewDesk) {}
+QString OpenView::shownTitle() const {
+    if (!title.isEmpty())
+        return title;
+    bool ofSymbol = false;
+    const QString subject = subjectOf(*this, ofSymbol);
+    unsigned char service = 0;
+    QString code;
+    // An index ("#...") stands for "no symbol" here.
+    const bool known = ofSymbol && view->GetCurrSymbolInfo(service, code) == 1 && !code.startsWith(u'#');
+    return known && !code.isEmpty() ? u"%1 %2"_s.arg(subject, code) : subject;
+}
+
+Workspace::Workspace(NewsModule& newsModule, MainFrame& mainFrame, QObject* parent)
+    : QObject(parent), module(newsModule), frame(mainFrame) {
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, const QWidget* focus) { follow(focus); });
+}
+
+Workspace::~Workspace() = default;
 
 Result<OpenView*> Workspace::open(ViewRequest request) {
-    auto* view = module.CreateView(viewClass, &desk);
+    auto entry = std::make_unique<OpenView>();
+    entry->number = ++lastNumber;
+    entry->newsType = request.newsType;
+    entry->typeName = request.typeName;
+    entry->section = request.section;
+    entry->place = request.place;
+    entry->title = request.title;
+    entry->ownSettings = std::move(request.ownSettings);
+    entry->settings = entry->ownSettings ? entry->ownSettings.get() : request.settings;
+    OpenView& view = *entry;
+    if (!request.size.isValid()) {
+        const OpenView* neighbour = active();
+        view.dock = frame.docks().add(view.place, neighbour != nullptr ? neighbour->dock : nullptr);
+        watchBar(view);
+    }
+    openViews.push_back(std::move(entry));
+    if (const Done started = start(view, request.linkGroup, request.size); !started) {
+        close(view.number);
+        return Error{started.error()};
+    }
+    activate(view);
+    return &view;
+}
+
+Done Workspace::start(OpenView& open, unsigned char group, const QSize& size) {
+    QWidget* parent = open.dock != nullptr ? static_cast<QWidget*>(open.dock) : &frame.desk();
+    auto* view = module.CreateView(viewClass, parent);
     auto* access = dynamic_cast<NewsViewAccess*>(view);
     if (access == nullptr) {
         delete view;
         return Error{u"The news module cannot make a view of the class %1."_s.arg(viewClass)};
     }
-    auto opened = std::make_unique<OpenView>();
-    opened->number = ++lastNumber;
-    opened->view = view;
-    opened->access = access;
-    opened->section = request.section;
-    opened->ownSettings = std::move(request.ownSettings);
-    opened->settings = opened->ownSettings ? opened->ownSettings.get() : request.settings;
-    desk.place(view, request.size);
-    view->vSetFrameId(opened->number);
+    open.view = view;
+    open.access = access;
+    if (open.dock == nullptr)
+        frame.desk().place(view, size);
+    else
+        view->resize(open.dock->widget() != nullptr ? open.dock->widget()->size() : startSize);
+    view->vSetFrameId(open.number);
+    view->vSetLinkGroup(group);
     view->OnInitialUpdate();
-    view->vSetTypeName(request.typeName);
-    access->vSetNewsType(request.newsType);
-    view->InitialViewInfo(opened->settings, opened->section, frameNumber, placeNumber, viewClass);
-    openViews.push_back(std::move(opened));
+    view->vSetTypeName(open.typeName);
+    access->vSetNewsType(open.newsType);
+    view->InitialViewInfo(open.settings, open.section, frameNumber, open.place, viewClass);
+    if (open.dock != nullptr)
+        open.dock->setWidget(view);
     view->show();
-    emit arranged();
-    return openViews.back().get();
+    if (const auto* strip = qobject_cast<CXTPTabControl*>(GetDlgItem(view, tabStrip)))
+        connect(strip, &QTabBar::currentChanged, this, &Workspace::refreshTitles, Qt::QueuedConnection);
+    showDeskWhereNeeded();
+    emit opened(&open);
+    refreshTitles();
+    return Nothing{};
+}
+
+void Workspace::watchBar(OpenView& view) {
+    const int number = view.number;
+    connect(view.dock, &ViewDock::groupChosen, this, [this, number](unsigned char group) {
+        if (OpenView* chosen = find(number))
+            link(*chosen, group);
+    });
+    connect(view.dock, &ViewDock::renameAsked, this, [this, number] { emit renameAsked(number); });
+    connect(view.dock, &ViewDock::closeAsked, this, [this, number] { emit closeAsked(number); });
+    connect(view.dock, &ViewDock::pressed, this, [this, number] {
+        if (const OpenView* pressed = find(number))
+            activate(*pressed);
+    });
 }
 
 void Workspace::close(int number) {
@@ -57,17 +158,114 @@ void Workspace::close(int number) {
     // The view may still read its settings while it goes.
     const std::unique_ptr<OpenView> closing = std::move(*position);
     openViews.erase(position);
+    if (activeNumber == number)
+        activeNumber = 0;
     delete closing->view;
+    if (closing->dock != nullptr)
+        frame.docks().remove(closing->dock);
+    showDeskWhereNeeded();
+    if (const OpenView* next = active())
+        activate(*next);
+    refreshTitles();
+}
+
+Done Workspace::reopen(OpenView& open) {
+    const unsigned char group = open.view->GetLinkGroup();
+    const QSize size = open.dock == nullptr ? open.view->size() : QSize();
+    const QPointer<QWidget> old = open.view;
+    const Done started = start(open, group, size);
+    if (!started)
+        close(open.number);
+    else
+        delete old;
+    return started;
+}
+
+void Workspace::save(const OpenView& view, int place) {
+    view.view->SaveViewInfo(view.settings, view.section, frameNumber, place);
+}
+
+bool Workspace::resize(const OpenView& view, const QSize& size) {
+    if (view.dock != nullptr)
+        return false;
+    frame.desk().place(view.view, size);
+    emit arranged();
+    return true;
+}
+
+void Workspace::rename(OpenView& view, const QString& title) {
+    view.title = title.simplified();
+    refreshTitles();
+}
+
+void Workspace::link(OpenView& view, unsigned char group) {
+    view.view->vSetLinkGroup(group);
+    emit linked(&view);
+    refreshTitles();
+}
+
+void Workspace::activate(const OpenView& view) {
+    if (view.dock != nullptr) {
+        view.dock->show();
+        view.dock->raise();
+    }
+    QWidget* target = keyboardTarget(view);
+    if (!view.view->isAncestorOf(QApplication::focusWidget()))
+        target->setFocus();
+    follow(target);
+}
+
+void Workspace::follow(const QWidget* focus) {
+    for (const auto& open : openViews) {
+        const bool inside = focus != nullptr && (focus == open->view || open->view->isAncestorOf(focus) ||
+                                                 (open->dock != nullptr && open->dock->isAncestorOf(focus)));
+        if (inside && open->number != activeNumber) {
+            activeNumber = open->number;
+            refreshTitles();
+            return;
+        }
+    }
+}
+
+void Workspace::activateNext(int step) {
+    const std::vector<OpenView*> all = docked();
+    const auto at = std::find(all.begin(), all.end(), active());
+    if (all.empty())
+        return;
+    const auto count = static_cast<std::ptrdiff_t>(all.size());
+    const std::ptrdiff_t position = at == all.end() ? 0 : at - all.begin() + step;
+    activate(*all[static_cast<std::size_t>((position + count) % count)]);
+}
+
+void Workspace::arrange(Arrangement arrangement) {
+    const OpenView* top = active();
+    frame.docks().arrange(arrangement, top != nullptr ? top->dock : nullptr);
+    if (top != nullptr)
+        activate(*top);
     emit arranged();
 }
 
-void Workspace::save(const OpenView& view) {
-    view.view->SaveViewInfo(view.settings, view.section, frameNumber, placeNumber);
+void Workspace::showDeskWhereNeeded() {
+    const bool pinned = std::any_of(openViews.begin(), openViews.end(),
+                                    [](const auto& open) { return open->dock == nullptr; });
+    frame.showDesk(pinned || frame.docks().all().isEmpty());
 }
 
-void Workspace::resize(const OpenView& view, const QSize& size) {
-    desk.place(view.view, size);
+void Workspace::refreshTitles() {
+    const OpenView* current = active();
+    for (const auto& open : openViews) {
+        if (open->dock == nullptr || open->view == nullptr)
+            continue;
+        open->dock->setTitle(open->shownTitle(), open->view->GetLinkGroup());
+        open->dock->setActive(open.get() == current);
+    }
     emit arranged();
+}
+
+void Workspace::retranslate() {
+    for (ViewDock* dock : frame.docks().all())
+        dock->retranslate();
+    refreshTitles();
 }
 
 OpenView* Workspace::find(int number) {
@@ -80,6 +278,20 @@ OpenView* Workspace::find(int number) {
 
 OpenView* Workspace::newest() {
     return openViews.empty() ? nullptr : openViews.back().get();
+}
+
+OpenView* Workspace::active() {
+    OpenView* found = find(activeNumber);
+    return found != nullptr ? found : newest();
+}
+
+std::vector<OpenView*> Workspace::docked() const {
+    std::vector<OpenView*> found;
+    for (const auto& open : openViews) {
+        if (open->dock != nullptr)
+            found.push_back(open.get());
+    }
+    return found;
 }
 
 }  // namespace wirepane

@@ -3,17 +3,26 @@
 #include "terminal/session/frame_commands.h"
 
 #include "terminal/frame/read_as_of_dialog.h"
+#include "terminal/frame/settings_dialog.h"
+#include "terminal/frame/symbol_box.h"
+#include "terminal/frame/view_dock.h"
 #include "terminal/session/session.h"
 #include "terminal/translations/terminal_text.h"
 
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPointer>
 
 namespace wirepane {
 
+namespace {
+constexpr int symbolNewsType = 2;
+}
+
 FrameCommands::FrameCommands(Session& terminal) : session(terminal) {
     MainFrame* frame = &session.frame();
-    connect(frame, &MainFrame::readAsOfChosen, this, &FrameCommands::readAsOf);
+    Workspace* workspace = &session.workspace();
+    connect(frame, &MainFrame::commanded, this, &FrameCommands::carryOut);
     connect(frame, &MainFrame::closing, this, &FrameCommands::save);
     connect(frame, &MainFrame::activationChanged, this,
             [this](int active) { session.setActive(active != 0); });
@@ -23,8 +32,88 @@ FrameCommands::FrameCommands(Session& terminal) : session(terminal) {
     });
     connect(frame, &MainFrame::languageChosen, this,
             [this](const QString& language) { session.setLanguage(language); });
-    connect(frame, &MainFrame::fontStepChosen, this,
-            [this](int step) { session.setFontSize(session.settings().fontSize() + step); });
+    connect(frame, &MainFrame::linkChosen, this, [workspace](unsigned char group) {
+        if (OpenView* view = workspace->active())
+            workspace->link(*view, group);
+    });
+    connect(frame, &MainFrame::viewChosen, this, [workspace](int number) {
+        if (const OpenView* view = workspace->find(number))
+            workspace->activate(*view);
+    });
+    connect(workspace, &Workspace::renameAsked, this, &FrameCommands::rename);
+    connect(workspace, &Workspace::closeAsked, workspace, &Workspace::close);
+}
+
+void FrameCommands::carryOut(FrameCommand command) {
+    switch (command) {
+        case FrameCommand::NewView:
+        case FrameCommand::NewSymbolView: {
+            const auto opened =
+                session.keeper().openNew(command == FrameCommand::NewSymbolView ? symbolNewsType : 0);
+            report(opened ? Done(Nothing{}) : Done(Error{opened.error()}));
+            break;
+        }
+        case FrameCommand::GoToSymbolBox:
+            session.frame().symbolBox().begin();
+            break;
+        case FrameCommand::ReadAsOf:
+            readAsOf();
+            break;
+        case FrameCommand::Settings:
+            changeSettings();
+            break;
+        case FrameCommand::FontLarger:
+            session.setFontSize(session.settings().fontSize() + 1);
+            break;
+        case FrameCommand::FontSmaller:
+            session.setFontSize(session.settings().fontSize() - 1);
+            break;
+        case FrameCommand::Quit:
+            session.frame().close();
+            break;
+        default:
+            carryOutOnView(command);
+    }
+}
+
+void FrameCommands::carryOutOnView(FrameCommand command) {
+    Workspace& workspace = session.workspace();
+    const OpenView* view = workspace.active();
+    if (view == nullptr || view->dock == nullptr)
+        return;
+    switch (command) {
+        case FrameCommand::DuplicateView: {
+            const auto opened = session.keeper().openLike(*view);
+            report(opened ? Done(Nothing{}) : Done(Error{opened.error()}));
+            break;
+        }
+        case FrameCommand::CloseView:
+            workspace.close(view->number);
+            break;
+        case FrameCommand::RenameView:
+            rename(view->number);
+            break;
+        case FrameCommand::FloatView:
+            view->dock->setFloating(!view->dock->isFloating());
+            break;
+        case FrameCommand::NextView:
+            workspace.activateNext(1);
+            break;
+        case FrameCommand::PreviousView:
+            workspace.activateNext(-1);
+            break;
+        case FrameCommand::ArrangeColumns:
+            workspace.arrange(Arrangement::Columns);
+            break;
+        case FrameCommand::ArrangeRows:
+            workspace.arrange(Arrangement::Rows);
+            break;
+        case FrameCommand::ArrangeTabs:
+            workspace.arrange(Arrangement::Tabs);
+            break;
+        default:
+            break;
+    }
 }
 
 void FrameCommands::readAsOf() {
@@ -34,19 +123,59 @@ void FrameCommands::readAsOf() {
         return;
     const std::int64_t moment = dialog->moment();
     delete dialog;
+    if (accepted)
+        report(session.readAsOf(moment));
+}
+
+void FrameCommands::changeSettings() {
+    TerminalSettings& settings = session.settings();
+    const TerminalChoices present{session.language(), settings.scheme(), settings.fontSize(),
+                                  settings.switches()};
+    const QPointer<SettingsDialog> dialog = new SettingsDialog(present, &session.frame());
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (dialog.isNull())
+        return;
+    const TerminalChoices chosen = dialog->choices();
+    delete dialog;
     if (!accepted)
         return;
-    if (const Done done = session.readAsOf(moment); !done)
-        warn(done.error());
+    if (chosen.scheme != present.scheme)
+        session.setScheme(chosen.scheme);
+    if (chosen.fontSize != present.fontSize)
+        session.setFontSize(chosen.fontSize);
+    if (chosen.language != present.language)
+        session.setLanguage(chosen.language);
+    if (chosen.switches != present.switches)
+        report(session.setSwitches(chosen.switches));
+}
+
+void FrameCommands::rename(int number) {
+    const OpenView* view = session.workspace().find(number);
+    if (view == nullptr)
+        return;
+    const QPointer<QInputDialog> dialog = new QInputDialog(&session.frame());
+    dialog->setWindowTitle(terminalText(TextId::RenameTitle));
+    dialog->setLabelText(terminalText(TextId::RenamePrompt));
+    dialog->setTextValue(view->title);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (dialog.isNull())
+        return;
+    const QString title = dialog->textValue();
+    delete dialog;
+    // It may have been closed meanwhile.
+    OpenView* named = session.workspace().find(number);
+    if (accepted && named != nullptr)
+        session.workspace().rename(*named, title);
 }
 
 void FrameCommands::save() {
-    if (const Done done = session.saveLayout(); !done)
-        warn(done.error());
+    report(session.keeper().save());
 }
 
-void FrameCommands::warn(const QString& sentence) {
-    auto* box = new QMessageBox(QMessageBox::Warning, terminalText(TextId::AppTitle), sentence,
+void FrameCommands::report(const Done& done) {
+    if (done)
+        return;
+    auto* box = new QMessageBox(QMessageBox::Warning, terminalText(TextId::AppTitle), done.error(),
                                 QMessageBox::Ok, &session.frame());
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);

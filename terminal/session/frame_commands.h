@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/result.h"
+#include "terminal/frame/frame_command.h"
+
 #include <QObject>
 
 namespace wirepane {
 
 class Session;
 
-// What the main frame's menu commands do to the session.
+// What the main frame's menus and the bars of its views do to the session.
 class FrameCommands : public QObject {
     Q_OBJECT
 
@@ -17,9 +20,14 @@ public:
     explicit FrameCommands(Session& session);
 
 private:
+    void carryOut(FrameCommand command);
+    void carryOutOnView(FrameCommand command);
     void readAsOf();
+    void changeSettings();
+    void rename(int number);
     void save();
-    void warn(const QString& sentence);
+    // Tells what went wrong, if anything did.
+    void report(const Done& done);
 
     Session& session;
 };

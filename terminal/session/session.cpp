@@ -3,7 +3,7 @@
 #include "terminal/session/session.h"
 
 #include "host/contract/clock.h"
-#include "terminal/frame/view_desk.h"
+#include "terminal/frame/symbol_box.h"
 #include "terminal/session/module_location.h"
 #include "terminal/session/store_opening.h"
 #include "terminal/settings/module_files.h"
@@ -63,17 +63,43 @@ Done Session::start(const SessionOptions& options) {
     const auto module = loadModule();
     if (!module)
         return Error{module.error()};
-    mainFrame = std::make_unique<MainFrame>();
-    openViews = std::make_unique<Workspace>(*module.value(), mainFrame->desk());
-    look = std::make_unique<Appearance>(*terminalSettings, *openViews);
     const QString wanted = options.language.isEmpty() ? terminalSettings->language() : options.language;
     if (!useLanguage(wanted))
         useLanguage(Languages::ofSystem());
+    mainFrame = std::make_unique<MainFrame>();
+    openViews = std::make_unique<Workspace>(*module.value(), *mainFrame);
+    look = std::make_unique<Appearance>(*terminalSettings, *openViews);
+    linkGroups = std::make_unique<LinkGroups>(*openViews, *terminalSettings);
+    workspaceKeeper = std::make_unique<WorkspaceKeeper>(
+        WorkspaceKeeper::Parts{settingsFile, layout, *terminalSettings, *openViews, *linkGroups, *mainFrame,
+                               [this](ViewRequest request) { return openView(std::move(request)); }});
     look->apply();
-    connect(openViews.get(), &Workspace::arranged, this, &Session::showStatus);
-    connect(mainFrame.get(), &MainFrame::languageChanged, this, &Session::showStatus);
+    connectParts();
+    if (!settingsFile.message().isEmpty())
+        mainFrame->showNotice(settingsFile.message());
     showStatus();
+    showViews();
     return Nothing{};
+}
+
+void Session::connectParts() {
+    SymbolBox& box = mainFrame->symbolBox();
+    box.setSearch(
+        [this](const QString& text, std::size_t limit) { return store->symbols().search(text, limit); });
+    connect(&box, &SymbolBox::chosen, linkGroups.get(),
+            [this](unsigned char group, const SymbolItem& symbol) {
+                linkGroups->change(nullptr, group, symbol);
+            });
+    connect(linkGroups.get(), &LinkGroups::changed, &box,
+            [this, &box](unsigned char group, const SymbolItem& symbol) {
+                const SymbolItem* known = store->symbols().find(symbol.market, symbol.code);
+                box.showSymbol(group, known != nullptr ? *known : symbol);
+            });
+    connect(openViews.get(), &Workspace::arranged, this, &Session::showViews);
+    connect(mainFrame.get(), &MainFrame::languageChanged, this, [this] {
+        showStatus();
+        openViews->retranslate();
+    });
 }
 
 Done Session::prepareModuleFiles() {
@@ -90,43 +116,27 @@ Result<OpenView*> Session::openView(ViewRequest request) {
     return openViews->open(std::move(request));
 }
 
-Done Session::openUserView() {
-    ViewRequest request;
-    request.settings = &layout;
-    const auto opened = openView(std::move(request));
-    return opened ? Done(Nothing{}) : Done(Error{opened.error()});
-}
-
 Done Session::readAsOf(std::int64_t moment) {
     host_clock::startAt(moment);
     store->forgetNewsDays();
-    std::vector<int> numbers;
-    for (const auto& open : openViews->views()) {
-        if (open->settings == &layout)
-            numbers.push_back(open->number);
-    }
-    for (const int number : numbers) {
-        openViews->save(*openViews->find(number));
-        openViews->close(number);
-        if (const Done opened = openUserView(); !opened)
-            return opened;
-    }
     showStatus();
-    return Nothing{};
+    return reopenUserViews();
 }
 
-Done Session::saveLayout() {
-    for (const auto& open : openViews->views()) {
-        if (open->settings == &layout)
-            openViews->save(*open);
-    }
-    terminalSettings->setFrameGeometry(mainFrame->saveGeometry());
-    return settingsFile.save();
+Done Session::setSwitches(const SearchSwitches& switches) {
+    terminalSettings->setSwitches(switches);
+    return reopenUserViews();
+}
+
+Done Session::reopenUserViews() {
+    if (const Done prepared = prepareModuleFiles(); !prepared)
+        return prepared;
+    return workspaceKeeper->reopenAll();
 }
 
 void Session::setScheme(ColourScheme scheme) {
     look->setScheme(scheme);
-    showStatus();
+    showViews();
 }
 
 void Session::setFontSize(int points) {
@@ -138,7 +148,7 @@ bool Session::setLanguage(const QString& code) {
         return false;
     terminalSettings->setLanguage(code);
     look->apply();
-    showStatus();
+    showViews();
     return true;
 }
 
@@ -154,6 +164,8 @@ bool Session::useLanguage(const QString& code) {
 
 void Session::setConnected(bool connected) {
     const bool again = connected && store->bIsConnect() == 0;
+    if (!connected && store->bIsConnect() != 0)
+        offlineSince = QDateTime::fromSecsSinceEpoch(host_clock::now()).toString(u"HH:mm"_s);
     // Views register before they are told what they missed.
     for (const auto& open : openViews->views()) {
         if (again)
@@ -172,12 +184,24 @@ void Session::showStatus() {
     std::vector<unsigned char> services;
     store->BKQNEWS_bGetAllNewsService(services);
     mainFrame->showStatus(
-        {store->bIsConnect() != 0, storeFile, static_cast<int>(services.size()), asOfText()});
-    mainFrame->showChoices(schemeName(terminalSettings->scheme()), languages.current());
-    QString caption;
-    if (const OpenView* view = openViews->newest())
-        view->view->GetCaption(caption);
-    mainFrame->showCaption(caption);
+        {store->bIsConnect() != 0, offlineSince, storeFile, static_cast<int>(services.size()), asOfText()});
+}
+
+void Session::showViews() {
+    MenuState state;
+    state.scheme = schemeName(terminalSettings->scheme());
+    state.language = languages.current();
+    for (const OpenView* view : openViews->docked())
+        state.views.append({view->number, view->shownTitle()});
+    const OpenView* active = openViews->active();
+    if (active != nullptr && active->dock != nullptr)
+        state.activeView = active->number;
+    if (active != nullptr)
+        state.linkGroup = active->view->GetLinkGroup();
+    mainFrame->showChoices(state);
+    mainFrame->showCaption(active != nullptr ? active->shownTitle() : QString());
+    if (state.linkGroup != 0 && state.linkGroup != mainFrame->symbolBox().group())
+        mainFrame->symbolBox().showGroup(state.linkGroup);
 }
 
 }  // namespace wirepane

@@ -8,6 +8,8 @@
 #include "terminal/frame/workspace.h"
 #include "terminal/session/appearance.h"
 #include "terminal/session/category_display.h"
+#include "terminal/session/link_groups.h"
+#include "terminal/session/workspace_keeper.h"
 #include "terminal/settings/layout_store.h"
 #include "terminal/settings/settings_file.h"
 #include "terminal/settings/terminal_settings.h"
@@ -26,9 +28,9 @@ struct SessionOptions {
     bool sampleWhenNew = false;  // a store without headlines is filled with the sample wire
 };
 
-// One running terminal: the store behind its back end, the settings, the news module and the main frame, and
-// what menus and scripts do to all of them. It installs the back end and the settings for the process; there
-// is one session at a time.
+// One running terminal: the store behind its back end, the settings, the news module and the main frame with
+// its views, and what menus and scripts do to all of them. It installs the back end and the settings for the
+// process; there is one session at a time.
 class Session : public QObject {
     Q_OBJECT
 
@@ -42,17 +44,19 @@ public:
     Workspace& workspace() { return *openViews; }
     MainFrame& frame() { return *mainFrame; }
     Appearance& appearance() { return *look; }
+    LinkGroups& links() { return *linkGroups; }
+    WorkspaceKeeper& keeper() { return *workspaceKeeper; }
+    // The language in force.
+    const QString& language() const { return languages.current(); }
     // What was wrong with the settings file, in a sentence; empty when nothing was.
     const QString& settingsMessage() const { return settingsFile.message(); }
 
     // Opens a view, with the module's files as they must stand at this moment.
     Result<OpenView*> openView(ViewRequest request);
-    // Opens the user's view with the settings that the last one was closed with.
-    Done openUserView();
     // Takes this moment (seconds since 1970) as the present one, and opens the user's views anew.
     Done readAsOf(std::int64_t moment);
-    // Stores what the views that keep their settings in the layout store, and the frame, are set to.
-    Done saveLayout();
+    // Takes the search switches into force, for the user's views too.
+    Done setSwitches(const SearchSwitches& switches);
 
     void setScheme(ColourScheme scheme);
     void setFontSize(int points);
@@ -61,14 +65,18 @@ public:
     void setConnected(bool connected);
     // The application has become the active one, or is no longer.
     void setActive(bool active);
-    // Brings title and status bar up to date.
+    // Brings the status bar up to date.
     void showStatus();
+    // Brings menus, title and symbol box up to date with the views.
+    void showViews();
 
 private:
     explicit Session(const SessionOptions& options);
 
     Done start(const SessionOptions& options);
+    void connectParts();
     Done prepareModuleFiles();
+    Done reopenUserViews();
     bool useLanguage(const QString& code);
 
     QString configFolder;
@@ -83,6 +91,9 @@ private:
     std::unique_ptr<MainFrame> mainFrame;
     std::unique_ptr<Workspace> openViews;
     std::unique_ptr<Appearance> look;
+    std::unique_ptr<LinkGroups> linkGroups;
+    std::unique_ptr<WorkspaceKeeper> workspaceKeeper;
+    QString offlineSince;
 };
 
 }  // namespace wirepane

@@ -67,6 +67,10 @@ QVariant settingFromJson(const QJsonValue& value) {
     return texts;
 }
 
+void LayoutStore::forget(const QString& section, int place) {
+    file.removeGroups(groupOf({section, 0, place, {}}));
+}
+
 LayoutStore::LayoutStore(SettingsFile& settingsFile) : file(settingsFile) {}
 
 void LayoutStore::SetViewInfo(const ViewSettingPath& path, const QString& key, const QVariant& value) {

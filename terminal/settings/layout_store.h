@@ -21,6 +21,9 @@ public:
     // `file` is not owned and must outlive the store and the views that read it.
     explicit LayoutStore(SettingsFile& file);
 
+    // Drops all settings of the views of a place: the second of the two layout numbers, the first being 0.
+    void forget(const QString& section, int place);
+
     void SetViewInfo(const ViewSettingPath& path, const QString& key, const QVariant& value) override;
 
 protected:

@@ -89,23 +89,38 @@ QJsonValue SettingsFile::value(const QString& group, const QString& name) const 
 }
 
 void SettingsFile::setValue(const QString& group, const QString& name, const QJsonValue& value) {
-    if (!readable)
+    if (!readable || this->value(group, name) == value)
         return;
+    changed = true;
     if (value.isUndefined())
         settings->remove(fileKey(group, name));
     else
         settings->setValue(fileKey(group, name), encoded(value));
 }
 
+void SettingsFile::removeGroups(const QString& beginning) {
+    const QString start = escaped(beginning);
+    const QStringList groups = settings->childGroups();
+    for (const QString& group : groups) {
+        if (!readable || !group.startsWith(start))
+            continue;
+        settings->remove(group);
+        changed = true;
+    }
+}
+
 Done SettingsFile::save() {
     if (!readable)
         return Error{u"The settings are not saved: the file %1 could not be read."_s.arg(path)};
+    if (!changed)
+        return Nothing{};
     const QFileInfo info(path);
     if (!QDir().mkpath(info.absolutePath()))
         return Error{u"The settings are not saved: the folder %1 cannot be made."_s.arg(info.absolutePath())};
     settings->sync();
     if (settings->status() != QSettings::NoError)
         return Error{u"The settings are not saved: the file %1 cannot be written."_s.arg(path)};
+    changed = false;
     return Nothing{};
 }
 

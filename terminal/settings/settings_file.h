@@ -33,7 +33,9 @@ public:
     QJsonValue value(const QString& group, const QString& name) const;
     // Takes effect for value() at once and on disk with save(). Undefined removes the value.
     void setValue(const QString& group, const QString& name, const QJsonValue& value);
-    // Replaces the file as a whole or leaves it as it was.
+    // Removes all values of the groups whose names begin so.
+    void removeGroups(const QString& beginning);
+    // Replaces the file as a whole or leaves it as it was. Does nothing when nothing has changed since.
     Done save();
 
 private:
@@ -42,6 +44,7 @@ private:
     QString path;
     QString openingMessage;
     bool readable = true;
+    bool changed = false;
     std::unique_ptr<QSettings> settings;
 };
 

@@ -16,6 +16,8 @@ class SettingsFile;
 struct SearchSwitches {
     bool normalSearch = true;
     bool warningSearch = false;
+
+    bool operator==(const SearchSwitches&) const = default;
 };
 
 // The terminal's own settings, and what views read of them. Setters take effect for the next reader and are

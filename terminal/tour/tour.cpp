@@ -46,7 +46,7 @@ public:
             return Error{u"The folder %1 cannot be made."_s.arg(folder.absolutePath())};
         session.frame().resize(session.frame().sizeHint());
         session.frame().show();
-        if (const Done opened = session.openUserView(); !opened)
+        if (const Done opened = session.keeper().restore(); !opened)
             return opened;
         session.setScheme(ColourScheme::Light);
         if (const Done taken = picture(u"1-all-news-light.png"_s); !taken)

@@ -199,9 +199,37 @@
         <source></source>
         <translation>Wirepane</translation>
     </message>
+    <message id="TERMINAL_ARRANGE_COLUMNS">
+        <source></source>
+        <translation>&amp;Side by side</translation>
+    </message>
+    <message id="TERMINAL_ARRANGE_ROWS">
+        <source></source>
+        <translation>&amp;One above another</translation>
+    </message>
+    <message id="TERMINAL_ARRANGE_TABS">
+        <source></source>
+        <translation>As &amp;tabs</translation>
+    </message>
     <message id="TERMINAL_AS_OF">
         <source></source>
         <translation>As of %1</translation>
+    </message>
+    <message id="TERMINAL_CLOSE_BUTTON">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="TERMINAL_CLOSE_VIEW">
+        <source></source>
+        <translation>&amp;Close view</translation>
+    </message>
+    <message id="TERMINAL_DUPLICATE_VIEW">
+        <source></source>
+        <translation>&amp;Duplicate view</translation>
+    </message>
+    <message id="TERMINAL_EMPTY_DESK">
+        <source></source>
+        <translation>No view is open. Ctrl+N opens one.</translation>
     </message>
     <message id="TERMINAL_FEED_CONNECTED">
         <source></source>
@@ -211,6 +239,18 @@
         <source></source>
         <translation>Not connected</translation>
     </message>
+    <message id="TERMINAL_FEED_OFFLINE_SINCE">
+        <source></source>
+        <translation>Offline since %1</translation>
+    </message>
+    <message id="TERMINAL_FLOAT_BUTTON">
+        <source></source>
+        <translation>Float or dock</translation>
+    </message>
+    <message id="TERMINAL_FLOAT_VIEW">
+        <source></source>
+        <translation>&amp;Float or dock view</translation>
+    </message>
     <message id="TERMINAL_FONT_LARGER">
         <source></source>
         <translation>&amp;Larger Font</translation>
@@ -218,6 +258,10 @@
     <message id="TERMINAL_FONT_SMALLER">
         <source></source>
         <translation>&amp;Smaller Font</translation>
+    </message>
+    <message id="TERMINAL_GO_TO_SYMBOL">
+        <source></source>
+        <translation>Go to s&amp;ymbol…</translation>
     </message>
     <message id="TERMINAL_LANGUAGE_EN">
         <source></source>
@@ -231,6 +275,22 @@
         <source></source>
         <translation>繁體中文</translation>
     </message>
+    <message id="TERMINAL_LINK_GROUP">
+        <source></source>
+        <translation>Group &amp;%1</translation>
+    </message>
+    <message id="TERMINAL_LINK_HINT">
+        <source></source>
+        <translation>Views of one group follow one symbol</translation>
+    </message>
+    <message id="TERMINAL_LINK_NONE">
+        <source></source>
+        <translation>&amp;Not linked</translation>
+    </message>
+    <message id="TERMINAL_MENU_ARRANGE">
+        <source></source>
+        <translation>&amp;Arrange</translation>
+    </message>
     <message id="TERMINAL_MENU_FILE">
         <source></source>
         <translation>&amp;File</translation>
@@ -239,6 +299,10 @@
         <source></source>
         <translation>Lan&amp;guage</translation>
     </message>
+    <message id="TERMINAL_MENU_LINK">
+        <source></source>
+        <translation>&amp;Link group</translation>
+    </message>
     <message id="TERMINAL_MENU_SCHEME">
         <source></source>
         <translation>&amp;Colours</translation>
@@ -246,6 +310,26 @@
     <message id="TERMINAL_MENU_VIEW">
         <source></source>
         <translation>&amp;View</translation>
+    </message>
+    <message id="TERMINAL_MENU_VIEWS">
+        <source></source>
+        <translation>&amp;Window</translation>
+    </message>
+    <message id="TERMINAL_NEW_SYMBOL_VIEW">
+        <source></source>
+        <translation>New &amp;symbol view</translation>
+    </message>
+    <message id="TERMINAL_NEW_VIEW">
+        <source></source>
+        <translation>&amp;New view</translation>
+    </message>
+    <message id="TERMINAL_NEXT_VIEW">
+        <source></source>
+        <translation>Ne&amp;xt view</translation>
+    </message>
+    <message id="TERMINAL_PREVIOUS_VIEW">
+        <source></source>
+        <translation>&amp;Previous view</translation>
     </message>
     <message id="TERMINAL_QUIT">
         <source></source>
@@ -267,6 +351,18 @@
         <source></source>
         <translation>Read As Of</translation>
     </message>
+    <message id="TERMINAL_RENAME_PROMPT">
+        <source></source>
+        <translation>Title (empty: what the view shows)</translation>
+    </message>
+    <message id="TERMINAL_RENAME_TITLE">
+        <source></source>
+        <translation>Rename view</translation>
+    </message>
+    <message id="TERMINAL_RENAME_VIEW">
+        <source></source>
+        <translation>&amp;Rename view…</translation>
+    </message>
     <message id="TERMINAL_SCHEME_DARK">
         <source></source>
         <translation>&amp;Dark</translation>
@@ -278,6 +374,78 @@
     <message id="TERMINAL_SERVICES_COUNT">
         <source></source>
         <translation>Services: %1</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS">
+        <source></source>
+        <translation>&amp;Settings…</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_BOTH_SEARCHES">
+        <source></source>
+        <translation>With both on, the lists of all news and of keyword sets no longer fill by themselves and take no live news. Leave one of them off unless you search only.</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_FONT">
+        <source></source>
+        <translation>&amp;Font size</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_GENERAL">
+        <source></source>
+        <translation>&amp;General</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_LANGUAGE">
+        <source></source>
+        <translation>&amp;Language</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_NEWS">
+        <source></source>
+        <translation>&amp;News</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_NORMAL_SEARCH">
+        <source></source>
+        <translation>&amp;Keyword sets</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_NORMAL_SEARCH_HELP">
+        <source></source>
+        <translation>Adds a tab with the news of the day that fit your keyword sets.</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_POINTS">
+        <source></source>
+        <translation> pt</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_REOPEN">
+        <source></source>
+        <translation>A change opens your views anew.</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_SCHEME">
+        <source></source>
+        <translation>&amp;Colours</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_TITLE">
+        <source></source>
+        <translation>Settings</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_WARNING_SEARCH">
+        <source></source>
+        <translation>&amp;Warning terms</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_WARNING_SEARCH_HELP">
+        <source></source>
+        <translation>Adds a tab with the news that contain your warning terms.</translation>
+    </message>
+    <message id="TERMINAL_SYMBOL_BAR">
+        <source></source>
+        <translation>Symbol</translation>
+    </message>
+    <message id="TERMINAL_SYMBOL_PROMPT">
+        <source></source>
+        <translation>Code or name</translation>
+    </message>
+    <message id="TERMINAL_SYMBOL_UNKNOWN">
+        <source></source>
+        <translation>No such symbol</translation>
+    </message>
+    <message id="TERMINAL_VIEW_FAILED">
+        <source></source>
+        <translation>A view could not be restored: %1</translation>
     </message>
 </context>
 </TS>

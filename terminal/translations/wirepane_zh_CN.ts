@@ -199,9 +199,37 @@
         <source></source>
         <translation>Wirepane</translation>
     </message>
+    <message id="TERMINAL_ARRANGE_COLUMNS">
+        <source></source>
+        <translation>并排(&amp;S)</translation>
+    </message>
+    <message id="TERMINAL_ARRANGE_ROWS">
+        <source></source>
+        <translation>上下排列(&amp;O)</translation>
+    </message>
+    <message id="TERMINAL_ARRANGE_TABS">
+        <source></source>
+        <translation>标签页(&amp;T)</translation>
+    </message>
     <message id="TERMINAL_AS_OF">
         <source></source>
         <translation>时点 %1</translation>
+    </message>
+    <message id="TERMINAL_CLOSE_BUTTON">
+        <source></source>
+        <translation>关闭</translation>
+    </message>
+    <message id="TERMINAL_CLOSE_VIEW">
+        <source></source>
+        <translation>关闭窗口(&amp;C)</translation>
+    </message>
+    <message id="TERMINAL_DUPLICATE_VIEW">
+        <source></source>
+        <translation>复制窗口(&amp;D)</translation>
+    </message>
+    <message id="TERMINAL_EMPTY_DESK">
+        <source></source>
+        <translation>没有打开的窗口。按 Ctrl+N 新建。</translation>
     </message>
     <message id="TERMINAL_FEED_CONNECTED">
         <source></source>
@@ -211,6 +239,18 @@
         <source></source>
         <translation>未连接</translation>
     </message>
+    <message id="TERMINAL_FEED_OFFLINE_SINCE">
+        <source></source>
+        <translation>离线（自 %1）</translation>
+    </message>
+    <message id="TERMINAL_FLOAT_BUTTON">
+        <source></source>
+        <translation>浮动／停靠</translation>
+    </message>
+    <message id="TERMINAL_FLOAT_VIEW">
+        <source></source>
+        <translation>浮动／停靠(&amp;F)</translation>
+    </message>
     <message id="TERMINAL_FONT_LARGER">
         <source></source>
         <translation>放大字体(&amp;L)</translation>
@@ -218,6 +258,10 @@
     <message id="TERMINAL_FONT_SMALLER">
         <source></source>
         <translation>缩小字体(&amp;S)</translation>
+    </message>
+    <message id="TERMINAL_GO_TO_SYMBOL">
+        <source></source>
+        <translation>输入代码(&amp;Y)…</translation>
     </message>
     <message id="TERMINAL_LANGUAGE_EN">
         <source></source>
@@ -231,6 +275,22 @@
         <source></source>
         <translation>繁體中文</translation>
     </message>
+    <message id="TERMINAL_LINK_GROUP">
+        <source></source>
+        <translation>组 &amp;%1</translation>
+    </message>
+    <message id="TERMINAL_LINK_HINT">
+        <source></source>
+        <translation>同组窗口跟随同一代码</translation>
+    </message>
+    <message id="TERMINAL_LINK_NONE">
+        <source></source>
+        <translation>不联动(&amp;N)</translation>
+    </message>
+    <message id="TERMINAL_MENU_ARRANGE">
+        <source></source>
+        <translation>排列(&amp;A)</translation>
+    </message>
     <message id="TERMINAL_MENU_FILE">
         <source></source>
         <translation>文件(&amp;F)</translation>
@@ -239,6 +299,10 @@
         <source></source>
         <translation>语言(&amp;G)</translation>
     </message>
+    <message id="TERMINAL_MENU_LINK">
+        <source></source>
+        <translation>联动组(&amp;K)</translation>
+    </message>
     <message id="TERMINAL_MENU_SCHEME">
         <source></source>
         <translation>配色(&amp;C)</translation>
@@ -246,6 +310,26 @@
     <message id="TERMINAL_MENU_VIEW">
         <source></source>
         <translation>查看(&amp;V)</translation>
+    </message>
+    <message id="TERMINAL_MENU_VIEWS">
+        <source></source>
+        <translation>窗口(&amp;W)</translation>
+    </message>
+    <message id="TERMINAL_NEW_SYMBOL_VIEW">
+        <source></source>
+        <translation>新建个股新闻窗口(&amp;S)</translation>
+    </message>
+    <message id="TERMINAL_NEW_VIEW">
+        <source></source>
+        <translation>新建窗口(&amp;N)</translation>
+    </message>
+    <message id="TERMINAL_NEXT_VIEW">
+        <source></source>
+        <translation>下一个窗口(&amp;X)</translation>
+    </message>
+    <message id="TERMINAL_PREVIOUS_VIEW">
+        <source></source>
+        <translation>上一个窗口(&amp;P)</translation>
     </message>
     <message id="TERMINAL_QUIT">
         <source></source>
@@ -267,6 +351,18 @@
         <source></source>
         <translation>指定时点阅读</translation>
     </message>
+    <message id="TERMINAL_RENAME_PROMPT">
+        <source></source>
+        <translation>标题（空白：按窗口内容）</translation>
+    </message>
+    <message id="TERMINAL_RENAME_TITLE">
+        <source></source>
+        <translation>重命名窗口</translation>
+    </message>
+    <message id="TERMINAL_RENAME_VIEW">
+        <source></source>
+        <translation>重命名(&amp;R)…</translation>
+    </message>
     <message id="TERMINAL_SCHEME_DARK">
         <source></source>
         <translation>深色(&amp;D)</translation>
@@ -278,6 +374,78 @@
     <message id="TERMINAL_SERVICES_COUNT">
         <source></source>
         <translation>新闻来源：%1</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS">
+        <source></source>
+        <translation>设置(&amp;S)…</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_BOTH_SEARCHES">
+        <source></source>
+        <translation>两者同时开启时，全部新闻与关键词组列表不会自动载入，也不接收实时新闻。若非仅用于搜索，请关闭其中之一。</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_FONT">
+        <source></source>
+        <translation>字体大小(&amp;F)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_GENERAL">
+        <source></source>
+        <translation>常规(&amp;G)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_LANGUAGE">
+        <source></source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_NEWS">
+        <source></source>
+        <translation>新闻(&amp;N)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_NORMAL_SEARCH">
+        <source></source>
+        <translation>关键词组(&amp;K)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_NORMAL_SEARCH_HELP">
+        <source></source>
+        <translation>增加标签页，列出符合关键词组的当日新闻。</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_POINTS">
+        <source></source>
+        <translation> 磅</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_REOPEN">
+        <source></source>
+        <translation>更改后将重新打开您的窗口。</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_SCHEME">
+        <source></source>
+        <translation>配色(&amp;C)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_TITLE">
+        <source></source>
+        <translation>设置</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_WARNING_SEARCH">
+        <source></source>
+        <translation>预警词(&amp;W)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_WARNING_SEARCH_HELP">
+        <source></source>
+        <translation>增加标签页，列出含有预警词的新闻。</translation>
+    </message>
+    <message id="TERMINAL_SYMBOL_BAR">
+        <source></source>
+        <translation>代码</translation>
+    </message>
+    <message id="TERMINAL_SYMBOL_PROMPT">
+        <source></source>
+        <translation>代码或名称</translation>
+    </message>
+    <message id="TERMINAL_SYMBOL_UNKNOWN">
+        <source></source>
+        <translation>无此代码</translation>
+    </message>
+    <message id="TERMINAL_VIEW_FAILED">
+        <source></source>
+        <translation>有窗口无法恢复：%1</translation>
     </message>
 </context>
 </TS>

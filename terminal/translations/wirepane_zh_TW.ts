@@ -199,9 +199,37 @@
         <source></source>
         <translation>Wirepane</translation>
     </message>
+    <message id="TERMINAL_ARRANGE_COLUMNS">
+        <source></source>
+        <translation>並排(&amp;S)</translation>
+    </message>
+    <message id="TERMINAL_ARRANGE_ROWS">
+        <source></source>
+        <translation>上下排列(&amp;O)</translation>
+    </message>
+    <message id="TERMINAL_ARRANGE_TABS">
+        <source></source>
+        <translation>分頁(&amp;T)</translation>
+    </message>
     <message id="TERMINAL_AS_OF">
         <source></source>
         <translation>時點 %1</translation>
+    </message>
+    <message id="TERMINAL_CLOSE_BUTTON">
+        <source></source>
+        <translation>關閉</translation>
+    </message>
+    <message id="TERMINAL_CLOSE_VIEW">
+        <source></source>
+        <translation>關閉視窗(&amp;C)</translation>
+    </message>
+    <message id="TERMINAL_DUPLICATE_VIEW">
+        <source></source>
+        <translation>複製視窗(&amp;D)</translation>
+    </message>
+    <message id="TERMINAL_EMPTY_DESK">
+        <source></source>
+        <translation>沒有開啟的視窗。按 Ctrl+N 新增。</translation>
     </message>
     <message id="TERMINAL_FEED_CONNECTED">
         <source></source>
@@ -211,6 +239,18 @@
         <source></source>
         <translation>未連線</translation>
     </message>
+    <message id="TERMINAL_FEED_OFFLINE_SINCE">
+        <source></source>
+        <translation>離線（自 %1）</translation>
+    </message>
+    <message id="TERMINAL_FLOAT_BUTTON">
+        <source></source>
+        <translation>浮動／停靠</translation>
+    </message>
+    <message id="TERMINAL_FLOAT_VIEW">
+        <source></source>
+        <translation>浮動／停靠(&amp;F)</translation>
+    </message>
     <message id="TERMINAL_FONT_LARGER">
         <source></source>
         <translation>放大字型(&amp;L)</translation>
@@ -218,6 +258,10 @@
     <message id="TERMINAL_FONT_SMALLER">
         <source></source>
         <translation>縮小字型(&amp;S)</translation>
+    </message>
+    <message id="TERMINAL_GO_TO_SYMBOL">
+        <source></source>
+        <translation>輸入商品(&amp;Y)…</translation>
     </message>
     <message id="TERMINAL_LANGUAGE_EN">
         <source></source>
@@ -231,6 +275,22 @@
         <source></source>
         <translation>繁體中文</translation>
     </message>
+    <message id="TERMINAL_LINK_GROUP">
+        <source></source>
+        <translation>群組 &amp;%1</translation>
+    </message>
+    <message id="TERMINAL_LINK_HINT">
+        <source></source>
+        <translation>同一群組的視窗跟隨同一商品</translation>
+    </message>
+    <message id="TERMINAL_LINK_NONE">
+        <source></source>
+        <translation>不連動(&amp;N)</translation>
+    </message>
+    <message id="TERMINAL_MENU_ARRANGE">
+        <source></source>
+        <translation>排列(&amp;A)</translation>
+    </message>
     <message id="TERMINAL_MENU_FILE">
         <source></source>
         <translation>檔案(&amp;F)</translation>
@@ -239,6 +299,10 @@
         <source></source>
         <translation>語言(&amp;G)</translation>
     </message>
+    <message id="TERMINAL_MENU_LINK">
+        <source></source>
+        <translation>連動群組(&amp;K)</translation>
+    </message>
     <message id="TERMINAL_MENU_SCHEME">
         <source></source>
         <translation>配色(&amp;C)</translation>
@@ -246,6 +310,26 @@
     <message id="TERMINAL_MENU_VIEW">
         <source></source>
         <translation>檢視(&amp;V)</translation>
+    </message>
+    <message id="TERMINAL_MENU_VIEWS">
+        <source></source>
+        <translation>視窗(&amp;W)</translation>
+    </message>
+    <message id="TERMINAL_NEW_SYMBOL_VIEW">
+        <source></source>
+        <translation>新增個股新聞視窗(&amp;S)</translation>
+    </message>
+    <message id="TERMINAL_NEW_VIEW">
+        <source></source>
+        <translation>新增視窗(&amp;N)</translation>
+    </message>
+    <message id="TERMINAL_NEXT_VIEW">
+        <source></source>
+        <translation>下一個視窗(&amp;X)</translation>
+    </message>
+    <message id="TERMINAL_PREVIOUS_VIEW">
+        <source></source>
+        <translation>上一個視窗(&amp;P)</translation>
     </message>
     <message id="TERMINAL_QUIT">
         <source></source>
@@ -267,6 +351,18 @@
         <source></source>
         <translation>指定時點閱讀</translation>
     </message>
+    <message id="TERMINAL_RENAME_PROMPT">
+        <source></source>
+        <translation>標題（空白：依視窗內容）</translation>
+    </message>
+    <message id="TERMINAL_RENAME_TITLE">
+        <source></source>
+        <translation>重新命名視窗</translation>
+    </message>
+    <message id="TERMINAL_RENAME_VIEW">
+        <source></source>
+        <translation>重新命名(&amp;R)…</translation>
+    </message>
     <message id="TERMINAL_SCHEME_DARK">
         <source></source>
         <translation>深色(&amp;D)</translation>
@@ -278,6 +374,78 @@
     <message id="TERMINAL_SERVICES_COUNT">
         <source></source>
         <translation>新聞來源：%1</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS">
+        <source></source>
+        <translation>設定(&amp;S)…</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_BOTH_SEARCHES">
+        <source></source>
+        <translation>兩者同時開啟時，全部新聞與關鍵字組清單不會自動載入，也不接收即時新聞。若非僅用於搜尋，請關閉其中之一。</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_FONT">
+        <source></source>
+        <translation>字型大小(&amp;F)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_GENERAL">
+        <source></source>
+        <translation>一般(&amp;G)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_LANGUAGE">
+        <source></source>
+        <translation>語言(&amp;L)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_NEWS">
+        <source></source>
+        <translation>新聞(&amp;N)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_NORMAL_SEARCH">
+        <source></source>
+        <translation>關鍵字組(&amp;K)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_NORMAL_SEARCH_HELP">
+        <source></source>
+        <translation>新增分頁，列出符合關鍵字組的當日新聞。</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_POINTS">
+        <source></source>
+        <translation> 點</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_REOPEN">
+        <source></source>
+        <translation>變更後會重新開啟您的視窗。</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_SCHEME">
+        <source></source>
+        <translation>配色(&amp;C)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_TITLE">
+        <source></source>
+        <translation>設定</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_WARNING_SEARCH">
+        <source></source>
+        <translation>警示詞(&amp;W)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_WARNING_SEARCH_HELP">
+        <source></source>
+        <translation>新增分頁，列出含有警示詞的新聞。</translation>
+    </message>
+    <message id="TERMINAL_SYMBOL_BAR">
+        <source></source>
+        <translation>商品</translation>
+    </message>
+    <message id="TERMINAL_SYMBOL_PROMPT">
+        <source></source>
+        <translation>代碼或名稱</translation>
+    </message>
+    <message id="TERMINAL_SYMBOL_UNKNOWN">
+        <source></source>
+        <translation>查無此商品</translation>
+    </message>
+    <message id="TERMINAL_VIEW_FAILED">
+        <source></source>
+        <translation>有視窗無法還原：%1</translation>
     </message>
 </context>
 </TS>

@@ -34,7 +34,7 @@ protected:
         if (!session)
             return nullptr;
         session.value()->frame().show();
-        const Done opened = session.value()->openUserView();
+        const Done opened = session.value()->keeper().restore();
         EXPECT_TRUE(opened) << (opened ? "" : opened.error().toStdString());
         return std::move(session.value());
     }
@@ -53,7 +53,7 @@ TEST_F(UserTerminalTest, OpensAsItWasClosed) {
         ASSERT_NE(tabs, nullptr);
         clickTab(*tabs, 1);
         emit session->frame().schemeChosen(u"dark"_s);
-        emit session->frame().fontStepChosen(1);
+        emit session->frame().commanded(FrameCommand::FontLarger);
         session->frame().close();
     }
     const auto session = open();

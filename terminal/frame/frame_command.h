@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace wirepane {
+
+// What the menus of the main frame can be told to do, beside the choices that carry a value.
+enum class FrameCommand {
+    NewView,
+    NewSymbolView,
+    DuplicateView,
+    CloseView,
+    RenameView,
+    FloatView,
+    NextView,
+    PreviousView,
+    ArrangeColumns,
+    ArrangeRows,
+    ArrangeTabs,
+    GoToSymbolBox,
+    ReadAsOf,
+    Settings,
+    FontLarger,
+    FontSmaller,
+    Quit,
+};
+
+}  // namespace wirepane

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/frame/settings_dialog.h"
+
+#include "terminal/translations/terminal_text.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QSpinBox>
+#include <QStyle>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int widthInCharacters = 64;
+
+QLabel* explanation(const QString& text) {
+    auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+// An explanation that stands under a check box, where its text begins.
+QLayout* indented(QLabel* label) {
+    auto* row = new QHBoxLayout;
+    row->addSpacing(label->style()->pixelMetric(QStyle::PM_IndicatorWidth) + 6);
+    row->addWidget(label, 1);
+    return row;
+}
+
+QString withoutMnemonic(QString text) {
+    static const QString trailing = u"(&"_s;  // "深色(&D)"
+    const qsizetype at = text.indexOf(trailing);
+    return at >= 0 ? text.left(at) : text.remove(u'&');
+}
+
+}  // namespace
+
+SettingsDialog::SettingsDialog(const TerminalChoices& present, QWidget* parent) : QDialog(parent) {
+    setWindowTitle(terminalText(TextId::SettingsTitle));
+    auto* pages = new QTabWidget;
+    pages->addTab(generalPage(present), terminalText(TextId::SettingsGeneral));
+    pages->addTab(newsPage(present), terminalText(TextId::SettingsNews));
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(pages);
+    column->addWidget(buttons);
+    setMinimumWidth(fontMetrics().averageCharWidth() * widthInCharacters);
+    language->setFocus();
+}
+
+QWidget* SettingsDialog::generalPage(const TerminalChoices& present) {
+    auto* page = new QWidget;
+    language = new QComboBox;
+    language->addItem(terminalText(TextId::LanguageEnglish), u"en"_s);
+    language->addItem(terminalText(TextId::LanguageTraditionalChinese), u"zh-TW"_s);
+    language->addItem(terminalText(TextId::LanguageSimplifiedChinese), u"zh-CN"_s);
+    language->setCurrentIndex(language->findData(present.language));
+    scheme = new QComboBox;
+    for (const auto& [text, value] : {std::pair(TextId::SchemeLight, ColourScheme::Light),
+                                      std::pair(TextId::SchemeDark, ColourScheme::Dark)})
+        scheme->addItem(withoutMnemonic(terminalText(text)), static_cast<int>(value));
+    scheme->setCurrentIndex(scheme->findData(static_cast<int>(present.scheme)));
+    fontSize = new QSpinBox;
+    fontSize->setRange(TerminalSettings::smallestFont, TerminalSettings::largestFont);
+    fontSize->setValue(present.fontSize);
+    fontSize->setSuffix(terminalText(TextId::SettingsPoints));
+    auto* form = new QFormLayout(page);
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    form->setLabelAlignment(Qt::AlignLeft);
+    form->setContentsMargins(16, 16, 16, 16);
+    form->setVerticalSpacing(10);
+    form->addRow(terminalText(TextId::SettingsLanguage), language);
+    form->addRow(terminalText(TextId::SettingsScheme), scheme);
+    form->addRow(terminalText(TextId::SettingsFont), fontSize);
+    return page;
+}
+
+QWidget* SettingsDialog::newsPage(const TerminalChoices& present) {
+    auto* page = new QWidget;
+    normalSearch = new QCheckBox(terminalText(TextId::SettingsNormalSearch));
+    normalSearch->setChecked(present.switches.normalSearch);
+    warningSearch = new QCheckBox(terminalText(TextId::SettingsWarningSearch));
+    warningSearch->setChecked(present.switches.warningSearch);
+    bothWarning = explanation(terminalText(TextId::SettingsBothSearches));
+    QFont bold = bothWarning->font();
+    bold.setBold(true);
+    bothWarning->setFont(bold);
+    // Its room is kept, so that the page does not move under the pointer.
+    QSizePolicy policy = bothWarning->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    bothWarning->setSizePolicy(policy);
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->addWidget(normalSearch);
+    column->addLayout(indented(explanation(terminalText(TextId::SettingsNormalSearchHelp))));
+    column->addSpacing(8);
+    column->addWidget(warningSearch);
+    column->addLayout(indented(explanation(terminalText(TextId::SettingsWarningSearchHelp))));
+    column->addSpacing(8);
+    column->addWidget(bothWarning);
+    column->addWidget(explanation(terminalText(TextId::SettingsReopen)));
+    column->addStretch(1);
+    connect(normalSearch, &QCheckBox::toggled, this, &SettingsDialog::showWarning);
+    connect(warningSearch, &QCheckBox::toggled, this, &SettingsDialog::showWarning);
+    showWarning();
+    return page;
+}
+
+void SettingsDialog::showWarning() {
+    bothWarning->setVisible(normalSearch->isChecked() && warningSearch->isChecked());
+}
+
+TerminalChoices SettingsDialog::choices() const {
+    return {language->currentData().toString(),
+            static_cast<ColourScheme>(scheme->currentData().toInt()),
+            fontSize->value(),
+            {normalSearch->isChecked(), warningSearch->isChecked()}};
+}
+
+}  // namespace wirepane
