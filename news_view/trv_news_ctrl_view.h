@@ -203,6 +203,7 @@ private:
     bool bInitialSymbolInfo();
     void vSetNotSupported();
     void vHideSymbolMode();
+    void vHideSymbolControls();
     void vSetSupported();
     void vDoNormalChangeSymbol(unsigned char service, const QString& code);
     void vOnChangeServiceCombobox(unsigned char service);

@@ -106,8 +106,12 @@ void TRVNewsCtrlView::ShowHideCtrObject(int mode) {
         if (CSuperSheetWnd* sheet = Sheet(list))
             sheet->setVisible(list == mode);
     }
-    if (mode == symbolMode && GetDataState() == DataState::NotSupported)
+    if (mode != symbolMode)
+        return;
+    if (GetDataState() == DataState::NotSupported)
         vHideSymbolMode();
+    else if (Sheet(0) == nullptr)
+        vHideSymbolControls();
 }
 
 void TRVNewsCtrlView::SetStoryShowType(unsigned short type) {

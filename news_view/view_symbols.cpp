@@ -51,12 +51,17 @@ void TRVNewsCtrlView::vSetNotSupported() {
 
 // The grid and the controls of the symbol mode make room for the notice that there is nothing to show.
 void TRVNewsCtrlView::vHideSymbolMode() {
+    vHideSymbolControls();
+    if (CSuperSheetWnd* sheet = Sheet(symbolMode))
+        sheet->hide();
+}
+
+// Without a list of all news the grid of symbol news stands where its controls would.
+void TRVNewsCtrlView::vHideSymbolControls() {
     for (const int id : {ids::serviceButton, ids::serviceCombo, ids::symbolCombo}) {
         if (QWidget* control = GetDlgItem(this, id))
             control->hide();
     }
-    if (CSuperSheetWnd* sheet = Sheet(symbolMode))
-        sheet->hide();
 }
 
 void TRVNewsCtrlView::vSetSupported() {

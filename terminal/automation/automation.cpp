@@ -16,6 +16,8 @@ Automation::Automation(Session& session)
       stories(session),
       feed(session),
       host(session),
+      links(session),
+      menus(session),
       app(session),
       queue(table) {
     views.addTo(table);
@@ -25,6 +27,8 @@ Automation::Automation(Session& session)
     stories.addTo(table);
     feed.addTo(table);
     host.addTo(table);
+    links.addTo(table);
+    menus.addTo(table);
     app.addTo(table);
 }
 

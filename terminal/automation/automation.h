@@ -8,6 +8,8 @@
 #include "terminal/automation/feed_methods.h"
 #include "terminal/automation/grid_methods.h"
 #include "terminal/automation/host_methods.h"
+#include "terminal/automation/link_methods.h"
+#include "terminal/automation/menu_methods.h"
 #include "terminal/automation/request_queue.h"
 #include "terminal/automation/socket_server.h"
 #include "terminal/automation/story_methods.h"
@@ -43,6 +45,8 @@ private:
     StoryMethods stories;
     FeedMethods feed;
     HostMethods host;
+    LinkMethods links;
+    MenuMethods menus;
     AppMethods app;
     MethodTable table;
     RequestQueue queue;

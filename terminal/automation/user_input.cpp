@@ -9,8 +9,10 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
 #include <QTabBar>
 
@@ -27,20 +29,27 @@ void pressKey(const QPointer<QWidget>& target, Qt::Key key) {
     QApplication::sendEvent(target, &release);
 }
 
-void click(const QPointer<QWidget>& target, const QPoint& point) {
-    const QPointF local(point);
-    const QPointF global = target->mapToGlobal(local);
-    QMouseEvent press(QEvent::MouseButtonPress, local, global, Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
+}  // namespace
+
+void clickAt(QWidget& widget, const QPoint& point, Qt::MouseButton button) {
+    const QPointer<QWidget> target(&widget);
+    const QPoint global = widget.mapToGlobal(point);
+    QMouseEvent press(QEvent::MouseButtonPress, point, global, button, button, Qt::NoModifier);
     QApplication::sendEvent(target, &press);
+    if (target && button == Qt::RightButton) {
+        QContextMenuEvent menu(QContextMenuEvent::Mouse, point, global);
+        QApplication::sendEvent(target, &menu);
+    }
     if (target.isNull())
         return;
-    QMouseEvent release(QEvent::MouseButtonRelease, local, global, Qt::LeftButton, Qt::NoButton,
-                        Qt::NoModifier);
+    QMouseEvent release(QEvent::MouseButtonRelease, point, global, button, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(target, &release);
 }
 
-}  // namespace
+void chooseMenuItem(QMenu& menu, QAction& item) {
+    menu.setActiveAction(&item);
+    pressKey(&menu, Qt::Key_Return);
+}
 
 void chooseComboEntry(QComboBox& combo, int entry) {
     combo.setFocus();
@@ -59,7 +68,7 @@ void clickTab(QTabBar& tabs, int tab) {
             pressKey(target, steps > 0 ? Qt::Key_Right : Qt::Key_Left);
         return;
     }
-    click(&tabs, tabs.tabRect(tab).center());
+    clickAt(tabs, tabs.tabRect(tab).center(), Qt::LeftButton);
 }
 
 void typeText(QLineEdit& edit, const QString& text) {

@@ -6,9 +6,13 @@
 #include <QString>
 
 class QAbstractButton;
+class QAction;
 class QComboBox;
 class QLineEdit;
+class QMenu;
+class QPoint;
 class QTabBar;
+class QWidget;
 class SDateTimeCtrl;
 
 namespace wirepane {
@@ -16,6 +20,10 @@ namespace wirepane {
 // What a user does to a control, done to the real control with real events, so that it notifies as it does
 // for him. The control may be gone afterwards.
 
+// Presses and releases a mouse button at a point of the widget; the right one asks for a context menu, too.
+void clickAt(QWidget& widget, const QPoint& point, Qt::MouseButton button);
+// Picks an item of an open menu, which closes.
+void chooseMenuItem(QMenu& menu, QAction& item);
 // Opens the drop-down, picks the entry and closes the drop-down.
 void chooseComboEntry(QComboBox& combo, int entry);
 // Clicks on a tab, scrolled into sight.

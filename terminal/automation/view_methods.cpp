@@ -42,6 +42,8 @@ void ViewMethods::addTo(MethodTable& table) {
 }
 
 Answer ViewMethods::open(Params& params) {
+    if (params.optionalBool(u"docked"_s).value_or(false))
+        return openDocked(params);
     ViewRequest request;
     request.size = params.optionalSize(u"size"_s).value_or(ordinaryViewSize);
     request.newsType = static_cast<int>(params.optionalNumber(u"newsType"_s, 0, lastNewsType).value_or(0));
@@ -51,6 +53,20 @@ Answer ViewMethods::open(Params& params) {
     if (params.error())
         return {};
     const auto opened = session.openView(std::move(request));
+    if (!opened)
+        return RpcError{RpcCode::Refused, opened.error()};
+    return QJsonObject{{u"view"_s, opened.value()->number}};
+}
+
+Answer ViewMethods::openDocked(Params& params) {
+    for (const QString& name : {u"size"_s, u"mask"_s, u"typeName"_s, u"settings"_s, u"section"_s}) {
+        if (params.has(name))
+            params.fail(u"a docked view takes no \"%1\""_s.arg(name));
+    }
+    const auto newsType = params.optionalNumber(u"newsType"_s, 0, lastNewsType).value_or(0);
+    if (params.error())
+        return {};
+    const auto opened = session.keeper().openNew(static_cast<int>(newsType));
     if (!opened)
         return RpcError{RpcCode::Refused, opened.error()};
     return QJsonObject{{u"view"_s, opened.value()->number}};

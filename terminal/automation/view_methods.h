@@ -18,6 +18,7 @@ public:
 
 private:
     Answer open(Params& params);
+    Answer openDocked(Params& params);
     Answer close(Params& params);
     Answer resize(Params& params);
     Answer state(Params& params);

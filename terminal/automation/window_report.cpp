@@ -5,6 +5,7 @@
 #include "host/controls/plain_caption.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
+#include "host/controls/xt_tip_window.h"
 #include "terminal/frame/workspace.h"
 
 #include <QAbstractButton>
@@ -92,6 +93,29 @@ QJsonArray gridsReport(const OpenView& view) {
     return grids;
 }
 
+// The tip that stands over the view or one of its parts.
+QJsonObject tipReport(const QWidget& view) {
+    QJsonObject report{{u"visible"_s, false}, {u"text"_s, QString()}, {u"rect"_s, rectangleReport({})}};
+    const auto parts = view.findChildren<QWidget*>();
+    for (const QWidget* part : parts) {
+        const auto* line = part->inherits("CQuoteDlgTipMsg") ? part->findChild<QLabel*>() : nullptr;
+        if (line == nullptr || !part->isVisibleTo(&view))
+            continue;
+        const QRect place(part->mapTo(&view, QPoint(0, 0)), part->size());
+        report = {{u"visible"_s, true}, {u"text"_s, line->text()}, {u"rect"_s, rectangleReport(place)}};
+    }
+    return report;
+}
+
+QJsonObject shortTipReport(const QWidget& view) {
+    const auto tips = view.findChildren<CXTTipWindow*>();
+    for (const CXTTipWindow* tip : tips) {
+        if (tip->isVisible())
+            return {{u"visible"_s, true}, {u"text"_s, tip->text()}};
+    }
+    return {{u"visible"_s, false}, {u"text"_s, QString()}};
+}
+
 }  // namespace
 
 QJsonArray rectangleReport(const QRect& rectangle) {
@@ -121,6 +145,9 @@ QJsonObject viewReport(const OpenView& view) {
                        {u"title"_s, caption},
                        {u"dataState"_s, static_cast<int>(view.view->GetDataState())},
                        {u"linkGroup"_s, view.view->GetLinkGroup()},
+                       {u"tip"_s, tipReport(*view.view)},
+                       {u"shortTip"_s, shortTipReport(*view.view)},
+                       {u"quotes"_s, QJsonArray()},
                        {u"size"_s, QJsonArray{view.view->width(), view.view->height()}},
                        {u"timers"_s, timers},
                        {u"controls"_s, controlsReport(*view.view)},

@@ -58,6 +58,7 @@ Done Session::start(const SessionOptions& options) {
     store = std::move(opened.value());
     store->setSysPath(configFolder);
     BKQuoteInterface::SetBKInterface(store.get());
+    SearchControl::SetSearchObjInterface(&store->symbols());
     categoryDisplay = std::make_unique<CategoryDisplay>(*store);
     TRVItemDisplay::SetItemDisplay(categoryDisplay.get());
     const auto module = loadModule();
@@ -96,10 +97,14 @@ void Session::connectParts() {
                 box.showSymbol(group, known != nullptr ? *known : symbol);
             });
     connect(openViews.get(), &Workspace::arranged, this, &Session::showViews);
-    connect(mainFrame.get(), &MainFrame::languageChanged, this, [this] {
-        showStatus();
-        openViews->retranslate();
-    });
+    // Later: the views hear of the change after their frame.
+    connect(
+        mainFrame.get(), &MainFrame::languageChanged, this,
+        [this] {
+            showStatus();
+            openViews->retranslate();
+        },
+        Qt::QueuedConnection);
 }
 
 Done Session::prepareModuleFiles() {

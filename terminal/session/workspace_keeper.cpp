@@ -3,6 +3,7 @@
 #include "terminal/session/workspace_keeper.h"
 
 #include "terminal/frame/main_frame.h"
+#include "terminal/frame/symbol_box.h"
 #include "terminal/frame/workspace.h"
 #include "terminal/session/link_groups.h"
 #include "terminal/settings/layout_store.h"
@@ -37,7 +38,7 @@ WorkspaceKeeper::WorkspaceKeeper(Parts itsParts) : parts(std::move(itsParts)) {
 Done WorkspaceKeeper::restore() {
     WorkspaceLayout layout = WorkspaceLayout::read(parts.file);
     if (layout.views.empty())
-        layout.views.push_back({});
+        layout.views.push_back({0, 0, {}, {}, parts.frame.symbolBox().group()});
     parts.links.recall(layout.symbols);
     Done failure = Nothing{};
     for (const StoredView& view : layout.views) {
@@ -77,6 +78,7 @@ Result<OpenView*> WorkspaceKeeper::openNew(int newsType) {
     StoredView view;
     view.place = freePlace();
     view.newsType = newsType;
+    view.linkGroup = parts.frame.symbolBox().group();
     // What a closed view of this place has left behind.
     parts.layout.forget(section, view.place);
     return open(view);

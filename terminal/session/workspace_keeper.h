@@ -42,7 +42,7 @@ public:
     // Opens the stored views, one where none is stored, and begins to keep them. A view that fails is told in
     // the frame and left out. Fails when not one can be opened.
     Done restore();
-    // Opens one more view: an ordinary one, one of symbol news only, or one with the settings of another.
+    // Opens one more view, in the symbol box's link group; or one with the settings and the group of another.
     Result<OpenView*> openNew(int newsType = 0);
     Result<OpenView*> openLike(const OpenView& other);
     // Starts all the user's views anew with the settings that they have now.
