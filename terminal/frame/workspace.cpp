@@ -67,9 +67,10 @@ QString OpenView::shownTitle() const {
     const QString subject = subjectOf(*this, ofSymbol);
     unsigned char service = 0;
     QString code;
+    if (ofSymbol)
+        view->GetCurrSymbolInfo(service, code);
     // An index ("#...") stands for "no symbol" here.
-    const bool known = ofSymbol && view->GetCurrSymbolInfo(service, code) == 1 && !code.startsWith(u'#');
-    return known && !code.isEmpty() ? u"%1 %2"_s.arg(subject, code) : subject;
+    return !code.isEmpty() && !code.startsWith(u'#') ? u"%1 %2"_s.arg(subject, code) : subject;
 }
 
 Workspace::Workspace(NewsModule& newsModule, MainFrame& mainFrame, QObject* parent)
