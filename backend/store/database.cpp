@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/database.h"
 
+#include "backend/search/search_tokenizer.h"
 #include "backend/store/failure_sentence.h"
 #include "backend/store/statement.h"
 
@@ -59,6 +60,8 @@ Result<std::unique_ptr<Database>> Database::open(const QString& path, Mode mode,
     // A store comes from outside as any file does: its schema may run nothing of its own.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    // Where this fails, what uses the search index fails with the library's own sentence.
+    registerSearchTokenizer(connection);
     return database;
 }
 

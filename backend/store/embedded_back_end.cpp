@@ -34,7 +34,14 @@ EmbeddedBackEnd::EmbeddedBackEnd(std::unique_ptr<Database> store)
       days(*database),
       headlineCache(reader),
       arrivals(*database),
-      delivery(arrivals, [this](const Arrival& arrival) { tell(arrival); }) {}
+      delivery(arrivals, [this](const Arrival& arrival) { tell(arrival); }),
+      searches(
+          database->path(),
+          [this](const CSearch& condition, unsigned char service) {
+              ForEachReceiver(
+                  [&](NewsReceiver& receiver) { receiver.RespSearchHeadLineTable(condition, service); });
+          },
+          [this](const std::function<void()>& answer) { answers.give(Held::Search, answer); }) {}
 
 void EmbeddedBackEnd::catchUp() {
     if (!reader.changedElsewhere())

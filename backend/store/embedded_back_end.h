@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/search/search_desk.h"
 #include "backend/store/answer_desk.h"
 #include "backend/store/arrival_log.h"
 #include "backend/store/database.h"
@@ -32,7 +33,8 @@ namespace wirepane {
 // Tables come newest first. Those of a category and of a symbol reach back BKQbyGetNewsDateRange() days from
 // the present day (host_clock), and not beyond it; a symbol without a code has none.
 //
-// Requests are answered from the event loop; a search cannot be sent yet.
+// Requests are answered from the event loop. Searches look through all stories of a service, whether the
+// source is connected or not, on a thread of their own (see NewsSearch and SearchDesk).
 //
 // As a sink it tells every receiver what came in, in the order of coming, once it is on the disk: news that
 // is new or replaced as a new headline, a story that was missing as a story that can be had, a symbol as a
@@ -181,6 +183,7 @@ private:
     bool simplified = false;
     QString sysPath;
     NewsDelivery delivery;
+    SearchDesk searches;
 };
 
 }  // namespace wirepane

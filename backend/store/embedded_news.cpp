@@ -31,6 +31,11 @@ int EmbeddedBackEnd::tableOf(unsigned char service, std::vector<CHeadlineTable>&
         catchUp();
         return days.append(table, service, dayOfText(key));
     }
+    if (kind == static_cast<int>(TableKind::Search) || kind == static_cast<int>(TableKind::SecondSearch)) {
+        const std::vector<CHeadlineTable>& found = searches.table(service, kind);
+        table.insert(table.end(), found.begin(), found.end());
+        return static_cast<int>(found.size());
+    }
     bool isNumber = false;
     const int category = key.toInt(&isNumber);
     if (kind != static_cast<int>(TableKind::ByCategory) || !isNumber)

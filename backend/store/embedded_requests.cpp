@@ -67,7 +67,10 @@ bool EmbeddedBackEnd::BKQNEWS_bReCoverHeadline(unsigned char service, std::vecto
 bool EmbeddedBackEnd::BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition) {
     const QStringList keywords(condition.keywords.begin(), condition.keywords.end());
     requests.add(u"BKQNEWS_bSearchNews"_s, {service, kind, keywords});
-    return false;
+    if (kind != static_cast<int>(TableKind::Search) && kind != static_cast<int>(TableKind::SecondSearch))
+        return false;
+    searches.ask(service, kind, condition);
+    return true;
 }
 
 void EmbeddedBackEnd::hold(Held what, bool on) {

@@ -34,8 +34,9 @@ NewsWriter::NewsWriter(Database& owner)
                      "INSERT INTO headlines(service, time, sequence, day, category, version, received, "
                      "identity, title) VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?)"),
       updateHeadline(owner,
-                     "UPDATE headlines SET time = ?2, sequence = ?3, day = ?4, category = ?5, version = ?6, "
-                     "received = ?7, title = ?8 WHERE id = ?1"),
+                     "UPDATE headlines SET id = (SELECT max(id) + 1 FROM headlines), time = ?2, sequence = "
+                     "?3, day = ?4, category = ?5, version = ?6, "
+                     "received = ?7, title = ?8 WHERE id = ?1 RETURNING id"),
       insertText(owner, "INSERT INTO stories(headline, text) VALUES(?, ?)"),
       deleteText(owner, "DELETE FROM stories WHERE headline = ?"),
       insertRelated(owner,
@@ -79,19 +80,27 @@ bool NewsWriter::insert(const NewsItem& item, const NewsPlace& place) {
                item.version, host_clock::now(), item.identity, item.title)
              .run())
         return false;
-    inserted = database.lastInsertId();
-    return writeStory(inserted, item.story) && writeRelated(inserted, item, place) &&
-           addToSearch(inserted, item.title, item.story);
+    written = database.lastInsertId();
+    return writeStory(written, item.story) && writeRelated(written, item, place) &&
+           addToSearch(written, item.title, item.story);
 }
 
+// The row gets an id that no row had before, so that an id stands for one service, time and number for good.
 bool NewsWriter::replace(std::int64_t id, const NewsItem& item, const NewsPlace& place) {
     QString before;
-    return takeFromSearch(id, before) &&
-           Query(updateHeadline, id, item.time, place.sequence, place.day, place.category, item.version,
-                 host_clock::now(), item.title)
-               .run() &&
-           Query(deleteText, id).run() && writeStory(id, item.story) && Query(deleteRelated, id).run() &&
-           writeRelated(id, item, place) && addToSearch(id, item.title, item.story);
+    if (!takeFromSearch(id, before) || !Query(deleteText, id).run() || !Query(deleteRelated, id).run())
+        return false;
+    {
+        Query query(updateHeadline, id, item.time, place.sequence, place.day, place.category, item.version,
+                    host_clock::now(), item.title);
+        if (!query.next())
+            return false;
+        written = query.number(0);
+        if (query.next() || query.failed())
+            return false;
+    }
+    return writeStory(written, item.story) && writeRelated(written, item, place) &&
+           addToSearch(written, item.title, item.story);
 }
 
 bool NewsWriter::putStory(std::int64_t id, const QString& story) {

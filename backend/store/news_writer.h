@@ -44,9 +44,10 @@ public:
                 bool& failed);
 
     bool insert(const NewsItem& item, const NewsPlace& place);
-    // The id of the news that was inserted last.
-    std::int64_t insertedId() const { return inserted; }
+    // The news moves to a new id.
     bool replace(std::int64_t id, const NewsItem& item, const NewsPlace& place);
+    // The id of the news that was inserted or replaced last.
+    std::int64_t writtenId() const { return written; }
     // Replaces the story, if there is one.
     bool putStory(std::int64_t id, const QString& story);
 
@@ -71,7 +72,7 @@ private:
     Statement readSearched;
     Statement insertSearched;
     Statement deleteSearched;
-    std::int64_t inserted = 0;
+    std::int64_t written = 0;
 };
 
 }  // namespace wirepane

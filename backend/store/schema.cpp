@@ -95,7 +95,15 @@ CREATE TABLE feed_positions(
     position TEXT NOT NULL) WITHOUT ROWID;
 )sql";
 
-constexpr std::array steps{firstVersion, arrivalsAndPositions};
+// The index is filled when its rules are found missing (see search_rules.h).
+constexpr const char* ownSearchWords = R"sql(
+DROP TABLE news_search;
+CREATE VIRTUAL TABLE news_search USING fts5(
+    title, story, content='news_text', content_rowid='id', tokenize='wirepane', columnsize=0);
+CREATE TABLE search_rules(fingerprint INTEGER NOT NULL);
+)sql";
+
+constexpr std::array steps{firstVersion, arrivalsAndPositions, ownSearchWords};
 
 }  // namespace
 

@@ -18,9 +18,6 @@ std::int64_t storeVersion();
 // Marks a database file as a news store ("WPNE").
 inline constexpr std::int64_t storeApplicationId = 0x57504e45;
 
-// What splits texts into words for the search index.
-inline constexpr const char* searchTokenizer = "unicode61";
-
 // Warrants number their categories for themselves; all other services share one numbering, because one file
 // of category names serves them all.
 constexpr int categorySpaceOf(unsigned char service) {

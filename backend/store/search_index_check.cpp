@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/search_index_check.h"
 
-#include "backend/store/schema.h"
+#include "backend/search/search_tokenizer.h"
 #include "backend/store/statement.h"
 
 #include <QByteArrayView>

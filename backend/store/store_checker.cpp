@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/store_checker.h"
 
+#include "backend/store/schema.h"
 #include "backend/store/search_index_check.h"
 #include "backend/store/statement.h"
 #include "backend/store/store_file.h"
@@ -126,6 +127,11 @@ Result<QStringList> StoreChecker::check() const {
     std::int64_t version = 0;
     if (!database.readNumber("PRAGMA user_version", version) || version == 0)
         return Error{u"%1 is empty: it holds no news store."_s.arg(database.path())};
+    if (version < storeVersion())
+        return Error{u"%1 is of version %2; the program brings it up to version %3 when it opens it."_s
+                         .arg(database.path())
+                         .arg(version)
+                         .arg(storeVersion())};
 
     QStringList faults = structureFaults(database);
     if (!faults.isEmpty())

@@ -4,6 +4,7 @@
 
 #include "backend/store/migrations.h"
 #include "backend/store/schema.h"
+#include "backend/store/search_rules.h"
 #include "backend/store/store_defaults.h"
 #include "backend/store/transaction.h"
 
@@ -26,14 +27,14 @@ bool bringUpToDate(Database& database) {
     std::int64_t version = 0;
     if (!database.readNumber("PRAGMA user_version", version))
         return false;
-    if (version == storeVersion())
+    if (version == storeVersion() && hasPresentSearchRules(database))
         return true;
     Transaction transaction(database);
     // Another program may have made the store meanwhile.
     if (!transaction.hasBegun() || !database.readNumber("PRAGMA user_version", version))
         return false;
     return migrate(database, storeMigrations()) && (version > 0 || addDefaults(database)) &&
-           transaction.commit();
+           (hasPresentSearchRules(database) || rebuildSearchIndex(database)) && transaction.commit();
 }
 
 }  // namespace

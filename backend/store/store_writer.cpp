@@ -122,7 +122,7 @@ Result<StoredNews> StoreWriter::add(const NewsItem& item) {
         return rejected(numberTaken(item));
     place.sequence = *number.value();
     if (!ensureService(item.service) || !findCategory(item, place.category) || !news.insert(item, place) ||
-        !arrivals.add(news.insertedId(), false))
+        !arrivals.add(news.writtenId(), false))
         return fail();
     StoredNews stored;
     stored.key = {item.time, place.sequence, item.service};
@@ -139,7 +139,7 @@ Result<StoredNews> StoreWriter::replace(const NewsItem& item, const KnownNews& k
         return rejected(numberTaken(item));
     place.sequence = *number.value();
     if (!findCategory(item, place.category) || !news.replace(known.id, item, place) ||
-        !arrivals.add(known.id, false))
+        !arrivals.add(news.writtenId(), false))
         return fail();
     StoredNews stored;
     stored.key = {item.time, place.sequence, item.service};

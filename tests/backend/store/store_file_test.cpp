@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/store_file.h"
 
+#include "backend/search/search_tokenizer.h"
 #include "backend/store/migrations.h"
 #include "backend/store/schema.h"
 #include "backend/store/store_checker.h"
@@ -89,12 +90,39 @@ TEST_F(StoreFileTest, ANewStoreHasItsServicesAndKeepsWhatItHoldsWhenOpenedAgain)
 }
 
 TEST_F(StoreFileTest, TheSearchKnowsItsTokenizer) {
-    EXPECT_EQ(
-        rows("SELECT sql LIKE '%tokenize=''unicode61''%' FROM sqlite_schema WHERE name = 'news_search'"),
-        QStringList{u"1"_s});
-    EXPECT_STREQ(searchTokenizer, "unicode61");
+    EXPECT_EQ(rows("SELECT sql LIKE '%tokenize=''wirepane''%' FROM sqlite_schema WHERE name = 'news_search'"),
+              QStringList{u"1"_s});
+    EXPECT_STREQ(searchTokenizer, "wirepane");
     takeNews(newsItem(1, u"a"_s, at(9, 0), u"Zürich exchange"_s));
     EXPECT_EQ(rows("SELECT rowid FROM news_search('zurich')"), QStringList{u"1"_s});
+}
+
+// An index of the first version, or of a program that folded characters otherwise, is made anew at opening.
+TEST_F(StoreFileTest, AnIndexOfOtherRulesIsMadeAnew) {
+    takeNews(newsItem(1, u"a"_s, at(9, 0), u"臺積電 rises"_s));
+    const QString path = closedStore();
+    const auto found = [&] {
+        const auto opened = openStore(path);
+        EXPECT_TRUE(opened);
+        return opened ? rowsOf(*opened.value(), "SELECT rowid FROM news_search('\"积电\"')") : QStringList();
+    };
+    const std::vector<const char*> earlier{
+        "UPDATE search_rules SET fingerprint = 1; INSERT INTO news_search(news_search) VALUES('delete-all')",
+        "PRAGMA user_version = 1; DROP TABLE search_rules; DROP TABLE arrivals; DROP TABLE feed_positions; "
+        "DROP TABLE news_search; CREATE VIRTUAL TABLE "
+        "news_search USING fts5(title, story, content='news_text', content_rowid='id', tokenize='unicode61');"
+        "INSERT INTO news_search(news_search) VALUES('rebuild')"};
+    for (const char* sql : earlier) {
+        plainDatabase(path, sql);
+        EXPECT_EQ(found(), QStringList{u"1"_s}) << sql;
+        const auto faults = StoreChecker(path).check();
+        ASSERT_TRUE(faults);
+        EXPECT_EQ(faults.value(), QStringList());
+    }
+    plainDatabase(path, earlier.back());
+    const auto unopened = StoreChecker(path).check();
+    ASSERT_FALSE(unopened);
+    EXPECT_TRUE(unopened.error().contains(u"is of version 1"_s)) << unopened.error().toStdString();
 }
 
 TEST_F(StoreFileTest, MigrationsRunOnceInOrderAndAllOrNothing) {

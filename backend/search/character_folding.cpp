@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/search/character_folding.h"
+
+#include "backend/store/simplified_chinese.h"
+
+#include <QChar>
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <utility>
+
+namespace wirepane {
+
+namespace {
+
+constexpr char32_t tableSize = 0x10000;
+constexpr char32_t firstIdeograph = 0x3400;
+constexpr char32_t endOfIdeographs = 0xa000;
+
+// What changes when the rules of this file do; the characters' folding is added to it.
+constexpr std::uint64_t rulesVersion = 1;
+
+bool isWithin(char32_t c, char32_t first, char32_t last) {
+    return c >= first && c <= last;
+}
+
+// Scripts that are written without blanks between words, or with endings that stick to the word.
+bool isSingle(char32_t c) {
+    return isWithin(c, 0x0e00, 0x0eff) || isWithin(c, 0x1000, 0x109f) || isWithin(c, 0x1100, 0x11ff) ||
+           isWithin(c, 0x1780, 0x17ff) || isWithin(c, 0x2e80, 0x2fff) || isWithin(c, 0x3005, 0x3007) ||
+           isWithin(c, 0x3021, 0x302f) || isWithin(c, 0x3031, 0x303c) || isWithin(c, 0x3041, 0x33ff) ||
+           isWithin(c, 0x3400, 0x9fff) || isWithin(c, 0xa960, 0xa97f) || isWithin(c, 0xac00, 0xd7ff) ||
+           isWithin(c, 0xe000, 0xfaff) || isWithin(c, 0xff66, 0xffdc) || isWithin(c, 0x1b000, 0x1b16f) ||
+           c >= 0x20000;
+}
+
+bool isAccent(char32_t c) {
+    return isWithin(c, 0x0300, 0x036f) || isWithin(c, 0x1ab0, 0x1aff) || isWithin(c, 0x1dc0, 0x1dff) ||
+           isWithin(c, 0x20d0, 0x20ff) || isWithin(c, 0xfe00, 0xfe0f) || isWithin(c, 0xfe20, 0xfe2f) ||
+           isWithin(c, 0xe0100, 0xe01ef);
+}
+
+CharacterKind kindOf(char32_t c) {
+    if (c == U'\n' || c == U'\r' || c == 0x85 || c == 0x2028 || c == 0x2029)
+        return CharacterKind::LineEnd;
+    if (isAccent(c))
+        return CharacterKind::Dropped;
+    const QChar::Category category = QChar::category(c);
+    switch (category) {
+        case QChar::Separator_Space:
+        case QChar::Other_Control:
+            return CharacterKind::Space;
+        case QChar::Other_Format:
+        case QChar::Other_Surrogate:
+            return CharacterKind::Dropped;
+        default:
+            break;
+    }
+    if (isSingle(c))
+        return CharacterKind::Single;
+    const bool isSign = category >= QChar::Punctuation_Connector && category <= QChar::Symbol_Other;
+    return isSign || category == QChar::Number_Other ? CharacterKind::Symbol : CharacterKind::Letter;
+}
+
+char32_t quoteOrDash(char32_t c) {
+    if (isWithin(c, 0x2018, 0x201b))
+        return U'\'';
+    if (isWithin(c, 0x201c, 0x201f))
+        return U'"';
+    return isWithin(c, 0x2010, 0x2015) || c == 0x2212 ? U'-' : c;
+}
+
+// The character that this one is a form of: its decomposition, where that is one character and accents.
+char32_t baseOf(char32_t c) {
+    for (;;) {
+        const QList<uint> parts = QChar::decomposition(c).toUcs4();
+        if (parts.isEmpty())
+            return c;
+        for (qsizetype i = 1; i < parts.size(); ++i) {
+            if (!isAccent(parts.at(i)))
+                return c;
+        }
+        c = parts.front();
+    }
+}
+
+// A circled or raised digit stays itself: what stands beside it is another number.
+char16_t foldedOnce(char32_t c) {
+    if (QChar::category(c) == QChar::Number_Other)
+        return char16_t(c);
+    const char32_t folded = QChar::toCaseFolded(baseOf(quoteOrDash(c)));
+    return char16_t(folded < tableSize ? folded : c);
+}
+
+}  // namespace
+
+const CharacterFolding& CharacterFolding::instance() {
+    static const CharacterFolding folding;
+    return folding;
+}
+
+CharacterFolding::CharacterFolding() : foldedCharacters(tableSize), kinds(tableSize) {
+    for (char32_t c = 0; c < tableSize; ++c)
+        foldedCharacters[c] = QChar::isSurrogate(c) ? char16_t(c) : foldedOnce(c);
+    foldChinese();
+    std::uint64_t hash = 0xcbf29ce484222325U ^ rulesVersion;
+    for (char32_t c = 0; c < tableSize; ++c) {
+        // Folding what is folded must change nothing.
+        for (int i = 0; i < 4 && foldedCharacters[c] != foldedCharacters[foldedCharacters[c]]; ++i)
+            foldedCharacters[c] = foldedCharacters[foldedCharacters[c]];
+        // A character is what its folded form is: a full-width comma is a comma.
+        kinds[c] = kindOf(kindOf(c) == CharacterKind::Dropped ? c : foldedCharacters[c]);
+        hash = (hash ^ foldedCharacters[c] ^ (std::uint64_t(kinds[c]) << 16)) * 0x100000001b3U;
+    }
+    sum = std::int64_t(hash >> 1);
+}
+
+void CharacterFolding::foldChinese() {
+    QString all;
+    for (char32_t c = firstIdeograph; c < endOfIdeographs; ++c) {
+        all += QChar(char16_t(c));
+        all += u'\n';
+    }
+    SimplifiedChinese chinese;
+    const QString simplified = chinese.convert(all);
+    char32_t c = firstIdeograph;
+    for (const QStringView line : QStringView(simplified).tokenize(u'\n')) {
+        if (c < endOfIdeographs && line.size() == 1)
+            foldedCharacters[c] = line.front().unicode();
+        ++c;
+    }
+}
+
+CharacterKind CharacterFolding::kindBeyond(char32_t character) {
+    return kindOf(character);
+}
+
+}  // namespace wirepane

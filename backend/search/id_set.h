@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace wirepane {
+
+// A set of headline ids, one bit each.
+class IdSet {
+public:
+    void add(std::int64_t id) {
+        const auto word = std::size_t(id >> 6);
+        if (word >= bits.size())
+            bits.resize(word + word / 2 + 1);
+        bits[word] |= bitOf(id);
+    }
+    bool contains(std::int64_t id) const {
+        const auto word = std::size_t(id >> 6);
+        return word < bits.size() && (bits[word] & bitOf(id)) != 0;
+    }
+    void keepCommon(const IdSet& other) {
+        if (bits.size() > other.bits.size())
+            bits.resize(other.bits.size());
+        for (std::size_t i = 0; i < bits.size(); ++i)
+            bits[i] &= other.bits[i];
+    }
+    void addAll(const IdSet& other) {
+        if (bits.size() < other.bits.size())
+            bits.resize(other.bits.size());
+        for (std::size_t i = 0; i < other.bits.size(); ++i)
+            bits[i] |= other.bits[i];
+    }
+    std::size_t size() const {
+        std::size_t count = 0;
+        for (const std::uint64_t word : bits)
+            count += std::size_t(std::popcount(word));
+        return count;
+    }
+    // Calls `take` with each id, ascending.
+    template <class Take>
+    void forEach(Take take) const {
+        for (std::size_t i = 0; i < bits.size(); ++i) {
+            for (std::uint64_t left = bits[i]; left != 0; left &= left - 1)
+                take(std::int64_t(i * 64) + std::countr_zero(left));
+        }
+    }
+
+private:
+    static std::uint64_t bitOf(std::int64_t id) { return std::uint64_t(1) << (id & 63); }
+
+    std::vector<std::uint64_t> bits;
+};
+
+}  // namespace wirepane

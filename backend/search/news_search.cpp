@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/search/news_search.h"
+
+#include "backend/search/search_words.h"
+#include "backend/store/database.h"
+
+namespace wirepane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::size_t fewMatches = 4096;  // beyond it, the keys in memory are faster than look-ups
+constexpr int stopAskedEvery = 256;       // matches
+
+// Words that are quoted are never read as operators.
+QString queryOf(const QStringList& words, unsigned char scope) {
+    const QString phrase = u'"' + words.join(u' ').replace(u'"', u"\"\""_s) + u'"';
+    return scope == 0 ? u"title : "_s + phrase : scope == 1 ? u"story : "_s + phrase : phrase;
+}
+
+// Reading within one transaction sees one moment of the store.
+class ReadTransaction {
+public:
+    explicit ReadTransaction(Database& database) : owner(database), begun(database.execute("BEGIN")) {}
+    ~ReadTransaction() {
+        if (begun)
+            owner.execute("COMMIT");
+    }
+    ReadTransaction(const ReadTransaction&) = delete;
+    ReadTransaction& operator=(const ReadTransaction&) = delete;
+
+private:
+    Database& owner;
+    bool begun;
+};
+
+}  // namespace
+
+NewsSearch::NewsSearch(Database& database)
+    : store(database),
+      keys(database),
+      dataVersion(database, "PRAGMA data_version"),
+      matching(database, "SELECT rowid FROM news_search WHERE news_search MATCH ?"),
+      naming(database,
+             "SELECT headline FROM related_symbols WHERE service = ? AND market IN (?, 0) AND code = ?") {}
+
+std::optional<std::vector<CHeadlineTable>> NewsSearch::find(unsigned char service, const CSearch& condition,
+                                                            const std::atomic<bool>* stop) {
+    stopping = stop;
+    const ReadTransaction moment(store);
+    return findNow(service, condition);
+}
+
+void NewsSearch::prepare() {
+    keys.catchUp();
+}
+
+std::optional<std::vector<CHeadlineTable>> NewsSearch::findNow(unsigned char service,
+                                                               const CSearch& condition) {
+    std::int64_t version = 0;
+    {
+        Query query(dataVersion);
+        if (query.next())
+            version = query.number(0);
+    }
+    if (!last || !(last->condition == condition) || last->version != version) {
+        last.reset();
+        std::optional<IdSet> ids = matches(condition);
+        if (!ids)
+            return std::nullopt;
+        last = {condition, version, *std::move(ids)};
+    }
+    IdSet named;
+    for (const CSymbolInfo& symbol : condition.symbols) {
+        if (!addNamed(named, service, symbol))
+            return std::nullopt;
+    }
+    if (!condition.symbols.empty())
+        named.keepCommon(last->ids);
+    const IdSet& ids = condition.symbols.empty() ? last->ids : named;
+    if (!keys.isLoaded() && ids.size() <= fewMatches)
+        return keys.lookUp(service, ids);
+    if (!keys.catchUp())
+        return std::nullopt;
+    return keys.entries(service, ids);
+}
+
+std::optional<IdSet> NewsSearch::matches(const CSearch& condition) {
+    std::optional<IdSet> found;
+    for (const QString& keyword : condition.keywords) {
+        const QStringList words = keywordWords(keyword);
+        if (words.isEmpty())
+            continue;
+        const bool any = condition.method == 2;
+        IdSet ids;
+        if (!addMatches(ids, queryOf(words, condition.scope)))
+            return std::nullopt;
+        if (!found)
+            found = std::move(ids);
+        else if (any)
+            found->addAll(ids);
+        else
+            found->keepCommon(ids);
+        if (!any && found->size() == 0)
+            break;
+    }
+    return found ? std::move(found) : IdSet();
+}
+
+bool NewsSearch::addMatches(IdSet& ids, const QString& text) {
+    Query query(matching, text);
+    for (int count = 0; query.next(); ++count) {
+        if (count % stopAskedEvery == 0 && isStopped())
+            return false;
+        ids.add(query.number(0));
+    }
+    return !query.failed();
+}
+
+bool NewsSearch::addNamed(IdSet& ids, unsigned char service, const CSymbolInfo& symbol) {
+    Query query(naming, service, symbol.market, symbol.code);
+    while (query.next())
+        ids.add(query.number(0));
+    return !query.failed();
+}
+
+}  // namespace wirepane

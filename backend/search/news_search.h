@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/search/headline_keys.h"
+#include "host/contract/search_condition.h"
+
+#include <atomic>
+#include <optional>
+
+namespace wirepane {
+
+// Finds the stories of a condition in a store. What a search means:
+// - A keyword is plain text; a title or story holds it when it holds the words of the keyword (WordReader)
+// one
+//   behind the other in one paragraph. A keyword without words is left out.
+// - All keywords must be there (method 1 or 0) or any (method 2), each in the title (scope 0), in the story
+// (1) or in
+//   either (2 and above). A condition without keywords finds nothing.
+// - Symbols narrow it to news that names one of them, in its market or in one that is not known.
+//
+// Thread: that of the database, which must outlive this and must not be written to through the same
+// connection.
+class NewsSearch {
+public:
+    explicit NewsSearch(Database& database);
+
+    // The entries of a service, newest first; nothing when the store cannot be read or `stop` became true
+    // meanwhile. Asked for one service after another, the same condition is looked up once.
+    std::optional<std::vector<CHeadlineTable>> find(unsigned char service, const CSearch& condition,
+                                                    const std::atomic<bool>* stop = nullptr);
+
+    // Reads the keys of all headlines, which the first search with many matches would have to do.
+    void prepare();
+
+private:
+    std::optional<IdSet> matches(const CSearch& condition);
+    bool addMatches(IdSet& ids, const QString& query);
+    bool addNamed(IdSet& ids, unsigned char service, const CSymbolInfo& symbol);
+    bool isStopped() const { return stopping != nullptr && *stopping; }
+    std::optional<std::vector<CHeadlineTable>> findNow(unsigned char service, const CSearch& condition);
+
+    Database& store;
+    HeadlineKeys keys;
+    Statement dataVersion;
+    Statement matching;
+    Statement naming;
+    const std::atomic<bool>* stopping = nullptr;
+
+    struct Last {
+        CSearch condition;
+        std::int64_t version;
+        IdSet ids;
+    };
+    std::optional<Last> last;
+};
+
+}  // namespace wirepane

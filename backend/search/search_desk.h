@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/search/search_worker.h"
+
+#include <QObject>
+
+#include <functional>
+#include <list>
+#include <map>
+
+namespace wirepane {
+
+// The searches that views have sent, and their tables. Interface thread.
+//
+// Of each kind there is one present search, that sent last; its tables are what is read. A new condition
+// starts with empty tables for every service, the same condition keeps them until its answers. While an
+// answer is delivered, its search is the present one, so that a view whose search was overtaken by another
+// view's still reads its own.
+class SearchDesk {
+public:
+    // `answered` is called for each answer, from the event loop, when its table can be read.
+    using Answered = std::function<void(const CSearch& condition, unsigned char service)>;
+
+    // Through it every answer goes that has come; it may call it at once, later or never. Without one: at
+    // once.
+    using Gate = std::function<void(const std::function<void()>& answer)>;
+
+    SearchDesk(const QString& storePath, Answered answered, Gate gate = {});
+
+    // Sends a search; one in the same service for the same condition that is not answered yet is void.
+    void ask(unsigned char service, int kind, const CSearch& condition);
+    // The table of the present search.
+    const std::vector<CHeadlineTable>& table(unsigned char service, int kind) const;
+
+private:
+    struct Pending {
+        std::int64_t ticket;
+        std::shared_ptr<std::atomic<bool>> dropped;
+    };
+    struct Search {
+        std::int64_t id;
+        int kind;
+        CSearch condition;
+        std::map<unsigned char, std::vector<CHeadlineTable>> tables;
+        std::map<unsigned char, Pending> pending;
+    };
+
+    Search& searchOf(int kind, const CSearch& condition);
+    void take(std::int64_t ticket, std::vector<CHeadlineTable>&& entries);
+    void deliver(Search& search, unsigned char service);
+    void forgetOverdue();
+
+    Answered tell;
+    Gate gate;
+    std::list<Search> searches;
+    std::map<int, std::int64_t> present;  // by kind: the id of a search
+    std::int64_t lastNumber = 0;
+    QObject eventLoop;                     // what waits in it is dropped with it
+    std::unique_ptr<SearchWorker> worker;  // last: it posts to the event loop
+};
+
+}  // namespace wirepane

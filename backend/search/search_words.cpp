@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/search/search_words.h"
+
+namespace wirepane {
+
+namespace {
+
+constexpr int longestWord = 60;  // characters
+constexpr char32_t brokenByte = 0xfffd;
+
+bool isDigit(char32_t c) {
+    return c >= U'0' && c <= U'9';
+}
+
+bool isWide(char32_t raw) {
+    return raw >= 0xff00;
+}
+
+}  // namespace
+
+WordReader::WordReader(QByteArrayView utf8) : text(utf8), folding(CharacterFolding::instance()) {}
+
+WordReader::Character WordReader::characterAt(qsizetype position) const {
+    const auto byte = [this](qsizetype i) {
+        return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U;
+    };
+    const unsigned first = byte(position);
+    char32_t raw = first;
+    qsizetype length = 1;
+    if (first >= 0x80) {
+        length = first >= 0xf0 ? 4 : first >= 0xe0 ? 3 : first >= 0xc2 ? 2 : 1;
+        raw = length == 1 ? brokenByte : first & (0x7fU >> length);
+        for (qsizetype i = 1; i < length; ++i) {
+            if ((byte(position + i) & 0xc0U) != 0x80) {
+                raw = brokenByte;
+                length = 1;
+                break;
+            }
+            raw = (raw << 6) | (byte(position + i) & 0x3fU);
+        }
+    }
+    return {raw, folding.folded(raw), folding.kind(raw), position + length};
+}
+
+bool WordReader::next() {
+    current.clear();
+    while (at < text.size()) {
+        const Character character = characterAt(at);
+        wordStart = at;
+        at = character.end;
+        switch (character.kind) {
+            case CharacterKind::Space:
+            case CharacterKind::Dropped:
+                continue;
+            case CharacterKind::LineEnd:
+                current = "\n";
+                return true;
+            case CharacterKind::Letter:
+                readRun(character);
+                return true;
+            case CharacterKind::Single:
+            case CharacterKind::Symbol:
+                append(character.folded);
+                return true;
+        }
+    }
+    return false;
+}
+
+void WordReader::readRun(Character character) {
+    int length = 0;
+    int digits = 0;  // since the last sign in the number, or the last letter
+    bool grouped = false;
+    for (;;) {
+        if (character.kind == CharacterKind::Letter) {
+            append(character.folded);
+            digits = isDigit(character.folded) ? digits + 1 : 0;
+            ++length;
+        }
+        const char32_t last = character.raw;
+        if (at >= text.size() || length >= longestWord)
+            return;
+        character = characterAt(at);
+        if (character.kind == CharacterKind::Symbol && digits > 0 &&
+            joinsNumber(character, last, digits, grouped)) {
+            append(character.folded);
+            grouped = character.folded == U',';
+            digits = 0;
+            ++length;
+        } else if (character.kind != CharacterKind::Letter && character.kind != CharacterKind::Dropped) {
+            return;
+        }
+        at = character.end;
+    }
+}
+
+// The digit at a position, which goes behind it; 0 when there is none of that width.
+char32_t WordReader::digitAt(qsizetype& position, bool wide) const {
+    if (position >= text.size())
+        return 0;
+    const Character character = characterAt(position);
+    if (!isDigit(character.folded) || isWide(character.raw) != wide)
+        return 0;
+    position = character.end;
+    return character.folded;
+}
+
+// A sign of another width than the digits around it is punctuation of the sentence.
+bool WordReader::joinsNumber(const Character& separator, char32_t lastDigit, int digitsBefore,
+                             bool grouped) const {
+    const bool wide = isWide(separator.raw);
+    if (isWide(lastDigit) != wide)
+        return false;
+    qsizetype position = separator.end;
+    int digits = 0;
+    while (digits < 4 && digitAt(position, wide) != 0)
+        ++digits;
+    if (separator.folded == U'.')
+        return digits > 0;
+    return separator.folded == U',' && digits == 3 && (grouped ? digitsBefore == 3 : digitsBefore <= 3);
+}
+
+void WordReader::append(char32_t c) {
+    if (c < 0x80) {
+        current += char(c);
+    } else if (c < 0x800) {
+        current += {char(0xc0 | (c >> 6)), char(0x80 | (c & 0x3f))};
+    } else if (c < 0x10000) {
+        current += {char(0xe0 | (c >> 12)), char(0x80 | ((c >> 6) & 0x3f)), char(0x80 | (c & 0x3f))};
+    } else {
+        current += {char(0xf0 | (c >> 18)), char(0x80 | ((c >> 12) & 0x3f)), char(0x80 | ((c >> 6) & 0x3f)),
+                    char(0x80 | (c & 0x3f))};
+    }
+}
+
+QStringList keywordWords(const QString& keyword) {
+    const QByteArray utf8 = keyword.toUtf8();
+    QStringList words;
+    WordReader reader(utf8);
+    while (words.size() < mostKeywordWords && reader.next()) {
+        if (!reader.isLineEnd())
+            words += QString::fromUtf8(reader.word().data(), qsizetype(reader.word().size()));
+    }
+    return words;
+}
+
+}  // namespace wirepane

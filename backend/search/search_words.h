@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/search/character_folding.h"
+
+#include <QByteArrayView>
+#include <QString>
+#include <QStringList>
+
+#include <string>
+#include <string_view>
+
+namespace wirepane {
+
+// Splits a text into the words by which the search compares, in the one way that the index, the query and the
+// check of the index share:
+// - characters are folded (CharacterFolding);
+// - a run of letters and digits is a word, cut after 60 characters; a decimal point between digits, and a
+// comma
+//   before three digits of a number, belong to it: "2.5", "11,700", but "2330,2317" are two codes and a
+//   comma;
+// - any character of a script without blanks, and any sign, is a word by itself: "c++" is c, + and +;
+// - blanks separate; a line end is the word "\n", so that no phrase is found across it.
+class WordReader {
+public:
+    // `utf8` outlives this. Bytes that are no UTF-8 count as signs.
+    explicit WordReader(QByteArrayView utf8);
+
+    // Goes to the next word; false at the end.
+    bool next();
+    // In UTF-8; valid until the next call.
+    std::string_view word() const { return current; }
+    bool isLineEnd() const { return current == "\n"; }
+    // Where the word stands in the text, in bytes.
+    qsizetype start() const { return wordStart; }
+    qsizetype end() const { return at; }
+
+private:
+    struct Character {
+        char32_t raw = 0;
+        char32_t folded = 0;
+        CharacterKind kind = CharacterKind::Space;
+        qsizetype end = 0;
+    };
+    Character characterAt(qsizetype position) const;
+    char32_t digitAt(qsizetype& position, bool wide) const;
+    void readRun(Character character);
+    bool joinsNumber(const Character& separator, char32_t lastDigit, int digitsBefore, bool grouped) const;
+    void append(char32_t character);
+
+    QByteArrayView text;
+    const CharacterFolding& folding;
+    std::string current;
+    qsizetype wordStart = 0;
+    qsizetype at = 0;
+};
+
+// A keyword counts up to this many words.
+constexpr qsizetype mostKeywordWords = 256;
+
+// The words of a keyword; line ends in it are blanks. Empty: there is nothing to search for in it.
+QStringList keywordWords(const QString& keyword);
+
+}  // namespace wirepane

@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/search/news_search.h"
+
+#include "backend/store/store_file.h"
+#include "tests/backend/store/store_fixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+namespace {
+
+CSearch conditionOf(std::vector<QString> keywords, unsigned char scope = 2, unsigned char method = 1) {
+    CSearch condition;
+    condition.keywords = std::move(keywords);
+    condition.scope = scope;
+    condition.method = method;
+    return condition;
+}
+
+class NewsSearchTest : public StoreFixture {
+protected:
+    NewsSearchTest() : reading(std::move(openStore(store->path()).value())), search(*reading) {}
+
+    void takeStory(const QString& identity, const QString& title, const QString& story, int minute = 0) {
+        NewsItem item = newsItem(1, identity, at(9, minute), title);
+        item.story = story;
+        takeNews(item);
+    }
+    // The titles that are found, in their order.
+    QStringList found(const CSearch& condition, unsigned char service = 1) {
+        const auto entries = search.find(service, condition);
+        EXPECT_TRUE(entries);
+        QStringList titles;
+        for (const CHeadlineTable& entry : entries ? *entries : std::vector<CHeadlineTable>()) {
+            titles +=
+                rows(QStringLiteral(
+                         "SELECT title FROM headlines WHERE service = %1 AND time = %2 AND sequence = %3")
+                         .arg(entry.service)
+                         .arg(entry.time)
+                         .arg(entry.sequence)
+                         .toUtf8()
+                         .constData());
+        }
+        return titles;
+    }
+
+    std::unique_ptr<Database> reading;
+    NewsSearch search;
+};
+
+TEST_F(NewsSearchTest, KeywordsAreFoundAsTyped) {
+    const QString text =
+        u"台積電(2330)宣布，營收2.5%成長至11,700億元@@@@A&T and c++ 0700.HK in the US-China talks@@@@O'Neil 臺灣"_s;
+    takeStory(u"a"_s, u"Title"_s, text);
+    const std::vector<std::pair<QString, bool>> keywords{
+        {u"台"_s, true},
+        {u"積電"_s, true},
+        {u"积电"_s, true},
+        {u"電積"_s, false},
+        {u"台湾"_s, true},
+        {u"台積電(2330)"_s, true},
+        {u"(2330"_s, true},
+        {u"233"_s, false},
+        {u"2.5%"_s, true},
+        {u"２．５％"_s, true},
+        {u"5%"_s, false},
+        {u"700"_s, false},
+        {u"11,700"_s, true},
+        {u"0700.hk"_s, true},
+        {u"700.HK"_s, false},
+        {u"a&t"_s, true},
+        {u"C++"_s, true},
+        {u"c#"_s, false},
+        {u"us-china"_s, true},
+        {u"us china"_s, false},
+        {u"chin"_s, false},
+        {u"ＣＨＩＮＡ"_s, true},
+        {u"talks o'neil"_s, false},
+        {u"o'neil"_s, true},
+        {u"the OR talks"_s, false},
+        {u"\"us"_s, false},
+        {u"title:talks"_s, false},
+        {u"tal*"_s, false},
+        {u"億元 A"_s, false},
+        {u"in\nthe"_s, true},
+        {u"the\0US"_s, true},
+    };
+    for (const auto& [keyword, expected] : keywords)
+        EXPECT_EQ(found(conditionOf({keyword})).size(), expected ? 1 : 0) << qPrintable(keyword);
+}
+
+TEST_F(NewsSearchTest, ScopeMethodAndOrder) {
+    takeStory(u"a"_s, u"Copper rises"_s, u"gold"_s, 1);
+    takeStory(u"b"_s, u"Gold rises"_s, u"copper and tin"_s, 3);
+    takeStory(u"c"_s, u"Tin"_s, u"nothing"_s, 2);
+    const QString a = u"Copper rises"_s;
+    const QString b = u"Gold rises"_s;
+    const QString c = u"Tin"_s;
+    EXPECT_EQ(found(conditionOf({u"copper"_s}, 0)), QStringList({a}));
+    EXPECT_EQ(found(conditionOf({u"copper"_s}, 1)), QStringList({b}));
+    EXPECT_EQ(found(conditionOf({u"copper"_s}, 2)), QStringList({b, a}));
+    EXPECT_EQ(found(conditionOf({u"copper"_s, u"tin"_s})), QStringList({b}));
+    EXPECT_EQ(found(conditionOf({u"copper"_s, u"tin"_s}, 2, 2)), QStringList({b, c, a}));
+    EXPECT_EQ(found(conditionOf({u"rises"_s, u" "_s, u"gold"_s}, 0, 0)), QStringList({b}));
+    EXPECT_EQ(found(conditionOf({u"zinc"_s, u"tin"_s}, 0, 2)), QStringList({c}));
+    EXPECT_EQ(found(conditionOf({})), QStringList());
+    EXPECT_EQ(found(conditionOf({u" "_s, u"\n"_s}, 2, 2)), QStringList());
+    EXPECT_EQ(found(conditionOf({u"copper"_s}), 2), QStringList());
+}
+
+TEST_F(NewsSearchTest, SymbolsNarrow) {
+    NewsItem item = newsItem(1, u"a"_s, at(9, 0), u"Gold one"_s);
+    item.related = {{16, u"2330"_s}};
+    takeNews(item);
+    item = newsItem(1, u"b"_s, at(9, 1), u"Gold two"_s);
+    item.related = {{0, u"2330"_s}, {1, u"IBM"_s}};
+    takeNews(item);
+    takeNews(newsItem(1, u"c"_s, at(9, 2), u"Gold three"_s));
+    CSearch condition = conditionOf({u"gold"_s});
+    condition.symbols = {{16, u"2330"_s}};
+    EXPECT_EQ(found(condition), QStringList({u"Gold two"_s, u"Gold one"_s}));
+    condition.symbols = {{122, u"2330"_s}};
+    EXPECT_EQ(found(condition), QStringList({u"Gold two"_s}));
+    condition.symbols = {{16, u"2330"_s}, {1, u"IBM"_s}};
+    EXPECT_EQ(found(condition), QStringList({u"Gold two"_s, u"Gold one"_s}));
+    condition.symbols = {{16, u"1101"_s}};
+    EXPECT_EQ(found(condition), QStringList());
+}
+
+// With the keys in memory as without them: news, later stories and replacements are seen at once.
+TEST_F(NewsSearchTest, FollowsWhatIsTakenIn) {
+    for (const bool loaded : {false, true}) {
+        if (loaded)
+            search.prepare();
+        const QString mark = loaded ? u"k"_s : u"l"_s;
+        takeNews(newsItem(1, mark + u"1"_s, at(10, 0), u"silver "_s + mark));
+        EXPECT_EQ(found(conditionOf({mark})).size(), 1);
+        takeStory(mark + u"2"_s, u"lead"_s, u"silver "_s + mark, 59);
+        EXPECT_EQ(found(conditionOf({mark})), QStringList({u"silver "_s + mark, u"lead"_s}));
+        NewsItem replaced = newsItem(1, mark + u"1"_s, at(8, 0), u"bronze "_s + mark);
+        replaced.version = 9;
+        EXPECT_EQ(takeNews(replaced).outcome.take, Take::TakenIn);
+        EXPECT_EQ(found(conditionOf({mark})), QStringList({u"lead"_s, u"bronze "_s + mark}));
+        EXPECT_EQ(found(conditionOf({u"silver"_s, mark})), QStringList({u"lead"_s}));
+    }
+}
+
+TEST_F(NewsSearchTest, KeywordsOfAnySizeAndNumberAreAnswered) {
+    takeStory(u"a"_s, u"Title"_s, u"word"_s);
+    std::vector<QString> many;
+    for (int i = 0; i < 3000; ++i)
+        many.push_back(u"none%1"_s.arg(i));
+    many.push_back(u"word"_s);
+    EXPECT_EQ(found(conditionOf(many, 2, 2)).size(), 1);
+    EXPECT_EQ(found(conditionOf(many, 2, 1)).size(), 0);
+    EXPECT_EQ(found(conditionOf({QString(1'000'000, u'x')})).size(), 0);
+    EXPECT_EQ(found(conditionOf({QString(1'000'000, u'龍')})).size(), 0);
+    EXPECT_EQ(found(conditionOf({QString(1'000'000, u'(')})).size(), 0);
+    EXPECT_EQ(found(conditionOf({QString(QChar(0xd800)) + u"\"'"_s})).size(), 0);
+}
+
+}  // namespace
+}  // namespace wirepane

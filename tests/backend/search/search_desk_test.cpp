@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/search/search_desk.h"
+
+#include "tests/backend/store/store_fixture.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+namespace {
+
+constexpr int kind = 3;
+
+CSearch conditionOf(const QString& keyword) {
+    CSearch condition;
+    condition.keywords = {keyword};
+    return condition;
+}
+
+// Each answer is written down with the sizes of the tables of services 1 and 2 at that moment.
+class SearchDeskTest : public StoreFixture {
+protected:
+    SearchDeskTest() {
+        takeNews(newsItem(1, u"a"_s, at(9, 0), u"gold"_s));
+        takeNews(newsItem(1, u"b"_s, at(9, 1), u"gold and tin"_s));
+        takeNews(newsItem(2, u"c"_s, at(9, 2), u"gold"_s));
+        desk = std::make_unique<SearchDesk>(
+            store->path(), [this](const CSearch& condition, unsigned char service) {
+                answers += u"%1@%2 %3"_s.arg(condition.keywords.front()).arg(service).arg(sizes());
+                if (then)
+                    std::exchange(then, nullptr)();
+            });
+    }
+    QString sizes() const {
+        return u"%1,%2"_s.arg(desk->table(1, kind).size()).arg(desk->table(2, kind).size());
+    }
+    bool answered(qsizetype count) {
+        return QTest::qWaitFor([&] { return answers.size() >= count; });
+    }
+
+    QStringList answers;
+    std::function<void()> then;
+    std::unique_ptr<SearchDesk> desk;
+};
+
+TEST_F(SearchDeskTest, AnswersEachServiceAndKeepsTheTableForTheSameCondition) {
+    desk->ask(1, kind, conditionOf(u"gold"_s));
+    desk->ask(2, kind, conditionOf(u"gold"_s));
+    EXPECT_EQ(sizes(), u"0,0");
+    ASSERT_TRUE(answered(2));
+    EXPECT_EQ(answers, QStringList({u"gold@1 2,0"_s, u"gold@2 2,1"_s}));
+    takeNews(newsItem(1, u"d"_s, at(9, 3), u"gold again"_s));
+    desk->ask(1, kind, conditionOf(u"gold"_s));
+    EXPECT_EQ(sizes(), u"2,1");
+    ASSERT_TRUE(answered(3));
+    EXPECT_EQ(sizes(), u"3,1");
+    EXPECT_EQ(desk->table(1, kind).front().time, at(9, 3));
+    EXPECT_TRUE(desk->table(1, 4).empty());
+    // A new condition empties the tables of services that it does not ask too, and so does the old one after
+    // it.
+    desk->ask(1, kind, conditionOf(u"tin"_s));
+    EXPECT_EQ(sizes(), u"0,0");
+    ASSERT_TRUE(answered(4));
+    EXPECT_EQ(sizes(), u"1,0");
+    desk->ask(1, kind, conditionOf(u"gold"_s));
+    EXPECT_EQ(sizes(), u"0,0");
+    ASSERT_TRUE(answered(5));
+    EXPECT_EQ(sizes(), u"3,0");
+}
+
+TEST_F(SearchDeskTest, ANewerSearchForTheSameConditionMakesTheOlderVoid) {
+    for (int i = 0; i < 50; ++i)
+        desk->ask(1, kind, conditionOf(u"gold"_s));
+    desk->ask(2, kind, conditionOf(u"gold"_s));
+    ASSERT_TRUE(answered(2));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(answers, QStringList({u"gold@1 2,0"_s, u"gold@2 2,1"_s}));
+}
+
+// Two views search at once: each reads its own tables while it is answered, and what was sent last stays.
+TEST_F(SearchDeskTest, AnOvertakenSearchIsAnsweredWithItsOwnTables) {
+    desk->ask(1, kind, conditionOf(u"tin"_s));
+    desk->ask(1, kind, conditionOf(u"gold"_s));
+    desk->ask(2, kind, conditionOf(u"tin"_s));
+    desk->ask(2, kind, conditionOf(u"gold"_s));
+    ASSERT_TRUE(answered(4));
+    EXPECT_EQ(answers, QStringList({u"tin@1 1,0"_s, u"gold@1 2,0"_s, u"tin@2 1,0"_s, u"gold@2 2,1"_s}));
+    EXPECT_EQ(sizes(), u"2,1");
+}
+
+TEST_F(SearchDeskTest, ASearchSentDuringAnAnswerIsThePresentOne) {
+    then = [this] { desk->ask(2, kind, conditionOf(u"tin"_s)); };
+    desk->ask(1, kind, conditionOf(u"gold"_s));
+    ASSERT_TRUE(answered(2));
+    EXPECT_EQ(answers, QStringList({u"gold@1 2,0"_s, u"tin@2 0,0"_s}));
+    EXPECT_EQ(sizes(), u"0,0");
+}
+
+TEST_F(SearchDeskTest, AStoreThatCannotBeReadGivesEmptyAnswersAndTheEndWaitsForNothing) {
+    QStringList told;
+    SearchDesk lost(pathOf(u"none.db"_s),
+                    [&](const CSearch&, unsigned char service) { told += QString::number(service); });
+    lost.ask(7, kind, conditionOf(u"gold"_s));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !told.isEmpty(); }));
+    EXPECT_TRUE(lost.table(7, kind).empty());
+    for (int i = 0; i < 100; ++i)
+        desk->ask(1, kind, conditionOf(QString::number(i)));
+    desk.reset();
+    QCoreApplication::processEvents();
+    EXPECT_LE(answers.size(), 100);
+}
+
+}  // namespace
+}  // namespace wirepane
