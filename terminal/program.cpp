@@ -6,6 +6,7 @@
 #include "terminal/commands/import_command.h"
 #include "terminal/commands/open_command.h"
 #include "terminal/commands/sample_command.h"
+#include "terminal/commands/search_command.h"
 
 #include <QApplication>
 
@@ -26,6 +27,7 @@ constexpr Command commands[] = {
     {"import", &runImport},
     {"sample", &runSample},
     {"check", &runCheck},
+    {"search", &runSearch},
 };
 
 void nameApplication() {

@@ -54,7 +54,7 @@ bool WordReader::next() {
             case CharacterKind::Dropped:
                 continue;
             case CharacterKind::LineEnd:
-                current = "\n";
+                current.push_back('\n');
                 return true;
             case CharacterKind::Letter:
                 readRun(character);
@@ -122,16 +122,22 @@ bool WordReader::joinsNumber(const Character& separator, char32_t lastDigit, int
 }
 
 void WordReader::append(char32_t c) {
+    const auto follow = [this, c](int shift) { current.push_back(char(0x80 | ((c >> shift) & 0x3f))); };
     if (c < 0x80) {
-        current += char(c);
-    } else if (c < 0x800) {
-        current += {char(0xc0 | (c >> 6)), char(0x80 | (c & 0x3f))};
-    } else if (c < 0x10000) {
-        current += {char(0xe0 | (c >> 12)), char(0x80 | ((c >> 6) & 0x3f)), char(0x80 | (c & 0x3f))};
-    } else {
-        current += {char(0xf0 | (c >> 18)), char(0x80 | ((c >> 12) & 0x3f)), char(0x80 | ((c >> 6) & 0x3f)),
-                    char(0x80 | (c & 0x3f))};
+        current.push_back(char(c));
+        return;
     }
+    if (c < 0x800) {
+        current.push_back(char(0xc0 | (c >> 6)));
+    } else if (c < 0x10000) {
+        current.push_back(char(0xe0 | (c >> 12)));
+        follow(6);
+    } else {
+        current.push_back(char(0xf0 | (c >> 18)));
+        follow(12);
+        follow(6);
+    }
+    follow(0);
 }
 
 QStringList keywordWords(const QString& keyword) {

@@ -45,6 +45,44 @@ TEST_F(CommandLineTest, ImportTellsWhatBecameOfEachItem) {
     EXPECT_EQ(checked.status, 0) << checked.out.toStdString() << checked.err.toStdString();
 }
 
+TEST_F(CommandLineTest, SearchPrintsWhatHoldsTheKeywords) {
+    const QByteArray lines =
+        ninjsItem(u"u:1"_s, u"臺積電 gains 2.5%"_s, u"Copper"_s, u"2026-03-02T01:00:00Z"_s) + '\n' +
+        ninjsItem(u"u:2"_s, u"Copper falls"_s, u"积电"_s, u"2026-03-02T02:00:00Z"_s) + '\n';
+    import({scratch.write(u"wire.jsonl"_s, lines)});
+    const auto search = [this](const QStringList& arguments) {
+        return runProgram(QStringList{u"search"_s, u"--store"_s, store} + arguments);
+    };
+    const QString gains = u"臺積電 gains 2.5%\n"_s;
+    const QString falls = u"Copper falls\n"_s;
+    const QList<std::pair<QStringList, QStringList>> cases{
+        {{u"积電"_s}, {falls, gains}},
+        {{u"copper"_s, u"--title"_s}, {falls}},
+        {{u"copper"_s, u"--story"_s}, {gains}},
+        {{u"copper"_s, u"gains"_s}, {gains}},
+        {{u"gains"_s, u"falls"_s, u"--any"_s, u"--limit"_s, u"1"_s}, {falls}},
+        {{u"copper"_s, u"--service"_s, u"9"_s}, {}},
+        {{u"copper"_s, u"--symbol"_s, u"16:2330"_s}, {}},
+        {{u"\"(*"_s}, {}},
+    };
+    for (const auto& [arguments, titles] : cases) {
+        const ProgramOutcome outcome = search(arguments);
+        EXPECT_EQ(outcome.status, 0) << outcome.err.toStdString();
+        EXPECT_EQ(outcome.out.count(u'\n'), titles.size()) << outcome.out.toStdString();
+        qsizetype at = 0;
+        for (const QString& title : titles) {
+            at = outcome.out.indexOf(title, at);
+            EXPECT_GE(at, 0) << outcome.out.toStdString();
+        }
+    }
+    EXPECT_EQ(search({u"gains"_s, u"--json"_s}).out,
+              u"{\"sequence\":1,\"service\":1,\"time\":\"2026-03-02T01:00:00Z\",\"title\":\"臺積電 gains "
+              u"2.5%\"}\n");
+    EXPECT_EQ(search({}).status, 2);
+    EXPECT_EQ(search({u"x"_s, u"--symbol"_s, u"2330"_s}).status, 2);
+    EXPECT_EQ(runProgram({u"search"_s, u"--store"_s, scratch.path(u"none"_s), u"x"_s}).status, 2);
+}
+
 TEST_F(CommandLineTest, ImportOfOldNewsNamesTheOptionThatShowsIt) {
     const QString file =
         scratch.write(u"old.json"_s, ninjsItem(u"u:1"_s, u"Old"_s, u"Body"_s, u"2015-03-02T08:00:00Z"_s));

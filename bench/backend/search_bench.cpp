@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// What the search costs: taking in with its index, beside the library's own splitter of words; and searches
+// in a large store, beside the bare query of the index.
+#include "backend/search/search_desk.h"
+#include "backend/store/statement.h"
+#include "backend/store/store_writer.h"
+#include "bench/backend/search_store.h"
+#include "bench/backend/store_timing.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <benchmark/benchmark.h>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane::bench {
+
+namespace {
+
+constexpr int kind = 3;
+
+std::vector<NewsItem> items(bool chinese, int count) {
+    std::vector<NewsItem> made;
+    for (int i = 0; i < count; ++i) {
+        NewsItem item;
+        item.identity = QString::number(i);
+        item.time = 1'772'400'000 + i;
+        item.story = chinese ? chineseStory(i) : englishStory(i);
+        item.title = item.story->left(40);
+        made.push_back(item);
+    }
+    return made;
+}
+
+double secondsToTakeIn(const std::vector<NewsItem>& news, bool plain) {
+    QTemporaryDir folder;
+    const auto store = opened(folder.filePath(u"s.db"_s));
+    if (plain)
+        store->execute(
+            "DROP TABLE news_search; CREATE VIRTUAL TABLE news_search USING fts5(title, story, "
+            "content='news_text', content_rowid='id', tokenize='unicode61')");
+    StoreWriter writer(*store);
+    return secondsOf([&] {
+        bool good = static_cast<bool>(writer.begin());
+        for (const NewsItem& item : news)
+            good = good && writer.take(item);
+        if (!good || !writer.commit())
+            throw std::runtime_error("the news was not taken in");
+    });
+}
+
+// of_unicode61: the rate of taking in as a share of that with the library's own splitter.
+void takeInIndexed(benchmark::State& state) {
+    const std::vector<NewsItem> news = items(state.range(0) == 1, 10'000);
+    std::vector<double> own;
+    std::vector<double> plain;
+    for (auto unused : state) {
+        own.push_back(secondsToTakeIn(news, false));
+        plain.push_back(secondsToTakeIn(news, true));
+        state.SetIterationTime(own.back());
+    }
+    state.counters["items_per_s"] = double(news.size()) / median(own);
+    state.counters["of_unicode61"] = median(plain) / median(own);
+}
+
+CSearch conditionOf(QStringView word) {
+    CSearch condition;
+    condition.keywords = {word.toString()};
+    condition.scope = 2;
+    return condition;
+}
+
+// Sends a search in all services and waits for the answers. Seconds until the first and until the last.
+struct Answers {
+    explicit Answers(const QString& path) : desk(path, [this](const CSearch&, unsigned char) { ++count; }) {}
+
+    std::pair<double, double> search(QStringView word) {
+        count = 0;
+        const CSearch condition = conditionOf(word);
+        double first = 0;
+        const double all = secondsOf([&] {
+            const auto from = std::chrono::steady_clock::now();
+            for (int service = 1; service <= searchServices; ++service)
+                desk.ask(static_cast<unsigned char>(service), kind, condition);
+            while (count < searchServices) {
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+                if (first == 0 && count > 0)
+                    first = std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
+            }
+        });
+        return {first, all};
+    }
+    std::size_t found() const {
+        std::size_t entries = 0;
+        for (int service = 1; service <= searchServices; ++service)
+            entries += desk.table(static_cast<unsigned char>(service), kind).size();
+        return entries;
+    }
+
+    int count = 0;
+    SearchDesk desk;
+};
+
+double secondsOfBareQuery(Database& store, QStringView word) {
+    Statement statement(store, "SELECT rowid FROM news_search WHERE news_search MATCH ?");
+    return secondsOf([&] {
+        std::int64_t sum = 0;
+        Query query(statement, word.toString());
+        while (query.next())
+            sum += query.number(0);
+        benchmark::DoNotOptimize(sum);
+    });
+}
+
+// all_of_bare: the time until all keys are answered, as a multiple of the bare query's.
+void searchFor(benchmark::State& state, QStringView word) {
+    const SearchStore& made = SearchStore::of(static_cast<int>(state.range(0)));
+    const auto store = opened(made.path());
+    Answers answers(made.path());
+    answers.search(commonWord);  // the keys are in memory from then on
+    std::vector<double> firsts;
+    std::vector<double> alls;
+    std::vector<double> bare;
+    for (auto unused : state) {
+        answers.search(u"nothing");  // the last condition is remembered
+        const auto [first, all] = answers.search(word);
+        firsts.push_back(first);
+        alls.push_back(all);
+        bare.push_back(secondsOfBareQuery(*store, word));
+        state.SetIterationTime(all);
+    }
+    state.counters["found"] = double(answers.found());
+    state.counters["first_ms"] = median(firsts) * 1000;
+    state.counters["all_ms"] = median(alls) * 1000;
+    state.counters["bare_ms"] = median(bare) * 1000;
+    state.counters["all_of_bare"] = median(alls) / median(bare);
+    state.counters["index_of_text"] = made.indexOfText();
+}
+
+// How late an event comes that is posted every millisecond while searches run. p99_ms: of a hundred, the
+// latest but one.
+void inputDuringSearch(benchmark::State& state) {
+    Answers answers(SearchStore::of(static_cast<int>(state.range(0))).path());
+    std::vector<double> late;
+    for (auto unused : state) {
+        auto due = std::chrono::steady_clock::now() + std::chrono::milliseconds(1);
+        QTimer timer;
+        timer.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+            const auto now = std::chrono::steady_clock::now();
+            late.push_back(std::chrono::duration<double, std::milli>(now - due).count());
+            due = now + std::chrono::milliseconds(1);
+        });
+        timer.start(1);
+        state.SetIterationTime(secondsOf([&] {
+            for (int i = 0; i < 5; ++i) {
+                answers.search(commonWord);
+                answers.search(rareWord);
+            }
+        }));
+    }
+    std::sort(late.begin(), late.end());
+    state.counters["events"] = double(late.size());
+    state.counters["p99_ms"] = late.empty() ? 0 : late[late.size() * 99 / 100];
+}
+
+}  // namespace
+
+}  // namespace wirepane::bench
+
+using namespace wirepane::bench;
+
+BENCHMARK(takeInIndexed)
+    ->ArgName("chinese")
+    ->Arg(0)
+    ->Arg(1)
+    ->Iterations(3)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(searchFor, rare, rareWord)
+    ->Arg(1000)
+    ->Arg(1'000'000)
+    ->Iterations(20)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(searchFor, common, commonWord)
+    ->Arg(1000)
+    ->Arg(1'000'000)
+    ->Iterations(20)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(inputDuringSearch)->Arg(1'000'000)->Iterations(3)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+int main(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
