@@ -23,6 +23,13 @@ namespace {
 
 constexpr StoreOptions impatient{.busyTimeout = 20ms};
 
+// Makes a store what it would be, had only the first version of the schema ever been.
+constexpr const char* toFirstVersion =
+    "PRAGMA user_version = 1; DROP TABLE search_rules; DROP TABLE arrivals; DROP TABLE feed_positions; "
+    "DROP TABLE news_search; CREATE VIRTUAL TABLE news_search USING fts5("
+    "title, story, content='news_text', content_rowid='id', tokenize='unicode61');"
+    "INSERT INTO news_search(news_search) VALUES('rebuild')";
+
 class StoreFileTest : public StoreFixture {
 protected:
     // Closes the store, so that its file holds everything.
@@ -108,10 +115,7 @@ TEST_F(StoreFileTest, AnIndexOfOtherRulesIsMadeAnew) {
     };
     const std::vector<const char*> earlier{
         "UPDATE search_rules SET fingerprint = 1; INSERT INTO news_search(news_search) VALUES('delete-all')",
-        "PRAGMA user_version = 1; DROP TABLE search_rules; DROP TABLE arrivals; DROP TABLE feed_positions; "
-        "DROP TABLE news_search; CREATE VIRTUAL TABLE "
-        "news_search USING fts5(title, story, content='news_text', content_rowid='id', tokenize='unicode61');"
-        "INSERT INTO news_search(news_search) VALUES('rebuild')"};
+        toFirstVersion};
     for (const char* sql : earlier) {
         plainDatabase(path, sql);
         EXPECT_EQ(found(), QStringList{u"1"_s}) << sql;
@@ -147,7 +151,7 @@ TEST_F(StoreFileTest, MigrationsRunOnceInOrderAndAllOrNothing) {
 
 TEST_F(StoreFileTest, AStoreOfTheFirstVersionIsBroughtUpToDateWithItsNews) {
     fill(3);
-    ASSERT_TRUE(store->execute("DROP TABLE arrivals; DROP TABLE feed_positions; PRAGMA user_version = 1"));
+    ASSERT_TRUE(store->execute(toFirstVersion));
     const auto again = openStore(closedStore());
     ASSERT_TRUE(again) << again.error().toStdString();
     EXPECT_EQ(rowsOf(*again.value(), "SELECT count(*) FROM headlines"), QStringList{u"3"_s});
