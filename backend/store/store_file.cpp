@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/store_file.h"
 
+#include "backend/search/character_folding.h"
 #include "backend/store/migrations.h"
 #include "backend/store/schema.h"
 #include "backend/store/search_rules.h"
@@ -61,6 +62,8 @@ std::optional<Error> storeFault(Database& database) {
 }
 
 Result<std::unique_ptr<Database>> openStore(const QString& path, const StoreOptions& options) {
+    // Made before the file is: a kill in between would leave a store that is still empty.
+    CharacterFolding::instance();
     Result<std::unique_ptr<Database>> opened =
         Database::open(path, Database::Mode::Create, options.busyTimeout);
     if (!opened)
