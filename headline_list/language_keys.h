@@ -38,6 +38,24 @@ inline constexpr QLatin1StringView storyNext{"IDS_DIALOG-STORY_NEXT_BUTTON"};
 inline constexpr QLatin1StringView storyPrint{"IDS_DIALOG-STORY_PRINT"};
 inline constexpr QLatin1StringView storySaveAs{"IDS_DIALOG-STORY_SAVEAS"};
 
+// Printed pages and saved files.
+inline constexpr QLatin1StringView printDocument{"IDS_NEWSCTRLVIEW_STRING_NEWSPRINT"};
+inline constexpr QLatin1StringView printFont{"IDS_SINGLETON-STRING_FONTNAME"};
+inline constexpr QLatin1StringView printHeading{"IDS_NEWSCTRLVIEW_STRING_DETAILED_NEWS_DATA"};
+inline constexpr QLatin1StringView newsNumber{"IDS_NEWSCTRLVIEW_NEWS_NO"};
+inline constexpr QLatin1StringView newsTitle{"IDS_NEWSCTRLVIEW_STRING_NEWS_TITLE"};
+inline constexpr QLatin1StringView newsStory{"IDS_NEWSCTRLVIEW_NEWS_STORY"};
+inline constexpr QLatin1StringView fileFilter{"IDS_NEWSCTRLVIEW_STRING_FILE_FILTER"};
+inline constexpr QLatin1StringView utf8FileFilter{"IDS_NEWSCTRLVIEW_STRING_FILE_FILTER_UTF8"};
+// "%1": the file, or the printer; "%2": why.
+inline constexpr QLatin1StringView saveFailed{"IDS_NEWSCTRLVIEW_STRING_SAVE_FAILED"};
+inline constexpr QLatin1StringView printFailed{"IDS_NEWSCTRLVIEW_STRING_PRINT_FAILED"};
+// Reasons.
+inline constexpr QLatin1StringView noCodePage{"IDS_NEWSCTRLVIEW_STRING_NO_CODE_PAGE"};
+inline constexpr QLatin1StringView printerGone{"IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE"};
+// "%1": how many characters, "%2": the file.
+inline constexpr QLatin1StringView charactersReplaced{"IDS_NEWSCTRLVIEW_STRING_CHARACTERS_REPLACED"};
+
 inline constexpr QLatin1StringView time{"IDS_NEWSCTRLVIEW_STRING_TIME"};
 inline constexpr QLatin1StringView category{"IDS_NEWSCTRLVIEW_STRING_CATEGORY"};
 inline constexpr QLatin1StringView title{"IDS_NEWSCTRLVIEW_STRING_TITLE"};

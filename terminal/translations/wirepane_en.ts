@@ -63,6 +63,14 @@
         <source></source>
         <translation>Terms</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NEWS_NO">
+        <source></source>
+        <translation>News No.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NEWS_STORY">
+        <source></source>
+        <translation>Story: </translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_AFTERDAYS">
         <source></source>
         <translation>The date lies in the future.</translation>
@@ -75,13 +83,29 @@
         <source></source>
         <translation>By Category</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_CHARACTERS_REPLACED">
+        <source></source>
+        <translation>%1 characters have no place in code page 950 and are white squares in %2. To keep them, save as UTF-8 text.</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_CLEAR_SERVICE">
         <source></source>
         <translation>has started a new news day.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_DETAILED_NEWS_DATA">
+        <source></source>
+        <translation>News Details</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_DETAILED_STORY">
         <source></source>
         <translation>Open Story</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_FILE_FILTER">
+        <source></source>
+        <translation>Text file</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_FILE_FILTER_UTF8">
+        <source></source>
+        <translation>UTF-8 text file, keeps every character</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INSOMEDAYS">
         <source></source>
@@ -99,6 +123,10 @@
         <source></source>
         <translation>News</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWSPRINT">
+        <source></source>
+        <translation>News</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_CLASS_NOT_FOUND">
         <source></source>
         <translation>has no news in this category.</translation>
@@ -107,6 +135,14 @@
         <source></source>
         <translation>No news matches the search.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_TITLE">
+        <source></source>
+        <translation>Title: </translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NO_CODE_PAGE">
+        <source></source>
+        <translation>this system cannot write code page 950; choose UTF-8 text</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NO_NEWS_STORY">
         <source></source>
         <translation>This headline has no story.</translation>
@@ -114,6 +150,14 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLYSELECT">
         <source></source>
         <translation>Only the last </translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE">
+        <source></source>
+        <translation>the printer cannot be reached</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_FAILED">
+        <source></source>
+        <translation>The news could not be printed on %1: %2</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_NEWS">
         <source></source>
@@ -155,6 +199,10 @@
         <source></source>
         <translation>Save As…</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SAVE_FAILED">
+        <source></source>
+        <translation>The news could not be saved in %1: %2</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SEARCH_NEWS">
         <source></source>
         <translation>Search</translation>
@@ -194,6 +242,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_WARRANT_NEWS">
         <source></source>
         <translation>Warrants</translation>
+    </message>
+    <message id="IDS_SINGLETON-STRING_FONTNAME">
+        <source></source>
+        <translation>Noto Sans CJK TC</translation>
     </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>

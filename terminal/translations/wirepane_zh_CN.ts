@@ -63,6 +63,14 @@
         <source></source>
         <translation>警示词</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NEWS_NO">
+        <source></source>
+        <translation>新闻编号</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NEWS_STORY">
+        <source></source>
+        <translation>内容：</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_AFTERDAYS">
         <source></source>
         <translation>所选日期晚于今天。</translation>
@@ -75,13 +83,29 @@
         <source></source>
         <translation>分类新闻</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_CHARACTERS_REPLACED">
+        <source></source>
+        <translation>有 %1 个字符不在 950 代码页内，在 %2 中以空心方块代替。若要保留，请另存为 UTF-8 文本文件。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_CLEAR_SERVICE">
         <source></source>
         <translation>已开始新的新闻日。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_DETAILED_NEWS_DATA">
+        <source></source>
+        <translation>新闻详细资料</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_DETAILED_STORY">
         <source></source>
         <translation>详细内容</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_FILE_FILTER">
+        <source></source>
+        <translation>文本文件</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_FILE_FILTER_UTF8">
+        <source></source>
+        <translation>UTF-8 文本文件，保留所有字符</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INSOMEDAYS">
         <source></source>
@@ -99,6 +123,10 @@
         <source></source>
         <translation>新闻</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWSPRINT">
+        <source></source>
+        <translation>新闻打印</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_CLASS_NOT_FOUND">
         <source></source>
         <translation>此分类没有新闻。</translation>
@@ -107,6 +135,14 @@
         <source></source>
         <translation>没有找到符合条件的新闻。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_TITLE">
+        <source></source>
+        <translation>标题：</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NO_CODE_PAGE">
+        <source></source>
+        <translation>此系统无法写出 950 代码页，请选用 UTF-8 文本文件</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NO_NEWS_STORY">
         <source></source>
         <translation>本条新闻没有正文。</translation>
@@ -114,6 +150,14 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLYSELECT">
         <source></source>
         <translation>只能选择最近 </translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE">
+        <source></source>
+        <translation>无法连接打印机</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_FAILED">
+        <source></source>
+        <translation>新闻无法打印到 %1：%2</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_NEWS">
         <source></source>
@@ -155,6 +199,10 @@
         <source></source>
         <translation>另存为…</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SAVE_FAILED">
+        <source></source>
+        <translation>新闻无法保存到 %1：%2</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SEARCH_NEWS">
         <source></source>
         <translation>新闻搜索</translation>
@@ -194,6 +242,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_WARRANT_NEWS">
         <source></source>
         <translation>权证新闻</translation>
+    </message>
+    <message id="IDS_SINGLETON-STRING_FONTNAME">
+        <source></source>
+        <translation>Noto Sans CJK SC</translation>
     </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>

@@ -63,6 +63,14 @@
         <source></source>
         <translation>警示詞</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NEWS_NO">
+        <source></source>
+        <translation>新聞編號</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NEWS_STORY">
+        <source></source>
+        <translation>內容：</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_AFTERDAYS">
         <source></source>
         <translation>所選日期晚於今天。</translation>
@@ -75,13 +83,29 @@
         <source></source>
         <translation>分類新聞</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_CHARACTERS_REPLACED">
+        <source></source>
+        <translation>有 %1 個字元不在 950 字碼頁內，在 %2 中以空心方塊代替。若要保留，請另存為 UTF-8 文字檔。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_CLEAR_SERVICE">
         <source></source>
         <translation>已開始新的新聞日。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_DETAILED_NEWS_DATA">
+        <source></source>
+        <translation>新聞詳細資料</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_DETAILED_STORY">
         <source></source>
         <translation>詳細內容</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_FILE_FILTER">
+        <source></source>
+        <translation>文字檔</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_FILE_FILTER_UTF8">
+        <source></source>
+        <translation>UTF-8 文字檔，保留所有字元</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INSOMEDAYS">
         <source></source>
@@ -99,6 +123,10 @@
         <source></source>
         <translation>新聞</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWSPRINT">
+        <source></source>
+        <translation>新聞列印</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_CLASS_NOT_FOUND">
         <source></source>
         <translation>此分類沒有新聞。</translation>
@@ -107,6 +135,14 @@
         <source></source>
         <translation>找不到符合條件的新聞。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_TITLE">
+        <source></source>
+        <translation>標題：</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NO_CODE_PAGE">
+        <source></source>
+        <translation>此系統無法寫出 950 字碼頁，請選用 UTF-8 文字檔</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NO_NEWS_STORY">
         <source></source>
         <translation>本則新聞沒有內文。</translation>
@@ -114,6 +150,14 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLYSELECT">
         <source></source>
         <translation>只能選擇最近 </translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE">
+        <source></source>
+        <translation>無法連接印表機</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_FAILED">
+        <source></source>
+        <translation>新聞無法列印到 %1：%2</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_NEWS">
         <source></source>
@@ -155,6 +199,10 @@
         <source></source>
         <translation>另存新檔…</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SAVE_FAILED">
+        <source></source>
+        <translation>新聞無法儲存到 %1：%2</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SEARCH_NEWS">
         <source></source>
         <translation>新聞搜尋</translation>
@@ -194,6 +242,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_WARRANT_NEWS">
         <source></source>
         <translation>權證新聞</translation>
+    </message>
+    <message id="IDS_SINGLETON-STRING_FONTNAME">
+        <source></source>
+        <translation>Noto Sans CJK TC</translation>
     </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>

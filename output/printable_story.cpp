@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "output/printable_story.h"
+
+#include "headline_list/cell_texts.h"
+#include "story/story_text.h"
+
+#include <algorithm>
+
+void Linefeed(QString& story) {
+    const auto isBreak = [](QChar c) { return c == u'\r' || c == u'\n'; };
+    story.truncate(std::find_if(story.cbegin(), story.cend(), isBreak) - story.cbegin());
+    vConvertStoryContent(story);
+}
+
+QString DatedStory(const CStory& story) {
+    const QDateTime local = LocalTime(story.time);
+    const QDate day = local.date();
+    const QTime time = local.time();
+    const bool known = local.isValid();
+    return QString::asprintf("@@@@%4d/%02d/%2d %02d:%02d:%02d", known ? day.year() : 0,
+                             known ? day.month() : 0, known ? day.day() : 0, known ? time.hour() : -1,
+                             known ? time.minute() : -1, known ? time.second() : -1) +
+           story.text;
+}
+
+QString PrintedStory(const CStory& story) {
+    QString text = DatedStory(story);
+    Linefeed(text);
+    return text;
+}
+
+QString LateStory(const CStory& story) {
+    QString text = DatedStory(story);
+    vConvertStoryContent(text);
+    return text;
+}
+
+QString SavedStory(const CStory& story) {
+    QString text = story.text;
+    Linefeed(text);
+    return text;
+}

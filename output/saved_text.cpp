@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "output/saved_text.h"
+
+#include "headline_list/language_keys.h"
+#include "output/byte_lines.h"
+#include "output/code_page_950.h"
+
+namespace {
+
+constexpr int hyphens = 80;
+
+// Files hold the texts of every service as service 0 shows them.
+QString converted(BKQuoteInterface& backEnd, const QString& text) {
+    if (!backEnd.LangIsConvertToSimplified(0))
+        return text;
+    QString simplified;
+    backEnd.LangConvertToSimplifiedChinese(text, simplified);
+    return simplified;
+}
+
+void appendTitle(QString& out, const QString& title) {
+    const QString text = title + QStringLiteral("\n\n");
+    const std::vector<QStringView> lines = TitleLines(text);
+    const bool whole = lines.front().size() == text.size();
+    for (const QStringView line : lines) {
+        out += line;
+        if (!whole)
+            out += u'\n';
+    }
+}
+
+void appendStory(QString& out, const QString& story) {
+    const QString text = story + QStringLiteral("\n\n");
+    QStringView rest = text;
+    while (FirstBytes(rest, bytesPerLine).size() < rest.size()) {
+        out += TakeLine(rest);
+        out += QStringLiteral("\r\n");
+    }
+    out += rest;
+}
+
+}  // namespace
+
+std::optional<SavedText> WriteNews(BKQuoteInterface& backEnd, const NewsItems& items, NewsFileType type) {
+    QString text;
+    for (const NewsItem& item : items) {
+        text += u' ' + LangText(backEnd, keys::newsNumber) + u' ' + QString::number(item.entry.sequence) +
+                QStringLiteral("\n\n");
+        text += LangText(backEnd, keys::newsTitle);
+        appendTitle(text, converted(backEnd, item.title));
+        text += LangText(backEnd, keys::newsStory);
+        appendStory(text, converted(backEnd, item.story));
+        text += QString(hyphens, u'-') + u'\n';
+    }
+    if (type == NewsFileType::Utf8)
+        return SavedText{text.toUtf8(), 0};
+    const auto page = EncodeCodePage950(text);
+    if (!page)
+        return std::nullopt;
+    return SavedText{page->bytes, page->replaced};
+}
