@@ -63,7 +63,9 @@ QString chineseStory(int number) {
 
 SearchStore::SearchStore(int stories) : file(folder.filePath(u"search.db"_s)) {
     const auto store = opened(file);
-    check(store->execute("PRAGMA synchronous = OFF; PRAGMA cache_size = -262144; BEGIN"), *store);
+    check(store->execute(
+              "PRAGMA synchronous = OFF; PRAGMA cache_size = -262144; PRAGMA journal_mode = OFF; BEGIN"),
+          *store);
     Statement service(*store, "INSERT OR IGNORE INTO services VALUES(?, 'Service', 'S', 20, 1)");
     for (int i = 1; i <= searchServices; ++i)
         check(Query(service, i).run(), *store);
@@ -85,7 +87,7 @@ SearchStore::SearchStore(int stories) : file(folder.filePath(u"search.db"_s)) {
                   Query(search, i + 1, title, QString(story).replace("@@@@"_L1, "\n"_L1)).run(),
               *store);
     }
-    check(store->execute("COMMIT; PRAGMA wal_checkpoint(TRUNCATE)"), *store);
+    check(store->execute("COMMIT; PRAGMA journal_mode = WAL"), *store);
     std::int64_t index = 0;
     check(store->readNumber("SELECT sum(length(block)) FROM news_search_data", index), *store);
     share = double(index) / double(bytes);

@@ -8,6 +8,7 @@
 #include "tests/backend/store/store_fixture.h"
 
 #include <QCoreApplication>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -225,6 +226,28 @@ TEST_F(EmbeddedBackEndTest, ChineseIsConvertedToSimplifiedCharacters) {
     EXPECT_FALSE(backEnd.LangIsConvertToSimplified(1));
     backEnd.setConvertsToSimplified(true);
     EXPECT_TRUE(backEnd.LangIsConvertToSimplified(1));
+}
+
+TEST_F(EmbeddedBackEndTest, ASearchIsAnsweredPerServiceWithItsTable) {
+    takeIn(newsItem(1, u"a"_s, at(9, 0), u"Copper rises"_s));
+    takeIn(newsItem(1, u"b"_s, at(9, 1), u"Copper falls"_s));
+    takeIn(newsItem(2, u"c"_s, at(9, 2), u"Tin"_s));
+    listener.heard.clear();
+    CSearch condition;
+    condition.keywords = {u"copper"_s};
+    const int kind = static_cast<int>(TableKind::Search);
+    EXPECT_FALSE(backEnd.BKQNEWS_bSearchNews(1, 0, condition));
+    backEnd.setConnected(false);
+    backEnd.hold(Held::Search, true);
+    EXPECT_TRUE(backEnd.BKQNEWS_bSearchNews(1, kind, condition));
+    EXPECT_TRUE(backEnd.BKQNEWS_bSearchNews(2, kind, condition));
+    EXPECT_FALSE(QTest::qWaitFor([&] { return !listener.heard.isEmpty(); }, 300));
+    EXPECT_EQ(byKey(1, kind, u"SEARCH"_s), QStringList());
+    backEnd.hold(Held::Search, false);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.heard.size() == 2; }));
+    EXPECT_EQ(listener.heard, QStringList({u"search copper 1"_s, u"search copper 2"_s}));
+    EXPECT_EQ(byKey(1, kind, u"SEARCH"_s), QStringList({u"Copper falls"_s, u"Copper rises"_s}));
+    EXPECT_EQ(byKey(2, kind, u"SEARCH"_s), QStringList());
 }
 
 }  // namespace

@@ -36,6 +36,9 @@ public:
         hear(u"category"_s, *info);
     }
     void vRecvSymHeadlineTableRecovery(const CHeadlineTableInfo* info) override { hear(u"symbol"_s, *info); }
+    void RespSearchHeadLineTable(const CSearch& condition, unsigned char service) override {
+        heard += QStringLiteral("search %1 %2").arg(condition.keywords.front()).arg(service);
+    }
     QStringList heard;
 
 private:
