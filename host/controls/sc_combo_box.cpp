@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QListView>
 #include <QProxyStyle>
+#include <QStyleOptionComboBox>
 
 #include <algorithm>
 
@@ -28,7 +29,9 @@ public:
 }  // namespace
 
 SCComboBox::SCComboBox(QWidget* parent) : QComboBox(parent) {
-    setStyle(new DropListStyle(this));
+    QStyleOptionComboBox plain;
+    if (style()->styleHint(QStyle::SH_ComboBox_Popup, &plain, this) != 0)
+        setStyle(new DropListStyle(this));
     if (auto* list = qobject_cast<QListView*>(view()))
         list->setUniformItemSizes(true);
     view()->setTextElideMode(Qt::ElideRight);

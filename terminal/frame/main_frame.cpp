@@ -28,6 +28,7 @@ QLabel* statusLabel(QStatusBar* bar, int stretch) {
     label->setTextFormat(Qt::PlainText);
     // A long path must not keep the window wide.
     label->setMinimumWidth(1);
+    label->setContentsMargins(0, 0, 12, 0);
     bar->addWidget(label, stretch);
     return label;
 }
@@ -40,6 +41,12 @@ QToolBar* barWith(QWidget* content) {
     bar->layout()->setContentsMargins(0, 0, 0, 0);
     bar->addWidget(content);
     return bar;
+}
+
+// The lamp of the feed's state before its name.
+QString withLamp(const QString& text, bool live) {
+    const QString colour = live ? u"#2f9e58"_s : u"#d0672c"_s;
+    return u"<span style='color:%1'>●</span>&nbsp;&nbsp;%2"_s.arg(colour, text.toHtmlEscaped());
 }
 
 // Entries of menus that go keep their shortcuts until they are gone.
@@ -62,6 +69,9 @@ MainFrame::MainFrame()
       storeLabel(statusLabel(statusBar(), 1)),
       servicesLabel(statusLabel(statusBar(), 0)),
       asOfLabel(statusLabel(statusBar(), 0)) {
+    feedLabel->setTextFormat(Qt::RichText);
+    statusBar()->setContentsMargins(8, 0, 8, 0);
+    statusBar()->setSizeGripEnabled(false);
     setCentralWidget(viewDesk);
     addToolBar(symbolBar);
     addToolBarBreak();
@@ -103,7 +113,8 @@ void MainFrame::showStatus(const FrameStatus& status) {
     const QString offline = status.offlineSince.isEmpty()
                                 ? terminalText(TextId::FeedDisconnected)
                                 : terminalText(TextId::OfflineSince).arg(status.offlineSince);
-    feedLabel->setText(status.connected ? terminalText(TextId::FeedConnected) : offline);
+    feedLabel->setText(
+        withLamp(status.connected ? terminalText(TextId::FeedConnected) : offline, status.connected));
     storeLabel->setText(QDir::toNativeSeparators(status.storeFile));
     servicesLabel->setText(terminalText(TextId::ServicesCount).arg(status.services));
     asOfLabel->setText(status.asOf.isEmpty() ? QString() : terminalText(TextId::AsOf).arg(status.asOf));

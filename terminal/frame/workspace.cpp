@@ -65,12 +65,8 @@ QString OpenView::shownTitle() const {
         return title;
     bool ofSymbol = false;
     const QString subject = subjectOf(*this, ofSymbol);
-    unsigned char service = 0;
-    QString code;
-    if (ofSymbol)
-        view->GetCurrSymbolInfo(service, code);
-    // An index ("#...") stands for "no symbol" here.
-    return !code.isEmpty() && !code.startsWith(u'#') ? u"%1 %2"_s.arg(subject, code) : subject;
+    const QString code = access->State()[u"symbol"_s].toMap()[u"code"_s].toString();
+    return ofSymbol && !code.isEmpty() ? u"%1 %2"_s.arg(subject, code) : subject;
 }
 
 Workspace::Workspace(NewsModule& newsModule, MainFrame& mainFrame, QObject* parent)

@@ -3,19 +3,16 @@
 #include "terminal/session/appearance.h"
 
 #include "terminal/frame/workspace.h"
+#include "terminal/session/terminal_style.h"
 #include "terminal/settings/terminal_settings.h"
 
 #include <QApplication>
-#include <QStyleFactory>
-
-using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
 Appearance::Appearance(TerminalSettings& terminalSettings, Workspace& openViews)
     : settings(terminalSettings), workspace(openViews) {
-    // The one style that draws every part in the palette's colours on every platform.
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new TerminalStyle);
 }
 
 void Appearance::apply() {

@@ -107,15 +107,18 @@ void Session::connectParts() {
         Qt::QueuedConnection);
 }
 
-Done Session::prepareModuleFiles() {
-    if (const Done written = writeSwitchesFile(configFolder, terminalSettings->switches()); !written)
-        return written;
-    return writeCategoryFile(configFolder, categoryNames(*store));
+void Session::prepareModuleFiles() {
+    const Done switches = writeSwitchesFile(configFolder, terminalSettings->switches());
+    const Done categories = writeCategoryFile(configFolder, categoryNames(*store));
+    // A view opens without them, too: without the tabs and the names that they would have given it.
+    for (const Done& written : {switches, categories}) {
+        if (!written)
+            mainFrame->showNotice(written.error());
+    }
 }
 
 Result<OpenView*> Session::openView(ViewRequest request) {
-    if (const Done prepared = prepareModuleFiles(); !prepared)
-        return Error{prepared.error()};
+    prepareModuleFiles();
     if (request.size.isValid())
         mainFrame->resizeDesk(request.size);
     return openViews->open(std::move(request));
@@ -134,8 +137,7 @@ Done Session::setSwitches(const SearchSwitches& switches) {
 }
 
 Done Session::reopenUserViews() {
-    if (const Done prepared = prepareModuleFiles(); !prepared)
-        return prepared;
+    prepareModuleFiles();
     return workspaceKeeper->reopenAll();
 }
 

@@ -75,7 +75,7 @@ private:
 
     Done start(const SessionOptions& options);
     void connectParts();
-    Done prepareModuleFiles();
+    void prepareModuleFiles();
     Done reopenUserViews();
     bool useLanguage(const QString& code);
 

@@ -52,6 +52,7 @@ public:
 
     QColor SYS_crGetOtherColor(const QString& name) override;
     QFont SYS_fntGetViewFont() override;
+    bool CApi_GetThinBarStatus() override { return true; }
     int SYS_eGetPopupWndPosition() override;
     QString SYS_cszGetCurrentSymbol(unsigned char linkGroup) override;
     bool SYS_bGetIsLinkNews() override;

@@ -285,11 +285,11 @@
     </message>
     <message id="TERMINAL_FEED_CONNECTED">
         <source></source>
-        <translation>Connected</translation>
+        <translation>Live</translation>
     </message>
     <message id="TERMINAL_FEED_DISCONNECTED">
         <source></source>
-        <translation>Not connected</translation>
+        <translation>Offline</translation>
     </message>
     <message id="TERMINAL_FEED_OFFLINE_SINCE">
         <source></source>

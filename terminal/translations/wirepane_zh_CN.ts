@@ -285,11 +285,11 @@
     </message>
     <message id="TERMINAL_FEED_CONNECTED">
         <source></source>
-        <translation>已连接</translation>
+        <translation>实时</translation>
     </message>
     <message id="TERMINAL_FEED_DISCONNECTED">
         <source></source>
-        <translation>未连接</translation>
+        <translation>离线</translation>
     </message>
     <message id="TERMINAL_FEED_OFFLINE_SINCE">
         <source></source>

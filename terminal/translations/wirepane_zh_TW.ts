@@ -285,11 +285,11 @@
     </message>
     <message id="TERMINAL_FEED_CONNECTED">
         <source></source>
-        <translation>已連線</translation>
+        <translation>即時</translation>
     </message>
     <message id="TERMINAL_FEED_DISCONNECTED">
         <source></source>
-        <translation>未連線</translation>
+        <translation>離線</translation>
     </message>
     <message id="TERMINAL_FEED_OFFLINE_SINCE">
         <source></source>

@@ -147,6 +147,15 @@ TEST_F(AutomationSessionTest, RequestsThatCannotBeDoneSayWhyAndEndNothing) {
         {u"control.choose"_s, {{u"id"_s, 3100}, {u"text"_s, u"No such tab"_s}}, -32001},
         {u"control.choose"_s, {{u"id"_s, 3100}}, -32602},
         {u"control.set"_s, {{u"id"_s, 3100}, {u"text"_s, u"x"_s}}, -32002},
+        {u"menu.open"_s, {}, -32602},
+        {u"menu.open"_s, {{u"id"_s, 3010}, {u"row"_s, 0}}, -32602},
+        {u"menu.open"_s, {{u"row"_s, 0}}, -32001},
+        {u"menu.open"_s, {{u"id"_s, 3009}}, -32002},
+        {u"menu.open"_s, {{u"point"_s, QJsonArray{5000, 1}}}, -32602},
+        {u"menu.choose"_s, {{u"id"_s, 5050}}, -32002},
+        {u"view.link"_s, {{u"group"_s, 256}}, -32602},
+        {u"view.open"_s, {{u"docked"_s, true}, {u"size"_s, QJsonArray{9, 9}}}, -32602},
+        {u"symbol.change"_s, {{u"group"_s, 1}, {u"service"_s, 16}}, -32602},
         {u"feed.push"_s, {{u"service"_s, 1}}, -32602},
         {u"feed.push"_s, news(1, now, 1, u""_s), -32602},
         {u"feed.connect"_s, {{u"on"_s, 1}}, -32602},
@@ -233,6 +242,50 @@ TEST_F(AutomationSessionTest, HostSettingsTakeEffectAtOnceAndSwitchesForTheNextV
     for (const QJsonValue& tab : state[u"tabs"_s].toArray())
         modes.append(tab[u"mode"_s].toInt());
     EXPECT_EQ(modes, (QList<int>{3, 6}));
+}
+
+TEST_F(AutomationSessionTest, MenusAnswerWhileTheyAreOpen) {
+    ScriptClient script(arguments());
+    script.result(u"view.open"_s);
+    const QJsonObject button{{u"id"_s, 3010}};
+    const QJsonArray items = script.result(u"menu.open"_s, button)[u"items"_s].toArray();
+    ASSERT_GT(items.size(), 2);
+    EXPECT_EQ(items[1][u"id"_s].toInt(), 5051);
+    EXPECT_TRUE(items[1][u"checked"_s].toBool());
+    EXPECT_EQ(script.errorCode(u"menu.open"_s, button), -32002) << "one is open";
+    EXPECT_EQ(script.errorCode(u"menu.choose"_s, QJsonObject{{u"id"_s, 1}}), -32001);
+    script.result(u"menu.choose"_s, QJsonObject{{u"id"_s, 5051}});
+    EXPECT_FALSE(script.result(u"view.state"_s)[u"services"_s][1][u"selected"_s].toBool(true));
+    script.result(u"menu.open"_s, button);
+    script.result(u"menu.choose"_s, QJsonObject{{u"id"_s, QJsonValue::Null}});
+    EXPECT_EQ(script.errorCode(u"menu.choose"_s, QJsonObject{{u"id"_s, 5051}}), -32002) << "dismissed";
+}
+
+TEST_F(AutomationSessionTest, ASymbolReachesTheLinkedViewsAlone) {
+    ScriptClient script(arguments());
+    for (const int group : {2, 2, 0}) {
+        const int view = script.result(u"view.open"_s)[u"view"_s].toInt();
+        script.result(u"view.link"_s, QJsonObject{{u"view"_s, view}, {u"group"_s, group}});
+    }
+    const auto change = [&script](int group, const QString& code) {
+        script.result(
+            u"symbol.change"_s,
+            QJsonObject{{u"group"_s, group}, {u"service"_s, 16}, {u"code"_s, code}, {u"name"_s, u"x"_s}});
+    };
+    const auto codes = [&script] {
+        QStringList found;
+        for (const int view : {1, 2, 3})
+            found.append(
+                script.result(u"view.state"_s, QJsonObject{{u"view"_s, view}})[u"symbol"_s][u"code"_s]
+                    .toString());
+        return found;
+    };
+    const QString before = codes().last();
+    change(2, u"6214"_s);
+    EXPECT_EQ(codes(), (QStringList{u"6214"_s, u"6214"_s, before}));
+    change(0, u"2330"_s);
+    change(5, u"2330"_s);
+    EXPECT_EQ(codes(), (QStringList{u"6214"_s, u"6214"_s, before}));
 }
 
 TEST_F(AutomationSessionTest, QuitAnswersAndEndsWithZero) {

@@ -75,4 +75,9 @@ int ScriptClient::endInput() {
                : -1;
 }
 
+void ScriptClient::kill() {
+    process.kill();
+    process.waitForFinished(answerMs);
+}
+
 }  // namespace wirepane::test

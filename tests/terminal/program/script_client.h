@@ -30,6 +30,8 @@ public:
     int endInput();
     // What the terminal has said on standard error.
     QString notes() { return QString::fromUtf8(process.readAllStandardError()); }
+    // Ends the terminal at once, as a crash would.
+    void kill();
     bool isRunning() const { return process.state() == QProcess::Running; }
 
 private:

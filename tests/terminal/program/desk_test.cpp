@@ -1,0 +1,206 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// The desk worked by keyboard: views, links, the symbol box, settings.
+#include "host/contract/clock.h"
+#include "host/controls/window_id.h"
+#include "terminal/automation/user_input.h"
+#include "terminal/frame/settings_dialog.h"
+#include "terminal/frame/symbol_box.h"
+#include "terminal/frame/view_desk.h"
+#include "terminal/frame/view_dock.h"
+#include "terminal/session/frame_commands.h"
+#include "terminal/session/session.h"
+#include "tests/terminal/program/program_runner.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace wirepane;
+using namespace wirepane::test;
+
+namespace {
+
+class DeskTest : public testing::Test {
+protected:
+    DeskTest() {
+        host_clock::startAt(QDateTime::fromString(u"2026-03-02T12:00:00"_s, Qt::ISODate).toSecsSinceEpoch());
+        auto opened =
+            Session::open({scratch.path(u"news.wirepane"_s), scratch.path(u"config"_s), u"en"_s, true});
+        session = std::move(opened.value());
+        commands = std::make_unique<FrameCommands>(*session);
+        session->frame().resize(1400, 800);
+        session->frame().show();
+        session->frame().activateWindow();
+        EXPECT_TRUE(session->keeper().restore());
+        EXPECT_TRUE(QTest::qWaitFor([this] { return session->frame().isActiveWindow(); }));
+    }
+
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+        QWidget* target = QApplication::focusWidget();
+        QTest::keyClick(target != nullptr ? target : &session->frame(), static_cast<Qt::Key>(key), modifiers);
+        QCoreApplication::processEvents();
+    }
+
+    int activeNumber() { return session->workspace().active()->number; }
+    QString codeOf(int view) {
+        return session->workspace().find(view)->access->State()[u"symbol"_s].toMap()[u"code"_s].toString();
+    }
+    // A symbol of the sample that news may name.
+    SymbolItem someSymbol(std::size_t place) {
+        std::vector<QString> codes;
+        std::vector<QString> names;
+        session->backEnd().symbols().GetSymbolsByService(16, codes, names, 1);
+        return {16, codes.at(place), names.at(place)};
+    }
+
+    Scratch scratch;
+    std::unique_ptr<Session> session;
+    std::unique_ptr<FrameCommands> commands;
+};
+
+TEST_F(DeskTest, ViewsAreOpenedReachedAndClosedByKeys) {
+    Workspace& workspace = session->workspace();
+    press(Qt::Key_N);
+    ASSERT_EQ(workspace.docked().size(), 2U);
+    EXPECT_GT(workspace.find(2)->dock->x(), workspace.find(1)->dock->x()) << "wide enough for two";
+    press(Qt::Key_N);
+    ASSERT_EQ(workspace.docked().size(), 3U);
+    EXPECT_EQ(activeNumber(), 3);
+    EXPECT_EQ(session->frame().tabifiedDockWidgets(workspace.find(3)->dock).size(), 1) << "not for four";
+
+    press(Qt::Key_Tab);
+    EXPECT_EQ(activeNumber(), 1);
+    press(Qt::Key_F6, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(activeNumber(), 3);
+    press(Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(activeNumber(), 2);
+    EXPECT_TRUE(workspace.find(2)->view->isAncestorOf(QApplication::focusWidget()));
+
+    emit session->frame().commanded(FrameCommand::ArrangeTabs);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(workspace.find(2)->view->isVisible());
+    EXPECT_EQ(session->frame().tabifiedDockWidgets(workspace.find(2)->dock).size(), 2);
+    emit session->frame().commanded(FrameCommand::ArrangeRows);
+    QCoreApplication::processEvents();
+    EXPECT_LT(workspace.find(1)->dock->y(), workspace.find(2)->dock->y());
+    EXPECT_LT(workspace.find(2)->dock->y(), workspace.find(3)->dock->y());
+
+    for (int left = 2; left >= 0; --left) {
+        press(Qt::Key_W);
+        EXPECT_EQ(workspace.docked().size(), static_cast<std::size_t>(left));
+    }
+    EXPECT_TRUE(session->frame().desk().isVisible()) << "an empty desk says how to go on";
+    press(Qt::Key_N);
+    EXPECT_EQ(workspace.docked().size(), 1U);
+}
+
+TEST_F(DeskTest, TheSymbolBoxDrivesTheViewsOfItsGroup) {
+    Workspace& workspace = session->workspace();
+    press(Qt::Key_N);
+    press(Qt::Key_N);
+    press(Qt::Key_0);  // the third view follows nothing
+    EXPECT_EQ(workspace.find(3)->view->GetLinkGroup(), 0);
+    const SymbolItem first = someSymbol(3);
+    press(Qt::Key_K);
+    QTest::keyClicks(QApplication::focusWidget(), first.code);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(codeOf(1), first.code);
+    EXPECT_EQ(codeOf(2), first.code);
+    EXPECT_NE(codeOf(3), first.code);
+
+    // By name, which need not begin so; and a text that fits nothing changes nothing.
+    const SymbolItem second = someSymbol(9);
+    auto* line = session->frame().symbolBox().findChild<QLineEdit*>();
+    for (const auto& [text, expected] :
+         {std::pair(second.name.mid(1), second.code), std::pair(u"no such symbol"_s, second.code)}) {
+        session->frame().symbolBox().begin();
+        typeText(*line, text);
+        QTest::keyClick(line, Qt::Key_Return);
+        EXPECT_EQ(codeOf(1), expected) << text.toStdString();
+    }
+    QTest::keyClick(line, Qt::Key_Escape);
+    EXPECT_EQ(line->text(), second.code);
+    EXPECT_FALSE(line->hasFocus());
+
+    // A view that joins the group takes its symbol; one that picks another hands it to the group.
+    workspace.link(*workspace.find(3), 1);
+    EXPECT_EQ(codeOf(3), second.code);
+    clickTab(*qobject_cast<QTabBar*>(GetDlgItem(workspace.find(3)->view, 3100)), 2);
+    chooseComboEntry(*qobject_cast<QComboBox*>(GetDlgItem(workspace.find(3)->view, 3005)), 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return codeOf(3) != second.code; }));
+    EXPECT_EQ(codeOf(1), codeOf(3));
+    EXPECT_EQ(line->text(), codeOf(3));
+    EXPECT_TRUE(workspace.find(3)->shownTitle().endsWith(codeOf(3)));
+}
+
+TEST_F(DeskTest, TitlesFollowTheUserTheTabAndTheLanguage) {
+    OpenView& view = *session->workspace().active();
+    EXPECT_EQ(view.shownTitle(), u"All News"_s);
+    clickTab(*qobject_cast<QTabBar*>(GetDlgItem(view.view, 3100)), 1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return view.dock->windowTitle().contains(u"By Category"_s); }));
+    session->setLanguage(u"zh-TW"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return view.dock->windowTitle().contains(u"分類新聞"_s); }));
+    QTimer::singleShot(0, &session->frame(), [this] {
+        auto* dialog = session->frame().findChild<QInputDialog*>();
+        dialog->setTextValue(u" Oil & gas "_s);
+        dialog->accept();
+    });
+    press(Qt::Key_F2, Qt::NoModifier);
+    EXPECT_EQ(view.shownTitle(), u"Oil & gas"_s);
+    EXPECT_TRUE(session->frame().windowTitle().startsWith(u"Oil & gas"_s));
+}
+
+TEST_F(DeskTest, SettingsTakeEffectWhenTheyAreAccepted) {
+    const auto answer = [this](bool accept) {
+        QTimer::singleShot(0, &session->frame(), [this, accept] {
+            auto* dialog = session->frame().findChild<SettingsDialog*>();
+            for (QCheckBox* box : dialog->findChildren<QCheckBox*>())
+                box->toggle();
+            dialog->findChild<QComboBox*>()->setCurrentIndex(2);
+            dialog->findChild<QDialogButtonBox*>()
+                ->button(accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel)
+                ->click();
+        });
+        emit session->frame().commanded(FrameCommand::Settings);
+    };
+    answer(false);
+    EXPECT_EQ(session->language(), u"en"_s);
+    EXPECT_TRUE(session->settings().switches().normalSearch);
+    EXPECT_FALSE(session->settings().switches().warningSearch);
+    answer(true);
+    EXPECT_EQ(session->language(), u"zh-CN"_s);
+    EXPECT_FALSE(session->settings().switches().normalSearch);
+    EXPECT_TRUE(session->settings().switches().warningSearch);
+    // The user's views are opened anew under their numbers, with the new tabs.
+    QSet<int> modes;
+    const QVariantList tabs = session->workspace().find(1)->access->State()[u"tabs"_s].toList();
+    for (const QVariant& tab : tabs)
+        modes.insert(tab.toMap()[u"mode"_s].toInt());
+    EXPECT_FALSE(modes.contains(4));
+}
+
+TEST_F(DeskTest, ClosedAndDuplicatedViewsKeepTheirSettingsApart) {
+    Workspace& workspace = session->workspace();
+    clickTab(*qobject_cast<QTabBar*>(GetDlgItem(workspace.find(1)->view, 3100)), 1);
+    press(Qt::Key_D);
+    EXPECT_EQ(workspace.find(2)->access->State()[u"mode"_s].toInt(), 1);
+    session->keeper().save();
+    workspace.close(2);
+    press(Qt::Key_N);
+    EXPECT_EQ(workspace.find(3)->place, 1);
+    EXPECT_EQ(workspace.find(3)->access->State()[u"mode"_s].toInt(), 0) << "a new view is a fresh one";
+}
+
+}  // namespace
