@@ -115,6 +115,8 @@ QString HeadlineList::Text(int row, int column) const {
 }
 
 QColor HeadlineList::TextColour(int row, int column) const {
+    if (column == 0 && row >= 0 && row < table.size())
+        return owner.TimeColour(table.at(row).time);
     const WrittenCells* written = column == 1 && !hasTwoColumns() ? cellsOf(row) : nullptr;
     return written != nullptr ? written->categoryColour : QColor();
 }

@@ -66,6 +66,7 @@ inline constexpr QLatin1StringView onlySelect{"IDS_NEWSCTRLVIEW_STRING_ONLYSELEC
 inline constexpr QLatin1StringView inSomeDays{"IDS_NEWSCTRLVIEW_STRING_INSOMEDAYS"};
 inline constexpr QLatin1StringView afterDays{"IDS_NEWSCTRLVIEW_STRING_AFTERDAYS"};
 inline constexpr QLatin1StringView clearService{"IDS_NEWSCTRLVIEW_STRING_CLEAR_SERVICE"};
+inline constexpr QLatin1StringView offlineSince{"IDS_NEWSCTRLVIEW_STRING_OFFLINE_SINCE"};
 inline constexpr QLatin1StringView invalidDate{"IDS_NEWSCTRLVIEW_STRING_INVALID_DATE1"};
 inline constexpr QLatin1StringView classNotFound{"IDS_NEWSCTRLVIEW_STRING_NEWS_CLASS_NOT_FOUND"};
 inline constexpr QLatin1StringView symbolNewsNotFound{"IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS_NOT_FOUND"};

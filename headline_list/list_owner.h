@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QString>
 
+#include <cstdint>
 #include <vector>
 
 // What the headline lists need from the view that owns them. Interface thread only.
@@ -23,6 +24,11 @@ public:
     virtual QString cszTransferCatIDToCatName(int id) const = 0;
     // The colours of a category by its name. 1 when it has an id; else 0 and both unchanged.
     virtual int GetCategoryColor(const QString& name, QColor& text, QColor& background) const = 0;
+    // The text colour of the time of a row; invalid: the grid's own.
+    virtual QColor TimeColour(std::int64_t time) const {
+        Q_UNUSED(time);
+        return {};
+    }
     // A row has been written: the state of the category column applies to it too.
     virtual void vCategoryStateAfterWriting() = 0;
 };

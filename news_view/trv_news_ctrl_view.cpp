@@ -143,13 +143,13 @@ bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
             services.vSelect(static_cast<std::size_t>(services.iGetWarrantIndex()), true);
             NewsServices::RegisterService(*this, warrantService);
             if (!lists.bRebuildWarrant(PickedDateKey()))
-                statusText.clear();
+                vSetStatusText({});
             return true;
         case ListIndex::WarningTerm:
             break;
     }
     if (!hasRows)
-        statusText.clear();
+        vSetStatusText({});
     return hasRows;
 }
 

@@ -4,6 +4,7 @@
 
 #include "headline_list/date_pager.h"
 #include "headline_list/entry_source.h"
+#include "headline_list/feed_breaks.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/intake.h"
 #include "headline_list/list_owner.h"
@@ -151,6 +152,8 @@ public:
     void RespHeadLine(const std::vector<CHeadlineTable>& entries) override;
     void RespStory(const CHeadlineTable& entry) override;
     void StoryUpdateNotify(const CHeadlineTable* entry) override;
+    // While there is no connection the view says since when; news of that time is marked in the lists.
+    void vConnectionChanged(bool connected) override;
 
     // --- Categories ---
 
@@ -241,6 +244,10 @@ private:
     // Lists and painting.
     void OnChangeSize(quintptr sender);
     void DrawTitile(QPainter& painter);
+    void vDrawNotice(QPainter& painter);
+    void vSetStatusText(const QString& text);
+    QRect NoticeArea() const;
+    QColor TimeColour(std::int64_t time) const override;
     LayoutInput vLayoutInput() const;
     QString PickedDateKey() const;
     HeadlineList& List(ListIndex index) { return lists[index]; }
@@ -267,6 +274,7 @@ private:
 
     QString statusText;  // what the view has to say about its lists; empty most of the time
     DatePager dates;
+    FeedBreaks breaks;
     int newsType = 0;
     int currentMode = 0;
     int lastClientWidth = 0;

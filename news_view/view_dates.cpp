@@ -63,7 +63,7 @@ bool TRVNewsCtrlView::bChangeDate(const QDate& date) {
     vForgetShownStory();
     if (lists.bRebuild(ListIndex::All, TableKind::ByDate, PickedDateKey()))
         return true;
-    statusText.clear();
+    vSetStatusText({});
     return false;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Headlines that arrive while the view is open.
 #include "headline_list/intake.h"
+#include "host/contract/clock.h"
 #include "host/controls/s_date_time_ctrl.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
@@ -37,6 +38,14 @@ void TRVNewsCtrlView::RecvNewHeadLine(const CHeadline* headline, const QString& 
         vKeepShownStory(target.list, List(target.list).vProcessNewHeadline(*headline, target.showDate));
     vUpdateView();
     vForgetShownStory();
+}
+
+void TRVNewsCtrlView::vConnectionChanged(bool connected) {
+    if (connected)
+        breaks.vRestored(host_clock::now());
+    else
+        breaks.vLost(host_clock::now());
+    update();
 }
 
 // The pane keeps its story while rows come and go above it.

@@ -108,7 +108,7 @@ bool TRVNewsCtrlView::bTakeTableAgain(const CHeadlineTableInfo& info, ListIndex 
     QString name;
     backEnd.BKQNEWS_bGetShortNameByService(name, info.service);
     if (!statusText.contains(name))
-        statusText += name + QLatin1Char(' ');
+        vSetStatusText(statusText + name + QLatin1Char(' '));
     vTipOver(list, statusText + nothingFound.separator + LangText(backEnd, nothingFound.key));
     return false;
 }

@@ -27,6 +27,8 @@ constexpr int tabStripHeight = 22;
 
 void TRVNewsCtrlView::OnInitialUpdate() {
     TRVQuoteBaseView::OnInitialUpdate();
+    if (backEnd.bIsConnect() != 1)
+        vConnectionChanged(false);
     GetConfigFromIni();
     services.vLoad(backEnd);
     vFillServiceMenu();

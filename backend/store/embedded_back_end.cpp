@@ -145,6 +145,7 @@ void EmbeddedBackEnd::setConnected(bool on) {
     if (on == connected)
         return;
     connected = on;
+    ForEachReceiver([on](NewsReceiver& receiver) { receiver.vConnectionChanged(on); });
     if (!on) {
         delivery.close();
         return;

@@ -69,7 +69,7 @@ public:
     // True when every receiver has been told of everything that is in the store.
     bool isDelivered() const { return delivery.isDone(); }
 
-    // While not connected, receivers are told nothing. What came meanwhile is told when the connection is
+    // Tells the receivers of the change. While not connected, they are told no news. What came meanwhile is told when the connection is
     // back, oldest first. At first: connected.
     void setConnected(bool on);
     // How many headlines were told late after the last break.

@@ -11,6 +11,7 @@ void NewsReceiver::vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo*) {}
 void NewsReceiver::vRecvCatHeadlineTableRecovery(const CHeadlineTableInfo*) {}
 void NewsReceiver::vRecvSymHeadlineTableRecovery(const CHeadlineTableInfo*) {}
 void NewsReceiver::vRecvNewsRelateSymbolListRecovery(const CNewsSymlistInfo*) {}
+void NewsReceiver::vConnectionChanged(bool) {}
 void NewsReceiver::vRecvNewMarketStatus(const CMarketStatus*) {}
 void NewsReceiver::vRecvNewMemory(const CQuoteMemory*) {}
 void NewsReceiver::vRecvMemoryRecovery(const CQuoteMemory*) {}

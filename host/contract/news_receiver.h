@@ -31,6 +31,8 @@ public:
     virtual void vRecvSymHeadlineTableRecovery(const CHeadlineTableInfo*);
     // The related symbols of a headline have been sent again.
     virtual void vRecvNewsRelateSymbolListRecovery(const CNewsSymlistInfo*);
+    // The connection to the source of news is lost, is back; what was missed is pushed afterwards.
+    virtual void vConnectionChanged(bool connected);
     // A service has started a new news day.
     virtual void vRecvNewMarketStatus(const CMarketStatus*);
 

@@ -147,6 +147,10 @@
         <source></source>
         <translation>This headline has no story.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_OFFLINE_SINCE">
+        <source></source>
+        <translation>Offline since</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLYSELECT">
         <source></source>
         <translation>Only the last </translation>

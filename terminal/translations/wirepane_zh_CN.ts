@@ -147,6 +147,10 @@
         <source></source>
         <translation>本条新闻没有正文。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_OFFLINE_SINCE">
+        <source></source>
+        <translation>离线，自</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLYSELECT">
         <source></source>
         <translation>只能选择最近 </translation>

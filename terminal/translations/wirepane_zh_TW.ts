@@ -147,6 +147,10 @@
         <source></source>
         <translation>本則新聞沒有內文。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_OFFLINE_SINCE">
+        <source></source>
+        <translation>離線，自</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLYSELECT">
         <source></source>
         <translation>只能選擇最近 </translation>

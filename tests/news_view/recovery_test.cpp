@@ -165,6 +165,34 @@ TEST_F(Recovery, AServiceWithoutDataIsNamedOnce) {
     EXPECT_EQ(titles(1), QStringList{u"s1 9:00"_s}) << "the other services' news are there";
 }
 
+TEST_F(Recovery, NewsOfABreakIsMarkedAndTheBreakIsShown) {
+    addNews(1, 9, 10, 1);
+    openActive();
+    const auto colour = [this](int row) {
+        return view->Sheet(0)->model()->index(row, 0).data(Qt::ForegroundRole);
+    };
+    const auto picture = [this] { return view->grab(QRect(200, 20, 400, 40)).toImage(); };
+    const QImage connected = picture();
+    const auto at = [](int minute) { host_clock::startAt(localTime(2026, 3, 2, 9, minute)); };
+    at(30);
+    view->vConnectionChanged(false);
+    EXPECT_NE(picture(), connected);
+    at(35);
+    view->vConnectionChanged(true);
+    EXPECT_EQ(picture(), connected);
+    push(1, 9, 29, 2);
+    push(1, 9, 30, 3);
+    push(1, 9, 34, 4);
+    push(1, 9, 35, 5);
+    EXPECT_EQ(titles(0),
+              (QStringList{u"pushed 5"_s, u"pushed 4"_s, u"pushed 3"_s, u"pushed 2"_s, u"s1 9:10"_s}));
+    const QVariant plain = colour(0);
+    for (const int row : {1, 2})
+        EXPECT_NE(colour(row), plain) << row;
+    for (const int row : {3, 4})
+        EXPECT_EQ(colour(row), plain) << row;
+}
+
 TEST_F(Recovery, TheWarningTermListFollowsTheAllNewsList) {
     writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
     addNews(1, 9, 0, 1);

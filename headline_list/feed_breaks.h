@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+// The times at which the back end was cut off from its source. News of such a time came late. Times are
+// seconds since 1970.
+class FeedBreaks {
+public:
+    // The connection is lost, is back. Said twice it counts once.
+    void vLost(std::int64_t now);
+    void vRestored(std::int64_t now);
+
+    // Since when there is no connection; nothing while there is one.
+    std::optional<std::int64_t> Since() const { return since; }
+    // True for a time within a break, also the one that is on.
+    bool bHolds(std::int64_t time) const;
+
+private:
+    struct Break {
+        std::int64_t from;
+        std::int64_t to;  // not itself within it
+    };
+    std::vector<Break> past;
+    std::optional<std::int64_t> since;
+};
