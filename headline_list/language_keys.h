@@ -71,6 +71,12 @@ inline constexpr QLatin1StringView invalidDate{"IDS_NEWSCTRLVIEW_STRING_INVALID_
 inline constexpr QLatin1StringView classNotFound{"IDS_NEWSCTRLVIEW_STRING_NEWS_CLASS_NOT_FOUND"};
 inline constexpr QLatin1StringView symbolNewsNotFound{"IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS_NOT_FOUND"};
 
+// What the view says about searches.
+inline constexpr QLatin1StringView searching{"IDS_NEWSCTRLVIEW_STRING_NEWS_SEARCHING"};
+inline constexpr QLatin1StringView newsNotFound{"IDS_NEWSCTRLVIEW_STRING_NEWS_NOT_FOUND"};
+inline constexpr QLatin1StringView invalidSearch{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH"};
+inline constexpr QLatin1StringView reinput{"IDS_NEWSCTRLVIEW_STRING_REINPUT"};
+
 inline constexpr QLatin1StringView storyRemark{"IDS_NEWSCTRLVIEW_STRING_PS"};
 inline constexpr QLatin1StringView noStory{"IDS_NEWSCTRLVIEW_STRING_NO_NEWS_STORY"};
 inline constexpr QLatin1StringView waitForUpdate{"IDS_NEWSCTRLVIEW_STRING_WAIT_FOR_UPDATE"};

@@ -54,6 +54,14 @@ TableRuns ReadTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>&
                         });
 }
 
+TableRuns ReadEveryTable(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
+                         const QString& key) {
+    TableRuns runs;
+    for (const ServiceEntry& entry : services)
+        runs.push_back(ReadServiceTable(backEnd, entry.service, kind, key).front());
+    return runs;
+}
+
 TableRuns ReadCurrentTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
                             RelationFilter filter) {
     return readSelected(

@@ -21,6 +21,10 @@ using RelationFilter = const std::vector<RelationCondition>*;
 TableRuns ReadTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
                      const QString& key, RelationFilter filter = nullptr);
 
+// The same of every service, selected or not.
+TableRuns ReadEveryTable(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
+                         const QString& key);
+
 // By date: each service's current news date.
 TableRuns ReadCurrentTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
                             RelationFilter filter = nullptr);

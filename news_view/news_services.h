@@ -7,6 +7,7 @@
 #include "host/contract/cfg_io.h"
 
 #include <functional>
+#include <span>
 #include <vector>
 
 class TRVQuoteBaseView;
@@ -21,6 +22,8 @@ public:
 
     const std::vector<ServiceEntry>& Entries() const { return live; }
     const std::vector<ServiceEntry>& Saved() const { return saved; }
+    // The live list, for searches to note whom they wait for.
+    std::span<ServiceEntry> vGetLive() { return live; }
     // The index of the warrant service; -1 when there is none.
     int iGetWarrantIndex() const { return warrantIndex; }
 

@@ -8,6 +8,7 @@
 #include "host/contract/item_display.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/sc_combo_box.h"
+#include "host/controls/xt_tip_window.h"
 #include "news_view/control_ids.h"
 #include "story/quote_dlg_tip_msg.h"
 #include "story/trv_news_story.h"
@@ -20,6 +21,8 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       lists(backEnd, *this),
       controls(*this, backEnd),
       symbols(backEnd, controls),
+      searches(backEnd),
+      shortTip(new CXTTipWindow(this)),
       dates(host_clock::today()) {}
 
 TRVNewsCtrlView::~TRVNewsCtrlView() {
@@ -43,6 +46,8 @@ bool TRVNewsCtrlView::OnCommand(int id) {
     };
     static constexpr Command commands[] = {
         {ids::tabStrip, &TRVNewsCtrlView::OnSelchangeTabMode},
+        {ids::searchButton, &TRVNewsCtrlView::OnSearch},
+        {ids::dealsSearchButton, &TRVNewsCtrlView::OnDealsSearchDlg},
         {ids::showTypeButton, &TRVNewsCtrlView::OnBtnChangeShowType},
         {ids::categoryCombo, &TRVNewsCtrlView::OnSelchangeComboIndex},
         {ids::symbolCombo, &TRVNewsCtrlView::OnSelchangeComboSymbol},
@@ -81,6 +86,7 @@ void TRVNewsCtrlView::vRealUpdateView() {
 
 void TRVNewsCtrlView::OnTimer(int id) {
     if (id == ids::refreshTimer) {
+        vSearchForPushed();
         vRealUpdateView();
         ChangeCurrViewCategoryState(settings.showCategory);
         KillTimer(ids::refreshTimer);

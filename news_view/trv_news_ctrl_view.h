@@ -19,17 +19,20 @@
 #include "news_view/symbol_binding.h"
 #include "news_view/view_layout.h"
 #include "news_view/view_settings.h"
+#include "search/search_desk.h"
 
 #include <QLatin1StringView>
 #include <QMenu>
 #include <QPointer>
 
 #include <array>
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
 
 class CQuoteDlgTipMsg;
+class CXTTipWindow;
 
 // The news view that a terminal places in its frames. It owns the parts that do the work (services, lists,
 // controls, story stage, catalogues) and forwards to them; what it does itself is the order in which things
@@ -143,6 +146,29 @@ public:
     void vRecvCatHeadlineTableRecovery(const CHeadlineTableInfo* info) override;
     void vRecvSymHeadlineTableRecovery(const CHeadlineTableInfo* info) override;
 
+    // --- Searches ---
+
+    // Searches headlines for the text of the search box. An empty one is refused with a tip, one that holds
+    // "AND" or "OR" with a message box.
+    void OnSearch();
+    // The user presses Enter in the search box.
+    void vOnEnterDown() { OnSearch(); }
+    // The user composes the search of the search mode; unless he cancels it is sent. What he changed stays
+    // in force in either case.
+    void OnDealsSearchDlg();
+    // Sends the search of the current mode to the selected services and shows what is at hand for it. Nothing
+    // in modes without searches.
+    void OnDealsSearch();
+    // A service has answered: the results of all services are shown anew.
+    void RespSearchHeadLineTable(const CSearch& condition, unsigned char serviceId) override;
+    // Searches a headline's service again and puts the headline in where its table has its number.
+    void ProcessNewSearchHeadline(CSearch& condition, ListIndex list, const CHeadline& headline,
+                                  const QString& key);
+    // Narrows a search to a symbol and sends it again, as far as the current mode has one.
+    void vDoSearchChangeSymbol(const CSearch& condition, unsigned char market, const QString& symbolCode);
+    // A short tip in the middle of a rectangle of the screen.
+    void vShowTip(const QRect& rectangle, const QString& text);
+
     // --- Stories and what the back end pushes ---
 
     // Shows the story of the current grid's focused row; without one the pane is emptied.
@@ -227,7 +253,8 @@ private:
     void vConnectDatePicker();
     void vRefuseDate(const QString& why);
     // Shows a tip over the grid of a list for a second.
-    void vTipOver(ListIndex list, const QString& text);
+    void vTipOver(ListIndex list, const QString& text) { vTipOver(list, text, shortTipTimeMs); }
+    void vTipOver(ListIndex list, const QString& text, int timeMs);
     // What a tip says of a table without data: the status text, the separator, the key's text.
     struct NothingFound {
         QLatin1StringView key;
@@ -240,6 +267,17 @@ private:
     bool bIsServiceSelected(unsigned char service) const;
     // The id of the chosen category; none: nothing is chosen.
     std::optional<QString> SelectedCategoryId() const;
+
+    // Searches.
+    static constexpr int shortTipTimeMs = 1000;
+    void vConnectSearchEdit();
+    QString cszSearchText() const;
+    void vTipAtSearchEdit(const QString& text);
+    void vShowFound(ListIndex list, bool selectFirst);
+    void vStopWaiting();
+    void vSearchForPushed();
+    void vSearchForSymbol(const CSymbolInfo& symbol);
+    void vUpdateSymbolPicker(const std::vector<CSymbolUpdateInfo>& updates);
 
     // Lists and painting.
     void OnChangeSize(quintptr sender);
@@ -269,8 +307,11 @@ private:
     ModeLoading loading;
     ApplicationSwitches switches;
     ViewSettings settings;
+    SearchDesk searches;
+    std::map<unsigned char, CHeadline> pushedToSearch;  // the newest of each service since the last refresh
     std::unique_ptr<QMenu> serviceMenu;
     QPointer<CQuoteDlgTipMsg> tip;
+    CXTTipWindow* shortTip;
 
     QString statusText;  // what the view has to say about its lists; empty most of the time
     DatePager dates;

@@ -13,10 +13,6 @@
 
 #include <stdexcept>
 
-namespace {
-constexpr int tipTimeMs = 1000;
-}
-
 QString TRVNewsCtrlView::PickedDateKey() const {
     const bool hasPicker = controls.Find<SDateTimeCtrl>(ids::datePicker) != nullptr;
     return DateKey(hasPicker ? dates.Picked() : QDate());
@@ -73,13 +69,13 @@ void TRVNewsCtrlView::vRefuseDate(const QString& why) {
         picker->vSetDate(dates.Picked());
 }
 
-void TRVNewsCtrlView::vTipOver(ListIndex list, const QString& text) {
+void TRVNewsCtrlView::vTipOver(ListIndex list, const QString& text, int timeMs) {
     CSuperSheetWnd* sheet = List(list).pGetGrid();
     if (tip == nullptr || sheet == nullptr)
         return;
     // The view's colours the other way round, so that the tip stands out from the rows under it.
     tip->vSetFont(GetViewFont());
-    tip->vSetInfo(nullptr, text, colBackground, colText, tipTimeMs);
+    tip->vSetInfo(nullptr, text, colBackground, colText, timeMs);
     tip->vShow(sheet, 0, 0, false);
 }
 

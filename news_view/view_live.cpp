@@ -36,6 +36,8 @@ void TRVNewsCtrlView::RecvNewHeadLine(const CHeadline* headline, const QString& 
         return;
     for (const IntakeTarget& target : ListsFor({*headline, categoryId, symbolCode}, state))
         vKeepShownStory(target.list, List(target.list).vProcessNewHeadline(*headline, target.showDate));
+    if (currentMode == static_cast<int>(ListIndex::WarningTerm))
+        pushedToSearch[headline->service] = *headline;
     vUpdateView();
     vForgetShownStory();
 }

@@ -51,6 +51,8 @@ void TRVNewsCtrlView::vReloadForServices() {
     if (symbols.SelectedSymbol())
         lists.bRebuildSymbol(symbols.Current(), vRelationFilter());
     vChangeNewsTable(ListIndex::Relation, TableKind::ByDate, DateKey(host_clock::today()));
+    if (currentMode == static_cast<int>(ListIndex::Search) && Sheet(currentMode) != nullptr)
+        OnSearch();
 }
 
 void TRVNewsCtrlView::vChangeNewsTable(ListIndex list, TableKind kind, const QString& key) {

@@ -69,6 +69,7 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
         controls.CreateFunctionBtn();
     }
     services.vInitialNewsService(*reader, settingsPath, *this);
+    searches.memory = SearchMemory::read(*reader, settingsPath);
     bInitialTransferCatObject();
     bInitialTransferWarrantCatObject();
     vViewCreate();
@@ -187,6 +188,8 @@ void TRVNewsCtrlView::vCreateMode(ListIndex mode, const QRect& gridArea, const Q
         controls.vCreateCategoryCombo(QRect(row.x(), row.y(), 120, 200));
     else
         controls.CreateControls(mode, row, GetViewFont());
+    if (mode == ListIndex::Search)
+        vConnectSearchEdit();
 }
 
 void TRVNewsCtrlView::vInitialSheetWnd(ListIndex list, const QRect& rectangle) {
@@ -223,4 +226,5 @@ void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, in
         settings.symbolId = symbols.Current().code;
     settings.write(*writer, path);
     services.vSave(*writer, path);
+    searches.memory.write(*writer, path);
 }

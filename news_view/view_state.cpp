@@ -3,6 +3,7 @@
 // What the news view lets the host's scripts look at.
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/window_id.h"
+#include "host/controls/xt_tip_window.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
@@ -120,5 +121,7 @@ QVariantMap TRVNewsCtrlView::State() const {
                                                    {QStringLiteral("code"), symbols.Current().code}}},
             {QStringLiteral("tabs"), tabs},
             {QStringLiteral("tip"), tipState(tip, *this)},
+            {QStringLiteral("shortTip"), QVariantMap{{QStringLiteral("visible"), shortTip->isVisible()},
+                                                     {QStringLiteral("text"), shortTip->text()}}},
             {QStringLiteral("services"), serviceStates}};
 }

@@ -24,7 +24,7 @@ void TRVNewsCtrlView::OnShowStory() {
         return;
     shownStoryRow = row;
     pane->vSetFont(GetViewFont());
-    pane->vSetStoryData(currentMode, row);
+    pane->vSetStoryData(currentMode, row, searches.FoundUnder(static_cast<ListIndex>(currentMode)));
 }
 
 void TRVNewsCtrlView::vForgetShownStory() {

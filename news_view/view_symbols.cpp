@@ -79,6 +79,7 @@ void TRVNewsCtrlView::ChangeSymbol(const QWidget* sender, unsigned char group, u
     vSetBaseSymbol(backEnd.bIsSymbolIDExist(service, code) == 1 ? CSymbolInfo{service, code} : CSymbolInfo{});
     symbols.vSetCurrent({service, code});
     vDoNormalChangeSymbol(service, code);
+    vSearchForSymbol({service, code});
     if ((settings.functions & symbolNewsMask) == 0)
         return;
     if (symbols.IsSupportNews(service, code)) {
@@ -169,6 +170,7 @@ void TRVNewsCtrlView::OnSelchangeComboService() {
 }
 
 void TRVNewsCtrlView::vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) {
+    vUpdateSymbolPicker(updates);
     for (const CSymbolUpdateInfo& update : updates) {
         if (!symbols.IsSupportNews(update.service, update.code))
             continue;

@@ -256,6 +256,15 @@ bool EmbeddedBackEnd::bGetCategorybySymbolID(int& category, unsigned char servic
     return true;
 }
 
+bool EmbeddedBackEnd::bGetItemDataByItemNo(QString& value, unsigned char market, const QString& code,
+                                           int item) {
+    const SymbolItem* symbol = symbols().find(market, code);
+    if (symbol == nullptr || (item != symbol_items::name && item != symbol_items::nameWithMonth))
+        return false;
+    value = symbol->name;
+    return true;
+}
+
 // --- Services ---
 
 bool EmbeddedBackEnd::BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& services) {

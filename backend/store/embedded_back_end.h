@@ -124,6 +124,7 @@ public:
                       std::vector<QString>& names) override;
     int bIsSymbolIDExist(unsigned char service, const QString& code) override;
     bool bGetCategorybySymbolID(int& category, unsigned char service, const QString& code) override;
+    bool bGetItemDataByItemNo(QString& value, unsigned char market, const QString& code, int item) override;
     int bIsConnect() override { return connected ? 1 : 0; }
     int BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>& table, unsigned char service,
                                   const CSymbolInfo& symbol) override;

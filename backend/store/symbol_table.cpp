@@ -72,6 +72,21 @@ std::vector<SymbolItem> SymbolTable::search(const QString& text, std::size_t lim
     return result;
 }
 
+bool SymbolTable::FindSearchList(const QString& typed, std::vector<QString>& candidates) {
+    constexpr std::size_t mostCandidates = 200;
+    candidates.clear();
+    for (const SymbolItem& symbol : search(typed, mostCandidates)) {
+        const QString text = symbol.code + QLatin1Char(' ') + symbol.name;
+        const auto marketsWithCode = std::count_if(byMarket.begin(), byMarket.end(), [&](const auto& market) {
+            return market.second.count(symbol.code) != 0;
+        });
+        // Readers skip up to the first bracket: a text with one of its own must not begin there.
+        const bool named = marketsWithCode > 1 || text.contains(QLatin1Char(']'));
+        candidates.push_back(named ? QStringLiteral("[%1]").arg(symbol.market) + text : text);
+    }
+    return !candidates.empty();
+}
+
 bool SymbolTable::GetSymbolsByService(unsigned char service, std::vector<QString>& codes,
                                       std::vector<QString>& names, int) {
     codes.clear();

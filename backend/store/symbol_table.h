@@ -35,6 +35,8 @@ public:
     // Every symbol of a service, whatever the kind: the store keeps no other than those that news may name.
     bool GetSymbolsByService(unsigned char service, std::vector<QString>& codes, std::vector<QString>& names,
                              int kind) override;
+    // Up to 200 candidates. The market stands before a code that several markets have.
+    bool FindSearchList(const QString& typed, std::vector<QString>& candidates) override;
 
 private:
     struct Entry {

@@ -98,6 +98,18 @@ bool BKQuoteInterface::bGetCategorybySymbolID(int&, unsigned char, const QString
     return false;
 }
 
+bool BKQuoteInterface::bGetItemDataByItemNo(QString&, unsigned char, const QString&, int) {
+    return false;
+}
+
+bool BKQuoteInterface::bSymbolNameIsShowRealMonth() {
+    return false;
+}
+
+bool BKQuoteInterface::bGetCommodityIDBySymbolID(QString&, unsigned char, const QString&) {
+    return false;
+}
+
 int BKQuoteInterface::BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>&, unsigned char,
                                                 const CSymbolInfo&) {
     return 0;

@@ -14,6 +14,12 @@
 // Kinds of headline tables in the key form of BKQNEWS_iGetHeadlineTable and BKNEWS_bReRequestHeadlineTable.
 enum class TableKind : int { ByDate = 0, ByCategory = 1, Search = 3, SecondSearch = 4 };
 
+// The items of a symbol's data that the module reads.
+namespace symbol_items {
+inline constexpr int name = 1019;
+inline constexpr int nameWithMonth = 2020;
+}  // namespace symbol_items
+
 // The back end that a host gives to the news module. The module owns no news: everything it shows comes from
 // here, as a synchronous look-up into what the back end has at hand, or as the later answer to a request.
 //
@@ -84,6 +90,14 @@ public:
     virtual int bIsSymbolIDExist(unsigned char service, const QString& code);
     // The market's kind of a symbol. False, and `category` unchanged, for an unknown symbol.
     virtual bool bGetCategorybySymbolID(int& category, unsigned char service, const QString& code);
+    // One item of a symbol's data as text, by the number of the item. False, and `value` unchanged, when it
+    // is not at hand.
+    virtual bool bGetItemDataByItemNo(QString& value, unsigned char market, const QString& code, int item);
+    // True when the names of symbols are shown with their real month (symbol_items::nameWithMonth).
+    virtual bool bSymbolNameIsShowRealMonth();
+    // The id of the commodity that a symbol of a futures market is traded on. False, and `commodity`
+    // unchanged, when there is none.
+    virtual bool bGetCommodityIDBySymbolID(QString& commodity, unsigned char market, const QString& code);
 
     // --- Headlines and stories ---
 

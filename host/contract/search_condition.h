@@ -17,6 +17,12 @@ struct CSearch {
     std::int64_t time = 0;             // when it was composed, seconds since 1970; not part of equality
     std::vector<CSymbolInfo> symbols;  // narrows the search to stories of these symbols; empty: no narrowing
     bool keywordSearch = false;        // true: a shown story has the keywords marked
+
+    // The condition as a text of one line, whatever its keywords hold.
+    QString GetString() const;
+    // Reads back what GetString made. False, and the condition unchanged, for any other text; a keyword that
+    // repeats or is empty is left out.
+    bool LoadStringA(const QString& text);
 };
 
 // Two conditions ask for the same: keywords in order, scope, method and symbols are equal.

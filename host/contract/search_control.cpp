@@ -35,6 +35,11 @@ bool SearchControl::GetSymbolsByService(unsigned char, std::vector<QString>& cod
     return false;
 }
 
+bool SearchControl::FindSearchList(const QString&, std::vector<QString>& candidates) {
+    candidates.clear();
+    return false;
+}
+
 bool bIsNormalTWSESymbolID(unsigned char service, const QString& code) {
     return service == stockExchangeService && !code.isEmpty() && !code.startsWith(u'#');
 }

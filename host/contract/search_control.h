@@ -22,6 +22,9 @@ public:
     // both empty.
     virtual bool GetSymbolsByService(unsigned char service, std::vector<QString>& codes,
                                      std::vector<QString>& names, int kind);
+    // Replaces `candidates` by the symbols that typed text may mean, best first: "CODE NAME" each, or
+    // "[MARKET]CODE NAME". The code holds no blank. False: none.
+    virtual bool FindSearchList(const QString& typed, std::vector<QString>& candidates);
 };
 
 // True for the code of an ordinary security of the stock exchange (service 16): any but an index ("#...").

@@ -7,6 +7,122 @@
         <source></source>
         <translation>There is no news for this symbol.</translation>
     </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_CHOOSE">
+        <source></source>
+        <translation>&amp;Add</translation>
+    </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_CLOSE">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_HINT">
+        <source></source>
+        <translation>Search by code or name</translation>
+    </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_TITLE">
+        <source></source>
+        <translation>Choose a Symbol</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ADD_BUTTON">
+        <source></source>
+        <translation>&amp;Add ▸</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_AND_BUTTON">
+        <source></source>
+        <translation>All &amp;keywords</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_CONDITION">
+        <source></source>
+        <translation>Match</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DELALL_BUTTON">
+        <source></source>
+        <translation>Remove A&amp;ll</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DEL_BUTTON">
+        <source></source>
+        <translation>◂ &amp;Remove</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DEL_KEY">
+        <source></source>
+        <translation>&amp;Forget keyword</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_GROUP1">
+        <source></source>
+        <translation>Keywords</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_GROUP2">
+        <source></source>
+        <translation>Search for</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_HEADLINE_SEARCH">
+        <source></source>
+        <translation>&amp;Headlines</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_HEARLINE_AND_STORY_SEARCH">
+        <source></source>
+        <translation>&amp;Both</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_IDOK">
+        <source></source>
+        <translation>S&amp;earch</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_KEYWORD_HINT">
+        <source></source>
+        <translation>Keyword, then Enter</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NEAR10FILTER">
+        <source></source>
+        <translation>Recent searches</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_OR_BUTTON">
+        <source></source>
+        <translation>An&amp;y keyword</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_PICKER">
+        <source></source>
+        <translation>Choose from all symbols</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_RANGE">
+        <source></source>
+        <translation>Look in</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REQDELALL">
+        <source></source>
+        <translation>Remove all keywords from this search?</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_CONTENTS">
+        <source></source>
+        <translation>Keywords</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_METHOD">
+        <source></source>
+        <translation>Match</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_SCOPE">
+        <source></source>
+        <translation>Look in</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_STORY_SEARCH">
+        <source></source>
+        <translation>&amp;Stories</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SYMBOL">
+        <source></source>
+        <translation>Symbols</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SYMBOL_HINT">
+        <source></source>
+        <translation>Code or name</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_TITLE">
+        <source></source>
+        <translation>Advanced Search</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_IDCANCEL">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
     <message id="IDS_DIALOG-STORY_NEXT_BUTTON">
         <source></source>
         <translation>Next</translation>
@@ -134,6 +250,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_NOT_FOUND">
         <source></source>
         <translation>No news matches the search.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_SEARCHING">
+        <source></source>
+        <translation>Searching:</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_TITLE">
         <source></source>

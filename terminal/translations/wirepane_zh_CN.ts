@@ -7,6 +7,122 @@
         <source></source>
         <translation>此品种没有新闻。</translation>
     </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_CHOOSE">
+        <source></source>
+        <translation>加入(&amp;A)</translation>
+    </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_CLOSE">
+        <source></source>
+        <translation>关闭</translation>
+    </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_HINT">
+        <source></source>
+        <translation>按代码或名称搜索</translation>
+    </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_TITLE">
+        <source></source>
+        <translation>选择品种</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ADD_BUTTON">
+        <source></source>
+        <translation>加入(&amp;A) ▸</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_AND_BUTTON">
+        <source></source>
+        <translation>全部关键词(&amp;K)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_CONDITION">
+        <source></source>
+        <translation>匹配条件</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DELALL_BUTTON">
+        <source></source>
+        <translation>全部移除(&amp;L)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DEL_BUTTON">
+        <source></source>
+        <translation>◂ 移除(&amp;R)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DEL_KEY">
+        <source></source>
+        <translation>删除已存关键词(&amp;F)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_GROUP1">
+        <source></source>
+        <translation>关键词</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_GROUP2">
+        <source></source>
+        <translation>搜索关键词</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_HEADLINE_SEARCH">
+        <source></source>
+        <translation>标题(&amp;H)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_HEARLINE_AND_STORY_SEARCH">
+        <source></source>
+        <translation>标题和正文(&amp;B)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_IDOK">
+        <source></source>
+        <translation>搜索(&amp;E)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_KEYWORD_HINT">
+        <source></source>
+        <translation>输入关键词后按 Enter</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NEAR10FILTER">
+        <source></source>
+        <translation>最近十次搜索</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_OR_BUTTON">
+        <source></source>
+        <translation>任一关键词(&amp;Y)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_PICKER">
+        <source></source>
+        <translation>从所有品种中选择</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_RANGE">
+        <source></source>
+        <translation>搜索范围</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REQDELALL">
+        <source></source>
+        <translation>要移除这次搜索的所有关键词吗？</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_CONTENTS">
+        <source></source>
+        <translation>关键词</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_METHOD">
+        <source></source>
+        <translation>条件</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_SCOPE">
+        <source></source>
+        <translation>范围</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_STORY_SEARCH">
+        <source></source>
+        <translation>正文(&amp;S)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SYMBOL">
+        <source></source>
+        <translation>品种</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SYMBOL_HINT">
+        <source></source>
+        <translation>代码或名称</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_TITLE">
+        <source></source>
+        <translation>高级搜索</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_IDCANCEL">
+        <source></source>
+        <translation>取消</translation>
+    </message>
     <message id="IDS_DIALOG-STORY_NEXT_BUTTON">
         <source></source>
         <translation>下一条</translation>
@@ -134,6 +250,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_NOT_FOUND">
         <source></source>
         <translation>没有找到符合条件的新闻。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_SEARCHING">
+        <source></source>
+        <translation>正在搜索：</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_TITLE">
         <source></source>

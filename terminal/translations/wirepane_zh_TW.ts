@@ -7,6 +7,122 @@
         <source></source>
         <translation>此商品沒有新聞。</translation>
     </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_CHOOSE">
+        <source></source>
+        <translation>加入(&amp;A)</translation>
+    </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_CLOSE">
+        <source></source>
+        <translation>關閉</translation>
+    </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_HINT">
+        <source></source>
+        <translation>以代碼或名稱搜尋</translation>
+    </message>
+    <message id="IDS_DIALOG-CHANGE-SYMBOL_TITLE">
+        <source></source>
+        <translation>選擇商品</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ADD_BUTTON">
+        <source></source>
+        <translation>加入(&amp;A) ▸</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_AND_BUTTON">
+        <source></source>
+        <translation>全部關鍵字(&amp;K)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_CONDITION">
+        <source></source>
+        <translation>符合條件</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DELALL_BUTTON">
+        <source></source>
+        <translation>全部移除(&amp;L)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DEL_BUTTON">
+        <source></source>
+        <translation>◂ 移除(&amp;R)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DEL_KEY">
+        <source></source>
+        <translation>刪除已存關鍵字(&amp;F)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_GROUP1">
+        <source></source>
+        <translation>關鍵字</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_GROUP2">
+        <source></source>
+        <translation>搜尋關鍵字</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_HEADLINE_SEARCH">
+        <source></source>
+        <translation>標題(&amp;H)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_HEARLINE_AND_STORY_SEARCH">
+        <source></source>
+        <translation>標題和內文(&amp;B)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_IDOK">
+        <source></source>
+        <translation>搜尋(&amp;E)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_KEYWORD_HINT">
+        <source></source>
+        <translation>輸入關鍵字後按 Enter</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NEAR10FILTER">
+        <source></source>
+        <translation>最近十次搜尋</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_OR_BUTTON">
+        <source></source>
+        <translation>任一關鍵字(&amp;Y)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_PICKER">
+        <source></source>
+        <translation>從所有商品中選擇</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_RANGE">
+        <source></source>
+        <translation>搜尋範圍</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REQDELALL">
+        <source></source>
+        <translation>要移除這次搜尋的所有關鍵字嗎？</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_CONTENTS">
+        <source></source>
+        <translation>關鍵字</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_METHOD">
+        <source></source>
+        <translation>條件</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_SCOPE">
+        <source></source>
+        <translation>範圍</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_STORY_SEARCH">
+        <source></source>
+        <translation>內文(&amp;S)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SYMBOL">
+        <source></source>
+        <translation>商品</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_SYMBOL_HINT">
+        <source></source>
+        <translation>代碼或名稱</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_TITLE">
+        <source></source>
+        <translation>進階搜尋</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_IDCANCEL">
+        <source></source>
+        <translation>取消</translation>
+    </message>
     <message id="IDS_DIALOG-STORY_NEXT_BUTTON">
         <source></source>
         <translation>下一則</translation>
@@ -134,6 +250,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_NOT_FOUND">
         <source></source>
         <translation>找不到符合條件的新聞。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_SEARCHING">
+        <source></source>
+        <translation>搜尋中：</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_TITLE">
         <source></source>

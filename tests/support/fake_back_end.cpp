@@ -108,6 +108,36 @@ bool FakeBackEnd::GetSymbolsByService(unsigned char service, std::vector<QString
     return bGetSymbolID(service, codes, names);
 }
 
+bool FakeBackEnd::FindSearchList(const QString& typed, std::vector<QString>& found) {
+    asked.append(QStringLiteral("candidates %1").arg(typed));
+    found.assign(candidates.begin(), candidates.end());
+    return !found.empty();
+}
+
+bool FakeBackEnd::bGetItemDataByItemNo(QString& value, unsigned char market, const QString& code, int item) {
+    for (const auto& [known, name] : symbols[market]) {
+        if (known == code && item == symbol_items::name) {
+            value = name;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool FakeBackEnd::BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition) {
+    const QStringList words(condition.keywords.begin(), condition.keywords.end());
+    QString line = QStringLiteral("search %1 %2 %3/%4 %5")
+                       .arg(service)
+                       .arg(kind)
+                       .arg(condition.scope)
+                       .arg(condition.method)
+                       .arg(words.join(u'|'));
+    for (const CSymbolInfo& symbol : condition.symbols)
+        line += QStringLiteral(" @%1 %2").arg(symbol.market).arg(symbol.code);
+    asked.append(line);
+    return true;
+}
+
 int FakeBackEnd::bIsSymbolIDExist(unsigned char service, const QString& code) {
     const auto& list = symbols[service];
     return std::any_of(list.begin(), list.end(), [&](const auto& symbol) { return symbol.first == code; })
@@ -143,6 +173,11 @@ int FakeBackEnd::BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>& table, u
 int FakeBackEnd::BKQNEWS_iGetHeadlineTable(unsigned char service, std::vector<CHeadlineTable>& table,
                                            int kind, const QString& key) {
     asked.append(QStringLiteral("table %1 %2 %3").arg(service).arg(kind).arg(key));
+    if (kind == static_cast<int>(TableKind::Search)) {
+        const std::vector<CHeadlineTable>& found = searchTables[service];
+        table.insert(table.end(), found.begin(), found.end());
+        return static_cast<int>(found.size());
+    }
     return append(table, service, [&](const Piece& piece) {
         const QDate day = QDateTime::fromSecsSinceEpoch(piece.headline.time).date();
         return kind == 0 ? day.toString(QStringLiteral("yyyyMMdd")) == key

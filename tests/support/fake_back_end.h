@@ -43,6 +43,8 @@ public:
     // "table 1 0 20260302", "headlines 1 [3 2]", "story 1 3", "again 1 0 20260302", "again 1 [3 2]", ...
     QStringList asked;
     std::map<NewsReceiver*, std::set<unsigned char>> registrations;
+    std::map<unsigned char, std::vector<CHeadlineTable>> searchTables;  // of each service
+    QStringList candidates;  // for whatever is typed into a symbol search
 
     void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                          const std::vector<CSymbolInfo>& removed) override;
@@ -65,6 +67,9 @@ public:
                       std::vector<QString>& names) override;
     bool GetSymbolsByService(unsigned char service, std::vector<QString>& codes, std::vector<QString>& names,
                              int kind) override;
+    bool FindSearchList(const QString& typed, std::vector<QString>& found) override;
+    bool bGetItemDataByItemNo(QString& value, unsigned char market, const QString& code, int item) override;
+    bool BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition) override;
     int bIsSymbolIDExist(unsigned char service, const QString& code) override;
     bool bGetCategorybySymbolID(int& category, unsigned char service, const QString& code) override;
     int bIsConnect() override { return connected ? 1 : 0; }

@@ -1,0 +1,290 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "search/keyword_entry_dlg.h"
+
+#include "headline_list/language_keys.h"
+#include "host/contract/search_control.h"
+#include "host/controls/hover_button.h"
+#include "host/controls/quote_trv_change_symbol.h"
+#include "host/controls/registered_message.h"
+#include "host/controls/xtp_tab_control.h"
+#include "search/search_desk.h"
+#include "search/search_ids.h"
+#include "search/search_keys.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimerEvent>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int symbolTab = 1;
+
+// From the top down, however they were selected.
+KeywordList selectedTexts(const QListWidget& list) {
+    QModelIndexList indexes = list.selectionModel()->selectedRows();
+    std::sort(indexes.begin(), indexes.end());
+    KeywordList texts;
+    for (const QModelIndex& index : std::as_const(indexes))
+        texts.push_back(index.data().toString());
+    return texts;
+}
+
+// Replaces the items of a list in one go; nothing is selected.
+void fill(QListWidget& list, const std::vector<QString>& texts) {
+    list.setUpdatesEnabled(false);
+    list.clear();
+    list.addItems({texts.begin(), texts.end()});
+    list.setUpdatesEnabled(true);
+}
+
+void selectAlone(QListWidget& list, int row) {
+    list.clearSelection();
+    if (row < 0)
+        return;
+    list.setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+    list.scrollToItem(list.item(row));
+}
+
+}  // namespace
+
+KeywordEntryDlg::KeywordEntryDlg(KeywordList conditionKeywords, KeywordList keywordPool, int idOfRemoveAll,
+                                 QWidget* parent)
+    : QDialog(parent),
+      backEnd(*BKQuoteInterface::GetBKInterface()),
+      keywords(std::move(conditionKeywords)),
+      pool(std::move(keywordPool)),
+      removeAllId(idOfRemoveAll) {}
+
+int KeywordEntryDlg::DoModal() {
+    return exec() == Accepted ? idOk : idCancel;
+}
+
+void KeywordEntryDlg::OnOK() {
+    accept();
+}
+
+QString KeywordEntryDlg::Text(QLatin1StringView key) const {
+    return LangText(backEnd, key);
+}
+
+// --- Tabs ---
+
+void KeywordEntryDlg::vSelectTab(int tab) {
+    if (tab != 0 && tab != symbolTab)
+        return;
+    currentTab = tab;
+    for (QWidget* control : {static_cast<QWidget*>(keywordEdit), static_cast<QWidget*>(poolList),
+                             static_cast<QWidget*>(poolButton)})
+        control->setVisible(tab == 0);
+    for (QWidget* control : {static_cast<QWidget*>(symbolEdit), static_cast<QWidget*>(candidateList),
+                             static_cast<QWidget*>(pickerButton)})
+        control->setVisible(tab == symbolTab);
+    CurrentEdit()->setFocus();
+}
+
+QLineEdit* KeywordEntryDlg::CurrentEdit() const {
+    return currentTab == symbolTab ? symbolEdit : keywordEdit;
+}
+
+void KeywordEntryDlg::vFocusEdit() {
+    CurrentEdit()->setFocus();
+    CurrentEdit()->selectAll();
+}
+
+// --- Keywords and their pool ---
+
+void KeywordEntryDlg::vSetKeywords(const KeywordList& changed, const std::vector<int>& selected) {
+    keywords = changed;
+    fill(*keywordList, keywords);
+    for (const int row : selected)
+        keywordList->item(row)->setSelected(true);
+    if (!selected.empty())
+        keywordList->scrollToItem(keywordList->item(selected.back()));
+}
+
+KeywordList KeywordEntryDlg::ShownKeywords() const {
+    KeywordList shown;
+    for (int row = 0; row < keywordList->count(); ++row) {
+        if (const QString text = keywordList->item(row)->text(); !text.isEmpty())
+            shown.push_back(text);
+    }
+    return shown;
+}
+
+void KeywordEntryDlg::vFillPool(const QString& part) {
+    fill(*poolList, KeywordsWith(pool, part));
+}
+
+void KeywordEntryDlg::vAddTypedKeyword() {
+    const QString typed = keywordEdit->text();
+    int inPool = -1;
+    if (!typed.isEmpty()) {
+        inPool = KeepKeyword(pool, typed);
+        vAddKeywords({typed});
+    }
+    vFillPool({});
+    selectAlone(*poolList, inPool);
+    keywordEdit->clear();
+}
+
+void KeywordEntryDlg::vAddKeywords(const KeywordList& added) {
+    KeywordList changed = keywords;
+    std::vector<int> selected;
+    for (const QString& keyword : added) {
+        if (const int index = KeepKeyword(changed, keyword); index >= 0)
+            selected.push_back(index);
+    }
+    vSetKeywords(changed, selected);
+}
+
+void KeywordEntryDlg::vAddSelected() {
+    QListWidget& list = currentTab == symbolTab ? *candidateList : *poolList;
+    KeywordList added;
+    for (const QString& text : selectedTexts(list)) {
+        const KeywordList parts = currentTab == symbolTab ? KeywordsOfCandidate(text) : KeywordList{text};
+        added.insert(added.end(), parts.begin(), parts.end());
+    }
+    list.clearSelection();
+    vAddKeywords(added);
+    vFocusEdit();
+}
+
+void KeywordEntryDlg::vRemoveSelected() {
+    KeywordList changed = keywords;
+    for (const QString& text : selectedTexts(*keywordList))
+        RemoveKeyword(changed, text);
+    vSetKeywords(changed);
+}
+
+void KeywordEntryDlg::vRemoveFromPool() {
+    for (const QString& text : selectedTexts(*poolList))
+        RemoveKeyword(pool, text);
+    keywordEdit->clear();
+    vFillPool({});
+}
+
+void KeywordEntryDlg::vRemoveAll() {
+    if (keywords.empty())
+        return;
+    const QPointer<KeywordEntryDlg> self(this);
+    auto* box = new QMessageBox(QMessageBox::Question, {}, Text(search_keys::askRemoveAll),
+                                QMessageBox::Yes | QMessageBox::No, this);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    if (box->exec() == QMessageBox::Yes && self)
+        vSetKeywords({});
+}
+
+// --- Symbols ---
+
+void KeywordEntryDlg::vSymbolTyped(const QString& typed) {
+    candidateTimer.stop();
+    if (typed.isEmpty())
+        candidateList->clear();
+    else
+        candidateTimer.start(search_ids::candidateDelayMs, this);
+}
+
+void KeywordEntryDlg::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != candidateTimer.timerId()) {
+        QDialog::timerEvent(event);
+        return;
+    }
+    candidateTimer.stop();
+    vFindCandidates();
+}
+
+void KeywordEntryDlg::vFindCandidates() {
+    std::vector<QString> found;
+    SearchControl::GetSearchObjInterface()->FindSearchList(symbolEdit->text(), found);
+    fill(*candidateList, found);
+    // As list boxes search: upper and lower case alike.
+    const auto first = std::find_if(found.begin(), found.end(), [this](const QString& candidate) {
+        return candidate.startsWith(symbolEdit->text(), Qt::CaseInsensitive);
+    });
+    selectAlone(*candidateList, first == found.end() ? -1 : static_cast<int>(first - found.begin()));
+}
+
+void KeywordEntryDlg::vShowPicker() {
+    if (symbolPicker.isNull()) {
+        symbolPicker = new QuoteTRVChangeSymbol(this, 1);
+        symbolPicker->Create();
+    }
+    symbolPicker->show();
+    symbolPicker->activateWindow();
+    QRect place = symbolPicker->frameGeometry();
+    place.moveCenter(frameGeometry().center());
+    symbolPicker->move(place.topLeft());
+    symbolPicker->vSetShowStatus(true);
+}
+
+void KeywordEntryDlg::vTakePicked(quintptr symbol) {
+    if (symbolPicker.isNull() || symbol == 0)
+        return;
+    const CSymbolInfo& picked = *reinterpret_cast<const CSymbolInfo*>(symbol);
+    KeywordList added{picked.code};
+    if (const auto name = SymbolName(backEnd, picked))
+        added.push_back(*name);
+    candidateList->clearSelection();
+    vAddKeywords(added);
+    symbolEdit->setFocus();
+    symbolEdit->selectAll();
+}
+
+bool KeywordEntryDlg::event(QEvent* event) {
+    static const QEvent::Type picked = RegisterMessage(u"RVMSGCHANGESYMBOLBYSEARCH"_s);
+    static const QEvent::Type treeUpdate = RegisterMessage(u"MSG_SYMBOLUPDATE_TREEDLG"_s);
+    if (event->type() == picked) {
+        vTakePicked(static_cast<RegisteredMessageEvent*>(event)->firstParameter);
+        return true;
+    }
+    if (event->type() == treeUpdate) {
+        if (symbolPicker)
+            symbolPicker->vDoSymbolUpdateTreeNode(
+                static_cast<RegisteredMessageEvent*>(event)->firstParameter);
+        return true;
+    }
+    return QDialog::event(event);
+}
+
+// --- The default button ---
+
+QPushButton* KeywordEntryDlg::pDefaultFor(const QWidget* focus) const {
+    if (focus == keywordEdit)
+        return addTypedButton;
+    if (focus == symbolEdit || focus == candidateList || focus == poolList)
+        return addButton;
+    if (auto* button = qobject_cast<QPushButton*>(const_cast<QWidget*>(focus)))
+        return button;
+    return okButton;
+}
+
+bool KeywordEntryDlg::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn)
+        pDefaultFor(qobject_cast<QWidget*>(watched))->setDefault(true);
+    return QDialog::eventFilter(watched, event);
+}
+
+// A dialog presses no hidden button for Enter, and the one that adds what was typed is hidden.
+void KeywordEntryDlg::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter) {
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    for (QPushButton* button : findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (button->isDefault()) {
+            button->click();
+            return;
+        }
+    }
+}

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "search/keyword_list.h"
+
+#include <QBasicTimer>
+#include <QDialog>
+#include <QPointer>
+
+#include <vector>
+
+class BKQuoteInterface;
+class CHoverButton;
+class CXTPTabControl;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QuoteTRVChangeSymbol;
+
+// A dialog in which the keywords of a condition are entered: typed, taken from the pool of keywords that were
+// typed before, or made of symbols. The search dialogs derive from it and add what else their condition has.
+//
+// Which button Enter presses follows the keyboard: in the keyword line the typed keyword is added, in the
+// lists to choose from what is selected, anywhere else the dialog is accepted; a focused button is pressed.
+class KeywordEntryDlg : public QDialog {
+    Q_OBJECT
+
+public:
+    static constexpr int idOk = 1;
+    static constexpr int idCancel = 2;
+
+    // Runs the dialog: idOk or idCancel.
+    int DoModal();
+
+    // What was edited, whatever the result was.
+    const KeywordList& Keywords() const { return keywords; }
+    const KeywordList& Pool() const { return pool; }
+
+protected:
+    // `removeAllId`: the number of the button that removes all keywords. A back end has been installed.
+    KeywordEntryDlg(KeywordList keywords, KeywordList pool, int removeAllId, QWidget* parent);
+
+    // Creates the controls and sets their texts.
+    QGridLayout* pCreateEntry();
+    QPushButton* pAddButton(int id, const QString& text);
+    QLabel* pAddCaption(int id, const QString& text);
+    QString Text(QLatin1StringView key) const;
+
+    // Replaces the keywords of the condition; those at `selected` are selected in their list.
+    void vSetKeywords(const KeywordList& changed, const std::vector<int>& selected = {});
+    // The keywords as their list shows them.
+    KeywordList ShownKeywords() const;
+
+    // OK was pressed: ends the dialog.
+    virtual void OnOK();
+
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void vCreateControls();
+    void vConnect();
+    QGridLayout* pLayOut();
+    void vLoadPickerBitmaps();
+    void vSelectTab(int tab);
+    QLineEdit* CurrentEdit() const;
+    void vFocusEdit();
+    void vAddTypedKeyword();
+    void vFillPool(const QString& part);
+    void vAddSelected();
+    void vAddKeywords(const KeywordList& added);
+    void vRemoveSelected();
+    void vRemoveFromPool();
+    void vRemoveAll();
+    void vSymbolTyped(const QString& typed);
+    void vFindCandidates();
+    void vShowPicker();
+    void vTakePicked(quintptr symbol);
+    QPushButton* pDefaultFor(const QWidget* focus) const;
+
+    BKQuoteInterface& backEnd;
+    KeywordList keywords;
+    KeywordList pool;
+    const int removeAllId;
+    int currentTab = 0;
+    QBasicTimer candidateTimer;
+    QPointer<QuoteTRVChangeSymbol> symbolPicker;
+
+    CXTPTabControl* tabs = nullptr;
+    QLineEdit* keywordEdit = nullptr;
+    QListWidget* poolList = nullptr;
+    QPushButton* poolButton = nullptr;
+    QLineEdit* symbolEdit = nullptr;
+    QListWidget* candidateList = nullptr;
+    CHoverButton* pickerButton = nullptr;
+    QListWidget* keywordList = nullptr;
+    QPushButton* addTypedButton = nullptr;
+    QPushButton* addButton = nullptr;
+    QPushButton* removeButton = nullptr;
+    QPushButton* removeAllButton = nullptr;
+    QPushButton* okButton = nullptr;
+};

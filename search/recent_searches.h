@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/search_condition.h"
+
+#include <vector>
+
+// Scope and method are equal, and the keywords are the same in whatever order.
+bool AsksTheSame(const CSearch& a, const CSearch& b);
+
+// The searches that were made last, oldest first.
+using RecentSearches = std::vector<CSearch>;
+inline constexpr std::size_t mostRecentSearches = 10;
+
+// Appends the condition unless one that asks the same is there, which stays where it is; the oldest gives way
+// when the list is full.
+void KeepRecentSearch(RecentSearches& recent, const CSearch& condition);

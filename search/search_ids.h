@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Numbers of the controls, bitmaps and timers of the search dialogs.
+namespace search_ids {
+
+inline constexpr int ok = 1;
+inline constexpr int cancel = 2;
+inline constexpr int advancedSearch = 2013;  // the dialog itself
+
+// Keyword entry.
+inline constexpr int pool = 2059;
+inline constexpr int keywords = 2060;
+inline constexpr int keywordEdit = 2061;
+inline constexpr int addTyped = 2063;
+inline constexpr int removeFromPool = 2065;
+inline constexpr int add = 2066;
+inline constexpr int remove = 2067;
+inline constexpr int methodAnd = 2071;
+inline constexpr int methodOr = 2072;
+inline constexpr int keywordsCaption = 2080;
+inline constexpr int symbolEdit = 2086;
+inline constexpr int candidates = 2093;
+inline constexpr int tabs = 2094;
+inline constexpr int picker = 9000;
+
+// Advanced search.
+inline constexpr int scopeHeadlines = 2068;
+inline constexpr int scopeStories = 2069;
+inline constexpr int scopeBoth = 2070;
+inline constexpr int recent = 2074;
+inline constexpr int removeAll = 2076;
+inline constexpr int scopeCaption = 2081;
+inline constexpr int methodCaption = 2082;
+inline constexpr int recentCaption = 2083;
+
+inline constexpr int candidateTimer = 20001;
+inline constexpr int candidateDelayMs = 200;
+
+}  // namespace search_ids

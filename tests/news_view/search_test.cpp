@@ -1,0 +1,273 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// Searching from the news view: what is sent, what is shown, what the user is told.
+#include "host/controls/my_rich_edit.h"
+#include "news_view/control_ids.h"
+#include "search/adv_search_dlg.h"
+#include "search/search_ids.h"
+#include "story/news_story_view.h"
+#include "story/quote_dlg_tip_msg.h"
+#include "story/story_ids.h"
+#include "tests/news_view/view_fixture.h"
+
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QTest>
+#include <QTextCursor>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString notFound = u"IDS_NEWSCTRLVIEW_STRING_NEWS_NOT_FOUND"_s;
+const QString invalid = u"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH"_s;
+const QString searching = u"IDS_NEWSCTRLVIEW_STRING_NEWS_SEARCHING"_s;
+
+CHeadlineTable entryOf(unsigned char service, int hour, int minute, std::int32_t sequence) {
+    return {localTime(2026, 3, 2, hour, minute), sequence, service, 0, 0};
+}
+
+CSearch quick(const QString& word) {
+    CSearch search;
+    search.keywords = {word};
+    search.method = 1;
+    return search;
+}
+
+class Searches : public NewsViewTest {
+protected:
+    Searches() {
+        addNews(1, 9, 0, 1);
+        addNews(2, 9, 10, 1);
+        addNews(22, 9, 5, 4);
+    }
+
+    // The search mode with services 1 and 2 ticked.
+    void openSearch(QMap<QString, QVariant> stored = {}, int mode = 3) {
+        stored[u"Sheet0ServiceCheck1"_s] = true;
+        stored[u"Sheet0ServiceCheck2"_s] = true;
+        open(stored);
+        frame.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+        view->SwitchFunction(mode);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+        backEnd.asked.clear();
+    }
+
+    void quickSearch(const QString& text) {
+        auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit));
+        ASSERT_NE(edit, nullptr);
+        edit->setText(text);
+        QTest::keyClick(edit, Qt::Key_Return);
+    }
+
+    QStringList sent() {
+        const QStringList searches = backEnd.asked.filter(u"search "_s);
+        backEnd.asked.clear();
+        return searches;
+    }
+    QList<int> pending() const {
+        QList<int> result;
+        for (const QVariant& service : state(u"services"_s).toList()) {
+            if (service.toMap()[u"pending"_s].toBool())
+                result.append(service.toMap()[u"id"_s].toInt());
+        }
+        return result;
+    }
+    QString shortTip() const {
+        const QVariantMap shown = state(u"shortTip"_s).toMap();
+        return shown[u"visible"_s].toBool() ? shown[u"text"_s].toString() : QString();
+    }
+    MyRichEdit& story() const {
+        auto* pane = GetDlgItem(view.get(), ids::firstChildView + ids::storyPane);
+        return *static_cast<MyRichEdit*>(GetDlgItem(pane, story_ids::storyText));
+    }
+    // Runs the dialog: `work` has it in front of the user and ends it.
+    void runDialog(const std::function<void(CAdvSearchDlg&)>& work) {
+        QTimer::singleShot(0, view.get(), [&] {
+            auto* dialog = qobject_cast<CAdvSearchDlg*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            work(*dialog);
+        });
+        view->OnCommand(ids::dealsSearchButton);
+    }
+    static void addKeyword(const CAdvSearchDlg& dialog, const QString& keyword) {
+        auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(&dialog, search_ids::keywordEdit));
+        edit->setText(keyword);
+        QTest::keyClick(edit, Qt::Key_Return);
+    }
+    static void press(const CAdvSearchDlg& dialog, int id) {
+        qobject_cast<QAbstractButton*>(GetDlgItem(&dialog, id))->click();
+    }
+};
+
+}  // namespace
+
+TEST_F(Searches, TheQuickSearchAsksTheTickedServicesAndShowsWhatIsThere) {
+    backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
+    backEnd.searchTables[2] = {entryOf(2, 9, 10, 1)};
+    backEnd.searchTables[22] = {entryOf(22, 9, 5, 4)};
+    openSearch();
+    quickSearch(u"  rate cut "_s);
+    EXPECT_EQ(sent(), (QStringList{u"search 1 3 0/1 rate cut"_s, u"search 2 3 0/1 rate cut"_s}));
+    EXPECT_EQ(titles(3), (QStringList{u"s2 9:10"_s, u"s1 9:00"_s})) << "of the services that were asked";
+    EXPECT_EQ(tip(), searching + u" rate cut"_s);
+    EXPECT_EQ(pending(), (QList<int>{1, 2}));
+
+    view->RespSearchHeadLineTable(quick(u"rate cut"_s), 1);
+    EXPECT_EQ(titles(3), (QStringList{u"s2 9:10"_s, u"s22 9:05"_s, u"s1 9:00"_s})) << "of every service";
+    EXPECT_EQ(tip(), searching + u" rate cut"_s) << "service 2 is still awaited";
+    EXPECT_EQ(view->Sheet(3)->cptGetFocusNdx().y(), 0);
+    view->RespSearchHeadLineTable(quick(u"rate cut"_s), 2);
+    EXPECT_EQ(tip(), QString());
+    EXPECT_EQ(pending(), QList<int>());
+
+    quickSearch(u"  rate cut "_s);
+    EXPECT_EQ(sent().size(), 2);
+    EXPECT_EQ(tip(), QString()) << "the same text again is not announced";
+    EXPECT_EQ(pending(), QList<int>());
+}
+
+TEST_F(Searches, NothingFoundIsToldWithTheLastAnswer) {
+    openSearch();
+    quickSearch(u"nothing"_s);
+    EXPECT_EQ(titles(3), QStringList());
+    view->RespSearchHeadLineTable(quick(u"something else"_s), 1);
+    EXPECT_EQ(pending(), (QList<int>{1, 2})) << "an answer that nobody waits for";
+    view->RespSearchHeadLineTable(quick(u"nothing"_s), 2);
+    EXPECT_EQ(tip(), searching + u" nothing"_s);
+    view->RespSearchHeadLineTable(quick(u"nothing"_s), 1);
+    EXPECT_EQ(tip(), notFound);
+}
+
+TEST_F(Searches, QuickSearchesThatCannotBeSentAreRefused) {
+    openSearch();
+    for (const QString& text : {QString(), u"   "_s}) {
+        quickSearch(text);
+        EXPECT_EQ(shortTip(), invalid);
+    }
+    int boxes = 0;
+    for (const QString& text : {u"STANDARD"_s, u"gold OR oil"_s}) {
+        QTimer::singleShot(0, view.get(), [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            boxes += box->text() == u"IDS_NEWSCTRLVIEW_STRING_REINPUT"_s ? 1 : 0;
+            box->accept();
+        });
+        quickSearch(text);
+    }
+    EXPECT_EQ(boxes, 2);
+    EXPECT_EQ(sent(), QStringList());
+    quickSearch(u"standard or and"_s);
+    EXPECT_EQ(sent().size(), 2) << "capitals alone are refused";
+}
+
+TEST_F(Searches, OnlySearchModesSend) {
+    openSearch();
+    quickSearch(u"gold"_s);
+    sent();
+    view->SwitchFunction(0);
+    view->OnDealsSearch();
+    EXPECT_EQ(sent(), QStringList());
+    view->SwitchFunction(3);
+    view->OnDealsSearch();
+    EXPECT_EQ(sent().size(), 2);
+}
+
+TEST_F(Searches, AChangeOfServicesSearchesAgain) {
+    openSearch();
+    quickSearch(u"gold"_s);
+    sent();
+    view->OnCommand(ids::firstServiceCommand + 2);
+    EXPECT_EQ(sent(),
+              (QStringList{u"search 1 3 0/1 gold"_s, u"search 2 3 0/1 gold"_s, u"search 16 3 0/1 gold"_s}));
+}
+
+TEST_F(Searches, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
+    openSearch();
+    runDialog([](CAdvSearchDlg& dialog) { press(dialog, search_ids::ok); });
+    EXPECT_EQ(shortTip(), invalid) << "without keywords";
+    EXPECT_EQ(sent(), QStringList());
+    runDialog([](CAdvSearchDlg& dialog) {
+        addKeyword(dialog, u"gold"_s);
+        addKeyword(dialog, u"oil"_s);
+        press(dialog, search_ids::scopeBoth);
+        press(dialog, search_ids::ok);
+    });
+    EXPECT_EQ(sent(), (QStringList{u"search 1 3 2/2 gold|oil"_s, u"search 2 3 2/2 gold|oil"_s}));
+    quickSearch(u"silver"_s);
+    sent();
+    EXPECT_EQ(pending(), (QList<int>{1, 2}));
+    runDialog([](CAdvSearchDlg& dialog) {
+        addKeyword(dialog, u"tin"_s);
+        dialog.reject();
+    });
+    EXPECT_EQ(sent(), QStringList());
+    EXPECT_EQ(tip(), QString()) << "nobody will answer for silver";
+    view->OnDealsSearch();
+    EXPECT_EQ(sent().front(), u"search 1 3 2/2 gold|oil|tin"_s);
+
+    view->SaveViewInfo(&settings, u"Layout"_s, 0, 0);
+    EXPECT_EQ(settings.values[u"!RVNEWS_NEWSSEARCH_KEYWORD"_s].toStringList(),
+              (QStringList{u"gold"_s, u"oil"_s, u"tin"_s}));
+    EXPECT_EQ(settings.values[u"!RVNEWS_NEWSSEARCH_NEARTENSEARCHINFO"_s].toStringList().size(), 2);
+}
+
+TEST_F(Searches, TheStoryOfAResultHasItsKeywordsMarked) {
+    const CHeadlineTable found = entryOf(1, 9, 0, 1);
+    backEnd.addStory({found.time, u"All that glitters is gold."_s, found});
+    backEnd.searchTables[1] = {found};
+    openSearch({{u"NewsShowType"_s, 1}});
+    quickSearch(u"GOLD"_s);
+    view->RespSearchHeadLineTable(quick(u"GOLD"_s), 1);
+    EXPECT_EQ(story().textCursor().selectedText(), u"gold"_s);
+    backEnd.searchTables.clear();
+    view->RespSearchHeadLineTable(quick(u"GOLD"_s), 1);
+    EXPECT_EQ(story().szGetText(), QString()) << "nothing was found";
+}
+
+TEST_F(Searches, ASymbolOfALinkedViewNarrowsTheSearch) {
+    openSearch();
+    view->ChangeSymbol(view.get(), 0, 16, u"2330"_s, {});
+    EXPECT_EQ(sent(), QStringList()) << "nothing was searched for";
+    EXPECT_EQ(shortTip(), QString());
+    quickSearch(u"gold"_s);
+    sent();
+    view->ChangeSymbol(view.get(), 0, 16, u"6214"_s, {});
+    EXPECT_EQ(sent(), (QStringList{u"search 1 3 0/1 gold @16 6214"_s, u"search 2 3 0/1 gold @16 6214"_s}));
+    view->ChangeSymbol(view.get(), 0, 16, u"unknown"_s, {});
+    EXPECT_EQ(sent(), QStringList()) << "a symbol without a name";
+    view->ChangeSymbol(view.get(), 0, 1, u"TXF"_s, {});
+    EXPECT_EQ(sent(), QStringList()) << "a future without a commodity";
+}
+
+TEST_F(Searches, WithWarningTermsAnswersGoToTheirListAndPushesAskAgain) {
+    writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
+    backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
+    openSearch();
+    quickSearch(u"gold"_s);
+    view->RespSearchHeadLineTable(quick(u"gold"_s), 1);
+    EXPECT_EQ(titles(6), QStringList{u"s1 9:00"_s});
+
+    CSearch warning = quick(u"gold"_s);
+    warning.keywords.push_back(u"oil"_s);
+    warning.method = 0;
+    const auto pushed = [&](int day, std::int32_t sequence) {
+        CHeadline headline;
+        headline.service = 1;
+        headline.time = localTime(2026, 3, day, 9, 0);
+        headline.sequence = sequence;
+        headline.title = u"pushed"_s;
+        backEnd.asked.clear();
+        view->ProcessNewSearchHeadline(warning, ListIndex::WarningTerm, headline, u"SEARCH"_s);
+        return titles(6);
+    };
+    EXPECT_EQ(pushed(2, 8), QStringList{u"s1 9:00"_s}) << "it is not among the results";
+    EXPECT_EQ(sent(), QStringList{u"search 1 3 0/1 gold|oil"_s});
+    EXPECT_EQ(pushed(2, 1), QStringList{u"s1 9:00"_s}) << "it is there already";
+    EXPECT_EQ(pushed(3, 1), (QStringList{u"pushed"_s, u"s1 9:00"_s})) << "its number on another day";
+    EXPECT_EQ(view->iGetHeadlineTableSize(6), 2);
+    EXPECT_EQ(pushed(2, 1), QStringList{u"s1 9:00"_s}) << "the table is read anew";
+}

@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// Conditions, keywords and recent searches, and what is kept of them.
+#include "search/search_desk.h"
+#include "tests/support/fake_back_end.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+CSearch condition(std::vector<QString> keywords, unsigned char scope = 0, unsigned char method = 1) {
+    CSearch search;
+    search.keywords = std::move(keywords);
+    search.scope = scope;
+    search.method = method;
+    return search;
+}
+
+const KeywordList awkward{u"rate cut"_s,    u"a,b;c|d"_s,       u"\"quoted\" 'so'"_s,
+                          u"back\\slash"_s, u"two\r\nlines"_s,  u"聯儲局"_s,
+                          u"ñ é 😀"_s,       u"@@@@ [x] {y}"_s,  u" "_s,
+                          u"%1 \t"_s,       u"</translation>"_s};
+
+}  // namespace
+
+TEST(SearchCondition, SurvivesItsTextForm) {
+    CSearch full = condition(awkward, 2, 2);
+    full.time = 1772415000;
+    full.symbols = {{16, u"2330"_s}, {22, u"A \"B\""_s}};
+    full.keywordSearch = true;
+    for (const CSearch& search : {CSearch(), full, condition({u"one"_s}, 1, 0)}) {
+        const QString text = search.GetString();
+        CSearch read = condition({u"other"_s}, 1, 2);
+        ASSERT_TRUE(read.LoadStringA(text)) << text.toStdString();
+        EXPECT_EQ(read, search);
+        EXPECT_EQ(read.time, search.time);
+        EXPECT_EQ(read.keywordSearch, search.keywordSearch);
+        EXPECT_FALSE(text.contains(u'\n'));
+    }
+}
+
+TEST(SearchCondition, RefusesDamagedTexts) {
+    const QString whole = condition({u"one"_s, u"two"_s}).GetString();
+    QStringList damaged{{},
+                        u"{}"_s,
+                        u"[]"_s,
+                        u"C:1 K:one"_s,
+                        u"{\"keywords\":\"one\"}"_s,
+                        u"{\"keywords\":[],\"scope\":3}"_s,
+                        u"{\"keywords\":[],\"method\":-1}"_s,
+                        u"{\"keywords\":[],\"method\":\"1\"}"_s,
+                        u"{\"keywords\":[],\"symbols\":[[300,\"x\"]]}"_s};
+    for (qsizetype length = 1; length < whole.size(); ++length)
+        damaged.append(whole.left(length));
+    for (const QString& text : std::as_const(damaged)) {
+        CSearch search = condition({u"kept"_s}, 1, 2);
+        EXPECT_FALSE(search.LoadStringA(text)) << text.toStdString();
+        EXPECT_EQ(search, condition({u"kept"_s}, 1, 2)) << text.toStdString();
+    }
+    CSearch search;
+    ASSERT_TRUE(search.LoadStringA(u"{\"keywords\":[\"a\",\"\",\"b\",\"a\",7]}"_s));
+    EXPECT_EQ(search.keywords, (std::vector<QString>{u"a"_s, u"b"_s}));
+}
+
+TEST(Keywords, OfACandidate) {
+    struct Case {
+        QString candidate;
+        KeywordList keywords;
+    };
+    const Case cases[] = {
+        {u"2330 Aster Chips"_s, {u"2330"_s, u"AsterChips"_s}},
+        {u"[22]00700 Harbour  Holdings "_s, {u"00700"_s, u"HarbourHoldings"_s}},
+        {u"[a]b]c d"_s, {u"b]c"_s, u"d"_s}},
+        {u"Lonely"_s, {u"Lonely"_s}},
+        {u"[16]Lonely"_s, {u"Lonely"_s}},
+        {u"2330 "_s, {u"2330"_s}},
+        {u"700 700"_s, {u"700"_s}},
+        {u"[16]"_s, {}},
+        {u" "_s, {}},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(KeywordsOfCandidate(c.candidate), c.keywords) << c.candidate.toStdString();
+}
+
+TEST(RecentSearches, KeepTheTenLastThatAskDifferently) {
+    RecentSearches recent;
+    for (int i = 0; i < 11; ++i)
+        KeepRecentSearch(recent, condition({QString::number(i), u"x"_s}));
+    ASSERT_EQ(recent.size(), 10U);
+    EXPECT_EQ(recent.front().keywords.front(), u"1"_s);
+    const RecentSearches before = recent;
+    KeepRecentSearch(recent, condition({u"x"_s, u"4"_s}));
+    EXPECT_EQ(recent, before) << "the same keywords in another order";
+    for (const CSearch& other : {condition({u"4"_s, u"x"_s}, 1), condition({u"4"_s, u"x"_s}, 0, 2),
+                                 condition({u"4"_s}), condition({u"4"_s, u"X"_s})}) {
+        KeepRecentSearch(recent, other);
+        EXPECT_EQ(recent.back(), other);
+        EXPECT_EQ(recent.size(), 10U);
+    }
+}
+
+TEST(SearchMemory, SurvivesTheSettingsWithWhateverItHolds) {
+    const ViewSettingPath path{u"Layout"_s, 1, 2, u"TRVNewsCtrlView"_s};
+    MemoryCfgIO settings;
+    const SearchMemory memory{awkward, {condition(awkward, 2, 2), condition({u"one"_s})}};
+    memory.write(settings, path);
+    const SearchMemory read = SearchMemory::read(settings, path);
+    EXPECT_EQ(read.keywordPool, memory.keywordPool);
+    EXPECT_EQ(read.recent, memory.recent);
+
+    settings.values[u"!RVNEWS_NEWSSEARCH_KEYWORD"_s] = QStringList{u"a"_s, {}, u"b"_s, u"a"_s};
+    QStringList many{u"nonsense"_s};
+    for (int i = 0; i < 12; ++i)
+        many.append(condition({QString::number(i)}).GetString());
+    settings.values[u"!RVNEWS_NEWSSEARCH_NEARTENSEARCHINFO"_s] = many;
+    const SearchMemory damaged = SearchMemory::read(settings, path);
+    EXPECT_EQ(damaged.keywordPool, (KeywordList{u"a"_s, u"b"_s}));
+    ASSERT_EQ(damaged.recent.size(), 10U);
+    EXPECT_EQ(damaged.recent.back().keywords, std::vector<QString>{u"11"_s});
+}
+
+TEST(SearchDesk, TellsAnswersApart) {
+    FakeBackEnd backEnd;
+    SearchDesk desk(backEnd);
+    desk.ordinary = condition({u"a"_s, u"b"_s});
+    desk.second = condition({u"s"_s});
+    desk.warningTerm = condition({u"w"_s}, 2, 2);
+    CSearch later = desk.ordinary;
+    later.time = 99;
+    CSearch narrowed = desk.ordinary;
+    narrowed.symbols = {{16, u"2330"_s}};
+    EXPECT_EQ(desk.KindOfAnswer(later), TableKind::Search) << "when it was composed does not count";
+    EXPECT_EQ(desk.KindOfAnswer(desk.warningTerm), TableKind::Search);
+    EXPECT_EQ(desk.KindOfAnswer(desk.second), TableKind::SecondSearch);
+    EXPECT_EQ(desk.KindOfAnswer(narrowed), std::nullopt);
+    EXPECT_EQ(desk.KindOfAnswer(condition({u"b"_s, u"a"_s})), std::nullopt) << "the order counts";
+
+    desk.vNarrow(desk.ordinary, {16, u"2330"_s});
+    EXPECT_EQ(desk.ordinary, narrowed);
+    EXPECT_TRUE(desk.second.symbols.empty());
+    EXPECT_EQ(desk.KindOfAnswer(narrowed), TableKind::Search);
+}
