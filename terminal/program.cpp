@@ -3,8 +3,10 @@
 #include "terminal/program.h"
 
 #include "terminal/commands/check_command.h"
+#include "terminal/commands/feed_command.h"
 #include "terminal/commands/import_command.h"
 #include "terminal/commands/open_command.h"
+#include "terminal/commands/replay_command.h"
 #include "terminal/commands/sample_command.h"
 #include "terminal/commands/search_command.h"
 
@@ -25,6 +27,8 @@ struct Command {
 
 constexpr Command commands[] = {
     {"import", &runImport},
+    {"feed", &runFeed},
+    {"replay", &runReplay},
     {"sample", &runSample},
     {"check", &runCheck},
     {"search", &runSearch},

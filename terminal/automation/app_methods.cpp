@@ -62,7 +62,7 @@ void AppMethods::answerWhenIdle(const Reply& reply, int rounds) {
         return;
     }
     QTimer::singleShot(rounds == quietRounds ? 0 : roundMs, this, [this, reply, rounds] {
-        const bool isBusy = refreshIsDue() || !session.backEnd().isDelivered();
+        const bool isBusy = refreshIsDue() || !session.feed().isIdle();
         answerWhenIdle(reply, isBusy ? quietRounds - 1 : rounds - 1);
     });
 }

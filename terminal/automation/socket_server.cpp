@@ -39,11 +39,11 @@ void SocketChannel::send(const QByteArray& line) {
 
 Done SocketServer::listen(const QString& name) {
     if (isAnswered(name))
-        return Error{u"The automation socket %1 is in use by another program."_s.arg(name)};
+        return Error{u"The local socket %1 is in use by another program."_s.arg(name)};
     QLocalServer::removeServer(name);
     server.setSocketOptions(QLocalServer::UserAccessOption);
     if (!server.listen(name))
-        return Error{u"The automation socket %1 cannot be opened: %2."_s.arg(name, server.errorString())};
+        return Error{u"The local socket %1 cannot be opened: %2."_s.arg(name, server.errorString())};
     connect(&server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* client = server.nextPendingConnection())
             emit connected(new SocketChannel(client, this));

@@ -41,6 +41,8 @@ void addOptions(QCommandLineParser& parser) {
         {u"workspace"_s, u"With automation: opens the user's views, and keeps them."_s},
         {u"automation"_s, u"Is driven by JSON-RPC on standard input and output."_s},
         {u"automation-socket"_s, u"Is driven by JSON-RPC on a local socket."_s, u"name"_s},
+        {u"spool"_s, u"Takes news from the files that are put into the folder."_s, u"folder"_s},
+        {u"feed"_s, u"The name under which feeds and replays find this terminal."_s, u"name"_s},
         {u"tour"_s, u"Shows itself off screen on the sample wire and writes pictures into the folder."_s,
          u"folder"_s},
     });
@@ -61,6 +63,8 @@ OpenOptions openOptions(CommandArguments& arguments) {
     options.language = parser.value(u"lang"_s);
     options.workspace = parser.isSet(u"workspace"_s);
     options.sample = parser.isSet(u"sample"_s);
+    options.spoolFolder = parser.value(u"spool"_s);
+    options.feedName = parser.value(u"feed"_s);
     if (!options.language.isEmpty() && !Languages::codes().contains(options.language))
         arguments.fail(u"--lang takes one of %1."_s.arg(Languages::codes().join(u", "_s)));
     if (!arguments.rest().isEmpty())
@@ -110,7 +114,8 @@ int runForScripts(Session& session, const OpenOptions& options, StandardChannel*
 
 int runOpened(const OpenOptions& options, StandardChannel* channel) {
     const bool sample = options.sample || !options.isScripted();
-    const auto session = Session::open({options.storeFile, options.configFolder, options.language, sample});
+    const auto session = Session::open({options.storeFile, options.configFolder, options.language, sample,
+                                        options.spoolFolder, options.feedName});
     if (!session) {
         printNote(session.error());
         return exitUnusable;
@@ -136,7 +141,8 @@ bool wantsOffscreen(int argc, const char* const* argv) {
 
 int runTerminal() {
     CommandArguments arguments(
-        QString(), u"A news terminal. Commands, given as the first argument: import, sample, check."_s);
+        QString(),
+        u"A news terminal. Commands, given as the first argument: import, feed, replay, sample, check."_s);
     addOptions(arguments.parser);
     if (const auto status = arguments.read())
         return *status;

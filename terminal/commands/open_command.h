@@ -17,6 +17,8 @@ struct OpenOptions {
     QString language;  // empty: as the settings say
     QString automationSocket;
     QString tourFolder;
+    QString spoolFolder;
+    QString feedName;
     bool automation = false;  // on standard input and output
     bool sample = false;
     bool tour = false;

@@ -110,11 +110,8 @@ void MainFrame::showChoices(const MenuState& state) {
 }
 
 void MainFrame::showStatus(const FrameStatus& status) {
-    const QString offline = status.offlineSince.isEmpty()
-                                ? terminalText(TextId::FeedDisconnected)
-                                : terminalText(TextId::OfflineSince).arg(status.offlineSince);
-    feedLabel->setText(
-        withLamp(status.connected ? terminalText(TextId::FeedConnected) : offline, status.connected));
+    feedLabel->setText(withLamp(status.feed, status.isLive));
+    feedLabel->setToolTip(status.feedTrouble.toHtmlEscaped());
     storeLabel->setText(QDir::toNativeSeparators(status.storeFile));
     servicesLabel->setText(terminalText(TextId::ServicesCount).arg(status.services));
     asOfLabel->setText(status.asOf.isEmpty() ? QString() : terminalText(TextId::AsOf).arg(status.asOf));

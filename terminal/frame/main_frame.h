@@ -18,8 +18,9 @@ class ViewDesk;
 
 // What the status bar says.
 struct FrameStatus {
-    bool connected = false;
-    QString offlineSince;  // while not connected: a time of the day; empty: not known
+    QString feed;         // how the terminal stands to its sources of news
+    QString feedTrouble;  // a sentence; empty: there is none
+    bool isLive = true;
     QString storeFile;
     int services = 0;
     QString asOf;  // empty: the present moment is the machine's

@@ -7,6 +7,7 @@
 #include "terminal/session/module_location.h"
 #include "terminal/session/store_opening.h"
 #include "terminal/settings/module_files.h"
+#include "terminal/translations/terminal_text.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -26,6 +27,15 @@ QString asOfText() {
     if (std::abs(now - QDateTime::currentSecsSinceEpoch()) < sameMomentSeconds)
         return {};
     return QDateTime::fromSecsSinceEpoch(now).toString(u"yyyy/MM/dd HH:mm"_s);
+}
+
+QString feedText(const FeedState& state) {
+    if (state.kind == FeedState::Reconnecting)
+        return terminalText(TextId::FeedReconnecting);
+    if (state.kind == FeedState::Offline)
+        return terminalText(TextId::OfflineSince)
+            .arg(QDateTime::fromSecsSinceEpoch(state.since).toString(u"HH:mm"_s));
+    return state.late > 0 ? terminalText(TextId::FeedLate).arg(state.late) : terminalText(TextId::FeedLive);
 }
 
 }  // namespace
@@ -59,6 +69,8 @@ Done Session::start(const SessionOptions& options) {
     store->setSysPath(configFolder);
     BKQuoteInterface::SetBKInterface(store.get());
     SearchControl::SetSearchObjInterface(&store->symbols());
+    if (const Done fed = startFeed(options); !fed)
+        return fed;
     categoryDisplay = std::make_unique<CategoryDisplay>(*store);
     TRVItemDisplay::SetItemDisplay(categoryDisplay.get());
     const auto module = loadModule();
@@ -96,6 +108,8 @@ void Session::connectParts() {
                 const SymbolItem* known = store->symbols().find(symbol.market, symbol.code);
                 box.showSymbol(group, known != nullptr ? *known : symbol);
             });
+    connect(liveFeed.get(), &LiveFeed::stateChanged, this, &Session::showStatus);
+    connect(liveFeed.get(), &LiveFeed::trouble, mainFrame.get(), &MainFrame::showNotice);
     connect(openViews.get(), &Workspace::arranged, this, &Session::showViews);
     // Later: the views hear of the change after their frame.
     connect(
@@ -105,6 +119,15 @@ void Session::connectParts() {
             openViews->retranslate();
         },
         Qt::QueuedConnection);
+}
+
+Done Session::startFeed(const SessionOptions& options) {
+    liveFeed = std::make_unique<LiveFeed>(*store);
+    if (!options.spoolFolder.isEmpty()) {
+        if (const Done watched = liveFeed->watch(options.spoolFolder); !watched)
+            return watched;
+    }
+    return options.feedName.isEmpty() ? Done(Nothing{}) : liveFeed->listen(options.feedName);
 }
 
 void Session::prepareModuleFiles() {
@@ -171,14 +194,12 @@ bool Session::useLanguage(const QString& code) {
 
 void Session::setConnected(bool connected) {
     const bool again = connected && store->bIsConnect() == 0;
-    if (!connected && store->bIsConnect() != 0)
-        offlineSince = QDateTime::fromSecsSinceEpoch(host_clock::now()).toString(u"HH:mm"_s);
     // Views register before they are told what they missed.
     for (const auto& open : openViews->views()) {
         if (again)
             open->view->vReRegisterSymbols();
     }
-    store->setConnected(connected);
+    liveFeed->setConnected(connected);
     showStatus();
 }
 
@@ -190,8 +211,9 @@ void Session::setActive(bool active) {
 void Session::showStatus() {
     std::vector<unsigned char> services;
     store->BKQNEWS_bGetAllNewsService(services);
-    mainFrame->showStatus(
-        {store->bIsConnect() != 0, offlineSince, storeFile, static_cast<int>(services.size()), asOfText()});
+    const FeedState feedState = liveFeed->state();
+    mainFrame->showStatus({feedText(feedState), feedState.trouble, feedState.kind == FeedState::Live,
+                           storeFile, static_cast<int>(services.size()), asOfText()});
 }
 
 void Session::showViews() {

@@ -4,6 +4,7 @@
 
 #include "backend/result.h"
 #include "backend/store/embedded_back_end.h"
+#include "terminal/feed/live_feed.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/workspace.h"
 #include "terminal/session/appearance.h"
@@ -26,6 +27,8 @@ struct SessionOptions {
     QString configFolder;        // made when absent
     QString language;            // empty: as set before, or as the system is set
     bool sampleWhenNew = false;  // a store without headlines is filled with the sample wire
+    QString spoolFolder = {};    // empty: none
+    QString feedName = {};       // the local socket for feeds; empty: none
 };
 
 // One running terminal: the store behind its back end, the settings, the news module and the main frame with
@@ -40,6 +43,7 @@ public:
     ~Session() override;
 
     EmbeddedBackEnd& backEnd() { return *store; }
+    LiveFeed& feed() { return *liveFeed; }
     TerminalSettings& settings() { return *terminalSettings; }
     Workspace& workspace() { return *openViews; }
     MainFrame& frame() { return *mainFrame; }
@@ -75,6 +79,7 @@ private:
 
     Done start(const SessionOptions& options);
     void connectParts();
+    Done startFeed(const SessionOptions& options);
     void prepareModuleFiles();
     Done reopenUserViews();
     bool useLanguage(const QString& code);
@@ -87,13 +92,13 @@ private:
     // In the order in which they depend on each other; destroyed from the last to the first.
     std::unique_ptr<TerminalSettings> terminalSettings;
     std::unique_ptr<EmbeddedBackEnd> store;
+    std::unique_ptr<LiveFeed> liveFeed;
     std::unique_ptr<CategoryDisplay> categoryDisplay;
     std::unique_ptr<MainFrame> mainFrame;
     std::unique_ptr<Workspace> openViews;
     std::unique_ptr<Appearance> look;
     std::unique_ptr<LinkGroups> linkGroups;
     std::unique_ptr<WorkspaceKeeper> workspaceKeeper;
-    QString offlineSince;
 };
 
 }  // namespace wirepane

@@ -407,17 +407,21 @@
         <source></source>
         <translation>No view is open. Ctrl+N opens one.</translation>
     </message>
-    <message id="TERMINAL_FEED_CONNECTED">
+    <message id="TERMINAL_FEED_LATE">
+        <source></source>
+        <translation>Live – %1 headlines came late</translation>
+    </message>
+    <message id="TERMINAL_FEED_LIVE">
         <source></source>
         <translation>Live</translation>
-    </message>
-    <message id="TERMINAL_FEED_DISCONNECTED">
-        <source></source>
-        <translation>Offline</translation>
     </message>
     <message id="TERMINAL_FEED_OFFLINE_SINCE">
         <source></source>
         <translation>Offline since %1</translation>
+    </message>
+    <message id="TERMINAL_FEED_RECONNECTING">
+        <source></source>
+        <translation>Reconnecting…</translation>
     </message>
     <message id="TERMINAL_FLOAT_BUTTON">
         <source></source>

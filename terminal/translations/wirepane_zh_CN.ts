@@ -407,17 +407,21 @@
         <source></source>
         <translation>没有打开的窗口。按 Ctrl+N 新建。</translation>
     </message>
-    <message id="TERMINAL_FEED_CONNECTED">
+    <message id="TERMINAL_FEED_LATE">
+        <source></source>
+        <translation>实时 – %1 条新闻延迟送达</translation>
+    </message>
+    <message id="TERMINAL_FEED_LIVE">
         <source></source>
         <translation>实时</translation>
-    </message>
-    <message id="TERMINAL_FEED_DISCONNECTED">
-        <source></source>
-        <translation>离线</translation>
     </message>
     <message id="TERMINAL_FEED_OFFLINE_SINCE">
         <source></source>
         <translation>离线（自 %1）</translation>
+    </message>
+    <message id="TERMINAL_FEED_RECONNECTING">
+        <source></source>
+        <translation>重新连接中…</translation>
     </message>
     <message id="TERMINAL_FLOAT_BUTTON">
         <source></source>

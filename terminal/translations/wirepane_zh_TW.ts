@@ -407,17 +407,21 @@
         <source></source>
         <translation>沒有開啟的視窗。按 Ctrl+N 新增。</translation>
     </message>
-    <message id="TERMINAL_FEED_CONNECTED">
+    <message id="TERMINAL_FEED_LATE">
+        <source></source>
+        <translation>即時 – %1 則新聞延遲送達</translation>
+    </message>
+    <message id="TERMINAL_FEED_LIVE">
         <source></source>
         <translation>即時</translation>
-    </message>
-    <message id="TERMINAL_FEED_DISCONNECTED">
-        <source></source>
-        <translation>離線</translation>
     </message>
     <message id="TERMINAL_FEED_OFFLINE_SINCE">
         <source></source>
         <translation>離線（自 %1）</translation>
+    </message>
+    <message id="TERMINAL_FEED_RECONNECTING">
+        <source></source>
+        <translation>重新連線中…</translation>
     </message>
     <message id="TERMINAL_FLOAT_BUTTON">
         <source></source>

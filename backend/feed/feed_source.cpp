@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/feed/feed_source.h"
+
+#include <algorithm>
+#include <variant>
+
+namespace wirepane {
+
+namespace {
+
+// Takes the items of one portion, and counts.
+class Taking {
+public:
+    explicit Taking(FeedSink& target) : sink(target) {}
+
+    bool take(const SourceItem& item) {
+        if (!item.content) {
+            reject(item.place, item.content.error());
+            return true;
+        }
+        const Result<TakeOutcome> taken = sink.take(item.content.value());
+        if (!taken) {
+            failure = taken.error();
+            return false;
+        }
+        count(item, taken.value());
+        return true;
+    }
+
+    PortionOutcome outcome;
+    std::optional<QString> failure;  // of the sink
+
+private:
+    void reject(const QString& place, const QString& reason) {
+        ++outcome.totals.rejected;
+        if (outcome.rejections.size() < PortionOutcome::mostRejections)
+            outcome.rejections.push_back({place, reason});
+    }
+    void count(const SourceItem& item, const TakeOutcome& taken) {
+        if (taken.take == Take::Rejected) {
+            reject(item.place, taken.reason);
+        } else if (taken.take == Take::AlreadyThere) {
+            ++outcome.totals.alreadyThere;
+        } else {
+            ++outcome.totals.takenIn;
+            if (const auto* news = std::get_if<NewsItem>(&item.content.value())) {
+                const auto [known, isNew] = outcome.newest.try_emplace(news->service, news->time);
+                known->second = std::max(known->second, news->time);
+            }
+        }
+    }
+
+    FeedSink& sink;
+};
+
+}  // namespace
+
+Result<PortionOutcome> takePortion(FeedSource& source, FeedSink& sink) {
+    if (const Done begun = sink.begin(); !begun)
+        return Error{begun.error()};
+    Taking taking(sink);
+    const Done read = source.read([&taking](SourceItem&& item) { return taking.take(item); });
+    if (taking.failure) {
+        sink.rollback();
+        return Error{*taking.failure};
+    }
+    if (!read) {
+        sink.rollback();
+        PortionOutcome refused;
+        refused.fault = read.error();
+        source.settle(refused);
+        return refused;
+    }
+    const QString position = source.position();
+    if (!source.name().isEmpty() && !position.isEmpty()) {
+        if (const Done kept = sink.keepPosition(source.name(), position); !kept) {
+            sink.rollback();
+            return Error{kept.error()};
+        }
+    }
+    if (const Done committed = sink.commit(); !committed) {
+        sink.rollback();
+        return Error{committed.error()};
+    }
+    source.settle(taking.outcome);
+    return std::move(taking.outcome);
+}
+
+}  // namespace wirepane

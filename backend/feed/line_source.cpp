@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/feed/line_source.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+constexpr std::size_t mostLines = 1000;         // of a portion
+constexpr qint64 mostBytes = 32 * 1024 * 1024;  // of a portion, about
+}  // namespace
+
+void LineSource::add(const QByteArray& line) {
+    if (!begun) {
+        const FeedLine first = parsedFeedLine(line, hello.service);
+        begun = true;
+        if (const auto* greeting = std::get_if<FeedHello>(&first)) {
+            hello = *greeting;
+            if (greet)
+                greet(hello);
+            return;
+        }
+    }
+    lines.emplace_back(line);
+}
+
+void LineSource::addRejected(const QString& reason) {
+    begun = true;
+    lines.emplace_back(Error{reason});
+}
+
+Done LineSource::read(const ItemVisitor& visit) {
+    portion = 0;
+    lastPosition.clear();
+    qint64 bytes = 0;
+    while (portion < std::min(mostLines, lines.size()) && bytes < mostBytes) {
+        const Result<QByteArray>& line = lines[portion];
+        ++portion;
+        const QString place = u"line %1"_s.arg(settled + static_cast<qint64>(portion));
+        if (!line) {
+            if (!visit({Error{line.error()}, place, 0}))
+                break;
+            continue;
+        }
+        bytes += line.value().size();
+        FeedLine parsed = parsedFeedLine(line.value(), hello.service);
+        auto* record = std::get_if<FeedRecord>(&parsed);
+        if (record == nullptr) {
+            if (!visit({Error{u"A greeting can only be the first line."_s}, place, 0}))
+                break;
+            continue;
+        }
+        if (!record->position.isEmpty())
+            lastPosition = record->position;
+        if (!visit({std::move(record->item), place, 0}))
+            break;
+    }
+    return Nothing{};
+}
+
+void LineSource::settle(const PortionOutcome& outcome) {
+    lines.erase(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(portion));
+    settled += static_cast<qint64>(portion);
+    portion = 0;
+    if (tell)
+        tell({settled, outcome});
+}
+
+}  // namespace wirepane

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/feed/feed_line.h"
+#include "backend/feed/feed_source.h"
+
+#include <QByteArray>
+
+#include <deque>
+#include <functional>
+
+namespace wirepane {
+
+// A source whose lines come by a pipe or a socket, in the form of feed_line.h. Lines are counted from 1 on,
+// the greeting apart.
+class LineSource : public FeedSource {
+public:
+    // What the sender is told when lines are on the disk.
+    struct Receipt {
+        qint64 lines = 0;  // of all so far
+        PortionOutcome outcome;
+    };
+
+    // `service` is that of records before which no greeting names one.
+    explicit LineSource(unsigned char service = 1) { hello.service = service; }
+
+    // The next line; a greeting counts only before the first item.
+    void add(const QByteArray& line);
+    // In place of a line that was passed over.
+    void addRejected(const QString& reason);
+    std::size_t waiting() const { return lines.size(); }
+
+    void onHello(std::function<void(const FeedHello&)> callback) { greet = std::move(callback); }
+    void onReceipt(std::function<void(const Receipt&)> callback) { tell = std::move(callback); }
+
+    QString name() const override { return hello.source; }
+    // The sender is to be told the position; what comes after it is its business.
+    void resume(const QString&) override {}
+    bool hasPortion() override { return !lines.empty(); }
+    Done read(const ItemVisitor& visit) override;
+    QString position() const override { return lastPosition; }
+    void settle(const PortionOutcome& outcome) override;
+
+private:
+    FeedHello hello;
+    std::deque<Result<QByteArray>> lines;
+    std::size_t portion = 0;  // lines of the portion that was read last
+    qint64 settled = 0;       // lines
+    bool begun = false;       // an item has come
+    QString lastPosition;
+    std::function<void(const FeedHello&)> greet;
+    std::function<void(const Receipt&)> tell;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/feed/spool_source.h"
+
+#include "backend/feed/open_elsewhere.h"
+#include "backend/import/source_reader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int mostNames = 100000;
+
+qint64 steadyMs() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
+
+bool isUnfinished(const QString& name) {
+    return name.startsWith(u'.') || name.endsWith(".part"_L1) || name.endsWith(".tmp"_L1) ||
+           name.endsWith(".filepart"_L1);
+}
+
+// "a.json" and 2 give "a-2.json".
+QString numbered(const QString& name, int number) {
+    if (number == 1)
+        return name;
+    const qsizetype dot = name.lastIndexOf(u'.');
+    const qsizetype end = dot > 0 ? dot : name.size();
+    return u"%1-%2%3"_s.arg(name.left(end)).arg(number).arg(name.mid(end));
+}
+
+QString reasonFile(const QString& path) {
+    return path + u".reason.txt"_s;
+}
+
+// Whether something of this name is there, a broken link included.
+bool isTaken(const QString& path) {
+    return QFileInfo::exists(path) || QFileInfo(path).isSymLink();
+}
+
+QString reasonsOf(const PortionOutcome& outcome) {
+    if (outcome.fault)
+        return *outcome.fault + u'\n';
+    QString text;
+    for (const Rejection& rejection : outcome.rejections)
+        text += u"%1: %2\n"_s.arg(rejection.place, rejection.reason);
+    if (outcome.totals.rejected > static_cast<qint64>(outcome.rejections.size()))
+        text += u"and more: %1 items were rejected.\n"_s.arg(outcome.totals.rejected);
+    return text;
+}
+
+}  // namespace
+
+Result<std::unique_ptr<SpoolSource>> SpoolSource::open(const QString& folder, const SpoolOptions& options) {
+    const QDir spool(folder);
+    for (const QString& name : {u"done"_s, u"rejected"_s}) {
+        if (!spool.mkpath(name))
+            return Error{u"The spool folder %1 cannot be used: the folder %2 in it cannot be made."_s.arg(
+                QDir::toNativeSeparators(folder), name)};
+    }
+    return std::unique_ptr<SpoolSource>(new SpoolSource(spool.absolutePath(), options));
+}
+
+SpoolSource::SpoolSource(QString path, const SpoolOptions& spoolOptions)
+    : folder(std::move(path)), options(spoolOptions) {}
+
+// A file is whole when it stayed as it is for a while, and nobody has it open for writing, where the system
+// tells.
+bool SpoolSource::isWhole(const QFileInfo& file) {
+    const QString name = file.fileName();
+    const Look now{file.size(), file.lastModified(), steadyMs()};
+    if (const auto gone = left.constFind(name); gone != left.constEnd()) {
+        if (gone->isLike(now))
+            return false;
+        left.remove(name);
+    }
+    // What is no file is not written either.
+    if (file.isSymLink() || !file.isFile())
+        return true;
+    const auto before = seen.constFind(name);
+    if (before == seen.constEnd() || !before->isLike(now)) {
+        seen[name] = now;
+        return options.quiet.count() == 0 && !isOpenForWriting(file.filePath());
+    }
+    return now.since - before->since >= options.quiet.count() && !isOpenForWriting(file.filePath());
+}
+
+bool SpoolSource::hasPortion() {
+    if (!current.isEmpty())
+        return true;
+    const QFileInfoList files =
+        QDir(folder).entryInfoList(QDir::Files | QDir::System | QDir::Hidden, QDir::Time | QDir::Reversed);
+    QHash<QString, Look> still;
+    for (const QFileInfo& file : files) {
+        const QString name = file.fileName();
+        if (isUnfinished(name))
+            continue;
+        if (isWhole(file)) {
+            current = name;
+            seen.remove(name);
+            return true;
+        }
+        if (seen.contains(name))
+            still[name] = seen[name];
+    }
+    // What is no longer there is forgotten.
+    seen = still;
+    return false;
+}
+
+Done SpoolSource::read(const ItemVisitor& visit) {
+    const QString path = QDir(folder).filePath(current);
+    const QFileInfo info(path);
+    if (info.isSymLink())
+        return Error{u"This is a link; only files are taken."_s};
+    if (info.exists() && !info.isFile())
+        return Error{u"This is not a file."_s};
+    if (info.size() > options.largestFile)
+        return Error{u"The file is larger than %1 bytes."_s.arg(options.largestFile)};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return Error{u"The file cannot be opened: %1."_s.arg(file.errorString())};
+    ReadOptions reading = options.read;
+    reading.sourceName = current;
+    Done read = readSource(file, reading, visit);
+    if (read && file.error() != QFileDevice::NoError)
+        return Error{u"The file cannot be read to its end: %1."_s.arg(file.errorString())};
+    return read;
+}
+
+void SpoolSource::settle(const PortionOutcome& outcome) {
+    const bool isNothing = outcome.totals.takenIn + outcome.totals.alreadyThere == 0;
+    const bool isRejected = outcome.fault || (isNothing && outcome.totals.rejected > 0);
+    moveAway(isRejected ? u"rejected"_s : u"done"_s, reasonsOf(outcome));
+    current.clear();
+}
+
+void SpoolSource::moveAway(const QString& subfolder, const QString& reasons) {
+    const QDir target(QDir(folder).filePath(subfolder));
+    const QString path = QDir(folder).filePath(current);
+    for (int number = 1; number < mostNames; ++number) {
+        const QString moved = target.filePath(numbered(current, number));
+        if (isTaken(moved) || isTaken(reasonFile(moved)))
+            continue;
+        // The reason first: no rejected file is ever without one.
+        if (!reasons.isEmpty()) {
+            QSaveFile file(reasonFile(moved));
+            const QByteArray text = reasons.toUtf8();
+            if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size())
+                file.commit();
+        }
+        if (QFile::rename(path, moved)) {
+            if (!reasons.isEmpty() && tell)
+                tell(u"%1: %2"_s.arg(QDir::toNativeSeparators(moved), reasons.section(u'\n', 0, 0)));
+            return;
+        }
+        QFile::remove(reasonFile(moved));
+        break;
+    }
+    const QFileInfo stays(path);
+    if (!stays.exists() && !stays.isSymLink())
+        return;
+    left[current] = {stays.size(), stays.lastModified(), 0};
+    if (tell)
+        tell(u"%1 cannot be moved to the folder %2. It is left as it is and not taken again."_s.arg(
+            QDir::toNativeSeparators(path), subfolder));
+}
+
+}  // namespace wirepane

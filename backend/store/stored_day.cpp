@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/stored_day.h"
+
+#include "backend/store/local_day.h"
+#include "backend/store/store_file.h"
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+Result<std::unique_ptr<StoredDay>> StoredDay::open(const QString& storePath, QDate day) {
+    auto opened = Database::open(storePath, Database::Mode::Read, StoreOptions().busyTimeout);
+    if (!opened)
+        return Error{opened.error()};
+    if (const std::optional<Error> fault = storeFault(*opened.value()))
+        return *fault;
+    std::unique_ptr<StoredDay> stored(new StoredDay(std::move(opened.value())));
+    if (!stored->load(day))
+        return Error{stored->database->failure()};
+    return stored;
+}
+
+StoredDay::StoredDay(std::unique_ptr<Database> opened)
+    : database(std::move(opened)),
+      oneItem(*database,
+              "SELECT headlines.service, identity, version, time, sequence, title, text, "
+              "(SELECT name FROM categories WHERE id = headlines.category AND "
+              "space = CASE headlines.service WHEN 52 THEN 52 ELSE 0 END) "
+              "FROM headlines LEFT JOIN stories ON headline = headlines.id WHERE headlines.id = ?"),
+      allRelated(*database, "SELECT market, code FROM related_symbols WHERE headline = ? ORDER BY position") {
+}
+
+bool StoredDay::load(QDate day) {
+    Statement all(*database,
+                  "SELECT time, id FROM headlines WHERE service IN (SELECT id FROM services) AND "
+                  "time >= ? AND time < ? ORDER BY time, service, sequence");
+    const DayBounds bounds = boundsOf(day);
+    Query query(all, bounds.begin, bounds.end);
+    while (query.next())
+        entries.push_back({query.number(0), query.number(1)});
+    return !query.failed();
+}
+
+Result<NewsItem> StoredDay::item(std::size_t index) {
+    const std::int64_t id = entries[index].id;
+    NewsItem item;
+    {
+        Query query(oneItem, id);
+        if (!query.next())
+            return Error{query.failed() ? database->failure() : u"The news is no longer in the store."_s};
+        item.service = static_cast<unsigned char>(query.number(0));
+        item.identity = query.text(1);
+        item.version = query.smallNumber(2);
+        item.time = query.number(3);
+        item.sequence = query.smallNumber(4);
+        item.title = query.text(5);
+        if (!query.isNull(6))
+            item.story = query.text(6);
+        item.category = query.text(7);
+    }
+    for (Query query(allRelated, id); query.next();)
+        item.related.push_back({static_cast<unsigned char>(query.number(0)), query.text(1)});
+    return item;
+}
+
+}  // namespace wirepane

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/feed/feed_line.h"
+#include "backend/import/import_job.h"
+#include "terminal/automation/line_splitter.h"
+
+#include <QLocalSocket>
+#include <QObject>
+#include <QTimer>
+
+#include <deque>
+
+namespace wirepane {
+
+// Sends a feed to a terminal and keeps each line until the terminal has it on the disk: when the connection
+// breaks it comes again, and what was not confirmed is sent again, from the position that the terminal names.
+class FeedClient : public QObject {
+    Q_OBJECT
+
+public:
+    FeedClient(QString socketName, FeedHello hello, QObject* parent = nullptr);
+    ~FeedClient() override;
+
+    // Tries for ever, unless nobody answers within three seconds of the start.
+    void start();
+    // A line without its line feed. `position`: that of its item, if it has one.
+    void send(const QByteArray& line, const QString& position = {});
+    // Lines that are not confirmed.
+    std::size_t unconfirmed() const { return lines.size(); }
+    const ImportTotals& totals() const { return sum; }
+
+signals:
+    // The terminal has confirmed lines.
+    void confirmed();
+    // `place` counts the lines since the connection was made.
+    void rejected(const QString& place, const QString& reason);
+    void connectionLost();
+    void connectionMade();
+    // Nobody answers, or the terminal refuses.
+    void failed(const QString& sentence);
+
+private:
+    struct Line {
+        QByteArray text;
+        QString position;
+    };
+
+    void connectAgain();
+    void greet();
+    void receive();
+    void answered(const QByteArray& answer);
+    void startFrom(const QString& position);
+    void sendMore();
+
+    QString name;
+    FeedHello hello;
+    QLocalSocket socket;
+    QTimer again;
+    LineSplitter splitter;
+    std::deque<Line> lines;     // the oldest that is not confirmed first
+    std::size_t sent = 0;       // of these, on the way
+    qint64 confirmedLines = 0;  // of this connection
+    bool isGreeted = false;
+    bool wasConnected = false;
+    int tries = 0;
+    ImportTotals sum;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/feed/feed_connection.h"
+
+#include "terminal/automation/line_channel.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+QByteArray lineOf(const QJsonObject& answer) {
+    return QJsonDocument(answer).toJson(QJsonDocument::Compact) + '\n';
+}
+
+}  // namespace
+
+QByteArray positionLine(const QString& position) {
+    return lineOf({{u"position"_s, position}});
+}
+
+QByteArray receiptLine(const LineSource::Receipt& receipt) {
+    QJsonArray rejections;
+    for (const Rejection& rejection : receipt.outcome.rejections)
+        rejections.append(QJsonObject{{u"place"_s, rejection.place}, {u"reason"_s, rejection.reason}});
+    const ImportTotals& totals = receipt.outcome.totals;
+    return lineOf({{u"lines"_s, receipt.lines},
+                   {u"takenIn"_s, totals.takenIn},
+                   {u"alreadyThere"_s, totals.alreadyThere},
+                   {u"rejected"_s, totals.rejected},
+                   {u"rejections"_s, rejections}});
+}
+
+FeedConnection::FeedConnection(LineChannel* client, FeedSink& feedSink, QObject* parent)
+    : QObject(parent), channel(client), sink(feedSink) {
+    lines.onHello([this](const FeedHello& hello) { greet(hello); });
+    lines.onReceipt([this](const LineSource::Receipt& receipt) { send(receiptLine(receipt)); });
+    connect(client, &LineChannel::lineReceived, this, [this](const QByteArray& line) {
+        lines.add(line);
+        if (lines.hasPortion())
+            emit ready();
+    });
+    connect(client, &LineChannel::lineTooLong, this, [this] {
+        lines.addRejected(
+            u"The line is longer than %1 MiB."_s.arg(LineSplitter::longestLine / (1024 * 1024)));
+        emit ready();
+    });
+    connect(client, &LineChannel::ended, this, [this] {
+        hasEnded = true;
+        emit ready();
+    });
+}
+
+void FeedConnection::greet(const FeedHello& hello) {
+    const Result<QString> position = hello.source.isEmpty() ? QString() : sink.positionOf(hello.source);
+    send(position ? positionLine(position.value()) : lineOf({{u"error"_s, position.error()}}));
+}
+
+void FeedConnection::send(const QByteArray& line) {
+    if (channel)
+        channel->send(line);
+}
+
+}  // namespace wirepane

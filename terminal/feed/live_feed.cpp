@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/feed/live_feed.h"
+
+#include "backend/store/embedded_back_end.h"
+#include "backend/store/local_day.h"
+#include "host/contract/clock.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int tickMs = 250;
+constexpr int retryMs = 2000;  // after the store could not be written
+constexpr std::size_t mostWaitingLines = 10000;
+
+}  // namespace
+
+LiveFeed::LiveFeed(EmbeddedBackEnd& store) : backEnd(store), startDay(host_clock::today()) {
+    connect(&ticking, &QTimer::timeout, this, &LiveFeed::tick);
+    ticking.start(tickMs);
+    pumping.setSingleShot(true);
+    connect(&pumping, &QTimer::timeout, this, &LiveFeed::pump);
+}
+
+Done LiveFeed::watch(const QString& spoolFolder, const SpoolOptions& options) {
+    auto opened = SpoolSource::open(spoolFolder, options);
+    if (!opened)
+        return Error{opened.error()};
+    spool = std::move(opened.value());
+    spool->onTrouble([this](const QString& sentence) { emit trouble(sentence); });
+    pumpSoon();
+    return Nothing{};
+}
+
+Done LiveFeed::listen(const QString& name) {
+    socketName = name;
+    return openSocket();
+}
+
+Done LiveFeed::openSocket() {
+    if (socketName.isEmpty())
+        return Nothing{};
+    server = std::make_unique<SocketServer>();
+    connect(server.get(), &SocketServer::connected, this, [this](LineChannel* channel) {
+        connections.push_back(std::make_shared<FeedConnection>(channel, backEnd, nullptr));
+        FeedConnection* const connection = connections.back().get();
+        connect(connection, &FeedConnection::ready, this, [this, connection] {
+            // A sender that is faster than the disk waits for it.
+            if (connection->source().waiting() > mostWaitingLines && storeTrouble.isEmpty() && !isTaking)
+                take(connection->source());
+            pumpSoon();
+        });
+    });
+    return server->listen(socketName);
+}
+
+void LiveFeed::setConnected(bool connected) {
+    if (connected == isConnected)
+        return;
+    isConnected = connected;
+    if (!connected) {
+        connections.clear();
+        server.reset();
+        backEnd.setConnected(false);
+    } else {
+        isCatchingUp = true;
+        backEnd.setConnected(true);
+        if (const Done opened = openSocket(); !opened)
+            emit trouble(opened.error());
+        pumpSoon();
+    }
+    updateState();
+}
+
+bool LiveFeed::isIdle() {
+    const bool isFed = isConnected && storeTrouble.isEmpty() &&
+                       ((spool && spool->hasPortion()) ||
+                        std::any_of(connections.begin(), connections.end(), [](const auto& connection) {
+                            return connection->source().hasPortion();
+                        }));
+    return !isFed && (!isConnected || backEnd.isDelivered());
+}
+
+void LiveFeed::tick() {
+    if (isConnected) {
+        backEnd.checkForNews();
+        if (spool && spool->hasPortion())
+            pumpSoon();
+    }
+    updateState();
+}
+
+void LiveFeed::pumpSoon() {
+    if (!pumping.isActive())
+        pumping.start(storeTrouble.isEmpty() ? 0 : retryMs);
+}
+
+// One portion a turn, so that the windows stay alive; the next turn when this one did anything.
+void LiveFeed::pump() {
+    // A view that is told may open a dialog, whose loop comes by here.
+    if (!isTaking) {
+        if (isConnected && pumpOne())
+            pumpSoon();
+        dropDoneConnections();
+    }
+    updateState();
+}
+
+bool LiveFeed::pumpOne() {
+    bool tried = false;
+    if (spool && spool->hasPortion()) {
+        tried = true;
+        if (!take(*spool))
+            return true;
+    }
+    // A break sends the clients off.
+    for (const auto& connection : std::vector(connections)) {
+        if (!isConnected || !connection->source().hasPortion())
+            continue;
+        tried = true;
+        if (!take(connection->source()))
+            return true;
+    }
+    return tried;
+}
+
+bool LiveFeed::take(FeedSource& source) {
+    isTaking = true;
+    const Result<PortionOutcome> taken = takePortion(source, backEnd);
+    isTaking = false;
+    storeTrouble = taken ? QString() : taken.error();
+    if (taken)
+        startNewsDays(taken.value());
+    return static_cast<bool>(taken);
+}
+
+void LiveFeed::startNewsDays(const PortionOutcome& outcome) {
+    const QDate today = host_clock::today();
+    const DayBounds bounds = boundsOf(today);
+    for (const auto& [service, newest] : outcome.newest) {
+        QDate& known = newsDays.try_emplace(service, startDay).first->second;
+        if (!bounds.contains(newest) || known >= today)
+            continue;
+        known = today;
+        backEnd.startNewsDay({service, dayNumber(today)});
+    }
+}
+
+void LiveFeed::dropDoneConnections() {
+    std::erase_if(connections, [](const auto& connection) { return connection->isDone(); });
+}
+
+void LiveFeed::updateState() {
+    isCatchingUp = isCatchingUp && !isIdle();
+    FeedState now = current;
+    now.kind = !isConnected                              ? FeedState::Offline
+               : isCatchingUp || !storeTrouble.isEmpty() ? FeedState::Reconnecting
+                                                         : FeedState::Live;
+    if (now.kind != current.kind)
+        now.since = host_clock::now();
+    now.late = backEnd.lateHeadlines();
+    now.trouble = storeTrouble;
+    if (now == current)
+        return;
+    current = now;
+    emit stateChanged();
+}
+
+}  // namespace wirepane

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/feed/spool_source.h"
+#include "terminal/automation/socket_server.h"
+#include "terminal/feed/feed_connection.h"
+
+#include <QDate>
+#include <QObject>
+#include <QTimer>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace wirepane {
+
+class EmbeddedBackEnd;
+
+// How the terminal stands to its sources of news.
+struct FeedState {
+    enum Kind {
+        Live,
+        Reconnecting,  // taking what a break kept away, or waiting for a store that cannot be written
+        Offline,
+    };
+    Kind kind = Live;
+    std::int64_t since = 0;  // when it came to be so, seconds since 1970; 0: from the start
+    int late = 0;            // headlines that came late after the last break
+    QString trouble;         // why the store cannot be written; empty: it can
+
+    bool operator==(const FeedState&) const = default;
+};
+
+// The live news of a running terminal: takes in what a spool folder and the clients of a local socket bring,
+// a portion at a time so that the windows stay alive, and passes on what other programs write to the store.
+// A service that gets its first news of a new day starts a new news day. Interface thread.
+class LiveFeed : public QObject {
+    Q_OBJECT
+
+public:
+    // The back end is not owned and outlives the feed.
+    explicit LiveFeed(EmbeddedBackEnd& backEnd);
+
+    Done watch(const QString& spoolFolder, const SpoolOptions& options = {});
+    // Serves feeds on a local socket that only the same user may open.
+    Done listen(const QString& socketName);
+
+    // A break keeps everything away: files stay in the spool, clients are sent off and may come again after
+    // it. What came to the store meanwhile is told when it is over, oldest first.
+    void setConnected(bool connected);
+    FeedState state() const { return current; }
+    // Nothing is at hand, and everybody has been told of everything.
+    bool isIdle();
+
+signals:
+    void stateChanged();
+    // A sentence about a file of the spool.
+    void trouble(const QString& sentence);
+
+private:
+    void tick();
+    void pumpSoon();
+    void pump();
+    bool pumpOne();
+    bool take(FeedSource& source);
+    void startNewsDays(const PortionOutcome& outcome);
+    void dropDoneConnections();
+    void updateState();
+    Done openSocket();
+
+    EmbeddedBackEnd& backEnd;
+    std::unique_ptr<SpoolSource> spool;
+    QString socketName;
+    std::unique_ptr<SocketServer> server;
+    std::vector<std::shared_ptr<FeedConnection>> connections;
+    QTimer ticking;
+    QTimer pumping;
+    std::map<unsigned char, QDate> newsDays;
+    QDate startDay;
+    QString storeTrouble;
+    bool isConnected = true;
+    bool isCatchingUp = false;
+    bool isTaking = false;
+    FeedState current;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/feed/feed_line.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+const NewsItem& newsOf(const FeedRecord& record) {
+    return std::get<NewsItem>(record.item.value());
+}
+
+TEST(FeedLineTest, AnItemComesBackAsItWas) {
+    NewsItem item;
+    item.service = 52;
+    item.identity = u"urn:\"x\"\n"_s;
+    item.version = -3;
+    item.time = -5;
+    item.title = u"  台積電 \U0001F4C8 <b> "_s;
+    item.story = u"One@@@@Two\r\n@@@@"_s;
+    item.category = u"Issue"_s;
+    item.related = {{16, u"2330"_s}, {0, u"X"_s}};
+    item.sequence = 2147483647;
+    const FeedLine parsed = parsedFeedLine(itemLine(item, u"p 1"_s), 1);
+    const auto& record = std::get<FeedRecord>(parsed);
+    ASSERT_TRUE(record.item) << record.item.error().toStdString();
+    const NewsItem& back = newsOf(record);
+    EXPECT_EQ(record.position, u"p 1"_s);
+    EXPECT_EQ(std::tie(back.service, back.identity, back.version, back.time, back.title, back.story,
+                       back.category, back.related, back.sequence),
+              std::tie(item.service, item.identity, item.version, item.time, item.title, item.story,
+                       item.category, item.related, item.sequence));
+    item.story.reset();
+    item.sequence.reset();
+    const FeedLine bare = parsedFeedLine(itemLine(item, {}), 1);
+    EXPECT_EQ(newsOf(std::get<FeedRecord>(bare)).story, std::nullopt);
+    EXPECT_EQ(newsOf(std::get<FeedRecord>(bare)).sequence, std::nullopt);
+}
+
+TEST(FeedLineTest, RecordsAndGreetingsAreToldApart) {
+    const QByteArray record =
+        R"({"uri":"u:1","type":"text","headline":"\"wirepane\" rises","versioncreated":"2026-03-02T01:00:00Z"})";
+    const FeedLine plain = parsedFeedLine(record, 16);
+    EXPECT_EQ(newsOf(std::get<FeedRecord>(plain)).service, 16);
+    const FeedLine wrapped =
+        parsedFeedLine(R"( {"wirepane": {"position": "7", "ninjs": )" + record + "}} \r\n", 22);
+    EXPECT_EQ(newsOf(std::get<FeedRecord>(wrapped)).title, u"\"wirepane\" rises"_s);
+    EXPECT_EQ(newsOf(std::get<FeedRecord>(wrapped)).service, 22);
+    EXPECT_EQ(std::get<FeedRecord>(wrapped).position, u"7"_s);
+    const FeedLine hello = parsedFeedLine(helloLine({u"desk 1"_s, 22}), 1);
+    EXPECT_EQ(std::get<FeedHello>(hello).source, u"desk 1"_s);
+    EXPECT_EQ(std::get<FeedHello>(hello).service, 22);
+}
+
+TEST(FeedLineTest, WhatIsNoNewsIsRejectedWithAReason) {
+    const QByteArray lines[] = {
+        "",
+        "{",
+        "[1]",
+        "null",
+        "\xff\xfe{}",
+        QByteArray(200000, '['),
+        R"({"wirepane":{}})",
+        R"({"wirepane":{"source":1}})",
+        R"({"wirepane":{"source":"x","service":256}})",
+        R"({"wirepane":{"item":{}}})",
+        R"({"wirepane":{"item":{"service":0,"identity":"a","time":1,"title":"t"}}})",
+        R"({"wirepane":{"item":{"service":1,"identity":"a","time":1e300,"title":"t"}}})",
+        R"({"wirepane":{"item":{"service":1,"identity":"a","time":1.5,"title":"t"}}})",
+        R"({"wirepane":{"item":{"service":1,"identity":7,"time":1,"title":"t"}}})",
+        R"({"wirepane":{"item":{"service":1,"identity":"a","time":1,"title":"t","sequence":4294967296}}})",
+        R"({"wirepane":{"item":{"service":1,"identity":"a","time":1,"title":"t","related":[1]}}})",
+        R"({"wirepane":{"item":{"service":1,"identity":"a","time":1,"title":"t","related":"x"}}})",
+        R"({"wirepane":{"ninjs":{"headline":"no uri"}}})",
+    };
+    for (const QByteArray& line : lines) {
+        const FeedLine parsed = parsedFeedLine(line, 1);
+        const auto* record = std::get_if<FeedRecord>(&parsed);
+        ASSERT_NE(record, nullptr) << line.left(80).toStdString();
+        ASSERT_FALSE(record->item) << line.left(80).toStdString();
+        EXPECT_FALSE(record->item.error().isEmpty());
+    }
+}
+
+}  // namespace
+
+}  // namespace wirepane

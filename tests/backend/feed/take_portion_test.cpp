@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/feed/line_source.h"
+#include "tests/backend/feed/feed_fixture.h"
+
+namespace wirepane {
+
+namespace {
+
+using TakePortionTest = FeedFixture;
+
+QByteArray positioned(const QByteArray& record, int position) {
+    return "{\"wirepane\":{\"position\":\"" + QByteArray::number(position) + "\",\"ninjs\":" + record + "}}";
+}
+
+TEST_F(TakePortionTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
+    LineSource source;
+    QStringList receipts;
+    source.onReceipt([&](const LineSource::Receipt& receipt) {
+        receipts += u"%1: %2 %3 %4"_s.arg(receipt.lines)
+                        .arg(receipt.outcome.totals.takenIn)
+                        .arg(receipt.outcome.totals.alreadyThere)
+                        .arg(receipt.outcome.totals.rejected);
+    });
+    QStringList places;
+    source.add(helloLine({u"wire"_s, 16}));
+    EXPECT_FALSE(source.hasPortion());
+    source.add(positioned(record(u"a"_s, u"A"_s), 1));
+    source.add("rubbish");
+    source.addRejected(u"too long"_s);
+    source.add(helloLine({u"other"_s, 1}));
+    source.add(positioned(record(u"a"_s, u"A"_s), 2));
+    const Result<PortionOutcome> taken = takePortion(source, *writer);
+    ASSERT_TRUE(taken);
+    for (const Rejection& rejection : taken.value().rejections)
+        places += rejection.place;
+    EXPECT_EQ(receipts, QStringList{u"5: 1 1 3"_s});
+    EXPECT_EQ(places, (QStringList{u"line 2"_s, u"line 3"_s, u"line 4"_s}));
+    EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2"_s);
+    EXPECT_EQ(taken.value().newest.count(16), 1u);
+    EXPECT_FALSE(source.hasPortion());
+
+    for (int i = 0; i < 2500; ++i)
+        source.add(positioned(record(QString::number(i), u"N"_s), 10 + i));
+    while (source.hasPortion())
+        ASSERT_TRUE(takePortion(source, *writer));
+    EXPECT_EQ(receipts.mid(1), (QStringList{u"1005: 1000 0 0"_s, u"2005: 1000 0 0"_s, u"2505: 500 0 0"_s}));
+    EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2509"_s);
+}
+
+TEST_F(TakePortionTest, AStoreThatFailsKeepsThePortionForLater) {
+    FailingSink sink(*writer);
+    LineSource source;
+    int receipts = 0;
+    source.onReceipt([&](const LineSource::Receipt&) { ++receipts; });
+    source.add(helloLine({u"wire"_s, 1}));
+    source.add(positioned(record(u"a"_s, u"A"_s), 1));
+    source.add(positioned(record(u"b"_s, u"B"_s), 2));
+    for (const auto moment :
+         {FailingSink::Begin, FailingSink::TakeSecond, FailingSink::Keep, FailingSink::Commit}) {
+        sink.failsAt = moment;
+        EXPECT_FALSE(takePortion(source, sink)) << moment;
+        EXPECT_EQ(titles(), QStringList{}) << moment;
+        EXPECT_EQ(writer->positionOf(u"wire"_s).value(), QString()) << moment;
+        EXPECT_EQ(receipts, 0) << moment;
+    }
+    sink.failsAt = FailingSink::Never;
+    EXPECT_TRUE(takePortion(source, sink));
+    EXPECT_EQ(titles(), (QStringList{u"A"_s, u"B"_s}));
+    EXPECT_EQ(receipts, 1);
+}
+
+}  // namespace
+
+}  // namespace wirepane
