@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/adv_search_dlg.h"
 
+#include "host/controls/plain_caption.h"
 #include "host/controls/window_id.h"
 #include "search/search_ids.h"
 #include "search/search_keys.h"
@@ -36,11 +37,10 @@ constexpr std::array scopes{Choice{search_ids::scopeHeadlines, search_keys::scop
 constexpr std::array methods{Choice{search_ids::methodOr, search_keys::methodOr},
                              Choice{search_ids::methodAnd, search_keys::methodAnd}};
 
-QString withoutMnemonic(const QString& text) {
-    // "Any (&O)" and "&Any" alike.
-    const qsizetype bracket = text.indexOf(QLatin1StringView("(&"));
-    QString plain = bracket > 0 ? text.left(bracket) : text;
-    return plain.remove(u'&').trimmed();
+// Without the mark of a key, also where it stands in brackets behind the text.
+QString withoutKey(const QString& caption) {
+    const qsizetype bracket = caption.indexOf(QLatin1StringView("(&"));
+    return NameOfCaption(bracket > 0 ? caption.left(bracket) : caption).trimmed();
 }
 
 }  // namespace
@@ -169,8 +169,8 @@ void CAdvSearchDlg::vFillRecent() {
         QString contents;
         for (const QString& keyword : search->keywords)
             contents += keyword + u' ';
-        const QString texts[] = {withoutMnemonic(Text(searchScope.key)),
-                                 withoutMnemonic(Text(searchMethod.key)), contents};
+        const QString texts[] = {withoutKey(Text(searchScope.key)), withoutKey(Text(searchMethod.key)),
+                                 contents};
         for (int index = 0; index < 3; ++index) {
             auto* item = new QTableWidgetItem(texts[index]);
             item->setTextAlignment(index == 1 ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The controls of keyword entry: what there is, where it stands, what it sends.
 #include "host/controls/hover_button.h"
+#include "host/controls/roomy_rows.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "search/keyword_entry_dlg.h"
@@ -31,6 +32,7 @@ QListWidget* addList(QWidget* dialog, int id, const QString& name) {
     auto* list = add<QListWidget>(dialog, id, name);
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->setUniformItemSizes(true);
+    list->setItemDelegate(new RoomyRows(list));
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setTextElideMode(Qt::ElideRight);
     return list;

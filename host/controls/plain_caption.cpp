@@ -7,5 +7,7 @@ QString CaptionOfName(QString name) {
 }
 
 QString NameOfCaption(QString caption) {
-    return caption.replace(QStringLiteral("&&"), QStringLiteral("&"));
+    for (qsizetype mark = caption.indexOf(u'&'); mark >= 0; mark = caption.indexOf(u'&', mark + 1))
+        caption.remove(mark, 1);
+    return caption;
 }

@@ -5,6 +5,6 @@
 #include <QString>
 
 // Captions of buttons and tabs take '&' as the mark of a key. Names are data: these write one so that its '&'
-// is shown, and read it back.
+// is shown, and read back what is shown: a mark alone is not.
 QString CaptionOfName(QString name);
 QString NameOfCaption(QString caption);

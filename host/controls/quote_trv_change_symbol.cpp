@@ -4,6 +4,7 @@
 
 #include "host/contract/bk_quote_interface.h"
 #include "host/controls/registered_message.h"
+#include "host/controls/roomy_rows.h"
 #include "host/controls/symbol_matches.h"
 #include "host/controls/window_id.h"
 
@@ -46,6 +47,7 @@ bool QuoteTRVChangeSymbol::Create() {
     tree->setHeaderHidden(true);
     tree->setColumnCount(2);
     tree->setUniformRowHeights(true);
+    tree->setItemDelegate(new RoomyRows(tree));
     tree->header()->setStretchLastSection(true);
     auto* choose = new QPushButton(text(u"IDS_DIALOG-CHANGE-SYMBOL_CHOOSE"_s), this);
     auto* close = new QPushButton(text(u"IDS_DIALOG-CHANGE-SYMBOL_CLOSE"_s), this);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/automation/automation.h"
 
+#include "terminal/automation/dialog_methods.h"
 #include "terminal/automation/standard_channel.h"
 
 #include <QCoreApplication>
@@ -29,6 +30,7 @@ Automation::Automation(Session& session)
     host.addTo(table);
     links.addTo(table);
     menus.addTo(table);
+    DialogMethods::addTo(table);
     app.addTo(table);
 }
 

@@ -46,6 +46,19 @@ void clickAt(QWidget& widget, const QPoint& point, Qt::MouseButton button) {
     QApplication::sendEvent(target, &release);
 }
 
+void doubleClickAt(QWidget& widget, const QPoint& point, Qt::MouseButton button) {
+    const QPointer<QWidget> target(&widget);
+    const QPoint global = widget.mapToGlobal(point);
+    clickAt(widget, point, button);
+    for (const auto& [type, buttons] : {std::pair(QEvent::MouseButtonDblClick, Qt::MouseButtons(button)),
+                                        std::pair(QEvent::MouseButtonRelease, Qt::MouseButtons())}) {
+        if (target.isNull())
+            return;
+        QMouseEvent event(type, point, global, button, buttons, Qt::NoModifier);
+        QApplication::sendEvent(target, &event);
+    }
+}
+
 void chooseMenuItem(QMenu& menu, QAction& item) {
     menu.setActiveAction(&item);
     pressKey(&menu, Qt::Key_Return);

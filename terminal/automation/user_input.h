@@ -22,6 +22,8 @@ namespace wirepane {
 
 // Presses and releases a mouse button at a point of the widget; the right one asks for a context menu, too.
 void clickAt(QWidget& widget, const QPoint& point, Qt::MouseButton button);
+// Two clicks in quick succession, with all that the platform makes of them.
+void doubleClickAt(QWidget& widget, const QPoint& point, Qt::MouseButton button);
 // Picks an item of an open menu, which closes.
 void chooseMenuItem(QMenu& menu, QAction& item);
 // Opens the drop-down, picks the entry and closes the drop-down.

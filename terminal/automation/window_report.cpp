@@ -9,6 +9,7 @@
 #include "terminal/frame/workspace.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLabel>
@@ -46,6 +47,31 @@ QJsonObject buttonReport(const QAbstractButton& button) {
     return {{u"text"_s, NameOfCaption(button.text())}, {u"checked"_s, button.isChecked()}};
 }
 
+// The texts of the rows of a list and which are selected and ticked; a tree's branches are its rows.
+QJsonObject listReport(const QAbstractItemView& list) {
+    const QAbstractItemModel& model = *list.model();
+    QJsonArray columns;
+    QJsonArray rows;
+    QJsonArray selection;
+    QJsonArray checkedRows;
+    for (int column = 0; column < model.columnCount(); ++column)
+        columns.append(model.headerData(column, Qt::Horizontal).toString());
+    for (int row = 0; row < model.rowCount(); ++row) {
+        QJsonArray texts;
+        for (int column = 0; column < model.columnCount(); ++column)
+            texts.append(model.index(row, column).data().toString());
+        rows.append(texts);
+        if (list.selectionModel()->isSelected(model.index(row, 0)))
+            selection.append(row);
+        if (model.index(row, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked)
+            checkedRows.append(row);
+    }
+    return {{u"columns"_s, columns},
+            {u"rows"_s, rows},
+            {u"selection"_s, selection},
+            {u"checkedRows"_s, checkedRows}};
+}
+
 // What a control shows, by its kind.
 QJsonObject contentReport(const QWidget& control) {
     if (const auto* combo = qobject_cast<const QComboBox*>(&control))
@@ -60,6 +86,9 @@ QJsonObject contentReport(const QWidget& control) {
         return {{u"text"_s, date->text()}};
     if (const auto* label = qobject_cast<const QLabel*>(&control))
         return {{u"text"_s, label->text()}};
+    if (const auto* list = qobject_cast<const QAbstractItemView*>(&control);
+        list != nullptr && qobject_cast<const CSuperSheetWnd*>(&control) == nullptr)
+        return listReport(*list);
     if (const auto* text = qobject_cast<const QTextEdit*>(&control))
         return {{u"text"_s, text->toPlainText()}};
     return {};

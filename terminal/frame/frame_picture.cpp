@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace wirepane {
 
@@ -24,14 +25,23 @@ int layerOf(const QWidget* window) {
     }
 }
 
+// A dialog lies over the window that it belongs to.
+int depthOf(const QWidget* window) {
+    int depth = 0;
+    for (const QWidget* owner = window->parentWidget(); owner != nullptr; owner = owner->parentWidget())
+        depth += owner->isWindow() ? 1 : 0;
+    return depth;
+}
+
 }  // namespace
 
 QPixmap pictureWithWindowsAbove(QWidget& window) {
     QPixmap picture = window.grab();
     QWidgetList others = QApplication::topLevelWidgets();
     others.removeIf([&window](const QWidget* other) { return other == &window || !other->isVisible(); });
-    std::stable_sort(others.begin(), others.end(),
-                     [](const QWidget* a, const QWidget* b) { return layerOf(a) < layerOf(b); });
+    std::stable_sort(others.begin(), others.end(), [](const QWidget* a, const QWidget* b) {
+        return std::pair(layerOf(a), depthOf(a)) < std::pair(layerOf(b), depthOf(b));
+    });
     QPainter painter(&picture);
     for (QWidget* other : others)
         painter.drawPixmap(window.mapFromGlobal(other->mapToGlobal(QPoint(0, 0))), other->grab());

@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QImage>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -327,6 +328,47 @@ TEST_F(AutomationSessionTest, AScriptPagesThroughDaysAndReadsStories) {
     const QJsonObject dialog =
         script.result(u"story.state"_s, QJsonObject{{u"where"_s, u"dialog"_s}}).toObject();
     EXPECT_FALSE(dialog[u"visible"_s].toBool(true));
+}
+
+TEST_F(AutomationSessionTest, ASearchIsComposedInItsDialogAndFindsChineseAndEnglish) {
+    ScriptClient script(arguments());
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:01:00"_s, 1, u"Rate cut is near"_s));
+    script.result(u"feed.push"_s, news(2, u"2026-03-02T09:02:00"_s, 1, u"央行降息在即"_s));
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:03:00"_s, 2, u"Nothing of note"_s));
+    script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{900, 600}}, {u"mask"_s, 0x09}});
+    script.result(u"control.choose"_s, QJsonObject{{u"id"_s, 3100}, {u"index"_s, 1}});
+    EXPECT_TRUE(script.result(u"dialog.state"_s).isNull());
+
+    script.result(u"view.command"_s, QJsonObject{{u"id"_s, 3002}});
+    const QJsonObject opened = script.result(u"dialog.state"_s).toObject();
+    EXPECT_EQ(opened[u"id"_s].toInt(), 2013);
+    EXPECT_EQ(opened[u"title"_s].toString(), u"Advanced Search"_s);
+    EXPECT_EQ(opened[u"focus"_s].toInt(), 2061);
+    EXPECT_EQ(opened[u"default"_s].toInt(), 2063);
+    for (const QString& keyword : {u"降息"_s, u"RATE CUT"_s, u"kept out"_s}) {
+        script.result(u"dialog.set"_s, QJsonObject{{u"id"_s, 2061}, {u"text"_s, keyword}});
+        script.result(u"dialog.click"_s, QJsonObject{{u"id"_s, 2063}});
+    }
+    script.result(u"dialog.click"_s, QJsonObject{{u"id"_s, 2060}, {u"row"_s, 2}, {u"double"_s, true}});
+    script.result(u"dialog.click"_s, QJsonObject{{u"id"_s, 2076}});
+    EXPECT_EQ(script.result(u"dialog.state"_s).toObject()[u"class"_s].toString(), u"QMessageBox"_s);
+    script.result(u"dialog.click"_s, QJsonObject{{u"id"_s, u"no"_s}});
+    script.result(u"dialog.click"_s, QJsonObject{{u"id"_s, 1}});
+    script.result(u"wait"_s, QJsonObject{{u"ms"_s, 300}});
+    script.result(u"idle"_s);
+    const QJsonObject found = script.result(u"grid.read"_s, QJsonObject{{u"list"_s, 3}}).toObject();
+    EXPECT_EQ(titlesOf(found), (QStringList{u"央行降息在即"_s, u"Rate cut is near"_s}));
+
+    script.result(u"view.command"_s, QJsonObject{{u"id"_s, 3002}});
+    const QJsonArray controls = script.result(u"dialog.state"_s).toObject()[u"controls"_s].toArray();
+    const auto recent = std::find_if(controls.begin(), controls.end(), [](const QJsonValue& control) {
+        return control[u"id"_s].toInt() == 2074;
+    });
+    ASSERT_NE(recent, controls.end());
+    EXPECT_EQ((*recent)[u"rows"_s].toArray(),
+              (QJsonArray{QJsonArray{u"Headlines"_s, u"Any keyword"_s, u"降息 RATE CUT "_s}}));
+    script.result(u"dialog.close"_s);
+    EXPECT_TRUE(script.result(u"dialog.state"_s).isNull());
 }
 
 }  // namespace
