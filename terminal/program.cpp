@@ -26,13 +26,17 @@ struct Command {
 };
 
 constexpr Command commands[] = {
-    {"import", &runImport},
-    {"feed", &runFeed},
-    {"replay", &runReplay},
-    {"sample", &runSample},
-    {"check", &runCheck},
-    {"search", &runSearch},
+    {"import", &runImport}, {"feed", &runFeed},   {"replay", &runReplay},
+    {"sample", &runSample}, {"check", &runCheck}, {"search", &runSearch},
 };
+
+QtMessageHandler usualMessages = nullptr;
+
+// The offscreen platform has no window to raise and no keyboard to grab, and says so every time.
+void leaveOffscreenRemarksOut(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.startsWith("This plugin does not support"_L1))
+        usualMessages(type, context, text);
+}
 
 void nameApplication() {
     QCoreApplication::setApplicationName(u"wirepane"_s);
@@ -51,6 +55,8 @@ int runProgram(int argc, char** argv) {
     }
     if (wantsOffscreen(argc, argv) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qgetenv("QT_QPA_PLATFORM") == "offscreen")
+        usualMessages = qInstallMessageHandler(leaveOffscreenRemarksOut);
     const QApplication application(argc, argv);
     nameApplication();
     return runTerminal();

@@ -81,4 +81,11 @@ bool addDefaults(Database& database) {
     return addCategories(database) && addServices(database);
 }
 
+bool removeDefaultCategories(Database& database) {
+    std::int64_t news = 0;
+    if (!database.readNumber("SELECT EXISTS(SELECT 1 FROM headlines)", news))
+        return false;
+    return news != 0 || database.execute("DELETE FROM service_categories; DELETE FROM categories");
+}
+
 }  // namespace wirepane

@@ -10,4 +10,8 @@ namespace wirepane {
 // transaction that makes the tables. False on failure.
 bool addDefaults(Database& database);
 
+// Takes the first categories away from a store that holds no news yet, for one that brings categories of its
+// own. False on failure.
+bool removeDefaultCategories(Database& database);
+
 }  // namespace wirepane

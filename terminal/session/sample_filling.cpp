@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/sample_filling.h"
 
+#include "backend/store/store_defaults.h"
 #include "backend/store/store_writer.h"
 
 #include <optional>
@@ -54,6 +55,11 @@ Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& option
     Filling filling(store);
     if (const Done begun = filling.begin(); !begun)
         return Error{begun.error()};
+    // The wire brings categories of its own; what it has no news in would be an empty list to choose.
+    if (!removeDefaultCategories(store)) {
+        filling.rollback();
+        return Error{u"The categories of the store could not be changed: %1"_s.arg(store.failure())};
+    }
     std::int64_t seen = 0;
     std::optional<Error> failure;
     const bool whole = SampleWire(options).run([&](StoreItem&& item) {
