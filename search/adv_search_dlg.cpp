@@ -92,7 +92,7 @@ QLayout* CAdvSearchDlg::pCreateChoices() {
     return grid;
 }
 
-QLayout* CAdvSearchDlg::pCreateRecent() {
+void CAdvSearchDlg::vCreateRecentList() {
     recentList = new QTableWidget(0, 3, this);
     SetWindowId(recentList, search_ids::recent);
     recentList->setAccessibleName(Text(search_keys::recent));
@@ -102,6 +102,20 @@ QLayout* CAdvSearchDlg::pCreateRecent() {
     recentList->setTabKeyNavigation(false);
     recentList->setWordWrap(false);
     recentList->verticalHeader()->hide();
+    recentList->installEventFilter(this);
+    connect(recentList, &QTableWidget::cellClicked, this, &CAdvSearchDlg::vSelectRecent);
+    connect(recentList, &QTableWidget::itemSelectionChanged, this, [this] {
+        if (recentList->selectionModel()->hasSelection())
+            vSelectRecent(recentList->currentRow());
+    });
+    connect(recentList, &QTableWidget::cellDoubleClicked, this, [this](int row) {
+        vSelectRecent(row);
+        QMetaObject::invokeMethod(
+            this, [this] { OnOK(); }, Qt::QueuedConnection);
+    });
+}
+
+void CAdvSearchDlg::vCreateRecentColumns() {
     recentList->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     QHeaderView* header = recentList->horizontalHeader();
     header->setSectionsMovable(true);
@@ -118,17 +132,11 @@ QLayout* CAdvSearchDlg::pCreateRecent() {
     }
     recentList->setFixedHeight(header->sizeHint().height() + recentRows * (fontMetrics().height() + 6) +
                                2 * recentList->frameWidth());
-    recentList->installEventFilter(this);
-    connect(recentList, &QTableWidget::cellClicked, this, &CAdvSearchDlg::vSelectRecent);
-    connect(recentList, &QTableWidget::itemSelectionChanged, this, [this] {
-        if (recentList->selectionModel()->hasSelection())
-            vSelectRecent(recentList->currentRow());
-    });
-    connect(recentList, &QTableWidget::cellDoubleClicked, this, [this](int row) {
-        vSelectRecent(row);
-        QMetaObject::invokeMethod(
-            this, [this] { OnOK(); }, Qt::QueuedConnection);
-    });
+}
+
+QLayout* CAdvSearchDlg::pCreateRecent() {
+    vCreateRecentList();
+    vCreateRecentColumns();
     auto* column = new QVBoxLayout;
     column->addWidget(pAddCaption(search_ids::recentCaption, Text(search_keys::recent)));
     column->addWidget(recentList);

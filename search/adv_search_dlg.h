@@ -29,6 +29,8 @@ protected:
 private:
     QLayout* pCreateChoices();
     QLayout* pCreateRecent();
+    void vCreateRecentList();
+    void vCreateRecentColumns();
     QLayout* pCreateEnd();
     void vFillRecent();
     void vLoadCondition();

@@ -77,9 +77,10 @@ void SearchDesk::vSend(ListIndex mode, std::span<ServiceEntry> services, bool aw
     }
 }
 
-void SearchDesk::vNarrow(CSearch condition, const CSymbolInfo& symbol) {
+void SearchDesk::vNarrow(const CSearch& condition, const CSymbolInfo& symbol) {
+    const CSearch before = condition;  // it may be one of those that change
     for (CSearch* stored : {&ordinary, &second, &warningTerm}) {
-        if (*stored == condition)
+        if (*stored == before)
             stored->symbols = {symbol};
     }
 }

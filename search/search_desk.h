@@ -50,7 +50,7 @@ public:
     // are not.
     void vSend(ListIndex mode, std::span<ServiceEntry> services, bool awaited);
     // Narrows every condition that equals `condition` to a symbol.
-    void vNarrow(CSearch condition, const CSymbolInfo& symbol);
+    void vNarrow(const CSearch& condition, const CSymbolInfo& symbol);
 
 private:
     BKQuoteInterface& backEnd;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Numbers of the controls, bitmaps and timers of the search dialogs.
+// Numbers of the controls of the search dialogs.
 namespace search_ids {
 
 inline constexpr int ok = 1;
@@ -35,7 +35,6 @@ inline constexpr int scopeCaption = 2081;
 inline constexpr int methodCaption = 2082;
 inline constexpr int recentCaption = 2083;
 
-inline constexpr int candidateTimer = 20001;
 inline constexpr int candidateDelayMs = 200;
 
 }  // namespace search_ids

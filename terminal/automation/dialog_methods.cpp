@@ -17,7 +17,9 @@
 #include <QTabBar>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -178,37 +180,58 @@ bool setCheck(QWidget& control, bool checked) {
     return true;
 }
 
+// What a control is to hold: one of them.
+struct Wish {
+    std::optional<QString> text;
+    std::optional<bool> checked;
+    std::optional<std::int64_t> index;
+    std::optional<std::vector<int>> selection;
+    std::optional<std::vector<int>> checkedRows;
+};
+
+Wish wishFrom(Params& params) {
+    Wish wish{params.optionalText(u"text"_s), params.optionalBool(u"checked"_s),
+              params.optionalNumber(u"index"_s, 0), params.optionalNumbers(u"selection"_s),
+              params.optionalNumbers(u"checkedRows"_s)};
+    const auto given = {wish.text.has_value(), wish.checked.has_value(), wish.index.has_value(),
+                        wish.selection.has_value(), wish.checkedRows.has_value()};
+    if (std::count(given.begin(), given.end(), true) != 1)
+        params.fail(
+            u"one of \"text\", \"checked\", \"index\", \"selection\" and \"checkedRows\" says what the "
+            u"control is to hold"_s);
+    return wish;
+}
+
+bool setRows(Params& params, QWidget& control, const Wish& wish) {
+    auto* list = qobject_cast<QAbstractItemView*>(&control);
+    if (list == nullptr)
+        return false;
+    const std::vector<int>& rows = wish.selection ? *wish.selection : *wish.checkedRows;
+    requireRows(params, *list, rows);
+    if (params.error())
+        return true;
+    if (wish.selection)
+        selectRows(*list, rows);
+    else
+        checkRows(*list, rows);
+    return true;
+}
+
 Answer set(Params& params) {
     const QDialog* dialog = dialogOf(params);
     QWidget* control = dialog != nullptr ? controlIn(params, *dialog) : nullptr;
-    const auto text = params.optionalText(u"text"_s);
-    const auto checked = params.optionalBool(u"checked"_s);
-    const auto index = params.optionalNumber(u"index"_s, 0);
-    const auto selection = params.optionalNumbers(u"selection"_s);
-    const auto checkedRows = params.optionalNumbers(u"checkedRows"_s);
-    if (text.has_value() + checked.has_value() + index.has_value() + selection.has_value() +
-            checkedRows.has_value() !=
-        1)
-        params.fail(
-            u"one of \"text\", \"checked\", \"index\", \"selection\" and \"checkedRows\" says what it is to hold"_s);
-    auto* list = qobject_cast<QAbstractItemView*>(control);
-    if (list != nullptr)
-        requireRows(params, *list, selection.value_or(checkedRows.value_or(std::vector<int>())));
+    const Wish wish = wishFrom(params);
     if (control == nullptr || params.error())
         return {};
-    bool held = true;
-    if (text)
-        held = setText(*control, *text);
-    else if (checked)
-        held = setCheck(*control, *checked);
-    else if (index)
-        held = setIndex(params, *control, static_cast<int>(*index));
-    else if (list == nullptr)
-        held = false;
-    else if (selection)
-        selectRows(*list, *selection);
+    bool held = false;
+    if (wish.text)
+        held = setText(*control, *wish.text);
+    else if (wish.checked)
+        held = setCheck(*control, *wish.checked);
+    else if (wish.index)
+        held = setIndex(params, *control, static_cast<int>(*wish.index));
     else
-        checkRows(*list, *checkedRows);
+        held = setRows(params, *control, wish);
     if (!held)
         params.fail(u"the control holds no such thing"_s, RpcCode::Refused);
     return {};
