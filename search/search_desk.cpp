@@ -78,11 +78,14 @@ void SearchDesk::vSend(ListIndex mode, std::span<ServiceEntry> services, bool aw
 }
 
 void SearchDesk::vNarrow(const CSearch& condition, const CSymbolInfo& symbol) {
-    const CSearch before = condition;  // it may be one of those that change
+    // All of them are found first: `condition` may be one of those that change.
+    std::vector<CSearch*> equal;
     for (CSearch* stored : {&ordinary, &second, &warningTerm}) {
-        if (*stored == before)
-            stored->symbols = {symbol};
+        if (*stored == condition)
+            equal.push_back(stored);
     }
+    for (CSearch* stored : equal)
+        stored->symbols = {symbol};
 }
 
 bool TakeAnswer(std::span<ServiceEntry> services, unsigned char service) {
