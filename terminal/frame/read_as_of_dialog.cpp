@@ -3,6 +3,7 @@
 #include "terminal/frame/read_as_of_dialog.h"
 
 #include "host/contract/clock.h"
+#include "terminal/frame/dialog_buttons.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QDateTimeEdit>
@@ -23,9 +24,7 @@ ReadAsOfDialog::ReadAsOfDialog(QWidget* parent) : QDialog(parent) {
     edit = new QDateTimeEdit(QDateTime::fromSecsSinceEpoch(host_clock::now()));
     edit->setCalendarPopup(true);
     edit->setDisplayFormat(u"yyyy/MM/dd HH:mm"_s);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QDialogButtonBox* buttons = dialogButtons(*this);
     auto* now = buttons->addButton(terminalText(TextId::ReadAsOfNow), QDialogButtonBox::ResetRole);
     connect(now, &QPushButton::clicked, edit, [this] { edit->setDateTime(QDateTime::currentDateTime()); });
     auto* column = new QVBoxLayout(this);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/settings_dialog.h"
 
+#include "terminal/frame/dialog_buttons.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QCheckBox>
@@ -50,9 +51,7 @@ SettingsDialog::SettingsDialog(const TerminalChoices& present, QWidget* parent) 
     auto* pages = new QTabWidget;
     pages->addTab(generalPage(present), terminalText(TextId::SettingsGeneral));
     pages->addTab(newsPage(present), terminalText(TextId::SettingsNews));
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QDialogButtonBox* buttons = dialogButtons(*this);
     auto* column = new QVBoxLayout(this);
     column->addWidget(pages);
     column->addWidget(buttons);

@@ -182,6 +182,10 @@ void Workspace::save(const OpenView& view, int place) {
     view.view->SaveViewInfo(view.settings, view.section, frameNumber, place);
 }
 
+ViewSettingPath Workspace::settingPath(const QString& section, int place) {
+    return {section, frameNumber, place, viewClass};
+}
+
 bool Workspace::resize(const OpenView& view, const QSize& size) {
     if (view.dock != nullptr)
         return false;

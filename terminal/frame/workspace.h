@@ -73,6 +73,8 @@ public:
     // Has the view write its settings to where it read them from, or to another place of the same store.
     void save(const OpenView& view) { save(view, view.place); }
     void save(const OpenView& view, int place);
+    // Where the settings of a view stand in its store.
+    static ViewSettingPath settingPath(const QString& section, int place);
     // False for a view in a dock, whose size the dock gives.
     bool resize(const OpenView& view, const QSize& size);
     void rename(OpenView& view, const QString& title);

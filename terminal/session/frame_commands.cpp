@@ -12,6 +12,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 
 namespace wirepane {
 
@@ -157,6 +158,8 @@ void FrameCommands::rename(int number) {
     dialog->setWindowTitle(terminalText(TextId::RenameTitle));
     dialog->setLabelText(terminalText(TextId::RenamePrompt));
     dialog->setTextValue(view->title);
+    dialog->setOkButtonText(terminalText(TextId::Accept));
+    dialog->setCancelButtonText(terminalText(TextId::Cancel));
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (dialog.isNull())
         return;
@@ -179,6 +182,7 @@ void FrameCommands::report(const Done& done) {
                                 QMessageBox::Ok, &session.frame());
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
+    box->button(QMessageBox::Ok)->setText(terminalText(TextId::Accept));
     box->exec();
 }
 

@@ -121,8 +121,14 @@ void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         case PE_IndicatorDockWidgetResizeHandle:
             painter->fillRect(option->rect, option->palette.color(QPalette::Mid));
             break;
+        case PE_FrameTabWidget:
+            painter->setPen(option->palette.color(QPalette::Mid));
+            painter->setBrush(option->palette.color(QPalette::Base));
+            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            break;
         case PE_FrameMenu:
             painter->setPen(option->palette.color(QPalette::Mid));
+            painter->setBrush(Qt::NoBrush);
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
             break;
         case PE_PanelStatusBar:

@@ -22,6 +22,7 @@ namespace wirepane {
 namespace {
 
 constexpr int keepMs = 2000;
+constexpr int storyBelow = 2;
 const QString section = u"main"_s;
 
 StoredView storedView(const OpenView& open) {
@@ -81,6 +82,9 @@ Result<OpenView*> WorkspaceKeeper::openNew(int newsType) {
     view.linkGroup = parts.frame.symbolBox().group();
     // What a closed view of this place has left behind.
     parts.layout.forget(section, view.place);
+    // Beside others a view is narrow: its story goes under its list.
+    if (!parts.workspace.docked().empty())
+        parts.layout.SetViewInfo(Workspace::settingPath(section, view.place), u"NewsShowType"_s, storyBelow);
     return open(view);
 }
 

@@ -9,6 +9,8 @@
 #include "terminal/commands/exit_status.h"
 #include "terminal/commands/open_command.h"
 #include "terminal/frame/frame_picture.h"
+#include "terminal/frame/settings_dialog.h"
+#include "terminal/frame/symbol_box.h"
 #include "terminal/session/session.h"
 
 #include <QApplication>
@@ -27,8 +29,11 @@ namespace {
 
 constexpr int tabStrip = 3100;  // the view's tabs
 constexpr int categoryCombo = 3004;
+constexpr int showTypeButton = 25458;
 constexpr int categoryTab = 1;
 constexpr int categoryList = 1;
+constexpr int symbolNewsType = 2;
+constexpr unsigned char symbolMarket = 16;
 constexpr int settleMs = 300;  // longer than the view's deferred refresh
 
 void settle() {
@@ -57,7 +62,18 @@ public:
         session.setScheme(ColourScheme::Light);
         showTab(categoryTab);
         showCategoryWithNews();
-        return picture(u"3-by-category.png"_s);
+        if (const Done taken = picture(u"3-by-category.png"_s); !taken)
+            return taken;
+        if (const Done opened = openDesk(); !opened)
+            return opened;
+        if (const Done taken = picture(u"4-linked-views.png"_s); !taken)
+            return taken;
+        session.setScheme(ColourScheme::Dark);
+        SettingsDialog settings({session.language(), session.settings().scheme(),
+                                 session.settings().fontSize(), session.settings().switches()},
+                                &session.frame());
+        settings.show();
+        return picture(u"5-settings.png"_s);
     }
 
 private:
@@ -65,6 +81,24 @@ private:
         auto* tabs = qobject_cast<QTabBar*>(GetDlgItem(session.workspace().newest()->view, tabStrip));
         if (tabs != nullptr && tab < tabs->count())
             clickTab(*tabs, tab);
+    }
+
+    // Three views that follow one symbol.
+    Done openDesk() {
+        for (const int newsType : {0, symbolNewsType}) {
+            if (const auto opened = session.keeper().openNew(newsType); !opened)
+                return Error{opened.error()};
+        }
+        session.workspace().arrange(Arrangement::Columns);
+        session.workspace().find(1)->view->OnCommand(showTypeButton);
+        session.workspace().activate(*session.workspace().find(2));
+        std::vector<QString> codes;
+        std::vector<QString> names;
+        session.backEnd().symbols().GetSymbolsByService(symbolMarket, codes, names, 1);
+        if (!codes.empty())
+            session.links().change(nullptr, session.frame().symbolBox().group(),
+                                   {symbolMarket, codes.front(), names.front()});
+        return Nothing{};
     }
 
     void showCategoryWithNews() {

@@ -76,8 +76,10 @@ constexpr std::array keys{
     "TERMINAL_SETTINGS_BOTH_SEARCHES",
     "TERMINAL_SETTINGS_REOPEN",
     "TERMINAL_VIEW_FAILED",
+    "TERMINAL_ACCEPT",
+    "TERMINAL_CANCEL",
 };
-static_assert(keys.size() == static_cast<std::size_t>(TextId::ViewFailed) + 1);
+static_assert(keys.size() == static_cast<std::size_t>(TextId::Cancel) + 1);
 
 }  // namespace
 

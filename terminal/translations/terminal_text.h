@@ -75,6 +75,8 @@ enum class TextId {
     SettingsBothSearches,
     SettingsReopen,
     ViewFailed,
+    Accept,
+    Cancel,
 };
 
 // The text in the language in force.

@@ -371,6 +371,10 @@
         <source></source>
         <translation>Noto Sans CJK TC</translation>
     </message>
+    <message id="TERMINAL_ACCEPT">
+        <source></source>
+        <translation>OK</translation>
+    </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>
         <translation>Wirepane</translation>
@@ -390,6 +394,10 @@
     <message id="TERMINAL_AS_OF">
         <source></source>
         <translation>As of %1</translation>
+    </message>
+    <message id="TERMINAL_CANCEL">
+        <source></source>
+        <translation>Cancel</translation>
     </message>
     <message id="TERMINAL_CLOSE_BUTTON">
         <source></source>

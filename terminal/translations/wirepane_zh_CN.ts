@@ -371,6 +371,10 @@
         <source></source>
         <translation>Noto Sans CJK SC</translation>
     </message>
+    <message id="TERMINAL_ACCEPT">
+        <source></source>
+        <translation>确定</translation>
+    </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>
         <translation>Wirepane</translation>
@@ -390,6 +394,10 @@
     <message id="TERMINAL_AS_OF">
         <source></source>
         <translation>时点 %1</translation>
+    </message>
+    <message id="TERMINAL_CANCEL">
+        <source></source>
+        <translation>取消</translation>
     </message>
     <message id="TERMINAL_CLOSE_BUTTON">
         <source></source>
