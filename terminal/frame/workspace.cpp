@@ -93,12 +93,16 @@ Result<OpenView*> Workspace::open(ViewRequest request) {
         view.dock = frame.docks().add(view.place, neighbour != nullptr ? neighbour->dock : nullptr);
         watchBar(view);
     }
-    openViews.push_back(std::move(entry));
-    if (const Done started = start(view, request.linkGroup, request.size); !started) {
-        close(view.number);
+    const Done started = start(view, request.linkGroup, request.size);
+    if (!started) {
+        if (view.dock != nullptr)
+            frame.docks().remove(view.dock);
         return Error{started.error()};
     }
+    openViews.push_back(std::move(entry));
+    showDeskWhereNeeded();
     activate(view);
+    refreshTitles();
     return &view;
 }
 
@@ -127,9 +131,7 @@ Done Workspace::start(OpenView& open, unsigned char group, const QSize& size) {
     view->show();
     if (const auto* strip = qobject_cast<CXTPTabControl*>(GetDlgItem(view, tabStrip)))
         connect(strip, &QTabBar::currentChanged, this, &Workspace::refreshTitles, Qt::QueuedConnection);
-    showDeskWhereNeeded();
     emit opened(&open);
-    refreshTitles();
     return Nothing{};
 }
 
@@ -175,6 +177,7 @@ Done Workspace::reopen(OpenView& open) {
         close(open.number);
     else
         delete old;
+    refreshTitles();
     return started;
 }
 

@@ -229,8 +229,11 @@ void Session::showViews() {
         state.linkGroup = active->view->GetLinkGroup();
     mainFrame->showChoices(state);
     mainFrame->showCaption(active != nullptr ? active->shownTitle() : QString());
-    if (state.linkGroup != 0 && state.linkGroup != mainFrame->symbolBox().group())
-        mainFrame->symbolBox().showGroup(state.linkGroup);
+    // Only when the view or its group is another one: the user may have picked a group for the box.
+    const FollowedView now{active != nullptr ? active->number : 0, state.linkGroup};
+    if (now != followed && now.group != 0)
+        mainFrame->symbolBox().showGroup(now.group);
+    followed = now;
 }
 
 }  // namespace wirepane

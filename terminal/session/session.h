@@ -75,6 +75,14 @@ public:
     void showViews();
 
 private:
+    // The view whose link group the symbol box has taken over.
+    struct FollowedView {
+        int number = 0;
+        unsigned char group = 0;
+
+        bool operator==(const FollowedView&) const = default;
+    };
+
     explicit Session(const SessionOptions& options);
 
     Done start(const SessionOptions& options);
@@ -99,6 +107,7 @@ private:
     std::unique_ptr<Appearance> look;
     std::unique_ptr<LinkGroups> linkGroups;
     std::unique_ptr<WorkspaceKeeper> workspaceKeeper;
+    FollowedView followed;
 };
 
 }  // namespace wirepane

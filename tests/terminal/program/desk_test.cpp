@@ -134,6 +134,16 @@ TEST_F(DeskTest, TheSymbolBoxDrivesTheViewsOfItsGroup) {
     EXPECT_EQ(line->text(), second.code);
     EXPECT_FALSE(line->hasFocus());
 
+    // A group that is picked for the box stays, whichever views are there.
+    session->frame().symbolBox().showGroup(4);
+    session->frame().symbolBox().begin();
+    typeText(*line, first.code);
+    QTest::keyClick(line, Qt::Key_Return);
+    EXPECT_EQ(session->frame().symbolBox().group(), 4);
+    EXPECT_EQ(codeOf(1), second.code);
+    EXPECT_EQ(session->links().symbols().at(4).code, first.code);
+    session->frame().symbolBox().showGroup(1);
+
     // A view that joins the group takes its symbol; one that picks another hands it to the group.
     workspace.link(*workspace.find(3), 1);
     EXPECT_EQ(codeOf(3), second.code);
