@@ -53,6 +53,8 @@ inline constexpr QLatin1StringView printFailed{"IDS_NEWSCTRLVIEW_STRING_PRINT_FA
 // Reasons.
 inline constexpr QLatin1StringView noCodePage{"IDS_NEWSCTRLVIEW_STRING_NO_CODE_PAGE"};
 inline constexpr QLatin1StringView printerGone{"IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE"};
+// "%1": its name.
+inline constexpr QLatin1StringView noSuchPaper{"IDS_NEWSCTRLVIEW_STRING_NO_SUCH_PAPER"};
 // "%1": how many characters, "%2": the file.
 inline constexpr QLatin1StringView charactersReplaced{"IDS_NEWSCTRLVIEW_STRING_CHARACTERS_REPLACED"};
 

@@ -31,6 +31,8 @@ inline constexpr int firstServiceCommand = 5050;
 inline constexpr int lastServiceCommand = 5060;
 inline constexpr int changeCategoryState = 5061;
 inline constexpr int showStory = 9270;
+inline constexpr int printNews = 9271;
+inline constexpr int saveNews = 9272;
 
 // Child views: this plus their own number.
 inline constexpr int firstChildView = 59648;

@@ -54,6 +54,19 @@ void StoryStage::SetStoryWndStyle() {
         active->activateWindow();
 }
 
+void StoryStage::vLeaveTop() {
+    if (dialog != nullptr)
+        vSetTopMost(false);
+}
+
+void StoryStage::vShowDialog() {
+    if (dialog == nullptr)
+        return;
+    SetStoryWndStyle();
+    dialog->show();
+    dialog->raise();
+}
+
 void StoryStage::ChangeActiveApp(bool active) {
     if (dialog != nullptr)
         vSetTopMost(active && IsStoryDlgOnTop());

@@ -27,6 +27,10 @@ public:
     static bool IsStoryDlgOnTop();
     // Applies the host's wish without moving or sizing the dialog; the active window stays active.
     void SetStoryWndStyle();
+    // Lets other windows lie over the dialog until the host's wish is applied again.
+    void vLeaveTop();
+    // Shows the dialog over the ordinary windows.
+    void vShowDialog();
     // The application became active or inactive: an inactive application has no window on top of others.
     void ChangeActiveApp(bool active);
 

@@ -23,7 +23,13 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       symbols(backEnd, controls),
       searches(backEnd),
       shortTip(new CXTTipWindow(this)),
-      dates(host_clock::today()) {}
+      printer(backEnd, outputDialogs, *this),
+      saver(backEnd, outputDialogs, *this),
+      preview(backEnd, outputDialogs, *this),
+      dates(host_clock::today()) {
+    for (TRVNewsPrint* job : pJobs())
+        job->vSetOnFinished([this](const NewsOutcome& outcome) { vTell(outcome); });
+}
 
 TRVNewsCtrlView::~TRVNewsCtrlView() {
     C_UnRegisterSymbol(this);
@@ -57,6 +63,10 @@ bool TRVNewsCtrlView::OnCommand(int id) {
         {ids::recoverStory, &TRVNewsCtrlView::OnReCoverStory},
         {ids::recoverHeadlineTable, &TRVNewsCtrlView::OnReCoverHeadlineTable},
         {ids::showStory, &TRVNewsCtrlView::OnShowStory},
+        {ids::printButton, &TRVNewsCtrlView::OnBtnPrint},
+        {ids::saveAsButton, &TRVNewsCtrlView::OnBtnSaveas},
+        {ids::printNews, &TRVNewsCtrlView::OnPrintNews},
+        {ids::saveNews, &TRVNewsCtrlView::OnSaveNews},
         {ids::changeCategoryState, &TRVNewsCtrlView::OnChangeCategoryState},
     };
     const auto* command = std::find_if(std::begin(commands), std::end(commands),

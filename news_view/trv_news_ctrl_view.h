@@ -3,7 +3,6 @@
 #pragma once
 
 #include "headline_list/date_pager.h"
-#include "headline_list/entry_source.h"
 #include "headline_list/feed_breaks.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/intake.h"
@@ -19,7 +18,11 @@
 #include "news_view/symbol_binding.h"
 #include "news_view/view_layout.h"
 #include "news_view/view_settings.h"
+#include "output/printable_story.h"
+#include "output/trv_news_print.h"
+#include "output/trv_save_to_file.h"
 #include "search/search_desk.h"
+#include "story/story_owner.h"
 
 #include <QLatin1StringView>
 #include <QMenu>
@@ -40,10 +43,7 @@ class CXTTipWindow;
 //
 // The host creates it by its class name, then calls OnInitialUpdate and InitialViewInfo. A back end is
 // installed before and outlives the view.
-class TRVNewsCtrlView : public TRVQuoteBaseView,
-                        public NewsViewAccess,
-                        public EntrySource,
-                        private ListOwner {
+class TRVNewsCtrlView : public TRVQuoteBaseView, public NewsViewAccess, public StoryOwner, private ListOwner {
     Q_OBJECT
 
 public:
@@ -132,7 +132,7 @@ public:
     // list has no grid.
     bool bChangeDateByNewHeadLine();
     // Goes to a row of a list and shows its story, in another mode if need be. Always true.
-    bool bChangeNewsPos(int list, int row);
+    bool bChangeNewsPos(int list, int row) override;
 
     // --- Sent again ---
 
@@ -181,6 +181,19 @@ public:
     // While there is no connection the view says since when; news of that time is marked in the lists.
     void vConnectionChanged(bool connected) override;
 
+    // --- Printing and saving ---
+
+    // Prints, saves, the selected rows; without any nothing happens. What is missing is waited for.
+    void OnPrintNews() override { vTell(PrintNews(std::nullopt)); }
+    void OnSaveNews() override { vTell(SaveNews(std::nullopt)); }
+    void OnBtnPrint() { OnPrintNews(); }
+    void OnBtnSaveas() { OnSaveNews(); }
+    // Brings a printable story into lines: see output/printable_story.h.
+    static void Linefeed(QString& story) { ::Linefeed(story); }
+    NewsOutcome PrintNews(const std::optional<OutputTarget>& target) override;
+    NewsOutcome SaveNews(const std::optional<OutputTarget>& target) override;
+    void PreviewNews() override;
+
     // --- Categories ---
 
     QString cszTransferCatIDToCatName(int id) const override;
@@ -206,6 +219,7 @@ protected:
     void vNotSupportSymbol(QPainter& painter) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     // Start-up.
@@ -278,6 +292,14 @@ private:
     void vSearchForPushed();
     void vSearchForSymbol(const CSymbolInfo& symbol);
     void vUpdateSymbolPicker(const std::vector<CSymbolUpdateInfo>& updates);
+    // Printing and saving.
+    std::vector<CHeadlineTable> vSelectedEntries() const;
+    void vTell(const NewsOutcome& outcome);
+    std::array<TRVNewsPrint*, 3> pJobs() { return {&printer, &saver, &preview}; }
+    NewsOutcome PutOut(TRVNewsPrint& job, int button, const std::optional<OutputTarget>& target);
+
+    // Stories.
+    TRVNewsStory* pStoryDialogOnShow() const;
 
     // Lists and painting.
     void OnChangeSize(quintptr sender);
@@ -312,6 +334,10 @@ private:
     std::unique_ptr<QMenu> serviceMenu;
     QPointer<CQuoteDlgTipMsg> tip;
     CXTTipWindow* shortTip;
+    OutputDialogs outputDialogs;
+    TRVNewsPrint printer;
+    TRVSaveToFile saver;
+    TRVNewsPreview preview;
 
     QString statusText;  // what the view has to say about its lists; empty most of the time
     DatePager dates;

@@ -148,7 +148,7 @@ void TRVNewsCtrlView::vViewCreate() {
     if (!IsSingleFunction(settings.functions))
         controls.vCreateTabStrip(QRect(client.left(), client.top(), client.width(), tabStripHeight));
     if (stage.pGetDialog() == nullptr)
-        stage.vSetDialog(new TRVNewsStory(this));
+        stage.vSetDialog(new TRVNewsStory(*this, this));
 
     const QRect gridArea(client.left(), client.top() + gridTop, client.width(), client.height() - gridTop);
     const QRect row(base + 4, client.top() + 25, 120, 25);

@@ -4,6 +4,7 @@
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "story/news_story_view.h"
+#include "story/trv_news_story.h"
 
 bool TRVNewsCtrlView::bPaneShowsStories() const {
     return newsType == 0 && storyShowType != StoryShowType::None;
@@ -20,7 +21,14 @@ void TRVNewsCtrlView::OnShowStory() {
         return;
     }
     sheet->vAutoVerScrolling(row);
-    if (!bPaneShowsStories() || pane == nullptr || row == shownStoryRow)
+    if (!bPaneShowsStories()) {
+        if (TRVNewsStory* dialog = stage.pGetDialog()) {
+            dialog->vSetStoryData(currentMode, row);
+            stage.vShowDialog();
+        }
+        return;
+    }
+    if (pane == nullptr || row == shownStoryRow)
         return;
     shownStoryRow = row;
     pane->vSetFont(GetViewFont());
@@ -36,17 +44,33 @@ void TRVNewsCtrlView::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
         list->vUpdateHeadline(entries);
     if (bPaneShowsStories() && stage.pGetPane() != nullptr)
         stage.pGetPane()->RespHeadLine(entries);
+    if (TRVNewsStory* dialog = pStoryDialogOnShow())
+        dialog->RespHeadLine(entries);
+    for (TRVNewsPrint* job : pJobs())
+        job->RespHeadLine(entries);
 }
 
 void TRVNewsCtrlView::RespStory(const CHeadlineTable& entry) {
     if (bPaneShowsStories() && stage.pGetPane() != nullptr)
         stage.pGetPane()->RespStory(entry);
+    if (TRVNewsStory* dialog = pStoryDialogOnShow())
+        dialog->RespStory(entry);
+    for (TRVNewsPrint* job : pJobs())
+        job->RespStory(entry);
 }
 
 void TRVNewsCtrlView::StoryUpdateNotify(const CHeadlineTable* entry) {
     const HeadlineList* list = CurrentList();
-    if (entry == nullptr || list == nullptr || stage.pGetPane() == nullptr ||
-        list->Table().rowOf(KeyOf(*entry)) < 0)
+    if (entry == nullptr || list == nullptr || list->Table().rowOf(KeyOf(*entry)) < 0)
         return;
-    stage.pGetPane()->vStoryUpdateNotify(entry);
+    if (TRVNewsStory* dialog = pStoryDialogOnShow())
+        dialog->vStoryUpdateNotify(entry);
+    else if (stage.pGetPane() != nullptr)
+        stage.pGetPane()->vStoryUpdateNotify(entry);
+}
+
+// The dialog while it is the view's story display and to be seen.
+TRVNewsStory* TRVNewsCtrlView::pStoryDialogOnShow() const {
+    TRVNewsStory* dialog = stage.pGetDialog();
+    return !bPaneShowsStories() && dialog != nullptr && dialog->isVisible() ? dialog : nullptr;
 }

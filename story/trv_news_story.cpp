@@ -3,17 +3,22 @@
 #include "story/trv_news_story.h"
 
 #include "headline_list/language_keys.h"
+#include "host/contract/sync_info.h"
 #include "host/controls/my_rich_edit.h"
+#include "host/controls/quote_static_ex.h"
 #include "host/controls/s_button.h"
-#include "host/controls/s_edit.h"
 #include "host/controls/window_id.h"
+#include "host/views/main_frame_window.h"
 #include "story/story_ids.h"
-
-#include <QCloseEvent>
+#include "story/story_owner.h"
+#include "story/story_text.h"
 
 namespace {
 
 constexpr int margin = 10;
+constexpr int titleLines = 2;   // date and title
+constexpr int titleExtra = 10;  // the title is that much higher than its text needs
+constexpr int titlePadding = 2;
 constexpr int buttonGap = 9;
 constexpr int spaceForButtons = 50;
 constexpr int buttonTop = 15;  // below the story
@@ -22,30 +27,58 @@ constexpr QSize initialSize{640, 480};
 struct StoryButton {
     int id;
     QLatin1StringView textKey;
+    void (TRVNewsStory::*clicked)();
 };
 
 // From the right edge leftward, so that they read print, save as, next, previous.
 constexpr std::array<StoryButton, 4> storyButtons{{
-    {story_ids::previousButton, keys::storyPrevious},
-    {story_ids::nextButton, keys::storyNext},
-    {story_ids::saveAsButton, keys::storySaveAs},
-    {story_ids::printButton, keys::storyPrint},
+    {story_ids::previousButton, keys::storyPrevious, &TRVNewsStory::OnBtnPageUp},
+    {story_ids::nextButton, keys::storyNext, &TRVNewsStory::OnBtnPageDown},
+    {story_ids::saveAsButton, keys::storySaveAs, &TRVNewsStory::OnBtnSaveas},
+    {story_ids::printButton, keys::storyPrint, &TRVNewsStory::OnBtnPrint},
 }};
 
 }  // namespace
 
-TRVNewsStory::TRVNewsStory(QWidget* ownerView)
-    : QDialog(ownerView), owner(ownerView), titleEdit(new SEdit(this)), storyEdit(new MyRichEdit(this)) {
+TRVNewsStory::TRVNewsStory(StoryOwner& storyOwner, QWidget* ownerView)
+    : TRVNewsStory(&storyOwner, nullptr, ownerView) {}
+
+TRVNewsStory::TRVNewsStory(CMainFrame* frame) : TRVNewsStory(nullptr, frame, frame->pGetWindow()) {}
+
+TRVNewsStory::TRVNewsStory(StoryOwner* storyOwner, CMainFrame* frame, QWidget* parent)
+    : QDialog(parent),
+      owner(storyOwner),
+      mainFrame(frame),
+      reader(*BKQuoteInterface::GetBKInterface()),
+      titleEdit(new MyRichEdit(this)),
+      storyEdit(new MyRichEdit(this)),
+      notice(new CQuoteStaticEx(this)) {
+    reader.vSetSource(owner);
+    reader.vSetStoryData(-1, 0);
     SetWindowId(this, story_ids::dialog);
     SetWindowId(titleEdit, story_ids::title);
     SetWindowId(storyEdit, story_ids::storyText);
-    titleEdit->setReadOnly(true);
-    for (std::size_t i = 0; i < buttons.size(); ++i) {
-        buttons[i] = new SButton(this);
-        SetWindowId(buttons[i], storyButtons[i].id);
-    }
+    SetWindowId(notice, story_ids::updateNotice);
+    titleEdit->document()->setDocumentMargin(titlePadding);
+    notice->hide();
+    vCreateButtons();
+    vSetFont(CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont());
     vLoadLanguageString();
     resize(initialSize);
+}
+
+// No button is pressed by Enter: the dialog has no keys of its own.
+void TRVNewsStory::vCreateButtons() {
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        buttons[i] = new SButton(this);
+        buttons[i]->setAutoDefault(false);
+        SetWindowId(buttons[i], storyButtons[i].id);
+        buttons[i]->setHidden(owner == nullptr);
+        connect(buttons[i], &SButton::clicked, this, storyButtons[i].clicked);
+    }
+    // In the order in which they read.
+    for (std::size_t i = buttons.size() - 1; i > 0; --i)
+        setTabOrder(buttons[i], buttons[i - 1]);
 }
 
 void TRVNewsStory::vLoadLanguageString() {
@@ -53,28 +86,160 @@ void TRVNewsStory::vLoadLanguageString() {
     setWindowTitle(LangText(backEnd, keys::storyDialogTitle));
     for (std::size_t i = 0; i < buttons.size(); ++i)
         buttons[i]->setText(LangText(backEnd, storyButtons[i].textKey));
+    vLayOut();
 }
+
+void TRVNewsStory::vSetFont(const QFont& font) {
+    titleEdit->setFont(font);
+    storyEdit->setFont(font);
+    notice->setFont(font);
+    vLayOut();
+}
+
+// --- Stories ---
+
+void TRVNewsStory::vSetStoryData(int table, int position, const CSearch& condition) {
+    reader.vSetStoryData(table, position, condition);
+    vShowData();
+}
+
+void TRVNewsStory::vShowData() {
+    vDraw(reader.ShowData());
+}
+
+void TRVNewsStory::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
+    vDraw(reader.RespHeadLine(entries));
+}
+
+void TRVNewsStory::RespStory(const CHeadlineTable& entry) {
+    vDraw(reader.RespStory(entry));
+}
+
+void TRVNewsStory::vDraw(const StoryTexts& texts) {
+    if (texts.title)
+        titleEdit->vSetText(*texts.title);
+    if (texts.story)
+        vShowStory(*texts.story);
+}
+
+void TRVNewsStory::vShowStory(const QString& text) {
+    vSetNotice({});
+    storyEdit->vSetText(text);
+    vSetStorySearchMarke();
+}
+
+void TRVNewsStory::vSetStorySearchMarke() {
+    if (const auto match = reader.Mark(storyEdit->szGetShownText()))
+        storyEdit->vSetSelection(match->start, match->end);
+}
+
+void TRVNewsStory::vStoryUpdateNotify(const CHeadlineTable*) {
+    vSetNotice(LangText(*BKQuoteInterface::GetBKInterface(), keys::waitForUpdate));
+}
+
+void TRVNewsStory::vSetNotice(const QString& text) {
+    notice->setText(text);
+    if (notice->isHidden() == text.isEmpty())
+        return;
+    notice->setHidden(text.isEmpty());
+    vLayOut();
+}
+
+// --- Buttons ---
+
+void TRVNewsStory::vPage(int step) {
+    const int size = owner != nullptr ? owner->iGetHeadlineTableSize(iGetTable()) : 0;
+    if (size < 1)
+        return;
+    int position = GetHeadLinePos() + step;
+    if (position >= size)
+        position = 0;
+    else if (position < 0)
+        position = size - 1;
+    reader.SetHeadLinePos(position);
+    vShowData();
+    bSelectInOwner();
+}
+
+bool TRVNewsStory::bSelectInOwner() {
+    return owner != nullptr && owner->bChangeNewsPos(iGetTable(), GetHeadLinePos());
+}
+
+void TRVNewsStory::OnBtnPageDown() {
+    vPage(1);
+}
+
+void TRVNewsStory::OnBtnPageUp() {
+    vPage(-1);
+}
+
+void TRVNewsStory::OnBtnPrint() {
+    if (bSelectInOwner())
+        owner->OnPrintNews();
+}
+
+void TRVNewsStory::OnBtnSaveas() {
+    if (bSelectInOwner())
+        owner->OnSaveNews();
+}
+
+// --- The main frame's texts ---
+
+void TRVNewsStory::vMainFrameShowHeadline(const QString& text) {
+    vDraw({text, LangText(*BKQuoteInterface::GetBKInterface(), keys::recover), true});
+}
+
+void TRVNewsStory::vMainFrameShowStroy(const CStory& story) {
+    BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
+    if (story.text.isEmpty()) {
+        vShowStory(LangText(backEnd, keys::recover));
+        return;
+    }
+    QString body = story.text;
+    vConvertStoryContent(body);
+    vShowStory(StoryText(story.time, body, BodyEnd::Shown, LangText(backEnd, keys::storyRemark)));
+}
+
+// --- Layout ---
 
 void TRVNewsStory::resizeEvent(QResizeEvent* event) {
     QDialog::resizeEvent(event);
-    const int titleHeight = titleEdit->sizeHint().height();
-    titleEdit->setGeometry(margin, margin, width() - 2 * margin, titleHeight);
-    const int storyTop = margin + titleHeight + margin;
-    storyEdit->setGeometry(margin, storyTop, width() - 2 * margin, height() - spaceForButtons - storyTop);
-    vPlaceButtons();
+    vLayOut();
 }
 
+void TRVNewsStory::vLayOut() {
+    const int noticeHeight = notice->isHidden() ? 0 : notice->fontMetrics().height();
+    notice->setGeometry(margin, margin, width() - 2 * margin, noticeHeight);
+    const QRect title(margin, margin + noticeHeight, width() - 2 * margin,
+                      titleLines * titleEdit->fontMetrics().lineSpacing() + titleExtra);
+    titleEdit->setGeometry(title);
+    const int storyTop = title.top() + title.height() + margin;
+    const int storyBottom = height() - (owner != nullptr ? spaceForButtons : margin);
+    storyEdit->setGeometry(margin, storyTop, title.width(), storyBottom - storyTop);
+    if (owner != nullptr)
+        vPlaceButtons();
+}
+
+// All are as large as the largest needs to be.
 void TRVNewsStory::vPlaceButtons() {
-    const QSize size = buttons.front()->sizeHint();
-    int right = storyEdit->geometry().right() + 1;
-    const int top = storyEdit->geometry().bottom() + 1 + buttonTop;
+    QSize size = buttons.front()->sizeHint();
+    for (const SButton* button : buttons)
+        size = size.expandedTo(button->sizeHint());
+    const QRect story = storyEdit->geometry();
+    int right = story.left() + story.width();
+    const int top = story.top() + story.height() + buttonTop;
     for (SButton* button : buttons) {
         button->setGeometry(right - size.width(), top, size.width(), size.height());
         right -= size.width() + buttonGap;
     }
 }
 
-void TRVNewsStory::closeEvent(QCloseEvent* event) {
-    owner->setFocus();
-    QDialog::closeEvent(event);
+void TRVNewsStory::reject() {
+    QDialog::reject();
+    if (owner == nullptr) {
+        mainFrame->OnStoryWindowClosed();
+        return;
+    }
+    parentWidget()->activateWindow();
+    parentWidget()->setFocus();
 }

@@ -2,36 +2,82 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "story/story_reader.h"
+
 #include <QDialog>
 
 #include <array>
 
+class CMainFrame;
+class CQuoteStaticEx;
 class MyRichEdit;
-class QWidget;
 class SButton;
-class SEdit;
+class StoryOwner;
 
-// The story of a headline in a window of its own, modeless. Created hidden; its owner shows it, hides it and
-// deletes it. Closing it gives the keyboard back to the owner.
+// The story of a headline in a window of its own, modeless. It serves a news view, with buttons to page
+// through the view's headlines, print and save; or a main frame, bare, which pushes its texts in. Created
+// hidden; its owner shows it, hides it and deletes it. Colours are the platform's. The back end must have
+// been installed.
 class TRVNewsStory : public QDialog {
     Q_OBJECT
 
 public:
-    // `ownerView` is the news view that the dialog belongs to; it outlives the dialog.
-    explicit TRVNewsStory(QWidget* ownerView);
+    // Both outlive the dialog. `ownerView` is its parent window and gets the keyboard back.
+    TRVNewsStory(StoryOwner& owner, QWidget* ownerView);
+    explicit TRVNewsStory(CMainFrame* mainFrame);
 
     // Sets every text of the dialog in the language in force.
     void vLoadLanguageString();
+    void vSetFont(const QFont& font);
+
+    // Points at a row of a list of the owner and shows it; found by a search: under this condition.
+    void vSetStoryData(int table, int position, const CSearch& condition = {});
+    int GetHeadLinePos() const { return reader.GetHeadLinePos(); }
+    int iGetTable() const { return reader.iGetTable(); }
+    // Shows the headline and story at the position, or a placeholder while they are not at hand. An empty
+    // list leaves the dialog as it is.
+    void vShowData();
+    // Headlines, a story, can be had now. Whatever does not belong to the headline shown is ignored.
+    void RespHeadLine(const std::vector<CHeadlineTable>& entries);
+    void RespStory(const CHeadlineTable& entry);
+    // The story is being updated: says so above the title until the next show or story.
+    void vStoryUpdateNotify(const CHeadlineTable* entry);
+    // Selects the last match of the search's keywords; only where a keyword search found the headline.
+    void vSetStorySearchMarke();
+
+    // To the next, the previous headline of the list, round and round; the owner's selection follows.
+    void OnBtnPageDown();
+    void OnBtnPageUp();
+    // Moves the owner's selection to this headline and has it printed, saved.
+    void OnBtnPrint();
+    void OnBtnSaveas();
+
+    // The main frame's texts: a headline whose story is not there yet; a story (an empty one has not come).
+    void vMainFrameShowHeadline(const QString& text);
+    void vMainFrameShowStroy(const CStory& story);
+
+    // The user closes the dialog, by its frame or with Esc.
+    void reject() override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
 
 private:
+    TRVNewsStory(StoryOwner* owner, CMainFrame* mainFrame, QWidget* parent);
+    void vCreateButtons();
+    void vLayOut();
     void vPlaceButtons();
+    void vDraw(const StoryTexts& texts);
+    void vShowStory(const QString& text);
+    void vSetNotice(const QString& text);
+    void vPage(int step);
+    bool bSelectInOwner();
 
-    QWidget* owner;
-    SEdit* titleEdit;
+    StoryOwner* owner;
+    CMainFrame* mainFrame;
+    StoryReader reader;
+    MyRichEdit* titleEdit;
     MyRichEdit* storyEdit;
+    CQuoteStaticEx* notice;
     std::array<SButton*, 4> buttons{};  // from the right: previous, next, save as, print
 };

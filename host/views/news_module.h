@@ -3,11 +3,14 @@
 #pragma once
 
 #include "host/contract/records.h"
+#include "host/views/news_output.h"
 
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
 #include <QtPlugin>
+
+#include <optional>
 
 class CSuperSheetWnd;
 class QWidget;
@@ -48,6 +51,12 @@ public:
     virtual QVariantMap StoryState(bool inDialog) const = 0;
     // The grid of headline list 0..6; null when the list has none.
     virtual CSuperSheetWnd* Sheet(int list) const = 0;
+    // Prints the selected rows, saves them, shows the pages that would print. Without a target the user is
+    // asked. What the user is to know of news that had waited, or was put out by a command, the view signals
+    // as MessageForUser; these give it in their result.
+    virtual NewsOutcome PrintNews(const std::optional<OutputTarget>& target) = 0;
+    virtual NewsOutcome SaveNews(const std::optional<OutputTarget>& target) = 0;
+    virtual void PreviewNews() = 0;
     // The keys of rows [from, from + count) of a list, cut to the rows that exist.
     virtual std::vector<HeadlineKey> Keys(int list, int from, int count) const = 0;
 };

@@ -62,6 +62,9 @@ public:
 signals:
     // The user has chosen a symbol here that the views of `group` shall follow.
     void SendChangeSymbol(unsigned char group, unsigned char service, const QString& code);
+    // The view has something to tell the user that does not go by itself: a sentence, such as why a file
+    // could not be written.
+    void MessageForUser(const QString& sentence);
 
 protected:
     void vSetDataState(DataState state) { dataState = state; }

@@ -267,6 +267,10 @@
         <source></source>
         <translation>This headline has no story.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NO_SUCH_PAPER">
+        <source></source>
+        <translation>there is no paper called %1</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_OFFLINE_SINCE">
         <source></source>
         <translation>Offline since</translation>

@@ -267,6 +267,10 @@
         <source></source>
         <translation>本条新闻没有正文。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NO_SUCH_PAPER">
+        <source></source>
+        <translation>没有名为 %1 的纸张</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_OFFLINE_SINCE">
         <source></source>
         <translation>离线，自</translation>

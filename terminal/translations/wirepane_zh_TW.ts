@@ -267,6 +267,10 @@
         <source></source>
         <translation>本則新聞沒有內文。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NO_SUCH_PAPER">
+        <source></source>
+        <translation>沒有名為 %1 的紙張</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_OFFLINE_SINCE">
         <source></source>
         <translation>離線，自</translation>

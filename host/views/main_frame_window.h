@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QWidget;
+
+// What the bare story window needs of the host's main frame that it belongs to. Interface thread only.
+class CMainFrame {
+public:
+    virtual ~CMainFrame() = default;
+
+    // The window that the story window belongs to, which outlives it.
+    virtual QWidget* pGetWindow() = 0;
+    // The user has closed the story window; it can be shown again.
+    virtual void OnStoryWindowClosed() {}
+};

@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "output/page_printing.h"
+
+#include "headline_list/language_keys.h"
+#include "host/contract/clock.h"
+#include "host/contract/sync_info.h"
+#include "output/whole_file.h"
+
+#include <QBuffer>
+#include <QDateTime>
+#include <QDir>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPointer>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+
+#include <algorithm>
+#include <map>
+
+namespace {
+
+constexpr int pointSize = 12;
+constexpr int pointsPerInch = 72;
+constexpr int longestFaceName = 31;
+constexpr int framesPerInch = 150;  // a frame is drawn that fraction of an inch wide
+constexpr int pdfResolution = 1200;
+constexpr qreal pdfMarginMm = 10;
+
+// The page's face, and for what it lacks those of the host.
+QFont pageFont(BKQuoteInterface& backEnd, int pixelSize) {
+    QFont font;
+    font.setFamilies(QStringList{LangText(backEnd, keys::printFont).left(longestFaceName)} +
+                     CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont().families());
+    font.setPixelSize(std::max(pixelSize, 1));
+    font.setWeight(QFont::Normal);
+    return font;
+}
+
+class DeviceMeasure : public TextMeasure {
+public:
+    DeviceMeasure(QPagedPaintDevice& paintDevice, BKQuoteInterface& newsBackEnd)
+        : device(paintDevice), backEnd(newsBackEnd) {}
+
+    int LineHeight(int pixelSize) const override {
+        const QFontMetrics metrics = metricsOf(pixelSize);
+        return metrics.height() + std::max(metrics.leading(), 0);
+    }
+    int Width(const QString& text, int pixelSize) const override {
+        return metricsOf(pixelSize).horizontalAdvance(text);
+    }
+
+private:
+    const QFontMetrics& metricsOf(int pixelSize) const {
+        const auto found = known.find(pixelSize);
+        if (found != known.end())
+            return found->second;
+        return known.emplace(pixelSize, QFontMetrics(pageFont(backEnd, pixelSize), &device)).first->second;
+    }
+
+    QPagedPaintDevice& device;
+    BKQuoteInterface& backEnd;
+    mutable std::map<int, QFontMetrics> known;
+};
+
+void drawText(QPainter& painter, BKQuoteInterface& backEnd, const PlacedText& text) {
+    painter.setFont(pageFont(backEnd, text.pixelSize));
+    painter.drawText(text.topLeft + QPoint(0, painter.fontMetrics().ascent()), text.text);
+}
+
+// The frame lies inside its rectangle.
+void drawFrame(QPainter& painter, const QRect& frame, int width) {
+    const int half = width / 2;
+    painter.drawRect(frame.adjusted(half, half, half - width, half - width));
+}
+
+void drawPage(QPainter& painter, BKQuoteInterface& backEnd, const PrintedPage& page) {
+    const int width = std::max(painter.device()->logicalDpiY() / framesPerInch, 1);
+    painter.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    for (const QRect& frame :
+         {page.frames.outer, page.frames.inner, page.frames.footer, page.frames.title, page.frames.body})
+        drawFrame(painter, frame, width);
+    for (const PlacedText& text : {page.date, page.pageNumber, page.heading})
+        drawText(painter, backEnd, text);
+    for (const std::vector<PlacedText>& lines : {page.title, page.body}) {
+        for (const PlacedText& line : lines)
+            drawText(painter, backEnd, line);
+    }
+}
+
+NewsOutcome failure(BKQuoteInterface& backEnd, const QString& where, const QString& why) {
+    NewsOutcome outcome;
+    outcome.failed = true;
+    outcome.message = LangText(backEnd, keys::printFailed).arg(where, why);
+    return outcome;
+}
+
+std::optional<QPageSize> paperNamed(const QString& name) {
+    if (name.isEmpty())
+        return QPageSize(QPageSize::A4);
+    for (int id = 0; id <= QPageSize::LastPageSize; ++id) {
+        const auto pageSize = static_cast<QPageSize::PageSizeId>(id);
+        if (QPageSize::key(pageSize).compare(name, Qt::CaseInsensitive) == 0)
+            return QPageSize(pageSize);
+    }
+    return std::nullopt;
+}
+
+NewsOutcome writePdf(const QString& file, const QPageLayout& layout, BKQuoteInterface& backEnd,
+                     const NewsItems& items) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    NewsOutcome outcome;
+    {
+        QPdfWriter writer(&buffer);
+        writer.setTitle(LangText(backEnd, keys::printDocument));
+        writer.setResolution(pdfResolution);
+        writer.setPageLayout(layout);
+        const auto pages = PagesOn(writer, backEnd, items);
+        if (pages.empty() || !DrawPages(writer, backEnd, pages))
+            return outcome;
+        outcome.count = static_cast<int>(pages.size());
+    }
+    if (const auto why = WriteWholeFile(file, buffer.data()))
+        return failure(backEnd, QDir::toNativeSeparators(file), *why);
+    return outcome;
+}
+
+}  // namespace
+
+std::vector<PrintedPage> PagesOn(QPagedPaintDevice& device, BKQuoteInterface& backEnd,
+                                 const NewsItems& items) {
+    const QDateTime now = QDateTime::fromSecsSinceEpoch(host_clock::now());
+    const PageTexts texts{LangText(backEnd, keys::printHeading),
+                          now.toString(QStringLiteral("yyyy/MM/dd HH:mm"))};
+    const PageSize size{device.width(), device.height(), device.widthMM(), device.heightMM()};
+    const int pixelSize = (2 * pointSize * device.logicalDpiY() + pointsPerInch) / (2 * pointsPerInch);
+    return LayOutPages(items, size, texts, pixelSize, DeviceMeasure(device, backEnd));
+}
+
+bool DrawPages(QPagedPaintDevice& device, BKQuoteInterface& backEnd, const std::vector<PrintedPage>& pages) {
+    QPainter painter;
+    if (!painter.begin(&device))
+        return false;
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        if (i > 0 && !device.newPage())
+            return false;
+        drawPage(painter, backEnd, pages[i]);
+    }
+    return painter.end();
+}
+
+NewsOutcome PrintNews(QPrinter& printer, BKQuoteInterface& backEnd, const NewsItems& items) {
+    if (!printer.outputFileName().isEmpty())
+        return writePdf(printer.outputFileName(), printer.pageLayout(), backEnd, items);
+    printer.setDocName(LangText(backEnd, keys::printDocument));
+    const auto pages = PagesOn(printer, backEnd, items);
+    NewsOutcome outcome;
+    if (pages.empty())
+        return outcome;
+    // A printer that makes no copies by itself is given all pages again.
+    const int times = printer.supportsMultipleCopies() ? 1 : std::max(printer.copyCount(), 1);
+    std::vector<PrintedPage> all;
+    for (int i = 0; i < times; ++i)
+        all.insert(all.end(), pages.begin(), pages.end());
+    if (!printer.isValid() || !DrawPages(printer, backEnd, all) || printer.printerState() == QPrinter::Error)
+        return failure(backEnd, printer.printerName(), LangText(backEnd, keys::printerGone));
+    outcome.count = static_cast<int>(pages.size());
+    return outcome;
+}
+
+NewsOutcome PrintNewsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items) {
+    const auto paper = paperNamed(target.paper);
+    if (!paper)
+        return failure(backEnd, QDir::toNativeSeparators(target.file),
+                       LangText(backEnd, keys::noSuchPaper).arg(target.paper));
+    const QMarginsF margins(pdfMarginMm, pdfMarginMm, pdfMarginMm, pdfMarginMm);
+    return writePdf(target.file, QPageLayout(*paper, QPageLayout::Portrait, margins, QPageLayout::Millimeter),
+                    backEnd, items);
+}
+
+void PreviewNews(BKQuoteInterface& backEnd, const NewsItems& items, QWidget* parent) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(LangText(backEnd, keys::printDocument));
+    const QPointer<QPrintPreviewDialog> dialog = new QPrintPreviewDialog(&printer, parent);
+    QObject::connect(dialog, &QPrintPreviewDialog::paintRequested, dialog,
+                     [&backEnd, &items](QPrinter* device) {
+                         DrawPages(*device, backEnd, PagesOn(*device, backEnd, items));
+                     });
+    dialog->exec();
+    delete dialog;
+}

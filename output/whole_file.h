@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QIODevice>
+#include <QString>
+
+#include <optional>
+
+// Writes a file as a whole: a file of this name that exists is replaced when the new one is complete, and
+// stays as it is otherwise. `mode` may add QIODevice::Text. The reason when it failed.
+std::optional<QString> WriteWholeFile(const QString& file, const QByteArray& bytes,
+                                      QIODevice::OpenMode mode = QIODevice::NotOpen);

@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "output/page_printing.h"
+#include "output/trv_save_to_file.h"
+#include "output/whole_file.h"
+#include "tests/support/fake_back_end.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QPrinter>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Answers instead of the user, and may do something while the dialog is open.
+class Answers : public OutputDialogs {
+public:
+    bool bAskPrinter(QPrinter&, QWidget* parent) override {
+        ask(parent);
+        return false;
+    }
+    std::optional<OutputTarget> AskFile(BKQuoteInterface&, QWidget* parent) override {
+        ask(parent);
+        return file.isEmpty() ? std::nullopt : std::optional(OutputTarget{file, NewsFileType::Utf8, {}});
+    }
+    void ask(QWidget* parent) {
+        parents.push_back(parent);
+        if (meanwhile)
+            meanwhile();
+    }
+
+    QString file;
+    std::vector<QWidget*> parents;
+    std::function<void()> meanwhile;
+};
+
+QByteArray contents(const QString& name) {
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("-");
+}
+
+class NewsPrintTest : public testing::Test {
+protected:
+    NewsPrintTest() {
+        for (std::int32_t i = 1; i <= 3; ++i)
+            backEnd.add(1, localTime(2026, 3, 2, 9, i), i, u"Title %1"_s.arg(i), 0, {}, i != 2);
+        tell(1, u"Body 1"_s);
+    }
+    CHeadlineTable entry(std::int32_t number) const {
+        return {localTime(2026, 3, 2, 9, number), number, 1, 0, 0};
+    }
+    void tell(std::int32_t number, const QString& text) {
+        backEnd.addStory({entry(number).time, text, entry(number)});
+    }
+    NewsItems gather(const TRVNewsPrint& job, const std::vector<std::int32_t>& numbers) const {
+        std::vector<CHeadlineTable> entries;
+        for (const std::int32_t number : numbers)
+            entries.push_back(entry(number));
+        return job.Gather(entries, {1});
+    }
+    QString path(const QString& name) const { return folder.filePath(name); }
+    OutputTarget target(const QString& name) const { return {path(name), NewsFileType::Utf8, {}}; }
+    // Lets what is put off until the event loop happen.
+    static void settle() {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+
+    QTemporaryDir folder;
+    FakeBackEnd backEnd;
+    Answers answers;
+    QWidget window;
+};
+
+}  // namespace
+
+TEST_F(NewsPrintTest, PutsOutWhenTheLastAnswerHasCome) {
+    TRVSaveToFile saver(backEnd, answers, window);
+    std::vector<NewsOutcome> finished;
+    saver.vSetOnFinished([&](const NewsOutcome& outcome) { finished.push_back(outcome); });
+    NewsItems items = gather(saver, {1, 2, 3});
+    ASSERT_FALSE(bIsComplete(items));
+    saver.vWait(items, {1}, target(u"late.txt"_s));
+    tell(2, u"Body 2@@@@x"_s);
+    tell(3, u"Body\r\n3"_s);
+    saver.RespStory(entry(2));
+    saver.RespStory(entry(3));
+    settle();
+    EXPECT_TRUE(saver.bIsWaiting());
+    EXPECT_FALSE(QFile::exists(path(u"late.txt"_s)));
+    backEnd.makeAllAtHand();
+    saver.RespHeadLine({entry(2)});
+    EXPECT_FALSE(QFile::exists(path(u"late.txt"_s))) << "not within the back end's call";
+    settle();
+    EXPECT_FALSE(saver.bIsWaiting());
+    const QByteArray text = contents(path(u"late.txt"_s));
+    EXPECT_TRUE(text.contains("TITLETitle 1\n\nIDS_NEWSCTRLVIEW_NEWS_STORYBody 1\n\n"));
+    EXPECT_TRUE(text.contains("STORY\r\n2026/03/ 2 09:02:00Body 2\r\nx\n\n"));
+    EXPECT_TRUE(text.contains("STORY\r\n2026/03/ 2 09:03:00Body3\n\n"));
+    ASSERT_EQ(finished.size(), 1U);
+    EXPECT_EQ(finished[0].count, text.size());
+}
+
+TEST_F(NewsPrintTest, AsksOneAfterTheOtherAndLateNewsForItsOwnWindow) {
+    TRVSaveToFile saver(backEnd, answers, window);
+    answers.file = path(u"asked.txt"_s);
+    saver.vWait(gather(saver, {3}), {1}, {});
+    // While the user is asked for the first, the second is completed, and a third comes.
+    tell(3, u"Body 3"_s);
+    QWidget dialog;
+    answers.meanwhile = [&] {
+        answers.meanwhile = nullptr;
+        saver.RespStory(entry(3));
+        settle();
+        EXPECT_TRUE(saver.PutOut(gather(saver, {1}), nullptr, {}).waiting);
+        EXPECT_EQ(answers.parents.size(), 1U);
+    };
+    saver.PutOut(gather(saver, {1}), &dialog, {});
+    settle();
+    EXPECT_EQ(answers.parents, (std::vector<QWidget*>{&dialog, &window, &window}));
+    EXPECT_FALSE(saver.bIsWaiting());
+    EXPECT_TRUE(contents(answers.file).contains("Body 3"));
+}
+
+TEST_F(NewsPrintTest, OutlivesNoOwner) {
+    auto saver = std::make_unique<TRVSaveToFile>(backEnd, answers, window);
+    saver->vWait(gather(*saver, {2}), {1}, {});
+    answers.meanwhile = [&] { saver.reset(); };
+    answers.file = path(u"gone.txt"_s);
+    saver->PutOut(gather(*saver, {1}), nullptr, {});
+    EXPECT_EQ(saver, nullptr);
+    auto printer = std::make_unique<TRVNewsPrint>(backEnd, answers, window);
+    answers.meanwhile = [&] { printer.reset(); };
+    EXPECT_EQ(printer->PutOut(gather(*printer, {1}), nullptr, {}).count, 0);
+    EXPECT_EQ(printer, nullptr);
+}
+
+TEST_F(NewsPrintTest, TellsWhatAFileCouldNotHold) {
+    tell(3, u"é😀"_s);
+    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_CHARACTERS_REPLACED"_s, u"%1 in %2"_s);
+    TRVSaveToFile saver(backEnd, answers, window);
+    OutputTarget page = target(u"page.txt"_s);
+    page.type = NewsFileType::CodePage950;
+    const NewsOutcome outcome = saver.PutOut(gather(saver, {3}), nullptr, page);
+    EXPECT_EQ(outcome.message, u"2 in "_s + page.file);
+    EXPECT_FALSE(outcome.failed);
+    EXPECT_EQ(outcome.count, contents(page.file).size());
+}
+
+TEST_F(NewsPrintTest, LeavesAnOldFileWhereANewOneFails) {
+    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_SAVE_FAILED"_s, u"save %1: %2"_s);
+    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_PRINT_FAILED"_s, u"print %1: %2"_s);
+    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_NO_SUCH_PAPER"_s, u"no %1"_s);
+    TRVSaveToFile saver(backEnd, answers, window);
+    TRVNewsPrint printer(backEnd, answers, window);
+    for (TRVNewsPrint* job : {static_cast<TRVNewsPrint*>(&saver), &printer}) {
+        const QString verb = job == &saver ? u"save "_s : u"print "_s;
+        for (const QString& file : {path(u"missing/folder.txt"_s), folder.path(), u"/dev/full"_s}) {
+            if (file == u"/dev/full"_s && !QFile::exists(file))
+                continue;
+            const NewsOutcome outcome = job->PutOut(gather(*job, {1}), nullptr, OutputTarget{file, {}, {}});
+            EXPECT_TRUE(outcome.failed) << file.toStdString();
+            EXPECT_EQ(outcome.count, 0);
+            EXPECT_TRUE(outcome.message.startsWith(verb + file + u": "_s)) << outcome.message.toStdString();
+            EXPECT_GT(outcome.message.size(), verb.size() + file.size() + 5) << "a reason";
+        }
+    }
+    EXPECT_FALSE(QFileInfo(u"/dev/full"_s).isFile()) << "a device stays one";
+    EXPECT_TRUE(
+        printer.PutOut(gather(printer, {1}), nullptr, OutputTarget{path(u"a.pdf"_s), {}, u"Z9"_s}).failed);
+    EXPECT_FALSE(QFile::exists(path(u"a.pdf"_s)));
+}
+
+TEST_F(NewsPrintTest, APrinterThatIsGoneIsTold) {
+    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_PRINT_FAILED"_s, u"print %1: %2"_s);
+    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE"_s, u"gone"_s);
+    TRVNewsPrint job(backEnd, answers, window);
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::NativeFormat);
+    printer.setPrinterName(u"No such printer"_s);
+    printer.setOutputFileName({});
+    const NewsOutcome outcome = PrintNews(printer, backEnd, gather(job, {1}));
+    if (outcome.count > 0)
+        GTEST_SKIP() << "every printer's name is taken here";
+    EXPECT_TRUE(outcome.failed);
+    EXPECT_TRUE(outcome.message.endsWith(u": gone"_s)) << outcome.message.toStdString();
+}
+
+TEST_F(NewsPrintTest, ThePdfHoldsTheStoriesInTheirLines) {
+    const QString pdftotext = QStandardPaths::findExecutable(u"pdftotext"_s);
+    if (pdftotext.isEmpty())
+        GTEST_SKIP() << "pdftotext is not installed";
+    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_DETAILED_NEWS_DATA"_s, u"News Details"_s);
+    QStringList paragraphs;
+    for (int i = 1; i <= 60; ++i)
+        paragraphs.append(u"%1: "_s.arg(i) + u"0123456789"_s.repeated(11) + u" 新聞稿"_s);
+    tell(1, paragraphs.join(u"@@@@"_s));
+    TRVNewsPrint job(backEnd, answers, window);
+    const NewsItems items = gather(job, {1});
+    ASSERT_EQ(job.PutOut(items, nullptr, target(u"news.pdf"_s)).count, 3);
+    QProcess reader;
+    reader.start(pdftotext, {u"-layout"_s, path(u"news.pdf"_s), u"-"_s});
+    ASSERT_TRUE(reader.waitForFinished());
+    const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+    const QStringList pages = text.split(u'\f', Qt::SkipEmptyParts);
+    ASSERT_EQ(pages.size(), 3);
+    const auto expected = BodyPages(items[0].story);
+    for (qsizetype page = 0; page < pages.size(); ++page) {
+        EXPECT_TRUE(pages[page].contains(u"News Details"_s));
+        EXPECT_TRUE(pages[page].contains(u"Title 1"_s));
+        QStringList found;
+        for (const QString& line : pages[page].split(u'\n', Qt::SkipEmptyParts))
+            found.append(line.trimmed());
+        for (const QString& line : expected[static_cast<std::size_t>(page)])
+            EXPECT_TRUE(line.isEmpty() || found.contains(line.trimmed())) << line.toStdString();
+    }
+}
