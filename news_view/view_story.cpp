@@ -21,9 +21,10 @@ void TRVNewsCtrlView::OnShowStory() {
         return;
     }
     sheet->vAutoVerScrolling(row);
+    const CSearch foundUnder = searches.FoundUnder(static_cast<ListIndex>(currentMode));
     if (!bPaneShowsStories()) {
         if (TRVNewsStory* dialog = stage.pGetDialog()) {
-            dialog->vSetStoryData(currentMode, row);
+            dialog->vSetStoryData(currentMode, row, foundUnder);
             stage.vShowDialog();
         }
         return;
@@ -32,7 +33,7 @@ void TRVNewsCtrlView::OnShowStory() {
         return;
     shownStoryRow = row;
     pane->vSetFont(GetViewFont());
-    pane->vSetStoryData(currentMode, row, searches.FoundUnder(static_cast<ListIndex>(currentMode)));
+    pane->vSetStoryData(currentMode, row, foundUnder);
 }
 
 void TRVNewsCtrlView::vForgetShownStory() {
