@@ -3,12 +3,27 @@
 #include "host/contract/bk_quote_interface.h"
 #include "host/views/news_module.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "output/page_printing.h"
+#include "output/printable_story.h"
+#include "output/trv_save_to_file.h"
+#include "story/trv_news_story.h"
 
 #include <QObject>
 
 #include <array>
+#include <set>
 
 namespace {
+
+// The complete ones among the news of these entries.
+NewsItems newsAtHand(BKQuoteInterface& backEnd, const std::vector<CHeadlineTable>& entries, StoryForm form) {
+    std::set<unsigned char> services;
+    for (const CHeadlineTable& entry : entries)
+        services.insert(entry.service);
+    NewsItems items = GatherNews(backEnd, entries, {services.begin(), services.end()}, form);
+    std::erase_if(items, [](const NewsItem& item) { return !item.bIsComplete(); });
+    return items;
+}
 
 // The classes that a host may create by name.
 const std::array viewClasses{&TRVNewsCtrlView::staticMetaObject};
@@ -37,6 +52,20 @@ public:
                 return qobject_cast<TRVQuoteBaseView*>(viewClass->newInstance(Q_ARG(QWidget*, parent)));
         }
         return nullptr;
+    }
+
+    NewsStoryWindow* CreateStoryWindow(CMainFrame* mainFrame) override {
+        return BKQuoteInterface::GetBKInterface() != nullptr ? new TRVNewsStory(mainFrame) : nullptr;
+    }
+
+    NewsOutcome PrintNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
+        BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
+        return PrintNewsToPdf(target, backEnd, newsAtHand(backEnd, entries, &PrintedStory));
+    }
+
+    NewsOutcome SaveNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
+        BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
+        return SaveNewsTo(target, backEnd, newsAtHand(backEnd, entries, &SavedStory));
     }
 };
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/views/news_module.h"
 #include "story/story_reader.h"
 
 #include <QDialog>
@@ -18,7 +19,7 @@ class StoryOwner;
 // through the view's headlines, print and save; or a main frame, bare, which pushes its texts in. Created
 // hidden; its owner shows it, hides it and deletes it. Colours are the platform's. The back end must have
 // been installed.
-class TRVNewsStory : public QDialog {
+class TRVNewsStory : public QDialog, public NewsStoryWindow {
     Q_OBJECT
 
 public:
@@ -27,7 +28,7 @@ public:
     explicit TRVNewsStory(CMainFrame* mainFrame);
 
     // Sets every text of the dialog in the language in force.
-    void vLoadLanguageString();
+    void vLoadLanguageString() override;
     void vSetFont(const QFont& font);
 
     // Points at a row of a list of the owner and shows it; found by a search: under this condition.
@@ -53,8 +54,9 @@ public:
     void OnBtnSaveas();
 
     // The main frame's texts: a headline whose story is not there yet; a story (an empty one has not come).
-    void vMainFrameShowHeadline(const QString& text);
-    void vMainFrameShowStroy(const CStory& story);
+    QWidget* pGetWindow() override { return this; }
+    void vMainFrameShowHeadline(const QString& text) override;
+    void vMainFrameShowStroy(const CStory& story) override;
 
     // The user closes the dialog, by its frame or with Esc.
     void reject() override;

@@ -3,6 +3,7 @@
 #include "terminal/program.h"
 
 #include "terminal/commands/check_command.h"
+#include "terminal/commands/export_command.h"
 #include "terminal/commands/feed_command.h"
 #include "terminal/commands/import_command.h"
 #include "terminal/commands/open_command.h"
@@ -13,6 +14,7 @@
 #include <QApplication>
 
 #include <cstring>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -23,11 +25,12 @@ namespace {
 struct Command {
     const char* name;
     int (*run)();
+    bool draws = false;  // needs fonts, though no display
 };
 
 constexpr Command commands[] = {
-    {"import", &runImport}, {"feed", &runFeed},   {"replay", &runReplay},
-    {"sample", &runSample}, {"check", &runCheck}, {"search", &runSearch},
+    {"import", &runImport}, {"feed", &runFeed},     {"replay", &runReplay},       {"sample", &runSample},
+    {"check", &runCheck},   {"search", &runSearch}, {"export", &runExport, true},
 };
 
 QtMessageHandler usualMessages = nullptr;
@@ -48,7 +51,13 @@ void nameApplication() {
 int runProgram(int argc, char** argv) {
     for (const Command& command : commands) {
         if (argc > 1 && std::strcmp(argv[1], command.name) == 0) {
-            const QCoreApplication application(argc, argv);
+            std::unique_ptr<QCoreApplication> application;
+            if (command.draws) {
+                qputenv("QT_QPA_PLATFORM", "offscreen");
+                application = std::make_unique<QApplication>(argc, argv);
+            } else {
+                application = std::make_unique<QCoreApplication>(argc, argv);
+            }
             nameApplication();
             return command.run();
         }

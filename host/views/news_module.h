@@ -12,9 +12,25 @@
 
 #include <optional>
 
+class CMainFrame;
 class CSuperSheetWnd;
 class QWidget;
 class TRVQuoteBaseView;
+
+// A bare story window of the module, filled by the host's main frame. Interface thread only.
+class NewsStoryWindow {
+public:
+    virtual ~NewsStoryWindow() = default;
+
+    // To be shown, hidden and placed; belongs to the main frame's window.
+    virtual QWidget* pGetWindow() = 0;
+    // Sets every text of the window in the language in force.
+    virtual void vLoadLanguageString() = 0;
+    // A headline whose story is not there yet.
+    virtual void vMainFrameShowHeadline(const QString& text) = 0;
+    // Its story; one without text counts as not there yet.
+    virtual void vMainFrameShowStroy(const CStory& story) = 0;
+};
 
 // What a terminal uses a news module through, which it loads at run time. Interface thread only.
 class NewsModule {
@@ -28,9 +44,17 @@ public:
     // name. The caller then calls OnInitialUpdate and InitialViewInfo, in this order, once each. A back end
     // must have been installed (BKQuoteInterface::SetBKInterface) before.
     virtual TRVQuoteBaseView* CreateView(const QString& className, QWidget* parent) = 0;
+
+    // Creates a bare story window, hidden. It belongs to the main frame's window, which `mainFrame` outlives.
+    virtual NewsStoryWindow* CreateStoryWindow(CMainFrame* mainFrame) = 0;
+
+    // Lays the news of these entries out and prints it into a PDF file; saves it as text. What the back end
+    // has not at hand is left out. Needs no window, the application must be one with windows all the same.
+    virtual NewsOutcome PrintNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) = 0;
+    virtual NewsOutcome SaveNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) = 0;
 };
 
-#define WIREPANE_NEWS_MODULE_IID "wirepane.NewsModule/1"
+#define WIREPANE_NEWS_MODULE_IID "wirepane.NewsModule/2"
 Q_DECLARE_INTERFACE(NewsModule, WIREPANE_NEWS_MODULE_IID)
 
 // What a terminal and its scripts can do with a news view beyond what any view offers. A news view implements

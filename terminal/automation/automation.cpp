@@ -15,6 +15,7 @@ Automation::Automation(Session& session)
       controls(session),
       dates(session),
       stories(session),
+      output(session),
       feed(session),
       host(session),
       links(session),
@@ -26,6 +27,7 @@ Automation::Automation(Session& session)
     controls.addTo(table);
     dates.addTo(table);
     stories.addTo(table);
+    output.addTo(table);
     feed.addTo(table);
     host.addTo(table);
     links.addTo(table);

@@ -10,6 +10,7 @@
 #include "terminal/automation/host_methods.h"
 #include "terminal/automation/link_methods.h"
 #include "terminal/automation/menu_methods.h"
+#include "terminal/automation/output_methods.h"
 #include "terminal/automation/request_queue.h"
 #include "terminal/automation/socket_server.h"
 #include "terminal/automation/story_methods.h"
@@ -43,6 +44,7 @@ private:
     ControlMethods controls;
     DateMethods dates;
     StoryMethods stories;
+    OutputMethods output;
     FeedMethods feed;
     HostMethods host;
     LinkMethods links;

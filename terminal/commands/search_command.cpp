@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/search_command.h"
 
-#include "backend/search/news_search.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_reader.h"
 #include "terminal/commands/command_arguments.h"
 #include "terminal/commands/console.h"
 #include "terminal/commands/exit_status.h"
+#include "terminal/commands/news_query.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -24,65 +24,13 @@ namespace wirepane {
 
 namespace {
 
-constexpr int lastService = 255;
-
 void addOptions(QCommandLineParser& parser) {
+    addQueryOptions(parser);
     parser.addPositionalArgument(u"keyword"_s, u"What a story must hold; plain text."_s, u"keyword..."_s);
     parser.addOptions({
-        {u"service"_s, u"Searches this news service only."_s, u"id"_s},
-        {u"title"_s, u"Searches titles only."_s},
-        {u"story"_s, u"Searches stories only."_s},
-        {u"any"_s, u"One keyword is enough."_s},
-        {u"symbol"_s, u"Only news that names this symbol, such as 16:2330; may be repeated."_s,
-         u"market:code"_s},
         {u"limit"_s, u"Prints so many at most, the newest."_s, u"number"_s},
         {u"json"_s, u"Prints a JSON object per line."_s},
     });
-}
-
-CSymbolInfo symbolOf(const QString& text, CommandArguments& arguments) {
-    bool isNumber = false;
-    const uint market = text.section(u':', 0, 0).toUInt(&isNumber);
-    const QString code = text.section(u':', 1);
-    if (!isNumber || market > lastService || code.isEmpty())
-        arguments.fail(u"\"%1\" is not a symbol such as 16:2330."_s.arg(text));
-    return {static_cast<unsigned char>(market), code};
-}
-
-CSearch conditionOf(CommandArguments& arguments) {
-    const QCommandLineParser& parser = arguments.parser;
-    CSearch condition;
-    const QStringList keywords = arguments.rest();
-    condition.keywords.assign(keywords.begin(), keywords.end());
-    condition.method = parser.isSet(u"any"_s) ? 2 : 1;
-    condition.scope = 2;
-    if (parser.isSet(u"title"_s) != parser.isSet(u"story"_s))
-        condition.scope = parser.isSet(u"title"_s) ? 0 : 1;
-    for (const QString& symbol : parser.values(u"symbol"_s))
-        condition.symbols.push_back(symbolOf(symbol, arguments));
-    if (keywords.isEmpty())
-        arguments.fail(u"search needs a keyword."_s);
-    return condition;
-}
-
-bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
-    return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
-}
-
-// Newest first, over all services; nothing when the store cannot be read.
-std::optional<std::vector<CHeadlineTable>> findAll(Database& store,
-                                                   const std::vector<unsigned char>& services,
-                                                   const CSearch& condition) {
-    NewsSearch search(store);
-    std::vector<CHeadlineTable> all;
-    for (const unsigned char service : services) {
-        const auto found = search.find(service, condition);
-        if (!found)
-            return std::nullopt;
-        all.insert(all.end(), found->begin(), found->end());
-    }
-    std::stable_sort(all.begin(), all.end(), isNewer);
-    return all;
 }
 
 void printRow(const CHeadline& headline, const QString& service, bool asJson) {
@@ -120,8 +68,10 @@ int runSearch() {
     addOptions(arguments.parser);
     if (const auto status = arguments.read())
         return *status;
-    const CSearch condition = conditionOf(arguments);
-    const auto service = static_cast<unsigned char>(arguments.number(u"service"_s, 0, 1, lastService));
+    const CSearch condition = conditionOf(arguments, arguments.rest());
+    if (condition.keywords.empty())
+        arguments.fail(u"search needs a keyword."_s);
+    const auto service = static_cast<unsigned char>(arguments.number(u"service"_s, 0, 1, lastNewsService));
     const std::int64_t most = arguments.number(u"limit"_s, std::numeric_limits<std::int64_t>::max(), 1,
                                                std::numeric_limits<int>::max());
     if (const auto status = arguments.fault())

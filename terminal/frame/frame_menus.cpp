@@ -32,6 +32,9 @@ constexpr std::array fileEntries{
     Entry{FrameCommand::NewSymbolView, TextId::NewSymbolView, "Ctrl+Shift+N"_L1},
     Entry{FrameCommand::DuplicateView, TextId::DuplicateView, "Ctrl+D"_L1, true},
     Entry{FrameCommand::CloseView, TextId::CloseView, "Ctrl+W"_L1, true},
+    Entry{FrameCommand::SaveAs, TextId::SaveNews, "Ctrl+S"_L1, true, true},
+    Entry{FrameCommand::Print, TextId::PrintNews, "Ctrl+P"_L1, true},
+    Entry{FrameCommand::PrintPreview, TextId::PrintPreview, "Ctrl+Shift+P"_L1, true},
     Entry{FrameCommand::GoToSymbolBox, TextId::GoToSymbolBox, "Ctrl+K; Ctrl+L"_L1, false, true},
     Entry{FrameCommand::ReadAsOf, TextId::ReadAsOf, "Ctrl+G"_L1},
     Entry{FrameCommand::Settings, TextId::Settings, "Ctrl+,"_L1},
@@ -39,6 +42,7 @@ constexpr std::array fileEntries{
 };
 
 constexpr std::array fontEntries{
+    Entry{FrameCommand::BreakingNews, TextId::BreakingNews, "Ctrl+B"_L1, false, true},
     Entry{FrameCommand::FontLarger, TextId::FontLarger, "Ctrl++; Ctrl+="_L1, false, true},
     Entry{FrameCommand::FontSmaller, TextId::FontSmaller, "Ctrl+-"_L1},
 };

@@ -18,7 +18,10 @@ namespace wirepane {
 
 namespace {
 constexpr int symbolNewsType = 2;
-}
+// Of a news view.
+constexpr int printNewsCommand = 9271;
+constexpr int saveNewsCommand = 9272;
+}  // namespace
 
 FrameCommands::FrameCommands(Session& terminal) : session(terminal) {
     MainFrame* frame = &session.frame();
@@ -56,6 +59,9 @@ void FrameCommands::carryOut(FrameCommand command) {
         }
         case FrameCommand::GoToSymbolBox:
             session.frame().symbolBox().begin();
+            break;
+        case FrameCommand::BreakingNews:
+            session.breakingNews().show();
             break;
         case FrameCommand::ReadAsOf:
             readAsOf();
@@ -96,6 +102,15 @@ void FrameCommands::carryOutOnView(FrameCommand command) {
             break;
         case FrameCommand::FloatView:
             view->dock->setFloating(!view->dock->isFloating());
+            break;
+        case FrameCommand::Print:
+            view->view->OnCommand(printNewsCommand);
+            break;
+        case FrameCommand::PrintPreview:
+            view->access->PreviewNews();
+            break;
+        case FrameCommand::SaveAs:
+            view->view->OnCommand(saveNewsCommand);
             break;
         case FrameCommand::NextView:
             workspace.activateNext(1);

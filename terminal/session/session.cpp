@@ -80,6 +80,7 @@ Done Session::start(const SessionOptions& options) {
     if (!useLanguage(wanted))
         useLanguage(Languages::ofSystem());
     mainFrame = std::make_unique<MainFrame>();
+    latestNews = std::make_unique<BreakingNews>(*module.value(), *store, *mainFrame);
     openViews = std::make_unique<Workspace>(*module.value(), *mainFrame);
     look = std::make_unique<Appearance>(*terminalSettings, *openViews);
     linkGroups = std::make_unique<LinkGroups>(*openViews, *terminalSettings);
@@ -111,12 +112,16 @@ void Session::connectParts() {
     connect(liveFeed.get(), &LiveFeed::stateChanged, this, &Session::showStatus);
     connect(liveFeed.get(), &LiveFeed::trouble, mainFrame.get(), &MainFrame::showNotice);
     connect(openViews.get(), &Workspace::arranged, this, &Session::showViews);
+    connect(openViews.get(), &Workspace::opened, mainFrame.get(), [this](const OpenView* view) {
+        connect(view->view, &TRVQuoteBaseView::MessageForUser, mainFrame.get(), &MainFrame::showNotice);
+    });
     // Later: the views hear of the change after their frame.
     connect(
         mainFrame.get(), &MainFrame::languageChanged, this,
         [this] {
             showStatus();
             openViews->retranslate();
+            latestNews->retranslate();
         },
         Qt::QueuedConnection);
 }

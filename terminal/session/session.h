@@ -8,6 +8,7 @@
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/workspace.h"
 #include "terminal/session/appearance.h"
+#include "terminal/session/breaking_news.h"
 #include "terminal/session/category_display.h"
 #include "terminal/session/link_groups.h"
 #include "terminal/session/workspace_keeper.h"
@@ -48,6 +49,7 @@ public:
     Workspace& workspace() { return *openViews; }
     MainFrame& frame() { return *mainFrame; }
     Appearance& appearance() { return *look; }
+    BreakingNews& breakingNews() { return *latestNews; }
     LinkGroups& links() { return *linkGroups; }
     WorkspaceKeeper& keeper() { return *workspaceKeeper; }
     // The language in force.
@@ -103,6 +105,7 @@ private:
     std::unique_ptr<LiveFeed> liveFeed;
     std::unique_ptr<CategoryDisplay> categoryDisplay;
     std::unique_ptr<MainFrame> mainFrame;
+    std::unique_ptr<BreakingNews> latestNews;
     std::unique_ptr<Workspace> openViews;
     std::unique_ptr<Appearance> look;
     std::unique_ptr<LinkGroups> linkGroups;

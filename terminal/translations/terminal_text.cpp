@@ -78,8 +78,12 @@ constexpr std::array keys{
     "TERMINAL_VIEW_FAILED",
     "TERMINAL_ACCEPT",
     "TERMINAL_CANCEL",
+    "TERMINAL_PRINT_NEWS",
+    "TERMINAL_PRINT_PREVIEW",
+    "TERMINAL_SAVE_NEWS",
+    "TERMINAL_BREAKING_NEWS",
 };
-static_assert(keys.size() == static_cast<std::size_t>(TextId::Cancel) + 1);
+static_assert(keys.size() == static_cast<std::size_t>(TextId::BreakingNews) + 1);
 
 }  // namespace
 

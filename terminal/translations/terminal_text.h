@@ -77,6 +77,10 @@ enum class TextId {
     ViewFailed,
     Accept,
     Cancel,
+    PrintNews,
+    PrintPreview,
+    SaveNews,
+    BreakingNews,
 };
 
 // The text in the language in force.

@@ -399,6 +399,10 @@
         <source></source>
         <translation>As of %1</translation>
     </message>
+    <message id="TERMINAL_BREAKING_NEWS">
+        <source></source>
+        <translation>&amp;Breaking News Window</translation>
+    </message>
     <message id="TERMINAL_CANCEL">
         <source></source>
         <translation>Cancel</translation>
@@ -523,6 +527,14 @@
         <source></source>
         <translation>&amp;Previous view</translation>
     </message>
+    <message id="TERMINAL_PRINT_NEWS">
+        <source></source>
+        <translation>&amp;Print News…</translation>
+    </message>
+    <message id="TERMINAL_PRINT_PREVIEW">
+        <source></source>
+        <translation>Print Pre&amp;view…</translation>
+    </message>
     <message id="TERMINAL_QUIT">
         <source></source>
         <translation>&amp;Quit</translation>
@@ -554,6 +566,10 @@
     <message id="TERMINAL_RENAME_VIEW">
         <source></source>
         <translation>&amp;Rename view…</translation>
+    </message>
+    <message id="TERMINAL_SAVE_NEWS">
+        <source></source>
+        <translation>&amp;Save News As…</translation>
     </message>
     <message id="TERMINAL_SCHEME_DARK">
         <source></source>

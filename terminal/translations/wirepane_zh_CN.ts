@@ -399,6 +399,10 @@
         <source></source>
         <translation>时点 %1</translation>
     </message>
+    <message id="TERMINAL_BREAKING_NEWS">
+        <source></source>
+        <translation>即时新闻窗口(&amp;B)</translation>
+    </message>
     <message id="TERMINAL_CANCEL">
         <source></source>
         <translation>取消</translation>
@@ -523,6 +527,14 @@
         <source></source>
         <translation>上一个窗口(&amp;P)</translation>
     </message>
+    <message id="TERMINAL_PRINT_NEWS">
+        <source></source>
+        <translation>打印新闻(&amp;P)…</translation>
+    </message>
+    <message id="TERMINAL_PRINT_PREVIEW">
+        <source></source>
+        <translation>打印预览(&amp;V)…</translation>
+    </message>
     <message id="TERMINAL_QUIT">
         <source></source>
         <translation>退出(&amp;Q)</translation>
@@ -554,6 +566,10 @@
     <message id="TERMINAL_RENAME_VIEW">
         <source></source>
         <translation>重命名(&amp;R)…</translation>
+    </message>
+    <message id="TERMINAL_SAVE_NEWS">
+        <source></source>
+        <translation>另存新闻(&amp;A)…</translation>
     </message>
     <message id="TERMINAL_SCHEME_DARK">
         <source></source>

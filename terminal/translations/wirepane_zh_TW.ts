@@ -399,6 +399,10 @@
         <source></source>
         <translation>時點 %1</translation>
     </message>
+    <message id="TERMINAL_BREAKING_NEWS">
+        <source></source>
+        <translation>即時新聞視窗(&amp;B)</translation>
+    </message>
     <message id="TERMINAL_CANCEL">
         <source></source>
         <translation>取消</translation>
@@ -523,6 +527,14 @@
         <source></source>
         <translation>上一個視窗(&amp;P)</translation>
     </message>
+    <message id="TERMINAL_PRINT_NEWS">
+        <source></source>
+        <translation>列印新聞(&amp;P)…</translation>
+    </message>
+    <message id="TERMINAL_PRINT_PREVIEW">
+        <source></source>
+        <translation>預覽列印(&amp;V)…</translation>
+    </message>
     <message id="TERMINAL_QUIT">
         <source></source>
         <translation>結束(&amp;Q)</translation>
@@ -554,6 +566,10 @@
     <message id="TERMINAL_RENAME_VIEW">
         <source></source>
         <translation>重新命名(&amp;R)…</translation>
+    </message>
+    <message id="TERMINAL_SAVE_NEWS">
+        <source></source>
+        <translation>另存新聞(&amp;A)…</translation>
     </message>
     <message id="TERMINAL_SCHEME_DARK">
         <source></source>

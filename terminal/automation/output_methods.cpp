@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/automation/output_methods.h"
+
+#include "terminal/automation/view_lookup.h"
+#include "terminal/session/session.h"
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+Answer answerOf(const NewsOutcome& outcome, const QString& name) {
+    if (outcome.failed)
+        return RpcError{RpcCode::Refused, outcome.message};
+    return QJsonObject{{name, outcome.count}};
+}
+
+}  // namespace
+
+void OutputMethods::addTo(MethodTable& table) {
+    table.add(u"print.pdf"_s, [this](Params& params) { return print(params); });
+    table.add(u"save.file"_s, [this](Params& params) { return save(params); });
+}
+
+Answer OutputMethods::print(Params& params) {
+    const OpenView* view = viewOf(params, session.workspace());
+    OutputTarget target;
+    target.file = params.text(u"path"_s);
+    target.paper = params.optionalText(u"paper"_s).value_or(QString());
+    if (view == nullptr || params.error())
+        return {};
+    return answerOf(view->access->PrintNews(target), u"pages"_s);
+}
+
+Answer OutputMethods::save(Params& params) {
+    const OpenView* view = viewOf(params, session.workspace());
+    OutputTarget target;
+    target.file = params.text(u"path"_s);
+    const QString type = params.optionalText(u"type"_s).value_or(u"txt"_s);
+    if (type != u"txt"_s && type != u"utf8"_s)
+        params.fail(u"\"type\" must be \"txt\" or \"utf8\""_s);
+    target.type = type == u"utf8"_s ? NewsFileType::Utf8 : NewsFileType::CodePage950;
+    if (view == nullptr || params.error())
+        return {};
+    return answerOf(view->access->SaveNews(target), u"bytes"_s);
+}
+
+}  // namespace wirepane

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/commands/news_query.h"
+
+#include "backend/search/news_search.h"
+#include "terminal/commands/command_arguments.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+CSymbolInfo symbolOf(const QString& text, CommandArguments& arguments) {
+    bool isNumber = false;
+    const uint market = text.section(u':', 0, 0).toUInt(&isNumber);
+    const QString code = text.section(u':', 1);
+    if (!isNumber || market > lastNewsService || code.isEmpty())
+        arguments.fail(u"\"%1\" is not a symbol such as 16:2330."_s.arg(text));
+    return {static_cast<unsigned char>(market), code};
+}
+
+bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
+    return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
+}
+
+}  // namespace
+
+void addQueryOptions(QCommandLineParser& parser) {
+    parser.addOptions({
+        {u"service"_s, u"News of this service only."_s, u"id"_s},
+        {u"title"_s, u"Searches titles only."_s},
+        {u"story"_s, u"Searches stories only."_s},
+        {u"any"_s, u"One keyword is enough."_s},
+        {u"symbol"_s, u"Only news that names this symbol, such as 16:2330; may be repeated."_s,
+         u"market:code"_s},
+    });
+}
+
+CSearch conditionOf(CommandArguments& arguments, const QStringList& keywords) {
+    const QCommandLineParser& parser = arguments.parser;
+    CSearch condition;
+    condition.keywords.assign(keywords.begin(), keywords.end());
+    condition.method = parser.isSet(u"any"_s) ? 2 : 1;
+    condition.scope = 2;
+    if (parser.isSet(u"title"_s) != parser.isSet(u"story"_s))
+        condition.scope = parser.isSet(u"title"_s) ? 0 : 1;
+    for (const QString& symbol : parser.values(u"symbol"_s))
+        condition.symbols.push_back(symbolOf(symbol, arguments));
+    return condition;
+}
+
+std::optional<std::vector<CHeadlineTable>> findAll(Database& store,
+                                                   const std::vector<unsigned char>& services,
+                                                   const CSearch& condition) {
+    NewsSearch search(store);
+    std::vector<CHeadlineTable> all;
+    for (const unsigned char service : services) {
+        const auto found = search.find(service, condition);
+        if (!found)
+            return std::nullopt;
+        all.insert(all.end(), found->begin(), found->end());
+    }
+    std::stable_sort(all.begin(), all.end(), isNewer);
+    return all;
+}
+
+}  // namespace wirepane

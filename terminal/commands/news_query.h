@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/database.h"
+#include "host/contract/search_condition.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+class QCommandLineParser;
+
+namespace wirepane {
+
+class CommandArguments;
+
+inline constexpr int lastNewsService = 255;
+
+// The options that say which news a command is about: --service, --title, --story, --any, --symbol.
+void addQueryOptions(QCommandLineParser& parser);
+// The condition of the options and these keywords; what is wrong about it is a fault of the arguments.
+CSearch conditionOf(CommandArguments& arguments, const QStringList& keywords);
+
+// What the services hold of the condition, newest first; nothing when the store cannot be read.
+std::optional<std::vector<CHeadlineTable>> findAll(Database& store,
+                                                   const std::vector<unsigned char>& services,
+                                                   const CSearch& condition);
+
+}  // namespace wirepane

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/session/breaking_news.h"
+
+#include "backend/store/embedded_back_end.h"
+#include "terminal/frame/main_frame.h"
+
+#include <QDateTime>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+BreakingNews::BreakingNews(NewsModule& newsModule, EmbeddedBackEnd& newsBackEnd, MainFrame& mainFrame)
+    : module(newsModule), backEnd(newsBackEnd), frame(mainFrame) {}
+
+BreakingNews::~BreakingNews() {
+    backEnd.Detach(this);
+}
+
+QWidget* BreakingNews::pGetWindow() {
+    return &frame;
+}
+
+void BreakingNews::show() {
+    if (window == nullptr)
+        window = module.CreateStoryWindow(this);
+    if (window == nullptr)
+        return;
+    backEnd.Attach(this);
+    std::vector<CHeadline> newest;
+    std::vector<unsigned char> services;
+    backEnd.BKQNEWS_bGetAllNewsService(services);
+    for (const unsigned char service : services) {
+        std::vector<CHeadlineTable> table;
+        backEnd.BKQNEWS_iGetHeadlineTable(service, table, static_cast<int>(TableKind::ByDate),
+                                          backEnd.BKQNEWS_cszGetCurrDateByService(service));
+        if (!table.empty() && (newest.empty() || table.front().time > newest.back().time))
+            backEnd.BKQNEWS_iGetHeadline(service, newest, {table.front()});
+    }
+    if (!newest.empty())
+        showHeadline(newest.back());
+    window->pGetWindow()->show();
+    window->pGetWindow()->raise();
+    window->pGetWindow()->activateWindow();
+}
+
+void BreakingNews::retranslate() {
+    if (window != nullptr)
+        window->vLoadLanguageString();
+}
+
+void BreakingNews::OnStoryWindowClosed() {
+    backEnd.Detach(this);
+}
+
+void BreakingNews::RecvNewHeadLine(const CHeadline* headline, const QString&, const QString&) {
+    if (headline != nullptr)
+        showHeadline(*headline);
+}
+
+void BreakingNews::RespStory(const CHeadlineTable& entry) {
+    if (KeyOf(entry) == KeyOf(shown))
+        showStory();
+}
+
+void BreakingNews::showHeadline(const CHeadline& headline) {
+    shown = {headline.time, headline.sequence, headline.service, 0, 0};
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(headline.time);
+    window->vMainFrameShowHeadline(time.toString(u"yyyy/MM/dd HH:mm:ss"_s) + u" \r\n"_s + headline.title);
+    showStory();
+}
+
+void BreakingNews::showStory() {
+    CStory story;
+    if (backEnd.BKQNEWS_bGetStory(story, shown))
+        window->vMainFrameShowStroy(story);
+}
+
+}  // namespace wirepane
