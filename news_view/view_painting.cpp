@@ -115,6 +115,8 @@ void TRVNewsCtrlView::vChangeCast() {
     if (initialised)
         vSetComponentPos();
     update();
+    if (TRVNewsStory* dialog = stage.pGetDialog())
+        dialog->vSetFont(GetViewFont());
 }
 
 void TRVNewsCtrlView::vSetGridColours() {

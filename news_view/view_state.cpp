@@ -12,7 +12,6 @@
 #include "story/story_ids.h"
 #include "story/trv_news_story.h"
 
-#include <QLineEdit>
 #include <QTextCursor>
 #include <QVariantList>
 
@@ -39,22 +38,27 @@ QVariantMap tipState(const CQuoteDlgTipMsg* tip, const QWidget& view) {
 
 // What pane and dialog have in common: a title and a story by the same numbers.
 QVariantMap storyTexts(const QWidget& window) {
-    const QWidget* title = GetDlgItem(&window, story_ids::title);
+    const auto* title = qobject_cast<const MyRichEdit*>(GetDlgItem(&window, story_ids::title));
     const auto* story = qobject_cast<const MyRichEdit*>(GetDlgItem(&window, story_ids::storyText));
     if (title == nullptr || story == nullptr)
         return {};
-    const auto* text = qobject_cast<const MyRichEdit*>(title);
-    const auto* line = qobject_cast<const QLineEdit*>(title);
     const QTextCursor cursor = story->textCursor();
     return {{QStringLiteral("visible"), window.isVisible()},
-            {QStringLiteral("title"), text != nullptr   ? text->szGetText()
-                                      : line != nullptr ? line->text()
-                                                        : QString()},
+            {QStringLiteral("title"), title->szGetText()},
             {QStringLiteral("story"), story->szGetText()},
             {QStringLiteral("selection"), QVariantList{cursor.selectionStart(), cursor.selectionEnd()}},
             {QStringLiteral("titleRect"), rectangle(title->geometry())},
             {QStringLiteral("storyRect"), rectangle(story->geometry())},
             {QStringLiteral("onTop"), window.windowFlags().testFlag(Qt::WindowStaysOnTopHint)}};
+}
+
+// A story display: its texts, and the headline that it points at.
+template <class Display>
+QVariantMap displayState(const Display& display) {
+    QVariantMap state = storyTexts(display);
+    state.insert(QStringLiteral("position"), display.GetHeadLinePos());
+    state.insert(QStringLiteral("table"), display.iGetTable());
+    return state;
 }
 
 }  // namespace
@@ -75,14 +79,8 @@ std::vector<HeadlineKey> TRVNewsCtrlView::Keys(int list, int from, int count) co
 
 QVariantMap TRVNewsCtrlView::StoryState(bool inDialog) const {
     if (inDialog)
-        return stage.pGetDialog() != nullptr ? storyTexts(*stage.pGetDialog()) : QVariantMap();
-    const NewsStoryView* pane = stage.pGetPane();
-    if (pane == nullptr)
-        return {};
-    QVariantMap state = storyTexts(*pane);
-    state.insert(QStringLiteral("position"), pane->GetHeadLinePos());
-    state.insert(QStringLiteral("table"), pane->iGetTable());
-    return state;
+        return stage.pGetDialog() != nullptr ? displayState(*stage.pGetDialog()) : QVariantMap();
+    return stage.pGetPane() != nullptr ? displayState(*stage.pGetPane()) : QVariantMap();
 }
 
 QVariantMap TRVNewsCtrlView::State() const {

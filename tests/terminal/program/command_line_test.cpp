@@ -7,6 +7,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <gtest/gtest.h>
@@ -46,6 +47,47 @@ TEST_F(CommandLineTest, ImportTellsWhatBecameOfEachItem) {
     EXPECT_EQ(again.out, u"0 taken in, 1 already there, 0 rejected\n"_s);
     const ProgramOutcome checked = check();
     EXPECT_EQ(checked.status, 0) << checked.out.toStdString() << checked.err.toStdString();
+}
+
+TEST_F(CommandLineTest, ExportWritesADayOrWhatASearchFinds) {
+    const QByteArray lines =
+        ninjsItem(u"u:1"_s, u"臺積電 gains"_s, u"Copper"_s, u"2026-03-02T01:00:00Z"_s) + '\n' +
+        ninjsItem(u"u:2"_s, u"Copper falls"_s, u"Café"_s, u"2026-03-02T02:00:00Z"_s) + '\n';
+    import({scratch.write(u"wire.jsonl"_s, lines)});
+    const QString file = scratch.path(u"news.txt"_s);
+    const auto run = [&](const QStringList& arguments) {
+        return runProgram(QStringList{u"export"_s, u"--store"_s, store, u"--lang"_s, u"en"_s} + arguments);
+    };
+    const auto text = [](const QString& name) {
+        QFile written(name);
+        return written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
+    };
+    const ProgramOutcome day = run({u"--day"_s, u"20260302"_s, file});
+    EXPECT_EQ(day.status, 0) << day.err.toStdString();
+    EXPECT_TRUE(day.err.contains(u"1 characters"_s)) << day.err.toStdString();
+    EXPECT_EQ(day.out, u"%1 bytes in %2\n"_s.arg(text(file).size()).arg(QDir::toNativeSeparators(file)));
+    EXPECT_LT(text(file).indexOf("Copper falls"), text(file).indexOf("\xBB\x4F\xBF\x6E\xB9\x71 gains"));
+    EXPECT_TRUE(text(file).contains("Caf\xA1\xBC"));
+
+    EXPECT_EQ(run({u"--utf8"_s, file, u"café"_s}).status, 0);
+    EXPECT_TRUE(text(file).contains("Café"));
+    EXPECT_FALSE(text(file).contains("gains"));
+    const QString pages = scratch.path(u"news.pdf"_s);
+    EXPECT_TRUE(run({u"--day"_s, u"20260302"_s, pages}).out.startsWith(u"2 pages"_s));
+    EXPECT_TRUE(text(pages).startsWith("%PDF"));
+
+    EXPECT_EQ(run({u"--day"_s, u"19990101"_s, file}).status, 1);
+    EXPECT_TRUE(text(file).contains("Café")) << "the old file stays";
+    const QList<QStringList> unusable{{},
+                                      {u"--day"_s, u"2026"_s, file},
+                                      {u"--day"_s, u"20260302"_s, file, u"copper"_s},
+                                      {u"--day"_s, u"20260302"_s, scratch.path(u"missing/news.txt"_s)},
+                                      {u"--day"_s, u"20260302"_s, u"--paper"_s, u"Z9"_s, pages}};
+    for (const QStringList& arguments : unusable) {
+        const ProgramOutcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, 2) << arguments.join(u' ').toStdString();
+        EXPECT_FALSE(outcome.err.isEmpty());
+    }
 }
 
 TEST_F(CommandLineTest, SearchPrintsWhatHoldsTheKeywords) {
