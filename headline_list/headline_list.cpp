@@ -13,7 +13,7 @@ CHeadlineTable entryOf(const CHeadline& headline) {
 HeadlineList::HeadlineList(const ListKind& listKind, BKQuoteInterface& newsBackEnd, ListOwner& listOwner)
     : kind(listKind), backEnd(newsBackEnd), owner(listOwner) {
     afterPainting.setSingleShot(true);
-    QObject::connect(&afterPainting, &QTimer::timeout, &afterPainting, [this] { table.BuildIndexes(); });
+    QObject::connect(&afterPainting, &QTimer::timeout, &afterPainting, [this] { table.BuildIndex(); });
 }
 
 HeadlineList::~HeadlineList() {

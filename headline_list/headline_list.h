@@ -107,7 +107,7 @@ private:
     QPointer<CSuperSheetWnd> sheet;
     HeadlineTable table;
     CellState cells;
-    QTimer afterPainting;  // then the table's indexes are built, for the first push to find
+    QTimer afterPainting;  // then the table's index is built, for the first push to find
 };
 
 // The width of the category column while it is shown.

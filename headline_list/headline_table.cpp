@@ -12,7 +12,15 @@ std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
 }
 
 int HeadlineTable::rowOf(const HeadlineKey& key) const {
-    return indexed ? byKey.find(entries, {key.time, key.sequence, key.service, 0, 0}) : rowInOrder(key);
+    if (!indexed)
+        return rowInOrder(key);
+    const auto [row, hasMore] = byNumber.find(entries, {key.time, key.sequence, key.service, 0, 0});
+    if (row < 0 || at(row).time == key.time)
+        return row;
+    // A wire that uses a number twice a day is rare enough to read the rows.
+    const auto isKey = [&](const CHeadlineTable& entry) { return KeyOf(entry) == key; };
+    const auto found = hasMore ? std::find_if(entries.begin() + row, entries.end(), isKey) : entries.end();
+    return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
 }
 
 // Entries of one time and number, of several services, stand side by side in a sorted table.
@@ -28,17 +36,16 @@ int HeadlineTable::rowInOrder(const HeadlineKey& key) const {
     return -1;
 }
 
-void HeadlineTable::BuildIndexes() const {
+void HeadlineTable::BuildIndex() const {
     if (indexed)
         return;
-    byKey.rebuild(entries);
     byNumber.rebuild(entries);
     indexed = true;
 }
 
 int HeadlineTable::rowOfSameDay(const HeadlineKey& key) const {
-    BuildIndexes();
-    return byNumber.find(entries, {key.time, key.sequence, key.service, 0, 0});
+    BuildIndex();
+    return byNumber.find(entries, {key.time, key.sequence, key.service, 0, 0}).row;
 }
 
 int HeadlineTable::rowOfNumber(const HeadlineKey& key, int from) const {
@@ -54,22 +61,19 @@ int HeadlineTable::insertPosition(std::int64_t time) const {
 }
 
 void HeadlineTable::insert(int row, const CHeadlineTable& entry) {
-    BuildIndexes();
+    BuildIndex();
     entries.insert(entries.begin() + row, entry);
-    byKey.inserted(entries, row);
     byNumber.inserted(entries, row);
 }
 
 void HeadlineTable::remove(int row) {
-    BuildIndexes();
-    byKey.removing(entries, row);
+    BuildIndex();
     byNumber.removing(entries, row);
     entries.erase(entries.begin() + row);
 }
 
 void HeadlineTable::assign(const TableRuns& runs) {
     entries = SortedNewestFirst(runs);
-    byKey.clear();
     byNumber.clear();
     indexed = false;
 }
@@ -77,6 +81,5 @@ void HeadlineTable::assign(const TableRuns& runs) {
 void HeadlineTable::clear() {
     entries = {};
     indexed = true;
-    byKey.clear();
     byNumber.clear();
 }

@@ -42,18 +42,17 @@ public:
     void remove(int row);
 
     // Replaces all entries by those of the runs, newest first. They are searched by their order until
-    // BuildIndexes, so that opening a day does not wait for them.
+    // BuildIndex, so that opening a day does not wait for them.
     void assign(const TableRuns& runs);
     // Makes the table ready for pushes; the first push does it where nobody else did. Reads all rows once
     // after an assign.
-    void BuildIndexes() const;
+    void BuildIndex() const;
     void clear();
 
 private:
     int rowInOrder(const HeadlineKey& key) const;
 
     HeadlineRows entries;
-    mutable RowIndex<SameKey> byKey;
     mutable RowIndex<SameNumberOnDay> byNumber;
-    mutable bool indexed = true;  // false: `entries` are sorted, the indexes are to be built
+    mutable bool indexed = true;  // false: `entries` are sorted, the index is to be built
 };

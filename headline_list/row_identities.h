@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-// What a row index can take for the same: the same headline, or the same number of the same local day.
+// What a row index takes for the same: the same number of the same local day.
 
 inline std::uint64_t MixedHash(std::uint64_t first, const CHeadlineTable& entry) {
     std::uint64_t h = first * 0x9E3779B97F4A7C15U;
@@ -16,13 +16,6 @@ inline std::uint64_t MixedHash(std::uint64_t first, const CHeadlineTable& entry)
     h = (h ^ (h >> 32)) * 0x94D049BB133111EBU;
     return h ^ (h >> 31);
 }
-
-struct SameKey {
-    std::uint64_t hash(const CHeadlineTable& entry) const {
-        return MixedHash(static_cast<std::uint64_t>(entry.time), entry);
-    }
-    bool same(const CHeadlineTable& a, const CHeadlineTable& b) const { return KeyOf(a) == KeyOf(b); }
-};
 
 inline bool HaveSameNumber(const CHeadlineTable& a, const HeadlineKey& b) {
     return a.sequence == b.sequence && a.service == b.service;

@@ -21,8 +21,11 @@ public:
     void rebuild(const HeadlineRows& rows);
     void clear() { *this = RowIndex(); }
 
-    // The first row that is the same as the entry; -1 when there is none.
-    int find(const HeadlineRows& rows, const CHeadlineTable& entry) const;
+    struct Found {
+        int row = -1;          // the first row that is the same; -1: there is none
+        bool hasMore = false;  // rows further down may be the same
+    };
+    Found find(const HeadlineRows& rows, const CHeadlineTable& entry) const;
 
     // A row has just been put in.
     void inserted(const HeadlineRows& rows, int row);
@@ -30,9 +33,12 @@ public:
     void removing(const HeadlineRows& rows, int row);
 
 private:
-    // A slot is 0 when it is free; else position + 1, and in the lowest bit: rows further down may be the
-    // same.
+    // A slot is 0 when it is free; else position + 1, five bits of the row's hash, which spare most looks at
+    // rows that are not the same, and in the lowest bit: rows further down may be the same. Room for 67
+    // million rows.
     using Slot = std::uint32_t;
+    static constexpr int positionShift = 6;
+    static constexpr Slot tagMask = 0x1F;
     struct Segment {
         std::vector<Slot> held;  // at most three quarters full
         std::uint32_t used = 0;
@@ -45,10 +51,12 @@ private:
     static int positionOf(const HeadlineRows& rows, int row) {
         return static_cast<int>(rows.size()) - 1 - row;
     }
-    static Slot slotFor(int position, bool shared) {
-        return ((static_cast<Slot>(position) + 1) << 1) | (shared ? 1U : 0U);
+    static Slot tagOf(std::uint64_t hash) { return static_cast<Slot>(hash) & tagMask; }
+    static Slot slotFor(int position, std::uint64_t hash, bool shared) {
+        return ((static_cast<Slot>(position) + 1) << positionShift) | (tagOf(hash) << 1) | (shared ? 1U : 0U);
     }
-    static int positionIn(Slot slot) { return static_cast<int>(slot >> 1) - 1; }
+    static int positionIn(Slot slot) { return static_cast<int>(slot >> positionShift) - 1; }
+    static bool hasTag(Slot slot, std::uint64_t hash) { return ((slot >> 1) & tagMask) == tagOf(hash); }
     static bool isShared(Slot slot) { return (slot & 1U) != 0; }
     static int rowIn(const HeadlineRows& rows, Slot slot) {
         return static_cast<int>(rows.size()) - 1 - positionIn(slot);
@@ -138,22 +146,24 @@ void RowIndex<Identity>::fillFresh(const HeadlineRows& rows, Segment& segment,
             segment.held[i] |= 1U;
             continue;
         }
-        segment.held[i] = slotFor(positionOf(rows, row.row), false);
+        segment.held[i] = slotFor(positionOf(rows, row.row), row.hash, false);
         standing[i] = row.hash;
         ++segment.used;
     }
 }
 
 template <class Identity>
-int RowIndex<Identity>::find(const HeadlineRows& rows, const CHeadlineTable& entry) const {
+typename RowIndex<Identity>::Found RowIndex<Identity>::find(const HeadlineRows& rows,
+                                                            const CHeadlineTable& entry) const {
     if (segments.empty())
-        return -1;
+        return {};
     const std::uint64_t hash = identity.hash(entry);
     const Segment& segment = segments[directory[leadingBits(hash)]];
     const Slot slot = segment.held[seek(segment, hash, [&](Slot candidate) {
-        return identity.same(rows[static_cast<std::size_t>(rowIn(rows, candidate))], entry);
+        return hasTag(candidate, hash) &&
+               identity.same(rows[static_cast<std::size_t>(rowIn(rows, candidate))], entry);
     })];
-    return slot == 0 ? -1 : rowIn(rows, slot);
+    return slot == 0 ? Found() : Found{rowIn(rows, slot), isShared(slot)};
 }
 
 template <class Identity>
@@ -186,7 +196,7 @@ void RowIndex<Identity>::removing(const HeadlineRows& rows, int row) {
         if (heir == rows.end())
             takeOut(rows, segment, i);
         else
-            segment.held[i] = slotFor(positionOf(rows, static_cast<int>(heir - rows.begin())), true);
+            segment.held[i] = slotFor(positionOf(rows, static_cast<int>(heir - rows.begin())), hash, true);
     }
     for (int above = row; above-- > 0;) {
         const int from = positionOf(rows, above);
@@ -201,12 +211,13 @@ void RowIndex<Identity>::add(const HeadlineRows& rows, int row) {
     const std::uint64_t hash = identity.hash(entry);
     Segment& segment = segmentWithRoom(rows, hash);
     Slot& slot = segment.held[seek(segment, hash, [&](Slot candidate) {
-        return identity.same(rows[static_cast<std::size_t>(rowIn(rows, candidate))], entry);
+        return hasTag(candidate, hash) &&
+               identity.same(rows[static_cast<std::size_t>(rowIn(rows, candidate))], entry);
     })];
     if (slot == 0)
         ++segment.used;
     const bool isFirst = slot == 0 || row < rowIn(rows, slot);
-    slot = slotFor(isFirst ? positionOf(rows, row) : positionIn(slot), slot != 0);
+    slot = slotFor(isFirst ? positionOf(rows, row) : positionIn(slot), hash, slot != 0);
 }
 
 template <class Identity>
@@ -216,7 +227,7 @@ void RowIndex<Identity>::move(const CHeadlineTable& entry, int from, int to) {
     Slot& slot =
         segment.held[seek(segment, hash, [&](Slot candidate) { return positionIn(candidate) == from; })];
     if (slot != 0)
-        slot = slotFor(to, isShared(slot));
+        slot = slotFor(to, hash, isShared(slot));
 }
 
 // Closes the gap, so that every other slot is still found from its home.

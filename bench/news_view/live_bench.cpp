@@ -84,7 +84,7 @@ void insertIntoABareTable(benchmark::State& state) {
     backEnd.BKQNEWS_iGetHeadlineTable(1, runs.front(), 0, {});
     HeadlineTable table;
     table.assign(runs);
-    table.BuildIndexes();
+    table.BuildIndex();
     int inserted = 0;
     measure(state, "table", [&] {
         for (int i = 0; i < 1000; ++i) {
