@@ -56,7 +56,7 @@ Result<std::unique_ptr<Database>> Database::open(const QString& path, Mode mode,
         database->noteFailure();
         return Error{database->failure()};
     }
-    sqlite3_busy_timeout(connection, static_cast<int>(busyTimeout.count()));
+    database->setBusyTimeout(busyTimeout);
     // A store comes from outside as any file does: its schema may run nothing of its own.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
@@ -110,6 +110,10 @@ std::int64_t Database::lastInsertId() const {
 
 int Database::changes() const {
     return sqlite3_changes(connection);
+}
+
+void Database::setBusyTimeout(std::chrono::milliseconds timeout) {
+    sqlite3_busy_timeout(connection, static_cast<int>(timeout.count()));
 }
 
 void Database::setCheckpointOnClose(bool on) {

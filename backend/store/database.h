@@ -44,6 +44,8 @@ public:
     std::int64_t lastInsertId() const;
     // Rows that the last statement changed.
     int changes() const;
+    // How long statements wait from now on for another program that is writing.
+    void setBusyTimeout(std::chrono::milliseconds timeout);
     // While off, closing leaves the file and its log exactly as they are.
     void setCheckpointOnClose(bool on);
 

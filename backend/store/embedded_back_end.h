@@ -18,6 +18,7 @@
 
 #include <QColor>
 
+#include <chrono>
 #include <map>
 #include <memory>
 #include <optional>
@@ -48,8 +49,10 @@ public:
     static Result<std::unique_ptr<EmbeddedBackEnd>> open(const QString& storePath);
     explicit EmbeddedBackEnd(std::unique_ptr<Database> store);
 
-    // Stores one item now, in a transaction of its own. Waits up to five seconds for another program that is
-    // writing. An error leaves the store as it was.
+    // How long begin() waits for another program that is writing. At first: five seconds.
+    void setPatience(std::chrono::milliseconds patience) { database->setBusyTimeout(patience); }
+
+    // Stores one item now, in a transaction of its own. An error leaves the store as it was.
     Result<TakeOutcome> takeIn(const StoreItem& item);
     // Stores the story of a headline, in place of the one that it has, if any, and tells the receivers that
     // it can be had. Rejected: there is no such headline.
@@ -69,8 +72,8 @@ public:
     // True when every receiver has been told of everything that is in the store.
     bool isDelivered() const { return delivery.isDone(); }
 
-    // Tells the receivers of the change. While not connected, they are told no news. What came meanwhile is told when the connection is
-    // back, oldest first. At first: connected.
+    // Tells the receivers of the change. While not connected, they are told no news. What came meanwhile is
+    // told when the connection is back, oldest first. At first: connected.
     void setConnected(bool on);
     // How many headlines were told late after the last break.
     int lateHeadlines() const { return lastMissed; }

@@ -42,6 +42,21 @@ bool StoredDay::load(QDate day) {
     return !query.failed();
 }
 
+Done StoredDay::copyCatalogues(Database& target) const {
+    Statement attach(target, "ATTACH ? AS source");
+    const bool attached = Query(attach, database->path()).run();
+    if (attached && target.execute("BEGIN; DELETE FROM service_categories; DELETE FROM categories;"
+                                   "REPLACE INTO services SELECT * FROM source.services;"
+                                   "INSERT INTO categories SELECT * FROM source.categories;"
+                                   "INSERT INTO service_categories SELECT * FROM source.service_categories;"
+                                   "REPLACE INTO symbols SELECT * FROM source.symbols; COMMIT"))
+        return Nothing{};
+    const Error error{target.failure()};
+    if (target.inTransaction())
+        target.execute("ROLLBACK");
+    return error;
+}
+
 Result<NewsItem> StoredDay::item(std::size_t index) {
     const std::int64_t id = entries[index].id;
     NewsItem item;

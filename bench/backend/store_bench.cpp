@@ -50,6 +50,50 @@ void takeIn(benchmark::State& state) {
     state.counters["of_plain"] = median(bare) / median(own);
 }
 
+// Counts what it is told.
+class Counter : public NewsReceiver {
+public:
+    void RecvNewHeadLine(const CHeadline*, const QString&, const QString&) override { ++headlines; }
+    std::size_t headlines = 0;
+};
+
+// A burst of live news until a view has been told of all of it: in one transaction. vs_single: the rate as a
+// multiple of that of one transaction an item.
+void takeBurstIn(benchmark::State& state) {
+    constexpr std::size_t singles = 200;
+    const std::vector<NewsItem> items = newsSamples(static_cast<int>(state.range(0)));
+    std::vector<double> batched;
+    std::vector<double> single;
+    for (auto unused : state) {
+        QTemporaryDir folder;
+        EmbeddedBackEnd backEnd(opened(folder.filePath(u"burst.db"_s)));
+        Counter view;
+        backEnd.Attach(&view);
+        batched.push_back(secondsOf([&] {
+            bool good = static_cast<bool>(backEnd.begin());
+            for (const NewsItem& item : items)
+                good = backEnd.take(item) && good;
+            good = backEnd.commit() && good;
+            while (good && !backEnd.isDelivered())
+                QCoreApplication::processEvents();
+            if (!good || view.headlines != items.size())
+                throw std::runtime_error("the burst was not told whole");
+        }));
+        state.SetIterationTime(batched.back());
+        EmbeddedBackEnd other(opened(folder.filePath(u"single.db"_s)));
+        other.Attach(&view);
+        single.push_back(secondsOf([&] {
+            for (std::size_t i = 0; i < singles; ++i)
+                benchmark::DoNotOptimize(other.takeIn(items[i]));
+        }));
+        backEnd.Detach(&view);
+        other.Detach(&view);
+    }
+    const double rate = static_cast<double>(items.size()) / median(batched);
+    state.counters["items_per_s"] = rate;
+    state.counters["vs_single"] = rate / (static_cast<double>(singles) / median(single));
+}
+
 std::vector<CHeadlineTable> readTables(EmbeddedBackEnd& backEnd) {
     std::vector<CHeadlineTable> table;
     for (unsigned char service = 1; service <= serviceCount; ++service)
@@ -89,8 +133,10 @@ void lookUpVisibleRows(benchmark::State& state) {
 }  // namespace wirepane::bench
 
 using wirepane::bench::lookUpVisibleRows;
+using wirepane::bench::takeBurstIn;
 using wirepane::bench::takeIn;
 
+BENCHMARK(takeBurstIn)->Arg(1000)->Arg(10'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(takeIn)->Arg(1000)->Arg(20'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(lookUpVisibleRows)->Arg(1000)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMicrosecond);
 

@@ -22,6 +22,7 @@ namespace wirepane {
 namespace {
 
 constexpr int lastService = 255;
+constexpr int triesAtFirst = 12;  // to reach a terminal, four a second
 constexpr int retryMs = 1000;
 constexpr int mostRetries = 60;  // of a store that another program keeps busy
 
@@ -143,7 +144,7 @@ int feedTerminal(const QString& name, unsigned char service) {
         printNote(sentence);
         QCoreApplication::exit(exitUnusable);
     });
-    client.start();
+    client.start(triesAtFirst);
     if (QCoreApplication::exec() != exitDone) {
         printNote(u"%1 lines were not confirmed."_s.arg(client.unconfirmed()));
         return exitUnusable;

@@ -7,6 +7,7 @@
 #include "terminal/commands/command_arguments.h"
 #include "terminal/commands/console.h"
 #include "terminal/commands/exit_status.h"
+#include "terminal/feed/feed_name.h"
 #include "terminal/session/frame_commands.h"
 #include "terminal/session/session.h"
 #include "terminal/tour/tour.h"
@@ -37,6 +38,7 @@ void addOptions(QCommandLineParser& parser) {
          u"folder"_s},
         {u"lang"_s, u"The language: %1."_s.arg(Languages::codes().join(u", "_s)), u"code"_s},
         {u"sample"_s, u"Fills a store without news with the sample wire."_s},
+        {u"no-sample"_s, u"Leaves a store without news as it is."_s},
         {u"offscreen"_s, u"Draws all windows off screen."_s},
         {u"workspace"_s, u"With automation: opens the user's views, and keeps them."_s},
         {u"automation"_s, u"Is driven by JSON-RPC on standard input and output."_s},
@@ -64,7 +66,10 @@ OpenOptions openOptions(CommandArguments& arguments) {
     options.workspace = parser.isSet(u"workspace"_s);
     options.sample = parser.isSet(u"sample"_s);
     options.spoolFolder = parser.value(u"spool"_s);
+    options.noSample = parser.isSet(u"no-sample"_s);
     options.feedName = parser.value(u"feed"_s);
+    if (!parser.isSet(u"feed"_s) && !options.isScripted() && !options.tour)
+        options.feedName = defaultFeedName;
     if (!options.language.isEmpty() && !Languages::codes().contains(options.language))
         arguments.fail(u"--lang takes one of %1."_s.arg(Languages::codes().join(u", "_s)));
     if (!arguments.rest().isEmpty())
@@ -113,7 +118,7 @@ int runForScripts(Session& session, const OpenOptions& options, StandardChannel*
 }
 
 int runOpened(const OpenOptions& options, StandardChannel* channel) {
-    const bool sample = options.sample || !options.isScripted();
+    const bool sample = options.sample || (!options.isScripted() && !options.noSample);
     const auto session = Session::open({options.storeFile, options.configFolder, options.language, sample,
                                         options.spoolFolder, options.feedName});
     if (!session) {

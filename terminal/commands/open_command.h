@@ -21,6 +21,7 @@ struct OpenOptions {
     QString feedName;
     bool automation = false;  // on standard input and output
     bool sample = false;
+    bool noSample = false;
     bool tour = false;
     bool workspace = false;  // a script works on the user's views
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/replay_command.h"
 
+#include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "terminal/commands/command_arguments.h"
 #include "terminal/commands/console.h"
@@ -11,6 +12,8 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QUuid>
 
 using namespace Qt::StringLiterals;
@@ -21,18 +24,21 @@ namespace {
 
 constexpr double fastest = 100000;
 constexpr int progressMs = 500;
+constexpr int triesWhileOpen = 12;  // four a second
+constexpr int triesWhileOpening = 240;
 
 struct Request {
     QString storeFile;
     QString target;
     QDate date;
     ReplayOptions options;
+    bool opens = false;
 };
 
 Request requestFrom(CommandArguments& arguments) {
     const QCommandLineParser& parser = arguments.parser;
     arguments.applyNow();
-    Request request{arguments.storeFile(), defaultFeedName, host_clock::today(), {}};
+    Request request{arguments.storeFile(), defaultFeedName, host_clock::today(), {}, false};
     if (parser.isSet(u"to"_s))
         request.target = parser.value(u"to"_s);
     if (parser.isSet(u"date"_s)) {
@@ -54,6 +60,9 @@ Request requestFrom(CommandArguments& arguments) {
             arguments.fail(u"--speed takes a number from 0 to %1, not \"%2\"."_s.arg(fastest).arg(
                 parser.value(u"speed"_s)));
     }
+    request.opens = parser.isSet(u"open"_s);
+    if (request.opens && parser.isSet(u"to"_s))
+        arguments.fail(u"--open and --to exclude each other."_s);
     request.options.asNew = parser.isSet(u"as-new"_s);
     request.options.run = u"replay:"_s + QUuid::createUuid().toString(QUuid::WithoutBraces);
     if (!arguments.rest().isEmpty())
@@ -103,9 +112,44 @@ int play(const Request& request, StoredDay& day) {
     QTimer progress;
     QObject::connect(&progress, &QTimer::timeout, &replay, [&] { showProgress(replay, day.size()); });
     progress.start(progressMs);
-    client.start();
+    // A terminal that is being opened takes its time.
+    client.start(request.opens ? triesWhileOpening : triesWhileOpen);
     const int status = QCoreApplication::exec();
     return status == exitDone ? reportEnd(client, request.options.asNew) : status;
+}
+
+Done makeStoreLike(const StoredDay& day, const QString& file) {
+    const auto store = openStore(file);
+    return store ? day.copyCatalogues(*store.value()) : Done(Error{store.error()});
+}
+
+// The terminal lives on after the last headline, until its user closes it.
+int playInOwnTerminal(Request request, StoredDay& day) {
+    const QTemporaryDir folder;
+    request.target = folder.filePath(u"feed"_s);
+    const std::int64_t begin = std::max(request.options.from, day.timeOf(0));
+    const QString storeFile = folder.filePath(u"replay.wirepane"_s);
+    // Views read the names of categories when they open.
+    if (const Done made = makeStoreLike(day, storeFile); !made) {
+        printNote(made.error());
+        return exitUnusable;
+    }
+    QProcess terminal;
+    terminal.setProcessChannelMode(QProcess::ForwardedChannels);
+    terminal.start(QCoreApplication::applicationFilePath(),
+                   {u"--store"_s, storeFile, u"--config"_s, folder.filePath(u"config"_s), u"--now"_s,
+                    QDateTime::fromSecsSinceEpoch(begin).toString(Qt::ISODate), u"--no-sample"_s, u"--feed"_s,
+                    request.target});
+    if (!terminal.waitForStarted()) {
+        printNote(u"The terminal cannot be started: %1."_s.arg(terminal.errorString()));
+        return exitUnusable;
+    }
+    QObject::connect(&terminal, &QProcess::finished, &terminal, [] { QCoreApplication::exit(exitDone); });
+    const int status = play(request, day);
+    if (status == exitUnusable)
+        terminal.terminate();
+    terminal.waitForFinished(-1);
+    return status;
 }
 
 }  // namespace
@@ -121,6 +165,7 @@ int runReplay() {
          u"time"_s},
         {u"speed"_s, u"Seconds of the day in a second; 0: as fast as it goes. Default: 60"_s, u"number"_s},
         {u"to"_s, u"The feed name of the terminal. Default: %1"_s.arg(defaultFeedName), u"name"_s},
+        {u"open"_s, u"Opens a terminal of its own for the replay, on a store that is thrown away."_s},
         {u"as-new"_s, u"Plays every item as news of this moment, beside what the terminal has."_s},
     });
     if (const auto status = arguments.read())
@@ -137,7 +182,7 @@ int runReplay() {
         printNote(u"%1 holds no news of %2."_s.arg(request.storeFile, request.date.toString(Qt::ISODate)));
         return exitUnusable;
     }
-    return play(request, *day.value());
+    return request.opens ? playInOwnTerminal(request, *day.value()) : play(request, *day.value());
 }
 
 }  // namespace wirepane

@@ -15,7 +15,6 @@ namespace wirepane {
 namespace {
 
 constexpr int retryMs = 250;
-constexpr int firstTries = 12;
 constexpr std::size_t window = 2000;  // lines on the way at a time
 
 }  // namespace
@@ -36,7 +35,7 @@ FeedClient::FeedClient(QString socketName, FeedHello greeting, QObject* parent)
         // A connection that breaks tells so in another way.
         if (isGreeted || again.isActive())
             return;
-        if (!wasConnected && ++tries >= firstTries)
+        if (!wasConnected && --triesLeft <= 0)
             emit failed(u"No terminal takes a feed under the name %1."_s.arg(name));
         else
             again.start(retryMs);
@@ -48,7 +47,8 @@ FeedClient::~FeedClient() {
     socket.disconnect(this);
 }
 
-void FeedClient::start() {
+void FeedClient::start(int triesAtFirst) {
+    triesLeft = triesAtFirst;
     connectAgain();
 }
 

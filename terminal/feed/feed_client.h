@@ -23,8 +23,9 @@ public:
     FeedClient(QString socketName, FeedHello hello, QObject* parent = nullptr);
     ~FeedClient() override;
 
-    // Tries for ever, unless nobody answers within three seconds of the start.
-    void start();
+    // Gives up when nobody has answered after so many tries, four a second; a connection that was made once
+    // is tried again for ever.
+    void start(int triesAtFirst);
     // A line without its line feed. `position`: that of its item, if it has one.
     void send(const QByteArray& line, const QString& position = {});
     // Lines that are not confirmed.
@@ -64,7 +65,7 @@ private:
     qint64 confirmedLines = 0;  // of this connection
     bool isGreeted = false;
     bool wasConnected = false;
-    int tries = 0;
+    int triesLeft = 0;
     ImportTotals sum;
 };
 

@@ -4,6 +4,7 @@
 
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/local_day.h"
+#include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 
 #include <algorithm>
@@ -16,6 +17,8 @@ namespace {
 
 constexpr int tickMs = 250;
 constexpr int retryMs = 2000;  // after the store could not be written
+constexpr std::chrono::milliseconds shortPatience{20};
+constexpr qint64 longestReturnMs = 3000;  // of clients, after a break
 constexpr std::size_t mostWaitingLines = 10000;
 
 }  // namespace
@@ -64,11 +67,14 @@ void LiveFeed::setConnected(bool connected) {
         return;
     isConnected = connected;
     if (!connected) {
+        clientsBefore = connections.size();
         connections.clear();
         server.reset();
         backEnd.setConnected(false);
     } else {
         isCatchingUp = true;
+        sinceBreak.start();
+        takenLate = 0;
         backEnd.setConnected(true);
         if (const Done opened = openSocket(); !opened)
             emit trouble(opened.error());
@@ -92,6 +98,7 @@ void LiveFeed::tick() {
         if (spool && spool->hasPortion())
             pumpSoon();
     }
+    isCatchingUp = isCatchingUp && !hasCaughtUp();
     updateState();
 }
 
@@ -131,11 +138,16 @@ bool LiveFeed::pumpOne() {
 
 bool LiveFeed::take(FeedSource& source) {
     isTaking = true;
+    // The windows must not stand still while another program writes.
+    backEnd.setPatience(shortPatience);
     const Result<PortionOutcome> taken = takePortion(source, backEnd);
+    backEnd.setPatience(StoreOptions().busyTimeout);
     isTaking = false;
     storeTrouble = taken ? QString() : taken.error();
-    if (taken)
+    if (taken) {
+        takenLate += isCatchingUp ? taken.value().totals.takenIn : 0;
         startNewsDays(taken.value());
+    }
     return static_cast<bool>(taken);
 }
 
@@ -155,15 +167,20 @@ void LiveFeed::dropDoneConnections() {
     std::erase_if(connections, [](const auto& connection) { return connection->isDone(); });
 }
 
+// The clients of before are waited for, for a while.
+bool LiveFeed::hasCaughtUp() {
+    const bool areBack = connections.size() >= clientsBefore || sinceBreak.elapsed() > longestReturnMs;
+    return isConnected && areBack && isIdle();
+}
+
 void LiveFeed::updateState() {
-    isCatchingUp = isCatchingUp && !isIdle();
     FeedState now = current;
     now.kind = !isConnected                              ? FeedState::Offline
                : isCatchingUp || !storeTrouble.isEmpty() ? FeedState::Reconnecting
                                                          : FeedState::Live;
     if (now.kind != current.kind)
         now.since = host_clock::now();
-    now.late = backEnd.lateHeadlines();
+    now.late = backEnd.lateHeadlines() + static_cast<int>(takenLate);
     now.trouble = storeTrouble;
     if (now == current)
         return;

@@ -7,6 +7,7 @@
 #include "terminal/feed/feed_connection.h"
 
 #include <QDate>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -27,7 +28,7 @@ struct FeedState {
     };
     Kind kind = Live;
     std::int64_t since = 0;  // when it came to be so, seconds since 1970; 0: from the start
-    int late = 0;            // headlines that came late after the last break
+    int late = 0;            // items that came late after the last break
     QString trouble;         // why the store cannot be written; empty: it can
 
     bool operator==(const FeedState&) const = default;
@@ -65,6 +66,7 @@ private:
     void pump();
     bool pumpOne();
     bool take(FeedSource& source);
+    bool hasCaughtUp();
     void startNewsDays(const PortionOutcome& outcome);
     void dropDoneConnections();
     void updateState();
@@ -82,6 +84,9 @@ private:
     QString storeTrouble;
     bool isConnected = true;
     bool isCatchingUp = false;
+    std::size_t clientsBefore = 0;  // the break
+    QElapsedTimer sinceBreak;       // since its end
+    qint64 takenLate = 0;           // while catching up
     bool isTaking = false;
     FeedState current;
 };

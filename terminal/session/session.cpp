@@ -3,6 +3,7 @@
 #include "terminal/session/session.h"
 
 #include "host/contract/clock.h"
+#include "terminal/feed/feed_name.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/session/module_location.h"
 #include "terminal/session/store_opening.h"
@@ -132,7 +133,11 @@ Done Session::startFeed(const SessionOptions& options) {
         if (const Done watched = liveFeed->watch(options.spoolFolder); !watched)
             return watched;
     }
-    return options.feedName.isEmpty() ? Done(Nothing{}) : liveFeed->listen(options.feedName);
+    if (options.feedName.isEmpty())
+        return Nothing{};
+    Done listening = liveFeed->listen(options.feedName);
+    // Under the common name, another terminal may have been first.
+    return options.feedName == defaultFeedName ? Done(Nothing{}) : listening;
 }
 
 void Session::prepareModuleFiles() {

@@ -4,6 +4,7 @@
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/store_checker.h"
 #include "backend/store/store_file.h"
+#include "backend/store/stored_day.h"
 #include "host/contract/clock.h"
 #include "tests/backend/store/listener.h"
 #include "tests/backend/store/store_fixture.h"
@@ -197,6 +198,41 @@ TEST_F(LiveNewsTest, APositionIsKeptWithTheItemsBeforeItOrNotAtAll) {
     ASSERT_TRUE(writer->keepPosition(u"wire"_s, u"13"_s));
     ASSERT_TRUE(writer->commit());
     EXPECT_EQ(backEnd.positionOf(u"wire"_s).value(), u"13"_s);
+}
+
+TEST_F(LiveNewsTest, AStoredDayGivesItsNewsBackWholeAndInOrder) {
+    NewsItem late = newsItem(52, u"late"_s, at(23, 59, 59), u"Last of the day"_s);
+    late.version = 7;
+    late.story = u"One@@@@Two"_s;
+    late.category = u"Expiry"_s;
+    late.related = {{16, u"2330"_s}, {0, u"X"_s}};
+    takeIn(late);
+    takeIn(newsItem(1, u"first"_s, at(0, 0), u"First of the day"_s));
+    takeIn(newsItem(1, u"before"_s, at(0, 0) - 1, u"Of the day before"_s));
+    takeIn(newsItem(1, u"after"_s, at(0, 0) + 86400, u"Of the day after"_s));
+    NewsItem named = newsItem(1, u"named"_s, at(1, 0), u"In a category of its own"_s);
+    named.category = u"Shipping"_s;
+    takeIn(named);
+    const auto day = StoredDay::open(store->path(), QDate(2026, 3, 2));
+    ASSERT_TRUE(day && day.value()->size() == 3);
+    EXPECT_EQ(day.value()->item(0).value().title, u"First of the day"_s);
+    EXPECT_EQ(day.value()->item(0).value().story, std::nullopt);
+    const NewsItem back = day.value()->item(2).value();
+    EXPECT_EQ(std::tie(back.service, back.identity, back.version, back.time, back.title, back.story,
+                       back.category, back.related),
+              std::tie(late.service, late.identity, late.version, late.time, late.title, late.story,
+                       late.category, late.related));
+    EXPECT_EQ(back.sequence, 1);
+
+    const auto other = openStore(pathOf(u"other.db"_s));
+    ASSERT_TRUE(other);
+    const Done copied = day.value()->copyCatalogues(*other.value());
+    ASSERT_TRUE(copied) << copied.error().toStdString();
+    const char* const names =
+        "SELECT service, category, name FROM service_categories JOIN categories USING(space) "
+        "WHERE id = category ORDER BY 1, 2";
+    EXPECT_EQ(rowsOf(*other.value(), names), rows(names));
+    EXPECT_FALSE(rows(names).filter(u"Shipping"_s).isEmpty());
 }
 
 TEST_F(LiveNewsTest, TheLogOfArrivalsLetsTheOldestGo) {
