@@ -28,6 +28,7 @@ constexpr int longestFaceName = 31;
 constexpr int framesPerInch = 150;  // a frame is drawn that fraction of an inch wide
 constexpr int pdfResolution = 1200;
 constexpr qreal pdfMarginMm = 10;
+constexpr QSize previewSize{900, 800};
 
 // The page's face, and for what it lacks those of the host.
 QFont pageFont(BKQuoteInterface& backEnd, int pixelSize) {
@@ -190,6 +191,7 @@ void PreviewNews(BKQuoteInterface& backEnd, const NewsItems& items, QWidget* par
                      [&backEnd, &items](QPrinter* device) {
                          DrawPages(*device, backEnd, PagesOn(*device, backEnd, items));
                      });
+    dialog->resize(previewSize);
     dialog->exec();
     delete dialog;
 }

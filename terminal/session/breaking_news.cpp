@@ -52,6 +52,7 @@ void BreakingNews::retranslate() {
 
 void BreakingNews::OnStoryWindowClosed() {
     backEnd.Detach(this);
+    frame.activateWindow();
 }
 
 void BreakingNews::RecvNewHeadLine(const CHeadline* headline, const QString&, const QString&) {

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// What the desk's keys show of news beside the views: the window of breaking news, the print preview.
+#include "host/contract/clock.h"
+#include "host/controls/super_sheet_wnd.h"
+#include "terminal/session/frame_commands.h"
+#include "terminal/session/session.h"
+#include "tests/terminal/program/program_runner.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDialog>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace wirepane;
+using namespace wirepane::test;
+
+namespace {
+
+class FrameOutputTest : public testing::Test {
+protected:
+    FrameOutputTest() {
+        host_clock::startAt(QDateTime::fromString(u"2026-03-02T12:00:00"_s, Qt::ISODate).toSecsSinceEpoch());
+        auto opened =
+            Session::open({scratch.path(u"news.wirepane"_s), scratch.path(u"config"_s), u"en"_s, true});
+        session = std::move(opened.value());
+        commands = std::make_unique<FrameCommands>(*session);
+        session->frame().resize(1200, 800);
+        session->frame().show();
+        session->frame().activateWindow();
+        EXPECT_TRUE(session->keeper().restore());
+        EXPECT_TRUE(QTest::qWaitFor([this] { return session->frame().isActiveWindow(); }));
+    }
+
+    void press(int key, Qt::KeyboardModifiers modifiers) {
+        QWidget* target = QApplication::focusWidget();
+        QTest::keyClick(target != nullptr ? target : &session->frame(), static_cast<Qt::Key>(key), modifiers);
+        QCoreApplication::processEvents();
+    }
+    // The window of breaking news: the one story window that is no view's.
+    QDialog* storyWindow() const {
+        return session->frame().findChild<QDialog*>(QString(), Qt::FindDirectChildrenOnly);
+    }
+    QString texts() const {
+        QString all;
+        for (const auto* edit : storyWindow()->findChildren<QPlainTextEdit*>())
+            all += edit->toPlainText() + u'\n';
+        return all;
+    }
+    void publish(int number, const QString& title) {
+        NewsItem item;
+        item.identity = title;
+        item.time = host_clock::now() + number;
+        item.title = title;
+        item.story = u"All of "_s + title;
+        EXPECT_TRUE(session->backEnd().takeIn(item));
+    }
+
+    Scratch scratch;
+    std::unique_ptr<Session> session;
+    std::unique_ptr<FrameCommands> commands;
+};
+
+TEST_F(FrameOutputTest, TheLatestHeadlineStandsInAWindowOfItsOwn) {
+    EXPECT_EQ(storyWindow(), nullptr);
+    press(Qt::Key_B, Qt::ControlModifier);
+    ASSERT_NE(storyWindow(), nullptr);
+    EXPECT_TRUE(storyWindow()->isVisible());
+    EXPECT_TRUE(texts().contains(u"2026/03/02"_s)) << "the newest one so far";
+    publish(1, u"Rates are cut"_s);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return texts().contains(u"All of Rates are cut"_s); }));
+    session->setLanguage(u"zh-TW"_s);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return storyWindow()->windowTitle() != u"News Story"_s; }));
+    storyWindow()->close();
+    publish(2, u"Rates are raised"_s);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(storyWindow()->isVisible());
+    EXPECT_FALSE(texts().contains(u"raised"_s)) << "a closed window does not listen";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return session->frame().isActiveWindow(); }));
+    press(Qt::Key_B, Qt::ControlModifier);
+    EXPECT_TRUE(storyWindow()->isVisible());
+    EXPECT_TRUE(texts().contains(u"Rates are raised"_s));
+}
+
+TEST_F(FrameOutputTest, ThePreviewShowsTheSelectedNews) {
+    session->workspace().active()->access->Sheet(0)->vSetActiveSelection(0, -1);
+    QString shown;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (modal == nullptr)
+            return;
+        poll.stop();
+        shown = QString::fromLatin1(modal->metaObject()->className());
+        static_cast<QDialog*>(modal)->reject();
+    });
+    poll.start(300);
+    press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(shown, u"QPrintPreviewDialog"_s);
+}
+
+}  // namespace
