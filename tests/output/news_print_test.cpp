@@ -6,6 +6,7 @@
 #include "tests/support/fake_back_end.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QPrinter>
@@ -16,6 +17,11 @@
 #include <QWidget>
 
 #include <gtest/gtest.h>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -179,6 +185,29 @@ TEST_F(NewsPrintTest, LeavesAnOldFileWhereANewOneFails) {
         printer.PutOut(gather(printer, {1}), nullptr, OutputTarget{path(u"a.pdf"_s), {}, u"Z9"_s}).failed);
     EXPECT_FALSE(QFile::exists(path(u"a.pdf"_s)));
 }
+
+#ifdef Q_OS_UNIX
+TEST(WholeFileTest, AFullDiskLeavesTheOldFile) {
+    // A limit to the size of files stands for the disk; writes end short there, too.
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"news.txt"_s);
+    rlimit limit{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const auto usual = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{50000, limit.rlim_max};
+    for (const int size : {50001, 60000, 5000000}) {
+        ASSERT_FALSE(WriteWholeFile(file, "old"));
+        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+        const auto failed = WriteWholeFile(file, QByteArray(size, 'x'));
+        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+        EXPECT_TRUE(failed && !failed->isEmpty()) << size;
+        EXPECT_EQ(contents(file), QByteArray("old"));
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"news.txt"_s})
+            << "nothing is left";
+    }
+    std::signal(SIGXFSZ, usual);
+}
+#endif
 
 TEST_F(NewsPrintTest, APrinterThatIsGoneIsTold) {
     backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_PRINT_FAILED"_s, u"print %1: %2"_s);
