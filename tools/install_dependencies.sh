@@ -5,13 +5,13 @@ set -euo pipefail
 
 packages=(
     build-essential cmake ninja-build pkg-config git python3
-    qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
+    qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n libgl-dev
     libsqlite3-dev libopencc-dev libopencc-data
     libgtest-dev libbenchmark-dev
     fonts-dejavu-core fonts-liberation fonts-noto-cjk tzdata
 )
 if [ "${1:-}" = "--with-checks" ]; then
-    packages+=(clang-format-14 clang-tidy-14)
+    packages+=(clang-format-14 clang-tidy-14 poppler-utils)
 fi
 
 missing=()
