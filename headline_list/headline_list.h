@@ -83,6 +83,11 @@ public:
     // Forgets what was written: the next refill writes every visible row anew, as after a change of language.
     void vForgetWrittenCells() { cells.clear(); }
 
+    // These rows, also those that are not on screen, a line each: date and time, category, title, with tabs
+    // between them. Rows that do not exist and those beyond mostCopiedRows are passed over.
+    QString TextOfRows(const std::vector<int>& rows) const;
+    static constexpr std::size_t mostCopiedRows = 10000;
+
     // The entries of the visible rows: those of one page and one row more.
     std::vector<CHeadlineTable> vGetShowedHeadlineTable() const;
 

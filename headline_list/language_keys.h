@@ -78,6 +78,16 @@ inline constexpr QLatin1StringView searching{"IDS_NEWSCTRLVIEW_STRING_NEWS_SEARC
 inline constexpr QLatin1StringView newsNotFound{"IDS_NEWSCTRLVIEW_STRING_NEWS_NOT_FOUND"};
 inline constexpr QLatin1StringView invalidSearch{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH"};
 inline constexpr QLatin1StringView reinput{"IDS_NEWSCTRLVIEW_STRING_REINPUT"};
+inline constexpr QLatin1StringView invalidValue{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE"};
+inline constexpr QLatin1StringView invalidPaste{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_PASTE"};
+
+// The context menu.
+inline constexpr QLatin1StringView showCategory{"IDS_NEWSCTRLVIEW_STRING_SHOW_CATEGORY"};
+inline constexpr QLatin1StringView recoverHeadlineList{"IDS_NEWSCTRLVIEW_STRING_RECOVER_HEADLINELIST"};
+inline constexpr QLatin1StringView recoverStory{"IDS_NEWSCTRLVIEW_STRING_RECOVER_STORY"};
+inline constexpr QLatin1StringView detailedStory{"IDS_NEWSCTRLVIEW_STRING_DETAILED_STORY"};
+inline constexpr QLatin1StringView printNews{"IDS_NEWSCTRLVIEW_STRING_PRINT_NEWS"};
+inline constexpr QLatin1StringView saveAsNews{"IDS_NEWSCTRLVIEW_STRING_SAVE_AS_NEWS"};
 
 inline constexpr QLatin1StringView storyRemark{"IDS_NEWSCTRLVIEW_STRING_PS"};
 inline constexpr QLatin1StringView noStory{"IDS_NEWSCTRLVIEW_STRING_NO_NEWS_STORY"};

@@ -6,13 +6,13 @@
 #include "host/controls/quote_combo_box_auto.h"
 #include "host/controls/s_button.h"
 #include "host/controls/s_date_time_ctrl.h"
-#include "host/controls/s_edit.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/virtual_base_view.h"
 #include "news_view/control_ids.h"
 #include "news_view/mode_table.h"
+#include "search/search_edit2.h"
 
 #include <algorithm>
 #include <array>
@@ -121,7 +121,7 @@ void ControlSet::CreateControls(ListIndex mode, const QRect& rectangle, const QF
             }
             break;
         case ListIndex::Search:
-            vAdd<SEdit>(ids::searchEdit, rectangle)->setFont(font);
+            vAdd<SearchEdit2>(ids::searchEdit, rectangle)->setFont(font);
             vAddButton(ids::searchButton, rectangle);
             vAddButton(ids::dealsSearchButton, rectangle);
             break;

@@ -26,6 +26,7 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       printer(backEnd, outputDialogs, *this),
       saver(backEnd, outputDialogs, *this),
       preview(backEnd, outputDialogs, *this),
+      keyRouter(*this),
       dates(host_clock::today()) {
     for (TRVNewsPrint* job : pJobs())
         job->vSetOnFinished([this](const NewsOutcome& outcome) { vTell(outcome); });
@@ -67,6 +68,8 @@ bool TRVNewsCtrlView::OnCommand(int id) {
         {ids::saveAsButton, &TRVNewsCtrlView::OnBtnSaveas},
         {ids::printNews, &TRVNewsCtrlView::OnPrintNews},
         {ids::saveNews, &TRVNewsCtrlView::OnSaveNews},
+        {ids::pageDownButton, &TRVNewsCtrlView::OnBtnPageDown},
+        {ids::pageUpButton, &TRVNewsCtrlView::OnBtnPageUp},
         {ids::changeCategoryState, &TRVNewsCtrlView::OnChangeCategoryState},
     };
     const auto* command = std::find_if(std::begin(commands), std::end(commands),

@@ -12,6 +12,8 @@
 #include "news_view/application_switches.h"
 #include "news_view/category_catalogue.h"
 #include "news_view/control_set.h"
+#include "news_view/key_router.h"
+#include "news_view/key_routing.h"
 #include "news_view/mode_loading.h"
 #include "news_view/news_services.h"
 #include "news_view/story_stage.h"
@@ -23,6 +25,7 @@
 #include "output/trv_save_to_file.h"
 #include "search/search_desk.h"
 #include "story/story_owner.h"
+#include "search/search_edit2.h"
 
 #include <QLatin1StringView>
 #include <QMenu>
@@ -43,7 +46,11 @@ class CXTTipWindow;
 //
 // The host creates it by its class name, then calls OnInitialUpdate and InitialViewInfo. A back end is
 // installed before and outlives the view.
-class TRVNewsCtrlView : public TRVQuoteBaseView, public NewsViewAccess, public StoryOwner, private ListOwner {
+class TRVNewsCtrlView : public TRVQuoteBaseView,
+                        public NewsViewAccess,
+                        public StoryOwner,
+                        private ListOwner,
+                        private ShortTips {
     Q_OBJECT
 
 public:
@@ -167,7 +174,7 @@ public:
     // Narrows a search to a symbol and sends it again, as far as the current mode has one.
     void vDoSearchChangeSymbol(const CSearch& condition, unsigned char market, const QString& symbolCode);
     // A short tip in the middle of a rectangle of the screen.
-    void vShowTip(const QRect& rectangle, const QString& text);
+    void vShowTip(const QRect& rectangle, const QString& text) override;
 
     // --- Stories and what the back end pushes ---
 
@@ -193,6 +200,19 @@ public:
     NewsOutcome PrintNews(const std::optional<OutputTarget>& target) override;
     NewsOutcome SaveNews(const std::optional<OutputTarget>& target) override;
     void PreviewNews() override;
+
+    // --- Keys, mouse, context menu ---
+
+    // A key on its way to the view or one of its controls; true: nobody else gets it.
+    bool PreTranslateMessage(QKeyEvent& event);
+    // Shows the next, the previous story of the current list in the pane, round and round; the selection
+    // follows.
+    void OnBtnPageDown();
+    void OnBtnPageUp();
+    // Pops up the context menu at a point of the screen. False in the title, whose menu is the base view's.
+    bool OnContextMenu(const QPoint& screen);
+    // Copies the selected rows as text.
+    void vCopyRows();
 
     // --- Categories ---
 
@@ -220,6 +240,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     // Start-up.
@@ -301,6 +326,23 @@ private:
     // Stories.
     TRVNewsStory* pStoryDialogOnShow() const;
 
+    // Keys, mouse, context menu.
+    KeySituation vKeySituation() const;
+    void vCarryOut(const KeyRoute& route, const QKeyEvent& event);
+    bool OnKeyDown(const QKeyEvent& event);
+    bool OnKeyUp(const QKeyEvent& event);
+    void vConnectMouse(CSuperSheetWnd& sheet);
+    bool OnLButtonUp(unsigned flags, const QPoint& point);
+    bool OnLButtonDblClk(unsigned flags, const QPoint& point);
+    void OnMouseWheel(const QWheelEvent& event);
+    // Scrolls the current grid by an arrow key, while it has the keyboard.
+    void OnHScroll(Qt::Key key);
+    void OnVScroll();
+    void vPageStories(int step);
+    void vContextMenuByKey();
+    void vPopUpMenu(const QPoint& screen, bool onRow);
+    QAction* vAddCommand(QLatin1StringView key, int id);
+
     // Lists and painting.
     void OnChangeSize(quintptr sender);
     void DrawTitile(QPainter& painter);
@@ -338,6 +380,9 @@ private:
     TRVNewsPrint printer;
     TRVSaveToFile saver;
     TRVNewsPreview preview;
+    KeyRouter keyRouter;
+    KeysAtRelease keysAtRelease;
+    QPointer<QMenu> contextMenu;
 
     QString statusText;  // what the view has to say about its lists; empty most of the time
     DatePager dates;
@@ -349,6 +394,8 @@ private:
     StoryShowType storyShowType = StoryShowType::None;
     bool symbolFromLink = false;  // the host asked for the news of the linked symbol
     bool calendarOpen = false;
+    bool handingKeyOn = false;  // the key that arrives is one that the view hands on
+    bool handingWheelOn = false;
     bool laidOut = false;
     bool initialised = false;
 };

@@ -5,11 +5,11 @@
 #include "headline_list/table_reading.h"
 #include "host/contract/clock.h"
 #include "host/controls/registered_message.h"
-#include "host/controls/s_edit.h"
 #include "host/controls/xt_tip_window.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/adv_search_dlg.h"
+#include "search/search_edit2.h"
 #include "story/news_story_view.h"
 #include "story/quote_dlg_tip_msg.h"
 
@@ -29,8 +29,9 @@ constexpr unsigned char commodityMarket = 0x6D;
 // --- Quick search ---
 
 void TRVNewsCtrlView::vConnectSearchEdit() {
-    if (const auto* edit = controls.Find<SEdit>(ids::searchEdit))
-        connect(edit, &SEdit::returnPressed, this, &TRVNewsCtrlView::vOnEnterDown);
+    auto* edit = controls.Find<SearchEdit2>(ids::searchEdit);
+    edit->vSetOwner(this);
+    connect(edit, &SEdit::returnPressed, this, &TRVNewsCtrlView::vOnEnterDown);
 }
 
 QString TRVNewsCtrlView::cszSearchText() const {

@@ -201,11 +201,7 @@ void TRVNewsCtrlView::vInitialSheetWnd(ListIndex list, const QRect& rectangle) {
         if (bPaneShowsStories() && currentMode == static_cast<int>(list))
             OnShowStory();
     });
-    // A row that scrolls into view is written at once; the deferred refresh comes after the last step.
-    connect(sheet, &CSuperSheetWnd::ScrolledVertically, this, [this] {
-        vRealUpdateView();
-        vUpdateView();
-    });
+    vConnectMouse(*sheet);
 }
 
 void TRVNewsCtrlView::vOpenFocusedTab() {

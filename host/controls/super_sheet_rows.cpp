@@ -7,6 +7,7 @@
 
 #include <QFocusEvent>
 #include <QHeaderView>
+#include <QMouseEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -135,6 +136,25 @@ void CSuperSheetWnd::focusInEvent(QFocusEvent* event) {
     // The item view would make row 0 current, though the user chose none.
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
+}
+
+namespace {
+bool isPlainClick(const QMouseEvent& event) {
+    return event.button() == Qt::LeftButton &&
+           !(event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier));
+}
+}  // namespace
+
+void CSuperSheetWnd::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    if (isPlainClick(*event))
+        emit LButtonUp(viewport()->mapTo(this, event->pos()));
+}
+
+void CSuperSheetWnd::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTableView::mouseDoubleClickEvent(event);
+    if (isPlainClick(*event))
+        emit LButtonDblClk(viewport()->mapTo(this, event->pos()));
 }
 
 void CSuperSheetWnd::vSetHeaderRowBkColor(const QColor& colour) {

@@ -103,6 +103,10 @@ public:
     void vSetFont(const QFont& font);
 
 signals:
+    // The left button was released, was clicked twice, over the rows or below them, without Ctrl or Shift
+    // (which change the selection); the sheet has acted on it. The point is one of the sheet.
+    void LButtonUp(const QPoint& point);
+    void LButtonDblClk(const QPoint& point);
     // Other rows have come on screen, because the user or code scrolled or because rows on screen went. Not
     // sent while rows come and go above those on screen, which keep their places then.
     void ScrolledVertically();
@@ -118,6 +122,8 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void initStyleOption(QStyleOptionFrame* option) const override;
     bool viewportEvent(QEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
     void connectRows();

@@ -18,6 +18,7 @@ Automation::Automation(Session& session)
       output(session),
       feed(session),
       host(session),
+      input(session),
       links(session),
       menus(session),
       app(session),
@@ -30,6 +31,7 @@ Automation::Automation(Session& session)
     output.addTo(table);
     feed.addTo(table);
     host.addTo(table);
+    input.addTo(table);
     links.addTo(table);
     menus.addTo(table);
     DialogMethods::addTo(table);

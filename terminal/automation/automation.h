@@ -8,6 +8,7 @@
 #include "terminal/automation/feed_methods.h"
 #include "terminal/automation/grid_methods.h"
 #include "terminal/automation/host_methods.h"
+#include "terminal/automation/input_methods.h"
 #include "terminal/automation/link_methods.h"
 #include "terminal/automation/menu_methods.h"
 #include "terminal/automation/output_methods.h"
@@ -47,6 +48,7 @@ private:
     OutputMethods output;
     FeedMethods feed;
     HostMethods host;
+    InputMethods input;
     LinkMethods links;
     MenuMethods menus;
     AppMethods app;

@@ -5,6 +5,8 @@
 #include <QDate>
 #include <QString>
 
+#include <optional>
+
 class QAbstractButton;
 class QAction;
 class QComboBox;
@@ -24,6 +26,12 @@ namespace wirepane {
 void clickAt(QWidget& widget, const QPoint& point, Qt::MouseButton button);
 // Two clicks in quick succession, with all that the platform makes of them.
 void doubleClickAt(QWidget& widget, const QPoint& point, Qt::MouseButton button);
+// The key with its modifiers, such as "Return", "PageDown", "Shift+Insert"; none for a name that no key has.
+std::optional<QKeyCombination> keyNamed(const QString& name);
+// Gives the widget the keyboard, then presses and releases a key, which may be a shortcut.
+void hitKey(QWidget& widget, QKeyCombination key);
+// Gives the widget the keyboard, then hits one key for each character.
+void hitKeysOf(QWidget& widget, const QString& text);
 // Picks an item of an open menu, which closes.
 void chooseMenuItem(QMenu& menu, QAction& item);
 // Opens the drop-down, picks the entry and closes the drop-down.

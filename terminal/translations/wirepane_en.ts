@@ -227,6 +227,14 @@
         <source></source>
         <translation> days can be selected.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_PASTE">
+        <source></source>
+        <translation>Shift+Insert does not paste here.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE">
+        <source></source>
+        <translation>A search has no blanks.</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH">
         <source></source>
         <translation>Enter a keyword to search for.</translation>

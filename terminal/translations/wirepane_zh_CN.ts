@@ -227,6 +227,14 @@
         <source></source>
         <translation> 天内的日期。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_PASTE">
+        <source></source>
+        <translation>此处不可用 Shift+Insert 粘贴。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE">
+        <source></source>
+        <translation>搜索文字不可含空格。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH">
         <source></source>
         <translation>请输入搜索关键词。</translation>

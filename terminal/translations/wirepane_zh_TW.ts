@@ -227,6 +227,14 @@
         <source></source>
         <translation> 天內的日期。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_PASTE">
+        <source></source>
+        <translation>此處不可用 Shift+Insert 貼上。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE">
+        <source></source>
+        <translation>搜尋文字不可含空白。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH">
         <source></source>
         <translation>請輸入搜尋關鍵字。</translation>

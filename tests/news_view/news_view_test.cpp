@@ -167,7 +167,7 @@ TEST_F(NewsViewTest, TheSymbolModeFollowsCombosAndLinkedViews) {
     EXPECT_EQ(code, QStringLiteral("4001"));
     EXPECT_EQ(told, QStringList()) << "what came from elsewhere is not announced";
 
-    QTest::keyClick(serviceCombo, Qt::Key_Down);
+    pick(*serviceCombo, 2);
     EXPECT_EQ(serviceCombo->currentIndex(), 2);
     EXPECT_EQ(symbolCombo->currentText(), QString());
     EXPECT_EQ(told, QStringList());
@@ -217,7 +217,7 @@ TEST_F(NewsViewTest, AUserPicksACategoryAndATab) {
     EXPECT_EQ(titles(1), QStringList{QStringLiteral("s1 9:01")}) << "opens with the stored category";
     auto* combo = qobject_cast<SCComboBox*>(GetDlgItem(view.get(), ids::categoryCombo));
     ASSERT_NE(combo, nullptr);
-    QTest::keyClick(combo, Qt::Key_Up);
+    pick(*combo, 0);
     EXPECT_EQ(titles(1), QStringList{QStringLiteral("s1 9:00")});
 
     auto* strip = qobject_cast<CXTPTabControl*>(GetDlgItem(view.get(), ids::tabStrip));
@@ -349,6 +349,7 @@ TEST_F(NewsViewTest, ReadsOnWhileHeadlinesArrive) {
     const auto story = [pane] {
         return static_cast<MyRichEdit*>(GetDlgItem(pane, story_ids::storyText))->szGetText();
     };
+    focusGrid();
     QTest::keyClick(view->Sheet(0), Qt::Key_Down);
     EXPECT_TRUE(story().contains(QStringLiteral("story 2"))) << story().toStdString();
     QTest::keyClick(view->Sheet(0), Qt::Key_Down);

@@ -7,8 +7,11 @@
 #include "news_view/trv_news_ctrl_view.h"
 #include "tests/support/fake_back_end.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -91,6 +94,20 @@ protected:
         for (const QVariant& tab : tabs)
             modes.append(tab.toMap()[QStringLiteral("mode")].toInt());
         return modes;
+    }
+
+    // As a user picks an entry of the drop-down.
+    static void pick(QComboBox& combo, int entry) {
+        combo.showPopup();
+        combo.view()->setCurrentIndex(combo.model()->index(entry, 0));
+        QTest::keyClick(combo.view(), Qt::Key_Return);
+    }
+
+    // The window comes to the front, the current grid gets the keyboard.
+    void focusGrid() {
+        frame.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&frame));
+        view->pGetCurrSheetView()->setFocus();
     }
 
     bool isShown(int id) const {

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/key_routing.h"
+
+#include "headline_list/list_index.h"
+
+namespace {
+
+constexpr int symbolMode = static_cast<int>(ListIndex::Symbol);
+constexpr int searchMode = static_cast<int>(ListIndex::Search);
+
+KeyRoute otherKey(const KeySituation& situation) {
+    // A control that has the keyboard keeps its keys: an edit in which nothing can be typed is none.
+    const bool viewTakesKeys = situation.newsType == 2 || situation.newsType == 3;
+    if (!viewTakesKeys || situation.focus == KeyboardFocus::Control)
+        return {};
+    return {.consumed = true, .toView = true};
+}
+
+}  // namespace
+
+KeyRoute RouteKey(int key, Qt::KeyboardModifiers modifiers, const KeySituation& situation) {
+    if (modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return {};
+    const bool gridHasFocus = situation.focus == KeyboardFocus::Grid;
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            // There the combos and the search edit take it.
+            if (situation.mode == symbolMode || situation.mode == searchMode || !gridHasFocus)
+                return {};
+            return {.consumed = true, .toGrid = true};
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+            return {.consumed = true,
+                    .atRelease = true,
+                    .toGrid = gridHasFocus,
+                    .showStory = situation.paneShowsStories};
+        case Qt::Key_End:
+        case Qt::Key_Home:
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+            return {.consumed = true, .toGrid = gridHasFocus, .showStory = situation.paneShowsStories};
+        default:
+            return otherKey(situation);
+    }
+}
+
+bool KeysAtRelease::bPress(int key, bool repeats) {
+    // A press that is none of these may have been released in another window.
+    return !pressed.insert(key).second && repeats;
+}
+
+bool KeysAtRelease::bRelease(int key) {
+    return pressed.erase(key) > 0;
+}

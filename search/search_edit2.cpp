@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "search/search_edit2.h"
+
+#include "headline_list/language_keys.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+using namespace Qt::StringLiterals;
+
+SearchEdit2::SearchEdit2(QWidget* parent) : SEdit(parent) {}
+
+void SearchEdit2::keyPressEvent(QKeyEvent* event) {
+    const bool pastes = event->key() == Qt::Key_Insert && event->modifiers().testFlag(Qt::ShiftModifier);
+    if (pastes)
+        vRefuse(keys::invalidPaste);
+    else if (event->text() == u" "_s)
+        vRefuse(keys::invalidValue);
+    else
+        SEdit::keyPressEvent(event);
+}
+
+// What has been composed comes without keys: its blanks go, the rest is taken.
+void SearchEdit2::inputMethodEvent(QInputMethodEvent* event) {
+    QString composed = event->commitString();
+    if (!composed.contains(u' ')) {
+        SEdit::inputMethodEvent(event);
+        return;
+    }
+    QInputMethodEvent taken(event->preeditString(), event->attributes());
+    taken.setCommitString(composed.remove(u' '), event->replacementStart(), event->replacementLength());
+    SEdit::inputMethodEvent(&taken);
+    vRefuse(keys::invalidValue);
+}
+
+void SearchEdit2::vRefuse(QLatin1StringView key) {
+    if (owner != nullptr)
+        owner->vShowTip({mapToGlobal(QPoint(0, 0)), size()},
+                        LangText(*BKQuoteInterface::GetBKInterface(), key));
+}
