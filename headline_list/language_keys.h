@@ -81,6 +81,14 @@ inline constexpr QLatin1StringView reinput{"IDS_NEWSCTRLVIEW_STRING_REINPUT"};
 inline constexpr QLatin1StringView invalidValue{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE"};
 inline constexpr QLatin1StringView invalidPaste{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_PASTE"};
 
+// What controls without a text are called.
+inline constexpr QLatin1StringView nameOfModes{"IDS_NEWSCTRLVIEW_NAME_MODES"};
+inline constexpr QLatin1StringView nameOfDate{"IDS_NEWSCTRLVIEW_NAME_DATE"};
+inline constexpr QLatin1StringView nameOfMarket{"IDS_NEWSCTRLVIEW_NAME_MARKET"};
+inline constexpr QLatin1StringView nameOfSymbol{"IDS_NEWSCTRLVIEW_NAME_SYMBOL"};
+inline constexpr QLatin1StringView nameOfSearchText{"IDS_NEWSCTRLVIEW_NAME_SEARCH_TEXT"};
+inline constexpr QLatin1StringView nameOfStory{"IDS_NEWSCTRLVIEW_NAME_STORY"};
+
 // The context menu.
 inline constexpr QLatin1StringView showCategory{"IDS_NEWSCTRLVIEW_STRING_SHOW_CATEGORY"};
 inline constexpr QLatin1StringView recoverHeadlineList{"IDS_NEWSCTRLVIEW_STRING_RECOVER_HEADLINELIST"};

@@ -37,6 +37,13 @@ constexpr std::array buttonTexts{
     ButtonText{ids::saveAsButton, keys::storySaveAs},
 };
 
+// Controls without a text of their own, as they are called.
+constexpr std::array controlNames{
+    ButtonText{ids::tabStrip, keys::nameOfModes},     ButtonText{ids::datePicker, keys::nameOfDate},
+    ButtonText{ids::categoryCombo, keys::category},   ButtonText{ids::serviceCombo, keys::nameOfMarket},
+    ButtonText{ids::symbolCombo, keys::nameOfSymbol}, ButtonText{ids::searchEdit, keys::nameOfSearchText},
+};
+
 struct Placement {
     int id;
     QRect ViewLayout::*place;
@@ -176,6 +183,10 @@ void ControlSet::vLoadLanguageString() {
     for (const ButtonText& text : buttonTexts) {
         if (auto* button = Find<SButton>(text.id))
             button->setText(LangText(backEnd, text.key));
+    }
+    for (const ButtonText& name : controlNames) {
+        if (QWidget* control = controls.value(name.id))
+            control->setAccessibleName(LangText(backEnd, name.key));
     }
     auto* strip = Find<CXTPTabControl>(ids::tabStrip);
     for (int i = 0; strip != nullptr && i < strip->count(); ++i) {

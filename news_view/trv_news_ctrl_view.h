@@ -339,6 +339,15 @@ private:
     void OnHScroll(Qt::Key key);
     void OnVScroll();
     void vPageStories(int step);
+    void vCreateShortcuts();
+    void vLoadToolTips();
+    void vSetTabOrder();
+    void vStepMode(int step);
+    bool bGoToMode(ListIndex mode);
+    void vGoToSearchEdit();
+    void vOpenSearchOfMode();
+    void vOpenCalendar();
+    void vChangePane();
     void vContextMenuByKey();
     void vPopUpMenu(const QPoint& screen, bool onRow);
     QAction* vAddCommand(QLatin1StringView key, int id);

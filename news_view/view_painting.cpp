@@ -150,6 +150,7 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     if (event->type() != QEvent::LanguageChange || !initialised)
         return;
     controls.vLoadLanguageString();
+    vLoadToolTips();
     stage.pGetDialog()->vLoadLanguageString();
     for (int list = 0; list < listCount; ++list) {
         if (CSuperSheetWnd* sheet = Sheet(list)) {

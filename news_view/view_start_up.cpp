@@ -76,6 +76,9 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     storyShowType =
         stage.pGetPane() != nullptr ? static_cast<StoryShowType>(settings.newsShowType) : StoryShowType::None;
     controls.vLoadLanguageString();
+    vLoadToolTips();
+    vSetTabOrder();
+    vCreateShortcuts();
     vChangeCast();
     vSetComponentPos();
     vOpenFocusedTab();

@@ -8,6 +8,8 @@
 #include "host/controls/window_id.h"
 #include "story/story_ids.h"
 
+#include <QEvent>
+
 namespace {
 
 constexpr int sideMargin = 10;
@@ -34,6 +36,7 @@ void NewsStoryView::InitialViewInfo(TRVCfgIO2* settings, const QString& section,
     notice = new CQuoteStaticEx(this);
     SetWindowId(notice, story_ids::updateNotice);
     notice->hide();
+    vLoadLanguageString();
     titleEdit->show();
     storyEdit->show();
     vChangeCast();
@@ -156,6 +159,18 @@ void NewsStoryView::vChangeCast() {
     vSetTextColor();
     vSetComponentPos();
     update();
+}
+
+void NewsStoryView::vLoadLanguageString() {
+    BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
+    titleEdit->setAccessibleName(LangText(backEnd, keys::title));
+    storyEdit->setAccessibleName(LangText(backEnd, keys::nameOfStory));
+}
+
+void NewsStoryView::changeEvent(QEvent* event) {
+    TRVQuoteBaseView::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange && titleEdit != nullptr)
+        vLoadLanguageString();
 }
 
 void NewsStoryView::OnDraw(QPainter&) {}

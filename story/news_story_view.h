@@ -67,11 +67,13 @@ public:
 protected:
     void OnDraw(QPainter& painter) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void vDraw(const StoryTexts& texts);
     void vSetNotice(const QString& text);
     void vApplyFont();
+    void vLoadLanguageString();
 
     StoryReader reader;
     MyRichEdit* titleEdit = nullptr;

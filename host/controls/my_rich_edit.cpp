@@ -4,12 +4,15 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTextCursor>
 #include <QTextDocumentFragment>
 
 MyRichEdit::MyRichEdit(QWidget* parent) : QPlainTextEdit(parent) {
     setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -61,6 +64,31 @@ void MyRichEdit::changeEvent(QEvent* event) {
     QPlainTextEdit::changeEvent(event);
     if (event->type() == QEvent::ApplicationPaletteChange)
         applyColours();
+}
+
+void MyRichEdit::keyPressEvent(QKeyEvent* event) {
+    struct Scroll {
+        int key;
+        QAbstractSlider::SliderAction action;
+    };
+    static constexpr Scroll scrolls[] = {
+        {Qt::Key_Home, QAbstractSlider::SliderToMinimum},
+        {Qt::Key_End, QAbstractSlider::SliderToMaximum},
+        {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
+        {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd},
+        {Qt::Key_Up, QAbstractSlider::SliderSingleStepSub},
+        {Qt::Key_Down, QAbstractSlider::SliderSingleStepAdd},
+    };
+    const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeypadModifier;
+    if (held == Qt::NoModifier || held == Qt::ControlModifier) {
+        for (const Scroll& scroll : scrolls) {
+            if (scroll.key == event->key()) {
+                verticalScrollBar()->triggerAction(scroll.action);
+                return;
+            }
+        }
+    }
+    QPlainTextEdit::keyPressEvent(event);
 }
 
 QMimeData* MyRichEdit::createMimeDataFromSelection() const {

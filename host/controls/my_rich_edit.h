@@ -6,7 +6,8 @@
 
 // A read-only text of several lines. Text is never taken as markup, and is copied as plain text. Colours that
 // were not set (invalid) follow the palette. What is selected stays visible while another window has the
-// keyboard. Lines are laid out when they come into view, so that a long text shows as fast as a short one.
+// keyboard. Home, End, Page, arrows and Space scroll, with Ctrl too. Lines are laid out when they come into
+// view, so that a long text shows as fast as a short one.
 class MyRichEdit : public QPlainTextEdit {
     Q_OBJECT
 
@@ -27,6 +28,7 @@ public:
     void vSetBkColor(const QColor& colour);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
     QMimeData* createMimeDataFromSelection() const override;
 

@@ -4,6 +4,7 @@
 
 #include "host/controls/plain_caption.h"
 
+#include <QKeyEvent>
 #include <QStyleOptionButton>
 
 SButton::SButton(QWidget* parent) : QPushButton(parent) {
@@ -17,6 +18,13 @@ void SButton::vSetText(const QString& text) {
 
 QString SButton::szGetText() const {
     return NameOfCaption(text());
+}
+
+void SButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
 }
 
 void SButton::initStyleOption(QStyleOptionButton* option) const {

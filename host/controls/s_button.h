@@ -4,7 +4,8 @@
 
 #include <QPushButton>
 
-// A push button that cuts a text too long for it with dots instead of at both ends.
+// A push button that Enter presses as Space does, and that cuts a text too long for it with dots instead of
+// at both ends.
 class SButton : public QPushButton {
     Q_OBJECT
 
@@ -17,5 +18,6 @@ public:
     QString szGetText() const;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void initStyleOption(QStyleOptionButton* option) const override;
 };

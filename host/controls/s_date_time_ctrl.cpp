@@ -27,14 +27,14 @@ void SDateTimeCtrl::vSetDate(const QDate& date) {
 void SDateTimeCtrl::keyPressEvent(QKeyEvent* event) {
     const bool altDown = event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier);
     if (altDown || event->key() == Qt::Key_F4) {
-        openCalendar();
+        vDropDown();
         event->accept();
         return;
     }
     QDateEdit::keyPressEvent(event);
 }
 
-void SDateTimeCtrl::openCalendar() {
+void SDateTimeCtrl::vDropDown() {
     // The base opens its calendar for nothing but a press on the arrow.
     QStyleOptionComboBox box;
     box.initFrom(this);

@@ -16,6 +16,8 @@ public:
     // Sets the date and tells nobody. An invalid date is ignored.
     void vSetDate(const QDate& date);
     bool bIsDropped() const { return dropped; }
+    // Opens the calendar, as the user does.
+    void vDropDown();
 
 signals:
     // The calendar opens.
@@ -30,8 +32,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void openCalendar();
-
     QDate dateAtOpening;
     bool dropped = false;
 };

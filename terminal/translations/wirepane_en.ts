@@ -179,6 +179,30 @@
         <source></source>
         <translation>Terms</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_DATE">
+        <source></source>
+        <translation>Date</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_MARKET">
+        <source></source>
+        <translation>Market</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_MODES">
+        <source></source>
+        <translation>News lists</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_SEARCH_TEXT">
+        <source></source>
+        <translation>Search text</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_STORY">
+        <source></source>
+        <translation>Story</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_SYMBOL">
+        <source></source>
+        <translation>Symbol</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NEWS_NO">
         <source></source>
         <translation>News No.</translation>
@@ -213,7 +237,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_DETAILED_STORY">
         <source></source>
-        <translation>Open Story</translation>
+        <translation>&amp;Open Story</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_FILE_FILTER">
         <source></source>
@@ -297,7 +321,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_NEWS">
         <source></source>
-        <translation>Print…</translation>
+        <translation>&amp;Print…</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PS">
         <source></source>
@@ -309,11 +333,11 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER_HEADLINELIST">
         <source></source>
-        <translation>Reload Headlines</translation>
+        <translation>Reload &amp;Headlines</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER_STORY">
         <source></source>
-        <translation>Reload Story</translation>
+        <translation>&amp;Reload Story</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_REINPUT">
         <source></source>
@@ -333,7 +357,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SAVE_AS_NEWS">
         <source></source>
-        <translation>Save As…</translation>
+        <translation>&amp;Save As…</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SAVE_FAILED">
         <source></source>
@@ -349,7 +373,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SHOW_CATEGORY">
         <source></source>
-        <translation>Category Column</translation>
+        <translation>&amp;Category Column</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS">
         <source></source>

@@ -179,6 +179,30 @@
         <source></source>
         <translation>警示詞</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_DATE">
+        <source></source>
+        <translation>日期</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_MARKET">
+        <source></source>
+        <translation>市場</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_MODES">
+        <source></source>
+        <translation>新聞類別頁</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_SEARCH_TEXT">
+        <source></source>
+        <translation>搜尋文字</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_STORY">
+        <source></source>
+        <translation>新聞內容</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_SYMBOL">
+        <source></source>
+        <translation>商品</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NEWS_NO">
         <source></source>
         <translation>新聞編號</translation>
@@ -213,7 +237,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_DETAILED_STORY">
         <source></source>
-        <translation>詳細內容</translation>
+        <translation>詳細內容(&amp;O)</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_FILE_FILTER">
         <source></source>
@@ -297,7 +321,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_NEWS">
         <source></source>
-        <translation>列印…</translation>
+        <translation>列印(&amp;P)…</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PS">
         <source></source>
@@ -309,11 +333,11 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER_HEADLINELIST">
         <source></source>
-        <translation>回補新聞標題</translation>
+        <translation>回補新聞標題(&amp;H)</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER_STORY">
         <source></source>
-        <translation>回補新聞內容</translation>
+        <translation>回補新聞內容(&amp;R)</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_REINPUT">
         <source></source>
@@ -333,7 +357,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SAVE_AS_NEWS">
         <source></source>
-        <translation>另存新檔…</translation>
+        <translation>另存新檔(&amp;S)…</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SAVE_FAILED">
         <source></source>
@@ -349,7 +373,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SHOW_CATEGORY">
         <source></source>
-        <translation>顯示分類欄</translation>
+        <translation>顯示分類欄(&amp;C)</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS">
         <source></source>

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// The shortcuts of the news view, the hints that tell of them, and the way of the Tab key.
+#include "host/controls/my_rich_edit.h"
+#include "host/controls/s_date_time_ctrl.h"
+#include "host/controls/super_sheet_wnd.h"
+#include "host/controls/window_id.h"
+#include "host/controls/xtp_tab_control.h"
+#include "news_view/control_ids.h"
+#include "news_view/trv_news_ctrl_view.h"
+#include "search/search_edit2.h"
+#include "story/news_story_view.h"
+#include "story/story_ids.h"
+
+#include <QAbstractButton>
+#include <QShortcut>
+
+#include <array>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Commands by their shortcut; controls of the same number tell of it.
+struct CommandKey {
+    QLatin1StringView key;
+    int id;
+};
+
+constexpr std::array commandKeys{
+    CommandKey{"F5"_L1, ids::recoverHeadlineTable},   CommandKey{"Shift+F5"_L1, ids::recoverStory},
+    CommandKey{"Ctrl+F5"_L1, ids::recoverHeadline},   CommandKey{"F7"_L1, ids::serviceButton},
+    CommandKey{"F9"_L1, ids::showTypeButton},         CommandKey{"Ctrl+E"_L1, ids::changeCategoryState},
+    CommandKey{"Alt+PgDown"_L1, ids::pageDownButton}, CommandKey{"Alt+PgUp"_L1, ids::pageUpButton},
+    CommandKey{"Ctrl+P"_L1, ids::printButton},        CommandKey{"Ctrl+S"_L1, ids::saveAsButton},
+};
+
+// What is told of the shortcuts that are no commands.
+constexpr std::array otherHints{
+    CommandKey{"F3"_L1, ids::searchEdit},
+    CommandKey{"Shift+F3"_L1, ids::dealsSearchButton},
+    CommandKey{"Shift+F3"_L1, ids::relationSearchButton},
+    CommandKey{"Shift+F3"_L1, ids::warningSearchButton},
+    CommandKey{"F8"_L1, ids::datePicker},
+    CommandKey{"Ctrl+PgDown"_L1, ids::tabStrip},
+};
+
+constexpr std::array tabOrder{
+    ids::tabStrip,       ids::showTypeButton, ids::serviceButton,     ids::relationSearchButton,
+    ids::datePicker,     ids::categoryCombo,  ids::serviceCombo,      ids::symbolCombo,
+    ids::searchEdit,     ids::searchButton,   ids::dealsSearchButton, ids::warningSearchButton,
+    ids::pageDownButton, ids::pageUpButton,   ids::saveAsButton,      ids::printButton,
+};
+
+}  // namespace
+
+void TRVNewsCtrlView::vCreateShortcuts() {
+    const auto add = [this](QLatin1StringView key, const std::function<void()>& act) {
+        auto* shortcut = new QShortcut(QKeySequence(QString(key)), this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, act);
+    };
+    for (const CommandKey& command : commandKeys)
+        add(command.key, [this, id = command.id] { OnCommand(id); });
+    add("Ctrl+PgDown"_L1, [this] { vStepMode(1); });
+    add("Ctrl+PgUp"_L1, [this] { vStepMode(-1); });
+    add("F3"_L1, [this] { vGoToSearchEdit(); });
+    add("Ctrl+F"_L1, [this] { vGoToSearchEdit(); });
+    add("Shift+F3"_L1, [this] { vOpenSearchOfMode(); });
+    add("F8"_L1, [this] { vOpenCalendar(); });
+    add("F6"_L1, [this] { vChangePane(); });
+}
+
+void TRVNewsCtrlView::vLoadToolTips() {
+    const auto hint = [this](const CommandKey& command) {
+        QWidget* control = GetDlgItem(this, command.id);
+        if (control == nullptr)
+            return;
+        const auto* button = qobject_cast<const QAbstractButton*>(control);
+        const QString name = button != nullptr ? button->text() : control->accessibleName();
+        const QKeySequence key{QString(command.key)};
+        control->setToolTip(u"%1 (%2)"_s.arg(name, key.toString(QKeySequence::NativeText)).toHtmlEscaped());
+    };
+    for (const CommandKey& command : commandKeys)
+        hint(command);
+    for (const CommandKey& command : otherHints)
+        hint(command);
+}
+
+void TRVNewsCtrlView::vSetTabOrder() {
+    QWidget* last = nullptr;
+    const auto follow = [&last](QWidget* next) {
+        if (last != nullptr && next != nullptr)
+            setTabOrder(last, next);
+        if (next != nullptr)
+            last = next;
+    };
+    for (const int id : tabOrder)
+        follow(GetDlgItem(this, id));
+    for (int list = 0; list < listCount; ++list)
+        follow(Sheet(list));
+    if (const NewsStoryView* pane = stage.pGetPane()) {
+        for (const int id : {story_ids::title, story_ids::storyText})
+            follow(GetDlgItem(pane, id));
+    }
+}
+
+void TRVNewsCtrlView::vStepMode(int step) {
+    auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip);
+    if (strip == nullptr || strip->count() == 0)
+        return;
+    strip->SetCurSel((strip->GetCurSel() + step + strip->count()) % strip->count());
+    OnSelchangeTabMode();
+}
+
+bool TRVNewsCtrlView::bGoToMode(ListIndex mode) {
+    if (currentMode == static_cast<int>(mode))
+        return true;
+    auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip);
+    if (strip == nullptr || List(mode).pGetGrid() == nullptr)
+        return false;
+    strip->SetCurSel(iGetTabIndex(static_cast<int>(mode)));
+    OnSelchangeTabMode();
+    return true;
+}
+
+void TRVNewsCtrlView::vGoToSearchEdit() {
+    auto* edit = controls.Find<SearchEdit2>(ids::searchEdit);
+    if (edit == nullptr || !bGoToMode(ListIndex::Search))
+        return;
+    edit->setFocus(Qt::ShortcutFocusReason);
+    edit->selectAll();
+}
+
+void TRVNewsCtrlView::vOpenSearchOfMode() {
+    for (const int id : {ids::dealsSearchButton, ids::relationSearchButton, ids::warningSearchButton}) {
+        const QWidget* button = GetDlgItem(this, id);
+        if (button == nullptr || !button->isVisible())
+            continue;
+        OnCommand(id);
+        return;
+    }
+}
+
+void TRVNewsCtrlView::vOpenCalendar() {
+    auto* picker = controls.Find<SDateTimeCtrl>(ids::datePicker);
+    if (picker == nullptr || !bGoToMode(ListIndex::All))
+        return;
+    picker->setFocus(Qt::ShortcutFocusReason);
+    picker->vDropDown();
+}
+
+// Between the list and the story beside it.
+void TRVNewsCtrlView::vChangePane() {
+    CSuperSheetWnd* sheet = pGetCurrSheetView();
+    const NewsStoryView* pane = stage.pGetPane();
+    QWidget* story = pane != nullptr && pane->isVisible() ? GetDlgItem(pane, story_ids::storyText) : nullptr;
+    if (story != nullptr && sheet != nullptr && sheet->hasFocus())
+        story->setFocus(Qt::ShortcutFocusReason);
+    else if (sheet != nullptr)
+        sheet->setFocus(Qt::ShortcutFocusReason);
+}
