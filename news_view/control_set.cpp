@@ -14,6 +14,8 @@
 #include "news_view/mode_table.h"
 #include "search/search_edit2.h"
 
+#include <QLineEdit>
+
 #include <algorithm>
 #include <array>
 
@@ -185,8 +187,13 @@ void ControlSet::vLoadLanguageString() {
             button->setText(LangText(backEnd, text.key));
     }
     for (const ButtonText& name : controlNames) {
-        if (QWidget* control = controls.value(name.id))
-            control->setAccessibleName(LangText(backEnd, name.key));
+        QWidget* control = controls.value(name.id);
+        if (control == nullptr)
+            continue;
+        control->setAccessibleName(LangText(backEnd, name.key));
+        // Where one can type into a combo, the line in it has the keyboard.
+        if (auto* combo = qobject_cast<QComboBox*>(control); combo != nullptr && combo->isEditable())
+            combo->lineEdit()->setAccessibleName(control->accessibleName());
     }
     auto* strip = Find<CXTPTabControl>(ids::tabStrip);
     for (int i = 0; strip != nullptr && i < strip->count(); ++i) {

@@ -22,7 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Commands by their shortcut; controls of the same number tell of it.
+// Commands by their shortcut; controls of the same number tell of it. Printing and saving have theirs in the
+// menus of the host.
 struct CommandKey {
     QLatin1StringView key;
     int id;
@@ -33,7 +34,6 @@ constexpr std::array commandKeys{
     CommandKey{"Ctrl+F5"_L1, ids::recoverHeadline},   CommandKey{"F7"_L1, ids::serviceButton},
     CommandKey{"F9"_L1, ids::showTypeButton},         CommandKey{"Ctrl+E"_L1, ids::changeCategoryState},
     CommandKey{"Alt+PgDown"_L1, ids::pageDownButton}, CommandKey{"Alt+PgUp"_L1, ids::pageUpButton},
-    CommandKey{"Ctrl+P"_L1, ids::printButton},        CommandKey{"Ctrl+S"_L1, ids::saveAsButton},
 };
 
 // What is told of the shortcuts that are no commands.
