@@ -24,8 +24,8 @@
 #include "output/trv_news_print.h"
 #include "output/trv_save_to_file.h"
 #include "search/search_desk.h"
-#include "story/story_owner.h"
 #include "search/search_edit2.h"
+#include "story/story_owner.h"
 
 #include <QLatin1StringView>
 #include <QMenu>
