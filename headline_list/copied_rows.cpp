@@ -7,7 +7,6 @@
 #include <QHash>
 #include <QStringList>
 
-
 QString HeadlineList::TextOfRows(const std::vector<int>& rows) const {
     std::vector<CHeadlineTable> entries;
     for (const int row : rows) {
