@@ -11,6 +11,8 @@ SDateTimeCtrl::SDateTimeCtrl(QWidget* parent) : QDateEdit(parent) {
     setCalendarPopup(true);
     setDisplayFormat(QStringLiteral("yyyy/MM/dd"));
     calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    // Dates are typed into the line; what is being typed into a calendar that goes would leak.
+    calendarWidget()->setDateEditEnabled(false);
     calendarWidget()->installEventFilter(this);
     // The keys of the open calendar go to the table of days.
     for (QWidget* part : calendarWidget()->findChildren<QWidget*>())

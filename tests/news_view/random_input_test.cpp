@@ -21,11 +21,7 @@ protected:
     int below(int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
 
     QWidget* someWidget() {
-        QWidget* window = QApplication::activePopupWidget();
-        if (window == nullptr)
-            window = QApplication::activeModalWidget();
-        if (window == nullptr)
-            window = view.get();
+        QWidget* window = waiting() != nullptr ? waiting() : view.get();
         QList<QWidget*> shown{window};
         const auto children = window->findChildren<QWidget*>();
         for (QWidget* child : children) {
@@ -84,6 +80,22 @@ protected:
             menu->close();
     }
 
+    // The menu, drop-down or dialog that waits for the user.
+    static QWidget* waiting() {
+        QWidget* popup = QApplication::activePopupWidget();
+        return popup != nullptr ? popup : QApplication::activeModalWidget();
+    }
+
+    void workOnWaiting() {
+        QWidget* window = waiting();
+        if (window == nullptr)
+            return;
+        if (below(3) == 0)
+            window->close();
+        else
+            hitSomeKey();
+    }
+
     void doSomething() {
         switch (below(8)) {
             case 0:
@@ -113,16 +125,15 @@ TEST_F(RandomInputTest, NothingBreaks) {
     for (int i = 0; i < 50; ++i)
         addNews(backEnd.services[static_cast<std::size_t>(i % 6)], 8, i, i + 1, 1 + i % 2, u"2330"_s);
     open({{u"EnabledFunctions"_s, 0x7F}, {u"SymbolID"_s, u"2330"_s}});
-    // A dialog waits in a loop of its own: more input comes, and in the end it is closed.
-    QTimer inDialogs;
-    QObject::connect(&inDialogs, &QTimer::timeout, &frame, [this] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (dialog != nullptr && below(3) == 0)
-            dialog->close();
-        else if (dialog != nullptr)
-            hitSomeKey();
+    // A dialog or a menu may wait in a loop of its own: input goes on, and in the end it is closed. What is
+    // done there may open the next dialog, in whose loop this timer must fire again: it is done from a call
+    // of its own.
+    QTimer whileWaiting;
+    QObject::connect(&whileWaiting, &QTimer::timeout, &frame, [this] {
+        if (waiting() != nullptr)
+            QTimer::singleShot(0, &frame, [this] { workOnWaiting(); });
     });
-    inDialogs.start(1);
+    whileWaiting.start(1);
     focusGrid();
     for (int i = 0; i < inputs; ++i) {
         doSomething();
