@@ -1,16 +1,13 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // The desk worked by keyboard: views, links, the symbol box, settings.
-#include "host/contract/clock.h"
 #include "host/controls/window_id.h"
 #include "terminal/automation/user_input.h"
 #include "terminal/frame/settings_dialog.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/frame/view_desk.h"
 #include "terminal/frame/view_dock.h"
-#include "terminal/session/frame_commands.h"
-#include "terminal/session/session.h"
-#include "tests/terminal/program/program_runner.h"
+#include "tests/terminal/program/frame_fixture.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -32,26 +29,9 @@ using namespace wirepane::test;
 
 namespace {
 
-class DeskTest : public testing::Test {
+class DeskTest : public FrameFixture {
 protected:
-    DeskTest() {
-        host_clock::startAt(QDateTime::fromString(u"2026-03-02T12:00:00"_s, Qt::ISODate).toSecsSinceEpoch());
-        auto opened =
-            Session::open({scratch.path(u"news.wirepane"_s), scratch.path(u"config"_s), u"en"_s, true});
-        session = std::move(opened.value());
-        commands = std::make_unique<FrameCommands>(*session);
-        session->frame().resize(1400, 800);
-        session->frame().show();
-        session->frame().activateWindow();
-        EXPECT_TRUE(session->keeper().restore());
-        EXPECT_TRUE(QTest::qWaitFor([this] { return session->frame().isActiveWindow(); }));
-    }
-
-    void press(int key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
-        QWidget* target = QApplication::focusWidget();
-        QTest::keyClick(target != nullptr ? target : &session->frame(), static_cast<Qt::Key>(key), modifiers);
-        QCoreApplication::processEvents();
-    }
+    DeskTest() : FrameFixture(1400) {}
 
     int activeNumber() { return session->workspace().active()->number; }
     QString codeOf(int view) {
@@ -64,10 +44,6 @@ protected:
         session->backEnd().symbols().GetSymbolsByService(16, codes, names, 1);
         return {16, codes.at(place), names.at(place)};
     }
-
-    Scratch scratch;
-    std::unique_ptr<Session> session;
-    std::unique_ptr<FrameCommands> commands;
 };
 
 TEST_F(DeskTest, ViewsAreOpenedReachedAndClosedByKeys) {

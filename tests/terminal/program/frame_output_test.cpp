@@ -1,11 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What the desk's keys show of news beside the views: the window of breaking news, the print preview.
-#include "host/contract/clock.h"
 #include "host/controls/super_sheet_wnd.h"
-#include "terminal/session/frame_commands.h"
-#include "terminal/session/session.h"
-#include "tests/terminal/program/program_runner.h"
+#include "tests/terminal/program/frame_fixture.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -22,26 +19,9 @@ using namespace wirepane::test;
 
 namespace {
 
-class FrameOutputTest : public testing::Test {
+class FrameOutputTest : public FrameFixture {
 protected:
-    FrameOutputTest() {
-        host_clock::startAt(QDateTime::fromString(u"2026-03-02T12:00:00"_s, Qt::ISODate).toSecsSinceEpoch());
-        auto opened =
-            Session::open({scratch.path(u"news.wirepane"_s), scratch.path(u"config"_s), u"en"_s, true});
-        session = std::move(opened.value());
-        commands = std::make_unique<FrameCommands>(*session);
-        session->frame().resize(1200, 800);
-        session->frame().show();
-        session->frame().activateWindow();
-        EXPECT_TRUE(session->keeper().restore());
-        EXPECT_TRUE(QTest::qWaitFor([this] { return session->frame().isActiveWindow(); }));
-    }
-
-    void press(int key, Qt::KeyboardModifiers modifiers) {
-        QWidget* target = QApplication::focusWidget();
-        QTest::keyClick(target != nullptr ? target : &session->frame(), static_cast<Qt::Key>(key), modifiers);
-        QCoreApplication::processEvents();
-    }
+    FrameOutputTest() : FrameFixture(1200) {}
     // The window of breaking news: the one story window that is no view's.
     QDialog* storyWindow() const {
         return session->frame().findChild<QDialog*>(QString(), Qt::FindDirectChildrenOnly);
@@ -60,10 +40,6 @@ protected:
         item.story = u"All of "_s + title;
         EXPECT_TRUE(session->backEnd().takeIn(item));
     }
-
-    Scratch scratch;
-    std::unique_ptr<Session> session;
-    std::unique_ptr<FrameCommands> commands;
 };
 
 TEST_F(FrameOutputTest, TheLatestHeadlineStandsInAWindowOfItsOwn) {
