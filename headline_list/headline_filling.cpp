@@ -62,12 +62,12 @@ bool HeadlineList::bReCoverHeadline(const std::vector<int>& rows) {
     return !atHand.empty();
 }
 
-void HeadlineList::vUpdataTopHeadline(bool showDate, const std::vector<RelationCondition>* conditions) {
+void HeadlineList::vUpdataTopHeadline(bool showDate, const std::vector<CNewsKey>* keySets) {
     if (sheet == nullptr || table.empty())
         return;
     const int row = sheet->iGetFirstVisibleRow();
     for (const CHeadline& headline : headlinesOf(table.rows(row, 1))) {
-        if (conditions == nullptr || CheckIsRelationSearch(*conditions, headline, headline.categoryId, {}))
+        if (keySets == nullptr || CheckIsRelationSearch(*keySets, headline, headline.categoryId, {}))
             vUpdateHeadline(row, headline, showDate);
     }
 }

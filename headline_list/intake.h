@@ -3,7 +3,7 @@
 #pragma once
 
 #include "headline_list/list_index.h"
-#include "headline_list/relation_condition.h"
+#include "headline_list/relation_test.h"
 #include "headline_list/service_entry.h"
 #include "host/contract/records.h"
 
@@ -33,7 +33,7 @@ struct IntakeState {
     std::array<bool, listCount> shown{};     // the list has been shown: until then it takes no pushes
     std::optional<QString> categoryId;       // of the chosen category; none: nothing is chosen
     std::optional<QString> symbolCode;       // of the chosen symbol
-    std::span<const RelationCondition> conditions;
+    std::span<const CNewsKey> keySets;
 };
 
 // A list that takes the headline, and whether its row shows the date beside the time.

@@ -155,8 +155,7 @@ bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
             return true;
         }
         case ListIndex::Relation:
-            hasRows =
-                lists.bRebuild(*index, TableKind::ByDate, DateKey(host_clock::today()), &relationConditions);
+            hasRows = lists.bRebuild(*index, TableKind::ByDate, DateKey(host_clock::today()), &tickedKeySets);
             break;
         case ListIndex::Warrant:
             services.vSelect(static_cast<std::size_t>(services.iGetWarrantIndex()), true);

@@ -279,9 +279,9 @@ private:
     void vCheckServiceMenu();
     void vFillCategoryCombo();
     void vReloadForServices();
-    // While the relation-search list is current, every reloaded table is filtered by its conditions: hosts
+    // While the relation-search list is current, every reloaded table is filtered by its key sets: hosts
     // rely on it.
-    const std::vector<RelationCondition>* vRelationFilter() const;
+    const std::vector<CNewsKey>* vRelationFilter() const;
     void vChangeNewsTable(ListIndex list, TableKind kind, const QString& key);
     bool bPaneShowsStories() const;
     void vForgetShownStory();
@@ -376,7 +376,7 @@ private:
     CategoryCatalogue categories;
     CategoryCatalogue warrantCategories;
     std::vector<QString> categoryComboIds;
-    std::vector<RelationCondition> relationConditions;
+    std::vector<CNewsKey> tickedKeySets;
     ModeLoading loading;
     ApplicationSwitches switches;
     ViewSettings settings;

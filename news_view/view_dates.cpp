@@ -111,7 +111,7 @@ bool TRVNewsCtrlView::bChangeDateByNewHeadLine() {
     lists.bRebuildCurrent(ListIndex::All, services.Saved());
     if (List(ListIndex::Relation).pGetGrid() == nullptr)
         return false;
-    lists.bRebuildCurrent(ListIndex::Relation, services.Saved(), &relationConditions);
+    lists.bRebuildCurrent(ListIndex::Relation, services.Saved(), &tickedKeySets);
     return true;
 }
 

@@ -71,7 +71,7 @@ void TRVNewsCtrlView::vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo* in
             return lists.bRebuildWarrant(info->key);
         if (list == ListIndex::All)
             return lists.bRebuild(list, TableKind::ByDate, info->key);
-        return lists.bRebuild(list, TableKind::ByDate, DateKey(host_clock::today()), &relationConditions);
+        return lists.bRebuild(list, TableKind::ByDate, DateKey(host_clock::today()), &tickedKeySets);
     };
     const bool taken = bTakeTableAgain(*info, list, rebuild, {keys::invalidDate, {}});
     if (taken && switches.showWarningSearch)

@@ -60,5 +60,5 @@ void TRVNewsCtrlView::vChangeNewsTable(ListIndex list, TableKind kind, const QSt
 }
 
 RelationFilter TRVNewsCtrlView::vRelationFilter() const {
-    return currentMode == static_cast<int>(ListIndex::Relation) ? &relationConditions : nullptr;
+    return currentMode == static_cast<int>(ListIndex::Relation) ? &tickedKeySets : nullptr;
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/cell_texts.h"
 
-#include "headline_list/relation_condition.h"
+#include "headline_list/relation_test.h"
 #include "tests/support/fake_back_end.h"
 
 #include <gtest/gtest.h>
@@ -46,11 +46,11 @@ TEST(CellTexts, SimplifiedTextHasTheMarketsTermReplaced) {
     EXPECT_EQ(ShownText(backEnd, 1, title), QStringLiteral("新闻资讯與资讯"));
 }
 
-TEST(RelationCondition, MatchesAsStated) {
-    constexpr std::int32_t every = RelationCondition::everyCategory;
+TEST(CNewsKey, MatchesAsStated) {
+    constexpr std::int32_t every = CNewsKey::everyNewsType;
     struct Case {
         const char* what;
-        std::vector<RelationCondition> conditions;
+        std::vector<CNewsKey> conditions;
         const char* title;
         std::int32_t category;
         const char* symbol;

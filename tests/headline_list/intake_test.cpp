@@ -14,7 +14,7 @@ namespace {
 // Every list is there, has been shown and wants what the cases push, unless a case says otherwise.
 struct OpenState : IntakeState {
     std::vector<ServiceEntry> ticked{{1, true}, {2, false}, {warrantService, false}, {2, true}};
-    std::vector<RelationCondition> wanted{{1, {7}, {}}};
+    std::vector<CNewsKey> wanted{{1, {7}, {}}};
 };
 
 OpenState openState() {
@@ -115,7 +115,7 @@ TEST(Intake, AHeadlineGoesToEveryListThatWantsIt) {
         OpenState state = openState();
         c.change(state);
         state.services = state.ticked;
-        state.conditions = state.wanted;
+        state.keySets = state.wanted;
         CHeadline headline;
         headline.service = c.service;
         headline.title = u"Rates rise"_s;
