@@ -6,6 +6,7 @@
 #include "host/contract/clock.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "story/news_story_view.h"
+#include "story/trv_news_story.h"
 
 #include <algorithm>
 
@@ -42,12 +43,16 @@ void TRVNewsCtrlView::OnReCoverHeadlineTable() {
 
 void TRVNewsCtrlView::OnReCoverStory() {
     const CSuperSheetWnd* sheet = pGetCurrSheetView();
-    if (!stage.bCanShow() || sheet == nullptr)
+    if (sheet == nullptr)
         return;
-    int position = sheet->cptGetFocusNdx().y();
-    if (bPaneShowsStories() && stage.pGetPane() != nullptr) {
-        stage.pGetPane()->SetHeadLinePos(position);
-        position = stage.pGetPane()->GetHeadLinePos();
+    const int row = sheet->cptGetFocusNdx().y();
+    int position = -1;
+    if (NewsStoryView* pane = stage.pGetPane(); bPaneShowsStories() && pane != nullptr) {
+        pane->SetHeadLinePos(row);
+        position = pane->GetHeadLinePos();
+    } else if (TRVNewsStory* dialog = stage.pGetDialog(); !bPaneShowsStories() && dialog != nullptr) {
+        dialog->SetHeadLinePos(row);
+        position = dialog->GetHeadLinePos();
     }
     CHeadlineTable entry;
     if (bGetHeadlineTable(entry, currentMode, position))

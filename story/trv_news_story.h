@@ -33,6 +33,8 @@ public:
 
     // Points at a row of a list of the owner and shows it; found by a search: under this condition.
     void vSetStoryData(int table, int position, const CSearch& condition = {});
+    // The row whose story the answers that come are for; negative: 0. What is shown stays.
+    void SetHeadLinePos(int position) { reader.SetHeadLinePos(position); }
     int GetHeadLinePos() const { return reader.GetHeadLinePos(); }
     int iGetTable() const { return reader.iGetTable(); }
     // Shows the headline and story at the position, or a placeholder while they are not at hand. An empty

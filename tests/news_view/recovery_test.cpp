@@ -3,6 +3,7 @@
 // What the user has sent again, and the back end's answers.
 #include "host/controls/sc_combo_box.h"
 #include "news_view/control_ids.h"
+#include "story/trv_news_story.h"
 #include "tests/news_view/view_fixture.h"
 
 #include <QTest>
@@ -96,6 +97,19 @@ TEST_F(Recovery, TheFocusedRowsStoryIsAskedForAgain) {
     EXPECT_EQ(requests(ids::recoverStory), QStringList{u"again story 1 1"_s});
     view->SwitchFunction(3);
     EXPECT_EQ(requests(ids::recoverStory), QStringList()) << "an empty list";
+}
+
+TEST_F(Recovery, TheStoryDialogIsPointedAtTheRowWhoseStoryIsAskedForAgain) {
+    addNews(1, 9, 0, 1);
+    addNews(1, 9, 1, 2);
+    openActive();
+    view->SetStoryShowType(0);
+    const auto* dialog = view->findChild<TRVNewsStory*>();
+    ASSERT_NE(dialog, nullptr);
+    view->Sheet(0)->vSetActiveSelection(1, -1);
+    EXPECT_EQ(requests(ids::recoverStory), QStringList{u"again story 1 1"_s});
+    EXPECT_EQ(dialog->GetHeadLinePos(), 1);
+    EXPECT_FALSE(dialog->isVisible());
 }
 
 TEST_F(Recovery, AnAnswerThatNoLongerFitsIsDropped) {
