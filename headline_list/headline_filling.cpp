@@ -62,12 +62,12 @@ bool HeadlineList::bReCoverHeadline(const std::vector<int>& rows) {
     return !atHand.empty();
 }
 
-void HeadlineList::vUpdataTopHeadline(bool showDate, const std::vector<CNewsKey>* keySets) {
+void HeadlineList::vUpdataTopHeadline(bool showDate, const RelationMatcher* relation) {
     if (sheet == nullptr || table.empty())
         return;
     const int row = sheet->iGetFirstVisibleRow();
     for (const CHeadline& headline : headlinesOf(table.rows(row, 1))) {
-        if (keySets == nullptr || CheckIsRelationSearch(*keySets, headline, headline.categoryId, {}))
+        if (relation == nullptr || relation->CheckIsRelationSearch(headline, headline.categoryId, {}))
             vUpdateHeadline(row, headline, showDate);
     }
 }

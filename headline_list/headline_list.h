@@ -6,7 +6,7 @@
 #include "headline_list/headline_table.h"
 #include "headline_list/list_index.h"
 #include "headline_list/list_owner.h"
-#include "headline_list/relation_test.h"
+#include "headline_list/relation_matcher.h"
 #include "headline_list/sort_order.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/controls/super_sheet_wnd.h"
@@ -64,9 +64,9 @@ public:
     // that do not exist are passed over. True when some headlines were at hand at once; the next refresh
     // writes them.
     bool bReCoverHeadline(const std::vector<int>& rows);
-    // Writes the first visible row from its headline, when the back end has it at hand. With `keySets`
-    // only when one of them wants it.
-    void vUpdataTopHeadline(bool showDate, const std::vector<CNewsKey>* keySets = nullptr);
+    // Writes the first visible row from its headline, when the back end has it at hand. With `relation`
+    // only when one of its key sets wants it.
+    void vUpdataTopHeadline(bool showDate, const RelationMatcher* relation = nullptr);
 
     // Puts a pushed headline in. A new one goes above the first row from the top that is earlier. One that is
     // listed already with its service and number on its day moves to the top, and the first row with that

@@ -37,8 +37,8 @@ std::vector<IntakeTarget> ListsFor(const PushedHeadline& pushed, const IntakeSta
     if (takes(ListIndex::Symbol) && state.symbolCode == pushed.symbolCode)
         targets.push_back({ListIndex::Symbol, true});
     // A pushed row says its day here, though the rows that the list was built with do not.
-    if (takes(ListIndex::Relation) &&
-        CheckIsRelationSearch(state.keySets, pushed.headline, pushed.categoryId.toInt(), pushed.symbolCode))
+    if (takes(ListIndex::Relation) && state.relation != nullptr &&
+        state.relation->CheckIsRelationSearch(pushed.headline, pushed.categoryId.toInt(), pushed.symbolCode))
         targets.push_back({ListIndex::Relation, true});
     return targets;
 }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "headline_list/list_index.h"
-#include "headline_list/relation_test.h"
+#include "headline_list/relation_matcher.h"
 #include "headline_list/service_entry.h"
 #include "host/contract/records.h"
 
@@ -28,12 +28,12 @@ struct IntakeState {
     bool hasDatePicker = false;
     QDate pickedDate;
     QDate newsDay;
-    std::span<const ServiceEntry> services;  // the saved copy: the user's own choice
-    std::array<bool, listCount> exists{};    // the list has a grid
-    std::array<bool, listCount> shown{};     // the list has been shown: until then it takes no pushes
-    std::optional<QString> categoryId;       // of the chosen category; none: nothing is chosen
-    std::optional<QString> symbolCode;       // of the chosen symbol
-    std::span<const CNewsKey> keySets;
+    std::span<const ServiceEntry> services;     // the saved copy: the user's own choice
+    std::array<bool, listCount> exists{};       // the list has a grid
+    std::array<bool, listCount> shown{};        // the list has been shown: until then it takes no pushes
+    std::optional<QString> categoryId;          // of the chosen category; none: nothing is chosen
+    std::optional<QString> symbolCode;          // of the chosen symbol
+    const RelationMatcher* relation = nullptr;  // the ticked key sets; null: there are none
 };
 
 // A list that takes the headline, and whether its row shows the date beside the time.

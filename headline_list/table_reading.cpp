@@ -7,7 +7,7 @@ namespace {
 // Headlines come in the order of their entries; those that are not at hand are left out.
 std::vector<CHeadlineTable> related(const std::vector<CHeadlineTable>& entries,
                                     const std::vector<CHeadline>& headlines,
-                                    const std::vector<CNewsKey>& keySets) {
+                                    const RelationMatcher& relation) {
     std::vector<CHeadlineTable> kept;
     auto headline = headlines.begin();
     for (const CHeadlineTable& entry : entries) {
@@ -15,7 +15,7 @@ std::vector<CHeadlineTable> related(const std::vector<CHeadlineTable>& entries,
             break;
         if (KeyOf(entry) != KeyOf(*headline))
             continue;
-        if (CheckIsRelationSearch(keySets, *headline, headline->categoryId, {}))
+        if (relation.CheckIsRelationSearch(*headline, headline->categoryId, {}))
             kept.push_back(entry);
         ++headline;
     }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/relation_test.h"
+#include "headline_list/relation_matcher.h"
 #include "headline_list/service_entry.h"
 #include "headline_list/sort_order.h"
 #include "host/contract/bk_quote_interface.h"
@@ -14,8 +14,8 @@
 // How the tables of lists are read from the back end: one run per selected service, in the order of the
 // services.
 
-// The headlines that pass one of these key sets stay; null: all stay.
-using RelationFilter = const std::vector<CNewsKey>*;
+// The headlines that one of these key sets wants stay; null: all stay.
+using RelationFilter = const RelationMatcher*;
 
 // By a kind of table and its key: yyyymmdd, or a category id text.
 TableRuns ReadTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,

@@ -281,7 +281,7 @@ private:
     void vReloadForServices();
     // While the relation-search list is current, every reloaded table is filtered by its key sets: hosts
     // rely on it.
-    const std::vector<CNewsKey>* vRelationFilter() const;
+    RelationFilter vRelationFilter() const;
     void vChangeNewsTable(ListIndex list, TableKind kind, const QString& key);
     bool bPaneShowsStories() const;
     void vForgetShownStory();
@@ -376,7 +376,7 @@ private:
     CategoryCatalogue categories;
     CategoryCatalogue warrantCategories;
     std::vector<QString> categoryComboIds;
-    std::vector<CNewsKey> tickedKeySets;
+    RelationMatcher tickedKeySets;  // built anew whenever they change
     ModeLoading loading;
     ApplicationSwitches switches;
     ViewSettings settings;

@@ -17,7 +17,7 @@ IntakeState TRVNewsCtrlView::vIntakeState() const {
     state.pickedDate = dates.Picked();
     state.newsDay = dates.NewsDay();
     state.services = services.Saved();
-    state.keySets = tickedKeySets;
+    state.relation = &tickedKeySets;
     for (const ListKind& kind : listKinds) {
         const auto index = static_cast<std::size_t>(kind.index);
         state.exists[index] = lists[kind.index].pGetGrid() != nullptr;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/cell_texts.h"
 
-#include "headline_list/relation_test.h"
 #include "tests/support/fake_back_end.h"
 
 #include <gtest/gtest.h>
@@ -44,58 +43,4 @@ TEST(CellTexts, SimplifiedTextHasTheMarketsTermReplaced) {
     EXPECT_EQ(ShownText(backEnd, 1, title), QStringLiteral("新闻信息與信息"));
     backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS")] = QStringLiteral("");
     EXPECT_EQ(ShownText(backEnd, 1, title), QStringLiteral("新闻资讯與资讯"));
-}
-
-TEST(CNewsKey, MatchesAsStated) {
-    constexpr std::int32_t every = CNewsKey::everyNewsType;
-    struct Case {
-        const char* what;
-        std::vector<CNewsKey> conditions;
-        const char* title;
-        std::int32_t category;
-        const char* symbol;
-        bool wanted;
-    };
-    const Case cases[] = {
-        {"no condition", {}, "RATES", 1, "", false},
-        {"no words, all must hit", {{1, {every}, {}}}, "anything", 1, "", true},
-        {"no words, one must hit", {{0, {every}, {}}}, "anything", 1, "", false},
-        {"upper-case word in a lower-case title",
-         {{1, {every}, {QStringLiteral("RATE")}}},
-         "rates rise",
-         1,
-         "",
-         true},
-        {"lower-case word never hits a title",
-         {{1, {every}, {QStringLiteral("rate")}}},
-         "rate",
-         1,
-         "",
-         false},
-        {"lower-case word hits the symbol", {{1, {every}, {QStringLiteral("abc")}}}, "none", 1, "ABC", true},
-        {"part of the symbol is no hit", {{1, {every}, {QStringLiteral("AB")}}}, "none", 1, "ABC", false},
-        {"all words must hit",
-         {{1, {every}, {QStringLiteral("RATE"), QStringLiteral("OIL")}}},
-         "rate",
-         1,
-         "",
-         false},
-        {"one word may hit",
-         {{2, {every}, {QStringLiteral("RATE"), QStringLiteral("OIL")}}},
-         "rate",
-         1,
-         "",
-         true},
-        {"other category", {{1, {2, 3}, {}}}, "any", 1, "", false},
-        {"one of the categories", {{1, {2, 3}, {}}}, "any", 3, "", true},
-        {"-999 beside others is no joker", {{1, {every, 3}, {}}}, "any", 1, "", false},
-        {"the second condition matches", {{1, {9}, {}}, {1, {1}, {}}}, "any", 1, "", true},
-    };
-    for (const Case& c : cases) {
-        CHeadline headline;
-        headline.title = QString::fromUtf8(c.title);
-        EXPECT_EQ(CheckIsRelationSearch(c.conditions, headline, c.category, QString::fromUtf8(c.symbol)),
-                  c.wanted)
-            << c.what;
-    }
 }

@@ -119,10 +119,10 @@ TEST_F(HeadlineListTest, EachListAsksItsOwnServices) {
     EXPECT_EQ(lists[ListIndex::Category].Text(0, 0), QStringLiteral("03/02 09:00"));
     EXPECT_TRUE(lists.bRebuildSymbol({16, QStringLiteral("2330")}));
     EXPECT_FALSE(lists.bRebuildSymbol({16, QStringLiteral("233")}));
-    std::vector<CNewsKey> conditions;
-    EXPECT_FALSE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &conditions));
-    conditions = {{1, {7}, {QStringLiteral("2")}}};
-    EXPECT_TRUE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &conditions));
+    RelationMatcher keySets;
+    EXPECT_FALSE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &keySets));
+    keySets = RelationMatcher(std::vector<CNewsKey>{{1, {7}, {QStringLiteral("2")}}});
+    EXPECT_TRUE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &keySets));
     EXPECT_EQ(rows(lists[ListIndex::Relation]), QStringList{QStringLiteral("09:00 | Markets | 2")});
 }
 
@@ -131,8 +131,8 @@ TEST_F(HeadlineListTest, TheRelationTestSkipsHeadlinesThatAreNotAtHand) {
     backEnd.add(1, localTime(2026, 3, 2, 8, 0), 2, QStringLiteral("OIL"), 7);
     backEnd.add(1, localTime(2026, 3, 2, 7, 0), 3, QStringLiteral("RATE"), 7);
     list(ListIndex::Relation);
-    const std::vector<CNewsKey> conditions = {{1, {7}, {QStringLiteral("RATE")}}};
-    EXPECT_TRUE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &conditions));
+    const RelationMatcher keySets(std::vector<CNewsKey>{{1, {7}, {QStringLiteral("RATE")}}});
+    EXPECT_TRUE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &keySets));
     EXPECT_EQ(rows(lists[ListIndex::Relation]), QStringList{QStringLiteral("07:00 | Markets | RATE")});
 }
 

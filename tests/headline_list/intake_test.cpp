@@ -115,7 +115,8 @@ TEST(Intake, AHeadlineGoesToEveryListThatWantsIt) {
         OpenState state = openState();
         c.change(state);
         state.services = state.ticked;
-        state.keySets = state.wanted;
+        const RelationMatcher wanted(state.wanted);
+        state.relation = &wanted;
         CHeadline headline;
         headline.service = c.service;
         headline.title = u"Rates rise"_s;

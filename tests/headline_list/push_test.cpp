@@ -251,8 +251,8 @@ TEST_F(Push, RowsAreWrittenFromTheBackEndByEntryAndAtTheTop) {
     EXPECT_EQ(all.Text(0, 2), QString());
     EXPECT_EQ(all.Text(1, 2), u"RATE 1"_s);
     EXPECT_EQ(all.Text(100, 2), u"RATE 100"_s);
-    const std::vector<CNewsKey> oil{{1, {7}, {u"OIL"_s}}};
-    const std::vector<CNewsKey> rate{{1, {7}, {u"RATE"_s}}};
+    const RelationMatcher oil(std::vector<CNewsKey>{{1, {7}, {u"OIL"_s}}});
+    const RelationMatcher rate(std::vector<CNewsKey>{{1, {7}, {u"RATE"_s}}});
     all.vUpdataTopHeadline(false, &oil);
     EXPECT_EQ(all.Text(0, 2), QString());
     all.vUpdataTopHeadline(true, &rate);
