@@ -12,6 +12,7 @@
 #include "terminal/commands/search_command.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <cstring>
 #include <memory>
@@ -46,6 +47,13 @@ void nameApplication() {
     QCoreApplication::setApplicationVersion(QStringLiteral(WIREPANE_VERSION));
 }
 
+QIcon programIcon() {
+    QIcon icon;
+    for (const int size : {32, 48, 128, 256})
+        icon.addFile(u":/icons/wirepane-%1.png"_s.arg(size));
+    return icon;
+}
+
 }  // namespace
 
 int runProgram(int argc, char** argv) {
@@ -68,6 +76,8 @@ int runProgram(int argc, char** argv) {
         usualMessages = qInstallMessageHandler(leaveOffscreenRemarksOut);
     const QApplication application(argc, argv);
     nameApplication();
+    QGuiApplication::setDesktopFileName(u"wirepane"_s);
+    QGuiApplication::setWindowIcon(programIcon());
     return runTerminal();
 }
 

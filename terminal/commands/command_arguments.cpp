@@ -30,7 +30,7 @@ CommandArguments::CommandArguments(const QString& commandName, const QString& de
     if (!command.isEmpty())
         parser.addPositionalArgument(command, QString(), command);
     parser.addOption(
-        {u"store"_s, u"The news store; made when absent. Default: %1"_s.arg(defaultStoreFile()), u"file"_s});
+        {u"store"_s, u"The news store; made when absent. Default: %1."_s.arg(defaultStoreFile()), u"file"_s});
     parser.addOption(
         {u"now"_s, u"What is taken as the present moment, such as 2026-03-02T09:30:00."_s, u"moment"_s});
 }

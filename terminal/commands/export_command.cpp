@@ -43,7 +43,7 @@ void addOptions(QCommandLineParser& parser) {
     parser.addOptions({
         {u"day"_s, u"The day whose news is written. Default: the present day."_s, u"yyyymmdd"_s},
         {u"utf8"_s, u"Writes text as UTF-8; else in code page 950."_s},
-        {u"paper"_s, u"The paper of pages. Default: A4"_s, u"name"_s},
+        {u"paper"_s, u"The paper of pages. Default: A4."_s, u"name"_s},
         {u"lang"_s, u"The language of labels: en, zh-TW or zh-CN."_s, u"code"_s},
     });
 }

@@ -159,7 +159,7 @@ int runFeed() {
                                u"Takes news from standard input as it comes, one ninjs record a line, into "
                                "the store or a running terminal."_s);
     arguments.parser.addOptions({
-        {u"service"_s, u"The id of the news service that the news belongs to. Default: 1"_s, u"id"_s},
+        {u"service"_s, u"The id of the news service that the news belongs to. Default: 1."_s, u"id"_s},
         {u"to"_s, u"The feed name of a running terminal; without it, the store."_s, u"name"_s},
         {u"receipts"_s, u"Says on standard output what is on the disk, each time it is."_s},
     });

@@ -66,7 +66,7 @@ int runImport() {
                                "taken in as a whole."_s);
     arguments.parser.addPositionalArgument(u"file"_s, u"A file to take in."_s, u"file..."_s);
     arguments.parser.addOption(
-        {u"service"_s, u"The id of the news service that the news belongs to. Default: 1"_s, u"id"_s});
+        {u"service"_s, u"The id of the news service that the news belongs to. Default: 1."_s, u"id"_s});
     arguments.parser.addOption(
         {u"mapping"_s, u"Reads the files as tables of news, as this file describes them."_s, u"file"_s});
     if (const auto status = arguments.read())

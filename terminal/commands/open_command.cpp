@@ -34,7 +34,7 @@ bool hasDisplay() {
 
 void addOptions(QCommandLineParser& parser) {
     parser.addOptions({
-        {u"config"_s, u"The folder of settings and layout. Default: %1"_s.arg(defaultConfigFolder()),
+        {u"config"_s, u"The folder of settings and layout. Default: %1."_s.arg(defaultConfigFolder()),
          u"folder"_s},
         {u"lang"_s, u"The language: %1."_s.arg(Languages::codes().join(u", "_s)), u"code"_s},
         {u"sample"_s, u"Fills a store without news with the sample wire."_s},

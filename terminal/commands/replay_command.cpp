@@ -163,8 +163,8 @@ int runReplay() {
         {u"from"_s,
          u"Where the clock of the replay starts; earlier news comes at once. Default: at the first news"_s,
          u"time"_s},
-        {u"speed"_s, u"Seconds of the day in a second; 0: as fast as it goes. Default: 60"_s, u"number"_s},
-        {u"to"_s, u"The feed name of the terminal. Default: %1"_s.arg(defaultFeedName), u"name"_s},
+        {u"speed"_s, u"Seconds of the day in a second; 0: as fast as it goes. Default: 60."_s, u"number"_s},
+        {u"to"_s, u"The feed name of the terminal. Default: %1."_s.arg(defaultFeedName), u"name"_s},
         {u"open"_s, u"Opens a terminal of its own for the replay, on a store that is thrown away."_s},
         {u"as-new"_s, u"Plays every item as news of this moment, beside what the terminal has."_s},
     });

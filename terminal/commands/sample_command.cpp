@@ -41,9 +41,9 @@ int runSample() {
     CommandArguments arguments(u"sample"_s,
                                u"Takes an invented news wire, up to the present moment, into the store."_s);
     arguments.parser.addOptions({
-        {u"seed"_s, u"Which wire: the same number gives the same news. Default: 1"_s, u"number"_s},
-        {u"days"_s, u"How many days back. Default: %1"_s.arg(defaults.days), u"number"_s},
-        {u"per-day"_s, u"Headlines on a working day. Default: %1"_s.arg(defaults.headlinesPerDay),
+        {u"seed"_s, u"Which wire: the same number gives the same news. Default: 1."_s, u"number"_s},
+        {u"days"_s, u"How many days back. Default: %1."_s.arg(defaults.days), u"number"_s},
+        {u"per-day"_s, u"Headlines on a working day. Default: %1."_s.arg(defaults.headlinesPerDay),
          u"number"_s},
     });
     if (const auto status = arguments.read())
