@@ -17,9 +17,11 @@ install(FILES README.md DESTINATION share/doc/wirepane COMPONENT terminal)
 # For whoever embeds the module: contract, headers, texts of the language keys, the example.
 set_target_properties(wirepane_contract PROPERTIES EXPORT_NAME contract)
 set_target_properties(wirepane_host PROPERTIES EXPORT_NAME host)
-install(TARGETS wirepane_contract wirepane_host EXPORT WirepaneTargets
-        LIBRARY DESTINATION lib COMPONENT terminal NAMELINK_COMPONENT development)
-foreach(room contract controls views)
+set_target_properties(wirepane_conformance PROPERTIES EXPORT_NAME conformance)
+install(TARGETS wirepane_contract wirepane_host wirepane_conformance EXPORT WirepaneTargets
+        LIBRARY DESTINATION lib COMPONENT terminal NAMELINK_COMPONENT development
+        ARCHIVE DESTINATION lib COMPONENT development)
+foreach(room contract controls views conformance)
     install(DIRECTORY host/${room} DESTINATION ${WIREPANE_HEADERS}/host COMPONENT development
             FILES_MATCHING PATTERN "*.h")
 endforeach()

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/conformance/request_check.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Hears what the back end tells, and notes what comes at a wrong time or on a wrong thread.
+class Listener : public NewsReceiver {
+public:
+    Listener(BKQuoteInterface& heard, Findings& noted) : backEnd(heard), findings(noted) {
+        backEnd.Attach(this);
+    }
+    ~Listener() override { backEnd.Detach(this); }
+
+    // Sends a request and waits for its answer; false: it was not sent.
+    template <class Send>
+    bool Await(const QString& request, std::chrono::milliseconds patience, Send send) {
+        awaited = request;
+        answers = 0;
+        sending = true;
+        const bool sent = send();
+        sending = false;
+        const QDeadlineTimer limit(patience);
+        while (sent && answers == 0 && !limit.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        findings.Expect(!sent || answers > 0, request + u": true, and no answer in time."_s);
+        return sent;
+    }
+
+    void RespStory(const CHeadlineTable& entry) override { vHear(KeyOf(entry) == story); }
+    void RespSearchHeadLineTable(const CSearch& condition, unsigned char service) override {
+        vHear(condition == search && service == askedService);
+    }
+    void vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo* info) override {
+        vHear(info != nullptr && info->service == askedService && info->key == key);
+    }
+
+    unsigned char askedService = 0;
+    QString key;
+    HeadlineKey story;
+    CSearch search;
+
+private:
+    void vHear(bool isTheAnswer) {
+        findings.Expect(!sending, awaited + u": the answer comes before the request returns."_s);
+        findings.Expect(QThread::currentThread() == QCoreApplication::instance()->thread(),
+                        awaited + u": the answer comes on another thread."_s);
+        if (isTheAnswer)
+            ++answers;
+    }
+
+    BKQuoteInterface& backEnd;
+    Findings& findings;
+    QString awaited;
+    int answers = 0;
+    bool sending = false;
+};
+
+// What users type that a query language might take for its own.
+const std::vector<QString> hostileKeywords{u"\"'(*)"_s, u"a AND NOT b"_s, u"%_\\"_s, QString(QChar(0xdc00)),
+                                           QString(10000, u'x')};
+
+}  // namespace
+
+void CheckRequests(BKQuoteInterface& backEnd, unsigned char service,
+                   const std::vector<CHeadlineTable>& entries, std::chrono::milliseconds patience,
+                   Findings& findings) {
+    Listener listener(backEnd, findings);
+    listener.askedService = service;
+    listener.key = backEnd.BKQNEWS_cszGetCurrDateByService(service);
+    listener.Await(u"BKNEWS_bReRequestHeadlineTable, service %1"_s.arg(service), patience, [&] {
+        return backEnd.BKNEWS_bReRequestHeadlineTable(service, static_cast<int>(TableKind::ByDate),
+                                                      listener.key);
+    });
+    CStory atHand;
+    for (const CHeadlineTable& entry : entries) {
+        if (!backEnd.BKQNEWS_bGetStory(atHand, entry))
+            continue;
+        listener.story = KeyOf(entry);
+        listener.Await(u"BKQNews_bReRequestHeadlineStory, service %1"_s.arg(service), patience,
+                       [&] { return backEnd.BKQNews_bReRequestHeadlineStory(entry); });
+        break;
+    }
+    constexpr int searchList = static_cast<int>(TableKind::Search);
+    listener.search.method = 1;
+    listener.search.keywords = hostileKeywords;
+    const QString search = u"BKQNEWS_bSearchNews, service %1"_s.arg(service);
+    if (!listener.Await(search, patience,
+                        [&] { return backEnd.BKQNEWS_bSearchNews(service, searchList, listener.search); }))
+        return;
+    std::vector<CHeadlineTable> found;
+    backEnd.BKQNEWS_iGetHeadlineTable(service, found, searchList, u"SEARCH"_s);
+    findings.Expect(found.empty(), search + u": finds news that nobody wrote."_s);
+}

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/embedded_back_end.h"
+#include "host/conformance/back_end_check.h"
+#include "host/contract/clock.h"
+#include "tests/backend/store/store_fixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+TEST(EmbeddedBackEndConformance, KeepsEveryDuty) {
+    const QTemporaryDir folder;
+    auto opened = EmbeddedBackEnd::open(folder.filePath(u"news"_s));
+    ASSERT_TRUE(opened) << opened.error().toStdString();
+    EmbeddedBackEnd& backEnd = *opened.value();
+    host_clock::startAt(at(12, 0));
+    for (int i = 0; i < 12; ++i) {
+        const auto service = static_cast<unsigned char>(i % 2 == 0 ? 1 : 52);
+        NewsItem item = newsItem(service, u"n%1"_s.arg(i), at(9, i), u"Tea \"prices\" AND rates %1"_s.arg(i));
+        if (i % 3 != 0)
+            item.story = u"A story of %1 lines."_s.arg(i);
+        ASSERT_TRUE(backEnd.takeIn(item));
+    }
+    std::vector<CHeadlineTable> day;
+    ASSERT_EQ(backEnd.BKQNEWS_iGetHeadlineTable(1, day, 0, u"20260302"_s), 6) << "nothing to check";
+    const std::vector<QString> broken = BrokenDuties(backEnd);
+    EXPECT_EQ(QStringList(broken.begin(), broken.end()).join(u'\n').toStdString(), "");
+}
+
+}  // namespace wirepane

@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/conformance/back_end_check.h"
+
+#include <QStringList>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+enum class Fault {
+    None,
+    ServicesTwice,
+    NameChanged,
+    DayWithDashes,
+    CategoriesUnpaired,
+    SymbolUnknown,
+    TableReplaced,
+    TableMiscounted,
+    TableOfAnother,
+    AnyKeyFinds,
+    HeadlinesOutOfOrder,
+    HeadlinesOfAnother,
+    StoryChanged,
+    StoryOfAnother,
+    AnswersAtOnce,
+    AnswersNever,
+    SearchFindsAll,
+};
+
+// Keeps every duty but one.
+class FaultyBackEnd : public BKQuoteInterface {
+public:
+    explicit FaultyBackEnd(Fault its) : fault(its) {}
+
+    bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& services) override {
+        services = {1, 2};
+        if (is(Fault::ServicesTwice))
+            services.push_back(2);
+        return true;
+    }
+    bool BKQNEWS_bGetFullNameByService(QString& name, unsigned char service) override {
+        const bool known = service == 1 || service == 2;
+        if (known || is(Fault::NameChanged))
+            name = u"Wire"_s;
+        return known;
+    }
+    QString BKQNEWS_cszGetCurrDateByService(unsigned char) override {
+        return is(Fault::DayWithDashes) ? u"2026-03-02"_s : u"20260302"_s;
+    }
+    bool bNewsAPI_GetNewsCatId(unsigned char, std::vector<QString>& ids,
+                               std::vector<QString>& names) override {
+        ids = {u"7"_s};
+        names.assign(is(Fault::CategoriesUnpaired) ? 2 : 1, u"Markets"_s);
+        return true;
+    }
+    bool bGetSymbolID(unsigned char, std::vector<QString>& codes, std::vector<QString>& names) override {
+        codes = {u"2330"_s};
+        names = {u"Tea"_s};
+        return true;
+    }
+    int bIsSymbolIDExist(unsigned char, const QString& code) override {
+        return code == u"2330"_s && !is(Fault::SymbolUnknown) ? 1 : 0;
+    }
+    int bIsConnect() override { return 1; }
+
+    using BKQuoteInterface::BKQNEWS_iGetHeadlineTable;
+    int BKQNEWS_iGetHeadlineTable(unsigned char service, std::vector<CHeadlineTable>& table, int kind,
+                                  const QString& key) override {
+        const bool ofDay = kind == 0 && (key == u"20260302"_s || is(Fault::AnyKeyFinds));
+        if (!ofDay && !(kind == 3 && is(Fault::SearchFindsAll)))
+            return 0;
+        if (is(Fault::TableReplaced))
+            table.clear();
+        for (std::int32_t sequence = 3; sequence > 0; --sequence)
+            table.push_back({sequence * 60, sequence, service, 0, 0});
+        if (is(Fault::TableOfAnother))
+            table.back().service = 9;
+        return is(Fault::TableMiscounted) ? 2 : 3;
+    }
+    int BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadline>& headlines,
+                             const std::vector<CHeadlineTable>& entries) override {
+        const std::size_t before = headlines.size();
+        for (const CHeadlineTable& entry : entries) {
+            if (entry.service == service || is(Fault::HeadlinesOfAnother))
+                headlines.push_back({entry.service, entry.time, entry.sequence, u"Title"_s});
+        }
+        if (is(Fault::HeadlinesOutOfOrder))
+            std::reverse(headlines.begin() + static_cast<std::ptrdiff_t>(before), headlines.end());
+        return static_cast<int>(headlines.size() - before);
+    }
+    bool BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) override {
+        const bool known = entry.service != 0;
+        if (known || is(Fault::StoryChanged))
+            story = {entry.time, u"Story"_s, is(Fault::StoryOfAnother) ? CHeadlineTable() : entry};
+        return known;
+    }
+    bool BKQNews_bReRequestHeadlineStory(const CHeadlineTable& entry) override {
+        return answer([this, entry] { ForEachReceiver([&](NewsReceiver& view) { view.RespStory(entry); }); });
+    }
+    bool BKQNEWS_bSearchNews(unsigned char service, int, const CSearch& condition) override {
+        return answer([this, service, condition] {
+            ForEachReceiver([&](NewsReceiver& view) { view.RespSearchHeadLineTable(condition, service); });
+        });
+    }
+
+private:
+    bool is(Fault one) const { return fault == one; }
+    template <class Call>
+    bool answer(Call call) {
+        if (is(Fault::AnswersAtOnce))
+            call();
+        else if (!is(Fault::AnswersNever))
+            QTimer::singleShot(0, &events, call);
+        return true;
+    }
+
+    const Fault fault;
+    QObject events;
+};
+
+QString brokenBy(Fault fault) {
+    FaultyBackEnd backEnd(fault);
+    const std::vector<QString> broken = BrokenDuties(backEnd, fault == Fault::AnswersNever ? 20ms : 10s);
+    return QStringList(broken.begin(), broken.end()).join(u'\n');
+}
+
+}  // namespace
+
+TEST(BackEndCheck, TellsWhichDutyIsBroken) {
+    EXPECT_EQ(brokenBy(Fault::None).toStdString(), "");
+    const struct {
+        Fault fault;
+        const char* told;
+    } cases[] = {
+        {Fault::ServicesTwice, "gives a service twice"},
+        {Fault::NameChanged, "BKQNEWS_bGetFullNameByService, service 0: answers false and changes the name."},
+        {Fault::DayWithDashes, "\"2026-03-02\" is no day"},
+        {Fault::CategoriesUnpaired, "there are 1 ids and 2 names."},
+        {Fault::SymbolUnknown, "bIsSymbolIDExist, service 1: \"2330\" is listed and unknown."},
+        {Fault::TableReplaced, "key \"20260302\": what was in the table before is gone."},
+        {Fault::TableMiscounted, "says 2 and appends 3 entries."},
+        {Fault::TableOfAnother, "an entry belongs to another service."},
+        {Fault::AnyKeyFinds, "there is news of kind 0 under the key \"99999999\"."},
+        {Fault::HeadlinesOutOfOrder, "out of the order of the entries."},
+        {Fault::HeadlinesOfAnother, "was not asked for"},
+        {Fault::StoryChanged, "answers false and changes the story."},
+        {Fault::StoryOfAnother, "gives the story of another headline."},
+        {Fault::AnswersAtOnce, "the answer comes before the request returns."},
+        {Fault::AnswersNever, "BKQNEWS_bSearchNews, service 1: true, and no answer in time."},
+        {Fault::SearchFindsAll, "finds news that nobody wrote."},
+    };
+    for (const auto& c : cases) {
+        const QString told = brokenBy(c.fault);
+        EXPECT_TRUE(told.contains(QString::fromUtf8(c.told))) << c.told << "\nnot in:\n"
+                                                              << told.toStdString();
+    }
+}
