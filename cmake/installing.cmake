@@ -14,7 +14,7 @@ set_target_properties(wirepane_host wirepane_contract PROPERTIES INSTALL_RPATH "
 install(DIRECTORY docs/ DESTINATION share/doc/wirepane COMPONENT terminal)
 install(FILES README.md DESTINATION share/doc/wirepane COMPONENT terminal)
 
-# For whoever embeds the module: contract, headers, texts of the language keys, the example.
+# For whoever embeds the module: contract, headers, the example.
 set_target_properties(wirepane_contract PROPERTIES EXPORT_NAME contract)
 set_target_properties(wirepane_host PROPERTIES EXPORT_NAME host)
 set_target_properties(wirepane_conformance PROPERTIES EXPORT_NAME conformance)
@@ -25,7 +25,6 @@ foreach(room contract controls views conformance)
     install(DIRECTORY host/${room} DESTINATION ${WIREPANE_HEADERS}/host COMPONENT development
             FILES_MATCHING PATTERN "*.h")
 endforeach()
-install(FILES ${WIREPANE_TRANSLATIONS} DESTINATION share/wirepane/translations COMPONENT development)
 install(DIRECTORY examples/minimal_host DESTINATION share/doc/wirepane/examples COMPONENT development)
 install(EXPORT WirepaneTargets NAMESPACE Wirepane:: DESTINATION ${WIREPANE_CMAKE} COMPONENT development)
 configure_package_config_file(cmake/WirepaneConfig.cmake.in ${CMAKE_BINARY_DIR}/WirepaneConfig.cmake

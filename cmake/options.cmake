@@ -47,8 +47,7 @@ function(wirepane_room name)
 endfunction()
 
 # wirepane_test(NAME SOURCES... LINK libraries...)
-# One test program; every case in it is a test of its own in CTest, run on the offscreen platform.
-include(GoogleTest)
+# One test program, a test of its own in CTest, run on the offscreen platform.
 function(wirepane_test name)
     cmake_parse_arguments(TEST "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})

@@ -44,3 +44,12 @@ cmake -S "$example" -B "$work/host" -DCMAKE_PREFIX_PATH="$work/moved" >"$work/co
 cmake --build "$work/host" >"$work/build.log" || { cat "$work/build.log"; exit 1; }
 "$work/host/minimal_host" "$work/moved/lib/wirepane/"*wirepane_news* --picture "$work/host.png"
 [ "$(head -c 8 "$work/host.png" | tail -c 7 | head -c 3)" = PNG ] || { echo "the example drew no picture"; exit 1; }
+
+# The embedding guide, word for word: its code blocks by file name, built and run as it says.
+guide=$work/moved/share/doc/wirepane/embedding.md
+mkdir "$work/guide"
+awk -v folder="$work/guide/" '/^```$/ { file = "" } file { print > file } /^```[a-z]+ / { file = folder $2 }' "$guide"
+cmake -S "$work/guide" -B "$work/guide/build" -DCMAKE_PREFIX_PATH="$work/moved" >"$work/configure.log"
+cmake --build "$work/guide/build" >"$work/build.log" || { cat "$work/build.log"; exit 1; }
+"$work/guide/build/check_back_end"
+"$work/guide/build/my_terminal" "$work/guide.png"
