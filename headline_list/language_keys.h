@@ -57,6 +57,10 @@ inline constexpr QLatin1StringView printerGone{"IDS_NEWSCTRLVIEW_STRING_PRINTER_
 inline constexpr QLatin1StringView noSuchPaper{"IDS_NEWSCTRLVIEW_STRING_NO_SUCH_PAPER"};
 // "%1": how many characters, "%2": the file.
 inline constexpr QLatin1StringView charactersReplaced{"IDS_NEWSCTRLVIEW_STRING_CHARACTERS_REPLACED"};
+// What is waited for; "%1": how many pieces of news.
+inline constexpr QLatin1StringView waitingToPrint{"IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PRINT"};
+inline constexpr QLatin1StringView waitingToSave{"IDS_NEWSCTRLVIEW_STRING_WAITING_TO_SAVE"};
+inline constexpr QLatin1StringView waitingToPreview{"IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PREVIEW"};
 
 inline constexpr QLatin1StringView time{"IDS_NEWSCTRLVIEW_STRING_TIME"};
 inline constexpr QLatin1StringView category{"IDS_NEWSCTRLVIEW_STRING_CATEGORY"};

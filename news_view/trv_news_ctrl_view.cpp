@@ -28,8 +28,10 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       preview(backEnd, outputDialogs, *this),
       keyRouter(*this),
       dates(host_clock::today()) {
-    for (TRVNewsPrint* job : pJobs())
+    for (TRVNewsPrint* job : pJobs()) {
+        job->vSetOnAwaited([this] { update(); });
         job->vSetOnFinished([this](const NewsOutcome& outcome) { vTell(outcome); });
+    }
 }
 
 TRVNewsCtrlView::~TRVNewsCtrlView() {

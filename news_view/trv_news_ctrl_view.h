@@ -356,6 +356,8 @@ private:
     void OnChangeSize(quintptr sender);
     void DrawTitile(QPainter& painter);
     void vDrawNotice(QPainter& painter);
+    QString NoticeText() const;
+    QString AwaitedText() const;
     void vSetStatusText(const QString& text);
     QRect NoticeArea() const;
     QColor TimeColour(std::int64_t time) const override;

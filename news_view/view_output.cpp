@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Printing and saving the selected news.
+#include "headline_list/language_keys.h"
 #include "host/controls/window_id.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
@@ -65,6 +66,17 @@ NewsOutcome TRVNewsCtrlView::PutOut(TRVNewsPrint& job, int button,
     else
         outcome.message.clear();
     return outcome;
+}
+
+QString TRVNewsCtrlView::AwaitedText() const {
+    const std::pair<const TRVNewsPrint&, QLatin1StringView> jobs[] = {
+        {printer, keys::waitingToPrint}, {saver, keys::waitingToSave}, {preview, keys::waitingToPreview}};
+    QStringList texts;
+    for (const auto& [job, text] : jobs) {
+        if (const int awaited = job.iAwaited(); awaited > 0)
+            texts.append(LangText(backEnd, text).arg(awaited));
+    }
+    return texts.join(QStringLiteral(" · "));
 }
 
 void TRVNewsCtrlView::vTell(const NewsOutcome& outcome) {

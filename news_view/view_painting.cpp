@@ -49,17 +49,24 @@ void TRVNewsCtrlView::vSetStatusText(const QString& text) {
     update();
 }
 
-// That the feed is cut off, or what the lists have to say, in the free part of the control row.
+// That the feed is cut off, or what the lists have to say; and before it what printing and saving wait for.
+QString TRVNewsCtrlView::NoticeText() const {
+    const auto offlineSince = breaks.Since();
+    QStringList parts{AwaitedText(), offlineSince ? LangText(backEnd, keys::offlineSince) + QLatin1Char(' ') +
+                                                        TimeText(*offlineSince, false)
+                                                  : statusText.trimmed()};
+    parts.removeAll(QString());
+    return parts.join(u" · "_s);
+}
+
+// In the free part of the control row.
 void TRVNewsCtrlView::vDrawNotice(QPainter& painter) {
-    const bool offline = breaks.Since().has_value();
-    const QString text =
-        offline ? LangText(backEnd, keys::offlineSince) + QLatin1Char(' ') + TimeText(*breaks.Since(), false)
-                : statusText.trimmed();
+    const QString text = NoticeText();
     const QRect area = NoticeArea();
     if (text.isEmpty() || area.isEmpty())
         return;
     painter.setFont(GetViewFont());
-    painter.setPen(offline ? lateColour(colBackground) : colText);
+    painter.setPen(breaks.Since() ? lateColour(colBackground) : colText);
     painter.drawText(area, Qt::AlignVCenter | Qt::TextSingleLine,
                      painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width()));
 }

@@ -47,18 +47,32 @@ void TRVNewsPrint::vWait(NewsItems items, const std::vector<unsigned char>& serv
                          const std::optional<OutputTarget>& target) {
     RequestMissing(backEnd, items);
     queue.push_back({std::move(items), services, target});
-    vPutOutSoon();
+    vTakeAnswer();
+}
+
+int TRVNewsPrint::iAwaited() const {
+    std::ptrdiff_t awaited = 0;
+    for (const Pending& pending : queue)
+        awaited += std::count_if(pending.items.begin(), pending.items.end(),
+                                 [](const NewsItem& item) { return !item.bIsComplete(); });
+    return static_cast<int>(awaited);
 }
 
 void TRVNewsPrint::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
     for (Pending& pending : queue)
         TakeTitles(backEnd, pending.items, entries, pending.services);
-    vPutOutSoon();
+    vTakeAnswer();
 }
 
 void TRVNewsPrint::RespStory(const CHeadlineTable& entry) {
     for (Pending& pending : queue)
         TakeStory(backEnd, pending.items, entry);
+    vTakeAnswer();
+}
+
+void TRVNewsPrint::vTakeAnswer() {
+    if (onAwaited && !queue.empty())
+        onAwaited();
     vPutOutSoon();
 }
 

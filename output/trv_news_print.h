@@ -34,11 +34,15 @@ public:
     void vWait(NewsItems items, const std::vector<unsigned char>& services,
                const std::optional<OutputTarget>& target);
     bool bIsWaiting() const { return !queue.empty(); }
+    // How many pieces of news are waited for: they lack their title or their story.
+    int iAwaited() const;
 
     // What the back end answers.
     void RespHeadLine(const std::vector<CHeadlineTable>& entries);
     void RespStory(const CHeadlineTable& entry);
 
+    // Is told when iAwaited may have changed.
+    void vSetOnAwaited(std::function<void()> told) { onAwaited = std::move(told); }
     // Is told what came of news that had waited.
     void vSetOnFinished(std::function<void(const NewsOutcome&)> told) { onFinished = std::move(told); }
 
@@ -60,6 +64,7 @@ private:
     };
     NewsOutcome OutputAlone(const NewsItems& items, QWidget* parent,
                             const std::optional<OutputTarget>& target);
+    void vTakeAnswer();
     void vPutOutSoon();
     void vPutOutComplete();
 
@@ -67,6 +72,7 @@ private:
     OutputDialogs& dialogs;
     QWidget& parentWindow;
     std::vector<Pending> queue;
+    std::function<void()> onAwaited;
     std::function<void(const NewsOutcome&)> onFinished;
     bool busy = false;
     bool soon = false;  // vPutOutComplete is on its way

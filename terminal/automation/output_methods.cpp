@@ -14,7 +14,10 @@ namespace {
 Answer answerOf(const NewsOutcome& outcome, const QString& name) {
     if (outcome.failed)
         return RpcError{RpcCode::Refused, outcome.message};
-    return QJsonObject{{name, outcome.count}};
+    QJsonObject result{{name, outcome.count}};
+    if (outcome.waiting)
+        result.insert(u"waiting"_s, true);
+    return result;
 }
 
 }  // namespace

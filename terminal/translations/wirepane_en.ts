@@ -391,6 +391,18 @@
         <source></source>
         <translation>Headline</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PREVIEW">
+        <source></source>
+        <translation>Waiting to preview: %1 still to come</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PRINT">
+        <source></source>
+        <translation>Waiting to print: %1 still to come</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_SAVE">
+        <source></source>
+        <translation>Waiting to save: %1 still to come</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_WAIT_FOR_UPDATE">
         <source></source>
         <translation>The story is being updated. Please wait.</translation>

@@ -391,6 +391,18 @@
         <source></source>
         <translation>标题</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PREVIEW">
+        <source></source>
+        <translation>等待打印预览，尚缺 %1 则</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PRINT">
+        <source></source>
+        <translation>等待打印，尚缺 %1 则</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_SAVE">
+        <source></source>
+        <translation>等待保存，尚缺 %1 则</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_WAIT_FOR_UPDATE">
         <source></source>
         <translation>新闻内容更新中，请稍候。</translation>

@@ -391,6 +391,18 @@
         <source></source>
         <translation>標題</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PREVIEW">
+        <source></source>
+        <translation>等待預覽列印，尚缺 %1 則</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PRINT">
+        <source></source>
+        <translation>等待列印，尚缺 %1 則</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_SAVE">
+        <source></source>
+        <translation>等待存檔，尚缺 %1 則</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_WAIT_FOR_UPDATE">
         <source></source>
         <translation>新聞內容更新中，請稍候。</translation>

@@ -71,13 +71,19 @@ TEST_F(OutputSessionTest, SavesAndPrintsWhatIsSelected) {
 TEST_F(OutputSessionTest, AWaitIsEndedByItsAnswerOrWithTheTerminal) {
     terminal.result(u"feed.hold"_s, QJsonObject{{u"what"_s, u"stories"_s}, {u"on"_s, true}});
     select({1});
-    EXPECT_EQ(terminal.result(u"save.file"_s, to(u"late.txt"_s))[u"bytes"_s].toInt(), 0);
+    const QJsonValue late = terminal.result(u"save.file"_s, to(u"late.txt"_s));
+    EXPECT_EQ(late[u"bytes"_s].toInt(-1), 0);
+    EXPECT_TRUE(late[u"waiting"_s].toBool());
     EXPECT_TRUE(contents(u"late.txt"_s).isEmpty());
+    const QJsonValue state = terminal.result(u"view.state"_s);
+    EXPECT_EQ(state[u"awaited"_s][u"save"_s].toInt(), 1);
+    EXPECT_EQ(state[u"notice"_s].toString(), u"Waiting to save: 1 still to come"_s);
     terminal.result(u"feed.hold"_s, QJsonObject{{u"what"_s, u"stories"_s}, {u"on"_s, false}});
     QElapsedTimer waited;
     waited.start();
     while (contents(u"late.txt"_s).isEmpty() && waited.elapsed() < 5000)
         terminal.result(u"idle"_s);
+    EXPECT_EQ(terminal.result(u"view.state"_s)[u"notice"_s].toString(), u""_s);
     EXPECT_TRUE(contents(u"late.txt"_s).contains("Story: \r\n2026/03/ 2 09:01:00One\r\nTwo\n\n"));
     terminal.result(u"feed.hold"_s, QJsonObject{{u"what"_s, u"stories"_s}, {u"on"_s, true}});
     EXPECT_EQ(terminal.result(u"print.pdf"_s, to(u"never.pdf"_s))[u"pages"_s].toInt(), 0);
