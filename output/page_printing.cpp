@@ -5,6 +5,7 @@
 #include "headline_list/language_keys.h"
 #include "host/contract/clock.h"
 #include "host/contract/sync_info.h"
+#include "output/pdf_characters.h"
 #include "output/whole_file.h"
 
 #include <QBuffer>
@@ -37,6 +38,8 @@ QFont pageFont(BKQuoteInterface& backEnd, int pixelSize) {
                      CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont().families());
     font.setPixelSize(std::max(pixelSize, 1));
     font.setWeight(QFont::Normal);
+    // Forms for several characters together would take them from the text that a PDF's reader finds.
+    font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
 }
 
@@ -110,11 +113,24 @@ std::optional<QPageSize> paperNamed(const QString& name) {
     return std::nullopt;
 }
 
+QString charactersOf(const std::vector<PrintedPage>& pages) {
+    QString characters;
+    for (const PrintedPage& page : pages) {
+        characters += page.heading.text + page.date.text + page.pageNumber.text;
+        for (const std::vector<PlacedText>& lines : {page.title, page.body}) {
+            for (const PlacedText& line : lines)
+                characters += line.text;
+        }
+    }
+    return characters;
+}
+
 NewsOutcome writePdf(const QString& file, const QPageLayout& layout, BKQuoteInterface& backEnd,
                      const NewsItems& items) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     NewsOutcome outcome;
+    QString drawn;
     {
         QPdfWriter writer(&buffer);
         writer.setTitle(LangText(backEnd, keys::printDocument));
@@ -124,8 +140,11 @@ NewsOutcome writePdf(const QString& file, const QPageLayout& layout, BKQuoteInte
         if (pages.empty() || !DrawPages(writer, backEnd, pages))
             return outcome;
         outcome.count = static_cast<int>(pages.size());
+        drawn = charactersOf(pages);
     }
-    if (const auto why = WriteWholeFile(file, buffer.data()))
+    QByteArray& pdf = buffer.buffer();
+    NameDrawnCharacters(pdf, drawn, pageFont(backEnd, pointSize));
+    if (const auto why = WriteWholeFile(file, pdf))
         return failure(backEnd, QDir::toNativeSeparators(file), *why);
     return outcome;
 }

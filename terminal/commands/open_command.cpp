@@ -45,7 +45,8 @@ void addOptions(QCommandLineParser& parser) {
         {u"automation-socket"_s, u"Is driven by JSON-RPC on a local socket."_s, u"name"_s},
         {u"spool"_s, u"Takes news from the files that are put into the folder."_s, u"folder"_s},
         {u"feed"_s, u"The name under which feeds and replays find this terminal."_s, u"name"_s},
-        {u"tour"_s, u"Shows itself off screen on the sample wire and writes pictures into the folder."_s,
+        {u"tour"_s,
+         u"Shows itself off screen on the sample wire and writes pictures, pages and saved news into the folder."_s,
          u"folder"_s},
     });
 }

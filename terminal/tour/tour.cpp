@@ -17,9 +17,12 @@
 #include <QComboBox>
 #include <QDir>
 #include <QEventLoop>
+#include <QItemSelectionModel>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTimer>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -31,7 +34,12 @@ constexpr int tabStrip = 3100;  // the view's tabs
 constexpr int categoryCombo = 3004;
 constexpr int showTypeButton = 25458;
 constexpr int categoryTab = 1;
+constexpr int allNewsList = 0;
 constexpr int categoryList = 1;
+constexpr int newsPutOut = 3;
+constexpr int mostTurns = 50;
+const QString pagesName = u"news.pdf"_s;
+const QString textName = u"news.txt"_s;
 constexpr int symbolNewsType = 2;
 constexpr unsigned char symbolMarket = 16;
 constexpr int settleMs = 300;  // longer than the view's deferred refresh
@@ -60,6 +68,8 @@ public:
         if (const Done taken = picture(u"2-all-news-dark.png"_s); !taken)
             return taken;
         session.setScheme(ColourScheme::Light);
+        if (const Done written = putOutNews(); !written)
+            return written;
         showTab(categoryTab);
         showCategoryWithNews();
         if (const Done taken = picture(u"3-by-category.png"_s); !taken)
@@ -77,6 +87,31 @@ public:
     }
 
 private:
+    // Prints the newest headlines into a PDF, and saves them.
+    Done putOutNews() {
+        NewsViewAccess& view = *session.workspace().newest()->access;
+        const CSuperSheetWnd* sheet = view.Sheet(allNewsList);
+        const QAbstractItemModel* rows = sheet->model();
+        const int last = std::min(newsPutOut, rows->rowCount()) - 1;
+        sheet->selectionModel()->select({rows->index(0, 0), rows->index(last, rows->columnCount() - 1)},
+                                        QItemSelectionModel::ClearAndSelect);
+        for (const QString& name : {pagesName, textName})
+            QFile::remove(folder.filePath(name));
+        for (const NewsOutcome& outcome :
+             {view.PrintNews(OutputTarget{folder.filePath(pagesName), {}, {}}),
+              view.SaveNews(OutputTarget{folder.filePath(textName), NewsFileType::Utf8, {}})}) {
+            if (outcome.failed)
+                return Error{outcome.message};
+        }
+        // What is not at hand comes first, and then the file.
+        for (int turn = 0; turn < mostTurns && !isWritten(); ++turn)
+            settle();
+        if (!isWritten())
+            return Error{u"The news was not printed and saved into %1."_s.arg(folder.absolutePath())};
+        return Nothing{};
+    }
+    bool isWritten() const { return folder.exists(pagesName) && folder.exists(textName); }
+
     void showTab(int tab) {
         auto* tabs = qobject_cast<QTabBar*>(GetDlgItem(session.workspace().newest()->view, tabStrip));
         if (tabs != nullptr && tab < tabs->count())
@@ -138,7 +173,7 @@ int runTour(const OpenOptions& options) {
         printNote(played.error());
         return exitUnusable;
     }
-    printNote(u"The tour's pictures are in %1."_s.arg(
+    printNote(u"The tour's pictures, printed pages (news.pdf) and saved news (news.txt) are in %1."_s.arg(
         QDir::toNativeSeparators(QDir(options.tourFolder).absolutePath())));
     return exitDone;
 }

@@ -7,8 +7,9 @@ namespace wirepane {
 struct OpenOptions;
 
 // Opens the terminal on the sample wire, shows what it can do, writes a picture of each scene into the
-// options' tour folder and says so on standard error. Store and settings are thrown away afterwards, unless
-// the options name them. Result: the program's exit status.
+// options' tour folder, with the newest stories as printed pages and as saved text, and says so on standard
+// error. Store and settings are thrown away afterwards, unless the options name them. Result: the program's
+// exit status.
 int runTour(const OpenOptions& options);
 
 }  // namespace wirepane

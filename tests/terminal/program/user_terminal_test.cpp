@@ -82,12 +82,18 @@ TEST_F(UserTerminalTest, ADamagedSettingsFileDoesNotKeepTheTerminalShut) {
         << session->settingsMessage().toStdString();
 }
 
-TEST(TourTest, LeavesAPictureOfEachScene) {
+TEST(TourTest, LeavesAPictureOfEachSceneAndThePrintedAndSavedNews) {
     const Scratch scratch;
     const ProgramOutcome tour = runProgram({u"--tour"_s, scratch.path(u"out"_s)});
     ASSERT_EQ(tour.status, 0) << tour.err.toStdString();
     EXPECT_TRUE(tour.err.contains(scratch.path(u"out"_s))) << tour.err.toStdString();
-    const QStringList pictures = QDir(scratch.path(u"out"_s)).entryList(QDir::Files, QDir::Name);
+    QFile pages(scratch.path(u"out/news.pdf"_s));
+    QFile text(scratch.path(u"out/news.txt"_s));
+    ASSERT_TRUE(pages.open(QIODevice::ReadOnly) && text.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(pages.read(5) == "%PDF-");
+    EXPECT_EQ(text.readAll().count(" News No. "), 3);
+    const QStringList pictures =
+        QDir(scratch.path(u"out"_s)).entryList({u"*.png"_s}, QDir::Files, QDir::Name);
     ASSERT_GE(pictures.size(), 3);
     QList<QImage> images;
     for (const QString& name : pictures) {

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "output/pdf_characters.h"
+
+#include <QGlyphRun>
+#include <QHash>
+#include <QRawFont>
+#include <QSet>
+#include <QTextLayout>
+
+namespace {
+
+constexpr int digits = 4;  // of a character in the file: "<4E00>"
+
+// The faces in which the characters are drawn, each once.
+QList<QRawFont> facesOf(const QString& characters, const QFont& font) {
+    QTextLayout layout(characters, font);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    QList<QRawFont> faces;
+    for (const QGlyphRun& run : layout.glyphRuns()) {
+        if (!faces.contains(run.rawFont()))
+            faces.append(run.rawFont());
+    }
+    return faces;
+}
+
+class DrawnCharacters {
+public:
+    DrawnCharacters(const QString& drawn, const QFont& font) {
+        for (const QChar character : drawn) {
+            if (character >= u' ')
+                known.insert(character);
+        }
+        const QString characters(known.values().constData(), known.size());
+        for (const QRawFont& face : facesOf(characters, font)) {
+            QHash<quint32, QChar>& named = glyphs.emplace_back(face, QHash<quint32, QChar>()).second;
+            for (const QChar character : characters) {
+                if (const quint32 glyph = glyphOf(face, character); glyph != 0)
+                    named.insert(glyph, character);
+            }
+        }
+    }
+
+    // The character that was drawn where the file names this one.
+    QChar behind(QChar named) const {
+        if (known.contains(named))
+            return named;
+        for (const auto& [face, characters] : glyphs) {
+            const auto found = characters.constFind(glyphOf(face, named));
+            if (found != characters.cend())
+                return *found;
+        }
+        return named;
+    }
+
+private:
+    static quint32 glyphOf(const QRawFont& face, QChar character) {
+        return face.glyphIndexesForString(character).value(0);
+    }
+
+    QSet<QChar> known;
+    std::vector<std::pair<QRawFont, QHash<quint32, QChar>>> glyphs;
+};
+
+// One list of named characters: "[<0031> <4E00> ]".
+void correctList(QByteArray& pdf, qsizetype from, qsizetype to, const DrawnCharacters& drawn) {
+    for (qsizetype at = pdf.indexOf('<', from); at >= 0 && at + digits + 1 < to;
+         at = pdf.indexOf('<', at + 1)) {
+        bool isNumber = false;
+        const auto named = pdf.mid(at + 1, digits).toUShort(&isNumber, 16);
+        if (!isNumber || pdf[at + 1 + digits] != '>')
+            continue;
+        const QByteArray right = QByteArray::number(drawn.behind(QChar(named)).unicode(), 16).toUpper();
+        pdf.replace(at + 1, digits, right.rightJustified(digits, '0'));
+    }
+}
+
+}  // namespace
+
+void NameDrawnCharacters(QByteArray& pdf, const QString& drawn, const QFont& font) {
+    const DrawnCharacters characters(drawn, font);
+    // Nothing moves: the file's own table of places stays right.
+    for (qsizetype map = pdf.indexOf("begincmap"); map >= 0; map = pdf.indexOf("begincmap", map + 1)) {
+        const qsizetype end = pdf.indexOf("endcmap", map);
+        for (qsizetype list = pdf.indexOf('[', map); list >= 0 && list < end;
+             list = pdf.indexOf('[', list + 1)) {
+            const qsizetype close = pdf.indexOf(']', list);
+            if (close >= 0 && close < end)
+                correctList(pdf, list, close, characters);
+        }
+    }
+}
