@@ -10,7 +10,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QImage>
 
 #include <gtest/gtest.h>
 
