@@ -178,7 +178,7 @@ std::vector<unsigned char> CheckCatalogues(BKQuoteInterface& backEnd, Findings& 
         checkCategories(backEnd, static_cast<unsigned char>(service), findings);
         checkSymbols(backEnd, static_cast<unsigned char>(service), findings);
     }
-    const QString unknown = u"IDS_NO_SUCH_TEXT"_s;
+    const QString unknown = u"NO_SUCH_TEXT"_s;
     findings.Expect(backEnd.LangGetLangString(unknown) == unknown,
                     u"LangGetLangString: an unknown key is not given back as it is."_s);
     return services;
