@@ -3,10 +3,14 @@
 #include "output/pdf_characters.h"
 
 #include <QGlyphRun>
-#include <QHash>
 #include <QRawFont>
-#include <QSet>
 #include <QTextLayout>
+
+#include <algorithm>
+#include <iterator>
+#include <map>
+#include <set>
+#include <vector>
 
 namespace {
 
@@ -29,16 +33,15 @@ QList<QRawFont> facesOf(const QString& characters, const QFont& font) {
 class DrawnCharacters {
 public:
     DrawnCharacters(const QString& drawn, const QFont& font) {
-        for (const QChar character : drawn) {
-            if (character >= u' ')
-                known.insert(character);
-        }
-        const QString characters(known.values().constData(), known.size());
+        std::copy_if(drawn.begin(), drawn.end(), std::inserter(known, known.end()),
+                     [](QChar character) { return character >= u' '; });
+        QString characters;
+        std::copy(known.begin(), known.end(), std::back_inserter(characters));
         for (const QRawFont& face : facesOf(characters, font)) {
-            QHash<quint32, QChar>& named = glyphs.emplace_back(face, QHash<quint32, QChar>()).second;
+            auto& characterOf = glyphs.emplace_back(face, std::map<quint32, QChar>()).second;
             for (const QChar character : characters) {
                 if (const quint32 glyph = glyphOf(face, character); glyph != 0)
-                    named.insert(glyph, character);
+                    characterOf.emplace(glyph, character);
             }
         }
     }
@@ -48,9 +51,9 @@ public:
         if (known.contains(named))
             return named;
         for (const auto& [face, characters] : glyphs) {
-            const auto found = characters.constFind(glyphOf(face, named));
-            if (found != characters.cend())
-                return *found;
+            const auto found = characters.find(glyphOf(face, named));
+            if (found != characters.end())
+                return found->second;
         }
         return named;
     }
@@ -60,8 +63,8 @@ private:
         return face.glyphIndexesForString(character).value(0);
     }
 
-    QSet<QChar> known;
-    std::vector<std::pair<QRawFont, QHash<quint32, QChar>>> glyphs;
+    std::set<QChar> known;
+    std::vector<std::pair<QRawFont, std::map<quint32, QChar>>> glyphs;  // by the faces' glyph numbers
 };
 
 // One list of named characters: "[<0031> <4E00> ]".

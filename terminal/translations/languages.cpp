@@ -18,6 +18,12 @@ QString catalogueSuffix(const QString& code) {
 
 }  // namespace
 
+QString ToolkitTexts::translate(const char* context, const char* source, const char* disambiguation,
+                                int n) const {
+    const bool ofFileKinds = QLatin1StringView(context) == "QAbstractFileIconProvider"_L1;
+    return QTranslator::translate(ofFileKinds ? "QFileDialog" : context, source, disambiguation, n);
+}
+
 QStringList Languages::codes() {
     return {u"en"_s, u"zh-TW"_s, u"zh-CN"_s};
 }

@@ -8,6 +8,15 @@
 
 namespace wirepane {
 
+// The texts of Qt's own dialogs and buttons.
+class ToolkitTexts : public QTranslator {
+public:
+    // Qt's catalogues keep the names of the kinds of files under the file dialog, where they were once asked
+    // for.
+    QString translate(const char* context, const char* source, const char* disambiguation,
+                      int n) const override;
+};
+
 // The languages of the terminal and the module: "en", "zh-TW" and "zh-CN". At most one is in force.
 class Languages {
 public:
@@ -23,7 +32,7 @@ public:
 
 private:
     QTranslator texts;
-    QTranslator toolkitTexts;  // those of Qt's own dialogs and buttons
+    ToolkitTexts toolkitTexts;
     QString currentCode;
 };
 

@@ -76,6 +76,9 @@ TEST(TranslationsTest, TheCatalogueInForceGivesItsTexts) {
         for (auto text = texts.begin(); text != texts.end(); ++text)
             EXPECT_EQ(qtTrId(text.key().toUtf8().constData()), text.value()) << text.key().toStdString();
     }
+    EXPECT_EQ(QCoreApplication::translate("QPrintDialog", "&Print"), u"打印(&P)"_s) << "Qt's own texts";
+    EXPECT_EQ(QCoreApplication::translate("QAbstractFileIconProvider", "Folder", "All other platforms"),
+              u"文件夹"_s);
     EXPECT_FALSE(languages.use(u"de"_s));
     EXPECT_EQ(languages.current(), u"zh-CN"_s);
     EXPECT_EQ(terminalText(TextId::LanguageSimplifiedChinese), u"简体中文"_s);
