@@ -4,7 +4,7 @@
 
 #include "headline_list/language_keys.h"
 #include "host/contract/clock.h"
-#include "host/contract/sync_info.h"
+#include "output/page_font.h"
 #include "output/pdf_characters.h"
 #include "output/whole_file.h"
 
@@ -25,23 +25,10 @@ namespace {
 
 constexpr int pointSize = 12;
 constexpr int pointsPerInch = 72;
-constexpr int longestFaceName = 31;
 constexpr int framesPerInch = 150;  // a frame is drawn that fraction of an inch wide
 constexpr int pdfResolution = 1200;
 constexpr qreal pdfMarginMm = 10;
 constexpr QSize previewSize{900, 800};
-
-// The page's face, and for what it lacks those of the host.
-QFont pageFont(BKQuoteInterface& backEnd, int pixelSize) {
-    QFont font;
-    font.setFamilies(QStringList{LangText(backEnd, keys::printFont).left(longestFaceName)} +
-                     CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont().families());
-    font.setPixelSize(std::max(pixelSize, 1));
-    font.setWeight(QFont::Normal);
-    // Forms for several characters together would take them from the text that a PDF's reader finds.
-    font.setStyleStrategy(QFont::PreferNoShaping);
-    return font;
-}
 
 class DeviceMeasure : public TextMeasure {
 public:
@@ -49,28 +36,29 @@ public:
         : device(paintDevice), backEnd(newsBackEnd) {}
 
     int LineHeight(int pixelSize) const override {
-        const QFontMetrics metrics = metricsOf(pixelSize);
+        const QFontMetrics metrics = metricsOf(pixelSize, Shaping::None);
         return metrics.height() + std::max(metrics.leading(), 0);
     }
     int Width(const QString& text, int pixelSize) const override {
-        return metricsOf(pixelSize).horizontalAdvance(text);
+        return metricsOf(pixelSize, ShapingFor(text)).horizontalAdvance(text);
     }
 
 private:
-    const QFontMetrics& metricsOf(int pixelSize) const {
-        const auto found = known.find(pixelSize);
+    const QFontMetrics& metricsOf(int pixelSize, Shaping shaping) const {
+        const auto found = known.find({pixelSize, shaping});
         if (found != known.end())
             return found->second;
-        return known.emplace(pixelSize, QFontMetrics(pageFont(backEnd, pixelSize), &device)).first->second;
+        const QFontMetrics metrics(PageFont(backEnd, pixelSize, shaping), &device);
+        return known.emplace(std::pair(pixelSize, shaping), metrics).first->second;
     }
 
     QPagedPaintDevice& device;
     BKQuoteInterface& backEnd;
-    mutable std::map<int, QFontMetrics> known;
+    mutable std::map<std::pair<int, Shaping>, QFontMetrics> known;
 };
 
 void drawText(QPainter& painter, BKQuoteInterface& backEnd, const PlacedText& text) {
-    painter.setFont(pageFont(backEnd, text.pixelSize));
+    painter.setFont(PageFont(backEnd, text.pixelSize, ShapingFor(text.text)));
     painter.drawText(text.topLeft + QPoint(0, painter.fontMetrics().ascent()), text.text);
 }
 
@@ -143,7 +131,7 @@ NewsOutcome writePdf(const QString& file, const QPageLayout& layout, BKQuoteInte
         drawn = charactersOf(pages);
     }
     QByteArray& pdf = buffer.buffer();
-    NameDrawnCharacters(pdf, drawn, pageFont(backEnd, pointSize));
+    NameDrawnCharacters(pdf, drawn, PageFont(backEnd, pointSize, Shaping::None));
     if (const auto why = WriteWholeFile(file, pdf))
         return failure(backEnd, QDir::toNativeSeparators(file), *why);
     return outcome;

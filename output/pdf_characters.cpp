@@ -16,7 +16,7 @@ namespace {
 
 constexpr int digits = 4;  // of a character in the file: "<4E00>"
 
-// The faces in which the characters are drawn, each once.
+// The faces in which the characters are drawn, each once; not the boxes that stand for what no face has.
 QList<QRawFont> facesOf(const QString& characters, const QFont& font) {
     QTextLayout layout(characters, font);
     layout.beginLayout();
@@ -24,8 +24,9 @@ QList<QRawFont> facesOf(const QString& characters, const QFont& font) {
     layout.endLayout();
     QList<QRawFont> faces;
     for (const QGlyphRun& run : layout.glyphRuns()) {
-        if (!faces.contains(run.rawFont()))
-            faces.append(run.rawFont());
+        const QRawFont face = run.rawFont();
+        if (!face.fontTable("cmap").isEmpty() && !faces.contains(face))
+            faces.append(face);
     }
     return faces;
 }

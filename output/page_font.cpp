@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "output/page_font.h"
+
+#include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/sync_info.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int longestFaceName = 31;
+constexpr char32_t firstWholeHangul = 0x3130;  // those before are parts that join
+
+bool standsByItself(char32_t character) {
+    switch (QChar::script(character)) {
+        case QChar::Script_Common:
+        case QChar::Script_Latin:
+        case QChar::Script_Greek:
+        case QChar::Script_Cyrillic:
+        case QChar::Script_Han:
+        case QChar::Script_Hiragana:
+        case QChar::Script_Katakana:
+        case QChar::Script_Bopomofo:
+            return true;
+        case QChar::Script_Hangul:
+            return character >= firstWholeHangul;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+Shaping ShapingFor(const QString& text) {
+    const QList<uint> characters = text.toUcs4();
+    return std::all_of(characters.begin(), characters.end(), standsByItself) ? Shaping::None : Shaping::Full;
+}
+
+QFont PageFont(BKQuoteInterface& backEnd, int pixelSize, Shaping shaping) {
+    QFont font;
+    font.setFamilies(QStringList{LangText(backEnd, keys::printFont).left(longestFaceName)} +
+                     CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont().families());
+    font.setPixelSize(std::max(pixelSize, 1));
+    font.setWeight(QFont::Normal);
+    if (shaping == Shaping::None)
+        font.setStyleStrategy(QFont::PreferNoShaping);
+    return font;
+}
