@@ -9,12 +9,24 @@
 
 // What a row index takes for the same: the same number of the same local day.
 
-inline std::uint64_t MixedHash(std::uint64_t first, const CHeadlineTable& entry) {
+// Spreads the bits of two numbers over all of the result.
+inline std::uint64_t MixedBits(std::uint64_t first, std::uint64_t second) {
     std::uint64_t h = first * 0x9E3779B97F4A7C15U;
-    h ^= (static_cast<std::uint64_t>(static_cast<std::uint32_t>(entry.sequence)) << 8) + entry.service;
+    h ^= second;
     h = (h ^ (h >> 29)) * 0xBF58476D1CE4E5B9U;
     h = (h ^ (h >> 32)) * 0x94D049BB133111EBU;
     return h ^ (h >> 31);
+}
+
+// The leading half, by which a row finds its part of the index, is that of its neighbours too: headlines come
+// with numbers in sequence, so the part that the next one needs has just been used. The rest is its own.
+inline std::uint64_t HashByNeighbourhood(std::uint64_t first, const CHeadlineTable& entry) {
+    constexpr int neighbours = 8;  // bits: 256 numbers, fewer than a full part of the index has room for
+    constexpr std::uint64_t leadingHalf = 0xFFFFFFFF00000000U;
+    const std::uint64_t number = static_cast<std::uint32_t>(entry.sequence);
+    const std::uint64_t leading = MixedBits(first, ((number >> neighbours) << 8) + entry.service);
+    const std::uint64_t own = MixedBits(first, (number << 8) + entry.service);
+    return (leading & leadingHalf) | (own & ~leadingHalf);
 }
 
 inline bool HaveSameNumber(const CHeadlineTable& a, const HeadlineKey& b) {
@@ -24,7 +36,7 @@ inline bool HaveSameNumber(const CHeadlineTable& a, const HeadlineKey& b) {
 class SameNumberOnDay {
 public:
     std::uint64_t hash(const CHeadlineTable& entry) const {
-        return MixedHash(static_cast<std::uint64_t>(days.of(entry.time)), entry);
+        return HashByNeighbourhood(static_cast<std::uint64_t>(days.of(entry.time)), entry);
     }
     bool same(const CHeadlineTable& a, const CHeadlineTable& b) const {
         return HaveSameNumber(a, KeyOf(b)) && days.of(a.time) == days.of(b.time);
