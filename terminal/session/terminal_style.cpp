@@ -66,6 +66,13 @@ void drawTab(const QStyleOption& option, QPainter& painter) {
     painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
 }
 
+void drawHeaderSection(const QStyleOption& option, QPainter& painter) {
+    painter.fillRect(option.rect, option.palette.color(QPalette::Button));
+    painter.setPen(option.palette.color(QPalette::Mid));
+    painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
+    painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+}
+
 void drawArrow(const QStyle& style, const QStyleOption& option, const QRect& place, QPainter& painter,
                const QWidget* widget) {
     QStyleOption arrow(option);
@@ -126,6 +133,7 @@ void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             painter->setBrush(option->palette.color(QPalette::Base));
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
             break;
+        case PE_Frame:
         case PE_FrameMenu:
             painter->setPen(option->palette.color(QPalette::Mid));
             painter->setBrush(Qt::NoBrush);
@@ -149,6 +157,8 @@ void TerminalStyle::drawControl(ControlElement element, const QStyleOption* opti
     if (element == CE_TabBarTabShape && tab != nullptr &&
         (tab->shape == QTabBar::RoundedNorth || tab->shape == QTabBar::TriangularNorth)) {
         drawTab(*option, *painter);
+    } else if (element == CE_HeaderSection) {
+        drawHeaderSection(*option, *painter);
     } else if (element == CE_ToolBar) {
         painter->fillRect(option->rect, option->palette.color(QPalette::Window));
         painter->setPen(option->palette.color(QPalette::Mid));
@@ -161,6 +171,11 @@ void TerminalStyle::drawControl(ControlElement element, const QStyleOption* opti
 void TerminalStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                        QPainter* painter, const QWidget* widget) const {
     const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (control == CC_SpinBox) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        drawEditFrame(*option, *painter);
+        return;
+    }
     if (control != CC_ComboBox || combo == nullptr || !combo->frame) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
         return;
