@@ -85,6 +85,15 @@ inline constexpr QLatin1StringView reinput{"IDS_NEWSCTRLVIEW_STRING_REINPUT"};
 inline constexpr QLatin1StringView invalidValue{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE"};
 inline constexpr QLatin1StringView invalidPaste{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_PASTE"};
 
+// What empty lists say. "%1": the key that opens the dialog.
+inline constexpr QLatin1StringView hintNoKeySet{"IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET"};
+inline constexpr QLatin1StringView hintNoMatch{"IDS_NEWSCTRLVIEW_HINT_NO_MATCH"};
+inline constexpr QLatin1StringView hintNoWarningTerm{"IDS_NEWSCTRLVIEW_HINT_NO_WARNING_TERM"};
+// "%2": the keywords in force.
+inline constexpr QLatin1StringView hintWarningTerm{"IDS_NEWSCTRLVIEW_HINT_WARNING_TERM"};
+// "%2": the key that goes to the search box.
+inline constexpr QLatin1StringView hintSearch{"IDS_NEWSCTRLVIEW_HINT_SEARCH"};
+
 // What controls without a text are called.
 inline constexpr QLatin1StringView nameOfModes{"IDS_NEWSCTRLVIEW_NAME_MODES"};
 inline constexpr QLatin1StringView nameOfDate{"IDS_NEWSCTRLVIEW_NAME_DATE"};

@@ -57,6 +57,8 @@ bool TRVNewsCtrlView::OnCommand(int id) {
         {ids::tabStrip, &TRVNewsCtrlView::OnSelchangeTabMode},
         {ids::searchButton, &TRVNewsCtrlView::OnSearch},
         {ids::dealsSearchButton, &TRVNewsCtrlView::OnDealsSearchDlg},
+        {ids::relationSearchButton, &TRVNewsCtrlView::OnRelationSearchDlg},
+        {ids::warningSearchButton, &TRVNewsCtrlView::OnWarningSearchDlg},
         {ids::showTypeButton, &TRVNewsCtrlView::OnBtnChangeShowType},
         {ids::categoryCombo, &TRVNewsCtrlView::OnSelchangeComboIndex},
         {ids::symbolCombo, &TRVNewsCtrlView::OnSelchangeComboSymbol},

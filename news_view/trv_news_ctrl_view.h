@@ -163,6 +163,12 @@ public:
     // The user composes the search of the search mode; unless he cancels it is sent. What he changed stays
     // in force in either case.
     void OnDealsSearchDlg();
+    // The user composes key sets and ticks those whose news the relation-search list is to hold. None is
+    // ticked any more when he cancels.
+    void OnRelationSearchDlg();
+    // The user manages the warning terms; unless he cancels the chosen one is what the warning-term mode
+    // sends, and it is sent. The search dialog starts from it then.
+    void OnWarningSearchDlg();
     // Sends the search of the current mode to the selected services and shows what is at hand for it. Nothing
     // in modes without searches.
     void OnDealsSearch();
@@ -316,6 +322,9 @@ private:
     void vStopWaiting();
     void vSearchForPushed();
     void vSearchForSymbol(const CSymbolInfo& symbol);
+    void vSetTickedKeySets(std::vector<CNewsKey> ticked);
+    // What an empty list says: how the user fills it.
+    void vLoadHints();
     void vUpdateSymbolPicker(const std::vector<CSymbolUpdateInfo>& updates);
     // Printing and saving.
     std::vector<CHeadlineTable> vSelectedEntries() const;

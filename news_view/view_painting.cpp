@@ -158,6 +158,7 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
         return;
     controls.vLoadLanguageString();
     vLoadToolTips();
+    vLoadHints();
     stage.pGetDialog()->vLoadLanguageString();
     for (int list = 0; list < listCount; ++list) {
         if (CSuperSheetWnd* sheet = Sheet(list)) {

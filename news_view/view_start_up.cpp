@@ -69,7 +69,7 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
         controls.CreateFunctionBtn();
     }
     services.vInitialNewsService(*reader, settingsPath, *this);
-    searches.memory = SearchMemory::read(*reader, settingsPath);
+    searches.vRestore(SearchMemory::read(*reader, settingsPath));
     bInitialTransferCatObject();
     bInitialTransferWarrantCatObject();
     vViewCreate();
@@ -77,6 +77,7 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
         stage.pGetPane() != nullptr ? static_cast<StoryShowType>(settings.newsShowType) : StoryShowType::None;
     controls.vLoadLanguageString();
     vLoadToolTips();
+    vLoadHints();
     vSetTabOrder();
     vCreateShortcuts();
     vChangeCast();

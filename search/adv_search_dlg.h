@@ -7,7 +7,7 @@
 #include "search/recent_searches.h"
 
 class QButtonGroup;
-class QTableWidget;
+class ReportList;
 
 // The modal dialog in which a keyword search is composed: its keywords, where and how they must match, or one
 // of the searches made last.
@@ -30,7 +30,6 @@ private:
     QLayout* pCreateChoices();
     QLayout* pCreateRecent();
     void vCreateRecentList();
-    void vCreateRecentColumns();
     QLayout* pCreateEnd();
     void vFillRecent();
     void vLoadCondition();
@@ -41,5 +40,5 @@ private:
     RecentSearches recent;
     QButtonGroup* scope = nullptr;   // button ids: the scope
     QButtonGroup* method = nullptr;  // button ids: 0 any keyword, 1 all keywords
-    QTableWidget* recentList = nullptr;
+    ReportList* recentList = nullptr;
 };

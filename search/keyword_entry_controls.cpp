@@ -5,6 +5,7 @@
 #include "host/controls/roomy_rows.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
+#include "search/dialog_controls.h"
 #include "search/keyword_entry_dlg.h"
 #include "search/search_ids.h"
 #include "search/search_keys.h"
@@ -59,24 +60,6 @@ QPixmap pickerPicture(int side, qreal scale, const QColor& colour, const QColor&
 
 }  // namespace
 
-QPushButton* KeywordEntryDlg::pAddButton(int id, const QString& text) {
-    auto* button = add<QPushButton>(this, id);
-    button->setText(text);
-    button->setAutoDefault(false);
-    button->installEventFilter(this);
-    return button;
-}
-
-QLabel* KeywordEntryDlg::pAddCaption(int id, const QString& text) {
-    auto* caption = add<QLabel>(this, id);
-    caption->setTextFormat(Qt::PlainText);
-    caption->setText(text);
-    QFont bold = caption->font();
-    bold.setBold(true);
-    caption->setFont(bold);
-    return caption;
-}
-
 QGridLayout* KeywordEntryDlg::pCreateEntry() {
     vCreateControls();
     vLoadPickerBitmaps();
@@ -93,21 +76,21 @@ void KeywordEntryDlg::vCreateControls() {
     keywordEdit = add<QLineEdit>(this, search_ids::keywordEdit, Text(search_keys::keywordHint));
     keywordEdit->setPlaceholderText(Text(search_keys::keywordHint));
     poolList = addList(this, search_ids::pool, Text(search_keys::keywordTab));
-    poolButton = pAddButton(search_ids::removeFromPool, Text(search_keys::removeFromPool));
+    poolButton = AddButton(this, search_ids::removeFromPool, Text(search_keys::removeFromPool));
     symbolEdit = add<QLineEdit>(this, search_ids::symbolEdit, Text(search_keys::symbolHint));
     symbolEdit->setPlaceholderText(Text(search_keys::symbolHint));
     pickerButton = add<CHoverButton>(this, search_ids::picker, Text(search_keys::picker));
     pickerButton->setToolTip(Text(search_keys::picker).toHtmlEscaped());
     pickerButton->setAutoDefault(false);
     candidateList = addList(this, search_ids::candidates, Text(search_keys::symbolTab));
-    addButton = pAddButton(search_ids::add, Text(search_keys::add));
-    removeButton = pAddButton(search_ids::remove, Text(search_keys::remove));
-    removeAllButton = pAddButton(removeAllId, Text(search_keys::removeAll));
+    addButton = AddButton(this, search_ids::add, Text(search_keys::add));
+    removeButton = AddButton(this, search_ids::remove, Text(search_keys::remove));
+    removeAllButton = AddButton(this, removeAll.id, Text(search_keys::removeAll));
     keywordList = addList(this, search_ids::keywords, Text(search_keys::keywords));
-    addTypedButton = pAddButton(search_ids::addTyped, {});
+    addTypedButton = AddButton(this, search_ids::addTyped, {});
     addTypedButton->setFocusPolicy(Qt::NoFocus);
     addTypedButton->hide();
-    okButton = pAddButton(search_ids::ok, Text(search_keys::ok));
+    okButton = AddButton(this, search_ids::ok, Text(search_keys::ok));
     for (QWidget* control : {static_cast<QWidget*>(keywordEdit), static_cast<QWidget*>(poolList),
                              static_cast<QWidget*>(symbolEdit), static_cast<QWidget*>(pickerButton),
                              static_cast<QWidget*>(candidateList), static_cast<QWidget*>(keywordList)})
@@ -158,7 +141,7 @@ QGridLayout* KeywordEntryDlg::pLayOut() {
     grid->addLayout(lists, 2, 0);
     grid->addWidget(poolButton, 3, 0, Qt::AlignLeft);
     grid->addLayout(buttons, 1, 1, 2, 1);
-    grid->addWidget(pAddCaption(search_ids::keywordsCaption, Text(search_keys::keywords)), 0, 2,
+    grid->addWidget(AddCaption(this, search_ids::keywordsCaption, Text(search_keys::keywords)), 0, 2,
                     Qt::AlignLeft | Qt::AlignVCenter);
     grid->addWidget(keywordList, 1, 2, 3, 1);
     grid->setColumnStretch(0, 1);

@@ -2,20 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "search/keyword_entry_dlg.h"
 
-#include "headline_list/language_keys.h"
 #include "host/contract/search_control.h"
 #include "host/controls/hover_button.h"
 #include "host/controls/quote_trv_change_symbol.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/xtp_tab_control.h"
+#include "search/condition_texts.h"
+#include "search/dialog_controls.h"
 #include "search/search_desk.h"
 #include "search/search_ids.h"
-#include "search/search_keys.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTimerEvent>
 
@@ -56,13 +55,13 @@ void selectAlone(QListWidget& list, int row) {
 
 }  // namespace
 
-KeywordEntryDlg::KeywordEntryDlg(KeywordList conditionKeywords, KeywordList keywordPool, int idOfRemoveAll,
-                                 QWidget* parent)
+KeywordEntryDlg::KeywordEntryDlg(KeywordList conditionKeywords, KeywordList keywordPool,
+                                 const RemoveAll& removing, QWidget* parent)
     : QDialog(parent),
       backEnd(*BKQuoteInterface::GetBKInterface()),
       keywords(std::move(conditionKeywords)),
       pool(std::move(keywordPool)),
-      removeAllId(idOfRemoveAll) {}
+      removeAll(removing) {}
 
 int KeywordEntryDlg::DoModal() {
     return exec() == Accepted ? idOk : idCancel;
@@ -73,7 +72,7 @@ void KeywordEntryDlg::OnOK() {
 }
 
 QString KeywordEntryDlg::Text(QLatin1StringView key) const {
-    return LangText(backEnd, key);
+    return DialogText(key);
 }
 
 // --- Tabs ---
@@ -173,14 +172,7 @@ void KeywordEntryDlg::vRemoveFromPool() {
 }
 
 void KeywordEntryDlg::vRemoveAll() {
-    if (keywords.empty())
-        return;
-    const QPointer<KeywordEntryDlg> self(this);
-    auto* box = new QMessageBox(QMessageBox::Question, {}, Text(search_keys::askRemoveAll),
-                                QMessageBox::Yes | QMessageBox::No, this);
-    box->setTextFormat(Qt::PlainText);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    if (box->exec() == QMessageBox::Yes && self)
+    if (!keywords.empty() && AskYesNo(this, Text(removeAll.question)))
         vSetKeywords({});
 }
 

@@ -14,7 +14,6 @@ class BKQuoteInterface;
 class CHoverButton;
 class CXTPTabControl;
 class QGridLayout;
-class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
@@ -40,13 +39,16 @@ public:
     const KeywordList& Pool() const { return pool; }
 
 protected:
-    // `removeAllId`: the number of the button that removes all keywords. A back end has been installed.
-    KeywordEntryDlg(KeywordList keywords, KeywordList pool, int removeAllId, QWidget* parent);
+    // The button that removes all keywords: its number, and what it asks first.
+    struct RemoveAll {
+        int id;
+        QLatin1StringView question;
+    };
+    // A back end has been installed.
+    KeywordEntryDlg(KeywordList keywords, KeywordList pool, const RemoveAll& removeAll, QWidget* parent);
 
     // Creates the controls and sets their texts.
     QGridLayout* pCreateEntry();
-    QPushButton* pAddButton(int id, const QString& text);
-    QLabel* pAddCaption(int id, const QString& text);
     QString Text(QLatin1StringView key) const;
 
     // Replaces the keywords of the condition; those at `selected` are selected in their list.
@@ -56,6 +58,8 @@ protected:
 
     // OK was pressed: ends the dialog.
     virtual void OnOK();
+    // The button that Enter presses while a control has the keyboard.
+    virtual QPushButton* pDefaultFor(const QWidget* focus) const;
 
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -82,12 +86,11 @@ private:
     void vFindCandidates();
     void vShowPicker();
     void vTakePicked(quintptr symbol);
-    QPushButton* pDefaultFor(const QWidget* focus) const;
 
     BKQuoteInterface& backEnd;
     KeywordList keywords;
     KeywordList pool;
-    const int removeAllId;
+    const RemoveAll removeAll;
     int currentTab = 0;
     QBasicTimer candidateTimer;
     QPointer<QuoteTRVChangeSymbol> symbolPicker;

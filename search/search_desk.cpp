@@ -7,6 +7,12 @@
 #include <algorithm>
 #include <utility>
 
+void SearchDesk::vRestore(SearchMemory kept) {
+    memory = std::move(kept);
+    if (const CSearch* inForce = memory.warnings.Chosen())
+        warningTerm = *inForce;
+}
+
 CSearch* SearchDesk::ConditionOf(ListIndex mode) {
     switch (mode) {
         case ListIndex::Search:

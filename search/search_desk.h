@@ -26,6 +26,9 @@ public:
     CSearch warningTerm;  // what the warning-term mode sends
     SearchMemory memory;
 
+    // Takes over what was kept; the warning item in force becomes what the warning-term mode sends.
+    void vRestore(SearchMemory kept);
+
     // The condition that a mode sends; null for a mode without searches.
     CSearch* ConditionOf(ListIndex mode);
     // The condition that a list's rows were found under, with its keywords to be marked; empty for others.

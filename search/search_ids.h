@@ -35,6 +35,34 @@ inline constexpr int scopeCaption = 2081;
 inline constexpr int methodCaption = 2082;
 inline constexpr int recentCaption = 2083;
 
+// Key sets.
+inline constexpr int newsKeySearch = 2014;  // the dialog itself
+inline constexpr int allNewsTypes = 2034;
+inline constexpr int newsTypes = 2062;
+inline constexpr int removeAllOfKeySet = 2068;
+inline constexpr int newsKeyTitle = 2088;
+inline constexpr int keySets = 2089;
+inline constexpr int saveKeySet = 2091;
+inline constexpr int deleteKeySets = 2092;
+inline constexpr int newsTypesCaption = 2095;
+inline constexpr int allKeySets = 2096;
+
+// Warning terms.
+inline constexpr int warnTerms = 2015;  // the dialog itself
+inline constexpr int addWarning = 3;
+inline constexpr int editWarning = 4;
+inline constexpr int warnings = 2047;
+inline constexpr int deleteWarning = 2051;
+
+// One warning term.
+inline constexpr int warnTermConfig = 2016;  // the dialog itself
+inline constexpr int warningEdit = 2043;
+inline constexpr int warningAnd = 2057;
+inline constexpr int warningHeadlines = 2058;
+inline constexpr int warningOr = 2059;
+inline constexpr int warningStories = 2060;
+inline constexpr int warningBoth = 2061;
+
 inline constexpr int candidateDelayMs = 200;
 
 }  // namespace search_ids

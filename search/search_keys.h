@@ -33,4 +33,29 @@ inline constexpr QLatin1StringView contentsColumn{"IDS_DIALOG-DEAL-SEARCH_SEARCH
 inline constexpr QLatin1StringView ok{"IDS_DIALOG-DEAL-SEARCH_IDOK"};
 inline constexpr QLatin1StringView cancel{"IDS_DIALOG-DEAL-SEARCH_WARNING_IDCANCEL"};
 
+// Key sets.
+inline constexpr QLatin1StringView relationTitle{"IDS_DIALOG-DEAL-SEARCH_RELATION_TITLE"};
+inline constexpr QLatin1StringView addKeySet{"IDS_DIALOG-DEAL-SEARCH_ADD_KEYSET"};
+inline constexpr QLatin1StringView editKeySet{"IDS_DIALOG-DEAL-SEARCH_EDIT_KEYSET"};
+inline constexpr QLatin1StringView deleteKeySets{"IDS_DIALOG-DEAL-SEARCH_DEL_KEYSET"};
+inline constexpr QLatin1StringView newsType{"IDS_DIALOG-DEAL-SEARCH_NEWSTYPE"};
+inline constexpr QLatin1StringView allNewsTypes{"IDS_DIALOG-DEAL-SEARCH_ALL_NEWSTYPE"};
+inline constexpr QLatin1StringView selectAllNewsTypes{"IDS_DIALOG-DEAL-SEARCH_NEWS_SELALL"};
+inline constexpr QLatin1StringView selectAllKeySets{"IDS_DIALOG-DEAL-SEARCH_KEYSET_SELALL"};
+inline constexpr QLatin1StringView noNewsType{"IDS_DIALOG-DEAL-SEARCH_ERROR_NEWSTYPE"};
+inline constexpr QLatin1StringView noKeyword{"IDS_DIALOG-DEAL-SEARCH_ERROR_NEWSKEY"};
+// "%1": how many.
+inline constexpr QLatin1StringView askDeleteKeySets{"IDS_DIALOG-DEAL-SEARCH_REQDEL_KEY"};
+inline constexpr QLatin1StringView askRemoveAllOfKeySet{"IDS_DIALOG-DEAL-SEARCH_REQDELALL_KEY"};
+
+// Warning terms.
+inline constexpr QLatin1StringView warningTitle{"IDS_DIALOG-DEAL-SEARCH_WARNING_TITLE"};
+inline constexpr QLatin1StringView addWarning{"IDS_DIALOG-DEAL-SEARCH_WARNING_ADD"};
+inline constexpr QLatin1StringView editWarning{"IDS_DIALOG-DEAL-SEARCH_WARNING_EDIT"};
+inline constexpr QLatin1StringView deleteWarning{"IDS_DIALOG-DEAL-SEARCH_WARNING_DEL"};
+inline constexpr QLatin1StringView noWarningSelected{"IDS_DIALOG-DEAL-SEARCH_ERRMSG"};
+inline constexpr QLatin1StringView warningItemTitle{"IDS_DIALOG-DEAL-SEARCH_WARNING_ITEM_TITLE"};
+inline constexpr QLatin1StringView warningHint{"IDS_DIALOG-DEAL-SEARCH_WARNING_HINT"};
+inline constexpr QLatin1StringView warningOk{"IDS_DIALOG-DEAL-SEARCH_WARNING_IDOK"};
+
 }  // namespace search_keys

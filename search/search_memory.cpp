@@ -2,39 +2,89 @@
 // SPDX-License-Identifier: MIT
 #include "search/search_memory.h"
 
+#include "search/key_set_text.h"
+
 #include <QSet>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
 const QString poolKey = u"!RVNEWS_NEWSSEARCH_KEYWORD"_s;
 const QString recentKey = u"!RVNEWS_NEWSSEARCH_NEARTENSEARCHINFO"_s;
+const QString keySetsKey = u"!RVNEWS_NEWSKEY_KEYWORDSETTING"_s;
+const QString warningsKey = u"WarningSearchItems"_s;
+const QString chosenWarningKey = u"WarningSearchItemOrder"_s;
+
+KeywordList poolOf(const QStringList& texts) {
+    KeywordList pool;
+    QSet<QString> known;
+    for (const QString& text : texts) {
+        if (!text.isEmpty() && !known.contains(text))
+            pool.push_back(text);
+        known.insert(text);
+    }
+    return pool;
+}
+
+RecentSearches recentOf(const QStringList& texts) {
+    RecentSearches recent;
+    for (const QString& text : texts) {
+        CSearch condition;
+        if (condition.LoadStringA(text))
+            KeepRecentSearch(recent, condition);
+    }
+    return recent;
+}
+
+std::vector<CNewsKey> keySetsOf(const QStringList& texts) {
+    std::vector<CNewsKey> keySets;
+    for (const QString& text : texts) {
+        if (const auto keySet = KeySetOfText(text))
+            keySets.push_back(*keySet);
+    }
+    return keySets;
+}
+
+// The number counts the stored texts: it stays with its item when one before it is damaged.
+WarningItems warningsOf(const QStringList& texts, int chosen) {
+    WarningItems warnings;
+    for (int number = 1; number <= texts.size(); ++number) {
+        CSearch condition;
+        if (condition.LoadStringA(texts[number - 1]) && warnings.Add(condition) && number == chosen)
+            warnings.chosen = static_cast<int>(warnings.items.size());
+    }
+    return warnings;
+}
+
+QStringList textsOf(const std::vector<CSearch>& conditions) {
+    QStringList texts;
+    for (const CSearch& condition : conditions)
+        texts.append(condition.GetString());
+    return texts;
+}
+
 }  // namespace
 
 SearchMemory SearchMemory::read(const TRVCfgIO2& reader, const ViewSettingPath& path) {
-    SearchMemory memory;
-    QStringList texts;
-    reader.GetViewInfo(path, poolKey, texts);
-    QSet<QString> known;
-    for (const QString& text : std::as_const(texts)) {
-        if (!text.isEmpty() && !known.contains(text))
-            memory.keywordPool.push_back(text);
-        known.insert(text);
-    }
-    texts.clear();
-    reader.GetViewInfo(path, recentKey, texts);
-    for (const QString& text : std::as_const(texts)) {
-        CSearch condition;
-        if (condition.LoadStringA(text))
-            KeepRecentSearch(memory.recent, condition);
-    }
-    return memory;
+    const auto textsAt = [&](const QString& key) {
+        QStringList texts;
+        reader.GetViewInfo(path, key, texts);
+        return texts;
+    };
+    int chosen = 0;
+    reader.GetViewInfo(path, chosenWarningKey, chosen);
+    return {poolOf(textsAt(poolKey)), recentOf(textsAt(recentKey)), keySetsOf(textsAt(keySetsKey)),
+            warningsOf(textsAt(warningsKey), chosen)};
 }
 
 void SearchMemory::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
-    QStringList conditions;
-    for (const CSearch& condition : recent)
-        conditions.append(condition.GetString());
+    QStringList keySetTexts;
+    for (const CNewsKey& keySet : keySets)
+        keySetTexts.append(TextOfKeySet(keySet));
     writer.SetViewInfo(path, poolKey, QStringList(keywordPool.begin(), keywordPool.end()));
-    writer.SetViewInfo(path, recentKey, conditions);
+    writer.SetViewInfo(path, recentKey, textsOf(recent));
+    writer.SetViewInfo(path, keySetsKey, keySetTexts);
+    writer.SetViewInfo(path, warningsKey, textsOf(warnings.items));
+    writer.SetViewInfo(path, chosenWarningKey, warnings.chosen);
 }

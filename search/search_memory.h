@@ -2,14 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/news_key.h"
 #include "host/contract/cfg_io.h"
 #include "search/keyword_list.h"
 #include "search/recent_searches.h"
+#include "search/warning_items.h"
 
-// What a view keeps of its user's searches: every keyword ever typed, and the searches made last.
+// What a view keeps of its user's searches: every keyword ever typed, the searches made last, and the stored
+// conditions of its standing searches.
 struct SearchMemory {
     KeywordList keywordPool;
     RecentSearches recent;
+    std::vector<CNewsKey> keySets;
+    WarningItems warnings;
 
     // What is absent is empty; entries that are damaged, repeat, or are too many are left out.
     static SearchMemory read(const TRVCfgIO2& reader, const ViewSettingPath& path);

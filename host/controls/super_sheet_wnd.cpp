@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QHeaderView>
+#include <QPainter>
 #include <QResizeEvent>
 #include <QScrollBar>
 
@@ -211,4 +212,23 @@ void CSuperSheetWnd::initStyleOption(QStyleOptionFrame* option) const {
     QColor faint = palette().color(QPalette::WindowText);
     faint.setAlpha(80);
     option->palette.setColor(QPalette::WindowText, frameColour.isValid() ? frameColour : faint);
+}
+
+void CSuperSheetWnd::vSetEmptyText(const QString& text) {
+    emptyText = text;
+    setAccessibleDescription(text);
+    viewport()->update();
+}
+
+void CSuperSheetWnd::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (emptyText.isEmpty() || iGetRowCount() > 0)
+        return;
+    const int margin = 2 * fontMetrics().height();
+    QPainter painter(viewport());
+    QColor colour = delegate->colours.Text(palette());
+    colour.setAlphaF(0.7F);
+    painter.setPen(colour);
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, emptyText);
 }

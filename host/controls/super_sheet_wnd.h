@@ -59,6 +59,8 @@ public:
     void vDeleteRow(int row);
     void vMoveRowToTop(int row);
     int iGetRowCount() const;
+    // What stands in the middle of the sheet while it has no rows.
+    void vSetEmptyText(const QString& text);
     // The cells of a row have been written: it is drawn again.
     void vInvalidateRow(int row);
     // Row 0 has the first row colour again. (A row keeps its colour while rows come and go above the others.)
@@ -122,6 +124,7 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void initStyleOption(QStyleOptionFrame* option) const override;
     bool viewportEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
@@ -144,6 +147,7 @@ private:
     SheetHeader* header;
     std::vector<int> widths;  // as set or dragged, before stretching; 0: hidden
     QColor frameColour;
+    QString emptyText;
     QSize toldSize;
     int wantedRowHeight = 20;
     int wantedHeaderHeight = 20;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/terminal_style.h"
 
+#include "terminal/session/indicators.h"
+
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -121,6 +123,13 @@ void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     switch (element) {
         case PE_PanelButtonCommand:
             drawPlate(*option, *painter);
+            break;
+        case PE_IndicatorCheckBox:
+        case PE_IndicatorItemViewItemCheck:
+            drawCheckBox(*option, *painter);
+            break;
+        case PE_IndicatorRadioButton:
+            drawRadioButton(*option, *painter);
             break;
         case PE_FrameLineEdit:
             drawEditFrame(*option, *painter);

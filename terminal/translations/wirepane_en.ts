@@ -27,6 +27,14 @@
         <source></source>
         <translation>&amp;Add ▸</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ADD_KEYSET">
+        <source></source>
+        <translation>Save as &amp;New Key Set</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ALL_NEWSTYPE">
+        <source></source>
+        <translation>All</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_AND_BUTTON">
         <source></source>
         <translation>All &amp;keywords</translation>
@@ -46,6 +54,26 @@
     <message id="IDS_DIALOG-DEAL-SEARCH_DEL_KEY">
         <source></source>
         <translation>&amp;Forget keyword</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DEL_KEYSET">
+        <source></source>
+        <translation>&amp;Delete Ticked</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_EDIT_KEYSET">
+        <source></source>
+        <translation>Save Cha&amp;nges</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ERRMSG">
+        <source></source>
+        <translation>Select a warning term first.</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ERROR_NEWSKEY">
+        <source></source>
+        <translation>Add at least one keyword.</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ERROR_NEWSTYPE">
+        <source></source>
+        <translation>Tick at least one news type.</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_GROUP1">
         <source></source>
@@ -67,6 +95,10 @@
         <source></source>
         <translation>S&amp;earch</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_KEYSET_SELALL">
+        <source></source>
+        <translation>Tick all &amp;sets</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_KEYWORD_HINT">
         <source></source>
         <translation>Keyword, then Enter</translation>
@@ -74,6 +106,14 @@
     <message id="IDS_DIALOG-DEAL-SEARCH_NEAR10FILTER">
         <source></source>
         <translation>Recent searches</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NEWSTYPE">
+        <source></source>
+        <translation>News types</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NEWS_SELALL">
+        <source></source>
+        <translation>All news &amp;types</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_OR_BUTTON">
         <source></source>
@@ -87,9 +127,21 @@
         <source></source>
         <translation>Look in</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_RELATION_TITLE">
+        <source></source>
+        <translation>Key Sets</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_REQDELALL">
         <source></source>
         <translation>Remove all keywords from this search?</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REQDELALL_KEY">
+        <source></source>
+        <translation>Remove all keywords from this key set?</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REQDEL_KEY">
+        <source></source>
+        <translation>Key sets to delete: %1. Go on?</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_CONTENTS">
         <source></source>
@@ -119,9 +171,37 @@
         <source></source>
         <translation>Advanced Search</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_ADD">
+        <source></source>
+        <translation>&amp;Add…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_DEL">
+        <source></source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_EDIT">
+        <source></source>
+        <translation>Ed&amp;it…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_HINT">
+        <source></source>
+        <translation>Separated by blanks or commas</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_IDCANCEL">
         <source></source>
         <translation>Cancel</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_IDOK">
+        <source></source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_ITEM_TITLE">
+        <source></source>
+        <translation>Warning Term</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_TITLE">
+        <source></source>
+        <translation>Warning Terms</translation>
     </message>
     <message id="IDS_DIALOG-STORY_NEXT_BUTTON">
         <source></source>
@@ -178,6 +258,26 @@
     <message id="IDS_NEWSCTRLVIEW_BUTTON_WARNING_SEARCH">
         <source></source>
         <translation>Terms</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET">
+        <source></source>
+        <translation>No key set is ticked: this list takes no news. Press %1 to choose key sets.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_MATCH">
+        <source></source>
+        <translation>No news of today matches the ticked key sets yet. Press %1 to choose others.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_WARNING_TERM">
+        <source></source>
+        <translation>No warning term is chosen. Press %1 to choose one.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_SEARCH">
+        <source></source>
+        <translation>Press %2 and type what to search for, or %1 to compose a search.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_WARNING_TERM">
+        <source></source>
+        <translation>Warning term: %2. Press %1 to search for it, or for another one.</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_NAME_DATE">
         <source></source>

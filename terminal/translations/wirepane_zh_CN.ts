@@ -27,6 +27,14 @@
         <source></source>
         <translation>加入(&amp;A) ▸</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ADD_KEYSET">
+        <source></source>
+        <translation>保存为新组(&amp;N)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ALL_NEWSTYPE">
+        <source></source>
+        <translation>全部</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_AND_BUTTON">
         <source></source>
         <translation>全部关键词(&amp;K)</translation>
@@ -46,6 +54,26 @@
     <message id="IDS_DIALOG-DEAL-SEARCH_DEL_KEY">
         <source></source>
         <translation>删除已存关键词(&amp;F)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DEL_KEYSET">
+        <source></source>
+        <translation>删除勾选的组(&amp;D)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_EDIT_KEYSET">
+        <source></source>
+        <translation>保存更改(&amp;N)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ERRMSG">
+        <source></source>
+        <translation>请先选择一个警示词。</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ERROR_NEWSKEY">
+        <source></source>
+        <translation>请至少添加一个关键词。</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ERROR_NEWSTYPE">
+        <source></source>
+        <translation>请至少勾选一个新闻类别。</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_GROUP1">
         <source></source>
@@ -67,6 +95,10 @@
         <source></source>
         <translation>搜索(&amp;E)</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_KEYSET_SELALL">
+        <source></source>
+        <translation>勾选全部(&amp;S)</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_KEYWORD_HINT">
         <source></source>
         <translation>输入关键词后按 Enter</translation>
@@ -74,6 +106,14 @@
     <message id="IDS_DIALOG-DEAL-SEARCH_NEAR10FILTER">
         <source></source>
         <translation>最近十次搜索</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NEWSTYPE">
+        <source></source>
+        <translation>新闻类别</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NEWS_SELALL">
+        <source></source>
+        <translation>全部类别(&amp;T)</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_OR_BUTTON">
         <source></source>
@@ -87,9 +127,21 @@
         <source></source>
         <translation>搜索范围</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_RELATION_TITLE">
+        <source></source>
+        <translation>关键词组</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_REQDELALL">
         <source></source>
         <translation>要移除这次搜索的所有关键词吗？</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REQDELALL_KEY">
+        <source></source>
+        <translation>要移除这一组的所有关键词吗？</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REQDEL_KEY">
+        <source></source>
+        <translation>要删除 %1 组关键词吗？</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_CONTENTS">
         <source></source>
@@ -119,9 +171,37 @@
         <source></source>
         <translation>高级搜索</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_ADD">
+        <source></source>
+        <translation>添加(&amp;A)…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_DEL">
+        <source></source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_EDIT">
+        <source></source>
+        <translation>编辑(&amp;I)…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_HINT">
+        <source></source>
+        <translation>以空格或逗号分隔</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_IDCANCEL">
         <source></source>
         <translation>取消</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_IDOK">
+        <source></source>
+        <translation>确定(&amp;O)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_ITEM_TITLE">
+        <source></source>
+        <translation>编辑警示词</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_TITLE">
+        <source></source>
+        <translation>警示词</translation>
     </message>
     <message id="IDS_DIALOG-STORY_NEXT_BUTTON">
         <source></source>
@@ -178,6 +258,26 @@
     <message id="IDS_NEWSCTRLVIEW_BUTTON_WARNING_SEARCH">
         <source></source>
         <translation>警示词</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET">
+        <source></source>
+        <translation>尚未勾选关键词组，此列表不会收到新闻。按 %1 选择。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_MATCH">
+        <source></source>
+        <translation>今天还没有符合所选关键词组的新闻。按 %1 改选。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_WARNING_TERM">
+        <source></source>
+        <translation>尚未选择警示词。按 %1 选择。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_SEARCH">
+        <source></source>
+        <translation>按 %2 输入要搜索的文字，或按 %1 设置高级搜索。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_WARNING_TERM">
+        <source></source>
+        <translation>警示词：%2。按 %1 搜索或改选其他警示词。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_NAME_DATE">
         <source></source>
@@ -677,11 +777,11 @@
     </message>
     <message id="TERMINAL_SETTINGS_WARNING_SEARCH">
         <source></source>
-        <translation>预警词(&amp;W)</translation>
+        <translation>警示词(&amp;W)</translation>
     </message>
     <message id="TERMINAL_SETTINGS_WARNING_SEARCH_HELP">
         <source></source>
-        <translation>增加标签页，列出含有预警词的新闻。</translation>
+        <translation>增加标签页，列出含有警示词的新闻。</translation>
     </message>
     <message id="TERMINAL_SYMBOL_BAR">
         <source></source>

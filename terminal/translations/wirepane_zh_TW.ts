@@ -27,6 +27,14 @@
         <source></source>
         <translation>加入(&amp;A) ▸</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ADD_KEYSET">
+        <source></source>
+        <translation>儲存為新組(&amp;N)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ALL_NEWSTYPE">
+        <source></source>
+        <translation>全部</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_AND_BUTTON">
         <source></source>
         <translation>全部關鍵字(&amp;K)</translation>
@@ -46,6 +54,26 @@
     <message id="IDS_DIALOG-DEAL-SEARCH_DEL_KEY">
         <source></source>
         <translation>刪除已存關鍵字(&amp;F)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_DEL_KEYSET">
+        <source></source>
+        <translation>刪除勾選的組(&amp;D)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_EDIT_KEYSET">
+        <source></source>
+        <translation>儲存變更(&amp;N)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ERRMSG">
+        <source></source>
+        <translation>請先選取一個警示詞。</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ERROR_NEWSKEY">
+        <source></source>
+        <translation>請至少加入一個關鍵字。</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ERROR_NEWSTYPE">
+        <source></source>
+        <translation>請至少勾選一個新聞類別。</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_GROUP1">
         <source></source>
@@ -67,6 +95,10 @@
         <source></source>
         <translation>搜尋(&amp;E)</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_KEYSET_SELALL">
+        <source></source>
+        <translation>勾選全部(&amp;S)</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_KEYWORD_HINT">
         <source></source>
         <translation>輸入關鍵字後按 Enter</translation>
@@ -74,6 +106,14 @@
     <message id="IDS_DIALOG-DEAL-SEARCH_NEAR10FILTER">
         <source></source>
         <translation>最近十次搜尋</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NEWSTYPE">
+        <source></source>
+        <translation>新聞類別</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NEWS_SELALL">
+        <source></source>
+        <translation>全部類別(&amp;T)</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_OR_BUTTON">
         <source></source>
@@ -87,9 +127,21 @@
         <source></source>
         <translation>搜尋範圍</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_RELATION_TITLE">
+        <source></source>
+        <translation>關鍵字組</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_REQDELALL">
         <source></source>
         <translation>要移除這次搜尋的所有關鍵字嗎？</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REQDELALL_KEY">
+        <source></source>
+        <translation>要移除這一組的所有關鍵字嗎？</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REQDEL_KEY">
+        <source></source>
+        <translation>要刪除 %1 組關鍵字嗎？</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_SEARCH_CONTENTS">
         <source></source>
@@ -119,9 +171,37 @@
         <source></source>
         <translation>進階搜尋</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_ADD">
+        <source></source>
+        <translation>新增(&amp;A)…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_DEL">
+        <source></source>
+        <translation>刪除(&amp;D)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_EDIT">
+        <source></source>
+        <translation>編輯(&amp;I)…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_HINT">
+        <source></source>
+        <translation>以空格或逗號分隔</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_IDCANCEL">
         <source></source>
         <translation>取消</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_IDOK">
+        <source></source>
+        <translation>確定(&amp;O)</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_ITEM_TITLE">
+        <source></source>
+        <translation>編輯警示詞</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_WARNING_TITLE">
+        <source></source>
+        <translation>警示詞</translation>
     </message>
     <message id="IDS_DIALOG-STORY_NEXT_BUTTON">
         <source></source>
@@ -178,6 +258,26 @@
     <message id="IDS_NEWSCTRLVIEW_BUTTON_WARNING_SEARCH">
         <source></source>
         <translation>警示詞</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET">
+        <source></source>
+        <translation>尚未勾選關鍵字組，此清單不會收到新聞。按 %1 選擇。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_MATCH">
+        <source></source>
+        <translation>今天還沒有符合所選關鍵字組的新聞。按 %1 改選。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_WARNING_TERM">
+        <source></source>
+        <translation>尚未選擇警示詞。按 %1 選擇。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_SEARCH">
+        <source></source>
+        <translation>按 %2 輸入要搜尋的文字，或按 %1 設定進階搜尋。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_WARNING_TERM">
+        <source></source>
+        <translation>警示詞：%2。按 %1 搜尋或改選其他警示詞。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_NAME_DATE">
         <source></source>

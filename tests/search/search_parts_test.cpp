@@ -104,21 +104,39 @@ TEST(RecentSearches, KeepTheTenLastThatAskDifferently) {
 TEST(SearchMemory, SurvivesTheSettingsWithWhateverItHolds) {
     const ViewSettingPath path{u"Layout"_s, 1, 2, u"TRVNewsCtrlView"_s};
     MemoryCfgIO settings;
-    const SearchMemory memory{awkward, {condition(awkward, 2, 2), condition({u"one"_s})}};
+    const SearchMemory memory{awkward,
+                              {condition(awkward, 2, 2), condition({u"one"_s})},
+                              {CNewsKey(2, {3, 7}, awkward), CNewsKey(1, {CNewsKey::everyNewsType}, {})},
+                              {{condition(awkward, 1, 2), condition({u"two"_s})}, 2}};
     memory.write(settings, path);
     const SearchMemory read = SearchMemory::read(settings, path);
     EXPECT_EQ(read.keywordPool, memory.keywordPool);
     EXPECT_EQ(read.recent, memory.recent);
+    EXPECT_EQ(read.keySets, memory.keySets);
+    EXPECT_EQ(read.warnings.items, memory.warnings.items);
+    EXPECT_EQ(read.warnings.chosen, 2);
 
     settings.values[u"!RVNEWS_NEWSSEARCH_KEYWORD"_s] = QStringList{u"a"_s, {}, u"b"_s, u"a"_s};
     QStringList many{u"nonsense"_s};
     for (int i = 0; i < 12; ++i)
         many.append(condition({QString::number(i)}).GetString());
     settings.values[u"!RVNEWS_NEWSSEARCH_NEARTENSEARCHINFO"_s] = many;
+    settings.values[u"!RVNEWS_NEWSKEY_KEYWORDSETTING"_s] = QStringList{u"C:1"_s, u"C:1 T:3 K:a"_s};
+    settings.values[u"WarningSearchItems"_s] =
+        QStringList{u"nonsense"_s, condition({}).GetString(), condition({u"kept"_s}).GetString(),
+                    condition({u"in force"_s}).GetString()};
+    settings.values[u"WarningSearchItemOrder"_s] = 4;
     const SearchMemory damaged = SearchMemory::read(settings, path);
     EXPECT_EQ(damaged.keywordPool, (KeywordList{u"a"_s, u"b"_s}));
     ASSERT_EQ(damaged.recent.size(), 10U);
     EXPECT_EQ(damaged.recent.back().keywords, std::vector<QString>{u"11"_s});
+    EXPECT_EQ(damaged.keySets, std::vector{CNewsKey(1, {3}, {u"a"_s})});
+    ASSERT_NE(damaged.warnings.Chosen(), nullptr);
+    EXPECT_EQ(damaged.warnings.Chosen()->keywords, std::vector<QString>{u"in force"_s});
+    for (const int none : {-1, 0, 1, 2, 5}) {
+        settings.values[u"WarningSearchItemOrder"_s] = none;
+        EXPECT_EQ(SearchMemory::read(settings, path).warnings.chosen, 0) << none;
+    }
 }
 
 TEST(SearchDesk, TellsAnswersApart) {

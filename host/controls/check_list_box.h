@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QListWidget>
+
+// A list of items with a check box each; several can be selected. Rows count from 0 and must exist. Ticks
+// tell of themselves by itemChanged, whoever makes them.
+class CCheckListBox : public QListWidget {
+    Q_OBJECT
+
+public:
+    explicit CCheckListBox(QWidget* parent = nullptr);
+
+    // Appends an item that is not ticked. Its row.
+    int AddString(const QString& text);
+    void SetCheck(int row, bool ticked);
+    bool GetCheck(int row) const;
+};

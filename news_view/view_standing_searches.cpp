@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// The standing searches of the news view: key sets, warning terms, and what their empty lists say.
+#include "headline_list/language_keys.h"
+#include "host/controls/super_sheet_wnd.h"
+#include "news_view/trv_news_ctrl_view.h"
+#include "search/news_key_search_dlg.h"
+#include "search/search_ids.h"
+#include "search/warn_term_dlg.h"
+
+#include <QKeySequence>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// As the user reads it: longer ones would fill the list.
+QString keywordsOf(const CSearch& condition) {
+    constexpr qsizetype longest = 200;
+    const QString text = QStringList(condition.keywords.begin(), condition.keywords.end()).join(u", "_s);
+    return text.size() > longest ? text.left(longest) + u'…' : text;
+}
+
+QString nativeKey(const QString& portable) {
+    return QKeySequence(portable).toString(QKeySequence::NativeText);
+}
+
+}  // namespace
+
+// --- Key sets ---
+
+void TRVNewsCtrlView::OnRelationSearchDlg() {
+    vSetTickedKeySets({});
+    const QPointer<TRVNewsCtrlView> self(this);
+    const QPointer<CNewsKeySearchDlg> dialog(new CNewsKeySearchDlg(searches.memory.keywordPool,
+                                                                   NewsTypesOf(backEnd, services.Entries()),
+                                                                   searches.memory.keySets, this));
+    const int result = dialog->DoModal();
+    if (self.isNull() || dialog.isNull())
+        return;
+    searches.memory.keywordPool = dialog->Pool();
+    if (result == CNewsKeySearchDlg::idOk) {
+        searches.memory.keySets = dialog->KeySets();
+        vSetTickedKeySets(dialog->TickedKeySets());
+    }
+    delete dialog;
+    if (tickedKeySets.empty())
+        return;
+    if (currentMode == static_cast<int>(ListIndex::Relation))
+        vForgetShownStory();
+    InitialHeadlineTable(static_cast<int>(ListIndex::Relation));
+    if (currentMode == static_cast<int>(ListIndex::Relation))
+        OnShowStory();
+}
+
+void TRVNewsCtrlView::vSetTickedKeySets(std::vector<CNewsKey> ticked) {
+    tickedKeySets = std::move(ticked);
+    vLoadHints();
+}
+
+// --- Warning terms ---
+
+void TRVNewsCtrlView::OnWarningSearchDlg() {
+    const QPointer<TRVNewsCtrlView> self(this);
+    const QPointer<CWarnTermDlg> dialog(
+        new CWarnTermDlg(searches.memory.warnings, searches.warningTerm, this));
+    const bool accepted = dialog->DoModal() == search_ids::ok;
+    if (self.isNull() || dialog.isNull())
+        return;
+    searches.memory.warnings = dialog->Items();
+    if (accepted)
+        searches.warningTerm = dialog->Chosen();
+    delete dialog;
+    searches.edited = searches.warningTerm;
+    vLoadHints();
+    if (accepted)
+        OnDealsSearch();
+}
+
+// --- Hints ---
+
+void TRVNewsCtrlView::vLoadHints() {
+    const auto hint = [this](QLatin1StringView textKey, const QString& second = {}) {
+        QString text = LangText(backEnd, textKey);
+        return text.replace(u"%1"_s, nativeKey(u"Shift+F3"_s)).replace(u"%2"_s, second);
+    };
+    const auto tell = [this](ListIndex list, const QString& text) {
+        if (CSuperSheetWnd* sheet = List(list).pGetGrid())
+            sheet->vSetEmptyText(text);
+    };
+    tell(ListIndex::Search, hint(keys::hintSearch, nativeKey(u"F3"_s)));
+    tell(ListIndex::Relation, hint(tickedKeySets.empty() ? keys::hintNoKeySet : keys::hintNoMatch));
+    const bool chosen = !searches.warningTerm.keywords.empty();
+    tell(ListIndex::WarningTerm,
+         hint(chosen ? keys::hintWarningTerm : keys::hintNoWarningTerm, keywordsOf(searches.warningTerm)));
+}

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "search/condition_texts.h"
+
+#include "headline_list/language_keys.h"
+#include "host/controls/plain_caption.h"
+
+#include <algorithm>
+
+namespace {
+
+QString withoutKey(const QString& caption) {
+    const qsizetype bracket = caption.indexOf(QLatin1StringView("(&"));
+    return NameOfCaption(bracket > 0 ? caption.left(bracket) : caption).trimmed();
+}
+
+}  // namespace
+
+QString DialogText(QLatin1StringView key) {
+    return LangText(*BKQuoteInterface::GetBKInterface(), key);
+}
+
+QString ScopeText(int scope) {
+    const std::size_t known = std::min(static_cast<std::size_t>(scope), scopeKeys.size() - 1);
+    return withoutKey(DialogText(scopeKeys[known]));
+}
+
+QString MethodText(int method) {
+    return withoutKey(
+        DialogText(method == conditions::methodAll ? search_keys::methodAnd : search_keys::methodOr));
+}
+
+QStringList ScopeTexts() {
+    return {ScopeText(0), ScopeText(1), ScopeText(2)};
+}
+
+QStringList MethodTexts() {
+    return {MethodText(conditions::methodAll), MethodText(conditions::methodAny)};
+}

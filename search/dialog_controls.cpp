@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "search/dialog_controls.h"
+
+#include "host/controls/window_id.h"
+#include "search/condition_texts.h"
+
+#include <QButtonGroup>
+#include <QDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+
+QPushButton* AddButton(QDialog* dialog, int id, const QString& text) {
+    auto* button = new QPushButton(text, dialog);
+    SetWindowId(button, id);
+    button->setAutoDefault(false);
+    button->installEventFilter(dialog);
+    return button;
+}
+
+QLabel* AddCaption(QDialog* dialog, int id, const QString& text) {
+    auto* caption = new QLabel(dialog);
+    SetWindowId(caption, id);
+    caption->setTextFormat(Qt::PlainText);
+    caption->setText(text);
+    QFont bold = caption->font();
+    bold.setBold(true);
+    caption->setFont(bold);
+    return caption;
+}
+
+QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* caption,
+                         std::span<const Choice> choices) {
+    auto* group = new QButtonGroup(dialog);
+    grid.addWidget(caption, row, 0);
+    int index = 0;
+    for (const Choice& choice : choices) {
+        auto* button = new QRadioButton(DialogText(choice.key), dialog);
+        SetWindowId(button, choice.id);
+        button->installEventFilter(dialog);
+        grid.addWidget(button, row, index + 1);
+        group->addButton(button, index++);
+    }
+    return group;
+}
+
+int RunOver(QDialog* dialog, QDialog* child) {
+    const QPointer<QDialog> alive(dialog);
+    const int result = child->exec();
+    if (alive.isNull())
+        return QDialog::Rejected;
+    // Not every window system gives the keyboard back by itself.
+    dialog->activateWindow();
+    return result;
+}
+
+namespace {
+
+QMessageBox* boxOver(QDialog* dialog, QMessageBox::Icon icon, const QString& text,
+                     QMessageBox::StandardButtons buttons) {
+    auto* box = new QMessageBox(icon, {}, text, buttons, dialog);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    return box;
+}
+
+}  // namespace
+
+bool AskYesNo(QDialog* dialog, const QString& question) {
+    QMessageBox* box = boxOver(dialog, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No);
+    return RunOver(dialog, box) == QMessageBox::Yes;
+}
+
+void TellError(QDialog* dialog, const QString& text) {
+    RunOver(dialog, boxOver(dialog, QMessageBox::Warning, text, QMessageBox::Ok));
+}

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <span>
+
+class QButtonGroup;
+class QDialog;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+
+// Controls of the search dialogs: direct children of the dialog, known by their numbers, with the dialog as
+// their event filter.
+
+// A button that Enter presses only where the dialog says so.
+QPushButton* AddButton(QDialog* dialog, int id, const QString& text);
+// A bold caption. `id` 0: nobody asks for it.
+QLabel* AddCaption(QDialog* dialog, int id, const QString& text);
+
+struct Choice {
+    int id;
+    QLatin1StringView key;
+};
+// A row of radio buttons behind a caption, of which one is checked at a time; they stand in the group by
+// their index.
+QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* caption,
+                         std::span<const Choice> choices);
+
+// Runs a dialog over another one, which gets the keyboard back. Its result; QDialog::Rejected when the dialog
+// below is gone by then, and `child` with it.
+int RunOver(QDialog* dialog, QDialog* child);
+// Asks the user a question. True for Yes; false also when the dialog is gone by then.
+bool AskYesNo(QDialog* dialog, const QString& question);
+// Tells the user why nothing happened.
+void TellError(QDialog* dialog, const QString& text);

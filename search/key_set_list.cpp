@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "search/key_set_list.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+#include <QStyle>
+
+KeySetList::KeySetList(std::span<const ReportColumn> columns, QWidget* parent) : ReportList(columns, parent) {
+    const int boxWidth = 2 * style()->pixelMetric(QStyle::PM_IndicatorWidth);
+    setColumnWidth(0, columnWidth(0) + boxWidth);
+    connect(this, &QTableWidget::itemChanged, this, [this](const QTableWidgetItem* changed) {
+        if (changed->column() != 0)
+            return;
+        clickTicked = true;
+        emit TicksChanged();
+    });
+    connect(this, &QTableWidget::cellClicked, this, [this](int row) {
+        if (!clickTicked)
+            emit RowChosen(row);
+    });
+    connect(this, &QTableWidget::cellDoubleClicked, this, [this](int row) {
+        if (!clickTicked)
+            QMetaObject::invokeMethod(
+                this, [this, row] { emit RowDoubleClicked(row); }, Qt::QueuedConnection);
+    });
+    connect(this, &QTableWidget::itemSelectionChanged, this, [this] {
+        if (selectionModel()->hasSelection())
+            emit RowChosen(currentRow());
+        else
+            emit RowLeft();
+    });
+}
+
+void KeySetList::vSetKeySet(int row, const QStringList& texts) {
+    const QSignalBlocker quiet(this);
+    const bool added = row == rowCount();
+    vSetRow(row, texts);
+    if (added)
+        item(row, 0)->setCheckState(Qt::Unchecked);
+}
+
+void KeySetList::vTick(int row, bool ticked) {
+    item(row, 0)->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
+}
+
+bool KeySetList::bIsTicked(int row) const {
+    return item(row, 0)->checkState() == Qt::Checked;
+}
+
+std::vector<int> KeySetList::TickedRows() const {
+    std::vector<int> rows;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (bIsTicked(row))
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+void KeySetList::vMark(int row) {
+    const QSignalBlocker quiet(this);
+    clearSelection();
+    if (row < 0)
+        return;
+    selectRow(row);
+    scrollToItem(item(row, 0));
+}
+
+// The mouse selects by being clicked beside a check box: RowChosen is answered with vMark.
+QItemSelectionModel::SelectionFlags KeySetList::selectionCommand(const QModelIndex& index,
+                                                                 const QEvent* event) const {
+    const bool byMouse = dynamic_cast<const QMouseEvent*>(event) != nullptr;
+    return byMouse ? QItemSelectionModel::NoUpdate : ReportList::selectionCommand(index, event);
+}
+
+void KeySetList::mousePressEvent(QMouseEvent* event) {
+    clickTicked = false;
+    ReportList::mousePressEvent(event);
+}
+
+void KeySetList::mouseReleaseEvent(QMouseEvent* event) {
+    ReportList::mouseReleaseEvent(event);
+    if (event->button() == Qt::RightButton)
+        emit RowLeft();
+}
+
+void KeySetList::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier && currentRow() >= 0)
+        vTick(currentRow(), !bIsTicked(currentRow()));
+    else if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection())
+        emit RowLeft();
+    else
+        ReportList::keyPressEvent(event);
+}

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "search/report_list.h"
+
+#include <vector>
+
+// The list of key sets: rows with a check box, of which one may be marked as the one that is worked on. A
+// click on a check box, and Space, tick a row and do nothing else.
+class KeySetList : public ReportList {
+    Q_OBJECT
+
+public:
+    KeySetList(std::span<const ReportColumn> columns, QWidget* parent);
+
+    // As vSetRow; a row that is new is not ticked.
+    void vSetKeySet(int row, const QStringList& texts);
+    void vTick(int row, bool ticked);
+    bool bIsTicked(int row) const;
+    std::vector<int> TickedRows() const;
+    // Marks a row, which is brought into sight; -1: none. Sends nothing.
+    void vMark(int row);
+
+signals:
+    // The user clicked a row, or went to it by keys.
+    void RowChosen(int row);
+    // He is done with the marked row: a click of the right button, Esc.
+    void RowLeft();
+    // He clicked a row twice. Sent after the click.
+    void RowDoubleClicked(int row);
+    // A row was ticked or unticked, by whomever.
+    void TicksChanged();
+
+protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    bool clickTicked = false;  // the last click was one on a check box
+};

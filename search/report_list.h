@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTableWidget>
+
+#include <span>
+
+struct ReportColumn {
+    QString header;
+    int width;  // at least; the last column takes the room that is left
+    Qt::AlignmentFlag alignment = Qt::AlignLeft;
+    QStringList texts = {};  // for which it is wide enough, as it is for its header
+};
+
+// A list of records in the search dialogs: rows of texts, of which one is selected as a whole, under a header
+// whose columns the user can move.
+class ReportList : public QTableWidget {
+    Q_OBJECT
+
+public:
+    ReportList(std::span<const ReportColumn> columns, QWidget* parent);
+
+    // Writes the texts of a row, which is appended when it is the next one.
+    void vSetRow(int row, const QStringList& texts);
+    // The height at which so many rows are in sight.
+    int iHeightOf(int rows) const;
+};

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/search_condition.h"
+
+#include <QDialog>
+
+class QButtonGroup;
+class QLineEdit;
+
+// The modal dialog for one warning term: its keywords in a line, where and how they must match.
+class CWarnTermConfigDlg : public QDialog {
+    Q_OBJECT
+
+public:
+    // A back end has been installed.
+    CWarnTermConfigDlg(const CSearch& condition, QWidget* parent);
+
+    // The condition as the controls have it.
+    CSearch Condition() const;
+
+private:
+    void vCreateControls();
+
+    CSearch condition;
+    QLineEdit* keywordEdit = nullptr;
+    QButtonGroup* method = nullptr;  // button ids: 0 all keywords, 1 any keyword
+    QButtonGroup* scope = nullptr;   // button ids: the scope
+};
+
+// The keywords of a text: what stands between blanks, commas and line feeds, in order, also when it repeats.
+std::vector<QString> KeywordsOfText(const QString& text);

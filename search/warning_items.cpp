@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "search/warning_items.h"
+
+#include "search/recent_searches.h"
+
+#include <algorithm>
+
+const CSearch* WarningItems::Item(int row) const {
+    return row >= 0 && row < static_cast<int>(items.size()) ? &items[static_cast<std::size_t>(row)] : nullptr;
+}
+
+bool WarningItems::Add(const CSearch& item) {
+    if (item.keywords.empty())
+        return false;
+    items.push_back(item);
+    return true;
+}
+
+bool WarningItems::Replace(int row, const CSearch& edited) {
+    const CSearch* item = Item(row);
+    if (item == nullptr || edited.keywords.empty() || *item == edited)
+        return false;
+    const bool inForce = chosen == row + 1;
+    Remove(row);
+    items.push_back(edited);
+    if (inForce)
+        chosen = static_cast<int>(items.size());
+    return true;
+}
+
+void WarningItems::Remove(int row) {
+    if (Item(row) == nullptr)
+        return;
+    items.erase(items.begin() + row);
+    if (chosen == row + 1)
+        chosen = 0;
+    else if (chosen > row + 1)
+        --chosen;
+}
+
+void WarningItems::Choose(int row, CSearch& condition) {
+    constexpr unsigned char both = 2;
+    const CSearch* item = Item(row);
+    if (item == nullptr)
+        return;
+    condition.keywords = item->keywords;
+    condition.symbols = item->symbols;
+    condition.scope = std::min(item->scope, both);
+    if (item->method == 1 || item->method == 2)
+        condition.method = item->method;
+    const bool known = std::any_of(items.begin(), items.end(),
+                                   [&](const CSearch& other) { return AsksTheSame(other, condition); });
+    if (!known)
+        Add(condition);
+    chosen = row + 1;
+}

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// Key sets and warning items without their dialogs.
+#include "search/key_set_text.h"
+#include "search/warning_items.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+CSearch condition(std::vector<QString> keywords, unsigned char scope = 0, unsigned char method = 1) {
+    CSearch search;
+    search.keywords = std::move(keywords);
+    search.scope = scope;
+    search.method = method;
+    return search;
+}
+
+std::vector<QString> firstWords(const WarningItems& warnings) {
+    std::vector<QString> words;
+    for (const CSearch& item : warnings.items)
+        words.push_back(item.keywords.front());
+    return words;
+}
+
+}  // namespace
+
+TEST(KeySetText, IsReadBackAsItWasWritten) {
+    struct Case {
+        CNewsKey keySet;
+        QString text;
+    };
+    const Case cases[] = {
+        {{1, {3, 7}, {u"A"_s, u"B"_s}}, u"C:1 T:3,7 K:A,B"_s},
+        {{2, {CNewsKey::everyNewsType}, {u"rate cut"_s}}, u"C:2 T:-999 K:rate cut"_s},
+        {{0, {}, {}}, u"C:0 T: K:"_s},
+        {{1, {1}, {u"a,b"_s, u"c\\"_s, u"\\,"_s}}, u"C:1 T:1 K:a\\,b,c\\\\,\\\\\\,"_s},
+        {{1, {1}, {u"x K:y"_s, u" K:"_s, u"K:z"_s}}, u"C:1 T:1 K:x\\ K:y,\\ K:,K:z"_s},
+        {{1, {1}, {u" T:5"_s, u"聯儲局"_s, u"\n"_s}}, u"C:1 T:1 K: T:5,聯儲局,\n"_s},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(TextOfKeySet(c.keySet), c.text);
+        EXPECT_EQ(KeySetOfText(c.text), c.keySet) << c.text.toStdString();
+    }
+    EXPECT_EQ(KeySetOfText(u"C:1 T:1 K:a K:b,c"_s), CNewsKey(1, {1}, {u"a K:b"_s, u"c"_s}))
+        << "a form from before there were backslashes";
+}
+
+TEST(KeySetText, IsRejectedWholeWhenItIsDamaged) {
+    for (const QString& text :
+         {QString(), u"C:1"_s, u"C:1 T:3"_s, u"C:1 K:A"_s, u"C: T:3 K:A"_s, u"C:x T:3 K:A"_s,
+          u"C:1  T:3 K:A"_s, u"C:1 T:3, K:A"_s, u"C:1 T:3,x K:A"_s, u"C:1 T:03 K:A"_s,
+          u"C:1 T:99999999999 K:A"_s, u"C:1 T:3 K:A,,B"_s, u"C:1 T:3 K:A,"_s, u"C:1 T:3 K:A\\"_s,
+          u" C:1 T:3 K:A"_s, u"T:3 C:1 K:A"_s, u"C:1 K:A T:3"_s})
+        EXPECT_EQ(KeySetOfText(text), std::nullopt) << text.toStdString();
+}
+
+TEST(WarningItems, TheNumberInForceStaysWithItsItem) {
+    WarningItems warnings{{condition({u"a"_s}), condition({u"b"_s}), condition({u"c"_s})}, 2};
+    EXPECT_FALSE(warnings.Add(condition({})));
+    EXPECT_FALSE(warnings.Replace(0, condition({u"a"_s}))) << "nothing was changed";
+    EXPECT_FALSE(warnings.Replace(0, condition({}))) << "nothing is lost";
+    EXPECT_FALSE(warnings.Replace(3, condition({u"z"_s})));
+    warnings.Remove(-1);
+    EXPECT_EQ(firstWords(warnings), (std::vector{u"a"_s, u"b"_s, u"c"_s}));
+
+    EXPECT_TRUE(warnings.Replace(0, condition({u"a"_s}, 1))) << "the scope alone is a change";
+    EXPECT_EQ(firstWords(warnings), (std::vector{u"b"_s, u"c"_s, u"a"_s}));
+    EXPECT_EQ(warnings.chosen, 1);
+    EXPECT_TRUE(warnings.Replace(0, condition({u"B"_s})));
+    EXPECT_EQ(warnings.Chosen()->keywords.front(), u"B"_s);
+    warnings.Remove(0);
+    EXPECT_EQ(warnings.chosen, 2);
+    warnings.Remove(1);
+    EXPECT_EQ(warnings.chosen, 0);
+    EXPECT_EQ(warnings.Chosen(), nullptr);
+    EXPECT_EQ(firstWords(warnings), std::vector{u"a"_s});
+}
+
+TEST(WarningItems, AConditionTakesWhatTheChosenItemAsksFor) {
+    struct Case {
+        CSearch item;
+        CSearch expected;
+        std::size_t items;
+    };
+    const Case cases[] = {
+        {condition({u"a"_s, u"b"_s}, 1, 2), condition({u"a"_s, u"b"_s}, 1, 2), 2},
+        {condition({u"a"_s}, 7, 1), condition({u"a"_s}, 2, 1), 3},
+        {condition({u"a"_s}, 0, 0), condition({u"a"_s}, 0, 2), 3},
+        {condition({u"y"_s, u"x"_s}, 0, 0), condition({u"y"_s, u"x"_s}, 0, 2), 2},
+    };
+    for (const Case& c : cases) {
+        WarningItems warnings{{condition({u"x"_s, u"y"_s}, 0, 2), c.item}, 0};
+        CSearch inForce = condition({u"before"_s}, 0, 2);
+        inForce.symbols = {{16, u"2330"_s}};
+        warnings.Choose(1, inForce);
+        EXPECT_EQ(inForce, c.expected);
+        EXPECT_EQ(warnings.chosen, 2);
+        ASSERT_EQ(warnings.items.size(), c.items);
+        EXPECT_EQ(warnings.items.back(), c.items == 3 ? c.expected : c.item) << "new where it asks for more";
+    }
+}
