@@ -322,7 +322,7 @@ private:
     void vStopWaiting();
     void vSearchForPushed();
     void vSearchForSymbol(const CSymbolInfo& symbol);
-    void vSetTickedKeySets(std::vector<CNewsKey> ticked);
+    void vSetTickedKeySets(const std::vector<CNewsKey>& ticked);
     // What an empty list says: how the user fills it.
     void vLoadHints();
     void vUpdateSymbolPicker(const std::vector<CSymbolUpdateInfo>& updates);

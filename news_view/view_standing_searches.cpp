@@ -53,8 +53,8 @@ void TRVNewsCtrlView::OnRelationSearchDlg() {
         OnShowStory();
 }
 
-void TRVNewsCtrlView::vSetTickedKeySets(std::vector<CNewsKey> ticked) {
-    tickedKeySets = std::move(ticked);
+void TRVNewsCtrlView::vSetTickedKeySets(const std::vector<CNewsKey>& ticked) {
+    tickedKeySets = RelationMatcher(ticked);
     vLoadHints();
 }
 

@@ -77,6 +77,9 @@ QItemSelectionModel::SelectionFlags KeySetList::selectionCommand(const QModelInd
 void KeySetList::mousePressEvent(QMouseEvent* event) {
     clickTicked = false;
     ReportList::mousePressEvent(event);
+    // A press on a check box alone would leave the keyboard where it was.
+    if (const QModelIndex pressed = indexAt(event->position().toPoint()); pressed.isValid())
+        selectionModel()->setCurrentIndex(pressed, QItemSelectionModel::NoUpdate);
 }
 
 void KeySetList::mouseReleaseEvent(QMouseEvent* event) {

@@ -107,8 +107,13 @@ QLayout* CNewsKeySearchDlg::pCreateSaving() {
     grid->setColumnStretch(static_cast<int>(methods.size()) + 1, 1);
     saveButton = AddButton(this, search_ids::saveKeySet, Text(search_keys::addKeySet));
     connect(saveButton, &QPushButton::clicked, this, &CNewsKeySearchDlg::vSave);
+    auto* note = new QLabel(Text(search_keys::capitalsNote), this);
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    note->setForegroundRole(QPalette::PlaceholderText);
     auto* column = new QVBoxLayout;
     column->addLayout(grid);
+    column->addWidget(note);
     column->addStretch();
     column->addWidget(saveButton);
     return column;

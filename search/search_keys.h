@@ -47,6 +47,7 @@ inline constexpr QLatin1StringView noKeyword{"IDS_DIALOG-DEAL-SEARCH_ERROR_NEWSK
 // "%1": how many.
 inline constexpr QLatin1StringView askDeleteKeySets{"IDS_DIALOG-DEAL-SEARCH_REQDEL_KEY"};
 inline constexpr QLatin1StringView askRemoveAllOfKeySet{"IDS_DIALOG-DEAL-SEARCH_REQDELALL_KEY"};
+inline constexpr QLatin1StringView capitalsNote{"IDS_DIALOG-DEAL-SEARCH_CAPITALS_NOTE"};
 
 // Warning terms.
 inline constexpr QLatin1StringView warningTitle{"IDS_DIALOG-DEAL-SEARCH_WARNING_TITLE"};

@@ -39,6 +39,10 @@
         <source></source>
         <translation>All &amp;keywords</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_CAPITALS_NOTE">
+        <source></source>
+        <translation>Headlines are compared in capitals: write Latin letters so (CHIPS, not chips).</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_CONDITION">
         <source></source>
         <translation>Match</translation>

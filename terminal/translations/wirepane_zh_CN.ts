@@ -39,6 +39,10 @@
         <source></source>
         <translation>全部关键词(&amp;K)</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_CAPITALS_NOTE">
+        <source></source>
+        <translation>标题以大写比对：英文字母请用大写（CHIPS，而不是 chips）。</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_CONDITION">
         <source></source>
         <translation>匹配条件</translation>

@@ -39,6 +39,10 @@
         <source></source>
         <translation>全部關鍵字(&amp;K)</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_CAPITALS_NOTE">
+        <source></source>
+        <translation>標題以大寫比對：英文字母請用大寫（CHIPS，不是 chips）。</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_CONDITION">
         <source></source>
         <translation>符合條件</translation>

@@ -4,22 +4,13 @@
 #include "search/adv_search_dlg.h"
 
 #include "host/controls/quote_trv_change_symbol.h"
-#include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "search/search_ids.h"
-#include "tests/support/fake_back_end.h"
+#include "tests/search/dialog_fixture.h"
 
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
-#include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -33,7 +24,7 @@ CSearch condition(std::vector<QString> keywords, unsigned char scope = 0, unsign
     return search;
 }
 
-class AdvancedSearch : public testing::Test {
+class AdvancedSearch : public DialogTest {
 protected:
     AdvancedSearch() {
         backEnd.symbols[16] = {{u"2330"_s, u"Aster Chips"_s}, {u"6214"_s, u"Lantern Foods"_s}};
@@ -43,71 +34,23 @@ protected:
         recent = {condition({u"first"_s}, 2, 1), condition({u"last"_s, u"word"_s}, 1, 2)};
     }
 
-    // The dialog as it stands in front of the user.
     void open() {
         dialog = std::make_unique<CAdvSearchDlg>(edited, pool, recent, nullptr);
-        dialog->setModal(true);
-        dialog->show();
-        dialog->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
-        result = -1;
-        QObject::connect(dialog.get(), &QDialog::finished, dialog.get(), [this](int end) { result = end; });
+        show(*dialog);
     }
 
     // What the caller takes back.
     void takeBack() { dialog->vGetResult(edited, pool, recent); }
 
-    template <class Control>
-    Control& at(int id) const {
-        auto* control = qobject_cast<Control*>(GetDlgItem(dialog.get(), id));
-        EXPECT_NE(control, nullptr) << id;
-        return *control;
-    }
-    void type(int id, const QString& text) const { QTest::keyClicks(&at<QLineEdit>(id), text); }
-    void press(int id, Qt::Key key) const { QTest::keyClick(GetDlgItem(dialog.get(), id), key); }
-    void click(int id) const { QTest::mouseClick(GetDlgItem(dialog.get(), id), Qt::LeftButton); }
-    void clickRow(int id, int row, bool twice = false) const {
-        auto& view = at<QAbstractItemView>(id);
-        const QPoint place = view.visualRect(view.model()->index(row, 0)).center();
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
-        if (twice)
-            QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
-    }
-    QStringList texts(int id) const {
-        QStringList shown;
-        for (int row = 0; row < at<QListWidget>(id).count(); ++row)
-            shown.append(at<QListWidget>(id).item(row)->text());
-        return shown;
-    }
-    QStringList selected(int id) const {
-        QStringList chosen;
-        for (int row = 0; row < at<QListWidget>(id).count(); ++row) {
-            if (at<QListWidget>(id).item(row)->isSelected())
-                chosen.append(at<QListWidget>(id).item(row)->text());
-        }
-        return chosen;
-    }
-    int focus() const {
-        return QApplication::focusWidget() != nullptr ? WindowId(QApplication::focusWidget()) : 0;
-    }
-    int defaultButton() const {
-        for (const auto* button : dialog->findChildren<QPushButton*>()) {
-            if (button->isDefault())
-                return WindowId(button);
-        }
-        return 0;
-    }
     void showSymbolTab() const {
         QTest::keyClick(dialog.get(), Qt::Key_Tab, Qt::ControlModifier);
         ASSERT_EQ(at<CXTPTabControl>(search_ids::tabs).GetCurSel(), 1);
     }
 
-    FakeBackEnd backEnd;
     CSearch edited;
     KeywordList pool;
     RecentSearches recent;
     std::unique_ptr<CAdvSearchDlg> dialog;
-    int result = -1;
 };
 
 }  // namespace
@@ -170,25 +113,14 @@ TEST_F(AdvancedSearch, SelectedKeywordsComeAndGo) {
 
 TEST_F(AdvancedSearch, AsksBeforeAllKeywordsGo) {
     open();
-    int asked = 0;
-    const auto answer = [&](QMessageBox::StandardButton button) {
-        QTimer::singleShot(0, dialog.get(), [&asked, button] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_NE(box, nullptr);
-            ++asked;
-            EXPECT_EQ(box->text(), u"IDS_DIALOG-DEAL-SEARCH_REQDELALL"_s);
-            EXPECT_EQ(box->windowTitle(), QString());
-            box->button(button)->click();
-        });
-        click(search_ids::removeAll);
-    };
-    answer(QMessageBox::No);
+    const QString question = u"IDS_DIALOG-DEAL-SEARCH_REQDELALL"_s;
+    answerBox(question, QMessageBox::No, [this] { click(search_ids::removeAll); });
     EXPECT_EQ(texts(search_ids::keywords).size(), 2);
-    answer(QMessageBox::Yes);
+    answerBox(question, QMessageBox::Yes, [this] { click(search_ids::removeAll); });
     EXPECT_EQ(texts(search_ids::keywords).size(), 0);
     EXPECT_TRUE(at<QRadioButton>(search_ids::methodAnd).isChecked());
     click(search_ids::removeAll);
-    EXPECT_EQ(asked, 2) << "nothing is left to ask about";
+    EXPECT_EQ(QApplication::activeModalWidget(), dialog.get()) << "nothing is left to ask about";
 }
 
 TEST_F(AdvancedSearch, SymbolsAreFoundAfterAPauseAndGiveCodeAndName) {

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 // Key sets and warning items without their dialogs.
 #include "search/key_set_text.h"
+#include "search/key_sets.h"
+#include "search/warn_term_config_dlg.h"
 #include "search/warning_items.h"
+#include "tests/support/fake_back_end.h"
 
 #include <gtest/gtest.h>
 
@@ -55,6 +58,72 @@ TEST(KeySetText, IsRejectedWholeWhenItIsDamaged) {
           u"C:1 T:99999999999 K:A"_s, u"C:1 T:3 K:A,,B"_s, u"C:1 T:3 K:A,"_s, u"C:1 T:3 K:A\\"_s,
           u" C:1 T:3 K:A"_s, u"T:3 C:1 K:A"_s, u"C:1 K:A T:3"_s})
         EXPECT_EQ(KeySetOfText(text), std::nullopt) << text.toStdString();
+}
+
+TEST(KeySets, TakeTheNewsTypesOfAllServicesButWarrants) {
+    FakeBackEnd backEnd;
+    backEnd.categories[1] = {{u"3"_s, u"Markets"_s}, {u"-2"_s, u"Flash"_s}};
+    backEnd.categories[2] = {{u"3"_s, u"Other name"_s}, {u"7"_s, u"Deals"_s}};
+    backEnd.categories[52] = {{u"9"_s, u"Issue"_s}};
+    const ServiceEntry services[] = {{52}, {1}, {22}, {2}};
+    EXPECT_EQ(NewsTypesOf(backEnd, services),
+              (CategoryMap{{-2, u"Flash"_s}, {3, u"Markets"_s}, {7, u"Deals"_s}}));
+    EXPECT_EQ(NewsTypesOf(backEnd, {}), CategoryMap());
+    backEnd.simplified = true;
+    QString converted;
+    backEnd.LangConvertToSimplifiedChinese(u"Deals"_s, converted);
+    EXPECT_EQ(NewsTypesOf(backEnd, services).at(7), converted);
+    EXPECT_NE(converted, u"Deals"_s);
+}
+
+TEST(KeySets, AreSavedOnceAndWorkedOnInPlace) {
+    const CNewsKey a(1, {3, 7}, {u"A"_s});
+    const CNewsKey otherMethod(2, {3, 7}, {u"A"_s});
+    const CNewsKey otherOrder(1, {7, 3}, {u"A"_s});
+    const CNewsKey otherWords(1, {3, 7}, {u"a"_s});
+    std::vector<CNewsKey> keySets;
+    int row = 0;
+    for (const CNewsKey& keySet : {a, otherMethod, otherOrder, otherWords})
+        EXPECT_EQ(SaveKeySet(keySets, keySet, -1), row++);
+    EXPECT_EQ(SaveKeySet(keySets, otherOrder, -1), 2) << "it is there already";
+    EXPECT_EQ(SaveKeySet(keySets, a, 4), -1);
+    EXPECT_EQ(keySets, (std::vector{a, otherMethod, otherOrder, otherWords}));
+    EXPECT_EQ(SaveKeySet(keySets, a, 3), 3);
+    EXPECT_EQ(RowsOfEqual(keySets, std::vector{a, otherWords}), (std::vector{0, 3}));
+}
+
+TEST(KeySets, ShowWhatTheyWant) {
+    FakeBackEnd backEnd;
+    const QString all = u"IDS_DIALOG-DEAL-SEARCH_AND_BUTTON"_s;
+    const QString any = u"IDS_DIALOG-DEAL-SEARCH_OR_BUTTON"_s;
+    const QString every = u"IDS_DIALOG-DEAL-SEARCH_ALL_NEWSTYPE"_s;
+    const CategoryMap types{{3, u"Markets"_s}, {7, u"Deals"_s}};
+    const std::int32_t wanted = CNewsKey::everyNewsType;
+    struct Case {
+        CNewsKey keySet;
+        QStringList texts;
+    };
+    const Case cases[] = {
+        {{1, {7}, {u"A"_s, u"B C"_s}}, {all, u"Deals "_s, u"A, B C"_s}},
+        {{2, {7, 3}, {}}, {any, every, {}}},
+        {{0, {wanted}, {u"A"_s}}, {any, every, u"A"_s}},
+        {{1, {99}, {u"A"_s}}, {all, {}, u"A"_s}},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(TextsOfKeySet(c.keySet, types), c.texts) << c.texts.join(u'|').toStdString();
+
+    const std::vector<CNewsKey> stored{{1, {wanted}, {}}, {1, {wanted, 3}, {}}, {1, {99}, {}}};
+    const std::vector<CNewsKey> spelledOut = WithNewsTypes(stored, types);
+    EXPECT_EQ(spelledOut[0].newsTypes, (std::vector{3, 7}));
+    EXPECT_EQ(spelledOut[1], stored[1]);
+    EXPECT_EQ(spelledOut[2], stored[2]);
+    EXPECT_EQ(WithNewsTypes(stored, {}), stored) << "every does not become none";
+}
+
+TEST(WarningItems, TakeTheKeywordsOfALine) {
+    EXPECT_EQ(KeywordsOfText(u" gold,, oil\nrate cut ,gold"_s),
+              (std::vector{u"gold"_s, u"oil"_s, u"rate"_s, u"cut"_s, u"gold"_s}));
+    EXPECT_EQ(KeywordsOfText(u" ,\n"_s), std::vector<QString>());
 }
 
 TEST(WarningItems, TheNumberInForceStaysWithItsItem) {
