@@ -325,6 +325,8 @@ private:
     void vSetTickedKeySets(const std::vector<CNewsKey>& ticked);
     // What an empty list says: how the user fills it.
     void vLoadHints();
+    // What the user must know of the current list though it has rows: empty most of the time.
+    QString StandingNotice() const;
     void vUpdateSymbolPicker(const std::vector<CSymbolUpdateInfo>& updates);
     // Printing and saving.
     std::vector<CHeadlineTable> vSelectedEntries() const;

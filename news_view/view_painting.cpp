@@ -52,9 +52,11 @@ void TRVNewsCtrlView::vSetStatusText(const QString& text) {
 // That the feed is cut off, or what the lists have to say; and before it what printing and saving wait for.
 QString TRVNewsCtrlView::NoticeText() const {
     const auto offlineSince = breaks.Since();
-    QStringList parts{AwaitedText(), offlineSince ? LangText(backEnd, keys::offlineSince) + QLatin1Char(' ') +
-                                                        TimeText(*offlineSince, false)
-                                                  : statusText.trimmed()};
+    QStringList parts{AwaitedText(),
+                      offlineSince ? LangText(backEnd, keys::offlineSince) + QLatin1Char(' ') +
+                                         TimeText(*offlineSince, false)
+                                   : statusText.trimmed(),
+                      StandingNotice()};
     parts.removeAll(QString());
     return parts.join(u" · "_s);
 }

@@ -25,6 +25,11 @@ QString nativeKey(const QString& portable) {
     return QKeySequence(portable).toString(QKeySequence::NativeText);
 }
 
+// "%1" is the key that opens the dialog of the current list.
+QString hintOf(QString text, const QString& second = {}) {
+    return text.replace(u"%1"_s, nativeKey(u"Shift+F3"_s)).replace(u"%2"_s, second);
+}
+
 }  // namespace
 
 // --- Key sets ---
@@ -56,6 +61,7 @@ void TRVNewsCtrlView::OnRelationSearchDlg() {
 void TRVNewsCtrlView::vSetTickedKeySets(const std::vector<CNewsKey>& ticked) {
     tickedKeySets = RelationMatcher(ticked);
     vLoadHints();
+    update();
 }
 
 // --- Warning terms ---
@@ -81,8 +87,7 @@ void TRVNewsCtrlView::OnWarningSearchDlg() {
 
 void TRVNewsCtrlView::vLoadHints() {
     const auto hint = [this](QLatin1StringView textKey, const QString& second = {}) {
-        QString text = LangText(backEnd, textKey);
-        return text.replace(u"%1"_s, nativeKey(u"Shift+F3"_s)).replace(u"%2"_s, second);
+        return hintOf(LangText(backEnd, textKey), second);
     };
     const auto tell = [this](ListIndex list, const QString& text) {
         if (CSuperSheetWnd* sheet = List(list).pGetGrid())
@@ -93,4 +98,11 @@ void TRVNewsCtrlView::vLoadHints() {
     const bool chosen = !searches.warningTerm.keywords.empty();
     tell(ListIndex::WarningTerm,
          hint(chosen ? keys::hintWarningTerm : keys::hintNoWarningTerm, keywordsOf(searches.warningTerm)));
+}
+
+// Rows that were there before stay when no key set is ticked any more.
+QString TRVNewsCtrlView::StandingNotice() const {
+    const bool forsaken = currentMode == static_cast<int>(ListIndex::Relation) && tickedKeySets.empty() &&
+                          iGetHeadlineTableSize(currentMode) > 0;
+    return forsaken ? hintOf(LangText(backEnd, keys::hintNoKeySet)) : QString();
 }

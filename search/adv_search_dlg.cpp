@@ -44,7 +44,7 @@ CAdvSearchDlg::CAdvSearchDlg(const CSearch& edited, const KeywordList& keywordPo
     column->addLayout(pCreateEntry(), 1);
     column->addLayout(pCreateChoices());
     column->addLayout(pCreateRecent());
-    column->addLayout(pCreateEnd());
+    column->addLayout(AddEnd(this, qobject_cast<QPushButton*>(GetDlgItem(this, search_ids::ok))));
     resize(fontMetrics().averageCharWidth() * 100, sizeHint().height());
     vFillRecent();
     vLoadCondition();
@@ -97,16 +97,6 @@ QLayout* CAdvSearchDlg::pCreateRecent() {
     column->addWidget(AddCaption(this, search_ids::recentCaption, Text(search_keys::recent)));
     column->addWidget(recentList);
     return column;
-}
-
-QLayout* CAdvSearchDlg::pCreateEnd() {
-    QPushButton* cancel = AddButton(this, search_ids::cancel, Text(search_keys::cancel));
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    row->addWidget(GetDlgItem(this, search_ids::ok));
-    row->addWidget(cancel);
-    return row;
 }
 
 // --- The condition and its controls ---

@@ -30,7 +30,6 @@ private:
     QLayout* pCreateChoices();
     QLayout* pCreateRecent();
     void vCreateRecentList();
-    QLayout* pCreateEnd();
     void vFillRecent();
     void vLoadCondition();
     void vReadCondition();

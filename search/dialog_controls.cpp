@@ -4,6 +4,7 @@
 
 #include "host/controls/window_id.h"
 #include "search/condition_texts.h"
+#include "search/search_ids.h"
 
 #include <QButtonGroup>
 #include <QDialog>
@@ -46,6 +47,19 @@ QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* ca
         group->addButton(button, index++);
     }
     return group;
+}
+
+QLayout* AddEnd(QDialog* dialog, QPushButton* ok) {
+    QPushButton* cancel = AddButton(dialog, search_ids::cancel, DialogText(search_keys::cancel));
+    QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
+    if (QWidget* last = cancel->previousInFocusChain(); last != ok)
+        QWidget::setTabOrder(last, ok);
+    QWidget::setTabOrder(ok, cancel);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(ok);
+    row->addWidget(cancel);
+    return row;
 }
 
 int RunOver(QDialog* dialog, QDialog* child) {

@@ -10,6 +10,7 @@ class QButtonGroup;
 class QDialog;
 class QGridLayout;
 class QLabel;
+class QLayout;
 class QPushButton;
 
 // Controls of the search dialogs: direct children of the dialog, known by their numbers, with the dialog as
@@ -28,6 +29,10 @@ struct Choice {
 // their index.
 QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* caption,
                          std::span<const Choice> choices);
+
+// The last row of the dialog: `ok`, and a button that cancels. They come last in the order of the Tab key
+// when all other controls are there.
+QLayout* AddEnd(QDialog* dialog, QPushButton* ok);
 
 // Runs a dialog over another one, which gets the keyboard back. Its result; QDialog::Rejected when the dialog
 // below is gone by then, and `child` with it.

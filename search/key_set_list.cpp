@@ -89,10 +89,17 @@ void KeySetList::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void KeySetList::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier && currentRow() >= 0)
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier && currentRow() >= 0) {
         vTick(currentRow(), !bIsTicked(currentRow()));
-    else if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection())
+        return;
+    }
+    if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection()) {
         emit RowLeft();
-    else
-        ReportList::keyPressEvent(event);
+        return;
+    }
+    ReportList::keyPressEvent(event);
+    // The arrow that has nowhere to go takes the row where it is.
+    const bool arrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (arrow && currentRow() >= 0 && !selectionModel()->hasSelection())
+        emit RowChosen(currentRow());
 }

@@ -44,7 +44,7 @@ CNewsKeySearchDlg::CNewsKeySearchDlg(const KeywordList& keywordPool, const Categ
     column->addWidget(AddCaption(this, search_ids::newsKeyTitle, Text(search_keys::relationTitle)));
     column->addLayout(pCreateComposition(), 1);
     column->addLayout(pCreateKeySets());
-    column->addLayout(pCreateEnd());
+    column->addLayout(AddEnd(this, qobject_cast<QPushButton*>(GetDlgItem(this, search_ids::ok))));
     resize(fontMetrics().averageCharWidth() * 100, sizeHint().height());
     for (std::size_t row = 0; row < keySets.size(); ++row)
         vFillRow(static_cast<int>(row));
@@ -110,7 +110,6 @@ QLayout* CNewsKeySearchDlg::pCreateSaving() {
     auto* note = new QLabel(Text(search_keys::capitalsNote), this);
     note->setTextFormat(Qt::PlainText);
     note->setWordWrap(true);
-    note->setForegroundRole(QPalette::PlaceholderText);
     auto* column = new QVBoxLayout;
     column->addLayout(grid);
     column->addWidget(note);
@@ -156,16 +155,6 @@ QLayout* CNewsKeySearchDlg::pCreateKeySets() {
     column->addWidget(keySetList);
     column->addLayout(under);
     return column;
-}
-
-QLayout* CNewsKeySearchDlg::pCreateEnd() {
-    QPushButton* cancel = AddButton(this, search_ids::cancel, Text(search_keys::cancel));
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    row->addWidget(GetDlgItem(this, search_ids::ok));
-    row->addWidget(cancel);
-    return row;
 }
 
 QPushButton* CNewsKeySearchDlg::pDefaultFor(const QWidget* focus) const {

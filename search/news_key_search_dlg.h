@@ -34,7 +34,6 @@ private:
     QLayout* pCreateNewsTypes();
     QLayout* pCreateSaving();
     QLayout* pCreateKeySets();
-    QLayout* pCreateEnd();
     void vCreateKeySetList();
     int nearby() const;
     QCheckBox* pAddCheckBox(int id, QLatin1StringView key);

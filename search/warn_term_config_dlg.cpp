@@ -57,20 +57,14 @@ void CWarnTermConfigDlg::vCreateControls() {
     grid->setColumnStretch(static_cast<int>(scopes.size()) + 1, 1);
 
     QPushButton* ok = AddButton(this, search_ids::ok, DialogText(search_keys::warningOk));
-    QPushButton* cancel = AddButton(this, search_ids::cancel, DialogText(search_keys::cancel));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* end = new QHBoxLayout;
-    end->addStretch();
-    end->addWidget(ok);
-    end->addWidget(cancel);
 
     auto* column = new QVBoxLayout(this);
     column->setSpacing(fontMetrics().height());
     column->setSizeConstraint(QLayout::SetFixedSize);
     column->addLayout(grid);
-    column->addLayout(end);
+    column->addLayout(AddEnd(this, ok));
 }
 
 CSearch CWarnTermConfigDlg::Condition() const {

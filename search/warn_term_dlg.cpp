@@ -83,15 +83,9 @@ QLayout* CWarnTermDlg::pCreateCommands() {
 
 QLayout* CWarnTermDlg::pCreateEnd() {
     QPushButton* ok = AddButton(this, search_ids::ok, DialogText(search_keys::ok));
-    QPushButton* cancel = AddButton(this, search_ids::cancel, DialogText(search_keys::cancel));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &CWarnTermDlg::OnOK);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    row->addWidget(ok);
-    row->addWidget(cancel);
-    return row;
+    return AddEnd(this, ok);
 }
 
 int CWarnTermDlg::SelectedRow() const {

@@ -125,6 +125,11 @@ TEST_F(KeySetDialog, AClickedKeySetIsWorkedOnUntilItIsSavedOrLeft) {
         EXPECT_EQ(saveText(), newSet) << byKey;
         EXPECT_EQ(texts(search_ids::keywords), QStringList()) << byKey;
     }
+    at<QAbstractItemView>(search_ids::keySets).setFocus();
+    press(search_ids::keySets, Qt::Key_Down);
+    EXPECT_EQ(texts(search_ids::keywords), QStringList{u"W"_s})
+        << "the last row, by a key that leads nowhere";
+    press(search_ids::keySets, Qt::Key_Escape);
     addKeyword(u"HALF"_s);
     clickRow(search_ids::keySets, 3, false, Qt::RightButton);
     EXPECT_EQ(texts(search_ids::keywords), QStringList{u"HALF"_s}) << "what is composed anew is not lost";
