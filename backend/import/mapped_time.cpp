@@ -53,9 +53,10 @@ int& partOf(TimeForm::Parts& parts, QChar letter) {
 std::optional<std::int64_t> moment(const TimeForm::Parts& parts, int yearsFrom, const QTimeZone& zone) {
     const QDate date(parts.year.value_or(0) + yearsFrom, parts.month, parts.day);
     const QTime time(parts.hour, parts.minute, parts.second);
-    if (!date.isValid() || !time.isValid() || date.year() < 1900 || date.year() > 2199)
+    if (!date.isValid() || !time.isValid())
         return std::nullopt;
-    return QDateTime(date, time, zone).toSecsSinceEpoch();
+    const std::int64_t seconds = QDateTime(date, time, zone).toSecsSinceEpoch();
+    return isNewsTime(seconds) ? std::optional(seconds) : std::nullopt;
 }
 
 }  // namespace

@@ -62,10 +62,11 @@ std::optional<std::int64_t> moment(const QRegularExpressionMatch& match, int yea
     const int minute = numberOr(match, u"minute"_s, 0);
     const int second = numberOr(match, u"second"_s, 0);
     const auto offset = zoneMinutes(match.capturedView(u"zone"_s));
-    if (!day.isValid() || year < 1900 || year > 2199 || hour > 24 || minute > 59 || second > 60 || !offset)
+    if (!day.isValid() || hour > 24 || minute > 59 || second > 60 || !offset)
         return std::nullopt;
     const std::int64_t dayStart = day.startOfDay(Qt::UTC).toSecsSinceEpoch();
-    return dayStart + hour * 3600 + minute * 60 + second - *offset * 60;
+    const std::int64_t time = dayStart + hour * 3600 + minute * 60 + second - *offset * 60;
+    return isNewsTime(time) ? std::optional(time) : std::nullopt;
 }
 
 std::optional<std::int64_t> isoTime(const QString& text) {
