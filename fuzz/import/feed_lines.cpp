@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/feed/line_source.h"
+#include "fuzz/support/fuzz_input.h"
+#include "fuzz/support/news_promises.h"
+
+using namespace wirepane;
+
+namespace {
+
+void promiseSameLine(const QByteArray& line) {
+    const FeedLine parsed = parsedFeedLine(line, 7);
+    if (const auto* hello = std::get_if<FeedHello>(&parsed)) {
+        const FeedLine again = parsedFeedLine(helloLine(*hello), 9);
+        const auto* same = std::get_if<FeedHello>(&again);
+        promise(same != nullptr && same->source == hello->source && same->service == hello->service,
+                "a greeting arrives as it was");
+        return;
+    }
+    const auto& record = std::get<FeedRecord>(parsed);
+    if (!record.item) {
+        promise(!record.item.error().isEmpty(), "a rejection has a reason");
+        return;
+    }
+    const auto& item = std::get<NewsItem>(record.item.value());
+    const QByteArray sent = itemLine(item, record.position);
+    const FeedLine again = parsedFeedLine(sent, 9);
+    const auto* same = std::get_if<FeedRecord>(&again);
+    promise(same != nullptr && same->item && same->position == record.position, "an item's line can be read");
+    promise(itemLine(std::get<NewsItem>(same->item.value()), same->position) == sent,
+            "an item sent on again is the same");
+}
+
+}  // namespace
+
+// A live feed, line by line.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    const QList<QByteArray> lines = FuzzInput(bytes, size).bytes().split('\n');
+    LineSource source;
+    qint64 taken = 0;
+    source.onHello([&](const FeedHello&) { taken = 1; });
+    for (const QByteArray& line : lines) {
+        promiseSameLine(line);
+        source.add(line);
+    }
+    source.onReceipt([&](const LineSource::Receipt& receipt) { taken += receipt.lines; });
+    while (source.hasPortion()) {
+        source.read([](SourceItem&&) { return true; });
+        source.settle({});
+    }
+    promise(taken == lines.size() && source.waiting() == 0, "every line is accounted for");
+    return 0;
+}

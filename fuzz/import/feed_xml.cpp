@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/import/feed_reader.h"
+#include "fuzz/support/fuzz_input.h"
+#include "fuzz/support/news_promises.h"
+
+using namespace wirepane;
+
+// RSS and Atom, in any encoding.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    const QByteArray source = FuzzInput(bytes, size).bytes();
+    promiseReading(source.size(), [&](const ItemVisitor& visit) { readFeed(source, {}, visit); });
+    return 0;
+}

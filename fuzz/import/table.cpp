@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/import/csv.h"
+#include "backend/import/source_format.h"
+#include "backend/import/table_reader.h"
+#include "fuzz/support/fuzz_input.h"
+#include "fuzz/support/news_promises.h"
+
+using namespace wirepane;
+
+namespace {
+
+QString quoted(QString field) {
+    return u'"' + field.replace(u'"', QStringLiteral("\"\"")) + u'"';
+}
+
+// Records written out with quotes are read back as they were.
+void promiseSameRecords(QStringView csv, QChar comma) {
+    CsvReader reader(csv, comma);
+    std::vector<QStringList> records;
+    QString written;
+    qsizetype position = 0;
+    qint64 line = 0;
+    while (const auto record = reader.next()) {
+        promise(reader.position() > position && reader.position() <= csv.size(), "a record takes characters");
+        promise(record->line > line && !record->fields.isEmpty(), "records stand on lines of their own");
+        position = reader.position();
+        line = record->line;
+        records.push_back(record->fields);
+        QStringList fields;
+        for (const QString& field : record->fields)
+            fields += quoted(field);
+        written += fields.join(comma) + u'\n';
+    }
+    CsvReader again(written, comma);
+    for (const QStringList& fields : records) {
+        const auto record = again.next();
+        promise(record && record->closed && record->fields == fields, "a record is read back as it was");
+    }
+    promise(!again.next(), "no record comes out of nothing");
+}
+
+}  // namespace
+
+// Tables of symbols and categories, and comma-separated values as such.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    const auto text = decodedText(FuzzInput(bytes, size).bytes());
+    if (!text)
+        return 0;
+    for (const char16_t comma : {u',', u';', u'\t'})
+        promiseSameRecords(*text, comma);
+    promiseReading(text->size(), [&](const ItemVisitor& visit) { readTable(*text, {}, visit); });
+    return 0;
+}

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/search/news_search.h"
+#include "backend/search/search_words.h"
+#include "backend/store/database.h"
+#include "backend/store/item_check.h"
+#include "backend/store/store_file.h"
+#include "backend/store/store_writer.h"
+#include "fuzz/support/fuzz_input.h"
+
+#include <QTemporaryDir>
+
+using namespace wirepane;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int itemsPerStore = 1000;
+
+// A store that holds one piece of news at a time.
+class OneItemStore {
+public:
+    OneItemStore()
+        : written(opened(openStore(folder.filePath(u"store"_s)))),
+          read(opened(Database::open(written->path(), Database::Mode::Read, {}))),
+          writer(*written),
+          search(*read) {}
+
+    NewsItem item{1, u"i"_s, 0, 1072915200, {}, {}, {}, {}, {}, {}};
+
+    bool isFull() const { return item.version == itemsPerStore; }
+
+    // Whether the store takes news with these texts; `item` is then as it stands there.
+    bool take(const QString& title, const QString& story) {
+        item.title = title;
+        item.story = story;
+        item = cleaned(item);
+        ++item.version;
+        promise(bool(writer.begin()), "a transaction begins");
+        const Result<TakeOutcome> outcome = writer.take(item);
+        promise(outcome && bool(writer.commit()), "a store takes news");
+        return outcome.value().take == Take::TakenIn;
+    }
+    bool finds(const CSearch& condition) {
+        const auto found = search.find(item.service, condition);
+        promise(found.has_value(), "a search is answered");
+        return !found->empty();
+    }
+
+private:
+    static std::unique_ptr<Database> opened(Result<std::unique_ptr<Database>> database) {
+        promise(bool(database), "a store is made and opened");
+        return std::move(database.value());
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<Database> written;
+    std::unique_ptr<Database> read;
+    StoreWriter writer;
+    NewsSearch search;
+};
+
+// The words of a text one behind the other, those of each paragraph between line ends.
+QString wordsOf(const QString& text) {
+    const QByteArray utf8 = text.toUtf8();
+    QString words = u" "_s;
+    WordReader reader(utf8);
+    while (reader.next())
+        words += QString::fromUtf8(reader.word().data(), qsizetype(reader.word().size())) + u' ';
+    return words;
+}
+
+// What the search has to answer, found without an index.
+bool holds(const QString& title, const QString& story, const CSearch& condition) {
+    bool any = false;
+    bool all = true;
+    for (const QString& keyword : condition.keywords) {
+        const QStringList words = keywordWords(keyword);
+        if (words.isEmpty())
+            continue;
+        const QString phrase = u' ' + words.join(u' ') + u' ';
+        const bool found = (condition.scope != 1 && wordsOf(title).contains(phrase)) ||
+                           (condition.scope != 0 && wordsOf(story).contains(phrase));
+        any = any || found;
+        all = all && found;
+    }
+    return condition.method == 2 ? any : any && all;
+}
+
+}  // namespace
+
+// A search in a store: a line with scope and method, one for each of two keywords, one for the title, and the
+// story.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    static std::unique_ptr<OneItemStore> store;
+    if (!store || store->isFull())
+        store = std::make_unique<OneItemStore>();
+    FuzzInput input(bytes, size);
+    CSearch condition;
+    condition.scope = input.byte() % 3;
+    condition.method = input.byte() % 3;
+    input.line();
+    condition.keywords = {QString::fromUtf8(input.line()), QString::fromUtf8(input.line())};
+    const QString title = QString::fromUtf8(input.line());
+    const QString story = QString::fromUtf8(input.bytes());
+    if (!store->take(title, story))
+        return 0;
+    const QString paragraphs = QString(*store->item.story).replace("@@@@"_L1, "\n"_L1);
+    promise(store->finds(condition) == holds(store->item.title, paragraphs, condition),
+            "a search finds what stands in the text and nothing else");
+    return 0;
+}
