@@ -1,0 +1,189 @@
+#!/usr/bin/env python3
+"""Makes the pictures of the guide from the running program: every mode and dialog, light and dark.
+
+pictures.py WIREPANE [FOLDER [LANGUAGE]]    FOLDER: beside this script; LANGUAGE: en, zh-TW or zh-CN
+"""
+import json
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+
+MOMENT = "2026-03-02T10:30:00"
+ALL, CATEGORY, SYMBOL, SEARCH, RELATION, WARRANTS, WARNINGS = range(7)
+TABS, SEARCH_EDIT, SEARCH_BUTTON, SHOW_TYPE = 3100, 3008, 3007, 25458
+DEALS_DIALOG, RELATION_DIALOG, WARNING_DIALOG = 3002, 3001, 3006
+WORDS = {"en": ("rate", "bank"), "zh-TW": ("市場", "銀行"), "zh-CN": ("市场", "银行")}
+
+
+class Terminal:
+    """The program, driven over its automation interface; ends with the block."""
+
+    def __init__(self, program: str, language: str, work: pathlib.Path):
+        self.language = language
+        arguments = ["--automation", "--offscreen", "--sample", "--now", MOMENT, "--lang", language]
+        arguments += ["--store", str(work / "news"), "--config", str(work / "config")]
+        self.process = subprocess.Popen([program, *arguments], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True,
+                                        env=dict(os.environ, TZ="Asia/Taipei"))
+        self.number = 0
+
+    def ask(self, method: str, **params):
+        self.number += 1
+        request = {"jsonrpc": "2.0", "id": self.number, "method": method, "params": params}
+        print(json.dumps(request), file=self.process.stdin, flush=True)
+        for line in self.process.stdout:
+            answer = json.loads(line)
+            if answer.get("id") != self.number:
+                continue
+            if "error" in answer:
+                raise SystemExit(f"{method} {params}: {answer['error']['message']}")
+            return answer["result"]
+        raise SystemExit(f"{method} {params}: the terminal has ended")
+
+    def settle(self):
+        self.ask("wait", ms=400)
+        self.ask("idle")
+
+
+class Guide:
+    def __init__(self, terminal: Terminal, folder: pathlib.Path):
+        self.terminal, self.ask, self.folder = terminal, terminal.ask, folder
+
+    def picture(self, name: str, **what):
+        self.terminal.settle()
+        self.ask("screenshot", path=str(self.folder / f"{name}.png"), **what)
+        print(name)
+
+    def press(self, button: int):
+        self.ask("input.click", target=button)
+        self.terminal.settle()
+
+    def show_mode(self, mode: int):
+        tabs = [tab["mode"] for tab in self.ask("view.state")["tabs"]]
+        self.ask("control.choose", id=TABS, index=tabs.index(mode))
+        self.terminal.settle()
+
+    def read(self, mode: int):
+        """Selects the third row, whose story then stands beside the list."""
+        if self.ask("grid.read", list=mode)["rows"] > 2:
+            self.ask("input.click", row=2)
+            self.terminal.settle()
+
+    def modes(self):
+        self.ask("view.open", size=[1000, 620], mask=127)
+        for mode, name in ((ALL, "all-news"), (CATEGORY, "by-category"), (SYMBOL, "by-symbol"), (WARRANTS, "warrants")):
+            self.show_mode(mode)
+            self.read(mode)
+            self.picture(name)
+        self.ask("host.set", scheme="dark")
+        self.show_mode(ALL)
+        self.picture("all-news-dark")
+        self.ask("host.set", scheme="light")
+        self.press(SHOW_TYPE)
+        self.picture("story-below")
+        self.press(SHOW_TYPE)
+        self.ask("input.click", row=2, double=True)
+        self.picture("story-window")
+        self.ask("input.key", key="Escape")
+        self.press(SHOW_TYPE)
+        self.ask("menu.open", row=1)
+        self.picture("context-menu")
+        self.ask("menu.choose", id=None)
+        self.ask("date.open")
+        self.picture("calendar")
+        self.ask("date.close")
+
+    def searches(self):
+        word, other = WORDS[self.terminal.language]
+        self.show_mode(SEARCH)
+        self.ask("control.set", id=SEARCH_EDIT, text=word)
+        self.ask("view.command", id=SEARCH_BUTTON)
+        self.terminal.settle()
+        self.read(SEARCH)
+        self.picture("quick-search")
+        self.ask("view.command", id=DEALS_DIALOG)
+        for keyword in (word, other):
+            self.ask("dialog.set", id=2061, text=keyword)
+            self.ask("dialog.click", id=2063)
+        self.picture("search-dialog")
+        self.ask("host.set", scheme="dark")
+        self.picture("search-dialog-dark")
+        self.ask("host.set", scheme="light")
+        self.ask("dialog.set", id=2094, index=1)
+        self.ask("dialog.set", id=2086, text="23")
+        self.picture("search-dialog-symbols")
+        self.ask("dialog.click", id=9000)
+        self.picture("symbol-picker")
+        self.ask("dialog.close")
+        self.ask("dialog.close")
+
+    def standing_searches(self):
+        word, other = WORDS[self.terminal.language]
+        self.show_mode(RELATION)
+        self.picture("relation-list-empty")
+        self.ask("view.command", id=RELATION_DIALOG)
+        for keyword in (word.upper(), other.upper()):
+            self.ask("dialog.set", id=2061, text=keyword)
+            self.ask("dialog.click", id=2063)
+            self.ask("dialog.set", id=2034, checked=True)
+            self.ask("dialog.click", id=2091)
+        self.picture("key-sets")
+        self.ask("dialog.click", id=1)
+        self.terminal.settle()
+        self.read(RELATION)
+        self.picture("relation-list")
+
+    def warning_terms(self):
+        word, other = WORDS[self.terminal.language]
+        # With both kinds of standing searches on, a view loads nothing but searches.
+        self.ask("host.set", switches={"ShowNormalSearch": 0, "ShowWarningSearch": 1})
+        self.ask("view.close")
+        self.ask("view.open", size=[1000, 620], mask=127)
+        self.show_mode(WARNINGS)
+        self.ask("view.command", id=WARNING_DIALOG)
+        self.ask("dialog.click", id=3)
+        self.ask("dialog.set", id=2043, text=f"{word}, {other}")
+        self.ask("dialog.set", id=2059, checked=True)
+        self.picture("warning-item")
+        self.ask("dialog.click", id=1)
+        self.ask("dialog.set", id=2047, selection=[0])
+        self.picture("warning-terms")
+        self.ask("dialog.click", id=1)
+        self.terminal.settle()
+        self.read(WARNINGS)
+        self.picture("warning-list")
+
+    def desk(self):
+        self.ask("host.set", switches={"ShowNormalSearch": 1, "ShowWarningSearch": 0})
+        self.ask("view.close")
+        for news_type in (0, 2):
+            self.ask("view.open", docked=True, newsType=news_type)
+        self.picture("docked-views")
+
+
+def main() -> int:
+    program = sys.argv[1]
+    folder = pathlib.Path(sys.argv[2]) if len(sys.argv) > 2 else pathlib.Path(__file__).resolve().parent / "pictures"
+    folder.mkdir(parents=True, exist_ok=True)
+    # A fixed place, because the status bar names it.
+    work = pathlib.Path(tempfile.gettempdir()) / "wirepane"
+    shutil.rmtree(work, ignore_errors=True)
+    work.mkdir(mode=0o700)
+    try:
+        terminal = Terminal(program, sys.argv[3] if len(sys.argv) > 3 else "en", work)
+        guide = Guide(terminal, folder.resolve())
+        guide.modes()
+        guide.searches()
+        guide.standing_searches()
+        guide.warning_terms()
+        guide.desk()
+        terminal.ask("app.quit")
+    finally:
+        shutil.rmtree(work)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
