@@ -180,8 +180,9 @@ def main() -> int:
         guide.warning_terms()
         guide.desk()
         terminal.ask("app.quit")
+        terminal.process.wait()
     finally:
-        shutil.rmtree(work)
+        shutil.rmtree(work, ignore_errors=True)
     return 0
 
 
