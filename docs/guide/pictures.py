@@ -50,6 +50,7 @@ class Terminal:
 class Guide:
     def __init__(self, terminal: Terminal, folder: pathlib.Path):
         self.terminal, self.ask, self.folder = terminal, terminal.ask, folder
+        self.symbol = {}
 
     def picture(self, name: str, **what):
         self.terminal.settle()
@@ -77,6 +78,8 @@ class Guide:
             self.show_mode(mode)
             self.read(mode)
             self.picture(name)
+            if mode == SYMBOL:
+                self.symbol = self.ask("view.state")["symbol"]
         self.ask("host.set", scheme="dark")
         self.show_mode(ALL)
         self.picture("all-news-dark")
@@ -160,6 +163,9 @@ class Guide:
         self.ask("view.close")
         for news_type in (0, 2):
             self.ask("view.open", docked=True, newsType=news_type)
+        self.ask("symbol.change", group=1, name="", **self.symbol)
+        self.terminal.settle()
+        self.read(SYMBOL)
         self.picture("docked-views")
 
 
