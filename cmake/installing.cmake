@@ -12,7 +12,7 @@ set_target_properties(wirepane PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
 set_target_properties(wirepane_news PROPERTIES INSTALL_RPATH "$ORIGIN/..")
 set_target_properties(wirepane_host wirepane_contract PROPERTIES INSTALL_RPATH "$ORIGIN")
 install(DIRECTORY docs/ DESTINATION share/doc/wirepane COMPONENT terminal)
-install(FILES README.md DESTINATION share/doc/wirepane COMPONENT terminal)
+install(FILES README.md LICENSE DESTINATION share/doc/wirepane COMPONENT terminal)
 
 # For whoever embeds the module: contract, headers, the example.
 set_target_properties(wirepane_contract PROPERTIES EXPORT_NAME contract)
