@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "backend/feed/feed_line.h"
 #include "backend/import/json_reader.h"
 #include "fuzz/support/fuzz_input.h"
 #include "fuzz/support/news_promises.h"
 
 #include <QBuffer>
+#include <QByteArrayList>
+#include <QJsonDocument>
 
 #include <algorithm>
 
@@ -28,6 +31,34 @@ void tryLines(QByteArray source, const ReadOptions& options) {
     promise(qsizetype(result.items.size()) + result.rejections == filled, "every line is accounted for");
 }
 
+std::vector<StoreItem> itemsOfLines(QByteArray source) {
+    QBuffer buffer(&source);
+    buffer.open(QIODevice::ReadOnly);
+    return promiseReading(source.size(),
+                          [&](const ItemVisitor& visit) {
+                              buffer.seek(0);
+                              readJsonLines(buffer, {}, visit);
+                          })
+        .items;
+}
+
+// Records give the same items line by line and in a list.
+void promiseSameInAList(const QByteArray& source) {
+    QByteArrayList records = source.split('\n');
+    records.removeIf([](const QByteArray& line) { return !QJsonDocument::fromJson(line).isObject(); });
+    const std::vector<StoreItem> expected = itemsOfLines(records.join('\n'));
+    const QByteArray list = '[' + records.join(',') + ']';
+    const ReadingResult result =
+        promiseReading(list.size(), [&](const ItemVisitor& visit) { readJsonList(list, {}, visit); });
+    promise(result.items.size() + std::size_t(result.rejections) == std::size_t(records.size()),
+            "each entry of a list is accounted for");
+    promise(std::equal(result.items.begin(), result.items.end(), expected.begin(), expected.end(),
+                       [](const StoreItem& a, const StoreItem& b) {
+                           return itemLine(std::get<NewsItem>(a), {}) == itemLine(std::get<NewsItem>(b), {});
+                       }),
+            "a list gives what its records give as lines");
+}
+
 }  // namespace
 
 // ninjs in its three forms; the first byte chooses how long a line may be.
@@ -40,6 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const ReadingResult document = promiseReading(
         source.size(), [&](const ItemVisitor& visit) { readJsonDocument(source, options, visit); });
     promise(document.items.size() + std::size_t(document.rejections) == 1, "a document is one record");
+    promiseSameInAList(source);
     if (source.trimmed().startsWith('['))
         promiseReading(source.size(),
                        [&](const ItemVisitor& visit) { readJsonList(source, options, visit); });
