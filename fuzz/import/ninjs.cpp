@@ -42,10 +42,12 @@ std::vector<StoreItem> itemsOfLines(QByteArray source) {
         .items;
 }
 
-// Records give the same items line by line and in a list.
+// Records give the same items line by line and in a list; a byte order mark belongs to the lines alone.
 void promiseSameInAList(const QByteArray& source) {
     QByteArrayList records = source.split('\n');
-    records.removeIf([](const QByteArray& line) { return !QJsonDocument::fromJson(line).isObject(); });
+    records.removeIf([](const QByteArray& line) {
+        return line.trimmed().startsWith("\xef\xbb\xbf") || !QJsonDocument::fromJson(line).isObject();
+    });
     const std::vector<StoreItem> expected = itemsOfLines(records.join('\n'));
     const QByteArray list = '[' + records.join(',') + ']';
     const ReadingResult result =
