@@ -51,7 +51,18 @@ struct CategoryItem {
     QString colour;  // "#rrggbb"; empty: the grid's own
 };
 
-using StoreItem = std::variant<NewsItem, SymbolItem, CategoryItem>;
+inline constexpr std::int64_t mostVolume = 9'007'199'254'740'991;  // what JSON numbers hold exactly
+
+// What a symbol trades at, of the last moment that is known.
+struct QuoteItem {
+    unsigned char market = 0;
+    QString code;
+    double last = 0;
+    double change = 0;        // against the previous close, in price units
+    std::int64_t volume = 0;  // of the day, in units of trading; 0 to mostVolume
+};
+
+using StoreItem = std::variant<NewsItem, SymbolItem, CategoryItem, QuoteItem>;
 
 // What was wrong with one item of a source, for a person to act on.
 struct Rejection {

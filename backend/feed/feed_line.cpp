@@ -31,7 +31,8 @@ Result<StoreItem> ninjs(QByteArrayView record, unsigned char service) {
 // The fields of an item, and the first of them that is wrong.
 class ItemFields {
 public:
-    explicit ItemFields(const QJsonObject& object) : fields(object) {}
+    explicit ItemFields(const QJsonObject& object, QString kindOfObject = u"item"_s)
+        : fields(object), kind(std::move(kindOfObject)) {}
 
     QString text(QLatin1StringView name) {
         const QJsonValue value = fields.value(name);
@@ -47,6 +48,12 @@ public:
         fail(name, u"is not a whole number from %1 to %2"_s.arg(least).arg(most));
         return least;
     }
+    double price(QLatin1StringView name) {
+        const QJsonValue value = fields.value(name);
+        if (!value.isDouble())
+            fail(name, u"is not a number"_s);
+        return value.toDouble();
+    }
     bool has(QLatin1StringView name) const {
         return !fields.value(name).isNull() && !fields.value(name).isUndefined();
     }
@@ -57,13 +64,14 @@ public:
     }
     void fail(const QString& name, const QString& what) {
         if (fault.isEmpty())
-            fault = u"“%1” of the item %2."_s.arg(name, what);
+            fault = u"“%1” of the %2 %3."_s.arg(name, kind, what);
     }
 
     QString fault;
 
 private:
     const QJsonObject& fields;
+    QString kind;
 };
 
 Result<StoreItem> itemFrom(const QJsonObject& object) {
@@ -97,10 +105,25 @@ Result<StoreItem> itemFrom(const QJsonObject& object) {
     return stored(std::move(item));
 }
 
+Result<StoreItem> quoteFrom(const QJsonObject& object) {
+    ItemFields fields(object, u"quote"_s);
+    QuoteItem quote;
+    quote.market = static_cast<unsigned char>(fields.number("market"_L1, 1, lastId));
+    quote.code = fields.text("code"_L1);
+    quote.last = fields.price("last"_L1);
+    quote.change = fields.price("change"_L1);
+    quote.volume = fields.number("volume"_L1, 0, mostVolume);
+    if (!fields.fault.isEmpty())
+        return Error{fields.fault};
+    return StoreItem(std::move(quote));
+}
+
 FeedLine opened(const QJsonObject& content, unsigned char service) {
     const QString position = content.value("position"_L1).toString();
     if (content.value("item"_L1).isObject())
         return FeedRecord{itemFrom(content.value("item"_L1).toObject()), position};
+    if (content.value("quote"_L1).isObject())
+        return FeedRecord{quoteFrom(content.value("quote"_L1).toObject()), position};
     if (content.value("ninjs"_L1).isObject()) {
         const QByteArray record =
             QJsonDocument(content.value("ninjs"_L1).toObject()).toJson(QJsonDocument::Compact);
@@ -109,7 +132,8 @@ FeedLine opened(const QJsonObject& content, unsigned char service) {
     const QJsonValue id = content.value("service"_L1);
     const auto number = id.isUndefined() ? 1 : id.toInteger(0);
     if (!content.value("source"_L1).isString() || number < 1 || number > lastId)
-        return FeedRecord{Error{u"The line holds neither an item nor a greeting with a source."_s}, {}};
+        return FeedRecord{Error{u"The line holds neither an item, a quote nor a greeting with a source."_s},
+                          {}};
     return FeedHello{content.value("source"_L1).toString(), static_cast<unsigned char>(number)};
 }
 

@@ -29,6 +29,7 @@ struct FeedRecord {
 //   {"ninjs": RECORD, "position": TEXT}   a record and its position
 //   {"item": ITEM, "position": TEXT}      news as a store holds it: service, identity, version, time, title,
 //                                         story, category, related [{market, code}], sequence
+//   {"quote": QUOTE, "position": TEXT}    what a symbol trades at: market, code, last, change, volume
 using FeedLine = std::variant<FeedHello, FeedRecord>;
 
 FeedLine parsedFeedLine(QByteArrayView line, unsigned char service);

@@ -45,6 +45,7 @@ private:
         } else {
             ++outcome.totals.takenIn;
             if (const auto* news = std::get_if<NewsItem>(&item.content.value())) {
+                ++outcome.news;
                 const auto [known, isNew] = outcome.newest.try_emplace(news->service, news->time);
                 known->second = std::max(known->second, news->time);
             }

@@ -14,6 +14,7 @@ namespace wirepane {
 // What became of one portion of a source.
 struct PortionOutcome {
     ImportTotals totals;
+    qint64 news = 0;                    // taken in, of the totals
     std::vector<Rejection> rejections;  // the first mostRejections of them
     std::optional<QString> fault;       // the portion as a whole cannot be read: nothing of it was taken
     std::map<unsigned char, std::int64_t> newest;  // by service: the latest time of the news taken in

@@ -31,6 +31,9 @@ constexpr std::array headerNames{
     HeaderName{u"id", Column::Id},
     HeaderName{u"colour", Column::Colour},
     HeaderName{u"color", Column::Colour},
+    HeaderName{u"last", Column::Last},
+    HeaderName{u"change", Column::Change},
+    HeaderName{u"volume", Column::Volume},
 };
 
 }  // namespace

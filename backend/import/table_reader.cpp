@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace wirepane {
@@ -22,6 +23,9 @@ constexpr QLatin1StringView footer("File Creation Time");
 TableKind kindOf(const TableColumns& columns) {
     if (columns.has(Column::Service) && columns.has(Column::Id) && columns.has(Column::Name))
         return TableKind::Categories;
+    if (columns.has(Column::Market) && columns.has(Column::Code) && columns.has(Column::Last) &&
+        columns.has(Column::Change) && columns.has(Column::Volume))
+        return TableKind::Quotes;
     const bool knowsMarket = columns.has(Column::Market) || columns.market() != unknownMarket;
     return columns.has(Column::Code) && columns.has(Column::Name) && knowsMarket ? TableKind::Symbols
                                                                                  : TableKind::Unknown;
@@ -40,6 +44,15 @@ Result<qint64> number(QLatin1StringView what, const QString& text, qint64 least,
     return value;
 }
 
+Result<double> price(QLatin1StringView what, const QString& text) {
+    bool isNumber = false;
+    const double value = text.toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(value))
+        return Error{
+            u"“%1” is not a %2: it must be a number such as 12.5."_s.arg(titleLine(text.left(60)), what)};
+    return value;
+}
+
 // The two company lists have the same header; the name under which they are published tells them apart.
 unsigned char marketOfList(unsigned char byHeader, const ReadOptions& options) {
     if (options.market != unknownMarket)
@@ -50,14 +63,22 @@ unsigned char marketOfList(unsigned char byHeader, const ReadOptions& options) {
     return byHeader;
 }
 
-Result<StoreItem> symbolItem(const TableColumns& columns, const QStringList& row,
-                             const ReadOptions& options) {
+Result<QString> codeOf(const TableColumns& columns, const QStringList& row) {
     static const QRegularExpression codeForm(u"^[^\\s\\p{C}]{1,32}$"_s,
                                              QRegularExpression::UseUnicodePropertiesOption);
+    QString code = columns.field(row, Column::Code);
+    if (!codeForm.match(code).hasMatch())
+        return Error{u"“%1” is not a symbol code."_s.arg(titleLine(code.left(60)))};
+    return code;
+}
+
+Result<StoreItem> symbolItem(const TableColumns& columns, const QStringList& row,
+                             const ReadOptions& options) {
+    const auto code = codeOf(columns, row);
+    if (!code)
+        return Error{code.error()};
     SymbolItem item;
-    item.code = columns.field(row, Column::Code);
-    if (!codeForm.match(item.code).hasMatch())
-        return Error{u"“%1” is not a symbol code."_s.arg(titleLine(item.code.left(60)))};
+    item.code = code.value();
     item.name = titleLine(columns.field(row, Column::Name));
     if (item.name.isEmpty())
         return Error{u"The symbol “%1” has no name."_s.arg(item.code)};
@@ -100,6 +121,33 @@ Result<StoreItem> categoryItem(const TableColumns& columns, const QStringList& r
     return StoreItem(item);
 }
 
+Result<StoreItem> quoteItem(const TableColumns& columns, const QStringList& row) {
+    const auto market = number("market"_L1, columns.field(row, Column::Market), 1, 255);
+    if (!market)
+        return Error{market.error()};
+    const auto code = codeOf(columns, row);
+    if (!code)
+        return Error{code.error()};
+    const auto last = price("last price"_L1, columns.field(row, Column::Last));
+    if (!last)
+        return Error{last.error()};
+    const auto change = price("change"_L1, columns.field(row, Column::Change));
+    if (!change)
+        return Error{change.error()};
+    const auto volume = number("volume"_L1, columns.field(row, Column::Volume), 0, mostVolume);
+    if (!volume)
+        return Error{volume.error()};
+    return StoreItem(QuoteItem{static_cast<unsigned char>(market.value()), code.value(), last.value(),
+                               change.value(), volume.value()});
+}
+
+Result<StoreItem> itemOf(TableKind kind, const TableColumns& columns, const QStringList& row,
+                         const ReadOptions& options) {
+    if (kind == TableKind::Categories)
+        return categoryItem(columns, row);
+    return kind == TableKind::Quotes ? quoteItem(columns, row) : symbolItem(columns, row, options);
+}
+
 bool isLeftOut(const QStringList& row) {
     return row.first().startsWith(footer) || std::all_of(row.begin(), row.end(), [](const QString& field) {
                return field.trimmed().isEmpty();
@@ -128,9 +176,7 @@ void readTable(QStringView table, const ReadOptions& options, const ItemVisitor&
         }
         if (isLeftOut(row->fields))
             continue;
-        if (!visit({kind == TableKind::Categories ? categoryItem(columns, row->fields)
-                                                  : symbolItem(columns, row->fields, options),
-                    place, csv.position()}))
+        if (!visit({itemOf(kind, columns, row->fields, options), place, csv.position()}))
             return;
     }
 }

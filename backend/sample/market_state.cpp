@@ -15,6 +15,8 @@ constexpr std::uint64_t indexStream = 1;
 constexpr std::uint64_t currencyStream = 100;
 constexpr std::uint64_t commodityStream = 200;
 constexpr std::uint64_t bondStream = 300;
+constexpr std::uint64_t volumeStream = 400;
+constexpr std::uint64_t warrantStream = 500;
 
 constexpr int openMinute = 9 * 60;
 constexpr int closeMinute = 13 * 60 + 30;
@@ -83,6 +85,32 @@ Quote MarketState::share(const Company& company, LocalTime at) const {
     if (result.now == result.previous)
         result.now += exact.up() ? step : -step;
     return result;
+}
+
+std::int64_t MarketState::volume(const Company& company, LocalTime at) const {
+    const int turnover = inRange(
+        hashOf(seed, volumeStream, company.seed, static_cast<std::uint64_t>(at.day.tradingDay())), 1, 12);
+    const int close = company.market == hongKongService ? hongKongCloseMinute : closeMinute;
+    return std::int64_t{company.shares} * turnover * progress(at, close) / 1000;
+}
+
+// A warrant makes three times the way of its share.
+Quote MarketState::warrant(const Warrant& warrant, LocalTime at) const {
+    const std::int64_t usual = warrant.underlying->price;
+    const std::int64_t issued =
+        inRange(hashOf(seed, warrantStream, static_cast<std::uint64_t>(warrant.code.toInt())), 60, 240);
+    const auto moved = [&](std::int64_t price) {
+        return std::max<std::int64_t>(issued * (3 * price - 2 * usual) / usual, 1);
+    };
+    const Quote underlying = share(*warrant.underlying, at);
+    return {moved(underlying.now), moved(underlying.previous)};
+}
+
+std::int64_t MarketState::volume(const Warrant& warrant, LocalTime at) const {
+    const auto code = static_cast<std::uint64_t>(warrant.code.toInt());
+    const int most =
+        inRange(hashOf(seed, warrantStream, code, static_cast<std::uint64_t>(at.day.tradingDay())), 0, 4'000);
+    return std::int64_t{most} * progress(at, closeMinute) / 1000;
 }
 
 Quote MarketState::shareIndex(unsigned char market, LocalTime at) const {

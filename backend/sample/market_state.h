@@ -25,7 +25,10 @@ class MarketState {
 public:
     explicit MarketState(std::uint64_t worldSeed) : seed(worldSeed) {}
 
-    Quote share(const Company& company, LocalTime at) const;     // hundredths, on the market's price steps
+    Quote share(const Company& company, LocalTime at) const;  // hundredths, on the market's price steps
+    std::int64_t volume(const Company& company, LocalTime at) const;  // of the day so far, in thousands
+    Quote warrant(const Warrant& warrant, LocalTime at) const;        // hundredths
+    std::int64_t volume(const Warrant& warrant, LocalTime at) const;
     Quote shareIndex(unsigned char market, LocalTime at) const;  // hundredths of a point
     Quote currency(int index, LocalTime at) const;               // ten-thousandths per US dollar
     Quote commodity(int index, LocalTime at) const;              // hundredths of a US dollar

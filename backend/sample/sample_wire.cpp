@@ -61,6 +61,7 @@ public:
 
     bool handCategories(const Taker& take) const;
     bool handSymbols(const Taker& take) const;
+    bool handQuotes(const Taker& take) const;
     bool handNews(const Taker& take) const;
 
 private:
@@ -102,6 +103,21 @@ bool SampleWire::Desk::handSymbols(const Taker& take) const {
                        [&take](const Warrant& warrant) {
                            return take(SymbolItem{warrantService, warrant.code, warrant.name, 1});
                        });
+}
+
+bool SampleWire::Desk::handQuotes(const Taker& take) const {
+    const LocalTime at = LocalTime::fromUtc(options.now);
+    const auto hand = [&take](const SymbolRef& symbol, const Quote& quote, std::int64_t volume) {
+        return take(QuoteItem{symbol.market, symbol.code, static_cast<double>(quote.now) / 100,
+                              static_cast<double>(quote.now - quote.previous) / 100, volume});
+    };
+    for (unsigned char market : {stockExchangeService, emergingBoardService, hongKongService})
+        for (const Company& company : companies.companies(market))
+            if (!hand(company.symbol(), markets.share(company, at), markets.volume(company, at)))
+                return false;
+    return std::all_of(companies.warrants().begin(), companies.warrants().end(), [&](const Warrant& warrant) {
+        return hand(warrant.symbol(), markets.warrant(warrant, at), markets.volume(warrant, at));
+    });
 }
 
 bool SampleWire::Desk::handNews(const Taker& take) const {
@@ -171,7 +187,8 @@ SampleWire::SampleWire(SampleOptions options) : desk(std::make_unique<const Desk
 SampleWire::~SampleWire() = default;
 
 bool SampleWire::run(const Taker& take) const {
-    return desk->handCategories(take) && desk->handSymbols(take) && desk->handNews(take);
+    return desk->handCategories(take) && desk->handSymbols(take) && desk->handQuotes(take) &&
+           desk->handNews(take);
 }
 
 }  // namespace wirepane

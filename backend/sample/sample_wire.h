@@ -37,7 +37,7 @@ struct SampleOptions {
 // An invented news wire: companies, people and events that never were, in English and Traditional Chinese.
 //
 // The same options give the same items, byte for byte, on every platform. A later present moment with
-// otherwise equal options gives the same items up to the earlier one (with the same identities), and goes on
+// otherwise equal options gives the same news up to the earlier one (with the same identities), and goes on
 // from there.
 class SampleWire {
 public:
@@ -48,8 +48,9 @@ public:
     ~SampleWire();
 
     // Hands over the categories of the services, then the symbols of the markets 16, 22, 122 and 52 (whatever
-    // the services), then the news from the oldest to the newest, none later than the present moment. True:
-    // all were taken. May be called again, and starts from the beginning then.
+    // the services) and their quotes of the present moment, then the news from the oldest to the newest, none
+    // later than the present moment. True: all were taken. May be called again, and starts from the beginning
+    // then.
     bool run(const Taker& take) const;
 
 private:

@@ -33,6 +33,9 @@ EmbeddedBackEnd::EmbeddedBackEnd(std::unique_ptr<Database> store)
       writer(*database),
       days(*database),
       headlineCache(reader),
+      quotes(*database),
+      toldRevision(quotes.lastRevision()),
+      quoteDesk([this](const CSymbolInfo& symbol) { return quotes.find(symbol); }),
       arrivals(*database),
       delivery(arrivals, [this](const Arrival& arrival) { tell(arrival); }),
       searches(
@@ -104,6 +107,7 @@ Done EmbeddedBackEnd::commit() {
     }
     delivery.run();
     tellOf(done.symbols);
+    tellQuotes();
     return Nothing{};
 }
 
@@ -139,6 +143,15 @@ void EmbeddedBackEnd::tellOf(const std::vector<SymbolItem>& symbols) {
 void EmbeddedBackEnd::checkForNews() {
     catchUp();
     delivery.run();
+    tellQuotes();
+}
+
+void EmbeddedBackEnd::tellQuotes() {
+    if (!connected)
+        return;
+    // A receiver may take quotes in meanwhile: they are told behind these.
+    for (const CQuoteMemory& quote : quotes.after(toldRevision))
+        quoteDesk.tell(quote);
 }
 
 void EmbeddedBackEnd::setConnected(bool on) {
@@ -152,14 +165,13 @@ void EmbeddedBackEnd::setConnected(bool on) {
     }
     catchUp();
     lastMissed = delivery.open();
+    tellQuotes();
 }
 
 void EmbeddedBackEnd::tell(const Arrival& arrival) {
     if (arrival.onlyStory) {
         const CHeadlineTable entry = entryOf(arrival.key);
-        answers.give(Held::Stories, [this, entry] {
-            ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespStory(entry); });
-        });
+        answers.give(Held::Stories, [this, entry] { tellStory(entry); });
         return;
     }
     const CHeadline* const read = headlineCache.find(arrival.key);
@@ -171,6 +183,15 @@ void EmbeddedBackEnd::tell(const Arrival& arrival) {
     const QString code = symbols && !symbols->empty() ? symbols->front().code : QString();
     const QString category = QString::number(headline.categoryId);
     ForEachReceiver([&](NewsReceiver& receiver) { receiver.RecvNewHeadLine(&headline, category, code); });
+}
+
+void EmbeddedBackEnd::tellStory(const CHeadlineTable& entry) {
+    ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespStory(entry); });
+    const auto related = reader.relatedSymbols(KeyOf(entry));
+    if (!related)
+        return;
+    const CNewsSymlistInfo info{KeyOf(entry), {*related}};
+    ForEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvNewsRelateSymbolListRecovery(&info); });
 }
 
 void EmbeddedBackEnd::announceStoryChange(const HeadlineKey& key) {
@@ -197,10 +218,13 @@ void EmbeddedBackEnd::RegisterSymbols(NewsReceiver* view, const std::vector<CSym
         if (symbol.code.isEmpty())
             services.erase(symbol.market);
     }
+    quoteDesk.leave(view, removed);
+    quoteDesk.follow(view, added);
 }
 
 void EmbeddedBackEnd::UnregisterSymbols(NewsReceiver* view) {
     registrations.erase(view);
+    quoteDesk.leaveAll(view);
 }
 
 std::vector<unsigned char> EmbeddedBackEnd::registeredServices(NewsReceiver* receiver) const {

@@ -9,6 +9,8 @@
 #include "backend/store/day_index.h"
 #include "backend/store/headline_cache.h"
 #include "backend/store/news_delivery.h"
+#include "backend/store/quote_book.h"
+#include "backend/store/quote_desk.h"
 #include "backend/store/request_log.h"
 #include "backend/store/simplified_chinese.h"
 #include "backend/store/store_reader.h"
@@ -41,6 +43,10 @@ namespace wirepane {
 // is new or replaced as a new headline, a story that was missing as a story that can be had, a symbol as a
 // change of the catalogue. Nothing is told of what was there already. Of a large batch the first 500 are
 // told before commit() returns, the rest from the event loop.
+//
+// Quotes are told to the receivers that registered their symbol by its code: what is known of it from the
+// event loop, then every change. With a story that is asked for again, or comes late, the related symbols of
+// its headline are sent.
 //
 // Other programs may write to the store meanwhile: look-ups see it, and checkForNews() tells the receivers.
 class EmbeddedBackEnd : public BKQuoteInterface, public FeedSink {
@@ -164,6 +170,10 @@ private:
     void catchUp();
     void tell(const Arrival& arrival);
     void tellOf(const std::vector<SymbolItem>& symbols);
+    // The quotes that have changed since the last call; not while there is no connection.
+    void tellQuotes();
+    // That the story of an entry can be had, and its related symbols.
+    void tellStory(const CHeadlineTable& entry);
     int tableOf(unsigned char service, std::vector<CHeadlineTable>& table, int kind, const QString& key);
     int tableOf(unsigned char service, std::vector<CHeadlineTable>& table, const CSymbolInfo& symbol);
 
@@ -172,6 +182,9 @@ private:
     StoreWriter writer;
     DayIndex days;
     HeadlineCache headlineCache;
+    QuoteBook quotes;
+    std::int64_t toldRevision;  // of the quotes
+    QuoteDesk quoteDesk;
     ArrivalLog arrivals;
     AnswerDesk answers;
     Entries awaited;                                 // headlines that were looked up while they were held

@@ -23,9 +23,7 @@ bool EmbeddedBackEnd::BKQNews_bReRequestHeadlineStory(const CHeadlineTable& entr
                  {entry.service, qlonglong(entry.time), entry.sequence});
     if (!reader.story(KeyOf(entry)))
         return false;
-    answers.giveLater(Held::Stories, [this, entry] {
-        ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespStory(entry); });
-    });
+    answers.giveLater(Held::Stories, [this, entry] { tellStory(entry); });
     return true;
 }
 

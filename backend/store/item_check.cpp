@@ -116,6 +116,12 @@ CategoryItem cleaned(const CategoryItem& item) {
     return clean;
 }
 
+QuoteItem cleaned(const QuoteItem& item) {
+    QuoteItem clean = item;
+    clean.code = cleanText(item.code);
+    return clean;
+}
+
 QString faultOfStory(const QString& story) {
     return story.size() > limits::storyLength ? tooLong("story"_L1, story.size(), limits::storyLength)
                                               : QString();
@@ -164,6 +170,21 @@ QString faultOf(const CategoryItem& item) {
         return u"The category has no name."_s;
     if (!item.colour.isEmpty() && !isColour(item.colour))
         return u"The colour \"%1\" is not of the form #rrggbb."_s.arg(item.colour.left(20));
+    return {};
+}
+
+QString faultOf(const QuoteItem& item) {
+    if (item.market == 0)
+        return u"The quote belongs to no market."_s;
+    if (QString fault = symbolFault(item.code); !fault.isEmpty())
+        return fault;
+    // Written so that a number that is none fails too.
+    if (!(item.last >= 0 && item.last <= limits::price))
+        return u"The last price of %1 is not a number from 0 to %2."_s.arg(item.code).arg(limits::price);
+    if (!(item.change >= -limits::price && item.change <= item.last))
+        return u"The change of %1 is not a number, or larger than its last price."_s.arg(item.code);
+    if (item.volume < 0 || item.volume > mostVolume)
+        return u"The volume of %1 is not a number from 0 to %2."_s.arg(item.code).arg(mostVolume);
     return {};
 }
 

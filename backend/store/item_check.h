@@ -18,11 +18,15 @@ QString cleanCategoryName(const QString& name);
 NewsItem cleaned(const NewsItem& item);
 SymbolItem cleaned(const SymbolItem& item);
 CategoryItem cleaned(const CategoryItem& item);
+QuoteItem cleaned(const QuoteItem& item);
 
 // Why a cleaned item cannot be taken: a sentence; empty when it can.
 QString faultOf(const NewsItem& item);
 QString faultOfStory(const QString& story);
 QString faultOf(const SymbolItem& item);
 QString faultOf(const CategoryItem& item);
+// Numbers that are none, or beyond all prices, and changes that leave less than nothing as the previous
+// close.
+QString faultOf(const QuoteItem& item);
 
 }  // namespace wirepane

@@ -103,7 +103,19 @@ CREATE VIRTUAL TABLE news_search USING fts5(
 CREATE TABLE search_rules(fingerprint INTEGER NOT NULL);
 )sql";
 
-constexpr std::array steps{firstVersion, arrivalsAndPositions, ownSearchWords};
+constexpr const char* quotes = R"sql(
+CREATE TABLE quotes(
+    market INTEGER NOT NULL CHECK(market BETWEEN 1 AND 255),
+    code TEXT NOT NULL,
+    last REAL NOT NULL,
+    change REAL NOT NULL,
+    volume INTEGER NOT NULL,
+    revision INTEGER NOT NULL,
+    PRIMARY KEY(market, code)) WITHOUT ROWID;
+CREATE UNIQUE INDEX quotes_by_revision ON quotes(revision);
+)sql";
+
+constexpr std::array steps{firstVersion, arrivalsAndPositions, ownSearchWords, quotes};
 
 }  // namespace
 

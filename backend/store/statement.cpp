@@ -58,6 +58,10 @@ std::int64_t Query::number(int column) const {
     return sqlite3_column_int64(running, column);
 }
 
+double Query::real(int column) const {
+    return sqlite3_column_double(running, column);
+}
+
 QByteArrayView Query::bytes(int column) const {
     const auto* first = reinterpret_cast<const char*>(sqlite3_column_text(running, column));
     return {first, sqlite3_column_bytes(running, column)};
@@ -80,6 +84,11 @@ void Query::bind(int index, const QString& value) {
         broken = true;
         source.owner.noteFailure();
     }
+}
+
+void Query::bind(int index, double value) {
+    if (!broken)
+        sqlite3_bind_double(running, index, value);
 }
 
 void Query::bindNumber(int index, std::int64_t value) {

@@ -52,6 +52,7 @@ public:
 
     // Columns of the row, from 0 on. A null is 0 or an empty text.
     std::int64_t number(int column) const;
+    double real(int column) const;
     std::int32_t smallNumber(int column) const { return static_cast<std::int32_t>(number(column)); }
     QString text(int column) const;
     // The text in UTF-8, valid until the next row.
@@ -65,6 +66,7 @@ private:
         bindNumber(index, static_cast<std::int64_t>(value));
     }
     void bind(int index, const QString& value);
+    void bind(int index, double value);
     void bindNumber(int index, std::int64_t value);
 
     Statement& source;

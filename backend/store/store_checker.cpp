@@ -53,6 +53,11 @@ constexpr std::array rules{
     Rule{"SELECT space || '/' || id FROM categories "
          "WHERE name = '' OR name GLOB '*[ ,]*' OR length(name) > 64",
          u"The names of these categories are empty, too long, or hold blanks or commas: %1."},
+    Rule{"SELECT market || '/' || code FROM quotes WHERE code = '' OR length(code) > 64 OR "
+         "typeof(last) <> 'real' OR last NOT BETWEEN 0 AND 1e12 OR typeof(change) <> 'real' OR "
+         "change NOT BETWEEN -1e12 AND last OR typeof(volume) <> 'integer' OR "
+         "volume NOT BETWEEN 0 AND 9007199254740991",
+         u"The quotes of these symbols hold a number that is none, or out of range: %1."},
 };
 
 QString namesOf(QStringList offenders) {

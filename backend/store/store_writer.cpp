@@ -40,6 +40,7 @@ StoreWriter::StoreWriter(Database& owner)
       categories(owner),
       arrivals(owner),
       positions(owner),
+      quotes(owner),
       insertService(owner,
                     "INSERT OR IGNORE INTO services(id, full_name, short_name, position) "
                     "SELECT ?1, ?2, ?2, coalesce(max(position), 0) + 1 FROM services"),
@@ -84,6 +85,8 @@ Result<TakeOutcome> StoreWriter::take(const StoreItem& item) {
         return takeSymbol(cleaned(*symbol));
     if (const auto* category = std::get_if<CategoryItem>(&item))
         return takeCategory(cleaned(*category));
+    if (const auto* quote = std::get_if<QuoteItem>(&item))
+        return takeQuote(cleaned(*quote));
     const Result<StoredNews> stored = takeNews(std::get<NewsItem>(item));
     if (!stored)
         return Error{stored.error()};
@@ -258,6 +261,17 @@ Result<TakeOutcome> StoreWriter::takeCategory(const CategoryItem& item) {
     if (!outcome)
         rollback();
     return outcome;
+}
+
+Result<TakeOutcome> StoreWriter::takeQuote(const QuoteItem& item) {
+    if (!begun)
+        return Error{u"Nothing was begun that the quote could be part of."_s};
+    if (const QString fault = faultOf(item); !fault.isEmpty())
+        return TakeOutcome{Take::Rejected, fault};
+    bool changed = false;
+    if (!quotes.put(item, changed))
+        return fail();
+    return TakeOutcome{changed ? Take::TakenIn : Take::AlreadyThere, {}};
 }
 
 }  // namespace wirepane

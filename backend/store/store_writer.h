@@ -9,6 +9,7 @@
 #include "backend/store/feed_positions.h"
 #include "backend/store/local_day.h"
 #include "backend/store/news_writer.h"
+#include "backend/store/quote_book.h"
 #include "host/contract/records.h"
 
 #include <QSet>
@@ -35,7 +36,7 @@ struct StoredNews {
 // of that day has is a reason to reject it. Services and categories that the store does not know are made.
 //
 // Texts are cleaned (item_check.h) and checked against limits.h; what does not pass is rejected with a
-// reason.
+// reason. A symbol has one quote, the one that came last.
 //
 // An error takes everything back since begin(). Thread: that of the database, which must outlive the writer.
 class StoreWriter : public FeedSink {
@@ -58,6 +59,7 @@ public:
 private:
     Result<TakeOutcome> takeSymbol(const SymbolItem& item);
     Result<TakeOutcome> takeCategory(const CategoryItem& item);
+    Result<TakeOutcome> takeQuote(const QuoteItem& item);
 
     Result<StoredNews> add(const NewsItem& item);
     Result<StoredNews> replace(const NewsItem& item, const KnownNews& known);
@@ -77,6 +79,7 @@ private:
     CategoryBook categories;
     ArrivalLog arrivals;
     FeedPositions positions;
+    QuoteBook quotes;
     Statement insertService;
     Statement findSymbol;
     Statement writeSymbol;

@@ -49,7 +49,8 @@ Done StoredDay::copyCatalogues(Database& target) const {
                                    "REPLACE INTO services SELECT * FROM source.services;"
                                    "INSERT INTO categories SELECT * FROM source.categories;"
                                    "INSERT INTO service_categories SELECT * FROM source.service_categories;"
-                                   "REPLACE INTO symbols SELECT * FROM source.symbols; COMMIT"))
+                                   "REPLACE INTO symbols SELECT * FROM source.symbols;"
+                                   "REPLACE INTO quotes SELECT * FROM source.quotes; COMMIT"))
         return Nothing{};
     const Error error{target.failure()};
     if (target.inTransaction())

@@ -48,8 +48,9 @@ public:
     void Attach(NewsReceiver* receiver);
     void Detach(NewsReceiver* receiver);
 
-    // Real-time distribution: a symbol with an empty code stands for the whole service. `view` has been
-    // attached.
+    // Real-time distribution: a symbol with an empty code stands for the news of a whole service; one with a
+    // code for its quotes, of which `view` then hears by the memory callbacks: later what is known (also for
+    // one that is registered already), and every change from now on. `view` has been attached.
     virtual void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                                  const std::vector<CSymbolInfo>& removed);
     // Ends all registrations of `view`.

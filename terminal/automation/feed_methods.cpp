@@ -63,6 +63,19 @@ SymbolItem symbolFrom(Params& params, const QJsonValue& value) {
     return symbol;
 }
 
+QuoteItem quoteFrom(Params& params, const QJsonValue& value) {
+    Params fields(value.toObject());
+    QuoteItem quote;
+    quote.market = static_cast<unsigned char>(fields.number(u"market"_s, 1, lastId));
+    quote.code = fields.text(u"code"_s);
+    quote.last = fields.real(u"last"_s);
+    quote.change = fields.real(u"change"_s);
+    quote.volume = fields.number(u"volume"_s, 0, mostVolume);
+    if (fields.error())
+        params.fail(fields.error()->message);
+    return quote;
+}
+
 std::optional<RpcError> refusalOf(const Result<TakeOutcome>& taken) {
     if (!taken)
         return RpcError{RpcCode::Refused, taken.error()};
@@ -102,6 +115,7 @@ FeedMethods::FeedMethods(Session& terminal)
 void FeedMethods::addTo(MethodTable& table) {
     table.addModal(u"feed.push"_s, [this](Params& params) { return push(params); });
     table.addWithList(u"feed.symbols"_s, u"symbols"_s, [this](Params& params) { return symbols(params); });
+    table.addWithList(u"feed.quotes"_s, u"quotes"_s, [this](Params& params) { return quotes(params); });
     table.add(u"feed.requests"_s, [this](Params&) { return requests(); });
     table.addModal(u"feed.connect"_s, [this](Params& params) { return connectFeed(params); });
     table.addModal(u"feed.story"_s, [this](Params& params) { return story(params); });
@@ -134,20 +148,30 @@ std::optional<RpcError> FeedMethods::takeIn(const StoreItem& item) {
     return refusalOf(session.backEnd().takeIn(item));
 }
 
-Answer FeedMethods::symbols(Params& params) {
-    std::vector<SymbolItem> table;
-    if (!params.value(u"symbols"_s).isArray())
-        params.fail(u"\"symbols\" must be a list of {market, code, name, supported, category}"_s);
-    const QJsonArray items = params.value(u"symbols"_s).toArray();
+// Stores the entries of a list, as `itemFrom` reads them, once all of them could be read.
+template <class ItemFrom>
+Answer FeedMethods::takeList(Params& params, const QString& name, const QString& fields, ItemFrom itemFrom) {
+    if (!params.value(name).isArray())
+        params.fail(u"\"%1\" must be a list of %2"_s.arg(name, fields));
+    std::vector<StoreItem> list;
+    const QJsonArray items = params.value(name).toArray();
     for (const auto& item : items)
-        table.push_back(symbolFrom(params, item));
+        list.emplace_back(itemFrom(params, item));
     if (params.error())
         return {};
-    for (const SymbolItem& symbol : table) {
-        if (const auto refusal = takeIn(symbol))
+    for (const StoreItem& item : list) {
+        if (const auto refusal = takeIn(item))
             return *refusal;
     }
     return {};
+}
+
+Answer FeedMethods::symbols(Params& params) {
+    return takeList(params, u"symbols"_s, u"{market, code, name, supported, category}"_s, symbolFrom);
+}
+
+Answer FeedMethods::quotes(Params& params) {
+    return takeList(params, u"quotes"_s, u"{market, code, last, change, volume}"_s, quoteFrom);
 }
 
 Answer FeedMethods::requests() {

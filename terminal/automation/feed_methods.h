@@ -20,6 +20,9 @@ public:
 private:
     Answer push(Params& params);
     Answer symbols(Params& params);
+    Answer quotes(Params& params);
+    template <class ItemFrom>
+    Answer takeList(Params& params, const QString& name, const QString& fields, ItemFrom itemFrom);
     Answer requests();
     Answer connectFeed(Params& params);
     Answer story(Params& params);

@@ -112,6 +112,12 @@ std::int64_t Params::number(const QString& name, std::int64_t least, std::int64_
     return required(name, optionalNumber(name, least, most));
 }
 
+double Params::real(const QString& name) {
+    if (!value(name).isDouble())
+        fail(u"\"%1\" must be a number"_s.arg(name));
+    return value(name).toDouble();
+}
+
 QString Params::text(const QString& name) {
     return required(name, optionalText(name));
 }

@@ -41,6 +41,7 @@ public:
     // The value; it is an error when it is absent.
     std::int64_t number(const QString& name, std::int64_t least = std::numeric_limits<std::int32_t>::min(),
                         std::int64_t most = std::numeric_limits<std::int32_t>::max());
+    double real(const QString& name);
     QString text(const QString& name);
     bool boolean(const QString& name);
     QSize size(const QString& name);

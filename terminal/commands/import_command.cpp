@@ -61,8 +61,8 @@ int reportEnd(const ImportReport& report) {
 int runImport() {
     CommandArguments arguments(u"import"_s,
                                u"Takes news into the store: ninjs (JSON, one document, a list or "
-                               "JSON lines), RSS, Atom, NewsML-G2, CSV tables of symbols and "
-                               "categories, and with a mapping any table of news. Each file is "
+                               "JSON lines), RSS, Atom, NewsML-G2, CSV tables of symbols, "
+                               "categories and quotes, and with a mapping any table of news. Each file is "
                                "taken in as a whole."_s);
     arguments.parser.addPositionalArgument(u"file"_s, u"A file to take in."_s, u"file..."_s);
     arguments.parser.addOption(

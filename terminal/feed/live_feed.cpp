@@ -145,7 +145,7 @@ bool LiveFeed::take(FeedSource& source) {
     isTaking = false;
     storeTrouble = taken ? QString() : taken.error();
     if (taken) {
-        takenLate += isCatchingUp ? taken.value().totals.takenIn : 0;
+        takenLate += isCatchingUp ? taken.value().news : 0;
         startNewsDays(taken.value());
     }
     return static_cast<bool>(taken);

@@ -56,6 +56,18 @@ TEST(FeedLineTest, RecordsAndGreetingsAreToldApart) {
     EXPECT_EQ(std::get<FeedHello>(hello).service, 22);
 }
 
+TEST(FeedLineTest, AQuoteIsReadWithItsPosition) {
+    const FeedLine parsed = parsedFeedLine(
+        R"({"wirepane":{"quote":{"market":16,"code":"2330","last":601.5,"change":-6,"volume":120},"position":"8"}})",
+        1);
+    const auto& record = std::get<FeedRecord>(parsed);
+    ASSERT_TRUE(record.item) << record.item.error().toStdString();
+    const auto& quote = std::get<QuoteItem>(record.item.value());
+    EXPECT_EQ(std::tie(quote.market, quote.code, quote.last, quote.change, quote.volume),
+              std::make_tuple(16, u"2330"_s, 601.5, -6.0, 120));
+    EXPECT_EQ(record.position, u"8");
+}
+
 TEST(FeedLineTest, WhatIsNoNewsIsRejectedWithAReason) {
     const QByteArray lines[] = {
         "",
@@ -76,6 +88,11 @@ TEST(FeedLineTest, WhatIsNoNewsIsRejectedWithAReason) {
         R"({"wirepane":{"item":{"service":1,"identity":"a","time":1,"title":"t","related":[1]}}})",
         R"({"wirepane":{"item":{"service":1,"identity":"a","time":1,"title":"t","related":"x"}}})",
         R"({"wirepane":{"ninjs":{"headline":"no uri"}}})",
+        R"({"wirepane":{"quote":{}}})",
+        R"({"wirepane":{"quote":{"market":0,"code":"1","last":1,"change":0,"volume":1}}})",
+        R"({"wirepane":{"quote":{"market":1,"code":"1","last":"1","change":0,"volume":1}}})",
+        R"({"wirepane":{"quote":{"market":1,"code":"1","last":1e999,"change":0,"volume":1}}})",
+        R"({"wirepane":{"quote":{"market":1,"code":"1","last":1,"change":0,"volume":1.5}}})",
     };
     for (const QByteArray& line : lines) {
         const FeedLine parsed = parsedFeedLine(line, 1);

@@ -68,6 +68,24 @@ TEST(SymbolTable, ABadRowIsOneRejection) {
               "line 11: A quote is opened and never closed; nothing behind it is read."_s);
 }
 
+TEST(QuoteTable, ReadsRowsAndRejectsBadOnes) {
+    const auto out = readAll(
+        "Market,Code,Name,Last,Change,Volume\n16,2330,Aster,601.5,-6,120\n0,1,,1,0,1\n16,,,1,0,1\n"
+        "16,1,,nan,0,1\n16,1,,1,inf,1\n16,1,,1,,1\n16,1,,1,0,-1\n16,1,,1,0,1e30\n");
+    ASSERT_EQ(out.items.size(), 1U);
+    const auto& quote = std::get<QuoteItem>(out.items.front());
+    EXPECT_EQ(std::tie(quote.market, quote.code, quote.last, quote.change, quote.volume),
+              std::make_tuple(16, u"2330"_s, 601.5, -6.0, 120));
+    EXPECT_EQ(out.complaints(),
+              u"line 3: “0” is not a market: it must be a number from 1 to 255.\n"
+              "line 4: “” is not a symbol code.\n"
+              "line 5: “nan” is not a last price: it must be a number such as 12.5.\n"
+              "line 6: “inf” is not a change: it must be a number such as 12.5.\n"
+              "line 7: “” is not a change: it must be a number such as 12.5.\n"
+              "line 8: “-1” is not a volume: it must be a number from 0 to 9007199254740991.\n"
+              "line 9: “1e30” is not a volume: it must be a number from 0 to 9007199254740991."_s);
+}
+
 TEST(CategoryTable, ReadsRowsAndRejectsBadOnes) {
     const auto out = readAll(
         "Service,ID,Name,Colour\n1,7,Economy,#FF0000\n52,-1,x,\n1,8,Plain,\n1,9,,\n1,10,x,red\n300,1,x,\n");

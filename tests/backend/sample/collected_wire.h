@@ -18,6 +18,7 @@ inline constexpr std::int64_t hour = 3600;
 struct CollectedWire {
     std::vector<CategoryItem> categories;
     std::vector<SymbolItem> symbols;
+    std::vector<QuoteItem> quotes;
     std::vector<NewsItem> news;
     bool newsCameLast = true;
 
@@ -37,6 +38,8 @@ inline CollectedWire collect(const SampleOptions& options) {
             result.categories.push_back(std::move(*category));
         else if (auto* symbol = std::get_if<SymbolItem>(&item))
             result.symbols.push_back(std::move(*symbol));
+        else if (auto* quote = std::get_if<QuoteItem>(&item))
+            result.quotes.push_back(std::move(*quote));
         else
             result.news.push_back(std::move(std::get<NewsItem>(item)));
         result.newsCameLast &= result.news.empty() || std::holds_alternative<NewsItem>(item);

@@ -161,6 +161,25 @@ TEST(SampleWire, RelatedSymbolsAreInTheSymbolTable) {
     }
 }
 
+TEST(SampleWire, EverySymbolHasAQuoteOfTheMoment) {
+    const CollectedWire wire = collect(threeDays());
+    ASSERT_EQ(wire.quotes.size(), wire.symbols.size());
+    int risen = 0;
+    for (std::size_t i = 0; i < wire.quotes.size(); ++i) {
+        const QuoteItem& quote = wire.quotes[i];
+        EXPECT_EQ(quote.market, wire.symbols[i].market);
+        EXPECT_EQ(quote.code, wire.symbols[i].code);
+        EXPECT_GT(quote.last, 0) << quote.code.toStdString();
+        EXPECT_GT(quote.last - quote.change, 0) << quote.code.toStdString();
+        EXPECT_GE(quote.volume, 0);
+        const double most = quote.market == 52 ? 1 : 0.2;  // of the last price
+        EXPECT_LT(std::abs(quote.change), most * quote.last) << quote.code.toStdString();
+        risen += quote.change > 0 ? 1 : 0;
+    }
+    EXPECT_GT(risen, static_cast<int>(wire.quotes.size()) / 5);
+    EXPECT_LT(risen, static_cast<int>(wire.quotes.size()) * 4 / 5);
+}
+
 TEST(SampleWire, SendsExactlyTheHeadlinesAskedForOverAnyServicesOnAWorkingDay) {
     SampleOptions options;
     options.now = afternoon + 7 * hour - 1;  // the last second of the day

@@ -25,7 +25,8 @@ constexpr StoreOptions impatient{.busyTimeout = 20ms};
 
 // Makes a store what it would be, had only the first version of the schema ever been.
 constexpr const char* toFirstVersion =
-    "PRAGMA user_version = 1; DROP TABLE search_rules; DROP TABLE arrivals; DROP TABLE feed_positions; "
+    "PRAGMA user_version = 1; DROP TABLE quotes; DROP TABLE search_rules; DROP TABLE arrivals; DROP TABLE "
+    "feed_positions; "
     "DROP TABLE news_search; CREATE VIRTUAL TABLE news_search USING fts5("
     "title, story, content='news_text', content_rowid='id', tokenize='unicode61');"
     "INSERT INTO news_search(news_search) VALUES('rebuild')";

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/news_item.h"
+#include "backend/store/statement.h"
+#include "host/contract/records.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace wirepane {
+
+// The quotes of a store: one of each symbol, the one that came last. Each change takes the next revision, so
+// that what came after a moment is found, whoever wrote it. Thread: that of the database, which must outlive
+// the book.
+class QuoteBook {
+public:
+    explicit QuoteBook(Database& database);
+
+    // Inside a transaction. `changed` tells whether the symbol had another quote, or none. False on failure,
+    // which the database then holds.
+    bool put(const QuoteItem& item, bool& changed);
+
+    std::optional<CQuoteMemory> find(const CSymbolInfo& symbol);
+    // The revision of the last change; 0: none yet.
+    std::int64_t lastRevision();
+    // The quotes that changed after `revision`, in the order of their last change; `revision` moves to the
+    // last of them.
+    std::vector<CQuoteMemory> after(std::int64_t& revision);
+
+private:
+    Statement one;
+    Statement write;
+    Statement newest;
+    Statement later;
+};
+
+}  // namespace wirepane
