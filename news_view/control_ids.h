@@ -37,6 +37,7 @@ inline constexpr int saveNews = 9272;
 // Child views: this plus their own number.
 inline constexpr int firstChildView = 59648;
 inline constexpr int storyPane = 1;
+inline constexpr int relatedQuotes = 2;
 
 inline constexpr int refreshTimer = 1;
 inline constexpr int refreshDelayMs = 100;

@@ -3,6 +3,7 @@
 #include "news_view/story_stage.h"
 
 #include "host/contract/sync_info.h"
+#include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
 #include "story/trv_news_story.h"
 
@@ -22,6 +23,21 @@ void StoryStage::vSetPane(NewsStoryView* storyPane) {
 
 NewsStoryView* StoryStage::pGetPane() const {
     return pane;
+}
+
+void StoryStage::vSetQuotes(CNewsRelateSymbolQuoteView* quoteView) {
+    quotes = quoteView;
+}
+
+CNewsRelateSymbolQuoteView* StoryStage::pGetQuotes() const {
+    return quotes;
+}
+
+void StoryStage::vClearStory() {
+    if (pane != nullptr)
+        pane->OnClearStory();
+    if (quotes != nullptr)
+        quotes->vClearSymbols();
 }
 
 void StoryStage::vSetDialog(TRVNewsStory* storyDialog) {

@@ -4,10 +4,12 @@
 
 #include <QPointer>
 
+class CNewsRelateSymbolQuoteView;
 class NewsStoryView;
 class TRVNewsStory;
 
-// Where a story is shown: the pane inside the view, or the pop-up dialog. Keeps the dialog's place among the
+// Where a story is shown: the pane inside the view, with the quotes of the story's symbols beside it, or the
+// pop-up dialog. Keeps the dialog's place among the
 // windows as the host wants it.
 class StoryStage {
 public:
@@ -16,6 +18,12 @@ public:
     // The pane belongs to the view; null when there is none.
     void vSetPane(NewsStoryView* pane);
     NewsStoryView* pGetPane() const;
+    // The quotes of the symbols that the pane's story is about; they belong to the view. Null: there are
+    // none.
+    void vSetQuotes(CNewsRelateSymbolQuoteView* quoteView);
+    CNewsRelateSymbolQuoteView* pGetQuotes() const;
+    // Empties the pane and the quotes.
+    void vClearStory();
     // The dialog belongs to the stage from here on.
     void vSetDialog(TRVNewsStory* dialog);
     TRVNewsStory* pGetDialog() const;
@@ -38,5 +46,6 @@ private:
     void vSetTopMost(bool topMost);
 
     QPointer<NewsStoryView> pane;
+    QPointer<CNewsRelateSymbolQuoteView> quotes;
     QPointer<TRVNewsStory> dialog;
 };

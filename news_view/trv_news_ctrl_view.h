@@ -122,6 +122,21 @@ public:
     int GetCurrSymbolInfo(unsigned char& service, QString& code) override;
     void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) override;
 
+    // --- Quotes of the symbols that the shown headline is related to ---
+
+    // Creates their list, in views with a story pane.
+    void InitialNewsRelateQuoteView();
+    // Lists the symbols of the headline that the pane shows.
+    void ChangeNewsSymbolList();
+    void vReRegisterSymbols() override;
+    void vUnregisterViewSymbol() override;
+    // Handed on to the list.
+    void vRecvNewMemory(const CQuoteMemory* quote) override;
+    void vRecvMemoryRecovery(const CQuoteMemory* quote) override;
+    void vRecvMultiSymbolMemoryRecovery(const std::vector<CQuoteMemory>& quotes) override;
+    // The related symbols of a headline were sent again: listed when it is the one that the pane shows.
+    void vRecvNewsRelateSymbolListRecovery(const CNewsSymlistInfo* info) override;
+
     int iBeSelectNewsNum() const { return services.iSelectedCount(); }
 
     // --- Days ---
@@ -279,6 +294,7 @@ private:
     void vHideSymbolMode();
     void vHideSymbolControls();
     void vSetSupported();
+    void vFollowSymbol(unsigned char service, const QString& code);
     void vDoNormalChangeSymbol(unsigned char service, const QString& code);
     void vOnChangeServiceCombobox(unsigned char service);
     void vOnChangeSymbolCombobox();
@@ -336,6 +352,8 @@ private:
 
     // Stories.
     TRVNewsStory* pStoryDialogOnShow() const;
+    bool bQuotesHaveFocus() const;
+    QVariantList vQuoteState() const;
 
     // Keys, mouse, context menu.
     KeySituation vKeySituation() const;

@@ -21,7 +21,7 @@ KeySituation TRVNewsCtrlView::vKeySituation() const {
 }
 
 bool TRVNewsCtrlView::PreTranslateMessage(QKeyEvent& event) {
-    if (handingKeyOn)
+    if (handingKeyOn || bQuotesHaveFocus())
         return false;
     if (event.type() == QEvent::KeyRelease)
         return OnKeyUp(event);

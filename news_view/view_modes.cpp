@@ -7,6 +7,7 @@
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
 
 #include <QStyle>
@@ -51,8 +52,7 @@ void TRVNewsCtrlView::SwitchFunction(int mode) {
     stage.vHideDialog();
     if (bPaneShowsStories()) {
         vForgetShownStory();
-        if (stage.pGetPane() != nullptr)
-            stage.pGetPane()->OnClearStory();
+        stage.vClearStory();
         if (*index != ListIndex::Category)
             OnShowStory();
     }
@@ -149,6 +149,7 @@ LayoutInput TRVNewsCtrlView::vLayoutInput() const {
     in.newsType = newsType;
     in.showType = storyShowType;
     in.hasStoryPane = stage.pGetPane() != nullptr;
+    in.hasRelatedQuotes = stage.pGetQuotes() != nullptr;
     in.hasAllNewsGrid = Sheet(static_cast<int>(ListIndex::All)) != nullptr;
     return in;
 }
@@ -161,6 +162,10 @@ void TRVNewsCtrlView::vSetComponentPos() {
         pane->setGeometry(layout.storyPane);
         pane->setVisible(!layout.storyPane.isEmpty());
         pane->vSetComponentPos();
+    }
+    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes()) {
+        quotes->setGeometry(layout.relatedQuotes);
+        quotes->setVisible(!layout.relatedQuotes.isEmpty());
     }
     for (const ListKind& kind : listKinds) {
         const bool withoutControls = kind.index == ListIndex::Symbol || kind.index == ListIndex::Warrant;

@@ -71,9 +71,10 @@ void TRVNewsCtrlView::OnMouseWheel(const QWheelEvent& event) {
     CSuperSheetWnd* sheet = pGetCurrSheetView();
     // What a grid or the story at its end lets pass is not for the grid again.
     const QWidget* under = childAt(event.position().toPoint());
-    const auto* pane = static_cast<const QWidget*>(stage.pGetPane());
-    if (handingWheelOn || sheet == nullptr || (under != nullptr && sheet->isAncestorOf(under)) ||
-        (under != nullptr && pane != nullptr && pane->isAncestorOf(under)))
+    const auto holdsPoint = [under](const QWidget* part) {
+        return under != nullptr && part != nullptr && part->isAncestorOf(under);
+    };
+    if (handingWheelOn || sheet == nullptr || holdsPoint(sheet) || holdsPoint(stage.pGetPane()))
         return;
     const QScopedValueRollback handingOn(handingWheelOn, true);
     if (event.angleDelta().x() != 0 && event.angleDelta().y() == 0) {
@@ -120,4 +121,5 @@ void TRVNewsCtrlView::vPageStories(int step) {
     pane->SetHeadLinePos(wanted < 0 ? size - 1 : wanted >= size ? 0 : wanted);
     pane->vShowData();
     bChangeNewsPos(currentMode, pane->GetHeadLinePos());
+    ChangeNewsSymbolList();
 }

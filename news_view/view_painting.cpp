@@ -3,8 +3,9 @@
 // What the news view paints itself, and the colours and texts that it hands on.
 #include "headline_list/cell_texts.h"
 #include "headline_list/language_keys.h"
-#include "host/contract/sync_info.h"
+#include "host/views/sheet_scheme.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
 #include "story/trv_news_story.h"
 
@@ -121,6 +122,8 @@ void TRVNewsCtrlView::vChangeCast() {
     vSetGridColours();
     if (NewsStoryView* pane = stage.pGetPane())
         pane->vChangeCast();
+    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+        quotes->vChangeCast();
     if (initialised)
         vSetComponentPos();
     update();
@@ -129,28 +132,9 @@ void TRVNewsCtrlView::vChangeCast() {
 }
 
 void TRVNewsCtrlView::vSetGridColours() {
-    CSyncInfo* colours = CSyncInfo::GetSettingCFG();
-    const auto named = [colours](const QString& name, const QColor& fallback) {
-        const QColor colour = colours->SYS_crGetOtherColor(name);
-        return colour.isValid() ? colour : fallback;
-    };
-    const QColor text = named(u"COLOR_LISTCTL_NORMALTEXT"_s, colText);
-    const QColor alternate = named(u"COLOR_LISTCTL_BACKGROUNDSLASH"_s, colBackground);
-    const QColor focused = named(u"COLOR_LISTCTL_CLICKLINE"_s, palette().color(QPalette::Highlight));
-    const QColor unfocused = named(u"COLOR_LISTCTL_CLICKLINE_GRAY"_s, palette().color(QPalette::Midlight));
-    const QColor header = named(u"COLOR_LISTCTL_HDBkCOLOR1"_s, palette().color(QPalette::Button));
-    const QColor headerText = named(u"COLOR_LISTCTL_HDTEXTCOLOR1"_s, palette().color(QPalette::ButtonText));
     for (int list = 0; list < listCount; ++list) {
-        CSuperSheetWnd* sheet = Sheet(list);
-        if (sheet == nullptr)
-            continue;
-        sheet->vSetHeaderRowBkColor(header);
-        sheet->vSetHeaderRowFgColor(headerText);
-        sheet->vSetFrameColor(header);
-        sheet->vSetBkColor(colBackground, alternate);
-        sheet->vSetFocusColor(true, focused, unfocused);
-        sheet->vSetFgColor(text);
-        sheet->vSetFont(GetViewFont());
+        if (CSuperSheetWnd* sheet = Sheet(list))
+            ApplyHostScheme(*sheet, GetViewFont());
     }
 }
 

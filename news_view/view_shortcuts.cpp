@@ -8,6 +8,7 @@
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "search/news_relate_symbol_quote_view.h"
 #include "search/search_edit2.h"
 #include "story/news_story_view.h"
 #include "story/story_ids.h"
@@ -15,6 +16,7 @@
 #include <QAbstractButton>
 #include <QShortcut>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 
@@ -104,6 +106,8 @@ void TRVNewsCtrlView::vSetTabOrder() {
         for (const int id : {story_ids::title, story_ids::storyText})
             follow(GetDlgItem(pane, id));
     }
+    if (const CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+        follow(quotes->pGetSheet());
 }
 
 void TRVNewsCtrlView::vStepMode(int step) {
@@ -151,13 +155,20 @@ void TRVNewsCtrlView::vOpenCalendar() {
     picker->vDropDown();
 }
 
-// Between the list and the story beside it.
+// From the list to the story beside it, to the quotes of its symbols, and back to the list.
 void TRVNewsCtrlView::vChangePane() {
-    CSuperSheetWnd* sheet = pGetCurrSheetView();
-    const NewsStoryView* pane = stage.pGetPane();
-    QWidget* story = pane != nullptr && pane->isVisible() ? GetDlgItem(pane, story_ids::storyText) : nullptr;
-    if (story != nullptr && sheet != nullptr && sheet->hasFocus())
-        story->setFocus(Qt::ShortcutFocusReason);
-    else if (sheet != nullptr)
-        sheet->setFocus(Qt::ShortcutFocusReason);
+    std::vector<QWidget*> panes;
+    if (CSuperSheetWnd* sheet = pGetCurrSheetView())
+        panes.push_back(sheet);
+    if (const NewsStoryView* pane = stage.pGetPane())
+        panes.push_back(GetDlgItem(pane, story_ids::storyText));
+    if (const CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+        panes.push_back(quotes->pGetSheet());
+    std::erase_if(panes, [](const QWidget* pane) { return pane == nullptr || !pane->isVisible(); });
+    if (panes.empty())
+        return;
+    const auto current =
+        std::find_if(panes.begin(), panes.end(), [](const QWidget* pane) { return pane->hasFocus(); });
+    const bool last = current == panes.end() || current + 1 == panes.end();
+    (last ? panes.front() : *(current + 1))->setFocus(Qt::ShortcutFocusReason);
 }

@@ -78,11 +78,12 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     controls.vLoadLanguageString();
     vLoadToolTips();
     vLoadHints();
-    vSetTabOrder();
     vCreateShortcuts();
     vChangeCast();
     vSetComponentPos();
     vOpenFocusedTab();
+    InitialNewsRelateQuoteView();
+    vSetTabOrder();
     ChangeCurrViewCategoryState(settings.showCategory);
 }
 

@@ -125,5 +125,6 @@ QVariantMap TRVNewsCtrlView::State() const {
             {QStringLiteral("tip"), tipState(tip, *this)},
             {QStringLiteral("shortTip"), QVariantMap{{QStringLiteral("visible"), shortTip->isVisible()},
                                                      {QStringLiteral("text"), shortTip->text()}}},
+            {QStringLiteral("quotes"), vQuoteState()},
             {QStringLiteral("services"), serviceStates}};
 }

@@ -16,8 +16,7 @@ void TRVNewsCtrlView::OnShowStory() {
     NewsStoryView* pane = stage.pGetPane();
     if (row < 0) {
         stage.vHideDialog();
-        if (pane != nullptr)
-            pane->OnClearStory();
+        stage.vClearStory();
         return;
     }
     sheet->vAutoVerScrolling(row);
@@ -34,6 +33,7 @@ void TRVNewsCtrlView::OnShowStory() {
     shownStoryRow = row;
     pane->vSetFont(GetViewFont());
     pane->vSetStoryData(currentMode, row, foundUnder);
+    ChangeNewsSymbolList();
 }
 
 void TRVNewsCtrlView::vForgetShownStory() {

@@ -8,7 +8,7 @@
 #include "host/controls/window_id.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
-#include "story/news_story_view.h"
+#include "search/news_relate_symbol_quote_view.h"
 
 namespace {
 
@@ -71,7 +71,7 @@ void TRVNewsCtrlView::vSetSupported() {
 }
 
 void TRVNewsCtrlView::ChangeSymbol(const QWidget* sender, unsigned char group, unsigned char service,
-                                   const QString& code, const QString&) {
+                                   const QString& code, const QString& name) {
     if (sender != this && (group != GetLinkGroup() || GetLinkGroup() == 0))
         return;
     if (symbols.Current() == CSymbolInfo{service, code})
@@ -80,8 +80,13 @@ void TRVNewsCtrlView::ChangeSymbol(const QWidget* sender, unsigned char group, u
     symbols.vSetCurrent({service, code});
     vDoNormalChangeSymbol(service, code);
     vSearchForSymbol({service, code});
-    if ((settings.functions & symbolNewsMask) == 0)
-        return;
+    if ((settings.functions & symbolNewsMask) != 0)
+        vFollowSymbol(service, code);
+    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+        quotes->ChangeSymbol(sender, group, service, code, name);
+}
+
+void TRVNewsCtrlView::vFollowSymbol(unsigned char service, const QString& code) {
     if (symbols.IsSupportNews(service, code)) {
         vSetSupported();
         if (Sheet(symbolMode) != nullptr)
@@ -129,8 +134,7 @@ void TRVNewsCtrlView::vOnChangeSymbolCombobox() {
 }
 
 void TRVNewsCtrlView::GetSymbolNews(const QString&) {
-    if (NewsStoryView* pane = stage.pGetPane())
-        pane->OnClearStory();
+    stage.vClearStory();
     lists.bRebuildSymbol(symbols.Current());
 }
 
@@ -170,6 +174,8 @@ void TRVNewsCtrlView::OnSelchangeComboService() {
 }
 
 void TRVNewsCtrlView::vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) {
+    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+        quotes->vDoSymbolUpdate(updates);
     vUpdateSymbolPicker(updates);
     for (const CSymbolUpdateInfo& update : updates) {
         if (!symbols.IsSupportNews(update.service, update.code))

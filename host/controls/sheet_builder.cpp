@@ -10,6 +10,10 @@ QColor SheetCells::TextColour(int /*row*/, int /*column*/) const {
     return {};
 }
 
+QColor SheetCells::Highlight(int /*row*/, int /*column*/) const {
+    return {};
+}
+
 CSheetBuilder::CSheetBuilder(QObject* parent) : QAbstractTableModel(parent) {}
 
 bool CSheetBuilder::hasColumn(int column) const {
@@ -93,11 +97,11 @@ QVariant CSheetBuilder::data(const QModelIndex& index, int role) const {
         return {};
     if (role == Qt::DisplayRole)
         return source->Text(row, index.column());
-    if (role == Qt::ForegroundRole) {
-        const QColor colour = source->TextColour(row, index.column());
-        return colour.isValid() ? QVariant(QBrush(colour)) : QVariant();
-    }
-    return {};
+    if (role != Qt::ForegroundRole && role != Qt::BackgroundRole)
+        return {};
+    const QColor colour = role == Qt::ForegroundRole ? source->TextColour(row, index.column())
+                                                     : source->Highlight(row, index.column());
+    return colour.isValid() ? QVariant(QBrush(colour)) : QVariant();
 }
 
 QVariant CSheetBuilder::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -24,6 +24,8 @@ public:
     virtual QString Text(int row, int column) const = 0;
     // The text colour of a cell; an invalid colour means the sheet's own.
     virtual QColor TextColour(int row, int column) const;
+    // What is laid over the background of a cell; an invalid colour means nothing.
+    virtual QColor Highlight(int row, int column) const;
 };
 
 // The columns and the number of rows of a sheet: the model under CSuperSheetWnd. Rows and columns count from

@@ -17,6 +17,9 @@ void SheetDelegate::paintBackground(QPainter& painter, const QRect& cell, const 
     const bool odd = (index.row() % 2 == 1) != firstRowOdd;
     painter.fillRect(cell, selected || current ? colours.MarkBackground(view->hasFocus(), view->palette())
                                                : colours.RowBackground(odd, view->palette()));
+    const QVariant highlight = index.data(Qt::BackgroundRole);
+    if (highlight.isValid())
+        painter.fillRect(cell, highlight.value<QBrush>());
     if (!current || !view->hasFocus())
         return;
     QColor line = colours.Text(view->palette());

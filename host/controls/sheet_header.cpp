@@ -31,12 +31,28 @@ void SheetHeader::paintSection(QPainter* painter, const QRect& rect, int logical
     if (rect.right() < viewport()->width() - 1)
         painter->fillRect(QRect(rect.right(), rect.top() + 3, 1, rect.height() - 6), line);
     painter->fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), line);
-    const QRect room = rect.adjusted(SheetDelegate::margin, 0, -SheetDelegate::margin, -1);
+    QRect room = rect.adjusted(SheetDelegate::margin, 0, -SheetDelegate::margin, -1);
+    if (isSortIndicatorShown() && sortIndicatorSection() == logicalIndex)
+        room.setRight(paintSortMark(*painter, room));
     const QVariant alignment = model()->headerData(logicalIndex, Qt::Horizontal, Qt::TextAlignmentRole);
     const QString caption = model()->headerData(logicalIndex, Qt::Horizontal, Qt::DisplayRole).toString();
     painter->setPen(shownText());
     painter->drawText(room, static_cast<int>(alignment.value<Qt::Alignment>()) | Qt::TextSingleLine,
                       fontMetrics().elidedText(caption, Qt::ElideRight, room.width()));
+}
+
+int SheetHeader::paintSortMark(QPainter& painter, const QRect& room) const {
+    constexpr int half = 4;  // of the mark's width
+    const QPoint middle(room.right() - half, room.center().y());
+    const int down = sortIndicatorOrder() == Qt::DescendingOrder ? 1 : -1;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(shownText());
+    painter.drawPolygon(QPolygon(
+        {middle + QPoint(-half, -2 * down), middle + QPoint(half, -2 * down), middle + QPoint(0, 3 * down)}));
+    painter.restore();
+    return middle.x() - half - 2;
 }
 
 void SheetHeader::paintEvent(QPaintEvent* event) {

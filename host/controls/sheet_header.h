@@ -4,7 +4,8 @@
 
 #include <QHeaderView>
 
-// The header row of a sheet: flat, one line of plain text per column, lined up with the cells below. Colours
+// The header row of a sheet: flat, one line of plain text per column, lined up with the cells below, with
+// a mark on the column that the rows are sorted by while the sort indicator is shown. Colours
 // that were not set (invalid) follow the palette's buttons.
 class SheetHeader : public QHeaderView {
 public:
@@ -18,6 +19,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    // Draws which way the rows are sorted at the right end of `room`; result: where that leaves off.
+    int paintSortMark(QPainter& painter, const QRect& room) const;
     QColor shownBackground() const;
     QColor shownText() const;
 };

@@ -3,6 +3,7 @@
 #include "host/views/com_virtual_base_view.h"
 
 #include "host/contract/sync_info.h"
+#include "host/views/sheet_scheme.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -16,11 +17,6 @@ namespace {
 
 constexpr int titleMargin = 5;
 constexpr int textMargin = 4;
-
-QColor namedColour(const QString& name, const QColor& fallback) {
-    const QColor colour = CSyncInfo::GetSettingCFG()->SYS_crGetOtherColor(name);
-    return colour.isValid() ? colour : fallback;
-}
 
 }  // namespace
 
@@ -38,8 +34,8 @@ void RVComVirtualBaseView::InitFont() {
 }
 
 void RVComVirtualBaseView::vTakeColours() {
-    colBackground = namedColour(u"COLOR_LISTCTL_BACKGROUND"_s, QApplication::palette().color(QPalette::Base));
-    colText = namedColour(u"COLOR_LISTCTL_NORMALTEXT"_s, QApplication::palette().color(QPalette::Text));
+    colBackground = HostColour(u"COLOR_LISTCTL_BACKGROUND"_s, QApplication::palette().color(QPalette::Base));
+    colText = HostColour(u"COLOR_LISTCTL_NORMALTEXT"_s, QApplication::palette().color(QPalette::Text));
 }
 
 void RVComVirtualBaseView::GetCaption(QString& caption) {
@@ -81,15 +77,15 @@ void RVComVirtualBaseView::vDrawTitle(QPainter& painter) {
     QString caption;
     GetCaption(caption);
     const QRect band(0, 0, width(), iGetTitleHeight());
-    painter.fillRect(band, namedColour(u"COLOR_LISTCTL_HDBkCOLOR1"_s, palette().color(QPalette::Button)));
+    painter.fillRect(band, HostColour(u"COLOR_LISTCTL_HDBkCOLOR1"_s, palette().color(QPalette::Button)));
     painter.setFont(viewFont);
-    painter.setPen(namedColour(u"COLOR_LISTCTL_HDTEXTCOLOR1"_s, palette().color(QPalette::ButtonText)));
+    painter.setPen(HostColour(u"COLOR_LISTCTL_HDTEXTCOLOR1"_s, palette().color(QPalette::ButtonText)));
     painter.drawText(band.adjusted(textMargin, 0, -textMargin, 0), Qt::AlignVCenter | Qt::TextSingleLine,
                      caption);
 }
 
 void RVComVirtualBaseView::vDrawFrameBorder(QPainter& painter) {
-    painter.setPen(namedColour(u"COLOR_LISTCTL_HDBkCOLOR1"_s, palette().color(QPalette::Mid)));
+    painter.setPen(HostColour(u"COLOR_LISTCTL_HDBkCOLOR1"_s, palette().color(QPalette::Mid)));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

@@ -24,6 +24,9 @@ constexpr NamedColour namedColours[] = {
     {QLatin1StringView("COLOR_LISTCTL_CLICKLINE_GRAY"), 0xffdfe4ea, 0xff2b333d},
     {QLatin1StringView("COLOR_LISTCTL_HDBkCOLOR1"), 0xffdde3eb, 0xff222b37},
     {QLatin1StringView("COLOR_LISTCTL_HDTEXTCOLOR1"), 0xff3b4a5e, 0xffa9b7c9},
+    {QLatin1StringView("COLOR_LISTCTL_OTHERLINE"), 0xffb4bfcc, 0xff3a4656},
+    {QLatin1StringView("COLOR_QUOTE_RISE"), 0xffc02626, 0xffff7b7b},
+    {QLatin1StringView("COLOR_QUOTE_FALL"), 0xff14743a, 0xff4cc38a},
 };
 
 struct PaletteColours {

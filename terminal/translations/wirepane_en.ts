@@ -519,6 +519,38 @@
         <source></source>
         <translation>Warrants</translation>
     </message>
+    <message id="IDS_QUOTE-LIST_CHANGE">
+        <source></source>
+        <translation>Change</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_CODE">
+        <source></source>
+        <translation>Code</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_LAST">
+        <source></source>
+        <translation>Last</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_NAME">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_PERCENT">
+        <source></source>
+        <translation>%</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_VOLUME">
+        <source></source>
+        <translation>Volume</translation>
+    </message>
+    <message id="IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE">
+        <source></source>
+        <translation>Related Symbols</translation>
+    </message>
+    <message id="IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE_NONE">
+        <source></source>
+        <translation>This headline names no symbols.</translation>
+    </message>
     <message id="IDS_SINGLETON-STRING_FONTNAME">
         <source></source>
         <translation>Noto Sans CJK TC</translation>

@@ -519,6 +519,38 @@
         <source></source>
         <translation>权证新闻</translation>
     </message>
+    <message id="IDS_QUOTE-LIST_CHANGE">
+        <source></source>
+        <translation>涨跌</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_CODE">
+        <source></source>
+        <translation>代号</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_LAST">
+        <source></source>
+        <translation>成交</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_NAME">
+        <source></source>
+        <translation>名称</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_PERCENT">
+        <source></source>
+        <translation>涨跌幅</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_VOLUME">
+        <source></source>
+        <translation>成交量</translation>
+    </message>
+    <message id="IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE">
+        <source></source>
+        <translation>相关品种</translation>
+    </message>
+    <message id="IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE_NONE">
+        <source></source>
+        <translation>这则新闻没有相关品种。</translation>
+    </message>
     <message id="IDS_SINGLETON-STRING_FONTNAME">
         <source></source>
         <translation>Noto Sans CJK SC</translation>

@@ -519,6 +519,38 @@
         <source></source>
         <translation>權證新聞</translation>
     </message>
+    <message id="IDS_QUOTE-LIST_CHANGE">
+        <source></source>
+        <translation>漲跌</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_CODE">
+        <source></source>
+        <translation>代號</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_LAST">
+        <source></source>
+        <translation>成交</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_NAME">
+        <source></source>
+        <translation>名稱</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_PERCENT">
+        <source></source>
+        <translation>漲跌幅</translation>
+    </message>
+    <message id="IDS_QUOTE-LIST_VOLUME">
+        <source></source>
+        <translation>成交量</translation>
+    </message>
+    <message id="IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE">
+        <source></source>
+        <translation>相關商品</translation>
+    </message>
+    <message id="IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE_NONE">
+        <source></source>
+        <translation>這則新聞沒有相關商品。</translation>
+    </message>
     <message id="IDS_SINGLETON-STRING_FONTNAME">
         <source></source>
         <translation>Noto Sans CJK TC</translation>

@@ -24,14 +24,31 @@ void FakeBackEnd::makeAllAtHand() {
 
 void FakeBackEnd::RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                                   const std::vector<CSymbolInfo>& removed) {
-    for (const CSymbolInfo& symbol : added)
-        registrations[view].insert(symbol.market);
-    for (const CSymbolInfo& symbol : removed)
-        registrations[view].erase(symbol.market);
+    for (const CSymbolInfo& symbol : added) {
+        if (symbol.code.isEmpty())
+            registrations[view].insert(symbol.market);
+        else
+            followed[view].append(QStringLiteral("%1:%2").arg(symbol.market).arg(symbol.code));
+    }
+    for (const CSymbolInfo& symbol : removed) {
+        if (symbol.code.isEmpty())
+            registrations[view].erase(symbol.market);
+        else
+            followed[view].removeAll(QStringLiteral("%1:%2").arg(symbol.market).arg(symbol.code));
+    }
 }
 
 void FakeBackEnd::UnregisterSymbols(NewsReceiver* view) {
     registrations.erase(view);
+    followed.erase(view);
+}
+
+bool FakeBackEnd::BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& list, const CHeadlineTable& entry) {
+    const auto found = related.find({entry.service, entry.sequence});
+    if (found == related.end())
+        return false;
+    list.symbols = found->second;
+    return true;
 }
 
 bool FakeBackEnd::BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& out) {

@@ -43,7 +43,9 @@ public:
     // "table 1 0 20260302", "headlines 1 [3 2]", "story 1 3", "again 1 0 20260302", "again 1 [3 2]", ...
     QStringList asked;
     std::map<NewsReceiver*, std::set<unsigned char>> registrations;
-    std::map<unsigned char, std::vector<CHeadlineTable>> searchTables;  // of each service
+    std::map<NewsReceiver*, QStringList> followed;  // quotes: "16:2330", once for each registration
+    std::map<std::pair<unsigned char, std::int32_t>, std::vector<CSymbolInfo>> related;  // service, number
+    std::map<unsigned char, std::vector<CHeadlineTable>> searchTables;                   // of each service
     QStringList candidates;  // for whatever is typed into a symbol search
 
     void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
@@ -80,6 +82,7 @@ public:
     int BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadline>& headlines,
                              const std::vector<CHeadlineTable>& entries) override;
     bool BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) override;
+    bool BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& list, const CHeadlineTable& entry) override;
     QString LangGetLangString(const QString& key) override { return texts.value(key, key); }
     bool LangIsConvertToSimplified(const unsigned char&) override { return simplified; }
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;

@@ -1,0 +1,463 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/views/quote_list_base_view.h"
+
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/sync_info.h"
+#include "host/controls/super_sheet_wnd.h"
+#include "host/views/quote_keys.h"
+#include "host/views/sheet_scheme.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QSet>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int rowHeight = 16;
+constexpr int flashTimer = 1;
+constexpr int flashTickMs = 150;
+constexpr int cellMargins = 10;
+constexpr int sortMarkRoom = 12;
+
+struct QuoteColumnKind {
+    QLatin1StringView headerKey;
+    int characters;  // that have room; the name's are set up
+    Qt::Alignment alignment;
+};
+
+constexpr std::array<QuoteColumnKind, quoteColumns> columnKinds{{
+    {quote_keys::code, 7, Qt::AlignLeft | Qt::AlignVCenter},
+    {quote_keys::name, 0, Qt::AlignLeft | Qt::AlignVCenter},
+    {quote_keys::last, 8, Qt::AlignRight | Qt::AlignVCenter},
+    {quote_keys::change, 7, Qt::AlignRight | Qt::AlignVCenter},
+    {quote_keys::percent, 7, Qt::AlignRight | Qt::AlignVCenter},
+    {quote_keys::volume, 9, Qt::AlignRight | Qt::AlignVCenter},
+}};
+
+std::vector<CSymbolInfo> without(const std::vector<CSymbolInfo>& symbols,
+                                 const std::vector<CSymbolInfo>& others) {
+    QSet<std::pair<unsigned char, QString>> known;
+    for (const CSymbolInfo& symbol : others)
+        known.insert({symbol.market, symbol.code});
+    std::vector<CSymbolInfo> rest;
+    std::copy_if(symbols.begin(), symbols.end(), std::back_inserter(rest), [&](const CSymbolInfo& symbol) {
+        return !known.contains({symbol.market, symbol.code});
+    });
+    return rest;
+}
+
+}  // namespace
+
+QuoteListBaseView::QuoteListBaseView(QWidget* parent) : TRVQuoteBaseView(parent) {}
+
+QuoteListBaseView::~QuoteListBaseView() {
+    if (sheet != nullptr)
+        sheet->vSetCells(nullptr);
+}
+
+// --- Creation ---
+
+bool QuoteListBaseView::CreateView(QWidget* parent, const QString& name, int first, int second) {
+    settingsPath = {settingsPath.section, first, second, name};
+    setObjectName(name);
+    if (parentWidget() != parent)
+        setParent(parent);
+    auto* made = new CSuperSheetWnd(new CSheetBuilder, this);
+    if (!made->bCreateSheet()) {
+        delete made;
+        return false;
+    }
+    sheet = made;
+    sheet->vSetThinBar(CSyncInfo::GetSettingCFG()->CApi_GetThinBarStatus());
+    sheet->setFrameStyle(QFrame::NoFrame);
+    sheet->setSelectionMode(QAbstractItemView::SingleSelection);
+    sheet->vSetHeaderRowHeight(rowHeight);
+    sheet->vSetRowHeight(rowHeight);
+    sheet->vSetCells(this);
+    sheet->installEventFilter(this);
+    sheet->viewport()->installEventFilter(this);
+    show();
+    return true;
+}
+
+void QuoteListBaseView::vSetUpColumns(int nameCharacters) {
+    nameRoom = nameCharacters;
+    if (sheet == nullptr)
+        return;
+    for (const QuoteColumnKind& kind : columnKinds)
+        sheet->vInsertColumn(1, kind.alignment);
+    QHeaderView* header = sheet->horizontalHeader();
+    header->setSortIndicator(-1, Qt::AscendingOrder);
+    header->setSortIndicatorShown(true);
+    header->setSortIndicatorClearable(true);
+    header->setSectionsClickable(true);
+    connect(header, &QHeaderView::sortIndicatorChanged, this, [this](int column, Qt::SortOrder order) {
+        std::optional<QuoteTable::Sorting> sorting;
+        if (column >= 0)
+            sorting = {static_cast<QuoteColumn>(column), order == Qt::DescendingOrder};
+        vReorder([&] { table.sortBy(sorting); });
+        sheet->vAutoVerScrolling(sheet->cptGetFocusNdx().y());
+    });
+    connect(sheet->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
+        if (!focusByCode && !mouseDown)
+            vAnnounceFocus();
+    });
+    vLoadLanguageString();
+    vChangeCast();
+}
+
+QString QuoteListBaseView::LangText(QLatin1StringView key) {
+    auto* backEnd = BKQuoteInterface::GetBKInterface();
+    return backEnd != nullptr ? backEnd->LangGetLangString(QString(key)) : QString(key);
+}
+
+void QuoteListBaseView::vLoadLanguageString() {
+    if (sheet == nullptr)
+        return;
+    for (int column = 0; column < quoteColumns; ++column)
+        sheet->vSetHeaderText(column, LangText(columnKinds.at(static_cast<std::size_t>(column)).headerKey));
+    for (int row = 0; row < table.size(); ++row)
+        vLoadName(row);
+    vFitColumns();
+    update();
+}
+
+void QuoteListBaseView::changeEvent(QEvent* event) {
+    TRVQuoteBaseView::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        vLoadLanguageString();
+}
+
+void QuoteListBaseView::vChangeCast() {
+    TRVQuoteBaseView::vChangeCast();
+    const bool dark = colBackground.lightness() < 128;
+    riseColour =
+        HostColour(u"COLOR_QUOTE_RISE"_s, dark ? QColor(0xFF, 0x7B, 0x7B) : QColor(0xC0, 0x26, 0x26));
+    fallColour =
+        HostColour(u"COLOR_QUOTE_FALL"_s, dark ? QColor(0x4C, 0xC3, 0x8A) : QColor(0x14, 0x74, 0x3A));
+    if (sheet == nullptr)
+        return;
+    ApplyHostScheme(*sheet, GetViewFont());
+    vLayOut();
+    vFitColumns();
+}
+
+// --- Layout and painting ---
+
+void QuoteListBaseView::resizeEvent(QResizeEvent* event) {
+    TRVQuoteBaseView::resizeEvent(event);
+    vLayOut();
+}
+
+void QuoteListBaseView::vLayOut() {
+    if (sheet != nullptr)
+        sheet->setGeometry(rect().adjusted(1, 1 + iGetTitleHeight(), -1, -1));
+}
+
+void QuoteListBaseView::vFitColumns() {
+    const QFontMetrics metrics(GetViewFont());
+    const int character = metrics.horizontalAdvance(u'0');
+    QuoteWidths wanted{};
+    for (std::size_t column = 0; column < wanted.size(); ++column) {
+        const QuoteColumnKind& kind = columnKinds.at(column);
+        const int characters = kind.characters > 0 ? kind.characters : nameRoom;
+        const int header = metrics.horizontalAdvance(LangText(kind.headerKey)) + sortMarkRoom;
+        wanted.at(column) = std::max(characters * character, header) + cellMargins;
+    }
+    const QuoteWidths widths = FitQuoteColumns(wanted, sheet->viewport()->width());
+    for (int column = 0; column < quoteColumns; ++column)
+        sheet->vSetColWidth(column, widths.at(static_cast<std::size_t>(column)));
+}
+
+void QuoteListBaseView::OnDraw(QPainter& painter) {
+    if (GetDataState() == DataState::NotSupported)
+        vNotSupportSymbol(painter);
+    TRVQuoteBaseView::OnDraw(painter);
+}
+
+void QuoteListBaseView::vNotSupportSymbol(QPainter& painter) {
+    constexpr int margin = 8;
+    const QRect area = rect().adjusted(0, iGetTitleHeight(), 0, 0);
+    QColor faint = colText;
+    faint.setAlpha(160);
+    painter.fillRect(area, colBackground);
+    painter.setFont(GetViewFont());
+    painter.setPen(faint);
+    painter.drawText(area.adjusted(margin, margin, -margin, -margin), Qt::AlignCenter | Qt::TextWordWrap,
+                     cszGetNotice());
+}
+
+QString QuoteListBaseView::Text(int row, int column) const {
+    return row < table.size() ? TextOf(table.at(row), static_cast<QuoteColumn>(column)) : QString();
+}
+
+QColor QuoteListBaseView::TextColour(int row, int column) const {
+    const auto kind = static_cast<QuoteColumn>(column);
+    const bool coloured =
+        kind == QuoteColumn::Last || kind == QuoteColumn::Change || kind == QuoteColumn::Percent;
+    const int direction = coloured && row < table.size() ? DirectionOf(table.at(row)) : 0;
+    if (direction == 0)
+        return {};
+    return direction > 0 ? riseColour : fallColour;
+}
+
+QColor QuoteListBaseView::Highlight(int row, int column) const {
+    constexpr int strength = 64;
+    if (column < static_cast<int>(QuoteColumn::Last) || row >= table.size() ||
+        !flashes.isFlashing(table.at(row).symbol))
+        return {};
+    const int direction = flashes.direction(table.at(row).symbol);
+    QColor colour = direction > 0 ? riseColour : direction < 0 ? fallColour : colText;
+    colour.setAlpha(strength);
+    return colour;
+}
+
+// Rows that are not on screen cost nothing.
+void QuoteListBaseView::vRepaintRow(int row) {
+    const QRect place(0, sheet->rowViewportPosition(row), sheet->viewport()->width(), sheet->rowHeight(row));
+    if (place.intersects(sheet->viewport()->rect()))
+        sheet->viewport()->update(place);
+}
+
+// --- Symbols ---
+
+void QuoteListBaseView::vSetSymbols(const std::vector<CSymbolInfo>& symbols) {
+    vFillRows(symbols);
+    vSetDataState(symbols.empty() ? DataState::NotSupported : DataState::Normal);
+    if (sheet != nullptr)
+        sheet->setVisible(!symbols.empty());
+    update();
+}
+
+void QuoteListBaseView::vClearSymbols() {
+    vFillRows({});
+    vSetDataState(DataState::Normal);
+    if (sheet != nullptr)
+        sheet->show();
+    update();
+}
+
+void QuoteListBaseView::vFillRows(const std::vector<CSymbolInfo>& symbols) {
+    const std::vector<CSymbolInfo> before = table.symbols();
+    if (sheet == nullptr || before == symbols)
+        return;
+    vTakeUpMemory();
+    CSymbolInfo focused;
+    vGetFocusSymbol(focused);
+    table.setSymbols(symbols);
+    for (int row = 0; row < table.size(); ++row) {
+        if (table.at(row).name.isEmpty())
+            vLoadName(row);
+    }
+    table.resort();
+    sheet->vClearRows();
+    sheet->vAddRows(table.size());
+    vFocusRow(table.rowOf(focused));
+    const std::vector<CSymbolInfo> now = table.symbols();
+    if (distributing)
+        C_RegisterSymbol(registrant, without(now, before), without(before, now));
+}
+
+void QuoteListBaseView::vLoadName(int row) {
+    auto* backEnd = BKQuoteInterface::GetBKInterface();
+    if (backEnd == nullptr)
+        return;
+    const CSymbolInfo& symbol = table.at(row).symbol;
+    const int item = backEnd->bSymbolNameIsShowRealMonth() ? symbol_items::nameWithMonth : symbol_items::name;
+    QString name;
+    if (!backEnd->bGetItemDataByItemNo(name, symbol.market, symbol.code, item))
+        return;
+    QString shown = name;
+    if (backEnd->LangIsConvertToSimplified(symbol.market))
+        backEnd->LangConvertToSimplifiedChinese(name, shown);
+    table.setName(row, shown);
+}
+
+void QuoteListBaseView::vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) {
+    for (const CSymbolUpdateInfo& update : updates) {
+        const int row = table.rowOf({update.service, update.code});
+        if (row < 0)
+            continue;
+        vLoadName(row);
+        vRepaintRow(row);
+    }
+}
+
+void QuoteListBaseView::vReRegisterSymbols() {
+    distributing = true;
+    if (table.size() > 0)
+        C_RegisterSymbol(registrant, table.symbols(), {});
+}
+
+void QuoteListBaseView::vUnregisterViewSymbol() {
+    distributing = false;
+    if (table.size() > 0)
+        C_RegisterSymbol(registrant, {}, table.symbols());
+}
+
+// --- Quotes ---
+
+void QuoteListBaseView::vRecvNewMemory(const CQuoteMemory* quote) {
+    if (quote == nullptr || table.rowOf(quote->symbol) < 0)
+        return;
+    pending.push_back(*quote);
+    if (takeUpPosted)
+        return;
+    takeUpPosted = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            takeUpPosted = false;
+            vTakeUpMemory();
+        },
+        Qt::QueuedConnection);
+}
+
+void QuoteListBaseView::vRecvMemoryRecovery(const CQuoteMemory* quote) {
+    vRecvNewMemory(quote);
+}
+
+void QuoteListBaseView::vRecvMultiSymbolMemoryRecovery(const std::vector<CQuoteMemory>& quotes) {
+    for (const CQuoteMemory& quote : quotes)
+        vRecvNewMemory(&quote);
+}
+
+void QuoteListBaseView::vTakeUpMemory() {
+    for (const CQuoteMemory& quote : std::exchange(pending, {}))
+        vShow(quote);
+}
+
+bool QuoteListBaseView::bAnimates() const {
+    return isVisible() && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
+}
+
+void QuoteListBaseView::vShow(const CQuoteMemory& quote) {
+    const auto update = table.update(quote);
+    if (!update)
+        return;
+    if (!update->first && bAnimates())
+        flashes.start(quote.symbol, update->direction);
+    // One timer ends all flashes, and brings rows that have moved to their places.
+    if (!flashes.isEmpty() || table.isStale()) {
+        if (RunningTimers().empty())
+            SetTimer(flashTimer, flashTickMs);
+    }
+    vRepaintRow(update->row);
+}
+
+void QuoteListBaseView::OnTimer(int id) {
+    TRVQuoteBaseView::OnTimer(id);
+    if (id != flashTimer)
+        return;
+    for (const CSymbolInfo& symbol : flashes.tick()) {
+        if (const int row = table.rowOf(symbol); row >= 0)
+            vRepaintRow(row);
+    }
+    if (table.isStale())
+        vReorder([this] { table.resort(); });
+    if (flashes.isEmpty())
+        KillTimer(flashTimer);
+}
+
+const QuoteTable& QuoteListBaseView::GetTable() {
+    vTakeUpMemory();
+    if (table.isStale())
+        vReorder([this] { table.resort(); });
+    return table;
+}
+
+// --- Order, focus, selection ---
+
+template <class Reorder>
+void QuoteListBaseView::vReorder(Reorder reorder) {
+    CSymbolInfo focused;
+    vGetFocusSymbol(focused);
+    reorder();
+    vFocusRow(table.rowOf(focused));
+    sheet->viewport()->update();
+}
+
+void QuoteListBaseView::vFocusRow(int row) {
+    if (sheet == nullptr || row < 0 || row == sheet->cptGetFocusNdx().y())
+        return;
+    const QScopedValueRollback byCode(focusByCode, true);
+    sheet->vSetActiveSelection(row, -1);
+}
+
+void QuoteListBaseView::vResetSelection() {
+    const QScopedValueRollback byCode(focusByCode, true);
+    if (sheet != nullptr)
+        sheet->vClearSelection();
+}
+
+void QuoteListBaseView::vGetFocusSymbol(CSymbolInfo& symbol) const {
+    const int row = sheet != nullptr ? sheet->cptGetFocusNdx().y() : -1;
+    symbol = row >= 0 && row < table.size() ? table.at(row).symbol : CSymbolInfo{};
+}
+
+void QuoteListBaseView::vAnnounceFocus() {
+    CSymbolInfo symbol;
+    vGetFocusSymbol(symbol);
+    if (!symbol.code.isEmpty())
+        emit SendChangeSymbol(GetLinkGroup(), symbol.market, symbol.code);
+}
+
+void QuoteListBaseView::ChangeSymbol(const QWidget* sender, unsigned char group, unsigned char service,
+                                     const QString& code, const QString& name) {
+    TRVQuoteBaseView::ChangeSymbol(sender, group, service, code, name);
+    vFocusRow(table.rowOf({service, code}));
+}
+
+void QuoteListBaseView::vSortBy(QuoteColumn column) {
+    if (sheet == nullptr)
+        return;
+    const auto& now = table.sorting();
+    const bool same = now && now->column == column;
+    const bool cleared = same && now->descending;
+    sheet->horizontalHeader()->setSortIndicator(cleared ? -1 : static_cast<int>(column),
+                                                same ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+bool QuoteListBaseView::OnSheetKey(int key) {
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        vAnnounceFocus();
+        return true;
+    }
+    if (key < Qt::Key_1 || key >= Qt::Key_1 + quoteColumns)
+        return false;
+    vSortBy(static_cast<QuoteColumn>(key - Qt::Key_1));
+    return true;
+}
+
+bool QuoteListBaseView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == sheet && event->type() == QEvent::KeyPress) {
+        const auto* press = static_cast<const QKeyEvent*>(event);
+        const bool plain = (press->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+        return plain && OnSheetKey(press->key());
+    }
+    if (sheet == nullptr || watched != sheet->viewport())
+        return TRVQuoteBaseView::eventFilter(watched, event);
+    if (event->type() == QEvent::Resize) {
+        vFitColumns();
+    } else if (event->type() == QEvent::MouseButtonPress) {
+        mouseDown = true;
+    } else if (event->type() == QEvent::MouseButtonRelease) {
+        const auto* release = static_cast<const QMouseEvent*>(event);
+        mouseDown = false;
+        if (release->button() == Qt::LeftButton && sheet->rowAt(release->position().toPoint().y()) >= 0)
+            vAnnounceFocus();
+    }
+    return false;
+}
+
+void QuoteListBaseView::wheelEvent(QWheelEvent* event) {
+    // What the list at its end lets pass is for nobody else.
+    event->accept();
+}

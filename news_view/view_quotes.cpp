@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// The quotes of the symbols that the shown headline is related to.
+#include "host/controls/super_sheet_wnd.h"
+#include "news_view/control_ids.h"
+#include "news_view/trv_news_ctrl_view.h"
+#include "search/news_relate_symbol_quote_view.h"
+#include "story/news_story_view.h"
+
+void TRVNewsCtrlView::InitialNewsRelateQuoteView() {
+    if (stage.pGetPane() == nullptr || stage.pGetQuotes() != nullptr)
+        return;
+    const QString name = QStringLiteral("CNewsRelateSymbolQuoteView");
+    auto* quotes = qobject_cast<CNewsRelateSymbolQuoteView*>(
+        CreateView(CNewsRelateSymbolQuoteView::staticMetaObject, name, ids::relatedQuotes, QRect()));
+    if (quotes == nullptr)
+        return;
+    quotes->vSetRegistrant(this);
+    if (!quotes->CreateView(this, name, settingsPath.first, settingsPath.second)) {
+        delete quotes;
+        return;
+    }
+    // The other views of the group follow the user's choice; this one goes on showing its news.
+    connect(quotes, &TRVQuoteBaseView::SendChangeSymbol, this,
+            [this](unsigned char, unsigned char service, const QString& code) {
+                emit SendChangeSymbol(GetLinkGroup(), service, code);
+            });
+    stage.vSetQuotes(quotes);
+    vSetComponentPos();
+    if (bPaneShowsStories() && shownStoryRow >= 0)
+        ChangeNewsSymbolList();
+}
+
+void TRVNewsCtrlView::ChangeNewsSymbolList() {
+    CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes();
+    const NewsStoryView* pane = stage.pGetPane();
+    CHeadlineTable entry;
+    if (quotes == nullptr || pane == nullptr ||
+        !bGetHeadlineTable(entry, currentMode, pane->GetHeadLinePos()))
+        return;
+    CNewsSymLst list;
+    backEnd.BKNEWS_GetSymbolListBySeqNo(list, entry);
+    quotes->vSetSymbolList(list);
+}
+
+void TRVNewsCtrlView::vRecvNewsRelateSymbolListRecovery(const CNewsSymlistInfo* info) {
+    CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes();
+    const NewsStoryView* pane = stage.pGetPane();
+    CHeadlineTable entry;
+    if (info == nullptr || quotes == nullptr || pane == nullptr ||
+        !bGetHeadlineTable(entry, currentMode, pane->GetHeadLinePos()) || KeyOf(entry) != info->headline)
+        return;
+    quotes->vSetSymbolList(info->list);
+}
+
+void TRVNewsCtrlView::vReRegisterSymbols() {
+    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+        quotes->vReRegisterSymbols();
+}
+
+void TRVNewsCtrlView::vUnregisterViewSymbol() {
+    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+        quotes->vUnregisterViewSymbol();
+}
+
+void TRVNewsCtrlView::vRecvNewMemory(const CQuoteMemory* quote) {
+    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+        quotes->vRecvNewMemory(quote);
+}
+
+void TRVNewsCtrlView::vRecvMemoryRecovery(const CQuoteMemory* quote) {
+    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+        quotes->vRecvMemoryRecovery(quote);
+}
+
+void TRVNewsCtrlView::vRecvMultiSymbolMemoryRecovery(const std::vector<CQuoteMemory>& memories) {
+    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+        quotes->vRecvMultiSymbolMemoryRecovery(memories);
+}
+
+bool TRVNewsCtrlView::bQuotesHaveFocus() const {
+    const QWidget* holder = focusWidget();
+    const QWidget* quotes = stage.pGetQuotes();
+    return quotes != nullptr && holder != nullptr && (holder == quotes || quotes->isAncestorOf(holder));
+}
+
+QVariantList TRVNewsCtrlView::vQuoteState() const {
+    QVariantList rows;
+    CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes();
+    if (quotes == nullptr)
+        return rows;
+    const QuoteTable& table = quotes->GetTable();
+    for (int row = 0; row < table.size(); ++row) {
+        const QuoteRow& quote = table.at(row);
+        rows.append(QVariantMap{{QStringLiteral("market"), quote.symbol.market},
+                                {QStringLiteral("code"), TextOf(quote, QuoteColumn::Code)},
+                                {QStringLiteral("name"), TextOf(quote, QuoteColumn::Name)},
+                                {QStringLiteral("last"), TextOf(quote, QuoteColumn::Last)},
+                                {QStringLiteral("change"), TextOf(quote, QuoteColumn::Change)},
+                                {QStringLiteral("percent"), TextOf(quote, QuoteColumn::Percent)},
+                                {QStringLiteral("volume"), TextOf(quote, QuoteColumn::Volume)}});
+    }
+    return rows;
+}

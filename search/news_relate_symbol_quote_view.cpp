@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "search/news_relate_symbol_quote_view.h"
+
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/sync_info.h"
+#include "host/controls/super_sheet_wnd.h"
+#include "host/views/sheet_scheme.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+#include <QResizeEvent>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView titleKey{"IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE"};
+constexpr QLatin1StringView noSymbolsKey{"IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE_NONE"};
+constexpr int nameCharacters = 16;
+
+CSymbolInfo inItsMarket(const CSymbolInfo& symbol, BKQuoteInterface& backEnd,
+                        const std::vector<unsigned char>& markets) {
+    if (symbol.market != 0)
+        return symbol;
+    const auto market = std::find_if(markets.begin(), markets.end(), [&](unsigned char candidate) {
+        return backEnd.bIsSymbolIDExist(candidate, symbol.code) == 1;
+    });
+    return market != markets.end() ? CSymbolInfo{*market, symbol.code} : symbol;
+}
+
+}  // namespace
+
+CNewsRelateSymbolQuoteView::CNewsRelateSymbolQuoteView(QWidget* parent) : QuoteListBaseView(parent) {}
+
+void CNewsRelateSymbolQuoteView::OnInitialUpdate() {
+    RVComVirtualBaseView::OnInitialUpdate();
+}
+
+bool CNewsRelateSymbolQuoteView::CreateView(QWidget* parent, const QString& name, int first, int second) {
+    vClearAllMemoryUpdate();
+    InitFont();
+    if (!QuoteListBaseView::CreateView(parent, name, first, second))
+        return false;
+    vResetSelection();
+    setWindowTitle(LangText(titleKey));
+    vSetUpColumns(nameCharacters);
+    pGetSheet()->show();
+    // The layout runs once more when the window has its place.
+    QCoreApplication::postEvent(this, new QResizeEvent(size(), size()));
+    CSyncInfo::GetSettingCFG()->SYS_vSetIsLinkNews(false);
+    return true;
+}
+
+void CNewsRelateSymbolQuoteView::vSetSymbolList(const CNewsSymLst& list) {
+    std::vector<CSymbolInfo> symbols = list.symbols;
+    std::vector<unsigned char> markets;
+    auto* backEnd = BKQuoteInterface::GetBKInterface();
+    if (backEnd != nullptr && backEnd->bGetAllServiceID(markets)) {
+        for (CSymbolInfo& symbol : symbols)
+            symbol = inItsMarket(symbol, *backEnd, markets);
+    }
+    vSetSymbols(symbols);
+}
+
+int CNewsRelateSymbolQuoteView::GetCurrSymbolInfo(unsigned char& service, QString& code) {
+    if (iGetRowCount() <= 0)
+        return iGetRowCount();
+    CSymbolInfo symbol;
+    vGetFocusSymbol(symbol);
+    service = symbol.market;
+    code = symbol.code;
+    return iGetRowCount();
+}
+
+void CNewsRelateSymbolQuoteView::GetCaption(QString& caption) {
+    caption = LangText(titleKey);
+}
+
+void CNewsRelateSymbolQuoteView::vLoadLanguageString() {
+    QuoteListBaseView::vLoadLanguageString();
+    setWindowTitle(LangText(titleKey));
+    setAccessibleName(windowTitle());
+    if (pGetSheet() != nullptr)
+        pGetSheet()->setAccessibleName(windowTitle());
+}
+
+QString CNewsRelateSymbolQuoteView::cszGetNotice() const {
+    return LangText(noSymbolsKey);
+}
+
+void CNewsRelateSymbolQuoteView::vChangeCast() {
+    QuoteListBaseView::vChangeCast();
+    lineColour = HostColour(u"COLOR_LISTCTL_OTHERLINE"_s, palette().color(QPalette::Mid));
+    update();
+}
+
+// The list lies at the edge of a story: lines part the two.
+void CNewsRelateSymbolQuoteView::OnDraw(QPainter& painter) {
+    QuoteListBaseView::OnDraw(painter);
+    painter.setPen(lineColour);
+    painter.drawLine(rect().topLeft(), rect().topRight());
+    painter.drawLine(rect().topLeft(), rect().bottomLeft());
+    if (bIsTitleShown())
+        painter.drawLine(0, iGetTitleHeight(), width(), iGetTitleHeight());
+}
