@@ -4,6 +4,7 @@
 #include "headline_list/language_keys.h"
 #include "headline_list/table_reading.h"
 #include "host/contract/clock.h"
+#include "host/contract/symbol_name.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/xt_tip_window.h"
 #include "news_view/control_ids.h"

@@ -3,6 +3,7 @@
 #include "search/keyword_entry_dlg.h"
 
 #include "host/contract/search_control.h"
+#include "host/contract/symbol_name.h"
 #include "host/controls/hover_button.h"
 #include "host/controls/quote_trv_change_symbol.h"
 #include "host/controls/registered_message.h"

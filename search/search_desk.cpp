@@ -109,11 +109,3 @@ bool ForgetPending(std::span<ServiceEntry> services) {
         any |= std::exchange(entry.searchPending, false);
     return any;
 }
-
-std::optional<QString> SymbolName(BKQuoteInterface& backEnd, const CSymbolInfo& symbol) {
-    const int item = backEnd.bSymbolNameIsShowRealMonth() ? symbol_items::nameWithMonth : symbol_items::name;
-    QString name;
-    if (!backEnd.bGetItemDataByItemNo(name, symbol.market, symbol.code, item))
-        return std::nullopt;
-    return name;
-}

@@ -68,9 +68,6 @@ bool TakeAnswer(std::span<ServiceEntry> services, unsigned char service);
 // Nothing is awaited any more. True when something was.
 bool ForgetPending(std::span<ServiceEntry> services);
 
-// The name that the host shows of a symbol; none when it has none at hand.
-std::optional<QString> SymbolName(BKQuoteInterface& backEnd, const CSymbolInfo& symbol);
-
 // The key of search tables.
 inline const QString searchTableKey = QStringLiteral("SEARCH");
 // The number of the list that asks, as every search is sent.

@@ -147,11 +147,15 @@ void EmbeddedBackEnd::checkForNews() {
 }
 
 void EmbeddedBackEnd::tellQuotes() {
-    if (!connected)
+    if (!connected || tellingQuotes)
         return;
-    // A receiver may take quotes in meanwhile: they are told behind these.
-    for (const CQuoteMemory& quote : quotes.after(toldRevision))
-        quoteDesk.tell(quote);
+    // A receiver may take quotes in meanwhile: they are told behind those that came before.
+    tellingQuotes = true;
+    for (auto fresh = quotes.after(toldRevision); !fresh.empty(); fresh = quotes.after(toldRevision)) {
+        for (const CQuoteMemory& quote : fresh)
+            quoteDesk.tell(quote);
+    }
+    tellingQuotes = false;
 }
 
 void EmbeddedBackEnd::setConnected(bool on) {

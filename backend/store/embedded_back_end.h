@@ -184,6 +184,7 @@ private:
     HeadlineCache headlineCache;
     QuoteBook quotes;
     std::int64_t toldRevision;  // of the quotes
+    bool tellingQuotes = false;
     QuoteDesk quoteDesk;
     ArrivalLog arrivals;
     AnswerDesk answers;

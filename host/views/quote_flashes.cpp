@@ -6,19 +6,19 @@ namespace {
 constexpr int ticksOfFlash = 3;
 }
 
-void QuoteFlashes::start(const CSymbolInfo& symbol, int direction) {
-    running.insert(keyOf(symbol), {ticksOfFlash, direction});
+void QuoteFlashes::start(const CSymbolInfo& symbol) {
+    ticksLeft.insert({symbol.market, symbol.code}, ticksOfFlash);
 }
 
 std::vector<CSymbolInfo> QuoteFlashes::tick() {
     std::vector<CSymbolInfo> over;
-    for (auto flash = running.begin(); flash != running.end();) {
-        if (--flash->ticksLeft > 0) {
+    for (auto flash = ticksLeft.begin(); flash != ticksLeft.end();) {
+        if (--*flash > 0) {
             ++flash;
             continue;
         }
         over.push_back({flash.key().first, flash.key().second});
-        flash = running.erase(flash);
+        flash = ticksLeft.erase(flash);
     }
     return over;
 }

@@ -3,6 +3,7 @@
 #include "host/views/quote_list_base_view.h"
 
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/symbol_name.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/views/quote_keys.h"
@@ -35,10 +36,10 @@ struct QuoteColumnKind {
 constexpr std::array<QuoteColumnKind, quoteColumns> columnKinds{{
     {quote_keys::code, 7, Qt::AlignLeft | Qt::AlignVCenter},
     {quote_keys::name, 0, Qt::AlignLeft | Qt::AlignVCenter},
-    {quote_keys::last, 8, Qt::AlignRight | Qt::AlignVCenter},
+    {quote_keys::last, 9, Qt::AlignRight | Qt::AlignVCenter},
     {quote_keys::change, 7, Qt::AlignRight | Qt::AlignVCenter},
     {quote_keys::percent, 7, Qt::AlignRight | Qt::AlignVCenter},
-    {quote_keys::volume, 9, Qt::AlignRight | Qt::AlignVCenter},
+    {quote_keys::volume, 11, Qt::AlignRight | Qt::AlignVCenter},
 }};
 
 std::vector<CSymbolInfo> without(const std::vector<CSymbolInfo>& symbols,
@@ -209,12 +210,11 @@ QColor QuoteListBaseView::TextColour(int row, int column) const {
 }
 
 QColor QuoteListBaseView::Highlight(int row, int column) const {
-    constexpr int strength = 64;
+    constexpr int strength = 70;
     if (column < static_cast<int>(QuoteColumn::Last) || row >= table.size() ||
         !flashes.isFlashing(table.at(row).symbol))
         return {};
-    const int direction = flashes.direction(table.at(row).symbol);
-    QColor colour = direction > 0 ? riseColour : direction < 0 ? fallColour : colText;
+    QColor colour = palette().color(QPalette::Highlight);
     colour.setAlpha(strength);
     return colour;
 }
@@ -230,18 +230,25 @@ void QuoteListBaseView::vRepaintRow(int row) {
 
 void QuoteListBaseView::vSetSymbols(const std::vector<CSymbolInfo>& symbols) {
     vFillRows(symbols);
-    vSetDataState(symbols.empty() ? DataState::NotSupported : DataState::Normal);
-    if (sheet != nullptr)
-        sheet->setVisible(!symbols.empty());
-    update();
+    vShowState(symbols.empty() ? DataState::NotSupported : DataState::Normal);
 }
 
 void QuoteListBaseView::vClearSymbols() {
     vFillRows({});
-    vSetDataState(DataState::Normal);
-    if (sheet != nullptr)
-        sheet->show();
+    vShowState(DataState::Normal);
+}
+
+// The grid gives way to the notice, and the keyboard stays here meanwhile.
+void QuoteListBaseView::vShowState(DataState state) {
+    vSetDataState(state);
     update();
+    if (sheet == nullptr)
+        return;
+    if (state == DataState::NotSupported && sheet->hasFocus())
+        setFocus();
+    sheet->setVisible(state == DataState::Normal);
+    if (state == DataState::Normal && hasFocus())
+        sheet->setFocus();
 }
 
 void QuoteListBaseView::vFillRows(const std::vector<CSymbolInfo>& symbols) {
@@ -270,13 +277,12 @@ void QuoteListBaseView::vLoadName(int row) {
     if (backEnd == nullptr)
         return;
     const CSymbolInfo& symbol = table.at(row).symbol;
-    const int item = backEnd->bSymbolNameIsShowRealMonth() ? symbol_items::nameWithMonth : symbol_items::name;
-    QString name;
-    if (!backEnd->bGetItemDataByItemNo(name, symbol.market, symbol.code, item))
+    const auto name = SymbolName(*backEnd, symbol);
+    if (!name)
         return;
-    QString shown = name;
+    QString shown = *name;
     if (backEnd->LangIsConvertToSimplified(symbol.market))
-        backEnd->LangConvertToSimplifiedChinese(name, shown);
+        backEnd->LangConvertToSimplifiedChinese(*name, shown);
     table.setName(row, shown);
 }
 
@@ -343,7 +349,7 @@ void QuoteListBaseView::vShow(const CQuoteMemory& quote) {
     if (!update)
         return;
     if (!update->first && bAnimates())
-        flashes.start(quote.symbol, update->direction);
+        flashes.start(quote.symbol);
     // One timer ends all flashes, and brings rows that have moved to their places.
     if (!flashes.isEmpty() || table.isStale()) {
         if (RunningTimers().empty())
@@ -405,7 +411,7 @@ void QuoteListBaseView::vGetFocusSymbol(CSymbolInfo& symbol) const {
 void QuoteListBaseView::vAnnounceFocus() {
     CSymbolInfo symbol;
     vGetFocusSymbol(symbol);
-    if (!symbol.code.isEmpty())
+    if (symbol.market != 0)
         emit SendChangeSymbol(GetLinkGroup(), symbol.market, symbol.code);
 }
 

@@ -92,6 +92,7 @@ private:
     QColor TextColour(int row, int column) const override;
     QColor Highlight(int row, int column) const override;
 
+    void vShowState(DataState state);
     void vLayOut();
     void vFitColumns();
     void vFillRows(const std::vector<CSymbolInfo>& symbols);

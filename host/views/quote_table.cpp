@@ -26,7 +26,8 @@ QString signedText(double number, int decimals) {
 
 bool hasDecimals(double number, int decimals) {
     const double scaled = number * std::pow(10.0, decimals);
-    return std::abs(scaled - std::round(scaled)) < 1e-6 * std::max(1.0, std::abs(number));
+    // What a sum of prices is off by at most.
+    return std::abs(scaled - std::round(scaled)) < std::max(1e-6, 1e-12 * std::abs(scaled));
 }
 
 int decimalsOf(const CQuoteMemory& quote) {
@@ -142,9 +143,7 @@ std::optional<QuoteTable::Update> QuoteTable::update(const CQuoteMemory& quote) 
     auto& known = items[static_cast<std::size_t>(order[row])].quote;
     if (known && known->last == quote.last && known->change == quote.change && known->volume == quote.volume)
         return std::nullopt;
-    Update update{row, 0, !known};
-    if (known && quote.last != known->last)
-        update.direction = quote.last > known->last ? 1 : -1;
+    const Update update{row, !known};
     known = quote;
     if (chosen && !isText(chosen->column))
         stale = true;

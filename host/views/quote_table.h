@@ -46,12 +46,10 @@ public:
     int rowOf(const CSymbolInfo& symbol) const;
     std::vector<CSymbolInfo> symbols() const;
 
-    // What the quote changed: the row, and whether its price went up (1) or down (-1). Nothing for a symbol
-    // that is not listed, and for a quote that is the known one. `first` is true for the first quote of a
-    // row.
+    // The row that the quote changed, and whether it is the first one of the row. Nothing for a symbol that
+    // is not listed, and for a quote that is the known one.
     struct Update {
         int row = 0;
-        int direction = 0;
         bool first = false;
     };
     std::optional<Update> update(const CQuoteMemory& quote);

@@ -122,7 +122,8 @@ TEST_F(RelatedQuotesTest, HandsOnWhatTheBackEndSays) {
 }
 
 TEST_F(RelatedQuotesTest, TheUsersChoiceDrivesTheLinkGroupAndItsChoiceIsFollowed) {
-    open();
+    // Without the symbol mode, which would empty story and list for the news of a new symbol.
+    open({{u"EnabledFunctions"_s, 0x09}});
     view->vSetLinkGroup(2);
     QStringList announced;
     QObject::connect(view.get(), &TRVQuoteBaseView::SendChangeSymbol, view.get(),

@@ -111,6 +111,21 @@ TEST_F(QuotesTest, AReceiverThatLeavesWhileOthersAreToldIsNotToldAnyMore) {
     EXPECT_EQ(other.take(), QStringList());
 }
 
+TEST_F(QuotesTest, AReceiverThatTakesQuotesInHearsThemInTheirOrder) {
+    backEnd->RegisterSymbols(&listener, {first, second}, {});
+    QCoreApplication::processEvents();
+    listener.onNew = [&] {
+        listener.onNew = nullptr;
+        put(second, 9, 0, 9);
+    };
+    ASSERT_TRUE(backEnd->begin());
+    ASSERT_TRUE(backEnd->take(QuoteItem{first.market, first.code, 1, 0, 1}));
+    ASSERT_TRUE(backEnd->take(QuoteItem{second.market, second.code, 2, 0, 2}));
+    ASSERT_TRUE(backEnd->commit());
+    EXPECT_EQ(listener.take(),
+              (QStringList{u"new 16:2330 1 0 1"_s, u"new 22:00700 2 0 2"_s, u"new 22:00700 9 0 9"_s}));
+}
+
 TEST_F(QuotesTest, ABreakAndOtherProgramsLoseNoQuote) {
     backEnd->RegisterSymbols(&listener, {first, second}, {});
     QCoreApplication::processEvents();

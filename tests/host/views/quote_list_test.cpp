@@ -185,6 +185,17 @@ TEST_F(QuoteListTest, TheUsersHandAnnouncesAndNothingElseDoes) {
     EXPECT_EQ(focused(), u"");
 }
 
+TEST_F(QuoteListTest, TheKeyboardStaysWhileThereIsNothingToList) {
+    list->vSetSymbols({all[0]});
+    list->pGetSheet()->setFocus();
+    list->vSetSymbols({});
+    EXPECT_EQ(list->GetDataState(), DataState::NotSupported);
+    EXPECT_TRUE(list->pGetSheet()->isHidden());
+    EXPECT_TRUE(list->hasFocus());
+    list->vSetSymbols({all[1]});
+    EXPECT_TRUE(list->pGetSheet()->hasFocus());
+}
+
 TEST_F(QuoteListTest, TheColumnsFillTheBoxWhateverItsSize) {
     list->vSetSymbols(all);
     const QHeaderView* header = list->pGetSheet()->horizontalHeader();

@@ -53,6 +53,7 @@ TEST(QuoteTable, SaysPricesChangesAndVolumes) {
         {quoteOf(90, -10, 0), u"90.00 -10.00 -10.00% 0"_s, -1},
         {quoteOf(50, 0, 1), u"50.00 0.00 0.00% 1"_s, 0},
         {quoteOf(12345.625, -0.0625, 1), u"12,345.6250 -0.0625 -0.00% 1"_s, -1},
+        {quoteOf(1234567.125, 16.1 - 16.8, 1), u"1,234,567.125 -0.700 -0.00% 1"_s, -1},
         {quoteOf(0.125, 0.005, 1), u"0.125 +0.005 +4.17% 1"_s, 1},
         {quoteOf(0, -2, 1), u"0.00 -2.00 -100.00% 1"_s, -1},
         {quoteOf(5, 5, 1), u"5.00 +5.00 -- 1"_s, 1},
@@ -105,12 +106,13 @@ TEST(QuoteTable, AnUpdateMovesNothingUntilTheRowsArePutInOrder) {
     table.sortBy(QuoteTable::Sorting{QuoteColumn::Last, false});
     const auto risen = table.update(quoteOf(3, 0, 1, u"1"_s));
     ASSERT_TRUE(risen);
-    EXPECT_EQ(std::tie(risen->row, risen->direction), std::make_tuple(0, 1));
+    EXPECT_EQ(risen->row, 0);
+    EXPECT_FALSE(risen->first);
     EXPECT_EQ(codes(table).join(u""_s), u"12");
     ASSERT_TRUE(table.isStale());
     table.resort();
     EXPECT_EQ(codes(table).join(u""_s), u"21");
-    EXPECT_EQ(table.update(quoteOf(2.5, 0, 1, u"1"_s))->direction, -1);
+    EXPECT_EQ(table.update(quoteOf(2.5, 0, 1, u"1"_s))->row, 1);
 
     table.setSymbols({symbol(u"9"_s), symbol(u"1"_s)});
     EXPECT_EQ(codes(table).join(u""_s), u"19") << "what stays is known still, and sorted";
