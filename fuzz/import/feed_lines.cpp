@@ -4,6 +4,8 @@
 #include "fuzz/support/fuzz_input.h"
 #include "fuzz/support/news_promises.h"
 
+#include <cmath>
+
 using namespace wirepane;
 
 namespace {
@@ -20,6 +22,12 @@ void promiseSameLine(const QByteArray& line) {
     const auto& record = std::get<FeedRecord>(parsed);
     if (!record.item) {
         promise(!record.item.error().isEmpty(), "a rejection has a reason");
+        return;
+    }
+    if (const auto* quote = std::get_if<QuoteItem>(&record.item.value())) {
+        promise(quote->market != 0 && std::isfinite(quote->last) && std::isfinite(quote->change) &&
+                    quote->volume >= 0 && quote->volume <= mostVolume,
+                "a quote's numbers are numbers");
         return;
     }
     const auto& item = std::get<NewsItem>(record.item.value());

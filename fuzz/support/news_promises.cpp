@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cmath>
 
 namespace wirepane {
 
@@ -77,6 +78,14 @@ void promiseCategory(const CategoryItem& item) {
     promise(item.colour.isEmpty() || item.colour.size() == 7, "a colour is #rrggbb");
 }
 
+void promiseQuote(const QuoteItem& item) {
+    promise(item.market != 0 && !item.code.isEmpty() && item.code.size() <= 2 * 32,
+            "a quote has a market, and a code of 1 to 32 characters");
+    promiseCleanText(item.code);
+    promise(std::isfinite(item.last) && std::isfinite(item.change), "prices are numbers");
+    promise(item.volume >= 0 && item.volume <= mostVolume, "a volume is within its limits");
+}
+
 }  // namespace
 
 void promiseCleanText(QStringView text) {
@@ -106,6 +115,8 @@ void promiseItem(const StoreItem& item) {
         promiseNews(*news);
     else if (const auto* symbol = std::get_if<SymbolItem>(&item))
         promiseSymbol(*symbol);
+    else if (const auto* quote = std::get_if<QuoteItem>(&item))
+        promiseQuote(*quote);
     else
         promiseCategory(std::get<CategoryItem>(item));
 }
