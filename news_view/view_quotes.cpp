@@ -91,14 +91,10 @@ QVariantList TRVNewsCtrlView::vQuoteState() const {
         return rows;
     const QuoteTable& table = quotes->GetTable();
     for (int row = 0; row < table.size(); ++row) {
-        const QuoteRow& quote = table.at(row);
-        rows.append(QVariantMap{{QStringLiteral("market"), quote.symbol.market},
-                                {QStringLiteral("code"), TextOf(quote, QuoteColumn::Code)},
-                                {QStringLiteral("name"), TextOf(quote, QuoteColumn::Name)},
-                                {QStringLiteral("last"), TextOf(quote, QuoteColumn::Last)},
-                                {QStringLiteral("change"), TextOf(quote, QuoteColumn::Change)},
-                                {QStringLiteral("percent"), TextOf(quote, QuoteColumn::Percent)},
-                                {QStringLiteral("volume"), TextOf(quote, QuoteColumn::Volume)}});
+        QVariantList texts;
+        for (int column = 0; column < quoteColumns; ++column)
+            texts.append(TextOf(table.at(row), static_cast<QuoteColumn>(column)));
+        rows.append(QVariant(texts));
     }
     return rows;
 }

@@ -26,20 +26,17 @@ protected:
         return qobject_cast<CNewsRelateSymbolQuoteView*>(
             GetDlgItem(view.get(), ids::firstChildView + ids::relatedQuotes));
     }
-    // "16:2330 Aster Chips --", a row each.
+    // "2330 Aster Chips --", a row each: code, name, last.
     QStringList rows() const {
         QStringList all;
         const QVariantList listed = state(u"quotes"_s).toList();
-        for (const QVariant& row : listed) {
-            const QVariantMap quote = row.toMap();
-            all += u"%1:%2 %3 %4"_s.arg(quote[u"market"_s].toString(), quote[u"code"_s].toString(),
-                                        quote[u"name"_s].toString(), quote[u"last"_s].toString());
-        }
+        for (const QVariant& row : listed)
+            all += row.toStringList().mid(0, 3).join(u' ');
         return all;
     }
     void selectRow(int row) { view->pGetCurrSheetView()->vSetActiveSelection(row, -1); }
 
-    const QStringList ofNewest{u"16:2330 Aster Chips --"_s, u"22:00700 Harbour Holdings --"_s};
+    const QStringList ofNewest{u"2330 Aster Chips --"_s, u"00700 Harbour Holdings --"_s};
 };
 
 TEST_F(RelatedQuotesTest, StandsBesideTheStoryWhereThereIsOne) {
@@ -68,7 +65,7 @@ TEST_F(RelatedQuotesTest, ListsTheSymbolsOfTheShownHeadlineAndNoOthers) {
     EXPECT_EQ(rows(), ofNewest);
     EXPECT_EQ(backEnd.followed[view.get()], (QStringList{u"16:2330"_s, u"22:00700"_s}));
     view->OnBtnPageDown();
-    EXPECT_EQ(rows(), QStringList{u"16:6214 Lantern Foods --"_s});
+    EXPECT_EQ(rows(), QStringList{u"6214 Lantern Foods --"_s});
     EXPECT_EQ(backEnd.followed[view.get()], QStringList{u"16:6214"_s});
     EXPECT_EQ(quotes()->GetDataState(), DataState::Normal);
     view->OnBtnPageDown();
@@ -94,12 +91,12 @@ TEST_F(RelatedQuotesTest, HandsOnWhatTheBackEndSays) {
     selectRow(0);
     const std::vector<CQuoteMemory> known{{chips, 600, 5, 1}, {foods, 1, 0, 1}};
     view->vRecvMultiSymbolMemoryRecovery(known);
-    EXPECT_EQ(rows().front(), u"16:2330 Aster Chips 600.00");
+    EXPECT_EQ(rows().front(), u"2330 Aster Chips 600.00");
     const CQuoteMemory other{{22, u"00700"_s}, 300, -5, 1};
     view->vRecvMemoryRecovery(&other);
     const CQuoteMemory changed{chips, 601, 6, 2};
     view->vRecvNewMemory(&changed);
-    EXPECT_EQ(rows(), (QStringList{u"16:2330 Aster Chips 601.00"_s, u"22:00700 Harbour Holdings 300.00"_s}));
+    EXPECT_EQ(rows(), (QStringList{u"2330 Aster Chips 601.00"_s, u"00700 Harbour Holdings 300.00"_s}));
 
     CNewsSymlistInfo again{{localTime(2026, 3, 2, 9, 2), 2, 1}, {{chips}}};
     view->vRecvNewsRelateSymbolListRecovery(&again);
@@ -107,11 +104,11 @@ TEST_F(RelatedQuotesTest, HandsOnWhatTheBackEndSays) {
     again = {{localTime(2026, 3, 2, 9, 3), 3, 1}, {{foods, chips}}};
     view->vRecvNewsRelateSymbolListRecovery(&again);
     view->vRecvNewsRelateSymbolListRecovery(nullptr);
-    EXPECT_EQ(rows(), (QStringList{u"16:6214 Lantern Foods --"_s, u"16:2330 Aster Chips 601.00"_s}));
+    EXPECT_EQ(rows(), (QStringList{u"6214 Lantern Foods --"_s, u"2330 Aster Chips 601.00"_s}));
 
     backEnd.symbols[16][1].second = u"Aster Renamed"_s;
     view->vDoSymbolUpdate({{16, u"2330"_s}});
-    EXPECT_EQ(rows().back(), u"16:2330 Aster Renamed 601.00");
+    EXPECT_EQ(rows().back(), u"2330 Aster Renamed 601.00");
     backEnd.followed.clear();
     view->vReRegisterSymbols();
     EXPECT_EQ(backEnd.followed[view.get()].size(), 2);
