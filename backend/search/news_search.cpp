@@ -14,9 +14,10 @@ namespace {
 constexpr std::size_t fewMatches = 4096;  // beyond it, the keys in memory are faster than look-ups
 constexpr int stopAskedEvery = 256;       // matches
 
-// Words that are quoted are never read as operators.
-QString queryOf(const QStringList& words, unsigned char scope) {
-    const QString phrase = u'"' + words.join(u' ').replace(u'"', u"\"\""_s) + u'"';
+// What is quoted is never read as operators. The text is split into words there, once: a word that is split
+// again may fall apart ("1,234" is one, but "1,2345" is not, with which "1,234" and a full-width "5" go on).
+QString queryOf(QString text, unsigned char scope) {
+    const QString phrase = u'"' + text.replace(u'\0', u' ').replace(u'"', u"\"\""_s) + u'"';
     return scope == 0 ? u"title : "_s + phrase : scope == 1 ? u"story : "_s + phrase : phrase;
 }
 
@@ -90,12 +91,12 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::findNow(unsigned char ser
 std::optional<IdSet> NewsSearch::matches(const CSearch& condition) {
     std::optional<IdSet> found;
     for (const QString& keyword : condition.keywords) {
-        const QStringList words = keywordWords(keyword);
-        if (words.isEmpty())
+        const QString text = keywordText(keyword);
+        if (text.isEmpty())
             continue;
         const bool any = condition.method == 2;
         IdSet ids;
-        if (!addMatches(ids, queryOf(words, condition.scope)))
+        if (!addMatches(ids, queryOf(text, condition.scope)))
             return std::nullopt;
         if (!found)
             found = std::move(ids);

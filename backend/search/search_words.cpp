@@ -140,15 +140,17 @@ void WordReader::append(char32_t c) {
     follow(0);
 }
 
-QStringList keywordWords(const QString& keyword) {
+QString keywordText(const QString& keyword) {
     const QByteArray utf8 = keyword.toUtf8();
-    QStringList words;
     WordReader reader(utf8);
-    while (words.size() < mostKeywordWords && reader.next()) {
-        if (!reader.isLineEnd())
-            words += QString::fromUtf8(reader.word().data(), qsizetype(reader.word().size()));
+    qsizetype end = 0;
+    for (int words = 0; words < mostKeywordWords && reader.next();) {
+        if (reader.isLineEnd())
+            continue;
+        end = reader.end();
+        ++words;
     }
-    return words;
+    return QString::fromUtf8(utf8.first(end));
 }
 
 }  // namespace wirepane

@@ -6,7 +6,6 @@
 
 #include <QByteArrayView>
 #include <QString>
-#include <QStringList>
 
 #include <string>
 #include <string_view>
@@ -57,9 +56,10 @@ private:
 };
 
 // A keyword counts up to this many words.
-constexpr qsizetype mostKeywordWords = 256;
+constexpr int mostKeywordWords = 256;
 
-// The words of a keyword; line ends in it are blanks. Empty: there is nothing to search for in it.
-QStringList keywordWords(const QString& keyword);
+// What of a keyword is searched for: its text up to the end of its last word that counts, to be split as any
+// text is; line ends in it are blanks. Empty: there is no word in it.
+QString keywordText(const QString& keyword);
 
 }  // namespace wirepane

@@ -60,13 +60,17 @@ private:
     NewsSearch search;
 };
 
-// The words of a text one behind the other, those of each paragraph between line ends.
-QString wordsOf(const QString& text) {
+enum class LineEnds { Words, Blanks };
+
+// The words of a text one behind the other.
+QString wordsOf(const QString& text, LineEnds lineEnds) {
     const QByteArray utf8 = text.toUtf8();
     QString words = u" "_s;
     WordReader reader(utf8);
-    while (reader.next())
-        words += QString::fromUtf8(reader.word().data(), qsizetype(reader.word().size())) + u' ';
+    while (reader.next()) {
+        if (lineEnds == LineEnds::Words || !reader.isLineEnd())
+            words += QString::fromUtf8(reader.word().data(), qsizetype(reader.word().size())) + u' ';
+    }
     return words;
 }
 
@@ -75,12 +79,12 @@ bool holds(const QString& title, const QString& story, const CSearch& condition)
     bool any = false;
     bool all = true;
     for (const QString& keyword : condition.keywords) {
-        const QStringList words = keywordWords(keyword);
-        if (words.isEmpty())
+        const QString text = keywordText(keyword);
+        if (text.isEmpty())
             continue;
-        const QString phrase = u' ' + words.join(u' ') + u' ';
-        const bool found = (condition.scope != 1 && wordsOf(title).contains(phrase)) ||
-                           (condition.scope != 0 && wordsOf(story).contains(phrase));
+        const QString phrase = wordsOf(text, LineEnds::Blanks);
+        const bool found = (condition.scope != 1 && wordsOf(title, LineEnds::Words).contains(phrase)) ||
+                           (condition.scope != 0 && wordsOf(story, LineEnds::Words).contains(phrase));
         any = any || found;
         all = all && found;
     }

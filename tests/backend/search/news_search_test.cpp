@@ -49,6 +49,15 @@ protected:
     NewsSearch search;
 };
 
+// Words that would be split otherwise if they stood alone: with full-width digits behind ordinary ones, with
+// something invisible in a number, and cut in the middle of one.
+TEST_F(NewsSearchTest, OddNumbersAreFoundAsTyped) {
+    const QStringList keywords{u"1,234５"_s, u"1,234\u200d5"_s, u"w1"_s + u".1"_s.repeated(40)};
+    takeStory(u"a"_s, u"Title"_s, u"x "_s + keywords.join(u" x "_s) + u" x"_s);
+    for (const QString& keyword : keywords)
+        EXPECT_EQ(found(conditionOf({keyword})), QStringList(u"Title"_s)) << qPrintable(keyword);
+}
+
 TEST_F(NewsSearchTest, KeywordsAreFoundAsTyped) {
     const QString text =
         u"台積電(2330)宣布，營收2.5%成長至11,700億元@@@@A&T and c++ 0700.HK in the US-China talks@@@@O'Neil 臺灣"_s;

@@ -14,12 +14,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray joined(const QString& text) {
+enum class LineEnds { Words, Blanks };
+
+QByteArray joined(const QString& text, LineEnds lineEnds) {
     const QByteArray utf8 = text.toUtf8();
     QByteArray words = " ";
     WordReader reader(utf8);
-    while (reader.next())
-        words.append(reader.word().data(), qsizetype(reader.word().size())).append(' ');
+    while (reader.next()) {
+        if (lineEnds == LineEnds::Words || !reader.isLineEnd())
+            words.append(reader.word().data(), qsizetype(reader.word().size())).append(' ');
+    }
     return words;
 }
 
@@ -27,15 +31,16 @@ QByteArray joined(const QString& text) {
 
 void PlainScan::add(const NewsItem& item) {
     const QString story = item.story.value_or(QString()).replace(u"@@@@"_s, u"\n"_s);
-    entries.push_back({item.service, item.identity, joined(item.title), joined(story), item.related});
+    entries.push_back({item.service, item.identity, joined(item.title, LineEnds::Words),
+                       joined(story, LineEnds::Words), item.related});
 }
 
 QStringList PlainScan::find(unsigned char service, const CSearch& condition) const {
     std::vector<QByteArrayMatcher> phrases;
     for (const QString& keyword : condition.keywords) {
-        const QStringList words = keywordWords(keyword);
-        if (!words.isEmpty())
-            phrases.emplace_back((u' ' + words.join(u' ') + u' ').toUtf8());
+        const QString text = keywordText(keyword);
+        if (!text.isEmpty())
+            phrases.emplace_back(joined(text, LineEnds::Blanks));
     }
     QStringList found;
     for (const Entry& entry : entries) {

@@ -54,14 +54,14 @@ TEST(SearchWords, FoldingWhatIsFoldedChangesNothing) {
     }
 }
 
-TEST(SearchWords, AKeywordsWordsAreSplitAgainIntoThemselves) {
-    for (const QString& keyword : {u"11,700.HK (abc"_s, QString(200, u'x'),
-                                   u"AND OR NOT NEAR(a b) \"x* ^y\" title:z"_s, u"a\nb\r\nc"_s}) {
-        const QStringList words = keywordWords(keyword);
-        EXPECT_EQ(keywordWords(words.join(u' ')), words);
-        EXPECT_FALSE(words.isEmpty() || words.contains(u"\n"_s));
-    }
-    EXPECT_EQ(keywordWords(QString(10'000, u'龍')).size(), mostKeywordWords);
+TEST(SearchWords, AKeywordEndsWithItsLastWord) {
+    const std::vector<std::pair<QString, QString>> cases{
+        {u"11,700.HK (abc"_s, u"11,700.HK (abc"_s},    {u"a\nb\r\nc\n \t"_s, u"a\nb\r\nc"_s},
+        {u"é\u0301 \u200b"_s, u"é\u0301"_s},           {u" \n\u3000\u200b"_s, {}},
+        {QString(10'000, u'龍'), QString(256, u'龍')},
+    };
+    for (const auto& [keyword, text] : cases)
+        EXPECT_EQ(keywordText(keyword), text);
 }
 
 TEST(SearchWords, AnyBytesComeToAnEnd) {
