@@ -52,7 +52,7 @@ protected:
 // Words that would be split otherwise if they stood alone: with full-width digits behind ordinary ones, with
 // something invisible in a number, and cut in the middle of one.
 TEST_F(NewsSearchTest, OddNumbersAreFoundAsTyped) {
-    const QStringList keywords{u"1,234５"_s, u"1,234\u200d5"_s, u"w1"_s + u".1"_s.repeated(40)};
+    const QStringList keywords{u"1,234５"_s, u"1,234\u200d5"_s, u"1"_s + u".1"_s.repeated(40)};
     takeStory(u"a"_s, u"Title"_s, u"x "_s + keywords.join(u" x "_s) + u" x"_s);
     for (const QString& keyword : keywords)
         EXPECT_EQ(found(conditionOf({keyword})), QStringList(u"Title"_s)) << qPrintable(keyword);
