@@ -17,7 +17,7 @@ namespace {
 
 using Target = int(const std::uint8_t*, std::size_t);
 
-constexpr int changesPerTarget = 6000;
+constexpr int changesPerTarget = 4000;
 
 std::vector<QByteArray> seedsOf(const QDir& folder) {
     std::vector<QByteArray> seeds;
