@@ -87,14 +87,26 @@ public:
     }
 
 private:
+    // The newest rows whose stories are there: for a story that is still to be written, printing waits.
+    QItemSelection newestWithStories(NewsViewAccess& view) {
+        const QAbstractItemModel* rows = view.Sheet(allNewsList)->model();
+        QItemSelection selected;
+        const std::vector<HeadlineKey> keys = view.Keys(allNewsList, 0, rows->rowCount());
+        for (int row = 0; row < static_cast<int>(keys.size()) && selected.size() < newsPutOut; ++row) {
+            const HeadlineKey& key = keys[static_cast<std::size_t>(row)];
+            CStory story;
+            if (session.backEnd().BKQNEWS_bGetStory(story, {key.time, key.sequence, key.service}))
+                selected.select(rows->index(row, 0), rows->index(row, rows->columnCount() - 1));
+        }
+        return selected;
+    }
+
     // Prints the newest headlines into a PDF, and saves them.
     Done putOutNews() {
         NewsViewAccess& view = *session.workspace().newest()->access;
-        const CSuperSheetWnd* sheet = view.Sheet(allNewsList);
-        const QAbstractItemModel* rows = sheet->model();
-        const int last = std::min(newsPutOut, rows->rowCount()) - 1;
-        sheet->selectionModel()->select({rows->index(0, 0), rows->index(last, rows->columnCount() - 1)},
-                                        QItemSelectionModel::ClearAndSelect);
+        view.Sheet(allNewsList)
+            ->selectionModel()
+            ->select(newestWithStories(view), QItemSelectionModel::ClearAndSelect);
         for (const QString& name : {pagesName, textName})
             QFile::remove(folder.filePath(name));
         for (const NewsOutcome& outcome :
