@@ -7,6 +7,10 @@
 
 namespace wirepane {
 
+namespace {
+constexpr std::ptrdiff_t mostKept = 8;  // besides the present ones
+}
+
 SearchDesk::SearchDesk(const QString& storePath, Answered answered, Gate answerGate)
     : tell(std::move(answered)),
       gate(answerGate ? std::move(answerGate) : [](const std::function<void()>& answer) { answer(); }) {
@@ -27,17 +31,20 @@ void SearchDesk::ask(unsigned char service, int kind, const CSearch& condition) 
         *older->second.dropped = true;
     search.pending[service] = pending;
     worker->ask({pending.ticket, service, condition, pending.dropped});
-    forgetOverdue();
+    forgetOldest();
 }
 
 SearchDesk::Search& SearchDesk::searchOf(int kind, const CSearch& condition) {
     const auto known = std::find_if(searches.begin(), searches.end(), [&](const Search& search) {
         return search.kind == kind && search.condition == condition;
     });
-    if (known != searches.end() && present[kind] != known->id)
-        known->tables.clear();  // another condition was sent since
-    return known != searches.end() ? *known
-                                   : searches.emplace_back(Search{++lastNumber, kind, condition, {}, {}});
+    if (known == searches.end())
+        return searches.emplace_back(Search{++lastNumber, kind, condition, {}, {}});
+    if (present[kind] != known->id && known->condition.time != condition.time)
+        known->tables.clear();
+    known->condition.time = condition.time;
+    searches.splice(searches.end(), searches, known);
+    return searches.back();
 }
 
 const std::vector<CHeadlineTable>& SearchDesk::table(unsigned char service, int kind) const {
@@ -63,7 +70,7 @@ void SearchDesk::take(std::int64_t ticket, std::vector<CHeadlineTable>&& entries
             search.pending.erase(pending);
             search.tables[service] = std::move(entries);
             deliver(search, service);
-            forgetOverdue();
+            forgetOldest();
             return;
         }
     }
@@ -80,9 +87,12 @@ void SearchDesk::deliver(Search& search, unsigned char service) {
         present[kind] = before;
 }
 
-void SearchDesk::forgetOverdue() {
-    searches.remove_if(
-        [this](const Search& search) { return search.pending.empty() && present[search.kind] != search.id; });
+void SearchDesk::forgetOldest() {
+    const auto canGo = [this](const Search& search) {
+        return search.pending.empty() && present[search.kind] != search.id;
+    };
+    for (auto idle = std::count_if(searches.begin(), searches.end(), canGo); idle > mostKept; --idle)
+        searches.erase(std::find_if(searches.begin(), searches.end(), canGo));
 }
 
 }  // namespace wirepane

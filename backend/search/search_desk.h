@@ -15,9 +15,10 @@ namespace wirepane {
 // The searches that views have sent, and their tables. Interface thread.
 //
 // Of each kind there is one present search, that sent last; its tables are what is read. A new condition
-// starts with empty tables for every service, the same condition keeps them until its answers. While an
-// answer is delivered, its search is the present one, so that a view whose search was overtaken by another
-// view's still reads its own.
+// starts with empty tables for every service, the same condition keeps them until its answers, also when
+// other views have sent theirs meanwhile: of the searches that are answered the last few are kept. One that
+// was composed anew since then is new. While an answer is delivered, its search is the present one, so that a
+// view whose search was overtaken by another view's still reads its own.
 class SearchDesk {
 public:
     // `answered` is called for each answer, from the event loop, when its table can be read.
@@ -50,11 +51,11 @@ private:
     Search& searchOf(int kind, const CSearch& condition);
     void take(std::int64_t ticket, std::vector<CHeadlineTable>&& entries);
     void deliver(Search& search, unsigned char service);
-    void forgetOverdue();
+    void forgetOldest();
 
     Answered tell;
     Gate gate;
-    std::list<Search> searches;
+    std::list<Search> searches;           // that sent last at the end
     std::map<int, std::int64_t> present;  // by kind: the id of a search
     std::int64_t lastNumber = 0;
     QObject eventLoop;                     // what waits in it is dropped with it
