@@ -6,6 +6,18 @@
 
 namespace wirepane {
 
+namespace {
+
+// Makes room for more and a little beyond: twice the room is much for all headlines of a store.
+template <class Keys>
+void makeRoom(Keys& keys, std::size_t more) {
+    const std::size_t needed = keys.size() + more;
+    if (needed > keys.capacity())
+        keys.reserve(needed + needed / 32 + 64);
+}
+
+}  // namespace
+
 HeadlineKeys::HeadlineKeys(Database& database)
     : all(database, "SELECT service, time, sequence, id FROM headlines ORDER BY service, time, sequence"),
       newer(database, "SELECT service, time, sequence, id FROM headlines WHERE id > ? ORDER BY id"),
@@ -25,6 +37,8 @@ bool HeadlineKeys::loadAll() {
             {query.number(1), query.smallNumber(2), std::uint32_t(id)});
         lastId = std::max(lastId, id);
     }
+    for (auto& [service, keys] : byService)
+        keys.shrink_to_fit();
     if (!query.failed())
         return true;
     byService.clear();
@@ -46,15 +60,28 @@ bool HeadlineKeys::catchUp() {
         if (query.failed())
             return false;
     }
-    for (auto& [service, keys] : added) {
-        std::sort(keys.begin(), keys.end(), isOlder);
-        Keys& known = byService[service];
-        const auto from = std::upper_bound(known.begin(), known.end(), keys.front(), isOlder) - known.begin();
-        const auto middle = std::ptrdiff_t(known.size());
-        known.insert(known.end(), keys.begin(), keys.end());
-        std::inplace_merge(known.begin() + from, known.begin() + middle, known.end(), isOlder);
-    }
+    for (auto& [service, keys] : added)
+        merge(byService[service], keys);
     return true;
+}
+
+// News that was sent again in its place has another id now, and stays one key.
+void HeadlineKeys::merge(Keys& known, Keys& added) {
+    std::erase_if(added, [&known](const Key& key) {
+        const auto place = std::lower_bound(known.begin(), known.end(), key, isOlder);
+        const bool isKnown = place != known.end() && !isOlder(key, *place);
+        if (isKnown)
+            place->id = key.id;
+        return isKnown;
+    });
+    if (added.empty())
+        return;
+    std::sort(added.begin(), added.end(), isOlder);
+    const auto from = std::upper_bound(known.begin(), known.end(), added.front(), isOlder) - known.begin();
+    const auto middle = std::ptrdiff_t(known.size());
+    makeRoom(known, added.size());
+    known.insert(known.end(), added.begin(), added.end());
+    std::inplace_merge(known.begin() + from, known.begin() + middle, known.end(), isOlder);
 }
 
 std::vector<CHeadlineTable> HeadlineKeys::entries(unsigned char service, const IdSet& ids) const {

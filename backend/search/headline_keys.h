@@ -34,6 +34,7 @@ private:
     using Keys = std::vector<Key>;  // oldest first
 
     static bool isOlder(const Key& a, const Key& b);
+    static void merge(Keys& known, Keys& added);
     bool loadAll();
 
     Statement all;
