@@ -4,6 +4,7 @@
 #include "host/controls/sheet_delegate.h"
 #include "host/controls/super_sheet_wnd.h"
 
+#include <QHeaderView>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -14,8 +15,11 @@ void CSuperSheetWnd::vAddRows(int count) {
 }
 
 void CSuperSheetWnd::vClearRows() {
-    if (builder != nullptr)
-        builder->vSetRowCount(0);
+    if (builder == nullptr)
+        return;
+    builder->vSetRowCount(0);
+    // A header into which rows came at the top keeps room for several times as many, unless its state is set.
+    verticalHeader()->restoreState(verticalHeader()->saveState());
 }
 
 int CSuperSheetWnd::iGetRowCount() const {
