@@ -1,0 +1,288 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "tests/endurance/desk.h"
+
+#include "host/contract/search_control.h"
+#include "host/controls/window_id.h"
+#include "news_view/control_ids.h"
+#include "search/news_key_search_dlg.h"
+#include "search/search_ids.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace wirepane;
+
+namespace {
+
+constexpr int patienceMs = 120'000;
+constexpr unsigned char emptyService = 250;
+constexpr int warrantMode = static_cast<int>(ListIndex::Warrant);
+constexpr int relationMode = static_cast<int>(ListIndex::Relation);
+constexpr int searchMode = static_cast<int>(ListIndex::Search);
+constexpr int warningMode = static_cast<int>(ListIndex::WarningTerm);
+
+CSearch conditionOf(const QString& word) {
+    CSearch condition;
+    condition.keywords = {word};
+    condition.method = 1;
+    return condition;
+}
+
+void writeSwitches(const QString& folder, int view) {
+    QFile file(QDir(folder).filePath(u"Application.ini"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[NewsCtrlSearchView]\n");
+    file.write(view == desk::relating ? "ShowNormalSearch=1\n" : "");
+    file.write(view == desk::warning ? "ShowWarningSearch=1\n" : "");
+}
+
+QMap<QString, QVariant> firstSettings(int view) {
+    QMap<QString, QVariant> values{{u"EnabledFunctions"_s, 0x7F}, {u"SymbolID"_s, u"2330"_s}};
+    if (view == desk::relating)
+        values[u"!RVNEWS_NEWSKEY_KEYWORDSETTING"_s] =
+            QStringList{u"C:1 T:1,2,3,4 K:RATE"_s, u"C:1 T:-999 K:COPPER"_s};
+    if (view == desk::warning) {
+        values[u"WarningSearchItems"_s] = QStringList{conditionOf(desk::warningWord).GetString()};
+        values[u"WarningSearchItemOrder"_s] = 1;
+    }
+    return values;
+}
+
+// The combo names the categories of the ticked services, rising from 1 as far as any of them has them.
+void chooseCategory(TRVNewsCtrlView& view, int entry) {
+    auto* combo = qobject_cast<QComboBox*>(GetDlgItem(&view, ids::categoryCombo));
+    if (combo == nullptr || combo->count() == 0)
+        return;
+    combo->setCurrentIndex(std::min(entry, combo->count() - 1));
+    view.OnSelchangeComboIndex();
+}
+
+void chooseSymbol(TRVNewsCtrlView& view, const QString& code) {
+    auto* combo = qobject_cast<QComboBox*>(GetDlgItem(&view, ids::symbolCombo));
+    combo->setCurrentIndex(combo->findText(code, Qt::MatchContains));
+    view.OnSelchangeComboSymbol();
+}
+
+// Hears the answers to searches.
+class AnswerCount : public NewsReceiver {
+public:
+    explicit AnswerCount(QString wanted) : word(std::move(wanted)) {}
+    void RespSearchHeadLineTable(const CSearch& condition, unsigned char) override {
+        count += condition.keywords.front() == word ? 1 : 0;
+    }
+    int count = 0;
+
+private:
+    QString word;
+};
+
+}  // namespace
+
+bool desk::IsRelated(std::int32_t category, const QString& title) {
+    return title.contains(u"copper"_s) || (category <= 4 && title.contains(u"rate"_s));
+}
+
+Desk::Desk(const QString& storePath, const QString& systemFolder)
+    : backEnd(std::move(EmbeddedBackEnd::open(storePath).value())) {
+    for (int view = 0; view < desk::views; ++view)
+        views[static_cast<std::size_t>(view)].settings.values = firstSettings(view);
+    for (const StoreItem& item : WeekWire::Catalogues())
+        EXPECT_TRUE(backEnd->takeIn(item));
+    Install();
+    for (int view = 0; view < desk::views; ++view)
+        open(view, systemFolder);
+    tickKeySets();
+}
+
+Desk::Desk(const Desk& other, const QString& systemFolder)
+    : backEnd(std::move(EmbeddedBackEnd::open(other.backEnd->storePath()).value())) {
+    for (std::size_t view = 0; view < views.size(); ++view)
+        other.views[view].view->SaveViewInfo(&views[view].settings, u"Layout"_s, 0, 0);
+    Install();
+    for (int view = 0; view < desk::views; ++view)
+        open(view, systemFolder);
+    tickKeySets();
+}
+
+Desk::~Desk() {
+    for (Place& place : views)
+        place.view.reset();
+}
+
+void Desk::Install() {
+    BKQuoteInterface::SetBKInterface(backEnd.get());
+    SearchControl::SetSearchObjInterface(&backEnd->symbols());
+}
+
+void Desk::open(int number, const QString& systemFolder) {
+    writeSwitches(systemFolder, number);
+    backEnd->setSysPath(systemFolder);
+    Place& place = views[static_cast<std::size_t>(number)];
+    place.frame = std::make_unique<QWidget>();
+    place.frame->resize(900, 500);
+    place.view = std::make_unique<TRVNewsCtrlView>(place.frame.get());
+    place.view->resize(place.frame->size());
+    place.view->OnInitialUpdate();
+    place.view->InitialViewInfo(&place.settings, u"Layout"_s, 0, 0, {});
+    place.frame->show();
+}
+
+void Desk::tickKeySets() {
+    TRVNewsCtrlView& view = View(desk::relating);
+    bool ticked = false;
+    QTimer::singleShot(0, &view, [&ticked] {
+        auto* dialog = qobject_cast<CNewsKeySearchDlg*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        for (const int button : {search_ids::allKeySets, search_ids::ok})
+            qobject_cast<QAbstractButton*>(GetDlgItem(dialog, button))->click();
+        ticked = true;
+    });
+    view.OnCommand(ids::relationSearchButton);
+    EXPECT_TRUE(ticked);
+}
+
+std::vector<HeadlineKey> Desk::Keys(int view, int list) const {
+    return View(view).Keys(list, 0, View(view).iGetHeadlineTableSize(list));
+}
+
+std::vector<unsigned char> Desk::TickedServices(int view) const {
+    std::vector<unsigned char> ticked;
+    const QVariantList services = View(view).State()[u"services"_s].toList();
+    for (const QVariant& service : services) {
+        if (service.toMap()[u"selected"_s].toBool())
+            ticked.push_back(static_cast<unsigned char>(service.toMap()[u"id"_s].toInt()));
+    }
+    return ticked;
+}
+
+void Desk::TickAllServices() {
+    for (const Place& place : views) {
+        place.view->SwitchFunction(0);
+        const QVariantList services = place.view->State()[u"services"_s].toList();
+        for (int i = 0; i < services.size(); ++i) {
+            const QVariantMap service = services[i].toMap();
+            if (!service[u"selected"_s].toBool() && service[u"id"_s].toInt() != warrantService)
+                place.view->OnCommand(ids::firstServiceCommand + i);
+        }
+    }
+}
+
+void Desk::Settle() {
+    ASSERT_TRUE(QTest::qWaitFor(
+        [this] {
+            return backEnd->isDelivered() && std::all_of(views.begin(), views.end(), [](const Place& place) {
+                       return place.view->RunningTimers().empty();
+                   });
+        },
+        patienceMs));
+    awaitSearches();
+}
+
+// Searches are answered in the order of asking: a last one, for what all headlines hold and in a service that
+// has none, is answered when all are, and leaves the search with all its keys in memory.
+void Desk::awaitSearches() {
+    AnswerCount answers(WeekWire::commonWord);
+    backEnd->Attach(&answers);
+    backEnd->BKQNEWS_bSearchNews(emptyService, static_cast<int>(TableKind::SecondSearch),
+                                 conditionOf(WeekWire::commonWord));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return answers.count > 0; }, patienceMs));
+    backEnd->Detach(&answers);
+}
+
+void Desk::search(const QString& word) {
+    TRVNewsCtrlView& view = View(desk::searching);
+    qobject_cast<QLineEdit*>(GetDlgItem(&view, ids::searchEdit))->setText(word);
+    view.OnSearch();
+}
+
+// A warning-term search follows the headlines of every service; so do the results that are compared.
+void Desk::askEveryService(const QString& word) {
+    for (const unsigned char service : WeekWire::services)
+        backEnd->BKQNEWS_bSearchNews(service, static_cast<int>(TableKind::Search), conditionOf(word));
+}
+
+void Desk::RebuildLists(const QDate& day) {
+    const QString searchWord = WeekWire::WordOf(day);
+    for (const Place& place : views) {
+        TRVNewsCtrlView& view = *place.view;
+        view.SwitchFunction(0);
+        view.bChangeDate(day);
+        view.InitialHeadlineTable(0);
+        view.SwitchFunction(1);
+        chooseCategory(view, WeekWire::CategoryOf(day) - 1);
+        view.SwitchFunction(2);
+        chooseSymbol(view, WeekWire::SymbolOf(day));
+        view.InitialHeadlineTable(2);
+        view.SwitchFunction(warrantMode);
+    }
+    View(desk::relating).SwitchFunction(relationMode);
+    View(desk::relating).InitialHeadlineTable(relationMode);
+    View(desk::searching).SwitchFunction(searchMode);
+    search(searchWord);
+    askEveryService(searchWord);
+    Settle();
+    View(desk::warning).SwitchFunction(warningMode);
+    View(desk::warning).OnDealsSearch();
+    askEveryService(desk::warningWord);
+    Settle();
+    for (const Place& place : views)
+        place.view->SwitchFunction(0);
+    letOtherSearchesGo();
+    Settle();
+}
+
+// The back end keeps the results of the last few searches.
+void Desk::letOtherSearchesGo() {
+    for (int i = 0; i < 10; ++i)
+        backEnd->BKQNEWS_bSearchNews(emptyService, static_cast<int>(TableKind::Search),
+                                     conditionOf(u"nothing%1"_s.arg(i)));
+}
+
+void Desk::DoSomething(WeekWire& dice) {
+    TRVNewsCtrlView& view = View(dice.Below(desk::views));
+    CSuperSheetWnd* sheet = view.pGetCurrSheetView();
+    const int rows = sheet->iGetRowCount();
+    if (dice.Below(2) == 0)
+        sheet->verticalScrollBar()->setValue(dice.Below(3) == 0 ? dice.Below(std::max(1, rows)) : 0);
+    else if (rows > 0)
+        view.bChangeNewsPos(view.State()[u"mode"_s].toInt(), dice.Below(std::min(rows, 200)));
+}
+
+void Desk::DoSomethingBig(WeekWire& dice, const QDate& day) {
+    const int number = dice.Below(desk::views);
+    TRVNewsCtrlView& view = View(number);
+    static constexpr int ownModes[] = {searchMode, relationMode, warningMode};
+    const int modes[] = {0, 0, 1, 2, warrantMode, ownModes[number]};
+    switch (dice.Below(6)) {
+        case 0:
+            view.bChangeDate(day.addDays(-dice.Below(3)));
+            break;
+        case 1:
+            view.bChangeDate(day);
+            break;
+        case 2:
+            if (view.State()[u"mode"_s].toInt() != warrantMode)
+                view.OnCommand(ids::firstServiceCommand + dice.Below(4));  // the warrants have no command
+            break;
+        case 3:
+            if (number == desk::searching)
+                search(u"word%1"_s.arg(10 + dice.Below(80)));
+            break;
+        case 4:
+            chooseCategory(view, dice.Below(7));
+            break;
+        default:
+            view.SwitchFunction(modes[dice.Below(6)]);
+    }
+}

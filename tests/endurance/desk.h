@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/embedded_back_end.h"
+#include "host/contract/cfg_io.h"
+#include "news_view/trv_news_ctrl_view.h"
+#include "tests/endurance/week_wire.h"
+
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+// What the third view of a desk, and the key sets and searches of all, are made of.
+namespace desk {
+inline constexpr int searching = 0;  // all modes, ordinary searches
+inline constexpr int relating = 1;   // key sets
+inline constexpr int warning = 2;    // warning terms
+inline constexpr int views = 3;
+
+inline const QString warningWord = QStringLiteral("strike");
+// What the ticked key sets want.
+bool IsRelated(std::int32_t category, const QString& title);
+}  // namespace desk
+
+// A terminal with three views over one store. The installed back end is its own from here on.
+class Desk {
+public:
+    // `systemFolder` is where the module looks for its own files.
+    Desk(const QString& storePath, const QString& systemFolder);
+    // The same views with the same settings, opened fresh.
+    Desk(const Desk& other, const QString& systemFolder);
+    ~Desk();
+
+    wirepane::EmbeddedBackEnd& BackEnd() { return *backEnd; }
+    TRVNewsCtrlView& View(int number) const { return *views.at(static_cast<std::size_t>(number)).view; }
+    std::vector<HeadlineKey> Keys(int view, int list) const;
+    std::vector<unsigned char> TickedServices(int view) const;
+
+    // Installs its back end as that of the process.
+    void Install();
+    // Lets everything come to rest: what is told, drawn, searched for.
+    void Settle();
+    // Reads every list of every view anew, for what the wire has of its own on that day.
+    void RebuildLists(const QDate& day);
+    // Ticks every service but the warrants in every view.
+    void TickAllServices();
+    // Something that a user does a hundred times a day; something that reads whole lists.
+    void DoSomething(WeekWire& dice);
+    void DoSomethingBig(WeekWire& dice, const QDate& day);
+
+private:
+    struct Place {
+        std::unique_ptr<QWidget> frame;
+        std::unique_ptr<TRVNewsCtrlView> view;
+        MemoryCfgIO settings;
+    };
+    void open(int number, const QString& systemFolder);
+    void tickKeySets();
+    void search(const QString& word);
+    void askEveryService(const QString& word);
+    void awaitSearches();
+    void letOtherSearchesGo();
+
+    std::unique_ptr<wirepane::EmbeddedBackEnd> backEnd;
+    std::array<Place, desk::views> views;
+};

@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// Seven market days over a real store, with three views that somebody works with. WIREPANE_ENDURANCE is the
+// number of headlines, a few thousand without it; with it the figures of each day are printed.
+#include "backend/store/store_checker.h"
+#include "backend/store/store_file.h"
+#include "backend/store/store_writer.h"
+#include "host/contract/clock.h"
+#include "tests/endurance/desk.h"
+#include "tests/endurance/memory_in_use.h"
+#include "tests/endurance/store_truth.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <iostream>
+
+using namespace Qt::StringLiterals;
+using namespace wirepane;
+
+namespace {
+
+constexpr int days = 7;
+constexpr double mostGrowth = 0.02;  // of the memory in use, from the second day on
+
+using Keys = std::vector<HeadlineKey>;
+
+Keys sorted(Keys keys) {
+    std::sort(keys.begin(), keys.end(), [](const HeadlineKey& a, const HeadlineKey& b) {
+        return std::tie(a.service, a.time, a.sequence) < std::tie(b.service, b.time, b.sequence);
+    });
+    return keys;
+}
+
+class Week : public testing::Test {
+protected:
+    Week() {
+        startDay(QDate(2026, 3, 2));
+        session = std::make_unique<Desk>(folder.filePath(u"news.db"_s), folder.path());
+    }
+
+    void startDay(const QDate& next) {
+        day = next;
+        wire.StartDay(day);
+        moveClock(0);
+        for (const unsigned char service : WeekWire::services) {
+            if (session)
+                session->BackEnd().startNewsDay({service, day.toString(u"yyyyMMdd"_s).toInt()});
+        }
+    }
+    void moveClock(double share) {
+        host_clock::startAt(day.startOfDay().toSecsSinceEpoch() + static_cast<int>(share * 86399));
+    }
+
+    // All headlines of the day in batches of one transaction each; a few breaks, in which hands go on.
+    void liveThroughTheDay() {
+        const int batch = std::clamp(perDay / 200, 10, 500);
+        const int batches = perDay / batch;
+        EmbeddedBackEnd& backEnd = session->BackEnd();
+        int offlineFor = 0;
+        for (int i = 0; i < batches && !HasFatalFailure(); ++i) {
+            moveClock(double(i) / batches);
+            ASSERT_TRUE(backEnd.begin());
+            for (const StoreItem& item : wire.Next(batch, double(i) / batches))
+                ASSERT_TRUE(backEnd.take(item));
+            ASSERT_TRUE(backEnd.commit());
+            if (offlineFor == 0 && wire.Below(batches) < 3) {
+                offlineFor = 1 + wire.Below(batches / 20 + 2);
+                backEnd.setConnected(false);
+                ++breaks;
+            } else if (offlineFor > 0 && --offlineFor == 0) {
+                backEnd.setConnected(true);
+            }
+            if (wire.Below(3) == 0)
+                QCoreApplication::processEvents();
+            session->DoSomething(wire);
+            if (wire.Below(batches) < 40)
+                session->DoSomethingBig(wire, day);
+        }
+        backEnd.setConnected(true);
+        session->Settle();
+    }
+
+    // Another program's writing lets the back end forget what it keeps of earlier days for speed, within
+    // bounds of its own: a store that grows would be seen as a program that does.
+    void letTheBackEndForgetItsCaches() {
+        const auto other = openStore(session->BackEnd().storePath());
+        ASSERT_TRUE(other);
+        StoreWriter writer(*other.value());
+        ASSERT_TRUE(writer.begin());
+        ASSERT_TRUE(writer.take(SymbolItem{16, u"9999"_s, day.toString(), 1}));
+        ASSERT_TRUE(writer.commit());
+    }
+
+    void expectKeys(int view, int list, const Keys& truth) {
+        const Keys held = sorted(session->Keys(view, list));
+        rows += QString::number(held.size()) + u' ';
+        ASSERT_TRUE(held == sorted(truth))
+            << day.toString().toStdString() << ", view " << view << ", list " << list << ": holds "
+            << held.size() << ", belong there " << truth.size();
+    }
+
+    void expectWhatBelongsThere() {
+        rows.clear();
+        StoreTruth truth(session->BackEnd().storePath());
+        ASSERT_GT(truth.OfDay(day, {1}).size(), std::size_t(perDay / 10));
+        for (int view = 0; view < desk::views; ++view) {
+            const std::vector<unsigned char> ticked = session->TickedServices(view);
+            const QVariantMap symbol = session->View(view).State()[u"symbol"_s].toMap();
+            MemoryCfgIO saved;
+            session->View(view).SaveViewInfo(&saved, u"Layout"_s, 0, 0);
+            expectKeys(view, 0, truth.OfDay(day, ticked));
+            expectKeys(view, 1, truth.OfCategory(saved.values[u"CategoryID"_s].toInt(), ticked));
+            expectKeys(view, 2,
+                       truth.OfSymbol(static_cast<unsigned char>(symbol[u"service"_s].toInt()),
+                                      symbol[u"code"_s].toString(), ticked));
+            expectKeys(view, static_cast<int>(ListIndex::Warrant), truth.OfDay(day, {52}));
+        }
+        expectKeys(desk::relating, static_cast<int>(ListIndex::Relation),
+                   truth.OfDay(day, session->TickedServices(desk::relating), [](const StoreTruth::Row& row) {
+                       return desk::IsRelated(row.category, row.title);
+                   }));
+        expectKeys(desk::searching, static_cast<int>(ListIndex::Search),
+                   truth.WithWord(WeekWire::WordOf(day)));
+        expectKeys(desk::warning, static_cast<int>(ListIndex::WarningTerm),
+                   truth.WithWord(desk::warningWord));
+    }
+
+    void expectSameRows(const Desk& fresh) {
+        for (int view = 0; view < desk::views; ++view) {
+            for (int list = 0; list < listCount; ++list) {
+                ASSERT_TRUE(session->Keys(view, list) == fresh.Keys(view, list))
+                    << day.toString().toStdString() << ", view " << view << ", list " << list;
+            }
+        }
+    }
+
+    // What the session holds beyond what the same desk, opened fresh on the same store, holds.
+    std::int64_t memoryBeyondAFreshDesk() {
+        inUse = MemoryInUse::Now();
+        std::int64_t withFresh = 0;
+        {
+            Desk fresh(*session, folder.path());
+            fresh.RebuildLists(day);
+            expectSameRows(fresh);
+            withFresh = MemoryInUse::Now().other;
+        }
+        session->Install();
+        return inUse.other - (withFresh - inUse.other);
+    }
+
+    static constexpr std::int64_t databasesAtMost = 24 * 1024 * 1024;
+    const int wanted = qEnvironmentVariableIntValue("WIREPANE_ENDURANCE");
+    const int perDay = std::max(2'800, wanted) / days;
+    QTemporaryDir folder;
+    WeekWire wire{20260302};
+    QDate day;
+    std::unique_ptr<Desk> session;
+    MemoryInUse inUse;
+    QString rows;  // of each list that was compared
+    int breaks = 0;
+};
+
+}  // namespace
+
+TEST_F(Week, MemoryStaysAndEveryListHoldsWhatBelongsThere) {
+    std::int64_t secondDay = 0;
+    QElapsedTimer time;
+    time.start();
+    for (int i = 0; i < days && !HasFatalFailure(); ++i) {
+        if (i > 0)
+            startDay(day.addDays(1));
+        liveThroughTheDay();
+        const qint64 lived = time.restart();
+        session->RebuildLists(day);
+        expectWhatBelongsThere();
+        // Days compare when their lists do: the same services, each with what the day before has.
+        letTheBackEndForgetItsCaches();
+        session->TickAllServices();
+        session->RebuildLists(day);
+        session->BackEnd().takeRequests();
+        if (HasFatalFailure())
+            return;
+        expectWhatBelongsThere();
+        const std::int64_t beyond = memoryBeyondAFreshDesk();
+        if (wanted > 0)
+            std::cout << day.toString(u"yyyy-MM-dd"_s).toStdString() << "  sent " << wire.Sent()
+                      << "  in use " << inUse.other << " and " << inUse.ofDatabases << " of databases"
+                      << "  beyond a fresh desk " << beyond << "  lived " << lived << " ms  checked "
+                      << time.restart() << " ms  rows " << rows.toStdString() << std::endl;
+        EXPECT_LT(inUse.ofDatabases, databasesAtMost);
+        if (i == 1)
+            secondDay = beyond;
+        if (i > 1) {
+            EXPECT_LT(double(beyond - secondDay), mostGrowth * double(inUse.other))
+                << day.toString().toStdString();
+        }
+    }
+    EXPECT_GT(breaks, days);
+    EXPECT_EQ(StoreChecker(session->BackEnd().storePath()).check().value(), QStringList{});
+}

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "tests/endurance/week_wire.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace wirepane;
+
+namespace {
+
+constexpr int daySeconds = 86400;
+constexpr std::size_t mostRecent = 1000;
+constexpr int vocabulary = 300;  // of which "word7", "gold", ... are searched for
+
+QString word(int number) {
+    static const QString named[] = {u"gold"_s, u"strike"_s, u"rate"_s, u"copper"_s};
+    return number < 4 ? named[number] : u"word%1"_s.arg(number);
+}
+
+void keep(std::deque<NewsItem>& items, const NewsItem& item) {
+    items.push_back(item);
+    if (items.size() > mostRecent)
+        items.pop_front();
+}
+
+}  // namespace
+
+std::vector<StoreItem> WeekWire::Catalogues() {
+    std::vector<StoreItem> items;
+    for (int i = 0; i < 10; ++i)
+        items.push_back(SymbolItem{16, QString::number(2330 + i), u"Company %1"_s.arg(i), 1});
+    for (const unsigned char service : services)
+        items.push_back(CategoryItem{service, 7, u"Sundays"_s, {}});
+    return items;
+}
+
+QString WeekWire::SymbolOf(const QDate& day) {
+    return QString::number(2330 + day.day() % 10);
+}
+
+QString WeekWire::WordOf(const QDate& day) {
+    return u"word%1"_s.arg(1000 + day.day());
+}
+
+void WeekWire::StartDay(const QDate& begun) {
+    day = begun;
+    dayBegin = day.startOfDay().toSecsSinceEpoch();
+    recent.clear();
+    storyLess.clear();
+}
+
+std::vector<StoreItem> WeekWire::Next(int count, double share) {
+    std::vector<StoreItem> items;
+    const auto moment = static_cast<std::int64_t>(share * (daySeconds - 1));
+    for (int i = 0; i < count; ++i) {
+        ++sent;
+        const bool isAgain = !recent.empty() && Below(10) == 0;
+        const NewsItem item = isAgain ? again() : fresh(moment);
+        items.emplace_back(item);
+        if (!storyLess.empty() && Below(8) == 0) {
+            NewsItem late = storyLess.front();
+            storyLess.pop_front();
+            late.story = u"The story of a headline that came before it."_s;
+            items.emplace_back(late);
+        }
+    }
+    return items;
+}
+
+// Now and then one that is an hour late.
+NewsItem WeekWire::fresh(std::int64_t moment) {
+    NewsItem item;
+    item.service = services[Below(std::size(services))];
+    item.identity = u"n%1"_s.arg(++numbered);
+    item.time = dayBegin + std::max<std::int64_t>(0, moment - Below(30) - (Below(500) == 0 ? 3600 : 0));
+    item.title = title();
+    item.categoryId = CategoryOf(day.addDays(Below(2)));
+    if (Below(3) == 0)
+        item.related.push_back({16, SymbolOf(day)});
+    if (Below(12) == 0)
+        item.related.push_back({16, SymbolOf(day.addDays(-1))});
+    const int kind = Below(4);
+    if (kind == 0)
+        item.story = u"%1 %2@@@@%3"_s.arg(title(), title(), title());
+    keep(recent, item);
+    if (kind == 1)
+        keep(storyLess, item);
+    return item;
+}
+
+NewsItem WeekWire::again() {
+    NewsItem& item = recent[static_cast<std::size_t>(Below(static_cast<int>(recent.size())))];
+    ++item.version;
+    item.title = title();
+    std::erase_if(storyLess, [&](const NewsItem& other) { return other.identity == item.identity; });
+    return item;
+}
+
+QString WeekWire::title() {
+    QStringList words{commonWord};
+    for (int i = 0; i < 5; ++i)
+        words += word(Below(vocabulary));
+    if (Below(60) == 0)
+        words += WordOf(day);
+    return words.join(u' ');
+}
