@@ -100,6 +100,12 @@ bool Database::isReadOnly() const {
     return sqlite3_db_readonly(connection, "main") == 1;
 }
 
+bool Database::wasTakenAway() const {
+    int moved = 0;
+    return sqlite3_file_control(connection, "main", SQLITE_FCNTL_HAS_MOVED, &moved) == SQLITE_OK &&
+           moved != 0;
+}
+
 bool Database::inTransaction() const {
     return sqlite3_get_autocommit(connection) == 0;
 }

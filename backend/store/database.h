@@ -40,6 +40,9 @@ public:
     bool readText(const char* sql, QString& value);
 
     bool isReadOnly() const;
+    // True when the file does not stand under its name any more: what is written then goes with the last
+    // program that has it open.
+    bool wasTakenAway() const;
     bool inTransaction() const;
     std::int64_t lastInsertId() const;
     // Rows that the last statement changed.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/embedded_back_end.h"
 
+#include "backend/store/failure_sentence.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
@@ -136,6 +137,10 @@ void EmbeddedBackEnd::tellOf(const std::vector<SymbolItem>& symbols) {
         updates.push_back({symbol.market, symbol.code});
     }
     ForEachReceiver([&](NewsReceiver& receiver) { receiver.vDoSymbolUpdate(updates); });
+}
+
+QString EmbeddedBackEnd::storeTrouble() const {
+    return database->wasTakenAway() ? takenAwaySentence(database->path()) : QString();
 }
 
 // --- Telling ---

@@ -115,6 +115,9 @@ public:
     void setConvertsToSimplified(bool on) { simplified = on; }  // at first: false
     void setSysPath(const QString& path) { sysPath = path; }    // at first: the contract's default
     const QString& storePath() const { return database->path(); }
+    // What keeps the store from taking news in for as long as it lasts, found out without trying: a sentence;
+    // empty when nothing does.
+    QString storeTrouble() const;
 
     void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                          const std::vector<CSymbolInfo>& removed) override;

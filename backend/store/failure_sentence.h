@@ -11,4 +11,7 @@ namespace wirepane {
 // (0: none).
 QString failureSentence(const QString& path, int code, const QString& message, int systemError);
 
+// Why nothing can be taken in by a store whose file went while it was open.
+QString takenAwaySentence(const QString& path);
+
 }  // namespace wirepane

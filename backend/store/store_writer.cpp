@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/store_writer.h"
 
+#include "backend/store/failure_sentence.h"
 #include "backend/store/item_check.h"
 
 using namespace Qt::StringLiterals;
@@ -48,6 +49,8 @@ StoreWriter::StoreWriter(Database& owner)
       writeSymbol(owner, "REPLACE INTO symbols(market, code, name, category) VALUES(?, ?, ?, ?)") {}
 
 Done StoreWriter::begin() {
+    if (database.wasTakenAway())
+        return Error{takenAwaySentence(database.path())};
     if (!database.execute("BEGIN IMMEDIATE"))
         return Error{database.failure()};
     numbers.restart();

@@ -54,7 +54,7 @@ Done LiveFeed::openSocket() {
         FeedConnection* const connection = connections.back().get();
         connect(connection, &FeedConnection::ready, this, [this, connection] {
             // A sender that is faster than the disk waits for it.
-            if (connection->source().waiting() > mostWaitingLines && storeTrouble.isEmpty() && !isTaking)
+            if (connection->source().waiting() > mostWaitingLines && !hasTrouble() && !isTaking)
                 take(connection->source());
             pumpSoon();
         });
@@ -84,7 +84,7 @@ void LiveFeed::setConnected(bool connected) {
 }
 
 bool LiveFeed::isIdle() {
-    const bool isFed = isConnected && storeTrouble.isEmpty() &&
+    const bool isFed = isConnected && !hasTrouble() &&
                        ((spool && spool->hasPortion()) ||
                         std::any_of(connections.begin(), connections.end(), [](const auto& connection) {
                             return connection->source().hasPortion();
@@ -93,6 +93,7 @@ bool LiveFeed::isIdle() {
 }
 
 void LiveFeed::tick() {
+    lostStore = backEnd.storeTrouble();
     if (isConnected) {
         backEnd.checkForNews();
         if (spool && spool->hasPortion())
@@ -104,7 +105,7 @@ void LiveFeed::tick() {
 
 void LiveFeed::pumpSoon() {
     if (!pumping.isActive())
-        pumping.start(storeTrouble.isEmpty() ? 0 : retryMs);
+        pumping.start(hasTrouble() ? retryMs : 0);
 }
 
 // One portion a turn, so that the windows stay alive; the next turn when this one did anything.
@@ -143,7 +144,7 @@ bool LiveFeed::take(FeedSource& source) {
     const Result<PortionOutcome> taken = takePortion(source, backEnd);
     backEnd.setPatience(StoreOptions().busyTimeout);
     isTaking = false;
-    storeTrouble = taken ? QString() : taken.error();
+    takeTrouble = taken ? QString() : taken.error();
     if (taken) {
         takenLate += isCatchingUp ? taken.value().news : 0;
         startNewsDays(taken.value());
@@ -175,13 +176,13 @@ bool LiveFeed::hasCaughtUp() {
 
 void LiveFeed::updateState() {
     FeedState now = current;
-    now.kind = !isConnected                              ? FeedState::Offline
-               : isCatchingUp || !storeTrouble.isEmpty() ? FeedState::Reconnecting
-                                                         : FeedState::Live;
+    now.kind = !isConnected                   ? FeedState::Offline
+               : isCatchingUp || hasTrouble() ? FeedState::Reconnecting
+                                              : FeedState::Live;
     if (now.kind != current.kind)
         now.since = host_clock::now();
     now.late = backEnd.lateHeadlines() + static_cast<int>(takenLate);
-    now.trouble = storeTrouble;
+    now.trouble = lostStore.isEmpty() ? takeTrouble : lostStore;
     if (now == current)
         return;
     current = now;

@@ -69,6 +69,7 @@ private:
     bool hasCaughtUp();
     void startNewsDays(const PortionOutcome& outcome);
     void dropDoneConnections();
+    bool hasTrouble() const { return !takeTrouble.isEmpty() || !lostStore.isEmpty(); }
     void updateState();
     Done openSocket();
 
@@ -81,7 +82,8 @@ private:
     QTimer pumping;
     std::map<unsigned char, QDate> newsDays;
     QDate startDay;
-    QString storeTrouble;
+    QString takeTrouble;  // of the last portion
+    QString lostStore;    // the store is not where it was
     bool isConnected = true;
     bool isCatchingUp = false;
     std::size_t clientsBefore = 0;  // the break

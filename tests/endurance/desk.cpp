@@ -25,7 +25,7 @@ using namespace wirepane;
 
 namespace {
 
-constexpr int patienceMs = 120'000;
+constexpr int patienceMs = 3'600'000;  // a busy machine is none of its business
 constexpr unsigned char emptyService = 250;
 constexpr int warrantMode = static_cast<int>(ListIndex::Warrant);
 constexpr int relationMode = static_cast<int>(ListIndex::Relation);

@@ -12,7 +12,7 @@
 #include <array>
 #include <memory>
 
-// What the third view of a desk, and the key sets and searches of all, are made of.
+// What the three views of a desk are for, and what they look for.
 namespace desk {
 inline constexpr int searching = 0;  // all modes, ordinary searches
 inline constexpr int relating = 1;   // key sets

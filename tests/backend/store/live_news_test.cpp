@@ -11,6 +11,8 @@
 
 #include <QCoreApplication>
 
+#include <random>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -118,6 +120,96 @@ TEST_F(LiveNewsTest, ABurstIsOneTransactionAndIsToldInPortions) {
     backEnd.checkForNews();
     EXPECT_EQ(heard(), QStringList{});
     EXPECT_EQ(entriesOfToday(), burst);
+}
+
+// Two terminals, each with its own feed, taking in by turns: single items, batches, corrections.
+TEST_F(LiveNewsTest, TwoTerminalsOnOneStoreLoseNothingAndHearEachOther) {
+    const auto opened = EmbeddedBackEnd::open(store->path());
+    ASSERT_TRUE(opened);
+    EmbeddedBackEnd& other = *opened.value();
+    Listener otherListener;
+    other.Attach(&otherListener);
+    std::mt19937 random(20260302);
+    for (int i = 0; i < 300; ++i) {
+        EmbeddedBackEnd& taking = random() % 2 == 0 ? backEnd : other;
+        ASSERT_TRUE(taking.begin());
+        for (unsigned left = random() % 4; left-- > 0;) {
+            const auto number = static_cast<int>(random() % 200);
+            NewsItem item =
+                newsItem(1, QString::number(number), at(10, 0, number % 60), u"Title %1"_s.arg(i));
+            item.version = i;
+            ASSERT_TRUE(taking.take(item));
+        }
+        if (random() % 8 == 0)
+            taking.rollback();
+        else
+            ASSERT_TRUE(taking.commit());
+        if (random() % 4 == 0) {
+            backEnd.checkForNews();
+            other.checkForNews();
+        }
+    }
+    backEnd.checkForNews();
+    other.checkForNews();
+    std::vector<CHeadlineTable> mine;
+    std::vector<CHeadlineTable> theirs;
+    backEnd.BKQNEWS_iGetHeadlineTable(1, mine, 0, u"20260302"_s);
+    other.BKQNEWS_iGetHeadlineTable(1, theirs, 0, u"20260302"_s);
+    EXPECT_GT(mine.size(), 100u);
+    EXPECT_TRUE(
+        std::equal(mine.begin(), mine.end(), theirs.begin(), theirs.end(),
+                   [](const CHeadlineTable& a, const CHeadlineTable& b) { return KeyOf(a) == KeyOf(b); }));
+    EXPECT_EQ(rows("SELECT count(*) FROM headlines"), QStringList{QString::number(mine.size())});
+    const QStringList titles = rows("SELECT sequence, title FROM headlines");
+    for (const QString& row : titles) {
+        const QString said = u"headline 1/%1 %2 [0] "_s.arg(row.section(u'|', 0, 0), row.section(u'|', 1));
+        EXPECT_TRUE(listener.heard.contains(said)) << row.toStdString();
+        EXPECT_TRUE(otherListener.heard.contains(said)) << row.toStdString();
+    }
+    EXPECT_EQ(StoreChecker(store->path()).check().value(), QStringList{});
+    other.Detach(&otherListener);
+}
+
+TEST_F(LiveNewsTest, AClockThatIsSetNumbersAndTellsNewsAllTheSame) {
+    const std::int64_t day = 86400;
+    struct Step {
+        std::int64_t clock;
+        std::int64_t newsTime;
+        QString said;
+    };
+    const Step steps[] = {
+        {at(12, 0), at(11, 0), u"headline 1/1 N [1] "_s},
+        {at(12, 0) - 2 * day, at(11, 30), u"headline 1/2 N [1] "_s},           // of a day to come
+        {at(12, 0) - 2 * day, at(11, 0) - 2 * day, u"headline 1/1 N [1] "_s},  // of the day that it is now
+        {at(12, 0) + 300 * day, at(11, 0) + 300 * day,
+         u"headline 1/1 N [1] "_s},  // beyond the range of tables
+        {at(12, 1), at(10, 0), u"headline 1/3 N [1] "_s},
+    };
+    int number = 0;
+    QStringList said;
+    for (const Step& step : steps) {
+        host_clock::startAt(step.clock);
+        NewsItem item = newsItem(1, QString::number(++number), step.newsTime, u"N"_s);
+        item.categoryId = 1;
+        backEnd.setConnected(number != 3);  // the third waits for the connection
+        takeIn(item);
+        said += step.said;
+        if (number != 3) {
+            EXPECT_EQ(heard(), std::exchange(said, {})) << number;
+        }
+    }
+    EXPECT_EQ(entriesOfToday(), 3);
+    EXPECT_EQ(rows("SELECT position, headline FROM arrivals ORDER BY position"),
+              (QStringList{u"1|1"_s, u"2|2"_s, u"3|3"_s, u"4|4"_s, u"5|5"_s}));
+    const auto ofCategory = [&](std::int64_t clock) {
+        host_clock::startAt(clock);
+        std::vector<CHeadlineTable> table;
+        return backEnd.BKQNEWS_iGetHeadlineTable(1, table, 1, u"1"_s);
+    };
+    EXPECT_EQ(ofCategory(at(12, 0)), 4);
+    EXPECT_EQ(ofCategory(at(12, 0) - 2 * day), 1);
+    EXPECT_EQ(ofCategory(at(12, 0) + 300 * day), 1);
+    EXPECT_EQ(StoreChecker(store->path()).check().value(), QStringList{});
 }
 
 TEST_F(LiveNewsTest, AStoryCanComeAfterItsHeadlineAndChange) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "backend/store/embedded_back_end.h"
+#include "backend/store/store_checker.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "terminal/feed/live_feed.h"
@@ -41,6 +42,16 @@ protected:
         return QStringList{u"live"_s, u"reconnecting"_s, u"offline"_s}.at(state.kind) +
                (state.late > 0 ? u" %1 late"_s.arg(state.late) : QString());
     }
+    std::unique_ptr<EmbeddedBackEnd> open() {
+        std::unique_ptr<Database> opened = std::move(openStore(store).value());
+        database = opened.get();
+        return std::make_unique<EmbeddedBackEnd>(std::move(opened));
+    }
+    // The store and what stands beside it.
+    void moveStore(const QString& from, const QString& to) {
+        for (const QString& ending : {u""_s, u"-wal"_s, u"-shm"_s})
+            ASSERT_TRUE(QFile::rename(from + ending, to + ending));
+    }
     // `local` is a local time.
     void put(const QString& name, const QString& title, const QString& local) {
         QFile file(folder.filePath(u"spool/"_s + name));
@@ -57,8 +68,14 @@ protected:
     }
 
     QTemporaryDir folder;
+    int newsOfTheDay() {
+        std::vector<CHeadlineTable> table;
+        return backEnd->BKQNEWS_iGetHeadlineTable(1, table, 0, u"20260302"_s);
+    }
+
     QString store = folder.filePath(u"news.db"_s);
-    std::unique_ptr<EmbeddedBackEnd> backEnd = std::move(EmbeddedBackEnd::open(store).value());
+    Database* database = nullptr;  // the back end's own
+    std::unique_ptr<EmbeddedBackEnd> backEnd = open();
     Listener listener;
     std::unique_ptr<LiveFeed> feed;
     QStringList states;
@@ -107,6 +124,71 @@ TEST_F(LiveFeedStatesTest, AStoreThatAnotherProgramKeepsBusyStopsNeitherTheWindo
     EXPECT_TRUE(hears(u"Waits for the other"_s));
     EXPECT_TRUE(becomes(FeedState::Live));
     EXPECT_EQ(feed->state().trouble, QString());
+}
+
+// The same answer as a full disk gives.
+TEST_F(LiveFeedStatesTest, AFullDiskStopsTheFeedUntilThereIsRoomAgain) {
+    put(u"a"_s, u"Before"_s, u"2026-03-02T11:00:00"_s);
+    EXPECT_TRUE(hears(u"Before"_s));
+    std::int64_t pages = 0;
+    ASSERT_TRUE(database->readNumber("PRAGMA page_count", pages));
+    ASSERT_TRUE(database->execute(("PRAGMA max_page_count = " + std::to_string(pages)).c_str()));
+    for (int i = 0; i < 20; ++i)
+        put(u"b%1"_s.arg(i), u"Waits for room "_s + QString(8000, u'x'), u"2026-03-02T11:30:00"_s);
+    EXPECT_TRUE(becomes(FeedState::Reconnecting));
+    EXPECT_TRUE(feed->state().trouble.contains(u"the disk is full"_s)) << feed->state().trouble.toStdString();
+    // What was taken before it was full is told; the rest waits, whole, and nothing stands half in the store.
+    const auto waiting = QDir(folder.filePath(u"spool"_s)).entryList(QDir::Files).size();
+    EXPECT_GT(waiting, 0);
+    EXPECT_EQ(newsOfTheDay(), 21 - waiting);
+    EXPECT_EQ(StoreChecker(store).check().value(), QStringList{});
+
+    ASSERT_TRUE(database->execute("PRAGMA max_page_count = 1000000"));
+    EXPECT_TRUE(becomes(FeedState::Live));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return newsOfTheDay() == 21 && feed->isIdle(); }, 10000));
+    EXPECT_EQ(listener.heard.filter(u"headline"_s).size(), 21);
+    EXPECT_EQ(StoreChecker(store).check().value(), QStringList{});
+}
+
+TEST_F(LiveFeedStatesTest, AStoreThatIsTakenAwayTakesNoNewsWithIt) {
+    put(u"a"_s, u"Before"_s, u"2026-03-02T11:00:00"_s);
+    EXPECT_TRUE(hears(u"Before"_s));
+    moveStore(store, folder.filePath(u"elsewhere.db"_s));
+    EXPECT_TRUE(becomes(FeedState::Reconnecting)) << "though nothing came";
+    EXPECT_TRUE(feed->state().trouble.contains(u"was moved or deleted"_s))
+        << feed->state().trouble.toStdString();
+    put(u"b"_s, u"Comes meanwhile"_s, u"2026-03-02T11:30:00"_s);
+    NewsItem item;
+    item.title = u"By hand"_s;
+    EXPECT_FALSE(backEnd->takeIn(item));
+    EXPECT_EQ(newsOfTheDay(), 1) << "what is there can be read";
+    QTest::qWait(600);  // longer than the feed's period
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"spool/b"_s)));
+
+    moveStore(folder.filePath(u"elsewhere.db"_s), store);
+    EXPECT_TRUE(hears(u"Comes meanwhile"_s));
+    EXPECT_TRUE(becomes(FeedState::Live));
+
+    for (const QString& ending : {u""_s, u"-wal"_s, u"-shm"_s})
+        ASSERT_TRUE(QFile::remove(store + ending));
+    EXPECT_TRUE(becomes(FeedState::Reconnecting));
+    put(u"c"_s, u"Too late"_s, u"2026-03-02T11:40:00"_s);
+    QTest::qWait(600);
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"spool/c"_s)));
+    EXPECT_EQ(newsOfTheDay(), 2);
+}
+
+TEST_F(LiveFeedStatesTest, AClockThatIsSetBackStartsNoDayTwice) {
+    host_clock::startAt(moment(u"2026-03-04T09:00:00"_s));
+    put(u"a"_s, u"Too early"_s, u"2026-03-04T08:59:00"_s);
+    EXPECT_TRUE(hears(u"day 20260304"_s));
+    host_clock::startAt(moment(u"2026-03-03T09:00:00"_s));
+    put(u"b"_s, u"Set back"_s, u"2026-03-03T08:59:00"_s);
+    EXPECT_TRUE(hears(u"Set back"_s));
+    host_clock::startAt(moment(u"2026-03-04T09:00:00"_s));
+    put(u"c"_s, u"The day itself"_s, u"2026-03-04T08:59:30"_s);
+    EXPECT_TRUE(hears(u"The day itself"_s));
+    EXPECT_EQ(listener.heard.filter(u"day 2026"_s), QStringList{u"day 20260304 of 1"_s});
 }
 
 TEST_F(LiveFeedStatesTest, TheFirstNewsOfANewDayStartsItOnce) {
