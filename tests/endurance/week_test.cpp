@@ -58,7 +58,7 @@ protected:
 
     // All headlines of the day in batches of one transaction each; a few breaks, in which hands go on.
     void liveThroughTheDay() {
-        const int batch = std::clamp(perDay / 200, 10, 500);
+        const int batch = std::clamp(perDay / 200, 20, 500);
         const int batches = perDay / batch;
         EmbeddedBackEnd& backEnd = session->BackEnd();
         int offlineFor = 0;
