@@ -3,6 +3,7 @@
 #include "news_view/control_set.h"
 
 #include "headline_list/language_keys.h"
+#include "host/controls/plain_caption.h"
 #include "host/controls/quote_combo_box_auto.h"
 #include "host/controls/s_button.h"
 #include "host/controls/s_date_time_ctrl.h"
@@ -182,9 +183,10 @@ void ControlSet::vSetFont(const QFont& font) {
 }
 
 void ControlSet::vLoadLanguageString() {
+    // Several views share a window, in which no key can stand for a button of each: they have shortcuts.
     for (const ButtonText& text : buttonTexts) {
         if (auto* button = Find<SButton>(text.id))
-            button->setText(LangText(backEnd, text.key));
+            button->setText(CaptionWithoutKey(LangText(backEnd, text.key)));
     }
     for (const ButtonText& name : controlNames) {
         QWidget* control = controls.value(name.id);

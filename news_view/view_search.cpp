@@ -120,7 +120,9 @@ void TRVNewsCtrlView::vShowFound(ListIndex index, bool selectFirst) {
         statusText.clear();
     else if (selectFirst)
         list.pGetGrid()->vSetActiveSelection(0, -1);
-    if (currentMode == static_cast<int>(index))
+    // An answer opens no window; one that is open follows the rows.
+    const bool isStoryAsked = !selectFirst || bPaneShowsStories() || list.Table().empty();
+    if (currentMode == static_cast<int>(index) && (isStoryAsked || pStoryDialogOnShow() != nullptr))
         OnShowStory();
 }
 

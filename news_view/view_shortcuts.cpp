@@ -149,10 +149,9 @@ void TRVNewsCtrlView::vOpenSearchOfMode() {
 
 void TRVNewsCtrlView::vOpenCalendar() {
     auto* picker = controls.Find<SDateTimeCtrl>(ids::datePicker);
-    if (picker == nullptr || !bGoToMode(ListIndex::All))
-        return;
-    picker->setFocus(Qt::ShortcutFocusReason);
-    picker->vDropDown();
+    // The keyboard is the calendar's while it is open, and is back where it was afterwards.
+    if (picker != nullptr && bGoToMode(ListIndex::All))
+        picker->vDropDown();
 }
 
 // From the list to the story beside it, to the quotes of its symbols, and back to the list.

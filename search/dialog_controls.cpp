@@ -62,13 +62,15 @@ QLayout* AddEnd(QDialog* dialog, QPushButton* ok) {
     return row;
 }
 
-int RunOver(QDialog* dialog, QDialog* child) {
-    const QPointer<QDialog> alive(dialog);
+int RunOver(QWidget* below, QDialog* child) {
+    const QPointer<QWidget> alive(below);
     const int result = child->exec();
+    if (below == nullptr)
+        return result;
     if (alive.isNull())
         return QDialog::Rejected;
     // Not every window system gives the keyboard back by itself.
-    dialog->activateWindow();
+    below->activateWindow();
     return result;
 }
 

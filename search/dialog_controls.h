@@ -34,9 +34,9 @@ QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* ca
 // when all other controls are there.
 QLayout* AddEnd(QDialog* dialog, QPushButton* ok);
 
-// Runs a dialog over another one, which gets the keyboard back. Its result; QDialog::Rejected when the dialog
-// below is gone by then, and `child` with it.
-int RunOver(QDialog* dialog, QDialog* child);
+// Runs a dialog over a window or a part of it, which gets the keyboard back. Its result; QDialog::Rejected
+// when what is below is gone by then, and `child` with it. Below may be nothing.
+int RunOver(QWidget* below, QDialog* child);
 // Asks the user a question. True for Yes; false also when the dialog is gone by then.
 bool AskYesNo(QDialog* dialog, const QString& question);
 // Tells the user why nothing happened.

@@ -65,7 +65,7 @@ KeywordEntryDlg::KeywordEntryDlg(KeywordList conditionKeywords, KeywordList keyw
       removeAll(removing) {}
 
 int KeywordEntryDlg::DoModal() {
-    return exec() == Accepted ? idOk : idCancel;
+    return RunOver(parentWidget(), this) == Accepted ? idOk : idCancel;
 }
 
 void KeywordEntryDlg::OnOK() {

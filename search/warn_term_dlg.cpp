@@ -49,7 +49,7 @@ CWarnTermDlg::CWarnTermDlg(const WarningItems& items, const CSearch& inForce, QW
 }
 
 int CWarnTermDlg::DoModal() {
-    return exec() == Accepted ? search_ids::ok : search_ids::cancel;
+    return RunOver(parentWidget(), this) == Accepted ? search_ids::ok : search_ids::cancel;
 }
 
 void CWarnTermDlg::vCreateList() {

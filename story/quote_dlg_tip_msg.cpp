@@ -25,6 +25,14 @@ constexpr int verticalRoom = 8;
 constexpr int keepPlace = -1;
 constexpr QPoint placeForOrigin(2, 2);  // a tip at (0, 0) would hide its window's corner
 
+// Right after a dialog no window is active, until the one below it is again.
+bool isOfActiveWindow(const QWidget* widget) {
+    const QWidget* active = QApplication::activeWindow();
+    if (active == nullptr)
+        return widget != nullptr && QGuiApplication::applicationState() == Qt::ApplicationActive;
+    return widget == nullptr || widget->window() == active->window();
+}
+
 }  // namespace
 
 CQuoteDlgTipMsg::CQuoteDlgTipMsg(QWidget* parent) : QWidget(parent) {
@@ -72,8 +80,7 @@ void CQuoteDlgTipMsg::vFitToText() {
 }
 
 void CQuoteDlgTipMsg::vShow(QWidget* parent, int top, int left, bool toTheLeft) {
-    const QWidget* active = QApplication::activeWindow();
-    if (label == nullptr || active == nullptr || (parent != nullptr && parent->window() != active->window()))
+    if (label == nullptr || !isOfActiveWindow(parent))
         return;
     label->vSetColors(textColour, backColour);
     if (top != keepPlace && left != keepPlace)

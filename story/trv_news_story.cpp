@@ -84,6 +84,8 @@ void TRVNewsStory::vCreateButtons() {
 void TRVNewsStory::vLoadLanguageString() {
     BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
     setWindowTitle(LangText(backEnd, keys::storyDialogTitle));
+    titleEdit->setAccessibleName(LangText(backEnd, keys::title));
+    storyEdit->setAccessibleName(LangText(backEnd, keys::nameOfStory));
     for (std::size_t i = 0; i < buttons.size(); ++i)
         buttons[i]->setText(LangText(backEnd, storyButtons[i].textKey));
     vLayOut();

@@ -11,3 +11,13 @@ QString NameOfCaption(QString caption) {
         caption.remove(mark, 1);
     return caption;
 }
+
+QString CaptionWithoutKey(QString caption) {
+    qsizetype mark = caption.indexOf(u'&');
+    while (mark >= 0 && caption.mid(mark + 1, 1) == u'&')
+        mark = caption.indexOf(u'&', mark + 2);
+    if (mark < 0)
+        return caption;
+    const bool added = mark > 0 && caption.at(mark - 1) == u'(' && caption.mid(mark + 2, 1) == u')';
+    return added ? caption.remove(mark - 1, 4) : caption.remove(mark, 1);
+}

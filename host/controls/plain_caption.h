@@ -8,3 +8,6 @@
 // is shown, and read back what is shown: a mark alone is not.
 QString CaptionOfName(QString name);
 QString NameOfCaption(QString caption);
+// The caption where it shall offer no key: without the mark ("&Print"), or what was added for it
+// ("列印(&P)").
+QString CaptionWithoutKey(QString caption);

@@ -41,9 +41,11 @@ bool QuoteTRVChangeSymbol::Create() {
     setWindowTitle(text(u"IDS_DIALOG-CHANGE-SYMBOL_TITLE"_s));
     search = new QLineEdit(this);
     search->setPlaceholderText(text(u"IDS_DIALOG-CHANGE-SYMBOL_HINT"_s));
+    search->setAccessibleName(search->placeholderText());
     search->setClearButtonEnabled(true);
     search->installEventFilter(this);
     tree = new QTreeWidget(this);
+    tree->setAccessibleName(windowTitle());
     tree->setHeaderHidden(true);
     tree->setColumnCount(2);
     tree->setUniformRowHeights(true);

@@ -7,6 +7,7 @@
 
 #include <QFocusEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 
@@ -126,6 +127,14 @@ QModelIndex CSuperSheetWnd::moveCursor(CursorAction action, Qt::KeyboardModifier
         default:
             return QTableView::moveCursor(action, modifiers);
     }
+}
+
+void CSuperSheetWnd::keyPressEvent(QKeyEvent* event) {
+    // The item view would copy the current cell also where there is none.
+    if (event->matches(QKeySequence::Copy) && !currentIndex().isValid())
+        event->ignore();
+    else
+        QTableView::keyPressEvent(event);
 }
 
 void CSuperSheetWnd::focusInEvent(QFocusEvent* event) {

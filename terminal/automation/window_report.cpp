@@ -14,8 +14,8 @@
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTabBar>
-#include <QTextEdit>
 
 #include <algorithm>
 
@@ -89,7 +89,7 @@ QJsonObject contentReport(const QWidget& control) {
     if (const auto* list = qobject_cast<const QAbstractItemView*>(&control);
         list != nullptr && qobject_cast<const CSuperSheetWnd*>(&control) == nullptr)
         return listReport(*list);
-    if (const auto* text = qobject_cast<const QTextEdit*>(&control))
+    if (const auto* text = qobject_cast<const QPlainTextEdit*>(&control))
         return {{u"text"_s, text->toPlainText()}};
     return {};
 }

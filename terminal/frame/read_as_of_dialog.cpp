@@ -22,6 +22,7 @@ ReadAsOfDialog::ReadAsOfDialog(QWidget* parent) : QDialog(parent) {
     explanation->setTextFormat(Qt::PlainText);
     explanation->setWordWrap(true);
     edit = new QDateTimeEdit(QDateTime::fromSecsSinceEpoch(host_clock::now()));
+    edit->setAccessibleName(windowTitle());
     edit->setCalendarPopup(true);
     edit->setDisplayFormat(u"yyyy/MM/dd HH:mm"_s);
     QDialogButtonBox* buttons = dialogButtons(*this);

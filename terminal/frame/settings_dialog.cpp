@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/settings_dialog.h"
 
+#include "host/controls/plain_caption.h"
 #include "terminal/frame/dialog_buttons.h"
 #include "terminal/translations/terminal_text.h"
 
@@ -38,17 +39,12 @@ QLayout* indented(QLabel* label) {
     return row;
 }
 
-QString withoutMnemonic(QString text) {
-    static const QString trailing = u"(&"_s;  // "深色(&D)"
-    const qsizetype at = text.indexOf(trailing);
-    return at >= 0 ? text.left(at) : text.remove(u'&');
-}
-
 }  // namespace
 
 SettingsDialog::SettingsDialog(const TerminalChoices& present, QWidget* parent) : QDialog(parent) {
     setWindowTitle(terminalText(TextId::SettingsTitle));
     auto* pages = new QTabWidget;
+    pages->setAccessibleName(windowTitle());
     pages->addTab(generalPage(present), terminalText(TextId::SettingsGeneral));
     pages->addTab(newsPage(present), terminalText(TextId::SettingsNews));
     QDialogButtonBox* buttons = dialogButtons(*this);
@@ -69,7 +65,7 @@ QWidget* SettingsDialog::generalPage(const TerminalChoices& present) {
     scheme = new QComboBox;
     for (const auto& [text, value] : {std::pair(TextId::SchemeLight, ColourScheme::Light),
                                       std::pair(TextId::SchemeDark, ColourScheme::Dark)})
-        scheme->addItem(withoutMnemonic(terminalText(text)), static_cast<int>(value));
+        scheme->addItem(CaptionWithoutKey(terminalText(text)), static_cast<int>(value));
     scheme->setCurrentIndex(scheme->findData(static_cast<int>(present.scheme)));
     fontSize = new QSpinBox;
     fontSize->setRange(TerminalSettings::smallestFont, TerminalSettings::largestFont);

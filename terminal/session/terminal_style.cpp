@@ -4,6 +4,8 @@
 
 #include "terminal/session/indicators.h"
 
+#include <QApplication>
+#include <QFrame>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -51,6 +53,14 @@ void drawEditFrame(const QStyleOption& option, QPainter& painter) {
     painter.restore();
 }
 
+// Around a text or a list.
+void drawFrame(const QStyleOption& option, QPainter& painter) {
+    const bool focused = option.state.testFlag(QStyle::State_HasFocus);
+    painter.setPen(option.palette.color(focused ? QPalette::Highlight : QPalette::Mid));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+}
+
 // A tab of a strip at the top of what it belongs to.
 void drawTab(const QStyleOption& option, QPainter& painter) {
     const bool selected = option.state.testFlag(QStyle::State_Selected);
@@ -85,7 +95,15 @@ void drawArrow(const QStyle& style, const QStyleOption& option, const QRect& pla
 
 }  // namespace
 
-TerminalStyle::TerminalStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
+TerminalStyle::TerminalStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {
+    // What scrolls draws its contents anew when the keyboard comes or goes, not its frame.
+    connect(qApp, &QApplication::focusChanged, this, [](QWidget* old, QWidget* now) {
+        for (QWidget* widget : {old, now}) {
+            if (auto* framed = qobject_cast<QFrame*>(widget))
+                framed->update();
+        }
+    });
+}
 
 int TerminalStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     switch (metric) {
@@ -143,6 +161,8 @@ void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
             break;
         case PE_Frame:
+            drawFrame(*option, *painter);
+            break;
         case PE_FrameMenu:
             painter->setPen(option->palette.color(QPalette::Mid));
             painter->setBrush(Qt::NoBrush);

@@ -209,19 +209,19 @@
     </message>
     <message id="IDS_DIALOG-STORY_NEXT_BUTTON">
         <source></source>
-        <translation>Next</translation>
+        <translation>&amp;Next</translation>
     </message>
     <message id="IDS_DIALOG-STORY_PREV_BUTTON">
         <source></source>
-        <translation>Prev</translation>
+        <translation>Pre&amp;v</translation>
     </message>
     <message id="IDS_DIALOG-STORY_PRINT">
         <source></source>
-        <translation>Print</translation>
+        <translation>&amp;Print</translation>
     </message>
     <message id="IDS_DIALOG-STORY_SAVEAS">
         <source></source>
-        <translation>Save As</translation>
+        <translation>&amp;Save As</translation>
     </message>
     <message id="IDS_DIALOG-STORY_TITLE">
         <source></source>
@@ -693,7 +693,7 @@
     </message>
     <message id="TERMINAL_NEW_SYMBOL_VIEW">
         <source></source>
-        <translation>New &amp;symbol view</translation>
+        <translation>New sy&amp;mbol view</translation>
     </message>
     <message id="TERMINAL_NEW_VIEW">
         <source></source>
@@ -729,7 +729,7 @@
     </message>
     <message id="TERMINAL_READ_AS_OF_NOW">
         <source></source>
-        <translation>Present</translation>
+        <translation>&amp;Present</translation>
     </message>
     <message id="TERMINAL_READ_AS_OF_TITLE">
         <source></source>
@@ -765,7 +765,7 @@
     </message>
     <message id="TERMINAL_SETTINGS">
         <source></source>
-        <translation>&amp;Settings…</translation>
+        <translation>S&amp;ettings…</translation>
     </message>
     <message id="TERMINAL_SETTINGS_BOTH_SEARCHES">
         <source></source>

@@ -209,19 +209,19 @@
     </message>
     <message id="IDS_DIALOG-STORY_NEXT_BUTTON">
         <source></source>
-        <translation>下一条</translation>
+        <translation>下一条(&amp;N)</translation>
     </message>
     <message id="IDS_DIALOG-STORY_PREV_BUTTON">
         <source></source>
-        <translation>上一条</translation>
+        <translation>上一条(&amp;V)</translation>
     </message>
     <message id="IDS_DIALOG-STORY_PRINT">
         <source></source>
-        <translation>打印</translation>
+        <translation>打印(&amp;P)</translation>
     </message>
     <message id="IDS_DIALOG-STORY_SAVEAS">
         <source></source>
-        <translation>另存</translation>
+        <translation>另存(&amp;S)</translation>
     </message>
     <message id="IDS_DIALOG-STORY_TITLE">
         <source></source>
@@ -693,7 +693,7 @@
     </message>
     <message id="TERMINAL_NEW_SYMBOL_VIEW">
         <source></source>
-        <translation>新建个股新闻窗口(&amp;S)</translation>
+        <translation>新建个股新闻窗口(&amp;M)</translation>
     </message>
     <message id="TERMINAL_NEW_VIEW">
         <source></source>
@@ -729,7 +729,7 @@
     </message>
     <message id="TERMINAL_READ_AS_OF_NOW">
         <source></source>
-        <translation>当前时间</translation>
+        <translation>当前时间(&amp;N)</translation>
     </message>
     <message id="TERMINAL_READ_AS_OF_TITLE">
         <source></source>
@@ -749,7 +749,7 @@
     </message>
     <message id="TERMINAL_SAVE_NEWS">
         <source></source>
-        <translation>另存新闻(&amp;A)…</translation>
+        <translation>另存新闻(&amp;S)…</translation>
     </message>
     <message id="TERMINAL_SCHEME_DARK">
         <source></source>
@@ -765,7 +765,7 @@
     </message>
     <message id="TERMINAL_SETTINGS">
         <source></source>
-        <translation>设置(&amp;S)…</translation>
+        <translation>设置(&amp;E)…</translation>
     </message>
     <message id="TERMINAL_SETTINGS_BOTH_SEARCHES">
         <source></source>

@@ -4,13 +4,16 @@
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/s_date_time_ctrl.h"
 #include "news_view/control_ids.h"
+#include "story/trv_news_story.h"
 #include "tests/news_view/view_fixture.h"
+#include "tests/support/accessible_names.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
@@ -36,24 +39,13 @@ protected:
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
 
-    // Every control that the keyboard reaches has a role and a name; those that were seen are counted.
-    static int checkNames(QAccessibleInterface* of) {
-        int seen = 0;
-        const QAccessible::State state = of->state();
-        if (state.focusable && !state.invisible) {
-            ++seen;
-            EXPECT_NE(of->role(), QAccessible::NoRole);
-            EXPECT_FALSE(of->text(QAccessible::Name).isEmpty())
-                << of->object()->metaObject()->className() << " role " << of->role();
-        }
-        if (of->role() == QAccessible::Table)
-            return seen;
-        for (int i = 0; i < of->childCount(); ++i) {
-            QAccessibleInterface* child = of->child(i);
-            if (child != nullptr && child->object() != nullptr)
-                seen += checkNames(child);
-        }
-        return seen;
+    // Turns the wheel over a place of the view that is no control's.
+    void turnWheel(const QPoint& angle) const {
+        const QPoint place(500, 2);
+        QWheelEvent wheel(place, view->mapToGlobal(place), {}, angle, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(view.get(), &wheel);
+        EXPECT_TRUE(wheel.isAccepted());
     }
 };
 
@@ -61,8 +53,12 @@ TEST_F(HandsOnTest, AScreenReaderFindsANameForEverything) {
     openWithNews(3, 2);
     for (const int shown : {0, 1, 2, 3, 5}) {
         view->SwitchFunction(shown);
-        EXPECT_GT(checkNames(QAccessible::queryAccessibleInterface(view.get())), 5) << shown;
+        EXPECT_GT(CheckAccessibleNames(*view), 5) << shown;
     }
+    auto* dialog = view->findChild<TRVNewsStory*>();
+    dialog->show();
+    EXPECT_EQ(CheckAccessibleNames(*dialog), 6) << "title, text and four buttons";
+    dialog->hide();
     view->SwitchFunction(0);
     QAccessibleInterface* table = QAccessible::queryAccessibleInterface(grid());
     ASSERT_NE(table->tableInterface(), nullptr);
@@ -123,14 +119,98 @@ TEST_F(HandsOnTest, ClicksShowTheStoryWhereItBelongs) {
 
 TEST_F(HandsOnTest, TheWheelTurnsTheListFromAnywhereInTheView) {
     openWithNews(60, 0, 0x01);
-    const QPoint place(500, 2);
-    for (int turn = 0; turn < 100; ++turn) {
-        QWheelEvent wheel(place, view->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(view.get(), &wheel);
-        EXPECT_TRUE(wheel.isAccepted());
-    }
+    for (int turn = 0; turn < 100; ++turn)
+        turnWheel({0, -120});
     EXPECT_EQ(grid()->verticalScrollBar()->value(), grid()->verticalScrollBar()->maximum());
+}
+
+TEST_F(HandsOnTest, ScrollingSidewaysGoesToTheListThatHasTheKeyboard) {
+    openWithNews(3, 0, 0x01);
+    grid()->vSetColWidth(grid()->model()->columnCount() - 1, 3000);
+    const QScrollBar* bar = grid()->horizontalScrollBar();
+    ASSERT_TRUE(QTest::qWaitFor([bar] { return bar->maximum() > 0; }));
+    GetDlgItem(view.get(), ids::datePicker)->setFocus();
+    turnWheel({-120, 0});
+    EXPECT_EQ(bar->value(), 0);
+    grid()->setFocus();
+    grid()->vSetActiveSelection(1, -1);
+    turnWheel({-120, 0});
+    EXPECT_GT(bar->value(), 0);
+    EXPECT_EQ(grid()->cptGetFocusNdx().y(), 1);
+    turnWheel({120, 0});
+    EXPECT_EQ(bar->value(), 0);
+}
+
+TEST_F(HandsOnTest, TheTitleIsTheHosts) {
+    // What the view leaves to its host, seen by the window around it.
+    class Seen : public QObject {
+    public:
+        bool eventFilter(QObject*, QEvent* event) override {
+            types.insert(event->type());
+            return false;
+        }
+        std::set<QEvent::Type> types;
+    } seen;
+    openWithNews(3, 0);
+    grid()->vSetActiveSelection(0, -1);
+    view->vSetTitleShown(true);
+    view->resize(990, 700);
+    const QPoint band(300, view->iGetTitleHeight() / 2);
+    ASSERT_EQ(view->childAt(band), nullptr);
+    frame.installEventFilter(&seen);
+    QTest::mouseClick(view.get(), Qt::LeftButton, {}, band);
+    QTest::mouseDClick(view.get(), Qt::LeftButton, {}, band);
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, band, view->mapToGlobal(band));
+    QApplication::sendEvent(view.get(), &menu);
+    for (const QEvent::Type type :
+         {QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick, QEvent::ContextMenu})
+        EXPECT_EQ(seen.types.count(type), 1U) << type;
+    EXPECT_FALSE(dialogVisible());
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_TRUE(view->OnContextMenu(view->mapToGlobal(QPoint(300, view->iGetTitleHeight()))));
+    QApplication::activePopupWidget()->close();
+}
+
+TEST_F(HandsOnTest, WhatClosesGivesTheKeyboardBack) {
+    openWithNews(3, 0);
+    const auto closeWaiting = [this] {
+        QTimer::singleShot(0, view.get(), [] { QApplication::activeModalWidget()->close(); });
+    };
+    struct Case {
+        const char* what;
+        int mode;
+        int holder;  // the control that has the keyboard; 0: the list
+        Qt::Key opens;
+        Qt::KeyboardModifiers held;
+    };
+    const Case cases[] = {
+        {"the menu of services", 0, 0, Qt::Key_F7, {}},
+        {"the context menu", 0, 0, Qt::Key_Menu, {}},
+        {"the calendar", 0, 0, Qt::Key_F8, {}},
+        {"the calendar over its line", 0, ids::datePicker, Qt::Key_F8, {}},
+        {"a window of a story", 0, 0, Qt::Key_Return, {}},
+        {"a search dialog", 3, 0, Qt::Key_F3, Qt::ShiftModifier},
+        {"a search dialog over the search box", 3, ids::searchEdit, Qt::Key_F3, Qt::ShiftModifier},
+    };
+    for (const Case& c : cases) {
+        view->SwitchFunction(c.mode);
+        QWidget* holder = c.holder == 0 ? grid() : GetDlgItem(view.get(), c.holder);
+        grid()->vSetActiveSelection(0, -1);
+        holder->setFocus();
+        if (c.mode == 3)
+            closeWaiting();
+        hit(c.opens, c.held);
+        if (QWidget* popup = QApplication::activePopupWidget()) {
+            QTest::keyClick(popup, Qt::Key_Escape);
+        } else if (auto* story = view->findChild<TRVNewsStory*>(); story->isVisible()) {
+            story->activateWindow();
+            QTest::keyClick(story, Qt::Key_Escape);
+        } else {
+            EXPECT_EQ(c.mode, 3) << c.what << " did not open";
+        }
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << c.what;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == holder; })) << c.what;
+    }
 }
 
 TEST_F(HandsOnTest, TheStoryScrollsByItsKeys) {

@@ -200,6 +200,10 @@ TEST_F(KeysTest, PageButtonsGoRoundAndRound) {
 
 TEST_F(KeysTest, SelectedRowsAreCopiedAlsoThoseOffScreen) {
     openWithNews(1);
+    QApplication::clipboard()->setText(u"kept"_s);
+    grid()->vClearSelection();
+    QTest::keyClick(grid(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"kept"_s) << "no row is selected";
     QTest::keyClick(grid(), Qt::Key_Home);
     QTest::keyClick(grid(), Qt::Key_Down, Qt::ShiftModifier);
     QTest::keyClick(grid(), Qt::Key_C, Qt::ControlModifier);

@@ -190,6 +190,7 @@ TEST_F(Searches, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
     runDialog([](CAdvSearchDlg& dialog) { press(dialog, search_ids::ok); });
     EXPECT_EQ(shortTip(), invalid) << "without keywords";
     EXPECT_EQ(sent(), QStringList());
+    qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit))->setText(u"gold"_s);
     runDialog([](CAdvSearchDlg& dialog) {
         addKeyword(dialog, u"gold"_s);
         addKeyword(dialog, u"oil"_s);
@@ -197,6 +198,8 @@ TEST_F(Searches, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
         press(dialog, search_ids::ok);
     });
     EXPECT_EQ(sent(), (QStringList{u"search 1 3 2/2 gold|oil"_s, u"search 2 3 2/2 gold|oil"_s}));
+    EXPECT_EQ(pending(), (QList<int>{1, 2}));
+    EXPECT_EQ(tip(), searching + u" gold oil"_s);
     quickSearch(u"silver"_s);
     sent();
     EXPECT_EQ(pending(), (QList<int>{1, 2}));
@@ -226,6 +229,19 @@ TEST_F(Searches, TheStoryOfAResultHasItsKeywordsMarked) {
     backEnd.searchTables.clear();
     view->RespSearchHeadLineTable(quick(u"GOLD"_s), 1);
     EXPECT_EQ(story().szGetText(), QString()) << "nothing was found";
+}
+
+TEST_F(Searches, AnAnswerOpensNoWindowOfAStory) {
+    openSearch({{u"NewsShowType"_s, 0}});
+    quickSearch(u"gold"_s);
+    backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
+    view->RespSearchHeadLineTable(quick(u"gold"_s), 1);
+    EXPECT_FALSE(view->StoryState(true)[u"visible"_s].toBool());
+    view->OnCommand(ids::showStory);
+    EXPECT_TRUE(view->StoryState(true)[u"title"_s].toString().endsWith(u"s1 9:00"_s));
+    backEnd.searchTables[2] = {entryOf(2, 9, 10, 1)};
+    view->RespSearchHeadLineTable(quick(u"gold"_s), 2);
+    EXPECT_TRUE(view->StoryState(true)[u"title"_s].toString().endsWith(u"s2 9:10"_s)) << "as the rows do";
 }
 
 TEST_F(Searches, ASymbolOfALinkedViewNarrowsTheSearch) {
