@@ -21,8 +21,9 @@ CHeadlineTable entryOf(const HeadlineKey& key) {
 
 }  // namespace
 
-Result<std::unique_ptr<EmbeddedBackEnd>> EmbeddedBackEnd::open(const QString& storePath) {
-    Result<std::unique_ptr<Database>> store = openStore(storePath);
+Result<std::unique_ptr<EmbeddedBackEnd>> EmbeddedBackEnd::open(const QString& storePath,
+                                                               const IndexProgress& onIndexing) {
+    Result<std::unique_ptr<Database>> store = openStore(storePath, {.onIndexing = onIndexing});
     if (!store)
         return Error{store.error()};
     return std::make_unique<EmbeddedBackEnd>(std::move(store.value()));

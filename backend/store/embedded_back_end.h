@@ -12,6 +12,7 @@
 #include "backend/store/quote_book.h"
 #include "backend/store/quote_desk.h"
 #include "backend/store/request_log.h"
+#include "backend/store/search_rules.h"
 #include "backend/store/simplified_chinese.h"
 #include "backend/store/store_reader.h"
 #include "backend/store/store_writer.h"
@@ -52,7 +53,8 @@ namespace wirepane {
 class EmbeddedBackEnd : public BKQuoteInterface, public FeedSink {
 public:
     // Opens the store, or makes it (see openStore).
-    static Result<std::unique_ptr<EmbeddedBackEnd>> open(const QString& storePath);
+    static Result<std::unique_ptr<EmbeddedBackEnd>> open(const QString& storePath,
+                                                         const IndexProgress& onIndexing = {});
     explicit EmbeddedBackEnd(std::unique_ptr<Database> store);
 
     // How long begin() waits for another program that is writing. At first: five seconds.

@@ -5,7 +5,32 @@
 #include "backend/search/character_folding.h"
 #include "backend/store/statement.h"
 
+#include <algorithm>
+
 namespace wirepane {
+
+namespace {
+
+constexpr std::int64_t headlinesAtOnce = 2000;
+
+bool fillIndex(Database& database, const IndexProgress& progress) {
+    std::int64_t last = 0;
+    if (!database.readNumber("SELECT coalesce(max(id), 0) FROM headlines", last))
+        return false;
+    Statement fill(database,
+                   "INSERT INTO news_search(rowid, title, story) SELECT id, title, story FROM news_text "
+                   "WHERE id > ? AND id <= ?");
+    for (std::int64_t done = 0; done < last; done += headlinesAtOnce) {
+        const std::int64_t end = std::min(done + headlinesAtOnce, last);
+        if (!Query(fill, done, end).run())
+            return false;
+        if (progress)
+            progress(end, last);
+    }
+    return true;
+}
+
+}  // namespace
 
 bool hasPresentSearchRules(Database& database) {
     std::int64_t fingerprint = 0;
@@ -13,8 +38,10 @@ bool hasPresentSearchRules(Database& database) {
            fingerprint == CharacterFolding::instance().fingerprint();
 }
 
-bool rebuildSearchIndex(Database& database) {
-    if (!database.execute("DELETE FROM search_rules; INSERT INTO news_search(news_search) VALUES('rebuild')"))
+bool rebuildSearchIndex(Database& database, const IndexProgress& progress) {
+    if (!database.execute(
+            "DELETE FROM search_rules; INSERT INTO news_search(news_search) VALUES('delete-all')") ||
+        !fillIndex(database, progress))
         return false;
     Statement note(database, "INSERT INTO search_rules(fingerprint) VALUES(?)");
     return Query(note, CharacterFolding::instance().fingerprint()).run();

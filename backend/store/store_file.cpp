@@ -5,7 +5,6 @@
 #include "backend/search/character_folding.h"
 #include "backend/store/migrations.h"
 #include "backend/store/schema.h"
-#include "backend/store/search_rules.h"
 #include "backend/store/store_defaults.h"
 #include "backend/store/transaction.h"
 
@@ -24,7 +23,7 @@ bool setUp(Database& database) {
                "16777216");
 }
 
-bool bringUpToDate(Database& database) {
+bool bringUpToDate(Database& database, const IndexProgress& onIndexing) {
     std::int64_t version = 0;
     if (!database.readNumber("PRAGMA user_version", version))
         return false;
@@ -35,7 +34,8 @@ bool bringUpToDate(Database& database) {
     if (!transaction.hasBegun() || !database.readNumber("PRAGMA user_version", version))
         return false;
     return migrate(database, storeMigrations()) && (version > 0 || addDefaults(database)) &&
-           (hasPresentSearchRules(database) || rebuildSearchIndex(database)) && transaction.commit();
+           (hasPresentSearchRules(database) || rebuildSearchIndex(database, onIndexing)) &&
+           transaction.commit();
 }
 
 }  // namespace
@@ -75,7 +75,7 @@ Result<std::unique_ptr<Database>> openStore(const QString& path, const StoreOpti
         return *fault;
     if (database.isReadOnly())
         return Error{u"%1 cannot be written to: the file or its folder is read-only."_s.arg(database.path())};
-    if (!setUp(database) || !bringUpToDate(database))
+    if (!setUp(database) || !bringUpToDate(database, options.onIndexing))
         return Error{database.failure()};
     database.setCheckpointOnClose(true);
     return opened;

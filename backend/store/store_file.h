@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/store/database.h"
+#include "backend/store/search_rules.h"
 
 #include <chrono>
 #include <optional>
@@ -12,6 +13,9 @@ namespace wirepane {
 struct StoreOptions {
     // How long to wait for another program that is writing.
     std::chrono::milliseconds busyTimeout{5000};
+    // A store that was made by another version may need its search index made anew, which takes some seconds
+    // for a hundred thousand stories. Called on the thread that opens.
+    IndexProgress onIndexing = {};
 };
 
 // Opens a news store for reading and writing, makes it when the file is absent or empty, and brings an older

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/console.h"
 
+#include <QElapsedTimer>
 #include <QtGlobal>
 
 #include <cstdio>
@@ -50,6 +51,18 @@ void printPassing(const QString& text) {
 void clearPassing() {
     if (errorIsTerminal())
         print(stderr, u"\r\033[K"_s);
+}
+
+std::function<void(std::int64_t done, std::int64_t total)> indexingLines() {
+    constexpr qint64 silentMs = 500;
+    QElapsedTimer started;
+    started.start();
+    return [started](std::int64_t done, std::int64_t total) {
+        if (done >= total)
+            clearPassing();
+        else if (started.elapsed() > silentMs)
+            printPassing(u"Making the search index anew: %1 %"_s.arg(done * 100 / total));
+    };
 }
 
 }  // namespace wirepane

@@ -4,6 +4,9 @@
 
 #include <QString>
 
+#include <cstdint>
+#include <functional>
+
 namespace wirepane {
 
 // A line on standard output, for results; on standard error, for everything else.
@@ -14,5 +17,8 @@ void printNote(const QString& text);
 void printPassing(const QString& text);
 // Makes room after passing lines.
 void clearPassing();
+
+// Shows in passing lines how far the search index of a store is made anew; nothing in the first half second.
+std::function<void(std::int64_t done, std::int64_t total)> indexingLines();
 
 }  // namespace wirepane

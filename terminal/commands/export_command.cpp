@@ -137,7 +137,7 @@ int runExport() {
         return *status;
     if (!QFileInfo::exists(arguments.storeFile()))
         return unusable(u"There is no store %1."_s.arg(QDir::toNativeSeparators(arguments.storeFile())));
-    const auto backEnd = openBackEnd(arguments.storeFile(), false);
+    const auto backEnd = openBackEnd(arguments.storeFile(), false, indexingLines());
     if (!backEnd)
         return unusable(backEnd.error());
     const QString language =

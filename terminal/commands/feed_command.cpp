@@ -106,7 +106,7 @@ private:
 };
 
 int feedStore(const QString& storeFile, unsigned char service, bool receipts) {
-    const auto store = openOrMakeStore(storeFile);
+    const auto store = openOrMakeStore(storeFile, indexingLines());
     if (!store) {
         printNote(store.error());
         return exitUnusable;

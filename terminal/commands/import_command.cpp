@@ -93,7 +93,7 @@ int runImport() {
         if (ImportJob* job = running)
             job->stop();
     });
-    const auto store = openOrMakeStore(arguments.storeFile());
+    const auto store = openOrMakeStore(arguments.storeFile(), indexingLines());
     if (!store) {
         printNote(store.error());
         return exitUnusable;

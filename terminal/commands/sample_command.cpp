@@ -52,7 +52,7 @@ int runSample() {
     if (const auto status = arguments.fault())
         return *status;
 
-    const auto store = openOrMakeStore(arguments.storeFile());
+    const auto store = openOrMakeStore(arguments.storeFile(), indexingLines());
     if (!store) {
         printNote(store.error());
         return exitUnusable;

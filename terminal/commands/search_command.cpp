@@ -82,7 +82,7 @@ int runSearch() {
         printNote(u"There is no store %1."_s.arg(QDir::toNativeSeparators(file)));
         return exitUnusable;
     }
-    const auto store = openStore(file);
+    const auto store = openStore(file, {.onIndexing = indexingLines()});
     if (!store) {
         printNote(store.error());
         return exitUnusable;

@@ -5,6 +5,7 @@
 #include "host/contract/clock.h"
 #include "terminal/feed/feed_name.h"
 #include "terminal/frame/symbol_box.h"
+#include "terminal/session/indexing_window.h"
 #include "terminal/session/module_location.h"
 #include "terminal/session/store_opening.h"
 #include "terminal/settings/module_files.h"
@@ -63,10 +64,9 @@ Result<std::unique_ptr<Session>> Session::open(const SessionOptions& options) {
 Done Session::start(const SessionOptions& options) {
     if (!QDir().mkpath(configFolder))
         return Error{u"The settings folder %1 cannot be made."_s.arg(configFolder)};
-    auto opened = openBackEnd(storeFile, options.sampleWhenNew);
-    if (!opened)
-        return Error{opened.error()};
-    store = std::move(opened.value());
+    const QString wanted = options.language.isEmpty() ? terminalSettings->language() : options.language;
+    if (const Done opened = openStore(options.sampleWhenNew, wanted); !opened)
+        return opened;
     store->setSysPath(configFolder);
     BKQuoteInterface::SetBKInterface(store.get());
     SearchControl::SetSearchObjInterface(&store->symbols());
@@ -77,7 +77,6 @@ Done Session::start(const SessionOptions& options) {
     const auto module = loadModule();
     if (!module)
         return Error{module.error()};
-    const QString wanted = options.language.isEmpty() ? terminalSettings->language() : options.language;
     if (!useLanguage(wanted))
         useLanguage(Languages::ofSystem());
     mainFrame = std::make_unique<MainFrame>();
@@ -94,6 +93,18 @@ Done Session::start(const SessionOptions& options) {
         mainFrame->showNotice(settingsFile.message());
     showStatus();
     showViews();
+    return Nothing{};
+}
+
+Done Session::openStore(bool sampleWhenNew, const QString& language) {
+    IndexingWindow window;
+    if (!languages.use(language))
+        languages.use(Languages::ofSystem());
+    auto opened = openBackEnd(storeFile, sampleWhenNew,
+                              [&window](std::int64_t done, std::int64_t total) { window.tell(done, total); });
+    if (!opened)
+        return Error{opened.error()};
+    store = std::move(opened.value());
     return Nothing{};
 }
 

@@ -88,6 +88,8 @@ private:
     explicit Session(const SessionOptions& options);
 
     Done start(const SessionOptions& options);
+    // In the language that the user is told of the progress in.
+    Done openStore(bool sampleWhenNew, const QString& language);
     void connectParts();
     Done startFeed(const SessionOptions& options);
     void prepareModuleFiles();

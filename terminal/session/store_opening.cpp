@@ -22,8 +22,8 @@ Done makeFolderOf(const QString& file) {
     return Nothing{};
 }
 
-Done fillWhenNew(const QString& storeFile) {
-    const auto database = openOrMakeStore(storeFile);
+Done fillWhenNew(const QString& storeFile, const IndexProgress& onIndexing) {
+    const auto database = openOrMakeStore(storeFile, onIndexing);
     if (!database)
         return Error{database.error()};
     std::int64_t hasNews = 0;
@@ -39,20 +39,21 @@ Done fillWhenNew(const QString& storeFile) {
 
 }  // namespace
 
-Result<std::unique_ptr<Database>> openOrMakeStore(const QString& storeFile) {
+Result<std::unique_ptr<Database>> openOrMakeStore(const QString& storeFile, const IndexProgress& onIndexing) {
     if (const Done folder = makeFolderOf(storeFile); !folder)
         return Error{folder.error()};
-    return openStore(storeFile);
+    return openStore(storeFile, {.onIndexing = onIndexing});
 }
 
-Result<std::unique_ptr<EmbeddedBackEnd>> openBackEnd(const QString& storeFile, bool sampleWhenNew) {
+Result<std::unique_ptr<EmbeddedBackEnd>> openBackEnd(const QString& storeFile, bool sampleWhenNew,
+                                                     const IndexProgress& onIndexing) {
     if (const Done folder = makeFolderOf(storeFile); !folder)
         return Error{folder.error()};
     if (sampleWhenNew) {
-        if (const Done filled = fillWhenNew(storeFile); !filled)
+        if (const Done filled = fillWhenNew(storeFile, onIndexing); !filled)
             return Error{filled.error()};
     }
-    return EmbeddedBackEnd::open(storeFile);
+    return EmbeddedBackEnd::open(storeFile, onIndexing);
 }
 
 }  // namespace wirepane

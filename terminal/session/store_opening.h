@@ -8,11 +8,15 @@
 
 namespace wirepane {
 
+// Where the search index of an older store is made anew meanwhile, `onIndexing` hears of it.
+
 // Opens a store for writing, which is made, with its folder, when it is absent.
-Result<std::unique_ptr<Database>> openOrMakeStore(const QString& storeFile);
+Result<std::unique_ptr<Database>> openOrMakeStore(const QString& storeFile,
+                                                  const IndexProgress& onIndexing = {});
 
 // Opens the back end over a store, which is made, with its folder, when it is absent. With `sampleWhenNew` a
 // store that holds no headline yet is filled with the sample wire up to the present moment.
-Result<std::unique_ptr<EmbeddedBackEnd>> openBackEnd(const QString& storeFile, bool sampleWhenNew);
+Result<std::unique_ptr<EmbeddedBackEnd>> openBackEnd(const QString& storeFile, bool sampleWhenNew,
+                                                     const IndexProgress& onIndexing = {});
 
 }  // namespace wirepane

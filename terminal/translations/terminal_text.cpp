@@ -82,8 +82,9 @@ constexpr std::array keys{
     "TERMINAL_PRINT_PREVIEW",
     "TERMINAL_SAVE_NEWS",
     "TERMINAL_BREAKING_NEWS",
+    "TERMINAL_INDEXING_STORE",
 };
-static_assert(keys.size() == static_cast<std::size_t>(TextId::BreakingNews) + 1);
+static_assert(keys.size() == static_cast<std::size_t>(TextId::IndexingStore) + 1);
 
 }  // namespace
 

@@ -81,6 +81,7 @@ enum class TextId {
     PrintPreview,
     SaveNews,
     BreakingNews,
+    IndexingStore,
 };
 
 // The text in the language in force.

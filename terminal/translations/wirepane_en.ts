@@ -639,6 +639,10 @@
         <source></source>
         <translation>Go to s&amp;ymbol…</translation>
     </message>
+    <message id="TERMINAL_INDEXING_STORE">
+        <source></source>
+        <translation>Making the search index of your news anew. This happens once after an update.</translation>
+    </message>
     <message id="TERMINAL_LANGUAGE_EN">
         <source></source>
         <translation>English</translation>

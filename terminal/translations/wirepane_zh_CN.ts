@@ -639,6 +639,10 @@
         <source></source>
         <translation>输入代码(&amp;Y)…</translation>
     </message>
+    <message id="TERMINAL_INDEXING_STORE">
+        <source></source>
+        <translation>正在重建新闻的搜索索引，更新后只需进行一次。</translation>
+    </message>
     <message id="TERMINAL_LANGUAGE_EN">
         <source></source>
         <translation>English</translation>

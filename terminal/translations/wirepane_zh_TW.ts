@@ -639,6 +639,10 @@
         <source></source>
         <translation>輸入商品(&amp;Y)…</translation>
     </message>
+    <message id="TERMINAL_INDEXING_STORE">
+        <source></source>
+        <translation>正在重建新聞的搜尋索引，更新後只需進行一次。</translation>
+    </message>
     <message id="TERMINAL_LANGUAGE_EN">
         <source></source>
         <translation>English</translation>

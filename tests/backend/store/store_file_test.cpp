@@ -21,7 +21,7 @@ namespace wirepane {
 
 namespace {
 
-constexpr StoreOptions impatient{.busyTimeout = 20ms};
+const StoreOptions impatient{.busyTimeout = 20ms};
 
 // Makes a store what it would be, had only the first version of the schema ever been.
 constexpr const char* toFirstVersion =
@@ -128,6 +128,22 @@ TEST_F(StoreFileTest, AnIndexOfOtherRulesIsMadeAnew) {
     const auto unopened = StoreChecker(path).check();
     ASSERT_FALSE(unopened);
     EXPECT_TRUE(unopened.error().contains(u"is of version 1"_s)) << unopened.error().toStdString();
+}
+
+TEST_F(StoreFileTest, TellsHowFarAnIndexIsMadeAnew) {
+    fill(4500);
+    const QString path = closedStore();
+    std::vector<std::pair<std::int64_t, std::int64_t>> told;
+    const StoreOptions options{
+        .onIndexing = [&told](std::int64_t done, std::int64_t total) { told.emplace_back(done, total); }};
+    ASSERT_TRUE(openStore(path, options));
+    EXPECT_TRUE(told.empty()) << "the index is good";
+    plainDatabase(path, "UPDATE search_rules SET fingerprint = 1");
+    const auto opened = openStore(path, options);
+    ASSERT_TRUE(opened);
+    EXPECT_EQ(told, (decltype(told){{2000, 4500}, {4000, 4500}, {4500, 4500}}));
+    EXPECT_EQ(rowsOf(*opened.value(), "SELECT count(*) FROM news_search('headline')"),
+              QStringList{u"4500"_s});
 }
 
 TEST_F(StoreFileTest, MigrationsRunOnceInOrderAndAllOrNothing) {
