@@ -121,7 +121,7 @@ int runForScripts(Session& session, const OpenOptions& options, StandardChannel*
 int runOpened(const OpenOptions& options, StandardChannel* channel) {
     const bool sample = options.sample || (!options.isScripted() && !options.noSample);
     const auto session = Session::open({options.storeFile, options.configFolder, options.language, sample,
-                                        options.spoolFolder, options.feedName});
+                                        options.spoolFolder, options.feedName, !options.isScripted()});
     if (!session) {
         printNote(session.error());
         return exitUnusable;

@@ -23,7 +23,6 @@ void IndexingWindow::tell(std::int64_t done, std::int64_t total) {
         window->show();
     }
     window->setValue(static_cast<int>(done * steps / total));
-    // Nothing else is open yet that could be worked meanwhile.
     QCoreApplication::processEvents();
 }
 

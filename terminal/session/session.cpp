@@ -65,7 +65,7 @@ Done Session::start(const SessionOptions& options) {
     if (!QDir().mkpath(configFolder))
         return Error{u"The settings folder %1 cannot be made."_s.arg(configFolder)};
     const QString wanted = options.language.isEmpty() ? terminalSettings->language() : options.language;
-    if (const Done opened = openStore(options.sampleWhenNew, wanted); !opened)
+    if (const Done opened = openStore(options, wanted); !opened)
         return opened;
     store->setSysPath(configFolder);
     BKQuoteInterface::SetBKInterface(store.get());
@@ -96,12 +96,14 @@ Done Session::start(const SessionOptions& options) {
     return Nothing{};
 }
 
-Done Session::openStore(bool sampleWhenNew, const QString& language) {
+Done Session::openStore(const SessionOptions& options, const QString& language) {
     IndexingWindow window;
     if (!languages.use(language))
         languages.use(Languages::ofSystem());
-    auto opened = openBackEnd(storeFile, sampleWhenNew,
-                              [&window](std::int64_t done, std::int64_t total) { window.tell(done, total); });
+    IndexProgress progress;
+    if (options.tellsProgress)
+        progress = [&window](std::int64_t done, std::int64_t total) { window.tell(done, total); };
+    auto opened = openBackEnd(storeFile, options.sampleWhenNew, progress);
     if (!opened)
         return Error{opened.error()};
     store = std::move(opened.value());

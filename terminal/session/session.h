@@ -30,6 +30,8 @@ struct SessionOptions {
     bool sampleWhenNew = false;  // a store without headlines is filled with the sample wire
     QString spoolFolder = {};    // empty: none
     QString feedName = {};       // the local socket for feeds; empty: none
+    // A user waits: what takes long before the windows open is told in one of its own.
+    bool tellsProgress = false;
 };
 
 // One running terminal: the store behind its back end, the settings, the news module and the main frame with
@@ -89,7 +91,7 @@ private:
 
     Done start(const SessionOptions& options);
     // In the language that the user is told of the progress in.
-    Done openStore(bool sampleWhenNew, const QString& language);
+    Done openStore(const SessionOptions& options, const QString& language);
     void connectParts();
     Done startFeed(const SessionOptions& options);
     void prepareModuleFiles();
