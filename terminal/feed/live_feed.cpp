@@ -8,6 +8,7 @@
 #include "host/contract/clock.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -93,7 +94,9 @@ bool LiveFeed::isIdle() {
 }
 
 void LiveFeed::tick() {
-    lostStore = backEnd.storeTrouble();
+    const QString lostBefore = std::exchange(lostStore, backEnd.storeTrouble());
+    if (lostBefore.isEmpty() && !lostStore.isEmpty())
+        emit trouble(lostStore);
     if (isConnected) {
         backEnd.checkForNews();
         if (spool && spool->hasPortion())
@@ -144,12 +147,21 @@ bool LiveFeed::take(FeedSource& source) {
     const Result<PortionOutcome> taken = takePortion(source, backEnd);
     backEnd.setPatience(StoreOptions().busyTimeout);
     isTaking = false;
-    takeTrouble = taken ? QString() : taken.error();
+    tellTrouble(taken ? QString() : taken.error());
     if (taken) {
         takenLate += isCatchingUp ? taken.value().news : 0;
         startNewsDays(taken.value());
     }
     return static_cast<bool>(taken);
+}
+
+// Another program that writes for a moment is nothing to tell; what stands in the way twice is.
+void LiveFeed::tellTrouble(const QString& now) {
+    const QString before = std::exchange(takeTrouble, now);
+    const bool lasts = !now.isEmpty() && now == before;
+    if (lasts && !isTold && lostStore.isEmpty())
+        emit trouble(now);
+    isTold = lasts;
 }
 
 void LiveFeed::startNewsDays(const PortionOutcome& outcome) {

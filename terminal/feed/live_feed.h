@@ -57,7 +57,7 @@ public:
 
 signals:
     void stateChanged();
-    // A sentence about a file of the spool.
+    // A sentence about a file of the spool, or about a store that takes nothing in for longer than a moment.
     void trouble(const QString& sentence);
 
 private:
@@ -67,6 +67,7 @@ private:
     bool pumpOne();
     bool take(FeedSource& source);
     bool hasCaughtUp();
+    void tellTrouble(const QString& now);
     void startNewsDays(const PortionOutcome& outcome);
     void dropDoneConnections();
     bool hasTrouble() const { return !takeTrouble.isEmpty() || !lostStore.isEmpty(); }
@@ -83,6 +84,7 @@ private:
     std::map<unsigned char, QDate> newsDays;
     QDate startDay;
     QString takeTrouble;  // of the last portion
+    bool isTold = false;  // that trouble is
     QString lostStore;    // the store is not where it was
     bool isConnected = true;
     bool isCatchingUp = false;

@@ -33,6 +33,8 @@ protected:
         backEnd->Attach(&listener);
         feed = std::make_unique<LiveFeed>(*backEnd);
         QObject::connect(feed.get(), &LiveFeed::stateChanged, feed.get(), [this] { states += nameOf(); });
+        QObject::connect(feed.get(), &LiveFeed::trouble, feed.get(),
+                         [this](const QString& sentence) { told += sentence; });
         EXPECT_TRUE(feed->watch(folder.filePath(u"spool"_s), {std::chrono::milliseconds(0), 1'000'000, {}}));
     }
     ~LiveFeedStatesTest() override { backEnd->Detach(&listener); }
@@ -79,6 +81,7 @@ protected:
     Listener listener;
     std::unique_ptr<LiveFeed> feed;
     QStringList states;
+    QStringList told;
 };
 
 TEST_F(LiveFeedStatesTest, ABreakIsVisibleUntilWhatItKeptAwayIsTaken) {
@@ -137,6 +140,8 @@ TEST_F(LiveFeedStatesTest, AFullDiskStopsTheFeedUntilThereIsRoomAgain) {
         put(u"b%1"_s.arg(i), u"Waits for room "_s + QString(8000, u'x'), u"2026-03-02T11:30:00"_s);
     EXPECT_TRUE(becomes(FeedState::Reconnecting));
     EXPECT_TRUE(feed->state().trouble.contains(u"the disk is full"_s)) << feed->state().trouble.toStdString();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !told.isEmpty(); }, 10000));
+    EXPECT_EQ(told, QStringList{feed->state().trouble});
     // What was taken before it was full is told; the rest waits, whole, and nothing stands half in the store.
     const auto waiting = QDir(folder.filePath(u"spool"_s)).entryList(QDir::Files).size();
     EXPECT_GT(waiting, 0);
@@ -164,6 +169,8 @@ TEST_F(LiveFeedStatesTest, AStoreThatIsTakenAwayTakesNoNewsWithIt) {
     EXPECT_EQ(newsOfTheDay(), 1) << "what is there can be read";
     QTest::qWait(600);  // longer than the feed's period
     EXPECT_TRUE(QFile::exists(folder.filePath(u"spool/b"_s)));
+
+    EXPECT_EQ(told, QStringList{feed->state().trouble}) << "once";
 
     moveStore(folder.filePath(u"elsewhere.db"_s), store);
     EXPECT_TRUE(hears(u"Comes meanwhile"_s));
