@@ -10,6 +10,7 @@
 SDateTimeCtrl::SDateTimeCtrl(QWidget* parent) : QDateEdit(parent) {
     setCalendarPopup(true);
     setDisplayFormat(QStringLiteral("yyyy/MM/dd"));
+    calendarWidget()->setLocale(QLocale());
     calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     // Dates are typed into the line; what is being typed into a calendar that goes would leak.
     calendarWidget()->setDateEditEnabled(false);
@@ -24,6 +25,12 @@ void SDateTimeCtrl::vSetDate(const QDate& date) {
     const QSignalBlocker silent(this);
     setDate(date);
     dateAtOpening = this->date();
+}
+
+void SDateTimeCtrl::changeEvent(QEvent* event) {
+    QDateEdit::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        calendarWidget()->setLocale(QLocale());
 }
 
 void SDateTimeCtrl::keyPressEvent(QKeyEvent* event) {

@@ -4,9 +4,10 @@
 
 #include <QDateEdit>
 
-// A date picker with a drop-down calendar, which F4, Alt+Down and the arrow open. It tells of the user's
-// changes only, at once and in this order: DropDown, any number of DateTimeChange, CloseUp. Esc closes the
-// calendar and goes back to the date it was opened with, or that was set meanwhile.
+// A date picker with a drop-down calendar, which F4, Alt+Down and the arrow open, and which speaks the
+// language of the default locale. It tells of the user's changes only, at once and in this order: DropDown,
+// any number of DateTimeChange, CloseUp. Esc closes the calendar and goes back to the date it was opened
+// with, or that was set meanwhile.
 class SDateTimeCtrl : public QDateEdit {
     Q_OBJECT
 
@@ -28,6 +29,7 @@ signals:
     void CloseUp(const QDate& date);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

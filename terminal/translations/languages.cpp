@@ -38,6 +38,8 @@ QString Languages::ofSystem() {
 bool Languages::use(const QString& code) {
     if (!codes().contains(code))
         return false;
+    // Calendars and dates of windows follow it, also where they are made later.
+    QLocale::setDefault(QLocale(catalogueSuffix(code)));
     QCoreApplication::removeTranslator(&texts);
     QCoreApplication::removeTranslator(&toolkitTexts);
     if (toolkitTexts.load(u"qtbase_"_s + catalogueSuffix(code),

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "host/controls/s_date_time_ctrl.h"
 #include "terminal/translations/languages.h"
 #include "terminal/translations/terminal_text.h"
 
+#include <QCalendarWidget>
 #include <QCoreApplication>
 #include <QDirIterator>
 #include <QFile>
@@ -79,6 +81,12 @@ TEST(TranslationsTest, TheCatalogueInForceGivesItsTexts) {
     EXPECT_EQ(QCoreApplication::translate("QPrintDialog", "&Print"), u"打印(&P)"_s) << "Qt's own texts";
     EXPECT_EQ(QCoreApplication::translate("QAbstractFileIconProvider", "Folder", "All other platforms"),
               u"文件夹"_s);
+    SDateTimeCtrl picker;
+    EXPECT_EQ(picker.calendarWidget()->locale().monthName(3), u"三月"_s);
+    ASSERT_TRUE(languages.use(u"en"_s));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(picker.calendarWidget()->locale().monthName(3), u"March"_s) << "follows a change";
+    ASSERT_TRUE(languages.use(u"zh-CN"_s));
     EXPECT_FALSE(languages.use(u"de"_s));
     EXPECT_EQ(languages.current(), u"zh-CN"_s);
     EXPECT_EQ(terminalText(TextId::LanguageSimplifiedChinese), u"简体中文"_s);
