@@ -3,6 +3,7 @@
 #include "terminal/frame/notice_bar.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QLabel>
 #include <QStyle>
 
@@ -21,6 +22,7 @@ NoticeBar::NoticeBar(QWidget* parent) : QToolBar(parent), label(new QLabel) {
     label->setMargin(4);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    label->installEventFilter(this);
     addWidget(label);
     const QAction* close = addAction(style()->standardIcon(QStyle::SP_TitleBarCloseButton), QString());
     connect(close, &QAction::triggered, this, [this] {
@@ -35,7 +37,19 @@ void NoticeBar::tell(const QString& sentence) {
     if (!told.contains(sentence))
         told.append(sentence);
     label->setText(told.join(u'\n'));
+    fitHeight();
     show();
+}
+
+// A bar asks for the height of a narrow text, whatever its width is.
+void NoticeBar::fitHeight() {
+    label->setMaximumHeight(label->heightForWidth(label->width()));
+}
+
+bool NoticeBar::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == label && event->type() == QEvent::Resize)
+        fitHeight();
+    return QToolBar::eventFilter(watched, event);
 }
 
 QString NoticeBar::text() const {

@@ -21,7 +21,12 @@ public:
     // Shown or not, as there is something to tell or not.
     void showOrHide();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void fitHeight();
+
     QLabel* label;
 };
 
