@@ -52,8 +52,10 @@ protected:
                 session->BackEnd().startNewsDay({service, day.toString(u"yyyyMMdd"_s).toInt()});
         }
     }
+    // The clock runs on while a day is lived and checked: midnight must not come meanwhile.
     void moveClock(double share) {
-        host_clock::startAt(day.startOfDay().toSecsSinceEpoch() + static_cast<int>(share * 86399));
+        constexpr int newsHours = 20 * 3600;
+        host_clock::startAt(day.startOfDay().toSecsSinceEpoch() + static_cast<int>(share * newsHours));
     }
 
     // All headlines of the day in batches of one transaction each; a few breaks, in which hands go on.
