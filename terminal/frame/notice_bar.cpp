@@ -43,7 +43,8 @@ void NoticeBar::tell(const QString& sentence) {
 
 // A bar asks for the height of a narrow text, whatever its width is.
 void NoticeBar::fitHeight() {
-    label->setMaximumHeight(label->heightForWidth(label->width()));
+    if (!label->text().isEmpty())
+        label->setMaximumHeight(label->heightForWidth(label->width()));
 }
 
 bool NoticeBar::eventFilter(QObject* watched, QEvent* event) {
