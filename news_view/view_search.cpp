@@ -10,11 +10,12 @@
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/adv_search_dlg.h"
+#include "search/dialog_controls.h"
 #include "search/search_edit2.h"
 #include "story/news_story_view.h"
 #include "story/quote_dlg_tip_msg.h"
 
-#include <QMessageBox>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -52,11 +53,7 @@ void TRVNewsCtrlView::OnSearch() {
         return;
     }
     if (text.contains(u"AND"_s) || text.contains(u"OR"_s)) {
-        auto* box = new QMessageBox(QMessageBox::Warning, {}, LangText(backEnd, keys::reinput),
-                                    QMessageBox::Ok, this);
-        box->setTextFormat(Qt::PlainText);
-        box->setAttribute(Qt::WA_DeleteOnClose);
-        box->exec();
+        TellError(this, LangText(backEnd, keys::reinput));
         return;
     }
     searches.vTakeQuickSearch(text, host_clock::now());

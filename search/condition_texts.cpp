@@ -9,9 +9,8 @@
 
 namespace {
 
-QString withoutKey(const QString& caption) {
-    const qsizetype bracket = caption.indexOf(QLatin1StringView("(&"));
-    return NameOfCaption(bracket > 0 ? caption.left(bracket) : caption).trimmed();
+QString nameOf(QLatin1StringView captionKey) {
+    return NameOfCaption(CaptionWithoutKey(DialogText(captionKey)));
 }
 
 }  // namespace
@@ -22,12 +21,11 @@ QString DialogText(QLatin1StringView key) {
 
 QString ScopeText(int scope) {
     const std::size_t known = std::min(static_cast<std::size_t>(scope), scopeKeys.size() - 1);
-    return withoutKey(DialogText(scopeKeys[known]));
+    return nameOf(scopeKeys[known]);
 }
 
 QString MethodText(int method) {
-    return withoutKey(
-        DialogText(method == conditions::methodAll ? search_keys::methodAnd : search_keys::methodOr));
+    return nameOf(method == conditions::methodAll ? search_keys::methodAnd : search_keys::methodOr);
 }
 
 QStringList ScopeTexts() {

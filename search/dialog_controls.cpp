@@ -76,9 +76,9 @@ int RunOver(QWidget* below, QDialog* child) {
 
 namespace {
 
-QMessageBox* boxOver(QDialog* dialog, QMessageBox::Icon icon, const QString& text,
+QMessageBox* boxOver(QWidget* below, QMessageBox::Icon icon, const QString& text,
                      QMessageBox::StandardButtons buttons) {
-    auto* box = new QMessageBox(icon, {}, text, buttons, dialog);
+    auto* box = new QMessageBox(icon, {}, text, buttons, below);
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
     return box;
@@ -86,11 +86,11 @@ QMessageBox* boxOver(QDialog* dialog, QMessageBox::Icon icon, const QString& tex
 
 }  // namespace
 
-bool AskYesNo(QDialog* dialog, const QString& question) {
-    QMessageBox* box = boxOver(dialog, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No);
-    return RunOver(dialog, box) == QMessageBox::Yes;
+bool AskYesNo(QWidget* below, const QString& question) {
+    QMessageBox* box = boxOver(below, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No);
+    return RunOver(below, box) == QMessageBox::Yes;
 }
 
-void TellError(QDialog* dialog, const QString& text) {
-    RunOver(dialog, boxOver(dialog, QMessageBox::Warning, text, QMessageBox::Ok));
+void TellError(QWidget* below, const QString& text) {
+    RunOver(below, boxOver(below, QMessageBox::Warning, text, QMessageBox::Ok));
 }

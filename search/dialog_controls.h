@@ -12,6 +12,7 @@ class QGridLayout;
 class QLabel;
 class QLayout;
 class QPushButton;
+class QWidget;
 
 // Controls of the search dialogs: direct children of the dialog, known by their numbers, with the dialog as
 // their event filter.
@@ -37,7 +38,8 @@ QLayout* AddEnd(QDialog* dialog, QPushButton* ok);
 // Runs a dialog over a window or a part of it, which gets the keyboard back. Its result; QDialog::Rejected
 // when what is below is gone by then, and `child` with it. Below may be nothing.
 int RunOver(QWidget* below, QDialog* child);
-// Asks the user a question. True for Yes; false also when the dialog is gone by then.
-bool AskYesNo(QDialog* dialog, const QString& question);
+// Asks the user a question over a window or a part of it. True for Yes; false also when what is below is gone
+// by then.
+bool AskYesNo(QWidget* below, const QString& question);
 // Tells the user why nothing happened.
-void TellError(QDialog* dialog, const QString& text);
+void TellError(QWidget* below, const QString& text);

@@ -47,9 +47,8 @@ QString failureSentence(const QString& path, int code, const QString& message, i
 }
 
 QString takenAwaySentence(const QString& path) {
-    return u"%1 was moved or deleted while it was open: no news is taken in until it is back or the program "
-           u"is "
-           "started again."_s.arg(QDir::toNativeSeparators(path));
+    return u"%1 was moved or deleted while it was open: no news is taken in until it is back or the "
+           "program is started again."_s.arg(QDir::toNativeSeparators(path));
 }
 
 }  // namespace wirepane

@@ -24,8 +24,8 @@ public:
 
     std::size_t size() const { return entries.size(); }
     std::int64_t timeOf(std::size_t index) const { return entries[index].time; }
-    // Gives another store the services, categories and symbols of this one, in place of those that it has
-    // under the same ids and codes.
+    // Gives another store the services, categories, symbols and quotes of this one, in place of those that it
+    // has under the same ids and codes.
     Done copyCatalogues(Database& target) const;
     // The whole item, with the name of its category and the number that it has in the store.
     Result<NewsItem> item(std::size_t index);
