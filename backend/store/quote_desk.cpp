@@ -9,9 +9,8 @@ void QuoteDesk::follow(NewsReceiver* receiver, const std::vector<CSymbolInfo>& s
     for (const CSymbolInfo& symbol : symbols) {
         if (symbol.code.isEmpty())
             continue;
-        const Symbol key(symbol.market, symbol.code);
-        if (followed[receiver].insert(key).second)
-            followers[key].push_back(receiver);
+        if (followed[receiver].insert(symbol).second)
+            followers[symbol].push_back(receiver);
         asked[receiver].push_back(symbol);
     }
     if (!waiting && !asked.empty())
@@ -24,10 +23,9 @@ void QuoteDesk::leave(NewsReceiver* receiver, const std::vector<CSymbolInfo>& sy
     if (mine == followed.end())
         return;
     for (const CSymbolInfo& symbol : symbols) {
-        const Symbol key(symbol.market, symbol.code);
-        if (mine->second.erase(key) == 0)
+        if (mine->second.erase(symbol) == 0)
             continue;
-        const auto entry = followers.find(key);
+        const auto entry = followers.find(symbol);
         std::erase(entry->second, receiver);
         if (entry->second.empty())
             followers.erase(entry);
@@ -38,26 +36,22 @@ void QuoteDesk::leaveAll(NewsReceiver* receiver) {
     const auto mine = followed.find(receiver);
     if (mine == followed.end())
         return;
-    std::vector<CSymbolInfo> symbols;
-    for (const auto& [market, code] : mine->second)
-        symbols.push_back({market, code});
-    leave(receiver, symbols);
+    leave(receiver, {mine->second.begin(), mine->second.end()});
     followed.erase(receiver);
     asked.erase(receiver);
 }
 
-bool QuoteDesk::follows(NewsReceiver* receiver, const Symbol& symbol) const {
+bool QuoteDesk::follows(NewsReceiver* receiver, const CSymbolInfo& symbol) const {
     const auto mine = followed.find(receiver);
     return mine != followed.end() && mine->second.contains(symbol);
 }
 
 void QuoteDesk::tell(const CQuoteMemory& quote) {
-    const Symbol key(quote.symbol.market, quote.symbol.code);
-    const auto entry = followers.find(key);
+    const auto entry = followers.find(quote.symbol);
     if (entry == followers.end())
         return;
     for (NewsReceiver* receiver : std::vector(entry->second)) {
-        if (follows(receiver, key))
+        if (follows(receiver, quote.symbol))
             receiver->vRecvNewMemory(&quote);
     }
 }
@@ -67,7 +61,7 @@ void QuoteDesk::handKnown() {
     for (const auto& [receiver, symbols] : std::exchange(asked, {})) {
         std::vector<CQuoteMemory> known;
         for (const CSymbolInfo& symbol : symbols) {
-            const auto quote = follows(receiver, {symbol.market, symbol.code}) ? find(symbol) : std::nullopt;
+            const auto quote = follows(receiver, symbol) ? find(symbol) : std::nullopt;
             if (quote)
                 known.push_back(*quote);
         }

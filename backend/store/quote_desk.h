@@ -33,13 +33,12 @@ public:
     void tell(const CQuoteMemory& quote);
 
 private:
-    using Symbol = std::pair<unsigned char, QString>;
-    bool follows(NewsReceiver* receiver, const Symbol& symbol) const;
+    bool follows(NewsReceiver* receiver, const CSymbolInfo& symbol) const;
     void handKnown();
 
     LookUp find;
-    std::map<Symbol, std::vector<NewsReceiver*>> followers;
-    std::map<NewsReceiver*, std::set<Symbol>> followed;
+    std::map<CSymbolInfo, std::vector<NewsReceiver*>> followers;
+    std::map<NewsReceiver*, std::set<CSymbolInfo>> followed;
     std::map<NewsReceiver*, std::vector<CSymbolInfo>> asked;  // to be told what is known
     QObject eventLoop;
 };

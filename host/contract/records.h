@@ -4,6 +4,7 @@
 
 // The news and symbol records that the host and the news module exchange. All are plain values.
 
+#include <QHashFunctions>
 #include <QString>
 
 #include <cstdint>
@@ -71,6 +72,13 @@ struct CSymbolInfo {
 
     bool operator==(const CSymbolInfo&) const = default;
 };
+// An order without a meaning, and a hash, so that symbols can be kept in sets and maps.
+inline bool operator<(const CSymbolInfo& a, const CSymbolInfo& b) {
+    return std::tie(a.market, a.code) < std::tie(b.market, b.code);
+}
+inline std::size_t qHash(const CSymbolInfo& symbol, std::size_t seed = 0) {
+    return qHashMulti(seed, symbol.market, symbol.code);
+}
 
 // The symbols related to one headline.
 struct CNewsSymLst {

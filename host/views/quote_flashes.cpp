@@ -7,7 +7,7 @@ constexpr int ticksOfFlash = 3;
 }
 
 void QuoteFlashes::start(const CSymbolInfo& symbol) {
-    ticksLeft.insert({symbol.market, symbol.code}, ticksOfFlash);
+    ticksLeft.insert(symbol, ticksOfFlash);
 }
 
 std::vector<CSymbolInfo> QuoteFlashes::tick() {
@@ -17,7 +17,7 @@ std::vector<CSymbolInfo> QuoteFlashes::tick() {
             ++flash;
             continue;
         }
-        over.push_back({flash.key().first, flash.key().second});
+        over.push_back(flash.key());
         flash = ticksLeft.erase(flash);
     }
     return over;

@@ -6,7 +6,6 @@
 
 #include <QHash>
 
-#include <utility>
 #include <vector>
 
 // Which quotes have changed just now. A flash lasts some ticks of the list's timer; a tick costs as much as
@@ -15,13 +14,11 @@ class QuoteFlashes {
 public:
     // Begins a flash, or begins it anew.
     void start(const CSymbolInfo& symbol);
-    bool isFlashing(const CSymbolInfo& symbol) const {
-        return ticksLeft.contains({symbol.market, symbol.code});
-    }
+    bool isFlashing(const CSymbolInfo& symbol) const { return ticksLeft.contains(symbol); }
     bool isEmpty() const { return ticksLeft.isEmpty(); }
     // Result: the symbols whose flash is over.
     std::vector<CSymbolInfo> tick();
 
 private:
-    QHash<std::pair<unsigned char, QString>, int> ticksLeft;
+    QHash<CSymbolInfo, int> ticksLeft;
 };

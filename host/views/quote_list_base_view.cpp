@@ -44,13 +44,10 @@ constexpr std::array<QuoteColumnKind, quoteColumns> columnKinds{{
 
 std::vector<CSymbolInfo> without(const std::vector<CSymbolInfo>& symbols,
                                  const std::vector<CSymbolInfo>& others) {
-    QSet<std::pair<unsigned char, QString>> known;
-    for (const CSymbolInfo& symbol : others)
-        known.insert({symbol.market, symbol.code});
+    const QSet<CSymbolInfo> known(others.begin(), others.end());
     std::vector<CSymbolInfo> rest;
-    std::copy_if(symbols.begin(), symbols.end(), std::back_inserter(rest), [&](const CSymbolInfo& symbol) {
-        return !known.contains({symbol.market, symbol.code});
-    });
+    std::copy_if(symbols.begin(), symbols.end(), std::back_inserter(rest),
+                 [&](const CSymbolInfo& symbol) { return !known.contains(symbol); });
     return rest;
 }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -104,13 +105,12 @@ QString TextOf(const QuoteRow& row, QuoteColumn column) {
 
 void QuoteTable::setSymbols(const std::vector<CSymbolInfo>& symbols) {
     std::vector<QuoteRow> before = std::exchange(items, {});
-    const QHash<Key, int> known = std::exchange(itemOf, {});
+    const QHash<CSymbolInfo, int> known = std::exchange(itemOf, {});
     for (const CSymbolInfo& symbol : symbols) {
-        const Key key(symbol.market, symbol.code);
-        if (itemOf.contains(key))
+        if (itemOf.contains(symbol))
             continue;
-        itemOf.insert(key, static_cast<int>(items.size()));
-        const auto kept = known.constFind(key);
+        itemOf.insert(symbol, static_cast<int>(items.size()));
+        const auto kept = known.constFind(symbol);
         items.push_back(kept != known.constEnd() ? std::move(before[static_cast<std::size_t>(*kept)])
                                                  : QuoteRow{symbol, {}, {}});
     }
@@ -125,7 +125,7 @@ void QuoteTable::setName(int row, const QString& name) {
 }
 
 int QuoteTable::rowOf(const CSymbolInfo& symbol) const {
-    const auto item = itemOf.constFind({symbol.market, symbol.code});
+    const auto item = itemOf.constFind(symbol);
     return item != itemOf.constEnd() ? places[static_cast<std::size_t>(*item)] : -1;
 }
 

@@ -8,7 +8,6 @@
 #include <QString>
 
 #include <optional>
-#include <utility>
 #include <vector>
 
 // The columns of a quote list, from left to right.
@@ -67,10 +66,8 @@ public:
     void resort();
 
 private:
-    using Key = std::pair<unsigned char, QString>;
-
     std::vector<QuoteRow> items;  // in the symbols' own order
-    QHash<Key, int> itemOf;
+    QHash<CSymbolInfo, int> itemOf;
     std::vector<int> order;   // by row: the item
     std::vector<int> places;  // by item: the row
     std::optional<Sorting> chosen;
