@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/news_item.h"
+
 #include <QStringView>
 
 #include <cstdint>
@@ -11,9 +13,8 @@ namespace wirepane {
 
 // Times that news may have: the years 1900 to 2199, UTC.
 constexpr bool isNewsTime(std::int64_t time) {
-    constexpr std::int64_t firstOf1900 = -2208988800;
     constexpr std::int64_t firstOf2200 = 7258118400;
-    return time >= firstOf1900 && time < firstOf2200;
+    return time >= firstNewsTime && time < firstOf2200;
 }
 
 // The moment that a text of a news format states, in seconds since 1970 (UTC); nothing when it is not a time

@@ -20,7 +20,6 @@ inline constexpr std::size_t relatedSymbols = 1000;
 
 inline constexpr double price = 1e12;  // and no change is larger
 
-inline constexpr std::int64_t firstTime = -2208988800;  // 1900-01-01 00:00:00 UTC
 inline constexpr std::int64_t lastTime = 253402300799;  // 9999-12-31 23:59:59 UTC
 
 }  // namespace wirepane::limits

@@ -176,7 +176,7 @@ TEST_F(StoreWriterTest, WhatDoesNotPassIsRejectedWithAReason) {
               u"The title has 8193 characters; at most 8192 are taken."_s);
     EXPECT_EQ(reasonOf([](NewsItem& item) { item.story = QString(limits::storyLength + 1, u'x'); }),
               u"The story has 4194305 characters; at most 4194304 are taken."_s);
-    EXPECT_EQ(reasonOf([](NewsItem& item) { item.time = limits::firstTime - 1; }),
+    EXPECT_EQ(reasonOf([](NewsItem& item) { item.time = firstNewsTime - 1; }),
               u"Its time (-2208988801 seconds since 1970) does not lie within the years 1900 to 9999."_s);
     EXPECT_EQ(reasonOf([](NewsItem& item) { item.identity.clear(); }), u"It has no identity."_s);
     EXPECT_EQ(reasonOf([](NewsItem& item) { item.service = 0; }), u"It belongs to no news service."_s);
