@@ -20,7 +20,9 @@ constexpr int digits = 4;  // of a character in the file: "<4E00>"
 QList<QRawFont> facesOf(const QString& characters, const QFont& font) {
     QTextLayout layout(characters, font);
     layout.beginLayout();
-    layout.createLine();
+    // Some characters end a line, however wide it is.
+    while (layout.createLine().isValid())
+        continue;
     layout.endLayout();
     QList<QRawFont> faces;
     for (const QGlyphRun& run : layout.glyphRuns()) {
