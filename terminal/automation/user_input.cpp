@@ -119,11 +119,12 @@ void hitKey(QWidget& widget, QKeyCombination key) {
 void hitKeysOf(QWidget& widget, const QString& text) {
     const QPointer<QWidget> target(&widget);
     giveKeyboard(widget);
-    for (const QChar character : text) {
+    const QList<uint> characters = text.toUcs4();
+    for (const char32_t character : characters) {
         if (target.isNull())
             return;
-        const char16_t unicode = character.toUpper().unicode();
-        press(target, unicode < 0x80 ? unicode : 0, Qt::NoModifier, QString(character));
+        const char32_t key = character < 0x80 ? QChar::toUpper(character) : 0;
+        press(target, static_cast<int>(key), Qt::NoModifier, QString::fromUcs4(&character, 1));
     }
 }
 

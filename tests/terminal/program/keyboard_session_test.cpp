@@ -101,6 +101,19 @@ TEST_F(KeyboardSession, ReadsTheNewsWithoutAMouse) {
     EXPECT_FALSE(state(u"showCategory"_s).toBool(true));
 }
 
+TEST_F(KeyboardSession, TypesEveryCharacter) {
+    key(u"F3"_s);
+    const QString text = u"a1\u65B0\U0001F4C8B"_s;
+    script.result(u"input.type"_s, QJsonObject{{u"text"_s, text}});
+    QString typed;
+    const QJsonArray controls = state(u"controls"_s).toArray();
+    for (const auto& control : controls) {
+        if (control[u"id"_s] == 3008)
+            typed = control[u"text"_s].toString();
+    }
+    EXPECT_EQ(typed.toStdString(), text.toStdString());
+}
+
 TEST_F(KeyboardSession, InputThatCannotBeDoneIsRefused) {
     struct Case {
         QString method;
