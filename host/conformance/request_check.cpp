@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/conformance/request_check.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QThread>
+#include "host/conformance/hearing.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,10 +24,8 @@ public:
         sending = true;
         const bool sent = send();
         sending = false;
-        const QDeadlineTimer limit(patience);
-        while (sent && answers == 0 && !limit.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        findings.Expect(!sent || answers > 0, request + u": true, and no answer in time."_s);
+        findings.Expect(!sent || WaitUntil([this] { return answers > 0; }, patience),
+                        request + u": true, and no answer in time."_s);
         return sent;
     }
 
@@ -48,9 +44,7 @@ public:
 
 private:
     void vHear(bool isTheAnswer) {
-        findings.Expect(!sending, awaited + u": the answer comes before the request returns."_s);
-        findings.Expect(QThread::currentThread() == QCoreApplication::instance()->thread(),
-                        awaited + u": the answer comes on another thread."_s);
+        CheckMoment(awaited, sending, findings);
         if (isTheAnswer)
             ++answers;
     }

@@ -22,6 +22,10 @@ TEST(EmbeddedBackEndConformance, KeepsEveryDuty) {
             item.story = u"A story of %1 lines."_s.arg(i);
         ASSERT_TRUE(backEnd.takeIn(item));
     }
+    for (const QString& code : {u"2330"_s, u"2317"_s}) {
+        ASSERT_TRUE(backEnd.takeIn(SymbolItem{16, code, u"Tea"_s}));
+        ASSERT_TRUE(backEnd.takeIn(QuoteItem{16, code, 12.5, 0.5, 100}));
+    }
     std::vector<CHeadlineTable> day;
     ASSERT_EQ(backEnd.BKQNEWS_iGetHeadlineTable(1, day, 0, u"20260302"_s), 6) << "nothing to check";
     const std::vector<QString> broken = BrokenDuties(backEnd);

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include <gtest/gtest.h>
+#include <set>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -30,6 +31,13 @@ enum class Fault {
     AnswersAtOnce,
     AnswersNever,
     SearchFindsAll,
+    QuoteAtOnce,
+    QuoteOfNothing,
+    QuoteToAll,
+    QuoteOnce,
+    QuoteAfterLeaving,
+    QuoteAfterUnregistering,
+    QuoteNotAfterReturning,
 };
 
 // Keeps every duty but one.
@@ -56,6 +64,10 @@ public:
                                std::vector<QString>& names) override {
         ids = {u"7"_s};
         names.assign(is(Fault::CategoriesUnpaired) ? 2 : 1, u"Markets"_s);
+        return true;
+    }
+    bool bGetAllServiceID(std::vector<unsigned char>& services) override {
+        services = {1};
         return true;
     }
     bool bGetSymbolID(unsigned char, std::vector<QString>& codes, std::vector<QString>& names) override {
@@ -108,6 +120,21 @@ public:
         });
     }
 
+    void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
+                         const std::vector<CSymbolInfo>& removed) override {
+        if (!removed.empty())
+            vLeave(view, Fault::QuoteAfterLeaving);
+        if (added.empty() || (is(Fault::QuoteNotAfterReturning) && gone.contains(view)))
+            return;
+        if (!followers.insert(view).second && is(Fault::QuoteOnce))
+            return;
+        if (is(Fault::QuoteAtOnce))
+            vTell(view);
+        else if (!is(Fault::AnswersNever))
+            QTimer::singleShot(0, &events, [this, view] { vTell(view); });
+    }
+    void UnregisterSymbols(NewsReceiver* view) override { vLeave(view, Fault::QuoteAfterUnregistering); }
+
 private:
     bool is(Fault one) const { return fault == one; }
     template <class Call>
@@ -119,13 +146,30 @@ private:
         return true;
     }
 
+    void vLeave(NewsReceiver* view, Fault forgotten) {
+        if (!is(forgotten) && followers.erase(view) > 0)
+            gone.insert(view);
+    }
+    void vTell(NewsReceiver* view) {
+        const CQuoteMemory quote{{1, u"2330"_s}, 12.5, 0.5, 100};
+        const CQuoteMemory* told = is(Fault::QuoteOfNothing) ? nullptr : &quote;
+        if (is(Fault::QuoteToAll))
+            ForEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvMemoryRecovery(told); });
+        else if (followers.contains(view))
+            view->vRecvMemoryRecovery(told);
+    }
+
     const Fault fault;
     QObject events;
+    std::set<NewsReceiver*> followers;
+    std::set<NewsReceiver*> gone;
 };
 
 QString brokenBy(Fault fault) {
     FaultyBackEnd backEnd(fault);
-    const std::vector<QString> broken = BrokenDuties(backEnd, fault == Fault::AnswersNever ? 20ms : 10s);
+    const bool isSilent = fault == Fault::AnswersNever || fault == Fault::QuoteOfNothing ||
+                          fault == Fault::QuoteOnce || fault == Fault::QuoteNotAfterReturning;
+    const std::vector<QString> broken = BrokenDuties(backEnd, isSilent ? 50ms : 10s);
     return QStringList(broken.begin(), broken.end()).join(u'\n');
 }
 
@@ -153,6 +197,13 @@ TEST(BackEndCheck, TellsWhichDutyIsBroken) {
         {Fault::AnswersAtOnce, "the answer comes before the request returns."},
         {Fault::AnswersNever, "BKQNEWS_bSearchNews, service 1: true, and no answer in time."},
         {Fault::SearchFindsAll, "finds news that nobody wrote."},
+        {Fault::QuoteAtOnce, "RegisterSymbols: the answer comes before the request returns."},
+        {Fault::QuoteOfNothing, "a view is told of no quote."},
+        {Fault::QuoteToAll, "a quote of \"2330\" comes to a view that is not registered for it."},
+        {Fault::QuoteOnce, "a view that is registered already is not told what is known."},
+        {Fault::QuoteAfterLeaving, "comes to a view that is not registered for it."},
+        {Fault::QuoteAfterUnregistering, "comes to a view that is not registered for it."},
+        {Fault::QuoteNotAfterReturning, "a view that has left and registers again is not told"},
     };
     for (const auto& c : cases) {
         const QString told = brokenBy(c.fault);
