@@ -9,8 +9,7 @@ class NewsStoryView;
 class TRVNewsStory;
 
 // Where a story is shown: the pane inside the view, with the quotes of the story's symbols beside it, or the
-// pop-up dialog. Keeps the dialog's place among the
-// windows as the host wants it.
+// pop-up dialog. Keeps the dialog's place among the windows as the host wants it.
 class StoryStage {
 public:
     ~StoryStage();

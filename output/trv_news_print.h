@@ -13,9 +13,9 @@
 class QWidget;
 
 // Prints news, at once or when everything that it needs has come, and then from the event loop: never within
-// the back end's call. A list of news that waits stays in a queue
-// until the back end's answers have completed it; a queue goes with its owner, whatever still waits. The
-// saver and the preview differ in what they do with complete news only. Interface thread only.
+// the back end's call. A list of news that waits stays in a queue until the back end's answers have completed
+// it; a queue goes with its owner, whatever still waits. The saver and the preview differ in what they do
+// with complete news only. Interface thread only.
 class TRVNewsPrint {
 public:
     // All must outlive this. `parentWindow` is the parent of dialogs that are given no other.

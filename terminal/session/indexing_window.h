@@ -11,8 +11,8 @@
 namespace wirepane {
 
 // A window that tells how far the search index of a store is made anew before the terminal opens. It comes up
-// when that takes longer than half a second, and goes with this object. Events are
-// handled meanwhile, so that nothing else may be at work yet.
+// when that takes longer than half a second, and goes with this object. Events are handled meanwhile, so that
+// nothing else may be at work yet.
 class IndexingWindow {
 public:
     IndexingWindow() { started.start(); }
