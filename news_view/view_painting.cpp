@@ -145,7 +145,8 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     controls.vLoadLanguageString();
     vLoadToolTips();
     vLoadHints();
-    stage.pGetDialog()->vLoadLanguageString();
+    if (TRVNewsStory* dialog = stage.pGetDialog())
+        dialog->vLoadLanguageString();
     for (int list = 0; list < listCount; ++list) {
         if (CSuperSheetWnd* sheet = Sheet(list)) {
             SetHeadlineSheetTexts(*sheet, newsType, backEnd);

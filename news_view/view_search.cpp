@@ -5,6 +5,7 @@
 #include "headline_list/table_reading.h"
 #include "host/contract/clock.h"
 #include "host/contract/symbol_name.h"
+#include "host/controls/heap_dialog.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/xt_tip_window.h"
 #include "news_view/control_ids.h"
@@ -12,10 +13,9 @@
 #include "search/adv_search_dlg.h"
 #include "search/dialog_controls.h"
 #include "search/search_edit2.h"
+#include "search/search_ids.h"
 #include "story/news_story_view.h"
 #include "story/quote_dlg_tip_msg.h"
-
-#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -73,19 +73,18 @@ void TRVNewsCtrlView::vShowTip(const QRect& rectangle, const QString& text) {
 // --- Sending ---
 
 void TRVNewsCtrlView::OnDealsSearchDlg() {
-    const QPointer<TRVNewsCtrlView> self(this);
-    const QPointer<CAdvSearchDlg> dialog(
+    HeapDialog dialog(
         new CAdvSearchDlg(searches.edited, searches.memory.keywordPool, searches.memory.recent, this));
-    const int result = dialog->DoModal();
-    if (self.isNull() || dialog.isNull())
+    const bool accepted = dialog->DoModal() == search_ids::ok;
+    if (!dialog)
         return;
     dialog->vGetResult(searches.edited, searches.memory.keywordPool, searches.memory.recent);
-    delete dialog;
+    dialog.Delete();
     // Nobody answers for a search that is not in force any more.
-    if (result != CAdvSearchDlg::idOk && !(searches.ordinary == searches.edited))
+    if (!accepted && !(searches.ordinary == searches.edited))
         vStopWaiting();
     searches.ordinary = searches.edited;
-    if (result == CAdvSearchDlg::idOk)
+    if (accepted)
         OnDealsSearch();
 }
 

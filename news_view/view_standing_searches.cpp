@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The standing searches of the news view: key sets, warning terms, and what their empty lists say.
 #include "headline_list/language_keys.h"
+#include "host/controls/heap_dialog.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/news_key_search_dlg.h"
@@ -36,19 +37,18 @@ QString hintOf(QString text, const QString& second = {}) {
 
 void TRVNewsCtrlView::OnRelationSearchDlg() {
     vSetTickedKeySets({});
-    const QPointer<TRVNewsCtrlView> self(this);
-    const QPointer<CNewsKeySearchDlg> dialog(new CNewsKeySearchDlg(searches.memory.keywordPool,
-                                                                   NewsTypesOf(backEnd, services.Entries()),
-                                                                   searches.memory.keySets, this));
-    const int result = dialog->DoModal();
-    if (self.isNull() || dialog.isNull())
+    HeapDialog dialog(new CNewsKeySearchDlg(searches.memory.keywordPool,
+                                            NewsTypesOf(backEnd, services.Entries()), searches.memory.keySets,
+                                            this));
+    const bool accepted = dialog->DoModal() == search_ids::ok;
+    if (!dialog)
         return;
     searches.memory.keywordPool = dialog->Pool();
-    if (result == CNewsKeySearchDlg::idOk) {
+    if (accepted) {
         searches.memory.keySets = dialog->KeySets();
         vSetTickedKeySets(dialog->TickedKeySets());
     }
-    delete dialog;
+    dialog.Delete();
     if (tickedKeySets.empty())
         return;
     if (currentMode == static_cast<int>(ListIndex::Relation))
@@ -67,16 +67,14 @@ void TRVNewsCtrlView::vSetTickedKeySets(const std::vector<CNewsKey>& ticked) {
 // --- Warning terms ---
 
 void TRVNewsCtrlView::OnWarningSearchDlg() {
-    const QPointer<TRVNewsCtrlView> self(this);
-    const QPointer<CWarnTermDlg> dialog(
-        new CWarnTermDlg(searches.memory.warnings, searches.warningTerm, this));
+    HeapDialog dialog(new CWarnTermDlg(searches.memory.warnings, searches.warningTerm, this));
     const bool accepted = dialog->DoModal() == search_ids::ok;
-    if (self.isNull() || dialog.isNull())
+    if (!dialog)
         return;
     searches.memory.warnings = dialog->Items();
     if (accepted)
         searches.warningTerm = dialog->Chosen();
-    delete dialog;
+    dialog.Delete();
     searches.edited = searches.warningTerm;
     vLoadHints();
     if (accepted)

@@ -4,6 +4,7 @@
 
 #include "headline_list/language_keys.h"
 #include "host/contract/clock.h"
+#include "host/controls/heap_dialog.h"
 #include "output/page_font.h"
 #include "output/pdf_characters.h"
 #include "output/whole_file.h"
@@ -14,7 +15,6 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPointer>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
@@ -105,8 +105,8 @@ QString charactersOf(const std::vector<PrintedPage>& pages) {
     QString characters;
     for (const PrintedPage& page : pages) {
         characters += page.heading.text + page.date.text + page.pageNumber.text;
-        for (const std::vector<PlacedText>& lines : {page.title, page.body}) {
-            for (const PlacedText& line : lines)
+        for (const auto* lines : {&page.title, &page.body}) {
+            for (const PlacedText& line : *lines)
                 characters += line.text;
         }
     }
@@ -193,12 +193,11 @@ NewsOutcome PrintNewsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd
 void PreviewNews(BKQuoteInterface& backEnd, const NewsItems& items, QWidget* parent) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(LangText(backEnd, keys::printDocument));
-    const QPointer<QPrintPreviewDialog> dialog = new QPrintPreviewDialog(&printer, parent);
-    QObject::connect(dialog, &QPrintPreviewDialog::paintRequested, dialog,
+    const HeapDialog dialog(new QPrintPreviewDialog(&printer, parent));
+    QObject::connect(dialog.get(), &QPrintPreviewDialog::paintRequested, dialog.get(),
                      [&backEnd, &items](QPrinter* device) {
                          DrawPages(*device, backEnd, PagesOn(*device, backEnd, items));
                      });
     dialog->resize(previewSize);
     dialog->exec();
-    delete dialog;
 }

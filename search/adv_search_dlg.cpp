@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/adv_search_dlg.h"
 
+#include "host/contract/lang_text.h"
 #include "host/controls/window_id.h"
 #include "search/condition_texts.h"
 #include "search/dialog_controls.h"
@@ -38,13 +39,13 @@ CAdvSearchDlg::CAdvSearchDlg(const CSearch& edited, const KeywordList& keywordPo
       condition(edited),
       recent(searches) {
     SetWindowId(this, search_ids::advancedSearch);
-    setWindowTitle(Text(search_keys::title));
+    setWindowTitle(LangText(search_keys::title));
     auto* column = new QVBoxLayout(this);
     column->setSpacing(fontMetrics().height() * 2 / 3);
     column->addLayout(pCreateEntry(), 1);
     column->addLayout(pCreateChoices());
     column->addLayout(pCreateRecent());
-    column->addLayout(AddEnd(this, qobject_cast<QPushButton*>(GetDlgItem(this, search_ids::ok))));
+    column->addLayout(pCreateEnd());
     resize(fontMetrics().averageCharWidth() * 100, sizeHint().height());
     vFillRecent();
     vLoadCondition();
@@ -59,10 +60,10 @@ void CAdvSearchDlg::vGetResult(CSearch& edited, KeywordList& keywordPool, Recent
 
 QLayout* CAdvSearchDlg::pCreateChoices() {
     auto* grid = new QGridLayout;
-    scope = AddChoices(this, *grid, 0, AddCaption(this, search_ids::scopeCaption, Text(search_keys::scope)),
-                       scopes);
+    scope = AddChoices(this, *grid, 0,
+                       AddCaption(this, search_ids::scopeCaption, LangText(search_keys::scope)), scopes);
     method = AddChoices(this, *grid, 1,
-                        AddCaption(this, search_ids::methodCaption, Text(search_keys::method)), methods);
+                        AddCaption(this, search_ids::methodCaption, LangText(search_keys::method)), methods);
     grid->setHorizontalSpacing(fontMetrics().height());
     grid->setColumnStretch(static_cast<int>(scopes.size()) + 1, 1);
     return grid;
@@ -71,12 +72,12 @@ QLayout* CAdvSearchDlg::pCreateChoices() {
 void CAdvSearchDlg::vCreateRecentList() {
     recentList = new ReportList(
         std::array{
-            ReportColumn{Text(search_keys::scopeColumn), scopeWidth, Qt::AlignLeft, ScopeTexts()},
-            ReportColumn{Text(search_keys::methodColumn), methodWidth, Qt::AlignHCenter, MethodTexts()},
-            ReportColumn{Text(search_keys::contentsColumn), 0}},
+            ReportColumn{LangText(search_keys::scopeColumn), scopeWidth, Qt::AlignLeft, ScopeTexts()},
+            ReportColumn{LangText(search_keys::methodColumn), methodWidth, Qt::AlignHCenter, MethodTexts()},
+            ReportColumn{LangText(search_keys::contentsColumn), 0}},
         this);
     SetWindowId(recentList, search_ids::recent);
-    recentList->setAccessibleName(Text(search_keys::recent));
+    recentList->setAccessibleName(LangText(search_keys::recent));
     recentList->setFixedHeight(recentList->iHeightOf(recentRows));
     recentList->installEventFilter(this);
     connect(recentList, &QTableWidget::cellClicked, this, &CAdvSearchDlg::vSelectRecent);
@@ -94,7 +95,7 @@ void CAdvSearchDlg::vCreateRecentList() {
 QLayout* CAdvSearchDlg::pCreateRecent() {
     vCreateRecentList();
     auto* column = new QVBoxLayout;
-    column->addWidget(AddCaption(this, search_ids::recentCaption, Text(search_keys::recent)));
+    column->addWidget(AddCaption(this, search_ids::recentCaption, LangText(search_keys::recent)));
     column->addWidget(recentList);
     return column;
 }

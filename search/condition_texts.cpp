@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/condition_texts.h"
 
-#include "headline_list/language_keys.h"
+#include "host/contract/lang_text.h"
 #include "host/controls/plain_caption.h"
 
 #include <algorithm>
@@ -10,14 +10,10 @@
 namespace {
 
 QString nameOf(QLatin1StringView captionKey) {
-    return NameOfCaption(CaptionWithoutKey(DialogText(captionKey)));
+    return NameOfCaption(CaptionWithoutKey(LangText(captionKey)));
 }
 
 }  // namespace
-
-QString DialogText(QLatin1StringView key) {
-    return LangText(*BKQuoteInterface::GetBKInterface(), key);
-}
 
 QString ScopeText(int scope) {
     const std::size_t known = std::min(static_cast<std::size_t>(scope), scopeKeys.size() - 1);

@@ -20,9 +20,6 @@ inline constexpr std::array scopeKeys{search_keys::scopeHeadlines, search_keys::
                                       search_keys::scopeBoth};
 inline constexpr std::array methodKeys{search_keys::methodOr, search_keys::methodAnd};
 
-// The text of a key in the language in force. A back end has been installed.
-QString DialogText(QLatin1StringView key);
-
 // Without the mark of an access key, also where it stands in brackets behind the text. An unknown scope is
 // both; every method that is not "all" is "any".
 QString ScopeText(int scope);

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "search/dialog_controls.h"
 
+#include "host/contract/lang_text.h"
 #include "host/controls/window_id.h"
-#include "search/condition_texts.h"
 #include "search/search_ids.h"
+#include "search/search_keys.h"
 
 #include <QButtonGroup>
 #include <QDialog>
@@ -40,7 +41,7 @@ QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* ca
     grid.addWidget(caption, row, 0);
     int index = 0;
     for (const Choice& choice : choices) {
-        auto* button = new QRadioButton(DialogText(choice.key), dialog);
+        auto* button = new QRadioButton(LangText(choice.key), dialog);
         SetWindowId(button, choice.id);
         button->installEventFilter(dialog);
         grid.addWidget(button, row, index + 1);
@@ -50,7 +51,7 @@ QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* ca
 }
 
 QLayout* AddEnd(QDialog* dialog, QPushButton* ok) {
-    QPushButton* cancel = AddButton(dialog, search_ids::cancel, DialogText(search_keys::cancel));
+    QPushButton* cancel = AddButton(dialog, search_ids::cancel, LangText(search_keys::cancel));
     QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
     if (QWidget* last = cancel->previousInFocusChain(); last != ok)
         QWidget::setTabOrder(last, ok);
@@ -72,6 +73,10 @@ int RunOver(QWidget* below, QDialog* child) {
     // Not every window system gives the keyboard back by itself.
     below->activateWindow();
     return result;
+}
+
+int RunModally(QDialog* dialog) {
+    return RunOver(dialog->parentWidget(), dialog) == QDialog::Accepted ? search_ids::ok : search_ids::cancel;
 }
 
 namespace {

@@ -38,6 +38,8 @@ QLayout* AddEnd(QDialog* dialog, QPushButton* ok);
 // Runs a dialog over a window or a part of it, which gets the keyboard back. Its result; QDialog::Rejected
 // when what is below is gone by then, and `child` with it. Below may be nothing.
 int RunOver(QWidget* below, QDialog* child);
+// Runs a dialog over its parent: search_ids::ok or search_ids::cancel. The dialog may be gone by then.
+int RunModally(QDialog* dialog);
 // Asks the user a question over a window or a part of it. True for Yes; false also when what is below is gone
 // by then.
 bool AskYesNo(QWidget* below, const QString& question);

@@ -4,6 +4,7 @@
 
 #include "headline_list/cell_texts.h"
 #include "host/contract/fixed_services.h"
+#include "host/contract/lang_text.h"
 #include "search/condition_texts.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ bool wantsEvery(const CNewsKey& keySet) {
 
 QString namesOf(const CNewsKey& keySet, const CategoryMap& newsTypes) {
     if (wantsEvery(keySet) || keySet.newsTypes.size() == newsTypes.size())
-        return DialogText(search_keys::allNewsTypes);
+        return LangText(search_keys::allNewsTypes);
     QString names;
     for (const std::int32_t id : keySet.newsTypes) {
         if (const auto type = newsTypes.find(id); type != newsTypes.end())

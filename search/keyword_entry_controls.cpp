@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // The controls of keyword entry: what there is, where it stands, what it sends.
+#include "host/contract/lang_text.h"
 #include "host/controls/hover_button.h"
 #include "host/controls/roomy_rows.h"
 #include "host/controls/window_id.h"
@@ -69,28 +70,32 @@ QGridLayout* KeywordEntryDlg::pCreateEntry() {
     return pLayOut();
 }
 
+QLayout* KeywordEntryDlg::pCreateEnd() {
+    return AddEnd(this, okButton);
+}
+
 void KeywordEntryDlg::vCreateControls() {
     tabs = add<CXTPTabControl>(this, search_ids::tabs);
-    tabs->iInsertTab(Text(search_keys::keywordTab), 0);
-    tabs->iInsertTab(Text(search_keys::symbolTab), 1);
-    keywordEdit = add<QLineEdit>(this, search_ids::keywordEdit, Text(search_keys::keywordHint));
-    keywordEdit->setPlaceholderText(Text(search_keys::keywordHint));
-    poolList = addList(this, search_ids::pool, Text(search_keys::keywordTab));
-    poolButton = AddButton(this, search_ids::removeFromPool, Text(search_keys::removeFromPool));
-    symbolEdit = add<QLineEdit>(this, search_ids::symbolEdit, Text(search_keys::symbolHint));
-    symbolEdit->setPlaceholderText(Text(search_keys::symbolHint));
-    pickerButton = add<CHoverButton>(this, search_ids::picker, Text(search_keys::picker));
-    pickerButton->setToolTip(Text(search_keys::picker).toHtmlEscaped());
+    tabs->iInsertTab(LangText(search_keys::keywordTab), 0);
+    tabs->iInsertTab(LangText(search_keys::symbolTab), 1);
+    keywordEdit = add<QLineEdit>(this, search_ids::keywordEdit, LangText(search_keys::keywordHint));
+    keywordEdit->setPlaceholderText(LangText(search_keys::keywordHint));
+    poolList = addList(this, search_ids::pool, LangText(search_keys::keywordTab));
+    poolButton = AddButton(this, search_ids::removeFromPool, LangText(search_keys::removeFromPool));
+    symbolEdit = add<QLineEdit>(this, search_ids::symbolEdit, LangText(search_keys::symbolHint));
+    symbolEdit->setPlaceholderText(LangText(search_keys::symbolHint));
+    pickerButton = add<CHoverButton>(this, search_ids::picker, LangText(search_keys::picker));
+    pickerButton->setToolTip(LangText(search_keys::picker).toHtmlEscaped());
     pickerButton->setAutoDefault(false);
-    candidateList = addList(this, search_ids::candidates, Text(search_keys::symbolTab));
-    addButton = AddButton(this, search_ids::add, Text(search_keys::add));
-    removeButton = AddButton(this, search_ids::remove, Text(search_keys::remove));
-    removeAllButton = AddButton(this, removeAll.id, Text(search_keys::removeAll));
-    keywordList = addList(this, search_ids::keywords, Text(search_keys::keywords));
+    candidateList = addList(this, search_ids::candidates, LangText(search_keys::symbolTab));
+    addButton = AddButton(this, search_ids::add, LangText(search_keys::add));
+    removeButton = AddButton(this, search_ids::remove, LangText(search_keys::remove));
+    removeAllButton = AddButton(this, removeAll.id, LangText(search_keys::removeAll));
+    keywordList = addList(this, search_ids::keywords, LangText(search_keys::keywords));
     addTypedButton = AddButton(this, search_ids::addTyped, {});
     addTypedButton->setFocusPolicy(Qt::NoFocus);
     addTypedButton->hide();
-    okButton = AddButton(this, search_ids::ok, Text(search_keys::ok));
+    okButton = AddButton(this, search_ids::ok, LangText(search_keys::ok));
     for (QWidget* control : {static_cast<QWidget*>(keywordEdit), static_cast<QWidget*>(poolList),
                              static_cast<QWidget*>(symbolEdit), static_cast<QWidget*>(pickerButton),
                              static_cast<QWidget*>(candidateList), static_cast<QWidget*>(keywordList)})
@@ -141,7 +146,7 @@ QGridLayout* KeywordEntryDlg::pLayOut() {
     grid->addLayout(lists, 2, 0);
     grid->addWidget(poolButton, 3, 0, Qt::AlignLeft);
     grid->addLayout(buttons, 1, 1, 2, 1);
-    grid->addWidget(AddCaption(this, search_ids::keywordsCaption, Text(search_keys::keywords)), 0, 2,
+    grid->addWidget(AddCaption(this, search_ids::keywordsCaption, LangText(search_keys::keywords)), 0, 2,
                     Qt::AlignLeft | Qt::AlignVCenter);
     grid->addWidget(keywordList, 1, 2, 3, 1);
     grid->setColumnStretch(0, 1);

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "search/keyword_entry_dlg.h"
 
+#include "host/contract/lang_text.h"
 #include "host/contract/search_control.h"
 #include "host/contract/symbol_name.h"
 #include "host/controls/hover_button.h"
 #include "host/controls/quote_trv_change_symbol.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/xtp_tab_control.h"
-#include "search/condition_texts.h"
 #include "search/dialog_controls.h"
 #include "search/search_desk.h"
 #include "search/search_ids.h"
@@ -65,15 +65,11 @@ KeywordEntryDlg::KeywordEntryDlg(KeywordList conditionKeywords, KeywordList keyw
       removeAll(removing) {}
 
 int KeywordEntryDlg::DoModal() {
-    return RunOver(parentWidget(), this) == Accepted ? idOk : idCancel;
+    return RunModally(this);
 }
 
 void KeywordEntryDlg::OnOK() {
     accept();
-}
-
-QString KeywordEntryDlg::Text(QLatin1StringView key) const {
-    return DialogText(key);
 }
 
 // --- Tabs ---
@@ -173,7 +169,7 @@ void KeywordEntryDlg::vRemoveFromPool() {
 }
 
 void KeywordEntryDlg::vRemoveAll() {
-    if (!keywords.empty() && AskYesNo(this, Text(removeAll.question)))
+    if (!keywords.empty() && AskYesNo(this, LangText(removeAll.question)))
         vSetKeywords({});
 }
 

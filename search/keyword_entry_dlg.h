@@ -14,6 +14,7 @@ class BKQuoteInterface;
 class CHoverButton;
 class CXTPTabControl;
 class QGridLayout;
+class QLayout;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
@@ -28,10 +29,7 @@ class KeywordEntryDlg : public QDialog {
     Q_OBJECT
 
 public:
-    static constexpr int idOk = 1;
-    static constexpr int idCancel = 2;
-
-    // Runs the dialog: idOk or idCancel.
+    // Runs the dialog: search_ids::ok or search_ids::cancel.
     int DoModal();
 
     // What was edited, whatever the result was.
@@ -47,9 +45,9 @@ protected:
     // A back end has been installed.
     KeywordEntryDlg(KeywordList keywords, KeywordList pool, const RemoveAll& removeAll, QWidget* parent);
 
-    // Creates the controls and sets their texts.
+    // Creates the controls and sets their texts; the row of buttons at the end, when all others are there.
     QGridLayout* pCreateEntry();
-    QString Text(QLatin1StringView key) const;
+    QLayout* pCreateEnd();
 
     // Replaces the keywords of the condition; those at `selected` are selected in their list.
     void vSetKeywords(const KeywordList& changed, const std::vector<int>& selected = {});

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/news_key_search_dlg.h"
 
+#include "host/contract/lang_text.h"
 #include "host/controls/check_list_box.h"
 #include "host/controls/window_id.h"
 #include "search/condition_texts.h"
@@ -38,13 +39,13 @@ CNewsKeySearchDlg::CNewsKeySearchDlg(const KeywordList& keywordPool, const Categ
       newsTypes(categories),
       keySets(WithNewsTypes(stored, categories)) {
     SetWindowId(this, search_ids::newsKeySearch);
-    setWindowTitle(Text(search_keys::relationTitle));
+    setWindowTitle(LangText(search_keys::relationTitle));
     auto* column = new QVBoxLayout(this);
     column->setSpacing(fontMetrics().height() * 2 / 3);
-    column->addWidget(AddCaption(this, search_ids::newsKeyTitle, Text(search_keys::relationTitle)));
+    column->addWidget(AddCaption(this, search_ids::newsKeyTitle, LangText(search_keys::relationTitle)));
     column->addLayout(pCreateComposition(), 1);
     column->addLayout(pCreateKeySets());
-    column->addLayout(AddEnd(this, qobject_cast<QPushButton*>(GetDlgItem(this, search_ids::ok))));
+    column->addLayout(pCreateEnd());
     resize(fontMetrics().averageCharWidth() * 100, sizeHint().height());
     for (std::size_t row = 0; row < keySets.size(); ++row)
         vFillRow(static_cast<int>(row));
@@ -56,7 +57,7 @@ int CNewsKeySearchDlg::nearby() const {
 }
 
 QCheckBox* CNewsKeySearchDlg::pAddCheckBox(int id, QLatin1StringView key) {
-    auto* box = new QCheckBox(Text(key), this);
+    auto* box = new QCheckBox(LangText(key), this);
     SetWindowId(box, id);
     box->installEventFilter(this);
     return box;
@@ -75,7 +76,7 @@ QLayout* CNewsKeySearchDlg::pCreateNewsTypes() {
     allNewsTypes = pAddCheckBox(search_ids::allNewsTypes, search_keys::selectAllNewsTypes);
     newsTypeList = new CCheckListBox(this);
     SetWindowId(newsTypeList, search_ids::newsTypes);
-    newsTypeList->setAccessibleName(Text(search_keys::newsType));
+    newsTypeList->setAccessibleName(LangText(search_keys::newsType));
     newsTypeList->installEventFilter(this);
     for (const auto& [id, name] : newsTypes)
         newsTypeList->item(newsTypeList->AddString(name))->setData(Qt::UserRole, id);
@@ -89,7 +90,7 @@ QLayout* CNewsKeySearchDlg::pCreateNewsTypes() {
         }
     });
     auto* head = new QHBoxLayout;
-    head->addWidget(AddCaption(this, search_ids::newsTypesCaption, Text(search_keys::newsType)));
+    head->addWidget(AddCaption(this, search_ids::newsTypesCaption, LangText(search_keys::newsType)));
     head->addStretch();
     head->addWidget(allNewsTypes);
     auto* column = new QVBoxLayout;
@@ -102,12 +103,12 @@ QLayout* CNewsKeySearchDlg::pCreateNewsTypes() {
 QLayout* CNewsKeySearchDlg::pCreateSaving() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(fontMetrics().height());
-    method = AddChoices(this, *grid, 0, AddCaption(this, 0, Text(search_keys::method)), methods);
+    method = AddChoices(this, *grid, 0, AddCaption(this, 0, LangText(search_keys::method)), methods);
     method->button(1)->setChecked(true);
     grid->setColumnStretch(static_cast<int>(methods.size()) + 1, 1);
-    saveButton = AddButton(this, search_ids::saveKeySet, Text(search_keys::addKeySet));
+    saveButton = AddButton(this, search_ids::saveKeySet, LangText(search_keys::addKeySet));
     connect(saveButton, &QPushButton::clicked, this, &CNewsKeySearchDlg::vSave);
-    auto* note = new QLabel(Text(search_keys::capitalsNote), this);
+    auto* note = new QLabel(LangText(search_keys::capitalsNote), this);
     note->setTextFormat(Qt::PlainText);
     note->setWordWrap(true);
     auto* column = new QVBoxLayout;
@@ -119,13 +120,13 @@ QLayout* CNewsKeySearchDlg::pCreateSaving() {
 }
 
 void CNewsKeySearchDlg::vCreateKeySetList() {
-    keySetList = new KeySetList(std::array{ReportColumn{Text(search_keys::methodColumn), methodWidth,
+    keySetList = new KeySetList(std::array{ReportColumn{LangText(search_keys::methodColumn), methodWidth,
                                                         Qt::AlignHCenter, MethodTexts()},
-                                           ReportColumn{Text(search_keys::newsType), newsTypesWidth},
-                                           ReportColumn{Text(search_keys::contentsColumn), 0}},
+                                           ReportColumn{LangText(search_keys::newsType), newsTypesWidth},
+                                           ReportColumn{LangText(search_keys::contentsColumn), 0}},
                                 this);
     SetWindowId(keySetList, search_ids::keySets);
-    keySetList->setAccessibleName(Text(search_keys::relationTitle));
+    keySetList->setAccessibleName(LangText(search_keys::relationTitle));
     keySetList->setFixedHeight(keySetList->iHeightOf(keySetRows));
     keySetList->installEventFilter(this);
     connect(keySetList, &KeySetList::RowChosen, this, &CNewsKeySearchDlg::vEdit);
@@ -144,7 +145,7 @@ QLayout* CNewsKeySearchDlg::pCreateKeySets() {
         for (int row = 0; row < keySetList->rowCount(); ++row)
             keySetList->vTick(row, ticked);
     });
-    deleteButton = AddButton(this, search_ids::deleteKeySets, Text(search_keys::deleteKeySets));
+    deleteButton = AddButton(this, search_ids::deleteKeySets, LangText(search_keys::deleteKeySets));
     connect(deleteButton, &QPushButton::clicked, this, [this] { vDelete(keySetList->TickedRows()); });
     auto* under = new QHBoxLayout;
     under->addWidget(allKeySets);
@@ -184,7 +185,8 @@ CNewsKey CNewsKeySearchDlg::ComposedKeySet() const {
 void CNewsKeySearchDlg::vSave() {
     const CNewsKey keySet = ComposedKeySet();
     if (keySet.newsTypes.empty() || keySet.keywords.empty()) {
-        TellError(this, Text(keySet.newsTypes.empty() ? search_keys::noNewsType : search_keys::noKeyword));
+        TellError(this,
+                  LangText(keySet.newsTypes.empty() ? search_keys::noNewsType : search_keys::noKeyword));
         return;
     }
     const int row = SaveKeySet(keySets, keySet, editing);
@@ -208,13 +210,13 @@ void CNewsKeySearchDlg::vEdit(int row) {
         newsTypeList->SetCheck(
             type, std::find(keySet.newsTypes.begin(), keySet.newsTypes.end(), id) != keySet.newsTypes.end());
     }
-    saveButton->setText(Text(search_keys::editKeySet));
+    saveButton->setText(LangText(search_keys::editKeySet));
     keySetList->vMark(row);
 }
 
 void CNewsKeySearchDlg::vLeaveEditing() {
     editing = -1;
-    saveButton->setText(Text(search_keys::addKeySet));
+    saveButton->setText(LangText(search_keys::addKeySet));
     vSetKeywords({});
     keySetList->vMark(-1);
 }
@@ -235,7 +237,7 @@ void CNewsKeySearchDlg::vDelete(const std::vector<int>& rows) {
     std::vector<CNewsKey> doomed;
     for (const int row : rows)
         doomed.push_back(keySets.at(static_cast<std::size_t>(row)));
-    if (doomed.empty() || !AskYesNo(this, Text(search_keys::askDeleteKeySets).arg(doomed.size())))
+    if (doomed.empty() || !AskYesNo(this, LangText(search_keys::askDeleteKeySets).arg(doomed.size())))
         return;
     const std::vector<int> equal = RowsOfEqual(keySets, doomed);
     for (auto row = equal.rbegin(); row != equal.rend(); ++row) {

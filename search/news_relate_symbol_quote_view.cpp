@@ -3,6 +3,7 @@
 #include "search/news_relate_symbol_quote_view.h"
 
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/lang_text.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/views/sheet_scheme.h"

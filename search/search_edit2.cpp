@@ -3,6 +3,7 @@
 #include "search/search_edit2.h"
 
 #include "headline_list/language_keys.h"
+#include "host/contract/lang_text.h"
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -36,6 +37,5 @@ void SearchEdit2::inputMethodEvent(QInputMethodEvent* event) {
 
 void SearchEdit2::vRefuse(QLatin1StringView key) {
     if (owner != nullptr)
-        owner->vShowTip({mapToGlobal(QPoint(0, 0)), size()},
-                        LangText(*BKQuoteInterface::GetBKInterface(), key));
+        owner->vShowTip({mapToGlobal(QPoint(0, 0)), size()}, LangText(key));
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/warn_term_config_dlg.h"
 
+#include "host/contract/lang_text.h"
 #include "host/controls/window_id.h"
 #include "search/condition_texts.h"
 #include "search/dialog_controls.h"
@@ -32,7 +33,7 @@ constexpr std::array scopes{Choice{search_ids::warningHeadlines, scopeKeys[0]},
 CWarnTermConfigDlg::CWarnTermConfigDlg(const CSearch& edited, QWidget* parent)
     : QDialog(parent), condition(edited) {
     SetWindowId(this, search_ids::warnTermConfig);
-    setWindowTitle(DialogText(search_keys::warningItemTitle));
+    setWindowTitle(LangText(search_keys::warningItemTitle));
     vCreateControls();
     const QStringList keywords(condition.keywords.begin(), condition.keywords.end());
     keywordEdit->setText(keywords.join(u", "_s));
@@ -44,19 +45,19 @@ CWarnTermConfigDlg::CWarnTermConfigDlg(const CSearch& edited, QWidget* parent)
 void CWarnTermConfigDlg::vCreateControls() {
     keywordEdit = new QLineEdit(this);
     SetWindowId(keywordEdit, search_ids::warningEdit);
-    keywordEdit->setAccessibleName(DialogText(search_keys::contentsColumn));
-    keywordEdit->setPlaceholderText(DialogText(search_keys::warningHint));
+    keywordEdit->setAccessibleName(LangText(search_keys::contentsColumn));
+    keywordEdit->setPlaceholderText(LangText(search_keys::warningHint));
     keywordEdit->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(fontMetrics().height());
-    grid->addWidget(AddCaption(this, 0, DialogText(search_keys::contentsColumn)), 0, 0);
+    grid->addWidget(AddCaption(this, 0, LangText(search_keys::contentsColumn)), 0, 0);
     grid->addWidget(keywordEdit, 0, 1, 1, static_cast<int>(scopes.size()) + 1);
-    method = AddChoices(this, *grid, 1, AddCaption(this, 0, DialogText(search_keys::method)), methods);
-    scope = AddChoices(this, *grid, 2, AddCaption(this, 0, DialogText(search_keys::scope)), scopes);
+    method = AddChoices(this, *grid, 1, AddCaption(this, 0, LangText(search_keys::method)), methods);
+    scope = AddChoices(this, *grid, 2, AddCaption(this, 0, LangText(search_keys::scope)), scopes);
     grid->setColumnStretch(static_cast<int>(scopes.size()) + 1, 1);
 
-    QPushButton* ok = AddButton(this, search_ids::ok, DialogText(search_keys::warningOk));
+    QPushButton* ok = AddButton(this, search_ids::ok, LangText(search_keys::warningOk));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "search/warn_term_dlg.h"
 
+#include "host/contract/lang_text.h"
+#include "host/controls/heap_dialog.h"
 #include "host/controls/window_id.h"
 #include "search/condition_texts.h"
 #include "search/dialog_controls.h"
@@ -10,7 +12,6 @@
 #include "search/warn_term_config_dlg.h"
 
 #include <QBoxLayout>
-#include <QPointer>
 #include <QPushButton>
 
 #include <array>
@@ -35,7 +36,7 @@ QString methodText(int method) {
 CWarnTermDlg::CWarnTermDlg(const WarningItems& items, const CSearch& inForce, QWidget* parent)
     : QDialog(parent), warnings(items), chosen(inForce) {
     SetWindowId(this, search_ids::warnTerms);
-    setWindowTitle(DialogText(search_keys::warningTitle));
+    setWindowTitle(LangText(search_keys::warningTitle));
     vCreateList();
     auto* column = new QVBoxLayout(this);
     column->setSpacing(fontMetrics().height() * 2 / 3);
@@ -49,19 +50,19 @@ CWarnTermDlg::CWarnTermDlg(const WarningItems& items, const CSearch& inForce, QW
 }
 
 int CWarnTermDlg::DoModal() {
-    return RunOver(parentWidget(), this) == Accepted ? search_ids::ok : search_ids::cancel;
+    return RunModally(this);
 }
 
 void CWarnTermDlg::vCreateList() {
     list = new ReportList(
         std::array{
             ReportColumn{u" "_s, numberWidth},
-            ReportColumn{DialogText(search_keys::scopeColumn), scopeWidth, Qt::AlignLeft, ScopeTexts()},
-            ReportColumn{DialogText(search_keys::methodColumn), methodWidth, Qt::AlignHCenter, MethodTexts()},
-            ReportColumn{DialogText(search_keys::contentsColumn), 0}},
+            ReportColumn{LangText(search_keys::scopeColumn), scopeWidth, Qt::AlignLeft, ScopeTexts()},
+            ReportColumn{LangText(search_keys::methodColumn), methodWidth, Qt::AlignHCenter, MethodTexts()},
+            ReportColumn{LangText(search_keys::contentsColumn), 0}},
         this);
     SetWindowId(list, search_ids::warnings);
-    list->setAccessibleName(DialogText(search_keys::warningTitle));
+    list->setAccessibleName(LangText(search_keys::warningTitle));
     list->setMinimumHeight(list->iHeightOf(rowsInSight));
     connect(
         list, &QTableWidget::cellDoubleClicked, this, [this] { vEdit(); }, Qt::QueuedConnection);
@@ -70,7 +71,7 @@ void CWarnTermDlg::vCreateList() {
 QLayout* CWarnTermDlg::pCreateCommands() {
     auto* row = new QHBoxLayout;
     const auto add = [&](int id, QLatin1StringView key, void (CWarnTermDlg::*act)()) {
-        QPushButton* button = AddButton(this, id, DialogText(key));
+        QPushButton* button = AddButton(this, id, LangText(key));
         connect(button, &QPushButton::clicked, this, act);
         row->addWidget(button);
     };
@@ -82,7 +83,7 @@ QLayout* CWarnTermDlg::pCreateCommands() {
 }
 
 QLayout* CWarnTermDlg::pCreateEnd() {
-    QPushButton* ok = AddButton(this, search_ids::ok, DialogText(search_keys::ok));
+    QPushButton* ok = AddButton(this, search_ids::ok, LangText(search_keys::ok));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &CWarnTermDlg::OnOK);
     return AddEnd(this, ok);
@@ -106,12 +107,11 @@ void CWarnTermDlg::vFillRow(int row) {
 }
 
 bool CWarnTermDlg::bEdit(CSearch& condition) {
-    const QPointer<CWarnTermConfigDlg> dialog(new CWarnTermConfigDlg(condition, this));
-    const bool accepted = RunOver(this, dialog) == Accepted;
-    if (accepted)
-        condition = dialog->Condition();
-    delete dialog;
-    return accepted;
+    const HeapDialog dialog(new CWarnTermConfigDlg(condition, this));
+    if (RunOver(this, dialog.get()) != Accepted)
+        return false;
+    condition = dialog->Condition();
+    return true;
 }
 
 void CWarnTermDlg::vAdd() {
@@ -143,7 +143,7 @@ void CWarnTermDlg::vDelete() {
 void CWarnTermDlg::OnOK() {
     const int row = SelectedRow();
     if (row < 0) {
-        TellError(this, DialogText(search_keys::noWarningSelected));
+        TellError(this, LangText(search_keys::noWarningSelected));
         return;
     }
     warnings.Choose(row, chosen);

@@ -3,6 +3,7 @@
 #include "story/news_story_view.h"
 
 #include "headline_list/language_keys.h"
+#include "host/contract/lang_text.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/quote_static_ex.h"
 #include "host/controls/window_id.h"
@@ -77,7 +78,7 @@ void NewsStoryView::vDraw(const StoryTexts& texts) {
 
 void NewsStoryView::vStoryUpdateNotify(const CHeadlineTable*) {
     if (notice != nullptr)
-        vSetNotice(LangText(*BKQuoteInterface::GetBKInterface(), keys::waitForUpdate));
+        vSetNotice(LangText(keys::waitForUpdate));
 }
 
 void NewsStoryView::vSetNotice(const QString& text) {
@@ -162,9 +163,8 @@ void NewsStoryView::vChangeCast() {
 }
 
 void NewsStoryView::vLoadLanguageString() {
-    BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
-    titleEdit->setAccessibleName(LangText(backEnd, keys::title));
-    storyEdit->setAccessibleName(LangText(backEnd, keys::nameOfStory));
+    titleEdit->setAccessibleName(LangText(keys::title));
+    storyEdit->setAccessibleName(LangText(keys::nameOfStory));
 }
 
 void NewsStoryView::changeEvent(QEvent* event) {

@@ -3,6 +3,7 @@
 #include "story/trv_news_story.h"
 
 #include "headline_list/language_keys.h"
+#include "host/contract/lang_text.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/quote_static_ex.h"
@@ -82,12 +83,11 @@ void TRVNewsStory::vCreateButtons() {
 }
 
 void TRVNewsStory::vLoadLanguageString() {
-    BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
-    setWindowTitle(LangText(backEnd, keys::storyDialogTitle));
-    titleEdit->setAccessibleName(LangText(backEnd, keys::title));
-    storyEdit->setAccessibleName(LangText(backEnd, keys::nameOfStory));
+    setWindowTitle(LangText(keys::storyDialogTitle));
+    titleEdit->setAccessibleName(LangText(keys::title));
+    storyEdit->setAccessibleName(LangText(keys::nameOfStory));
     for (std::size_t i = 0; i < buttons.size(); ++i)
-        buttons[i]->setText(LangText(backEnd, storyButtons[i].textKey));
+        buttons[i]->setText(LangText(storyButtons[i].textKey));
     vLayOut();
 }
 
@@ -136,7 +136,7 @@ void TRVNewsStory::vSetStorySearchMarke() {
 }
 
 void TRVNewsStory::vStoryUpdateNotify(const CHeadlineTable*) {
-    vSetNotice(LangText(*BKQuoteInterface::GetBKInterface(), keys::waitForUpdate));
+    vSetNotice(LangText(keys::waitForUpdate));
 }
 
 void TRVNewsStory::vSetNotice(const QString& text) {
@@ -188,18 +188,17 @@ void TRVNewsStory::OnBtnSaveas() {
 // --- The main frame's texts ---
 
 void TRVNewsStory::vMainFrameShowHeadline(const QString& text) {
-    vDraw({text, LangText(*BKQuoteInterface::GetBKInterface(), keys::recover), true});
+    vDraw({text, LangText(keys::recover), true});
 }
 
 void TRVNewsStory::vMainFrameShowStroy(const CStory& story) {
-    BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
     if (story.text.isEmpty()) {
-        vShowStory(LangText(backEnd, keys::recover));
+        vShowStory(LangText(keys::recover));
         return;
     }
     QString body = story.text;
     vConvertStoryContent(body);
-    vShowStory(StoryText(story.time, body, BodyEnd::Shown, LangText(backEnd, keys::storyRemark)));
+    vShowStory(StoryText(story.time, body, BodyEnd::Shown, LangText(keys::storyRemark)));
 }
 
 // --- Layout ---

@@ -3,6 +3,7 @@
 #include "host/controls/quote_trv_change_symbol.h"
 
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/lang_text.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/roomy_rows.h"
 #include "host/controls/symbol_matches.h"
@@ -27,10 +28,6 @@ constexpr int mostMatches = 200;
 constexpr int marketRole = Qt::UserRole;  // the index of the market
 constexpr int codeRole = Qt::UserRole + 1;
 
-QString text(const QString& key) {
-    return BKQuoteInterface::GetBKInterface()->LangGetLangString(key);
-}
-
 }  // namespace
 
 QuoteTRVChangeSymbol::QuoteTRVChangeSymbol(QWidget* parent, int /*purpose*/) : QDialog(parent) {}
@@ -38,9 +35,9 @@ QuoteTRVChangeSymbol::QuoteTRVChangeSymbol(QWidget* parent, int /*purpose*/) : Q
 bool QuoteTRVChangeSymbol::Create() {
     if (BKQuoteInterface::GetBKInterface() == nullptr)
         return false;
-    setWindowTitle(text(u"IDS_DIALOG-CHANGE-SYMBOL_TITLE"_s));
+    setWindowTitle(LangText("IDS_DIALOG-CHANGE-SYMBOL_TITLE"_L1));
     search = new QLineEdit(this);
-    search->setPlaceholderText(text(u"IDS_DIALOG-CHANGE-SYMBOL_HINT"_s));
+    search->setPlaceholderText(LangText("IDS_DIALOG-CHANGE-SYMBOL_HINT"_L1));
     search->setAccessibleName(search->placeholderText());
     search->setClearButtonEnabled(true);
     search->installEventFilter(this);
@@ -51,8 +48,8 @@ bool QuoteTRVChangeSymbol::Create() {
     tree->setUniformRowHeights(true);
     tree->setItemDelegate(new RoomyRows(tree));
     tree->header()->setStretchLastSection(true);
-    auto* choose = new QPushButton(text(u"IDS_DIALOG-CHANGE-SYMBOL_CHOOSE"_s), this);
-    auto* close = new QPushButton(text(u"IDS_DIALOG-CHANGE-SYMBOL_CLOSE"_s), this);
+    auto* choose = new QPushButton(LangText("IDS_DIALOG-CHANGE-SYMBOL_CHOOSE"_L1), this);
+    auto* close = new QPushButton(LangText("IDS_DIALOG-CHANGE-SYMBOL_CLOSE"_L1), this);
     const std::pair<QWidget*, int> numbers[] = {
         {search, searchEdit}, {tree, symbolTree}, {choose, chooseButton}, {close, closeButton}};
     for (const auto& [control, id] : numbers)

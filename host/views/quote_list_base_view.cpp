@@ -3,6 +3,7 @@
 #include "host/views/quote_list_base_view.h"
 
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/lang_text.h"
 #include "host/contract/symbol_name.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/super_sheet_wnd.h"
@@ -109,11 +110,6 @@ void QuoteListBaseView::vSetUpColumns(int nameCharacters) {
     });
     vLoadLanguageString();
     vChangeCast();
-}
-
-QString QuoteListBaseView::LangText(QLatin1StringView key) {
-    auto* backEnd = BKQuoteInterface::GetBKInterface();
-    return backEnd != nullptr ? backEnd->LangGetLangString(QString(key)) : QString(key);
 }
 
 void QuoteListBaseView::vLoadLanguageString() {

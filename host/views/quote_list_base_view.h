@@ -8,8 +8,6 @@
 #include "host/views/quote_flashes.h"
 #include "host/views/quote_table.h"
 
-#include <QLatin1StringView>
-
 #include <vector>
 
 class CSuperSheetWnd;
@@ -72,8 +70,6 @@ public:
     void vChangeCast() override;
 
 protected:
-    // The text of a language key in the language in force.
-    static QString LangText(QLatin1StringView key);
     virtual void vLoadLanguageString();
     void vNotSupportSymbol(QPainter& painter) override;
     // What is said in place of an empty list.

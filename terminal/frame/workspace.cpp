@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/workspace.h"
 
-#include "host/contract/bk_quote_interface.h"
+#include "host/contract/lang_text.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
@@ -22,7 +22,7 @@ namespace wirepane {
 namespace {
 
 const QString viewClass = u"TRVNewsCtrlView"_s;
-const QString symbolNewsKey = u"IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS"_s;
+constexpr QLatin1StringView symbolNewsKey{"IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS"};
 
 constexpr int tabStrip = 3100;  // the view's tabs
 constexpr int symbolMode = 2;
@@ -52,7 +52,7 @@ QString subjectOf(const OpenView& open, bool& ofSymbol) {
     ofSymbol = open.newsType == 1 || open.newsType == 2;
     QString caption;
     if (ofSymbol)
-        caption = BKQuoteInterface::GetBKInterface()->LangGetLangString(symbolNewsKey);
+        caption = LangText(symbolNewsKey);
     else
         open.view->GetCaption(caption);
     return caption;

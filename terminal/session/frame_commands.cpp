@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/frame_commands.h"
 
+#include "host/controls/heap_dialog.h"
 #include "terminal/frame/read_as_of_dialog.h"
 #include "terminal/frame/settings_dialog.h"
 #include "terminal/frame/symbol_box.h"
@@ -11,7 +12,6 @@
 
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 
 namespace wirepane {
@@ -133,28 +133,19 @@ void FrameCommands::carryOutOnView(FrameCommand command) {
 }
 
 void FrameCommands::readAsOf() {
-    const QPointer<ReadAsOfDialog> dialog = new ReadAsOfDialog(&session.frame());
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (dialog.isNull())
-        return;
-    const std::int64_t moment = dialog->moment();
-    delete dialog;
-    if (accepted)
-        report(session.readAsOf(moment));
+    const HeapDialog dialog(new ReadAsOfDialog(&session.frame()));
+    if (dialog->exec() == QDialog::Accepted)
+        report(session.readAsOf(dialog->moment()));
 }
 
 void FrameCommands::changeSettings() {
     TerminalSettings& settings = session.settings();
     const TerminalChoices present{session.language(), settings.scheme(), settings.fontSize(),
                                   settings.switches()};
-    const QPointer<SettingsDialog> dialog = new SettingsDialog(present, &session.frame());
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (dialog.isNull())
+    const HeapDialog dialog(new SettingsDialog(present, &session.frame()));
+    if (dialog->exec() != QDialog::Accepted)
         return;
     const TerminalChoices chosen = dialog->choices();
-    delete dialog;
-    if (!accepted)
-        return;
     if (chosen.scheme != present.scheme)
         session.setScheme(chosen.scheme);
     if (chosen.fontSize != present.fontSize)
@@ -169,21 +160,17 @@ void FrameCommands::rename(int number) {
     const OpenView* view = session.workspace().find(number);
     if (view == nullptr)
         return;
-    const QPointer<QInputDialog> dialog = new QInputDialog(&session.frame());
+    const HeapDialog dialog(new QInputDialog(&session.frame()));
     dialog->setWindowTitle(terminalText(TextId::RenameTitle));
     dialog->setLabelText(terminalText(TextId::RenamePrompt));
     dialog->setTextValue(view->title);
     dialog->setOkButtonText(terminalText(TextId::Accept));
     dialog->setCancelButtonText(terminalText(TextId::Cancel));
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (dialog.isNull())
+    if (dialog->exec() != QDialog::Accepted)
         return;
-    const QString title = dialog->textValue();
-    delete dialog;
     // It may have been closed meanwhile.
-    OpenView* named = session.workspace().find(number);
-    if (accepted && named != nullptr)
-        session.workspace().rename(*named, title);
+    if (OpenView* named = session.workspace().find(number))
+        session.workspace().rename(*named, dialog->textValue());
 }
 
 void FrameCommands::save() {

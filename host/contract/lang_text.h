@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLatin1StringView>
+#include <QString>
+
+// The text of a language key in the language in force, from the installed back end; the key itself without
+// one.
+QString LangText(QLatin1StringView key);
