@@ -61,6 +61,7 @@ inline constexpr QLatin1StringView charactersReplaced{"IDS_NEWSCTRLVIEW_STRING_C
 inline constexpr QLatin1StringView waitingToPrint{"IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PRINT"};
 inline constexpr QLatin1StringView waitingToSave{"IDS_NEWSCTRLVIEW_STRING_WAITING_TO_SAVE"};
 inline constexpr QLatin1StringView waitingToPreview{"IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PREVIEW"};
+inline constexpr QLatin1StringView stopWaiting{"IDS_NEWSCTRLVIEW_STRING_STOP_WAITING"};
 
 inline constexpr QLatin1StringView time{"IDS_NEWSCTRLVIEW_STRING_TIME"};
 inline constexpr QLatin1StringView category{"IDS_NEWSCTRLVIEW_STRING_CATEGORY"};

@@ -16,6 +16,7 @@ inline constexpr int searchEdit = 3008;
 inline constexpr int datePicker = 3009;
 inline constexpr int serviceButton = 3010;
 inline constexpr int serviceCombo = 3011;
+inline constexpr int stopWaiting = 3012;  // a menu command, too
 inline constexpr int tabStrip = 3100;
 inline constexpr int pageDownButton = 8067;
 inline constexpr int pageUpButton = 8068;

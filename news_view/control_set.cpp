@@ -40,11 +40,12 @@ constexpr std::array buttonTexts{
     ButtonText{ids::saveAsButton, keys::storySaveAs},
 };
 
-// Controls without a text of their own, as they are called.
+// Controls without words on them, as they are called.
 constexpr std::array controlNames{
     ButtonText{ids::tabStrip, keys::nameOfModes},     ButtonText{ids::datePicker, keys::nameOfDate},
     ButtonText{ids::categoryCombo, keys::category},   ButtonText{ids::serviceCombo, keys::nameOfMarket},
     ButtonText{ids::symbolCombo, keys::nameOfSymbol}, ButtonText{ids::searchEdit, keys::nameOfSearchText},
+    ButtonText{ids::stopWaiting, keys::stopWaiting},
 };
 
 struct Placement {
@@ -98,6 +99,13 @@ void ControlSet::CreateTypeBtn() {
 void ControlSet::CreateFunctionBtn() {
     for (const int id : {ids::pageDownButton, ids::pageUpButton, ids::saveAsButton, ids::printButton})
         vAddButton(id, {});
+}
+
+void ControlSet::vCreateStopButton() {
+    vAddButton(ids::stopWaiting, {});
+    auto* button = Find<SButton>(ids::stopWaiting);
+    button->setText(QStringLiteral("\u00D7"));
+    button->hide();
 }
 
 void ControlSet::vCreateServiceButton(const QRect& rectangle) {

@@ -26,6 +26,8 @@ public:
 
     void CreateTypeBtn();
     void CreateFunctionBtn();
+    // Hidden.
+    void vCreateStopButton();
     void vCreateServiceButton(const QRect& rectangle);
     void vCreateTabStrip(const QRect& rectangle);
     void vCreateDatePicker(const QRect& rectangle, const QDate& date);

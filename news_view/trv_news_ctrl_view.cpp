@@ -29,7 +29,7 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       keyRouter(*this),
       dates(host_clock::today()) {
     for (TRVNewsPrint* job : pJobs()) {
-        job->vSetOnAwaited([this] { update(); });
+        job->vSetOnAwaited([this] { vPlaceStopButton(); });
         job->vSetOnFinished([this](const NewsOutcome& outcome) { vTell(outcome); });
     }
 }
@@ -74,6 +74,7 @@ bool TRVNewsCtrlView::OnCommand(int id) {
         {ids::saveNews, &TRVNewsCtrlView::OnSaveNews},
         {ids::pageDownButton, &TRVNewsCtrlView::OnBtnPageDown},
         {ids::pageUpButton, &TRVNewsCtrlView::OnBtnPageUp},
+        {ids::stopWaiting, &TRVNewsCtrlView::OnStopWaiting},
         {ids::changeCategoryState, &TRVNewsCtrlView::OnChangeCategoryState},
     };
     const auto* command = std::find_if(std::begin(commands), std::end(commands),

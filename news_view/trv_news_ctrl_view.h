@@ -216,6 +216,8 @@ public:
     void OnSaveNews() override { vTell(SaveNews(std::nullopt)); }
     void OnBtnPrint() { OnPrintNews(); }
     void OnBtnSaveas() { OnSaveNews(); }
+    // What is still waited for is not printed, saved or shown any more.
+    void OnStopWaiting();
     // Brings a printable story into lines: see output/printable_story.h.
     static void Linefeed(QString& story) { ::Linefeed(story); }
     NewsOutcome PrintNews(const std::optional<OutputTarget>& target) override;
@@ -387,6 +389,9 @@ private:
     void vDrawNotice(QPainter& painter);
     QString NoticeText() const;
     QString AwaitedText() const;
+    bool bAwaitsOutput() const;
+    // Shows it beside the notice while there is something to stop.
+    void vPlaceStopButton();
     void vSetStatusText(const QString& text);
     QRect NoticeArea() const;
     QColor TimeColour(std::int64_t time) const override;

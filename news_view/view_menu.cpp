@@ -58,6 +58,8 @@ void TRVNewsCtrlView::vPopUpMenu(const QPoint& screen, bool onRow) {
         vAddCommand(keys::printNews, ids::printNews);
         vAddCommand(keys::saveAsNews, ids::saveNews);
     }
+    if (bAwaitsOutput())
+        vAddCommand(keys::stopWaiting, ids::stopWaiting);
     contextMenu->popup(screen);
 }
 

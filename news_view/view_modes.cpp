@@ -63,6 +63,7 @@ void TRVNewsCtrlView::SwitchFunction(int mode) {
         return;
     vTakeServicesOver(toLoad);
     vLoadMode(toLoad);
+    vPlaceStopButton();
     update();
     vUpdateView();
     CSuperSheetWnd* sheet = pGetCurrSheetView();
@@ -173,6 +174,7 @@ void TRVNewsCtrlView::vSetComponentPos() {
             sheet->setGeometry(withoutControls ? layout.gridWithoutControls : layout.grid);
     }
     laidOut = true;
+    vPlaceStopButton();
     update();
     vUpdateView();
 }

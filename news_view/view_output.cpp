@@ -68,17 +68,6 @@ NewsOutcome TRVNewsCtrlView::PutOut(TRVNewsPrint& job, int button,
     return outcome;
 }
 
-QString TRVNewsCtrlView::AwaitedText() const {
-    const std::pair<const TRVNewsPrint&, QLatin1StringView> jobs[] = {
-        {printer, keys::waitingToPrint}, {saver, keys::waitingToSave}, {preview, keys::waitingToPreview}};
-    QStringList texts;
-    for (const auto& [job, text] : jobs) {
-        if (const int awaited = job.iAwaited(); awaited > 0)
-            texts.append(LangText(backEnd, text).arg(awaited));
-    }
-    return texts.join(QStringLiteral(" · "));
-}
-
 void TRVNewsCtrlView::vTell(const NewsOutcome& outcome) {
     if (!outcome.message.isEmpty())
         emit MessageForUser(outcome.message);

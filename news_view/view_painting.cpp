@@ -16,15 +16,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// Amber that reads well on the background.
-QColor lateColour(const QColor& background) {
-    return background.lightness() > 127 ? QColor(0xA8, 0x50, 0x00) : QColor(0xFF, 0xB0, 0x40);
-}
-
-}  // namespace
-
 bool TRVNewsCtrlView::OnEraseBkgnd(QPainter& painter) {
     if (!laidOut)
         return false;
@@ -48,58 +39,6 @@ void TRVNewsCtrlView::vSetStatusText(const QString& text) {
         return;
     statusText = text;
     update();
-}
-
-// That the feed is cut off, or what the lists have to say; and before it what printing and saving wait for.
-QString TRVNewsCtrlView::NoticeText() const {
-    const auto offlineSince = breaks.Since();
-    QStringList parts{AwaitedText(),
-                      offlineSince ? LangText(backEnd, keys::offlineSince) + QLatin1Char(' ') +
-                                         TimeText(*offlineSince, false)
-                                   : statusText.trimmed(),
-                      StandingNotice()};
-    parts.removeAll(QString());
-    return parts.join(u" · "_s);
-}
-
-// In the free part of the control row.
-void TRVNewsCtrlView::vDrawNotice(QPainter& painter) {
-    const QString text = NoticeText();
-    const QRect area = NoticeArea();
-    if (text.isEmpty() || area.isEmpty())
-        return;
-    painter.setFont(GetViewFont());
-    painter.setPen(breaks.Since() ? lateColour(colBackground) : colText);
-    painter.drawText(area, Qt::AlignVCenter | Qt::TextSingleLine,
-                     painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width()));
-}
-
-// The widest gap that the shown controls leave in their row.
-QRect TRVNewsCtrlView::NoticeArea() const {
-    constexpr int margin = 8;
-    QRect row = LayOut(vLayoutInput()).datePicker;
-    row.setLeft(0);
-    row.setRight(width() - 1);
-    QList<QRect> taken{QRect(width(), row.top(), 1, 1)};
-    for (const QObject* child : children()) {
-        const auto* control = qobject_cast<const QWidget*>(child);
-        if (control != nullptr && control->isVisible() && control->geometry().intersects(row))
-            taken.append(control->geometry());
-    }
-    std::sort(taken.begin(), taken.end(), [](const QRect& a, const QRect& b) { return a.left() < b.left(); });
-    int end = 0;
-    QRect widest;
-    for (const QRect& control : taken) {
-        const QRect gap(end + margin, row.top(), control.left() - end - 2 * margin, row.height());
-        if (gap.width() > widest.width())
-            widest = gap;
-        end = std::max(end, control.right() + 1);
-    }
-    return widest;
-}
-
-QColor TRVNewsCtrlView::TimeColour(std::int64_t time) const {
-    return breaks.bHolds(time) ? lateColour(colBackground) : QColor();
 }
 
 void TRVNewsCtrlView::DrawTitile(QPainter& painter) {

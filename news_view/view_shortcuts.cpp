@@ -49,10 +49,11 @@ constexpr std::array otherHints{
 };
 
 constexpr std::array tabOrder{
-    ids::tabStrip,       ids::showTypeButton, ids::serviceButton,     ids::relationSearchButton,
-    ids::datePicker,     ids::categoryCombo,  ids::serviceCombo,      ids::symbolCombo,
-    ids::searchEdit,     ids::searchButton,   ids::dealsSearchButton, ids::warningSearchButton,
-    ids::pageDownButton, ids::pageUpButton,   ids::saveAsButton,      ids::printButton,
+    ids::tabStrip,    ids::showTypeButton, ids::serviceButton,     ids::relationSearchButton,
+    ids::datePicker,  ids::categoryCombo,  ids::serviceCombo,      ids::symbolCombo,
+    ids::searchEdit,  ids::searchButton,   ids::dealsSearchButton, ids::warningSearchButton,
+    ids::stopWaiting, ids::pageDownButton, ids::pageUpButton,      ids::saveAsButton,
+    ids::printButton,
 };
 
 }  // namespace
@@ -88,6 +89,8 @@ void TRVNewsCtrlView::vLoadToolTips() {
         hint(command);
     for (const CommandKey& command : otherHints)
         hint(command);
+    QWidget* stop = GetDlgItem(this, ids::stopWaiting);
+    stop->setToolTip(stop->accessibleName().toHtmlEscaped());
 }
 
 void TRVNewsCtrlView::vSetTabOrder() {

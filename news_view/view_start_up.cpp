@@ -68,6 +68,7 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
         controls.CreateTypeBtn();
         controls.CreateFunctionBtn();
     }
+    controls.vCreateStopButton();
     services.vInitialNewsService(*reader, settingsPath, *this);
     searches.vRestore(SearchMemory::read(*reader, settingsPath));
     bInitialTransferCatObject();

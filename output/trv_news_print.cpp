@@ -58,6 +58,12 @@ int TRVNewsPrint::iAwaited() const {
     return static_cast<int>(awaited);
 }
 
+void TRVNewsPrint::vForgetAwaited() {
+    std::erase_if(queue, [](const Pending& pending) { return !bIsComplete(pending.items); });
+    if (onAwaited)
+        onAwaited();
+}
+
 void TRVNewsPrint::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
     for (Pending& pending : queue)
         TakeTitles(backEnd, pending.items, entries, pending.services);

@@ -36,6 +36,8 @@ public:
     bool bIsWaiting() const { return !queue.empty(); }
     // How many pieces of news are waited for: they lack their title or their story.
     int iAwaited() const;
+    // Waits no longer: news that is not complete by now is never put out.
+    void vForgetAwaited();
 
     // What the back end answers.
     void RespHeadLine(const std::vector<CHeadlineTable>& entries);

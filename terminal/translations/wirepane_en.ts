@@ -479,6 +479,10 @@
         <source></source>
         <translation>&amp;Category Column</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_STOP_WAITING">
+        <source></source>
+        <translation>Stop Waiting to Print or Save</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS">
         <source></source>
         <translation>By Symbol</translation>

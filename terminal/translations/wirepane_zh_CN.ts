@@ -479,6 +479,10 @@
         <source></source>
         <translation>显示分类栏(&amp;C)</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_STOP_WAITING">
+        <source></source>
+        <translation>不再等待打印或保存</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS">
         <source></source>
         <translation>个股新闻</translation>

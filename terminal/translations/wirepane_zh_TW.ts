@@ -479,6 +479,10 @@
         <source></source>
         <translation>顯示分類欄(&amp;C)</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_STOP_WAITING">
+        <source></source>
+        <translation>不再等待列印或存檔</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS">
         <source></source>
         <translation>個股新聞</translation>

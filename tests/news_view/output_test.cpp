@@ -119,6 +119,45 @@ TEST_F(ViewOutputTest, WaitsForStoriesAndClosesWhileItWaits) {
     EXPECT_FALSE(QFile::exists(folder.filePath(u"late.pdf"_s)));
 }
 
+TEST_F(ViewOutputTest, TheUserStopsWaiting) {
+    backEnd.storyAtHand = false;
+    openWithNews();
+    auto* stop = qobject_cast<SButton*>(GetDlgItem(view.get(), ids::stopWaiting));
+    ASSERT_NE(stop, nullptr);
+    EXPECT_TRUE(stop->isHidden()) << "nothing is waited for";
+    // A window over the view takes no room in its control row.
+    select(1);
+    view->OnShowStory();
+    dialog()->setGeometry(-5, -5, 2000, 1000);
+    select(0);
+    EXPECT_TRUE(view->SaveNews(target(u"late.txt"_s)).waiting);
+    EXPECT_FALSE(stop->isHidden());
+    EXPECT_FALSE(stop->accessibleName().isEmpty());
+    EXPECT_EQ(stop->toolTip(), stop->accessibleName());
+    stop->setFocus();
+    QTest::keyClick(stop, Qt::Key_Return);
+    EXPECT_TRUE(stop->isHidden());
+    EXPECT_EQ(view->focusWidget(), view->Sheet(all));
+
+    // The menu has it too. What has come by then is put out.
+    EXPECT_TRUE(view->PrintNews(target(u"never.pdf"_s)).waiting);
+    select(1);
+    EXPECT_TRUE(view->SaveNews(target(u"whole.txt"_s)).waiting);
+    backEnd.storyAtHand = true;
+    view->RespStory(view->GetHeadlineTable(1));
+    view->OnContextMenu(view->mapToGlobal(QPoint(20, view->height() / 2)));
+    const auto actions = view->findChildren<QAction*>();
+    const auto item = std::find_if(actions.begin(), actions.end(),
+                                   [](const QAction* action) { return action->data() == ids::stopWaiting; });
+    ASSERT_NE(item, actions.end());
+    (*item)->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return saved(u"whole.txt"_s).contains("Body 2"); }));
+    view->RespStory(view->GetHeadlineTable(0));
+    QApplication::processEvents();
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"late.txt"_s)));
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"never.pdf"_s)));
+}
+
 TEST_F(ViewOutputTest, TellsWhyAFileCouldNotBeWritten) {
     openWithNews();
     QSignalSpy told(view.get(), &TRVQuoteBaseView::MessageForUser);
