@@ -25,6 +25,7 @@ void TRVNewsCtrlView::InitialNewsRelateQuoteView() {
             [this](unsigned char, unsigned char service, const QString& code) {
                 emit SendChangeSymbol(GetLinkGroup(), service, code);
             });
+    quotes->vSetSorting(settings.quoteSorting);
     stage.vSetQuotes(quotes);
     vSetComponentPos();
     if (bPaneShowsStories() && shownStoryRow >= 0)

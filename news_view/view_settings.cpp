@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/view_settings.h"
 
+#include <cstdlib>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -12,8 +14,20 @@ const QString showCategoryKey = u"ShowCategory"_s;
 const QString focusedTabKey = u"FocusedTab"_s;
 const QString symbolKey = u"SymbolID"_s;
 const QString categoryKey = u"CategoryID"_s;
+const QString quoteSortingKey = u"QuoteSorting"_s;
 
 constexpr unsigned short highestShowType = 2;
+
+std::optional<QuoteTable::Sorting> sortingOf(int number) {
+    if (number == 0 || number < -quoteColumns || number > quoteColumns)
+        return std::nullopt;
+    return QuoteTable::Sorting{static_cast<QuoteColumn>(std::abs(number) - 1), number < 0};
+}
+
+int numberOf(const std::optional<QuoteTable::Sorting>& sorting) {
+    const int column = sorting ? static_cast<int>(sorting->column) + 1 : 0;
+    return sorting && sorting->descending ? -column : column;
+}
 
 }  // namespace
 
@@ -30,6 +44,9 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
     reader.GetViewInfo(path, focusedTabKey, settings.focusedTab);
     reader.GetViewInfo(path, symbolKey, settings.symbolId);
     reader.GetViewInfo(path, categoryKey, settings.categoryId);
+    int quoteSorting = 0;
+    reader.GetViewInfo(path, quoteSortingKey, quoteSorting);
+    settings.quoteSorting = sortingOf(quoteSorting);
     return settings;
 }
 
@@ -40,4 +57,5 @@ void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
     writer.SetViewInfo(path, focusedTabKey, focusedTab);
     writer.SetViewInfo(path, symbolKey, symbolId);
     writer.SetViewInfo(path, categoryKey, categoryId);
+    writer.SetViewInfo(path, quoteSortingKey, numberOf(quoteSorting));
 }

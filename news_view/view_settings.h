@@ -3,11 +3,13 @@
 #pragma once
 
 #include "host/contract/cfg_io.h"
+#include "host/views/quote_table.h"
 #include "news_view/mode_table.h"
 
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 // The settings of a view that are plain values; what is absent or makes no sense has its default. The
 // services keep their own (NewsServices).
@@ -18,6 +20,8 @@ struct ViewSettings {
     int focusedTab = 0;                             // "FocusedTab": the function mode to open with
     QString symbolId;                               // "SymbolID"
     QString categoryId;                             // "CategoryID"
+    // "QuoteSorting": the number of the column from 1 on, negative: descending; 0: none
+    std::optional<QuoteTable::Sorting> quoteSorting;
 
     // `defaultTab`: the focused tab when none is stored.
     static ViewSettings read(const TRVCfgIO2& reader, const ViewSettingPath& path, int defaultTab);

@@ -10,6 +10,7 @@
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
 #include "story/quote_dlg_tip_msg.h"
 #include "story/trv_news_story.h"
@@ -226,6 +227,8 @@ void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, in
     settings.newsShowType = GetStoryShowType();
     if (!symbols.Current().code.isEmpty())
         settings.symbolId = symbols.Current().code;
+    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+        settings.quoteSorting = quotes->GetTable().sorting();
     settings.write(*writer, path);
     services.vSave(*writer, path);
     searches.memory.write(*writer, path);

@@ -415,13 +415,19 @@ void QuoteListBaseView::ChangeSymbol(const QWidget* sender, unsigned char group,
 }
 
 void QuoteListBaseView::vSortBy(QuoteColumn column) {
-    if (sheet == nullptr)
-        return;
     const auto& now = table.sorting();
     const bool same = now && now->column == column;
     const bool cleared = same && now->descending;
-    sheet->horizontalHeader()->setSortIndicator(cleared ? -1 : static_cast<int>(column),
-                                                same ? Qt::DescendingOrder : Qt::AscendingOrder);
+    vSetSorting(cleared ? std::nullopt : std::optional(QuoteTable::Sorting{column, same}));
+}
+
+void QuoteListBaseView::vSetSorting(const std::optional<QuoteTable::Sorting>& sorting) {
+    if (sheet == nullptr)
+        return;
+    // The header tells of its change.
+    sheet->horizontalHeader()->setSortIndicator(
+        sorting ? static_cast<int>(sorting->column) : -1,
+        sorting && sorting->descending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 bool QuoteListBaseView::OnSheetKey(int key) {

@@ -50,6 +50,8 @@ public:
     void vGetFocusSymbol(CSymbolInfo& symbol) const;
     // Up, down, not at all: as a click on the column's header.
     void vSortBy(QuoteColumn column);
+    // As the user left it: GetTable().sorting(). After vSetUpColumns.
+    void vSetSorting(const std::optional<QuoteTable::Sorting>& sorting);
     // Null before CreateView.
     CSuperSheetWnd* pGetSheet() const { return sheet; }
 

@@ -6,6 +6,8 @@
 #include "story/news_story_view.h"
 #include "tests/news_view/view_fixture.h"
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -84,6 +86,25 @@ TEST_F(RelatedQuotesTest, ListsTheSymbolsOfTheShownHeadlineAndNoOthers) {
     EXPECT_EQ(rows(), ofNewest);
     view->GetSymbolNews(u"2330"_s);
     EXPECT_EQ(rows(), QStringList());
+}
+
+TEST_F(RelatedQuotesTest, IsSortedAsItWasLeft) {
+    const QStringList reversed{ofNewest[1], ofNewest[0]};
+    const auto shownAt = [&](const QVariant& stored) {
+        open({{u"QuoteSorting"_s, stored}});
+        selectRow(0);
+        return rows();
+    };
+    EXPECT_EQ(shownAt(-2), reversed);
+    view->SaveViewInfo(&settings, u"Layout"_s, 0, 0);
+    EXPECT_EQ(settings.values[u"QuoteSorting"_s], -2);
+    EXPECT_EQ(shownAt(settings.values[u"QuoteSorting"_s]), reversed);
+    quotes()->vSortBy(QuoteColumn::Code);
+    EXPECT_EQ(rows(), reversed);
+    view->SaveViewInfo(&settings, u"Layout"_s, 0, 0);
+    EXPECT_EQ(settings.values[u"QuoteSorting"_s], 1);
+    for (const int nonsense : {0, 7, -7, std::numeric_limits<int>::min()})
+        EXPECT_EQ(shownAt(nonsense), ofNewest) << nonsense;
 }
 
 TEST_F(RelatedQuotesTest, HandsOnWhatTheBackEndSays) {
