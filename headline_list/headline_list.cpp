@@ -62,7 +62,7 @@ HeadlinePlace HeadlineList::vProcessNewHeadline(const CHeadline& headline, bool 
         vInsertHeadline(row, headline, showDate);
         return {row, -1};
     }
-    const int old = table.rowOfNumber(KeyOf(headline), 0);
+    const int old = table.rowOfNumber(KeyOf(headline));
     if (old != known) {
         // Another day's row goes, and this day's stays below the new one.
         vUpdateHeadline(known, headline, showDate);

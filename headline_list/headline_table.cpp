@@ -5,10 +5,11 @@
 #include <algorithm>
 
 std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
+    std::vector<CHeadlineTable> copies;
     const int first = std::max(from, 0);
-    const int end = count > 0 && first < size() ? first + std::min(count, size() - first) : first;
-    return end > first ? std::vector<CHeadlineTable>(entries.begin() + first, entries.begin() + end)
-                       : std::vector<CHeadlineTable>();
+    for (int row = first; row < size() && row - first < count; ++row)
+        copies.push_back(at(row));
+    return copies;
 }
 
 int HeadlineTable::rowOf(const HeadlineKey& key) const {
@@ -18,20 +19,26 @@ int HeadlineTable::rowOf(const HeadlineKey& key) const {
     if (row < 0 || at(row).time == key.time)
         return row;
     // A wire that uses a number twice a day is rare enough to read the rows.
-    const auto isKey = [&](const CHeadlineTable& entry) { return KeyOf(entry) == key; };
-    const auto found = hasMore ? std::find_if(entries.begin() + row, entries.end(), isKey) : entries.end();
-    return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
+    return hasMore ? entries.firstWithin(row, size(),
+                                         [&](const CHeadlineTable& entry) { return KeyOf(entry) == key; })
+                   : -1;
 }
 
 // Entries of one time and number, of several services, stand side by side in a sorted table.
 int HeadlineTable::rowInOrder(const HeadlineKey& key) const {
-    const auto isBefore = [](const CHeadlineTable& entry, const HeadlineKey& wanted) {
-        return entry.time > wanted.time || (entry.time == wanted.time && entry.sequence > wanted.sequence);
-    };
-    auto entry = std::lower_bound(entries.begin(), entries.end(), key, isBefore);
-    for (; entry != entries.end() && entry->time == key.time && entry->sequence == key.sequence; ++entry) {
-        if (entry->service == key.service)
-            return static_cast<int>(entry - entries.begin());
+    int row = 0;
+    int end = size();
+    while (row < end) {
+        const int middle = row + (end - row) / 2;
+        const CHeadlineTable& entry = at(middle);
+        if (entry.time > key.time || (entry.time == key.time && entry.sequence > key.sequence))
+            row = middle + 1;
+        else
+            end = middle;
+    }
+    for (; row < size() && at(row).time == key.time && at(row).sequence == key.sequence; ++row) {
+        if (at(row).service == key.service)
+            return row;
     }
     return -1;
 }
@@ -40,6 +47,7 @@ void HeadlineTable::BuildIndex() const {
     if (indexed)
         return;
     byNumber.rebuild(entries);
+    entries.forEach([&](HeadlineRows::Ticket, const CHeadlineTable& entry) { days.add(entry.time); });
     indexed = true;
 }
 
@@ -48,33 +56,39 @@ int HeadlineTable::rowOfSameDay(const HeadlineKey& key) const {
     return byNumber.find(entries, {key.time, key.sequence, key.service, 0, 0}).row;
 }
 
-int HeadlineTable::rowOfNumber(const HeadlineKey& key, int from) const {
-    const auto found = std::find_if(entries.begin() + std::clamp(from, 0, size()), entries.end(),
+int HeadlineTable::rowOfNumber(const HeadlineKey& key) const {
+    // So few rows are read sooner than they are found by days.
+    constexpr int nearTheTop = 64;
+    int first = entries.firstWithin(0, std::min(size(), nearTheTop),
                                     [&](const CHeadlineTable& entry) { return HaveSameNumber(entry, key); });
-    return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
-}
-
-int HeadlineTable::insertPosition(std::int64_t time) const {
-    const auto earlier = std::find_if(entries.begin(), entries.end(),
-                                      [&](const CHeadlineTable& entry) { return entry.time < time; });
-    return static_cast<int>(earlier - entries.begin());
+    if (first >= 0)
+        return first;
+    BuildIndex();
+    for (const std::int64_t time : days.times()) {
+        const int row = byNumber.find(entries, {time, key.sequence, key.service, 0, 0}).row;
+        if (row >= 0 && (first < 0 || row < first))
+            first = row;
+    }
+    return first;
 }
 
 void HeadlineTable::insert(int row, const CHeadlineTable& entry) {
     BuildIndex();
-    entries.insert(entries.begin() + row, entry);
+    entries.insert(row, entry);
     byNumber.inserted(entries, row);
+    days.add(entry.time);
 }
 
 void HeadlineTable::remove(int row) {
     BuildIndex();
     byNumber.removing(entries, row);
-    entries.erase(entries.begin() + row);
+    entries.remove(row);
 }
 
 void HeadlineTable::assign(const TableRuns& runs) {
     entries = SortedNewestFirst(runs);
     byNumber.clear();
+    days.clear();
     indexed = false;
 }
 
@@ -82,4 +96,5 @@ void HeadlineTable::clear() {
     entries = {};
     indexed = true;
     byNumber.clear();
+    days.clear();
 }

@@ -11,15 +11,14 @@
 #include <vector>
 
 // The entries of one headline list: row 0 is the newest, as far as the list is sorted (headlines that were
-// sent again leave it unsorted). At the top, rows come and go in constant time; further down, in time that
-// grows with the distance from the top alone.
+// sent again leave it unsorted). Rows come and go and are found in time that hardly grows with the list.
 class HeadlineTable {
 public:
-    int size() const { return static_cast<int>(entries.size()); }
+    int size() const { return entries.size(); }
     bool empty() const { return entries.empty(); }
 
     // The entry of a row in [0, size()).
-    const CHeadlineTable& at(int row) const { return entries[static_cast<std::size_t>(row)]; }
+    const CHeadlineTable& at(int row) const { return entries.at(row); }
 
     // Up to `count` entries from row `from` on, cut at the end of the table.
     std::vector<CHeadlineTable> rows(int from, int count) const;
@@ -28,13 +27,13 @@ public:
     int rowOf(const HeadlineKey& key) const;
     // The first row with the service and number of the key on its local calendar day; -1 when there is none.
     int rowOfSameDay(const HeadlineKey& key) const;
-    // The first row from `from` on with the service and number of the key, on whatever day; -1 when there is
-    // none. Reads the rows on its way.
-    int rowOfNumber(const HeadlineKey& key, int from) const;
+    // The first row with the service and number of the key, on whatever day; -1 when there is none. Costs as
+    // much as there are days in the table.
+    int rowOfNumber(const HeadlineKey& key) const;
 
     // The first row from the top that is earlier than `time`, size() when there is none: where a headline of
-    // that time is put in. Reads the rows above it.
-    int insertPosition(std::int64_t time) const;
+    // that time is put in.
+    int insertPosition(std::int64_t time) const { return entries.firstEarlierThan(time); }
 
     // Puts an entry in before `row`, in [0, size()].
     void insert(int row, const CHeadlineTable& entry);
@@ -54,5 +53,6 @@ private:
 
     HeadlineRows entries;
     mutable RowIndex<SameNumberOnDay> byNumber;
+    mutable ListedDays days;
     mutable bool indexed = true;  // false: `entries` are sorted, the index is to be built
 };

@@ -40,3 +40,16 @@ std::int64_t LocalDays::of(std::int64_t time) {
     }
     return time < last.midnight ? last.before : last.after;
 }
+
+void ListedDays::add(std::int64_t time) {
+    const std::int64_t day = days.of(time);
+    if (day == last)
+        return;
+    last = day;
+    if (listed.insert(day).second)
+        timeOfEach.push_back(time);
+}
+
+void ListedDays::clear() {
+    *this = {};
+}

@@ -3,7 +3,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <unordered_map>
+#include <unordered_set>
+#include <vector>
 
 // Tells which local calendar day a time falls on, quickly: each UTC day is asked of the calendar once. An
 // answer once given stays, also when the machine's time zone changes: an index may be built on it.
@@ -26,4 +29,18 @@ private:
     std::int64_t lastUtcDay = 0;
     UtcDay last = {0, 0, 0};
     bool hasLast = false;
+};
+
+// The local calendar days that a list's headlines fall on, each told by one of its times.
+class ListedDays {
+public:
+    void add(std::int64_t time);
+    void clear();
+    const std::vector<std::int64_t>& times() const { return timeOfEach; }
+
+private:
+    LocalDays days;
+    std::unordered_set<std::int64_t> listed;
+    std::vector<std::int64_t> timeOfEach;
+    std::optional<std::int64_t> last;  // most headlines fall on the day of the one before
 };

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/sort_order.h"
+#include "headline_list/headline_rows.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -12,9 +12,8 @@
 // Finds the first row that is the same as a given entry, where Identity says what "the same" means: it has
 // hash(entry) and same(entry, entry).
 //
-// It holds positions only, about six bytes a row; the rows are handed in at every call. A position counts
-// from the bottom, so a row that is put in at the top changes no other; one that comes or goes further down
-// costs as much as there are rows above it. The table grows a segment at a time: no row pays for the whole.
+// It holds the rows' tickets only, about six bytes a row; the rows are handed in at every call. The table
+// grows a segment at a time: no row pays for the whole.
 template <class Identity>
 class RowIndex {
 public:
@@ -33,11 +32,12 @@ public:
     void removing(const HeadlineRows& rows, int row);
 
 private:
-    // A slot is 0 when it is free; else position + 1, five bits of the row's hash, which spare most looks at
+    // A slot is 0 when it is free; else ticket + 1, five bits of the row's hash, which spare most looks at
     // rows that are not the same, and in the lowest bit: rows further down may be the same. Room for 67
     // million rows.
     using Slot = std::uint32_t;
-    static constexpr int positionShift = 6;
+    static constexpr int ticketShift = 6;
+    using Ticket = HeadlineRows::Ticket;
     static constexpr Slot tagMask = 0x1F;
     struct Segment {
         std::vector<Slot> held;  // at most three quarters full
@@ -48,21 +48,15 @@ private:
     static constexpr std::uint32_t freshSegment = 300;
     static constexpr int deepest = 24;
 
-    static int positionOf(const HeadlineRows& rows, int row) {
-        return static_cast<int>(rows.size()) - 1 - row;
-    }
     static Slot tagOf(std::uint64_t hash) { return static_cast<Slot>(hash) & tagMask; }
-    static Slot slotFor(int position, std::uint64_t hash, bool shared) {
-        return ((static_cast<Slot>(position) + 1) << positionShift) | (tagOf(hash) << 1) | (shared ? 1U : 0U);
+    static Slot slotFor(Ticket ticket, std::uint64_t hash, bool shared) {
+        return ((ticket + 1) << ticketShift) | (tagOf(hash) << 1) | (shared ? 1U : 0U);
     }
-    static int positionIn(Slot slot) { return static_cast<int>(slot >> positionShift) - 1; }
+    static Ticket ticketIn(Slot slot) { return (slot >> ticketShift) - 1; }
     static bool hasTag(Slot slot, std::uint64_t hash) { return ((slot >> 1) & tagMask) == tagOf(hash); }
     static bool isShared(Slot slot) { return (slot & 1U) != 0; }
-    static int rowIn(const HeadlineRows& rows, Slot slot) {
-        return static_cast<int>(rows.size()) - 1 - positionIn(slot);
-    }
     std::uint64_t hashIn(const HeadlineRows& rows, Slot slot) const {
-        return identity.hash(rows[static_cast<std::size_t>(rowIn(rows, slot))]);
+        return identity.hash(rows.entryOf(ticketIn(slot)));
     }
 
     std::size_t leadingBits(std::uint64_t hash) const { return depth == 0 ? 0 : hash >> (64 - depth); }
@@ -81,13 +75,18 @@ private:
         return i;
     }
 
+    std::size_t seekSame(const HeadlineRows& rows, const Segment& segment, std::uint64_t hash,
+                         const CHeadlineTable& entry) const {
+        return seek(segment, hash, [&](Slot candidate) {
+            return hasTag(candidate, hash) && identity.same(rows.entryOf(ticketIn(candidate)), entry);
+        });
+    }
+
     struct HashedRow {
         std::uint64_t hash;
-        int row;
+        Ticket ticket;
     };
     void fillFresh(const HeadlineRows& rows, Segment& segment, std::span<const HashedRow> content);
-    void add(const HeadlineRows& rows, int row);
-    void move(const CHeadlineTable& entry, int from, int to);
     void takeOut(const HeadlineRows& rows, Segment& segment, std::size_t i);
     Segment& segmentWithRoom(const HeadlineRows& rows, std::uint64_t hash);
     void refill(const HeadlineRows& rows, Segment& segment, std::size_t slotCount,
@@ -103,23 +102,24 @@ private:
 template <class Identity>
 void RowIndex<Identity>::rebuild(const HeadlineRows& rows) {
     clear();
-    while ((rows.size() >> depth) > freshSegment)
+    const auto rowCount = static_cast<std::size_t>(rows.size());
+    while ((rowCount >> depth) > freshSegment)
         ++depth;
     segments.resize(std::size_t(1) << depth);
-    std::vector<std::uint64_t> hashes;
-    hashes.reserve(rows.size());
+    std::vector<HashedRow> hashed;
+    hashed.reserve(rowCount);
     std::vector<std::size_t> ends(segments.size() + 1, 0);
-    for (const CHeadlineTable& entry : rows) {
-        hashes.push_back(identity.hash(entry));
-        ++ends[leadingBits(hashes.back()) + 1];
-    }
+    rows.forEach([&](Ticket ticket, const CHeadlineTable& entry) {
+        hashed.push_back({identity.hash(entry), ticket});
+        ++ends[leadingBits(hashed.back().hash) + 1];
+    });
     for (std::size_t number = 1; number < ends.size(); ++number)
         ends[number] += ends[number - 1];
     // The rows by segment: one segment's slots and hashes stay at hand while they are filled.
-    std::vector<HashedRow> ordered(rows.size());
+    std::vector<HashedRow> ordered(rowCount);
     std::vector<std::size_t> places = ends;
-    for (std::size_t row = 0; row < rows.size(); ++row)
-        ordered[places[leadingBits(hashes[row])]++] = {hashes[row], static_cast<int>(row)};
+    for (const HashedRow& row : hashed)
+        ordered[places[leadingBits(row.hash)]++] = row;
     for (std::size_t number = 0; number < segments.size(); ++number) {
         directory.push_back(static_cast<std::uint32_t>(number));
         segments[number].depth = depth;
@@ -139,14 +139,13 @@ void RowIndex<Identity>::fillFresh(const HeadlineRows& rows, Segment& segment,
         std::size_t i = home(segment, row.hash);
         while (segment.held[i] != 0 &&
                (standing[i] != row.hash ||
-                !identity.same(rows[static_cast<std::size_t>(rowIn(rows, segment.held[i]))],
-                               rows[static_cast<std::size_t>(row.row)])))
+                !identity.same(rows.entryOf(ticketIn(segment.held[i])), rows.entryOf(row.ticket))))
             i = next(segment, i);
         if (segment.held[i] != 0) {
             segment.held[i] |= 1U;
             continue;
         }
-        segment.held[i] = slotFor(positionOf(rows, row.row), row.hash, false);
+        segment.held[i] = slotFor(row.ticket, row.hash, false);
         standing[i] = row.hash;
         ++segment.used;
     }
@@ -159,75 +158,45 @@ typename RowIndex<Identity>::Found RowIndex<Identity>::find(const HeadlineRows& 
         return {};
     const std::uint64_t hash = identity.hash(entry);
     const Segment& segment = segments[directory[leadingBits(hash)]];
-    const Slot slot = segment.held[seek(segment, hash, [&](Slot candidate) {
-        return hasTag(candidate, hash) &&
-               identity.same(rows[static_cast<std::size_t>(rowIn(rows, candidate))], entry);
-    })];
-    return slot == 0 ? Found() : Found{rowIn(rows, slot), isShared(slot)};
+    const Slot slot = segment.held[seekSame(rows, segment, hash, entry)];
+    return slot == 0 ? Found() : Found{rows.rowOf(ticketIn(slot)), isShared(slot)};
 }
 
+// Rows that are the same as one above them are not held; a slot for them is marked as shared.
 template <class Identity>
 void RowIndex<Identity>::inserted(const HeadlineRows& rows, int row) {
     if (segments.empty()) {
         rebuild(rows);
         return;
     }
-    // From the top down, so that no two rows ever have one position.
-    for (int above = 0; above < row; ++above) {
-        const int position = positionOf(rows, above);
-        move(rows[static_cast<std::size_t>(above)], position - 1, position);
-    }
-    add(rows, row);
+    const CHeadlineTable& entry = rows.at(row);
+    const std::uint64_t hash = identity.hash(entry);
+    Segment& segment = segmentWithRoom(rows, hash);
+    Slot& slot = segment.held[seekSame(rows, segment, hash, entry)];
+    if (slot == 0)
+        ++segment.used;
+    const bool isFirst = slot == 0 || row < rows.rowOf(ticketIn(slot));
+    slot = slotFor(isFirst ? rows.ticketOf(row) : ticketIn(slot), hash, slot != 0);
 }
 
 template <class Identity>
 void RowIndex<Identity>::removing(const HeadlineRows& rows, int row) {
-    const std::uint64_t hash = identity.hash(rows[static_cast<std::size_t>(row)]);
-    Segment& segment = segments[directory[leadingBits(hash)]];
-    const int position = positionOf(rows, row);
-    const std::size_t i = seek(segment, hash, [&](Slot slot) { return positionIn(slot) == position; });
-    if (segment.held[i] != 0) {
-        const auto below = rows.begin() + row + 1;
-        const auto heir = !isShared(segment.held[i])
-                              ? rows.end()
-                              : std::find_if(below, rows.end(), [&](const CHeadlineTable& entry) {
-                                    return identity.same(entry, rows[static_cast<std::size_t>(row)]);
-                                });
-        if (heir == rows.end())
-            takeOut(rows, segment, i);
-        else
-            segment.held[i] = slotFor(positionOf(rows, static_cast<int>(heir - rows.begin())), hash, true);
-    }
-    for (int above = row; above-- > 0;) {
-        const int from = positionOf(rows, above);
-        move(rows[static_cast<std::size_t>(above)], from, from - 1);
-    }
-}
-
-// Rows that are the same as one above them are not held; a slot for them is marked as shared.
-template <class Identity>
-void RowIndex<Identity>::add(const HeadlineRows& rows, int row) {
-    const CHeadlineTable& entry = rows[static_cast<std::size_t>(row)];
-    const std::uint64_t hash = identity.hash(entry);
-    Segment& segment = segmentWithRoom(rows, hash);
-    Slot& slot = segment.held[seek(segment, hash, [&](Slot candidate) {
-        return hasTag(candidate, hash) &&
-               identity.same(rows[static_cast<std::size_t>(rowIn(rows, candidate))], entry);
-    })];
-    if (slot == 0)
-        ++segment.used;
-    const bool isFirst = slot == 0 || row < rowIn(rows, slot);
-    slot = slotFor(isFirst ? positionOf(rows, row) : positionIn(slot), hash, slot != 0);
-}
-
-template <class Identity>
-void RowIndex<Identity>::move(const CHeadlineTable& entry, int from, int to) {
+    const CHeadlineTable& entry = rows.at(row);
     const std::uint64_t hash = identity.hash(entry);
     Segment& segment = segments[directory[leadingBits(hash)]];
-    Slot& slot =
-        segment.held[seek(segment, hash, [&](Slot candidate) { return positionIn(candidate) == from; })];
-    if (slot != 0)
-        slot = slotFor(to, hash, isShared(slot));
+    const Ticket ticket = rows.ticketOf(row);
+    const std::size_t i = seek(segment, hash, [&](Slot slot) { return ticketIn(slot) == ticket; });
+    if (segment.held[i] == 0)
+        return;
+    const int heir = !isShared(segment.held[i])
+                         ? -1
+                         : rows.firstWithin(row + 1, rows.size(), [&](const CHeadlineTable& candidate) {
+                               return identity.same(candidate, entry);
+                           });
+    if (heir < 0)
+        takeOut(rows, segment, i);
+    else
+        segment.held[i] = slotFor(rows.ticketOf(heir), hash, true);
 }
 
 // Closes the gap, so that every other slot is still found from its home.

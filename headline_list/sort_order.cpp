@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <numeric>
 #include <span>
 #include <tuple>
 
@@ -23,12 +24,10 @@ public:
             play(node);
     }
 
-    // Null when all entries are out.
-    const CHeadlineTable* take() {
+    // As often as there are entries.
+    const CHeadlineTable& take() {
         std::span<const CHeadlineTable>& head = heads[winners[1]];
-        if (head.empty())
-            return nullptr;
-        const CHeadlineTable* entry = head.data();
+        const CHeadlineTable& entry = head.front();
         head = head.subspan(1);
         for (std::size_t node = (leaves + winners[1]) / 2; node >= 1; node /= 2)
             play(node);
@@ -56,7 +55,7 @@ HeadlineRows sortedWhole(const TableRuns& runs) {
     for (const std::vector<CHeadlineTable>& run : runs)
         entries.insert(entries.end(), run.begin(), run.end());
     std::stable_sort(entries.begin(), entries.end(), NewerFirst);
-    return {entries.begin(), entries.end()};
+    return {static_cast<int>(entries.size()), [entry = entries.begin()]() mutable { return *entry++; }};
 }
 
 }  // namespace
@@ -71,9 +70,9 @@ HeadlineRows SortedNewestFirst(const TableRuns& runs) {
     };
     if (!std::all_of(runs.begin(), runs.end(), isSorted))
         return sortedWhole(runs);
-    HeadlineRows rows;
+    const auto count = std::accumulate(
+        runs.begin(), runs.end(), std::size_t(0),
+        [](std::size_t sum, const std::vector<CHeadlineTable>& run) { return sum + run.size(); });
     RunTournament tournament(runs);
-    while (const CHeadlineTable* entry = tournament.take())
-        rows.push_back(*entry);
-    return rows;
+    return {static_cast<int>(count), [&] { return tournament.take(); }};
 }

@@ -2,16 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/headline_rows.h"
 #include "host/contract/records.h"
 
-#include <deque>
 #include <vector>
 
 // The order of every headline table: newest first by time, then by sequence number, then by the two opaque
 // values, all descending.
 bool NewerFirst(const CHeadlineTable& a, const CHeadlineTable& b);
-
-using HeadlineRows = std::deque<CHeadlineTable>;  // row 0 is the newest
 
 // The tables of several services, one behind the other.
 using TableRuns = std::vector<std::vector<CHeadlineTable>>;

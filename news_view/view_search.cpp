@@ -163,7 +163,7 @@ void TRVNewsCtrlView::ProcessNewSearchHeadline(CSearch& condition, ListIndex ind
     backEnd.BKQNEWS_bSearchNews(headline.service, searchKind, condition);
     list.vSetTable(ReadServiceTable(backEnd, headline.service, TableKind::Search, key));
     list.vRefill();
-    const int row = list.Table().rowOfNumber(KeyOf(headline), 0);
+    const int row = list.Table().rowOfNumber(KeyOf(headline));
     if (row >= 0 && list.Table().rowOf(KeyOf(headline)) < 0)
         list.vInsertHeadline(row, headline, true);
 }

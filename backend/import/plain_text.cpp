@@ -7,7 +7,9 @@
 
 #include <QStringBuilder>
 
+#include <algorithm>
 #include <array>
+#include <cctype>
 #include <utility>
 
 namespace wirepane {
@@ -26,9 +28,14 @@ constexpr std::array<char16_t, 32> windowsCharacters{
 
 char32_t numberedCharacter(QStringView number) {
     const bool hexadecimal = number.startsWith(u'x') || number.startsWith(u'X');
+    const QStringView digits = number.sliced(hexadecimal ? 1 : 0);
+    // toUInt takes signs and white space as well, and anything behind a NUL.
+    const bool isPlain = std::all_of(digits.begin(), digits.end(), [&](QChar character) {
+        return character.unicode() < 128 && std::isalnum(character.unicode()) != 0;
+    });
     bool isNumber = false;
-    const uint code = number.sliced(hexadecimal ? 1 : 0).toUInt(&isNumber, hexadecimal ? 16 : 10);
-    if (!isNumber)
+    const uint code = digits.toUInt(&isNumber, hexadecimal ? 16 : 10);
+    if (!isPlain || !isNumber)
         return 0;
     if (code >= 128 && code < 160)
         return windowsCharacters.at(code - 128);

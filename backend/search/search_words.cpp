@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/search/search_words.h"
 
+#include <QStringDecoder>
+
 namespace wirepane {
 
 namespace {
@@ -150,7 +152,9 @@ QString keywordText(const QString& keyword) {
         end = reader.end();
         ++words;
     }
-    return QString::fromUtf8(utf8.first(end));
+    // A mark of byte order at the start is a character like any other here.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder(QByteArrayView(utf8).first(end));
 }
 
 }  // namespace wirepane

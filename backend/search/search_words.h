@@ -16,9 +16,8 @@ namespace wirepane {
 // check of the index share:
 // - characters are folded (CharacterFolding);
 // - a run of letters and digits is a word, cut after 60 characters; a decimal point between digits, and a
-// comma
-//   before three digits of a number, belong to it: "2.5", "11,700", but "2330,2317" are two codes and a
-//   comma;
+//   comma before three digits of a number, belong to it: "2.5", "11,700", but "2330,2317" are two codes and
+//   a comma;
 // - any character of a script without blanks, and any sign, is a word by itself: "c++" is c, + and +;
 // - blanks separate; a line end is the word "\n", so that no phrase is found across it.
 class WordReader {

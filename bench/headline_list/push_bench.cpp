@@ -62,12 +62,12 @@ struct PushNewest {
 };
 
 struct PushOfRow {
-    int row;
+    int row;     // negative: that in the middle of the list
     bool again;  // the headline of the row itself; else a new one of its time
     bool turn = false;
     CHeadline next(const HeadlineList& list) const {
         CHeadline headline = newestHeadline();
-        const CHeadlineTable& entry = list.Table().at(row);
+        const CHeadlineTable& entry = list.Table().at(row >= 0 ? row : list.Table().size() / 2);
         headline.time = entry.time;
         if (again) {
             headline.service = entry.service;
@@ -92,6 +92,14 @@ void pushLateNearTheTop(benchmark::State& state) {
 
 void sendRowTwentyAgain(benchmark::State& state) {
     measurePushes(state, "again", PushOfRow{20, true});
+}
+
+void pushLateFarDown(benchmark::State& state) {
+    measurePushes(state, "late far down", PushOfRow{-1, false});
+}
+
+void sendAgainFarDown(benchmark::State& state) {
+    measurePushes(state, "again far down", PushOfRow{-1, true});
 }
 
 void sendRowTwentyAgainAndPaint(benchmark::State& state) {
@@ -137,6 +145,8 @@ BENCHMARK(pushOne)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(10);
 BENCHMARK(pushOneAndPaint)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(10);
 BENCHMARK(pushLateNearTheTop)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(10);
 BENCHMARK(sendRowTwentyAgain)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(10);
+BENCHMARK(pushLateFarDown)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(10);
+BENCHMARK(sendAgainFarDown)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(10);
 BENCHMARK(sendRowTwentyAgainAndPaint)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(10);
 BENCHMARK(burst)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(memoryPerPushedHeadline)

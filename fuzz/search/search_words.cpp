@@ -5,6 +5,7 @@
 #include "fuzz/support/fuzz_input.h"
 
 #include <QList>
+#include <QStringDecoder>
 
 using namespace wirepane;
 
@@ -48,6 +49,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promiseFolding(text);
     const QString keyword = keywordText(text);
     promise(keywordText(keyword) == keyword, "what is searched for is a keyword");
-    promise(QString::fromUtf8(text.toUtf8()).startsWith(keyword), "what is searched for is the start of it");
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    const QString valid = decoder(text.toUtf8());
+    promise(valid.startsWith(keyword), "what is searched for is the start of it");
     return 0;
 }

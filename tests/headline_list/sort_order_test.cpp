@@ -65,7 +65,10 @@ TEST(SortOrder, MergingEqualsAStableSort) {
             expected.insert(expected.end(), run.begin(), run.end());
         }
         std::stable_sort(expected.begin(), expected.end(), NewerFirst);
-        ASSERT_EQ(keysOf(SortedNewestFirst(runs)), keysOf(expected)) << "round " << round;
+        std::vector<CHeadlineTable> sorted;
+        SortedNewestFirst(runs).forEach(
+            [&](HeadlineRows::Ticket, const CHeadlineTable& e) { sorted.push_back(e); });
+        ASSERT_EQ(keysOf(sorted), keysOf(expected)) << "round " << round;
     }
 }
 

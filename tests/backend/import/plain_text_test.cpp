@@ -64,6 +64,8 @@ TEST(PlainText, TextOfUnknownFormLosesOnlyWhatIsSurelyMarkup) {
         {u"lines\n\nstay", u"lines\n\nstay"},
         {u"<p>lines</p>\n<p>do\nnot</p>", u"lines\n\ndo not"},
         {u"AT&T", u"AT&T"},
+        {u"&#65;&#+65;&# 65;&#x 41;&#x41;", u"A&#+65;&# 65;&#x 41;A"},
+        {QStringView(u"&#65\0&#66;", 10), QStringView(u"&#65\0B", 6)},
     };
     for (const Row& row : rows)
         EXPECT_EQ(textOfUnknownForm(row.text), row.expected.toString()) << qPrintable(row.text.toString());
