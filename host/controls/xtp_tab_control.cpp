@@ -4,6 +4,7 @@
 
 #include "host/controls/plain_caption.h"
 
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 CXTPTabControl::CXTPTabControl(QWidget* parent) : QTabBar(parent) {
@@ -11,7 +12,10 @@ CXTPTabControl::CXTPTabControl(QWidget* parent) : QTabBar(parent) {
     setDrawBase(false);
     setUsesScrollButtons(true);
     setElideMode(Qt::ElideNone);
-    connect(this, &QTabBar::currentChanged, this, &CXTPTabControl::SelChange);
+    connect(this, &QTabBar::currentChanged, this, [this](int index) {
+        if (byUser)
+            emit SelChange(index);
+    });
 }
 
 int CXTPTabControl::iInsertTab(const QString& text, int itemData) {
@@ -34,6 +38,6 @@ int CXTPTabControl::iGetItemData(int index) const {
 }
 
 void CXTPTabControl::SetCurSel(int index) {
-    const QSignalBlocker silent(this);
+    const QScopedValueRollback quietly(byUser, false);
     setCurrentIndex(index);
 }

@@ -20,10 +20,13 @@ public:
 
     // The selected tab; -1 when there is none.
     int GetCurSel() const { return currentIndex(); }
-    // Selects a tab and tells nobody. An index out of range is ignored.
+    // Selects a tab: currentChanged tells of it, SelChange does not. An index out of range is ignored.
     void SetCurSel(int index);
 
 signals:
     // The user selected another tab, by mouse, wheel or keys.
     void SelChange(int index);
+
+private:
+    bool byUser = true;
 };

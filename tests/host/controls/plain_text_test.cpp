@@ -21,6 +21,7 @@
 TEST(Tabs, TellOfTheUserOnlyAndKeepTheirNumbers) {
     CXTPTabControl tabs;
     QSignalSpy told(&tabs, &CXTPTabControl::SelChange);
+    QSignalSpy changed(&tabs, &QTabBar::currentChanged);
     EXPECT_EQ(tabs.GetCurSel(), -1);
     EXPECT_EQ(tabs.iInsertTab(QStringLiteral("All"), 0), 0);
     EXPECT_EQ(tabs.iInsertTab(QStringLiteral("Category"), 1), 1);
@@ -34,6 +35,7 @@ TEST(Tabs, TellOfTheUserOnlyAndKeepTheirNumbers) {
     EXPECT_EQ(tabs.iGetItemData(2), 5);
     EXPECT_EQ(tabs.iGetItemData(3), 0);
     EXPECT_EQ(told.count(), 0);
+    EXPECT_EQ(changed.count(), 1) << "by whomever: a caption follows it";
 
     tabs.show();
     QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
