@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace wirepane {
@@ -114,7 +115,7 @@ bool ImportJob::store(const StoreItem& item, const QString& path, const QString&
     }
     ++(outcome.value().take == Take::TakenIn ? state.totals.takenIn : state.totals.alreadyThere);
     if (const auto* news = std::get_if<NewsItem>(&item)) {
-        state.anyNews = true;
+        state.newest = std::max(state.newest.value_or(news->time), news->time);
         state.anyRecent = state.anyRecent || isRecent(*news);
     }
     return true;
@@ -136,7 +137,7 @@ void ImportJob::finishFile(const QString& path, FileState& state, const Done& re
     }
     ++report.filesRead;
     report.totals += state.totals;
-    report.anyNews = report.anyNews || state.anyNews;
+    report.newest = std::max(report.newest, state.newest);
     report.anyRecent = report.anyRecent || state.anyRecent;
 }
 

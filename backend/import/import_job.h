@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <atomic>
+#include <cstdint>
 #include <functional>
 #include <optional>
 
@@ -44,11 +45,13 @@ struct ImportReport {
     int filesRejected = 0;
     bool stopped = false;            // by stop()
     std::optional<QString> failure;  // of the store; it ended the import
-    bool anyNews = false;            // of the items that are now in the store, one is a piece of news
-    bool anyRecent = false;          // one of those lies within the last 255 days of the host's clock
+    // Of the news among the items that are now in the store: the time of the newest, if there is any, and
+    // whether one lies within the last 255 days of the host's clock.
+    std::optional<std::int64_t> newest;
+    bool anyRecent = false;
 
     // All that was taken in is too old to be seen without moving the clock.
-    bool nothingRecent() const { return anyNews && !anyRecent; }
+    bool nothingRecent() const { return newest && !anyRecent; }
 };
 
 // What a command that imported returns: 0 when everything was taken or was there already, 1 when something
@@ -77,7 +80,7 @@ private:
     // What happened to the file being read; it counts once the file is committed.
     struct FileState {
         ImportTotals totals;
-        bool anyNews = false;
+        std::optional<std::int64_t> newest;
         bool anyRecent = false;
         std::optional<QString> failure;
     };

@@ -11,6 +11,7 @@
 #include "terminal/commands/interrupt.h"
 #include "terminal/session/store_opening.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
 
@@ -47,8 +48,9 @@ int reportEnd(const ImportReport& report) {
                       .arg(report.filesRead + report.filesRejected));
     if (report.nothingRecent())
         printNote(
-            u"None of this news lies within the last 255 days: to see it, start the terminal with --now "
-            "and a moment of that time."_s);
+            u"None of this news lies within the last 255 days. To see it, start the terminal with --now %1, "
+            "or read as of that moment (Ctrl+G in the terminal)."_s.arg(
+                QDateTime::fromSecsSinceEpoch(*report.newest).toString(Qt::ISODate)));
     if (report.failure)
         printNote(*report.failure);
     if (report.stopped)
