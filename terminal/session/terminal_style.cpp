@@ -120,8 +120,16 @@ int TerminalStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
 
 int TerminalStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                              QStyleHintReturn* answer) const {
-    // Drop-downs are lists under their boxes, quick with tens of thousands of items.
-    return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
+    switch (hint) {
+        case SH_ComboBox_Popup:  // drop-downs are lists under their boxes, quick with tens of thousands of
+                                 // items
+        case SH_DialogButtonBox_ButtonsHaveIcons:
+            return 0;
+        case SH_Menu_SpaceActivatesItem:  // it ticks a box, so it ticks what looks like one
+            return 1;
+        default:
+            return QProxyStyle::styleHint(hint, option, widget, answer);
+    }
 }
 
 QRect TerminalStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,

@@ -70,7 +70,7 @@ TEST_F(KeyboardSession, ReadsTheNewsWithoutAMouse) {
     EXPECT_EQ(rows(), 6);
     key(u"F7"_s);
     key(u"Down"_s);
-    key(u"Return"_s);
+    key(u"Space"_s);
     EXPECT_EQ(rows(), 12);
     // The day before.
     key(u"F8"_s);
