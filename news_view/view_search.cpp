@@ -84,8 +84,13 @@ void TRVNewsCtrlView::OnDealsSearchDlg() {
     if (!accepted && !(searches.ordinary == searches.edited))
         vStopWaiting();
     searches.ordinary = searches.edited;
-    if (accepted)
-        OnDealsSearch();
+    if (!accepted)
+        return;
+    OnDealsSearch();
+    // To the list of what is found, wherever in the view the dialog was asked for.
+    CSuperSheetWnd* sheet = pGetCurrSheetView();
+    if (sheet != nullptr && !searches.ordinary.keywords.empty())
+        sheet->setFocus();
 }
 
 void TRVNewsCtrlView::OnDealsSearch() {

@@ -187,10 +187,13 @@ TEST_F(Searches, AChangeOfServicesSearchesAgain) {
 
 TEST_F(Searches, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
     openSearch();
+    auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit));
+    edit->setFocus();
     runDialog([](CAdvSearchDlg& dialog) { press(dialog, search_ids::ok); });
     EXPECT_EQ(shortTip(), invalid) << "without keywords";
     EXPECT_EQ(sent(), QStringList());
-    qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit))->setText(u"gold"_s);
+    EXPECT_EQ(view->focusWidget(), edit);
+    edit->setText(u"gold"_s);
     runDialog([](CAdvSearchDlg& dialog) {
         addKeyword(dialog, u"gold"_s);
         addKeyword(dialog, u"oil"_s);
@@ -216,6 +219,11 @@ TEST_F(Searches, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
     EXPECT_EQ(settings.values[u"!RVNEWS_NEWSSEARCH_KEYWORD"_s].toStringList(),
               (QStringList{u"gold"_s, u"oil"_s, u"tin"_s}));
     EXPECT_EQ(settings.values[u"!RVNEWS_NEWSSEARCH_NEARTENSEARCHINFO"_s].toStringList().size(), 2);
+
+    edit->clear();
+    edit->setFocus();
+    runDialog([](CAdvSearchDlg& dialog) { press(dialog, search_ids::ok); });
+    EXPECT_EQ(view->focusWidget(), view->pGetCurrSheetView()) << "to go through what is found";
 }
 
 TEST_F(Searches, TheStoryOfAResultHasItsKeywordsMarked) {
