@@ -136,6 +136,10 @@ TEST_F(DeskTest, TitlesFollowTheUserTheTabAndTheLanguage) {
     EXPECT_EQ(view.shownTitle(), u"All News"_s);
     clickTab(*qobject_cast<QTabBar*>(GetDlgItem(view.view, 3100)), 1);
     ASSERT_TRUE(QTest::qWaitFor([&] { return view.dock->windowTitle().contains(u"By Category"_s); }));
+    press(Qt::Key_F3, Qt::NoModifier);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return view.dock->windowTitle().contains(u"Search"_s); }));
+    press(Qt::Key_PageUp);
+    press(Qt::Key_PageUp);
     session->setLanguage(u"zh-TW"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return view.dock->windowTitle().contains(u"分類新聞"_s); }));
     QTimer::singleShot(0, &session->frame(), [this] {
