@@ -246,6 +246,7 @@ public:
     void ChangeCurrViewCategoryState(bool show);
     void OnSelchangeComboIndex();
     void OnChangeCategoryState();
+    void vReloadCategories() override;
 
     // --- For the host's scripts ---
 

@@ -139,6 +139,11 @@ void TRVNewsCtrlView::bInitialTransferCatObject() {
     categories.bLoad(IniFile::load(backEnd.PathGetSysPath() + QStringLiteral("/NewsService.ini")));
 }
 
+void TRVNewsCtrlView::vReloadCategories() {
+    bInitialTransferCatObject();
+    vUpdateView();
+}
+
 void TRVNewsCtrlView::bInitialTransferWarrantCatObject() {
     if (services.iGetWarrantIndex() >= 0)
         warrantCategories.bLoad(backEnd, warrantService);

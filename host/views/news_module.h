@@ -54,7 +54,7 @@ public:
     virtual NewsOutcome SaveNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) = 0;
 };
 
-#define WIREPANE_NEWS_MODULE_IID "wirepane.NewsModule/2"
+#define WIREPANE_NEWS_MODULE_IID "wirepane.NewsModule/3"
 Q_DECLARE_INTERFACE(NewsModule, WIREPANE_NEWS_MODULE_IID)
 
 // What a terminal and its scripts can do with a news view beyond what any view offers. A news view implements
@@ -83,6 +83,8 @@ public:
     virtual void PreviewNews() = 0;
     // The keys of rows [from, from + count) of a list, cut to the rows that exist.
     virtual std::vector<HeadlineKey> Keys(int list, int from, int count) const = 0;
+    // The host's file of category names has changed: the view reads it again.
+    virtual void vReloadCategories() = 0;
 };
 
 // Loads the module from a file. Null when that fails; `error` then says why, in a sentence with the file's

@@ -87,6 +87,11 @@ Done Session::start(const SessionOptions& options) {
     workspaceKeeper = std::make_unique<WorkspaceKeeper>(
         WorkspaceKeeper::Parts{settingsFile, layout, *terminalSettings, *openViews, *linkGroups, *mainFrame,
                                [this](ViewRequest request) { return openView(std::move(request)); }});
+    categoryWatch = std::make_unique<CategoryWatch>(*store, [this] {
+        writeCategories();
+        for (const auto& view : openViews->views())
+            view->access->vReloadCategories();
+    });
     look->apply();
     connectParts();
     if (!settingsFile.message().isEmpty())
@@ -154,13 +159,17 @@ Done Session::startFeed(const SessionOptions& options) {
 }
 
 void Session::prepareModuleFiles() {
-    const Done switches = writeSwitchesFile(configFolder, terminalSettings->switches());
-    const Done categories = writeCategoryFile(configFolder, categoryNames(*store));
     // A view opens without them, too: without the tabs and the names that they would have given it.
-    for (const Done& written : {switches, categories}) {
-        if (!written)
-            mainFrame->showNotice(written.error());
-    }
+    if (const Done written = writeSwitchesFile(configFolder, terminalSettings->switches()); !written)
+        mainFrame->showNotice(written.error());
+    writeCategories();
+}
+
+void Session::writeCategories() {
+    const std::vector<CategoryName> names = categoryNames(*store);
+    categoryWatch->know(names);
+    if (const Done written = writeCategoryFile(configFolder, names); !written)
+        mainFrame->showNotice(written.error());
 }
 
 Result<OpenView*> Session::openView(ViewRequest request) {

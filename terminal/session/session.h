@@ -10,6 +10,7 @@
 #include "terminal/session/appearance.h"
 #include "terminal/session/breaking_news.h"
 #include "terminal/session/category_display.h"
+#include "terminal/session/category_watch.h"
 #include "terminal/session/link_groups.h"
 #include "terminal/session/workspace_keeper.h"
 #include "terminal/settings/layout_store.h"
@@ -95,6 +96,7 @@ private:
     void connectParts();
     Done startFeed(const SessionOptions& options);
     void prepareModuleFiles();
+    void writeCategories();
     Done reopenUserViews();
     bool useLanguage(const QString& code);
 
@@ -114,6 +116,7 @@ private:
     std::unique_ptr<Appearance> look;
     std::unique_ptr<LinkGroups> linkGroups;
     std::unique_ptr<WorkspaceKeeper> workspaceKeeper;
+    std::unique_ptr<CategoryWatch> categoryWatch;
     FollowedView followed;
 };
 

@@ -1,15 +1,21 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-// What the desk's keys show of news beside the views: the window of breaking news, the print preview.
+// What the desk shows beside the views, the window of breaking news, the print preview, the guide; and what
+// news brings that the views have not met.
 #include "host/controls/super_sheet_wnd.h"
 #include "tests/terminal/program/frame_fixture.h"
 
 #include <QApplication>
 #include <QDateTime>
 #include <QDialog>
+#include <QFileInfo>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
 #include <QTimer>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -32,8 +38,9 @@ protected:
             all += edit->toPlainText() + u'\n';
         return all;
     }
-    void publish(int number, const QString& title) {
+    void publish(int number, const QString& title, const QString& category = {}) {
         NewsItem item;
+        item.category = category;
         item.identity = title;
         item.time = host_clock::now() + number;
         item.title = title;
@@ -78,6 +85,13 @@ TEST_F(FrameOutputTest, ThePreviewShowsTheSelectedNews) {
     poll.start(300);
     press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(shown, u"QPrintPreviewDialog"_s);
+}
+
+TEST_F(FrameOutputTest, ATopicThatIsNewToTheStoreHasItsName) {
+    const CSuperSheetWnd& sheet = *session->workspace().active()->access->Sheet(0);
+    const auto topic = [&sheet] { return sheet.model()->index(0, 1).data().toString(); };
+    publish(1, u"Zinc rises"_s, u"Metals"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return topic() == u"Metals"_s; })) << topic().toStdString();
 }
 
 }  // namespace
