@@ -26,6 +26,7 @@ enum class FrameCommand {
     Settings,
     FontLarger,
     FontSmaller,
+    Guide,
     Quit,
 };
 

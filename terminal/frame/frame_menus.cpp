@@ -54,6 +54,10 @@ constexpr std::array windowEntries{
     Entry{FrameCommand::FloatView, TextId::FloatView, "Ctrl+Shift+F"_L1, true},
 };
 
+constexpr std::array helpEntries{
+    Entry{FrameCommand::Guide, TextId::Guide, "F1"_L1},
+};
+
 constexpr std::array arrangeEntries{
     Entry{FrameCommand::ArrangeColumns, TextId::ArrangeColumns, "Ctrl+Shift+1"_L1, true},
     Entry{FrameCommand::ArrangeRows, TextId::ArrangeRows, "Ctrl+Shift+2"_L1, true},
@@ -146,6 +150,7 @@ void addFrameMenus(MainFrame& frame, const MenuState& state) {
     addFileMenu(frame, state);
     addLookMenu(frame, state);
     addWindowMenu(frame, state);
+    addEntries(frame, *frame.menuBar()->addMenu(terminalText(TextId::HelpMenu)), helpEntries, state);
 }
 
 }  // namespace wirepane

@@ -3,6 +3,7 @@
 #include "terminal/session/frame_commands.h"
 
 #include "host/controls/heap_dialog.h"
+#include "terminal/frame/guide_window.h"
 #include "terminal/frame/read_as_of_dialog.h"
 #include "terminal/frame/settings_dialog.h"
 #include "terminal/frame/symbol_box.h"
@@ -10,9 +11,14 @@
 #include "terminal/session/session.h"
 #include "terminal/translations/terminal_text.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+
+using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
@@ -74,6 +80,9 @@ void FrameCommands::carryOut(FrameCommand command) {
             break;
         case FrameCommand::FontSmaller:
             session.setFontSize(session.settings().fontSize() - 1);
+            break;
+        case FrameCommand::Guide:
+            showGuide();
             break;
         case FrameCommand::Quit:
             session.frame().close();
@@ -171,6 +180,22 @@ void FrameCommands::rename(int number) {
     // It may have been closed meanwhile.
     if (OpenView* named = session.workspace().find(number))
         session.workspace().rename(*named, dialog->textValue());
+}
+
+void FrameCommands::showGuide() {
+    const QString file = QDir::cleanPath(
+        QDir(QCoreApplication::applicationDirPath()).filePath(u"../share/doc/wirepane/guide/guide.md"_s));
+    if (!QFileInfo::exists(file)) {
+        report(Error{u"The guide %1 is missing."_s.arg(QDir::toNativeSeparators(file))});
+        return;
+    }
+    if (guide == nullptr) {
+        guide = new GuideWindow(file, &session.frame());
+        guide->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    guide->show();
+    guide->raise();
+    guide->activateWindow();
 }
 
 void FrameCommands::save() {

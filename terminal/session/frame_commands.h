@@ -6,9 +6,11 @@
 #include "terminal/frame/frame_command.h"
 
 #include <QObject>
+#include <QPointer>
 
 namespace wirepane {
 
+class GuideWindow;
 class Session;
 
 // What the main frame's menus and the bars of its views do to the session.
@@ -25,11 +27,13 @@ private:
     void readAsOf();
     void changeSettings();
     void rename(int number);
+    void showGuide();
     void save();
     // Tells what went wrong, if anything did.
     void report(const Done& done);
 
     Session& session;
+    QPointer<GuideWindow> guide;
 };
 
 }  // namespace wirepane

@@ -83,8 +83,11 @@ constexpr std::array keys{
     "TERMINAL_SAVE_NEWS",
     "TERMINAL_BREAKING_NEWS",
     "TERMINAL_INDEXING_STORE",
+    "TERMINAL_MENU_HELP",
+    "TERMINAL_GUIDE",
+    "TERMINAL_GUIDE_TITLE",
 };
-static_assert(keys.size() == static_cast<std::size_t>(TextId::IndexingStore) + 1);
+static_assert(keys.size() == static_cast<std::size_t>(TextId::GuideTitle) + 1);
 
 }  // namespace
 

@@ -82,6 +82,9 @@ enum class TextId {
     SaveNews,
     BreakingNews,
     IndexingStore,
+    HelpMenu,
+    Guide,
+    GuideTitle,
 };
 
 // The text in the language in force.

@@ -643,6 +643,14 @@
         <source></source>
         <translation>Go to s&amp;ymbol…</translation>
     </message>
+    <message id="TERMINAL_GUIDE">
+        <source></source>
+        <translation>&amp;User's Guide</translation>
+    </message>
+    <message id="TERMINAL_GUIDE_TITLE">
+        <source></source>
+        <translation>User's Guide</translation>
+    </message>
     <message id="TERMINAL_INDEXING_STORE">
         <source></source>
         <translation>Making the search index of your news anew. This happens once after an update.</translation>
@@ -678,6 +686,10 @@
     <message id="TERMINAL_MENU_FILE">
         <source></source>
         <translation>&amp;File</translation>
+    </message>
+    <message id="TERMINAL_MENU_HELP">
+        <source></source>
+        <translation>&amp;Help</translation>
     </message>
     <message id="TERMINAL_MENU_LANGUAGE">
         <source></source>

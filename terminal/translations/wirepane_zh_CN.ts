@@ -643,6 +643,14 @@
         <source></source>
         <translation>输入代码(&amp;Y)…</translation>
     </message>
+    <message id="TERMINAL_GUIDE">
+        <source></source>
+        <translation>使用手册(&amp;U)</translation>
+    </message>
+    <message id="TERMINAL_GUIDE_TITLE">
+        <source></source>
+        <translation>使用手册</translation>
+    </message>
     <message id="TERMINAL_INDEXING_STORE">
         <source></source>
         <translation>正在重建新闻的搜索索引，更新后只需进行一次。</translation>
@@ -678,6 +686,10 @@
     <message id="TERMINAL_MENU_FILE">
         <source></source>
         <translation>文件(&amp;F)</translation>
+    </message>
+    <message id="TERMINAL_MENU_HELP">
+        <source></source>
+        <translation>帮助(&amp;H)</translation>
     </message>
     <message id="TERMINAL_MENU_LANGUAGE">
         <source></source>

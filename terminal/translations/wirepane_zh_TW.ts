@@ -643,6 +643,14 @@
         <source></source>
         <translation>輸入商品(&amp;Y)…</translation>
     </message>
+    <message id="TERMINAL_GUIDE">
+        <source></source>
+        <translation>使用手冊(&amp;U)</translation>
+    </message>
+    <message id="TERMINAL_GUIDE_TITLE">
+        <source></source>
+        <translation>使用手冊</translation>
+    </message>
     <message id="TERMINAL_INDEXING_STORE">
         <source></source>
         <translation>正在重建新聞的搜尋索引，更新後只需進行一次。</translation>
@@ -678,6 +686,10 @@
     <message id="TERMINAL_MENU_FILE">
         <source></source>
         <translation>檔案(&amp;F)</translation>
+    </message>
+    <message id="TERMINAL_MENU_HELP">
+        <source></source>
+        <translation>說明(&amp;H)</translation>
     </message>
     <message id="TERMINAL_MENU_LANGUAGE">
         <source></source>

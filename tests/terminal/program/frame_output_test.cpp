@@ -94,4 +94,32 @@ TEST_F(FrameOutputTest, ATopicThatIsNewToTheStoreHasItsName) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return topic() == u"Metals"_s; })) << topic().toStdString();
 }
 
+TEST_F(FrameOutputTest, TheGuideIsWholeAndAllItsLinksLeadSomewhere) {
+    press(Qt::Key_F1, Qt::NoModifier);
+    auto* text = session->frame().findChild<QTextBrowser*>();
+    ASSERT_NE(text, nullptr);
+    EXPECT_TRUE(text->toPlainText().contains(u"The first five minutes"_s));
+    EXPECT_EQ(text->horizontalScrollBar()->maximum(), 0) << "its pictures fit";
+    const QUrl start = text->source();
+    int links = 0;
+    int pictures = 0;
+    for (QTextBlock block = text->document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextCharFormat format = part.fragment().charFormat();
+            QString target = format.anchorHref();
+            if (format.isImageFormat()) {
+                target = format.toImageFormat().name();
+                ++pictures;
+            }
+            if (target.isEmpty())
+                continue;
+            ++links;
+            EXPECT_TRUE(QFileInfo::exists(start.resolved(QUrl(target)).toLocalFile()))
+                << target.toStdString();
+        }
+    }
+    EXPECT_GT(pictures, 10);
+    EXPECT_GT(links, pictures);
+}
+
 }  // namespace
