@@ -19,13 +19,14 @@ struct SymbolRef {
 };
 
 inline constexpr std::int64_t firstNewsTime = -2208988800;  // 1900-01-01 00:00:00 UTC
+inline constexpr std::int64_t lastNewsTime = 253402300799;  // 9999-12-31 23:59:59 UTC
 
 // One piece of news on its way into the store, whatever it came from.
 struct NewsItem {
     unsigned char service = 1;
     QString identity;  // what the source calls it, unique within the service: the same item twice is one item
     int version = 0;   // a later version replaces an earlier one
-    std::int64_t time = 0;           // seconds since 1970, UTC; firstNewsTime at the earliest
+    std::int64_t time = 0;           // seconds since 1970, UTC; firstNewsTime to lastNewsTime
     QString title;                   // one line of plain text
     std::optional<QString> story;    // plain text in wire form; absent: not known yet
     QString category;                // name of its category; empty: none. The store gives each name an id

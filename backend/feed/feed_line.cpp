@@ -76,12 +76,11 @@ private:
 
 Result<StoreItem> itemFrom(const QJsonObject& object) {
     constexpr std::int64_t mostNumber = std::numeric_limits<std::int32_t>::max();
-    constexpr std::int64_t mostSeconds = 253402300799;
     ItemFields fields(object);
     NewsItem item;
     item.service = static_cast<unsigned char>(fields.number("service"_L1, 1, lastId));
     item.identity = fields.text("identity"_L1);
-    item.time = fields.number("time"_L1, -mostSeconds, mostSeconds);
+    item.time = fields.number("time"_L1, firstNewsTime, lastNewsTime);
     item.title = fields.text("title"_L1);
     if (fields.has("version"_L1))
         item.version = static_cast<int>(fields.number("version"_L1, -mostNumber - 1, mostNumber));

@@ -140,7 +140,7 @@ QString faultOf(const NewsItem& item) {
         return tooLong("title"_L1, item.title.size(), limits::titleLength);
     if (QString fault = item.story ? faultOfStory(*item.story) : QString(); !fault.isEmpty())
         return fault;
-    if (item.time < firstNewsTime || item.time > limits::lastTime)
+    if (item.time < firstNewsTime || item.time > lastNewsTime)
         return u"Its time (%1 seconds since 1970) does not lie within the years 1900 to 9999."_s.arg(
             item.time);
     if (item.related.size() > limits::relatedSymbols)

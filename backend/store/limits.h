@@ -5,7 +5,6 @@
 #include <QtGlobal>
 
 #include <cstddef>
-#include <cstdint>
 
 // What the store takes at most. Lengths are in characters as QString counts them (UTF-16 code units).
 namespace wirepane::limits {
@@ -19,7 +18,5 @@ inline constexpr qsizetype categoryNameLength = 64;  // a longer name is cut
 inline constexpr std::size_t relatedSymbols = 1000;
 
 inline constexpr double price = 1e12;  // and no change is larger
-
-inline constexpr std::int64_t lastTime = 253402300799;  // 9999-12-31 23:59:59 UTC
 
 }  // namespace wirepane::limits

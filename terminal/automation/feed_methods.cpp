@@ -16,7 +16,6 @@ namespace wirepane {
 
 namespace {
 
-constexpr std::int64_t lastSecond = 253402300799;  // of the year 9999
 constexpr std::int64_t lastId = 255;
 
 // The kinds of symbols that views show news for where a market has several, and another one.
@@ -87,7 +86,7 @@ std::optional<RpcError> refusalOf(const Result<TakeOutcome>& taken) {
 // A headline's key, by itself or as the parameter "key".
 HeadlineKey keyFrom(Params& params) {
     Params key(params.has(u"key"_s) ? params.optionalObject(u"key"_s) : params.all());
-    const HeadlineKey read{key.number(u"time"_s, 0, lastSecond),
+    const HeadlineKey read{key.number(u"time"_s, 0, lastNewsTime),
                            static_cast<std::int32_t>(key.number(u"seq"_s)),
                            static_cast<unsigned char>(key.number(u"service"_s, 1, lastId))};
     if (key.error())
@@ -127,7 +126,7 @@ void FeedMethods::addTo(MethodTable& table) {
 Answer FeedMethods::push(Params& params) {
     NewsItem item;
     item.service = static_cast<unsigned char>(params.number(u"service"_s, 1, lastId));
-    item.time = params.number(u"time"_s, 0, lastSecond);
+    item.time = params.number(u"time"_s, 0, lastNewsTime);
     item.sequence = static_cast<std::int32_t>(params.number(u"seq"_s, 0));
     item.title = params.text(u"title"_s);
     item.categoryId = static_cast<std::int32_t>(params.optionalNumber(u"category"_s).value_or(0));

@@ -189,7 +189,7 @@ TEST_F(StoreWriterTest, WhatDoesNotPassIsRejectedWithAReason) {
     EXPECT_EQ(rows("SELECT count(*) FROM headlines"), QStringList{u"0"_s});
 
     // What can be mended is mended, and the limits themselves pass.
-    NewsItem item = newsItem(1, u"y"_s, limits::lastTime, longTitle.chopped(1));
+    NewsItem item = newsItem(1, u"y"_s, lastNewsTime, longTitle.chopped(1));
     item.story = u"a%1b%2c\U0001F4C8%3"_s.arg(QChar(0xD800)).arg(QChar(0)).arg(QChar(0xDC00));
     EXPECT_EQ(takeNews(item).outcome.take, Take::TakenIn);
     EXPECT_EQ(rows("SELECT text FROM stories"), QStringList{u"a\uFFFDb\uFFFDc\U0001F4C8\uFFFD"_s});
