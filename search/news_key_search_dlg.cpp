@@ -4,6 +4,7 @@
 
 #include "host/contract/lang_text.h"
 #include "host/controls/check_list_box.h"
+#include "host/controls/roomy_rows.h"
 #include "host/controls/window_id.h"
 #include "search/condition_texts.h"
 #include "search/dialog_controls.h"
@@ -80,7 +81,7 @@ QLayout* CNewsKeySearchDlg::pCreateNewsTypes() {
     newsTypeList->installEventFilter(this);
     for (const auto& [id, name] : newsTypes)
         newsTypeList->item(newsTypeList->AddString(name))->setData(Qt::UserRole, id);
-    newsTypeList->setFixedHeight(newsTypeRows * (fontMetrics().height() + 6) +
+    newsTypeList->setFixedHeight(newsTypeRows * RoomyRows::HeightOf(fontMetrics()) +
                                  2 * newsTypeList->frameWidth());
     connect(newsTypeList, &QListWidget::itemChanged, this, &CNewsKeySearchDlg::vFollowTicks);
     connect(allNewsTypes, &QCheckBox::clicked, this, [this](bool ticked) {

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr int room = 6;
 constexpr int textMargins = 16;
 
 // Shows by two lines which row the keyboard is in, also where it is not selected.
@@ -42,7 +41,7 @@ ReportList::ReportList(std::span<const ReportColumn> columns, QWidget* parent)
     setWordWrap(false);
     setItemDelegate(new ReportRows(this));
     verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + room);
+    verticalHeader()->setDefaultSectionSize(RoomyRows::HeightOf(fontMetrics()));
     QHeaderView* header = horizontalHeader();
     header->setSectionsMovable(true);
     header->setHighlightSections(false);

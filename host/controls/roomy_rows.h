@@ -9,8 +9,11 @@ class RoomyRows : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    static int HeightOf(const QFontMetrics& metrics) {
         constexpr int room = 6;
-        return {QStyledItemDelegate::sizeHint(option, index).width(), option.fontMetrics.height() + room};
+        return metrics.height() + room;
+    }
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return {QStyledItemDelegate::sizeHint(option, index).width(), HeightOf(option.fontMetrics)};
     }
 };
