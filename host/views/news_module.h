@@ -73,7 +73,8 @@ public:
     // What the story pane, or the story dialog, shows, under the names of the automation interface (title,
     // story, selection, titleRect, ...); empty where there is none.
     virtual QVariantMap StoryState(bool inDialog) const = 0;
-    // The grid of headline list 0..6; null when the list has none.
+    // The grid of a headline list, numbered from 0 on; null when the list has none.
+    static constexpr int lists = 7;
     virtual CSuperSheetWnd* Sheet(int list) const = 0;
     // Prints the selected rows, saves them, shows the pages that would print. Without a target the user is
     // asked. What the user is to know of news that had waited, or was put out by a command, the view signals

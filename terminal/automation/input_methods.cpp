@@ -18,18 +18,8 @@ namespace wirepane {
 
 namespace {
 
-constexpr int lists = 7;
 constexpr int storyPane = 59649;
 constexpr int storyText = 8071;
-
-CSuperSheetWnd* shownGrid(const OpenView& view) {
-    for (int list = 0; list < lists; ++list) {
-        CSuperSheetWnd* sheet = view.access->Sheet(list);
-        if (sheet != nullptr && sheet->isVisible())
-            return sheet;
-    }
-    return nullptr;
-}
 
 // The story in the pane, or in the view's dialog.
 QWidget* shownStory(const OpenView& view) {
@@ -51,7 +41,7 @@ QWidget* keyboardHolder(const OpenView& view) {
     if (QWidget* dialog = QApplication::activeModalWidget())
         return dialog->focusWidget() != nullptr ? dialog->focusWidget() : dialog;
     QWidget* focus = QApplication::focusWidget();
-    return focus != nullptr ? focus : shownGrid(view);
+    return focus != nullptr ? focus : view.shownGrid();
 }
 
 // The widget that "target" names; null with the error recorded.
@@ -61,9 +51,9 @@ QWidget* targetOf(Params& params, const OpenView& view) {
     if (!params.has(u"target"_s))
         widget = keyboardHolder(view);
     else if (target.isDouble())
-        widget = GetDlgItem(view.view, target.toInt());
+        widget = GetDlgItem(view.view, static_cast<int>(params.number(u"target"_s, 1)));
     else if (target == u"grid"_s)
-        widget = shownGrid(view);
+        widget = view.shownGrid();
     else if (target == u"story"_s)
         widget = shownStory(view);
     else
@@ -75,17 +65,11 @@ QWidget* targetOf(Params& params, const OpenView& view) {
     return params.error() ? nullptr : widget;
 }
 
-// The row of the grid on show that "row" names, in its viewport; null with the error recorded.
-QWidget* rowOf(Params& params, const OpenView& view, int row, QPoint& point) {
-    CSuperSheetWnd* sheet = shownGrid(view);
-    if (sheet == nullptr || row >= sheet->iGetRowCount()) {
-        params.fail(u"view %1 shows no row %2"_s.arg(view.number).arg(row), RpcCode::NotFound);
-        return nullptr;
-    }
-    const QModelIndex index = sheet->model()->index(row, 0);
-    sheet->scrollTo(index);
-    point = sheet->visualRect(index).center();
-    return sheet->viewport();
+// Of what scrolls, in its viewport.
+WidgetPoint middleOf(QWidget* target) {
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(target))
+        target = area->viewport();
+    return {target, target != nullptr ? target->rect().center() : QPoint()};
 }
 
 Qt::MouseButton buttonOf(Params& params) {
@@ -133,19 +117,14 @@ Answer InputMethods::click(Params& params) {
         params.fail(u"one of \"row\" and \"target\" says where"_s);
     if (view == nullptr || params.error())
         return {};
-    QPoint point;
-    QWidget* target = row ? rowOf(params, *view, static_cast<int>(*row), point) : targetOf(params, *view);
-    if (target == nullptr)
+    const WidgetPoint place =
+        row ? middleOfRow(params, *view, static_cast<int>(*row)) : middleOf(targetOf(params, *view));
+    if (place.widget == nullptr)
         return {};
-    if (!row) {
-        if (auto* area = qobject_cast<QAbstractScrollArea*>(target))
-            target = area->viewport();
-        point = target->rect().center();
-    }
     if (twice)
-        doubleClickAt(*target, point, button);
+        doubleClickAt(*place.widget, place.point, button);
     else
-        clickAt(*target, point, button);
+        clickAt(*place.widget, place.point, button);
     return {};
 }
 

@@ -24,7 +24,6 @@ namespace {
 
 constexpr int mostLooks = 40;
 constexpr int lookMs = 5;
-constexpr int listCount = 7;
 
 // Where a click is to open a menu.
 struct Place {
@@ -48,19 +47,6 @@ QJsonArray itemsOf(const QMenu& menu) {
                                      {u"separator"_s, action->isSeparator()}});
     }
     return items;
-}
-
-Place placeOfRow(Params& params, const OpenView& view, int row) {
-    for (int list = 0; list < listCount; ++list) {
-        CSuperSheetWnd* sheet = view.access->Sheet(list);
-        if (sheet == nullptr || !sheet->isVisibleTo(view.view) || row >= sheet->iGetRowCount())
-            continue;
-        const QModelIndex index = sheet->model()->index(row, 0);
-        sheet->scrollTo(index);
-        return {sheet->viewport(), sheet->visualRect(index).center(), Qt::RightButton};
-    }
-    params.fail(u"view %1 shows no row %2"_s.arg(view.number).arg(row), RpcCode::NotFound);
-    return {};
 }
 
 Place placeOfPoint(Params& params, const OpenView& view, const std::vector<int>& point) {
@@ -93,8 +79,10 @@ Place placeFrom(Params& params, const OpenView& view) {
         params.fail(u"one of \"row\", \"point\" and \"id\" says where"_s);
     if (params.error())
         return {};
-    if (row)
-        return placeOfRow(params, view, static_cast<int>(*row));
+    if (row) {
+        const WidgetPoint middle = middleOfRow(params, view, static_cast<int>(*row));
+        return {middle.widget, middle.point, Qt::RightButton};
+    }
     return point ? placeOfPoint(params, view, *point) : placeOfButton(params, view);
 }
 

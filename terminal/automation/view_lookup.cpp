@@ -2,15 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/automation/view_lookup.h"
 
+#include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
 
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
-
-namespace {
-constexpr int lastList = 6;
-}
 
 OpenView* viewOf(Params& params, Workspace& workspace) {
     const auto number = params.optionalNumber(u"view"_s);
@@ -23,7 +20,7 @@ OpenView* viewOf(Params& params, Workspace& workspace) {
 }
 
 CSuperSheetWnd* sheetOf(Params& params, const OpenView& view) {
-    const auto list = static_cast<int>(params.number(u"list"_s, 0, lastList));
+    const auto list = static_cast<int>(params.number(u"list"_s, 0, NewsViewAccess::lists - 1));
     if (params.error())
         return nullptr;
     CSuperSheetWnd* sheet = view.access->Sheet(list);
@@ -40,6 +37,17 @@ QWidget* controlOf(Params& params, const OpenView& view) {
     if (control == nullptr)
         params.fail(u"view %1 has no control %2"_s.arg(view.number).arg(id), RpcCode::NotFound);
     return control;
+}
+
+WidgetPoint middleOfRow(Params& params, const OpenView& view, int row) {
+    CSuperSheetWnd* sheet = view.shownGrid();
+    if (sheet == nullptr || row >= sheet->iGetRowCount()) {
+        params.fail(u"view %1 shows no row %2"_s.arg(view.number).arg(row), RpcCode::NotFound);
+        return {};
+    }
+    const QModelIndex index = sheet->model()->index(row, 0);
+    sheet->scrollTo(index);
+    return {sheet->viewport(), sheet->visualRect(index).center()};
 }
 
 }  // namespace wirepane

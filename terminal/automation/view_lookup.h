@@ -15,4 +15,12 @@ OpenView* viewOf(Params& params, Workspace& workspace);
 CSuperSheetWnd* sheetOf(Params& params, const OpenView& view);
 QWidget* controlOf(Params& params, const OpenView& view);
 
+struct WidgetPoint {
+    QWidget* widget = nullptr;
+    QPoint point;
+};
+// The middle of a row of the grid on show, which is brought into sight. No widget, with the error recorded,
+// when there is no such row.
+WidgetPoint middleOfRow(Params& params, const OpenView& view, int row);
+
 }  // namespace wirepane

@@ -25,8 +25,6 @@ namespace wirepane {
 
 namespace {
 
-constexpr int listCount = 7;
-
 QJsonObject comboReport(const QComboBox& combo) {
     QJsonArray items;
     for (int i = 0; i < combo.count(); ++i)
@@ -109,7 +107,7 @@ QJsonObject controlReport(const QWidget& window, const QWidget& control) {
 
 QJsonArray gridsReport(const OpenView& view) {
     QJsonArray grids;
-    for (int list = 0; list < listCount; ++list) {
+    for (int list = 0; list < NewsViewAccess::lists; ++list) {
         const CSuperSheetWnd* sheet = view.access->Sheet(list);
         if (sheet == nullptr)
             continue;

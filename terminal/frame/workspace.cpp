@@ -26,20 +26,14 @@ constexpr QLatin1StringView symbolNewsKey{"IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS"}
 
 constexpr int tabStrip = 3100;  // the view's tabs
 constexpr int symbolMode = 2;
-constexpr int listCount = 7;
 constexpr QSize startSize(900, 600);  // of a view whose dock has not been laid out yet
 
 // The first of the host's two layout numbers: one frame. The second is the view's place in it.
 constexpr int frameNumber = 0;
 
-// The grid that the user sees; the view itself when there is none.
 QWidget* keyboardTarget(const OpenView& open) {
-    for (int list = 0; list < listCount; ++list) {
-        CSuperSheetWnd* sheet = open.access->Sheet(list);
-        if (sheet != nullptr && sheet->isVisibleTo(open.view))
-            return sheet;
-    }
-    return open.view;
+    CSuperSheetWnd* grid = open.shownGrid();
+    return grid != nullptr ? grid : static_cast<QWidget*>(open.view);
 }
 
 // What the view is for: its chosen tab, else its caption.
@@ -67,6 +61,15 @@ QString OpenView::shownTitle() const {
     const QString subject = subjectOf(*this, ofSymbol);
     const QString code = access->State()[u"symbol"_s].toMap()[u"code"_s].toString();
     return ofSymbol && !code.isEmpty() ? u"%1 %2"_s.arg(subject, code) : subject;
+}
+
+CSuperSheetWnd* OpenView::shownGrid() const {
+    for (int list = 0; list < NewsViewAccess::lists; ++list) {
+        CSuperSheetWnd* sheet = access->Sheet(list);
+        if (sheet != nullptr && sheet->isVisibleTo(view))
+            return sheet;
+    }
+    return nullptr;
 }
 
 Workspace::Workspace(NewsModule& newsModule, MainFrame& mainFrame, QObject* parent)

@@ -50,6 +50,8 @@ struct OpenView {
 
     // What stands on its bar: the user's title, else what the view shows.
     QString shownTitle() const;
+    // The grid that the user sees in the view; null when there is none.
+    CSuperSheetWnd* shownGrid() const;
 };
 
 // The open news views of the terminal, numbered from 1 on in the order in which they were opened. One of them

@@ -124,6 +124,7 @@ TEST_F(KeyboardSession, InputThatCannotBeDoneIsRefused) {
         {u"input.key"_s, {{u"key"_s, u"NoSuchKey"_s}}, -32602},
         {u"input.key"_s, {{u"key"_s, u"Return"_s}, {u"target"_s, 77}}, -32001},
         {u"input.key"_s, {{u"key"_s, u"Return"_s}, {u"target"_s, 3008}}, -32002},
+        {u"input.key"_s, {{u"key"_s, u"Return"_s}, {u"target"_s, 3009.5}}, -32602},
         {u"input.type"_s, {{u"target"_s, u"grid"_s}}, -32602},
         {u"input.click"_s, {{u"row"_s, 99}}, -32001},
         {u"input.click"_s, {{u"row"_s, 1}, {u"target"_s, u"grid"_s}}, -32602},
