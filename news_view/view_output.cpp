@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Printing and saving the selected news.
-#include "headline_list/language_keys.h"
 #include "host/controls/window_id.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What the news view paints itself, and the colours and texts that it hands on.
-#include "headline_list/cell_texts.h"
 #include "headline_list/language_keys.h"
 #include "host/views/sheet_scheme.h"
 #include "news_view/trv_news_ctrl_view.h"
@@ -11,10 +10,6 @@
 
 #include <QEvent>
 #include <QPainter>
-
-#include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 bool TRVNewsCtrlView::OnEraseBkgnd(QPainter& painter) {
     if (!laidOut)
