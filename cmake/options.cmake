@@ -52,7 +52,9 @@ function(wirepane_test name)
     cmake_parse_arguments(TEST "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE wirepane_options wirepane_test_support ${TEST_LINK})
-    wirepane_precompile(${name} <QString> <QStringList> <QVariant> <gtest/gtest.h> <memory> <vector>)
+    if(WIREPANE_PRECOMPILE)
+        target_precompile_headers(${name} REUSE_FROM wirepane_test_support)
+    endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp;WIREPANE_TEST_NEWS=${CMAKE_SOURCE_DIR}/../shared/news"

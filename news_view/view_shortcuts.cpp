@@ -89,8 +89,8 @@ void TRVNewsCtrlView::vLoadToolTips() {
         hint(command);
     for (const CommandKey& command : otherHints)
         hint(command);
-    QWidget* stop = GetDlgItem(this, ids::stopWaiting);
-    stop->setToolTip(stop->accessibleName().toHtmlEscaped());
+    if (QWidget* stop = GetDlgItem(this, ids::stopWaiting))
+        stop->setToolTip(stop->accessibleName().toHtmlEscaped());
 }
 
 void TRVNewsCtrlView::vSetTabOrder() {
