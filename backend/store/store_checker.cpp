@@ -130,8 +130,11 @@ Result<QStringList> StoreChecker::check() const {
     if (std::optional<Error> fault = storeFault(database))
         return *fault;
     std::int64_t version = 0;
-    if (!database.readNumber("PRAGMA user_version", version) || version == 0)
-        return Error{u"%1 is empty: it holds no news store."_s.arg(database.path())};
+    if (!database.readNumber("PRAGMA user_version", version))
+        return Error{database.failure()};
+    // What is left where a program was killed before it had made its store: the next one makes it.
+    if (version == 0)
+        return QStringList();
     if (version < storeVersion())
         return Error{u"%1 is of version %2; the program brings it up to version %3 when it opens it."_s
                          .arg(database.path())
