@@ -18,6 +18,7 @@ enum class FrameCommand {
     ArrangeRows,
     ArrangeTabs,
     GoToSymbolBox,
+    ImportNews,
     Print,
     PrintPreview,
     SaveAs,

@@ -29,7 +29,9 @@ constexpr int printNewsCommand = 9271;
 constexpr int saveNewsCommand = 9272;
 }  // namespace
 
-FrameCommands::FrameCommands(Session& terminal) : session(terminal) {
+FrameCommands::FrameCommands(Session& terminal)
+    : session(terminal),
+      newsImport(terminal.storePath(), terminal.frame(), QCoreApplication::applicationFilePath()) {
     MainFrame* frame = &session.frame();
     Workspace* workspace = &session.workspace();
     connect(frame, &MainFrame::commanded, this, &FrameCommands::carryOut);
@@ -65,6 +67,9 @@ void FrameCommands::carryOut(FrameCommand command) {
         }
         case FrameCommand::GoToSymbolBox:
             session.frame().symbolBox().begin();
+            break;
+        case FrameCommand::ImportNews:
+            newsImport.ask();
             break;
         case FrameCommand::BreakingNews:
             session.breakingNews().show();

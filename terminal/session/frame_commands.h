@@ -4,6 +4,7 @@
 
 #include "backend/result.h"
 #include "terminal/frame/frame_command.h"
+#include "terminal/session/news_import.h"
 
 #include <QObject>
 #include <QPointer>
@@ -33,6 +34,7 @@ private:
     void report(const Done& done);
 
     Session& session;
+    NewsImport newsImport;
     QPointer<GuideWindow> guide;
 };
 

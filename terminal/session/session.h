@@ -55,6 +55,8 @@ public:
     BreakingNews& breakingNews() { return *latestNews; }
     LinkGroups& links() { return *linkGroups; }
     WorkspaceKeeper& keeper() { return *workspaceKeeper; }
+    // The store in use.
+    const QString& storePath() const { return storeFile; }
     // The language in force.
     const QString& language() const { return languages.current(); }
     // What was wrong with the settings file, in a sentence; empty when nothing was.

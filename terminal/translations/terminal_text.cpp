@@ -86,8 +86,19 @@ constexpr std::array keys{
     "TERMINAL_MENU_HELP",
     "TERMINAL_GUIDE",
     "TERMINAL_GUIDE_TITLE",
+    "TERMINAL_IMPORT_NEWS",
+    "TERMINAL_IMPORT_TITLE",
+    "TERMINAL_IMPORT_ALL_KINDS",
+    "TERMINAL_IMPORT_TABLES",
+    "TERMINAL_IMPORT_ANY_FILE",
+    "TERMINAL_IMPORT_RUNNING",
+    "TERMINAL_IMPORT_COMPLETE",
+    "TERMINAL_IMPORT_PARTIAL",
+    "TERMINAL_IMPORT_CANCELLED",
+    "TERMINAL_IMPORT_FAILED",
+    "TERMINAL_IMPORT_NOT_STARTED",
 };
-static_assert(keys.size() == static_cast<std::size_t>(TextId::GuideTitle) + 1);
+static_assert(keys.size() == static_cast<std::size_t>(TextId::ImportNotStarted) + 1);
 
 }  // namespace
 

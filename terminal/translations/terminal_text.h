@@ -85,6 +85,17 @@ enum class TextId {
     HelpMenu,
     Guide,
     GuideTitle,
+    ImportNews,
+    ImportTitle,
+    ImportAllKinds,
+    ImportTables,
+    ImportAnyFile,
+    ImportRunning,
+    ImportComplete,
+    ImportPartial,
+    ImportCancelled,
+    ImportFailed,
+    ImportNotStarted,
 };
 
 // The text in the language in force.

@@ -651,6 +651,50 @@
         <source></source>
         <translation>User's Guide</translation>
     </message>
+    <message id="TERMINAL_IMPORT_ALL_KINDS">
+        <source></source>
+        <translation>News and tables</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_ANY_FILE">
+        <source></source>
+        <translation>All files</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_CANCELLED">
+        <source></source>
+        <translation>The import was cancelled. What was taken in before stays.</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_COMPLETE">
+        <source></source>
+        <translation>The import is finished.</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_FAILED">
+        <source></source>
+        <translation>The import failed.</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_NEWS">
+        <source></source>
+        <translation>&amp;Import News…</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_NOT_STARTED">
+        <source></source>
+        <translation>The import could not be started.</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_PARTIAL">
+        <source></source>
+        <translation>The import is finished, but not everything could be taken in.</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_RUNNING">
+        <source></source>
+        <translation>Taking in news. If you cancel, what is in already stays.</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_TABLES">
+        <source></source>
+        <translation>Tables of symbols, categories or quotes</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_TITLE">
+        <source></source>
+        <translation>Import News</translation>
+    </message>
     <message id="TERMINAL_INDEXING_STORE">
         <source></source>
         <translation>Making the search index of your news anew. This happens once after an update.</translation>

@@ -651,6 +651,50 @@
         <source></source>
         <translation>使用手册</translation>
     </message>
+    <message id="TERMINAL_IMPORT_ALL_KINDS">
+        <source></source>
+        <translation>新闻与表格</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_ANY_FILE">
+        <source></source>
+        <translation>所有文件</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_CANCELLED">
+        <source></source>
+        <translation>导入已取消。此前已导入的新闻仍会保留。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_COMPLETE">
+        <source></source>
+        <translation>导入完成。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_FAILED">
+        <source></source>
+        <translation>导入失败。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_NEWS">
+        <source></source>
+        <translation>导入新闻(&amp;I)…</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_NOT_STARTED">
+        <source></source>
+        <translation>无法启动导入程序。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_PARTIAL">
+        <source></source>
+        <translation>导入完成，但有部分内容无法导入。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_RUNNING">
+        <source></source>
+        <translation>正在导入新闻。若取消，已导入的新闻仍会保留。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_TABLES">
+        <source></source>
+        <translation>代码、分类或报价表格</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_TITLE">
+        <source></source>
+        <translation>导入新闻</translation>
+    </message>
     <message id="TERMINAL_INDEXING_STORE">
         <source></source>
         <translation>正在重建新闻的搜索索引，更新后只需进行一次。</translation>

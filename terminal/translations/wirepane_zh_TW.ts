@@ -651,6 +651,50 @@
         <source></source>
         <translation>使用手冊</translation>
     </message>
+    <message id="TERMINAL_IMPORT_ALL_KINDS">
+        <source></source>
+        <translation>新聞與表格</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_ANY_FILE">
+        <source></source>
+        <translation>所有檔案</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_CANCELLED">
+        <source></source>
+        <translation>匯入已取消。先前已匯入的新聞仍會保留。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_COMPLETE">
+        <source></source>
+        <translation>匯入完成。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_FAILED">
+        <source></source>
+        <translation>匯入失敗。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_NEWS">
+        <source></source>
+        <translation>匯入新聞(&amp;I)…</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_NOT_STARTED">
+        <source></source>
+        <translation>無法啟動匯入程式。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_PARTIAL">
+        <source></source>
+        <translation>匯入完成，但有部分內容無法匯入。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_RUNNING">
+        <source></source>
+        <translation>正在匯入新聞。若取消，已匯入的新聞仍會保留。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_TABLES">
+        <source></source>
+        <translation>商品、分類或報價表格</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_TITLE">
+        <source></source>
+        <translation>匯入新聞</translation>
+    </message>
     <message id="TERMINAL_INDEXING_STORE">
         <source></source>
         <translation>正在重建新聞的搜尋索引，更新後只需進行一次。</translation>

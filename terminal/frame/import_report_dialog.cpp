@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/frame/import_report_dialog.h"
+
+#include "terminal/translations/terminal_text.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace wirepane {
+
+namespace {
+
+constexpr int widthInCharacters = 76;
+constexpr int fewestLines = 3;
+constexpr int mostLines = 12;  // more are scrolled
+
+QLayout* headlineRow(const QString& headline, const QStyle& style, bool warns) {
+    const int size = style.pixelMetric(QStyle::PM_LargeIconSize);
+    auto* sign = new QLabel;
+    sign->setPixmap(
+        style.standardIcon(warns ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation)
+            .pixmap(size));
+    auto* text = new QLabel(headline);
+    text->setTextFormat(Qt::PlainText);
+    text->setWordWrap(true);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(12);
+    row->addWidget(sign);
+    row->addWidget(text, 1);
+    return row;
+}
+
+QPlainTextEdit* detailsText(const QString& details, const QString& name) {
+    auto* text = new QPlainTextEdit(details);
+    text->setReadOnly(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->setTabChangesFocus(true);
+    text->setAccessibleName(name);
+    const int lines = qBound(fewestLines, static_cast<int>(details.count(u'\n')) + 2, mostLines);
+    text->setMinimumHeight(text->fontMetrics().lineSpacing() * lines + 2 * text->frameWidth() + 8);
+    return text;
+}
+
+}  // namespace
+
+ImportReportDialog::ImportReportDialog(const QString& headline, const QString& details, bool warns,
+                                       QWidget* parent)
+    : QDialog(parent) {
+    setWindowTitle(terminalText(TextId::ImportTitle));
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
+    buttons->button(QDialogButtonBox::Ok)->setText(terminalText(TextId::Accept));
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(headlineRow(headline, *style(), warns));
+    if (!details.isEmpty())
+        column->addWidget(detailsText(details, headline), 1);
+    column->addWidget(buttons);
+    setMinimumWidth(fontMetrics().averageCharWidth() * widthInCharacters);
+    buttons->button(QDialogButtonBox::Ok)->setFocus();
+}
+
+}  // namespace wirepane

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+namespace wirepane {
+
+// Tells what an import has come to.
+class ImportReportDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    // `headline` is a sentence, `details` plain text of any length that can be scrolled and copied; empty:
+    // there are none. `warns`: not everything went well.
+    ImportReportDialog(const QString& headline, const QString& details, bool warns,
+                       QWidget* parent = nullptr);
+};
+
+}  // namespace wirepane

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/session/import_runner.h"
+
+#include "terminal/commands/exit_status.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int patienceMs = 3000;  // with a program that has been told to end
+
+ImportOutcome::Kind kindOf(int status, bool stopped) {
+    if (status == exitDone)
+        return ImportOutcome::Complete;
+    if (stopped)
+        return ImportOutcome::Cancelled;
+    return status == exitPartly ? ImportOutcome::Partial : ImportOutcome::Failed;
+}
+
+}  // namespace
+
+ImportRunner::ImportRunner(const QString& program, QObject* parent) : QObject(parent) {
+    process.setProgram(program);
+    process.setStandardInputFile(QProcess::nullDevice());
+    connect(&process, &QProcess::finished, this, &ImportRunner::finish);
+    connect(&process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            emit finished({ImportOutcome::NotStarted,
+                           QDir::toNativeSeparators(process.program()) + u": "_s + process.errorString()});
+    });
+}
+
+ImportRunner::~ImportRunner() {
+    process.disconnect(this);
+    if (!isRunning())
+        return;
+    process.terminate();
+    if (process.waitForFinished(patienceMs))
+        return;
+    process.kill();
+    process.waitForFinished();
+}
+
+void ImportRunner::start(const QString& storeFile, const QStringList& files) {
+    // Absolute paths cannot be taken for options.
+    QStringList arguments{u"import"_s, u"--store"_s, QFileInfo(storeFile).absoluteFilePath()};
+    for (const QString& file : files)
+        arguments.append(QFileInfo(file).absoluteFilePath());
+    stopped = false;
+    process.setArguments(arguments);
+    process.start();
+}
+
+void ImportRunner::stop() {
+    if (!isRunning() || stopped)
+        return;
+    stopped = true;
+    process.terminate();
+    // It is this import's end that is waited for, not that of a later one.
+    auto* patience = new QTimer(&process);
+    patience->setSingleShot(true);
+    connect(patience, &QTimer::timeout, &process, &QProcess::kill);
+    connect(&process, &QProcess::finished, patience, &QObject::deleteLater);
+    patience->start(patienceMs);
+}
+
+void ImportRunner::finish(int status, QProcess::ExitStatus exit) {
+    const bool crashed = exit == QProcess::CrashExit;
+    QString said = QString::fromLocal8Bit(process.readAllStandardOutput() + process.readAllStandardError());
+    if (crashed && !stopped)
+        said += process.errorString() + u'\n';
+    emit finished({kindOf(crashed ? exitUnusable : status, stopped), said.trimmed()});
+}
+
+}  // namespace wirepane

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "terminal/session/import_runner.h"
+
+#include <QPointer>
+#include <QProgressDialog>
+
+namespace wirepane {
+
+// What the user sees of taking files into the store: which files, that it takes its time, and what came of
+// it. The terminal goes on meanwhile.
+class NewsImport : public QObject {
+    Q_OBJECT
+
+public:
+    // The window, which is not owned, is that over which the dialogs stand; it outlives this. `program` knows
+    // the import command.
+    NewsImport(const QString& storeFile, QWidget& window, const QString& program);
+
+    // Lets the user pick files and takes them in. While that runs, it is shown instead.
+    void ask();
+    // Not while an import is running.
+    void takeIn(const QStringList& files);
+
+private:
+    void showOutcome(const ImportOutcome& outcome);
+
+    QString storeFile;
+    QWidget& window;
+    ImportRunner runner;
+    QPointer<QProgressDialog> progress;
+};
+
+}  // namespace wirepane
