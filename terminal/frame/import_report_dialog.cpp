@@ -42,7 +42,9 @@ QPlainTextEdit* detailsText(const QString& details, const QString& name) {
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text->setTabChangesFocus(true);
     text->setAccessibleName(name);
-    const int lines = qBound(fewestLines, static_cast<int>(details.count(u'\n')) + 2, mostLines);
+    text->ensurePolished();
+    // One line more than there are breaks, and room for two that are folded.
+    const int lines = qBound(fewestLines, static_cast<int>(details.count(u'\n')) + 3, mostLines);
     text->setMinimumHeight(text->fontMetrics().lineSpacing() * lines + 2 * text->frameWidth() + 8);
     return text;
 }
@@ -62,6 +64,8 @@ ImportReportDialog::ImportReportDialog(const QString& headline, const QString& d
         column->addWidget(detailsText(details, headline), 1);
     column->addWidget(buttons);
     setMinimumWidth(fontMetrics().averageCharWidth() * widthInCharacters);
+    // A text's own idea of its height is that of many lines.
+    resize(minimumSizeHint().expandedTo(minimumSize()));
     buttons->button(QDialogButtonBox::Ok)->setFocus();
 }
 

@@ -63,6 +63,7 @@ void NewsImport::ask() {
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
     dialog->setFileMode(QFileDialog::ExistingFiles);
     dialog->setNameFilters(fileFilters());
+    dialog->setOption(QFileDialog::HideNameFilterDetails);
     if (dialog->exec() == QDialog::Accepted && !dialog->selectedFiles().isEmpty())
         takeIn(dialog->selectedFiles());
 }
