@@ -70,7 +70,6 @@ Result<PortionOutcome> takePortion(FeedSource& source, FeedSink& sink) {
         sink.rollback();
         PortionOutcome refused;
         refused.fault = read.error();
-        source.settle(refused);
         return refused;
     }
     const QString position = source.position();
@@ -84,7 +83,6 @@ Result<PortionOutcome> takePortion(FeedSource& source, FeedSink& sink) {
         sink.rollback();
         return Error{committed.error()};
     }
-    source.settle(taking.outcome);
     return std::move(taking.outcome);
 }
 

@@ -43,12 +43,13 @@ public:
     virtual Done read(const ItemVisitor& visit) = 0;
     // The position behind the portion that was read last; empty: there is none to keep.
     virtual QString position() const = 0;
-    // The portion is on the disk, or has been refused: the next one may come.
+    // The portion that was taken is on the disk, or has been refused: the next one may come.
     virtual void settle(const PortionOutcome& outcome) = 0;
 };
 
-// Takes the portion at hand into the sink, in one transaction together with its position, and settles it. An
-// error is the sink's: nothing was taken, and the portion stays at hand.
+// Takes the portion at hand into the sink, in one transaction together with its position. The caller settles
+// it as soon as what the sink has committed is on the disk, and does not take it again before. An error is
+// the sink's: nothing was taken, and the portion stays at hand.
 Result<PortionOutcome> takePortion(FeedSource& source, FeedSink& sink);
 
 }  // namespace wirepane

@@ -31,6 +31,7 @@ Result<std::unique_ptr<EmbeddedBackEnd>> EmbeddedBackEnd::open(const QString& st
 
 EmbeddedBackEnd::EmbeddedBackEnd(std::unique_ptr<Database> store)
     : database(std::move(store)),
+      disk(*database),
       reader(*database),
       writer(*database),
       days(*database),

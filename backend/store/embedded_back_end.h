@@ -15,6 +15,7 @@
 #include "backend/store/search_rules.h"
 #include "backend/store/simplified_chinese.h"
 #include "backend/store/store_reader.h"
+#include "backend/store/store_sync.h"
 #include "backend/store/store_writer.h"
 #include "backend/store/symbol_table.h"
 #include "host/contract/bk_quote_interface.h"
@@ -40,8 +41,8 @@ namespace wirepane {
 // Requests are answered from the event loop. Searches look through all stories of a service, whether the
 // source is connected or not, on a thread of their own (see NewsSearch and SearchDesk).
 //
-// As a sink it tells every receiver what came in, in the order of coming, once it is on the disk: news that
-// is new or replaced as a new headline, a story that was missing as a story that can be had, a symbol as a
+// As a sink it tells every receiver what came in, in the order of coming, once it is committed: news that is
+// new or replaced as a new headline, a story that was missing as a story that can be had, a symbol as a
 // change of the catalogue. Nothing is told of what was there already. Of a large batch the first 500 are
 // told before commit() returns, the rest from the event loop.
 //
@@ -70,6 +71,11 @@ public:
     Result<TakeOutcome> take(const StoreItem& item) override;
     Done commit() override;
     void rollback() override;
+    // commit() does not wait for the disk: what it keeps survives the death of the program, but not yet that
+    // of the machine. Calls back from the event loop when all that is committed now is on the disk.
+    void whenOnDisk(StoreSync::Callback callback) { disk.whenOnDisk(std::move(callback)); }
+    // Waits for that, and calls back whoever waits.
+    void waitForDisk() { disk.finish(); }
     Done keepPosition(const QString& source, const QString& position) override {
         return writer.keepPosition(source, position);
     }
@@ -183,6 +189,7 @@ private:
     int tableOf(unsigned char service, std::vector<CHeadlineTable>& table, const CSymbolInfo& symbol);
 
     std::unique_ptr<Database> database;
+    StoreSync disk;
     StoreReader reader;
     StoreWriter writer;
     DayIndex days;

@@ -82,6 +82,8 @@ private:
     void pump() {
         if (lines.hasPortion()) {
             const Result<PortionOutcome> taken = takePortion(lines, writer);
+            if (taken)
+                lines.settle(taken.value());
             retries = taken ? 0 : retries + 1;
             if (retries == 1)
                 printNote(taken.error());

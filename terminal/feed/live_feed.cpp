@@ -7,6 +7,8 @@
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 
+#include <QPointer>
+
 #include <algorithm>
 #include <utility>
 
@@ -55,8 +57,13 @@ Done LiveFeed::openSocket() {
         FeedConnection* const connection = connections.back().get();
         connect(connection, &FeedConnection::ready, this, [this, connection] {
             // A sender that is faster than the disk waits for it.
-            if (connection->source().waiting() > mostWaitingLines && !hasTrouble() && !isTaking)
-                take(connection->source());
+            const auto here = std::vector(connections);  // also when who is told of the news sends them off
+            if (connection->source().waiting() > mostWaitingLines && !hasTrouble() && !isTaking) {
+                if (isSettling(connection->source()))
+                    backEnd.waitForDisk();
+                else
+                    take(connection->source());
+            }
             pumpSoon();
         });
     });
@@ -70,6 +77,7 @@ void LiveFeed::setConnected(bool connected) {
     if (!connected) {
         clientsBefore = connections.size();
         connections.clear();
+        std::erase_if(settling, [this](const auto& entry) { return entry.first != spool.get(); });
         server.reset();
         backEnd.setConnected(false);
     } else {
@@ -124,14 +132,14 @@ void LiveFeed::pump() {
 
 bool LiveFeed::pumpOne() {
     bool tried = false;
-    if (spool && spool->hasPortion()) {
+    if (spool && isReady(*spool)) {
         tried = true;
         if (!take(*spool))
             return true;
     }
     // A break sends the clients off.
     for (const auto& connection : std::vector(connections)) {
-        if (!isConnected || !connection->source().hasPortion())
+        if (!isConnected || !isReady(connection->source()))
             continue;
         tried = true;
         if (!take(connection->source()))
@@ -151,8 +159,39 @@ bool LiveFeed::take(FeedSource& source) {
     if (taken) {
         takenLate += isCatchingUp ? taken.value().news : 0;
         startNewsDays(taken.value());
+        settleWhenOnDisk(source, taken.value());
     }
     return static_cast<bool>(taken);
+}
+
+void LiveFeed::settleWhenOnDisk(FeedSource& source, const PortionOutcome& outcome) {
+    // A receiver that was told may have sent the clients off.
+    const bool isHere = &source == spool.get() ||
+                        std::any_of(connections.begin(), connections.end(),
+                                    [&](const auto& connection) { return &connection->source() == &source; });
+    if (!isHere)
+        return;
+    settling[&source] = ++portions;
+    awaitDisk(source, outcome, portions);
+}
+
+void LiveFeed::awaitDisk(FeedSource& source, const PortionOutcome& outcome, int portion) {
+    backEnd.whenOnDisk([this, self = QPointer(this), &source, outcome, portion](const Done& onDisk) {
+        if (self.isNull())
+            return;
+        const auto waiting = settling.find(&source);
+        if (waiting == settling.end() || waiting->second != portion)
+            return;
+        tellTrouble(onDisk ? QString() : onDisk.error());
+        if (!onDisk) {
+            QTimer::singleShot(retryMs, this,
+                               [this, &source, outcome, portion] { awaitDisk(source, outcome, portion); });
+            return;
+        }
+        settling.erase(waiting);
+        source.settle(outcome);
+        pumpSoon();
+    });
 }
 
 // Another program that writes for a moment is nothing to tell; what stands in the way twice is.

@@ -66,6 +66,10 @@ private:
     void pump();
     bool pumpOne();
     bool take(FeedSource& source);
+    void settleWhenOnDisk(FeedSource& source, const PortionOutcome& outcome);
+    void awaitDisk(FeedSource& source, const PortionOutcome& outcome, int portion);
+    bool isSettling(FeedSource& source) const { return settling.contains(&source); }
+    bool isReady(FeedSource& source) const { return !isSettling(source) && source.hasPortion(); }
     bool hasCaughtUp();
     void tellTrouble(const QString& now);
     void startNewsDays(const PortionOutcome& outcome);
@@ -79,6 +83,8 @@ private:
     QString socketName;
     std::unique_ptr<SocketServer> server;
     std::vector<std::shared_ptr<FeedConnection>> connections;
+    std::map<FeedSource*, int> settling;  // by source: its portion that is on the way to the disk
+    int portions = 0;                     // taken so far
     QTimer ticking;
     QTimer pumping;
     std::map<unsigned char, QDate> newsDays;

@@ -33,7 +33,11 @@ protected:
     int takeAll() {
         int portions = 0;
         while (spool->hasPortion() && portions < 1000) {
-            EXPECT_TRUE(takePortion(*spool, *writer));
+            const Result<PortionOutcome> taken = takePortion(*spool, *writer);
+            EXPECT_TRUE(taken);
+            if (!taken)
+                break;
+            spool->settle(taken.value());
             ++portions;
         }
         return portions;

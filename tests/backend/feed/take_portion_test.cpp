@@ -32,6 +32,8 @@ TEST_F(TakePortionTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
     source.add(positioned(record(u"a"_s, u"A"_s), 2));
     const Result<PortionOutcome> taken = takePortion(source, *writer);
     ASSERT_TRUE(taken);
+    EXPECT_EQ(receipts, QStringList{});
+    source.settle(taken.value());
     for (const Rejection& rejection : taken.value().rejections)
         places += rejection.place;
     EXPECT_EQ(receipts, QStringList{u"5: 1 1 3"_s});
@@ -42,8 +44,11 @@ TEST_F(TakePortionTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
 
     for (int i = 0; i < 2500; ++i)
         source.add(positioned(record(QString::number(i), u"N"_s), 10 + i));
-    while (source.hasPortion())
-        ASSERT_TRUE(takePortion(source, *writer));
+    while (source.hasPortion()) {
+        const Result<PortionOutcome> next = takePortion(source, *writer);
+        ASSERT_TRUE(next);
+        source.settle(next.value());
+    }
     EXPECT_EQ(receipts.mid(1), (QStringList{u"1005: 1000 0 0"_s, u"2005: 1000 0 0"_s, u"2505: 500 0 0"_s}));
     EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2509"_s);
 }
@@ -67,7 +72,6 @@ TEST_F(TakePortionTest, AStoreThatFailsKeepsThePortionForLater) {
     sink.failsAt = FailingSink::Never;
     EXPECT_TRUE(takePortion(source, sink));
     EXPECT_EQ(titles(), (QStringList{u"A"_s, u"B"_s}));
-    EXPECT_EQ(receipts, 1);
 }
 
 }  // namespace

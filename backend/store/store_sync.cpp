@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/store_sync.h"
+
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int longLog = 1000;  // pages
+constexpr std::chrono::milliseconds busyTimeout{1000};
+
+}  // namespace
+
+StoreSync::StoreSync(Database& committing)
+    : path(committing.path()), writing(committing.handle()), outcome(Nothing{}), thread([this] { run(); }) {
+    // A log whose commits are not waited for loses the last of them at worst, and never its order.
+    QString journal;
+    const bool hasLog = committing.readText("PRAGMA journal_mode", journal) && journal == u"wal"_s;
+    if (hasLog && committing.execute("PRAGMA synchronous = NORMAL"))
+        sqlite3_wal_hook(writing, &StoreSync::committed, this);
+}
+
+StoreSync::~StoreSync() {
+    sqlite3_wal_hook(writing, nullptr, nullptr);
+    {
+        const std::lock_guard lock(mutex);
+        ending = true;
+    }
+    changed.notify_all();
+    thread.join();
+}
+
+int StoreSync::committed(void* self, sqlite3*, const char*, int pagesInLog) {
+    static_cast<StoreSync*>(self)->ask(pagesInLog >= longLog);
+    return SQLITE_OK;
+}
+
+void StoreSync::ask(bool isLogLong) {
+    {
+        const std::lock_guard lock(mutex);
+        ++commits;
+        isLong = isLong || isLogLong;
+    }
+    changed.notify_all();
+}
+
+// Asks anew, too, so that one who was told of an error can try again.
+void StoreSync::whenOnDisk(Callback callback) {
+    ask(false);
+    waiting.emplace_back(commits, std::move(callback));
+}
+
+void StoreSync::finish() {
+    {
+        std::unique_lock lock(mutex);
+        changed.wait(lock, [this] { return synced == commits; });
+    }
+    deliver();
+}
+
+void StoreSync::run() {
+    std::unique_lock lock(mutex);
+    while (true) {
+        changed.wait(lock, [this] { return ending || synced < commits; });
+        if (ending)
+            return;
+        const std::int64_t upTo = commits;
+        const bool carries = std::exchange(isLong, false);
+        lock.unlock();
+        const Done done = sync();
+        lock.lock();
+        synced = upTo;
+        outcome = done;
+        changed.notify_all();
+        QMetaObject::invokeMethod(
+            &eventLoop, [this] { deliver(); }, Qt::QueuedConnection);
+        if (carries && !ending) {
+            lock.unlock();
+            carryOver();
+            lock.lock();
+        }
+    }
+}
+
+Done StoreSync::sync() {
+    if (!database) {
+        auto opened = Database::open(path, Database::Mode::Write, busyTimeout);
+        if (!opened)
+            return Error{opened.error()};
+        opened.value()->setCheckpointOnClose(false);
+        // The log is opened by the first look into the store.
+        std::int64_t version = 0;
+        if (!opened.value()->readNumber("PRAGMA user_version", version))
+            return Error{opened.value()->failure()};
+        database = std::move(opened.value());
+    }
+    sqlite3_file* log = nullptr;
+    sqlite3_file_control(database->handle(), "main", SQLITE_FCNTL_JOURNAL_POINTER, &log);
+    if (log == nullptr || log->pMethods == nullptr)
+        return Nothing{};  // no log is kept here: commits wait for the disk themselves
+    if (log->pMethods->xSync(log, SQLITE_SYNC_NORMAL) != SQLITE_OK)
+        return Error{u"%1 cannot be brought to its disk."_s.arg(path)};
+    return Nothing{};
+}
+
+// As far as no reader needs the log; the rest comes with a later commit.
+void StoreSync::carryOver() {
+    if (database)
+        sqlite3_wal_checkpoint_v2(database->handle(), "main", SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+}
+
+// Whoever is called may ask again, or destroy what waits behind him.
+void StoreSync::deliver() {
+    std::int64_t upTo = 0;
+    Done done = Nothing{};
+    {
+        const std::lock_guard lock(mutex);
+        upTo = synced;
+        done = outcome;
+    }
+    while (!waiting.empty() && waiting.front().first <= upTo) {
+        const Callback callback = std::move(waiting.front().second);
+        waiting.pop_front();
+        callback(done);
+    }
+}
+
+}  // namespace wirepane

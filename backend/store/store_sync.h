@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/database.h"
+
+#include <QObject>
+
+#include <condition_variable>
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+namespace wirepane {
+
+// Brings what is committed to a store to its disk on a thread and a connection of its own, so that a slow
+// disk keeps nobody waiting who commits. What is committed survives the death of the program at once, and
+// that of the machine once it is on the disk. Interface thread.
+class StoreSync {
+public:
+    // An error: why it cannot be said that it is on the disk.
+    using Callback = std::function<void(const Done& onDisk)>;
+
+    // The database is not owned and outlives this. From now on its commits do not wait for the disk, and its
+    // log is carried over into its file by the thread.
+    explicit StoreSync(Database& database);
+    ~StoreSync();
+    StoreSync(const StoreSync&) = delete;
+    StoreSync& operator=(const StoreSync&) = delete;
+
+    // Called back from the event loop, when all that has been committed until now is on the disk.
+    void whenOnDisk(Callback callback);
+    // Waits for that, and calls back whoever waits.
+    void finish();
+
+private:
+    static int committed(void* self, sqlite3*, const char*, int pagesInLog);
+    void ask(bool isLogLong);
+    void run();
+    Done sync();
+    void carryOver();
+    void deliver();
+
+    const QString path;
+    sqlite3* const writing;
+    QObject eventLoop;
+    std::deque<std::pair<std::int64_t, Callback>> waiting;  // by the commit that they wait for
+    std::unique_ptr<Database> database;                     // the thread's own
+
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::int64_t commits = 0;
+    std::int64_t synced = 0;  // commits
+    Done outcome;             // of the last time
+    bool isLong = false;      // the log
+    bool ending = false;
+    std::thread thread;  // last: it uses all of the above
+};
+
+}  // namespace wirepane

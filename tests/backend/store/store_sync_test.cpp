@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/store_sync.h"
+
+#include "backend/store/store_file.h"
+
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+class StoreSyncTest : public testing::Test {
+protected:
+    void write(int bytes) {
+        const QByteArray sql = "INSERT INTO notes VALUES(randomblob(" + QByteArray::number(bytes) + "))";
+        ASSERT_TRUE(store->execute(sql.constData())) << store->failure().toStdString();
+    }
+    qint64 logSize() const { return QFileInfo(file + u"-wal"_s).size(); }
+
+    QTemporaryDir folder;
+    QString file = folder.filePath(u"news.wirepane"_s);
+    std::unique_ptr<Database> store = [this] {
+        auto opened = std::move(openStore(file).value());
+        EXPECT_TRUE(opened->execute("CREATE TABLE notes(text BLOB)"));
+        return opened;
+    }();
+};
+
+TEST_F(StoreSyncTest, CallsBackInOrderFromTheEventLoop) {
+    StoreSync sync(*store);
+    std::vector<int> told;
+    for (int i = 0; i < 5; ++i) {
+        write(100);
+        sync.whenOnDisk([&told, i](const Done& onDisk) { told.push_back(onDisk ? i : -1); });
+    }
+    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told.size() == 5; }));
+    EXPECT_EQ(told, (std::vector<int>{0, 1, 2, 3, 4}));
+}
+
+TEST_F(StoreSyncTest, WhoIsCalledMayAskAgainAndWaitingCallsAtOnce) {
+    StoreSync sync(*store);
+    int told = 0;
+    sync.whenOnDisk([&](const Done&) {
+        ++told;
+        sync.whenOnDisk([&](const Done&) { ++told; });
+        sync.finish();
+    });
+    sync.finish();
+    EXPECT_EQ(told, 2);
+}
+
+TEST_F(StoreSyncTest, NobodyIsCalledAfterTheEnd) {
+    bool told = false;
+    {
+        StoreSync sync(*store);
+        sync.whenOnDisk([&](const Done&) { told = true; });
+    }
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(told);
+}
+
+// The log would grow for good if nobody carried it over.
+TEST_F(StoreSyncTest, TheLogStaysShort) {
+    constexpr int bytes = 1 << 20;
+    StoreSync sync(*store);
+    for (int i = 0; i < 64; ++i) {
+        write(bytes);
+        sync.finish();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo(file).size() >= (i - 8) * bytes; })) << i;
+    }
+    EXPECT_LT(logSize(), 32 * bytes);
+}
+
+TEST_F(StoreSyncTest, AStoreThatIsGoneIsAnError) {
+    StoreSync sync(*store);
+    ASSERT_TRUE(QFile::remove(file));
+    QString error;
+    sync.whenOnDisk([&](const Done& onDisk) { error = onDisk ? QString() : onDisk.error(); });
+    sync.finish();
+    EXPECT_TRUE(error.contains(u"news.wirepane"_s)) << error.toStdString();
+}
+
+}  // namespace
+
+}  // namespace wirepane
