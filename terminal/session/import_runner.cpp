@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/import_runner.h"
 
+#include "host/contract/clock.h"
 #include "terminal/commands/exit_status.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QTimer>
@@ -15,6 +17,8 @@ namespace wirepane {
 namespace {
 
 constexpr int patienceMs = 3000;  // with a program that has been told to end
+// Of a file with a million faults nobody reads more.
+constexpr qsizetype mostNotes = 200'000;  // bytes
 
 ImportOutcome::Kind kindOf(int status, bool stopped) {
     if (status == exitDone)
@@ -29,6 +33,7 @@ ImportOutcome::Kind kindOf(int status, bool stopped) {
 ImportRunner::ImportRunner(const QString& program, QObject* parent) : QObject(parent) {
     process.setProgram(program);
     process.setStandardInputFile(QProcess::nullDevice());
+    connect(&process, &QProcess::readyReadStandardError, this, &ImportRunner::hear);
     connect(&process, &QProcess::finished, this, &ImportRunner::finish);
     connect(&process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart)
@@ -50,10 +55,14 @@ ImportRunner::~ImportRunner() {
 
 void ImportRunner::start(const QString& storeFile, const QStringList& files) {
     // Absolute paths cannot be taken for options.
-    QStringList arguments{u"import"_s, u"--store"_s, QFileInfo(storeFile).absoluteFilePath()};
+    QStringList arguments{u"import"_s, u"--now"_s,
+                          QDateTime::fromSecsSinceEpoch(host_clock::now()).toString(Qt::ISODate),
+                          u"--store"_s, QFileInfo(storeFile).absoluteFilePath()};
     for (const QString& file : files)
         arguments.append(QFileInfo(file).absoluteFilePath());
     stopped = false;
+    notes.clear();
+    leftOut = 0;
     process.setArguments(arguments);
     process.start();
 }
@@ -71,12 +80,25 @@ void ImportRunner::stop() {
     patience->start(patienceMs);
 }
 
+// In whole lines: the rest of a line that is begun is taken with its end.
+void ImportRunner::hear() {
+    process.setReadChannel(QProcess::StandardError);
+    while (process.canReadLine() || (!isRunning() && process.bytesAvailable() > 0)) {
+        const QByteArray line = process.readLine();
+        if (notes.size() < mostNotes)
+            notes += line;
+        else
+            ++leftOut;
+    }
+}
+
 void ImportRunner::finish(int status, QProcess::ExitStatus exit) {
     const bool crashed = exit == QProcess::CrashExit;
-    QString said = QString::fromLocal8Bit(process.readAllStandardOutput() + process.readAllStandardError());
+    hear();
+    QString said = QString::fromLocal8Bit(process.readAllStandardOutput() + notes);
     if (crashed && !stopped)
         said += process.errorString() + u'\n';
-    emit finished({kindOf(crashed ? exitUnusable : status, stopped), said.trimmed()});
+    emit finished({kindOf(crashed ? exitUnusable : status, stopped), said.trimmed(), leftOut});
 }
 
 }  // namespace wirepane

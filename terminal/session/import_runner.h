@@ -20,6 +20,7 @@ struct ImportOutcome {
     Kind kind = Complete;
     // What the program said, a line each: the totals first, then what was rejected and why.
     QString said;
+    qint64 leftOut = 0;  // further lines
 };
 
 // Takes files into a store by running the import command as a program of its own, one import at a time.
@@ -43,9 +44,12 @@ signals:
     void finished(const wirepane::ImportOutcome& outcome);
 
 private:
+    void hear();
     void finish(int status, QProcess::ExitStatus exit);
 
     QProcess process;
+    QByteArray notes;
+    qint64 leftOut = 0;  // lines
     bool stopped = false;
 };
 

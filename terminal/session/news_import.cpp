@@ -82,7 +82,10 @@ void NewsImport::takeIn(const QStringList& files) {
 
 void NewsImport::showOutcome(const ImportOutcome& outcome) {
     delete progress;
-    auto* report = new ImportReportDialog(terminalText(headlineOf(outcome.kind)), outcome.said,
+    QString said = outcome.said;
+    if (outcome.leftOut > 0)
+        said += u'\n' + terminalText(TextId::ImportLeftOut).arg(outcome.leftOut);
+    auto* report = new ImportReportDialog(terminalText(headlineOf(outcome.kind)), said,
                                           outcome.kind != ImportOutcome::Complete, &window);
     report->setAttribute(Qt::WA_DeleteOnClose);
     report->show();

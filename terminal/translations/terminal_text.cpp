@@ -96,6 +96,7 @@ constexpr std::array keys{
     "TERMINAL_IMPORT_PARTIAL",
     "TERMINAL_IMPORT_CANCELLED",
     "TERMINAL_IMPORT_FAILED",
+    "TERMINAL_IMPORT_LEFT_OUT",
     "TERMINAL_IMPORT_NOT_STARTED",
 };
 static_assert(keys.size() == static_cast<std::size_t>(TextId::ImportNotStarted) + 1);

@@ -95,6 +95,7 @@ enum class TextId {
     ImportPartial,
     ImportCancelled,
     ImportFailed,
+    ImportLeftOut,
     ImportNotStarted,
 };
 

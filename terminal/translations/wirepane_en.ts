@@ -671,6 +671,10 @@
         <source></source>
         <translation>The import failed.</translation>
     </message>
+    <message id="TERMINAL_IMPORT_LEFT_OUT">
+        <source></source>
+        <translation>And %1 more lines, which “wirepane import” shows in a console.</translation>
+    </message>
     <message id="TERMINAL_IMPORT_NEWS">
         <source></source>
         <translation>&amp;Import News…</translation>

@@ -671,6 +671,10 @@
         <source></source>
         <translation>导入失败。</translation>
     </message>
+    <message id="TERMINAL_IMPORT_LEFT_OUT">
+        <source></source>
+        <translation>还有 %1 行，可在控制台以 wirepane import 查看。</translation>
+    </message>
     <message id="TERMINAL_IMPORT_NEWS">
         <source></source>
         <translation>导入新闻(&amp;I)…</translation>

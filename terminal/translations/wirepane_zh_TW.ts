@@ -671,6 +671,10 @@
         <source></source>
         <translation>匯入失敗。</translation>
     </message>
+    <message id="TERMINAL_IMPORT_LEFT_OUT">
+        <source></source>
+        <translation>還有 %1 行，可在主控台以 wirepane import 檢視。</translation>
+    </message>
     <message id="TERMINAL_IMPORT_NEWS">
         <source></source>
         <translation>匯入新聞(&amp;I)…</translation>

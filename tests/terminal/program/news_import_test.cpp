@@ -70,6 +70,9 @@ TEST_F(NewsImportTest, TellsWhatCameOfIt) {
         u"mixed.jsonl"_s, ninjsItem(u"u:2"_s, u"Good too"_s, u"Story"_s, newsTime) + "\n{\"uri\": broken\n");
     const QString noProgram = scratch.path(u"no-program"_s);
     const QString noStore = scratch.write(u"no-store"_s, "This is no store at all. "_ba.repeated(100));
+    const QString old = scratch.write(
+        u"old.jsonl"_s, ninjsItem(u"u:old"_s, u"Old"_s, u"Story"_s, u"1987-03-02T09:00:00Z"_s) + '\n');
+    const QString hopeless = scratch.write(u"hopeless.jsonl"_s, "{\"uri\": broken\n"_ba.repeated(20'000));
     const Case cases[] = {
         {store, good, programFile(), {u"import is finished.\n1 taken in, 0 already there, 0 rejected"_s}},
         {store, good, programFile(), {u"import is finished.\n0 taken in, 1 already there, 0 rejected"_s}},
@@ -77,6 +80,8 @@ TEST_F(NewsImportTest, TellsWhatCameOfIt) {
          mixed,
          programFile(),
          {u"not everything"_s, u"\n1 taken in, 0 already there, 1 rejected\n"_s, mixed + u": line 2: "_s}},
+        {store, hopeless, programFile(), {u"20000 rejected\n"_s, u"And "_s, u" more lines"_s}},
+        {store, old, programFile(), {u"1 taken in"_s, u"--now 1987-"_s}},
         {store, scratch.path(u"missing"_s), programFile(), {u"The import failed."_s, u"missing: "_s}},
         {noStore, good, programFile(), {u"The import failed."_s, u"no-store"_s}},
         {store, good, noProgram, {u"could not be started"_s, noProgram}},
@@ -88,8 +93,10 @@ TEST_F(NewsImportTest, TellsWhatCameOfIt) {
         const QString said = report();
         for (const QString& told : c.told)
             EXPECT_TRUE(said.contains(told)) << qPrintable(said);
+        // What is old is so for the terminal's present moment.
+        EXPECT_EQ(said.contains(u"--now"_s), c.file == old) << qPrintable(said);
     }
-    EXPECT_TRUE(QTest::qWaitFor([&] { return rows() == before + 2; })) << rows() - before;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rows() == before + 3; })) << rows() - before;
 }
 
 TEST_F(NewsImportTest, ALongOneCanBeCancelledAndLeavesWholeFiles) {
