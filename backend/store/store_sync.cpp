@@ -72,17 +72,15 @@ void StoreSync::run() {
         const bool carries = std::exchange(isLong, false);
         lock.unlock();
         const Done done = sync();
+        // Before anybody is called: who waits for the disk does not lengthen the log meanwhile.
+        if (carries)
+            carryOver();
         lock.lock();
         synced = upTo;
         outcome = done;
         changed.notify_all();
         QMetaObject::invokeMethod(
             &eventLoop, [this] { deliver(); }, Qt::QueuedConnection);
-        if (carries && !ending) {
-            lock.unlock();
-            carryOver();
-            lock.lock();
-        }
     }
 }
 

@@ -32,7 +32,8 @@ public:
     StoreSync(const StoreSync&) = delete;
     StoreSync& operator=(const StoreSync&) = delete;
 
-    // Called back from the event loop, when all that has been committed until now is on the disk.
+    // Called back from the event loop, when all that has been committed until now is on the disk. Who commits
+    // much waits for it each time, lest the log grow without end.
     void whenOnDisk(Callback callback);
     // Waits for that, and calls back whoever waits.
     void finish();
