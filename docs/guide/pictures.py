@@ -172,6 +172,11 @@ class Guide:
         self.terminal.settle()
         self.read(SYMBOL)
         self.picture("docked-views")
+        # Those that name no folder of whoever runs this.
+        for key, dialog in (("Ctrl+Shift+P", "preview"), ("Ctrl+,", "settings"), ("Ctrl+G", "read-as-of")):
+            self.ask("input.key", key=key)
+            self.picture(dialog)
+            self.ask("dialog.close")
 
 
 def main() -> int:
