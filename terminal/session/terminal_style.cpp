@@ -121,8 +121,8 @@ int TerminalStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
 int TerminalStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                              QStyleHintReturn* answer) const {
     switch (hint) {
-        case SH_ComboBox_Popup:  // drop-downs are lists under their boxes, quick with tens of thousands of
-                                 // items
+        // Drop-downs are lists under their boxes, quick with tens of thousands of items.
+        case SH_ComboBox_Popup:
         case SH_DialogButtonBox_ButtonsHaveIcons:
             return 0;
         case SH_Menu_SpaceActivatesItem:  // it ticks a box, so it ticks what looks like one
