@@ -26,9 +26,10 @@ struct NewsItem {
     unsigned char service = 1;
     QString identity;  // what the source calls it, unique within the service: the same item twice is one item
     int version = 0;   // a later version replaces an earlier one
-    std::int64_t time = 0;           // seconds since 1970, UTC; firstNewsTime to lastNewsTime
-    QString title;                   // one line of plain text
-    std::optional<QString> story;    // plain text in wire form; absent: not known yet
+    std::int64_t time = 0;                     // seconds since 1970, UTC; firstNewsTime to lastNewsTime
+    QString title;                             // one line of plain text
+    std::optional<QString> story = QString();  // plain text in wire form; empty: it has none; absent: the
+                                               // source says that one is still to come
     QString category;                // name of its category; empty: none. The store gives each name an id
     std::vector<SymbolRef> related;  // the first is the main symbol
 

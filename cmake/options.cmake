@@ -22,6 +22,16 @@ if(WIREPANE_SANITIZE)
     target_link_options(wirepane_options INTERFACE -fsanitize=${WIREPANE_SANITIZE})
 endif()
 
+# Releases are hardened, and do not tell where they were built: two builds of one source are the same.
+set(WIREPANE_RELEASE $<AND:$<CXX_COMPILER_ID:GNU,Clang>,$<CONFIG:Release,RelWithDebInfo>>)
+target_compile_options(wirepane_options INTERFACE
+    "$<${WIREPANE_RELEASE}:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.;-ffile-prefix-map=${CMAKE_BINARY_DIR}=build>")
+if(CMAKE_SYSTEM_NAME STREQUAL Linux AND NOT WIREPANE_SANITIZE)
+    target_compile_options(wirepane_options INTERFACE
+        "$<${WIREPANE_RELEASE}:-fstack-protector-strong;-fstack-clash-protection;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+    target_link_options(wirepane_options INTERFACE "$<${WIREPANE_RELEASE}:LINKER:-z,relro;LINKER:-z,now>")
+endif()
+
 option(WIREPANE_PRECOMPILE "Precompile the headers that nearly every source includes" ON)
 function(wirepane_precompile target)
     if(WIREPANE_PRECOMPILE)
@@ -29,14 +39,21 @@ function(wirepane_precompile target)
     endif()
 endfunction()
 
+# The version in the names of the shared libraries: while it is 0.x, each minor version is an interface of its own.
+set(WIREPANE_ABI ${PROJECT_VERSION_MAJOR})
+if(WIREPANE_ABI EQUAL 0)
+    set(WIREPANE_ABI ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+endif()
+
+set(WIREPANE_MODULE_FOLDER lib/wirepane-${WIREPANE_ABI})
+
 # wirepane_room(NAME [SHARED] SOURCES... LINK libraries...)
 # One library per room (a shared one only for the host contract).
 function(wirepane_room name)
     cmake_parse_arguments(ROOM "SHARED" "" "SOURCES;LINK" ${ARGN})
     if(ROOM_SHARED)
         add_library(${name} SHARED ${ROOM_SOURCES})
-        set_target_properties(${name} PROPERTIES
-            WINDOWS_EXPORT_ALL_SYMBOLS ON VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+        set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${WIREPANE_ABI})
     else()
         add_library(${name} STATIC ${ROOM_SOURCES})
     endif()
@@ -46,17 +63,47 @@ function(wirepane_room name)
     wirepane_precompile(${name} <QString> <QStringList> <QHash> <QVariant> <functional> <memory> <vector>)
 endfunction()
 
-# wirepane_test(NAME SOURCES... LINK libraries...)
-# One test program, a test of its own in CTest, run on the offscreen platform.
+# wirepane_test_fonts(NAME FAMILY FILES): what FONTCONFIG_FILE names so that tests see these fonts alone, FAMILY first.
+function(wirepane_test_fonts name WIREPANE_TEST_FONT WIREPANE_TEST_FONT_FILES)
+    configure_file(${CMAKE_SOURCE_DIR}/tests/fonts.conf.in ${CMAKE_BINARY_DIR}/tests/${name}_fonts.conf @ONLY)
+endfunction()
+wirepane_test_fonts(usual "DejaVu Sans" "/usr/share/fonts/truetype/dejavu/*")
+wirepane_test_fonts(large "Noto Sans Mono" "/usr/share/fonts/truetype/noto/NotoSansMono-*")
+
+# wirepane_test(NAME [WIDGETS] SOURCES... LINK libraries...)
+# One test program, a test of its own in CTest, run on the offscreen platform. One of WIDGETS is run again with a
+# font that is taller and wider than the usual one.
 function(wirepane_test name)
-    cmake_parse_arguments(TEST "" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(TEST "WIDGETS" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE wirepane_options wirepane_test_support ${TEST_LINK})
     if(WIREPANE_PRECOMPILE)
         target_precompile_headers(${name} REUSE_FROM wirepane_test_support)
     endif()
-    add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp;WIREPANE_TEST_NEWS=${CMAKE_SOURCE_DIR}/../shared/news"
+    wirepane_add_test(${name} ${name} usual "DejaVu Sans")
+    if(TEST_WIDGETS)
+        wirepane_add_test(${name}_large_font ${name} large "Noto Sans Mono")
+    endif()
+endfunction()
+
+# The program fails where its default font is another one.
+function(wirepane_add_test test program fonts family)
+    add_test(NAME ${test} COMMAND ${program})
+    set_tests_properties(${test} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;FONTCONFIG_FILE=${CMAKE_BINARY_DIR}/tests/${fonts}_fonts.conf;WIREPANE_TEST_FONT=${family};LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp;WIREPANE_TEST_NEWS=${CMAKE_SOURCE_DIR}/../shared/news"
         TIMEOUT 600)
+endfunction()
+
+# wirepane_install_compressed(FILE FOLDER COMPONENT): as gzip does it, without name and time; as it is, where gzip is not.
+find_program(WIREPANE_GZIP gzip)
+function(wirepane_install_compressed file folder component)
+    get_filename_component(name ${file} NAME)
+    get_filename_component(file ${file} ABSOLUTE)
+    if(WIREPANE_GZIP)
+        set(compressed ${CMAKE_CURRENT_BINARY_DIR}/compressed/${name}.gz)
+        file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/compressed)
+        execute_process(COMMAND ${WIREPANE_GZIP} -9nc ${file} OUTPUT_FILE ${compressed} COMMAND_ERROR_IS_FATAL ANY)
+        set(file ${compressed})
+    endif()
+    install(FILES ${file} DESTINATION ${folder} COMPONENT ${component})
 endfunction()

@@ -17,7 +17,7 @@ QString HeadlineList::TextOfRows(const std::vector<int>& rows) const {
     for (const CHeadline& headline : headlinesOf(entries)) {
         const QString category =
             hasTwoColumns() ? QString()
-                            : owner.cszTransferCatIDToCatName(headline.categoryId) + QLatin1Char('\t');
+                            : owner.CategoryNameOf(headline.service, headline.categoryId) + QLatin1Char('\t');
         titles[KeyOf(headline)] = category + ShownText(backEnd, headline.service, headline.title);
     }
     QStringList lines;

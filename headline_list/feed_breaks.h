@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -16,6 +17,8 @@ public:
 
     // Since when there is no connection; nothing while there is one.
     std::optional<std::int64_t> Since() const { return since; }
+    // How many breaks are over.
+    std::size_t Ended() const { return past.size(); }
     // True for a time within a break, also the one that is on.
     bool bHolds(std::int64_t time) const;
 

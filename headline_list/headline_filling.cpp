@@ -99,22 +99,23 @@ void HeadlineList::vUpdateHeadline(int row, const CHeadline& headline, bool show
 }
 
 void HeadlineList::writeHeadline(int row, const CHeadline& headline, bool showDate) {
-    const QString category = owner.cszTransferCatIDToCatName(headline.categoryId);
-    writeCells(row,
-               {TimeText(headline.time, showDate), ShownText(backEnd, headline.service, category),
-                ShownText(backEnd, headline.service, headline.title), categoryColour(category), showDate});
+    const QString category = owner.CategoryNameOf(headline.service, headline.categoryId);
+    writeCells(row, {TimeText(headline.time, showDate), ShownText(backEnd, headline.service, category),
+                     ShownText(backEnd, headline.service, headline.title),
+                     categoryColour(headline.service, category), showDate});
 }
 
 void HeadlineList::vFillSheet(int row, const QString& time, const QString& category, const QString& title) {
-    writeCells(row, {time, category, title, categoryColour(category), kind.showDate});
+    const unsigned char service = row >= 0 && row < table.size() ? table.at(row).service : 0;
+    writeCells(row, {time, category, title, categoryColour(service, category), kind.showDate});
 }
 
 // By the name as the catalogue has it, not as it is shown.
-QColor HeadlineList::categoryColour(const QString& name) const {
+QColor HeadlineList::categoryColour(unsigned char service, const QString& name) const {
     QColor text;
     QColor background;
     if (!hasTwoColumns())
-        owner.GetCategoryColor(name, text, background);
+        owner.CategoryColourOf(service, name, text, background);
     return text;
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/headline_list.h"
 
+#include <utility>
+
 namespace {
 
 CHeadlineTable entryOf(const CHeadline& headline) {
@@ -44,8 +46,18 @@ void HeadlineList::vFillHeadlineTable() {
     sheet->vClearRows();
     sheet->vAddRows(table.size());
     sheet->vResetRowBkColor();
+    owner.vRowsReplaced(kind.index);
+    if (heldPlace) {
+        std::exchange(heldPlace, std::nullopt)->vRestore(table, *sheet);
+        return;
+    }
     sheet->vResetScroll();
     sheet->viewport()->repaint();
+}
+
+void HeadlineList::vHoldPlace() {
+    if (sheet != nullptr)
+        heldPlace.emplace(table, *sheet);
 }
 
 void HeadlineList::vRefill() {
@@ -70,9 +82,10 @@ HeadlinePlace HeadlineList::vProcessNewHeadline(const CHeadline& headline, bool 
         vDeleteHeadline(old + 1);
         return {0, old};
     }
+    // Out before in, so that the table never has two rows of one number to tell apart.
     const HeadlineKey oldKey = KeyOf(table.at(old));
+    table.remove(old);
     table.insert(0, entryOf(headline));
-    table.remove(old + 1);
     forgetCells(oldKey);
     sheet->vMoveRowToTop(old);
     writeHeadline(0, headline, showDate);
@@ -85,6 +98,26 @@ void HeadlineList::vInsertHeadline(int row, const CHeadline& headline, bool show
     table.insert(row, entryOf(headline));
     sheet->vInsertRow(row);
     writeHeadline(row, headline, showDate);
+}
+
+void HeadlineList::vReplaceHeadline(int row, const CHeadline& headline) {
+    if (sheet == nullptr || row < 0 || row >= table.size())
+        return;
+    const HeadlineKey oldKey = KeyOf(table.at(row));
+    if (oldKey == KeyOf(headline))
+        return;
+    const bool showDate = kind.showDate != cells.hasOtherTimeForm(oldKey);
+    table.remove(row);
+    table.insert(row, entryOf(headline));
+    forgetCells(oldKey);
+    writeHeadline(row, headline, showDate);
+}
+
+HeadlinePlace HeadlineList::vTakeOut(int row) {
+    if (sheet == nullptr || row < 0 || row >= table.size())
+        return {};
+    vDeleteHeadline(row);
+    return {-1, row};
 }
 
 void HeadlineList::vDeleteHeadline(int row) {

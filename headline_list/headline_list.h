@@ -6,6 +6,7 @@
 #include "headline_list/headline_table.h"
 #include "headline_list/list_index.h"
 #include "headline_list/list_owner.h"
+#include "headline_list/reading_place.h"
 #include "headline_list/relation_matcher.h"
 #include "headline_list/sort_order.h"
 #include "host/contract/bk_quote_interface.h"
@@ -14,12 +15,13 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <optional>
 #include <vector>
 
 // Where a pushed headline went.
 struct HeadlinePlace {
-    int row = -1;     // -1: nowhere, the list has no grid
-    int oldRow = -1;  // of a headline that was sent again: the row that went; -1: the headline is new
+    int row = -1;     // -1: nowhere, the list has no grid or the headline has left it
+    int oldRow = -1;  // of a headline that was there: the row that went; -1: none did
 
     bool operator==(const HeadlinePlace&) const = default;
 };
@@ -45,8 +47,11 @@ public:
     // Replaces the table by another list's, as it stands.
     void vSetTable(const HeadlineTable& other);
 
-    // Gives the grid one empty row per entry, at the top of its scroll range, and repaints it at once.
+    // Gives the grid one empty row per entry, at the top of its scroll range, and repaints it at once. After
+    // vHoldPlace it shows what it showed then, as far as that is listed still.
     void vFillHeadlineTable();
+    // Keeps what the reader looks at through the next vFillHeadlineTable. Call it before the table changes.
+    void vHoldPlace();
     // vFillHeadlineTable and vFillHeadline.
     void vRefill();
 
@@ -64,8 +69,8 @@ public:
     // that do not exist are passed over. True when some headlines were at hand at once; the next refresh
     // writes them.
     bool bReCoverHeadline(const std::vector<int>& rows);
-    // Writes the first visible row from its headline, when the back end has it at hand. With `relation`
-    // only when one of its key sets wants it.
+    // For hosts: writes the first visible row from its headline, when the back end has it at hand. With
+    // `relation` only when one of its key sets wants it.
     void vUpdataTopHeadline(bool showDate, const RelationMatcher* relation = nullptr);
 
     // Puts a pushed headline in. A new one goes above the first row from the top that is earlier. One that is
@@ -74,14 +79,19 @@ public:
     HeadlinePlace vProcessNewHeadline(const CHeadline& headline, bool showDate);
     // Puts a headline in before `row`, in [0, Table().size()], and writes its row.
     void vInsertHeadline(int row, const CHeadline& headline, bool showDate);
+    // The row of a headline takes over what it is now, where it stands: the list is not one that it enters.
+    void vReplaceHeadline(int row, const CHeadline& headline);
+    // The row of a headline that is not one of this list's any more, or of none. Result: where it stood.
+    HeadlinePlace vTakeOut(int row);
     // Takes a row out; one out of range is ignored.
     void vDeleteHeadline(int row);
 
     // Writes the cells of one row.
     void vFillSheet(int row, const QString& time, const QString& category, const QString& title);
 
-    // Forgets what was written: the next refill writes every visible row anew, as after a change of language.
-    void vForgetWrittenCells() { cells.clear(); }
+    // Forgets what was written: the next refill writes every visible row anew, as after a change of language
+    // or of category names. Rows whose time has the other form keep it.
+    void vForgetWrittenCells() { cells.keepOnly({}, kind.showDate); }
 
     // These rows, also those that are not on screen, a line each: date and time, category, title, with tabs
     // between them. Rows that do not exist and those beyond mostCopiedRows are passed over.
@@ -101,7 +111,7 @@ private:
     std::vector<CHeadline> headlinesOf(const std::vector<CHeadlineTable>& entries) const;
     const WrittenCells* cellsOf(int row) const;
     void writeHeadline(int row, const CHeadline& headline, bool showDate);
-    QColor categoryColour(const QString& name) const;
+    QColor categoryColour(unsigned char service, const QString& name) const;
     void writeCells(int row, const WrittenCells& written);
     void letCellsGo();
     void forgetCells(const HeadlineKey& key);
@@ -112,6 +122,7 @@ private:
     QPointer<CSuperSheetWnd> sheet;
     HeadlineTable table;
     CellState cells;
+    std::optional<ReadingPlace> heldPlace;
     QTimer afterPainting;  // then the table's index is built, for the first push to find
 };
 

@@ -4,11 +4,15 @@
 
 #include "headline_list/headline_list.h"
 #include "headline_list/table_reading.h"
+#include "host/contract/news_positions.h"
 
 #include <QString>
 
 #include <array>
+#include <cstdint>
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 // The seven headline lists of a view, and how their tables are read from the back end.
@@ -19,26 +23,47 @@ public:
     HeadlineList& operator[](ListIndex list) { return *lists[static_cast<std::size_t>(list)]; }
     const HeadlineList& operator[](ListIndex list) const { return *lists[static_cast<std::size_t>(list)]; }
 
+    // Called each time that a list has been read anew.
+    void vSetOnRead(std::function<void()> call) { onRead = std::move(call); }
+
     // Each reads one table anew, gives its grid the rows at the top and writes the visible ones. A list
     // without a grid is left alone. True when there are rows. From the selected services, by date (key:
     // yyyymmdd) or category (key: its id).
     bool bRebuild(ListIndex list, TableKind kind, const QString& key, RelationFilter filter = nullptr);
     // Symbol news, from the selected services.
     bool bRebuildSymbol(const CSymbolInfo& symbol, RelationFilter filter = nullptr);
+    // The symbol whose news the symbol list holds.
+    const CSymbolInfo& ListedSymbol() const { return listedSymbol; }
     // Warrant news of a date, from the warrant service alone.
     bool bRebuildWarrant(const QString& dateKey);
     // Each ticked one of `services` gives the news of the date at which it stands.
     bool bRebuildCurrent(ListIndex list, const std::vector<ServiceEntry>& services,
                          RelationFilter filter = nullptr);
+    // True while the list is as it was read under another list's filter: with the filter of the key sets,
+    // which is the relation list's own, or as the relation list without it.
+    bool bHasOthersFilter(ListIndex list) const { return othersFilter[static_cast<std::size_t>(list)]; }
+    // True for a headline that is being told when its list held it already as it was read last: the back end
+    // numbers its news (NewsPositions), and says so.
+    bool bWasRead(ListIndex list, const CHeadline& told) const;
+    // What a list holds is behind what the back end has; until it is read anew.
+    void vMissed(ListIndex list) { missed[static_cast<std::size_t>(list)] = true; }
+    bool bHasMissed(ListIndex list) const { return missed[static_cast<std::size_t>(list)]; }
+
     // The table becomes that of another list, row by row.
     bool bRebuildAsCopy(ListIndex list, ListIndex of);
 
 private:
-    // `fill` gives the list its table.
+    // `fill` gives the list its table, read with `filter`.
     template <class Fill>
-    bool bRebuildFrom(ListIndex list, Fill fill);
+    bool bRebuildFrom(ListIndex list, RelationFilter filter, Fill fill);
 
     BKQuoteInterface& backEnd;
     ListOwner& owner;
+    NewsPositions* positions;  // null: the back end does not number its news
+    CSymbolInfo listedSymbol;
     std::array<std::unique_ptr<HeadlineList>, listCount> lists;
+    std::array<bool, listCount> othersFilter{};
+    std::function<void()> onRead;
+    std::array<std::int64_t, listCount> readAt{};  // the position of the latest news when a list was read
+    std::array<bool, listCount> missed{};
 };

@@ -34,6 +34,7 @@ CSuperSheetWnd* CreateHeadlineSheet(QWidget* parent, const QRect& rectangle, int
     sheet->vSetThinBar(CSyncInfo::GetSettingCFG()->CApi_GetThinBarStatus());
     sheet->setGeometry(rectangle);
     sheet->vSetSmoothHorizontalScroll(true);
+    sheet->vStretchLastColumn(false);
     sheet->vSetHeaderRowHeight(rowHeight);
     sheet->vSetRowHeight(rowHeight);
     for (const SheetColumn& column : columnsOf(newsType))

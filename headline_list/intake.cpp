@@ -13,6 +13,28 @@ bool isTicked(std::span<const ServiceEntry> services, unsigned char service) {
     return entry != services.end() && entry->selected;
 }
 
+// What a list is about: its topic, its symbol, its conditions. Lists without any are about everything.
+bool concerns(ListIndex list, const PushedHeadline& pushed, const IntakeState& state) {
+    switch (list) {
+        case ListIndex::Category:
+            return state.categoryId == pushed.categoryId;
+        case ListIndex::Symbol:
+            return state.symbolCode == pushed.symbolCode;
+        case ListIndex::Relation:
+            return state.relation != nullptr &&
+                   state.relation->CheckIsRelationSearch(pushed.headline, pushed.categoryId.toInt(),
+                                                         pushed.symbolCode);
+        default:
+            return true;
+    }
+}
+
+bool names(const std::vector<CSymbolInfo>& symbols, unsigned char market, const QString& code) {
+    return std::any_of(symbols.begin(), symbols.end(), [&](const CSymbolInfo& symbol) {
+        return symbol.code == code && (symbol.market == market || symbol.market == 0);
+    });
+}
+
 }  // namespace
 
 std::vector<IntakeTarget> ListsFor(const PushedHeadline& pushed, const IntakeState& state) {
@@ -23,7 +45,8 @@ std::vector<IntakeTarget> ListsFor(const PushedHeadline& pushed, const IntakeSta
         return ticked && state.shown[static_cast<std::size_t>(list)];
     };
     const auto takes = [&](ListIndex list) {
-        return wasShown(list) && state.exists[static_cast<std::size_t>(list)];
+        return wasShown(list) && state.exists[static_cast<std::size_t>(list)] &&
+               concerns(list, pushed, state);
     };
     std::vector<IntakeTarget> targets;
     if (state.pickedDate.isValid() && state.pickedDate == state.newsDay) {
@@ -32,13 +55,19 @@ std::vector<IntakeTarget> ListsFor(const PushedHeadline& pushed, const IntakeSta
         else if (wasShown(ListIndex::All))
             targets.push_back({ListIndex::All, false});
     }
-    if (takes(ListIndex::Category) && state.categoryId == pushed.categoryId)
-        targets.push_back({ListIndex::Category, true});
-    if (takes(ListIndex::Symbol) && state.symbolCode == pushed.symbolCode)
-        targets.push_back({ListIndex::Symbol, true});
-    // A pushed row says its day here, though the rows that the list was built with do not.
-    if (takes(ListIndex::Relation) && state.relation != nullptr &&
-        state.relation->CheckIsRelationSearch(pushed.headline, pushed.categoryId.toInt(), pushed.symbolCode))
-        targets.push_back({ListIndex::Relation, true});
+    // A pushed row says its day in the relation list, though the rows that it was built with do not.
+    for (const ListIndex list : {ListIndex::Category, ListIndex::Symbol, ListIndex::Relation}) {
+        if (takes(list))
+            targets.push_back({list, true});
+    }
     return targets;
+}
+
+bool Keeps(ListIndex list, const PushedHeadline& pushed, const NamedSymbols& symbols,
+           const IntakeState& state) {
+    const bool isUnknown = (list == ListIndex::Category && !state.categoryId) ||
+                           (list == ListIndex::Symbol && !state.symbolCode);
+    if (isUnknown || concerns(list, pushed, state))
+        return true;
+    return list == ListIndex::Symbol && symbols && names(*symbols, state.symbolMarket, *state.symbolCode);
 }

@@ -22,6 +22,9 @@ struct PushedHeadline {
     const QString& symbolCode;
 };
 
+// The symbols that a headline names; nothing: they are not at hand.
+using NamedSymbols = std::optional<std::vector<CSymbolInfo>>;
+
 // What decides where a pushed headline goes.
 struct IntakeState {
     bool connected = false;  // to the back end
@@ -33,6 +36,7 @@ struct IntakeState {
     std::array<bool, listCount> shown{};        // the list has been shown: until then it takes no pushes
     std::optional<QString> categoryId;          // of the chosen category; none: nothing is chosen
     std::optional<QString> symbolCode;          // of the chosen symbol
+    unsigned char symbolMarket = 0;             // its service
     const RelationMatcher* relation = nullptr;  // the ticked key sets; null: there are none
 };
 
@@ -47,3 +51,9 @@ struct IntakeTarget {
 // The lists that a pushed headline belongs to, in the order in which they take it. Search results are not
 // among them: they are merged from the back end's answers.
 std::vector<IntakeTarget> ListsFor(const PushedHeadline& pushed, const IntakeState& state);
+
+// Whether a list that holds a headline may keep it now that it has been replaced by `pushed`. By the test by
+// which lists take headlines; the symbol list, which is read with every news that names its symbol, also
+// keeps what names it among others. A list whose choice is not known keeps it.
+bool Keeps(ListIndex list, const PushedHeadline& pushed, const NamedSymbols& symbols,
+           const IntakeState& state);

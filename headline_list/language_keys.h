@@ -62,6 +62,10 @@ inline constexpr QLatin1StringView waitingToPrint{"IDS_NEWSCTRLVIEW_STRING_WAITI
 inline constexpr QLatin1StringView waitingToSave{"IDS_NEWSCTRLVIEW_STRING_WAITING_TO_SAVE"};
 inline constexpr QLatin1StringView waitingToPreview{"IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PREVIEW"};
 inline constexpr QLatin1StringView stopWaiting{"IDS_NEWSCTRLVIEW_STRING_STOP_WAITING"};
+// "%1": how many pieces of news.
+inline constexpr QLatin1StringView putOutReady{"IDS_NEWSCTRLVIEW_STRING_PUT_OUT_READY"};
+inline constexpr QLatin1StringView leftOut{"IDS_NEWSCTRLVIEW_STRING_LEFT_OUT"};
+inline constexpr QLatin1StringView nothingToPutOut{"IDS_NEWSCTRLVIEW_STRING_NOTHING_TO_PUT_OUT"};
 
 inline constexpr QLatin1StringView time{"IDS_NEWSCTRLVIEW_STRING_TIME"};
 inline constexpr QLatin1StringView category{"IDS_NEWSCTRLVIEW_STRING_CATEGORY"};
@@ -74,6 +78,7 @@ inline constexpr QLatin1StringView inSomeDays{"IDS_NEWSCTRLVIEW_STRING_INSOMEDAY
 inline constexpr QLatin1StringView afterDays{"IDS_NEWSCTRLVIEW_STRING_AFTERDAYS"};
 inline constexpr QLatin1StringView clearService{"IDS_NEWSCTRLVIEW_STRING_CLEAR_SERVICE"};
 inline constexpr QLatin1StringView offlineSince{"IDS_NEWSCTRLVIEW_STRING_OFFLINE_SINCE"};
+inline constexpr QLatin1StringView betweenNames{"IDS_NEWSCTRLVIEW_STRING_BETWEEN_NAMES"};
 inline constexpr QLatin1StringView invalidDate{"IDS_NEWSCTRLVIEW_STRING_INVALID_DATE1"};
 inline constexpr QLatin1StringView classNotFound{"IDS_NEWSCTRLVIEW_STRING_NEWS_CLASS_NOT_FOUND"};
 inline constexpr QLatin1StringView symbolNewsNotFound{"IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS_NOT_FOUND"};
@@ -86,7 +91,17 @@ inline constexpr QLatin1StringView reinput{"IDS_NEWSCTRLVIEW_STRING_REINPUT"};
 inline constexpr QLatin1StringView invalidValue{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE"};
 inline constexpr QLatin1StringView invalidPaste{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_PASTE"};
 
+// What the control row tells of a list, and what a click on it does. "%1": the symbol.
+inline constexpr QLatin1StringView noticeNarrowed{"IDS_NEWSCTRLVIEW_NOTICE_NARROWED"};
+inline constexpr QLatin1StringView noticeFiltered{"IDS_NEWSCTRLVIEW_NOTICE_FILTERED"};
+inline constexpr QLatin1StringView noticeUnfiltered{"IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED"};
+// "%1": when it was searched.
+inline constexpr QLatin1StringView noticeAsOf{"IDS_NEWSCTRLVIEW_NOTICE_AS_OF"};
+inline constexpr QLatin1StringView noticeBeforeBreak{"IDS_NEWSCTRLVIEW_NOTICE_BEFORE_BREAK"};
+
 // What empty lists say. "%1": the key that opens the dialog.
+inline constexpr QLatin1StringView hintNoNews{"IDS_NEWSCTRLVIEW_HINT_NO_NEWS"};
+inline constexpr QLatin1StringView hintNoWarrantNews{"IDS_NEWSCTRLVIEW_HINT_NO_WARRANT_NEWS"};
 inline constexpr QLatin1StringView hintNoKeySet{"IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET"};
 inline constexpr QLatin1StringView hintNoMatch{"IDS_NEWSCTRLVIEW_HINT_NO_MATCH"};
 inline constexpr QLatin1StringView hintNoWarningTerm{"IDS_NEWSCTRLVIEW_HINT_NO_WARNING_TERM"};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/list_index.h"
 #include "headline_list/service_entry.h"
 
 #include <QColor>
@@ -20,10 +21,13 @@ public:
     // 1: grids have two columns; anything else: three.
     virtual int GetNewsType() const = 0;
 
-    // The short name of a category; for an unknown id a text that says so.
-    virtual QString cszTransferCatIDToCatName(int id) const = 0;
-    // The colours of a category by its name. 1 when it has an id; else 0 and both unchanged.
-    virtual int GetCategoryColor(const QString& name, QColor& text, QColor& background) const = 0;
+    // The short name of a category of a service; for an unknown id a text that says so. Warrants have
+    // categories of their own, whose ids are those of other news, too: a row keeps its name whatever the view
+    // shows at the time.
+    virtual QString CategoryNameOf(unsigned char service, int id) = 0;
+    // The colours of a category of a service by its name. 1 when it has an id; else 0 and both unchanged.
+    virtual int CategoryColourOf(unsigned char service, const QString& name, QColor& text,
+                                 QColor& background) = 0;
     // The text colour of the time of a row; invalid: the grid's own.
     virtual QColor TimeColour(std::int64_t time) const {
         Q_UNUSED(time);
@@ -31,4 +35,6 @@ public:
     }
     // A row has been written: the state of the category column applies to it too.
     virtual void vCategoryStateAfterWriting() = 0;
+    // All rows of a list have been replaced: what is remembered of one by its number holds no more.
+    virtual void vRowsReplaced(ListIndex list) = 0;
 };

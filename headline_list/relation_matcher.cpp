@@ -28,6 +28,15 @@ QString withoutCase(const QString& text) {
     return result;
 }
 
+std::vector<CNewsKey> inCapitals(std::span<const CNewsKey> keySets) {
+    std::vector<CNewsKey> capitals(keySets.begin(), keySets.end());
+    for (CNewsKey& keySet : capitals) {
+        for (QString& word : keySet.keywords)
+            word = word.toUpper();
+    }
+    return capitals;
+}
+
 std::vector<QString> distinctWords(std::span<const CNewsKey> keySets) {
     std::vector<QString> words;
     for (const CNewsKey& keySet : keySets)
@@ -54,8 +63,15 @@ bool RelationMatcher::NewsTypes::bHas(std::int32_t id) const {
     return every || std::binary_search(ids.begin(), ids.end(), id);
 }
 
-RelationMatcher::RelationMatcher(std::span<const CNewsKey> keySets)
-    : isEmpty(keySets.empty()), words(distinctWords(keySets)), uses(words.size()), finder(words) {
+RelationMatcher::RelationMatcher(std::span<const CNewsKey> keySets, Case letters) : isEmpty(keySets.empty()) {
+    std::vector<CNewsKey> capitals;
+    if (letters == Case::Any) {
+        capitals = inCapitals(keySets);
+        keySets = capitals;
+    }
+    words = distinctWords(keySets);
+    uses.resize(words.size());
+    finder = WordFinder(words);
     Together together;
     for (const CNewsKey& keySet : keySets)
         vTake(keySet, together);

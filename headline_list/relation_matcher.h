@@ -20,14 +20,19 @@ class RelationMatcher {
 public:
     // No key set: wants nothing.
     RelationMatcher() = default;
+    // How keywords are compared with titles, which are taken in upper case.
+    enum class Case {
+        AsWritten,  // as they stand: one with small letters hits no title
+        Any,        // in upper case, too
+    };
     // `keySets` need not outlive the call.
-    explicit RelationMatcher(std::span<const CNewsKey> keySets);
+    explicit RelationMatcher(std::span<const CNewsKey> keySets, Case letters = Case::AsWritten);
 
     bool empty() const { return isEmpty; }
 
     // True when at least one key set wants the headline. `symbolText` is the code of its symbol (empty:
     // none). A key set looks at the headlines of its news types alone. Its keyword hits when the title in
-    // upper case contains it as it stands (an empty one always), or when it equals the symbol, ignoring case.
+    // upper case contains it (an empty one always), or when it equals the symbol, ignoring case.
     // With the method "all" every keyword must hit, and a key set without keywords wants all; else one hit
     // suffices.
     bool CheckIsRelationSearch(const CHeadline& headline, std::int32_t categoryId,

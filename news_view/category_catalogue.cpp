@@ -18,26 +18,27 @@ std::vector<QString> listFrom(const IniFile& file, const QString& key) {
 }  // namespace
 
 bool CategoryCatalogue::bLoad(const IniFile& file) {
-    return bPair(listFrom(file, QStringLiteral("CatId")), listFrom(file, QStringLiteral("SHORTNAME")));
+    *this = {};
+    const std::vector<QString> ids = listFrom(file, QStringLiteral("CatId"));
+    const std::vector<QString> texts = listFrom(file, QStringLiteral("SHORTNAME"));
+    if (ids.size() == texts.size())
+        add(ids, texts);
+    return ids.size() == texts.size();
 }
 
-bool CategoryCatalogue::bLoad(BKQuoteInterface& backEnd, unsigned char service) {
+void CategoryCatalogue::vAdd(BKQuoteInterface& backEnd, unsigned char service) {
     std::vector<QString> ids;
     std::vector<QString> texts;
-    return backEnd.bNewsAPI_GetNewsCatId(service, ids, texts) && bPair(ids, texts);
+    if (backEnd.bNewsAPI_GetNewsCatId(service, ids, texts) && ids.size() == texts.size())
+        add(ids, texts);
 }
 
-bool CategoryCatalogue::bPair(const std::vector<QString>& ids, const std::vector<QString>& texts) {
-    names.clear();
-    idsByName.clear();
-    if (ids.size() != texts.size())
-        return false;
+void CategoryCatalogue::add(const std::vector<QString>& ids, const std::vector<QString>& texts) {
     for (std::size_t i = 0; i < ids.size(); ++i) {
         const int id = ids[i].toInt();
         names.emplace(id, texts[i]);
         idsByName.emplace(texts[i], id);
     }
-    return true;
 }
 
 const QString* CategoryCatalogue::NameOf(int id) const {

@@ -17,16 +17,18 @@ public:
     // The host's catalogue: section "CONFIG", lists "CatId" and "SHORTNAME". False, and the catalogue empty,
     // when the two differ in length.
     bool bLoad(const IniFile& file);
-    // What the back end knows of one service. False, and the catalogue empty, when that is nothing.
-    bool bLoad(BKQuoteInterface& backEnd, unsigned char service);
+    // Adds what the back end knows of one service; what is there already stays.
+    void vAdd(BKQuoteInterface& backEnd, unsigned char service);
 
     // The short name; null when the id is unknown.
     const QString* NameOf(int id) const;
     // The id of exactly this name; -1 when there is none.
     int GetCategoryIDbyName(const QString& name) const;
 
+    bool operator==(const CategoryCatalogue&) const = default;
+
 private:
-    bool bPair(const std::vector<QString>& ids, const std::vector<QString>& names);
+    void add(const std::vector<QString>& ids, const std::vector<QString>& names);
 
     std::map<int, QString> names;
     std::map<QString, int> idsByName;

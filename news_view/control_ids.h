@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
+
 // Numbers of the view's controls, commands and timers.
 namespace ids {
 
@@ -16,7 +18,15 @@ inline constexpr int searchEdit = 3008;
 inline constexpr int datePicker = 3009;
 inline constexpr int serviceButton = 3010;
 inline constexpr int serviceCombo = 3011;
-inline constexpr int stopWaiting = 3012;  // a menu command, too
+inline constexpr int stopWaiting = 3012;    // a menu command, too
+inline constexpr int putOutReady = 3013;    // a menu command alone
+inline constexpr int askBeforeStop = 3014;  // what the button beside the notice does
+inline constexpr int notice = 3015;
+// Notices that can be acted on; menu commands, too.
+inline constexpr int endNarrowing = 3016;
+inline constexpr int readUnfiltered = 3017;
+inline constexpr int searchAgain = 3018;
+inline constexpr std::array noticeCommands{endNarrowing, readUnfiltered, searchAgain};
 inline constexpr int tabStrip = 3100;
 inline constexpr int pageDownButton = 8067;
 inline constexpr int pageUpButton = 8068;

@@ -13,6 +13,7 @@
 #include "host/views/virtual_base_view.h"
 #include "news_view/control_ids.h"
 #include "news_view/mode_table.h"
+#include "news_view/notice_line.h"
 #include "search/search_edit2.h"
 
 #include <QLineEdit>
@@ -101,9 +102,15 @@ void ControlSet::CreateFunctionBtn() {
         vAddButton(id, {});
 }
 
-void ControlSet::vCreateStopButton() {
-    vAddButton(ids::stopWaiting, {});
-    auto* button = Find<SButton>(ids::stopWaiting);
+void ControlSet::vCreateNotices() {
+    vAdd<NoticeLine>(ids::notice, {})->hide();
+    for (const int id : ids::noticeCommands) {
+        auto* button = vAdd<NoticeButton>(id, {});
+        QObject::connect(button, &SButton::clicked, &view, [this, id] { view.OnCommand(id); });
+        button->hide();
+    }
+    auto* button = vAdd<SButton>(ids::stopWaiting, {});
+    QObject::connect(button, &SButton::clicked, &view, [this] { view.OnCommand(ids::askBeforeStop); });
     button->setText(QStringLiteral("\u00D7"));
     button->hide();
 }

@@ -26,8 +26,8 @@ public:
 
     void CreateTypeBtn();
     void CreateFunctionBtn();
-    // Hidden.
-    void vCreateStopButton();
+    // The line of notices, and the buttons of those that can be acted on. Hidden.
+    void vCreateNotices();
     void vCreateServiceButton(const QRect& rectangle);
     void vCreateTabStrip(const QRect& rectangle);
     void vCreateDatePicker(const QRect& rectangle, const QDate& date);

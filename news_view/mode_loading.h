@@ -19,6 +19,9 @@ public:
     // Each is true at its first call only.
     bool bTakeCategoryCatalogue() { return takeOnce(categoryCatalogueLoaded); }
     bool bTakeSymbolInformation() { return takeOnce(symbolInformationLoaded); }
+    // Whether each has been called.
+    bool bHasCategoryCatalogue() const { return categoryCatalogueLoaded; }
+    bool bHasSymbolInformation() const { return symbolInformationLoaded; }
 
     // A list that has never been shown takes no pushed headlines.
     bool bWasShown(ListIndex list) const { return shown[static_cast<std::size_t>(list)]; }

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/misuse.h"
 #include "host/views/news_module.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "output/left_out.h"
 #include "output/page_printing.h"
 #include "output/printable_story.h"
 #include "output/trv_save_to_file.h"
@@ -15,14 +17,26 @@
 
 namespace {
 
-// The complete ones among the news of these entries.
-NewsItems newsAtHand(BKQuoteInterface& backEnd, const std::vector<CHeadlineTable>& entries, StoryForm form) {
+// Puts the complete ones among the news of these entries out.
+template <class PutOut>
+NewsOutcome putOutAtHand(const std::vector<CHeadlineTable>& entries, StoryForm form,
+                         const OutputTarget& target, PutOut putOut) {
+    RequireInterfaceThread("NewsModule::PrintNews or SaveNews");
+    RequireOfHost(BKQuoteInterface::GetBKInterface() != nullptr,
+                  "NewsModule::PrintNews or SaveNews was called before a back end was installed "
+                  "(BKQuoteInterface::SetBKInterface).");
+    BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
     std::set<unsigned char> services;
     for (const CHeadlineTable& entry : entries)
         services.insert(entry.service);
-    NewsItems items = GatherNews(backEnd, entries, {services.begin(), services.end()}, form);
-    std::erase_if(items, [](const NewsItem& item) { return !item.bIsComplete(); });
-    return items;
+    NewsItems items = Complete(GatherNews(backEnd, entries, {services.begin(), services.end()}, form));
+    if (items.empty())
+        return NothingToPutOut(backEnd);
+    for (NewsItem& item : items)
+        item.wholeTitle = target.wholeTitles;
+    NewsOutcome outcome = putOut(target, backEnd, items);
+    TellLeftOut(backEnd, entries.size() - items.size(), outcome);
+    return outcome;
 }
 
 // The classes that a host may create by name.
@@ -45,6 +59,7 @@ public:
     }
 
     TRVQuoteBaseView* CreateView(const QString& className, QWidget* parent) override {
+        RequireInterfaceThread("NewsModule::CreateView");
         if (BKQuoteInterface::GetBKInterface() == nullptr)
             return nullptr;
         for (const QMetaObject* viewClass : viewClasses) {
@@ -59,13 +74,11 @@ public:
     }
 
     NewsOutcome PrintNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
-        BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
-        return PrintNewsToPdf(target, backEnd, newsAtHand(backEnd, entries, &PrintedStory));
+        return putOutAtHand(entries, &PrintedStory, target, &PrintNewsToPdf);
     }
 
     NewsOutcome SaveNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
-        BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
-        return SaveNewsTo(target, backEnd, newsAtHand(backEnd, entries, &SavedStory));
+        return putOutAtHand(entries, &SavedStory, target, &SaveNewsTo);
     }
 };
 

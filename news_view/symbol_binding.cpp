@@ -51,6 +51,23 @@ int SymbolBinding::iInitServiceComboBox(unsigned char& selected) {
     return index;
 }
 
+bool SymbolBinding::bLacksMarket(unsigned char service) const {
+    unsigned char delayed = hongKongService;
+    backEnd.bGetServiceID2Delay(hongKongService, delayed);
+    const bool takes = service == stockExchangeService || service == emergingBoardService ||
+                       service == hongKongService || service == delayed;
+    return takes && !contains(services, service);
+}
+
+void SymbolBinding::vOfferMarkets() {
+    auto* combo = controls.Find<SCComboBox>(ids::serviceCombo);
+    const int chosen = combo != nullptr ? combo->currentIndex() : -1;
+    const unsigned char market = chosen >= 0 ? ServiceAt(chosen) : current.market;
+    unsigned char selected = market;
+    if (iInitServiceComboBox(selected) >= 0 && iServiceIndex(market) >= 0)
+        vSelectService(iServiceIndex(market));
+}
+
 void SymbolBinding::vOfferService(unsigned char service, const QString& label,
                                   const std::vector<unsigned char>& all) {
     if (!contains(all, service) || backEnd.BKQCheckAuthSupport(service) == 0)
@@ -126,6 +143,15 @@ std::optional<CSymbolInfo> SymbolBinding::SelectedSymbol() const {
     if (index < 0 || index >= static_cast<int>(symbols.size()))
         return std::nullopt;
     return symbols[static_cast<std::size_t>(index)];
+}
+
+void SymbolBinding::vShowCurrent() {
+    if (SelectedSymbol() == current)
+        return;
+    const bool offered = iServiceIndex(current.market) >= 0;
+    vSelectSymbol(offered ? iInitSymbolComboBox(current.market) : -1);
+    if (offered)
+        vSelectService(iServiceIndex(current.market));
 }
 
 void SymbolBinding::vSelectService(int index) {

@@ -34,6 +34,11 @@ public:
     // Whether the symbol mode can show news of a symbol.
     bool IsSupportNews(unsigned char service, const QString& code) const;
 
+    // Whether a market that the service combo may offer is not offered.
+    bool bLacksMarket(unsigned char service) const;
+    // Fills the service combo with the markets of this moment; its choice stays, where it is still offered.
+    void vOfferMarkets();
+
     // The place of a service in the service combo; -1 when it is not offered.
     int iServiceIndex(unsigned char service) const;
     unsigned char ServiceAt(int index) const { return services.at(static_cast<std::size_t>(index)); }
@@ -42,6 +47,10 @@ public:
     bool bHasSymbols() const { return !symbols.empty(); }
     // What is selected in the symbol combo.
     std::optional<CSymbolInfo> SelectedSymbol() const;
+
+    // Makes both combos name the current symbol: its market's symbols are offered, and nothing is chosen
+    // where it is not among them.
+    void vShowCurrent();
 
     void vSelectService(int index);
     void vSelectSymbol(int index);

@@ -21,6 +21,7 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       lists(backEnd, *this),
       controls(*this, backEnd),
       symbols(backEnd, controls),
+      categories(backEnd),
       searches(backEnd),
       shortTip(new CXTTipWindow(this)),
       printer(backEnd, outputDialogs, *this),
@@ -28,8 +29,9 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       preview(backEnd, outputDialogs, *this),
       keyRouter(*this),
       dates(host_clock::today()) {
+    lists.vSetOnRead([this] { vPlaceNotices(); });
     for (TRVNewsPrint* job : pJobs()) {
-        job->vSetOnAwaited([this] { vPlaceStopButton(); });
+        job->vSetOnAwaited([this] { vPlaceNotices(); });
         job->vSetOnFinished([this](const NewsOutcome& outcome) { vTell(outcome); });
     }
 }
@@ -75,6 +77,11 @@ bool TRVNewsCtrlView::OnCommand(int id) {
         {ids::pageDownButton, &TRVNewsCtrlView::OnBtnPageDown},
         {ids::pageUpButton, &TRVNewsCtrlView::OnBtnPageUp},
         {ids::stopWaiting, &TRVNewsCtrlView::OnStopWaiting},
+        {ids::putOutReady, &TRVNewsCtrlView::OnPutOutReady},
+        {ids::askBeforeStop, &TRVNewsCtrlView::OnStopButton},
+        {ids::endNarrowing, &TRVNewsCtrlView::OnEndNarrowing},
+        {ids::readUnfiltered, &TRVNewsCtrlView::OnReadUnfiltered},
+        {ids::searchAgain, &TRVNewsCtrlView::OnDealsSearch},
         {ids::changeCategoryState, &TRVNewsCtrlView::OnChangeCategoryState},
     };
     const auto* command = std::find_if(std::begin(commands), std::end(commands),
@@ -105,6 +112,7 @@ void TRVNewsCtrlView::vRealUpdateView() {
 void TRVNewsCtrlView::OnTimer(int id) {
     if (id == ids::refreshTimer) {
         vSearchForPushed();
+        vLearnCategories(false);
         vRealUpdateView();
         ChangeCurrViewCategoryState(settings.showCategory);
         KillTimer(ids::refreshTimer);
@@ -146,7 +154,10 @@ bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
             const QString code = symbols.Current().code;
             if (const int row = symbols.iSymbolIndex(code); row >= 0)
                 symbols.vSelectSymbol(row);
-            if (symbolFromLink)
+            // A choice that is the symbol shown already is none to the combo, but the list is read all the
+            // same.
+            const auto chosen = symbols.SelectedSymbol();
+            if (symbolFromLink && chosen && chosen->code != code)
                 OnSelchangeComboSymbol();
             else
                 GetSymbolNews(code);

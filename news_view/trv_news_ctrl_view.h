@@ -7,14 +7,16 @@
 #include "headline_list/headline_lists.h"
 #include "headline_list/intake.h"
 #include "headline_list/list_owner.h"
+#include "host/contract/gone_headlines.h"
 #include "host/views/news_module.h"
 #include "host/views/quote_base_view.h"
 #include "news_view/application_switches.h"
-#include "news_view/category_catalogue.h"
 #include "news_view/control_set.h"
 #include "news_view/key_router.h"
 #include "news_view/key_routing.h"
+#include "news_view/list_notices.h"
 #include "news_view/mode_loading.h"
+#include "news_view/news_categories.h"
 #include "news_view/news_services.h"
 #include "news_view/story_stage.h"
 #include "news_view/symbol_binding.h"
@@ -35,6 +37,8 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
+#include <tuple>
 #include <vector>
 
 class CQuoteDlgTipMsg;
@@ -45,8 +49,9 @@ class CXTTipWindow;
 // happen.
 //
 // The host creates it by its class name, then calls OnInitialUpdate and InitialViewInfo. A back end is
-// installed before and outlives the view.
+// installed before and outlives the view. What is marked "For hosts" only hosts call, the module does not.
 class TRVNewsCtrlView : public TRVQuoteBaseView,
+                        public GoneHeadlineReceiver,
                         public NewsViewAccess,
                         public StoryOwner,
                         private ListOwner,
@@ -75,6 +80,9 @@ public:
     void vSetComponentPos();
     // The usable mode for a stored number: 0 when it is unknown or the user may not see it.
     int iGetFunctionID(int stored) const;
+    // For hosts that store modes by name: the same for the caption of a mode's tab, in the language in force
+    // and whatever its case, or for its language key.
+    int iGetFunctionID(const QString& name) const;
     int iGetTabIndex(int mode) const { return controls.iGetTabIndex(mode); }
     // When the mode has no grid, `mode` becomes the first that has one; unchanged when none has.
     void CheckInitialView(int& mode) const;
@@ -97,12 +105,13 @@ public:
     // Refills the visible rows of the current grid at once.
     void vRealUpdateView();
     CSuperSheetWnd* pGetCurrSheetView() const;
-    // A copy of an entry of the current list; all zero when there is no current list or no such row.
+    // For hosts: a copy of an entry of the current list; all zero when there is no current list or no such
+    // row.
     CHeadlineTable GetHeadlineTable(int row) const;
     bool bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const override;
     int iGetHeadlineTableSize(int list) const override;
     void vGetNewsActiveService(std::vector<unsigned char>& services) const override;
-    // The width that the story show type leaves for the grid.
+    // For hosts: the width that the story show type leaves for the grid.
     int GetSheetWidth() const;
     // Reads the news of the current news symbol into the symbol list.
     void GetSymbolNews(const QString& code);
@@ -111,11 +120,14 @@ public:
 
     // Shows the service menu under its button.
     void OnSelectService();
-    // Ticks or unticks the service of a menu command; the last ticked service stays ticked.
+    // Ticks or unticks the service of a menu command; the last ticked service stays ticked. The warrant mode
+    // looks at no ticked service: there the menu does not open, and no tick changes.
     void OnSelectCheckService(unsigned int id);
     void OnSelchangeComboService();
     void OnSelchangeComboSymbol();
+    // For hosts: reads the news of the current news symbol, when the view has the symbol list.
     void OnSelSymbol(const QString& code);
+    // For hosts: fills the symbol combo anew. Always true.
     bool bUpdateSymbolVec();
     void ChangeSymbol(const QWidget* sender, unsigned char group, unsigned char service, const QString& code,
                       const QString& name) override;
@@ -137,6 +149,7 @@ public:
     // The related symbols of a headline were sent again: listed when it is the one that the pane shows.
     void vRecvNewsRelateSymbolListRecovery(const CNewsSymlistInfo* info) override;
 
+    // For hosts: the number of ticked services; in the warrant mode only the warrants are.
     int iBeSelectNewsNum() const { return services.iSelectedCount(); }
 
     // --- Days ---
@@ -203,6 +216,12 @@ public:
     void OnShowStory();
     void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
                          const QString& symbolCode) override;
+    // A headline that was replaced no longer has this key: its rows leave the lists.
+    void vHeadlineGone(const HeadlineKey& key) override;
+    // A headline that is not pushed may have been replaced: its rows leave the lists that it no longer
+    // concerns.
+    void vHeadlineReplaced(const CHeadline* headline, const QString& categoryId,
+                           const QString& symbolCode) override;
     void RespHeadLine(const std::vector<CHeadlineTable>& entries) override;
     void RespStory(const CHeadlineTable& entry) override;
     void StoryUpdateNotify(const CHeadlineTable* entry) override;
@@ -212,12 +231,19 @@ public:
     // --- Printing and saving ---
 
     // Prints, saves, the selected rows; without any nothing happens. What is missing is waited for.
-    void OnPrintNews() override { vTell(PrintNews(std::nullopt)); }
-    void OnSaveNews() override { vTell(SaveNews(std::nullopt)); }
+    void OnPrintNews() { vTell(PrintNews(std::nullopt)); }
+    void OnSaveNews() { vTell(SaveNews(std::nullopt)); }
     void OnBtnPrint() { OnPrintNews(); }
     void OnBtnSaveas() { OnSaveNews(); }
-    // What is still waited for is not printed, saved or shown any more.
+    int iRowOf(int list, const CHeadlineTable& headline) const override;
+    void PrintHeadline(const CHeadlineTable& headline) override;
+    void SaveHeadline(const CHeadlineTable& headline) override;
+    // What is still waited for is not printed, saved or shown any more, nor what waited with it.
     void OnStopWaiting();
+    // What is complete of the news that waits is put out without the rest.
+    void OnPutOutReady();
+    // The button beside the notice: stops waiting, and asks first what is to become of what is complete.
+    void OnStopButton();
     // Brings a printable story into lines: see output/printable_story.h.
     static void Linefeed(QString& story) { ::Linefeed(story); }
     NewsOutcome PrintNews(const std::optional<OutputTarget>& target) override;
@@ -239,9 +265,15 @@ public:
 
     // --- Categories ---
 
-    QString cszTransferCatIDToCatName(int id) const override;
-    int GetCategoryIDbyName(const QString& name) const;
-    int GetCategoryColor(const QString& name, QColor& text, QColor& background) const override;
+    // For hosts: what a category of news is called, warrants apart; a text that says so where nobody knows
+    // the id.
+    QString cszTransferCatIDToCatName(int id) { return CategoryNameOf(0, id); }
+    // For hosts: the id of exactly this name; -1 when there is none.
+    int GetCategoryIDbyName(const QString& name) { return categories.IdOf(0, name); }
+    // For hosts: 1 and the colours of the category of this name; 0, and both unchanged, when there is none.
+    int GetCategoryColor(const QString& name, QColor& text, QColor& background) {
+        return CategoryColourOf(0, name, text, background);
+    }
     // Shows or hides the category column of the current grid; not in a view with two columns.
     void ChangeCurrViewCategoryState(bool show);
     void OnSelchangeComboIndex();
@@ -291,18 +323,28 @@ private:
     void vTakeServicesOver(ListIndex toLoad);
     void vLoadMode(ListIndex toLoad);
     bool bInitialCategoryInfo();
+    int CategoryIndex(const QString& id) const;
     void vRefreshCategoryCombo(const QString& name);
     bool bInitialSymbolInfo();
+    // The symbol code that the symbol mode opens with, and the market that it was saved with.
+    QString StartCode() const;
+    unsigned char StartMarket(const QString& code) const;
+    void vOfferMarket();
     void vSetNotSupported();
     void vHideSymbolMode();
     void vHideSymbolControls();
     void vSetSupported();
-    void vFollowSymbol(unsigned char service, const QString& code);
-    void vDoNormalChangeSymbol(unsigned char service, const QString& code);
+    void vFollowSymbol(unsigned char service, const QString& code, bool isListed);
+    // True when the symbol's news has been read.
+    bool vDoNormalChangeSymbol(unsigned char service, const QString& code);
     void vOnChangeServiceCombobox(unsigned char service);
-    void vOnChangeSymbolCombobox();
+    bool vOnChangeSymbolCombobox();
+    bool bServicesStandFast() const;
     void vCheckServiceMenu();
+    std::vector<CategoryItem> CategoryItemsOfServices() const;
     void vFillCategoryCombo();
+    void vLearnCategories(bool hostSaysSo);
+    void vLearnCategoryCombo();
     void vReloadForServices();
     // While the relation-search list is current, every reloaded table is filtered by its key sets: hosts
     // rely on it.
@@ -312,10 +354,15 @@ private:
     void vForgetShownStory();
     void vKeepShownStory(ListIndex list, const HeadlinePlace& place);
     IntakeState vIntakeState() const;
+    bool vReplaceElsewhere(const PushedHeadline& pushed, const std::vector<IntakeTarget>& targets,
+                           const IntakeState& state);
+    // Whether the view stands at a day: it has a date picker, or is all about the day's warrants.
+    bool bHasDay() const;
 
     // Days and what is sent again.
     void vConnectDatePicker();
     void vRefuseDate(const QString& why);
+    int EntryOfWarrants(const CMarketStatus& status) const;
     // Shows a tip over the grid of a list for a second.
     void vTipOver(ListIndex list, const QString& text) { vTipOver(list, text, shortTipTimeMs); }
     void vTipOver(ListIndex list, const QString& text, int timeMs);
@@ -326,8 +373,19 @@ private:
     };
     // True when the list was read anew and the back end does not deny having data for it.
     template <class Rebuild>
-    bool bTakeTableAgain(const CHeadlineTableInfo& info, ListIndex list, Rebuild rebuild,
+    bool bTakeTableAgain(const CHeadlineTableInfo& info, ListIndex list, bool asked, Rebuild rebuild,
                          const NothingFound& nothingFound);
+    bool bTakeAsked(ListIndex list, const CHeadlineTableInfo& info);
+    CSymbolInfo SymbolOfList() const;
+    void vTakeAnnouncedDate(const CHeadlineTableInfo& info);
+    void vReadNowOrWhenShown(ListIndex list);
+    // Reads a list anew; what the reader looks at stays where it is.
+    void vReadAgain(ListIndex list);
+    template <class Rebuild>
+    bool bInPlace(ListIndex list, Rebuild rebuild);
+    void vTakeFoundAgain(ListIndex list, const TableRuns& found);
+    // The status text with one more service that has no news.
+    QString WithServiceName(const QString& name) const;
     bool bIsServiceSelected(unsigned char service) const;
     // The id of the chosen category; none: nothing is chosen.
     std::optional<QString> SelectedCategoryId() const;
@@ -337,6 +395,7 @@ private:
     void vConnectSearchEdit();
     QString cszSearchText() const;
     void vTipAtSearchEdit(const QString& text);
+    bool bWaitTipIsUp() const;
     void vShowFound(ListIndex list, bool selectFirst);
     void vStopWaiting();
     void vSearchForPushed();
@@ -351,7 +410,9 @@ private:
     std::vector<CHeadlineTable> vSelectedEntries() const;
     void vTell(const NewsOutcome& outcome);
     std::array<TRVNewsPrint*, 3> pJobs() { return {&printer, &saver, &preview}; }
-    NewsOutcome PutOut(TRVNewsPrint& job, int button, const std::optional<OutputTarget>& target);
+    NewsOutcome PutOut(TRVNewsPrint& job, int button, const std::vector<CHeadlineTable>& entries,
+                       const std::optional<OutputTarget>& target);
+    int iReadyForOutput() const;
 
     // Stories.
     TRVNewsStory* pStoryDialogOnShow() const;
@@ -383,16 +444,21 @@ private:
     void vContextMenuByKey();
     void vPopUpMenu(const QPoint& screen, bool onRow);
     QAction* vAddCommand(QLatin1StringView key, int id);
+    QAction* vAddCommand(const QString& caption, int id);
+    void vAddWaitingCommands();
 
     // Lists and painting.
     void OnChangeSize(quintptr sender);
     void DrawTitile(QPainter& painter);
-    void vDrawNotice(QPainter& painter);
-    QString NoticeText() const;
+    // What the view has to tell now.
+    ListNotices Notices() const;
     QString AwaitedText() const;
     bool bAwaitsOutput() const;
-    // Shows it beside the notice while there is something to stop.
-    void vPlaceStopButton();
+    // Shows what is to be told in the free part of the control row, with the button that stops waiting.
+    void vPlaceNotices();
+    // What notices offer: the search of the mode for every symbol; the list without another list's filter.
+    void OnEndNarrowing();
+    void OnReadUnfiltered();
     void vSetStatusText(const QString& text);
     QRect NoticeArea() const;
     QColor TimeColour(std::int64_t time) const override;
@@ -400,8 +466,14 @@ private:
     QString PickedDateKey() const;
     HeadlineList& List(ListIndex index) { return lists[index]; }
     HeadlineList* CurrentList();
-    const std::vector<ServiceEntry>& vGetServices() const override { return services.Entries(); }
+    // The user's own choice, also while the warrant mode has set it aside: every list but the warrants' holds
+    // what he has ticked.
+    const std::vector<ServiceEntry>& vGetServices() const override { return services.Saved(); }
+    QString CategoryNameOf(unsigned char service, int id) override;
+    int CategoryColourOf(unsigned char service, const QString& name, QColor& text,
+                         QColor& background) override;
     void vCategoryStateAfterWriting() override { ChangeCurrViewCategoryState(settings.showCategory); }
+    void vRowsReplaced(ListIndex list) override;
     void vSetGridColours();
 
     BKQuoteInterface& backEnd;
@@ -410,10 +482,12 @@ private:
     ControlSet controls;
     SymbolBinding symbols;
     StoryStage stage;
-    CategoryCatalogue categories;
-    CategoryCatalogue warrantCategories;
-    std::vector<QString> categoryComboIds;
-    RelationMatcher tickedKeySets;  // built anew whenever they change
+    NewsCategories categories;
+    std::vector<CategoryItem> categoryItems;  // in the order of the category combo
+    std::set<QString> categoriesMissed;       // by the combo since it was filled
+    bool categoryMissed = false;              // one of them since the last refresh
+    bool categoryComboIsBehind = false;       // it was open when there was something to learn
+    RelationMatcher tickedKeySets;            // built anew whenever they change
     ModeLoading loading;
     ApplicationSwitches switches;
     ViewSettings settings;
@@ -430,7 +504,12 @@ private:
     KeysAtRelease keysAtRelease;
     QPointer<QMenu> contextMenu;
 
-    QString statusText;  // what the view has to say about its lists; empty most of the time
+    // Tables that this view has asked for again, by the list that shows them.
+    using AskedTable = std::tuple<ListIndex, unsigned char, QString>;  // service, key
+    std::set<AskedTable> askedTables;
+
+    QString statusText;   // what the view has to say about its lists; empty most of the time
+    QString waitTipText;  // of the search that was announced last, as it was shown
     DatePager dates;
     FeedBreaks breaks;
     int newsType = 0;
@@ -440,6 +519,7 @@ private:
     StoryShowType storyShowType = StoryShowType::None;
     bool symbolFromLink = false;  // the host asked for the news of the linked symbol
     bool calendarOpen = false;
+    bool keepsPlace = false;    // a list is being read anew around its reader
     bool handingKeyOn = false;  // the key that arrives is one that the view hands on
     bool handingWheelOn = false;
     bool laidOut = false;

@@ -8,33 +8,62 @@
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 
-#include <algorithm>
+#include <QAbstractItemView>
 
-QString TRVNewsCtrlView::cszTransferCatIDToCatName(int id) const {
-    const bool warrants = currentMode == static_cast<int>(ListIndex::Warrant);
-    const QString* name = warrants ? warrantCategories.NameOf(id) : nullptr;
-    if (name == nullptr)
-        name = categories.NameOf(id);
+#include <algorithm>
+#include <set>
+#include <utility>
+
+// --- Names and colours ---
+
+QString TRVNewsCtrlView::CategoryNameOf(unsigned char service, int id) {
+    const QString* name = categories.NameOf(service, id);
     return name != nullptr ? *name : LangText(backEnd, keys::recover);
 }
 
-int TRVNewsCtrlView::GetCategoryIDbyName(const QString& name) const {
-    return categories.GetCategoryIDbyName(name);
-}
-
-int TRVNewsCtrlView::GetCategoryColor(const QString& name, QColor& text, QColor& background) const {
-    const int id = GetCategoryIDbyName(name);
+int TRVNewsCtrlView::CategoryColourOf(unsigned char service, const QString& name, QColor& text,
+                                      QColor& background) {
+    const int id = categories.IdOf(service, name);
     if (id < 0)
         return 0;
-    TRVItemDisplay::GetItemDisplay()->GetNewsCatColor(id, text, background);
+    TRVItemDisplay& display = *TRVItemDisplay::GetItemDisplay();
+    if (service == warrantService)
+        display.GetWarrantCatColor(id, text, background);
+    else
+        display.GetNewsCatColor(id, text, background);
     return 1;
 }
 
+void TRVNewsCtrlView::vReloadCategories() {
+    bInitialTransferCatObject();
+    vLearnCategories(true);
+}
+
+// Rows that were written before a name was known show it, and the combo offers it.
+void TRVNewsCtrlView::vLearnCategories(bool hostSaysSo) {
+    const bool renamed = categories.bLearn(hostSaysSo);
+    for (int list = 0; renamed && list < listCount; ++list) {
+        HeadlineList& shown = List(static_cast<ListIndex>(list));
+        shown.vForgetWrittenCells();
+        shown.vFillHeadline();
+        shown.vFillTempHeadline();
+        if (CSuperSheetWnd* sheet = shown.pGetGrid())
+            sheet->viewport()->update();
+    }
+    categories.vReadAtNextMiss();
+    if (std::exchange(categoryMissed, false) || renamed || hostSaysSo)
+        vLearnCategoryCombo();
+}
+
+// --- The column ---
+
 void TRVNewsCtrlView::ChangeCurrViewCategoryState(bool show) {
     CSuperSheetWnd* sheet = pGetCurrSheetView();
-    if (newsType == 1 || sheet == nullptr)
+    const int width = show ? categoryColumnWidth : 0;
+    // Asked for after every row that is written.
+    if (newsType == 1 || sheet == nullptr || sheet->iGetColWidth(1) == width)
         return;
-    sheet->vSetColWidth(1, show ? categoryColumnWidth : 0);
+    sheet->vSetColWidth(1, width);
     sheet->viewport()->update();
 }
 
@@ -43,16 +72,15 @@ void TRVNewsCtrlView::OnChangeCategoryState() {
     ChangeCurrViewCategoryState(settings.showCategory);
 }
 
+// --- The combo ---
+
 // Fills the combo once, with the stored category chosen; without a stored one the first is.
 bool TRVNewsCtrlView::bInitialCategoryInfo() {
-    const QString stored = settings.categoryId;
     vFillCategoryCombo();
-    const auto found = std::find(categoryComboIds.begin(), categoryComboIds.end(), stored);
     if (auto* combo = controls.Find<SCComboBox>(ids::categoryCombo))
-        combo->setCurrentIndex(
-            found == categoryComboIds.end() ? 0 : static_cast<int>(found - categoryComboIds.begin()));
+        combo->setCurrentIndex(std::max(CategoryIndex(settings.categoryId), 0));
     OnSelchangeComboIndex();
-    return !categoryComboIds.empty();
+    return !categoryItems.empty();
 }
 
 // Fills the combo for the ticked services anew and chooses the entry of this name, else the first.
@@ -65,33 +93,63 @@ void TRVNewsCtrlView::vRefreshCategoryCombo(const QString& name) {
     OnSelchangeComboIndex();
 }
 
-void TRVNewsCtrlView::vFillCategoryCombo() {
-    auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
-    if (combo == nullptr)
-        return;
-    combo->clear();
-    categoryComboIds.clear();
-    for (const ServiceEntry& entry : services.Entries()) {
+std::vector<CategoryItem> TRVNewsCtrlView::CategoryItemsOfServices() const {
+    std::vector<CategoryItem> items;
+    std::set<QString> known;
+    for (const ServiceEntry& entry : services.Saved()) {
         std::vector<QString> idTexts;
         std::vector<QString> names;
         if (!entry.selected || !backEnd.bNewsAPI_GetNewsCatId(entry.service, idTexts, names))
             continue;
         for (std::size_t i = 0; i < std::min(idTexts.size(), names.size()); ++i) {
-            if (std::find(categoryComboIds.begin(), categoryComboIds.end(), idTexts[i]) !=
-                categoryComboIds.end())
-                continue;
-            categoryComboIds.push_back(idTexts[i]);
-            combo->addItem(ShownText(backEnd, entry.service, names[i]));
+            if (known.insert(idTexts[i]).second)
+                items.push_back({idTexts[i], ShownText(backEnd, entry.service, names[i])});
         }
     }
+    return items;
+}
+
+void TRVNewsCtrlView::vFillCategoryCombo() {
+    auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
+    if (combo == nullptr)
+        return;
+    categoryItems = CategoryItemsOfServices();
+    categoriesMissed.clear();
+    combo->clear();
+    for (const CategoryItem& item : categoryItems)
+        combo->addItem(item.text);
+}
+
+// New entries, and names in another language, leave the choice and its list alone. What the user is choosing
+// from does not change under his hand.
+void TRVNewsCtrlView::vLearnCategoryCombo() {
+    auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
+    if (combo == nullptr || (categoryItems.empty() && !loading.bHasCategoryCatalogue()))
+        return;
+    categoryComboIsBehind = combo->view()->isVisible();
+    if (categoryComboIsBehind || CategoryItemsOfServices() == categoryItems)
+        return;
+    const auto chosen = SelectedCategoryId();
+    vFillCategoryCombo();
+    const int index = CategoryIndex(chosen.value_or(settings.categoryId));
+    combo->setCurrentIndex(std::max(index, 0));
+    if (!chosen || index < 0)
+        OnSelchangeComboIndex();
+}
+
+// The place of a category in the combo; -1 when it is not there.
+int TRVNewsCtrlView::CategoryIndex(const QString& id) const {
+    const auto found = std::find_if(categoryItems.begin(), categoryItems.end(),
+                                    [&id](const CategoryItem& item) { return item.id == id; });
+    return found == categoryItems.end() ? -1 : static_cast<int>(found - categoryItems.begin());
 }
 
 std::optional<QString> TRVNewsCtrlView::SelectedCategoryId() const {
     const auto* combo = controls.Find<SCComboBox>(ids::categoryCombo);
     const int index = combo != nullptr ? combo->currentIndex() : -1;
-    if (index < 0 || index >= static_cast<int>(categoryComboIds.size()))
+    if (index < 0 || index >= static_cast<int>(categoryItems.size()))
         return {};
-    return categoryComboIds[static_cast<std::size_t>(index)];
+    return categoryItems[static_cast<std::size_t>(index)].id;
 }
 
 void TRVNewsCtrlView::OnSelchangeComboIndex() {

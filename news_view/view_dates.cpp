@@ -13,9 +13,13 @@
 
 #include <stdexcept>
 
+bool TRVNewsCtrlView::bHasDay() const {
+    return controls.Find<SDateTimeCtrl>(ids::datePicker) != nullptr ||
+           settings.functions == ModeOf(ListIndex::Warrant).maskBit;
+}
+
 QString TRVNewsCtrlView::PickedDateKey() const {
-    const bool hasPicker = controls.Find<SDateTimeCtrl>(ids::datePicker) != nullptr;
-    return DateKey(hasPicker ? dates.Picked() : QDate());
+    return DateKey(bHasDay() ? dates.Picked() : QDate());
 }
 
 void TRVNewsCtrlView::vConnectDatePicker() {
@@ -56,7 +60,6 @@ bool TRVNewsCtrlView::bChangeDate(const QDate& date) {
         case DateCheck::Accepted:
             break;
     }
-    vForgetShownStory();
     if (lists.bRebuild(ListIndex::All, TableKind::ByDate, PickedDateKey()))
         return true;
     vSetStatusText({});
@@ -73,18 +76,19 @@ void TRVNewsCtrlView::vTipOver(ListIndex list, const QString& text, int timeMs) 
     CSuperSheetWnd* sheet = List(list).pGetGrid();
     if (tip == nullptr || sheet == nullptr)
         return;
-    // The view's colours the other way round, so that the tip stands out from the rows under it.
     tip->vSetFont(GetViewFont());
-    tip->vSetInfo(nullptr, text, colBackground, colText, timeMs);
+    tip->vSetInfo(nullptr, text, colText, colBackground, timeMs);
     tip->vShow(sheet, 0, 0, false);
 }
 
 // The user's own choice of services counts, also while the warrant mode has set it aside.
 void TRVNewsCtrlView::vRecvNewMarketStatus(const CMarketStatus* status) {
     auto* picker = controls.Find<SDateTimeCtrl>(ids::datePicker);
-    if (status == nullptr || picker == nullptr || List(ListIndex::All).pGetGrid() == nullptr)
+    if (status == nullptr || picker == nullptr)
         return;
-    const int entry = EntryOfNewDay(services.Saved(), *status);
+    // A view of warrants alone has ticked nothing: it follows its own service.
+    const bool onlyWarrants = List(ListIndex::All).pGetGrid() == nullptr;
+    const int entry = onlyWarrants ? EntryOfWarrants(*status) : EntryOfNewDay(services.Saved(), *status);
     if (entry < 0)
         return;
     QDate day;
@@ -96,18 +100,31 @@ void TRVNewsCtrlView::vRecvNewMarketStatus(const CMarketStatus* status) {
     services.vSetDate(static_cast<std::size_t>(entry), status->date);
     picker->vSetDate(day);
     dates.vStartNewsDay(day, picker->date());
+    if (onlyWarrants) {
+        vReadAgain(ListIndex::Warrant);
+        return;
+    }
     const bool relation = currentMode == static_cast<int>(ListIndex::Relation) && CurrentList()->pGetGrid();
     QString name;
     backEnd.BKQNEWS_bGetShortNameByService(name, status->service);
     vTipOver(relation ? ListIndex::Relation : ListIndex::All,
              name + QLatin1Char(' ') + LangText(backEnd, keys::clearService));
     bChangeDateByNewHeadLine();
+    if (settings.options[ViewOption::ReadMissedTables])
+        vReadNowOrWhenShown(ListIndex::Warrant);
+}
+
+// The entry of the warrant service for which a status begins a new news day; -1: it changes nothing.
+int TRVNewsCtrlView::EntryOfWarrants(const CMarketStatus& status) const {
+    const int index = services.iGetWarrantIndex();
+    const bool begins = index >= 0 && status.service == warrantService &&
+                        services.Saved()[static_cast<std::size_t>(index)].date != status.date;
+    return begins ? index : -1;
 }
 
 bool TRVNewsCtrlView::bChangeDateByNewHeadLine() {
     if (List(ListIndex::All).pGetGrid() == nullptr)
         return false;
-    vForgetShownStory();
     lists.bRebuildCurrent(ListIndex::All, services.Saved());
     if (List(ListIndex::Relation).pGetGrid() == nullptr)
         return false;

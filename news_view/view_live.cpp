@@ -8,10 +8,12 @@
 #include "news_view/trv_news_ctrl_view.h"
 #include "story/news_story_view.h"
 
+#include <algorithm>
+
 IntakeState TRVNewsCtrlView::vIntakeState() const {
     IntakeState state;
     state.connected = backEnd.bIsConnect() == 1;
-    state.hasDatePicker = controls.Find<SDateTimeCtrl>(ids::datePicker) != nullptr;
+    state.hasDatePicker = bHasDay();
     if (!state.connected || !state.hasDatePicker)
         return state;
     state.pickedDate = dates.Picked();
@@ -24,8 +26,12 @@ IntakeState TRVNewsCtrlView::vIntakeState() const {
         state.shown[index] = loading.bWasShown(kind.index);
     }
     state.categoryId = SelectedCategoryId();
-    if (const auto symbol = symbols.SelectedSymbol())
+    // While another mode is shown the list may hold another symbol's news than the combo names.
+    const auto symbol = symbols.SelectedSymbol();
+    if (symbol && symbol->code == lists.ListedSymbol().code) {
         state.symbolCode = symbol->code;
+        state.symbolMarket = symbol->market;
+    }
     return state;
 }
 
@@ -34,10 +40,70 @@ void TRVNewsCtrlView::RecvNewHeadLine(const CHeadline* headline, const QString& 
     const IntakeState state = vIntakeState();
     if (headline == nullptr || !state.connected || !state.hasDatePicker)
         return;
-    for (const IntakeTarget& target : ListsFor({*headline, categoryId, symbolCode}, state))
+    const PushedHeadline pushed{*headline, categoryId, symbolCode};
+    const std::vector<IntakeTarget> targets = ListsFor(pushed, state);
+    for (const IntakeTarget& target : targets) {
+        if (lists.bWasRead(target.list, *headline))
+            continue;
         vKeepShownStory(target.list, List(target.list).vProcessNewHeadline(*headline, target.showDate));
+    }
+    vReplaceElsewhere(pushed, targets, state);
     if (currentMode == static_cast<int>(ListIndex::WarningTerm))
         pushedToSearch[headline->service] = *headline;
+    if (headline->service != warrantService && CategoryIndex(categoryId) < 0)
+        categoryMissed |= categoriesMissed.insert(categoryId).second;
+    vUpdateView();
+    vForgetShownStory();
+}
+
+// A headline that was sent again is asked by every list that has it, whether or not the list takes it in.
+// True when a list other than the targets has it.
+bool TRVNewsCtrlView::vReplaceElsewhere(const PushedHeadline& pushed,
+                                        const std::vector<IntakeTarget>& targets, const IntakeState& state) {
+    const HeadlineKey key = KeyOf(pushed.headline);
+    const CHeadlineTable entry{key.time, key.sequence, key.service, 0, 0};
+    const auto takesIt = [&](ListIndex list) {
+        return std::any_of(targets.begin(), targets.end(),
+                           [&](const IntakeTarget& target) { return target.list == list; });
+    };
+    bool isListed = false;
+    for (const ListKind& kind : listKinds) {
+        HeadlineList& list = List(kind.index);
+        const int row = takesIt(kind.index) ? -1 : list.Table().rowOfSameDay(key);
+        if (row < 0)
+            continue;
+        isListed = true;
+        NamedSymbols named;
+        CNewsSymLst related;
+        if (kind.index == ListIndex::Symbol && backEnd.BKNEWS_GetSymbolListBySeqNo(related, entry))
+            named = related.symbols;
+        if (Keeps(kind.index, pushed, named, state))
+            list.vReplaceHeadline(row, pushed.headline);
+        else
+            vKeepShownStory(kind.index, list.vTakeOut(row));
+    }
+    return isListed;
+}
+
+void TRVNewsCtrlView::vHeadlineReplaced(const CHeadline* headline, const QString& categoryId,
+                                        const QString& symbolCode) {
+    const IntakeState state = vIntakeState();
+    if (headline == nullptr || !state.connected || !state.hasDatePicker ||
+        !vReplaceElsewhere({*headline, categoryId, symbolCode}, {}, state))
+        return;
+    vUpdateView();
+    vForgetShownStory();
+}
+
+void TRVNewsCtrlView::vHeadlineGone(const HeadlineKey& key) {
+    bool wasListed = false;
+    for (const ListKind& kind : listKinds) {
+        const HeadlinePlace place = List(kind.index).vTakeOut(List(kind.index).Table().rowOf(key));
+        vKeepShownStory(kind.index, place);
+        wasListed = wasListed || place.oldRow >= 0;
+    }
+    if (!wasListed)
+        return;
     vUpdateView();
     vForgetShownStory();
 }
@@ -47,18 +113,24 @@ void TRVNewsCtrlView::vConnectionChanged(bool connected) {
         breaks.vRestored(host_clock::now());
     else
         breaks.vLost(host_clock::now());
+    vPlaceNotices();
     update();
 }
 
-// The pane keeps its story while rows come and go above it.
+// The pane keeps its story while rows come and go above it, and when its own goes.
 void TRVNewsCtrlView::vKeepShownStory(ListIndex list, const HeadlinePlace& place) {
     NewsStoryView* pane = stage.pGetPane();
-    if (pane == nullptr || !bPaneShowsStories() || place.row < 0 ||
+    if (pane == nullptr || !bPaneShowsStories() || place == HeadlinePlace() ||
         static_cast<int>(list) != pane->iGetTable())
         return;
     const int shown = pane->GetHeadLinePos();
-    if (place.oldRow == shown)
-        pane->SetHeadLinePos(place.row);
-    else if (place.row <= shown && (place.oldRow < 0 || place.oldRow > shown))
-        pane->SetHeadLinePos(shown + 1);
+    const bool came = place.row >= 0;
+    if (place.oldRow == shown && came)
+        pane->vMoveHeadLinePos(place.row);
+    else if (place.oldRow == shown)
+        pane->vLeaveHeadline();
+    else if (came && place.row <= shown && (place.oldRow < 0 || place.oldRow > shown))
+        pane->vMoveHeadLinePos(shown + 1);
+    else if (!came && place.oldRow < shown)
+        pane->vMoveHeadLinePos(shown - 1);
 }

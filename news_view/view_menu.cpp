@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The context menu of the news view.
 #include "headline_list/language_keys.h"
+#include "host/controls/plain_caption.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
@@ -58,13 +59,31 @@ void TRVNewsCtrlView::vPopUpMenu(const QPoint& screen, bool onRow) {
         vAddCommand(keys::printNews, ids::printNews);
         vAddCommand(keys::saveAsNews, ids::saveNews);
     }
-    if (bAwaitsOutput())
-        vAddCommand(keys::stopWaiting, ids::stopWaiting);
+    vAddWaitingCommands();
+    const ListNotices notices = Notices();
+    for (const auto& [kind, text] : notices.InOrder()) {
+        if (const int command = CommandOf(kind); command != 0)
+            vAddCommand(CaptionOfName(text), command);
+    }
     contextMenu->popup(screen);
 }
 
+void TRVNewsCtrlView::vAddWaitingCommands() {
+    if (!bAwaitsOutput())
+        return;
+    if (const int ready = iReadyForOutput(); ready > 0) {
+        QAction* action = vAddCommand(keys::putOutReady, ids::putOutReady);
+        action->setText(action->text().arg(ready));
+    }
+    vAddCommand(keys::stopWaiting, ids::stopWaiting);
+}
+
 QAction* TRVNewsCtrlView::vAddCommand(QLatin1StringView key, int id) {
-    QAction* action = contextMenu->addAction(LangText(backEnd, key));
+    return vAddCommand(LangText(backEnd, key), id);
+}
+
+QAction* TRVNewsCtrlView::vAddCommand(const QString& caption, int id) {
+    QAction* action = contextMenu->addAction(caption);
     action->setData(id);
     connect(action, &QAction::triggered, this, [this, id] { OnCommand(id); });
     return action;

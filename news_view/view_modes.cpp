@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Switching the news view between its modes, and laying it out.
+#include "headline_list/language_keys.h"
 #include "host/contract/fixed_services.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
@@ -21,6 +22,15 @@ int TRVNewsCtrlView::iGetFunctionID(int stored) const {
     if (!ListOfNumber(stored) || (stored == symbolMode && bIsAuthService(stockExchangeService) != 1))
         return 0;
     return stored;
+}
+
+int TRVNewsCtrlView::iGetFunctionID(const QString& name) const {
+    for (const ListKind& kind : listKinds) {
+        const QLatin1StringView key = ModeOf(kind.index).captionKey;
+        if (name.compare(LangText(backEnd, key), Qt::CaseInsensitive) == 0 || name == key)
+            return iGetFunctionID(static_cast<int>(kind.index));
+    }
+    return 0;
 }
 
 void TRVNewsCtrlView::CheckInitialView(int& mode) const {
@@ -50,6 +60,10 @@ void TRVNewsCtrlView::SwitchFunction(int mode) {
     currentMode = mode;
     settings.focusedTab = mode;
     stage.vHideDialog();
+    const bool unfiltered =
+        settings.options[ViewOption::RebuildFilteredLists] && lists.bHasOthersFilter(*index);
+    if (lists.bHasMissed(*index) || unfiltered)
+        vReadAgain(*index);
     if (bPaneShowsStories()) {
         vForgetShownStory();
         stage.vClearStory();
@@ -62,8 +76,9 @@ void TRVNewsCtrlView::SwitchFunction(int mode) {
     if (toLoad == ListIndex::Warrant && List(toLoad).pGetGrid() == nullptr)
         return;
     vTakeServicesOver(toLoad);
+    vCheckServiceMenu();
     vLoadMode(toLoad);
-    vPlaceStopButton();
+    vPlaceNotices();
     update();
     vUpdateView();
     CSuperSheetWnd* sheet = pGetCurrSheetView();
@@ -83,15 +98,18 @@ void TRVNewsCtrlView::vTakeServicesOver(ListIndex toLoad) {
     }
     if (services.iSelectedCount() == 0 && !services.Entries().empty())
         services.vSelectInBoth(0);
-    vCheckServiceMenu();
 }
 
 void TRVNewsCtrlView::vLoadMode(ListIndex toLoad) {
     const bool allNewsEnabled = (settings.functions & ModeOf(ListIndex::All).maskBit) != 0;
     if (toLoad == ListIndex::Category && allNewsEnabled && loading.bTakeCategoryCatalogue())
         bInitialCategoryInfo();
-    if (toLoad == ListIndex::Symbol && allNewsEnabled && loading.bTakeSymbolInformation())
-        bInitialSymbolInfo();
+    if (toLoad == ListIndex::Symbol && allNewsEnabled) {
+        if (loading.bTakeSymbolInformation())
+            bInitialSymbolInfo();
+        else if (!symbols.Current().code.isEmpty())
+            symbols.vShowCurrent();
+    }
     if (loading.bTakeLoad(toLoad))
         InitialHeadlineTable(static_cast<int>(toLoad));
     if (toLoad == ListIndex::Category)
@@ -174,7 +192,7 @@ void TRVNewsCtrlView::vSetComponentPos() {
             sheet->setGeometry(withoutControls ? layout.gridWithoutControls : layout.grid);
     }
     laidOut = true;
-    vPlaceStopButton();
+    vPlaceNotices();
     update();
     vUpdateView();
 }

@@ -22,28 +22,41 @@ std::vector<CHeadlineTable> TRVNewsCtrlView::vSelectedEntries() const {
 }
 
 NewsOutcome TRVNewsCtrlView::PrintNews(const std::optional<OutputTarget>& target) {
-    return PutOut(printer, ids::printButton, target);
+    return PutOut(printer, ids::printButton, vSelectedEntries(), target);
 }
 
 NewsOutcome TRVNewsCtrlView::SaveNews(const std::optional<OutputTarget>& target) {
-    return PutOut(saver, ids::saveAsButton, target);
+    return PutOut(saver, ids::saveAsButton, vSelectedEntries(), target);
 }
 
 void TRVNewsCtrlView::PreviewNews() {
-    PutOut(preview, ids::printButton, std::nullopt);
+    vTell(PutOut(preview, ids::printButton, vSelectedEntries(), std::nullopt));
+}
+
+int TRVNewsCtrlView::iRowOf(int list, const CHeadlineTable& headline) const {
+    const auto index = ListOfNumber(list);
+    return index ? lists[*index].Table().rowOf(KeyOf(headline)) : -1;
+}
+
+void TRVNewsCtrlView::PrintHeadline(const CHeadlineTable& headline) {
+    vTell(PutOut(printer, ids::printButton, {headline}, std::nullopt));
+}
+
+void TRVNewsCtrlView::SaveHeadline(const CHeadlineTable& headline) {
+    vTell(PutOut(saver, ids::saveAsButton, {headline}, std::nullopt));
 }
 
 // While the user is asked, the story dialog leaves the top and the button that asked is off.
-NewsOutcome TRVNewsCtrlView::PutOut(TRVNewsPrint& job, int button,
+NewsOutcome TRVNewsCtrlView::PutOut(TRVNewsPrint& job, int button, const std::vector<CHeadlineTable>& entries,
                                     const std::optional<OutputTarget>& target) {
-    const std::vector<CHeadlineTable> entries = vSelectedEntries();
     if (entries.empty())
         return {};
     std::vector<unsigned char> active;
     vGetNewsActiveService(active);
+    job.vSetWholeTitles(settings.options[ViewOption::WholeTitles]);
     NewsItems items = job.Gather(entries, active);
     NewsOutcome outcome;
-    if (!bIsComplete(items)) {
+    if (!bIsSettled(items)) {
         job.vWait(std::move(items), active, target);
         outcome.waiting = true;
         return outcome;

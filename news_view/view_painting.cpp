@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 // What the news view paints itself, and the colours and texts that it hands on.
 #include "headline_list/language_keys.h"
+#include "host/controls/xtp_tab_control.h"
 #include "host/views/sheet_scheme.h"
+#include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
@@ -25,7 +27,6 @@ void TRVNewsCtrlView::OnDraw(QPainter& painter) {
         vDrawFrameBorder(painter);
     } else {
         DrawTitile(painter);
-        vDrawNotice(painter);
     }
 }
 
@@ -33,7 +34,7 @@ void TRVNewsCtrlView::vSetStatusText(const QString& text) {
     if (text == statusText)
         return;
     statusText = text;
-    update();
+    vPlaceNotices();
 }
 
 void TRVNewsCtrlView::DrawTitile(QPainter& painter) {
@@ -53,6 +54,9 @@ void TRVNewsCtrlView::vNotSupportSymbol(QPainter& painter) {
 void TRVNewsCtrlView::vChangeCast() {
     TRVQuoteBaseView::vChangeCast();
     controls.vSetFont(GetViewFont());
+    if (auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip))
+        strip->SetColorSet({HostColour(QStringLiteral("COLOR_LISTCTL_HDBkCOLOR1"), {}),
+                            HostColour(QStringLiteral("COLOR_LISTCTL_HDTEXTCOLOR1"), {})});
     vSetGridColours();
     if (NewsStoryView* pane = stage.pGetPane())
         pane->vChangeCast();
@@ -79,6 +83,7 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     controls.vLoadLanguageString();
     vLoadToolTips();
     vLoadHints();
+    vLearnCategoryCombo();
     if (TRVNewsStory* dialog = stage.pGetDialog())
         dialog->vLoadLanguageString();
     for (int list = 0; list < listCount; ++list) {

@@ -47,11 +47,11 @@ void TRVNewsCtrlView::ChangeNewsSymbolList() {
 void TRVNewsCtrlView::vRecvNewsRelateSymbolListRecovery(const CNewsSymlistInfo* info) {
     CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes();
     const NewsStoryView* pane = stage.pGetPane();
-    CHeadlineTable entry;
-    if (info == nullptr || quotes == nullptr || pane == nullptr ||
-        !bGetHeadlineTable(entry, currentMode, pane->GetHeadLinePos()) || KeyOf(entry) != info->headline)
+    if (info == nullptr || quotes == nullptr || pane == nullptr)
         return;
-    quotes->vSetSymbolList(info->list);
+    const auto& shown = pane->PointedAt();
+    if (shown && KeyOf(*shown) == info->headline)
+        quotes->vSetSymbolList(info->list);
 }
 
 void TRVNewsCtrlView::vReRegisterSymbols() {

@@ -30,14 +30,23 @@ void TRVNewsCtrlView::OnReCoverHeadlineTable() {
     for (const ServiceEntry& entry : services.Entries()) {
         if (!entry.selected)
             continue;
-        if (list == ListIndex::All)
-            backEnd.BKNEWS_bReRequestHeadlineTable(entry.service, static_cast<int>(TableKind::ByDate),
-                                                   PickedDateKey());
-        else if (list == ListIndex::Category && category)
-            backEnd.BKNEWS_bReRequestHeadlineTable(entry.service, static_cast<int>(TableKind::ByCategory),
-                                                   *category);
-        else if (list == ListIndex::Symbol)
-            backEnd.BKNEWS_bReRequestHeadlineTable(entry.service, symbols.Current());
+        const unsigned char service = entry.service;
+        QString key;
+        bool isSent = false;
+        if (list == ListIndex::All) {
+            key = PickedDateKey();
+            isSent =
+                backEnd.BKNEWS_bReRequestHeadlineTable(service, static_cast<int>(TableKind::ByDate), key);
+        } else if (list == ListIndex::Category && category) {
+            key = *category;
+            isSent =
+                backEnd.BKNEWS_bReRequestHeadlineTable(service, static_cast<int>(TableKind::ByCategory), key);
+        } else if (list == ListIndex::Symbol) {
+            key = symbols.Current().code;
+            isSent = backEnd.BKNEWS_bReRequestHeadlineTable(service, symbols.Current());
+        }
+        if (isSent)
+            askedTables.emplace(*list, service, key);
     }
 }
 
@@ -61,9 +70,22 @@ void TRVNewsCtrlView::OnReCoverStory() {
 
 // --- Tables that were sent again ---
 
+// Only what this view has asked for puts its list to its top and is told of when it is missing. What another
+// view asked for, or what the back end tells of by itself, leaves the reader where he is.
+bool TRVNewsCtrlView::bTakeAsked(ListIndex list, const CHeadlineTableInfo& info) {
+    return askedTables.erase({list, info.service, info.key}) > 0;
+}
+
 void TRVNewsCtrlView::vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo* info) {
     constexpr int dateKeyLength = 8;
-    if (info == nullptr || !bIsServiceSelected(info->service) ||
+    if (info == nullptr)
+        return;
+    const bool asked = bTakeAsked(ListIndex::All, *info);
+    if (!asked && settings.options[ViewOption::ReadMissedTables]) {
+        vTakeAnnouncedDate(*info);
+        return;
+    }
+    if (!bIsServiceSelected(info->service) ||
         (info->key.size() == dateKeyLength && info->key != PickedDateKey()))
         return;
     const auto current = ListOfNumber(currentMode);
@@ -78,47 +100,140 @@ void TRVNewsCtrlView::vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo* in
             return lists.bRebuild(list, TableKind::ByDate, info->key);
         return lists.bRebuild(list, TableKind::ByDate, DateKey(host_clock::today()), &tickedKeySets);
     };
-    const bool taken = bTakeTableAgain(*info, list, rebuild, {keys::invalidDate, {}});
+    const bool taken = bTakeTableAgain(*info, list, asked, rebuild, {keys::invalidDate, {}});
     if (taken && switches.showWarningSearch)
         lists.bRebuildAsCopy(ListIndex::WarningTerm, ListIndex::All);
 }
 
 void TRVNewsCtrlView::vRecvCatHeadlineTableRecovery(const CHeadlineTableInfo* info) {
-    if (info == nullptr || SelectedCategoryId() != info->key || !bIsServiceSelected(info->service))
+    if (info == nullptr)
+        return;
+    const bool asked = bTakeAsked(ListIndex::Category, *info);
+    if (SelectedCategoryId() != info->key || !bIsServiceSelected(info->service))
         return;
     const auto rebuild = [&] {
         return lists.bRebuild(ListIndex::Category, TableKind::ByCategory, info->key);
     };
-    bTakeTableAgain(*info, ListIndex::Category, rebuild, {keys::classNotFound, u" "_s});
+    if (!asked && settings.options[ViewOption::ReadMissedTables])
+        vReadNowOrWhenShown(ListIndex::Category);
+    else
+        bTakeTableAgain(*info, ListIndex::Category, asked, rebuild, {keys::classNotFound, u" "_s});
 }
 
 void TRVNewsCtrlView::vRecvSymHeadlineTableRecovery(const CHeadlineTableInfo* info) {
-    const CSymbolInfo symbol =
-        symbolFromLink ? symbols.SelectedSymbol().value_or(CSymbolInfo()) : symbols.Current();
-    if (info == nullptr || symbol.code.isEmpty() || symbol.code != info->key ||
-        !bIsServiceSelected(info->service))
+    if (info == nullptr)
+        return;
+    const bool asked = bTakeAsked(ListIndex::Symbol, *info);
+    const CSymbolInfo symbol = SymbolOfList();
+    if (symbol.code.isEmpty() || symbol.code != info->key || !bIsServiceSelected(info->service))
         return;
     const auto rebuild = [&] { return lists.bRebuildSymbol(symbol); };
-    bTakeTableAgain(*info, ListIndex::Symbol, rebuild, {keys::symbolNewsNotFound, u" "_s});
+    if (!asked && settings.options[ViewOption::ReadMissedTables])
+        vReadNowOrWhenShown(ListIndex::Symbol);
+    else
+        bTakeTableAgain(*info, ListIndex::Symbol, asked, rebuild, {keys::symbolNewsNotFound, u" "_s});
+}
+
+CSymbolInfo TRVNewsCtrlView::SymbolOfList() const {
+    return symbolFromLink ? symbols.SelectedSymbol().value_or(CSymbolInfo()) : symbols.Current();
 }
 
 template <class Rebuild>
-bool TRVNewsCtrlView::bTakeTableAgain(const CHeadlineTableInfo& info, ListIndex list, Rebuild rebuild,
-                                      const NothingFound& nothingFound) {
+bool TRVNewsCtrlView::bTakeTableAgain(const CHeadlineTableInfo& info, ListIndex list, bool asked,
+                                      Rebuild rebuild, const NothingFound& nothingFound) {
     if (List(list).pGetGrid() == nullptr)
         return false;
-    vForgetShownStory();
-    if (rebuild() || info.status >= 0)
+    const bool hasRows = asked ? rebuild() : bInPlace(list, rebuild);
+    if (hasRows || info.status >= 0)
         return true;
     QString name;
     backEnd.BKQNEWS_bGetShortNameByService(name, info.service);
     if (!statusText.contains(name))
-        vSetStatusText(statusText + name + QLatin1Char(' '));
+        vSetStatusText(WithServiceName(name));
     vTipOver(list, statusText + nothingFound.separator + LangText(backEnd, nothingFound.key));
     return false;
 }
 
+QString TRVNewsCtrlView::WithServiceName(const QString& name) const {
+    const QString before = statusText.trimmed();
+    if (before.isEmpty() || !settings.options[ViewOption::SeparateServiceNames])
+        return statusText + name + QLatin1Char(' ');
+    return before + LangText(backEnd, keys::betweenNames) + name + QLatin1Char(' ');
+}
+
+// What the user has ticked; the warrants are what the warrant mode has ticked for itself.
 bool TRVNewsCtrlView::bIsServiceSelected(unsigned char service) const {
-    return std::any_of(services.Entries().begin(), services.Entries().end(),
+    const auto& entries = service == warrantService ? services.Entries() : services.Saved();
+    return std::any_of(entries.begin(), entries.end(),
                        [&](const ServiceEntry& entry) { return entry.service == service && entry.selected; });
+}
+
+// --- Tables that the back end tells of by itself ---
+
+void TRVNewsCtrlView::vTakeAnnouncedDate(const CHeadlineTableInfo& info) {
+    const bool warrants = info.service == warrantService;
+    if (!warrants && !bIsServiceSelected(info.service))
+        return;
+    if (info.key == PickedDateKey())
+        vReadNowOrWhenShown(warrants ? ListIndex::Warrant : ListIndex::All);
+    if (!warrants && info.key == DateKey(host_clock::today()))
+        vReadNowOrWhenShown(ListIndex::Relation);
+}
+
+// A list that was never shown is read when it is; those of symbols and warrants are at every switch to them.
+void TRVNewsCtrlView::vReadNowOrWhenShown(ListIndex list) {
+    if (List(list).pGetGrid() == nullptr || !loading.bWasShown(list))
+        return;
+    if (currentMode == static_cast<int>(list))
+        vReadAgain(list);
+    else
+        lists.vMissed(list);
+}
+
+void TRVNewsCtrlView::vReadAgain(ListIndex list) {
+    bInPlace(list, [&] {
+        switch (list) {
+            case ListIndex::All:
+                return lists.bRebuild(list, TableKind::ByDate, PickedDateKey());
+            case ListIndex::Category:
+                return lists.bRebuild(list, TableKind::ByCategory, SelectedCategoryId().value_or(QString()));
+            case ListIndex::Symbol:
+                return lists.bRebuildSymbol(SymbolOfList());
+            case ListIndex::Relation:
+                return lists.bRebuild(list, TableKind::ByDate, DateKey(host_clock::today()), &tickedKeySets);
+            case ListIndex::Warrant:
+                return lists.bRebuildWarrant(PickedDateKey());
+            default:
+                return false;
+        }
+    });
+}
+
+// The pane keeps its story, and the row that it stands for.
+template <class Rebuild>
+bool TRVNewsCtrlView::bInPlace(ListIndex list, Rebuild rebuild) {
+    NewsStoryView* pane = stage.pGetPane();
+    const bool paneFollows =
+        pane != nullptr && bPaneShowsStories() && pane->iGetTable() == static_cast<int>(list);
+    CHeadlineTable shown;
+    const bool hasShown =
+        paneFollows && bGetHeadlineTable(shown, static_cast<int>(list), pane->GetHeadLinePos());
+    List(list).vHoldPlace();
+    keepsPlace = true;
+    const bool hasRows = rebuild();
+    keepsPlace = false;
+    const int row = hasShown ? List(list).Table().rowOf(KeyOf(shown)) : -1;
+    if (row >= 0)
+        pane->SetHeadLinePos(row);
+    return hasRows;
+}
+
+void TRVNewsCtrlView::vTakeFoundAgain(ListIndex list, const TableRuns& found) {
+    bInPlace(list, [&] {
+        List(list).vSetTable(found);
+        List(list).vRefill();
+        return true;
+    });
+    if (List(list).Table().empty() && currentMode == static_cast<int>(list))
+        OnShowStory();
 }

@@ -84,6 +84,7 @@ void TRVNewsCtrlView::OnDealsSearchDlg() {
     if (!accepted && !(searches.ordinary == searches.edited))
         vStopWaiting();
     searches.ordinary = searches.edited;
+    vPlaceNotices();
     if (!accepted)
         return;
     OnDealsSearch();
@@ -104,11 +105,18 @@ void TRVNewsCtrlView::OnDealsSearch() {
     }
     SearchDesk::vCompleteMethod(*condition);
     const bool awaited = searches.bTakeSearchText(cszSearchText());
-    if (awaited)
+    // A wait tip that is still up must not name a search that nobody waits for any more.
+    if (tip != nullptr && (awaited || bWaitTipIsUp())) {
         vTipOver(*mode, searches.WaitText(*condition), waitTipTimeMs);
-    searches.vSend(*mode, services.vGetLive(), awaited);
+        waitTipText = tip->cszGetText();
+    }
+    searches.vSend(*mode, services.vGetLive(), awaited, {host_clock::now(), breaks.Ended()});
     List(*mode).vSetTable(ReadTables(backEnd, services.Entries(), TableKind::Search, searchTableKey));
     vShowFound(*mode, false);
+}
+
+bool TRVNewsCtrlView::bWaitTipIsUp() const {
+    return tip->isVisible() && !waitTipText.isEmpty() && tip->cszGetText() == waitTipText;
 }
 
 // --- Results ---
@@ -118,13 +126,15 @@ void TRVNewsCtrlView::vShowFound(ListIndex index, bool selectFirst) {
     vForgetShownStory();
     list.vRefill();
     if (list.Table().empty())
-        statusText.clear();
+        vSetStatusText({});
     else if (selectFirst)
         list.pGetGrid()->vSetActiveSelection(0, -1);
-    // An answer opens no window; one that is open follows the rows.
+    // An answer opens no window; one that is open follows the rows. Without rows there is no story: that of
+    // a row that went would stand beside an empty list.
     const bool isStoryAsked = !selectFirst || bPaneShowsStories() || list.Table().empty();
     if (currentMode == static_cast<int>(index) && (isStoryAsked || pStoryDialogOnShow() != nullptr))
         OnShowStory();
+    vPlaceNotices();
 }
 
 void TRVNewsCtrlView::RespSearchHeadLineTable(const CSearch& condition, unsigned char serviceId) {
@@ -135,7 +145,12 @@ void TRVNewsCtrlView::RespSearchHeadLineTable(const CSearch& condition, unsigned
         *kind == TableKind::Search && switches.showWarningSearch ? ListIndex::WarningTerm : ListIndex::Search;
     if (List(target).pGetGrid() == nullptr)
         return;
-    List(target).vSetTable(ReadEveryTable(backEnd, services.Entries(), *kind, searchTableKey));
+    const TableRuns found = ReadEveryTable(backEnd, services.Entries(), *kind, searchTableKey);
+    if (*kind == TableKind::Search && !searches.bTakeAnswerDue(condition, serviceId)) {
+        vTakeFoundAgain(target, found);
+        return;
+    }
+    List(target).vSetTable(found);
     const bool othersPending = *kind == TableKind::Search && TakeAnswer(services.vGetLive(), serviceId);
     if (!othersPending && tip != nullptr)
         tip->vStop();
@@ -165,7 +180,11 @@ void TRVNewsCtrlView::ProcessNewSearchHeadline(CSearch& condition, ListIndex ind
     if (list.pGetGrid() == nullptr)
         return;
     SearchDesk::vCompleteMethod(condition);
+    searches.vSent(condition, headline.service);
     backEnd.BKQNEWS_bSearchNews(headline.service, searchKind, condition);
+    // The answer brings the rows of all services.
+    if (settings.options[ViewOption::KeepWarningRows])
+        return;
     list.vSetTable(ReadServiceTable(backEnd, headline.service, TableKind::Search, key));
     list.vRefill();
     const int row = list.Table().rowOfNumber(KeyOf(headline));
@@ -194,12 +213,15 @@ void TRVNewsCtrlView::vUpdateSymbolPicker(const std::vector<CSymbolUpdateInfo>& 
 
 void TRVNewsCtrlView::vDoSearchChangeSymbol(const CSearch& condition, unsigned char market,
                                             const QString& symbolCode) {
+    const auto mode = ListOfNumber(currentMode);
+    const bool warningTermsFollow = !settings.options[ViewOption::WarningTermsStandFast];
+    if (mode == ListIndex::WarningTerm && !warningTermsFollow)
+        return;
     CSymbolInfo symbol{market, symbolCode};
     const bool isFuture =
         backEnd.bIsFromTheSameAuthServiceID(futuresMarket, market) == 1 || market == commodityMarket;
     if (isFuture && !backEnd.bGetCommodityIDBySymbolID(symbol.code, market, symbolCode))
         return;
-    const auto mode = ListOfNumber(currentMode);
     const bool hasSymbol = !condition.symbols.empty() && !condition.symbols.front().code.isEmpty();
     if ((mode == ListIndex::WarningTerm && hasSymbol) ||
         (mode != ListIndex::Search && mode != ListIndex::WarningTerm)) {
@@ -208,6 +230,6 @@ void TRVNewsCtrlView::vDoSearchChangeSymbol(const CSearch& condition, unsigned c
     }
     if (!SymbolName(backEnd, symbol))
         return;
-    searches.vNarrow(condition, symbol);
+    searches.vNarrow(condition, symbol, warningTermsFollow);
     OnDealsSearch();
 }

@@ -10,23 +10,24 @@
 
 void TRVNewsCtrlView::OnSelectService() {
     const QWidget* button = GetDlgItem(this, ids::serviceButton);
-    if (button != nullptr)
+    if (button != nullptr && !bServicesStandFast())
         serviceMenu->popup(button->mapToGlobal(button->rect().bottomLeft()));
 }
 
 void TRVNewsCtrlView::OnSelectCheckService(unsigned int id) {
     const std::size_t index = id - ids::firstServiceCommand;
-    if (index >= services.Entries().size())
+    if (index >= services.Entries().size() || bServicesStandFast())
         return;
     const bool selected = services.Entries()[index].selected;
     const bool isLast = selected && services.iSelectedCount() < 2;
-    if (!isLast)
+    if (!isLast) {
         services.vSelect(index, !selected);
+        services.vCopyToSaved();
+    }
     // Choosing an item has turned its check mark already: it is set to what holds, refused or not.
     vCheckServiceMenu();
     if (isLast)
         return;
-    services.vCopyToSaved();
     vReloadForServices();
     services.CheckRegisterService(*this);
     vForgetShownStory();
@@ -34,11 +35,17 @@ void TRVNewsCtrlView::OnSelectCheckService(unsigned int id) {
     update();
 }
 
+// The warrant mode has set the user's choice aside.
+bool TRVNewsCtrlView::bServicesStandFast() const {
+    return currentMode == static_cast<int>(ListIndex::Warrant);
+}
+
 void TRVNewsCtrlView::vCheckServiceMenu() {
     const QList<QAction*> actions = serviceMenu->actions();
     for (QAction* action : actions) {
         const auto service = static_cast<std::size_t>(action->data().toInt() - ids::firstServiceCommand);
-        action->setChecked(services.Entries().at(service).selected);
+        action->setChecked(services.Saved().at(service).selected);
+        action->setEnabled(!bServicesStandFast());
     }
 }
 

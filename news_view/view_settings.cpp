@@ -3,6 +3,7 @@
 #include "news_view/view_settings.h"
 
 #include <cstdlib>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +14,7 @@ const QString showTypeKey = u"NewsShowType"_s;
 const QString showCategoryKey = u"ShowCategory"_s;
 const QString focusedTabKey = u"FocusedTab"_s;
 const QString symbolKey = u"SymbolID"_s;
+const QString symbolServiceKey = u"SymbolService"_s;
 const QString categoryKey = u"CategoryID"_s;
 const QString quoteSortingKey = u"QuoteSorting"_s;
 
@@ -43,10 +45,15 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
     settings.focusedTab = defaultTab;
     reader.GetViewInfo(path, focusedTabKey, settings.focusedTab);
     reader.GetViewInfo(path, symbolKey, settings.symbolId);
+    int market = 0;
+    if (reader.GetViewInfo(path, symbolServiceKey, market) && market > 0 &&
+        market <= std::numeric_limits<unsigned char>::max())
+        settings.symbolService = static_cast<unsigned char>(market);
     reader.GetViewInfo(path, categoryKey, settings.categoryId);
     int quoteSorting = 0;
     reader.GetViewInfo(path, quoteSortingKey, quoteSorting);
     settings.quoteSorting = sortingOf(quoteSorting);
+    settings.options = ViewOptions::read(reader, path);
     return settings;
 }
 
@@ -56,6 +63,8 @@ void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
     writer.SetViewInfo(path, showCategoryKey, showCategory);
     writer.SetViewInfo(path, focusedTabKey, focusedTab);
     writer.SetViewInfo(path, symbolKey, symbolId);
+    if (symbolService)
+        writer.SetViewInfo(path, symbolServiceKey, int{*symbolService});
     writer.SetViewInfo(path, categoryKey, categoryId);
     writer.SetViewInfo(path, quoteSortingKey, numberOf(quoteSorting));
 }

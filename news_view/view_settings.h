@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/contract/cfg_io.h"
+#include "host/contract/view_options.h"
 #include "host/views/quote_table.h"
 #include "news_view/mode_table.h"
 
@@ -19,9 +20,11 @@ struct ViewSettings {
     bool showCategory = true;                       // "ShowCategory"
     int focusedTab = 0;                             // "FocusedTab": the function mode to open with
     QString symbolId;                               // "SymbolID"
+    std::optional<unsigned char> symbolService;     // "SymbolService": the market of that symbol
     QString categoryId;                             // "CategoryID"
     // "QuoteSorting": the number of the column from 1 on, negative: descending; 0: none
     std::optional<QuoteTable::Sorting> quoteSorting;
+    ViewOptions options;  // the host's choice: never written back
 
     // `defaultTab`: the focused tab when none is stored.
     static ViewSettings read(const TRVCfgIO2& reader, const ViewSettingPath& path, int defaultTab);

@@ -49,11 +49,11 @@ constexpr std::array otherHints{
 };
 
 constexpr std::array tabOrder{
-    ids::tabStrip,    ids::showTypeButton, ids::serviceButton,     ids::relationSearchButton,
-    ids::datePicker,  ids::categoryCombo,  ids::serviceCombo,      ids::symbolCombo,
-    ids::searchEdit,  ids::searchButton,   ids::dealsSearchButton, ids::warningSearchButton,
-    ids::stopWaiting, ids::pageDownButton, ids::pageUpButton,      ids::saveAsButton,
-    ids::printButton,
+    ids::tabStrip,       ids::showTypeButton, ids::serviceButton,     ids::relationSearchButton,
+    ids::datePicker,     ids::categoryCombo,  ids::serviceCombo,      ids::symbolCombo,
+    ids::searchEdit,     ids::searchButton,   ids::dealsSearchButton, ids::warningSearchButton,
+    ids::stopWaiting,    ids::endNarrowing,   ids::readUnfiltered,    ids::searchAgain,
+    ids::pageDownButton, ids::pageUpButton,   ids::saveAsButton,      ids::printButton,
 };
 
 }  // namespace

@@ -40,6 +40,8 @@ void TRVNewsCtrlView::OnRelationSearchDlg() {
     HeapDialog dialog(new CNewsKeySearchDlg(searches.memory.keywordPool,
                                             NewsTypesOf(backEnd, services.Entries()), searches.memory.keySets,
                                             this));
+    if (settings.options[ViewOption::KeySetsInAnyCase])
+        dialog->vTakeAnyCase();
     const bool accepted = dialog->DoModal() == search_ids::ok;
     if (!dialog)
         return;
@@ -59,9 +61,11 @@ void TRVNewsCtrlView::OnRelationSearchDlg() {
 }
 
 void TRVNewsCtrlView::vSetTickedKeySets(const std::vector<CNewsKey>& ticked) {
-    tickedKeySets = RelationMatcher(ticked);
+    tickedKeySets = RelationMatcher(ticked, settings.options[ViewOption::KeySetsInAnyCase]
+                                                ? RelationMatcher::Case::Any
+                                                : RelationMatcher::Case::AsWritten);
     vLoadHints();
-    update();
+    vPlaceNotices();
 }
 
 // --- Warning terms ---
@@ -77,6 +81,7 @@ void TRVNewsCtrlView::OnWarningSearchDlg() {
     dialog.Delete();
     searches.edited = searches.warningTerm;
     vLoadHints();
+    vPlaceNotices();
     if (accepted)
         OnDealsSearch();
 }
@@ -91,6 +96,9 @@ void TRVNewsCtrlView::vLoadHints() {
         if (CSuperSheetWnd* sheet = List(list).pGetGrid())
             sheet->vSetEmptyText(text);
     };
+    for (const ListIndex list : {ListIndex::All, ListIndex::Category, ListIndex::Symbol})
+        tell(list, LangText(backEnd, keys::hintNoNews).replace(u"%1"_s, nativeKey(u"F5"_s)));
+    tell(ListIndex::Warrant, LangText(backEnd, keys::hintNoWarrantNews));
     tell(ListIndex::Search, hint(keys::hintSearch, nativeKey(u"F3"_s)));
     tell(ListIndex::Relation, hint(tickedKeySets.empty() ? keys::hintNoKeySet : keys::hintNoMatch));
     const bool chosen = !searches.warningTerm.keywords.empty();

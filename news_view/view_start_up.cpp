@@ -5,7 +5,9 @@
 #include "headline_list/language_keys.h"
 #include "host/contract/fixed_services.h"
 #include "host/contract/ini_file.h"
+#include "host/contract/misuse.h"
 #include "host/contract/sync_info.h"
+#include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
@@ -27,6 +29,8 @@ constexpr int tabStripHeight = 22;
 }  // namespace
 
 void TRVNewsCtrlView::OnInitialUpdate() {
+    RequireInterfaceThread("TRVQuoteBaseView::OnInitialUpdate");
+    RequireOfHost(serviceMenu == nullptr, "TRVQuoteBaseView::OnInitialUpdate was called twice on one view.");
     TRVQuoteBaseView::OnInitialUpdate();
     if (backEnd.bIsConnect() != 1)
         vConnectionChanged(false);
@@ -61,15 +65,16 @@ void TRVNewsCtrlView::vFillServiceMenu() {
 
 void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
                                       const QString&) {
+    RequireOfHost(serviceMenu != nullptr,
+                  "TRVQuoteBaseView::InitialViewInfo was called before OnInitialUpdate.");
     TRVQuoteBaseView::InitialViewInfo(reader, section, first, second, viewKey);
-    dates.vSetRange(backEnd.BKQbyGetNewsDateRange());
     vTakeNewsType();
     if (newsType == 0) {
         vCreateStoryPane();
         controls.CreateTypeBtn();
         controls.CreateFunctionBtn();
     }
-    controls.vCreateStopButton();
+    controls.vCreateNotices();
     services.vInitialNewsService(*reader, settingsPath, *this);
     searches.vRestore(SearchMemory::read(*reader, settingsPath));
     bInitialTransferCatObject();
@@ -98,11 +103,11 @@ void TRVNewsCtrlView::vTakeNewsType() {
     settings = ViewSettings::read(*settingsReader, settingsPath,
                                   symbolNewsOnly ? static_cast<int>(ListIndex::Symbol) : 0);
     symbolFromLink = CSyncInfo::GetSettingCFG()->SYS_bGetIsLinkNews();
-    symbols.vSetCurrent({stockExchangeService, {}});
+    symbols.vSetCurrent({StartMarket(StartCode()), {}});
     if (symbolNewsOnly) {
         settings.functions = symbolNewsMask;
-        symbols.vSetCurrent(
-            {stockExchangeService, CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(GetLinkGroup())});
+        const QString code = CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(GetLinkGroup());
+        symbols.vSetCurrent({StartMarket(code), code});
     }
 }
 
@@ -136,17 +141,15 @@ TRVQuoteBaseView* TRVNewsCtrlView::CreateView(const QMetaObject& runtimeClass, c
 }
 
 void TRVNewsCtrlView::bInitialTransferCatObject() {
-    categories.bLoad(IniFile::load(backEnd.PathGetSysPath() + QStringLiteral("/NewsService.ini")));
-}
-
-void TRVNewsCtrlView::vReloadCategories() {
-    bInitialTransferCatObject();
-    vUpdateView();
+    categories.bLoadFile();
 }
 
 void TRVNewsCtrlView::bInitialTransferWarrantCatObject() {
-    if (services.iGetWarrantIndex() >= 0)
-        warrantCategories.bLoad(backEnd, warrantService);
+    std::vector<unsigned char> ids;
+    for (const ServiceEntry& entry : services.Entries())
+        ids.push_back(entry.service);
+    categories.vSetServices(std::move(ids));
+    categories.vLoadWarrants();
 }
 
 void TRVNewsCtrlView::vViewCreate() {
@@ -193,7 +196,9 @@ void TRVNewsCtrlView::vCreateMode(ListIndex mode, const QRect& gridArea, const Q
     } else if (mode == ListIndex::Symbol || mode == ListIndex::Warrant) {
         return;
     }
-    if (mode == ListIndex::All) {
+    // The list of warrants alone is of a day, too, though nobody picks it.
+    const bool onlyWarrants = mode == ListIndex::Warrant && IsSingleFunction(settings.functions);
+    if (mode == ListIndex::All || onlyWarrants) {
         controls.vCreateDatePicker(row, dates.Picked());
         vConnectDatePicker();
     } else if (mode == ListIndex::Category)
@@ -202,15 +207,23 @@ void TRVNewsCtrlView::vCreateMode(ListIndex mode, const QRect& gridArea, const Q
         controls.CreateControls(mode, row, GetViewFont());
     if (mode == ListIndex::Search)
         vConnectSearchEdit();
+    if (mode == ListIndex::Category)
+        connect(controls.Find<SCComboBox>(ids::categoryCombo), &SCComboBox::CloseUp, this, [this] {
+            if (categoryComboIsBehind)
+                vLearnCategoryCombo();
+        });
 }
 
 void TRVNewsCtrlView::vInitialSheetWnd(ListIndex list, const QRect& rectangle) {
     CSuperSheetWnd* sheet = CreateHeadlineSheet(this, rectangle, newsType, backEnd);
     if (sheet == nullptr)
         return;
+    sheet->vStretchLastColumn(settings.options[ViewOption::StretchTitles]);
     lists[list].vSetGrid(sheet);
-    connect(sheet->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this, list] {
-        if (bPaneShowsStories() && currentMode == static_cast<int>(list))
+    connect(sheet->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this, sheet, list] {
+        // Where the focus goes because its row has left, the reader has not gone.
+        if (!sheet->bIsTakingUpRows() && bPaneShowsStories() && currentMode == static_cast<int>(list) &&
+            !keepsPlace)
             OnShowStory();
     });
     vConnectMouse(*sheet);
@@ -224,14 +237,22 @@ void TRVNewsCtrlView::vOpenFocusedTab() {
         strip->SetCurSel(iGetTabIndex(mode));
     initialised = true;
     SwitchFunction(mode);
+    dates.vSetRange(backEnd.BKQbyGetNewsDateRange());
     sync->SYS_vSetIsLinkNews(false);
 }
 
 void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, int first, int second) {
+    RequireInterfaceThread("TRVQuoteBaseView::SaveViewInfo");
+    RequireOfHost(settingsReader != nullptr,
+                  "TRVQuoteBaseView::SaveViewInfo was called before InitialViewInfo.");
+    RequireOfHost(writer != nullptr,
+                  "TRVQuoteBaseView::SaveViewInfo was given nowhere to write the settings to.");
     const ViewSettingPath path{section, first, second, viewKey};
     settings.newsShowType = GetStoryShowType();
-    if (!symbols.Current().code.isEmpty())
+    if (!symbols.Current().code.isEmpty()) {
         settings.symbolId = symbols.Current().code;
+        settings.symbolService = symbols.Current().market;
+    }
     if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
         settings.quoteSorting = quotes->GetTable().sorting();
     settings.write(*writer, path);

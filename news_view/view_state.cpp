@@ -42,11 +42,11 @@ QVariantMap storyTexts(const QWidget& window) {
     const auto* story = qobject_cast<const MyRichEdit*>(GetDlgItem(&window, story_ids::storyText));
     if (title == nullptr || story == nullptr)
         return {};
-    const QTextCursor cursor = story->textCursor();
+    const auto [start, end] = story->GetSelection();
     return {{QStringLiteral("visible"), window.isVisible()},
             {QStringLiteral("title"), title->szGetText()},
             {QStringLiteral("story"), story->szGetText()},
-            {QStringLiteral("selection"), QVariantList{cursor.selectionStart(), cursor.selectionEnd()}},
+            {QStringLiteral("selection"), QVariantList{start, end}},
             {QStringLiteral("titleRect"), rectangle(title->geometry())},
             {QStringLiteral("storyRect"), rectangle(story->geometry())},
             {QStringLiteral("onTop"), window.windowFlags().testFlag(Qt::WindowStaysOnTopHint)}};
@@ -104,6 +104,11 @@ QVariantMap TRVNewsCtrlView::State() const {
                                          {QStringLiteral("pending"), entry.searchPending},
                                          {QStringLiteral("registered"), services.bIsRegistered(i)}});
     }
+    QVariantList noticeStates;
+    const ListNotices notices = Notices();
+    for (const auto& [kind, text] : notices.InOrder())
+        noticeStates.append(
+            QVariantMap{{QStringLiteral("text"), text}, {QStringLiteral("command"), CommandOf(kind)}});
     return {{QStringLiteral("mode"), currentMode},
             {QStringLiteral("newsType"), newsType},
             {QStringLiteral("storyShowType"), GetStoryShowType()},
@@ -114,7 +119,8 @@ QVariantMap TRVNewsCtrlView::State() const {
             {QStringLiteral("awaited"), QVariantMap{{QStringLiteral("print"), printer.iAwaited()},
                                                     {QStringLiteral("save"), saver.iAwaited()},
                                                     {QStringLiteral("preview"), preview.iAwaited()}}},
-            {QStringLiteral("notice"), NoticeText()},
+            {QStringLiteral("notice"), notices.Text()},
+            {QStringLiteral("notices"), noticeStates},
             {QStringLiteral("showCategory"), settings.showCategory},
             {QStringLiteral("storyRow"), shownStoryRow},
             {QStringLiteral("pickedDate"), dateNumber(dates.Picked())},

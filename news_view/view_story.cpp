@@ -40,6 +40,11 @@ void TRVNewsCtrlView::vForgetShownStory() {
     shownStoryRow = -1;
 }
 
+void TRVNewsCtrlView::vRowsReplaced(ListIndex list) {
+    if (currentMode == static_cast<int>(list))
+        vForgetShownStory();
+}
+
 void TRVNewsCtrlView::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
     if (HeadlineList* list = CurrentList())
         list->vUpdateHeadline(entries);

@@ -10,6 +10,8 @@
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/news_relate_symbol_quote_view.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int symbolMode = static_cast<int>(ListIndex::Symbol);
@@ -30,17 +32,24 @@ bool TRVNewsCtrlView::bInitialSymbolInfo() {
         vSetNotSupported();
         return true;
     }
-    CSyncInfo* sync = CSyncInfo::GetSettingCFG();
-    QString code = sync->SYS_cszGetCurrentSymbol(GetLinkGroup());
-    if (code.isEmpty() && !symbolFromLink)
-        code = settings.symbolId;
-    int index = symbols.iSymbolIndex(code);
+    int index = symbols.iSymbolIndex(StartCode());
     if (index < 0)
         index = symbols.iSymbolIndex(fallbackCode);
     symbols.vSelectSymbol(index);
     if (settings.focusedTab == symbolMode)
         OnSelchangeComboSymbol();
     return true;
+}
+
+QString TRVNewsCtrlView::StartCode() const {
+    const QString code = CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(GetLinkGroup());
+    return code.isEmpty() && !symbolFromLink ? settings.symbolId : code;
+}
+
+// The host names symbols by their codes: of what was saved the view knows the market.
+unsigned char TRVNewsCtrlView::StartMarket(const QString& code) const {
+    return code == settings.symbolId ? settings.symbolService.value_or(stockExchangeService)
+                                     : stockExchangeService;
 }
 
 void TRVNewsCtrlView::vSetNotSupported() {
@@ -78,18 +87,18 @@ void TRVNewsCtrlView::ChangeSymbol(const QWidget* sender, unsigned char group, u
         return;
     vSetBaseSymbol(backEnd.bIsSymbolIDExist(service, code) == 1 ? CSymbolInfo{service, code} : CSymbolInfo{});
     symbols.vSetCurrent({service, code});
-    vDoNormalChangeSymbol(service, code);
+    const bool isListed = vDoNormalChangeSymbol(service, code);
     vSearchForSymbol({service, code});
     if ((settings.functions & symbolNewsMask) != 0)
-        vFollowSymbol(service, code);
+        vFollowSymbol(service, code, isListed);
     if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
         quotes->ChangeSymbol(sender, group, service, code, name);
 }
 
-void TRVNewsCtrlView::vFollowSymbol(unsigned char service, const QString& code) {
+void TRVNewsCtrlView::vFollowSymbol(unsigned char service, const QString& code, bool isListed) {
     if (symbols.IsSupportNews(service, code)) {
         vSetSupported();
-        if (Sheet(symbolMode) != nullptr)
+        if (Sheet(symbolMode) != nullptr && !isListed)
             GetSymbolNews(code);
     } else if (newsType == symbolNewsType) {
         vSetNotSupported();
@@ -97,16 +106,17 @@ void TRVNewsCtrlView::vFollowSymbol(unsigned char service, const QString& code) 
     update();
 }
 
-void TRVNewsCtrlView::vDoNormalChangeSymbol(unsigned char service, const QString& code) {
+bool TRVNewsCtrlView::vDoNormalChangeSymbol(unsigned char service, const QString& code) {
     if (!symbols.IsSupportNews(service, code))
-        return;
+        return false;
     vOnChangeServiceCombobox(service);
-    vOnChangeSymbolCombobox();
+    const bool isListed = vOnChangeSymbolCombobox();
     const int index = symbols.iSymbolIndex(code);
     if (currentMode == symbolMode && index >= 0) {
         symbols.vSelectSymbol(index);
         OnSelchangeComboSymbol();
     }
+    return isListed;
 }
 
 void TRVNewsCtrlView::vOnChangeServiceCombobox(unsigned char service) {
@@ -120,22 +130,28 @@ void TRVNewsCtrlView::vOnChangeServiceCombobox(unsigned char service) {
     symbols.vSelectSymbol(symbolIndex);
 }
 
-void TRVNewsCtrlView::vOnChangeSymbolCombobox() {
+bool TRVNewsCtrlView::vOnChangeSymbolCombobox() {
     const QString code = symbols.Current().code;
     const int index = symbols.iSymbolIndex(code);
     if (currentMode != symbolMode || code.isEmpty() || index < 0)
-        return;
+        return false;
     for (const int id : {ids::serviceCombo, ids::symbolCombo, ids::serviceButton}) {
         if (QWidget* control = GetDlgItem(this, id))
             control->show();
     }
     symbols.vSelectSymbol(index);
     GetSymbolNews(code);
+    return true;
 }
 
 void TRVNewsCtrlView::GetSymbolNews(const QString&) {
     stage.vClearStory();
     lists.bRebuildSymbol(symbols.Current());
+    // The reader of another list reads on.
+    if (currentMode != symbolMode && bPaneShowsStories()) {
+        vForgetShownStory();
+        OnShowStory();
+    }
 }
 
 void TRVNewsCtrlView::OnSelSymbol(const QString& code) {
@@ -151,7 +167,6 @@ void TRVNewsCtrlView::OnSelchangeComboSymbol() {
         symbols.vSelectSymbol(symbols.iSymbolIndex(selected->code));
         return;
     }
-    vForgetShownStory();
     symbols.vSetCurrent(*selected);
     GetSymbolNews(selected->code);
     emit SendChangeSymbol(GetLinkGroup(), selected->market, selected->code);
@@ -177,6 +192,11 @@ void TRVNewsCtrlView::vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& upda
     if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
         quotes->vDoSymbolUpdate(updates);
     vUpdateSymbolPicker(updates);
+    if (loading.bHasSymbolInformation() &&
+        std::any_of(updates.begin(), updates.end(), [this](const CSymbolUpdateInfo& update) {
+            return symbols.bLacksMarket(update.service) && symbols.IsSupportNews(update.service, update.code);
+        }))
+        vOfferMarket();
     for (const CSymbolUpdateInfo& update : updates) {
         if (!symbols.IsSupportNews(update.service, update.code))
             continue;
@@ -186,6 +206,21 @@ void TRVNewsCtrlView::vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& upda
             OnSelchangeComboSymbol();
         return;
     }
+}
+
+// The first symbols of a market have come.
+void TRVNewsCtrlView::vOfferMarket() {
+    if (symbols.bHasSymbols()) {
+        symbols.vOfferMarkets();
+        vSetComponentPos();
+        return;
+    }
+    vSetDataState(DataState::Normal);
+    bInitialSymbolInfo();
+    ShowHideCtrObject(currentMode);
+    if (currentMode == symbolMode)
+        InitialHeadlineTable(symbolMode);
+    update();
 }
 
 bool TRVNewsCtrlView::bUpdateSymbolVec() {

@@ -44,14 +44,14 @@ QStringView TakeLine(QStringView& text) {
     return line;
 }
 
-std::vector<QStringView> TitleLines(QStringView title) {
-    if (FirstBytes(title, bytesPerLine).size() == title.size())
-        return {title};
+std::vector<QStringView> TitleLines(QStringView title, bool whole) {
     std::vector<QStringView> lines;
     for (QStringView line = FirstBytes(title, bytesPerLine); line.size() < title.size();
          line = FirstBytes(title, bytesPerLine)) {
         lines.push_back(line);
         title = title.sliced(line.size());
     }
+    if (whole || lines.empty())
+        lines.push_back(title);
     return lines;
 }

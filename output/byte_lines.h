@@ -24,6 +24,6 @@ QStringView FirstBytes(QStringView text, int bytes);
 // line feed.
 QStringView TakeLine(QStringView& text);
 
-// A title in lines: whole when it has up to bytesPerLine bytes. A longer one loses its last bytesPerLine
-// bytes or fewer, which hosts rely on.
-std::vector<QStringView> TitleLines(QStringView title);
+// A title in lines: whole when it has up to bytesPerLine bytes, or when `whole` says so. A longer one loses
+// its last bytesPerLine bytes or fewer, which hosts rely on.
+std::vector<QStringView> TitleLines(QStringView title, bool whole);

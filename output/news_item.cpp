@@ -6,6 +6,7 @@
 #include "story/story_text.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <unordered_map>
 
@@ -39,19 +40,41 @@ void takeTitle(const ItemsByNumber& items, const CHeadline& headline) {
     }
 }
 
+void putStory(NewsItem& item, const CStory& story, StoryForm form) {
+    item.leftOut = story.text.isEmpty();
+    item.hasStory = !item.leftOut;
+    item.story = item.leftOut ? QString() : form(story);
+}
+
 void takeLateStory(BKQuoteInterface& backEnd, NewsItem& item) {
     CStory story;
-    if (!item.hasTitle || item.hasStory || !backEnd.BKQNEWS_bGetStory(story, item.entry) ||
-        !IsSameNews(story.entry, item.entry))
+    if (item.hasTitle && !item.hasStory && backEnd.BKQNEWS_bGetStory(story, item.entry) &&
+        IsSameNews(story.entry, item.entry))
+        putStory(item, story, &LateStory);
+}
+
+// The headline was announced, and none of the services that are looked at has it: its own may, as for news
+// that was listed before its service was unticked.
+void takeAnnounced(BKQuoteInterface& backEnd, NewsItem& item) {
+    std::vector<CHeadline> headlines;
+    item.leftOut = backEnd.BKQNEWS_iGetHeadline(item.entry.service, headlines, {item.entry}) == 0;
+    if (item.leftOut)
         return;
-    item.story = LateStory(story);
-    item.hasStory = true;
+    item.title = headlines.front().title;
+    item.hasTitle = true;
 }
 
 }  // namespace
 
-bool bIsComplete(const NewsItems& items) {
-    return std::all_of(items.begin(), items.end(), [](const NewsItem& item) { return item.bIsComplete(); });
+bool bIsSettled(const NewsItems& items) {
+    return std::all_of(items.begin(), items.end(), [](const NewsItem& item) { return item.bIsSettled(); });
+}
+
+NewsItems Complete(const NewsItems& items) {
+    NewsItems complete;
+    std::copy_if(items.begin(), items.end(), std::back_inserter(complete),
+                 [](const NewsItem& item) { return item.bIsComplete(); });
+    return complete;
 }
 
 NewsItems GatherNews(BKQuoteInterface& backEnd, const std::vector<CHeadlineTable>& entries,
@@ -60,10 +83,8 @@ NewsItems GatherNews(BKQuoteInterface& backEnd, const std::vector<CHeadlineTable
     for (std::size_t i = 0; i < entries.size(); ++i) {
         items[i].entry = entries[i];
         CStory story;
-        if (!backEnd.BKQNEWS_bGetStory(story, entries[i]))
-            continue;
-        items[i].story = form(story);
-        items[i].hasStory = true;
+        if (backEnd.BKQNEWS_bGetStory(story, entries[i]))
+            putStory(items[i], story, form);
     }
     const ItemsByNumber index = byNumber(items);
     for (const unsigned char service : services) {
@@ -89,7 +110,7 @@ void RequestMissing(BKQuoteInterface& backEnd, NewsItems& items) {
             takeTitle(index, headline);
     }
     for (const NewsItem& item : items) {
-        if (!item.hasStory)
+        if (!item.bIsSettled() && !item.hasStory)
             backEnd.BKQNews_bReRequestHeadlineStory(item.entry);
     }
 }
@@ -109,8 +130,14 @@ void TakeTitles(BKQuoteInterface& backEnd, NewsItems& items, const std::vector<C
         for (const CHeadline& headline : headlines)
             takeTitle(untitled, headline);
     }
-    for (const auto& [number, item] : untitled)
+    for (const auto& [number, item] : untitled) {
+        const bool announced = std::any_of(
+            entries.begin(), entries.end(),
+            [&awaited = item->entry](const CHeadlineTable& entry) { return IsSameNews(entry, awaited); });
+        if (announced && !item->hasTitle)
+            takeAnnounced(backEnd, *item);
         takeLateStory(backEnd, *item);
+    }
 }
 
 void TakeStory(BKQuoteInterface& backEnd, NewsItems& items, const CHeadlineTable& entry) {

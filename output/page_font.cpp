@@ -42,6 +42,9 @@ QFont PageFont(BKQuoteInterface& backEnd, int pixelSize, Shaping shaping) {
     QFont font;
     font.setFamilies(QStringList{LangText(backEnd, keys::printFont).left(longestFaceName)} +
                      CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont().families());
+    // Lines are counted in half widths: tables stand in columns where the face counts so too.
+    font.setStyleHint(QFont::Monospace);
+    font.setFixedPitch(true);
     font.setPixelSize(std::max(pixelSize, 1));
     font.setWeight(QFont::Normal);
     if (shaping == Shaping::None)

@@ -162,7 +162,7 @@ std::vector<PrintedPage> LayOutPages(const NewsItems& items, const PageSize& siz
     std::vector<ItemLines> lines;
     for (const NewsItem& item : items) {
         ItemLines& itemLines = lines.emplace_back();
-        for (const QStringView line : TitleLines(item.title))
+        for (const QStringView line : TitleLines(item.title, item.wholeTitle))
             itemLines.title.push_back(line.toString());
         itemLines.pages = BodyPages(item.story);
     }

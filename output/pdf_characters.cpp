@@ -33,6 +33,11 @@ QList<QRawFont> facesOf(const QString& characters, const QFont& font) {
     return faces;
 }
 
+// Not one that stands for another, as a radical does for the ideograph that it looks like.
+bool standsForItself(QChar character) {
+    return character.decompositionTag() == QChar::NoDecomposition;
+}
+
 class DrawnCharacters {
 public:
     DrawnCharacters(const QString& drawn, const QFont& font) {
@@ -40,6 +45,8 @@ public:
                      [](QChar character) { return character >= u' '; });
         QString characters;
         std::copy(known.begin(), known.end(), std::back_inserter(characters));
+        // The first character of a glyph names it.
+        std::stable_partition(characters.begin(), characters.end(), standsForItself);
         for (const QRawFont& face : facesOf(characters, font)) {
             auto& characterOf = glyphs.emplace_back(face, std::map<quint32, QChar>()).second;
             for (const QChar character : characters) {
@@ -51,7 +58,7 @@ public:
 
     // The character that was drawn where the file names this one.
     QChar behind(QChar named) const {
-        if (known.contains(named))
+        if (known.contains(named) && standsForItself(named))
             return named;
         for (const auto& [face, characters] : glyphs) {
             const auto found = characters.find(glyphOf(face, named));

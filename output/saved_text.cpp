@@ -19,9 +19,18 @@ QString converted(BKQuoteInterface& backEnd, const QString& text) {
     return simplified;
 }
 
+void appendWholeTitle(QString& out, const QString& title) {
+    for (const QStringView line : TitleLines(title, true)) {
+        out += line;
+        out += u'\n';
+    }
+    out += u'\n';
+}
+
+// Its line feeds count as a part of it.
 void appendTitle(QString& out, const QString& title) {
     const QString text = title + QStringLiteral("\n\n");
-    const std::vector<QStringView> lines = TitleLines(text);
+    const std::vector<QStringView> lines = TitleLines(text, false);
     const bool whole = lines.front().size() == text.size();
     for (const QStringView line : lines) {
         out += line;
@@ -48,7 +57,8 @@ std::optional<SavedText> WriteNews(BKQuoteInterface& backEnd, const NewsItems& i
         text += u' ' + LangText(backEnd, keys::newsNumber) + u' ' + QString::number(item.entry.sequence) +
                 QStringLiteral("\n\n");
         text += LangText(backEnd, keys::newsTitle);
-        appendTitle(text, converted(backEnd, item.title));
+        const bool whole = item.wholeTitle && type == NewsFileType::Utf8;
+        (whole ? appendWholeTitle : appendTitle)(text, converted(backEnd, item.title));
         text += LangText(backEnd, keys::newsStory);
         appendStory(text, converted(backEnd, item.story));
         text += QString(hyphens, u'-') + u'\n';

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/trv_news_print.h"
 
+#include "output/left_out.h"
 #include "output/page_printing.h"
 #include "output/printable_story.h"
 
@@ -25,7 +26,10 @@ StoryForm TRVNewsPrint::Form() const {
 
 NewsItems TRVNewsPrint::Gather(const std::vector<CHeadlineTable>& entries,
                                const std::vector<unsigned char>& services) const {
-    return GatherNews(backEnd, entries, services, Form());
+    NewsItems items = GatherNews(backEnd, entries, services, Form());
+    for (NewsItem& item : items)
+        item.wholeTitle = wholeTitles;
+    return items;
 }
 
 NewsOutcome TRVNewsPrint::PutOut(NewsItems items, QWidget* parent,
@@ -39,7 +43,7 @@ NewsOutcome TRVNewsPrint::PutOut(NewsItems items, QWidget* parent,
     const std::shared_ptr<bool> here = alive;
     NewsOutcome outcome = OutputAlone(items, parent, target);
     if (*here)
-        vPutOutComplete();
+        vPutOutSettled();
     return outcome;
 }
 
@@ -54,14 +58,34 @@ int TRVNewsPrint::iAwaited() const {
     std::ptrdiff_t awaited = 0;
     for (const Pending& pending : queue)
         awaited += std::count_if(pending.items.begin(), pending.items.end(),
-                                 [](const NewsItem& item) { return !item.bIsComplete(); });
+                                 [](const NewsItem& item) { return !item.bIsSettled(); });
     return static_cast<int>(awaited);
 }
 
+int TRVNewsPrint::iReady() const {
+    std::size_t ready = 0;
+    for (const Pending& pending : queue) {
+        if (!bIsSettled(pending.items))
+            ready += Complete(pending.items).size();
+    }
+    return static_cast<int>(ready);
+}
+
 void TRVNewsPrint::vForgetAwaited() {
-    std::erase_if(queue, [](const Pending& pending) { return !bIsComplete(pending.items); });
+    std::erase_if(queue, [](const Pending& pending) { return !bIsSettled(pending.items); });
     if (onAwaited)
         onAwaited();
+}
+
+void TRVNewsPrint::vPutOutReady() {
+    for (Pending& pending : queue) {
+        if (Complete(pending.items).empty())
+            continue;
+        for (NewsItem& item : pending.items)
+            item.leftOut = !item.bIsComplete();
+    }
+    vForgetAwaited();
+    vPutOutSoon();
 }
 
 void TRVNewsPrint::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
@@ -84,28 +108,28 @@ void TRVNewsPrint::vTakeAnswer() {
 
 // The user may be asked, and the back end's delivery shall not wait for that.
 void TRVNewsPrint::vPutOutSoon() {
-    const bool complete = std::any_of(queue.begin(), queue.end(),
-                                      [](const Pending& pending) { return bIsComplete(pending.items); });
-    if (!complete || std::exchange(soon, true))
+    const bool settled = std::any_of(queue.begin(), queue.end(),
+                                     [](const Pending& pending) { return bIsSettled(pending.items); });
+    if (!settled || std::exchange(soon, true))
         return;
     QTimer::singleShot(0, &parentWindow, [this, here = alive] {
         if (!*here)
             return;
         soon = false;
-        vPutOutComplete();
+        vPutOutSettled();
     });
 }
 
 // From the last list to the first. Lists may come and be completed while one is put out.
-void TRVNewsPrint::vPutOutComplete() {
+void TRVNewsPrint::vPutOutSettled() {
     const std::shared_ptr<bool> here = alive;
     while (*here && !busy) {
-        const auto complete = std::find_if(queue.rbegin(), queue.rend(),
-                                           [](const Pending& pending) { return bIsComplete(pending.items); });
-        if (complete == queue.rend())
+        const auto settled = std::find_if(queue.rbegin(), queue.rend(),
+                                          [](const Pending& pending) { return bIsSettled(pending.items); });
+        if (settled == queue.rend())
             return;
-        const Pending pending = std::move(*complete);
-        queue.erase(std::next(complete).base());
+        const Pending pending = std::move(*settled);
+        queue.erase(std::next(settled).base());
         const NewsOutcome outcome = OutputAlone(pending.items, nullptr, pending.target);
         if (*here && onFinished)
             onFinished(outcome);
@@ -116,9 +140,20 @@ NewsOutcome TRVNewsPrint::OutputAlone(const NewsItems& items, QWidget* parent,
                                       const std::optional<OutputTarget>& target) {
     const std::shared_ptr<bool> here = alive;
     busy = true;
-    const NewsOutcome outcome = Output(items, parent != nullptr ? parent : &parentWindow, target);
+    const NewsOutcome outcome = OutputSettled(items, parent != nullptr ? parent : &parentWindow, target);
     if (*here)
         busy = false;
+    return outcome;
+}
+
+NewsOutcome TRVNewsPrint::OutputSettled(const NewsItems& items, QWidget* parent,
+                                        const std::optional<OutputTarget>& target) {
+    BKQuoteInterface& news = backEnd;
+    const NewsItems complete = Complete(items);
+    if (complete.empty() && !items.empty())
+        return NothingToPutOut(news);
+    NewsOutcome outcome = Output(complete, parent, target);
+    TellLeftOut(news, items.size() - complete.size(), outcome);
     return outcome;
 }
 

@@ -44,6 +44,8 @@ NewsOutcome SaveNewsTo(const OutputTarget& target, BKQuoteInterface& backEnd, co
 
 NewsOutcome TRVNewsPreview::Output(const NewsItems& items, QWidget* parent,
                                    const std::optional<OutputTarget>&) {
+    NewsOutcome outcome;
+    outcome.count = static_cast<int>(items.size());
     PreviewNews(News(), items, parent);
-    return {};
+    return outcome;
 }

@@ -36,7 +36,7 @@ CAdvSearchDlg::CAdvSearchDlg(const CSearch& edited, const KeywordList& keywordPo
                              const RecentSearches& searches, QWidget* parent)
     : KeywordEntryDlg(edited.keywords, keywordPool, {search_ids::removeAll, search_keys::askRemoveAll},
                       parent),
-      condition(edited),
+      condition(ForEverySymbol(edited)),
       recent(searches) {
     SetWindowId(this, search_ids::advancedSearch);
     setWindowTitle(LangText(search_keys::title));

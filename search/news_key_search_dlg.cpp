@@ -53,6 +53,10 @@ CNewsKeySearchDlg::CNewsKeySearchDlg(const KeywordList& keywordPool, const Categ
 }
 
 // Between what belongs together.
+void CNewsKeySearchDlg::vTakeAnyCase() {
+    capitalsNote->hide();
+}
+
 int CNewsKeySearchDlg::nearby() const {
     return fontMetrics().height() / 3;
 }
@@ -109,12 +113,12 @@ QLayout* CNewsKeySearchDlg::pCreateSaving() {
     grid->setColumnStretch(static_cast<int>(methods.size()) + 1, 1);
     saveButton = AddButton(this, search_ids::saveKeySet, LangText(search_keys::addKeySet));
     connect(saveButton, &QPushButton::clicked, this, &CNewsKeySearchDlg::vSave);
-    auto* note = new QLabel(LangText(search_keys::capitalsNote), this);
-    note->setTextFormat(Qt::PlainText);
-    note->setWordWrap(true);
+    capitalsNote = new QLabel(LangText(search_keys::capitalsNote), this);
+    capitalsNote->setTextFormat(Qt::PlainText);
+    capitalsNote->setWordWrap(true);
     auto* column = new QVBoxLayout;
     column->addLayout(grid);
-    column->addWidget(note);
+    column->addWidget(capitalsNote);
     column->addStretch();
     column->addWidget(saveButton);
     return column;

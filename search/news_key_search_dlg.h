@@ -9,6 +9,7 @@ class CCheckListBox;
 class KeySetList;
 class QButtonGroup;
 class QCheckBox;
+class QLabel;
 class QLayout;
 
 // The modal dialog in which the key sets of the relation search are composed, kept, and ticked: a key set is
@@ -21,6 +22,9 @@ public:
     // Works on copies.
     CNewsKeySearchDlg(const KeywordList& pool, const CategoryMap& newsTypes,
                       const std::vector<CNewsKey>& stored, QWidget* parent);
+
+    // The view compares keywords whatever their case: the note that says otherwise goes.
+    void vTakeAnyCase();
 
     // What the caller takes back after OK, besides the pool.
     const std::vector<CNewsKey>& KeySets() const { return keySets; }
@@ -56,6 +60,7 @@ private:
     QCheckBox* allNewsTypes = nullptr;
     KeySetList* keySetList = nullptr;
     QCheckBox* allKeySets = nullptr;
+    QLabel* capitalsNote = nullptr;
     QPushButton* saveButton = nullptr;
     QPushButton* deleteButton = nullptr;
 };

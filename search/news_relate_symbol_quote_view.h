@@ -19,7 +19,7 @@ public:
     // Lists the symbols of a headline. One without a market is that of the first market that has its code.
     void vSetSymbolList(const CNewsSymLst& list);
 
-    // The number of rows; where there are any, also the focused symbol.
+    // For hosts: the number of rows; where there are any, also the focused symbol.
     int GetCurrSymbolInfo(unsigned char& service, QString& code) override;
     void GetCaption(QString& caption) override;
     void vChangeCast() override;

@@ -16,6 +16,11 @@ bool AsksTheSame(const CSearch& a, const CSearch& b) {
     });
 }
 
+CSearch ForEverySymbol(CSearch condition) {
+    condition.symbols.clear();
+    return condition;
+}
+
 void KeepRecentSearch(RecentSearches& recent, const CSearch& condition) {
     const bool known = std::any_of(recent.begin(), recent.end(),
                                    [&](const CSearch& other) { return AsksTheSame(other, condition); });
@@ -23,5 +28,5 @@ void KeepRecentSearch(RecentSearches& recent, const CSearch& condition) {
         return;
     if (recent.size() >= mostRecentSearches)
         recent.erase(recent.begin());
-    recent.push_back(condition);
+    recent.push_back(ForEverySymbol(condition));
 }

@@ -24,14 +24,49 @@ CSearch* SearchDesk::ConditionOf(ListIndex mode) {
     }
 }
 
+const SearchDesk::Sent* SearchDesk::SentFrom(ListIndex list) const {
+    switch (list) {
+        case ListIndex::Search:
+            return &sentOrdinary;
+        case ListIndex::WarningTerm:
+            return &sentWarningTerm;
+        default:
+            return nullptr;
+    }
+}
+
 CSearch SearchDesk::FoundUnder(ListIndex list) const {
-    CSearch found;
-    if (list == ListIndex::Search)
-        found = sentOrdinary;
-    else if (list == ListIndex::WarningTerm)
-        found = sentWarningTerm;
+    const Sent* sent = SentFrom(list);
+    CSearch found = sent != nullptr ? sent->condition : CSearch();
     found.keywordSearch = !found.keywords.empty();
     return found;
+}
+
+std::optional<CSymbolInfo> SearchDesk::Narrowing(ListIndex list) const {
+    const Sent* sent = SentFrom(list);
+    if (sent == nullptr)
+        return std::nullopt;
+    const CSearch& next = list == ListIndex::Search ? ordinary : warningTerm;
+    for (const CSearch* condition : {&sent->condition, &next}) {
+        if (!condition->symbols.empty())
+            return condition->symbols.front();
+    }
+    return std::nullopt;
+}
+
+void SearchDesk::vEndNarrowing(ListIndex list) {
+    const Sent* sent = SentFrom(list);
+    if (sent == nullptr)
+        return;
+    CSearch& condition = *ConditionOf(list);
+    if (!sent->condition.symbols.empty())
+        condition = sent->condition;
+    condition.symbols.clear();
+}
+
+std::optional<SearchDesk::Moment> SearchDesk::SentAt(ListIndex list) const {
+    const Sent* sent = SentFrom(list);
+    return sent != nullptr ? sent->at : std::nullopt;
 }
 
 std::optional<TableKind> SearchDesk::KindOfAnswer(const CSearch& condition) const {
@@ -44,6 +79,8 @@ std::optional<TableKind> SearchDesk::KindOfAnswer(const CSearch& condition) cons
 
 void SearchDesk::vTakeQuickSearch(const QString& word, std::int64_t now) {
     KeepKeyword(history, word);
+    if (ordinary.keywords != std::vector{word})
+        ordinary.symbols.clear();
     ordinary.scope = 0;
     ordinary.method = 1;
     ordinary.time = now;
@@ -70,24 +107,38 @@ void SearchDesk::vCompleteMethod(CSearch& condition) {
         condition.method = 1;
 }
 
-void SearchDesk::vSend(ListIndex mode, std::span<ServiceEntry> services, bool awaited) {
+void SearchDesk::vSend(ListIndex mode, std::span<ServiceEntry> services, bool awaited, const Moment& now) {
     const CSearch* active = ConditionOf(mode);
     if (active == nullptr)
         return;
     const CSearch condition = *active;
-    (mode == ListIndex::Search ? sentOrdinary : sentWarningTerm) = condition;
+    Sent& sent = mode == ListIndex::Search ? sentOrdinary : sentWarningTerm;
+    std::erase_if(due, [&](const auto& search) { return search.first == sent.condition; });
+    sent = {condition, now};
     for (ServiceEntry& entry : services) {
         entry.searchPending = entry.selected && awaited;
-        if (entry.selected)
-            backEnd.BKQNEWS_bSearchNews(entry.service, searchKind, condition);
+        if (!entry.selected)
+            continue;
+        vSent(condition, entry.service);
+        backEnd.BKQNEWS_bSearchNews(entry.service, searchKind, condition);
     }
 }
 
-void SearchDesk::vNarrow(const CSearch& condition, const CSymbolInfo& symbol) {
+void SearchDesk::vSent(const CSearch& condition, unsigned char service) {
+    const std::pair search(condition, service);
+    if (std::find(due.begin(), due.end(), search) == due.end())
+        due.push_back(search);
+}
+
+bool SearchDesk::bTakeAnswerDue(const CSearch& condition, unsigned char service) {
+    return std::erase(due, std::pair(condition, service)) > 0;
+}
+
+void SearchDesk::vNarrow(const CSearch& condition, const CSymbolInfo& symbol, bool warningTermToo) {
     // All of them are found first: `condition` may be one of those that change.
     std::vector<CSearch*> equal;
     for (CSearch* stored : {&ordinary, &second, &warningTerm}) {
-        if (*stored == condition)
+        if (*stored == condition && (stored != &warningTerm || warningTermToo))
             equal.push_back(stored);
     }
     for (CSearch* stored : equal)

@@ -12,6 +12,7 @@
 
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 // The searches of a view: their conditions, what has been sent and is still to be answered, and what is kept
@@ -31,34 +32,60 @@ public:
 
     // The condition that a mode sends; null for a mode without searches.
     CSearch* ConditionOf(ListIndex mode);
+    // A search was sent besides.
+    void vSent(const CSearch& condition, unsigned char service);
+    // A service has answered a condition: true when this view waits for that; it does not any more. Other
+    // answers come by themselves, because the service has found more.
+    bool bTakeAnswerDue(const CSearch& condition, unsigned char service);
+
     // The condition that a list's rows were found under, with its keywords to be marked; empty for others.
     CSearch FoundUnder(ListIndex list) const;
     // The table that holds the answer to a condition; none: no search of this view asked for it.
     std::optional<TableKind> KindOfAnswer(const CSearch& condition) const;
 
+    // The symbol that a list's search is narrowed to: of what was found, else of what will be sent next.
+    std::optional<CSymbolInfo> Narrowing(ListIndex list) const;
+    // What a list's search is narrowed to counts no more: what was found under it is what its mode sends
+    // next, for every symbol.
+    void vEndNarrowing(ListIndex list);
+    // When the search of a list was sent last; none: never.
+    struct Moment {
+        std::int64_t time = 0;        // seconds since 1970
+        std::size_t endedBreaks = 0;  // of the back end's connection, until then
+    };
+    std::optional<Moment> SentAt(ListIndex list) const;
+
     // Makes the word alone the ordinary condition (in headlines, composed at `now`), and keeps it in the
-    // history.
+    // history. Another word than the one in force is not narrowed to a symbol.
     void vTakeQuickSearch(const QString& word, std::int64_t now);
-    // The quick-search words used so far, each once, newest last.
+    // For hosts: the quick-search words used so far, each once, newest last.
     const std::vector<QString>& History() const { return history; }
     // True when the text of the search box is another one than at the previous search.
     bool bTakeSearchText(const QString& text);
-    // What the user reads while answers are awaited: the wait text and the keywords, cut where nobody can
-    // read on.
+    // What the user reads while answers are awaited: the wait text and the keywords, 1,000 characters at
+    // most: a list of keywords can be longer than any screen.
     QString WaitText(const CSearch& condition) const;
 
     // Two keywords or more need a method: all must match unless one is set.
     static void vCompleteMethod(CSearch& condition);
     // Sends the condition of a mode to the selected services; they are pending when `awaited`, all others
-    // are not.
-    void vSend(ListIndex mode, std::span<ServiceEntry> services, bool awaited);
-    // Narrows every condition that equals `condition` to a symbol.
-    void vNarrow(const CSearch& condition, const CSymbolInfo& symbol);
+    // are not. `now` is what SentAt gives from then on.
+    void vSend(ListIndex mode, std::span<ServiceEntry> services, bool awaited, const Moment& now);
+    // Narrows every condition that equals `condition` to a symbol; the one of the warning terms with
+    // `warningTermToo` only.
+    void vNarrow(const CSearch& condition, const CSymbolInfo& symbol, bool warningTermToo);
 
 private:
+    struct Sent {
+        CSearch condition;
+        std::optional<Moment> at;
+    };
+    const Sent* SentFrom(ListIndex list) const;
+
     BKQuoteInterface& backEnd;
-    CSearch sentOrdinary;
-    CSearch sentWarningTerm;
+    Sent sentOrdinary;
+    Sent sentWarningTerm;
+    std::vector<std::pair<CSearch, unsigned char>> due;  // sent, and not answered
     std::vector<QString> history;
     QString previousText;
 };

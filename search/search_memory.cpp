@@ -31,8 +31,10 @@ RecentSearches recentOf(const QStringList& texts) {
     RecentSearches recent;
     for (const QString& text : texts) {
         CSearch condition;
-        if (condition.LoadStringA(text))
-            KeepRecentSearch(recent, condition);
+        if (!condition.LoadStringA(text))
+            continue;
+        condition.keywords = poolOf({condition.keywords.begin(), condition.keywords.end()});
+        KeepRecentSearch(recent, condition);
     }
     return recent;
 }

@@ -13,7 +13,7 @@ const CSearch* WarningItems::Item(int row) const {
 bool WarningItems::Add(const CSearch& item) {
     if (item.keywords.empty())
         return false;
-    items.push_back(item);
+    items.push_back(ForEverySymbol(item));
     return true;
 }
 
@@ -45,7 +45,7 @@ void WarningItems::Choose(int row, CSearch& condition) {
     if (item == nullptr)
         return;
     condition.keywords = item->keywords;
-    condition.symbols = item->symbols;
+    condition.symbols.clear();
     condition.scope = std::min(item->scope, both);
     if (item->method == 1 || item->method == 2)
         condition.method = item->method;

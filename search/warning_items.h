@@ -17,14 +17,14 @@ struct WarningItems {
     // Null out of range.
     const CSearch* Item(int row) const;
 
-    // Appends an item. False, and nothing happens, for one without keywords.
+    // Appends an item, for every symbol. False, and nothing happens, for one without keywords.
     bool Add(const CSearch& item);
     // An item that was edited goes to the end of the list; the number in force goes with its item. False, and
     // nothing happens, when it asks for the same or has no keywords left.
     bool Replace(int row, const CSearch& edited);
     // No item is in force when it was this one.
     void Remove(int row);
-    // Puts an item in force: `condition` takes what the item asks for, except a method that is not known;
-    // what results is kept as an item of its own when it asks for something new.
+    // Puts an item in force: `condition` takes what the item asks for, for every symbol, except a method that
+    // is not known; what results is kept as an item of its own when it asks for something new.
     void Choose(int row, CSearch& condition);
 };

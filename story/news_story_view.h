@@ -36,6 +36,12 @@ public:
     // The row alone; nothing is drawn. A negative position counts as 0.
     void SetHeadLinePos(int position) { reader.SetHeadLinePos(position); }
     int GetHeadLinePos() const { return reader.GetHeadLinePos(); }
+    // Rows have come or gone above the headline shown: the position moves along.
+    void vMoveHeadLinePos(int position) { reader.MoveHeadLinePos(position); }
+    // The headline shown has left the list: it stays on show.
+    void vLeaveHeadline() { reader.LeaveHeadline(); }
+    // The headline shown, while its list has it; nothing: none.
+    const std::optional<CHeadlineTable>& PointedAt() const { return reader.PointedAt(); }
     // The owner's list that the position refers to.
     int iGetTable() const { return reader.iGetTable(); }
 

@@ -25,12 +25,20 @@ constexpr int verticalRoom = 8;
 constexpr int keepPlace = -1;
 constexpr QPoint placeForOrigin(2, 2);  // a tip at (0, 0) would hide its window's corner
 
+// The window that a widget belongs to; a dialog, such as the story window, belongs to that of its parent.
+const QWidget* frameOf(const QWidget* widget) {
+    const QWidget* frame = widget->window();
+    while (frame->windowType() == Qt::Dialog && frame->parentWidget() != nullptr)
+        frame = frame->parentWidget()->window();
+    return frame;
+}
+
 // Right after a dialog no window is active, until the one below it is again.
 bool isOfActiveWindow(const QWidget* widget) {
     const QWidget* active = QApplication::activeWindow();
     if (active == nullptr)
         return widget != nullptr && QGuiApplication::applicationState() == Qt::ApplicationActive;
-    return widget == nullptr || widget->window() == active->window();
+    return widget == nullptr || frameOf(widget) == frameOf(active);
 }
 
 }  // namespace
@@ -47,6 +55,8 @@ bool CQuoteDlgTipMsg::CreateByID(QWidget* parent) {
     label = new CQuoteStaticEx(this);
     SetWindowId(label, story_ids::tipText);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    // Its colours are often those of what lies under it.
+    label->setFrameStyle(QFrame::Box | QFrame::Plain);
     hide();
     vPlace();
     return true;

@@ -35,7 +35,8 @@ public:
 
     // Shows the tip over `parent` with its corner at (left, top) of it, or ending there with `toTheLeft`. -1
     // for either keeps the last place. Nothing happens when the active window is not the one that holds
-    // `parent`; between two windows, as right after a dialog, the one that holds it counts as active.
+    // `parent`, or a dialog of that; between two windows, as right after a dialog, the one that holds it
+    // counts as active.
     void vShow(QWidget* parent, int top, int left, bool toTheLeft);
     void vStop();
     // The text as it is shown, cut where it was too wide.

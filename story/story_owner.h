@@ -9,7 +9,9 @@ class StoryOwner : public EntrySource {
 public:
     // Moves the view's selection to a row of a list.
     virtual bool bChangeNewsPos(int list, int row) = 0;
-    // Prints, saves, the selected rows.
-    virtual void OnPrintNews() = 0;
-    virtual void OnSaveNews() = 0;
+    // The row at which a list has a headline; -1: it has left the list.
+    virtual int iRowOf(int list, const CHeadlineTable& headline) const = 0;
+    // Prints, saves, a headline, whether it is listed or not.
+    virtual void PrintHeadline(const CHeadlineTable& headline) = 0;
+    virtual void SaveHeadline(const CHeadlineTable& headline) = 0;
 };

@@ -18,9 +18,14 @@ void StoryReader::vSetStoryData(int newTable, int newPosition, const CSearch& ne
 
 void StoryReader::SetHeadLinePos(int newPosition) {
     position = std::max(0, newPosition);
-    const auto entry = EntryAtPosition();
-    titleShown = titleShown && entry && bIsPointedAt(*entry);
-    pointedAt = entry;
+    pointedAt = EntryAtPosition();
+}
+
+void StoryReader::MoveHeadLinePos(int newPosition) {
+    if (pointedAt)
+        SetHeadLinePos(newPosition);
+    else
+        position = std::max(0, newPosition);
 }
 
 void StoryReader::RecvNewHeadLine() {
@@ -30,14 +35,14 @@ void StoryReader::RecvNewHeadLine() {
 
 void StoryReader::OnClearStory() {
     pointedAt.reset();
-    titleShown = false;
+    shown.reset();
 }
 
 StoryTexts StoryReader::ShowData() {
     if (source == nullptr || source->iGetHeadlineTableSize(table) < 1)
         return {};
     pointedAt = EntryAtPosition();
-    titleShown = true;
+    shown = pointedAt;
     const QString placeholder = LangText(backEnd, keys::recover);
     if (!pointedAt)
         return {placeholder, placeholder, true};
@@ -49,8 +54,8 @@ StoryTexts StoryReader::ShowData() {
 }
 
 StoryTexts StoryReader::RespHeadLine(const std::vector<CHeadlineTable>& entries) const {
-    const auto entry = EntryAtPosition();
-    if (!entry || !bIsPointedAt(*entry) || !titleShown)
+    const auto entry = Awaited();
+    if (!entry || !bTitleIsShown())
         return {};
     const bool answered = std::any_of(entries.begin(), entries.end(), [&](const CHeadlineTable& candidate) {
         return IsSameNews(candidate, *entry);
@@ -59,17 +64,16 @@ StoryTexts StoryReader::RespHeadLine(const std::vector<CHeadlineTable>& entries)
 }
 
 StoryTexts StoryReader::RespStory(const CHeadlineTable& answered) {
-    const auto entry = EntryAtPosition();
+    const auto entry = Awaited();
     CStory story;
-    if (!entry || !bIsPointedAt(*entry) || !IsSameNews(answered, *entry) ||
-        !backEnd.BKQNEWS_bGetStory(story, answered))
+    if (!entry || !IsSameNews(answered, *entry) || !backEnd.BKQNEWS_bGetStory(story, answered))
         return {};
     StoryTexts texts;
     texts.story = story.text.isEmpty() ? DatedText(story.time, LangText(backEnd, keys::noStory))
                                        : TextOf(story, entry->service, BodyEnd::Answered);
-    if (!titleShown)
+    if (!bTitleIsShown())
         texts.title = TitleOf(*entry).value_or(LangText(backEnd, keys::recover));
-    titleShown = true;
+    shown = entry;
     return texts;
 }
 
@@ -84,8 +88,15 @@ std::optional<CHeadlineTable> StoryReader::EntryAtPosition() const {
     return entry;
 }
 
-bool StoryReader::bIsPointedAt(const CHeadlineTable& entry) const {
-    return pointedAt && IsSameNews(*pointedAt, entry);
+std::optional<CHeadlineTable> StoryReader::Awaited() const {
+    if (follows == Follows::Headline)
+        return pointedAt;
+    const auto entry = EntryAtPosition();
+    return entry && pointedAt && IsSameNews(*pointedAt, *entry) ? entry : std::nullopt;
+}
+
+bool StoryReader::bTitleIsShown() const {
+    return shown && pointedAt && IsSameNews(*shown, *pointedAt);
 }
 
 // The title as it is to be shown; none while the headline is not at hand with any active service. A dated

@@ -27,12 +27,17 @@ struct StoryTexts {
 // The reading half of a story display: where in its owner's headline lists it stands, and which texts follow
 // from that. The display only draws. Interface thread only.
 //
-// The headline at the position is the one last shown or pointed at: an answer counts only while the owner's
-// list still has that headline there, so that a list that was rebuilt meanwhile shows nothing wrong.
+// The headline at the position is the one last shown or pointed at. Where the display follows its row, an
+// answer counts only while the owner's list still has that headline there, so that a list that was rebuilt
+// meanwhile shows nothing wrong. Where it follows its headline, the answer counts wherever the headline
+// stands by then.
 class StoryReader {
 public:
+    enum class Follows { Row, Headline };
+
     // `newsSource` outlives the reader.
-    explicit StoryReader(BKQuoteInterface& newsSource) : backEnd(newsSource) {}
+    explicit StoryReader(BKQuoteInterface& newsSource, Follows followed = Follows::Row)
+        : backEnd(newsSource), follows(followed) {}
 
     // Whose headlines are read; not owned, null: none.
     void vSetSource(const EntrySource* owner) { source = owner; }
@@ -42,7 +47,16 @@ public:
     // A negative position counts as 0.
     void SetHeadLinePos(int newPosition);
     int GetHeadLinePos() const { return position; }
+    // Rows have come or gone above: the position moves along with the headline that is pointed at. Without
+    // one the position alone moves.
+    void MoveHeadLinePos(int newPosition);
+    // The headline pointed at has left the list: what is shown stays, and nothing answers for it.
+    void LeaveHeadline() { pointedAt.reset(); }
     int iGetTable() const { return table; }
+    // The headline that answers are for; nothing: none.
+    const std::optional<CHeadlineTable>& PointedAt() const { return pointedAt; }
+    // The headline whose title is on show; nothing: none.
+    const std::optional<CHeadlineTable>& Shown() const { return shown; }
     // A headline was inserted above: the position moves down with its headline.
     void RecvNewHeadLine();
     // Nothing is shown: answers are ignored until the reader is pointed at a headline again.
@@ -62,15 +76,18 @@ public:
 
 private:
     std::optional<CHeadlineTable> EntryAtPosition() const;
-    bool bIsPointedAt(const CHeadlineTable& entry) const;
+    // The headline that answers are for.
+    std::optional<CHeadlineTable> Awaited() const;
+    bool bTitleIsShown() const;
     std::optional<QString> TitleOf(const CHeadlineTable& entry) const;
     QString TextOf(const CStory& story, unsigned char service, BodyEnd end) const;
 
     BKQuoteInterface& backEnd;
+    Follows follows;
     const EntrySource* source = nullptr;
     CSearch condition;
     int table = 0;
     int position = 0;
     std::optional<CHeadlineTable> pointedAt;
-    bool titleShown = false;  // the title of `pointedAt` is what the display shows
+    std::optional<CHeadlineTable> shown;
 };

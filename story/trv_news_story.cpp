@@ -50,7 +50,7 @@ TRVNewsStory::TRVNewsStory(StoryOwner* storyOwner, CMainFrame* frame, QWidget* p
     : QDialog(parent),
       owner(storyOwner),
       mainFrame(frame),
-      reader(*BKQuoteInterface::GetBKInterface()),
+      reader(*BKQuoteInterface::GetBKInterface(), StoryReader::Follows::Headline),
       titleEdit(new MyRichEdit(this)),
       storyEdit(new MyRichEdit(this)),
       notice(new CQuoteStaticEx(this)) {
@@ -72,7 +72,6 @@ TRVNewsStory::TRVNewsStory(StoryOwner* storyOwner, CMainFrame* frame, QWidget* p
 void TRVNewsStory::vCreateButtons() {
     for (std::size_t i = 0; i < buttons.size(); ++i) {
         buttons[i] = new SButton(this);
-        buttons[i]->setAutoDefault(false);
         SetWindowId(buttons[i], storyButtons[i].id);
         buttons[i]->setHidden(owner == nullptr);
         connect(buttons[i], &SButton::clicked, this, storyButtons[i].clicked);
@@ -160,11 +159,7 @@ void TRVNewsStory::vPage(int step) {
         position = size - 1;
     reader.SetHeadLinePos(position);
     vShowData();
-    bSelectInOwner();
-}
-
-bool TRVNewsStory::bSelectInOwner() {
-    return owner != nullptr && owner->bChangeNewsPos(iGetTable(), GetHeadLinePos());
+    owner->bChangeNewsPos(iGetTable(), position);
 }
 
 void TRVNewsStory::OnBtnPageDown() {
@@ -176,13 +171,21 @@ void TRVNewsStory::OnBtnPageUp() {
 }
 
 void TRVNewsStory::OnBtnPrint() {
-    if (bSelectInOwner())
-        owner->OnPrintNews();
+    vPutOutShown(&StoryOwner::PrintHeadline);
 }
 
 void TRVNewsStory::OnBtnSaveas() {
-    if (bSelectInOwner())
-        owner->OnSaveNews();
+    vPutOutShown(&StoryOwner::SaveHeadline);
+}
+
+// Headlines that arrived, or a list that was read anew, may have moved the headline away from the position.
+void TRVNewsStory::vPutOutShown(void (StoryOwner::*putOut)(const CHeadlineTable&)) {
+    const std::optional<CHeadlineTable> headline = reader.Shown();
+    if (owner == nullptr || !headline)
+        return;
+    if (const int row = owner->iRowOf(iGetTable(), *headline); row >= 0)
+        owner->bChangeNewsPos(iGetTable(), row);
+    (owner->*putOut)(*headline);
 }
 
 // --- The main frame's texts ---

@@ -51,7 +51,8 @@ public:
     // To the next, the previous headline of the list, round and round; the owner's selection follows.
     void OnBtnPageDown();
     void OnBtnPageUp();
-    // Moves the owner's selection to this headline and has it printed, saved.
+    // Moves the owner's selection to the headline on show, wherever its list has it by now, and has it
+    // printed, saved; one that has left the list is put out all the same.
     void OnBtnPrint();
     void OnBtnSaveas();
 
@@ -75,7 +76,7 @@ private:
     void vShowStory(const QString& text);
     void vSetNotice(const QString& text);
     void vPage(int step);
-    bool bSelectInOwner();
+    void vPutOutShown(void (StoryOwner::*putOut)(const CHeadlineTable&));
 
     StoryOwner* owner;
     CMainFrame* mainFrame;

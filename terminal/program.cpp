@@ -3,6 +3,7 @@
 #include "terminal/program.h"
 
 #include "terminal/commands/check_command.h"
+#include "terminal/commands/console.h"
 #include "terminal/commands/export_command.h"
 #include "terminal/commands/feed_command.h"
 #include "terminal/commands/import_command.h"
@@ -67,7 +68,7 @@ int runProgram(int argc, char** argv) {
                 application = std::make_unique<QCoreApplication>(argc, argv);
             }
             nameApplication();
-            return command.run();
+            return statusOfOutput(command.run());
         }
     }
     if (wantsOffscreen(argc, argv) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -78,7 +79,7 @@ int runProgram(int argc, char** argv) {
     nameApplication();
     QGuiApplication::setDesktopFileName(u"wirepane"_s);
     QGuiApplication::setWindowIcon(programIcon());
-    return runTerminal();
+    return statusOfOutput(runTerminal());
 }
 
 }  // namespace wirepane

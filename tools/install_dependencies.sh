@@ -8,10 +8,10 @@ packages=(
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n libgl-dev
     libsqlite3-dev libopencc-dev libopencc-data
     libgtest-dev libbenchmark-dev
-    fonts-dejavu-core fonts-liberation fonts-noto-cjk tzdata
+    fonts-dejavu-core fonts-liberation fonts-noto-cjk fonts-noto-mono tzdata
 )
 if [ "${1:-}" = "--with-checks" ]; then
-    packages+=(clang-format-14 clang-tidy-14 poppler-utils)
+    packages+=(clang-format-14 clang-tidy-14 poppler-utils lintian)
 fi
 
 missing=()

@@ -57,6 +57,12 @@ public:
     bool has(QLatin1StringView name) const {
         return !fields.value(name).isNull() && !fields.value(name).isUndefined();
     }
+    // False where it is missing.
+    bool flag(QLatin1StringView name) {
+        if (has(name) && !fields.value(name).isBool())
+            fail(name, u"is neither true nor false"_s);
+        return fields.value(name).toBool();
+    }
     QJsonArray list(QLatin1StringView name) {
         if (has(name) && !fields.value(name).isArray())
             fail(name, u"is not a list"_s);
@@ -88,6 +94,8 @@ Result<StoreItem> itemFrom(const QJsonObject& object) {
         item.sequence = static_cast<std::int32_t>(fields.number("sequence"_L1, -mostNumber - 1, mostNumber));
     if (fields.has("story"_L1))
         item.story = fields.text("story"_L1);
+    else if (fields.flag("storyFollows"_L1))
+        item.story.reset();
     if (fields.has("category"_L1))
         item.category = fields.text("category"_L1);
     const QJsonArray related = fields.list("related"_L1);
@@ -168,7 +176,9 @@ QByteArray itemLine(const NewsItem& item, const QString& position) {
     QJsonObject object{{u"service"_s, item.service}, {u"identity"_s, item.identity},
                        {u"version"_s, item.version}, {u"time"_s, qint64(item.time)},
                        {u"title"_s, item.title},     {u"category"_s, item.category}};
-    if (item.story)
+    if (!item.story)
+        object[u"storyFollows"_s] = true;
+    else if (!item.story->isEmpty())
         object[u"story"_s] = *item.story;
     if (item.sequence)
         object[u"sequence"_s] = *item.sequence;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/feed_source.h"
 
-#include <algorithm>
 #include <variant>
 
 namespace wirepane {
@@ -44,11 +43,7 @@ private:
             ++outcome.totals.alreadyThere;
         } else {
             ++outcome.totals.takenIn;
-            if (const auto* news = std::get_if<NewsItem>(&item.content.value())) {
-                ++outcome.news;
-                const auto [known, isNew] = outcome.newest.try_emplace(news->service, news->time);
-                known->second = std::max(known->second, news->time);
-            }
+            outcome.news += std::holds_alternative<NewsItem>(item.content.value()) ? 1 : 0;
         }
     }
 

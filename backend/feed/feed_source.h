@@ -5,7 +5,6 @@
 #include "backend/import/import_job.h"
 #include "backend/import/reading.h"
 
-#include <map>
 #include <optional>
 #include <vector>
 
@@ -17,7 +16,6 @@ struct PortionOutcome {
     qint64 news = 0;                    // taken in, of the totals
     std::vector<Rejection> rejections;  // the first mostRejections of them
     std::optional<QString> fault;       // the portion as a whole cannot be read: nothing of it was taken
-    std::map<unsigned char, std::int64_t> newest;  // by service: the latest time of the news taken in
 
     static constexpr std::size_t mostRejections = 1000;
 };

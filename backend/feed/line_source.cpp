@@ -9,8 +9,8 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 namespace {
-constexpr std::size_t mostLines = 1000;         // of a portion
-constexpr qint64 mostBytes = 32 * 1024 * 1024;  // of a portion, about
+constexpr std::size_t mostLines = 1000;   // of a portion
+constexpr qint64 mostBytes = 512 * 1024;  // of a portion, about
 }  // namespace
 
 void LineSource::add(const QByteArray& line) {
@@ -24,6 +24,7 @@ void LineSource::add(const QByteArray& line) {
             return;
         }
     }
+    waitingBytes += line.size();
     lines.emplace_back(line);
 }
 
@@ -36,7 +37,12 @@ Done LineSource::read(const ItemVisitor& visit) {
     portion = 0;
     lastPosition.clear();
     qint64 bytes = 0;
-    while (portion < std::min(mostLines, lines.size()) && bytes < mostBytes) {
+    const auto begin = std::chrono::steady_clock::now();
+    const auto isEnough = [&] {
+        return portion >= mostLines || bytes >= mostBytes ||
+               std::chrono::steady_clock::now() - begin >= longest;
+    };
+    while (portion < lines.size() && (portion == 0 || !isEnough())) {
         const Result<QByteArray>& line = lines[portion];
         ++portion;
         const QString place = u"line %1"_s.arg(settled + static_cast<qint64>(portion));
@@ -62,7 +68,10 @@ Done LineSource::read(const ItemVisitor& visit) {
 }
 
 void LineSource::settle(const PortionOutcome& outcome) {
-    lines.erase(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(portion));
+    const auto end = lines.begin() + static_cast<std::ptrdiff_t>(portion);
+    for (auto line = lines.begin(); line != end; ++line)
+        waitingBytes -= *line ? line->value().size() : 0;
+    lines.erase(lines.begin(), end);
     settled += static_cast<qint64>(portion);
     portion = 0;
     if (tell)

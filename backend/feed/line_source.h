@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 
+#include <chrono>
 #include <deque>
 #include <functional>
 
@@ -22,14 +23,20 @@ public:
         PortionOutcome outcome;
     };
 
-    // `service` is that of records before which no greeting names one.
-    explicit LineSource(unsigned char service = 1) { hello.service = service; }
+    // `service` is that of records before which no greeting names one. A portion ends with the line during
+    // which it has taken longer than `longestTaking`.
+    explicit LineSource(unsigned char service = 1,
+                        std::chrono::milliseconds longestTaking = std::chrono::hours(1))
+        : longest(longestTaking) {
+        hello.service = service;
+    }
 
     // The next line; a greeting counts only before the first item.
     void add(const QByteArray& line);
     // In place of a line that was passed over.
     void addRejected(const QString& reason);
-    std::size_t waiting() const { return lines.size(); }
+    // Enough waits for a while: whoever brings lines had better stop until some are settled.
+    bool isFull() const { return lines.size() >= mostWaiting || waitingBytes >= mostWaitingBytes; }
 
     void onHello(std::function<void(const FeedHello&)> callback) { greet = std::move(callback); }
     void onReceipt(std::function<void(const Receipt&)> callback) { tell = std::move(callback); }
@@ -43,8 +50,13 @@ public:
     void settle(const PortionOutcome& outcome) override;
 
 private:
+    static constexpr std::size_t mostWaiting = 4000;  // lines
+    static constexpr qint64 mostWaitingBytes = 512 * 1024;
+
+    std::chrono::milliseconds longest;
     FeedHello hello;
     std::deque<Result<QByteArray>> lines;
+    qint64 waitingBytes = 0;
     std::size_t portion = 0;  // lines of the portion that was read last
     qint64 settled = 0;       // lines
     bool begun = false;       // an item has come

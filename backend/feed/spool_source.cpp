@@ -29,22 +29,39 @@ bool isUnfinished(const QString& name) {
            name.endsWith(".filepart"_L1);
 }
 
-// "a.json" and 2 give "a-2.json".
-QString numbered(const QString& name, int number) {
-    if (number == 1)
-        return name;
-    const qsizetype dot = name.lastIndexOf(u'.');
-    const qsizetype end = dot > 0 ? dot : name.size();
-    return u"%1-%2%3"_s.arg(name.left(end)).arg(number).arg(name.mid(end));
-}
-
 QString reasonFile(const QString& path) {
     return path + u".reason.txt"_s;
+}
+
+// The text without so many of its last characters that it takes no more bytes than this in a file name.
+QString shortened(QString text, qsizetype bytes) {
+    while (QFile::encodeName(text).size() > bytes)
+        text.chop(text.size() > 1 && text.back().isLowSurrogate() ? 2 : 1);
+    return text;
+}
+
+// "a.json" and 2 give "a-2.json". A name that leaves no room for the number and for what its reason file is
+// called besides is cut.
+QString numbered(const QString& name, int number) {
+    constexpr qsizetype longestName = 255;   // bytes
+    constexpr qsizetype longestEnding = 20;  // characters, of what counts as one
+    const qsizetype room = longestName - QFile::encodeName(reasonFile({})).size();
+    qsizetype dot = name.lastIndexOf(u'.');
+    if (dot <= 0 || name.size() - dot > longestEnding)
+        dot = name.size();
+    const QString ending = (number > 1 ? u"-%1"_s.arg(number) : QString()) + name.mid(dot);
+    return shortened(name.left(dot), room - QFile::encodeName(ending).size()) + ending;
 }
 
 // Whether something of this name is there, a broken link included.
 bool isTaken(const QString& path) {
     return QFileInfo::exists(path) || QFileInfo(path).isSymLink();
+}
+
+// What is moved through a link lands where whoever made the link wants it.
+bool isOwnFolder(const QString& path) {
+    const QFileInfo info(path);
+    return info.isDir() && !info.isSymLink();
 }
 
 QString reasonsOf(const PortionOutcome& outcome) {
@@ -65,6 +82,9 @@ Result<std::unique_ptr<SpoolSource>> SpoolSource::open(const QString& folder, co
     for (const QString& name : {u"done"_s, u"rejected"_s}) {
         if (!spool.mkpath(name))
             return Error{u"The spool folder %1 cannot be used: the folder %2 in it cannot be made."_s.arg(
+                QDir::toNativeSeparators(folder), name)};
+        if (!isOwnFolder(spool.filePath(name)))
+            return Error{u"The spool folder %1 cannot be used: %2 in it is a link."_s.arg(
                 QDir::toNativeSeparators(folder), name)};
     }
     return std::unique_ptr<SpoolSource>(new SpoolSource(spool.absolutePath(), options));
@@ -147,7 +167,7 @@ void SpoolSource::settle(const PortionOutcome& outcome) {
 void SpoolSource::moveAway(const QString& subfolder, const QString& reasons) {
     const QDir target(QDir(folder).filePath(subfolder));
     const QString path = QDir(folder).filePath(current);
-    for (int number = 1; number < mostNames; ++number) {
+    for (int number = 1; isOwnFolder(target.path()) && number < mostNames; ++number) {
         const QString moved = target.filePath(numbered(current, number));
         if (isTaken(moved) || isTaken(reasonFile(moved)))
             continue;

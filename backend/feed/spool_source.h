@@ -22,7 +22,7 @@ struct SpoolOptions {
 // A folder into which files of news are put, of any format that can be imported. Each is taken whole, oldest
 // first (then by name), and moved to the folder "done" inside; one that cannot be read, or of which nothing
 // can be taken, is moved to "rejected". Reasons stand beside it in NAME.reason.txt. A name that is there
-// already gets a number.
+// already gets a number, one that leaves no room for that is cut. A folder that is a link is not used.
 //
 // Not taken: names that start with "." or end with ".part", ".tmp" or ".filepart", and files that were
 // changed or are being written. Folders are left alone; whatever else is no file (a link, a pipe) is

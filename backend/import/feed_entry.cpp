@@ -52,7 +52,7 @@ constexpr std::array meanings{
     Meaning{Vocabulary::Own, QLatin1StringView("title"), Role::Title},
     Meaning{Vocabulary::DublinCore, QLatin1StringView("title"), Role::OtherTitle},
     Meaning{Vocabulary::Own, QLatin1StringView("content"), Role::Content, FeedTextKind::Stated},
-    Meaning{Vocabulary::ContentModule, QLatin1StringView("encoded"), Role::Content},
+    Meaning{Vocabulary::ContentModule, QLatin1StringView("encoded"), Role::Content, FeedTextKind::Markup},
     Meaning{Vocabulary::Xhtml, QLatin1StringView("body"), Role::Content},
     Meaning{Vocabulary::Own, QLatin1StringView("fullitem"), Role::Content},
     Meaning{Vocabulary::Own, QLatin1StringView("summary"), Role::Summary, FeedTextKind::Stated},
@@ -169,8 +169,7 @@ Result<StoreItem> feedItem(const FeedEntry& entry, const FeedEntry& feed, unsign
     if (const auto fault = faultOfIdentity(item.identity, u"entry's identity"))
         return Error{*fault};
     const QString story = wireForm(entry.content.isEmpty() ? entry.summary : entry.content);
-    if (!story.isEmpty())
-        item.story = story;
+    item.story = story;
     item.title = !entry.title.isEmpty() ? entry.title : entry.otherTitle;
     if (item.title.isEmpty())
         item.title = titleFromStory(story);

@@ -40,7 +40,7 @@ QString feedText(XmlSource& xml, FeedTextKind kind) {
         return plainText(content.markup);
     if (mode == "base64"_L1 || (mode.isEmpty() && isBinaryType(type)))
         return plainText(QString::fromUtf8(QByteArray::fromBase64(content.text.toUtf8())));
-    if (type.contains("html"_L1) && type != "xhtml"_L1)
+    if (kind == FeedTextKind::Markup || (type.contains("html"_L1) && type != "xhtml"_L1))
         return plainText(content.text);
     const bool stated = kind == FeedTextKind::Stated || !type.isEmpty();
     const QString text = withoutIndents(content.text);

@@ -8,9 +8,10 @@ namespace wirepane {
 
 class XmlSource;
 
-// Whether a text element of a feed says what form it has.
+// What a feed says of the form of a text element.
 enum class FeedTextKind {
     Stated,   // Atom: the attributes "type" and "mode" say it, and text is the default
+    Markup,   // escaped markup
     Unknown,  // RSS: text or escaped markup
 };
 

@@ -104,8 +104,7 @@ Result<NewsItem> mappedItem(const Mapping& mapping, const MappedRow& row, unsign
         return Error{owner.error()};
     item.service = owner.value();
     const QString story = storyOf(row, mapping);
-    if (!story.isEmpty())
-        item.story = story;
+    item.story = story;
     item.title = titleOf(row, mapping, story);
     if (item.title.isEmpty())
         return Error{u"The row has no title and no text to make one from."_s};

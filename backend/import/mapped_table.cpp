@@ -6,11 +6,11 @@
 #include "backend/import/json_list.h"
 #include "backend/import/mapped_row.h"
 #include "backend/import/source_format.h"
+#include "backend/import/text_encoding.h"
 #include "backend/import/wire_form.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -24,7 +24,7 @@ std::optional<QString> textIn(const QByteArray& source, const QStringList& encod
     if (encodings.isEmpty())
         return decodedText(source);
     for (const QString& name : encodings) {
-        QStringDecoder decoder(name.toLatin1().constData());
+        QStringDecoder decoder = decoderOf(name.toLatin1());
         QString text = decoder(source);
         if (!decoder.hasError())
             return text;

@@ -50,12 +50,25 @@ int& partOf(TimeForm::Parts& parts, QChar letter) {
     }
 }
 
+// The moment at which a clock in the zone shows this.
+std::int64_t momentOf(const QDate& date, const QTime& time, const QTimeZone& zone) {
+    return QDateTime(date, time, zone).toSecsSinceEpoch();
+}
+
 std::optional<std::int64_t> moment(const TimeForm::Parts& parts, int yearsFrom, const QTimeZone& zone) {
     const QDate date(parts.year.value_or(0) + yearsFrom, parts.month, parts.day);
     const QTime time(parts.hour, parts.minute, parts.second);
     if (!date.isValid() || !time.isValid())
         return std::nullopt;
-    const std::int64_t seconds = QDateTime(date, time, zone).toSecsSinceEpoch();
+    const std::int64_t seconds = momentOf(date, time, zone);
+    return isNewsTime(seconds) ? std::optional(seconds) : std::nullopt;
+}
+
+// A zone in the text goes before the mapping's.
+std::optional<std::int64_t> moment(const StatedTime& stated, const QTimeZone& zone) {
+    const QDateTime wallClock = QDateTime::fromSecsSinceEpoch(stated.wallClock, Qt::UTC);
+    const std::int64_t seconds =
+        stated.hasZone ? stated.moment() : momentOf(wallClock.date(), wallClock.time(), zone);
     return isNewsTime(seconds) ? std::optional(seconds) : std::nullopt;
 }
 
@@ -103,21 +116,27 @@ Result<std::int64_t> MappedTime::read(const QString& date, const QString& clock)
     if (date.isEmpty())
         return Error{u"The row has no date."_s};
     TimeForm::Parts parts;
+    int yearsToAdd = yearsFrom;
     if (!dateForm) {
-        const auto time = newsTime(date);
-        const QDateTime utc = QDateTime::fromSecsSinceEpoch(time.value_or(0), Qt::UTC);
-        // A zone in the text goes before the mapping's, and a time in it before that of another column.
-        if (!time || utc.time() != QTime(0, 0) || date.size() > 10)
+        const auto stated = statedTime(date);
+        if (!stated)
+            return unreadable(date);
+        // A time of day in the text goes before that of another column.
+        if (stated->hasClock || stated->hasZone || clock.isEmpty()) {
+            const auto time = moment(*stated, zone);
             return time ? Result<std::int64_t>(*time) : unreadable(date);
-        parts.year = utc.date().year() - yearsFrom;
-        parts.month = utc.date().month();
-        parts.day = utc.date().day();
+        }
+        const QDate day = QDateTime::fromSecsSinceEpoch(stated->wallClock, Qt::UTC).date();
+        parts.year = day.year();
+        parts.month = day.month();
+        parts.day = day.day();
+        yearsToAdd = 0;
     } else if (!dateForm->read(date, parts)) {
         return unreadable(date);
     }
     if (!clock.isEmpty() && !(clockForm && clockForm->read(clock, parts)))
         return unreadable(clock);
-    const auto time = moment(parts, yearsFrom, zone);
+    const auto time = moment(parts, yearsToAdd, zone);
     return time ? Result<std::int64_t>(*time) : unreadable(clock.isEmpty() ? date : date + u' ' + clock);
 }
 

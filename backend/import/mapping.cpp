@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/mapping.h"
 
+#include "backend/import/text_encoding.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QStringDecoder>
 
 namespace wirepane {
 
@@ -199,7 +200,7 @@ QChar readSeparator(MappingFields& fields) {
 QStringList readEncodings(MappingFields& fields) {
     const QStringList names = fields.texts("encodings"_L1);
     for (const QString& name : names) {
-        if (!QStringDecoder(name.toLatin1().constData()).isValid())
+        if (!decoderOf(name.toLatin1()).isValid())
             fields.complain("encodings"_L1, u"names “%1”, which is not known here"_s.arg(name));
     }
     return names;

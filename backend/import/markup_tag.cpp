@@ -96,6 +96,69 @@ constexpr std::array<KnownTag, 68> knownTags{{
     {"title", TagEffect::Hidden},
 }};
 
+// Tags whose names may as well stand between such brackets in plain text, as the symbol of a company does
+// ("<VIDEO>"): where it is not said that a text is markup they count when they close or say more than their
+// name. What is drawn, framed or kept for later is no text; what stands in a player is shown where there is
+// none.
+constexpr std::array<KnownTag, 56> furtherTags{{
+    {"area", none},
+    {"base", none},
+    {"bdi", none},
+    {"bdo", none},
+    {"col", none},
+    {"data", none},
+    {"dfn", none},
+    {"embed", none},
+    {"input", none},
+    {"label", none},
+    {"link", none},
+    {"map", none},
+    {"mark", none},
+    {"meta", none},
+    {"meter", none},
+    {"output", none},
+    {"param", none},
+    {"picture", none},
+    {"progress", none},
+    {"rp", none},
+    {"rt", none},
+    {"ruby", none},
+    {"source", none},
+    {"time", none},
+    {"track", none},
+    {"audio", block},
+    {"button", block},
+    {"canvas", block},
+    {"colgroup", block},
+    {"details", block},
+    {"dialog", block},
+    {"dir", block},
+    {"fieldset", block},
+    {"frameset", block},
+    {"head", block},
+    {"hgroup", block},
+    {"legend", block},
+    {"menu", block},
+    {"noscript", block},
+    {"object", block},
+    {"optgroup", block},
+    {"search", block},
+    {"select", block},
+    {"summary", block},
+    {"tbody", block},
+    {"textarea", block},
+    {"tfoot", block},
+    {"thead", block},
+    {"video", block},
+    {"option", TagEffect::Gap},
+    {"iframe", TagEffect::Hidden},
+    {"math", TagEffect::Hidden},
+    {"noembed", TagEffect::Hidden},
+    {"noframes", TagEffect::Hidden},
+    {"svg", TagEffect::Hidden},
+    {"template", TagEffect::Hidden},
+}};
+
 bool isLetter(QChar c) {
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
 }
@@ -104,11 +167,18 @@ bool isNamePart(QChar c) {
     return c.isLetterOrNumber() || c == u':' || c == u'-' || c == u'_' || c == u'.';
 }
 
-const KnownTag* knownTag(QStringView name) {
-    const auto* found = std::find_if(knownTags.begin(), knownTags.end(), [&](const KnownTag& tag) {
+template <std::size_t size>
+const KnownTag* tagOf(const std::array<KnownTag, size>& tags, QStringView name) {
+    const auto* found = std::find_if(tags.begin(), tags.end(), [&](const KnownTag& tag) {
         return name.compare(QLatin1StringView(tag.name), Qt::CaseInsensitive) == 0;
     });
-    return found == knownTags.end() ? nullptr : found;
+    return found == tags.end() ? nullptr : found;
+}
+
+// Whether a tag whose name ends before `rest` says more than its name.
+bool saysMore(QStringView rest) {
+    const auto* first = std::find_if_not(rest.begin(), rest.end(), [](QChar c) { return c.isSpace(); });
+    return first != rest.begin() && first != rest.end() && *first != u'>';
 }
 
 // Index behind the first `mark` from `start` on, or the end of the text.
@@ -153,11 +223,15 @@ MarkupTag MarkupTags::tagAt(qsizetype start) {
         tag.name = nameAndMore.first(nameEnd - nameAndMore.begin());
         if (tag.name.isEmpty() || !isLetter(tag.name.front()))
             return tag;
-        const KnownTag* known = knownTag(tag.name);
+        const KnownTag* known = tagOf(knownTags, tag.name);
+        const KnownTag* further = known == nullptr ? tagOf(furtherTags, tag.name) : nullptr;
+        if (which == Tags::All || tag.closing || saysMore(nameAndMore.sliced(tag.name.size())))
+            known = known != nullptr ? known : further;
         if (known == nullptr && which == Tags::KnownOnly)
             return tag;
         tag.end = endOfTag(start + 1);
         tag.effect = known != nullptr ? known->effect : TagEffect::None;
+        tag.isEmpty = tag.end >= 2 && text.at(tag.end - 2) == u'/';
     }
     return tag;
 }

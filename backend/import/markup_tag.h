@@ -18,6 +18,7 @@ struct MarkupTag {
     QStringView name;   // as written; empty for comments and declarations
     qsizetype end = 0;  // index behind the tag
     bool closing = false;
+    bool isEmpty = false;  // written as one that has no content ("<br/>")
     TagEffect effect = TagEffect::None;
 };
 

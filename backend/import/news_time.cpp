@@ -35,8 +35,6 @@ constexpr std::array<Zone, 27> zones{{
 }};
 
 std::optional<int> zoneMinutes(QStringView zone) {
-    if (zone.isEmpty())
-        return 0;
     if (zone.front() == u'+' || zone.front() == u'-') {
         const QStringView digits = zone.sliced(1);
         const int hours = digits.first(2).toInt();
@@ -56,29 +54,30 @@ int numberOr(const QRegularExpressionMatch& match, const QString& group, int oth
     return text.isEmpty() ? otherwise : text.toInt();
 }
 
-std::optional<std::int64_t> moment(const QRegularExpressionMatch& match, int year, int month) {
+std::optional<StatedTime> stated(const QRegularExpressionMatch& match, int year, int month) {
     const QDate day(year, month, numberOr(match, u"day"_s, 1));
     const int hour = numberOr(match, u"hour"_s, 0);
     const int minute = numberOr(match, u"minute"_s, 0);
     const int second = numberOr(match, u"second"_s, 0);
-    const auto offset = zoneMinutes(match.capturedView(u"zone"_s));
+    const QStringView zone = match.capturedView(u"zone"_s);
+    const auto offset = zone.isEmpty() ? std::optional(0) : zoneMinutes(zone);
     if (!day.isValid() || hour > 24 || minute > 59 || second > 60 || !offset)
         return std::nullopt;
     const std::int64_t dayStart = day.startOfDay(Qt::UTC).toSecsSinceEpoch();
-    const std::int64_t time = dayStart + hour * 3600 + minute * 60 + second - *offset * 60;
-    return isNewsTime(time) ? std::optional(time) : std::nullopt;
+    return StatedTime{dayStart + hour * 3600 + minute * 60 + second, match.capturedLength(u"hour"_s) > 0,
+                      !zone.isEmpty(), *offset};
 }
 
-std::optional<std::int64_t> isoTime(const QString& text) {
+std::optional<StatedTime> isoTime(const QString& text) {
     static const QRegularExpression form(
         uR"(^(?<year>\d{4})(-?(?<month>\d\d)(-?(?<day>\d\d)([Tt ]\s*(?<hour>\d\d)(:?(?<minute>\d\d)(:?(?<second>\d\d)([.,]\d+)?)?)?\s*(?<zone>[Zz]|[+-]\d\d(:?\d\d)?)?)?)?)?$)"_s);
     const auto match = form.match(text);
     if (!match.hasMatch())
         return std::nullopt;
-    return moment(match, numberOr(match, u"year"_s, 0), numberOr(match, u"month"_s, 1));
+    return stated(match, numberOr(match, u"year"_s, 0), numberOr(match, u"month"_s, 1));
 }
 
-std::optional<std::int64_t> mailTime(const QString& text) {
+std::optional<StatedTime> mailTime(const QString& text) {
     static const QRegularExpression form(
         uR"(^([A-Za-z]+\.?,?\s+)?(?<day>\d{1,2})[\s-]+(?<month>[A-Za-z]{3})[A-Za-z]*\.?[\s-]+(?<year>\d{4}|\d\d)(,?\s+(?<hour>\d{1,2}):(?<minute>\d\d)(:(?<second>\d\d)(\.\d+)?)?)?(\s*(?<zone>[A-Za-z]+|[+-]\d\d:?\d\d))?(\s*\(.*\))?$)"_s);
     static const QString months = u"janfebmaraprmayjunjulaugsepoctnovdec"_s;
@@ -91,18 +90,23 @@ std::optional<std::int64_t> mailTime(const QString& text) {
     int year = numberOr(match, u"year"_s, 0);
     if (match.capturedLength(u"year"_s) == 2)
         year += year < 70 ? 2000 : 1900;
-    return moment(match, year, int(month / 3) + 1);
+    return stated(match, year, int(month / 3) + 1);
 }
 
 }  // namespace
 
-std::optional<std::int64_t> newsTime(QStringView text) {
+std::optional<StatedTime> statedTime(QStringView text) {
     const QStringView trimmed = text.trimmed();
     if (trimmed.isEmpty() || trimmed.size() > longestTime)
         return std::nullopt;
     const QString time = trimmed.toString();
     const auto iso = isoTime(time);
     return iso ? iso : mailTime(time);
+}
+
+std::optional<std::int64_t> newsTime(QStringView text) {
+    const auto stated = statedTime(text);
+    return stated && isNewsTime(stated->moment()) ? std::optional(stated->moment()) : std::nullopt;
 }
 
 }  // namespace wirepane

@@ -102,8 +102,7 @@ public:
             return Error{stated.error()};
         item.time = stated.value();
         item.version = versionOf(version, item.time);
-        if (!text.isEmpty())
-            item.story = text;
+        item.story = text;
         item.category = category;
         item.related = symbols;
         return item;

@@ -185,6 +185,10 @@ QString NinjsFields::text(QLatin1StringView name) const {
     return fields.value(name).toString();
 }
 
+bool NinjsFields::flag(QLatin1StringView name) const {
+    return fields.value(name).toBool();
+}
+
 std::vector<NinjsFields> NinjsFields::list(QLatin1StringView name) const {
     const ListField* field = listField(name);
     std::vector<NinjsFields> entries;

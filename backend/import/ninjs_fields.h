@@ -25,6 +25,9 @@ public:
     // The text of a field; empty where it is missing.
     QString text(QLatin1StringView name) const;
 
+    // Whether a field says true; false where it is missing or says anything else.
+    bool flag(QLatin1StringView name) const;
+
     // The objects of a list field, their names in lower case ("subject" also finds "subjects").
     std::vector<NinjsFields> list(QLatin1StringView name) const;
 

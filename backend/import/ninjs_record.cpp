@@ -164,9 +164,9 @@ Result<NewsItem> ninjsItem(QByteArrayView record, unsigned char service) {
         return Error{time.error()};
     item.time = time.value();
     item.version = versionOf(fields.text("version"_L1), item.time);
-    const QString story = firstOf({body, description});
-    if (!story.isEmpty())
-        item.story = story;
+    item.story = firstOf({body, description});
+    if (item.story->isEmpty() && fields.flag("storyfollows"_L1))
+        item.story.reset();
     item.category = categoryOf(fields);
     item.related = symbolsOf(fields);
     return item;

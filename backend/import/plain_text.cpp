@@ -89,7 +89,7 @@ private:
             preformatted = !tag.closing;
         gap = gap || tag.effect == TagEffect::Gap;
         paragraphEnd = paragraphEnd || tag.effect == TagEffect::Paragraph;
-        if (tag.effect == TagEffect::Hidden && !tag.closing)
+        if (tag.effect == TagEffect::Hidden && !tag.closing && !tag.isEmpty)
             skipContent(tag.name);
         return true;
     }

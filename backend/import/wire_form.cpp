@@ -2,7 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/wire_form.h"
 
+#include "backend/clean_text.h"
+#include "backend/import/table_lines.h"
+
 #include <QStringBuilder>
+
+#include <algorithm>
+#include <utility>
 
 namespace wirepane {
 
@@ -14,32 +20,6 @@ constexpr qsizetype longestTitle = 500;
 constexpr qsizetype titleFromStoryLength = 80;
 constexpr QLatin1StringView paragraphMark("@@@@");
 
-bool isLineBreak(char32_t c) {
-    return c == U'\n' || c == U'\v' || c == U'\f' || c == 0x85 || c == 0x2028 || c == 0x2029;
-}
-
-bool isHidden(char32_t c) {
-    const bool control = c < 0x20 || (c >= 0x7f && c < 0xa0);
-    const bool directionOverride = (c >= 0x202a && c <= 0x202e) || (c >= 0x2066 && c <= 0x2069);
-    return control || directionOverride || c == 0xfeff || QChar::isNonCharacter(c);
-}
-
-// Written without blanks between words. Korean is not: it has blanks.
-bool isIdeographic(char32_t c) {
-    return (c >= 0x2e80 && c < 0xa000) || (c >= 0xe000 && c < 0xfb00) || (c >= 0xfe30 && c < 0xfe50) ||
-           (c >= 0xff00 && c < 0xfff0) || (c >= 0x20000 && c < 0x40000);
-}
-
-// The character at `at`, which goes behind it. A lone surrogate is the replacement character.
-char32_t takeCharacter(QStringView text, qsizetype& at) {
-    const QChar first = text.at(at++);
-    if (!first.isSurrogate())
-        return first.unicode();
-    if (first.isHighSurrogate() && at < text.size() && text.at(at).isLowSurrogate())
-        return QChar::surrogateToUcs4(first, text.at(at++));
-    return QChar::ReplacementCharacter;
-}
-
 char32_t firstOf(QStringView text) {
     qsizetype at = 0;
     return takeCharacter(text, at);
@@ -50,7 +30,7 @@ char32_t lastOf(QStringView text) {
     return takeCharacter(text, at);
 }
 
-// Line breaks as LF, tabs as blanks, nothing hidden.
+// Line breaks as LF, nothing hidden but tabs.
 QString cleaned(QStringView text) {
     QString clean;
     clean.reserve(text.size());
@@ -61,9 +41,7 @@ QString cleaned(QStringView text) {
                 clean += u'\n';
         } else if (isLineBreak(c)) {
             clean += u'\n';
-        } else if (c == U'\t') {
-            clean += u' ';
-        } else if (!isHidden(c)) {
+        } else if (c == U'\t' || !isHidden(c)) {
             clean += QChar::fromUcs4(c);
         }
     }
@@ -104,7 +82,18 @@ public:
     void addLine(QStringView line) {
         if (!paragraph.isEmpty() && !isIdeographic(lastOf(paragraph)) && !isIdeographic(firstOf(line)))
             paragraph += u' ';
+        const qsizetype start = paragraph.size();
         paragraph += line;
+        std::replace(paragraph.begin() + start, paragraph.end(), QChar(u'\t'), QChar(u' '));
+    }
+
+    void addTable(const QStringList& lines) {
+        for (const QString& line : lines) {
+            startParagraph();
+            paragraph = line;
+        }
+        if (!lines.isEmpty())
+            startParagraph();
     }
 
     QString take() {
@@ -134,14 +123,27 @@ QString shortened(const QString& text, qsizetype limit) {
 
 QString wireForm(QStringView text) {
     const QString clean = cleaned(text);
+    const QList<QStringView> lines = QStringView(clean).split(u'\n');
+    const std::vector<bool> isTable = tableLines(lines);
     WireText wire;
-    for (const QStringView line : QStringView(clean).tokenize(u'\n')) {
+    QList<QStringView> table;
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const QStringView line = lines.at(i);
         const QStringView content = line.trimmed();
+        if (isTable[std::size_t(i)]) {
+            table += line;
+            continue;
+        }
+        // Blank lines part what else stands in a text, but no table.
+        if (content.isEmpty() && !table.isEmpty())
+            continue;
+        wire.addTable(tableText(std::exchange(table, {})));
         if (content.isEmpty() || line.front().isSpace())
             wire.startParagraph();
         if (!content.isEmpty())
             wire.addLine(content);
     }
+    wire.addTable(tableText(table));
     return wire.take();
 }
 

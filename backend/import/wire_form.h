@@ -8,12 +8,13 @@
 namespace wirepane {
 
 // Plain text from outside, made into the forms that the store keeps. All are pure, linear in the text, and
-// take any text: what must not be shown (control characters, text-direction overrides) goes out, a lone
-// surrogate becomes the replacement character.
+// take any text: what must not be shown (control characters, text-direction marks and overrides) goes out, a
+// lone surrogate becomes the replacement character.
 
 // A story in wire form: paragraphs with "@@@@" between them, none of them empty, no line breaks. A blank
 // line, or a line that is indented, starts a paragraph; any other line goes on with the one before, after a
-// blank, or after nothing where a Chinese or Japanese character stands on either side. A "@@@@" of the text
+// blank, or after nothing where a Chinese or Japanese character stands on either side. The lines of a table
+// (see table_lines.h) are paragraphs, with their blanks. A "@@@@" of the text
 // becomes "@@ @@".
 QString wireForm(QStringView text);
 

@@ -3,10 +3,10 @@
 #include "backend/import/xml_source.h"
 
 #include "backend/import/html_entities.h"
+#include "backend/import/text_encoding.h"
 
 #include <QRegularExpression>
 #include <QStringBuilder>
-#include <QStringDecoder>
 
 namespace wirepane {
 
@@ -42,7 +42,7 @@ Done XmlSource::open(const QByteArray& document) {
         xml.addData(document);
         return Nothing{};
     }
-    QStringDecoder decoder(encoding.constData());
+    QStringDecoder decoder = decoderOf(encoding);
     if (!decoder.isValid())
         return Error{u"The file declares the encoding “%1”, which is not known here."_s.arg(
             QLatin1StringView(encoding))};

@@ -51,7 +51,11 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::find(unsigned char servic
                                                             const std::atomic<bool>* stop) {
     stopping = stop;
     const ReadTransaction moment(store);
-    return findNow(service, condition);
+    const int damagesBefore = store.damages();
+    std::optional<std::vector<CHeadlineTable>> found = findNow(service, condition);
+    if (store.damages() != damagesBefore)
+        found.reset();
+    return found;
 }
 
 void NewsSearch::prepare() {

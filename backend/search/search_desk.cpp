@@ -8,8 +8,22 @@
 namespace wirepane {
 
 namespace {
+
 constexpr std::ptrdiff_t mostKept = 8;  // besides the present ones
+
+// Entries of one service, newest first.
+bool holdsAny(const std::vector<CHeadlineTable>& entries, const std::vector<HeadlineKey>& news) {
+    return std::any_of(news.begin(), news.end(), [&](const HeadlineKey& key) {
+        const auto place = std::lower_bound(
+            entries.begin(), entries.end(), key, [](const CHeadlineTable& entry, const HeadlineKey& wanted) {
+                return entry.time != wanted.time ? entry.time > wanted.time
+                                                 : entry.sequence > wanted.sequence;
+            });
+        return place != entries.end() && KeyOf(*place) == key;
+    });
 }
+
+}  // namespace
 
 SearchDesk::SearchDesk(const QString& storePath, Answered answered, Gate answerGate)
     : tell(std::move(answered)),
@@ -26,12 +40,28 @@ SearchDesk::SearchDesk(const QString& storePath, Answered answered, Gate answerG
 void SearchDesk::ask(unsigned char service, int kind, const CSearch& condition) {
     Search& search = searchOf(kind, condition);
     present[kind] = search.id;
-    const Pending pending{++lastNumber, std::make_shared<std::atomic<bool>>(false)};
     if (const auto older = search.pending.find(service); older != search.pending.end())
         *older->second.dropped = true;
-    search.pending[service] = pending;
-    worker->ask({pending.ticket, service, condition, pending.dropped});
+    send(search, service, std::nullopt);
     forgetOldest();
+}
+
+void SearchDesk::send(Search& search, unsigned char service, std::optional<News> news) {
+    const std::int64_t ticket = ++lastNumber;
+    const auto dropped = std::make_shared<std::atomic<bool>>(false);
+    search.pending.insert_or_assign(service, Pending{ticket, dropped, std::move(news), {}});
+    worker->ask({ticket, service, search.condition, dropped});
+}
+
+// One that is being searched may have been read before the news came.
+void SearchDesk::lookAgain(unsigned char service, const News& news) {
+    for (Search& search : searches) {
+        const auto pending = search.pending.find(service);
+        if (pending != search.pending.end())
+            pending->second.later.insert(pending->second.later.end(), news.begin(), news.end());
+        else if (search.tables.contains(service))
+            send(search, service, news);
+    }
 }
 
 SearchDesk::Search& SearchDesk::searchOf(int kind, const CSearch& condition) {
@@ -67,9 +97,14 @@ void SearchDesk::take(std::int64_t ticket, std::vector<CHeadlineTable>&& entries
             if (pending->second.ticket != ticket)
                 continue;
             const unsigned char service = pending->first;
+            const Pending done = std::move(pending->second);
             search.pending.erase(pending);
-            search.tables[service] = std::move(entries);
-            deliver(search, service);
+            if (!done.later.empty())
+                send(search, service, done.later);
+            if (!done.news || holdsAny(entries, *done.news)) {
+                search.tables[service] = std::move(entries);
+                deliver(search, service);
+            }
             forgetOldest();
             return;
         }

@@ -9,6 +9,9 @@
 #include <functional>
 #include <list>
 #include <map>
+#include <memory>
+#include <optional>
+#include <vector>
 
 namespace wirepane {
 
@@ -32,13 +35,19 @@ public:
 
     // Sends a search; one in the same service for the same condition that is not answered yet is void.
     void ask(unsigned char service, int kind, const CSearch& condition);
+    // News has come that no view is told of by itself: the searches in that service that find some of it are
+    // answered again.
+    void lookAgain(unsigned char service, const std::vector<HeadlineKey>& news);
     // The table of the present search.
     const std::vector<CHeadlineTable>& table(unsigned char service, int kind) const;
 
 private:
+    using News = std::vector<HeadlineKey>;
     struct Pending {
         std::int64_t ticket;
         std::shared_ptr<std::atomic<bool>> dropped;
+        std::optional<News> news;  // nobody waits for the answer: it is one if it holds some of this
+        News later;                // came meanwhile
     };
     struct Search {
         std::int64_t id;
@@ -49,6 +58,7 @@ private:
     };
 
     Search& searchOf(int kind, const CSearch& condition);
+    void send(Search& search, unsigned char service, std::optional<News> news);
     void take(std::int64_t ticket, std::vector<CHeadlineTable>&& entries);
     void deliver(Search& search, unsigned char service);
     void forgetOldest();

@@ -63,7 +63,7 @@ void SearchWorker::run() {
     bool prepared = false;
     while (take(job, prepared)) {
         if (!database) {
-            if (auto opened = Database::open(path, Database::Mode::Read, busyTimeout)) {
+            if (auto opened = Database::openToRead(path, busyTimeout)) {
                 database = std::move(opened.value());
                 search.emplace(*database);
             }

@@ -6,14 +6,21 @@ namespace wirepane {
 
 ArrivalLog::ArrivalLog(Database& database, std::int64_t mostArrivals)
     : insert(database, "INSERT INTO arrivals(headline, only_story) VALUES(?, ?)"),
+      insertReplaced(database,
+                     "INSERT INTO arrivals(headline, only_story, gone_service, gone_time, gone_sequence) "
+                     "VALUES(?, 0, ?, ?, ?)"),
       remove(database, "DELETE FROM arrivals WHERE position <= (SELECT max(position) FROM arrivals) - ?"),
       newest(database, "SELECT coalesce(max(position), 0) FROM arrivals"),
       later(database,
-            "SELECT max(position), min(only_story), service, time, sequence FROM arrivals "
-            "JOIN headlines ON id = headline WHERE position > ? GROUP BY headline ORDER BY 1"),
+            "SELECT max(position), min(only_story), 0, service, time, sequence FROM arrivals "
+            "JOIN headlines ON id = headline WHERE position > ?1 GROUP BY headline UNION ALL "
+            "SELECT position, 0, 1, gone_service, gone_time, gone_sequence FROM arrivals "
+            "WHERE position > ?1 AND gone_service IS NOT NULL ORDER BY 1, 3"),
       most(mostArrivals) {}
 
-bool ArrivalLog::add(std::int64_t headlineId, bool onlyStory) {
+bool ArrivalLog::add(std::int64_t headlineId, bool onlyStory, const std::optional<HeadlineKey>& gone) {
+    if (gone)
+        return Query(insertReplaced, headlineId, gone->service, gone->time, gone->sequence).run();
     return Query(insert, headlineId, onlyStory ? 1 : 0).run();
 }
 
@@ -30,9 +37,9 @@ std::vector<Arrival> ArrivalLog::after(std::int64_t& position) {
     std::vector<Arrival> arrivals;
     for (Query query(later, position); query.next();) {
         position = query.number(0);
-        const HeadlineKey key{query.number(3), query.smallNumber(4),
-                              static_cast<unsigned char>(query.number(2))};
-        arrivals.push_back({key, query.number(1) != 0});
+        const HeadlineKey key{query.number(4), query.smallNumber(5),
+                              static_cast<unsigned char>(query.number(3))};
+        arrivals.push_back({key, query.number(1) != 0, query.number(2) != 0, position});
     }
     return arrivals;
 }

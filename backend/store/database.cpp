@@ -6,6 +6,8 @@
 #include "backend/store/failure_sentence.h"
 #include "backend/store/statement.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -38,13 +40,39 @@ QByteArray nameOf(const QString& absolutePath, Database::Mode mode) {
     return "file:" + QUrl::toPercentEncoding(absolutePath, "/") + "?immutable=1";
 }
 
+// Why no connection to this path can be a store; empty: nothing speaks against it.
+QString faultOfPath(const QString& path, const QString& absolutePath) {
+    if (path.isEmpty())
+        return u"No file is named for the news store."_s;
+    if (path == u":memory:"_s)
+        return u"The news store is a file; \":memory:\" names none."_s;
+    // SQLite takes a file of one byte for an empty one, and would write over it.
+    if (QFileInfo(absolutePath).size() == 1)
+        return u"%1 is not a news store (it holds a single byte)."_s.arg(
+            QDir::toNativeSeparators(absolutePath));
+    return {};
+}
+
+void makeForOwner(const QString& absolutePath) {
+    // Where it is there, or cannot be made, opening it says what there is to say.
+    QFile(absolutePath).open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner);
+}
+
+bool isDamage(int code) {
+    const int primary = code & 0xff;
+    return primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB || code == SQLITE_IOERR_READ ||
+           code == SQLITE_IOERR_SHORT_READ || code == SQLITE_IOERR_DATA || code == SQLITE_IOERR_CORRUPTFS;
+}
+
 }  // namespace
 
 Result<std::unique_ptr<Database>> Database::open(const QString& path, Mode mode,
                                                  std::chrono::milliseconds busyTimeout) {
-    if (path.isEmpty())
-        return Error{u"No file is named for the news store."_s};
     const QString absolute = QFileInfo(path).absoluteFilePath();
+    if (const QString fault = faultOfPath(path, absolute); !fault.isEmpty())
+        return Error{fault};
+    if (mode == Mode::Create)
+        makeForOwner(absolute);
     sqlite3* connection = nullptr;
     const int result = sqlite3_open_v2(nameOf(absolute, mode).constData(), &connection,
                                        flagsOf(mode) | SQLITE_OPEN_NOMUTEX, nullptr);
@@ -59,10 +87,31 @@ Result<std::unique_ptr<Database>> Database::open(const QString& path, Mode mode,
     database->setBusyTimeout(busyTimeout);
     // A store comes from outside as any file does: its schema may run nothing of its own.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     // Where this fails, what uses the search index fails with the library's own sentence.
     registerSearchTokenizer(connection);
+    database->execute("PRAGMA cell_size_check = ON");
     return database;
+}
+
+Result<std::unique_ptr<Database>> Database::openToRead(const QString& path,
+                                                       std::chrono::milliseconds busyTimeout) {
+    Result<std::unique_ptr<Database>> opened = open(path, Mode::Read, busyTimeout);
+    std::int64_t version = 0;
+    if (!opened || opened.value()->readNumber("PRAGMA user_version", version))
+        return opened;
+    const int primary = opened.value()->failureCode() & 0xff;
+    if (primary != SQLITE_CANTOPEN && primary != SQLITE_READONLY)
+        return opened;
+    // Nothing may be made here that readers and writers could meet over: nobody writes, then, and there is no
+    // more than the file itself.
+    const QFileInfo log(opened.value()->path() + u"-wal"_s);
+    if (log.size() > 0)
+        return Error{
+            u"%1 cannot be read without its log %2, for which its folder must be writable; copy both "
+            "to one that is."_s.arg(QDir::toNativeSeparators(opened.value()->path()), log.fileName())};
+    return open(path, Mode::Immutable, busyTimeout);
 }
 
 Database::Database(QString path, sqlite3* opened) : filePath(std::move(path)), connection(opened) {}
@@ -76,6 +125,19 @@ bool Database::execute(const char* sql) {
         return true;
     noteFailure();
     return false;
+}
+
+bool Database::begin() {
+    damagesAtBegin = damageCount;
+    return execute("BEGIN IMMEDIATE");
+}
+
+bool Database::commit() {
+    if (damageCount != damagesAtBegin) {
+        failureText = damageText;
+        return false;
+    }
+    return execute("COMMIT");
 }
 
 bool Database::readNumber(const char* sql, std::int64_t& value) {
@@ -133,6 +195,11 @@ void Database::noteFailure() {
     const bool fromSystem = primary == SQLITE_CANTOPEN || primary == SQLITE_IOERR;
     failureText = failureSentence(filePath, code, QString::fromUtf8(sqlite3_errmsg(connection)),
                                   fromSystem ? sqlite3_system_errno(connection) : 0);
+    if (!isDamage(code))
+        return;
+    ++damageCount;
+    if (damageText.isEmpty())
+        damageText = failureText;
 }
 
 }  // namespace wirepane

@@ -26,15 +26,23 @@ public:
         Immutable,  // read only, for a folder where nothing may be made; nobody else may write meanwhile
     };
 
-    // Nothing is read from the file yet: a file that is no database is found out by the first statement.
+    // Nothing is read from the file yet: a file that is no database is found out by the first statement. A
+    // file that is made is its owner's alone; SQLite gives what stands beside it the same rights.
     static Result<std::unique_ptr<Database>> open(const QString& path, Mode mode,
                                                   std::chrono::milliseconds busyTimeout);
+    // Opens a file to read it, also where nothing may be made beside it.
+    static Result<std::unique_ptr<Database>> openToRead(const QString& path,
+                                                        std::chrono::milliseconds busyTimeout);
     ~Database();
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
     // Runs one or several statements that give no rows.
     bool execute(const char* sql);
+    // A transaction that writes. What met damage on the way is not kept: commit() fails then, as for any
+    // other reason, and the transaction stays open, to be taken back.
+    bool begin();
+    bool commit();
     // The single number that `sql` gives; false, and `value` unchanged, on failure or without a row.
     bool readNumber(const char* sql, std::int64_t& value);
     bool readText(const char* sql, QString& value);
@@ -59,6 +67,11 @@ public:
     void noteFailure();
     // SQLite's result code of the last failure.
     int failureCode() const { return code; }
+    // The sentence about the first damage, or error of the medium, that any statement met; empty: none did.
+    // Who has read through this connection and finds it empty has read all that there was to read.
+    const QString& damage() const { return damageText; }
+    // How many statements met damage.
+    int damages() const { return damageCount; }
 
     sqlite3* handle() const { return connection; }
 
@@ -68,6 +81,9 @@ private:
     QString filePath;
     sqlite3* connection;
     QString failureText;
+    QString damageText;
+    int damageCount = 0;
+    int damagesAtBegin = 0;
     int code = 0;
 };
 

@@ -6,6 +6,9 @@
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
+#include "host/contract/gone_headlines.h"
+
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -24,8 +27,12 @@ CHeadlineTable entryOf(const HeadlineKey& key) {
 Result<std::unique_ptr<EmbeddedBackEnd>> EmbeddedBackEnd::open(const QString& storePath,
                                                                const IndexProgress& onIndexing) {
     Result<std::unique_ptr<Database>> store = openStore(storePath, {.onIndexing = onIndexing});
-    if (!store)
-        return Error{store.error()};
+    if (!store) {
+        Result<std::unique_ptr<Database>> read = openStoreToRead(storePath, {.onIndexing = onIndexing});
+        if (!read)
+            return Error{store.error()};
+        store = std::move(read);
+    }
     return std::make_unique<EmbeddedBackEnd>(std::move(store.value()));
 }
 
@@ -36,11 +43,14 @@ EmbeddedBackEnd::EmbeddedBackEnd(std::unique_ptr<Database> store)
       writer(*database),
       days(*database),
       headlineCache(reader),
+      laterNews(*database),
       quotes(*database),
       toldRevision(quotes.lastRevision()),
       quoteDesk([this](const CSymbolInfo& symbol) { return quotes.find(symbol); }),
       arrivals(*database),
       delivery(arrivals, [this](const Arrival& arrival) { tell(arrival); }),
+      announcements([this] { return !delivery.isDone(); },
+                    [this](const AnnouncedTables& tables) { announce(tables); }),
       searches(
           database->path(),
           [this](const CSearch& condition, unsigned char service) {
@@ -142,6 +152,8 @@ void EmbeddedBackEnd::tellOf(const std::vector<SymbolItem>& symbols) {
 }
 
 QString EmbeddedBackEnd::storeTrouble() const {
+    if (database->isReadOnly())
+        return onlyReadSentence(database->path());
     return database->wasTakenAway() ? takenAwaySentence(database->path()) : QString();
 }
 
@@ -150,7 +162,16 @@ QString EmbeddedBackEnd::storeTrouble() const {
 void EmbeddedBackEnd::checkForNews() {
     catchUp();
     delivery.run();
+    tellDue();
     tellQuotes();
+}
+
+void EmbeddedBackEnd::tellDue() {
+    if (!connected)
+        return;
+    const std::int64_t position = ReadPosition();
+    for (const HeadlineKey& key : laterNews.due())
+        tellHeadline(key, position);
 }
 
 void EmbeddedBackEnd::tellQuotes() {
@@ -172,10 +193,12 @@ void EmbeddedBackEnd::setConnected(bool on) {
     ForEachReceiver([on](NewsReceiver& receiver) { receiver.vConnectionChanged(on); });
     if (!on) {
         delivery.close();
+        announcements.close();
         return;
     }
     catchUp();
     lastMissed = delivery.open();
+    announcements.open();
     tellQuotes();
 }
 
@@ -185,19 +208,58 @@ void EmbeddedBackEnd::tell(const Arrival& arrival) {
         answers.give(Held::Stories, [this, entry] { tellStory(entry); });
         return;
     }
-    const CHeadline* const read = headlineCache.find(arrival.key);
+    if (arrival.isGone) {
+        // What has come back to a key, or another headline that has it now, is not gone.
+        if (headlineCache.find(arrival.key) == nullptr)
+            ForEachReceiver([&](NewsReceiver& receiver) { TellGoneHeadline(receiver, arrival.key); });
+        return;
+    }
+    if (!laterNews.admits(arrival.key))
+        return;
+    constexpr std::int64_t aheadSeconds = 120;
+    if (datedAhead && laterNews.held() == LaterNews::Held::Nothing &&
+        arrival.key.time > host_clock::now() + aheadSeconds)
+        datedAhead(arrival.key.service, arrival.key.time);
+    tellHeadline(arrival.key, arrival.position);
+}
+
+void EmbeddedBackEnd::tellHeadline(const HeadlineKey& key, std::int64_t position) {
+    const CHeadline* const read = headlineCache.find(key);
     if (read == nullptr)
         return;
     // A receiver may look other headlines up meanwhile.
     const CHeadline headline = *read;
-    const auto symbols = reader.relatedSymbols(arrival.key);
-    const QString code = symbols && !symbols->empty() ? symbols->front().code : QString();
+    const auto symbols = reader.relatedSymbols(key).value_or(std::vector<CSymbolInfo>());
+    const std::int32_t day = localDays.numberOf(headline.time);
+    if (newsDays.begins(headline.service, day))
+        startNewsDay({headline.service, day});
+    if (newsDays.of(headline.service) == day) {
+        push(headline, symbols, position);
+        return;
+    }
+    const QString code = symbols.empty() ? QString() : symbols.front().code;
     const QString category = QString::number(headline.categoryId);
+    ForEachReceiver(
+        [&](NewsReceiver& receiver) { TellReplacedHeadline(receiver, headline, category, code); });
+    announcements.add(key, headline.categoryId, symbols, newsRange().contains(headline.time));
+}
+
+void EmbeddedBackEnd::push(const CHeadline& headline, const std::vector<CSymbolInfo>& symbols,
+                           std::int64_t position) {
+    const QString code = symbols.empty() ? QString() : symbols.front().code;
+    const QString category = QString::number(headline.categoryId);
+    toldPosition = position;
     ForEachReceiver([&](NewsReceiver& receiver) { receiver.RecvNewHeadLine(&headline, category, code); });
+    toldPosition = 0;
+}
+
+void EmbeddedBackEnd::respStory(const CHeadlineTable& entry) {
+    const QScopedValueRollback telling(tellingOf, std::optional(KeyOf(entry)));
+    ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespStory(entry); });
 }
 
 void EmbeddedBackEnd::tellStory(const CHeadlineTable& entry) {
-    ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespStory(entry); });
+    respStory(entry);
     const auto related = reader.relatedSymbols(KeyOf(entry));
     if (!related)
         return;
@@ -212,7 +274,7 @@ void EmbeddedBackEnd::announceStoryChange(const HeadlineKey& key) {
 
 void EmbeddedBackEnd::startNewsDay(const CMarketStatus& status) {
     if (dayOfText(QString::number(status.date)).isValid())
-        newsDays[status.service] = status.date;
+        newsDays.report(status.service, status.date);
     ForEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvNewMarketStatus(&status); });
 }
 
@@ -222,8 +284,8 @@ void EmbeddedBackEnd::RegisterSymbols(NewsReceiver* view, const std::vector<CSym
                                       const std::vector<CSymbolInfo>& removed) {
     std::set<unsigned char>& services = registrations[view];
     for (const CSymbolInfo& symbol : added) {
-        if (symbol.code.isEmpty())
-            services.insert(symbol.market);
+        if (symbol.code.isEmpty() && services.insert(symbol.market).second)
+            tellNewsDay(view, symbol.market);
     }
     for (const CSymbolInfo& symbol : removed) {
         if (symbol.code.isEmpty())
@@ -231,6 +293,18 @@ void EmbeddedBackEnd::RegisterSymbols(NewsReceiver* view, const std::vector<CSym
     }
     quoteDesk.leave(view, removed);
     quoteDesk.follow(view, added);
+}
+
+void EmbeddedBackEnd::tellNewsDay(NewsReceiver* view, unsigned char service) {
+    const auto tellIt = [this, view, service] {
+        const auto registered = registrations.find(view);
+        if (!connected || registered == registrations.end() || !registered->second.contains(service))
+            return;
+        const CMarketStatus status{service, newsDays.of(service)};
+        view->vRecvNewMarketStatus(&status);
+    };
+    if (newsDays.hasReported(service))
+        QMetaObject::invokeMethod(&delivery, tellIt, Qt::QueuedConnection);
 }
 
 void EmbeddedBackEnd::UnregisterSymbols(NewsReceiver* view) {
@@ -322,10 +396,7 @@ bool EmbeddedBackEnd::BKQNEWS_bGetShortNameByService(QString& name, unsigned cha
 }
 
 QString EmbeddedBackEnd::BKQNEWS_cszGetCurrDateByService(unsigned char service) {
-    const auto reported = newsDays.find(service);
-    if (reported != newsDays.end())
-        return QString::number(reported->second);
-    return host_clock::today().toString(u"yyyyMMdd"_s);
+    return QString::number(newsDays.of(service));
 }
 
 bool EmbeddedBackEnd::bNewsAPI_GetNewsCatId(unsigned char service, std::vector<QString>& ids,

@@ -8,6 +8,8 @@
 #include "backend/store/database.h"
 #include "backend/store/day_index.h"
 #include "backend/store/headline_cache.h"
+#include "backend/store/later_news.h"
+#include "backend/store/news_days.h"
 #include "backend/store/news_delivery.h"
 #include "backend/store/quote_book.h"
 #include "backend/store/quote_desk.h"
@@ -18,11 +20,15 @@
 #include "backend/store/store_sync.h"
 #include "backend/store/store_writer.h"
 #include "backend/store/symbol_table.h"
+#include "backend/store/table_announcements.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/news_positions.h"
+#include "host/contract/reading_moment.h"
 
 #include <QColor>
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -36,24 +42,37 @@ namespace wirepane {
 // The back end over one news store. Every operation runs on the interface thread.
 //
 // Tables come newest first. Those of a category and of a symbol reach back BKQbyGetNewsDateRange() days from
-// the present day (host_clock), and not beyond it; a symbol without a code has none.
+// the present day (host_clock); a symbol without a code has none. News that is dated ahead is in them, and is
+// told as it comes, unless it is held back (holdLaterNews).
 //
-// Requests are answered from the event loop. Searches look through all stories of a service, whether the
+// Requests are answered from the event loop, also those that cannot be met. A story that is looked up and has
+// no text is not found: RespStory announces it, and while that is told it is found, empty. One that is still
+// to come is announced when it has come. Searches look through all stories of a service, whether the
 // source is connected or not, on a thread of their own (see NewsSearch and SearchDesk).
 //
-// As a sink it tells every receiver what came in, in the order of coming, once it is committed: news that is
-// new or replaced as a new headline, a story that was missing as a story that can be had, a symbol as a
-// change of the catalogue. Nothing is told of what was there already. Of a large batch the first 500 are
+// As a sink it tells every receiver what came in, in the order of coming, once it is committed: news of the
+// news day that its service is in as a new headline, whether it is new or replaced, a key that replaced news
+// no longer has as gone (GoneHeadlineReceiver), a story that was missing as a story that can be had, a symbol
+// as a change of the catalogue. Nothing is told of what was there already. Of a large batch the first 500 are
 // told before commit() returns, the rest from the event loop.
+//
+// News of any other day is not pushed, since a pushed headline is one of the day that views are in. The
+// tables that hold it are told as tables that were sent again, from the event loop: by its date, its category
+// and each of its symbols, and as answers to the searches that find it; each once for what came together, and
+// at most once a second.
+//
+// The first news of the present day in a service, by whatever road it came, starts a new news day of the
+// service before it is told itself. Who registers a service is told the day that it has reported.
 //
 // Quotes are told to the receivers that registered their symbol by its code: what is known of it from the
 // event loop, then every change. With a story that is asked for again, or comes late, the related symbols of
 // its headline are sent.
 //
 // Other programs may write to the store meanwhile: look-ups see it, and checkForNews() tells the receivers.
-class EmbeddedBackEnd : public BKQuoteInterface, public FeedSink {
+class EmbeddedBackEnd : public BKQuoteInterface, public NewsPositions, public ReadingMoment, public FeedSink {
 public:
-    // Opens the store, or makes it (see openStore).
+    // Opens the store, or makes it (see openStore). One that cannot be written to is read: it takes nothing
+    // in.
     static Result<std::unique_ptr<EmbeddedBackEnd>> open(const QString& storePath,
                                                          const IndexProgress& onIndexing = {});
     explicit EmbeddedBackEnd(std::unique_ptr<Database> store);
@@ -84,7 +103,7 @@ public:
     // Tells the receivers what other programs have written to the store since the last call.
     void checkForNews();
     // True when every receiver has been told of everything that is in the store.
-    bool isDelivered() const { return delivery.isDone(); }
+    bool isDelivered() const { return delivery.isDone() && announcements.isDone(); }
 
     // Tells the receivers of the change. While not connected, they are told no news. What came meanwhile is
     // told when the connection is back, oldest first. At first: connected.
@@ -95,11 +114,20 @@ public:
     // unknown one.
     std::optional<std::int64_t> receivedTime(const HeadlineKey& key) { return reader.received(key); }
 
-    // A service starts a new news day: it is its current one from now on, and the receivers are told. A date
-    // that is none changes nothing here; it is told all the same.
+    // Reads as of the present moment: tables and searches end there, and what they lack is told as new
+    // headlines when its moment comes, by checkForNews(). At first nothing is held.
+    void holdLaterNews(LaterNews::Held which) { laterNews.hold(which); }
+    // Called when news is told that is dated more than two minutes ahead of the present moment, while nothing
+    // is held: its source's clock, or this one, is off.
+    void onDatedAhead(std::function<void(unsigned char service, std::int64_t time)> call) {
+        datedAhead = std::move(call);
+    }
+
+    // A service starts a new news day: it is its current one until the present day is a later one, and the
+    // receivers are told. A date that is none changes nothing here; it is told all the same.
     void startNewsDay(const CMarketStatus& status);
     // The current news day of every service is the present day again.
-    void forgetNewsDays() { newsDays.clear(); }
+    void forgetNewsDays() { newsDays.forget(); }
     // Tells the receivers that the story of a headline has changed.
     void announceStoryChange(const HeadlineKey& key);
 
@@ -126,6 +154,10 @@ public:
     // What keeps the store from taking news in for as long as it lasts, found out without trying: a sentence;
     // empty when nothing does.
     QString storeTrouble() const;
+    // Whether the store can only be read, for as long as it is open.
+    bool isReadOnly() const { return database->isReadOnly(); }
+    // The sentence about the first damage that a look-up or a change met; empty: none did.
+    const QString& storeDamage() const { return database->damage(); }
 
     void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                          const std::vector<CSymbolInfo>& removed) override;
@@ -163,6 +195,9 @@ public:
     bool LangIsConvertToSimplified(const unsigned char& service) override;
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
     QString PathGetSysPath() override;
+    bool IsReadAsOf() const override { return laterNews.held() == LaterNews::Held::All; }
+    std::int64_t ReadPosition() override { return arrivals.last().value_or(0); }
+    std::int64_t ToldPosition() const override { return toldPosition; }
 
 private:
     // What the running transaction has changed.
@@ -177,14 +212,26 @@ private:
     };
     using Entries = std::set<CHeadlineTable, EntryOrder>;
 
+    // The days that a table without a date reaches over.
+    DayBounds newsRange();
     // Forgets what is in memory when another program has written to the store.
     void catchUp();
     void tell(const Arrival& arrival);
+    void tellHeadline(const HeadlineKey& key, std::int64_t position);
+    // The headlines whose moment has come.
+    void tellDue();
+    void push(const CHeadline& headline, const std::vector<CSymbolInfo>& symbols, std::int64_t position);
+    void announce(const AnnouncedTables& tables);
+    // The news day that a service has reported, to one who has just registered it.
+    void tellNewsDay(NewsReceiver* view, unsigned char service);
     void tellOf(const std::vector<SymbolItem>& symbols);
     // The quotes that have changed since the last call; not while there is no connection.
     void tellQuotes();
     // That the story of an entry can be had, and its related symbols.
     void tellStory(const CHeadlineTable& entry);
+    void respStory(const CHeadlineTable& entry);
+    // Answers a look-up that found nothing, from the event loop, once however many there were.
+    void announceStory(const CHeadlineTable& entry);
     int tableOf(unsigned char service, std::vector<CHeadlineTable>& table, int kind, const QString& key);
     int tableOf(unsigned char service, std::vector<CHeadlineTable>& table, const CSymbolInfo& symbol);
 
@@ -194,14 +241,20 @@ private:
     StoreWriter writer;
     DayIndex days;
     HeadlineCache headlineCache;
+    LaterNews laterNews;
+    std::function<void(unsigned char, std::int64_t)> datedAhead;
     QuoteBook quotes;
     std::int64_t toldRevision;  // of the quotes
     bool tellingQuotes = false;
     QuoteDesk quoteDesk;
     ArrivalLog arrivals;
     AnswerDesk answers;
-    Entries awaited;                                 // headlines that were looked up while they were held
-    std::map<unsigned char, std::int32_t> newsDays;  // of the services that have reported one
+    Entries awaited;                       // headlines that were looked up while they were held
+    Entries announced;                     // stories whose announcement is on its way
+    std::optional<HeadlineKey> tellingOf;  // the headline whose story is being told
+    NewsDays newsDays;
+    LocalDays localDays;
+    std::int64_t toldPosition = 0;
     Changes changes;
     int lastMissed = 0;
     RequestLog requests;
@@ -213,6 +266,7 @@ private:
     bool simplified = false;
     QString sysPath;
     NewsDelivery delivery;
+    TableAnnouncements announcements;
     SearchDesk searches;
 };
 

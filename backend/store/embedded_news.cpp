@@ -4,43 +4,44 @@
 #include "backend/store/embedded_back_end.h"
 #include "host/contract/clock.h"
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
-namespace {
-
-// The days that a table without a date reaches over.
-DayBounds newsRange(int daysBack) {
-    const QDate today = host_clock::today();
-    return {boundsOf(today.addDays(-daysBack)).begin, boundsOf(today).end};
+// What is dated ahead is in it, too.
+DayBounds EmbeddedBackEnd::newsRange() {
+    const QDate first = host_clock::today().addDays(-BKQbyGetNewsDateRange());
+    return {boundsOf(first).begin, std::numeric_limits<std::int64_t>::max()};
 }
-
-}  // namespace
 
 int EmbeddedBackEnd::tableOf(unsigned char service, std::vector<CHeadlineTable>& table,
                              const CSymbolInfo& symbol) {
-    if (symbol.code.isEmpty())
-        return 0;
-    return reader.appendSymbol(table, service, symbol, newsRange(BKQbyGetNewsDateRange()));
+    const std::size_t before = table.size();
+    if (!symbol.code.isEmpty())
+        reader.appendSymbol(table, service, symbol, newsRange());
+    laterNews.takeOut(table, before);
+    return static_cast<int>(table.size() - before);
 }
 
 int EmbeddedBackEnd::tableOf(unsigned char service, std::vector<CHeadlineTable>& table, int kind,
                              const QString& key) {
-    if (kind == static_cast<int>(TableKind::ByDate)) {
-        catchUp();
-        return days.append(table, service, dayOfText(key));
-    }
-    if (kind == static_cast<int>(TableKind::Search) || kind == static_cast<int>(TableKind::SecondSearch)) {
-        const std::vector<CHeadlineTable>& found = searches.table(service, kind);
-        table.insert(table.end(), found.begin(), found.end());
-        return static_cast<int>(found.size());
-    }
+    const std::size_t before = table.size();
     bool isNumber = false;
     const int category = key.toInt(&isNumber);
-    if (kind != static_cast<int>(TableKind::ByCategory) || !isNumber)
-        return 0;
-    return reader.appendCategory(table, service, category, newsRange(BKQbyGetNewsDateRange()));
+    if (kind == static_cast<int>(TableKind::ByDate)) {
+        catchUp();
+        days.append(table, service, dayOfText(key));
+    } else if (kind == static_cast<int>(TableKind::Search) ||
+               kind == static_cast<int>(TableKind::SecondSearch)) {
+        const std::vector<CHeadlineTable>& found = searches.table(service, kind);
+        table.insert(table.end(), found.begin(), found.end());
+    } else if (kind == static_cast<int>(TableKind::ByCategory) && isNumber) {
+        reader.appendCategory(table, service, category, newsRange());
+    }
+    laterNews.takeOut(table, before);
+    return static_cast<int>(table.size() - before);
 }
 
 int EmbeddedBackEnd::BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>& table, unsigned char service,
@@ -79,9 +80,13 @@ int EmbeddedBackEnd::BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHe
 }
 
 bool EmbeddedBackEnd::BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) {
-    std::optional<QString> text = answers.isHeld(Held::Stories) ? std::nullopt : reader.story(KeyOf(entry));
-    if (!text)
+    const bool held = answers.isHeld(Held::Stories);
+    std::optional<QString> text = held ? std::nullopt : reader.story(KeyOf(entry));
+    if (!text || (text->isEmpty() && tellingOf != KeyOf(entry))) {
+        if (held || text)
+            announceStory(entry);
         return false;
+    }
     story.time = entry.time;
     story.text = *std::move(text);
     story.entry = entry;

@@ -21,10 +21,17 @@ signed char statusOf(int entries) {
 bool EmbeddedBackEnd::BKQNews_bReRequestHeadlineStory(const CHeadlineTable& entry) {
     requests.add(u"BKQNews_bReRequestHeadlineStory"_s,
                  {entry.service, qlonglong(entry.time), entry.sequence});
-    if (!reader.story(KeyOf(entry)))
-        return false;
     answers.giveLater(Held::Stories, [this, entry] { tellStory(entry); });
     return true;
+}
+
+void EmbeddedBackEnd::announceStory(const CHeadlineTable& entry) {
+    if (!announced.insert(entry).second)
+        return;
+    answers.giveLater(Held::Stories, [this, entry] {
+        announced.erase(entry);
+        respStory(entry);
+    });
 }
 
 // What the table holds is asked at the moment of the answer.
@@ -56,10 +63,44 @@ bool EmbeddedBackEnd::BKNEWS_bReRequestHeadlineTable(unsigned char service, int 
     return true;
 }
 
+// They hold news, so that none of them is denied.
+void EmbeddedBackEnd::announce(const AnnouncedTables& tables) {
+    answers.give(Held::Tables, [this, tables] {
+        const auto tellOf = [this](unsigned char service, const QString& key, auto operation) {
+            const CHeadlineTableInfo info{service, 0, key};
+            ForEachReceiver([&](NewsReceiver& receiver) { (receiver.*operation)(&info); });
+        };
+        for (const auto& [service, day] : tables.days)
+            tellOf(service, QString::number(day), &NewsReceiver::vRecvAllHeadlineTableRecovery);
+        for (const auto& [service, category] : tables.categories)
+            tellOf(service, QString::number(category), &NewsReceiver::vRecvCatHeadlineTableRecovery);
+        for (const auto& [service, code] : tables.symbols)
+            tellOf(service, code, &NewsReceiver::vRecvSymHeadlineTableRecovery);
+    });
+    for (const auto& [service, news] : tables.news)
+        searches.lookAgain(service, news);
+}
+
 bool EmbeddedBackEnd::BKQNEWS_bReCoverHeadline(unsigned char service, std::vector<CHeadline>& headlines,
                                                const std::vector<CHeadlineTable>& entries) {
     requests.add(u"BKQNEWS_bReCoverHeadline"_s, {service, qlonglong(entries.size())});
-    return BKQNEWS_iGetHeadline(service, headlines, entries) > 0 || answers.isHeld(Held::Headlines);
+    const std::size_t before = headlines.size();
+    BKQNEWS_iGetHeadline(service, headlines, entries);
+    if (answers.isHeld(Held::Headlines))
+        return true;
+    std::vector<CHeadlineTable> missing;
+    std::size_t next = before;
+    for (const CHeadlineTable& entry : entries) {
+        if (next < headlines.size() && KeyOf(headlines[next]) == KeyOf(entry))
+            ++next;
+        else if (entry.service == service)
+            missing.push_back(entry);
+    }
+    if (!missing.empty())
+        answers.giveLater(Held::Headlines, [this, missing] {
+            ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespHeadLine(missing); });
+        });
+    return next > before || !missing.empty();
 }
 
 bool EmbeddedBackEnd::BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition) {

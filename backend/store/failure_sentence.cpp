@@ -51,4 +51,8 @@ QString takenAwaySentence(const QString& path) {
            "program is started again."_s.arg(QDir::toNativeSeparators(path));
 }
 
+QString onlyReadSentence(const QString& path) {
+    return u"%1 can only be read: no news is taken in."_s.arg(QDir::toNativeSeparators(path));
+}
+
 }  // namespace wirepane

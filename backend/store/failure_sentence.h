@@ -11,7 +11,8 @@ namespace wirepane {
 // (0: none).
 QString failureSentence(const QString& path, int code, const QString& message, int systemError);
 
-// Why nothing can be taken in by a store whose file went while it was open.
+// Why nothing can be taken in by a store whose file went while it was open, and by one that is only read.
 QString takenAwaySentence(const QString& path);
+QString onlyReadSentence(const QString& path);
 
 }  // namespace wirepane

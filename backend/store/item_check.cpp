@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/item_check.h"
 
+#include "backend/clean_text.h"
 #include "backend/store/limits.h"
 
 #include <QSet>
@@ -13,21 +14,6 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 namespace {
-
-// Where a character stands that no text may hold; the length when there is none.
-qsizetype badCharacter(QStringView text, qsizetype from) {
-    for (qsizetype i = from; i < text.size(); ++i) {
-        const QChar c = text[i];
-        if (c.isNull() || c.isLowSurrogate())
-            return i;
-        if (c.isHighSurrogate()) {
-            if (i + 1 == text.size() || !text[i + 1].isLowSurrogate())
-                return i;
-            ++i;
-        }
-    }
-    return text.size();
-}
 
 QString tooLong(QLatin1StringView what, qsizetype length, qsizetype most) {
     return u"The %1 has %2 characters; at most %3 are taken."_s.arg(what).arg(length).arg(most);
@@ -52,7 +38,7 @@ std::vector<SymbolRef> cleanedSymbols(const std::vector<SymbolRef>& symbols) {
     QSet<std::pair<unsigned char, QString>> seen;
     std::vector<SymbolRef> kept;
     for (const SymbolRef& symbol : symbols) {
-        SymbolRef clean{symbol.market, cleanText(symbol.code)};
+        SymbolRef clean{symbol.market, cleanTitle(symbol.code)};
         if (seen.contains({clean.market, clean.code}))
             continue;
         seen.insert({clean.market, clean.code});
@@ -63,22 +49,10 @@ std::vector<SymbolRef> cleanedSymbols(const std::vector<SymbolRef>& symbols) {
 
 }  // namespace
 
-QString cleanText(const QString& text) {
-    qsizetype bad = badCharacter(text, 0);
-    if (bad == text.size())
-        return text;
-    QString clean = text;
-    while (bad < clean.size()) {
-        clean[bad] = QChar::ReplacementCharacter;
-        bad = badCharacter(clean, bad + 1);
-    }
-    return clean;
-}
-
 QString cleanCategoryName(const QString& name) {
     QString clean;
-    for (const QChar c : cleanText(name)) {
-        if (!c.isSpace() && c != u',' && c.category() != QChar::Other_Control)
+    for (const QChar c : cleanTitle(name)) {
+        if (!c.isSpace() && c != u',')
             clean += c;
         else if (!clean.isEmpty() && !clean.endsWith(u'-'))
             clean += u'-';
@@ -93,10 +67,10 @@ QString cleanCategoryName(const QString& name) {
 
 NewsItem cleaned(const NewsItem& item) {
     NewsItem clean = item;
-    clean.identity = cleanText(item.identity);
-    clean.title = cleanText(item.title);
+    clean.identity = cleanTitle(item.identity);
+    clean.title = cleanTitle(item.title);
     if (item.story)
-        clean.story = cleanText(*item.story);
+        clean.story = cleanStory(*item.story);
     clean.category = cleanCategoryName(item.category);
     clean.related = cleanedSymbols(item.related);
     return clean;
@@ -104,8 +78,8 @@ NewsItem cleaned(const NewsItem& item) {
 
 SymbolItem cleaned(const SymbolItem& item) {
     SymbolItem clean = item;
-    clean.code = cleanText(item.code);
-    clean.name = cleanText(item.name);
+    clean.code = cleanTitle(item.code);
+    clean.name = cleanTitle(item.name);
     return clean;
 }
 
@@ -118,7 +92,7 @@ CategoryItem cleaned(const CategoryItem& item) {
 
 QuoteItem cleaned(const QuoteItem& item) {
     QuoteItem clean = item;
-    clean.code = cleanText(item.code);
+    clean.code = cleanTitle(item.code);
     return clean;
 }
 

@@ -7,14 +7,11 @@
 // What is asked of an item before it reaches the store (see limits.h).
 namespace wirepane {
 
-// The text with lone surrogates and NUL characters replaced by U+FFFD.
-QString cleanText(const QString& text);
-
-// The name as the file of category names can carry it: blanks, control characters and commas become one '-',
+// The name as the file of category names can carry it: blanks and commas become one '-',
 // and an over-long name is cut. Empty when nothing is left.
 QString cleanCategoryName(const QString& name);
 
-// The item with clean texts and without repeated related symbols.
+// The item with clean texts (see clean_text.h) and without repeated related symbols.
 NewsItem cleaned(const NewsItem& item);
 SymbolItem cleaned(const SymbolItem& item);
 CategoryItem cleaned(const CategoryItem& item);

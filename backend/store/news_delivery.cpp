@@ -17,10 +17,13 @@ int NewsDelivery::open() {
     isOpen = true;
     std::vector<Arrival> missed = arrivals.after(position);
     std::stable_sort(missed.begin(), missed.end(), [](const Arrival& a, const Arrival& b) {
+        // Only when the news has its new keys is an old one known to be gone.
+        if (a.isGone || b.isGone)
+            return !a.isGone && b.isGone;
         return a.key.time != b.key.time ? a.key.time < b.key.time : a.key.sequence < b.key.sequence;
     });
     waiting.insert(waiting.end(), missed.begin(), missed.end());
-    const auto isHeadline = [](const Arrival& arrival) { return !arrival.onlyStory; };
+    const auto isHeadline = [](const Arrival& arrival) { return !arrival.onlyStory && !arrival.isGone; };
     const auto headlines = std::count_if(missed.begin(), missed.end(), isHeadline);
     handOn();
     return static_cast<int>(headlines);

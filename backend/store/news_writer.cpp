@@ -21,11 +21,11 @@ NewsWriter::NewsWriter(Database& owner)
     : database(owner),
       findIdentity(owner,
                    "SELECT id, version, time, day, sequence, category, "
-                   "EXISTS(SELECT 1 FROM stories WHERE headline = headlines.id) "
+                   "EXISTS(SELECT 1 FROM stories WHERE headline = headlines.id AND text <> '') "
                    "FROM headlines WHERE service = ? AND identity = ?"),
       findKey(owner,
               "SELECT id, version, time, day, sequence, category, "
-              "EXISTS(SELECT 1 FROM stories WHERE headline = headlines.id) "
+              "EXISTS(SELECT 1 FROM stories WHERE headline = headlines.id AND text <> '') "
               "FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),
       findNumber(owner,
                  "SELECT 1 FROM headlines WHERE service = ?1 AND sequence = ?2 AND (day = ?3 OR time = ?4) "

@@ -20,7 +20,7 @@ struct KnownNews {
     std::int32_t day = 0;
     std::int32_t sequence = 0;
     std::int32_t category = 0;
-    bool hasStory = false;
+    bool hasStory = false;  // one with text
 };
 
 // Where a piece of news is put.

@@ -115,7 +115,14 @@ CREATE TABLE quotes(
 CREATE UNIQUE INDEX quotes_by_revision ON quotes(revision);
 )sql";
 
-constexpr std::array steps{firstVersion, arrivalsAndPositions, ownSearchWords, quotes};
+// Of a headline that was replaced and has another key since then: the one that it had.
+constexpr const char* goneKeys = R"sql(
+ALTER TABLE arrivals ADD COLUMN gone_service INTEGER;
+ALTER TABLE arrivals ADD COLUMN gone_time INTEGER;
+ALTER TABLE arrivals ADD COLUMN gone_sequence INTEGER;
+)sql";
+
+constexpr std::array steps{firstVersion, arrivalsAndPositions, ownSearchWords, quotes, goneKeys};
 
 }  // namespace
 

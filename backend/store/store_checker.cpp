@@ -29,6 +29,8 @@ constexpr std::array rules{
     Rule{"SELECT \"table\" || ' ' || coalesce(rowid, '') || ' (to ' || parent || ')' FROM "
          "pragma_foreign_key_check",
          u"These rows refer to rows that are not there: %1."},
+    Rule{"SELECT name FROM sqlite_schema WHERE type = 'trigger'",
+         u"These triggers are none of the store's; they never run: %1."},
     Rule{"SELECT service || '/' || identity FROM headlines "
          "WHERE typeof(title) <> 'text' OR trim(title) = '' OR length(title) > 8192",
          u"These headlines have no title, or one that is too long: %1."},
@@ -100,47 +102,18 @@ void checkSearchIndex(Database& database, QStringList& faults) {
         faults += u"The search index does not hold the text of: %1."_s.arg(namesOf(*offenders));
 }
 
-// In a folder where nothing may be made, a store can be read only as one that nobody writes to.
-bool needsImmutable(Database& database) {
-    std::int64_t version = 0;
-    if (database.readNumber("PRAGMA user_version", version))
-        return false;
-    const int code = database.failureCode() & 0xff;
-    return code == SQLITE_CANTOPEN || code == SQLITE_READONLY;
-}
-
-Result<std::unique_ptr<Database>> openForReading(const QString& path) {
-    const std::chrono::milliseconds timeout = StoreOptions().busyTimeout;
-    Result<std::unique_ptr<Database>> opened = Database::open(path, Database::Mode::Read, timeout);
-    if (opened && needsImmutable(*opened.value()))
-        return Database::open(path, Database::Mode::Immutable, timeout);
-    return opened;
-}
-
 }  // namespace
 
 Result<QStringList> StoreChecker::check() const {
-    const Result<std::unique_ptr<Database>> opened = openForReading(path);
+    const Result<std::unique_ptr<Database>> opened = Database::openToRead(path, StoreOptions().busyTimeout);
     if (!opened)
         return Error{opened.error()};
     Database& database = *opened.value();
     // One moment of the store, whoever writes to it meanwhile.
     if (!database.execute("PRAGMA temp_store = MEMORY; BEGIN"))
         return Error{database.failure()};
-    if (std::optional<Error> fault = storeFault(database))
+    if (std::optional<Error> fault = readingFault(database))
         return *fault;
-    std::int64_t version = 0;
-    if (!database.readNumber("PRAGMA user_version", version))
-        return Error{database.failure()};
-    // What is left where a program was killed before it had made its store: the next one makes it.
-    if (version == 0)
-        return QStringList();
-    if (version < storeVersion())
-        return Error{u"%1 is of version %2; the program brings it up to version %3 when it opens it."_s
-                         .arg(database.path())
-                         .arg(version)
-                         .arg(storeVersion())};
-
     QStringList faults = structureFaults(database);
     if (!faults.isEmpty())
         return faults;

@@ -16,9 +16,8 @@ class StoreChecker {
 public:
     explicit StoreChecker(QString storePath) : path(std::move(storePath)) {}
 
-    // A sentence for each thing that is wrong, naming the first that it concerns; empty: the store is sound,
-    // or an empty file, in which a store can be made. An error when the file cannot be read as a news store
-    // at all.
+    // A sentence for each thing that is wrong, naming the first that it concerns; empty: the store is sound.
+    // An error when the file cannot be read as a news store at all, an empty one included.
     Result<QStringList> check() const;
 
 private:

@@ -8,6 +8,10 @@
 #include "backend/store/store_defaults.h"
 #include "backend/store/transaction.h"
 
+#include <QDir>
+
+#include <sqlite3.h>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -19,7 +23,7 @@ bool setUp(Database& database) {
     return database.readText("PRAGMA journal_mode = WAL", mode) &&
            database.execute(
                "PRAGMA synchronous = FULL; PRAGMA foreign_keys = ON; PRAGMA temp_store = MEMORY;"
-               "PRAGMA cell_size_check = ON; PRAGMA cache_size = -16384; PRAGMA journal_size_limit = "
+               "PRAGMA cache_size = -16384; PRAGMA journal_size_limit = "
                "16777216");
 }
 
@@ -29,6 +33,9 @@ bool bringUpToDate(Database& database, const IndexProgress& onIndexing) {
         return false;
     if (version == storeVersion() && hasPresentSearchRules(database))
         return true;
+    // A damaged store is not mended by writing to it.
+    if (!database.damage().isEmpty())
+        return false;
     Transaction transaction(database);
     // Another program may have made the store meanwhile.
     if (!transaction.hasBegun() || !database.readNumber("PRAGMA user_version", version))
@@ -36,6 +43,46 @@ bool bringUpToDate(Database& database, const IndexProgress& onIndexing) {
     return migrate(database, storeMigrations()) && (version > 0 || addDefaults(database)) &&
            (hasPresentSearchRules(database) || rebuildSearchIndex(database, onIndexing)) &&
            transaction.commit();
+}
+
+// Whether nothing has been put into the file yet. False where it cannot be read, too.
+bool isEmpty(Database& database) {
+    std::int64_t version = 0;
+    return database.readNumber("PRAGMA user_version", version) && version == 0 && !storeFault(database);
+}
+
+Error emptyError(const Database& database) {
+    return {u"%1 is empty: there is no news store in it."_s.arg(QDir::toNativeSeparators(database.path()))};
+}
+
+Error onlyReadError(const Database& database) {
+    return {u"%1 cannot be written to: the file or its folder is read-only."_s.arg(
+        QDir::toNativeSeparators(database.path()))};
+}
+
+Result<std::unique_ptr<Database>> openToWrite(const QString& path, Database::Mode mode,
+                                              const StoreOptions& options) {
+    // Made before the file is: a kill in between would leave a store that is still empty.
+    CharacterFolding::instance();
+    Result<std::unique_ptr<Database>> opened = Database::open(path, mode, options.busyTimeout);
+    if (!opened)
+        return opened;
+    Database& database = *opened.value();
+    // Until the file has proved usable, nothing may be written to it, not even what its log still holds.
+    database.setCheckpointOnClose(false);
+    if (std::optional<Error> fault = storeFault(database)) {
+        // The file is open: what cannot be opened is what would stand beside it.
+        const bool isShutFolder = (database.failureCode() & 0xff) == SQLITE_CANTOPEN;
+        return isShutFolder ? onlyReadError(database) : *fault;
+    }
+    if (mode == Database::Mode::Write && isEmpty(database))
+        return emptyError(database);
+    if (database.isReadOnly())
+        return onlyReadError(database);
+    if (!setUp(database) || !bringUpToDate(database, options.onIndexing))
+        return Error{database.failure()};
+    database.setCheckpointOnClose(true);
+    return opened;
 }
 
 }  // namespace
@@ -61,23 +108,39 @@ std::optional<Error> storeFault(Database& database) {
     return std::nullopt;
 }
 
+std::optional<Error> readingFault(Database& database) {
+    if (std::optional<Error> fault = storeFault(database))
+        return fault;
+    std::int64_t version = 0;
+    if (!database.readNumber("PRAGMA user_version", version))
+        return Error{database.failure()};
+    if (version == 0)
+        return emptyError(database);
+    if (version < storeVersion())
+        return Error{u"%1 is of version %2; the program brings it up to version %3 when it opens it."_s
+                         .arg(database.path())
+                         .arg(version)
+                         .arg(storeVersion())};
+    return std::nullopt;
+}
+
 Result<std::unique_ptr<Database>> openStore(const QString& path, const StoreOptions& options) {
-    // Made before the file is: a kill in between would leave a store that is still empty.
-    CharacterFolding::instance();
-    Result<std::unique_ptr<Database>> opened =
-        Database::open(path, Database::Mode::Create, options.busyTimeout);
+    return openToWrite(path, Database::Mode::Create, options);
+}
+
+Result<std::unique_ptr<Database>> openStoreToRead(const QString& path, const StoreOptions& options) {
+    Result<std::unique_ptr<Database>> writable = openToWrite(path, Database::Mode::Write, options);
+    if (writable)
+        return writable;
+    Result<std::unique_ptr<Database>> opened = Database::openToRead(path, options.busyTimeout);
     if (!opened)
         return opened;
     Database& database = *opened.value();
-    // Until the file has proved usable, nothing may be written to it, not even what its log still holds.
-    database.setCheckpointOnClose(false);
-    if (std::optional<Error> fault = storeFault(database))
+    if (std::optional<Error> fault = readingFault(database))
         return *fault;
-    if (database.isReadOnly())
-        return Error{u"%1 cannot be written to: the file or its folder is read-only."_s.arg(database.path())};
-    if (!setUp(database) || !bringUpToDate(database, options.onIndexing))
-        return Error{database.failure()};
-    database.setCheckpointOnClose(true);
+    // What cannot be written to cannot be indexed anew either.
+    if (!database.execute("PRAGMA temp_store = MEMORY") || !hasPresentSearchRules(database))
+        return writable;
     return opened;
 }
 

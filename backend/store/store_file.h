@@ -23,8 +23,15 @@ struct StoreOptions {
 // version, read-only, in use) is an error and stays as it is.
 Result<std::unique_ptr<Database>> openStore(const QString& path, const StoreOptions& options = {});
 
+// Opens a news store that is there to read it: as openStore() where it can be written to, so that an older
+// one is brought up to date; where it cannot, as it is (Database::isReadOnly()), provided that it is of the
+// present version. An absent or empty file is an error, and stays as it is.
+Result<std::unique_ptr<Database>> openStoreToRead(const QString& path, const StoreOptions& options = {});
+
 // Why this open database cannot be used as a news store; nothing when it can, or when it is still empty.
 // Reads only.
 std::optional<Error> storeFault(Database& database);
+// The same, and why it cannot be read as it is: it is still empty, or of an older version.
+std::optional<Error> readingFault(Database& database);
 
 }  // namespace wirepane

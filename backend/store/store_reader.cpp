@@ -3,6 +3,7 @@
 #include "backend/store/store_reader.h"
 
 #include "backend/store/schema.h"
+#include "host/contract/clock.h"
 
 #include <algorithm>
 
@@ -23,6 +24,11 @@ int appendEntries(std::vector<CHeadlineTable>& table, unsigned char service, Que
 
 }  // namespace
 
+std::int64_t awaitedSince() {
+    constexpr std::int64_t day = 86'400;
+    return host_clock::now() - day;
+}
+
 StoreReader::StoreReader(Database& database)
     : dataVersion(database, "PRAGMA data_version"),
       allServices(database, "SELECT id FROM services ORDER BY position, id"),
@@ -42,8 +48,9 @@ StoreReader::StoreReader(Database& database)
                   "SELECT title, category FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),
       oneReceived(database, "SELECT received FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),
       oneStory(database,
-               "SELECT text FROM headlines JOIN stories ON headline = id "
-               "WHERE service = ? AND time = ? AND sequence = ?"),
+               "SELECT coalesce(text, CASE WHEN received < ?4 THEN '' END) "
+               "FROM headlines LEFT JOIN stories ON headline = id "
+               "WHERE service = ?1 AND time = ?2 AND sequence = ?3"),
       allRelated(
           database,
           "SELECT market, code FROM headlines LEFT JOIN related_symbols ON headline = id "
@@ -132,10 +139,10 @@ std::optional<std::int64_t> StoreReader::received(const HeadlineKey& key) {
 }
 
 std::optional<QString> StoreReader::story(const HeadlineKey& key) {
-    Query query(oneStory, key.service, key.time, key.sequence);
+    Query query(oneStory, key.service, key.time, key.sequence, awaitedSince());
     if (!query.next())
-        return std::nullopt;
-    return query.text(0);
+        return QString();
+    return query.isNull(0) ? std::nullopt : std::optional(query.text(0));
 }
 
 std::optional<std::vector<CSymbolInfo>> StoreReader::relatedSymbols(const HeadlineKey& key) {

@@ -25,6 +25,10 @@ struct StoredService {
     bool authorised = false;
 };
 
+// A story that a source has promised is waited for a day: that of a headline that was taken in before this
+// moment, in seconds since 1970, will not come.
+std::int64_t awaitedSince();
+
 // The look-ups into an open store, each answered from an index. What cannot be read counts as not there.
 // Thread: that of the database, which must outlive the reader.
 class StoreReader {
@@ -52,6 +56,7 @@ public:
     std::optional<CHeadline> headline(const HeadlineKey& key);
     // When it was taken in, in seconds since 1970.
     std::optional<std::int64_t> received(const HeadlineKey& key);
+    // Empty: there is none, as for an unknown headline. Nothing: it is still to come.
     std::optional<QString> story(const HeadlineKey& key);
     // Nothing for an unknown headline; the main symbol first.
     std::optional<std::vector<CSymbolInfo>> relatedSymbols(const HeadlineKey& key);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/store_writer.h"
 
+#include "backend/clean_text.h"
 #include "backend/store/failure_sentence.h"
 #include "backend/store/item_check.h"
 
@@ -51,7 +52,7 @@ StoreWriter::StoreWriter(Database& owner)
 Done StoreWriter::begin() {
     if (database.wasTakenAway())
         return Error{takenAwaySentence(database.path())};
-    if (!database.execute("BEGIN IMMEDIATE"))
+    if (!database.begin())
         return Error{database.failure()};
     numbers.restart();
     categories.restart();
@@ -64,7 +65,7 @@ Done StoreWriter::begin() {
 Done StoreWriter::commit() {
     if (!begun)
         return Error{u"Nothing was begun that could be kept."_s};
-    if (!numbers.save() || !arrivals.trim() || !database.execute("COMMIT"))
+    if (!numbers.save() || !arrivals.trim() || !database.commit())
         return fail();
     begun = false;
     return Nothing{};
@@ -110,7 +111,7 @@ Result<StoredNews> StoreWriter::takeNews(const NewsItem& given) {
         return add(item);
     if (isLater(item, *known))
         return replace(item, *known);
-    if (item.version == known->version && item.story && !known->hasStory)
+    if (item.version == known->version && !item.story.value_or(QString()).isEmpty() && !known->hasStory)
         return addStory(item, *known);
     StoredNews stored;
     stored.outcome.take = Take::AlreadyThere;
@@ -144,12 +145,13 @@ Result<StoredNews> StoreWriter::replace(const NewsItem& item, const KnownNews& k
     if (!number.value())
         return rejected(numberTaken(item));
     place.sequence = *number.value();
-    if (!findCategory(item, place.category) || !news.replace(known.id, item, place) ||
-        !arrivals.add(news.writtenId(), false))
-        return fail();
     StoredNews stored;
     stored.key = {item.time, place.sequence, item.service};
     stored.before = keyOf(item, known);
+    const std::optional<HeadlineKey> gone = stored.before == stored.key ? std::nullopt : stored.before;
+    if (!findCategory(item, place.category) || !news.replace(known.id, item, place) ||
+        !arrivals.add(news.writtenId(), false, gone))
+        return fail();
     stored.categoryId = place.category;
     return stored;
 }
@@ -168,7 +170,7 @@ Result<StoredNews> StoreWriter::addStory(const NewsItem& item, const KnownNews& 
 Result<TakeOutcome> StoreWriter::takeStory(const HeadlineKey& key, const QString& given) {
     if (!begun)
         return Error{u"Nothing was begun that the story could be part of."_s};
-    const QString story = cleanText(given);
+    const QString story = cleanStory(given);
     if (const QString fault = faultOfStory(story); !fault.isEmpty())
         return TakeOutcome{Take::Rejected, fault};
     bool failed = false;

@@ -4,17 +4,16 @@
 
 #include "backend/store/local_day.h"
 #include "backend/store/store_file.h"
+#include "backend/store/store_reader.h"
 
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
 Result<std::unique_ptr<StoredDay>> StoredDay::open(const QString& storePath, QDate day) {
-    auto opened = Database::open(storePath, Database::Mode::Read, StoreOptions().busyTimeout);
+    auto opened = openStoreToRead(storePath);
     if (!opened)
         return Error{opened.error()};
-    if (const std::optional<Error> fault = storeFault(*opened.value()))
-        return *fault;
     std::unique_ptr<StoredDay> stored(new StoredDay(std::move(opened.value())));
     if (!stored->load(day))
         return Error{stored->database->failure()};
@@ -24,10 +23,11 @@ Result<std::unique_ptr<StoredDay>> StoredDay::open(const QString& storePath, QDa
 StoredDay::StoredDay(std::unique_ptr<Database> opened)
     : database(std::move(opened)),
       oneItem(*database,
-              "SELECT headlines.service, identity, version, time, sequence, title, text, "
+              "SELECT headlines.service, identity, version, time, sequence, title, "
+              "coalesce(text, CASE WHEN received < ?2 THEN '' END), "
               "(SELECT name FROM categories WHERE id = headlines.category AND "
               "space = CASE headlines.service WHEN 52 THEN 52 ELSE 0 END) "
-              "FROM headlines LEFT JOIN stories ON headline = headlines.id WHERE headlines.id = ?"),
+              "FROM headlines LEFT JOIN stories ON headline = headlines.id WHERE headlines.id = ?1"),
       allRelated(*database, "SELECT market, code FROM related_symbols WHERE headline = ? ORDER BY position") {
 }
 
@@ -62,7 +62,7 @@ Result<NewsItem> StoredDay::item(std::size_t index) {
     const std::int64_t id = entries[index].id;
     NewsItem item;
     {
-        Query query(oneItem, id);
+        Query query(oneItem, id, awaitedSince());
         if (!query.next())
             return Error{query.failed() ? database->failure() : u"The news is no longer in the store."_s};
         item.service = static_cast<unsigned char>(query.number(0));
@@ -71,12 +71,16 @@ Result<NewsItem> StoredDay::item(std::size_t index) {
         item.time = query.number(3);
         item.sequence = query.smallNumber(4);
         item.title = query.text(5);
-        if (!query.isNull(6))
+        if (query.isNull(6))
+            item.story.reset();
+        else
             item.story = query.text(6);
         item.category = query.text(7);
     }
     for (Query query(allRelated, id); query.next();)
         item.related.push_back({static_cast<unsigned char>(query.number(0)), query.text(1)});
+    if (!database->damage().isEmpty())
+        return Error{database->damage()};
     return item;
 }
 

@@ -9,7 +9,7 @@ namespace wirepane {
 // A writing transaction: taken back at the end of its life unless it was committed.
 class Transaction {
 public:
-    explicit Transaction(Database& database) : owner(database), begun(database.execute("BEGIN IMMEDIATE")) {}
+    explicit Transaction(Database& database) : owner(database), begun(database.begin()) {}
     ~Transaction() {
         if (begun && owner.inTransaction())
             owner.execute("ROLLBACK");
@@ -19,7 +19,7 @@ public:
 
     // False: another program is writing, or the file cannot be written; the database holds the sentence.
     bool hasBegun() const { return begun; }
-    bool commit() { return begun && owner.execute("COMMIT"); }
+    bool commit() { return begun && owner.commit(); }
 
 private:
     Database& owner;

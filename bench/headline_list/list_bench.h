@@ -59,9 +59,10 @@ public:
     }
     const std::vector<ServiceEntry>& vGetServices() const override { return services; }
     int GetNewsType() const override { return 0; }
-    QString cszTransferCatIDToCatName(int) const override { return QStringLiteral("Markets"); }
-    int GetCategoryColor(const QString&, QColor&, QColor&) const override { return 0; }
+    QString CategoryNameOf(unsigned char, int) override { return QStringLiteral("Markets"); }
+    int CategoryColourOf(unsigned char, const QString&, QColor&, QColor&) override { return 0; }
     void vCategoryStateAfterWriting() override {}
+    void vRowsReplaced(ListIndex) override {}
 
 private:
     std::vector<ServiceEntry> services;

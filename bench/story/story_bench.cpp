@@ -5,6 +5,7 @@
 // Chinese. "vs_10000" is its time as a multiple of the one at 10,000; "pause_ms" is the longest time that the
 // interface was held up at one go.
 #include "headline_list/entry_source.h"
+#include "host/contract/cfg_io.h"
 #include "story/keyword_match.h"
 #include "story/news_story_view.h"
 
@@ -110,11 +111,12 @@ void show(benchmark::State& state, const std::string& name, const CSearch& condi
     OneStory news(state.range(0));
     QWidget window;
     window.resize(640, 480);
+    MemoryCfgIO settings;
     NewsStoryView pane(&window);
     pane.resize(window.size());
     pane.vSetNewsParent(&news);
     pane.OnInitialUpdate();
-    pane.InitialViewInfo(nullptr, {}, 0, 0, {});
+    pane.InitialViewInfo(&settings, {}, 0, 0, {});
     window.show();
     QApplication::processEvents();
 

@@ -31,6 +31,20 @@ void tryForm(const QString& form, const QString& date, const QString& clock) {
     parsed.value().read(date, parts);
 }
 
+// The same text under a mapping's zone, which holds unless the text states its own.
+void tryZone(const QString& date) {
+    constexpr int east = 8 * 3600;
+    MappedTime time;
+    time.zone = QTimeZone(east);
+    const Result<std::int64_t> read = time.read(date, {});
+    const auto stated = statedTime(date);
+    promise(!read || stated, "what is read is a time");
+    if (read) {
+        promiseYear(read.value());
+        promise(read.value() == stated->moment() - (stated->hasZone ? 0 : east), "a zone is never ignored");
+    }
+}
+
 }  // namespace
 
 // Times as news formats and tables state them: a line with a form, one with a date, one with a time of day.
@@ -40,6 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const QString date = QString::fromUtf8(input.line());
     const QString clock = QString::fromUtf8(input.line());
     tryForm(form, date, clock);
+    tryZone(date);
     if (const auto time = newsTime(date)) {
         promiseYear(*time);
         const QString iso = QDateTime::fromSecsSinceEpoch(*time, Qt::UTC).toString(Qt::ISODate);

@@ -37,14 +37,15 @@ void promiseLines(QStringView text) {
     promise(taken == text.size(), "lines hold all of the text");
 }
 
-void promiseTitle(QStringView title) {
+void promiseTitle(QStringView title, bool whole) {
     qsizetype taken = 0;
-    for (const QStringView line : TitleLines(title)) {
+    for (const QStringView line : TitleLines(title, whole)) {
         promise(ByteLength(line) <= bytesPerLine && line == title.sliced(taken, line.size()),
                 "the lines of a title are its text");
         taken += line.size();
     }
-    promise(ByteLength(title) > bytesPerLine || taken == title.size(), "a short title is whole");
+    promise((!whole && ByteLength(title) > bytesPerLine) || taken == title.size(),
+            "a short title is whole, and a long one where it is to be");
     promise(ByteLength(title.sliced(taken)) <= bytesPerLine, "a long title loses 80 bytes at most");
 }
 
@@ -66,7 +67,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const QString text = input.text();
     promiseCuts(text, cut);
     promiseLines(text);
-    promiseTitle(text);
+    promiseTitle(text, false);
+    promiseTitle(text, true);
     promisePage(text);
     return 0;
 }

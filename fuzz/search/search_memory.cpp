@@ -29,7 +29,9 @@ void promiseCondition(const QString& text) {
         promise(isSame(condition, before), "a text that is no condition changes none");
         return;
     }
-    promise(isWithoutRepeats(condition.keywords), "keywords are not empty and do not repeat");
+    promise(std::none_of(condition.keywords.begin(), condition.keywords.end(),
+                         [](const QString& keyword) { return keyword.isEmpty(); }),
+            "keywords are not empty");
     promise(condition.scope <= 2 && condition.method <= 2, "scope and method are known ones");
     const QString written = condition.GetString();
     promise(!written.contains(u'\n') && !written.contains(u'\r'), "a condition is one line of text");

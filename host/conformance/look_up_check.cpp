@@ -5,6 +5,7 @@
 #include <QDate>
 
 #include <algorithm>
+#include <limits>
 #include <set>
 
 using namespace Qt::StringLiterals;
@@ -34,6 +35,7 @@ std::vector<unsigned char> checkServices(BKQuoteInterface& backEnd, Findings& fi
 }
 
 void checkNames(BKQuoteInterface& backEnd, const std::vector<unsigned char>& services, Findings& findings) {
+    bool namesOthers = false;
     for (int service = 0; service <= lastService; ++service) {
         const auto id = static_cast<unsigned char>(service);
         const bool known = std::find(services.begin(), services.end(), id) != services.end();
@@ -45,6 +47,11 @@ void checkNames(BKQuoteInterface& backEnd, const std::vector<unsigned char>& ser
             findings.Expect(!known || given, of(operation, service) + u"there is no name."_s);
             findings.Expect(given || name == sentinel,
                             of(operation, service) + u"answers false and changes the name."_s);
+            // Once is enough: who names one, names all.
+            if (given && !known && !namesOthers) {
+                namesOthers = true;
+                findings.Expect(false, of(operation, service) + u"there is a name, and no such service."_s);
+            }
         }
         if (!known)
             continue;
@@ -119,6 +126,17 @@ std::vector<CHeadlineTable> checkTable(BKQuoteInterface& backEnd, unsigned char 
     return table;
 }
 
+// Entries that look like the service's own and stand for nothing: a number, and a time, that no headline has.
+std::vector<CHeadlineTable> inventedEntries(unsigned char service,
+                                            const std::vector<CHeadlineTable>& entries) {
+    constexpr std::int64_t years = 100LL * 365 * 86400;
+    CHeadlineTable number = entries.empty() ? CHeadlineTable{1, 1, service, 0, 0} : entries.front();
+    CHeadlineTable time = number;
+    number.sequence = std::numeric_limits<std::int32_t>::max();
+    time.time -= years;
+    return {number, time};
+}
+
 void checkHeadlines(BKQuoteInterface& backEnd, unsigned char service,
                     const std::vector<CHeadlineTable>& entries, Findings& findings) {
     const QString where = of("BKQNEWS_iGetHeadline", service);
@@ -144,9 +162,20 @@ void checkHeadlines(BKQuoteInterface& backEnd, unsigned char service,
             return;
         ++place;
     }
+    std::vector<CHeadline> invented;
+    findings.Expect(backEnd.BKQNEWS_iGetHeadline(service, invented, inventedEntries(service, entries)) == 0 &&
+                        invented.empty(),
+                    where + u"there is a headline of an entry that stands for nothing."_s);
 }
 
-void checkStories(BKQuoteInterface& backEnd, const std::vector<CHeadlineTable>& entries, Findings& findings) {
+void checkStories(BKQuoteInterface& backEnd, unsigned char service,
+                  const std::vector<CHeadlineTable>& entries, Findings& findings) {
+    for (const CHeadlineTable& entry : inventedEntries(service, entries)) {
+        CStory story;
+        findings.Expect(
+            !backEnd.BKQNEWS_bGetStory(story, entry),
+            of("BKQNEWS_bGetStory", service) + u"there is a story of an entry that stands for nothing."_s);
+    }
     std::vector<CHeadlineTable> asked = entries;
     asked.push_back({-1, -1, 0, -1, -1});
     for (const CHeadlineTable& entry : asked) {
@@ -204,6 +233,6 @@ std::vector<CHeadlineTable> CheckNews(BKQuoteInterface& backEnd, unsigned char s
         checkTable(backEnd, service, byDate, backEnd.BKQNEWS_cszGetCurrDateByService(service), findings);
     entries.resize(std::min(entries.size(), mostEntries));
     checkHeadlines(backEnd, service, entries, findings);
-    checkStories(backEnd, entries, findings);
+    checkStories(backEnd, service, entries, findings);
     return entries;
 }

@@ -56,6 +56,61 @@ private:
     bool sending = false;
 };
 
+// Hears which headlines and stories can be had now.
+class MissListener : public NewsReceiver {
+public:
+    explicit MissListener(BKQuoteInterface& heard) : backEnd(heard) { backEnd.Attach(this); }
+    ~MissListener() override { backEnd.Detach(this); }
+
+    void RespStory(const CHeadlineTable& entry) override { vTake(stories, entry); }
+    void RespHeadLine(const std::vector<CHeadlineTable>& entries) override {
+        for (const CHeadlineTable& entry : entries)
+            vTake(headlines, entry);
+    }
+
+    // Missed, and not told of yet.
+    std::vector<HeadlineKey> stories;
+    std::vector<HeadlineKey> headlines;
+
+private:
+    static void vTake(std::vector<HeadlineKey>& missed, const CHeadlineTable& entry) {
+        std::erase(missed, KeyOf(entry));
+    }
+
+    BKQuoteInterface& backEnd;
+};
+
+// What is looked up and is not at hand is told of without being asked for again.
+void checkMisses(BKQuoteInterface& backEnd, unsigned char service, const std::vector<CHeadlineTable>& entries,
+                 std::chrono::milliseconds patience, Findings& findings) {
+    MissListener listener(backEnd);
+    for (const CHeadlineTable& entry : entries) {
+        if (entry.service != service)
+            continue;
+        CStory story;
+        std::vector<CHeadline> headline;
+        if (!backEnd.BKQNEWS_bGetStory(story, entry))
+            listener.stories.push_back(KeyOf(entry));
+        if (backEnd.BKQNEWS_iGetHeadline(service, headline, {entry}) == 0)
+            listener.headlines.push_back(KeyOf(entry));
+    }
+    WaitUntil([&] { return listener.stories.empty() && listener.headlines.empty(); }, patience);
+    const auto expectAllTold = [&](const std::vector<HeadlineKey>& missed, const QString& operation,
+                                   const QString& answer) {
+        if (missed.empty())
+            return;
+        findings.Expect(
+            false,
+            u"%1, service %2, number %3: not at hand, and no %4 tells when it is (%5 such)."_s.arg(operation)
+                .arg(service)
+                .arg(missed.front().sequence)
+                .arg(answer)
+                .arg(missed.size()));
+    };
+    expectAllTold(listener.stories, u"BKQNEWS_bGetStory"_s, u"RespStory"_s);
+    expectAllTold(listener.headlines, u"BKQNEWS_iGetHeadline"_s, u"RespHeadLine"_s);
+}
+
 // What users type that a query language might take for its own.
 const std::vector<QString> hostileKeywords{u"\"'(*)"_s, u"a AND NOT b"_s, u"%_\\"_s, QString(QChar(0xdc00)),
                                            QString(10000, u'x')};
@@ -65,6 +120,7 @@ const std::vector<QString> hostileKeywords{u"\"'(*)"_s, u"a AND NOT b"_s, u"%_\\
 void CheckRequests(BKQuoteInterface& backEnd, unsigned char service,
                    const std::vector<CHeadlineTable>& entries, std::chrono::milliseconds patience,
                    Findings& findings) {
+    checkMisses(backEnd, service, entries, patience, findings);
     Listener listener(backEnd, findings);
     listener.askedService = service;
     listener.key = backEnd.BKQNEWS_cszGetCurrDateByService(service);

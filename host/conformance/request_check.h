@@ -8,8 +8,8 @@
 #include <chrono>
 #include <vector>
 
-// The duties of what is answered later: tables and stories that are asked for again, and searches, of one
-// service. `entries` are some of its news.
+// The duties of what is answered later: what a look-up has missed, tables and stories that are asked for
+// again, and searches, of one service. `entries` are some of its news.
 void CheckRequests(BKQuoteInterface& backEnd, unsigned char service,
                    const std::vector<CHeadlineTable>& entries, std::chrono::milliseconds patience,
                    Findings& findings);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/contract/bk_quote_interface.h"
 
+#include "host/contract/misuse.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -24,11 +26,13 @@ void BKQuoteInterface::SetBKInterface(BKQuoteInterface* backEnd) {
 }
 
 void BKQuoteInterface::Attach(NewsReceiver* receiver) {
+    RequireInterfaceThread("BKQuoteInterface::Attach");
     if (receiver != nullptr && std::find(receivers.begin(), receivers.end(), receiver) == receivers.end())
         receivers.push_back(receiver);
 }
 
 void BKQuoteInterface::Detach(NewsReceiver* receiver) {
+    RequireInterfaceThread("BKQuoteInterface::Detach");
     UnregisterSymbols(receiver);
     if (deliveries > 0)
         std::replace(receivers.begin(), receivers.end(), receiver, static_cast<NewsReceiver*>(nullptr));
@@ -37,6 +41,7 @@ void BKQuoteInterface::Detach(NewsReceiver* receiver) {
 }
 
 void BKQuoteInterface::ForEachReceiver(const std::function<void(NewsReceiver&)>& call) {
+    RequireInterfaceThread("BKQuoteInterface::ForEachReceiver, by which a back end answers and tells news,");
     ++deliveries;
     // By index: a receiver may attach another one, which is called too.
     for (std::size_t i = 0; i < receivers.size(); ++i) {

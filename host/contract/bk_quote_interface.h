@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/contract/news_receiver.h"
 #include "host/contract/records.h"
 #include "host/contract/search_condition.h"
@@ -26,8 +27,12 @@ inline constexpr int nameWithMonth = 2020;
 // Thread: every operation is called on, and every answer must arrive on, the interface thread. No operation
 // may run an event loop or throw. Look-ups must return at once: what is not at hand is reported as absent.
 //
-// A host must implement the operations that are pure. The others have a default that answers "nothing".
-class BKQuoteInterface {
+// A view asks for a title or a story once and does not ask again by itself: who has missed a look-up is owed
+// an answer unasked, RespHeadLine or RespStory, when it can be had, and also when it turns out that there is
+// none (then the story is found, and empty, while the answer is told).
+//
+// A host must implement the seven operations that are pure. The others have a default that answers "nothing".
+class WIREPANE_CONTRACT_EXPORT BKQuoteInterface {
 public:
     BKQuoteInterface() = default;
     BKQuoteInterface(const BKQuoteInterface&) = delete;
@@ -61,7 +66,8 @@ public:
     // Fills `services` with the ids of the news services, in the order in which lists and menus show them.
     // False, and `services` empty, when there are none.
     virtual bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& services) = 0;
-    // Display names. False, and `name` unchanged, for an unknown service.
+    // Display names. False, and `name` unchanged, for a service that BKQNEWS_bGetAllNewsService does not
+    // give.
     virtual bool BKQNEWS_bGetFullNameByService(QString& name, unsigned char service) = 0;
     virtual bool BKQNEWS_bGetShortNameByService(QString& name, unsigned char service);
     // The service's current news date as yyyymmdd.
@@ -71,9 +77,11 @@ public:
     // The category ids (decimal texts) and names of a service, pairwise. False: both empty.
     virtual bool bNewsAPI_GetNewsCatId(unsigned char service, std::vector<QString>& ids,
                                        std::vector<QString>& names);
-    // Non-zero when the user may see this service.
+    // Non-zero when the user may see this service. Views have symbol news only where it says so of
+    // service 16.
     virtual int BKQCheckAuthSupport(unsigned char service);
-    // Fills `services` with the ids of all services that carry symbols. False: none.
+    // Fills `services` with the ids of all services that carry symbols. False: none. Symbol news is offered
+    // of the markets 16, 122 and 22 (or the delayed one of 22) alone, see fixed_services.h.
     virtual bool bGetAllServiceID(std::vector<unsigned char>& services);
     // The id under which a service's delayed data comes. False, and `delayed` unchanged, when there is none.
     virtual bool bGetServiceID2Delay(unsigned char service, unsigned char& delayed);
@@ -110,10 +118,10 @@ public:
     virtual int BKQNEWS_iGetHeadlineTable(unsigned char service, std::vector<CHeadlineTable>& table, int kind,
                                           const QString& key) = 0;
     // Appends the headlines of those entries that belong to `service` and are at hand to `headlines`, in the
-    // order of the entries. Result: how many were appended.
+    // order of the entries. Result: how many were appended. Those that are missing are owed by RespHeadLine.
     virtual int BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadline>& headlines,
                                      const std::vector<CHeadlineTable>& entries) = 0;
-    // True when the story is at hand; otherwise `story` is unchanged.
+    // True when the story is at hand; otherwise `story` is unchanged, and it is owed by RespStory.
     virtual bool BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) = 0;
     // The symbols related to a headline. False, and `symbols` unchanged, when they are not at hand.
     virtual bool BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& symbols, const CHeadlineTable& entry);
@@ -143,7 +151,9 @@ public:
     // `out` becomes `in` converted; the default leaves it as it is.
     virtual void LangConvertToSimplifiedChinese(const QString& in, QString& out);
 
-    // The folder that holds "Application.ini" and "NewsService.ini", without a separator at its end.
+    // The folder that holds "Application.ini" and "NewsService.ini", without a separator at its end. The host
+    // writes both, before a view opens; docs/embedding_reference.md gives their form. A category that neither
+    // the second nor bNewsAPI_GetNewsCatId names reads as still to come. Default: the program's folder.
     virtual QString PathGetSysPath();
 
 protected:

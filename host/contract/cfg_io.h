@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -17,7 +19,7 @@ struct ViewSettingPath {
 
 // The host's store of per-view settings. A value is a boolean, an integer, a text or a list of texts.
 // Interface thread only.
-class TRVCfgIO2 {
+class WIREPANE_CONTRACT_EXPORT TRVCfgIO2 {
 public:
     TRVCfgIO2() = default;
     TRVCfgIO2(const TRVCfgIO2&) = delete;
@@ -41,7 +43,7 @@ protected:
 };
 
 // Settings kept in memory: for scripts, tests and hosts that keep none. One view; the path is not looked at.
-class MemoryCfgIO : public TRVCfgIO2 {
+class WIREPANE_CONTRACT_EXPORT MemoryCfgIO : public TRVCfgIO2 {
 public:
     QMap<QString, QVariant> values;
 

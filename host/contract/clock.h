@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QDate>
 
 #include <cstdint>
@@ -11,12 +13,12 @@
 namespace host_clock {
 
 // The present moment in seconds since 1970 (UTC).
-std::int64_t now();
+WIREPANE_CONTRACT_EXPORT std::int64_t now();
 
 // The local calendar day of the present moment.
-QDate today();
+WIREPANE_CONTRACT_EXPORT QDate today();
 
 // From here on the present moment is `secondsSince1970` plus the time that passes.
-void startAt(std::int64_t secondsSince1970);
+WIREPANE_CONTRACT_EXPORT void startAt(std::int64_t secondsSince1970);
 
 }  // namespace host_clock

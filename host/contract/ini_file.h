@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QString>
@@ -9,7 +11,7 @@
 // A small reader of the host's ini files. Section and key names are compared without regard to case, values
 // are taken as they stand (trimmed, one pair of enclosing quotation marks removed), the first of equal keys
 // counts. The bytes are UTF-8 or, where they are not valid UTF-8, code page 950.
-class IniFile {
+class WIREPANE_CONTRACT_EXPORT IniFile {
 public:
     // Reads a file of at most 1 MiB. A missing, unreadable or larger file gives an IniFile without values.
     static IniFile load(const QString& path);

@@ -30,3 +30,8 @@ void TRVItemDisplay::GetNewsCatColor(int, QColor& text, QColor& background) {
     text = QColor();
     background = QColor();
 }
+
+void TRVItemDisplay::GetWarrantCatColor(int, QColor& text, QColor& background) {
+    text = QColor();
+    background = QColor();
+}

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QColor>
 
 // How the host displays items of its catalogues. Interface thread only.
-class TRVItemDisplay {
+class WIREPANE_CONTRACT_EXPORT TRVItemDisplay {
 public:
     TRVItemDisplay() = default;
     TRVItemDisplay(const TRVItemDisplay&) = delete;
@@ -18,4 +20,7 @@ public:
 
     // The colours of a news category; an invalid colour means the grid's own.
     virtual void GetNewsCatColor(int categoryId, QColor& text, QColor& background);
+    // The same for warrants, whose categories have ids of their own. A host that does not override it leaves
+    // them in the grid's colours.
+    virtual void GetWarrantCatColor(int categoryId, QColor& text, QColor& background);
 };

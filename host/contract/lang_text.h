@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QLatin1StringView>
 #include <QString>
 
 // The text of a language key in the language in force, from the installed back end; the key itself without
 // one.
-QString LangText(QLatin1StringView key);
+WIREPANE_CONTRACT_EXPORT QString LangText(QLatin1StringView key);

@@ -6,7 +6,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
 #include <limits>
 #include <optional>
 
@@ -29,7 +28,7 @@ std::vector<QString> keywordsFrom(const QJsonArray& texts) {
     std::vector<QString> keywords;
     for (const auto& text : texts) {
         const QString keyword = text.toString();
-        if (!keyword.isEmpty() && std::find(keywords.begin(), keywords.end(), keyword) == keywords.end())
+        if (!keyword.isEmpty())
             keywords.push_back(keyword);
     }
     return keywords;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/contract/records.h"
 
 #include <QString>
@@ -9,8 +10,9 @@
 #include <cstdint>
 #include <vector>
 
-// A search condition. The keywords keep their order of insertion and never repeat.
-struct CSearch {
+// A search condition. The keywords keep their order of insertion. Those of a warning term may repeat, as its
+// user wrote them; others do not.
+struct WIREPANE_CONTRACT_EXPORT CSearch {
     std::vector<QString> keywords;
     unsigned char scope = 0;           // 0 headlines, 1 stories, 2 headlines and stories
     unsigned char method = 0;          // 0 not set, 1 all keywords must match, 2 any keyword may match
@@ -20,8 +22,8 @@ struct CSearch {
 
     // The condition as a text of one line, whatever its keywords hold.
     QString GetString() const;
-    // Reads back what GetString made. False, and the condition unchanged, for any other text; a keyword that
-    // repeats or is empty is left out.
+    // Reads back what GetString made. False, and the condition unchanged, for any other text; an empty
+    // keyword is left out.
     bool LoadStringA(const QString& text);
 };
 

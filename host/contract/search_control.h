@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QString>
 
 #include <vector>
 
 // The host's search over its symbol table. Interface thread only.
-class SearchControl {
+class WIREPANE_CONTRACT_EXPORT SearchControl {
 public:
     SearchControl() = default;
     SearchControl(const SearchControl&) = delete;
@@ -28,4 +30,4 @@ public:
 };
 
 // True for the code of an ordinary security of the stock exchange (service 16): any but an index ("#...").
-bool bIsNormalTWSESymbolID(unsigned char service, const QString& code);
+WIREPANE_CONTRACT_EXPORT bool bIsNormalTWSESymbolID(unsigned char service, const QString& code);

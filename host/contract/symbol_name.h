@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/contract/records.h"
 
 #include <optional>
@@ -9,4 +10,5 @@
 class BKQuoteInterface;
 
 // The name that the host shows of a symbol; none when it has none at hand.
-std::optional<QString> SymbolName(BKQuoteInterface& backEnd, const CSymbolInfo& symbol);
+WIREPANE_CONTRACT_EXPORT std::optional<QString> SymbolName(BKQuoteInterface& backEnd,
+                                                           const CSymbolInfo& symbol);

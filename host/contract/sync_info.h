@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QColor>
 #include <QFont>
 #include <QString>
 
 // The host's global settings, as far as the module reads them. Interface thread only. Every operation has a
 // default, so that a small host installs none or overrides what it knows.
-class CSyncInfo {
+class WIREPANE_CONTRACT_EXPORT CSyncInfo {
 public:
     CSyncInfo() = default;
     CSyncInfo(const CSyncInfo&) = delete;

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QListWidget>
 
 // A list of items with a check box each; several can be selected. Rows count from 0 and must exist. Ticks
 // tell of themselves by itemChanged, whoever makes them.
-class CCheckListBox : public QListWidget {
+class WIREPANE_HOST_EXPORT CCheckListBox : public QListWidget {
     Q_OBJECT
 
 public:

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QPixmap>
 #include <QPushButton>
 
 // A button that is nothing but a picture, another one for each of its states.
-class CHoverButton : public QPushButton {
+class WIREPANE_HOST_EXPORT CHoverButton : public QPushButton {
     Q_OBJECT
 
 public:

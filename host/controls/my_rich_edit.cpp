@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/my_rich_edit.h"
 
+#include "host/controls/long_runs.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
@@ -9,6 +11,8 @@
 #include <QScrollBar>
 #include <QTextCursor>
 #include <QTextDocumentFragment>
+
+#include <algorithm>
 
 MyRichEdit::MyRichEdit(QWidget* parent) : QPlainTextEdit(parent) {
     setReadOnly(true);
@@ -21,13 +25,40 @@ MyRichEdit::MyRichEdit(QWidget* parent) : QPlainTextEdit(parent) {
 
 void MyRichEdit::vSetText(const QString& text) {
     shown = text;
-    setPlainText(text);
+    QString lines = text;
+    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    breaks = LongRunBreaks(lines);
+    setPlainText(breaks.empty() ? lines : Broken(lines, breaks));
+}
+
+QString MyRichEdit::szGetShownText() const {
+    return Whole(document()->toRawText(), 0, breaks);
+}
+
+// The place in the document of a character of the shown text, or of the end of the one before it.
+int MyRichEdit::inDocument(int character, bool behindBreak) const {
+    const auto before = behindBreak ? std::upper_bound(breaks.begin(), breaks.end(), character)
+                                    : std::lower_bound(breaks.begin(), breaks.end(), character);
+    return character + static_cast<int>(before - breaks.begin());
+}
+
+int MyRichEdit::inText(int place) const {
+    int passed = 0;
+    while (passed < static_cast<int>(breaks.size()) &&
+           breaks[static_cast<std::size_t>(passed)] + passed < place)
+        ++passed;
+    return place - passed;
+}
+
+std::pair<int, int> MyRichEdit::GetSelection() const {
+    const QTextCursor cursor = textCursor();
+    return {inText(cursor.selectionStart()), inText(cursor.selectionEnd())};
 }
 
 void MyRichEdit::vSetSelection(int start, int end) {
     QTextCursor selection(document());
-    selection.setPosition(start);
-    selection.setPosition(end, QTextCursor::KeepAnchor);
+    selection.setPosition(inDocument(start, true));
+    selection.setPosition(inDocument(end, false), QTextCursor::KeepAnchor);
     const bool inSight = viewport()->rect().contains(cursorRect(selection));
     setTextCursor(selection);
     if (!inSight)
@@ -93,6 +124,7 @@ void MyRichEdit::keyPressEvent(QKeyEvent* event) {
 
 QMimeData* MyRichEdit::createMimeDataFromSelection() const {
     auto* copied = new QMimeData;
-    copied->setText(textCursor().selection().toPlainText());
+    const QTextCursor cursor = textCursor();
+    copied->setText(Whole(cursor.selection().toPlainText(), cursor.selectionStart(), breaks));
     return copied;
 }

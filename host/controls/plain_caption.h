@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QString>
 
 // Captions of buttons and tabs take '&' as the mark of a key. Names are data: these write one so that its '&'
 // is shown, and read back what is shown: a mark alone is not.
-QString CaptionOfName(QString name);
-QString NameOfCaption(QString caption);
+WIREPANE_HOST_EXPORT QString CaptionOfName(QString name);
+WIREPANE_HOST_EXPORT QString NameOfCaption(QString caption);
 // The caption where it shall offer no key: without the mark ("&Print"), or what was added for it
 // ("列印(&P)").
-QString CaptionWithoutKey(QString caption);
+WIREPANE_HOST_EXPORT QString CaptionWithoutKey(QString caption);

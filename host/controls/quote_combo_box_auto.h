@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/controls/sc_combo_box.h"
 
 #include <vector>
@@ -16,7 +17,7 @@ class QStringListModel;
 // keyboard.
 //
 // Taking an offer tells SelChange and then CloseUp, as choosing from the drop-down does.
-class CQuoteComboBoxAuto : public SCComboBox {
+class WIREPANE_HOST_EXPORT CQuoteComboBoxAuto : public SCComboBox {
     Q_OBJECT
 
 public:

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QColor>
 #include <QLabel>
 
 // A line of plain text in colours of its own; colours that were not set (invalid) follow the palette.
-class CQuoteStaticEx : public QLabel {
+class WIREPANE_HOST_EXPORT CQuoteStaticEx : public QLabel {
     Q_OBJECT
 
 public:

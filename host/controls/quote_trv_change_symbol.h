@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/contract/records.h"
 
 #include <QDialog>
@@ -16,7 +17,7 @@ class QTreeWidgetItem;
 // double click or Enter on a symbol reports it to the picker's parent by the registered message
 // "RVMSGCHANGESYMBOLBYSEARCH", whose first parameter points to a CSymbolInfo; the picker stays open.
 // Modeless; the installed back end gives the symbols, which are read when their market is opened.
-class QuoteTRVChangeSymbol : public QDialog {
+class WIREPANE_HOST_EXPORT QuoteTRVChangeSymbol : public QDialog {
     Q_OBJECT
 
 public:

@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QWidget>
 
+RegisteredMessageEvent::~RegisteredMessageEvent() = default;
+
 QEvent::Type RegisterMessage(const QString& name) {
     static QHash<QString, int> types;
     auto known = types.constFind(name);

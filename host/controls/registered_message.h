@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QEvent>
 #include <QString>
 
@@ -9,17 +11,19 @@ class QWidget;
 
 // Messages that cross module boundaries are known by name: the same name gives the same event type in host
 // and module. Interface thread only.
-QEvent::Type RegisterMessage(const QString& name);
+WIREPANE_HOST_EXPORT QEvent::Type RegisterMessage(const QString& name);
 
 // A registered message with its two parameters.
-class RegisteredMessageEvent : public QEvent {
+class WIREPANE_HOST_EXPORT RegisteredMessageEvent : public QEvent {
 public:
     RegisteredMessageEvent(QEvent::Type type, quintptr first, quintptr second)
         : QEvent(type), firstParameter(first), secondParameter(second) {}
+    ~RegisteredMessageEvent() override;
 
     const quintptr firstParameter;
     const quintptr secondParameter;
 };
 
 // Delivers a message to `window` at once; a null window takes nothing.
-void SendRegisteredMessage(QWidget* window, QEvent::Type type, quintptr first, quintptr second = 0);
+WIREPANE_HOST_EXPORT void SendRegisteredMessage(QWidget* window, QEvent::Type type, quintptr first,
+                                                quintptr second = 0);

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <vector>
 
 // Says for each row of a list which row it was in an earlier state of the list, or that it is new. It keeps
 // runs of neighbours, so that it stays small while most rows keep their neighbours. Rows count from 0.
-class RowRuns {
+class WIREPANE_HOST_EXPORT RowRuns {
 public:
     static constexpr int isNew = -1;
 

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QPushButton>
 
 // A push button that Enter presses as Space does, and that cuts a text too long for it with dots instead of
 // at both ends.
-class SButton : public QPushButton {
+class WIREPANE_HOST_EXPORT SButton : public QPushButton {
     Q_OBJECT
 
 public:

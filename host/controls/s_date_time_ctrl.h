@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QDateEdit>
 
 // A date picker with a drop-down calendar, which F4, Alt+Down and the arrow open, and which speaks the
 // language of the default locale. It tells of the user's changes only, at once and in this order: DropDown,
 // any number of DateTimeChange, CloseUp. Esc closes the calendar and goes back to the date it was opened
 // with, or that was set meanwhile.
-class SDateTimeCtrl : public QDateEdit {
+class WIREPANE_HOST_EXPORT SDateTimeCtrl : public QDateEdit {
     Q_OBJECT
 
 public:
@@ -20,7 +22,7 @@ public:
     // Opens the calendar, as the user does.
     void vDropDown();
 
-signals:
+Q_SIGNALS:
     // The calendar opens.
     void DropDown();
     // The user changed the date, in the line or in the open calendar.

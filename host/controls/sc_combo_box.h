@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QComboBox>
 
 // A combo box whose drop-down is a list under the box, quick also with tens of thousands of items. Items are
 // data: their '&' is shown.
-class SCComboBox : public QComboBox {
+class WIREPANE_HOST_EXPORT SCComboBox : public QComboBox {
     Q_OBJECT
 
 public:
@@ -19,7 +21,7 @@ public:
     void setModel(QAbstractItemModel* model) override;
     void showPopup() override;
 
-signals:
+Q_SIGNALS:
     // The drop-down closed, for whatever reason. When the user chose an item, it is the current one by then.
     // Told from the event loop, once for each time the drop-down was open.
     void CloseUp();

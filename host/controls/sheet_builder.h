@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/controls/row_runs.h"
 
 #include <QAbstractTableModel>
@@ -13,7 +14,7 @@
 
 // Where a sheet takes the texts of its cells from. The sheet asks for rows on screen only, each time it
 // paints them, and keeps nothing: answers must be quick. Interface thread.
-class SheetCells {
+class WIREPANE_HOST_EXPORT SheetCells {
 public:
     SheetCells() = default;
     SheetCells(const SheetCells&) = delete;
@@ -34,7 +35,7 @@ public:
 // Rows that come and go one by one are queued: the cells' source has them at once, the model takes all of
 // them up together, later in the same turn of the event loop or when vTakeUpQueue is called. Until then its
 // rows show the cells that they had. Nothing may be queued from a slot of the model's signals.
-class CSheetBuilder : public QAbstractTableModel {
+class WIREPANE_HOST_EXPORT CSheetBuilder : public QAbstractTableModel {
     Q_OBJECT
 
 public:
@@ -82,7 +83,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-signals:
+Q_SIGNALS:
     void QueueAboutToBeTakenUp();
     void QueueTakenUp();
 

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QColor>
 #include <QPalette>
 
 // The colours of a sheet's rows. A colour that was not set (invalid) follows the palette, so a sheet without
 // colours of its own fits a light and a dark scheme.
-struct SheetColours {
+struct WIREPANE_HOST_EXPORT SheetColours {
     QColor evenRow;
     QColor oddRow;
     QColor text;

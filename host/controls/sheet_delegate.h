@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/controls/sheet_colours.h"
 
 #include <QStyledItemDelegate>
@@ -10,7 +11,7 @@ class QAbstractItemView;
 
 // Draws the cells of a sheet: one line of plain text on the row's colour, cut with dots at the right. Marked
 // rows (selected or current) keep the colours of their texts.
-class SheetDelegate : public QStyledItemDelegate {
+class WIREPANE_HOST_EXPORT SheetDelegate : public QStyledItemDelegate {
 public:
     static constexpr int margin = 4;  // between a cell's edge and its text, in pixels
 

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QHeaderView>
 
 // The header row of a sheet: flat, one line of plain text per column, lined up with the cells below, with
 // a mark on the column that the rows are sorted by while the sort indicator is shown. Colours
 // that were not set (invalid) follow the palette's buttons.
-class SheetHeader : public QHeaderView {
+class WIREPANE_HOST_EXPORT SheetHeader : public QHeaderView {
 public:
     explicit SheetHeader(QWidget* parent);
 

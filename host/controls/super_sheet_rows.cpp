@@ -40,6 +40,12 @@ void CSuperSheetWnd::scrollTo(const QModelIndex& index, ScrollHint hint) {
         QTableView::scrollTo(index, hint);
 }
 
+void CSuperSheetWnd::vSetFirstVisibleRow(int row) {
+    takeUpRows();
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(row);
+}
+
 int CSuperSheetWnd::iGetFirstVisibleRow() const {
     takeUpRows();
     // With rows of one height, scrolled by the row, the bar's value is the row: asking the header would walk
@@ -94,6 +100,31 @@ void CSuperSheetWnd::vSetActiveSelection(int row, int column) {
     setAutoScroll(false);
     selectionModel()->setCurrentIndex(builder->index(row, shown),
                                       QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    setAutoScroll(scrolls);
+}
+
+void CSuperSheetWnd::vSelectRows(std::vector<int> rows, int current) {
+    vClearSelection();
+    const int last = iGetRowCount() - 1;
+    const auto shown = std::find_if(widths.begin(), widths.end(), [](int width) { return width > 0; });
+    const auto column = static_cast<int>(shown - widths.begin());
+    if (selectionModel() == nullptr || !hasColumn(column))
+        return;
+    std::sort(rows.begin(), rows.end());
+    QItemSelection selection;
+    for (std::size_t i = 0; i < rows.size();) {
+        const int first = rows[i];
+        int end = first;
+        for (; i < rows.size() && rows[i] <= end + 1; ++i)
+            end = rows[i];
+        if (first >= 0 && end <= last)
+            selection.select(builder->index(first, 0), builder->index(end, builder->columnCount() - 1));
+    }
+    const bool scrolls = hasAutoScroll();
+    setAutoScroll(false);
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (current >= 0 && current <= last)
+        selectionModel()->setCurrentIndex(builder->index(current, column), QItemSelectionModel::NoUpdate);
     setAutoScroll(scrolls);
 }
 

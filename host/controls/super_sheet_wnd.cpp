@@ -171,6 +171,11 @@ void CSuperSheetWnd::sectionResized(int column, int size) {
     stretchLastColumn();
 }
 
+void CSuperSheetWnd::vStretchLastColumn(bool stretch) {
+    lastColumnStretches = stretch;
+    stretchLastColumn();
+}
+
 void CSuperSheetWnd::stretchLastColumn() {
     const auto shown = std::find_if(widths.rbegin(), widths.rend(), [](int width) { return width > 0; });
     if (shown == widths.rend() || stretching)
@@ -182,7 +187,8 @@ void CSuperSheetWnd::stretchLastColumn() {
         others += widths[column];
         setColumnWidth(column, widths[column]);
     }
-    setColumnWidth(last, std::max(widths[last], viewport()->width() - others));
+    const int room = lastColumnStretches ? viewport()->width() - others : 0;
+    setColumnWidth(last, std::max(widths[last], room));
     stretching = false;
 }
 

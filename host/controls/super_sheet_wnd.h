@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/controls/sheet_builder.h"
 
 #include <QTableView>
@@ -19,7 +20,7 @@ class SheetHeader;
 //
 // Tells its parent by the registered message "RVMSG_CHANGESIZE" that its size changed; the first parameter is
 // this sheet.
-class CSuperSheetWnd : public QTableView {
+class WIREPANE_HOST_EXPORT CSuperSheetWnd : public QTableView {
     Q_OBJECT
 
 public:
@@ -36,9 +37,10 @@ public:
     void vSetHeaderRowHeight(int height);
     void vSetRowHeight(int height);
 
-    // Columns are cut at their width; the last one is stretched to the sheet's right edge when there is room.
-    // The user can resize them.
+    // Columns are cut at their width; the last one is stretched to the sheet's right edge when there is room,
+    // unless vStretchLastColumn says otherwise. The user can resize them.
     void vInsertColumn(int width, Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter);
+    void vStretchLastColumn(bool stretch);
     // The header texts are the sheet's accessible name, until another one is set.
     void vSetHeaderText(int column, const QString& text);
     // A width of 0 takes the column out of sight, and out of the user's reach.
@@ -58,6 +60,8 @@ public:
     void vInsertRow(int row);
     void vDeleteRow(int row);
     void vMoveRowToTop(int row);
+    // True in signals that come of this, and not of the user.
+    bool bIsTakingUpRows() const { return takingUp; }
     int iGetRowCount() const;
     // What stands in the middle of the sheet while it has no rows.
     void vSetEmptyText(const QString& text);
@@ -70,6 +74,8 @@ public:
     void vResetScroll();
     // Scrolls no further than brings the row fully into sight.
     void vAutoVerScrolling(int row);
+    // As far as there are rows below it.
+    void vSetFirstVisibleRow(int row);
     // 0 also when there are no rows.
     int iGetFirstVisibleRow() const;
     // What iGetFirstVisibleRow would say, without taking anything up.
@@ -89,6 +95,9 @@ public:
     void vGetAllSelectionNdx(std::vector<int>& rows) const;
     // Selects the row alone and makes it current, without scrolling; column -1: the row as a whole.
     void vSetActiveSelection(int row, int column);
+    // Selects these rows, ascending or not, and no others, and makes `current` current (-1: none), without
+    // scrolling.
+    void vSelectRows(std::vector<int> rows, int current);
     // No row is selected or current.
     void vClearSelection();
 
@@ -104,7 +113,7 @@ public:
     void vSetFgColor(const QColor& colour);
     void vSetFont(const QFont& font);
 
-signals:
+Q_SIGNALS:
     // The left button was released, was clicked twice, over the rows or below them, without Ctrl or Shift
     // (which change the selection); the sheet has acted on it. The point is one of the sheet.
     void LButtonUp(const QPoint& point);
@@ -153,6 +162,7 @@ private:
     int wantedRowHeight = 20;
     int wantedHeaderHeight = 20;
     bool stretching = false;
+    bool lastColumnStretches = true;
     int shownFirst = 0;  // the first visible row before and after rows are taken up
     int shownShift = 0;
     bool othersComeOnScreen = false;

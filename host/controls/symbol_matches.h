@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QString>
 
 #include <functional>
@@ -10,5 +12,5 @@
 // Which of `count` items, texts "CODE NAME", fit what was typed: at most `most` indexes, an exact code first,
 // then codes that begin with it, then names that contain it; each group in the items' order, cases alike.
 // Nothing fits an empty text.
-std::vector<int> SymbolMatches(const QString& typed, int count, const std::function<QString(int)>& text,
-                               int most);
+WIREPANE_HOST_EXPORT std::vector<int> SymbolMatches(const QString& typed, int count,
+                                                    const std::function<QString(int)>& text, int most);

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QProxyStyle>
 
 // Thin scroll bars: no arrows, a plain groove, a thumb of the text's colour. The bars must not outlive the
 // style.
-class ThinBarStyle : public QProxyStyle {
+class WIREPANE_HOST_EXPORT ThinBarStyle : public QProxyStyle {
 public:
     explicit ThinBarStyle(QObject* parent);
 

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QLabel>
 #include <QTimer>
 
 // A short notice over other windows: a frame, plain text, no title, never the keyboard. A click takes it
 // away.
-class CXTTipWindow : public QLabel {
+class WIREPANE_HOST_EXPORT CXTTipWindow : public QLabel {
     Q_OBJECT
 
 public:

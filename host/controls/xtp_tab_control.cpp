@@ -33,6 +33,19 @@ QString CXTPTabControl::szGetTabText(int index) const {
     return NameOfCaption(tabText(index));
 }
 
+void CXTPTabControl::SetColorSet(const TRVTabColorSet& colours) {
+    QPalette own;
+    if (colours.background.isValid()) {
+        own.setColor(QPalette::Window, colours.background);
+        own.setColor(QPalette::Button, colours.background);
+    }
+    if (colours.text.isValid()) {
+        own.setColor(QPalette::WindowText, colours.text);
+        own.setColor(QPalette::ButtonText, colours.text);
+    }
+    setPalette(own);
+}
+
 int CXTPTabControl::iGetItemData(int index) const {
     return tabData(index).toInt();
 }

@@ -2,10 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
+#include <QColor>
 #include <QTabBar>
 
+// The colours of a strip of tabs; an invalid one means the palette's.
+struct TRVTabColorSet {
+    QColor background;
+    QColor text;
+};
+
 // A strip of tabs with a number each. Texts are data: their '&' is shown.
-class CXTPTabControl : public QTabBar {
+class WIREPANE_HOST_EXPORT CXTPTabControl : public QTabBar {
     Q_OBJECT
 
 public:
@@ -18,12 +27,14 @@ public:
     // 0 for an index out of range.
     int iGetItemData(int index) const;
 
+    void SetColorSet(const TRVTabColorSet& colours);
+
     // The selected tab; -1 when there is none.
     int GetCurSel() const { return currentIndex(); }
     // Selects a tab: currentChanged tells of it, SelChange does not. An index out of range is ignored.
     void SetCurSel(int index);
 
-signals:
+Q_SIGNALS:
     // The user selected another tab, by mouse, wheel or keys.
     void SelChange(int index);
 

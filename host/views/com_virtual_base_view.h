@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/views/virtual_base_view.h"
 
 #include <QColor>
@@ -11,10 +12,10 @@
 class QPainter;
 
 // The height in pixels of a line of text in this font.
-int g_iGetFontHeight(const QFont& font);
+WIREPANE_HOST_EXPORT int g_iGetFontHeight(const QFont& font);
 
 // A view with the host's font and colours, a title band, a frame border and a picture for "not supported".
-class RVComVirtualBaseView : public TRVVirtualBaseView {
+class WIREPANE_HOST_EXPORT RVComVirtualBaseView : public TRVVirtualBaseView {
     Q_OBJECT
 
 public:

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 class QWidget;
 
 // What the bare story window needs of the host's main frame that it belongs to. Interface thread only.
-class CMainFrame {
+class WIREPANE_HOST_EXPORT CMainFrame {
 public:
-    virtual ~CMainFrame() = default;
+    virtual ~CMainFrame();
 
     // The window that the story window belongs to, which outlives it.
     virtual QWidget* pGetWindow() = 0;

@@ -2,9 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "host/views/news_module.h"
 
+#include "host/views/main_frame_window.h"
+
 #include <QFileInfo>
 #include <QObject>
 #include <QPluginLoader>
+
+// Their type information stands here alone, for the host as for the module.
+CMainFrame::~CMainFrame() = default;
+NewsStoryWindow::~NewsStoryWindow() = default;
+NewsModule::~NewsModule() = default;
+NewsViewAccess::~NewsViewAccess() = default;
 
 NewsModule* LoadNewsModule(const QString& file, QString& error) {
     QPluginLoader loader(QFileInfo(file).absoluteFilePath());

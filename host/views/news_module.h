@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/contract/records.h"
 #include "host/views/news_output.h"
 
@@ -18,9 +19,9 @@ class QWidget;
 class TRVQuoteBaseView;
 
 // A bare story window of the module, filled by the host's main frame. Interface thread only.
-class NewsStoryWindow {
+class WIREPANE_HOST_EXPORT NewsStoryWindow {
 public:
-    virtual ~NewsStoryWindow() = default;
+    virtual ~NewsStoryWindow();
 
     // To be shown, hidden and placed; belongs to the main frame's window.
     virtual QWidget* pGetWindow() = 0;
@@ -33,9 +34,9 @@ public:
 };
 
 // What a terminal uses a news module through, which it loads at run time. Interface thread only.
-class NewsModule {
+class WIREPANE_HOST_EXPORT NewsModule {
 public:
-    virtual ~NewsModule() = default;
+    virtual ~NewsModule();
 
     // The names of the view classes that CreateView knows, such as "TRVNewsCtrlView".
     virtual QStringList ViewClasses() const = 0;
@@ -49,7 +50,8 @@ public:
     virtual NewsStoryWindow* CreateStoryWindow(CMainFrame* mainFrame) = 0;
 
     // Lays the news of these entries out and prints it into a PDF file; saves it as text. What the back end
-    // has not at hand is left out. Needs no window, the application must be one with windows all the same.
+    // has not at hand is left out, and the outcome says so; when that is all of it, it failed, and a file of
+    // that name stays as it is. Needs no window, the application must be one with windows all the same.
     virtual NewsOutcome PrintNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) = 0;
     virtual NewsOutcome SaveNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) = 0;
 };
@@ -59,12 +61,13 @@ Q_DECLARE_INTERFACE(NewsModule, WIREPANE_NEWS_MODULE_IID)
 
 // What a terminal and its scripts can do with a news view beyond what any view offers. A news view implements
 // it beside its base class: dynamic_cast from TRVQuoteBaseView.
-class NewsViewAccess {
+class WIREPANE_HOST_EXPORT NewsViewAccess {
 public:
-    virtual ~NewsViewAccess() = default;
+    virtual ~NewsViewAccess();
 
-    // 0: with an embedded story pane; 1: two columns, no pane; 2: symbol news only; 3: no pane, no page
-    // buttons. Set it before InitialViewInfo.
+    // 0: with an embedded story pane; 1: the news of the link group's symbol alone in two columns, time and
+    // title, without pane, never taking the keyboard; 2: symbol news alone; 3: no pane, no page buttons. Set
+    // it before InitialViewInfo.
     virtual void vSetNewsType(int newsType) = 0;
 
     // The view's own state under the names of the automation interface (mode, newsType, services, ...),
@@ -90,4 +93,4 @@ public:
 
 // Loads the module from a file. Null when that fails; `error` then says why, in a sentence with the file's
 // name. The module stays loaded until the process ends.
-NewsModule* LoadNewsModule(const QString& file, QString& error);
+WIREPANE_HOST_EXPORT NewsModule* LoadNewsModule(const QString& file, QString& error);

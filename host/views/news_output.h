@@ -17,11 +17,14 @@ struct OutputTarget {
     QString file;
     NewsFileType type = NewsFileType::CodePage950;  // of a saved file
     QString paper;                                  // of printed pages, such as "A4"; empty: as the system
+    // NewsModule: titles of several lines keep their tail, but in a file of code page 950. A view decides by
+    // its settings.
+    bool wholeTitles = false;
 };
 
 // What came of it.
 struct NewsOutcome {
-    int count = 0;         // pages printed, bytes saved
+    int count = 0;         // pages printed, bytes saved; headlines shown in a preview
     bool waiting = false;  // it is put out when the titles and stories that are missing have come
     bool failed = false;
     QString message;  // a sentence for the user, with the file's name; empty: nothing to tell

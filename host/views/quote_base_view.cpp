@@ -3,6 +3,7 @@
 #include "host/views/quote_base_view.h"
 
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/misuse.h"
 
 TRVQuoteBaseView::TRVQuoteBaseView(QWidget* parent) : RVComVirtualBaseView(parent) {}
 
@@ -19,6 +20,12 @@ void TRVQuoteBaseView::OnInitialUpdate() {
 
 void TRVQuoteBaseView::InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
                                        const QString& name) {
+    RequireInterfaceThread("TRVQuoteBaseView::InitialViewInfo");
+    RequireOfHost(reader != nullptr,
+                  "TRVQuoteBaseView::InitialViewInfo was given no reader of settings: give it an "
+                  "object that stays, such as a MemoryCfgIO.");
+    RequireOfHost(settingsReader == nullptr,
+                  "TRVQuoteBaseView::InitialViewInfo was called twice on one view.");
     settingsReader = reader;
     settingsPath = {section, first, second, name};
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/contract/cfg_io.h"
+#include "host/contract/export.h"
 #include "host/contract/news_receiver.h"
 #include "host/views/com_virtual_base_view.h"
 
@@ -13,7 +14,7 @@ enum class DataState : int { Normal = 0, NotSupported = 1 };
 
 // A view of quotes or news: it hears the back end, has a current symbol and a link group, and keeps settings.
 // It attaches itself to the installed back end in OnInitialUpdate and detaches when it is destroyed.
-class TRVQuoteBaseView : public RVComVirtualBaseView, public NewsReceiver {
+class WIREPANE_HOST_EXPORT TRVQuoteBaseView : public RVComVirtualBaseView, public NewsReceiver {
     Q_OBJECT
 
 public:
@@ -59,7 +60,7 @@ public:
     // 1 when the user may see this service.
     static int bIsAuthService(unsigned char service);
 
-signals:
+Q_SIGNALS:
     // The user has chosen a symbol here that the views of `group` shall follow.
     void SendChangeSymbol(unsigned char group, unsigned char service, const QString& code);
     // The view has something to tell the user that does not go by itself: a sentence, such as why a file
@@ -83,6 +84,6 @@ private:
 };
 
 // Real-time distribution by the installed back end; without one nothing happens.
-void C_RegisterSymbol(TRVQuoteBaseView* view, const std::vector<CSymbolInfo>& added,
-                      const std::vector<CSymbolInfo>& removed);
-void C_UnRegisterSymbol(TRVQuoteBaseView* view);
+WIREPANE_HOST_EXPORT void C_RegisterSymbol(TRVQuoteBaseView* view, const std::vector<CSymbolInfo>& added,
+                                           const std::vector<CSymbolInfo>& removed);
+WIREPANE_HOST_EXPORT void C_UnRegisterSymbol(TRVQuoteBaseView* view);

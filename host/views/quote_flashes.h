@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/contract/records.h"
 
 #include <QHash>
@@ -10,7 +11,7 @@
 
 // Which quotes have changed just now. A flash lasts some ticks of the list's timer; a tick costs as much as
 // there are flashes.
-class QuoteFlashes {
+class WIREPANE_HOST_EXPORT QuoteFlashes {
 public:
     // Begins a flash, or begins it anew.
     void start(const CSymbolInfo& symbol);

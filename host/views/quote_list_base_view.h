@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/controls/sheet_builder.h"
 #include "host/views/quote_base_view.h"
 #include "host/views/quote_columns.h"
@@ -21,7 +22,7 @@ class CSuperSheetWnd;
 // The list is created with CreateView and filled with vSetSymbols, which registers the symbols for real-time
 // distribution. Updates gather and are shown together in the next turn of the event loop. A row that the user
 // focuses by mouse or keyboard is announced by SendChangeSymbol; one that code focuses is not.
-class QuoteListBaseView : public TRVQuoteBaseView, private SheetCells {
+class WIREPANE_HOST_EXPORT QuoteListBaseView : public TRVQuoteBaseView, private SheetCells {
     Q_OBJECT
 
 public:

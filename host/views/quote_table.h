@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/contract/records.h"
 
 #include <QHash>
@@ -21,17 +22,17 @@ struct QuoteRow {
 };
 
 // The change in percent of the previous close; nothing where there is no quote or the close was nothing.
-std::optional<double> PercentOf(const QuoteRow& row);
+WIREPANE_HOST_EXPORT std::optional<double> PercentOf(const QuoteRow& row);
 // 1: risen, -1: fallen, 0: neither, or no quote.
-int DirectionOf(const QuoteRow& row);
+WIREPANE_HOST_EXPORT int DirectionOf(const QuoteRow& row);
 // What stands in a cell. Prices with two to four decimals, as many as price and change need; changes with
 // their sign; "--" for a number that is not known.
-QString TextOf(const QuoteRow& row, QuoteColumn column);
+WIREPANE_HOST_EXPORT QString TextOf(const QuoteRow& row, QuoteColumn column);
 
 // The rows of a quote list and their order, without anything on screen. Rows count from 0. An update costs
 // the same in a list of any length: it moves no row. Where the order depends on what it changed, isStale()
 // says so, and resort() puts the rows in order.
-class QuoteTable {
+class WIREPANE_HOST_EXPORT QuoteTable {
 public:
     // The symbols in their own order; one that stands twice counts once. What is known of those that stay is
     // kept, and so is the sorting.

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QColor>
 #include <QFont>
 #include <QString>
@@ -9,8 +11,8 @@
 class CSuperSheetWnd;
 
 // A colour of the host by its name, or `fallback` where its scheme lacks it.
-QColor HostColour(const QString& name, const QColor& fallback);
+WIREPANE_HOST_EXPORT QColor HostColour(const QString& name, const QColor& fallback);
 
 // Gives a sheet the host's colours of this moment, where the host has none those of its palette, and the
 // font.
-void ApplyHostScheme(CSuperSheetWnd& sheet, const QFont& font);
+WIREPANE_HOST_EXPORT void ApplyHostScheme(CSuperSheetWnd& sheet, const QFont& font);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QBasicTimer>
 #include <QString>
 #include <QWidget>
@@ -13,7 +15,7 @@ class RegisteredMessageEvent;
 
 // The root of the views that a host places in its frames: timers by number, registered messages, commands by
 // number. Views live on the interface thread and belong to their parent.
-class TRVVirtualBaseView : public QWidget {
+class WIREPANE_HOST_EXPORT TRVVirtualBaseView : public QWidget {
     Q_OBJECT
 
 public:

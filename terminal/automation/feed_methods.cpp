@@ -131,7 +131,7 @@ Answer FeedMethods::push(Params& params) {
     item.title = params.text(u"title"_s);
     item.categoryId = static_cast<std::int32_t>(params.optionalNumber(u"category"_s).value_or(0));
     item.related = symbolsFrom(params);
-    item.story = params.optionalText(u"story"_s);
+    item.story = params.optionalText(u"story"_s);  // without one it is still to come
     const QString symbol = params.optionalText(u"symbol"_s).value_or(QString());
     if (params.error())
         return {};

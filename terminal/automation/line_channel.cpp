@@ -4,6 +4,13 @@
 
 namespace wirepane {
 
+void LineChannel::setHeld(bool nowHeld) {
+    if (nowHeld == held)
+        return;
+    held = nowHeld;
+    heldChanged();
+}
+
 void LineChannel::received(const QByteArray& bytes) {
     splitter.feed(
         bytes, [this](const QByteArray& line) { emit lineReceived(line); }, [this] { emit lineTooLong(); });

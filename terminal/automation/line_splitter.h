@@ -19,6 +19,8 @@ public:
               const std::function<void()>& tooLong);
     // The stream has ended: a line without a line feed counts too.
     void finish(const std::function<void(const QByteArray&)>& line);
+    // What is kept of a line whose end has not come.
+    qsizetype unfinishedBytes() const { return unfinished.size(); }
 
 private:
     void endLine(const std::function<void(const QByteArray&)>& line);

@@ -6,20 +6,33 @@ using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
+namespace {
+constexpr qsizetype requestBytes = 256;  // that a request takes beside its text, about
+}
+
 RequestQueue::RequestQueue(const MethodTable& table, QObject* parent) : QObject(parent), methods(table) {}
 
 void RequestQueue::listenTo(LineChannel* channel) {
     connect(channel, &LineChannel::lineReceived, this, [this, channel](const QByteArray& line) {
-        enqueue({channel, parseRequest(line)});
+        enqueue({channel, line.size() + requestBytes, parseRequest(line)});
     });
+    connect(channel, &QObject::destroyed, this, [this, channel] { waitingBytes.remove(channel); });
     connect(channel, &LineChannel::lineTooLong, this, [this, channel] {
-        enqueue({channel, RejectedLine{QJsonValue::Null,
-                                       {RpcCode::InvalidRequest, u"the line is longer than %1 MiB"_s.arg(
-                                                                     LineSplitter::longestLine >> 20)}}});
+        enqueue({channel, requestBytes,
+                 RejectedLine{QJsonValue::Null,
+                              {RpcCode::InvalidRequest,
+                               u"the line is longer than %1 MiB"_s.arg(LineSplitter::longestLine >> 20)}}});
     });
 }
 
+// A client that asks faster than it is answered waits with what more it has to ask.
+void RequestQueue::holdWhenFull(LineChannel* channel) {
+    channel->setHeld(waitingBytes.value(channel) >= mostWaiting);
+}
+
 void RequestQueue::enqueue(Entry entry) {
+    waitingBytes[entry.channel] += entry.bytes;
+    holdWhenFull(entry.channel);
     waiting.push_back(std::move(entry));
     schedule();
 }
@@ -38,6 +51,10 @@ void RequestQueue::runNext() {
     running = true;
     const Entry entry = std::move(waiting.front());
     waiting.pop_front();
+    if (entry.channel) {
+        waitingBytes[entry.channel] -= entry.bytes;
+        holdWhenFull(entry.channel);
+    }
     if (const auto* rejected = std::get_if<RejectedLine>(&entry.request)) {
         answer(entry.channel, rejected->id, Answer(rejected->error));
         return;

@@ -5,6 +5,7 @@
 #include "terminal/automation/line_channel.h"
 #include "terminal/automation/method_table.h"
 
+#include <QHash>
 #include <QObject>
 #include <QPointer>
 
@@ -31,17 +32,22 @@ signals:
     void becameIdle();
 
 private:
+    static constexpr qsizetype mostWaiting = 4 * 1024 * 1024;  // of one client, in bytes of its lines, about
+
     struct Entry {
         QPointer<LineChannel> channel;
+        qsizetype bytes = 0;  // of its line
         std::variant<RpcRequest, RejectedLine> request;
     };
 
     void enqueue(Entry entry);
+    void holdWhenFull(LineChannel* channel);
     void schedule();
     void runNext();
     void answer(const QPointer<LineChannel>& channel, const QJsonValue& id, const Answer& answer);
     const MethodTable& methods;
     std::deque<Entry> waiting;
+    QHash<LineChannel*, qsizetype> waitingBytes;
     bool running = false;    // a request has not been answered yet
     bool scheduled = false;  // runNext is on its way through the event loop
 };

@@ -9,10 +9,6 @@
 
 namespace wirepane {
 
-namespace {
-constexpr std::size_t chunkSize = 64 * 1024;
-}
-
 StandardChannel::StandardChannel(QObject* parent)
     : LineChannel(parent), output(dup(STDOUT_FILENO)), notifier(STDIN_FILENO, QSocketNotifier::Read) {
     dup2(STDERR_FILENO, STDOUT_FILENO);
@@ -27,14 +23,19 @@ StandardChannel::~StandardChannel() {
 }
 
 void StandardChannel::read() {
-    std::array<char, chunkSize> buffer;
+    std::array<char, chunk> buffer;
     const ssize_t count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
     if (count > 0) {
         received(QByteArray(buffer.data(), count));
     } else if (count == 0 || (errno != EINTR && errno != EAGAIN)) {
+        hasEnded = true;
         notifier.setEnabled(false);
         receivedAll();
     }
+}
+
+void StandardChannel::heldChanged() {
+    notifier.setEnabled(!isHeld() && !hasEnded);
 }
 
 void StandardChannel::send(const QByteArray& line) {
@@ -44,8 +45,11 @@ void StandardChannel::send(const QByteArray& line) {
             ::write(output, line.constData() + sent, static_cast<std::size_t>(line.size() - sent));
         if (count < 0 && errno == EINTR)
             continue;
-        if (count <= 0)
+        if (count <= 0) {
+            if (lostBy == 0 && errno != EPIPE)
+                lostBy = errno;
             return;
+        }
         sent += count;
     }
 }

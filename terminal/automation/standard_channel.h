@@ -18,11 +18,18 @@ public:
     ~StandardChannel() override;
 
     void send(const QByteArray& line) override;
+    // Why a line did not get there although somebody reads (errno, the first time); 0: all did.
+    int writeError() const { return lostBy; }
+
+protected:
+    void heldChanged() override;
 
 private:
     void read();
 
     int output;
+    bool hasEnded = false;
+    int lostBy = 0;
     QSocketNotifier notifier;
 };
 

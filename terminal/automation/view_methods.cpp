@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/automation/view_methods.h"
 
+#include "host/contract/view_options.h"
 #include "terminal/automation/view_lookup.h"
 #include "terminal/automation/window_report.h"
 #include "terminal/session/session.h"
@@ -28,6 +29,8 @@ std::unique_ptr<MemoryCfgIO> settingsFrom(Params& params) {
     }
     if (const auto mask = params.optionalNumber(u"mask"_s))
         settings->values.insert(u"EnabledFunctions"_s, static_cast<int>(*mask));
+    if (params.optionalBool(u"own"_s).value_or(false))
+        ViewOptions::writeMissing(*settings, {});
     return settings;
 }
 
@@ -59,7 +62,7 @@ Answer ViewMethods::open(Params& params) {
 }
 
 Answer ViewMethods::openDocked(Params& params) {
-    for (const QString& name : {u"size"_s, u"mask"_s, u"typeName"_s, u"settings"_s, u"section"_s}) {
+    for (const QString& name : {u"size"_s, u"mask"_s, u"typeName"_s, u"settings"_s, u"section"_s, u"own"_s}) {
         if (params.has(name))
             params.fail(u"a docked view takes no \"%1\""_s.arg(name));
     }

@@ -46,7 +46,8 @@ std::optional<int> CommandArguments::read() {
         return exitDone;
     }
     if (parser.isSet(u"help"_s)) {
-        printLine(parser.helpText().trimmed());
+        for (const QString& line : parser.helpText().trimmed().split(u'\n'))
+            printLine(line);
         return exitDone;
     }
     return std::nullopt;

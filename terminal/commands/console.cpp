@@ -2,10 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/console.h"
 
+#include "backend/clean_text.h"
+#include "terminal/commands/exit_status.h"
+
 #include <QElapsedTimer>
 #include <QtGlobal>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 #if defined(Q_OS_WIN)
 #include <io.h>
@@ -26,26 +31,44 @@ bool errorIsTerminal() {
     return terminal;
 }
 
-void print(std::FILE* stream, const QString& text) {
+// Why output was lost, the first time that it was; 0: none was.
+int lostOutput = 0;
+
+bool print(std::FILE* stream, const QString& text) {
     const QByteArray bytes = text.toLocal8Bit();
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
-    std::fflush(stream);
+    const auto size = static_cast<std::size_t>(bytes.size());
+    return std::fwrite(bytes.constData(), 1, size, stream) == size && std::fflush(stream) == 0;
 }
 
 }  // namespace
 
 void printLine(const QString& text) {
-    print(stdout, text + u'\n');
+    errno = 0;
+    if (!print(stdout, escapedText(text) + u'\n'))
+        noteLostOutput(errno != 0 ? errno : EIO);
+}
+
+int statusOfOutput(int status) {
+    if (lostOutput == 0)
+        return status;
+    printNote(u"Standard output could not be written to its end: %1."_s.arg(
+        QString::fromLocal8Bit(std::strerror(lostOutput))));
+    return exitUnusable;
+}
+
+void noteLostOutput(int systemError) {
+    if (lostOutput == 0)
+        lostOutput = systemError;
 }
 
 void printNote(const QString& text) {
     clearPassing();
-    print(stderr, text + u'\n');
+    print(stderr, escapedText(text) + u'\n');
 }
 
 void printPassing(const QString& text) {
     if (errorIsTerminal())
-        print(stderr, u"\r\033[K"_s + text);
+        print(stderr, u"\r\033[K"_s + escapedText(text));
 }
 
 void clearPassing() {

@@ -9,9 +9,16 @@
 
 namespace wirepane {
 
-// A line on standard output, for results; on standard error, for everything else.
+// A line on standard output, for results; on standard error, for everything else. What a console would obey
+// instead of showing it (control characters, text-direction marks) is written as "\u001b".
 void printLine(const QString& text);
 void printNote(const QString& text);
+
+// What the program returns after all: `status`, unless a line on standard output did not get there (a full
+// disk), which is then said.
+int statusOfOutput(int status);
+// Takes down why something else was not written to standard output (errno; 0: it was).
+void noteLostOutput(int systemError);
 
 // A line on standard error that the next one overwrites; nothing where standard error is no terminal.
 void printPassing(const QString& text);

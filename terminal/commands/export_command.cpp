@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/export_command.h"
 
+#include "backend/store/embedded_back_end.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "host/views/news_module.h"
@@ -10,7 +11,6 @@
 #include "terminal/commands/exit_status.h"
 #include "terminal/commands/news_query.h"
 #include "terminal/session/module_location.h"
-#include "terminal/session/store_opening.h"
 #include "terminal/translations/languages.h"
 
 #include <QDir>
@@ -57,6 +57,7 @@ ExportOptions optionsOf(CommandArguments& arguments) {
     options.target.file = rest.value(0);
     options.pdf = options.target.file.endsWith(u".pdf"_s, Qt::CaseInsensitive);
     options.target.type = parser.isSet(u"utf8"_s) ? NewsFileType::Utf8 : NewsFileType::CodePage950;
+    options.target.wholeTitles = true;
     options.target.paper = parser.value(u"paper"_s);
     options.condition = conditionOf(arguments, rest.mid(1));
     options.day = host_clock::today();
@@ -79,7 +80,7 @@ Result<std::vector<CHeadlineTable>> wantedNews(EmbeddedBackEnd& backEnd, const E
     if (services.empty())
         backEnd.BKQNEWS_bGetAllNewsService(services);
     if (!options.condition.keywords.empty()) {
-        const auto store = openStore(backEnd.storePath());
+        const auto store = openStoreToRead(backEnd.storePath());
         if (!store)
             return Error{store.error()};
         const auto found = findAll(*store.value(), services, options.condition);
@@ -100,6 +101,20 @@ int unusable(const QString& sentence) {
     return exitUnusable;
 }
 
+// Reads all that is going to be written: nothing is, where the store is damaged on the way.
+bool isReadable(EmbeddedBackEnd& backEnd, const std::vector<CHeadlineTable>& wanted) {
+    std::vector<CHeadline> headlines;
+    CStory story;
+    CNewsSymLst symbols;
+    for (auto entry = wanted.begin(); entry != wanted.end() && backEnd.storeDamage().isEmpty(); ++entry) {
+        headlines.clear();
+        backEnd.BKQNEWS_iGetHeadline(entry->service, headlines, {*entry});
+        backEnd.BKQNEWS_bGetStory(story, *entry);
+        backEnd.BKNEWS_GetSymbolListBySeqNo(symbols, *entry);
+    }
+    return backEnd.storeDamage().isEmpty();
+}
+
 int exportNews(EmbeddedBackEnd& backEnd, const ExportOptions& options) {
     const auto module = loadModule();
     if (!module)
@@ -107,6 +122,8 @@ int exportNews(EmbeddedBackEnd& backEnd, const ExportOptions& options) {
     const auto wanted = wantedNews(backEnd, options);
     if (!wanted)
         return unusable(wanted.error());
+    if (!isReadable(backEnd, wanted.value()))
+        return unusable(backEnd.storeDamage());
     if (wanted.value().empty()) {
         printNote(u"There is no such news; nothing was written."_s);
         return exitPartly;
@@ -137,16 +154,17 @@ int runExport() {
         return *status;
     if (!QFileInfo::exists(arguments.storeFile()))
         return unusable(u"There is no store %1."_s.arg(QDir::toNativeSeparators(arguments.storeFile())));
-    const auto backEnd = openBackEnd(arguments.storeFile(), false, indexingLines());
-    if (!backEnd)
-        return unusable(backEnd.error());
+    auto store = openStoreToRead(arguments.storeFile(), {.onIndexing = indexingLines()});
+    if (!store)
+        return unusable(store.error());
+    const auto backEnd = std::make_unique<EmbeddedBackEnd>(std::move(store.value()));
     const QString language =
         arguments.parser.isSet(u"lang"_s) ? arguments.parser.value(u"lang"_s) : Languages::ofSystem();
     Languages languages;
     languages.use(language);
-    backEnd.value()->setConvertsToSimplified(language == u"zh-CN"_s);
-    BKQuoteInterface::SetBKInterface(backEnd.value().get());
-    return exportNews(*backEnd.value(), options);
+    backEnd->setConvertsToSimplified(language == u"zh-CN"_s);
+    BKQuoteInterface::SetBKInterface(backEnd.get());
+    return exportNews(*backEnd, options);
 }
 
 }  // namespace wirepane

@@ -35,14 +35,15 @@ int endWith(StandardChannel& channel, const ImportTotals& totals) {
                      .arg(totals.alreadyThere)
                      .arg(totals.rejected)
                      .toLocal8Bit());
+    noteLostOutput(channel.writeError());
     return totals.rejected > 0 ? exitPartly : exitDone;
 }
 
 // Lines from standard input into a store, a portion whenever nothing more is at hand.
 class StoreFeed : public QObject {
 public:
-    StoreFeed(Database& store, StandardChannel& input, unsigned char service, bool receipts)
-        : writer(store), channel(input), lines(service) {
+    StoreFeed(Database& database, StandardChannel& input, unsigned char service, bool receipts)
+        : store(database), writer(database), channel(input), lines(service) {
         lines.onHello([this, receipts](const FeedHello& hello) {
             const Result<QString> position = writer.positionOf(hello.source);
             if (receipts && position)
@@ -54,11 +55,13 @@ public:
                 showRejection(rejection.place, rejection.reason);
             if (receipts)
                 channel.send(receiptLine(receipt));
+            channel.setHeld(lines.isFull());
         });
         pumping.setSingleShot(true);
         connect(&pumping, &QTimer::timeout, this, &StoreFeed::pump);
         connect(&channel, &LineChannel::lineReceived, this, [this](const QByteArray& line) {
             lines.add(line);
+            channel.setHeld(lines.isFull());
             pumpSoon();
         });
         connect(&channel, &LineChannel::lineTooLong, this, [this] {
@@ -85,6 +88,9 @@ private:
             if (taken)
                 lines.settle(taken.value());
             retries = taken ? 0 : retries + 1;
+            // No trying again mends a damaged store.
+            if (!store.damage().isEmpty())
+                retries = mostRetries + 1;
             if (retries == 1)
                 printNote(taken.error());
             if (retries > mostRetries) {
@@ -99,6 +105,7 @@ private:
             QCoreApplication::exit(exitDone);
     }
 
+    Database& store;
     StoreWriter writer;
     StandardChannel& channel;
     LineSource lines;
@@ -126,19 +133,29 @@ int feedTerminal(const QString& name, unsigned char service) {
     StandardChannel channel;
     FeedClient client(name, {QString(), service});
     bool hasEnded = false;
+    bool isReached = false;  // an input without lines, too, is for a terminal that is there
     const auto endWhenDone = [&] {
-        if (hasEnded && client.unconfirmed() == 0)
+        if (hasEnded && isReached && client.unconfirmed() == 0)
             QCoreApplication::exit(exitDone);
     };
-    QObject::connect(&channel, &LineChannel::lineReceived, &client,
-                     [&client](const QByteArray& line) { client.send(line); });
+    QObject::connect(&channel, &LineChannel::lineReceived, &client, [&](const QByteArray& line) {
+        client.send(line);
+        channel.setHeld(client.isFull());
+    });
     QObject::connect(&channel, &LineChannel::lineTooLong, &client,
                      [] { printNote(u"A line is too long; it was left out."_s); });
     QObject::connect(&channel, &LineChannel::ended, &client, [&] {
         hasEnded = true;
         endWhenDone();
     });
-    QObject::connect(&client, &FeedClient::confirmed, &client, endWhenDone);
+    QObject::connect(&client, &FeedClient::connectionMade, &client, [&] {
+        isReached = true;
+        endWhenDone();
+    });
+    QObject::connect(&client, &FeedClient::confirmed, &client, [&] {
+        channel.setHeld(client.isFull());
+        endWhenDone();
+    });
     QObject::connect(&client, &FeedClient::rejected, &client, &showRejection);
     QObject::connect(&client, &FeedClient::connectionLost, &client,
                      [] { printNote(u"The connection is lost; it is tried again."_s); });

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/interrupt.h"
 
+#include <cerrno>
 #include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
 #include <utility>
 
 namespace wirepane {
@@ -13,6 +16,30 @@ std::function<void()> onInterrupt;
 
 void handle(int) {
     onInterrupt();
+}
+
+// A signal may do little; what it writes here wakes the event loop.
+int signalPipe[2] = {-1, -1};
+constexpr int endSignals[] = {SIGINT, SIGTERM, SIGHUP};
+
+void wakeEventLoop(int) {
+    const int before = errno;
+    const char any = 0;
+    [[maybe_unused]] const ssize_t written = write(signalPipe[1], &any, 1);
+    errno = before;
+}
+
+void handleEndSignals(void (*handler)(int)) {
+    for (const int signal : endSignals) {
+        struct sigaction present {};
+        sigaction(signal, nullptr, &present);
+        if (present.sa_handler == SIG_IGN)
+            continue;
+        struct sigaction wanted {};
+        wanted.sa_handler = handler;
+        wanted.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
+        sigaction(signal, &wanted, nullptr);
+    }
 }
 
 }  // namespace
@@ -27,6 +54,32 @@ OnInterrupt::~OnInterrupt() {
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
     onInterrupt = nullptr;
+}
+
+OnEndSignal::OnEndSignal(std::function<void()> action) {
+    if (pipe(signalPipe) != 0)
+        return;
+    for (const int end : signalPipe) {
+        fcntl(end, F_SETFD, FD_CLOEXEC);
+        fcntl(end, F_SETFL, O_NONBLOCK);
+    }
+    notifier = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
+    QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(),
+                     [this, action = std::move(action)] {
+                         notifier->setEnabled(false);
+                         come = true;
+                         action();
+                     });
+    handleEndSignals(&wakeEventLoop);
+}
+
+OnEndSignal::~OnEndSignal() {
+    if (!notifier)
+        return;
+    handleEndSignals(SIG_DFL);
+    notifier.reset();
+    for (int& end : signalPipe)
+        close(std::exchange(end, -1));
 }
 
 }  // namespace wirepane

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QSocketNotifier>
+
 #include <functional>
+#include <memory>
 
 namespace wirepane {
 
@@ -14,6 +17,24 @@ public:
     OnInterrupt(const OnInterrupt&) = delete;
     OnInterrupt& operator=(const OnInterrupt&) = delete;
     ~OnInterrupt();
+};
+
+// While it lives, Ctrl+C, a polite kill and the end of the user's session (SIGINT, SIGTERM, SIGHUP) call
+// `action` from the event loop, so that the program can put its things in order; a second signal ends it at
+// once. One that was ignored from the start, as under nohup, still is. One at a time.
+class OnEndSignal {
+public:
+    explicit OnEndSignal(std::function<void()> action);
+    OnEndSignal(const OnEndSignal&) = delete;
+    OnEndSignal& operator=(const OnEndSignal&) = delete;
+    ~OnEndSignal();
+
+    // Whether a signal has come and `action` was called.
+    bool hasCome() const { return come; }
+
+private:
+    bool come = false;
+    std::unique_ptr<QSocketNotifier> notifier;
 };
 
 }  // namespace wirepane

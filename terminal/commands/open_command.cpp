@@ -7,6 +7,7 @@
 #include "terminal/commands/command_arguments.h"
 #include "terminal/commands/console.h"
 #include "terminal/commands/exit_status.h"
+#include "terminal/commands/interrupt.h"
 #include "terminal/feed/feed_name.h"
 #include "terminal/session/frame_commands.h"
 #include "terminal/session/session.h"
@@ -88,6 +89,11 @@ Done openWorkspace(Session& session) {
     return session.keeper().restore();
 }
 
+// Not even a dialog that is open holds up the end that the system asks for.
+void endTerminal() {
+    QCoreApplication::exit(exitDone);
+}
+
 // The user's terminal. Without a store of their own, users start with the sample wire.
 int runForUser(Session& session) {
     const FrameCommands commands(session);
@@ -126,6 +132,7 @@ int runOpened(const OpenOptions& options, StandardChannel* channel) {
         printNote(session.error());
         return exitUnusable;
     }
+    const OnEndSignal ending(&endTerminal);
     if (!session.value()->settingsMessage().isEmpty())
         printNote(session.value()->settingsMessage());
     return options.isScripted() ? runForScripts(*session.value(), options, channel)
@@ -160,7 +167,10 @@ int runTerminal() {
     // Before anything else can print.
     const std::unique_ptr<StandardChannel> channel =
         options.automation ? std::make_unique<StandardChannel>() : nullptr;
-    return runOpened(options, channel.get());
+    const int status = runOpened(options, channel.get());
+    if (channel)
+        noteLostOutput(channel->writeError());
+    return status;
 }
 
 }  // namespace wirepane

@@ -7,6 +7,7 @@
 #include "terminal/commands/command_arguments.h"
 #include "terminal/commands/console.h"
 #include "terminal/commands/exit_status.h"
+#include "terminal/commands/interrupt.h"
 #include "terminal/feed/feed_name.h"
 #include "terminal/feed/replay.h"
 
@@ -89,7 +90,14 @@ int reportEnd(const FeedClient& client, bool asNew) {
     return totals.rejected > 0 ? exitPartly : exitDone;
 }
 
-int play(const Request& request, StoredDay& day) {
+// Why a replay that a signal has ended is over.
+int stopped() {
+    clearPassing();
+    printNote(u"Stopped."_s);
+    return exitPartly;
+}
+
+int play(const Request& request, StoredDay& day, const OnEndSignal& ending) {
     FeedClient client(request.target, {request.options.run, 1});
     Replay replay(day, client, request.options);
     QObject::connect(&replay, &Replay::finished, &replay, [] { QCoreApplication::exit(exitDone); });
@@ -115,6 +123,8 @@ int play(const Request& request, StoredDay& day) {
     // A terminal that is being opened takes its time.
     client.start(request.opens ? triesWhileOpening : triesWhileOpen);
     const int status = QCoreApplication::exec();
+    if (ending.hasCome())
+        return stopped();
     return status == exitDone ? reportEnd(client, request.options.asNew) : status;
 }
 
@@ -124,7 +134,7 @@ Done makeStoreLike(const StoredDay& day, const QString& file) {
 }
 
 // The terminal lives on after the last headline, until its user closes it.
-int playInOwnTerminal(Request request, StoredDay& day) {
+int playInOwnTerminal(Request request, StoredDay& day, const OnEndSignal& ending) {
     const QTemporaryDir folder;
     request.target = folder.filePath(u"feed"_s);
     const std::int64_t begin = std::max(request.options.from, day.timeOf(0));
@@ -145,8 +155,10 @@ int playInOwnTerminal(Request request, StoredDay& day) {
         return exitUnusable;
     }
     QObject::connect(&terminal, &QProcess::finished, &terminal, [] { QCoreApplication::exit(exitDone); });
-    const int status = play(request, day);
-    if (status == exitUnusable)
+    const int status = play(request, day, ending);
+    if (status != exitUnusable && !ending.hasCome() && terminal.state() != QProcess::NotRunning)
+        QCoreApplication::exec();
+    if (status == exitUnusable || ending.hasCome())
         terminal.terminate();
     terminal.waitForFinished(-1);
     return status;
@@ -182,7 +194,9 @@ int runReplay() {
         printNote(u"%1 holds no news of %2."_s.arg(request.storeFile, request.date.toString(Qt::ISODate)));
         return exitUnusable;
     }
-    return request.opens ? playInOwnTerminal(request, *day.value()) : play(request, *day.value());
+    const OnEndSignal ending([] { QCoreApplication::exit(exitPartly); });
+    return request.opens ? playInOwnTerminal(request, *day.value(), ending)
+                         : play(request, *day.value(), ending);
 }
 
 }  // namespace wirepane

@@ -48,11 +48,15 @@ void printRow(const CHeadline& headline, const QString& service, bool asJson) {
 
 int printFound(Database& store, const std::vector<CHeadlineTable>& found, std::size_t most, bool asJson) {
     StoreReader reader(store);
-    for (std::size_t i = 0; i < std::min(found.size(), most); ++i) {
+    for (std::size_t i = 0; i < std::min(found.size(), most) && store.damage().isEmpty(); ++i) {
         const auto headline = reader.headline(KeyOf(found[i]));
         const auto service = reader.service(found[i].service);
         if (headline)
             printRow(*headline, service ? service->shortName : QString::number(found[i].service), asJson);
+    }
+    if (!store.damage().isEmpty()) {
+        printNote(store.damage());
+        return exitUnusable;
     }
     if (found.empty())
         printNote(u"Nothing was found."_s);
@@ -82,7 +86,7 @@ int runSearch() {
         printNote(u"There is no store %1."_s.arg(QDir::toNativeSeparators(file)));
         return exitUnusable;
     }
-    const auto store = openStore(file, {.onIndexing = indexingLines()});
+    const auto store = openStoreToRead(file, {.onIndexing = indexingLines()});
     if (!store) {
         printNote(store.error());
         return exitUnusable;
@@ -91,8 +95,8 @@ int runSearch() {
     const std::vector<unsigned char> services =
         service != 0 ? std::vector{service} : StoreReader(database).serviceIds();
     const auto found = findAll(database, services, condition);
-    if (!found) {
-        printNote(database.failure());
+    if (!found || !database.damage().isEmpty()) {
+        printNote(database.damage().isEmpty() ? database.failure() : database.damage());
         return exitUnusable;
     }
     return printFound(database, *found, std::size_t(most), arguments.parser.isSet(u"json"_s));

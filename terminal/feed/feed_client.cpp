@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/feed/feed_client.h"
 
+#include "terminal/automation/own_socket.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -15,13 +17,16 @@ namespace wirepane {
 namespace {
 
 constexpr int retryMs = 250;
-constexpr std::size_t window = 2000;  // lines on the way at a time
+// Lines on the way at a time.
+constexpr std::size_t window = 2000;
+constexpr qint64 windowBytes = 1024 * 1024;
 
 }  // namespace
 
 FeedClient::FeedClient(QString socketName, FeedHello greeting, QObject* parent)
     : QObject(parent), name(std::move(socketName)), hello(std::move(greeting)) {
     again.setSingleShot(true);
+    again.setInterval(retryMs);
     connect(&again, &QTimer::timeout, this, &FeedClient::connectAgain);
     connect(&socket, &QLocalSocket::connected, this, &FeedClient::greet);
     connect(&socket, &QLocalSocket::readyRead, this, &FeedClient::receive);
@@ -29,16 +34,13 @@ FeedClient::FeedClient(QString socketName, FeedHello greeting, QObject* parent)
         receive();
         isGreeted = false;
         emit connectionLost();
-        again.start(retryMs);
+        again.start();
     });
     connect(&socket, &QLocalSocket::errorOccurred, this, [this](QLocalSocket::LocalSocketError) {
         // A connection that breaks tells so in another way.
         if (isGreeted || again.isActive())
             return;
-        if (!wasConnected && --triesLeft <= 0)
-            emit failed(u"No terminal takes a feed under the name %1."_s.arg(name));
-        else
-            again.start(retryMs);
+        tryAgain();
     });
 }
 
@@ -49,18 +51,39 @@ FeedClient::~FeedClient() {
 
 void FeedClient::start(int triesAtFirst) {
     triesLeft = triesAtFirst;
-    connectAgain();
+    // From the event loop, as everything that may fail.
+    QMetaObject::invokeMethod(this, &FeedClient::connectAgain, Qt::QueuedConnection);
+}
+
+void FeedClient::tryAgain() {
+    if (!wasConnected && --triesLeft <= 0)
+        emit failed(u"No terminal takes a feed under the name %1."_s.arg(name));
+    else
+        again.start();
 }
 
 void FeedClient::connectAgain() {
     socket.abort();
-    socket.connectToServer(name);
+    const Result<QString> path = socketPath(name);
+    if (path)
+        socket.connectToServer(path.value());
+    else
+        emit failed(path.error());
 }
 
 void FeedClient::greet() {
+    // Whoever has taken the name may be anybody.
+    if (!isOwnPeer(socket.socketDescriptor())) {
+        const QString path = socket.fullServerName();
+        QTimer::singleShot(0, this, [this, path] {
+            emit failed(u"The local socket %1 belongs to another user; nothing was sent."_s.arg(path));
+        });
+        return;
+    }
     wasConnected = true;
     splitter = {};
     sent = 0;
+    sentBytes = 0;
     confirmedLines = 0;
     socket.write(helloLine(hello));
 }
@@ -84,8 +107,7 @@ void FeedClient::answered(const QByteArray& line) {
     const auto fresh =
         static_cast<std::size_t>(std::clamp<qint64>(taken - confirmedLines, 0, static_cast<qint64>(sent)));
     confirmedLines += static_cast<qint64>(fresh);
-    lines.erase(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(fresh));
-    sent -= fresh;
+    forget(fresh);
     sum += {answer["takenIn"_L1].toInteger(), answer["alreadyThere"_L1].toInteger(),
             answer["rejected"_L1].toInteger()};
     const QJsonArray rejections = answer["rejections"_L1].toArray();
@@ -102,7 +124,7 @@ void FeedClient::startFrom(const QString& position) {
     if (kept != lines.end()) {
         // They reached the disk; only the word of it was lost.
         sum.takenIn += kept - lines.begin() + 1;
-        lines.erase(lines.begin(), kept + 1);
+        forget(static_cast<std::size_t>(kept - lines.begin()) + 1);
     }
     isGreeted = true;
     emit connectionMade();
@@ -111,15 +133,34 @@ void FeedClient::startFrom(const QString& position) {
 }
 
 void FeedClient::send(const QByteArray& line, const QString& position) {
+    lineBytes += line.size();
     lines.push_back({line, position});
     sendMore();
 }
 
+void FeedClient::forget(std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+        const qint64 size = lines.front().text.size();
+        lineBytes -= size;
+        if (sent > 0) {
+            --sent;
+            sentBytes -= size;
+        }
+        lines.pop_front();
+    }
+}
+
+bool FeedClient::isFull() const {
+    return lines.size() >= mostUnconfirmed || lineBytes >= mostUnconfirmedBytes;
+}
+
 void FeedClient::sendMore() {
-    while (isGreeted && sent < std::min(window, lines.size())) {
-        socket.write(lines[sent].text);
+    while (isGreeted && sent < std::min(window, lines.size()) && (sent == 0 || sentBytes < windowBytes)) {
+        const QByteArray& text = lines[sent].text;
+        socket.write(text);
         socket.write("\n");
         ++sent;
+        sentBytes += text.size();
     }
 }
 

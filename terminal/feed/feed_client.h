@@ -30,6 +30,8 @@ public:
     void send(const QByteArray& line, const QString& position = {});
     // Lines that are not confirmed.
     std::size_t unconfirmed() const { return lines.size(); }
+    // Enough is not confirmed: whoever sends had better wait.
+    bool isFull() const;
     const ImportTotals& totals() const { return sum; }
 
 signals:
@@ -43,16 +45,21 @@ signals:
     void failed(const QString& sentence);
 
 private:
+    static constexpr std::size_t mostUnconfirmed = 5000;
+    static constexpr qint64 mostUnconfirmedBytes = 4 * 1024 * 1024;
+
     struct Line {
         QByteArray text;
         QString position;
     };
 
     void connectAgain();
+    void tryAgain();
     void greet();
     void receive();
     void answered(const QByteArray& answer);
     void startFrom(const QString& position);
+    void forget(std::size_t count);
     void sendMore();
 
     QString name;
@@ -60,8 +67,10 @@ private:
     QLocalSocket socket;
     QTimer again;
     LineSplitter splitter;
-    std::deque<Line> lines;     // the oldest that is not confirmed first
-    std::size_t sent = 0;       // of these, on the way
+    std::deque<Line> lines;  // the oldest that is not confirmed first
+    qint64 lineBytes = 0;    // of all of them
+    std::size_t sent = 0;    // of these, on the way
+    qint64 sentBytes = 0;
     qint64 confirmedLines = 0;  // of this connection
     bool isGreeted = false;
     bool wasConnected = false;

@@ -14,6 +14,9 @@ namespace wirepane {
 
 namespace {
 
+// The windows wait for a portion, and are to answer the user within a twentieth of a second.
+constexpr std::chrono::milliseconds longestTaking{20};
+
 QByteArray lineOf(const QJsonObject& answer) {
     return QJsonDocument(answer).toJson(QJsonDocument::Compact) + '\n';
 }
@@ -37,11 +40,15 @@ QByteArray receiptLine(const LineSource::Receipt& receipt) {
 }
 
 FeedConnection::FeedConnection(LineChannel* client, FeedSink& feedSink, QObject* parent)
-    : QObject(parent), channel(client), sink(feedSink) {
+    : QObject(parent), channel(client), sink(feedSink), lines(1, longestTaking) {
     lines.onHello([this](const FeedHello& hello) { greet(hello); });
-    lines.onReceipt([this](const LineSource::Receipt& receipt) { send(receiptLine(receipt)); });
+    lines.onReceipt([this](const LineSource::Receipt& receipt) {
+        send(receiptLine(receipt));
+        holdWhenFull();
+    });
     connect(client, &LineChannel::lineReceived, this, [this](const QByteArray& line) {
         lines.add(line);
+        holdWhenFull();
         if (lines.hasPortion())
             emit ready();
     });
@@ -59,6 +66,12 @@ FeedConnection::FeedConnection(LineChannel* client, FeedSink& feedSink, QObject*
 void FeedConnection::greet(const FeedHello& hello) {
     const Result<QString> position = hello.source.isEmpty() ? QString() : sink.positionOf(hello.source);
     send(position ? positionLine(position.value()) : lineOf({{u"error"_s, position.error()}}));
+}
+
+// A sender that is faster than the disk waits for it.
+void FeedConnection::holdWhenFull() {
+    if (channel)
+        channel->setHeld(lines.isFull());
 }
 
 void FeedConnection::send(const QByteArray& line) {

@@ -37,6 +37,7 @@ signals:
 
 private:
     void greet(const FeedHello& hello);
+    void holdWhenFull();
     void send(const QByteArray& line);
 
     QPointer<LineChannel> channel;

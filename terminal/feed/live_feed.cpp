@@ -3,7 +3,6 @@
 #include "terminal/feed/live_feed.h"
 
 #include "backend/store/embedded_back_end.h"
-#include "backend/store/local_day.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 
@@ -22,11 +21,10 @@ constexpr int tickMs = 250;
 constexpr int retryMs = 2000;  // after the store could not be written
 constexpr std::chrono::milliseconds shortPatience{20};
 constexpr qint64 longestReturnMs = 3000;  // of clients, after a break
-constexpr std::size_t mostWaitingLines = 10000;
 
 }  // namespace
 
-LiveFeed::LiveFeed(EmbeddedBackEnd& store) : backEnd(store), startDay(host_clock::today()) {
+LiveFeed::LiveFeed(EmbeddedBackEnd& store) : backEnd(store) {
     connect(&ticking, &QTimer::timeout, this, &LiveFeed::tick);
     ticking.start(tickMs);
     pumping.setSingleShot(true);
@@ -54,18 +52,7 @@ Done LiveFeed::openSocket() {
     server = std::make_unique<SocketServer>();
     connect(server.get(), &SocketServer::connected, this, [this](LineChannel* channel) {
         connections.push_back(std::make_shared<FeedConnection>(channel, backEnd, nullptr));
-        FeedConnection* const connection = connections.back().get();
-        connect(connection, &FeedConnection::ready, this, [this, connection] {
-            // A sender that is faster than the disk waits for it.
-            const auto here = std::vector(connections);  // also when who is told of the news sends them off
-            if (connection->source().waiting() > mostWaitingLines && !hasTrouble() && !isTaking) {
-                if (isSettling(connection->source()))
-                    backEnd.waitForDisk();
-                else
-                    take(connection->source());
-            }
-            pumpSoon();
-        });
+        connect(connections.back().get(), &FeedConnection::ready, this, &LiveFeed::pumpSoon);
     });
     return server->listen(socketName);
 }
@@ -130,25 +117,26 @@ void LiveFeed::pump() {
     updateState();
 }
 
+// The sources take turns.
 bool LiveFeed::pumpOne() {
-    bool tried = false;
-    if (spool && isReady(*spool)) {
-        tried = true;
-        if (!take(*spool))
-            return true;
-    }
-    // A break sends the clients off.
-    for (const auto& connection : std::vector(connections)) {
-        if (!isConnected || !isReady(connection->source()))
+    const std::size_t all = connections.size() + 1;
+    for (std::size_t i = 0; i < all; ++i) {
+        const std::size_t at = (turn + i) % all;
+        FeedSource* source = spool.get();
+        if (at > 0)
+            source = &connections[at - 1]->source();
+        if (source == nullptr || !isReady(*source))
             continue;
-        tried = true;
-        if (!take(connection->source()))
-            return true;
+        turn = at + 1;
+        // Whoever is told of the news may send the clients off.
+        const auto here = std::vector(connections);
+        take(*source);
+        return true;
     }
-    return tried;
+    return false;
 }
 
-bool LiveFeed::take(FeedSource& source) {
+void LiveFeed::take(FeedSource& source) {
     isTaking = true;
     // The windows must not stand still while another program writes.
     backEnd.setPatience(shortPatience);
@@ -158,10 +146,8 @@ bool LiveFeed::take(FeedSource& source) {
     tellTrouble(taken ? QString() : taken.error());
     if (taken) {
         takenLate += isCatchingUp ? taken.value().news : 0;
-        startNewsDays(taken.value());
         settleWhenOnDisk(source, taken.value());
     }
-    return static_cast<bool>(taken);
 }
 
 void LiveFeed::settleWhenOnDisk(FeedSource& source, const PortionOutcome& outcome) {
@@ -203,18 +189,6 @@ void LiveFeed::tellTrouble(const QString& now) {
     isTold = lasts;
 }
 
-void LiveFeed::startNewsDays(const PortionOutcome& outcome) {
-    const QDate today = host_clock::today();
-    const DayBounds bounds = boundsOf(today);
-    for (const auto& [service, newest] : outcome.newest) {
-        QDate& known = newsDays.try_emplace(service, startDay).first->second;
-        if (!bounds.contains(newest) || known >= today)
-            continue;
-        known = today;
-        backEnd.startNewsDay({service, dayNumber(today)});
-    }
-}
-
 void LiveFeed::dropDoneConnections() {
     std::erase_if(connections, [](const auto& connection) { return connection->isDone(); });
 }
@@ -228,6 +202,7 @@ bool LiveFeed::hasCaughtUp() {
 void LiveFeed::updateState() {
     FeedState now = current;
     now.kind = !isConnected                   ? FeedState::Offline
+               : backEnd.isReadOnly()         ? FeedState::OnlyRead
                : isCatchingUp || hasTrouble() ? FeedState::Reconnecting
                                               : FeedState::Live;
     if (now.kind != current.kind)

@@ -6,7 +6,6 @@
 #include "terminal/automation/socket_server.h"
 #include "terminal/feed/feed_connection.h"
 
-#include <QDate>
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
@@ -25,6 +24,7 @@ struct FeedState {
         Live,
         Reconnecting,  // taking what a break kept away, or waiting for a store that cannot be written
         Offline,
+        OnlyRead,  // the store can only be read: no news comes by itself
     };
     Kind kind = Live;
     std::int64_t since = 0;  // when it came to be so, seconds since 1970; 0: from the start
@@ -36,7 +36,7 @@ struct FeedState {
 
 // The live news of a running terminal: takes in what a spool folder and the clients of a local socket bring,
 // a portion at a time so that the windows stay alive, and passes on what other programs write to the store.
-// A service that gets its first news of a new day starts a new news day. Interface thread.
+// Interface thread.
 class LiveFeed : public QObject {
     Q_OBJECT
 
@@ -65,14 +65,13 @@ private:
     void pumpSoon();
     void pump();
     bool pumpOne();
-    bool take(FeedSource& source);
+    void take(FeedSource& source);
     void settleWhenOnDisk(FeedSource& source, const PortionOutcome& outcome);
     void awaitDisk(FeedSource& source, const PortionOutcome& outcome, int portion);
     bool isSettling(FeedSource& source) const { return settling.contains(&source); }
     bool isReady(FeedSource& source) const { return !isSettling(source) && source.hasPortion(); }
     bool hasCaughtUp();
     void tellTrouble(const QString& now);
-    void startNewsDays(const PortionOutcome& outcome);
     void dropDoneConnections();
     bool hasTrouble() const { return !takeTrouble.isEmpty() || !lostStore.isEmpty(); }
     void updateState();
@@ -83,12 +82,11 @@ private:
     QString socketName;
     std::unique_ptr<SocketServer> server;
     std::vector<std::shared_ptr<FeedConnection>> connections;
+    std::size_t turn = 0;                 // whose it is to be taken: 0 the spool's, then the connections'
     std::map<FeedSource*, int> settling;  // by source: its portion that is on the way to the disk
     int portions = 0;                     // taken so far
     QTimer ticking;
     QTimer pumping;
-    std::map<unsigned char, QDate> newsDays;
-    QDate startDay;
     QString takeTrouble;  // of the last portion
     bool isTold = false;  // that trouble is
     QString lostStore;    // the store is not where it was

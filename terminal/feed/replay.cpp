@@ -14,7 +14,6 @@ namespace wirepane {
 namespace {
 
 constexpr int tickMs = 20;
-constexpr std::size_t mostUnconfirmed = 5000;
 
 }  // namespace
 
@@ -45,7 +44,7 @@ std::int64_t Replay::moment() const {
 
 void Replay::playDue() {
     const std::int64_t now = moment();
-    while (next < day.size() && day.timeOf(next) <= now && client.unconfirmed() < mostUnconfirmed) {
+    while (next < day.size() && day.timeOf(next) <= now && !client.isFull()) {
         if (!play(next))
             return;
         ++next;

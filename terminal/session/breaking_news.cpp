@@ -3,6 +3,7 @@
 #include "terminal/session/breaking_news.h"
 
 #include "backend/store/embedded_back_end.h"
+#include "host/contract/lang_text.h"
 #include "terminal/frame/main_frame.h"
 
 #include <QDateTime>
@@ -10,6 +11,10 @@
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
+
+namespace {
+constexpr QLatin1StringView noStoryKey{"IDS_NEWSCTRLVIEW_STRING_NO_NEWS_STORY"};
+}
 
 BreakingNews::BreakingNews(NewsModule& newsModule, EmbeddedBackEnd& newsBackEnd, MainFrame& mainFrame)
     : module(newsModule), backEnd(newsBackEnd), frame(mainFrame) {}
@@ -74,8 +79,12 @@ void BreakingNews::showHeadline(const CHeadline& headline) {
 
 void BreakingNews::showStory() {
     CStory story;
-    if (backEnd.BKQNEWS_bGetStory(story, shown))
-        window->vMainFrameShowStroy(story);
+    if (!backEnd.BKQNEWS_bGetStory(story, shown))
+        return;
+    // To the window a story without text is one that is still to come.
+    if (story.text.isEmpty())
+        story.text = LangText(noStoryKey);
+    window->vMainFrameShowStroy(story);
 }
 
 }  // namespace wirepane

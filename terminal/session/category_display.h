@@ -18,13 +18,14 @@ public:
     explicit CategoryDisplay(EmbeddedBackEnd& backEnd);
 
     void GetNewsCatColor(int categoryId, QColor& text, QColor& background) override;
+    void GetWarrantCatColor(int categoryId, QColor& text, QColor& background) override;
 
 private:
     EmbeddedBackEnd& backEnd;
 };
 
 // The categories of all services but the warrant service (which names its own to the module), each id once.
-// Where they are too many for the module's file, the most used come first.
+// Where they are too many for the module's file, those that the latest news has most come first.
 std::vector<CategoryName> categoryNames(EmbeddedBackEnd& backEnd);
 
 }  // namespace wirepane

@@ -189,7 +189,7 @@ void FrameCommands::rename(int number) {
 
 void FrameCommands::showGuide() {
     const QString file = QDir::cleanPath(
-        QDir(QCoreApplication::applicationDirPath()).filePath(u"../share/doc/wirepane/guide/guide.md"_s));
+        QDir(QCoreApplication::applicationDirPath()).filePath(u"../share/wirepane/docs/guide/guide.md"_s));
     if (!QFileInfo::exists(file)) {
         report(Error{u"The guide %1 is missing."_s.arg(QDir::toNativeSeparators(file))});
         return;

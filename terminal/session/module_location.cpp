@@ -15,12 +15,13 @@ namespace wirepane {
 namespace {
 
 const QString moduleFile = QStringLiteral(WIREPANE_MODULE_FILE);
+const QString installedFolder = QStringLiteral("../" WIREPANE_MODULE_FOLDER);
 
 }  // namespace
 
 Result<NewsModule*> loadModule() {
     const QDir programFolder(QCoreApplication::applicationDirPath());
-    for (const QString& folder : {u"."_s, u"../lib/wirepane"_s}) {
+    for (const QString& folder : {u"."_s, installedFolder}) {
         const QString file = QDir::cleanPath(programFolder.filePath(folder + u'/' + moduleFile));
         if (!QFileInfo::exists(file))
             continue;
@@ -30,7 +31,7 @@ Result<NewsModule*> loadModule() {
         return Error{error};
     }
     return Error{u"The news module %1 was found neither in %2 nor in %3."_s.arg(
-        moduleFile, programFolder.path(), QDir::cleanPath(programFolder.filePath(u"../lib/wirepane"_s)))};
+        moduleFile, programFolder.path(), QDir::cleanPath(programFolder.filePath(installedFolder)))};
 }
 
 }  // namespace wirepane

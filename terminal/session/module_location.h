@@ -8,7 +8,7 @@ class NewsModule;
 
 namespace wirepane {
 
-// Loads the news module: the file beside the program, else the one in "../lib/wirepane".
+// Loads the news module: the file beside the program, else the installed one.
 Result<NewsModule*> loadModule();
 
 }  // namespace wirepane

@@ -3,6 +3,7 @@
 #include "terminal/session/session.h"
 
 #include "host/contract/clock.h"
+#include "host/contract/fixed_services.h"
 #include "terminal/feed/feed_name.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/session/indexing_window.h"
@@ -13,7 +14,10 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QFontDatabase>
 
+#include <algorithm>
+#include <chrono>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +27,7 @@ namespace wirepane {
 namespace {
 
 constexpr int sameMomentSeconds = 60;  // a clock that is no further off counts as the machine's
+constexpr std::chrono::seconds clockPeriod{1};
 
 QString asOfText() {
     const std::int64_t now = host_clock::now();
@@ -34,10 +39,25 @@ QString asOfText() {
 QString feedText(const FeedState& state) {
     if (state.kind == FeedState::Reconnecting)
         return terminalText(TextId::FeedReconnecting);
+    if (state.kind == FeedState::OnlyRead)
+        return terminalText(TextId::FeedOnlyRead);
     if (state.kind == FeedState::Offline)
         return terminalText(TextId::OfflineSince)
             .arg(QDateTime::fromSecsSinceEpoch(state.since).toString(u"HH:mm"_s));
     return state.late > 0 ? terminalText(TextId::FeedLate).arg(state.late) : terminalText(TextId::FeedLive);
+}
+
+// Whether the topics of the news, or the language of the terminal, are in Chinese, and no font has it. The
+// sentence that says so holds English in every language.
+bool needsChineseFont(EmbeddedBackEnd& backEnd) {
+    for (const auto system : {QFontDatabase::TraditionalChinese, QFontDatabase::SimplifiedChinese}) {
+        if (!QFontDatabase::families(system).isEmpty())
+            return false;
+    }
+    QString texts = terminalText(TextId::Cancel);
+    for (const CategoryName& category : categoryNames(backEnd))
+        texts += category.name;
+    return std::any_of(texts.cbegin(), texts.cend(), [](QChar c) { return c.script() == QChar::Script_Han; });
 }
 
 }  // namespace
@@ -94,8 +114,12 @@ Done Session::start(const SessionOptions& options) {
     });
     look->apply();
     connectParts();
-    if (!settingsFile.message().isEmpty())
-        mainFrame->showNotice(settingsFile.message());
+    for (const QString& sentence : {feedNotice, settingsFile.message()}) {
+        if (!sentence.isEmpty())
+            mainFrame->showNotice(sentence);
+    }
+    if (needsChineseFont(*store))
+        mainFrame->showNotice(terminalText(TextId::NoChineseFont));
     showStatus();
     showViews();
     return Nothing{};
@@ -112,6 +136,9 @@ Done Session::openStore(const SessionOptions& options, const QString& language) 
     if (!opened)
         return Error{opened.error()};
     store = std::move(opened.value());
+    // A clock that was set for this run is one that live news may run ahead of, as a replay or a script does.
+    if (!asOfText().isEmpty())
+        store->holdLaterNews(LaterNews::Held::Stored);
     return Nothing{};
 }
 
@@ -129,6 +156,12 @@ void Session::connectParts() {
                 box.showSymbol(group, known != nullptr ? *known : symbol);
             });
     connect(liveFeed.get(), &LiveFeed::stateChanged, this, &Session::showStatus);
+    connect(&clock, &QTimer::timeout, this, [this] {
+        if (asOfText() != shownAsOf)
+            showStatus();
+    });
+    clock.start(clockPeriod);
+    store->onDatedAhead([this](unsigned char service, std::int64_t time) { tellDatedAhead(service, time); });
     connect(liveFeed.get(), &LiveFeed::trouble, mainFrame.get(), &MainFrame::showNotice);
     connect(openViews.get(), &Workspace::arranged, this, &Session::showViews);
     connect(openViews.get(), &Workspace::opened, mainFrame.get(), [this](const OpenView* view) {
@@ -145,6 +178,17 @@ void Session::connectParts() {
         Qt::QueuedConnection);
 }
 
+// Once for a service: a wrong clock makes all of its news so.
+void Session::tellDatedAhead(unsigned char service, std::int64_t time) {
+    if (!toldAhead.insert(service).second)
+        return;
+    QString name;
+    store->BKQNEWS_bGetFullNameByService(name, service);
+    mainFrame->showNotice(
+        terminalText(TextId::DatedAhead)
+            .arg(name, QDateTime::fromSecsSinceEpoch(time).toString(u"yyyy/MM/dd HH:mm"_s)));
+}
+
 Done Session::startFeed(const SessionOptions& options) {
     liveFeed = std::make_unique<LiveFeed>(*store);
     if (!options.spoolFolder.isEmpty()) {
@@ -154,8 +198,11 @@ Done Session::startFeed(const SessionOptions& options) {
     if (options.feedName.isEmpty())
         return Nothing{};
     Done listening = liveFeed->listen(options.feedName);
+    if (listening || options.feedName != defaultFeedName)
+        return listening;
     // Under the common name, another terminal may have been first.
-    return options.feedName == defaultFeedName ? Done(Nothing{}) : listening;
+    feedNotice = listening.error();
+    return Nothing{};
 }
 
 void Session::prepareModuleFiles() {
@@ -181,6 +228,7 @@ Result<OpenView*> Session::openView(ViewRequest request) {
 
 Done Session::readAsOf(std::int64_t moment) {
     host_clock::startAt(moment);
+    store->holdLaterNews(asOfText().isEmpty() ? LaterNews::Held::Nothing : LaterNews::Held::All);
     store->forgetNewsDays();
     showStatus();
     return reopenUserViews();
@@ -243,9 +291,12 @@ void Session::setActive(bool active) {
 void Session::showStatus() {
     std::vector<unsigned char> services;
     store->BKQNEWS_bGetAllNewsService(services);
+    // Those that the service menu has: the warrants have a list of their own.
+    std::erase(services, warrantService);
     const FeedState feedState = liveFeed->state();
+    shownAsOf = asOfText();
     mainFrame->showStatus({feedText(feedState), feedState.trouble, feedState.kind == FeedState::Live,
-                           storeFile, static_cast<int>(services.size()), asOfText()});
+                           storeFile, static_cast<int>(services.size()), shownAsOf});
 }
 
 void Session::showViews() {

@@ -19,8 +19,10 @@
 #include "terminal/translations/languages.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <memory>
+#include <set>
 
 namespace wirepane {
 
@@ -64,7 +66,8 @@ public:
 
     // Opens a view, with the module's files as they must stand at this moment.
     Result<OpenView*> openView(ViewRequest request);
-    // Takes this moment (seconds since 1970) as the present one, and opens the user's views anew.
+    // Takes this moment (seconds since 1970) as the present one, and opens the user's views anew. Unless it
+    // is the machine's, whatever is dated later waits for its moment, also what comes meanwhile.
     Done readAsOf(std::int64_t moment);
     // Takes the search switches into force, for the user's views too.
     Done setSwitches(const SearchSwitches& switches);
@@ -97,6 +100,7 @@ private:
     Done openStore(const SessionOptions& options, const QString& language);
     void connectParts();
     Done startFeed(const SessionOptions& options);
+    void tellDatedAhead(unsigned char service, std::int64_t time);
     void prepareModuleFiles();
     void writeCategories();
     Done reopenUserViews();
@@ -111,6 +115,7 @@ private:
     std::unique_ptr<TerminalSettings> terminalSettings;
     std::unique_ptr<EmbeddedBackEnd> store;
     std::unique_ptr<LiveFeed> liveFeed;
+    QString feedNotice;  // why feeds do not find this terminal under the common name
     std::unique_ptr<CategoryDisplay> categoryDisplay;
     std::unique_ptr<MainFrame> mainFrame;
     std::unique_ptr<BreakingNews> latestNews;
@@ -120,6 +125,9 @@ private:
     std::unique_ptr<WorkspaceKeeper> workspaceKeeper;
     std::unique_ptr<CategoryWatch> categoryWatch;
     FollowedView followed;
+    QTimer clock;                       // the status bar's
+    QString shownAsOf;                  // what it shows
+    std::set<unsigned char> toldAhead;  // services whose news is dated ahead
 };
 
 }  // namespace wirepane

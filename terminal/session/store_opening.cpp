@@ -24,8 +24,9 @@ Done makeFolderOf(const QString& file) {
 
 Done fillWhenNew(const QString& storeFile, const IndexProgress& onIndexing) {
     const auto database = openOrMakeStore(storeFile, onIndexing);
+    // One that can only be read stays as it is.
     if (!database)
-        return Error{database.error()};
+        return openStoreToRead(storeFile) ? Done(Nothing{}) : Done(Error{database.error()});
     std::int64_t hasNews = 0;
     if (!database.value()->readNumber("SELECT EXISTS(SELECT 1 FROM headlines)", hasNews))
         return Error{database.value()->failure()};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/workspace_keeper.h"
 
+#include "host/contract/view_options.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/frame/workspace.h"
@@ -64,6 +65,7 @@ Done WorkspaceKeeper::restore() {
 }
 
 Result<OpenView*> WorkspaceKeeper::open(const StoredView& stored) {
+    ViewOptions::writeMissing(parts.layout, Workspace::settingPath(section, stored.place));
     ViewRequest request;
     request.newsType = stored.newsType;
     request.typeName = stored.typeName;

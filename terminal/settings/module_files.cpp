@@ -23,7 +23,10 @@ QString shortName(QString name) {
 
 Done writeFile(const QString& path, const QString& content) {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content.toUtf8()) < 0 || !file.commit())
+    const bool opened = file.open(QIODevice::WriteOnly);
+    // The settings folder's files are their owner's alone.
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    if (!opened || file.write(content.toUtf8()) < 0 || !file.commit())
         return Error{u"The file %1 cannot be written: %2."_s.arg(path, file.errorString())};
     return Nothing{};
 }

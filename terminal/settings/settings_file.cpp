@@ -50,6 +50,11 @@ bool isDamaged(const QSettings& settings) {
     return !allDecoded || settings.status() == QSettings::FormatError;
 }
 
+// What is replaced keeps its rights: so it is its owner's alone from its first byte on.
+void makeForOwner(const QString& path) {
+    QFile(path).open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner);
+}
+
 std::unique_ptr<QSettings> openIni(const QString& path) {
     return std::make_unique<QSettings>(path, QSettings::IniFormat);
 }
@@ -92,6 +97,8 @@ void SettingsFile::setValue(const QString& group, const QString& name, const QJs
     if (!readable || this->value(group, name) == value)
         return;
     changed = true;
+    // The settings may be written at any time from here on.
+    makeForOwner(path);
     if (value.isUndefined())
         settings->remove(fileKey(group, name));
     else
@@ -117,6 +124,7 @@ Done SettingsFile::save() {
     const QFileInfo info(path);
     if (!QDir().mkpath(info.absolutePath()))
         return Error{u"The settings are not saved: the folder %1 cannot be made."_s.arg(info.absolutePath())};
+    makeForOwner(path);
     settings->sync();
     if (settings->status() != QSettings::NoError)
         return Error{u"The settings are not saved: the file %1 cannot be written."_s.arg(path)};

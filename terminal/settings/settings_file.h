@@ -20,7 +20,8 @@ namespace wirepane {
 // nothing; message() then says so. A file that cannot be read is left alone and never written.
 class SettingsFile {
 public:
-    // Opens the file; a missing one is empty and appears with the first save().
+    // Opens the file; a missing one is empty and appears, for its owner alone, at the latest with the first
+    // save().
     explicit SettingsFile(const QString& path);
     SettingsFile(const SettingsFile&) = delete;
     SettingsFile& operator=(const SettingsFile&) = delete;

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/tour/tour.h"
 
+#include "host/contract/view_options.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
 #include "terminal/automation/user_input.h"
 #include "terminal/commands/console.h"
 #include "terminal/commands/exit_status.h"
+#include "terminal/commands/interrupt.h"
 #include "terminal/commands/open_command.h"
 #include "terminal/frame/frame_picture.h"
 #include "terminal/frame/settings_dialog.h"
@@ -38,6 +40,7 @@ constexpr int allNewsList = 0;
 constexpr int categoryList = 1;
 constexpr int newsPutOut = 3;
 constexpr int mostTurns = 50;
+constexpr int storyBelow = 2;
 const QString pagesName = u"news.pdf"_s;
 const QString textName = u"news.txt"_s;
 constexpr int symbolNewsType = 2;
@@ -52,14 +55,23 @@ void settle() {
 
 class Tour {
 public:
-    Tour(Session& running, const QString& path) : session(running), folder(path) {}
+    Tour(Session& running, const QString& path, const OnEndSignal& end)
+        : session(running), folder(path), ending(end) {}
 
     Done play() {
         if (!folder.mkpath(u"."_s))
             return Error{u"The folder %1 cannot be made."_s.arg(folder.absolutePath())};
         session.frame().resize(session.frame().sizeHint());
         session.frame().show();
-        if (const Done opened = session.keeper().restore(); !opened)
+        const ColourScheme before = session.settings().scheme();
+        const Done played = playScenes();
+        session.setScheme(before);
+        return played;
+    }
+
+private:
+    Done playScenes() {
+        if (const Done opened = openView(0); !opened)
             return opened;
         session.setScheme(ColourScheme::Light);
         if (const Done taken = picture(u"1-all-news-light.png"_s); !taken)
@@ -86,7 +98,21 @@ public:
         return picture(u"5-settings.png"_s);
     }
 
-private:
+    // A view with settings of its own: which views the user has, and how they stand, is none of the tour's.
+    Done openView(int newsType) {
+        ViewRequest request;
+        request.newsType = newsType;
+        request.place = places++;
+        request.linkGroup = session.frame().symbolBox().group();
+        request.ownSettings = std::make_unique<MemoryCfgIO>();
+        ViewOptions::writeMissing(*request.ownSettings, {});
+        // Beside others a view is narrow: its story goes under its list.
+        if (request.place > 0)
+            request.ownSettings->SetViewInfo({}, u"NewsShowType"_s, storyBelow);
+        const auto opened = session.openView(std::move(request));
+        return opened ? Done(Nothing{}) : Done(Error{opened.error()});
+    }
+
     // The newest rows whose stories are there: for a story that is still to be written, printing waits.
     QItemSelection newestWithStories(NewsViewAccess& view) {
         const QAbstractItemModel* rows = view.Sheet(allNewsList)->model();
@@ -133,8 +159,8 @@ private:
     // Three views that follow one symbol.
     Done openDesk() {
         for (const int newsType : {0, symbolNewsType}) {
-            if (const auto opened = session.keeper().openNew(newsType); !opened)
-                return Error{opened.error()};
+            if (const Done opened = openView(newsType); !opened)
+                return opened;
         }
         session.workspace().arrange(Arrangement::Columns);
         session.workspace().find(1)->view->OnCommand(showTypeButton);
@@ -160,6 +186,8 @@ private:
 
     Done picture(const QString& name) {
         settle();
+        if (ending.hasCome())
+            return Error{u"Stopped."_s};
         const QString path = folder.filePath(name);
         if (!pictureWithWindowsAbove(session.frame()).save(path))
             return Error{u"The picture %1 cannot be written."_s.arg(path)};
@@ -168,11 +196,14 @@ private:
 
     Session& session;
     QDir folder;
+    const OnEndSignal& ending;
+    int places = 0;
 };
 
 }  // namespace
 
 int runTour(const OpenOptions& options) {
+    const OnEndSignal ending([] { QCoreApplication::exit(exitPartly); });
     const QTemporaryDir scratch;
     const auto orScratch = [&scratch](const QString& given, const QString& name) {
         return given.isEmpty() ? scratch.filePath(name) : given;
@@ -180,10 +211,11 @@ int runTour(const OpenOptions& options) {
     const auto session =
         Session::open({orScratch(options.storeFile, u"tour.wirepane"_s),
                        orScratch(options.configFolder, u"settings"_s), options.language, true});
-    const Done played = session ? Tour(*session.value(), options.tourFolder).play() : Error{session.error()};
+    const Done played =
+        session ? Tour(*session.value(), options.tourFolder, ending).play() : Error{session.error()};
     if (!played) {
         printNote(played.error());
-        return exitUnusable;
+        return ending.hasCome() ? exitPartly : exitUnusable;
     }
     printNote(u"The tour's pictures, printed pages (news.pdf) and saved news (news.txt) are in %1."_s.arg(
         QDir::toNativeSeparators(QDir(options.tourFolder).absolutePath())));

@@ -31,6 +31,7 @@ constexpr std::array keys{
     "TERMINAL_READ_AS_OF_NOW",
     "TERMINAL_FEED_LIVE",
     "TERMINAL_FEED_RECONNECTING",
+    "TERMINAL_FEED_ONLY_READ",
     "TERMINAL_FEED_LATE",
     "TERMINAL_SERVICES_COUNT",
     "TERMINAL_AS_OF",
@@ -60,6 +61,7 @@ constexpr std::array keys{
     "TERMINAL_RENAME_PROMPT",
     "TERMINAL_EMPTY_DESK",
     "TERMINAL_FEED_OFFLINE_SINCE",
+    "TERMINAL_DATED_AHEAD",
     "TERMINAL_CLOSE_BUTTON",
     "TERMINAL_FLOAT_BUTTON",
     "TERMINAL_SETTINGS_TITLE",
@@ -98,8 +100,9 @@ constexpr std::array keys{
     "TERMINAL_IMPORT_FAILED",
     "TERMINAL_IMPORT_LEFT_OUT",
     "TERMINAL_IMPORT_NOT_STARTED",
+    "TERMINAL_NO_CHINESE_FONT",
 };
-static_assert(keys.size() == static_cast<std::size_t>(TextId::ImportNotStarted) + 1);
+static_assert(keys.size() == static_cast<std::size_t>(TextId::NoChineseFont) + 1);
 
 }  // namespace
 

@@ -30,6 +30,7 @@ enum class TextId {
     ReadAsOfNow,
     FeedLive,
     FeedReconnecting,
+    FeedOnlyRead,
     FeedLate,
     ServicesCount,
     AsOf,
@@ -59,6 +60,7 @@ enum class TextId {
     RenamePrompt,
     EmptyDesk,
     OfflineSince,
+    DatedAhead,
     CloseButton,
     FloatButton,
     SettingsTitle,
@@ -97,6 +99,7 @@ enum class TextId {
     ImportFailed,
     ImportLeftOut,
     ImportNotStarted,
+    NoChineseFont,
 };
 
 // The text in the language in force.

@@ -271,9 +271,17 @@
         <source></source>
         <translation>No news of today matches the ticked key sets yet. Press %1 to choose others.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_NEWS">
+        <source></source>
+        <translation>There is no news here. Press %1 to ask for it again.</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_NO_WARNING_TERM">
         <source></source>
         <translation>No warning term is chosen. Press %1 to choose one.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_WARRANT_NEWS">
+        <source></source>
+        <translation>There is no warrant news of this day.</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_SEARCH">
         <source></source>
@@ -315,9 +323,33 @@
         <source></source>
         <translation>Story: </translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_AS_OF">
+        <source></source>
+        <translation>As of an earlier moment</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_BEFORE_BREAK">
+        <source></source>
+        <translation>Searched %1, before a break was made up for: search again</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_FILTERED">
+        <source></source>
+        <translation>Only what the key sets let through: show all</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_NARROWED">
+        <source></source>
+        <translation>Only news of %1: search all</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED">
+        <source></source>
+        <translation>Not looked through by key sets: do it now</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_AFTERDAYS">
         <source></source>
         <translation>The date lies in the future.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_BETWEEN_NAMES">
+        <source></source>
+        <translation>, </translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_CATEGORY">
         <source></source>
@@ -369,7 +401,11 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INVALID_DATE1">
         <source></source>
-        <translation>has no news for this date.</translation>
+        <translation>without news for this date.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_LEFT_OUT">
+        <source></source>
+        <translation>Left out, as they have no story: %1</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS">
         <source></source>
@@ -381,7 +417,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_CLASS_NOT_FOUND">
         <source></source>
-        <translation>has no news in this category.</translation>
+        <translation>without news in this category.</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_NOT_FOUND">
         <source></source>
@@ -394,6 +430,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_TITLE">
         <source></source>
         <translation>Title: </translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NOTHING_TO_PUT_OUT">
+        <source></source>
+        <translation>Nothing was put out: there is no story yet.</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NO_CODE_PAGE">
         <source></source>
@@ -430,6 +470,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_PS">
         <source></source>
         <translation>(End of story)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PUT_OUT_READY">
+        <source></source>
+        <translation>Print or Save Without What Is Missing (%1)</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER">
         <source></source>
@@ -489,7 +533,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS_NOT_FOUND">
         <source></source>
-        <translation>has no news for this symbol.</translation>
+        <translation>without news for this symbol.</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_TIME">
         <source></source>
@@ -557,7 +601,7 @@
     </message>
     <message id="IDS_SINGLETON-STRING_FONTNAME">
         <source></source>
-        <translation>Noto Sans CJK TC</translation>
+        <translation>Noto Sans Mono CJK TC</translation>
     </message>
     <message id="TERMINAL_ACCEPT">
         <source></source>
@@ -599,6 +643,10 @@
         <source></source>
         <translation>&amp;Close view</translation>
     </message>
+    <message id="TERMINAL_DATED_AHEAD">
+        <source></source>
+        <translation>%1 sends news that is dated ahead (%2): its clock or that of this computer is wrong.</translation>
+    </message>
     <message id="TERMINAL_DUPLICATE_VIEW">
         <source></source>
         <translation>&amp;Duplicate view</translation>
@@ -618,6 +666,10 @@
     <message id="TERMINAL_FEED_OFFLINE_SINCE">
         <source></source>
         <translation>Offline since %1</translation>
+    </message>
+    <message id="TERMINAL_FEED_ONLY_READ">
+        <source></source>
+        <translation>Read-only</translation>
     </message>
     <message id="TERMINAL_FEED_RECONNECTING">
         <source></source>
@@ -678,6 +730,10 @@
     <message id="TERMINAL_IMPORT_NEWS">
         <source></source>
         <translation>&amp;Import News…</translation>
+    </message>
+    <message id="TERMINAL_NO_CHINESE_FONT">
+        <source></source>
+        <translation>No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
     </message>
     <message id="TERMINAL_IMPORT_NOT_STARTED">
         <source></source>
@@ -793,7 +849,7 @@
     </message>
     <message id="TERMINAL_READ_AS_OF_EXPLANATION">
         <source></source>
-        <translation>The terminal shows the news as of this moment.</translation>
+        <translation>The terminal shows the news as of this moment. What is dated later comes at its time.</translation>
     </message>
     <message id="TERMINAL_READ_AS_OF_NOW">
         <source></source>

@@ -271,9 +271,17 @@
         <source></source>
         <translation>今天还没有符合所选关键词组的新闻。按 %1 改选。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_NEWS">
+        <source></source>
+        <translation>这里没有新闻。按 %1 重新请求。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_NO_WARNING_TERM">
         <source></source>
         <translation>尚未选择警示词。按 %1 选择。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_WARRANT_NEWS">
+        <source></source>
+        <translation>这一天没有权证新闻。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_SEARCH">
         <source></source>
@@ -315,9 +323,33 @@
         <source></source>
         <translation>内容：</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_AS_OF">
+        <source></source>
+        <translation>按较早时刻阅读</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_BEFORE_BREAK">
+        <source></source>
+        <translation>搜索于 %1，之后补入了断线期间的新闻：重新搜索</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_FILTERED">
+        <source></source>
+        <translation>只列出符合关键词组的新闻：全部显示</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_NARROWED">
+        <source></source>
+        <translation>只找 %1 的新闻：改找全部</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED">
+        <source></source>
+        <translation>尚未以关键词组筛选：立即筛选</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_AFTERDAYS">
         <source></source>
         <translation>所选日期晚于今天。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_BETWEEN_NAMES">
+        <source></source>
+        <translation>、</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_CATEGORY">
         <source></source>
@@ -371,6 +403,10 @@
         <source></source>
         <translation>这一天没有新闻。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_LEFT_OUT">
+        <source></source>
+        <translation>没有正文而略去：%1 则</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS">
         <source></source>
         <translation>新闻</translation>
@@ -394,6 +430,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_TITLE">
         <source></source>
         <translation>标题：</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NOTHING_TO_PUT_OUT">
+        <source></source>
+        <translation>没有输出任何内容：尚无正文。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NO_CODE_PAGE">
         <source></source>
@@ -430,6 +470,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_PS">
         <source></source>
         <translation>（全文完）</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PUT_OUT_READY">
+        <source></source>
+        <translation>先输出已齐全的 %1 则</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER">
         <source></source>
@@ -557,7 +601,7 @@
     </message>
     <message id="IDS_SINGLETON-STRING_FONTNAME">
         <source></source>
-        <translation>Noto Sans CJK SC</translation>
+        <translation>Noto Sans Mono CJK SC</translation>
     </message>
     <message id="TERMINAL_ACCEPT">
         <source></source>
@@ -599,6 +643,10 @@
         <source></source>
         <translation>关闭窗口(&amp;C)</translation>
     </message>
+    <message id="TERMINAL_DATED_AHEAD">
+        <source></source>
+        <translation>%1 的新闻时间在未来（%2）：来源或本机的时钟不准。</translation>
+    </message>
     <message id="TERMINAL_DUPLICATE_VIEW">
         <source></source>
         <translation>复制窗口(&amp;D)</translation>
@@ -618,6 +666,10 @@
     <message id="TERMINAL_FEED_OFFLINE_SINCE">
         <source></source>
         <translation>离线（自 %1）</translation>
+    </message>
+    <message id="TERMINAL_FEED_ONLY_READ">
+        <source></source>
+        <translation>只读</translation>
     </message>
     <message id="TERMINAL_FEED_RECONNECTING">
         <source></source>
@@ -678,6 +730,10 @@
     <message id="TERMINAL_IMPORT_NEWS">
         <source></source>
         <translation>导入新闻(&amp;I)…</translation>
+    </message>
+    <message id="TERMINAL_NO_CHINESE_FONT">
+        <source></source>
+        <translation>未安装中文字体，中文会显示为方块。 No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
     </message>
     <message id="TERMINAL_IMPORT_NOT_STARTED">
         <source></source>
@@ -793,7 +849,7 @@
     </message>
     <message id="TERMINAL_READ_AS_OF_EXPLANATION">
         <source></source>
-        <translation>终端将以此时点为现在，显示当时的新闻。</translation>
+        <translation>终端将以此时点为现在，显示当时的新闻；之后的新闻到时才出现。</translation>
     </message>
     <message id="TERMINAL_READ_AS_OF_NOW">
         <source></source>

@@ -271,9 +271,17 @@
         <source></source>
         <translation>今天還沒有符合所選關鍵字組的新聞。按 %1 改選。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_NEWS">
+        <source></source>
+        <translation>這裡沒有新聞。按 %1 重新要求。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_NO_WARNING_TERM">
         <source></source>
         <translation>尚未選擇警示詞。按 %1 選擇。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HINT_NO_WARRANT_NEWS">
+        <source></source>
+        <translation>這一天沒有權證新聞。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_SEARCH">
         <source></source>
@@ -315,9 +323,33 @@
         <source></source>
         <translation>內容：</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_AS_OF">
+        <source></source>
+        <translation>依較早時刻閱讀</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_BEFORE_BREAK">
+        <source></source>
+        <translation>搜尋於 %1，之後補入了斷線期間的新聞：重新搜尋</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_FILTERED">
+        <source></source>
+        <translation>只列出符合關鍵字組的新聞：全部顯示</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_NARROWED">
+        <source></source>
+        <translation>只找 %1 的新聞：改找全部</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED">
+        <source></source>
+        <translation>尚未以關鍵字組篩選：立即篩選</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_AFTERDAYS">
         <source></source>
         <translation>所選日期晚於今天。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_BETWEEN_NAMES">
+        <source></source>
+        <translation>、</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_CATEGORY">
         <source></source>
@@ -371,6 +403,10 @@
         <source></source>
         <translation>這一天沒有新聞。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_LEFT_OUT">
+        <source></source>
+        <translation>沒有內文而略去：%1 則</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS">
         <source></source>
         <translation>新聞</translation>
@@ -394,6 +430,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_NEWS_TITLE">
         <source></source>
         <translation>標題：</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_NOTHING_TO_PUT_OUT">
+        <source></source>
+        <translation>沒有輸出任何內容：尚無內文。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_NO_CODE_PAGE">
         <source></source>
@@ -430,6 +470,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_PS">
         <source></source>
         <translation>（本文完）</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PUT_OUT_READY">
+        <source></source>
+        <translation>先輸出已齊全的 %1 則</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER">
         <source></source>
@@ -557,7 +601,7 @@
     </message>
     <message id="IDS_SINGLETON-STRING_FONTNAME">
         <source></source>
-        <translation>Noto Sans CJK TC</translation>
+        <translation>Noto Sans Mono CJK TC</translation>
     </message>
     <message id="TERMINAL_ACCEPT">
         <source></source>
@@ -599,6 +643,10 @@
         <source></source>
         <translation>關閉視窗(&amp;C)</translation>
     </message>
+    <message id="TERMINAL_DATED_AHEAD">
+        <source></source>
+        <translation>%1 的新聞時間在未來（%2）：來源或本機的時鐘不準。</translation>
+    </message>
     <message id="TERMINAL_DUPLICATE_VIEW">
         <source></source>
         <translation>複製視窗(&amp;D)</translation>
@@ -618,6 +666,10 @@
     <message id="TERMINAL_FEED_OFFLINE_SINCE">
         <source></source>
         <translation>離線（自 %1）</translation>
+    </message>
+    <message id="TERMINAL_FEED_ONLY_READ">
+        <source></source>
+        <translation>唯讀</translation>
     </message>
     <message id="TERMINAL_FEED_RECONNECTING">
         <source></source>
@@ -678,6 +730,10 @@
     <message id="TERMINAL_IMPORT_NEWS">
         <source></source>
         <translation>匯入新聞(&amp;I)…</translation>
+    </message>
+    <message id="TERMINAL_NO_CHINESE_FONT">
+        <source></source>
+        <translation>未安裝中文字型，中文會顯示為方塊。 No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
     </message>
     <message id="TERMINAL_IMPORT_NOT_STARTED">
         <source></source>
@@ -793,7 +849,7 @@
     </message>
     <message id="TERMINAL_READ_AS_OF_EXPLANATION">
         <source></source>
-        <translation>終端機將以此時點為現在，顯示當時的新聞。</translation>
+        <translation>終端機將以此時點為現在，顯示當時的新聞；之後的新聞到時才出現。</translation>
     </message>
     <message id="TERMINAL_READ_AS_OF_NOW">
         <source></source>

@@ -3,6 +3,7 @@
 #include "tests/endurance/desk.h"
 
 #include "host/contract/search_control.h"
+#include "host/contract/view_options.h"
 #include "host/controls/window_id.h"
 #include "news_view/control_ids.h"
 #include "search/news_key_search_dlg.h"
@@ -45,6 +46,18 @@ void writeSwitches(const QString& folder, int view) {
     file.write("[NewsCtrlSearchView]\n");
     file.write(view == desk::relating ? "ShowNormalSearch=1\n" : "");
     file.write(view == desk::warning ? "ShowWarningSearch=1\n" : "");
+}
+
+// What a terminal writes for its views: the names of topics as the module reads them.
+void writeTopics(const QString& folder, EmbeddedBackEnd& backEnd) {
+    std::vector<QString> ids;
+    std::vector<QString> names;
+    backEnd.bNewsAPI_GetNewsCatId(1, ids, names);
+    QFile file(QDir(folder).filePath(u"NewsService.ini"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write((u"[CONFIG]\nCatId="_s + QStringList(ids.begin(), ids.end()).join(u',') + u"\nSHORTNAME="_s +
+                QStringList(names.begin(), names.end()).join(u',') + u'\n')
+                   .toUtf8());
 }
 
 QMap<QString, QVariant> firstSettings(int view) {
@@ -128,7 +141,9 @@ void Desk::Install() {
 void Desk::open(int number, const QString& systemFolder) {
     writeSwitches(systemFolder, number);
     backEnd->setSysPath(systemFolder);
+    writeTopics(systemFolder, *backEnd);
     Place& place = views[static_cast<std::size_t>(number)];
+    ViewOptions::writeMissing(place.settings, {u"Layout"_s, 0, 0, u"TRVNewsCtrlView"_s});
     place.frame = std::make_unique<QWidget>();
     place.frame->resize(900, 500);
     place.view = std::make_unique<TRVNewsCtrlView>(place.frame.get());
@@ -154,6 +169,28 @@ void Desk::tickKeySets() {
 
 std::vector<HeadlineKey> Desk::Keys(int view, int list) const {
     return View(view).Keys(list, 0, View(view).iGetHeadlineTableSize(list));
+}
+
+std::vector<int> Desk::ModesOf(int view) {
+    static constexpr int ownModes[] = {searchMode, relationMode, warningMode};
+    return {0, 1, 2, warrantMode, ownModes[view]};
+}
+
+void Desk::GoTo(int view, int mode) {
+    View(view).SwitchFunction(mode);
+    Settle();
+}
+
+QStringList Desk::TextsOf(int view, int list, int row) const {
+    CSuperSheetWnd& sheet = *View(view).Sheet(list);
+    if (row < sheet.iGetFirstVisibleRow() || row > sheet.iGetFirstVisibleRow() + sheet.iGetRowsPerPage()) {
+        sheet.verticalScrollBar()->setValue(row);
+        View(view).vRealUpdateView();
+    }
+    QStringList texts;
+    for (int column = 0; column < sheet.model()->columnCount(); ++column)
+        texts += sheet.model()->index(row, column).data().toString();
+    return texts;
 }
 
 std::vector<unsigned char> Desk::TickedServices(int view) const {
@@ -262,8 +299,7 @@ void Desk::DoSomething(WeekWire& dice) {
 void Desk::DoSomethingBig(WeekWire& dice, const QDate& day) {
     const int number = dice.Below(desk::views);
     TRVNewsCtrlView& view = View(number);
-    static constexpr int ownModes[] = {searchMode, relationMode, warningMode};
-    const int modes[] = {0, 0, 1, 2, warrantMode, ownModes[number]};
+    const std::vector<int> modes = ModesOf(number);
     switch (dice.Below(6)) {
         case 0:
             view.bChangeDate(day.addDays(-dice.Below(3)));
@@ -272,8 +308,7 @@ void Desk::DoSomethingBig(WeekWire& dice, const QDate& day) {
             view.bChangeDate(day);
             break;
         case 2:
-            if (view.State()[u"mode"_s].toInt() != warrantMode)
-                view.OnCommand(ids::firstServiceCommand + dice.Below(4));  // the warrants have no command
+            view.OnCommand(ids::firstServiceCommand + dice.Below(4));  // the warrants have no command
             break;
         case 3:
             if (number == desk::searching)
@@ -283,6 +318,7 @@ void Desk::DoSomethingBig(WeekWire& dice, const QDate& day) {
             chooseCategory(view, dice.Below(7));
             break;
         default:
-            view.SwitchFunction(modes[dice.Below(6)]);
+            view.SwitchFunction(
+                modes.at(static_cast<std::size_t>(dice.Below(static_cast<int>(modes.size())))));
     }
 }

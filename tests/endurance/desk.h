@@ -37,6 +37,11 @@ public:
     TRVNewsCtrlView& View(int number) const { return *views.at(static_cast<std::size_t>(number)).view; }
     std::vector<HeadlineKey> Keys(int view, int list) const;
     std::vector<unsigned char> TickedServices(int view) const;
+    // The modes that a view has, and a switch to one.
+    static std::vector<int> ModesOf(int view);
+    void GoTo(int view, int mode);
+    // The cells of a row of the current list, which is scrolled there as a reader does.
+    QStringList TextsOf(int view, int list, int row) const;
 
     // Installs its back end as that of the process.
     void Install();

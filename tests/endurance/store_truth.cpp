@@ -47,6 +47,16 @@ std::vector<HeadlineKey> StoreTruth::WithWord(const QString& word) {
     return read(u"' ' || title || ' ' LIKE '% %1 %'"_s.arg(word));
 }
 
+QStringList StoreTruth::TextsOf(const HeadlineKey& key) {
+    Statement statement(
+        *store,
+        "SELECT name, title FROM headlines LEFT JOIN categories ON categories.id = category AND "
+        "space = CASE service WHEN 52 THEN 52 ELSE 0 END "
+        "WHERE service = ? AND time = ? AND sequence = ?");
+    Query query(statement, key.service, key.time, key.sequence);
+    return query.next() ? QStringList{query.text(0), query.text(1)} : QStringList();
+}
+
 int StoreTruth::Count(const char* sql) {
     std::int64_t number = -1;
     return store->readNumber(sql, number) ? static_cast<int>(number) : -1;

@@ -31,6 +31,8 @@ public:
     // Headlines with the word, of every service and day.
     std::vector<HeadlineKey> WithWord(const QString& word);
     int Count(const char* sql);
+    // The title of a headline and the name of its topic.
+    QStringList TextsOf(const HeadlineKey& key);
 
 private:
     std::vector<HeadlineKey> read(const QString& condition, const Wanted& wanted = {});

@@ -18,6 +18,8 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <iostream>
+#include <map>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 using namespace wirepane;
@@ -36,21 +38,53 @@ Keys sorted(Keys keys) {
     return keys;
 }
 
+// In which order headlines are told.
+class TellOrder : public NewsReceiver {
+public:
+    void RecvNewHeadLine(const CHeadline* headline, const QString&, const QString&) override {
+        const HeadlineKey key = KeyOf(*headline);
+        told[{key.service, key.time, key.sequence}] = ++count;
+    }
+    // 0: not told.
+    int Of(const HeadlineKey& key) const {
+        const auto place = told.find({key.service, key.time, key.sequence});
+        return place == told.end() ? 0 : place->second;
+    }
+
+private:
+    std::map<std::tuple<unsigned char, std::int64_t, std::int32_t>, int> told;
+    int count = 0;
+};
+
+// What has been told since a list was read stands above the rest, the headline told last on top; of one
+// second in any order. What it was read with stands newest first.
+bool isInOrder(const Keys& rows, const TellOrder& order) {
+    std::size_t told = 0;
+    const auto isBelow = [&](const HeadlineKey& above, const HeadlineKey& below) {
+        return above.time == below.time || order.Of(above) > order.Of(below);
+    };
+    while (told < rows.size() && order.Of(rows[told]) > 0 &&
+           (told == 0 || isBelow(rows[told - 1], rows[told])))
+        ++told;
+    std::size_t read = rows.size();
+    while (read > 0 && (read == rows.size() || rows[read - 1].time >= rows[read].time))
+        --read;
+    return read <= told;
+}
+
 class Week : public testing::Test {
 protected:
     Week() {
         startDay(QDate(2026, 3, 2));
         session = std::make_unique<Desk>(folder.filePath(u"news.db"_s), folder.path());
+        session->BackEnd().Attach(&order);
     }
+    ~Week() override { session->BackEnd().Detach(&order); }
 
     void startDay(const QDate& next) {
         day = next;
         wire.StartDay(day);
         moveClock(0);
-        for (const unsigned char service : WeekWire::services) {
-            if (session)
-                session->BackEnd().startNewsDay({service, day.toString(u"yyyyMMdd"_s).toInt()});
-        }
     }
     // The clock runs on while a day is lived and checked: midnight must not come meanwhile.
     void moveClock(double share) {
@@ -104,6 +138,80 @@ protected:
         ASSERT_TRUE(held == sorted(truth))
             << day.toString().toStdString() << ", view " << view << ", list " << list << ": holds "
             << held.size() << ", belong there " << truth.size();
+    }
+
+    // Rows and their texts. At most `mostTexts` rows are looked at one by one.
+    void expectListAsItStands(int view, int list) {
+        TRVNewsCtrlView& held = session->View(view);
+        StoreTruth truth(session->BackEnd().storePath());
+        const std::vector<unsigned char> ticked = session->TickedServices(view);
+        const QDate picked =
+            QDate::fromString(QString::number(held.State()[u"pickedDate"_s].toInt()), u"yyyyMMdd"_s);
+        MemoryCfgIO saved;
+        held.SaveViewInfo(&saved, u"Layout"_s, 0, 0);
+        const QVariantMap symbol = held.State()[u"symbol"_s].toMap();
+        Keys expected;
+        switch (static_cast<ListIndex>(list)) {
+            case ListIndex::All:
+                expected = truth.OfDay(picked, ticked);
+                break;
+            case ListIndex::Category:
+                expected = truth.OfCategory(saved.values[u"CategoryID"_s].toInt(), ticked);
+                break;
+            case ListIndex::Symbol:
+                expected = truth.OfSymbol(static_cast<unsigned char>(symbol[u"service"_s].toInt()),
+                                          symbol[u"code"_s].toString(), ticked);
+                break;
+            case ListIndex::Relation:
+                expected = truth.OfDay(day, ticked, [](const StoreTruth::Row& row) {
+                    return desk::IsRelated(row.category, row.title);
+                });
+                break;
+            case ListIndex::Warrant:
+                expected = truth.OfDay(picked, {52});
+                break;
+            default:
+                return;
+        }
+        const Keys rowsHeld = session->Keys(view, list);
+        SCOPED_TRACE(u"%1, view %2, list %3"_s.arg(day.toString()).arg(view).arg(list).toStdString());
+        ASSERT_EQ(rowsHeld.size(), expected.size());
+        ASSERT_TRUE(sorted(rowsHeld) == sorted(expected));
+        EXPECT_TRUE(!wire.IsOrderly() || isInOrder(rowsHeld, order));
+        expectTexts(view, list, rowsHeld, truth);
+    }
+
+    void expectTexts(int view, int list, const Keys& keys, StoreTruth& truth) {
+        constexpr std::size_t mostTexts = 500;
+        const std::size_t step = 1 + keys.size() / mostTexts;
+        for (std::size_t row = 0; row < keys.size(); row += step) {
+            const QStringList texts = session->TextsOf(view, list, static_cast<int>(row));
+            ASSERT_EQ(texts.mid(1), truth.TextsOf(keys[row])) << "row " << row;
+            const QDateTime time = QDateTime::fromSecsSinceEpoch(keys[row].time);
+            const QString ofDay = time.toString(u"HH:mm"_s);
+            const QString withDate = time.toString(u"MM/dd HH:mm"_s);
+            const bool hasDate = KindOf(static_cast<ListIndex>(list)).showDate;
+            // Pushed rows of the relation list say their day.
+            const bool mayHaveDate = hasDate || list == static_cast<int>(ListIndex::Relation);
+            ASSERT_TRUE((texts[0] == ofDay && !hasDate) || (texts[0] == withDate && mayHaveDate))
+                << texts[0].toStdString() << " for " << withDate.toStdString();
+        }
+    }
+
+    // The lists as the day has left them: that on show, then each as a switch to its mode shows it. Nothing
+    // is read anew but what a switch reads.
+    void expectListsAsTheyStand() {
+        for (int view = 0; view < desk::views && !HasFatalFailure(); ++view) {
+            // A list of a symbol takes the pushed news whose main symbol it is, and finds more when it is
+            // read.
+            const int current = session->View(view).State()[u"mode"_s].toInt();
+            if (current != static_cast<int>(ListIndex::Symbol))
+                expectListAsItStands(view, current);
+            for (const int mode : Desk::ModesOf(view)) {
+                session->GoTo(view, mode);
+                expectListAsItStands(view, mode);
+            }
+        }
     }
 
     void expectWhatBelongsThere() {
@@ -161,6 +269,7 @@ protected:
     QTemporaryDir folder;
     WeekWire wire{20260302};
     QDate day;
+    TellOrder order;
     std::unique_ptr<Desk> session;
     MemoryInUse inUse;
     QString rows;  // of each list that was compared
@@ -178,6 +287,9 @@ TEST_F(Week, MemoryStaysAndEveryListHoldsWhatBelongsThere) {
             startDay(day.addDays(1));
         liveThroughTheDay();
         const qint64 lived = time.restart();
+        expectListsAsTheyStand();
+        if (HasFatalFailure())
+            return;
         session->RebuildLists(day);
         expectWhatBelongsThere();
         // Days compare when their lists do: the same services, each with what the day before has.

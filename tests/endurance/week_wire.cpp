@@ -32,8 +32,12 @@ std::vector<StoreItem> WeekWire::Catalogues() {
     std::vector<StoreItem> items;
     for (int i = 0; i < 10; ++i)
         items.push_back(SymbolItem{16, QString::number(2330 + i), u"Company %1"_s.arg(i), 1});
-    for (const unsigned char service : services)
-        items.push_back(CategoryItem{service, 7, u"Sundays"_s, {}});
+    // The warrants number their topics for themselves: the same numbers have other names.
+    for (const unsigned char service : services) {
+        for (int id = 1; id <= 7; ++id)
+            items.push_back(CategoryItem{
+                service, id, u"%1 %2"_s.arg(service == 52 ? u"Warrants"_s : u"Topic"_s).arg(id), {}});
+    }
     return items;
 }
 
@@ -70,12 +74,14 @@ std::vector<StoreItem> WeekWire::Next(int count, double share) {
     return items;
 }
 
-// Now and then one that is an hour late.
+// Now and then one that is an hour late, and one that belongs to the day before.
 NewsItem WeekWire::fresh(std::int64_t moment) {
     NewsItem item;
     item.service = services[Below(std::size(services))];
     item.identity = u"n%1"_s.arg(++numbered);
-    item.time = dayBegin + std::max<std::int64_t>(0, moment - Below(30) - (Below(500) == 0 ? 3600 : 0));
+    const int late = IsOrderly() ? 0 : Below(30) + (Below(500) == 0 ? 3600 : 0);
+    const int dayBefore = Below(60) == 0 ? daySeconds : 0;
+    item.time = dayBegin + std::max<std::int64_t>(0, moment - late) - dayBefore;
     item.title = title();
     item.categoryId = CategoryOf(day.addDays(Below(2)));
     if (Below(3) == 0)

@@ -27,7 +27,9 @@ public:
     static QString WordOf(const QDate& day);
     static int CategoryOf(const QDate& day) { return day.dayOfWeek(); }
 
+    // On an orderly day no headline is dated before one that came earlier, but for those of the day before.
     void StartDay(const QDate& begun);
+    bool IsOrderly() const { return day.day() % 2 == 1; }
     // The next items, as they come when `share` of the day, in [0, 1], is over.
     std::vector<wirepane::StoreItem> Next(int count, double share);
     // How many headlines were sent, those that were sent again included.

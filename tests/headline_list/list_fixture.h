@@ -16,23 +16,27 @@ class FakeOwner : public ListOwner {
 public:
     const std::vector<ServiceEntry>& vGetServices() const override { return services; }
     int GetNewsType() const override { return newsType; }
-    QString cszTransferCatIDToCatName(int id) const override {
+    QString CategoryNameOf(unsigned char service, int id) override {
+        if (id == 7 && service == warrantService)
+            return QStringLiteral("Issue");
         if (id == 8)
             return QStringLiteral("新聞");
         return id == 7 ? QStringLiteral("Markets") : QStringLiteral("(recover)");
     }
-    int GetCategoryColor(const QString& name, QColor& text, QColor&) const override {
+    int CategoryColourOf(unsigned char, const QString& name, QColor& text, QColor&) override {
         if (name != QStringLiteral("Markets") && name != QStringLiteral("新聞"))
             return 0;
         text = Qt::red;
         return 1;
     }
     void vCategoryStateAfterWriting() override { ++rowsWritten; }
+    void vRowsReplaced(ListIndex list) override { replaced.push_back(list); }
 
     std::vector<ServiceEntry> services{
         {1, true, 0, false}, {2, true, 0, false}, {16, false, 0, false}, {52, false, 0, false}};
     int newsType = 0;
     int rowsWritten = 0;
+    std::vector<ListIndex> replaced;
 };
 
 class HeadlineListTest : public testing::Test {

@@ -237,6 +237,9 @@ TEST_F(Push, RowsOfTheRelationListKeepTheirFormOfTime) {
     sheet.verticalScrollBar()->setValue(1000);
     relation.vFillHeadline();
     EXPECT_EQ(relation.Text(1000, 0), u"03/02 15:19"_s);
+    relation.vForgetWrittenCells();
+    relation.vFillHeadline();
+    EXPECT_EQ(relation.Text(1000, 0), u"03/02 15:19"_s) << "also after a change of language";
 
     // A title that has changed meanwhile is written in the list's own form.
     relation.vUpdateHeadline(1000, headline(noon + 60 * 199, 199, u"corrected"_s), false);

@@ -70,6 +70,16 @@ TEST(RelationMatcher, MatchesAsStated) {
     }
 }
 
+TEST(RelationMatcher, TakesKeywordsInAnyCaseWhenItIsToldTo) {
+    const std::vector<CNewsKey> keySets{{1, {1}, {u"rate"_s, u"Straße"_s}}, {2, {2}, {u"abc"_s}}};
+    const RelationMatcher matcher(keySets, RelationMatcher::Case::Any);
+    CHeadline headline;
+    headline.title = u"Rates of the strasse"_s;
+    EXPECT_TRUE(matcher.CheckIsRelationSearch(headline, 1, {}));
+    EXPECT_FALSE(matcher.CheckIsRelationSearch(headline, 2, u"ab"_s));
+    EXPECT_TRUE(matcher.CheckIsRelationSearch(headline, 2, u"Abc"_s));
+}
+
 namespace {
 
 // One headline tried on one key set after the other, word by word.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "headline_list/list_index.h"
+#include "host/contract/sync_info.h"
 #include "host/controls/s_button.h"
 #include "news_view/control_ids.h"
 #include "story/story_ids.h"
@@ -9,6 +10,9 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QFileDialog>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -20,6 +24,13 @@ namespace {
 constexpr int all = static_cast<int>(ListIndex::All);
 constexpr int printNews = 9271;
 constexpr int saveNews = 9272;
+
+// A host that wants story windows to stay on top.
+class OnTop : public CSyncInfo {
+public:
+    OnTop() { SetSettingCFG(this); }
+    int SYS_eGetPopupWndPosition() override { return 2; }
+};
 
 class ViewOutputTest : public NewsViewTest {
 protected:
@@ -158,6 +169,62 @@ TEST_F(ViewOutputTest, TheUserStopsWaiting) {
     EXPECT_FALSE(QFile::exists(folder.filePath(u"never.pdf"_s)));
 }
 
+TEST_F(ViewOutputTest, TheStopButtonOffersWhatIsReady) {
+    openWithNews();
+    backEnd.add(1, localTime(2026, 3, 2, 12, 30), 4, u"Flash"_s);
+    view->InitialHeadlineTable(all);
+    QSignalSpy told(view.get(), &TRVQuoteBaseView::MessageForUser);
+    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_LEFT_OUT"_s, u"left out %1"_s);
+    view->Sheet(all)->selectAll();
+    EXPECT_TRUE(view->SaveNews(target(u"ready.txt"_s)).waiting);
+    EXPECT_TRUE(view->PrintNews(target(u"dropped.pdf"_s)).waiting);
+    auto* stop = qobject_cast<SButton*>(GetDlgItem(view.get(), ids::stopWaiting));
+    stop->click();
+    EXPECT_FALSE(stop->isHidden()) << "the user is asked first";
+    const auto commands = [&] {
+        QList<int> result;
+        for (const QAction* action : QApplication::activePopupWidget()->actions())
+            result.append(action->data().toInt());
+        return result;
+    };
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(commands(), (QList<int>{ids::putOutReady, ids::stopWaiting}));
+    QApplication::activePopupWidget()->actions().first()->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return saved(u"ready.txt"_s).contains("Body 1"); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told.count() == 2; }));
+    EXPECT_EQ(told.at(0).at(0).toString(), u"left out 1"_s);
+    EXPECT_TRUE(stop->isHidden());
+}
+
+TEST_F(ViewOutputTest, TheWindowsHeadlineIsPutOutWhereverItStandsByNow) {
+    openWithNews();
+    select(1);
+    view->OnShowStory();
+    ASSERT_TRUE(dialogTitle().endsWith(u"s1 11:00"_s));
+    addNews(1, 12, 30, 9);
+    push(1, 12, 30, 9);
+    answering([&] { dialog()->OnBtnSaveas(); },
+              [&](QWidget& question) {
+                  EXPECT_EQ(view->Sheet(all)->cptGetFocusNdx().y(), 2);
+                  static_cast<QDialog&>(question).reject();
+              });
+    EXPECT_TRUE(dialogTitle().endsWith(u"s1 11:00"_s));
+}
+
+TEST_F(ViewOutputTest, TitlesStayWholeWhereTheHostWantsIt) {
+    const QString title = QString(100, u'x');
+    backEnd.add(1, localTime(2026, 3, 2, 10, 0), 1, title);
+    const CHeadlineTable entry{localTime(2026, 3, 2, 10, 0), 1, 1, 0, 0};
+    backEnd.addStory({entry.time, u"Body"_s, entry});
+    for (const bool whole : {false, true}) {
+        open(whole ? QMap<QString, QVariant>{{u"WholeTitles"_s, true}} : QMap<QString, QVariant>());
+        select(0);
+        view->SaveNews(target(u"title.txt"_s));
+        EXPECT_EQ(saved(u"title.txt"_s).contains(QByteArray(20, 'x') + "\n\n"), whole);
+        EXPECT_EQ(saved(u"title.txt"_s).count('x'), whole ? 100 : 80);
+    }
+}
+
 TEST_F(ViewOutputTest, TellsWhyAFileCouldNotBeWritten) {
     openWithNews();
     QSignalSpy told(view.get(), &TRVQuoteBaseView::MessageForUser);
@@ -173,22 +240,37 @@ TEST_F(ViewOutputTest, TellsWhyAFileCouldNotBeWritten) {
 }
 
 TEST_F(ViewOutputTest, AsksWithTheStoryDialogOutOfTheWay) {
+    OnTop host;
     openWithNews();
     select(0);
     view->OnShowStory();
+    ASSERT_TRUE(dialog()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     const auto* button = qobject_cast<SButton*>(GetDlgItem(view.get(), ids::saveAsButton));
     ASSERT_NE(button, nullptr);
     EXPECT_EQ(answering([&] { view->OnCommand(saveNews); },
                         [&](QWidget& question) {
                             EXPECT_FALSE(button->isEnabled());
                             EXPECT_EQ(question.parentWidget(), dialog());
-                            static_cast<QDialog&>(question).reject();
+                            EXPECT_FALSE(dialog()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+                            auto& file = dynamic_cast<QFileDialog&>(question);
+                            EXPECT_TRUE(file.testOption(QFileDialog::DontConfirmOverwrite));
+                            EXPECT_EQ(file.defaultSuffix(), u"txt"_s);
+                            file.reject();
                         }),
               1);
     EXPECT_TRUE(button->isEnabled());
-    EXPECT_EQ(answering([&] { view->OnCommand(printNews); },
-                        [&](QWidget& question) { static_cast<QDialog&>(question).reject(); }),
-              1);
+    EXPECT_TRUE(dialog()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) << "as the host wants it";
+    EXPECT_EQ(
+        answering([&] { view->OnCommand(printNews); },
+                  [&](QWidget& question) {
+                      auto& print = dynamic_cast<QPrintDialog&>(question);
+                      for (const auto range : {QPrintDialog::PrintPageRange, QPrintDialog::PrintCurrentPage,
+                                               QPrintDialog::PrintSelection})
+                          EXPECT_FALSE(print.testOption(range));
+                      EXPECT_TRUE(print.printer()->collateCopies());
+                      print.reject();
+                  }),
+        1);
     // The view goes while the user is asked.
     EXPECT_EQ(answering([&] { view->OnCommand(ids::saveAsButton); }, [&](QWidget&) { view.reset(); }), 1);
     EXPECT_EQ(view, nullptr);

@@ -85,6 +85,8 @@ TEST_F(RelatedQuotesTest, ListsTheSymbolsOfTheShownHeadlineAndNoOthers) {
     view->SwitchFunction(static_cast<int>(ListIndex::All));
     EXPECT_EQ(rows(), ofNewest);
     view->GetSymbolNews(u"2330"_s);
+    EXPECT_EQ(rows(), ofNewest) << "another list is shown, and its story with it";
+    view->SwitchFunction(static_cast<int>(ListIndex::Symbol));
     EXPECT_EQ(rows(), QStringList());
 }
 
@@ -126,6 +128,12 @@ TEST_F(RelatedQuotesTest, HandsOnWhatTheBackEndSays) {
     view->vRecvNewsRelateSymbolListRecovery(&again);
     view->vRecvNewsRelateSymbolListRecovery(nullptr);
     EXPECT_EQ(rows(), (QStringList{u"6214 Lantern Foods --"_s, u"2330 Aster Chips 601.00"_s}));
+
+    // The headline leaves the list; what stands in its place has its own symbols.
+    view->vHeadlineGone(again.headline);
+    again = {{localTime(2026, 3, 2, 9, 2), 2, 1}, {{chips}}};
+    view->vRecvNewsRelateSymbolListRecovery(&again);
+    EXPECT_EQ(rows().size(), 2);
 
     backEnd.symbols[16][1].second = u"Aster Renamed"_s;
     view->vDoSymbolUpdate({{16, u"2330"_s}});

@@ -179,6 +179,22 @@ TEST_F(Recovery, AServiceWithoutDataIsNamedOnce) {
     EXPECT_EQ(titles(1), QStringList{u"s1 9:00"_s}) << "the other services' news are there";
 }
 
+TEST_F(Recovery, ServicesWithoutDataAreToldApartWhereTheSettingsSaySo) {
+    openActive({{u"SeparateServiceNames"_s, true}});
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_BETWEEN_NAMES"_s] = u", "_s;
+    for (const unsigned char service : std::initializer_list<unsigned char>{1, 2, 1, 16})
+        answer(dateAnswer, service, u"20260302"_s, -1);
+    EXPECT_EQ(tip(), u"Service 1, Service 2, Service 16 no news that day"_s);
+}
+
+TEST_F(Recovery, AnEmptyListSaysSoUnasked) {
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_HINT_NO_NEWS"_s] = u"no news, press %1"_s;
+    openActive();
+    for (const int list : {0, 1, 2})
+        EXPECT_EQ(view->Sheet(list)->accessibleDescription(), u"no news, press F5"_s) << list;
+    EXPECT_EQ(view->Sheet(5)->accessibleDescription(), u"IDS_NEWSCTRLVIEW_HINT_NO_WARRANT_NEWS"_s);
+}
+
 TEST_F(Recovery, NewsOfABreakIsMarkedAndTheBreakIsShown) {
     addNews(1, 9, 10, 1);
     openActive();

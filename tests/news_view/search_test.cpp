@@ -11,6 +11,7 @@
 #include "tests/news_view/view_fixture.h"
 
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QRadioButton>
 #include <QTest>
@@ -39,6 +40,7 @@ CSearch quick(const QString& word) {
 class Searches : public NewsViewTest {
 protected:
     Searches() {
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_NOTICE_NARROWED"_s] = u"only %1"_s;
         addNews(1, 9, 0, 1);
         addNews(2, 9, 10, 1);
         addNews(22, 9, 5, 4);
@@ -63,6 +65,22 @@ protected:
         QTest::keyClick(edit, Qt::Key_Return);
     }
 
+    // The texts of the message boxes that `work` puts in front of the user, each of which is closed.
+    QStringList boxesOver(const std::function<void()>& work) {
+        QStringList texts;
+        QTimer closing;
+        QObject::connect(&closing, &QTimer::timeout, view.get(), [&] {
+            auto* over = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (over == nullptr)
+                return;
+            const auto* box = qobject_cast<QMessageBox*>(over);
+            texts.append(box != nullptr ? box->text() : QString());
+            over->reject();
+        });
+        closing.start(0);
+        work();
+        return texts;
+    }
     QStringList sent() {
         const QStringList searches = backEnd.asked.filter(u"search "_s);
         backEnd.asked.clear();
@@ -145,23 +163,90 @@ TEST_F(Searches, NothingFoundIsToldWithTheLastAnswer) {
 TEST_F(Searches, QuickSearchesThatCannotBeSentAreRefused) {
     openSearch();
     for (const QString& text : {QString(), u"   "_s}) {
-        quickSearch(text);
+        EXPECT_EQ(boxesOver([&] { quickSearch(text); }), QStringList());
         EXPECT_EQ(shortTip(), invalid);
     }
-    int boxes = 0;
-    for (const QString& text : {u"STANDARD"_s, u"gold OR oil"_s}) {
-        QTimer::singleShot(0, view.get(), [&] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_NE(box, nullptr);
-            boxes += box->text() == u"IDS_NEWSCTRLVIEW_STRING_REINPUT"_s ? 1 : 0;
-            box->accept();
-        });
-        quickSearch(text);
-    }
-    EXPECT_EQ(boxes, 2);
+    for (const QString& text : {u"STANDARD"_s, u"gold OR oil"_s})
+        EXPECT_EQ(boxesOver([&] { quickSearch(text); }), QStringList{u"IDS_NEWSCTRLVIEW_STRING_REINPUT"_s});
     EXPECT_EQ(sent(), QStringList());
-    quickSearch(u"standard or and"_s);
+    EXPECT_EQ(boxesOver([&] { quickSearch(u"standard or and"_s); }), QStringList());
     EXPECT_EQ(sent().size(), 2) << "capitals alone are refused";
+}
+
+TEST_F(Searches, WithoutAServiceTheLastSearchIsSentWhateverIsInTheBox) {
+    backEnd.services.clear();
+    openSearch();
+    runDialog([](CAdvSearchDlg& dialog) {
+        addKeyword(dialog, u"gold"_s);
+        press(dialog, search_ids::ok);
+    });
+    EXPECT_EQ(boxesOver([&] { quickSearch(u"STANDARD"_s); }), QStringList());
+    EXPECT_EQ(tip(), searching + u" gold"_s);
+}
+
+TEST_F(Searches, AnAnswerToTheSecondSearchHasATableOfItsOwn) {
+    writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
+    openSearch({{u"WarningSearchItems"_s, QStringList{quick(u"tin"_s).GetString()}},
+                {u"WarningSearchItemOrder"_s, 1}});
+    quickSearch(u"gold"_s);
+    backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
+    backEnd.secondSearchTables[2] = {entryOf(2, 9, 10, 1)};
+    view->RespSearchHeadLineTable(CSearch(), 1);
+    EXPECT_EQ(titles(3), QStringList{u"s2 9:10"_s});
+    EXPECT_EQ(titles(6), QStringList());
+    EXPECT_EQ(tip(), QString()) << "it ends the wait tip";
+    EXPECT_EQ(pending(), (QList<int>{1, 2})) << "and nothing else";
+}
+
+TEST_F(Searches, TwoKeywordsAreSentWithAMethodWhichIsKept) {
+    CSearch one = quick(u"gold"_s);
+    one.method = 0;
+    CSearch two = one;
+    two.keywords.push_back(u"oil"_s);
+    writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
+    backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
+    for (const auto& [item, asked] : {std::pair{one, u"0/0 gold"_s}, std::pair{two, u"0/1 gold|oil"_s}}) {
+        openSearch(
+            {{u"WarningSearchItems"_s, QStringList{item.GetString()}}, {u"WarningSearchItemOrder"_s, 1}}, 6);
+        view->OnDealsSearch();
+        EXPECT_EQ(sent().front(), u"search 1 3 "_s + asked);
+    }
+    view->RespSearchHeadLineTable(two, 1);
+    EXPECT_EQ(view->Sheet(6)->cptGetFocusNdx().y(), -1) << "the condition without a method is none of ours";
+    two.method = 1;
+    view->RespSearchHeadLineTable(two, 1);
+    EXPECT_EQ(view->Sheet(6)->cptGetFocusNdx().y(), 0);
+}
+
+TEST_F(Searches, TheWaitTipComesWithAnotherTextInTheBoxAndNamesTheSearchThatIsSent) {
+    openSearch();
+    const auto search = [this](const QString& keyword) {
+        runDialog([&](CAdvSearchDlg& dialog) {
+            qobject_cast<QAbstractButton*>(GetDlgItem(&dialog, search_ids::methodAnd))->click();
+            for (auto* keywords = qobject_cast<QListWidget*>(GetDlgItem(&dialog, search_ids::keywords));
+                 keywords->count() > 0;) {
+                keywords->selectAll();
+                press(dialog, search_ids::remove);
+            }
+            addKeyword(dialog, keyword);
+            press(dialog, search_ids::ok);
+        });
+    };
+    quickSearch(u"gold"_s);
+    EXPECT_EQ(tip(), searching + u" gold"_s);
+    search(u"oil"_s);
+    EXPECT_EQ(tip(), searching + u" oil"_s) << "nobody waits for gold any more";
+    EXPECT_EQ(pending(), QList<int>()) << "the text in the box is the same";
+    CSearch oil = quick(u"oil"_s);
+    view->RespSearchHeadLineTable(oil, 1);
+    EXPECT_EQ(tip(), notFound);
+    view->findChild<CQuoteDlgTipMsg*>()->vStop();
+    search(u"tin"_s);
+    EXPECT_EQ(tip(), QString()) << "the text in the box is the same";
+    qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit))->setText(u"other"_s);
+    search(u"tin"_s);
+    EXPECT_EQ(tip(), searching + u" tin"_s) << "the keywords are the same, the text is not";
+    EXPECT_EQ(pending(), (QList<int>{1, 2}));
 }
 
 TEST_F(Searches, OnlySearchModesSend) {
@@ -288,10 +373,35 @@ TEST_F(Searches, WithWarningTermsAnswersGoToTheirListAndPushesAskAgain) {
         view->ProcessNewSearchHeadline(warning, ListIndex::WarningTerm, headline, u"SEARCH"_s);
         return titles(6);
     };
-    EXPECT_EQ(pushed(2, 8), QStringList{u"s1 9:00"_s}) << "it is not among the results";
+    backEnd.searchTables[2] = {entryOf(2, 9, 10, 1)};
+    EXPECT_EQ(pushed(2, 8), QStringList{u"s1 9:00"_s}) << "it is not among its service's results";
     EXPECT_EQ(sent(), QStringList{u"search 1 3 0/1 gold|oil"_s});
     EXPECT_EQ(pushed(2, 1), QStringList{u"s1 9:00"_s}) << "it is there already";
     EXPECT_EQ(pushed(3, 1), (QStringList{u"pushed"_s, u"s1 9:00"_s})) << "its number on another day";
     EXPECT_EQ(view->iGetHeadlineTableSize(6), 2);
     EXPECT_EQ(pushed(2, 1), QStringList{u"s1 9:00"_s}) << "the table is read anew";
+}
+
+TEST_F(Searches, RowsOfWarningTermsStayWhileAPushIsSearchedForWhereTheSettingsSaySo) {
+    writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
+    openSearch({{u"KeepWarningRows"_s, true},
+                {u"WarningSearchItems"_s, QStringList{quick(u"gold"_s).GetString()}},
+                {u"WarningSearchItemOrder"_s, 1}},
+               6);
+    backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
+    backEnd.searchTables[2] = {entryOf(2, 9, 10, 1)};
+    view->OnDealsSearch();
+    view->RespSearchHeadLineTable(quick(u"gold"_s), 1);
+    const QStringList both{u"s2 9:10"_s, u"s1 9:00"_s};
+    EXPECT_EQ(titles(6), both);
+    sent();
+    addNews(2, 9, 20, 2);
+    backEnd.searchTables[2] = {};
+    push(2, 9, 20, 2);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+    EXPECT_EQ(sent(), QStringList{u"search 2 3 0/1 gold"_s});
+    EXPECT_EQ(titles(6), both);
+    backEnd.searchTables[2] = {entryOf(2, 9, 20, 2), entryOf(2, 9, 10, 1)};
+    view->RespSearchHeadLineTable(quick(u"gold"_s), 2);
+    EXPECT_EQ(titles(6), (QStringList{u"s2 9:20"_s, u"s2 9:10"_s, u"s1 9:00"_s}));
 }

@@ -125,7 +125,7 @@ protected:
             view->bChangeDate(backEnd.newsDay.addDays(-below(3)));
         else if (what == 8 && mode() == 0)
             view->bChangeDate(backEnd.newsDay);
-        else if (what == 9 && mode() != warrantMode)
+        else if (what == 9)
             view->OnCommand(ids::firstServiceCommand + below(4));  // the warrants have no command
         else if (what == 10)
             switchMode();

@@ -37,22 +37,6 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
         backEnd.asked.clear();
     }
-    // Runs the dialog of a button: `work` has it in front of the user and ends it.
-    template <class Dialog>
-    void runDialog(int button, const std::function<void(Dialog&)>& work) {
-        bool shown = false;
-        QTimer::singleShot(0, view.get(), [&] {
-            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-            shown = dialog != nullptr;
-            if (shown)
-                work(*dialog);
-        });
-        view->OnCommand(button);
-        EXPECT_TRUE(shown);
-    }
-    static void press(const QWidget& dialog, int id) {
-        qobject_cast<QAbstractButton*>(GetDlgItem(&dialog, id))->click();
-    }
     static void saveKeySet(const QWidget& dialog, const QString& keyword) {
         auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(&dialog, search_ids::keywordEdit));
         edit->setText(keyword);

@@ -7,12 +7,16 @@
 #include "news_view/trv_news_ctrl_view.h"
 #include "tests/support/fake_back_end.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -48,13 +52,17 @@ protected:
                     category, symbol);
     }
 
-    TRVNewsCtrlView& open(const QMap<QString, QVariant>& stored = {}, int newsType = 0) {
+    // `prepare` has the view before it reads its settings.
+    TRVNewsCtrlView& open(const QMap<QString, QVariant>& stored = {}, int newsType = 0,
+                          const std::function<void(TRVNewsCtrlView&)>& prepare = {}) {
         settings.values = stored;
         frame.resize(1000, 700);
         view = std::make_unique<TRVNewsCtrlView>(&frame);
         view->resize(1000, 700);
         view->OnInitialUpdate();
         view->vSetNewsType(newsType);
+        if (prepare)
+            prepare(*view);
         view->InitialViewInfo(&settings, QStringLiteral("Layout"), 0, 0, {});
         frame.show();
         return *view;
@@ -108,6 +116,23 @@ protected:
         frame.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&frame));
         view->pGetCurrSheetView()->setFocus();
+    }
+
+    // Runs the dialog of a button: `work` has it in front of the user and ends it.
+    template <class Dialog>
+    void runDialog(int button, const std::function<void(Dialog&)>& work) {
+        bool shown = false;
+        QTimer::singleShot(0, view.get(), [&] {
+            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            shown = dialog != nullptr;
+            if (shown)
+                work(*dialog);
+        });
+        view->OnCommand(button);
+        EXPECT_TRUE(shown);
+    }
+    static void press(const QWidget& dialog, int id) {
+        qobject_cast<QAbstractButton*>(GetDlgItem(&dialog, id))->click();
     }
 
     bool isShown(int id) const {

@@ -57,12 +57,16 @@ TEST(ByteLinesTest, CutsBetweenCharacters) {
 }
 
 TEST(ByteLinesTest, LongTitlesLoseTheirTail) {
-    EXPECT_EQ(lengths(TitleLines({})), (std::vector<int>{0}));
-    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 80))), (std::vector<int>{80}));
-    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 81))), (std::vector<int>{80}));
-    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 160))), (std::vector<int>{80}));
-    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 200))), (std::vector<int>{80, 80}));
-    EXPECT_EQ(lengths(TitleLines(u'a' + repeated(u"聞"_s, 80))), (std::vector<int>{79, 80}));
+    EXPECT_EQ(lengths(TitleLines({}, false)), (std::vector<int>{0}));
+    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 80), false)), (std::vector<int>{80}));
+    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 81), false)), (std::vector<int>{80}));
+    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 160), false)), (std::vector<int>{80}));
+    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 200), false)), (std::vector<int>{80, 80}));
+    EXPECT_EQ(lengths(TitleLines(u'a' + repeated(u"聞"_s, 80), false)), (std::vector<int>{79, 80}));
+    EXPECT_EQ(lengths(TitleLines({}, true)), (std::vector<int>{0}));
+    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 80), true)), (std::vector<int>{80}));
+    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 160), true)), (std::vector<int>{80, 80}));
+    EXPECT_EQ(lengths(TitleLines(u'a' + repeated(u"聞"_s, 80), true)), (std::vector<int>{79, 80, 2}));
 }
 
 TEST(CodePage950Test, WritesTheWhiteSquareForWhatThePageLacks) {

@@ -55,11 +55,11 @@ TEST_F(NewsItemTest, GathersWhatIsAtHand) {
     tell(second, u"Body@@@@End"_s);
     NewsItems items = GatherNews(backEnd, {second, first}, services, &SavedStory);
     EXPECT_EQ(texts(items), (QStringList{u"Freight|Body\r\nEnd"_s, u"Rates|-"_s}));
-    EXPECT_FALSE(bIsComplete(items));
+    EXPECT_FALSE(bIsSettled(items));
     EXPECT_EQ(texts(GatherNews(backEnd, {second, first}, {1}, &SavedStory)),
               (QStringList{u"-|Body\r\nEnd"_s, u"Rates|-"_s}))
         << "a service that the list does not look at";
-    EXPECT_TRUE(bIsComplete(NewsItems()));
+    EXPECT_TRUE(bIsSettled(NewsItems()));
 }
 
 TEST_F(NewsItemTest, AsksOnceForWhatIsMissing) {
@@ -89,7 +89,38 @@ TEST_F(NewsItemTest, TakesWhatComesLater) {
     TakeTitles(backEnd, items, {first}, services);
     EXPECT_EQ(texts(items)[0], u"Rates|\r\n2026/03/ 2 09:05:07AB"_s) << "whole, and with its date";
     TakeStory(backEnd, items, second);
-    EXPECT_TRUE(bIsComplete(items));
+    EXPECT_TRUE(bIsSettled(items));
+}
+
+TEST_F(NewsItemTest, WhatWillNotComeIsWaitedForNoLonger) {
+    give(first, u"Rates"_s);
+    give(second, u"Freight"_s, false);
+    NewsItems items = GatherNews(backEnd, {first, second}, services, &PrintedStory);
+    tell(first, {});
+    TakeStory(backEnd, items, first);
+    EXPECT_TRUE(items[0].leftOut) << "an empty story is none";
+    EXPECT_FALSE(bIsSettled(items));
+    TakeTitles(backEnd, items, {first}, services);
+    EXPECT_FALSE(items[1].leftOut) << "nothing was said of this one";
+    TakeTitles(backEnd, items, {second}, services);
+    EXPECT_TRUE(items[1].leftOut) << "announced, and nowhere to be had";
+    EXPECT_TRUE(bIsSettled(items));
+    EXPECT_TRUE(Complete(items).empty());
+    EXPECT_TRUE(GatherNews(backEnd, {first}, services, &SavedStory)[0].leftOut) << "empty when looked up";
+    // What comes all the same counts.
+    tell(first, u"After all"_s);
+    TakeStory(backEnd, items, first);
+    ASSERT_EQ(Complete(items).size(), 1U);
+    EXPECT_EQ(texts(Complete(items)), QStringList{u"Rates|\r\n2026/03/ 2 09:05:07After all"_s});
+}
+
+TEST_F(NewsItemTest, ATitleThatWasAnnouncedIsHadFromItsOwnServiceToo) {
+    give(second, u"Freight"_s, false);
+    NewsItems items = GatherNews(backEnd, {second}, {1}, &PrintedStory);
+    backEnd.makeAllAtHand();
+    TakeTitles(backEnd, items, {second}, {1});
+    EXPECT_EQ(texts(items), QStringList{u"Freight|-"_s});
+    EXPECT_FALSE(items[0].leftOut);
 }
 
 TEST_F(NewsItemTest, AStoryOfOtherNewsIsNotTaken) {

@@ -1,14 +1,20 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "output/page_font.h"
 #include "output/page_printing.h"
 #include "output/trv_save_to_file.h"
 #include "output/whole_file.h"
 #include "tests/support/fake_back_end.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QImage>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <QProcess>
 #include <QStandardPaths>
@@ -56,6 +62,16 @@ QByteArray contents(const QString& name) {
 
 class NewsPrintTest : public testing::Test {
 protected:
+    // The text of a PDF file of the folder, as a reader finds it; skips the test where none is installed.
+    void readPdf(const QString& name, QString& text) {
+        const QString pdftotext = QStandardPaths::findExecutable(u"pdftotext"_s);
+        if (pdftotext.isEmpty())
+            GTEST_SKIP() << "pdftotext is not installed";
+        QProcess reader;
+        reader.start(pdftotext, {u"-layout"_s, path(name), u"-"_s});
+        ASSERT_TRUE(reader.waitForFinished());
+        text = QString::fromUtf8(reader.readAllStandardOutput());
+    }
     NewsPrintTest() {
         for (std::int32_t i = 1; i <= 3; ++i)
             backEnd.add(1, localTime(2026, 3, 2, 9, i), i, u"Title %1"_s.arg(i), 0, {}, i != 2);
@@ -94,7 +110,7 @@ TEST_F(NewsPrintTest, PutsOutWhenTheLastAnswerHasCome) {
     std::vector<NewsOutcome> finished;
     saver.vSetOnFinished([&](const NewsOutcome& outcome) { finished.push_back(outcome); });
     NewsItems items = gather(saver, {1, 2, 3});
-    ASSERT_FALSE(bIsComplete(items));
+    ASSERT_FALSE(bIsSettled(items));
     saver.vWait(items, {1}, target(u"late.txt"_s));
     tell(2, u"Body 2@@@@x"_s);
     tell(3, u"Body\r\n3"_s);
@@ -148,6 +164,52 @@ TEST_F(NewsPrintTest, OutlivesNoOwner) {
     answers.meanwhile = [&] { printer.reset(); };
     EXPECT_EQ(printer->PutOut(gather(*printer, {1}), nullptr, {}).count, 0);
     EXPECT_EQ(printer, nullptr);
+}
+
+TEST_F(NewsPrintTest, LeavesOutWhatWillNotComeAndSaysSo) {
+    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_LEFT_OUT"_s, u"left out %1"_s);
+    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_NOTHING_TO_PUT_OUT"_s, u"nothing"_s);
+    TRVSaveToFile saver(backEnd, answers, window);
+    std::vector<NewsOutcome> finished;
+    saver.vSetOnFinished([&](const NewsOutcome& outcome) { finished.push_back(outcome); });
+    saver.vWait(gather(saver, {1, 3}), {1}, target(u"some.txt"_s));
+    saver.vWait(gather(saver, {3}), {1}, target(u"some.txt"_s));
+    EXPECT_EQ(saver.iAwaited(), 2);
+    tell(3, {});
+    saver.RespStory(entry(3));
+    EXPECT_EQ(saver.iAwaited(), 0);
+    settle();
+    ASSERT_EQ(finished.size(), 2U);
+    EXPECT_TRUE(finished[0].failed) << "nothing of this list came";
+    EXPECT_EQ(finished[0].message, u"nothing"_s);
+    EXPECT_EQ(finished[1].message, u"left out 1"_s);
+    EXPECT_TRUE(contents(path(u"some.txt"_s)).contains("Body 1"));
+    EXPECT_FALSE(contents(path(u"some.txt"_s)).contains("Title 3"));
+    // A file that is there stays where there is nothing to write.
+    EXPECT_TRUE(saver.PutOut(gather(saver, {3}), nullptr, target(u"some.txt"_s)).failed);
+    EXPECT_TRUE(contents(path(u"some.txt"_s)).contains("Body 1"));
+    // The user cancels: nothing was put out, so nothing was left out.
+    EXPECT_EQ(saver.PutOut(gather(saver, {1, 3}), nullptr, {}).message, QString());
+}
+
+TEST_F(NewsPrintTest, PutsOutWhatIsReadyWithoutTheRest) {
+    TRVSaveToFile saver(backEnd, answers, window);
+    saver.vWait(gather(saver, {1, 2, 3}), {1}, target(u"ready.txt"_s));
+    saver.vWait(gather(saver, {2}), {1}, target(u"none.txt"_s));
+    EXPECT_EQ(saver.iReady(), 1);
+    saver.vPutOutReady();
+    EXPECT_EQ(saver.iAwaited(), 0);
+    settle();
+    EXPECT_FALSE(saver.bIsWaiting());
+    EXPECT_TRUE(contents(path(u"ready.txt"_s)).contains("Body 1"));
+    EXPECT_FALSE(QFile::exists(path(u"none.txt"_s)));
+    // What has waited and is dropped is not ready later.
+    saver.vWait(gather(saver, {1, 3}), {1}, target(u"dropped.txt"_s));
+    saver.vForgetAwaited();
+    EXPECT_EQ(saver.iReady(), 0);
+    saver.vPutOutReady();
+    settle();
+    EXPECT_FALSE(QFile::exists(path(u"dropped.txt"_s)));
 }
 
 TEST_F(NewsPrintTest, TellsWhatAFileCouldNotHold) {
@@ -225,9 +287,6 @@ TEST_F(NewsPrintTest, APrinterThatIsGoneIsTold) {
 }
 
 TEST_F(NewsPrintTest, ThePdfHoldsTheStoriesInTheirLines) {
-    const QString pdftotext = QStandardPaths::findExecutable(u"pdftotext"_s);
-    if (pdftotext.isEmpty())
-        GTEST_SKIP() << "pdftotext is not installed";
     backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_DETAILED_NEWS_DATA"_s, u"News Details"_s);
     // Among them characters that share their glyphs with others, or get another glyph beside some neighbours,
     // and one that ends lines.
@@ -240,10 +299,10 @@ TEST_F(NewsPrintTest, ThePdfHoldsTheStoriesInTheirLines) {
     TRVNewsPrint job(backEnd, answers, window);
     const NewsItems items = gather(job, {1});
     ASSERT_EQ(job.PutOut(items, nullptr, target(u"news.pdf"_s)).count, 3);
-    QProcess reader;
-    reader.start(pdftotext, {u"-layout"_s, path(u"news.pdf"_s), u"-"_s});
-    ASSERT_TRUE(reader.waitForFinished());
-    const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+    QString text;
+    ASSERT_NO_FATAL_FAILURE(readPdf(u"news.pdf"_s, text));
+    if (IsSkipped())
+        return;
     const QStringList pages = text.split(u'\f', Qt::SkipEmptyParts);
     ASSERT_EQ(pages.size(), 3);
     const auto expected = BodyPages(items[0].story);
@@ -255,5 +314,97 @@ TEST_F(NewsPrintTest, ThePdfHoldsTheStoriesInTheirLines) {
             found.append(line.trimmed());
         for (const QString& line : expected[static_cast<std::size_t>(page)])
             EXPECT_TRUE(line.trimmed().isEmpty() || found.contains(line.trimmed())) << line.toStdString();
+    }
+}
+
+// They share their glyphs.
+TEST_F(NewsPrintTest, ARadicalInAPdfLeavesTheIdeographsWhatTheyAre) {
+    tell(1, u"\u2F00\u4E00 \u2F08\u4EBA \u4E00\u4EBA a\u00A0b c"_s);
+    tell(3, u"\u2F45\u5411"_s);
+    TRVNewsPrint job(backEnd, answers, window);
+    ASSERT_EQ(job.PutOut(gather(job, {1, 3}), nullptr, target(u"news.pdf"_s)).count, 2);
+    QString text;
+    ASSERT_NO_FATAL_FAILURE(readPdf(u"news.pdf"_s, text));
+    if (IsSkipped())
+        return;
+    EXPECT_EQ(text.count(u'\u4E00'), 3) << text.toStdString();
+    EXPECT_EQ(text.count(u'\u4EBA'), 3);
+    EXPECT_FALSE(text.contains(u'\u2F00') || text.contains(u'\u2F08'));
+    EXPECT_TRUE(text.contains(u"c"_s) && text.contains(u"b c"_s));
+    EXPECT_TRUE(text.contains(u"\u2F45\u5411"_s)) << "alone it stays what it is";
+}
+
+TEST_F(NewsPrintTest, PagesAreSetInTwelvePointsOfTheFaceThatTheLanguageNames) {
+    backEnd.texts.insert(u"IDS_SINGLETON-STRING_FONTNAME"_s,
+                         u"Noto Sans Mono CJK TC, and what is too long"_s);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    for (const int resolution : {72, 600, 1200}) {
+        writer.setResolution(resolution);
+        TRVNewsPrint job(backEnd, answers, window);
+        const auto pages = PagesOn(writer, backEnd, gather(job, {1}));
+        ASSERT_EQ(pages.size(), 1U);
+        EXPECT_EQ(pages[0].heading.pixelSize, resolution / 6);
+        EXPECT_EQ(pages[0].title[0].pixelSize, resolution / 6) << "what fits is not made smaller";
+    }
+    const QFont font = PageFont(backEnd, 200, Shaping::None);
+    EXPECT_EQ(font.families().first(), u"Noto Sans Mono CJK TC, and what "_s.left(31));
+    EXPECT_EQ(font.weight(), QFont::Normal);
+}
+
+// In the face of the program's own languages, columns stand.
+TEST_F(NewsPrintTest, AChineseCharacterIsAsWideAsTwoLetters) {
+    backEnd.texts.insert(u"IDS_SINGLETON-STRING_FONTNAME"_s, u"Noto Sans Mono CJK TC"_s);
+    const QFontMetrics metrics(PageFont(backEnd, 100, Shaping::None));
+    if (!QFontInfo(PageFont(backEnd, 100, Shaping::None)).family().startsWith(u"Noto Sans Mono CJK"_s))
+        GTEST_SKIP() << "the face is not installed";
+    for (const QString& pair : {u"ii"_s, u"WW"_s, u"1."_s, u"  "_s, u"聞"_s, u"：　"_s.left(1), u"─"_s})
+        EXPECT_EQ(metrics.horizontalAdvance(pair), 100) << pair.toStdString();
+}
+
+TEST_F(NewsPrintTest, EveryFrameIsDrawnInsideItsRectangle) {
+    const QString pdftoppm = QStandardPaths::findExecutable(u"pdftoppm"_s);
+    if (pdftoppm.isEmpty())
+        GTEST_SKIP() << "pdftoppm is not installed";
+    TRVNewsPrint job(backEnd, answers, window);
+    const NewsItems items = gather(job, {1});
+    ASSERT_EQ(job.PutOut(items, nullptr, target(u"news.pdf"_s)).count, 1);
+    constexpr int dotsPerInch = 300;
+    constexpr int pdfDotsPerInch = 1200;
+    constexpr int marginDots = 118;  // 10 mm
+    ASSERT_EQ(QProcess::execute(pdftoppm, {u"-r"_s, QString::number(dotsPerInch), u"-gray"_s,
+                                           u"-singlefile"_s, path(u"news.pdf"_s), path(u"page"_s)}),
+              0);
+    const QImage page(path(u"page.pgm"_s));
+    ASSERT_FALSE(page.isNull());
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setResolution(pdfDotsPerInch);
+    writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                     QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter));
+    const PageFrames frames = PagesOn(writer, backEnd, items)[0].frames;
+    for (const QRect& frame : {frames.outer, frames.inner, frames.title, frames.body, frames.footer}) {
+        const auto onPage = [](int place) { return place * dotsPerInch / pdfDotsPerInch + marginDots; };
+        const int left = onPage(frame.left());
+        const int right = onPage(frame.left() + frame.width());
+        const int top = onPage(frame.top());
+        const int bottom = onPage(frame.top() + frame.height());
+        // A third of the way along, where nothing is written.
+        const int x = left + 20;
+        const int y = bottom - (bottom - top) / 3;
+        const auto isDark = [&](int column, int row) {
+            return page.valid(column, row) && qGray(page.pixel(column, row)) < 160;
+        };
+        // Within the frame's edge, and not beyond it; both as exactly as the dots show it.
+        const auto lies = [&](auto dark) {
+            return (dark(0) || dark(1) || dark(2)) && !dark(-3) && !dark(-4) && !dark(5);
+        };
+        EXPECT_TRUE(lies([&](int in) { return isDark(left + in, y); }));
+        EXPECT_TRUE(lies([&](int in) { return isDark(right - in, y); }));
+        EXPECT_TRUE(lies([&](int in) { return isDark(x, top + in); }));
+        EXPECT_TRUE(lies([&](int in) { return isDark(x, bottom - in); }));
     }
 }

@@ -120,6 +120,15 @@ TEST(PageLayoutTest, ScalesWhatDoesNotFit) {
               EvenMeasure().LineHeight(pages[0].body[0].pixelSize));
 }
 
+TEST(PageLayoutTest, ATitleKeepsItsTailWhereItIsToBeWhole) {
+    NewsItem whole = item(u"w"_s.repeated(170), lines(1));
+    EXPECT_EQ(layOut({whole}, 16)[0].title.size(), 2U);
+    whole.wholeTitle = true;
+    const auto pages = layOut({whole}, 16);
+    ASSERT_EQ(pages[0].title.size(), 3U);
+    EXPECT_EQ(pages[0].title[2].text, u"w"_s.repeated(10));
+}
+
 TEST(PageLayoutTest, SurvivesPaperOfNoSize) {
     EXPECT_EQ(LayOutPages({item(u"T"_s, lines(50))}, {}, texts, 16, EvenMeasure()).size(), 2U);
 }

@@ -81,10 +81,33 @@ TEST_F(SavedTextTest, KeepsEveryCharacterInUtf8) {
 }
 
 TEST_F(SavedTextTest, ConvertsAsServiceZeroDoes) {
-    backEnd.simplified = true;
     NewsItem item;
+    item.entry.service = 7;
     item.title = u"新聞"_s;
     item.story = u"資"_s;
-    const QString text = QString::fromUtf8(WriteNews(backEnd, {item}, NewsFileType::Utf8)->bytes);
-    EXPECT_TRUE(text.contains(u"Title: 新闻\n\nStory:\n资\n\n"_s));
+    backEnd.simplifiedServices = {0};
+    const auto text = [&] {
+        return QString::fromUtf8(WriteNews(backEnd, {item}, NewsFileType::Utf8)->bytes);
+    };
+    EXPECT_TRUE(text().contains(u"Title: 新闻\n\nStory:\n资\n\n"_s));
+    backEnd.simplifiedServices = {7};
+    EXPECT_TRUE(text().contains(u"Title: 新聞\n\nStory:\n資\n\n"_s));
+}
+
+TEST_F(SavedTextTest, WholeTitlesKeepTheirTailWhereEveryCharacterIsKept) {
+    NewsItem item;
+    item.entry.sequence = 42;
+    item.title = QString(200, u'a');
+    item.story = u"S"_s;
+    item.wholeTitle = true;
+    const QByteArray a80(80, 'a');
+    const QByteArray cut = around(a80 + '\n' + a80 + '\n', "S\n\n");
+    const QByteArray whole = around(a80 + '\n' + a80 + '\n' + a80.left(40) + "\n\n", "S\n\n");
+    EXPECT_EQ(WriteNews(backEnd, {item}, NewsFileType::Utf8)->bytes, whole);
+    EXPECT_EQ(WriteNews(backEnd, {item}, NewsFileType::CodePage950)->bytes, cut);
+    item.wholeTitle = false;
+    EXPECT_EQ(WriteNews(backEnd, {item}, NewsFileType::Utf8)->bytes, cut);
+    item.wholeTitle = true;
+    item.title = u"Rates"_s;
+    EXPECT_EQ(WriteNews(backEnd, {item}, NewsFileType::Utf8)->bytes, around("Rates\n\n", "S\n\n"));
 }

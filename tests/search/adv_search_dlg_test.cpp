@@ -104,10 +104,12 @@ TEST_F(AdvancedSearch, SelectedKeywordsComeAndGo) {
     EXPECT_EQ(texts(search_ids::keywords), QStringList{u"oil"_s});
     clickRow(search_ids::keywords, 0, true);
     EXPECT_EQ(texts(search_ids::keywords), QStringList());
+    clickRow(search_ids::pool, 1, true);
     clickRow(search_ids::pool, 1);
     at<QLineEdit>(search_ids::keywordEdit).setText(u"left over"_s);
     click(search_ids::removeFromPool);
     EXPECT_EQ(texts(search_ids::pool), (QStringList{u"gold"_s, u"silver"_s}));
+    EXPECT_EQ(texts(search_ids::keywords), QStringList{u"golden"_s}) << "the condition has its own";
     EXPECT_EQ(at<QLineEdit>(search_ids::keywordEdit).text(), QString());
 }
 
@@ -204,12 +206,14 @@ TEST_F(AdvancedSearch, EnterPressesTheButtonOfWhereTheKeyboardIs) {
 TEST_F(AdvancedSearch, OkReadsTheControlsAndKeepsTheSearch) {
     edited = CSearch();
     edited.keywords = {u"gold"_s};
+    edited.symbols = {{16, u"2330"_s}};
     open();
     click(search_ids::scopeStories);
     click(search_ids::ok);
     EXPECT_EQ(result, QDialog::Accepted);
     takeBack();
-    EXPECT_EQ(edited, condition({u"gold"_s}, 1, 2)) << "no method is any keyword";
+    EXPECT_EQ(edited, condition({u"gold"_s}, 1, 2))
+        << "no method is any keyword, and no symbol what is not shown";
     ASSERT_EQ(recent.size(), 3U);
     EXPECT_EQ(recent.back(), edited);
 }

@@ -61,7 +61,7 @@ TEST(SearchCondition, RefusesDamagedTexts) {
     }
     CSearch search;
     ASSERT_TRUE(search.LoadStringA(u"{\"keywords\":[\"a\",\"\",\"b\",\"a\",7]}"_s));
-    EXPECT_EQ(search.keywords, (std::vector<QString>{u"a"_s, u"b"_s}));
+    EXPECT_EQ(search.keywords, (std::vector<QString>{u"a"_s, u"b"_s, u"a"_s}));
 }
 
 TEST(Keywords, OfACandidate) {
@@ -107,7 +107,7 @@ TEST(SearchMemory, SurvivesTheSettingsWithWhateverItHolds) {
     const SearchMemory memory{awkward,
                               {condition(awkward, 2, 2), condition({u"one"_s})},
                               {CNewsKey(2, {3, 7}, awkward), CNewsKey(1, {CNewsKey::everyNewsType}, {})},
-                              {{condition(awkward, 1, 2), condition({u"two"_s})}, 2}};
+                              {{condition(awkward, 1, 2), condition({u"two"_s, u"two"_s})}, 2}};
     memory.write(settings, path);
     const SearchMemory read = SearchMemory::read(settings, path);
     EXPECT_EQ(read.keywordPool, memory.keywordPool);
@@ -117,8 +117,8 @@ TEST(SearchMemory, SurvivesTheSettingsWithWhateverItHolds) {
     EXPECT_EQ(read.warnings.chosen, 2);
 
     settings.values[u"!RVNEWS_NEWSSEARCH_KEYWORD"_s] = QStringList{u"a"_s, {}, u"b"_s, u"a"_s};
-    QStringList many{u"nonsense"_s};
-    for (int i = 0; i < 12; ++i)
+    QStringList many{u"nonsense"_s, condition({u"x"_s, u"x"_s}).GetString()};
+    for (int i = 0; i < 9; ++i)
         many.append(condition({QString::number(i)}).GetString());
     settings.values[u"!RVNEWS_NEWSSEARCH_NEARTENSEARCHINFO"_s] = many;
     settings.values[u"!RVNEWS_NEWSKEY_KEYWORDSETTING"_s] = QStringList{u"C:1"_s, u"C:1 T:3 K:a"_s};
@@ -129,7 +129,8 @@ TEST(SearchMemory, SurvivesTheSettingsWithWhateverItHolds) {
     const SearchMemory damaged = SearchMemory::read(settings, path);
     EXPECT_EQ(damaged.keywordPool, (KeywordList{u"a"_s, u"b"_s}));
     ASSERT_EQ(damaged.recent.size(), 10U);
-    EXPECT_EQ(damaged.recent.back().keywords, std::vector<QString>{u"11"_s});
+    EXPECT_EQ(damaged.recent.front().keywords, std::vector<QString>{u"x"_s}) << "once";
+    EXPECT_EQ(damaged.recent.back().keywords, std::vector<QString>{u"8"_s});
     EXPECT_EQ(damaged.keySets, std::vector{CNewsKey(1, {3}, {u"a"_s})});
     ASSERT_NE(damaged.warnings.Chosen(), nullptr);
     EXPECT_EQ(damaged.warnings.Chosen()->keywords, std::vector<QString>{u"in force"_s});
@@ -155,7 +156,7 @@ TEST(SearchDesk, TellsAnswersApart) {
     EXPECT_EQ(desk.KindOfAnswer(narrowed), std::nullopt);
     EXPECT_EQ(desk.KindOfAnswer(condition({u"b"_s, u"a"_s})), std::nullopt) << "the order counts";
 
-    desk.vNarrow(desk.ordinary, {16, u"2330"_s});
+    desk.vNarrow(desk.ordinary, {16, u"2330"_s}, true);
     EXPECT_EQ(desk.ordinary, narrowed);
     EXPECT_TRUE(desk.second.symbols.empty());
     EXPECT_EQ(desk.KindOfAnswer(narrowed), TableKind::Search);

@@ -69,9 +69,11 @@ TEST(KeySets, TakeTheNewsTypesOfAllServicesButWarrants) {
     EXPECT_EQ(NewsTypesOf(backEnd, services),
               (CategoryMap{{-2, u"Flash"_s}, {3, u"Markets"_s}, {7, u"Deals"_s}}));
     EXPECT_EQ(NewsTypesOf(backEnd, {}), CategoryMap());
-    backEnd.simplified = true;
     backEnd.categories[2].back().second = u"資券新聞"_s;
-    EXPECT_EQ(NewsTypesOf(backEnd, services).at(7), u"资券新闻"_s);
+    backEnd.simplifiedServices = {2};
+    EXPECT_EQ(NewsTypesOf(backEnd, services).at(7), u"資券新聞"_s) << "whatever the name's own service";
+    backEnd.simplifiedServices = {52};
+    EXPECT_EQ(NewsTypesOf(backEnd, services).at(7), u"资券新闻"_s) << "as the first service has it";
 }
 
 TEST(KeySets, AreSavedOnceAndWorkedOnInPlace) {

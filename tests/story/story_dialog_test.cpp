@@ -36,14 +36,28 @@ public:
     }
     void vGetNewsActiveService(std::vector<unsigned char>& services) const override { services = {1, 2}; }
     bool bChangeNewsPos(int number, int row) override {
+        if (onGo)
+            onGo();
         asked.append(u"go %1 %2"_s.arg(number).arg(row));
         return true;
     }
-    void OnPrintNews() override { asked.append(u"print"_s); }
-    void OnSaveNews() override { asked.append(u"save"_s); }
+    int iRowOf(int number, const CHeadlineTable& headline) const override {
+        for (int row = 0; row < iGetHeadlineTableSize(number); ++row) {
+            if (KeyOf(entries[static_cast<std::size_t>(row)]) == KeyOf(headline))
+                return row;
+        }
+        return -1;
+    }
+    void PrintHeadline(const CHeadlineTable& headline) override {
+        asked.append(u"print %1"_s.arg(headline.sequence));
+    }
+    void SaveHeadline(const CHeadlineTable& headline) override {
+        asked.append(u"save %1"_s.arg(headline.sequence));
+    }
 
     std::vector<CHeadlineTable> entries;
     QStringList asked;
+    std::function<void()> onGo;
 };
 
 class Frame : public CMainFrame {
@@ -106,7 +120,7 @@ TEST_F(StoryDialogTest, PagesRoundAndRoundAndTakesTheSelectionAlong) {
     owner.asked.clear();
     click(dialog, story_ids::printButton);
     click(dialog, story_ids::saveAsButton);
-    EXPECT_EQ(owner.asked, (QStringList{u"go 3 2"_s, u"print"_s, u"go 3 2"_s, u"save"_s}));
+    EXPECT_EQ(owner.asked, (QStringList{u"go 3 2"_s, u"print 3"_s, u"go 3 2"_s, u"save 3"_s}));
     owner.asked.clear();
     owner.entries.clear();
     click(dialog, story_ids::nextButton);
@@ -134,6 +148,47 @@ TEST_F(StoryDialogTest, WaitsForItsStoryLikeThePane) {
     EXPECT_TRUE(GetDlgItem(&dialog, story_ids::updateNotice)->isHidden());
 }
 
+TEST_F(StoryDialogTest, ItsHeadlineIsTheOneOnShowWhereverItStandsByNow) {
+    TRVNewsStory dialog(owner, &view);
+    backEnd.storyAtHand = false;
+    dialog.vSetStoryData(list, 1);
+    const CHeadlineTable shown = owner.entries[1];
+    const CHeadlineTable pushed{shown.time + 600, 9, 1, 0, 0};
+    backEnd.add(1, pushed.time, 9, u"Pushed"_s);
+    owner.entries.insert(owner.entries.begin(), pushed);
+    backEnd.storyAtHand = true;
+    dialog.RespStory(owner.entries[1]);
+    EXPECT_EQ(story(dialog), u"Fetching"_s) << "the headline that stands at its row by now is another one";
+    dialog.RespStory(shown);
+    EXPECT_TRUE(story(dialog).contains(u"Story 2"_s));
+    dialog.OnBtnPrint();
+    EXPECT_EQ(owner.asked, (QStringList{u"go 3 2"_s, u"print 2"_s}));
+    owner.asked.clear();
+    // What was asked for by its row is not on show yet.
+    dialog.SetHeadLinePos(0);
+    owner.entries.erase(owner.entries.begin() + 2);
+    dialog.OnBtnSaveas();
+    EXPECT_EQ(owner.asked, QStringList{u"save 2"_s}) << "it has left the list";
+}
+
+TEST_F(StoryDialogTest, PagingGoesOnFromThePositionThatNothingShifts) {
+    TRVNewsStory dialog(owner, &view);
+    dialog.vSetStoryData(list, 1);
+    backEnd.add(1, owner.entries[0].time + 60, 9, u"Pushed"_s);
+    owner.entries.insert(owner.entries.begin(), {owner.entries[0].time + 60, 9, 1, 0, 0});
+    EXPECT_EQ(dialog.GetHeadLinePos(), 1);
+    dialog.OnBtnPageUp();
+    EXPECT_TRUE(title(dialog).endsWith(u"Pushed"_s));
+    dialog.OnBtnPageDown();
+    EXPECT_TRUE(title(dialog).endsWith(u"Title 1"_s));
+    EXPECT_EQ(owner.asked, (QStringList{u"go 3 0"_s, u"go 3 1"_s}));
+    // The owner finds the dialog where it goes.
+    QString shown;
+    owner.onGo = [&] { shown = title(dialog); };
+    dialog.OnBtnPageDown();
+    EXPECT_TRUE(shown.endsWith(u"Title 2"_s)) << shown.toStdString();
+}
+
 TEST_F(StoryDialogTest, ItsPartsShareTheWindow) {
     TRVNewsStory dialog(owner, &view);
     dialog.resize(700, 500);
@@ -150,6 +205,47 @@ TEST_F(StoryDialogTest, ItsPartsShareTheWindow) {
         EXPECT_EQ(button.left() + button.width(), right);
         EXPECT_EQ(button.top(), 465);
         right = button.left() - 9;
+    }
+}
+
+TEST_F(StoryDialogTest, TheNoticeAndTheFontMoveTheParts) {
+    TRVNewsStory dialog(owner, &view);
+    dialog.resize(700, 500);
+    dialog.show();
+    QFont font;
+    font.setPixelSize(21);
+    dialog.vSetFont(font);
+    for (const int id : {story_ids::title, story_ids::storyText, story_ids::updateNotice})
+        EXPECT_EQ(static_cast<QWidget*>(GetDlgItem(&dialog, id))->font().pixelSize(), 21);
+    const QRect titlePlace = edit(dialog, story_ids::title)->geometry();
+    const QRect storyPlace = edit(dialog, story_ids::storyText)->geometry();
+    EXPECT_EQ(titlePlace.height(), 2 * edit(dialog, story_ids::title)->fontMetrics().lineSpacing() + 10);
+    dialog.vStoryUpdateNotify(nullptr);
+    const QRect notice = GetDlgItem(&dialog, story_ids::updateNotice)->geometry();
+    EXPECT_EQ(notice, QRect(10, 10, 680, QFontMetrics(font).height()));
+    EXPECT_EQ(edit(dialog, story_ids::title)->geometry(), titlePlace.translated(0, notice.height()));
+    EXPECT_EQ(edit(dialog, story_ids::storyText)->geometry(), storyPlace.adjusted(0, notice.height(), 0, 0));
+    dialog.vSetStoryData(list, 0);
+    EXPECT_EQ(edit(dialog, story_ids::title)->geometry(), titlePlace);
+}
+
+TEST_F(StoryDialogTest, HasNoKeysOfItsOwnAndNamesItsParts) {
+    backEnd.texts[u"IDS_DIALOG-STORY_TITLE"_s] = u"A story"_s;
+    TRVNewsStory dialog(owner, &view);
+    EXPECT_EQ(dialog.windowTitle(), u"A story"_s);
+    EXPECT_FALSE(edit(dialog, story_ids::title)->accessibleName().isEmpty());
+    EXPECT_FALSE(edit(dialog, story_ids::storyText)->accessibleName().isEmpty());
+    dialog.show();
+    dialog.vSetStoryData(list, 0);
+    QTest::keyClick(&dialog, Qt::Key_Return);
+    QTest::keyClick(edit(dialog, story_ids::storyText), Qt::Key_Return);
+    EXPECT_TRUE(owner.asked.isEmpty()) << owner.asked.join(u' ').toStdString();
+    EXPECT_TRUE(dialog.isVisible());
+    // Tab reads on from the story: print, save as, next, previous.
+    const QWidget* last = GetDlgItem(&dialog, story_ids::printButton);
+    for (const int id : {story_ids::saveAsButton, story_ids::nextButton, story_ids::previousButton}) {
+        EXPECT_EQ(last->nextInFocusChain(), GetDlgItem(&dialog, id));
+        last = GetDlgItem(&dialog, id);
     }
 }
 

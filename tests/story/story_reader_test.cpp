@@ -87,6 +87,15 @@ TEST_F(StoryReaderTest, ConvertsTitleAndBodyWhereAsked) {
               (StoryTexts{title, u"2026/03/02 09:31:00 \r\n信息\r\n闻 资讯  \r\n\r\nEnd."_s, false}));
     EXPECT_EQ(reader.RespHeadLine({first}), (StoryTexts{title, {}, false}));
     EXPECT_EQ(reader.RespStory(first).story, u"2026/03/02 09:31:00 \r\n信息\r\n闻 资讯 \r\n\r\nEnd."_s);
+    // Each service is asked for itself.
+    giveHeadline(second, u"新聞"_s);
+    giveStory(second, u"聞"_s);
+    backEnd.simplified = false;
+    backEnd.simplifiedServices = {0, 1};
+    EXPECT_EQ(show(1), (StoryTexts{u"2026/03/02 09:00:00 \r\n新聞"_s,
+                                   u"2026/03/02 09:31:00 \r\n聞  \r\n\r\nEnd."_s, false}));
+    EXPECT_EQ(reader.RespStory(second).story, u"2026/03/02 09:31:00 \r\n聞 \r\n\r\nEnd."_s);
+    EXPECT_EQ(show(0).title, title);
 }
 
 TEST_F(StoryReaderTest, AnswersFillInWhatWasAwaited) {

@@ -5,6 +5,9 @@
 #include "story/quote_dlg_tip_msg.h"
 #include "story/story_ids.h"
 
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -64,6 +67,8 @@ TEST_F(TipTest, KeepsItsPlace) {
     ASSERT_TRUE(QTest::qWaitFor([this] { return tip.pos() == QPoint(40, 30); }, 1000));
     show(QStringLiteral("two"), 5000, -1, 7);
     EXPECT_EQ(tip.pos(), QPoint(40, 30));
+    show(QStringLiteral("either"), 5000, 7, -1);
+    EXPECT_EQ(tip.pos(), QPoint(40, 30));
     show(QStringLiteral("three"), 5000, 0, 0);
     EXPECT_EQ(tip.pos(), QPoint(2, 2));
 }
@@ -77,12 +82,73 @@ TEST_F(TipTest, GoesWhenItsTimeIsUpOrItIsClicked) {
     EXPECT_TRUE(tip.isVisible()) << "the grain is one second";
     ASSERT_TRUE(QTest::qWaitFor([this] { return !tip.isVisible(); }, 1500));
 
+    // A second that is begun is a whole one.
+    QElapsedTimer time;
+    time.start();
+    show(QStringLiteral("longer"), 1001);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !tip.isVisible(); }, 4000));
+    EXPECT_GT(time.elapsed(), 1900);
+    time.restart();
+    show(QStringLiteral("one second"), 1000);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !tip.isVisible(); }, 4000));
+    EXPECT_GT(time.elapsed(), 900);
+    EXPECT_LT(time.elapsed(), 1900);
+
     show(QStringLiteral("clicked"), 60'000);
     QTest::mouseClick(&tip, Qt::LeftButton);
     EXPECT_FALSE(tip.isVisible());
     show(QStringLiteral("stopped"), 60'000);
     tip.vStop();
     EXPECT_FALSE(tip.isVisible());
+    tip.move(500, 400);
+    QTest::qWait(250);
+    EXPECT_EQ(tip.pos(), QPoint(500, 400)) << "nothing goes on while it is hidden";
+}
+
+TEST_F(TipTest, GivesTheKeyboardToItsOwnerWhereItIsShownOverNothing) {
+    grid.setFocus();
+    tip.vSetInfo(&edit, QStringLiteral("x"), Qt::white, Qt::black, 1000);
+    tip.vShow(nullptr, 30, 40, false);
+    EXPECT_TRUE(tip.isVisible());
+    EXPECT_EQ(tip.parentWidget(), &window);
+    EXPECT_TRUE(edit.hasFocus());
+}
+
+TEST_F(TipTest, IsAsHighAsItsFontNeedsAndNoLowerThanOthers) {
+    for (const int pixels : {5, 40}) {
+        QFont font;
+        font.setPixelSize(pixels);
+        tip.vSetFont(font);
+        show(QStringLiteral("abc"), 1000);
+        EXPECT_EQ(tip.height(), std::max(22, QFontMetrics(font).height() + 8));
+        const auto* label = static_cast<QLabel*>(GetDlgItem(&tip, story_ids::tipText));
+        EXPECT_EQ(label->font().pixelSize(), pixels);
+        EXPECT_EQ(label->geometry(), QRect(QPoint(0, 0), tip.size()));
+    }
+}
+
+TEST_F(TipTest, ADialogOfItsWindowIsNoOtherWindow) {
+    QDialog story(&grid);
+    story.show();
+    story.activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &story; }));
+    show(QStringLiteral("told"), 1000);
+    EXPECT_TRUE(tip.isVisible());
+    EXPECT_EQ(QApplication::activeWindow(), &story) << "it keeps the keyboard";
+    tip.vStop();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    show(QStringLiteral("elsewhere"), 1000);
+    EXPECT_FALSE(tip.isVisible());
+}
+
+TEST_F(TipTest, IsPaintedInTheColoursThatItWasGiven) {
+    show(QStringLiteral("abc"), 1000);
+    const auto* label = static_cast<QLabel*>(GetDlgItem(&tip, story_ids::tipText));
+    EXPECT_EQ(label->palette().color(QPalette::WindowText), QColor(Qt::white));
+    EXPECT_EQ(label->palette().color(QPalette::Window), QColor(Qt::darkRed));
 }
 
 TEST_F(TipTest, NeverShowsOverAnotherWindow) {

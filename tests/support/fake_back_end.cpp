@@ -17,6 +17,12 @@ void FakeBackEnd::add(unsigned char service, std::int64_t time, std::int32_t seq
     pieces.push_back({headline, symbol, atHand});
 }
 
+void FakeBackEnd::withdraw(unsigned char service, std::int32_t sequence) {
+    std::erase_if(pieces, [&](const Piece& piece) {
+        return piece.headline.service == service && piece.headline.sequence == sequence;
+    });
+}
+
 void FakeBackEnd::makeAllAtHand() {
     for (Piece& piece : pieces)
         piece.atHand = true;
@@ -108,6 +114,18 @@ bool FakeBackEnd::bGetAllServiceID(std::vector<unsigned char>& out) {
     return !out.empty();
 }
 
+bool FakeBackEnd::bGetServiceID2Delay(unsigned char service, unsigned char& id) {
+    const auto found = delayed.find(service);
+    if (found != delayed.end())
+        id = found->second;
+    return found != delayed.end();
+}
+
+int FakeBackEnd::bIsFromTheSameAuthServiceID(unsigned char service, unsigned char other) {
+    const auto found = delayed.find(other);
+    return service == other || (found != delayed.end() && found->second == service) ? 1 : 0;
+}
+
 bool FakeBackEnd::bGetSymbolID(unsigned char service, std::vector<QString>& codes,
                                std::vector<QString>& names) {
     asked.append(QStringLiteral("symbols %1").arg(service));
@@ -190,8 +208,9 @@ int FakeBackEnd::BKQNEWS_iGetHeadlineTable(std::vector<CHeadlineTable>& table, u
 int FakeBackEnd::BKQNEWS_iGetHeadlineTable(unsigned char service, std::vector<CHeadlineTable>& table,
                                            int kind, const QString& key) {
     asked.append(QStringLiteral("table %1 %2 %3").arg(service).arg(kind).arg(key));
-    if (kind == static_cast<int>(TableKind::Search)) {
-        const std::vector<CHeadlineTable>& found = searchTables[service];
+    const bool isSearch = kind == static_cast<int>(TableKind::Search);
+    if (isSearch || kind == static_cast<int>(TableKind::SecondSearch)) {
+        const std::vector<CHeadlineTable>& found = (isSearch ? searchTables : secondSearchTables)[service];
         table.insert(table.end(), found.begin(), found.end());
         return static_cast<int>(found.size());
     }

@@ -25,6 +25,10 @@ public:
     // Adds a headline; `atHand` false: its table entry is known, its title is not.
     void add(unsigned char service, std::int64_t time, std::int32_t sequence, const QString& title,
              std::int32_t category = 0, const QString& symbol = {}, bool atHand = true);
+    // Forgets a headline: it has been replaced.
+    void withdraw(unsigned char service, std::int32_t sequence);
+    // Forgets all headlines.
+    void clear() { pieces.clear(); }
     // The headlines of pieces that were added as not at hand can be had from now on.
     void makeAllAtHand();
     // Adds the story of an entry; the one added last counts.
@@ -35,7 +39,9 @@ public:
     std::map<unsigned char, std::vector<std::pair<QString, QString>>> symbols;     // code, name
     int hongKongCategory = 1;  // of every symbol of service 22
     std::set<unsigned char> unauthorised;
-    bool simplified = false;
+    bool simplified = false;                         // texts of every service are to be converted
+    std::set<unsigned char> simplifiedServices;      // and of these
+    std::map<unsigned char, unsigned char> delayed;  // service: the id of its delayed data
     bool connected = true;
     bool storyAtHand = true;                        // false: no story can be had yet
     std::map<unsigned char, QString> currentDates;  // of services that are not at 2 March 2026
@@ -46,6 +52,7 @@ public:
     std::map<NewsReceiver*, QStringList> followed;  // quotes: "16:2330", once for each registration
     std::map<std::pair<unsigned char, std::int32_t>, std::vector<CSymbolInfo>> related;  // service, number
     std::map<unsigned char, std::vector<CHeadlineTable>> searchTables;                   // of each service
+    std::map<unsigned char, std::vector<CHeadlineTable>> secondSearchTables;             // of the other kind
     QStringList candidates;  // for whatever is typed into a symbol search
 
     void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
@@ -65,6 +72,8 @@ public:
         return unauthorised.count(service) == 0 ? 1 : 0;
     }
     bool bGetAllServiceID(std::vector<unsigned char>& out) override;
+    bool bGetServiceID2Delay(unsigned char service, unsigned char& id) override;
+    int bIsFromTheSameAuthServiceID(unsigned char service, unsigned char other) override;
     bool bGetSymbolID(unsigned char service, std::vector<QString>& codes,
                       std::vector<QString>& names) override;
     bool GetSymbolsByService(unsigned char service, std::vector<QString>& codes, std::vector<QString>& names,
@@ -84,7 +93,9 @@ public:
     bool BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) override;
     bool BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& list, const CHeadlineTable& entry) override;
     QString LangGetLangString(const QString& key) override { return texts.value(key, key); }
-    bool LangIsConvertToSimplified(const unsigned char&) override { return simplified; }
+    bool LangIsConvertToSimplified(const unsigned char& service) override {
+        return simplified || simplifiedServices.count(service) != 0;
+    }
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
     QString PathGetSysPath() override { return sysPath; }
 

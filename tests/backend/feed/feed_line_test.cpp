@@ -37,8 +37,11 @@ TEST(FeedLineTest, AnItemComesBackAsItWas) {
     item.story.reset();
     item.sequence.reset();
     const FeedLine bare = parsedFeedLine(itemLine(item, {}), 1);
-    EXPECT_EQ(newsOf(std::get<FeedRecord>(bare)).story, std::nullopt);
+    EXPECT_EQ(newsOf(std::get<FeedRecord>(bare)).story, std::nullopt) << "still to come";
     EXPECT_EQ(newsOf(std::get<FeedRecord>(bare)).sequence, std::nullopt);
+    item.story = QString();
+    const FeedLine without = parsedFeedLine(itemLine(item, {}), 1);
+    EXPECT_EQ(newsOf(std::get<FeedRecord>(without)).story, QString()) << "none";
 }
 
 TEST(FeedLineTest, RecordsAndGreetingsAreToldApart) {

@@ -4,6 +4,7 @@
 #include "tests/backend/feed/feed_fixture.h"
 
 #include <QDateTime>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -130,6 +131,34 @@ TEST_F(SpoolTest, LinksAndPipesAreRejectedAndNothingBehindThemIsTouched) {
     EXPECT_EQ(filesIn({}), QStringList{});
     EXPECT_EQ(content(u"rejected/link.jsonl.reason.txt"_s), "This is a link; only files are taken.\n");
     EXPECT_EQ(content(u"rejected/pipe.reason.txt"_s), "This is not a file.\n");
+}
+
+TEST_F(SpoolTest, NothingIsMovedThroughALink) {
+    const QString elsewhere = folder.filePath(u"elsewhere"_s);
+    ASSERT_TRUE(QDir().mkdir(elsewhere) && QDir(path(u"rejected"_s)).removeRecursively() &&
+                QFile::link(elsewhere, path(u"rejected"_s)));
+    put(u"bad.json"_s, "nothing");
+    takeAll();
+    EXPECT_EQ(troubles, 1);
+    EXPECT_TRUE(QDir(elsewhere).isEmpty());
+    EXPECT_TRUE(QFile::exists(path(u"bad.json"_s)));
+    const auto reopened = SpoolSource::open(folder.filePath(u"spool"_s), atOnce);
+    ASSERT_FALSE(reopened);
+    EXPECT_TRUE(reopened.error().endsWith(u": rejected in it is a link."_s));
+}
+
+TEST_F(SpoolTest, ALongNameIsCutSoThatItsReasonHasRoom) {
+    const QString words = QString(80, u'報');  // 240 bytes
+    put(words + u"-1.jsonl"_s, "nothing");
+    put(words + u"-2.jsonl"_s, "nothing either");
+    EXPECT_EQ(takeAll(), 2);
+    QStringList names = filesIn(u"rejected"_s);
+    ASSERT_EQ(names.size(), 4);
+    for (const QString& name : names.filter(QRegularExpression(u"jsonl$"_s))) {
+        EXPECT_TRUE(name.startsWith(words.left(70)));
+        EXPECT_FALSE(content(u"rejected/"_s + name + u".reason.txt"_s).isEmpty()) << name.toStdString();
+    }
+    EXPECT_EQ(filesIn(u""_s), QStringList{});
 }
 
 TEST_F(SpoolTest, AFileThatCannotBeMovedIsTakenOnceAndLeft) {

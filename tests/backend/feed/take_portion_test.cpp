@@ -3,6 +3,8 @@
 #include "backend/feed/line_source.h"
 #include "tests/backend/feed/feed_fixture.h"
 
+#include <thread>
+
 namespace wirepane {
 
 namespace {
@@ -39,7 +41,6 @@ TEST_F(TakePortionTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
     EXPECT_EQ(receipts, QStringList{u"5: 1 1 3"_s});
     EXPECT_EQ(places, (QStringList{u"line 2"_s, u"line 3"_s, u"line 4"_s}));
     EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2"_s);
-    EXPECT_EQ(taken.value().newest.count(16), 1u);
     EXPECT_FALSE(source.hasPortion());
 
     for (int i = 0; i < 2500; ++i)
@@ -51,6 +52,31 @@ TEST_F(TakePortionTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
     }
     EXPECT_EQ(receipts.mid(1), (QStringList{u"1005: 1000 0 0"_s, u"2005: 1000 0 0"_s, u"2505: 500 0 0"_s}));
     EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2509"_s);
+}
+
+// Who takes a portion keeps others waiting.
+TEST_F(TakePortionTest, PortionsAreBoundedInSizeAndTime) {
+    LineSource source(1, std::chrono::milliseconds(5));
+    for (int i = 0; i < 30; ++i)
+        source.add(QByteArray(100'000, 'x'));
+    EXPECT_TRUE(source.isFull());
+    const auto takeWith = [&](std::chrono::milliseconds each) {
+        int lines = 0;
+        EXPECT_TRUE(source.read([&](SourceItem&&) {
+            std::this_thread::sleep_for(each);
+            ++lines;
+            return true;
+        }));
+        source.settle({});
+        return lines;
+    };
+    EXPECT_LE(takeWith(std::chrono::milliseconds(0)), 6);
+    EXPECT_EQ(takeWith(std::chrono::milliseconds(20)), 1);
+    EXPECT_LE(takeWith(std::chrono::milliseconds(3)), 2);
+    EXPECT_TRUE(source.isFull());
+    while (source.hasPortion())
+        takeWith(std::chrono::milliseconds(0));
+    EXPECT_FALSE(source.isFull());
 }
 
 TEST_F(TakePortionTest, AStoreThatFailsKeepsThePortionForLater) {

@@ -44,11 +44,11 @@ TEST(Feeds, ReadsEveryKind) {
               xmlns:dc="http://purl.org/dc/elements/1.1/"><channel><title>Feed</title></channel>
             <item rdf:about="http://x/1"><title>T</title><dc:subject>S</dc:subject>
             <dc:date>2004-01-01T08:00+08:00</dc:date></item></rdf:RDF>)",
-         u"http://x/1|T|-|S"},
+         u"http://x/1|T||S"},
         {R"(<rdf:RDF xmlns:rdf="http://www.w3.org/1999/02/22-rdf-syntax-ns#"
               xmlns="http://my.netscape.com/rdf/simple/0.9/"><channel><pubDate>2004</pubDate></channel>
             <item><title>T</title><link>http://x/1</link></item></rdf:RDF>)",
-         u"http://x/1|T|-|"},
+         u"http://x/1|T||"},
         {R"(<feed version="0.3" xmlns="http://purl.org/atom/ns#"><entry>
             <title mode="escaped" type="text/html">T &lt;b&gt;x&lt;/b&gt;</title><id>tag:x</id>
             <issued>2004-01-01T00:00:00Z</issued><modified>2004-01-02T00:00:00Z</modified>
@@ -60,13 +60,23 @@ TEST(Feeds, ReadsEveryKind) {
             <published>2004-01-01T00:00:00Z</published><updated>2004-01-02T00:00:00Z</updated>
             <summary type="html">&lt;p&gt;One&lt;p&gt;Two</summary></entry></feed>)",
          u"http://x/1|a <b>|One@@@@Two|Label"},
+        // Where the format says that a value is markup, all of it is.
+        {R"(<rss version="2.0" xmlns:content="http://purl.org/rss/1.0/modules/content/"><channel><item>
+            <guid>urn:x:2</guid><title>T</title><pubDate>2004</pubDate>
+            <content:encoded><![CDATA[<iframe src="x"/>Seen <video src="y">by</video><svg><text>none</text></svg>
+            <object data="z">all</object><form><blink>form</blink></form><iframe>no</iframe>]]></content:encoded></item></channel></rss>)",
+         u"urn:x:2|T|Seen@@@@by@@@@all@@@@form|"},
+        {R"(<rss version="2.0" xmlns:content="http://purl.org/rss/1.0/modules/content/"><channel><item>
+            <guid>urn:x:3</guid><title>T &lt;VIDEO&gt;</title><pubDate>2004</pubDate>
+            <content:encoded>&lt;newtag x="1"&gt;Only&lt;/newtag&gt; this</content:encoded></item></channel></rss>)",
+         u"urn:x:3|T <VIDEO>|Only this|"},
         // The feed's own date may stand behind the entries.
         {R"(<feed xmlns="http://www.w3.org/2005/Atom"><entry><title>T</title><id>tag:x</id></entry>
             <updated>2004-01-01</updated></feed>)",
-         u"tag:x|T|-|"},
+         u"tag:x|T||"},
         {R"(<!DOCTYPE rss [<!ENTITY id "tag:x">]><rss><channel><pubDate>2004</pubDate><item><guid>&id;&eacute;</guid>
             <title>&eacute;t&eacute;</title></item></channel></rss>)",
-         u"tag:xé|été|-|"},
+         u"tag:xé|été||"},
     };
     for (const Feed& feed : feeds) {
         const auto out = readAll(feed.source);
@@ -117,6 +127,22 @@ TEST(Feeds, ReadsTheEncodingThatTheyDeclare) {
         const auto out = readAll(encoder(text.arg(encoding, title)));
         ASSERT_EQ(out.items.size(), 1U) << qPrintable(encoding + out.complaints() + out.refusal);
         EXPECT_EQ(out.news().title, title);
+    }
+    // What stands in the bytes, whatever close relative the declaration names.
+    const std::vector<std::tuple<QString, QString, QByteArray>> relatives{
+        {u"iso-8859-1"_s, u"€100 “é”"_s,
+         "\x80"
+         "100 \x93\xe9\x94"},
+        {u"ISO-8859-1"_s, u"ÿ–…"_s, "\xff\x96\x85"},
+        {u"us-ascii"_s, u"it’s"_s, "it\x92s"},
+        {u"iso-8859-9"_s, u"€ğ"_s, "\x80\xf0"},
+        {u"gb2312"_s, u"朱镕基"_s, "\xd6\xec\xe9\x46\xbb\xf9"},
+        {u"shift_jis"_s, u"①"_s, "\x87\x40"},
+    };
+    for (const auto& [encoding, title, bytes] : relatives) {
+        const auto out = readAll(text.arg(encoding, u"#"_s).toLatin1().replace('#', bytes));
+        ASSERT_EQ(out.items.size(), 1U) << qPrintable(encoding + out.complaints() + out.refusal);
+        EXPECT_EQ(out.news().title, title) << qPrintable(encoding);
     }
     EXPECT_EQ(readAll(text.arg(u"klingon"_s, u"x"_s).toUtf8()).refusal,
               u"The file declares the encoding “klingon”, which is not known here.");

@@ -61,6 +61,18 @@ TEST(Mapping, ReadsTheFormsOfTimes) {
         {u"{\"date\":\"d\"}", u"2019-01-04", u"", 1546560000},
         {u"{\"date\":\"d\",\"zone\":\"Asia/Taipei\"}", u"2019-01-04", u"", 1546531200},
         {u"{\"date\":\"d\",\"zone\":\"+08:00\"}", u"2019-01-04T00:00:00Z", u"", 1546560000},
+        // The mapping's zone is that of every time whose text states none.
+        {u"{\"date\":\"d\",\"zone\":\"+08:00\"}", u"2019-01-04 09:05:00", u"", 1546563900},
+        {u"{\"date\":\"d\",\"zone\":\"+08:00\"}", u"2019-01-04T00:00:00", u"", 1546531200},
+        {u"{\"date\":\"d\",\"zone\":\"America/New_York\"}", u"2019-07-04 09:00", u"", 1562245200},
+        {u"{\"date\":\"d\",\"zone\":\"+08:00\"}", u"Fri, 04 Jan 2019 09:05:00", u"", 1546563900},
+        {u"{\"date\":\"d\",\"zone\":\"+08:00\"}", u"Fri, 04 Jan 2019", u"", 1546531200},
+        {u"{\"date\":\"d\",\"zone\":\"+08:00\"}", u"Fri, 04 Jan 2019 09:05:00 GMT", u"", 1546592700},
+        {u"{\"date\":\"d\",\"zone\":\"+08:00\"}", u"2019-01-04 09:05+01:00", u"", 1546589100},
+        {u"{\"date\":\"d\",\"zone\":\"+08:00\",\"clock\":\"c\",\"clock_form\":\"H:mm\"}", u"Fri, 04 Jan 2019",
+         u"9:05", 1546563900},
+        {u"{\"date\":\"d\",\"zone\":\"+08:00\",\"clock\":\"c\",\"clock_form\":\"H:mm\"}", u"2019-01-04 00:00",
+         u"9:05", 1546531200},
         {u"{\"date\":[\"none\",\"d\"]}", u"Fri, 04 Jan 2019 01:00:00 GMT", u"", 1546563600},
         {u"{\"date\":\"d\",\"date_form\":\"d/M/yyyy\"}", u"4/01/2019", u"", 1546560000},
         {u"{\"date\":\"d\",\"date_form\":\"yyyy年M月d日\"}", u"2019年1月4日", u"", 1546560000},
@@ -91,6 +103,16 @@ TEST(Mapping, ReadsTheFormsOfTimes) {
         ASSERT_EQ(out.items.size() + out.rejections.size(), 1U);
         EXPECT_EQ(out.items.empty() ? -1 : out.news().time, one.moment) << qPrintable(mapping + row);
     }
+}
+
+TEST(Mapping, EncodingsAreReadAsTheWebReadsTheirNames) {
+    const auto out = readAll(
+        "i,t,d\n1,\x80"
+        "100,2019\n",
+        with(uR"({"identity": "i", "title": "t", "time": {"date": "d"},
+                                       "encodings": ["UTF-8", "iso-8859-1"]})"_s));
+    ASSERT_EQ(out.items.size(), 1U) << qPrintable(out.refusal);
+    EXPECT_EQ(out.news().title, u"€100"_s);
 }
 
 TEST(Mapping, RulesOfServicesSymbolsAndSeparators) {

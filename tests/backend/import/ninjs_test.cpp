@@ -52,25 +52,28 @@ TEST(Ninjs, ReadsEveryVersion) {
 
 TEST(Ninjs, FindsTitleAndStoryWhereTheyAre) {
     const std::vector<std::pair<QByteArray, QString>> rows{
-        {R"("headline": "H")", u"H|-"_s},
-        {R"("headline": "H", "body_text": "")", u"H|-"_s},
+        {R"("headline": "H")", u"H|"_s},
+        {R"("headline": "H", "body_text": "")", u"H|"_s},
         {R"("headline": "H", "body_xhtml": "<p>a</p><p>b &amp; c</p>")", u"H|a@@@@b & c"_s},
         {R"("headline": "H", "body_html": "a<br>b", "body_xhtml": " ")", u"H|a@@@@b"_s},
         {R"("headline": "H", "body_new": "a\n\nb")", u"H|a@@@@b"_s},
         {R"("headline": "H", "bodies": [{"value": "<p>a</p>"}])", u"H|a"_s},
         {R"("headline": "H", "bodies": [{"role": "text", "value": "<p>a</p>"}])", u"H|<p>a</p>"_s},
         {R"("headline": "H", "description_text": "D")", u"H|D"_s},
-        {R"("headline": " ", "title": "T")", u"T|-"_s},
-        {R"("headlines": [{"value": "<b>H</b>", "contenttype": "text/html"}])", u"H|-"_s},
-        {R"("headline_short": "H")", u"H|-"_s},
+        {R"("headline": " ", "title": "T")", u"T|"_s},
+        {R"("headlines": [{"value": "<b>H</b>", "contenttype": "text/html"}])", u"H|"_s},
+        {R"("headline_short": "H")", u"H|"_s},
         {R"("body_text": "First paragraph\nwraps.\n\nSecond.")",
          u"First paragraph wraps.|First paragraph wraps.@@@@Second."_s},
         {R"("description_text": "D")", u"D|D"_s},
-        {R"("slugline": "bank-rates")", u"bank-rates|-"_s},
+        {R"("headline": "H", "storyFollows": true)", u"H|-"_s},
+        {R"("headline": "H", "storyFollows": true, "body_text": "B")", u"H|B"_s},
+        {R"("headline": "H", "storyFollows": "true")", u"H|"_s},
+        {R"("slugline": "bank-rates")", u"bank-rates|"_s},
         {R"("type": "picture", "headline": "H", "descriptions": [{"role": "caption", "value": "C"}])",
          u"H|C"_s},
-        {R"("headline": "H\ud800\u0000\u0007!")", u"H\ufffd !"_s.remove(u' ') + u"|-"_s},
-        {R"("headline": null, "title": "T", "subject": null)", u"T|-"_s},
+        {R"("headline": "H\ud800\u0000\u0007!")", u"H\ufffd !"_s.remove(u' ') + u"|"_s},
+        {R"("headline": null, "title": "T", "subject": null)", u"T|"_s},
     };
     for (const auto& [fields, expected] : rows) {
         const auto out = readAll(record(fields));

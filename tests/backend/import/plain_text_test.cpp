@@ -64,6 +64,10 @@ TEST(PlainText, TextOfUnknownFormLosesOnlyWhatIsSurelyMarkup) {
         {u"lines\n\nstay", u"lines\n\nstay"},
         {u"<p>lines</p>\n<p>do\nnot</p>", u"lines\n\ndo not"},
         {u"AT&T", u"AT&T"},
+        // Names that plain text has in brackets too count when they cannot be meant so.
+        {u"<VIDEO> and <data>", u"<VIDEO> and <data>"},
+        {u"<video src='x'>seen</video>", u"seen"},
+        {u"<iframe src='x'>no</iframe>left <svg width=\"1\"><path/></svg>over", u"left over"},
         {u"&#65;&#+65;&# 65;&#x 41;&#x41;", u"A&#+65;&# 65;&#x 41;A"},
         {QStringView(u"&#65\0&#66;", 10), QStringView(u"&#65\0B", 6)},
     };

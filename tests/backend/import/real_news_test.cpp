@@ -223,12 +223,22 @@ TEST_F(RealNews, AnnouncementsAreTakenOnceEach) {
     EXPECT_EQ(faults.size(), 2) << qPrintable(faults.join(u'\n'));
     EXPECT_EQ(report.totals.takenIn, 6809);
     EXPECT_EQ(report.totals.alreadyThere, 113);
+    const QRegularExpression columns(u"\\S[ \u3000]{3,}\\S"_s);
+    int tables = 0;
+    bool isRowThere = false;
     for (const auto& [identity, item] : sink.stored.news) {
         EXPECT_FALSE(item.title.contains(u'\n') || item.title.contains(u"&#"_s)) << qPrintable(item.title);
         EXPECT_TRUE(item.story && item.related.size() == 1);
         // The snapshots are of three months.
         EXPECT_TRUE(item.time > 1764000000 && item.time < 1773000000) << item.time;
+        const QStringList paragraphs = item.story->split(u"@@@@"_s);
+        tables += paragraphs.filter(columns).size() > 1 ? 1 : 0;
+        isRowThere =
+            isRowThere ||
+            paragraphs.contains(u"營業收入   285.18     20.16%       912.80     13.29%         3,143.03"_s);
     }
+    EXPECT_EQ(tables, 328);
+    EXPECT_TRUE(isRowThere);
     EXPECT_EQ(job.run().totals.takenIn, 0);
 }
 

@@ -48,6 +48,26 @@ TEST(WireForm, ParagraphsAreMarkedAndWrappedLinesJoined) {
         {u"ends with @\n\n@ starts", u"ends with @ @@@@ @ starts"},
         {u"@@\n@@", u"@@ @@"},
         {u"@\u0001@\u0002@\u0003@", u"@@ @@"},
+        // Tables that are set with blanks.
+        {u"Figures:\nItem        Jan     Feb\n(NT$)\nSales       1,200   (30)\nas told\nabove.",
+         u"Figures:@@@@Item        Jan     Feb@@@@(NT$)@@@@Sales       1,200   (30)@@@@as told above."},
+        {u"　　　　　當月稅前  當月稅後\n　　　　　　(億元)　　(億元)\n兆豐金控　　 49.43     41.58\n註:以上",
+         u"　　　　　當月稅前  當月稅後@@@@　　　　　　(億元)　　(億元)@@@@兆豐金控　　 49.43     "
+         u"41.58@@@@註:以上"},
+        {u"                 最近一月\n科目　　　　 　 114年11月\n============     "
+         u"=========\n營業收入　　　　　2,444",
+         u"                 最近一月@@@@科目　　　　 　 114年11月@@@@============     "
+         u"=========@@@@營業收入　　　　　2,444"},
+        {u"    Fund            USD\n    Longchamp Return\n\n      Trust       14,052\n    ------",
+         u"Fund            USD@@@@Longchamp Return@@@@  Trust       14,052@@@@------"},
+        {u"a\tb\nlong label\tc\n營收\td", u"a       b@@@@long label      c@@@@營收    d"},
+        {u"單位：億元\n--------11月損益--------\n營收", u"單位：億元@@@@--------11月損益--------@@@@營收"},
+        {u"before\n====\nafter", u"before@@@@====@@@@after"},
+        // These are none.
+        {u"One ends.  Two\nends.  Three", u"One ends.  Two ends.  Three"},
+        {u"only one  line\nof columns", u"only one  line of columns"},
+        {u"one  line\nof a text that goes on for longer than lines between those of a table\nand  another",
+         u"one  line of a text that goes on for longer than lines between those of a table and  another"},
         // What must not be shown.
         {u"nul\u0001bell\u0007del\u007fc1\u0090.", u"nulbelldelc1."},
         {u"evil\u202egnp.exe\u2066.", u"evilgnp.exe."},

@@ -60,8 +60,8 @@ inline SampleOptions threeDays() {
 inline QString lineOf(const NewsItem& item) {
     QString line = QStringLiteral("%1|%2|%3|%4|%5|%6|%7")
                        .arg(QString::number(item.service), item.identity, QString::number(item.version),
-                            QString::number(item.time), item.title, item.story.value_or(QStringLiteral("-")),
-                            item.category);
+                            QString::number(item.time), item.title,
+                            item.story->isEmpty() ? QStringLiteral("-") : *item.story, item.category);
     for (const SymbolRef& symbol : item.related)
         line += QStringLiteral("|%1:%2").arg(symbol.market).arg(symbol.code);
     return line;

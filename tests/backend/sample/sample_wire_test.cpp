@@ -191,7 +191,7 @@ TEST(SampleWire, SendsExactlyTheHeadlinesAskedForOverAnyServicesOnAWorkingDay) {
     std::set<QString> identities;
     std::map<int, int> perService;
     for (const NewsItem& item : collect(options).news) {
-        EXPECT_FALSE(item.story);
+        EXPECT_EQ(item.story, QString());
         identities.insert(item.identity);
         ++perService[item.service];
     }

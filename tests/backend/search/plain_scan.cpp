@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/backend/search/plain_scan.h"
 
-#include "backend/search/search_words.h"
-
 #include <QByteArrayMatcher>
 
 #include <algorithm>
@@ -14,33 +12,27 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum class LineEnds { Words, Blanks };
+constexpr qsizetype mostKeywordWords = 256;
 
-QByteArray joined(const QString& text, LineEnds lineEnds) {
-    const QByteArray utf8 = text.toUtf8();
-    QByteArray words = " ";
-    WordReader reader(utf8);
-    while (reader.next()) {
-        if (lineEnds == LineEnds::Words || !reader.isLineEnd())
-            words.append(reader.word().data(), qsizetype(reader.word().size())).append(' ');
-    }
-    return words;
+QByteArray joined(const QStringList& words) {
+    return words.isEmpty() ? QByteArray() : ' ' + words.join(u' ').toUtf8() + ' ';
 }
 
 }  // namespace
 
 void PlainScan::add(const NewsItem& item) {
     const QString story = item.story.value_or(QString()).replace(u"@@@@"_s, u"\n"_s);
-    entries.push_back({item.service, item.identity, joined(item.title, LineEnds::Words),
-                       joined(story, LineEnds::Words), item.related});
+    entries.push_back(
+        {item.service, item.identity, joined(words.of(item.title)), joined(words.of(story)), item.related});
 }
 
 QStringList PlainScan::find(unsigned char service, const CSearch& condition) const {
     std::vector<QByteArrayMatcher> phrases;
     for (const QString& keyword : condition.keywords) {
-        const QString text = keywordText(keyword);
-        if (!text.isEmpty())
-            phrases.emplace_back(joined(text, LineEnds::Blanks));
+        QStringList wanted = words.of(keyword);
+        wanted.removeAll(u"\n"_s);
+        if (!wanted.isEmpty())
+            phrases.emplace_back(joined(wanted.first(std::min(wanted.size(), mostKeywordWords))));
     }
     QStringList found;
     for (const Entry& entry : entries) {

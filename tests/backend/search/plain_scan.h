@@ -4,6 +4,7 @@
 
 #include "backend/news_item.h"
 #include "host/contract/search_condition.h"
+#include "tests/backend/search/plain_words.h"
 
 #include <QStringList>
 
@@ -27,6 +28,7 @@ private:
         QByteArray story;
         std::vector<SymbolRef> related;
     };
+    PlainWords words;
     std::vector<Entry> entries;
 };
 

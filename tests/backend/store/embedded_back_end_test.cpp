@@ -76,9 +76,9 @@ TEST_F(EmbeddedBackEndTest, TablesComeNewestFirstWithinTheirRange) {
 
     EXPECT_EQ(byKey(1, 0, u"20260302"_s), (QStringList{u"noon"_s, u"open, later number"_s, u"open"_s}));
     EXPECT_EQ(byKey(1, 0, u"20250619"_s), QStringList{u"256 days ago"_s});
-    EXPECT_EQ(byKey(1, 1, u"2"_s), (QStringList{u"noon"_s, u"open"_s, u"yesterday"_s, u"255 days ago"_s}));
-    EXPECT_EQ(bySymbol(1, {16, u"6214"_s}),
-              (QStringList{u"noon"_s, u"open"_s, u"yesterday"_s, u"255 days ago"_s}));
+    const QStringList inRange{u"tomorrow"_s, u"noon"_s, u"open"_s, u"yesterday"_s, u"255 days ago"_s};
+    EXPECT_EQ(byKey(1, 1, u"2"_s), inRange);
+    EXPECT_EQ(bySymbol(1, {16, u"6214"_s}), inRange);
     EXPECT_EQ(bySymbol(1, {22, u"6214"_s}), (QStringList{u"noon"_s, u"open, later number"_s, u"open"_s}));
     for (const QString& key : {u"2026030"_s, u"20260230"_s, u"+2026302"_s, QString(), u"SEARCH"_s})
         EXPECT_EQ(byKey(1, 0, key), QStringList{}) << key.toStdString();
@@ -122,8 +122,9 @@ TEST_F(EmbeddedBackEndTest, ReceiversAreToldOfWhatChangedAndOfNothingElse) {
     EXPECT_EQ(takeIn(newsItem(16, u"y"_s, at(11, 0), {})), Take::Rejected);
     EXPECT_EQ(takeIn(SymbolItem{16, u"6214"_s, u"Sample"_s, 1}), Take::TakenIn);
     EXPECT_EQ(takeIn(SymbolItem{16, u"6214"_s, u"Sample"_s, 1}), Take::AlreadyThere);
-    EXPECT_EQ(listener.heard, (QStringList{u"headline 16/1 Plant\uFFFD shut [2] 6214"_s, u"story 1"_s,
-                                           u"headline 16/1 Plant reopened [2] "_s, u"symbol 6214"_s}));
+    EXPECT_EQ(listener.heard,
+              (QStringList{u"headline 16/1 Plant\uFFFD shut [2] 6214"_s, u"story 1"_s,
+                           u"headline 16/1 Plant reopened [2] "_s, u"gone 16/1 11:00"_s, u"symbol 6214"_s}));
 
     const CHeadlineTable moved{at(11, 30), 1, 16, 0, 0};
     CStory story;
@@ -199,7 +200,7 @@ TEST_F(EmbeddedBackEndTest, RequestsAreAnsweredFromTheEventLoop) {
     const CHeadlineTable entry{at(9, 0), 1, 1, 0, 0};
     listener.heard.clear();
     EXPECT_TRUE(backEnd.BKQNews_bReRequestHeadlineStory(entry));
-    EXPECT_FALSE(backEnd.BKQNews_bReRequestHeadlineStory({at(9, 0), 2, 1, 0, 0}));
+    EXPECT_TRUE(backEnd.BKQNews_bReRequestHeadlineStory({at(9, 0), 2, 1, 0, 0}));
     EXPECT_TRUE(backEnd.BKNEWS_bReRequestHeadlineTable(1, 0, u"20260302"_s));
     EXPECT_TRUE(backEnd.BKNEWS_bReRequestHeadlineTable(1, 1, u"9"_s));
     EXPECT_TRUE(backEnd.BKNEWS_bReRequestHeadlineTable(1, CSymbolInfo{16, u"6214"_s}));
@@ -207,15 +208,18 @@ TEST_F(EmbeddedBackEndTest, RequestsAreAnsweredFromTheEventLoop) {
     std::vector<CHeadline> headlines;
     EXPECT_TRUE(backEnd.BKQNEWS_bReCoverHeadline(1, headlines, {entry}));
     EXPECT_FALSE(backEnd.BKQNEWS_bReCoverHeadline(2, headlines, {entry}));
-    EXPECT_EQ(headlines.size(), 1u);
+    EXPECT_TRUE(backEnd.BKQNEWS_bReCoverHeadline(1, headlines, {{at(9, 0), 2, 1, 0, 0}, entry}));
+    EXPECT_EQ(headlines.size(), 2u);
     EXPECT_EQ(listener.heard, QStringList{});
     QCoreApplication::processEvents();
-    EXPECT_EQ(listener.heard, (QStringList{u"story 1"_s, u"date table 1 20260302 0"_s,
-                                           u"category table 1 9 -1"_s, u"symbol table 1 6214 0"_s}));
+    EXPECT_EQ(listener.heard,
+              (QStringList{u"story 1"_s, u"story 2"_s, u"date table 1 20260302 0"_s,
+                           u"category table 1 9 -1"_s, u"symbol table 1 6214 0"_s, u"1 headlines"_s}))
+        << "also what cannot be met";
     QStringList operations;
     for (const Request& request : backEnd.takeRequests())
         operations += request.operation;
-    EXPECT_EQ(operations.size(), 8);
+    EXPECT_EQ(operations.size(), 9);
     EXPECT_EQ(operations.count(u"BKNEWS_bReRequestHeadlineTable"_s), 4);
 }
 

@@ -2,17 +2,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/news_receiver.h"
+#include "host/contract/gone_headlines.h"
 
+#include <QDateTime>
 #include <QStringList>
+
+#include <functional>
 
 namespace wirepane {
 
 using namespace Qt::StringLiterals;
 
 // Writes down what it is told.
-class Listener : public NewsReceiver {
+class Listener : public NewsReceiver, public GoneHeadlineReceiver {
 public:
+    void vHeadlineReplaced(const CHeadline* headline, const QString&, const QString&) override {
+        replaced += u"%1/%2 %3"_s.arg(headline->service).arg(headline->sequence).arg(headline->title);
+    }
+    void vHeadlineGone(const HeadlineKey& key) override {
+        const QString time = QDateTime::fromSecsSinceEpoch(key.time).toString(u"HH:mm"_s);
+        heard += u"gone %1/%2 %3"_s.arg(key.service).arg(key.sequence).arg(time);
+    }
     void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId, const QString& code) override {
         heard += u"headline %1/%2 %3 [%4] %5"_s.arg(headline->service)
                      .arg(headline->sequence)
@@ -27,7 +37,11 @@ public:
     void vRecvNewMarketStatus(const CMarketStatus* status) override {
         heard += u"day %1 of %2"_s.arg(status->date).arg(status->service);
     }
-    void RespStory(const CHeadlineTable& entry) override { heard += u"story %1"_s.arg(entry.sequence); }
+    void RespStory(const CHeadlineTable& entry) override {
+        heard += u"story %1"_s.arg(entry.sequence);
+        if (onStory)
+            onStory(entry);
+    }
     void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& changes) override {
         heard += u"symbol %1"_s.arg(changes.front().code);
     }
@@ -40,6 +54,8 @@ public:
         heard += QStringLiteral("search %1 %2").arg(condition.keywords.front()).arg(service);
     }
     QStringList heard;
+    QStringList replaced;  // told of, but not pushed
+    std::function<void(const CHeadlineTable&)> onStory;
 
 private:
     void hear(const QString& table, const CHeadlineTableInfo& info) {

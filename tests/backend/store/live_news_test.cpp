@@ -23,6 +23,7 @@ class LiveNewsTest : public StoreFixture {
 public:
     LiveNewsTest() : backEnd(std::move(openStore(store->path()).value())) {
         host_clock::startAt(at(12, 0));
+        backEnd.forgetNewsDays();
         backEnd.Attach(&listener);
     }
     ~LiveNewsTest() override { backEnd.Detach(&listener); }
@@ -87,6 +88,130 @@ TEST_F(LiveNewsTest, WhatAnotherProgramWritesIsToldInTheOrderOfComing) {
     backEnd.checkForNews();
     EXPECT_EQ(heard(), QStringList{});
     EXPECT_EQ(entriesOfToday(), 4);
+}
+
+// By itself, by another program, and in a break, at whose end the last word counts.
+TEST_F(LiveNewsTest, AKeyThatReplacedNewsHasLostIsToldAsGone) {
+    constexpr std::int64_t day = 86400;
+    NewsItem item = newsItem(1, u"a"_s, at(11, 0), u"A"_s);
+    const auto correct = [&item](std::int64_t time, const QString& title) {
+        item = again(item, title);
+        item.time = time;
+        return item;
+    };
+    takeIn(item);
+    takeIn(correct(at(11, 0), u"Same key"_s));
+    heard();
+    takeIn(correct(at(10, 0), u"Earlier"_s));
+    EXPECT_EQ(heard(), (QStringList{u"headline 1/1 Earlier [0] "_s, u"gone 1/1 11:00"_s}));
+    takeNews(correct(at(9, 0), u"By another"_s));
+    backEnd.checkForNews();
+    EXPECT_EQ(heard(), (QStringList{u"headline 1/1 By another [0] "_s, u"gone 1/1 10:00"_s}));
+
+    backEnd.setConnected(false);
+    takeIn(correct(at(8, 0) - day, u"Yesterday's"_s));
+    takeIn(correct(at(7, 0), u"Today's after all"_s));
+    takeIn(correct(at(9, 0), u"As before"_s));
+    EXPECT_EQ(heard(), QStringList{});
+    backEnd.setConnected(true);
+    // Its first key, at nine, was told in the meantime and is its last one too, by another number.
+    EXPECT_EQ(heard(), (QStringList{u"headline 1/2 As before [0] "_s, u"gone 1/1 09:00"_s,
+                                    u"gone 1/1 08:00"_s, u"gone 1/2 07:00"_s}));
+    EXPECT_EQ(backEnd.lateHeadlines(), 1);
+
+    // Another day's is not pushed: whoever lists it is told that it has been replaced.
+    listener.replaced.clear();
+    takeIn(correct(at(9, 0) - day, u"Yesterday's again"_s));
+    takeIn(correct(at(9, 0) - day, u"In other words"_s));
+    EXPECT_FALSE(heard().join(u'|').contains(u"headline"_s));
+    EXPECT_EQ(listener.replaced, (QStringList{u"1/2 Yesterday's again"_s, u"1/2 In other words"_s}));
+}
+
+TEST_F(LiveNewsTest, AReaderOfAnEarlierMomentSeesNothingOfTheFuture) {
+    int version = 0;
+    const auto put = [&](const QString& identity, std::int64_t time) {
+        NewsItem item = newsItem(1, identity, time, u"Tea "_s + identity);
+        item.version = ++version;
+        item.categoryId = 1;
+        item.related = {{16, u"2330"_s}};
+        takeIn(item);
+    };
+    put(u"morning"_s, at(9, 0));
+    put(u"noon"_s, at(12, 0));
+    put(u"evening"_s, at(18, 0));
+    put(u"night"_s, at(23, 59));
+    heard();
+    CSearch tea;
+    tea.keywords = {u"tea"_s};
+    tea.method = 1;
+    const auto search = [&] {
+        heard();
+        backEnd.BKQNEWS_bSearchNews(1, 3, tea);
+        while (heard().isEmpty())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    };
+    const auto counts = [this] {
+        std::vector<CHeadlineTable> day, category, symbol, found;
+        backEnd.BKQNEWS_iGetHeadlineTable(1, day, 0, u"20260302"_s);
+        backEnd.BKQNEWS_iGetHeadlineTable(1, category, 1, u"1"_s);
+        backEnd.BKQNEWS_iGetHeadlineTable(symbol, 1, {16, u"2330"_s});
+        backEnd.BKQNEWS_iGetHeadlineTable(1, found, 3, u"SEARCH"_s);
+        return std::vector<std::size_t>{day.size(), category.size(), symbol.size(), found.size()};
+    };
+    search();
+    EXPECT_EQ(counts(), (std::vector<std::size_t>(4, 4))) << "nothing is held back by itself";
+
+    struct Case {
+        LaterNews::Held held;
+        int aheadAtOnce;  // of what comes live and is dated ahead
+        QStringList told;
+    };
+    const QString live = u"headline 1/5 Tea live [1] 2330"_s;
+    const Case cases[] = {{LaterNews::Held::Stored, 1, {live}}, {LaterNews::Held::All, 0, {}}};
+    for (const Case& c : cases) {
+        host_clock::startAt(at(12, 0));
+        backEnd.holdLaterNews(c.held);
+        search();
+        EXPECT_EQ(counts(), (std::vector<std::size_t>(4, 2)));
+        put(u"live"_s, at(19, 0));
+        backEnd.checkForNews();
+        EXPECT_EQ(heard(), c.told);
+        EXPECT_EQ(entriesOfToday(), 2 + c.aheadAtOnce);
+
+        // As the clock runs, headlines come as they did, each once.
+        host_clock::startAt(at(18, 30));
+        EXPECT_EQ(entriesOfToday(), 2 + c.aheadAtOnce) << "not before it is told";
+        backEnd.setConnected(false);
+        backEnd.checkForNews();
+        EXPECT_EQ(heard(), QStringList{}) << "nothing comes in a break";
+        backEnd.setConnected(true);
+        backEnd.checkForNews();
+        EXPECT_EQ(heard(), QStringList{u"headline 1/3 Tea evening [1] 2330"_s});
+        host_clock::startAt(at(19, 30));
+        backEnd.checkForNews();
+        EXPECT_EQ(heard(), c.told.isEmpty() ? QStringList{live} : QStringList{});
+        search();
+        EXPECT_EQ(counts(), (std::vector<std::size_t>(4, 4)));
+    }
+    backEnd.holdLaterNews(LaterNews::Held::Nothing);
+    EXPECT_EQ(counts(), (std::vector<std::size_t>(4, 5)));
+}
+
+TEST_F(LiveNewsTest, ASourceWhoseClockIsOffIsToldOf) {
+    QStringList ahead;
+    backEnd.onDatedAhead([&](unsigned char service, std::int64_t time) {
+        ahead += u"%1 by %2 s"_s.arg(service).arg(time - host_clock::now());
+    });
+    takeIn(newsItem(1, u"a"_s, host_clock::now() + 100, u"A"_s));
+    takeIn(newsItem(1, u"b"_s, host_clock::now() - 9999, u"B"_s));
+    EXPECT_EQ(ahead, QStringList{});
+    takeIn(newsItem(2, u"c"_s, host_clock::now() + 3600, u"C"_s));
+    EXPECT_EQ(ahead.size(), 1);
+    EXPECT_TRUE(ahead.join(QString()).startsWith(u"2 by 3"_s));
+    EXPECT_EQ(heard().size(), 3) << "it is shown all the same";
+    backEnd.holdLaterNews(LaterNews::Held::Stored);
+    takeIn(newsItem(2, u"d"_s, host_clock::now() + 3600, u"D"_s));
+    EXPECT_EQ(ahead.size(), 1) << "a clock that was set is no measure";
 }
 
 TEST_F(LiveNewsTest, ABurstIsOneTransactionAndIsToldInPortions) {
@@ -175,15 +300,16 @@ TEST_F(LiveNewsTest, AClockThatIsSetNumbersAndTellsNewsAllTheSame) {
     struct Step {
         std::int64_t clock;
         std::int64_t newsTime;
-        QString said;
+        QStringList said;
     };
     const Step steps[] = {
-        {at(12, 0), at(11, 0), u"headline 1/1 N [1] "_s},
-        {at(12, 0) - 2 * day, at(11, 30), u"headline 1/2 N [1] "_s},           // of a day to come
-        {at(12, 0) - 2 * day, at(11, 0) - 2 * day, u"headline 1/1 N [1] "_s},  // of the day that it is now
-        {at(12, 0) + 300 * day, at(11, 0) + 300 * day,
-         u"headline 1/1 N [1] "_s},  // beyond the range of tables
-        {at(12, 1), at(10, 0), u"headline 1/3 N [1] "_s},
+        {at(12, 0), at(11, 0), {u"headline 1/1 N [1] "_s}},
+        {at(12, 0) - 2 * day, at(11, 30), {}},           // of a day to come
+        {at(12, 0) - 2 * day, at(11, 0) - 2 * day, {}},  // of a day that is over when it is told
+        {at(12, 0) + 300 * day,
+         at(11, 0) + 300 * day,
+         {u"day 20261227 of 1"_s, u"headline 1/1 N [1] "_s}},  // beyond the range of tables
+        {at(12, 1), at(10, 0), {}},                            // of a day long before the service's
     };
     int number = 0;
     QStringList said;
@@ -206,8 +332,8 @@ TEST_F(LiveNewsTest, AClockThatIsSetNumbersAndTellsNewsAllTheSame) {
         std::vector<CHeadlineTable> table;
         return backEnd.BKQNEWS_iGetHeadlineTable(1, table, 1, u"1"_s);
     };
-    EXPECT_EQ(ofCategory(at(12, 0)), 4);
-    EXPECT_EQ(ofCategory(at(12, 0) - 2 * day), 1);
+    EXPECT_EQ(ofCategory(at(12, 0)), 5);
+    EXPECT_EQ(ofCategory(at(12, 0) - 2 * day), 5) << "news that is dated ahead is not held back";
     EXPECT_EQ(ofCategory(at(12, 0) + 300 * day), 1);
     EXPECT_EQ(StoreChecker(store->path()).check().value(), QStringList{});
 }
@@ -236,6 +362,50 @@ TEST_F(LiveNewsTest, AStoryCanComeAfterItsHeadlineAndChange) {
     EXPECT_EQ(StoreChecker(store->path()).check().value(), QStringList{});
 }
 
+TEST_F(LiveNewsTest, ThatThereIsNoStoryIsToldBeforeItCanBeHad) {
+    takeIn(newsItem(1, u"none"_s, at(10, 0), u"Flash"_s));
+    NewsItem promised = newsItem(1, u"promised"_s, at(10, 1), u"Alert"_s);
+    promised.story.reset();
+    takeIn(promised);
+    heard();
+    const CHeadlineTable none{at(10, 0), 1, 1, 0, 0};
+    const CHeadlineTable awaited{at(10, 1), 2, 1, 0, 0};
+    const CHeadlineTable unknown{at(10, 2), 9, 1, 0, 0};
+    // What a look-up at each telling finds: the text, "-" for nothing.
+    CStory story;
+    QStringList found;
+    listener.onStory = [&](const CHeadlineTable& entry) {
+        found += backEnd.BKQNEWS_bGetStory(story, entry) ? story.text : u"-"_s;
+    };
+    for (const CHeadlineTable& entry : {none, none, awaited, unknown})
+        EXPECT_FALSE(backEnd.BKQNEWS_bGetStory(story, entry));
+    EXPECT_EQ(heard(), QStringList{});
+    QCoreApplication::processEvents();
+    EXPECT_EQ(heard(), (QStringList{u"story 1"_s, u"story 9"_s}));
+    EXPECT_EQ(found, (QStringList{QString(), QString()}));
+    found.clear();
+    for (const CHeadlineTable& entry : {none, awaited, unknown})
+        EXPECT_TRUE(backEnd.BKQNews_bReRequestHeadlineStory(entry));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(heard(), (QStringList{u"story 1"_s, u"story 2"_s, u"story 9"_s})) << "each is answered";
+    EXPECT_EQ(found, (QStringList{QString(), u"-"_s, QString()})) << "the second is still to come";
+    found.clear();
+    ASSERT_TRUE(backEnd.takeStory(KeyOf(none), u"After all"_s));
+    EXPECT_EQ(found, QStringList{u"After all"_s});
+    // A day is as long as a promise holds.
+    heard();
+    host_clock::startAt(at(12, 0) + 86'399);
+    EXPECT_FALSE(backEnd.BKQNEWS_bGetStory(story, awaited));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(heard(), QStringList{});
+    host_clock::startAt(at(12, 0) + 86'405);
+    EXPECT_FALSE(backEnd.BKQNEWS_bGetStory(story, awaited));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(heard(), QStringList{u"story 2"_s});
+    EXPECT_EQ(found.last(), QString());
+    EXPECT_EQ(StoreChecker(store->path()).check().value(), QStringList{});
+}
+
 TEST_F(LiveNewsTest, WhatIsHeldIsNotAtHandAndItsAnswersWait) {
     NewsItem item = newsItem(1, u"a"_s, at(10, 0), u"A"_s);
     item.story = u"Text"_s;
@@ -258,7 +428,7 @@ TEST_F(LiveNewsTest, WhatIsHeldIsNotAtHandAndItsAnswersWait) {
     backEnd.hold(Held::Tables, false);
     EXPECT_EQ(heard(), (QStringList{u"date table 1 20260302 0"_s, u"date table 1 20260303 -1"_s}));
     backEnd.hold(Held::Stories, false);
-    EXPECT_EQ(heard(), QStringList{u"story 1"_s});
+    EXPECT_EQ(heard(), (QStringList{u"story 1"_s, u"story 1"_s})) << "the look-up and the request";
     backEnd.hold(Held::Headlines, false);
     EXPECT_EQ(heard(), QStringList{u"1 headlines"_s});
     for (const Held what : {Held::Headlines, Held::Stories, Held::Tables})
@@ -299,7 +469,9 @@ TEST_F(LiveNewsTest, AStoredDayGivesItsNewsBackWholeAndInOrder) {
     late.category = u"Expiry"_s;
     late.related = {{16, u"2330"_s}, {0, u"X"_s}};
     takeIn(late);
-    takeIn(newsItem(1, u"first"_s, at(0, 0), u"First of the day"_s));
+    NewsItem first = newsItem(1, u"first"_s, at(0, 0), u"First of the day"_s);
+    first.story.reset();
+    takeIn(first);
     takeIn(newsItem(1, u"before"_s, at(0, 0) - 1, u"Of the day before"_s));
     takeIn(newsItem(1, u"after"_s, at(0, 0) + 86400, u"Of the day after"_s));
     NewsItem named = newsItem(1, u"named"_s, at(1, 0), u"In a category of its own"_s);
@@ -308,7 +480,8 @@ TEST_F(LiveNewsTest, AStoredDayGivesItsNewsBackWholeAndInOrder) {
     const auto day = StoredDay::open(store->path(), QDate(2026, 3, 2));
     ASSERT_TRUE(day && day.value()->size() == 3);
     EXPECT_EQ(day.value()->item(0).value().title, u"First of the day"_s);
-    EXPECT_EQ(day.value()->item(0).value().story, std::nullopt);
+    EXPECT_EQ(day.value()->item(0).value().story, std::nullopt) << "still to come";
+    EXPECT_EQ(day.value()->item(1).value().story, QString()) << "none";
     const NewsItem back = day.value()->item(2).value();
     EXPECT_EQ(std::tie(back.service, back.identity, back.version, back.time, back.title, back.story,
                        back.category, back.related),

@@ -31,7 +31,8 @@ Take NewsModel::take(const NewsItem& item) {
             known->item = item;
             return Take::TakenIn;
         }
-        if (item.version != before.version || before.story || !item.story)
+        if (item.version != before.version || before.story.value_or(QString()).size() > 0 ||
+            item.story.value_or(QString()).isEmpty())
             return Take::AlreadyThere;
         known->item.story = item.story;
         return Take::TakenIn;
@@ -77,6 +78,8 @@ NewsItem randomNews(std::mt19937& random) {
     item.version = upTo(3);
     if (upTo(3) > 0)
         item.story = u"Text %1 on gas@@@@and coal %2"_s.arg(upTo(1000)).arg(upTo(1000));
+    else if (upTo(2) > 0)
+        item.story.reset();
     if (upTo(2) > 0)
         item.category = u"Kind%1"_s.arg(upTo(5));
     for (int i = upTo(4); i > 0; --i)

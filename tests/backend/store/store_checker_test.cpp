@@ -65,6 +65,8 @@ TEST_F(StoreCheckerTest, EachRuleThatIsBrokenIsNamedWithItsOffenders) {
          u"The search index does not hold the text of: 1/n1, 1/n2, 1/n3 and more."_s},
         {"INSERT INTO news_search(rowid, title, story) VALUES(99, 'ghost', 'story')",
          u"The search index does not hold the text of: entry 99."_s},
+        {"CREATE TRIGGER thief AFTER INSERT ON headlines BEGIN DELETE FROM stories; END",
+         u"These triggers are none of the store's; they never run: thief."_s},
         {"INSERT INTO news_search(news_search) VALUES('delete-all')",
          u"The search index does not hold the text of: 1/n1, 1/n2, 1/n3 and more."_s},
     };
@@ -106,21 +108,21 @@ TEST_F(StoreCheckerTest, WhatIsNoStoreIsAnError) {
     EXPECT_FALSE(StoreChecker(text).check());
 }
 
-TEST_F(StoreCheckerTest, AFileInWhichAStoreCanBeMadeIsSound) {
+TEST_F(StoreCheckerTest, AnEmptyFileIsNoSoundStore) {
     QFile empty(pathOf(u"empty.db"_s));
     ASSERT_TRUE(empty.open(QIODevice::WriteOnly));
     empty.close();
-    const auto expectSound = [&] {
+    const auto expectEmpty = [&] {
         const Result<QStringList> checked = StoreChecker(empty.fileName()).check();
-        ASSERT_TRUE(checked) << checked.error().toStdString();
-        EXPECT_EQ(checked.value(), QStringList{});
+        ASSERT_FALSE(checked);
+        EXPECT_TRUE(checked.error().contains(u"is empty"_s)) << checked.error().toStdString();
     };
-    expectSound();
+    expectEmpty();
     // Killed between the first page and the tables.
     const auto begun = Database::open(empty.fileName(), Database::Mode::Create, std::chrono::milliseconds(0));
     ASSERT_TRUE(begun && begun.value()->execute("PRAGMA journal_mode = WAL"));
     EXPECT_GT(QFileInfo(empty.fileName()).size(), 0);
-    expectSound();
+    expectEmpty();
 }
 
 }  // namespace

@@ -12,7 +12,6 @@
 #include <QFile>
 
 #include <random>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -63,21 +62,6 @@ std::unique_ptr<Database> plainDatabase(const QString& path, const char* sql) {
     EXPECT_TRUE(opened.value()->execute(sql)) << opened.value()->failure().toStdString();
     return std::move(opened.value());
 }
-
-// Gives up the rights of the super-user for its life, where the tests run as that.
-class AsOrdinaryUser {
-public:
-    AsOrdinaryUser() : changed(geteuid() == 0 && seteuid(65534) == 0) {}
-    ~AsOrdinaryUser() {
-        if (changed && seteuid(0) != 0)
-            std::abort();
-    }
-    AsOrdinaryUser(const AsOrdinaryUser&) = delete;
-    AsOrdinaryUser& operator=(const AsOrdinaryUser&) = delete;
-
-private:
-    bool changed;
-};
 
 TEST_F(StoreFileTest, ANewStoreHasItsServicesAndKeepsWhatItHoldsWhenOpenedAgain) {
     const char* const listing =
@@ -191,6 +175,7 @@ TEST_F(StoreFileTest, AFileThatIsNoUsableStoreIsNamedAndLeftAlone) {
         QString expected;
     };
     const Case cases[] = {
+        {"a single byte", "x", u"is not a news store"_s},
         {"a text", QByteArray("This is a letter, not a store. ").repeated(200), u"is not a news store"_s},
         {"a newer store", patched(60, QByteArray("\0\0\0\7", 4)), u"newer version"_s},
         {"another program's database", patched(68, "ABCD"), u"but not a news store"_s},
@@ -234,31 +219,6 @@ TEST_F(StoreFileTest, AStoreThatIsInUseElsewhereSaysSo) {
     ASSERT_FALSE(locked);
     EXPECT_TRUE(locked.error().contains(u"is being used by another program"_s))
         << locked.error().toStdString();
-}
-
-TEST_F(StoreFileTest, AReadOnlyFolderOrFileIsSaidToBeSo) {
-    fill(3);
-    const QString path = closedStore();
-    const QByteArray before = bytesOf(path);
-    const auto mayRead = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
-    const auto mayEnter = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
-    QFile::setPermissions(path, mayRead);
-    QFile::setPermissions(folder.path(), mayRead | mayEnter);
-    {
-        const AsOrdinaryUser user;
-        const auto existing = openStore(path, impatient);
-        ASSERT_FALSE(existing);
-        EXPECT_TRUE(existing.error().contains(u"cannot be"_s)) << existing.error().toStdString();
-        EXPECT_TRUE(existing.error().contains(path)) << existing.error().toStdString();
-        EXPECT_FALSE(openStore(pathOf(u"new.db"_s), impatient));
-        // Verifying needs no more than reading.
-        const Result<QStringList> checked = StoreChecker(path).check();
-        ASSERT_TRUE(checked) << checked.error().toStdString();
-        EXPECT_EQ(checked.value(), QStringList{});
-    }
-    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    EXPECT_EQ(bytesOf(path), before);
-    EXPECT_FALSE(QFile::exists(pathOf(u"new.db"_s)));
 }
 
 TEST_F(StoreFileTest, AFullDiskTakesBackTheTransactionAndNothingElse) {

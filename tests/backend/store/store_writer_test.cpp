@@ -192,7 +192,20 @@ TEST_F(StoreWriterTest, WhatDoesNotPassIsRejectedWithAReason) {
     NewsItem item = newsItem(1, u"y"_s, lastNewsTime, longTitle.chopped(1));
     item.story = u"a%1b%2c\U0001F4C8%3"_s.arg(QChar(0xD800)).arg(QChar(0)).arg(QChar(0xDC00));
     EXPECT_EQ(takeNews(item).outcome.take, Take::TakenIn);
-    EXPECT_EQ(rows("SELECT text FROM stories"), QStringList{u"a\uFFFDb\uFFFDc\U0001F4C8\uFFFD"_s});
+    EXPECT_EQ(rows("SELECT text FROM stories"), QStringList{u"a\uFFFDbc\U0001F4C8\uFFFD"_s});
+}
+
+// Whatever road an item comes by.
+TEST_F(StoreWriterTest, WhatCannotBeSeenIsKeptOutOfEveryText) {
+    NewsItem item = newsItem(1, u"y"_s, at(9, 0), u"Up\u001b[2K\r\nForged\u202e row\u200f"_s);
+    item.story = u"One\u009b\r\n@@@@Two\u2028"_s;
+    item.category = u"Metal\u001bs"_s;
+    item.related = {{1, u"A\u202eB"_s}};
+    EXPECT_EQ(takeNews(item).outcome.take, Take::TakenIn);
+    EXPECT_EQ(rows("SELECT title FROM headlines"), QStringList{u"Up[2K Forged row"_s});
+    EXPECT_EQ(rows("SELECT text FROM stories"), QStringList{u"One\r\n@@@@Two "_s});
+    EXPECT_EQ(rows("SELECT name FROM categories WHERE name LIKE 'Metal%'"), QStringList{u"Metals"_s});
+    EXPECT_EQ(rows("SELECT code FROM related_symbols"), QStringList{u"AB"_s});
 }
 
 TEST_F(StoreWriterTest, WhatIsTakenBackLeavesNothing) {

@@ -17,6 +17,7 @@ enum class Fault {
     None,
     ServicesTwice,
     NameChanged,
+    NamesAny,
     DayWithDashes,
     CategoriesUnpaired,
     SymbolUnknown,
@@ -26,7 +27,11 @@ enum class Fault {
     AnyKeyFinds,
     HeadlinesOutOfOrder,
     HeadlinesOfAnother,
+    HeadlineInvented,
+    HeadlineNeverTold,
     StoryChanged,
+    StoryInvented,
+    StoryNeverTold,
     StoryOfAnother,
     AnswersAtOnce,
     AnswersNever,
@@ -55,7 +60,7 @@ public:
         const bool known = service == 1 || service == 2;
         if (known || is(Fault::NameChanged))
             name = u"Wire"_s;
-        return known;
+        return known || is(Fault::NamesAny);
     }
     QString BKQNEWS_cszGetCurrDateByService(unsigned char) override {
         return is(Fault::DayWithDashes) ? u"2026-03-02"_s : u"20260302"_s;
@@ -98,7 +103,11 @@ public:
                              const std::vector<CHeadlineTable>& entries) override {
         const std::size_t before = headlines.size();
         for (const CHeadlineTable& entry : entries) {
-            if (entry.service == service || is(Fault::HeadlinesOfAnother))
+            if (entry.service != service && !is(Fault::HeadlinesOfAnother))
+                continue;
+            if (!stands(entry) && !is(Fault::HeadlineInvented))
+                continue;
+            if (isAtHand(entry, lateHeadline, Fault::HeadlineNeverTold))
                 headlines.push_back({entry.service, entry.time, entry.sequence, u"Title"_s});
         }
         if (is(Fault::HeadlinesOutOfOrder))
@@ -106,7 +115,8 @@ public:
         return static_cast<int>(headlines.size() - before);
     }
     bool BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) override {
-        const bool known = entry.service != 0;
+        const bool known = entry.service != 0 && (stands(entry) || is(Fault::StoryInvented)) &&
+                           isAtHand(entry, lateStory, Fault::StoryNeverTold);
         if (known || is(Fault::StoryChanged))
             story = {entry.time, u"Story"_s, is(Fault::StoryOfAnother) ? CHeadlineTable() : entry};
         return known;
@@ -136,7 +146,30 @@ public:
     void UnregisterSymbols(NewsReceiver* view) override { vLeave(view, Fault::QuoteAfterUnregistering); }
 
 private:
+    static constexpr std::int32_t lateHeadline = 1;
+    static constexpr std::int32_t lateStory = 2;
+
     bool is(Fault one) const { return fault == one; }
+    static bool stands(const CHeadlineTable& entry) {
+        return entry.time == std::int64_t{entry.sequence} * 60;
+    }
+    // All is at hand but one of each service, which comes when it has been missed.
+    bool isAtHand(const CHeadlineTable& entry, std::int32_t late, Fault silent) {
+        if (entry.sequence != late || came.contains({entry.service, late}))
+            return true;
+        if (!is(silent)) {
+            QTimer::singleShot(0, &events, [this, entry, late] {
+                came.insert({entry.service, late});
+                ForEachReceiver([&](NewsReceiver& view) {
+                    if (late == lateStory)
+                        view.RespStory(entry);
+                    else
+                        view.RespHeadLine({entry});
+                });
+            });
+        }
+        return false;
+    }
     template <class Call>
     bool answer(Call call) {
         if (is(Fault::AnswersAtOnce))
@@ -161,6 +194,7 @@ private:
 
     const Fault fault;
     QObject events;
+    std::set<std::pair<unsigned char, std::int32_t>> came;
     std::set<NewsReceiver*> followers;
     std::set<NewsReceiver*> gone;
 };
@@ -168,6 +202,7 @@ private:
 QString brokenBy(Fault fault) {
     FaultyBackEnd backEnd(fault);
     const bool isSilent = fault == Fault::AnswersNever || fault == Fault::QuoteOfNothing ||
+                          fault == Fault::HeadlineNeverTold || fault == Fault::StoryNeverTold ||
                           fault == Fault::QuoteOnce || fault == Fault::QuoteNotAfterReturning;
     const std::vector<QString> broken = BrokenDuties(backEnd, isSilent ? 50ms : 10s);
     return QStringList(broken.begin(), broken.end()).join(u'\n');
@@ -183,6 +218,7 @@ TEST(BackEndCheck, TellsWhichDutyIsBroken) {
     } cases[] = {
         {Fault::ServicesTwice, "gives a service twice"},
         {Fault::NameChanged, "BKQNEWS_bGetFullNameByService, service 0: answers false and changes the name."},
+        {Fault::NamesAny, "BKQNEWS_bGetFullNameByService, service 0: there is a name, and no such service."},
         {Fault::DayWithDashes, "\"2026-03-02\" is no day"},
         {Fault::CategoriesUnpaired, "there are 1 ids and 2 names."},
         {Fault::SymbolUnknown, "bIsSymbolIDExist, service 1: \"2330\" is listed and unknown."},
@@ -192,6 +228,11 @@ TEST(BackEndCheck, TellsWhichDutyIsBroken) {
         {Fault::AnyKeyFinds, "there is news of kind 0 under the key \"99999999\"."},
         {Fault::HeadlinesOutOfOrder, "out of the order of the entries."},
         {Fault::HeadlinesOfAnother, "was not asked for"},
+        {Fault::HeadlineInvented, "there is a headline of an entry that stands for nothing."},
+        {Fault::HeadlineNeverTold,
+         "BKQNEWS_iGetHeadline, service 1, number 1: not at hand, and no RespHeadLine"},
+        {Fault::StoryInvented, "BKQNEWS_bGetStory, service 1: there is a story of an entry that stands for"},
+        {Fault::StoryNeverTold, "BKQNEWS_bGetStory, service 2, number 2: not at hand, and no RespStory"},
         {Fault::StoryChanged, "answers false and changes the story."},
         {Fault::StoryOfAnother, "gives the story of another headline."},
         {Fault::AnswersAtOnce, "the answer comes before the request returns."},

@@ -6,6 +6,7 @@
 #include "host/contract/ini_file.h"
 #include "host/contract/item_display.h"
 #include "host/contract/sync_info.h"
+#include "host/contract/view_options.h"
 #include "tests/support/fake_back_end.h"
 
 #include <QFile>
@@ -177,4 +178,29 @@ TEST(HostClock, RunsOnFromWhereItWasSet) {
     const std::int64_t passed = host_clock::now() - localTime(2026, 3, 2, 23, 59, 58);
     EXPECT_GE(passed, 0);
     EXPECT_LE(passed, 1);
+}
+
+TEST(ViewOptions, AreOffUnlessASettingSaysTrue) {
+    for (const ViewOptionRow& row : viewOptionTable) {
+        const QString key(row.key);
+        MemoryCfgIO absent;
+        EXPECT_FALSE(ViewOptions::read(absent, {})[row.option]) << row.key.data();
+        MemoryCfgIO wrong;
+        wrong.values = {{key, QStringList{QStringLiteral("yes")}}};
+        EXPECT_FALSE(ViewOptions::read(wrong, {})[row.option]) << row.key.data();
+        MemoryCfgIO set;
+        set.values = {{key, true}};
+        for (const ViewOptionRow& other : viewOptionTable)
+            EXPECT_EQ(ViewOptions::read(set, {})[other.option], other.option == row.option)
+                << row.key.data() << ", " << other.key.data();
+    }
+}
+
+TEST(ViewOptions, WhatTheUserSwitchedOffStaysOff) {
+    MemoryCfgIO store;
+    store.values = {{QString(viewOptionTable.front().key), false}};
+    ViewOptions::writeMissing(store, {});
+    const ViewOptions options = ViewOptions::read(store, {});
+    for (const ViewOptionRow& row : viewOptionTable)
+        EXPECT_EQ(options[row.option], row.option != viewOptionTable.front().option) << row.key.data();
 }

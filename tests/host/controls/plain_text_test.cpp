@@ -118,6 +118,56 @@ TEST(RichEdit, ShowsTextAsItStandsAndGivesItBack) {
     EXPECT_TRUE(copied->text().contains(QStringLiteral("<b>AT&amp;T</b>")));
 }
 
+// A run of 400,000 characters took 18 s to lay out, and again at each change of the width.
+TEST(RichEdit, BreaksRunsThatNoLineHoldsForTheEyeAlone) {
+    const QString before = QStringLiteral("Before \u00A0words\r\n");
+    const auto runs = {QString(5000, u'x'),
+                       QString(5000, u'。'),
+                       QStringLiteral("\U0001D4B3").repeated(3000),
+                       QStringLiteral("e\u0301").repeated(3000),
+                       QString(3000, QChar(0x0301)),
+                       QString(3000, QChar::Nbsp)};
+    for (const QString& run : runs) {
+        MyRichEdit edit;
+        edit.vSetText(before + run + QStringLiteral("\r\nkeyword"));
+        const QString shown =
+            QStringLiteral("Before \u00A0words\u2029") + run + QStringLiteral("\u2029keyword");
+        EXPECT_EQ(edit.szGetShownText(), shown);
+        QString pieces;
+        int longest = 0;
+        for (QTextBlock block = edit.document()->begin(); block.isValid(); block = block.next()) {
+            const QString text = block.text();
+            longest = std::max(longest, static_cast<int>(text.size()));
+            pieces += text;
+            EXPECT_FALSE(text.startsWith(QChar(0xDCB3))) << "a character is whole";
+        }
+        EXPECT_LE(longest, 1000);
+        EXPECT_EQ(pieces, QString(shown).remove(QChar::ParagraphSeparator));
+        // Selections count what is there, and are copied so.
+        const auto keyword = static_cast<int>(shown.size()) - 7;
+        for (const auto& [start, end] : {std::pair(keyword, keyword + 7), std::pair(0, keyword),
+                                         std::pair(20, 2019), std::pair(1, static_cast<int>(shown.size()))}) {
+            edit.vSetSelection(start, end);
+            EXPECT_EQ(edit.GetSelection(), std::pair(start, end));
+            edit.copy();
+            EXPECT_EQ(QApplication::clipboard()->mimeData()->text(),
+                      shown.mid(start, end - start)
+                          .replace(QChar::ParagraphSeparator, u'\n')
+                          .replace(QChar::Nbsp, u' '));
+        }
+    }
+}
+
+TEST(RichEdit, LeavesTextThatCanBeBrokenAsItIs) {
+    for (const QString& unit :
+         {QStringLiteral("word "), QStringLiteral("中文"), QStringLiteral("well-known "),
+          QStringLiteral("a-"), QStringLiteral("句。"), QStringLiteral("ab\t")}) {
+        MyRichEdit edit;
+        edit.vSetText(unit.repeated(5000));
+        EXPECT_EQ(edit.document()->blockCount(), 1) << unit.toStdString();
+    }
+}
+
 TEST(RichEdit, KeepsTheSelectionInSightWithoutTheKeyboard) {
     QWidget window;
     auto* edit = new MyRichEdit(&window);

@@ -3,6 +3,7 @@
 #include "tests/host/controls/sheet_fixture.h"
 
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QTest>
 
 #include <algorithm>
@@ -38,7 +39,11 @@ void SheetFixture::showAt(const QSize& size) {
 }
 
 void SheetFixture::showWithRows(int rows) {
-    showAt({600, (rows + 1) * 16 + 2 * sheet->frameWidth()});
+    showAt({600, (rows + 1) * line() + 2 * sheet->frameWidth()});
+}
+
+int SheetFixture::line() const {
+    return sheet->verticalHeader()->defaultSectionSize();
 }
 
 std::vector<int> SheetFixture::selection() const {

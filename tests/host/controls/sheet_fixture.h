@@ -21,7 +21,8 @@ public:
     mutable int highestAsked = -1;
 };
 
-// A window with a sheet of the headline columns (time 100, category 50, title 300), heights 16.
+// A window with a sheet of the headline columns (time 100, category 50, title 300), heights 16 or what the
+// font needs.
 class SheetFixture : public testing::Test {
 protected:
     SheetFixture();
@@ -29,6 +30,8 @@ protected:
     // Makes the sheet so high that exactly `rows` rows fit under its header, and shows it.
     void showWithRows(int rows);
     void showAt(const QSize& size);
+    // The height of its header and of each row.
+    int line() const;
     std::vector<int> selection() const;
 
     QWidget window;

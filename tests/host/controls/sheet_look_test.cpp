@@ -16,7 +16,8 @@ using SheetLook = SheetFixture;
 // The colour of the left edge of a row on screen, where no text is.
 QColor rowColour(CSuperSheetWnd& sheet, int rowOnScreen) {
     QCoreApplication::processEvents();
-    return sheet.viewport()->grab().toImage().pixelColor(1, rowOnScreen * 16 + 8);
+    const int height = sheet.verticalHeader()->defaultSectionSize();
+    return sheet.viewport()->grab().toImage().pixelColor(1, rowOnScreen * height + height / 2);
 }
 
 bool holds(const QImage& picture, const QColor& colour) {
@@ -42,12 +43,12 @@ public:
 
 TEST_F(SheetLook, HeightsAreExactAndGrowForTallFonts) {
     QFont font = sheet->font();
-    font.setPixelSize(12);
+    int small = 12;
+    for (font.setPixelSize(small); QFontMetrics(font).height() > 16; font.setPixelSize(small))
+        --small;
     sheet->vSetFont(font);
     sheet->vAddRows(3);
     showAt({600, 300});
-    const int small = QFontMetrics(font).height();
-    ASSERT_LE(small, 16);
     EXPECT_EQ(sheet->rowHeight(2), 16);
     EXPECT_EQ(sheet->horizontalHeader()->height(), 16);
     EXPECT_EQ(sheet->viewport()->height(), 300 - 16 - 2 * sheet->frameWidth());
@@ -56,7 +57,7 @@ TEST_F(SheetLook, HeightsAreExactAndGrowForTallFonts) {
     const int tall = QFontMetrics(font).height() + 2;
     EXPECT_EQ(sheet->rowHeight(2), tall);
     EXPECT_EQ(sheet->horizontalHeader()->height(), tall);
-    font.setPixelSize(12);
+    font.setPixelSize(small);
     sheet->vSetFont(font);
     EXPECT_EQ(sheet->rowHeight(2), 16);
 }
@@ -84,6 +85,16 @@ TEST_F(SheetLook, TheLastColumnStretchesButKeepsItsWidth) {
     static_cast<CSheetBuilder*>(sheet->model())->vSetRowCount(5);
     EXPECT_EQ(sheet->iGetColWidth(0), 200);  // a reset is no reason to lose them
     EXPECT_EQ(sheet->iGetColWidth(2), 700);
+}
+
+TEST_F(SheetLook, TheLastColumnStretchesOnlyWhereItMay) {
+    showAt({600, 300});
+    sheet->vStretchLastColumn(false);
+    EXPECT_EQ(sheet->iGetColWidth(2), 300);
+    showAt({800, 300});
+    EXPECT_EQ(sheet->iGetColWidth(2), 300);
+    sheet->vStretchLastColumn(true);
+    EXPECT_EQ(sheet->iGetColWidth(2), 800 - 2 * sheet->frameWidth() - 150);
 }
 
 TEST_F(SheetLook, TheUserDragsColumnsButNotHiddenOnes) {
@@ -185,9 +196,9 @@ TEST_F(SheetLook, ColoursReachTextHeaderAndFrameAndFollowThePaletteWhenUnset) {
     QImage picture = sheet->grab().toImage();
     EXPECT_EQ(picture.pixelColor(0, 100), QColor(4, 250, 4));
     EXPECT_EQ(picture.pixelColor(3, 4), QColor(2, 2, 2));
-    EXPECT_TRUE(holds(picture.copy(1, 1, 100, 15), QColor(250, 3, 3)));
-    EXPECT_TRUE(holds(picture.copy(1, 17, 100, 16), QColor(1, 1, 200)));
-    EXPECT_TRUE(holds(picture.copy(101, 17, 50, 16), QColor(Qt::red)));  // the cell's own
+    EXPECT_TRUE(holds(picture.copy(1, 1, 100, line() - 1), QColor(250, 3, 3)));
+    EXPECT_TRUE(holds(picture.copy(1, 1 + line(), 100, line()), QColor(1, 1, 200)));
+    EXPECT_TRUE(holds(picture.copy(101, 1 + line(), 50, line()), QColor(Qt::red)));  // the cell's own
     QPalette dark;
     dark.setColor(QPalette::Base, QColor(9, 9, 9));
     dark.setColor(QPalette::Button, QColor(8, 8, 8));

@@ -38,9 +38,9 @@ TEST_F(SheetRows, CountsThePageAndTheFirstVisibleRow) {
     sheet->vAddRows(100);
     const struct {
         int height, page;
-    } sizes[] = {{18 + 160, 10}, {18 + 175, 10}, {18 + 176, 11}, {18 + 15, 0}, {18 + 16, 1}};
+    } sizes[] = {{10 * line(), 10}, {11 * line() - 1, 10}, {11 * line(), 11}, {line() - 1, 0}, {line(), 1}};
     for (const auto& size : sizes) {
-        showAt({600, size.height});
+        showAt({600, line() + 2 * sheet->frameWidth() + size.height});
         EXPECT_EQ(sheet->iGetRowsPerPage(), size.page) << size.height;
         EXPECT_EQ(sheet->iGetFirstVisibleRow(), 0) << size.height;
     }
@@ -71,16 +71,16 @@ TEST_F(SheetRows, ScrollsNoFurtherThanNeeded) {
 TEST_F(SheetRows, FindsTheRowUnderAPoint) {
     showAt({600, 400});
     sheet->vAddRows(5);
-    const int top = sheet->frameWidth() + 16;
+    const int top = sheet->frameWidth() + line();
     const struct {
         QPoint point;
         int row;
     } places[] = {{{10, top - 1}, -1},
                   {{10, top}, 0},
-                  {{10, top + 15}, 0},
-                  {{10, top + 16}, 1},
-                  {{590, top + 5 * 16 - 1}, 4},
-                  {{10, top + 5 * 16}, -1},
+                  {{10, top + line() - 1}, 0},
+                  {{10, top + line()}, 1},
+                  {{590, top + 5 * line() - 1}, 4},
+                  {{10, top + 5 * line()}, -1},
                   {{-1, top}, -1},
                   {{10, -5}, -1},
                   {{10, 500}, -1}};
@@ -89,14 +89,14 @@ TEST_F(SheetRows, FindsTheRowUnderAPoint) {
     sheet->vAddRows(95);
     sheet->vAutoVerScrolling(99);
     const int first = sheet->iGetFirstVisibleRow();
-    EXPECT_EQ(sheet->iCalcRowNdx({10, top + 16}), first + 1);
+    EXPECT_EQ(sheet->iCalcRowNdx({10, top + line()}), first + 1);
 }
 
 TEST_F(SheetRows, SelectionIsAscendingHoweverItWasMade) {
     showWithRows(20);
     sheet->vAddRows(20);
     const auto click = [this](int row, Qt::KeyboardModifiers keys) {
-        QTest::mouseClick(sheet->viewport(), Qt::LeftButton, keys, {10, row * 16 + 8});
+        QTest::mouseClick(sheet->viewport(), Qt::LeftButton, keys, {10, row * line() + line() / 2});
     };
     click(12, Qt::NoModifier);
     click(15, Qt::ShiftModifier);

@@ -20,6 +20,9 @@ public:
     void send(const QByteArray& line) override { answers.append(line.trimmed()); }
 
     QByteArrayList answers;
+
+protected:
+    void heldChanged() override {}
 };
 
 QByteArray request(int id, const QByteArray& method) {
@@ -67,6 +70,16 @@ protected:
     QEventLoop dialog;
     int open = 0;
 };
+
+TEST_F(RequestQueueTest, AClientThatAsksFasterThanItIsAnsweredWaits) {
+    const QByteArray title(1'000'000, 'x');
+    for (int i = 1; i <= 5; ++i)
+        channel.type("{\"jsonrpc\":\"2.0\",\"id\":" + QByteArray::number(i) +
+                     ",\"method\":\"now\",\"params\":{\"title\":\"" + title + "\"}}\n");
+    EXPECT_TRUE(channel.isHeld());
+    waitForAnswers(5);
+    EXPECT_FALSE(channel.isHeld());
+}
 
 TEST_F(RequestQueueTest, AnswersStandInTheOrderOfTheRequests) {
     channel.type(request(1, "later") + "garbage\n" + request(2, "now") + request(3, "unknown") +

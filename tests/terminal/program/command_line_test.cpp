@@ -91,6 +91,32 @@ TEST_F(CommandLineTest, ExportWritesADayOrWhatASearchFinds) {
     }
 }
 
+TEST_F(CommandLineTest, ExportLeavesOutWhatHasNoStoryAndKeepsTitlesWhole) {
+    const QString title = u"Copper "_s + QString(120, u'x');
+    const auto run = [&](const QString& day, const QString& file) {
+        return runProgram(
+            {u"export"_s, u"--store"_s, store, u"--lang"_s, u"en"_s, u"--utf8"_s, u"--day"_s, day, file});
+    };
+    import({scratch.write(u"wire.jsonl"_s,
+                          ninjsItem(u"u:1"_s, u"Flash"_s, {}, u"2026-03-01T01:00:00Z"_s) + '\n' +
+                              ninjsItem(u"u:2"_s, u"Another flash"_s, {}, u"2026-03-02T02:00:00Z"_s) + '\n' +
+                              ninjsItem(u"u:3"_s, title, u"Body"_s, u"2026-03-02T03:00:00Z"_s) + '\n')});
+    const QString file = scratch.write(u"news.txt"_s, "what was here before");
+    const auto contents = [&] {
+        QFile written(file);
+        return written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
+    };
+    const ProgramOutcome nothing = run(u"20260301"_s, file);
+    EXPECT_EQ(nothing.status, 2);
+    EXPECT_TRUE(nothing.err.contains(u"Nothing was put out"_s)) << nothing.err.toStdString();
+    EXPECT_EQ(contents(), "what was here before");
+    const ProgramOutcome one = run(u"20260302"_s, file);
+    EXPECT_EQ(one.status, 0) << one.err.toStdString();
+    EXPECT_TRUE(one.err.contains(u"no story: 1"_s)) << one.err.toStdString();
+    EXPECT_EQ(contents().count('x'), 120);
+    EXPECT_FALSE(contents().contains("flash"));
+}
+
 TEST_F(CommandLineTest, SearchPrintsWhatHoldsTheKeywords) {
     const QByteArray lines =
         ninjsItem(u"u:1"_s, u"臺積電 gains 2.5%"_s, u"Copper"_s, u"2026-03-02T01:00:00Z"_s) + '\n' +
@@ -127,6 +153,13 @@ TEST_F(CommandLineTest, SearchPrintsWhatHoldsTheKeywords) {
     EXPECT_EQ(search({}).status, 2);
     EXPECT_EQ(search({u"x"_s, u"--symbol"_s, u"2330"_s}).status, 2);
     EXPECT_EQ(runProgram({u"search"_s, u"--store"_s, scratch.path(u"none"_s), u"x"_s}).status, 2);
+}
+
+TEST_F(CommandLineTest, WhatAConsoleWouldObeyIsWrittenOut) {
+    const QString file = scratch.write(u"bad\u001b[2J\u202e.json"_s, "nothing");
+    const ProgramOutcome outcome = import({file});
+    EXPECT_FALSE(outcome.err.contains(QChar(0x1b)) || outcome.err.contains(QChar(0x202e)));
+    EXPECT_TRUE(outcome.err.contains(u"bad\\u001b[2J\\u202e.json: "_s)) << outcome.err.toStdString();
 }
 
 TEST_F(CommandLineTest, ImportOfOldNewsNamesTheOptionThatShowsIt) {
@@ -207,6 +240,7 @@ TEST_F(CommandLineTest, HelpAndVersionGoToStandardOutput) {
         const ProgramOutcome help = runProgram(arguments + QStringList{u"--help"_s});
         EXPECT_EQ(help.status, 0);
         EXPECT_TRUE(help.out.contains(u"--store"_s) && help.out.contains(command)) << help.out.toStdString();
+        EXPECT_GT(help.out.count(u'\n'), 8) << help.out.toStdString();
         const ProgramOutcome version = runProgram(arguments + QStringList{u"--version"_s});
         EXPECT_EQ(version.status, 0);
         EXPECT_TRUE(version.out.startsWith(u"wirepane "_s)) << version.out.toStdString();

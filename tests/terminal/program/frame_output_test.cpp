@@ -38,13 +38,14 @@ protected:
             all += edit->toPlainText() + u'\n';
         return all;
     }
-    void publish(int number, const QString& title, const QString& category = {}) {
+    void publish(int number, const QString& title, const QString& category = {}, bool flash = false) {
         NewsItem item;
         item.category = category;
         item.identity = title;
         item.time = host_clock::now() + number;
         item.title = title;
-        item.story = u"All of "_s + title;
+        if (!flash)
+            item.story = u"All of "_s + title;
         EXPECT_TRUE(session->backEnd().takeIn(item));
     }
 };
@@ -57,10 +58,12 @@ TEST_F(FrameOutputTest, TheLatestHeadlineStandsInAWindowOfItsOwn) {
     EXPECT_TRUE(texts().contains(u"2026/03/02"_s)) << "the newest one so far";
     publish(1, u"Rates are cut"_s);
     EXPECT_TRUE(QTest::qWaitFor([this] { return texts().contains(u"All of Rates are cut"_s); }));
+    publish(2, u"Flash"_s, {}, true);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return texts().contains(u"This headline has no story."_s); }));
     session->setLanguage(u"zh-TW"_s);
     EXPECT_TRUE(QTest::qWaitFor([this] { return storyWindow()->windowTitle() != u"News Story"_s; }));
     storyWindow()->close();
-    publish(2, u"Rates are raised"_s);
+    publish(3, u"Rates are raised"_s);
     QCoreApplication::processEvents();
     EXPECT_FALSE(storyWindow()->isVisible());
     EXPECT_FALSE(texts().contains(u"raised"_s)) << "a closed window does not listen";

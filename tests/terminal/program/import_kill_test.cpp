@@ -64,7 +64,10 @@ protected:
 
     void checkStore() {
         const ProgramOutcome checked = runProgram({u"check"_s, u"--store"_s, store});
-        ASSERT_EQ(checked.status, 0) << checked.out.toStdString() << checked.err.toStdString();
+        // Killed before it had made its store, the program leaves an empty file, in which the next one makes
+        // it.
+        ASSERT_TRUE(checked.status == 0 || checked.err.contains(u"is empty"_s))
+            << checked.out.toStdString() << checked.err.toStdString();
     }
 
     Scratch scratch;

@@ -19,9 +19,12 @@ QString programFile() {
     return QStringLiteral(WIREPANE_PROGRAM);
 }
 
-ProgramOutcome runProgram(const QStringList& arguments) {
+ProgramOutcome runProgram(const QStringList& arguments, const QString& output) {
     QProcess process;
+    if (!output.isEmpty())
+        process.setStandardOutputFile(output);
     process.start(programFile(), arguments);
+    process.closeWriteChannel();
     if (!process.waitForFinished(longestRunMs)) {
         process.kill();
         process.waitForFinished();

@@ -17,8 +17,9 @@ struct ProgramOutcome {
     QString err;
 };
 
-// Runs the program to its end, without a display.
-ProgramOutcome runProgram(const QStringList& arguments);
+// Runs the program to its end, without a display. Standard output goes to the file `output`, where one is
+// named.
+ProgramOutcome runProgram(const QStringList& arguments, const QString& output = {});
 
 // A folder of its own for a test's files.
 class Scratch {

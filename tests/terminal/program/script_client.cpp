@@ -6,6 +6,7 @@
 
 #include <QJsonDocument>
 
+#include <csignal>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -70,6 +71,13 @@ int ScriptClient::errorCode(const QString& method, const QJsonValue& params) {
 
 int ScriptClient::endInput() {
     process.closeWriteChannel();
+    return process.waitForFinished(answerMs) && process.exitStatus() == QProcess::NormalExit
+               ? process.exitCode()
+               : -1;
+}
+
+int ScriptClient::end(int signal) {
+    ::kill(static_cast<pid_t>(process.processId()), signal);
     return process.waitForFinished(answerMs) && process.exitStatus() == QProcess::NormalExit
                ? process.exitCode()
                : -1;

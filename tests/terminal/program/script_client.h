@@ -28,6 +28,8 @@ public:
     QJsonObject read();
     // Ends the terminal's input; its exit status once it has ended.
     int endInput();
+    // Sends the terminal a signal; its exit status once it has ended, -1: it did not, or not by itself.
+    int end(int signal);
     // What the terminal has said on standard error.
     QString notes() { return QString::fromUtf8(process.readAllStandardError()); }
     // Ends the terminal at once, as a crash would.

@@ -3,7 +3,9 @@
 #include "host/contract/clock.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
+#include "terminal/automation/own_socket.h"
 #include "terminal/automation/user_input.h"
+#include "terminal/feed/feed_name.h"
 #include "terminal/session/frame_commands.h"
 #include "terminal/session/session.h"
 #include "tests/terminal/program/program_runner.h"
@@ -11,6 +13,9 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QLabel>
+#include <QStatusBar>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -63,6 +68,30 @@ TEST_F(UserTerminalTest, OpensAsItWasClosed) {
     EXPECT_EQ(session->settings().fontSize(), 10);
 }
 
+TEST_F(UserTerminalTest, ATerminalWhoseCommonFeedNameIsTakenOpensAndSaysSo) {
+    const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(scratch.path(u""_s)));
+    const QString path = socketPath(defaultFeedName).value();
+    const auto other = OwnSocket::listen(path);
+    ASSERT_TRUE(other) << other.error().toStdString();
+    SessionOptions options{scratch.path(u"news.wirepane"_s), scratch.path(u"config"_s), u"en"_s, false};
+    options.feedName = defaultFeedName;
+    const auto session = Session::open(options);
+    qputenv("XDG_RUNTIME_DIR", before);
+    ASSERT_TRUE(session) << session.error().toStdString();
+    EXPECT_EQ(session.value()->frame().notices(),
+              u"The local socket %1 cannot be opened: it is in use by another program."_s.arg(path));
+}
+
+// Run a second time where no font has Chinese.
+TEST_F(UserTerminalTest, SaysThatChineseCannotBeShown) {
+    const bool without = qEnvironmentVariableIsSet("WIREPANE_TEST_WITHOUT_CHINESE");
+    const auto session = open();
+    ASSERT_NE(session, nullptr);
+    EXPECT_EQ(session->frame().notices().contains(u"fonts-noto-cjk"_s), without)
+        << session->frame().notices().toStdString();
+}
+
 TEST_F(UserTerminalTest, ReadAsOfAnotherDayShowsThatDay) {
     const auto session = open();
     ASSERT_NE(session, nullptr);
@@ -71,6 +100,58 @@ TEST_F(UserTerminalTest, ReadAsOfAnotherDayShowsThatDay) {
     ASSERT_TRUE(session->readAsOf(moment(u"2026-02-27T10:00:00"_s)));
     ASSERT_EQ(session->workspace().views().size(), 1U);
     EXPECT_EQ(stateOf(*session)[u"pickedDate"_s].toInt(), 20260227);
+}
+
+TEST_F(UserTerminalTest, ReadingAsOfAMomentEndsThereAndGoesOnAsTheClockRuns) {
+    const auto session = open();
+    ASSERT_NE(session, nullptr);
+    const auto rows = [&] { return session->workspace().newest()->access->Sheet(0)->iGetRowCount(); };
+    const auto newest = [&] { return session->workspace().newest()->access->Keys(0, 0, 1).front().time; };
+    const auto clock = [&] {
+        QStringList shown;
+        for (const QLabel* label : session->frame().statusBar()->findChildren<QLabel*>()) {
+            if (label->text().startsWith(u"As of "_s))
+                shown.append(label->text());
+        }
+        return shown.join(u'|');
+    };
+    const auto isTold = [&] {
+        const QVariant notice = session->workspace().newest()->access->State()[u"notice"_s];
+        return notice.toString().contains(u"As of an earlier moment"_s);
+    };
+    const int whole = rows();
+    NewsItem live;
+    live.service = 1;
+    live.title = u"Ahead of the clock"_s;
+    live.identity = u"ahead"_s;
+    live.time = moment(u"2026-03-02T12:30:00"_s);
+    ASSERT_TRUE(session->backEnd().takeIn(live));
+    EXPECT_EQ(rows(), whole + 1) << "the clock that was set at the start does not hold live news back";
+
+    ASSERT_TRUE(session->readAsOf(moment(u"2026-03-02T10:00:00"_s)));
+    const int atTen = rows();
+    EXPECT_LT(atTen, whole);
+    EXPECT_LE(newest(), moment(u"2026-03-02T10:00:00"_s));
+    EXPECT_EQ(clock(), u"As of 2026/03/02 10:00"_s);
+    EXPECT_TRUE(isTold());
+    live.identity = u"meanwhile"_s;
+    ASSERT_TRUE(session->backEnd().takeIn(live));
+    EXPECT_EQ(rows(), atTen) << "somebody reads the past while the wire goes on";
+
+    host_clock::startAt(moment(u"2026-03-02T11:30:00"_s));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rows() > atTen && clock() == u"As of 2026/03/02 11:30"_s; }));
+    EXPECT_LE(newest(), moment(u"2026-03-02T11:30:00"_s) + 5);
+    host_clock::startAt(moment(u"2026-03-02T12:30:10"_s));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rows() == whole + 2; })) << rows() << " of " << whole + 2;
+    ASSERT_TRUE(session->readAsOf(QDateTime::currentSecsSinceEpoch()));
+    EXPECT_EQ(clock(), QString());
+    EXPECT_FALSE(isTold());
+    EXPECT_EQ(session->frame().notices(), QString());
+    live.identity = u"later"_s;
+    live.time = QDateTime::currentSecsSinceEpoch() + 3600;
+    ASSERT_TRUE(session->backEnd().takeIn(live));
+    EXPECT_TRUE(session->frame().notices().contains(u"is dated ahead"_s))
+        << session->frame().notices().toStdString();
 }
 
 TEST_F(UserTerminalTest, ADamagedSettingsFileDoesNotKeepTheTerminalShut) {
@@ -84,7 +165,12 @@ TEST_F(UserTerminalTest, ADamagedSettingsFileDoesNotKeepTheTerminalShut) {
 
 TEST(TourTest, LeavesAPictureOfEachSceneAndThePrintedAndSavedNews) {
     const Scratch scratch;
-    const ProgramOutcome tour = runProgram({u"--tour"_s, scratch.path(u"out"_s)});
+    const QStringList arguments{u"--tour"_s,   scratch.path(u"out"_s),
+                                u"--store"_s,  scratch.path(u"store"_s),
+                                u"--config"_s, scratch.path(u"config"_s)};
+    ASSERT_EQ(runProgram(arguments).status, 0);
+    // Again, over what the first one has left behind.
+    const ProgramOutcome tour = runProgram(arguments);
     ASSERT_EQ(tour.status, 0) << tour.err.toStdString();
     EXPECT_TRUE(tour.err.contains(scratch.path(u"out"_s))) << tour.err.toStdString();
     QFile pages(scratch.path(u"out/news.pdf"_s));

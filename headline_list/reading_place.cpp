@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "headline_list/reading_place.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+std::vector<HeadlineKey> keysOf(const std::vector<CHeadlineTable>& entries) {
+    std::vector<HeadlineKey> keys;
+    for (const CHeadlineTable& entry : entries)
+        keys.push_back(KeyOf(entry));
+    return keys;
+}
+
+}  // namespace
+
+ReadingPlace::ReadingPlace(const HeadlineTable& table, const CSuperSheetWnd& sheet) {
+    const int first = sheet.iGetFirstVisibleRow();
+    if (first > 0)
+        onScreen = keysOf(table.rows(first, sheet.iGetRowsPerPage() + 1));
+    if (const int row = sheet.cptGetFocusNdx().y(); row >= 0 && row < table.size())
+        current = KeyOf(table.at(row));
+    std::vector<int> rows;
+    sheet.vGetAllSelectionNdx(rows);
+    allSelected = rows.size() > 1 && static_cast<int>(rows.size()) == table.size();
+    for (const int row : rows) {
+        if (allSelected || selected.size() == mostSelected || row >= table.size())
+            break;
+        selected.push_back(KeyOf(table.at(row)));
+    }
+}
+
+void ReadingPlace::vRestore(const HeadlineTable& table, CSuperSheetWnd& sheet) const {
+    std::vector<int> rows;
+    if (allSelected) {
+        rows.resize(static_cast<std::size_t>(table.size()));
+        std::iota(rows.begin(), rows.end(), 0);
+    }
+    for (const HeadlineKey& key : selected) {
+        if (const int row = table.rowOf(key); row >= 0)
+            rows.push_back(row);
+    }
+    sheet.vSelectRows(rows, current ? table.rowOf(*current) : -1);
+    for (std::size_t i = 0; i < onScreen.size(); ++i) {
+        const int row = table.rowOf(onScreen[i]);
+        if (row < 0)
+            continue;
+        sheet.vSetFirstVisibleRow(std::max(0, row - static_cast<int>(i)));
+        return;
+    }
+    sheet.vSetFirstVisibleRow(0);
+}

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/notice_line.h"
+
+#include "host/controls/window_id.h"
+#include "news_view/control_ids.h"
+
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+#include <algorithm>
+
+NoticeButton::NoticeButton(QWidget* parent) : SButton(parent) {
+    setCursor(Qt::PointingHandCursor);
+}
+
+void NoticeButton::vSetNotice(const QString& whole, const QString& shown) {
+    if (whole == szGetText() && shown == shownText)
+        return;
+    vSetText(whole);
+    setToolTip(whole.toHtmlEscaped());
+    shownText = shown;
+    update();
+}
+
+void NoticeButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QFont underlined = font();
+    underlined.setUnderline(true);
+    painter.setFont(underlined);
+    painter.setPen(palette().color(QPalette::ButtonText));
+    painter.drawText(rect(), Qt::AlignVCenter | Qt::TextSingleLine, shownText);
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.backgroundColor = palette().color(QPalette::Window);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+NoticeLine::NoticeLine(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+}
+
+void NoticeLine::vSetColours(const QColor& plain, const QColor& late) {
+    plainColour = plain;
+    lateColour = late;
+}
+
+void NoticeLine::vShow(const ListNotices& notices, const QRect& area, QWidget* keyboardNext) {
+    setGeometry(area);
+    placed = PlaceNotices(notices, area.width(), fontMetrics());
+    for (const int command : ids::noticeCommands) {
+        auto* button = qobject_cast<NoticeButton*>(GetDlgItem(parentWidget(), command));
+        if (button == nullptr)
+            continue;
+        const auto shown = std::find_if(placed.begin(), placed.end(), [command](const PlacedNotice& notice) {
+            return CommandOf(notice.kind) == command;
+        });
+        if (shown == placed.end() && button->hasFocus() && keyboardNext != nullptr)
+            keyboardNext->setFocus();
+        button->setVisible(shown != placed.end());
+        if (shown == placed.end())
+            continue;
+        QPalette colours = button->palette();
+        colours.setColor(QPalette::ButtonText, plainColour);
+        button->setPalette(colours);
+        button->setFont(font());
+        button->setGeometry(area.left() + shown->left, area.top(), shown->width, area.height());
+        button->vSetNotice(notices.Text(shown->kind), shown->text);
+    }
+    // What a screen reader reads; the tool tip tells what had no room.
+    setText(notices.Text());
+    setToolTip(notices.Text().toHtmlEscaped());
+    setVisible(!placed.empty());
+    update();
+}
+
+void NoticeLine::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setFont(font());
+    for (const PlacedNotice& notice : placed) {
+        if (CommandOf(notice.kind) != 0)
+            continue;
+        painter.setPen(notice.kind == NoticeKind::Offline ? lateColour : plainColour);
+        painter.drawText(QRect(notice.left, 0, notice.width, height()), Qt::AlignVCenter | Qt::TextSingleLine,
+                         notice.text);
+    }
+}

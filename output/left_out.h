@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/views/news_output.h"
+
+#include <cstddef>
+
+class BKQuoteInterface;
+
+// What the user is told of news without a story.
+
+// Nothing was put out, as there was no story among what was to be; a file of that name stays as it is.
+NewsOutcome NothingToPutOut(BKQuoteInterface& backEnd);
+// Adds how many pieces of news were left out, where any were and the others were put out.
+void TellLeftOut(BKQuoteInterface& backEnd, std::size_t leftOut, NewsOutcome& outcome);

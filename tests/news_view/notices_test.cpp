@@ -1,0 +1,333 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// What the control row tells of a list, in which order, and what it offers to do about it.
+#include "host/controls/s_button.h"
+#include "news_view/control_ids.h"
+#include "news_view/list_notices.h"
+#include "search/adv_search_dlg.h"
+#include "search/news_key_search_dlg.h"
+#include "search/search_ids.h"
+#include "search/warn_term_dlg.h"
+#include "tests/news_view/view_fixture.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString itemsKey = u"WarningSearchItems"_s;
+const QString recentKey = u"!RVNEWS_NEWSSEARCH_NEARTENSEARCHINFO"_s;
+const QString keySetsKey = u"!RVNEWS_NEWSKEY_KEYWORDSETTING"_s;
+
+CSearch term(const QString& word, std::vector<CSymbolInfo> symbols = {}) {
+    CSearch search;
+    search.keywords = {word};
+    search.method = 1;
+    search.symbols = std::move(symbols);
+    return search;
+}
+
+class Notices : public NewsViewTest {
+protected:
+    Notices() {
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_NOTICE_NARROWED"_s] = u"only %1"_s;
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_NOTICE_FILTERED"_s] = u"filtered"_s;
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED"_s] = u"unfiltered"_s;
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_NOTICE_BEFORE_BREAK"_s] = u"of %1"_s;
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_OFFLINE_SINCE"_s] = u"offline since"_s;
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS"_s] = u""_s;
+        backEnd.add(1, localTime(2026, 3, 2, 9, 1), 1, u"Gold of the morning"_s, 1);
+        backEnd.add(1, localTime(2026, 3, 2, 9, 2), 2, u"Tin of the morning"_s, 1);
+        backEnd.add(2, localTime(2026, 3, 2, 9, 3), 1, u"Gold again"_s, 1);
+        backEnd.add(2, localTime(2026, 3, 2, 9, 4), 2, u"Tin again"_s, 1);
+    }
+
+    void openMode(const QByteArray& switches, int mode, QMap<QString, QVariant> stored = {}) {
+        writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\n" + switches);
+        stored[u"Sheet0ServiceCheck1"_s] = true;
+        open(stored);
+        frame.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+        view->SwitchFunction(mode);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+        backEnd.asked.clear();
+    }
+    // The relation list with the ticked key set GOLD, of service 1.
+    void openRelation(QMap<QString, QVariant> stored = {}, const QString& word = u"GOLD"_s) {
+        stored[keySetsKey] = QStringList{u"C:1 T:-999 K:"_s + word};
+        openMode("ShowNormalSearch=1\n", 0, stored);
+        view->SwitchFunction(4);
+        runDialog<CNewsKeySearchDlg>(ids::relationSearchButton, [](CNewsKeySearchDlg& dialog) {
+            press(dialog, search_ids::allKeySets);
+            press(dialog, search_ids::ok);
+        });
+    }
+    void quickSearch(const QString& text) {
+        auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit));
+        edit->setText(text);
+        QTest::keyClick(edit, Qt::Key_Return);
+    }
+    void link(const QString& code) { view->ChangeSymbol(view.get(), 0, 16, code, {}); }
+    // What was searched for in the only ticked service, without what is the same each time.
+    QStringList sent() {
+        QStringList searches = backEnd.asked.filter(u"search 1 3 0/1 "_s);
+        backEnd.asked.clear();
+        return searches.replaceInStrings(u"search 1 3 0/1 "_s, QString());
+    }
+    // As it stands there, which is also what scripts read.
+    QString notice() const {
+        const auto* line = qobject_cast<QLabel*>(GetDlgItem(view.get(), ids::notice));
+        const QString text = line->isVisible() ? line->text() : QString();
+        EXPECT_EQ(state(u"notice"_s).toString(), text);
+        return text;
+    }
+    SButton& button(int id) const { return *qobject_cast<SButton*>(GetDlgItem(view.get(), id)); }
+    void click(int id) const {
+        ASSERT_TRUE(button(id).isVisible()) << id;
+        QTest::mouseClick(&button(id), Qt::LeftButton);
+    }
+};
+
+}  // namespace
+
+TEST(NoticeOrder, TheFirstOnesHaveTheRoom) {
+    const QFontMetrics metrics{QFont()};
+    const QString longText(40, u'w');
+    ListNotices notices;
+    notices.vTell(NoticeKind::Hint, u"hint"_s);
+    notices.vTell(NoticeKind::Filtered, longText);
+    notices.vTell(NoticeKind::Offline, u"offline"_s);
+    notices.vTell(NoticeKind::Narrowed, {});
+    EXPECT_EQ(notices.Text(), u"offline · "_s + longText + u" · hint"_s);
+
+    const auto placed = [&](int room) {
+        QStringList texts;
+        int end = 0;
+        for (const PlacedNotice& notice : PlaceNotices(notices, room, metrics)) {
+            EXPECT_GE(notice.left, end) << "one behind the other";
+            end = notice.left + notice.width;
+            EXPECT_LE(end, room);
+            texts.append(notice.text);
+        }
+        return texts;
+    };
+    const int whole = metrics.horizontalAdvance(notices.Text()) + 3;
+    EXPECT_EQ(placed(whole), (QStringList{u"offline"_s, longText, u"hint"_s}));
+    const QStringList cut = placed(whole / 2);
+    ASSERT_EQ(cut.size(), 2) << "nothing behind what is cut";
+    EXPECT_TRUE(cut[1].endsWith(u'…'));
+    EXPECT_EQ(placed(metrics.horizontalAdvance(u"offline · ww"_s)), QStringList{u"offline"_s}) << "no crumbs";
+    EXPECT_EQ(placed(0), QStringList());
+    notices.vTell(NoticeKind::Offline, {});
+    EXPECT_EQ(notices.Text(), longText + u" · hint"_s);
+}
+
+TEST_F(Notices, ANarrowedSearchSaysSoUntilAClickOrAnotherTextEndsIt) {
+    openMode({}, 3);
+    quickSearch(u"gold"_s);
+    EXPECT_EQ(notice(), QString());
+    EXPECT_FALSE(button(ids::endNarrowing).isVisible());
+    link(u"2330"_s);
+    EXPECT_EQ(notice(), u"only 2330 Aster Chips"_s);
+    EXPECT_EQ(button(ids::endNarrowing).accessibleName(), u"only 2330 Aster Chips"_s);
+    const QVariantMap told = state(u"notices"_s).toList().value(0).toMap();
+    EXPECT_EQ(told[u"text"_s].toString(), u"only 2330 Aster Chips"_s);
+    EXPECT_EQ(told[u"command"_s].toInt(), ids::endNarrowing);
+    link(u"6214"_s);
+    EXPECT_EQ(notice(), u"only 6214 Lantern Foods"_s) << "a further symbol takes its place";
+    quickSearch(u"gold"_s);
+    EXPECT_EQ(sent(), (QStringList{u"gold"_s, u"gold @16 2330"_s, u"gold @16 6214"_s, u"gold @16 6214"_s}));
+    click(ids::endNarrowing);
+    EXPECT_EQ(sent(), QStringList{u"gold"_s});
+    EXPECT_EQ(notice(), QString());
+    EXPECT_FALSE(button(ids::endNarrowing).isVisible());
+
+    link(u"2330"_s);
+    button(ids::endNarrowing).setFocus();
+    QTest::keyClick(&button(ids::endNarrowing), Qt::Key_Return);
+    EXPECT_EQ(sent(), (QStringList{u"gold @16 2330"_s, u"gold"_s})) << "by the keyboard, too";
+    EXPECT_EQ(view->focusWidget(), view->Sheet(3)) << "which goes to the list";
+
+    link(u"6214"_s);
+    quickSearch(u"oil"_s);
+    EXPECT_EQ(sent(), (QStringList{u"gold @16 6214"_s, u"oil"_s})) << "another text is a new search";
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_F(Notices, TheMenuOffersWhatANoticeWithoutRoomDoes) {
+    openMode({}, 3);
+    quickSearch(u"gold"_s);
+    link(u"2330"_s);
+    view->resize(200, 300);
+    EXPECT_FALSE(button(ids::endNarrowing).isVisible());
+    view->OnContextMenu(view->mapToGlobal(QPoint(20, view->height() / 2)));
+    const auto actions = view->findChildren<QAction*>();
+    const auto item = std::find_if(actions.begin(), actions.end(),
+                                   [](const QAction* action) { return action->data() == ids::endNarrowing; });
+    ASSERT_NE(item, actions.end());
+    EXPECT_EQ((*item)->text(), u"only 2330 Aster Chips"_s);
+    sent();
+    (*item)->trigger();
+    EXPECT_EQ(sent(), QStringList{u"gold"_s});
+}
+
+TEST_F(Notices, TheNarrowingOfAWarningTermStaysWithIt) {
+    const QStringList kept{term(u"gold"_s, {{16, u"2330"_s}}).GetString()};
+    openMode("ShowWarningSearch=1\n", 6,
+             {{itemsKey, kept}, {recentKey, kept}, {u"WarningSearchItemOrder"_s, 1}});
+    view->OnDealsSearch();
+    EXPECT_EQ(sent(), QStringList{u"gold"_s}) << "an item that an older version has kept narrowed";
+    link(u"2330"_s);
+    EXPECT_EQ(notice(), u"only 2330 Aster Chips"_s);
+    link(u"6214"_s);
+    EXPECT_EQ(notice(), u"only 2330 Aster Chips"_s) << "a narrowed warning term follows no other symbol";
+    runDialog<CWarnTermDlg>(ids::warningSearchButton, [](CWarnTermDlg& dialog) { dialog.reject(); });
+    view->OnDealsSearch();
+    EXPECT_EQ(sent(), (QStringList{u"gold @16 2330"_s, u"gold @16 2330"_s, u"gold @16 2330"_s}));
+
+    view->SwitchFunction(3);
+    runDialog<CAdvSearchDlg>(ids::dealsSearchButton, [](CAdvSearchDlg& dialog) {
+        qobject_cast<QLineEdit*>(GetDlgItem(&dialog, search_ids::keywordEdit))->setText(u"oil"_s);
+        press(dialog, search_ids::addTyped);
+        press(dialog, search_ids::ok);
+    });
+    EXPECT_EQ(sent(), QStringList{u"gold|oil"_s});
+    EXPECT_EQ(notice(), QString());
+    view->SaveViewInfo(&settings, u"Layout"_s, 0, 0);
+    const QStringList stored =
+        settings.values[itemsKey].toStringList() + settings.values[recentKey].toStringList();
+    EXPECT_EQ(stored.size(), 3);
+    EXPECT_EQ(stored.filter(u"2330"_s), QStringList());
+
+    view->SwitchFunction(6);
+    EXPECT_EQ(notice(), u"only 2330 Aster Chips"_s);
+    click(ids::endNarrowing);
+    EXPECT_EQ(sent(), QStringList{u"gold"_s});
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_F(Notices, WarningTermsStandFastWhereTheSettingsSaySo) {
+    openMode("ShowWarningSearch=1\n", 6,
+             {{itemsKey, QStringList{term(u"gold"_s).GetString()}},
+              {u"WarningSearchItemOrder"_s, 1},
+              {u"WarningTermsStandFast"_s, true}});
+    view->OnDealsSearch();
+    sent();
+    link(u"2330"_s);
+    EXPECT_EQ(sent(), QStringList());
+    EXPECT_EQ(notice(), QString());
+    view->SwitchFunction(3);
+    quickSearch(u"gold"_s);
+    link(u"6214"_s);
+    EXPECT_EQ(sent(), (QStringList{u"gold"_s, u"gold @16 6214"_s})) << "the search of the same words does";
+    view->SwitchFunction(6);
+    view->OnDealsSearch();
+    EXPECT_EQ(sent(), QStringList{u"gold"_s});
+}
+
+TEST_F(Notices, AListReadUnderAnotherListsFilterSaysSoAndShowsAll) {
+    openRelation({{u"CategoryID"_s, u"1"_s}});
+    view->SwitchFunction(1);
+    view->SwitchFunction(4);
+    view->OnCommand(ids::firstServiceCommand + 1);
+    EXPECT_EQ(titles(4), (QStringList{u"Gold again"_s, u"Gold of the morning"_s}));
+    EXPECT_EQ(notice(), QString()) << "its own filter is what it is for";
+    const QStringList all{u"Tin again"_s, u"Gold again"_s, u"Tin of the morning"_s, u"Gold of the morning"_s};
+    view->SwitchFunction(1);
+    EXPECT_EQ(notice(), u"filtered"_s);
+    view->OnSelchangeComboIndex();
+    EXPECT_EQ(notice(), QString()) << "the user has chosen a category anew";
+    view->SwitchFunction(4);
+    view->OnCommand(ids::firstServiceCommand + 2);
+    for (const int list : {0, 1}) {
+        view->SwitchFunction(list);
+        EXPECT_EQ(titles(list), titles(4)) << list;
+        EXPECT_EQ(notice(), u"filtered"_s) << list;
+        click(ids::readUnfiltered);
+        EXPECT_EQ(titles(list), all) << list;
+        EXPECT_EQ(notice(), QString()) << list;
+    }
+    view->SwitchFunction(4);
+    view->OnCommand(ids::firstServiceCommand + 2);
+    view->SwitchFunction(0);
+    EXPECT_EQ(notice(), u"filtered"_s);
+    const CHeadlineTableInfo sentAgain{1, 0, u"20260302"_s};
+    view->vRecvAllHeadlineTableRecovery(&sentAgain);
+    EXPECT_EQ(notice(), QString()) << "all of it was sent again";
+    view->OnCommand(ids::firstServiceCommand + 1);
+    view->OnCommand(ids::firstServiceCommand + 1);
+    EXPECT_EQ(notice(), QString());
+    view->SwitchFunction(4);
+    EXPECT_EQ(titles(4), all);
+    EXPECT_EQ(notice(), u"unfiltered"_s);
+    click(ids::readUnfiltered);
+    EXPECT_EQ(titles(4), (QStringList{u"Gold again"_s, u"Gold of the morning"_s}));
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_F(Notices, AFilteredListIsReadAnewWhenItIsShownWhereTheSettingsSaySo) {
+    openRelation({{u"RebuildFilteredLists"_s, true}, {u"NewsShowType"_s, 1}});
+    view->OnCommand(ids::firstServiceCommand + 1);
+    EXPECT_EQ(titles(0), titles(4)) << "not before it is shown";
+    view->SwitchFunction(0);
+    EXPECT_EQ(titles(0).size(), 4);
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_F(Notices, KeySetsMatchInAnyCaseWhereTheSettingsSaySo) {
+    openRelation({}, u"gold"_s);
+    EXPECT_EQ(titles(4), QStringList());
+    view.reset();
+    openRelation({{u"KeySetsInAnyCase"_s, true}}, u"gold"_s);
+    EXPECT_EQ(titles(4), QStringList{u"Gold of the morning"_s});
+}
+
+TEST_F(Notices, WhatWasFoundBeforeABreakSaysFromWhenItIs) {
+    openMode("ShowWarningSearch=1\n", 3,
+             {{itemsKey, QStringList{term(u"tin"_s).GetString()}}, {u"WarningSearchItemOrder"_s, 1}});
+    const auto breakOff = [this] {
+        view->vConnectionChanged(false);
+        view->vConnectionChanged(true);
+    };
+    breakOff();
+    quickSearch(u"gold"_s);
+    view->SwitchFunction(6);
+    EXPECT_EQ(notice(), QString()) << "nothing was searched for";
+    view->OnDealsSearch();
+    EXPECT_EQ(notice(), QString()) << "searched since";
+    host_clock::startAt(localTime(2026, 3, 2, 10, 0));
+    view->vConnectionChanged(false);
+    EXPECT_EQ(notice(), u"offline since 10:00"_s);
+    view->vConnectionChanged(true);
+    for (const auto& [list, word] : {std::pair{6, u"tin"_s}, std::pair{3, u"gold"_s}}) {
+        view->SwitchFunction(list);
+        EXPECT_EQ(notice(), u"of 03/02 09:30"_s) << list;
+        sent();
+        click(ids::searchAgain);
+        EXPECT_EQ(sent(), QStringList{word});
+        EXPECT_EQ(notice(), QString()) << list;
+    }
+    breakOff();
+    view->SwitchFunction(0);
+    EXPECT_EQ(notice(), QString()) << "another list is up to date";
+}
+
+TEST_F(Notices, AreShownAfterAVisitToSymbolNewsWithoutSymbols) {
+    backEnd.symbols.clear();
+    openMode({}, 2);
+    EXPECT_EQ(state(u"dataState"_s).toInt(), 1);
+    for (const int mode : {2, 0}) {
+        view->SwitchFunction(mode);
+        const auto* line = qobject_cast<QLabel*>(GetDlgItem(view.get(), ids::notice));
+        const QImage before = view->grab(line->geometry()).toImage();
+        view->vConnectionChanged(false);
+        EXPECT_EQ(line->text(), u"offline since 09:30"_s) << "as a screen reader reads it";
+        EXPECT_TRUE(line->isVisible());
+        EXPECT_NE(view->grab(line->geometry()).toImage(), before) << "in mode " << mode;
+        view->vConnectionChanged(true);
+    }
+}
