@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/search/news_search.h"
 
-#include "backend/search/search_words.h"
-#include "backend/store/database.h"
+#include "backend/database/database.h"
+#include "backend/words/search_words.h"
 
 namespace wirepane {
 

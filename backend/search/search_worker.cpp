@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/search/search_worker.h"
 
+#include "backend/database/database.h"
 #include "backend/search/news_search.h"
-#include "backend/store/database.h"
 
 #include <chrono>
 #include <utility>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/category_book.h"
 
-#include "backend/store/database.h"
+#include "backend/database/database.h"
 #include "backend/store/schema.h"
 
 using namespace Qt::StringLiterals;

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/database/statement.h"
 #include "backend/item_sink.h"
-#include "backend/store/statement.h"
 
 #include <QHash>
 #include <QString>

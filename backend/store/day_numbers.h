@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "backend/store/statement.h"
+#include "backend/database/statement.h"
 
 #include <cstdint>
 #include <map>

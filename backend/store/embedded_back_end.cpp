@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/embedded_back_end.h"
 
-#include "backend/store/failure_sentence.h"
+#include "backend/database/failure_sentence.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/database/database.h"
+#include "backend/database/store_sync.h"
 #include "backend/search/search_desk.h"
+#include "backend/search/search_rules.h"
 #include "backend/store/answer_desk.h"
 #include "backend/store/arrival_log.h"
-#include "backend/store/database.h"
 #include "backend/store/day_index.h"
 #include "backend/store/headline_cache.h"
 #include "backend/store/later_news.h"
@@ -14,13 +16,11 @@
 #include "backend/store/quote_book.h"
 #include "backend/store/quote_desk.h"
 #include "backend/store/request_log.h"
-#include "backend/store/search_rules.h"
-#include "backend/store/simplified_chinese.h"
 #include "backend/store/store_reader.h"
-#include "backend/store/store_sync.h"
 #include "backend/store/store_writer.h"
 #include "backend/store/symbol_table.h"
 #include "backend/store/table_announcements.h"
+#include "backend/words/simplified_chinese.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/news_positions.h"
 #include "host/contract/reading_moment.h"

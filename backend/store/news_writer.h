@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/database/database.h"
+#include "backend/database/statement.h"
 #include "backend/news_item.h"
-#include "backend/store/database.h"
-#include "backend/store/statement.h"
 #include "host/contract/records.h"
 
 #include <cstdint>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/database/statement.h"
 #include "backend/news_item.h"
-#include "backend/store/statement.h"
 #include "host/contract/records.h"
 
 #include <cstdint>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/store_checker.h"
 
+#include "backend/database/statement.h"
+#include "backend/search/search_index_check.h"
 #include "backend/store/schema.h"
-#include "backend/store/search_index_check.h"
-#include "backend/store/statement.h"
 #include "backend/store/store_file.h"
 
 #include <array>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/store_defaults.h"
 
+#include "backend/database/statement.h"
 #include "backend/store/schema.h"
-#include "backend/store/statement.h"
 #include "host/contract/fixed_services.h"
 
 #include <array>

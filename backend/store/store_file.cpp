@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/store_file.h"
 
-#include "backend/search/character_folding.h"
-#include "backend/store/migrations.h"
+#include "backend/database/migrations.h"
+#include "backend/database/transaction.h"
 #include "backend/store/schema.h"
 #include "backend/store/store_defaults.h"
-#include "backend/store/transaction.h"
+#include "backend/words/character_folding.h"
 
 #include <QDir>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "backend/store/database.h"
-#include "backend/store/search_rules.h"
+#include "backend/database/database.h"
+#include "backend/search/search_rules.h"
 
 #include <chrono>
 #include <optional>

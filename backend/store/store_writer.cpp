@@ -3,7 +3,7 @@
 #include "backend/store/store_writer.h"
 
 #include "backend/clean_text.h"
-#include "backend/store/failure_sentence.h"
+#include "backend/database/failure_sentence.h"
 #include "backend/store/item_check.h"
 
 using namespace Qt::StringLiterals;

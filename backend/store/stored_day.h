@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/database/database.h"
+#include "backend/database/statement.h"
 #include "backend/news_item.h"
 #include "backend/result.h"
-#include "backend/store/database.h"
-#include "backend/store/statement.h"
 
 #include <QDate>
 #include <QString>

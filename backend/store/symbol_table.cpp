@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/symbol_table.h"
 
-#include "backend/store/database.h"
-#include "backend/store/statement.h"
+#include "backend/database/database.h"
+#include "backend/database/statement.h"
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/database/database.h"
 #include "backend/news_item.h"
-#include "backend/store/database.h"
 
 #include <QByteArray>
 

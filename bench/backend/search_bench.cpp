@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 // What the search costs: taking in with its index, beside the library's own splitter of words; and searches
 // in a large store, beside the bare query of the index.
+#include "backend/database/statement.h"
 #include "backend/search/search_desk.h"
-#include "backend/store/statement.h"
 #include "backend/store/store_writer.h"
 #include "bench/backend/search_store.h"
 #include "bench/backend/store_timing.h"

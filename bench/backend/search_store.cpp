@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/backend/search_store.h"
 
-#include "backend/store/statement.h"
+#include "backend/database/statement.h"
 #include "bench/backend/store_timing.h"
 
 #include <map>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "backend/database/database.h"
 #include "backend/search/news_search.h"
-#include "backend/search/search_words.h"
-#include "backend/store/database.h"
 #include "backend/store/item_check.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_writer.h"
+#include "backend/words/search_words.h"
 #include "fuzz/support/fuzz_input.h"
 
 #include <QTemporaryDir>

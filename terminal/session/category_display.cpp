@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/category_display.h"
 
+#include "backend/database/statement.h"
 #include "backend/store/embedded_back_end.h"
-#include "backend/store/statement.h"
 #include "host/contract/fixed_services.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/endurance/store_truth.h"
 
-#include "backend/store/statement.h"
+#include "backend/database/statement.h"
 
 #include <QDateTime>
 #include <QStringList>

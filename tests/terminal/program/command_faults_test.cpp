@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What commands say and return where their output or their store cannot be used.
-#include "backend/store/database.h"
+#include "backend/database/database.h"
 #include "tests/terminal/program/program_runner.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/store/store_sync.h"
+#include "backend/database/store_sync.h"
 
 #include <sqlite3.h>
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/search/search_tokenizer.h"
+#include "backend/words/search_tokenizer.h"
 
-#include "backend/search/search_words.h"
+#include "backend/words/search_words.h"
 
 #include <sqlite3.h>
 

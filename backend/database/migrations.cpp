@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/store/migrations.h"
+#include "backend/database/migrations.h"
 
 namespace wirepane {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "backend/store/database.h"
+#include "backend/database/database.h"
 
 #include <QObject>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/store/failure_sentence.h"
+#include "backend/database/failure_sentence.h"
 
 #include <QDir>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/store/simplified_chinese.h"
+#include "backend/words/simplified_chinese.h"
 
 #include <cstdint>
 #include <opencc.h>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/store/statement.h"
+#include "backend/database/statement.h"
 
-#include "backend/store/database.h"
+#include "backend/database/database.h"
 
 #include <sqlite3.h>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/store/search_index_check.h"
+#include "backend/search/search_index_check.h"
 
-#include "backend/search/search_tokenizer.h"
-#include "backend/store/statement.h"
+#include "backend/database/statement.h"
+#include "backend/words/search_tokenizer.h"
 
 #include <QByteArrayView>
 #include <QHash>

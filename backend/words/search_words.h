@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "backend/search/character_folding.h"
+#include "backend/words/character_folding.h"
 
 #include <QByteArrayView>
 #include <QString>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/store/search_rules.h"
+#include "backend/search/search_rules.h"
 
-#include "backend/search/character_folding.h"
-#include "backend/store/statement.h"
+#include "backend/database/statement.h"
+#include "backend/words/character_folding.h"
 
 #include <algorithm>
 

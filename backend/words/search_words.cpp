@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/search/search_words.h"
+#include "backend/words/search_words.h"
 
 #include <QStringDecoder>
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/search/character_folding.h"
+#include "backend/words/character_folding.h"
 
-#include "backend/store/simplified_chinese.h"
+#include "backend/words/simplified_chinese.h"
 
 #include <QChar>
 #include <QString>

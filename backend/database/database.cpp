@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/store/database.h"
+#include "backend/database/database.h"
 
-#include "backend/search/search_tokenizer.h"
-#include "backend/store/failure_sentence.h"
-#include "backend/store/statement.h"
+#include "backend/database/failure_sentence.h"
+#include "backend/database/statement.h"
+#include "backend/words/search_tokenizer.h"
 
 #include <QDir>
 #include <QFile>
