@@ -5,6 +5,7 @@
 #include "backend/database/migrations.h"
 #include "backend/database/transaction.h"
 #include "backend/store/schema.h"
+#include "backend/store/statement.h"
 #include "backend/store/store_defaults.h"
 #include "backend/words/character_folding.h"
 
@@ -18,9 +19,48 @@ namespace wirepane {
 
 namespace {
 
-bool setUp(Database& database) {
+// What a file says of itself.
+struct StoreMark {
+    std::int64_t version = 0;
+    std::int64_t application = 0;
+    std::int64_t objects = 0;
+
+    bool isEmpty() const { return objects == 0 && version == 0; }
+};
+
+// All of one moment, since another program may be making the store. Nothing on failure, which the database
+// then holds.
+std::optional<StoreMark> markOf(Database& database) {
+    Statement statement(database,
+                        "SELECT (SELECT user_version FROM pragma_user_version),"
+                        "(SELECT application_id FROM pragma_application_id),"
+                        "(SELECT count(*) FROM sqlite_schema)");
+    Query query(statement);
+    if (!query.next())
+        return std::nullopt;
+    return StoreMark{query.number(0), query.number(1), query.number(2)};
+}
+
+bool isBusy(const Database& database) {
+    return (database.failureCode() & 0xff) == SQLITE_BUSY;
+}
+
+// Programs that start together on a new store all want this at once. Who comes second is refused without any
+// waiting, and so waits here until the other has done it.
+bool useLog(Database& database) {
+    constexpr int mostTries = 100;
     QString mode;
-    return database.readText("PRAGMA journal_mode = WAL", mode) &&
+    for (int i = 0; i < mostTries; ++i) {
+        if (database.readText("PRAGMA journal_mode = WAL", mode))
+            return true;
+        if (!isBusy(database) || !database.begin() || !database.execute("ROLLBACK"))
+            return false;
+    }
+    return false;
+}
+
+bool setUp(Database& database) {
+    return useLog(database) &&
            database.execute(
                "PRAGMA synchronous = FULL; PRAGMA foreign_keys = ON; PRAGMA temp_store = MEMORY;"
                "PRAGMA cache_size = -16384; PRAGMA journal_size_limit = "
@@ -45,10 +85,18 @@ bool bringUpToDate(Database& database, const IndexProgress& onIndexing) {
            transaction.commit();
 }
 
-// Whether nothing has been put into the file yet. False where it cannot be read, too.
-bool isEmpty(Database& database) {
-    std::int64_t version = 0;
-    return database.readNumber("PRAGMA user_version", version) && version == 0 && !storeFault(database);
+std::optional<Error> faultOf(const StoreMark& mark, const Database& database) {
+    if (mark.isEmpty())
+        return std::nullopt;
+    if (mark.application != storeApplicationId || mark.version < 1)
+        return Error{u"%1 is a database, but not a news store."_s.arg(database.path())};
+    if (mark.version > storeVersion())
+        return Error{
+            u"%1 was written by a newer version of the program (store version %2; this one reads up to %3)."_s
+                .arg(database.path())
+                .arg(mark.version)
+                .arg(storeVersion())};
+    return std::nullopt;
 }
 
 Error emptyError(const Database& database) {
@@ -70,12 +118,15 @@ Result<std::unique_ptr<Database>> openToWrite(const QString& path, Database::Mod
     Database& database = *opened.value();
     // Until the file has proved usable, nothing may be written to it, not even what its log still holds.
     database.setCheckpointOnClose(false);
-    if (std::optional<Error> fault = storeFault(database)) {
+    const std::optional<StoreMark> mark = markOf(database);
+    if (!mark) {
         // The file is open: what cannot be opened is what would stand beside it.
         const bool isShutFolder = (database.failureCode() & 0xff) == SQLITE_CANTOPEN;
-        return isShutFolder ? onlyReadError(database) : *fault;
+        return isShutFolder ? onlyReadError(database) : Error{database.failure()};
     }
-    if (mode == Database::Mode::Write && isEmpty(database))
+    if (std::optional<Error> fault = faultOf(*mark, database))
+        return *fault;
+    if (mode == Database::Mode::Write && mark->isEmpty())
         return emptyError(database);
     if (database.isReadOnly())
         return onlyReadError(database);
@@ -87,39 +138,18 @@ Result<std::unique_ptr<Database>> openToWrite(const QString& path, Database::Mod
 
 }  // namespace
 
-std::optional<Error> storeFault(Database& database) {
-    std::int64_t version = 0;
-    std::int64_t application = 0;
-    std::int64_t objects = 0;
-    if (!database.readNumber("PRAGMA user_version", version) ||
-        !database.readNumber("PRAGMA application_id", application) ||
-        !database.readNumber("SELECT count(*) FROM sqlite_schema", objects))
-        return Error{database.failure()};
-    if (objects == 0 && version == 0)
-        return std::nullopt;
-    if (application != storeApplicationId || version < 1)
-        return Error{u"%1 is a database, but not a news store."_s.arg(database.path())};
-    if (version > storeVersion())
-        return Error{
-            u"%1 was written by a newer version of the program (store version %2; this one reads up to %3)."_s
-                .arg(database.path())
-                .arg(version)
-                .arg(storeVersion())};
-    return std::nullopt;
-}
-
 std::optional<Error> readingFault(Database& database) {
-    if (std::optional<Error> fault = storeFault(database))
-        return fault;
-    std::int64_t version = 0;
-    if (!database.readNumber("PRAGMA user_version", version))
+    const std::optional<StoreMark> mark = markOf(database);
+    if (!mark)
         return Error{database.failure()};
-    if (version == 0)
+    if (std::optional<Error> fault = faultOf(*mark, database))
+        return fault;
+    if (mark->isEmpty())
         return emptyError(database);
-    if (version < storeVersion())
+    if (mark->version < storeVersion())
         return Error{u"%1 is of version %2; the program brings it up to version %3 when it opens it."_s
                          .arg(database.path())
-                         .arg(version)
+                         .arg(mark->version)
                          .arg(storeVersion())};
     return std::nullopt;
 }

@@ -28,10 +28,8 @@ Result<std::unique_ptr<Database>> openStore(const QString& path, const StoreOpti
 // present version. An absent or empty file is an error, and stays as it is.
 Result<std::unique_ptr<Database>> openStoreToRead(const QString& path, const StoreOptions& options = {});
 
-// Why this open database cannot be used as a news store; nothing when it can, or when it is still empty.
-// Reads only.
-std::optional<Error> storeFault(Database& database);
-// The same, and why it cannot be read as it is: it is still empty, or of an older version.
+// Why this open database cannot be read as a news store: it is none, still empty, or of another version.
+// Nothing when it can. Reads only.
 std::optional<Error> readingFault(Database& database);
 
 }  // namespace wirepane

@@ -11,7 +11,11 @@
 
 #include <QFile>
 
+#include <array>
+#include <barrier>
 #include <random>
+#include <thread>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -219,6 +223,27 @@ TEST_F(StoreFileTest, AStoreThatIsInUseElsewhereSaysSo) {
     ASSERT_FALSE(locked);
     EXPECT_TRUE(locked.error().contains(u"is being used by another program"_s))
         << locked.error().toStdString();
+}
+
+TEST_F(StoreFileTest, ThoseWhoMakeOneStoreTogetherAllGetIt) {
+    for (int round = 0; round < 20; ++round) {
+        const QString path = pathOf(u"new-%1.db"_s.arg(round));
+        std::barrier together(4);
+        std::array<QString, 4> faults;
+        std::vector<std::thread> makers;
+        for (QString& fault : faults) {
+            makers.emplace_back([&path, &together, &fault] {
+                together.arrive_and_wait();
+                const auto opened = openStore(path);
+                if (!opened)
+                    fault = opened.error();
+            });
+        }
+        for (std::thread& maker : makers)
+            maker.join();
+        for (const QString& fault : faults)
+            ASSERT_EQ(fault, QString()) << round;
+    }
 }
 
 TEST_F(StoreFileTest, AFullDiskTakesBackTheTransactionAndNothingElse) {
