@@ -210,6 +210,13 @@ bool TRVNewsCtrlView::bGetHeadlineTable(CHeadlineTable& entry, int list, int row
     return true;
 }
 
+std::optional<CHeadlineTable> TRVNewsCtrlView::entryAt(ListIndex list, int row) const {
+    CHeadlineTable entry;
+    if (!bGetHeadlineTable(entry, static_cast<int>(list), row))
+        return std::nullopt;
+    return entry;
+}
+
 int TRVNewsCtrlView::iGetHeadlineTableSize(int list) const {
     const auto index = ListOfNumber(list);
     return index ? lists[*index].Table().size() : -1;

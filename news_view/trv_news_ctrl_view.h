@@ -20,6 +20,7 @@
 #include "news_view/news_services.h"
 #include "news_view/story_stage.h"
 #include "news_view/symbol_binding.h"
+#include "news_view/view_context.h"
 #include "news_view/view_layout.h"
 #include "news_view/view_settings.h"
 #include "output/printable_story.h"
@@ -55,6 +56,7 @@ class TRVNewsCtrlView : public TRVQuoteBaseView,
                         public NewsViewAccess,
                         public StoryOwner,
                         private ListOwner,
+                        private ViewContext,
                         private ShortTips {
     Q_OBJECT
 
@@ -351,7 +353,7 @@ private:
     RelationFilter vRelationFilter() const;
     void vChangeNewsTable(ListIndex list, TableKind kind, const QString& key);
     bool bPaneShowsStories() const;
-    void vForgetShownStory();
+    void vClearStory();
     void vKeepShownStory(ListIndex list, const HeadlinePlace& place);
     IntakeState vIntakeState() const;
     bool vReplaceElsewhere(const PushedHeadline& pushed, const std::vector<IntakeTarget>& targets,
@@ -475,6 +477,17 @@ private:
     void vCategoryStateAfterWriting() override { ChangeCurrViewCategoryState(settings.showCategory); }
     void vRowsReplaced(ListIndex list) override;
     void vSetGridColours();
+
+    // What the owners of its parts see of the view.
+    ListIndex shownList() const override { return static_cast<ListIndex>(currentMode); }
+    HeadlineList& listOf(ListIndex list) override { return lists[list]; }
+    std::optional<CHeadlineTable> entryAt(ListIndex list, int row) const override;
+    void showStory() override { OnShowStory(); }
+    void forgetShownStory() override { shownStoryRow = -1; }
+    void refresh() override { vUpdateView(); }
+    void tipOver(ListIndex list, const QString& text, int timeMs) override { vTipOver(list, text, timeMs); }
+    void setStatusText(const QString& text) override { vSetStatusText(text); }
+    void placeNotices() override { vPlaceNotices(); }
 
     BKQuoteInterface& backEnd;
     NewsServices services;

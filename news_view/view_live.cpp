@@ -53,7 +53,7 @@ void TRVNewsCtrlView::RecvNewHeadLine(const CHeadline* headline, const QString& 
     if (headline->service != warrantService && CategoryIndex(categoryId) < 0)
         categoryMissed |= categoriesMissed.insert(categoryId).second;
     vUpdateView();
-    vForgetShownStory();
+    forgetShownStory();
 }
 
 // A headline that was sent again is asked by every list that has it, whether or not the list takes it in.
@@ -92,7 +92,7 @@ void TRVNewsCtrlView::vHeadlineReplaced(const CHeadline* headline, const QString
         !vReplaceElsewhere({*headline, categoryId, symbolCode}, {}, state))
         return;
     vUpdateView();
-    vForgetShownStory();
+    forgetShownStory();
 }
 
 void TRVNewsCtrlView::vHeadlineGone(const HeadlineKey& key) {
@@ -105,7 +105,7 @@ void TRVNewsCtrlView::vHeadlineGone(const HeadlineKey& key) {
     if (!wasListed)
         return;
     vUpdateView();
-    vForgetShownStory();
+    forgetShownStory();
 }
 
 void TRVNewsCtrlView::vConnectionChanged(bool connected) {

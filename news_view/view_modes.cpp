@@ -65,8 +65,7 @@ void TRVNewsCtrlView::SwitchFunction(int mode) {
     if (lists.bHasMissed(*index) || unfiltered)
         vReadAgain(*index);
     if (bPaneShowsStories()) {
-        vForgetShownStory();
-        stage.vClearStory();
+        vClearStory();
         if (*index != ListIndex::Category)
             OnShowStory();
     }
@@ -142,7 +141,7 @@ void TRVNewsCtrlView::OnBtnChangeShowType() {
     if (newsType == 0 && GetDlgItem(this, ids::showTypeButton) != nullptr) {
         stage.vHideDialog();
         SetStoryShowType(static_cast<unsigned short>(GetStoryShowType() + 1));
-        vForgetShownStory();
+        forgetShownStory();
         if (storyShowType != StoryShowType::None)
             OnShowStory();
     }

@@ -42,7 +42,6 @@ QString TRVNewsCtrlView::cszSearchText() const {
 }
 
 void TRVNewsCtrlView::OnSearch() {
-    vForgetShownStory();
     if (services.iSelectedCount() == 0) {
         OnDealsSearch();
         return;
@@ -123,7 +122,6 @@ bool TRVNewsCtrlView::bWaitTipIsUp() const {
 
 void TRVNewsCtrlView::vShowFound(ListIndex index, bool selectFirst) {
     HeadlineList& list = List(index);
-    vForgetShownStory();
     list.vRefill();
     if (list.Table().empty())
         vSetStatusText({});

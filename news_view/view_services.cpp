@@ -30,7 +30,6 @@ void TRVNewsCtrlView::OnSelectCheckService(unsigned int id) {
         return;
     vReloadForServices();
     services.CheckRegisterService(*this);
-    vForgetShownStory();
     OnShowStory();
     update();
 }

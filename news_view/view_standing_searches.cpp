@@ -53,8 +53,6 @@ void TRVNewsCtrlView::OnRelationSearchDlg() {
     dialog.Delete();
     if (tickedKeySets.empty())
         return;
-    if (currentMode == static_cast<int>(ListIndex::Relation))
-        vForgetShownStory();
     InitialHeadlineTable(static_cast<int>(ListIndex::Relation));
     if (currentMode == static_cast<int>(ListIndex::Relation))
         OnShowStory();

@@ -16,7 +16,7 @@ void TRVNewsCtrlView::OnShowStory() {
     NewsStoryView* pane = stage.pGetPane();
     if (row < 0) {
         stage.vHideDialog();
-        stage.vClearStory();
+        vClearStory();
         return;
     }
     sheet->vAutoVerScrolling(row);
@@ -36,13 +36,14 @@ void TRVNewsCtrlView::OnShowStory() {
     ChangeNewsSymbolList();
 }
 
-void TRVNewsCtrlView::vForgetShownStory() {
-    shownStoryRow = -1;
+void TRVNewsCtrlView::vClearStory() {
+    stage.vClearStory();
+    forgetShownStory();
 }
 
 void TRVNewsCtrlView::vRowsReplaced(ListIndex list) {
     if (currentMode == static_cast<int>(list))
-        vForgetShownStory();
+        forgetShownStory();
 }
 
 void TRVNewsCtrlView::RespHeadLine(const std::vector<CHeadlineTable>& entries) {

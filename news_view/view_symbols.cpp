@@ -145,13 +145,11 @@ bool TRVNewsCtrlView::vOnChangeSymbolCombobox() {
 }
 
 void TRVNewsCtrlView::GetSymbolNews(const QString&) {
-    stage.vClearStory();
+    vClearStory();
     lists.bRebuildSymbol(symbols.Current());
     // The reader of another list reads on.
-    if (currentMode != symbolMode && bPaneShowsStories()) {
-        vForgetShownStory();
+    if (currentMode != symbolMode && bPaneShowsStories())
         OnShowStory();
-    }
 }
 
 void TRVNewsCtrlView::OnSelSymbol(const QString& code) {
