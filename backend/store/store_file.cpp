@@ -3,9 +3,9 @@
 #include "backend/store/store_file.h"
 
 #include "backend/database/migrations.h"
+#include "backend/database/statement.h"
 #include "backend/database/transaction.h"
 #include "backend/store/schema.h"
-#include "backend/store/statement.h"
 #include "backend/store/store_defaults.h"
 #include "backend/words/character_folding.h"
 
