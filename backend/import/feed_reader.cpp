@@ -3,8 +3,11 @@
 #include "backend/import/feed_reader.h"
 
 #include "backend/import/feed_entry.h"
+#include "backend/import/whole_source.h"
 #include "backend/import/xml_source.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -96,12 +99,27 @@ private:
 
 }  // namespace
 
-bool isFeedRoot(QStringView name) {
-    return name == "rss"_L1 || name == "RDF"_L1 || name == "feed"_L1;
+bool isRss(const SourceHead& head) {
+    constexpr std::array parts{"channel"_L1, "item"_L1, "image"_L1, "textinput"_L1};
+    const XmlStart start = head.xmlStart();
+    const bool holdsFeed = std::find(parts.begin(), parts.end(), start.firstChild) != parts.end();
+    return start.root == "rss"_L1 || (start.root == "RDF"_L1 && holdsFeed);
 }
 
-void readFeed(const QByteArray& source, const ReadOptions& options, const ItemVisitor& visit) {
-    FeedReading(options, visit).read(source);
+bool isAtom(const SourceHead& head) {
+    constexpr std::array vocabularies{QLatin1StringView(), "http://www.w3.org/2005/Atom"_L1,
+                                      "http://purl.org/atom/ns#"_L1};
+    const XmlStart start = head.xmlStart();
+    return start.root == "feed"_L1 &&
+           std::find(vocabularies.begin(), vocabularies.end(), start.rootNamespace) != vocabularies.end();
+}
+
+Done readFeed(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
+    const Result<QByteArray> document = wholeSource(source, options.limits.file);
+    if (!document)
+        return Error{document.error()};
+    FeedReading(options, visit).read(document.value());
+    return Nothing{};
 }
 
 }  // namespace wirepane

@@ -4,6 +4,7 @@
 
 #include "backend/import/json_list.h"
 #include "backend/import/ninjs_record.h"
+#include "backend/import/text_encoding.h"
 
 #include <array>
 #include <optional>
@@ -13,8 +14,6 @@ namespace wirepane {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr QByteArrayView byteOrderMark("\xef\xbb\xbf");
 
 Result<StoreItem> storeItem(QByteArrayView record, const ReadOptions& options) {
     Result<NewsItem> item = ninjsItem(record, options.service);
@@ -60,8 +59,8 @@ void readJsonLines(QIODevice& source, const ReadOptions& options, const ItemVisi
             continue;
         }
         QByteArrayView record(*line);
-        if (number == 1 && record.startsWith(byteOrderMark))
-            record = record.sliced(byteOrderMark.size());
+        if (number == 1)
+            record = withoutByteOrderMark(record);
         record = record.trimmed();
         if (!record.isEmpty() && !visit({storeItem(record, options), place, source.pos()}))
             return;
@@ -83,10 +82,7 @@ void readJsonList(const QByteArray& source, const ReadOptions& options, const It
 }
 
 void readJsonDocument(const QByteArray& source, const ReadOptions& options, const ItemVisitor& visit) {
-    QByteArrayView record(source);
-    if (record.startsWith(byteOrderMark))
-        record = record.sliced(byteOrderMark.size());
-    const Result<StoreItem> content = storeItem(record, options);
+    const Result<StoreItem> content = storeItem(withoutByteOrderMark(source), options);
     visit({content, placeOf(1, content), source.size()});
 }
 

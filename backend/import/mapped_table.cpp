@@ -5,7 +5,6 @@
 #include "backend/import/csv.h"
 #include "backend/import/json_list.h"
 #include "backend/import/mapped_row.h"
-#include "backend/import/source_format.h"
 #include "backend/import/text_encoding.h"
 #include "backend/import/wire_form.h"
 

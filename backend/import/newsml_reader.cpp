@@ -3,6 +3,7 @@
 #include "backend/import/newsml_reader.h"
 
 #include "backend/import/newsml_fields.h"
+#include "backend/import/whole_source.h"
 #include "backend/import/wire_form.h"
 #include "backend/import/xml_source.h"
 
@@ -94,12 +95,20 @@ private:
 
 }  // namespace
 
-bool isNewsmlRoot(QStringView name) {
-    return name == "newsMessage"_L1 || name == "newsItem"_L1 || otherItem(name) != nullptr;
+bool isNewsml(const SourceHead& head) {
+    const XmlStart start = head.xmlStart();
+    const QString& name = start.root;
+    const bool isOwn = start.rootNamespace.isEmpty() ||
+                       start.rootNamespace.startsWith("http://iptc.org/std/nar/"_L1, Qt::CaseInsensitive);
+    return isOwn && (name == "newsMessage"_L1 || name == "newsItem"_L1 || otherItem(name) != nullptr);
 }
 
-void readNewsml(const QByteArray& source, const ReadOptions& options, const ItemVisitor& visit) {
-    NewsmlReading(options, visit).read(source);
+Done readNewsml(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
+    const Result<QByteArray> document = wholeSource(source, options.limits.file);
+    if (!document)
+        return Error{document.error()};
+    NewsmlReading(options, visit).read(document.value());
+    return Nothing{};
 }
 
 }  // namespace wirepane

@@ -45,6 +45,19 @@ constexpr std::array textFields{
 constexpr std::array textFamilies{QLatin1StringView("body_"), QLatin1StringView("description_"),
                                   QLatin1StringView("headline_")};
 
+// Fields that JSON of other kinds does not have, as it has "type" or "title".
+constexpr std::array tellingFields{
+    QLatin1StringView("uri"),
+    QLatin1StringView("firstcreated"),
+    QLatin1StringView("versioncreated"),
+    QLatin1StringView("contentcreated"),
+    QLatin1StringView("pubstatus"),
+    QLatin1StringView("headline"),
+    QLatin1StringView("headlines"),
+    QLatin1StringView("slugline"),
+    QLatin1StringView("bodies"),
+};
+
 // A list and the texts that its entries hold.
 struct ListField {
     QLatin1StringView singular;
@@ -138,11 +151,15 @@ Fault faultOfList(const ListField& field, const QString& name, const QJsonValue&
     return std::nullopt;
 }
 
+bool isOfTextFamily(const QString& name) {
+    return std::any_of(textFamilies.begin(), textFamilies.end(),
+                       [&](QLatin1StringView family) { return name.startsWith(family); });
+}
+
 Fault faultOfField(const QString& name, const QJsonValue& value) {
     const QString lower = name.toLower();
-    const bool mustBeText = std::find(textFields.begin(), textFields.end(), lower) != textFields.end() ||
-                            std::any_of(textFamilies.begin(), textFamilies.end(),
-                                        [&](QLatin1StringView family) { return lower.startsWith(family); });
+    const bool mustBeText =
+        std::find(textFields.begin(), textFields.end(), lower) != textFields.end() || isOfTextFamily(lower);
     if (mustBeText && !isText(value))
         return wrongType(name, "a text"_L1, value);
     const ListField* list = listField(lower);
@@ -163,6 +180,15 @@ Result<QJsonObject> jsonObject(QByteArrayView record) {
 }
 
 }  // namespace
+
+bool hasNinjsField(const QJsonObject& object) {
+    const QStringList names = object.keys();
+    return std::any_of(names.begin(), names.end(), [](const QString& name) {
+        const QString lower = name.toLower();
+        return std::find(tellingFields.begin(), tellingFields.end(), lower) != tellingFields.end() ||
+               isOfTextFamily(lower);
+    });
+}
 
 NinjsFields::NinjsFields(const QJsonObject& object) {
     for (auto field = object.begin(); field != object.end(); ++field)

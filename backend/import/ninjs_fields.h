@@ -14,6 +14,9 @@
 
 namespace wirepane {
 
+// Whether a JSON object has a field by which a ninjs record is told from other JSON.
+bool hasNinjsField(const QJsonObject& object);
+
 // The fields of one ninjs record under the same names whatever its version: names are in lower case (version
 // 3 writes "versionCreated"), and lists are found by the singular name of version 1.
 class NinjsFields {

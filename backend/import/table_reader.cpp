@@ -4,6 +4,8 @@
 
 #include "backend/import/csv.h"
 #include "backend/import/table_columns.h"
+#include "backend/import/text_encoding.h"
+#include "backend/import/whole_source.h"
 #include "backend/import/wire_form.h"
 
 #include <QRegularExpression>
@@ -17,6 +19,9 @@ namespace wirepane {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// What a table holds; its header line says it.
+enum class TableKind { Unknown, Symbols, Categories, Quotes };
 
 constexpr QLatin1StringView footer("File Creation Time");
 
@@ -154,13 +159,7 @@ bool isLeftOut(const QStringList& row) {
            });
 }
 
-}  // namespace
-
-TableKind tableKind(const QStringList& header) {
-    return kindOf(TableColumns(header));
-}
-
-void readTable(QStringView table, const ReadOptions& options, const ItemVisitor& visit) {
+void readRows(QStringView table, const ReadOptions& options, const ItemVisitor& visit) {
     CsvReader csv(table);
     const auto header = csv.next();
     if (!header)
@@ -179,6 +178,23 @@ void readTable(QStringView table, const ReadOptions& options, const ItemVisitor&
         if (!visit({itemOf(kind, columns, row->fields, options), place, csv.position()}))
             return;
     }
+}
+
+}  // namespace
+
+bool isTable(const SourceHead& head) {
+    return kindOf(TableColumns(head.csvHeader())) != TableKind::Unknown;
+}
+
+Done readTable(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
+    const Result<QByteArray> bytes = wholeSource(source, options.limits.file);
+    if (!bytes)
+        return Error{bytes.error()};
+    const auto text = decodedText(bytes.value());
+    if (!text)
+        return Error{u"The file is neither UTF-8 nor code page 950."_s};
+    readRows(*text, options, visit);
+    return Nothing{};
 }
 
 }  // namespace wirepane

@@ -3,19 +3,18 @@
 #pragma once
 
 #include "backend/import/reading.h"
+#include "backend/import/source_head.h"
 
-#include <QStringList>
-#include <QStringView>
+#include <QIODevice>
 
 namespace wirepane {
 
-// What a table in comma-separated values holds; its header line says it.
-enum class TableKind { Unknown, Symbols, Categories, Quotes };
+// Whether a source is a table in comma-separated values whose header names the columns of symbols, categories
+// or quotes.
+bool isTable(const SourceHead& head);
 
-TableKind tableKind(const QStringList& header);
-
-// Reads a table of symbols, categories or quotes. A row that cannot be taken is one rejection; rows of empty
-// fields and the footers of the known lists are left out.
-void readTable(QStringView table, const ReadOptions& options, const ItemVisitor& visit);
+// Reads such a table. A row that cannot be taken is one rejection; rows of empty fields and the footers of
+// the known lists are left out.
+Done readTable(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit);
 
 }  // namespace wirepane

@@ -42,6 +42,13 @@ constexpr std::array labels{
     Label{"sjis", "windows-31j"},
 };
 
+std::optional<QString> decoded(QStringDecoder&& decoder, const QByteArray& bytes) {
+    if (!decoder.isValid())
+        return std::nullopt;
+    const QString text = decoder(bytes);
+    return decoder.hasError() ? std::nullopt : std::optional<QString>(text);
+}
+
 }  // namespace
 
 QStringDecoder decoderOf(const QByteArray& encoding) {
@@ -53,6 +60,23 @@ QStringDecoder decoderOf(const QByteArray& encoding) {
             return meant;
     }
     return QStringDecoder(encoding.constData());
+}
+
+bool isUtf16(const QByteArray& bytes) {
+    return bytes.startsWith("\xff\xfe") || bytes.startsWith("\xfe\xff");
+}
+
+std::optional<QString> decodedText(const QByteArray& bytes) {
+    if (isUtf16(bytes))
+        return decoded(QStringDecoder(QStringDecoder::Utf16), bytes);
+    if (auto text = decoded(QStringDecoder(QStringDecoder::Utf8), bytes))
+        return text;
+    return decoded(QStringDecoder("windows-950"), bytes);
+}
+
+QByteArrayView withoutByteOrderMark(QByteArrayView text) {
+    constexpr QByteArrayView mark("\xef\xbb\xbf");
+    return text.startsWith(mark) ? text.sliced(mark.size()) : text;
 }
 
 }  // namespace wirepane

@@ -9,6 +9,6 @@ using namespace wirepane;
 // RSS and Atom, in any encoding.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const QByteArray source = FuzzInput(bytes, size).bytes();
-    promiseReading(source.size(), [&](const ItemVisitor& visit) { readFeed(source, {}, visit); });
+    promiseFile(source, source.size(), {}, readFeed);
     return 0;
 }

@@ -8,8 +8,7 @@ using namespace wirepane;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const QByteArray source = FuzzInput(bytes, size).bytes();
-    const ReadingResult result =
-        promiseReading(source.size(), [&](const ItemVisitor& visit) { readNewsml(source, {}, visit); });
+    const ReadingResult result = promiseFile(source, source.size(), {}, readNewsml);
     promise(!result.items.empty() || result.rejections > 0, "a message without news is rejected");
     return 0;
 }

@@ -4,25 +4,26 @@
 #include "fuzz/support/fuzz_input.h"
 #include "fuzz/support/news_promises.h"
 
-#include <QBuffer>
+#include <algorithm>
 
 using namespace wirepane;
 
-// Any file: its format is recognised. The first byte chooses how large a file may be.
+// Any file: its format is recognised, and each reader survives what it would not be given. The first byte
+// chooses how large a file may be.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     FuzzInput input(bytes, size);
     ReadOptions options;
     options.limits.file = 32 * input.byte();
-    QByteArray source = input.bytes();
-    bool isRefused = false;
+    const QByteArray source = input.bytes();
     // A source in UTF-16 is counted as what it becomes.
-    const ReadingResult result = promiseReading(4 * source.size() + 4, [&](const ItemVisitor& visit) {
-        QBuffer buffer(&source);
-        buffer.open(QIODevice::ReadOnly);
-        const Done done = readSource(buffer, options, visit);
-        isRefused = !done;
-        promise(done || !done.error().isEmpty(), "a refusal has a reason");
-    });
-    promise(!isRefused || (result.items.empty() && result.rejections == 0), "what is refused gives nothing");
+    const qint64 counted = 4 * source.size() + 4;
+    promiseFile(source, counted, options, readSource);
+    const SourceHead head(source);
+    const auto formats = sourceFormats();
+    promise(std::count_if(formats.begin(), formats.end(),
+                          [&](const SourceFormat& format) { return format.recognise(head); }) <= 1,
+            "a source is of one format");
+    for (const SourceFormat& format : formats)
+        promiseFile(source, counted, options, format.read);
     return 0;
 }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "backend/import/csv.h"
-#include "backend/import/source_format.h"
 #include "backend/import/table_reader.h"
+#include "backend/import/text_encoding.h"
 #include "fuzz/support/fuzz_input.h"
 #include "fuzz/support/news_promises.h"
 
@@ -44,11 +44,12 @@ void promiseSameRecords(QStringView csv, QChar comma) {
 
 // Tables of symbols and categories, and comma-separated values as such.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-    const auto text = decodedText(FuzzInput(bytes, size).bytes());
+    const QByteArray source = FuzzInput(bytes, size).bytes();
+    const auto text = decodedText(source);
     if (!text)
         return 0;
     for (const char16_t comma : {u',', u';', u'\t'})
         promiseSameRecords(*text, comma);
-    promiseReading(text->size(), [&](const ItemVisitor& visit) { readTable(*text, {}, visit); });
+    promiseFile(source, text->size(), {}, readTable);
     return 0;
 }

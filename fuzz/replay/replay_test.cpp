@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/replay/changes.h"
 #include "fuzz/replay/kept_input.h"
+#include "tests/backend/import/format_samples.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,9 +30,7 @@ std::vector<QByteArray> seedsOf(const QDir& folder) {
     return seeds;
 }
 
-void replay(Target* target, const char* name) {
-    const std::vector<QByteArray> seeds =
-        seedsOf(QStringLiteral(WIREPANE_FUZZ_SEEDS "/") + QLatin1StringView(name));
+void replay(Target* target, const char* name, const std::vector<QByteArray>& seeds) {
     ASSERT_FALSE(seeds.empty());
     KeptInput input(name);
     const auto run = [&](const QByteArray& bytes) {
@@ -48,10 +47,18 @@ void replay(Target* target, const char* name) {
 
 // A target ends the program when a reader breaks a promise or the sanitizers find a fault; KeptInput then
 // leaves the bytes that did it.
-#define FUZZ_TARGET(name)           \
-    TEST(FuzzReplay, name) {        \
-        replay(fuzz_##name, #name); \
+#define FUZZ_TARGET(name)                                                                   \
+    TEST(FuzzReplay, name) {                                                                \
+        replay(fuzz_##name, #name, seedsOf(QStringLiteral(WIREPANE_FUZZ_SEEDS "/" #name))); \
     }
 #include "fuzz_targets.inc"
+
+// Every format is among these, a new one as well.
+TEST(FuzzReplay, samples_of_formats) {
+    std::vector<QByteArray> seeds;
+    for (const wirepane::FormatSample& sample : wirepane::formatSamples())
+        seeds.push_back('\xff' + sample.source);
+    replay(fuzz_source, "source", seeds);
+}
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "backend/import/news_time.h"
 #include "fuzz/support/fuzz_input.h"
 
+#include <QBuffer>
 #include <QStringList>
 
 #include <algorithm>
@@ -142,6 +143,20 @@ ReadingResult promiseReading(qint64 size, const std::function<void(const ItemVis
     const std::size_t enough = all / 2 + 1;
     read([&](SourceItem&&) { return ++seen < enough; });
     promise(seen == std::min(enough, all), "reading stops when it is told to");
+    return result;
+}
+
+ReadingResult promiseFile(QByteArray source, qint64 size, const ReadOptions& options,
+                          decltype(SourceFormat::read) read) {
+    bool isRefused = false;
+    const ReadingResult result = promiseReading(size, [&](const ItemVisitor& visit) {
+        QBuffer buffer(&source);
+        buffer.open(QIODevice::ReadOnly);
+        const Done done = read(buffer, options, visit);
+        isRefused = !done;
+        promise(done || !done.error().isEmpty(), "a refusal has a reason");
+    });
+    promise(!isRefused || (result.items.empty() && result.rejections == 0), "what is refused gives nothing");
     return result;
 }
 

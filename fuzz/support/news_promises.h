@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "backend/import/reading.h"
+#include "backend/import/source_formats.h"
 
 #include <QByteArray>
 
@@ -30,5 +30,10 @@ struct ReadingResult {
 // and a reason, the bytes read grow and stay within the source; and, in a second run, nothing is handed over
 // once the visitor has said that it is enough.
 ReadingResult promiseReading(qint64 size, const std::function<void(const ItemVisitor&)>& read);
+
+// The same for a reader of whole files: what it refuses gives nothing. `size` is as much as the source may
+// count as.
+ReadingResult promiseFile(QByteArray source, qint64 size, const ReadOptions& options,
+                          decltype(SourceFormat::read) read);
 
 }  // namespace wirepane

@@ -4,6 +4,7 @@
 
 #include "backend/import/import_job.h"
 #include "backend/import/mapping.h"
+#include "backend/import/source_formats.h"
 #include "backend/store/store_writer.h"
 #include "terminal/commands/command_arguments.h"
 #include "terminal/commands/console.h"
@@ -38,6 +39,14 @@ QString progressLine(const ImportProgress& progress) {
         .arg(QDir::toNativeSeparators(progress.file));
 }
 
+QString formatsForHelp() {
+    QStringList formats;
+    for (const SourceFormat& format : sourceFormats())
+        formats +=
+            format.forms.isEmpty() ? format.name.toString() : u"%1 (%2)"_s.arg(format.name, format.forms);
+    return formats.join(u", "_s);
+}
+
 int reportEnd(const ImportReport& report) {
     clearPassing();
     printLine(u"%1 taken in, %2 already there, %3 rejected"_s.arg(report.totals.takenIn)
@@ -61,11 +70,10 @@ int reportEnd(const ImportReport& report) {
 }  // namespace
 
 int runImport() {
-    CommandArguments arguments(u"import"_s,
-                               u"Takes news into the store: ninjs (JSON, one document, a list or "
-                               "JSON lines), RSS, Atom, NewsML-G2, CSV tables of symbols, "
-                               "categories and quotes, and with a mapping any table of news. Each file is "
-                               "taken in as a whole."_s);
+    CommandArguments arguments(
+        u"import"_s,
+        u"Takes news into the store: %1, and with a mapping any table of news. Each file "
+        "is taken in as a whole."_s.arg(formatsForHelp()));
     arguments.parser.addPositionalArgument(u"file"_s, u"A file to take in."_s, u"file..."_s);
     arguments.parser.addOption(
         {u"service"_s, u"The id of the news service that the news belongs to. Default: 1."_s, u"id"_s});

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/news_import.h"
 
+#include "backend/import/source_formats.h"
 #include "host/controls/heap_dialog.h"
 #include "terminal/frame/import_report_dialog.h"
 #include "terminal/translations/terminal_text.h"
@@ -18,13 +19,15 @@ namespace {
 constexpr int silentMs = 500;  // a shorter import shows no progress
 
 QStringList fileFilters() {
-    const QString records = u"*.json *.jsonl *.ndjson *.ninjs"_s;
-    const QString markup = u"*.xml *.rss *.rdf *.atom *.newsml"_s;
-    const QString tables = u"*.csv *.txt"_s;
-    return {terminalText(TextId::ImportAllKinds) + u" (%1 %2 %3)"_s.arg(records, markup, tables),
-            u"ninjs (%1)"_s.arg(records), u"RSS, Atom, NewsML-G2 (%1)"_s.arg(markup),
-            terminalText(TextId::ImportTables) + u" (%1)"_s.arg(tables),
-            terminalText(TextId::ImportAnyFile) + u" (*)"_s};
+    QStringList patterns;
+    QStringList filters;
+    for (const SourceFormat& format : sourceFormats()) {
+        patterns += format.patterns.toString().split(u' ');
+        filters += u"%1 (%2)"_s.arg(format.name, format.patterns);
+    }
+    patterns.removeDuplicates();
+    filters.prepend(u"%1 (%2)"_s.arg(terminalText(TextId::ImportAllKinds), patterns.join(u' ')));
+    return filters << terminalText(TextId::ImportAnyFile) + u" (*)"_s;
 }
 
 TextId headlineOf(ImportOutcome::Kind kind) {

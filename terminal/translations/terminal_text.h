@@ -90,7 +90,6 @@ enum class TextId {
     ImportNews,
     ImportTitle,
     ImportAllKinds,
-    ImportTables,
     ImportAnyFile,
     ImportRunning,
     ImportComplete,

@@ -747,10 +747,6 @@
         <source></source>
         <translation>Taking in news. If you cancel, what is in already stays.</translation>
     </message>
-    <message id="TERMINAL_IMPORT_TABLES">
-        <source></source>
-        <translation>Tables of symbols, categories or quotes</translation>
-    </message>
     <message id="TERMINAL_IMPORT_TITLE">
         <source></source>
         <translation>Import News</translation>

@@ -747,10 +747,6 @@
         <source></source>
         <translation>正在导入新闻。若取消，已导入的新闻仍会保留。</translation>
     </message>
-    <message id="TERMINAL_IMPORT_TABLES">
-        <source></source>
-        <translation>代码、分类或报价表格</translation>
-    </message>
     <message id="TERMINAL_IMPORT_TITLE">
         <source></source>
         <translation>导入新闻</translation>

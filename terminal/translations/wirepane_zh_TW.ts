@@ -747,10 +747,6 @@
         <source></source>
         <translation>正在匯入新聞。若取消，已匯入的新聞仍會保留。</translation>
     </message>
-    <message id="TERMINAL_IMPORT_TABLES">
-        <source></source>
-        <translation>商品、分類或報價表格</translation>
-    </message>
     <message id="TERMINAL_IMPORT_TITLE">
         <source></source>
         <translation>匯入新聞</translation>

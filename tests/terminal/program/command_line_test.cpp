@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "backend/import/source_formats.h"
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
@@ -245,6 +246,16 @@ TEST_F(CommandLineTest, HelpAndVersionGoToStandardOutput) {
         EXPECT_EQ(version.status, 0);
         EXPECT_TRUE(version.out.startsWith(u"wirepane "_s)) << version.out.toStdString();
     }
+}
+
+TEST_F(CommandLineTest, HelpAndManualPageNameEveryFormat) {
+    const QString help = runProgram({u"import"_s, u"--help"_s}).out.simplified();
+    QFile page(QStringLiteral(WIREPANE_MANUAL_PAGE));
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(page.readAll().contains(
+        ("takes files of news in: "_L1 + wirepane::namesOfFormats() + u'\n').toUtf8()));
+    for (const wirepane::SourceFormat& format : wirepane::sourceFormats())
+        EXPECT_TRUE(help.contains(format.name) && help.contains(format.forms)) << help.toStdString();
 }
 
 TEST_F(CommandLineTest, TheSameSampleTwiceIsOneSample) {
