@@ -3,7 +3,6 @@
 #include "terminal/program.h"
 
 #include "terminal/commands/check_command.h"
-#include "terminal/commands/console.h"
 #include "terminal/commands/export_command.h"
 #include "terminal/commands/feed_command.h"
 #include "terminal/commands/import_command.h"
@@ -11,6 +10,7 @@
 #include "terminal/commands/replay_command.h"
 #include "terminal/commands/sample_command.h"
 #include "terminal/commands/search_command.h"
+#include "terminal/console/console.h"
 
 #include <QApplication>
 #include <QIcon>

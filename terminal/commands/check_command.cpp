@@ -4,8 +4,8 @@
 
 #include "backend/store/store_checker.h"
 #include "terminal/commands/command_arguments.h"
-#include "terminal/commands/console.h"
-#include "terminal/commands/exit_status.h"
+#include "terminal/console/console.h"
+#include "terminal/console/exit_status.h"
 
 #include <QDir>
 

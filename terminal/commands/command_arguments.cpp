@@ -3,8 +3,8 @@
 #include "terminal/commands/command_arguments.h"
 
 #include "host/contract/clock.h"
-#include "terminal/commands/console.h"
-#include "terminal/commands/exit_status.h"
+#include "terminal/console/console.h"
+#include "terminal/console/exit_status.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -7,9 +7,9 @@
 #include "host/contract/clock.h"
 #include "host/views/news_module.h"
 #include "terminal/commands/command_arguments.h"
-#include "terminal/commands/console.h"
-#include "terminal/commands/exit_status.h"
 #include "terminal/commands/news_query.h"
+#include "terminal/console/console.h"
+#include "terminal/console/exit_status.h"
 #include "terminal/session/module_location.h"
 #include "terminal/translations/languages.h"
 

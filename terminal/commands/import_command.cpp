@@ -7,9 +7,9 @@
 #include "backend/import/source_formats.h"
 #include "backend/store/store_writer.h"
 #include "terminal/commands/command_arguments.h"
-#include "terminal/commands/console.h"
-#include "terminal/commands/exit_status.h"
-#include "terminal/commands/interrupt.h"
+#include "terminal/console/console.h"
+#include "terminal/console/exit_status.h"
+#include "terminal/console/interrupt.h"
 #include "terminal/session/store_opening.h"
 
 #include <QDateTime>

@@ -5,9 +5,9 @@
 #include "terminal/automation/automation.h"
 #include "terminal/automation/standard_channel.h"
 #include "terminal/commands/command_arguments.h"
-#include "terminal/commands/console.h"
-#include "terminal/commands/exit_status.h"
-#include "terminal/commands/interrupt.h"
+#include "terminal/console/console.h"
+#include "terminal/console/exit_status.h"
+#include "terminal/console/interrupt.h"
 #include "terminal/feed/feed_name.h"
 #include "terminal/session/frame_commands.h"
 #include "terminal/session/session.h"
@@ -24,6 +24,24 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 namespace {
+
+// How the terminal itself is to be opened.
+struct OpenOptions {
+    QString storeFile;
+    QString configFolder;
+    QString language;  // empty: as the settings say
+    QString automationSocket;
+    QString tourFolder;
+    QString spoolFolder;
+    QString feedName;
+    bool automation = false;  // on standard input and output
+    bool sample = false;
+    bool noSample = false;
+    bool tour = false;
+    bool workspace = false;  // a script works on the user's views
+
+    bool isScripted() const { return automation || !automationSocket.isEmpty(); }
+};
 
 bool hasDisplay() {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
@@ -163,7 +181,7 @@ int runTerminal() {
     if (const auto status = arguments.fault())
         return *status;
     if (options.tour)
-        return runTour(options);
+        return runTour({options.tourFolder, options.storeFile, options.configFolder, options.language});
     // Before anything else can print.
     const std::unique_ptr<StandardChannel> channel =
         options.automation ? std::make_unique<StandardChannel>() : nullptr;

@@ -5,9 +5,9 @@
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "terminal/commands/command_arguments.h"
-#include "terminal/commands/console.h"
-#include "terminal/commands/exit_status.h"
-#include "terminal/commands/interrupt.h"
+#include "terminal/console/console.h"
+#include "terminal/console/exit_status.h"
+#include "terminal/console/interrupt.h"
 #include "terminal/feed/feed_name.h"
 #include "terminal/feed/replay.h"
 

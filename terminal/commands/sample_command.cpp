@@ -4,9 +4,9 @@
 
 #include "host/contract/clock.h"
 #include "terminal/commands/command_arguments.h"
-#include "terminal/commands/console.h"
-#include "terminal/commands/exit_status.h"
-#include "terminal/commands/interrupt.h"
+#include "terminal/console/console.h"
+#include "terminal/console/exit_status.h"
+#include "terminal/console/interrupt.h"
 #include "terminal/session/sample_filling.h"
 #include "terminal/session/store_opening.h"
 

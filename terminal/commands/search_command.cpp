@@ -5,9 +5,9 @@
 #include "backend/store/store_file.h"
 #include "backend/store/store_reader.h"
 #include "terminal/commands/command_arguments.h"
-#include "terminal/commands/console.h"
-#include "terminal/commands/exit_status.h"
 #include "terminal/commands/news_query.h"
+#include "terminal/console/console.h"
+#include "terminal/console/exit_status.h"
 
 #include <QDateTime>
 #include <QDir>

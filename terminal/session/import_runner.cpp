@@ -3,7 +3,7 @@
 #include "terminal/session/import_runner.h"
 
 #include "host/contract/clock.h"
-#include "terminal/commands/exit_status.h"
+#include "terminal/console/exit_status.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -6,10 +6,9 @@
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
 #include "terminal/automation/user_input.h"
-#include "terminal/commands/console.h"
-#include "terminal/commands/exit_status.h"
-#include "terminal/commands/interrupt.h"
-#include "terminal/commands/open_command.h"
+#include "terminal/console/console.h"
+#include "terminal/console/exit_status.h"
+#include "terminal/console/interrupt.h"
 #include "terminal/frame/frame_picture.h"
 #include "terminal/frame/settings_dialog.h"
 #include "terminal/frame/symbol_box.h"
@@ -202,7 +201,7 @@ private:
 
 }  // namespace
 
-int runTour(const OpenOptions& options) {
+int runTour(const TourOptions& options) {
     const OnEndSignal ending([] { QCoreApplication::exit(exitPartly); });
     const QTemporaryDir scratch;
     const auto orScratch = [&scratch](const QString& given, const QString& name) {
@@ -212,13 +211,13 @@ int runTour(const OpenOptions& options) {
         Session::open({orScratch(options.storeFile, u"tour.wirepane"_s),
                        orScratch(options.configFolder, u"settings"_s), options.language, true});
     const Done played =
-        session ? Tour(*session.value(), options.tourFolder, ending).play() : Error{session.error()};
+        session ? Tour(*session.value(), options.folder, ending).play() : Error{session.error()};
     if (!played) {
         printNote(played.error());
         return ending.hasCome() ? exitPartly : exitUnusable;
     }
     printNote(u"The tour's pictures, printed pages (news.pdf) and saved news (news.txt) are in %1."_s.arg(
-        QDir::toNativeSeparators(QDir(options.tourFolder).absolutePath())));
+        QDir::toNativeSeparators(QDir(options.folder).absolutePath())));
     return exitDone;
 }
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/commands/interrupt.h"
+#include "terminal/console/interrupt.h"
 
 #include <cerrno>
 #include <csignal>

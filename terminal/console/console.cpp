@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/commands/console.h"
+#include "terminal/console/console.h"
 
 #include "backend/clean_text.h"
-#include "terminal/commands/exit_status.h"
+#include "terminal/console/exit_status.h"
 
 #include <QElapsedTimer>
 #include <QtGlobal>
