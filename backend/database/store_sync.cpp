@@ -16,7 +16,7 @@ constexpr std::chrono::milliseconds busyTimeout{1000};
 }  // namespace
 
 StoreSync::StoreSync(Database& committing)
-    : path(committing.path()), writing(committing.handle()), outcome(Nothing{}), thread([this] { run(); }) {
+    : path(committing.path()), writing(committing.handle()), outcome(Nothing{}) {
     // A log whose commits are not waited for loses the last of them at worst, and never its order.
     QString journal;
     const bool hasLog = committing.readText("PRAGMA journal_mode", journal) && journal == u"wal"_s;
@@ -26,12 +26,6 @@ StoreSync::StoreSync(Database& committing)
 
 StoreSync::~StoreSync() {
     sqlite3_wal_hook(writing, nullptr, nullptr);
-    {
-        const std::lock_guard lock(mutex);
-        ending = true;
-    }
-    changed.notify_all();
-    thread.join();
 }
 
 int StoreSync::committed(void* self, sqlite3*, const char*, int pagesInLog) {
@@ -40,12 +34,11 @@ int StoreSync::committed(void* self, sqlite3*, const char*, int pagesInLog) {
 }
 
 void StoreSync::ask(bool isLogLong) {
-    {
-        const std::lock_guard lock(mutex);
-        ++commits;
-        isLong = isLong || isLogLong;
-    }
-    changed.notify_all();
+    ++commits;
+    if (isLogLong)
+        isLong = true;
+    if (!isAsked.exchange(true))
+        thread.post([this] { syncWhatIsNew(); });
 }
 
 // Asks anew, too, so that one who was told of an error can try again.
@@ -55,33 +48,31 @@ void StoreSync::whenOnDisk(Callback callback) {
 }
 
 void StoreSync::finish() {
-    {
-        std::unique_lock lock(mutex);
-        changed.wait(lock, [this] { return synced == commits; });
-    }
-    deliver();
+    std::int64_t upTo = 0;
+    Done done = Nothing{};
+    thread.run([&] {
+        syncWhatIsNew();
+        upTo = synced;
+        done = outcome;
+    });
+    deliver(upTo, done);
 }
 
-void StoreSync::run() {
-    std::unique_lock lock(mutex);
-    while (true) {
-        changed.wait(lock, [this] { return ending || synced < commits; });
-        if (ending)
-            return;
-        const std::int64_t upTo = commits;
-        const bool carries = std::exchange(isLong, false);
-        lock.unlock();
-        const Done done = sync();
-        // Before anybody is called: who waits for the disk does not lengthen the log meanwhile.
-        if (carries)
-            carryOver();
-        lock.lock();
-        synced = upTo;
-        outcome = done;
-        changed.notify_all();
-        QMetaObject::invokeMethod(
-            &eventLoop, [this] { deliver(); }, Qt::QueuedConnection);
-    }
+// Commits that come meanwhile ask again.
+void StoreSync::syncWhatIsNew() {
+    isAsked = false;
+    const std::int64_t upTo = commits;
+    if (synced == upTo)
+        return;
+    const bool carries = isLong.exchange(false);
+    const Done done = sync();
+    // Before anybody is called: who waits for the disk does not lengthen the log meanwhile.
+    if (carries)
+        carryOver();
+    synced = upTo;
+    outcome = done;
+    QMetaObject::invokeMethod(
+        &eventLoop, [this, upTo, done] { deliver(upTo, done); }, Qt::QueuedConnection);
 }
 
 Done StoreSync::sync() {
@@ -112,18 +103,11 @@ void StoreSync::carryOver() {
 }
 
 // Whoever is called may ask again, or destroy what waits behind him.
-void StoreSync::deliver() {
-    std::int64_t upTo = 0;
-    Done done = Nothing{};
-    {
-        const std::lock_guard lock(mutex);
-        upTo = synced;
-        done = outcome;
-    }
+void StoreSync::deliver(std::int64_t upTo, const Done& onDisk) {
     while (!waiting.empty() && waiting.front().first <= upTo) {
         const Callback callback = std::move(waiting.front().second);
         waiting.pop_front();
-        callback(done);
+        callback(onDisk);
     }
 }
 

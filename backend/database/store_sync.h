@@ -3,16 +3,15 @@
 #pragma once
 
 #include "backend/database/database.h"
+#include "backend/worker_thread.h"
 
 #include <QObject>
 
-#include <condition_variable>
+#include <atomic>
 #include <cstdint>
 #include <deque>
 #include <functional>
 #include <memory>
-#include <mutex>
-#include <thread>
 #include <utility>
 
 namespace wirepane {
@@ -41,25 +40,27 @@ public:
 private:
     static int committed(void* self, sqlite3*, const char*, int pagesInLog);
     void ask(bool isLogLong);
-    void run();
+    void deliver(std::int64_t upTo, const Done& onDisk);
+    // On the thread:
+    void syncWhatIsNew();
     Done sync();
     void carryOver();
-    void deliver();
 
     const QString path;
     sqlite3* const writing;
     QObject eventLoop;
     std::deque<std::pair<std::int64_t, Callback>> waiting;  // by the commit that they wait for
-    std::unique_ptr<Database> database;                     // the thread's own
 
-    std::mutex mutex;
-    std::condition_variable changed;
-    std::int64_t commits = 0;
+    std::atomic<std::int64_t> commits = 0;
+    std::atomic<bool> isLong = false;   // the log
+    std::atomic<bool> isAsked = false;  // what the thread has not begun
+
+    // The thread's own.
+    std::unique_ptr<Database> database;
     std::int64_t synced = 0;  // commits
     Done outcome;             // of the last time
-    bool isLong = false;      // the log
-    bool ending = false;
-    std::thread thread;  // last: it uses all of the above
+
+    WorkerThread thread;  // last: it uses all of the above
 };
 
 }  // namespace wirepane

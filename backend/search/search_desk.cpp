@@ -37,6 +37,13 @@ SearchDesk::SearchDesk(const QString& storePath, Answered answered, Gate answerG
         });
 }
 
+SearchDesk::~SearchDesk() {
+    for (const Search& search : searches) {
+        for (const auto& [service, pending] : search.pending)
+            *pending.dropped = true;
+    }
+}
+
 void SearchDesk::ask(unsigned char service, int kind, const CSearch& condition) {
     Search& search = searchOf(kind, condition);
     present[kind] = search.id;

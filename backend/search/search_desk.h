@@ -32,6 +32,10 @@ public:
     using Gate = std::function<void(const std::function<void()>& answer)>;
 
     SearchDesk(const QString& storePath, Answered answered, Gate gate = {});
+    // Gives up what is being searched.
+    ~SearchDesk();
+    SearchDesk(const SearchDesk&) = delete;
+    SearchDesk& operator=(const SearchDesk&) = delete;
 
     // Sends a search; one in the same service for the same condition that is not answered yet is void.
     void ask(unsigned char service, int kind, const CSearch& condition);

@@ -2,19 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/records.h"
-#include "host/contract/search_condition.h"
-
-#include <QString>
+#include "backend/database/database.h"
+#include "backend/search/news_search.h"
+#include "backend/worker_thread.h"
 
 #include <atomic>
-#include <condition_variable>
 #include <cstdint>
-#include <deque>
 #include <functional>
 #include <memory>
-#include <mutex>
-#include <thread>
+#include <optional>
 #include <vector>
 
 namespace wirepane {
@@ -36,27 +32,23 @@ public:
     using Answer = std::function<void(std::int64_t ticket, std::vector<CHeadlineTable>&& entries)>;
 
     SearchWorker(QString storePath, Answer answer);
-    // Gives up what is being searched.
-    ~SearchWorker();
-    SearchWorker(const SearchWorker&) = delete;
-    SearchWorker& operator=(const SearchWorker&) = delete;
 
-    // Any thread.
+    // Any thread. A job that is being searched when the worker ends is waited for, so drop it before.
     void ask(SearchJob job);
 
 private:
-    void run();
-    // The next job; false at the end. `job` has no ticket when nothing was asked for a while.
-    bool take(SearchJob& job, bool idle);
+    // On the thread, as all that they use.
+    void search(const SearchJob& job);
+    void prepareWhenIdle();
+    NewsSearch* opened();
 
     const QString path;
     const Answer tell;
-    std::mutex mutex;
-    std::condition_variable asked;
-    std::deque<SearchJob> jobs;
-    std::shared_ptr<std::atomic<bool>> current;  // the `dropped` of the job being searched
-    bool ending = false;
-    std::thread thread;  // last: it uses all of the above
+    std::unique_ptr<Database> database;
+    std::optional<NewsSearch> news;
+    std::int64_t searched = 0;  // jobs
+    bool prepared = false;
+    WorkerThread thread;  // last: it uses all of the above
 };
 
 }  // namespace wirepane
