@@ -10,6 +10,10 @@
 
 #include <algorithm>
 
+QColor lateColour(const QColor& background) {
+    return background.lightness() > 127 ? QColor(0xA8, 0x50, 0x00) : QColor(0xFF, 0xB0, 0x40);
+}
+
 NoticeButton::NoticeButton(QWidget* parent) : SButton(parent) {
     setCursor(Qt::PointingHandCursor);
 }
@@ -44,7 +48,7 @@ NoticeLine::NoticeLine(QWidget* parent) : QLabel(parent) {
 
 void NoticeLine::vSetColours(const QColor& plain, const QColor& late) {
     plainColour = plain;
-    lateColour = late;
+    colourOfLate = late;
 }
 
 void NoticeLine::vShow(const ListNotices& notices, const QRect& area, QWidget* keyboardNext) {
@@ -82,7 +86,7 @@ void NoticeLine::paintEvent(QPaintEvent*) {
     for (const PlacedNotice& notice : placed) {
         if (CommandOf(notice.kind) != 0)
             continue;
-        painter.setPen(notice.kind == NoticeKind::Offline ? lateColour : plainColour);
+        painter.setPen(notice.kind == NoticeKind::Offline ? colourOfLate : plainColour);
         painter.drawText(QRect(notice.left, 0, notice.width, height()), Qt::AlignVCenter | Qt::TextSingleLine,
                          notice.text);
     }

@@ -5,9 +5,13 @@
 #include "host/controls/s_button.h"
 #include "news_view/list_notices.h"
 
+#include <QColor>
 #include <QLabel>
 
 #include <vector>
+
+// The colour of what comes late: amber that reads well on a background.
+QColor lateColour(const QColor& background);
 
 // A notice that can be acted on: it looks like the text beside it, underlined, and is pressed by a click, by
 // Enter and by Space.
@@ -47,5 +51,5 @@ protected:
 private:
     std::vector<PlacedNotice> placed;
     QColor plainColour;
-    QColor lateColour;
+    QColor colourOfLate;
 };

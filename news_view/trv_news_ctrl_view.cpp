@@ -24,16 +24,12 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       categories(backEnd),
       searches(backEnd),
       shortTip(new CXTTipWindow(this)),
-      printer(backEnd, outputDialogs, *this),
-      saver(backEnd, outputDialogs, *this),
-      preview(backEnd, outputDialogs, *this),
+      output(backEnd, outputDialogs, outputSurroundings()),
+      board(noticeSurroundings(), noticeTellers()),
+      menu(*this, [this](int command) { OnCommand(command); }),
       keyRouter(*this),
       dates(host_clock::today()) {
     lists.vSetOnRead([this] { vPlaceNotices(); });
-    for (TRVNewsPrint* job : pJobs()) {
-        job->vSetOnAwaited([this] { vPlaceNotices(); });
-        job->vSetOnFinished([this](const NewsOutcome& outcome) { vTell(outcome); });
-    }
 }
 
 TRVNewsCtrlView::~TRVNewsCtrlView() {

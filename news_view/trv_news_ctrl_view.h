@@ -11,21 +11,21 @@
 #include "host/views/news_module.h"
 #include "host/views/quote_base_view.h"
 #include "news_view/application_switches.h"
+#include "news_view/command_menu.h"
 #include "news_view/control_set.h"
 #include "news_view/key_router.h"
 #include "news_view/key_routing.h"
-#include "news_view/list_notices.h"
 #include "news_view/mode_loading.h"
 #include "news_view/news_categories.h"
 #include "news_view/news_services.h"
+#include "news_view/notice_board.h"
+#include "news_view/output_jobs.h"
 #include "news_view/story_stage.h"
 #include "news_view/symbol_binding.h"
 #include "news_view/view_context.h"
 #include "news_view/view_layout.h"
 #include "news_view/view_settings.h"
 #include "output/printable_story.h"
-#include "output/trv_news_print.h"
-#include "output/trv_save_to_file.h"
 #include "search/search_desk.h"
 #include "search/search_edit2.h"
 #include "story/story_owner.h"
@@ -233,17 +233,17 @@ public:
     // --- Printing and saving ---
 
     // Prints, saves, the selected rows; without any nothing happens. What is missing is waited for.
-    void OnPrintNews() { vTell(PrintNews(std::nullopt)); }
-    void OnSaveNews() { vTell(SaveNews(std::nullopt)); }
+    void OnPrintNews() { output.tell(PrintNews(std::nullopt)); }
+    void OnSaveNews() { output.tell(SaveNews(std::nullopt)); }
     void OnBtnPrint() { OnPrintNews(); }
     void OnBtnSaveas() { OnSaveNews(); }
     int iRowOf(int list, const CHeadlineTable& headline) const override;
     void PrintHeadline(const CHeadlineTable& headline) override;
     void SaveHeadline(const CHeadlineTable& headline) override;
     // What is still waited for is not printed, saved or shown any more, nor what waited with it.
-    void OnStopWaiting();
+    void OnStopWaiting() { output.stopWaiting(); }
     // What is complete of the news that waits is put out without the rest.
-    void OnPutOutReady();
+    void OnPutOutReady() { output.putOutReady(); }
     // The button beside the notice: stops waiting, and asks first what is to become of what is complete.
     void OnStopButton();
     // Brings a printable story into lines: see output/printable_story.h.
@@ -410,11 +410,7 @@ private:
     void vUpdateSymbolPicker(const std::vector<CSymbolUpdateInfo>& updates);
     // Printing and saving.
     std::vector<CHeadlineTable> vSelectedEntries() const;
-    void vTell(const NewsOutcome& outcome);
-    std::array<TRVNewsPrint*, 3> pJobs() { return {&printer, &saver, &preview}; }
-    NewsOutcome PutOut(TRVNewsPrint& job, int button, const std::vector<CHeadlineTable>& entries,
-                       const std::optional<OutputTarget>& target);
-    int iReadyForOutput() const;
+    OutputJobs::Surroundings outputSurroundings();
 
     // Stories.
     TRVNewsStory* pStoryDialogOnShow() const;
@@ -445,24 +441,17 @@ private:
     void vChangePane();
     void vContextMenuByKey();
     void vPopUpMenu(const QPoint& screen, bool onRow);
-    QAction* vAddCommand(QLatin1StringView key, int id);
-    QAction* vAddCommand(const QString& caption, int id);
-    void vAddWaitingCommands();
 
     // Lists and painting.
     void OnChangeSize(quintptr sender);
     void DrawTitile(QPainter& painter);
-    // What the view has to tell now.
-    ListNotices Notices() const;
-    QString AwaitedText() const;
-    bool bAwaitsOutput() const;
-    // Shows what is to be told in the free part of the control row, with the button that stops waiting.
-    void vPlaceNotices();
+    NoticeBoard::Surroundings noticeSurroundings();
+    std::vector<NoticeBoard::Teller> noticeTellers();
+    void vPlaceNotices() { board.place(); }
     // What notices offer: the search of the mode for every symbol; the list without another list's filter.
     void OnEndNarrowing();
     void OnReadUnfiltered();
-    void vSetStatusText(const QString& text);
-    QRect NoticeArea() const;
+    void vSetStatusText(const QString& text) { board.setStatus(text); }
     QColor TimeColour(std::int64_t time) const override;
     LayoutInput vLayoutInput() const;
     QString PickedDateKey() const;
@@ -510,18 +499,16 @@ private:
     QPointer<CQuoteDlgTipMsg> tip;
     CXTTipWindow* shortTip;
     OutputDialogs outputDialogs;
-    TRVNewsPrint printer;
-    TRVSaveToFile saver;
-    TRVNewsPreview preview;
+    OutputJobs output;
+    NoticeBoard board;
+    CommandMenu menu;
     KeyRouter keyRouter;
     KeysAtRelease keysAtRelease;
-    QPointer<QMenu> contextMenu;
 
     // Tables that this view has asked for again, by the list that shows them.
     using AskedTable = std::tuple<ListIndex, unsigned char, QString>;  // service, key
     std::set<AskedTable> askedTables;
 
-    QString statusText;   // what the view has to say about its lists; empty most of the time
     QString waitTipText;  // of the search that was announced last, as it was shown
     DatePager dates;
     FeedBreaks breaks;

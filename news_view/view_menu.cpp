@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // The context menu of the news view.
-#include "headline_list/language_keys.h"
-#include "host/controls/plain_caption.h"
 #include "host/controls/super_sheet_wnd.h"
-#include "news_view/control_ids.h"
+#include "news_view/context_menu.h"
 #include "news_view/trv_news_ctrl_view.h"
 
 #include <QContextMenuEvent>
@@ -40,51 +38,9 @@ bool TRVNewsCtrlView::OnContextMenu(const QPoint& screen) {
 }
 
 void TRVNewsCtrlView::vPopUpMenu(const QPoint& screen, bool onRow) {
-    if (!isVisible() || contextMenu != nullptr)
+    if (!isVisible())
         return;
-    // Not waited for: the view may go while the menu is up.
-    contextMenu = new QMenu(this);
-    contextMenu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* category = vAddCommand(keys::showCategory, ids::changeCategoryState);
-    category->setCheckable(true);
-    category->setChecked(settings.showCategory);
-    if (currentMode <= static_cast<int>(ListIndex::Symbol)) {
-        contextMenu->addSeparator();
-        vAddCommand(keys::recoverHeadlineList, ids::recoverHeadlineTable);
-    }
-    if (onRow) {
-        vAddCommand(keys::recoverStory, ids::recoverStory);
-        if (stage.pGetDialog() != nullptr && !bPaneShowsStories())
-            vAddCommand(keys::detailedStory, ids::showStory);
-        vAddCommand(keys::printNews, ids::printNews);
-        vAddCommand(keys::saveAsNews, ids::saveNews);
-    }
-    vAddWaitingCommands();
-    const ListNotices notices = Notices();
-    for (const auto& [kind, text] : notices.InOrder()) {
-        if (const int command = CommandOf(kind); command != 0)
-            vAddCommand(CaptionOfName(text), command);
-    }
-    contextMenu->popup(screen);
-}
-
-void TRVNewsCtrlView::vAddWaitingCommands() {
-    if (!bAwaitsOutput())
-        return;
-    if (const int ready = iReadyForOutput(); ready > 0) {
-        QAction* action = vAddCommand(keys::putOutReady, ids::putOutReady);
-        action->setText(action->text().arg(ready));
-    }
-    vAddCommand(keys::stopWaiting, ids::stopWaiting);
-}
-
-QAction* TRVNewsCtrlView::vAddCommand(QLatin1StringView key, int id) {
-    return vAddCommand(LangText(backEnd, key), id);
-}
-
-QAction* TRVNewsCtrlView::vAddCommand(const QString& caption, int id) {
-    QAction* action = contextMenu->addAction(caption);
-    action->setData(id);
-    connect(action, &QAction::triggered, this, [this, id] { OnCommand(id); });
-    return action;
+    const MenuSituation situation{static_cast<ListIndex>(currentMode), onRow, settings.showCategory,
+                                  stage.pGetDialog() != nullptr && !bPaneShowsStories()};
+    menu.popUp(contextMenuEntries(situation, backEnd, output.waitingCommands(), board.notices()), screen);
 }

@@ -30,13 +30,6 @@ void TRVNewsCtrlView::OnDraw(QPainter& painter) {
     }
 }
 
-void TRVNewsCtrlView::vSetStatusText(const QString& text) {
-    if (text == statusText)
-        return;
-    statusText = text;
-    vPlaceNotices();
-}
-
 void TRVNewsCtrlView::DrawTitile(QPainter& painter) {
     vDrawTitle(painter);
     vDrawFrameBorder(painter);

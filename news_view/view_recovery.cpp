@@ -148,16 +148,16 @@ bool TRVNewsCtrlView::bTakeTableAgain(const CHeadlineTableInfo& info, ListIndex 
         return true;
     QString name;
     backEnd.BKQNEWS_bGetShortNameByService(name, info.service);
-    if (!statusText.contains(name))
+    if (!board.status().contains(name))
         vSetStatusText(WithServiceName(name));
-    vTipOver(list, statusText + nothingFound.separator + LangText(backEnd, nothingFound.key));
+    vTipOver(list, board.status() + nothingFound.separator + LangText(backEnd, nothingFound.key));
     return false;
 }
 
 QString TRVNewsCtrlView::WithServiceName(const QString& name) const {
-    const QString before = statusText.trimmed();
+    const QString before = board.status().trimmed();
     if (before.isEmpty() || !settings.options[ViewOption::SeparateServiceNames])
-        return statusText + name + QLatin1Char(' ');
+        return board.status() + name + QLatin1Char(' ');
     return before + LangText(backEnd, keys::betweenNames) + name + QLatin1Char(' ');
 }
 

@@ -105,7 +105,8 @@ QVariantMap TRVNewsCtrlView::State() const {
                                          {QStringLiteral("registered"), services.bIsRegistered(i)}});
     }
     QVariantList noticeStates;
-    const ListNotices notices = Notices();
+    const ListNotices notices = board.notices();
+    const std::array<int, 3> awaited = output.awaited();
     for (const auto& [kind, text] : notices.InOrder())
         noticeStates.append(
             QVariantMap{{QStringLiteral("text"), text}, {QStringLiteral("command"), CommandOf(kind)}});
@@ -115,10 +116,10 @@ QVariantMap TRVNewsCtrlView::State() const {
             {QStringLiteral("mask"), settings.functions},
             {QStringLiteral("focusedTab"), settings.focusedTab},
             {QStringLiteral("dataState"), static_cast<int>(GetDataState())},
-            {QStringLiteral("caption"), statusText},
-            {QStringLiteral("awaited"), QVariantMap{{QStringLiteral("print"), printer.iAwaited()},
-                                                    {QStringLiteral("save"), saver.iAwaited()},
-                                                    {QStringLiteral("preview"), preview.iAwaited()}}},
+            {QStringLiteral("caption"), board.status()},
+            {QStringLiteral("awaited"), QVariantMap{{QStringLiteral("print"), awaited[0]},
+                                                    {QStringLiteral("save"), awaited[1]},
+                                                    {QStringLiteral("preview"), awaited[2]}}},
             {QStringLiteral("notice"), notices.Text()},
             {QStringLiteral("notices"), noticeStates},
             {QStringLiteral("showCategory"), settings.showCategory},

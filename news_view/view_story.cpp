@@ -53,8 +53,7 @@ void TRVNewsCtrlView::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
         stage.pGetPane()->RespHeadLine(entries);
     if (TRVNewsStory* dialog = pStoryDialogOnShow())
         dialog->RespHeadLine(entries);
-    for (TRVNewsPrint* job : pJobs())
-        job->RespHeadLine(entries);
+    output.takeHeadlines(entries);
 }
 
 void TRVNewsCtrlView::RespStory(const CHeadlineTable& entry) {
@@ -62,8 +61,7 @@ void TRVNewsCtrlView::RespStory(const CHeadlineTable& entry) {
         stage.pGetPane()->RespStory(entry);
     if (TRVNewsStory* dialog = pStoryDialogOnShow())
         dialog->RespStory(entry);
-    for (TRVNewsPrint* job : pJobs())
-        job->RespStory(entry);
+    output.takeStory(entry);
 }
 
 void TRVNewsCtrlView::StoryUpdateNotify(const CHeadlineTable* entry) {

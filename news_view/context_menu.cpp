@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/context_menu.h"
+
+#include "headline_list/language_keys.h"
+#include "host/controls/plain_caption.h"
+#include "news_view/control_ids.h"
+#include "news_view/list_notices.h"
+
+std::vector<MenuEntry> contextMenuEntries(const MenuSituation& situation, BKQuoteInterface& backEnd,
+                                          const std::vector<MenuEntry>& waiting, const ListNotices& notices) {
+    std::vector<MenuEntry> entries;
+    const auto add = [&](QLatin1StringView key, int command) {
+        entries.push_back({command, LangText(backEnd, key), {}});
+    };
+    add(keys::showCategory, ids::changeCategoryState);
+    entries.back().checked = situation.showsCategory;
+    // Searches and warrants have no table that could be sent again.
+    if (situation.mode <= ListIndex::Symbol) {
+        entries.push_back({});
+        add(keys::recoverHeadlineList, ids::recoverHeadlineTable);
+    }
+    if (situation.onRow) {
+        add(keys::recoverStory, ids::recoverStory);
+        if (situation.hasStoryWindow)
+            add(keys::detailedStory, ids::showStory);
+        add(keys::printNews, ids::printNews);
+        add(keys::saveAsNews, ids::saveNews);
+    }
+    entries.insert(entries.end(), waiting.begin(), waiting.end());
+    for (const auto& [kind, text] : notices.InOrder()) {
+        if (const int command = CommandOf(kind); command != 0)
+            entries.push_back({command, CaptionOfName(text), {}});
+    }
+    return entries;
+}

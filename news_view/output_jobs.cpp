@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/output_jobs.h"
+
+#include "headline_list/language_keys.h"
+#include "host/controls/window_id.h"
+#include "news_view/control_ids.h"
+#include "news_view/story_stage.h"
+#include "news_view/view_settings.h"
+#include "story/trv_news_story.h"
+
+#include <QPointer>
+
+#include <numeric>
+
+OutputJobs::OutputJobs(BKQuoteInterface& newsBackEnd, OutputDialogs& dialogs, Surroundings surroundings)
+    : backEnd(newsBackEnd),
+      around(std::move(surroundings)),
+      printer(backEnd, dialogs, around.window),
+      saver(backEnd, dialogs, around.window),
+      previewer(backEnd, dialogs, around.window) {
+    for (TRVNewsPrint* job : jobs()) {
+        job->vSetOnAwaited(around.awaitedChanged);
+        job->vSetOnFinished([this](const NewsOutcome& outcome) { tell(outcome); });
+    }
+}
+
+NewsOutcome OutputJobs::print(const std::vector<CHeadlineTable>& entries,
+                              const std::optional<OutputTarget>& target) {
+    return putOut(printer, ids::printButton, entries, target);
+}
+
+NewsOutcome OutputJobs::save(const std::vector<CHeadlineTable>& entries,
+                             const std::optional<OutputTarget>& target) {
+    return putOut(saver, ids::saveAsButton, entries, target);
+}
+
+NewsOutcome OutputJobs::preview(const std::vector<CHeadlineTable>& entries) {
+    return putOut(previewer, ids::printButton, entries, std::nullopt);
+}
+
+NewsOutcome OutputJobs::putOut(TRVNewsPrint& job, int button, const std::vector<CHeadlineTable>& entries,
+                               const std::optional<OutputTarget>& target) {
+    if (entries.empty())
+        return {};
+    const std::vector<unsigned char> services = around.titles();
+    job.vSetWholeTitles(around.settings.options[ViewOption::WholeTitles]);
+    NewsItems items = job.Gather(entries, services);
+    if (!bIsSettled(items)) {
+        job.vWait(std::move(items), services, target);
+        NewsOutcome outcome;
+        outcome.waiting = true;
+        return outcome;
+    }
+    return target ? job.PutOut(std::move(items), nullptr, target) : ask(job, button, std::move(items));
+}
+
+NewsOutcome OutputJobs::ask(TRVNewsPrint& job, int button, NewsItems items) {
+    const QPointer<QWidget> window = &around.window;
+    const QPointer<QWidget> control = GetDlgItem(&around.window, button);
+    TRVNewsStory* dialog = around.stage.pGetDialog();
+    around.stage.vLeaveTop();
+    if (control != nullptr)
+        control->setEnabled(false);
+    NewsOutcome outcome = job.PutOut(
+        std::move(items), dialog != nullptr && dialog->isVisible() ? dialog : nullptr, std::nullopt);
+    if (control != nullptr)
+        control->setEnabled(true);
+    // The jobs have gone with their window: nobody is left to tell it.
+    if (window == nullptr)
+        outcome.message.clear();
+    else
+        around.stage.SetStoryWndStyle();
+    return outcome;
+}
+
+void OutputJobs::tell(const NewsOutcome& outcome) {
+    if (!outcome.message.isEmpty())
+        around.tell(outcome.message);
+}
+
+void OutputJobs::takeHeadlines(const std::vector<CHeadlineTable>& entries) {
+    for (TRVNewsPrint* job : jobs())
+        job->RespHeadLine(entries);
+}
+
+void OutputJobs::takeStory(const CHeadlineTable& entry) {
+    for (TRVNewsPrint* job : jobs())
+        job->RespStory(entry);
+}
+
+bool OutputJobs::isWaiting() const {
+    return awaited() != std::array<int, 3>{};
+}
+
+std::array<int, 3> OutputJobs::awaited() const {
+    return {printer.iAwaited(), saver.iAwaited(), previewer.iAwaited()};
+}
+
+QString OutputJobs::awaitedText() const {
+    constexpr std::array texts{keys::waitingToPrint, keys::waitingToSave, keys::waitingToPreview};
+    const std::array<int, 3> counts = awaited();
+    QStringList told;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (counts[i] > 0)
+            told.append(LangText(backEnd, texts[i]).arg(counts[i]));
+    }
+    return told.join(QStringLiteral(" · "));
+}
+
+std::vector<MenuEntry> OutputJobs::waitingCommands() const {
+    std::vector<MenuEntry> entries;
+    if (!isWaiting())
+        return entries;
+    if (const int complete = ready(); complete > 0)
+        entries.push_back({ids::putOutReady, LangText(backEnd, keys::putOutReady).arg(complete), {}});
+    entries.push_back({ids::stopWaiting, LangText(backEnd, keys::stopWaiting), {}});
+    return entries;
+}
+
+int OutputJobs::ready() const {
+    return printer.iReady() + saver.iReady() + previewer.iReady();
+}
+
+void OutputJobs::stopWaiting() {
+    for (TRVNewsPrint* job : jobs())
+        job->vForgetAwaited();
+}
+
+void OutputJobs::putOutReady() {
+    for (TRVNewsPrint* job : jobs())
+        job->vPutOutReady();
+}

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "headline_list/list_index.h"
+
+class BKQuoteInterface;
+class FeedBreaks;
+class HeadlineLists;
+class ListNotices;
+class SearchDesk;
+
+// What a view tells of the back end: since when it is cut off from its source, and that it is read as of an
+// earlier moment.
+void tellOfBackEnd(ListNotices& notices, BKQuoteInterface& backEnd, const FeedBreaks& breaks);
+
+// What a view tells of the list that it shows: a search that is narrowed to a symbol or older than a break,
+// and another list's filter.
+void tellOfList(ListNotices& notices, BKQuoteInterface& backEnd, ListIndex list, const HeadlineLists& lists,
+                const SearchDesk& searches, const FeedBreaks& breaks);
