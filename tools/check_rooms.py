@@ -24,12 +24,13 @@ ROOM = ""
 FLOORS = {
     "backend": {
         ROOM: set(),
+        "lines": {ROOM},
         "words": {ROOM},
         "database": {ROOM, "words"},
         "search": {ROOM, "words", "database"},
         "store": {ROOM, "words", "database", "search"},
         "import": {ROOM},
-        "feed": {ROOM, "import"},
+        "feed": {ROOM, "lines", "database", "store", "import"},
         "sample": {ROOM},
     },
 }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "backend/lines/line_splitter.h"
 #include "fuzz/support/fuzz_input.h"
 #include "terminal/automation/json_rpc.h"
-#include "terminal/automation/line_splitter.h"
 #include "terminal/automation/params.h"
 
 #include <QJsonDocument>

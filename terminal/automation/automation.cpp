@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/automation/automation.h"
 
+#include "backend/lines/standard_channel.h"
 #include "terminal/automation/dialog_methods.h"
-#include "terminal/automation/standard_channel.h"
 
 #include <QCoreApplication>
 

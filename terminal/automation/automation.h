@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/lines/socket_server.h"
 #include "terminal/automation/app_methods.h"
 #include "terminal/automation/control_methods.h"
 #include "terminal/automation/date_methods.h"
@@ -13,7 +14,6 @@
 #include "terminal/automation/menu_methods.h"
 #include "terminal/automation/output_methods.h"
 #include "terminal/automation/request_queue.h"
-#include "terminal/automation/socket_server.h"
 #include "terminal/automation/story_methods.h"
 #include "terminal/automation/view_methods.h"
 

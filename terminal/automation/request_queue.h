@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "terminal/automation/line_channel.h"
+#include "backend/lines/line_channel.h"
 #include "terminal/automation/method_table.h"
 
 #include <QHash>

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/feed_command.h"
 
+#include "backend/feed/feed_client.h"
+#include "backend/feed/feed_connection.h"
 #include "backend/feed/line_source.h"
+#include "backend/lines/standard_channel.h"
 #include "backend/store/store_writer.h"
-#include "terminal/automation/standard_channel.h"
 #include "terminal/commands/command_arguments.h"
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
-#include "terminal/feed/feed_client.h"
-#include "terminal/feed/feed_connection.h"
 #include "terminal/session/store_opening.h"
 
 #include <QCoreApplication>

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/open_command.h"
 
+#include "backend/feed/feed_name.h"
+#include "backend/lines/standard_channel.h"
 #include "terminal/automation/automation.h"
-#include "terminal/automation/standard_channel.h"
 #include "terminal/commands/command_arguments.h"
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
 #include "terminal/console/interrupt.h"
-#include "terminal/feed/feed_name.h"
 #include "terminal/session/frame_commands.h"
 #include "terminal/session/session.h"
 #include "terminal/tour/tour.h"

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/replay_command.h"
 
+#include "backend/feed/feed_name.h"
+#include "backend/feed/replay.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "terminal/commands/command_arguments.h"
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
 #include "terminal/console/interrupt.h"
-#include "terminal/feed/feed_name.h"
-#include "terminal/feed/replay.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/session.h"
 
+#include "backend/feed/feed_name.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
-#include "terminal/feed/feed_name.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/session/indexing_window.h"
 #include "terminal/session/module_location.h"

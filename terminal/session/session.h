@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/feed/live_feed.h"
 #include "backend/result.h"
 #include "backend/store/embedded_back_end.h"
-#include "terminal/feed/live_feed.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/workspace.h"
 #include "terminal/session/appearance.h"

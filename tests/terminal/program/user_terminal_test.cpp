@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "backend/feed/feed_name.h"
+#include "backend/lines/own_socket.h"
 #include "host/contract/clock.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
-#include "terminal/automation/own_socket.h"
 #include "terminal/automation/user_input.h"
-#include "terminal/feed/feed_name.h"
 #include "terminal/session/frame_commands.h"
 #include "terminal/session/session.h"
 #include "tests/terminal/program/program_runner.h"

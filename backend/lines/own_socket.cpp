@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/automation/own_socket.h"
+#include "backend/lines/own_socket.h"
 
 #include <QDir>
 #include <QFile>

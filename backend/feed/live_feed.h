@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/feed/feed_connection.h"
 #include "backend/feed/spool_source.h"
-#include "terminal/automation/socket_server.h"
-#include "terminal/feed/feed_connection.h"
+#include "backend/lines/socket_server.h"
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/feed/feed_connection.h"
+#include "backend/feed/feed_connection.h"
 
-#include "terminal/automation/line_channel.h"
+#include "backend/lines/line_channel.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/feed/live_feed.h"
+#include "backend/feed/live_feed.h"
 
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/store_file.h"

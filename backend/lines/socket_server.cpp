@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/automation/socket_server.h"
+#include "backend/lines/socket_server.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/feed/feed_client.h"
 #include "backend/store/stored_day.h"
-#include "terminal/feed/feed_client.h"
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "terminal/automation/line_splitter.h"
+#include "backend/lines/line_splitter.h"
 
 #include <QObject>
 

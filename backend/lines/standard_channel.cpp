@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/automation/standard_channel.h"
+#include "backend/lines/standard_channel.h"
 
 #include <array>
 #include <cerrno>

@@ -4,7 +4,7 @@
 
 #include "backend/feed/feed_line.h"
 #include "backend/import/import_job.h"
-#include "terminal/automation/line_splitter.h"
+#include "backend/lines/line_splitter.h"
 
 #include <QLocalSocket>
 #include <QObject>

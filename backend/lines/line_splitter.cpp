@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/automation/line_splitter.h"
+#include "backend/lines/line_splitter.h"
 
 namespace wirepane {
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "backend/feed/live_feed.h"
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/store_checker.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
-#include "terminal/feed/live_feed.h"
 #include "tests/backend/store/listener.h"
 
 #include <QDateTime>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/feed/replay.h"
+#include "backend/feed/replay.h"
 
 #include "backend/feed/feed_line.h"
 #include "host/contract/clock.h"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/feed/feed_client.h"
+#include "backend/feed/feed_client.h"
 
-#include "terminal/automation/own_socket.h"
+#include "backend/lines/own_socket.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

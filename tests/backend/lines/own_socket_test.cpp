@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/automation/own_socket.h"
+#include "backend/lines/own_socket.h"
 
-#include "terminal/automation/socket_server.h"
-#include "terminal/feed/feed_client.h"
+#include "backend/feed/feed_client.h"
+#include "backend/lines/socket_server.h"
 
 #include <QDir>
 #include <QFile>

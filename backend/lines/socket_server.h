@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "terminal/automation/line_channel.h"
-#include "terminal/automation/long_lines.h"
-#include "terminal/automation/own_socket.h"
+#include "backend/lines/line_channel.h"
+#include "backend/lines/long_lines.h"
+#include "backend/lines/own_socket.h"
 
 #include <QLocalSocket>
 #include <QPointer>

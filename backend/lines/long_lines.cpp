@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/automation/long_lines.h"
+#include "backend/lines/long_lines.h"
 
 namespace wirepane {
 

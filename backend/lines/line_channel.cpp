@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "terminal/automation/line_channel.h"
+#include "backend/lines/line_channel.h"
 
 namespace wirepane {
 
