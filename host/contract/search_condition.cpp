@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/contract/search_condition.h"
 
+#include "host/contract/json_fields.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -15,14 +17,8 @@ namespace {
 
 constexpr unsigned char highestScope = 2;
 constexpr unsigned char highestMethod = 2;
-
-// The whole number of a value up to `most`; absent counts as 0.
-std::optional<unsigned char> smallNumber(const QJsonValue& value, unsigned char most) {
-    const int number = value.toInt(value.isUndefined() ? 0 : -1);
-    if (number < 0 || number > most)
-        return std::nullopt;
-    return static_cast<unsigned char>(number);
-}
+constexpr std::int64_t earliest = std::numeric_limits<std::int64_t>::min();
+constexpr std::int64_t latest = std::numeric_limits<std::int64_t>::max();
 
 std::vector<QString> keywordsFrom(const QJsonArray& texts) {
     std::vector<QString> keywords;
@@ -38,10 +34,10 @@ std::optional<std::vector<CSymbolInfo>> symbolsFrom(const QJsonArray& values) {
     std::vector<CSymbolInfo> symbols;
     for (const auto& value : values) {
         const QJsonArray pair = value.toArray();
-        const auto market = smallNumber(pair.at(0), std::numeric_limits<unsigned char>::max());
+        const auto market = wholeNumber(pair.at(0), 0, std::numeric_limits<unsigned char>::max());
         if (!market || !pair.at(1).isString())
             return std::nullopt;
-        symbols.push_back({*market, pair.at(1).toString()});
+        symbols.push_back({static_cast<unsigned char>(*market), pair.at(1).toString()});
     }
     return symbols;
 }
@@ -63,17 +59,18 @@ QString CSearch::GetString() const {
 
 bool CSearch::LoadStringA(const QString& text) {
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
-    const QJsonObject object = document.object();
-    const auto readScope = smallNumber(object[u"scope"_s], highestScope);
-    const auto readMethod = smallNumber(object[u"method"_s], highestMethod);
-    const auto readSymbols = symbolsFrom(object[u"symbols"_s].toArray());
-    if (!object[u"keywords"_s].isArray() || !readScope || !readMethod || !readSymbols)
+    JsonFields fields(document.object());
+    CSearch read;
+    read.keywords = keywordsFrom(fields.list(u"keywords"_s));
+    read.scope = static_cast<unsigned char>(fields.optionalNumber(u"scope"_s, 0, highestScope).value_or(0));
+    read.method =
+        static_cast<unsigned char>(fields.optionalNumber(u"method"_s, 0, highestMethod).value_or(0));
+    read.time = fields.optionalNumber(u"time"_s, earliest, latest).value_or(0);
+    read.keywordSearch = fields.optionalFlag(u"keywordSearch"_s).value_or(false);
+    const auto readSymbols = symbolsFrom(fields.optionalList(u"symbols"_s).value_or(QJsonArray()));
+    if (fields.fault() || !readSymbols)
         return false;
-    *this = {keywordsFrom(object[u"keywords"_s].toArray()),
-             *readScope,
-             *readMethod,
-             object[u"time"_s].toInteger(),
-             *readSymbols,
-             object[u"keywordSearch"_s].toBool()};
+    read.symbols = *readSymbols;
+    *this = read;
     return true;
 }

@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/automation/params.h"
 
-#include <QJsonArray>
-
-#include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -14,56 +12,54 @@ namespace {
 
 constexpr int largestSide = 8192;
 
-std::optional<std::int64_t> wholeNumber(const QJsonValue& value, std::int64_t least, std::int64_t most) {
-    const double number = value.toDouble(std::nan(""));
-    if (!(number == std::trunc(number)) || number < static_cast<double>(least) ||
-        number > static_cast<double>(most))
-        return std::nullopt;
-    return value.toInteger();
+QString messageOf(const JsonFault& fault) {
+    const QString field = u"\"%1\" "_s.arg(fault.field);
+    switch (fault.must) {
+        case JsonMust::BeThere:
+            return field + u"is missing"_s;
+        case JsonMust::BeText:
+            return field + u"must be a text"_s;
+        case JsonMust::BeNumber:
+            return field + u"must be a number"_s;
+        case JsonMust::BeTrueOrFalse:
+            return field + u"must be true or false"_s;
+        case JsonMust::BeList:
+            return field + u"must be a list"_s;
+        case JsonMust::BeObject:
+            return field + u"must be an object"_s;
+        case JsonMust::BeWholeNumber:
+            break;
+    }
+    return field + u"must be a whole number from %1 to %2"_s.arg(fault.least).arg(fault.most);
 }
 
 }  // namespace
 
-Params::Params(QJsonObject parameters) : values(std::move(parameters)) {}
+Params::Params(QJsonObject parameters) : fields(std::move(parameters)) {}
 
 void Params::fail(const QString& message, RpcCode code) {
     if (!firstError)
         firstError = RpcError{code, message};
 }
 
-bool Params::has(const QString& name) const {
-    const QJsonValue found = values.value(name);
-    return !found.isUndefined() && !found.isNull();
+template <class Value>
+Value Params::checked(Value read) {
+    if (fields.fault())
+        fail(messageOf(*fields.fault()));
+    return read;
 }
 
 std::optional<std::int64_t> Params::optionalNumber(const QString& name, std::int64_t least,
                                                    std::int64_t most) {
-    if (!has(name))
-        return std::nullopt;
-    const auto number = wholeNumber(value(name), least, most);
-    if (!number)
-        fail(u"\"%1\" must be a whole number from %2 to %3"_s.arg(name).arg(least).arg(most));
-    return number;
+    return checked(fields.optionalNumber(name, least, most));
 }
 
 std::optional<QString> Params::optionalText(const QString& name) {
-    if (!has(name))
-        return std::nullopt;
-    if (!value(name).isString()) {
-        fail(u"\"%1\" must be a text"_s.arg(name));
-        return std::nullopt;
-    }
-    return value(name).toString();
+    return checked(fields.optionalText(name));
 }
 
 std::optional<bool> Params::optionalBool(const QString& name) {
-    if (!has(name))
-        return std::nullopt;
-    if (!value(name).isBool()) {
-        fail(u"\"%1\" must be true or false"_s.arg(name));
-        return std::nullopt;
-    }
-    return value(name).toBool();
+    return checked(fields.optionalFlag(name));
 }
 
 std::optional<QSize> Params::optionalSize(const QString& name) {
@@ -96,38 +92,29 @@ std::optional<std::vector<int>> Params::optionalNumbers(const QString& name) {
 }
 
 QJsonObject Params::optionalObject(const QString& name) {
-    if (has(name) && !value(name).isObject())
-        fail(u"\"%1\" must be an object"_s.arg(name));
-    return value(name).toObject();
-}
-
-template <class Value>
-Value Params::required(const QString& name, const std::optional<Value>& read) {
-    if (!has(name))
-        fail(u"\"%1\" is missing"_s.arg(name));
-    return read.value_or(Value());
+    return checked(fields.optionalObject(name)).value_or(QJsonObject());
 }
 
 std::int64_t Params::number(const QString& name, std::int64_t least, std::int64_t most) {
-    return required(name, optionalNumber(name, least, most));
+    return checked(fields.number(name, least, most));
 }
 
 double Params::real(const QString& name) {
-    if (!value(name).isDouble())
-        fail(u"\"%1\" must be a number"_s.arg(name));
-    return value(name).toDouble();
+    return checked(fields.real(name));
 }
 
 QString Params::text(const QString& name) {
-    return required(name, optionalText(name));
+    return checked(fields.text(name));
 }
 
 bool Params::boolean(const QString& name) {
-    return required(name, optionalBool(name));
+    return checked(fields.flag(name));
 }
 
 QSize Params::size(const QString& name) {
-    return required(name, optionalSize(name));
+    if (!has(name))
+        fail(messageOf({name}));
+    return optionalSize(name).value_or(QSize());
 }
 
 }  // namespace wirepane

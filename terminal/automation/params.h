@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/json_fields.h"
 #include "terminal/automation/json_rpc.h"
 
 #include <QSize>
@@ -23,9 +24,9 @@ public:
     // Records an error of the caller's own, unless there is one already.
     void fail(const QString& message, RpcCode code = RpcCode::BadParameters);
 
-    bool has(const QString& name) const;
-    const QJsonObject& all() const { return values; }
-    QJsonValue value(const QString& name) const { return values.value(name); }
+    bool has(const QString& name) const { return fields.has(name); }
+    const QJsonObject& all() const { return fields.all(); }
+    QJsonValue value(const QString& name) const { return fields.all().value(name); }
 
     // The value, nothing when it is absent.
     std::optional<std::int64_t> optionalNumber(const QString& name,
@@ -47,10 +48,11 @@ public:
     QSize size(const QString& name);
 
 private:
+    // What was read, after a fault that it may have has been kept.
     template <class Value>
-    Value required(const QString& name, const std::optional<Value>& read);
+    Value checked(Value read);
 
-    QJsonObject values;
+    JsonFields fields;
     std::optional<RpcError> firstError;
 };
 
