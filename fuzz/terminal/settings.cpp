@@ -22,7 +22,8 @@ class SettingsFolder {
 public:
     SettingsFolder() {
         static int number = 0;
-        path = folder().filePath(u"%1.ini"_s.arg(++number));
+        path = folder().filePath(u"%1.json"_s.arg(++number));
+        older = folder().filePath(u"%1.ini"_s.arg(number));
     }
     ~SettingsFolder() {
         QDir all(folder().path());
@@ -33,6 +34,7 @@ public:
     SettingsFolder& operator=(const SettingsFolder&) = delete;
 
     QString path;
+    QString older;
 
 private:
     static QTemporaryDir& folder() {
@@ -69,15 +71,19 @@ void promiseLayout(const WorkspaceLayout& layout) {
         promise(group > 0 && symbol.market > 0 && !symbol.code.isEmpty(), "a link group shows a symbol");
 }
 
-// A settings file as a user may have left it.
-void tryFile(const QByteArray& content) {
+void writeFile(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    promise(file.open(QIODevice::WriteOnly) && file.write(content) == content.size(), "a file is written");
+}
+
+// A settings file as a user may have left it; one of the older form is carried over.
+void tryFile(const QByteArray& content, bool isOlder) {
     const SettingsFolder folder;
-    QFile written(folder.path);
-    promise(written.open(QIODevice::WriteOnly) && written.write(content) == content.size(),
-            "a file is written");
-    written.close();
-    SettingsFile file(folder.path);
-    if (!file.message().isEmpty())
+    writeFile(isOlder ? folder.older : folder.path, content);
+    SettingsFile file(folder.path, folder.older);
+    if (isOlder)
+        promise(contentOf(folder.older) == content, "an older file stays as it is");
+    else if (!file.message().isEmpty())
         promise(contentOf(folder.path + u".damaged-1"_s) == content, "a damaged file is kept as it was");
     const TerminalSettings settings(file);
     promise(settings.fontSize() >= TerminalSettings::smallestFont &&
@@ -88,7 +94,7 @@ void tryFile(const QByteArray& content) {
     layout.write(file);
     file.setValue(u"fuzz"_s, u"saved"_s, true);
     promise(bool(file.save()), "settings are saved");
-    const SettingsFile again(folder.path);
+    const SettingsFile again(folder.path, folder.older);
     promise(again.message().isEmpty() && again.value(u"fuzz"_s, u"saved"_s).toBool(),
             "what is saved is read");
     promise(isSame(WorkspaceLayout::read(again), layout), "a layout is read back as it was");
@@ -110,12 +116,12 @@ void tryValue(const QString& text) {
 
 }  // namespace
 
-// A settings file behind the letter "f"; else a group, a name and a value.
+// A settings file behind the letter "f", one of the older form behind "i"; else a group, a name and a value.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     FuzzInput input(bytes, size);
-    if (size > 0 && bytes[0] == 'f') {
-        input.byte();
-        tryFile(input.bytes());
+    if (size > 0 && (bytes[0] == 'f' || bytes[0] == 'i')) {
+        const bool isOlder = input.byte() == 'i';
+        tryFile(input.bytes(), isOlder);
     } else {
         tryValue(input.text());
     }

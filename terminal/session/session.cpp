@@ -65,7 +65,8 @@ bool needsChineseFont(EmbeddedBackEnd& backEnd) {
 Session::Session(const SessionOptions& options)
     : configFolder(QDir(options.configFolder).absolutePath()),
       storeFile(options.storeFile),
-      settingsFile(QDir(configFolder).filePath(u"wirepane.ini"_s)),
+      settingsFile(QDir(configFolder).filePath(u"wirepane.json"_s),
+                   QDir(configFolder).filePath(u"wirepane.ini"_s)),
       layout(settingsFile),
       terminalSettings(std::make_unique<TerminalSettings>(settingsFile)) {
     CSyncInfo::SetSettingCFG(terminalSettings.get());

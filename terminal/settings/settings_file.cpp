@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/settings/settings_file.h"
 
+#include "terminal/settings/ini_settings.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QSettings>
-#include <QUrl>
-
-#include <algorithm>
+#include <QLockFile>
+#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
@@ -18,64 +17,72 @@ namespace wirepane {
 
 namespace {
 
-// The ini format gives slashes and backslashes in keys a meaning of their own.
-QString escaped(const QString& part) {
-    return part.isEmpty() ? u"%"_s : QString::fromLatin1(QUrl::toPercentEncoding(part));
+constexpr int lockPatienceMs = 2000;
+
+// The object that the file holds; nothing where it is damaged.
+std::optional<QJsonObject> contentOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
+    if (!document.isObject())
+        return std::nullopt;
+    return document.object();
 }
 
-QString fileKey(const QString& group, const QString& name) {
-    return escaped(group) + u'/' + escaped(name);
-}
-
-// JSON knows no document of a bare value here: it travels inside an array.
-QString encoded(const QJsonValue& value) {
-    const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(array.mid(1, array.size() - 2));
-}
-
-QJsonValue decoded(const QVariant& stored) {
-    if (stored.typeId() != QMetaType::QString)
-        return QJsonValue::Undefined;
-    const QByteArray array = '[' + stored.toString().toUtf8() + ']';
-    const QJsonArray values = QJsonDocument::fromJson(array).array();
-    return values.size() == 1 ? values.at(0) : QJsonValue(QJsonValue::Undefined);
-}
-
-bool isDamaged(const QSettings& settings) {
-    const QStringList keys = settings.allKeys();
-    const bool allDecoded = std::none_of(keys.begin(), keys.end(), [&settings](const QString& key) {
-        return decoded(settings.value(key)).isUndefined();
-    });
-    // Sections are parsed when they are read: the status is known only now.
-    return !allDecoded || settings.status() == QSettings::FormatError;
-}
-
-// What is replaced keeps its rights: so it is its owner's alone from its first byte on.
-void makeForOwner(const QString& path) {
-    QFile(path).open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner);
-}
-
-std::unique_ptr<QSettings> openIni(const QString& path) {
-    return std::make_unique<QSettings>(path, QSettings::IniFormat);
+void change(QJsonObject& groups, const QString& group, const QString& name, const QJsonValue& value) {
+    QJsonObject values = groups.value(group).toObject();
+    if (value.isUndefined())
+        values.remove(name);
+    else
+        values.insert(name, value);
+    if (values.isEmpty())
+        groups.remove(group);
+    else
+        groups.insert(group, values);
 }
 
 }  // namespace
 
-SettingsFile::SettingsFile(const QString& filePath) : path(filePath) {
+SettingsFile::SettingsFile(const QString& filePath, const QString& olderIni) : path(filePath) {
     const QFileInfo info(path);
-    if (info.exists() && !(info.isFile() && info.isReadable())) {
-        readable = false;
-        openingMessage = u"The settings file %1 cannot be read; the defaults are used."_s.arg(path);
-    }
-    settings = openIni(readable ? path : QString());
-    if (readable && isDamaged(*settings))
-        setAsideDamagedFile();
+    if (info.exists())
+        open();
+    else if (QFileInfo::exists(olderIni))
+        carryOver(olderIni);
 }
 
-SettingsFile::~SettingsFile() = default;
+void SettingsFile::open() {
+    const QFileInfo info(path);
+    readable = info.isFile() && info.isReadable();
+    if (!readable) {
+        openingMessage = u"The settings file %1 cannot be read; the defaults are used."_s.arg(path);
+        return;
+    }
+    if (std::optional<QJsonObject> content = contentOf(path))
+        groups = *std::move(content);
+    else if (setAside())
+        write();  // that there is a file says that there is nothing to carry over any more
+}
 
-void SettingsFile::setAsideDamagedFile() {
-    settings.reset();
+void SettingsFile::carryOver(const QString& olderIni) {
+    const std::optional<QJsonObject> older = readIniSettings(olderIni);
+    if (!older) {
+        openingMessage =
+            u"The settings file %1 is damaged and stays as it is; the defaults are used."_s.arg(olderIni);
+        return;
+    }
+    for (auto group = older->begin(); group != older->end(); ++group) {
+        const QJsonObject values = group.value().toObject();
+        for (auto value = values.begin(); value != values.end(); ++value)
+            setValue(group.key(), value.key(), value.value());
+    }
+    // Where it cannot be saved now, it is later, or at the next start.
+    save();
+}
+
+// False: the damaged file cannot be moved, and is never written.
+bool SettingsFile::setAside() {
     QString aside;
     for (int number = 1; aside.isEmpty() || QFileInfo::exists(aside); ++number)
         aside = u"%1.damaged-%2"_s.arg(path).arg(number);
@@ -85,50 +92,64 @@ void SettingsFile::setAsideDamagedFile() {
                        path, QFileInfo(aside).fileName())
                  : u"The settings file %1 is damaged and cannot be moved; the defaults are used and "
                    "nothing is saved."_s.arg(path);
-    settings = openIni(readable ? path : QString());
+    return readable;
 }
 
 QJsonValue SettingsFile::value(const QString& group, const QString& name) const {
-    const QVariant stored = settings->value(fileKey(group, name));
-    return stored.isValid() ? decoded(stored) : QJsonValue(QJsonValue::Undefined);
+    return groups.value(group).toObject().value(name);
 }
 
 void SettingsFile::setValue(const QString& group, const QString& name, const QJsonValue& value) {
     if (!readable || this->value(group, name) == value)
         return;
-    changed = true;
-    // The settings may be written at any time from here on.
-    makeForOwner(path);
-    if (value.isUndefined())
-        settings->remove(fileKey(group, name));
-    else
-        settings->setValue(fileKey(group, name), encoded(value));
+    change(groups, group, name, value);
+    changes.insert_or_assign({group, name}, value);
 }
 
 void SettingsFile::removeGroups(const QString& beginning) {
-    const QString start = escaped(beginning);
-    const QStringList groups = settings->childGroups();
-    for (const QString& group : groups) {
-        if (!readable || !group.startsWith(start))
+    for (const QString& group : groups.keys()) {
+        if (!group.startsWith(beginning))
             continue;
-        settings->remove(group);
-        changed = true;
+        for (const QString& name : groups.value(group).toObject().keys())
+            setValue(group, name, QJsonValue::Undefined);
     }
 }
 
 Done SettingsFile::save() {
     if (!readable)
         return Error{u"The settings are not saved: the file %1 could not be read."_s.arg(path)};
-    if (!changed)
+    if (changes.empty())
         return Nothing{};
     const QFileInfo info(path);
     if (!QDir().mkpath(info.absolutePath()))
         return Error{u"The settings are not saved: the folder %1 cannot be made."_s.arg(info.absolutePath())};
-    makeForOwner(path);
-    settings->sync();
-    if (settings->status() != QSettings::NoError)
-        return Error{u"The settings are not saved: the file %1 cannot be written."_s.arg(path)};
-    changed = false;
+    const Done written = write();
+    if (written)
+        changes.clear();
+    return written;
+}
+
+Done SettingsFile::write() {
+    const Error failure{u"The settings are not saved: the file %1 cannot be written."_s.arg(path)};
+    QLockFile lock(path + u".lock"_s);
+    if (!lock.tryLock(lockPatienceMs))
+        return failure;
+    const bool isNew = !QFileInfo::exists(path);
+    std::optional<QJsonObject> present = isNew ? groups : contentOf(path);
+    if (!present && !setAside())
+        return failure;
+    QJsonObject all = present ? *std::move(present) : groups;
+    for (const auto& [place, value] : changes)
+        change(all, place.first, place.second, value);
+    QSaveFile file(path);
+    // What is replaced keeps its rights; what is new is its owner's alone from its first byte on.
+    if (!file.open(QIODevice::WriteOnly) ||
+        (!QFileInfo::exists(path) && !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)))
+        return failure;
+    file.write(QJsonDocument(all).toJson());
+    if (!file.commit())
+        return failure;
+    groups = all;
     return Nothing{};
 }
 

@@ -27,7 +27,7 @@ protected:
                more;
     }
     std::size_t keptViews() const {
-        const SettingsFile file(scratch.path(u"config/wirepane.ini"_s));
+        const SettingsFile file(scratch.path(u"config/wirepane.json"_s));
         return WorkspaceLayout::read(file).views.size();
     }
 

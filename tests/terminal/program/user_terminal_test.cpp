@@ -156,10 +156,10 @@ TEST_F(UserTerminalTest, ReadingAsOfAMomentEndsThereAndGoesOnAsTheClockRuns) {
 
 TEST_F(UserTerminalTest, ADamagedSettingsFileDoesNotKeepTheTerminalShut) {
     ASSERT_TRUE(QDir().mkpath(scratch.path(u"config"_s)));
-    scratch.write(u"config/wirepane.ini"_s, "[view\n\0\0garbage");
+    scratch.write(u"config/wirepane.json"_s, "[view\n\0\0garbage");
     const auto session = open();
     ASSERT_NE(session, nullptr);
-    EXPECT_TRUE(session->settingsMessage().contains(u"wirepane.ini.damaged-1"_s))
+    EXPECT_TRUE(session->settingsMessage().contains(u"wirepane.json.damaged-1"_s))
         << session->settingsMessage().toStdString();
 }
 

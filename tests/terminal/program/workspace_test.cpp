@@ -85,7 +85,7 @@ protected:
     }
 
     QByteArray settings() const {
-        QFile file(scratch.path(u"config/wirepane.ini"_s));
+        QFile file(scratch.path(u"config/wirepane.json"_s));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
@@ -113,7 +113,7 @@ TEST_F(WorkspaceTest, AKilledTerminalHasKeptThem) {
         // All is kept in one go: when the last thing that was done is there, the rest is.
         QElapsedTimer patience;
         patience.start();
-        while (settings().count(R"(\"linkGroup\":3)") < 4 && patience.elapsed() < 30000)
+        while (settings().count(R"("linkGroup": 3)") < 4 && patience.elapsed() < 30000)
             script.result(u"wait"_s, QJsonObject{{u"ms"_s, 100}});
         script.kill();
     }
@@ -129,26 +129,30 @@ TEST_F(WorkspaceTest, SettingsWithoutSenseOpenWithTheirDefaults) {
         int mask;
         bool damaged;
     };
-    const QByteArray view = "[view.0.0.4.main.TRVNewsCtrlView]\n";
+    const auto view = [](const QByteArray& values) -> QByteArray {
+        return R"({"view.0.0.4.main.TRVNewsCtrlView": {)" + values + "}}";
+    };
     const Case cases[] = {
-        {"unknown keys", "[terminal]\nno=1\n" + view + "NoSuchKey=3\nFocusedTab=1\n[nowhere]\na=\\\"b\\\"\n",
-         1, 0x6F, false},
-        {"wrong types",
-         "[terminal]\nfontSize=\\\"x\\\"\nscheme=3\nlanguage=[]\n" + view +
-             "EnabledFunctions=\\\"x\\\"\nFocusedTab=[]\nSheet0ServiceCheck1=\\\"maybe\\\"\n",
-         0, 0x6F, false},
-        {"out of range", "[terminal]\nfontSize=99999\n" + view + "FocusedTab=99\nNewsShowType=70000\n", 0,
-         0x6F, false},
-        {"a mask without modes", view + "EnabledFunctions=0\nFocusedTab=3\n", 3, 0, false},
-        {"a service that no longer exists", view + "Sheet0ServiceCheck9=true\n", 0, 0x6F, false},
-        {"views without sense", "[workspace]\nviews=7\narrangement=\\\"AAAA\\\"\nactivePlace=-4\n", 0, 0x6F,
+        {"unknown keys",
+         view(R"("NoSuchKey": 3, "FocusedTab": 1}, "terminal": {"no": 1}, "nowhere": {"a": "b")"), 1, 0x6F,
          false},
-        {"no ini file", QByteArray(2000, '\xff'), 0, 0x6F, true},
-        {"half a file", "[terminal]\nscheme=\\\"dark", 0, 0x6F, true},
+        {"wrong types", view(R"("EnabledFunctions": "x", "FocusedTab": [], "Sheet0ServiceCheck1": "maybe"},
+              "terminal": {"fontSize": "x", "scheme": 3, "language": [])"),
+         0, 0x6F, false},
+        {"groups that are none",
+         R"({"terminal": 7, "workspace": [], "view.0.0.4.main.TRVNewsCtrlView": "x"})", 0, 0x6F, false},
+        {"out of range", view(R"("FocusedTab": 99, "NewsShowType": 70000}, "terminal": {"fontSize": 99999)"),
+         0, 0x6F, false},
+        {"a mask without modes", view(R"("EnabledFunctions": 0, "FocusedTab": 3)"), 3, 0, false},
+        {"a service that no longer exists", view(R"("Sheet0ServiceCheck9": true)"), 0, 0x6F, false},
+        {"views without sense", R"({"workspace": {"views": 7, "arrangement": "AAAA", "activePlace": -4}})", 0,
+         0x6F, false},
+        {"no JSON", QByteArray(2000, '\xff'), 0, 0x6F, true},
+        {"half a file", R"({"terminal": {"scheme": "dark)", 0, 0x6F, true},
     };
     QDir().mkpath(scratch.path(u"config"_s));
     for (const Case& test : cases) {
-        scratch.write(u"config/wirepane.ini"_s, test.file);
+        scratch.write(u"config/wirepane.json"_s, test.file);
         ScriptClient script(arguments());
         const QJsonObject state = stateOf(script, 1);
         EXPECT_EQ(state[u"mode"_s].toInt(-1), test.mode) << test.what;

@@ -16,7 +16,7 @@ namespace {
 
 TEST(LayoutStoreTest, KeepsEachKindOfSettingApartByViewAndPlace) {
     QTemporaryDir folder;
-    const QString path = folder.filePath(u"wirepane.ini"_s);
+    const QString path = folder.filePath(u"wirepane.json"_s);
     const ViewSettingPath one{u"main"_s, 0, 1, u"TRVNewsCtrlView"_s};
     const ViewSettingPath others[] = {
         {u"main"_s, 1, 0, u"TRVNewsCtrlView"_s},
@@ -56,7 +56,7 @@ TEST(LayoutStoreTest, KeepsEachKindOfSettingApartByViewAndPlace) {
 
 TEST(TerminalSettingsTest, TakesValuesThatMakeNoSenseAsDefaults) {
     QTemporaryDir folder;
-    SettingsFile file(folder.filePath(u"wirepane.ini"_s));
+    SettingsFile file(folder.filePath(u"wirepane.json"_s));
     file.setValue(u"terminal"_s, u"fontSize"_s, 4000);
     file.setValue(u"terminal"_s, u"scheme"_s, u"pink"_s);
     file.setValue(u"terminal"_s, u"popupPosition"_s, u"above"_s);

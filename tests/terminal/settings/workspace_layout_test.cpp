@@ -18,7 +18,7 @@ namespace {
 
 class WorkspaceLayoutTest : public testing::Test {
 protected:
-    QString path() const { return folder.filePath(u"wirepane.ini"_s); }
+    QString path() const { return folder.filePath(u"wirepane.json"_s); }
 
     // The layout that a file with this value reads as.
     WorkspaceLayout readWith(const QString& name, const QByteArray& json) const {
