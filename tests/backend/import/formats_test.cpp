@@ -85,8 +85,7 @@ TEST(Formats, AreToldByContent) {
 }
 
 TEST(Formats, WhatNoneRecognisesIsRefusedByName) {
-    const QString unknown =
-        u"The file is of no known format (ninjs, RSS, Atom, NewsML-G2, CSV): it starts with "_s;
+    const QString unknown = u"The file is of no known format (%1): it starts with "_s.arg(namesOfFormats());
     const QString xml = u"The file is XML of a kind that is not known here: its root is "_s;
     const QString json = u"The file is JSON of a kind that is not known here: a record has the fields "_s;
     const std::vector<std::pair<QByteArray, QString>> sources{
