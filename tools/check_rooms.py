@@ -33,6 +33,17 @@ FLOORS = {
         "feed": {ROOM, "lines", "database", "store", "import"},
         "sample": {ROOM},
     },
+    "terminal": {
+        "console": set(),
+        "translations": set(),
+        "settings": set(),
+        "frame": {"translations", "settings"},
+        "session": {"console", "translations", "settings", "frame"},
+        "automation": {"settings", "frame", "session"},
+        "tour": {"console", "frame", "session", "automation"},
+        "commands": {"console", "translations", "session", "automation", "tour"},
+        ROOM: {"console", "commands"},
+    },
 }
 # A back end needs no widgets: of the host it knows the contract alone.
 WITHOUT_WIDGETS = {"backend", "host/contract"}
