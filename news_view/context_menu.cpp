@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/context_menu.h"
 
+#include "headline_list/headline_list.h"
 #include "headline_list/language_keys.h"
 #include "host/controls/plain_caption.h"
 #include "news_view/control_ids.h"
 #include "news_view/list_notices.h"
+#include "news_view/view_context.h"
+
+#include <QWidget>
 
 std::vector<MenuEntry> contextMenuEntries(const MenuSituation& situation, BKQuoteInterface& backEnd,
                                           const std::vector<MenuEntry>& waiting, const ListNotices& notices) {
@@ -33,4 +37,32 @@ std::vector<MenuEntry> contextMenuEntries(const MenuSituation& situation, BKQuot
             entries.push_back({command, CaptionOfName(text), {}});
     }
     return entries;
+}
+
+ContextMenu::ContextMenu(ViewContext& context, CommandMenu& commandMenu, Surroundings surroundings)
+    : view(context), menu(commandMenu), around(std::move(surroundings)) {}
+
+void ContextMenu::openByKey() {
+    CSuperSheetWnd* grid = view.listOf(view.shownList()).pGetGrid();
+    if (grid == nullptr)
+        return;
+    const int row = grid->cptGetFocusNdx().y();
+    grid->vAutoVerScrolling(row);
+    const QRect place = row < 0 ? QRect() : grid->visualRect(grid->currentIndex());
+    const QPoint point(grid->viewport()->width() / 4, row < 0 ? 0 : place.center().y());
+    open(grid->viewport()->mapToGlobal(point), row >= 0);
+}
+
+bool ContextMenu::openAt(const QPoint& screen) {
+    const int height = around.window.mapFromGlobal(screen).y();
+    if (height >= 0 && height < around.titleHeight())
+        return false;
+    const CSuperSheetWnd* grid = view.listOf(view.shownList()).pGetGrid();
+    open(screen, grid != nullptr && grid->isVisible() && grid->iCalcRowNdx(grid->mapFromGlobal(screen)) >= 0);
+    return true;
+}
+
+void ContextMenu::open(const QPoint& screen, bool onRow) {
+    if (around.window.isVisible())
+        menu.popUp(around.entries(onRow), screen);
 }

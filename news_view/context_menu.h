@@ -5,10 +5,12 @@
 #include "headline_list/list_index.h"
 #include "news_view/command_menu.h"
 
+#include <functional>
 #include <vector>
 
 class BKQuoteInterface;
 class ListNotices;
+class ViewContext;
 
 // What the context menu of a view depends on.
 struct MenuSituation {
@@ -22,3 +24,28 @@ struct MenuSituation {
 // about the notices.
 std::vector<MenuEntry> contextMenuEntries(const MenuSituation& situation, BKQuoteInterface& backEnd,
                                           const std::vector<MenuEntry>& waiting, const ListNotices& notices);
+
+// Where the context menu of a view pops up. Interface thread only.
+class ContextMenu {
+public:
+    struct Surroundings {
+        const QWidget& window;             // the view
+        std::function<int()> titleHeight;  // of the band at the top of the window whose menu is another one
+        std::function<std::vector<MenuEntry>(bool onRow)> entries;
+    };
+
+    // All that is referred to outlives this.
+    ContextMenu(ViewContext& view, CommandMenu& menu, Surroundings surroundings);
+
+    // At a point of the screen. False in the title.
+    bool openAt(const QPoint& screen);
+    // At the row that the keys are at, as if it had been clicked.
+    void openByKey();
+
+private:
+    void open(const QPoint& screen, bool onRow);
+
+    ViewContext& view;
+    CommandMenu& menu;
+    Surroundings around;
+};

@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/key_router.h"
 
-#include "news_view/trv_news_ctrl_view.h"
-
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QWidget>
 
-// A filter on the view alone would not see the keys that its controls take.
-KeyRouter::KeyRouter(TRVNewsCtrlView& newsView) : view(newsView) {
+// A filter on the part alone would not see the keys that its controls take.
+KeyRouter::KeyRouter(const QWidget& routed, Taker taker) : part(routed), take(std::move(taker)) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -17,7 +16,7 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event) {
         !watched->isWidgetType())
         return false;
     const auto* receiver = static_cast<const QWidget*>(watched);
-    if (receiver != &view && !view.isAncestorOf(receiver))
+    if (receiver != &part && !part.isAncestorOf(receiver))
         return false;
-    return view.PreTranslateMessage(*static_cast<QKeyEvent*>(event));
+    return take(*static_cast<QKeyEvent*>(event));
 }

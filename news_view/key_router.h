@@ -4,21 +4,27 @@
 
 #include <QObject>
 
-class QKeyEvent;
-class TRVNewsCtrlView;
+#include <functional>
 
-// Brings the keys of a view before the view, whichever of its controls they are meant for. Keys of other
-// windows, such as dialogs, menus and drop-downs, are not the view's.
+class QKeyEvent;
+class QWidget;
+
+// Brings the keys of a window's part before their receivers, whichever of its controls they are meant for.
+// Keys of other windows, such as dialogs, menus and drop-downs, are not its own.
 class KeyRouter : public QObject {
     Q_OBJECT
 
 public:
-    // The view owns the router.
-    explicit KeyRouter(TRVNewsCtrlView& newsView);
+    // Takes a key; true: its receiver does not get it.
+    using Taker = std::function<bool(const QKeyEvent&)>;
+
+    // `part` outlives the router.
+    KeyRouter(const QWidget& part, Taker taker);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    TRVNewsCtrlView& view;
+    const QWidget& part;
+    Taker take;
 };

@@ -2,12 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/key_routing.h"
 
-#include "headline_list/list_index.h"
-
 namespace {
-
-constexpr int symbolMode = static_cast<int>(ListIndex::Symbol);
-constexpr int searchMode = static_cast<int>(ListIndex::Search);
 
 KeyRoute otherKey(const KeySituation& situation) {
     // A control that has the keyboard keeps its keys: an edit in which nothing can be typed is none.
@@ -27,7 +22,7 @@ KeyRoute RouteKey(int key, Qt::KeyboardModifiers modifiers, const KeySituation& 
         case Qt::Key_Return:
         case Qt::Key_Enter:
             // There the combos and the search edit take it.
-            if (situation.mode == symbolMode || situation.mode == searchMode || !gridHasFocus)
+            if (situation.mode == ListIndex::Symbol || situation.mode == ListIndex::Search || !gridHasFocus)
                 return {};
             return {.consumed = true, .toGrid = true};
         case Qt::Key_PageUp:

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/list_index.h"
+
 #include <Qt>
 
 #include <set>
@@ -14,7 +16,7 @@ enum class KeyboardFocus {
 };
 
 struct KeySituation {
-    int mode = 0;
+    ListIndex mode = ListIndex::All;
     int newsType = 0;
     bool paneShowsStories = false;
     KeyboardFocus focus = KeyboardFocus::View;

@@ -27,7 +27,10 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       output(backEnd, outputDialogs, outputSurroundings()),
       board(noticeSurroundings(), noticeTellers()),
       menu(*this, [this](int command) { OnCommand(command); }),
-      keyRouter(*this),
+      contextMenu(*this, menu, contextMenuSurroundings()),
+      story(*this, backEnd, storySurroundings()),
+      input(*this, inputSurroundings()),
+      shortcuts(*this, shortcutSurroundings()),
       dates(host_clock::today()) {
     lists.vSetOnRead([this] { vPlaceNotices(); });
 }
@@ -223,7 +226,8 @@ void TRVNewsCtrlView::vGetNewsActiveService(std::vector<unsigned char>& active) 
 }
 
 int TRVNewsCtrlView::GetSheetWidth() const {
-    if (newsType != 0 || storyShowType == StoryShowType::None || storyShowType == StoryShowType::Below)
+    const StoryShowType type = story.showType();
+    if (newsType != 0 || type == StoryShowType::None || type == StoryShowType::Below)
         return width();
-    return storyShowType == StoryShowType::Right ? width() / 2 : 0;
+    return type == StoryShowType::Right ? width() / 2 : 0;
 }

@@ -11,15 +11,16 @@
 #include "host/views/news_module.h"
 #include "host/views/quote_base_view.h"
 #include "news_view/application_switches.h"
-#include "news_view/command_menu.h"
+#include "news_view/context_menu.h"
 #include "news_view/control_set.h"
-#include "news_view/key_router.h"
-#include "news_view/key_routing.h"
+#include "news_view/list_input.h"
 #include "news_view/mode_loading.h"
 #include "news_view/news_categories.h"
 #include "news_view/news_services.h"
 #include "news_view/notice_board.h"
 #include "news_view/output_jobs.h"
+#include "news_view/shortcuts.h"
+#include "news_view/story_display.h"
 #include "news_view/story_stage.h"
 #include "news_view/symbol_binding.h"
 #include "news_view/view_context.h"
@@ -91,7 +92,7 @@ public:
     void OnSelchangeTabMode();
     void OnBtnChangeShowType();
     void SetStoryShowType(unsigned short type);
-    unsigned short GetStoryShowType() const { return static_cast<unsigned short>(storyShowType); }
+    unsigned short GetStoryShowType() const { return static_cast<unsigned short>(story.showType()); }
     void SetStoryWndStyle() { stage.SetStoryWndStyle(); }
     bool IsStoryDlgOnTop() const { return StoryStage::IsStoryDlgOnTop(); }
     void vSetNewsType(int type) override { newsType = type; }
@@ -141,7 +142,7 @@ public:
     // Creates their list, in views with a story pane.
     void InitialNewsRelateQuoteView();
     // Lists the symbols of the headline that the pane shows.
-    void ChangeNewsSymbolList();
+    void ChangeNewsSymbolList() { story.listRelatedSymbols(); }
     void vReRegisterSymbols() override;
     void vUnregisterViewSymbol() override;
     // Handed on to the list.
@@ -215,7 +216,7 @@ public:
     // --- Stories and what the back end pushes ---
 
     // Shows the story of the current grid's focused row; without one the pane is emptied.
-    void OnShowStory();
+    void OnShowStory() { story.show(); }
     void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
                          const QString& symbolCode) override;
     // A headline that was replaced no longer has this key: its rows leave the lists.
@@ -255,15 +256,17 @@ public:
     // --- Keys, mouse, context menu ---
 
     // A key on its way to the view or one of its controls; true: nobody else gets it.
-    bool PreTranslateMessage(QKeyEvent& event);
+    bool PreTranslateMessage(const QKeyEvent& event) { return input.takeBefore(event); }
+    // A key that is let go; true: it has acted.
+    bool OnKeyUp(const QKeyEvent& event) { return input.takeRelease(event); }
+    // For hosts: scrolls the current grid by an arrow key, while it has the keyboard.
+    void OnHScroll(Qt::Key key) { input.scrollSideways(key); }
     // Shows the next, the previous story of the current list in the pane, round and round; the selection
     // follows.
-    void OnBtnPageDown();
-    void OnBtnPageUp();
+    void OnBtnPageDown() { story.page(1); }
+    void OnBtnPageUp() { story.page(-1); }
     // Pops up the context menu at a point of the screen. False in the title, whose menu is the base view's.
-    bool OnContextMenu(const QPoint& screen);
-    // Copies the selected rows as text.
-    void vCopyRows();
+    bool OnContextMenu(const QPoint& screen) { return contextMenu.openAt(screen); }
 
     // --- Categories ---
 
@@ -352,9 +355,9 @@ private:
     // rely on it.
     RelationFilter vRelationFilter() const;
     void vChangeNewsTable(ListIndex list, TableKind kind, const QString& key);
-    bool bPaneShowsStories() const;
-    void vClearStory();
-    void vKeepShownStory(ListIndex list, const HeadlinePlace& place);
+    bool bPaneShowsStories() const { return story.paneShowsStories(); }
+    void vClearStory() { story.clear(); }
+    void vKeepShownStory(ListIndex list, const HeadlinePlace& place) { story.keepThrough(list, place); }
     IntakeState vIntakeState() const;
     bool vReplaceElsewhere(const PushedHeadline& pushed, const std::vector<IntakeTarget>& targets,
                            const IntakeState& state);
@@ -384,7 +387,9 @@ private:
     // Reads a list anew; what the reader looks at stays where it is.
     void vReadAgain(ListIndex list);
     template <class Rebuild>
-    bool bInPlace(ListIndex list, Rebuild rebuild);
+    bool bInPlace(ListIndex list, Rebuild rebuild) {
+        return story.readInPlace(list, rebuild);
+    }
     void vTakeFoundAgain(ListIndex list, const TableRuns& found);
     // The status text with one more service that has no news.
     QString WithServiceName(const QString& name) const;
@@ -413,34 +418,20 @@ private:
     OutputJobs::Surroundings outputSurroundings();
 
     // Stories.
-    TRVNewsStory* pStoryDialogOnShow() const;
-    bool bQuotesHaveFocus() const;
+    TRVNewsStory* pStoryDialogOnShow() const { return story.windowOnShow(); }
+    StoryDisplay::Surroundings storySurroundings();
     QVariantList vQuoteState() const;
 
     // Keys, mouse, context menu.
-    KeySituation vKeySituation() const;
-    void vCarryOut(const KeyRoute& route, const QKeyEvent& event);
-    bool OnKeyDown(const QKeyEvent& event);
-    bool OnKeyUp(const QKeyEvent& event);
-    void vConnectMouse(CSuperSheetWnd& sheet);
+    ListInput::Surroundings inputSurroundings();
+    Shortcuts::Surroundings shortcutSurroundings();
+    ContextMenu::Surroundings contextMenuSurroundings();
+    bool OnKeyDown(const QKeyEvent& event) { return input.takePress(event); }
+    void vConnectMouse(CSuperSheetWnd& sheet, ListIndex list);
     bool OnLButtonUp(unsigned flags, const QPoint& point);
     bool OnLButtonDblClk(unsigned flags, const QPoint& point);
-    void OnMouseWheel(const QWheelEvent& event);
-    // Scrolls the current grid by an arrow key, while it has the keyboard.
-    void OnHScroll(Qt::Key key);
+    void OnMouseWheel(const QWheelEvent& event) { input.takeWheel(event); }
     void OnVScroll();
-    void vPageStories(int step);
-    void vCreateShortcuts();
-    void vLoadToolTips();
-    void vSetTabOrder();
-    void vStepMode(int step);
-    bool bGoToMode(ListIndex mode);
-    void vGoToSearchEdit();
-    void vOpenSearchOfMode();
-    void vOpenCalendar();
-    void vChangePane();
-    void vContextMenuByKey();
-    void vPopUpMenu(const QPoint& screen, bool onRow);
 
     // Lists and painting.
     void OnChangeSize(quintptr sender);
@@ -472,7 +463,7 @@ private:
     HeadlineList& listOf(ListIndex list) override { return lists[list]; }
     std::optional<CHeadlineTable> entryAt(ListIndex list, int row) const override;
     void showStory() override { OnShowStory(); }
-    void forgetShownStory() override { shownStoryRow = -1; }
+    void forgetShownStory() override { story.forget(); }
     void refresh() override { vUpdateView(); }
     void tipOver(ListIndex list, const QString& text, int timeMs) override { vTipOver(list, text, timeMs); }
     void setStatusText(const QString& text) override { vSetStatusText(text); }
@@ -502,8 +493,10 @@ private:
     OutputJobs output;
     NoticeBoard board;
     CommandMenu menu;
-    KeyRouter keyRouter;
-    KeysAtRelease keysAtRelease;
+    ContextMenu contextMenu;
+    StoryDisplay story;
+    ListInput input;
+    Shortcuts shortcuts;
 
     // Tables that this view has asked for again, by the list that shows them.
     using AskedTable = std::tuple<ListIndex, unsigned char, QString>;  // service, key
@@ -515,13 +508,8 @@ private:
     int newsType = 0;
     int currentMode = 0;
     int lastClientWidth = 0;
-    int shownStoryRow = -1;
-    StoryShowType storyShowType = StoryShowType::None;
     bool symbolFromLink = false;  // the host asked for the news of the linked symbol
     bool calendarOpen = false;
-    bool keepsPlace = false;    // a list is being read anew around its reader
-    bool handingKeyOn = false;  // the key that arrives is one that the view hands on
-    bool handingWheelOn = false;
     bool laidOut = false;
     bool initialised = false;
 };

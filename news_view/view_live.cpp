@@ -6,7 +6,6 @@
 #include "host/controls/s_date_time_ctrl.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
-#include "story/news_story_view.h"
 
 #include <algorithm>
 
@@ -115,22 +114,4 @@ void TRVNewsCtrlView::vConnectionChanged(bool connected) {
         breaks.vLost(host_clock::now());
     vPlaceNotices();
     update();
-}
-
-// The pane keeps its story while rows come and go above it, and when its own goes.
-void TRVNewsCtrlView::vKeepShownStory(ListIndex list, const HeadlinePlace& place) {
-    NewsStoryView* pane = stage.pGetPane();
-    if (pane == nullptr || !bPaneShowsStories() || place == HeadlinePlace() ||
-        static_cast<int>(list) != pane->iGetTable())
-        return;
-    const int shown = pane->GetHeadLinePos();
-    const bool came = place.row >= 0;
-    if (place.oldRow == shown && came)
-        pane->vMoveHeadLinePos(place.row);
-    else if (place.oldRow == shown)
-        pane->vLeaveHeadline();
-    else if (came && place.row <= shown && (place.oldRow < 0 || place.oldRow > shown))
-        pane->vMoveHeadLinePos(shown + 1);
-    else if (!came && place.oldRow < shown)
-        pane->vMoveHeadLinePos(shown - 1);
 }

@@ -15,7 +15,6 @@
 
 namespace {
 constexpr int symbolMode = static_cast<int>(ListIndex::Symbol);
-constexpr int storyShowTypes = 3;
 }  // namespace
 
 int TRVNewsCtrlView::iGetFunctionID(int stored) const {
@@ -133,7 +132,7 @@ void TRVNewsCtrlView::ShowHideCtrObject(int mode) {
 }
 
 void TRVNewsCtrlView::SetStoryShowType(unsigned short type) {
-    storyShowType = static_cast<StoryShowType>(type % storyShowTypes);
+    story.setShowType(type);
     vSetComponentPos();
 }
 
@@ -142,7 +141,7 @@ void TRVNewsCtrlView::OnBtnChangeShowType() {
         stage.vHideDialog();
         SetStoryShowType(static_cast<unsigned short>(GetStoryShowType() + 1));
         forgetShownStory();
-        if (storyShowType != StoryShowType::None)
+        if (bPaneShowsStories())
             OnShowStory();
     }
     if (CSuperSheetWnd* sheet = pGetCurrSheetView())
@@ -165,7 +164,7 @@ LayoutInput TRVNewsCtrlView::vLayoutInput() const {
     in.symbolComboText = widestItem(ids::symbolCombo);
     in.captionButtonWidth = style()->pixelMetric(QStyle::PM_TitleBarHeight);
     in.newsType = newsType;
-    in.showType = storyShowType;
+    in.showType = story.showType();
     in.hasStoryPane = stage.pGetPane() != nullptr;
     in.hasRelatedQuotes = stage.pGetQuotes() != nullptr;
     in.hasAllNewsGrid = Sheet(static_cast<int>(ListIndex::All)) != nullptr;

@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-// Printing and saving the selected news.
+// What the jobs of output are given of the news view, and the news that its user selects for them.
 #include "news_view/trv_news_ctrl_view.h"
-
-#include <QFocusEvent>
 
 std::vector<CHeadlineTable> TRVNewsCtrlView::vSelectedEntries() const {
     std::vector<int> rows;
@@ -50,11 +48,4 @@ void TRVNewsCtrlView::PrintHeadline(const CHeadlineTable& headline) {
 
 void TRVNewsCtrlView::SaveHeadline(const CHeadlineTable& headline) {
     output.tell(output.save({headline}, std::nullopt));
-}
-
-// The view's keyboard is its grid's.
-void TRVNewsCtrlView::focusInEvent(QFocusEvent* event) {
-    TRVQuoteBaseView::focusInEvent(event);
-    if (CSuperSheetWnd* sheet = pGetCurrSheetView())
-        sheet->setFocus(event->reason());
 }

@@ -74,7 +74,7 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     if (event->type() != QEvent::LanguageChange || !initialised)
         return;
     controls.vLoadLanguageString();
-    vLoadToolTips();
+    shortcuts.loadToolTips();
     vLoadHints();
     vLearnCategoryCombo();
     if (TRVNewsStory* dialog = stage.pGetDialog())

@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // The quotes of the symbols that the shown headline is related to.
-#include "host/controls/super_sheet_wnd.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/news_relate_symbol_quote_view.h"
-#include "story/news_story_view.h"
 
 void TRVNewsCtrlView::InitialNewsRelateQuoteView() {
     if (stage.pGetPane() == nullptr || stage.pGetQuotes() != nullptr)
@@ -28,30 +26,13 @@ void TRVNewsCtrlView::InitialNewsRelateQuoteView() {
     quotes->vSetSorting(settings.quoteSorting);
     stage.vSetQuotes(quotes);
     vSetComponentPos();
-    if (bPaneShowsStories() && shownStoryRow >= 0)
+    if (bPaneShowsStories() && story.shownRow() >= 0)
         ChangeNewsSymbolList();
 }
 
-void TRVNewsCtrlView::ChangeNewsSymbolList() {
-    CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes();
-    const NewsStoryView* pane = stage.pGetPane();
-    CHeadlineTable entry;
-    if (quotes == nullptr || pane == nullptr ||
-        !bGetHeadlineTable(entry, currentMode, pane->GetHeadLinePos()))
-        return;
-    CNewsSymLst list;
-    backEnd.BKNEWS_GetSymbolListBySeqNo(list, entry);
-    quotes->vSetSymbolList(list);
-}
-
 void TRVNewsCtrlView::vRecvNewsRelateSymbolListRecovery(const CNewsSymlistInfo* info) {
-    CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes();
-    const NewsStoryView* pane = stage.pGetPane();
-    if (info == nullptr || quotes == nullptr || pane == nullptr)
-        return;
-    const auto& shown = pane->PointedAt();
-    if (shown && KeyOf(*shown) == info->headline)
-        quotes->vSetSymbolList(info->list);
+    if (info != nullptr)
+        story.takeRelatedSymbols(*info);
 }
 
 void TRVNewsCtrlView::vReRegisterSymbols() {
@@ -77,12 +58,6 @@ void TRVNewsCtrlView::vRecvMemoryRecovery(const CQuoteMemory* quote) {
 void TRVNewsCtrlView::vRecvMultiSymbolMemoryRecovery(const std::vector<CQuoteMemory>& memories) {
     if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
         quotes->vRecvMultiSymbolMemoryRecovery(memories);
-}
-
-bool TRVNewsCtrlView::bQuotesHaveFocus() const {
-    const QWidget* holder = focusWidget();
-    const QWidget* quotes = stage.pGetQuotes();
-    return quotes != nullptr && holder != nullptr && (holder == quotes || quotes->isAncestorOf(holder));
 }
 
 QVariantList TRVNewsCtrlView::vQuoteState() const {

@@ -5,8 +5,6 @@
 #include "headline_list/language_keys.h"
 #include "host/contract/clock.h"
 #include "news_view/trv_news_ctrl_view.h"
-#include "story/news_story_view.h"
-#include "story/trv_news_story.h"
 
 #include <algorithm>
 
@@ -54,17 +52,8 @@ void TRVNewsCtrlView::OnReCoverStory() {
     const CSuperSheetWnd* sheet = pGetCurrSheetView();
     if (sheet == nullptr)
         return;
-    const int row = sheet->cptGetFocusNdx().y();
-    int position = -1;
-    if (NewsStoryView* pane = stage.pGetPane(); bPaneShowsStories() && pane != nullptr) {
-        pane->SetHeadLinePos(row);
-        position = pane->GetHeadLinePos();
-    } else if (TRVNewsStory* dialog = stage.pGetDialog(); !bPaneShowsStories() && dialog != nullptr) {
-        dialog->SetHeadLinePos(row);
-        position = dialog->GetHeadLinePos();
-    }
     CHeadlineTable entry;
-    if (bGetHeadlineTable(entry, currentMode, position))
+    if (bGetHeadlineTable(entry, currentMode, story.pointAt(sheet->cptGetFocusNdx().y())))
         backEnd.BKQNews_bReRequestHeadlineStory(entry);
 }
 
@@ -207,25 +196,6 @@ void TRVNewsCtrlView::vReadAgain(ListIndex list) {
                 return false;
         }
     });
-}
-
-// The pane keeps its story, and the row that it stands for.
-template <class Rebuild>
-bool TRVNewsCtrlView::bInPlace(ListIndex list, Rebuild rebuild) {
-    NewsStoryView* pane = stage.pGetPane();
-    const bool paneFollows =
-        pane != nullptr && bPaneShowsStories() && pane->iGetTable() == static_cast<int>(list);
-    CHeadlineTable shown;
-    const bool hasShown =
-        paneFollows && bGetHeadlineTable(shown, static_cast<int>(list), pane->GetHeadLinePos());
-    List(list).vHoldPlace();
-    keepsPlace = true;
-    const bool hasRows = rebuild();
-    keepsPlace = false;
-    const int row = hasShown ? List(list).Table().rowOf(KeyOf(shown)) : -1;
-    if (row >= 0)
-        pane->SetHeadLinePos(row);
-    return hasRows;
 }
 
 void TRVNewsCtrlView::vTakeFoundAgain(ListIndex list, const TableRuns& found) {

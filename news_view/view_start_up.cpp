@@ -80,17 +80,16 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     bInitialTransferCatObject();
     bInitialTransferWarrantCatObject();
     vViewCreate();
-    storyShowType =
-        stage.pGetPane() != nullptr ? static_cast<StoryShowType>(settings.newsShowType) : StoryShowType::None;
+    story.setShowType(stage.pGetPane() != nullptr ? settings.newsShowType : 0);
     controls.vLoadLanguageString();
-    vLoadToolTips();
+    shortcuts.loadToolTips();
     vLoadHints();
-    vCreateShortcuts();
+    shortcuts.create();
     vChangeCast();
     vSetComponentPos();
     vOpenFocusedTab();
     InitialNewsRelateQuoteView();
-    vSetTabOrder();
+    shortcuts.setTabOrder();
     ChangeCurrViewCategoryState(settings.showCategory);
 }
 
@@ -220,13 +219,7 @@ void TRVNewsCtrlView::vInitialSheetWnd(ListIndex list, const QRect& rectangle) {
         return;
     sheet->vStretchLastColumn(settings.options[ViewOption::StretchTitles]);
     lists[list].vSetGrid(sheet);
-    connect(sheet->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this, sheet, list] {
-        // Where the focus goes because its row has left, the reader has not gone.
-        if (!sheet->bIsTakingUpRows() && bPaneShowsStories() && currentMode == static_cast<int>(list) &&
-            !keepsPlace)
-            OnShowStory();
-    });
-    vConnectMouse(*sheet);
+    vConnectMouse(*sheet, list);
 }
 
 void TRVNewsCtrlView::vOpenFocusedTab() {

@@ -123,7 +123,7 @@ QVariantMap TRVNewsCtrlView::State() const {
             {QStringLiteral("notice"), notices.Text()},
             {QStringLiteral("notices"), noticeStates},
             {QStringLiteral("showCategory"), settings.showCategory},
-            {QStringLiteral("storyRow"), shownStoryRow},
+            {QStringLiteral("storyRow"), story.shownRow()},
             {QStringLiteral("pickedDate"), dateNumber(dates.Picked())},
             {QStringLiteral("newsDay"), dateNumber(dates.NewsDay())},
             {QStringLiteral("symbol"), QVariantMap{{QStringLiteral("service"), symbols.Current().market},

@@ -1,13 +1,16 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-// The shortcuts of the news view, the hints that tell of them, and the way of the Tab key.
+#include "news_view/shortcuts.h"
+
+#include "headline_list/headline_list.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/s_date_time_ctrl.h"
-#include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
-#include "news_view/trv_news_ctrl_view.h"
+#include "news_view/control_set.h"
+#include "news_view/story_stage.h"
+#include "news_view/view_context.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "search/search_edit2.h"
 #include "story/news_story_view.h"
@@ -58,26 +61,29 @@ constexpr std::array tabOrder{
 
 }  // namespace
 
-void TRVNewsCtrlView::vCreateShortcuts() {
+Shortcuts::Shortcuts(ViewContext& context, Surroundings surroundings)
+    : view(context), around(std::move(surroundings)) {}
+
+void Shortcuts::create() {
     const auto add = [this](QLatin1StringView key, const std::function<void()>& act) {
-        auto* shortcut = new QShortcut(QKeySequence(QString(key)), this);
+        auto* shortcut = new QShortcut(QKeySequence(QString(key)), &around.window);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, act);
+        QObject::connect(shortcut, &QShortcut::activated, &around.window, act);
     };
     for (const CommandKey& command : commandKeys)
-        add(command.key, [this, id = command.id] { OnCommand(id); });
-    add("Ctrl+PgDown"_L1, [this] { vStepMode(1); });
-    add("Ctrl+PgUp"_L1, [this] { vStepMode(-1); });
-    add("F3"_L1, [this] { vGoToSearchEdit(); });
-    add("Ctrl+F"_L1, [this] { vGoToSearchEdit(); });
-    add("Shift+F3"_L1, [this] { vOpenSearchOfMode(); });
-    add("F8"_L1, [this] { vOpenCalendar(); });
-    add("F6"_L1, [this] { vChangePane(); });
+        add(command.key, [this, id = command.id] { around.carryOut(id); });
+    add("Ctrl+PgDown"_L1, [this] { stepMode(1); });
+    add("Ctrl+PgUp"_L1, [this] { stepMode(-1); });
+    add("F3"_L1, [this] { goToSearchEdit(); });
+    add("Ctrl+F"_L1, [this] { goToSearchEdit(); });
+    add("Shift+F3"_L1, [this] { openSearchOfMode(); });
+    add("F8"_L1, [this] { openCalendar(); });
+    add("F6"_L1, [this] { changePane(); });
 }
 
-void TRVNewsCtrlView::vLoadToolTips() {
+void Shortcuts::loadToolTips() {
     const auto hint = [this](const CommandKey& command) {
-        QWidget* control = GetDlgItem(this, command.id);
+        QWidget* control = GetDlgItem(&around.window, command.id);
         if (control == nullptr)
             return;
         const auto* button = qobject_cast<const QAbstractButton*>(control);
@@ -89,82 +95,82 @@ void TRVNewsCtrlView::vLoadToolTips() {
         hint(command);
     for (const CommandKey& command : otherHints)
         hint(command);
-    if (QWidget* stop = GetDlgItem(this, ids::stopWaiting))
+    if (QWidget* stop = GetDlgItem(&around.window, ids::stopWaiting))
         stop->setToolTip(stop->accessibleName().toHtmlEscaped());
 }
 
-void TRVNewsCtrlView::vSetTabOrder() {
+void Shortcuts::setTabOrder() {
     QWidget* last = nullptr;
     const auto follow = [&last](QWidget* next) {
         if (last != nullptr && next != nullptr)
-            setTabOrder(last, next);
+            QWidget::setTabOrder(last, next);
         if (next != nullptr)
             last = next;
     };
     for (const int id : tabOrder)
-        follow(GetDlgItem(this, id));
-    for (int list = 0; list < listCount; ++list)
-        follow(Sheet(list));
-    if (const NewsStoryView* pane = stage.pGetPane()) {
+        follow(GetDlgItem(&around.window, id));
+    for (const ListKind& kind : listKinds)
+        follow(view.listOf(kind.index).pGetGrid());
+    if (const NewsStoryView* pane = around.stage.pGetPane()) {
         for (const int id : {story_ids::title, story_ids::storyText})
             follow(GetDlgItem(pane, id));
     }
-    if (const CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+    if (const CNewsRelateSymbolQuoteView* quotes = around.stage.pGetQuotes())
         follow(quotes->pGetSheet());
 }
 
-void TRVNewsCtrlView::vStepMode(int step) {
-    auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip);
+void Shortcuts::stepMode(int step) {
+    auto* strip = around.controls.Find<CXTPTabControl>(ids::tabStrip);
     if (strip == nullptr || strip->count() == 0)
         return;
     strip->SetCurSel((strip->GetCurSel() + step + strip->count()) % strip->count());
-    OnSelchangeTabMode();
+    around.tabChosen();
 }
 
-bool TRVNewsCtrlView::bGoToMode(ListIndex mode) {
-    if (currentMode == static_cast<int>(mode))
+bool Shortcuts::goToMode(ListIndex mode) {
+    if (view.shownList() == mode)
         return true;
-    auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip);
-    if (strip == nullptr || List(mode).pGetGrid() == nullptr)
+    auto* strip = around.controls.Find<CXTPTabControl>(ids::tabStrip);
+    if (strip == nullptr || view.listOf(mode).pGetGrid() == nullptr)
         return false;
-    strip->SetCurSel(iGetTabIndex(static_cast<int>(mode)));
-    OnSelchangeTabMode();
+    strip->SetCurSel(around.controls.iGetTabIndex(static_cast<int>(mode)));
+    around.tabChosen();
     return true;
 }
 
-void TRVNewsCtrlView::vGoToSearchEdit() {
-    auto* edit = controls.Find<SearchEdit2>(ids::searchEdit);
-    if (edit == nullptr || !bGoToMode(ListIndex::Search))
+void Shortcuts::goToSearchEdit() {
+    auto* edit = around.controls.Find<SearchEdit2>(ids::searchEdit);
+    if (edit == nullptr || !goToMode(ListIndex::Search))
         return;
     edit->setFocus(Qt::ShortcutFocusReason);
     edit->selectAll();
 }
 
-void TRVNewsCtrlView::vOpenSearchOfMode() {
+void Shortcuts::openSearchOfMode() {
     for (const int id : {ids::dealsSearchButton, ids::relationSearchButton, ids::warningSearchButton}) {
-        const QWidget* button = GetDlgItem(this, id);
+        const QWidget* button = GetDlgItem(&around.window, id);
         if (button == nullptr || !button->isVisible())
             continue;
-        OnCommand(id);
+        around.carryOut(id);
         return;
     }
 }
 
-void TRVNewsCtrlView::vOpenCalendar() {
-    auto* picker = controls.Find<SDateTimeCtrl>(ids::datePicker);
+void Shortcuts::openCalendar() {
+    auto* picker = around.controls.Find<SDateTimeCtrl>(ids::datePicker);
     // The keyboard is the calendar's while it is open, and is back where it was afterwards.
-    if (picker != nullptr && bGoToMode(ListIndex::All))
+    if (picker != nullptr && goToMode(ListIndex::All))
         picker->vDropDown();
 }
 
 // From the list to the story beside it, to the quotes of its symbols, and back to the list.
-void TRVNewsCtrlView::vChangePane() {
+void Shortcuts::changePane() {
     std::vector<QWidget*> panes;
-    if (CSuperSheetWnd* sheet = pGetCurrSheetView())
-        panes.push_back(sheet);
-    if (const NewsStoryView* pane = stage.pGetPane())
+    if (CSuperSheetWnd* grid = view.listOf(view.shownList()).pGetGrid())
+        panes.push_back(grid);
+    if (const NewsStoryView* pane = around.stage.pGetPane())
         panes.push_back(GetDlgItem(pane, story_ids::storyText));
-    if (const CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+    if (const CNewsRelateSymbolQuoteView* quotes = around.stage.pGetQuotes())
         panes.push_back(quotes->pGetSheet());
     std::erase_if(panes, [](const QWidget* pane) { return pane == nullptr || !pane->isVisible(); });
     if (panes.empty())

@@ -1,0 +1,206 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/story_display.h"
+
+#include "headline_list/headline_list.h"
+#include "news_view/story_stage.h"
+#include "news_view/view_context.h"
+#include "news_view/view_layout.h"
+#include "search/news_relate_symbol_quote_view.h"
+#include "story/news_story_view.h"
+#include "story/trv_news_story.h"
+
+#include <QScopedValueRollback>
+
+namespace {
+
+constexpr int showTypes = 3;
+
+int focusedRow(const CSuperSheetWnd* grid) {
+    return grid != nullptr ? grid->cptGetFocusNdx().y() : -1;
+}
+
+}  // namespace
+
+StoryDisplay::StoryDisplay(ViewContext& context, BKQuoteInterface& newsBackEnd, Surroundings surroundings)
+    : view(context), backEnd(newsBackEnd), around(std::move(surroundings)) {}
+
+void StoryDisplay::setShowType(unsigned short number) {
+    type = static_cast<StoryShowType>(number % showTypes);
+}
+
+bool StoryDisplay::paneShowsStories() const {
+    return around.stage.pGetPane() != nullptr && type != StoryShowType::None;
+}
+
+bool StoryDisplay::hasStoryWindow() const {
+    return around.stage.pGetDialog() != nullptr && !paneShowsStories();
+}
+
+TRVNewsStory* StoryDisplay::windowOnShow() const {
+    TRVNewsStory* window = around.stage.pGetDialog();
+    return hasStoryWindow() && window->isVisible() ? window : nullptr;
+}
+
+void StoryDisplay::show() {
+    const ListIndex list = view.shownList();
+    CSuperSheetWnd* grid = view.listOf(list).pGetGrid();
+    const int focused = focusedRow(grid);
+    if (focused < 0) {
+        around.stage.vHideDialog();
+        clear();
+        return;
+    }
+    grid->vAutoVerScrolling(focused);
+    if (hasStoryWindow()) {
+        around.stage.pGetDialog()->vSetStoryData(static_cast<int>(list), focused, around.foundUnder(list));
+        around.stage.vShowDialog();
+    }
+    if (!paneShowsStories() || focused == row)
+        return;
+    row = focused;
+    NewsStoryView* pane = around.stage.pGetPane();
+    pane->vSetFont(around.font());
+    pane->vSetStoryData(static_cast<int>(list), row, around.foundUnder(list));
+    listRelatedSymbols();
+}
+
+void StoryDisplay::clear() {
+    around.stage.vClearStory();
+    forget();
+}
+
+void StoryDisplay::follow(const CSuperSheetWnd& grid, ListIndex list) {
+    if (!grid.bIsTakingUpRows() && !keepsPlace && paneShowsStories() && view.shownList() == list)
+        show();
+}
+
+bool StoryDisplay::takeClick() {
+    NewsStoryView* pane = around.stage.pGetPane();
+    if (pane == nullptr)
+        return false;
+    if (paneShowsStories()) {
+        show();
+        return true;
+    }
+    const HeadlineList& list = view.listOf(view.shownList());
+    const int focused = focusedRow(list.pGetGrid());
+    if (focused < 0)
+        return true;
+    row = focused;
+    if (!list.Table().empty()) {
+        pane->SetHeadLinePos(row);
+        around.goTo(static_cast<int>(view.shownList()), row);
+    }
+    return true;
+}
+
+void StoryDisplay::takeDoubleClick() {
+    if (hasStoryWindow())
+        show();
+}
+
+void StoryDisplay::page(int step) {
+    NewsStoryView* pane = around.stage.pGetPane();
+    const int size = view.listOf(view.shownList()).Table().size();
+    if (pane == nullptr || size <= 0)
+        return;
+    const int wanted = pane->GetHeadLinePos() + step;
+    pane->SetHeadLinePos(wanted < 0 ? size - 1 : wanted >= size ? 0 : wanted);
+    pane->vShowData();
+    around.goTo(static_cast<int>(view.shownList()), pane->GetHeadLinePos());
+    listRelatedSymbols();
+}
+
+int StoryDisplay::pointAt(int newRow) {
+    if (paneShowsStories()) {
+        around.stage.pGetPane()->SetHeadLinePos(newRow);
+        return around.stage.pGetPane()->GetHeadLinePos();
+    }
+    if (!hasStoryWindow())
+        return -1;
+    around.stage.pGetDialog()->SetHeadLinePos(newRow);
+    return around.stage.pGetDialog()->GetHeadLinePos();
+}
+
+std::optional<CHeadlineTable> StoryDisplay::shownOf(ListIndex list) const {
+    if (!paneShowsStories() || around.stage.pGetPane()->iGetTable() != static_cast<int>(list))
+        return std::nullopt;
+    return view.entryAt(list, around.stage.pGetPane()->GetHeadLinePos());
+}
+
+bool StoryDisplay::readInPlace(ListIndex list, const std::function<bool()>& read) {
+    const auto shown = shownOf(list);
+    view.listOf(list).vHoldPlace();
+    const bool result = [&] {
+        const QScopedValueRollback keeping(keepsPlace, true);
+        return read();
+    }();
+    const int newRow = shown ? view.listOf(list).Table().rowOf(KeyOf(*shown)) : -1;
+    if (newRow >= 0)
+        around.stage.pGetPane()->SetHeadLinePos(newRow);
+    return result;
+}
+
+void StoryDisplay::keepThrough(ListIndex list, const HeadlinePlace& place) {
+    if (!paneShowsStories() || place == HeadlinePlace() ||
+        around.stage.pGetPane()->iGetTable() != static_cast<int>(list))
+        return;
+    NewsStoryView& pane = *around.stage.pGetPane();
+    const int shown = pane.GetHeadLinePos();
+    const bool came = place.row >= 0;
+    if (place.oldRow == shown && came)
+        pane.vMoveHeadLinePos(place.row);
+    else if (place.oldRow == shown)
+        pane.vLeaveHeadline();
+    else if (came && place.row <= shown && (place.oldRow < 0 || place.oldRow > shown))
+        pane.vMoveHeadLinePos(shown + 1);
+    else if (!came && place.oldRow < shown)
+        pane.vMoveHeadLinePos(shown - 1);
+}
+
+void StoryDisplay::takeHeadlines(const std::vector<CHeadlineTable>& entries) {
+    if (paneShowsStories())
+        around.stage.pGetPane()->RespHeadLine(entries);
+    if (TRVNewsStory* window = windowOnShow())
+        window->RespHeadLine(entries);
+}
+
+void StoryDisplay::takeStory(const CHeadlineTable& entry) {
+    if (paneShowsStories())
+        around.stage.pGetPane()->RespStory(entry);
+    if (TRVNewsStory* window = windowOnShow())
+        window->RespStory(entry);
+}
+
+void StoryDisplay::takeUpdate(const CHeadlineTable& entry) {
+    if (view.listOf(view.shownList()).Table().rowOf(KeyOf(entry)) < 0)
+        return;
+    if (TRVNewsStory* window = windowOnShow())
+        window->vStoryUpdateNotify(&entry);
+    else if (around.stage.pGetPane() != nullptr)
+        around.stage.pGetPane()->vStoryUpdateNotify(&entry);
+}
+
+void StoryDisplay::listRelatedSymbols() {
+    CNewsRelateSymbolQuoteView* quotes = around.stage.pGetQuotes();
+    const NewsStoryView* pane = around.stage.pGetPane();
+    if (quotes == nullptr || pane == nullptr)
+        return;
+    const auto entry = view.entryAt(view.shownList(), pane->GetHeadLinePos());
+    if (!entry)
+        return;
+    CNewsSymLst related;
+    backEnd.BKNEWS_GetSymbolListBySeqNo(related, *entry);
+    quotes->vSetSymbolList(related);
+}
+
+void StoryDisplay::takeRelatedSymbols(const CNewsSymlistInfo& info) {
+    CNewsRelateSymbolQuoteView* quotes = around.stage.pGetQuotes();
+    const NewsStoryView* pane = around.stage.pGetPane();
+    if (quotes == nullptr || pane == nullptr)
+        return;
+    const auto& shown = pane->PointedAt();
+    if (shown && KeyOf(*shown) == info.headline)
+        quotes->vSetSymbolList(info.list);
+}

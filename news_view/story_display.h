@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "headline_list/list_index.h"
+#include "host/contract/records.h"
+#include "host/contract/search_condition.h"
+
+#include <QFont>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+class BKQuoteInterface;
+class CSuperSheetWnd;
+class StoryStage;
+class TRVNewsStory;
+class ViewContext;
+enum class StoryShowType : unsigned short;
+struct HeadlinePlace;
+
+// The story of the selected headline: where it is shown, which row's it is, and what the back end has to say
+// about it. Interface thread only.
+class StoryDisplay {
+public:
+    struct Surroundings {
+        StoryStage& stage;
+        std::function<CSearch(ListIndex)> foundUnder;  // the condition that a list's rows were found under
+        std::function<QFont()> font;                   // the view's
+        std::function<void(int list, int row)> goTo;   // the selection of the view goes to a row
+    };
+
+    // All that is referred to outlives the display.
+    StoryDisplay(ViewContext& view, BKQuoteInterface& backEnd, Surroundings surroundings);
+
+    // How stories are shown: by the number of the type, round and round.
+    StoryShowType showType() const { return type; }
+    void setShowType(unsigned short number);
+    // Whether stories are shown in the pane; else they are in their window.
+    bool paneShowsStories() const;
+    // Whether there is a window that stories are shown in, not the pane.
+    bool hasStoryWindow() const;
+    // The story window while it is the view's story display and to be seen; null: it is not.
+    TRVNewsStory* windowOnShow() const;
+
+    // Whether `show` opens no window: stories are in the pane, or their window is open.
+    bool hasOpenStory() const { return paneShowsStories() || windowOnShow() != nullptr; }
+
+    // The row whose story the pane shows; -1: none, or it is forgotten.
+    int shownRow() const { return row; }
+    void forget() { row = -1; }
+    // Empties the pane, and forgets its row.
+    void clear();
+    // Shows the story of the shown list's focused row, unless the pane shows that row's already; without a
+    // focused row the story goes.
+    void show();
+    // The story of a list's new current row is shown in the pane, when the reader went there: not where the
+    // current row went because its own has left, nor within `readInPlace`.
+    void follow(const CSuperSheetWnd& grid, ListIndex list);
+    // A row has been clicked: its story is shown in the pane; where stories are in their window, the view
+    // goes to the row. False in views without a pane, for which a click is nothing.
+    bool takeClick();
+    // The same for a double click, which opens the window.
+    void takeDoubleClick();
+    // Shows the next, the previous story of the shown list in the pane, round and round; the selection
+    // follows.
+    void page(int step);
+
+    // What the display shows stands at this row of the shown list. Result: as far as rows go, where it is
+    // now; -1: there is no display.
+    int pointAt(int newRow);
+    // `read` reads a list anew; what the reader looks at stays where it is: the rows, and the pane's story.
+    // Result: what `read` says.
+    bool readInPlace(ListIndex list, const std::function<bool()>& read);
+    // A row of a list came, went or moved: the pane keeps its story, also when its own row goes.
+    void keepThrough(ListIndex list, const HeadlinePlace& place);
+
+    // What the back end answers. An update is told where the shown list has its headline.
+    void takeHeadlines(const std::vector<CHeadlineTable>& entries);
+    void takeStory(const CHeadlineTable& entry);
+    void takeUpdate(const CHeadlineTable& entry);
+
+    // Lists the symbols that the headline in the pane is related to beside it; when they were sent again, if
+    // it is that one's.
+    void listRelatedSymbols();
+    void takeRelatedSymbols(const CNewsSymlistInfo& info);
+
+private:
+    std::optional<CHeadlineTable> shownOf(ListIndex list) const;
+
+    ViewContext& view;
+    BKQuoteInterface& backEnd;
+    Surroundings around;
+    StoryShowType type{};
+    int row = -1;
+    bool keepsPlace = false;  // a list is being read anew around its reader
+};
