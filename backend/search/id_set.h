@@ -28,12 +28,6 @@ public:
         for (std::size_t i = 0; i < bits.size(); ++i)
             bits[i] &= other.bits[i];
     }
-    void addAll(const IdSet& other) {
-        if (bits.size() < other.bits.size())
-            bits.resize(other.bits.size());
-        for (std::size_t i = 0; i < other.bits.size(); ++i)
-            bits[i] |= other.bits[i];
-    }
     std::size_t size() const {
         std::size_t count = 0;
         for (const std::uint64_t word : bits)

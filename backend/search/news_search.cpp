@@ -5,6 +5,8 @@
 #include "backend/database/database.h"
 #include "backend/words/search_words.h"
 
+#include <QStringList>
+
 namespace wirepane {
 
 using namespace Qt::StringLiterals;
@@ -16,9 +18,30 @@ constexpr int stopAskedEvery = 256;       // matches
 
 // What is quoted is never read as operators. The text is split into words there, once: a word that is split
 // again may fall apart ("1,234" is one, but "1,2345" is not, with which "1,234" and a full-width "5" go on).
-QString queryOf(QString text, unsigned char scope) {
-    const QString phrase = u'"' + text.replace(u'\0', u' ').replace(u'"', u"\"\""_s) + u'"';
-    return scope == 0 ? u"title : "_s + phrase : scope == 1 ? u"story : "_s + phrase : phrase;
+QString phraseOf(QString text) {
+    return u'"' + text.replace(u'\0', u' ').replace(u'"', u"\"\""_s) + u'"';
+}
+
+QString withinScope(const QString& phrases, unsigned char scope) {
+    if (scope > 1)
+        return phrases;
+    return (scope == 0 ? u"title : ("_s : u"story : ("_s) + phrases + u')';
+}
+
+// The queries whose matches together are those of the condition. What must all be there is asked for at once:
+// the index passes over the many matches of one word that those of a rare one leave behind. What may be there
+// is cheaper to put together here.
+QStringList queriesOf(const CSearch& condition) {
+    QStringList phrases;
+    for (const QString& keyword : condition.keywords) {
+        if (const QString text = keywordText(keyword); !text.isEmpty())
+            phrases += phraseOf(text);
+    }
+    if (condition.method != 2 && !phrases.isEmpty())
+        phrases = {phrases.join(u" AND "_s)};
+    for (QString& query : phrases)
+        query = withinScope(query, condition.scope);
+    return phrases;
 }
 
 // Reading within one transaction sees one moment of the store.
@@ -93,25 +116,12 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::findNow(unsigned char ser
 }
 
 std::optional<IdSet> NewsSearch::matches(const CSearch& condition) {
-    std::optional<IdSet> found;
-    for (const QString& keyword : condition.keywords) {
-        const QString text = keywordText(keyword);
-        if (text.isEmpty())
-            continue;
-        const bool any = condition.method == 2;
-        IdSet ids;
-        if (!addMatches(ids, queryOf(text, condition.scope)))
+    IdSet found;
+    for (const QString& query : queriesOf(condition)) {
+        if (!addMatches(found, query))
             return std::nullopt;
-        if (!found)
-            found = std::move(ids);
-        else if (any)
-            found->addAll(ids);
-        else
-            found->keepCommon(ids);
-        if (!any && found->size() == 0)
-            break;
     }
-    return found ? std::move(found) : IdSet();
+    return found;
 }
 
 bool NewsSearch::addMatches(IdSet& ids, const QString& text) {

@@ -113,6 +113,9 @@ TEST_F(NewsSearchTest, ScopeMethodAndOrder) {
     EXPECT_EQ(found(conditionOf({u"copper"_s, u"tin"_s}, 2, 2)), QStringList({b, c, a}));
     EXPECT_EQ(found(conditionOf({u"rises"_s, u" "_s, u"gold"_s}, 0, 0)), QStringList({b}));
     EXPECT_EQ(found(conditionOf({u"zinc"_s, u"tin"_s}, 0, 2)), QStringList({c}));
+    EXPECT_EQ(found(conditionOf({u"gold"_s, u"copper"_s}, 0)), QStringList());
+    EXPECT_EQ(found(conditionOf({u"and"_s, u"copper"_s}, 1)), QStringList({b}));
+    EXPECT_EQ(found(conditionOf({u"copper\" OR \"gold"_s, u"tin"_s})), QStringList());
     EXPECT_EQ(found(conditionOf({})), QStringList());
     EXPECT_EQ(found(conditionOf({u" "_s, u"\n"_s}, 2, 2)), QStringList());
     EXPECT_EQ(found(conditionOf({u"copper"_s}), 2), QStringList());
@@ -163,6 +166,7 @@ TEST_F(NewsSearchTest, KeywordsOfAnySizeAndNumberAreAnswered) {
     many.push_back(u"word"_s);
     EXPECT_EQ(found(conditionOf(many, 2, 2)).size(), 1);
     EXPECT_EQ(found(conditionOf(many, 2, 1)).size(), 0);
+    EXPECT_EQ(found(conditionOf(std::vector<QString>(3000, u"word"_s), 1, 1)).size(), 1);
     EXPECT_EQ(found(conditionOf({QString(1'000'000, u'x')})).size(), 0);
     EXPECT_EQ(found(conditionOf({QString(1'000'000, u'龍')})).size(), 0);
     EXPECT_EQ(found(conditionOf({QString(1'000'000, u'(')})).size(), 0);
