@@ -15,7 +15,7 @@ enum class Take {
 
 struct TakeOutcome {
     Take take = Take::TakenIn;
-    QString reason;  // for Rejected: a sentence
+    std::optional<Error> reason;  // for Rejected
 };
 
 // What takes items in. An error (a full disk, a damaged store) ends the taking in; nothing since the last

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/error.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -70,8 +72,8 @@ using StoreItem = std::variant<NewsItem, SymbolItem, CategoryItem, QuoteItem>;
 
 // What was wrong with one item of a source, for a person to act on.
 struct Rejection {
-    QString place;   // "line 12", "item 3 (urn:x:1)"
-    QString reason;  // a sentence
+    std::optional<Phrase> place;  // "line 12", "item 3 (urn:x:1)"; none: all of it
+    Error reason;
 };
 
 }  // namespace wirepane

@@ -2,17 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include "backend/error.h"
 
 #include <utility>
 #include <variant>
 
 namespace wirepane {
-
-// Why something failed: a sentence that a user can read, naming what and where.
-struct Error {
-    QString sentence;
-};
 
 // The one way to fail in the back end: a value, or an error. Reading the one that is not there is a fault of
 // the caller and throws std::bad_variant_access.
@@ -25,7 +20,7 @@ public:
     explicit operator bool() const { return std::holds_alternative<Value>(content); }
     Value& value() { return std::get<Value>(content); }
     const Value& value() const { return std::get<Value>(content); }
-    const QString& error() const { return std::get<Error>(content).sentence; }
+    const Error& error() const { return std::get<Error>(content); }
 
 private:
     std::variant<Value, Error> content;

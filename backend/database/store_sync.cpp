@@ -79,7 +79,7 @@ Done StoreSync::sync() {
     if (!database) {
         auto opened = Database::open(path, Database::Mode::Write, busyTimeout);
         if (!opened)
-            return Error{opened.error()};
+            return opened.error();
         opened.value()->setCheckpointOnClose(false);
         // The log is opened by the first look into the store.
         std::int64_t version = 0;

@@ -68,7 +68,7 @@ void FeedClient::connectAgain() {
     if (path)
         socket.connectToServer(path.value());
     else
-        emit failed(path.error());
+        emit failed(sentence(path.error()));
 }
 
 void FeedClient::greet() {

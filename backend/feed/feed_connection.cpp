@@ -30,7 +30,8 @@ QByteArray positionLine(const QString& position) {
 QByteArray receiptLine(const LineSource::Receipt& receipt) {
     QJsonArray rejections;
     for (const Rejection& rejection : receipt.outcome.rejections)
-        rejections.append(QJsonObject{{u"place"_s, rejection.place}, {u"reason"_s, rejection.reason}});
+        rejections.append(
+            QJsonObject{{u"place"_s, sentence(*rejection.place)}, {u"reason"_s, sentence(rejection.reason)}});
     const ImportTotals& totals = receipt.outcome.totals;
     return lineOf({{u"lines"_s, receipt.lines},
                    {u"takenIn"_s, totals.takenIn},
@@ -65,7 +66,7 @@ FeedConnection::FeedConnection(LineChannel* client, FeedSink& feedSink, QObject*
 
 void FeedConnection::greet(const FeedHello& hello) {
     const Result<QString> position = hello.source.isEmpty() ? QString() : sink.positionOf(hello.source);
-    send(position ? positionLine(position.value()) : lineOf({{u"error"_s, position.error()}}));
+    send(position ? positionLine(position.value()) : lineOf({{u"error"_s, sentence(position.error())}}));
 }
 
 // A sender that is faster than the disk waits for it.

@@ -25,7 +25,7 @@ StoreItem stored(NewsItem item) {
 
 Result<StoreItem> ninjs(QByteArrayView record, unsigned char service) {
     const Result<NewsItem> item = ninjsItem(record, service);
-    return item ? Result<StoreItem>(stored(item.value())) : Result<StoreItem>(Error{item.error()});
+    return item ? Result<StoreItem>(stored(item.value())) : Result<StoreItem>(item.error());
 }
 
 // The fields of an item, and the first of them that is wrong.

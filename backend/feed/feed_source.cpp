@@ -28,17 +28,17 @@ public:
     }
 
     PortionOutcome outcome;
-    std::optional<QString> failure;  // of the sink
+    std::optional<Error> failure;  // of the sink
 
 private:
-    void reject(const QString& place, const QString& reason) {
+    void reject(const Phrase& place, const Error& reason) {
         ++outcome.totals.rejected;
         if (outcome.rejections.size() < PortionOutcome::mostRejections)
             outcome.rejections.push_back({place, reason});
     }
     void count(const SourceItem& item, const TakeOutcome& taken) {
         if (taken.take == Take::Rejected) {
-            reject(item.place, taken.reason);
+            reject(item.place, *taken.reason);
         } else if (taken.take == Take::AlreadyThere) {
             ++outcome.totals.alreadyThere;
         } else {
@@ -54,12 +54,12 @@ private:
 
 Result<PortionOutcome> takePortion(FeedSource& source, FeedSink& sink) {
     if (const Done begun = sink.begin(); !begun)
-        return Error{begun.error()};
+        return begun.error();
     Taking taking(sink);
     const Done read = source.read([&taking](SourceItem&& item) { return taking.take(item); });
     if (taking.failure) {
         sink.rollback();
-        return Error{*taking.failure};
+        return *taking.failure;
     }
     if (!read) {
         sink.rollback();
@@ -71,12 +71,12 @@ Result<PortionOutcome> takePortion(FeedSource& source, FeedSink& sink) {
     if (!source.name().isEmpty() && !position.isEmpty()) {
         if (const Done kept = sink.keepPosition(source.name(), position); !kept) {
             sink.rollback();
-            return Error{kept.error()};
+            return kept.error();
         }
     }
     if (const Done committed = sink.commit(); !committed) {
         sink.rollback();
-        return Error{committed.error()};
+        return committed.error();
     }
     return std::move(taking.outcome);
 }

@@ -15,7 +15,7 @@ struct PortionOutcome {
     ImportTotals totals;
     qint64 news = 0;                    // taken in, of the totals
     std::vector<Rejection> rejections;  // the first mostRejections of them
-    std::optional<QString> fault;       // the portion as a whole cannot be read: nothing of it was taken
+    std::optional<Error> fault;         // the portion as a whole cannot be read: nothing of it was taken
 
     static constexpr std::size_t mostRejections = 1000;
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/line_source.h"
 
+#include "backend/import/import_errors.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -45,9 +47,9 @@ Done LineSource::read(const ItemVisitor& visit) {
     while (portion < lines.size() && (portion == 0 || !isEnough())) {
         const Result<QByteArray>& line = lines[portion];
         ++portion;
-        const QString place = u"line %1"_s.arg(settled + static_cast<qint64>(portion));
+        const Phrase place = makeError<import_errors::atLine>(settled + static_cast<qint64>(portion));
         if (!line) {
-            if (!visit({Error{line.error()}, place, 0}))
+            if (!visit({line.error(), place, 0}))
                 break;
             continue;
         }

@@ -34,7 +34,7 @@ LiveFeed::LiveFeed(EmbeddedBackEnd& store) : backEnd(store) {
 Done LiveFeed::watch(const QString& spoolFolder, const SpoolOptions& options) {
     auto opened = SpoolSource::open(spoolFolder, options);
     if (!opened)
-        return Error{opened.error()};
+        return opened.error();
     spool = std::move(opened.value());
     spool->onTrouble([this](const QString& sentence) { emit trouble(sentence); });
     pumpSoon();
@@ -73,7 +73,7 @@ void LiveFeed::setConnected(bool connected) {
         takenLate = 0;
         backEnd.setConnected(true);
         if (const Done opened = openSocket(); !opened)
-            emit trouble(opened.error());
+            emit trouble(sentence(opened.error()));
         pumpSoon();
     }
     updateState();
@@ -143,7 +143,7 @@ void LiveFeed::take(FeedSource& source) {
     const Result<PortionOutcome> taken = takePortion(source, backEnd);
     backEnd.setPatience(StoreOptions().busyTimeout);
     isTaking = false;
-    tellTrouble(taken ? QString() : taken.error());
+    tellTrouble(taken ? QString() : sentence(taken.error()));
     if (taken) {
         takenLate += isCatchingUp ? taken.value().news : 0;
         settleWhenOnDisk(source, taken.value());
@@ -168,7 +168,7 @@ void LiveFeed::awaitDisk(FeedSource& source, const PortionOutcome& outcome, int 
         const auto waiting = settling.find(&source);
         if (waiting == settling.end() || waiting->second != portion)
             return;
-        tellTrouble(onDisk ? QString() : onDisk.error());
+        tellTrouble(onDisk ? QString() : sentence(onDisk.error()));
         if (!onDisk) {
             QTimer::singleShot(retryMs, this,
                                [this, &source, outcome, portion] { awaitDisk(source, outcome, portion); });

@@ -55,7 +55,7 @@ bool Replay::play(std::size_t index) {
     Result<NewsItem> item = day.item(index);
     if (!item) {
         ticking.stop();
-        emit failed(item.error());
+        emit failed(sentence(item.error()));
         return false;
     }
     NewsItem& news = item.value();

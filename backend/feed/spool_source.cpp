@@ -66,10 +66,10 @@ bool isOwnFolder(const QString& path) {
 
 QString reasonsOf(const PortionOutcome& outcome) {
     if (outcome.fault)
-        return *outcome.fault + u'\n';
+        return sentence(*outcome.fault) + u'\n';
     QString text;
     for (const Rejection& rejection : outcome.rejections)
-        text += u"%1: %2\n"_s.arg(rejection.place, rejection.reason);
+        text += u"%1: %2\n"_s.arg(sentence(*rejection.place), sentence(rejection.reason));
     if (outcome.totals.rejected > static_cast<qint64>(outcome.rejections.size()))
         text += u"and more: %1 items were rejected.\n"_s.arg(outcome.totals.rejected);
     return text;

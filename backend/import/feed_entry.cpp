@@ -3,6 +3,7 @@
 #include "backend/import/feed_entry.h"
 
 #include "backend/import/feed_text.h"
+#include "backend/import/import_errors.h"
 #include "backend/import/item_rules.h"
 #include "backend/import/news_time.h"
 #include "backend/import/wire_form.h"
@@ -166,18 +167,18 @@ Result<StoreItem> feedItem(const FeedEntry& entry, const FeedEntry& feed, unsign
     NewsItem item;
     item.service = service;
     item.identity = identityOf(entry, feed);
-    if (const auto fault = faultOfIdentity(item.identity, u"entry's identity"))
-        return Error{*fault};
+    if (const auto fault = faultOfIdentity(item.identity, makeError<import_errors::identityOfEntry>()))
+        return *fault;
     const QString story = wireForm(entry.content.isEmpty() ? entry.summary : entry.content);
     item.story = story;
     item.title = !entry.title.isEmpty() ? entry.title : entry.otherTitle;
     if (item.title.isEmpty())
         item.title = titleFromStory(story);
     if (item.title.isEmpty())
-        return Error{u"The entry has no title and no text to make one from."_s};
+        return makeError<import_errors::entryWithoutTitle>();
     const auto time = entry.time() ? entry.time() : feed.time();
     if (!time)
-        return Error{u"Neither the entry nor its feed has a date that can be read."_s};
+        return makeError<import_errors::entryWithoutDate>();
     item.time = *time;
     item.version = versionOf({}, entry.updated.value_or(*time));
     item.category = entry.category;

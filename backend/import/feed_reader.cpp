@@ -3,6 +3,7 @@
 #include "backend/import/feed_reader.h"
 
 #include "backend/import/feed_entry.h"
+#include "backend/import/import_errors.h"
 #include "backend/import/whole_source.h"
 #include "backend/import/xml_source.h"
 
@@ -27,7 +28,7 @@ public:
     void read(const QByteArray& source) {
         const Done opened = xml.open(source);
         if (!opened) {
-            visit({Error{opened.error()}, u"line 1"_s, 0});
+            visit({opened.error(), makeError<import_errors::atLine>(1), 0});
             return;
         }
         if (xml.enterChild())
@@ -36,8 +37,8 @@ public:
             if (going)
                 handOver(waiting.entry, waiting.number);
         }
-        if (going && !xml.fault().isEmpty())
-            visit({Error{xml.fault()}, u"line %1"_s.arg(xml.reader().lineNumber()), position()});
+        if (const auto fault = xml.fault(); going && fault)
+            visit({*fault, makeError<import_errors::atLine>(xml.reader().lineNumber()), position()});
     }
 
 private:
@@ -67,7 +68,7 @@ private:
         const QString own = xml.reader().namespaceUri().toString();
         while (xml.enterChild())
             entry.takeElement(xml, own);
-        if (!xml.fault().isEmpty())
+        if (xml.fault())
             return;  // cut off in the middle
         ++count;
         // The feed's own date may stand behind its entries.
@@ -80,10 +81,7 @@ private:
     void handOver(const FeedEntry& entry, qsizetype number) {
         const Result<StoreItem> content = feedItem(entry, feed, options.service);
         const QString name = entry.identity.isEmpty() ? entry.link : entry.identity;
-        QString place = u"item %1"_s.arg(number);
-        if (!name.isEmpty())
-            place += u" ("_s + name.left(200) + u')';
-        going = visit({content, place, position()});
+        going = visit({content, placeOfItem(number, name.left(200)), position()});
     }
 
     qint64 position() const { return xml.reader().characterOffset(); }
@@ -117,7 +115,7 @@ bool isAtom(const SourceHead& head) {
 Done readFeed(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
     const Result<QByteArray> document = wholeSource(source, options.limits.file);
     if (!document)
-        return Error{document.error()};
+        return document.error();
     FeedReading(options, visit).read(document.value());
     return Nothing{};
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/import_job.h"
 
+#include "backend/import/import_errors.h"
 #include "backend/import/source_reader.h"
 #include "host/contract/clock.h"
 
@@ -67,11 +68,11 @@ void ImportJob::runFile(const QString& path) {
     const QFileInfo info(path);
     QFile file(path);
     if (!info.exists())
-        rejectFile(path, u"The file does not exist."_s);
+        rejectFile(path, makeError<import_errors::fileMissing>());
     else if (!info.isFile())
-        rejectFile(path, u"This is not a file."_s);
+        rejectFile(path, makeError<import_errors::noFile>());
     else if (!file.open(QIODevice::ReadOnly))
-        rejectFile(path, u"The file cannot be opened: %1."_s.arg(file.errorString()));
+        rejectFile(path, makeError<import_errors::fileNotOpened>(file.errorString()));
     else
         takeFile(file, path);
 }
@@ -87,7 +88,7 @@ void ImportJob::takeFile(QFile& file, const QString& path) {
     const Done read =
         readSource(file, ofFile, [&](SourceItem&& item) { return takeItem(std::move(item), path, state); });
     if (read && file.error() != QFileDevice::NoError)
-        finishFile(path, state, Error{u"The file cannot be read to its end: %1."_s.arg(file.errorString())});
+        finishFile(path, state, makeError<import_errors::fileNotReadToEnd>(file.errorString()));
     else
         finishFile(path, state, read);
 }
@@ -103,14 +104,14 @@ bool ImportJob::takeItem(SourceItem&& item, const QString& path, FileState& stat
     return true;
 }
 
-bool ImportJob::store(const StoreItem& item, const QString& path, const QString& place, FileState& state) {
+bool ImportJob::store(const StoreItem& item, const QString& path, const Phrase& place, FileState& state) {
     const Result<TakeOutcome> outcome = sink.take(item);
     if (!outcome) {
         state.failure = outcome.error();
         return false;
     }
     if (outcome.value().take == Take::Rejected) {
-        rejectItem(path, place, outcome.value().reason, state);
+        rejectItem(path, place, *outcome.value().reason, state);
         return true;
     }
     ++(outcome.value().take == Take::TakenIn ? state.totals.takenIn : state.totals.alreadyThere);
@@ -141,14 +142,13 @@ void ImportJob::finishFile(const QString& path, FileState& state, const Done& re
     report.anyRecent = report.anyRecent || state.anyRecent;
 }
 
-void ImportJob::rejectFile(const QString& path, const QString& reason) {
+void ImportJob::rejectFile(const QString& path, const Error& reason) {
     ++report.filesRejected;
     if (reject)
-        reject({path, {{}, reason}});
+        reject({path, {std::nullopt, reason}});
 }
 
-void ImportJob::rejectItem(const QString& path, const QString& place, const QString& reason,
-                           FileState& state) {
+void ImportJob::rejectItem(const QString& path, const Phrase& place, const Error& reason, FileState& state) {
     ++state.totals.rejected;
     if (reject)
         reject({path, {place, reason}});

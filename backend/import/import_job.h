@@ -25,7 +25,7 @@ struct ImportTotals {
     ImportTotals& operator+=(const ImportTotals& other);
 };
 
-// An item that was not taken, or, with an empty place, a whole file.
+// An item that was not taken, or, without a place, a whole file.
 struct ImportRejection {
     QString file;
     Rejection rejection;
@@ -43,8 +43,8 @@ struct ImportReport {
     ImportTotals totals;
     int filesRead = 0;
     int filesRejected = 0;
-    bool stopped = false;            // by stop()
-    std::optional<QString> failure;  // of the store; it ended the import
+    bool stopped = false;          // by stop()
+    std::optional<Error> failure;  // of the store; it ended the import
     // Of the news among the items that are now in the store: the time of the newest, if there is any, and
     // whether one lies within the last 255 days of the host's clock.
     std::optional<std::int64_t> newest;
@@ -82,16 +82,16 @@ private:
         ImportTotals totals;
         std::optional<std::int64_t> newest;
         bool anyRecent = false;
-        std::optional<QString> failure;
+        std::optional<Error> failure;
     };
 
     void runFile(const QString& path);
     void takeFile(QFile& file, const QString& path);
     bool takeItem(SourceItem&& item, const QString& path, FileState& state);
-    bool store(const StoreItem& item, const QString& path, const QString& place, FileState& state);
+    bool store(const StoreItem& item, const QString& path, const Phrase& place, FileState& state);
     void finishFile(const QString& path, FileState& state, const Done& read);
-    void rejectFile(const QString& path, const QString& reason);
-    void rejectItem(const QString& path, const QString& place, const QString& reason, FileState& state);
+    void rejectFile(const QString& path, const Error& reason);
+    void rejectItem(const QString& path, const Phrase& place, const Error& reason, FileState& state);
     void showProgress(const QString& path, qint64 bytesOfFile, bool always);
 
     QStringList files;

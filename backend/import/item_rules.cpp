@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/item_rules.h"
 
+#include "backend/import/import_errors.h"
 #include "backend/import/news_time.h"
 #include "backend/import/wire_form.h"
 #include "host/contract/clock.h"
@@ -21,10 +22,10 @@ constexpr qsizetype longestQuote = 60;
 
 }  // namespace
 
-std::optional<QString> faultOfIdentity(const QString& identity, QStringView what) {
+std::optional<Error> faultOfIdentity(const QString& identity, Phrase what) {
     if (identity.size() <= longestIdentity)
         return std::nullopt;
-    return u"The %1 is longer than %2 characters."_s.arg(what).arg(longestIdentity);
+    return makeError<import_errors::identityTooLong>(std::move(what), longestIdentity);
 }
 
 int versionOf(QStringView stated, std::int64_t time) {
@@ -36,18 +37,17 @@ int versionOf(QStringView stated, std::int64_t time) {
     return int(std::clamp<std::int64_t>(time, 0, std::numeric_limits<int>::max()));
 }
 
-std::optional<QString> notForPublication(const QString& status, QLatin1StringView field) {
+std::optional<Error> notForPublication(const QString& status, QLatin1StringView field) {
     if (status.isEmpty() || status == "usable"_L1)
         return std::nullopt;
-    return u"The record is not for publication: “%1” is “%2”."_s.arg(field,
-                                                                     titleLine(status.left(longestQuote)));
+    return makeError<import_errors::notForPublication>(field, titleLine(status.left(longestQuote)));
 }
 
-std::optional<QString> underEmbargo(const QString& until, QLatin1StringView field) {
+std::optional<Error> underEmbargo(const QString& until, QLatin1StringView field) {
     const auto time = newsTime(until);
     if (time && *time <= host_clock::now())
         return std::nullopt;
-    return u"The record is under embargo: “%1” is “%2”."_s.arg(field, titleLine(until.left(longestQuote)));
+    return makeError<import_errors::underEmbargo>(field, titleLine(until.left(longestQuote)));
 }
 
 void addSymbol(std::vector<SymbolRef>& symbols, const SymbolRef& symbol) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/json_reader.h"
 
+#include "backend/import/import_errors.h"
 #include "backend/import/json_list.h"
 #include "backend/import/ninjs_record.h"
 #include "backend/import/text_encoding.h"
@@ -18,16 +19,13 @@ namespace {
 Result<StoreItem> storeItem(QByteArrayView record, const ReadOptions& options) {
     Result<NewsItem> item = ninjsItem(record, options.service);
     if (!item)
-        return Error{item.error()};
+        return item.error();
     StoreItem taken = std::move(item.value());
     return taken;
 }
 
-QString placeOf(qsizetype number, const Result<StoreItem>& content) {
-    const QString place = u"item %1"_s.arg(number);
-    if (!content)
-        return place;
-    return place + u" ("_s + std::get<NewsItem>(content.value()).identity + u')';
+Phrase placeOf(qsizetype number, const Result<StoreItem>& content) {
+    return placeOfItem(number, content ? std::get<NewsItem>(content.value()).identity : QString());
 }
 
 // The next line, or nothing when it is longer than the limit; then it has been read past.
@@ -51,9 +49,9 @@ std::optional<QByteArray> nextLine(QIODevice& source, qint64 limit) {
 void readJsonLines(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
     for (qint64 number = 1; !source.atEnd(); ++number) {
         const std::optional<QByteArray> line = nextLine(source, options.limits.line);
-        const QString place = u"line %1"_s.arg(number);
+        const Phrase place = makeError<import_errors::atLine>(number);
         if (!line) {
-            const Error tooLong{u"The line is longer than %1 bytes."_s.arg(options.limits.line)};
+            const Error tooLong = makeError<import_errors::lineTooLong>(options.limits.line);
             if (!visit({tooLong, place, source.pos()}))
                 return;
             continue;
@@ -76,9 +74,10 @@ void readJsonList(const QByteArray& source, const ReadOptions& options, const It
             return;
     }
     if (!list.isClosed())
-        visit({Error{u"The list has no end: “]” is missing."_s}, u"item %1"_s.arg(number), source.size()});
+        visit({makeError<import_errors::listWithoutEnd>(), makeError<import_errors::atItem>(number),
+               source.size()});
     else if (!list.rest().isEmpty())
-        visit({Error{u"There is something behind the end of the list."_s}, u"the end"_s, source.size()});
+        visit({makeError<import_errors::behindList>(), makeError<import_errors::atEnd>(), source.size()});
 }
 
 void readJsonDocument(const QByteArray& source, const ReadOptions& options, const ItemVisitor& visit) {

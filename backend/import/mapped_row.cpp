@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/mapped_row.h"
 
+#include "backend/import/import_errors.h"
 #include "backend/import/item_rules.h"
 #include "backend/import/plain_text.h"
 #include "backend/import/wire_form.h"
@@ -84,8 +85,7 @@ Result<unsigned char> serviceOf(const MappedRow& row, const MappedValue& mapped,
     bool isNumber = false;
     const uint number = text.toUInt(&isNumber);
     if (!isNumber || number < 1 || number > 255)
-        return Error{
-            u"“%1” names no service: the mapping has no number for it."_s.arg(titleLine(text.left(60)))};
+        return makeError<import_errors::rowWithoutService>(titleLine(text.left(60)));
     return static_cast<unsigned char>(number);
 }
 
@@ -95,23 +95,22 @@ Result<NewsItem> mappedItem(const Mapping& mapping, const MappedRow& row, unsign
     NewsItem item;
     item.identity = identityOf(row, mapping);
     if (item.identity.isEmpty())
-        return Error{u"The row has nothing in the columns that identify it (%1)."_s.arg(
-            mapping.identity.join(u", "_s))};
-    if (const auto fault = faultOfIdentity(item.identity, u"row's identity"))
-        return Error{*fault};
+        return makeError<import_errors::rowWithoutIdentity>(mapping.identity.join(u", "_s));
+    if (const auto fault = faultOfIdentity(item.identity, makeError<import_errors::identityOfRow>()))
+        return *fault;
     const Result<unsigned char> owner = serviceOf(row, mapping.service, service);
     if (!owner)
-        return Error{owner.error()};
+        return owner.error();
     item.service = owner.value();
     const QString story = storyOf(row, mapping);
     item.story = story;
     item.title = titleOf(row, mapping, story);
     if (item.title.isEmpty())
-        return Error{u"The row has no title and no text to make one from."_s};
+        return makeError<import_errors::rowWithoutTitle>();
     const auto time =
         mapping.time.read(firstValue(row, mapping.time.dateColumns), row.value(mapping.time.clockColumn));
     if (!time)
-        return Error{time.error()};
+        return time.error();
     item.time = time.value();
     item.version = versionOf({}, item.time);
     item.category = titleLine(valueOf(row, mapping.category));

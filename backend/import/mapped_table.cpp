@@ -3,6 +3,8 @@
 #include "backend/import/mapped_table.h"
 
 #include "backend/import/csv.h"
+#include "backend/import/import_errors.h"
+#include "backend/import/json_fault.h"
 #include "backend/import/json_list.h"
 #include "backend/import/mapped_row.h"
 #include "backend/import/text_encoding.h"
@@ -31,20 +33,33 @@ std::optional<QString> textIn(const QByteArray& source, const QStringList& encod
     return std::nullopt;
 }
 
+// A row by its line (CSV) or by its number (JSON).
+struct RowPlace {
+    bool byLine = true;
+    qint64 number = 0;
+
+    Phrase alone() const {
+        return byLine ? makeError<import_errors::atLine>(number) : makeError<import_errors::atRow>(number);
+    }
+    Phrase named(const QString& name) const {
+        return byLine ? makeError<import_errors::atLineNamed>(number, name)
+                      : makeError<import_errors::atRowNamed>(number, name);
+    }
+};
+
 class RowSink {
 public:
     RowSink(const Mapping& ofTable, const ReadOptions& readOptions, const ItemVisitor& visitor)
         : mapping(ofTable), options(readOptions), visit(visitor) {}
 
-    bool take(const MappedRow& row, const QString& place, qint64 position) const {
+    bool take(const MappedRow& row, const RowPlace& place, qint64 position) const {
         const Result<NewsItem> item = mappedItem(mapping, row, options.service);
         if (!item)
-            return reject(item.error(), place, position);
-        return visit(
-            {StoreItem(item.value()), place + u" ("_s + item.value().identity.left(200) + u')', position});
+            return reject(item.error(), place.alone(), position);
+        return visit({StoreItem(item.value()), place.named(item.value().identity.left(200)), position});
     }
-    bool reject(const QString& reason, const QString& place, qint64 position) const {
-        return visit({Error{reason}, place, position});
+    bool reject(Error reason, Phrase place, qint64 position) const {
+        return visit({std::move(reason), std::move(place), position});
     }
 
 private:
@@ -60,13 +75,12 @@ Done readCsv(const QString& table, const Mapping& mapping, const RowSink& sink) 
     std::for_each(columns.begin(), columns.end(), [](QString& column) { column = column.trimmed(); });
     for (const QString& column : mapping.neededColumns()) {
         if (!columns.contains(column))
-            return Error{u"The table has no column “%1”, which the mapping names."_s.arg(column)};
+            return makeError<import_errors::columnMissing>(column);
     }
     while (const auto record = csv.next()) {
-        const QString place = u"line %1"_s.arg(record->line);
+        const RowPlace place{true, record->line};
         if (!record->closed) {
-            sink.reject(u"A quote is opened and never closed; nothing behind it is read."_s, place,
-                        csv.position());
+            sink.reject(makeError<import_errors::quoteNotClosed>(), place.alone(), csv.position());
             break;
         }
         MappedRow row;
@@ -78,16 +92,15 @@ Done readCsv(const QString& table, const Mapping& mapping, const RowSink& sink) 
     return Nothing{};
 }
 
-bool takeObject(QByteArrayView text, const QString& place, qint64 position, const RowSink& sink) {
+bool takeObject(QByteArrayView text, const RowPlace& place, qint64 position, const RowSink& sink) {
     QJsonParseError problem;
     const auto document =
         QJsonDocument::fromJson(QByteArray::fromRawData(text.data(), text.size()), &problem);
     if (problem.error != QJsonParseError::NoError)
-        return sink.reject(
-            u"The row is not valid JSON: %1 (at byte %2)."_s.arg(problem.errorString()).arg(problem.offset),
-            place, position);
+        return sink.reject(makeError<import_errors::rowNoJson>(jsonFault(problem), problem.offset),
+                           place.alone(), position);
     if (!document.isObject())
-        return sink.reject(u"The row is not a JSON object."_s, place, position);
+        return sink.reject(makeError<import_errors::rowNoObject>(), place.alone(), position);
     const QJsonObject object = document.object();
     MappedRow row;
     for (auto field = object.begin(); field != object.end(); ++field)
@@ -99,13 +112,14 @@ Done readJson(const QByteArray& table, const RowSink& sink) {
     JsonList list(table);
     qsizetype number = 0;
     while (const auto row = list.next()) {
-        if (!takeObject(*row, u"row %1"_s.arg(++number), list.position(), sink))
+        if (!takeObject(*row, {false, ++number}, list.position(), sink))
             return Nothing{};
     }
     if (!list.isClosed())
-        sink.reject(u"The list has no end: “]” is missing."_s, u"row %1"_s.arg(number), table.size());
+        sink.reject(makeError<import_errors::listWithoutEnd>(), makeError<import_errors::atRow>(number),
+                    table.size());
     else if (!list.rest().isEmpty())
-        sink.reject(u"There is something behind the end of the list."_s, u"the end"_s, table.size());
+        sink.reject(makeError<import_errors::behindList>(), makeError<import_errors::atEnd>(), table.size());
     return Nothing{};
 }
 
@@ -115,14 +129,13 @@ Done readMappedTable(const QByteArray& source, const Mapping& mapping, const Rea
                      const ItemVisitor& visit) {
     const auto decoded = textIn(source, mapping.encodings);
     if (!decoded)
-        return Error{u"The file is in none of the encodings of the mapping."_s};
+        return makeError<import_errors::noMappedEncoding>();
     const QString text = decoded->startsWith(QChar::ByteOrderMark) ? decoded->sliced(1) : *decoded;
     const QStringView start = QStringView(text).trimmed();
     if (start.isEmpty())
-        return Error{u"The file is empty."_s};
+        return makeError<import_errors::fileEmpty>();
     if (start.startsWith(u'<'))
-        return Error{u"The file is a page of markup, not a table: it starts with “%1”."_s.arg(
-            titleLine(start.left(40)))};
+        return makeError<import_errors::markupPage>(titleLine(start.left(40)));
     const RowSink sink(mapping, options, visit);
     return start.startsWith(u'[') ? readJson(text.toUtf8(), sink) : readCsv(text, mapping, sink);
 }

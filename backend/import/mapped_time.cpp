@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/mapped_time.h"
 
+#include "backend/import/import_errors.h"
 #include "backend/import/news_time.h"
 #include "backend/import/wire_form.h"
 
@@ -30,7 +31,7 @@ QString patternOf(QChar letter, qsizetype length) {
 }
 
 Error unreadable(const QString& text) {
-    return {u"“%1” is not a time of the form that the mapping states."_s.arg(titleLine(text.left(60)))};
+    return makeError<import_errors::rowTimeUnread>(titleLine(text.left(60)));
 }
 
 int& partOf(TimeForm::Parts& parts, QChar letter) {
@@ -84,14 +85,14 @@ Result<TimeForm> TimeForm::parse(const QString& form) {
         const qsizetype length = isField ? runLength(form, at) : 1;
         onlyPairs = onlyPairs && isField && letter != u'y' && length == 2;
         if (isField && (parsed.fields.contains(letter) || length > (letter == u'y' ? 4 : 2)))
-            return Error{u"“%1” is not a form of dates or times: look at “%2”."_s.arg(form, letter)};
+            return makeError<import_errors::timeFormAt>(form, letter);
         if (isField)
             parsed.fields += letter;
         pattern += isField ? patternOf(letter, length) : QRegularExpression::escape(QString(letter));
         at += length;
     }
     if (parsed.fields.isEmpty())
-        return Error{u"“%1” is not a form of dates or times."_s.arg(form)};
+        return makeError<import_errors::timeForm>(form);
     parsed.pattern.setPattern(QRegularExpression::anchoredPattern(pattern));
     parsed.digits = onlyPairs ? form.size() : 0;
     return parsed;
@@ -114,7 +115,7 @@ bool TimeForm::read(QStringView text, Parts& parts) const {
 
 Result<std::int64_t> MappedTime::read(const QString& date, const QString& clock) const {
     if (date.isEmpty())
-        return Error{u"The row has no date."_s};
+        return makeError<import_errors::rowWithoutDate>();
     TimeForm::Parts parts;
     int yearsToAdd = yearsFrom;
     if (!dateForm) {

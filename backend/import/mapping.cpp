@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/mapping.h"
 
+#include "backend/import/import_errors.h"
+#include "backend/import/json_fault.h"
 #include "backend/import/text_encoding.h"
 
 #include <QFile>
@@ -20,13 +22,13 @@ constexpr qint64 largestFile = qint64(1) << 20;
 // Reads the values of one object of the file and remembers the first thing that is wrong.
 class MappingFields {
 public:
-    MappingFields(const QJsonObject& object, QString place, QString& firstFault)
+    MappingFields(const QJsonObject& object, QString place, std::optional<Error>& firstFault)
         : fields(object), where(std::move(place)), fault(firstFault) {}
 
     QString text(QLatin1StringView name) {
         const QJsonValue value = take(name);
         if (!value.isUndefined() && !value.isString())
-            complain(name, u"must be a text"_s);
+            complain(name, makeError<import_errors::mustBeText>());
         return value.toString();
     }
 
@@ -38,7 +40,7 @@ public:
         QStringList found;
         for (const auto& entry : value.isArray() ? value.toArray() : QJsonArray{value}) {
             if (!entry.isString() || entry.toString().trimmed().isEmpty())
-                complain(name, u"must be a text or a list of texts, none of them empty"_s);
+                complain(name, makeError<import_errors::mustBeTexts>());
             found += entry.toString().trimmed();
         }
         return found;
@@ -50,7 +52,7 @@ public:
             return otherwise;
         const int found = value.toInt(most + 1);
         if (found < least || found > most)
-            complain(name, u"must be a number from %1 to %2"_s.arg(least).arg(most));
+            complain(name, makeError<import_errors::mustBeNumber>(least, most));
         return found;
     }
 
@@ -60,7 +62,7 @@ public:
     MappingFields inner(QLatin1StringView name) {
         const QJsonValue value = take(name);
         if (!value.isUndefined() && !value.isObject())
-            complain(name, u"must be an object"_s);
+            complain(name, makeError<import_errors::mustBeObject>());
         return {value.toObject(), where + name + u'.', fault};
     }
 
@@ -70,22 +72,26 @@ public:
         for (const QString& key : entries.fields.keys()) {
             const QJsonValue value = entries.fields.value(key);
             if (!value.isString() && !value.isDouble())
-                complain(name, u"must hold texts or numbers"_s);
+                complain(name, makeError<import_errors::mustHoldTexts>());
             found.insert(key, value.toVariant().toString());
         }
         return found;
     }
 
-    void complain(QLatin1StringView name, const QString& problem) {
-        if (fault.isEmpty())
-            fault = u"The mapping's “%1%2” %3."_s.arg(where, name, problem);
+    void complain(QLatin1StringView name, Error problem) {
+        if (!fault)
+            fault = makeError<import_errors::mappingField>(where + name, std::move(problem));
+    }
+    void complainOfForm(QLatin1StringView name, const Error& problem) {
+        if (!fault)
+            fault = makeError<import_errors::mappingFieldUnusable>(where + name, problem);
     }
 
     // A name that nobody asked for is a slip of the pen.
     void finish() {
         for (const QString& key : fields.keys()) {
-            if (!asked.contains(key) && fault.isEmpty())
-                fault = u"The mapping's “%1%2” is not known."_s.arg(where, key);
+            if (!asked.contains(key) && !fault)
+                fault = makeError<import_errors::mappingFieldUnknown>(where + key);
         }
     }
 
@@ -97,7 +103,7 @@ private:
 
     QJsonObject fields;
     QString where;
-    QString& fault;
+    std::optional<Error>& fault;
     QStringList asked;
 };
 
@@ -107,7 +113,7 @@ std::optional<TimeForm> readForm(MappingFields& fields, QLatin1StringView name) 
         return std::nullopt;
     const Result<TimeForm> parsed = TimeForm::parse(form);
     if (!parsed) {
-        fields.complain(name, u"cannot be used: "_s + parsed.error().chopped(1));
+        fields.complainOfForm(name, parsed.error());
         return std::nullopt;
     }
     return parsed.value();
@@ -121,7 +127,7 @@ QTimeZone readZone(MappingFields& fields) {
     const bool isOffset = name.startsWith(u'+') || name.startsWith(u'-');
     const QByteArray id = (isOffset ? u"UTC"_s + name : name).toLatin1();
     if (!QTimeZone::isTimeZoneIdAvailable(id))
-        fields.complain("zone"_L1, u"is neither an offset such as “+08:00” nor a zone that is known here"_s);
+        fields.complain("zone"_L1, makeError<import_errors::noZone>());
     return QTimeZone(id);
 }
 
@@ -134,9 +140,9 @@ MappedTime readTime(MappingFields fields) {
     time.yearsFrom = fields.number("years_from"_L1, -10000, 10000, 0);
     time.zone = readZone(fields);
     if (time.dateColumns.isEmpty())
-        fields.complain("date"_L1, u"must name a column"_s);
+        fields.complain("date"_L1, makeError<import_errors::mustNameColumn>());
     if (time.clockColumn.isEmpty() == time.clockForm.has_value())
-        fields.complain("clock_form"_L1, u"and “clock” must be there together"_s);
+        fields.complain("clock_form"_L1, makeError<import_errors::withClock>());
     fields.finish();
     return time;
 }
@@ -165,7 +171,7 @@ MappedValue readService(MappingFields& fields) {
         service.otherwise = QString::number(number);
     const bool known = std::all_of(service.names.begin(), service.names.end(), isService);
     if (!known || !(service.otherwise.isEmpty() || isService(service.otherwise)))
-        fields.complain("service"_L1, u"must name services by numbers from 1 to 255"_s);
+        fields.complain("service"_L1, makeError<import_errors::mustNameServices>());
     return service;
 }
 
@@ -185,7 +191,7 @@ MappedLines readLines(MappingFields& fields) {
     if (name == "numbered"_L1)
         return MappedLines::Numbered;
     if (!name.isEmpty() && name != "wrapped"_L1)
-        fields.complain("lines"_L1, u"must be “wrapped”, “kept” or “numbered”"_s);
+        fields.complain("lines"_L1, makeError<import_errors::mustBeLines>());
     return MappedLines::Wrapped;
 }
 
@@ -193,7 +199,7 @@ QChar readSeparator(MappingFields& fields) {
     const QString separator = fields.has("separator"_L1) ? fields.text("separator"_L1) : u","_s;
     if (separator.size() == 1 && separator != u"\"" && separator != u"\n" && separator != u"\r")
         return separator.front();
-    fields.complain("separator"_L1, u"must be one character"_s);
+    fields.complain("separator"_L1, makeError<import_errors::mustBeCharacter>());
     return u',';
 }
 
@@ -201,7 +207,7 @@ QStringList readEncodings(MappingFields& fields) {
     const QStringList names = fields.texts("encodings"_L1);
     for (const QString& name : names) {
         if (!decoderOf(name.toLatin1()).isValid())
-            fields.complain("encodings"_L1, u"names “%1”, which is not known here"_s.arg(name));
+            fields.complain("encodings"_L1, makeError<import_errors::namesEncoding>(name));
     }
     return names;
 }
@@ -220,9 +226,9 @@ Mapping readMapping(MappingFields& fields) {
     mapping.category = readValue(fields.inner("category"_L1));
     mapping.symbols = readSymbols(fields.inner("symbols"_L1));
     if (mapping.identity.isEmpty())
-        fields.complain("identity"_L1, u"must name the columns that tell one item from another"_s);
+        fields.complain("identity"_L1, makeError<import_errors::mustNameIdentity>());
     if (mapping.title.isEmpty() && mapping.story.isEmpty())
-        fields.complain("title"_L1, u"must name a column, unless “story” does"_s);
+        fields.complain("title"_L1, makeError<import_errors::mustNameTitle>());
     fields.finish();
     return mapping;
 }
@@ -233,24 +239,23 @@ Result<Mapping> Mapping::parse(const QByteArray& file) {
     QJsonParseError problem;
     const auto document = QJsonDocument::fromJson(file, &problem);
     if (problem.error != QJsonParseError::NoError)
-        return Error{u"The mapping is not valid JSON: %1 (at byte %2)."_s.arg(problem.errorString())
-                         .arg(problem.offset)};
+        return makeError<import_errors::mappingNoJson>(jsonFault(problem), problem.offset);
     if (!document.isObject())
-        return Error{u"The mapping is not a JSON object."_s};
-    QString fault;
+        return makeError<import_errors::mappingNoObject>();
+    std::optional<Error> fault;
     MappingFields fields(document.object(), {}, fault);
     Mapping mapping = readMapping(fields);
-    if (!fault.isEmpty())
-        return Error{fault};
+    if (fault)
+        return *fault;
     return mapping;
 }
 
 Result<Mapping> Mapping::load(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return Error{u"The mapping %1 cannot be opened: %2."_s.arg(path, file.errorString())};
+        return makeError<import_errors::mappingNotOpened>(path, file.errorString());
     if (file.size() > largestFile)
-        return Error{u"The mapping %1 is larger than %2 bytes."_s.arg(path).arg(largestFile)};
+        return makeError<import_errors::mappingTooLarge>(path, largestFile);
     return parse(file.readAll());
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/newsml_fields.h"
 
+#include "backend/import/import_errors.h"
 #include "backend/import/item_rules.h"
 #include "backend/import/markets.h"
 #include "backend/import/news_time.h"
@@ -85,21 +86,21 @@ public:
 
     Result<NewsItem> item(unsigned char service) const {
         if (guid.isEmpty())
-            return Error{u"The item has no “guid”."_s};
-        if (const auto fault = faultOfIdentity(guid, u"“guid” of the item"))
-            return Error{*fault};
+            return makeError<import_errors::itemWithoutGuid>();
+        if (const auto fault = faultOfIdentity(guid, makeError<import_errors::guidOfItem>()))
+            return *fault;
         if (const auto reason = heldBack())
-            return Error{*reason};
+            return *reason;
         NewsItem item;
         item.service = service;
         item.identity = guid;
         const QString text = wireForm(!story.text.isEmpty() ? story.text : description.value());
         item.title = titleOf(text);
         if (item.title.isEmpty())
-            return Error{u"The item has no headline and no text to make one from."_s};
+            return makeError<import_errors::itemWithoutHeadline>();
         const Result<std::int64_t> stated = time();
         if (!stated)
-            return Error{stated.error()};
+            return stated.error();
         item.time = stated.value();
         item.version = versionOf(version, item.time);
         item.story = text;
@@ -206,7 +207,7 @@ private:
                    cleanLine(attribute(xml, "symbol"_L1))});
     }
 
-    std::optional<QString> heldBack() const {
+    std::optional<Error> heldBack() const {
         if (const auto reason = notForPublication(status, "pubStatus"_L1))
             return reason;
         return embargo ? underEmbargo(*embargo, "embargoed"_L1) : std::nullopt;
@@ -228,19 +229,17 @@ private:
     Result<std::int64_t> time() const {
         constexpr std::array names{QLatin1StringView("versionCreated"), QLatin1StringView("contentModified"),
                                    QLatin1StringView("firstCreated"), QLatin1StringView("contentCreated")};
-        QString unread;
+        std::optional<Error> unread;
         for (const QLatin1StringView name : names) {
             const auto found = times.find(name);
             if (found == times.end())
                 continue;
             if (const auto moment = newsTime(found->second))
                 return *moment;
-            if (unread.isEmpty())
-                unread = u"“%1” is “%2”"_s.arg(name, titleLine(found->second.left(60)));
+            if (!unread)
+                unread = makeError<import_errors::itemTimeUnread>(name, titleLine(found->second.left(60)));
         }
-        if (unread.isEmpty())
-            return Error{u"The item has no time (“versionCreated”)."_s};
-        return Error{u"The item has no time that can be read: %1."_s.arg(unread)};
+        return unread.value_or(makeError<import_errors::itemWithoutTime>());
     }
 
     XmlSource& xml;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/newsml_reader.h"
 
+#include "backend/import/import_errors.h"
 #include "backend/import/newsml_fields.h"
 #include "backend/import/whole_source.h"
 #include "backend/import/wire_form.h"
@@ -19,15 +20,15 @@ namespace {
 // Items that hold no news of their own.
 struct OtherItem {
     QLatin1StringView name;
-    QLatin1StringView holds;
+    Phrase (*holds)();
 };
 
 constexpr std::array otherItems{
-    OtherItem{QLatin1StringView("packageItem"), QLatin1StringView("a package of links to news items")},
-    OtherItem{QLatin1StringView("conceptItem"), QLatin1StringView("a concept")},
-    OtherItem{QLatin1StringView("knowledgeItem"), QLatin1StringView("a set of concepts")},
-    OtherItem{QLatin1StringView("planningItem"), QLatin1StringView("a plan of coverage")},
-    OtherItem{QLatin1StringView("catalogItem"), QLatin1StringView("a catalogue of code lists")},
+    OtherItem{QLatin1StringView("packageItem"), makeError<import_errors::packageOfLinks>},
+    OtherItem{QLatin1StringView("conceptItem"), makeError<import_errors::loneConcept>},
+    OtherItem{QLatin1StringView("knowledgeItem"), makeError<import_errors::setOfConcepts>},
+    OtherItem{QLatin1StringView("planningItem"), makeError<import_errors::planOfCoverage>},
+    OtherItem{QLatin1StringView("catalogItem"), makeError<import_errors::catalogueOfCodes>},
 };
 
 const OtherItem* otherItem(QStringView name) {
@@ -44,15 +45,15 @@ public:
     void read(const QByteArray& source) {
         const Done opened = xml.open(source);
         if (!opened) {
-            visit({Error{opened.error()}, u"line 1"_s, 0});
+            visit({opened.error(), makeError<import_errors::atLine>(1), 0});
             return;
         }
         if (xml.enterChild())
             readElement();
-        if (going && !xml.fault().isEmpty())
-            visit({Error{xml.fault()}, u"line %1"_s.arg(xml.reader().lineNumber()), position()});
+        if (const auto fault = xml.fault(); going && fault)
+            visit({*fault, makeError<import_errors::atLine>(xml.reader().lineNumber()), position()});
         else if (going && count == 0)
-            visit({Error{u"The message holds no item."_s}, u"the end"_s, position()});
+            visit({makeError<import_errors::messageEmpty>(), makeError<import_errors::atEnd>(), position()});
     }
 
 private:
@@ -65,10 +66,10 @@ private:
                 readElement();
         } else if (name == "newsItem"_L1) {
             const Result<NewsItem> item = newsmlItem(xml, options.service);
-            handOver(item ? Result<StoreItem>(StoreItem(item.value())) : Error{item.error()}, guid);
+            handOver(item ? Result<StoreItem>(StoreItem(item.value())) : item.error(), guid);
         } else if (const OtherItem* other = otherItem(name)) {
             xml.skip();
-            handOver(Error{u"The <%1> is %2, not a news item."_s.arg(name, other->holds)}, guid);
+            handOver(makeError<import_errors::otherNewsml>(name, other->holds()), guid);
         } else {
             xml.skip();
         }
@@ -76,12 +77,10 @@ private:
 
     // An item that the end of the document cuts off is part of what is wrong with the document.
     void handOver(const Result<StoreItem>& content, const QString& guid) {
-        if (!xml.fault().isEmpty())
+        if (xml.fault())
             return;
         ++count;
-        const QString place = u"item %1"_s.arg(count);
-        going =
-            visit({content, guid.isEmpty() ? place : place + u" ("_s + guid.left(200) + u')', position()});
+        going = visit({content, placeOfItem(count, guid.left(200)), position()});
     }
 
     qint64 position() const { return xml.reader().characterOffset(); }
@@ -106,7 +105,7 @@ bool isNewsml(const SourceHead& head) {
 Done readNewsml(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
     const Result<QByteArray> document = wholeSource(source, options.limits.file);
     if (!document)
-        return Error{document.error()};
+        return document.error();
     NewsmlReading(options, visit).read(document.value());
     return Nothing{};
 }

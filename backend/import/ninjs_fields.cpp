@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/ninjs_fields.h"
 
+#include "backend/import/import_errors.h"
+#include "backend/import/json_fault.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -83,28 +86,28 @@ constexpr std::array listFields{
               {QLatin1StringView("value"), QLatin1StringView("role"), QLatin1StringView("contenttype")}},
 };
 
-QLatin1StringView nameOfType(const QJsonValue& value) {
+Error nameOfType(const QJsonValue& value) {
     switch (value.type()) {
         case QJsonValue::Bool:
-            return "true or false"_L1;
+            return makeError<import_errors::trueOrFalse>();
         case QJsonValue::Double:
-            return "a number"_L1;
+            return makeError<import_errors::aNumber>();
         case QJsonValue::String:
-            return "a text"_L1;
+            return makeError<import_errors::aText>();
         case QJsonValue::Array:
-            return "a list"_L1;
+            return makeError<import_errors::aList>();
         case QJsonValue::Object:
-            return "an object"_L1;
+            return makeError<import_errors::anObject>();
         default:
-            return "nothing"_L1;
+            return makeError<import_errors::nothing>();
     }
 }
 
-// What is wrong with a field of a record, as a sentence; nothing when it is as it must be.
-using Fault = std::optional<QString>;
+// What is wrong with a field of a record; nothing when it is as it must be.
+using Fault = std::optional<Error>;
 
-Fault wrongType(const QString& field, QLatin1StringView wanted, const QJsonValue& value) {
-    return u"The field “%1” must be %2, not %3."_s.arg(field, wanted, nameOfType(value));
+Fault wrongType(const QString& field, Error wanted, const QJsonValue& value) {
+    return makeError<import_errors::recordField>(field, std::move(wanted), nameOfType(value));
 }
 
 bool isText(const QJsonValue& value) {
@@ -122,14 +125,14 @@ Fault faultOfList(const ListField& field, const QString& name, const QJsonValue&
 
 Fault faultOfEntry(const ListField& field, const QString& place, const QJsonValue& entry) {
     if (!entry.isObject())
-        return wrongType(place, "an object"_L1, entry);
+        return wrongType(place, makeError<import_errors::anObject>(), entry);
     const QJsonObject object = entry.toObject();
     for (auto member = object.begin(); member != object.end(); ++member) {
         const QString name = member.key().toLower();
         const QString memberPlace = place + u'.' + member.key();
         const auto& texts = field.texts;
         if (std::find(texts.begin(), texts.end(), name) != texts.end() && !isText(member.value()))
-            return wrongType(memberPlace, "a text"_L1, member.value());
+            return wrongType(memberPlace, makeError<import_errors::aText>(), member.value());
         if (name == "symbols"_L1) {
             if (const Fault fault = faultOfList(*listField(name), memberPlace, member.value()))
                 return fault;
@@ -142,7 +145,7 @@ Fault faultOfList(const ListField& field, const QString& name, const QJsonValue&
     if (list.isNull())
         return std::nullopt;
     if (!list.isArray())
-        return wrongType(name, "a list"_L1, list);
+        return wrongType(name, makeError<import_errors::aList>(), list);
     const QJsonArray entries = list.toArray();
     for (qsizetype i = 0; i < entries.size(); ++i) {
         if (const Fault fault = faultOfEntry(field, u"%1[%2]"_s.arg(name).arg(i), entries.at(i)))
@@ -161,7 +164,7 @@ Fault faultOfField(const QString& name, const QJsonValue& value) {
     const bool mustBeText =
         std::find(textFields.begin(), textFields.end(), lower) != textFields.end() || isOfTextFamily(lower);
     if (mustBeText && !isText(value))
-        return wrongType(name, "a text"_L1, value);
+        return wrongType(name, makeError<import_errors::aText>(), value);
     const ListField* list = listField(lower);
     return list != nullptr ? faultOfList(*list, name, value) : std::nullopt;
 }
@@ -169,13 +172,12 @@ Fault faultOfField(const QString& name, const QJsonValue& value) {
 Result<QJsonObject> jsonObject(QByteArrayView record) {
     const QByteArrayView text = record.trimmed();
     if (!text.startsWith('{'))
-        return Error{u"The record is not a JSON object."_s};
+        return makeError<import_errors::recordNoObject>();
     QJsonParseError problem;
     const auto document =
         QJsonDocument::fromJson(QByteArray::fromRawData(text.data(), text.size()), &problem);
     if (problem.error != QJsonParseError::NoError)
-        return Error{u"The record is not valid JSON: %1 (at byte %2)."_s.arg(problem.errorString())
-                         .arg(problem.offset)};
+        return makeError<import_errors::recordNoJson>(jsonFault(problem), problem.offset);
     return document.object();
 }
 
@@ -198,11 +200,11 @@ NinjsFields::NinjsFields(const QJsonObject& object) {
 Result<NinjsFields> NinjsFields::read(QByteArrayView record) {
     const Result<QJsonObject> object = jsonObject(record);
     if (!object)
-        return Error{object.error()};
+        return object.error();
     const QJsonObject& content = object.value();
     for (auto field = content.begin(); field != content.end(); ++field) {
         if (const Fault fault = faultOfField(field.key(), field.value()))
-            return Error{*fault};
+            return *fault;
     }
     return NinjsFields(content);
 }

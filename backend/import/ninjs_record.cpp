@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/ninjs_record.h"
 
+#include "backend/import/import_errors.h"
 #include "backend/import/item_rules.h"
 #include "backend/import/markets.h"
 #include "backend/import/news_time.h"
@@ -62,7 +63,8 @@ QString mainLine(const std::vector<Value>& values) {
 
 struct Times {
     std::optional<std::int64_t> time;
-    QString notUnderstood;  // the first field that holds something else, with what it holds
+    QLatin1StringView notUnderstood;  // the first field that holds something else
+    QString holds;
 };
 
 Times timesOf(const NinjsFields& fields) {
@@ -76,8 +78,10 @@ Times timesOf(const NinjsFields& fields) {
         times.time = newsTime(text);
         if (times.time)
             break;
-        if (times.notUnderstood.isEmpty())
-            times.notUnderstood = u"“%1” is “%2”"_s.arg(name, titleLine(text.left(60)));
+        if (times.notUnderstood.isEmpty()) {
+            times.notUnderstood = name;
+            times.holds = titleLine(text.left(60));
+        }
     }
     return times;
 }
@@ -87,12 +91,12 @@ Result<std::int64_t> timeOf(const NinjsFields& fields) {
     if (times.time)
         return *times.time;
     if (!times.notUnderstood.isEmpty())
-        return Error{u"The record has no time that can be read: %1."_s.arg(times.notUnderstood)};
-    return Error{u"The record has no time (“versioncreated”, “firstcreated” or “contentcreated”)."_s};
+        return makeError<import_errors::recordTimeUnread>(times.notUnderstood, times.holds);
+    return makeError<import_errors::recordWithoutTime>();
 }
 
 // Why the record may not be shown, or nothing.
-std::optional<QString> heldBack(const NinjsFields& fields) {
+std::optional<Error> heldBack(const NinjsFields& fields) {
     if (const auto reason = notForPublication(fields.text("pubstatus"_L1), "pubstatus"_L1))
         return reason;
     for (const QLatin1StringView name : {"embargoed"_L1, "embargoeduntil"_L1}) {
@@ -135,18 +139,18 @@ QString firstOf(std::initializer_list<QString> texts) {
 Result<NewsItem> ninjsItem(QByteArrayView record, unsigned char service) {
     const Result<NinjsFields> read = NinjsFields::read(record);
     if (!read)
-        return Error{read.error()};
+        return read.error();
     const NinjsFields& fields = read.value();
 
     NewsItem item;
     item.service = service;
     item.identity = cleanLine(fields.text("uri"_L1));
     if (item.identity.isEmpty())
-        return Error{u"The record has no “uri”."_s};
-    if (const auto fault = faultOfIdentity(item.identity, u"“uri” of the record"))
-        return Error{*fault};
+        return makeError<import_errors::recordWithoutUri>();
+    if (const auto fault = faultOfIdentity(item.identity, makeError<import_errors::uriOfRecord>()))
+        return *fault;
     if (const auto reason = heldBack(fields))
-        return Error{*reason};
+        return *reason;
 
     const QString body = bestText(fields.family("body"_L1));
     const QString description = bestText(fields.family("description"_L1));
@@ -157,11 +161,11 @@ Result<NewsItem> ninjsItem(QByteArrayView record, unsigned char service) {
         item.title = firstOf(
             {titleFromStory(body), titleFromStory(description), titleLine(fields.text("slugline"_L1))});
     if (item.title.isEmpty())
-        return Error{u"The record has no title and no text to make one from."_s};
+        return makeError<import_errors::recordWithoutTitle>();
 
     const Result<std::int64_t> time = timeOf(fields);
     if (!time)
-        return Error{time.error()};
+        return time.error();
     item.time = time.value();
     item.version = versionOf(fields.text("version"_L1), item.time);
     item.story = firstOf({body, description});

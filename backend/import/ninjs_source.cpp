@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/ninjs_source.h"
 
+#include "backend/import/import_errors.h"
 #include "backend/import/json_reader.h"
 #include "backend/import/json_shape.h"
 #include "backend/import/ninjs_fields.h"
@@ -22,7 +23,7 @@ namespace {
 Done readUtf16(const QByteArray& bytes, const ReadOptions& options, const ItemVisitor& visit) {
     const auto text = decodedText(bytes);
     if (!text)
-        return Error{u"The file starts as UTF-16 but is not."_s};
+        return makeError<import_errors::noUtf16>();
     QByteArray converted = text->toUtf8();
     QBuffer buffer(&converted);
     buffer.open(QIODevice::ReadOnly);
@@ -47,7 +48,7 @@ Done readNinjs(QIODevice& source, const ReadOptions& options, const ItemVisitor&
     }
     const Result<QByteArray> bytes = wholeSource(source, options.limits.file);
     if (!bytes)
-        return Error{bytes.error()};
+        return bytes.error();
     if (isUtf16(start))
         return readUtf16(bytes.value(), options, visit);
     if (shape == JsonShape::List)

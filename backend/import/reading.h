@@ -14,12 +14,15 @@ namespace wirepane {
 
 struct Mapping;
 
-// One item of a source as a reader hands it over: the item, or the sentence that says why it cannot be taken.
+// One item of a source as a reader hands it over: the item, or why it cannot be taken.
 struct SourceItem {
     Result<StoreItem> content;
-    QString place;         // where in the source: "line 12", "item 3 (urn:x:1)"
+    Phrase place;          // where in the source: "line 12", "item 3 (urn:x:1)"
     qint64 bytesRead = 0;  // how much of the source has been read when it is handed over
 };
+
+// "item 3", or "item 3 (urn:x:1)" where it has a name.
+Phrase placeOfItem(qint64 number, const QString& name);
 
 // Takes what a reader finds, one by one; false stops the reading.
 using ItemVisitor = std::function<bool(SourceItem&&)>;

@@ -3,6 +3,7 @@
 #include "backend/import/source_formats.h"
 
 #include "backend/import/feed_reader.h"
+#include "backend/import/import_errors.h"
 #include "backend/import/json_shape.h"
 #include "backend/import/newsml_reader.h"
 #include "backend/import/ninjs_source.h"
@@ -35,32 +36,31 @@ QString quoted(const QString& text) {
     return u"“"_s + titleLine(text.left(longestQuote)) + u"”"_s;
 }
 
-QString reasonOfXml(const XmlStart& xml) {
-    if (xml.root.isEmpty())
-        return xml.fault;
-    const QString vocabulary =
-        xml.rootNamespace.isEmpty() ? QString() : u" of "_s + quoted(xml.rootNamespace);
-    return u"The file is XML of a kind that is not known here: its root is <%1>%2."_s.arg(
-        titleLine(xml.root.left(60)), vocabulary);
+Error reasonOfXml(const XmlStart& xml) {
+    if (xml.fault)
+        return *xml.fault;
+    const QString root = titleLine(xml.root.left(60));
+    if (xml.rootNamespace.isEmpty())
+        return makeError<import_errors::unknownXml>(root);
+    return makeError<import_errors::unknownXmlOf>(root, titleLine(xml.rootNamespace.left(longestQuote)));
 }
 
-QString reasonOfJson(const QJsonObject& record) {
+Error reasonOfJson(const QJsonObject& record) {
     const QStringList fields = record.keys().first(std::min(record.size(), mostFields));
     QStringList named;
     std::transform(fields.begin(), fields.end(), std::back_inserter(named), quoted);
-    return u"The file is JSON of a kind that is not known here: a record has the fields %1."_s.arg(
-        named.join(u", "_s));
+    return makeError<import_errors::unknownJson>(named.join(u", "_s));
 }
 
 // What a source that no format recognises looks like.
-QString reasonToRefuse(const SourceHead& head) {
+Error reasonToRefuse(const SourceHead& head) {
     if (head.text().isEmpty())
-        return u"The file is empty."_s;
+        return makeError<import_errors::fileEmpty>();
     if (head.text().startsWith('<'))
         return reasonOfXml(head.xmlStart());
     if (const auto records = recordsInHead(head); !records.empty() && !records.front().isEmpty())
         return reasonOfJson(records.front());
-    return u"The file is of no known format (%1): it starts with %2."_s.arg(
+    return makeError<import_errors::unknownFormat>(
         namesOfFormats(),
         quoted(QString::fromUtf8(head.text().first(std::min(head.text().size(), 4 * longestQuote)))));
 }
@@ -82,7 +82,7 @@ Result<const SourceFormat*> recognisedFormat(const SourceHead& head) {
     const auto* found = std::find_if(formats.begin(), formats.end(),
                                      [&](const SourceFormat& format) { return format.recognise(head); });
     if (found == formats.end())
-        return Error{reasonToRefuse(head)};
+        return reasonToRefuse(head);
     return found;
 }
 

@@ -3,6 +3,7 @@
 #include "backend/import/source_head.h"
 
 #include "backend/import/csv.h"
+#include "backend/import/import_errors.h"
 #include "backend/import/text_encoding.h"
 #include "backend/import/xml_source.h"
 
@@ -34,8 +35,7 @@ XmlStart SourceHead::xmlStart() const {
             start.firstChild = xml.reader().name().toString();
     } else {
         const bool cutOff = xml.reader().error() == QXmlStreamReader::PrematureEndOfDocumentError;
-        start.fault =
-            cutOff ? u"The file looks like XML, but no element is found at its start."_s : xml.fault();
+        start.fault = cutOff ? makeError<import_errors::xmlWithoutElement>() : *xml.fault();
     }
     return start;
 }

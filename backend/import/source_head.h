@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/error.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 namespace wirepane {
 
@@ -14,10 +18,10 @@ constexpr qint64 recognisedFrom = 65536;
 
 // How an XML document starts. All empty for what does not start with "<".
 struct XmlStart {
-    QString root;           // local name
-    QString rootNamespace;  // URI; empty: none
-    QString firstChild;     // local name of the root's first child; empty: none in the head
-    QString fault;          // why no root was found, as a sentence
+    QString root;                // local name
+    QString rootNamespace;       // URI; empty: none
+    QString firstChild;          // local name of the root's first child; empty: none in the head
+    std::optional<Error> fault;  // why no root was found
 };
 
 // The first bytes of a source, as formats are recognised by them. Each look is taken anew. Any thread.

@@ -11,11 +11,10 @@ namespace wirepane {
 Done readSource(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
     if (options.mapping) {
         const Result<QByteArray> table = wholeSource(source, options.limits.file);
-        return table ? readMappedTable(table.value(), *options.mapping, options, visit)
-                     : Error{table.error()};
+        return table ? readMappedTable(table.value(), *options.mapping, options, visit) : table.error();
     }
     const Result<const SourceFormat*> format = recognisedFormat(SourceHead(source.peek(recognisedFrom)));
-    return format ? format.value()->read(source, options, visit) : Error{format.error()};
+    return format ? format.value()->read(source, options, visit) : format.error();
 }
 
 }  // namespace wirepane

@@ -3,6 +3,7 @@
 #include "backend/import/table_reader.h"
 
 #include "backend/import/csv.h"
+#include "backend/import/import_errors.h"
 #include "backend/import/table_columns.h"
 #include "backend/import/text_encoding.h"
 #include "backend/import/whole_source.h"
@@ -36,25 +37,20 @@ TableKind kindOf(const TableColumns& columns) {
                                                                                  : TableKind::Unknown;
 }
 
-Error noNumber(QLatin1StringView what, const QString& text, qint64 least, qint64 most) {
-    return {u"“%1” is not a %2: it must be a number from %3 to %4."_s.arg(
-        titleLine(text.left(60)), what, QString::number(least), QString::number(most))};
-}
-
-Result<qint64> number(QLatin1StringView what, const QString& text, qint64 least, qint64 most) {
+Result<qint64> number(Phrase what, const QString& text, qint64 least, qint64 most) {
     bool isNumber = false;
     const qint64 value = text.toLongLong(&isNumber);
     if (!isNumber || value < least || value > most)
-        return noNumber(what, text, least, most);
+        return makeError<import_errors::numberOutOfRange>(titleLine(text.left(60)), std::move(what), least,
+                                                          most);
     return value;
 }
 
-Result<double> price(QLatin1StringView what, const QString& text) {
+Result<double> price(Phrase what, const QString& text) {
     bool isNumber = false;
     const double value = text.toDouble(&isNumber);
     if (!isNumber || !std::isfinite(value))
-        return Error{
-            u"“%1” is not a %2: it must be a number such as 12.5."_s.arg(titleLine(text.left(60)), what)};
+        return makeError<import_errors::noPrice>(titleLine(text.left(60)), std::move(what));
     return value;
 }
 
@@ -73,7 +69,7 @@ Result<QString> codeOf(const TableColumns& columns, const QStringList& row) {
                                              QRegularExpression::UseUnicodePropertiesOption);
     QString code = columns.field(row, Column::Code);
     if (!codeForm.match(code).hasMatch())
-        return Error{u"“%1” is not a symbol code."_s.arg(titleLine(code.left(60)))};
+        return makeError<import_errors::noSymbolCode>(titleLine(code.left(60)));
     return code;
 }
 
@@ -81,24 +77,26 @@ Result<StoreItem> symbolItem(const TableColumns& columns, const QStringList& row
                              const ReadOptions& options) {
     const auto code = codeOf(columns, row);
     if (!code)
-        return Error{code.error()};
+        return code.error();
     SymbolItem item;
     item.code = code.value();
     item.name = titleLine(columns.field(row, Column::Name));
     if (item.name.isEmpty())
-        return Error{u"The symbol “%1” has no name."_s.arg(item.code)};
+        return makeError<import_errors::symbolWithoutName>(item.code);
     item.market = marketOfList(columns.market(), options);
     if (columns.has(Column::Market)) {
-        const auto market = number("market"_L1, columns.field(row, Column::Market), 1, 255);
+        const auto market =
+            number(makeError<import_errors::market>(), columns.field(row, Column::Market), 1, 255);
         if (!market)
-            return Error{market.error()};
+            return market.error();
         item.market = static_cast<unsigned char>(market.value());
     }
     const QString category = columns.field(row, Column::Category);
     if (!category.isEmpty()) {
-        const auto kind = number("category"_L1, category, 0, std::numeric_limits<int>::max());
+        const auto kind =
+            number(makeError<import_errors::category>(), category, 0, std::numeric_limits<int>::max());
         if (!kind)
-            return Error{kind.error()};
+            return kind.error();
         item.category = int(kind.value());
     }
     return StoreItem(item);
@@ -106,42 +104,44 @@ Result<StoreItem> symbolItem(const TableColumns& columns, const QStringList& row
 
 Result<StoreItem> categoryItem(const TableColumns& columns, const QStringList& row) {
     static const QRegularExpression colourForm(u"^#[0-9A-Fa-f]{6}$"_s);
-    const auto service = number("service"_L1, columns.field(row, Column::Service), 1, 255);
+    const auto service =
+        number(makeError<import_errors::service>(), columns.field(row, Column::Service), 1, 255);
     if (!service)
-        return Error{service.error()};
-    const auto id =
-        number("category id"_L1, columns.field(row, Column::Id), 0, std::numeric_limits<std::int32_t>::max());
+        return service.error();
+    const auto id = number(makeError<import_errors::categoryId>(), columns.field(row, Column::Id), 0,
+                           std::numeric_limits<std::int32_t>::max());
     if (!id)
-        return Error{id.error()};
+        return id.error();
     CategoryItem item;
     item.service = static_cast<unsigned char>(service.value());
     item.id = std::int32_t(id.value());
     item.name = titleLine(columns.field(row, Column::Name));
     if (item.name.isEmpty())
-        return Error{u"The category %1 has no name."_s.arg(item.id)};
+        return makeError<import_errors::categoryWithoutName>(item.id);
     item.colour = columns.field(row, Column::Colour).toLower();
     if (!item.colour.isEmpty() && !colourForm.match(item.colour).hasMatch())
-        return Error{
-            u"“%1” is not a colour: it must be as “#rrggbb”."_s.arg(titleLine(item.colour.left(60)))};
+        return makeError<import_errors::noColour>(titleLine(item.colour.left(60)));
     return StoreItem(item);
 }
 
 Result<StoreItem> quoteItem(const TableColumns& columns, const QStringList& row) {
-    const auto market = number("market"_L1, columns.field(row, Column::Market), 1, 255);
+    const auto market =
+        number(makeError<import_errors::market>(), columns.field(row, Column::Market), 1, 255);
     if (!market)
-        return Error{market.error()};
+        return market.error();
     const auto code = codeOf(columns, row);
     if (!code)
-        return Error{code.error()};
-    const auto last = price("last price"_L1, columns.field(row, Column::Last));
+        return code.error();
+    const auto last = price(makeError<import_errors::lastPrice>(), columns.field(row, Column::Last));
     if (!last)
-        return Error{last.error()};
-    const auto change = price("change"_L1, columns.field(row, Column::Change));
+        return last.error();
+    const auto change = price(makeError<import_errors::change>(), columns.field(row, Column::Change));
     if (!change)
-        return Error{change.error()};
-    const auto volume = number("volume"_L1, columns.field(row, Column::Volume), 0, mostVolume);
+        return change.error();
+    const auto volume =
+        number(makeError<import_errors::volume>(), columns.field(row, Column::Volume), 0, mostVolume);
     if (!volume)
-        return Error{volume.error()};
+        return volume.error();
     return StoreItem(QuoteItem{static_cast<unsigned char>(market.value()), code.value(), last.value(),
                                change.value(), volume.value()});
 }
@@ -167,10 +167,9 @@ void readRows(QStringView table, const ReadOptions& options, const ItemVisitor& 
     const TableColumns columns(header->fields);
     const TableKind kind = kindOf(columns);
     while (const auto row = csv.next()) {
-        const QString place = u"line %1"_s.arg(row->line);
+        const Phrase place = makeError<import_errors::atLine>(row->line);
         if (!row->closed) {
-            visit({Error{u"A quote is opened and never closed; nothing behind it is read."_s}, place,
-                   csv.position()});
+            visit({makeError<import_errors::quoteNotClosed>(), place, csv.position()});
             return;
         }
         if (isLeftOut(row->fields))
@@ -189,10 +188,10 @@ bool isTable(const SourceHead& head) {
 Done readTable(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
     const Result<QByteArray> bytes = wholeSource(source, options.limits.file);
     if (!bytes)
-        return Error{bytes.error()};
+        return bytes.error();
     const auto text = decodedText(bytes.value());
     if (!text)
-        return Error{u"The file is neither UTF-8 nor code page 950."_s};
+        return makeError<import_errors::noKnownEncoding>();
     readRows(*text, options, visit);
     return Nothing{};
 }

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/whole_source.h"
 
-namespace wirepane {
+#include "backend/import/import_errors.h"
 
-using namespace Qt::StringLiterals;
+namespace wirepane {
 
 Result<QByteArray> wholeSource(QIODevice& source, qint64 limit) {
     if (source.size() > limit)
-        return Error{
-            u"The file is larger than %1 bytes; only JSON with one record per line may be."_s.arg(limit)};
+        return makeError<import_errors::fileTooLarge>(limit);
     return source.readAll();
 }
 

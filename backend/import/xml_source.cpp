@@ -3,6 +3,7 @@
 #include "backend/import/xml_source.h"
 
 #include "backend/import/html_entities.h"
+#include "backend/import/import_errors.h"
 #include "backend/import/text_encoding.h"
 
 #include <QRegularExpression>
@@ -44,8 +45,7 @@ Done XmlSource::open(const QByteArray& document) {
     }
     QStringDecoder decoder = decoderOf(encoding);
     if (!decoder.isValid())
-        return Error{u"The file declares the encoding “%1”, which is not known here."_s.arg(
-            QLatin1StringView(encoding))};
+        return makeError<import_errors::unknownEncoding>(QLatin1StringView(encoding));
     xml.addData(QString(decoder(document)));
     return Nothing{};
 }
@@ -96,13 +96,13 @@ void XmlSource::addElement(Content& content) {
     content.markup += u'<' % xml.name() % u'>';
 }
 
-QString XmlSource::fault() const {
+std::optional<Error> XmlSource::fault() const {
     if (!xml.hasError())
-        return {};
+        return std::nullopt;
     QString problem = xml.errorString();
     if (problem.endsWith(u'.'))
         problem.chop(1);
-    return u"The XML cannot be read: %1."_s.arg(problem);
+    return makeError<import_errors::xmlNotRead>(problem);
 }
 
 }  // namespace wirepane

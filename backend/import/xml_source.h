@@ -8,6 +8,8 @@
 #include <QString>
 #include <QXmlStreamReader>
 
+#include <optional>
+
 namespace wirepane {
 
 // One XML document from outside: its encoding, HTML's named entities, and bounds on nesting and entity
@@ -31,8 +33,8 @@ public:
     Content content();
 
     const QXmlStreamReader& reader() const { return xml; }
-    // What is wrong with the document, as a sentence; empty when nothing is.
-    QString fault() const;
+    // What is wrong with the document; nothing when nothing is.
+    std::optional<Error> fault() const;
 
 private:
     bool advance();

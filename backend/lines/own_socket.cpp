@@ -137,7 +137,7 @@ Result<std::unique_ptr<OwnSocket>> OwnSocket::listen(const QString& name) {
     std::unique_ptr<OwnSocket> made(new OwnSocket);
     const Done bound = made->bindTo(QFile::encodeName(name));
     if (!bound)
-        return Error{u"The local socket %1 cannot be opened: %2."_s.arg(name, bound.error())};
+        return Error{u"The local socket %1 cannot be opened: %2."_s.arg(name, sentence(bound.error()))};
     return made;
 }
 

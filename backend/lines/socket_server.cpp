@@ -98,10 +98,10 @@ SocketServer::~SocketServer() {
 Done SocketServer::listen(const QString& name) {
     const Result<QString> path = socketPath(name);
     if (!path)
-        return Error{path.error()};
+        return path.error();
     auto opened = OwnSocket::listen(path.value());
     if (!opened)
-        return Error{opened.error()};
+        return opened.error();
     socket = std::move(opened.value());
     notifier = std::make_unique<QSocketNotifier>(socket->descriptor(), QSocketNotifier::Read);
     connect(notifier.get(), &QSocketNotifier::activated, this, &SocketServer::acceptClients);

@@ -30,7 +30,7 @@ Result<std::unique_ptr<EmbeddedBackEnd>> EmbeddedBackEnd::open(const QString& st
     if (!store) {
         Result<std::unique_ptr<Database>> read = openStoreToRead(storePath, {.onIndexing = onIndexing});
         if (!read)
-            return Error{store.error()};
+            return store.error();
         store = std::move(read);
     }
     return std::make_unique<EmbeddedBackEnd>(std::move(store.value()));
@@ -71,12 +71,12 @@ void EmbeddedBackEnd::catchUp() {
 
 Result<TakeOutcome> EmbeddedBackEnd::takeIn(const StoreItem& item) {
     if (Done begun = begin(); !begun)
-        return Error{begun.error()};
+        return begun.error();
     Result<TakeOutcome> outcome = take(item);
     if (!outcome)
         return outcome;
     if (Done kept = commit(); !kept)
-        return Error{kept.error()};
+        return kept.error();
     return outcome;
 }
 
@@ -100,7 +100,7 @@ Result<TakeOutcome> EmbeddedBackEnd::take(const StoreItem& item) {
     }
     const Result<StoredNews> stored = writer.takeNews(*news);
     if (!stored)
-        return Error{stored.error()};
+        return stored.error();
     if (stored.value().outcome.take == Take::TakenIn)
         changes.news.emplace_back(stored.value().before, stored.value().key);
     return stored.value().outcome;
@@ -131,12 +131,12 @@ void EmbeddedBackEnd::rollback() {
 
 Result<TakeOutcome> EmbeddedBackEnd::takeStory(const HeadlineKey& key, const QString& story) {
     if (Done begun = begin(); !begun)
-        return Error{begun.error()};
+        return begun.error();
     Result<TakeOutcome> outcome = writer.takeStory(key, story);
     if (!outcome)
         return outcome;
     if (Done kept = commit(); !kept)
-        return Error{kept.error()};
+        return kept.error();
     return outcome;
 }
 

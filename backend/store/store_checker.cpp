@@ -107,7 +107,7 @@ void checkSearchIndex(Database& database, QStringList& faults) {
 Result<QStringList> StoreChecker::check() const {
     const Result<std::unique_ptr<Database>> opened = Database::openToRead(path, StoreOptions().busyTimeout);
     if (!opened)
-        return Error{opened.error()};
+        return opened.error();
     Database& database = *opened.value();
     // One moment of the store, whoever writes to it meanwhile.
     if (!database.execute("PRAGMA temp_store = MEMORY; BEGIN"))

@@ -93,7 +93,7 @@ Result<TakeOutcome> StoreWriter::take(const StoreItem& item) {
         return takeQuote(cleaned(*quote));
     const Result<StoredNews> stored = takeNews(std::get<NewsItem>(item));
     if (!stored)
-        return Error{stored.error()};
+        return stored.error();
     return stored.value().outcome;
 }
 
@@ -124,7 +124,7 @@ Result<StoredNews> StoreWriter::add(const NewsItem& item) {
     NewsPlace place{.day = days.numberOf(item.time)};
     const Result<std::optional<std::int32_t>> number = numberFor(item, place.day, nullptr);
     if (!number)
-        return Error{number.error()};
+        return number.error();
     if (!number.value())
         return rejected(numberTaken(item));
     place.sequence = *number.value();
@@ -141,7 +141,7 @@ Result<StoredNews> StoreWriter::replace(const NewsItem& item, const KnownNews& k
     NewsPlace place{.day = days.numberOf(item.time)};
     const Result<std::optional<std::int32_t>> number = numberFor(item, place.day, &known);
     if (!number)
-        return Error{number.error()};
+        return number.error();
     if (!number.value())
         return rejected(numberTaken(item));
     place.sequence = *number.value();

@@ -13,7 +13,7 @@ namespace wirepane {
 Result<std::unique_ptr<StoredDay>> StoredDay::open(const QString& storePath, QDate day) {
     auto opened = openStoreToRead(storePath);
     if (!opened)
-        return Error{opened.error()};
+        return opened.error();
     std::unique_ptr<StoredDay> stored(new StoredDay(std::move(opened.value())));
     if (!stored->load(day))
         return Error{stored->database->failure()};

@@ -17,7 +17,7 @@ namespace wirepane::bench {
 BigStore::BigStore(int headlines) : file(folder.filePath(u"big.db"_s)) {
     const auto store = openStore(file);
     if (!store)
-        throw std::runtime_error(store.error().toStdString());
+        throw std::runtime_error(sentence(store.error()).toStdString());
     const DayBounds bounds = boundsOf(newsDay);
     const std::string count = std::to_string(headlines);
     const std::string services = std::to_string(serviceCount);

@@ -28,7 +28,7 @@ inline double median(std::vector<double> values) {
 inline std::unique_ptr<Database> opened(const QString& path) {
     Result<std::unique_ptr<Database>> store = openStore(path);
     if (!store)
-        throw std::runtime_error(store.error().toStdString());
+        throw std::runtime_error(sentence(store.error()).toStdString());
     return std::move(store.value());
 }
 

@@ -21,7 +21,7 @@ void promiseSameLine(const QByteArray& line) {
     }
     const auto& record = std::get<FeedRecord>(parsed);
     if (!record.item) {
-        promise(!record.item.error().isEmpty(), "a rejection has a reason");
+        promise(!sentence(record.item.error()).isEmpty(), "a rejection has a reason");
         return;
     }
     if (const auto* quote = std::get_if<QuoteItem>(&record.item.value())) {

@@ -31,7 +31,7 @@ bool isService(const QString& text) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const Result<Mapping> parsed = Mapping::parse(FuzzInput(bytes, size).bytes());
     if (!parsed) {
-        promise(!parsed.error().isEmpty(), "a refusal has a reason");
+        promise(!sentence(parsed.error()).isEmpty(), "a refusal has a reason");
         return 0;
     }
     const Mapping& mapping = parsed.value();

@@ -18,7 +18,7 @@ void promiseYear(std::int64_t time) {
 void tryForm(const QString& form, const QString& date, const QString& clock) {
     const Result<TimeForm> parsed = TimeForm::parse(form);
     if (!parsed) {
-        promise(!parsed.error().isEmpty(), "a refusal has a reason");
+        promise(!sentence(parsed.error()).isEmpty(), "a refusal has a reason");
         return;
     }
     MappedTime time;

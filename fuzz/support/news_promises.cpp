@@ -128,12 +128,12 @@ ReadingResult promiseReading(qint64 size, const std::function<void(const ItemVis
     read([&](SourceItem&& item) {
         promise(item.bytesRead >= bytes && item.bytesRead <= size, "bytes read grow, within the source");
         bytes = item.bytesRead;
-        promise(!item.place.isEmpty(), "an item has a place");
+        promise(!sentence(item.place).isEmpty(), "an item has a place");
         if (item.content) {
             promiseItem(item.content.value());
             result.items.push_back(item.content.value());
         } else {
-            promise(!item.content.error().isEmpty(), "a rejection has a reason");
+            promise(!sentence(item.content.error()).isEmpty(), "a rejection has a reason");
             ++result.rejections;
         }
         return true;
@@ -154,7 +154,7 @@ ReadingResult promiseFile(QByteArray source, qint64 size, const ReadOptions& opt
         buffer.open(QIODevice::ReadOnly);
         const Done done = read(buffer, options, visit);
         isRefused = !done;
-        promise(done || !done.error().isEmpty(), "a refusal has a reason");
+        promise(done || !sentence(done.error()).isEmpty(), "a refusal has a reason");
     });
     promise(!isRefused || (result.items.empty() && result.rejections == 0), "what is refused gives nothing");
     return result;

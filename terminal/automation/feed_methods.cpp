@@ -77,9 +77,9 @@ QuoteItem quoteFrom(Params& params, const QJsonValue& value) {
 
 std::optional<RpcError> refusalOf(const Result<TakeOutcome>& taken) {
     if (!taken)
-        return RpcError{RpcCode::Refused, taken.error()};
+        return RpcError{RpcCode::Refused, sentence(taken.error())};
     if (taken.value().take == Take::Rejected)
-        return RpcError{RpcCode::BadParameters, taken.value().reason};
+        return RpcError{RpcCode::BadParameters, sentence(*taken.value().reason)};
     return std::nullopt;
 }
 

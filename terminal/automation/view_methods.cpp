@@ -57,7 +57,7 @@ Answer ViewMethods::open(Params& params) {
         return {};
     const auto opened = session.openView(std::move(request));
     if (!opened)
-        return RpcError{RpcCode::Refused, opened.error()};
+        return RpcError{RpcCode::Refused, sentence(opened.error())};
     return QJsonObject{{u"view"_s, opened.value()->number}};
 }
 
@@ -71,7 +71,7 @@ Answer ViewMethods::openDocked(Params& params) {
         return {};
     const auto opened = session.keeper().openNew(static_cast<int>(newsType));
     if (!opened)
-        return RpcError{RpcCode::Refused, opened.error()};
+        return RpcError{RpcCode::Refused, sentence(opened.error())};
     return QJsonObject{{u"view"_s, opened.value()->number}};
 }
 

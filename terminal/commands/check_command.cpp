@@ -28,7 +28,7 @@ int runCheck() {
     const QString file = QDir::toNativeSeparators(arguments.storeFile());
     const auto faults = StoreChecker(arguments.storeFile()).check();
     if (!faults) {
-        printNote(faults.error());
+        printNote(sentence(faults.error()));
         return exitUnusable;
     }
     for (const QString& fault : faults.value())

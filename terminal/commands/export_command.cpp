@@ -82,7 +82,7 @@ Result<std::vector<CHeadlineTable>> wantedNews(EmbeddedBackEnd& backEnd, const E
     if (!options.condition.keywords.empty()) {
         const auto store = openStoreToRead(backEnd.storePath());
         if (!store)
-            return Error{store.error()};
+            return store.error();
         const auto found = findAll(*store.value(), services, options.condition);
         return found ? Result<std::vector<CHeadlineTable>>(*found) : Error{store.value()->failure()};
     }
@@ -118,10 +118,10 @@ bool isReadable(EmbeddedBackEnd& backEnd, const std::vector<CHeadlineTable>& wan
 int exportNews(EmbeddedBackEnd& backEnd, const ExportOptions& options) {
     const auto module = loadModule();
     if (!module)
-        return unusable(module.error());
+        return unusable(sentence(module.error()));
     const auto wanted = wantedNews(backEnd, options);
     if (!wanted)
-        return unusable(wanted.error());
+        return unusable(sentence(wanted.error()));
     if (!isReadable(backEnd, wanted.value()))
         return unusable(backEnd.storeDamage());
     if (wanted.value().empty()) {
@@ -156,7 +156,7 @@ int runExport() {
         return unusable(u"There is no store %1."_s.arg(QDir::toNativeSeparators(arguments.storeFile())));
     auto store = openStoreToRead(arguments.storeFile(), {.onIndexing = indexingLines()});
     if (!store)
-        return unusable(store.error());
+        return unusable(sentence(store.error()));
     const auto backEnd = std::make_unique<EmbeddedBackEnd>(std::move(store.value()));
     const QString language =
         arguments.parser.isSet(u"lang"_s) ? arguments.parser.value(u"lang"_s) : Languages::ofSystem();

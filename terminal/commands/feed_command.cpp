@@ -52,7 +52,7 @@ public:
         lines.onReceipt([this, receipts](const LineSource::Receipt& receipt) {
             totals += receipt.outcome.totals;
             for (const Rejection& rejection : receipt.outcome.rejections)
-                showRejection(rejection.place, rejection.reason);
+                showRejection(sentence(*rejection.place), sentence(rejection.reason));
             if (receipts)
                 channel.send(receiptLine(receipt));
             channel.setHeld(lines.isFull());
@@ -92,9 +92,9 @@ private:
             if (!store.damage().isEmpty())
                 retries = mostRetries + 1;
             if (retries == 1)
-                printNote(taken.error());
+                printNote(sentence(taken.error()));
             if (retries > mostRetries) {
-                failure = taken.error();
+                failure = sentence(taken.error());
                 QCoreApplication::exit(exitUnusable);
                 return;
             }
@@ -117,7 +117,7 @@ private:
 int feedStore(const QString& storeFile, unsigned char service, bool receipts) {
     const auto store = openOrMakeStore(storeFile, indexingLines());
     if (!store) {
-        printNote(store.error());
+        printNote(sentence(store.error()));
         return exitUnusable;
     }
     StandardChannel channel;

@@ -28,8 +28,9 @@ constexpr qint64 silentMs = 500;  // a shorter import shows no progress
 constexpr int lastService = 255;
 
 QString rejectionLine(const ImportRejection& rejected) {
-    const QString place = rejected.rejection.place.isEmpty() ? QString() : u": "_s + rejected.rejection.place;
-    return QDir::toNativeSeparators(rejected.file) + place + u": "_s + rejected.rejection.reason;
+    const auto& place = rejected.rejection.place;
+    return QDir::toNativeSeparators(rejected.file) + (place ? u": "_s + sentence(*place) : QString()) +
+           u": "_s + sentence(rejected.rejection.reason);
 }
 
 QString progressLine(const ImportProgress& progress) {
@@ -61,7 +62,7 @@ int reportEnd(const ImportReport& report) {
             "or read as of that moment (Ctrl+G in the terminal)."_s.arg(
                 QDateTime::fromSecsSinceEpoch(*report.newest).toString(Qt::ISODate)));
     if (report.failure)
-        printNote(*report.failure);
+        printNote(sentence(*report.failure));
     if (report.stopped)
         printNote(u"Stopped. The files taken in so far are kept; the same command goes on with the rest."_s);
     return importExitStatus(report);
@@ -88,7 +89,7 @@ int runImport() {
         if (mapping)
             options.mapping = std::make_shared<const Mapping>(mapping.value());
         else
-            arguments.fail(mapping.error());
+            arguments.fail(sentence(mapping.error()));
     }
     arguments.applyNow();
     if (arguments.rest().isEmpty())
@@ -105,7 +106,7 @@ int runImport() {
     });
     const auto store = openOrMakeStore(arguments.storeFile(), indexingLines());
     if (!store) {
-        printNote(store.error());
+        printNote(sentence(store.error()));
         return exitUnusable;
     }
     StoreWriter writer(*store.value());

@@ -116,7 +116,7 @@ void endTerminal() {
 int runForUser(Session& session) {
     const FrameCommands commands(session);
     if (const Done opened = openWorkspace(session); !opened) {
-        QMessageBox::critical(&session.frame(), QApplication::applicationName(), opened.error());
+        QMessageBox::critical(&session.frame(), QApplication::applicationName(), sentence(opened.error()));
         return exitUnusable;
     }
     return QApplication::exec();
@@ -128,7 +128,7 @@ int runForScripts(Session& session, const OpenOptions& options, StandardChannel*
         automation.serve(*channel);
     if (!options.automationSocket.isEmpty()) {
         if (const Done listening = automation.listen(options.automationSocket); !listening) {
-            printNote(listening.error());
+            printNote(sentence(listening.error()));
             return exitUnusable;
         }
     }
@@ -136,7 +136,7 @@ int runForScripts(Session& session, const OpenOptions& options, StandardChannel*
     if (!options.workspace) {
         session.frame().show();
     } else if (const Done opened = openWorkspace(session); !opened) {
-        printNote(opened.error());
+        printNote(sentence(opened.error()));
         return exitUnusable;
     }
     return QApplication::exec();
@@ -147,7 +147,7 @@ int runOpened(const OpenOptions& options, StandardChannel* channel) {
     const auto session = Session::open({options.storeFile, options.configFolder, options.language, sample,
                                         options.spoolFolder, options.feedName, !options.isScripted()});
     if (!session) {
-        printNote(session.error());
+        printNote(sentence(session.error()));
         return exitUnusable;
     }
     const OnEndSignal ending(&endTerminal);

@@ -130,7 +130,7 @@ int play(const Request& request, StoredDay& day, const OnEndSignal& ending) {
 
 Done makeStoreLike(const StoredDay& day, const QString& file) {
     const auto store = openStore(file);
-    return store ? day.copyCatalogues(*store.value()) : Done(Error{store.error()});
+    return store ? day.copyCatalogues(*store.value()) : Done(store.error());
 }
 
 // The terminal lives on after the last headline, until its user closes it.
@@ -141,7 +141,7 @@ int playInOwnTerminal(Request request, StoredDay& day, const OnEndSignal& ending
     const QString storeFile = folder.filePath(u"replay.wirepane"_s);
     // Views read the names of categories when they open.
     if (const Done made = makeStoreLike(day, storeFile); !made) {
-        printNote(made.error());
+        printNote(sentence(made.error()));
         return exitUnusable;
     }
     QProcess terminal;
@@ -187,7 +187,7 @@ int runReplay() {
         return *status;
     const auto day = StoredDay::open(request.storeFile, request.date);
     if (!day) {
-        printNote(day.error());
+        printNote(sentence(day.error()));
         return exitUnusable;
     }
     if (day.value()->size() == 0) {

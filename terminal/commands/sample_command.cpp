@@ -54,7 +54,7 @@ int runSample() {
 
     const auto store = openOrMakeStore(arguments.storeFile(), indexingLines());
     if (!store) {
-        printNote(store.error());
+        printNote(sentence(store.error()));
         return exitUnusable;
     }
     std::atomic<bool> stopped = false;
@@ -65,7 +65,7 @@ int runSample() {
     });
     clearPassing();
     if (!totals) {
-        printNote(totals.error());
+        printNote(sentence(totals.error()));
         return stopped ? exitPartly : exitUnusable;
     }
     printLine(

@@ -88,7 +88,7 @@ int runSearch() {
     }
     const auto store = openStoreToRead(file, {.onIndexing = indexingLines()});
     if (!store) {
-        printNote(store.error());
+        printNote(sentence(store.error()));
         return exitUnusable;
     }
     Database& database = *store.value();

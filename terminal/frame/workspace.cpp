@@ -100,7 +100,7 @@ Result<OpenView*> Workspace::open(ViewRequest request) {
     if (!started) {
         if (view.dock != nullptr)
             frame.docks().remove(view.dock);
-        return Error{started.error()};
+        return started.error();
     }
     openViews.push_back(std::move(entry));
     showDeskWhereNeeded();

@@ -62,7 +62,7 @@ void FrameCommands::carryOut(FrameCommand command) {
         case FrameCommand::NewSymbolView: {
             const auto opened =
                 session.keeper().openNew(command == FrameCommand::NewSymbolView ? symbolNewsType : 0);
-            report(opened ? Done(Nothing{}) : Done(Error{opened.error()}));
+            report(opened ? Done(Nothing{}) : Done(opened.error()));
             break;
         }
         case FrameCommand::GoToSymbolBox:
@@ -105,7 +105,7 @@ void FrameCommands::carryOutOnView(FrameCommand command) {
     switch (command) {
         case FrameCommand::DuplicateView: {
             const auto opened = session.keeper().openLike(*view);
-            report(opened ? Done(Nothing{}) : Done(Error{opened.error()}));
+            report(opened ? Done(Nothing{}) : Done(opened.error()));
             break;
         }
         case FrameCommand::CloseView:
@@ -210,7 +210,7 @@ void FrameCommands::save() {
 void FrameCommands::report(const Done& done) {
     if (done)
         return;
-    auto* box = new QMessageBox(QMessageBox::Warning, terminalText(TextId::AppTitle), done.error(),
+    auto* box = new QMessageBox(QMessageBox::Warning, terminalText(TextId::AppTitle), sentence(done.error()),
                                 QMessageBox::Ok, &session.frame());
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);

@@ -34,10 +34,11 @@ public:
     Done take(const StoreItem& item) {
         const auto outcome = writer.take(item);
         if (!outcome)
-            return Error{outcome.error()};
+            return outcome.error();
         const bool named = std::holds_alternative<CategoryItem>(item);
         if (outcome.value().take == Take::Rejected && !named)
-            return Error{u"The sample wire does not fit into this store: %1"_s.arg(outcome.value().reason)};
+            return Error{
+                u"The sample wire does not fit into this store: %1"_s.arg(sentence(*outcome.value().reason))};
         ++(outcome.value().take == Take::TakenIn ? totals.takenIn : totals.alreadyThere);
         return Nothing{};
     }
@@ -54,7 +55,7 @@ Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& option
                                     const std::function<bool(std::int64_t)>& progress) {
     Filling filling(store);
     if (const Done begun = filling.begin(); !begun)
-        return Error{begun.error()};
+        return begun.error();
     // The wire brings categories of its own; what it has no news in would be an empty list to choose.
     if (!removeDefaultCategories(store)) {
         filling.rollback();
@@ -66,7 +67,7 @@ Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& option
         leaveCategoriesToTheStore(item);
         const Done taken = filling.take(item);
         if (!taken)
-            failure = Error{taken.error()};
+            failure = taken.error();
         return !failure && (++seen % progressEvery != 0 || !progress || progress(seen));
     });
     if (!whole) {
@@ -74,7 +75,7 @@ Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& option
         return failure.value_or(Error{u"Stopped; nothing of the sample was kept."_s});
     }
     if (const Done committed = filling.commit(); !committed)
-        return Error{committed.error()};
+        return committed.error();
     return filling.totals;
 }
 

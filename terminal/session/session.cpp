@@ -78,7 +78,7 @@ Result<std::unique_ptr<Session>> Session::open(const SessionOptions& options) {
     std::unique_ptr<Session> session(new Session(options));
     const Done started = session->start(options);
     if (!started)
-        return Error{started.error()};
+        return started.error();
     return session;
 }
 
@@ -97,7 +97,7 @@ Done Session::start(const SessionOptions& options) {
     TRVItemDisplay::SetItemDisplay(categoryDisplay.get());
     const auto module = loadModule();
     if (!module)
-        return Error{module.error()};
+        return module.error();
     if (!useLanguage(wanted))
         useLanguage(Languages::ofSystem());
     mainFrame = std::make_unique<MainFrame>();
@@ -135,7 +135,7 @@ Done Session::openStore(const SessionOptions& options, const QString& language) 
         progress = [&window](std::int64_t done, std::int64_t total) { window.tell(done, total); };
     auto opened = openBackEnd(storeFile, options.sampleWhenNew, progress);
     if (!opened)
-        return Error{opened.error()};
+        return opened.error();
     store = std::move(opened.value());
     // A clock that was set for this run is one that live news may run ahead of, as a replay or a script does.
     if (!asOfText().isEmpty())
@@ -202,14 +202,14 @@ Done Session::startFeed(const SessionOptions& options) {
     if (listening || options.feedName != defaultFeedName)
         return listening;
     // Under the common name, another terminal may have been first.
-    feedNotice = listening.error();
+    feedNotice = sentence(listening.error());
     return Nothing{};
 }
 
 void Session::prepareModuleFiles() {
     // A view opens without them, too: without the tabs and the names that they would have given it.
     if (const Done written = writeSwitchesFile(configFolder, terminalSettings->switches()); !written)
-        mainFrame->showNotice(written.error());
+        mainFrame->showNotice(sentence(written.error()));
     writeCategories();
 }
 
@@ -217,7 +217,7 @@ void Session::writeCategories() {
     const std::vector<CategoryName> names = categoryNames(*store);
     categoryWatch->know(names);
     if (const Done written = writeCategoryFile(configFolder, names); !written)
-        mainFrame->showNotice(written.error());
+        mainFrame->showNotice(sentence(written.error()));
 }
 
 Result<OpenView*> Session::openView(ViewRequest request) {

@@ -26,7 +26,7 @@ Done fillWhenNew(const QString& storeFile, const IndexProgress& onIndexing) {
     const auto database = openOrMakeStore(storeFile, onIndexing);
     // One that can only be read stays as it is.
     if (!database)
-        return openStoreToRead(storeFile) ? Done(Nothing{}) : Done(Error{database.error()});
+        return openStoreToRead(storeFile) ? Done(Nothing{}) : Done(database.error());
     std::int64_t hasNews = 0;
     if (!database.value()->readNumber("SELECT EXISTS(SELECT 1 FROM headlines)", hasNews))
         return Error{database.value()->failure()};
@@ -35,24 +35,24 @@ Done fillWhenNew(const QString& storeFile, const IndexProgress& onIndexing) {
     SampleOptions options;
     options.now = host_clock::now();
     const auto filled = fillWithSample(*database.value(), options);
-    return filled ? Done(Nothing{}) : Done(Error{filled.error()});
+    return filled ? Done(Nothing{}) : Done(filled.error());
 }
 
 }  // namespace
 
 Result<std::unique_ptr<Database>> openOrMakeStore(const QString& storeFile, const IndexProgress& onIndexing) {
     if (const Done folder = makeFolderOf(storeFile); !folder)
-        return Error{folder.error()};
+        return folder.error();
     return openStore(storeFile, {.onIndexing = onIndexing});
 }
 
 Result<std::unique_ptr<EmbeddedBackEnd>> openBackEnd(const QString& storeFile, bool sampleWhenNew,
                                                      const IndexProgress& onIndexing) {
     if (const Done folder = makeFolderOf(storeFile); !folder)
-        return Error{folder.error()};
+        return folder.error();
     if (sampleWhenNew) {
         if (const Done filled = fillWhenNew(storeFile, onIndexing); !filled)
-            return Error{filled.error()};
+            return filled.error();
     }
     return EmbeddedBackEnd::open(storeFile, onIndexing);
 }

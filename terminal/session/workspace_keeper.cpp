@@ -47,8 +47,8 @@ Done WorkspaceKeeper::restore() {
         const auto opened = open(view);
         if (opened)
             continue;
-        failure = Error{opened.error()};
-        parts.frame.showNotice(terminalText(TextId::ViewFailed).arg(opened.error()));
+        failure = opened.error();
+        parts.frame.showNotice(terminalText(TextId::ViewFailed).arg(sentence(opened.error())));
     }
     const std::vector<OpenView*> opened = parts.workspace.docked();
     if (opened.empty())
@@ -138,7 +138,7 @@ Done WorkspaceKeeper::save() {
 
 void WorkspaceKeeper::keep() {
     if (const Done saved = save(); !saved)
-        parts.frame.showNotice(saved.error());
+        parts.frame.showNotice(sentence(saved.error()));
 }
 
 }  // namespace wirepane

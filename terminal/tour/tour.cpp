@@ -109,7 +109,7 @@ private:
         if (request.place > 0)
             request.ownSettings->SetViewInfo({}, u"NewsShowType"_s, storyBelow);
         const auto opened = session.openView(std::move(request));
-        return opened ? Done(Nothing{}) : Done(Error{opened.error()});
+        return opened ? Done(Nothing{}) : Done(opened.error());
     }
 
     // The newest rows whose stories are there: for a story that is still to be written, printing waits.
@@ -210,10 +210,9 @@ int runTour(const TourOptions& options) {
     const auto session =
         Session::open({orScratch(options.storeFile, u"tour.wirepane"_s),
                        orScratch(options.configFolder, u"settings"_s), options.language, true});
-    const Done played =
-        session ? Tour(*session.value(), options.folder, ending).play() : Error{session.error()};
+    const Done played = session ? Tour(*session.value(), options.folder, ending).play() : session.error();
     if (!played) {
-        printNote(played.error());
+        printNote(sentence(played.error()));
         return ending.hasCome() ? exitPartly : exitUnusable;
     }
     printNote(u"The tour's pictures, printed pages (news.pdf) and saved news (news.txt) are in %1."_s.arg(

@@ -3,6 +3,482 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ERROR_IMPORT_AN_OBJECT">
+        <source></source>
+        <translation>an object</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_END">
+        <source></source>
+        <translation>the end</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ITEM">
+        <source></source>
+        <translation>item %1</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ITEM_NAMED">
+        <source></source>
+        <translation>item %1 (%2)</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_LINE">
+        <source></source>
+        <translation>line %1</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_LINE_NAMED">
+        <source></source>
+        <translation>line %1 (%2)</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ROW">
+        <source></source>
+        <translation>row %1</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ROW_NAMED">
+        <source></source>
+        <translation>row %1 (%2)</translation>
+    </message>
+    <message id="ERROR_IMPORT_A_LIST">
+        <source></source>
+        <translation>a list</translation>
+    </message>
+    <message id="ERROR_IMPORT_A_NUMBER">
+        <source></source>
+        <translation>a number</translation>
+    </message>
+    <message id="ERROR_IMPORT_A_TEXT">
+        <source></source>
+        <translation>a text</translation>
+    </message>
+    <message id="ERROR_IMPORT_BEHIND_LIST">
+        <source></source>
+        <translation>There is something behind the end of the list.</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATALOGUE_OF_CODES">
+        <source></source>
+        <translation>a catalogue of code lists</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY">
+        <source></source>
+        <translation>category</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_ID">
+        <source></source>
+        <translation>category id</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_WITHOUT_NAME">
+        <source></source>
+        <translation>The category %1 has no name.</translation>
+    </message>
+    <message id="ERROR_IMPORT_CHANGE">
+        <source></source>
+        <translation>change</translation>
+    </message>
+    <message id="ERROR_IMPORT_COLUMN_MISSING">
+        <source></source>
+        <translation>The table has no column “%1”, which the mapping names.</translation>
+    </message>
+    <message id="ERROR_IMPORT_ENTRY_WITHOUT_DATE">
+        <source></source>
+        <translation>Neither the entry nor its feed has a date that can be read.</translation>
+    </message>
+    <message id="ERROR_IMPORT_ENTRY_WITHOUT_TITLE">
+        <source></source>
+        <translation>The entry has no title and no text to make one from.</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_EMPTY">
+        <source></source>
+        <translation>The file is empty.</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_MISSING">
+        <source></source>
+        <translation>The file does not exist.</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_NOT_OPENED">
+        <source></source>
+        <translation>The file cannot be opened: %1.</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_NOT_READ_TO_END">
+        <source></source>
+        <translation>The file cannot be read to its end: %1.</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_TOO_LARGE">
+        <source></source>
+        <translation>The file is larger than %1 bytes; only JSON with one record per line may be.</translation>
+    </message>
+    <message id="ERROR_IMPORT_GUID_OF_ITEM">
+        <source></source>
+        <translation>“guid” of the item</translation>
+    </message>
+    <message id="ERROR_IMPORT_IDENTITY_OF_ENTRY">
+        <source></source>
+        <translation>entry's identity</translation>
+    </message>
+    <message id="ERROR_IMPORT_IDENTITY_OF_ROW">
+        <source></source>
+        <translation>row's identity</translation>
+    </message>
+    <message id="ERROR_IMPORT_IDENTITY_TOO_LONG">
+        <source></source>
+        <translation>The %1 is longer than %2 characters.</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_TIME_UNREAD">
+        <source></source>
+        <translation>The item has no time that can be read: “%1” is “%2”.</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_WITHOUT_GUID">
+        <source></source>
+        <translation>The item has no “guid”.</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_WITHOUT_HEADLINE">
+        <source></source>
+        <translation>The item has no headline and no text to make one from.</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_WITHOUT_TIME">
+        <source></source>
+        <translation>The item has no time (“versionCreated”).</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_BEHIND_END">
+        <source></source>
+        <translation>garbage at the end of the document</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_ESCAPE">
+        <source></source>
+        <translation>invalid escape sequence</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_LIST_WITHOUT_END">
+        <source></source>
+        <translation>unterminated array</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_NAME_SEPARATOR">
+        <source></source>
+        <translation>missing name separator</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_NUMBER">
+        <source></source>
+        <translation>illegal number</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_NUMBER_END">
+        <source></source>
+        <translation>invalid termination by number</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_OBJECT_MISSING">
+        <source></source>
+        <translation>object is missing after a comma</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_OBJECT_WITHOUT_END">
+        <source></source>
+        <translation>unterminated object</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_TEXT_WITHOUT_END">
+        <source></source>
+        <translation>unterminated string</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_TOO_DEEP">
+        <source></source>
+        <translation>too deeply nested document</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_TOO_LARGE">
+        <source></source>
+        <translation>too large document</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_UTF_8">
+        <source></source>
+        <translation>invalid UTF8 string</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_VALUE">
+        <source></source>
+        <translation>illegal value</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_VALUE_SEPARATOR">
+        <source></source>
+        <translation>missing value separator</translation>
+    </message>
+    <message id="ERROR_IMPORT_LAST_PRICE">
+        <source></source>
+        <translation>last price</translation>
+    </message>
+    <message id="ERROR_IMPORT_LINE_TOO_LONG">
+        <source></source>
+        <translation>The line is longer than %1 bytes.</translation>
+    </message>
+    <message id="ERROR_IMPORT_LIST_WITHOUT_END">
+        <source></source>
+        <translation>The list has no end: “]” is missing.</translation>
+    </message>
+    <message id="ERROR_IMPORT_LONE_CONCEPT">
+        <source></source>
+        <translation>a concept</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_FIELD">
+        <source></source>
+        <translation>The mapping's “%1” %2.</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_FIELD_UNKNOWN">
+        <source></source>
+        <translation>The mapping's “%1” is not known.</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_FIELD_UNUSABLE">
+        <source></source>
+        <translation>The mapping's “%1” cannot be used: %2</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_NOT_OPENED">
+        <source></source>
+        <translation>The mapping %1 cannot be opened: %2.</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_NO_JSON">
+        <source></source>
+        <translation>The mapping is not valid JSON: %1 (at byte %2).</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_NO_OBJECT">
+        <source></source>
+        <translation>The mapping is not a JSON object.</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_TOO_LARGE">
+        <source></source>
+        <translation>The mapping %1 is larger than %2 bytes.</translation>
+    </message>
+    <message id="ERROR_IMPORT_MARKET">
+        <source></source>
+        <translation>market</translation>
+    </message>
+    <message id="ERROR_IMPORT_MARKUP_PAGE">
+        <source></source>
+        <translation>The file is a page of markup, not a table: it starts with “%1”.</translation>
+    </message>
+    <message id="ERROR_IMPORT_MESSAGE_EMPTY">
+        <source></source>
+        <translation>The message holds no item.</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_CHARACTER">
+        <source></source>
+        <translation>must be one character</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_LINES">
+        <source></source>
+        <translation>must be “wrapped”, “kept” or “numbered”</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_NUMBER">
+        <source></source>
+        <translation>must be a number from %1 to %2</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_OBJECT">
+        <source></source>
+        <translation>must be an object</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_TEXT">
+        <source></source>
+        <translation>must be a text</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_TEXTS">
+        <source></source>
+        <translation>must be a text or a list of texts, none of them empty</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_HOLD_TEXTS">
+        <source></source>
+        <translation>must hold texts or numbers</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_COLUMN">
+        <source></source>
+        <translation>must name a column</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_IDENTITY">
+        <source></source>
+        <translation>must name the columns that tell one item from another</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_SERVICES">
+        <source></source>
+        <translation>must name services by numbers from 1 to 255</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_TITLE">
+        <source></source>
+        <translation>must name a column, unless “story” does</translation>
+    </message>
+    <message id="ERROR_IMPORT_NAMES_ENCODING">
+        <source></source>
+        <translation>names “%1”, which is not known here</translation>
+    </message>
+    <message id="ERROR_IMPORT_NOTHING">
+        <source></source>
+        <translation>nothing</translation>
+    </message>
+    <message id="ERROR_IMPORT_NOT_FOR_PUBLICATION">
+        <source></source>
+        <translation>The record is not for publication: “%1” is “%2”.</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_COLOUR">
+        <source></source>
+        <translation>“%1” is not a colour: it must be as “#rrggbb”.</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_FILE">
+        <source></source>
+        <translation>This is not a file.</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_KNOWN_ENCODING">
+        <source></source>
+        <translation>The file is neither UTF-8 nor code page 950.</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_MAPPED_ENCODING">
+        <source></source>
+        <translation>The file is in none of the encodings of the mapping.</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_PRICE">
+        <source></source>
+        <translation>“%1” is not a %2: it must be a number such as 12.5.</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_SYMBOL_CODE">
+        <source></source>
+        <translation>“%1” is not a symbol code.</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_UTF_16">
+        <source></source>
+        <translation>The file starts as UTF-16 but is not.</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_ZONE">
+        <source></source>
+        <translation>is neither an offset such as “+08:00” nor a zone that is known here</translation>
+    </message>
+    <message id="ERROR_IMPORT_NUMBER_OUT_OF_RANGE">
+        <source></source>
+        <translation>“%1” is not a %2: it must be a number from %3 to %4.</translation>
+    </message>
+    <message id="ERROR_IMPORT_OTHER_NEWSML">
+        <source></source>
+        <translation>The &lt;%1&gt; is %2, not a news item.</translation>
+    </message>
+    <message id="ERROR_IMPORT_PACKAGE_OF_LINKS">
+        <source></source>
+        <translation>a package of links to news items</translation>
+    </message>
+    <message id="ERROR_IMPORT_PLAN_OF_COVERAGE">
+        <source></source>
+        <translation>a plan of coverage</translation>
+    </message>
+    <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
+        <source></source>
+        <translation>A quote is opened and never closed; nothing behind it is read.</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_FIELD">
+        <source></source>
+        <translation>The field “%1” must be %2, not %3.</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_NO_JSON">
+        <source></source>
+        <translation>The record is not valid JSON: %1 (at byte %2).</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_NO_OBJECT">
+        <source></source>
+        <translation>The record is not a JSON object.</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_TIME_UNREAD">
+        <source></source>
+        <translation>The record has no time that can be read: “%1” is “%2”.</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_WITHOUT_TIME">
+        <source></source>
+        <translation>The record has no time (“versioncreated”, “firstcreated” or “contentcreated”).</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_WITHOUT_TITLE">
+        <source></source>
+        <translation>The record has no title and no text to make one from.</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_WITHOUT_URI">
+        <source></source>
+        <translation>The record has no “uri”.</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_NO_JSON">
+        <source></source>
+        <translation>The row is not valid JSON: %1 (at byte %2).</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_NO_OBJECT">
+        <source></source>
+        <translation>The row is not a JSON object.</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_TIME_UNREAD">
+        <source></source>
+        <translation>“%1” is not a time of the form that the mapping states.</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_DATE">
+        <source></source>
+        <translation>The row has no date.</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_IDENTITY">
+        <source></source>
+        <translation>The row has nothing in the columns that identify it (%1).</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_SERVICE">
+        <source></source>
+        <translation>“%1” names no service: the mapping has no number for it.</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_TITLE">
+        <source></source>
+        <translation>The row has no title and no text to make one from.</translation>
+    </message>
+    <message id="ERROR_IMPORT_SERVICE">
+        <source></source>
+        <translation>service</translation>
+    </message>
+    <message id="ERROR_IMPORT_SET_OF_CONCEPTS">
+        <source></source>
+        <translation>a set of concepts</translation>
+    </message>
+    <message id="ERROR_IMPORT_SYMBOL_WITHOUT_NAME">
+        <source></source>
+        <translation>The symbol “%1” has no name.</translation>
+    </message>
+    <message id="ERROR_IMPORT_TIME_FORM">
+        <source></source>
+        <translation>“%1” is not a form of dates or times.</translation>
+    </message>
+    <message id="ERROR_IMPORT_TIME_FORM_AT">
+        <source></source>
+        <translation>“%1” is not a form of dates or times: look at “%2”.</translation>
+    </message>
+    <message id="ERROR_IMPORT_TRUE_OR_FALSE">
+        <source></source>
+        <translation>true or false</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNDER_EMBARGO">
+        <source></source>
+        <translation>The record is under embargo: “%1” is “%2”.</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_ENCODING">
+        <source></source>
+        <translation>The file declares the encoding “%1”, which is not known here.</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_FORMAT">
+        <source></source>
+        <translation>The file is of no known format (%1): it starts with %2.</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_JSON">
+        <source></source>
+        <translation>The file is JSON of a kind that is not known here: a record has the fields %1.</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_XML">
+        <source></source>
+        <translation>The file is XML of a kind that is not known here: its root is &lt;%1&gt;.</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_XML_OF">
+        <source></source>
+        <translation>The file is XML of a kind that is not known here: its root is &lt;%1&gt; of “%2”.</translation>
+    </message>
+    <message id="ERROR_IMPORT_URI_OF_RECORD">
+        <source></source>
+        <translation>“uri” of the record</translation>
+    </message>
+    <message id="ERROR_IMPORT_VOLUME">
+        <source></source>
+        <translation>volume</translation>
+    </message>
+    <message id="ERROR_IMPORT_WITH_CLOCK">
+        <source></source>
+        <translation>and “clock” must be there together</translation>
+    </message>
+    <message id="ERROR_IMPORT_XML_NOT_READ">
+        <source></source>
+        <translation>The XML cannot be read: %1.</translation>
+    </message>
+    <message id="ERROR_IMPORT_XML_WITHOUT_ELEMENT">
+        <source></source>
+        <translation>The file looks like XML, but no element is found at its start.</translation>
+    </message>
     <message id="IDC_BASEVIEW-STRING_NO_DATA">
         <source></source>
         <translation>There is no news for this symbol.</translation>
@@ -391,13 +867,13 @@
         <source></source>
         <translation>Shift+Insert does not paste here.</translation>
     </message>
-    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE">
-        <source></source>
-        <translation>A search has no blanks.</translation>
-    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH">
         <source></source>
         <translation>Enter a keyword to search for.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE">
+        <source></source>
+        <translation>A search has no blanks.</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INVALID_DATE1">
         <source></source>
@@ -731,10 +1207,6 @@
         <source></source>
         <translation>&amp;Import News…</translation>
     </message>
-    <message id="TERMINAL_NO_CHINESE_FONT">
-        <source></source>
-        <translation>No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
-    </message>
     <message id="TERMINAL_IMPORT_NOT_STARTED">
         <source></source>
         <translation>The import could not be started.</translation>
@@ -822,6 +1294,10 @@
     <message id="TERMINAL_NEXT_VIEW">
         <source></source>
         <translation>Ne&amp;xt view</translation>
+    </message>
+    <message id="TERMINAL_NO_CHINESE_FONT">
+        <source></source>
+        <translation>No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
     </message>
     <message id="TERMINAL_PREVIOUS_VIEW">
         <source></source>

@@ -3,6 +3,482 @@
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ERROR_IMPORT_AN_OBJECT">
+        <source></source>
+        <translation>对象</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_END">
+        <source></source>
+        <translation>结尾</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ITEM">
+        <source></source>
+        <translation>第 %1 项</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ITEM_NAMED">
+        <source></source>
+        <translation>第 %1 项（%2）</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_LINE">
+        <source></source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_LINE_NAMED">
+        <source></source>
+        <translation>第 %1 行（%2）</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ROW">
+        <source></source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ROW_NAMED">
+        <source></source>
+        <translation>第 %1 行（%2）</translation>
+    </message>
+    <message id="ERROR_IMPORT_A_LIST">
+        <source></source>
+        <translation>列表</translation>
+    </message>
+    <message id="ERROR_IMPORT_A_NUMBER">
+        <source></source>
+        <translation>数字</translation>
+    </message>
+    <message id="ERROR_IMPORT_A_TEXT">
+        <source></source>
+        <translation>文本</translation>
+    </message>
+    <message id="ERROR_IMPORT_BEHIND_LIST">
+        <source></source>
+        <translation>列表结尾之后还有其他内容。</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATALOGUE_OF_CODES">
+        <source></source>
+        <translation>代码表目录</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY">
+        <source></source>
+        <translation>分类</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_ID">
+        <source></source>
+        <translation>分类编号</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_WITHOUT_NAME">
+        <source></source>
+        <translation>分类 %1 没有名称。</translation>
+    </message>
+    <message id="ERROR_IMPORT_CHANGE">
+        <source></source>
+        <translation>涨跌</translation>
+    </message>
+    <message id="ERROR_IMPORT_COLUMN_MISSING">
+        <source></source>
+        <translation>表格中没有字段映射所指定的列“%1”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ENTRY_WITHOUT_DATE">
+        <source></source>
+        <translation>该条目及其信息源都没有可读取的日期。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ENTRY_WITHOUT_TITLE">
+        <source></source>
+        <translation>该条目没有标题，也没有可用于生成标题的正文。</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_EMPTY">
+        <source></source>
+        <translation>文件为空。</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_MISSING">
+        <source></source>
+        <translation>文件不存在。</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_NOT_OPENED">
+        <source></source>
+        <translation>无法打开文件：%1。</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_NOT_READ_TO_END">
+        <source></source>
+        <translation>无法完整读取文件：%1。</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_TOO_LARGE">
+        <source></source>
+        <translation>文件超过 %1 字节；只有每行一条记录的 JSON 可以超过此大小。</translation>
+    </message>
+    <message id="ERROR_IMPORT_GUID_OF_ITEM">
+        <source></source>
+        <translation>该项目的“guid”</translation>
+    </message>
+    <message id="ERROR_IMPORT_IDENTITY_OF_ENTRY">
+        <source></source>
+        <translation>该条目的标识</translation>
+    </message>
+    <message id="ERROR_IMPORT_IDENTITY_OF_ROW">
+        <source></source>
+        <translation>该行的标识</translation>
+    </message>
+    <message id="ERROR_IMPORT_IDENTITY_TOO_LONG">
+        <source></source>
+        <translation>%1超过 %2 个字符。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_TIME_UNREAD">
+        <source></source>
+        <translation>无法读取该项目的时间：“%1”的值为“%2”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_WITHOUT_GUID">
+        <source></source>
+        <translation>该项目没有“guid”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_WITHOUT_HEADLINE">
+        <source></source>
+        <translation>该项目没有标题，也没有可用于生成标题的正文。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_WITHOUT_TIME">
+        <source></source>
+        <translation>该项目没有时间（“versionCreated”）。</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_BEHIND_END">
+        <source></source>
+        <translation>文档结尾有多余的内容</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_ESCAPE">
+        <source></source>
+        <translation>无效的转义序列</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_LIST_WITHOUT_END">
+        <source></source>
+        <translation>数组未结束</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_NAME_SEPARATOR">
+        <source></source>
+        <translation>缺少名称分隔符</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_NUMBER">
+        <source></source>
+        <translation>无效的数字</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_NUMBER_END">
+        <source></source>
+        <translation>结尾的数字无效</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_OBJECT_MISSING">
+        <source></source>
+        <translation>逗号后缺少对象</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_OBJECT_WITHOUT_END">
+        <source></source>
+        <translation>对象未结束</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_TEXT_WITHOUT_END">
+        <source></source>
+        <translation>字符串未结束</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_TOO_DEEP">
+        <source></source>
+        <translation>文档嵌套过深</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_TOO_LARGE">
+        <source></source>
+        <translation>文档过大</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_UTF_8">
+        <source></source>
+        <translation>无效的 UTF-8 字符串</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_VALUE">
+        <source></source>
+        <translation>无效的值</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_VALUE_SEPARATOR">
+        <source></source>
+        <translation>缺少值分隔符</translation>
+    </message>
+    <message id="ERROR_IMPORT_LAST_PRICE">
+        <source></source>
+        <translation>成交价</translation>
+    </message>
+    <message id="ERROR_IMPORT_LINE_TOO_LONG">
+        <source></source>
+        <translation>此行超过 %1 字节。</translation>
+    </message>
+    <message id="ERROR_IMPORT_LIST_WITHOUT_END">
+        <source></source>
+        <translation>列表没有结尾：缺少“]”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_LONE_CONCEPT">
+        <source></source>
+        <translation>概念</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_FIELD">
+        <source></source>
+        <translation>字段映射的“%1”%2。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_FIELD_UNKNOWN">
+        <source></source>
+        <translation>无法识别字段映射的“%1”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_FIELD_UNUSABLE">
+        <source></source>
+        <translation>无法使用字段映射的“%1”：%2</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_NOT_OPENED">
+        <source></source>
+        <translation>无法打开字段映射 %1：%2。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_NO_JSON">
+        <source></source>
+        <translation>字段映射不是有效的 JSON：%1（字节 %2）。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_NO_OBJECT">
+        <source></source>
+        <translation>字段映射不是 JSON 对象。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_TOO_LARGE">
+        <source></source>
+        <translation>字段映射 %1 超过 %2 字节。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MARKET">
+        <source></source>
+        <translation>市场</translation>
+    </message>
+    <message id="ERROR_IMPORT_MARKUP_PAGE">
+        <source></source>
+        <translation>文件是标记语言网页，不是表格：开头为“%1”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MESSAGE_EMPTY">
+        <source></source>
+        <translation>消息中没有任何项目。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_CHARACTER">
+        <source></source>
+        <translation>必须是单个字符</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_LINES">
+        <source></source>
+        <translation>必须是“wrapped”、“kept”或“numbered”</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_NUMBER">
+        <source></source>
+        <translation>必须是 %1 到 %2 的数字</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_OBJECT">
+        <source></source>
+        <translation>必须是对象</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_TEXT">
+        <source></source>
+        <translation>必须是文本</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_TEXTS">
+        <source></source>
+        <translation>必须是文本或文本列表，且不得为空</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_HOLD_TEXTS">
+        <source></source>
+        <translation>只能包含文本或数字</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_COLUMN">
+        <source></source>
+        <translation>必须指定列</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_IDENTITY">
+        <source></source>
+        <translation>必须指定用于区分各项目的列</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_SERVICES">
+        <source></source>
+        <translation>必须以 1 到 255 的数字指定新闻服务</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_TITLE">
+        <source></source>
+        <translation>必须指定列，除非“story”已指定</translation>
+    </message>
+    <message id="ERROR_IMPORT_NAMES_ENCODING">
+        <source></source>
+        <translation>指定了不支持的编码“%1”</translation>
+    </message>
+    <message id="ERROR_IMPORT_NOTHING">
+        <source></source>
+        <translation>空值</translation>
+    </message>
+    <message id="ERROR_IMPORT_NOT_FOR_PUBLICATION">
+        <source></source>
+        <translation>该记录不得发布：“%1”的值为“%2”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_COLOUR">
+        <source></source>
+        <translation>“%1”不是颜色：格式必须为“#rrggbb”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_FILE">
+        <source></source>
+        <translation>这不是文件。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_KNOWN_ENCODING">
+        <source></source>
+        <translation>文件编码既不是 UTF-8，也不是950 代码页。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_MAPPED_ENCODING">
+        <source></source>
+        <translation>文件不符合字段映射所列的任何编码。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_PRICE">
+        <source></source>
+        <translation>“%1”不是有效的%2：必须是如 12.5 的数字。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_SYMBOL_CODE">
+        <source></source>
+        <translation>“%1”不是品种代码。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_UTF_16">
+        <source></source>
+        <translation>文件开头标记为 UTF-16，但内容不是。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_ZONE">
+        <source></source>
+        <translation>既不是如“+08:00”的时差，也不是已知的时区</translation>
+    </message>
+    <message id="ERROR_IMPORT_NUMBER_OUT_OF_RANGE">
+        <source></source>
+        <translation>“%1”不是有效的%2：必须是 %3 到 %4 的数字。</translation>
+    </message>
+    <message id="ERROR_IMPORT_OTHER_NEWSML">
+        <source></source>
+        <translation>&lt;%1&gt; 是%2，不是新闻。</translation>
+    </message>
+    <message id="ERROR_IMPORT_PACKAGE_OF_LINKS">
+        <source></source>
+        <translation>新闻链接的汇编</translation>
+    </message>
+    <message id="ERROR_IMPORT_PLAN_OF_COVERAGE">
+        <source></source>
+        <translation>采访计划</translation>
+    </message>
+    <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
+        <source></source>
+        <translation>引号未成对，其后的内容均未读取。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_FIELD">
+        <source></source>
+        <translation>字段“%1”必须是%2，而不是%3。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_NO_JSON">
+        <source></source>
+        <translation>该记录不是有效的 JSON：%1（字节 %2）。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_NO_OBJECT">
+        <source></source>
+        <translation>该记录不是 JSON 对象。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_TIME_UNREAD">
+        <source></source>
+        <translation>无法读取该记录的时间：“%1”的值为“%2”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_WITHOUT_TIME">
+        <source></source>
+        <translation>该记录没有时间（“versioncreated”、“firstcreated”或“contentcreated”）。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_WITHOUT_TITLE">
+        <source></source>
+        <translation>该记录没有标题，也没有可用于生成标题的正文。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_WITHOUT_URI">
+        <source></source>
+        <translation>该记录没有“uri”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_NO_JSON">
+        <source></source>
+        <translation>该行不是有效的 JSON：%1（字节 %2）。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_NO_OBJECT">
+        <source></source>
+        <translation>该行不是 JSON 对象。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_TIME_UNREAD">
+        <source></source>
+        <translation>“%1”不符合字段映射规定的时间格式。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_DATE">
+        <source></source>
+        <translation>该行没有日期。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_IDENTITY">
+        <source></source>
+        <translation>该行的标识列（%1）没有内容。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_SERVICE">
+        <source></source>
+        <translation>“%1”不是新闻服务：字段映射中没有其编号。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_TITLE">
+        <source></source>
+        <translation>该行没有标题，也没有可用于生成标题的正文。</translation>
+    </message>
+    <message id="ERROR_IMPORT_SERVICE">
+        <source></source>
+        <translation>新闻服务</translation>
+    </message>
+    <message id="ERROR_IMPORT_SET_OF_CONCEPTS">
+        <source></source>
+        <translation>概念集</translation>
+    </message>
+    <message id="ERROR_IMPORT_SYMBOL_WITHOUT_NAME">
+        <source></source>
+        <translation>品种“%1”没有名称。</translation>
+    </message>
+    <message id="ERROR_IMPORT_TIME_FORM">
+        <source></source>
+        <translation>“%1”不是日期或时间格式。</translation>
+    </message>
+    <message id="ERROR_IMPORT_TIME_FORM_AT">
+        <source></source>
+        <translation>“%1”不是日期或时间格式：请检查“%2”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_TRUE_OR_FALSE">
+        <source></source>
+        <translation>布尔值</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNDER_EMBARGO">
+        <source></source>
+        <translation>该记录尚未解禁：“%1”的值为“%2”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_ENCODING">
+        <source></source>
+        <translation>文件声明的编码“%1”不受支持。</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_FORMAT">
+        <source></source>
+        <translation>无法识别文件格式（支持 %1）：开头为%2。</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_JSON">
+        <source></source>
+        <translation>不支持此类 JSON 文件：记录的字段为%1。</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_XML">
+        <source></source>
+        <translation>不支持此类 XML 文件：根元素为 &lt;%1&gt;。</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_XML_OF">
+        <source></source>
+        <translation>不支持此类 XML 文件：根元素为 &lt;%1&gt;，命名空间为“%2”。</translation>
+    </message>
+    <message id="ERROR_IMPORT_URI_OF_RECORD">
+        <source></source>
+        <translation>该记录的“uri”</translation>
+    </message>
+    <message id="ERROR_IMPORT_VOLUME">
+        <source></source>
+        <translation>成交量</translation>
+    </message>
+    <message id="ERROR_IMPORT_WITH_CLOCK">
+        <source></source>
+        <translation>必须与“clock”同时设置</translation>
+    </message>
+    <message id="ERROR_IMPORT_XML_NOT_READ">
+        <source></source>
+        <translation>无法读取 XML：%1。</translation>
+    </message>
+    <message id="ERROR_IMPORT_XML_WITHOUT_ELEMENT">
+        <source></source>
+        <translation>文件看似 XML，但开头找不到任何元素。</translation>
+    </message>
     <message id="IDC_BASEVIEW-STRING_NO_DATA">
         <source></source>
         <translation>此品种没有新闻。</translation>
@@ -391,13 +867,13 @@
         <source></source>
         <translation>此处不可用 Shift+Insert 粘贴。</translation>
     </message>
-    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE">
-        <source></source>
-        <translation>搜索文字不可含空格。</translation>
-    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH">
         <source></source>
         <translation>请输入搜索关键词。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE">
+        <source></source>
+        <translation>搜索文字不可含空格。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INVALID_DATE1">
         <source></source>
@@ -731,10 +1207,6 @@
         <source></source>
         <translation>导入新闻(&amp;I)…</translation>
     </message>
-    <message id="TERMINAL_NO_CHINESE_FONT">
-        <source></source>
-        <translation>未安装中文字体，中文会显示为方块。 No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
-    </message>
     <message id="TERMINAL_IMPORT_NOT_STARTED">
         <source></source>
         <translation>无法启动导入程序。</translation>
@@ -822,6 +1294,10 @@
     <message id="TERMINAL_NEXT_VIEW">
         <source></source>
         <translation>下一个窗口(&amp;X)</translation>
+    </message>
+    <message id="TERMINAL_NO_CHINESE_FONT">
+        <source></source>
+        <translation>未安装中文字体，中文会显示为方块。 No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
     </message>
     <message id="TERMINAL_PREVIOUS_VIEW">
         <source></source>

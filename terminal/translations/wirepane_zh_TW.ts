@@ -3,6 +3,482 @@
 <TS version="2.1" language="zh_TW" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ERROR_IMPORT_AN_OBJECT">
+        <source></source>
+        <translation>物件</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_END">
+        <source></source>
+        <translation>結尾</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ITEM">
+        <source></source>
+        <translation>第 %1 項</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ITEM_NAMED">
+        <source></source>
+        <translation>第 %1 項（%2）</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_LINE">
+        <source></source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_LINE_NAMED">
+        <source></source>
+        <translation>第 %1 行（%2）</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ROW">
+        <source></source>
+        <translation>第 %1 列</translation>
+    </message>
+    <message id="ERROR_IMPORT_AT_ROW_NAMED">
+        <source></source>
+        <translation>第 %1 列（%2）</translation>
+    </message>
+    <message id="ERROR_IMPORT_A_LIST">
+        <source></source>
+        <translation>清單</translation>
+    </message>
+    <message id="ERROR_IMPORT_A_NUMBER">
+        <source></source>
+        <translation>數字</translation>
+    </message>
+    <message id="ERROR_IMPORT_A_TEXT">
+        <source></source>
+        <translation>文字</translation>
+    </message>
+    <message id="ERROR_IMPORT_BEHIND_LIST">
+        <source></source>
+        <translation>清單結尾之後還有其他內容。</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATALOGUE_OF_CODES">
+        <source></source>
+        <translation>代碼表目錄</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY">
+        <source></source>
+        <translation>分類</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_ID">
+        <source></source>
+        <translation>分類編號</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_WITHOUT_NAME">
+        <source></source>
+        <translation>分類 %1 沒有名稱。</translation>
+    </message>
+    <message id="ERROR_IMPORT_CHANGE">
+        <source></source>
+        <translation>漲跌</translation>
+    </message>
+    <message id="ERROR_IMPORT_COLUMN_MISSING">
+        <source></source>
+        <translation>表格中沒有欄位對應檔所指定的欄位「%1」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ENTRY_WITHOUT_DATE">
+        <source></source>
+        <translation>此條目及其資訊來源都沒有可讀取的日期。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ENTRY_WITHOUT_TITLE">
+        <source></source>
+        <translation>此條目沒有標題，也沒有可用來產生標題的內文。</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_EMPTY">
+        <source></source>
+        <translation>檔案是空的。</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_MISSING">
+        <source></source>
+        <translation>檔案不存在。</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_NOT_OPENED">
+        <source></source>
+        <translation>無法開啟檔案：%1。</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_NOT_READ_TO_END">
+        <source></source>
+        <translation>無法完整讀取檔案：%1。</translation>
+    </message>
+    <message id="ERROR_IMPORT_FILE_TOO_LARGE">
+        <source></source>
+        <translation>檔案超過 %1 位元組；只有每行一筆記錄的 JSON 可以超過此大小。</translation>
+    </message>
+    <message id="ERROR_IMPORT_GUID_OF_ITEM">
+        <source></source>
+        <translation>此項目的「guid」</translation>
+    </message>
+    <message id="ERROR_IMPORT_IDENTITY_OF_ENTRY">
+        <source></source>
+        <translation>此條目的識別碼</translation>
+    </message>
+    <message id="ERROR_IMPORT_IDENTITY_OF_ROW">
+        <source></source>
+        <translation>此列的識別碼</translation>
+    </message>
+    <message id="ERROR_IMPORT_IDENTITY_TOO_LONG">
+        <source></source>
+        <translation>%1超過 %2 個字元。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_TIME_UNREAD">
+        <source></source>
+        <translation>無法讀取此項目的時間：「%1」的值為「%2」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_WITHOUT_GUID">
+        <source></source>
+        <translation>此項目沒有「guid」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_WITHOUT_HEADLINE">
+        <source></source>
+        <translation>此項目沒有標題，也沒有可用來產生標題的內文。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_WITHOUT_TIME">
+        <source></source>
+        <translation>此項目沒有時間（「versionCreated」）。</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_BEHIND_END">
+        <source></source>
+        <translation>文件結尾有多餘的內容</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_ESCAPE">
+        <source></source>
+        <translation>無效的跳脫序列</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_LIST_WITHOUT_END">
+        <source></source>
+        <translation>陣列未結束</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_NAME_SEPARATOR">
+        <source></source>
+        <translation>缺少名稱分隔符號</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_NUMBER">
+        <source></source>
+        <translation>無效的數字</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_NUMBER_END">
+        <source></source>
+        <translation>結尾的數字無效</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_OBJECT_MISSING">
+        <source></source>
+        <translation>逗號後缺少物件</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_OBJECT_WITHOUT_END">
+        <source></source>
+        <translation>物件未結束</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_TEXT_WITHOUT_END">
+        <source></source>
+        <translation>字串未結束</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_TOO_DEEP">
+        <source></source>
+        <translation>文件的巢狀層級過深</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_TOO_LARGE">
+        <source></source>
+        <translation>文件過大</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_UTF_8">
+        <source></source>
+        <translation>無效的 UTF-8 字串</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_VALUE">
+        <source></source>
+        <translation>無效的值</translation>
+    </message>
+    <message id="ERROR_IMPORT_JSON_VALUE_SEPARATOR">
+        <source></source>
+        <translation>缺少值分隔符號</translation>
+    </message>
+    <message id="ERROR_IMPORT_LAST_PRICE">
+        <source></source>
+        <translation>成交價</translation>
+    </message>
+    <message id="ERROR_IMPORT_LINE_TOO_LONG">
+        <source></source>
+        <translation>此行超過 %1 位元組。</translation>
+    </message>
+    <message id="ERROR_IMPORT_LIST_WITHOUT_END">
+        <source></source>
+        <translation>清單沒有結尾：缺少「]」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_LONE_CONCEPT">
+        <source></source>
+        <translation>概念</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_FIELD">
+        <source></source>
+        <translation>欄位對應檔的「%1」%2。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_FIELD_UNKNOWN">
+        <source></source>
+        <translation>無法識別欄位對應檔的「%1」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_FIELD_UNUSABLE">
+        <source></source>
+        <translation>無法使用欄位對應檔的「%1」：%2</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_NOT_OPENED">
+        <source></source>
+        <translation>無法開啟欄位對應檔 %1：%2。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_NO_JSON">
+        <source></source>
+        <translation>欄位對應檔不是有效的 JSON：%1（位元組 %2）。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_NO_OBJECT">
+        <source></source>
+        <translation>欄位對應檔不是 JSON 物件。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MAPPING_TOO_LARGE">
+        <source></source>
+        <translation>欄位對應檔 %1 超過 %2 位元組。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MARKET">
+        <source></source>
+        <translation>市場</translation>
+    </message>
+    <message id="ERROR_IMPORT_MARKUP_PAGE">
+        <source></source>
+        <translation>檔案是標記語言網頁，不是表格：開頭為「%1」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MESSAGE_EMPTY">
+        <source></source>
+        <translation>訊息中沒有任何項目。</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_CHARACTER">
+        <source></source>
+        <translation>必須是單一字元</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_LINES">
+        <source></source>
+        <translation>必須是「wrapped」、「kept」或「numbered」</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_NUMBER">
+        <source></source>
+        <translation>必須是 %1 到 %2 的數字</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_OBJECT">
+        <source></source>
+        <translation>必須是物件</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_TEXT">
+        <source></source>
+        <translation>必須是文字</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_TEXTS">
+        <source></source>
+        <translation>必須是文字或文字清單，且不得為空</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_HOLD_TEXTS">
+        <source></source>
+        <translation>只能包含文字或數字</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_COLUMN">
+        <source></source>
+        <translation>必須指定欄位</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_IDENTITY">
+        <source></source>
+        <translation>必須指定用以區別各項目的欄位</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_SERVICES">
+        <source></source>
+        <translation>必須以 1 到 255 的數字指定新聞服務</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_NAME_TITLE">
+        <source></source>
+        <translation>必須指定欄位，除非「story」已指定</translation>
+    </message>
+    <message id="ERROR_IMPORT_NAMES_ENCODING">
+        <source></source>
+        <translation>指定了不支援的編碼「%1」</translation>
+    </message>
+    <message id="ERROR_IMPORT_NOTHING">
+        <source></source>
+        <translation>空值</translation>
+    </message>
+    <message id="ERROR_IMPORT_NOT_FOR_PUBLICATION">
+        <source></source>
+        <translation>此筆記錄不得發布：「%1」的值為「%2」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_COLOUR">
+        <source></source>
+        <translation>「%1」不是顏色：格式必須為「#rrggbb」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_FILE">
+        <source></source>
+        <translation>這不是檔案。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_KNOWN_ENCODING">
+        <source></source>
+        <translation>檔案編碼既非 UTF-8，也非950 字碼頁。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_MAPPED_ENCODING">
+        <source></source>
+        <translation>檔案不符合欄位對應檔所列的任何編碼。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_PRICE">
+        <source></source>
+        <translation>「%1」不是有效的%2：必須是如 12.5 的數字。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_SYMBOL_CODE">
+        <source></source>
+        <translation>「%1」不是商品代碼。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_UTF_16">
+        <source></source>
+        <translation>檔案開頭標示為 UTF-16，內容卻不是。</translation>
+    </message>
+    <message id="ERROR_IMPORT_NO_ZONE">
+        <source></source>
+        <translation>既不是如「+08:00」的時差，也不是已知的時區</translation>
+    </message>
+    <message id="ERROR_IMPORT_NUMBER_OUT_OF_RANGE">
+        <source></source>
+        <translation>「%1」不是有效的%2：必須是 %3 到 %4 的數字。</translation>
+    </message>
+    <message id="ERROR_IMPORT_OTHER_NEWSML">
+        <source></source>
+        <translation>&lt;%1&gt; 是%2，不是新聞。</translation>
+    </message>
+    <message id="ERROR_IMPORT_PACKAGE_OF_LINKS">
+        <source></source>
+        <translation>新聞連結的彙編</translation>
+    </message>
+    <message id="ERROR_IMPORT_PLAN_OF_COVERAGE">
+        <source></source>
+        <translation>採訪計畫</translation>
+    </message>
+    <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
+        <source></source>
+        <translation>引號未成對，其後的內容均未讀取。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_FIELD">
+        <source></source>
+        <translation>欄位「%1」必須是%2，而不是%3。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_NO_JSON">
+        <source></source>
+        <translation>此筆記錄不是有效的 JSON：%1（位元組 %2）。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_NO_OBJECT">
+        <source></source>
+        <translation>此筆記錄不是 JSON 物件。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_TIME_UNREAD">
+        <source></source>
+        <translation>無法讀取此筆記錄的時間：「%1」的值為「%2」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_WITHOUT_TIME">
+        <source></source>
+        <translation>此筆記錄沒有時間（「versioncreated」、「firstcreated」或「contentcreated」）。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_WITHOUT_TITLE">
+        <source></source>
+        <translation>此筆記錄沒有標題，也沒有可用來產生標題的內文。</translation>
+    </message>
+    <message id="ERROR_IMPORT_RECORD_WITHOUT_URI">
+        <source></source>
+        <translation>此筆記錄沒有「uri」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_NO_JSON">
+        <source></source>
+        <translation>此列不是有效的 JSON：%1（位元組 %2）。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_NO_OBJECT">
+        <source></source>
+        <translation>此列不是 JSON 物件。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_TIME_UNREAD">
+        <source></source>
+        <translation>「%1」不符合欄位對應檔所定的時間格式。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_DATE">
+        <source></source>
+        <translation>此列沒有日期。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_IDENTITY">
+        <source></source>
+        <translation>此列的識別欄位（%1）沒有內容。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_SERVICE">
+        <source></source>
+        <translation>「%1」不是新聞服務：欄位對應檔中沒有其編號。</translation>
+    </message>
+    <message id="ERROR_IMPORT_ROW_WITHOUT_TITLE">
+        <source></source>
+        <translation>此列沒有標題，也沒有可用來產生標題的內文。</translation>
+    </message>
+    <message id="ERROR_IMPORT_SERVICE">
+        <source></source>
+        <translation>新聞服務</translation>
+    </message>
+    <message id="ERROR_IMPORT_SET_OF_CONCEPTS">
+        <source></source>
+        <translation>概念集</translation>
+    </message>
+    <message id="ERROR_IMPORT_SYMBOL_WITHOUT_NAME">
+        <source></source>
+        <translation>商品「%1」沒有名稱。</translation>
+    </message>
+    <message id="ERROR_IMPORT_TIME_FORM">
+        <source></source>
+        <translation>「%1」不是日期或時間格式。</translation>
+    </message>
+    <message id="ERROR_IMPORT_TIME_FORM_AT">
+        <source></source>
+        <translation>「%1」不是日期或時間格式：請檢查「%2」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_TRUE_OR_FALSE">
+        <source></source>
+        <translation>布林值</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNDER_EMBARGO">
+        <source></source>
+        <translation>此筆記錄尚未解禁：「%1」的值為「%2」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_ENCODING">
+        <source></source>
+        <translation>檔案宣告的編碼「%1」不受支援。</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_FORMAT">
+        <source></source>
+        <translation>無法識別檔案格式（支援 %1）：開頭為%2。</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_JSON">
+        <source></source>
+        <translation>不支援此種 JSON 檔案：記錄的欄位為%1。</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_XML">
+        <source></source>
+        <translation>不支援此種 XML 檔案：根元素為 &lt;%1&gt;。</translation>
+    </message>
+    <message id="ERROR_IMPORT_UNKNOWN_XML_OF">
+        <source></source>
+        <translation>不支援此種 XML 檔案：根元素為 &lt;%1&gt;，命名空間為「%2」。</translation>
+    </message>
+    <message id="ERROR_IMPORT_URI_OF_RECORD">
+        <source></source>
+        <translation>此筆記錄的「uri」</translation>
+    </message>
+    <message id="ERROR_IMPORT_VOLUME">
+        <source></source>
+        <translation>成交量</translation>
+    </message>
+    <message id="ERROR_IMPORT_WITH_CLOCK">
+        <source></source>
+        <translation>必須與「clock」同時設定</translation>
+    </message>
+    <message id="ERROR_IMPORT_XML_NOT_READ">
+        <source></source>
+        <translation>無法讀取 XML：%1。</translation>
+    </message>
+    <message id="ERROR_IMPORT_XML_WITHOUT_ELEMENT">
+        <source></source>
+        <translation>檔案看似 XML，但開頭找不到任何元素。</translation>
+    </message>
     <message id="IDC_BASEVIEW-STRING_NO_DATA">
         <source></source>
         <translation>此商品沒有新聞。</translation>
@@ -391,13 +867,13 @@
         <source></source>
         <translation>此處不可用 Shift+Insert 貼上。</translation>
     </message>
-    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE">
-        <source></source>
-        <translation>搜尋文字不可含空白。</translation>
-    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH">
         <source></source>
         <translation>請輸入搜尋關鍵字。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE">
+        <source></source>
+        <translation>搜尋文字不可含空白。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_INVALID_DATE1">
         <source></source>
@@ -731,10 +1207,6 @@
         <source></source>
         <translation>匯入新聞(&amp;I)…</translation>
     </message>
-    <message id="TERMINAL_NO_CHINESE_FONT">
-        <source></source>
-        <translation>未安裝中文字型，中文會顯示為方塊。 No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
-    </message>
     <message id="TERMINAL_IMPORT_NOT_STARTED">
         <source></source>
         <translation>無法啟動匯入程式。</translation>
@@ -822,6 +1294,10 @@
     <message id="TERMINAL_NEXT_VIEW">
         <source></source>
         <translation>下一個視窗(&amp;X)</translation>
+    </message>
+    <message id="TERMINAL_NO_CHINESE_FONT">
+        <source></source>
+        <translation>未安裝中文字型，中文會顯示為方塊。 No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
     </message>
     <message id="TERMINAL_PREVIOUS_VIEW">
         <source></source>

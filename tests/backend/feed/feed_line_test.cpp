@@ -27,7 +27,7 @@ TEST(FeedLineTest, AnItemComesBackAsItWas) {
     item.sequence = 2147483647;
     const FeedLine parsed = parsedFeedLine(itemLine(item, u"p 1"_s), 1);
     const auto& record = std::get<FeedRecord>(parsed);
-    ASSERT_TRUE(record.item) << record.item.error().toStdString();
+    ASSERT_TRUE(record.item) << sentence(record.item.error()).toStdString();
     const NewsItem& back = newsOf(record);
     EXPECT_EQ(record.position, u"p 1"_s);
     EXPECT_EQ(std::tie(back.service, back.identity, back.version, back.time, back.title, back.story,
@@ -64,7 +64,7 @@ TEST(FeedLineTest, AQuoteIsReadWithItsPosition) {
         R"({"wirepane":{"quote":{"market":16,"code":"2330","last":601.5,"change":-6,"volume":120},"position":"8"}})",
         1);
     const auto& record = std::get<FeedRecord>(parsed);
-    ASSERT_TRUE(record.item) << record.item.error().toStdString();
+    ASSERT_TRUE(record.item) << sentence(record.item.error()).toStdString();
     const auto& quote = std::get<QuoteItem>(record.item.value());
     EXPECT_EQ(std::tie(quote.market, quote.code, quote.last, quote.change, quote.volume),
               std::make_tuple(16, u"2330"_s, 601.5, -6.0, 120));
@@ -102,7 +102,7 @@ TEST(FeedLineTest, WhatIsNoNewsIsRejectedWithAReason) {
         const auto* record = std::get_if<FeedRecord>(&parsed);
         ASSERT_NE(record, nullptr) << line.left(80).toStdString();
         ASSERT_FALSE(record->item) << line.left(80).toStdString();
-        EXPECT_FALSE(record->item.error().isEmpty());
+        EXPECT_FALSE(sentence(record->item.error()).isEmpty());
     }
 }
 

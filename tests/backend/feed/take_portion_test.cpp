@@ -37,7 +37,7 @@ TEST_F(TakePortionTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
     EXPECT_EQ(receipts, QStringList{});
     source.settle(taken.value());
     for (const Rejection& rejection : taken.value().rejections)
-        places += rejection.place;
+        places += sentence(*rejection.place);
     EXPECT_EQ(receipts, QStringList{u"5: 1 1 3"_s});
     EXPECT_EQ(places, (QStringList{u"line 2"_s, u"line 3"_s, u"line 4"_s}));
     EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2"_s);

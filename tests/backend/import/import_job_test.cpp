@@ -35,7 +35,8 @@ protected:
         ImportJob job(files, sink);
         job.onRejection([this](const ImportRejection& one) {
             const QString name = one.file.section(u'/', -1);
-            rejections += name + u'|' + one.rejection.place + u'|' + one.rejection.reason;
+            rejections += name + u'|' + (one.rejection.place ? sentence(*one.rejection.place) : QString()) +
+                          u'|' + sentence(one.rejection.reason);
         });
         return job.run();
     }
@@ -86,7 +87,7 @@ TEST_F(ImportJobTest, AFailingStoreKeepsWholeFilesOnly) {
         sink = {};
         sink.takesBeforeFailing = failAt;
         const ImportReport report = run(files);
-        EXPECT_EQ(report.failure, u"The disk is full."_s);
+        EXPECT_EQ(sentence(report.failure.value()), u"The disk is full."_s);
         EXPECT_EQ(importExitStatus(report), 2);
         const std::size_t whole = failAt < 2 ? 0 : failAt < 4 ? 2 : 4;
         EXPECT_EQ(sink.stored.news.size(), whole) << failAt;
@@ -96,7 +97,7 @@ TEST_F(ImportJobTest, AFailingStoreKeepsWholeFilesOnly) {
     sink = {};
     sink.failsToCommit = true;
     const ImportReport report = run(files);
-    EXPECT_EQ(report.failure, u"The disk is gone."_s);
+    EXPECT_EQ(sentence(report.failure.value()), u"The disk is gone."_s);
     EXPECT_TRUE(sink.stored.news.empty());
     EXPECT_EQ(sink.begun, 1);
 }

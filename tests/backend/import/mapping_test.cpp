@@ -22,7 +22,7 @@ const QString announcements =
 ReadOptions with(const QString& mapping) {
     ReadOptions options;
     const Result<Mapping> parsed = Mapping::parse(mapping.toUtf8());
-    EXPECT_TRUE(parsed) << (parsed ? "" : qPrintable(parsed.error()));
+    EXPECT_TRUE(parsed) << (parsed ? "" : qPrintable(sentence(parsed.error())));
     if (parsed)
         options.mapping = std::make_shared<const Mapping>(parsed.value());
     return options;
@@ -193,7 +193,7 @@ TEST(Mapping, AFaultyMappingIsNamed) {
     for (const auto& [file, fault] : files) {
         const Result<Mapping> mapping = Mapping::parse(file.toString().toUtf8());
         ASSERT_FALSE(mapping) << qPrintable(file.toString());
-        EXPECT_TRUE(mapping.error().contains(fault)) << qPrintable(mapping.error());
+        EXPECT_TRUE(sentence(mapping.error()).contains(fault)) << qPrintable(sentence(mapping.error()));
     }
 }
 

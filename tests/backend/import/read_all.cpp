@@ -11,7 +11,7 @@ namespace wirepane {
 
 QString ReadOut::complaints() const {
     QStringList all;
-    for (const Rejection& rejection : rejections)
+    for (const Rejected& rejection : rejections)
         all += rejection.place + QLatin1StringView(": ") + rejection.reason;
     return all.join(u'\n');
 }
@@ -24,11 +24,11 @@ ReadOut readAll(QByteArray source, const ReadOptions& options) {
         if (item.content)
             out.items.push_back(item.content.value());
         else
-            out.rejections.push_back({item.place, item.content.error()});
+            out.rejections.push_back({sentence(item.place), sentence(item.content.error())});
         return true;
     });
     if (!done)
-        out.refusal = done.error();
+        out.refusal = sentence(done.error());
     return out;
 }
 

@@ -14,8 +14,14 @@ namespace wirepane {
 
 // Everything that a reader made of a source.
 struct ReadOut {
+    // In English.
+    struct Rejected {
+        QString place;
+        QString reason;
+    };
+
     std::vector<StoreItem> items;
-    std::vector<Rejection> rejections;
+    std::vector<Rejected> rejections;
     QString refusal;  // why the source was not read at all
 
     const NewsItem& news(std::size_t i = 0) const { return std::get<NewsItem>(items.at(i)); }

@@ -52,7 +52,7 @@ TEST_F(RealNews, TheWireIsTakenInWhole) {
     RecordingSink sink;
     ImportJob job(files(u"wire"_s, u"*.jsonl"_s), sink);
     QStringList reasons;
-    job.onRejection([&reasons](const ImportRejection& one) { reasons += one.rejection.reason; });
+    job.onRejection([&reasons](const ImportRejection& one) { reasons += sentence(one.rejection.reason); });
     const ImportReport report = job.run();
     EXPECT_EQ(report.filesRejected, 0);
     EXPECT_EQ(report.totals.takenIn + report.totals.rejected, 10'000);
@@ -78,7 +78,7 @@ TEST_F(RealNews, NinjsExamplesAreTakenUnlessTheyLackTitleOrTime) {
         const auto out = readAll(bytesOf(path));
         const bool isSchema = path.endsWith(u"extension-schema.json");
         EXPECT_EQ(out.refusal.isEmpty(), !isSchema) << qPrintable(path + out.refusal);
-        for (const Rejection& rejection : out.rejections)
+        for (const ReadOut::Rejected& rejection : out.rejections)
             EXPECT_TRUE(lacksTitleOrTime(rejection.reason)) << qPrintable(path + rejection.reason);
         EXPECT_EQ(out.items.empty(), isSchema || !out.rejections.empty()) << qPrintable(path);
     }
@@ -189,7 +189,7 @@ TEST_F(RealNews, EveryNewsmlItemIsNewsOrSaysWhyNot) {
             titles[out.news(i).identity] = out.news(i).title;
         EXPECT_TRUE(!out.items.empty() || !out.rejections.empty() || !out.refusal.isEmpty())
             << qPrintable(path);
-        for (const Rejection& rejection : out.rejections) {
+        for (const ReadOut::Rejected& rejection : out.rejections) {
             if (!rejection.reason.contains(u"not a news item") && !rejection.reason.contains(u"no headline"))
                 others += path + rejection.reason;
         }
@@ -205,7 +205,7 @@ TEST_F(RealNews, EveryNewsmlItemIsNewsOrSaysWhyNot) {
 ReadOptions mappedBy(const QString& name) {
     ReadOptions options;
     const Result<Mapping> mapping = Mapping::load(QStringLiteral(WIREPANE_MAPPINGS) + u'/' + name);
-    EXPECT_TRUE(mapping) << (mapping ? "" : qPrintable(mapping.error()));
+    EXPECT_TRUE(mapping) << (mapping ? "" : qPrintable(sentence(mapping.error())));
     if (mapping)
         options.mapping = std::make_shared<const Mapping>(mapping.value());
     return options;
@@ -215,7 +215,7 @@ TEST_F(RealNews, AnnouncementsAreTakenOnceEach) {
     RecordingSink sink;
     ImportJob job(files(u"announcements"_s, u"*.json"_s), sink, mappedBy(u"exchange_announcements.json"_s));
     QStringList faults;
-    job.onRejection([&faults](const ImportRejection& one) { faults += one.rejection.reason; });
+    job.onRejection([&faults](const ImportRejection& one) { faults += sentence(one.rejection.reason); });
     const ImportReport report = job.run();
     EXPECT_EQ(report.filesRejected, 2);
     EXPECT_EQ(faults.filter(u"The file is a page of markup, not a table"_s).size(), 2);
@@ -255,7 +255,8 @@ TEST_F(RealNews, SymbolListsAreWhole) {
     RecordingSink sink;
     ImportJob job(files(u"symbols"_s, u"*.csv"_s), sink);
     QStringList rejections;
-    job.onRejection([&](const ImportRejection& one) { rejections += one.file + one.rejection.reason; });
+    job.onRejection(
+        [&](const ImportRejection& one) { rejections += one.file + sentence(one.rejection.reason); });
     const ImportReport report = job.run();
     EXPECT_TRUE(rejections.isEmpty()) << qPrintable(rejections.join(u'\n'));
     std::map<int, int> perMarket;

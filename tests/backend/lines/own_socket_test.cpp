@@ -63,7 +63,7 @@ TEST(OwnSocketTest, WhatStandsAtThePathStaysUnlessNobodyListensThere) {
 
     const Result<std::unique_ptr<OwnSocket>> overFile = OwnSocket::listen(kept);
     ASSERT_FALSE(overFile);
-    EXPECT_EQ(overFile.error(),
+    EXPECT_EQ(sentence(overFile.error()),
               u"The local socket %1 cannot be opened: there is something of this name that is "
               u"no socket."_s.arg(kept));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -81,7 +81,7 @@ TEST(OwnSocketTest, WhatStandsAtThePathStaysUnlessNobodyListensThere) {
     close(live);
     ASSERT_TRUE(QFileInfo::exists(path));
     auto own = OwnSocket::listen(path);
-    ASSERT_TRUE(own) << qPrintable(own.error());
+    ASSERT_TRUE(own) << qPrintable(sentence(own.error()));
     EXPECT_EQ(QFileInfo(path).permissions() & (QFileDevice::ReadGroup | QFileDevice::WriteGroup |
                                                QFileDevice::ReadOther | QFileDevice::WriteOther),
               0);
@@ -134,7 +134,7 @@ TEST(OwnSocketTest, NamesStandInAFolderOfTheUsersOwn) {
         EXPECT_EQ(found.st_mode & 07777, 0700U);
     }
     chmod(QFile::encodeName(made).constData(), 0770);
-    EXPECT_EQ(socketPath(u"feed"_s).error(),
+    EXPECT_EQ(sentence(socketPath(u"feed"_s).error()),
               u"The folder %1 for local sockets is not this user's alone."_s.arg(made));
     ASSERT_TRUE(QDir().rmdir(made) && QDir().mkdir(open + u"/mine"_s) && QFile::link(open, made));
     EXPECT_FALSE(socketPath(u"feed"_s));
@@ -179,7 +179,7 @@ TEST(OwnSocketTest, OtherUsersAreNeitherServedNorTrusted) {
         return read(client, &byte, 1) == 0 ? 0 : 1;
     });
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo(squatted).permissions() & QFileDevice::WriteOther; }));
-    EXPECT_TRUE(OwnSocket::listen(squatted).error().contains(u"it belongs to another user"));
+    EXPECT_TRUE(sentence(OwnSocket::listen(squatted).error()).contains(u"it belongs to another user"));
     QString failure;
     {
         FeedClient client(squatted, {});

@@ -50,7 +50,7 @@ TEST(SocketServerTest, SpeaksWithSeveralClientsAndLetsThemGo) {
     SocketServer rival;
     const Done refused = rival.listen(name);
     ASSERT_FALSE(refused);
-    EXPECT_TRUE(refused.error().contains(name));
+    EXPECT_TRUE(sentence(refused.error()).contains(name));
 }
 
 // Clients that are connected to a server, and what the server has heard of them.

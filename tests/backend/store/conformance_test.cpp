@@ -13,7 +13,7 @@ namespace wirepane {
 TEST(EmbeddedBackEndConformance, KeepsEveryDuty) {
     const QTemporaryDir folder;
     auto opened = EmbeddedBackEnd::open(folder.filePath(u"news"_s));
-    ASSERT_TRUE(opened) << opened.error().toStdString();
+    ASSERT_TRUE(opened) << sentence(opened.error()).toStdString();
     EmbeddedBackEnd& backEnd = *opened.value();
     host_clock::startAt(at(12, 0));
     for (int i = 0; i < 12; ++i) {
@@ -35,7 +35,7 @@ TEST(EmbeddedBackEndConformance, KeepsEveryDuty) {
 TEST(EmbeddedBackEndConformance, TellsEveryKeyThatIsGone) {
     const QTemporaryDir folder;
     auto opened = EmbeddedBackEnd::open(folder.filePath(u"news"_s));
-    ASSERT_TRUE(opened) << opened.error().toStdString();
+    ASSERT_TRUE(opened) << sentence(opened.error()).toStdString();
     EmbeddedBackEnd& backEnd = *opened.value();
     host_clock::startAt(at(12, 0));
     std::vector<NewsItem> items;

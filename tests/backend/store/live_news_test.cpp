@@ -492,7 +492,7 @@ TEST_F(LiveNewsTest, AStoredDayGivesItsNewsBackWholeAndInOrder) {
     const auto other = openStore(pathOf(u"other.db"_s));
     ASSERT_TRUE(other);
     const Done copied = day.value()->copyCatalogues(*other.value());
-    ASSERT_TRUE(copied) << copied.error().toStdString();
+    ASSERT_TRUE(copied) << sentence(copied.error()).toStdString();
     const char* const names =
         "SELECT service, category, name FROM service_categories JOIN categories USING(space) "
         "WHERE id = category ORDER BY 1, 2";

@@ -167,7 +167,7 @@ TEST_F(QuotesTest, NumbersThatAreNoneOrOutOfRangeAreRejected) {
         const auto taken = backEnd->takeIn(item);
         ASSERT_TRUE(taken);
         EXPECT_EQ(taken.value().take, Take::Rejected) << item.last << ' ' << item.change;
-        EXPECT_FALSE(taken.value().reason.isEmpty());
+        EXPECT_FALSE(sentence(taken.value().reason.value()).isEmpty());
     }
     EXPECT_EQ(put({1, u"free"_s}, 0, 0, 0), Take::TakenIn) << "worth nothing, but a quote";
     backEnd->RegisterSymbols(&listener, {first}, {});

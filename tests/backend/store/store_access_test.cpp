@@ -75,20 +75,21 @@ TEST_F(StoreAccessTest, AStoreOnReadOnlyMediaIsSearchedAndReadAndTakesNothingIn)
         const AsOrdinaryUser user;
         const auto refused = openStore(path, impatient);
         ASSERT_FALSE(refused);
-        EXPECT_TRUE(refused.error().contains(u"cannot be written to"_s)) << refused.error().toStdString();
-        EXPECT_TRUE(refused.error().contains(path)) << refused.error().toStdString();
+        EXPECT_TRUE(sentence(refused.error()).contains(u"cannot be written to"_s))
+            << sentence(refused.error()).toStdString();
+        EXPECT_TRUE(sentence(refused.error()).contains(path)) << sentence(refused.error()).toStdString();
         EXPECT_FALSE(openStore(pathOf(u"new.db"_s), impatient));
 
         const auto read = openStoreToRead(path, impatient);
-        ASSERT_TRUE(read) << read.error().toStdString();
+        ASSERT_TRUE(read) << sentence(read.error()).toStdString();
         EXPECT_TRUE(read.value()->isReadOnly());
         EXPECT_EQ(found(*read.value()), 1U);
         const Result<QStringList> checked = StoreChecker(path).check();
-        ASSERT_TRUE(checked) << checked.error().toStdString();
+        ASSERT_TRUE(checked) << sentence(checked.error()).toStdString();
         EXPECT_EQ(checked.value(), QStringList{});
 
         const auto backEnd = EmbeddedBackEnd::open(path);
-        ASSERT_TRUE(backEnd) << backEnd.error().toStdString();
+        ASSERT_TRUE(backEnd) << sentence(backEnd.error()).toStdString();
         std::vector<CHeadlineTable> table;
         backEnd.value()->BKQNEWS_iGetHeadlineTable(1, table, static_cast<int>(TableKind::ByDate),
                                                    u"20260302"_s);
@@ -98,7 +99,8 @@ TEST_F(StoreAccessTest, AStoreOnReadOnlyMediaIsSearchedAndReadAndTakesNothingIn)
         EXPECT_TRUE(backEnd.value()->storeTrouble().contains(u"can only be read"_s));
         const auto taken = backEnd.value()->takeIn(newsItem(1, u"b"_s, at(9, 1), u"Tin falls"_s));
         ASSERT_FALSE(taken);
-        EXPECT_TRUE(taken.error().contains(u"cannot be written to"_s)) << taken.error().toStdString();
+        EXPECT_TRUE(sentence(taken.error()).contains(u"cannot be written to"_s))
+            << sentence(taken.error()).toStdString();
     }
     EXPECT_EQ(bytesOf(path), before);
     EXPECT_FALSE(QFile::exists(pathOf(u"new.db"_s)));
@@ -116,7 +118,7 @@ TEST_F(StoreAccessTest, AReadOnlyStoreWithALogIsNotReadWithoutIt) {
     const AsOrdinaryUser user;
     const auto read = openStoreToRead(pathOf(u"copy.db"_s), impatient);
     ASSERT_FALSE(read);
-    EXPECT_TRUE(read.error().contains(u"copy.db-wal"_s)) << read.error().toStdString();
+    EXPECT_TRUE(sentence(read.error()).contains(u"copy.db-wal"_s)) << sentence(read.error()).toStdString();
 }
 
 TEST_F(StoreAccessTest, ReadingMakesNoStore) {
@@ -127,7 +129,7 @@ TEST_F(StoreAccessTest, ReadingMakesNoStore) {
     empty.close();
     const auto opened = openStoreToRead(empty.fileName(), impatient);
     ASSERT_FALSE(opened);
-    EXPECT_TRUE(opened.error().contains(u"is empty"_s)) << opened.error().toStdString();
+    EXPECT_TRUE(sentence(opened.error()).contains(u"is empty"_s)) << sentence(opened.error()).toStdString();
     EXPECT_EQ(QFileInfo(empty).size(), 0);
 }
 
@@ -136,7 +138,8 @@ TEST_F(StoreAccessTest, AStoreIsItsOwnersAloneAndAFile) {
         EXPECT_EQ(QFile::permissions(pathOf(name)), QFile::Permissions(ownersAlone)) << name.toStdString();
     const auto inMemory = openStore(u":memory:"_s, impatient);
     ASSERT_FALSE(inMemory);
-    EXPECT_TRUE(inMemory.error().contains(u":memory:"_s)) << inMemory.error().toStdString();
+    EXPECT_TRUE(sentence(inMemory.error()).contains(u":memory:"_s))
+        << sentence(inMemory.error()).toStdString();
     EXPECT_FALSE(QFile::exists(u":memory:"_s));
 }
 
@@ -158,7 +161,7 @@ TEST_F(StoreAccessTest, DamageThatAnyStatementMeetsIsRememberedAndKeepsNothing) 
     file.close();
 
     const auto opened = openStore(file.fileName(), impatient);
-    ASSERT_TRUE(opened) << opened.error().toStdString();
+    ASSERT_TRUE(opened) << sentence(opened.error()).toStdString();
     Database& database = *opened.value();
     StoreWriter spoilt(database);
     ASSERT_TRUE(spoilt.begin());
@@ -170,7 +173,7 @@ TEST_F(StoreAccessTest, DamageThatAnyStatementMeetsIsRememberedAndKeepsNothing) 
     EXPECT_TRUE(database.damage().contains(u"is damaged"_s)) << database.damage().toStdString();
     const Done kept = spoilt.commit();
     ASSERT_FALSE(kept);
-    EXPECT_TRUE(kept.error().contains(u"is damaged"_s)) << kept.error().toStdString();
+    EXPECT_TRUE(sentence(kept.error()).contains(u"is damaged"_s)) << sentence(kept.error()).toStdString();
     EXPECT_EQ(rowsOf(database, "SELECT count(*) FROM headlines"), QStringList{u"1"_s});
     // News that needs nothing of what is damaged still goes in.
     ASSERT_TRUE(spoilt.begin());

@@ -29,7 +29,7 @@ protected:
     }
     QStringList check() {
         const Result<QStringList> checked = StoreChecker(store->path()).check();
-        EXPECT_TRUE(checked) << checked.error().toStdString();
+        EXPECT_TRUE(checked) << sentence(checked.error()).toStdString();
         return checked ? checked.value() : QStringList{};
     }
 };
@@ -80,7 +80,7 @@ TEST_F(StoreCheckerTest, EachRuleThatIsBrokenIsNamedWithItsOffenders) {
             ASSERT_TRUE(opened.value()->execute(one.breaks)) << opened.value()->failure().toStdString();
         }
         const Result<QStringList> checked = StoreChecker(copy).check();
-        ASSERT_TRUE(checked) << one.breaks << ": " << checked.error().toStdString();
+        ASSERT_TRUE(checked) << one.breaks << ": " << sentence(checked.error()).toStdString();
         EXPECT_TRUE(checked.value().contains(one.expected))
             << one.breaks << ": " << checked.value().join(u" / "_s).toStdString();
         QFile::remove(copy);
@@ -115,7 +115,8 @@ TEST_F(StoreCheckerTest, AnEmptyFileIsNoSoundStore) {
     const auto expectEmpty = [&] {
         const Result<QStringList> checked = StoreChecker(empty.fileName()).check();
         ASSERT_FALSE(checked);
-        EXPECT_TRUE(checked.error().contains(u"is empty"_s)) << checked.error().toStdString();
+        EXPECT_TRUE(sentence(checked.error()).contains(u"is empty"_s))
+            << sentence(checked.error()).toStdString();
     };
     expectEmpty();
     // Killed between the first page and the tables.

@@ -115,7 +115,8 @@ TEST_F(StoreFileTest, AnIndexOfOtherRulesIsMadeAnew) {
     plainDatabase(path, earlier.back());
     const auto unopened = StoreChecker(path).check();
     ASSERT_FALSE(unopened);
-    EXPECT_TRUE(unopened.error().contains(u"is of version 1"_s)) << unopened.error().toStdString();
+    EXPECT_TRUE(sentence(unopened.error()).contains(u"is of version 1"_s))
+        << sentence(unopened.error()).toStdString();
 }
 
 TEST_F(StoreFileTest, TellsHowFarAnIndexIsMadeAnew) {
@@ -158,7 +159,7 @@ TEST_F(StoreFileTest, AStoreOfTheFirstVersionIsBroughtUpToDateWithItsNews) {
     fill(3);
     ASSERT_TRUE(store->execute(toFirstVersion));
     const auto again = openStore(closedStore());
-    ASSERT_TRUE(again) << again.error().toStdString();
+    ASSERT_TRUE(again) << sentence(again.error()).toStdString();
     EXPECT_EQ(rowsOf(*again.value(), "SELECT count(*) FROM headlines"), QStringList{u"3"_s});
     StoreWriter later(*again.value());
     ASSERT_TRUE(later.begin() && later.takeNews(newsItem(1, u"new"_s, at(9, 5), u"New"_s)) && later.commit());
@@ -193,9 +194,9 @@ TEST_F(StoreFileTest, AFileThatIsNoUsableStoreIsNamedAndLeftAlone) {
         write(path, one.bytes);
         const auto opened = openStore(path, impatient);
         ASSERT_FALSE(opened) << one.what;
-        EXPECT_TRUE(opened.error().contains(one.expected))
-            << one.what << ": " << opened.error().toStdString();
-        EXPECT_TRUE(opened.error().contains(path)) << one.what;
+        EXPECT_TRUE(sentence(opened.error()).contains(one.expected))
+            << one.what << ": " << sentence(opened.error()).toStdString();
+        EXPECT_TRUE(sentence(opened.error()).contains(path)) << one.what;
         EXPECT_EQ(bytesOf(path), one.bytes) << one.what;
         QFile::remove(path + u"-wal"_s);
         QFile::remove(path + u"-shm"_s);
@@ -212,7 +213,8 @@ TEST_F(StoreFileTest, AStoreThatIsInUseElsewhereSaysSo) {
     ASSERT_TRUE(writer->begin());
     const Done begun = other.begin();
     ASSERT_FALSE(begun);
-    EXPECT_TRUE(begun.error().contains(u"is being used by another program"_s)) << begun.error().toStdString();
+    EXPECT_TRUE(sentence(begun.error()).contains(u"is being used by another program"_s))
+        << sentence(begun.error()).toStdString();
     ASSERT_TRUE(writer->commit());
     EXPECT_TRUE(other.begin());
     other.rollback();
@@ -221,8 +223,8 @@ TEST_F(StoreFileTest, AStoreThatIsInUseElsewhereSaysSo) {
     const auto holder = plainDatabase(path, "CREATE TABLE t(x); BEGIN EXCLUSIVE");
     const auto locked = openStore(path, impatient);
     ASSERT_FALSE(locked);
-    EXPECT_TRUE(locked.error().contains(u"is being used by another program"_s))
-        << locked.error().toStdString();
+    EXPECT_TRUE(sentence(locked.error()).contains(u"is being used by another program"_s))
+        << sentence(locked.error()).toStdString();
 }
 
 TEST_F(StoreFileTest, ThoseWhoMakeOneStoreTogetherAllGetIt) {
@@ -236,7 +238,7 @@ TEST_F(StoreFileTest, ThoseWhoMakeOneStoreTogetherAllGetIt) {
                 together.arrive_and_wait();
                 const auto opened = openStore(path);
                 if (!opened)
-                    fault = opened.error();
+                    fault = sentence(opened.error());
             });
         }
         for (std::thread& maker : makers)
@@ -257,7 +259,8 @@ TEST_F(StoreFileTest, AFullDiskTakesBackTheTransactionAndNothingElse) {
     item.story = QString(1'000'000, u'x');
     const Result<StoredNews> stored = writer->takeNews(item);
     ASSERT_FALSE(stored);
-    EXPECT_TRUE(stored.error().contains(u"the disk is full"_s)) << stored.error().toStdString();
+    EXPECT_TRUE(sentence(stored.error()).contains(u"the disk is full"_s))
+        << sentence(stored.error()).toStdString();
     EXPECT_FALSE(writer->commit());
     EXPECT_EQ(rows("SELECT identity, title FROM headlines ORDER BY id"), before);
     // With room again, the same item goes in.
@@ -293,7 +296,8 @@ TEST_F(StoreFileTest, DamageAnywhereIsSurvived) {
             item.version = 1;
             const Result<StoredNews> stored = spoilt.takeNews(item);
             if (!stored) {
-                EXPECT_TRUE(stored.error().contains(path)) << stored.error().toStdString();
+                EXPECT_TRUE(sentence(stored.error()).contains(path))
+                    << sentence(stored.error()).toStdString();
                 break;
             }
         }

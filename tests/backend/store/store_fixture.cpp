@@ -16,7 +16,7 @@ namespace wirepane {
 StoreFixture::StoreFixture() {
     Result<std::unique_ptr<Database>> opened = openStore(pathOf(u"news.db"_s));
     if (!opened)
-        throw std::runtime_error(opened.error().toStdString());
+        throw std::runtime_error(sentence(opened.error()).toStdString());
     store = std::move(opened.value());
     writer = std::make_unique<StoreWriter>(*store);
 }
@@ -25,7 +25,7 @@ StoredNews StoreFixture::takeNews(const NewsItem& item) {
     EXPECT_TRUE(writer->begin());
     const Result<StoredNews> stored = writer->takeNews(item);
     if (!stored) {
-        ADD_FAILURE() << stored.error().toStdString();
+        ADD_FAILURE() << sentence(stored.error()).toStdString();
         return {};
     }
     EXPECT_TRUE(writer->commit());

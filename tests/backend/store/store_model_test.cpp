@@ -45,7 +45,7 @@ TEST_F(StoreModelTest, RandomTransactionsLeaveWhatTheModelHolds) {
         for (auto left = random() % 30; left > 0; --left) {
             const NewsItem item = randomNews(random);
             const Result<StoredNews> stored = writer->takeNews(item);
-            ASSERT_TRUE(stored) << stored.error().toStdString();
+            ASSERT_TRUE(stored) << sentence(stored.error()).toStdString();
             ASSERT_EQ(stored.value().outcome.take, changed.take(item)) << round;
         }
         if (kept) {
@@ -57,7 +57,7 @@ TEST_F(StoreModelTest, RandomTransactionsLeaveWhatTheModelHolds) {
     }
     EXPECT_EQ(listing(), model.listing());
     const Result<QStringList> checked = StoreChecker(store->path()).check();
-    ASSERT_TRUE(checked) << checked.error().toStdString();
+    ASSERT_TRUE(checked) << sentence(checked.error()).toStdString();
     EXPECT_EQ(checked.value(), QStringList{});
 }
 
@@ -72,7 +72,7 @@ TEST_F(StoreModelTest, DayTablesStayRightWhoeverTakesIn) {
         const NewsItem item = randomNews(random);
         EmbeddedBackEnd& backEnd = random() % 8 == 0 ? second : first;
         const Result<TakeOutcome> outcome = backEnd.takeIn(item);
-        ASSERT_TRUE(outcome) << outcome.error().toStdString();
+        ASSERT_TRUE(outcome) << sentence(outcome.error()).toStdString();
         ASSERT_EQ(outcome.value().take, model.take(item));
         for (const int offset : {-1, 0, 1, 2}) {
             const QDate shown = day.addDays(offset);

@@ -83,7 +83,7 @@ TEST_F(StoreSyncTest, AStoreThatIsGoneIsAnError) {
     StoreSync sync(*store);
     ASSERT_TRUE(QFile::remove(file));
     QString error;
-    sync.whenOnDisk([&](const Done& onDisk) { error = onDisk ? QString() : onDisk.error(); });
+    sync.whenOnDisk([&](const Done& onDisk) { error = onDisk ? QString() : sentence(onDisk.error()); });
     sync.finish();
     EXPECT_TRUE(error.contains(u"news.wirepane"_s)) << error.toStdString();
 }

@@ -36,11 +36,11 @@ TEST_F(StoreWriterTest, NumbersCountPerServiceAndLocalDay) {
     given.time = at(17, 0);
     const StoredNews collided = takeNews(given);
     EXPECT_EQ(collided.outcome.take, Take::Rejected);
-    EXPECT_EQ(collided.outcome.reason,
+    EXPECT_EQ(sentence(collided.outcome.reason.value()),
               u"Its sequence number 40 belongs to another headline of that service and day."_s);
     given.sequence = std::numeric_limits<std::int32_t>::max();
     EXPECT_EQ(takeNews(given).outcome.take, Take::TakenIn);
-    EXPECT_EQ(takeNews(newsItem(1, u"g"_s, at(9, 0), u"G"_s)).outcome.reason,
+    EXPECT_EQ(sentence(takeNews(newsItem(1, u"g"_s, at(9, 0), u"G"_s)).outcome.reason.value()),
               u"No sequence number is left on its day."_s);
 }
 
@@ -168,7 +168,7 @@ TEST_F(StoreWriterTest, WhatDoesNotPassIsRejectedWithAReason) {
     const auto reasonOf = [&](const std::function<void(NewsItem&)>& change) {
         NewsItem item = newsItem(1, u"x"_s, at(9, 0), u"T"_s);
         change(item);
-        return takeNews(item).outcome.reason;
+        return sentence(takeNews(item).outcome.reason.value());
     };
     const QString longTitle(limits::titleLength + 1, u'x');
     EXPECT_EQ(reasonOf([](NewsItem& item) { item.title = u" \n"_s; }), u"The title is empty."_s);

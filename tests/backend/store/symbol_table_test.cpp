@@ -21,7 +21,7 @@ class SymbolTableTest : public testing::Test {
 protected:
     void SetUp() override {
         auto opened = EmbeddedBackEnd::open(folder.filePath(QStringLiteral("news.db")));
-        ASSERT_TRUE(opened) << opened.error().toStdString();
+        ASSERT_TRUE(opened) << sentence(opened.error()).toStdString();
         backEnd = std::move(opened.value());
         put(16, "2330", "Aster Chips");
         put(16, "2331", "台灣水泥 ABC");

@@ -35,12 +35,12 @@ protected:
     std::unique_ptr<Session> open() {
         auto session =
             Session::open({scratch.path(u"news.wirepane"_s), scratch.path(u"config"_s), u"en"_s, true});
-        EXPECT_TRUE(session) << (session ? "" : session.error().toStdString());
+        EXPECT_TRUE(session) << (session ? "" : sentence(session.error()).toStdString());
         if (!session)
             return nullptr;
         session.value()->frame().show();
         const Done opened = session.value()->keeper().restore();
-        EXPECT_TRUE(opened) << (opened ? "" : opened.error().toStdString());
+        EXPECT_TRUE(opened) << (opened ? "" : sentence(opened.error()).toStdString());
         return std::move(session.value());
     }
     static QVariantMap stateOf(Session& session) { return session.workspace().newest()->access->State(); }
@@ -73,12 +73,12 @@ TEST_F(UserTerminalTest, ATerminalWhoseCommonFeedNameIsTakenOpensAndSaysSo) {
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(scratch.path(u""_s)));
     const QString path = socketPath(defaultFeedName).value();
     const auto other = OwnSocket::listen(path);
-    ASSERT_TRUE(other) << other.error().toStdString();
+    ASSERT_TRUE(other) << sentence(other.error()).toStdString();
     SessionOptions options{scratch.path(u"news.wirepane"_s), scratch.path(u"config"_s), u"en"_s, false};
     options.feedName = defaultFeedName;
     const auto session = Session::open(options);
     qputenv("XDG_RUNTIME_DIR", before);
-    ASSERT_TRUE(session) << session.error().toStdString();
+    ASSERT_TRUE(session) << sentence(session.error()).toStdString();
     EXPECT_EQ(session.value()->frame().notices(),
               u"The local socket %1 cannot be opened: it is in use by another program."_s.arg(path));
 }

@@ -56,7 +56,8 @@ TEST(ModuleFilesTest, BothListsAreCutAtTheSameEntry) {
 TEST(ModuleFilesTest, SaysWhichFileCannotBeWritten) {
     const Done done = writeSwitchesFile(u"/nonexistent-folder"_s, {});
     ASSERT_FALSE(done);
-    EXPECT_TRUE(done.error().contains(u"Application.ini"_s)) << done.error().toStdString();
+    EXPECT_TRUE(sentence(done.error()).contains(u"Application.ini"_s))
+        << sentence(done.error()).toStdString();
 }
 
 }  // namespace

@@ -222,7 +222,7 @@ TEST_F(SettingsFileTest, SaysWhenItCannotBeSaved) {
     file.setValue(u"group"_s, u"name"_s, 1);
     const Done done = file.save();
     ASSERT_FALSE(done);
-    EXPECT_TRUE(done.error().contains(folder.path())) << done.error().toStdString();
+    EXPECT_TRUE(sentence(done.error()).contains(folder.path())) << sentence(done.error()).toStdString();
 }
 
 }  // namespace

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/error.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace wirepane {
+
+namespace {
+
+constexpr ErrorCode asItIs{"ERROR_AS_IT_IS", u"%1"};
+
+}  // namespace
+
+Error::Error(const ErrorCode& ofError, std::vector<ErrorArgument> withArguments)
+    : code(&ofError), arguments(std::move(withArguments)) {}
+Error::Error(const QString& text) : Error(makeError<asItIs>(text)) {}
+
+ErrorArgument::ErrorArgument(QString asItIs) : text(std::move(asItIs)) {}
+ErrorArgument::ErrorArgument(QChar asItIs) : text(asItIs) {}
+ErrorArgument::ErrorArgument(QStringView asItIs) : text(asItIs.toString()) {}
+ErrorArgument::ErrorArgument(QLatin1StringView asItIs) : text(asItIs) {}
+ErrorArgument::ErrorArgument(double number) : text(QString::number(number)) {}
+ErrorArgument::ErrorArgument(Error sentence) : part{std::move(sentence)} {}
+
+QString sentence(const Error& error) {
+    QStringList arguments;
+    for (const ErrorArgument& argument : error.arguments)
+        arguments += argument.part.empty() ? argument.text : sentence(argument.part.front());
+    return filledIn(error.code->english, arguments);
+}
+
+QString filledIn(QStringView sentence, const QStringList& arguments) {
+    QString filled;
+    for (qsizetype at = 0; at < sentence.size(); ++at) {
+        const qsizetype number =
+            sentence.at(at) == u'%' && at + 1 < sentence.size() ? sentence.at(at + 1).unicode() - u'1' : -1;
+        if (number < 0 || number >= arguments.size()) {
+            filled += sentence.at(at);
+            continue;
+        }
+        filled += arguments.at(number);
+        ++at;
+    }
+    return filled;
+}
+
+}  // namespace wirepane
