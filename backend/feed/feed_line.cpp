@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/feed_line.h"
 
+#include "backend/import/import_errors.h"
+#include "backend/import/json_fault.h"
 #include "backend/import/ninjs_record.h"
 
 #include <QJsonArray>
@@ -28,100 +30,52 @@ Result<StoreItem> ninjs(QByteArrayView record, unsigned char service) {
     return item ? Result<StoreItem>(stored(item.value())) : Result<StoreItem>(item.error());
 }
 
-// The fields of an item, and the first of them that is wrong.
-class ItemFields {
-public:
-    explicit ItemFields(const QJsonObject& object, QString kindOfObject = u"item"_s)
-        : fields(object), kind(std::move(kindOfObject)) {}
-
-    QString text(QLatin1StringView name) {
-        const QJsonValue value = fields.value(name);
-        if (!value.isString())
-            fail(name, u"is not a text"_s);
-        return value.toString();
-    }
-    std::int64_t number(QLatin1StringView name, std::int64_t least, std::int64_t most) {
-        const QJsonValue value = fields.value(name);
-        const std::int64_t number = value.toInteger(least - 1);
-        if (value.isDouble() && number >= least && number <= most)
-            return number;
-        fail(name, u"is not a whole number from %1 to %2"_s.arg(least).arg(most));
-        return least;
-    }
-    double price(QLatin1StringView name) {
-        const QJsonValue value = fields.value(name);
-        if (!value.isDouble())
-            fail(name, u"is not a number"_s);
-        return value.toDouble();
-    }
-    bool has(QLatin1StringView name) const {
-        return !fields.value(name).isNull() && !fields.value(name).isUndefined();
-    }
-    // False where it is missing.
-    bool flag(QLatin1StringView name) {
-        if (has(name) && !fields.value(name).isBool())
-            fail(name, u"is neither true nor false"_s);
-        return fields.value(name).toBool();
-    }
-    QJsonArray list(QLatin1StringView name) {
-        if (has(name) && !fields.value(name).isArray())
-            fail(name, u"is not a list"_s);
-        return fields.value(name).toArray();
-    }
-    void fail(const QString& name, const QString& what) {
-        if (fault.isEmpty())
-            fault = u"“%1” of the %2 %3."_s.arg(name, kind, what);
-    }
-
-    QString fault;
-
-private:
-    const QJsonObject& fields;
-    QString kind;
-};
+SymbolRef symbolFrom(const QJsonValue& entry, bool& isSymbol) {
+    JsonFields fields(entry.toObject());
+    const auto market = static_cast<unsigned char>(fields.number(u"market"_s, 0, lastId));
+    SymbolRef symbol{market, fields.text(u"code"_s)};
+    isSymbol = isSymbol && !fields.fault();
+    return symbol;
+}
 
 Result<StoreItem> itemFrom(const QJsonObject& object) {
     constexpr std::int64_t mostNumber = std::numeric_limits<std::int32_t>::max();
-    ItemFields fields(object);
+    JsonFields fields(object);
     NewsItem item;
-    item.service = static_cast<unsigned char>(fields.number("service"_L1, 1, lastId));
-    item.identity = fields.text("identity"_L1);
-    item.time = fields.number("time"_L1, firstNewsTime, lastNewsTime);
-    item.title = fields.text("title"_L1);
-    if (fields.has("version"_L1))
-        item.version = static_cast<int>(fields.number("version"_L1, -mostNumber - 1, mostNumber));
-    if (fields.has("sequence"_L1))
-        item.sequence = static_cast<std::int32_t>(fields.number("sequence"_L1, -mostNumber - 1, mostNumber));
-    if (fields.has("story"_L1))
-        item.story = fields.text("story"_L1);
-    else if (fields.flag("storyFollows"_L1))
-        item.story.reset();
-    if (fields.has("category"_L1))
-        item.category = fields.text("category"_L1);
-    const QJsonArray related = fields.list("related"_L1);
-    for (const auto& entry : related) {
-        const QJsonObject symbolObject = entry.toObject();
-        ItemFields symbol(symbolObject);
-        item.related.push_back(
-            {static_cast<unsigned char>(symbol.number("market"_L1, 0, lastId)), symbol.text("code"_L1)});
-        if (!symbol.fault.isEmpty())
-            fields.fail(u"related"_s, u"has an entry that is no {market, code}"_s);
-    }
-    if (!fields.fault.isEmpty())
-        return Error{fields.fault};
+    item.service = static_cast<unsigned char>(fields.number(u"service"_s, 1, lastId));
+    item.identity = fields.text(u"identity"_s);
+    item.time = fields.number(u"time"_s, firstNewsTime, lastNewsTime);
+    item.title = fields.text(u"title"_s);
+    if (const auto version = fields.optionalNumber(u"version"_s, -mostNumber - 1, mostNumber))
+        item.version = static_cast<int>(*version);
+    if (const auto sequence = fields.optionalNumber(u"sequence"_s, -mostNumber - 1, mostNumber))
+        item.sequence = static_cast<std::int32_t>(*sequence);
+    const auto story = fields.optionalText(u"story"_s);
+    const bool follows = fields.optionalFlag(u"storyFollows"_s).value_or(false);
+    if (story || follows)
+        item.story = story;
+    item.category = fields.optionalText(u"category"_s).value_or(item.category);
+    bool areSymbols = true;
+    const QJsonArray related = fields.optionalList(u"related"_s).value_or(QJsonArray());
+    for (const auto& entry : related)
+        item.related.push_back(symbolFrom(entry, areSymbols));
+    if (const auto& fault = fields.fault())
+        return makeError<import_errors::itemField>(fault->field, jsonFault(*fault));
+    if (!areSymbols)
+        return makeError<import_errors::itemField>(u"related"_s, makeError<import_errors::holdsNoSymbol>());
     return stored(std::move(item));
 }
 
 Result<StoreItem> quoteFrom(const QJsonObject& object) {
-    ItemFields fields(object, u"quote"_s);
+    JsonFields fields(object);
     QuoteItem quote;
-    quote.market = static_cast<unsigned char>(fields.number("market"_L1, 1, lastId));
-    quote.code = fields.text("code"_L1);
-    quote.last = fields.price("last"_L1);
-    quote.change = fields.price("change"_L1);
-    quote.volume = fields.number("volume"_L1, 0, mostVolume);
-    if (!fields.fault.isEmpty())
-        return Error{fields.fault};
+    quote.market = static_cast<unsigned char>(fields.number(u"market"_s, 1, lastId));
+    quote.code = fields.text(u"code"_s);
+    quote.last = fields.real(u"last"_s);
+    quote.change = fields.real(u"change"_s);
+    quote.volume = fields.number(u"volume"_s, 0, mostVolume);
+    if (const auto& fault = fields.fault())
+        return makeError<import_errors::quoteField>(fault->field, jsonFault(*fault));
     return StoreItem(std::move(quote));
 }
 

@@ -14,13 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isXmlType(QStringView type) {
-    return type == "xhtml"_L1 || type.endsWith("xml"_L1);
-}
-
 // A media type that is neither text nor XML says that the content is base64.
 bool isBinaryType(QStringView type) {
-    return type.contains(u'/') && !type.startsWith("text/"_L1) && !isXmlType(type);
+    return type.contains(u'/') && !type.startsWith("text/"_L1) && !type.endsWith("xml"_L1);
 }
 
 // The lines of text are indented as the XML around them is, which says nothing about paragraphs.

@@ -150,11 +150,8 @@ inline constexpr ErrorCode mappingFieldUnknown{"ERROR_IMPORT_MAPPING_FIELD_UNKNO
 inline constexpr ErrorCode mappingFieldUnusable{"ERROR_IMPORT_MAPPING_FIELD_UNUSABLE",
                                                 u"The mapping's “%1” cannot be used: %2"};
 inline constexpr ErrorCode mappingField{"ERROR_IMPORT_MAPPING_FIELD", u"The mapping's “%1” %2."};
-inline constexpr ErrorCode mustBeText{"ERROR_IMPORT_MUST_BE_TEXT", u"must be a text"};
 inline constexpr ErrorCode mustBeTexts{"ERROR_IMPORT_MUST_BE_TEXTS",
                                        u"must be a text or a list of texts, none of them empty"};
-inline constexpr ErrorCode mustBeNumber{"ERROR_IMPORT_MUST_BE_NUMBER", u"must be a number from %1 to %2"};
-inline constexpr ErrorCode mustBeObject{"ERROR_IMPORT_MUST_BE_OBJECT", u"must be an object"};
 inline constexpr ErrorCode mustHoldTexts{"ERROR_IMPORT_MUST_HOLD_TEXTS", u"must hold texts or numbers"};
 inline constexpr ErrorCode noZone{"ERROR_IMPORT_NO_ZONE",
                                   u"is neither an offset such as “+08:00” nor a zone that is known here"};
@@ -171,6 +168,21 @@ inline constexpr ErrorCode mustNameIdentity{"ERROR_IMPORT_MUST_NAME_IDENTITY",
                                             u"must name the columns that tell one item from another"};
 inline constexpr ErrorCode mustNameTitle{"ERROR_IMPORT_MUST_NAME_TITLE",
                                          u"must name a column, unless “story” does"};
+
+// Of the lines of a feed.
+inline constexpr ErrorCode itemField{"ERROR_IMPORT_ITEM_FIELD", u"“%1” of the item %2."};
+inline constexpr ErrorCode quoteField{"ERROR_IMPORT_QUOTE_FIELD", u"“%1” of the quote %2."};
+inline constexpr ErrorCode holdsNoSymbol{"ERROR_IMPORT_HOLDS_NO_SYMBOL",
+                                         u"has an entry that is no {market, code}"};
+
+// What is wrong with a field of a JSON object.
+inline constexpr ErrorCode isMissing{"ERROR_IMPORT_IS_MISSING", u"is missing"};
+inline constexpr ErrorCode mustBeText{"ERROR_IMPORT_MUST_BE_TEXT", u"must be a text"};
+inline constexpr ErrorCode mustBeAnyNumber{"ERROR_IMPORT_MUST_BE_ANY_NUMBER", u"must be a number"};
+inline constexpr ErrorCode mustBeNumber{"ERROR_IMPORT_MUST_BE_NUMBER", u"must be a number from %1 to %2"};
+inline constexpr ErrorCode mustBeTrueOrFalse{"ERROR_IMPORT_MUST_BE_TRUE_OR_FALSE", u"must be true or false"};
+inline constexpr ErrorCode mustBeList{"ERROR_IMPORT_MUST_BE_LIST", u"must be a list"};
+inline constexpr ErrorCode mustBeObject{"ERROR_IMPORT_MUST_BE_OBJECT", u"must be an object"};
 
 // What is wrong with JSON, in the words of its parser.
 inline constexpr ErrorCode jsonObjectWithoutEnd{"ERROR_IMPORT_JSON_OBJECT_WITHOUT_END",

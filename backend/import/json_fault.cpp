@@ -41,4 +41,24 @@ Phrase jsonFault(const QJsonParseError& problem) {
     return makeError<import_errors::jsonObjectWithoutEnd>();
 }
 
+Phrase jsonFault(const JsonFault& fault) {
+    switch (fault.must) {
+        case JsonMust::BeText:
+            return makeError<import_errors::mustBeText>();
+        case JsonMust::BeNumber:
+            return makeError<import_errors::mustBeAnyNumber>();
+        case JsonMust::BeWholeNumber:
+            return makeError<import_errors::mustBeNumber>(fault.least, fault.most);
+        case JsonMust::BeTrueOrFalse:
+            return makeError<import_errors::mustBeTrueOrFalse>();
+        case JsonMust::BeList:
+            return makeError<import_errors::mustBeList>();
+        case JsonMust::BeObject:
+            return makeError<import_errors::mustBeObject>();
+        case JsonMust::BeThere:
+            break;
+    }
+    return makeError<import_errors::isMissing>();
+}
+
 }  // namespace wirepane

@@ -19,23 +19,18 @@ namespace {
 
 constexpr qint64 largestFile = qint64(1) << 20;
 
-// Reads the values of one object of the file and remembers the first thing that is wrong.
+// The fields of one object of the file; all of them share the first fault.
 class MappingFields {
 public:
     MappingFields(const QJsonObject& object, QString place, std::optional<Error>& firstFault)
         : fields(object), where(std::move(place)), fault(firstFault) {}
 
-    QString text(QLatin1StringView name) {
-        const QJsonValue value = take(name);
-        if (!value.isUndefined() && !value.isString())
-            complain(name, makeError<import_errors::mustBeText>());
-        return value.toString();
-    }
+    QString text(QLatin1StringView name) { return checked(fields.optionalText(name)).value_or(QString()); }
 
     // A text, or a list of texts.
     QStringList texts(QLatin1StringView name) {
-        const QJsonValue value = take(name);
-        if (value.isUndefined())
+        const QJsonValue value = fields.value(name);
+        if (!fields.has(name))
             return {};
         QStringList found;
         for (const auto& entry : value.isArray() ? value.toArray() : QJsonArray{value}) {
@@ -47,38 +42,28 @@ public:
     }
 
     int number(QLatin1StringView name, int least, int most, int otherwise) {
-        const QJsonValue value = take(name);
-        if (value.isUndefined())
-            return otherwise;
-        const int found = value.toInt(most + 1);
-        if (found < least || found > most)
-            complain(name, makeError<import_errors::mustBeNumber>(least, most));
-        return found;
+        return static_cast<int>(checked(fields.optionalNumber(name, least, most)).value_or(otherwise));
     }
 
-    bool has(QLatin1StringView name) const { return fields.contains(name); }
-    QJsonValue value(QLatin1StringView name) const { return fields.value(name); }
+    bool has(QLatin1StringView name) const { return fields.has(name); }
+    QJsonValue value(QLatin1StringView name) { return fields.value(name); }
 
     MappingFields inner(QLatin1StringView name) {
-        const QJsonValue value = take(name);
-        if (!value.isUndefined() && !value.isObject())
-            complain(name, makeError<import_errors::mustBeObject>());
-        return {value.toObject(), where + name + u'.', fault};
+        return {checked(fields.optionalObject(name)).value_or(QJsonObject()), where + name + u'.', fault};
     }
 
     QMap<QString, QString> names(QLatin1StringView name) {
-        MappingFields entries = inner(name);
+        const QJsonObject entries = checked(fields.optionalObject(name)).value_or(QJsonObject());
         QMap<QString, QString> found;
-        for (const QString& key : entries.fields.keys()) {
-            const QJsonValue value = entries.fields.value(key);
-            if (!value.isString() && !value.isDouble())
+        for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+            if (!entry.value().isString() && !entry.value().isDouble())
                 complain(name, makeError<import_errors::mustHoldTexts>());
-            found.insert(key, value.toVariant().toString());
+            found.insert(entry.key(), entry.value().toVariant().toString());
         }
         return found;
     }
 
-    void complain(QLatin1StringView name, Error problem) {
+    void complain(const QString& name, Error problem) {
         if (!fault)
             fault = makeError<import_errors::mappingField>(where + name, std::move(problem));
     }
@@ -89,22 +74,23 @@ public:
 
     // A name that nobody asked for is a slip of the pen.
     void finish() {
-        for (const QString& key : fields.keys()) {
-            if (!asked.contains(key) && !fault)
-                fault = makeError<import_errors::mappingFieldUnknown>(where + key);
-        }
+        const QStringList unknown = fields.unknown();
+        if (!unknown.isEmpty() && !fault)
+            fault = makeError<import_errors::mappingFieldUnknown>(where + unknown.first());
     }
 
 private:
-    QJsonValue take(QLatin1StringView name) {
-        asked += name;
-        return fields.value(name);
+    // What was read, after a fault that it may have has been kept.
+    template <class Value>
+    Value checked(Value read) {
+        if (const auto& wrong = fields.fault())
+            complain(wrong->field, jsonFault(*wrong));
+        return read;
     }
 
-    QJsonObject fields;
+    JsonFields fields;
     QString where;
     std::optional<Error>& fault;
-    QStringList asked;
 };
 
 std::optional<TimeForm> readForm(MappingFields& fields, QLatin1StringView name) {

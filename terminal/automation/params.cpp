@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/automation/params.h"
 
+#include "backend/import/json_fault.h"
+
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -13,24 +15,7 @@ namespace {
 constexpr int largestSide = 8192;
 
 QString messageOf(const JsonFault& fault) {
-    const QString field = u"\"%1\" "_s.arg(fault.field);
-    switch (fault.must) {
-        case JsonMust::BeThere:
-            return field + u"is missing"_s;
-        case JsonMust::BeText:
-            return field + u"must be a text"_s;
-        case JsonMust::BeNumber:
-            return field + u"must be a number"_s;
-        case JsonMust::BeTrueOrFalse:
-            return field + u"must be true or false"_s;
-        case JsonMust::BeList:
-            return field + u"must be a list"_s;
-        case JsonMust::BeObject:
-            return field + u"must be an object"_s;
-        case JsonMust::BeWholeNumber:
-            break;
-    }
-    return field + u"must be a whole number from %1 to %2"_s.arg(fault.least).arg(fault.most);
+    return u"\"%1\" %2"_s.arg(fault.field, sentence(jsonFault(fault)));
 }
 
 }  // namespace

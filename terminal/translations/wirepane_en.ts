@@ -107,6 +107,10 @@
         <source></source>
         <translation>“guid” of the item</translation>
     </message>
+    <message id="ERROR_IMPORT_HOLDS_NO_SYMBOL">
+        <source></source>
+        <translation>has an entry that is no {market, code}</translation>
+    </message>
     <message id="ERROR_IMPORT_IDENTITY_OF_ENTRY">
         <source></source>
         <translation>entry's identity</translation>
@@ -118,6 +122,14 @@
     <message id="ERROR_IMPORT_IDENTITY_TOO_LONG">
         <source></source>
         <translation>The %1 is longer than %2 characters.</translation>
+    </message>
+    <message id="ERROR_IMPORT_IS_MISSING">
+        <source></source>
+        <translation>is missing</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_FIELD">
+        <source></source>
+        <translation>“%1” of the item %2.</translation>
     </message>
     <message id="ERROR_IMPORT_ITEM_TIME_UNREAD">
         <source></source>
@@ -247,6 +259,10 @@
         <source></source>
         <translation>The message holds no item.</translation>
     </message>
+    <message id="ERROR_IMPORT_MUST_BE_ANY_NUMBER">
+        <source></source>
+        <translation>must be a number</translation>
+    </message>
     <message id="ERROR_IMPORT_MUST_BE_CHARACTER">
         <source></source>
         <translation>must be one character</translation>
@@ -254,6 +270,10 @@
     <message id="ERROR_IMPORT_MUST_BE_LINES">
         <source></source>
         <translation>must be “wrapped”, “kept” or “numbered”</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_LIST">
+        <source></source>
+        <translation>must be a list</translation>
     </message>
     <message id="ERROR_IMPORT_MUST_BE_NUMBER">
         <source></source>
@@ -270,6 +290,10 @@
     <message id="ERROR_IMPORT_MUST_BE_TEXTS">
         <source></source>
         <translation>must be a text or a list of texts, none of them empty</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_TRUE_OR_FALSE">
+        <source></source>
+        <translation>must be true or false</translation>
     </message>
     <message id="ERROR_IMPORT_MUST_HOLD_TEXTS">
         <source></source>
@@ -350,6 +374,10 @@
     <message id="ERROR_IMPORT_PLAN_OF_COVERAGE">
         <source></source>
         <translation>a plan of coverage</translation>
+    </message>
+    <message id="ERROR_IMPORT_QUOTE_FIELD">
+        <source></source>
+        <translation>“%1” of the quote %2.</translation>
     </message>
     <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
         <source></source>

@@ -107,6 +107,10 @@
         <source></source>
         <translation>该项目的“guid”</translation>
     </message>
+    <message id="ERROR_IMPORT_HOLDS_NO_SYMBOL">
+        <source></source>
+        <translation>含有不是 {market, code} 的条目</translation>
+    </message>
     <message id="ERROR_IMPORT_IDENTITY_OF_ENTRY">
         <source></source>
         <translation>该条目的标识</translation>
@@ -118,6 +122,14 @@
     <message id="ERROR_IMPORT_IDENTITY_TOO_LONG">
         <source></source>
         <translation>%1超过 %2 个字符。</translation>
+    </message>
+    <message id="ERROR_IMPORT_IS_MISSING">
+        <source></source>
+        <translation>缺失</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_FIELD">
+        <source></source>
+        <translation>新闻项的“%1”%2。</translation>
     </message>
     <message id="ERROR_IMPORT_ITEM_TIME_UNREAD">
         <source></source>
@@ -247,6 +259,10 @@
         <source></source>
         <translation>消息中没有任何项目。</translation>
     </message>
+    <message id="ERROR_IMPORT_MUST_BE_ANY_NUMBER">
+        <source></source>
+        <translation>必须是数字</translation>
+    </message>
     <message id="ERROR_IMPORT_MUST_BE_CHARACTER">
         <source></source>
         <translation>必须是单个字符</translation>
@@ -254,6 +270,10 @@
     <message id="ERROR_IMPORT_MUST_BE_LINES">
         <source></source>
         <translation>必须是“wrapped”、“kept”或“numbered”</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_LIST">
+        <source></source>
+        <translation>必须是列表</translation>
     </message>
     <message id="ERROR_IMPORT_MUST_BE_NUMBER">
         <source></source>
@@ -270,6 +290,10 @@
     <message id="ERROR_IMPORT_MUST_BE_TEXTS">
         <source></source>
         <translation>必须是文本或文本列表，且不得为空</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_TRUE_OR_FALSE">
+        <source></source>
+        <translation>必须是 true 或 false</translation>
     </message>
     <message id="ERROR_IMPORT_MUST_HOLD_TEXTS">
         <source></source>
@@ -350,6 +374,10 @@
     <message id="ERROR_IMPORT_PLAN_OF_COVERAGE">
         <source></source>
         <translation>采访计划</translation>
+    </message>
+    <message id="ERROR_IMPORT_QUOTE_FIELD">
+        <source></source>
+        <translation>报价的“%1”%2。</translation>
     </message>
     <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
         <source></source>

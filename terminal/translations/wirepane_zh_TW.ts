@@ -107,6 +107,10 @@
         <source></source>
         <translation>此項目的「guid」</translation>
     </message>
+    <message id="ERROR_IMPORT_HOLDS_NO_SYMBOL">
+        <source></source>
+        <translation>含有不是 {market, code} 的項目</translation>
+    </message>
     <message id="ERROR_IMPORT_IDENTITY_OF_ENTRY">
         <source></source>
         <translation>此條目的識別碼</translation>
@@ -118,6 +122,14 @@
     <message id="ERROR_IMPORT_IDENTITY_TOO_LONG">
         <source></source>
         <translation>%1超過 %2 個字元。</translation>
+    </message>
+    <message id="ERROR_IMPORT_IS_MISSING">
+        <source></source>
+        <translation>缺少</translation>
+    </message>
+    <message id="ERROR_IMPORT_ITEM_FIELD">
+        <source></source>
+        <translation>新聞項目的「%1」%2。</translation>
     </message>
     <message id="ERROR_IMPORT_ITEM_TIME_UNREAD">
         <source></source>
@@ -247,6 +259,10 @@
         <source></source>
         <translation>訊息中沒有任何項目。</translation>
     </message>
+    <message id="ERROR_IMPORT_MUST_BE_ANY_NUMBER">
+        <source></source>
+        <translation>必須是數字</translation>
+    </message>
     <message id="ERROR_IMPORT_MUST_BE_CHARACTER">
         <source></source>
         <translation>必須是單一字元</translation>
@@ -254,6 +270,10 @@
     <message id="ERROR_IMPORT_MUST_BE_LINES">
         <source></source>
         <translation>必須是「wrapped」、「kept」或「numbered」</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_LIST">
+        <source></source>
+        <translation>必須是清單</translation>
     </message>
     <message id="ERROR_IMPORT_MUST_BE_NUMBER">
         <source></source>
@@ -270,6 +290,10 @@
     <message id="ERROR_IMPORT_MUST_BE_TEXTS">
         <source></source>
         <translation>必須是文字或文字清單，且不得為空</translation>
+    </message>
+    <message id="ERROR_IMPORT_MUST_BE_TRUE_OR_FALSE">
+        <source></source>
+        <translation>必須是 true 或 false</translation>
     </message>
     <message id="ERROR_IMPORT_MUST_HOLD_TEXTS">
         <source></source>
@@ -350,6 +374,10 @@
     <message id="ERROR_IMPORT_PLAN_OF_COVERAGE">
         <source></source>
         <translation>採訪計畫</translation>
+    </message>
+    <message id="ERROR_IMPORT_QUOTE_FIELD">
+        <source></source>
+        <translation>報價的「%1」%2。</translation>
     </message>
     <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
         <source></source>
