@@ -60,6 +60,10 @@ TEST(Feeds, ReadsEveryKind) {
             <published>2004-01-01T00:00:00Z</published><updated>2004-01-02T00:00:00Z</updated>
             <summary type="html">&lt;p&gt;One&lt;p&gt;Two</summary></entry></feed>)",
          u"http://x/1|a <b>|One@@@@Two|Label"},
+        // A type that is no text is base64, but for XML.
+        {R"(<feed xmlns="http://www.w3.org/2005/Atom"><updated>2004</updated><entry><id>tag:x</id>
+            <title type="application/xhtml+xml">Text</title><content type="image/x">VGV4dA==</content></entry></feed>)",
+         u"tag:x|Text|Text|"},
         // Where the format says that a value is markup, all of it is.
         {R"(<rss version="2.0" xmlns:content="http://purl.org/rss/1.0/modules/content/"><channel><item>
             <guid>urn:x:2</guid><title>T</title><pubDate>2004</pubDate>

@@ -148,6 +148,7 @@ TEST(Mapping, WhatIsNoTableIsRefused) {
         {"<html>\n<body>no</body></html>",
          u"The file is a page of markup, not a table: it starts with “<html> <body>no</body></html>”."_s},
         {"a,b\n1,2\n", u"The table has no column “日”, which the mapping names."_s},
+        {u"日,時,號\n1,2,3\n"_s.toUtf8(), u"The table has no column “主旨”, which the mapping names."_s},
     };
     for (const auto& [source, reason] : sources) {
         const auto out = readAll(source, with(announcements));
