@@ -8,9 +8,10 @@
 #include "host/contract/item_display.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/sc_combo_box.h"
-#include "host/controls/xt_tip_window.h"
 #include "news_view/control_ids.h"
-#include "story/quote_dlg_tip_msg.h"
+#include "news_view/list_tip.h"
+#include "news_view/searches.h"
+#include "news_view/standing_searches.h"
 #include "story/trv_news_story.h"
 
 #include <algorithm>
@@ -22,8 +23,6 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       controls(*this, backEnd),
       symbols(backEnd, controls),
       categories(backEnd),
-      searches(backEnd),
-      shortTip(new CXTTipWindow(this)),
       output(backEnd, outputDialogs, outputSurroundings()),
       board(noticeSurroundings(), noticeTellers()),
       menu(*this, [this](int command) { OnCommand(command); }),
@@ -31,13 +30,22 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       story(*this, backEnd, storySurroundings()),
       input(*this, inputSurroundings()),
       shortcuts(*this, shortcutSurroundings()),
-      dates(host_clock::today()) {
+      dates(host_clock::today()),
+      tip(std::make_unique<ListTip>(*this,
+                                    [this] {
+                                        return ListTip::Look{GetViewFont(), colText, colBackground};
+                                    })),
+      common{backEnd, *this, services, lists, controls, settings, switches, loading, breaks, *tip},
+      searches(std::make_unique<Searches>(context(), common)),
+      standingSearches(std::make_unique<StandingSearches>(
+          context(), common, searches->desk(),
+          StandingSearches::Calls{[this] { InitialHeadlineTable(static_cast<int>(ListIndex::Relation)); },
+                                  [this] { searches->send(); }})) {
     lists.vSetOnRead([this] { vPlaceNotices(); });
 }
 
 TRVNewsCtrlView::~TRVNewsCtrlView() {
     C_UnRegisterSymbol(this);
-    delete tip;
 }
 
 void TRVNewsCtrlView::GetCaption(QString& caption) {
@@ -110,7 +118,7 @@ void TRVNewsCtrlView::vRealUpdateView() {
 
 void TRVNewsCtrlView::OnTimer(int id) {
     if (id == ids::refreshTimer) {
-        vSearchForPushed();
+        searches->searchForPushed();
         vLearnCategories(false);
         vRealUpdateView();
         ChangeCurrViewCategoryState(settings.showCategory);
@@ -170,19 +178,20 @@ bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
             return true;
         }
         case ListIndex::Relation:
-            hasRows = lists.bRebuild(*index, TableKind::ByDate, DateKey(host_clock::today()), &tickedKeySets);
+            hasRows = lists.bRebuild(*index, TableKind::ByDate, DateKey(host_clock::today()),
+                                     &standingSearches->tickedKeySets());
             break;
         case ListIndex::Warrant:
             services.vSelect(static_cast<std::size_t>(services.iGetWarrantIndex()), true);
             NewsServices::RegisterService(*this, warrantService);
             if (!lists.bRebuildWarrant(PickedDateKey()))
-                vSetStatusText({});
+                setStatusText({});
             return true;
         case ListIndex::WarningTerm:
             break;
     }
     if (!hasRows)
-        vSetStatusText({});
+        setStatusText({});
     return hasRows;
 }
 

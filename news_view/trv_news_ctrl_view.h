@@ -11,6 +11,7 @@
 #include "host/views/news_module.h"
 #include "host/views/quote_base_view.h"
 #include "news_view/application_switches.h"
+#include "news_view/common_parts.h"
 #include "news_view/context_menu.h"
 #include "news_view/control_set.h"
 #include "news_view/list_input.h"
@@ -27,8 +28,6 @@
 #include "news_view/view_layout.h"
 #include "news_view/view_settings.h"
 #include "output/printable_story.h"
-#include "search/search_desk.h"
-#include "search/search_edit2.h"
 #include "story/story_owner.h"
 
 #include <QLatin1StringView>
@@ -36,6 +35,7 @@
 #include <QPointer>
 
 #include <array>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -43,8 +43,9 @@
 #include <tuple>
 #include <vector>
 
-class CQuoteDlgTipMsg;
-class CXTTipWindow;
+class ListTip;
+class Searches;
+class StandingSearches;
 
 // The news view that a terminal places in its frames. It owns the parts that do the work (services, lists,
 // controls, story stage, catalogues) and forwards to them; what it does itself is the order in which things
@@ -57,8 +58,7 @@ class TRVNewsCtrlView : public TRVQuoteBaseView,
                         public NewsViewAccess,
                         public StoryOwner,
                         private ListOwner,
-                        private ViewContext,
-                        private ShortTips {
+                        private ViewContext {
     Q_OBJECT
 
 public:
@@ -211,7 +211,7 @@ public:
     // Narrows a search to a symbol and sends it again, as far as the current mode has one.
     void vDoSearchChangeSymbol(const CSearch& condition, unsigned char market, const QString& symbolCode);
     // A short tip in the middle of a rectangle of the screen.
-    void vShowTip(const QRect& rectangle, const QString& text) override;
+    void vShowTip(const QRect& rectangle, const QString& text);
 
     // --- Stories and what the back end pushes ---
 
@@ -351,12 +351,8 @@ private:
     void vLearnCategories(bool hostSaysSo);
     void vLearnCategoryCombo();
     void vReloadForServices();
-    // While the relation-search list is current, every reloaded table is filtered by its key sets: hosts
-    // rely on it.
-    RelationFilter vRelationFilter() const;
     void vChangeNewsTable(ListIndex list, TableKind kind, const QString& key);
     bool bPaneShowsStories() const { return story.paneShowsStories(); }
-    void vClearStory() { story.clear(); }
     void vKeepShownStory(ListIndex list, const HeadlinePlace& place) { story.keepThrough(list, place); }
     IntakeState vIntakeState() const;
     bool vReplaceElsewhere(const PushedHeadline& pushed, const std::vector<IntakeTarget>& targets,
@@ -368,9 +364,7 @@ private:
     void vConnectDatePicker();
     void vRefuseDate(const QString& why);
     int EntryOfWarrants(const CMarketStatus& status) const;
-    // Shows a tip over the grid of a list for a second.
-    void vTipOver(ListIndex list, const QString& text) { vTipOver(list, text, shortTipTimeMs); }
-    void vTipOver(ListIndex list, const QString& text, int timeMs);
+    void vTipOver(ListIndex list, const QString& text);
     // What a tip says of a table without data: the status text, the separator, the key's text.
     struct NothingFound {
         QLatin1StringView key;
@@ -386,33 +380,12 @@ private:
     void vReadNowOrWhenShown(ListIndex list);
     // Reads a list anew; what the reader looks at stays where it is.
     void vReadAgain(ListIndex list);
-    template <class Rebuild>
-    bool bInPlace(ListIndex list, Rebuild rebuild) {
-        return story.readInPlace(list, rebuild);
-    }
-    void vTakeFoundAgain(ListIndex list, const TableRuns& found);
     // The status text with one more service that has no news.
     QString WithServiceName(const QString& name) const;
     bool bIsServiceSelected(unsigned char service) const;
     // The id of the chosen category; none: nothing is chosen.
     std::optional<QString> SelectedCategoryId() const;
 
-    // Searches.
-    static constexpr int shortTipTimeMs = 1000;
-    void vConnectSearchEdit();
-    QString cszSearchText() const;
-    void vTipAtSearchEdit(const QString& text);
-    bool bWaitTipIsUp() const;
-    void vShowFound(ListIndex list, bool selectFirst);
-    void vStopWaiting();
-    void vSearchForPushed();
-    void vSearchForSymbol(const CSymbolInfo& symbol);
-    void vSetTickedKeySets(const std::vector<CNewsKey>& ticked);
-    // What an empty list says: how the user fills it.
-    void vLoadHints();
-    // What the user must know of the current list though it has rows: empty most of the time.
-    QString StandingNotice() const;
-    void vUpdateSymbolPicker(const std::vector<CSymbolUpdateInfo>& updates);
     // Printing and saving.
     std::vector<CHeadlineTable> vSelectedEntries() const;
     OutputJobs::Surroundings outputSurroundings();
@@ -442,7 +415,6 @@ private:
     // What notices offer: the search of the mode for every symbol; the list without another list's filter.
     void OnEndNarrowing();
     void OnReadUnfiltered();
-    void vSetStatusText(const QString& text) { board.setStatus(text); }
     QColor TimeColour(std::int64_t time) const override;
     LayoutInput vLayoutInput() const;
     QString PickedDateKey() const;
@@ -459,14 +431,21 @@ private:
     void vSetGridColours();
 
     // What the owners of its parts see of the view.
+    ViewContext& context() { return *this; }
     ListIndex shownList() const override { return static_cast<ListIndex>(currentMode); }
     HeadlineList& listOf(ListIndex list) override { return lists[list]; }
     std::optional<CHeadlineTable> entryAt(ListIndex list, int row) const override;
     void showStory() override { OnShowStory(); }
+    void clearStory() override { story.clear(); }
+    bool paneShowsStories() const override { return story.paneShowsStories(); }
+    bool hasOpenStory() const override { return story.hasOpenStory(); }
     void forgetShownStory() override { story.forget(); }
     void refresh() override { vUpdateView(); }
-    void tipOver(ListIndex list, const QString& text, int timeMs) override { vTipOver(list, text, timeMs); }
-    void setStatusText(const QString& text) override { vSetStatusText(text); }
+    bool readInPlace(ListIndex list, const std::function<bool()>& read) override {
+        return story.readInPlace(list, read);
+    }
+    QString statusText() const override { return board.status(); }
+    void setStatusText(const QString& text) override { board.setStatus(text); }
     void placeNotices() override { vPlaceNotices(); }
 
     BKQuoteInterface& backEnd;
@@ -480,15 +459,10 @@ private:
     std::set<QString> categoriesMissed;       // by the combo since it was filled
     bool categoryMissed = false;              // one of them since the last refresh
     bool categoryComboIsBehind = false;       // it was open when there was something to learn
-    RelationMatcher tickedKeySets;            // built anew whenever they change
     ModeLoading loading;
     ApplicationSwitches switches;
     ViewSettings settings;
-    SearchDesk searches;
-    std::map<unsigned char, CHeadline> pushedToSearch;  // the newest of each service since the last refresh
     std::unique_ptr<QMenu> serviceMenu;
-    QPointer<CQuoteDlgTipMsg> tip;
-    CXTTipWindow* shortTip;
     OutputDialogs outputDialogs;
     OutputJobs output;
     NoticeBoard board;
@@ -502,7 +476,6 @@ private:
     using AskedTable = std::tuple<ListIndex, unsigned char, QString>;  // service, key
     std::set<AskedTable> askedTables;
 
-    QString waitTipText;  // of the search that was announced last, as it was shown
     DatePager dates;
     FeedBreaks breaks;
     int newsType = 0;
@@ -512,4 +485,9 @@ private:
     bool calendarOpen = false;
     bool laidOut = false;
     bool initialised = false;
+
+    const std::unique_ptr<ListTip> tip;
+    const CommonParts common;
+    const std::unique_ptr<Searches> searches;
+    const std::unique_ptr<StandingSearches> standingSearches;
 };

@@ -4,10 +4,12 @@
 
 #include "headline_list/list_index.h"
 
+#include <QString>
+
+#include <functional>
 #include <optional>
 
 class HeadlineList;
-class QString;
 struct CHeadlineTable;
 
 // What an owner of a part of the news view's work sees of the view. What only two owners share goes from one
@@ -25,16 +27,21 @@ public:
     // Shows the story of the shown list's focused row, unless the pane shows that row's already; without a
     // focused row the story goes.
     virtual void showStory() = 0;
+    virtual void clearStory() = 0;
+    virtual bool paneShowsStories() const = 0;
+    // Whether showStory opens no window: the pane is the place of stories, or their window is open.
+    virtual bool hasOpenStory() const = 0;
     // The pane shows no row's story any more: the next showStory shows one, whatever the row. For what
     // happens apart from a list's rows being replaced, which does it.
     virtual void forgetShownStory() = 0;
 
-    // Writes the visible rows and the notices' list state anew, a moment later.
+    // Writes the visible rows anew, a moment later.
     virtual void refresh() = 0;
-    // A tip over the grid of a list, in the place of the one before.
-    static constexpr int shortTipMs = 1000;
-    virtual void tipOver(ListIndex list, const QString& text, int timeMs = shortTipMs) = 0;
-    // What the view has to say about its lists, such as the services that have nothing; empty: nothing.
+    // `read` reads a list anew, and what the reader looks at stays where it is: the rows, and the pane's
+    // story. Its result: what `read` says.
+    virtual bool readInPlace(ListIndex list, const std::function<bool()>& read) = 0;
+    // What the view has to say about its lists, such as the services without news; empty: nothing.
+    virtual QString statusText() const = 0;
     virtual void setStatusText(const QString& text) = 0;
     // What the notices tell may have changed: they are asked for and placed anew.
     virtual void placeNotices() = 0;

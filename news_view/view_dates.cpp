@@ -7,9 +7,10 @@
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
+#include "news_view/list_tip.h"
+#include "news_view/standing_searches.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "story/news_story_view.h"
-#include "story/quote_dlg_tip_msg.h"
 
 #include <stdexcept>
 
@@ -62,7 +63,7 @@ bool TRVNewsCtrlView::bChangeDate(const QDate& date) {
     }
     if (lists.bRebuild(ListIndex::All, TableKind::ByDate, PickedDateKey()))
         return true;
-    vSetStatusText({});
+    setStatusText({});
     return false;
 }
 
@@ -72,13 +73,8 @@ void TRVNewsCtrlView::vRefuseDate(const QString& why) {
         picker->vSetDate(dates.Picked());
 }
 
-void TRVNewsCtrlView::vTipOver(ListIndex list, const QString& text, int timeMs) {
-    CSuperSheetWnd* sheet = List(list).pGetGrid();
-    if (tip == nullptr || sheet == nullptr)
-        return;
-    tip->vSetFont(GetViewFont());
-    tip->vSetInfo(nullptr, text, colText, colBackground, timeMs);
-    tip->vShow(sheet, 0, 0, false);
+void TRVNewsCtrlView::vTipOver(ListIndex list, const QString& text) {
+    tip->showOver(List(list).pGetGrid(), text);
 }
 
 // The user's own choice of services counts, also while the warrant mode has set it aside.
@@ -128,7 +124,7 @@ bool TRVNewsCtrlView::bChangeDateByNewHeadLine() {
     lists.bRebuildCurrent(ListIndex::All, services.Saved());
     if (List(ListIndex::Relation).pGetGrid() == nullptr)
         return false;
-    lists.bRebuildCurrent(ListIndex::Relation, services.Saved(), &tickedKeySets);
+    lists.bRebuildCurrent(ListIndex::Relation, services.Saved(), &standingSearches->tickedKeySets());
     return true;
 }
 

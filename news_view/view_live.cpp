@@ -5,6 +5,8 @@
 #include "host/contract/clock.h"
 #include "host/controls/s_date_time_ctrl.h"
 #include "news_view/control_ids.h"
+#include "news_view/searches.h"
+#include "news_view/standing_searches.h"
 #include "news_view/trv_news_ctrl_view.h"
 
 #include <algorithm>
@@ -18,7 +20,7 @@ IntakeState TRVNewsCtrlView::vIntakeState() const {
     state.pickedDate = dates.Picked();
     state.newsDay = dates.NewsDay();
     state.services = services.Saved();
-    state.relation = &tickedKeySets;
+    state.relation = &standingSearches->tickedKeySets();
     for (const ListKind& kind : listKinds) {
         const auto index = static_cast<std::size_t>(kind.index);
         state.exists[index] = lists[kind.index].pGetGrid() != nullptr;
@@ -47,8 +49,7 @@ void TRVNewsCtrlView::RecvNewHeadLine(const CHeadline* headline, const QString& 
         vKeepShownStory(target.list, List(target.list).vProcessNewHeadline(*headline, target.showDate));
     }
     vReplaceElsewhere(pushed, targets, state);
-    if (currentMode == static_cast<int>(ListIndex::WarningTerm))
-        pushedToSearch[headline->service] = *headline;
+    searches->notePushed(*headline);
     if (headline->service != warrantService && CategoryIndex(categoryId) < 0)
         categoryMissed |= categoriesMissed.insert(categoryId).second;
     vUpdateView();

@@ -64,7 +64,7 @@ void TRVNewsCtrlView::SwitchFunction(int mode) {
     if (lists.bHasMissed(*index) || unfiltered)
         vReadAgain(*index);
     if (bPaneShowsStories()) {
-        vClearStory();
+        clearStory();
         if (*index != ListIndex::Category)
             OnShowStory();
     }

@@ -5,6 +5,8 @@
 #include "host/controls/super_sheet_wnd.h"
 #include "news_view/control_ids.h"
 #include "news_view/notice_line.h"
+#include "news_view/searches.h"
+#include "news_view/standing_searches.h"
 #include "news_view/told_notices.h"
 #include "news_view/trv_news_ctrl_view.h"
 
@@ -24,19 +26,14 @@ std::vector<NoticeBoard::Teller> TRVNewsCtrlView::noticeTellers() {
         [this](ListNotices& notices) { notices.vTell(NoticeKind::Awaited, output.awaitedText()); },
         [this](ListNotices& notices) { tellOfBackEnd(notices, backEnd, breaks); },
         [this](ListNotices& notices) {
-            tellOfList(notices, backEnd, static_cast<ListIndex>(currentMode), lists, searches, breaks);
+            tellOfList(notices, backEnd, static_cast<ListIndex>(currentMode), lists, searches->desk(),
+                       breaks);
         },
-        [this](ListNotices& notices) { notices.vTell(NoticeKind::Hint, StandingNotice()); },
+        [this](ListNotices& notices) { standingSearches->tell(notices); },
     };
 }
 
 // --- What a notice offers ---
-
-void TRVNewsCtrlView::OnEndNarrowing() {
-    if (const auto list = ListOfNumber(currentMode))
-        searches.vEndNarrowing(*list);
-    OnDealsSearch();
-}
 
 void TRVNewsCtrlView::OnReadUnfiltered() {
     const auto list = ListOfNumber(currentMode);

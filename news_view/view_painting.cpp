@@ -5,6 +5,7 @@
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/sheet_scheme.h"
 #include "news_view/control_ids.h"
+#include "news_view/standing_searches.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
@@ -75,7 +76,7 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
         return;
     controls.vLoadLanguageString();
     shortcuts.loadToolTips();
-    vLoadHints();
+    standingSearches->loadHints();
     vLearnCategoryCombo();
     if (TRVNewsStory* dialog = stage.pGetDialog())
         dialog->vLoadLanguageString();

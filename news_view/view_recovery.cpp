@@ -4,6 +4,7 @@
 #include "headline_list/cell_texts.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/clock.h"
+#include "news_view/standing_searches.h"
 #include "news_view/trv_news_ctrl_view.h"
 
 #include <algorithm>
@@ -87,7 +88,8 @@ void TRVNewsCtrlView::vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo* in
             return lists.bRebuildWarrant(info->key);
         if (list == ListIndex::All)
             return lists.bRebuild(list, TableKind::ByDate, info->key);
-        return lists.bRebuild(list, TableKind::ByDate, DateKey(host_clock::today()), &tickedKeySets);
+        return lists.bRebuild(list, TableKind::ByDate, DateKey(host_clock::today()),
+                              &standingSearches->tickedKeySets());
     };
     const bool taken = bTakeTableAgain(*info, list, asked, rebuild, {keys::invalidDate, {}});
     if (taken && switches.showWarningSearch)
@@ -132,13 +134,13 @@ bool TRVNewsCtrlView::bTakeTableAgain(const CHeadlineTableInfo& info, ListIndex 
                                       Rebuild rebuild, const NothingFound& nothingFound) {
     if (List(list).pGetGrid() == nullptr)
         return false;
-    const bool hasRows = asked ? rebuild() : bInPlace(list, rebuild);
+    const bool hasRows = asked ? rebuild() : readInPlace(list, rebuild);
     if (hasRows || info.status >= 0)
         return true;
     QString name;
     backEnd.BKQNEWS_bGetShortNameByService(name, info.service);
     if (!board.status().contains(name))
-        vSetStatusText(WithServiceName(name));
+        setStatusText(WithServiceName(name));
     vTipOver(list, board.status() + nothingFound.separator + LangText(backEnd, nothingFound.key));
     return false;
 }
@@ -180,7 +182,7 @@ void TRVNewsCtrlView::vReadNowOrWhenShown(ListIndex list) {
 }
 
 void TRVNewsCtrlView::vReadAgain(ListIndex list) {
-    bInPlace(list, [&] {
+    readInPlace(list, [&] {
         switch (list) {
             case ListIndex::All:
                 return lists.bRebuild(list, TableKind::ByDate, PickedDateKey());
@@ -189,7 +191,8 @@ void TRVNewsCtrlView::vReadAgain(ListIndex list) {
             case ListIndex::Symbol:
                 return lists.bRebuildSymbol(SymbolOfList());
             case ListIndex::Relation:
-                return lists.bRebuild(list, TableKind::ByDate, DateKey(host_clock::today()), &tickedKeySets);
+                return lists.bRebuild(list, TableKind::ByDate, DateKey(host_clock::today()),
+                                      &standingSearches->tickedKeySets());
             case ListIndex::Warrant:
                 return lists.bRebuildWarrant(PickedDateKey());
             default:
@@ -198,12 +201,4 @@ void TRVNewsCtrlView::vReadAgain(ListIndex list) {
     });
 }
 
-void TRVNewsCtrlView::vTakeFoundAgain(ListIndex list, const TableRuns& found) {
-    bInPlace(list, [&] {
-        List(list).vSetTable(found);
-        List(list).vRefill();
-        return true;
-    });
-    if (List(list).Table().empty() && currentMode == static_cast<int>(list))
-        OnShowStory();
 }

@@ -6,6 +6,7 @@
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
 #include "news_view/control_ids.h"
+#include "news_view/standing_searches.h"
 #include "news_view/trv_news_ctrl_view.h"
 
 void TRVNewsCtrlView::OnSelectService() {
@@ -55,16 +56,12 @@ void TRVNewsCtrlView::vReloadForServices() {
         vRefreshCategoryCombo(combo != nullptr ? combo->currentText() : QString());
     }
     if (symbols.SelectedSymbol())
-        lists.bRebuildSymbol(symbols.Current(), vRelationFilter());
+        lists.bRebuildSymbol(symbols.Current(), standingSearches->filterOfShownList());
     vChangeNewsTable(ListIndex::Relation, TableKind::ByDate, DateKey(host_clock::today()));
     if (currentMode == static_cast<int>(ListIndex::Search) && Sheet(currentMode) != nullptr)
         OnSearch();
 }
 
 void TRVNewsCtrlView::vChangeNewsTable(ListIndex list, TableKind kind, const QString& key) {
-    lists.bRebuild(list, kind, key, vRelationFilter());
-}
-
-RelationFilter TRVNewsCtrlView::vRelationFilter() const {
-    return currentMode == static_cast<int>(ListIndex::Relation) ? &tickedKeySets : nullptr;
+    lists.bRebuild(list, kind, key, standingSearches->filterOfShownList());
 }

@@ -11,10 +11,11 @@
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
+#include "news_view/searches.h"
+#include "news_view/standing_searches.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
-#include "story/quote_dlg_tip_msg.h"
 #include "story/trv_news_story.h"
 
 namespace {
@@ -37,9 +38,6 @@ void TRVNewsCtrlView::OnInitialUpdate() {
     GetConfigFromIni();
     services.vLoad(backEnd);
     vFillServiceMenu();
-    tip = new CQuoteDlgTipMsg(this);
-    tip->CreateByID(nullptr);
-    tip->vSetFont(GetViewFont());
 }
 
 void TRVNewsCtrlView::GetConfigFromIni() {
@@ -76,14 +74,14 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     }
     controls.vCreateNotices();
     services.vInitialNewsService(*reader, settingsPath, *this);
-    searches.vRestore(SearchMemory::read(*reader, settingsPath));
+    searches->desk().vRestore(SearchMemory::read(*reader, settingsPath));
     bInitialTransferCatObject();
     bInitialTransferWarrantCatObject();
     vViewCreate();
     story.setShowType(stage.pGetPane() != nullptr ? settings.newsShowType : 0);
     controls.vLoadLanguageString();
     shortcuts.loadToolTips();
-    vLoadHints();
+    standingSearches->loadHints();
     shortcuts.create();
     vChangeCast();
     vSetComponentPos();
@@ -205,7 +203,7 @@ void TRVNewsCtrlView::vCreateMode(ListIndex mode, const QRect& gridArea, const Q
     else
         controls.CreateControls(mode, row, GetViewFont());
     if (mode == ListIndex::Search)
-        vConnectSearchEdit();
+        searches->connectEdit();
     if (mode == ListIndex::Category)
         connect(controls.Find<SCComboBox>(ids::categoryCombo), &SCComboBox::CloseUp, this, [this] {
             if (categoryComboIsBehind)
@@ -250,5 +248,5 @@ void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, in
         settings.quoteSorting = quotes->GetTable().sorting();
     settings.write(*writer, path);
     services.vSave(*writer, path);
-    searches.memory.write(*writer, path);
+    searches->desk().memory.write(*writer, path);
 }

@@ -3,12 +3,12 @@
 // What the news view lets the host's scripts look at.
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/window_id.h"
-#include "host/controls/xt_tip_window.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
+#include "news_view/list_tip.h"
+#include "news_view/searches.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "story/news_story_view.h"
-#include "story/quote_dlg_tip_msg.h"
 #include "story/story_ids.h"
 #include "story/trv_news_story.h"
 
@@ -25,15 +25,6 @@ int dateNumber(const QDate& date) {
 
 QVariantList rectangle(const QRect& rect) {
     return {rect.x(), rect.y(), rect.width(), rect.height()};
-}
-
-QVariantMap tipState(const CQuoteDlgTipMsg* tip, const QWidget& view) {
-    if (tip == nullptr)
-        return {};
-    const QRect place(tip->mapTo(&view, QPoint(0, 0)), tip->size());
-    return {{QStringLiteral("visible"), tip->isVisibleTo(&view)},
-            {QStringLiteral("text"), tip->cszGetText()},
-            {QStringLiteral("rect"), rectangle(place)}};
 }
 
 // What pane and dialog have in common: a title and a story by the same numbers.
@@ -129,9 +120,8 @@ QVariantMap TRVNewsCtrlView::State() const {
             {QStringLiteral("symbol"), QVariantMap{{QStringLiteral("service"), symbols.Current().market},
                                                    {QStringLiteral("code"), symbols.Current().code}}},
             {QStringLiteral("tabs"), tabs},
-            {QStringLiteral("tip"), tipState(tip, *this)},
-            {QStringLiteral("shortTip"), QVariantMap{{QStringLiteral("visible"), shortTip->isVisible()},
-                                                     {QStringLiteral("text"), shortTip->text()}}},
+            {QStringLiteral("tip"), tip->state()},
+            {QStringLiteral("shortTip"), searches->shortTipState()},
             {QStringLiteral("quotes"), vQuoteState()},
             {QStringLiteral("services"), serviceStates}};
 }

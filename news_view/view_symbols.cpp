@@ -7,6 +7,7 @@
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
 #include "news_view/control_ids.h"
+#include "news_view/searches.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/news_relate_symbol_quote_view.h"
 
@@ -88,7 +89,7 @@ void TRVNewsCtrlView::ChangeSymbol(const QWidget* sender, unsigned char group, u
     vSetBaseSymbol(backEnd.bIsSymbolIDExist(service, code) == 1 ? CSymbolInfo{service, code} : CSymbolInfo{});
     symbols.vSetCurrent({service, code});
     const bool isListed = vDoNormalChangeSymbol(service, code);
-    vSearchForSymbol({service, code});
+    searches->followSymbol({service, code});
     if ((settings.functions & symbolNewsMask) != 0)
         vFollowSymbol(service, code, isListed);
     if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
@@ -145,7 +146,7 @@ bool TRVNewsCtrlView::vOnChangeSymbolCombobox() {
 }
 
 void TRVNewsCtrlView::GetSymbolNews(const QString&) {
-    vClearStory();
+    clearStory();
     lists.bRebuildSymbol(symbols.Current());
     // The reader of another list reads on.
     if (currentMode != symbolMode && bPaneShowsStories())
@@ -189,7 +190,7 @@ void TRVNewsCtrlView::OnSelchangeComboService() {
 void TRVNewsCtrlView::vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) {
     if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
         quotes->vDoSymbolUpdate(updates);
-    vUpdateSymbolPicker(updates);
+    searches->updateSymbolPicker(updates);
     if (loading.bHasSymbolInformation() &&
         std::any_of(updates.begin(), updates.end(), [this](const CSymbolUpdateInfo& update) {
             return symbols.bLacksMarket(update.service) && symbols.IsSupportNews(update.service, update.code);

@@ -37,9 +37,9 @@ CSearch quick(const QString& word) {
     return search;
 }
 
-class Searches : public NewsViewTest {
+class SearchesOfTheView : public NewsViewTest {
 protected:
-    Searches() {
+    SearchesOfTheView() {
         backEnd.texts[u"IDS_NEWSCTRLVIEW_NOTICE_NARROWED"_s] = u"only %1"_s;
         addNews(1, 9, 0, 1);
         addNews(2, 9, 10, 1);
@@ -123,7 +123,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Searches, TheQuickSearchAsksTheTickedServicesAndShowsWhatIsThere) {
+TEST_F(SearchesOfTheView, TheQuickSearchAsksTheTickedServicesAndShowsWhatIsThere) {
     backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
     backEnd.searchTables[2] = {entryOf(2, 9, 10, 1)};
     backEnd.searchTables[22] = {entryOf(22, 9, 5, 4)};
@@ -148,7 +148,7 @@ TEST_F(Searches, TheQuickSearchAsksTheTickedServicesAndShowsWhatIsThere) {
     EXPECT_EQ(pending(), QList<int>());
 }
 
-TEST_F(Searches, NothingFoundIsToldWithTheLastAnswer) {
+TEST_F(SearchesOfTheView, NothingFoundIsToldWithTheLastAnswer) {
     openSearch();
     quickSearch(u"nothing"_s);
     EXPECT_EQ(titles(3), QStringList());
@@ -160,7 +160,7 @@ TEST_F(Searches, NothingFoundIsToldWithTheLastAnswer) {
     EXPECT_EQ(tip(), notFound);
 }
 
-TEST_F(Searches, QuickSearchesThatCannotBeSentAreRefused) {
+TEST_F(SearchesOfTheView, QuickSearchesThatCannotBeSentAreRefused) {
     openSearch();
     for (const QString& text : {QString(), u"   "_s}) {
         EXPECT_EQ(boxesOver([&] { quickSearch(text); }), QStringList());
@@ -173,7 +173,7 @@ TEST_F(Searches, QuickSearchesThatCannotBeSentAreRefused) {
     EXPECT_EQ(sent().size(), 2) << "capitals alone are refused";
 }
 
-TEST_F(Searches, WithoutAServiceTheLastSearchIsSentWhateverIsInTheBox) {
+TEST_F(SearchesOfTheView, WithoutAServiceTheLastSearchIsSentWhateverIsInTheBox) {
     backEnd.services.clear();
     openSearch();
     runDialog([](CAdvSearchDlg& dialog) {
@@ -184,7 +184,7 @@ TEST_F(Searches, WithoutAServiceTheLastSearchIsSentWhateverIsInTheBox) {
     EXPECT_EQ(tip(), searching + u" gold"_s);
 }
 
-TEST_F(Searches, AnAnswerToTheSecondSearchHasATableOfItsOwn) {
+TEST_F(SearchesOfTheView, AnAnswerToTheSecondSearchHasATableOfItsOwn) {
     writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
     openSearch({{u"WarningSearchItems"_s, QStringList{quick(u"tin"_s).GetString()}},
                 {u"WarningSearchItemOrder"_s, 1}});
@@ -198,7 +198,7 @@ TEST_F(Searches, AnAnswerToTheSecondSearchHasATableOfItsOwn) {
     EXPECT_EQ(pending(), (QList<int>{1, 2})) << "and nothing else";
 }
 
-TEST_F(Searches, TwoKeywordsAreSentWithAMethodWhichIsKept) {
+TEST_F(SearchesOfTheView, TwoKeywordsAreSentWithAMethodWhichIsKept) {
     CSearch one = quick(u"gold"_s);
     one.method = 0;
     CSearch two = one;
@@ -218,7 +218,7 @@ TEST_F(Searches, TwoKeywordsAreSentWithAMethodWhichIsKept) {
     EXPECT_EQ(view->Sheet(6)->cptGetFocusNdx().y(), 0);
 }
 
-TEST_F(Searches, TheWaitTipComesWithAnotherTextInTheBoxAndNamesTheSearchThatIsSent) {
+TEST_F(SearchesOfTheView, TheWaitTipComesWithAnotherTextInTheBoxAndNamesTheSearchThatIsSent) {
     openSearch();
     const auto search = [this](const QString& keyword) {
         runDialog([&](CAdvSearchDlg& dialog) {
@@ -249,7 +249,7 @@ TEST_F(Searches, TheWaitTipComesWithAnotherTextInTheBoxAndNamesTheSearchThatIsSe
     EXPECT_EQ(pending(), (QList<int>{1, 2}));
 }
 
-TEST_F(Searches, OnlySearchModesSend) {
+TEST_F(SearchesOfTheView, OnlySearchModesSend) {
     openSearch();
     quickSearch(u"gold"_s);
     sent();
@@ -261,7 +261,7 @@ TEST_F(Searches, OnlySearchModesSend) {
     EXPECT_EQ(sent().size(), 2);
 }
 
-TEST_F(Searches, AChangeOfServicesSearchesAgain) {
+TEST_F(SearchesOfTheView, AChangeOfServicesSearchesAgain) {
     openSearch();
     quickSearch(u"gold"_s);
     sent();
@@ -270,7 +270,7 @@ TEST_F(Searches, AChangeOfServicesSearchesAgain) {
               (QStringList{u"search 1 3 0/1 gold"_s, u"search 2 3 0/1 gold"_s, u"search 16 3 0/1 gold"_s}));
 }
 
-TEST_F(Searches, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
+TEST_F(SearchesOfTheView, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
     openSearch();
     auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit));
     edit->setFocus();
@@ -311,7 +311,7 @@ TEST_F(Searches, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
     EXPECT_EQ(view->focusWidget(), view->pGetCurrSheetView()) << "to go through what is found";
 }
 
-TEST_F(Searches, TheStoryOfAResultHasItsKeywordsMarked) {
+TEST_F(SearchesOfTheView, TheStoryOfAResultHasItsKeywordsMarked) {
     const CHeadlineTable found = entryOf(1, 9, 0, 1);
     backEnd.addStory({found.time, u"All that glitters is gold."_s, found});
     backEnd.searchTables[1] = {found};
@@ -324,7 +324,7 @@ TEST_F(Searches, TheStoryOfAResultHasItsKeywordsMarked) {
     EXPECT_EQ(story().szGetText(), QString()) << "nothing was found";
 }
 
-TEST_F(Searches, AnAnswerOpensNoWindowOfAStory) {
+TEST_F(SearchesOfTheView, AnAnswerOpensNoWindowOfAStory) {
     openSearch({{u"NewsShowType"_s, 0}});
     quickSearch(u"gold"_s);
     backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
@@ -337,7 +337,7 @@ TEST_F(Searches, AnAnswerOpensNoWindowOfAStory) {
     EXPECT_TRUE(view->StoryState(true)[u"title"_s].toString().endsWith(u"s2 9:10"_s)) << "as the rows do";
 }
 
-TEST_F(Searches, ASymbolOfALinkedViewNarrowsTheSearch) {
+TEST_F(SearchesOfTheView, ASymbolOfALinkedViewNarrowsTheSearch) {
     openSearch();
     view->ChangeSymbol(view.get(), 0, 16, u"2330"_s, {});
     EXPECT_EQ(sent(), QStringList()) << "nothing was searched for";
@@ -352,7 +352,7 @@ TEST_F(Searches, ASymbolOfALinkedViewNarrowsTheSearch) {
     EXPECT_EQ(sent(), QStringList()) << "a future without a commodity";
 }
 
-TEST_F(Searches, WithWarningTermsAnswersGoToTheirListAndPushesAskAgain) {
+TEST_F(SearchesOfTheView, WithWarningTermsAnswersGoToTheirListAndPushesAskAgain) {
     writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
     backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
     openSearch();
@@ -382,7 +382,7 @@ TEST_F(Searches, WithWarningTermsAnswersGoToTheirListAndPushesAskAgain) {
     EXPECT_EQ(pushed(2, 1), QStringList{u"s1 9:00"_s}) << "the table is read anew";
 }
 
-TEST_F(Searches, RowsOfWarningTermsStayWhileAPushIsSearchedForWhereTheSettingsSaySo) {
+TEST_F(SearchesOfTheView, RowsOfWarningTermsStayWhileAPushIsSearchedForWhereTheSettingsSaySo) {
     writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
     openSearch({{u"KeepWarningRows"_s, true},
                 {u"WarningSearchItems"_s, QStringList{quick(u"gold"_s).GetString()}},

@@ -25,7 +25,7 @@ CSearch term(const QString& word, unsigned char scope = 0) {
     return search;
 }
 
-class StandingSearches : public NewsViewTest {
+class StandingSearchesOfTheView : public NewsViewTest {
 protected:
     void openWith(const QByteArray& switches, int mode, QMap<QString, QVariant> stored = {}) {
         writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\n" + switches);
@@ -67,7 +67,7 @@ protected:
 
 }  // namespace
 
-TEST_F(StandingSearches, OnlyWhatTickedKeySetsWantArrives) {
+TEST_F(StandingSearchesOfTheView, OnlyWhatTickedKeySetsWantArrives) {
     backEnd.add(1, localTime(2026, 3, 2, 9, 1), 1, u"Gold of the morning"_s, 1);
     backEnd.add(1, localTime(2026, 3, 2, 9, 2), 2, u"Tin of the morning"_s, 1);
     openWith("ShowNormalSearch=1\n", 4);
@@ -106,7 +106,7 @@ TEST_F(StandingSearches, OnlyWhatTickedKeySetsWantArrives) {
               (QStringList{u"GOLD"_s, u"RATE"_s, u"OIL"_s, u"NEVER"_s}));
 }
 
-TEST_F(StandingSearches, KeySetsSurviveARestartUnticked) {
+TEST_F(StandingSearchesOfTheView, KeySetsSurviveARestartUnticked) {
     addNews(1, 9, 0, 1);
     openWith("ShowNormalSearch=1\n", 4, {{keySetsKey, QStringList{u"C:1 T:-999 K:S1"_s}}});
     EXPECT_EQ(titles(4), QStringList());
@@ -117,7 +117,7 @@ TEST_F(StandingSearches, KeySetsSurviveARestartUnticked) {
     EXPECT_EQ(titles(4), QStringList{u"s1 9:00"_s});
 }
 
-TEST_F(StandingSearches, TheChosenWarningTermIsSentAndSurvivesARestart) {
+TEST_F(StandingSearchesOfTheView, TheChosenWarningTermIsSentAndSurvivesARestart) {
     const QStringList kept{term(u"gold"_s).GetString(), term(u"oil"_s, 2).GetString()};
     openWith("ShowWarningSearch=1\n", 6, {{u"WarningSearchItems"_s, kept}});
     EXPECT_EQ(hint(6), u"IDS_NEWSCTRLVIEW_HINT_NO_WARNING_TERM"_s);

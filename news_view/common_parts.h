@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class BKQuoteInterface;
+class ControlSet;
+class FeedBreaks;
+class HeadlineLists;
+class ListTip;
+class ModeLoading;
+class NewsServices;
+class QWidget;
+struct ApplicationSwitches;
+struct ViewSettings;
+
+// What several owners of the news view's work stand on, and none of them owns. All of it outlives them; an
+// owner includes of it what it uses.
+struct CommonParts {
+    BKQuoteInterface& backEnd;
+    QWidget& window;  // the view, for what needs a parent
+    NewsServices& services;
+    HeadlineLists& lists;
+    ControlSet& controls;
+    ViewSettings& settings;
+    const ApplicationSwitches& switches;
+    ModeLoading& loading;
+    FeedBreaks& breaks;
+    ListTip& tip;
+    const int& newsType;  // see NewsViewAccess::vSetNewsType
+};

@@ -1,0 +1,265 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/searches.h"
+
+#include "headline_list/feed_breaks.h"
+#include "headline_list/headline_list.h"
+#include "headline_list/language_keys.h"
+#include "headline_list/table_reading.h"
+#include "host/contract/clock.h"
+#include "host/contract/symbol_name.h"
+#include "host/controls/heap_dialog.h"
+#include "host/controls/registered_message.h"
+#include "host/controls/xt_tip_window.h"
+#include "news_view/application_switches.h"
+#include "news_view/control_ids.h"
+#include "news_view/control_set.h"
+#include "news_view/list_tip.h"
+#include "news_view/news_services.h"
+#include "news_view/view_context.h"
+#include "news_view/view_settings.h"
+#include "search/adv_search_dlg.h"
+#include "search/dialog_controls.h"
+#include "search/search_ids.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int waitTipTimeMs = 100000;
+constexpr int shortTipWindowMs = 2000;
+constexpr unsigned char futuresMarket = 1;
+constexpr unsigned char commodityMarket = 0x6D;
+
+}  // namespace
+
+Searches::Searches(ViewContext& viewContext, const CommonParts& commonParts)
+    : context(viewContext),
+      parts(commonParts),
+      conditions(parts.backEnd),
+      shortTip(new CXTTipWindow(&parts.window)) {}
+
+// --- The search box ---
+
+void Searches::connectEdit() {
+    auto* edit = parts.controls.Find<SearchEdit2>(ids::searchEdit);
+    edit->vSetOwner(this);
+    QObject::connect(edit, &SEdit::returnPressed, &parts.window, [this] { searchForText(); });
+}
+
+QString Searches::textOfEdit() const {
+    const auto* edit = parts.controls.Find<SEdit>(ids::searchEdit);
+    return edit != nullptr ? edit->text() : QString();
+}
+
+void Searches::searchForText() {
+    if (parts.services.iSelectedCount() == 0) {
+        send();
+        return;
+    }
+    const QString text = textOfEdit().trimmed();
+    if (text.isEmpty()) {
+        tipAtEdit(LangText(parts.backEnd, keys::invalidSearch));
+        return;
+    }
+    if (text.contains(u"AND"_s) || text.contains(u"OR"_s)) {
+        TellError(&parts.window, LangText(parts.backEnd, keys::reinput));
+        return;
+    }
+    conditions.vTakeQuickSearch(text, host_clock::now());
+    send();
+}
+
+void Searches::tipAtEdit(const QString& text) {
+    if (const auto* edit = parts.controls.Find<SEdit>(ids::searchEdit))
+        vShowTip({edit->mapToGlobal(QPoint(0, 0)), edit->size()}, text);
+}
+
+void Searches::vShowTip(const QRect& rectangle, const QString& text) {
+    shortTip->vShow(rectangle.topLeft() + QPoint(rectangle.width() / 2, rectangle.height() / 2), text,
+                    shortTipWindowMs);
+}
+
+QVariantMap Searches::shortTipState() const {
+    return {{u"visible"_s, shortTip->isVisible()}, {u"text"_s, shortTip->text()}};
+}
+
+// --- Sending ---
+
+void Searches::compose() {
+    SearchMemory& memory = conditions.memory;
+    HeapDialog dialog(new CAdvSearchDlg(conditions.edited, memory.keywordPool, memory.recent, &parts.window));
+    const bool accepted = dialog->DoModal() == search_ids::ok;
+    if (!dialog)
+        return;
+    dialog->vGetResult(conditions.edited, memory.keywordPool, memory.recent);
+    dialog.Delete();
+    // Nobody answers for a search that is not in force any more.
+    if (!accepted && !(conditions.ordinary == conditions.edited))
+        stopWaiting();
+    conditions.ordinary = conditions.edited;
+    context.placeNotices();
+    if (!accepted)
+        return;
+    send();
+    // To the list of what is found, wherever in the view the dialog was asked for.
+    CSuperSheetWnd* sheet = context.listOf(context.shownList()).pGetGrid();
+    if (sheet != nullptr && !conditions.ordinary.keywords.empty())
+        sheet->setFocus();
+}
+
+void Searches::send() {
+    const ListIndex shown = context.shownList();
+    HeadlineList& list = context.listOf(shown);
+    CSearch* condition = conditions.ConditionOf(shown);
+    if (condition == nullptr || list.pGetGrid() == nullptr)
+        return;
+    if (condition->keywords.empty()) {
+        tipAtEdit(LangText(parts.backEnd, keys::invalidSearch));
+        return;
+    }
+    SearchDesk::vCompleteMethod(*condition);
+    const bool awaited = conditions.bTakeSearchText(textOfEdit());
+    // A wait tip that is still up must not name a search that nobody waits for any more.
+    if (awaited || waitTipIsUp()) {
+        parts.tip.showOver(list.pGetGrid(), conditions.WaitText(*condition), waitTipTimeMs);
+        waitTipText = parts.tip.text();
+    }
+    conditions.vSend(shown, parts.services.vGetLive(), awaited, {host_clock::now(), parts.breaks.Ended()});
+    list.vSetTable(ReadTables(parts.backEnd, parts.services.Entries(), TableKind::Search, searchTableKey));
+    showFound(shown, false);
+}
+
+bool Searches::waitTipIsUp() const {
+    return parts.tip.isUp() && !waitTipText.isEmpty() && parts.tip.text() == waitTipText;
+}
+
+void Searches::stopWaiting() {
+    if (ForgetPending(parts.services.vGetLive()))
+        parts.tip.stop();
+}
+
+void Searches::endNarrowing() {
+    conditions.vEndNarrowing(context.shownList());
+    send();
+}
+
+// --- Results ---
+
+void Searches::showFound(ListIndex index, bool selectFirst) {
+    HeadlineList& list = context.listOf(index);
+    list.vRefill();
+    if (list.Table().empty())
+        context.setStatusText({});
+    else if (selectFirst)
+        list.pGetGrid()->vSetActiveSelection(0, -1);
+    // An answer opens no window; one that is open follows the rows. Without rows there is no story: that of
+    // a row that went would stand beside an empty list.
+    const bool isStoryAsked = !selectFirst || list.Table().empty() || context.hasOpenStory();
+    if (context.shownList() == index && isStoryAsked)
+        context.showStory();
+    context.placeNotices();
+}
+
+void Searches::takeAnswer(const CSearch& condition, unsigned char service) {
+    const auto kind = conditions.KindOfAnswer(condition);
+    if (!kind)
+        return;
+    const bool toWarningTerm = *kind == TableKind::Search && parts.switches.showWarningSearch;
+    const ListIndex target = toWarningTerm ? ListIndex::WarningTerm : ListIndex::Search;
+    HeadlineList& list = context.listOf(target);
+    if (list.pGetGrid() == nullptr)
+        return;
+    const TableRuns found = ReadEveryTable(parts.backEnd, parts.services.Entries(), *kind, searchTableKey);
+    if (*kind == TableKind::Search && !conditions.bTakeAnswerDue(condition, service)) {
+        context.readInPlace(target, [&] {
+            list.vSetTable(found);
+            list.vRefill();
+            return true;
+        });
+        if (list.Table().empty() && context.shownList() == target)
+            context.showStory();
+        return;
+    }
+    list.vSetTable(found);
+    const bool othersPending = *kind == TableKind::Search && TakeAnswer(parts.services.vGetLive(), service);
+    if (!othersPending)
+        parts.tip.stop();
+    showFound(target, true);
+    if (list.Table().empty() && !othersPending)
+        parts.tip.showOver(list.pGetGrid(), LangText(parts.backEnd, keys::newsNotFound));
+}
+
+// --- What changes results ---
+
+void Searches::notePushed(const CHeadline& headline) {
+    if (context.shownList() == ListIndex::WarningTerm)
+        pushed[headline.service] = headline;
+}
+
+void Searches::searchForPushed() {
+    const std::map<unsigned char, CHeadline> newest = std::exchange(pushed, {});
+    if (context.shownList() != ListIndex::WarningTerm || conditions.warningTerm.keywords.empty())
+        return;
+    for (const auto& [service, headline] : newest)
+        searchFor(conditions.warningTerm, ListIndex::WarningTerm, headline, searchTableKey);
+}
+
+void Searches::searchFor(CSearch& condition, ListIndex index, const CHeadline& headline, const QString& key) {
+    HeadlineList& list = context.listOf(index);
+    if (list.pGetGrid() == nullptr)
+        return;
+    SearchDesk::vCompleteMethod(condition);
+    conditions.vSent(condition, headline.service);
+    parts.backEnd.BKQNEWS_bSearchNews(headline.service, searchKind, condition);
+    // The answer brings the rows of all services.
+    if (parts.settings.options[ViewOption::KeepWarningRows])
+        return;
+    list.vSetTable(ReadServiceTable(parts.backEnd, headline.service, TableKind::Search, key));
+    list.vRefill();
+    const int row = list.Table().rowOfNumber(KeyOf(headline));
+    if (row >= 0 && list.Table().rowOf(KeyOf(headline)) < 0)
+        list.vInsertHeadline(row, headline, true);
+}
+
+void Searches::followSymbol(const CSymbolInfo& symbol) {
+    const ListIndex shown = context.shownList();
+    const CSearch condition = shown == ListIndex::Relation      ? conditions.second
+                              : shown == ListIndex::WarningTerm ? conditions.warningTerm
+                                                                : conditions.ordinary;
+    if (!condition.keywords.empty())
+        narrow(condition, symbol);
+}
+
+void Searches::updateSymbolPicker(const std::vector<CSymbolUpdateInfo>& updates) {
+    static const QEvent::Type treeUpdate = RegisterMessage(u"MSG_SYMBOLUPDATE_TREEDLG"_s);
+    auto* dialog = parts.window.findChild<KeywordEntryDlg*>();
+    if (dialog == nullptr || updates.empty())
+        return;
+    SendRegisteredMessage(dialog, treeUpdate,
+                          updates.size() == 1 ? reinterpret_cast<quintptr>(&updates.front()) : 0);
+}
+
+void Searches::narrow(const CSearch& condition, const CSymbolInfo& wanted) {
+    const ListIndex shown = context.shownList();
+    const bool warningTermsFollow = !parts.settings.options[ViewOption::WarningTermsStandFast];
+    if (shown == ListIndex::WarningTerm && !warningTermsFollow)
+        return;
+    CSymbolInfo symbol = wanted;
+    const bool isFuture = parts.backEnd.bIsFromTheSameAuthServiceID(futuresMarket, symbol.market) == 1 ||
+                          symbol.market == commodityMarket;
+    if (isFuture && !parts.backEnd.bGetCommodityIDBySymbolID(symbol.code, symbol.market, wanted.code))
+        return;
+    const bool hasSymbol = !condition.symbols.empty() && !condition.symbols.front().code.isEmpty();
+    if ((shown == ListIndex::WarningTerm && hasSymbol) ||
+        (shown != ListIndex::Search && shown != ListIndex::WarningTerm)) {
+        send();
+        return;
+    }
+    if (!SymbolName(parts.backEnd, symbol))
+        return;
+    conditions.vNarrow(condition, symbol, warningTermsFollow);
+    send();
+}

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "news_view/common_parts.h"
+#include "search/search_desk.h"
+#include "search/search_edit2.h"
+
+#include <QString>
+#include <QVariantMap>
+
+#include <map>
+#include <vector>
+
+class CXTTipWindow;
+class ViewContext;
+struct CHeadline;
+struct CSymbolUpdateInfo;
+
+// The searches that a view sends: from the search box, from the dialog, for a symbol, for what was pushed;
+// the tip while they wait, and what is found. Interface thread only.
+class Searches : private ShortTips {
+public:
+    Searches(ViewContext& context, const CommonParts& parts);
+
+    // Enter in the search box searches, and what it refuses is told in a short tip.
+    void connectEdit();
+    // Searches headlines for the text of the search box. An empty one is refused with a tip, one that holds
+    // "AND" or "OR" with a message box.
+    void searchForText();
+    // The user composes the search of the search mode; unless he cancels it is sent. What he changed stays in
+    // force in either case.
+    void compose();
+    // Sends the search of the shown list to the selected services and shows what is at hand for it. Nothing
+    // for lists without searches.
+    void send();
+    // What the search of the shown list is narrowed to counts no more; it is sent again.
+    void endNarrowing();
+
+    // A service has answered: the results of all services are shown anew.
+    void takeAnswer(const CSearch& condition, unsigned char service);
+
+    // A headline was pushed. The newest of each service is searched for at the next refresh, while the
+    // warning terms are shown.
+    void notePushed(const CHeadline& headline);
+    void searchForPushed();
+    // Searches a headline's service again and puts the headline in where its table has its number.
+    void searchFor(CSearch& condition, ListIndex list, const CHeadline& headline, const QString& key);
+
+    // Narrows a search to a symbol and sends it again, as far as the shown list has one.
+    void narrow(const CSearch& condition, const CSymbolInfo& symbol);
+    // The same for the search in force; until something has been searched for there is nothing to narrow.
+    void followSymbol(const CSymbolInfo& symbol);
+    // The open symbol picker of a search dialog takes over what has changed.
+    void updateSymbolPicker(const std::vector<CSymbolUpdateInfo>& updates);
+
+    SearchDesk& desk() { return conditions; }
+    const SearchDesk& desk() const { return conditions; }
+    void vShowTip(const QRect& rectangle, const QString& text) override;
+    // The short tip, for the host's scripts.
+    QVariantMap shortTipState() const;
+
+private:
+    QString textOfEdit() const;
+    void tipAtEdit(const QString& text);
+    bool waitTipIsUp() const;
+    void stopWaiting();
+    void showFound(ListIndex list, bool selectFirst);
+
+    ViewContext& context;
+    const CommonParts parts;
+    SearchDesk conditions;
+    std::map<unsigned char, CHeadline> pushed;  // the newest of each service since the last refresh
+    QString waitTipText;                        // of the search that was announced last, as it was shown
+    CXTTipWindow* shortTip;                     // belongs to the view's window
+};

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/standing_searches.h"
+
+#include "headline_list/headline_list.h"
+#include "headline_list/language_keys.h"
+#include "host/controls/heap_dialog.h"
+#include "news_view/list_notices.h"
+#include "news_view/news_services.h"
+#include "news_view/view_context.h"
+#include "news_view/view_settings.h"
+#include "search/news_key_search_dlg.h"
+#include "search/search_desk.h"
+#include "search/search_ids.h"
+#include "search/warn_term_dlg.h"
+
+#include <QKeySequence>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// As the user reads it: longer ones would fill the list.
+QString keywordsOf(const CSearch& condition) {
+    constexpr qsizetype longest = 200;
+    const QString text = QStringList(condition.keywords.begin(), condition.keywords.end()).join(u", "_s);
+    return text.size() > longest ? text.left(longest) + u'…' : text;
+}
+
+QString nativeKey(const QString& portable) {
+    return QKeySequence(portable).toString(QKeySequence::NativeText);
+}
+
+// "%1" is the key that opens the dialog of the shown list.
+QString hintOf(QString text, const QString& second = {}) {
+    return text.replace(u"%1"_s, nativeKey(u"Shift+F3"_s)).replace(u"%2"_s, second);
+}
+
+}  // namespace
+
+StandingSearches::StandingSearches(ViewContext& viewContext, const CommonParts& commonParts,
+                                   SearchDesk& searchDesk, Calls given)
+    : context(viewContext), parts(commonParts), desk(searchDesk), calls(std::move(given)) {}
+
+// --- Key sets ---
+
+void StandingSearches::composeKeySets() {
+    setTicked({});
+    HeapDialog dialog(new CNewsKeySearchDlg(desk.memory.keywordPool,
+                                            NewsTypesOf(parts.backEnd, parts.services.Entries()),
+                                            desk.memory.keySets, &parts.window));
+    if (parts.settings.options[ViewOption::KeySetsInAnyCase])
+        dialog->vTakeAnyCase();
+    const bool accepted = dialog->DoModal() == search_ids::ok;
+    if (!dialog)
+        return;
+    desk.memory.keywordPool = dialog->Pool();
+    if (accepted) {
+        desk.memory.keySets = dialog->KeySets();
+        setTicked(dialog->TickedKeySets());
+    }
+    dialog.Delete();
+    if (ticked.empty())
+        return;
+    calls.readRelationList();
+    if (context.shownList() == ListIndex::Relation)
+        context.showStory();
+}
+
+void StandingSearches::setTicked(const std::vector<CNewsKey>& keySets) {
+    const bool anyCase = parts.settings.options[ViewOption::KeySetsInAnyCase];
+    ticked =
+        RelationMatcher(keySets, anyCase ? RelationMatcher::Case::Any : RelationMatcher::Case::AsWritten);
+    loadHints();
+    context.placeNotices();
+}
+
+const RelationMatcher* StandingSearches::filterOfShownList() const {
+    return context.shownList() == ListIndex::Relation ? &ticked : nullptr;
+}
+
+// --- Warning terms ---
+
+void StandingSearches::manageWarningTerms() {
+    HeapDialog dialog(new CWarnTermDlg(desk.memory.warnings, desk.warningTerm, &parts.window));
+    const bool accepted = dialog->DoModal() == search_ids::ok;
+    if (!dialog)
+        return;
+    desk.memory.warnings = dialog->Items();
+    if (accepted)
+        desk.warningTerm = dialog->Chosen();
+    dialog.Delete();
+    desk.edited = desk.warningTerm;
+    loadHints();
+    context.placeNotices();
+    if (accepted)
+        calls.sendSearch();
+}
+
+// --- Hints ---
+
+void StandingSearches::loadHints() {
+    const auto hint = [this](QLatin1StringView textKey, const QString& second = {}) {
+        return hintOf(LangText(parts.backEnd, textKey), second);
+    };
+    const auto tellEmpty = [this](ListIndex list, const QString& text) {
+        if (CSuperSheetWnd* sheet = context.listOf(list).pGetGrid())
+            sheet->vSetEmptyText(text);
+    };
+    for (const ListIndex list : {ListIndex::All, ListIndex::Category, ListIndex::Symbol})
+        tellEmpty(list, LangText(parts.backEnd, keys::hintNoNews).replace(u"%1"_s, nativeKey(u"F5"_s)));
+    tellEmpty(ListIndex::Warrant, LangText(parts.backEnd, keys::hintNoWarrantNews));
+    tellEmpty(ListIndex::Search, hint(keys::hintSearch, nativeKey(u"F3"_s)));
+    tellEmpty(ListIndex::Relation, hint(ticked.empty() ? keys::hintNoKeySet : keys::hintNoMatch));
+    const bool chosen = !desk.warningTerm.keywords.empty();
+    tellEmpty(ListIndex::WarningTerm,
+              hint(chosen ? keys::hintWarningTerm : keys::hintNoWarningTerm, keywordsOf(desk.warningTerm)));
+}
+
+void StandingSearches::tell(ListNotices& notices) const {
+    const bool forsaken = context.shownList() == ListIndex::Relation && ticked.empty() &&
+                          !context.listOf(ListIndex::Relation).Table().empty();
+    if (forsaken)
+        notices.vTell(NoticeKind::Hint, hintOf(LangText(parts.backEnd, keys::hintNoKeySet)));
+}
