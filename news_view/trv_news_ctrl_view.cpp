@@ -8,10 +8,16 @@
 #include "host/contract/item_display.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/sc_combo_box.h"
+#include "news_view/category_mode.h"
 #include "news_view/control_ids.h"
+#include "news_view/days.h"
 #include "news_view/list_tip.h"
+#include "news_view/live_news.h"
 #include "news_view/searches.h"
+#include "news_view/sent_again.h"
+#include "news_view/service_menu.h"
 #include "news_view/standing_searches.h"
+#include "news_view/symbol_mode.h"
 #include "story/trv_news_story.h"
 
 #include <algorithm>
@@ -21,8 +27,6 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       backEnd(*BKQuoteInterface::GetBKInterface()),
       lists(backEnd, *this),
       controls(*this, backEnd),
-      symbols(backEnd, controls),
-      categories(backEnd),
       output(backEnd, outputDialogs, outputSurroundings()),
       board(noticeSurroundings(), noticeTellers()),
       menu(*this, [this](int command) { OnCommand(command); }),
@@ -30,17 +34,42 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
       story(*this, backEnd, storySurroundings()),
       input(*this, inputSurroundings()),
       shortcuts(*this, shortcutSurroundings()),
-      dates(host_clock::today()),
       tip(std::make_unique<ListTip>(*this,
                                     [this] {
                                         return ListTip::Look{GetViewFont(), colText, colBackground};
                                     })),
-      common{backEnd, *this, services, lists, controls, settings, switches, loading, breaks, *tip},
+      common{backEnd, *this, services, lists, controls, settings, switches, loading, breaks, *tip, newsType},
       searches(std::make_unique<Searches>(context(), common)),
       standingSearches(std::make_unique<StandingSearches>(
           context(), common, searches->desk(),
           StandingSearches::Calls{[this] { InitialHeadlineTable(static_cast<int>(ListIndex::Relation)); },
-                                  [this] { searches->send(); }})) {
+                                  [this] { searches->send(); }})),
+      days(std::make_unique<Days>(
+          context(), common,
+          Days::Calls{[this]() -> const RelationMatcher& { return standingSearches->tickedKeySets(); },
+                      [this](ListIndex list) { sentAgain->readAgain(list); },
+                      [this](ListIndex list) { sentAgain->readNowOrWhenShown(list); }})),
+      categories(std::make_unique<CategoryMode>(context(), common,
+                                                [this] { return standingSearches->filterOfShownList(); })),
+      symbolMode(std::make_unique<SymbolMode>(context(), common, symbolCalls())),
+      sentAgain(std::make_unique<SentAgain>(
+          context(), common,
+          SentAgain::Choices{
+              [this] { return days->pickedKey(); }, [this] { return categories->chosenId(); },
+              [this] { return symbolMode->current(); }, [this] { return symbolMode->listed(); },
+              [this]() -> const RelationMatcher& { return standingSearches->tickedKeySets(); }})),
+      serviceMenu(std::make_unique<ServiceMenu>(
+          context(), common,
+          ServiceMenu::Calls{[this](int command) { OnCommand(command); }, [this] { vReloadForServices(); }})),
+      liveNews(std::make_unique<LiveNews>(
+          context(), common,
+          LiveNews::Calls{
+              [this] { return intakeChoices(); },
+              [this](ListIndex list, const HeadlinePlace& place) { vKeepShownStory(list, place); },
+              [this](const CHeadline& headline, const QString& categoryId) {
+                  searches->notePushed(headline);
+                  categories->notePushed(headline, categoryId);
+              }})) {
     lists.vSetOnRead([this] { vPlaceNotices(); });
 }
 
@@ -119,9 +148,9 @@ void TRVNewsCtrlView::vRealUpdateView() {
 void TRVNewsCtrlView::OnTimer(int id) {
     if (id == ids::refreshTimer) {
         searches->searchForPushed();
-        vLearnCategories(false);
+        categories->learn(false);
         vRealUpdateView();
-        ChangeCurrViewCategoryState(settings.showCategory);
+        categories->showColumn();
         KillTimer(ids::refreshTimer);
     }
     TRVQuoteBaseView::OnTimer(id);
@@ -152,24 +181,13 @@ bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
     bool hasRows = true;
     switch (*index) {
         case ListIndex::All:
-            hasRows = lists.bRebuild(ListIndex::All, TableKind::ByDate, PickedDateKey());
+            hasRows = lists.bRebuild(ListIndex::All, TableKind::ByDate, days->pickedKey());
             break;
         case ListIndex::Category:
             List(*index).vRefill();
             return true;
-        case ListIndex::Symbol: {
-            const QString code = symbols.Current().code;
-            if (const int row = symbols.iSymbolIndex(code); row >= 0)
-                symbols.vSelectSymbol(row);
-            // A choice that is the symbol shown already is none to the combo, but the list is read all the
-            // same.
-            const auto chosen = symbols.SelectedSymbol();
-            if (symbolFromLink && chosen && chosen->code != code)
-                OnSelchangeComboSymbol();
-            else
-                GetSymbolNews(code);
-            return !code.isEmpty();
-        }
+        case ListIndex::Symbol:
+            return symbolMode->readFirst();
         case ListIndex::Search: {
             const bool warningTerms =
                 switches.showWarningSearch &&
@@ -184,7 +202,7 @@ bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
         case ListIndex::Warrant:
             services.vSelect(static_cast<std::size_t>(services.iGetWarrantIndex()), true);
             NewsServices::RegisterService(*this, warrantService);
-            if (!lists.bRebuildWarrant(PickedDateKey()))
+            if (!lists.bRebuildWarrant(days->pickedKey()))
                 setStatusText({});
             return true;
         case ListIndex::WarningTerm:

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/date_pager.h"
 #include "headline_list/feed_breaks.h"
 #include "headline_list/headline_lists.h"
-#include "headline_list/intake.h"
 #include "headline_list/list_owner.h"
 #include "host/contract/gone_headlines.h"
 #include "host/views/news_module.h"
@@ -16,14 +14,13 @@
 #include "news_view/control_set.h"
 #include "news_view/list_input.h"
 #include "news_view/mode_loading.h"
-#include "news_view/news_categories.h"
 #include "news_view/news_services.h"
 #include "news_view/notice_board.h"
 #include "news_view/output_jobs.h"
 #include "news_view/shortcuts.h"
 #include "news_view/story_display.h"
 #include "news_view/story_stage.h"
-#include "news_view/symbol_binding.h"
+#include "news_view/symbol_mode.h"
 #include "news_view/view_context.h"
 #include "news_view/view_layout.h"
 #include "news_view/view_settings.h"
@@ -43,8 +40,14 @@
 #include <tuple>
 #include <vector>
 
+class CategoryMode;
+class Days;
 class ListTip;
+class LiveNews;
+struct IntakeState;
 class Searches;
+class SentAgain;
+class ServiceMenu;
 class StandingSearches;
 
 // The news view that a terminal places in its frames. It owns the parts that do the work (services, lists,
@@ -274,7 +277,7 @@ public:
     // the id.
     QString cszTransferCatIDToCatName(int id) { return CategoryNameOf(0, id); }
     // For hosts: the id of exactly this name; -1 when there is none.
-    int GetCategoryIDbyName(const QString& name) { return categories.IdOf(0, name); }
+    int GetCategoryIDbyName(const QString& name);
     // For hosts: 1 and the colours of the category of this name; 0, and both unchanged, when there is none.
     int GetCategoryColor(const QString& name, QColor& text, QColor& background) {
         return CategoryColourOf(0, name, text, background);
@@ -310,11 +313,8 @@ protected:
 private:
     // Start-up.
     void GetConfigFromIni();
-    void vFillServiceMenu();
     void vTakeNewsType();
     void vCreateStoryPane();
-    void bInitialTransferCatObject();
-    void bInitialTransferWarrantCatObject();
     void vViewCreate();
     void vCreateMode(ListIndex mode, const QRect& gridArea, const QRect& row);
     bool bModeIsOffered(ListIndex mode) const;
@@ -327,64 +327,11 @@ private:
     // Modes.
     void vTakeServicesOver(ListIndex toLoad);
     void vLoadMode(ListIndex toLoad);
-    bool bInitialCategoryInfo();
-    int CategoryIndex(const QString& id) const;
-    void vRefreshCategoryCombo(const QString& name);
-    bool bInitialSymbolInfo();
-    // The symbol code that the symbol mode opens with, and the market that it was saved with.
-    QString StartCode() const;
-    unsigned char StartMarket(const QString& code) const;
-    void vOfferMarket();
-    void vSetNotSupported();
-    void vHideSymbolMode();
-    void vHideSymbolControls();
-    void vSetSupported();
-    void vFollowSymbol(unsigned char service, const QString& code, bool isListed);
-    // True when the symbol's news has been read.
-    bool vDoNormalChangeSymbol(unsigned char service, const QString& code);
-    void vOnChangeServiceCombobox(unsigned char service);
-    bool vOnChangeSymbolCombobox();
-    bool bServicesStandFast() const;
-    void vCheckServiceMenu();
-    std::vector<CategoryItem> CategoryItemsOfServices() const;
-    void vFillCategoryCombo();
-    void vLearnCategories(bool hostSaysSo);
-    void vLearnCategoryCombo();
     void vReloadForServices();
-    void vChangeNewsTable(ListIndex list, TableKind kind, const QString& key);
+    SymbolMode::Calls symbolCalls();
+    IntakeState intakeChoices() const;
     bool bPaneShowsStories() const { return story.paneShowsStories(); }
     void vKeepShownStory(ListIndex list, const HeadlinePlace& place) { story.keepThrough(list, place); }
-    IntakeState vIntakeState() const;
-    bool vReplaceElsewhere(const PushedHeadline& pushed, const std::vector<IntakeTarget>& targets,
-                           const IntakeState& state);
-    // Whether the view stands at a day: it has a date picker, or is all about the day's warrants.
-    bool bHasDay() const;
-
-    // Days and what is sent again.
-    void vConnectDatePicker();
-    void vRefuseDate(const QString& why);
-    int EntryOfWarrants(const CMarketStatus& status) const;
-    void vTipOver(ListIndex list, const QString& text);
-    // What a tip says of a table without data: the status text, the separator, the key's text.
-    struct NothingFound {
-        QLatin1StringView key;
-        QString separator;
-    };
-    // True when the list was read anew and the back end does not deny having data for it.
-    template <class Rebuild>
-    bool bTakeTableAgain(const CHeadlineTableInfo& info, ListIndex list, bool asked, Rebuild rebuild,
-                         const NothingFound& nothingFound);
-    bool bTakeAsked(ListIndex list, const CHeadlineTableInfo& info);
-    CSymbolInfo SymbolOfList() const;
-    void vTakeAnnouncedDate(const CHeadlineTableInfo& info);
-    void vReadNowOrWhenShown(ListIndex list);
-    // Reads a list anew; what the reader looks at stays where it is.
-    void vReadAgain(ListIndex list);
-    // The status text with one more service that has no news.
-    QString WithServiceName(const QString& name) const;
-    bool bIsServiceSelected(unsigned char service) const;
-    // The id of the chosen category; none: nothing is chosen.
-    std::optional<QString> SelectedCategoryId() const;
 
     // Printing and saving.
     std::vector<CHeadlineTable> vSelectedEntries() const;
@@ -417,7 +364,6 @@ private:
     void OnReadUnfiltered();
     QColor TimeColour(std::int64_t time) const override;
     LayoutInput vLayoutInput() const;
-    QString PickedDateKey() const;
     HeadlineList& List(ListIndex index) { return lists[index]; }
     HeadlineList* CurrentList();
     // The user's own choice, also while the warrant mode has set it aside: every list but the warrants' holds
@@ -426,7 +372,7 @@ private:
     QString CategoryNameOf(unsigned char service, int id) override;
     int CategoryColourOf(unsigned char service, const QString& name, QColor& text,
                          QColor& background) override;
-    void vCategoryStateAfterWriting() override { ChangeCurrViewCategoryState(settings.showCategory); }
+    void vCategoryStateAfterWriting() override;
     void vRowsReplaced(ListIndex list) override;
     void vSetGridColours();
 
@@ -452,17 +398,10 @@ private:
     NewsServices services;
     HeadlineLists lists;
     ControlSet controls;
-    SymbolBinding symbols;
     StoryStage stage;
-    NewsCategories categories;
-    std::vector<CategoryItem> categoryItems;  // in the order of the category combo
-    std::set<QString> categoriesMissed;       // by the combo since it was filled
-    bool categoryMissed = false;              // one of them since the last refresh
-    bool categoryComboIsBehind = false;       // it was open when there was something to learn
     ModeLoading loading;
     ApplicationSwitches switches;
     ViewSettings settings;
-    std::unique_ptr<QMenu> serviceMenu;
     OutputDialogs outputDialogs;
     OutputJobs output;
     NoticeBoard board;
@@ -472,17 +411,10 @@ private:
     ListInput input;
     Shortcuts shortcuts;
 
-    // Tables that this view has asked for again, by the list that shows them.
-    using AskedTable = std::tuple<ListIndex, unsigned char, QString>;  // service, key
-    std::set<AskedTable> askedTables;
-
-    DatePager dates;
     FeedBreaks breaks;
     int newsType = 0;
     int currentMode = 0;
     int lastClientWidth = 0;
-    bool symbolFromLink = false;  // the host asked for the news of the linked symbol
-    bool calendarOpen = false;
     bool laidOut = false;
     bool initialised = false;
 
@@ -490,4 +422,10 @@ private:
     const CommonParts common;
     const std::unique_ptr<Searches> searches;
     const std::unique_ptr<StandingSearches> standingSearches;
+    const std::unique_ptr<Days> days;
+    const std::unique_ptr<CategoryMode> categories;
+    const std::unique_ptr<SymbolMode> symbolMode;
+    const std::unique_ptr<SentAgain> sentAgain;
+    const std::unique_ptr<ServiceMenu> serviceMenu;
+    const std::unique_ptr<LiveNews> liveNews;
 };

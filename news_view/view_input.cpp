@@ -3,6 +3,7 @@
 // The keys, the mouse and the menu of the news view: what its parts for them are given, and the events that
 // they take.
 #include "host/controls/super_sheet_wnd.h"
+#include "news_view/category_mode.h"
 #include "news_view/trv_news_ctrl_view.h"
 
 #include <QContextMenuEvent>
@@ -60,7 +61,7 @@ bool TRVNewsCtrlView::OnLButtonUp(unsigned flags, const QPoint&) {
 void TRVNewsCtrlView::OnVScroll() {
     vRealUpdateView();
     vUpdateView();
-    ChangeCurrViewCategoryState(settings.showCategory);
+    categories->showColumn();
 }
 
 void TRVNewsCtrlView::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -6,19 +6,22 @@
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
+#include "news_view/category_mode.h"
 #include "news_view/control_ids.h"
+#include "news_view/sent_again.h"
+#include "news_view/service_menu.h"
+#include "news_view/symbol_mode.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
 
 #include <QStyle>
 
-namespace {
-constexpr int symbolMode = static_cast<int>(ListIndex::Symbol);
-}  // namespace
+namespace {}  // namespace
 
 int TRVNewsCtrlView::iGetFunctionID(int stored) const {
-    if (!ListOfNumber(stored) || (stored == symbolMode && bIsAuthService(stockExchangeService) != 1))
+    if (!ListOfNumber(stored) ||
+        (stored == static_cast<int>(ListIndex::Symbol) && bIsAuthService(stockExchangeService) != 1))
         return 0;
     return stored;
 }
@@ -62,7 +65,7 @@ void TRVNewsCtrlView::SwitchFunction(int mode) {
     const bool unfiltered =
         settings.options[ViewOption::RebuildFilteredLists] && lists.bHasOthersFilter(*index);
     if (lists.bHasMissed(*index) || unfiltered)
-        vReadAgain(*index);
+        sentAgain->readAgain(*index);
     if (bPaneShowsStories()) {
         clearStory();
         if (*index != ListIndex::Category)
@@ -74,7 +77,7 @@ void TRVNewsCtrlView::SwitchFunction(int mode) {
     if (toLoad == ListIndex::Warrant && List(toLoad).pGetGrid() == nullptr)
         return;
     vTakeServicesOver(toLoad);
-    vCheckServiceMenu();
+    serviceMenu->showTicks();
     vLoadMode(toLoad);
     vPlaceNotices();
     update();
@@ -101,13 +104,9 @@ void TRVNewsCtrlView::vTakeServicesOver(ListIndex toLoad) {
 void TRVNewsCtrlView::vLoadMode(ListIndex toLoad) {
     const bool allNewsEnabled = (settings.functions & ModeOf(ListIndex::All).maskBit) != 0;
     if (toLoad == ListIndex::Category && allNewsEnabled && loading.bTakeCategoryCatalogue())
-        bInitialCategoryInfo();
-    if (toLoad == ListIndex::Symbol && allNewsEnabled) {
-        if (loading.bTakeSymbolInformation())
-            bInitialSymbolInfo();
-        else if (!symbols.Current().code.isEmpty())
-            symbols.vShowCurrent();
-    }
+        categories->fillFirst();
+    if (toLoad == ListIndex::Symbol && allNewsEnabled)
+        symbolMode->offer();
     if (loading.bTakeLoad(toLoad))
         InitialHeadlineTable(static_cast<int>(toLoad));
     if (toLoad == ListIndex::Category)
@@ -123,12 +122,8 @@ void TRVNewsCtrlView::ShowHideCtrObject(int mode) {
         if (CSuperSheetWnd* sheet = Sheet(list))
             sheet->setVisible(list == mode);
     }
-    if (mode != symbolMode)
-        return;
-    if (GetDataState() == DataState::NotSupported)
-        vHideSymbolMode();
-    else if (Sheet(0) == nullptr)
-        vHideSymbolControls();
+    if (*index == ListIndex::Symbol)
+        symbolMode->hideWithoutUse();
 }
 
 void TRVNewsCtrlView::SetStoryShowType(unsigned short type) {

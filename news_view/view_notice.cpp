@@ -6,6 +6,7 @@
 #include "news_view/control_ids.h"
 #include "news_view/notice_line.h"
 #include "news_view/searches.h"
+#include "news_view/sent_again.h"
 #include "news_view/standing_searches.h"
 #include "news_view/told_notices.h"
 #include "news_view/trv_news_ctrl_view.h"
@@ -39,7 +40,7 @@ void TRVNewsCtrlView::OnReadUnfiltered() {
     const auto list = ListOfNumber(currentMode);
     if (!list || !lists.bHasOthersFilter(*list))
         return;
-    vReadAgain(*list);
+    sentAgain->readAgain(*list);
     OnShowStory();
 }
 

@@ -4,6 +4,7 @@
 #include "headline_list/language_keys.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/sheet_scheme.h"
+#include "news_view/category_mode.h"
 #include "news_view/control_ids.h"
 #include "news_view/standing_searches.h"
 #include "news_view/trv_news_ctrl_view.h"
@@ -77,7 +78,7 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     controls.vLoadLanguageString();
     shortcuts.loadToolTips();
     standingSearches->loadHints();
-    vLearnCategoryCombo();
+    categories->learnCombo();
     if (TRVNewsStory* dialog = stage.pGetDialog())
         dialog->vLoadLanguageString();
     for (int list = 0; list < listCount; ++list) {

@@ -10,9 +10,13 @@
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
+#include "news_view/category_mode.h"
 #include "news_view/control_ids.h"
+#include "news_view/days.h"
 #include "news_view/searches.h"
+#include "news_view/service_menu.h"
 #include "news_view/standing_searches.h"
+#include "news_view/symbol_mode.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
@@ -31,13 +35,14 @@ constexpr int tabStripHeight = 22;
 
 void TRVNewsCtrlView::OnInitialUpdate() {
     RequireInterfaceThread("TRVQuoteBaseView::OnInitialUpdate");
-    RequireOfHost(serviceMenu == nullptr, "TRVQuoteBaseView::OnInitialUpdate was called twice on one view.");
+    RequireOfHost(!serviceMenu->isFilled(),
+                  "TRVQuoteBaseView::OnInitialUpdate was called twice on one view.");
     TRVQuoteBaseView::OnInitialUpdate();
     if (backEnd.bIsConnect() != 1)
         vConnectionChanged(false);
     GetConfigFromIni();
     services.vLoad(backEnd);
-    vFillServiceMenu();
+    serviceMenu->fill();
 }
 
 void TRVNewsCtrlView::GetConfigFromIni() {
@@ -45,25 +50,9 @@ void TRVNewsCtrlView::GetConfigFromIni() {
         IniFile::load(backEnd.PathGetSysPath() + QStringLiteral("/Application.ini")));
 }
 
-void TRVNewsCtrlView::vFillServiceMenu() {
-    serviceMenu = std::make_unique<QMenu>();
-    int command = ids::firstServiceCommand;
-    for (const ServiceEntry& entry : services.Entries()) {
-        const int id = command++;
-        if (entry.service == warrantService || id > ids::lastServiceCommand)
-            continue;
-        QString name;
-        backEnd.BKQNEWS_bGetFullNameByService(name, entry.service);
-        QAction* action = serviceMenu->addAction(name.replace(u'&', QStringLiteral("&&")));
-        action->setCheckable(true);
-        action->setData(id);
-        connect(action, &QAction::triggered, this, [this, id] { OnCommand(id); });
-    }
-}
-
 void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
                                       const QString&) {
-    RequireOfHost(serviceMenu != nullptr,
+    RequireOfHost(serviceMenu->isFilled(),
                   "TRVQuoteBaseView::InitialViewInfo was called before OnInitialUpdate.");
     TRVQuoteBaseView::InitialViewInfo(reader, section, first, second, viewKey);
     vTakeNewsType();
@@ -75,8 +64,7 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     controls.vCreateNotices();
     services.vInitialNewsService(*reader, settingsPath, *this);
     searches->desk().vRestore(SearchMemory::read(*reader, settingsPath));
-    bInitialTransferCatObject();
-    bInitialTransferWarrantCatObject();
+    categories->loadNames();
     vViewCreate();
     story.setShowType(stage.pGetPane() != nullptr ? settings.newsShowType : 0);
     controls.vLoadLanguageString();
@@ -88,7 +76,7 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     vOpenFocusedTab();
     InitialNewsRelateQuoteView();
     shortcuts.setTabOrder();
-    ChangeCurrViewCategoryState(settings.showCategory);
+    categories->showColumn();
 }
 
 void TRVNewsCtrlView::vTakeNewsType() {
@@ -99,13 +87,9 @@ void TRVNewsCtrlView::vTakeNewsType() {
     const bool symbolNewsOnly = newsType == 1 || newsType == 2;
     settings = ViewSettings::read(*settingsReader, settingsPath,
                                   symbolNewsOnly ? static_cast<int>(ListIndex::Symbol) : 0);
-    symbolFromLink = CSyncInfo::GetSettingCFG()->SYS_bGetIsLinkNews();
-    symbols.vSetCurrent({StartMarket(StartCode()), {}});
-    if (symbolNewsOnly) {
+    symbolMode->start(CSyncInfo::GetSettingCFG()->SYS_bGetIsLinkNews(), symbolNewsOnly);
+    if (symbolNewsOnly)
         settings.functions = symbolNewsMask;
-        const QString code = CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(GetLinkGroup());
-        symbols.vSetCurrent({StartMarket(code), code});
-    }
 }
 
 void TRVNewsCtrlView::vCreateStoryPane() {
@@ -135,18 +119,6 @@ TRVQuoteBaseView* TRVNewsCtrlView::CreateView(const QMetaObject& runtimeClass, c
     view->vSetFrameId(iGetFrameId());
     view->OnInitialUpdate();
     return view;
-}
-
-void TRVNewsCtrlView::bInitialTransferCatObject() {
-    categories.bLoadFile();
-}
-
-void TRVNewsCtrlView::bInitialTransferWarrantCatObject() {
-    std::vector<unsigned char> ids;
-    for (const ServiceEntry& entry : services.Entries())
-        ids.push_back(entry.service);
-    categories.vSetServices(std::move(ids));
-    categories.vLoadWarrants();
 }
 
 void TRVNewsCtrlView::vViewCreate() {
@@ -196,8 +168,8 @@ void TRVNewsCtrlView::vCreateMode(ListIndex mode, const QRect& gridArea, const Q
     // The list of warrants alone is of a day, too, though nobody picks it.
     const bool onlyWarrants = mode == ListIndex::Warrant && IsSingleFunction(settings.functions);
     if (mode == ListIndex::All || onlyWarrants) {
-        controls.vCreateDatePicker(row, dates.Picked());
-        vConnectDatePicker();
+        controls.vCreateDatePicker(row, days->picked());
+        days->connectPicker();
     } else if (mode == ListIndex::Category)
         controls.vCreateCategoryCombo(QRect(row.x(), row.y(), 120, 200));
     else
@@ -205,10 +177,7 @@ void TRVNewsCtrlView::vCreateMode(ListIndex mode, const QRect& gridArea, const Q
     if (mode == ListIndex::Search)
         searches->connectEdit();
     if (mode == ListIndex::Category)
-        connect(controls.Find<SCComboBox>(ids::categoryCombo), &SCComboBox::CloseUp, this, [this] {
-            if (categoryComboIsBehind)
-                vLearnCategoryCombo();
-        });
+        categories->connectCombo();
 }
 
 void TRVNewsCtrlView::vInitialSheetWnd(ListIndex list, const QRect& rectangle) {
@@ -222,13 +191,14 @@ void TRVNewsCtrlView::vInitialSheetWnd(ListIndex list, const QRect& rectangle) {
 
 void TRVNewsCtrlView::vOpenFocusedTab() {
     CSyncInfo* sync = CSyncInfo::GetSettingCFG();
-    int mode = symbolFromLink ? static_cast<int>(ListIndex::Symbol) : iGetFunctionID(settings.focusedTab);
+    int mode =
+        symbolMode->isFromLink() ? static_cast<int>(ListIndex::Symbol) : iGetFunctionID(settings.focusedTab);
     CheckInitialView(mode);
     if (auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip))
         strip->SetCurSel(iGetTabIndex(mode));
     initialised = true;
     SwitchFunction(mode);
-    dates.vSetRange(backEnd.BKQbyGetNewsDateRange());
+    days->setRange(backEnd.BKQbyGetNewsDateRange());
     sync->SYS_vSetIsLinkNews(false);
 }
 
@@ -240,10 +210,7 @@ void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, in
                   "TRVQuoteBaseView::SaveViewInfo was given nowhere to write the settings to.");
     const ViewSettingPath path{section, first, second, viewKey};
     settings.newsShowType = GetStoryShowType();
-    if (!symbols.Current().code.isEmpty()) {
-        settings.symbolId = symbols.Current().code;
-        settings.symbolService = symbols.Current().market;
-    }
+    symbolMode->keep();
     if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
         settings.quoteSorting = quotes->GetTable().sorting();
     settings.write(*writer, path);

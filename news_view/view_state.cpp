@@ -5,8 +5,10 @@
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
+#include "news_view/days.h"
 #include "news_view/list_tip.h"
 #include "news_view/searches.h"
+#include "news_view/symbol_mode.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "story/news_story_view.h"
 #include "story/story_ids.h"
@@ -115,10 +117,10 @@ QVariantMap TRVNewsCtrlView::State() const {
             {QStringLiteral("notices"), noticeStates},
             {QStringLiteral("showCategory"), settings.showCategory},
             {QStringLiteral("storyRow"), story.shownRow()},
-            {QStringLiteral("pickedDate"), dateNumber(dates.Picked())},
-            {QStringLiteral("newsDay"), dateNumber(dates.NewsDay())},
-            {QStringLiteral("symbol"), QVariantMap{{QStringLiteral("service"), symbols.Current().market},
-                                                   {QStringLiteral("code"), symbols.Current().code}}},
+            {QStringLiteral("pickedDate"), dateNumber(days->picked())},
+            {QStringLiteral("newsDay"), dateNumber(days->newsDay())},
+            {QStringLiteral("symbol"), QVariantMap{{QStringLiteral("service"), symbolMode->current().market},
+                                                   {QStringLiteral("code"), symbolMode->current().code}}},
             {QStringLiteral("tabs"), tabs},
             {QStringLiteral("tip"), tip->state()},
             {QStringLiteral("shortTip"), searches->shortTipState()},

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Paging through days, and following the back end's news day.
+#include "headline_list/date_pager.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/window_id.h"

@@ -46,8 +46,15 @@ public:
     void showStory() override { calls.append(QStringLiteral("show story")); }
     void forgetShownStory() override { calls.append(QStringLiteral("forget story")); }
     void refresh() override { calls.append(QStringLiteral("refresh")); }
-    void tipOver(ListIndex, const QString& text, int) override { calls.append(text); }
-    void setStatusText(const QString& text) override { calls.append(text); }
+    void clearStory() override { calls.append(QStringLiteral("clear story")); }
+    bool paneShowsStories() const override { return hasPane; }
+    bool hasOpenStory() const override { return hasPane || hasStoryWindow; }
+    bool readInPlace(ListIndex, const std::function<bool()>& anew) override {
+        calls.append(QStringLiteral("read in place"));
+        return anew();
+    }
+    QString statusText() const override { return status; }
+    void setStatusText(const QString& text) override { status = text; }
     void placeNotices() override { calls.append(QStringLiteral("place notices")); }
 
     const std::vector<ServiceEntry>& vGetServices() const override { return services; }
@@ -77,6 +84,9 @@ public:
     QWidget window;
     ListIndex shown = ListIndex::All;
     QStringList calls;
+    QString status;
+    bool hasPane = true;
+    bool hasStoryWindow = false;
 
 private:
     std::vector<ServiceEntry> services{{1, true, 20260302, false}};

@@ -50,8 +50,10 @@ TEST(KeyRouting, FollowsModeFocusAndStory) {
     const KeyRoute toView{.consumed = true, .toView = true};
     for (const int newsType : {0, 1, 2, 3}) {
         const bool takes = newsType >= 2;
-        EXPECT_EQ(RouteKey(Qt::Key_A, {}, {ListIndex::Symbol, newsType, false, KeyboardFocus::Grid}), takes ? toView : left);
-        EXPECT_EQ(RouteKey(Qt::Key_A, {}, {ListIndex::Symbol, newsType, false, KeyboardFocus::Control}), left);
+        EXPECT_EQ(RouteKey(Qt::Key_A, {}, {ListIndex::Symbol, newsType, false, KeyboardFocus::Grid}),
+                  takes ? toView : left);
+        EXPECT_EQ(RouteKey(Qt::Key_A, {}, {ListIndex::Symbol, newsType, false, KeyboardFocus::Control}),
+                  left);
     }
 }
 

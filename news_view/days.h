@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "headline_list/date_pager.h"
+#include "news_view/common_parts.h"
+
+#include <QString>
+
+#include <functional>
+
+class RelationMatcher;
+class ViewContext;
+enum class ListIndex : int;
+
+// The days of a view: the date that the user picks, and the news day that the back end is in. Interface
+// thread only.
+class Days {
+public:
+    struct Calls {
+        std::function<const RelationMatcher&()> keySets;  // that filter the relation-search list
+        std::function<void(ListIndex)> readAgain;
+        std::function<void(ListIndex)> readNowOrWhenShown;
+    };
+    // Both days are today.
+    Days(ViewContext& context, const CommonParts& parts, Calls calls);
+
+    // Whether the view stands at a day: it has a date picker, or is all about the day's warrants.
+    bool hasDay() const;
+    const QDate& picked() const { return pager.Picked(); }
+    const QDate& newsDay() const { return pager.NewsDay(); }
+    // yyyymmdd; empty without a day.
+    QString pickedKey() const;
+    // How many days back may be picked.
+    void setRange(int days) { pager.vSetRange(days); }
+
+    // The date picker's signals. While its calendar is open the date is not picked yet.
+    void connectPicker();
+    void calendarOpened() { calendarIsOpen = true; }
+    void dateChanged(const QDate& date);
+    void calendarClosed();
+
+    // Picks the date of the all-news list. True when the list was read anew and has rows; false for the date
+    // in force, for a day out of range (a tip says so and the date picker goes back) and without the list.
+    bool pick(const QDate& date);
+    // A news day has begun: the view follows it when it has ticked the service. A status with a date that no
+    // calendar knows changes nothing.
+    void follow(const CMarketStatus& status);
+    // Reads the all-news list and the relation-search list at each service's current date. False when either
+    // list has no grid.
+    bool readCurrentDates();
+
+private:
+    void refuse(const QString& why);
+    int entryOfWarrants(const CMarketStatus& status) const;
+    void tellNewDay(unsigned char service);
+
+    ViewContext& context;
+    const CommonParts parts;
+    const Calls calls;
+    DatePager pager;
+    bool calendarIsOpen = false;
+};

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/service_menu.h"
+
+#include "host/controls/window_id.h"
+#include "news_view/control_ids.h"
+#include "news_view/news_services.h"
+#include "news_view/view_context.h"
+
+#include <QMenu>
+
+#include <utility>
+
+ServiceMenu::ServiceMenu(ViewContext& viewContext, const CommonParts& commonParts, Calls given)
+    : context(viewContext), parts(commonParts), calls(std::move(given)) {}
+
+ServiceMenu::~ServiceMenu() = default;
+
+void ServiceMenu::fill() {
+    menu = std::make_unique<QMenu>();
+    int command = ids::firstServiceCommand;
+    for (const ServiceEntry& entry : parts.services.Entries()) {
+        const int id = command++;
+        if (entry.service == warrantService || id > ids::lastServiceCommand)
+            continue;
+        QString name;
+        parts.backEnd.BKQNEWS_bGetFullNameByService(name, entry.service);
+        QAction* action = menu->addAction(name.replace(u'&', QStringLiteral("&&")));
+        action->setCheckable(true);
+        action->setData(id);
+        QObject::connect(action, &QAction::triggered, &parts.window, [this, id] { calls.command(id); });
+    }
+}
+
+void ServiceMenu::popUp() {
+    const QWidget* button = GetDlgItem(&parts.window, ids::serviceButton);
+    if (button != nullptr && !standsFast())
+        menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
+}
+
+void ServiceMenu::toggle(int command) {
+    const auto index = static_cast<std::size_t>(command - ids::firstServiceCommand);
+    if (index >= parts.services.Entries().size() || standsFast())
+        return;
+    const bool selected = parts.services.Entries()[index].selected;
+    const bool isLast = selected && parts.services.iSelectedCount() < 2;
+    if (!isLast) {
+        parts.services.vSelect(index, !selected);
+        parts.services.vCopyToSaved();
+    }
+    // Choosing an item has turned its check mark already: it is set to what holds, refused or not.
+    showTicks();
+    if (!isLast)
+        calls.ticksChanged();
+}
+
+// The warrant mode has set the user's choice aside.
+bool ServiceMenu::standsFast() const {
+    return context.shownList() == ListIndex::Warrant;
+}
+
+void ServiceMenu::showTicks() {
+    const QList<QAction*> actions = menu->actions();
+    for (QAction* action : actions) {
+        const auto service = static_cast<std::size_t>(action->data().toInt() - ids::firstServiceCommand);
+        action->setChecked(parts.services.Saved().at(service).selected);
+        action->setEnabled(!standsFast());
+    }
+}

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "news_view/common_parts.h"
+
+#include <functional>
+#include <memory>
+
+class QMenu;
+class ViewContext;
+
+// The menu in which the user ticks the services whose news the lists hold. The warrant mode looks at no
+// ticked service: there the menu does not open, and no tick changes. Interface thread only.
+class ServiceMenu {
+public:
+    struct Calls {
+        std::function<void(int)> command;
+        std::function<void()> ticksChanged;  // lists are to be read anew, registrations brought in line
+    };
+    ServiceMenu(ViewContext& context, const CommonParts& parts, Calls calls);
+    ~ServiceMenu();
+
+    // The services are known: the menu gets one command for each. Once.
+    void fill();
+    bool isFilled() const { return menu != nullptr; }
+    // Under its button.
+    void popUp();
+    // Ticks or unticks the service of a command; the last ticked service stays ticked.
+    void toggle(int command);
+    // What is ticked, and whether that can be changed, has changed.
+    void showTicks();
+
+private:
+    bool standsFast() const;
+
+    ViewContext& context;
+    const CommonParts parts;
+    const Calls calls;
+    std::unique_ptr<QMenu> menu;
+};
