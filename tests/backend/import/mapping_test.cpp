@@ -190,6 +190,12 @@ TEST(Mapping, AFaultyMappingIsNamed) {
          u"“encodings” names “utf-99”"},
         {u"{\"identity\":\"i\",\"titel\":\"t\",\"title\":\"t\",\"time\":{\"date\":\"d\"}}",
          u"The mapping's “titel” is not known."},
+        {u"{\"identity\":\"i\",\"title\":\"t\",\"time\":{\"date\":\"d\",\"zona\":\"UTC\"}}",
+         u"The mapping's “time.zona” is not known."},
+        {u"{\"identity\":\"i\",\"title\":\"t\",\"time\":{\"date\":\"d\"},\"category\":{\"name\":{}}}",
+         u"The mapping's “category.name” is not known."},
+        {u"{\"identity\":\"i\",\"title\":\"t\",\"time\":{\"date\":\"d\"},\"symbols\":{\"column\":\"c\"}}",
+         u"The mapping's “symbols.column” is not known."},
     };
     for (const auto& [file, fault] : files) {
         const Result<Mapping> mapping = Mapping::parse(file.toString().toUtf8());

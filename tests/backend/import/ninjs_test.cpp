@@ -59,6 +59,8 @@ TEST(Ninjs, FindsTitleAndStoryWhereTheyAre) {
         {R"("headline": "H", "body_new": "a\n\nb")", u"H|a@@@@b"_s},
         {R"("headline": "H", "bodies": [{"value": "<p>a</p>"}])", u"H|a"_s},
         {R"("headline": "H", "bodies": [{"role": "text", "value": "<p>a</p>"}])", u"H|<p>a</p>"_s},
+        {R"("headline": "H", "bodies": [{"role": "text", "value": "a"}, {"role": "text", "value": "b"}])",
+         u"H|a"_s},
         {R"("headline": "H", "description_text": "D")", u"H|D"_s},
         {R"("headline": " ", "title": "T")", u"T|"_s},
         {R"("headlines": [{"value": "<b>H</b>", "contenttype": "text/html"}])", u"H|"_s},

@@ -62,6 +62,7 @@ TEST(WireForm, ParagraphsAreMarkedAndWrappedLinesJoined) {
          u"Fund            USD@@@@Longchamp Return@@@@  Trust       14,052@@@@------"},
         {u"a\tb\nlong label\tc\n營收\td", u"a       b@@@@long label      c@@@@營收    d"},
         {u"單位：億元\n--------11月損益--------\n營收", u"單位：億元@@@@--------11月損益--------@@@@營收"},
+        {u"one   1\ntwo   2", u"one   1@@@@two   2"},
         {u"before\n====\nafter", u"before@@@@====@@@@after"},
         // These are none.
         {u"One ends.  Two\nends.  Three", u"One ends.  Two ends.  Three"},
