@@ -29,7 +29,7 @@ public:
     bool hasDay() const;
     const QDate& picked() const { return pager.Picked(); }
     const QDate& newsDay() const { return pager.NewsDay(); }
-    // yyyymmdd; empty without a day.
+    // yyyymmdd; no date's without a day.
     QString pickedKey() const;
     // How many days back may be picked.
     void setRange(int days) { pager.vSetRange(days); }
