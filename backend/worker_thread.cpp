@@ -4,38 +4,32 @@
 
 #include <QTimer>
 
+#include <semaphore>
+
 namespace wirepane {
 
 WorkerThread::WorkerThread() {
-    eventLoop.moveToThread(&thread);
+    calls.moveToThread(&thread);
     thread.start();
 }
 
 WorkerThread::~WorkerThread() {
-    ending = true;
+    calls.clear();
     thread.quit();
     thread.wait();
 }
 
-void WorkerThread::post(Call call) {
-    QMetaObject::invokeMethod(
-        &eventLoop,
-        [this, call = std::move(call)] {
-            if (!ending)
-                call();
-        },
-        Qt::QueuedConnection);
-}
-
 void WorkerThread::postLater(std::chrono::milliseconds delay, Call call) {
-    QTimer::singleShot(delay, &eventLoop, [this, call = std::move(call)] {
-        if (!ending)
-            call();
-    });
+    QTimer::singleShot(delay, &calls, [this, call = std::move(call)] { calls.post(call); });
 }
 
 void WorkerThread::run(const Call& call) {
-    QMetaObject::invokeMethod(&eventLoop, call, Qt::BlockingQueuedConnection);
+    std::binary_semaphore done(0);
+    calls.post([&] {
+        call();
+        done.release();
+    });
+    done.acquire();
 }
 
 }  // namespace wirepane

@@ -2,19 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
+#include "backend/call_queue.h"
+
 #include <QThread>
 
-#include <atomic>
 #include <chrono>
-#include <functional>
 
 namespace wirepane {
 
 // A thread that does what it is asked for, one call after the other in the order of asking.
 class WorkerThread {
 public:
-    using Call = std::function<void()>;
+    using Call = CallQueue::Call;
 
     WorkerThread();
     // Waits for the call that is running; those that have not begun are dropped.
@@ -23,7 +22,7 @@ public:
     WorkerThread& operator=(const WorkerThread&) = delete;
 
     // Any thread.
-    void post(Call call);
+    void post(Call call) { calls.post(std::move(call)); }
     // Called on the thread itself: posts the call after so long.
     void postLater(std::chrono::milliseconds delay, Call call);
     // Waits until the call is done, and those before it. Any other thread.
@@ -31,8 +30,7 @@ public:
 
 private:
     QThread thread;
-    QObject eventLoop;  // lives on the thread
-    std::atomic<bool> ending = false;
+    CallQueue calls;  // lives on the thread
 };
 
 }  // namespace wirepane

@@ -71,8 +71,7 @@ void StoreSync::syncWhatIsNew() {
         carryOver();
     synced = upTo;
     outcome = done;
-    QMetaObject::invokeMethod(
-        &eventLoop, [this, upTo, done] { deliver(upTo, done); }, Qt::QueuedConnection);
+    answers.post([this, upTo, done] { deliver(upTo, done); });
 }
 
 Done StoreSync::sync() {

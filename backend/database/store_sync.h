@@ -5,8 +5,6 @@
 #include "backend/database/database.h"
 #include "backend/worker_thread.h"
 
-#include <QObject>
-
 #include <atomic>
 #include <cstdint>
 #include <deque>
@@ -48,7 +46,7 @@ private:
 
     const QString path;
     sqlite3* const writing;
-    QObject eventLoop;
+    CallQueue answers;                                      // on the interface thread
     std::deque<std::pair<std::int64_t, Callback>> waiting;  // by the commit that they wait for
 
     std::atomic<std::int64_t> commits = 0;

@@ -32,8 +32,7 @@ SearchDesk::SearchDesk(const QString& storePath, Answered answered, Gate answerG
         storePath, [this](std::int64_t ticket, std::vector<CHeadlineTable>&& entries) {
             auto found = std::make_shared<std::vector<CHeadlineTable>>(std::move(entries));
             const auto answer = [this, ticket, found] { take(ticket, std::move(*found)); };
-            QMetaObject::invokeMethod(
-                &eventLoop, [this, answer] { gate(answer); }, Qt::QueuedConnection);
+            answers.post([this, answer] { gate(answer); });
         });
 }
 

@@ -4,8 +4,6 @@
 
 #include "backend/search/search_worker.h"
 
-#include <QObject>
-
 #include <functional>
 #include <list>
 #include <map>
@@ -72,8 +70,8 @@ private:
     std::list<Search> searches;           // that sent last at the end
     std::map<int, std::int64_t> present;  // by kind: the id of a search
     std::int64_t lastNumber = 0;
-    QObject eventLoop;                     // what waits in it is dropped with it
-    std::unique_ptr<SearchWorker> worker;  // last: it posts to the event loop
+    CallQueue answers;                     // on the interface thread
+    std::unique_ptr<SearchWorker> worker;  // last: it posts its answers
 };
 
 }  // namespace wirepane
