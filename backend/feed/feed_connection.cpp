@@ -14,17 +14,8 @@ namespace wirepane {
 
 namespace {
 
-// The windows wait for a portion, and are to answer the user within a twentieth of a second.
-constexpr std::chrono::milliseconds longestTaking{20};
-
 QByteArray lineOf(const QJsonObject& answer) {
     return QJsonDocument(answer).toJson(QJsonDocument::Compact) + '\n';
-}
-
-}  // namespace
-
-QByteArray positionLine(const QString& position) {
-    return lineOf({{u"position"_s, position}});
 }
 
 QByteArray receiptLine(const LineSource::Receipt& receipt) {
@@ -40,43 +31,57 @@ QByteArray receiptLine(const LineSource::Receipt& receipt) {
                    {u"rejections"_s, rejections}});
 }
 
-FeedConnection::FeedConnection(LineChannel* client, FeedSink& feedSink, QObject* parent)
-    : QObject(parent), channel(client), sink(feedSink), lines(1, longestTaking) {
-    lines.onHello([this](const FeedHello& hello) { greet(hello); });
-    lines.onReceipt([this](const LineSource::Receipt& receipt) {
-        send(receiptLine(receipt));
+}  // namespace
+
+FeedConnection::FeedConnection(LineChannel* sender, unsigned char service,
+                               std::chrono::milliseconds longestTaking, Answers wanted)
+    : LineSource(service, longestTaking), channel(sender), answers(wanted) {
+    setState(SourceState::Live);
+    onReceipt([this](const Receipt& receipt) {
+        answer(receiptLine(receipt));
         holdWhenFull();
     });
-    connect(client, &LineChannel::lineReceived, this, [this](const QByteArray& line) {
-        lines.add(line);
+    QObject::connect(sender, &LineChannel::lineReceived, &context, [this](const QByteArray& line) {
+        add(line);
         holdWhenFull();
-        if (lines.hasPortion())
-            emit ready();
+        tellReady();
     });
-    connect(client, &LineChannel::lineTooLong, this, [this] {
-        lines.addRejected(
-            u"The line is longer than %1 MiB."_s.arg(LineSplitter::longestLine / (1024 * 1024)));
-        emit ready();
+    QObject::connect(sender, &LineChannel::lineTooLong, &context, [this] {
+        addRejected(u"The line is longer than %1 MiB."_s.arg(LineSplitter::longestLine / (1024 * 1024)));
+        tellReady();
     });
-    connect(client, &LineChannel::ended, this, [this] {
+    QObject::connect(sender, &LineChannel::ended, &context, [this] {
         hasEnded = true;
-        emit ready();
+        setState(SourceState::Offline);
+        tellReady();
     });
 }
 
-void FeedConnection::greet(const FeedHello& hello) {
-    const Result<QString> position = hello.source.isEmpty() ? QString() : sink.positionOf(hello.source);
-    send(position ? positionLine(position.value()) : lineOf({{u"error"_s, sentence(position.error())}}));
+void FeedConnection::resume(const Result<QString>& position) {
+    LineSource::resume(position);
+    answer(position ? lineOf({{u"position"_s, position.value()}})
+                    : lineOf({{u"error"_s, sentence(position.error())}}));
+}
+
+void FeedConnection::setOnline(bool on) {
+    if (on)
+        return;
+    // What was not acknowledged the sender sends again.
+    if (channel)
+        channel->disconnect(&context);
+    channel.clear();
+    drop();
+    hasEnded = true;
 }
 
 // A sender that is faster than the disk waits for it.
 void FeedConnection::holdWhenFull() {
     if (channel)
-        channel->setHeld(lines.isFull());
+        channel->setHeld(isFull());
 }
 
-void FeedConnection::send(const QByteArray& line) {
-    if (channel)
+void FeedConnection::answer(const QByteArray& line) {
+    if (channel && answers == Answers::All)
         channel->send(line);
 }
 

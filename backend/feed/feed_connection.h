@@ -11,38 +11,32 @@ namespace wirepane {
 
 class LineChannel;
 
-// What the sender of a feed is told of lines that are on the disk, as a line.
-QByteArray receiptLine(const LineSource::Receipt& receipt);
-// The answer to a greeting: the position that is kept.
-QByteArray positionLine(const QString& position);
-
-// A client that sends a feed over a channel: its lines become a source, and it is told how far it has been
+// A sender at the other end of a channel: its lines are a source, and it is told how far they have been
 // taken. To its greeting it is answered {"position": TEXT}, the position kept for its source; to what is on
-// the disk, {"lines": so far, "takenIn": n, "alreadyThere": n, "rejected": n, "rejections": [{"place",
-// "reason"}]}; and {"error": TEXT} when the store cannot say.
-class FeedConnection : public QObject {
-    Q_OBJECT
-
+// the disk,
+// {"lines": so far, "takenIn": n, "alreadyThere": n, "rejected": n, "rejections": [{"place", "reason"}]}; and
+// {"error": TEXT} when the store cannot say.
+class FeedConnection : public LineSource {
 public:
-    // The sink is not owned and outlives the connection.
-    FeedConnection(LineChannel* channel, FeedSink& sink, QObject* parent);
+    enum class Answers { All, None };
 
-    LineSource& source() { return lines; }
-    // The client is gone, and all that it sent has been taken.
-    bool isDone() { return hasEnded && !lines.hasPortion(); }
+    // The channel is not owned; when it goes, the sender is gone. The rest as LineSource has it.
+    FeedConnection(LineChannel* channel, unsigned char service, std::chrono::milliseconds longestTaking,
+                   Answers answers = Answers::All);
 
-signals:
-    // Lines are at hand.
-    void ready();
+    void resume(const Result<QString>& position) override;
+    // A break sends the sender off; it may come again as another.
+    void setOnline(bool on) override;
+    // The sender is gone, and all that it sent has been taken.
+    bool isDone() override { return hasEnded && !hasBatch(); }
 
 private:
-    void greet(const FeedHello& hello);
     void holdWhenFull();
-    void send(const QByteArray& line);
+    void answer(const QByteArray& line);
 
+    QObject context;  // of what the channel tells
     QPointer<LineChannel> channel;
-    FeedSink& sink;
-    LineSource lines;
+    Answers answers;
     bool hasEnded = false;
 };
 

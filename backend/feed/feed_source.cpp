@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/feed_source.h"
 
+#include "host/contract/clock.h"
+
 #include <variant>
 
 namespace wirepane {
 
 namespace {
 
-// Takes the items of one portion, and counts.
+// Takes the items of one batch, and counts.
 class Taking {
 public:
     explicit Taking(FeedSink& target) : sink(target) {}
@@ -27,13 +29,13 @@ public:
         return true;
     }
 
-    PortionOutcome outcome;
+    BatchOutcome outcome;
     std::optional<Error> failure;  // of the sink
 
 private:
     void reject(const Phrase& place, const Error& reason) {
         ++outcome.totals.rejected;
-        if (outcome.rejections.size() < PortionOutcome::mostRejections)
+        if (outcome.rejections.size() < BatchOutcome::mostRejections)
             outcome.rejections.push_back({place, reason});
     }
     void count(const SourceItem& item, const TakeOutcome& taken) {
@@ -52,7 +54,31 @@ private:
 
 }  // namespace
 
-Result<PortionOutcome> takePortion(FeedSource& source, FeedSink& sink) {
+void FeedSource::setState(SourceState::Kind kind, const QString& reason) {
+    if (kind == current.kind && reason == current.reason)
+        return;
+    const std::int64_t since = kind == current.kind ? current.since : host_clock::now();
+    current = {kind, since, reason};
+    if (owner != nullptr)
+        owner->sourceStateChanged(*this);
+}
+
+void FeedSource::tellReady() {
+    if (owner != nullptr)
+        owner->sourceReady(*this);
+}
+
+void FeedSource::tellTrouble(const QString& sentence) {
+    if (owner != nullptr)
+        owner->sourceTrouble(sentence);
+}
+
+void resumeSource(FeedSource& source, FeedSink& sink) {
+    if (source.awaitsPosition())
+        source.resume(source.name().isEmpty() ? QString() : sink.positionOf(source.name()));
+}
+
+Result<BatchOutcome> takeBatch(FeedSource& source, FeedSink& sink) {
     if (const Done begun = sink.begin(); !begun)
         return begun.error();
     Taking taking(sink);
@@ -63,7 +89,7 @@ Result<PortionOutcome> takePortion(FeedSource& source, FeedSink& sink) {
     }
     if (!read) {
         sink.rollback();
-        PortionOutcome refused;
+        BatchOutcome refused;
         refused.fault = read.error();
         return refused;
     }

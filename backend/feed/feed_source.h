@@ -5,23 +5,59 @@
 #include "backend/import/import_job.h"
 #include "backend/import/reading.h"
 
+#include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace wirepane {
 
-// What became of one portion of a source.
-struct PortionOutcome {
+class FeedSource;
+
+// What became of one batch of a source.
+struct BatchOutcome {
     ImportTotals totals;
     qint64 news = 0;                    // taken in, of the totals
     std::vector<Rejection> rejections;  // the first mostRejections of them
-    std::optional<Error> fault;         // the portion as a whole cannot be read: nothing of it was taken
+    std::optional<Error> fault;         // the batch as a whole cannot be read: nothing of it was taken
 
     static constexpr std::size_t mostRejections = 1000;
 };
 
-// A source of news: it hands items over in portions that are taken whole or not at all, each with the
-// position behind it, and goes on from any such position. One thread.
+// How a source stands to where its news comes from.
+struct SourceState {
+    enum Kind {
+        Connecting,  // not there yet
+        Live,
+        Stale,    // there, but nothing has come for longer than is usual
+        Offline,  // the other end is gone, or the terminal is disconnected
+        Failed,   // it cannot go on as it is
+    };
+    Kind kind = Connecting;
+    std::int64_t since = 0;  // when it came to be so, seconds since 1970
+    QString reason = {};     // of Failed: a sentence
+
+    bool operator==(const SourceState&) const = default;
+};
+
+// What a source tells the one who takes its news. Interface thread, in the order in which it happens.
+class SourceTaker {
+public:
+    virtual ~SourceTaker() = default;
+
+    // A batch is at hand, or the source waits for its position.
+    virtual void sourceReady(FeedSource& source) = 0;
+    virtual void sourceStateChanged(FeedSource&) {}
+    // A sentence for whoever runs the source.
+    virtual void sourceTrouble(const QString&) {}
+    // A source that brings others, one for each of its clients, hands them over here.
+    virtual void addSource(const std::shared_ptr<FeedSource>&) {}
+};
+
+// A source of news: it hands items over in batches that are taken whole or not at all, each with the position
+// behind it, and goes on from any such position. Interface thread; one that blocks is a QueuedSource.
+//
+// What a source has no use for it leaves as it is here.
 class FeedSource {
 public:
     FeedSource() = default;
@@ -29,25 +65,55 @@ public:
     FeedSource& operator=(const FeedSource&) = delete;
     virtual ~FeedSource() = default;
 
-    // The name under which its position is kept, the same for good; empty: a source without a memory.
+    // The name that it is shown by and under which its position is kept, the same for good; empty: a source
+    // without a memory.
     virtual QString name() const = 0;
-    // Goes on behind this position; empty: from the start.
-    virtual void resume(const QString& position) = 0;
 
-    // Whether a portion is at hand. Looks at once and does not wait.
-    virtual bool hasPortion() = 0;
-    // Hands the items of the portion over, until `visit` answers false. The same portion again until it is
-    // settled. An error: the portion as a whole cannot be read.
-    virtual Done read(const ItemVisitor& visit) = 0;
-    // The position behind the portion that was read last; empty: there is none to keep.
-    virtual QString position() const = 0;
-    // The portion that was taken is on the disk, or has been refused: the next one may come.
-    virtual void settle(const PortionOutcome& outcome) = 0;
+    // Whether it waits to be told where to go on, as after it was opened and after a break.
+    virtual bool awaitsPosition() const { return false; }
+    // Goes on behind this position, which is the one that is kept; empty: from the start. An error: the store
+    // cannot say.
+    virtual void resume(const Result<QString>&) {}
+
+    // Looks for what nobody announces; called a few times a second.
+    virtual void poll() {}
+    // Whether a batch is at hand. Looks at once and does not wait.
+    virtual bool hasBatch() { return false; }
+    // Hands the items of the batch over, until `visit` answers false. The same batch again until it is
+    // acknowledged. An error: the batch as a whole cannot be read.
+    virtual Done read(const ItemVisitor&) { return Nothing{}; }
+    // The position behind the batch that was read last; empty: there is none to keep.
+    virtual QString position() const { return {}; }
+    // The batch that was taken is on the disk, or has been refused: the next one may come.
+    virtual void acknowledge(const BatchOutcome&) {}
+
+    // The terminal is disconnected, or connected again. While it is not, nothing is taken.
+    virtual void setOnline(bool on) { setState(on ? SourceState::Live : SourceState::Offline); }
+    // It will never bring anything more and can be let go.
+    virtual bool isDone() { return false; }
+
+    const SourceState& state() const { return current; }
+    // Who takes its news; outlives the source. At first nobody.
+    void setTaker(SourceTaker* sourceTaker) { owner = sourceTaker; }
+
+protected:
+    // `reason`: for Failed.
+    void setState(SourceState::Kind kind, const QString& reason = {});
+    void tellReady();
+    void tellTrouble(const QString& sentence);
+    SourceTaker* taker() const { return owner; }
+
+private:
+    SourceState current;
+    SourceTaker* owner = nullptr;
 };
 
-// Takes the portion at hand into the sink, in one transaction together with its position. The caller settles
-// it as soon as what the sink has committed is on the disk, and does not take it again before. An error is
-// the sink's: nothing was taken, and the portion stays at hand.
-Result<PortionOutcome> takePortion(FeedSource& source, FeedSink& sink);
+// Lets a source that waits for its position go on behind the one that the sink keeps for it.
+void resumeSource(FeedSource& source, FeedSink& sink);
+
+// Takes the batch at hand into the sink, in one transaction together with its position. The caller
+// acknowledges it as soon as what the sink has committed is on the disk, and does not take it again before.
+// An error is the sink's: nothing was taken, and the batch stays at hand.
+Result<BatchOutcome> takeBatch(FeedSource& source, FeedSink& sink);
 
 }  // namespace wirepane

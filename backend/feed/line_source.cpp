@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 namespace {
-constexpr std::size_t mostLines = 1000;   // of a portion
-constexpr qint64 mostBytes = 512 * 1024;  // of a portion, about
+constexpr std::size_t mostLines = 1000;   // of a batch
+constexpr qint64 mostBytes = 512 * 1024;  // of a batch, about
 }  // namespace
 
 void LineSource::add(const QByteArray& line) {
@@ -21,8 +21,7 @@ void LineSource::add(const QByteArray& line) {
         begun = true;
         if (const auto* greeting = std::get_if<FeedHello>(&first)) {
             hello = *greeting;
-            if (greet)
-                greet(hello);
+            isAwaiting = true;
             return;
         }
     }
@@ -35,19 +34,25 @@ void LineSource::addRejected(const QString& reason) {
     lines.emplace_back(Error{reason});
 }
 
+void LineSource::drop() {
+    lines.clear();
+    waitingBytes = 0;
+    batch = 0;
+}
+
 Done LineSource::read(const ItemVisitor& visit) {
-    portion = 0;
+    batch = 0;
     lastPosition.clear();
     qint64 bytes = 0;
     const auto begin = std::chrono::steady_clock::now();
     const auto isEnough = [&] {
-        return portion >= mostLines || bytes >= mostBytes ||
+        return batch >= mostLines || bytes >= mostBytes ||
                std::chrono::steady_clock::now() - begin >= longest;
     };
-    while (portion < lines.size() && (portion == 0 || !isEnough())) {
-        const Result<QByteArray>& line = lines[portion];
-        ++portion;
-        const Phrase place = makeError<import_errors::atLine>(settled + static_cast<qint64>(portion));
+    while (batch < lines.size() && (batch == 0 || !isEnough())) {
+        const Result<QByteArray>& line = lines[batch];
+        ++batch;
+        const Phrase place = makeError<import_errors::atLine>(acknowledged + static_cast<qint64>(batch));
         if (!line) {
             if (!visit({line.error(), place, 0}))
                 break;
@@ -69,15 +74,15 @@ Done LineSource::read(const ItemVisitor& visit) {
     return Nothing{};
 }
 
-void LineSource::settle(const PortionOutcome& outcome) {
-    const auto end = lines.begin() + static_cast<std::ptrdiff_t>(portion);
+void LineSource::acknowledge(const BatchOutcome& outcome) {
+    const auto end = lines.begin() + static_cast<std::ptrdiff_t>(batch);
     for (auto line = lines.begin(); line != end; ++line)
         waitingBytes -= *line ? line->value().size() : 0;
     lines.erase(lines.begin(), end);
-    settled += static_cast<qint64>(portion);
-    portion = 0;
+    acknowledged += static_cast<qint64>(batch);
+    batch = 0;
     if (tell)
-        tell({settled, outcome});
+        tell({acknowledged, outcome});
 }
 
 }  // namespace wirepane

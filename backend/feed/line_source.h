@@ -20,10 +20,10 @@ public:
     // What the sender is told when lines are on the disk.
     struct Receipt {
         qint64 lines = 0;  // of all so far
-        PortionOutcome outcome;
+        BatchOutcome outcome;
     };
 
-    // `service` is that of records before which no greeting names one. A portion ends with the line during
+    // `service` is that of records before which no greeting names one. A batch ends with the line during
     // which it has taken longer than `longestTaking`.
     explicit LineSource(unsigned char service = 1,
                         std::chrono::milliseconds longestTaking = std::chrono::hours(1))
@@ -35,19 +35,21 @@ public:
     void add(const QByteArray& line);
     // In place of a line that was passed over.
     void addRejected(const QString& reason);
-    // Enough waits for a while: whoever brings lines had better stop until some are settled.
+    // Forgets the lines that wait.
+    void drop();
+    // Enough waits for a while: whoever brings lines had better stop until some are acknowledged.
     bool isFull() const { return lines.size() >= mostWaiting || waitingBytes >= mostWaitingBytes; }
 
-    void onHello(std::function<void(const FeedHello&)> callback) { greet = std::move(callback); }
     void onReceipt(std::function<void(const Receipt&)> callback) { tell = std::move(callback); }
 
     QString name() const override { return hello.source; }
-    // The sender is to be told the position; what comes after it is its business.
-    void resume(const QString&) override {}
-    bool hasPortion() override { return !lines.empty(); }
+    // Who greets is to be told its position; what comes after it is the sender's business.
+    bool awaitsPosition() const override { return isAwaiting; }
+    void resume(const Result<QString>&) override { isAwaiting = false; }
+    bool hasBatch() override { return !lines.empty(); }
     Done read(const ItemVisitor& visit) override;
     QString position() const override { return lastPosition; }
-    void settle(const PortionOutcome& outcome) override;
+    void acknowledge(const BatchOutcome& outcome) override;
 
 private:
     static constexpr std::size_t mostWaiting = 4000;  // lines
@@ -57,11 +59,11 @@ private:
     FeedHello hello;
     std::deque<Result<QByteArray>> lines;
     qint64 waitingBytes = 0;
-    std::size_t portion = 0;  // lines of the portion that was read last
-    qint64 settled = 0;       // lines
-    bool begun = false;       // an item has come
+    std::size_t batch = 0;    // lines of the batch that was read last
+    qint64 acknowledged = 0;  // lines
+    bool begun = false;       // the first line has come
+    bool isAwaiting = false;  // its position
     QString lastPosition;
-    std::function<void(const FeedHello&)> greet;
     std::function<void(const Receipt&)> tell;
 };
 

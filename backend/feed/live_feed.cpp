@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/live_feed.h"
 
+#include "backend/feed/source_kinds.h"
+#include "backend/feed/store_watch.h"
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
@@ -11,8 +13,6 @@
 #include <algorithm>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace wirepane {
 
 namespace {
@@ -20,7 +20,7 @@ namespace {
 constexpr int tickMs = 250;
 constexpr int retryMs = 2000;  // after the store could not be written
 constexpr std::chrono::milliseconds shortPatience{20};
-constexpr qint64 longestReturnMs = 3000;  // of clients, after a break
+constexpr qint64 longestReturnMs = 3000;  // of sources, after a break
 
 }  // namespace
 
@@ -29,32 +29,55 @@ LiveFeed::LiveFeed(EmbeddedBackEnd& store) : backEnd(store) {
     ticking.start(tickMs);
     pumping.setSingleShot(true);
     connect(&pumping, &QTimer::timeout, this, &LiveFeed::pump);
+    addSource(std::make_shared<StoreWatch>(backEnd));
 }
 
-Done LiveFeed::watch(const QString& spoolFolder, const SpoolOptions& options) {
-    auto opened = SpoolSource::open(spoolFolder, options);
-    if (!opened)
-        return opened.error();
-    spool = std::move(opened.value());
-    spool->onTrouble([this](const QString& sentence) { emit trouble(sentence); });
+LiveFeed::~LiveFeed() {
+    // A source may live longer than its place here.
+    for (const Entry& entry : entries)
+        entry.source->setTaker(nullptr);
+}
+
+Done LiveFeed::open(const SourceKind& kind, const QString& value) {
+    const auto source = kind.open(value);
+    if (!source)
+        return source.error();
+    addSource(source.value());
+    const SourceState& state = source.value()->state();
+    return state.kind == SourceState::Failed ? Done(Error{state.reason}) : Nothing{};
+}
+
+void LiveFeed::addSource(const std::shared_ptr<FeedSource>& source) {
+    entries.push_back({source});
+    source->setTaker(this);
+    if (!isConnected)
+        source->setOnline(false);
+    emit sourcesChanged();
+    sourceReady(*source);
+}
+
+std::vector<SourceReport> LiveFeed::sources() const {
+    std::vector<SourceReport> reports;
+    for (const Entry& entry : entries) {
+        if (!entry.source->name().isEmpty())
+            reports.push_back({entry.source->name(), entry.source->state()});
+    }
+    return reports;
+}
+
+void LiveFeed::sourceReady(FeedSource& source) {
+    resumeSource(source, backEnd);
     pumpSoon();
-    return Nothing{};
 }
 
-Done LiveFeed::listen(const QString& name) {
-    socketName = name;
-    return openSocket();
+void LiveFeed::sourceStateChanged(FeedSource& source) {
+    if (source.state().kind == SourceState::Failed)
+        emit trouble(source.state().reason);
+    emit sourcesChanged();
 }
 
-Done LiveFeed::openSocket() {
-    if (socketName.isEmpty())
-        return Nothing{};
-    server = std::make_unique<SocketServer>();
-    connect(server.get(), &SocketServer::connected, this, [this](LineChannel* channel) {
-        connections.push_back(std::make_shared<FeedConnection>(channel, backEnd, nullptr));
-        connect(connections.back().get(), &FeedConnection::ready, this, &LiveFeed::pumpSoon);
-    });
-    return server->listen(socketName);
+void LiveFeed::sourceTrouble(const QString& sentence) {
+    emit trouble(sentence);
 }
 
 void LiveFeed::setConnected(bool connected) {
@@ -62,18 +85,18 @@ void LiveFeed::setConnected(bool connected) {
         return;
     isConnected = connected;
     if (!connected) {
-        clientsBefore = connections.size();
-        connections.clear();
-        std::erase_if(settling, [this](const auto& entry) { return entry.first != spool.get(); });
-        server.reset();
+        sourcesBefore = entries.size();
+        for (const Entry& entry : std::vector(entries))
+            entry.source->setOnline(false);
+        dropDoneSources();
         backEnd.setConnected(false);
     } else {
         isCatchingUp = true;
         sinceBreak.start();
         takenLate = 0;
         backEnd.setConnected(true);
-        if (const Done opened = openSocket(); !opened)
-            emit trouble(sentence(opened.error()));
+        for (const Entry& entry : std::vector(entries))
+            entry.source->setOnline(true);
         pumpSoon();
     }
     updateState();
@@ -81,20 +104,19 @@ void LiveFeed::setConnected(bool connected) {
 
 bool LiveFeed::isIdle() {
     const bool isFed = isConnected && !hasTrouble() &&
-                       ((spool && spool->hasPortion()) ||
-                        std::any_of(connections.begin(), connections.end(), [](const auto& connection) {
-                            return connection->source().hasPortion();
-                        }));
+                       std::any_of(entries.begin(), entries.end(),
+                                   [](const Entry& entry) { return entry.source->hasBatch(); });
     return !isFed && (!isConnected || backEnd.isDelivered());
 }
 
 void LiveFeed::tick() {
-    const QString lostBefore = std::exchange(lostStore, backEnd.storeTrouble());
-    if (lostBefore.isEmpty() && !lostStore.isEmpty())
-        emit trouble(lostStore);
-    if (isConnected) {
-        backEnd.checkForNews();
-        if (spool && spool->hasPortion())
+    // Whoever is told of news may send clients off.
+    for (const Entry& entry : std::vector(entries)) {
+        entry.source->poll();
+        if (!isConnected)
+            continue;
+        resumeSource(*entry.source, backEnd);
+        if (entry.source->hasBatch())
             pumpSoon();
     }
     isCatchingUp = isCatchingUp && !hasCaughtUp();
@@ -106,96 +128,96 @@ void LiveFeed::pumpSoon() {
         pumping.start(hasTrouble() ? retryMs : 0);
 }
 
-// One portion a turn, so that the windows stay alive; the next turn when this one did anything.
+// One batch a turn, so that the windows stay alive; the next turn when this one did anything.
 void LiveFeed::pump() {
     // A view that is told may open a dialog, whose loop comes by here.
     if (!isTaking) {
         if (isConnected && pumpOne())
             pumpSoon();
-        dropDoneConnections();
+        dropDoneSources();
     }
     updateState();
 }
 
 // The sources take turns.
 bool LiveFeed::pumpOne() {
-    const std::size_t all = connections.size() + 1;
+    const std::size_t all = entries.size();
     for (std::size_t i = 0; i < all; ++i) {
-        const std::size_t at = (turn + i) % all;
-        FeedSource* source = spool.get();
-        if (at > 0)
-            source = &connections[at - 1]->source();
-        if (source == nullptr || !isReady(*source))
+        const Entry& entry = entries[(turn + i) % all];
+        if (entry.batch != 0 || !entry.source->hasBatch())
             continue;
-        turn = at + 1;
-        // Whoever is told of the news may send the clients off.
-        const auto here = std::vector(connections);
-        take(*source);
+        turn = (turn + i) % all + 1;
+        take(std::shared_ptr(entry.source));
         return true;
     }
     return false;
 }
 
-void LiveFeed::take(FeedSource& source) {
+void LiveFeed::take(const std::shared_ptr<FeedSource>& source) {
     isTaking = true;
     // The windows must not stand still while another program writes.
     backEnd.setPatience(shortPatience);
-    const Result<PortionOutcome> taken = takePortion(source, backEnd);
+    const Result<BatchOutcome> taken = takeBatch(*source, backEnd);
     backEnd.setPatience(StoreOptions().busyTimeout);
     isTaking = false;
     tellTrouble(taken ? QString() : sentence(taken.error()));
-    if (taken) {
-        takenLate += isCatchingUp ? taken.value().news : 0;
-        settleWhenOnDisk(source, taken.value());
+    if (!taken)
+        return;
+    takenLate += isCatchingUp ? taken.value().news : 0;
+    // A receiver that was told may have sent it off.
+    if (Entry* entry = entryOf(*source)) {
+        entry->batch = ++batches;
+        awaitDisk(source, taken.value(), entry->batch);
     }
 }
 
-void LiveFeed::settleWhenOnDisk(FeedSource& source, const PortionOutcome& outcome) {
-    // A receiver that was told may have sent the clients off.
-    const bool isHere = &source == spool.get() ||
-                        std::any_of(connections.begin(), connections.end(),
-                                    [&](const auto& connection) { return &connection->source() == &source; });
-    if (!isHere)
-        return;
-    settling[&source] = ++portions;
-    awaitDisk(source, outcome, portions);
+void LiveFeed::awaitDisk(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch) {
+    backEnd.whenOnDisk([self = QPointer(this), source, outcome, batch](const Done& onDisk) {
+        if (self)
+            self->acknowledge(source, outcome, batch, onDisk);
+    });
 }
 
-void LiveFeed::awaitDisk(FeedSource& source, const PortionOutcome& outcome, int portion) {
-    backEnd.whenOnDisk([this, self = QPointer(this), &source, outcome, portion](const Done& onDisk) {
-        if (self.isNull())
-            return;
-        const auto waiting = settling.find(&source);
-        if (waiting == settling.end() || waiting->second != portion)
-            return;
-        tellTrouble(onDisk ? QString() : sentence(onDisk.error()));
-        if (!onDisk) {
-            QTimer::singleShot(retryMs, this,
-                               [this, &source, outcome, portion] { awaitDisk(source, outcome, portion); });
-            return;
-        }
-        settling.erase(waiting);
-        source.settle(outcome);
-        pumpSoon();
-    });
+void LiveFeed::acknowledge(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch,
+                           const Done& onDisk) {
+    Entry* entry = entryOf(*source);
+    if (entry == nullptr || entry->batch != batch)
+        return;
+    tellTrouble(onDisk ? QString() : sentence(onDisk.error()));
+    if (!onDisk) {
+        QTimer::singleShot(retryMs, this,
+                           [this, source, outcome, batch] { awaitDisk(source, outcome, batch); });
+        return;
+    }
+    entry->batch = 0;
+    source->acknowledge(outcome);
+    pumpSoon();
+}
+
+LiveFeed::Entry* LiveFeed::entryOf(const FeedSource& source) {
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&](const Entry& entry) { return entry.source.get() == &source; });
+    return found == entries.end() ? nullptr : &*found;
 }
 
 // Another program that writes for a moment is nothing to tell; what stands in the way twice is.
 void LiveFeed::tellTrouble(const QString& now) {
     const QString before = std::exchange(takeTrouble, now);
     const bool lasts = !now.isEmpty() && now == before;
-    if (lasts && !isTold && lostStore.isEmpty())
+    if (lasts && !isTold && lostStore().isEmpty())
         emit trouble(now);
     isTold = lasts;
 }
 
-void LiveFeed::dropDoneConnections() {
-    std::erase_if(connections, [](const auto& connection) { return connection->isDone(); });
+void LiveFeed::dropDoneSources() {
+    const auto gone = std::erase_if(entries, [](const Entry& entry) { return entry.source->isDone(); });
+    if (gone > 0)
+        emit sourcesChanged();
 }
 
-// The clients of before are waited for, for a while.
+// The sources of before are waited for, for a while.
 bool LiveFeed::hasCaughtUp() {
-    const bool areBack = connections.size() >= clientsBefore || sinceBreak.elapsed() > longestReturnMs;
+    const bool areBack = entries.size() >= sourcesBefore || sinceBreak.elapsed() > longestReturnMs;
     return isConnected && areBack && isIdle();
 }
 
@@ -208,7 +230,7 @@ void LiveFeed::updateState() {
     if (now.kind != current.kind)
         now.since = host_clock::now();
     now.late = backEnd.lateHeadlines() + static_cast<int>(takenLate);
-    now.trouble = lostStore.isEmpty() ? takeTrouble : lostStore;
+    now.trouble = lostStore().isEmpty() ? takeTrouble : lostStore();
     if (now == current)
         return;
     current = now;

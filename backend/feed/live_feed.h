@@ -2,21 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "backend/feed/feed_connection.h"
-#include "backend/feed/spool_source.h"
-#include "backend/lines/socket_server.h"
+#include "backend/feed/feed_source.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
-#include <map>
 #include <memory>
 #include <vector>
 
 namespace wirepane {
 
 class EmbeddedBackEnd;
+struct SourceKind;
 
 // How the terminal stands to its sources of news.
 struct FeedState {
@@ -34,19 +32,28 @@ struct FeedState {
     bool operator==(const FeedState&) const = default;
 };
 
-// The live news of a running terminal: takes in what a spool folder and the clients of a local socket bring,
-// a portion at a time so that the windows stay alive, and passes on what other programs write to the store.
+// One of the sources, as it is shown.
+struct SourceReport {
+    QString name;
+    SourceState state;
+};
+
+// The live news of a running terminal: owns the sources, lets each go on where it was, and takes in what they
+// bring, a batch at a time so that the windows stay alive. The store is watched as a source like the others.
 // Interface thread.
-class LiveFeed : public QObject {
+class LiveFeed : public QObject, private SourceTaker {
     Q_OBJECT
 
 public:
     // The back end is not owned and outlives the feed.
     explicit LiveFeed(EmbeddedBackEnd& backEnd);
+    ~LiveFeed() override;
 
-    Done watch(const QString& spoolFolder, const SpoolOptions& options = {});
-    // Serves feeds on a local socket that only the same user may open.
-    Done listen(const QString& socketName);
+    // Opens a source of this kind. One that is there but fails is tried again after a break.
+    Done open(const SourceKind& kind, const QString& value);
+    void addSource(const std::shared_ptr<FeedSource>& source) override;
+    // Those that have a name, in the order in which they came.
+    std::vector<SourceReport> sources() const;
 
     // A break keeps everything away: files stay in the spool, clients are sent off and may come again after
     // it. What came to the store meanwhile is told when it is over, oldest first.
@@ -57,42 +64,48 @@ public:
 
 signals:
     void stateChanged();
-    // A sentence about a file of the spool, or about a store that takes nothing in for longer than a moment.
+    // Another source, or another state of one.
+    void sourcesChanged();
+    // A sentence about a source, or about a store that takes nothing in for longer than a moment.
     void trouble(const QString& sentence);
 
 private:
+    struct Entry {
+        std::shared_ptr<FeedSource> source;
+        int batch = 0;  // that is on the way to the disk; 0: none
+    };
+
+    void sourceReady(FeedSource& source) override;
+    void sourceStateChanged(FeedSource& source) override;
+    void sourceTrouble(const QString& sentence) override;
     void tick();
     void pumpSoon();
     void pump();
     bool pumpOne();
-    void take(FeedSource& source);
-    void settleWhenOnDisk(FeedSource& source, const PortionOutcome& outcome);
-    void awaitDisk(FeedSource& source, const PortionOutcome& outcome, int portion);
-    bool isSettling(FeedSource& source) const { return settling.contains(&source); }
-    bool isReady(FeedSource& source) const { return !isSettling(source) && source.hasPortion(); }
+    void take(const std::shared_ptr<FeedSource>& source);
+    void awaitDisk(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch);
+    void acknowledge(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch,
+                     const Done& onDisk);
+    Entry* entryOf(const FeedSource& source);
     bool hasCaughtUp();
     void tellTrouble(const QString& now);
-    void dropDoneConnections();
-    bool hasTrouble() const { return !takeTrouble.isEmpty() || !lostStore.isEmpty(); }
+    void dropDoneSources();
+    // Why the store takes nothing in, found out without trying; empty: it does.
+    const QString& lostStore() const { return entries.front().source->state().reason; }
+    bool hasTrouble() const { return !takeTrouble.isEmpty() || !lostStore().isEmpty(); }
     void updateState();
-    Done openSocket();
 
     EmbeddedBackEnd& backEnd;
-    std::unique_ptr<SpoolSource> spool;
-    QString socketName;
-    std::unique_ptr<SocketServer> server;
-    std::vector<std::shared_ptr<FeedConnection>> connections;
-    std::size_t turn = 0;                 // whose it is to be taken: 0 the spool's, then the connections'
-    std::map<FeedSource*, int> settling;  // by source: its portion that is on the way to the disk
-    int portions = 0;                     // taken so far
+    std::vector<Entry> entries;  // the store's watch first
+    std::size_t turn = 0;        // whose it is to be taken
+    int batches = 0;             // taken so far
     QTimer ticking;
     QTimer pumping;
-    QString takeTrouble;  // of the last portion
+    QString takeTrouble;  // of the last batch
     bool isTold = false;  // that trouble is
-    QString lostStore;    // the store is not where it was
     bool isConnected = true;
     bool isCatchingUp = false;
-    std::size_t clientsBefore = 0;  // the break
+    std::size_t sourcesBefore = 0;  // the break
     QElapsedTimer sinceBreak;       // since its end
     qint64 takenLate = 0;           // while catching up
     bool isTaking = false;

@@ -6,67 +6,118 @@
 #include "host/contract/clock.h"
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
+#include <utility>
 
 namespace wirepane {
 
 namespace {
 
-constexpr int tickMs = 20;
+// Of a batch: so much is sent before the terminal has confirmed what went before it.
+constexpr std::size_t mostItems = 1000;
+constexpr qsizetype mostCharacters = 512 * 1024;  // of stories, about
 
 }  // namespace
 
+ReplayReader::ReplayReader(StoredDay& stored, ReplayOptions replayOptions, Clock::time_point start)
+    : day(stored), options(std::move(replayOptions)), begin(start) {}
+
+ReplayReader::Clock::time_point ReplayReader::dueTime(std::size_t index) const {
+    const std::int64_t after = day.timeOf(index) - options.from;
+    if (options.speed <= 0 || after <= 0)
+        return begin;
+    const std::chrono::duration<double> wait(static_cast<double>(after) / options.speed);
+    return begin + std::chrono::duration_cast<Clock::duration>(wait);
+}
+
+void ReplayReader::run(const QString& position, SourceQueue& queue) {
+    queue.tell(SourceState::Live);
+    for (std::size_t next = position.toULongLong(); next < day.size();) {
+        if (!queue.waitUntil(dueTime(next)))
+            return;
+        SourceBatch batch;
+        const Done read = readDue(next, batch);
+        if (!batch.items.empty() && !queue.push(std::move(batch)))
+            return;
+        if (!read) {
+            queue.tell(SourceState::Failed, sentence(read.error()));
+            return;
+        }
+    }
+}
+
+Done ReplayReader::readDue(std::size_t& next, SourceBatch& batch) {
+    const Clock::time_point now = Clock::now();
+    qsizetype characters = 0;
+    while (next < day.size() && dueTime(next) <= now && batch.items.size() < mostItems &&
+           characters < mostCharacters) {
+        Result<NewsItem> item = day.item(next);
+        if (!item)
+            return item.error();
+        NewsItem& news = item.value();
+        if (options.asNew) {
+            news.identity = options.run + u':' + news.identity;
+            news.time = host_clock::now();
+            news.sequence.reset();
+        }
+        characters += news.story ? news.story->size() : 0;
+        batch.position = QString::number(++next);
+        batch.items.push_back({StoreItem(std::move(news)), Phrase(batch.position), 0});
+    }
+    return Nothing{};
+}
+
 Replay::Replay(StoredDay& stored, FeedClient& feed, ReplayOptions replayOptions)
     : day(stored), client(feed), options(std::move(replayOptions)) {
-    connect(&ticking, &QTimer::timeout, this, &Replay::playDue);
-    connect(&client, &FeedClient::confirmed, this, [this] {
-        if (next == day.size() && client.unconfirmed() == 0) {
-            ticking.stop();
-            emit finished();
-        }
-    });
+    connect(&client, &FeedClient::confirmed, this, &Replay::sendNext);
 }
 
 void Replay::start() {
     if (day.size() > 0)
         options.from = std::max(options.from, day.timeOf(0));
-    running.start();
-    ticking.start(tickMs);
+    begin = ReplayReader::Clock::now();
+    source = std::make_unique<QueuedSource>(options.run, std::make_unique<ReplayReader>(day, options, begin));
+    source->setTaker(this);
+    source->resume(QString());
 }
 
 std::int64_t Replay::moment() const {
     if (options.speed <= 0)
         return std::numeric_limits<std::int64_t>::max();
-    return options.from +
-           static_cast<std::int64_t>(static_cast<double>(running.elapsed()) * options.speed / 1000);
+    const std::chrono::duration<double> running =
+        source ? ReplayReader::Clock::now() - begin : ReplayReader::Clock::duration(0);
+    return options.from + static_cast<std::int64_t>(running.count() * options.speed);
 }
 
-void Replay::playDue() {
-    const std::int64_t now = moment();
-    while (next < day.size() && day.timeOf(next) <= now && !client.isFull()) {
-        if (!play(next))
+void Replay::sourceReady(FeedSource&) {
+    sendNext();
+}
+
+void Replay::sourceStateChanged(FeedSource& changed) {
+    if (changed.state().kind == SourceState::Failed)
+        emit failed(changed.state().reason);
+}
+
+// A batch is done with when the terminal has all of it.
+void Replay::sendNext() {
+    if (!source || client.unconfirmed() > 0)
+        return;
+    if (std::exchange(isUnderWay, false)) {
+        source->acknowledge({});
+        // Which may have sent the next one.
+        if (isUnderWay)
             return;
-        ++next;
     }
-}
-
-bool Replay::play(std::size_t index) {
-    Result<NewsItem> item = day.item(index);
-    if (!item) {
-        ticking.stop();
-        emit failed(sentence(item.error()));
-        return false;
+    if (source->hasBatch()) {
+        isUnderWay = true;
+        source->read([this](SourceItem&& item) {
+            const QString position = sentence(item.place);
+            client.send(itemLine(std::get<NewsItem>(item.content.value()), position).chopped(1), position);
+            ++sent;
+            return true;
+        });
+    } else if (source->isDone()) {
+        emit finished();
     }
-    NewsItem& news = item.value();
-    if (options.asNew) {
-        news.identity = options.run + u':' + news.identity;
-        news.time = host_clock::now();
-        news.sequence.reset();
-    }
-    const QString position = QString::number(index + 1);
-    client.send(itemLine(news, position).chopped(1), position);
-    return true;
 }
 
 }  // namespace wirepane

@@ -3,11 +3,12 @@
 #pragma once
 
 #include "backend/feed/feed_client.h"
+#include "backend/feed/queued_source.h"
 #include "backend/store/stored_day.h"
 
-#include <QElapsedTimer>
 #include <QObject>
-#include <QTimer>
+
+#include <chrono>
 
 namespace wirepane {
 
@@ -18,9 +19,30 @@ struct ReplayOptions {
     QString run;            // the name of this run, unique
 };
 
-// Plays the news of a stored day into a terminal, in its order and with its pauses. What falls due during a
-// break of the connection comes when it is back.
-class Replay : public QObject {
+// Reads the news of a stored day in its order and with its pauses. The position behind an item, which is also
+// its place, is how many have been read with it.
+class ReplayReader : public SourceReader {
+public:
+    using Clock = std::chrono::steady_clock;
+
+    // The day is not owned, outlives the reader and is used by nobody else while it runs. The replay has
+    // begun at `begin`.
+    ReplayReader(StoredDay& day, ReplayOptions options, Clock::time_point begin);
+
+    void run(const QString& position, SourceQueue& queue) override;
+
+private:
+    Clock::time_point dueTime(std::size_t index) const;
+    Done readDue(std::size_t& next, SourceBatch& batch);
+
+    StoredDay& day;
+    ReplayOptions options;
+    Clock::time_point begin;
+};
+
+// Plays the news of a stored day into a terminal. What falls due during a break of the connection comes when
+// it is back.
+class Replay : public QObject, private SourceTaker {
     Q_OBJECT
 
 public:
@@ -29,7 +51,7 @@ public:
 
     // From now on.
     void start();
-    std::size_t played() const { return next; }
+    std::size_t played() const { return sent; }
     // The moment of the day that is being played, in seconds since 1970.
     std::int64_t moment() const;
 
@@ -39,15 +61,17 @@ signals:
     void failed(const QString& sentence);
 
 private:
-    void playDue();
-    bool play(std::size_t index);
+    void sourceReady(FeedSource& source) override;
+    void sourceStateChanged(FeedSource& source) override;
+    void sendNext();
 
     StoredDay& day;
     FeedClient& client;
     ReplayOptions options;
-    std::size_t next = 0;
-    QElapsedTimer running;
-    QTimer ticking;
+    ReplayReader::Clock::time_point begin;
+    std::unique_ptr<QueuedSource> source;  // from start() on
+    bool isUnderWay = false;               // the batch at hand
+    std::size_t sent = 0;
 };
 
 }  // namespace wirepane

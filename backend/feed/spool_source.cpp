@@ -64,7 +64,7 @@ bool isOwnFolder(const QString& path) {
     return info.isDir() && !info.isSymLink();
 }
 
-QString reasonsOf(const PortionOutcome& outcome) {
+QString reasonsOf(const BatchOutcome& outcome) {
     if (outcome.fault)
         return sentence(*outcome.fault) + u'\n';
     QString text;
@@ -91,7 +91,13 @@ Result<std::unique_ptr<SpoolSource>> SpoolSource::open(const QString& folder, co
 }
 
 SpoolSource::SpoolSource(QString path, const SpoolOptions& spoolOptions)
-    : folder(std::move(path)), options(spoolOptions) {}
+    : folder(std::move(path)), options(spoolOptions) {
+    setState(SourceState::Live);
+}
+
+QString SpoolSource::name() const {
+    return QDir::toNativeSeparators(folder);
+}
 
 // A file is whole when it stayed as it is for a while, and nobody has it open for writing, where the system
 // tells.
@@ -114,7 +120,7 @@ bool SpoolSource::isWhole(const QFileInfo& file) {
     return now.since - before->since >= options.quiet.count() && !isOpenForWriting(file.filePath());
 }
 
-bool SpoolSource::hasPortion() {
+bool SpoolSource::hasBatch() {
     if (!current.isEmpty())
         return true;
     const QFileInfoList files =
@@ -157,7 +163,7 @@ Done SpoolSource::read(const ItemVisitor& visit) {
     return read;
 }
 
-void SpoolSource::settle(const PortionOutcome& outcome) {
+void SpoolSource::acknowledge(const BatchOutcome& outcome) {
     const bool isNothing = outcome.totals.takenIn + outcome.totals.alreadyThere == 0;
     const bool isRejected = outcome.fault || (isNothing && outcome.totals.rejected > 0);
     moveAway(isRejected ? u"rejected"_s : u"done"_s, reasonsOf(outcome));
@@ -179,8 +185,8 @@ void SpoolSource::moveAway(const QString& subfolder, const QString& reasons) {
                 file.commit();
         }
         if (QFile::rename(path, moved)) {
-            if (!reasons.isEmpty() && tell)
-                tell(u"%1: %2"_s.arg(QDir::toNativeSeparators(moved), reasons.section(u'\n', 0, 0)));
+            if (!reasons.isEmpty())
+                tellTrouble(u"%1: %2"_s.arg(QDir::toNativeSeparators(moved), reasons.section(u'\n', 0, 0)));
             return;
         }
         QFile::remove(reasonFile(moved));
@@ -190,9 +196,8 @@ void SpoolSource::moveAway(const QString& subfolder, const QString& reasons) {
     if (!stays.exists() && !stays.isSymLink())
         return;
     left[current] = {stays.size(), stays.lastModified(), 0};
-    if (tell)
-        tell(u"%1 cannot be moved to the folder %2. It is left as it is and not taken again."_s.arg(
-            QDir::toNativeSeparators(path), subfolder));
+    tellTrouble(u"%1 cannot be moved to the folder %2. It is left as it is and not taken again."_s.arg(
+        QDir::toNativeSeparators(path), subfolder));
 }
 
 }  // namespace wirepane

@@ -26,22 +26,18 @@ struct SpoolOptions {
 //
 // Not taken: names that start with "." or end with ".part", ".tmp" or ".filepart", and files that were
 // changed or are being written. Folders are left alone; whatever else is no file (a link, a pipe) is
-// rejected. A file that cannot be moved away is taken once and then left.
+// rejected. A file that cannot be moved away is taken once and then left. Whoever runs the spool is told of
+// each file that was rejected or could not be moved, once.
 class SpoolSource : public FeedSource {
 public:
     // Makes the two folders. The error says why the folder cannot be used.
     static Result<std::unique_ptr<SpoolSource>> open(const QString& folder, const SpoolOptions& options = {});
 
-    // A sentence about each file that was rejected or could not be moved, once; for whoever runs the spool.
-    void onTrouble(std::function<void(const QString&)> callback) { tell = std::move(callback); }
-
-    // The folder is its own memory: what is in it has not been taken.
-    QString name() const override { return {}; }
-    void resume(const QString&) override {}
-    bool hasPortion() override;
+    // The folder is its own memory: what is in it has not been taken, and no position need be kept.
+    QString name() const override;
+    bool hasBatch() override;
     Done read(const ItemVisitor& visit) override;
-    QString position() const override { return {}; }
-    void settle(const PortionOutcome& outcome) override;
+    void acknowledge(const BatchOutcome& outcome) override;
 
 private:
     // How a file looked.
@@ -63,7 +59,6 @@ private:
     QHash<QString, Look> seen;  // files that may still be written
     QHash<QString, Look> left;  // files that were done with and could not be moved
     QString current;            // the name of the file at hand; empty: none
-    std::function<void(const QString&)> tell;
 };
 
 }  // namespace wirepane

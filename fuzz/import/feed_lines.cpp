@@ -45,17 +45,16 @@ void promiseSameLine(const QByteArray& line) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const QList<QByteArray> lines = FuzzInput(bytes, size).bytes().split('\n');
     LineSource source;
-    qint64 greetings = 0;
     qint64 taken = 0;
-    source.onHello([&](const FeedHello&) { ++greetings; });
     for (const QByteArray& line : lines) {
         promiseSameLine(line);
         source.add(line);
     }
+    const qint64 greetings = source.awaitsPosition() ? 1 : 0;
     source.onReceipt([&](const LineSource::Receipt& receipt) { taken = receipt.lines; });
-    while (source.hasPortion()) {
+    while (source.hasBatch()) {
         source.read([](SourceItem&&) { return true; });
-        source.settle({});
+        source.acknowledge({});
     }
     promise(greetings + taken == lines.size() && !source.isFull(), "every line is accounted for");
     return 0;

@@ -4,7 +4,6 @@
 
 #include "backend/feed/feed_client.h"
 #include "backend/feed/feed_connection.h"
-#include "backend/feed/line_source.h"
 #include "backend/lines/standard_channel.h"
 #include "backend/store/store_writer.h"
 #include "terminal/commands/command_arguments.h"
@@ -39,89 +38,76 @@ int endWith(StandardChannel& channel, const ImportTotals& totals) {
     return totals.rejected > 0 ? exitPartly : exitDone;
 }
 
-// Lines from standard input into a store, a portion whenever nothing more is at hand.
-class StoreFeed : public QObject {
+// Lines from standard input into a store, a batch whenever nothing more is at hand.
+class StoreFeed : public QObject, private SourceTaker {
 public:
-    StoreFeed(Database& database, StandardChannel& input, unsigned char service, bool receipts)
-        : store(database), writer(database), channel(input), lines(service) {
-        lines.onHello([this, receipts](const FeedHello& hello) {
-            const Result<QString> position = writer.positionOf(hello.source);
-            if (receipts && position)
-                channel.send(positionLine(position.value()));
-        });
-        lines.onReceipt([this, receipts](const LineSource::Receipt& receipt) {
-            totals += receipt.outcome.totals;
-            for (const Rejection& rejection : receipt.outcome.rejections)
-                showRejection(sentence(*rejection.place), sentence(rejection.reason));
-            if (receipts)
-                channel.send(receiptLine(receipt));
-            channel.setHeld(lines.isFull());
-        });
+    StoreFeed(Database& database, StandardChannel& input, unsigned char service,
+              FeedConnection::Answers answers)
+        : store(database), writer(database), lines(&input, service, std::chrono::hours(1), answers) {
+        lines.setTaker(this);
         pumping.setSingleShot(true);
         connect(&pumping, &QTimer::timeout, this, &StoreFeed::pump);
-        connect(&channel, &LineChannel::lineReceived, this, [this](const QByteArray& line) {
-            lines.add(line);
-            channel.setHeld(lines.isFull());
-            pumpSoon();
-        });
-        connect(&channel, &LineChannel::lineTooLong, this, [this] {
-            lines.addRejected(u"The line is too long."_s);
-            pumpSoon();
-        });
-        connect(&channel, &LineChannel::ended, this, [this] {
-            hasEnded = true;
-            pumpSoon();
-        });
     }
 
     ImportTotals totals;
     QString failure;
 
 private:
+    void sourceReady(FeedSource& source) override {
+        resumeSource(source, writer);
+        pumpSoon();
+    }
     void pumpSoon() {
         if (!pumping.isActive())
             pumping.start(retries > 0 ? retryMs : 0);
     }
     void pump() {
-        if (lines.hasPortion()) {
-            const Result<PortionOutcome> taken = takePortion(lines, writer);
-            if (taken)
-                lines.settle(taken.value());
-            retries = taken ? 0 : retries + 1;
-            // No trying again mends a damaged store.
-            if (!store.damage().isEmpty())
-                retries = mostRetries + 1;
-            if (retries == 1)
-                printNote(sentence(taken.error()));
-            if (retries > mostRetries) {
-                failure = sentence(taken.error());
-                QCoreApplication::exit(exitUnusable);
-                return;
-            }
-        }
-        if (lines.hasPortion())
+        if (lines.hasBatch() && !takeNext())
+            return;
+        if (lines.hasBatch())
             pumpSoon();
-        else if (hasEnded)
+        else if (lines.isDone())
             QCoreApplication::exit(exitDone);
+    }
+    // False: the store cannot be written, and it is over.
+    bool takeNext() {
+        const Result<BatchOutcome> taken = takeBatch(lines, writer);
+        if (taken) {
+            totals += taken.value().totals;
+            for (const Rejection& rejection : taken.value().rejections)
+                showRejection(sentence(*rejection.place), sentence(rejection.reason));
+            lines.acknowledge(taken.value());
+            retries = 0;
+            return true;
+        }
+        ++retries;
+        // No trying again mends a damaged store.
+        if (!store.damage().isEmpty())
+            retries = mostRetries + 1;
+        if (retries == 1)
+            printNote(sentence(taken.error()));
+        if (retries <= mostRetries)
+            return true;
+        failure = sentence(taken.error());
+        QCoreApplication::exit(exitUnusable);
+        return false;
     }
 
     Database& store;
     StoreWriter writer;
-    StandardChannel& channel;
-    LineSource lines;
+    FeedConnection lines;
     QTimer pumping;
     int retries = 0;
-    bool hasEnded = false;
 };
 
-int feedStore(const QString& storeFile, unsigned char service, bool receipts) {
+int feedStore(const QString& storeFile, unsigned char service, FeedConnection::Answers answers) {
     const auto store = openOrMakeStore(storeFile, indexingLines());
     if (!store) {
         printNote(sentence(store.error()));
         return exitUnusable;
     }
     StandardChannel channel;
-    const StoreFeed feed(*store.value(), channel, service, receipts);
+    const StoreFeed feed(*store.value(), channel, service, answers);
     if (QCoreApplication::exec() != exitDone) {
         printNote(u"What was not confirmed has not been taken: %1"_s.arg(feed.failure));
         return exitUnusable;
@@ -191,9 +177,11 @@ int runFeed() {
             arguments.rest().constFirst()));
     if (const auto status = arguments.fault())
         return *status;
-    return arguments.parser.isSet(u"to"_s)
-               ? feedTerminal(arguments.parser.value(u"to"_s), service)
-               : feedStore(arguments.storeFile(), service, arguments.parser.isSet(u"receipts"_s));
+    if (arguments.parser.isSet(u"to"_s))
+        return feedTerminal(arguments.parser.value(u"to"_s), service);
+    const bool receipts = arguments.parser.isSet(u"receipts"_s);
+    return feedStore(arguments.storeFile(), service,
+                     receipts ? FeedConnection::Answers::All : FeedConnection::Answers::None);
 }
 
 }  // namespace wirepane

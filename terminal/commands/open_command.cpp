@@ -3,6 +3,7 @@
 #include "terminal/commands/open_command.h"
 
 #include "backend/feed/feed_name.h"
+#include "backend/feed/source_kinds.h"
 #include "backend/lines/standard_channel.h"
 #include "terminal/automation/automation.h"
 #include "terminal/commands/command_arguments.h"
@@ -32,8 +33,7 @@ struct OpenOptions {
     QString language;  // empty: as the settings say
     QString automationSocket;
     QString tourFolder;
-    QString spoolFolder;
-    QString feedName;
+    std::vector<SourceRequest> sources;
     bool automation = false;  // on standard input and output
     bool sample = false;
     bool noSample = false;
@@ -51,6 +51,13 @@ bool hasDisplay() {
 #endif
 }
 
+QString kindsOfSources() {
+    QStringList kinds;
+    for (const SourceKind& kind : sourceKinds())
+        kinds += kind.name + u':' + QString(kind.value).toUpper();
+    return kinds.join(u", "_s);
+}
+
 void addOptions(QCommandLineParser& parser) {
     parser.addOptions({
         {u"config"_s, u"The folder of settings and layout. Default: %1."_s.arg(defaultConfigFolder()),
@@ -62,12 +69,28 @@ void addOptions(QCommandLineParser& parser) {
         {u"workspace"_s, u"With automation: opens the user's views, and keeps them."_s},
         {u"automation"_s, u"Is driven by JSON-RPC on standard input and output."_s},
         {u"automation-socket"_s, u"Is driven by JSON-RPC on a local socket."_s, u"name"_s},
+        {u"source"_s, u"Takes news from a live source: %1."_s.arg(kindsOfSources()), u"kind:value"_s},
         {u"spool"_s, u"Takes news from the files that are put into the folder."_s, u"folder"_s},
         {u"feed"_s, u"The name under which feeds and replays find this terminal."_s, u"name"_s},
         {u"tour"_s,
          u"Shows itself off screen on the sample wire and writes pictures, pages and saved news into the folder."_s,
          u"folder"_s},
     });
+}
+
+std::vector<SourceRequest> sourcesFrom(CommandArguments& arguments) {
+    std::vector<SourceRequest> sources;
+    for (const QString& kind : {u"spool"_s, u"feed"_s}) {
+        if (const QString value = arguments.parser.value(kind); !value.isEmpty())
+            sources.push_back({kind, value});
+    }
+    for (const QString& given : arguments.parser.values(u"source"_s)) {
+        const SourceRequest request{given.section(u':', 0, 0), given.section(u':', 1)};
+        if (sourceKind(request.kind) == nullptr || request.value.isEmpty())
+            arguments.fail(u"--source takes one of %1, not \"%2\"."_s.arg(kindsOfSources(), given));
+        sources.push_back(request);
+    }
+    return sources;
 }
 
 OpenOptions openOptions(CommandArguments& arguments) {
@@ -85,11 +108,10 @@ OpenOptions openOptions(CommandArguments& arguments) {
     options.language = parser.value(u"lang"_s);
     options.workspace = parser.isSet(u"workspace"_s);
     options.sample = parser.isSet(u"sample"_s);
-    options.spoolFolder = parser.value(u"spool"_s);
     options.noSample = parser.isSet(u"no-sample"_s);
-    options.feedName = parser.value(u"feed"_s);
+    options.sources = sourcesFrom(arguments);
     if (!parser.isSet(u"feed"_s) && !options.isScripted() && !options.tour)
-        options.feedName = defaultFeedName;
+        options.sources.push_back({u"feed"_s, defaultFeedName});
     if (!options.language.isEmpty() && !Languages::codes().contains(options.language))
         arguments.fail(u"--lang takes one of %1."_s.arg(Languages::codes().join(u", "_s)));
     if (!arguments.rest().isEmpty())
@@ -145,7 +167,7 @@ int runForScripts(Session& session, const OpenOptions& options, StandardChannel*
 int runOpened(const OpenOptions& options, StandardChannel* channel) {
     const bool sample = options.sample || (!options.isScripted() && !options.noSample);
     const auto session = Session::open({options.storeFile, options.configFolder, options.language, sample,
-                                        options.spoolFolder, options.feedName, !options.isScripted()});
+                                        options.sources, !options.isScripted()});
     if (!session) {
         printNote(sentence(session.error()));
         return exitUnusable;

@@ -111,7 +111,7 @@ void MainFrame::showChoices(const MenuState& state) {
 
 void MainFrame::showStatus(const FrameStatus& status) {
     feedLabel->setText(withLamp(status.feed, status.isLive));
-    feedLabel->setToolTip(status.feedTrouble.toHtmlEscaped());
+    feedLabel->setToolTip(status.feedTip.toHtmlEscaped().replace(u'\n', u"<br>"_s));
     storeLabel->setText(QDir::toNativeSeparators(status.storeFile));
     servicesLabel->setText(terminalText(TextId::ServicesCount).arg(status.services));
     asOfLabel->setText(status.asOf.isEmpty() ? QString() : terminalText(TextId::AsOf).arg(status.asOf));

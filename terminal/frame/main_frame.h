@@ -18,8 +18,8 @@ class ViewDesk;
 
 // What the status bar says.
 struct FrameStatus {
-    QString feed;         // how the terminal stands to its sources of news
-    QString feedTrouble;  // a sentence; empty: there is none
+    QString feed;     // how the terminal stands to its sources of news
+    QString feedTip;  // how its sources stand, in lines
     bool isLive = true;
     QString storeFile;
     int services = 0;

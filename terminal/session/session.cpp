@@ -3,6 +3,7 @@
 #include "terminal/session/session.h"
 
 #include "backend/feed/feed_name.h"
+#include "backend/feed/source_kinds.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
 #include "terminal/frame/symbol_box.h"
@@ -45,6 +46,33 @@ QString feedText(const FeedState& state) {
         return terminalText(TextId::OfflineSince)
             .arg(QDateTime::fromSecsSinceEpoch(state.since).toString(u"HH:mm"_s));
     return state.late > 0 ? terminalText(TextId::FeedLate).arg(state.late) : terminalText(TextId::FeedLive);
+}
+
+QString sourceText(const SourceState& state) {
+    const QString since = QDateTime::fromSecsSinceEpoch(state.since).toString(u"HH:mm"_s);
+    switch (state.kind) {
+        case SourceState::Connecting:
+            return terminalText(TextId::SourceConnecting);
+        case SourceState::Live:
+            return terminalText(TextId::FeedLive);
+        case SourceState::Stale:
+            return terminalText(TextId::SourceStale).arg(since);
+        case SourceState::Offline:
+            return terminalText(TextId::OfflineSince).arg(since);
+        case SourceState::Failed:
+            break;
+    }
+    return terminalText(TextId::SourceFailed).arg(since, state.reason);
+}
+
+// What stands in the way of the feed, then how its sources stand, a line each.
+QString feedTip(const LiveFeed& feed) {
+    QStringList lines;
+    if (const QString trouble = feed.state().trouble; !trouble.isEmpty())
+        lines += trouble;
+    for (const SourceReport& source : feed.sources())
+        lines += u"%1: %2"_s.arg(source.name, sourceText(source.state));
+    return lines.join(u'\n');
 }
 
 // Whether the topics of the news, or the language of the terminal, are in Chinese, and no font has it. The
@@ -157,6 +185,7 @@ void Session::connectParts() {
                 box.showSymbol(group, known != nullptr ? *known : symbol);
             });
     connect(liveFeed.get(), &LiveFeed::stateChanged, this, &Session::showStatus);
+    connect(liveFeed.get(), &LiveFeed::sourcesChanged, this, &Session::showStatus);
     connect(&clock, &QTimer::timeout, this, [this] {
         if (asOfText() != shownAsOf)
             showStatus();
@@ -192,17 +221,17 @@ void Session::tellDatedAhead(unsigned char service, std::int64_t time) {
 
 Done Session::startFeed(const SessionOptions& options) {
     liveFeed = std::make_unique<LiveFeed>(*store);
-    if (!options.spoolFolder.isEmpty()) {
-        if (const Done watched = liveFeed->watch(options.spoolFolder); !watched)
-            return watched;
+    for (const SourceRequest& request : options.sources) {
+        const SourceKind* kind = sourceKind(request.kind);
+        if (kind == nullptr)
+            return Error{u"There is no kind of source called \"%1\"."_s.arg(request.kind)};
+        const Done opened = liveFeed->open(*kind, request.value);
+        // Under the common name, another terminal may have been first.
+        if (!opened && request.value == defaultFeedName)
+            feedNotice = sentence(opened.error());
+        else if (!opened)
+            return opened;
     }
-    if (options.feedName.isEmpty())
-        return Nothing{};
-    Done listening = liveFeed->listen(options.feedName);
-    if (listening || options.feedName != defaultFeedName)
-        return listening;
-    // Under the common name, another terminal may have been first.
-    feedNotice = sentence(listening.error());
     return Nothing{};
 }
 
@@ -296,7 +325,7 @@ void Session::showStatus() {
     std::erase(services, warrantService);
     const FeedState feedState = liveFeed->state();
     shownAsOf = asOfText();
-    mainFrame->showStatus({feedText(feedState), feedState.trouble, feedState.kind == FeedState::Live,
+    mainFrame->showStatus({feedText(feedState), feedTip(*liveFeed), feedState.kind == FeedState::Live,
                            storeFile, static_cast<int>(services.size()), shownAsOf});
 }
 

@@ -23,16 +23,22 @@
 
 #include <memory>
 #include <set>
+#include <vector>
 
 namespace wirepane {
+
+// A live source that is wanted: a kind of source_kinds.h, and what it takes.
+struct SourceRequest {
+    QString kind;
+    QString value;
+};
 
 struct SessionOptions {
     QString storeFile;           // made when absent
     QString configFolder;        // made when absent
     QString language;            // empty: as set before, or as the system is set
     bool sampleWhenNew = false;  // a store without headlines is filled with the sample wire
-    QString spoolFolder = {};    // empty: none
-    QString feedName = {};       // the local socket for feeds; empty: none
+    std::vector<SourceRequest> sources = {};
     // A user waits: what takes long before the windows open is told in one of its own.
     bool tellsProgress = false;
 };

@@ -1443,6 +1443,18 @@
         <source></source>
         <translation>Adds a tab with the news that contain your warning terms.</translation>
     </message>
+    <message id="TERMINAL_SOURCE_CONNECTING">
+        <source></source>
+        <translation>Connecting…</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_FAILED">
+        <source></source>
+        <translation>Failed since %1: %2</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_STALE">
+        <source></source>
+        <translation>Nothing new since %1</translation>
+    </message>
     <message id="TERMINAL_SYMBOL_BAR">
         <source></source>
         <translation>Symbol</translation>

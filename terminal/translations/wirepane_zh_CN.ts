@@ -1443,6 +1443,18 @@
         <source></source>
         <translation>增加标签页，列出含有警示词的新闻。</translation>
     </message>
+    <message id="TERMINAL_SOURCE_CONNECTING">
+        <source></source>
+        <translation>连接中…</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_FAILED">
+        <source></source>
+        <translation>失败（自 %1）：%2</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_STALE">
+        <source></source>
+        <translation>无新消息（自 %1）</translation>
+    </message>
     <message id="TERMINAL_SYMBOL_BAR">
         <source></source>
         <translation>代码</translation>

@@ -1443,6 +1443,18 @@
         <source></source>
         <translation>新增分頁，列出含有警示詞的新聞。</translation>
     </message>
+    <message id="TERMINAL_SOURCE_CONNECTING">
+        <source></source>
+        <translation>連線中…</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_FAILED">
+        <source></source>
+        <translation>失敗（自 %1）：%2</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_STALE">
+        <source></source>
+        <translation>無新消息（自 %1）</translation>
+    </message>
     <message id="TERMINAL_SYMBOL_BAR">
         <source></source>
         <translation>商品</translation>

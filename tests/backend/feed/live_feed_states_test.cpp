@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "backend/feed/live_feed.h"
+#include "backend/feed/socket_source.h"
+#include "backend/feed/spool_source.h"
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/store_checker.h"
 #include "backend/store/store_file.h"
@@ -37,7 +39,9 @@ protected:
         QObject::connect(feed.get(), &LiveFeed::stateChanged, feed.get(), [this] { states += nameOf(); });
         QObject::connect(feed.get(), &LiveFeed::trouble, feed.get(),
                          [this](const QString& sentence) { told += sentence; });
-        EXPECT_TRUE(feed->watch(folder.filePath(u"spool"_s), {std::chrono::milliseconds(0), 1'000'000, {}}));
+        feed->addSource(std::move(
+            SpoolSource::open(folder.filePath(u"spool"_s), {std::chrono::milliseconds(0), 1'000'000, {}})
+                .value()));
     }
     ~LiveFeedStatesTest() override { backEnd->Detach(&listener); }
 
@@ -135,7 +139,7 @@ TEST_F(LiveFeedStatesTest, AStoreThatAnotherProgramKeepsBusyStopsNeitherTheWindo
 TEST_F(LiveFeedStatesTest, ASenderWaitsWhileTheStoreCannotBeWritten) {
     const auto other = openStore(store);
     ASSERT_TRUE(other && other.value()->execute("BEGIN IMMEDIATE"));
-    ASSERT_TRUE(feed->listen(folder.filePath(u"feed"_s)));
+    feed->addSource(std::make_shared<SocketSource>(folder.filePath(u"feed"_s)));
     QLocalSocket sender;
     sender.connectToServer(folder.filePath(u"feed"_s));
     ASSERT_TRUE(sender.waitForConnected());

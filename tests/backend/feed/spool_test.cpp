@@ -16,14 +16,16 @@ namespace {
 
 const SpoolOptions atOnce{std::chrono::milliseconds(0), 100'000, {}};
 
-class SpoolTest : public FeedFixture {
+class SpoolTest : public FeedFixture, public SourceTaker {
 protected:
     SpoolTest() { open(atOnce); }
 
     void open(const SpoolOptions& options) {
         spool = std::move(SpoolSource::open(folder.filePath(u"spool"_s), options).value());
-        spool->onTrouble([this](const QString&) { ++troubles; });
+        spool->setTaker(this);
     }
+    void sourceReady(FeedSource&) override {}
+    void sourceTrouble(const QString&) override { ++troubles; }
     QString path(const QString& name) const { return folder.filePath(u"spool/"_s + name); }
     void put(const QString& name, const QByteArray& content, int secondsAgo = 0) {
         QFile file(path(name));
@@ -32,16 +34,16 @@ protected:
                                                      QFileDevice::FileModificationTime));
     }
     int takeAll() {
-        int portions = 0;
-        while (spool->hasPortion() && portions < 1000) {
-            const Result<PortionOutcome> taken = takePortion(*spool, *writer);
+        int batches = 0;
+        while (spool->hasBatch() && batches < 1000) {
+            const Result<BatchOutcome> taken = takeBatch(*spool, *writer);
             EXPECT_TRUE(taken);
             if (!taken)
                 break;
-            spool->settle(taken.value());
-            ++portions;
+            spool->acknowledge(taken.value());
+            ++batches;
         }
-        return portions;
+        return batches;
     }
     QStringList filesIn(const QString& subfolder) const {
         return QDir(path(subfolder)).entryList(QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
@@ -107,11 +109,11 @@ TEST_F(SpoolTest, WhatIsBeingWrittenIsNotTaken) {
     // Where the system does not tell, a file must have been quiet.
     this->open({std::chrono::milliseconds(150), 100'000, {}});
     put(u"slow.jsonl"_s, record(u"s"_s, u"Half"_s).left(20));
-    EXPECT_FALSE(spool->hasPortion());
+    EXPECT_FALSE(spool->hasBatch());
     QTest::qWait(100);
     put(u"slow.jsonl"_s, record(u"s"_s, u"Whole"_s) + '\n');
     QTest::qWait(100);
-    EXPECT_FALSE(spool->hasPortion());
+    EXPECT_FALSE(spool->hasBatch());
     EXPECT_TRUE(QTest::qWaitFor([this] { return takeAll() == 1; }));
     EXPECT_EQ(titles(), (QStringList{u"Open"_s, u"Whole"_s}));
 }
@@ -181,8 +183,8 @@ TEST_F(SpoolTest, AStoreThatFailsLeavesTheFileInTheSpool) {
     FailingSink sink(*writer);
     for (const auto moment : {FailingSink::Begin, FailingSink::TakeSecond, FailingSink::Commit}) {
         sink.failsAt = moment;
-        ASSERT_TRUE(spool->hasPortion());
-        EXPECT_FALSE(takePortion(*spool, sink));
+        ASSERT_TRUE(spool->hasBatch());
+        EXPECT_FALSE(takeBatch(*spool, sink));
         EXPECT_EQ(filesIn({}), QStringList{u"a.jsonl"_s});
         EXPECT_EQ(titles(), QStringList{});
     }

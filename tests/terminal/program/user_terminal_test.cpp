@@ -75,7 +75,7 @@ TEST_F(UserTerminalTest, ATerminalWhoseCommonFeedNameIsTakenOpensAndSaysSo) {
     const auto other = OwnSocket::listen(path);
     ASSERT_TRUE(other) << sentence(other.error()).toStdString();
     SessionOptions options{scratch.path(u"news.wirepane"_s), scratch.path(u"config"_s), u"en"_s, false};
-    options.feedName = defaultFeedName;
+    options.sources = {{u"feed"_s, defaultFeedName}};
     const auto session = Session::open(options);
     qputenv("XDG_RUNTIME_DIR", before);
     ASSERT_TRUE(session) << sentence(session.error()).toStdString();

@@ -9,13 +9,13 @@ namespace wirepane {
 
 namespace {
 
-using TakePortionTest = FeedFixture;
+using TakeBatchTest = FeedFixture;
 
 QByteArray positioned(const QByteArray& record, int position) {
     return "{\"wirepane\":{\"position\":\"" + QByteArray::number(position) + "\",\"ninjs\":" + record + "}}";
 }
 
-TEST_F(TakePortionTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
+TEST_F(TakeBatchTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
     LineSource source;
     QStringList receipts;
     source.onReceipt([&](const LineSource::Receipt& receipt) {
@@ -26,36 +26,36 @@ TEST_F(TakePortionTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
     });
     QStringList places;
     source.add(helloLine({u"wire"_s, 16}));
-    EXPECT_FALSE(source.hasPortion());
+    EXPECT_FALSE(source.hasBatch());
     source.add(positioned(record(u"a"_s, u"A"_s), 1));
     source.add("rubbish");
     source.addRejected(u"too long"_s);
     source.add(helloLine({u"other"_s, 1}));
     source.add(positioned(record(u"a"_s, u"A"_s), 2));
-    const Result<PortionOutcome> taken = takePortion(source, *writer);
+    const Result<BatchOutcome> taken = takeBatch(source, *writer);
     ASSERT_TRUE(taken);
     EXPECT_EQ(receipts, QStringList{});
-    source.settle(taken.value());
+    source.acknowledge(taken.value());
     for (const Rejection& rejection : taken.value().rejections)
         places += sentence(*rejection.place);
     EXPECT_EQ(receipts, QStringList{u"5: 1 1 3"_s});
     EXPECT_EQ(places, (QStringList{u"line 2"_s, u"line 3"_s, u"line 4"_s}));
     EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2"_s);
-    EXPECT_FALSE(source.hasPortion());
+    EXPECT_FALSE(source.hasBatch());
 
     for (int i = 0; i < 2500; ++i)
         source.add(positioned(record(QString::number(i), u"N"_s), 10 + i));
-    while (source.hasPortion()) {
-        const Result<PortionOutcome> next = takePortion(source, *writer);
+    while (source.hasBatch()) {
+        const Result<BatchOutcome> next = takeBatch(source, *writer);
         ASSERT_TRUE(next);
-        source.settle(next.value());
+        source.acknowledge(next.value());
     }
     EXPECT_EQ(receipts.mid(1), (QStringList{u"1005: 1000 0 0"_s, u"2005: 1000 0 0"_s, u"2505: 500 0 0"_s}));
     EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2509"_s);
 }
 
-// Who takes a portion keeps others waiting.
-TEST_F(TakePortionTest, PortionsAreBoundedInSizeAndTime) {
+// Who takes a batch keeps others waiting.
+TEST_F(TakeBatchTest, BatchesAreBoundedInSizeAndTime) {
     LineSource source(1, std::chrono::milliseconds(5));
     for (int i = 0; i < 30; ++i)
         source.add(QByteArray(100'000, 'x'));
@@ -67,19 +67,19 @@ TEST_F(TakePortionTest, PortionsAreBoundedInSizeAndTime) {
             ++lines;
             return true;
         }));
-        source.settle({});
+        source.acknowledge({});
         return lines;
     };
     EXPECT_LE(takeWith(std::chrono::milliseconds(0)), 6);
     EXPECT_EQ(takeWith(std::chrono::milliseconds(20)), 1);
     EXPECT_LE(takeWith(std::chrono::milliseconds(3)), 2);
     EXPECT_TRUE(source.isFull());
-    while (source.hasPortion())
+    while (source.hasBatch())
         takeWith(std::chrono::milliseconds(0));
     EXPECT_FALSE(source.isFull());
 }
 
-TEST_F(TakePortionTest, AStoreThatFailsKeepsThePortionForLater) {
+TEST_F(TakeBatchTest, AStoreThatFailsKeepsTheBatchForLater) {
     FailingSink sink(*writer);
     LineSource source;
     int receipts = 0;
@@ -90,13 +90,13 @@ TEST_F(TakePortionTest, AStoreThatFailsKeepsThePortionForLater) {
     for (const auto moment :
          {FailingSink::Begin, FailingSink::TakeSecond, FailingSink::Keep, FailingSink::Commit}) {
         sink.failsAt = moment;
-        EXPECT_FALSE(takePortion(source, sink)) << moment;
+        EXPECT_FALSE(takeBatch(source, sink)) << moment;
         EXPECT_EQ(titles(), QStringList{}) << moment;
         EXPECT_EQ(writer->positionOf(u"wire"_s).value(), QString()) << moment;
         EXPECT_EQ(receipts, 0) << moment;
     }
     sink.failsAt = FailingSink::Never;
-    EXPECT_TRUE(takePortion(source, sink));
+    EXPECT_TRUE(takeBatch(source, sink));
     EXPECT_EQ(titles(), (QStringList{u"A"_s, u"B"_s}));
 }
 

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/feed/store_watch.h"
+
+#include "backend/store/embedded_back_end.h"
+
+#include <QDir>
+
+namespace wirepane {
+
+QString StoreWatch::name() const {
+    return QDir::toNativeSeparators(backEnd.storePath());
+}
+
+void StoreWatch::poll() {
+    const QString trouble = backEnd.storeTrouble();
+    setState(!trouble.isEmpty() ? SourceState::Failed
+             : isOnline         ? SourceState::Live
+                                : SourceState::Offline,
+             trouble);
+    if (isOnline)
+        backEnd.checkForNews();
+}
+
+void StoreWatch::setOnline(bool on) {
+    isOnline = on;
+    if (state().kind != SourceState::Failed)
+        FeedSource::setOnline(on);
+}
+
+}  // namespace wirepane
