@@ -88,13 +88,14 @@ TEST(QuoteTable, ReadsRowsAndRejectsBadOnes) {
 
 TEST(CategoryTable, ReadsRowsAndRejectsBadOnes) {
     const auto out = readAll(
-        "Service,ID,Name,Colour\n1,7,Economy,#FF0000\n52,-1,x,\n1,8,Plain,\n1,9,,\n1,10,x,red\n300,1,x,\n");
+        "Service,ID,Name,Colour\n1,7,Economy,#FF0000\n52,-1,x,\n1,0,Plain,\n1,9,,\n1,10,x,red\n300,1,x,\n");
     ASSERT_EQ(out.items.size(), 2U);
     const auto& first = std::get<CategoryItem>(out.items.front());
     EXPECT_EQ(first.service, 1);
     EXPECT_EQ(first.id, 7);
     EXPECT_EQ(first.name, u"Economy");
     EXPECT_EQ(first.colour, u"#ff0000");
+    EXPECT_EQ(std::get<CategoryItem>(out.items.back()).id, 0);
     EXPECT_EQ(std::get<CategoryItem>(out.items.back()).colour, u"");
     EXPECT_EQ(out.rejections.size(), 4U);
     EXPECT_EQ(out.rejections.at(2).reason, u"“red” is not a colour: it must be as “#rrggbb”.");
