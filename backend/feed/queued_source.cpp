@@ -21,10 +21,7 @@ void QueuedSource::resume(const Result<QString>& position) {
     }
     isWaiting = false;
     setState(SourceState::Connecting);
-    queue = std::make_unique<SourceQueue>([this] {
-        QMetaObject::invokeMethod(
-            &eventLoop, [this] { arrived(); }, Qt::QueuedConnection);
-    });
+    queue = std::make_unique<SourceQueue>([this] { calls.post([this] { arrived(); }); });
     thread = std::make_unique<WorkerThread>();
     thread->post([from = position.value(), way = queue.get(), this] {
         reader->run(from, *way);
@@ -37,6 +34,7 @@ void QueuedSource::stop() {
         queue->close();
     thread.reset();
     queue.reset();
+    calls.clear();
     isRead = false;
 }
 

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/call_queue.h"
 #include "backend/feed/source_queue.h"
 #include "backend/worker_thread.h"
-
-#include <QObject>
 
 #include <memory>
 
@@ -46,7 +45,7 @@ private:
 
     QString ownName;
     std::unique_ptr<SourceReader> reader;
-    QObject eventLoop;
+    CallQueue calls;                     // for the interface thread
     std::unique_ptr<SourceQueue> queue;  // of the reading that is under way; null: none is
     std::unique_ptr<WorkerThread> thread;
     bool isWaiting = true;  // for its position
