@@ -175,23 +175,25 @@ void SentAgain::readNowOrWhenShown(ListIndex list) {
 }
 
 void SentAgain::readAgain(ListIndex list) {
-    context.readInPlace(list, [this, list] {
-        switch (list) {
-            case ListIndex::All:
-                return parts.lists.bRebuild(list, TableKind::ByDate, choices.dateKey());
-            case ListIndex::Category:
-                return parts.lists.bRebuild(list, TableKind::ByCategory,
-                                            choices.categoryId().value_or(QString()));
-            case ListIndex::Symbol:
-                return parts.lists.bRebuildSymbol(choices.listedSymbol());
-            case ListIndex::Relation:
-                return readRelation();
-            case ListIndex::Warrant:
-                return parts.lists.bRebuildWarrant(choices.dateKey());
-            default:
-                return false;
-        }
-    });
+    context.readInPlace(list, [this, list] { return read(list); });
+}
+
+bool SentAgain::read(ListIndex list) {
+    switch (list) {
+        case ListIndex::All:
+            return parts.lists.bRebuild(list, TableKind::ByDate, choices.dateKey());
+        case ListIndex::Category:
+            return parts.lists.bRebuild(list, TableKind::ByCategory,
+                                        choices.categoryId().value_or(QString()));
+        case ListIndex::Symbol:
+            return parts.lists.bRebuildSymbol(choices.listedSymbol());
+        case ListIndex::Relation:
+            return readRelation();
+        case ListIndex::Warrant:
+            return parts.lists.bRebuildWarrant(choices.dateKey());
+        default:
+            return false;
+    }
 }
 
 bool SentAgain::readRelation() {

@@ -41,7 +41,9 @@ public:
     void takeCategoryTable(const CHeadlineTableInfo& info);
     void takeSymbolTable(const CHeadlineTableInfo& info);
 
-    // Reads a list anew; what the reader looks at stays where it is.
+    // Reads a list anew, for what it stands at the moment. True when it has rows.
+    bool read(ListIndex list);
+    // The same; what the reader looks at stays where it is.
     void readAgain(ListIndex list);
     // A list that was never shown is read when it is; those of symbols and warrants are at every switch to
     // them.

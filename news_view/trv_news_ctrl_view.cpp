@@ -69,7 +69,10 @@ TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
               [this](const CHeadline& headline, const QString& categoryId) {
                   searches->notePushed(headline);
                   categories->notePushed(headline, categoryId);
-              }})) {
+              }})),
+      modes(context(), common, stage, modeCalls()),
+      arrangement(context(), common, stage, arrangementCalls()),
+      builder(*this, common, stage, builderCalls()) {
     lists.vSetOnRead([this] { vPlaceNotices(); });
 }
 
@@ -175,56 +178,21 @@ void TRVNewsCtrlView::OnChangeSize(quintptr sender) {
 // --- Lists ---
 
 bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
-    const auto index = ListOfNumber(number);
-    if (!index || *index == ListIndex::WarningTerm || List(*index).pGetGrid() == nullptr)
-        return false;
-    bool hasRows = true;
-    switch (*index) {
-        case ListIndex::All:
-            hasRows = lists.bRebuild(ListIndex::All, TableKind::ByDate, days->pickedKey());
-            break;
-        case ListIndex::Category:
-            List(*index).vRefill();
-            return true;
-        case ListIndex::Symbol:
-            return symbolMode->readFirst();
-        case ListIndex::Search: {
-            const bool warningTerms =
-                switches.showWarningSearch &&
-                (currentMode == static_cast<int>(ListIndex::WarningTerm) || switches.showNormalSearch);
-            List(warningTerms ? ListIndex::WarningTerm : ListIndex::Search).vRefill();
-            return true;
-        }
-        case ListIndex::Relation:
-            hasRows = lists.bRebuild(*index, TableKind::ByDate, DateKey(host_clock::today()),
-                                     &standingSearches->tickedKeySets());
-            break;
-        case ListIndex::Warrant:
-            services.vSelect(static_cast<std::size_t>(services.iGetWarrantIndex()), true);
-            NewsServices::RegisterService(*this, warrantService);
-            if (!lists.bRebuildWarrant(days->pickedKey()))
-                setStatusText({});
-            return true;
-        case ListIndex::WarningTerm:
-            break;
-    }
-    if (!hasRows)
-        setStatusText({});
-    return hasRows;
+    const auto list = ListOfNumber(number);
+    return list && modes.read(*list);
 }
 
 HeadlineList* TRVNewsCtrlView::CurrentList() {
-    const auto index = ListOfNumber(currentMode);
-    return index ? &List(*index) : nullptr;
+    return &List(modes.shown());
 }
 
 CSuperSheetWnd* TRVNewsCtrlView::pGetCurrSheetView() const {
-    return Sheet(currentMode);
+    return Sheet(currentMode());
 }
 
 CHeadlineTable TRVNewsCtrlView::GetHeadlineTable(int row) const {
     CHeadlineTable entry;
-    bGetHeadlineTable(entry, currentMode, row);
+    bGetHeadlineTable(entry, currentMode(), row);
     return entry;
 }
 
@@ -249,12 +217,5 @@ int TRVNewsCtrlView::iGetHeadlineTableSize(int list) const {
 }
 
 void TRVNewsCtrlView::vGetNewsActiveService(std::vector<unsigned char>& active) const {
-    active = services.ActiveServices(currentMode);
-}
-
-int TRVNewsCtrlView::GetSheetWidth() const {
-    const StoryShowType type = story.showType();
-    if (newsType != 0 || type == StoryShowType::None || type == StoryShowType::Below)
-        return width();
-    return type == StoryShowType::Right ? width() / 2 : 0;
+    active = services.ActiveServices(currentMode());
 }

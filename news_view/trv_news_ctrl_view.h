@@ -9,11 +9,13 @@
 #include "host/views/news_module.h"
 #include "host/views/quote_base_view.h"
 #include "news_view/application_switches.h"
+#include "news_view/arrangement.h"
 #include "news_view/common_parts.h"
 #include "news_view/context_menu.h"
 #include "news_view/control_set.h"
 #include "news_view/list_input.h"
 #include "news_view/mode_loading.h"
+#include "news_view/modes.h"
 #include "news_view/news_services.h"
 #include "news_view/notice_board.h"
 #include "news_view/output_jobs.h"
@@ -21,8 +23,8 @@
 #include "news_view/story_display.h"
 #include "news_view/story_stage.h"
 #include "news_view/symbol_mode.h"
+#include "news_view/view_builder.h"
 #include "news_view/view_context.h"
-#include "news_view/view_layout.h"
 #include "news_view/view_settings.h"
 #include "output/printable_story.h"
 #include "story/story_owner.h"
@@ -83,7 +85,7 @@ public:
 
     void SwitchFunction(int mode);
     void ShowHideCtrObject(int mode);
-    void vSetComponentPos();
+    void vSetComponentPos() { arrangement.place(); }
     // The usable mode for a stored number: 0 when it is unknown or the user may not see it.
     int iGetFunctionID(int stored) const;
     // For hosts that store modes by name: the same for the caption of a mode's tab, in the language in force
@@ -118,7 +120,7 @@ public:
     int iGetHeadlineTableSize(int list) const override;
     void vGetNewsActiveService(std::vector<unsigned char>& services) const override;
     // For hosts: the width that the story show type leaves for the grid.
-    int GetSheetWidth() const;
+    int GetSheetWidth() const { return arrangement.gridWidth(); }
     // Reads the news of the current news symbol into the symbol list.
     void GetSymbolNews(const QString& code);
 
@@ -314,19 +316,20 @@ private:
     // Start-up.
     void GetConfigFromIni();
     void vTakeNewsType();
-    void vCreateStoryPane();
     void vViewCreate();
-    void vCreateMode(ListIndex mode, const QRect& gridArea, const QRect& row);
-    bool bModeIsOffered(ListIndex mode) const;
-    void vInitialSheetWnd(ListIndex list, const QRect& rectangle);
+    void vInitialSheetWnd(ListIndex list, const QRect& rectangle) { builder.createGrid(list, rectangle); }
+    ViewBuilder::Calls builderCalls();
+    Modes::Calls modeCalls();
+    Arrangement::Calls arrangementCalls();
     void vOpenFocusedTab();
     // Creates a child view of a class as a visible child in the rectangle; null when that fails.
     TRVQuoteBaseView* CreateView(const QMetaObject& runtimeClass, const QString& name, int id,
-                                 const QRect& rectangle);
+                                 const QRect& rectangle) {
+        return builder.createChild(runtimeClass, name, id, rectangle);
+    }
 
     // Modes.
-    void vTakeServicesOver(ListIndex toLoad);
-    void vLoadMode(ListIndex toLoad);
+    int currentMode() const { return static_cast<int>(modes.shown()); }
     void vReloadForServices();
     SymbolMode::Calls symbolCalls();
     IntakeState intakeChoices() const;
@@ -363,7 +366,6 @@ private:
     void OnEndNarrowing();
     void OnReadUnfiltered();
     QColor TimeColour(std::int64_t time) const override;
-    LayoutInput vLayoutInput() const;
     HeadlineList& List(ListIndex index) { return lists[index]; }
     HeadlineList* CurrentList();
     // The user's own choice, also while the warrant mode has set it aside: every list but the warrants' holds
@@ -378,7 +380,7 @@ private:
 
     // What the owners of its parts see of the view.
     ViewContext& context() { return *this; }
-    ListIndex shownList() const override { return static_cast<ListIndex>(currentMode); }
+    ListIndex shownList() const override { return modes.shown(); }
     HeadlineList& listOf(ListIndex list) override { return lists[list]; }
     std::optional<CHeadlineTable> entryAt(ListIndex list, int row) const override;
     void showStory() override { OnShowStory(); }
@@ -413,9 +415,7 @@ private:
 
     FeedBreaks breaks;
     int newsType = 0;
-    int currentMode = 0;
     int lastClientWidth = 0;
-    bool laidOut = false;
     bool initialised = false;
 
     const std::unique_ptr<ListTip> tip;
@@ -428,4 +428,7 @@ private:
     const std::unique_ptr<SentAgain> sentAgain;
     const std::unique_ptr<ServiceMenu> serviceMenu;
     const std::unique_ptr<LiveNews> liveNews;
+    Modes modes;
+    Arrangement arrangement;
+    ViewBuilder builder;
 };

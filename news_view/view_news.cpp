@@ -219,7 +219,7 @@ void TRVNewsCtrlView::OnSelchangeComboIndex() {
 SymbolMode::Calls TRVNewsCtrlView::symbolCalls() {
     return {
         [this] { vSetComponentPos(); },
-        [this] { ShowHideCtrObject(currentMode); },
+        [this] { ShowHideCtrObject(currentMode()); },
         [this] { return GetDataState() != DataState::NotSupported; },
         [this](bool supported) { vSetDataState(supported ? DataState::Normal : DataState::NotSupported); },
         [this] { return CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(GetLinkGroup()); },

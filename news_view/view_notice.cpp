@@ -14,7 +14,7 @@
 NoticeBoard::Surroundings TRVNewsCtrlView::noticeSurroundings() {
     return {*this,
             controls,
-            [this] { return LayOut(vLayoutInput()).datePicker; },
+            [this] { return arrangement.layout().datePicker; },
             [this] {
                 return NoticeBoard::Look{GetViewFont(), colText, colBackground};
             },
@@ -27,7 +27,7 @@ std::vector<NoticeBoard::Teller> TRVNewsCtrlView::noticeTellers() {
         [this](ListNotices& notices) { notices.vTell(NoticeKind::Awaited, output.awaitedText()); },
         [this](ListNotices& notices) { tellOfBackEnd(notices, backEnd, breaks); },
         [this](ListNotices& notices) {
-            tellOfList(notices, backEnd, static_cast<ListIndex>(currentMode), lists, searches->desk(),
+            tellOfList(notices, backEnd, static_cast<ListIndex>(currentMode()), lists, searches->desk(),
                        breaks);
         },
         [this](ListNotices& notices) { standingSearches->tell(notices); },
@@ -37,7 +37,7 @@ std::vector<NoticeBoard::Teller> TRVNewsCtrlView::noticeTellers() {
 // --- What a notice offers ---
 
 void TRVNewsCtrlView::OnReadUnfiltered() {
-    const auto list = ListOfNumber(currentMode);
+    const auto list = ListOfNumber(currentMode());
     if (!list || !lists.bHasOthersFilter(*list))
         return;
     sentAgain->readAgain(*list);

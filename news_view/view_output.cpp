@@ -10,7 +10,7 @@ std::vector<CHeadlineTable> TRVNewsCtrlView::vSelectedEntries() const {
     std::vector<CHeadlineTable> entries;
     for (const int row : rows) {
         CHeadlineTable entry;
-        if (bGetHeadlineTable(entry, currentMode, row))
+        if (bGetHeadlineTable(entry, currentMode(), row))
             entries.push_back(entry);
     }
     return entries;
@@ -20,7 +20,7 @@ OutputJobs::Surroundings TRVNewsCtrlView::outputSurroundings() {
     return {*this,
             stage,
             settings,
-            [this] { return services.ActiveServices(currentMode); },
+            [this] { return services.ActiveServices(currentMode()); },
             [this] { vPlaceNotices(); },
             [this](const QString& sentence) { emit MessageForUser(sentence); }};
 }

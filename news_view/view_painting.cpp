@@ -16,7 +16,7 @@
 #include <QPainter>
 
 bool TRVNewsCtrlView::OnEraseBkgnd(QPainter& painter) {
-    if (!laidOut)
+    if (!arrangement.isPlaced())
         return false;
     SendPaintLayout();
     painter.fillRect(rect(), colBackground);
@@ -38,7 +38,7 @@ void TRVNewsCtrlView::DrawTitile(QPainter& painter) {
 }
 
 void TRVNewsCtrlView::vNotSupportSymbol(QPainter& painter) {
-    const QRect grid = LayOut(vLayoutInput()).grid;
+    const QRect grid = arrangement.layout().grid;
     const QRect area(0, iGetTitleHeight(), grid.width(), grid.bottom() + 1 - iGetTitleHeight());
     painter.fillRect(area, colBackground);
     painter.setFont(GetViewFont());

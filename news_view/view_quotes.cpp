@@ -6,25 +6,14 @@
 #include "search/news_relate_symbol_quote_view.h"
 
 void TRVNewsCtrlView::InitialNewsRelateQuoteView() {
-    if (stage.pGetPane() == nullptr || stage.pGetQuotes() != nullptr)
-        return;
-    const QString name = QStringLiteral("CNewsRelateSymbolQuoteView");
-    auto* quotes = qobject_cast<CNewsRelateSymbolQuoteView*>(
-        CreateView(CNewsRelateSymbolQuoteView::staticMetaObject, name, ids::relatedQuotes, QRect()));
+    CNewsRelateSymbolQuoteView* quotes = builder.createQuotes(settingsPath);
     if (quotes == nullptr)
         return;
-    quotes->vSetRegistrant(this);
-    if (!quotes->CreateView(this, name, settingsPath.first, settingsPath.second)) {
-        delete quotes;
-        return;
-    }
     // The other views of the group follow the user's choice; this one goes on showing its news.
     connect(quotes, &TRVQuoteBaseView::SendChangeSymbol, this,
             [this](unsigned char, unsigned char service, const QString& code) {
                 emit SendChangeSymbol(GetLinkGroup(), service, code);
             });
-    quotes->vSetSorting(settings.quoteSorting);
-    stage.vSetQuotes(quotes);
     vSetComponentPos();
     if (bPaneShowsStories() && story.shownRow() >= 0)
         ChangeNewsSymbolList();

@@ -8,7 +8,6 @@
 #include "host/contract/misuse.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/sc_combo_box.h"
-#include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/category_mode.h"
 #include "news_view/control_ids.h"
@@ -19,17 +18,12 @@
 #include "news_view/symbol_mode.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "search/news_relate_symbol_quote_view.h"
-#include "story/news_story_view.h"
 #include "story/trv_news_story.h"
 
 namespace {
 
 const QString viewKey = QStringLiteral("TRVNewsCtrlView");
 const QString symbolNewsType = QStringLiteral("MULTITIMESALSE_SYMBOLNEWS");
-
-constexpr int serviceButtonRoom = 84;
-constexpr int gridTop = 52;
-constexpr int tabStripHeight = 22;
 
 }  // namespace
 
@@ -57,7 +51,7 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     TRVQuoteBaseView::InitialViewInfo(reader, section, first, second, viewKey);
     vTakeNewsType();
     if (newsType == 0) {
-        vCreateStoryPane();
+        builder.createStoryPane(*this, settingsReader, settingsPath);
         controls.CreateTypeBtn();
         controls.CreateFunctionBtn();
     }
@@ -92,101 +86,17 @@ void TRVNewsCtrlView::vTakeNewsType() {
         settings.functions = symbolNewsMask;
 }
 
-void TRVNewsCtrlView::vCreateStoryPane() {
-    const int top = gridTop + iGetTitleHeight();
-    auto* pane = qobject_cast<NewsStoryView*>(
-        CreateView(NewsStoryView::staticMetaObject, QStringLiteral("NewsStoryView"), ids::storyPane,
-                   QRect(width() / 2, top, width() - width() / 2, height() - top)));
-    if (pane == nullptr)
-        return;
-    pane->vSetNewsParent(this);
-    pane->InitialViewInfo(settingsReader, settingsPath.section, settingsPath.first, settingsPath.second, {});
-    stage.vSetPane(pane);
-}
-
-TRVQuoteBaseView* TRVNewsCtrlView::CreateView(const QMetaObject& runtimeClass, const QString& name, int id,
-                                              const QRect& rectangle) {
-    QObject* created = runtimeClass.newInstance(Q_ARG(QWidget*, this));
-    auto* view = qobject_cast<TRVQuoteBaseView*>(created);
-    if (view == nullptr) {
-        delete created;
-        return nullptr;
-    }
-    view->setObjectName(name);
-    SetWindowId(view, ids::firstChildView + id);
-    view->setGeometry(rectangle);
-    view->show();
-    view->vSetFrameId(iGetFrameId());
-    view->OnInitialUpdate();
-    return view;
-}
-
 void TRVNewsCtrlView::vViewCreate() {
-    QRect client = rect();
-    client.setTop(client.top() + iGetTitleHeight());
-    const int base = client.left() + (services.Entries().size() > 1 ? serviceButtonRoom : 0);
-    const int left = client.left() + 4;
-    controls.vCreateServiceButton(services.Entries().size() == 1
-                                      ? QRect(left, client.top() + 27, 0, 20)
-                                      : QRect(left, client.top() + 27, base - left, 20));
-    if (!IsSingleFunction(settings.functions))
-        controls.vCreateTabStrip(QRect(client.left(), client.top(), client.width(), tabStripHeight));
     if (stage.pGetDialog() == nullptr)
         stage.vSetDialog(new TRVNewsStory(*this, this));
-
-    const QRect gridArea(client.left(), client.top() + gridTop, client.width(), client.height() - gridTop);
-    const QRect row(base + 4, client.top() + 25, 120, 25);
-    for (const ListIndex mode : ModesInOrderOfCreation())
-        vCreateMode(mode, gridArea, row);
+    builder.createControls();
 }
 
-// Whether the mode has a grid and a tab.
-bool TRVNewsCtrlView::bModeIsOffered(ListIndex mode) const {
-    switch (mode) {
-        case ListIndex::Symbol:
-            return bIsAuthService(stockExchangeService) == 1;
-        case ListIndex::Relation:
-            return switches.showNormalSearch;
-        case ListIndex::WarningTerm:
-            return switches.showWarningSearch;
-        case ListIndex::Warrant:
-            return services.iGetWarrantIndex() >= 0;
-        default:
-            return true;
-    }
-}
-
-void TRVNewsCtrlView::vCreateMode(ListIndex mode, const QRect& gridArea, const QRect& row) {
-    if ((settings.functions & ModeOf(mode).maskBit) == 0)
-        return;
-    if (bModeIsOffered(mode)) {
-        vInitialSheetWnd(mode, gridArea);
-        controls.vAddTab(mode);
-    } else if (mode == ListIndex::Symbol || mode == ListIndex::Warrant) {
-        return;
-    }
-    // The list of warrants alone is of a day, too, though nobody picks it.
-    const bool onlyWarrants = mode == ListIndex::Warrant && IsSingleFunction(settings.functions);
-    if (mode == ListIndex::All || onlyWarrants) {
-        controls.vCreateDatePicker(row, days->picked());
-        days->connectPicker();
-    } else if (mode == ListIndex::Category)
-        controls.vCreateCategoryCombo(QRect(row.x(), row.y(), 120, 200));
-    else
-        controls.CreateControls(mode, row, GetViewFont());
-    if (mode == ListIndex::Search)
-        searches->connectEdit();
-    if (mode == ListIndex::Category)
-        categories->connectCombo();
-}
-
-void TRVNewsCtrlView::vInitialSheetWnd(ListIndex list, const QRect& rectangle) {
-    CSuperSheetWnd* sheet = CreateHeadlineSheet(this, rectangle, newsType, backEnd);
-    if (sheet == nullptr)
-        return;
-    sheet->vStretchLastColumn(settings.options[ViewOption::StretchTitles]);
-    lists[list].vSetGrid(sheet);
-    vConnectMouse(*sheet, list);
+ViewBuilder::Calls TRVNewsCtrlView::builderCalls() {
+    return {[this] { return days->picked(); },
+            [this](CSuperSheetWnd& grid, ListIndex list) { vConnectMouse(grid, list); },
+            [this] { days->connectPicker(); }, [this] { searches->connectEdit(); },
+            [this] { categories->connectCombo(); }};
 }
 
 void TRVNewsCtrlView::vOpenFocusedTab() {

@@ -103,7 +103,7 @@ QVariantMap TRVNewsCtrlView::State() const {
     for (const auto& [kind, text] : notices.InOrder())
         noticeStates.append(
             QVariantMap{{QStringLiteral("text"), text}, {QStringLiteral("command"), CommandOf(kind)}});
-    return {{QStringLiteral("mode"), currentMode},
+    return {{QStringLiteral("mode"), currentMode()},
             {QStringLiteral("newsType"), newsType},
             {QStringLiteral("storyShowType"), GetStoryShowType()},
             {QStringLiteral("mask"), settings.functions},

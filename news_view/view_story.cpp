@@ -38,20 +38,20 @@ void TRVNewsCtrlView::OnReCoverStory() {
     if (sheet == nullptr)
         return;
     CHeadlineTable entry;
-    if (bGetHeadlineTable(entry, currentMode, story.pointAt(sheet->cptGetFocusNdx().y())))
+    if (bGetHeadlineTable(entry, currentMode(), story.pointAt(sheet->cptGetFocusNdx().y())))
         backEnd.BKQNews_bReRequestHeadlineStory(entry);
 }
 
 bool TRVNewsCtrlView::bChangeNewsPos(int list, int row) {
-    if (list != currentMode) {
+    if (list != currentMode()) {
         SwitchFunction(iGetFunctionID(list));
         if (auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip))
-            strip->SetCurSel(iGetTabIndex(currentMode));
+            strip->SetCurSel(iGetTabIndex(currentMode()));
     }
     if (NewsStoryView* pane = stage.pGetPane()) {
         pane->SetHeadLinePos(row);
         // A position just below the last row stays: hosts rely on it.
-        const int size = iGetHeadlineTableSize(currentMode);
+        const int size = iGetHeadlineTableSize(currentMode());
         if (pane->GetHeadLinePos() > size)
             pane->SetHeadLinePos(size - 1);
     }

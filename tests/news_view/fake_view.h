@@ -2,20 +2,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/feed_breaks.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/list_owner.h"
+#include "host/views/quote_base_view.h"
+#include "news_view/application_switches.h"
+#include "news_view/common_parts.h"
+#include "news_view/control_set.h"
+#include "news_view/list_tip.h"
+#include "news_view/mode_loading.h"
+#include "news_view/news_services.h"
 #include "news_view/view_context.h"
+#include "news_view/view_settings.h"
 #include "story/story_owner.h"
 #include "tests/support/fake_back_end.h"
-
-#include <QWidget>
 
 // What an owner of a part of the view's work sees of it, without the view: lists with grids on a bare window,
 // and a note of what the owner asked for. The headlines are those of 2 March 2026 of service 1.
 class FakeView : public ViewContext, public ListOwner, public StoryOwner {
 public:
-    explicit FakeView(FakeBackEnd& newsBackEnd) : backEnd(newsBackEnd), lists(newsBackEnd, *this) {
+    // Lists without a grid get one by what is tested.
+    enum class Grids { AllAndCategory, None };
+
+    explicit FakeView(FakeBackEnd& newsBackEnd, Grids grids = Grids::AllAndCategory)
+        : backEnd(newsBackEnd), controls(window, newsBackEnd), lists(newsBackEnd, *this) {
         window.resize(600, 400);
+        services.vLoad(backEnd);
+        services.vSelectInBoth(0);
+        if (grids == Grids::None)
+            return;
         for (const ListIndex list : {ListIndex::All, ListIndex::Category}) {
             CSuperSheetWnd* grid = CreateHeadlineSheet(&window, QRect(0, 100, 600, 300), 0, backEnd);
             grid->setVisible(list == ListIndex::All);
@@ -23,6 +38,10 @@ public:
         }
     }
 
+    CommonParts parts() {
+        return {backEnd,  window,  services, lists, controls, settings,
+                switches, loading, breaks,   tip,   newsType};
+    }
     CSuperSheetWnd* grid(ListIndex list = ListIndex::All) { return lists[list].pGetGrid(); }
     // Adds a headline with its story; the list has it when it is read next.
     CHeadlineTable add(std::int32_t sequence) {
@@ -44,21 +63,24 @@ public:
         return entry;
     }
     void showStory() override { calls.append(QStringLiteral("show story")); }
-    void forgetShownStory() override { calls.append(QStringLiteral("forget story")); }
-    void refresh() override { calls.append(QStringLiteral("refresh")); }
     void clearStory() override { calls.append(QStringLiteral("clear story")); }
     bool paneShowsStories() const override { return hasPane; }
     bool hasOpenStory() const override { return hasPane || hasStoryWindow; }
+    void forgetShownStory() override { calls.append(QStringLiteral("forget story")); }
+    void refresh() override { calls.append(QStringLiteral("refresh")); }
     bool readInPlace(ListIndex, const std::function<bool()>& anew) override {
         calls.append(QStringLiteral("read in place"));
         return anew();
     }
     QString statusText() const override { return status; }
-    void setStatusText(const QString& text) override { status = text; }
+    void setStatusText(const QString& text) override {
+        calls.append(QStringLiteral("status ") + text);
+        status = text;
+    }
     void placeNotices() override { calls.append(QStringLiteral("place notices")); }
 
-    const std::vector<ServiceEntry>& vGetServices() const override { return services; }
-    int GetNewsType() const override { return 0; }
+    const std::vector<ServiceEntry>& vGetServices() const override { return services.Saved(); }
+    int GetNewsType() const override { return newsType; }
     QString CategoryNameOf(unsigned char, int) override { return QStringLiteral("Markets"); }
     int CategoryColourOf(unsigned char, const QString&, QColor&, QColor&) override { return 0; }
     void vCategoryStateAfterWriting() override {}
@@ -81,16 +103,19 @@ public:
     void SaveHeadline(const CHeadlineTable&) override {}
 
     FakeBackEnd& backEnd;
-    QWidget window;
+    TRVQuoteBaseView window;
+    ControlSet controls;
+    NewsServices services;
+    HeadlineLists lists;
+    ViewSettings settings;
+    ApplicationSwitches switches;
+    ModeLoading loading;
+    FeedBreaks breaks;
+    ListTip tip{window, [] { return ListTip::Look{}; }};
     ListIndex shown = ListIndex::All;
-    QStringList calls;
-    QString status;
+    int newsType = 0;
     bool hasPane = true;
     bool hasStoryWindow = false;
-
-private:
-    std::vector<ServiceEntry> services{{1, true, 20260302, false}};
-
-public:
-    HeadlineLists lists;
+    QString status;
+    QStringList calls;
 };

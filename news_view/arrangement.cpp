@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/arrangement.h"
+
+#include "headline_list/headline_lists.h"
+#include "host/controls/sc_combo_box.h"
+#include "host/controls/xtp_tab_control.h"
+#include "host/views/com_virtual_base_view.h"
+#include "news_view/control_ids.h"
+#include "news_view/control_set.h"
+#include "news_view/news_services.h"
+#include "news_view/story_stage.h"
+#include "news_view/view_context.h"
+#include "search/news_relate_symbol_quote_view.h"
+#include "story/news_story_view.h"
+
+#include <QStyle>
+
+Arrangement::Arrangement(ViewContext& context, const CommonParts& commonParts, StoryStage& storyStage,
+                         Calls ofTheView)
+    : view(context), parts(commonParts), stage(storyStage), calls(std::move(ofTheView)) {}
+
+LayoutInput Arrangement::input() const {
+    LayoutInput in;
+    in.client = parts.window.rect();
+    in.fontHeight = g_iGetFontHeight(calls.font());
+    in.titleHeight = calls.titleHeight();
+    const auto* strip = parts.controls.Find<CXTPTabControl>(ids::tabStrip);
+    in.firstTabHeight = strip != nullptr && strip->count() > 0 ? strip->tabRect(0).height() : 0;
+    in.serviceCount = static_cast<int>(parts.services.Entries().size());
+    const auto widestItem = [this](int id) {
+        const auto* combo = parts.controls.Find<SCComboBox>(id);
+        return combo != nullptr ? combo->iGetWidestItem() : 0;
+    };
+    in.serviceComboText = widestItem(ids::serviceCombo);
+    in.symbolComboText = widestItem(ids::symbolCombo);
+    in.captionButtonWidth = parts.window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    in.newsType = parts.newsType;
+    in.showType = calls.showType();
+    in.hasStoryPane = stage.pGetPane() != nullptr;
+    in.hasRelatedQuotes = stage.pGetQuotes() != nullptr;
+    in.hasAllNewsGrid = parts.lists[ListIndex::All].pGetGrid() != nullptr;
+    return in;
+}
+
+ViewLayout Arrangement::layout() const {
+    return LayOut(input());
+}
+
+void Arrangement::place() {
+    const ViewLayout places = layout();
+    parts.controls.vPlace(places);
+    placeStory(places);
+    for (const ListKind& kind : listKinds) {
+        const bool withoutControls = kind.index == ListIndex::Symbol || kind.index == ListIndex::Warrant;
+        if (CSuperSheetWnd* grid = parts.lists[kind.index].pGetGrid())
+            grid->setGeometry(withoutControls ? places.gridWithoutControls : places.grid);
+    }
+    placed = true;
+    view.placeNotices();
+    parts.window.update();
+    view.refresh();
+}
+
+void Arrangement::placeStory(const ViewLayout& places) {
+    if (NewsStoryView* pane = stage.pGetPane()) {
+        pane->HideHeadLine(places.storyHidesHeadline ? 1 : 0);
+        pane->setGeometry(places.storyPane);
+        pane->setVisible(!places.storyPane.isEmpty());
+        pane->vSetComponentPos();
+    }
+    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes()) {
+        quotes->setGeometry(places.relatedQuotes);
+        quotes->setVisible(!places.relatedQuotes.isEmpty());
+    }
+}
+
+int Arrangement::gridWidth() const {
+    const StoryShowType type = calls.showType();
+    const int width = parts.window.width();
+    if (parts.newsType != 0 || type == StoryShowType::None || type == StoryShowType::Below)
+        return width;
+    return type == StoryShowType::Right ? width / 2 : 0;
+}

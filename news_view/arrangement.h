@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "news_view/common_parts.h"
+#include "news_view/view_layout.h"
+
+#include <QFont>
+
+#include <functional>
+
+class StoryStage;
+class ViewContext;
+
+// Where the controls, the grids and the story of a view stand in its window. Interface thread only.
+class Arrangement {
+public:
+    // What it depends on beside the parts, of this moment.
+    struct Calls {
+        std::function<QFont()> font;
+        std::function<int()> titleHeight;  // of the title band; 0 when none is shown
+        std::function<StoryShowType()> showType;
+    };
+
+    // All that is referred to outlives this.
+    Arrangement(ViewContext& view, const CommonParts& parts, StoryStage& stage, Calls calls);
+
+    // How everything would be laid out now.
+    ViewLayout layout() const;
+    // Lays it out.
+    void place();
+    // Whether it ever was.
+    bool isPlaced() const { return placed; }
+    // The width that the story leaves for the grid.
+    int gridWidth() const;
+
+private:
+    LayoutInput input() const;
+    void placeStory(const ViewLayout& layout);
+
+    ViewContext& view;
+    const CommonParts parts;
+    StoryStage& stage;
+    const Calls calls;
+    bool placed = false;
+};

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/view_builder.h"
+
+#include "headline_list/headline_lists.h"
+#include "host/contract/fixed_services.h"
+#include "host/controls/window_id.h"
+#include "news_view/application_switches.h"
+#include "news_view/control_ids.h"
+#include "news_view/control_set.h"
+#include "news_view/mode_table.h"
+#include "news_view/news_services.h"
+#include "news_view/story_stage.h"
+#include "news_view/view_settings.h"
+#include "search/news_relate_symbol_quote_view.h"
+#include "story/news_story_view.h"
+
+namespace {
+
+constexpr int serviceButtonRoom = 84;
+constexpr int gridTop = 52;
+constexpr int tabStripHeight = 22;
+
+}  // namespace
+
+ViewBuilder::ViewBuilder(TRVQuoteBaseView& newsView, const CommonParts& commonParts, StoryStage& storyStage,
+                         Calls ofTheView)
+    : view(newsView), parts(commonParts), stage(storyStage), calls(std::move(ofTheView)) {}
+
+TRVQuoteBaseView* ViewBuilder::createChild(const QMetaObject& kind, const QString& name, int id,
+                                           const QRect& place) {
+    QObject* created = kind.newInstance(Q_ARG(QWidget*, &view));
+    auto* child = qobject_cast<TRVQuoteBaseView*>(created);
+    if (child == nullptr) {
+        delete created;
+        return nullptr;
+    }
+    child->setObjectName(name);
+    SetWindowId(child, ids::firstChildView + id);
+    child->setGeometry(place);
+    child->show();
+    child->vSetFrameId(view.iGetFrameId());
+    child->OnInitialUpdate();
+    return child;
+}
+
+void ViewBuilder::createStoryPane(EntrySource& entries, TRVCfgIO2* settings, const ViewSettingPath& path) {
+    const int top = gridTop + view.iGetTitleHeight();
+    const QRect place(view.width() / 2, top, view.width() - view.width() / 2, view.height() - top);
+    auto* pane = qobject_cast<NewsStoryView*>(
+        createChild(NewsStoryView::staticMetaObject, QStringLiteral("NewsStoryView"), ids::storyPane, place));
+    if (pane == nullptr)
+        return;
+    pane->vSetNewsParent(&entries);
+    pane->InitialViewInfo(settings, path.section, path.first, path.second, {});
+    stage.vSetPane(pane);
+}
+
+CNewsRelateSymbolQuoteView* ViewBuilder::createQuotes(const ViewSettingPath& path) {
+    if (stage.pGetPane() == nullptr || stage.pGetQuotes() != nullptr)
+        return nullptr;
+    const QString name = QStringLiteral("CNewsRelateSymbolQuoteView");
+    auto* quotes = qobject_cast<CNewsRelateSymbolQuoteView*>(
+        createChild(CNewsRelateSymbolQuoteView::staticMetaObject, name, ids::relatedQuotes, QRect()));
+    if (quotes == nullptr)
+        return nullptr;
+    quotes->vSetRegistrant(&view);
+    if (!quotes->CreateView(&view, name, path.first, path.second)) {
+        delete quotes;
+        return nullptr;
+    }
+    quotes->vSetSorting(parts.settings.quoteSorting);
+    stage.vSetQuotes(quotes);
+    return quotes;
+}
+
+void ViewBuilder::createControls() {
+    QRect client = view.rect();
+    client.setTop(client.top() + view.iGetTitleHeight());
+    const bool single = parts.services.Entries().size() == 1;
+    const int base = client.left() + (parts.services.Entries().size() > 1 ? serviceButtonRoom : 0);
+    const int left = client.left() + 4;
+    parts.controls.vCreateServiceButton(QRect(left, client.top() + 27, single ? 0 : base - left, 20));
+    if (!IsSingleFunction(parts.settings.functions))
+        parts.controls.vCreateTabStrip(QRect(client.left(), client.top(), client.width(), tabStripHeight));
+    const QRect gridPlace(client.left(), client.top() + gridTop, client.width(), client.height() - gridTop);
+    const QRect row(base + 4, client.top() + 25, 120, 25);
+    for (const ListIndex mode : ModesInOrderOfCreation())
+        createMode(mode, gridPlace, row);
+}
+
+// Whether the mode has a grid and a tab.
+bool ViewBuilder::isOffered(ListIndex mode) const {
+    switch (mode) {
+        case ListIndex::Symbol:
+            return TRVQuoteBaseView::bIsAuthService(stockExchangeService) == 1;
+        case ListIndex::Relation:
+            return parts.switches.showNormalSearch;
+        case ListIndex::WarningTerm:
+            return parts.switches.showWarningSearch;
+        case ListIndex::Warrant:
+            return parts.services.iGetWarrantIndex() >= 0;
+        default:
+            return true;
+    }
+}
+
+void ViewBuilder::createMode(ListIndex mode, const QRect& gridPlace, const QRect& row) {
+    if ((parts.settings.functions & ModeOf(mode).maskBit) == 0)
+        return;
+    if (isOffered(mode)) {
+        createGrid(mode, gridPlace);
+        parts.controls.vAddTab(mode);
+    } else if (mode == ListIndex::Symbol || mode == ListIndex::Warrant) {
+        return;
+    }
+    createControlsOf(mode, row);
+}
+
+void ViewBuilder::createControlsOf(ListIndex mode, const QRect& row) {
+    // The list of warrants alone is of a day, too, though nobody picks it.
+    const bool onlyWarrants = mode == ListIndex::Warrant && IsSingleFunction(parts.settings.functions);
+    if (mode == ListIndex::All || onlyWarrants) {
+        parts.controls.vCreateDatePicker(row, calls.pickedDate());
+        calls.connectDatePicker();
+    } else if (mode == ListIndex::Category) {
+        parts.controls.vCreateCategoryCombo(QRect(row.x(), row.y(), 120, 200));
+        calls.connectCategoryCombo();
+    } else {
+        parts.controls.CreateControls(mode, row, view.GetViewFont());
+    }
+    if (mode == ListIndex::Search)
+        calls.connectSearchEdit();
+}
+
+void ViewBuilder::createGrid(ListIndex list, const QRect& place) {
+    CSuperSheetWnd* grid = CreateHeadlineSheet(&view, place, parts.newsType, parts.backEnd);
+    if (grid == nullptr)
+        return;
+    grid->vStretchLastColumn(parts.settings.options[ViewOption::StretchTitles]);
+    parts.lists[list].vSetGrid(grid);
+    calls.connectGrid(*grid, list);
+}
