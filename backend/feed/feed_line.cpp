@@ -20,6 +20,7 @@ namespace {
 
 constexpr auto envelope = "wirepane"_L1;
 constexpr int lastId = 255;
+constexpr std::int64_t mostNumber = std::numeric_limits<std::int32_t>::max();
 
 StoreItem stored(NewsItem item) {
     return item;
@@ -39,7 +40,6 @@ SymbolRef symbolFrom(const QJsonValue& entry, bool& isSymbol) {
 }
 
 Result<StoreItem> itemFrom(const QJsonObject& object) {
-    constexpr std::int64_t mostNumber = std::numeric_limits<std::int32_t>::max();
     JsonFields fields(object);
     NewsItem item;
     item.service = static_cast<unsigned char>(fields.number(u"service"_s, 1, lastId));
@@ -79,12 +79,47 @@ Result<StoreItem> quoteFrom(const QJsonObject& object) {
     return StoreItem(std::move(quote));
 }
 
+Result<StoreItem> symbolEntryFrom(const QJsonObject& object) {
+    JsonFields fields(object);
+    SymbolItem symbol;
+    symbol.market = static_cast<unsigned char>(fields.number(u"market"_s, 1, lastId));
+    symbol.code = fields.text(u"code"_s);
+    symbol.name = fields.text(u"name"_s);
+    symbol.category =
+        static_cast<int>(fields.optionalNumber(u"category"_s, 0, mostNumber).value_or(symbol.category));
+    if (const auto& fault = fields.fault())
+        return makeError<import_errors::symbolField>(fault->field, jsonFault(*fault));
+    return StoreItem(std::move(symbol));
+}
+
+Result<StoreItem> categoryEntryFrom(const QJsonObject& object) {
+    JsonFields fields(object);
+    CategoryItem category;
+    category.service = static_cast<unsigned char>(fields.number(u"service"_s, 1, lastId));
+    category.id = static_cast<std::int32_t>(fields.number(u"id"_s, 1, mostNumber));
+    category.name = fields.text(u"name"_s);
+    category.colour = fields.optionalText(u"colour"_s).value_or(QString());
+    if (const auto& fault = fields.fault())
+        return makeError<import_errors::categoryField>(fault->field, jsonFault(*fault));
+    return StoreItem(std::move(category));
+}
+
+struct RecordKind {
+    QLatin1StringView name;
+    Result<StoreItem> (*read)(const QJsonObject&);
+};
+constexpr RecordKind recordKinds[] = {
+    {"item"_L1, &itemFrom},
+    {"quote"_L1, &quoteFrom},
+    {"symbol"_L1, &symbolEntryFrom},
+    {"category"_L1, &categoryEntryFrom},
+};
+
 FeedLine opened(const QJsonObject& content, unsigned char service) {
     const QString position = content.value("position"_L1).toString();
-    if (content.value("item"_L1).isObject())
-        return FeedRecord{itemFrom(content.value("item"_L1).toObject()), position};
-    if (content.value("quote"_L1).isObject())
-        return FeedRecord{quoteFrom(content.value("quote"_L1).toObject()), position};
+    for (const RecordKind& kind : recordKinds)
+        if (content.value(kind.name).isObject())
+            return FeedRecord{kind.read(content.value(kind.name).toObject()), position};
     if (content.value("ninjs"_L1).isObject()) {
         const QByteArray record =
             QJsonDocument(content.value("ninjs"_L1).toObject()).toJson(QJsonDocument::Compact);
@@ -93,8 +128,8 @@ FeedLine opened(const QJsonObject& content, unsigned char service) {
     const QJsonValue id = content.value("service"_L1);
     const auto number = id.isUndefined() ? 1 : id.toInteger(0);
     if (!content.value("source"_L1).isString() || number < 1 || number > lastId)
-        return FeedRecord{Error{u"The line holds neither an item, a quote nor a greeting with a source."_s},
-                          {}};
+        return FeedRecord{
+            Error{u"The line holds no record of a known kind, and no greeting with a source."_s}, {}};
     return FeedHello{content.value("source"_L1).toString(), static_cast<unsigned char>(number)};
 }
 
@@ -109,10 +144,6 @@ std::optional<QJsonObject> contentOf(QByteArrayView line) {
     return object.value(envelope).toObject();
 }
 
-QByteArray lineOf(const QJsonObject& content) {
-    return QJsonDocument(QJsonObject{{envelope, content}}).toJson(QJsonDocument::Compact) + '\n';
-}
-
 }  // namespace
 
 FeedLine parsedFeedLine(QByteArrayView line, unsigned char service) {
@@ -120,27 +151,6 @@ FeedLine parsedFeedLine(QByteArrayView line, unsigned char service) {
     if (const auto content = contentOf(trimmed))
         return opened(*content, service);
     return FeedRecord{ninjs(trimmed, service), {}};
-}
-
-QByteArray helloLine(const FeedHello& hello) {
-    return lineOf({{u"source"_s, hello.source}, {u"service"_s, hello.service}});
-}
-
-QByteArray itemLine(const NewsItem& item, const QString& position) {
-    QJsonObject object{{u"service"_s, item.service}, {u"identity"_s, item.identity},
-                       {u"version"_s, item.version}, {u"time"_s, qint64(item.time)},
-                       {u"title"_s, item.title},     {u"category"_s, item.category}};
-    if (!item.story)
-        object[u"storyFollows"_s] = true;
-    else if (!item.story->isEmpty())
-        object[u"story"_s] = *item.story;
-    if (item.sequence)
-        object[u"sequence"_s] = *item.sequence;
-    QJsonArray related;
-    for (const SymbolRef& symbol : item.related)
-        related.append(QJsonObject{{u"market"_s, symbol.market}, {u"code"_s, symbol.code}});
-    object[u"related"_s] = related;
-    return lineOf({{u"item"_s, object}, {u"position"_s, position}});
 }
 
 }  // namespace wirepane

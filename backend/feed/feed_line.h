@@ -2,21 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/feed/written_lines.h"
 #include "backend/import/reading.h"
 
-#include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 
 #include <variant>
 
 namespace wirepane {
-
-// What a feed says of itself before its first item.
-struct FeedHello {
-    QString source;             // the name under which its position is kept; empty: none is kept
-    unsigned char service = 1;  // of records that do not name one
-};
 
 // One item of a feed.
 struct FeedRecord {
@@ -30,12 +24,10 @@ struct FeedRecord {
 //   {"item": ITEM, "position": TEXT}      news as a store holds it: service, identity, version, time, title,
 //                                         story, category, related [{market, code}], sequence
 //   {"quote": QUOTE, "position": TEXT}    what a symbol trades at: market, code, last, change, volume
+//   {"symbol": SYMBOL, "position": TEXT}  an entry of the symbol table: market, code, name, category
+//   {"category": CATEGORY, "position": TEXT}  an entry of a service's catalogue: service, id, name, colour
 using FeedLine = std::variant<FeedHello, FeedRecord>;
 
 FeedLine parsedFeedLine(QByteArrayView line, unsigned char service);
-
-// Lines in this form, with their line feed.
-QByteArray helloLine(const FeedHello& hello);
-QByteArray itemLine(const NewsItem& item, const QString& position);
 
 }  // namespace wirepane

@@ -172,6 +172,8 @@ inline constexpr ErrorCode mustNameTitle{"ERROR_IMPORT_MUST_NAME_TITLE",
 // Of the lines of a feed.
 inline constexpr ErrorCode itemField{"ERROR_IMPORT_ITEM_FIELD", u"“%1” of the item %2."};
 inline constexpr ErrorCode quoteField{"ERROR_IMPORT_QUOTE_FIELD", u"“%1” of the quote %2."};
+inline constexpr ErrorCode symbolField{"ERROR_IMPORT_SYMBOL_FIELD", u"“%1” of the symbol %2."};
+inline constexpr ErrorCode categoryField{"ERROR_IMPORT_CATEGORY_FIELD", u"“%1” of the category %2."};
 inline constexpr ErrorCode holdsNoSymbol{"ERROR_IMPORT_HOLDS_NO_SYMBOL",
                                          u"has an entry that is no {market, code}"};
 

@@ -24,19 +24,18 @@ void promiseSameLine(const QByteArray& line) {
         promise(!sentence(record.item.error()).isEmpty(), "a rejection has a reason");
         return;
     }
-    if (const auto* quote = std::get_if<QuoteItem>(&record.item.value())) {
+    if (const auto* quote = std::get_if<QuoteItem>(&record.item.value()))
         promise(quote->market != 0 && std::isfinite(quote->last) && std::isfinite(quote->change) &&
                     quote->volume >= 0 && quote->volume <= mostVolume,
                 "a quote's numbers are numbers");
-        return;
-    }
-    const auto& item = std::get<NewsItem>(record.item.value());
-    const QByteArray sent = itemLine(item, record.position);
+    const StoreItem& item = record.item.value();
+    const QByteArray sent = feedLine(item, record.position);
     const FeedLine again = parsedFeedLine(sent, 9);
     const auto* same = std::get_if<FeedRecord>(&again);
     promise(same != nullptr && same->item && same->position == record.position, "an item's line can be read");
-    promise(itemLine(std::get<NewsItem>(same->item.value()), same->position) == sent,
-            "an item sent on again is the same");
+    promise(
+        same->item.value().index() == item.index() && feedLine(same->item.value(), same->position) == sent,
+        "an item sent on again is the same");
 }
 
 }  // namespace

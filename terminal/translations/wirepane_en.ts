@@ -379,6 +379,14 @@
         <source></source>
         <translation>“%1” of the quote %2.</translation>
     </message>
+    <message id="ERROR_IMPORT_SYMBOL_FIELD">
+        <source></source>
+        <translation>“%1” of the symbol %2.</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_FIELD">
+        <source></source>
+        <translation>“%1” of the category %2.</translation>
+    </message>
     <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
         <source></source>
         <translation>A quote is opened and never closed; nothing behind it is read.</translation>

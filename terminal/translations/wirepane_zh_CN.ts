@@ -379,6 +379,14 @@
         <source></source>
         <translation>报价的“%1”%2。</translation>
     </message>
+    <message id="ERROR_IMPORT_SYMBOL_FIELD">
+        <source></source>
+        <translation>代码的“%1”%2。</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_FIELD">
+        <source></source>
+        <translation>类别的“%1”%2。</translation>
+    </message>
     <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
         <source></source>
         <translation>引号未成对，其后的内容均未读取。</translation>

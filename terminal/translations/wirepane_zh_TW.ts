@@ -379,6 +379,14 @@
         <source></source>
         <translation>報價的「%1」%2。</translation>
     </message>
+    <message id="ERROR_IMPORT_SYMBOL_FIELD">
+        <source></source>
+        <translation>代碼的「%1」%2。</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_FIELD">
+        <source></source>
+        <translation>類別的「%1」%2。</translation>
+    </message>
     <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
         <source></source>
         <translation>引號未成對，其後的內容均未讀取。</translation>

@@ -71,6 +71,24 @@ TEST(FeedLineTest, AQuoteIsReadWithItsPosition) {
     EXPECT_EQ(record.position, u"8");
 }
 
+TEST(FeedLineTest, EntriesOfTheSymbolTableAndOfCataloguesComeBackAsTheyWere) {
+    const StoreItem entries[] = {
+        SymbolItem{52, u"030012"_s, u"嵐蘅岩港購01"_s, 3},
+        CategoryItem{22, 301, u"港股"_s, u"#2a8c55"_s},
+        QuoteItem{16, u"2330"_s, 601.35, -0.1, mostVolume},
+    };
+    for (const StoreItem& entry : entries) {
+        const QByteArray line = feedLine(entry, u"p"_s);
+        const FeedLine parsed = parsedFeedLine(line, 1);
+        const auto& record = std::get<FeedRecord>(parsed);
+        ASSERT_TRUE(record.item) << line.toStdString() << sentence(record.item.error()).toStdString();
+        EXPECT_EQ(record.item.value().index(), entry.index()) << line.toStdString();
+        EXPECT_EQ(feedLine(record.item.value(), record.position), line);
+    }
+    const FeedLine bare = parsedFeedLine(R"({"wirepane":{"symbol":{"market":1,"code":"X","name":"N"}}})", 1);
+    EXPECT_EQ(std::get<SymbolItem>(std::get<FeedRecord>(bare).item.value()).category, 1);
+}
+
 TEST(FeedLineTest, WhatIsNoNewsIsRejectedWithAReason) {
     const QByteArray lines[] = {
         "",
@@ -96,6 +114,16 @@ TEST(FeedLineTest, WhatIsNoNewsIsRejectedWithAReason) {
         R"({"wirepane":{"quote":{"market":1,"code":"1","last":"1","change":0,"volume":1}}})",
         R"({"wirepane":{"quote":{"market":1,"code":"1","last":1e999,"change":0,"volume":1}}})",
         R"({"wirepane":{"quote":{"market":1,"code":"1","last":1,"change":0,"volume":1.5}}})",
+        R"({"wirepane":{"symbol":{"market":0,"code":"1","name":"n"}}})",
+        R"({"wirepane":{"symbol":{"market":1,"code":"1"}}})",
+        R"({"wirepane":{"symbol":{"market":1,"code":"1","name":"n","category":-1}}})",
+        R"({"wirepane":{"category":{"service":1,"id":0,"name":"n"}}})",
+        R"({"wirepane":{"category":{"service":1,"id":1,"name":"n","colour":7}}})",
+        R"({"wirepane":{"symbol":{"market":0,"code":"1","name":"n"}}})",
+        R"({"wirepane":{"symbol":{"market":1,"code":"1"}}})",
+        R"({"wirepane":{"symbol":{"market":1,"code":"1","name":"n","category":-1}}})",
+        R"({"wirepane":{"category":{"service":1,"id":0,"name":"n"}}})",
+        R"({"wirepane":{"category":{"service":1,"id":1,"name":"n","colour":7}}})",
     };
     for (const QByteArray& line : lines) {
         const FeedLine parsed = parsedFeedLine(line, 1);
