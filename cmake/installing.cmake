@@ -7,10 +7,10 @@ set(WIREPANE_CMAKE lib/cmake/Wirepane)
 
 # Nothing else is built for what is installed: whoever builds this much can install.
 add_custom_target(wirepane_installed
-    DEPENDS wirepane wirepane_news wirepane_contract wirepane_host wirepane_conformance)
+    DEPENDS wirepane wirepane_sample_wire_program wirepane_news wirepane_contract wirepane_host wirepane_conformance)
 
 # For whoever uses the terminal.
-install(TARGETS wirepane RUNTIME DESTINATION bin COMPONENT terminal)
+install(TARGETS wirepane wirepane_sample_wire_program RUNTIME DESTINATION bin COMPONENT terminal)
 # Under a folder of its interface: the module of another version may stand beside it.
 install(TARGETS wirepane_news LIBRARY DESTINATION ${WIREPANE_MODULE_FOLDER} COMPONENT library)
 set_target_properties(wirepane PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")

@@ -15,7 +15,8 @@ MAY_USE = {
     "search": MIDDLE,
     "news_view": MIDDLE | {"story", "output", "search"},
     "backend": {"host"},
-    "terminal": {"host", "backend"},
+    "sample_wire": {"backend", "host"},
+    "terminal": {"host", "backend", "sample_wire"},
     "examples": {"host"},
 }
 # Floors within a room, from the ground up: a folder may use itself and those that it names, which stand above it in the
@@ -31,7 +32,6 @@ FLOORS = {
         "store": {ROOM, "words", "database", "search"},
         "import": {ROOM},
         "feed": {ROOM, "lines", "database", "store", "import"},
-        "sample": {ROOM},
     },
     "terminal": {
         "console": set(),
@@ -45,8 +45,15 @@ FLOORS = {
         ROOM: {"console", "commands"},
     },
 }
+# Rooms that know of others no more than these headers: the sample wire speaks the public feed lines and nothing else, as
+# any source does, and the terminal starts it as a program.
+NO_MORE_THAN = {
+    ("sample_wire", "backend"): {"backend/news_item.h", "backend/feed/written_lines.h"},
+    ("sample_wire", "host"): {"host/contract/fixed_services.h"},
+    ("terminal", "sample_wire"): {"sample_wire/sample_options.h"},
+}
 # A back end needs no widgets: of the host it knows the contract alone.
-WITHOUT_WIDGETS = {"backend", "host/contract"}
+WITHOUT_WIDGETS = {"backend", "host/contract", "sample_wire"}
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([^">]+)[">]', re.MULTILINE)
 WIDGETS = re.compile(r"^(QWidget|QApplication|QMessageBox|QtWidgets/.*|host/(controls|views)/.*)$")
 
@@ -84,6 +91,8 @@ def faults_of(path: str) -> list[str]:
         other = include.split("/")[0]
         if other in MAY_USE and other != room and other not in MAY_USE[room]:
             faults.append(f"{path}: includes {include}: {room}/ may not know {other}/")
+        if include not in NO_MORE_THAN.get((room, other), {include}):
+            faults.append(f"{path}: includes {include}: {room}/ knows less of {other}/")
         if other == room and (fault := floor_fault(path, include)):
             faults.append(fault)
         if any(path.startswith(place + "/") for place in WITHOUT_WIDGETS) and WIDGETS.match(include):

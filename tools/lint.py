@@ -16,7 +16,7 @@ from concurrent.futures import ThreadPoolExecutor
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 AT_ONCE = 8
-OURS = r"(host|headline_list|story|output|search|news_view|backend|terminal|examples|bench|fuzz)/.*\.(h|cpp)$"
+OURS = r"(host|headline_list|story|output|search|news_view|backend|sample_wire|terminal|examples|bench|fuzz)/.*\.(h|cpp)$"
 NAME_CLASH = re.compile(r"\[clang-diagnostic-error\]")
 
 

@@ -19,14 +19,12 @@ namespace wirepane {
 namespace {
 
 SampleOptions sampleOptions(CommandArguments& arguments) {
-    constexpr std::int64_t mostDays = 10000;
-    constexpr std::int64_t mostPerDay = 1000000;
     SampleOptions options;
     options.seed = static_cast<std::uint64_t>(
         arguments.number(u"seed"_s, 1, 0, std::numeric_limits<std::int64_t>::max()));
-    options.days = static_cast<int>(arguments.number(u"days"_s, options.days, 1, mostDays));
-    options.headlinesPerDay =
-        static_cast<int>(arguments.number(u"per-day"_s, options.headlinesPerDay, 1, mostPerDay));
+    options.days = static_cast<int>(arguments.number(u"days"_s, options.days, 1, SampleOptions::mostDays));
+    options.headlinesPerDay = static_cast<int>(
+        arguments.number(u"per-day"_s, options.headlinesPerDay, 1, SampleOptions::mostHeadlinesPerDay));
     arguments.applyNow();
     options.now = host_clock::now();
     if (!arguments.rest().isEmpty())

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/sample_filling.h"
 
+#include "backend/feed/feed_line.h"
 #include "backend/store/store_defaults.h"
 #include "backend/store/store_writer.h"
+#include "terminal/session/sample_process.h"
 
-#include <optional>
 #include <variant>
 
 using namespace Qt::StringLiterals;
@@ -16,12 +17,6 @@ namespace {
 
 constexpr std::int64_t progressEvery = 1000;  // items
 
-// The wire numbers its categories for itself; the store may know their names under numbers of its own.
-void leaveCategoriesToTheStore(StoreItem& item) {
-    if (auto* news = std::get_if<NewsItem>(&item))
-        news->categoryId.reset();
-}
-
 // Takes items into a store, and counts.
 class Filling {
 public:
@@ -31,23 +26,52 @@ public:
     Done commit() { return writer.commit(); }
     void rollback() { writer.rollback(); }
 
+    Done takeLine(const QByteArray& line) {
+        const FeedLine parsed = parsedFeedLine(line, ownService);
+        const auto* record = std::get_if<FeedRecord>(&parsed);
+        if (record == nullptr)
+            return Nothing{};
+        return record->item ? take(record->item.value()) : Done(unfit(record->item.error()));
+    }
+
+    SampleTotals totals;
+
+private:
+    // Of records that name none; those of the wire do.
+    static constexpr unsigned char ownService = 1;
+
+    static Error unfit(const Error& reason) {
+        return Error{u"The sample wire does not fit into this store: %1"_s.arg(sentence(reason))};
+    }
     Done take(const StoreItem& item) {
         const auto outcome = writer.take(item);
         if (!outcome)
             return outcome.error();
         const bool named = std::holds_alternative<CategoryItem>(item);
         if (outcome.value().take == Take::Rejected && !named)
-            return Error{
-                u"The sample wire does not fit into this store: %1"_s.arg(sentence(*outcome.value().reason))};
+            return unfit(*outcome.value().reason);
         ++(outcome.value().take == Take::TakenIn ? totals.takenIn : totals.alreadyThere);
         return Nothing{};
     }
 
-    SampleTotals totals;
-
-private:
     StoreWriter writer;
 };
+
+Done takeAll(Filling& filling, const SampleOptions& options,
+             const std::function<bool(std::int64_t)>& progress) {
+    const Error stopped{u"Stopped; nothing of the sample was kept."_s};
+    SampleProcess wire(options);
+    std::int64_t seen = 0;
+    while (const auto line = wire.nextLine()) {
+        if (const Done taken = filling.takeLine(*line); !taken)
+            return taken;
+        if (++seen % progressEvery == 0 && progress && !progress(seen))
+            return stopped;
+    }
+    // What stops the terminal may end the wire at the same time.
+    const Done whole = wire.end();
+    return !whole && progress && !progress(seen) ? Done(stopped) : whole;
+}
 
 }  // namespace
 
@@ -61,18 +85,9 @@ Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& option
         filling.rollback();
         return Error{u"The categories of the store could not be changed: %1"_s.arg(store.failure())};
     }
-    std::int64_t seen = 0;
-    std::optional<Error> failure;
-    const bool whole = SampleWire(options).run([&](StoreItem&& item) {
-        leaveCategoriesToTheStore(item);
-        const Done taken = filling.take(item);
-        if (!taken)
-            failure = taken.error();
-        return !failure && (++seen % progressEvery != 0 || !progress || progress(seen));
-    });
-    if (!whole) {
+    if (const Done taken = takeAll(filling, options, progress); !taken) {
         filling.rollback();
-        return failure.value_or(Error{u"Stopped; nothing of the sample was kept."_s});
+        return taken.error();
     }
     if (const Done committed = filling.commit(); !committed)
         return committed.error();

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "backend/result.h"
-#include "backend/sample/sample_wire.h"
+#include "sample_wire/sample_options.h"
 
 #include <functional>
 
@@ -16,8 +16,8 @@ struct SampleTotals {
     std::int64_t alreadyThere = 0;
 };
 
-// Takes a sample wire into an open store, all of it or nothing. `progress` hears how many items have been
-// seen, now and then; its false stops the taking in, of which nothing stays then.
+// Takes what the program of the sample wire sends into an open store, all of it or nothing. `progress` hears
+// how many items have been seen, now and then; its false stops the taking in, of which nothing stays then.
 Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& options,
                                     const std::function<bool(std::int64_t items)>& progress = {});
 

@@ -31,6 +31,20 @@ expect() { # what, text, file
 expect "version" '^wirepane [0-9]+\.[0-9]+\.[0-9]+$' "$work/version"
 "$wirepane" sample --store "$work/news" --now 2026-03-02T09:30:00 --days 2 --per-day 50 >"$work/sample"
 expect "sample wire" '^[1-9][0-9]* taken in, 0 already there' "$work/sample"
+# Of a wire that breaks off nothing stays, and one that is missing is named.
+wire=$work/moved/bin/wirepane-sample-wire
+mv "$wire" "$work/wire"
+refused() { # what the program says
+    "$wirepane" sample --store "$work/refused" >"$work/said" 2>&1 && { echo "taken in: $1"; exit 1; }
+    expect "a wire that cannot be used" "$1" "$work/said"
+    "$wirepane" search --store "$work/refused" a >"$work/found" 2>&1 || true
+    ! grep -qE '^[0-9]{4}-' "$work/found" || { echo "something stayed: $1"; exit 1; }
+}
+refused 'wirepane-sample-wire cannot be started'
+printf '#!/bin/sh\n"%s" | head -n 4000\necho "no more words" >&2\nexit 3\n' "$work/wire" >"$wire"
+chmod +x "$wire"
+refused 'broke off. no more words'
+mv "$work/wire" "$wire"
 # Systems may leave out what is in share/doc: the program needs none of it.
 mv "$work/moved/share/doc" "$work/doc"
 printf '%s\n' '{"jsonrpc":"2.0","id":1,"method":"view.open","params":{"size":[900,600]}}' \

@@ -15,6 +15,7 @@ contains() { # package, file
     grep -qE " \./$2( |$)" contents || { echo "$1 lacks $2"; exit 1; }
 }
 contains wirepane usr/bin/wirepane
+contains wirepane usr/bin/wirepane-sample-wire
 contains libwirepane-host0.1 usr/lib/wirepane-0.1/libwirepane_news.so
 contains wirepane usr/share/wirepane/docs/guide/guide.md
 contains wirepane-dev usr/share/pkgconfig/wirepane-host.pc

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace wirepane {
+
+// Bounds of the length of a story in characters, the marks between its paragraphs included.
+struct StoryLength {
+    int least = 0;
+    int most = 0;  // at least least + 1000: the last paragraph must find room
+};
+
+struct SampleOptions {
+    static constexpr int mostDays = 10'000;
+    static constexpr int mostHeadlinesPerDay = 1'000'000;
+
+    std::uint64_t seed = 1;
+    std::int64_t now = 0;  // the present moment, seconds since 1970, UTC
+    int days = 7;  // calendar days (UTC+8) up to and with the one of the present moment; 1 to mostDays
+    int headlinesPerDay =
+        1500;  // on a working day, over all services; weekends have fewer; 1 to mostHeadlinesPerDay
+
+    // The services that send; 16, 22, 52 and 122 have roles of their own, all others are ordinary wires: the
+    // odd ones in English, the even ones in Chinese.
+    std::vector<unsigned char> services = {1, 2, 16, 22, 122, 52};
+
+    bool stories = true;  // false: headlines only, for large stores quickly
+    std::optional<StoryLength>
+        storyLength;              // every headline has a story of that length; absent: as a desk writes
+    int correctionPermille = 20;  // part of the items that are later versions of earlier ones
+};
+
+}  // namespace wirepane

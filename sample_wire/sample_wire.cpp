@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "sample_wire/sample_wire.h"
+
+#include "sample_wire/company_register.h"
+#include "sample_wire/day_plan.h"
+#include "sample_wire/market_state.h"
+#include "sample_wire/news_desk.h"
+#include "sample_wire/phrasebook.h"
+#include "sample_wire/story_writer.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace wirepane {
+
+namespace {
+
+using namespace sample;
+
+SampleOptions bounded(SampleOptions options) {
+    options.days = std::clamp(options.days, 1, SampleOptions::mostDays);
+    options.headlinesPerDay = std::clamp(options.headlinesPerDay, 1, SampleOptions::mostHeadlinesPerDay);
+    return options;
+}
+
+// What the plan of the news depends on; wires that differ in it share no identities.
+std::uint64_t planSeedOf(const SampleOptions& options) {
+    std::uint64_t seed = hashOf(options.seed, static_cast<std::uint64_t>(options.headlinesPerDay),
+                                static_cast<std::uint64_t>(options.correctionPermille));
+    for (unsigned char service : options.services)
+        seed = hashOf(seed, service);
+    return seed;
+}
+
+void appendPadded(QString& text, std::int64_t value, int digits) {
+    const QString number = QString::number(value);
+    for (qsizetype i = number.size(); i < digits; ++i)
+        text += u'0';
+    text += number;
+}
+
+}  // namespace
+
+class SampleWire::Desk {
+public:
+    Desk(const SampleData& data, SampleOptions theOptions)
+        : options(bounded(std::move(theOptions))),
+          companies(data.words),
+          markets(data.words, options.seed),
+          world{data.words, companies, markets, options.seed},
+          writer(world, data.book),
+          planSeed(planSeedOf(options)),
+          plan(options.services, options.headlinesPerDay, planSeed) {
+        for (const Category& category : data.words.categories)
+            categories.insert(category.id, category);
+    }
+
+    bool handCategories(const Taker& take) const;
+    bool handSymbols(const Taker& take) const;
+    bool handQuotes(const Taker& take) const;
+    bool handNews(const Taker& take) const;
+
+private:
+    bool handDay(Day day, const std::vector<PlannedItem>& items, const Taker& take) const;
+    NewsItem itemOf(const PlannedItem& planned, const Assignment& assignment) const;
+    std::vector<SymbolRef> relatedOf(const Scene& scene) const;
+    QString identityOf(unsigned char service, const Assignment& assignment) const;
+
+    SampleOptions options;
+    CompanyRegister companies;
+    MarketState markets;
+    World world;
+    StoryWriter writer;
+    std::uint64_t planSeed;
+    DayPlan plan;
+    QHash<std::int32_t, Category> categories;
+};
+
+bool SampleWire::Desk::handCategories(const Taker& take) const {
+    for (unsigned char service : options.services) {
+        std::vector<std::int32_t> ids;
+        for (const Beat& beat : roleOf(service).beats)
+            if (std::find(ids.begin(), ids.end(), beat.category) == ids.end())
+                ids.push_back(beat.category);
+        for (std::int32_t id : ids)
+            if (!take(CategoryItem{service, id, categories[id].name, categories[id].colour}))
+                return false;
+    }
+    return true;
+}
+
+bool SampleWire::Desk::handSymbols(const Taker& take) const {
+    for (unsigned char market : {stockExchangeService, emergingBoardService, hongKongService})
+        for (const Company& company : companies.companies(market))
+            if (!take(SymbolItem{market, company.code, company.chinese, 1}))
+                return false;
+    return std::all_of(companies.warrants().begin(), companies.warrants().end(),
+                       [&take](const Warrant& warrant) {
+                           return take(SymbolItem{warrantService, warrant.code, warrant.name, 1});
+                       });
+}
+
+bool SampleWire::Desk::handQuotes(const Taker& take) const {
+    const LocalTime at = LocalTime::fromUtc(options.now);
+    const auto hand = [&take](const SymbolRef& symbol, const Quote& quote, std::int64_t volume) {
+        return take(QuoteItem{symbol.market, symbol.code, static_cast<double>(quote.now) / 100,
+                              static_cast<double>(quote.now - quote.previous) / 100, volume});
+    };
+    for (unsigned char market : {stockExchangeService, emergingBoardService, hongKongService})
+        for (const Company& company : companies.companies(market))
+            if (!hand(company.symbol(), markets.share(company, at), markets.volume(company, at)))
+                return false;
+    return std::all_of(companies.warrants().begin(), companies.warrants().end(), [&](const Warrant& warrant) {
+        return hand(warrant.symbol(), markets.warrant(warrant, at), markets.volume(warrant, at));
+    });
+}
+
+bool SampleWire::Desk::handNews(const Taker& take) const {
+    const Day today = LocalTime::fromUtc(options.now).day;
+    for (Day day{today.number - options.days + 1}; day.number < today.number; ++day.number)
+        if (!handDay(day, plan.day(day), take))
+            return false;
+    return handDay(today, plan.dayUntil(options.now), take);
+}
+
+bool SampleWire::Desk::handDay(Day day, const std::vector<PlannedItem>& items, const Taker& take) const {
+    std::vector<NewsDesk> desks;
+    for (unsigned char service : plan.services())
+        desks.emplace_back(service, day, planSeed, options.correctionPermille);
+    return std::all_of(items.begin(), items.end(), [&](const PlannedItem& item) {
+        return take(itemOf(item, desks[item.service].next(item)));
+    });
+}
+
+NewsItem SampleWire::Desk::itemOf(const PlannedItem& planned, const Assignment& assignment) const {
+    Scene scene(world, assignment.setting);
+    NewsItem item;
+    item.service = plan.services()[planned.service];
+    item.identity = identityOf(item.service, assignment);
+    item.version = assignment.version;
+    item.time = planned.time;
+    item.title = writer.headline(scene, assignment);
+    if (options.stories && options.storyLength)
+        item.story = writer.story(scene, assignment, {options.storyLength->least, options.storyLength->most});
+    else if (options.stories && !StoryWriter::isFlash(scene, assignment))
+        item.story = writer.story(scene, assignment);
+    item.categoryId = assignment.beat->category;
+    item.category = categories[assignment.beat->category].name;
+    item.related = relatedOf(scene);
+    return item;
+}
+
+std::vector<SymbolRef> SampleWire::Desk::relatedOf(const Scene& scene) const {
+    std::vector<SymbolRef> related;
+    if (scene.warrant())
+        related.push_back(scene.warrant()->symbol());
+    if (isAboutCompany(scene.topic()))
+        related.push_back(scene.company().symbol());
+    for (const Company* company : scene.mentioned())
+        if (related.empty() || related.back() != company->symbol())
+            related.push_back(company->symbol());
+    return related;
+}
+
+QString SampleWire::Desk::identityOf(unsigned char service, const Assignment& assignment) const {
+    const Day day = assignment.setting.at.day;
+    QString identity;
+    identity.reserve(48);
+    identity += u"sample:";
+    identity += QString::number(planSeed >> 32, 16);
+    identity += u':';
+    appendPadded(identity, service, 1);
+    identity += u':';
+    appendPadded(identity, (day.year() * 100 + day.month()) * 100 + day.dayOfMonth(), 8);
+    identity += u':';
+    appendPadded(identity, assignment.ordinal, 6);
+    return identity;
+}
+
+SampleData SampleData::load(QStringList& faults) {
+    SampleData data;
+    data.words = WordTables::load(faults);
+    data.book = Phrasebook::load(faults);
+    return data;
+}
+
+SampleWire::SampleWire(const SampleData& data, SampleOptions options)
+    : desk(std::make_unique<const Desk>(data, std::move(options))) {}
+
+SampleWire::~SampleWire() = default;
+
+bool SampleWire::run(const Taker& take) const {
+    return desk->handCategories(take) && desk->handSymbols(take) && desk->handQuotes(take) &&
+           desk->handNews(take);
+}
+
+}  // namespace wirepane

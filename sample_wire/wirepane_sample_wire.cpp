@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/feed/written_lines.h"
+#include "sample_wire/sample_wire.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDateTime>
+
+#include <cstdio>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using namespace wirepane;
+
+constexpr int statusDone = 0;
+constexpr int statusCut = 1;  // whoever reads wants no more
+constexpr int statusUnusable = 2;
+
+void say(const QString& sentence) {
+    std::fputs(qPrintable(u"wirepane-sample-wire: "_s + sentence + u'\n'), stderr);
+}
+
+// The options of the command line; what is wrong with them is a fault.
+class Options {
+public:
+    Options() {
+        const SampleOptions defaults;
+        parser.setApplicationDescription(
+            u"Writes an invented news wire to standard output, up to the present moment, as feed lines."_s);
+        parser.addOptions({
+            {u"seed"_s, u"Which wire: the same number gives the same news. Default: 1."_s, u"number"_s,
+             u"1"_s},
+            {u"days"_s, u"How many days back. Default: %1."_s.arg(defaults.days), u"number"_s,
+             QString::number(defaults.days)},
+            {u"per-day"_s, u"Headlines on a working day. Default: %1."_s.arg(defaults.headlinesPerDay),
+             u"number"_s, QString::number(defaults.headlinesPerDay)},
+            {u"now"_s, u"What is taken as the present moment, such as 2026-03-02T09:30:00."_s, u"moment"_s},
+        });
+        parser.addHelpOption();
+        parser.addVersionOption();
+        parser.process(*QCoreApplication::instance());
+    }
+
+    SampleOptions read() {
+        SampleOptions options;
+        options.seed =
+            static_cast<std::uint64_t>(number(u"seed"_s, 0, std::numeric_limits<std::int64_t>::max()));
+        options.days = static_cast<int>(number(u"days"_s, 1, SampleOptions::mostDays));
+        options.headlinesPerDay =
+            static_cast<int>(number(u"per-day"_s, 1, SampleOptions::mostHeadlinesPerDay));
+        const QDateTime now = parser.isSet(u"now"_s)
+                                  ? QDateTime::fromString(parser.value(u"now"_s), Qt::ISODate)
+                                  : QDateTime::currentDateTime();
+        if (!now.isValid())
+            faults.append(u"--now takes a moment such as 2026-03-02T09:30:00"_s);
+        options.now = now.toSecsSinceEpoch();
+        if (!parser.positionalArguments().isEmpty())
+            faults.append(u"takes no argument \"%1\""_s.arg(parser.positionalArguments().constFirst()));
+        return options;
+    }
+
+    QStringList faults;
+
+private:
+    std::int64_t number(const QString& name, std::int64_t least, std::int64_t most) {
+        bool isNumber = false;
+        const std::int64_t value = parser.value(name).toLongLong(&isNumber);
+        if (!isNumber || value < least || value > most)
+            faults.append(u"--%1 takes a number from %2 to %3"_s.arg(name).arg(least).arg(most));
+        return value;
+    }
+
+    QCommandLineParser parser;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication program(argc, argv);
+    QCoreApplication::setApplicationName(u"wirepane-sample-wire"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(WIREPANE_VERSION));
+    Options arguments;
+    const SampleOptions options = arguments.read();
+    QStringList faults = arguments.faults;
+    const SampleData data = SampleData::load(faults);
+    for (const QString& fault : faults)
+        say(fault);
+    if (!faults.isEmpty())
+        return statusUnusable;
+    const bool whole = SampleWire(data, options).run([](const StoreItem& item) {
+        const QByteArray line = feedLine(item);
+        return std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stdout) ==
+               static_cast<std::size_t>(line.size());
+    });
+    if (whole && std::fflush(stdout) == 0)
+        return statusDone;
+    say(u"the news could not be written"_s);
+    return statusCut;
+}

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/result.h"
+#include "sample_wire/sample_options.h"
+
+#include <QByteArray>
+#include <QProcess>
+
+#include <optional>
+
+namespace wirepane {
+
+// The program of the sample wire, which stands beside the terminal's. It is ended with this. Any one thread;
+// no event loop is needed.
+class SampleProcess {
+public:
+    // Of the options it is told seed, now, days and headlinesPerDay.
+    explicit SampleProcess(const SampleOptions& options);
+    SampleProcess(const SampleProcess&) = delete;
+    SampleProcess& operator=(const SampleProcess&) = delete;
+    ~SampleProcess();
+
+    // Waits for the next feed line; nothing at the end.
+    std::optional<QByteArray> nextLine();
+    // After the last line: whether the wire was whole.
+    Done end();
+
+private:
+    QProcess process;
+};
+
+}  // namespace wirepane
