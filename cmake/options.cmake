@@ -33,11 +33,35 @@ if(CMAKE_SYSTEM_NAME STREQUAL Linux AND NOT WIREPANE_SANITIZE)
 endif()
 
 option(WIREPANE_PRECOMPILE "Precompile the headers that nearly every source includes" ON)
-function(wirepane_precompile target)
+
+# wirepane_precompiled_headers(NAME LINK library HEADERS...): for all that are built with what this library brings, and
+# maybe more. A target that uses them needs the same options; one that differs fails to compile.
+set(WIREPANE_NO_SOURCE ${CMAKE_BINARY_DIR}/precompiled_headers.cpp)
+file(CONFIGURE OUTPUT ${WIREPANE_NO_SOURCE} CONTENT "// Only its precompiled headers count.\n")
+function(wirepane_precompiled_headers name)
+    cmake_parse_arguments(HEADERS "" "LINK" "" ${ARGN})
     if(WIREPANE_PRECOMPILE)
-        target_precompile_headers(${target} PRIVATE ${ARGN})
+        add_library(${name} OBJECT ${WIREPANE_NO_SOURCE})
+        target_link_libraries(${name} PRIVATE wirepane_options ${HEADERS_LINK})
+        target_precompile_headers(${name} PRIVATE ${HEADERS_UNPARSED_ARGUMENTS})
+        set_target_properties(${name} PROPERTIES AUTOMOC OFF)
     endif()
 endfunction()
+function(wirepane_precompile target headers)
+    if(WIREPANE_PRECOMPILE)
+        target_precompile_headers(${target} REUSE_FROM ${headers})
+    endif()
+endfunction()
+
+set(WIREPANE_CORE_HEADERS
+    <QByteArray> <QDateTime> <QHash> <QJsonObject> <QObject> <QString> <QStringList> <QVariant>
+    <algorithm> <array> <chrono> <cstdint> <functional> <map> <memory> <optional> <set> <utility> <variant> <vector>)
+set(WIREPANE_WIDGET_HEADERS
+    ${WIREPANE_CORE_HEADERS}
+    <QApplication> <QHeaderView> <QKeyEvent> <QLabel> <QLineEdit> <QPainter> <QPointer> <QPushButton> <QTableView>
+    <QTimer> <QWidget>)
+wirepane_precompiled_headers(wirepane_core_headers LINK Qt6::Core ${WIREPANE_CORE_HEADERS})
+wirepane_precompiled_headers(wirepane_widget_headers LINK Qt6::Widgets ${WIREPANE_WIDGET_HEADERS})
 
 # The version in the names of the shared libraries: while it is 0.x, each minor version is an interface of its own.
 set(WIREPANE_ABI ${PROJECT_VERSION_MAJOR})
@@ -47,10 +71,10 @@ endif()
 
 set(WIREPANE_MODULE_FOLDER lib/wirepane-${WIREPANE_ABI})
 
-# wirepane_room(NAME [SHARED] SOURCES... LINK libraries...)
-# One library per room (a shared one only for the host contract).
+# wirepane_room(NAME [SHARED] [WIDGETS] SOURCES... LINK libraries...)
+# One library per room (a shared one only for the host contract). WIDGETS: among its libraries are Qt's widgets.
 function(wirepane_room name)
-    cmake_parse_arguments(ROOM "SHARED" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ROOM "SHARED;WIDGETS" "" "SOURCES;LINK" ${ARGN})
     if(ROOM_SHARED)
         add_library(${name} SHARED ${ROOM_SOURCES})
         set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${WIREPANE_ABI})
@@ -60,7 +84,11 @@ function(wirepane_room name)
     target_include_directories(${name} INTERFACE $<INSTALL_INTERFACE:include/wirepane>)
     target_compile_features(${name} INTERFACE cxx_std_20)
     target_link_libraries(${name} PUBLIC $<BUILD_INTERFACE:wirepane_options> ${ROOM_LINK})
-    wirepane_precompile(${name} <QString> <QStringList> <QHash> <QVariant> <functional> <memory> <vector>)
+    if(ROOM_WIDGETS)
+        wirepane_precompile(${name} wirepane_widget_headers)
+    else()
+        wirepane_precompile(${name} wirepane_core_headers)
+    endif()
 endfunction()
 
 # wirepane_test_fonts(NAME FAMILY FILES): what FONTCONFIG_FILE names so that tests see these fonts alone, FAMILY first.
@@ -77,9 +105,7 @@ function(wirepane_test name)
     cmake_parse_arguments(TEST "WIDGETS" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE wirepane_options wirepane_test_support ${TEST_LINK})
-    if(WIREPANE_PRECOMPILE)
-        target_precompile_headers(${name} REUSE_FROM wirepane_test_support)
-    endif()
+    wirepane_precompile(${name} wirepane_test_headers)
     wirepane_add_test(${name} ${name} usual "DejaVu Sans")
     if(TEST_WIDGETS)
         wirepane_add_test(${name}_large_font ${name} large "Noto Sans Mono")
