@@ -17,6 +17,7 @@
 #include <QStatusBar>
 #include <QTest>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -81,6 +82,11 @@ TEST_F(UserTerminalTest, ATerminalWhoseCommonFeedNameIsTakenOpensAndSaysSo) {
     ASSERT_TRUE(session) << sentence(session.error()).toStdString();
     EXPECT_EQ(session.value()->frame().notices(),
               u"The local socket %1 cannot be opened: it is in use by another program."_s.arg(path));
+    const auto labels = session.value()->frame().statusBar()->findChildren<QLabel*>();
+    const bool isShown = std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+        return label->toolTip().contains(u"wirepane-feed: Failed since "_s);
+    });
+    EXPECT_TRUE(isShown) << "beside the other sources, over the state of the feed";
 }
 
 // Run a second time where no font has Chinese.
