@@ -16,6 +16,8 @@
 
 #include <QStyle>
 
+#include <utility>
+
 Arrangement::Arrangement(ViewContext& context, const CommonParts& commonParts, StoryStage& storyStage,
                          Calls ofTheView)
     : view(context), parts(commonParts), stage(storyStage), calls(std::move(ofTheView)) {}
@@ -73,6 +75,10 @@ void Arrangement::placeStory(const ViewLayout& places) {
         quotes->setGeometry(places.relatedQuotes);
         quotes->setVisible(!places.relatedQuotes.isEmpty());
     }
+}
+
+bool Arrangement::takeWidth() {
+    return std::exchange(takenWidth, parts.window.width()) != parts.window.width();
 }
 
 int Arrangement::gridWidth() const {

@@ -31,6 +31,8 @@ public:
     void place();
     // Whether it ever was.
     bool isPlaced() const { return placed; }
+    // True when the window is of another width than at the last call.
+    bool takeWidth();
     // The width that the story leaves for the grid.
     int gridWidth() const;
 
@@ -43,4 +45,5 @@ private:
     StoryStage& stage;
     const Calls calls;
     bool placed = false;
+    int takenWidth = 0;
 };

@@ -3,6 +3,7 @@
 #include "news_view/story_display.h"
 
 #include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_context.h"
 #include "news_view/view_layout.h"

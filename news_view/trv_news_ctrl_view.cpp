@@ -2,91 +2,31 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/trv_news_ctrl_view.h"
 
-#include "headline_list/cell_texts.h"
 #include "headline_list/language_keys.h"
-#include "host/contract/clock.h"
-#include "host/contract/item_display.h"
+#include "host/contract/fixed_services.h"
 #include "host/controls/registered_message.h"
-#include "host/controls/sc_combo_box.h"
-#include "news_view/category_mode.h"
+#include "host/controls/window_id.h"
+#include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
-#include "news_view/days.h"
-#include "news_view/list_tip.h"
-#include "news_view/live_news.h"
-#include "news_view/searches.h"
-#include "news_view/sent_again.h"
-#include "news_view/service_menu.h"
-#include "news_view/standing_searches.h"
-#include "news_view/symbol_mode.h"
-#include "story/trv_news_story.h"
+#include "news_view/mode_table.h"
+#include "news_view/view_parts.h"
 
 #include <algorithm>
 
 TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
-    : TRVQuoteBaseView(parent),
-      backEnd(*BKQuoteInterface::GetBKInterface()),
-      lists(backEnd, *this),
-      controls(*this, backEnd),
-      output(backEnd, outputDialogs, outputSurroundings()),
-      board(noticeSurroundings(), noticeTellers()),
-      menu(*this, [this](int command) { OnCommand(command); }),
-      contextMenu(*this, menu, contextMenuSurroundings()),
-      story(*this, backEnd, storySurroundings()),
-      input(*this, inputSurroundings()),
-      shortcuts(*this, shortcutSurroundings()),
-      tip(std::make_unique<ListTip>(*this,
-                                    [this] {
-                                        return ListTip::Look{GetViewFont(), colText, colBackground};
-                                    })),
-      common{backEnd, *this, services, lists, controls, settings, switches, loading, breaks, *tip, newsType},
-      searches(std::make_unique<Searches>(context(), common)),
-      standingSearches(std::make_unique<StandingSearches>(
-          context(), common, searches->desk(),
-          StandingSearches::Calls{[this] { InitialHeadlineTable(static_cast<int>(ListIndex::Relation)); },
-                                  [this] { searches->send(); }})),
-      days(std::make_unique<Days>(
-          context(), common,
-          Days::Calls{[this]() -> const RelationMatcher& { return standingSearches->tickedKeySets(); },
-                      [this](ListIndex list) { sentAgain->readAgain(list); },
-                      [this](ListIndex list) { sentAgain->readNowOrWhenShown(list); }})),
-      categories(std::make_unique<CategoryMode>(context(), common,
-                                                [this] { return standingSearches->filterOfShownList(); })),
-      symbolMode(std::make_unique<SymbolMode>(context(), common, symbolCalls())),
-      sentAgain(std::make_unique<SentAgain>(
-          context(), common,
-          SentAgain::Choices{
-              [this] { return days->pickedKey(); }, [this] { return categories->chosenId(); },
-              [this] { return symbolMode->current(); }, [this] { return symbolMode->listed(); },
-              [this]() -> const RelationMatcher& { return standingSearches->tickedKeySets(); }})),
-      serviceMenu(std::make_unique<ServiceMenu>(
-          context(), common,
-          ServiceMenu::Calls{[this](int command) { OnCommand(command); }, [this] { vReloadForServices(); }})),
-      liveNews(std::make_unique<LiveNews>(
-          context(), common,
-          LiveNews::Calls{
-              [this] { return intakeChoices(); },
-              [this](ListIndex list, const HeadlinePlace& place) { vKeepShownStory(list, place); },
-              [this](const CHeadline& headline, const QString& categoryId) {
-                  searches->notePushed(headline);
-                  categories->notePushed(headline, categoryId);
-              }})),
-      modes(context(), common, stage, modeCalls()),
-      arrangement(context(), common, stage, arrangementCalls()),
-      builder(*this, common, stage, builderCalls()) {
-    lists.vSetOnRead([this] { vPlaceNotices(); });
-}
+    : TRVQuoteBaseView(parent), parts(std::make_unique<Parts>(*this)) {}
 
 TRVNewsCtrlView::~TRVNewsCtrlView() {
     C_UnRegisterSymbol(this);
 }
 
 void TRVNewsCtrlView::GetCaption(QString& caption) {
-    caption = LangText(backEnd, keys::caption);
+    caption = LangText(parts->backEnd, keys::caption);
 }
 
 void TRVNewsCtrlView::ChangeActiveApp(int active) {
     if (!StoryStage::IsStoryDlgOnTop() || bPopupFollowsApplication())
-        stage.ChangeActiveApp(active != 0);
+        parts->stage.ChangeActiveApp(active != 0);
 }
 
 bool TRVNewsCtrlView::OnCommand(int id) {
@@ -141,19 +81,17 @@ void TRVNewsCtrlView::vUpdateView() {
 }
 
 void TRVNewsCtrlView::vRealUpdateView() {
-    HeadlineList* list = CurrentList();
-    if (list == nullptr || list->pGetGrid() == nullptr)
-        return;
-    list->vFillHeadline();
-    list->vFillTempHeadline();
+    HeadlineList& list = parts->listOf(parts->modes.shown());
+    list.vFillHeadline();
+    list.vFillTempHeadline();
 }
 
 void TRVNewsCtrlView::OnTimer(int id) {
     if (id == ids::refreshTimer) {
-        searches->searchForPushed();
-        categories->learn(false);
+        parts->searches.searchForPushed();
+        parts->categories.learn(false);
         vRealUpdateView();
-        categories->showColumn();
+        parts->categories.showColumn();
         KillTimer(ids::refreshTimer);
     }
     TRVQuoteBaseView::OnTimer(id);
@@ -168,54 +106,126 @@ bool TRVNewsCtrlView::OnRegisteredMessage(const RegisteredMessageEvent& message)
 }
 
 void TRVNewsCtrlView::OnChangeSize(quintptr sender) {
-    if (width() == lastClientWidth)
-        return;
-    lastClientWidth = width();
-    if (sender == reinterpret_cast<quintptr>(pGetCurrSheetView()))
+    if (parts->arrangement.takeWidth() && sender == reinterpret_cast<quintptr>(pGetCurrSheetView()))
         vUpdateView();
+}
+
+// --- Modes and layout ---
+
+void TRVNewsCtrlView::SwitchFunction(int mode) {
+    if (const auto index = ListOfNumber(mode))
+        parts->modes.switchTo(*index);
+}
+
+void TRVNewsCtrlView::ShowHideCtrObject(int mode) {
+    if (const auto index = ListOfNumber(mode))
+        parts->modes.showParts(*index);
+}
+
+void TRVNewsCtrlView::vSetComponentPos() {
+    parts->arrangement.place();
+}
+
+int TRVNewsCtrlView::iGetFunctionID(int stored) const {
+    if (!ListOfNumber(stored) ||
+        (stored == static_cast<int>(ListIndex::Symbol) && bIsAuthService(stockExchangeService) != 1))
+        return 0;
+    return stored;
+}
+
+int TRVNewsCtrlView::iGetFunctionID(const QString& name) const {
+    for (const ListKind& kind : listKinds) {
+        const QLatin1StringView key = ModeOf(kind.index).captionKey;
+        if (name.compare(LangText(parts->backEnd, key), Qt::CaseInsensitive) == 0 || name == key)
+            return iGetFunctionID(static_cast<int>(kind.index));
+    }
+    return 0;
+}
+
+int TRVNewsCtrlView::iGetTabIndex(int mode) const {
+    return parts->controls.iGetTabIndex(mode);
+}
+
+void TRVNewsCtrlView::CheckInitialView(int& mode) const {
+    if (Sheet(mode) != nullptr)
+        return;
+    for (int candidate = 0; candidate < listCount; ++candidate) {
+        if (Sheet(candidate) != nullptr) {
+            mode = candidate;
+            return;
+        }
+    }
+}
+
+void TRVNewsCtrlView::OnSelchangeTabMode() {
+    if (const auto* strip = parts->controls.Find<CXTPTabControl>(ids::tabStrip))
+        SwitchFunction(strip->iGetItemData(strip->GetCurSel()));
+}
+
+void TRVNewsCtrlView::OnBtnChangeShowType() {
+    if (parts->newsType == 0 && GetDlgItem(this, ids::showTypeButton) != nullptr) {
+        parts->stage.vHideDialog();
+        SetStoryShowType(static_cast<unsigned short>(GetStoryShowType() + 1));
+        parts->story.forget();
+        if (parts->story.paneShowsStories())
+            OnShowStory();
+    }
+    if (CSuperSheetWnd* sheet = pGetCurrSheetView())
+        sheet->setFocus();
+}
+
+void TRVNewsCtrlView::SetStoryShowType(unsigned short type) {
+    parts->story.setShowType(type);
+    vSetComponentPos();
+}
+
+unsigned short TRVNewsCtrlView::GetStoryShowType() const {
+    return static_cast<unsigned short>(parts->story.showType());
+}
+
+void TRVNewsCtrlView::SetStoryWndStyle() {
+    parts->stage.SetStoryWndStyle();
+}
+
+bool TRVNewsCtrlView::IsStoryDlgOnTop() const {
+    return StoryStage::IsStoryDlgOnTop();
+}
+
+void TRVNewsCtrlView::vSetNewsType(int type) {
+    parts->newsType = type;
+}
+
+int TRVNewsCtrlView::GetNewsType() const {
+    return parts->newsType;
+}
+
+int TRVNewsCtrlView::GetSheetWidth() const {
+    return parts->arrangement.gridWidth();
 }
 
 // --- Lists ---
 
 bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
     const auto list = ListOfNumber(number);
-    return list && modes.read(*list);
-}
-
-HeadlineList* TRVNewsCtrlView::CurrentList() {
-    return &List(modes.shown());
+    return list && parts->modes.read(*list);
 }
 
 CSuperSheetWnd* TRVNewsCtrlView::pGetCurrSheetView() const {
-    return Sheet(currentMode());
+    return parts->shownGrid();
 }
 
 CHeadlineTable TRVNewsCtrlView::GetHeadlineTable(int row) const {
-    CHeadlineTable entry;
-    bGetHeadlineTable(entry, currentMode(), row);
-    return entry;
+    return parts->entryAt(parts->modes.shown(), row).value_or(CHeadlineTable());
 }
 
 bool TRVNewsCtrlView::bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const {
-    const auto index = ListOfNumber(list);
-    if (!index || row < 0 || row >= lists[*index].Table().size())
-        return false;
-    entry = lists[*index].Table().at(row);
-    return true;
-}
-
-std::optional<CHeadlineTable> TRVNewsCtrlView::entryAt(ListIndex list, int row) const {
-    CHeadlineTable entry;
-    if (!bGetHeadlineTable(entry, static_cast<int>(list), row))
-        return std::nullopt;
-    return entry;
+    return parts->bGetHeadlineTable(entry, list, row);
 }
 
 int TRVNewsCtrlView::iGetHeadlineTableSize(int list) const {
-    const auto index = ListOfNumber(list);
-    return index ? lists[*index].Table().size() : -1;
+    return parts->iGetHeadlineTableSize(list);
 }
 
-void TRVNewsCtrlView::vGetNewsActiveService(std::vector<unsigned char>& active) const {
-    active = services.ActiveServices(currentMode());
+void TRVNewsCtrlView::vGetNewsActiveService(std::vector<unsigned char>& services) const {
+    parts->vGetNewsActiveService(services);
 }

@@ -1,281 +1,283 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-// What the host tells the news view of news, days and symbols, and what the user does with them: the owners
-// of that do the work.
-#include "headline_list/cell_texts.h"
-#include "headline_list/intake.h"
+// What the host tells the news view of news, days, symbols and quotes, and what the user does with them: the
+// owners of that do the work.
 #include "host/contract/clock.h"
-#include "host/contract/sync_info.h"
-#include "news_view/category_mode.h"
-#include "news_view/days.h"
-#include "news_view/live_news.h"
-#include "news_view/searches.h"
-#include "news_view/sent_again.h"
-#include "news_view/service_menu.h"
-#include "news_view/standing_searches.h"
-#include "news_view/symbol_mode.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "news_view/view_parts.h"
 #include "search/news_relate_symbol_quote_view.h"
 
 // --- Searches ---
 
 void TRVNewsCtrlView::OnSearch() {
-    searches->searchForText();
+    parts->searches.searchForText();
+}
+
+void TRVNewsCtrlView::vOnEnterDown() {
+    OnSearch();
 }
 
 void TRVNewsCtrlView::OnDealsSearchDlg() {
-    searches->compose();
+    parts->searches.compose();
 }
 
 void TRVNewsCtrlView::OnRelationSearchDlg() {
-    standingSearches->composeKeySets();
+    parts->standingSearches.composeKeySets();
 }
 
 void TRVNewsCtrlView::OnWarningSearchDlg() {
-    standingSearches->manageWarningTerms();
+    parts->standingSearches.manageWarningTerms();
 }
 
 void TRVNewsCtrlView::OnDealsSearch() {
-    searches->send();
+    parts->searches.send();
 }
 
 void TRVNewsCtrlView::OnEndNarrowing() {
-    searches->endNarrowing();
+    parts->searches.endNarrowing();
 }
 
 void TRVNewsCtrlView::RespSearchHeadLineTable(const CSearch& condition, unsigned char serviceId) {
-    searches->takeAnswer(condition, serviceId);
+    parts->searches.takeAnswer(condition, serviceId);
 }
 
 void TRVNewsCtrlView::ProcessNewSearchHeadline(CSearch& condition, ListIndex list, const CHeadline& headline,
                                                const QString& key) {
-    searches->searchFor(condition, list, headline, key);
+    parts->searches.searchFor(condition, list, headline, key);
 }
 
 void TRVNewsCtrlView::vDoSearchChangeSymbol(const CSearch& condition, unsigned char market,
                                             const QString& symbolCode) {
-    searches->narrow(CSearch(condition), {market, symbolCode});
+    parts->searches.narrow(CSearch(condition), {market, symbolCode});
 }
 
 void TRVNewsCtrlView::vShowTip(const QRect& rectangle, const QString& text) {
-    searches->vShowTip(rectangle, text);
+    parts->searches.vShowTip(rectangle, text);
 }
 
 // --- Days ---
 
 void TRVNewsCtrlView::OnDateTimeDropDown() {
-    days->calendarOpened();
+    parts->days.calendarOpened();
 }
 
 void TRVNewsCtrlView::OnDateTimeChange(const QDate& date) {
-    days->dateChanged(date);
+    parts->days.dateChanged(date);
 }
 
 void TRVNewsCtrlView::OnDateTimeCloseUp() {
-    days->calendarClosed();
+    parts->days.calendarClosed();
 }
 
 bool TRVNewsCtrlView::bChangeDate(const QDate& date) {
-    return days->pick(date);
+    return parts->days.pick(date);
 }
 
 void TRVNewsCtrlView::vRecvNewMarketStatus(const CMarketStatus* status) {
     if (status != nullptr)
-        days->follow(*status);
+        parts->days.follow(*status);
 }
 
 bool TRVNewsCtrlView::bChangeDateByNewHeadLine() {
-    return days->readCurrentDates();
+    return parts->days.readCurrentDates();
 }
 
 // --- Sent again ---
 
 void TRVNewsCtrlView::OnReCoverHeadline() {
-    sentAgain->askForHeadlines();
+    parts->sentAgain.askForHeadlines();
 }
 
 void TRVNewsCtrlView::OnReCoverHeadlineTable() {
-    sentAgain->askForTable();
+    parts->sentAgain.askForTable();
 }
 
 void TRVNewsCtrlView::vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo* info) {
     if (info != nullptr)
-        sentAgain->takeDateTable(*info);
+        parts->sentAgain.takeDateTable(*info);
 }
 
 void TRVNewsCtrlView::vRecvCatHeadlineTableRecovery(const CHeadlineTableInfo* info) {
     if (info != nullptr)
-        sentAgain->takeCategoryTable(*info);
+        parts->sentAgain.takeCategoryTable(*info);
 }
 
 void TRVNewsCtrlView::vRecvSymHeadlineTableRecovery(const CHeadlineTableInfo* info) {
     if (info != nullptr)
-        sentAgain->takeSymbolTable(*info);
+        parts->sentAgain.takeSymbolTable(*info);
 }
 
 // --- Headlines that arrive ---
 
-IntakeState TRVNewsCtrlView::intakeChoices() const {
-    IntakeState state;
-    state.hasDatePicker = days->hasDay();
-    state.pickedDate = days->picked();
-    state.newsDay = days->newsDay();
-    state.relation = &standingSearches->tickedKeySets();
-    state.categoryId = categories->chosenId();
-    // While another mode is shown the list may hold another symbol's news than the combo names.
-    const auto symbol = symbolMode->chosen();
-    if (symbol && symbol->code == lists.ListedSymbol().code) {
-        state.symbolCode = symbol->code;
-        state.symbolMarket = symbol->market;
-    }
-    return state;
-}
-
 void TRVNewsCtrlView::RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
                                       const QString& symbolCode) {
     if (headline != nullptr)
-        liveNews->push({*headline, categoryId, symbolCode});
+        parts->liveNews.push({*headline, categoryId, symbolCode});
 }
 
 void TRVNewsCtrlView::vHeadlineReplaced(const CHeadline* headline, const QString& categoryId,
                                         const QString& symbolCode) {
     if (headline != nullptr)
-        liveNews->replace({*headline, categoryId, symbolCode});
+        parts->liveNews.replace({*headline, categoryId, symbolCode});
 }
 
 void TRVNewsCtrlView::vHeadlineGone(const HeadlineKey& key) {
-    liveNews->takeOut(key);
+    parts->liveNews.takeOut(key);
 }
 
 void TRVNewsCtrlView::vConnectionChanged(bool connected) {
     if (connected)
-        breaks.vRestored(host_clock::now());
+        parts->breaks.vRestored(host_clock::now());
     else
-        breaks.vLost(host_clock::now());
-    vPlaceNotices();
+        parts->breaks.vLost(host_clock::now());
+    parts->board.place();
     update();
 }
 
 // --- Services ---
 
 void TRVNewsCtrlView::OnSelectService() {
-    serviceMenu->popUp();
+    parts->serviceMenu.popUp();
+}
+
+int TRVNewsCtrlView::iBeSelectNewsNum() const {
+    return parts->services.iSelectedCount();
 }
 
 void TRVNewsCtrlView::OnSelectCheckService(unsigned int id) {
-    serviceMenu->toggle(static_cast<int>(id));
-}
-
-void TRVNewsCtrlView::vReloadForServices() {
-    const RelationMatcher* filter = standingSearches->filterOfShownList();
-    lists.bRebuild(ListIndex::All, TableKind::ByDate, days->pickedKey(), filter);
-    categories->refill();
-    symbolMode->readFiltered(filter);
-    lists.bRebuild(ListIndex::Relation, TableKind::ByDate, DateKey(host_clock::today()), filter);
-    if (shownList() == ListIndex::Search && List(ListIndex::Search).pGetGrid() != nullptr)
-        OnSearch();
-    services.CheckRegisterService(*this);
-    OnShowStory();
-    update();
+    parts->serviceMenu.toggle(static_cast<int>(id));
 }
 
 // --- Categories ---
 
-QString TRVNewsCtrlView::CategoryNameOf(unsigned char service, int id) {
-    return categories->nameOf(service, id);
+QString TRVNewsCtrlView::cszTransferCatIDToCatName(int id) {
+    return parts->categories.nameOf(0, id);
 }
 
 int TRVNewsCtrlView::GetCategoryIDbyName(const QString& name) {
-    return categories->idOf(0, name);
+    return parts->categories.idOf(0, name);
 }
 
-int TRVNewsCtrlView::CategoryColourOf(unsigned char service, const QString& name, QColor& text,
-                                      QColor& background) {
-    return categories->colourOf(service, name, text, background) ? 1 : 0;
+int TRVNewsCtrlView::GetCategoryColor(const QString& name, QColor& text, QColor& background) {
+    return parts->categories.colourOf(0, name, text, background) ? 1 : 0;
 }
 
 void TRVNewsCtrlView::vReloadCategories() {
-    categories->reloadNames();
-}
-
-void TRVNewsCtrlView::vCategoryStateAfterWriting() {
-    categories->showColumn();
+    parts->categories.reloadNames();
 }
 
 void TRVNewsCtrlView::ChangeCurrViewCategoryState(bool show) {
-    categories->showColumn(show);
+    parts->categories.showColumn(show);
 }
 
 void TRVNewsCtrlView::OnChangeCategoryState() {
-    categories->toggleColumn();
+    parts->categories.toggleColumn();
 }
 
 void TRVNewsCtrlView::OnSelchangeComboIndex() {
-    categories->chosen();
+    parts->categories.chosen();
 }
 
 // --- Symbols ---
-
-SymbolMode::Calls TRVNewsCtrlView::symbolCalls() {
-    return {
-        [this] { vSetComponentPos(); },
-        [this] { ShowHideCtrObject(currentMode()); },
-        [this] { return GetDataState() != DataState::NotSupported; },
-        [this](bool supported) { vSetDataState(supported ? DataState::Normal : DataState::NotSupported); },
-        [this] { return CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(GetLinkGroup()); },
-        [this](const CSymbolInfo& symbol) {
-            emit SendChangeSymbol(GetLinkGroup(), symbol.market, symbol.code);
-        }};
-}
 
 void TRVNewsCtrlView::ChangeSymbol(const QWidget* sender, unsigned char group, unsigned char service,
                                    const QString& code, const QString& name) {
     const CSymbolInfo symbol{service, code};
     const bool concernsView = sender == this || (group == GetLinkGroup() && GetLinkGroup() != 0);
-    if (!concernsView || symbolMode->current() == symbol)
+    if (!concernsView || parts->symbolMode.current() == symbol)
         return;
-    vSetBaseSymbol(backEnd.bIsSymbolIDExist(service, code) == 1 ? symbol : CSymbolInfo{});
-    const bool isRead = symbolMode->take(symbol);
-    searches->followSymbol(symbol);
-    symbolMode->follow(symbol, isRead);
-    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+    vSetBaseSymbol(parts->backEnd.bIsSymbolIDExist(service, code) == 1 ? symbol : CSymbolInfo{});
+    const bool isRead = parts->symbolMode.take(symbol);
+    parts->searches.followSymbol(symbol);
+    parts->symbolMode.follow(symbol, isRead);
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
         quotes->ChangeSymbol(sender, group, service, code, name);
 }
 
 void TRVNewsCtrlView::GetSymbolNews(const QString&) {
-    symbolMode->read();
+    parts->symbolMode.read();
 }
 
 void TRVNewsCtrlView::OnSelSymbol(const QString& code) {
-    if (List(ListIndex::Symbol).pGetGrid() != nullptr)
+    if (parts->listOf(ListIndex::Symbol).pGetGrid() != nullptr)
         GetSymbolNews(code);
 }
 
 void TRVNewsCtrlView::OnSelchangeComboSymbol() {
-    symbolMode->symbolChosen();
+    parts->symbolMode.symbolChosen();
 }
 
 void TRVNewsCtrlView::OnSelchangeComboService() {
-    symbolMode->serviceChosen();
+    parts->symbolMode.serviceChosen();
 }
 
 void TRVNewsCtrlView::vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) {
-    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
         quotes->vDoSymbolUpdate(updates);
-    searches->updateSymbolPicker(updates);
-    symbolMode->takeUpdates(updates);
+    parts->searches.updateSymbolPicker(updates);
+    parts->symbolMode.takeUpdates(updates);
 }
 
 bool TRVNewsCtrlView::bUpdateSymbolVec() {
-    symbolMode->refillSymbols();
+    parts->symbolMode.refillSymbols();
     return true;
 }
 
 int TRVNewsCtrlView::GetCurrSymbolInfo(unsigned char& service, QString& code) {
-    const auto symbol = symbolMode->forOthers();
+    const auto symbol = parts->symbolMode.forOthers();
     if (!symbol)
         return TRVQuoteBaseView::GetCurrSymbolInfo(service, code);
     service = symbol->market;
     code = symbol->code;
     return 1;
+}
+
+// --- Quotes ---
+
+void TRVNewsCtrlView::InitialNewsRelateQuoteView() {
+    CNewsRelateSymbolQuoteView* quotes = parts->builder.createQuotes(settingsPath);
+    if (quotes == nullptr)
+        return;
+    // The other views of the group follow the user's choice; this one goes on showing its news.
+    connect(quotes, &TRVQuoteBaseView::SendChangeSymbol, this,
+            [this](unsigned char, unsigned char service, const QString& code) {
+                emit SendChangeSymbol(GetLinkGroup(), service, code);
+            });
+    vSetComponentPos();
+    if (parts->story.paneShowsStories() && parts->story.shownRow() >= 0)
+        ChangeNewsSymbolList();
+}
+
+void TRVNewsCtrlView::vRecvNewsRelateSymbolListRecovery(const CNewsSymlistInfo* info) {
+    if (info != nullptr)
+        parts->story.takeRelatedSymbols(*info);
+}
+
+void TRVNewsCtrlView::vReRegisterSymbols() {
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+        quotes->vReRegisterSymbols();
+}
+
+void TRVNewsCtrlView::vUnregisterViewSymbol() {
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+        quotes->vUnregisterViewSymbol();
+}
+
+void TRVNewsCtrlView::vRecvNewMemory(const CQuoteMemory* quote) {
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+        quotes->vRecvNewMemory(quote);
+}
+
+void TRVNewsCtrlView::vRecvMemoryRecovery(const CQuoteMemory* quote) {
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+        quotes->vRecvMemoryRecovery(quote);
+}
+
+void TRVNewsCtrlView::vRecvMultiSymbolMemoryRecovery(const std::vector<CQuoteMemory>& memories) {
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+        quotes->vRecvMultiSymbolMemoryRecovery(memories);
+}
+
+void TRVNewsCtrlView::ChangeNewsSymbolList() {
+    parts->story.listRelatedSymbols();
 }

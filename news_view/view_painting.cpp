@@ -4,10 +4,9 @@
 #include "headline_list/language_keys.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/sheet_scheme.h"
-#include "news_view/category_mode.h"
 #include "news_view/control_ids.h"
-#include "news_view/standing_searches.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "news_view/view_parts.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
 #include "story/trv_news_story.h"
@@ -16,7 +15,7 @@
 #include <QPainter>
 
 bool TRVNewsCtrlView::OnEraseBkgnd(QPainter& painter) {
-    if (!arrangement.isPlaced())
+    if (!parts->arrangement.isPlaced())
         return false;
     SendPaintLayout();
     painter.fillRect(rect(), colBackground);
@@ -38,54 +37,56 @@ void TRVNewsCtrlView::DrawTitile(QPainter& painter) {
 }
 
 void TRVNewsCtrlView::vNotSupportSymbol(QPainter& painter) {
-    const QRect grid = arrangement.layout().grid;
+    const QRect grid = parts->arrangement.layout().grid;
     const QRect area(0, iGetTitleHeight(), grid.width(), grid.bottom() + 1 - iGetTitleHeight());
     painter.fillRect(area, colBackground);
     painter.setFont(GetViewFont());
     painter.setPen(QColor::fromRgb(colBackground.rgb() ^ 0xFFFFFFU));
-    painter.drawText(area, Qt::AlignCenter | Qt::TextSingleLine, LangText(backEnd, keys::noData));
+    painter.drawText(area, Qt::AlignCenter | Qt::TextSingleLine, LangText(parts->backEnd, keys::noData));
 }
 
 void TRVNewsCtrlView::vChangeCast() {
     TRVQuoteBaseView::vChangeCast();
-    controls.vSetFont(GetViewFont());
-    if (auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip))
+    parts->controls.vSetFont(GetViewFont());
+    if (auto* strip = parts->controls.Find<CXTPTabControl>(ids::tabStrip))
         strip->SetColorSet({HostColour(QStringLiteral("COLOR_LISTCTL_HDBkCOLOR1"), {}),
                             HostColour(QStringLiteral("COLOR_LISTCTL_HDTEXTCOLOR1"), {})});
-    vSetGridColours();
-    if (NewsStoryView* pane = stage.pGetPane())
+    for (const ListKind& kind : listKinds) {
+        if (CSuperSheetWnd* grid = parts->listOf(kind.index).pGetGrid())
+            ApplyHostScheme(*grid, GetViewFont());
+    }
+    if (NewsStoryView* pane = parts->stage.pGetPane())
         pane->vChangeCast();
-    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
         quotes->vChangeCast();
-    if (initialised)
+    if (parts->initialised)
         vSetComponentPos();
     update();
-    if (TRVNewsStory* dialog = stage.pGetDialog())
+    if (TRVNewsStory* dialog = parts->stage.pGetDialog())
         dialog->vSetFont(GetViewFont());
-}
-
-void TRVNewsCtrlView::vSetGridColours() {
-    for (int list = 0; list < listCount; ++list) {
-        if (CSuperSheetWnd* sheet = Sheet(list))
-            ApplyHostScheme(*sheet, GetViewFont());
-    }
 }
 
 void TRVNewsCtrlView::changeEvent(QEvent* event) {
     TRVQuoteBaseView::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange || !initialised)
+    if (event->type() != QEvent::LanguageChange || !parts->initialised)
         return;
-    controls.vLoadLanguageString();
-    shortcuts.loadToolTips();
-    standingSearches->loadHints();
-    categories->learnCombo();
-    if (TRVNewsStory* dialog = stage.pGetDialog())
+    parts->controls.vLoadLanguageString();
+    parts->shortcuts.loadToolTips();
+    parts->standingSearches.loadHints();
+    parts->categories.learnCombo();
+    if (TRVNewsStory* dialog = parts->stage.pGetDialog())
         dialog->vLoadLanguageString();
     for (int list = 0; list < listCount; ++list) {
         if (CSuperSheetWnd* sheet = Sheet(list)) {
-            SetHeadlineSheetTexts(*sheet, newsType, backEnd);
-            List(static_cast<ListIndex>(list)).vForgetWrittenCells();
+            SetHeadlineSheetTexts(*sheet, parts->newsType, parts->backEnd);
+            parts->listOf(static_cast<ListIndex>(list)).vForgetWrittenCells();
         }
     }
     vSetComponentPos();
+}
+
+void TRVNewsCtrlView::resizeEvent(QResizeEvent* event) {
+    TRVQuoteBaseView::resizeEvent(event);
+    if (parts->initialised)
+        vSetComponentPos();
 }

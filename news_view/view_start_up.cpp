@@ -9,14 +9,9 @@
 #include "host/contract/sync_info.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/xtp_tab_control.h"
-#include "news_view/category_mode.h"
 #include "news_view/control_ids.h"
-#include "news_view/days.h"
-#include "news_view/searches.h"
-#include "news_view/service_menu.h"
-#include "news_view/standing_searches.h"
-#include "news_view/symbol_mode.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "news_view/view_parts.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "story/trv_news_story.h"
 
@@ -29,86 +24,79 @@ const QString symbolNewsType = QStringLiteral("MULTITIMESALSE_SYMBOLNEWS");
 
 void TRVNewsCtrlView::OnInitialUpdate() {
     RequireInterfaceThread("TRVQuoteBaseView::OnInitialUpdate");
-    RequireOfHost(!serviceMenu->isFilled(),
+    RequireOfHost(!parts->serviceMenu.isFilled(),
                   "TRVQuoteBaseView::OnInitialUpdate was called twice on one view.");
     TRVQuoteBaseView::OnInitialUpdate();
-    if (backEnd.bIsConnect() != 1)
+    if (parts->backEnd.bIsConnect() != 1)
         vConnectionChanged(false);
     GetConfigFromIni();
-    services.vLoad(backEnd);
-    serviceMenu->fill();
+    parts->services.vLoad(parts->backEnd);
+    parts->serviceMenu.fill();
 }
 
 void TRVNewsCtrlView::GetConfigFromIni() {
-    switches = ApplicationSwitches::read(
-        IniFile::load(backEnd.PathGetSysPath() + QStringLiteral("/Application.ini")));
+    parts->switches = ApplicationSwitches::read(
+        IniFile::load(parts->backEnd.PathGetSysPath() + QStringLiteral("/Application.ini")));
 }
 
 void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
                                       const QString&) {
-    RequireOfHost(serviceMenu->isFilled(),
+    RequireOfHost(parts->serviceMenu.isFilled(),
                   "TRVQuoteBaseView::InitialViewInfo was called before OnInitialUpdate.");
     TRVQuoteBaseView::InitialViewInfo(reader, section, first, second, viewKey);
     vTakeNewsType();
-    if (newsType == 0) {
-        builder.createStoryPane(*this, settingsReader, settingsPath);
-        controls.CreateTypeBtn();
-        controls.CreateFunctionBtn();
+    if (parts->newsType == 0) {
+        parts->builder.createStoryPane(*parts, settingsReader, settingsPath);
+        parts->controls.CreateTypeBtn();
+        parts->controls.CreateFunctionBtn();
     }
-    controls.vCreateNotices();
-    services.vInitialNewsService(*reader, settingsPath, *this);
-    searches->desk().vRestore(SearchMemory::read(*reader, settingsPath));
-    categories->loadNames();
+    parts->controls.vCreateNotices();
+    parts->services.vInitialNewsService(*reader, settingsPath, *this);
+    parts->searches.desk().vRestore(SearchMemory::read(*reader, settingsPath));
+    parts->categories.loadNames();
     vViewCreate();
-    story.setShowType(stage.pGetPane() != nullptr ? settings.newsShowType : 0);
-    controls.vLoadLanguageString();
-    shortcuts.loadToolTips();
-    standingSearches->loadHints();
-    shortcuts.create();
+    parts->story.setShowType(parts->stage.pGetPane() != nullptr ? parts->settings.newsShowType : 0);
+    parts->controls.vLoadLanguageString();
+    parts->shortcuts.loadToolTips();
+    parts->standingSearches.loadHints();
+    parts->shortcuts.create();
     vChangeCast();
     vSetComponentPos();
     vOpenFocusedTab();
     InitialNewsRelateQuoteView();
-    shortcuts.setTabOrder();
-    categories->showColumn();
+    parts->shortcuts.setTabOrder();
+    parts->categories.showColumn();
 }
 
 void TRVNewsCtrlView::vTakeNewsType() {
     const bool namedSymbolNews =
-        windowTitle().compare(LangText(backEnd, keys::symbolNewsCaption), Qt::CaseInsensitive) == 0;
+        windowTitle().compare(LangText(parts->backEnd, keys::symbolNewsCaption), Qt::CaseInsensitive) == 0;
     if (cszGetTypeName() == symbolNewsType || namedSymbolNews)
-        newsType = 2;
-    const bool symbolNewsOnly = newsType == 1 || newsType == 2;
-    settings = ViewSettings::read(*settingsReader, settingsPath,
-                                  symbolNewsOnly ? static_cast<int>(ListIndex::Symbol) : 0);
-    symbolMode->start(CSyncInfo::GetSettingCFG()->SYS_bGetIsLinkNews(), symbolNewsOnly);
+        parts->newsType = 2;
+    const bool symbolNewsOnly = parts->newsType == 1 || parts->newsType == 2;
+    parts->settings = ViewSettings::read(*settingsReader, settingsPath,
+                                         symbolNewsOnly ? static_cast<int>(ListIndex::Symbol) : 0);
+    parts->symbolMode.start(CSyncInfo::GetSettingCFG()->SYS_bGetIsLinkNews(), symbolNewsOnly);
     if (symbolNewsOnly)
-        settings.functions = symbolNewsMask;
+        parts->settings.functions = symbolNewsMask;
 }
 
 void TRVNewsCtrlView::vViewCreate() {
-    if (stage.pGetDialog() == nullptr)
-        stage.vSetDialog(new TRVNewsStory(*this, this));
-    builder.createControls();
-}
-
-ViewBuilder::Calls TRVNewsCtrlView::builderCalls() {
-    return {[this] { return days->picked(); },
-            [this](CSuperSheetWnd& grid, ListIndex list) { vConnectMouse(grid, list); },
-            [this] { days->connectPicker(); }, [this] { searches->connectEdit(); },
-            [this] { categories->connectCombo(); }};
+    if (parts->stage.pGetDialog() == nullptr)
+        parts->stage.vSetDialog(new TRVNewsStory(*parts, this));
+    parts->builder.createControls();
 }
 
 void TRVNewsCtrlView::vOpenFocusedTab() {
     CSyncInfo* sync = CSyncInfo::GetSettingCFG();
-    int mode =
-        symbolMode->isFromLink() ? static_cast<int>(ListIndex::Symbol) : iGetFunctionID(settings.focusedTab);
+    int mode = parts->symbolMode.isFromLink() ? static_cast<int>(ListIndex::Symbol)
+                                              : iGetFunctionID(parts->settings.focusedTab);
     CheckInitialView(mode);
-    if (auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip))
+    if (auto* strip = parts->controls.Find<CXTPTabControl>(ids::tabStrip))
         strip->SetCurSel(iGetTabIndex(mode));
-    initialised = true;
+    parts->initialised = true;
     SwitchFunction(mode);
-    days->setRange(backEnd.BKQbyGetNewsDateRange());
+    parts->days.setRange(parts->backEnd.BKQbyGetNewsDateRange());
     sync->SYS_vSetIsLinkNews(false);
 }
 
@@ -119,11 +107,11 @@ void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, in
     RequireOfHost(writer != nullptr,
                   "TRVQuoteBaseView::SaveViewInfo was given nowhere to write the settings to.");
     const ViewSettingPath path{section, first, second, viewKey};
-    settings.newsShowType = GetStoryShowType();
-    symbolMode->keep();
-    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes())
-        settings.quoteSorting = quotes->GetTable().sorting();
-    settings.write(*writer, path);
-    services.vSave(*writer, path);
-    searches->desk().memory.write(*writer, path);
+    parts->settings.newsShowType = GetStoryShowType();
+    parts->symbolMode.keep();
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+        parts->settings.quoteSorting = quotes->GetTable().sorting();
+    parts->settings.write(*writer, path);
+    parts->services.vSave(*writer, path);
+    parts->searches.desk().memory.write(*writer, path);
 }

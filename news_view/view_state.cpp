@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What the news view lets the host's scripts look at.
+#include "headline_list/headline_table.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
-#include "news_view/days.h"
-#include "news_view/list_tip.h"
-#include "news_view/searches.h"
-#include "news_view/symbol_mode.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "news_view/view_parts.h"
+#include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
 #include "story/story_ids.h"
 #include "story/trv_news_story.h"
@@ -54,17 +53,31 @@ QVariantMap displayState(const Display& display) {
     return state;
 }
 
+QVariantList quoteState(CNewsRelateSymbolQuoteView* quotes) {
+    QVariantList rows;
+    if (quotes == nullptr)
+        return rows;
+    const QuoteTable& table = quotes->GetTable();
+    for (int row = 0; row < table.size(); ++row) {
+        QVariantList texts;
+        for (int column = 0; column < quoteColumns; ++column)
+            texts.append(TextOf(table.at(row), static_cast<QuoteColumn>(column)));
+        rows.append(QVariant(texts));
+    }
+    return rows;
+}
+
 }  // namespace
 
 CSuperSheetWnd* TRVNewsCtrlView::Sheet(int list) const {
     const auto index = ListOfNumber(list);
-    return index ? lists[*index].pGetGrid() : nullptr;
+    return index ? parts->lists[*index].pGetGrid() : nullptr;
 }
 
 std::vector<HeadlineKey> TRVNewsCtrlView::Keys(int list, int from, int count) const {
     std::vector<HeadlineKey> result;
     if (const auto index = ListOfNumber(list)) {
-        for (const CHeadlineTable& entry : lists[*index].Table().rows(from, count))
+        for (const CHeadlineTable& entry : parts->lists[*index].Table().rows(from, count))
             result.push_back(KeyOf(entry));
     }
     return result;
@@ -72,13 +85,14 @@ std::vector<HeadlineKey> TRVNewsCtrlView::Keys(int list, int from, int count) co
 
 QVariantMap TRVNewsCtrlView::StoryState(bool inDialog) const {
     if (inDialog)
-        return stage.pGetDialog() != nullptr ? displayState(*stage.pGetDialog()) : QVariantMap();
-    return stage.pGetPane() != nullptr ? displayState(*stage.pGetPane()) : QVariantMap();
+        return parts->stage.pGetDialog() != nullptr ? displayState(*parts->stage.pGetDialog())
+                                                    : QVariantMap();
+    return parts->stage.pGetPane() != nullptr ? displayState(*parts->stage.pGetPane()) : QVariantMap();
 }
 
 QVariantMap TRVNewsCtrlView::State() const {
     QVariantList tabs;
-    if (const auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip)) {
+    if (const auto* strip = parts->controls.Find<CXTPTabControl>(ids::tabStrip)) {
         for (int i = 0; i < strip->count(); ++i) {
             tabs.append(QVariantMap{{QStringLiteral("mode"), strip->iGetItemData(i)},
                                     {QStringLiteral("text"), strip->szGetTabText(i)},
@@ -86,44 +100,45 @@ QVariantMap TRVNewsCtrlView::State() const {
         }
     }
     QVariantList serviceStates;
-    for (std::size_t i = 0; i < services.Entries().size(); ++i) {
-        const ServiceEntry& entry = services.Entries()[i];
+    for (std::size_t i = 0; i < parts->services.Entries().size(); ++i) {
+        const ServiceEntry& entry = parts->services.Entries()[i];
         QString name;
-        backEnd.BKQNEWS_bGetFullNameByService(name, entry.service);
+        parts->backEnd.BKQNEWS_bGetFullNameByService(name, entry.service);
         serviceStates.append(QVariantMap{{QStringLiteral("id"), entry.service},
                                          {QStringLiteral("name"), name},
                                          {QStringLiteral("selected"), entry.selected},
                                          {QStringLiteral("date"), entry.date},
                                          {QStringLiteral("pending"), entry.searchPending},
-                                         {QStringLiteral("registered"), services.bIsRegistered(i)}});
+                                         {QStringLiteral("registered"), parts->services.bIsRegistered(i)}});
     }
     QVariantList noticeStates;
-    const ListNotices notices = board.notices();
-    const std::array<int, 3> awaited = output.awaited();
+    const ListNotices notices = parts->board.notices();
+    const std::array<int, 3> awaited = parts->output.awaited();
     for (const auto& [kind, text] : notices.InOrder())
         noticeStates.append(
             QVariantMap{{QStringLiteral("text"), text}, {QStringLiteral("command"), CommandOf(kind)}});
-    return {{QStringLiteral("mode"), currentMode()},
-            {QStringLiteral("newsType"), newsType},
+    return {{QStringLiteral("mode"), static_cast<int>(parts->modes.shown())},
+            {QStringLiteral("newsType"), parts->newsType},
             {QStringLiteral("storyShowType"), GetStoryShowType()},
-            {QStringLiteral("mask"), settings.functions},
-            {QStringLiteral("focusedTab"), settings.focusedTab},
+            {QStringLiteral("mask"), parts->settings.functions},
+            {QStringLiteral("focusedTab"), parts->settings.focusedTab},
             {QStringLiteral("dataState"), static_cast<int>(GetDataState())},
-            {QStringLiteral("caption"), board.status()},
+            {QStringLiteral("caption"), parts->board.status()},
             {QStringLiteral("awaited"), QVariantMap{{QStringLiteral("print"), awaited[0]},
                                                     {QStringLiteral("save"), awaited[1]},
                                                     {QStringLiteral("preview"), awaited[2]}}},
             {QStringLiteral("notice"), notices.Text()},
             {QStringLiteral("notices"), noticeStates},
-            {QStringLiteral("showCategory"), settings.showCategory},
-            {QStringLiteral("storyRow"), story.shownRow()},
-            {QStringLiteral("pickedDate"), dateNumber(days->picked())},
-            {QStringLiteral("newsDay"), dateNumber(days->newsDay())},
-            {QStringLiteral("symbol"), QVariantMap{{QStringLiteral("service"), symbolMode->current().market},
-                                                   {QStringLiteral("code"), symbolMode->current().code}}},
+            {QStringLiteral("showCategory"), parts->settings.showCategory},
+            {QStringLiteral("storyRow"), parts->story.shownRow()},
+            {QStringLiteral("pickedDate"), dateNumber(parts->days.picked())},
+            {QStringLiteral("newsDay"), dateNumber(parts->days.newsDay())},
+            {QStringLiteral("symbol"),
+             QVariantMap{{QStringLiteral("service"), parts->symbolMode.current().market},
+                         {QStringLiteral("code"), parts->symbolMode.current().code}}},
             {QStringLiteral("tabs"), tabs},
-            {QStringLiteral("tip"), tip->state()},
-            {QStringLiteral("shortTip"), searches->shortTipState()},
-            {QStringLiteral("quotes"), vQuoteState()},
+            {QStringLiteral("tip"), parts->tip.state()},
+            {QStringLiteral("shortTip"), parts->searches.shortTipState()},
+            {QStringLiteral("quotes"), quoteState(parts->stage.pGetQuotes())},
             {QStringLiteral("services"), serviceStates}};
 }

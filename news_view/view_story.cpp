@@ -1,64 +1,108 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-// What the story display of the news view is given of it, and what the back end has to say about stories.
-#include "host/controls/xtp_tab_control.h"
+// The stories of the news view, and what becomes of them on paper and in files.
+#include "host/controls/s_button.h"
 #include "news_view/control_ids.h"
-#include "news_view/searches.h"
 #include "news_view/trv_news_ctrl_view.h"
-#include "story/news_story_view.h"
+#include "news_view/view_parts.h"
+#include "output/printable_story.h"
 
-StoryDisplay::Surroundings TRVNewsCtrlView::storySurroundings() {
-    return {stage, [this](ListIndex list) { return searches->desk().FoundUnder(list); },
-            [this] { return GetViewFont(); }, [this](int list, int row) { bChangeNewsPos(list, row); }};
+void TRVNewsCtrlView::OnShowStory() {
+    parts->story.show();
 }
 
-void TRVNewsCtrlView::vRowsReplaced(ListIndex list) {
-    if (shownList() == list)
-        forgetShownStory();
+bool TRVNewsCtrlView::bChangeNewsPos(int list, int row) {
+    return parts->bChangeNewsPos(list, row);
+}
+
+void TRVNewsCtrlView::OnBtnPageDown() {
+    parts->story.page(1);
+}
+
+void TRVNewsCtrlView::OnBtnPageUp() {
+    parts->story.page(-1);
 }
 
 void TRVNewsCtrlView::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
-    listOf(shownList()).vUpdateHeadline(entries);
-    story.takeHeadlines(entries);
-    output.takeHeadlines(entries);
+    parts->listOf(parts->modes.shown()).vUpdateHeadline(entries);
+    parts->story.takeHeadlines(entries);
+    parts->output.takeHeadlines(entries);
 }
 
 void TRVNewsCtrlView::RespStory(const CHeadlineTable& entry) {
-    story.takeStory(entry);
-    output.takeStory(entry);
+    parts->story.takeStory(entry);
+    parts->output.takeStory(entry);
 }
 
 void TRVNewsCtrlView::StoryUpdateNotify(const CHeadlineTable* entry) {
     if (entry != nullptr)
-        story.takeUpdate(*entry);
+        parts->story.takeUpdate(*entry);
 }
 
 void TRVNewsCtrlView::OnReCoverStory() {
     const CSuperSheetWnd* sheet = pGetCurrSheetView();
     if (sheet == nullptr)
         return;
-    CHeadlineTable entry;
-    if (bGetHeadlineTable(entry, currentMode(), story.pointAt(sheet->cptGetFocusNdx().y())))
-        backEnd.BKQNews_bReRequestHeadlineStory(entry);
+    const int position = parts->story.pointAt(sheet->cptGetFocusNdx().y());
+    if (const auto entry = parts->entryAt(parts->modes.shown(), position))
+        parts->backEnd.BKQNews_bReRequestHeadlineStory(*entry);
 }
 
-bool TRVNewsCtrlView::bChangeNewsPos(int list, int row) {
-    if (list != currentMode()) {
-        SwitchFunction(iGetFunctionID(list));
-        if (auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip))
-            strip->SetCurSel(iGetTabIndex(currentMode()));
+// --- Printing and saving ---
+
+void TRVNewsCtrlView::OnPrintNews() {
+    parts->output.tell(PrintNews(std::nullopt));
+}
+
+void TRVNewsCtrlView::OnSaveNews() {
+    parts->output.tell(SaveNews(std::nullopt));
+}
+
+void TRVNewsCtrlView::OnBtnPrint() {
+    OnPrintNews();
+}
+
+void TRVNewsCtrlView::OnBtnSaveas() {
+    OnSaveNews();
+}
+
+NewsOutcome TRVNewsCtrlView::PrintNews(const std::optional<OutputTarget>& target) {
+    return parts->output.print(parts->selectedEntries(), target);
+}
+
+NewsOutcome TRVNewsCtrlView::SaveNews(const std::optional<OutputTarget>& target) {
+    return parts->output.save(parts->selectedEntries(), target);
+}
+
+void TRVNewsCtrlView::PreviewNews() {
+    parts->output.tell(parts->output.preview(parts->selectedEntries()));
+}
+
+void TRVNewsCtrlView::Linefeed(QString& story) {
+    ::Linefeed(story);
+}
+
+void TRVNewsCtrlView::OnStopWaiting() {
+    parts->output.stopWaiting();
+}
+
+void TRVNewsCtrlView::OnPutOutReady() {
+    parts->output.putOutReady();
+}
+
+void TRVNewsCtrlView::OnStopButton() {
+    if (parts->output.ready() == 0) {
+        OnStopWaiting();
+        return;
     }
-    if (NewsStoryView* pane = stage.pGetPane()) {
-        pane->SetHeadLinePos(row);
-        // A position just below the last row stays: hosts rely on it.
-        const int size = iGetHeadlineTableSize(currentMode());
-        if (pane->GetHeadLinePos() > size)
-            pane->SetHeadLinePos(size - 1);
-    }
-    if (CSuperSheetWnd* sheet = pGetCurrSheetView()) {
-        sheet->vSetActiveSelection(row, -1);
-        sheet->vAutoVerScrolling(row);
-    }
+    const QWidget* stop = parts->controls.Find<SButton>(ids::stopWaiting);
+    parts->menu.popUp(parts->output.waitingCommands(), stop->mapToGlobal(QPoint(0, stop->height())));
+}
+
+void TRVNewsCtrlView::OnReadUnfiltered() {
+    const ListIndex list = parts->modes.shown();
+    if (!parts->lists.bHasOthersFilter(list))
+        return;
+    parts->sentAgain.readAgain(list);
     OnShowStory();
-    return true;
 }

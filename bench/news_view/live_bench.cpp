@@ -3,7 +3,9 @@
 // What live news costs with a whole view open: pushes through RecvNewHeadLine beside bare insertions into a
 // table, and how long a key waits for its answer while 50,000 headlines arrive in a second.
 #include "bench/headline_list/list_bench.h"
+#include "headline_list/list_index.h"
 #include "host/contract/cfg_io.h"
+#include "host/controls/super_sheet_wnd.h"
 #include "news_view/trv_news_ctrl_view.h"
 
 #include <QApplication>

@@ -3,7 +3,9 @@
 #pragma once
 
 #include "backend/store/embedded_back_end.h"
+#include "headline_list/list_index.h"
 #include "host/contract/cfg_io.h"
+#include "host/controls/super_sheet_wnd.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "tests/endurance/week_wire.h"
 

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 // A long session: pushed headlines, headlines sent again, other modes, services and days, with a reader who
 // scrolls and reads. WIREPANE_SOAK is the number of pushes, a few thousand without it.
+#include "headline_list/list_index.h"
 #include "host/contract/clock.h"
+#include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"

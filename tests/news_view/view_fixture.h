@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/list_index.h"
 #include "host/contract/clock.h"
+#include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "tests/support/fake_back_end.h"

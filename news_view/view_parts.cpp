@@ -1,0 +1,290 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// Who is given what: the one place that knows how the parts of the news view hang together.
+#include "news_view/view_parts.h"
+
+#include "headline_list/cell_texts.h"
+#include "headline_list/headline_table.h"
+#include "host/contract/clock.h"
+#include "host/contract/sync_info.h"
+#include "host/controls/xtp_tab_control.h"
+#include "news_view/control_ids.h"
+#include "news_view/notice_line.h"
+#include "news_view/told_notices.h"
+#include "story/news_story_view.h"
+#include "story/trv_news_story.h"
+
+#include <QItemSelectionModel>
+
+TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
+    : view(newsView),
+      backEnd(*BKQuoteInterface::GetBKInterface()),
+      lists(backEnd, *this),
+      controls(view, backEnd),
+      tip(view, [this] { return tipLook(); }),
+      common{backEnd, view, services, lists, controls, settings, switches, loading, breaks, tip, newsType},
+      modes(*this, common, stage, modeCalls()),
+      arrangement(*this, common, stage, arrangementCalls()),
+      builder(view, common, stage, builderCalls()),
+      story(*this, backEnd, storySurroundings()),
+      output(backEnd, outputDialogs, outputSurroundings()),
+      board(noticeSurroundings(), noticeTellers()),
+      menu(view, [this](int command) { view.OnCommand(command); }),
+      contextMenu(*this, menu, contextMenuSurroundings()),
+      input(*this, inputSurroundings()),
+      shortcuts(*this, shortcutSurroundings()),
+      searches(*this, common),
+      standingSearches(*this, common, searches.desk(),
+                       {[this] { modes.read(ListIndex::Relation); }, [this] { searches.send(); }}),
+      days(*this, common,
+           {[this]() -> const RelationMatcher& { return standingSearches.tickedKeySets(); },
+            [this](ListIndex list) { sentAgain.readAgain(list); },
+            [this](ListIndex list) { sentAgain.readNowOrWhenShown(list); }}),
+      categories(*this, common, [this] { return standingSearches.filterOfShownList(); }),
+      symbolMode(*this, common, symbolCalls()),
+      sentAgain(*this, common, choices()),
+      serviceMenu(*this, common,
+                  {[this](int command) { view.OnCommand(command); }, [this] { readForServices(); }}),
+      liveNews(*this, common, liveCalls()) {
+    lists.vSetOnRead([this] { board.place(); });
+}
+
+// A window that goes hands the keyboard back to the view, whose parts must all be there then.
+TRVNewsCtrlView::Parts::~Parts() {
+    delete stage.pGetDialog();
+}
+
+// --- Modes, places and what is created ---
+
+ListTip::Look TRVNewsCtrlView::Parts::tipLook() const {
+    return {view.GetViewFont(), view.colText, view.colBackground};
+}
+
+Modes::Calls TRVNewsCtrlView::Parts::modeCalls() {
+    return {[this](ListIndex list) { sentAgain.readAgain(list); },
+            [this](ListIndex list) { return sentAgain.read(list); },
+            [this] { return symbolMode.readFirst(); },
+            [this] { NewsServices::RegisterService(view, warrantService); },
+            [this] { categories.fillFirst(); },
+            [this] { symbolMode.offer(); },
+            [this] { symbolMode.hideWithoutUse(); },
+            [this] { serviceMenu.showTicks(); }};
+}
+
+Arrangement::Calls TRVNewsCtrlView::Parts::arrangementCalls() {
+    return {[this] { return view.GetViewFont(); }, [this] { return view.iGetTitleHeight(); },
+            [this] { return story.showType(); }};
+}
+
+ViewBuilder::Calls TRVNewsCtrlView::Parts::builderCalls() {
+    return {[this] { return days.picked(); },
+            [this](CSuperSheetWnd& grid, ListIndex list) { connectGrid(grid, list); },
+            [this] { days.connectPicker(); }, [this] { searches.connectEdit(); },
+            [this] { categories.connectCombo(); }};
+}
+
+void TRVNewsCtrlView::Parts::connectGrid(CSuperSheetWnd& grid, ListIndex list) {
+    QObject::connect(&grid, &CSuperSheetWnd::LButtonUp, &view,
+                     [this](const QPoint& point) { view.OnLButtonUp(forwardedByGrid, point); });
+    QObject::connect(&grid, &CSuperSheetWnd::LButtonDblClk, &view,
+                     [this](const QPoint& point) { view.OnLButtonDblClk(forwardedByGrid, point); });
+    QObject::connect(&grid, &CSuperSheetWnd::ScrolledVertically, &view, &TRVNewsCtrlView::OnVScroll);
+    QObject::connect(grid.selectionModel(), &QItemSelectionModel::currentRowChanged, &view,
+                     [this, &grid, list] { story.follow(grid, list); });
+}
+
+// --- Stories, output, notices ---
+
+StoryDisplay::Surroundings TRVNewsCtrlView::Parts::storySurroundings() {
+    return {stage, [this](ListIndex list) { return searches.desk().FoundUnder(list); },
+            [this] { return view.GetViewFont(); }, [this](int list, int row) { bChangeNewsPos(list, row); }};
+}
+
+OutputJobs::Surroundings TRVNewsCtrlView::Parts::outputSurroundings() {
+    return {view,
+            stage,
+            settings,
+            [this] { return services.ActiveServices(static_cast<int>(modes.shown())); },
+            [this] { board.place(); },
+            [this](const QString& sentence) { emit view.MessageForUser(sentence); }};
+}
+
+NoticeBoard::Surroundings TRVNewsCtrlView::Parts::noticeSurroundings() {
+    return {view,
+            controls,
+            [this] { return arrangement.layout().datePicker; },
+            [this] {
+                return NoticeBoard::Look{view.GetViewFont(), view.colText, view.colBackground};
+            },
+            [this] { return output.isWaiting(); },
+            [this] { return shownGrid(); }};
+}
+
+std::vector<NoticeBoard::Teller> TRVNewsCtrlView::Parts::noticeTellers() {
+    return {
+        [this](ListNotices& notices) { notices.vTell(NoticeKind::Awaited, output.awaitedText()); },
+        [this](ListNotices& notices) { tellOfBackEnd(notices, backEnd, breaks); },
+        [this](ListNotices& notices) {
+            tellOfList(notices, backEnd, modes.shown(), lists, searches.desk(), breaks);
+        },
+        [this](ListNotices& notices) { standingSearches.tell(notices); },
+    };
+}
+
+QColor TRVNewsCtrlView::Parts::TimeColour(std::int64_t time) const {
+    return breaks.bHolds(time) ? lateColour(view.colBackground) : QColor();
+}
+
+void TRVNewsCtrlView::Parts::vRowsReplaced(ListIndex list) {
+    if (modes.shown() == list)
+        story.forget();
+}
+
+// --- Keys, mouse, menu ---
+
+ContextMenu::Surroundings TRVNewsCtrlView::Parts::contextMenuSurroundings() {
+    return {view, [this] { return view.iGetTitleHeight(); },
+            [this](bool onRow) {
+                return contextMenuEntries(
+                    {modes.shown(), onRow, settings.showCategory, story.hasStoryWindow()}, backEnd,
+                    output.waitingCommands(), board.notices());
+            }};
+}
+
+ListInput::Surroundings TRVNewsCtrlView::Parts::inputSurroundings() {
+    return {view, stage, [this] { return newsType; }, [this] { return story.paneShowsStories(); },
+            [this] { contextMenu.openByKey(); }};
+}
+
+Shortcuts::Surroundings TRVNewsCtrlView::Parts::shortcutSurroundings() {
+    return {view, controls, stage, [this](int command) { view.OnCommand(command); },
+            [this] { view.OnSelchangeTabMode(); }};
+}
+
+// --- Symbols, what is sent again, what arrives ---
+
+SymbolMode::Calls TRVNewsCtrlView::Parts::symbolCalls() {
+    return {[this] { arrangement.place(); },
+            [this] { modes.showParts(modes.shown()); },
+            [this] { return view.GetDataState() != DataState::NotSupported; },
+            [this](bool supported) {
+                view.vSetDataState(supported ? DataState::Normal : DataState::NotSupported);
+            },
+            [this] { return CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(view.GetLinkGroup()); },
+            [this](const CSymbolInfo& symbol) {
+                emit view.SendChangeSymbol(view.GetLinkGroup(), symbol.market, symbol.code);
+            }};
+}
+
+SentAgain::Choices TRVNewsCtrlView::Parts::choices() {
+    return {[this] { return days.pickedKey(); }, [this] { return categories.chosenId(); },
+            [this] { return symbolMode.current(); }, [this] { return symbolMode.listed(); },
+            [this]() -> const RelationMatcher& { return standingSearches.tickedKeySets(); }};
+}
+
+LiveNews::Calls TRVNewsCtrlView::Parts::liveCalls() {
+    return {[this] { return intakeChoices(); },
+            [this](ListIndex list, const HeadlinePlace& place) { story.keepThrough(list, place); },
+            [this](const CHeadline& headline, const QString& categoryId) {
+                searches.notePushed(headline);
+                categories.notePushed(headline, categoryId);
+            }};
+}
+
+IntakeState TRVNewsCtrlView::Parts::intakeChoices() const {
+    IntakeState state;
+    state.hasDatePicker = days.hasDay();
+    state.pickedDate = days.picked();
+    state.newsDay = days.newsDay();
+    state.relation = &standingSearches.tickedKeySets();
+    state.categoryId = categories.chosenId();
+    // While another mode is shown the list may hold another symbol's news than the combo names.
+    const auto symbol = symbolMode.chosen();
+    if (symbol && symbol->code == lists.ListedSymbol().code) {
+        state.symbolCode = symbol->code;
+        state.symbolMarket = symbol->market;
+    }
+    return state;
+}
+
+void TRVNewsCtrlView::Parts::readForServices() {
+    const RelationMatcher* filter = standingSearches.filterOfShownList();
+    lists.bRebuild(ListIndex::All, TableKind::ByDate, days.pickedKey(), filter);
+    categories.refill();
+    symbolMode.readFiltered(filter);
+    lists.bRebuild(ListIndex::Relation, TableKind::ByDate, DateKey(host_clock::today()), filter);
+    if (modes.shown() == ListIndex::Search && shownGrid() != nullptr)
+        searches.searchForText();
+    services.CheckRegisterService(view);
+    story.show();
+    view.update();
+}
+
+// --- Entries ---
+
+std::optional<CHeadlineTable> TRVNewsCtrlView::Parts::entryAt(ListIndex list, int row) const {
+    const HeadlineTable& table = lists[list].Table();
+    return row >= 0 && row < table.size() ? std::optional(table.at(row)) : std::nullopt;
+}
+
+bool TRVNewsCtrlView::Parts::bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const {
+    const auto index = ListOfNumber(list);
+    const auto found = index ? entryAt(*index, row) : std::nullopt;
+    entry = found.value_or(entry);
+    return found.has_value();
+}
+
+int TRVNewsCtrlView::Parts::iGetHeadlineTableSize(int list) const {
+    const auto index = ListOfNumber(list);
+    return index ? lists[*index].Table().size() : -1;
+}
+
+void TRVNewsCtrlView::Parts::vGetNewsActiveService(std::vector<unsigned char>& active) const {
+    active = services.ActiveServices(static_cast<int>(modes.shown()));
+}
+
+int TRVNewsCtrlView::Parts::iRowOf(int list, const CHeadlineTable& headline) const {
+    const auto index = ListOfNumber(list);
+    return index ? lists[*index].Table().rowOf(KeyOf(headline)) : -1;
+}
+
+std::vector<CHeadlineTable> TRVNewsCtrlView::Parts::selectedEntries() const {
+    std::vector<int> rows;
+    if (const CSuperSheetWnd* grid = shownGrid())
+        grid->vGetAllSelectionNdx(rows);
+    std::vector<CHeadlineTable> entries;
+    for (const int row : rows) {
+        if (const auto entry = entryAt(modes.shown(), row))
+            entries.push_back(*entry);
+    }
+    return entries;
+}
+
+void TRVNewsCtrlView::Parts::PrintHeadline(const CHeadlineTable& headline) {
+    output.tell(output.print({headline}, std::nullopt));
+}
+
+void TRVNewsCtrlView::Parts::SaveHeadline(const CHeadlineTable& headline) {
+    output.tell(output.save({headline}, std::nullopt));
+}
+
+bool TRVNewsCtrlView::Parts::bChangeNewsPos(int list, int row) {
+    if (list != static_cast<int>(modes.shown())) {
+        view.SwitchFunction(view.iGetFunctionID(list));
+        if (auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip))
+            strip->SetCurSel(controls.iGetTabIndex(static_cast<int>(modes.shown())));
+    }
+    if (NewsStoryView* pane = stage.pGetPane()) {
+        pane->SetHeadLinePos(row);
+        // A position just below the last row stays: hosts rely on it.
+        const int size = lists[modes.shown()].Table().size();
+        if (pane->GetHeadLinePos() > size)
+            pane->SetHeadLinePos(size - 1);
+    }
+    if (CSuperSheetWnd* grid = shownGrid()) {
+        grid->vSetActiveSelection(row, -1);
+        grid->vAutoVerScrolling(row);
+    }
+    story.show();
+    return true;
+}
