@@ -24,6 +24,9 @@ ErrorArgument::ErrorArgument(QLatin1StringView asItIs) : text(asItIs) {}
 ErrorArgument::ErrorArgument(double number) : text(QString::number(number)) {}
 ErrorArgument::ErrorArgument(Error sentence) : part{std::move(sentence)} {}
 
+bool Error::operator==(const Error&) const = default;
+bool ErrorArgument::operator==(const ErrorArgument&) const = default;
+
 QString sentence(const Error& error) {
     QStringList arguments;
     for (const ErrorArgument& argument : error.arguments)

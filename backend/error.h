@@ -28,6 +28,8 @@ struct Error {
     Error(const ErrorCode& code, std::vector<ErrorArgument> arguments);
     Error(const QString& sentence);
 
+    bool operator==(const Error&) const;
+
     const ErrorCode* code;
     std::vector<ErrorArgument> arguments;
 };
@@ -46,6 +48,8 @@ struct ErrorArgument {
     ErrorArgument(Number number) : text(QString::number(number)) {}
     ErrorArgument(double number);
     ErrorArgument(Error sentence);
+
+    bool operator==(const ErrorArgument&) const;
 
     QString text;
     std::vector<Error> part;  // one, or none: it is the text

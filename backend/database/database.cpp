@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/database/database.h"
 
-#include "backend/database/failure_sentence.h"
+#include "backend/database/database_errors.h"
+#include "backend/database/database_failure.h"
 #include "backend/database/statement.h"
 #include "backend/words/search_tokenizer.h"
 
@@ -40,17 +41,16 @@ QByteArray nameOf(const QString& absolutePath, Database::Mode mode) {
     return "file:" + QUrl::toPercentEncoding(absolutePath, "/") + "?immutable=1";
 }
 
-// Why no connection to this path can be a store; empty: nothing speaks against it.
-QString faultOfPath(const QString& path, const QString& absolutePath) {
+// Why no connection to this path can be a store; nothing speaks against it: nothing.
+std::optional<Error> faultOfPath(const QString& path, const QString& absolutePath) {
     if (path.isEmpty())
-        return u"No file is named for the news store."_s;
+        return makeError<database_errors::noFileNamed>();
     if (path == u":memory:"_s)
-        return u"The news store is a file; \":memory:\" names none."_s;
+        return makeError<database_errors::memoryIsNoFile>();
     // SQLite takes a file of one byte for an empty one, and would write over it.
     if (QFileInfo(absolutePath).size() == 1)
-        return u"%1 is not a news store (it holds a single byte)."_s.arg(
-            QDir::toNativeSeparators(absolutePath));
-    return {};
+        return makeError<database_errors::singleByte>(QDir::toNativeSeparators(absolutePath));
+    return std::nullopt;
 }
 
 void makeForOwner(const QString& absolutePath) {
@@ -69,20 +69,20 @@ bool isDamage(int code) {
 Result<std::unique_ptr<Database>> Database::open(const QString& path, Mode mode,
                                                  std::chrono::milliseconds busyTimeout) {
     const QString absolute = QFileInfo(path).absoluteFilePath();
-    if (const QString fault = faultOfPath(path, absolute); !fault.isEmpty())
-        return Error{fault};
+    if (const auto fault = faultOfPath(path, absolute))
+        return *fault;
     if (mode == Mode::Create)
         makeForOwner(absolute);
     sqlite3* connection = nullptr;
     const int result = sqlite3_open_v2(nameOf(absolute, mode).constData(), &connection,
                                        flagsOf(mode) | SQLITE_OPEN_NOMUTEX, nullptr);
     if (connection == nullptr)
-        return Error{u"%1 cannot be opened: there is no memory left."_s.arg(absolute)};
+        return makeError<database_errors::noMemory>(absolute);
     std::unique_ptr<Database> database(new Database(absolute, connection));
     sqlite3_extended_result_codes(connection, 1);
     if (result != SQLITE_OK) {
         database->noteFailure();
-        return Error{database->failure()};
+        return database->failure();
     }
     database->setBusyTimeout(busyTimeout);
     // A store comes from outside as any file does: its schema may run nothing of its own.
@@ -108,13 +108,15 @@ Result<std::unique_ptr<Database>> Database::openToRead(const QString& path,
     // more than the file itself.
     const QFileInfo log(opened.value()->path() + u"-wal"_s);
     if (log.size() > 0)
-        return Error{
-            u"%1 cannot be read without its log %2, for which its folder must be writable; copy both "
-            "to one that is."_s.arg(QDir::toNativeSeparators(opened.value()->path()), log.fileName())};
+        return makeError<database_errors::logNeeded>(QDir::toNativeSeparators(opened.value()->path()),
+                                                     log.fileName());
     return open(path, Mode::Immutable, busyTimeout);
 }
 
-Database::Database(QString path, sqlite3* opened) : filePath(std::move(path)), connection(opened) {}
+Database::Database(QString path, sqlite3* opened)
+    : filePath(std::move(path)),
+      connection(opened),
+      lastFailure(databaseFailure(filePath, SQLITE_OK, QString::fromUtf8(sqlite3_errstr(SQLITE_OK)), 0)) {}
 
 Database::~Database() {
     sqlite3_close_v2(connection);
@@ -134,7 +136,7 @@ bool Database::begin() {
 
 bool Database::commit() {
     if (damageCount != damagesAtBegin) {
-        failureText = damageText;
+        lastFailure = *firstDamage;
         return false;
     }
     return execute("COMMIT");
@@ -193,13 +195,13 @@ void Database::noteFailure() {
     // The system's own error belongs to the code only where the system was asked.
     const int primary = code & 0xff;
     const bool fromSystem = primary == SQLITE_CANTOPEN || primary == SQLITE_IOERR;
-    failureText = failureSentence(filePath, code, QString::fromUtf8(sqlite3_errmsg(connection)),
+    lastFailure = databaseFailure(filePath, code, QString::fromUtf8(sqlite3_errmsg(connection)),
                                   fromSystem ? sqlite3_system_errno(connection) : 0);
     if (!isDamage(code))
         return;
     ++damageCount;
-    if (damageText.isEmpty())
-        damageText = failureText;
+    if (!firstDamage)
+        firstDamage = lastFailure;
 }
 
 }  // namespace wirepane

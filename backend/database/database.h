@@ -9,6 +9,7 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 struct sqlite3;
 
@@ -16,7 +17,7 @@ namespace wirepane {
 
 // A connection to one database file. Used by one thread at a time; statements must be gone before it.
 //
-// Failures: operations that can fail answer false, and failure() then holds the sentence.
+// Failures: operations that can fail answer false, and failure() then says why.
 class Database {
 public:
     enum class Mode {
@@ -61,15 +62,15 @@ public:
     void setCheckpointOnClose(bool on);
 
     const QString& path() const { return filePath; }
-    // The sentence about the last failure; empty when there was none.
-    const QString& failure() const { return failureText; }
+    // The last failure, where there was one.
+    const Error& failure() const { return lastFailure; }
     // Takes down what SQLite says about the failure that just happened.
     void noteFailure();
     // SQLite's result code of the last failure.
     int failureCode() const { return code; }
-    // The sentence about the first damage, or error of the medium, that any statement met; empty: none did.
+    // The first damage, or error of the medium, that any statement met; nothing: none did.
     // Who has read through this connection and finds it empty has read all that there was to read.
-    const QString& damage() const { return damageText; }
+    const std::optional<Error>& damage() const { return firstDamage; }
     // How many statements met damage.
     int damages() const { return damageCount; }
 
@@ -80,8 +81,8 @@ private:
 
     QString filePath;
     sqlite3* connection;
-    QString failureText;
-    QString damageText;
+    Error lastFailure;
+    std::optional<Error> firstDamage;
     int damageCount = 0;
     int damagesAtBegin = 0;
     int code = 0;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/database/store_sync.h"
 
+#include "backend/database/database_errors.h"
+
 #include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
@@ -83,7 +85,7 @@ Done StoreSync::sync() {
         // The log is opened by the first look into the store.
         std::int64_t version = 0;
         if (!opened.value()->readNumber("PRAGMA user_version", version))
-            return Error{opened.value()->failure()};
+            return opened.value()->failure();
         database = std::move(opened.value());
     }
     sqlite3_file* log = nullptr;
@@ -91,7 +93,7 @@ Done StoreSync::sync() {
     if (log == nullptr || log->pMethods == nullptr)
         return Nothing{};  // no log is kept here: commits wait for the disk themselves
     if (log->pMethods->xSync(log, SQLITE_SYNC_NORMAL) != SQLITE_OK)
-        return Error{u"%1 cannot be brought to its disk."_s.arg(path)};
+        return makeError<database_errors::notOnDisk>(path);
     return Nothing{};
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/feed_line.h"
 
+#include "backend/feed/feed_errors.h"
 #include "backend/import/import_errors.h"
 #include "backend/import/json_fault.h"
 #include "backend/import/ninjs_record.h"
@@ -128,8 +129,7 @@ FeedLine opened(const QJsonObject& content, unsigned char service) {
     const QJsonValue id = content.value("service"_L1);
     const auto number = id.isUndefined() ? 1 : id.toInteger(0);
     if (!content.value("source"_L1).isString() || number < 1 || number > lastId)
-        return FeedRecord{
-            Error{u"The line holds no record of a known kind, and no greeting with a source."_s}, {}};
+        return FeedRecord{makeError<feed_errors::unknownLine>(), {}};
     return FeedHello{content.value("source"_L1).toString(), static_cast<unsigned char>(number)};
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/line_source.h"
 
+#include "backend/feed/feed_errors.h"
 #include "backend/import/import_errors.h"
 
 #include <algorithm>
@@ -62,7 +63,7 @@ Done LineSource::read(const ItemVisitor& visit) {
         FeedLine parsed = parsedFeedLine(line.value(), hello.service);
         auto* record = std::get_if<FeedRecord>(&parsed);
         if (record == nullptr) {
-            if (!visit({Error{u"A greeting can only be the first line."_s}, place, 0}))
+            if (!visit({makeError<feed_errors::greetingNotFirst>(), place, 0}))
                 break;
             continue;
         }

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/spool_source.h"
 
+#include "backend/feed/feed_errors.h"
 #include "backend/feed/open_elsewhere.h"
+#include "backend/import/import_errors.h"
 #include "backend/import/source_reader.h"
 
 #include <QDir>
@@ -81,11 +83,9 @@ Result<std::unique_ptr<SpoolSource>> SpoolSource::open(const QString& folder, co
     const QDir spool(folder);
     for (const QString& name : {u"done"_s, u"rejected"_s}) {
         if (!spool.mkpath(name))
-            return Error{u"The spool folder %1 cannot be used: the folder %2 in it cannot be made."_s.arg(
-                QDir::toNativeSeparators(folder), name)};
+            return makeError<feed_errors::spoolFolderNotMade>(QDir::toNativeSeparators(folder), name);
         if (!isOwnFolder(spool.filePath(name)))
-            return Error{u"The spool folder %1 cannot be used: %2 in it is a link."_s.arg(
-                QDir::toNativeSeparators(folder), name)};
+            return makeError<feed_errors::spoolFolderLinked>(QDir::toNativeSeparators(folder), name);
     }
     return std::unique_ptr<SpoolSource>(new SpoolSource(spool.absolutePath(), options));
 }
@@ -147,19 +147,19 @@ Done SpoolSource::read(const ItemVisitor& visit) {
     const QString path = QDir(folder).filePath(current);
     const QFileInfo info(path);
     if (info.isSymLink())
-        return Error{u"This is a link; only files are taken."_s};
+        return makeError<feed_errors::spoolLink>();
     if (info.exists() && !info.isFile())
-        return Error{u"This is not a file."_s};
+        return makeError<import_errors::noFile>();
     if (info.size() > options.largestFile)
-        return Error{u"The file is larger than %1 bytes."_s.arg(options.largestFile)};
+        return makeError<feed_errors::spoolFileTooLarge>(options.largestFile);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return Error{u"The file cannot be opened: %1."_s.arg(file.errorString())};
+        return makeError<import_errors::fileNotOpened>(file.errorString());
     ReadOptions reading = options.read;
     reading.sourceName = current;
     Done read = readSource(file, reading, visit);
     if (read && file.error() != QFileDevice::NoError)
-        return Error{u"The file cannot be read to its end: %1."_s.arg(file.errorString())};
+        return makeError<import_errors::fileNotReadToEnd>(file.errorString());
     return read;
 }
 

@@ -13,11 +13,11 @@ QString StoreWatch::name() const {
 }
 
 void StoreWatch::poll() {
-    const QString trouble = backEnd.storeTrouble();
-    setState(!trouble.isEmpty() ? SourceState::Failed
-             : isOnline         ? SourceState::Live
-                                : SourceState::Offline,
-             trouble);
+    const auto trouble = backEnd.storeTrouble();
+    setState(trouble    ? SourceState::Failed
+             : isOnline ? SourceState::Live
+                        : SourceState::Offline,
+             trouble ? sentence(*trouble) : QString());
     if (isOnline)
         backEnd.checkForNews();
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/lines/own_socket.h"
 
+#include "backend/lines/lines_errors.h"
+
 #include <QDir>
 #include <QFile>
 #include <QThread>
@@ -45,9 +47,9 @@ Result<QString> runtimeFolder() {
     const QString made = QDir::temp().filePath(u"wirepane-%1"_s.arg(geteuid()));
     const QByteArray folder = QFile::encodeName(made);
     if (mkdir(folder.constData(), S_IRWXU) != 0 && errno != EEXIST)
-        return Error{u"The folder %1 for local sockets cannot be made: %2."_s.arg(made, reasonOf(errno))};
+        return makeError<lines_errors::folderNotMade>(made, reasonOf(errno));
     if (!isOwnFolder(folder))
-        return Error{u"The folder %1 for local sockets is not this user's alone."_s.arg(made)};
+        return makeError<lines_errors::folderNotOwn>(made);
     return made;
 }
 
@@ -96,19 +98,20 @@ private:
 };
 
 // Nothing: what stands there is a socket of this user's that nobody listens on. Else what it is.
-std::optional<QString> whyItStays(const QByteArray& path, const sockaddr_un& address) {
+std::optional<Error> whyItStays(const QByteArray& path, const sockaddr_un& address) {
     struct stat found {};
     if (lstat(path.constData(), &found) != 0)
-        return errno == ENOENT ? std::nullopt : std::optional(reasonOf(errno));
+        return errno == ENOENT ? std::nullopt
+                               : std::optional(makeError<lines_errors::systemSays>(reasonOf(errno)));
     if (!S_ISSOCK(found.st_mode))
-        return u"there is something of this name that is no socket"_s;
+        return makeError<lines_errors::noSocket>();
     if (found.st_uid != geteuid())
-        return u"it belongs to another user"_s;
+        return makeError<lines_errors::socketOfOther>();
     const int probe = newSocket();
     // Only a refusal says that nobody listens: a program whose clients all wait answers otherwise.
     const bool isDead = !hasAddress(probe, address, &::connect) && errno == ECONNREFUSED;
     close(probe);
-    return isDead ? std::nullopt : std::optional(u"it is in use by another program"_s);
+    return isDead ? std::nullopt : std::optional(makeError<lines_errors::socketInUse>());
 }
 
 }  // namespace
@@ -137,33 +140,33 @@ Result<std::unique_ptr<OwnSocket>> OwnSocket::listen(const QString& name) {
     std::unique_ptr<OwnSocket> made(new OwnSocket);
     const Done bound = made->bindTo(QFile::encodeName(name));
     if (!bound)
-        return Error{u"The local socket %1 cannot be opened: %2."_s.arg(name, sentence(bound.error()))};
+        return makeError<lines_errors::socketNotOpened>(name, bound.error());
     return made;
 }
 
 Done OwnSocket::bindTo(const QByteArray& name) {
     const auto address = addressOf(name);
     if (!address)
-        return Error{u"the path is longer than %1 bytes"_s.arg(sizeof address->sun_path - 1)};
+        return makeError<lines_errors::pathTooLong>(sizeof address->sun_path - 1);
     const FolderLock lock(name);
     if (!lock.isHeld())
-        return Error{u"its folder is not there, or another program holds it"_s};
+        return makeError<lines_errors::folderHeld>();
     socket = newSocket();
     // Before it has a name, so that nobody finds it open to others.
     if (socket < 0 || fchmod(socket, S_IRUSR | S_IWUSR) != 0)
-        return Error{reasonOf(errno)};
+        return makeError<lines_errors::systemSays>(reasonOf(errno));
     if (!hasAddress(socket, *address, &::bind)) {
         if (errno != EADDRINUSE)
-            return Error{reasonOf(errno)};
+            return makeError<lines_errors::systemSays>(reasonOf(errno));
         if (const auto reason = whyItStays(name, *address))
-            return Error{*reason};
+            return *reason;
         unlink(name.constData());
         if (!hasAddress(socket, *address, &::bind))
-            return Error{reasonOf(errno)};
+            return makeError<lines_errors::systemSays>(reasonOf(errno));
     }
     struct stat made {};
     if (lstat(name.constData(), &made) != 0 || ::listen(socket, backlog) != 0)
-        return Error{reasonOf(errno)};
+        return makeError<lines_errors::systemSays>(reasonOf(errno));
     path = name;
     device = made.st_dev;
     file = made.st_ino;

@@ -4,6 +4,7 @@
 
 #include "backend/database/database.h"
 #include "backend/store/schema.h"
+#include "backend/store/store_errors.h"
 
 using namespace Qt::StringLiterals;
 
@@ -66,11 +67,8 @@ Result<TakeOutcome> CategoryBook::take(const CategoryItem& item) {
     {
         Query query(findName, space, item.name);
         if (query.next() && query.smallNumber(0) != item.id)
-            return TakeOutcome{
-                Take::Rejected,
-                u"The category \"%1\" has the id %2 already; it cannot have the id %3 too."_s.arg(item.name)
-                    .arg(query.number(0))
-                    .arg(item.id)};
+            return TakeOutcome{Take::Rejected,
+                               makeError<store_errors::categoryHasId>(item.name, query.number(0), item.id)};
     }
     std::optional<Entry> before;
     {
@@ -78,15 +76,15 @@ Result<TakeOutcome> CategoryBook::take(const CategoryItem& item) {
         if (query.next())
             before = Entry{query.text(0), query.text(1)};
         else if (query.failed())
-            return Error{database.failure()};
+            return database.failure();
     }
     const QString colour = before && item.colour.isEmpty() ? before->colour : item.colour;
     const bool same = before && before->name == item.name && before->colour == colour;
     int changes = same ? 0 : 1;
     if (!same && !Query(before ? update : insert, space, item.id, item.name, colour).run())
-        return Error{database.failure()};
+        return database.failure();
     if (!link(item.service, item.id, changes))
-        return Error{database.failure()};
+        return database.failure();
     ids.clear();
     return TakeOutcome{changes > 0 ? Take::TakenIn : Take::AlreadyThere, {}};
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/embedded_back_end.h"
 
-#include "backend/database/failure_sentence.h"
+#include "backend/database/database_failure.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
@@ -151,10 +151,10 @@ void EmbeddedBackEnd::tellOf(const std::vector<SymbolItem>& symbols) {
     ForEachReceiver([&](NewsReceiver& receiver) { receiver.vDoSymbolUpdate(updates); });
 }
 
-QString EmbeddedBackEnd::storeTrouble() const {
+std::optional<Error> EmbeddedBackEnd::storeTrouble() const {
     if (database->isReadOnly())
-        return onlyReadSentence(database->path());
-    return database->wasTakenAway() ? takenAwaySentence(database->path()) : QString();
+        return onlyReadError(database->path());
+    return database->wasTakenAway() ? std::optional(takenAwayError(database->path())) : std::nullopt;
 }
 
 // --- Telling ---

@@ -153,11 +153,11 @@ public:
     const QString& storePath() const { return database->path(); }
     // What keeps the store from taking news in for as long as it lasts, found out without trying: a sentence;
     // empty when nothing does.
-    QString storeTrouble() const;
+    std::optional<Error> storeTrouble() const;
     // Whether the store can only be read, for as long as it is open.
     bool isReadOnly() const { return database->isReadOnly(); }
     // The sentence about the first damage that a look-up or a change met; empty: none did.
-    const QString& storeDamage() const { return database->damage(); }
+    const std::optional<Error>& storeDamage() const { return database->damage(); }
 
     void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                          const std::vector<CSymbolInfo>& removed) override;

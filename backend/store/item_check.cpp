@@ -4,6 +4,7 @@
 
 #include "backend/clean_text.h"
 #include "backend/store/limits.h"
+#include "backend/store/store_errors.h"
 
 #include <QSet>
 
@@ -15,16 +16,16 @@ namespace wirepane {
 
 namespace {
 
-QString tooLong(QLatin1StringView what, qsizetype length, qsizetype most) {
-    return u"The %1 has %2 characters; at most %3 are taken."_s.arg(what).arg(length).arg(most);
+Error tooLong(Phrase what, qsizetype length, qsizetype most) {
+    return makeError<store_errors::tooLong>(std::move(what), length, most);
 }
 
-QString symbolFault(const QString& code) {
+std::optional<Error> symbolFault(const QString& code) {
     if (code.isEmpty())
-        return u"A symbol has no code."_s;
+        return makeError<store_errors::symbolWithoutCode>();
     if (code.size() > limits::codeLength)
-        return tooLong("code of a symbol"_L1, code.size(), limits::codeLength);
-    return {};
+        return tooLong(makeError<store_errors::codeOfSymbol>(), code.size(), limits::codeLength);
+    return std::nullopt;
 }
 
 bool isColour(const QString& text) {
@@ -96,70 +97,69 @@ QuoteItem cleaned(const QuoteItem& item) {
     return clean;
 }
 
-QString faultOfStory(const QString& story) {
-    return story.size() > limits::storyLength ? tooLong("story"_L1, story.size(), limits::storyLength)
-                                              : QString();
+std::optional<Error> faultOfStory(const QString& story) {
+    if (story.size() <= limits::storyLength)
+        return std::nullopt;
+    return tooLong(makeError<store_errors::story>(), story.size(), limits::storyLength);
 }
 
-QString faultOf(const NewsItem& item) {
+std::optional<Error> faultOf(const NewsItem& item) {
     if (item.service == 0)
-        return u"It belongs to no news service."_s;
+        return makeError<store_errors::noService>();
     if (item.identity.isEmpty())
-        return u"It has no identity."_s;
+        return makeError<store_errors::noIdentity>();
     if (item.identity.size() > limits::identityLength)
-        return tooLong("identity"_L1, item.identity.size(), limits::identityLength);
+        return tooLong(makeError<store_errors::identity>(), item.identity.size(), limits::identityLength);
     if (item.title.trimmed().isEmpty())
-        return u"The title is empty."_s;
+        return makeError<store_errors::titleEmpty>();
     if (item.title.size() > limits::titleLength)
-        return tooLong("title"_L1, item.title.size(), limits::titleLength);
-    if (QString fault = item.story ? faultOfStory(*item.story) : QString(); !fault.isEmpty())
+        return tooLong(makeError<store_errors::title>(), item.title.size(), limits::titleLength);
+    if (auto fault = item.story ? faultOfStory(*item.story) : std::nullopt)
         return fault;
     if (item.time < firstNewsTime || item.time > lastNewsTime)
-        return u"Its time (%1 seconds since 1970) does not lie within the years 1900 to 9999."_s.arg(
-            item.time);
+        return makeError<store_errors::timeOutOfRange>(item.time);
     if (item.related.size() > limits::relatedSymbols)
-        return u"It names %1 related symbols; at most %2 are taken."_s.arg(item.related.size())
-            .arg(limits::relatedSymbols);
+        return makeError<store_errors::tooManySymbols>(item.related.size(), limits::relatedSymbols);
     for (const SymbolRef& symbol : item.related) {
-        if (QString fault = symbolFault(symbol.code); !fault.isEmpty())
+        if (auto fault = symbolFault(symbol.code))
             return fault;
     }
-    return {};
+    return std::nullopt;
 }
 
-QString faultOf(const SymbolItem& item) {
+std::optional<Error> faultOf(const SymbolItem& item) {
     if (item.market == 0)
-        return u"The symbol belongs to no market."_s;
+        return makeError<store_errors::symbolWithoutMarket>();
     if (item.name.size() > limits::symbolNameLength)
-        return tooLong("name of the symbol"_L1, item.name.size(), limits::symbolNameLength);
+        return tooLong(makeError<store_errors::nameOfSymbol>(), item.name.size(), limits::symbolNameLength);
     return symbolFault(item.code);
 }
 
-QString faultOf(const CategoryItem& item) {
+std::optional<Error> faultOf(const CategoryItem& item) {
     if (item.service == 0)
-        return u"The category belongs to no news service."_s;
+        return makeError<store_errors::categoryWithoutService>();
     if (item.id < 1)
-        return u"The category has the id %1; ids count from 1 on."_s.arg(item.id);
+        return makeError<store_errors::categoryIdTooSmall>(item.id);
     if (item.name.isEmpty())
-        return u"The category has no name."_s;
+        return makeError<store_errors::categoryWithoutName>();
     if (!item.colour.isEmpty() && !isColour(item.colour))
-        return u"The colour \"%1\" is not of the form #rrggbb."_s.arg(item.colour.left(20));
-    return {};
+        return makeError<store_errors::noColour>(item.colour.left(20));
+    return std::nullopt;
 }
 
-QString faultOf(const QuoteItem& item) {
+std::optional<Error> faultOf(const QuoteItem& item) {
     if (item.market == 0)
-        return u"The quote belongs to no market."_s;
-    if (QString fault = symbolFault(item.code); !fault.isEmpty())
+        return makeError<store_errors::quoteWithoutMarket>();
+    if (auto fault = symbolFault(item.code))
         return fault;
     // Written so that a number that is none fails too.
     if (!(item.last >= 0 && item.last <= limits::price))
-        return u"The last price of %1 is not a number from 0 to %2."_s.arg(item.code).arg(limits::price);
+        return makeError<store_errors::lastPriceOutOfRange>(item.code, limits::price);
     if (!(item.change >= -limits::price && item.change <= item.last))
-        return u"The change of %1 is not a number, or larger than its last price."_s.arg(item.code);
+        return makeError<store_errors::changeOutOfRange>(item.code);
     if (item.volume < 0 || item.volume > mostVolume)
-        return u"The volume of %1 is not a number from 0 to %2."_s.arg(item.code).arg(mostVolume);
-    return {};
+        return makeError<store_errors::volumeOutOfRange>(item.code, mostVolume);
+    return std::nullopt;
 }
 
 }  // namespace wirepane

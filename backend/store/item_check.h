@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/error.h"
 #include "backend/news_item.h"
+
+#include <optional>
 
 // What is asked of an item before it reaches the store (see limits.h).
 namespace wirepane {
@@ -17,13 +20,13 @@ SymbolItem cleaned(const SymbolItem& item);
 CategoryItem cleaned(const CategoryItem& item);
 QuoteItem cleaned(const QuoteItem& item);
 
-// Why a cleaned item cannot be taken: a sentence; empty when it can.
-QString faultOf(const NewsItem& item);
-QString faultOfStory(const QString& story);
-QString faultOf(const SymbolItem& item);
-QString faultOf(const CategoryItem& item);
+// Why a cleaned item cannot be taken; nothing when it can.
+std::optional<Error> faultOf(const NewsItem& item);
+std::optional<Error> faultOfStory(const QString& story);
+std::optional<Error> faultOf(const SymbolItem& item);
+std::optional<Error> faultOf(const CategoryItem& item);
 // Numbers that are none, or beyond all prices, and changes that leave less than nothing as the previous
 // close.
-QString faultOf(const QuoteItem& item);
+std::optional<Error> faultOf(const QuoteItem& item);
 
 }  // namespace wirepane

@@ -76,7 +76,7 @@ void checkRule(Database& database, const Rule& rule, QStringList& faults) {
     while (offenders.size() <= namedOffenders && query.next())
         offenders += query.text(0);
     if (query.failed())
-        faults += database.failure();
+        faults += sentence(database.failure());
     else if (!offenders.isEmpty())
         faults += rule.sentence.toString().arg(namesOf(offenders));
 }
@@ -90,14 +90,14 @@ QStringList structureFaults(Database& database) {
             faults += u"The file's structure is damaged: %1."_s.arg(query.text(0));
     }
     if (query.failed())
-        faults += database.failure();
+        faults += sentence(database.failure());
     return faults;
 }
 
 void checkSearchIndex(Database& database, QStringList& faults) {
     const std::optional<QStringList> offenders = searchIndexFaults(database, namedOffenders + 1);
     if (!offenders)
-        faults += u"The search index cannot be read: %1"_s.arg(database.failure());
+        faults += u"The search index cannot be read: %1"_s.arg(sentence(database.failure()));
     else if (!offenders->isEmpty())
         faults += u"The search index does not hold the text of: %1."_s.arg(namesOf(*offenders));
 }
@@ -111,7 +111,7 @@ Result<QStringList> StoreChecker::check() const {
     Database& database = *opened.value();
     // One moment of the store, whoever writes to it meanwhile.
     if (!database.execute("PRAGMA temp_store = MEMORY; BEGIN"))
-        return Error{database.failure()};
+        return database.failure();
     if (std::optional<Error> fault = readingFault(database))
         return *fault;
     QStringList faults = structureFaults(database);

@@ -7,6 +7,7 @@
 #include "backend/database/transaction.h"
 #include "backend/store/schema.h"
 #include "backend/store/store_defaults.h"
+#include "backend/store/store_errors.h"
 #include "backend/words/character_folding.h"
 
 #include <QDir>
@@ -74,7 +75,7 @@ bool bringUpToDate(Database& database, const IndexProgress& onIndexing) {
     if (version == storeVersion() && hasPresentSearchRules(database))
         return true;
     // A damaged store is not mended by writing to it.
-    if (!database.damage().isEmpty())
+    if (database.damage())
         return false;
     Transaction transaction(database);
     // Another program may have made the store meanwhile.
@@ -89,23 +90,18 @@ std::optional<Error> faultOf(const StoreMark& mark, const Database& database) {
     if (mark.isEmpty())
         return std::nullopt;
     if (mark.application != storeApplicationId || mark.version < 1)
-        return Error{u"%1 is a database, but not a news store."_s.arg(database.path())};
+        return makeError<store_errors::otherDatabase>(database.path());
     if (mark.version > storeVersion())
-        return Error{
-            u"%1 was written by a newer version of the program (store version %2; this one reads up to %3)."_s
-                .arg(database.path())
-                .arg(mark.version)
-                .arg(storeVersion())};
+        return makeError<store_errors::newerVersion>(database.path(), mark.version, storeVersion());
     return std::nullopt;
 }
 
 Error emptyError(const Database& database) {
-    return {u"%1 is empty: there is no news store in it."_s.arg(QDir::toNativeSeparators(database.path()))};
+    return makeError<store_errors::empty>(QDir::toNativeSeparators(database.path()));
 }
 
-Error onlyReadError(const Database& database) {
-    return {u"%1 cannot be written to: the file or its folder is read-only."_s.arg(
-        QDir::toNativeSeparators(database.path()))};
+Error notWritableError(const Database& database) {
+    return makeError<store_errors::notWritable>(QDir::toNativeSeparators(database.path()));
 }
 
 Result<std::unique_ptr<Database>> openToWrite(const QString& path, Database::Mode mode,
@@ -122,16 +118,16 @@ Result<std::unique_ptr<Database>> openToWrite(const QString& path, Database::Mod
     if (!mark) {
         // The file is open: what cannot be opened is what would stand beside it.
         const bool isShutFolder = (database.failureCode() & 0xff) == SQLITE_CANTOPEN;
-        return isShutFolder ? onlyReadError(database) : Error{database.failure()};
+        return isShutFolder ? notWritableError(database) : database.failure();
     }
     if (std::optional<Error> fault = faultOf(*mark, database))
         return *fault;
     if (mode == Database::Mode::Write && mark->isEmpty())
         return emptyError(database);
     if (database.isReadOnly())
-        return onlyReadError(database);
+        return notWritableError(database);
     if (!setUp(database) || !bringUpToDate(database, options.onIndexing))
-        return Error{database.failure()};
+        return database.failure();
     database.setCheckpointOnClose(true);
     return opened;
 }
@@ -141,16 +137,13 @@ Result<std::unique_ptr<Database>> openToWrite(const QString& path, Database::Mod
 std::optional<Error> readingFault(Database& database) {
     const std::optional<StoreMark> mark = markOf(database);
     if (!mark)
-        return Error{database.failure()};
+        return database.failure();
     if (std::optional<Error> fault = faultOf(*mark, database))
         return fault;
     if (mark->isEmpty())
         return emptyError(database);
     if (mark->version < storeVersion())
-        return Error{u"%1 is of version %2; the program brings it up to version %3 when it opens it."_s
-                         .arg(database.path())
-                         .arg(mark->version)
-                         .arg(storeVersion())};
+        return makeError<store_errors::olderVersion>(database.path(), mark->version, storeVersion());
     return std::nullopt;
 }
 

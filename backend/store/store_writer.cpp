@@ -3,8 +3,9 @@
 #include "backend/store/store_writer.h"
 
 #include "backend/clean_text.h"
-#include "backend/database/failure_sentence.h"
+#include "backend/database/database_failure.h"
 #include "backend/store/item_check.h"
+#include "backend/store/store_errors.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,7 +13,7 @@ namespace wirepane {
 
 namespace {
 
-StoredNews rejected(const QString& reason) {
+StoredNews rejected(const Error& reason) {
     StoredNews stored;
     stored.outcome = {Take::Rejected, reason};
     return stored;
@@ -26,11 +27,10 @@ bool isLater(const NewsItem& item, const KnownNews& known) {
     return item.version > known.version || (item.version == known.version && item.time > known.time);
 }
 
-QString numberTaken(const NewsItem& item) {
+Error numberTaken(const NewsItem& item) {
     if (!item.sequence)
-        return u"No sequence number is left on its day."_s;
-    return u"Its sequence number %1 belongs to another headline of that service and day."_s.arg(
-        *item.sequence);
+        return makeError<store_errors::noNumberLeft>();
+    return makeError<store_errors::numberTaken>(*item.sequence);
 }
 
 }  // namespace
@@ -51,9 +51,9 @@ StoreWriter::StoreWriter(Database& owner)
 
 Done StoreWriter::begin() {
     if (database.wasTakenAway())
-        return Error{takenAwaySentence(database.path())};
+        return takenAwayError(database.path());
     if (!database.begin())
-        return Error{database.failure()};
+        return database.failure();
     numbers.restart();
     categories.restart();
     services.clear();
@@ -64,7 +64,7 @@ Done StoreWriter::begin() {
 
 Done StoreWriter::commit() {
     if (!begun)
-        return Error{u"Nothing was begun that could be kept."_s};
+        return makeError<store_errors::nothingToKeep>();
     if (!numbers.save() || !arrivals.trim() || !database.commit())
         return fail();
     begun = false;
@@ -79,7 +79,7 @@ void StoreWriter::rollback() {
 }
 
 Error StoreWriter::fail() {
-    const Error error{database.failure()};
+    const Error error = database.failure();
     rollback();
     return error;
 }
@@ -99,10 +99,10 @@ Result<TakeOutcome> StoreWriter::take(const StoreItem& item) {
 
 Result<StoredNews> StoreWriter::takeNews(const NewsItem& given) {
     if (!begun)
-        return Error{u"Nothing was begun that the news could be part of."_s};
+        return makeError<store_errors::nothingBegun>(makeError<store_errors::news>());
     const NewsItem item = cleaned(given);
-    if (const QString fault = faultOf(item); !fault.isEmpty())
-        return rejected(fault);
+    if (const auto fault = faultOf(item))
+        return rejected(*fault);
     bool failed = false;
     const std::optional<KnownNews> known = news.find(item.service, item.identity, failed);
     if (failed)
@@ -169,16 +169,16 @@ Result<StoredNews> StoreWriter::addStory(const NewsItem& item, const KnownNews& 
 
 Result<TakeOutcome> StoreWriter::takeStory(const HeadlineKey& key, const QString& given) {
     if (!begun)
-        return Error{u"Nothing was begun that the story could be part of."_s};
+        return makeError<store_errors::nothingBegun>(makeError<store_errors::story>());
     const QString story = cleanStory(given);
-    if (const QString fault = faultOfStory(story); !fault.isEmpty())
+    if (const auto fault = faultOfStory(story))
         return TakeOutcome{Take::Rejected, fault};
     bool failed = false;
     const std::optional<KnownNews> known = news.find(key, failed);
     if (failed)
         return fail();
     if (!known)
-        return TakeOutcome{Take::Rejected, u"There is no headline with this key."_s};
+        return TakeOutcome{Take::Rejected, makeError<store_errors::noHeadline>()};
     if (!news.putStory(known->id, story) || !arrivals.add(known->id, true))
         return fail();
     return TakeOutcome{};
@@ -186,7 +186,7 @@ Result<TakeOutcome> StoreWriter::takeStory(const HeadlineKey& key, const QString
 
 Done StoreWriter::keepPosition(const QString& source, const QString& position) {
     if (!begun)
-        return Error{u"Nothing was begun that the position could be part of."_s};
+        return makeError<store_errors::nothingBegun>(makeError<store_errors::position>());
     if (!positions.keep(source, position))
         return fail();
     return Nothing{};
@@ -196,7 +196,7 @@ Result<QString> StoreWriter::positionOf(const QString& source) {
     bool failed = false;
     QString position = positions.of(source, failed);
     if (failed)
-        return Error{database.failure()};
+        return database.failure();
     return position;
 }
 
@@ -242,8 +242,8 @@ bool StoreWriter::findCategory(const NewsItem& item, std::int32_t& id) {
 
 Result<TakeOutcome> StoreWriter::takeSymbol(const SymbolItem& item) {
     if (!begun)
-        return Error{u"Nothing was begun that the symbol could be part of."_s};
-    if (const QString fault = faultOf(item); !fault.isEmpty())
+        return makeError<store_errors::nothingBegun>(makeError<store_errors::symbol>());
+    if (const auto fault = faultOf(item))
         return TakeOutcome{Take::Rejected, fault};
     {
         Query query(findSymbol, item.market, item.code);
@@ -257,8 +257,8 @@ Result<TakeOutcome> StoreWriter::takeSymbol(const SymbolItem& item) {
 
 Result<TakeOutcome> StoreWriter::takeCategory(const CategoryItem& item) {
     if (!begun)
-        return Error{u"Nothing was begun that the category could be part of."_s};
-    if (const QString fault = faultOf(item); !fault.isEmpty())
+        return makeError<store_errors::nothingBegun>(makeError<store_errors::category>());
+    if (const auto fault = faultOf(item))
         return TakeOutcome{Take::Rejected, fault};
     if (!ensureService(item.service))
         return fail();
@@ -270,8 +270,8 @@ Result<TakeOutcome> StoreWriter::takeCategory(const CategoryItem& item) {
 
 Result<TakeOutcome> StoreWriter::takeQuote(const QuoteItem& item) {
     if (!begun)
-        return Error{u"Nothing was begun that the quote could be part of."_s};
-    if (const QString fault = faultOf(item); !fault.isEmpty())
+        return makeError<store_errors::nothingBegun>(makeError<store_errors::quote>());
+    if (const auto fault = faultOf(item))
         return TakeOutcome{Take::Rejected, fault};
     bool changed = false;
     if (!quotes.put(item, changed))

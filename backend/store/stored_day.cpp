@@ -3,6 +3,7 @@
 #include "backend/store/stored_day.h"
 
 #include "backend/store/local_day.h"
+#include "backend/store/store_errors.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_reader.h"
 
@@ -16,7 +17,7 @@ Result<std::unique_ptr<StoredDay>> StoredDay::open(const QString& storePath, QDa
         return opened.error();
     std::unique_ptr<StoredDay> stored(new StoredDay(std::move(opened.value())));
     if (!stored->load(day))
-        return Error{stored->database->failure()};
+        return stored->database->failure();
     return stored;
 }
 
@@ -52,7 +53,7 @@ Done StoredDay::copyCatalogues(Database& target) const {
                                    "REPLACE INTO symbols SELECT * FROM source.symbols;"
                                    "REPLACE INTO quotes SELECT * FROM source.quotes; COMMIT"))
         return Nothing{};
-    const Error error{target.failure()};
+    const Error error = target.failure();
     if (target.inTransaction())
         target.execute("ROLLBACK");
     return error;
@@ -64,7 +65,7 @@ Result<NewsItem> StoredDay::item(std::size_t index) {
     {
         Query query(oneItem, id, awaitedSince());
         if (!query.next())
-            return Error{query.failed() ? database->failure() : u"The news is no longer in the store."_s};
+            return query.failed() ? database->failure() : makeError<store_errors::newsGone>();
         item.service = static_cast<unsigned char>(query.number(0));
         item.identity = query.text(1);
         item.version = query.smallNumber(2);
@@ -79,8 +80,8 @@ Result<NewsItem> StoredDay::item(std::size_t index) {
     }
     for (Query query(allRelated, id); query.next();)
         item.related.push_back({static_cast<unsigned char>(query.number(0)), query.text(1)});
-    if (!database->damage().isEmpty())
-        return Error{database->damage()};
+    if (database->damage())
+        return *database->damage();
     return item;
 }
 

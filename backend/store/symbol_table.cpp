@@ -28,7 +28,7 @@ Done SymbolTable::load(Database& database) {
     if (!rows.failed())
         return Nothing{};
     std::swap(read, byMarket);
-    return Error{database.failure()};
+    return database.failure();
 }
 
 void SymbolTable::put(const SymbolItem& symbol) {

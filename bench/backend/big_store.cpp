@@ -40,7 +40,7 @@ BigStore::BigStore(int headlines) : file(folder.filePath(u"big.db"_s)) {
         "INSERT INTO numbering SELECT service, day, max(sequence) FROM headlines GROUP BY service;"
         "COMMIT; PRAGMA wal_checkpoint(TRUNCATE)";
     if (!store.value()->execute(sql.c_str()))
-        throw std::runtime_error(store.value()->failure().toStdString());
+        throw std::runtime_error(sentence(store.value()->failure()).toStdString());
 }
 
 const BigStore& BigStore::of(int headlines) {

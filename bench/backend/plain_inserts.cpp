@@ -81,7 +81,7 @@ void PlainInserts::run(Database& store) const {
         search.run(id, row.title, row.searched);
     }
     if (!store.execute("COMMIT"))
-        throw std::runtime_error(store.failure().toStdString());
+        throw std::runtime_error(sentence(store.failure()).toStdString());
 }
 
 }  // namespace wirepane::bench

@@ -26,7 +26,7 @@ int rank(std::mt19937& random, int count) {
 
 void check(bool good, Database& store) {
     if (!good)
-        throw std::runtime_error(store.failure().toStdString());
+        throw std::runtime_error(sentence(store.failure()).toStdString());
 }
 
 QString storyOf(int number, int stories) {

@@ -84,7 +84,7 @@ Result<std::vector<CHeadlineTable>> wantedNews(EmbeddedBackEnd& backEnd, const E
         if (!store)
             return store.error();
         const auto found = findAll(*store.value(), services, options.condition);
-        return found ? Result<std::vector<CHeadlineTable>>(*found) : Error{store.value()->failure()};
+        return found ? Result<std::vector<CHeadlineTable>>(*found) : store.value()->failure();
     }
     std::vector<CHeadlineTable> day;
     for (const unsigned char service : services)
@@ -106,13 +106,13 @@ bool isReadable(EmbeddedBackEnd& backEnd, const std::vector<CHeadlineTable>& wan
     std::vector<CHeadline> headlines;
     CStory story;
     CNewsSymLst symbols;
-    for (auto entry = wanted.begin(); entry != wanted.end() && backEnd.storeDamage().isEmpty(); ++entry) {
+    for (auto entry = wanted.begin(); entry != wanted.end() && !backEnd.storeDamage(); ++entry) {
         headlines.clear();
         backEnd.BKQNEWS_iGetHeadline(entry->service, headlines, {*entry});
         backEnd.BKQNEWS_bGetStory(story, *entry);
         backEnd.BKNEWS_GetSymbolListBySeqNo(symbols, *entry);
     }
-    return backEnd.storeDamage().isEmpty();
+    return !backEnd.storeDamage();
 }
 
 int exportNews(EmbeddedBackEnd& backEnd, const ExportOptions& options) {
@@ -123,7 +123,7 @@ int exportNews(EmbeddedBackEnd& backEnd, const ExportOptions& options) {
     if (!wanted)
         return unusable(sentence(wanted.error()));
     if (!isReadable(backEnd, wanted.value()))
-        return unusable(backEnd.storeDamage());
+        return unusable(sentence(*backEnd.storeDamage()));
     if (wanted.value().empty()) {
         printNote(u"There is no such news; nothing was written."_s);
         return exitPartly;

@@ -82,7 +82,7 @@ private:
         }
         ++retries;
         // No trying again mends a damaged store.
-        if (!store.damage().isEmpty())
+        if (store.damage())
             retries = mostRetries + 1;
         if (retries == 1)
             printNote(sentence(taken.error()));

@@ -7,16 +7,20 @@
 #include "backend/import/source_formats.h"
 #include "backend/store/store_writer.h"
 #include "terminal/commands/command_arguments.h"
+#include "terminal/commands/import_report.h"
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
 #include "terminal/console/interrupt.h"
 #include "terminal/session/store_opening.h"
+#include "terminal/translations/shown_text.h"
 
+#include <QCommandLineOption>
 #include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
 
 #include <atomic>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -27,10 +31,14 @@ namespace {
 constexpr qint64 silentMs = 500;  // a shorter import shows no progress
 constexpr int lastService = 255;
 
-QString rejectionLine(const ImportRejection& rejected) {
-    const auto& place = rejected.rejection.place;
-    return QDir::toNativeSeparators(rejected.file) + (place ? u": "_s + sentence(*place) : QString()) +
-           u": "_s + sentence(rejected.rejection.reason);
+// Errors as a person reads them, or as values for a program.
+using Wording = std::function<QString(const Error&)>;
+
+Error rejectionOf(const ImportRejection& rejected) {
+    const auto& [place, reason] = rejected.rejection;
+    const QString file = QDir::toNativeSeparators(rejected.file);
+    return place ? makeError<import_report::itemRejected>(file, *place, reason)
+                 : makeError<import_report::fileRejected>(file, reason);
 }
 
 QString progressLine(const ImportProgress& progress) {
@@ -48,23 +56,20 @@ QString formatsForHelp() {
     return formats.join(u", "_s);
 }
 
-int reportEnd(const ImportReport& report) {
+int reportEnd(const ImportReport& report, const Wording& worded) {
     clearPassing();
-    printLine(u"%1 taken in, %2 already there, %3 rejected"_s.arg(report.totals.takenIn)
-                  .arg(report.totals.alreadyThere)
-                  .arg(report.totals.rejected));
+    printLine(worded(makeError<import_report::importTotals>(report.totals.takenIn, report.totals.alreadyThere,
+                                                            report.totals.rejected)));
     if (report.filesRejected > 0)
-        printNote(u"%1 of %2 files could not be read."_s.arg(report.filesRejected)
-                      .arg(report.filesRead + report.filesRejected));
+        printNote(worded(makeError<import_report::filesNotRead>(report.filesRejected,
+                                                                report.filesRead + report.filesRejected)));
     if (report.nothingRecent())
-        printNote(
-            u"None of this news lies within the last 255 days. To see it, start the terminal with --now %1, "
-            "or read as of that moment (Ctrl+G in the terminal)."_s.arg(
-                QDateTime::fromSecsSinceEpoch(*report.newest).toString(Qt::ISODate)));
+        printNote(worded(makeError<import_report::nothingRecent>(
+            QDateTime::fromSecsSinceEpoch(*report.newest).toString(Qt::ISODate))));
     if (report.failure)
-        printNote(sentence(*report.failure));
+        printNote(worded(*report.failure));
     if (report.stopped)
-        printNote(u"Stopped. The files taken in so far are kept; the same command goes on with the rest."_s);
+        printNote(worded(makeError<import_report::importStopped>()));
     return importExitStatus(report);
 }
 
@@ -80,8 +85,13 @@ int runImport() {
         {u"service"_s, u"The id of the news service that the news belongs to. Default: 1."_s, u"id"_s});
     arguments.parser.addOption(
         {u"mapping"_s, u"Reads the files as tables of news, as this file describes them."_s, u"file"_s});
+    // For the terminal, which has its own words for it.
+    QCommandLineOption asValues(u"values"_s);
+    asValues.setFlags(QCommandLineOption::HiddenFromHelp);
+    arguments.parser.addOption(asValues);
     if (const auto status = arguments.read())
         return *status;
+    const Wording worded = arguments.parser.isSet(asValues) ? valueLine : sentence;
     ReadOptions options;
     options.service = static_cast<unsigned char>(arguments.number(u"service"_s, 1, 1, lastService));
     if (arguments.parser.isSet(u"mapping"_s)) {
@@ -106,12 +116,12 @@ int runImport() {
     });
     const auto store = openOrMakeStore(arguments.storeFile(), indexingLines());
     if (!store) {
-        printNote(sentence(store.error()));
+        printNote(worded(store.error()));
         return exitUnusable;
     }
     StoreWriter writer(*store.value());
     ImportJob job(arguments.rest(), writer, options);
-    job.onRejection([](const ImportRejection& rejected) { printNote(rejectionLine(rejected)); });
+    job.onRejection([&worded](const ImportRejection& rejected) { printNote(worded(rejectionOf(rejected))); });
     QElapsedTimer started;
     started.start();
     job.onProgress([&started](const ImportProgress& progress) {
@@ -123,7 +133,7 @@ int runImport() {
         job.stop();
     const ImportReport report = job.run();
     running = nullptr;
-    return reportEnd(report);
+    return reportEnd(report, worded);
 }
 
 }  // namespace wirepane

@@ -13,6 +13,7 @@
 #include "terminal/session/frame_commands.h"
 #include "terminal/session/session.h"
 #include "terminal/tour/tour.h"
+#include "terminal/translations/shown_text.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -138,7 +139,7 @@ void endTerminal() {
 int runForUser(Session& session) {
     const FrameCommands commands(session);
     if (const Done opened = openWorkspace(session); !opened) {
-        QMessageBox::critical(&session.frame(), QApplication::applicationName(), sentence(opened.error()));
+        QMessageBox::critical(&session.frame(), QApplication::applicationName(), shownText(opened.error()));
         return exitUnusable;
     }
     return QApplication::exec();

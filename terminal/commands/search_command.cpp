@@ -48,14 +48,14 @@ void printRow(const CHeadline& headline, const QString& service, bool asJson) {
 
 int printFound(Database& store, const std::vector<CHeadlineTable>& found, std::size_t most, bool asJson) {
     StoreReader reader(store);
-    for (std::size_t i = 0; i < std::min(found.size(), most) && store.damage().isEmpty(); ++i) {
+    for (std::size_t i = 0; i < std::min(found.size(), most) && !store.damage(); ++i) {
         const auto headline = reader.headline(KeyOf(found[i]));
         const auto service = reader.service(found[i].service);
         if (headline)
             printRow(*headline, service ? service->shortName : QString::number(found[i].service), asJson);
     }
-    if (!store.damage().isEmpty()) {
-        printNote(store.damage());
+    if (store.damage()) {
+        printNote(sentence(*store.damage()));
         return exitUnusable;
     }
     if (found.empty())
@@ -95,8 +95,8 @@ int runSearch() {
     const std::vector<unsigned char> services =
         service != 0 ? std::vector{service} : StoreReader(database).serviceIds();
     const auto found = findAll(database, services, condition);
-    if (!found || !database.damage().isEmpty()) {
-        printNote(database.damage().isEmpty() ? database.failure() : database.damage());
+    if (!found || database.damage()) {
+        printNote(sentence(database.damage().value_or(database.failure())));
         return exitUnusable;
     }
     return printFound(database, *found, std::size_t(most), arguments.parser.isSet(u"json"_s));

@@ -6,6 +6,7 @@
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
+#include "terminal/frame/frame_errors.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/view_desk.h"
 #include "terminal/frame/view_dock.h"
@@ -115,7 +116,7 @@ Done Workspace::start(OpenView& open, unsigned char group, const QSize& size) {
     auto* access = dynamic_cast<NewsViewAccess*>(view);
     if (access == nullptr) {
         delete view;
-        return Error{u"The news module cannot make a view of the class %1."_s.arg(viewClass)};
+        return makeError<frame_errors::unknownView>(viewClass);
     }
     open.view = view;
     open.access = access;

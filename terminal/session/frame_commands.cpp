@@ -9,6 +9,8 @@
 #include "terminal/frame/symbol_box.h"
 #include "terminal/frame/view_dock.h"
 #include "terminal/session/session.h"
+#include "terminal/session/session_errors.h"
+#include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QCoreApplication>
@@ -191,7 +193,7 @@ void FrameCommands::showGuide() {
     const QString file = QDir::cleanPath(
         QDir(QCoreApplication::applicationDirPath()).filePath(u"../share/wirepane/docs/guide/guide.md"_s));
     if (!QFileInfo::exists(file)) {
-        report(Error{u"The guide %1 is missing."_s.arg(QDir::toNativeSeparators(file))});
+        report(makeError<session_errors::guideMissing>(QDir::toNativeSeparators(file)));
         return;
     }
     if (guide == nullptr) {
@@ -210,7 +212,7 @@ void FrameCommands::save() {
 void FrameCommands::report(const Done& done) {
     if (done)
         return;
-    auto* box = new QMessageBox(QMessageBox::Warning, terminalText(TextId::AppTitle), sentence(done.error()),
+    auto* box = new QMessageBox(QMessageBox::Warning, terminalText(TextId::AppTitle), shownText(done.error()),
                                 QMessageBox::Ok, &session.frame());
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);

@@ -4,6 +4,7 @@
 
 #include "host/contract/clock.h"
 #include "terminal/console/exit_status.h"
+#include "terminal/translations/shown_text.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -38,7 +39,7 @@ ImportRunner::ImportRunner(const QString& program, QObject* parent) : QObject(pa
     connect(&process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart)
             emit finished({ImportOutcome::NotStarted,
-                           QDir::toNativeSeparators(process.program()) + u": "_s + process.errorString()});
+                           {QDir::toNativeSeparators(process.program()) + u": "_s + process.errorString()}});
     });
 }
 
@@ -55,9 +56,10 @@ ImportRunner::~ImportRunner() {
 
 void ImportRunner::start(const QString& storeFile, const QStringList& files) {
     // Absolute paths cannot be taken for options.
-    QStringList arguments{u"import"_s, u"--now"_s,
-                          QDateTime::fromSecsSinceEpoch(host_clock::now()).toString(Qt::ISODate),
-                          u"--store"_s, QFileInfo(storeFile).absoluteFilePath()};
+    QStringList arguments{
+        u"import"_s,  u"--values"_s,
+        u"--now"_s,   QDateTime::fromSecsSinceEpoch(host_clock::now()).toString(Qt::ISODate),
+        u"--store"_s, QFileInfo(storeFile).absoluteFilePath()};
     for (const QString& file : files)
         arguments.append(QFileInfo(file).absoluteFilePath());
     stopped = false;
@@ -95,10 +97,13 @@ void ImportRunner::hear() {
 void ImportRunner::finish(int status, QProcess::ExitStatus exit) {
     const bool crashed = exit == QProcess::CrashExit;
     hear();
-    QString said = QString::fromLocal8Bit(process.readAllStandardOutput() + notes);
+    std::vector<QJsonValue> said;
+    const QString lines = QString::fromLocal8Bit(process.readAllStandardOutput() + notes);
+    for (const QString& line : lines.split(u'\n', Qt::SkipEmptyParts))
+        said.push_back(valueFrom(line));
     if (crashed && !stopped)
-        said += process.errorString() + u'\n';
-    emit finished({kindOf(crashed ? exitUnusable : status, stopped), said.trimmed(), leftOut});
+        said.emplace_back(process.errorString());
+    emit finished({kindOf(crashed ? exitUnusable : status, stopped), said, leftOut});
 }
 
 }  // namespace wirepane

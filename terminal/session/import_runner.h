@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QJsonValue>
 #include <QObject>
 #include <QProcess>
 #include <QStringList>
+
+#include <vector>
 
 namespace wirepane {
 
@@ -18,8 +21,9 @@ struct ImportOutcome {
     };
 
     Kind kind = Complete;
-    // What the program said, a line each: the totals first, then what was rejected and why.
-    QString said;
+    // What the program said, a line each: the totals first, then what was rejected and why. Values of errors,
+    // or texts as they are (terminal/translations/shown_text.h).
+    std::vector<QJsonValue> said;
     qint64 leftOut = 0;  // further lines
 };
 

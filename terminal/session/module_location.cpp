@@ -3,6 +3,7 @@
 #include "terminal/session/module_location.h"
 
 #include "host/views/news_module.h"
+#include "terminal/session/session_errors.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -28,10 +29,10 @@ Result<NewsModule*> loadModule() {
         QString error;
         if (NewsModule* module = LoadNewsModule(file, error))
             return module;
-        return Error{error};
+        return makeError<session_errors::moduleNotLoaded>(error);
     }
-    return Error{u"The news module %1 was found neither in %2 nor in %3."_s.arg(
-        moduleFile, programFolder.path(), QDir::cleanPath(programFolder.filePath(installedFolder)))};
+    return makeError<session_errors::moduleNotFound>(
+        moduleFile, programFolder.path(), QDir::cleanPath(programFolder.filePath(installedFolder)));
 }
 
 }  // namespace wirepane

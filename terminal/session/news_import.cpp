@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/news_import.h"
 
+#include "backend/clean_text.h"
 #include "backend/import/source_formats.h"
 #include "host/controls/heap_dialog.h"
 #include "terminal/frame/import_report_dialog.h"
+#include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QFileDialog>
@@ -85,10 +87,12 @@ void NewsImport::takeIn(const QStringList& files) {
 
 void NewsImport::showOutcome(const ImportOutcome& outcome) {
     delete progress;
-    QString said = outcome.said;
+    QStringList said;
+    for (const QJsonValue& line : outcome.said)
+        said += escapedText(shownText(line));
     if (outcome.leftOut > 0)
-        said += u'\n' + terminalText(TextId::ImportLeftOut).arg(outcome.leftOut);
-    auto* report = new ImportReportDialog(terminalText(headlineOf(outcome.kind)), said,
+        said += terminalText(TextId::ImportLeftOut).arg(outcome.leftOut);
+    auto* report = new ImportReportDialog(terminalText(headlineOf(outcome.kind)), said.join(u'\n'),
                                           outcome.kind != ImportOutcome::Complete, &window);
     report->setAttribute(Qt::WA_DeleteOnClose);
     report->show();

@@ -6,6 +6,7 @@
 #include "backend/store/store_defaults.h"
 #include "backend/store/store_writer.h"
 #include "terminal/session/sample_process.h"
+#include "terminal/session/session_errors.h"
 
 #include <variant>
 
@@ -40,9 +41,7 @@ private:
     // Of records that name none; those of the wire do.
     static constexpr unsigned char ownService = 1;
 
-    static Error unfit(const Error& reason) {
-        return Error{u"The sample wire does not fit into this store: %1"_s.arg(sentence(reason))};
-    }
+    static Error unfit(const Error& reason) { return makeError<session_errors::sampleNotTaken>(reason); }
     Done take(const StoreItem& item) {
         const auto outcome = writer.take(item);
         if (!outcome)
@@ -59,7 +58,7 @@ private:
 
 Done takeAll(Filling& filling, const SampleOptions& options,
              const std::function<bool(std::int64_t)>& progress) {
-    const Error stopped{u"Stopped; nothing of the sample was kept."_s};
+    const Error stopped = makeError<session_errors::sampleStopped>();
     SampleProcess wire(options);
     std::int64_t seen = 0;
     while (const auto line = wire.nextLine()) {
@@ -83,7 +82,7 @@ Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& option
     // The wire brings categories of its own; what it has no news in would be an empty list to choose.
     if (!removeDefaultCategories(store)) {
         filling.rollback();
-        return Error{u"The categories of the store could not be changed: %1"_s.arg(store.failure())};
+        return makeError<session_errors::categoriesNotChanged>(store.failure());
     }
     if (const Done taken = takeAll(filling, options, progress); !taken) {
         filling.rollback();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/sample_process.h"
 
+#include "terminal/session/session_errors.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
@@ -47,13 +49,13 @@ std::optional<QByteArray> SampleProcess::nextLine() {
 
 Done SampleProcess::end() {
     if (process.error() == QProcess::FailedToStart)
-        return Error{
-            u"The sample wire %1 cannot be started: %2"_s.arg(process.program(), process.errorString())};
+        return makeError<session_errors::sampleNotStarted>(process.program(), process.errorString());
     process.waitForFinished(noLimit);
     if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
         return Nothing{};
     const QString words = QString::fromLocal8Bit(process.readAllStandardError()).trimmed();
-    return Error{u"The sample wire broke off. %1"_s.arg(words).trimmed()};
+    return words.isEmpty() ? makeError<session_errors::sampleBrokeOffSilently>()
+                           : makeError<session_errors::sampleBrokeOff>(words);
 }
 
 }  // namespace wirepane

@@ -9,8 +9,10 @@
 #include "terminal/frame/symbol_box.h"
 #include "terminal/session/indexing_window.h"
 #include "terminal/session/module_location.h"
+#include "terminal/session/session_errors.h"
 #include "terminal/session/store_opening.h"
 #include "terminal/settings/module_files.h"
+#include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QDateTime>
@@ -112,7 +114,7 @@ Result<std::unique_ptr<Session>> Session::open(const SessionOptions& options) {
 
 Done Session::start(const SessionOptions& options) {
     if (!QDir().mkpath(configFolder))
-        return Error{u"The settings folder %1 cannot be made."_s.arg(configFolder)};
+        return makeError<session_errors::settingsFolderNotMade>(configFolder);
     const QString wanted = options.language.isEmpty() ? terminalSettings->language() : options.language;
     if (const Done opened = openStore(options, wanted); !opened)
         return opened;
@@ -224,11 +226,11 @@ Done Session::startFeed(const SessionOptions& options) {
     for (const SourceRequest& request : options.sources) {
         const SourceKind* kind = sourceKind(request.kind);
         if (kind == nullptr)
-            return Error{u"There is no kind of source called \"%1\"."_s.arg(request.kind)};
+            return makeError<session_errors::unknownSource>(request.kind);
         const Done opened = liveFeed->open(*kind, request.value);
         // Under the common name, another terminal may have been first.
         if (!opened && request.value == defaultFeedName)
-            feedNotice = sentence(opened.error());
+            feedNotice = shownText(opened.error());
         else if (!opened)
             return opened;
     }
@@ -238,7 +240,7 @@ Done Session::startFeed(const SessionOptions& options) {
 void Session::prepareModuleFiles() {
     // A view opens without them, too: without the tabs and the names that they would have given it.
     if (const Done written = writeSwitchesFile(configFolder, terminalSettings->switches()); !written)
-        mainFrame->showNotice(sentence(written.error()));
+        mainFrame->showNotice(shownText(written.error()));
     writeCategories();
 }
 
@@ -246,7 +248,7 @@ void Session::writeCategories() {
     const std::vector<CategoryName> names = categoryNames(*store);
     categoryWatch->know(names);
     if (const Done written = writeCategoryFile(configFolder, names); !written)
-        mainFrame->showNotice(sentence(written.error()));
+        mainFrame->showNotice(shownText(written.error()));
 }
 
 Result<OpenView*> Session::openView(ViewRequest request) {

@@ -5,6 +5,7 @@
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "terminal/session/sample_filling.h"
+#include "terminal/session/session_errors.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -18,7 +19,7 @@ namespace {
 Done makeFolderOf(const QString& file) {
     const QString folder = QFileInfo(file).absolutePath();
     if (!QDir().mkpath(folder))
-        return Error{u"The folder %1 cannot be made."_s.arg(folder)};
+        return makeError<session_errors::folderNotMade>(folder);
     return Nothing{};
 }
 
@@ -29,7 +30,7 @@ Done fillWhenNew(const QString& storeFile, const IndexProgress& onIndexing) {
         return openStoreToRead(storeFile) ? Done(Nothing{}) : Done(database.error());
     std::int64_t hasNews = 0;
     if (!database.value()->readNumber("SELECT EXISTS(SELECT 1 FROM headlines)", hasNews))
-        return Error{database.value()->failure()};
+        return database.value()->failure();
     if (hasNews != 0)
         return Nothing{};
     SampleOptions options;

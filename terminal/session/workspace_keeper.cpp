@@ -10,6 +10,7 @@
 #include "terminal/settings/layout_store.h"
 #include "terminal/settings/settings_file.h"
 #include "terminal/settings/terminal_settings.h"
+#include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QCoreApplication>
@@ -48,7 +49,7 @@ Done WorkspaceKeeper::restore() {
         if (opened)
             continue;
         failure = opened.error();
-        parts.frame.showNotice(terminalText(TextId::ViewFailed).arg(sentence(opened.error())));
+        parts.frame.showNotice(terminalText(TextId::ViewFailed).arg(shownText(opened.error())));
     }
     const std::vector<OpenView*> opened = parts.workspace.docked();
     if (opened.empty())
@@ -138,7 +139,7 @@ Done WorkspaceKeeper::save() {
 
 void WorkspaceKeeper::keep() {
     if (const Done saved = save(); !saved)
-        parts.frame.showNotice(sentence(saved.error()));
+        parts.frame.showNotice(shownText(saved.error()));
 }
 
 }  // namespace wirepane

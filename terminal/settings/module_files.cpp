@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/settings/module_files.h"
 
+#include "terminal/settings/settings_errors.h"
+
 #include <QDir>
 #include <QSaveFile>
 
@@ -27,7 +29,7 @@ Done writeFile(const QString& path, const QString& content) {
     // The settings folder's files are their owner's alone.
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     if (!opened || file.write(content.toUtf8()) < 0 || !file.commit())
-        return Error{u"The file %1 cannot be written: %2."_s.arg(path, file.errorString())};
+        return makeError<settings_errors::moduleFileNotWritten>(path, file.errorString());
     return Nothing{};
 }
 

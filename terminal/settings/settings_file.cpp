@@ -3,6 +3,7 @@
 #include "terminal/settings/settings_file.h"
 
 #include "terminal/settings/ini_settings.h"
+#include "terminal/settings/settings_errors.h"
 
 #include <QDir>
 #include <QFile>
@@ -117,12 +118,12 @@ void SettingsFile::removeGroups(const QString& beginning) {
 
 Done SettingsFile::save() {
     if (!readable)
-        return Error{u"The settings are not saved: the file %1 could not be read."_s.arg(path)};
+        return makeError<settings_errors::fileNotRead>(path);
     if (changes.empty())
         return Nothing{};
     const QFileInfo info(path);
     if (!QDir().mkpath(info.absolutePath()))
-        return Error{u"The settings are not saved: the folder %1 cannot be made."_s.arg(info.absolutePath())};
+        return makeError<settings_errors::folderNotMade>(info.absolutePath());
     const Done written = write();
     if (written)
         changes.clear();
@@ -130,7 +131,7 @@ Done SettingsFile::save() {
 }
 
 Done SettingsFile::write() {
-    const Error failure{u"The settings are not saved: the file %1 cannot be written."_s.arg(path)};
+    const Error failure = makeError<settings_errors::fileNotWritten>(path);
     QLockFile lock(path + u".lock"_s);
     if (!lock.tryLock(lockPatienceMs))
         return failure;

@@ -3,6 +3,122 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ERROR_COMMANDS_FILES_NOT_READ">
+        <source></source>
+        <translation>%1 of %2 files could not be read.</translation>
+    </message>
+    <message id="ERROR_COMMANDS_FILE_REJECTED">
+        <source></source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="ERROR_COMMANDS_IMPORT_STOPPED">
+        <source></source>
+        <translation>Stopped. The files taken in so far are kept; the same command goes on with the rest.</translation>
+    </message>
+    <message id="ERROR_COMMANDS_IMPORT_TOTALS">
+        <source></source>
+        <translation>%1 taken in, %2 already there, %3 rejected</translation>
+    </message>
+    <message id="ERROR_COMMANDS_ITEM_REJECTED">
+        <source></source>
+        <translation>%1: %2: %3</translation>
+    </message>
+    <message id="ERROR_COMMANDS_NOTHING_RECENT">
+        <source></source>
+        <translation>None of this news lies within the last 255 days. To see it, start the terminal with --now %1, or read as of that moment (Ctrl+G in the terminal).</translation>
+    </message>
+    <message id="ERROR_DATABASE_DAMAGED">
+        <source></source>
+        <translation>%1 is damaged (%2).</translation>
+    </message>
+    <message id="ERROR_DATABASE_DISK_FULL">
+        <source></source>
+        <translation>%1 cannot grow: the disk is full (%2).</translation>
+    </message>
+    <message id="ERROR_DATABASE_IN_USE">
+        <source></source>
+        <translation>%1 is being used by another program (%2).</translation>
+    </message>
+    <message id="ERROR_DATABASE_LOG_NEEDED">
+        <source></source>
+        <translation>%1 cannot be read without its log %2, for which its folder must be writable; copy both to one that is.</translation>
+    </message>
+    <message id="ERROR_DATABASE_MEMORY_IS_NO_FILE">
+        <source></source>
+        <translation>The news store is a file; ":memory:" names none.</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_ON_DISK">
+        <source></source>
+        <translation>%1 cannot be brought to its disk.</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_OPENED">
+        <source></source>
+        <translation>%1 cannot be opened (%2).</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_READ_OR_WRITTEN">
+        <source></source>
+        <translation>%1 cannot be read or written (%2).</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_USED">
+        <source></source>
+        <translation>%1 cannot be used (%2).</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_WRITTEN">
+        <source></source>
+        <translation>%1 cannot be written to (%2).</translation>
+    </message>
+    <message id="ERROR_DATABASE_NO_DATABASE">
+        <source></source>
+        <translation>%1 is not a news store, or is damaged at its start (%2).</translation>
+    </message>
+    <message id="ERROR_DATABASE_NO_FILE_NAMED">
+        <source></source>
+        <translation>No file is named for the news store.</translation>
+    </message>
+    <message id="ERROR_DATABASE_NO_MEMORY">
+        <source></source>
+        <translation>%1 cannot be opened: there is no memory left.</translation>
+    </message>
+    <message id="ERROR_DATABASE_ONLY_READ">
+        <source></source>
+        <translation>%1 can only be read: no news is taken in.</translation>
+    </message>
+    <message id="ERROR_DATABASE_SINGLE_BYTE">
+        <source></source>
+        <translation>%1 is not a news store (it holds a single byte).</translation>
+    </message>
+    <message id="ERROR_DATABASE_TAKEN_AWAY">
+        <source></source>
+        <translation>%1 was moved or deleted while it was open: no news is taken in until it is back or the program is started again.</translation>
+    </message>
+    <message id="ERROR_FEED_GREETING_NOT_FIRST">
+        <source></source>
+        <translation>A greeting can only be the first line.</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_FILE_TOO_LARGE">
+        <source></source>
+        <translation>The file is larger than %1 bytes.</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_FOLDER_LINKED">
+        <source></source>
+        <translation>The spool folder %1 cannot be used: %2 in it is a link.</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>The spool folder %1 cannot be used: the folder %2 in it cannot be made.</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_LINK">
+        <source></source>
+        <translation>This is a link; only files are taken.</translation>
+    </message>
+    <message id="ERROR_FEED_UNKNOWN_LINE">
+        <source></source>
+        <translation>The line holds no record of a known kind, and no greeting with a source.</translation>
+    </message>
+    <message id="ERROR_FRAME_UNKNOWN_VIEW">
+        <source></source>
+        <translation>The news module cannot make a view of the class %1.</translation>
+    </message>
     <message id="ERROR_IMPORT_AN_OBJECT">
         <source></source>
         <translation>an object</translation>
@@ -58,6 +174,10 @@
     <message id="ERROR_IMPORT_CATEGORY">
         <source></source>
         <translation>category</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_FIELD">
+        <source></source>
+        <translation>“%1” of the category %2.</translation>
     </message>
     <message id="ERROR_IMPORT_CATEGORY_ID">
         <source></source>
@@ -379,14 +499,6 @@
         <source></source>
         <translation>“%1” of the quote %2.</translation>
     </message>
-    <message id="ERROR_IMPORT_SYMBOL_FIELD">
-        <source></source>
-        <translation>“%1” of the symbol %2.</translation>
-    </message>
-    <message id="ERROR_IMPORT_CATEGORY_FIELD">
-        <source></source>
-        <translation>“%1” of the category %2.</translation>
-    </message>
     <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
         <source></source>
         <translation>A quote is opened and never closed; nothing behind it is read.</translation>
@@ -455,6 +567,10 @@
         <source></source>
         <translation>a set of concepts</translation>
     </message>
+    <message id="ERROR_IMPORT_SYMBOL_FIELD">
+        <source></source>
+        <translation>“%1” of the symbol %2.</translation>
+    </message>
     <message id="ERROR_IMPORT_SYMBOL_WITHOUT_NAME">
         <source></source>
         <translation>The symbol “%1” has no name.</translation>
@@ -514,6 +630,258 @@
     <message id="ERROR_IMPORT_XML_WITHOUT_ELEMENT">
         <source></source>
         <translation>The file looks like XML, but no element is found at its start.</translation>
+    </message>
+    <message id="ERROR_LINES_FOLDER_HELD">
+        <source></source>
+        <translation>its folder is not there, or another program holds it</translation>
+    </message>
+    <message id="ERROR_LINES_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>The folder %1 for local sockets cannot be made: %2.</translation>
+    </message>
+    <message id="ERROR_LINES_FOLDER_NOT_OWN">
+        <source></source>
+        <translation>The folder %1 for local sockets is not this user's alone.</translation>
+    </message>
+    <message id="ERROR_LINES_NO_SOCKET">
+        <source></source>
+        <translation>there is something of this name that is no socket</translation>
+    </message>
+    <message id="ERROR_LINES_PATH_TOO_LONG">
+        <source></source>
+        <translation>the path is longer than %1 bytes</translation>
+    </message>
+    <message id="ERROR_LINES_SOCKET_IN_USE">
+        <source></source>
+        <translation>it is in use by another program</translation>
+    </message>
+    <message id="ERROR_LINES_SOCKET_NOT_OPENED">
+        <source></source>
+        <translation>The local socket %1 cannot be opened: %2.</translation>
+    </message>
+    <message id="ERROR_LINES_SOCKET_OF_OTHER">
+        <source></source>
+        <translation>it belongs to another user</translation>
+    </message>
+    <message id="ERROR_LINES_SYSTEM_SAYS">
+        <source></source>
+        <translation>%1</translation>
+    </message>
+    <message id="ERROR_SESSION_CATEGORIES_NOT_CHANGED">
+        <source></source>
+        <translation>The categories of the store could not be changed: %1</translation>
+    </message>
+    <message id="ERROR_SESSION_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>The folder %1 cannot be made.</translation>
+    </message>
+    <message id="ERROR_SESSION_GUIDE_MISSING">
+        <source></source>
+        <translation>The guide %1 is missing.</translation>
+    </message>
+    <message id="ERROR_SESSION_MODULE_NOT_FOUND">
+        <source></source>
+        <translation>The news module %1 was found neither in %2 nor in %3.</translation>
+    </message>
+    <message id="ERROR_SESSION_MODULE_NOT_LOADED">
+        <source></source>
+        <translation>%1</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_BROKE_OFF">
+        <source></source>
+        <translation>The sample wire broke off. %1</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_BROKE_OFF_SILENTLY">
+        <source></source>
+        <translation>The sample wire broke off.</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_NOT_STARTED">
+        <source></source>
+        <translation>The sample wire %1 cannot be started: %2</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_NOT_TAKEN">
+        <source></source>
+        <translation>The sample wire does not fit into this store: %1</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_STOPPED">
+        <source></source>
+        <translation>Stopped; nothing of the sample was kept.</translation>
+    </message>
+    <message id="ERROR_SESSION_SETTINGS_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>The settings folder %1 cannot be made.</translation>
+    </message>
+    <message id="ERROR_SESSION_UNKNOWN_SOURCE">
+        <source></source>
+        <translation>There is no kind of source called "%1".</translation>
+    </message>
+    <message id="ERROR_SETTINGS_FILE_NOT_READ">
+        <source></source>
+        <translation>The settings are not saved: the file %1 could not be read.</translation>
+    </message>
+    <message id="ERROR_SETTINGS_FILE_NOT_WRITTEN">
+        <source></source>
+        <translation>The settings are not saved: the file %1 cannot be written.</translation>
+    </message>
+    <message id="ERROR_SETTINGS_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>The settings are not saved: the folder %1 cannot be made.</translation>
+    </message>
+    <message id="ERROR_SETTINGS_MODULE_FILE_NOT_WRITTEN">
+        <source></source>
+        <translation>The file %1 cannot be written: %2.</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY">
+        <source></source>
+        <translation>category</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_HAS_ID">
+        <source></source>
+        <translation>The category "%1" has the id %2 already; it cannot have the id %3 too.</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_ID_TOO_SMALL">
+        <source></source>
+        <translation>The category has the id %1; ids count from 1 on.</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_WITHOUT_NAME">
+        <source></source>
+        <translation>The category has no name.</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_WITHOUT_SERVICE">
+        <source></source>
+        <translation>The category belongs to no news service.</translation>
+    </message>
+    <message id="ERROR_STORE_CHANGE_OUT_OF_RANGE">
+        <source></source>
+        <translation>The change of %1 is not a number, or larger than its last price.</translation>
+    </message>
+    <message id="ERROR_STORE_CODE_OF_SYMBOL">
+        <source></source>
+        <translation>code of a symbol</translation>
+    </message>
+    <message id="ERROR_STORE_EMPTY">
+        <source></source>
+        <translation>%1 is empty: there is no news store in it.</translation>
+    </message>
+    <message id="ERROR_STORE_IDENTITY">
+        <source></source>
+        <translation>identity</translation>
+    </message>
+    <message id="ERROR_STORE_LAST_PRICE_OUT_OF_RANGE">
+        <source></source>
+        <translation>The last price of %1 is not a number from 0 to %2.</translation>
+    </message>
+    <message id="ERROR_STORE_NAME_OF_SYMBOL">
+        <source></source>
+        <translation>name of the symbol</translation>
+    </message>
+    <message id="ERROR_STORE_NEWER_VERSION">
+        <source></source>
+        <translation>%1 was written by a newer version of the program (store version %2; this one reads up to %3).</translation>
+    </message>
+    <message id="ERROR_STORE_NEWS">
+        <source></source>
+        <translation>news</translation>
+    </message>
+    <message id="ERROR_STORE_NEWS_GONE">
+        <source></source>
+        <translation>The news is no longer in the store.</translation>
+    </message>
+    <message id="ERROR_STORE_NOTHING_BEGUN">
+        <source></source>
+        <translation>Nothing was begun that the %1 could be part of.</translation>
+    </message>
+    <message id="ERROR_STORE_NOTHING_TO_KEEP">
+        <source></source>
+        <translation>Nothing was begun that could be kept.</translation>
+    </message>
+    <message id="ERROR_STORE_NOT_WRITABLE">
+        <source></source>
+        <translation>%1 cannot be written to: the file or its folder is read-only.</translation>
+    </message>
+    <message id="ERROR_STORE_NO_COLOUR">
+        <source></source>
+        <translation>The colour "%1" is not of the form #rrggbb.</translation>
+    </message>
+    <message id="ERROR_STORE_NO_HEADLINE">
+        <source></source>
+        <translation>There is no headline with this key.</translation>
+    </message>
+    <message id="ERROR_STORE_NO_IDENTITY">
+        <source></source>
+        <translation>It has no identity.</translation>
+    </message>
+    <message id="ERROR_STORE_NO_NUMBER_LEFT">
+        <source></source>
+        <translation>No sequence number is left on its day.</translation>
+    </message>
+    <message id="ERROR_STORE_NO_SERVICE">
+        <source></source>
+        <translation>It belongs to no news service.</translation>
+    </message>
+    <message id="ERROR_STORE_NUMBER_TAKEN">
+        <source></source>
+        <translation>Its sequence number %1 belongs to another headline of that service and day.</translation>
+    </message>
+    <message id="ERROR_STORE_OLDER_VERSION">
+        <source></source>
+        <translation>%1 is of version %2; the program brings it up to version %3 when it opens it.</translation>
+    </message>
+    <message id="ERROR_STORE_OTHER_DATABASE">
+        <source></source>
+        <translation>%1 is a database, but not a news store.</translation>
+    </message>
+    <message id="ERROR_STORE_POSITION">
+        <source></source>
+        <translation>position</translation>
+    </message>
+    <message id="ERROR_STORE_QUOTE">
+        <source></source>
+        <translation>quote</translation>
+    </message>
+    <message id="ERROR_STORE_QUOTE_WITHOUT_MARKET">
+        <source></source>
+        <translation>The quote belongs to no market.</translation>
+    </message>
+    <message id="ERROR_STORE_STORY">
+        <source></source>
+        <translation>story</translation>
+    </message>
+    <message id="ERROR_STORE_SYMBOL">
+        <source></source>
+        <translation>symbol</translation>
+    </message>
+    <message id="ERROR_STORE_SYMBOL_WITHOUT_CODE">
+        <source></source>
+        <translation>A symbol has no code.</translation>
+    </message>
+    <message id="ERROR_STORE_SYMBOL_WITHOUT_MARKET">
+        <source></source>
+        <translation>The symbol belongs to no market.</translation>
+    </message>
+    <message id="ERROR_STORE_TIME_OUT_OF_RANGE">
+        <source></source>
+        <translation>Its time (%1 seconds since 1970) does not lie within the years 1900 to 9999.</translation>
+    </message>
+    <message id="ERROR_STORE_TITLE">
+        <source></source>
+        <translation>title</translation>
+    </message>
+    <message id="ERROR_STORE_TITLE_EMPTY">
+        <source></source>
+        <translation>The title is empty.</translation>
+    </message>
+    <message id="ERROR_STORE_TOO_LONG">
+        <source></source>
+        <translation>The %1 has %2 characters; at most %3 are taken.</translation>
+    </message>
+    <message id="ERROR_STORE_TOO_MANY_SYMBOLS">
+        <source></source>
+        <translation>It names %1 related symbols; at most %2 are taken.</translation>
+    </message>
+    <message id="ERROR_STORE_VOLUME_OUT_OF_RANGE">
+        <source></source>
+        <translation>The volume of %1 is not a number from 0 to %2.</translation>
     </message>
     <message id="IDC_BASEVIEW-STRING_NO_DATA">
         <source></source>

@@ -3,6 +3,122 @@
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ERROR_COMMANDS_FILES_NOT_READ">
+        <source></source>
+        <translation>%2 个文件中有 %1 个无法读取。</translation>
+    </message>
+    <message id="ERROR_COMMANDS_FILE_REJECTED">
+        <source></source>
+        <translation>%1：%2</translation>
+    </message>
+    <message id="ERROR_COMMANDS_IMPORT_STOPPED">
+        <source></source>
+        <translation>已停止。已导入的文件会保留；再次导入相同文件即可继续。</translation>
+    </message>
+    <message id="ERROR_COMMANDS_IMPORT_TOTALS">
+        <source></source>
+        <translation>已导入 %1 条，已存在 %2 条，未能导入 %3 条</translation>
+    </message>
+    <message id="ERROR_COMMANDS_ITEM_REJECTED">
+        <source></source>
+        <translation>%1：%2：%3</translation>
+    </message>
+    <message id="ERROR_COMMANDS_NOTHING_RECENT">
+        <source></source>
+        <translation>这些新闻都不在最近 255 天之内。若要查看，请以 --now %1 启动终端，或使用“指定时点阅读”（在终端中按 Ctrl+G）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_DAMAGED">
+        <source></source>
+        <translation>%1 已损坏（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_DISK_FULL">
+        <source></source>
+        <translation>磁盘空间不足，无法扩展 %1（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_IN_USE">
+        <source></source>
+        <translation>%1 正被其他程序使用（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_LOG_NEEDED">
+        <source></source>
+        <translation>读取 %1 需要其日志文件 %2，因此所在文件夹必须可写入；请将两者复制到可写入的文件夹。</translation>
+    </message>
+    <message id="ERROR_DATABASE_MEMORY_IS_NO_FILE">
+        <source></source>
+        <translation>新闻数据库必须是文件；“:memory:”不是文件。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_ON_DISK">
+        <source></source>
+        <translation>无法将 %1 写入磁盘。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_OPENED">
+        <source></source>
+        <translation>无法打开 %1（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_READ_OR_WRITTEN">
+        <source></source>
+        <translation>无法读取或写入 %1（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_USED">
+        <source></source>
+        <translation>无法使用 %1（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_WRITTEN">
+        <source></source>
+        <translation>无法写入 %1（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NO_DATABASE">
+        <source></source>
+        <translation>%1 不是新闻数据库，或文件开头已损坏（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NO_FILE_NAMED">
+        <source></source>
+        <translation>未指定新闻数据库文件。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NO_MEMORY">
+        <source></source>
+        <translation>无法打开 %1：内存不足。</translation>
+    </message>
+    <message id="ERROR_DATABASE_ONLY_READ">
+        <source></source>
+        <translation>%1 为只读，不会接收任何新闻。</translation>
+    </message>
+    <message id="ERROR_DATABASE_SINGLE_BYTE">
+        <source></source>
+        <translation>%1 不是新闻数据库（文件只有一个字节）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_TAKEN_AWAY">
+        <source></source>
+        <translation>%1 在使用期间已被移动或删除；还原该文件或重新启动程序之前，不会接收任何新闻。</translation>
+    </message>
+    <message id="ERROR_FEED_GREETING_NOT_FIRST">
+        <source></source>
+        <translation>问候行只能是第一行。</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_FILE_TOO_LARGE">
+        <source></source>
+        <translation>文件超过 %1 字节。</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_FOLDER_LINKED">
+        <source></source>
+        <translation>无法使用收件文件夹 %1：其中的 %2 是链接。</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>无法使用收件文件夹 %1：无法在其中创建文件夹 %2。</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_LINK">
+        <source></source>
+        <translation>这是链接；只接受文件。</translation>
+    </message>
+    <message id="ERROR_FEED_UNKNOWN_LINE">
+        <source></source>
+        <translation>此行没有已知类型的记录，也没有注明来源的问候行。</translation>
+    </message>
+    <message id="ERROR_FRAME_UNKNOWN_VIEW">
+        <source></source>
+        <translation>新闻模块无法创建类别为 %1 的窗口。</translation>
+    </message>
     <message id="ERROR_IMPORT_AN_OBJECT">
         <source></source>
         <translation>对象</translation>
@@ -58,6 +174,10 @@
     <message id="ERROR_IMPORT_CATEGORY">
         <source></source>
         <translation>分类</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_FIELD">
+        <source></source>
+        <translation>类别的“%1”%2。</translation>
     </message>
     <message id="ERROR_IMPORT_CATEGORY_ID">
         <source></source>
@@ -379,14 +499,6 @@
         <source></source>
         <translation>报价的“%1”%2。</translation>
     </message>
-    <message id="ERROR_IMPORT_SYMBOL_FIELD">
-        <source></source>
-        <translation>代码的“%1”%2。</translation>
-    </message>
-    <message id="ERROR_IMPORT_CATEGORY_FIELD">
-        <source></source>
-        <translation>类别的“%1”%2。</translation>
-    </message>
     <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
         <source></source>
         <translation>引号未成对，其后的内容均未读取。</translation>
@@ -455,6 +567,10 @@
         <source></source>
         <translation>概念集</translation>
     </message>
+    <message id="ERROR_IMPORT_SYMBOL_FIELD">
+        <source></source>
+        <translation>代码的“%1”%2。</translation>
+    </message>
     <message id="ERROR_IMPORT_SYMBOL_WITHOUT_NAME">
         <source></source>
         <translation>品种“%1”没有名称。</translation>
@@ -514,6 +630,258 @@
     <message id="ERROR_IMPORT_XML_WITHOUT_ELEMENT">
         <source></source>
         <translation>文件看似 XML，但开头找不到任何元素。</translation>
+    </message>
+    <message id="ERROR_LINES_FOLDER_HELD">
+        <source></source>
+        <translation>文件夹不存在，或正被其他程序占用</translation>
+    </message>
+    <message id="ERROR_LINES_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>无法创建本地套接字文件夹 %1：%2。</translation>
+    </message>
+    <message id="ERROR_LINES_FOLDER_NOT_OWN">
+        <source></source>
+        <translation>本地套接字文件夹 %1 不是此用户专用。</translation>
+    </message>
+    <message id="ERROR_LINES_NO_SOCKET">
+        <source></source>
+        <translation>已有同名的项目，且不是套接字</translation>
+    </message>
+    <message id="ERROR_LINES_PATH_TOO_LONG">
+        <source></source>
+        <translation>路径超过 %1 字节</translation>
+    </message>
+    <message id="ERROR_LINES_SOCKET_IN_USE">
+        <source></source>
+        <translation>正被其他程序使用</translation>
+    </message>
+    <message id="ERROR_LINES_SOCKET_NOT_OPENED">
+        <source></source>
+        <translation>无法打开本地套接字 %1：%2。</translation>
+    </message>
+    <message id="ERROR_LINES_SOCKET_OF_OTHER">
+        <source></source>
+        <translation>属于其他用户</translation>
+    </message>
+    <message id="ERROR_LINES_SYSTEM_SAYS">
+        <source></source>
+        <translation>%1</translation>
+    </message>
+    <message id="ERROR_SESSION_CATEGORIES_NOT_CHANGED">
+        <source></source>
+        <translation>无法更改数据库中的分类：%1</translation>
+    </message>
+    <message id="ERROR_SESSION_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>无法创建文件夹 %1。</translation>
+    </message>
+    <message id="ERROR_SESSION_GUIDE_MISSING">
+        <source></source>
+        <translation>找不到使用说明 %1。</translation>
+    </message>
+    <message id="ERROR_SESSION_MODULE_NOT_FOUND">
+        <source></source>
+        <translation>在 %2 和 %3 中都找不到新闻模块 %1。</translation>
+    </message>
+    <message id="ERROR_SESSION_MODULE_NOT_LOADED">
+        <source></source>
+        <translation>%1</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_BROKE_OFF">
+        <source></source>
+        <translation>示例新闻程序中断。%1</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_BROKE_OFF_SILENTLY">
+        <source></source>
+        <translation>示例新闻程序中断。</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_NOT_STARTED">
+        <source></source>
+        <translation>无法启动示例新闻程序 %1：%2</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_NOT_TAKEN">
+        <source></source>
+        <translation>示例新闻无法存入此数据库：%1</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_STOPPED">
+        <source></source>
+        <translation>已停止；未保留任何示例新闻。</translation>
+    </message>
+    <message id="ERROR_SESSION_SETTINGS_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>无法创建设置文件夹 %1。</translation>
+    </message>
+    <message id="ERROR_SESSION_UNKNOWN_SOURCE">
+        <source></source>
+        <translation>没有名为“%1”的来源类型。</translation>
+    </message>
+    <message id="ERROR_SETTINGS_FILE_NOT_READ">
+        <source></source>
+        <translation>设置未保存：无法读取文件 %1。</translation>
+    </message>
+    <message id="ERROR_SETTINGS_FILE_NOT_WRITTEN">
+        <source></source>
+        <translation>设置未保存：无法写入文件 %1。</translation>
+    </message>
+    <message id="ERROR_SETTINGS_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>设置未保存：无法创建文件夹 %1。</translation>
+    </message>
+    <message id="ERROR_SETTINGS_MODULE_FILE_NOT_WRITTEN">
+        <source></source>
+        <translation>无法写入文件 %1：%2。</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY">
+        <source></source>
+        <translation>分类</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_HAS_ID">
+        <source></source>
+        <translation>分类“%1”的编号已是 %2，不能再使用编号 %3。</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_ID_TOO_SMALL">
+        <source></source>
+        <translation>分类编号为 %1；编号必须从 1 开始。</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_WITHOUT_NAME">
+        <source></source>
+        <translation>分类没有名称。</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_WITHOUT_SERVICE">
+        <source></source>
+        <translation>分类不属于任何新闻服务。</translation>
+    </message>
+    <message id="ERROR_STORE_CHANGE_OUT_OF_RANGE">
+        <source></source>
+        <translation>%1 的涨跌不是数字，或大于其成交价。</translation>
+    </message>
+    <message id="ERROR_STORE_CODE_OF_SYMBOL">
+        <source></source>
+        <translation>品种代码</translation>
+    </message>
+    <message id="ERROR_STORE_EMPTY">
+        <source></source>
+        <translation>%1 为空：其中没有新闻数据库。</translation>
+    </message>
+    <message id="ERROR_STORE_IDENTITY">
+        <source></source>
+        <translation>标识</translation>
+    </message>
+    <message id="ERROR_STORE_LAST_PRICE_OUT_OF_RANGE">
+        <source></source>
+        <translation>%1 的成交价不是 0 到 %2 的数字。</translation>
+    </message>
+    <message id="ERROR_STORE_NAME_OF_SYMBOL">
+        <source></source>
+        <translation>品种名称</translation>
+    </message>
+    <message id="ERROR_STORE_NEWER_VERSION">
+        <source></source>
+        <translation>%1 由较新版本的程序写入（数据库版本 %2；本程序最高支持版本 %3）。</translation>
+    </message>
+    <message id="ERROR_STORE_NEWS">
+        <source></source>
+        <translation>新闻</translation>
+    </message>
+    <message id="ERROR_STORE_NEWS_GONE">
+        <source></source>
+        <translation>该新闻已不在数据库中。</translation>
+    </message>
+    <message id="ERROR_STORE_NOTHING_BEGUN">
+        <source></source>
+        <translation>尚未开始事务，无法加入%1。</translation>
+    </message>
+    <message id="ERROR_STORE_NOTHING_TO_KEEP">
+        <source></source>
+        <translation>尚未开始事务，无法提交。</translation>
+    </message>
+    <message id="ERROR_STORE_NOT_WRITABLE">
+        <source></source>
+        <translation>无法写入 %1：文件或其文件夹为只读。</translation>
+    </message>
+    <message id="ERROR_STORE_NO_COLOUR">
+        <source></source>
+        <translation>颜色“%1”不符合 #rrggbb 格式。</translation>
+    </message>
+    <message id="ERROR_STORE_NO_HEADLINE">
+        <source></source>
+        <translation>没有此键值的标题。</translation>
+    </message>
+    <message id="ERROR_STORE_NO_IDENTITY">
+        <source></source>
+        <translation>没有标识。</translation>
+    </message>
+    <message id="ERROR_STORE_NO_NUMBER_LEFT">
+        <source></source>
+        <translation>当日的序号已用尽。</translation>
+    </message>
+    <message id="ERROR_STORE_NO_SERVICE">
+        <source></source>
+        <translation>不属于任何新闻服务。</translation>
+    </message>
+    <message id="ERROR_STORE_NUMBER_TAKEN">
+        <source></source>
+        <translation>序号 %1 已被该新闻服务当日的另一条标题使用。</translation>
+    </message>
+    <message id="ERROR_STORE_OLDER_VERSION">
+        <source></source>
+        <translation>%1 为版本 %2；程序打开时会将其升级到版本 %3。</translation>
+    </message>
+    <message id="ERROR_STORE_OTHER_DATABASE">
+        <source></source>
+        <translation>%1 是数据库，但不是新闻数据库。</translation>
+    </message>
+    <message id="ERROR_STORE_POSITION">
+        <source></source>
+        <translation>位置</translation>
+    </message>
+    <message id="ERROR_STORE_QUOTE">
+        <source></source>
+        <translation>报价</translation>
+    </message>
+    <message id="ERROR_STORE_QUOTE_WITHOUT_MARKET">
+        <source></source>
+        <translation>报价不属于任何市场。</translation>
+    </message>
+    <message id="ERROR_STORE_STORY">
+        <source></source>
+        <translation>正文</translation>
+    </message>
+    <message id="ERROR_STORE_SYMBOL">
+        <source></source>
+        <translation>品种</translation>
+    </message>
+    <message id="ERROR_STORE_SYMBOL_WITHOUT_CODE">
+        <source></source>
+        <translation>有品种没有代码。</translation>
+    </message>
+    <message id="ERROR_STORE_SYMBOL_WITHOUT_MARKET">
+        <source></source>
+        <translation>品种不属于任何市场。</translation>
+    </message>
+    <message id="ERROR_STORE_TIME_OUT_OF_RANGE">
+        <source></source>
+        <translation>时间（自 1970 年起 %1 秒）不在 1900 至 9999 年之间。</translation>
+    </message>
+    <message id="ERROR_STORE_TITLE">
+        <source></source>
+        <translation>标题</translation>
+    </message>
+    <message id="ERROR_STORE_TITLE_EMPTY">
+        <source></source>
+        <translation>标题为空。</translation>
+    </message>
+    <message id="ERROR_STORE_TOO_LONG">
+        <source></source>
+        <translation>%1有 %2 个字符，上限为 %3 个。</translation>
+    </message>
+    <message id="ERROR_STORE_TOO_MANY_SYMBOLS">
+        <source></source>
+        <translation>列有 %1 个相关品种，上限为 %2 个。</translation>
+    </message>
+    <message id="ERROR_STORE_VOLUME_OUT_OF_RANGE">
+        <source></source>
+        <translation>%1 的成交量不是 0 到 %2 的数字。</translation>
     </message>
     <message id="IDC_BASEVIEW-STRING_NO_DATA">
         <source></source>

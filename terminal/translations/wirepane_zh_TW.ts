@@ -3,6 +3,122 @@
 <TS version="2.1" language="zh_TW" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ERROR_COMMANDS_FILES_NOT_READ">
+        <source></source>
+        <translation>%2 個檔案中有 %1 個無法讀取。</translation>
+    </message>
+    <message id="ERROR_COMMANDS_FILE_REJECTED">
+        <source></source>
+        <translation>%1：%2</translation>
+    </message>
+    <message id="ERROR_COMMANDS_IMPORT_STOPPED">
+        <source></source>
+        <translation>已停止。已匯入的檔案會保留；再次匯入相同檔案即可繼續。</translation>
+    </message>
+    <message id="ERROR_COMMANDS_IMPORT_TOTALS">
+        <source></source>
+        <translation>已匯入 %1 筆，已存在 %2 筆，未能匯入 %3 筆</translation>
+    </message>
+    <message id="ERROR_COMMANDS_ITEM_REJECTED">
+        <source></source>
+        <translation>%1：%2：%3</translation>
+    </message>
+    <message id="ERROR_COMMANDS_NOTHING_RECENT">
+        <source></source>
+        <translation>這些新聞都不在最近 255 天之內。若要檢視，請以 --now %1 啟動終端機，或使用「指定時點閱讀」（在終端機中按 Ctrl+G）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_DAMAGED">
+        <source></source>
+        <translation>%1 已損毀（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_DISK_FULL">
+        <source></source>
+        <translation>磁碟空間不足，無法擴充 %1（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_IN_USE">
+        <source></source>
+        <translation>%1 正由其他程式使用中（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_LOG_NEEDED">
+        <source></source>
+        <translation>讀取 %1 需要其日誌檔 %2，因此所在資料夾必須可寫入；請將兩者複製到可寫入的資料夾。</translation>
+    </message>
+    <message id="ERROR_DATABASE_MEMORY_IS_NO_FILE">
+        <source></source>
+        <translation>新聞資料庫必須是檔案；「:memory:」不是檔案。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_ON_DISK">
+        <source></source>
+        <translation>無法將 %1 寫入磁碟。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_OPENED">
+        <source></source>
+        <translation>無法開啟 %1（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_READ_OR_WRITTEN">
+        <source></source>
+        <translation>無法讀取或寫入 %1（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_USED">
+        <source></source>
+        <translation>無法使用 %1（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NOT_WRITTEN">
+        <source></source>
+        <translation>無法寫入 %1（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NO_DATABASE">
+        <source></source>
+        <translation>%1 不是新聞資料庫，或檔案開頭已損毀（%2）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NO_FILE_NAMED">
+        <source></source>
+        <translation>未指定新聞資料庫檔案。</translation>
+    </message>
+    <message id="ERROR_DATABASE_NO_MEMORY">
+        <source></source>
+        <translation>無法開啟 %1：記憶體不足。</translation>
+    </message>
+    <message id="ERROR_DATABASE_ONLY_READ">
+        <source></source>
+        <translation>%1 為唯讀，不會接收任何新聞。</translation>
+    </message>
+    <message id="ERROR_DATABASE_SINGLE_BYTE">
+        <source></source>
+        <translation>%1 不是新聞資料庫（檔案只有一個位元組）。</translation>
+    </message>
+    <message id="ERROR_DATABASE_TAKEN_AWAY">
+        <source></source>
+        <translation>%1 在使用期間已被移動或刪除；還原該檔案或重新啟動程式之前，不會接收任何新聞。</translation>
+    </message>
+    <message id="ERROR_FEED_GREETING_NOT_FIRST">
+        <source></source>
+        <translation>問候行只能是第一行。</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_FILE_TOO_LARGE">
+        <source></source>
+        <translation>檔案超過 %1 位元組。</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_FOLDER_LINKED">
+        <source></source>
+        <translation>無法使用收件資料夾 %1：其中的 %2 是連結。</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>無法使用收件資料夾 %1：無法在其中建立資料夾 %2。</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_LINK">
+        <source></source>
+        <translation>這是連結；只接受檔案。</translation>
+    </message>
+    <message id="ERROR_FEED_UNKNOWN_LINE">
+        <source></source>
+        <translation>此行沒有已知類型的記錄，也沒有註明來源的問候行。</translation>
+    </message>
+    <message id="ERROR_FRAME_UNKNOWN_VIEW">
+        <source></source>
+        <translation>新聞模組無法建立類別為 %1 的視窗。</translation>
+    </message>
     <message id="ERROR_IMPORT_AN_OBJECT">
         <source></source>
         <translation>物件</translation>
@@ -58,6 +174,10 @@
     <message id="ERROR_IMPORT_CATEGORY">
         <source></source>
         <translation>分類</translation>
+    </message>
+    <message id="ERROR_IMPORT_CATEGORY_FIELD">
+        <source></source>
+        <translation>類別的「%1」%2。</translation>
     </message>
     <message id="ERROR_IMPORT_CATEGORY_ID">
         <source></source>
@@ -379,14 +499,6 @@
         <source></source>
         <translation>報價的「%1」%2。</translation>
     </message>
-    <message id="ERROR_IMPORT_SYMBOL_FIELD">
-        <source></source>
-        <translation>代碼的「%1」%2。</translation>
-    </message>
-    <message id="ERROR_IMPORT_CATEGORY_FIELD">
-        <source></source>
-        <translation>類別的「%1」%2。</translation>
-    </message>
     <message id="ERROR_IMPORT_QUOTE_NOT_CLOSED">
         <source></source>
         <translation>引號未成對，其後的內容均未讀取。</translation>
@@ -455,6 +567,10 @@
         <source></source>
         <translation>概念集</translation>
     </message>
+    <message id="ERROR_IMPORT_SYMBOL_FIELD">
+        <source></source>
+        <translation>代碼的「%1」%2。</translation>
+    </message>
     <message id="ERROR_IMPORT_SYMBOL_WITHOUT_NAME">
         <source></source>
         <translation>商品「%1」沒有名稱。</translation>
@@ -514,6 +630,258 @@
     <message id="ERROR_IMPORT_XML_WITHOUT_ELEMENT">
         <source></source>
         <translation>檔案看似 XML，但開頭找不到任何元素。</translation>
+    </message>
+    <message id="ERROR_LINES_FOLDER_HELD">
+        <source></source>
+        <translation>資料夾不存在，或正由其他程式占用</translation>
+    </message>
+    <message id="ERROR_LINES_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>無法建立本機通訊端資料夾 %1：%2。</translation>
+    </message>
+    <message id="ERROR_LINES_FOLDER_NOT_OWN">
+        <source></source>
+        <translation>本機通訊端資料夾 %1 並非此使用者專用。</translation>
+    </message>
+    <message id="ERROR_LINES_NO_SOCKET">
+        <source></source>
+        <translation>已有同名的項目，且不是通訊端</translation>
+    </message>
+    <message id="ERROR_LINES_PATH_TOO_LONG">
+        <source></source>
+        <translation>路徑超過 %1 位元組</translation>
+    </message>
+    <message id="ERROR_LINES_SOCKET_IN_USE">
+        <source></source>
+        <translation>正由其他程式使用中</translation>
+    </message>
+    <message id="ERROR_LINES_SOCKET_NOT_OPENED">
+        <source></source>
+        <translation>無法開啟本機通訊端 %1：%2。</translation>
+    </message>
+    <message id="ERROR_LINES_SOCKET_OF_OTHER">
+        <source></source>
+        <translation>屬於其他使用者</translation>
+    </message>
+    <message id="ERROR_LINES_SYSTEM_SAYS">
+        <source></source>
+        <translation>%1</translation>
+    </message>
+    <message id="ERROR_SESSION_CATEGORIES_NOT_CHANGED">
+        <source></source>
+        <translation>無法變更資料庫中的分類：%1</translation>
+    </message>
+    <message id="ERROR_SESSION_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>無法建立資料夾 %1。</translation>
+    </message>
+    <message id="ERROR_SESSION_GUIDE_MISSING">
+        <source></source>
+        <translation>找不到使用說明 %1。</translation>
+    </message>
+    <message id="ERROR_SESSION_MODULE_NOT_FOUND">
+        <source></source>
+        <translation>在 %2 與 %3 中都找不到新聞模組 %1。</translation>
+    </message>
+    <message id="ERROR_SESSION_MODULE_NOT_LOADED">
+        <source></source>
+        <translation>%1</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_BROKE_OFF">
+        <source></source>
+        <translation>範例新聞程式中斷。%1</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_BROKE_OFF_SILENTLY">
+        <source></source>
+        <translation>範例新聞程式中斷。</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_NOT_STARTED">
+        <source></source>
+        <translation>無法啟動範例新聞程式 %1：%2</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_NOT_TAKEN">
+        <source></source>
+        <translation>範例新聞無法存入此資料庫：%1</translation>
+    </message>
+    <message id="ERROR_SESSION_SAMPLE_STOPPED">
+        <source></source>
+        <translation>已停止；未保留任何範例新聞。</translation>
+    </message>
+    <message id="ERROR_SESSION_SETTINGS_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>無法建立設定資料夾 %1。</translation>
+    </message>
+    <message id="ERROR_SESSION_UNKNOWN_SOURCE">
+        <source></source>
+        <translation>沒有名為「%1」的來源類型。</translation>
+    </message>
+    <message id="ERROR_SETTINGS_FILE_NOT_READ">
+        <source></source>
+        <translation>設定未儲存：無法讀取檔案 %1。</translation>
+    </message>
+    <message id="ERROR_SETTINGS_FILE_NOT_WRITTEN">
+        <source></source>
+        <translation>設定未儲存：無法寫入檔案 %1。</translation>
+    </message>
+    <message id="ERROR_SETTINGS_FOLDER_NOT_MADE">
+        <source></source>
+        <translation>設定未儲存：無法建立資料夾 %1。</translation>
+    </message>
+    <message id="ERROR_SETTINGS_MODULE_FILE_NOT_WRITTEN">
+        <source></source>
+        <translation>無法寫入檔案 %1：%2。</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY">
+        <source></source>
+        <translation>分類</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_HAS_ID">
+        <source></source>
+        <translation>分類「%1」的編號已是 %2，不能再使用編號 %3。</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_ID_TOO_SMALL">
+        <source></source>
+        <translation>分類編號為 %1；編號必須從 1 開始。</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_WITHOUT_NAME">
+        <source></source>
+        <translation>分類沒有名稱。</translation>
+    </message>
+    <message id="ERROR_STORE_CATEGORY_WITHOUT_SERVICE">
+        <source></source>
+        <translation>分類不屬於任何新聞服務。</translation>
+    </message>
+    <message id="ERROR_STORE_CHANGE_OUT_OF_RANGE">
+        <source></source>
+        <translation>%1 的漲跌不是數字，或大於其成交價。</translation>
+    </message>
+    <message id="ERROR_STORE_CODE_OF_SYMBOL">
+        <source></source>
+        <translation>商品代碼</translation>
+    </message>
+    <message id="ERROR_STORE_EMPTY">
+        <source></source>
+        <translation>%1 是空的：其中沒有新聞資料庫。</translation>
+    </message>
+    <message id="ERROR_STORE_IDENTITY">
+        <source></source>
+        <translation>識別碼</translation>
+    </message>
+    <message id="ERROR_STORE_LAST_PRICE_OUT_OF_RANGE">
+        <source></source>
+        <translation>%1 的成交價不是 0 到 %2 的數字。</translation>
+    </message>
+    <message id="ERROR_STORE_NAME_OF_SYMBOL">
+        <source></source>
+        <translation>商品名稱</translation>
+    </message>
+    <message id="ERROR_STORE_NEWER_VERSION">
+        <source></source>
+        <translation>%1 由較新版本的程式寫入（資料庫版本 %2；此程式最高支援版本 %3）。</translation>
+    </message>
+    <message id="ERROR_STORE_NEWS">
+        <source></source>
+        <translation>新聞</translation>
+    </message>
+    <message id="ERROR_STORE_NEWS_GONE">
+        <source></source>
+        <translation>此新聞已不在資料庫中。</translation>
+    </message>
+    <message id="ERROR_STORE_NOTHING_BEGUN">
+        <source></source>
+        <translation>尚未開始交易，無法加入%1。</translation>
+    </message>
+    <message id="ERROR_STORE_NOTHING_TO_KEEP">
+        <source></source>
+        <translation>尚未開始交易，無法提交。</translation>
+    </message>
+    <message id="ERROR_STORE_NOT_WRITABLE">
+        <source></source>
+        <translation>無法寫入 %1：檔案或其資料夾為唯讀。</translation>
+    </message>
+    <message id="ERROR_STORE_NO_COLOUR">
+        <source></source>
+        <translation>顏色「%1」不符合 #rrggbb 格式。</translation>
+    </message>
+    <message id="ERROR_STORE_NO_HEADLINE">
+        <source></source>
+        <translation>沒有此鍵值的標題。</translation>
+    </message>
+    <message id="ERROR_STORE_NO_IDENTITY">
+        <source></source>
+        <translation>沒有識別碼。</translation>
+    </message>
+    <message id="ERROR_STORE_NO_NUMBER_LEFT">
+        <source></source>
+        <translation>當日的序號已用盡。</translation>
+    </message>
+    <message id="ERROR_STORE_NO_SERVICE">
+        <source></source>
+        <translation>不屬於任何新聞服務。</translation>
+    </message>
+    <message id="ERROR_STORE_NUMBER_TAKEN">
+        <source></source>
+        <translation>序號 %1 已由該新聞服務當日的另一則標題使用。</translation>
+    </message>
+    <message id="ERROR_STORE_OLDER_VERSION">
+        <source></source>
+        <translation>%1 為版本 %2；程式開啟時會將其升級至版本 %3。</translation>
+    </message>
+    <message id="ERROR_STORE_OTHER_DATABASE">
+        <source></source>
+        <translation>%1 是資料庫，但不是新聞資料庫。</translation>
+    </message>
+    <message id="ERROR_STORE_POSITION">
+        <source></source>
+        <translation>位置</translation>
+    </message>
+    <message id="ERROR_STORE_QUOTE">
+        <source></source>
+        <translation>報價</translation>
+    </message>
+    <message id="ERROR_STORE_QUOTE_WITHOUT_MARKET">
+        <source></source>
+        <translation>報價不屬於任何市場。</translation>
+    </message>
+    <message id="ERROR_STORE_STORY">
+        <source></source>
+        <translation>內文</translation>
+    </message>
+    <message id="ERROR_STORE_SYMBOL">
+        <source></source>
+        <translation>商品</translation>
+    </message>
+    <message id="ERROR_STORE_SYMBOL_WITHOUT_CODE">
+        <source></source>
+        <translation>有商品沒有代碼。</translation>
+    </message>
+    <message id="ERROR_STORE_SYMBOL_WITHOUT_MARKET">
+        <source></source>
+        <translation>商品不屬於任何市場。</translation>
+    </message>
+    <message id="ERROR_STORE_TIME_OUT_OF_RANGE">
+        <source></source>
+        <translation>時間（自 1970 年起 %1 秒）不在 1900 至 9999 年之間。</translation>
+    </message>
+    <message id="ERROR_STORE_TITLE">
+        <source></source>
+        <translation>標題</translation>
+    </message>
+    <message id="ERROR_STORE_TITLE_EMPTY">
+        <source></source>
+        <translation>標題是空的。</translation>
+    </message>
+    <message id="ERROR_STORE_TOO_LONG">
+        <source></source>
+        <translation>%1有 %2 個字元，上限為 %3 個。</translation>
+    </message>
+    <message id="ERROR_STORE_TOO_MANY_SYMBOLS">
+        <source></source>
+        <translation>列有 %1 個相關商品，上限為 %2 個。</translation>
+    </message>
+    <message id="ERROR_STORE_VOLUME_OUT_OF_RANGE">
+        <source></source>
+        <translation>%1 的成交量不是 0 到 %2 的數字。</translation>
     </message>
     <message id="IDC_BASEVIEW-STRING_NO_DATA">
         <source></source>

@@ -96,7 +96,7 @@ TEST_F(StoreAccessTest, AStoreOnReadOnlyMediaIsSearchedAndReadAndTakesNothingIn)
         ASSERT_EQ(table.size(), 1U);
         CStory story;
         EXPECT_TRUE(backEnd.value()->BKQNEWS_bGetStory(story, table.front()));
-        EXPECT_TRUE(backEnd.value()->storeTrouble().contains(u"can only be read"_s));
+        EXPECT_TRUE(sentence(backEnd.value()->storeTrouble().value()).contains(u"can only be read"_s));
         const auto taken = backEnd.value()->takeIn(newsItem(1, u"b"_s, at(9, 1), u"Tin falls"_s));
         ASSERT_FALSE(taken);
         EXPECT_TRUE(sentence(taken.error()).contains(u"cannot be written to"_s))
@@ -166,11 +166,12 @@ TEST_F(StoreAccessTest, DamageThatAnyStatementMeetsIsRememberedAndKeepsNothing) 
     StoreWriter spoilt(database);
     ASSERT_TRUE(spoilt.begin());
     ASSERT_TRUE(spoilt.takeNews(newsItem(1, u"b"_s, at(9, 1), u"Tin falls"_s)));
-    EXPECT_TRUE(database.damage().isEmpty());
+    EXPECT_FALSE(database.damage());
     Statement symbols(database, "SELECT code FROM symbols");
     EXPECT_FALSE(Query(symbols).next());
     EXPECT_EQ(rowsOf(database, "SELECT 1"), QStringList{u"1"_s}) << "later statements go well";
-    EXPECT_TRUE(database.damage().contains(u"is damaged"_s)) << database.damage().toStdString();
+    EXPECT_TRUE(sentence(database.damage().value()).contains(u"is damaged"_s))
+        << sentence(*database.damage()).toStdString();
     const Done kept = spoilt.commit();
     ASSERT_FALSE(kept);
     EXPECT_TRUE(sentence(kept.error()).contains(u"is damaged"_s)) << sentence(kept.error()).toStdString();

@@ -77,7 +77,8 @@ TEST_F(StoreCheckerTest, EachRuleThatIsBrokenIsNamedWithItsOffenders) {
         {
             auto opened = Database::open(copy, Database::Mode::Write, std::chrono::milliseconds(20));
             ASSERT_TRUE(opened);
-            ASSERT_TRUE(opened.value()->execute(one.breaks)) << opened.value()->failure().toStdString();
+            ASSERT_TRUE(opened.value()->execute(one.breaks))
+                << sentence(opened.value()->failure()).toStdString();
         }
         const Result<QStringList> checked = StoreChecker(copy).check();
         ASSERT_TRUE(checked) << one.breaks << ": " << sentence(checked.error()).toStdString();

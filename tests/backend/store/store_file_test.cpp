@@ -63,7 +63,7 @@ void write(const QString& path, const QByteArray& bytes) {
 std::unique_ptr<Database> plainDatabase(const QString& path, const char* sql) {
     auto opened = Database::open(path, Database::Mode::Create, 20ms);
     EXPECT_TRUE(opened);
-    EXPECT_TRUE(opened.value()->execute(sql)) << opened.value()->failure().toStdString();
+    EXPECT_TRUE(opened.value()->execute(sql)) << sentence(opened.value()->failure()).toStdString();
     return std::move(opened.value());
 }
 
@@ -150,7 +150,8 @@ TEST_F(StoreFileTest, MigrationsRunOnceInOrderAndAllOrNothing) {
         ASSERT_TRUE(transaction.hasBegun());
         EXPECT_FALSE(migrate(*database, broken));
     }
-    EXPECT_TRUE(database->failure().contains(u"no such table: c"_s)) << database->failure().toStdString();
+    EXPECT_TRUE(sentence(database->failure()).contains(u"no such table: c"_s))
+        << sentence(database->failure()).toStdString();
     EXPECT_EQ(rowsOf(*database, "SELECT x FROM b"), QStringList{u"3"_s});
     EXPECT_EQ(rowsOf(*database, "PRAGMA user_version"), QStringList{u"3"_s});
 }

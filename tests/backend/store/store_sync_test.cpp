@@ -20,7 +20,7 @@ class StoreSyncTest : public testing::Test {
 protected:
     void write(int bytes) {
         const QByteArray sql = "INSERT INTO notes VALUES(randomblob(" + QByteArray::number(bytes) + "))";
-        ASSERT_TRUE(store->execute(sql.constData())) << store->failure().toStdString();
+        ASSERT_TRUE(store->execute(sql.constData())) << sentence(store->failure()).toStdString();
     }
     qint64 logSize() const { return QFileInfo(file + u"-wal"_s).size(); }
 

@@ -128,7 +128,7 @@ TEST_F(StoreWriterTest, TheSearchIndexFollowsWhatIsReplaced) {
     EXPECT_EQ(matches(u"quartz"_s), QStringList{});
     EXPECT_EQ(matches(u"copper"_s), QStringList{u"x"_s});
     EXPECT_TRUE(store->execute("INSERT INTO news_search(news_search, rank) VALUES('integrity-check', 1)"))
-        << store->failure().toStdString();
+        << sentence(store->failure()).toStdString();
 }
 
 TEST_F(StoreWriterTest, OneNameOfACategoryHasOneIdButAmongWarrants) {

@@ -30,7 +30,7 @@ TEST(CategoryNames, OfMoreThanTheFileHoldsTheLatestTopicsComeFirst) {
         "INSERT INTO headlines(id, service, time, sequence, day, category, version, received, identity, "
         "title) "
         "SELECT i, 1, i, i, 20260302, CASE WHEN i > 14000 THEN 2 ELSE 1 END, 1, 0, i, 'News' FROM n"))
-        << database.value()->failure().toStdString();
+        << sentence(database.value()->failure()).toStdString();
     const std::vector<CategoryName> names = categoryNames(store);
     ASSERT_EQ(names.size(), topics + 1U) << "with that of news without a topic";
     EXPECT_EQ(names.front().id, 2);

@@ -5,6 +5,7 @@
 
 #include "host/controls/super_sheet_wnd.h"
 #include "terminal/frame/import_report_dialog.h"
+#include "terminal/translations/shown_text.h"
 #include "tests/support/accessible_names.h"
 #include "tests/terminal/program/frame_fixture.h"
 #include "tests/terminal/program/script_client.h"
@@ -163,7 +164,8 @@ TEST(ImportRunner, TakesRelativePathsAndEndsItsProgram) {
                          [&outcome](const ImportOutcome& came) { outcome = came; });
         runner.start(u"-store"_s, {u"--help"_s});
         EXPECT_TRUE(QTest::qWaitFor([&] { return !runner.isRunning(); }, 30000));
-        EXPECT_EQ(outcome.kind, ImportOutcome::Complete) << qPrintable(outcome.said);
+        EXPECT_EQ(outcome.kind, ImportOutcome::Complete)
+            << qPrintable(shownText(outcome.said.empty() ? QJsonValue() : outcome.said.front()));
         EXPECT_TRUE(QFile::exists(scratch.path(u"-store"_s)));
         runner.start(u"-store"_s, {u"--help"_s});
         EXPECT_TRUE(runner.isRunning());
