@@ -3,6 +3,10 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ERROR_AS_IT_IS">
+        <source></source>
+        <translation>%1</translation>
+    </message>
     <message id="ERROR_COMMANDS_FILES_NOT_READ">
         <source></source>
         <translation>%1 of %2 files could not be read.</translation>

@@ -3,6 +3,10 @@
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ERROR_AS_IT_IS">
+        <source></source>
+        <translation>%1</translation>
+    </message>
     <message id="ERROR_COMMANDS_FILES_NOT_READ">
         <source></source>
         <translation>%2 个文件中有 %1 个无法读取。</translation>
