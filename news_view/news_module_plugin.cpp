@@ -74,11 +74,11 @@ public:
     }
 
     NewsOutcome PrintNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
-        return putOutAtHand(entries, &PrintedStory, target, &PrintNewsToPdf);
+        return putOutAtHand(entries, &PrintedStory, target, &PrintItemsToPdf);
     }
 
     NewsOutcome SaveNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
-        return putOutAtHand(entries, &SavedStory, target, &SaveNewsTo);
+        return putOutAtHand(entries, &SavedStory, target, &SaveItemsTo);
     }
 };
 

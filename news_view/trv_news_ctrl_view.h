@@ -38,14 +38,12 @@ public:
 
     // --- Modes and layout ---
 
-    // A number that is no mode's changes nothing.
     void SwitchFunction(int mode);
     void ShowHideCtrObject(int mode);
     void vSetComponentPos();
     // The usable mode for a stored number: 0 when it is unknown or the user may not see it.
     int iGetFunctionID(int stored) const;
-    // For hosts that store modes by name: the same for the caption of a mode's tab, in the language in force
-    // and whatever its case, or for its language key.
+    // For hosts: the same for the caption of a mode's tab, whatever its case, or for its language key.
     int iGetFunctionID(const QString& name) const;
     int iGetTabIndex(int mode) const;
     // When the mode has no grid, `mode` becomes the first that has one; unchanged when none has.
@@ -61,12 +59,10 @@ public:
 
     // --- Lists ---
 
-    // Rebuilds the table of a list and fills its grid. True when the list has rows or needs no table of its
-    // own; false for an index above 5, an absent grid, or an empty list 0 or 4.
+    // Reads a list anew. False for an index above 5, an absent grid, or an empty list 0 or 4.
     bool InitialHeadlineTable(int list);
-    // Starts the deferred refresh anew: calls within 100 ms become one.
+    // Writes the visible rows anew: within 100 ms, however often it is asked for; at once.
     void vUpdateView();
-    // Refills the visible rows of the current grid at once.
     void vRealUpdateView();
     CSuperSheetWnd* pGetCurrSheetView() const;
     // For hosts: a copy of an entry of the current list; all zero when there is no such row.
@@ -74,7 +70,6 @@ public:
     bool bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const;
     int iGetHeadlineTableSize(int list) const;
     void vGetNewsActiveService(std::vector<unsigned char>& services) const;
-    // For hosts: the width that the story show type leaves for the grid.
     int GetSheetWidth() const;
 
     // --- Services, symbols and the quotes beside the story ---
@@ -89,13 +84,11 @@ public:
     void GetSymbolNews(const QString& code);
     // For hosts: the same, when the view has that list.
     void OnSelSymbol(const QString& code);
-    // For hosts: fills the symbol combo anew. Always true.
     bool bUpdateSymbolVec();
     void ChangeSymbol(const QWidget* sender, unsigned char group, unsigned char service, const QString& code,
                       const QString& name) override;
     int GetCurrSymbolInfo(unsigned char& service, QString& code) override;
     void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) override;
-    // Creates the list of the symbols that the shown headline is related to, in views with a story pane.
     void InitialNewsRelateQuoteView();
     void ChangeNewsSymbolList();
     void vReRegisterSymbols() override;
@@ -113,7 +106,7 @@ public:
     bool bChangeDate(const QDate& date);
     void vRecvNewMarketStatus(const CMarketStatus* status) override;
     bool bChangeDateByNewHeadLine();
-    // Asks for the headlines of the selected rows, for the current list's table, for the focused row's story.
+    // For the headlines of the selected rows, the current list's table, the focused row's story.
     void OnReCoverHeadline();
     void OnReCoverHeadlineTable();
     void OnReCoverStory();
@@ -139,7 +132,6 @@ public:
     // --- Stories, and what the back end pushes ---
 
     void OnShowStory();
-    // Goes to a row of a list and shows its story, in another mode if need be. Always true.
     bool bChangeNewsPos(int list, int row);
     void OnBtnPageDown();
     void OnBtnPageUp();
@@ -151,7 +143,6 @@ public:
     void RespHeadLine(const std::vector<CHeadlineTable>& entries) override;
     void RespStory(const CHeadlineTable& entry) override;
     void StoryUpdateNotify(const CHeadlineTable* entry) override;
-    // While there is no connection the view says since when; news of that time is marked in the lists.
     void vConnectionChanged(bool connected) override;
 
     // --- Printing and saving ---
@@ -162,14 +153,13 @@ public:
     void OnBtnSaveas();
     void OnStopWaiting();
     void OnPutOutReady();
-    // The button beside the notice: stops waiting, and asks first what is to become of what is complete.
+    // Stops waiting, and asks first what is to become of what is complete.
     void OnStopButton();
-    // What a notice offers: the current list without another list's filter.
     void OnReadUnfiltered();
     static void Linefeed(QString& story);
-    NewsOutcome PrintNews(const std::optional<OutputTarget>& target) override;
-    NewsOutcome SaveNews(const std::optional<OutputTarget>& target) override;
-    void PreviewNews() override;
+    NewsOutcome PrintSelection(const std::optional<OutputTarget>& target) override;
+    NewsOutcome SaveSelection(const std::optional<OutputTarget>& target) override;
+    void PreviewSelection() override;
 
     // --- Keys, mouse, context menu; each is true when nobody else is to get it ---
 
@@ -185,9 +175,7 @@ public:
 
     // --- Categories ---
 
-    // For hosts: what a category of news is called, warrants apart; a text that says so where nobody knows
-    // the id. The id of exactly this name; -1 when there is none. 1 and the colours of the category of this
-    // name; 0, and both unchanged, when there is none.
+    // For hosts, warrants apart: a text that says so where nobody knows the id; -1; 0 and both unchanged.
     QString cszTransferCatIDToCatName(int id);
     int GetCategoryIDbyName(const QString& name);
     int GetCategoryColor(const QString& name, QColor& text, QColor& background);

@@ -51,11 +51,11 @@ void TRVNewsCtrlView::OnReCoverStory() {
 // --- Printing and saving ---
 
 void TRVNewsCtrlView::OnPrintNews() {
-    parts->output.tell(PrintNews(std::nullopt));
+    parts->output.tell(PrintSelection(std::nullopt));
 }
 
 void TRVNewsCtrlView::OnSaveNews() {
-    parts->output.tell(SaveNews(std::nullopt));
+    parts->output.tell(SaveSelection(std::nullopt));
 }
 
 void TRVNewsCtrlView::OnBtnPrint() {
@@ -66,15 +66,15 @@ void TRVNewsCtrlView::OnBtnSaveas() {
     OnSaveNews();
 }
 
-NewsOutcome TRVNewsCtrlView::PrintNews(const std::optional<OutputTarget>& target) {
+NewsOutcome TRVNewsCtrlView::PrintSelection(const std::optional<OutputTarget>& target) {
     return parts->output.print(parts->selectedEntries(), target);
 }
 
-NewsOutcome TRVNewsCtrlView::SaveNews(const std::optional<OutputTarget>& target) {
+NewsOutcome TRVNewsCtrlView::SaveSelection(const std::optional<OutputTarget>& target) {
     return parts->output.save(parts->selectedEntries(), target);
 }
 
-void TRVNewsCtrlView::PreviewNews() {
+void TRVNewsCtrlView::PreviewSelection() {
     parts->output.tell(parts->output.preview(parts->selectedEntries()));
 }
 

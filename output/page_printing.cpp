@@ -161,7 +161,7 @@ bool DrawPages(QPagedPaintDevice& device, BKQuoteInterface& backEnd, const std::
     return painter.end();
 }
 
-NewsOutcome PrintNews(QPrinter& printer, BKQuoteInterface& backEnd, const NewsItems& items) {
+NewsOutcome PrintItems(QPrinter& printer, BKQuoteInterface& backEnd, const NewsItems& items) {
     if (!printer.outputFileName().isEmpty())
         return writePdf(printer.outputFileName(), printer.pageLayout(), backEnd, items);
     printer.setDocName(LangText(backEnd, keys::printDocument));
@@ -180,7 +180,7 @@ NewsOutcome PrintNews(QPrinter& printer, BKQuoteInterface& backEnd, const NewsIt
     return outcome;
 }
 
-NewsOutcome PrintNewsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items) {
+NewsOutcome PrintItemsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items) {
     const auto paper = paperNamed(target.paper);
     if (!paper)
         return failure(backEnd, QDir::toNativeSeparators(target.file),
@@ -190,7 +190,7 @@ NewsOutcome PrintNewsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd
                     backEnd, items);
 }
 
-void PreviewNews(BKQuoteInterface& backEnd, const NewsItems& items, QWidget* parent) {
+void PreviewItems(BKQuoteInterface& backEnd, const NewsItems& items, QWidget* parent) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(LangText(backEnd, keys::printDocument));
     const HeapDialog dialog(new QPrintPreviewDialog(&printer, parent));

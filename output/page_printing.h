@@ -20,9 +20,9 @@ std::vector<PrintedPage> PagesOn(QPagedPaintDevice& device, BKQuoteInterface& ba
 bool DrawPages(QPagedPaintDevice& device, BKQuoteInterface& backEnd, const std::vector<PrintedPage>& pages);
 
 // Prints on the printer; into a PDF file where it stands for one. Nothing is printed without pages.
-NewsOutcome PrintNews(QPrinter& printer, BKQuoteInterface& backEnd, const NewsItems& items);
+NewsOutcome PrintItems(QPrinter& printer, BKQuoteInterface& backEnd, const NewsItems& items);
 // Prints into a PDF file; an old file stays as it is unless the new one is complete.
-NewsOutcome PrintNewsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items);
+NewsOutcome PrintItemsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items);
 
 // Shows the pages that would be printed. Runs an event loop.
-void PreviewNews(BKQuoteInterface& backEnd, const NewsItems& items, QWidget* parent);
+void PreviewItems(BKQuoteInterface& backEnd, const NewsItems& items, QWidget* parent);

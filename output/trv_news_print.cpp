@@ -161,10 +161,10 @@ NewsOutcome TRVNewsPrint::Output(const NewsItems& items, QWidget* parent,
                                  const std::optional<OutputTarget>& target) {
     BKQuoteInterface& news = backEnd;
     if (target)
-        return PrintNewsToPdf(*target, news, items);
+        return PrintItemsToPdf(*target, news, items);
     QPrinter printer(QPrinter::HighResolution);
     const std::shared_ptr<bool> here = alive;
     if (!dialogs.bAskPrinter(printer, parent) || !*here)
         return {};
-    return PrintNews(printer, news, items);
+    return PrintItems(printer, news, items);
 }

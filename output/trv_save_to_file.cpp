@@ -18,10 +18,10 @@ NewsOutcome TRVSaveToFile::Output(const NewsItems& items, QWidget* parent,
                                   const std::optional<OutputTarget>& target) {
     BKQuoteInterface& news = News();
     const std::optional<OutputTarget> file = target ? target : Dialogs().AskFile(news, parent);
-    return file ? SaveNewsTo(*file, news, items) : NewsOutcome();
+    return file ? SaveItemsTo(*file, news, items) : NewsOutcome();
 }
 
-NewsOutcome SaveNewsTo(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items) {
+NewsOutcome SaveItemsTo(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items) {
     const QString name = QDir::toNativeSeparators(target.file);
     const auto failure = [&](const QString& why) {
         NewsOutcome outcome;
@@ -46,6 +46,6 @@ NewsOutcome TRVNewsPreview::Output(const NewsItems& items, QWidget* parent,
                                    const std::optional<OutputTarget>&) {
     NewsOutcome outcome;
     outcome.count = static_cast<int>(items.size());
-    PreviewNews(News(), items, parent);
+    PreviewItems(News(), items, parent);
     return outcome;
 }

@@ -26,4 +26,4 @@ protected:
 };
 
 // Writes the items to the target; `message` tells of characters that the file type could not hold.
-NewsOutcome SaveNewsTo(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items);
+NewsOutcome SaveItemsTo(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items);

@@ -82,9 +82,9 @@ public:
     // Prints the selected rows, saves them, shows the pages that would print. Without a target the user is
     // asked. What the user is to know of news that had waited, or was put out by a command, the view signals
     // as MessageForUser; these give it in their result.
-    virtual NewsOutcome PrintNews(const std::optional<OutputTarget>& target) = 0;
-    virtual NewsOutcome SaveNews(const std::optional<OutputTarget>& target) = 0;
-    virtual void PreviewNews() = 0;
+    virtual NewsOutcome PrintSelection(const std::optional<OutputTarget>& target) = 0;
+    virtual NewsOutcome SaveSelection(const std::optional<OutputTarget>& target) = 0;
+    virtual void PreviewSelection() = 0;
     // The keys of rows [from, from + count) of a list, cut to the rows that exist.
     virtual std::vector<HeadlineKey> Keys(int list, int from, int count) const = 0;
     // The host's file of category names has changed: the view reads it again.

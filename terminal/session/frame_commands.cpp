@@ -123,7 +123,7 @@ void FrameCommands::carryOutOnView(FrameCommand command) {
             view->view->OnCommand(printNewsCommand);
             break;
         case FrameCommand::PrintPreview:
-            view->access->PreviewNews();
+            view->access->PreviewSelection();
             break;
         case FrameCommand::SaveAs:
             view->view->OnCommand(saveNewsCommand);

@@ -135,8 +135,8 @@ private:
         for (const QString& name : {pagesName, textName})
             QFile::remove(folder.filePath(name));
         for (const NewsOutcome& outcome :
-             {view.PrintNews(OutputTarget{folder.filePath(pagesName), {}, {}}),
-              view.SaveNews(OutputTarget{folder.filePath(textName), NewsFileType::Utf8, {}})}) {
+             {view.PrintSelection(OutputTarget{folder.filePath(pagesName), {}, {}}),
+              view.SaveSelection(OutputTarget{folder.filePath(textName), NewsFileType::Utf8, {}})}) {
             if (outcome.failed)
                 return Error{outcome.message};
         }

@@ -102,15 +102,15 @@ TEST_F(ViewOutputTest, ALateStoryReachesTheDialogOnShow) {
 TEST_F(ViewOutputTest, SavesTheSelectedRowsInTheirOrder) {
     openWithNews();
     view->Sheet(all)->clearSelection();
-    EXPECT_EQ(view->SaveNews(target(u"none.txt"_s)).count, 0);
+    EXPECT_EQ(view->SaveSelection(target(u"none.txt"_s)).count, 0);
     EXPECT_FALSE(QFile::exists(folder.filePath(u"none.txt"_s))) << "nothing is selected";
     view->Sheet(all)->selectAll();
-    const NewsOutcome outcome = view->SaveNews(target(u"all.txt"_s));
+    const NewsOutcome outcome = view->SaveSelection(target(u"all.txt"_s));
     const QByteArray text = saved(u"all.txt"_s);
     EXPECT_EQ(outcome.count, text.size());
     EXPECT_LT(text.indexOf("Body 3"), text.indexOf("Body 2"));
     EXPECT_LT(text.indexOf("Body 2"), text.indexOf("Body 1"));
-    EXPECT_EQ(view->PrintNews(target(u"all.pdf"_s)).count, 3);
+    EXPECT_EQ(view->PrintSelection(target(u"all.pdf"_s)).count, 3);
     EXPECT_TRUE(saved(u"all.pdf"_s).startsWith("%PDF"));
 }
 
@@ -119,10 +119,10 @@ TEST_F(ViewOutputTest, WaitsForStoriesAndClosesWhileItWaits) {
     openWithNews();
     select(0);
     backEnd.asked.clear();
-    EXPECT_TRUE(view->SaveNews(target(u"late.txt"_s)).waiting);
+    EXPECT_TRUE(view->SaveSelection(target(u"late.txt"_s)).waiting);
     EXPECT_EQ(backEnd.asked.filter(u"again"_s), QStringList{u"again story 1 3"_s});
     select(1);
-    EXPECT_TRUE(view->PrintNews(target(u"late.pdf"_s)).waiting);
+    EXPECT_TRUE(view->PrintSelection(target(u"late.pdf"_s)).waiting);
     backEnd.storyAtHand = true;
     view->RespStory(view->GetHeadlineTable(0));
     EXPECT_TRUE(QTest::qWaitFor([&] { return saved(u"late.txt"_s).contains("2026/03/ 2 12:00:00Body 3"); }));
@@ -141,7 +141,7 @@ TEST_F(ViewOutputTest, TheUserStopsWaiting) {
     view->OnShowStory();
     dialog()->setGeometry(-5, -5, 2000, 1000);
     select(0);
-    EXPECT_TRUE(view->SaveNews(target(u"late.txt"_s)).waiting);
+    EXPECT_TRUE(view->SaveSelection(target(u"late.txt"_s)).waiting);
     EXPECT_FALSE(stop->isHidden());
     EXPECT_FALSE(stop->accessibleName().isEmpty());
     EXPECT_EQ(stop->toolTip(), stop->accessibleName());
@@ -151,9 +151,9 @@ TEST_F(ViewOutputTest, TheUserStopsWaiting) {
     EXPECT_EQ(view->focusWidget(), view->Sheet(all));
 
     // The menu has it too. What has come by then is put out.
-    EXPECT_TRUE(view->PrintNews(target(u"never.pdf"_s)).waiting);
+    EXPECT_TRUE(view->PrintSelection(target(u"never.pdf"_s)).waiting);
     select(1);
-    EXPECT_TRUE(view->SaveNews(target(u"whole.txt"_s)).waiting);
+    EXPECT_TRUE(view->SaveSelection(target(u"whole.txt"_s)).waiting);
     backEnd.storyAtHand = true;
     view->RespStory(view->GetHeadlineTable(1));
     view->OnContextMenu(view->mapToGlobal(QPoint(20, view->height() / 2)));
@@ -176,8 +176,8 @@ TEST_F(ViewOutputTest, TheStopButtonOffersWhatIsReady) {
     QSignalSpy told(view.get(), &TRVQuoteBaseView::MessageForUser);
     backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_LEFT_OUT"_s, u"left out %1"_s);
     view->Sheet(all)->selectAll();
-    EXPECT_TRUE(view->SaveNews(target(u"ready.txt"_s)).waiting);
-    EXPECT_TRUE(view->PrintNews(target(u"dropped.pdf"_s)).waiting);
+    EXPECT_TRUE(view->SaveSelection(target(u"ready.txt"_s)).waiting);
+    EXPECT_TRUE(view->PrintSelection(target(u"dropped.pdf"_s)).waiting);
     auto* stop = qobject_cast<SButton*>(GetDlgItem(view.get(), ids::stopWaiting));
     stop->click();
     EXPECT_FALSE(stop->isHidden()) << "the user is asked first";
@@ -219,7 +219,7 @@ TEST_F(ViewOutputTest, TitlesStayWholeWhereTheHostWantsIt) {
     for (const bool whole : {false, true}) {
         open(whole ? QMap<QString, QVariant>{{u"WholeTitles"_s, true}} : QMap<QString, QVariant>());
         select(0);
-        view->SaveNews(target(u"title.txt"_s));
+        view->SaveSelection(target(u"title.txt"_s));
         EXPECT_EQ(saved(u"title.txt"_s).contains(QByteArray(20, 'x') + "\n\n"), whole);
         EXPECT_EQ(saved(u"title.txt"_s).count('x'), whole ? 100 : 80);
     }
@@ -232,7 +232,7 @@ TEST_F(ViewOutputTest, TellsWhyAFileCouldNotBeWritten) {
     backEnd.storyAtHand = false;
     select(0);
     OutputTarget nowhere = target(u"missing/late.txt"_s);
-    EXPECT_TRUE(view->SaveNews(nowhere).waiting);
+    EXPECT_TRUE(view->SaveSelection(nowhere).waiting);
     backEnd.storyAtHand = true;
     view->RespStory(view->GetHeadlineTable(0));
     EXPECT_TRUE(QTest::qWaitFor([&] { return told.count() == 1; }));
