@@ -52,6 +52,13 @@ NO_MORE_THAN = {
     ("sample_wire", "host"): {"host/contract/fixed_services.h"},
     ("terminal", "sample_wire"): {"sample_wire/sample_options.h"},
 }
+# The owners of the news view's work. What one needs of another it is given: only the place that brings them together
+# knows the headers of others.
+OWNERS = set(
+    "arrangement category_mode context_menu days list_input live_news modes notice_board output_jobs searches "
+    "sent_again service_menu shortcuts standing_searches story_display symbol_mode view_builder".split()
+)
+BRINGS_OWNERS_TOGETHER = "news_view/view_parts.h"
 # A back end needs no widgets: of the host it knows the contract alone.
 WITHOUT_WIDGETS = {"backend", "host/contract", "sample_wire"}
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([^">]+)[">]', re.MULTILINE)
@@ -70,6 +77,15 @@ def floor_fault(path: str, include: str) -> str:
     if floors is None or floor == other or other in floors.get(floor, set()):
         return ""
     return f"{path}: includes {include}: the floor {floor or 'of the room'} may not know {other or 'the room itself'}"
+
+
+def owner_fault(path: str, include: str) -> str:
+    """Why a file may not know the owner whose header it includes; empty: it may, or it is no owner's."""
+    owner = pathlib.PurePath(include).stem
+    known = path == BRINGS_OWNERS_TOGETHER or not path.startswith("news_view/") or owner == pathlib.PurePath(path).stem
+    if known or not include.startswith("news_view/") or owner not in OWNERS:
+        return ""
+    return f"{path}: includes {include}: an owner is known to {BRINGS_OWNERS_TOGETHER} alone"
 
 
 def faults_of_floors() -> list[str]:
@@ -95,6 +111,8 @@ def faults_of(path: str) -> list[str]:
             faults.append(f"{path}: includes {include}: {room}/ knows less of {other}/")
         if other == room and (fault := floor_fault(path, include)):
             faults.append(fault)
+        if fault := owner_fault(path, include):
+            faults.append(fault)
         if any(path.startswith(place + "/") for place in WITHOUT_WIDGETS) and WIDGETS.match(include):
             faults.append(f"{path}: includes {include}: no widgets here")
     return faults
@@ -103,7 +121,9 @@ def faults_of(path: str) -> list[str]:
 def main() -> int:
     files = subprocess.run(["git", "ls-files", "*.h", "*.cpp"], cwd=ROOT, check=True, capture_output=True, text=True)
     sources = [path for path in files.stdout.split() if path.split("/")[0] in MAY_USE]
-    faults = faults_of_floors() + [fault for path in sources for fault in faults_of(path)]
+    absent = [owner for owner in sorted(OWNERS) if f"news_view/{owner}.h" not in sources]
+    faults = [f"news_view/{owner}.h: there is no such owner" for owner in absent]
+    faults += faults_of_floors() + [fault for path in sources for fault in faults_of(path)]
     print("\n".join(faults) or f"{len(sources)} files, every include runs down the house")
     return 1 if faults or not sources else 0
 
