@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // The rows of a headline list as text.
+#include "headline_list/cell_state.h"
 #include "headline_list/cell_texts.h"
 #include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
 
 #include <QHash>
 #include <QStringList>

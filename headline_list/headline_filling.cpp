@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // How the rows of a headline list are written.
+#include "headline_list/cell_state.h"
 #include "headline_list/cell_texts.h"
 #include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
+#include "headline_list/relation_matcher.h"
 
 #include <utility>
 

@@ -2,6 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/headline_list.h"
 
+#include "headline_list/cell_state.h"
+#include "headline_list/headline_table.h"
+#include "headline_list/reading_place.h"
+#include "host/contract/bk_quote_interface.h"
+
 #include <utility>
 
 namespace {
@@ -12,8 +17,20 @@ CHeadlineTable entryOf(const CHeadline& headline) {
 
 }  // namespace
 
+struct HeadlineList::State {
+    HeadlineTable table;
+    CellState cells;
+    std::optional<ReadingPlace> heldPlace;
+};
+
 HeadlineList::HeadlineList(const ListKind& listKind, BKQuoteInterface& newsBackEnd, ListOwner& listOwner)
-    : kind(listKind), backEnd(newsBackEnd), owner(listOwner) {
+    : kind(listKind),
+      backEnd(newsBackEnd),
+      owner(listOwner),
+      state(std::make_unique<State>()),
+      table(state->table),
+      cells(state->cells),
+      heldPlace(state->heldPlace) {
     afterPainting.setSingleShot(true);
     QObject::connect(&afterPainting, &QTimer::timeout, &afterPainting, [this] { table.BuildIndex(); });
 }
@@ -37,6 +54,10 @@ void HeadlineList::vSetTable(const TableRuns& runs) {
 void HeadlineList::vSetTable(const HeadlineTable& other) {
     table = other;
     afterPainting.start(0);
+}
+
+void HeadlineList::vForgetWrittenCells() {
+    cells.keepOnly({}, kind.showDate);
 }
 
 void HeadlineList::vFillHeadlineTable() {

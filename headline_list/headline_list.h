@@ -2,21 +2,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/cell_state.h"
-#include "headline_list/headline_table.h"
 #include "headline_list/list_index.h"
 #include "headline_list/list_owner.h"
-#include "headline_list/reading_place.h"
-#include "headline_list/relation_matcher.h"
-#include "headline_list/sort_order.h"
-#include "host/contract/bk_quote_interface.h"
 #include "host/controls/super_sheet_wnd.h"
 
 #include <QPointer>
 #include <QTimer>
 
+#include <memory>
 #include <optional>
 #include <vector>
+
+class BKQuoteInterface;
+class CellState;
+class HeadlineTable;
+class ReadingPlace;
+class RelationMatcher;
+struct CHeadline;
+struct CHeadlineTable;
+struct HeadlineKey;
+struct WrittenCells;
 
 // Where a pushed headline went.
 struct HeadlinePlace {
@@ -43,7 +48,7 @@ public:
     const HeadlineTable& Table() const { return table; }
 
     // Replaces the table by these runs, newest first. The grid follows with vFillHeadlineTable.
-    void vSetTable(const TableRuns& runs);
+    void vSetTable(const std::vector<std::vector<CHeadlineTable>>& runs);
     // Replaces the table by another list's, as it stands.
     void vSetTable(const HeadlineTable& other);
 
@@ -91,7 +96,7 @@ public:
 
     // Forgets what was written: the next refill writes every visible row anew, as after a change of language
     // or of category names. Rows whose time has the other form keep it.
-    void vForgetWrittenCells() { cells.keepOnly({}, kind.showDate); }
+    void vForgetWrittenCells();
 
     // These rows, also those that are not on screen, a line each: date and time, category, title, with tabs
     // between them. Rows that do not exist and those beyond mostCopiedRows are passed over.
@@ -120,9 +125,12 @@ private:
     BKQuoteInterface& backEnd;
     ListOwner& owner;
     QPointer<CSuperSheetWnd> sheet;
-    HeadlineTable table;
-    CellState cells;
-    std::optional<ReadingPlace> heldPlace;
+    // Behind a pointer: who uses a list need not know what it is made of.
+    struct State;
+    const std::unique_ptr<State> state;
+    HeadlineTable& table;
+    CellState& cells;
+    std::optional<ReadingPlace>& heldPlace;
     QTimer afterPainting;  // then the table's index is built, for the first push to find
 };
 

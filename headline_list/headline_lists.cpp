@@ -2,11 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/headline_lists.h"
 
+#include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
+#include "headline_list/table_reading.h"
+#include "host/contract/news_positions.h"
+
 HeadlineLists::HeadlineLists(BKQuoteInterface& newsBackEnd, ListOwner& listOwner)
     : backEnd(newsBackEnd), owner(listOwner), positions(dynamic_cast<NewsPositions*>(&newsBackEnd)) {
     for (const ListKind& kind : listKinds)
         lists[static_cast<std::size_t>(kind.index)] = std::make_unique<HeadlineList>(kind, backEnd, owner);
 }
+
+HeadlineLists::~HeadlineLists() = default;
 
 template <class Fill>
 bool HeadlineLists::bRebuildFrom(ListIndex index, RelationFilter filter, Fill fill) {

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/headline_list.h"
-#include "headline_list/table_reading.h"
-#include "host/contract/news_positions.h"
+#include "headline_list/list_index.h"
+#include "host/contract/records.h"
 
 #include <QString>
 
@@ -15,10 +14,19 @@
 #include <utility>
 #include <vector>
 
+class BKQuoteInterface;
+class HeadlineList;
+class ListOwner;
+class NewsPositions;
+class RelationMatcher;
+enum class TableKind : int;
+struct ServiceEntry;
+
 // The seven headline lists of a view, and how their tables are read from the back end.
 class HeadlineLists {
 public:
     HeadlineLists(BKQuoteInterface& backEnd, ListOwner& owner);
+    ~HeadlineLists();
 
     HeadlineList& operator[](ListIndex list) { return *lists[static_cast<std::size_t>(list)]; }
     const HeadlineList& operator[](ListIndex list) const { return *lists[static_cast<std::size_t>(list)]; }
@@ -29,16 +37,17 @@ public:
     // Each reads one table anew, gives its grid the rows at the top and writes the visible ones. A list
     // without a grid is left alone. True when there are rows. From the selected services, by date (key:
     // yyyymmdd) or category (key: its id).
-    bool bRebuild(ListIndex list, TableKind kind, const QString& key, RelationFilter filter = nullptr);
+    bool bRebuild(ListIndex list, TableKind kind, const QString& key,
+                  const RelationMatcher* filter = nullptr);
     // Symbol news, from the selected services.
-    bool bRebuildSymbol(const CSymbolInfo& symbol, RelationFilter filter = nullptr);
+    bool bRebuildSymbol(const CSymbolInfo& symbol, const RelationMatcher* filter = nullptr);
     // The symbol whose news the symbol list holds.
     const CSymbolInfo& ListedSymbol() const { return listedSymbol; }
     // Warrant news of a date, from the warrant service alone.
     bool bRebuildWarrant(const QString& dateKey);
     // Each ticked one of `services` gives the news of the date at which it stands.
     bool bRebuildCurrent(ListIndex list, const std::vector<ServiceEntry>& services,
-                         RelationFilter filter = nullptr);
+                         const RelationMatcher* filter = nullptr);
     // True while the list is as it was read under another list's filter: with the filter of the key sets,
     // which is the relation list's own, or as the relation list without it.
     bool bHasOthersFilter(ListIndex list) const { return othersFilter[static_cast<std::size_t>(list)]; }
@@ -55,7 +64,7 @@ public:
 private:
     // `fill` gives the list its table, read with `filter`.
     template <class Fill>
-    bool bRebuildFrom(ListIndex list, RelationFilter filter, Fill fill);
+    bool bRebuildFrom(ListIndex list, const RelationMatcher* filter, Fill fill);
 
     BKQuoteInterface& backEnd;
     ListOwner& owner;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/arrangement.h"
 
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/xtp_tab_control.h"

@@ -3,6 +3,7 @@
 #include "news_view/category_mode.h"
 
 #include "headline_list/cell_texts.h"
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/item_display.h"
@@ -25,8 +26,7 @@ CategoryMode::CategoryMode(ViewContext& viewContext, const CommonParts& commonPa
 
 // --- Names and colours ---
 
-void CategoryMode::loadNames() {
-    names.bLoadFile();
+void CategoryMode::bInitialTransferWarrantCatObject() {
     std::vector<unsigned char> services;
     for (const ServiceEntry& entry : parts.services.Entries())
         services.push_back(entry.service);
@@ -35,7 +35,7 @@ void CategoryMode::loadNames() {
 }
 
 void CategoryMode::reloadNames() {
-    names.bLoadFile();
+    bInitialTransferCatObject();
     learn(true);
 }
 
@@ -109,14 +109,14 @@ void CategoryMode::connectCombo() {
                      });
 }
 
-void CategoryMode::fillFirst() {
+void CategoryMode::bInitialCategoryInfo() {
     fillCombo();
     if (auto* combo = parts.controls.Find<SCComboBox>(ids::categoryCombo))
         combo->setCurrentIndex(std::max(indexOf(parts.settings.categoryId), 0));
     chosen();
 }
 
-void CategoryMode::refill() {
+void CategoryMode::vRefreshCategoryCombo() {
     auto* combo = parts.controls.Find<SCComboBox>(ids::categoryCombo);
     if (combo == nullptr || parts.lists[ListIndex::Category].pGetGrid() == nullptr)
         return;

@@ -25,8 +25,9 @@ public:
     CategoryMode(ViewContext& context, const CommonParts& parts,
                  std::function<const RelationMatcher*()> filter);
 
-    // Reads the host's file of names and, for the services of the view, the list of warrant categories.
-    void loadNames();
+    // Reads the host's file of names; the list of warrant categories, for the services of the view.
+    void bInitialTransferCatObject() { names.bLoadFile(); }
+    void bInitialTransferWarrantCatObject();
     // The host's file has changed.
     void reloadNames();
     // Rows that were written before a name was known show it, and the combo offers it.
@@ -52,9 +53,9 @@ public:
     // The id of the chosen category; none: nothing is chosen.
     std::optional<QString> chosenId() const;
     // Fills the combo once, with the stored category chosen; without a stored one the first is.
-    void fillFirst();
+    void bInitialCategoryInfo();
     // Fills it for the ticked services anew; the choice stays, else the first is chosen.
-    void refill();
+    void vRefreshCategoryCombo();
     // New entries, and names in another language, leave the choice and its list alone. What the user is
     // choosing from does not change under his hand.
     void learnCombo();

@@ -3,6 +3,7 @@
 #include "news_view/days.h"
 
 #include "headline_list/cell_texts.h"
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/clock.h"

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/live_news.h"
 
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
+#include "headline_list/headline_table.h"
+#include "host/contract/bk_quote_interface.h"
 #include "news_view/mode_loading.h"
 #include "news_view/news_services.h"
 #include "news_view/view_context.h"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/modes.h"
 
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "news_view/control_set.h"
 #include "news_view/mode_loading.h"

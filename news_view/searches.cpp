@@ -4,6 +4,7 @@
 
 #include "headline_list/feed_breaks.h"
 #include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
 #include "headline_list/table_reading.h"
 #include "host/contract/clock.h"

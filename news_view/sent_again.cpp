@@ -3,8 +3,10 @@
 #include "news_view/sent_again.h"
 
 #include "headline_list/cell_texts.h"
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
 #include "news_view/application_switches.h"
 #include "news_view/list_tip.h"

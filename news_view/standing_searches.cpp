@@ -3,6 +3,7 @@
 #include "news_view/standing_searches.h"
 
 #include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
 #include "host/controls/heap_dialog.h"
 #include "news_view/list_notices.h"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/symbol_mode.h"
 
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "host/contract/fixed_services.h"
 #include "host/controls/sc_combo_box.h"
@@ -69,12 +70,12 @@ void SymbolMode::keep() const {
 
 void SymbolMode::offer() {
     if (parts.loading.bTakeSymbolInformation())
-        fillCombos();
+        bInitialSymbolInfo();
     else if (!current().code.isEmpty())
         binding.vShowCurrent();
 }
 
-void SymbolMode::fillCombos() {
+void SymbolMode::bInitialSymbolInfo() {
     unsigned char service = current().market;
     const int serviceIndex = binding.iInitServiceComboBox(service);
     const int symbolIndex = serviceIndex >= 0 ? binding.iInitSymbolComboBox(service) : -1;
@@ -195,12 +196,12 @@ void SymbolMode::serviceChosen() {
 
 bool SymbolMode::take(const CSymbolInfo& symbol) {
     binding.vSetCurrent(symbol);
-    return binding.IsSupportNews(symbol.market, symbol.code) && takeInCombos(symbol);
+    return binding.IsSupportNews(symbol.market, symbol.code) && vDoNormalChangeSymbol(symbol);
 }
 
-bool SymbolMode::takeInCombos(const CSymbolInfo& symbol) {
-    chooseService(symbol.market);
-    const bool isRead = chooseCurrent();
+bool SymbolMode::vDoNormalChangeSymbol(const CSymbolInfo& symbol) {
+    vOnChangeServiceCombobox(symbol.market);
+    const bool isRead = vOnChangeSymbolCombobox();
     const int index = binding.iSymbolIndex(symbol.code);
     if (isShown() && index >= 0) {
         binding.vSelectSymbol(index);
@@ -209,7 +210,7 @@ bool SymbolMode::takeInCombos(const CSymbolInfo& symbol) {
     return isRead;
 }
 
-void SymbolMode::chooseService(unsigned char service) {
+void SymbolMode::vOnChangeServiceCombobox(unsigned char service) {
     const int index = binding.iServiceIndex(service);
     if (!isShown() || index < 0)
         return;
@@ -220,7 +221,7 @@ void SymbolMode::chooseService(unsigned char service) {
     binding.vSelectSymbol(symbolIndex);
 }
 
-bool SymbolMode::chooseCurrent() {
+bool SymbolMode::vOnChangeSymbolCombobox() {
     const QString code = current().code;
     const int index = binding.iSymbolIndex(code);
     if (!isShown() || code.isEmpty() || index < 0)
@@ -271,7 +272,7 @@ void SymbolMode::offerMarket() {
         return;
     }
     calls.setSupported(true);
-    fillCombos();
+    bInitialSymbolInfo();
     calls.showControlsOfMode();
     if (isShown() && grid() != nullptr)
         readFirst();

@@ -74,14 +74,14 @@ private:
     CSuperSheetWnd* grid() const;
     QString startCode() const;
     unsigned char startMarket(const QString& code) const;
-    void fillCombos();
+    void bInitialSymbolInfo();
     void setNotSupported();
     void setSupported();
     void hideMode();
     void hideControls();
-    bool takeInCombos(const CSymbolInfo& symbol);
-    void chooseService(unsigned char service);
-    bool chooseCurrent();
+    bool vDoNormalChangeSymbol(const CSymbolInfo& symbol);
+    void vOnChangeServiceCombobox(unsigned char service);
+    bool vOnChangeSymbolCombobox();
     void offerMarket();
 
     ViewContext& context;

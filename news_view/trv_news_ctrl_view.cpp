@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/trv_news_ctrl_view.h"
 
+#include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/fixed_services.h"
 #include "host/controls/registered_message.h"
@@ -55,11 +57,6 @@ bool TRVNewsCtrlView::OnCommand(int id) {
         {ids::saveNews, &TRVNewsCtrlView::OnSaveNews},
         {ids::pageDownButton, &TRVNewsCtrlView::OnBtnPageDown},
         {ids::pageUpButton, &TRVNewsCtrlView::OnBtnPageUp},
-        {ids::stopWaiting, &TRVNewsCtrlView::OnStopWaiting},
-        {ids::putOutReady, &TRVNewsCtrlView::OnPutOutReady},
-        {ids::askBeforeStop, &TRVNewsCtrlView::OnStopButton},
-        {ids::endNarrowing, &TRVNewsCtrlView::OnEndNarrowing},
-        {ids::readUnfiltered, &TRVNewsCtrlView::OnReadUnfiltered},
         {ids::searchAgain, &TRVNewsCtrlView::OnDealsSearch},
         {ids::changeCategoryState, &TRVNewsCtrlView::OnChangeCategoryState},
     };
@@ -69,7 +66,7 @@ bool TRVNewsCtrlView::OnCommand(int id) {
         (this->*command->carryOut)();
     else if (id >= ids::firstServiceCommand && id <= ids::lastServiceCommand)
         OnSelectCheckService(static_cast<unsigned int>(id));
-    else
+    else if (!parts->takeNoticeCommand(id))
         return TRVQuoteBaseView::OnCommand(id);
     return true;
 }

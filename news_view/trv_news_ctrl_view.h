@@ -80,9 +80,8 @@ public:
     int iBeSelectNewsNum() const;
     void OnSelchangeComboService();
     void OnSelchangeComboSymbol();
-    // Reads the news of the current news symbol into the symbol list.
+    // Reads the news of the current news symbol; the second, for hosts, when the view has their list.
     void GetSymbolNews(const QString& code);
-    // For hosts: the same, when the view has that list.
     void OnSelSymbol(const QString& code);
     bool bUpdateSymbolVec();
     void ChangeSymbol(const QWidget* sender, unsigned char group, unsigned char service, const QString& code,
@@ -122,7 +121,6 @@ public:
     void OnRelationSearchDlg();
     void OnWarningSearchDlg();
     void OnDealsSearch();
-    void OnEndNarrowing();
     void RespSearchHeadLineTable(const CSearch& condition, unsigned char serviceId) override;
     void ProcessNewSearchHeadline(CSearch& condition, ListIndex list, const CHeadline& headline,
                                   const QString& key);
@@ -135,11 +133,10 @@ public:
     bool bChangeNewsPos(int list, int row);
     void OnBtnPageDown();
     void OnBtnPageUp();
-    void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
-                         const QString& symbolCode) override;
+    void RecvNewHeadLine(const CHeadline* headline, const QString& category, const QString& symbol) override;
     void vHeadlineGone(const HeadlineKey& key) override;
-    void vHeadlineReplaced(const CHeadline* headline, const QString& categoryId,
-                           const QString& symbolCode) override;
+    void vHeadlineReplaced(const CHeadline* headline, const QString& category,
+                           const QString& symbol) override;
     void RespHeadLine(const std::vector<CHeadlineTable>& entries) override;
     void RespStory(const CHeadlineTable& entry) override;
     void StoryUpdateNotify(const CHeadlineTable* entry) override;
@@ -151,11 +148,6 @@ public:
     void OnSaveNews();
     void OnBtnPrint();
     void OnBtnSaveas();
-    void OnStopWaiting();
-    void OnPutOutReady();
-    // Stops waiting, and asks first what is to become of what is complete.
-    void OnStopButton();
-    void OnReadUnfiltered();
     static void Linefeed(QString& story);
     NewsOutcome PrintSelection(const std::optional<OutputTarget>& target) override;
     NewsOutcome SaveSelection(const std::optional<OutputTarget>& target) override;

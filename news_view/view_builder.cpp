@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/view_builder.h"
 
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "host/contract/fixed_services.h"
 #include "host/controls/window_id.h"
@@ -27,8 +28,8 @@ ViewBuilder::ViewBuilder(TRVQuoteBaseView& newsView, const CommonParts& commonPa
                          Calls ofTheView)
     : view(newsView), parts(commonParts), stage(storyStage), calls(std::move(ofTheView)) {}
 
-TRVQuoteBaseView* ViewBuilder::createChild(const QMetaObject& kind, const QString& name, int id,
-                                           const QRect& place) {
+TRVQuoteBaseView* ViewBuilder::CreateView(const QMetaObject& kind, const QString& name, int id,
+                                          const QRect& place) {
     QObject* created = kind.newInstance(Q_ARG(QWidget*, &view));
     auto* child = qobject_cast<TRVQuoteBaseView*>(created);
     if (child == nullptr) {
@@ -48,7 +49,7 @@ void ViewBuilder::createStoryPane(EntrySource& entries, TRVCfgIO2* settings, con
     const int top = gridTop + view.iGetTitleHeight();
     const QRect place(view.width() / 2, top, view.width() - view.width() / 2, view.height() - top);
     auto* pane = qobject_cast<NewsStoryView*>(
-        createChild(NewsStoryView::staticMetaObject, QStringLiteral("NewsStoryView"), ids::storyPane, place));
+        CreateView(NewsStoryView::staticMetaObject, QStringLiteral("NewsStoryView"), ids::storyPane, place));
     if (pane == nullptr)
         return;
     pane->vSetNewsParent(&entries);
@@ -61,7 +62,7 @@ CNewsRelateSymbolQuoteView* ViewBuilder::createQuotes(const ViewSettingPath& pat
         return nullptr;
     const QString name = QStringLiteral("CNewsRelateSymbolQuoteView");
     auto* quotes = qobject_cast<CNewsRelateSymbolQuoteView*>(
-        createChild(CNewsRelateSymbolQuoteView::staticMetaObject, name, ids::relatedQuotes, QRect()));
+        CreateView(CNewsRelateSymbolQuoteView::staticMetaObject, name, ids::relatedQuotes, QRect()));
     if (quotes == nullptr)
         return nullptr;
     quotes->vSetRegistrant(&view);
@@ -109,7 +110,7 @@ void ViewBuilder::createMode(ListIndex mode, const QRect& gridPlace, const QRect
     if ((parts.settings.functions & ModeOf(mode).maskBit) == 0)
         return;
     if (isOffered(mode)) {
-        createGrid(mode, gridPlace);
+        vInitialSheetWnd(mode, gridPlace);
         parts.controls.vAddTab(mode);
     } else if (mode == ListIndex::Symbol || mode == ListIndex::Warrant) {
         return;
@@ -133,7 +134,7 @@ void ViewBuilder::createControlsOf(ListIndex mode, const QRect& row) {
         calls.connectSearchEdit();
 }
 
-void ViewBuilder::createGrid(ListIndex list, const QRect& place) {
+void ViewBuilder::vInitialSheetWnd(ListIndex list, const QRect& place) {
     CSuperSheetWnd* grid = CreateHeadlineSheet(&view, place, parts.newsType, parts.backEnd);
     if (grid == nullptr)
         return;

@@ -41,9 +41,9 @@ public:
     CNewsRelateSymbolQuoteView* createQuotes(const ViewSettingPath& path);
     // The controls, the tabs and the grids of the enabled functions, and the grid of a list.
     void createControls();
-    void createGrid(ListIndex list, const QRect& place);
+    void vInitialSheetWnd(ListIndex list, const QRect& place);
     // A child view of a class, visible; null when that fails.
-    TRVQuoteBaseView* createChild(const QMetaObject& kind, const QString& name, int id, const QRect& place);
+    TRVQuoteBaseView* CreateView(const QMetaObject& kind, const QString& name, int id, const QRect& place);
 
 private:
     bool isOffered(ListIndex mode) const;

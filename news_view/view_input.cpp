@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // The keys, the mouse and the menu of the news view.
+#include "headline_list/headline_list.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "news_view/view_parts.h"
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What the host tells the news view of news, days, symbols and quotes, and what the user does with them: the
 // owners of that do the work.
+#include "headline_list/headline_list.h"
 #include "host/contract/clock.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "news_view/view_parts.h"
@@ -31,10 +32,6 @@ void TRVNewsCtrlView::OnWarningSearchDlg() {
 
 void TRVNewsCtrlView::OnDealsSearch() {
     parts->searches.send();
-}
-
-void TRVNewsCtrlView::OnEndNarrowing() {
-    parts->searches.endNarrowing();
 }
 
 void TRVNewsCtrlView::RespSearchHeadLineTable(const CSearch& condition, unsigned char serviceId) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What the news view paints itself, and the colours and texts that it hands on.
+#include "headline_list/headline_list.h"
 #include "headline_list/language_keys.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/sheet_scheme.h"

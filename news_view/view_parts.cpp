@@ -4,9 +4,11 @@
 #include "news_view/view_parts.h"
 
 #include "headline_list/cell_texts.h"
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
 #include "host/contract/clock.h"
 #include "host/contract/sync_info.h"
+#include "host/controls/s_button.h"
 #include "host/controls/xtp_tab_control.h"
 #include "news_view/control_ids.h"
 #include "news_view/notice_line.h"
@@ -65,7 +67,7 @@ Modes::Calls TRVNewsCtrlView::Parts::modeCalls() {
             [this](ListIndex list) { return sentAgain.read(list); },
             [this] { return symbolMode.readFirst(); },
             [this] { NewsServices::RegisterService(view, warrantService); },
-            [this] { categories.fillFirst(); },
+            [this] { categories.bInitialCategoryInfo(); },
             [this] { symbolMode.offer(); },
             [this] { symbolMode.hideWithoutUse(); },
             [this] { serviceMenu.showTicks(); }};
@@ -210,7 +212,7 @@ IntakeState TRVNewsCtrlView::Parts::intakeChoices() const {
 void TRVNewsCtrlView::Parts::readForServices() {
     const RelationMatcher* filter = standingSearches.filterOfShownList();
     lists.bRebuild(ListIndex::All, TableKind::ByDate, days.pickedKey(), filter);
-    categories.refill();
+    categories.vRefreshCategoryCombo();
     symbolMode.readFiltered(filter);
     lists.bRebuild(ListIndex::Relation, TableKind::ByDate, DateKey(host_clock::today()), filter);
     if (modes.shown() == ListIndex::Search && shownGrid() != nullptr)
@@ -287,4 +289,33 @@ bool TRVNewsCtrlView::Parts::bChangeNewsPos(int list, int row) {
     }
     story.show();
     return true;
+}
+
+// --- What notices offer ---
+
+bool TRVNewsCtrlView::Parts::takeNoticeCommand(int id) {
+    // The button beside the notice asks first what is to become of what is complete.
+    if (id == ids::askBeforeStop && output.ready() > 0) {
+        const QWidget* stop = controls.Find<SButton>(ids::stopWaiting);
+        menu.popUp(output.waitingCommands(), stop->mapToGlobal(QPoint(0, stop->height())));
+    } else if (id == ids::stopWaiting || id == ids::askBeforeStop) {
+        output.stopWaiting();
+    } else if (id == ids::putOutReady) {
+        output.putOutReady();
+    } else if (id == ids::endNarrowing) {
+        searches.endNarrowing();
+    } else if (id == ids::readUnfiltered) {
+        readUnfiltered();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+// The shown list without another list's filter.
+void TRVNewsCtrlView::Parts::readUnfiltered() {
+    if (!lists.bHasOthersFilter(shownList()))
+        return;
+    sentAgain.readAgain(shownList());
+    story.show();
 }

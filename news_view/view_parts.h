@@ -3,6 +3,7 @@
 #pragma once
 
 #include "headline_list/feed_breaks.h"
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/intake.h"
 #include "headline_list/list_owner.h"
@@ -82,6 +83,8 @@ struct TRVNewsCtrlView::Parts final : ViewContext, ListOwner, StoryOwner {
 
     CSuperSheetWnd* shownGrid() const { return lists[modes.shown()].pGetGrid(); }
     std::vector<CHeadlineTable> selectedEntries() const;
+    // What notices and the button beside them offer. False: the command is none of theirs.
+    bool takeNoticeCommand(int id);
 
     // How mouse events come: by the view itself, handed on by a grid.
     static constexpr unsigned leftButton = 0x01;
@@ -141,4 +144,5 @@ private:
     IntakeState intakeChoices() const;
     void connectGrid(CSuperSheetWnd& grid, ListIndex list);
     void readForServices();
+    void readUnfiltered();
 };

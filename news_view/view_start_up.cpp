@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The start-up of the news view: what the host's first calls build, in the order in which it must be built.
 #include "headline_list/cell_texts.h"
+#include "headline_list/headline_list.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/fixed_services.h"
 #include "host/contract/ini_file.h"
@@ -53,7 +54,8 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     parts->controls.vCreateNotices();
     parts->services.vInitialNewsService(*reader, settingsPath, *this);
     parts->searches.desk().vRestore(SearchMemory::read(*reader, settingsPath));
-    parts->categories.loadNames();
+    parts->categories.bInitialTransferCatObject();
+    parts->categories.bInitialTransferWarrantCatObject();
     vViewCreate();
     parts->story.setShowType(parts->stage.pGetPane() != nullptr ? parts->settings.newsShowType : 0);
     parts->controls.vLoadLanguageString();

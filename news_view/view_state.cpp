@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What the news view lets the host's scripts look at.
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/window_id.h"

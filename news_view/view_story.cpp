@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // The stories of the news view, and what becomes of them on paper and in files.
+#include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
 #include "host/controls/s_button.h"
 #include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
@@ -80,29 +82,4 @@ void TRVNewsCtrlView::PreviewSelection() {
 
 void TRVNewsCtrlView::Linefeed(QString& story) {
     ::Linefeed(story);
-}
-
-void TRVNewsCtrlView::OnStopWaiting() {
-    parts->output.stopWaiting();
-}
-
-void TRVNewsCtrlView::OnPutOutReady() {
-    parts->output.putOutReady();
-}
-
-void TRVNewsCtrlView::OnStopButton() {
-    if (parts->output.ready() == 0) {
-        OnStopWaiting();
-        return;
-    }
-    const QWidget* stop = parts->controls.Find<SButton>(ids::stopWaiting);
-    parts->menu.popUp(parts->output.waitingCommands(), stop->mapToGlobal(QPoint(0, stop->height())));
-}
-
-void TRVNewsCtrlView::OnReadUnfiltered() {
-    const ListIndex list = parts->modes.shown();
-    if (!parts->lists.bHasOthersFilter(list))
-        return;
-    parts->sentAgain.readAgain(list);
-    OnShowStory();
 }

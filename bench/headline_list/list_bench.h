@@ -4,7 +4,10 @@
 
 // What the benchmarks of the headline lists share: eight services in memory, a list with its grid on screen,
 // and the comparison with the smallest case.
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
+#include "headline_list/headline_table.h"
+#include "headline_list/table_reading.h"
 
 #include <QWidget>
 

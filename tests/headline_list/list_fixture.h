@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
+#include "headline_list/headline_table.h"
+#include "headline_list/table_reading.h"
 #include "tests/support/fake_back_end.h"
 
 #include <QStringList>

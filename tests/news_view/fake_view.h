@@ -3,7 +3,9 @@
 #pragma once
 
 #include "headline_list/feed_breaks.h"
+#include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
+#include "headline_list/headline_table.h"
 #include "headline_list/list_owner.h"
 #include "host/views/quote_base_view.h"
 #include "news_view/application_switches.h"

@@ -181,7 +181,8 @@ protected:
         backEnd.categories[16] = {{u"9"_s, u"Unticked"_s}};
         controls.vCreateCategoryCombo(QRect(0, 0, 120, 200));
         view.shown = ListIndex::Category;
-        mode.loadNames();
+        mode.bInitialTransferCatObject();
+        mode.bInitialTransferWarrantCatObject();
     }
     QComboBox& combo() { return *controls.Find<QComboBox>(ids::categoryCombo); }
     QStringList read() { return asked().filter(u"table"_s); }
@@ -193,7 +194,7 @@ protected:
 
 TEST_F(CategoryModeTest, TheComboOffersTheTickedServicesCategoriesOnce) {
     settings.categoryId = u"3"_s;
-    mode.fillFirst();
+    mode.bInitialCategoryInfo();
     EXPECT_EQ(combo().count(), 3);
     EXPECT_EQ(mode.chosenId(), u"3"_s) << "the stored one";
     EXPECT_EQ(read(), QStringList{u"table 1 1 3"_s});
@@ -203,20 +204,20 @@ TEST_F(CategoryModeTest, TheComboOffersTheTickedServicesCategoriesOnce) {
     EXPECT_EQ(read(), QStringList{u"table 1 1 2"_s});
     services.vSelect(0, false);
     services.vCopyToSaved();
-    mode.refill();
+    mode.vRefreshCategoryCombo();
     EXPECT_EQ(mode.chosenId(), u"2"_s) << "by its name";
     EXPECT_EQ(combo().count(), 2);
     backEnd.categories[2] = {{u"3"_s, u"Metals"_s}};
-    mode.refill();
+    mode.vRefreshCategoryCombo();
     EXPECT_EQ(mode.chosenId(), u"3"_s) << "else the first";
     read();
     withoutGrid(ListIndex::Category);
-    mode.refill();
+    mode.vRefreshCategoryCombo();
     EXPECT_EQ(read(), QStringList());
 }
 
 TEST_F(CategoryModeTest, APushedCategoryIsLearnedOnceAtTheNextRefresh) {
-    mode.fillFirst();
+    mode.bInitialCategoryInfo();
     read();
     CHeadline headline;
     headline.service = 1;
