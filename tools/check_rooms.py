@@ -159,7 +159,7 @@ def faults_of_view(sources: list[str]) -> list[str]:
 def main() -> int:
     files = subprocess.run(["git", "ls-files", "*.h", "*.cpp"], cwd=ROOT, check=True, capture_output=True, text=True)
     sources = [path for path in files.stdout.split() if path.split("/")[0] in MAY_USE]
-    faults = faults_of_floors() + [fault for path in sources for fault in faults_of(path)]
+    faults = faults_of_floors() + [fault for path in sources for fault in faults_of(path)] + faults_of_view(sources)
     print("\n".join(faults) or f"{len(sources)} files, every include runs down the house")
     return 1 if faults or not sources else 0
 
