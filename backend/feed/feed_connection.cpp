@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/feed_connection.h"
 
+#include "backend/feed/feed_errors.h"
 #include "backend/lines/line_channel.h"
 
 #include <QJsonArray>
@@ -47,7 +48,7 @@ FeedConnection::FeedConnection(LineChannel* sender, unsigned char service,
         tellReady();
     });
     QObject::connect(sender, &LineChannel::lineTooLong, &context, [this] {
-        addRejected(u"The line is longer than %1 MiB."_s.arg(LineSplitter::longestLine / (1024 * 1024)));
+        addRejected(makeError<feed_errors::lineOver>(LineSplitter::longestLine / (1024 * 1024)));
         tellReady();
     });
     QObject::connect(sender, &LineChannel::ended, &context, [this] {

@@ -54,7 +54,7 @@ private:
 
 }  // namespace
 
-void FeedSource::setState(SourceState::Kind kind, const QString& reason) {
+void FeedSource::setState(SourceState::Kind kind, const std::optional<Error>& reason) {
     if (kind == current.kind && reason == current.reason)
         return;
     const std::int64_t since = kind == current.kind ? current.since : host_clock::now();
@@ -68,9 +68,9 @@ void FeedSource::tellReady() {
         owner->sourceReady(*this);
 }
 
-void FeedSource::tellTrouble(const QString& sentence) {
+void FeedSource::tellTrouble(const Error& error) {
     if (owner != nullptr)
-        owner->sourceTrouble(sentence);
+        owner->sourceTrouble(error);
 }
 
 void resumeSource(FeedSource& source, FeedSink& sink) {

@@ -34,8 +34,8 @@ struct SourceState {
         Failed,   // it cannot go on as it is
     };
     Kind kind = Connecting;
-    std::int64_t since = 0;  // when it came to be so, seconds since 1970
-    QString reason = {};     // of Failed: a sentence
+    std::int64_t since = 0;            // when it came to be so, seconds since 1970
+    std::optional<Error> reason = {};  // of Failed
 
     bool operator==(const SourceState&) const = default;
 };
@@ -48,8 +48,8 @@ public:
     // A batch is at hand, or the source waits for its position.
     virtual void sourceReady(FeedSource& source) = 0;
     virtual void sourceStateChanged(FeedSource&) {}
-    // A sentence for whoever runs the source.
-    virtual void sourceTrouble(const QString&) {}
+    // For whoever runs the source.
+    virtual void sourceTrouble(const Error&) {}
     // A source that brings others, one for each of its clients, hands them over here.
     virtual void addSource(const std::shared_ptr<FeedSource>&) {}
 };
@@ -98,9 +98,9 @@ public:
 
 protected:
     // `reason`: for Failed.
-    void setState(SourceState::Kind kind, const QString& reason = {});
+    void setState(SourceState::Kind kind, const std::optional<Error>& reason = {});
     void tellReady();
-    void tellTrouble(const QString& sentence);
+    void tellTrouble(const Error& error);
     SourceTaker* taker() const { return owner; }
 
 private:

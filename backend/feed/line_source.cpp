@@ -30,9 +30,9 @@ void LineSource::add(const QByteArray& line) {
     lines.emplace_back(line);
 }
 
-void LineSource::addRejected(const QString& reason) {
+void LineSource::addRejected(const Error& reason) {
     begun = true;
-    lines.emplace_back(Error{reason});
+    lines.emplace_back(reason);
 }
 
 void LineSource::drop() {

@@ -34,7 +34,7 @@ public:
     // The next line; a greeting counts only before the first item.
     void add(const QByteArray& line);
     // In place of a line that was passed over.
-    void addRejected(const QString& reason);
+    void addRejected(const Error& reason);
     // Forgets the lines that wait.
     void drop();
     // Enough waits for a while: whoever brings lines had better stop until some are acknowledged.

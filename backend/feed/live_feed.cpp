@@ -44,7 +44,7 @@ Done LiveFeed::open(const SourceKind& kind, const QString& value) {
         return source.error();
     addSource(source.value());
     const SourceState& state = source.value()->state();
-    return state.kind == SourceState::Failed ? Done(Error{state.reason}) : Nothing{};
+    return state.kind == SourceState::Failed ? Done(*state.reason) : Nothing{};
 }
 
 void LiveFeed::addSource(const std::shared_ptr<FeedSource>& source) {
@@ -72,12 +72,12 @@ void LiveFeed::sourceReady(FeedSource& source) {
 
 void LiveFeed::sourceStateChanged(FeedSource& source) {
     if (source.state().kind == SourceState::Failed)
-        emit trouble(source.state().reason);
+        emit trouble(*source.state().reason);
     emit sourcesChanged();
 }
 
-void LiveFeed::sourceTrouble(const QString& sentence) {
-    emit trouble(sentence);
+void LiveFeed::sourceTrouble(const Error& error) {
+    emit trouble(error);
 }
 
 void LiveFeed::setConnected(bool connected) {
@@ -160,7 +160,7 @@ void LiveFeed::take(const std::shared_ptr<FeedSource>& source) {
     const Result<BatchOutcome> taken = takeBatch(*source, backEnd);
     backEnd.setPatience(StoreOptions().busyTimeout);
     isTaking = false;
-    tellTrouble(taken ? QString() : sentence(taken.error()));
+    tellTrouble(taken ? std::nullopt : std::optional(taken.error()));
     if (!taken)
         return;
     takenLate += isCatchingUp ? taken.value().news : 0;
@@ -183,7 +183,7 @@ void LiveFeed::acknowledge(const std::shared_ptr<FeedSource>& source, const Batc
     Entry* entry = entryOf(*source);
     if (entry == nullptr || entry->batch != batch)
         return;
-    tellTrouble(onDisk ? QString() : sentence(onDisk.error()));
+    tellTrouble(onDisk ? std::nullopt : std::optional(onDisk.error()));
     if (!onDisk) {
         QTimer::singleShot(retryMs, this,
                            [this, source, outcome, batch] { awaitDisk(source, outcome, batch); });
@@ -201,11 +201,11 @@ LiveFeed::Entry* LiveFeed::entryOf(const FeedSource& source) {
 }
 
 // Another program that writes for a moment is nothing to tell; what stands in the way twice is.
-void LiveFeed::tellTrouble(const QString& now) {
-    const QString before = std::exchange(takeTrouble, now);
-    const bool lasts = !now.isEmpty() && now == before;
-    if (lasts && !isTold && lostStore().isEmpty())
-        emit trouble(now);
+void LiveFeed::tellTrouble(const std::optional<Error>& now) {
+    const std::optional<Error> before = std::exchange(takeTrouble, now);
+    const bool lasts = now && now == before;
+    if (lasts && !isTold && !lostStore())
+        emit trouble(*now);
     isTold = lasts;
 }
 
@@ -230,7 +230,7 @@ void LiveFeed::updateState() {
     if (now.kind != current.kind)
         now.since = host_clock::now();
     now.late = backEnd.lateHeadlines() + static_cast<int>(takenLate);
-    now.trouble = lostStore().isEmpty() ? takeTrouble : lostStore();
+    now.trouble = lostStore() ? lostStore() : takeTrouble;
     if (now == current)
         return;
     current = now;

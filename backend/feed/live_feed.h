@@ -25,9 +25,9 @@ struct FeedState {
         OnlyRead,  // the store can only be read: no news comes by itself
     };
     Kind kind = Live;
-    std::int64_t since = 0;  // when it came to be so, seconds since 1970; 0: from the start
-    int late = 0;            // items that came late after the last break
-    QString trouble;         // why the store cannot be written; empty: it can
+    std::int64_t since = 0;        // when it came to be so, seconds since 1970; 0: from the start
+    int late = 0;                  // items that came late after the last break
+    std::optional<Error> trouble;  // why the store cannot be written; nothing: it can
 
     bool operator==(const FeedState&) const = default;
 };
@@ -66,8 +66,8 @@ signals:
     void stateChanged();
     // Another source, or another state of one.
     void sourcesChanged();
-    // A sentence about a source, or about a store that takes nothing in for longer than a moment.
-    void trouble(const QString& sentence);
+    // About a source, or about a store that takes nothing in for longer than a moment.
+    void trouble(const wirepane::Error& error);
 
 private:
     struct Entry {
@@ -77,7 +77,7 @@ private:
 
     void sourceReady(FeedSource& source) override;
     void sourceStateChanged(FeedSource& source) override;
-    void sourceTrouble(const QString& sentence) override;
+    void sourceTrouble(const Error& error) override;
     void tick();
     void pumpSoon();
     void pump();
@@ -88,11 +88,11 @@ private:
                      const Done& onDisk);
     Entry* entryOf(const FeedSource& source);
     bool hasCaughtUp();
-    void tellTrouble(const QString& now);
+    void tellTrouble(const std::optional<Error>& now);
     void dropDoneSources();
-    // Why the store takes nothing in, found out without trying; empty: it does.
-    const QString& lostStore() const { return entries.front().source->state().reason; }
-    bool hasTrouble() const { return !takeTrouble.isEmpty() || !lostStore().isEmpty(); }
+    // Why the store takes nothing in, found out without trying; nothing: it does.
+    const std::optional<Error>& lostStore() const { return entries.front().source->state().reason; }
+    bool hasTrouble() const { return takeTrouble || lostStore(); }
     void updateState();
 
     EmbeddedBackEnd& backEnd;
@@ -101,8 +101,8 @@ private:
     int batches = 0;             // taken so far
     QTimer ticking;
     QTimer pumping;
-    QString takeTrouble;  // of the last batch
-    bool isTold = false;  // that trouble is
+    std::optional<Error> takeTrouble;  // of the last batch
+    bool isTold = false;               // that trouble is
     bool isConnected = true;
     bool isCatchingUp = false;
     std::size_t sourcesBefore = 0;  // the break

@@ -16,7 +16,7 @@ QueuedSource::~QueuedSource() {
 void QueuedSource::resume(const Result<QString>& position) {
     // Where the store cannot say, it is asked again.
     if (!position) {
-        setState(SourceState::Failed, sentence(position.error()));
+        setState(SourceState::Failed, position.error());
         return;
     }
     isWaiting = false;

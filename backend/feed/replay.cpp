@@ -39,7 +39,7 @@ void ReplayReader::run(const QString& position, SourceQueue& queue) {
         if (!batch.items.empty() && !queue.push(std::move(batch)))
             return;
         if (!read) {
-            queue.tell(SourceState::Failed, sentence(read.error()));
+            queue.tell(SourceState::Failed, read.error());
             return;
         }
     }
@@ -94,7 +94,7 @@ void Replay::sourceReady(FeedSource&) {
 
 void Replay::sourceStateChanged(FeedSource& changed) {
     if (changed.state().kind == SourceState::Failed)
-        emit failed(changed.state().reason);
+        emit failed(sentence(*changed.state().reason));
 }
 
 // A batch is done with when the terminal has all of it.

@@ -27,7 +27,7 @@ void SocketSource::listen() {
     });
     const Done listening = server->listen(socketName);
     setState(listening ? SourceState::Live : SourceState::Failed,
-             listening ? QString() : sentence(listening.error()));
+             listening ? std::nullopt : std::optional(listening.error()));
 }
 
 void SocketSource::setOnline(bool on) {

@@ -27,7 +27,7 @@ bool SourceQueue::waitUntil(std::chrono::steady_clock::time_point moment) {
     return !isClosed;
 }
 
-void SourceQueue::tell(SourceState::Kind kind, const QString& reason) {
+void SourceQueue::tell(SourceState::Kind kind, const std::optional<Error>& reason) {
     {
         const std::lock_guard lock(mutex);
         // Nobody has heard of the state before it, so that states cannot pile up either.

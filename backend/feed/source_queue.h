@@ -32,7 +32,7 @@ public:
     // to return.
     bool push(SourceBatch batch);
     bool waitUntil(std::chrono::steady_clock::time_point moment);
-    void tell(SourceState::Kind kind, const QString& reason = {});
+    void tell(SourceState::Kind kind, const std::optional<Error>& reason = {});
     // Nothing more comes.
     void end();
 
@@ -43,7 +43,7 @@ public:
     void pop();
     struct Change {
         SourceState::Kind kind;
-        QString reason;
+        std::optional<Error> reason;
     };
     // Takes the state out whose turn it is.
     std::optional<Change> takeChange();

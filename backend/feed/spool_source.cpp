@@ -66,15 +66,23 @@ bool isOwnFolder(const QString& path) {
     return info.isDir() && !info.isSymLink();
 }
 
-QString reasonsOf(const BatchOutcome& outcome) {
+// Why the file, or items of it, were not taken; empty: everything was.
+std::vector<Error> reasonsOf(const BatchOutcome& outcome) {
     if (outcome.fault)
-        return sentence(*outcome.fault) + u'\n';
-    QString text;
+        return {*outcome.fault};
+    std::vector<Error> reasons;
     for (const Rejection& rejection : outcome.rejections)
-        text += u"%1: %2\n"_s.arg(sentence(*rejection.place), sentence(rejection.reason));
+        reasons.push_back(makeError<feed_errors::rejectedAt>(*rejection.place, rejection.reason));
     if (outcome.totals.rejected > static_cast<qint64>(outcome.rejections.size()))
-        text += u"and more: %1 items were rejected.\n"_s.arg(outcome.totals.rejected);
-    return text;
+        reasons.push_back(makeError<feed_errors::moreRejected>(outcome.totals.rejected));
+    return reasons;
+}
+
+QByteArray fileText(const std::vector<Error>& reasons) {
+    QString text;
+    for (const Error& reason : reasons)
+        text += sentence(reason) + u'\n';
+    return text.toUtf8();
 }
 
 }  // namespace
@@ -170,7 +178,7 @@ void SpoolSource::acknowledge(const BatchOutcome& outcome) {
     current.clear();
 }
 
-void SpoolSource::moveAway(const QString& subfolder, const QString& reasons) {
+void SpoolSource::moveAway(const QString& subfolder, const std::vector<Error>& reasons) {
     const QDir target(QDir(folder).filePath(subfolder));
     const QString path = QDir(folder).filePath(current);
     for (int number = 1; isOwnFolder(target.path()) && number < mostNames; ++number) {
@@ -178,15 +186,16 @@ void SpoolSource::moveAway(const QString& subfolder, const QString& reasons) {
         if (isTaken(moved) || isTaken(reasonFile(moved)))
             continue;
         // The reason first: no rejected file is ever without one.
-        if (!reasons.isEmpty()) {
+        if (!reasons.empty()) {
             QSaveFile file(reasonFile(moved));
-            const QByteArray text = reasons.toUtf8();
+            const QByteArray text = fileText(reasons);
             if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size())
                 file.commit();
         }
         if (QFile::rename(path, moved)) {
-            if (!reasons.isEmpty())
-                tellTrouble(u"%1: %2"_s.arg(QDir::toNativeSeparators(moved), reasons.section(u'\n', 0, 0)));
+            if (!reasons.empty())
+                tellTrouble(
+                    makeError<feed_errors::rejectedAt>(QDir::toNativeSeparators(moved), reasons.front()));
             return;
         }
         QFile::remove(reasonFile(moved));
@@ -196,8 +205,7 @@ void SpoolSource::moveAway(const QString& subfolder, const QString& reasons) {
     if (!stays.exists() && !stays.isSymLink())
         return;
     left[current] = {stays.size(), stays.lastModified(), 0};
-    tellTrouble(u"%1 cannot be moved to the folder %2. It is left as it is and not taken again."_s.arg(
-        QDir::toNativeSeparators(path), subfolder));
+    tellTrouble(makeError<feed_errors::spoolNotMoved>(QDir::toNativeSeparators(path), subfolder));
 }
 
 }  // namespace wirepane

@@ -52,7 +52,7 @@ private:
     SpoolSource(QString folder, const SpoolOptions& options);
 
     bool isWhole(const QFileInfo& file);
-    void moveAway(const QString& subfolder, const QString& reasons);
+    void moveAway(const QString& subfolder, const std::vector<Error>& reasons);
 
     QString folder;
     SpoolOptions options;

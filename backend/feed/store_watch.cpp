@@ -14,10 +14,7 @@ QString StoreWatch::name() const {
 
 void StoreWatch::poll() {
     const auto trouble = backEnd.storeTrouble();
-    setState(trouble    ? SourceState::Failed
-             : isOnline ? SourceState::Live
-                        : SourceState::Offline,
-             trouble ? sentence(*trouble) : QString());
+    setState(trouble ? SourceState::Failed : isOnline ? SourceState::Live : SourceState::Offline, trouble);
     if (isOnline)
         backEnd.checkForNews();
 }

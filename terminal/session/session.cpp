@@ -64,14 +64,14 @@ QString sourceText(const SourceState& state) {
         case SourceState::Failed:
             break;
     }
-    return terminalText(TextId::SourceFailed).arg(since, state.reason);
+    return terminalText(TextId::SourceFailed).arg(since, state.reason ? shownText(*state.reason) : QString());
 }
 
 // What stands in the way of the feed, then how its sources stand, a line each.
 QString feedTip(const LiveFeed& feed) {
     QStringList lines;
-    if (const QString trouble = feed.state().trouble; !trouble.isEmpty())
-        lines += trouble;
+    if (const auto trouble = feed.state().trouble)
+        lines += shownText(*trouble);
     for (const SourceReport& source : feed.sources())
         lines += u"%1: %2"_s.arg(source.name, sourceText(source.state));
     return lines.join(u'\n');
@@ -194,7 +194,8 @@ void Session::connectParts() {
     });
     clock.start(clockPeriod);
     store->onDatedAhead([this](unsigned char service, std::int64_t time) { tellDatedAhead(service, time); });
-    connect(liveFeed.get(), &LiveFeed::trouble, mainFrame.get(), &MainFrame::showNotice);
+    connect(liveFeed.get(), &LiveFeed::trouble, mainFrame.get(),
+            [this](const Error& error) { mainFrame->showNotice(shownText(error)); });
     connect(openViews.get(), &Workspace::arranged, this, &Session::showViews);
     connect(openViews.get(), &Workspace::opened, mainFrame.get(), [this](const OpenView* view) {
         connect(view->view, &TRVQuoteBaseView::MessageForUser, mainFrame.get(), &MainFrame::showNotice);

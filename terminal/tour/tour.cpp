@@ -13,6 +13,8 @@
 #include "terminal/frame/settings_dialog.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/session/session.h"
+#include "terminal/session/session_errors.h"
+#include "terminal/tour/tour_errors.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -59,7 +61,7 @@ public:
 
     Done play() {
         if (!folder.mkpath(u"."_s))
-            return Error{u"The folder %1 cannot be made."_s.arg(folder.absolutePath())};
+            return makeError<session_errors::folderNotMade>(folder.absolutePath());
         session.frame().resize(session.frame().sizeHint());
         session.frame().show();
         const ColourScheme before = session.settings().scheme();
@@ -138,13 +140,13 @@ private:
              {view.PrintSelection(OutputTarget{folder.filePath(pagesName), {}, {}}),
               view.SaveSelection(OutputTarget{folder.filePath(textName), NewsFileType::Utf8, {}})}) {
             if (outcome.failed)
-                return Error{outcome.message};
+                return makeError<tour_errors::refused>(outcome.message);
         }
         // What is not at hand comes first, and then the file.
         for (int turn = 0; turn < mostTurns && !isWritten(); ++turn)
             settle();
         if (!isWritten())
-            return Error{u"The news was not printed and saved into %1."_s.arg(folder.absolutePath())};
+            return makeError<tour_errors::notPrinted>(folder.absolutePath());
         return Nothing{};
     }
     bool isWritten() const { return folder.exists(pagesName) && folder.exists(textName); }
@@ -186,10 +188,10 @@ private:
     Done picture(const QString& name) {
         settle();
         if (ending.hasCome())
-            return Error{u"Stopped."_s};
+            return makeError<tour_errors::stopped>();
         const QString path = folder.filePath(name);
         if (!pictureWithWindowsAbove(session.frame()).save(path))
-            return Error{u"The picture %1 cannot be written."_s.arg(path)};
+            return makeError<tour_errors::pictureNotWritten>(path);
         return Nothing{};
     }
 

@@ -99,6 +99,22 @@
         <source></source>
         <translation>A greeting can only be the first line.</translation>
     </message>
+    <message id="ERROR_FEED_LINE_OVER">
+        <source></source>
+        <translation>The line is longer than %1 MiB.</translation>
+    </message>
+    <message id="ERROR_FEED_LINE_TOO_LONG">
+        <source></source>
+        <translation>The line is too long.</translation>
+    </message>
+    <message id="ERROR_FEED_MORE_REJECTED">
+        <source></source>
+        <translation>and more: %1 items were rejected.</translation>
+    </message>
+    <message id="ERROR_FEED_REJECTED_AT">
+        <source></source>
+        <translation>%1: %2</translation>
+    </message>
     <message id="ERROR_FEED_SPOOL_FILE_TOO_LARGE">
         <source></source>
         <translation>The file is larger than %1 bytes.</translation>
@@ -114,6 +130,10 @@
     <message id="ERROR_FEED_SPOOL_LINK">
         <source></source>
         <translation>This is a link; only files are taken.</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_NOT_MOVED">
+        <source></source>
+        <translation>%1 cannot be moved to the folder %2. It is left as it is and not taken again.</translation>
     </message>
     <message id="ERROR_FEED_UNKNOWN_LINE">
         <source></source>
@@ -886,6 +906,22 @@
     <message id="ERROR_STORE_VOLUME_OUT_OF_RANGE">
         <source></source>
         <translation>The volume of %1 is not a number from 0 to %2.</translation>
+    </message>
+    <message id="ERROR_TOUR_NOT_PRINTED">
+        <source></source>
+        <translation>The news was not printed and saved into %1.</translation>
+    </message>
+    <message id="ERROR_TOUR_PICTURE_NOT_WRITTEN">
+        <source></source>
+        <translation>The picture %1 cannot be written.</translation>
+    </message>
+    <message id="ERROR_TOUR_REFUSED">
+        <source></source>
+        <translation>%1</translation>
+    </message>
+    <message id="ERROR_TOUR_STOPPED">
+        <source></source>
+        <translation>Stopped.</translation>
     </message>
     <message id="IDC_BASEVIEW-STRING_NO_DATA">
         <source></source>

@@ -99,6 +99,22 @@
         <source></source>
         <translation>问候行只能是第一行。</translation>
     </message>
+    <message id="ERROR_FEED_LINE_OVER">
+        <source></source>
+        <translation>此行超过 %1 MiB。</translation>
+    </message>
+    <message id="ERROR_FEED_LINE_TOO_LONG">
+        <source></source>
+        <translation>此行过长。</translation>
+    </message>
+    <message id="ERROR_FEED_MORE_REJECTED">
+        <source></source>
+        <translation>以及更多：共有 %1 个项目被拒绝。</translation>
+    </message>
+    <message id="ERROR_FEED_REJECTED_AT">
+        <source></source>
+        <translation>%1：%2</translation>
+    </message>
     <message id="ERROR_FEED_SPOOL_FILE_TOO_LARGE">
         <source></source>
         <translation>文件超过 %1 字节。</translation>
@@ -114,6 +130,10 @@
     <message id="ERROR_FEED_SPOOL_LINK">
         <source></source>
         <translation>这是链接；只接受文件。</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_NOT_MOVED">
+        <source></source>
+        <translation>无法将 %1 移至文件夹 %2。文件保持原状，且不会再次接收。</translation>
     </message>
     <message id="ERROR_FEED_UNKNOWN_LINE">
         <source></source>
@@ -886,6 +906,22 @@
     <message id="ERROR_STORE_VOLUME_OUT_OF_RANGE">
         <source></source>
         <translation>%1 的成交量不是 0 到 %2 的数字。</translation>
+    </message>
+    <message id="ERROR_TOUR_NOT_PRINTED">
+        <source></source>
+        <translation>新闻未能打印并保存到 %1。</translation>
+    </message>
+    <message id="ERROR_TOUR_PICTURE_NOT_WRITTEN">
+        <source></source>
+        <translation>无法写入图片 %1。</translation>
+    </message>
+    <message id="ERROR_TOUR_REFUSED">
+        <source></source>
+        <translation>%1</translation>
+    </message>
+    <message id="ERROR_TOUR_STOPPED">
+        <source></source>
+        <translation>已停止。</translation>
     </message>
     <message id="IDC_BASEVIEW-STRING_NO_DATA">
         <source></source>

@@ -99,6 +99,22 @@
         <source></source>
         <translation>問候行只能是第一行。</translation>
     </message>
+    <message id="ERROR_FEED_LINE_OVER">
+        <source></source>
+        <translation>此行超過 %1 MiB。</translation>
+    </message>
+    <message id="ERROR_FEED_LINE_TOO_LONG">
+        <source></source>
+        <translation>此行過長。</translation>
+    </message>
+    <message id="ERROR_FEED_MORE_REJECTED">
+        <source></source>
+        <translation>以及更多：共有 %1 個項目被拒絕。</translation>
+    </message>
+    <message id="ERROR_FEED_REJECTED_AT">
+        <source></source>
+        <translation>%1：%2</translation>
+    </message>
     <message id="ERROR_FEED_SPOOL_FILE_TOO_LARGE">
         <source></source>
         <translation>檔案超過 %1 位元組。</translation>
@@ -114,6 +130,10 @@
     <message id="ERROR_FEED_SPOOL_LINK">
         <source></source>
         <translation>這是連結；只接受檔案。</translation>
+    </message>
+    <message id="ERROR_FEED_SPOOL_NOT_MOVED">
+        <source></source>
+        <translation>無法將 %1 移至資料夾 %2。檔案保持原狀，且不會再次接收。</translation>
     </message>
     <message id="ERROR_FEED_UNKNOWN_LINE">
         <source></source>
@@ -886,6 +906,22 @@
     <message id="ERROR_STORE_VOLUME_OUT_OF_RANGE">
         <source></source>
         <translation>%1 的成交量不是 0 到 %2 的數字。</translation>
+    </message>
+    <message id="ERROR_TOUR_NOT_PRINTED">
+        <source></source>
+        <translation>新聞未能列印並儲存至 %1。</translation>
+    </message>
+    <message id="ERROR_TOUR_PICTURE_NOT_WRITTEN">
+        <source></source>
+        <translation>無法寫入圖片 %1。</translation>
+    </message>
+    <message id="ERROR_TOUR_REFUSED">
+        <source></source>
+        <translation>%1</translation>
+    </message>
+    <message id="ERROR_TOUR_STOPPED">
+        <source></source>
+        <translation>已停止。</translation>
     </message>
     <message id="IDC_BASEVIEW-STRING_NO_DATA">
         <source></source>

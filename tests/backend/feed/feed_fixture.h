@@ -43,6 +43,8 @@ protected:
     std::unique_ptr<StoreWriter> writer;
 };
 
+inline constexpr ErrorCode refusal{"", u"no"};
+
 // A store that fails when it is told to.
 class FailingSink : public FeedSink {
 public:
@@ -53,17 +55,17 @@ public:
 
     Done begin() override {
         taken = 0;
-        return failsAt == Begin ? Done(Error{u"no"_s}) : real.begin();
+        return failsAt == Begin ? Done(makeError<refusal>()) : real.begin();
     }
     Result<TakeOutcome> take(const StoreItem& item) override {
         if (failsAt == TakeSecond && ++taken == 2)
-            return Error{u"no"_s};
+            return makeError<refusal>();
         return real.take(item);
     }
-    Done commit() override { return failsAt == Commit ? Done(Error{u"no"_s}) : real.commit(); }
+    Done commit() override { return failsAt == Commit ? Done(makeError<refusal>()) : real.commit(); }
     void rollback() override { real.rollback(); }
     Done keepPosition(const QString& source, const QString& position) override {
-        return failsAt == Keep ? Done(Error{u"no"_s}) : real.keepPosition(source, position);
+        return failsAt == Keep ? Done(makeError<refusal>()) : real.keepPosition(source, position);
     }
     Result<QString> positionOf(const QString& source) override { return real.positionOf(source); }
 

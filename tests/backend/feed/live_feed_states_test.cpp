@@ -38,13 +38,17 @@ protected:
         feed = std::make_unique<LiveFeed>(*backEnd);
         QObject::connect(feed.get(), &LiveFeed::stateChanged, feed.get(), [this] { states += nameOf(); });
         QObject::connect(feed.get(), &LiveFeed::trouble, feed.get(),
-                         [this](const QString& sentence) { told += sentence; });
+                         [this](const Error& error) { told += sentence(error); });
         feed->addSource(std::move(
             SpoolSource::open(folder.filePath(u"spool"_s), {std::chrono::milliseconds(0), 1'000'000, {}})
                 .value()));
     }
     ~LiveFeedStatesTest() override { backEnd->Detach(&listener); }
 
+    QString trouble() const {
+        const auto error = feed->state().trouble;
+        return error ? sentence(*error) : QString();
+    }
     QString nameOf() const {
         const FeedState state = feed->state();
         return QStringList{u"live"_s, u"reconnecting"_s, u"offline"_s, u"read"_s}.at(state.kind) +
@@ -126,13 +130,12 @@ TEST_F(LiveFeedStatesTest, AStoreThatAnotherProgramKeepsBusyStopsNeitherTheWindo
         },
         10000));
     EXPECT_LT(pause, 1000);
-    EXPECT_TRUE(feed->state().trouble.contains(u"is being used by another program"_s))
-        << feed->state().trouble.toStdString();
+    EXPECT_TRUE(trouble().contains(u"is being used by another program"_s)) << trouble().toStdString();
     EXPECT_TRUE(QFile::exists(folder.filePath(u"spool/a"_s)));
     ASSERT_TRUE(other.value()->execute("COMMIT"));
     EXPECT_TRUE(hears(u"Waits for the other"_s));
     EXPECT_TRUE(becomes(FeedState::Live));
-    EXPECT_EQ(feed->state().trouble, QString());
+    EXPECT_EQ(trouble(), QString());
 }
 
 // What cannot be taken stays with the sender, however much it is.
@@ -170,9 +173,9 @@ TEST_F(LiveFeedStatesTest, AFullDiskStopsTheFeedUntilThereIsRoomAgain) {
     for (int i = 0; i < 20; ++i)
         put(u"b%1"_s.arg(i), u"Waits for room "_s + QString(8000, u'x'), u"2026-03-02T11:30:00"_s);
     EXPECT_TRUE(becomes(FeedState::Reconnecting));
-    EXPECT_TRUE(feed->state().trouble.contains(u"the disk is full"_s)) << feed->state().trouble.toStdString();
+    EXPECT_TRUE(trouble().contains(u"the disk is full"_s)) << trouble().toStdString();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !told.isEmpty(); }, 10000));
-    EXPECT_EQ(told, QStringList{feed->state().trouble});
+    EXPECT_EQ(told, QStringList{trouble()});
     // What was taken before it was full is told; the rest waits, whole, and nothing stands half in the store.
     const auto waiting = QDir(folder.filePath(u"spool"_s)).entryList(QDir::Files).size();
     EXPECT_GT(waiting, 0);
@@ -191,8 +194,7 @@ TEST_F(LiveFeedStatesTest, AStoreThatIsTakenAwayTakesNoNewsWithIt) {
     EXPECT_TRUE(hears(u"Before"_s));
     moveStore(store, folder.filePath(u"elsewhere.db"_s));
     EXPECT_TRUE(becomes(FeedState::Reconnecting)) << "though nothing came";
-    EXPECT_TRUE(feed->state().trouble.contains(u"was moved or deleted"_s))
-        << feed->state().trouble.toStdString();
+    EXPECT_TRUE(trouble().contains(u"was moved or deleted"_s)) << trouble().toStdString();
     put(u"b"_s, u"Comes meanwhile"_s, u"2026-03-02T11:30:00"_s);
     NewsItem item;
     item.title = u"By hand"_s;
@@ -201,7 +203,7 @@ TEST_F(LiveFeedStatesTest, AStoreThatIsTakenAwayTakesNoNewsWithIt) {
     QTest::qWait(600);  // longer than the feed's period
     EXPECT_TRUE(QFile::exists(folder.filePath(u"spool/b"_s)));
 
-    EXPECT_EQ(told, QStringList{feed->state().trouble}) << "once";
+    EXPECT_EQ(told, QStringList{trouble()}) << "once";
 
     moveStore(folder.filePath(u"elsewhere.db"_s), store);
     EXPECT_TRUE(hears(u"Comes meanwhile"_s));
@@ -224,11 +226,11 @@ TEST_F(LiveFeedStatesTest, AStoreThatCanOnlyBeReadIsSaidToBeSoOnce) {
     feed = std::make_unique<LiveFeed>(*backEnd);
     QStringList sentences;
     QObject::connect(feed.get(), &LiveFeed::trouble, feed.get(),
-                     [&sentences](const QString& sentence) { sentences += sentence; });
+                     [&sentences](const Error& error) { sentences += sentence(error); });
     EXPECT_TRUE(becomes(FeedState::OnlyRead));
     QTest::qWait(600);
-    EXPECT_EQ(sentences, QStringList{feed->state().trouble});
-    EXPECT_TRUE(feed->state().trouble.contains(u"can only be read"_s));
+    EXPECT_EQ(sentences, QStringList{trouble()});
+    EXPECT_TRUE(trouble().contains(u"can only be read"_s));
 }
 
 TEST_F(LiveFeedStatesTest, AClockThatIsSetBackStartsNoDayTwice) {

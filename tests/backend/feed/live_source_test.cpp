@@ -17,6 +17,8 @@ namespace wirepane {
 
 namespace {
 
+constexpr ErrorCode logGone{"", u"The log is gone."};
+
 // A source and what stands at its other end, which outlives the terminal.
 struct SourceCase {
     std::function<std::shared_ptr<FeedSource>()> open;  // null: every terminal has it
@@ -129,7 +131,7 @@ TEST_P(EverySourceTest, ItsStateIsToldAsItChanges) {
             return;
         const QString now = nameOf(sources[index].state.kind);
         EXPECT_FALSE(sources[index].name.isEmpty());
-        EXPECT_EQ(sources[index].state.reason, QString());
+        EXPECT_FALSE(sources[index].state.reason);
         if (states.isEmpty() || states.back() != now)
             states += now;
     };
@@ -153,7 +155,7 @@ INSTANTIATE_TEST_SUITE_P(Sources, EverySourceTest, testing::ValuesIn(everySource
 TEST_F(LiveSourceTest, WhatFailsIsToldWithItsReasonAndTriedAgain) {
     QStringList told;
     QObject::connect(feed.get(), &LiveFeed::trouble, feed.get(),
-                     [&](const QString& sentence) { told += sentence; });
+                     [&](const Error& error) { told += sentence(error); });
     const QString path = folder.filePath(u"taken"_s);
     QFile inTheWay(path);
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
@@ -163,7 +165,7 @@ TEST_F(LiveSourceTest, WhatFailsIsToldWithItsReasonAndTriedAgain) {
     EXPECT_EQ(report.name, path);
     EXPECT_EQ(nameOf(report.state.kind), u"failed"_s);
     EXPECT_EQ(report.state.since, host_clock::now());
-    EXPECT_EQ(report.state.reason, sentence(opened.error()));
+    EXPECT_EQ(report.state.reason, opened.error());
     EXPECT_EQ(feed->state().kind, FeedState::Live) << "the others go on";
     ASSERT_TRUE(inTheWay.remove());
     feed->setConnected(false);
@@ -172,10 +174,10 @@ TEST_F(LiveSourceTest, WhatFailsIsToldWithItsReasonAndTriedAgain) {
 
     feed->addSource(
         std::make_shared<QueuedSource>(u"log"_s, std::make_unique<ScriptedReader>([](SourceQueue& queue) {
-                                           queue.tell(SourceState::Failed, u"The log is gone."_s);
+                                           queue.tell(SourceState::Failed, makeError<logGone>());
                                        })));
     EXPECT_TRUE(QTest::qWaitFor([&] { return told.contains(u"The log is gone."_s); }));
-    EXPECT_EQ(feed->sources().back().state.reason, u"The log is gone."_s) << "it stays to be seen";
+    EXPECT_EQ(feed->sources().back().state.reason, makeError<logGone>()) << "it stays to be seen";
     EXPECT_FALSE(feed->open(*sourceKind(u"spool"), storeFile)) << "a file is no folder";
     EXPECT_EQ(sourceKind(u"none"), nullptr);
 }

@@ -9,6 +9,8 @@ namespace wirepane {
 
 namespace {
 
+constexpr ErrorCode noMore{"", u": no more"};
+
 TEST_F(LiveSourceTest, AReaderThatIsKilledAnywhereGoesOnBehindWhatWasKept) {
     RemoteLog log;
     std::mt19937 random(20260302);
@@ -49,7 +51,8 @@ public:
             takeFrom(source);
     }
     void sourceStateChanged(FeedSource& source) override {
-        heard += nameOf(source.state().kind) + source.state().reason;
+        const auto& reason = source.state().reason;
+        heard += nameOf(source.state().kind) + (reason ? sentence(*reason) : QString());
     }
     void takeFrom(FeedSource& source) {
         while (source.hasBatch()) {
@@ -75,7 +78,7 @@ TEST(QueuedSourceTest, BatchesAndStatesComeInTheOrderOfReading) {
                                 if (i == 5)
                                     queue.tell(SourceState::Live);
                             }
-                            queue.tell(SourceState::Failed, u": no more"_s);
+                            queue.tell(SourceState::Failed, makeError<noMore>());
                         }));
     QueueWitness witness(source);
     witness.isTaking = true;

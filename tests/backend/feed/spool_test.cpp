@@ -25,7 +25,7 @@ protected:
         spool->setTaker(this);
     }
     void sourceReady(FeedSource&) override {}
-    void sourceTrouble(const QString&) override { ++troubles; }
+    void sourceTrouble(const Error&) override { ++troubles; }
     QString path(const QString& name) const { return folder.filePath(u"spool/"_s + name); }
     void put(const QString& name, const QByteArray& content, int secondsAgo = 0) {
         QFile file(path(name));

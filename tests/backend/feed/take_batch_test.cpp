@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "backend/feed/feed_errors.h"
 #include "backend/feed/line_source.h"
 #include "tests/backend/feed/feed_fixture.h"
 
@@ -29,7 +30,7 @@ TEST_F(TakeBatchTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
     EXPECT_FALSE(source.hasBatch());
     source.add(positioned(record(u"a"_s, u"A"_s), 1));
     source.add("rubbish");
-    source.addRejected(u"too long"_s);
+    source.addRejected(makeError<feed_errors::lineTooLong>());
     source.add(helloLine({u"other"_s, 1}));
     source.add(positioned(record(u"a"_s, u"A"_s), 2));
     const Result<BatchOutcome> taken = takeBatch(source, *writer);

@@ -11,6 +11,10 @@
 
 namespace wirepane {
 
+inline constexpr ErrorCode diskFull{"", u"The disk is full."};
+inline constexpr ErrorCode diskGone{"", u"The disk is gone."};
+inline constexpr ErrorCode notThisOne{"", u"Not this one."};
+
 // A store in memory: what is committed stays, and the same piece of news is taken once per version. It fails
 // or refuses where a test tells it to.
 class RecordingSink : public ItemSink {
@@ -23,7 +27,7 @@ public:
 
     Result<TakeOutcome> take(const StoreItem& item) override {
         if (takesBeforeFailing == 0)
-            return Error{QStringLiteral("The disk is full.")};
+            return makeError<diskFull>();
         --takesBeforeFailing;
         const auto* news = std::get_if<NewsItem>(&item);
         if (news == nullptr) {
@@ -31,7 +35,7 @@ public:
             return TakeOutcome{};
         }
         if (news->title == refusedTitle)
-            return TakeOutcome{Take::Rejected, QStringLiteral("Not this one.")};
+            return TakeOutcome{Take::Rejected, makeError<notThisOne>()};
         const auto known = pending.news.find(news->identity);
         if (known != pending.news.end() && known->second.version >= news->version)
             return TakeOutcome{Take::AlreadyThere, {}};
@@ -41,7 +45,7 @@ public:
 
     Done commit() override {
         if (failsToCommit)
-            return Error{QStringLiteral("The disk is gone.")};
+            return makeError<diskGone>();
         stored = std::exchange(pending, {});
         return Nothing{};
     }
