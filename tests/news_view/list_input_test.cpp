@@ -131,6 +131,11 @@ TEST_F(ListInputTest, AKeyThatNobodyTookIsTheLists) {
     grid().vClearSelection();
     input.copyRows();
     EXPECT_TRUE(QApplication::clipboard()->text().endsWith(u"Title 3"_s)) << "no row is selected";
+    grid().clearFocus();
+    EXPECT_TRUE(input.takePress(key(Qt::Key_Return))) << "nothing has the keyboard";
+    view.window.setFocusPolicy(Qt::StrongFocus);
+    view.window.setFocus();
+    EXPECT_TRUE(input.takePress(key(Qt::Key_Return))) << "the view itself has it";
     line.setFocus();
     for (const Case& c : cases)
         EXPECT_FALSE(input.takePress(c.event)) << c.what << " in a control";
@@ -281,6 +286,17 @@ TEST_F(ListInputTest, EveryShortcutDoesWhatItsControlDoes) {
     window.show();
     hit(u"Shift+F3"_s);
     EXPECT_EQ(carriedOut, QList<int>{ids::dealsSearchButton});
+
+    shortcuts.setTabOrder();
+    QList<int> order;
+    const QWidget* next = &strip;
+    do {
+        if (WindowId(next) != 0 && next->parentWidget() == &window)
+            order.append(WindowId(next));
+        next = next->nextInFocusChain();
+    } while (next != &strip);
+    EXPECT_EQ(order, (QList<int>{ids::tabStrip, ids::showTypeButton, ids::searchEdit, ids::searchButton,
+                                 ids::dealsSearchButton}));
 
     const SButton& button = *controls.Find<SButton>(ids::showTypeButton);
     EXPECT_EQ(button.toolTip(), button.text() + u" (F9)"_s);

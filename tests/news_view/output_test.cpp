@@ -130,6 +130,36 @@ TEST_F(ViewOutputTest, WaitsForStoriesAndClosesWhileItWaits) {
     EXPECT_FALSE(QFile::exists(folder.filePath(u"late.pdf"_s)));
 }
 
+TEST_F(ViewOutputTest, ALateTitleReachesWhatWaitsForIt) {
+    openWithNews();
+    const CHeadlineTable late{localTime(2026, 3, 2, 12, 30), 4, 1, 0, 0};
+    backEnd.add(1, late.time, 4, u"Come late"_s, 0, {}, false);
+    backEnd.addStory({late.time, u"Body 4"_s, late});
+    view->InitialHeadlineTable(all);
+    select(0);
+    EXPECT_TRUE(view->SaveSelection(target(u"late.txt"_s)).waiting);
+    backEnd.makeAllAtHand();
+    view->RespHeadLine({late});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return saved(u"late.txt"_s).contains("Come late"); }));
+    EXPECT_TRUE(titles(all).contains(u"Come late"_s)) << "and the list";
+}
+
+TEST_F(ViewOutputTest, EveryWayToPrintAndToSaveAsksItsQuestion) {
+    openWithNews();
+    select(0);
+    const std::pair<int, bool> ways[] = {
+        {printNews, true}, {ids::printButton, true}, {saveNews, false}, {ids::saveAsButton, false}};
+    for (const auto& [command, prints] : ways) {
+        int asked = 0;
+        asked = answering([&, id = command] { view->OnCommand(id); },
+                          [&, isPrint = prints](QWidget& question) {
+                              EXPECT_EQ(qobject_cast<QPrintDialog*>(&question) != nullptr, isPrint);
+                              static_cast<QDialog&>(question).reject();
+                          });
+        EXPECT_EQ(asked, 1) << command;
+    }
+}
+
 TEST_F(ViewOutputTest, TheUserStopsWaiting) {
     backEnd.storyAtHand = false;
     openWithNews();

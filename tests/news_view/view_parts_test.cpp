@@ -174,6 +174,10 @@ TEST(ViewSettings, NonsenseHasItsDefault) {
     EXPECT_TRUE(settings.showCategory);
     EXPECT_EQ(settings.focusedTab, 2);
     EXPECT_EQ(settings.symbolId, QStringLiteral("2330"));
+    for (const int type : {0, 1, 2, 3, -1}) {
+        reader.values[QStringLiteral("NewsShowType")] = type;
+        EXPECT_EQ(ViewSettings::read(reader, path, 2).newsShowType, type < 0 || type > 2 ? 1 : type) << type;
+    }
 
     settings.showCategory = false;
     settings.newsShowType = 2;
