@@ -8,10 +8,10 @@
 #include <functional>
 #include <vector>
 
+class CNewsKey;
 class ListNotices;
 class SearchDesk;
 class ViewContext;
-struct CNewsKey;
 
 // The searches that stand for longer: the key sets that fill the relation-search list, the warning terms, and
 // what empty lists say about how they are filled. Interface thread only.
