@@ -277,6 +277,38 @@ TEST_F(ModeSwitchTest, TheSearchSwitchesDecideWhichListIsRead) {
     EXPECT_FALSE(modes.read(ListIndex::Category)) << "it has no grid";
 }
 
+TEST_F(ModeSwitchTest, WhatWasFoundIsFilledIntoTheListThatTheSwitchesName) {
+    view.switches = {true, true};
+    build(0x49);
+    giveWindow();
+    const TableRuns found{{view.add(1)}};
+    struct Case {
+        ApplicationSwitches switches;
+        ListIndex mode, filled;
+    };
+    const Case cases[] = {
+        {{false, false}, ListIndex::Search, ListIndex::Search},
+        {{true, false}, ListIndex::Search, ListIndex::Search},
+        {{false, true}, ListIndex::Search, ListIndex::Search},
+        {{false, true}, ListIndex::WarningTerm, ListIndex::WarningTerm},
+        {{true, true}, ListIndex::Search, ListIndex::WarningTerm},
+        {{true, true}, ListIndex::WarningTerm, ListIndex::WarningTerm},
+    };
+    for (const Case& c : cases) {
+        view.switches = c.switches;
+        switchTo(c.mode);
+        for (const ListIndex list : {ListIndex::Search, ListIndex::WarningTerm}) {
+            view.lists[list].vSetTable(TableRuns());
+            view.lists[list].vFillHeadlineTable();
+            view.lists[list].vSetTable(found);
+        }
+        EXPECT_TRUE(modes.read(ListIndex::Search));
+        for (const ListIndex list : {ListIndex::Search, ListIndex::WarningTerm})
+            EXPECT_EQ(view.grid(list)->iGetRowCount(), list == c.filled ? 1 : 0)
+                << c.switches.showNormalSearch << c.switches.showWarningSearch << static_cast<int>(c.mode);
+    }
+}
+
 TEST_F(ModeSwitchTest, AListWithoutRowsEndsTheStatusText) {
     build(0x21);
     giveWindow();

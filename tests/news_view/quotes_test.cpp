@@ -65,6 +65,11 @@ TEST_F(RelatedQuotesTest, ListsTheSymbolsOfTheShownHeadlineAndNoOthers) {
     EXPECT_EQ(rows(), QStringList()) << "no headline is shown";
     selectRow(0);
     EXPECT_EQ(rows(), ofNewest);
+    std::swap(backEnd.related[{1, 3}], backEnd.related[{1, 2}]);
+    view->ChangeNewsSymbolList();
+    EXPECT_EQ(rows(), QStringList{u"6214 Lantern Foods --"_s});
+    std::swap(backEnd.related[{1, 3}], backEnd.related[{1, 2}]);
+    view->ChangeNewsSymbolList();
     EXPECT_EQ(backEnd.followed[view.get()], (QStringList{u"16:2330"_s, u"22:00700"_s}));
     view->OnBtnPageDown();
     EXPECT_EQ(rows(), QStringList{u"6214 Lantern Foods --"_s});
