@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/search_choices.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -10,8 +12,9 @@
 // A key set: one standing condition of the relation-search list, saying which headlines it wants.
 class CNewsKey {
 public:
-    static constexpr std::int32_t all = 1;               // method: every keyword must hit
-    static constexpr std::int32_t any = 2;               // method: one hit suffices, as for any other number
+    // Methods: every keyword must hit; one hit suffices, as for any other number.
+    static constexpr std::int32_t all = numberOf(SearchMethod::All);
+    static constexpr std::int32_t any = numberOf(SearchMethod::Any);
     static constexpr std::int32_t everyNewsType = -999;  // as the only news type: all of them
 
     CNewsKey() = default;
@@ -22,6 +25,9 @@ public:
     CNewsKey(CNewsKey&&) = default;
     CNewsKey& operator=(CNewsKey&&) = default;
     virtual ~CNewsKey() = default;
+
+    // The method as it works: one of the two.
+    std::int32_t knownMethod() const { return method == all ? all : any; }
 
     std::int32_t method = all;
     std::vector<std::int32_t> newsTypes;  // category ids

@@ -24,12 +24,6 @@ constexpr int scopeWidth = 100;
 constexpr int methodWidth = 80;
 constexpr int recentRows = 5;  // that are in sight
 
-constexpr std::array scopes{Choice{search_ids::scopeHeadlines, scopeKeys[0]},
-                            Choice{search_ids::scopeStories, scopeKeys[1]},
-                            Choice{search_ids::scopeBoth, scopeKeys[2]}};
-constexpr std::array methods{Choice{search_ids::methodOr, methodKeys[0]},
-                             Choice{search_ids::methodAnd, methodKeys[1]}};
-
 }  // namespace
 
 CAdvSearchDlg::CAdvSearchDlg(const CSearch& edited, const KeywordList& keywordPool,
@@ -60,12 +54,14 @@ void CAdvSearchDlg::vGetResult(CSearch& edited, KeywordList& keywordPool, Recent
 
 QLayout* CAdvSearchDlg::pCreateChoices() {
     auto* grid = new QGridLayout;
-    scope = AddChoices(this, *grid, 0,
-                       AddCaption(this, search_ids::scopeCaption, LangText(search_keys::scope)), scopes);
-    method = AddChoices(this, *grid, 1,
-                        AddCaption(this, search_ids::methodCaption, LangText(search_keys::method)), methods);
+    scope =
+        AddChoices(this, *grid, 0, AddCaption(this, search_ids::scopeCaption, LangText(search_keys::scope)),
+                   ChoicesOf(search_ids::scopeButtons));
+    method =
+        AddChoices(this, *grid, 1, AddCaption(this, search_ids::methodCaption, LangText(search_keys::method)),
+                   ChoicesOf(search_ids::methodButtons));
     grid->setHorizontalSpacing(fontMetrics().height());
-    grid->setColumnStretch(static_cast<int>(scopes.size()) + 1, 1);
+    grid->setColumnStretch(static_cast<int>(search_ids::scopeButtons.size()) + 1, 1);
     return grid;
 }
 
@@ -103,13 +99,13 @@ QLayout* CAdvSearchDlg::pCreateRecent() {
 // --- The condition and its controls ---
 
 void CAdvSearchDlg::vLoadCondition() {
-    method->button(condition.method == conditions::methodAll ? 1 : 0)->setChecked(true);
-    scope->button(condition.scope <= 1 ? condition.scope : 2)->setChecked(true);
+    method->button(numberOf(shownMethod(condition.method)))->setChecked(true);
+    scope->button(numberOf(scopeOf(condition.scope)))->setChecked(true);
     vSetKeywords(condition.keywords);
 }
 
 void CAdvSearchDlg::vReadCondition() {
-    condition.method = method->checkedId() == 1 ? conditions::methodAll : conditions::methodAny;
+    condition.method = static_cast<unsigned char>(method->checkedId());
     condition.scope = static_cast<unsigned char>(scope->checkedId());
     condition.keywords = ShownKeywords();
     vSetKeywords(condition.keywords);

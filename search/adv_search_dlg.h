@@ -37,7 +37,7 @@ private:
 
     CSearch condition;
     RecentSearches recent;
-    QButtonGroup* scope = nullptr;   // button ids: the scope
-    QButtonGroup* method = nullptr;  // button ids: 0 any keyword, 1 all keywords
+    QButtonGroup* scope = nullptr;   // button ids: SearchScope
+    QButtonGroup* method = nullptr;  // button ids: SearchMethod
     ReportList* recentList = nullptr;
 };

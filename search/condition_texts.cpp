@@ -9,25 +9,52 @@
 
 namespace {
 
-QString nameOf(QLatin1StringView captionKey) {
-    return NameOfCaption(CaptionWithoutKey(LangText(captionKey)));
+QLatin1StringView nameKeyOf(const auto& table, auto number) {
+    const auto row =
+        std::find_if(table.begin(), table.end(), [&](const auto& choice) { return choice.number == number; });
+    return row->name;
+}
+
+QString shown(QLatin1StringView nameKey) {
+    return NameOfCaption(CaptionWithoutKey(LangText(nameKey)));
+}
+
+QStringList allShown(const auto& table) {
+    QStringList texts;
+    for (const auto& choice : table)
+        texts += shown(choice.name);
+    return texts;
+}
+
+std::vector<Choice> choicesOf(const auto& table, const auto& buttons) {
+    std::vector<Choice> choices;
+    for (const auto& button : buttons)
+        choices.push_back({button.id, numberOf(button.number), nameKeyOf(table, button.number)});
+    return choices;
 }
 
 }  // namespace
 
+std::vector<Choice> ChoicesOf(std::span<const search_ids::MethodButton> buttons) {
+    return choicesOf(searchMethods, buttons);
+}
+
+std::vector<Choice> ChoicesOf(std::span<const search_ids::ScopeButton> buttons) {
+    return choicesOf(searchScopes, buttons);
+}
+
 QString ScopeText(int scope) {
-    const std::size_t known = std::min(static_cast<std::size_t>(scope), scopeKeys.size() - 1);
-    return nameOf(scopeKeys[known]);
+    return shown(nameKeyOf(searchScopes, scopeOf(scope)));
 }
 
 QString MethodText(int method) {
-    return nameOf(method == conditions::methodAll ? search_keys::methodAnd : search_keys::methodOr);
+    return shown(nameKeyOf(searchMethods, shownMethod(method)));
 }
 
 QStringList ScopeTexts() {
-    return {ScopeText(0), ScopeText(1), ScopeText(2)};
+    return allShown(searchScopes);
 }
 
 QStringList MethodTexts() {
-    return {MethodText(conditions::methodAll), MethodText(conditions::methodAny)};
+    return allShown(searchMethods);
 }

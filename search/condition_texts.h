@@ -2,26 +2,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "search/search_keys.h"
+#include "search/dialog_controls.h"
+#include "search/search_ids.h"
 
 #include <QStringList>
 
-#include <array>
+#include <span>
+#include <vector>
 
 // How the search dialogs show scopes and methods: as radio buttons, and as words in their lists.
 
-namespace conditions {
-inline constexpr int methodAll = 1;
-inline constexpr int methodAny = 2;
-}  // namespace conditions
-
-// By scope; and any, all.
-inline constexpr std::array scopeKeys{search_keys::scopeHeadlines, search_keys::scopeStories,
-                                      search_keys::scopeBoth};
-inline constexpr std::array methodKeys{search_keys::methodOr, search_keys::methodAnd};
+// The buttons stand in their group by the numbers that conditions carry.
+std::vector<Choice> ChoicesOf(std::span<const search_ids::MethodButton> buttons);
+std::vector<Choice> ChoicesOf(std::span<const search_ids::ScopeButton> buttons);
 
 // Without the mark of an access key, also where it stands in brackets behind the text. An unknown scope is
-// both; every method that is not "all" is "any".
+// both; an unknown method is "any".
 QString ScopeText(int scope);
 QString MethodText(int method);
 // All that there are.

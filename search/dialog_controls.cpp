@@ -39,13 +39,13 @@ QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* ca
                          std::span<const Choice> choices) {
     auto* group = new QButtonGroup(dialog);
     grid.addWidget(caption, row, 0);
-    int index = 0;
+    int column = 1;
     for (const Choice& choice : choices) {
         auto* button = new QRadioButton(LangText(choice.key), dialog);
         SetWindowId(button, choice.id);
         button->installEventFilter(dialog);
-        grid.addWidget(button, row, index + 1);
-        group->addButton(button, index++);
+        grid.addWidget(button, row, column++);
+        group->addButton(button, choice.value);
     }
     return group;
 }

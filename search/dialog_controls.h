@@ -24,10 +24,11 @@ QLabel* AddCaption(QDialog* dialog, int id, const QString& text);
 
 struct Choice {
     int id;
+    int value;
     QLatin1StringView key;
 };
 // A row of radio buttons behind a caption, of which one is checked at a time; they stand in the group by
-// their index.
+// their values, which are not negative.
 QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* caption,
                          std::span<const Choice> choices);
 

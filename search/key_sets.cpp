@@ -6,6 +6,7 @@
 #include "host/contract/fixed_services.h"
 #include "host/contract/lang_text.h"
 #include "search/condition_texts.h"
+#include "search/search_keys.h"
 
 #include <algorithm>
 
@@ -80,5 +81,6 @@ std::vector<int> RowsOfEqual(std::span<const CNewsKey> keySets, std::span<const 
 
 QStringList TextsOfKeySet(const CNewsKey& keySet, const CategoryMap& newsTypes) {
     const QStringList keywords(keySet.keywords.begin(), keySet.keywords.end());
-    return {MethodText(keySet.method), namesOf(keySet, newsTypes), keywords.join(QStringLiteral(", "))};
+    return {MethodText(keySet.knownMethod()), namesOf(keySet, newsTypes),
+            keywords.join(QStringLiteral(", "))};
 }

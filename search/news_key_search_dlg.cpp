@@ -10,6 +10,7 @@
 #include "search/dialog_controls.h"
 #include "search/key_set_list.h"
 #include "search/search_ids.h"
+#include "search/search_keys.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -27,9 +28,6 @@ constexpr int methodWidth = 90;
 constexpr int newsTypesWidth = 160;
 constexpr int newsTypeRows = 5;  // that are in sight
 constexpr int keySetRows = 6;
-
-constexpr std::array methods{Choice{search_ids::methodOr, methodKeys[0]},
-                             Choice{search_ids::methodAnd, methodKeys[1]}};
 
 }  // namespace
 
@@ -108,9 +106,10 @@ QLayout* CNewsKeySearchDlg::pCreateNewsTypes() {
 QLayout* CNewsKeySearchDlg::pCreateSaving() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(fontMetrics().height());
-    method = AddChoices(this, *grid, 0, AddCaption(this, 0, LangText(search_keys::method)), methods);
-    method->button(1)->setChecked(true);
-    grid->setColumnStretch(static_cast<int>(methods.size()) + 1, 1);
+    method = AddChoices(this, *grid, 0, AddCaption(this, 0, LangText(search_keys::method)),
+                        ChoicesOf(search_ids::keySetMethodButtons));
+    method->button(CNewsKey::all)->setChecked(true);
+    grid->setColumnStretch(static_cast<int>(search_ids::keySetMethodButtons.size()) + 1, 1);
     saveButton = AddButton(this, search_ids::saveKeySet, LangText(search_keys::addKeySet));
     connect(saveButton, &QPushButton::clicked, this, &CNewsKeySearchDlg::vSave);
     capitalsNote = new QLabel(LangText(search_keys::capitalsNote), this);
@@ -164,8 +163,9 @@ QLayout* CNewsKeySearchDlg::pCreateKeySets() {
 }
 
 QPushButton* CNewsKeySearchDlg::pDefaultFor(const QWidget* focus) const {
-    const bool composing = focus == newsTypeList || focus == allNewsTypes || focus == method->button(0) ||
-                           focus == method->button(1);
+    const QList<QAbstractButton*> methods = method->buttons();
+    const bool composing = focus == newsTypeList || focus == allNewsTypes ||
+                           std::find(methods.begin(), methods.end(), focus) != methods.end();
     return composing ? saveButton : KeywordEntryDlg::pDefaultFor(focus);
 }
 
@@ -179,7 +179,7 @@ std::vector<CNewsKey> CNewsKeySearchDlg::TickedKeySets() const {
 // --- One key set ---
 
 CNewsKey CNewsKeySearchDlg::ComposedKeySet() const {
-    CNewsKey keySet(method->checkedId() == 0 ? CNewsKey::any : CNewsKey::all, {}, Keywords());
+    CNewsKey keySet(method->checkedId(), {}, Keywords());
     for (int row = 0; row < newsTypeList->count(); ++row) {
         if (newsTypeList->GetCheck(row))
             keySet.newsTypes.push_back(newsTypeList->item(row)->data(Qt::UserRole).toInt());
@@ -208,7 +208,7 @@ void CNewsKeySearchDlg::vEdit(int row) {
     editing = row;
     const CNewsKey& keySet = keySets[static_cast<std::size_t>(row)];
     vSetKeywords(keySet.keywords);
-    method->button(keySet.method == CNewsKey::all ? 1 : 0)->setChecked(true);
+    method->button(keySet.knownMethod())->setChecked(true);
     newsTypeList->clearSelection();
     for (int type = 0; type < newsTypeList->count(); ++type) {
         const std::int32_t id = newsTypeList->item(type)->data(Qt::UserRole).toInt();

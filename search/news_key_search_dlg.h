@@ -55,7 +55,7 @@ private:
     std::vector<CNewsKey> keySets;
     int editing = -1;  // the row that is worked on; -1: a new key set
 
-    QButtonGroup* method = nullptr;  // button ids: 0 any keyword, 1 all keywords
+    QButtonGroup* method = nullptr;  // button ids: SearchMethod
     CCheckListBox* newsTypeList = nullptr;
     QCheckBox* allNewsTypes = nullptr;
     KeySetList* keySetList = nullptr;

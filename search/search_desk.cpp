@@ -3,6 +3,7 @@
 #include "search/search_desk.h"
 
 #include "headline_list/language_keys.h"
+#include "host/contract/search_choices.h"
 
 #include <algorithm>
 #include <utility>
@@ -81,8 +82,8 @@ void SearchDesk::vTakeQuickSearch(const QString& word, std::int64_t now) {
     KeepKeyword(history, word);
     if (ordinary.keywords != std::vector{word})
         ordinary.symbols.clear();
-    ordinary.scope = 0;
-    ordinary.method = 1;
+    ordinary.scope = numberOf(SearchScope::Headlines);
+    ordinary.method = numberOf(SearchMethod::All);
     ordinary.time = now;
     ordinary.keywords = {word};
 }
@@ -103,8 +104,8 @@ QString SearchDesk::WaitText(const CSearch& condition) const {
 }
 
 void SearchDesk::vCompleteMethod(CSearch& condition) {
-    if (condition.keywords.size() >= 2 && condition.method == 0)
-        condition.method = 1;
+    if (condition.keywords.size() >= 2 && condition.method == numberOf(SearchMethod::NotSet))
+        condition.method = numberOf(SearchMethod::All);
 }
 
 void SearchDesk::vSend(ListIndex mode, std::span<ServiceEntry> services, bool awaited, const Moment& now) {

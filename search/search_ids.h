@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/search_choices.h"
+
+#include <array>
+
 // Numbers of the controls of the search dialogs.
 namespace search_ids {
 
@@ -64,5 +68,27 @@ inline constexpr int warningStories = 2060;
 inline constexpr int warningBoth = 2061;
 
 inline constexpr int candidateDelayMs = 200;
+
+// The buttons that a method or a scope is chosen with, in their order: where a search is composed, a key set,
+// and one warning term.
+template <class Number>
+struct ChoiceButton {
+    Number number;
+    int id;
+};
+using MethodButton = ChoiceButton<SearchMethod>;
+using ScopeButton = ChoiceButton<SearchScope>;
+inline constexpr std::array methodButtons{MethodButton{SearchMethod::Any, methodOr},
+                                          MethodButton{SearchMethod::All, methodAnd}};
+inline constexpr std::array keySetMethodButtons{MethodButton{SearchMethod::Any, methodOr},
+                                                MethodButton{SearchMethod::All, methodAnd}};
+inline constexpr std::array warningMethodButtons{MethodButton{SearchMethod::All, warningAnd},
+                                                 MethodButton{SearchMethod::Any, warningOr}};
+inline constexpr std::array scopeButtons{ScopeButton{SearchScope::Headlines, scopeHeadlines},
+                                         ScopeButton{SearchScope::Stories, scopeStories},
+                                         ScopeButton{SearchScope::Both, scopeBoth}};
+inline constexpr std::array warningScopeButtons{ScopeButton{SearchScope::Headlines, warningHeadlines},
+                                                ScopeButton{SearchScope::Stories, warningStories},
+                                                ScopeButton{SearchScope::Both, warningBoth}};
 
 }  // namespace search_ids

@@ -20,12 +20,7 @@ inline constexpr QLatin1StringView removeAll{"IDS_DIALOG-DEAL-SEARCH_DELALL_BUTT
 inline constexpr QLatin1StringView askRemoveAll{"IDS_DIALOG-DEAL-SEARCH_REQDELALL"};
 inline constexpr QLatin1StringView keywords{"IDS_DIALOG-DEAL-SEARCH_GROUP2"};
 inline constexpr QLatin1StringView scope{"IDS_DIALOG-DEAL-SEARCH_RANGE"};
-inline constexpr QLatin1StringView scopeHeadlines{"IDS_DIALOG-DEAL-SEARCH_HEADLINE_SEARCH"};
-inline constexpr QLatin1StringView scopeStories{"IDS_DIALOG-DEAL-SEARCH_STORY_SEARCH"};
-inline constexpr QLatin1StringView scopeBoth{"IDS_DIALOG-DEAL-SEARCH_HEARLINE_AND_STORY_SEARCH"};
 inline constexpr QLatin1StringView method{"IDS_DIALOG-DEAL-SEARCH_CONDITION"};
-inline constexpr QLatin1StringView methodAnd{"IDS_DIALOG-DEAL-SEARCH_AND_BUTTON"};
-inline constexpr QLatin1StringView methodOr{"IDS_DIALOG-DEAL-SEARCH_OR_BUTTON"};
 inline constexpr QLatin1StringView recent{"IDS_DIALOG-DEAL-SEARCH_NEAR10FILTER"};
 inline constexpr QLatin1StringView scopeColumn{"IDS_DIALOG-DEAL-SEARCH_SEARCH_SCOPE"};
 inline constexpr QLatin1StringView methodColumn{"IDS_DIALOG-DEAL-SEARCH_SEARCH_METHOD"};

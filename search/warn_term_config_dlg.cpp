@@ -7,6 +7,7 @@
 #include "search/condition_texts.h"
 #include "search/dialog_controls.h"
 #include "search/search_ids.h"
+#include "search/search_keys.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -15,20 +16,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 
-#include <algorithm>
-#include <array>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr std::array methods{Choice{search_ids::warningAnd, methodKeys[1]},
-                             Choice{search_ids::warningOr, methodKeys[0]}};
-constexpr std::array scopes{Choice{search_ids::warningHeadlines, scopeKeys[0]},
-                            Choice{search_ids::warningStories, scopeKeys[1]},
-                            Choice{search_ids::warningBoth, scopeKeys[2]}};
-
-}  // namespace
 
 CWarnTermConfigDlg::CWarnTermConfigDlg(const CSearch& edited, QWidget* parent)
     : QDialog(parent), condition(edited) {
@@ -37,8 +25,8 @@ CWarnTermConfigDlg::CWarnTermConfigDlg(const CSearch& edited, QWidget* parent)
     vCreateControls();
     const QStringList keywords(condition.keywords.begin(), condition.keywords.end());
     keywordEdit->setText(keywords.join(u", "_s));
-    method->button(condition.method == conditions::methodAll ? 0 : 1)->setChecked(true);
-    scope->button(std::min<int>(condition.scope, 2))->setChecked(true);
+    method->button(numberOf(shownMethod(condition.method)))->setChecked(true);
+    scope->button(numberOf(scopeOf(condition.scope)))->setChecked(true);
     keywordEdit->setFocus();
 }
 
@@ -52,10 +40,13 @@ void CWarnTermConfigDlg::vCreateControls() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(fontMetrics().height());
     grid->addWidget(AddCaption(this, 0, LangText(search_keys::contentsColumn)), 0, 0);
-    grid->addWidget(keywordEdit, 0, 1, 1, static_cast<int>(scopes.size()) + 1);
-    method = AddChoices(this, *grid, 1, AddCaption(this, 0, LangText(search_keys::method)), methods);
-    scope = AddChoices(this, *grid, 2, AddCaption(this, 0, LangText(search_keys::scope)), scopes);
-    grid->setColumnStretch(static_cast<int>(scopes.size()) + 1, 1);
+    const int columns = static_cast<int>(search_ids::warningScopeButtons.size()) + 1;
+    grid->addWidget(keywordEdit, 0, 1, 1, columns);
+    method = AddChoices(this, *grid, 1, AddCaption(this, 0, LangText(search_keys::method)),
+                        ChoicesOf(search_ids::warningMethodButtons));
+    scope = AddChoices(this, *grid, 2, AddCaption(this, 0, LangText(search_keys::scope)),
+                       ChoicesOf(search_ids::warningScopeButtons));
+    grid->setColumnStretch(columns, 1);
 
     QPushButton* ok = AddButton(this, search_ids::ok, LangText(search_keys::warningOk));
     ok->setDefault(true);
@@ -71,7 +62,7 @@ void CWarnTermConfigDlg::vCreateControls() {
 CSearch CWarnTermConfigDlg::Condition() const {
     CSearch edited = condition;
     edited.keywords = KeywordsOfText(keywordEdit->text());
-    edited.method = method->checkedId() == 0 ? conditions::methodAll : conditions::methodAny;
+    edited.method = static_cast<unsigned char>(method->checkedId());
     edited.scope = static_cast<unsigned char>(scope->checkedId());
     return edited;
 }

@@ -25,7 +25,7 @@ private:
 
     CSearch condition;
     QLineEdit* keywordEdit = nullptr;
-    QButtonGroup* method = nullptr;  // button ids: 0 all keywords, 1 any keyword
+    QButtonGroup* method = nullptr;  // button ids: SearchMethod
     QButtonGroup* scope = nullptr;   // button ids: the scope
 };
 

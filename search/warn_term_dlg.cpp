@@ -9,6 +9,7 @@
 #include "search/dialog_controls.h"
 #include "search/report_list.h"
 #include "search/search_ids.h"
+#include "search/search_keys.h"
 #include "search/warn_term_config_dlg.h"
 
 #include <QBoxLayout>
@@ -27,8 +28,7 @@ constexpr int rowsInSight = 10;
 
 // A method that is not set has no text.
 QString methodText(int method) {
-    const bool known = method == conditions::methodAll || method == conditions::methodAny;
-    return known ? MethodText(method) : QString();
+    return isSearchMethod(method) ? MethodText(method) : QString();
 }
 
 }  // namespace
@@ -116,7 +116,7 @@ bool CWarnTermDlg::bEdit(CSearch& condition) {
 
 void CWarnTermDlg::vAdd() {
     CSearch condition;
-    condition.method = conditions::methodAll;
+    condition.method = numberOf(SearchMethod::All);
     if (bEdit(condition) && warnings.Add(condition))
         vFillRow(list->rowCount());
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/warning_items.h"
 
+#include "host/contract/search_choices.h"
 #include "search/recent_searches.h"
 
 #include <algorithm>
@@ -40,14 +41,13 @@ void WarningItems::Remove(int row) {
 }
 
 void WarningItems::Choose(int row, CSearch& condition) {
-    constexpr unsigned char both = 2;
     const CSearch* item = Item(row);
     if (item == nullptr)
         return;
     condition.keywords = item->keywords;
     condition.symbols.clear();
-    condition.scope = std::min(item->scope, both);
-    if (item->method == 1 || item->method == 2)
+    condition.scope = numberOf(scopeOf(item->scope));
+    if (isSearchMethod(item->method))
         condition.method = item->method;
     const bool known = std::any_of(items.begin(), items.end(),
                                    [&](const CSearch& other) { return AsksTheSame(other, condition); });

@@ -4,6 +4,7 @@
 
 #include "backend/database/database.h"
 #include "backend/words/search_words.h"
+#include "host/contract/search_choices.h"
 
 #include <QStringList>
 
@@ -22,10 +23,10 @@ QString phraseOf(QString text) {
     return u'"' + text.replace(u'\0', u' ').replace(u'"', u"\"\""_s) + u'"';
 }
 
-QString withinScope(const QString& phrases, unsigned char scope) {
-    if (scope > 1)
+QString withinScope(const QString& phrases, SearchScope scope) {
+    if (scope == SearchScope::Both)
         return phrases;
-    return (scope == 0 ? u"title : ("_s : u"story : ("_s) + phrases + u')';
+    return (scope == SearchScope::Headlines ? u"title : ("_s : u"story : ("_s) + phrases + u')';
 }
 
 // The queries whose matches together are those of the condition. What must all be there is asked for at once:
@@ -37,10 +38,10 @@ QStringList queriesOf(const CSearch& condition) {
         if (const QString text = keywordText(keyword); !text.isEmpty())
             phrases += phraseOf(text);
     }
-    if (condition.method != 2 && !phrases.isEmpty())
+    if (condition.method != numberOf(SearchMethod::Any) && !phrases.isEmpty())
         phrases = {phrases.join(u" AND "_s)};
     for (QString& query : phrases)
-        query = withinScope(query, condition.scope);
+        query = withinScope(query, scopeOf(condition.scope));
     return phrases;
 }
 

@@ -3,6 +3,7 @@
 #include "search/search_memory.h"
 
 #include "fuzz/support/fuzz_input.h"
+#include "host/contract/search_choices.h"
 #include "search/key_set_text.h"
 
 #include <algorithm>
@@ -32,7 +33,8 @@ void promiseCondition(const QString& text) {
     promise(std::none_of(condition.keywords.begin(), condition.keywords.end(),
                          [](const QString& keyword) { return keyword.isEmpty(); }),
             "keywords are not empty");
-    promise(condition.scope <= 2 && condition.method <= 2, "scope and method are known ones");
+    promise(condition.scope <= lastSearchScope && condition.method <= lastSearchMethod,
+            "scope and method are known ones");
     const QString written = condition.GetString();
     promise(!written.contains(u'\n') && !written.contains(u'\r'), "a condition is one line of text");
     CSearch again;

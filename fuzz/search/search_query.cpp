@@ -7,6 +7,7 @@
 #include "backend/store/store_writer.h"
 #include "backend/words/search_words.h"
 #include "fuzz/support/fuzz_input.h"
+#include "tests/support/keyword_rule.h"
 
 #include <QTemporaryDir>
 
@@ -79,8 +80,8 @@ QString wordsOf(const QString& text, LineEnds lineEnds) {
 
 // What the search has to answer, found without an index.
 bool holds(const QString& title, const QString& story, const CSearch& condition) {
-    bool any = false;
-    bool all = true;
+    std::size_t asked = 0;
+    std::size_t held = 0;
     for (const QString& keyword : condition.keywords) {
         const QString text = keywordText(keyword);
         if (text.isEmpty())
@@ -88,10 +89,10 @@ bool holds(const QString& title, const QString& story, const CSearch& condition)
         const QString phrase = wordsOf(text, LineEnds::Blanks);
         const bool found = (condition.scope != 1 && wordsOf(title, LineEnds::Words).contains(phrase)) ||
                            (condition.scope != 0 && wordsOf(story, LineEnds::Words).contains(phrase));
-        any = any || found;
-        all = all && found;
+        ++asked;
+        held += found ? 1 : 0;
     }
-    return condition.method == 2 ? any : any && all;
+    return asked > 0 && fitsKeywords(static_cast<SearchMethod>(condition.method), held, asked);
 }
 
 }  // namespace
@@ -104,8 +105,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         store = std::make_unique<OneItemStore>();
     FuzzInput input(bytes, size);
     CSearch condition;
-    condition.scope = input.byte() % 3;
-    condition.method = input.byte() % 3;
+    condition.scope = input.byte() % (lastSearchScope + 1);
+    condition.method = input.byte() % (lastSearchMethod + 1);
     input.line();
     condition.keywords = {QString::fromUtf8(input.line()), QString::fromUtf8(input.line())};
     const QString title = QString::fromUtf8(input.line());

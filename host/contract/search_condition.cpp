@@ -3,6 +3,7 @@
 #include "host/contract/search_condition.h"
 
 #include "host/contract/json_fields.h"
+#include "host/contract/search_choices.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -15,8 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr unsigned char highestScope = 2;
-constexpr unsigned char highestMethod = 2;
 constexpr std::int64_t earliest = std::numeric_limits<std::int64_t>::min();
 constexpr std::int64_t latest = std::numeric_limits<std::int64_t>::max();
 
@@ -62,9 +61,10 @@ bool CSearch::LoadStringA(const QString& text) {
     JsonFields fields(document.object());
     CSearch read;
     read.keywords = keywordsFrom(fields.list(u"keywords"_s));
-    read.scope = static_cast<unsigned char>(fields.optionalNumber(u"scope"_s, 0, highestScope).value_or(0));
+    read.scope =
+        static_cast<unsigned char>(fields.optionalNumber(u"scope"_s, 0, lastSearchScope).value_or(0));
     read.method =
-        static_cast<unsigned char>(fields.optionalNumber(u"method"_s, 0, highestMethod).value_or(0));
+        static_cast<unsigned char>(fields.optionalNumber(u"method"_s, 0, lastSearchMethod).value_or(0));
     read.time = fields.optionalNumber(u"time"_s, earliest, latest).value_or(0);
     read.keywordSearch = fields.optionalFlag(u"keywordSearch"_s).value_or(false);
     const auto readSymbols = symbolsFrom(fields.optionalList(u"symbols"_s).value_or(QJsonArray()));

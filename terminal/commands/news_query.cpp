@@ -3,6 +3,7 @@
 #include "terminal/commands/news_query.h"
 
 #include "backend/search/news_search.h"
+#include "host/contract/search_choices.h"
 #include "terminal/commands/command_arguments.h"
 
 #include <algorithm>
@@ -26,27 +27,40 @@ bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
     return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
 }
 
+void addChoices(QCommandLineParser& parser, const auto& table) {
+    for (const auto& choice : table) {
+        if (!choice.option.isEmpty())
+            parser.addOption({QString(choice.option), QString(choice.help)});
+    }
+}
+
+// The choice whose option is given; `otherwise` without one and where two are.
+template <class Number>
+Number chosen(const QCommandLineParser& parser, const auto& table, Number otherwise) {
+    std::vector<Number> given;
+    for (const auto& choice : table) {
+        if (!choice.option.isEmpty() && parser.isSet(choice.option))
+            given.push_back(choice.number);
+    }
+    return given.size() == 1 ? given.front() : otherwise;
+}
+
 }  // namespace
 
 void addQueryOptions(QCommandLineParser& parser) {
-    parser.addOptions({
-        {u"service"_s, u"News of this service only."_s, u"id"_s},
-        {u"title"_s, u"Searches titles only."_s},
-        {u"story"_s, u"Searches stories only."_s},
-        {u"any"_s, u"One keyword is enough."_s},
-        {u"symbol"_s, u"Only news that names this symbol, such as 16:2330; may be repeated."_s,
-         u"market:code"_s},
-    });
+    parser.addOption({u"service"_s, u"News of this service only."_s, u"id"_s});
+    addChoices(parser, searchScopes);
+    addChoices(parser, searchMethods);
+    parser.addOption({u"symbol"_s, u"Only news that names this symbol, such as 16:2330; may be repeated."_s,
+                      u"market:code"_s});
 }
 
 CSearch conditionOf(CommandArguments& arguments, const QStringList& keywords) {
     const QCommandLineParser& parser = arguments.parser;
     CSearch condition;
     condition.keywords.assign(keywords.begin(), keywords.end());
-    condition.method = parser.isSet(u"any"_s) ? 2 : 1;
-    condition.scope = 2;
-    if (parser.isSet(u"title"_s) != parser.isSet(u"story"_s))
-        condition.scope = parser.isSet(u"title"_s) ? 0 : 1;
+    condition.method = numberOf(chosen(parser, searchMethods, SearchMethod::All));
+    condition.scope = numberOf(chosen(parser, searchScopes, SearchScope::Both));
     for (const QString& symbol : parser.values(u"symbol"_s))
         condition.symbols.push_back(symbolOf(symbol, arguments));
     return condition;

@@ -18,7 +18,7 @@ class CommandArguments;
 
 inline constexpr int lastNewsService = 255;
 
-// The options that say which news a command is about: --service, --title, --story, --any, --symbol.
+// The options that say which news a command is about: --service, --symbol, and those of scopes and methods.
 void addQueryOptions(QCommandLineParser& parser);
 // The condition of the options and these keywords; what is wrong about it is a fault of the arguments.
 CSearch conditionOf(CommandArguments& arguments, const QStringList& keywords);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/backend/search/plain_scan.h"
 
+#include "tests/support/keyword_rule.h"
+
 #include <QByteArrayMatcher>
 
 #include <algorithm>
@@ -48,9 +50,10 @@ QStringList PlainScan::find(unsigned char service, const CSearch& condition) con
             });
         };
         const auto& symbols = condition.symbols;
-        const bool all = condition.method == 2 ? std::any_of(phrases.begin(), phrases.end(), holds)
-                                               : std::all_of(phrases.begin(), phrases.end(), holds);
-        if (all && (symbols.empty() || std::any_of(symbols.begin(), symbols.end(), named)))
+        const auto held = std::count_if(phrases.begin(), phrases.end(), holds);
+        const bool fits = fitsKeywords(static_cast<SearchMethod>(condition.method),
+                                       static_cast<std::size_t>(held), phrases.size());
+        if (fits && (symbols.empty() || std::any_of(symbols.begin(), symbols.end(), named)))
             found += entry.identity;
     }
     found.sort();

@@ -4,6 +4,7 @@
 #include "backend/import/mapping.h"
 #include "backend/search/news_search.h"
 #include "backend/store/store_file.h"
+#include "host/contract/search_choices.h"
 #include "tests/backend/search/plain_scan.h"
 #include "tests/backend/store/store_fixture.h"
 
@@ -116,7 +117,7 @@ TEST_F(SearchScan, FindsExactlyWhatAPlainScanFinds) {
         while (condition.keywords.size() < count)
             condition.keywords.push_back(someKeyword(item, random));
         condition.scope = static_cast<unsigned char>(random() % 5 / 2);
-        condition.method = static_cast<unsigned char>(1 + random() % 2);
+        condition.method = static_cast<unsigned char>(1 + random() % lastSearchMethod);
         if (random() % 8 == 0)
             condition.symbols = {{16, u"2330"_s}, {16, u"2317"_s}};
         const unsigned char service = random() % 10 == 0 ? 1 : item.service;
