@@ -7,8 +7,8 @@
 #include <optional>
 #include <vector>
 
-// The times at which the back end was cut off from its source. News of such a time came late. Times are
-// seconds since 1970.
+// The outages: the times at which the back end was cut off from its source. News of such a time came late.
+// Times are seconds since 1970.
 class FeedBreaks {
 public:
     // The connection is lost, is back. Said twice it counts once.

@@ -66,11 +66,11 @@ void StoreSync::syncWhatIsNew() {
     const std::int64_t upTo = commits;
     if (synced == upTo)
         return;
-    const bool carries = isLong.exchange(false);
+    const bool isDue = isLong.exchange(false);
     const Done done = sync();
     // Before anybody is called: who waits for the disk does not lengthen the log meanwhile.
-    if (carries)
-        carryOver();
+    if (isDue)
+        checkpoint();
     synced = upTo;
     outcome = done;
     answers.post([this, upTo, done] { deliver(upTo, done); });
@@ -98,7 +98,7 @@ Done StoreSync::sync() {
 }
 
 // As far as no reader needs the log; the rest comes with a later commit.
-void StoreSync::carryOver() {
+void StoreSync::checkpoint() {
     if (database)
         sqlite3_wal_checkpoint_v2(database->handle(), "main", SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
 }

@@ -14,7 +14,7 @@
 
 namespace wirepane {
 
-// Brings what is committed to a store to its disk on a thread and a connection of its own, so that a slow
+// Flushes what is committed to a store to its disk on a thread and a connection of its own, so that a slow
 // disk keeps nobody waiting who commits. What is committed survives the death of the program at once, and
 // that of the machine once it is on the disk. Interface thread.
 class StoreSync {
@@ -23,7 +23,7 @@ public:
     using Callback = std::function<void(const Done& onDisk)>;
 
     // The database is not owned and outlives this. From now on its commits do not wait for the disk, and its
-    // log is carried over into its file by the thread.
+    // log gets its checkpoints from the thread.
     explicit StoreSync(Database& database);
     ~StoreSync();
     StoreSync(const StoreSync&) = delete;
@@ -42,7 +42,7 @@ private:
     // On the thread:
     void syncWhatIsNew();
     Done sync();
-    void carryOver();
+    void checkpoint();
 
     const QString path;
     sqlite3* const writing;

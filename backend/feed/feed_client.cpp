@@ -23,8 +23,8 @@ constexpr qint64 windowBytes = 1024 * 1024;
 
 }  // namespace
 
-FeedClient::FeedClient(QString socketName, FeedHello greeting, QObject* parent)
-    : QObject(parent), name(std::move(socketName)), hello(std::move(greeting)) {
+FeedClient::FeedClient(QString socketName, FeedHello handshake, QObject* parent)
+    : QObject(parent), name(std::move(socketName)), hello(std::move(handshake)) {
     again.setSingleShot(true);
     again.setInterval(retryMs);
     connect(&again, &QTimer::timeout, this, &FeedClient::connectAgain);

@@ -20,8 +20,8 @@ void LineSource::add(const QByteArray& line) {
     if (!begun) {
         const FeedLine first = parsedFeedLine(line, hello.service);
         begun = true;
-        if (const auto* greeting = std::get_if<FeedHello>(&first)) {
-            hello = *greeting;
+        if (const auto* handshake = std::get_if<FeedHello>(&first)) {
+            hello = *handshake;
             isAwaiting = true;
             return;
         }

@@ -14,7 +14,7 @@
 namespace wirepane {
 
 // A source whose lines come by a pipe or a socket, in the form of feed_line.h. Lines are counted from 1 on,
-// the greeting apart.
+// the handshake apart.
 class LineSource : public FeedSource {
 public:
     // What the sender is told when lines are on the disk.
@@ -23,7 +23,7 @@ public:
         BatchOutcome outcome;
     };
 
-    // `service` is that of records before which no greeting names one. A batch ends with the line during
+    // `service` is that of records before which no handshake names one. A batch ends with the line during
     // which it has taken longer than `longestTaking`.
     explicit LineSource(unsigned char service = 1,
                         std::chrono::milliseconds longestTaking = std::chrono::hours(1))
@@ -31,7 +31,7 @@ public:
         hello.service = service;
     }
 
-    // The next line; a greeting counts only before the first item.
+    // The next line; a handshake counts only before the first item.
     void add(const QByteArray& line);
     // In place of a line that was passed over.
     void addRejected(const Error& reason);

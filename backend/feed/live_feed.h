@@ -55,8 +55,8 @@ public:
     // Those that have a name, in the order in which they came.
     std::vector<SourceReport> sources() const;
 
-    // A break keeps everything away: files stay in the spool, clients are sent off and may come again after
-    // it. What came to the store meanwhile is told when it is over, oldest first.
+    // An outage, a break, keeps everything away: files stay in the spool, clients are sent off and may come
+    // again after it. What came to the store meanwhile is told when it is over, oldest first.
     void setConnected(bool connected);
     FeedState state() const { return current; }
     // Nothing is at hand, and everybody has been told of everything.
@@ -72,7 +72,7 @@ signals:
 private:
     struct Entry {
         std::shared_ptr<FeedSource> source;
-        int batch = 0;  // that is on the way to the disk; 0: none
+        int batch = 0;  // that is being flushed; 0: none
     };
 
     void sourceReady(FeedSource& source) override;

@@ -7,7 +7,7 @@
 namespace wirepane {
 
 namespace {
-constexpr int portion = 500;
+constexpr int batch = 500;
 }
 
 NewsDelivery::NewsDelivery(ArrivalLog& log, std::function<void(const Arrival&)> telling)
@@ -42,7 +42,7 @@ void NewsDelivery::handOn() {
     if (isBusy || isPosted)
         return;
     isBusy = true;
-    for (int left = portion; left > 0 && isOpen && !waiting.empty(); --left) {
+    for (int left = batch; left > 0 && isOpen && !waiting.empty(); --left) {
         const Arrival next = waiting.front();
         waiting.pop_front();
         tell(next);

@@ -13,7 +13,7 @@
 namespace wirepane {
 
 // Hands what comes into a store on to whoever shall hear of it, each arrival once, whoever wrote it. Many
-// arrivals are handed on in portions, with the event loop running between them. Interface thread.
+// arrivals are handed on in batches, with the event loop running between them. Interface thread.
 class NewsDelivery : public QObject {
     Q_OBJECT
 

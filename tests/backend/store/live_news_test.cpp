@@ -225,7 +225,7 @@ TEST_F(LiveNewsTest, ABurstIsOneTransactionAndIsToldInPortions) {
     EXPECT_EQ(entriesOfToday(), burst);
     EXPECT_LT(listener.heard.size(), burst);
     EXPECT_FALSE(backEnd.isDelivered());
-    // A break in the middle of the portions loses none.
+    // A break in the middle of the batches loses none.
     backEnd.setConnected(false);
     QCoreApplication::processEvents();
     const auto before = listener.heard.size();
