@@ -7,15 +7,8 @@
 
 namespace wirepane {
 
-namespace {
-
-constexpr ErrorCode asItIs{"ERROR_AS_IT_IS", u"%1"};
-
-}  // namespace
-
 Error::Error(const ErrorCode& ofError, std::vector<ErrorArgument> withArguments)
     : code(&ofError), arguments(std::move(withArguments)) {}
-Error::Error(const QString& text) : Error(makeError<asItIs>(text)) {}
 
 ErrorArgument::ErrorArgument(QString asItIs) : text(std::move(asItIs)) {}
 ErrorArgument::ErrorArgument(QChar asItIs) : text(asItIs) {}

@@ -26,7 +26,6 @@ struct ErrorArgument;
 // makeError().
 struct Error {
     Error(const ErrorCode& code, std::vector<ErrorArgument> arguments);
-    Error(const QString& sentence);
 
     bool operator==(const Error&) const;
 

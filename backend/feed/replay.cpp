@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/replay.h"
 
+#include "backend/feed/feed_errors.h"
 #include "backend/feed/feed_line.h"
 #include "host/contract/clock.h"
 
@@ -61,7 +62,8 @@ Done ReplayReader::readDue(std::size_t& next, SourceBatch& batch) {
         }
         characters += news.story ? news.story->size() : 0;
         batch.position = QString::number(++next);
-        batch.items.push_back({StoreItem(std::move(news)), Phrase(batch.position), 0});
+        batch.items.push_back(
+            {StoreItem(std::move(news)), makeError<feed_errors::atPosition>(batch.position), 0});
     }
     return Nothing{};
 }

@@ -3,10 +3,6 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name></name>
-    <message id="ERROR_AS_IT_IS">
-        <source></source>
-        <translation>%1</translation>
-    </message>
     <message id="ERROR_COMMANDS_FILES_NOT_READ">
         <source></source>
         <translation>%1 of %2 files could not be read.</translation>
@@ -94,6 +90,10 @@
     <message id="ERROR_DATABASE_TAKEN_AWAY">
         <source></source>
         <translation>%1 was moved or deleted while it was open: no news is taken in until it is back or the program is started again.</translation>
+    </message>
+    <message id="ERROR_FEED_AT_POSITION">
+        <source></source>
+        <translation>%1</translation>
     </message>
     <message id="ERROR_FEED_GREETING_NOT_FIRST">
         <source></source>

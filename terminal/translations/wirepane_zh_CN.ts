@@ -3,10 +3,6 @@
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
     <name></name>
-    <message id="ERROR_AS_IT_IS">
-        <source></source>
-        <translation>%1</translation>
-    </message>
     <message id="ERROR_COMMANDS_FILES_NOT_READ">
         <source></source>
         <translation>%2 个文件中有 %1 个无法读取。</translation>
@@ -94,6 +90,10 @@
     <message id="ERROR_DATABASE_TAKEN_AWAY">
         <source></source>
         <translation>%1 在使用期间已被移动或删除；还原该文件或重新启动程序之前，不会接收任何新闻。</translation>
+    </message>
+    <message id="ERROR_FEED_AT_POSITION">
+        <source></source>
+        <translation>%1</translation>
     </message>
     <message id="ERROR_FEED_GREETING_NOT_FIRST">
         <source></source>

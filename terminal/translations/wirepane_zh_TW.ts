@@ -3,10 +3,6 @@
 <TS version="2.1" language="zh_TW" sourcelanguage="en">
 <context>
     <name></name>
-    <message id="ERROR_AS_IT_IS">
-        <source></source>
-        <translation>%1</translation>
-    </message>
     <message id="ERROR_COMMANDS_FILES_NOT_READ">
         <source></source>
         <translation>%2 個檔案中有 %1 個無法讀取。</translation>
@@ -94,6 +90,10 @@
     <message id="ERROR_DATABASE_TAKEN_AWAY">
         <source></source>
         <translation>%1 在使用期間已被移動或刪除；還原該檔案或重新啟動程式之前，不會接收任何新聞。</translation>
+    </message>
+    <message id="ERROR_FEED_AT_POSITION">
+        <source></source>
+        <translation>%1</translation>
     </message>
     <message id="ERROR_FEED_GREETING_NOT_FIRST">
         <source></source>

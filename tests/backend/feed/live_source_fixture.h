@@ -19,6 +19,8 @@
 
 namespace wirepane {
 
+inline constexpr ErrorCode entryOfLog{"", u"entry %1"};
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -72,7 +74,7 @@ public:
         for (int next = position.toInt(); queue.waitUntil(std::chrono::steady_clock::now() + 1ms);) {
             SourceBatch batch;
             while (next < log.size && std::ssize(batch.items) < perBatch) {
-                batch.items.push_back({StoreItem(numbered(++next)), u"entry %1"_s.arg(next), 0});
+                batch.items.push_back({StoreItem(numbered(++next)), makeError<entryOfLog>(next), 0});
                 batch.position = QString::number(next);
             }
             if (batch.items.empty())

@@ -9,6 +9,7 @@ namespace wirepane {
 
 namespace {
 
+constexpr ErrorCode placeOfItemNo{"", u"%1"};
 constexpr ErrorCode noMore{"", u": no more"};
 
 TEST_F(LiveSourceTest, AReaderThatIsKilledAnywhereGoesOnBehindWhatWasKept) {
@@ -72,7 +73,7 @@ TEST(QueuedSourceTest, BatchesAndStatesComeInTheOrderOfReading) {
     QueuedSource source(u"s"_s, std::make_unique<ScriptedReader>([](SourceQueue& queue) {
                             queue.tell(SourceState::Live);
                             for (int i = 1; i <= 6; ++i) {
-                                queue.push({{{StoreItem(numbered(i)), QString::number(i), 0}}, {}});
+                                queue.push({{{StoreItem(numbered(i)), makeError<placeOfItemNo>(i), 0}}, {}});
                                 if (i == 3)
                                     queue.tell(SourceState::Stale);
                                 if (i == 5)
