@@ -11,13 +11,16 @@
 
 #include <vector>
 
+enum class HeadlineColumn;
+
 // What was written into a row.
 struct WrittenCells {
-    QString time;
-    QString category;
-    QString title;
-    QColor categoryColour;  // of the category's text; invalid: the grid's own
-    bool showDate = false;  // the time is written with its date
+    std::vector<QString> texts;  // by HeadlineColumn
+    QColor categoryColour;       // of the category's text; invalid: the grid's own
+    bool showDate = false;       // the time is written with its date
+
+    const QString& textOf(HeadlineColumn column) const { return texts[static_cast<std::size_t>(column)]; }
+    QString& textOf(HeadlineColumn column) { return texts[static_cast<std::size_t>(column)]; }
 };
 
 // The cells that were written, by headline: a row that moves keeps its texts without being touched. Rows that

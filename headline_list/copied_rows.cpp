@@ -3,6 +3,7 @@
 // The rows of a headline list as text.
 #include "headline_list/cell_state.h"
 #include "headline_list/cell_texts.h"
+#include "headline_list/headline_columns.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
 
@@ -15,15 +16,18 @@ QString HeadlineList::TextOfRows(const std::vector<int>& rows) const {
         if (row >= 0 && row < table.size() && entries.size() < mostCopiedRows)
             entries.push_back(table.at(row));
     }
-    QHash<HeadlineKey, QString> titles;
+    // The time is known of every row, the rest of those whose headlines are at hand.
+    QHash<HeadlineKey, QString> rests;
     for (const CHeadline& headline : headlinesOf(entries)) {
-        const QString category =
-            hasTwoColumns() ? QString()
-                            : owner.CategoryNameOf(headline.service, headline.categoryId) + QLatin1Char('\t');
-        titles[KeyOf(headline)] = category + ShownText(backEnd, headline.service, headline.title);
+        QStringList texts;
+        for (int place = 0; const HeadlineColumnKind* column = columnAt(place); ++place) {
+            if (column->column != HeadlineColumn::Time)
+                texts.append(column->text({headline, true, backEnd, owner}));
+        }
+        rests[KeyOf(headline)] = texts.join(QLatin1Char('\t'));
     }
     QStringList lines;
     for (const CHeadlineTable& entry : entries)
-        lines.append(TimeText(entry.time, true) + QLatin1Char('\t') + titles[KeyOf(entry)]);
+        lines.append(TimeText(entry.time, true) + QLatin1Char('\t') + rests[KeyOf(entry)]);
     return lines.join(QLatin1Char('\n'));
 }

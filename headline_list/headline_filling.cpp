@@ -3,6 +3,7 @@
 // How the rows of a headline list are written.
 #include "headline_list/cell_state.h"
 #include "headline_list/cell_texts.h"
+#include "headline_list/headline_columns.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
@@ -76,24 +77,22 @@ void HeadlineList::vUpdataTopHeadline(bool showDate, const RelationMatcher* rela
 }
 
 void HeadlineList::vFillTempHeadline() {
-    const QString placeholder = LangText(backEnd, keys::recover);
     const std::vector<CHeadlineTable> shown = vGetShowedHeadlineTable();
     int row = shown.empty() ? 0 : sheet->iGetFirstVisibleRow();
     for (const CHeadlineTable& entry : shown) {
         const WrittenCells* written = cellsOf(row);
-        const bool right = written != nullptr && (written->time == TimeText(entry.time, kind.showDate) ||
-                                                  written->time == TimeText(entry.time, !kind.showDate));
-        if (!right) {
-            const bool showDate = kind.showDate != cells.hasOtherTimeForm(KeyOf(entry));
-            writeCells(row, {TimeText(entry.time, showDate), placeholder, placeholder, {}, showDate});
-        }
+        const QString time = written != nullptr ? written->textOf(HeadlineColumn::Time) : QString();
+        const bool right = written != nullptr && (time == TimeText(entry.time, kind.showDate) ||
+                                                  time == TimeText(entry.time, !kind.showDate));
+        if (!right)
+            writeCells(row, placeholdersOf(entry, kind.showDate != cells.hasOtherTimeForm(KeyOf(entry))));
         ++row;
     }
 }
 
 void HeadlineList::vUpdateHeadline(int row, const CHeadline& headline, bool showDate) {
     const WrittenCells* written = cellsOf(row);
-    if (written != nullptr && written->title == headline.title)
+    if (written != nullptr && written->textOf(HeadlineColumn::Title) == headline.title)
         return;
     // A row whose texts were let go is written as it was: a refresh alone changes nothing in it.
     const bool otherForm =
@@ -103,21 +102,42 @@ void HeadlineList::vUpdateHeadline(int row, const CHeadline& headline, bool show
 
 void HeadlineList::writeHeadline(int row, const CHeadline& headline, bool showDate) {
     const QString category = owner.CategoryNameOf(headline.service, headline.categoryId);
-    writeCells(row, {TimeText(headline.time, showDate), ShownText(backEnd, headline.service, category),
-                     ShownText(backEnd, headline.service, headline.title),
-                     categoryColour(headline.service, category), showDate});
+    WrittenCells written{{}, categoryColour(headline.service, category), showDate};
+    for (const HeadlineColumnKind& column : headlineColumns)
+        written.texts.push_back(column.text({headline, showDate, backEnd, owner}));
+    writeCells(row, written);
+}
+
+// What is said of a row whose headline is not at hand.
+WrittenCells HeadlineList::placeholdersOf(const CHeadlineTable& entry, bool showDate) const {
+    const QString placeholder = LangText(backEnd, keys::recover);
+    CHeadline known;
+    known.service = entry.service;
+    known.time = entry.time;
+    known.sequence = entry.sequence;
+    WrittenCells written{{}, {}, showDate};
+    for (const HeadlineColumnKind& column : headlineColumns)
+        written.texts.push_back(column.ofEntry ? column.text({known, showDate, backEnd, owner})
+                                               : placeholder);
+    return written;
 }
 
 void HeadlineList::vFillSheet(int row, const QString& time, const QString& category, const QString& title) {
-    const unsigned char service = row >= 0 && row < table.size() ? table.at(row).service : 0;
-    writeCells(row, {time, category, title, categoryColour(service, category), kind.showDate});
+    if (row < 0 || row >= table.size())
+        return;
+    WrittenCells written = placeholdersOf(table.at(row), kind.showDate);
+    written.textOf(HeadlineColumn::Time) = time;
+    written.textOf(HeadlineColumn::Category) = category;
+    written.textOf(HeadlineColumn::Title) = title;
+    written.categoryColour = categoryColour(table.at(row).service, category);
+    writeCells(row, written);
 }
 
 // By the name as the catalogue has it, not as it is shown.
 QColor HeadlineList::categoryColour(unsigned char service, const QString& name) const {
     QColor text;
     QColor background;
-    if (!hasTwoColumns())
+    if (KindOf(HeadlineColumn::Category).isOf(owner.GetNewsType()))
         owner.CategoryColourOf(service, name, text, background);
     return text;
 }

@@ -3,6 +3,7 @@
 #include "headline_list/headline_list.h"
 
 #include "headline_list/cell_state.h"
+#include "headline_list/headline_columns.h"
 #include "headline_list/headline_table.h"
 #include "headline_list/reading_place.h"
 #include "host/contract/bk_quote_interface.h"
@@ -159,18 +160,19 @@ const WrittenCells* HeadlineList::cellsOf(int row) const {
     return row >= 0 && row < table.size() ? cells.find(KeyOf(table.at(row))) : nullptr;
 }
 
+const HeadlineColumnKind* HeadlineList::columnAt(int place) const {
+    return ColumnAt(owner.GetNewsType(), place);
+}
+
 QString HeadlineList::Text(int row, int column) const {
     const WrittenCells* written = cellsOf(row);
-    if (written == nullptr)
-        return {};
-    if (column == 0)
-        return written->time;
-    return column == 1 && !hasTwoColumns() ? written->category : written->title;
+    const HeadlineColumnKind* shown = columnAt(column);
+    return written != nullptr && shown != nullptr ? written->textOf(shown->column) : QString();
 }
 
 QColor HeadlineList::TextColour(int row, int column) const {
-    if (column == 0 && row >= 0 && row < table.size())
-        return owner.TimeColour(table.at(row).time);
-    const WrittenCells* written = column == 1 && !hasTwoColumns() ? cellsOf(row) : nullptr;
-    return written != nullptr ? written->categoryColour : QColor();
+    const HeadlineColumnKind* shown = columnAt(column);
+    if (shown == nullptr || shown->colour == nullptr || row < 0 || row >= table.size())
+        return {};
+    return shown->colour(owner, table.at(row).time, cellsOf(row));
 }

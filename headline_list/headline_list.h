@@ -22,6 +22,7 @@ struct CHeadline;
 struct CHeadlineTable;
 struct HeadlineKey;
 struct WrittenCells;
+struct HeadlineColumnKind;
 
 // Where a pushed headline went.
 struct HeadlinePlace {
@@ -91,15 +92,15 @@ public:
     // Takes a row out; one out of range is ignored.
     void vDeleteHeadline(int row);
 
-    // Writes the cells of one row.
+    // Writes the cells of one row; columns beside these three get the placeholder.
     void vFillSheet(int row, const QString& time, const QString& category, const QString& title);
 
     // Forgets what was written: the next refill writes every visible row anew, as after a change of language
     // or of category names. Rows whose time has the other form keep it.
     void vForgetWrittenCells();
 
-    // These rows, also those that are not on screen, a line each: date and time, category, title, with tabs
-    // between them. Rows that do not exist and those beyond mostCopiedRows are passed over.
+    // These rows, also those that are not on screen, a line each: their columns, with tabs between them and
+    // the time with its date. Rows that do not exist and those beyond mostCopiedRows are passed over.
     QString TextOfRows(const std::vector<int>& rows) const;
     static constexpr std::size_t mostCopiedRows = 10000;
 
@@ -111,11 +112,13 @@ public:
     QColor TextColour(int row, int column) const override;
 
 private:
-    bool hasTwoColumns() const { return owner.GetNewsType() == 1; }
+    // The column at a place of the grid; null: there is none.
+    const HeadlineColumnKind* columnAt(int place) const;
     std::vector<unsigned char> servicesToAsk() const;
     std::vector<CHeadline> headlinesOf(const std::vector<CHeadlineTable>& entries) const;
     const WrittenCells* cellsOf(int row) const;
     void writeHeadline(int row, const CHeadline& headline, bool showDate);
+    WrittenCells placeholdersOf(const CHeadlineTable& entry, bool showDate) const;
     QColor categoryColour(unsigned char service, const QString& name) const;
     void writeCells(int row, const WrittenCells& written);
     void letCellsGo();
@@ -133,9 +136,6 @@ private:
     std::optional<ReadingPlace>& heldPlace;
     QTimer afterPainting;  // then the table's index is built, for the first push to find
 };
-
-// The width of the category column while it is shown.
-inline constexpr int categoryColumnWidth = 50;
 
 // Creates a headline grid with the columns and header texts of the news type as a visible child of `parent`.
 CSuperSheetWnd* CreateHeadlineSheet(QWidget* parent, const QRect& rectangle, int newsType,

@@ -3,6 +3,7 @@
 #include "news_view/category_mode.h"
 
 #include "headline_list/cell_texts.h"
+#include "headline_list/headline_columns.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/language_keys.h"
@@ -87,10 +88,11 @@ void CategoryMode::showColumn() {
 
 void CategoryMode::showColumn(bool show) {
     CSuperSheetWnd* sheet = parts.lists[context.shownList()].pGetGrid();
-    const int width = show ? categoryColumnWidth : 0;
-    if (parts.newsType == 1 || sheet == nullptr || sheet->iGetColWidth(1) == width)
+    const int column = PlaceOf(HeadlineColumn::Category, parts.newsType);
+    const int width = show ? KindOf(HeadlineColumn::Category).width : 0;
+    if (column < 0 || sheet == nullptr || sheet->iGetColWidth(column) == width)
         return;
-    sheet->vSetColWidth(1, width);
+    sheet->vSetColWidth(column, width);
     sheet->viewport()->update();
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/context_menu.h"
 
+#include "headline_list/headline_columns.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/language_keys.h"
 #include "host/controls/plain_caption.h"
@@ -17,7 +18,7 @@ std::vector<MenuEntry> contextMenuEntries(const MenuSituation& situation, BKQuot
     const auto add = [&](QLatin1StringView key, int command) {
         entries.push_back({command, LangText(backEnd, key), {}});
     };
-    add(keys::showCategory, ids::changeCategoryState);
+    add(KindOf(HeadlineColumn::Category).menuKey, ids::changeCategoryState);
     entries.back().checked = situation.showsCategory;
     // Searches and warrants have no table that could be sent again.
     if (situation.mode <= ListIndex::Symbol) {

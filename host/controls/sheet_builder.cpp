@@ -20,17 +20,18 @@ bool CSheetBuilder::hasColumn(int column) const {
     return column >= 0 && column < static_cast<int>(columns.size());
 }
 
-void CSheetBuilder::vInsertColumn(int width, Qt::Alignment alignment) {
+void CSheetBuilder::vInsertColumn(int width, Qt::Alignment alignment, const QString& key) {
     const int end = static_cast<int>(columns.size());
     beginInsertColumns({}, end, end);
-    columns.push_back({std::max(0, width), alignment, {}});
+    columns.push_back({std::max(0, width), alignment, key, {}, {}});
     endInsertColumns();
 }
 
-void CSheetBuilder::vSetHeaderText(int column, const QString& text) {
+void CSheetBuilder::vSetHeaderText(int column, const QString& text, const QString& toolTip) {
     if (!hasColumn(column))
         return;
     columns[column].header = text;
+    columns[column].toolTip = toolTip;
     emit headerDataChanged(Qt::Horizontal, column, column);
 }
 
@@ -109,6 +110,10 @@ QVariant CSheetBuilder::headerData(int section, Qt::Orientation orientation, int
         return {};
     if (role == Qt::DisplayRole)
         return columns[section].header;
+    if (role == columnKeyRole)
+        return columns[section].key;
+    if (role == Qt::ToolTipRole && !columns[section].toolTip.isEmpty())
+        return columns[section].toolTip.toHtmlEscaped();
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(columns[section].alignment);
     return {};

@@ -41,10 +41,14 @@ class WIREPANE_HOST_EXPORT CSheetBuilder : public QAbstractTableModel {
 public:
     explicit CSheetBuilder(QObject* parent = nullptr);
 
-    // Appends a column `width` pixels wide (0 or more: a width of 0 hides it).
-    void vInsertColumn(int width, Qt::Alignment alignment);
-    // A column out of range is ignored.
-    void vSetHeaderText(int column, const QString& text);
+    // The header's data of this role is the key of a column.
+    static constexpr int columnKeyRole = Qt::UserRole;
+
+    // Appends a column `width` pixels wide (0 or more: a width of 0 hides it). The key is what code finds it
+    // by, wherever it stands.
+    void vInsertColumn(int width, Qt::Alignment alignment, const QString& key = {});
+    // What the header says, and in a tool tip (plain text; empty: none). A column out of range is ignored.
+    void vSetHeaderText(int column, const QString& text, const QString& toolTip = {});
     // The width that the column was inserted with; 0 for a column out of range.
     int iGetInitialWidth(int column) const;
 
@@ -91,7 +95,9 @@ private:
     struct Column {
         int width;
         Qt::Alignment alignment;
+        QString key;
         QString header;
+        QString toolTip;
     };
     bool hasColumn(int column) const;
     int queuedRowCount() const { return queue ? queue->size() : rows; }

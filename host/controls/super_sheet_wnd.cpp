@@ -119,9 +119,9 @@ bool CSuperSheetWnd::hasColumn(int column) const {
     return column >= 0 && column < static_cast<int>(widths.size());
 }
 
-void CSuperSheetWnd::vInsertColumn(int width, Qt::Alignment alignment) {
+void CSuperSheetWnd::vInsertColumn(int width, Qt::Alignment alignment, const QString& key) {
     if (builder != nullptr)
-        builder->vInsertColumn(width, alignment);
+        builder->vInsertColumn(width, alignment, key);
 }
 
 void CSuperSheetWnd::columnsInserted(int first, int last) {
@@ -131,13 +131,21 @@ void CSuperSheetWnd::columnsInserted(int first, int last) {
     }
 }
 
-void CSuperSheetWnd::vSetHeaderText(int column, const QString& text) {
+void CSuperSheetWnd::vSetHeaderText(int column, const QString& text, const QString& toolTip) {
     if (builder == nullptr)
         return;
     const bool named = accessibleName() != headerTexts();
-    builder->vSetHeaderText(column, text);
+    builder->vSetHeaderText(column, text, toolTip);
     if (!named)
         setAccessibleName(headerTexts());
+}
+
+int CSuperSheetWnd::iGetColumn(const QString& key) const {
+    for (int column = 0; column < static_cast<int>(widths.size()); ++column) {
+        if (builder->headerData(column, Qt::Horizontal, CSheetBuilder::columnKeyRole) == key)
+            return column;
+    }
+    return -1;
 }
 
 QString CSuperSheetWnd::headerTexts() const {

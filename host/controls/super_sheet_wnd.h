@@ -39,10 +39,13 @@ public:
 
     // Columns are cut at their width; the last one is stretched to the sheet's right edge when there is room,
     // unless vStretchLastColumn says otherwise. The user can resize them.
-    void vInsertColumn(int width, Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter);
+    void vInsertColumn(int width, Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter,
+                       const QString& key = {});
     void vStretchLastColumn(bool stretch);
     // The header texts are the sheet's accessible name, until another one is set.
-    void vSetHeaderText(int column, const QString& text);
+    void vSetHeaderText(int column, const QString& text, const QString& toolTip = {});
+    // The column that was inserted with the key; -1: none was.
+    int iGetColumn(const QString& key) const;
     // A width of 0 takes the column out of sight, and out of the user's reach.
     void vSetColWidth(int column, int width);
     // The width on screen, with what the last column was stretched by.

@@ -18,8 +18,7 @@ namespace wirepane {
 
 namespace {
 
-constexpr int categoryColumn = 1;
-constexpr int columnsWithCategory = 3;
+const QString categoryColumnKey = u"category"_s;
 
 struct Rows {
     int first = 0;
@@ -55,12 +54,11 @@ QJsonArray cellsReport(const QAbstractItemModel& model, const Rows& rows) {
     return cells;
 }
 
-QJsonArray coloursReport(const QAbstractItemModel& model, const Rows& rows) {
+QJsonArray coloursReport(const CSuperSheetWnd& sheet, const Rows& rows) {
     QJsonArray colours;
+    const int column = sheet.iGetColumn(categoryColumnKey);
     for (int row = rows.first; row < rows.first + rows.count; ++row) {
-        const QVariant brush = model.columnCount() == columnsWithCategory
-                                   ? model.index(row, categoryColumn).data(Qt::ForegroundRole)
-                                   : QVariant();
+        const QVariant brush = sheet.model()->index(row, column).data(Qt::ForegroundRole);
         colours.append(brush.isValid() ? QJsonValue(brush.value<QBrush>().color().name())
                                        : QJsonValue(QJsonValue::Null));
     }
@@ -115,7 +113,7 @@ Answer GridMethods::read(Params& params) {
         {u"selection"_s, selectionReport(*sheet)},
         {u"focus"_s, focus},
         {u"cells"_s, cellsReport(*sheet->model(), rows)},
-        {u"colours"_s, coloursReport(*sheet->model(), rows)},
+        {u"colours"_s, coloursReport(*sheet, rows)},
         {u"keys"_s, keysReport(*view->access, static_cast<int>(params.number(u"list"_s)), rows)}};
 }
 

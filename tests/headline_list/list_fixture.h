@@ -58,13 +58,16 @@ protected:
         return result;
     }
 
-    // The rows as the grid shows them, " | " between the cells.
+    // The time, category and title of the rows as the grid shows them, " | " between the cells.
     QStringList rows(const HeadlineList& of) const {
         QStringList result;
         for (int row = 0; row < of.pGetGrid()->iGetRowCount(); ++row) {
             QStringList cells;
-            for (int column = 0; column < of.pGetGrid()->model()->columnCount(); ++column)
-                cells.append(of.Text(row, column));
+            for (const QString& key :
+                 {QStringLiteral("time"), QStringLiteral("category"), QStringLiteral("title")}) {
+                if (const int column = of.pGetGrid()->iGetColumn(key); column >= 0)
+                    cells.append(of.Text(row, column));
+            }
             result.append(cells.join(QStringLiteral(" | ")));
         }
         return result;

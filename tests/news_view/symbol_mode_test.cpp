@@ -241,7 +241,7 @@ TEST_F(CategoryModeTest, TheColumnFollowsTheUserInViewsOfThreeColumns) {
     view.shown = ListIndex::All;
     settings.showCategory = true;
     mode.showColumn();
-    EXPECT_EQ(view.grid()->iGetColWidth(1), categoryColumnWidth);
+    EXPECT_EQ(view.grid()->iGetColWidth(1), 50);
     mode.toggleColumn();
     EXPECT_EQ(view.grid()->iGetColWidth(1), 0);
     newsType = 1;

@@ -95,7 +95,8 @@ protected:
         QStringList result;
         CSuperSheetWnd* sheet = view->Sheet(list);
         for (int row = 0; sheet != nullptr && row < sheet->iGetRowCount(); ++row)
-            result.append(sheet->model()->index(row, sheet->model()->columnCount() - 1).data().toString());
+            result.append(
+                sheet->model()->index(row, sheet->iGetColumn(QStringLiteral("title"))).data().toString());
         return result;
     }
 
