@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/contract/gone_headlines.h"
+#include "host/views/news_explanation.h"
 #include "host/views/news_module.h"
 #include "host/views/quote_base_view.h"
 
@@ -18,7 +19,10 @@ enum class ListIndex : int;
 //
 // The host creates it by its class name, then calls OnInitialUpdate and InitialViewInfo. A back end is
 // installed before and outlives the view. What is marked "For hosts" only hosts call, the module does not.
-class TRVNewsCtrlView : public TRVQuoteBaseView, public GoneHeadlineReceiver, public NewsViewAccess {
+class TRVNewsCtrlView : public TRVQuoteBaseView,
+                        public GoneHeadlineReceiver,
+                        public NewsViewAccess,
+                        public HeadlineExplainer {
     Q_OBJECT
 
 public:
@@ -182,6 +186,8 @@ public:
     QVariantMap StoryState(bool inDialog) const override;
     CSuperSheetWnd* Sheet(int list) const override;
     std::vector<HeadlineKey> Keys(int list, int from, int count) const override;
+    void ShowEachList() override;
+    std::vector<HeadlineStanding> Explain(const HeadlineKey& key) const override;
 
 protected:
     void OnTimer(int id) override;

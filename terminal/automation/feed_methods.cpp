@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/automation/feed_methods.h"
 
+#include "terminal/automation/headline_params.h"
 #include "terminal/session/session.h"
 
 #include <QDateTime>
@@ -81,17 +82,6 @@ std::optional<RpcError> refusalOf(const Result<TakeOutcome>& taken) {
     if (taken.value().take == Take::Rejected)
         return RpcError{RpcCode::BadParameters, sentence(*taken.value().reason)};
     return std::nullopt;
-}
-
-// A headline's key, by itself or as the parameter "key".
-HeadlineKey keyFrom(Params& params) {
-    Params key(params.has(u"key"_s) ? params.optionalObject(u"key"_s) : params.all());
-    const HeadlineKey read{key.number(u"time"_s, 0, lastNewsTime),
-                           static_cast<std::int32_t>(key.number(u"seq"_s)),
-                           static_cast<unsigned char>(key.number(u"service"_s, 1, lastId))};
-    if (key.error())
-        params.fail(key.error()->message);
-    return read;
 }
 
 std::optional<Held> heldFrom(Params& params) {
@@ -189,7 +179,7 @@ Answer FeedMethods::connectFeed(Params& params) {
 }
 
 Answer FeedMethods::story(Params& params) {
-    const HeadlineKey key = keyFrom(params);
+    const HeadlineKey key = headlineFrom(params);
     const QString story = params.text(u"story"_s);
     if (params.error())
         return {};
@@ -198,7 +188,7 @@ Answer FeedMethods::story(Params& params) {
 }
 
 Answer FeedMethods::updated(Params& params) {
-    const HeadlineKey key = keyFrom(params);
+    const HeadlineKey key = headlineFrom(params);
     if (!params.error())
         session.backEnd().announceStoryChange(key);
     return {};

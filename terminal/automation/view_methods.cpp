@@ -3,10 +3,14 @@
 #include "terminal/automation/view_methods.h"
 
 #include "host/contract/view_options.h"
+#include "host/views/news_explanation.h"
+#include "terminal/automation/headline_params.h"
 #include "terminal/automation/view_lookup.h"
 #include "terminal/automation/window_report.h"
 #include "terminal/session/session.h"
 #include "terminal/settings/layout_store.h"
+
+#include <QJsonArray>
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +38,42 @@ std::unique_ptr<MemoryCfgIO> settingsFrom(Params& params) {
     return settings;
 }
 
+// What an explanation calls its checks.
+QString checkName(StandingCheck check) {
+    switch (check) {
+        case StandingCheck::Told:
+            return u"told"_s;
+        case StandingCheck::Service:
+            return u"service"_s;
+        case StandingCheck::Day:
+            return u"day"_s;
+        case StandingCheck::Topic:
+            return u"topic"_s;
+        case StandingCheck::Symbol:
+            return u"symbol"_s;
+        case StandingCheck::KeySets:
+            return u"keySets"_s;
+        case StandingCheck::Filter:
+            return u"filter"_s;
+        case StandingCheck::Search:
+            return u"search"_s;
+    }
+    return {};
+}
+
+QJsonObject standingReport(const HeadlineStanding& standing) {
+    QJsonArray checks;
+    for (const CheckedStanding& checked : standing.checks)
+        checks.append(QJsonObject{{u"check"_s, checkName(checked.check)},
+                                  {u"passed"_s, checked.passed},
+                                  {u"wanted"_s, checked.wanted},
+                                  {u"has"_s, checked.has}});
+    return {{u"list"_s, standing.list},
+            {u"row"_s, standing.row},
+            {u"read"_s, standing.wasRead},
+            {u"checks"_s, checks}};
+}
+
 }  // namespace
 
 void ViewMethods::addTo(MethodTable& table) {
@@ -41,6 +81,7 @@ void ViewMethods::addTo(MethodTable& table) {
     table.add(u"view.close"_s, [this](Params& params) { return close(params); });
     table.add(u"view.resize"_s, [this](Params& params) { return resize(params); });
     table.add(u"view.state"_s, [this](Params& params) { return state(params); });
+    table.add(u"view.explain"_s, [this](Params& params) { return explain(params); });
     table.addModal(u"view.command"_s, [this](Params& params) { return command(params); });
 }
 
@@ -106,6 +147,20 @@ Answer ViewMethods::resize(Params& params) {
 Answer ViewMethods::state(Params& params) {
     const OpenView* view = viewOf(params, session.workspace());
     return view != nullptr ? Answer(viewReport(*view)) : Answer();
+}
+
+Answer ViewMethods::explain(Params& params) {
+    const OpenView* view = viewOf(params, session.workspace());
+    const HeadlineKey key = headlineFrom(params);
+    if (view == nullptr || params.error())
+        return {};
+    const auto* explainer = dynamic_cast<const HeadlineExplainer*>(view->view);
+    if (explainer == nullptr)
+        return RpcError{RpcCode::Refused, u"the news module does not explain its lists"_s};
+    QJsonArray lists;
+    for (const HeadlineStanding& standing : explainer->Explain(key))
+        lists.append(standingReport(standing));
+    return QJsonObject{{u"lists"_s, lists}};
 }
 
 Answer ViewMethods::command(Params& params) {

@@ -22,6 +22,7 @@ private:
     Answer close(Params& params);
     Answer resize(Params& params);
     Answer state(Params& params);
+    Answer explain(Params& params);
     Answer command(Params& params);
 
     Session& session;

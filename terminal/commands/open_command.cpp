@@ -7,6 +7,7 @@
 #include "backend/lines/standard_channel.h"
 #include "terminal/automation/automation.h"
 #include "terminal/commands/command_arguments.h"
+#include "terminal/commands/explain_command.h"
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
 #include "terminal/console/interrupt.h"
@@ -35,7 +36,8 @@ struct OpenOptions {
     QString automationSocket;
     QString tourFolder;
     std::vector<SourceRequest> sources;
-    bool automation = false;  // on standard input and output
+    std::optional<QString> explainedKey;  // of a headline: nothing is opened, it is explained
+    bool automation = false;              // on standard input and output
     bool sample = false;
     bool noSample = false;
     bool tour = false;
@@ -73,6 +75,9 @@ void addOptions(QCommandLineParser& parser) {
         {u"source"_s, u"Takes news from a live source: %1."_s.arg(kindsOfSources()), u"kind:value"_s},
         {u"spool"_s, u"Takes news from the files that are put into the folder."_s, u"folder"_s},
         {u"feed"_s, u"The name under which feeds and replays find this terminal."_s, u"name"_s},
+        {u"explain"_s,
+         u"Prints where a headline stands in the user's views, and why. KEY: a line of search --json."_s,
+         u"key"_s},
         {u"tour"_s,
          u"Shows itself off screen on the sample wire and writes pictures, pages and saved news into the folder."_s,
          u"folder"_s},
@@ -99,7 +104,10 @@ OpenOptions openOptions(CommandArguments& arguments) {
     OpenOptions options;
     options.automation = parser.isSet(u"automation"_s);
     options.automationSocket = parser.value(u"automation-socket"_s);
-    options.tour = parser.isSet(u"tour"_s) || (!hasDisplay() && !options.isScripted());
+    if (parser.isSet(u"explain"_s))
+        options.explainedKey = parser.value(u"explain"_s);
+    const bool isExplaining = options.explainedKey.has_value();
+    options.tour = parser.isSet(u"tour"_s) || (!hasDisplay() && !options.isScripted() && !isExplaining);
     options.tourFolder = parser.isSet(u"tour"_s) ? parser.value(u"tour"_s) : u"out"_s;
     // The tour touches nothing of the user's unless he names it.
     options.storeFile = options.tour && !parser.isSet(u"store"_s) ? QString() : arguments.storeFile();
@@ -113,6 +121,8 @@ OpenOptions openOptions(CommandArguments& arguments) {
     options.sources = sourcesFrom(arguments);
     if (!parser.isSet(u"feed"_s) && !options.isScripted() && !options.tour)
         options.sources.push_back({u"feed"_s, defaultFeedName});
+    if (isExplaining && (options.isScripted() || options.tour))
+        arguments.fail(u"--explain opens no window, and goes with neither automation nor --tour."_s);
     if (!options.language.isEmpty() && !Languages::codes().contains(options.language))
         arguments.fail(u"--lang takes one of %1."_s.arg(Languages::codes().join(u", "_s)));
     if (!arguments.rest().isEmpty())
@@ -190,7 +200,7 @@ bool wantsOffscreen(int argc, const char* const* argv) {
                    (argument[length] == '\0' || argument[length] == '=');
         });
     };
-    return given("--offscreen") || given("--tour") || !hasDisplay();
+    return given("--offscreen") || given("--tour") || given("--explain") || !hasDisplay();
 }
 
 int runTerminal() {
@@ -203,6 +213,8 @@ int runTerminal() {
     OpenOptions options = openOptions(arguments);
     if (const auto status = arguments.fault())
         return *status;
+    if (options.explainedKey)
+        return runExplain({*options.explainedKey, options.storeFile, options.configFolder});
     if (options.tour)
         return runTour({options.tourFolder, options.storeFile, options.configFolder, options.language});
     // Before anything else can print.

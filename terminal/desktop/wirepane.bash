@@ -8,6 +8,7 @@ _wirepane() {
     case $previous in
         --store | --mapping) COMPREPLY=($(compgen -f -- "$current")); return ;;
         --config | --spool | --tour) COMPREPLY=($(compgen -d -- "$current")); return ;;
+        --explain) return ;;
         --lang) COMPREPLY=($(compgen -W 'en zh-TW zh-CN' -- "$current")); return ;;
     esac
     if [[ $current == -* ]]; then

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/category_mode.h"
+#include "news_view/days.h"
+#include "news_view/explanation.h"
+#include "news_view/searches.h"
+#include "news_view/standing_searches.h"
+#include "news_view/trv_news_ctrl_view.h"
+#include "news_view/view_parts.h"
+
+void TRVNewsCtrlView::ShowEachList() {
+    const int shown = static_cast<int>(parts->shownList());
+    for (const ListKind& kind : listKinds) {
+        if (parts->lists[kind.index].pGetGrid() != nullptr)
+            SwitchFunction(static_cast<int>(kind.index));
+    }
+    SwitchFunction(shown);
+}
+
+std::vector<HeadlineStanding> TRVNewsCtrlView::Explain(const HeadlineKey& key) const {
+    ExplainedView view{parts->backEnd,
+                       parts->lists,
+                       parts->services.Saved(),
+                       &parts->standingSearches.tickedKeySets(),
+                       parts->days.pickedKey(),
+                       parts->categories.chosenId(),
+                       {},
+                       {}};
+    for (const ListKind& kind : listKinds) {
+        const auto index = static_cast<std::size_t>(kind.index);
+        view.wasSearched[index] = parts->searches.desk().SentAt(kind.index).has_value();
+        // What is found does not wait for its list to be shown.
+        view.wasRead[index] = parts->loading.bWasShown(kind.index) || kind.fill == FillServices::Every;
+    }
+    return ExplainHeadline(view, key);
+}

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/commands/explain_command.h"
+
+#include "backend/store/store_file.h"
+#include "backend/store/store_reader.h"
+#include "terminal/commands/command_arguments.h"
+#include "terminal/commands/news_query.h"
+#include "terminal/commands/standing_text.h"
+#include "terminal/console/console.h"
+#include "terminal/console/exit_status.h"
+#include "terminal/session/session.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <limits>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+int unusable(const QString& sentence) {
+    printNote(sentence);
+    return exitUnusable;
+}
+
+// As "search --json" prints it: its service, time and sequence.
+std::optional<HeadlineKey> keyOf(const QString& text) {
+    using Sequence = std::numeric_limits<std::int32_t>;
+    const QJsonObject fields = QJsonDocument::fromJson(text.toUtf8()).object();
+    const int service = fields[u"service"_s].toInt(0);
+    const auto time = momentOf(fields[u"time"_s].toString());
+    const double sequence = fields[u"sequence"_s].toDouble(std::numeric_limits<double>::infinity());
+    if (service < 1 || service > lastNewsService || !time || sequence < Sequence::min() ||
+        sequence > Sequence::max())
+        return std::nullopt;
+    return HeadlineKey{*time, static_cast<std::int32_t>(sequence), static_cast<unsigned char>(service)};
+}
+
+// Nothing, and it is said why, when the store does not have it.
+std::optional<CHeadline> headlineOf(const Explained& explained, const HeadlineKey& key) {
+    const QString file = QDir::toNativeSeparators(explained.storeFile);
+    if (!QFileInfo::exists(explained.storeFile)) {
+        printNote(u"There is no store %1."_s.arg(file));
+        return std::nullopt;
+    }
+    const auto store = openStoreToRead(explained.storeFile, {.onIndexing = indexingLines()});
+    if (!store) {
+        printNote(sentence(store.error()));
+        return std::nullopt;
+    }
+    auto headline = StoreReader(*store.value()).headline(key);
+    if (!headline)
+        printNote(store.value()->damage().isEmpty()
+                      ? u"There is no headline %1 in %2."_s.arg(explained.key, file)
+                      : store.value()->damage());
+    return headline;
+}
+
+// The views write into their settings while they are open.
+bool copySettings(const QString& from, const QString& to) {
+    bool copied = true;
+    for (const QFileInfo& file : QDir(from).entryInfoList(QDir::Files))
+        copied = QFile::copy(file.filePath(), QDir(to).filePath(file.fileName())) && copied;
+    return copied;
+}
+
+QString topicName(EmbeddedBackEnd& backEnd, unsigned char service, const QString& id) {
+    std::vector<QString> ids;
+    std::vector<QString> names;
+    backEnd.bNewsAPI_GetNewsCatId(service, ids, names);
+    for (std::size_t i = 0; i < std::min(ids.size(), names.size()); ++i) {
+        if (ids[i] == id)
+            return u"%1 (%2)"_s.arg(id, names[i]);
+    }
+    return id;
+}
+
+int explain(Session& session, const CHeadline& headline) {
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(headline.time);
+    printLine(u"%1  %2"_s.arg(time.toString(u"yyyy-MM-dd HH:mm"_s), headline.title));
+    const TopicName nameOf = [&](const QString& id) {
+        return topicName(session.backEnd(), headline.service, id);
+    };
+    for (const OpenView* view : session.workspace().docked()) {
+        auto* explainer = dynamic_cast<HeadlineExplainer*>(view->view);
+        if (explainer == nullptr)
+            return unusable(u"The news module does not explain its lists."_s);
+        explainer->ShowEachList();
+        for (const HeadlineStanding& standing : explainer->Explain(KeyOf(headline)))
+            printLine(u"view %1, %2, %3"_s.arg(view->number)
+                          .arg(view->shownTitle(), standingText(standing, nameOf)));
+    }
+    return exitDone;
+}
+
+}  // namespace
+
+int runExplain(const Explained& explained) {
+    const auto key = keyOf(explained.key);
+    if (!key)
+        return unusable(
+            u"--explain takes a line of \"search --json\", such as "
+            "{\"sequence\":12,\"service\":1,\"time\":\"2026-03-02T01:30:00Z\"}, not \"%1\"."_s.arg(
+                explained.key));
+    const auto headline = headlineOf(explained, *key);
+    if (!headline)
+        return exitUnusable;
+    const QTemporaryDir settings;
+    if (!settings.isValid() || !copySettings(explained.configFolder, settings.path()))
+        return unusable(
+            u"The settings in %1 cannot be copied."_s.arg(QDir::toNativeSeparators(explained.configFolder)));
+    const auto session = Session::open({explained.storeFile, settings.path(), u"en"_s});
+    if (!session)
+        return unusable(sentence(session.error()));
+    if (const Done opened = session.value()->keeper().restore(); !opened)
+        return unusable(sentence(opened.error()));
+    return explain(*session.value(), *headline);
+}
+
+}  // namespace wirepane
