@@ -23,7 +23,7 @@ TEST_F(HeadlineListTest, ADayOfTickedServicesIsMergedNewestFirst) {
                            QStringLiteral("09:10 | Markets | b1"), QStringLiteral("09:00 | Markets | a1")}));
     EXPECT_EQ(all.TextColour(0, 1), QColor(Qt::red));
     EXPECT_FALSE(all.TextColour(1, 1).isValid());
-    EXPECT_FALSE(all.TextColour(0, 2).isValid());
+    EXPECT_FALSE(all.TextColour(0, titleColumn).isValid());
 
     EXPECT_FALSE(lists.bRebuild(ListIndex::All, TableKind::ByDate, QStringLiteral("20250101")));
     EXPECT_EQ(all.pGetGrid()->iGetRowCount(), 0);
@@ -39,14 +39,14 @@ TEST_F(HeadlineListTest, OnlyVisibleRowsAreReadAndWritten) {
     ASSERT_GE(page, 4);
     ASSERT_LE(page, 6);
     EXPECT_EQ(owner.rowsWritten, page + 1);
-    EXPECT_EQ(all.Text(page, 2), QString::number(199 - page));
-    EXPECT_EQ(all.Text(page + 1, 2), QString());
+    EXPECT_EQ(all.Text(page, titleColumn), QString::number(199 - page));
+    EXPECT_EQ(all.Text(page + 1, titleColumn), QString());
 
     backEnd.asked.clear();
     all.pGetGrid()->vAutoVerScrolling(199);
     all.vFillHeadline();
-    EXPECT_EQ(all.Text(199, 2), QStringLiteral("0"));
-    EXPECT_EQ(all.Text(100, 2), QString());
+    EXPECT_EQ(all.Text(199, titleColumn), QStringLiteral("0"));
+    EXPECT_EQ(all.Text(100, titleColumn), QString());
     ASSERT_EQ(backEnd.asked.size(), 2);  // one request per ticked service
     EXPECT_TRUE(backEnd.asked[0].startsWith(QStringLiteral("headlines 1 [")))
         << backEnd.asked[0].toStdString();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/headline_columns.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/headline_table.h"
@@ -44,6 +45,8 @@ public:
 
 class HeadlineListTest : public testing::Test {
 protected:
+    const int titleColumn = PlaceOf(HeadlineColumn::Title, 0);
+
     HeadlineListTest() {
         backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_RECOVER")] = QStringLiteral("...");
     }

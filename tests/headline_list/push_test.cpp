@@ -129,7 +129,7 @@ TEST_F(Push, GoesWhereItsTimeAndNumberSay) {
         HeadlineList& all = filled(ListIndex::All, 3);
         EXPECT_EQ(all.vProcessNewHeadline(c.pushed, false), c.place);
         EXPECT_EQ(sequences(all), c.sequences);
-        EXPECT_EQ(all.Text(c.place.row, 2), u"n"_s);
+        EXPECT_EQ(all.Text(c.place.row, titleColumn), u"n"_s);
         EXPECT_EQ(all.Text(c.place.row, 1), u"Markets"_s);
         EXPECT_EQ(all.Text(c.place.row, 0), QDateTime::fromSecsSinceEpoch(c.pushed.time).toString(u"HH:mm"));
         EXPECT_EQ(all.pGetGrid()->iGetRowCount(), static_cast<int>(c.sequences.size()));
@@ -230,10 +230,10 @@ TEST_F(Push, RowsOfTheRelationListKeepTheirFormOfTime) {
     CSuperSheetWnd& sheet = *relation.pGetGrid();
     sheet.verticalScrollBar()->setValue(2);
     push(4, 1200);
-    EXPECT_EQ(relation.Text(sheet.iGetFirstVisibleRow(), 2), u"1"_s);
-    EXPECT_EQ(relation.Text(sheet.iGetFirstVisibleRow() + 2, 2), u"built"_s);
-    EXPECT_EQ(relation.Text(0, 2), u"1199"_s);
-    EXPECT_EQ(relation.Text(1000, 2), QString()) << "let go";
+    EXPECT_EQ(relation.Text(sheet.iGetFirstVisibleRow(), titleColumn), u"1"_s);
+    EXPECT_EQ(relation.Text(sheet.iGetFirstVisibleRow() + 2, titleColumn), u"built"_s);
+    EXPECT_EQ(relation.Text(0, titleColumn), u"1199"_s);
+    EXPECT_EQ(relation.Text(1000, titleColumn), QString()) << "let go";
     sheet.verticalScrollBar()->setValue(1000);
     relation.vFillHeadline();
     EXPECT_EQ(relation.Text(1000, 0), u"03/02 15:19"_s);
@@ -251,17 +251,17 @@ TEST_F(Push, RowsAreWrittenFromTheBackEndByEntryAndAtTheTop) {
     for (const int i : {0, 1, 100})
         backEnd.add(1, noon - 60 * i, 1000 - i, u"RATE %1"_s.arg(i), 7);
     all.vUpdateHeadline({all.Table().at(1), all.Table().at(100), {noon, 77, 1, 0, 0}});
-    EXPECT_EQ(all.Text(0, 2), QString());
-    EXPECT_EQ(all.Text(1, 2), u"RATE 1"_s);
-    EXPECT_EQ(all.Text(100, 2), u"RATE 100"_s);
+    EXPECT_EQ(all.Text(0, titleColumn), QString());
+    EXPECT_EQ(all.Text(1, titleColumn), u"RATE 1"_s);
+    EXPECT_EQ(all.Text(100, titleColumn), u"RATE 100"_s);
     const RelationMatcher oil(std::vector<CNewsKey>{{1, {7}, {u"OIL"_s}}});
     const RelationMatcher rate(std::vector<CNewsKey>{{1, {7}, {u"RATE"_s}}});
     all.vUpdataTopHeadline(false, &oil);
-    EXPECT_EQ(all.Text(0, 2), QString());
+    EXPECT_EQ(all.Text(0, titleColumn), QString());
     all.vUpdataTopHeadline(true, &rate);
     EXPECT_EQ(all.Text(0, 0), u"03/02 12:00"_s);
     all.vDeleteHeadline(0);
     all.vDeleteHeadline(299);
     EXPECT_EQ(all.pGetGrid()->iGetRowCount(), 299);
-    EXPECT_EQ(all.Text(0, 2), u"RATE 1"_s);
+    EXPECT_EQ(all.Text(0, titleColumn), u"RATE 1"_s);
 }
