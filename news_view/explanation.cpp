@@ -3,6 +3,8 @@
 #include "news_view/explanation.h"
 
 #include "headline_list/cell_texts.h"
+#include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
 #include "headline_list/table_reading.h"
 #include "host/contract/clock.h"
 

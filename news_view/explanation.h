@@ -3,6 +3,7 @@
 #pragma once
 
 #include "headline_list/headline_lists.h"
+#include "headline_list/table_reading.h"
 #include "host/views/news_explanation.h"
 
 #include <array>

@@ -1,10 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "news_view/category_mode.h"
-#include "news_view/days.h"
 #include "news_view/explanation.h"
-#include "news_view/searches.h"
-#include "news_view/standing_searches.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "news_view/view_parts.h"
 

@@ -58,9 +58,8 @@ std::optional<CHeadline> headlineOf(const Explained& explained, const HeadlineKe
     }
     auto headline = StoreReader(*store.value()).headline(key);
     if (!headline)
-        printNote(store.value()->damage().isEmpty()
-                      ? u"There is no headline %1 in %2."_s.arg(explained.key, file)
-                      : store.value()->damage());
+        printNote(store.value()->damage() ? sentence(*store.value()->damage())
+                                          : u"There is no headline %1 in %2."_s.arg(explained.key, file));
     return headline;
 }
 
