@@ -32,7 +32,7 @@ int unusable(const QString& sentence) {
 }
 
 // As "search --json" prints it: its service, time and sequence.
-std::optional<HeadlineKey> keyOf(const QString& text) {
+std::optional<HeadlineKey> keyOfLine(const QString& text) {
     using Sequence = std::numeric_limits<std::int32_t>;
     const QJsonObject fields = QJsonDocument::fromJson(text.toUtf8()).object();
     const int service = fields[u"service"_s].toInt(0);
@@ -103,7 +103,7 @@ int explain(Session& session, const CHeadline& headline) {
 }  // namespace
 
 int runExplain(const Explained& explained) {
-    const auto key = keyOf(explained.key);
+    const auto key = keyOfLine(explained.key);
     if (!key)
         return unusable(
             u"--explain takes a line of \"search --json\", such as "
