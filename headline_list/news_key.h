@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/search_choices.h"
-
 #include <QString>
 
 #include <cstdint>
@@ -13,8 +11,8 @@
 class CNewsKey {
 public:
     // Methods: every keyword must hit; one hit suffices, as for any other number.
-    static constexpr std::int32_t all = numberOf(SearchMethod::All);
-    static constexpr std::int32_t any = numberOf(SearchMethod::Any);
+    static constexpr std::int32_t all = 1;
+    static constexpr std::int32_t any = 2;
     static constexpr std::int32_t everyNewsType = -999;  // as the only news type: all of them
 
     CNewsKey() = default;

@@ -12,6 +12,9 @@
 
 namespace {
 
+static_assert(CNewsKey::all == numberOf(SearchMethod::All) && CNewsKey::any == numberOf(SearchMethod::Any),
+              "key sets and searches name their methods by the same numbers");
+
 bool wantsEvery(const CNewsKey& keySet) {
     return keySet.newsTypes.size() == 1 && keySet.newsTypes.front() == CNewsKey::everyNewsType;
 }

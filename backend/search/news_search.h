@@ -13,8 +13,8 @@ namespace wirepane {
 // Finds the stories of a condition in a store. What a search means:
 // - A keyword is plain text; a title or story holds it when it holds the words of the keyword (WordReader)
 //   one behind the other in one paragraph. A keyword without words is left out.
-// - All keywords must be there (method 1 or 0) or any (method 2), each in the title (scope 0), in the story
-//   (1) or in either (2 and above). A condition without keywords finds nothing.
+// - Keywords work together by the method (SearchMethod; one that is not set is "all"), each in the title, in
+//   the story or in either by the scope (SearchScope). A condition without keywords finds nothing.
 // - Symbols narrow it to news that names one of them, in its market or in one that is not known.
 //
 // Thread: that of the database, which must outlive this and must not be written to through the same
