@@ -152,7 +152,7 @@ std::optional<Error> faultOf(const QuoteItem& item) {
         return makeError<store_errors::quoteWithoutMarket>();
     if (auto fault = symbolFault(item.code))
         return fault;
-    // Written so that a number that is none fails too.
+    // Written so that NaN fails too.
     if (!(item.last >= 0 && item.last <= limits::price))
         return makeError<store_errors::lastPriceOutOfRange>(item.code, limits::price);
     if (!(item.change >= -limits::price && item.change <= item.last))
