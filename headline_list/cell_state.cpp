@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace wirepane {
+
 size_t qHash(const HeadlineKey& key, size_t seed) noexcept {
     return qHashMulti(seed, key.time, key.sequence, key.service);
 }
@@ -31,7 +33,7 @@ void CellState::clear() {
 void CellState::keepOnly(const std::vector<CHeadlineTable>& rows, bool showDate) {
     QHash<HeadlineKey, WrittenCells> kept;
     for (const CHeadlineTable& row : rows) {
-        const auto it = written.find(KeyOf(row));
+        const auto it = written.find(keyOf(row));
         if (it == written.end())
             continue;
         kept.insert(it.key(), *it);
@@ -43,3 +45,5 @@ void CellState::keepOnly(const std::vector<CHeadlineTable>& rows, bool showDate)
     }
     written = std::move(kept);
 }
+
+}  // namespace wirepane

@@ -11,6 +11,7 @@
 
 #include <vector>
 
+namespace wirepane {
 enum class HeadlineColumn;
 
 // What was written into a row.
@@ -48,3 +49,5 @@ private:
 };
 
 size_t qHash(const HeadlineKey& key, size_t seed = 0) noexcept;
+
+}  // namespace wirepane

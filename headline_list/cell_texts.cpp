@@ -6,6 +6,8 @@
 
 #include <chrono>
 
+namespace wirepane {
+
 namespace {
 
 bool isInCalendar(std::int64_t secondsSince1970) {
@@ -36,11 +38,11 @@ QString twoDigits(unsigned first, char16_t between, unsigned second) {
 
 }  // namespace
 
-QDateTime LocalTime(std::int64_t secondsSince1970) {
+QDateTime localTime(std::int64_t secondsSince1970) {
     return isInCalendar(secondsSince1970) ? QDateTime::fromSecsSinceEpoch(secondsSince1970) : QDateTime();
 }
 
-QString TimeText(std::int64_t secondsSince1970, bool showDate) {
+QString timeText(std::int64_t secondsSince1970, bool showDate) {
     if (!isInCalendar(secondsSince1970))
         return {};
     using namespace std::chrono;
@@ -56,20 +58,22 @@ QString TimeText(std::int64_t secondsSince1970, bool showDate) {
            hourAndMinute;
 }
 
-QString DateKey(const QDate& day) {
+QString dateKey(const QDate& day) {
     const int year = day.isValid() ? day.year() : -1;
     const int month = day.isValid() ? day.month() : -1;
     const int date = day.isValid() ? day.day() : -1;
     return QString::asprintf("%04d%02d%02d", year, month, date);
 }
 
-QString ShownText(BKQuoteInterface& backEnd, unsigned char service, const QString& text) {
+QString shownText(BKQuoteInterface& backEnd, unsigned char service, const QString& text) {
     if (!backEnd.LangIsConvertToSimplified(service))
         return text;
     QString converted;
     backEnd.LangConvertToSimplifiedChinese(text, converted);
-    const QString term = LangText(backEnd, keys::replaceNews);
+    const QString term = langText(backEnd, keys::replaceNews);
     if (!term.isEmpty())
-        converted.replace(term, LangText(backEnd, keys::replaceMessage));
+        converted.replace(term, langText(backEnd, keys::replaceMessage));
     return converted;
 }
+
+}  // namespace wirepane

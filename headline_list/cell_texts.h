@@ -10,17 +10,21 @@
 
 #include <cstdint>
 
+namespace wirepane {
+
 // The texts that the cells of headline grids show.
 
 // A moment in local time; invalid for a time outside any calendar (farther than the years 1 to 9999).
-QDateTime LocalTime(std::int64_t secondsSince1970);
+QDateTime localTime(std::int64_t secondsSince1970);
 
 // "hh:mm", or "MM/dd hh:mm" with the date, in local time. A time outside any calendar gives an empty text.
-QString TimeText(std::int64_t secondsSince1970, bool showDate);
+QString timeText(std::int64_t secondsSince1970, bool showDate);
 
 // A day as the back end's tables are asked for: yyyymmdd; the fields of an invalid date are -1 each.
-QString DateKey(const QDate& day);
+QString dateKey(const QDate& day);
 
 // A text of a service as it is to be shown: as it is, or, where the back end asks for it, converted to
 // simplified characters with the market's own term replaced by the usual one.
-QString ShownText(BKQuoteInterface& backEnd, unsigned char service, const QString& text);
+QString shownText(BKQuoteInterface& backEnd, unsigned char service, const QString& text);
+
+}  // namespace wirepane

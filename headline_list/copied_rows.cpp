@@ -10,7 +10,9 @@
 #include <QHash>
 #include <QStringList>
 
-QString HeadlineList::TextOfRows(const std::vector<int>& rows) const {
+namespace wirepane {
+
+QString HeadlineList::textOfRows(const std::vector<int>& rows) const {
     std::vector<CHeadlineTable> entries;
     for (const int row : rows) {
         if (row >= 0 && row < table.size() && entries.size() < mostCopiedRows)
@@ -24,10 +26,12 @@ QString HeadlineList::TextOfRows(const std::vector<int>& rows) const {
             if (column->column != HeadlineColumn::Time)
                 texts.append(column->text({headline, true, backEnd, owner}));
         }
-        rests[KeyOf(headline)] = texts.join(QLatin1Char('\t'));
+        rests[keyOf(headline)] = texts.join(QLatin1Char('\t'));
     }
     QStringList lines;
     for (const CHeadlineTable& entry : entries)
-        lines.append(TimeText(entry.time, true) + QLatin1Char('\t') + rests[KeyOf(entry)]);
+        lines.append(timeText(entry.time, true) + QLatin1Char('\t') + rests[keyOf(entry)]);
     return lines.join(QLatin1Char('\n'));
 }
+
+}  // namespace wirepane

@@ -4,7 +4,9 @@
 
 #include <stdexcept>
 
-DateCheck CheckPickedDate(const QDate& wanted, const QDate& inForce, const QDate& today, int range) {
+namespace wirepane {
+
+DateCheck checkPickedDate(const QDate& wanted, const QDate& inForce, const QDate& today, int range) {
     if (wanted < today.addDays(-range))
         return DateCheck::TooEarly;
     if (wanted > today)
@@ -12,7 +14,7 @@ DateCheck CheckPickedDate(const QDate& wanted, const QDate& inForce, const QDate
     return wanted == inForce ? DateCheck::Same : DateCheck::Accepted;
 }
 
-QDate DayOfNumber(std::int32_t yyyymmdd) {
+QDate dayOfNumber(std::int32_t yyyymmdd) {
     constexpr int firstYear = 1900;
     const int year = yyyymmdd / 10000;
     const int month = yyyymmdd / 100 % 100;
@@ -22,7 +24,7 @@ QDate DayOfNumber(std::int32_t yyyymmdd) {
     return QDate(year, month, 1).addDays(day - 1);
 }
 
-int EntryOfNewDay(const std::vector<ServiceEntry>& services, const CMarketStatus& status) {
+int entryOfNewDay(const std::vector<ServiceEntry>& services, const CMarketStatus& status) {
     for (std::size_t i = 0; i < services.size(); ++i) {
         if (services[i].service != status.service)
             continue;
@@ -34,14 +36,16 @@ int EntryOfNewDay(const std::vector<ServiceEntry>& services, const CMarketStatus
     return -1;
 }
 
-DateCheck DatePager::Pick(const QDate& wanted, const QDate& today) {
-    const DateCheck check = CheckPickedDate(wanted, picked, today, range);
+DateCheck DatePager::pick(const QDate& wanted, const QDate& today) {
+    const DateCheck check = checkPickedDate(wanted, picked, today, range);
     if (check == DateCheck::Accepted)
         picked = wanted;
     return check;
 }
 
-void DatePager::vStartNewsDay(const QDate& day, const QDate& shown) {
+void DatePager::startNewsDay(const QDate& day, const QDate& shown) {
     newsDay = day;
     picked = shown;
 }
+
+}  // namespace wirepane

@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace wirepane {
+
 // The checks on a day that the user picks, on calendar days.
 enum class DateCheck {
     TooEarly,  // further back than the range allows
@@ -19,15 +21,15 @@ enum class DateCheck {
 };
 
 // `range`: the number of days back that may be picked, 0 or more. What is out of range is told first.
-DateCheck CheckPickedDate(const QDate& wanted, const QDate& inForce, const QDate& today, int range);
+DateCheck checkPickedDate(const QDate& wanted, const QDate& inForce, const QDate& today, int range);
 
 // The day that a number yyyymmdd names; a day that its month lacks counts on into the next month. Throws
 // std::invalid_argument for a year below 1900, a month outside 1 to 12, a day outside 1 to 31.
-QDate DayOfNumber(std::int32_t yyyymmdd);
+QDate dayOfNumber(std::int32_t yyyymmdd);
 
 // The index of the entry for which a market status begins a new news day: its service is ticked and stands
 // at another date. -1: the status changes nothing.
-int EntryOfNewDay(const std::vector<ServiceEntry>& services, const CMarketStatus& status);
+int entryOfNewDay(const std::vector<ServiceEntry>& services, const CMarketStatus& status);
 
 // The two dates of a view: the picked date, whose news the lists of a day show, and the current news day,
 // whose headlines are being pushed.
@@ -36,19 +38,21 @@ public:
     // Both are `today`; the range is 0.
     explicit DatePager(const QDate& today) : picked(today), newsDay(today) {}
 
-    const QDate& Picked() const { return picked; }
-    const QDate& NewsDay() const { return newsDay; }
-    int iGetRange() const { return range; }
+    const QDate& pickedDate() const { return picked; }
+    const QDate& currentNewsDay() const { return newsDay; }
+    int rangeInDays() const { return range; }
     // How many days back may be picked.
-    void vSetRange(int days) { range = days; }
+    void setRange(int days) { range = days; }
 
     // Checks a date; an accepted one is the picked date from here on.
-    DateCheck Pick(const QDate& wanted, const QDate& today);
+    DateCheck pick(const QDate& wanted, const QDate& today);
     // A news day begins, and what the date picker shows of it is picked.
-    void vStartNewsDay(const QDate& day, const QDate& shown);
+    void startNewsDay(const QDate& day, const QDate& shown);
 
 private:
     QDate picked;
     QDate newsDay;
     int range = 0;
 };
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // What story, output and search ask of the owner of the headline lists. Interface thread only.
 class EntrySource {
 public:
@@ -18,3 +20,5 @@ public:
     // Replaces `services` by the ids of the services that the current mode looks at.
     virtual void vGetNewsActiveService(std::vector<unsigned char>& services) const = 0;
 };
+
+}  // namespace wirepane

@@ -4,19 +4,23 @@
 
 #include <algorithm>
 
-void FeedBreaks::vLost(std::int64_t now) {
+namespace wirepane {
+
+void FeedBreaks::lost(std::int64_t now) {
     if (!since)
         since = now;
 }
 
-void FeedBreaks::vRestored(std::int64_t now) {
+void FeedBreaks::restored(std::int64_t now) {
     if (since)
         past.push_back({*since, now});
     since.reset();
 }
 
-bool FeedBreaks::bHolds(std::int64_t time) const {
+bool FeedBreaks::holds(std::int64_t time) const {
     return (since && time >= *since) || std::any_of(past.begin(), past.end(), [time](const Break& cut) {
                return time >= cut.from && time < cut.to;
            });
 }
+
+}  // namespace wirepane

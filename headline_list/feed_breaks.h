@@ -7,20 +7,22 @@
 #include <optional>
 #include <vector>
 
+namespace wirepane {
+
 // The outages: the times at which the back end was cut off from its source. News of such a time came late.
 // Times are seconds since 1970.
 class FeedBreaks {
 public:
     // The connection is lost, is back. Said twice it counts once.
-    void vLost(std::int64_t now);
-    void vRestored(std::int64_t now);
+    void lost(std::int64_t now);
+    void restored(std::int64_t now);
 
     // Since when there is no connection; nothing while there is one.
-    std::optional<std::int64_t> Since() const { return since; }
+    std::optional<std::int64_t> brokenSince() const { return since; }
     // How many breaks are over.
-    std::size_t Ended() const { return past.size(); }
+    std::size_t ended() const { return past.size(); }
     // True for a time within a break, also the one that is on.
-    bool bHolds(std::int64_t time) const;
+    bool holds(std::int64_t time) const;
 
 private:
     struct Break {
@@ -30,3 +32,5 @@ private:
     std::vector<Break> past;
     std::optional<std::int64_t> since;
 };
+
+}  // namespace wirepane

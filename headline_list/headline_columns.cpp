@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/headline_columns.h"
 
+namespace wirepane {
+
 namespace {
 
 constexpr bool standsInOrder() {
@@ -15,7 +17,7 @@ static_assert(standsInOrder(), "the rows of the table stand in the order of Head
 
 }  // namespace
 
-const HeadlineColumnKind* ColumnAt(int newsType, int place) {
+const HeadlineColumnKind* headlineColumnAt(int newsType, int place) {
     for (const HeadlineColumnKind& kind : headlineColumns) {
         if (kind.isOf(newsType) && place-- == 0)
             return &kind;
@@ -23,12 +25,14 @@ const HeadlineColumnKind* ColumnAt(int newsType, int place) {
     return nullptr;
 }
 
-int PlaceOf(HeadlineColumn column, int newsType) {
+int placeOf(HeadlineColumn column, int newsType) {
     int place = 0;
-    while (const HeadlineColumnKind* kind = ColumnAt(newsType, place)) {
+    while (const HeadlineColumnKind* kind = headlineColumnAt(newsType, place)) {
         if (kind->column == column)
             return place;
         ++place;
     }
     return -1;
 }
+
+}  // namespace wirepane

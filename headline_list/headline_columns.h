@@ -14,6 +14,8 @@
 
 #include <array>
 
+namespace wirepane {
+
 // The columns of headline grids, from left to right: one table that creating, filling, colouring and copying
 // read, and by their keys whoever looks at a grid from outside.
 enum class HeadlineColumn { Time, Category, Title };
@@ -46,17 +48,17 @@ struct HeadlineColumnKind {
 namespace column_cells {
 
 inline QString time(const CellSource& source) {
-    return TimeText(source.headline.time, source.showDate);
+    return timeText(source.headline.time, source.showDate);
 }
 
 inline QColor timeColour(const ListOwner& owner, std::int64_t time, const WrittenCells*) {
-    return owner.TimeColour(time);
+    return owner.timeColour(time);
 }
 
 inline QString category(const CellSource& source) {
     const CHeadline& headline = source.headline;
-    return ShownText(source.backEnd, headline.service,
-                     source.owner.CategoryNameOf(headline.service, headline.categoryId));
+    return shownText(source.backEnd, headline.service,
+                     source.owner.categoryNameOf(headline.service, headline.categoryId));
 }
 
 inline QColor categoryColour(const ListOwner&, std::int64_t, const WrittenCells* written) {
@@ -64,7 +66,7 @@ inline QColor categoryColour(const ListOwner&, std::int64_t, const WrittenCells*
 }
 
 inline QString title(const CellSource& source) {
-    return ShownText(source.backEnd, source.headline.service, source.headline.title);
+    return shownText(source.backEnd, source.headline.service, source.headline.title);
 }
 
 inline bool ofThreeColumns(int newsType) {
@@ -97,12 +99,14 @@ inline constexpr std::array headlineColumns{
                        .text = column_cells::title},
 };
 
-constexpr const HeadlineColumnKind& KindOf(HeadlineColumn column) {
+constexpr const HeadlineColumnKind& kindOf(HeadlineColumn column) {
     return headlineColumns[static_cast<std::size_t>(column)];
 }
 
 // The column at a place, counted from 0 at the left, in the grids of a news type; null: there are not so
 // many.
-const HeadlineColumnKind* ColumnAt(int newsType, int place);
+const HeadlineColumnKind* headlineColumnAt(int newsType, int place);
 // Where a column stands in the grids of a news type; -1: they do not have it.
-int PlaceOf(HeadlineColumn column, int newsType);
+int placeOf(HeadlineColumn column, int newsType);
+
+}  // namespace wirepane

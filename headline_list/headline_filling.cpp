@@ -11,11 +11,13 @@
 
 #include <utility>
 
+namespace wirepane {
+
 std::vector<unsigned char> HeadlineList::servicesToAsk() const {
     if (kind.fill == FillServices::WarrantOnly)
         return {warrantService};
     std::vector<unsigned char> services;
-    for (const ServiceEntry& entry : owner.vGetServices()) {
+    for (const ServiceEntry& entry : owner.allServices()) {
         if (entry.selected || kind.fill == FillServices::Every)
             services.push_back(entry.service);
     }
@@ -23,9 +25,9 @@ std::vector<unsigned char> HeadlineList::servicesToAsk() const {
 }
 
 std::vector<CHeadlineTable> HeadlineList::vGetShowedHeadlineTable() const {
-    if (sheet == nullptr || sheet->iGetRowCount() == 0)
+    if (sheet == nullptr || sheet->rowCount() == 0)
         return {};
-    return table.rows(sheet->iGetFirstVisibleRow(), sheet->iGetRowsPerPage() + 1);
+    return table.rows(sheet->firstVisibleRow(), sheet->rowsPerPage() + 1);
 }
 
 std::vector<CHeadline> HeadlineList::headlinesOf(const std::vector<CHeadlineTable>& entries) const {
@@ -43,20 +45,20 @@ void HeadlineList::vFillHeadline() {
 
 void HeadlineList::vUpdateHeadline(const std::vector<CHeadlineTable>& entries) {
     for (const CHeadline& headline : headlinesOf(entries)) {
-        const int row = table.rowOf(KeyOf(headline));
+        const int row = table.rowOf(keyOf(headline));
         if (row >= 0)
             vUpdateHeadline(row, headline, kind.showDate);
     }
 }
 
-bool HeadlineList::bReCoverHeadline(const std::vector<int>& rows) {
-    const QString placeholder = LangText(backEnd, keys::recover);
+bool HeadlineList::reCoverHeadline(const std::vector<int>& rows) {
+    const QString placeholder = langText(backEnd, keys::recover);
     std::vector<CHeadlineTable> wanted;
     for (const int row : rows) {
         if (sheet == nullptr || row < 0 || row >= table.size())
             continue;
         wanted.push_back(table.at(row));
-        vFillSheet(row, TimeText(wanted.back().time, kind.showDate), placeholder, placeholder);
+        vFillSheet(row, timeText(wanted.back().time, kind.showDate), placeholder, placeholder);
     }
     std::vector<CHeadline> atHand;
     if (!wanted.empty()) {
@@ -69,7 +71,7 @@ bool HeadlineList::bReCoverHeadline(const std::vector<int>& rows) {
 void HeadlineList::vUpdataTopHeadline(bool showDate, const RelationMatcher* relation) {
     if (sheet == nullptr || table.empty())
         return;
-    const int row = sheet->iGetFirstVisibleRow();
+    const int row = sheet->firstVisibleRow();
     for (const CHeadline& headline : headlinesOf(table.rows(row, 1))) {
         if (relation == nullptr || relation->CheckIsRelationSearch(headline, headline.categoryId, {}))
             vUpdateHeadline(row, headline, showDate);
@@ -78,14 +80,14 @@ void HeadlineList::vUpdataTopHeadline(bool showDate, const RelationMatcher* rela
 
 void HeadlineList::vFillTempHeadline() {
     const std::vector<CHeadlineTable> shown = vGetShowedHeadlineTable();
-    int row = shown.empty() ? 0 : sheet->iGetFirstVisibleRow();
+    int row = shown.empty() ? 0 : sheet->firstVisibleRow();
     for (const CHeadlineTable& entry : shown) {
         const WrittenCells* written = cellsOf(row);
         const QString time = written != nullptr ? written->textOf(HeadlineColumn::Time) : QString();
-        const bool right = written != nullptr && (time == TimeText(entry.time, kind.showDate) ||
-                                                  time == TimeText(entry.time, !kind.showDate));
+        const bool right = written != nullptr && (time == timeText(entry.time, kind.showDate) ||
+                                                  time == timeText(entry.time, !kind.showDate));
         if (!right)
-            writeCells(row, placeholdersOf(entry, kind.showDate != cells.hasOtherTimeForm(KeyOf(entry))));
+            writeCells(row, placeholdersOf(entry, kind.showDate != cells.hasOtherTimeForm(keyOf(entry))));
         ++row;
     }
 }
@@ -96,12 +98,12 @@ void HeadlineList::vUpdateHeadline(int row, const CHeadline& headline, bool show
         return;
     // A row whose texts were let go is written as it was: a refresh alone changes nothing in it.
     const bool otherForm =
-        written == nullptr && showDate == kind.showDate && cells.hasOtherTimeForm(KeyOf(headline));
+        written == nullptr && showDate == kind.showDate && cells.hasOtherTimeForm(keyOf(headline));
     writeHeadline(row, headline, showDate != otherForm);
 }
 
 void HeadlineList::writeHeadline(int row, const CHeadline& headline, bool showDate) {
-    const QString category = owner.CategoryNameOf(headline.service, headline.categoryId);
+    const QString category = owner.categoryNameOf(headline.service, headline.categoryId);
     WrittenCells written{{}, categoryColour(headline.service, category), showDate};
     for (const HeadlineColumnKind& column : headlineColumns)
         written.texts.push_back(column.text({headline, showDate, backEnd, owner}));
@@ -110,7 +112,7 @@ void HeadlineList::writeHeadline(int row, const CHeadline& headline, bool showDa
 
 // What is said of a row whose headline is not at hand.
 WrittenCells HeadlineList::placeholdersOf(const CHeadlineTable& entry, bool showDate) const {
-    const QString placeholder = LangText(backEnd, keys::recover);
+    const QString placeholder = langText(backEnd, keys::recover);
     CHeadline known;
     known.service = entry.service;
     known.time = entry.time;
@@ -137,27 +139,29 @@ void HeadlineList::vFillSheet(int row, const QString& time, const QString& categ
 QColor HeadlineList::categoryColour(unsigned char service, const QString& name) const {
     QColor text;
     QColor background;
-    if (KindOf(HeadlineColumn::Category).isOf(owner.GetNewsType()))
-        owner.CategoryColourOf(service, name, text, background);
+    if (kindOf(HeadlineColumn::Category).isOf(owner.GetNewsType()))
+        owner.categoryColourOf(service, name, text, background);
     return text;
 }
 
 void HeadlineList::writeCells(int row, const WrittenCells& written) {
     if (sheet == nullptr || row < 0 || row >= table.size())
         return;
-    cells.write(KeyOf(table.at(row)), written);
+    cells.write(keyOf(table.at(row)), written);
     if (cells.size() > CellState::enough)
         letCellsGo();
-    sheet->vInvalidateRow(row);
-    owner.vCategoryStateAfterWriting();
+    sheet->invalidateRow(row);
+    owner.categoryStateAfterWriting();
 }
 
 // Pushes write rows that nobody may ever look at. What is on screen stays, and the page at the top, where a
 // reader of the news comes back to.
 void HeadlineList::letCellsGo() {
-    const int page = sheet->iGetRowsPerPage() + 1;
-    std::vector<CHeadlineTable> kept = table.rows(sheet->iGetFirstVisibleRowToCome(), page);
+    const int page = sheet->rowsPerPage() + 1;
+    std::vector<CHeadlineTable> kept = table.rows(sheet->firstVisibleRowToCome(), page);
     const std::vector<CHeadlineTable> top = table.rows(0, page);
     kept.insert(kept.end(), top.begin(), top.end());
     cells.keepOnly(kept, kind.showDate);
 }
+
+}  // namespace wirepane

@@ -10,6 +10,8 @@
 
 #include <utility>
 
+namespace wirepane {
+
 namespace {
 
 CHeadlineTable entryOf(const CHeadline& headline) {
@@ -33,31 +35,31 @@ HeadlineList::HeadlineList(const ListKind& listKind, BKQuoteInterface& newsBackE
       cells(state->cells),
       heldPlace(state->heldPlace) {
     afterPainting.setSingleShot(true);
-    QObject::connect(&afterPainting, &QTimer::timeout, &afterPainting, [this] { table.BuildIndex(); });
+    QObject::connect(&afterPainting, &QTimer::timeout, &afterPainting, [this] { table.buildIndex(); });
 }
 
 HeadlineList::~HeadlineList() {
     if (sheet != nullptr)
-        sheet->vSetCells(nullptr);
+        sheet->setCells(nullptr);
 }
 
-void HeadlineList::vSetGrid(CSuperSheetWnd* grid) {
+void HeadlineList::setGrid(CSuperSheetWnd* grid) {
     sheet = grid;
     if (sheet != nullptr)
-        sheet->vSetCells(this);
+        sheet->setCells(this);
 }
 
-void HeadlineList::vSetTable(const TableRuns& runs) {
+void HeadlineList::setTable(const TableRuns& runs) {
     table.assign(runs);
     afterPainting.start(0);
 }
 
-void HeadlineList::vSetTable(const HeadlineTable& other) {
+void HeadlineList::setTable(const HeadlineTable& other) {
     table = other;
     afterPainting.start(0);
 }
 
-void HeadlineList::vForgetWrittenCells() {
+void HeadlineList::forgetWrittenCells() {
     cells.keepOnly({}, kind.showDate);
 }
 
@@ -65,24 +67,24 @@ void HeadlineList::vFillHeadlineTable() {
     if (sheet == nullptr)
         return;
     cells.clear();
-    sheet->vClearRows();
-    sheet->vAddRows(table.size());
-    sheet->vResetRowBkColor();
-    owner.vRowsReplaced(kind.index);
+    sheet->clearRows();
+    sheet->addRows(table.size());
+    sheet->resetRowBkColor();
+    owner.rowsReplaced(kind.index);
     if (heldPlace) {
-        std::exchange(heldPlace, std::nullopt)->vRestore(table, *sheet);
+        std::exchange(heldPlace, std::nullopt)->restore(table, *sheet);
         return;
     }
-    sheet->vResetScroll();
+    sheet->resetScroll();
     sheet->viewport()->repaint();
 }
 
-void HeadlineList::vHoldPlace() {
+void HeadlineList::holdPlace() {
     if (sheet != nullptr)
         heldPlace.emplace(table, *sheet);
 }
 
-void HeadlineList::vRefill() {
+void HeadlineList::refill() {
     vFillHeadlineTable();
     vFillHeadline();
 }
@@ -90,13 +92,13 @@ void HeadlineList::vRefill() {
 HeadlinePlace HeadlineList::vProcessNewHeadline(const CHeadline& headline, bool showDate) {
     if (sheet == nullptr)
         return {};
-    const int known = table.rowOfSameDay(KeyOf(headline));
+    const int known = table.rowOfSameDay(keyOf(headline));
     if (known < 0) {
         const int row = table.insertPosition(headline.time);
         vInsertHeadline(row, headline, showDate);
         return {row, -1};
     }
-    const int old = table.rowOfNumber(KeyOf(headline));
+    const int old = table.rowOfNumber(keyOf(headline));
     if (old != known) {
         // Another day's row goes, and this day's stays below the new one.
         vUpdateHeadline(known, headline, showDate);
@@ -105,11 +107,11 @@ HeadlinePlace HeadlineList::vProcessNewHeadline(const CHeadline& headline, bool 
         return {0, old};
     }
     // Out before in, so that the table never has two rows of one number to tell apart.
-    const HeadlineKey oldKey = KeyOf(table.at(old));
+    const HeadlineKey oldKey = keyOf(table.at(old));
     table.remove(old);
     table.insert(0, entryOf(headline));
     forgetCells(oldKey);
-    sheet->vMoveRowToTop(old);
+    sheet->moveRowToTop(old);
     writeHeadline(0, headline, showDate);
     return {0, old};
 }
@@ -118,15 +120,15 @@ void HeadlineList::vInsertHeadline(int row, const CHeadline& headline, bool show
     if (sheet == nullptr || row < 0 || row > table.size())
         return;
     table.insert(row, entryOf(headline));
-    sheet->vInsertRow(row);
+    sheet->insertRow(row);
     writeHeadline(row, headline, showDate);
 }
 
-void HeadlineList::vReplaceHeadline(int row, const CHeadline& headline) {
+void HeadlineList::replaceHeadline(int row, const CHeadline& headline) {
     if (sheet == nullptr || row < 0 || row >= table.size())
         return;
-    const HeadlineKey oldKey = KeyOf(table.at(row));
-    if (oldKey == KeyOf(headline))
+    const HeadlineKey oldKey = keyOf(table.at(row));
+    if (oldKey == keyOf(headline))
         return;
     const bool showDate = kind.showDate != cells.hasOtherTimeForm(oldKey);
     table.remove(row);
@@ -135,7 +137,7 @@ void HeadlineList::vReplaceHeadline(int row, const CHeadline& headline) {
     writeHeadline(row, headline, showDate);
 }
 
-HeadlinePlace HeadlineList::vTakeOut(int row) {
+HeadlinePlace HeadlineList::takeOut(int row) {
     if (sheet == nullptr || row < 0 || row >= table.size())
         return {};
     vDeleteHeadline(row);
@@ -145,10 +147,10 @@ HeadlinePlace HeadlineList::vTakeOut(int row) {
 void HeadlineList::vDeleteHeadline(int row) {
     if (sheet == nullptr || row < 0 || row >= table.size())
         return;
-    const HeadlineKey key = KeyOf(table.at(row));
+    const HeadlineKey key = keyOf(table.at(row));
     table.remove(row);
     forgetCells(key);
-    sheet->vDeleteRow(row);
+    sheet->deleteRow(row);
 }
 
 void HeadlineList::forgetCells(const HeadlineKey& key) {
@@ -157,22 +159,24 @@ void HeadlineList::forgetCells(const HeadlineKey& key) {
 }
 
 const WrittenCells* HeadlineList::cellsOf(int row) const {
-    return row >= 0 && row < table.size() ? cells.find(KeyOf(table.at(row))) : nullptr;
+    return row >= 0 && row < table.size() ? cells.find(keyOf(table.at(row))) : nullptr;
 }
 
 const HeadlineColumnKind* HeadlineList::columnAt(int place) const {
-    return ColumnAt(owner.GetNewsType(), place);
+    return headlineColumnAt(owner.GetNewsType(), place);
 }
 
-QString HeadlineList::Text(int row, int column) const {
+QString HeadlineList::text(int row, int column) const {
     const WrittenCells* written = cellsOf(row);
     const HeadlineColumnKind* shown = columnAt(column);
     return written != nullptr && shown != nullptr ? written->textOf(shown->column) : QString();
 }
 
-QColor HeadlineList::TextColour(int row, int column) const {
+QColor HeadlineList::textColour(int row, int column) const {
     const HeadlineColumnKind* shown = columnAt(column);
     if (shown == nullptr || shown->colour == nullptr || row < 0 || row >= table.size())
         return {};
     return shown->colour(owner, table.at(row).time, cellsOf(row));
 }
+
+}  // namespace wirepane

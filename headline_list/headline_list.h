@@ -14,12 +14,19 @@
 #include <vector>
 
 class BKQuoteInterface;
+
+namespace wirepane {
 class CellState;
 class HeadlineTable;
 class ReadingPlace;
 class RelationMatcher;
+
+}  // namespace wirepane
+
 struct CHeadline;
 struct CHeadlineTable;
+
+namespace wirepane {
 struct HeadlineKey;
 struct WrittenCells;
 struct HeadlineColumnKind;
@@ -43,23 +50,23 @@ public:
     ~HeadlineList() override;
 
     // The grid belongs to its window; it may go before the list does.
-    void vSetGrid(CSuperSheetWnd* grid);
-    CSuperSheetWnd* pGetGrid() const { return sheet; }
-    const ListKind& Kind() const { return kind; }
-    const HeadlineTable& Table() const { return table; }
+    void setGrid(CSuperSheetWnd* grid);
+    CSuperSheetWnd* grid() const { return sheet; }
+    const ListKind& kindOfList() const { return kind; }
+    const HeadlineTable& headlineTable() const { return table; }
 
     // Replaces the table by these runs, newest first. The grid follows with vFillHeadlineTable.
-    void vSetTable(const std::vector<std::vector<CHeadlineTable>>& runs);
+    void setTable(const std::vector<std::vector<CHeadlineTable>>& runs);
     // Replaces the table by another list's, as it stands.
-    void vSetTable(const HeadlineTable& other);
+    void setTable(const HeadlineTable& other);
 
     // Gives the grid one empty row per entry, at the top of its scroll range, and repaints it at once. After
-    // vHoldPlace it shows what it showed then, as far as that is listed still.
+    // holdPlace it shows what it showed then, as far as that is listed still.
     void vFillHeadlineTable();
     // Keeps what the reader looks at through the next vFillHeadlineTable. Call it before the table changes.
-    void vHoldPlace();
+    void holdPlace();
     // vFillHeadlineTable and vFillHeadline.
-    void vRefill();
+    void refill();
 
     // Writes the visible rows whose headlines the back end has at hand.
     void vFillHeadline();
@@ -74,7 +81,7 @@ public:
     // Asks the back end for the headlines of these rows again: each shows the placeholder until then. Rows
     // that do not exist are passed over. True when some headlines were at hand at once; the next refresh
     // writes them.
-    bool bReCoverHeadline(const std::vector<int>& rows);
+    bool reCoverHeadline(const std::vector<int>& rows);
     // For hosts: writes the first visible row from its headline, when the back end has it at hand. With
     // `relation` only when one of its key sets wants it.
     void vUpdataTopHeadline(bool showDate, const RelationMatcher* relation = nullptr);
@@ -86,9 +93,9 @@ public:
     // Puts a headline in before `row`, in [0, Table().size()], and writes its row.
     void vInsertHeadline(int row, const CHeadline& headline, bool showDate);
     // The row of a headline takes over what it is now, where it stands: the list is not one that it enters.
-    void vReplaceHeadline(int row, const CHeadline& headline);
+    void replaceHeadline(int row, const CHeadline& headline);
     // The row of a headline that is not one of this list's any more, or of none. Result: where it stood.
-    HeadlinePlace vTakeOut(int row);
+    HeadlinePlace takeOut(int row);
     // Takes a row out; one out of range is ignored.
     void vDeleteHeadline(int row);
 
@@ -97,19 +104,19 @@ public:
 
     // Forgets what was written: the next refill writes every visible row anew, as after a change of language
     // or of category names. Rows whose time has the other form keep it.
-    void vForgetWrittenCells();
+    void forgetWrittenCells();
 
     // These rows, also those that are not on screen, a line each: their columns, with tabs between them and
     // the time with its date. Rows that do not exist and those beyond mostCopiedRows are passed over.
-    QString TextOfRows(const std::vector<int>& rows) const;
+    QString textOfRows(const std::vector<int>& rows) const;
     static constexpr std::size_t mostCopiedRows = 10000;
 
     // The entries of the visible rows: those of one page and one row more.
     std::vector<CHeadlineTable> vGetShowedHeadlineTable() const;
 
     // The cells for the grid.
-    QString Text(int row, int column) const override;
-    QColor TextColour(int row, int column) const override;
+    QString text(int row, int column) const override;
+    QColor textColour(int row, int column) const override;
 
 private:
     // The column at a place of the grid; null: there is none.
@@ -138,8 +145,10 @@ private:
 };
 
 // Creates a headline grid with the columns and header texts of the news type as a visible child of `parent`.
-CSuperSheetWnd* CreateHeadlineSheet(QWidget* parent, const QRect& rectangle, int newsType,
+CSuperSheetWnd* createHeadlineSheet(QWidget* parent, const QRect& rectangle, int newsType,
                                     BKQuoteInterface& backEnd);
 
 // Sets the header texts again, after a change of language.
-void SetHeadlineSheetTexts(CSuperSheetWnd& sheet, int newsType, BKQuoteInterface& backEnd);
+void setHeadlineSheetTexts(CSuperSheetWnd& sheet, int newsType, BKQuoteInterface& backEnd);
+
+}  // namespace wirepane

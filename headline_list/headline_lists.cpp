@@ -7,6 +7,8 @@
 #include "headline_list/table_reading.h"
 #include "host/contract/news_positions.h"
 
+namespace wirepane {
+
 HeadlineLists::HeadlineLists(BKQuoteInterface& newsBackEnd, ListOwner& listOwner)
     : backEnd(newsBackEnd), owner(listOwner), positions(dynamic_cast<NewsPositions*>(&newsBackEnd)) {
     for (const ListKind& kind : listKinds)
@@ -16,54 +18,57 @@ HeadlineLists::HeadlineLists(BKQuoteInterface& newsBackEnd, ListOwner& listOwner
 HeadlineLists::~HeadlineLists() = default;
 
 template <class Fill>
-bool HeadlineLists::bRebuildFrom(ListIndex index, RelationFilter filter, Fill fill) {
+bool HeadlineLists::rebuildFrom(ListIndex index, RelationFilter filter, Fill fill) {
     HeadlineList& list = (*this)[index];
-    if (list.pGetGrid() == nullptr)
+    if (list.grid() == nullptr)
         return false;
     const auto number = static_cast<std::size_t>(index);
     // Before the reading: what comes meanwhile may be in it or not.
-    readAt[number] = positions != nullptr ? positions->ReadPosition() : 0;
+    readAt[number] = positions != nullptr ? positions->readPosition() : 0;
     missed[number] = false;
     othersFilter[number] = (filter != nullptr) != (index == ListIndex::Relation);
     fill(list);
-    list.vRefill();
+    list.refill();
     if (onRead)
         onRead();
-    return !list.Table().empty();
+    return !list.headlineTable().empty();
 }
 
-bool HeadlineLists::bWasRead(ListIndex list, const CHeadline& told) const {
-    const std::int64_t position = positions != nullptr ? positions->ToldPosition() : 0;
+bool HeadlineLists::wasRead(ListIndex list, const CHeadline& told) const {
+    const std::int64_t position = positions != nullptr ? positions->positionTold() : 0;
     return position > 0 && position <= readAt[static_cast<std::size_t>(list)] &&
-           (*this)[list].Table().rowOf(KeyOf(told)) >= 0;
+           (*this)[list].headlineTable().rowOf(keyOf(told)) >= 0;
 }
 
-bool HeadlineLists::bRebuild(ListIndex list, TableKind kind, const QString& key, RelationFilter filter) {
-    return bRebuildFrom(list, filter, [&](HeadlineList& filled) {
-        filled.vSetTable(ReadTables(backEnd, owner.vGetServices(), kind, key, filter));
+bool HeadlineLists::rebuild(ListIndex list, TableKind kind, const QString& key, RelationFilter filter) {
+    return rebuildFrom(list, filter, [&](HeadlineList& filled) {
+        filled.setTable(readTables(backEnd, owner.allServices(), kind, key, filter));
     });
 }
 
-bool HeadlineLists::bRebuildSymbol(const CSymbolInfo& symbol, RelationFilter filter) {
-    return bRebuildFrom(ListIndex::Symbol, filter, [&](HeadlineList& filled) {
+bool HeadlineLists::rebuildSymbol(const CSymbolInfo& symbol, RelationFilter filter) {
+    return rebuildFrom(ListIndex::Symbol, filter, [&](HeadlineList& filled) {
         listedSymbol = symbol;
-        filled.vSetTable(ReadSymbolTables(backEnd, owner.vGetServices(), symbol, filter));
+        filled.setTable(readSymbolTables(backEnd, owner.allServices(), symbol, filter));
     });
 }
 
-bool HeadlineLists::bRebuildWarrant(const QString& dateKey) {
-    return bRebuildFrom(ListIndex::Warrant, nullptr, [&](HeadlineList& filled) {
-        filled.vSetTable(ReadServiceTable(backEnd, warrantService, TableKind::ByDate, dateKey));
+bool HeadlineLists::rebuildWarrant(const QString& dateKey) {
+    return rebuildFrom(ListIndex::Warrant, nullptr, [&](HeadlineList& filled) {
+        filled.setTable(readServiceTable(backEnd, warrantService, TableKind::ByDate, dateKey));
     });
 }
 
-bool HeadlineLists::bRebuildCurrent(ListIndex list, const std::vector<ServiceEntry>& services,
-                                    RelationFilter filter) {
-    return bRebuildFrom(list, filter, [&](HeadlineList& filled) {
-        filled.vSetTable(ReadCurrentTables(backEnd, services, filter));
+bool HeadlineLists::rebuildCurrent(ListIndex list, const std::vector<ServiceEntry>& services,
+                                   RelationFilter filter) {
+    return rebuildFrom(list, filter, [&](HeadlineList& filled) {
+        filled.setTable(readCurrentTables(backEnd, services, filter));
     });
 }
 
-bool HeadlineLists::bRebuildAsCopy(ListIndex list, ListIndex of) {
-    return bRebuildFrom(list, nullptr, [&](HeadlineList& filled) { filled.vSetTable((*this)[of].Table()); });
+bool HeadlineLists::rebuildAsCopy(ListIndex list, ListIndex of) {
+    return rebuildFrom(list, nullptr,
+                       [&](HeadlineList& filled) { filled.setTable((*this)[of].headlineTable()); });
 }
+
+}  // namespace wirepane

@@ -15,6 +15,8 @@
 #include <vector>
 
 class BKQuoteInterface;
+
+namespace wirepane {
 class HeadlineList;
 class ListOwner;
 class NewsPositions;
@@ -32,39 +34,38 @@ public:
     const HeadlineList& operator[](ListIndex list) const { return *lists[static_cast<std::size_t>(list)]; }
 
     // Called each time that a list has been read anew.
-    void vSetOnRead(std::function<void()> call) { onRead = std::move(call); }
+    void setOnRead(std::function<void()> call) { onRead = std::move(call); }
 
     // Each reads one table anew, gives its grid the rows at the top and writes the visible ones. A list
     // without a grid is left alone. True when there are rows. From the selected services, by date (key:
     // yyyymmdd) or category (key: its id).
-    bool bRebuild(ListIndex list, TableKind kind, const QString& key,
-                  const RelationMatcher* filter = nullptr);
+    bool rebuild(ListIndex list, TableKind kind, const QString& key, const RelationMatcher* filter = nullptr);
     // Symbol news, from the selected services.
-    bool bRebuildSymbol(const CSymbolInfo& symbol, const RelationMatcher* filter = nullptr);
+    bool rebuildSymbol(const CSymbolInfo& symbol, const RelationMatcher* filter = nullptr);
     // The symbol whose news the symbol list holds.
-    const CSymbolInfo& ListedSymbol() const { return listedSymbol; }
+    const CSymbolInfo& listSymbol() const { return listedSymbol; }
     // Warrant news of a date, from the warrant service alone.
-    bool bRebuildWarrant(const QString& dateKey);
+    bool rebuildWarrant(const QString& dateKey);
     // Each ticked one of `services` gives the news of the date at which it stands.
-    bool bRebuildCurrent(ListIndex list, const std::vector<ServiceEntry>& services,
-                         const RelationMatcher* filter = nullptr);
+    bool rebuildCurrent(ListIndex list, const std::vector<ServiceEntry>& services,
+                        const RelationMatcher* filter = nullptr);
     // True while the list is as it was read under another list's filter: with the filter of the key sets,
     // which is the relation list's own, or as the relation list without it.
-    bool bHasOthersFilter(ListIndex list) const { return othersFilter[static_cast<std::size_t>(list)]; }
+    bool hasOthersFilter(ListIndex list) const { return othersFilter[static_cast<std::size_t>(list)]; }
     // True for a headline that is being told when its list held it already as it was read last: the back end
     // numbers its news (NewsPositions), and says so.
-    bool bWasRead(ListIndex list, const CHeadline& told) const;
+    bool wasRead(ListIndex list, const CHeadline& told) const;
     // What a list holds is behind what the back end has; until it is read anew.
-    void vMissed(ListIndex list) { missed[static_cast<std::size_t>(list)] = true; }
-    bool bHasMissed(ListIndex list) const { return missed[static_cast<std::size_t>(list)]; }
+    void noteMissed(ListIndex list) { missed[static_cast<std::size_t>(list)] = true; }
+    bool hasMissed(ListIndex list) const { return missed[static_cast<std::size_t>(list)]; }
 
     // The table becomes that of another list, row by row.
-    bool bRebuildAsCopy(ListIndex list, ListIndex of);
+    bool rebuildAsCopy(ListIndex list, ListIndex of);
 
 private:
     // `fill` gives the list its table, read with `filter`.
     template <class Fill>
-    bool bRebuildFrom(ListIndex list, const RelationMatcher* filter, Fill fill);
+    bool rebuildFrom(ListIndex list, const RelationMatcher* filter, Fill fill);
 
     BKQuoteInterface& backEnd;
     ListOwner& owner;
@@ -76,3 +77,5 @@ private:
     std::array<std::int64_t, listCount> readAt{};  // the position of the latest news when a list was read
     std::array<bool, listCount> missed{};
 };
+
+}  // namespace wirepane

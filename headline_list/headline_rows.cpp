@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <limits>
 
+namespace wirepane {
+
 namespace {
 
 constexpr auto atOffset = [](auto& content, std::size_t offset) {
@@ -190,3 +192,5 @@ void HeadlineRows::findEarliest(std::size_t place) {
     for (const CHeadlineTable& entry : pageAt(place).entries)
         earliest[place] = std::min(earliest[place], entry.time);
 }
+
+}  // namespace wirepane

@@ -10,6 +10,8 @@
 #include <numeric>
 #include <vector>
 
+namespace wirepane {
+
 // The entries of a headline list in their order; row 0 is the top. They stand in pages: a row that comes or
 // goes anywhere costs a page and a number for each page above it, not each row. A row has a ticket from its
 // coming to its going, whatever comes and goes around it.
@@ -141,3 +143,5 @@ void HeadlineRows::forEach(Use use) const {
             use(page.tickets[offset], page.entries[offset]);
     }
 }
+
+}  // namespace wirepane

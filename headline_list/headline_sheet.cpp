@@ -4,36 +4,40 @@
 #include "headline_list/headline_list.h"
 #include "host/contract/sync_info.h"
 
+namespace wirepane {
+
 namespace {
 
 constexpr int rowHeight = 16;
 
 }  // namespace
 
-CSuperSheetWnd* CreateHeadlineSheet(QWidget* parent, const QRect& rectangle, int newsType,
+CSuperSheetWnd* createHeadlineSheet(QWidget* parent, const QRect& rectangle, int newsType,
                                     BKQuoteInterface& backEnd) {
     auto* sheet = new CSuperSheetWnd(new CSheetBuilder, parent);
     if (!sheet->bCreateSheet()) {
         delete sheet;
         return nullptr;
     }
-    sheet->vSetThinBar(CSyncInfo::GetSettingCFG()->CApi_GetThinBarStatus());
+    sheet->setThinBar(CSyncInfo::GetSettingCFG()->CApi_GetThinBarStatus());
     sheet->setGeometry(rectangle);
-    sheet->vSetSmoothHorizontalScroll(true);
-    sheet->vStretchLastColumn(false);
-    sheet->vSetHeaderRowHeight(rowHeight);
-    sheet->vSetRowHeight(rowHeight);
-    for (int place = 0; const HeadlineColumnKind* column = ColumnAt(newsType, place); ++place)
-        sheet->vInsertColumn(column->width, column->alignment, QString(column->key));
-    SetHeadlineSheetTexts(*sheet, newsType, backEnd);
+    sheet->setSmoothHorizontalScroll(true);
+    sheet->stretchLast(false);
+    sheet->setHeaderRowHeight(rowHeight);
+    sheet->setHeightOfRows(rowHeight);
+    for (int place = 0; const HeadlineColumnKind* column = headlineColumnAt(newsType, place); ++place)
+        sheet->insertColumn(column->width, column->alignment, QString(column->key));
+    setHeadlineSheetTexts(*sheet, newsType, backEnd);
     sheet->show();
     return sheet;
 }
 
-void SetHeadlineSheetTexts(CSuperSheetWnd& sheet, int newsType, BKQuoteInterface& backEnd) {
-    for (int place = 0; const HeadlineColumnKind* column = ColumnAt(newsType, place); ++place) {
+void setHeadlineSheetTexts(CSuperSheetWnd& sheet, int newsType, BKQuoteInterface& backEnd) {
+    for (int place = 0; const HeadlineColumnKind* column = headlineColumnAt(newsType, place); ++place) {
         const QString toolTip =
-            column->toolTipKey.isEmpty() ? QString() : LangText(backEnd, column->toolTipKey);
-        sheet.vSetHeaderText(place, LangText(backEnd, column->headerKey), toolTip);
+            column->toolTipKey.isEmpty() ? QString() : langText(backEnd, column->toolTipKey);
+        sheet.setHeaderText(place, langText(backEnd, column->headerKey), toolTip);
     }
 }
+
+}  // namespace wirepane

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
     std::vector<CHeadlineTable> copies;
     const int first = std::max(from, 0);
@@ -20,7 +22,7 @@ int HeadlineTable::rowOf(const HeadlineKey& key) const {
         return row;
     // A wire that uses a number twice a day is rare enough to read the rows.
     return hasMore ? entries.firstWithin(row, size(),
-                                         [&](const CHeadlineTable& entry) { return KeyOf(entry) == key; })
+                                         [&](const CHeadlineTable& entry) { return keyOf(entry) == key; })
                    : -1;
 }
 
@@ -43,7 +45,7 @@ int HeadlineTable::rowInOrder(const HeadlineKey& key) const {
     return -1;
 }
 
-void HeadlineTable::BuildIndex() const {
+void HeadlineTable::buildIndex() const {
     if (indexed)
         return;
     byNumber.rebuild(entries);
@@ -52,7 +54,7 @@ void HeadlineTable::BuildIndex() const {
 }
 
 int HeadlineTable::rowOfSameDay(const HeadlineKey& key) const {
-    BuildIndex();
+    buildIndex();
     return byNumber.find(entries, {key.time, key.sequence, key.service, 0, 0}).row;
 }
 
@@ -60,10 +62,10 @@ int HeadlineTable::rowOfNumber(const HeadlineKey& key) const {
     // So few rows are read sooner than they are found by days.
     constexpr int nearTheTop = 64;
     int first = entries.firstWithin(0, std::min(size(), nearTheTop),
-                                    [&](const CHeadlineTable& entry) { return HaveSameNumber(entry, key); });
+                                    [&](const CHeadlineTable& entry) { return haveSameNumber(entry, key); });
     if (first >= 0)
         return first;
-    BuildIndex();
+    buildIndex();
     for (const std::int64_t time : days.times()) {
         const int row = byNumber.find(entries, {time, key.sequence, key.service, 0, 0}).row;
         if (row >= 0 && (first < 0 || row < first))
@@ -73,20 +75,20 @@ int HeadlineTable::rowOfNumber(const HeadlineKey& key) const {
 }
 
 void HeadlineTable::insert(int row, const CHeadlineTable& entry) {
-    BuildIndex();
+    buildIndex();
     entries.insert(row, entry);
     byNumber.inserted(entries, row);
     days.add(entry.time);
 }
 
 void HeadlineTable::remove(int row) {
-    BuildIndex();
+    buildIndex();
     byNumber.removing(entries, row);
     entries.remove(row);
 }
 
 void HeadlineTable::assign(const TableRuns& runs) {
-    entries = SortedNewestFirst(runs);
+    entries = sortedNewestFirst(runs);
     byNumber.clear();
     days.clear();
     indexed = false;
@@ -98,3 +100,5 @@ void HeadlineTable::clear() {
     byNumber.clear();
     days.clear();
 }
+
+}  // namespace wirepane

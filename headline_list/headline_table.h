@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace wirepane {
+
 // The entries of one headline list: row 0 is the newest, as far as the list is sorted (headlines that were
 // sent again leave it unsorted). Rows come and go and are found in time that hardly grows with the list.
 class HeadlineTable {
@@ -45,7 +47,7 @@ public:
     void assign(const TableRuns& runs);
     // Makes the table ready for pushes; the first push does it where nobody else did. Reads all rows once
     // after an assign.
-    void BuildIndex() const;
+    void buildIndex() const;
     void clear();
 
 private:
@@ -56,3 +58,5 @@ private:
     mutable ListedDays days;
     mutable bool indexed = true;  // false: `entries` are sorted, the index is to be built
 };
+
+}  // namespace wirepane

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 bool isTicked(std::span<const ServiceEntry> services, unsigned char service) {
@@ -37,7 +39,7 @@ bool names(const std::vector<CSymbolInfo>& symbols, unsigned char market, const 
 
 }  // namespace
 
-std::vector<IntakeTarget> ListsFor(const PushedHeadline& pushed, const IntakeState& state) {
+std::vector<IntakeTarget> listsFor(const PushedHeadline& pushed, const IntakeState& state) {
     if (!state.connected || !state.hasDatePicker)
         return {};
     const bool ticked = isTicked(state.services, pushed.headline.service);
@@ -63,7 +65,7 @@ std::vector<IntakeTarget> ListsFor(const PushedHeadline& pushed, const IntakeSta
     return targets;
 }
 
-bool Keeps(ListIndex list, const PushedHeadline& pushed, const NamedSymbols& symbols,
+bool keeps(ListIndex list, const PushedHeadline& pushed, const NamedSymbols& symbols,
            const IntakeState& state) {
     const bool isUnknown = (list == ListIndex::Category && !state.categoryId) ||
                            (list == ListIndex::Symbol && !state.symbolCode);
@@ -71,3 +73,5 @@ bool Keeps(ListIndex list, const PushedHeadline& pushed, const NamedSymbols& sym
         return true;
     return list == ListIndex::Symbol && symbols && names(*symbols, state.symbolMarket, *state.symbolCode);
 }
+
+}  // namespace wirepane

@@ -15,6 +15,8 @@
 #include <span>
 #include <vector>
 
+namespace wirepane {
+
 // A headline as the back end pushes it.
 struct PushedHeadline {
     const CHeadline& headline;
@@ -50,10 +52,12 @@ struct IntakeTarget {
 
 // The lists that a pushed headline belongs to, in the order in which they take it. Search results are not
 // among them: they are merged from the back end's answers.
-std::vector<IntakeTarget> ListsFor(const PushedHeadline& pushed, const IntakeState& state);
+std::vector<IntakeTarget> listsFor(const PushedHeadline& pushed, const IntakeState& state);
 
 // Whether a list that holds a headline may keep it now that it has been replaced by `pushed`. By the test by
 // which lists take headlines; the symbol list, which is read with every news that names its symbol, also
 // keeps what names it among others. A list whose choice is not known keeps it.
-bool Keeps(ListIndex list, const PushedHeadline& pushed, const NamedSymbols& symbols,
+bool keeps(ListIndex list, const PushedHeadline& pushed, const NamedSymbols& symbols,
            const IntakeState& state);
+
+}  // namespace wirepane

@@ -7,6 +7,8 @@
 #include <QLatin1StringView>
 #include <QString>
 
+namespace wirepane {
+
 // The language keys of the module, in one table: their texts live in the host's catalogues.
 namespace keys {
 
@@ -137,6 +139,8 @@ inline constexpr QLatin1StringView replaceMessage{"IDS_NEWSCTRLVIEW_STRING_REPLA
 }  // namespace keys
 
 // The text of a key in the language in force.
-inline QString LangText(BKQuoteInterface& backEnd, QLatin1StringView key) {
+inline QString langText(BKQuoteInterface& backEnd, QLatin1StringView key) {
     return backEnd.LangGetLangString(QString(key));
 }
+
+}  // namespace wirepane

@@ -5,6 +5,8 @@
 #include <array>
 #include <optional>
 
+namespace wirepane {
+
 // The seven headline lists of a view. The numbers are those of the view's function modes.
 enum class ListIndex : int { All = 0, Category, Symbol, Search, Relation, Warrant, WarningTerm };
 
@@ -30,13 +32,15 @@ inline constexpr std::array<ListKind, listCount> listKinds{{
     {ListIndex::WarningTerm, true, FillServices::Every},
 }};
 
-inline constexpr const ListKind& KindOf(ListIndex list) {
+inline constexpr const ListKind& kindOf(ListIndex list) {
     return listKinds[static_cast<std::size_t>(list)];
 }
 
 // The list of a mode number; nothing when it is outside 0 to 6.
-inline constexpr std::optional<ListIndex> ListOfNumber(int number) {
+inline constexpr std::optional<ListIndex> listOfNumber(int number) {
     if (number < 0 || number >= listCount)
         return std::nullopt;
     return static_cast<ListIndex>(number);
 }
+
+}  // namespace wirepane

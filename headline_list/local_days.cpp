@@ -6,6 +6,8 @@
 
 #include <limits>
 
+namespace wirepane {
+
 namespace {
 
 constexpr std::int64_t secondsPerDay = 86400;
@@ -53,3 +55,5 @@ void ListedDays::add(std::int64_t time) {
 void ListedDays::clear() {
     *this = {};
 }
+
+}  // namespace wirepane

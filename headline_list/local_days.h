@@ -8,6 +8,8 @@
 #include <unordered_set>
 #include <vector>
 
+namespace wirepane {
+
 // Tells which local calendar day a time falls on, quickly: each UTC day is asked of the calendar once. An
 // answer once given stays, also when the machine's time zone changes: an index may be built on it.
 class LocalDays {
@@ -44,3 +46,5 @@ private:
     std::vector<std::int64_t> timeOfEach;
     std::optional<std::int64_t> last;  // most headlines fall on the day of the one before
 };
+
+}  // namespace wirepane

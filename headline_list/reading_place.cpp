@@ -5,34 +5,36 @@
 #include <algorithm>
 #include <numeric>
 
+namespace wirepane {
+
 namespace {
 
 std::vector<HeadlineKey> keysOf(const std::vector<CHeadlineTable>& entries) {
     std::vector<HeadlineKey> keys;
     for (const CHeadlineTable& entry : entries)
-        keys.push_back(KeyOf(entry));
+        keys.push_back(keyOf(entry));
     return keys;
 }
 
 }  // namespace
 
 ReadingPlace::ReadingPlace(const HeadlineTable& table, const CSuperSheetWnd& sheet) {
-    const int first = sheet.iGetFirstVisibleRow();
+    const int first = sheet.firstVisibleRow();
     if (first > 0)
-        onScreen = keysOf(table.rows(first, sheet.iGetRowsPerPage() + 1));
+        onScreen = keysOf(table.rows(first, sheet.rowsPerPage() + 1));
     if (const int row = sheet.cptGetFocusNdx().y(); row >= 0 && row < table.size())
-        current = KeyOf(table.at(row));
+        current = keyOf(table.at(row));
     std::vector<int> rows;
     sheet.vGetAllSelectionNdx(rows);
     allSelected = rows.size() > 1 && static_cast<int>(rows.size()) == table.size();
     for (const int row : rows) {
         if (allSelected || selected.size() == mostSelected || row >= table.size())
             break;
-        selected.push_back(KeyOf(table.at(row)));
+        selected.push_back(keyOf(table.at(row)));
     }
 }
 
-void ReadingPlace::vRestore(const HeadlineTable& table, CSuperSheetWnd& sheet) const {
+void ReadingPlace::restore(const HeadlineTable& table, CSuperSheetWnd& sheet) const {
     std::vector<int> rows;
     if (allSelected) {
         rows.resize(static_cast<std::size_t>(table.size()));
@@ -42,13 +44,15 @@ void ReadingPlace::vRestore(const HeadlineTable& table, CSuperSheetWnd& sheet) c
         if (const int row = table.rowOf(key); row >= 0)
             rows.push_back(row);
     }
-    sheet.vSelectRows(rows, current ? table.rowOf(*current) : -1);
+    sheet.selectRows(rows, current ? table.rowOf(*current) : -1);
     for (std::size_t i = 0; i < onScreen.size(); ++i) {
         const int row = table.rowOf(onScreen[i]);
         if (row < 0)
             continue;
-        sheet.vSetFirstVisibleRow(std::max(0, row - static_cast<int>(i)));
+        sheet.setFirstVisibleRow(std::max(0, row - static_cast<int>(i)));
         return;
     }
-    sheet.vSetFirstVisibleRow(0);
+    sheet.setFirstVisibleRow(0);
 }
+
+}  // namespace wirepane

@@ -9,6 +9,8 @@
 #include <optional>
 #include <vector>
 
+namespace wirepane {
+
 // What a reader looks at in a list, told by keys, so that it is found again when the list was read anew. A
 // value.
 class ReadingPlace {
@@ -19,7 +21,7 @@ public:
     // Brings the grid, whose rows are those of `table` now and none of them selected, to the place: the rows
     // that were on screen keep their height, what was selected and current is so again, as far as it is
     // listed still. A list that stood at its top shows what has come there.
-    void vRestore(const HeadlineTable& table, CSuperSheetWnd& sheet) const;
+    void restore(const HeadlineTable& table, CSuperSheetWnd& sheet) const;
 
 private:
     // Beyond it the first ones stay selected, unless all rows were.
@@ -30,3 +32,5 @@ private:
     std::optional<HeadlineKey> current;
     bool allSelected = false;
 };
+
+}  // namespace wirepane

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 template <class Values>
@@ -48,18 +50,18 @@ std::vector<QString> distinctWords(std::span<const CNewsKey> keySets) {
 
 }  // namespace
 
-void RelationMatcher::NewsTypes::vAdd(const CNewsKey& keySet) {
+void RelationMatcher::NewsTypes::add(const CNewsKey& keySet) {
     const auto& types = keySet.newsTypes;
     if (types.size() == 1 && types.front() == CNewsKey::everyNewsType)
         every = true;
     ids.insert(ids.end(), types.begin(), types.end());
 }
 
-void RelationMatcher::NewsTypes::vSort() {
+void RelationMatcher::NewsTypes::sort() {
     sortOut(ids);
 }
 
-bool RelationMatcher::NewsTypes::bHas(std::int32_t id) const {
+bool RelationMatcher::NewsTypes::has(std::int32_t id) const {
     return every || std::binary_search(ids.begin(), ids.end(), id);
 }
 
@@ -74,16 +76,16 @@ RelationMatcher::RelationMatcher(std::span<const CNewsKey> keySets, Case letters
     finder = WordFinder(words);
     Together together;
     for (const CNewsKey& keySet : keySets)
-        vTake(keySet, together);
-    vTakeGroups(together);
-    unconditional.vSort();
+        take(keySet, together);
+    takeGroups(together);
+    unconditional.sort();
     for (Word word = 0; word < words.size(); ++word) {
-        uses[word].aloneSuffices.vSort();
+        uses[word].aloneSuffices.sort();
         wordsOfSymbol[withoutCase(words[word])].push_back(word);
     }
 }
 
-RelationMatcher::Words RelationMatcher::NumbersOf(const CNewsKey& keySet) const {
+RelationMatcher::Words RelationMatcher::numbersOf(const CNewsKey& keySet) const {
     Words numbers;
     for (const QString& word : keySet.keywords) {
         if (!word.isEmpty())
@@ -94,29 +96,29 @@ RelationMatcher::Words RelationMatcher::NumbersOf(const CNewsKey& keySet) const 
     return numbers;
 }
 
-void RelationMatcher::vTake(const CNewsKey& keySet, Together& together) {
-    Words numbers = NumbersOf(keySet);
+void RelationMatcher::take(const CNewsKey& keySet, Together& together) {
+    Words numbers = numbersOf(keySet);
     const bool mustAllHit = keySet.method == CNewsKey::all;
     const bool hasEmptyWord = std::any_of(keySet.keywords.begin(), keySet.keywords.end(),
                                           [](const QString& word) { return word.isEmpty(); });
     if (mustAllHit ? numbers.empty() : hasEmptyWord)
-        unconditional.vAdd(keySet);
+        unconditional.add(keySet);
     else if (mustAllHit && numbers.size() > 1)
-        together[std::move(numbers)].vAdd(keySet);
+        together[std::move(numbers)].add(keySet);
     else
         for (const Word word : numbers)
-            uses[word].aloneSuffices.vAdd(keySet);
+            uses[word].aloneSuffices.add(keySet);
 }
 
 // A group stands with that word of its which fewest groups share: the others are looked at when it hits.
-void RelationMatcher::vTakeGroups(Together& together) {
+void RelationMatcher::takeGroups(Together& together) {
     std::vector<std::size_t> sharers(words.size());
     for (const auto& [numbers, types] : together) {
         for (const Word word : numbers)
             ++sharers[word];
     }
     for (auto& [numbers, types] : together) {
-        types.vSort();
+        types.sort();
         const Word rarest = *std::min_element(numbers.begin(), numbers.end(),
                                               [&](Word a, Word b) { return sharers[a] < sharers[b]; });
         uses[rarest].groups.push_back({numbers, std::move(types)});
@@ -126,12 +128,12 @@ void RelationMatcher::vTakeGroups(Together& together) {
                          [](const Group& a, const Group& b) { return a.words.size() < b.words.size(); });
 }
 
-bool RelationMatcher::bAllHit(const Hits& hits, std::int32_t categoryId) const {
+bool RelationMatcher::allHit(const Hits& hits, std::int32_t categoryId) const {
     for (const Word hit : hits) {
         for (const Group& group : uses[hit].groups) {
             if (group.words.size() > static_cast<std::size_t>(hits.size()))
                 break;
-            if (group.types.bHas(categoryId) &&
+            if (group.types.has(categoryId) &&
                 std::includes(hits.begin(), hits.end(), group.words.begin(), group.words.end()))
                 return true;
         }
@@ -141,13 +143,13 @@ bool RelationMatcher::bAllHit(const Hits& hits, std::int32_t categoryId) const {
 
 bool RelationMatcher::CheckIsRelationSearch(const CHeadline& headline, std::int32_t categoryId,
                                             const QString& symbolText) const {
-    if (unconditional.bHas(categoryId))
+    if (unconditional.has(categoryId))
         return true;
     Hits hits;
     // True when the word is enough.
     const auto take = [&](Word word) {
         hits.push_back(word);
-        return uses[word].aloneSuffices.bHas(categoryId);
+        return uses[word].aloneSuffices.has(categoryId);
     };
     if (!symbolText.isEmpty()) {
         const auto equal = wordsOfSymbol.constFind(withoutCase(symbolText));
@@ -156,8 +158,10 @@ bool RelationMatcher::CheckIsRelationSearch(const CHeadline& headline, std::int3
     }
     if (words.empty())
         return false;
-    if (finder.Find(headline.title.toUpper(), take))
+    if (finder.find(headline.title.toUpper(), take))
         return true;
     sortOut(hits);
-    return bAllHit(hits, categoryId);
+    return allHit(hits, categoryId);
 }
+
+}  // namespace wirepane

@@ -13,6 +13,8 @@
 #include <span>
 #include <vector>
 
+namespace wirepane {
+
 // The key sets of the relation-search list, made ready to be tried on many headlines: it is built once when
 // they change, and a headline then costs about the same whether there are ten of them or ten thousand. Pure;
 // may be read on several threads at once.
@@ -47,9 +49,9 @@ private:
         bool every = false;
         std::vector<std::int32_t> ids;  // rising, once the matcher is built
 
-        void vAdd(const CNewsKey& keySet);
-        void vSort();
-        bool bHas(std::int32_t id) const;
+        void add(const CNewsKey& keySet);
+        void sort();
+        bool has(std::int32_t id) const;
     };
     // Keywords of which all must hit, and the news types of the key sets that ask for them.
     struct Group {
@@ -63,10 +65,10 @@ private:
     using Hits = QVarLengthArray<Word, 64>;
     using Together = std::map<Words, NewsTypes>;
 
-    void vTake(const CNewsKey& keySet, Together& together);
-    void vTakeGroups(Together& together);
-    Words NumbersOf(const CNewsKey& keySet) const;
-    bool bAllHit(const Hits& hits, std::int32_t categoryId) const;
+    void take(const CNewsKey& keySet, Together& together);
+    void takeGroups(Together& together);
+    Words numbersOf(const CNewsKey& keySet) const;
+    bool allHit(const Hits& hits, std::int32_t categoryId) const;
 
     bool isEmpty = true;
     NewsTypes unconditional;     // headlines of these types are wanted whatever they say
@@ -75,3 +77,5 @@ private:
     WordFinder finder;
     QHash<QString, Words> wordsOfSymbol;  // by the word without its case
 };
+
+}  // namespace wirepane

@@ -9,6 +9,8 @@
 #include <span>
 #include <vector>
 
+namespace wirepane {
+
 // Finds the first row that is the same as a given entry, where Identity says what "the same" means: it has
 // hash(entry) and same(entry, entry).
 //
@@ -270,3 +272,5 @@ void RowIndex<Identity>::split(const HeadlineRows& rows, std::size_t number) {
         refill(rows, segment, halves[half].size() * 3 / 2 + 8, halves[half]);
     }
 }
+
+}  // namespace wirepane

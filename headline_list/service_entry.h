@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+namespace wirepane {
+
 // The service whose news are warrant news: it has a list of its own.
 
 // One news service in the view's list.
@@ -17,3 +19,5 @@ struct ServiceEntry {
 
     bool operator==(const ServiceEntry&) const = default;
 };
+
+}  // namespace wirepane

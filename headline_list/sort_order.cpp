@@ -8,6 +8,8 @@
 #include <span>
 #include <tuple>
 
+namespace wirepane {
+
 namespace {
 
 // Hands out the entries of sorted runs in their common order: a knock-out tournament between the heads of the
@@ -41,7 +43,7 @@ private:
         const std::size_t later = winners[2 * node + 1];
         const bool laterWins =
             !heads[later].empty() &&
-            (heads[earlier].empty() || NewerFirst(heads[later].front(), heads[earlier].front()));
+            (heads[earlier].empty() || newerFirst(heads[later].front(), heads[earlier].front()));
         winners[node] = laterWins ? later : earlier;
     }
 
@@ -54,19 +56,19 @@ HeadlineRows sortedWhole(const TableRuns& runs) {
     std::vector<CHeadlineTable> entries;
     for (const std::vector<CHeadlineTable>& run : runs)
         entries.insert(entries.end(), run.begin(), run.end());
-    std::stable_sort(entries.begin(), entries.end(), NewerFirst);
+    std::stable_sort(entries.begin(), entries.end(), newerFirst);
     return {static_cast<int>(entries.size()), [entry = entries.begin()]() mutable { return *entry++; }};
 }
 
 }  // namespace
 
-bool NewerFirst(const CHeadlineTable& a, const CHeadlineTable& b) {
+bool newerFirst(const CHeadlineTable& a, const CHeadlineTable& b) {
     return std::tie(a.time, a.sequence, a.second, a.last) > std::tie(b.time, b.sequence, b.second, b.last);
 }
 
-HeadlineRows SortedNewestFirst(const TableRuns& runs) {
+HeadlineRows sortedNewestFirst(const TableRuns& runs) {
     const auto isSorted = [](const std::vector<CHeadlineTable>& run) {
-        return std::is_sorted(run.begin(), run.end(), NewerFirst);
+        return std::is_sorted(run.begin(), run.end(), newerFirst);
     };
     if (!std::all_of(runs.begin(), runs.end(), isSorted))
         return sortedWhole(runs);
@@ -76,3 +78,5 @@ HeadlineRows SortedNewestFirst(const TableRuns& runs) {
     RunTournament tournament(runs);
     return {static_cast<int>(count), [&] { return tournament.take(); }};
 }
+
+}  // namespace wirepane

@@ -7,13 +7,17 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // The order of every headline table: newest first by time, then by sequence number, then by the two opaque
 // values, all descending.
-bool NewerFirst(const CHeadlineTable& a, const CHeadlineTable& b);
+bool newerFirst(const CHeadlineTable& a, const CHeadlineTable& b);
 
 // The tables of several services, one behind the other.
 using TableRuns = std::vector<std::vector<CHeadlineTable>>;
 
 // All entries newest first; equal entries keep their order (what a stable sort of all runs, one behind the
 // other, gives). Runs that are in order already are only merged.
-HeadlineRows SortedNewestFirst(const TableRuns& runs);
+HeadlineRows sortedNewestFirst(const TableRuns& runs);
+
+}  // namespace wirepane

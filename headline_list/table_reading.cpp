@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/table_reading.h"
 
+namespace wirepane {
+
 namespace {
 
 // Headlines come in the order of their entries; those that are not at hand are left out.
@@ -13,7 +15,7 @@ std::vector<CHeadlineTable> related(const std::vector<CHeadlineTable>& entries,
     for (const CHeadlineTable& entry : entries) {
         if (headline == headlines.end())
             break;
-        if (KeyOf(entry) != KeyOf(*headline))
+        if (keyOf(entry) != keyOf(*headline))
             continue;
         if (relation.CheckIsRelationSearch(*headline, headline->categoryId, {}))
             kept.push_back(entry);
@@ -46,7 +48,7 @@ TableRuns readSelected(BKQuoteInterface& backEnd, const std::vector<ServiceEntry
 
 }  // namespace
 
-TableRuns ReadTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
+TableRuns readTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
                      const QString& key, RelationFilter filter) {
     return readSelected(backEnd, services, filter,
                         [&](unsigned char service, std::vector<CHeadlineTable>& entries) {
@@ -54,15 +56,15 @@ TableRuns ReadTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>&
                         });
 }
 
-TableRuns ReadEveryTable(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
+TableRuns readEveryTable(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
                          const QString& key) {
     TableRuns runs;
     for (const ServiceEntry& entry : services)
-        runs.push_back(ReadServiceTable(backEnd, entry.service, kind, key).front());
+        runs.push_back(readServiceTable(backEnd, entry.service, kind, key).front());
     return runs;
 }
 
-TableRuns ReadCurrentTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
+TableRuns readCurrentTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
                             RelationFilter filter) {
     return readSelected(
         backEnd, services, filter, [&](unsigned char service, std::vector<CHeadlineTable>& entries) {
@@ -71,7 +73,7 @@ TableRuns ReadCurrentTables(BKQuoteInterface& backEnd, const std::vector<Service
         });
 }
 
-TableRuns ReadSymbolTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
+TableRuns readSymbolTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
                            const CSymbolInfo& symbol, RelationFilter filter) {
     return readSelected(backEnd, services, filter,
                         [&](unsigned char service, std::vector<CHeadlineTable>& entries) {
@@ -79,9 +81,11 @@ TableRuns ReadSymbolTables(BKQuoteInterface& backEnd, const std::vector<ServiceE
                         });
 }
 
-TableRuns ReadServiceTable(BKQuoteInterface& backEnd, unsigned char service, TableKind kind,
+TableRuns readServiceTable(BKQuoteInterface& backEnd, unsigned char service, TableKind kind,
                            const QString& key) {
     TableRuns runs(1);
     backEnd.BKQNEWS_iGetHeadlineTable(service, runs.front(), static_cast<int>(kind), key);
     return runs;
 }
+
+}  // namespace wirepane

@@ -11,6 +11,8 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // How the tables of lists are read from the back end: one run per selected service, in the order of the
 // services.
 
@@ -18,21 +20,23 @@
 using RelationFilter = const RelationMatcher*;
 
 // By a kind of table and its key: yyyymmdd, or a category id text.
-TableRuns ReadTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
+TableRuns readTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
                      const QString& key, RelationFilter filter = nullptr);
 
 // The same of every service, selected or not.
-TableRuns ReadEveryTable(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
+TableRuns readEveryTable(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services, TableKind kind,
                          const QString& key);
 
 // By date: each service's current news date.
-TableRuns ReadCurrentTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
+TableRuns readCurrentTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
                             RelationFilter filter = nullptr);
 
 // By symbol.
-TableRuns ReadSymbolTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
+TableRuns readSymbolTables(BKQuoteInterface& backEnd, const std::vector<ServiceEntry>& services,
                            const CSymbolInfo& symbol, RelationFilter filter = nullptr);
 
 // One service's table, selected or not.
-TableRuns ReadServiceTable(BKQuoteInterface& backEnd, unsigned char service, TableKind kind,
+TableRuns readServiceTable(BKQuoteInterface& backEnd, unsigned char service, TableKind kind,
                            const QString& key);
+
+}  // namespace wirepane

@@ -4,15 +4,17 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 WordFinder::WordFinder(std::span<const QString> words) {
     if (words.empty())
         return;
-    vGrowTree(words);
-    vLinkEndings();
+    growTree(words);
+    linkEndings();
 }
 
 // Words with one beginning lie side by side, so a state is a run of words and its depth.
-void WordFinder::vGrowTree(std::span<const QString> words) {
+void WordFinder::growTree(std::span<const QString> words) {
     struct Run {
         std::size_t from;
         std::size_t to;
@@ -43,7 +45,7 @@ void WordFinder::vGrowTree(std::span<const QString> words) {
         firstLetter[letters[states[root].firstChild + i]] = states[root].firstChild + i;
 }
 
-void WordFinder::vLinkEndings() {
+void WordFinder::linkEndings() {
     // In the order of depth: what a state links to is shallower, and linked before it.
     for (std::uint32_t state = root; state < states.size(); ++state) {
         const State& parent = states[state];
@@ -77,3 +79,5 @@ std::uint32_t WordFinder::after(std::uint32_t state, char16_t letter) const {
         state = states[state].ending;
     }
 }
+
+}  // namespace wirepane

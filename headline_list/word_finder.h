@@ -9,6 +9,8 @@
 #include <span>
 #include <vector>
 
+namespace wirepane {
+
 // Finds which of many words stand anywhere in a text, in one pass over it: what the pass costs grows with the
 // text and with the words found, hardly with the number of words looked for. Words and texts are compared by
 // their code units, nothing is folded. Pure; may be read on several threads at once.
@@ -23,7 +25,7 @@ public:
     // at one place the longest comes first. When `found` returns true the search ends there, and Find too
     // returns true.
     template <class Found>
-    bool Find(QStringView text, Found found) const {
+    bool find(QStringView text, Found found) const {
         std::uint32_t state = root;
         for (const QChar letter : text) {
             state = after(state, letter.unicode());
@@ -53,11 +55,13 @@ private:
     std::uint32_t wordEnd(std::uint32_t state) const {
         return state == root || states[state].word != noWord ? state : states[state].shorterWord;
     }
-    void vGrowTree(std::span<const QString> words);
-    void vLinkEndings();
+    void growTree(std::span<const QString> words);
+    void linkEndings();
 
     std::vector<State> states;
     std::vector<char16_t> letters;  // by state: the last letter of its beginning
     std::vector<std::uint32_t>
         firstLetter;  // by letter: the state of the beginning that is this letter alone
 };
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+namespace wirepane {
+
 // The machine-wide switches of the host's application file.
 struct ApplicationSwitches {
     bool showNormalSearch = false;   // the relation-search mode has a tab
@@ -17,3 +19,5 @@ struct ApplicationSwitches {
                 file.number(section, QStringLiteral("ShowWarningSearch"), 0) == 1};
     }
 };
+
+}  // namespace wirepane

@@ -7,7 +7,7 @@
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/com_virtual_base_view.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/news_services.h"
 #include "news_view/story_stage.h"
@@ -19,6 +19,8 @@
 
 #include <utility>
 
+namespace wirepane {
+
 Arrangement::Arrangement(ViewContext& context, const CommonParts& commonParts, StoryStage& storyStage,
                          Calls ofTheView)
     : view(context), parts(commonParts), stage(storyStage), calls(std::move(ofTheView)) {}
@@ -28,35 +30,35 @@ LayoutInput Arrangement::input() const {
     in.client = parts.window.rect();
     in.fontHeight = g_iGetFontHeight(calls.font());
     in.titleHeight = calls.titleHeight();
-    const auto* strip = parts.controls.Find<CXTPTabControl>(ids::tabStrip);
+    const auto* strip = parts.controls.find<CXTPTabControl>(ids::tabStrip);
     in.firstTabHeight = strip != nullptr && strip->count() > 0 ? strip->tabRect(0).height() : 0;
-    in.serviceCount = static_cast<int>(parts.services.Entries().size());
+    in.serviceCount = static_cast<int>(parts.services.currentServices().size());
     const auto widestItem = [this](int id) {
-        const auto* combo = parts.controls.Find<SCComboBox>(id);
-        return combo != nullptr ? combo->iGetWidestItem() : 0;
+        const auto* combo = parts.controls.find<SCComboBox>(id);
+        return combo != nullptr ? combo->widestItem() : 0;
     };
     in.serviceComboText = widestItem(ids::serviceCombo);
     in.symbolComboText = widestItem(ids::symbolCombo);
     in.captionButtonWidth = parts.window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
     in.newsType = parts.newsType;
     in.showType = calls.showType();
-    in.hasStoryPane = stage.pGetPane() != nullptr;
-    in.hasRelatedQuotes = stage.pGetQuotes() != nullptr;
-    in.hasAllNewsGrid = parts.lists[ListIndex::All].pGetGrid() != nullptr;
+    in.hasStoryPane = stage.storyPane() != nullptr;
+    in.hasRelatedQuotes = stage.relatedQuotes() != nullptr;
+    in.hasAllNewsGrid = parts.lists[ListIndex::All].grid() != nullptr;
     return in;
 }
 
 ViewLayout Arrangement::layout() const {
-    return LayOut(input());
+    return layOut(input());
 }
 
 void Arrangement::place() {
     const ViewLayout places = layout();
-    parts.controls.vPlace(places);
+    parts.controls.place(places);
     placeStory(places);
     for (const ListKind& kind : listKinds) {
         const bool withoutControls = kind.index == ListIndex::Symbol || kind.index == ListIndex::Warrant;
-        if (CSuperSheetWnd* grid = parts.lists[kind.index].pGetGrid())
+        if (CSuperSheetWnd* grid = parts.lists[kind.index].grid())
             grid->setGeometry(withoutControls ? places.gridWithoutControls : places.grid);
     }
     placed = true;
@@ -66,13 +68,13 @@ void Arrangement::place() {
 }
 
 void Arrangement::placeStory(const ViewLayout& places) {
-    if (NewsStoryView* pane = stage.pGetPane()) {
+    if (NewsStoryView* pane = stage.storyPane()) {
         pane->HideHeadLine(places.storyHidesHeadline ? 1 : 0);
         pane->setGeometry(places.storyPane);
         pane->setVisible(!places.storyPane.isEmpty());
         pane->vSetComponentPos();
     }
-    if (CNewsRelateSymbolQuoteView* quotes = stage.pGetQuotes()) {
+    if (CNewsRelateSymbolQuoteView* quotes = stage.relatedQuotes()) {
         quotes->setGeometry(places.relatedQuotes);
         quotes->setVisible(!places.relatedQuotes.isEmpty());
     }
@@ -89,3 +91,5 @@ int Arrangement::gridWidth() const {
         return width;
     return type == StoryShowType::Right ? width / 2 : 0;
 }
+
+}  // namespace wirepane

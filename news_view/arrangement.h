@@ -9,6 +9,7 @@
 
 #include <functional>
 
+namespace wirepane {
 class StoryStage;
 class ViewContext;
 
@@ -47,3 +48,5 @@ private:
     bool placed = false;
     int takenWidth = 0;
 };
+
+}  // namespace wirepane

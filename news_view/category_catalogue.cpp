@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+namespace wirepane {
+
 namespace {
 
 constexpr qsizetype longestList = 1024;
@@ -17,7 +19,7 @@ std::vector<QString> listFrom(const IniFile& file, const QString& key) {
 
 }  // namespace
 
-bool CategoryCatalogue::bLoad(const IniFile& file) {
+bool CategoryCatalogue::load(const IniFile& file) {
     *this = {};
     const std::vector<QString> ids = listFrom(file, QStringLiteral("CatId"));
     const std::vector<QString> texts = listFrom(file, QStringLiteral("SHORTNAME"));
@@ -26,7 +28,7 @@ bool CategoryCatalogue::bLoad(const IniFile& file) {
     return ids.size() == texts.size();
 }
 
-void CategoryCatalogue::vAdd(BKQuoteInterface& backEnd, unsigned char service) {
+void CategoryCatalogue::add(BKQuoteInterface& backEnd, unsigned char service) {
     std::vector<QString> ids;
     std::vector<QString> texts;
     if (backEnd.bNewsAPI_GetNewsCatId(service, ids, texts) && ids.size() == texts.size())
@@ -41,7 +43,7 @@ void CategoryCatalogue::add(const std::vector<QString>& ids, const std::vector<Q
     }
 }
 
-const QString* CategoryCatalogue::NameOf(int id) const {
+const QString* CategoryCatalogue::nameOf(int id) const {
     const auto found = names.find(id);
     return found == names.end() ? nullptr : &found->second;
 }
@@ -50,3 +52,5 @@ int CategoryCatalogue::GetCategoryIDbyName(const QString& name) const {
     const auto found = idsByName.find(name);
     return found == idsByName.end() ? -1 : found->second;
 }
+
+}  // namespace wirepane

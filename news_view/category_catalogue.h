@@ -11,17 +11,19 @@
 #include <map>
 #include <vector>
 
+namespace wirepane {
+
 // Category ids and their short names, both ways.
 class CategoryCatalogue {
 public:
     // The host's catalogue: section "CONFIG", lists "CatId" and "SHORTNAME". False, and the catalogue empty,
     // when the two differ in length.
-    bool bLoad(const IniFile& file);
+    bool load(const IniFile& file);
     // Adds what the back end knows of one service; what is there already stays.
-    void vAdd(BKQuoteInterface& backEnd, unsigned char service);
+    void add(BKQuoteInterface& backEnd, unsigned char service);
 
     // The short name; null when the id is unknown.
-    const QString* NameOf(int id) const;
+    const QString* nameOf(int id) const;
     // The id of exactly this name; -1 when there is none.
     int GetCategoryIDbyName(const QString& name) const;
 
@@ -33,3 +35,5 @@ private:
     std::map<int, QString> names;
     std::map<QString, int> idsByName;
 };
+
+}  // namespace wirepane

@@ -9,7 +9,7 @@
 #include "headline_list/language_keys.h"
 #include "host/contract/item_display.h"
 #include "host/controls/sc_combo_box.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/mode_loading.h"
 #include "news_view/news_services.h"
@@ -21,6 +21,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace wirepane {
+
 CategoryMode::CategoryMode(ViewContext& viewContext, const CommonParts& commonParts,
                            std::function<const RelationMatcher*()> filterOfLists)
     : context(viewContext), parts(commonParts), filter(std::move(filterOfLists)), names(parts.backEnd) {}
@@ -29,10 +31,10 @@ CategoryMode::CategoryMode(ViewContext& viewContext, const CommonParts& commonPa
 
 void CategoryMode::bInitialTransferWarrantCatObject() {
     std::vector<unsigned char> services;
-    for (const ServiceEntry& entry : parts.services.Entries())
+    for (const ServiceEntry& entry : parts.services.currentServices())
         services.push_back(entry.service);
-    names.vSetServices(std::move(services));
-    names.vLoadWarrants();
+    names.setServices(std::move(services));
+    names.loadWarrants();
 }
 
 void CategoryMode::reloadNames() {
@@ -41,18 +43,18 @@ void CategoryMode::reloadNames() {
 }
 
 void CategoryMode::learn(bool hostSaysSo) {
-    const bool renamed = names.bLearn(hostSaysSo);
+    const bool renamed = names.learn(hostSaysSo);
     for (const ListKind& kind : listKinds) {
         if (!renamed)
             break;
         HeadlineList& list = parts.lists[kind.index];
-        list.vForgetWrittenCells();
+        list.forgetWrittenCells();
         list.vFillHeadline();
         list.vFillTempHeadline();
-        if (CSuperSheetWnd* sheet = list.pGetGrid())
+        if (CSuperSheetWnd* sheet = list.grid())
             sheet->viewport()->update();
     }
-    names.vReadAtNextMiss();
+    names.readAtNextMiss();
     if (std::exchange(isOneMissed, false) || renamed || hostSaysSo)
         learnCombo();
 }
@@ -63,17 +65,17 @@ void CategoryMode::notePushed(const CHeadline& headline, const QString& category
 }
 
 QString CategoryMode::nameOf(unsigned char service, int id) {
-    const QString* name = names.NameOf(service, id);
-    return name != nullptr ? *name : LangText(parts.backEnd, keys::recover);
+    const QString* name = names.nameOf(service, id);
+    return name != nullptr ? *name : langText(parts.backEnd, keys::recover);
 }
 
 bool CategoryMode::colourOf(unsigned char service, const QString& name, QColor& text, QColor& background) {
-    const int id = names.IdOf(service, name);
+    const int id = names.idOf(service, name);
     if (id < 0)
         return false;
-    TRVItemDisplay& display = *TRVItemDisplay::GetItemDisplay();
+    TRVItemDisplay& display = *TRVItemDisplay::itemDisplay();
     if (service == warrantService)
-        display.GetWarrantCatColor(id, text, background);
+        display.warrantCatColor(id, text, background);
     else
         display.GetNewsCatColor(id, text, background);
     return true;
@@ -87,10 +89,10 @@ void CategoryMode::showColumn() {
 }
 
 void CategoryMode::showColumn(bool show) {
-    CSuperSheetWnd* sheet = parts.lists[context.shownList()].pGetGrid();
-    const int column = PlaceOf(HeadlineColumn::Category, parts.newsType);
-    const int width = show ? KindOf(HeadlineColumn::Category).width : 0;
-    if (column < 0 || sheet == nullptr || sheet->iGetColWidth(column) == width)
+    CSuperSheetWnd* sheet = parts.lists[context.shownList()].grid();
+    const int column = placeOf(HeadlineColumn::Category, parts.newsType);
+    const int width = show ? kindOf(HeadlineColumn::Category).width : 0;
+    if (column < 0 || sheet == nullptr || sheet->colWidth(column) == width)
         return;
     sheet->vSetColWidth(column, width);
     sheet->viewport()->update();
@@ -104,7 +106,7 @@ void CategoryMode::toggleColumn() {
 // --- The combo ---
 
 void CategoryMode::connectCombo() {
-    QObject::connect(parts.controls.Find<SCComboBox>(ids::categoryCombo), &SCComboBox::CloseUp, &parts.window,
+    QObject::connect(parts.controls.find<SCComboBox>(ids::categoryCombo), &SCComboBox::closeUp, &parts.window,
                      [this] {
                          if (comboIsBehind)
                              learnCombo();
@@ -113,14 +115,14 @@ void CategoryMode::connectCombo() {
 
 void CategoryMode::bInitialCategoryInfo() {
     fillCombo();
-    if (auto* combo = parts.controls.Find<SCComboBox>(ids::categoryCombo))
+    if (auto* combo = parts.controls.find<SCComboBox>(ids::categoryCombo))
         combo->setCurrentIndex(std::max(indexOf(parts.settings.categoryId), 0));
     chosen();
 }
 
 void CategoryMode::vRefreshCategoryCombo() {
-    auto* combo = parts.controls.Find<SCComboBox>(ids::categoryCombo);
-    if (combo == nullptr || parts.lists[ListIndex::Category].pGetGrid() == nullptr)
+    auto* combo = parts.controls.find<SCComboBox>(ids::categoryCombo);
+    if (combo == nullptr || parts.lists[ListIndex::Category].grid() == nullptr)
         return;
     const QString name = combo->currentText();
     fillCombo();
@@ -131,21 +133,21 @@ void CategoryMode::vRefreshCategoryCombo() {
 std::vector<CategoryItem> CategoryMode::itemsOfServices() const {
     std::vector<CategoryItem> offered;
     std::set<QString> known;
-    for (const ServiceEntry& entry : parts.services.Saved()) {
+    for (const ServiceEntry& entry : parts.services.savedServices()) {
         std::vector<QString> idTexts;
         std::vector<QString> texts;
         if (!entry.selected || !parts.backEnd.bNewsAPI_GetNewsCatId(entry.service, idTexts, texts))
             continue;
         for (std::size_t i = 0; i < std::min(idTexts.size(), texts.size()); ++i) {
             if (known.insert(idTexts[i]).second)
-                offered.push_back({idTexts[i], ShownText(parts.backEnd, entry.service, texts[i])});
+                offered.push_back({idTexts[i], shownText(parts.backEnd, entry.service, texts[i])});
         }
     }
     return offered;
 }
 
 void CategoryMode::fillCombo() {
-    auto* combo = parts.controls.Find<SCComboBox>(ids::categoryCombo);
+    auto* combo = parts.controls.find<SCComboBox>(ids::categoryCombo);
     if (combo == nullptr)
         return;
     items = itemsOfServices();
@@ -156,8 +158,8 @@ void CategoryMode::fillCombo() {
 }
 
 void CategoryMode::learnCombo() {
-    auto* combo = parts.controls.Find<SCComboBox>(ids::categoryCombo);
-    if (combo == nullptr || (items.empty() && !parts.loading.bHasCategoryCatalogue()))
+    auto* combo = parts.controls.find<SCComboBox>(ids::categoryCombo);
+    if (combo == nullptr || (items.empty() && !parts.loading.hasCategoryCatalogue()))
         return;
     comboIsBehind = combo->view()->isVisible();
     if (comboIsBehind || itemsOfServices() == items)
@@ -178,7 +180,7 @@ int CategoryMode::indexOf(const QString& id) const {
 }
 
 std::optional<QString> CategoryMode::chosenId() const {
-    const auto* combo = parts.controls.Find<SCComboBox>(ids::categoryCombo);
+    const auto* combo = parts.controls.find<SCComboBox>(ids::categoryCombo);
     const int index = combo != nullptr ? combo->currentIndex() : -1;
     if (index < 0 || index >= static_cast<int>(items.size()))
         return {};
@@ -190,5 +192,7 @@ void CategoryMode::chosen() {
     if (!id)
         return;
     parts.settings.categoryId = *id;
-    parts.lists.bRebuild(ListIndex::Category, TableKind::ByCategory, *id, filter());
+    parts.lists.rebuild(ListIndex::Category, TableKind::ByCategory, *id, filter());
 }
+
+}  // namespace wirepane

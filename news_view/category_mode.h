@@ -13,9 +13,16 @@
 #include <vector>
 
 class QColor;
+
+namespace wirepane {
 class RelationMatcher;
 class ViewContext;
+
+}  // namespace wirepane
+
 struct CHeadline;
+
+namespace wirepane {
 
 // The categories of a view: what they are called and how they look, the combo that chooses the one whose news
 // the category list holds, and the category column of the grids. Interface thread only.
@@ -26,7 +33,7 @@ public:
                  std::function<const RelationMatcher*()> filter);
 
     // Reads the host's file of names; the list of warrant categories, for the services of the view.
-    void bInitialTransferCatObject() { names.bLoadFile(); }
+    void bInitialTransferCatObject() { names.loadFile(); }
     void bInitialTransferWarrantCatObject();
     // The host's file has changed.
     void reloadNames();
@@ -38,7 +45,7 @@ public:
     // A text that says so where nobody knows the id.
     QString nameOf(unsigned char service, int id);
     // -1 when there is none of exactly this name.
-    int idOf(unsigned char service, const QString& name) { return names.IdOf(service, name); }
+    int idOf(unsigned char service, const QString& name) { return names.idOf(service, name); }
     // False, and both colours unchanged, when there is none of this name.
     bool colourOf(unsigned char service, const QString& name, QColor& text, QColor& background);
 
@@ -74,3 +81,5 @@ private:
     bool isOneMissed = false;         // since the last refresh
     bool comboIsBehind = false;       // it was open when there was something to learn
 };
+
+}  // namespace wirepane

@@ -4,6 +4,8 @@
 
 #include <QMenu>
 
+namespace wirepane {
+
 bool CommandMenu::isUp() const {
     return menu != nullptr;
 }
@@ -27,3 +29,5 @@ void CommandMenu::popUp(const std::vector<MenuEntry>& entries, const QPoint& scr
     }
     menu->popup(screen);
 }
+
+}  // namespace wirepane

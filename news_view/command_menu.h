@@ -13,6 +13,8 @@ class QMenu;
 class QPoint;
 class QWidget;
 
+namespace wirepane {
+
 // A line of a menu of commands.
 struct MenuEntry {
     int command = 0;  // 0: a separator
@@ -39,3 +41,5 @@ private:
     std::function<void(int)> carryOut;
     QPointer<QMenu> menu;
 };
+
+}  // namespace wirepane

@@ -3,13 +3,20 @@
 #pragma once
 
 class BKQuoteInterface;
+
+namespace wirepane {
 class ControlSet;
 class FeedBreaks;
 class HeadlineLists;
 class ListTip;
 class ModeLoading;
 class NewsServices;
+
+}  // namespace wirepane
+
 class QWidget;
+
+namespace wirepane {
 struct ApplicationSwitches;
 struct ViewSettings;
 
@@ -28,3 +35,5 @@ struct CommonParts {
     ListTip& tip;
     const int& newsType;  // see NewsViewAccess::vSetNewsType
 };
+
+}  // namespace wirepane

@@ -6,19 +6,21 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/language_keys.h"
 #include "host/controls/plain_caption.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/list_notices.h"
 #include "news_view/view_context.h"
 
 #include <QWidget>
 
+namespace wirepane {
+
 std::vector<MenuEntry> contextMenuEntries(const MenuSituation& situation, BKQuoteInterface& backEnd,
                                           const std::vector<MenuEntry>& waiting, const ListNotices& notices) {
     std::vector<MenuEntry> entries;
     const auto add = [&](QLatin1StringView key, int command) {
-        entries.push_back({command, LangText(backEnd, key), {}});
+        entries.push_back({command, langText(backEnd, key), {}});
     };
-    add(KindOf(HeadlineColumn::Category).menuKey, ids::changeCategoryState);
+    add(kindOf(HeadlineColumn::Category).menuKey, ids::changeCategoryState);
     entries.back().checked = situation.showsCategory;
     // Searches and warrants have no table that could be sent again.
     if (situation.mode <= ListIndex::Symbol) {
@@ -33,9 +35,9 @@ std::vector<MenuEntry> contextMenuEntries(const MenuSituation& situation, BKQuot
         add(keys::saveAsNews, ids::saveNews);
     }
     entries.insert(entries.end(), waiting.begin(), waiting.end());
-    for (const auto& [kind, text] : notices.InOrder()) {
-        if (const int command = CommandOf(kind); command != 0)
-            entries.push_back({command, CaptionOfName(text), {}});
+    for (const auto& [kind, text] : notices.inOrder()) {
+        if (const int command = commandOf(kind); command != 0)
+            entries.push_back({command, captionOfName(text), {}});
     }
     return entries;
 }
@@ -44,7 +46,7 @@ ContextMenu::ContextMenu(ViewContext& context, CommandMenu& commandMenu, Surroun
     : view(context), menu(commandMenu), around(std::move(surroundings)) {}
 
 void ContextMenu::openByKey() {
-    CSuperSheetWnd* grid = view.listOf(view.shownList()).pGetGrid();
+    CSuperSheetWnd* grid = view.listOf(view.shownList()).grid();
     if (grid == nullptr)
         return;
     const int row = grid->cptGetFocusNdx().y();
@@ -58,7 +60,7 @@ bool ContextMenu::openAt(const QPoint& screen) {
     const int height = around.window.mapFromGlobal(screen).y();
     if (height >= 0 && height < around.titleHeight())
         return false;
-    const CSuperSheetWnd* grid = view.listOf(view.shownList()).pGetGrid();
+    const CSuperSheetWnd* grid = view.listOf(view.shownList()).grid();
     open(screen, grid != nullptr && grid->isVisible() && grid->iCalcRowNdx(grid->mapFromGlobal(screen)) >= 0);
     return true;
 }
@@ -67,3 +69,5 @@ void ContextMenu::open(const QPoint& screen, bool onRow) {
     if (around.window.isVisible())
         menu.popUp(around.entries(onRow), screen);
 }
+
+}  // namespace wirepane

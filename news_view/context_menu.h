@@ -9,6 +9,8 @@
 #include <vector>
 
 class BKQuoteInterface;
+
+namespace wirepane {
 class ListNotices;
 class ViewContext;
 
@@ -49,3 +51,5 @@ private:
     CommandMenu& menu;
     Surroundings around;
 };
+
+}  // namespace wirepane

@@ -10,8 +10,8 @@
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
+#include "host/views/news_control_ids.h"
 #include "host/views/virtual_base_view.h"
-#include "news_view/control_ids.h"
 #include "news_view/mode_table.h"
 #include "news_view/notice_line.h"
 #include "search/search_edit2.h"
@@ -20,6 +20,8 @@
 
 #include <algorithm>
 #include <array>
+
+namespace wirepane {
 
 namespace {
 
@@ -79,111 +81,111 @@ ControlSet::ControlSet(TRVVirtualBaseView& newsView, BKQuoteInterface& newsBackE
     : view(newsView), backEnd(newsBackEnd) {}
 
 template <class Control>
-Control* ControlSet::vAdd(int id, const QRect& rectangle) {
+Control* ControlSet::add(int id, const QRect& rectangle) {
     auto* control = new Control(&view);
-    SetWindowId(control, id);
+    setWindowId(control, id);
     controls.insert(id, control);
     control->setGeometry(rectangle);
     return control;
 }
 
-void ControlSet::vAddButton(int id, const QRect& rectangle) {
-    auto* button = vAdd<SButton>(id, rectangle);
-    QObject::connect(button, &SButton::clicked, &view, [this, id] { view.OnCommand(id); });
+void ControlSet::addButton(int id, const QRect& rectangle) {
+    auto* button = add<SButton>(id, rectangle);
+    QObject::connect(button, &SButton::clicked, &view, [this, id] { view.onCommand(id); });
     button->show();
 }
 
 void ControlSet::CreateTypeBtn() {
-    vAddButton(ids::showTypeButton, {});
+    addButton(ids::showTypeButton, {});
 }
 
 void ControlSet::CreateFunctionBtn() {
     for (const int id : {ids::pageDownButton, ids::pageUpButton, ids::saveAsButton, ids::printButton})
-        vAddButton(id, {});
+        addButton(id, {});
 }
 
-void ControlSet::vCreateNotices() {
-    vAdd<NoticeLine>(ids::notice, {})->hide();
+void ControlSet::createNotices() {
+    add<NoticeLine>(ids::notice, {})->hide();
     for (const int id : ids::noticeCommands) {
-        auto* button = vAdd<NoticeButton>(id, {});
-        QObject::connect(button, &SButton::clicked, &view, [this, id] { view.OnCommand(id); });
+        auto* button = add<NoticeButton>(id, {});
+        QObject::connect(button, &SButton::clicked, &view, [this, id] { view.onCommand(id); });
         button->hide();
     }
-    auto* button = vAdd<SButton>(ids::stopWaiting, {});
-    QObject::connect(button, &SButton::clicked, &view, [this] { view.OnCommand(ids::askBeforeStop); });
+    auto* button = add<SButton>(ids::stopWaiting, {});
+    QObject::connect(button, &SButton::clicked, &view, [this] { view.onCommand(ids::askBeforeStop); });
     button->setText(QStringLiteral("\u00D7"));
     button->hide();
 }
 
-void ControlSet::vCreateServiceButton(const QRect& rectangle) {
-    vAddButton(ids::serviceButton, rectangle);
+void ControlSet::createServiceButton(const QRect& rectangle) {
+    addButton(ids::serviceButton, rectangle);
 }
 
-void ControlSet::vCreateTabStrip(const QRect& rectangle) {
-    auto* strip = vAdd<CXTPTabControl>(ids::tabStrip, rectangle);
-    QObject::connect(strip, &CXTPTabControl::SelChange, &view, [this] { view.OnCommand(ids::tabStrip); });
+void ControlSet::createTabStrip(const QRect& rectangle) {
+    auto* strip = add<CXTPTabControl>(ids::tabStrip, rectangle);
+    QObject::connect(strip, &CXTPTabControl::selChange, &view, [this] { view.onCommand(ids::tabStrip); });
     strip->show();
 }
 
-void ControlSet::vCreateDatePicker(const QRect& rectangle, const QDate& date) {
-    vAdd<SDateTimeCtrl>(ids::datePicker, rectangle)->vSetDate(date);
+void ControlSet::createDatePicker(const QRect& rectangle, const QDate& date) {
+    add<SDateTimeCtrl>(ids::datePicker, rectangle)->showDate(date);
 }
 
-void ControlSet::vCreateCategoryCombo(const QRect& rectangle) {
-    auto* combo = vAdd<SCComboBox>(ids::categoryCombo, rectangle);
-    QObject::connect(combo, &SCComboBox::SelChange, &view, [this] { view.OnCommand(ids::categoryCombo); });
+void ControlSet::createCategoryCombo(const QRect& rectangle) {
+    auto* combo = add<SCComboBox>(ids::categoryCombo, rectangle);
+    QObject::connect(combo, &SCComboBox::selChange, &view, [this] { view.onCommand(ids::categoryCombo); });
 }
 
 void ControlSet::CreateControls(ListIndex mode, const QRect& rectangle, const QFont& font) {
     switch (mode) {
         case ListIndex::Symbol:
             for (SCComboBox* combo :
-                 {vAdd<SCComboBox>(ids::serviceCombo, rectangle),
-                  static_cast<SCComboBox*>(vAdd<CQuoteComboBoxAuto>(ids::symbolCombo, rectangle))}) {
+                 {add<SCComboBox>(ids::serviceCombo, rectangle),
+                  static_cast<SCComboBox*>(add<CQuoteComboBoxAuto>(ids::symbolCombo, rectangle))}) {
                 combo->setFont(font);
-                const int id = WindowId(combo);
-                QObject::connect(combo, &SCComboBox::SelChange, &view, [this, id] { view.OnCommand(id); });
+                const int id = windowId(combo);
+                QObject::connect(combo, &SCComboBox::selChange, &view, [this, id] { view.onCommand(id); });
             }
             break;
         case ListIndex::Search:
-            vAdd<SearchEdit2>(ids::searchEdit, rectangle)->setFont(font);
-            vAddButton(ids::searchButton, rectangle);
-            vAddButton(ids::dealsSearchButton, rectangle);
+            add<SearchEdit2>(ids::searchEdit, rectangle)->setFont(font);
+            addButton(ids::searchButton, rectangle);
+            addButton(ids::dealsSearchButton, rectangle);
             break;
         case ListIndex::Relation:
-            vAddButton(ids::relationSearchButton, rectangle);
+            addButton(ids::relationSearchButton, rectangle);
             break;
         case ListIndex::WarningTerm:
-            vAddButton(ids::warningSearchButton, rectangle);
+            addButton(ids::warningSearchButton, rectangle);
             break;
         default:
             break;
     }
 }
 
-void ControlSet::vAddTab(ListIndex mode) {
-    if (auto* strip = Find<CXTPTabControl>(ids::tabStrip))
-        strip->iInsertTab(LangText(backEnd, ModeOf(mode).captionKey), static_cast<int>(mode));
+void ControlSet::addTab(ListIndex mode) {
+    if (auto* strip = find<CXTPTabControl>(ids::tabStrip))
+        strip->appendTab(langText(backEnd, modeOf(mode).captionKey), static_cast<int>(mode));
 }
 
 int ControlSet::iGetTabIndex(int mode) const {
-    const auto* strip = Find<CXTPTabControl>(ids::tabStrip);
+    const auto* strip = find<CXTPTabControl>(ids::tabStrip);
     for (int i = 0; strip != nullptr && i < strip->count(); ++i) {
-        if (strip->iGetItemData(i) == mode)
+        if (strip->itemData(i) == mode)
             return i;
     }
     return 0;
 }
 
 void ControlSet::ShowHideCtrObject(ListIndex mode) {
-    const auto shown = ModeOf(mode).controls;
-    for (const int id : SwitchableControls()) {
+    const auto shown = modeOf(mode).controls;
+    for (const int id : switchableControls()) {
         if (QWidget* control = controls.value(id))
             control->setVisible(std::find(shown.begin(), shown.end(), id) != shown.end());
     }
 }
 
-void ControlSet::vPlace(const ViewLayout& layout) {
+void ControlSet::place(const ViewLayout& layout) {
     for (const Placement& placement : placements) {
         if (QWidget* control = controls.value(placement.id))
             control->setGeometry(layout.*placement.place);
@@ -200,21 +202,23 @@ void ControlSet::vSetFont(const QFont& font) {
 void ControlSet::vLoadLanguageString() {
     // Several views share a window, in which no key can stand for a button of each: they have shortcuts.
     for (const ButtonText& text : buttonTexts) {
-        if (auto* button = Find<SButton>(text.id))
-            button->setText(CaptionWithoutKey(LangText(backEnd, text.key)));
+        if (auto* button = find<SButton>(text.id))
+            button->setText(captionWithoutKey(langText(backEnd, text.key)));
     }
     for (const ButtonText& name : controlNames) {
         QWidget* control = controls.value(name.id);
         if (control == nullptr)
             continue;
-        control->setAccessibleName(LangText(backEnd, name.key));
+        control->setAccessibleName(langText(backEnd, name.key));
         // Where one can type into a combo, the line in it has the keyboard.
         if (auto* combo = qobject_cast<QComboBox*>(control); combo != nullptr && combo->isEditable())
             combo->lineEdit()->setAccessibleName(control->accessibleName());
     }
-    auto* strip = Find<CXTPTabControl>(ids::tabStrip);
+    auto* strip = find<CXTPTabControl>(ids::tabStrip);
     for (int i = 0; strip != nullptr && i < strip->count(); ++i) {
-        if (const auto mode = ListOfNumber(strip->iGetItemData(i)))
-            strip->vSetTabText(i, LangText(backEnd, ModeOf(*mode).captionKey));
+        if (const auto mode = listOfNumber(strip->itemData(i)))
+            strip->showTabText(i, langText(backEnd, modeOf(*mode).captionKey));
     }
 }
+
+}  // namespace wirepane

@@ -16,6 +16,8 @@ class CXTPTabControl;
 class SButton;
 class TRVVirtualBaseView;
 
+namespace wirepane {
+
 // The controls of a news view: creates them, finds them by number, gives them their texts, places, fonts, and
 // shows those of a mode. A control that was not created is skipped everywhere. Buttons send their number as a
 // command.
@@ -27,38 +29,40 @@ public:
     void CreateTypeBtn();
     void CreateFunctionBtn();
     // The line of notices, and the buttons of those that can be acted on. Hidden.
-    void vCreateNotices();
-    void vCreateServiceButton(const QRect& rectangle);
-    void vCreateTabStrip(const QRect& rectangle);
-    void vCreateDatePicker(const QRect& rectangle, const QDate& date);
-    void vCreateCategoryCombo(const QRect& rectangle);
+    void createNotices();
+    void createServiceButton(const QRect& rectangle);
+    void createTabStrip(const QRect& rectangle);
+    void createDatePicker(const QRect& rectangle, const QDate& date);
+    void createCategoryCombo(const QRect& rectangle);
     // The controls of the symbol, search, relation-search and warning-term modes.
     void CreateControls(ListIndex mode, const QRect& rectangle, const QFont& font);
 
     // Adds the mode's tab, when there is a tab strip.
-    void vAddTab(ListIndex mode);
+    void addTab(ListIndex mode);
     // The index of the mode's tab; 0 when there is none.
     int iGetTabIndex(int mode) const;
 
     // Shows the controls of the mode and hides the other switchable ones.
     void ShowHideCtrObject(ListIndex mode);
-    void vPlace(const ViewLayout& layout);
+    void place(const ViewLayout& layout);
     void vSetFont(const QFont& font);
     // Sets every text in the language in force.
     void vLoadLanguageString();
 
     // A control of a kind by its number; null when there is none.
     template <class Control>
-    Control* Find(int id) const {
+    Control* find(int id) const {
         return qobject_cast<Control*>(controls.value(id).data());
     }
 
 private:
-    void vAddButton(int id, const QRect& rectangle);
+    void addButton(int id, const QRect& rectangle);
     template <class Control>
-    Control* vAdd(int id, const QRect& rectangle);
+    Control* add(int id, const QRect& rectangle);
 
     TRVVirtualBaseView& view;
     BKQuoteInterface& backEnd;
     QHash<int, QPointer<QWidget>> controls;  // by number: every pushed headline asks for some
 };
+
+}  // namespace wirepane

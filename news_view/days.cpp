@@ -8,7 +8,7 @@
 #include "headline_list/language_keys.h"
 #include "host/contract/clock.h"
 #include "host/controls/s_date_time_ctrl.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/list_tip.h"
 #include "news_view/news_services.h"
@@ -18,26 +18,28 @@
 #include <stdexcept>
 #include <utility>
 
+namespace wirepane {
+
 Days::Days(ViewContext& viewContext, const CommonParts& commonParts, Calls given)
     : context(viewContext), parts(commonParts), calls(std::move(given)), pager(host_clock::today()) {}
 
 bool Days::hasDay() const {
-    return parts.controls.Find<SDateTimeCtrl>(ids::datePicker) != nullptr ||
-           parts.settings.functions == ModeOf(ListIndex::Warrant).maskBit;
+    return parts.controls.find<SDateTimeCtrl>(ids::datePicker) != nullptr ||
+           parts.settings.functions == modeOf(ListIndex::Warrant).maskBit;
 }
 
 QString Days::pickedKey() const {
-    return DateKey(hasDay() ? pager.Picked() : QDate());
+    return dateKey(hasDay() ? pager.pickedDate() : QDate());
 }
 
 // --- The date picker ---
 
 void Days::connectPicker() {
-    const auto* picker = parts.controls.Find<SDateTimeCtrl>(ids::datePicker);
+    const auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker);
     QObject::connect(picker, &SDateTimeCtrl::DropDown, &parts.window, [this] { calendarOpened(); });
-    QObject::connect(picker, &SDateTimeCtrl::DateTimeChange, &parts.window,
+    QObject::connect(picker, &SDateTimeCtrl::dateTimeChange, &parts.window,
                      [this](const QDate& date) { dateChanged(date); });
-    QObject::connect(picker, &SDateTimeCtrl::CloseUp, &parts.window, [this] { calendarClosed(); });
+    QObject::connect(picker, &SDateTimeCtrl::closeUp, &parts.window, [this] { calendarClosed(); });
 }
 
 void Days::dateChanged(const QDate& date) {
@@ -47,59 +49,60 @@ void Days::dateChanged(const QDate& date) {
 
 void Days::calendarClosed() {
     calendarIsOpen = false;
-    if (const auto* picker = parts.controls.Find<SDateTimeCtrl>(ids::datePicker))
+    if (const auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker))
         pick(picker->date());
 }
 
 bool Days::pick(const QDate& date) {
-    if (parts.lists[ListIndex::All].pGetGrid() == nullptr)
+    if (parts.lists[ListIndex::All].grid() == nullptr)
         return false;
-    switch (pager.Pick(date, host_clock::today())) {
+    switch (pager.pick(date, host_clock::today())) {
         case DateCheck::TooEarly:
-            refuse(LangText(parts.backEnd, keys::onlySelect) + QString::number(pager.iGetRange()) +
-                   LangText(parts.backEnd, keys::inSomeDays));
+            refuse(langText(parts.backEnd, keys::onlySelect) + QString::number(pager.rangeInDays()) +
+                   langText(parts.backEnd, keys::inSomeDays));
             return false;
         case DateCheck::TooLate:
-            refuse(LangText(parts.backEnd, keys::afterDays));
+            refuse(langText(parts.backEnd, keys::afterDays));
             return false;
         case DateCheck::Same:
             return false;
         case DateCheck::Accepted:
             break;
     }
-    if (parts.lists.bRebuild(ListIndex::All, TableKind::ByDate, pickedKey()))
+    if (parts.lists.rebuild(ListIndex::All, TableKind::ByDate, pickedKey()))
         return true;
     context.setStatusText({});
     return false;
 }
 
 void Days::refuse(const QString& why) {
-    parts.tip.showOver(parts.lists[ListIndex::All].pGetGrid(), why);
-    if (auto* picker = parts.controls.Find<SDateTimeCtrl>(ids::datePicker))
-        picker->vSetDate(pager.Picked());
+    parts.tip.showOver(parts.lists[ListIndex::All].grid(), why);
+    if (auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker))
+        picker->showDate(pager.pickedDate());
 }
 
 // --- News days ---
 
 // The user's own choice of services counts, also while the warrant mode has set it aside.
 void Days::follow(const CMarketStatus& status) {
-    auto* picker = parts.controls.Find<SDateTimeCtrl>(ids::datePicker);
+    auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker);
     if (picker == nullptr)
         return;
     // A view of warrants alone has ticked nothing: it follows its own service.
-    const bool onlyWarrants = parts.lists[ListIndex::All].pGetGrid() == nullptr;
-    const int entry = onlyWarrants ? entryOfWarrants(status) : EntryOfNewDay(parts.services.Saved(), status);
+    const bool onlyWarrants = parts.lists[ListIndex::All].grid() == nullptr;
+    const int entry =
+        onlyWarrants ? entryOfWarrants(status) : entryOfNewDay(parts.services.savedServices(), status);
     if (entry < 0)
         return;
     QDate day;
     try {
-        day = DayOfNumber(status.date);
+        day = dayOfNumber(status.date);
     } catch (const std::invalid_argument&) {
         return;
     }
-    parts.services.vSetDate(static_cast<std::size_t>(entry), status.date);
-    picker->vSetDate(day);
-    pager.vStartNewsDay(day, picker->date());
+    parts.services.showDate(static_cast<std::size_t>(entry), status.date);
+    picker->showDate(day);
+    pager.startNewsDay(day, picker->date());
     if (onlyWarrants) {
         calls.readAgain(ListIndex::Warrant);
         return;
@@ -112,27 +115,29 @@ void Days::follow(const CMarketStatus& status) {
 
 // The entry of the warrant service for which a status begins a new news day; -1: it changes nothing.
 int Days::entryOfWarrants(const CMarketStatus& status) const {
-    const int index = parts.services.iGetWarrantIndex();
+    const int index = parts.services.indexOfWarrants();
     const bool begins = index >= 0 && status.service == warrantService &&
-                        parts.services.Saved()[static_cast<std::size_t>(index)].date != status.date;
+                        parts.services.savedServices()[static_cast<std::size_t>(index)].date != status.date;
     return begins ? index : -1;
 }
 
 void Days::tellNewDay(unsigned char service) {
-    CSuperSheetWnd* sheet = parts.lists[ListIndex::Relation].pGetGrid();
+    CSuperSheetWnd* sheet = parts.lists[ListIndex::Relation].grid();
     if (context.shownList() != ListIndex::Relation || sheet == nullptr)
-        sheet = parts.lists[ListIndex::All].pGetGrid();
+        sheet = parts.lists[ListIndex::All].grid();
     QString name;
     parts.backEnd.BKQNEWS_bGetShortNameByService(name, service);
-    parts.tip.showOver(sheet, name + QLatin1Char(' ') + LangText(parts.backEnd, keys::clearService));
+    parts.tip.showOver(sheet, name + QLatin1Char(' ') + langText(parts.backEnd, keys::clearService));
 }
 
 bool Days::readCurrentDates() {
-    if (parts.lists[ListIndex::All].pGetGrid() == nullptr)
+    if (parts.lists[ListIndex::All].grid() == nullptr)
         return false;
-    parts.lists.bRebuildCurrent(ListIndex::All, parts.services.Saved());
-    if (parts.lists[ListIndex::Relation].pGetGrid() == nullptr)
+    parts.lists.rebuildCurrent(ListIndex::All, parts.services.savedServices());
+    if (parts.lists[ListIndex::Relation].grid() == nullptr)
         return false;
-    parts.lists.bRebuildCurrent(ListIndex::Relation, parts.services.Saved(), &calls.keySets());
+    parts.lists.rebuildCurrent(ListIndex::Relation, parts.services.savedServices(), &calls.keySets());
     return true;
 }
+
+}  // namespace wirepane

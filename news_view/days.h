@@ -9,6 +9,7 @@
 
 #include <functional>
 
+namespace wirepane {
 class RelationMatcher;
 class ViewContext;
 enum class ListIndex : int;
@@ -27,12 +28,12 @@ public:
 
     // Whether the view stands at a day: it has a date picker, or is all about the day's warrants.
     bool hasDay() const;
-    const QDate& picked() const { return pager.Picked(); }
-    const QDate& newsDay() const { return pager.NewsDay(); }
+    const QDate& picked() const { return pager.pickedDate(); }
+    const QDate& newsDay() const { return pager.currentNewsDay(); }
     // yyyymmdd; no date's without a day.
     QString pickedKey() const;
     // How many days back may be picked.
-    void setRange(int days) { pager.vSetRange(days); }
+    void setRange(int days) { pager.setRange(days); }
 
     // The date picker's signals. While its calendar is open the date is not picked yet.
     void connectPicker();
@@ -61,3 +62,5 @@ private:
     DatePager pager;
     bool calendarIsOpen = false;
 };
+
+}  // namespace wirepane

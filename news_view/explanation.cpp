@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <functional>
 
+namespace wirepane {
+
 namespace {
 
 // What the rows of a list have in common, and how they are read.
@@ -24,19 +26,19 @@ struct Subject {
 class Explanation {
 public:
     Explanation(const ExplainedView& explainedView, const HeadlineKey& headlineKey)
-        : view(explainedView), key(headlineKey), day(DateKey(LocalTime(key.time).date())) {
+        : view(explainedView), key(headlineKey), day(dateKey(localTime(key.time).date())) {
         const auto entry =
             std::find_if(view.services.begin(), view.services.end(),
                          [this](const ServiceEntry& own) { return own.service == key.service; });
         isTicked = entry != view.services.end() && entry->selected;
     }
 
-    HeadlineStanding Of(ListIndex list) const {
+    HeadlineStanding of(ListIndex list) const {
         HeadlineStanding standing{static_cast<int>(list),
-                                  view.lists[list].Table().rowOf(key),
+                                  view.lists[list].headlineTable().rowOf(key),
                                   view.wasRead[static_cast<std::size_t>(list)],
                                   {}};
-        for (const CheckedStanding& check : Checks(list, standing.row)) {
+        for (const CheckedStanding& check : checks(list, standing.row)) {
             standing.checks.push_back(check);
             if (!check.passed && standing.row < 0)
                 break;
@@ -45,30 +47,30 @@ public:
     }
 
 private:
-    bool IsIn(const TableRuns& runs) const {
+    bool isIn(const TableRuns& runs) const {
         return std::any_of(runs.begin(), runs.end(), [this](const auto& run) {
             return std::any_of(run.begin(), run.end(),
-                               [this](const CHeadlineTable& entry) { return KeyOf(entry) == key; });
+                               [this](const CHeadlineTable& entry) { return keyOf(entry) == key; });
         });
     }
     // As the list would be read if the headline's service alone were ticked.
-    bool IsRead(const Subject& subject, RelationFilter filter) const {
-        return IsIn(subject.read({{key.service, true, 0, false}}, filter));
+    bool isRead(const Subject& subject, RelationFilter filter) const {
+        return isIn(subject.read({{key.service, true, 0, false}}, filter));
     }
 
-    Subject DayOf(const QString& wanted) const {
+    Subject dayOf(const QString& wanted) const {
         return {StandingCheck::Day, wanted, day,
                 [this, wanted](const std::vector<ServiceEntry>& services, RelationFilter filter) {
-                    return ReadTables(view.backEnd, services, TableKind::ByDate, wanted, filter);
+                    return readTables(view.backEnd, services, TableKind::ByDate, wanted, filter);
                 }};
     }
     Subject Topic() const;
     Subject Symbol() const;
-    Subject SubjectOf(ListIndex list) const;
+    Subject subjectOf(ListIndex list) const;
 
-    std::vector<CheckedStanding> Checks(ListIndex list, int row) const;
+    std::vector<CheckedStanding> checks(ListIndex list, int row) const;
     CheckedStanding Service(ListIndex list) const;
-    void AddKeySets(ListIndex list, const Subject& subject, std::vector<CheckedStanding>& checks) const;
+    void addKeySets(ListIndex list, const Subject& subject, std::vector<CheckedStanding>& checks) const;
 
     const ExplainedView& view;
     const HeadlineKey& key;
@@ -83,27 +85,27 @@ Subject Explanation::Topic() const {
     const QString wanted = view.categoryId.value_or(QString());
     return {StandingCheck::Topic, wanted, own,
             [this, wanted](const std::vector<ServiceEntry>& services, RelationFilter filter) {
-                return ReadTables(view.backEnd, services, TableKind::ByCategory, wanted, filter);
+                return readTables(view.backEnd, services, TableKind::ByCategory, wanted, filter);
             }};
 }
 
 Subject Explanation::Symbol() const {
-    const CSymbolInfo listed = view.lists.ListedSymbol();
+    const CSymbolInfo listed = view.lists.listSymbol();
     return {StandingCheck::Symbol,
             listed.code,
             {},
             [this, listed](const std::vector<ServiceEntry>& services, RelationFilter filter) {
-                return ReadSymbolTables(view.backEnd, services, listed, filter);
+                return readSymbolTables(view.backEnd, services, listed, filter);
             }};
 }
 
-Subject Explanation::SubjectOf(ListIndex list) const {
+Subject Explanation::subjectOf(ListIndex list) const {
     if (list == ListIndex::Category)
         return Topic();
     if (list == ListIndex::Symbol)
         return Symbol();
     // The news that the key sets are tried on is the present day's.
-    return DayOf(list == ListIndex::Relation ? DateKey(host_clock::today()) : view.day);
+    return dayOf(list == ListIndex::Relation ? dateKey(host_clock::today()) : view.day);
 }
 
 CheckedStanding Explanation::Service(ListIndex list) const {
@@ -113,8 +115,8 @@ CheckedStanding Explanation::Service(ListIndex list) const {
     return {StandingCheck::Service, isTicked, {}, own};
 }
 
-std::vector<CheckedStanding> Explanation::Checks(ListIndex list, int row) const {
-    std::vector<CheckedStanding> checks{{StandingCheck::Told, IsRead(DayOf(day), nullptr), {}, {}},
+std::vector<CheckedStanding> Explanation::checks(ListIndex list, int row) const {
+    std::vector<CheckedStanding> checks{{StandingCheck::Told, isRead(dayOf(day), nullptr), {}, {}},
                                         Service(list)};
     if (list == ListIndex::Search || list == ListIndex::WarningTerm) {
         const bool searched = view.wasSearched[static_cast<std::size_t>(list)];
@@ -122,33 +124,35 @@ std::vector<CheckedStanding> Explanation::Checks(ListIndex list, int row) const 
             {StandingCheck::Search, row >= 0, searched ? QStringLiteral("found") : QString(), {}});
         return checks;
     }
-    const Subject subject = SubjectOf(list);
-    const bool isAbout = !subject.wanted.isEmpty() && IsRead(subject, nullptr);
+    const Subject subject = subjectOf(list);
+    const bool isAbout = !subject.wanted.isEmpty() && isRead(subject, nullptr);
     checks.push_back({subject.check, isAbout, subject.wanted, subject.has});
-    AddKeySets(list, subject, checks);
+    addKeySets(list, subject, checks);
     return checks;
 }
 
 // The relation list is read with the key sets, the others without, unless they were read while it was shown.
-void Explanation::AddKeySets(ListIndex list, const Subject& subject,
+void Explanation::addKeySets(ListIndex list, const Subject& subject,
                              std::vector<CheckedStanding>& checks) const {
     const bool isTheirs = list == ListIndex::Relation;
-    if (isTheirs == view.lists.bHasOthersFilter(list))
+    if (isTheirs == view.lists.hasOthersFilter(list))
         return;
     checks.push_back({isTheirs ? StandingCheck::KeySets : StandingCheck::Filter,
-                      IsRead(subject, view.keySets),
+                      isRead(subject, view.keySets),
                       view.keySets->empty() ? QString() : QStringLiteral("ticked"),
                       {}});
 }
 
 }  // namespace
 
-std::vector<HeadlineStanding> ExplainHeadline(const ExplainedView& view, const HeadlineKey& key) {
+std::vector<HeadlineStanding> explainHeadline(const ExplainedView& view, const HeadlineKey& key) {
     std::vector<HeadlineStanding> standings;
     const Explanation explanation(view, key);
     for (const ListKind& kind : listKinds) {
-        if (view.lists[kind.index].pGetGrid() != nullptr)
-            standings.push_back(explanation.Of(kind.index));
+        if (view.lists[kind.index].grid() != nullptr)
+            standings.push_back(explanation.of(kind.index));
     }
     return standings;
 }
+
+}  // namespace wirepane

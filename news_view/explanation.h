@@ -9,6 +9,8 @@
 #include <array>
 #include <optional>
 
+namespace wirepane {
+
 // What an explanation must know of a view.
 struct ExplainedView {
     BKQuoteInterface& backEnd;
@@ -23,4 +25,6 @@ struct ExplainedView {
 
 // Why a headline stands in each list that has a grid, or why not. The answer is made by reading the tables of
 // its service in the way in which the lists are read, once for each condition.
-std::vector<HeadlineStanding> ExplainHeadline(const ExplainedView& view, const HeadlineKey& key);
+std::vector<HeadlineStanding> explainHeadline(const ExplainedView& view, const HeadlineKey& key);
+
+}  // namespace wirepane

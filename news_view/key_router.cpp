@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QWidget>
 
+namespace wirepane {
+
 // A filter on the part alone would not see the keys that its controls take.
 KeyRouter::KeyRouter(const QWidget& routed, Taker taker) : part(routed), take(std::move(taker)) {
     QCoreApplication::instance()->installEventFilter(this);
@@ -20,3 +22,5 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event) {
         return false;
     return take(*static_cast<QKeyEvent*>(event));
 }
+
+}  // namespace wirepane

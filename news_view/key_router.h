@@ -9,6 +9,8 @@
 class QKeyEvent;
 class QWidget;
 
+namespace wirepane {
+
 // Brings the keys of a window's part before their receivers, whichever of its controls they are meant for.
 // Keys of other windows, such as dialogs, menus and drop-downs, are not its own.
 class KeyRouter : public QObject {
@@ -28,3 +30,5 @@ private:
     const QWidget& part;
     Taker take;
 };
+
+}  // namespace wirepane

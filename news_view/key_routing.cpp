@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/key_routing.h"
 
+namespace wirepane {
+
 namespace {
 
 KeyRoute otherKey(const KeySituation& situation) {
@@ -14,7 +16,7 @@ KeyRoute otherKey(const KeySituation& situation) {
 
 }  // namespace
 
-KeyRoute RouteKey(int key, Qt::KeyboardModifiers modifiers, const KeySituation& situation) {
+KeyRoute routeKey(int key, Qt::KeyboardModifiers modifiers, const KeySituation& situation) {
     if (modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
         return {};
     const bool gridHasFocus = situation.focus == KeyboardFocus::Grid;
@@ -43,11 +45,13 @@ KeyRoute RouteKey(int key, Qt::KeyboardModifiers modifiers, const KeySituation& 
     }
 }
 
-bool KeysAtRelease::bPress(int key, bool repeats) {
+bool KeysAtRelease::press(int key, bool repeats) {
     // A press that is none of these may have been released in another window.
     return !pressed.insert(key).second && repeats;
 }
 
-bool KeysAtRelease::bRelease(int key) {
+bool KeysAtRelease::release(int key) {
     return pressed.erase(key) > 0;
 }
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 
 #include <set>
 
+namespace wirepane {
+
 // What has the keyboard inside a news view.
 enum class KeyboardFocus {
     Grid,     // the grid of the current mode
@@ -34,17 +36,19 @@ struct KeyRoute {
 };
 
 // Decides by key. With Ctrl, Alt or Meta a key is its receiver's own affair.
-KeyRoute RouteKey(int key, Qt::KeyboardModifiers modifiers, const KeySituation& situation);
+KeyRoute routeKey(int key, Qt::KeyboardModifiers modifiers, const KeySituation& situation);
 
 // Keys that act when they are released: once for each press and once for each auto-repeat, whether the
 // platform tells of releases between the repeats or not.
 class KeysAtRelease {
 public:
     // True when the press before this auto-repeat is still to be acted on: it is due now.
-    bool bPress(int key, bool repeats);
+    bool press(int key, bool repeats);
     // True when the release is to be acted on; false for a key that was pressed elsewhere.
-    bool bRelease(int key);
+    bool release(int key);
 
 private:
     std::set<int> pressed;
 };
+
+}  // namespace wirepane

@@ -14,6 +14,8 @@
 #include <QScopedValueRollback>
 #include <QWheelEvent>
 
+namespace wirepane {
+
 namespace {
 
 bool isEnter(int key) {
@@ -31,12 +33,12 @@ ListInput::ListInput(ViewContext& context, Surroundings surroundings)
 
 bool ListInput::quotesHaveFocus() const {
     const QWidget* holder = around.window.focusWidget();
-    const QWidget* quotes = around.stage.pGetQuotes();
+    const QWidget* quotes = around.stage.relatedQuotes();
     return quotes != nullptr && holder != nullptr && (holder == quotes || quotes->isAncestorOf(holder));
 }
 
 KeySituation ListInput::situation() const {
-    const CSuperSheetWnd* grid = view.listOf(view.shownList()).pGetGrid();
+    const CSuperSheetWnd* grid = view.listOf(view.shownList()).grid();
     const QWidget* holder = around.window.focusWidget();
     KeyboardFocus focus = KeyboardFocus::Control;
     if (grid != nullptr && grid->bHasFocus())
@@ -51,11 +53,11 @@ bool ListInput::takeBefore(const QKeyEvent& event) {
         return false;
     if (event.type() == QEvent::KeyRelease)
         return takeRelease(event);
-    const KeyRoute route = RouteKey(event.key(), event.modifiers(), situation());
+    const KeyRoute route = routeKey(event.key(), event.modifiers(), situation());
     if (!route.consumed)
         return false;
     if (route.atRelease) {
-        if (keysAtRelease.bPress(event.key(), event.isAutoRepeat()))
+        if (keysAtRelease.press(event.key(), event.isAutoRepeat()))
             carryOut(route, event);
         return true;
     }
@@ -69,7 +71,7 @@ bool ListInput::takeBefore(const QKeyEvent& event) {
 void ListInput::carryOut(const KeyRoute& route, const QKeyEvent& event) {
     QWidget* receiver = &around.window;
     if (!route.toView)
-        receiver = route.toGrid ? view.listOf(view.shownList()).pGetGrid() : nullptr;
+        receiver = route.toGrid ? view.listOf(view.shownList()).grid() : nullptr;
     if (receiver != nullptr)
         handOn(*receiver, event);
     if (route.showStory)
@@ -83,10 +85,10 @@ void ListInput::handOn(QWidget& receiver, const QKeyEvent& event) {
 }
 
 bool ListInput::takeRelease(const QKeyEvent& event) {
-    if (!keysAtRelease.bRelease(event.key()))
+    if (!keysAtRelease.release(event.key()))
         return false;
     const Qt::KeyboardModifiers shift = event.modifiers() & Qt::ShiftModifier;
-    carryOut(RouteKey(event.key(), shift, situation()), event);
+    carryOut(routeKey(event.key(), shift, situation()), event);
     return true;
 }
 
@@ -108,24 +110,24 @@ bool ListInput::takePress(const QKeyEvent& event) {
 
 void ListInput::copyRows() const {
     const HeadlineList& list = view.listOf(view.shownList());
-    if (list.pGetGrid() == nullptr)
+    if (list.grid() == nullptr)
         return;
     std::vector<int> rows;
-    list.pGetGrid()->vGetAllSelectionNdx(rows);
+    list.grid()->vGetAllSelectionNdx(rows);
     if (!rows.empty())
-        QApplication::clipboard()->setText(list.TextOfRows(rows));
+        QApplication::clipboard()->setText(list.textOfRows(rows));
 }
 
 // --- The wheel ---
 
 void ListInput::takeWheel(const QWheelEvent& event) {
-    CSuperSheetWnd* grid = view.listOf(view.shownList()).pGetGrid();
+    CSuperSheetWnd* grid = view.listOf(view.shownList()).grid();
     // What a grid or the story at its end lets pass is not for the grid again.
     const QWidget* under = around.window.childAt(event.position().toPoint());
     const auto holdsPoint = [under](const QWidget* part) {
         return under != nullptr && part != nullptr && part->isAncestorOf(under);
     };
-    if (handingWheelOn || grid == nullptr || holdsPoint(grid) || holdsPoint(around.stage.pGetPane()))
+    if (handingWheelOn || grid == nullptr || holdsPoint(grid) || holdsPoint(around.stage.storyPane()))
         return;
     const QScopedValueRollback handingOn(handingWheelOn, true);
     if (event.angleDelta().x() != 0 && event.angleDelta().y() == 0) {
@@ -140,7 +142,9 @@ void ListInput::takeWheel(const QWheelEvent& event) {
 }
 
 void ListInput::scrollSideways(Qt::Key key) {
-    CSuperSheetWnd* grid = view.listOf(view.shownList()).pGetGrid();
+    CSuperSheetWnd* grid = view.listOf(view.shownList()).grid();
     if (grid != nullptr && grid->bHasFocus())
         handOn(*grid, QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
 }
+
+}  // namespace wirepane

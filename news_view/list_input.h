@@ -8,6 +8,8 @@
 #include <functional>
 
 class QWheelEvent;
+
+namespace wirepane {
 class StoryStage;
 class ViewContext;
 
@@ -52,3 +54,5 @@ private:
     bool handingKeyOn = false;  // the key that arrives is one that is handed on here
     bool handingWheelOn = false;
 };
+
+}  // namespace wirepane

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/list_notices.h"
 
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 
 #include <QStringList>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -17,7 +19,7 @@ constexpr int fewLetters = 6;
 
 }  // namespace
 
-int CommandOf(NoticeKind kind) {
+int commandOf(NoticeKind kind) {
     switch (kind) {
         case NoticeKind::Narrowed:
             return ids::endNarrowing;
@@ -30,29 +32,29 @@ int CommandOf(NoticeKind kind) {
     }
 }
 
-void ListNotices::vTell(NoticeKind kind, const QString& text) {
+void ListNotices::tell(NoticeKind kind, const QString& text) {
     if (text.isEmpty())
         texts.erase(kind);
     else
         texts[kind] = text;
 }
 
-QString ListNotices::Text() const {
+QString ListNotices::text() const {
     QStringList all;
     for (const auto& [kind, text] : texts)
         all.append(text);
     return all.join(separator);
 }
 
-QString ListNotices::Text(NoticeKind kind) const {
+QString ListNotices::text(NoticeKind kind) const {
     const auto found = texts.find(kind);
     return found != texts.end() ? found->second : QString();
 }
 
-std::vector<PlacedNotice> PlaceNotices(const ListNotices& notices, int room, const QFontMetrics& metrics) {
+std::vector<PlacedNotice> placeNotices(const ListNotices& notices, int room, const QFontMetrics& metrics) {
     std::vector<PlacedNotice> placed;
     int left = 0;
-    for (const auto& [kind, text] : notices.InOrder()) {
+    for (const auto& [kind, text] : notices.inOrder()) {
         const int wanted = metrics.horizontalAdvance(text) + 1;  // letters have fractions of pixels
         const int width = std::min(wanted, room - left);
         if (width < wanted && width < fewLetters * metrics.averageCharWidth())
@@ -65,3 +67,5 @@ std::vector<PlacedNotice> PlaceNotices(const ListNotices& notices, int room, con
     }
     return placed;
 }
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 #include <map>
 #include <vector>
 
+namespace wirepane {
+
 // What the user must know of a view and of the list that it shows, in order of precedence: where the control
 // row has no room for all of it, the first ones stand there. Those before the status text name what is
 // missing in the list; what only explains comes last.
@@ -23,20 +25,20 @@ enum class NoticeKind {
 };
 
 // The command of the view that a click on the notice and Enter on it carry out; 0: it only tells.
-int CommandOf(NoticeKind kind);
+int commandOf(NoticeKind kind);
 
 // The notices that are in force. A value.
 class ListNotices {
 public:
     // An empty text: nothing is to be told of the kind.
-    void vTell(NoticeKind kind, const QString& text);
+    void tell(NoticeKind kind, const QString& text);
 
     // By kind, which is the order of precedence.
-    const std::map<NoticeKind, QString>& InOrder() const { return texts; }
+    const std::map<NoticeKind, QString>& inOrder() const { return texts; }
     // All of them as one text.
-    QString Text() const;
+    QString text() const;
     // What is told of a kind; empty: nothing.
-    QString Text(NoticeKind kind) const;
+    QString text(NoticeKind kind) const;
 
 private:
     std::map<NoticeKind, QString> texts;
@@ -54,4 +56,6 @@ struct PlacedNotice {
 
 // Puts notices one behind the other into a room of so many pixels. The first that does not fit is cut, as
 // long as a few letters of it can be read; those behind it are left out.
-std::vector<PlacedNotice> PlaceNotices(const ListNotices& notices, int room, const QFontMetrics& metrics);
+std::vector<PlacedNotice> placeNotices(const ListNotices& notices, int room, const QFontMetrics& metrics);
+
+}  // namespace wirepane

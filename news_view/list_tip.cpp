@@ -6,6 +6,8 @@
 
 #include <utility>
 
+namespace wirepane {
+
 ListTip::ListTip(QWidget& newsView, std::function<Look()> tipLook)
     : view(newsView), look(std::move(tipLook)) {}
 
@@ -37,7 +39,7 @@ bool ListTip::isUp() const {
 }
 
 QString ListTip::text() const {
-    return window != nullptr ? window->cszGetText() : QString();
+    return window != nullptr ? window->tipText() : QString();
 }
 
 QVariantMap ListTip::state() const {
@@ -46,6 +48,8 @@ QVariantMap ListTip::state() const {
     const QPoint corner = window->mapTo(&view, QPoint(0, 0));
     return {
         {QStringLiteral("visible"), window->isVisibleTo(&view)},
-        {QStringLiteral("text"), window->cszGetText()},
+        {QStringLiteral("text"), window->tipText()},
         {QStringLiteral("rect"), QVariantList{corner.x(), corner.y(), window->width(), window->height()}}};
 }
+
+}  // namespace wirepane

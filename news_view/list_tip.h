@@ -11,6 +11,8 @@
 
 class CQuoteDlgTipMsg;
 
+namespace wirepane {
+
 // The one tip that a view shows over its lists: what is said next takes the place of what was said before.
 class ListTip {
 public:
@@ -38,3 +40,5 @@ private:
     std::function<Look()> look;
     QPointer<CQuoteDlgTipMsg> window;
 };
+
+}  // namespace wirepane

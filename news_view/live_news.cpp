@@ -13,17 +13,19 @@
 #include <algorithm>
 #include <utility>
 
+namespace wirepane {
+
 LiveNews::LiveNews(ViewContext& viewContext, const CommonParts& commonParts, Calls given)
     : context(viewContext), parts(commonParts), calls(std::move(given)) {}
 
 IntakeState LiveNews::state() const {
     IntakeState state = calls.choices();
     state.connected = parts.backEnd.bIsConnect() == 1;
-    state.services = parts.services.Saved();
+    state.services = parts.services.savedServices();
     for (const ListKind& kind : listKinds) {
         const auto index = static_cast<std::size_t>(kind.index);
-        state.exists[index] = parts.lists[kind.index].pGetGrid() != nullptr;
-        state.shown[index] = parts.loading.bWasShown(kind.index);
+        state.exists[index] = parts.lists[kind.index].grid() != nullptr;
+        state.shown[index] = parts.loading.wasShown(kind.index);
     }
     return state;
 }
@@ -32,9 +34,9 @@ void LiveNews::push(const PushedHeadline& pushed) {
     const IntakeState now = state();
     if (!now.connected || !now.hasDatePicker)
         return;
-    const std::vector<IntakeTarget> targets = ListsFor(pushed, now);
+    const std::vector<IntakeTarget> targets = listsFor(pushed, now);
     for (const IntakeTarget& target : targets) {
-        if (parts.lists.bWasRead(target.list, pushed.headline))
+        if (parts.lists.wasRead(target.list, pushed.headline))
             continue;
         HeadlineList& list = parts.lists[target.list];
         calls.rowsMoved(target.list, list.vProcessNewHeadline(pushed.headline, target.showDate));
@@ -54,7 +56,7 @@ void LiveNews::listsChanged() {
 // True when a list other than the targets has it.
 bool LiveNews::replaceElsewhere(const PushedHeadline& pushed, const std::vector<IntakeTarget>& targets,
                                 const IntakeState& now) {
-    const HeadlineKey key = KeyOf(pushed.headline);
+    const HeadlineKey key = keyOf(pushed.headline);
     const CHeadlineTable entry{key.time, key.sequence, key.service, 0, 0};
     const auto takesIt = [&](ListIndex list) {
         return std::any_of(targets.begin(), targets.end(),
@@ -63,7 +65,7 @@ bool LiveNews::replaceElsewhere(const PushedHeadline& pushed, const std::vector<
     bool isListed = false;
     for (const ListKind& kind : listKinds) {
         HeadlineList& list = parts.lists[kind.index];
-        const int row = takesIt(kind.index) ? -1 : list.Table().rowOfSameDay(key);
+        const int row = takesIt(kind.index) ? -1 : list.headlineTable().rowOfSameDay(key);
         if (row < 0)
             continue;
         isListed = true;
@@ -71,10 +73,10 @@ bool LiveNews::replaceElsewhere(const PushedHeadline& pushed, const std::vector<
         CNewsSymLst related;
         if (kind.index == ListIndex::Symbol && parts.backEnd.BKNEWS_GetSymbolListBySeqNo(related, entry))
             named = related.symbols;
-        if (Keeps(kind.index, pushed, named, now))
-            list.vReplaceHeadline(row, pushed.headline);
+        if (keeps(kind.index, pushed, named, now))
+            list.replaceHeadline(row, pushed.headline);
         else
-            calls.rowsMoved(kind.index, list.vTakeOut(row));
+            calls.rowsMoved(kind.index, list.takeOut(row));
     }
     return isListed;
 }
@@ -89,10 +91,12 @@ void LiveNews::takeOut(const HeadlineKey& key) {
     bool wasListed = false;
     for (const ListKind& kind : listKinds) {
         HeadlineList& list = parts.lists[kind.index];
-        const HeadlinePlace place = list.vTakeOut(list.Table().rowOf(key));
+        const HeadlinePlace place = list.takeOut(list.headlineTable().rowOf(key));
         calls.rowsMoved(kind.index, place);
         wasListed = wasListed || place.oldRow >= 0;
     }
     if (wasListed)
         listsChanged();
 }
+
+}  // namespace wirepane

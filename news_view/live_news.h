@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+namespace wirepane {
 class ViewContext;
 struct HeadlinePlace;
 
@@ -42,3 +43,5 @@ private:
     const CommonParts parts;
     const Calls calls;
 };
+
+}  // namespace wirepane

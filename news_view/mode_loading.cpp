@@ -6,15 +6,17 @@
 
 #include <utility>
 
-ListIndex ModeLoading::LoadingMode(ListIndex mode, const ApplicationSwitches& switches) {
+namespace wirepane {
+
+ListIndex ModeLoading::loadingMode(ListIndex mode, const ApplicationSwitches& switches) {
     const bool both = switches.showNormalSearch && switches.showWarningSearch;
     const bool warningTerms = switches.showWarningSearch && mode == ListIndex::WarningTerm;
     return both || warningTerms ? ListIndex::Search : mode;
 }
 
-bool ModeLoading::bTakeLoad(ListIndex loading) {
+bool ModeLoading::takeLoad(ListIndex loading) {
     bool& wasShown = shown[static_cast<std::size_t>(loading)];
-    switch (ModeOf(loading).load) {
+    switch (modeOf(loading).load) {
         case LoadRule::FirstSwitch:
             return takeOnce(wasShown);
         case LoadRule::EverySwitch:
@@ -29,3 +31,5 @@ bool ModeLoading::bTakeLoad(ListIndex loading) {
 bool ModeLoading::takeOnce(bool& done) {
     return !std::exchange(done, true);
 }
+
+}  // namespace wirepane

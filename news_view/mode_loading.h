@@ -7,24 +7,26 @@
 
 #include <array>
 
+namespace wirepane {
+
 // Decides what a switch to a mode reads, and remembers what has been read once.
 class ModeLoading {
 public:
     // The mode whose list a switch to `mode` reads. With both search switches on it is always the search
     // list, and with the warning switch on the warning-term mode reads the search list: hosts rely on it.
-    static ListIndex LoadingMode(ListIndex mode, const ApplicationSwitches& switches);
+    static ListIndex loadingMode(ListIndex mode, const ApplicationSwitches& switches);
 
     // True when the list is to be read now; a list that is read once only is marked as read.
-    bool bTakeLoad(ListIndex loading);
+    bool takeLoad(ListIndex loading);
     // Each is true at its first call only.
-    bool bTakeCategoryCatalogue() { return takeOnce(categoryCatalogueLoaded); }
-    bool bTakeSymbolInformation() { return takeOnce(symbolInformationLoaded); }
+    bool takeCategoryCatalogue() { return takeOnce(categoryCatalogueLoaded); }
+    bool takeSymbolInformation() { return takeOnce(symbolInformationLoaded); }
     // Whether each has been called.
-    bool bHasCategoryCatalogue() const { return categoryCatalogueLoaded; }
-    bool bHasSymbolInformation() const { return symbolInformationLoaded; }
+    bool hasCategoryCatalogue() const { return categoryCatalogueLoaded; }
+    bool hasSymbolInformation() const { return symbolInformationLoaded; }
 
     // A list that has never been shown takes no pushed headlines.
-    bool bWasShown(ListIndex list) const { return shown[static_cast<std::size_t>(list)]; }
+    bool wasShown(ListIndex list) const { return shown[static_cast<std::size_t>(list)]; }
 
 private:
     static bool takeOnce(bool& done);
@@ -33,3 +35,5 @@ private:
     bool categoryCatalogueLoaded = false;
     bool symbolInformationLoaded = false;
 };
+
+}  // namespace wirepane

@@ -3,10 +3,12 @@
 #include "news_view/mode_table.h"
 
 #include "headline_list/language_keys.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 
 #include <array>
 #include <bit>
+
+namespace wirepane {
 
 namespace {
 
@@ -41,22 +43,24 @@ constexpr std::uint32_t sevenFunctions = 0x7F;
 
 }  // namespace
 
-const ModeDescription& ModeOf(ListIndex list) {
+const ModeDescription& modeOf(ListIndex list) {
     return modes[static_cast<std::size_t>(list)];
 }
 
-std::span<const ListIndex> ModesInOrderOfCreation() {
+std::span<const ListIndex> modesInOrderOfCreation() {
     return creationOrder;
 }
 
-std::span<const int> SwitchableControls() {
+std::span<const int> switchableControls() {
     return switchable;
 }
 
-std::uint32_t KnownFunctions(std::uint32_t mask) {
+std::uint32_t knownFunctions(std::uint32_t mask) {
     return mask & sevenFunctions;
 }
 
-bool IsSingleFunction(std::uint32_t mask) {
-    return std::has_single_bit(KnownFunctions(mask));
+bool isSingleFunction(std::uint32_t mask) {
+    return std::has_single_bit(knownFunctions(mask));
 }
+
+}  // namespace wirepane

@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <span>
 
+namespace wirepane {
+
 // When a switch to a mode reads its list.
 enum class LoadRule { FirstSwitch, EverySwitch, Never };
 
@@ -23,19 +25,21 @@ struct ModeDescription {
 };
 
 // The description of a mode.
-const ModeDescription& ModeOf(ListIndex list);
+const ModeDescription& modeOf(ListIndex list);
 
 // The modes in the order in which their grids and tabs are created.
-std::span<const ListIndex> ModesInOrderOfCreation();
+std::span<const ListIndex> modesInOrderOfCreation();
 
 // The ids of the controls that mode switching shows or hides.
-std::span<const int> SwitchableControls();
+std::span<const int> switchableControls();
 
 inline constexpr std::uint32_t defaultFunctionMask = 0x6F;
 inline constexpr std::uint32_t symbolNewsMask = 0x04;
 
 // The bits of a stored mask that mean something.
-std::uint32_t KnownFunctions(std::uint32_t mask);
+std::uint32_t knownFunctions(std::uint32_t mask);
 
 // True for exactly one enabled function: such a view has no tab strip.
-bool IsSingleFunction(std::uint32_t mask);
+bool isSingleFunction(std::uint32_t mask);
+
+}  // namespace wirepane

@@ -12,6 +12,8 @@
 #include "news_view/view_context.h"
 #include "news_view/view_settings.h"
 
+namespace wirepane {
+
 namespace {
 constexpr int twoColumns = 1;  // the news type that never takes the keyboard
 }
@@ -20,24 +22,24 @@ Modes::Modes(ViewContext& context, const CommonParts& commonParts, StoryStage& s
     : view(context), parts(commonParts), stage(storyStage), calls(std::move(atASwitch)) {}
 
 void Modes::switchTo(ListIndex next) {
-    if (!stage.bCanShow())
+    if (!stage.canShow())
         return;
     // The warrant mode clears the ticks for its own purposes: the user's choice comes back first.
     if (mode == ListIndex::Warrant)
-        parts.services.vRestoreSelection();
+        parts.services.restoreSelection();
     showParts(next);
     mode = next;
     parts.settings.focusedTab = static_cast<int>(mode);
-    stage.vHideDialog();
+    stage.hideDialog();
     catchUp();
     if (view.paneShowsStories()) {
         view.clearStory();
         if (mode != ListIndex::Category)
             view.showStory();
     }
-    const ListIndex toLoad = ModeLoading::LoadingMode(mode, parts.switches);
-    parts.services.vClearWarrantSelection();
-    if (toLoad == ListIndex::Warrant && parts.lists[toLoad].pGetGrid() == nullptr)
+    const ListIndex toLoad = ModeLoading::loadingMode(mode, parts.switches);
+    parts.services.clearWarrantSelection();
+    if (toLoad == ListIndex::Warrant && parts.lists[toLoad].grid() == nullptr)
         return;
     takeServicesOver(toLoad);
     calls.servicesTakenOver();
@@ -51,7 +53,7 @@ void Modes::switchTo(ListIndex next) {
 void Modes::showParts(ListIndex of) {
     parts.controls.ShowHideCtrObject(of);
     for (const ListKind& kind : listKinds) {
-        if (CSuperSheetWnd* grid = parts.lists[kind.index].pGetGrid())
+        if (CSuperSheetWnd* grid = parts.lists[kind.index].grid())
             grid->setVisible(kind.index == of);
     }
     if (of == ListIndex::Symbol)
@@ -60,37 +62,37 @@ void Modes::showParts(ListIndex of) {
 
 void Modes::catchUp() {
     const bool isFiltered =
-        parts.settings.options[ViewOption::RebuildFilteredLists] && parts.lists.bHasOthersFilter(mode);
-    if (parts.lists.bHasMissed(mode) || isFiltered)
+        parts.settings.options[ViewOption::RebuildFilteredLists] && parts.lists.hasOthersFilter(mode);
+    if (parts.lists.hasMissed(mode) || isFiltered)
         calls.readAgain(mode);
 }
 
 void Modes::takeServicesOver(ListIndex toLoad) {
     if (toLoad == ListIndex::WarningTerm)
         return;
-    parts.services.vCopyToSaved();
+    parts.services.copyToSaved();
     if (toLoad == ListIndex::Warrant) {
-        parts.services.vClearSelection();
+        parts.services.deselectRows();
         return;
     }
-    if (parts.services.iSelectedCount() == 0 && !parts.services.Entries().empty())
-        parts.services.vSelectInBoth(0);
+    if (parts.services.selectedCount() == 0 && !parts.services.currentServices().empty())
+        parts.services.selectInBoth(0);
 }
 
 void Modes::load(ListIndex toLoad) {
-    const bool hasAllNews = (parts.settings.functions & ModeOf(ListIndex::All).maskBit) != 0;
-    if (toLoad == ListIndex::Category && hasAllNews && parts.loading.bTakeCategoryCatalogue())
+    const bool hasAllNews = (parts.settings.functions & modeOf(ListIndex::All).maskBit) != 0;
+    if (toLoad == ListIndex::Category && hasAllNews && parts.loading.takeCategoryCatalogue())
         calls.fillCategories();
     if (toLoad == ListIndex::Symbol && hasAllNews)
         calls.offerSymbols();
-    if (parts.loading.bTakeLoad(toLoad))
+    if (parts.loading.takeLoad(toLoad))
         read(toLoad);
     if (toLoad == ListIndex::Category)
         view.showStory();
 }
 
 void Modes::takeKeyboard() {
-    CSuperSheetWnd* grid = parts.lists[mode].pGetGrid();
+    CSuperSheetWnd* grid = parts.lists[mode].grid();
     if (parts.newsType == twoColumns || grid == nullptr)
         return;
     grid->setFocus();
@@ -98,7 +100,7 @@ void Modes::takeKeyboard() {
 }
 
 bool Modes::read(ListIndex list) {
-    if (list == ListIndex::WarningTerm || parts.lists[list].pGetGrid() == nullptr)
+    if (list == ListIndex::WarningTerm || parts.lists[list].grid() == nullptr)
         return false;
     switch (list) {
         case ListIndex::Symbol:
@@ -106,11 +108,11 @@ bool Modes::read(ListIndex list) {
         case ListIndex::Search: {
             const bool isOfWarningTerms = parts.switches.showWarningSearch &&
                                           (mode == ListIndex::WarningTerm || parts.switches.showNormalSearch);
-            parts.lists[isOfWarningTerms ? ListIndex::WarningTerm : ListIndex::Search].vRefill();
+            parts.lists[isOfWarningTerms ? ListIndex::WarningTerm : ListIndex::Search].refill();
             return true;
         }
         case ListIndex::Category:
-            parts.lists[list].vRefill();
+            parts.lists[list].refill();
             return true;
         case ListIndex::Warrant:
             return readWarrants();
@@ -124,9 +126,11 @@ bool Modes::read(ListIndex list) {
 }
 
 bool Modes::readWarrants() {
-    parts.services.vSelect(static_cast<std::size_t>(parts.services.iGetWarrantIndex()), true);
+    parts.services.select(static_cast<std::size_t>(parts.services.indexOfWarrants()), true);
     calls.registerWarrants();
     if (!calls.readDay(ListIndex::Warrant))
         view.setStatusText({});
     return true;
 }
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 #include <functional>
 
 class QString;
+
+namespace wirepane {
 class StoryStage;
 class ViewContext;
 
@@ -50,3 +52,5 @@ private:
     const Calls calls;
     ListIndex mode = ListIndex::All;
 };
+
+}  // namespace wirepane

@@ -7,30 +7,32 @@
 #include <algorithm>
 #include <utility>
 
+namespace wirepane {
+
 NewsCategories::NewsCategories(BKQuoteInterface& newsBackEnd) : backEnd(newsBackEnd) {}
 
-void NewsCategories::vSetServices(std::vector<unsigned char> ids) {
+void NewsCategories::setServices(std::vector<unsigned char> ids) {
     services = std::move(ids);
 }
 
-bool NewsCategories::bLoadFile() {
+bool NewsCategories::loadFile() {
     const CategoryCatalogue before = std::exchange(file, {});
     const bool loaded =
-        file.bLoad(IniFile::load(backEnd.PathGetSysPath() + QStringLiteral("/NewsService.ini")));
+        file.load(IniFile::load(backEnd.PathGetSysPath() + QStringLiteral("/NewsService.ini")));
     changed |= !(file == before);
     return loaded;
 }
 
-void NewsCategories::vLoadWarrants() {
+void NewsCategories::loadWarrants() {
     warrants = {};
     if (std::find(services.begin(), services.end(), warrantService) != services.end())
-        warrants.vAdd(backEnd, warrantService);
+        warrants.add(backEnd, warrantService);
 }
 
 void NewsCategories::readLists() {
     const std::pair before(std::exchange(lists, {}), std::exchange(warrants, {}));
     for (const unsigned char service : services)
-        (service == warrantService ? warrants : lists).vAdd(backEnd, service);
+        (service == warrantService ? warrants : lists).add(backEnd, service);
     changed |= before != std::pair(lists, warrants);
     everRead = true;
     readForMiss = true;
@@ -38,12 +40,12 @@ void NewsCategories::readLists() {
 
 const QString* NewsCategories::find(unsigned char service, int id) const {
     if (service == warrantService)
-        return warrants.NameOf(id);
-    const QString* name = file.NameOf(id);
-    return name != nullptr ? name : lists.NameOf(id);
+        return warrants.nameOf(id);
+    const QString* name = file.nameOf(id);
+    return name != nullptr ? name : lists.nameOf(id);
 }
 
-const QString* NewsCategories::NameOf(unsigned char service, int id) {
+const QString* NewsCategories::nameOf(unsigned char service, int id) {
     const QString* name = find(service, id);
     if (name != nullptr)
         return name;
@@ -55,7 +57,7 @@ const QString* NewsCategories::NameOf(unsigned char service, int id) {
     return name;
 }
 
-int NewsCategories::IdOf(unsigned char service, const QString& name) {
+int NewsCategories::idOf(unsigned char service, const QString& name) {
     if (service == warrantService)
         return warrants.GetCategoryIDbyName(name);
     const int id = file.GetCategoryIDbyName(name);
@@ -66,13 +68,15 @@ int NewsCategories::IdOf(unsigned char service, const QString& name) {
     return lists.GetCategoryIDbyName(name);
 }
 
-bool NewsCategories::bLearn(bool hostSaysSo) {
+bool NewsCategories::learn(bool hostSaysSo) {
     if (missed || hostSaysSo)
         readLists();
     return std::exchange(changed, false);
 }
 
-void NewsCategories::vReadAtNextMiss() {
+void NewsCategories::readAtNextMiss() {
     missed = false;
     readForMiss = false;
 }
+
+}  // namespace wirepane

@@ -15,27 +15,29 @@
 #include <array>
 #include <set>
 
+namespace wirepane {
+
 namespace {
 
 // Puts the complete ones among the news of these entries out.
 template <class PutOut>
 NewsOutcome putOutAtHand(const std::vector<CHeadlineTable>& entries, StoryForm form,
                          const OutputTarget& target, PutOut putOut) {
-    RequireInterfaceThread("NewsModule::PrintNews or SaveNews");
-    RequireOfHost(BKQuoteInterface::GetBKInterface() != nullptr,
+    requireInterfaceThread("NewsModule::PrintNews or SaveNews");
+    requireOfHost(BKQuoteInterface::GetBKInterface() != nullptr,
                   "NewsModule::PrintNews or SaveNews was called before a back end was installed "
                   "(BKQuoteInterface::SetBKInterface).");
     BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
     std::set<unsigned char> services;
     for (const CHeadlineTable& entry : entries)
         services.insert(entry.service);
-    NewsItems items = Complete(GatherNews(backEnd, entries, {services.begin(), services.end()}, form));
+    OutputItems items = completeItems(gatherNews(backEnd, entries, {services.begin(), services.end()}, form));
     if (items.empty())
-        return NothingToPutOut(backEnd);
-    for (NewsItem& item : items)
+        return nothingToPutOut(backEnd);
+    for (OutputItem& item : items)
         item.wholeTitle = target.wholeTitles;
     NewsOutcome outcome = putOut(target, backEnd, items);
-    TellLeftOut(backEnd, entries.size() - items.size(), outcome);
+    tellLeftOut(backEnd, entries.size() - items.size(), outcome);
     return outcome;
 }
 
@@ -48,10 +50,10 @@ const std::array viewClasses{&TRVNewsCtrlView::staticMetaObject};
 class NewsModulePlugin : public QObject, public NewsModule {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID WIREPANE_NEWS_MODULE_IID)
-    Q_INTERFACES(NewsModule)
+    Q_INTERFACES(wirepane::NewsModule)
 
 public:
-    QStringList ViewClasses() const override {
+    QStringList viewClassNames() const override {
         QStringList names;
         for (const QMetaObject* viewClass : viewClasses)
             names.append(QString::fromLatin1(viewClass->className()));
@@ -59,7 +61,7 @@ public:
     }
 
     TRVQuoteBaseView* CreateView(const QString& className, QWidget* parent) override {
-        RequireInterfaceThread("NewsModule::CreateView");
+        requireInterfaceThread("NewsModule::CreateView");
         if (BKQuoteInterface::GetBKInterface() == nullptr)
             return nullptr;
         for (const QMetaObject* viewClass : viewClasses) {
@@ -69,17 +71,19 @@ public:
         return nullptr;
     }
 
-    NewsStoryWindow* CreateStoryWindow(CMainFrame* mainFrame) override {
+    NewsStoryWindow* createStoryWindow(CMainFrame* mainFrame) override {
         return BKQuoteInterface::GetBKInterface() != nullptr ? new TRVNewsStory(mainFrame) : nullptr;
     }
 
-    NewsOutcome PrintNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
-        return putOutAtHand(entries, &PrintedStory, target, &PrintItemsToPdf);
+    NewsOutcome printNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
+        return putOutAtHand(entries, &printedStory, target, &printItemsToPdf);
     }
 
-    NewsOutcome SaveNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
-        return putOutAtHand(entries, &SavedStory, target, &SaveItemsTo);
+    NewsOutcome saveNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
+        return putOutAtHand(entries, &savedStory, target, &saveItemsTo);
     }
 };
+
+}  // namespace wirepane
 
 #include "news_module_plugin.moc"

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 constexpr int sheetCount = 3;
@@ -17,7 +19,7 @@ QString checkKey(int sheet, unsigned char service) {
 
 }  // namespace
 
-void NewsServices::vLoad(BKQuoteInterface& backEnd) {
+void NewsServices::load(BKQuoteInterface& backEnd) {
     std::vector<unsigned char> services;
     backEnd.BKQNEWS_bGetAllNewsService(services);
     live.clear();
@@ -49,41 +51,41 @@ void NewsServices::vInitialNewsService(const TRVCfgIO2& reader, const ViewSettin
     CheckRegisterService(view);
 }
 
-void NewsServices::vSave(TRVCfgIO2& writer, const ViewSettingPath& path) const {
+void NewsServices::save(TRVCfgIO2& writer, const ViewSettingPath& path) const {
     for (int sheet = 0; sheet < sheetCount; ++sheet) {
         for (const ServiceEntry& entry : saved)
-            writer.SetViewInfo(path, checkKey(sheet, entry.service), entry.selected);
+            writer.setViewInfo(path, checkKey(sheet, entry.service), entry.selected);
     }
 }
 
-void NewsServices::vSelectInBoth(std::size_t index) {
+void NewsServices::selectInBoth(std::size_t index) {
     live.at(index).selected = true;
     saved.at(index).selected = true;
 }
 
-void NewsServices::vSetDate(std::size_t index, std::int32_t date) {
+void NewsServices::showDate(std::size_t index, std::int32_t date) {
     live.at(index).date = date;
     saved.at(index).date = date;
 }
 
-void NewsServices::vRestoreSelection() {
+void NewsServices::restoreSelection() {
     for (std::size_t i = 0; i < live.size(); ++i)
         live[i].selected = saved[i].selected;
 }
 
-void NewsServices::vClearSelection() {
+void NewsServices::deselectRows() {
     for (ServiceEntry& entry : live)
         entry.selected = false;
 }
 
-int NewsServices::iSelectedCount() const {
+int NewsServices::selectedCount() const {
     return static_cast<int>(
         std::count_if(live.begin(), live.end(), [](const ServiceEntry& entry) { return entry.selected; }));
 }
 
-void NewsServices::vClearWarrantSelection() {
+void NewsServices::clearWarrantSelection() {
     if (warrantIndex >= 0)
-        vSelect(static_cast<std::size_t>(warrantIndex), false);
+        select(static_cast<std::size_t>(warrantIndex), false);
 }
 
 bool NewsServices::RegisterService(TRVQuoteBaseView& view, unsigned char service) {
@@ -108,12 +110,12 @@ void NewsServices::CheckRegisterService(TRVQuoteBaseView& view) {
     }
 }
 
-std::vector<unsigned char> NewsServices::ActiveServices(int mode) const {
-    const auto list = ListOfNumber(mode);
+std::vector<unsigned char> NewsServices::activeServices(int mode) const {
+    const auto list = listOfNumber(mode);
     std::vector<unsigned char> services;
     if (!list)
         return services;
-    const FillServices which = KindOf(*list).fill;
+    const FillServices which = kindOf(*list).fill;
     for (std::size_t i = 0; i < live.size(); ++i) {
         const bool wanted = which == FillServices::Every ||
                             (which == FillServices::Selected && live[i].selected) ||
@@ -123,3 +125,5 @@ std::vector<unsigned char> NewsServices::ActiveServices(int mode) const {
     }
     return services;
 }
+
+}  // namespace wirepane

@@ -4,11 +4,13 @@
 
 #include "host/controls/s_button.h"
 #include "host/controls/window_id.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/notice_line.h"
 
 #include <algorithm>
+
+namespace wirepane {
 
 namespace {
 
@@ -47,7 +49,7 @@ void NoticeBoard::setStatus(const QString& text) {
 
 ListNotices NoticeBoard::notices() const {
     ListNotices told;
-    told.vTell(NoticeKind::Status, statusText.trimmed());
+    told.tell(NoticeKind::Status, statusText.trimmed());
     for (const Teller& teller : tellers)
         teller(told);
     return told;
@@ -61,15 +63,15 @@ QRect NoticeBoard::area() const {
     for (const QObject* child : around.window.children()) {
         const auto* control = qobject_cast<const QWidget*>(child);
         const bool isShown = control != nullptr && !control->isWindow() && !control->isHidden();
-        if (isShown && !isOfNotices(WindowId(control)) && control->geometry().intersects(row))
+        if (isShown && !isOfNotices(windowId(control)) && control->geometry().intersects(row))
             taken.push_back(control->geometry());
     }
     return widestGap(row, std::move(taken));
 }
 
 void NoticeBoard::place() {
-    auto* line = around.controls.Find<NoticeLine>(ids::notice);
-    auto* stop = around.controls.Find<SButton>(ids::stopWaiting);
+    auto* line = around.controls.find<NoticeLine>(ids::notice);
+    auto* stop = around.controls.find<SButton>(ids::stopWaiting);
     if (line == nullptr || stop == nullptr)
         return;
     QRect room = area();
@@ -84,6 +86,8 @@ void NoticeBoard::place() {
         room.setLeft(stop->geometry().right() + noticeMargin);
     const Look look = around.look();
     line->setFont(look.font);
-    line->vSetColours(look.text, lateColour(look.background));
+    line->setColours(look.text, lateColour(look.background));
     line->vShow(notices(), room, next);
 }
+
+}  // namespace wirepane

@@ -11,8 +11,14 @@
 #include <functional>
 #include <vector>
 
+namespace wirepane {
 class ControlSet;
+
+}  // namespace wirepane
+
 class QWidget;
+
+namespace wirepane {
 
 // The notices of a view in the free part of its control row: what the user must know of the view and of the
 // list that it shows, and the button that stops what it waits for. Interface thread only.
@@ -57,3 +63,5 @@ private:
 
 // The widest gap that rectangles leave between the left edge of a row and its right one, a margin off them.
 QRect widestGap(const QRect& row, std::vector<QRect> taken);
+
+}  // namespace wirepane

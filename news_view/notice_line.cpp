@@ -3,12 +3,14 @@
 #include "news_view/notice_line.h"
 
 #include "host/controls/window_id.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
 #include <algorithm>
+
+namespace wirepane {
 
 QColor lateColour(const QColor& background) {
     return background.lightness() > 127 ? QColor(0xA8, 0x50, 0x00) : QColor(0xFF, 0xB0, 0x40);
@@ -18,10 +20,10 @@ NoticeButton::NoticeButton(QWidget* parent) : SButton(parent) {
     setCursor(Qt::PointingHandCursor);
 }
 
-void NoticeButton::vSetNotice(const QString& whole, const QString& shown) {
-    if (whole == szGetText() && shown == shownText)
+void NoticeButton::setNotice(const QString& whole, const QString& shown) {
+    if (whole == literalText() && shown == shownText)
         return;
-    vSetText(whole);
+    showText(whole);
     setToolTip(whole.toHtmlEscaped());
     shownText = shown;
     update();
@@ -46,20 +48,20 @@ NoticeLine::NoticeLine(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
 }
 
-void NoticeLine::vSetColours(const QColor& plain, const QColor& late) {
+void NoticeLine::setColours(const QColor& plain, const QColor& late) {
     plainColour = plain;
     colourOfLate = late;
 }
 
 void NoticeLine::vShow(const ListNotices& notices, const QRect& area, QWidget* keyboardNext) {
     setGeometry(area);
-    placed = PlaceNotices(notices, area.width(), fontMetrics());
+    placed = placeNotices(notices, area.width(), fontMetrics());
     for (const int command : ids::noticeCommands) {
-        auto* button = qobject_cast<NoticeButton*>(GetDlgItem(parentWidget(), command));
+        auto* button = qobject_cast<NoticeButton*>(dlgItem(parentWidget(), command));
         if (button == nullptr)
             continue;
         const auto shown = std::find_if(placed.begin(), placed.end(), [command](const PlacedNotice& notice) {
-            return CommandOf(notice.kind) == command;
+            return commandOf(notice.kind) == command;
         });
         if (shown == placed.end() && button->hasFocus() && keyboardNext != nullptr)
             keyboardNext->setFocus();
@@ -71,11 +73,11 @@ void NoticeLine::vShow(const ListNotices& notices, const QRect& area, QWidget* k
         button->setPalette(colours);
         button->setFont(font());
         button->setGeometry(area.left() + shown->left, area.top(), shown->width, area.height());
-        button->vSetNotice(notices.Text(shown->kind), shown->text);
+        button->setNotice(notices.text(shown->kind), shown->text);
     }
     // What a screen reader reads; the tool tip tells what had no room.
-    setText(notices.Text());
-    setToolTip(notices.Text().toHtmlEscaped());
+    setText(notices.text());
+    setToolTip(notices.text().toHtmlEscaped());
     setVisible(!placed.empty());
     update();
 }
@@ -84,10 +86,12 @@ void NoticeLine::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setFont(font());
     for (const PlacedNotice& notice : placed) {
-        if (CommandOf(notice.kind) != 0)
+        if (commandOf(notice.kind) != 0)
             continue;
         painter.setPen(notice.kind == NoticeKind::Offline ? colourOfLate : plainColour);
         painter.drawText(QRect(notice.left, 0, notice.width, height()), Qt::AlignVCenter | Qt::TextSingleLine,
                          notice.text);
     }
 }
+
+}  // namespace wirepane

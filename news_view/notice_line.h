@@ -10,6 +10,8 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // The colour of what comes late: amber that reads well on a background.
 QColor lateColour(const QColor& background);
 
@@ -22,7 +24,7 @@ public:
     explicit NoticeButton(QWidget* parent);
 
     // `whole` is what it says and is called by; `shown` what of it has room.
-    void vSetNotice(const QString& whole, const QString& shown);
+    void setNotice(const QString& whole, const QString& shown);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -40,7 +42,7 @@ public:
     explicit NoticeLine(QWidget* parent);
 
     // Texts, and those that tell of what comes late.
-    void vSetColours(const QColor& plain, const QColor& late);
+    void setColours(const QColor& plain, const QColor& late);
     // Shows the notices in an area of the parent, as far as they have room there. The keyboard goes to
     // `keyboardNext` (null: nowhere) when the notice that has it goes.
     void vShow(const ListNotices& notices, const QRect& area, QWidget* keyboardNext);
@@ -53,3 +55,5 @@ private:
     QColor plainColour;
     QColor colourOfLate;
 };
+
+}  // namespace wirepane

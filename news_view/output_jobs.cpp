@@ -4,7 +4,7 @@
 
 #include "headline_list/language_keys.h"
 #include "host/controls/window_id.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_settings.h"
 #include "story/trv_news_story.h"
@@ -13,6 +13,8 @@
 
 #include <numeric>
 
+namespace wirepane {
+
 OutputJobs::OutputJobs(BKQuoteInterface& newsBackEnd, OutputDialogs& dialogs, Surroundings surroundings)
     : backEnd(newsBackEnd),
       around(std::move(surroundings)),
@@ -20,8 +22,8 @@ OutputJobs::OutputJobs(BKQuoteInterface& newsBackEnd, OutputDialogs& dialogs, Su
       saver(backEnd, dialogs, around.window),
       previewer(backEnd, dialogs, around.window) {
     for (TRVNewsPrint* job : jobs()) {
-        job->vSetOnAwaited(around.awaitedChanged);
-        job->vSetOnFinished([this](const NewsOutcome& outcome) { tell(outcome); });
+        job->setOnAwaited(around.awaitedChanged);
+        job->setOnFinished([this](const NewsOutcome& outcome) { tell(outcome); });
     }
 }
 
@@ -44,25 +46,25 @@ NewsOutcome OutputJobs::putOut(TRVNewsPrint& job, int button, const std::vector<
     if (entries.empty())
         return {};
     const std::vector<unsigned char> services = around.titles();
-    job.vSetWholeTitles(around.settings.options[ViewOption::WholeTitles]);
-    NewsItems items = job.Gather(entries, services);
-    if (!bIsSettled(items)) {
-        job.vWait(std::move(items), services, target);
+    job.setWholeTitles(around.settings.options[ViewOption::WholeTitles]);
+    OutputItems items = job.gather(entries, services);
+    if (!isSettled(items)) {
+        job.wait(std::move(items), services, target);
         NewsOutcome outcome;
         outcome.waiting = true;
         return outcome;
     }
-    return target ? job.PutOut(std::move(items), nullptr, target) : ask(job, button, std::move(items));
+    return target ? job.putOut(std::move(items), nullptr, target) : ask(job, button, std::move(items));
 }
 
-NewsOutcome OutputJobs::ask(TRVNewsPrint& job, int button, NewsItems items) {
+NewsOutcome OutputJobs::ask(TRVNewsPrint& job, int button, OutputItems items) {
     const QPointer<QWidget> window = &around.window;
-    const QPointer<QWidget> control = GetDlgItem(&around.window, button);
-    TRVNewsStory* dialog = around.stage.pGetDialog();
-    around.stage.vLeaveTop();
+    const QPointer<QWidget> control = dlgItem(&around.window, button);
+    TRVNewsStory* dialog = around.stage.storyDialog();
+    around.stage.leaveTop();
     if (control != nullptr)
         control->setEnabled(false);
-    NewsOutcome outcome = job.PutOut(
+    NewsOutcome outcome = job.putOut(
         std::move(items), dialog != nullptr && dialog->isVisible() ? dialog : nullptr, std::nullopt);
     if (control != nullptr)
         control->setEnabled(true);
@@ -94,7 +96,7 @@ bool OutputJobs::isWaiting() const {
 }
 
 std::array<int, 3> OutputJobs::awaited() const {
-    return {printer.iAwaited(), saver.iAwaited(), previewer.iAwaited()};
+    return {printer.awaitedCount(), saver.awaitedCount(), previewer.awaitedCount()};
 }
 
 QString OutputJobs::awaitedText() const {
@@ -103,7 +105,7 @@ QString OutputJobs::awaitedText() const {
     QStringList told;
     for (std::size_t i = 0; i < texts.size(); ++i) {
         if (counts[i] > 0)
-            told.append(LangText(backEnd, texts[i]).arg(counts[i]));
+            told.append(langText(backEnd, texts[i]).arg(counts[i]));
     }
     return told.join(QStringLiteral(" · "));
 }
@@ -113,21 +115,23 @@ std::vector<MenuEntry> OutputJobs::waitingCommands() const {
     if (!isWaiting())
         return entries;
     if (const int complete = ready(); complete > 0)
-        entries.push_back({ids::putOutReady, LangText(backEnd, keys::putOutReady).arg(complete), {}});
-    entries.push_back({ids::stopWaiting, LangText(backEnd, keys::stopWaiting), {}});
+        entries.push_back({ids::putOutReady, langText(backEnd, keys::putOutReady).arg(complete), {}});
+    entries.push_back({ids::stopWaiting, langText(backEnd, keys::stopWaiting), {}});
     return entries;
 }
 
 int OutputJobs::ready() const {
-    return printer.iReady() + saver.iReady() + previewer.iReady();
+    return printer.readyCount() + saver.readyCount() + previewer.readyCount();
 }
 
 void OutputJobs::stopWaiting() {
     for (TRVNewsPrint* job : jobs())
-        job->vForgetAwaited();
+        job->forgetAwaited();
 }
 
 void OutputJobs::putOutReady() {
     for (TRVNewsPrint* job : jobs())
-        job->vPutOutReady();
+        job->putOutReady();
 }
+
+}  // namespace wirepane

@@ -10,6 +10,7 @@
 #include <optional>
 #include <vector>
 
+namespace wirepane {
 class StoryStage;
 struct ViewSettings;
 
@@ -62,7 +63,7 @@ private:
     std::array<const TRVNewsPrint*, 3> jobs() const { return {&printer, &saver, &previewer}; }
     NewsOutcome putOut(TRVNewsPrint& job, int button, const std::vector<CHeadlineTable>& entries,
                        const std::optional<OutputTarget>& target);
-    NewsOutcome ask(TRVNewsPrint& job, int button, NewsItems items);
+    NewsOutcome ask(TRVNewsPrint& job, int button, OutputItems items);
 
     BKQuoteInterface& backEnd;
     Surroundings around;
@@ -70,3 +71,5 @@ private:
     TRVSaveToFile saver;
     TRVNewsPreview previewer;
 };
+
+}  // namespace wirepane

@@ -12,8 +12,8 @@
 #include "host/controls/heap_dialog.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/xt_tip_window.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/application_switches.h"
-#include "news_view/control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/list_tip.h"
 #include "news_view/news_services.h"
@@ -26,6 +26,8 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -45,36 +47,36 @@ Searches::Searches(ViewContext& viewContext, const CommonParts& commonParts)
 // --- The search box ---
 
 void Searches::connectEdit() {
-    auto* edit = parts.controls.Find<SearchEdit2>(ids::searchEdit);
-    edit->vSetOwner(this);
+    auto* edit = parts.controls.find<SearchEdit2>(ids::searchEdit);
+    edit->setOwner(this);
     QObject::connect(edit, &SEdit::returnPressed, &parts.window, [this] { searchForText(); });
 }
 
 QString Searches::textOfEdit() const {
-    const auto* edit = parts.controls.Find<SEdit>(ids::searchEdit);
+    const auto* edit = parts.controls.find<SEdit>(ids::searchEdit);
     return edit != nullptr ? edit->text() : QString();
 }
 
 void Searches::searchForText() {
-    if (parts.services.iSelectedCount() == 0) {
+    if (parts.services.selectedCount() == 0) {
         send();
         return;
     }
     const QString text = textOfEdit().trimmed();
     if (text.isEmpty()) {
-        tipAtEdit(LangText(parts.backEnd, keys::invalidSearch));
+        tipAtEdit(langText(parts.backEnd, keys::invalidSearch));
         return;
     }
     if (text.contains(u"AND"_s) || text.contains(u"OR"_s)) {
-        TellError(&parts.window, LangText(parts.backEnd, keys::reinput));
+        tellError(&parts.window, langText(parts.backEnd, keys::reinput));
         return;
     }
-    conditions.vTakeQuickSearch(text, host_clock::now());
+    conditions.takeQuickSearch(text, host_clock::now());
     send();
 }
 
 void Searches::tipAtEdit(const QString& text) {
-    if (const auto* edit = parts.controls.Find<SEdit>(ids::searchEdit))
+    if (const auto* edit = parts.controls.find<SEdit>(ids::searchEdit))
         vShowTip({edit->mapToGlobal(QPoint(0, 0)), edit->size()}, text);
 }
 
@@ -95,8 +97,8 @@ void Searches::compose() {
     const bool accepted = dialog->DoModal() == search_ids::ok;
     if (!dialog)
         return;
-    dialog->vGetResult(conditions.edited, memory.keywordPool, memory.recent);
-    dialog.Delete();
+    dialog->readResult(conditions.edited, memory.keywordPool, memory.recent);
+    dialog.destroy();
     // Nobody answers for a search that is not in force any more.
     if (!accepted && !(conditions.ordinary == conditions.edited))
         stopWaiting();
@@ -106,7 +108,7 @@ void Searches::compose() {
         return;
     send();
     // To the list of what is found, wherever in the view the dialog was asked for.
-    CSuperSheetWnd* sheet = context.listOf(context.shownList()).pGetGrid();
+    CSuperSheetWnd* sheet = context.listOf(context.shownList()).grid();
     if (sheet != nullptr && !conditions.ordinary.keywords.empty())
         sheet->setFocus();
 }
@@ -114,22 +116,24 @@ void Searches::compose() {
 void Searches::send() {
     const ListIndex shown = context.shownList();
     HeadlineList& list = context.listOf(shown);
-    CSearch* condition = conditions.ConditionOf(shown);
-    if (condition == nullptr || list.pGetGrid() == nullptr)
+    CSearch* condition = conditions.conditionOf(shown);
+    if (condition == nullptr || list.grid() == nullptr)
         return;
     if (condition->keywords.empty()) {
-        tipAtEdit(LangText(parts.backEnd, keys::invalidSearch));
+        tipAtEdit(langText(parts.backEnd, keys::invalidSearch));
         return;
     }
-    SearchDesk::vCompleteMethod(*condition);
-    const bool awaited = conditions.bTakeSearchText(textOfEdit());
+    SearchDesk::completeMethod(*condition);
+    const bool awaited = conditions.takeSearchText(textOfEdit());
     // A wait tip that is still up must not name a search that nobody waits for any more.
     if (awaited || waitTipIsUp()) {
-        parts.tip.showOver(list.pGetGrid(), conditions.WaitText(*condition), waitTipTimeMs);
+        parts.tip.showOver(list.grid(), conditions.waitText(*condition), waitTipTimeMs);
         waitTipText = parts.tip.text();
     }
-    conditions.vSend(shown, parts.services.vGetLive(), awaited, {host_clock::now(), parts.breaks.Ended()});
-    list.vSetTable(ReadTables(parts.backEnd, parts.services.Entries(), TableKind::Search, searchTableKey));
+    conditions.sendSearch(shown, parts.services.liveServices(), awaited,
+                          {host_clock::now(), parts.breaks.ended()});
+    list.setTable(
+        readTables(parts.backEnd, parts.services.currentServices(), TableKind::Search, searchTableKey));
     showFound(shown, false);
 }
 
@@ -138,12 +142,12 @@ bool Searches::waitTipIsUp() const {
 }
 
 void Searches::stopWaiting() {
-    if (ForgetPending(parts.services.vGetLive()))
+    if (forgetPending(parts.services.liveServices()))
         parts.tip.stop();
 }
 
 void Searches::endNarrowing() {
-    conditions.vEndNarrowing(context.shownList());
+    conditions.endNarrowing(context.shownList());
     send();
 }
 
@@ -151,46 +155,48 @@ void Searches::endNarrowing() {
 
 void Searches::showFound(ListIndex index, bool selectFirst) {
     HeadlineList& list = context.listOf(index);
-    list.vRefill();
-    if (list.Table().empty())
+    list.refill();
+    if (list.headlineTable().empty())
         context.setStatusText({});
     else if (selectFirst)
-        list.pGetGrid()->vSetActiveSelection(0, -1);
+        list.grid()->setActiveSelection(0, -1);
     // An answer opens no window; one that is open follows the rows. Without rows there is no story: that of
     // a row that went would stand beside an empty list.
-    const bool isStoryAsked = !selectFirst || list.Table().empty() || context.hasOpenStory();
+    const bool isStoryAsked = !selectFirst || list.headlineTable().empty() || context.hasOpenStory();
     if (context.shownList() == index && isStoryAsked)
         context.showStory();
     context.placeNotices();
 }
 
 void Searches::takeAnswer(const CSearch& condition, unsigned char service) {
-    const auto kind = conditions.KindOfAnswer(condition);
+    const auto kind = conditions.kindOfAnswer(condition);
     if (!kind)
         return;
     const bool toWarningTerm = *kind == TableKind::Search && parts.switches.showWarningSearch;
     const ListIndex target = toWarningTerm ? ListIndex::WarningTerm : ListIndex::Search;
     HeadlineList& list = context.listOf(target);
-    if (list.pGetGrid() == nullptr)
+    if (list.grid() == nullptr)
         return;
-    const TableRuns found = ReadEveryTable(parts.backEnd, parts.services.Entries(), *kind, searchTableKey);
-    if (*kind == TableKind::Search && !conditions.bTakeAnswerDue(condition, service)) {
+    const TableRuns found =
+        readEveryTable(parts.backEnd, parts.services.currentServices(), *kind, searchTableKey);
+    if (*kind == TableKind::Search && !conditions.takeAnswerDue(condition, service)) {
         context.readInPlace(target, [&] {
-            list.vSetTable(found);
-            list.vRefill();
+            list.setTable(found);
+            list.refill();
             return true;
         });
-        if (list.Table().empty() && context.shownList() == target)
+        if (list.headlineTable().empty() && context.shownList() == target)
             context.showStory();
         return;
     }
-    list.vSetTable(found);
-    const bool othersPending = *kind == TableKind::Search && TakeAnswer(parts.services.vGetLive(), service);
+    list.setTable(found);
+    const bool othersPending =
+        *kind == TableKind::Search && markAnswered(parts.services.liveServices(), service);
     if (!othersPending)
         parts.tip.stop();
     showFound(target, true);
-    if (list.Table().empty() && !othersPending)
-        parts.tip.showOver(list.pGetGrid(), LangText(parts.backEnd, keys::newsNotFound));
+    if (list.headlineTable().empty() && !othersPending)
+        parts.tip.showOver(list.grid(), langText(parts.backEnd, keys::newsNotFound));
 }
 
 // --- What changes results ---
@@ -210,18 +216,18 @@ void Searches::searchForPushed() {
 
 void Searches::searchFor(CSearch& condition, ListIndex index, const CHeadline& headline, const QString& key) {
     HeadlineList& list = context.listOf(index);
-    if (list.pGetGrid() == nullptr)
+    if (list.grid() == nullptr)
         return;
-    SearchDesk::vCompleteMethod(condition);
-    conditions.vSent(condition, headline.service);
+    SearchDesk::completeMethod(condition);
+    conditions.noteSent(condition, headline.service);
     parts.backEnd.BKQNEWS_bSearchNews(headline.service, searchKind, condition);
     // The answer brings the rows of all services.
     if (parts.settings.options[ViewOption::KeepWarningRows])
         return;
-    list.vSetTable(ReadServiceTable(parts.backEnd, headline.service, TableKind::Search, key));
-    list.vRefill();
-    const int row = list.Table().rowOfNumber(KeyOf(headline));
-    if (row >= 0 && list.Table().rowOf(KeyOf(headline)) < 0)
+    list.setTable(readServiceTable(parts.backEnd, headline.service, TableKind::Search, key));
+    list.refill();
+    const int row = list.headlineTable().rowOfNumber(keyOf(headline));
+    if (row >= 0 && list.headlineTable().rowOf(keyOf(headline)) < 0)
         list.vInsertHeadline(row, headline, true);
 }
 
@@ -235,11 +241,11 @@ void Searches::followSymbol(const CSymbolInfo& symbol) {
 }
 
 void Searches::updateSymbolPicker(const std::vector<CSymbolUpdateInfo>& updates) {
-    static const QEvent::Type treeUpdate = RegisterMessage(u"MSG_SYMBOLUPDATE_TREEDLG"_s);
+    static const QEvent::Type treeUpdate = registerMessage(u"MSG_SYMBOLUPDATE_TREEDLG"_s);
     auto* dialog = parts.window.findChild<KeywordEntryDlg*>();
     if (dialog == nullptr || updates.empty())
         return;
-    SendRegisteredMessage(dialog, treeUpdate,
+    sendRegisteredMessage(dialog, treeUpdate,
                           updates.size() == 1 ? reinterpret_cast<quintptr>(&updates.front()) : 0);
 }
 
@@ -259,8 +265,10 @@ void Searches::narrow(const CSearch& condition, const CSymbolInfo& wanted) {
         send();
         return;
     }
-    if (!SymbolName(parts.backEnd, symbol))
+    if (!symbolName(parts.backEnd, symbol))
         return;
-    conditions.vNarrow(condition, symbol, warningTermsFollow);
+    conditions.narrow(condition, symbol, warningTermsFollow);
     send();
 }
+
+}  // namespace wirepane

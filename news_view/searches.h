@@ -13,8 +13,15 @@
 #include <vector>
 
 class CXTTipWindow;
+
+namespace wirepane {
 class ViewContext;
+
+}  // namespace wirepane
+
 struct CHeadline;
+
+namespace wirepane {
 struct CSymbolUpdateInfo;
 
 // The searches that a view sends: from the search box, from the dialog, for a symbol, for what was pushed;
@@ -74,3 +81,5 @@ private:
     QString waitTipText;                        // of the search that was announced last, as it was shown
     CXTTipWindow* shortTip;                     // belongs to the view's window
 };
+
+}  // namespace wirepane

@@ -20,6 +20,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 SentAgain::SentAgain(ViewContext& viewContext, const CommonParts& commonParts, Choices listChoices)
     : context(viewContext), parts(commonParts), choices(std::move(listChoices)) {}
 
@@ -27,11 +29,11 @@ SentAgain::SentAgain(ViewContext& viewContext, const CommonParts& commonParts, C
 
 void SentAgain::askForHeadlines() {
     HeadlineList& list = context.listOf(context.shownList());
-    if (list.pGetGrid() == nullptr)
+    if (list.grid() == nullptr)
         return;
     std::vector<int> rows;
-    list.pGetGrid()->vGetAllSelectionNdx(rows);
-    if (list.bReCoverHeadline(rows))
+    list.grid()->vGetAllSelectionNdx(rows);
+    if (list.reCoverHeadline(rows))
         context.refresh();
 }
 
@@ -42,7 +44,7 @@ void SentAgain::askForTable() {
         if (parts.backEnd.BKNEWS_bReRequestHeadlineTable(service, static_cast<int>(kind), key))
             askedTables.emplace(list, service, key);
     };
-    for (const ServiceEntry& entry : parts.services.Entries()) {
+    for (const ServiceEntry& entry : parts.services.currentServices()) {
         if (!entry.selected)
             continue;
         const CSymbolInfo symbol = choices.symbol();
@@ -85,13 +87,13 @@ void SentAgain::takeDateTable(const CHeadlineTableInfo& info) {
     const ListIndex list = warrants ? ListIndex::Warrant : shown;
     const auto read = [&] {
         if (warrants)
-            return parts.lists.bRebuildWarrant(info.key);
-        return list == ListIndex::All ? parts.lists.bRebuild(list, TableKind::ByDate, info.key)
+            return parts.lists.rebuildWarrant(info.key);
+        return list == ListIndex::All ? parts.lists.rebuild(list, TableKind::ByDate, info.key)
                                       : readRelation();
     };
     const bool taken = take(info, list, asked, read, {keys::invalidDate, {}});
     if (taken && parts.switches.showWarningSearch)
-        parts.lists.bRebuildAsCopy(ListIndex::WarningTerm, ListIndex::All);
+        parts.lists.rebuildAsCopy(ListIndex::WarningTerm, ListIndex::All);
 }
 
 void SentAgain::takeCategoryTable(const CHeadlineTableInfo& info) {
@@ -103,7 +105,7 @@ void SentAgain::takeCategoryTable(const CHeadlineTableInfo& info) {
         return;
     }
     const auto read = [&] {
-        return parts.lists.bRebuild(ListIndex::Category, TableKind::ByCategory, info.key);
+        return parts.lists.rebuild(ListIndex::Category, TableKind::ByCategory, info.key);
     };
     take(info, ListIndex::Category, asked, read, {keys::classNotFound, u" "_s});
 }
@@ -117,14 +119,14 @@ void SentAgain::takeSymbolTable(const CHeadlineTableInfo& info) {
         readNowOrWhenShown(ListIndex::Symbol);
         return;
     }
-    const auto read = [&] { return parts.lists.bRebuildSymbol(symbol); };
+    const auto read = [&] { return parts.lists.rebuildSymbol(symbol); };
     take(info, ListIndex::Symbol, asked, read, {keys::symbolNewsNotFound, u" "_s});
 }
 
 // True when the list was read anew and the back end does not deny having data for it.
 bool SentAgain::take(const CHeadlineTableInfo& info, ListIndex list, bool asked,
                      const std::function<bool()>& read, const NothingFound& nothingFound) {
-    CSuperSheetWnd* grid = parts.lists[list].pGetGrid();
+    CSuperSheetWnd* grid = parts.lists[list].grid();
     if (grid == nullptr)
         return false;
     const bool hasRows = asked ? read() : context.readInPlace(list, read);
@@ -135,7 +137,7 @@ bool SentAgain::take(const CHeadlineTableInfo& info, ListIndex list, bool asked,
     if (!context.statusText().contains(name))
         context.setStatusText(withServiceName(name));
     parts.tip.showOver(
-        grid, context.statusText() + nothingFound.separator + LangText(parts.backEnd, nothingFound.key));
+        grid, context.statusText() + nothingFound.separator + langText(parts.backEnd, nothingFound.key));
     return false;
 }
 
@@ -145,12 +147,13 @@ QString SentAgain::withServiceName(const QString& name) const {
     const QString before = status.trimmed();
     if (before.isEmpty() || !parts.settings.options[ViewOption::SeparateServiceNames])
         return status + name + u' ';
-    return before + LangText(parts.backEnd, keys::betweenNames) + name + u' ';
+    return before + langText(parts.backEnd, keys::betweenNames) + name + u' ';
 }
 
 // What the user has ticked; the warrants are what the warrant mode has ticked for itself.
 bool SentAgain::isServiceSelected(unsigned char service) const {
-    const auto& entries = service == warrantService ? parts.services.Entries() : parts.services.Saved();
+    const auto& entries =
+        service == warrantService ? parts.services.currentServices() : parts.services.savedServices();
     return std::any_of(entries.begin(), entries.end(),
                        [&](const ServiceEntry& entry) { return entry.service == service && entry.selected; });
 }
@@ -163,17 +166,17 @@ void SentAgain::takeAnnouncedDate(const CHeadlineTableInfo& info) {
         return;
     if (info.key == choices.dateKey())
         readNowOrWhenShown(warrants ? ListIndex::Warrant : ListIndex::All);
-    if (!warrants && info.key == DateKey(host_clock::today()))
+    if (!warrants && info.key == dateKey(host_clock::today()))
         readNowOrWhenShown(ListIndex::Relation);
 }
 
 void SentAgain::readNowOrWhenShown(ListIndex list) {
-    if (parts.lists[list].pGetGrid() == nullptr || !parts.loading.bWasShown(list))
+    if (parts.lists[list].grid() == nullptr || !parts.loading.wasShown(list))
         return;
     if (context.shownList() == list)
         readAgain(list);
     else
-        parts.lists.vMissed(list);
+        parts.lists.noteMissed(list);
 }
 
 void SentAgain::readAgain(ListIndex list) {
@@ -183,22 +186,23 @@ void SentAgain::readAgain(ListIndex list) {
 bool SentAgain::read(ListIndex list) {
     switch (list) {
         case ListIndex::All:
-            return parts.lists.bRebuild(list, TableKind::ByDate, choices.dateKey());
+            return parts.lists.rebuild(list, TableKind::ByDate, choices.dateKey());
         case ListIndex::Category:
-            return parts.lists.bRebuild(list, TableKind::ByCategory,
-                                        choices.categoryId().value_or(QString()));
+            return parts.lists.rebuild(list, TableKind::ByCategory, choices.categoryId().value_or(QString()));
         case ListIndex::Symbol:
-            return parts.lists.bRebuildSymbol(choices.listedSymbol());
+            return parts.lists.rebuildSymbol(choices.listedSymbol());
         case ListIndex::Relation:
             return readRelation();
         case ListIndex::Warrant:
-            return parts.lists.bRebuildWarrant(choices.dateKey());
+            return parts.lists.rebuildWarrant(choices.dateKey());
         default:
             return false;
     }
 }
 
 bool SentAgain::readRelation() {
-    return parts.lists.bRebuild(ListIndex::Relation, TableKind::ByDate, DateKey(host_clock::today()),
-                                &choices.keySets());
+    return parts.lists.rebuild(ListIndex::Relation, TableKind::ByDate, dateKey(host_clock::today()),
+                               &choices.keySets());
 }
+
+}  // namespace wirepane

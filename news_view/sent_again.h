@@ -13,6 +13,7 @@
 #include <set>
 #include <tuple>
 
+namespace wirepane {
 class RelationMatcher;
 class ViewContext;
 enum class ListIndex : int;
@@ -70,3 +71,5 @@ private:
     // Tables that this view has asked for, by the list that shows them.
     std::set<std::tuple<ListIndex, unsigned char, QString>> askedTables;  // service, key
 };
+
+}  // namespace wirepane

@@ -3,13 +3,15 @@
 #include "news_view/service_menu.h"
 
 #include "host/controls/window_id.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/news_services.h"
 #include "news_view/view_context.h"
 
 #include <QMenu>
 
 #include <utility>
+
+namespace wirepane {
 
 ServiceMenu::ServiceMenu(ViewContext& viewContext, const CommonParts& commonParts, Calls given)
     : context(viewContext), parts(commonParts), calls(std::move(given)) {}
@@ -19,7 +21,7 @@ ServiceMenu::~ServiceMenu() = default;
 void ServiceMenu::fill() {
     menu = std::make_unique<QMenu>();
     int command = ids::firstServiceCommand;
-    for (const ServiceEntry& entry : parts.services.Entries()) {
+    for (const ServiceEntry& entry : parts.services.currentServices()) {
         const int id = command++;
         if (entry.service == warrantService || id > ids::lastServiceCommand)
             continue;
@@ -33,20 +35,20 @@ void ServiceMenu::fill() {
 }
 
 void ServiceMenu::popUp() {
-    const QWidget* button = GetDlgItem(&parts.window, ids::serviceButton);
+    const QWidget* button = dlgItem(&parts.window, ids::serviceButton);
     if (button != nullptr && !standsFast())
         menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
 }
 
 void ServiceMenu::toggle(int command) {
     const auto index = static_cast<std::size_t>(command - ids::firstServiceCommand);
-    if (index >= parts.services.Entries().size() || standsFast())
+    if (index >= parts.services.currentServices().size() || standsFast())
         return;
-    const bool selected = parts.services.Entries()[index].selected;
-    const bool isLast = selected && parts.services.iSelectedCount() < 2;
+    const bool selected = parts.services.currentServices()[index].selected;
+    const bool isLast = selected && parts.services.selectedCount() < 2;
     if (!isLast) {
-        parts.services.vSelect(index, !selected);
-        parts.services.vCopyToSaved();
+        parts.services.select(index, !selected);
+        parts.services.copyToSaved();
     }
     // Choosing an item has turned its check mark already: it is set to what holds, refused or not.
     showTicks();
@@ -63,7 +65,9 @@ void ServiceMenu::showTicks() {
     const QList<QAction*> actions = menu->actions();
     for (QAction* action : actions) {
         const auto service = static_cast<std::size_t>(action->data().toInt() - ids::firstServiceCommand);
-        action->setChecked(parts.services.Saved().at(service).selected);
+        action->setChecked(parts.services.savedServices().at(service).selected);
         action->setEnabled(!standsFast());
     }
 }
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 #include <memory>
 
 class QMenu;
+
+namespace wirepane {
 class ViewContext;
 
 // The menu in which the user ticks the services whose news the lists hold. The warrant mode looks at no
@@ -39,3 +41,5 @@ private:
     const Calls calls;
     std::unique_ptr<QMenu> menu;
 };
+
+}  // namespace wirepane

@@ -7,7 +7,7 @@
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_context.h"
@@ -24,6 +24,8 @@
 #include <functional>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -83,7 +85,7 @@ void Shortcuts::create() {
 
 void Shortcuts::loadToolTips() {
     const auto hint = [this](const CommandKey& command) {
-        QWidget* control = GetDlgItem(&around.window, command.id);
+        QWidget* control = dlgItem(&around.window, command.id);
         if (control == nullptr)
             return;
         const auto* button = qobject_cast<const QAbstractButton*>(control);
@@ -95,7 +97,7 @@ void Shortcuts::loadToolTips() {
         hint(command);
     for (const CommandKey& command : otherHints)
         hint(command);
-    if (QWidget* stop = GetDlgItem(&around.window, ids::stopWaiting))
+    if (QWidget* stop = dlgItem(&around.window, ids::stopWaiting))
         stop->setToolTip(stop->accessibleName().toHtmlEscaped());
 }
 
@@ -108,30 +110,30 @@ void Shortcuts::setTabOrder() {
             last = next;
     };
     for (const int id : tabOrder)
-        follow(GetDlgItem(&around.window, id));
+        follow(dlgItem(&around.window, id));
     for (const ListKind& kind : listKinds)
-        follow(view.listOf(kind.index).pGetGrid());
-    if (const NewsStoryView* pane = around.stage.pGetPane()) {
+        follow(view.listOf(kind.index).grid());
+    if (const NewsStoryView* pane = around.stage.storyPane()) {
         for (const int id : {story_ids::title, story_ids::storyText})
-            follow(GetDlgItem(pane, id));
+            follow(dlgItem(pane, id));
     }
-    if (const CNewsRelateSymbolQuoteView* quotes = around.stage.pGetQuotes())
-        follow(quotes->pGetSheet());
+    if (const CNewsRelateSymbolQuoteView* quotes = around.stage.relatedQuotes())
+        follow(quotes->quoteSheet());
 }
 
 void Shortcuts::stepMode(int step) {
-    auto* strip = around.controls.Find<CXTPTabControl>(ids::tabStrip);
+    auto* strip = around.controls.find<CXTPTabControl>(ids::tabStrip);
     if (strip == nullptr || strip->count() == 0)
         return;
-    strip->SetCurSel((strip->GetCurSel() + step + strip->count()) % strip->count());
+    strip->SetCurSel((strip->curSel() + step + strip->count()) % strip->count());
     around.tabChosen();
 }
 
 bool Shortcuts::goToMode(ListIndex mode) {
     if (view.shownList() == mode)
         return true;
-    auto* strip = around.controls.Find<CXTPTabControl>(ids::tabStrip);
-    if (strip == nullptr || view.listOf(mode).pGetGrid() == nullptr)
+    auto* strip = around.controls.find<CXTPTabControl>(ids::tabStrip);
+    if (strip == nullptr || view.listOf(mode).grid() == nullptr)
         return false;
     strip->SetCurSel(around.controls.iGetTabIndex(static_cast<int>(mode)));
     around.tabChosen();
@@ -139,7 +141,7 @@ bool Shortcuts::goToMode(ListIndex mode) {
 }
 
 void Shortcuts::goToSearchEdit() {
-    auto* edit = around.controls.Find<SearchEdit2>(ids::searchEdit);
+    auto* edit = around.controls.find<SearchEdit2>(ids::searchEdit);
     if (edit == nullptr || !goToMode(ListIndex::Search))
         return;
     edit->setFocus(Qt::ShortcutFocusReason);
@@ -148,7 +150,7 @@ void Shortcuts::goToSearchEdit() {
 
 void Shortcuts::openSearchOfMode() {
     for (const int id : {ids::dealsSearchButton, ids::relationSearchButton, ids::warningSearchButton}) {
-        const QWidget* button = GetDlgItem(&around.window, id);
+        const QWidget* button = dlgItem(&around.window, id);
         if (button == nullptr || !button->isVisible())
             continue;
         around.carryOut(id);
@@ -157,21 +159,21 @@ void Shortcuts::openSearchOfMode() {
 }
 
 void Shortcuts::openCalendar() {
-    auto* picker = around.controls.Find<SDateTimeCtrl>(ids::datePicker);
+    auto* picker = around.controls.find<SDateTimeCtrl>(ids::datePicker);
     // The keyboard is the calendar's while it is open, and is back where it was afterwards.
     if (picker != nullptr && goToMode(ListIndex::All))
-        picker->vDropDown();
+        picker->dropDown();
 }
 
 // From the list to the story beside it, to the quotes of its symbols, and back to the list.
 void Shortcuts::changePane() {
     std::vector<QWidget*> panes;
-    if (CSuperSheetWnd* grid = view.listOf(view.shownList()).pGetGrid())
+    if (CSuperSheetWnd* grid = view.listOf(view.shownList()).grid())
         panes.push_back(grid);
-    if (const NewsStoryView* pane = around.stage.pGetPane())
-        panes.push_back(GetDlgItem(pane, story_ids::storyText));
-    if (const CNewsRelateSymbolQuoteView* quotes = around.stage.pGetQuotes())
-        panes.push_back(quotes->pGetSheet());
+    if (const NewsStoryView* pane = around.stage.storyPane())
+        panes.push_back(dlgItem(pane, story_ids::storyText));
+    if (const CNewsRelateSymbolQuoteView* quotes = around.stage.relatedQuotes())
+        panes.push_back(quotes->quoteSheet());
     std::erase_if(panes, [](const QWidget* pane) { return pane == nullptr || !pane->isVisible(); });
     if (panes.empty())
         return;
@@ -180,3 +182,5 @@ void Shortcuts::changePane() {
     const bool last = current == panes.end() || current + 1 == panes.end();
     (last ? panes.front() : *(current + 1))->setFocus(Qt::ShortcutFocusReason);
 }
+
+}  // namespace wirepane

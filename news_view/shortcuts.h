@@ -6,8 +6,14 @@
 
 #include <functional>
 
+namespace wirepane {
 class ControlSet;
+
+}  // namespace wirepane
+
 class QWidget;
+
+namespace wirepane {
 class StoryStage;
 class ViewContext;
 
@@ -43,3 +49,5 @@ private:
     ViewContext& view;
     Surroundings around;
 };
+
+}  // namespace wirepane

@@ -21,6 +21,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 // As the user reads it: longer ones would fill the list.
@@ -50,19 +52,19 @@ StandingSearches::StandingSearches(ViewContext& viewContext, const CommonParts& 
 void StandingSearches::composeKeySets() {
     setTicked({});
     HeapDialog dialog(new CNewsKeySearchDlg(desk.memory.keywordPool,
-                                            NewsTypesOf(parts.backEnd, parts.services.Entries()),
+                                            newsTypesOf(parts.backEnd, parts.services.currentServices()),
                                             desk.memory.keySets, &parts.window));
     if (parts.settings.options[ViewOption::KeySetsInAnyCase])
-        dialog->vTakeAnyCase();
+        dialog->takeAnyCase();
     const bool accepted = dialog->DoModal() == search_ids::ok;
     if (!dialog)
         return;
-    desk.memory.keywordPool = dialog->Pool();
+    desk.memory.keywordPool = dialog->offeredKeywords();
     if (accepted) {
-        desk.memory.keySets = dialog->KeySets();
-        setTicked(dialog->TickedKeySets());
+        desk.memory.keySets = dialog->composedKeySets();
+        setTicked(dialog->tickedKeySets());
     }
-    dialog.Delete();
+    dialog.destroy();
     if (ticked.empty())
         return;
     calls.readRelationList();
@@ -89,10 +91,10 @@ void StandingSearches::manageWarningTerms() {
     const bool accepted = dialog->DoModal() == search_ids::ok;
     if (!dialog)
         return;
-    desk.memory.warnings = dialog->Items();
+    desk.memory.warnings = dialog->items();
     if (accepted)
-        desk.warningTerm = dialog->Chosen();
-    dialog.Delete();
+        desk.warningTerm = dialog->chosenItem();
+    dialog.destroy();
     desk.edited = desk.warningTerm;
     loadHints();
     context.placeNotices();
@@ -104,15 +106,15 @@ void StandingSearches::manageWarningTerms() {
 
 void StandingSearches::loadHints() {
     const auto hint = [this](QLatin1StringView textKey, const QString& second = {}) {
-        return hintOf(LangText(parts.backEnd, textKey), second);
+        return hintOf(langText(parts.backEnd, textKey), second);
     };
     const auto tellEmpty = [this](ListIndex list, const QString& text) {
-        if (CSuperSheetWnd* sheet = context.listOf(list).pGetGrid())
-            sheet->vSetEmptyText(text);
+        if (CSuperSheetWnd* sheet = context.listOf(list).grid())
+            sheet->setEmptyText(text);
     };
     for (const ListIndex list : {ListIndex::All, ListIndex::Category, ListIndex::Symbol})
-        tellEmpty(list, LangText(parts.backEnd, keys::hintNoNews).replace(u"%1"_s, nativeKey(u"F5"_s)));
-    tellEmpty(ListIndex::Warrant, LangText(parts.backEnd, keys::hintNoWarrantNews));
+        tellEmpty(list, langText(parts.backEnd, keys::hintNoNews).replace(u"%1"_s, nativeKey(u"F5"_s)));
+    tellEmpty(ListIndex::Warrant, langText(parts.backEnd, keys::hintNoWarrantNews));
     tellEmpty(ListIndex::Search, hint(keys::hintSearch, nativeKey(u"F3"_s)));
     tellEmpty(ListIndex::Relation, hint(ticked.empty() ? keys::hintNoKeySet : keys::hintNoMatch));
     const bool chosen = !desk.warningTerm.keywords.empty();
@@ -122,7 +124,9 @@ void StandingSearches::loadHints() {
 
 void StandingSearches::tell(ListNotices& notices) const {
     const bool forsaken = context.shownList() == ListIndex::Relation && ticked.empty() &&
-                          !context.listOf(ListIndex::Relation).Table().empty();
+                          !context.listOf(ListIndex::Relation).headlineTable().empty();
     if (forsaken)
-        notices.vTell(NoticeKind::Hint, hintOf(LangText(parts.backEnd, keys::hintNoKeySet)));
+        notices.tell(NoticeKind::Hint, hintOf(langText(parts.backEnd, keys::hintNoKeySet)));
 }
+
+}  // namespace wirepane

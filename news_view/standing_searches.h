@@ -9,6 +9,8 @@
 #include <vector>
 
 class CNewsKey;
+
+namespace wirepane {
 class ListNotices;
 class SearchDesk;
 class ViewContext;
@@ -49,3 +51,5 @@ private:
     const Calls calls;
     RelationMatcher ticked;  // built anew whenever they change
 };
+
+}  // namespace wirepane

@@ -13,6 +13,8 @@
 
 #include <QScopedValueRollback>
 
+namespace wirepane {
+
 namespace {
 
 constexpr int showTypes = 3;
@@ -31,53 +33,53 @@ void StoryDisplay::setShowType(unsigned short number) {
 }
 
 bool StoryDisplay::paneShowsStories() const {
-    return around.stage.pGetPane() != nullptr && type != StoryShowType::None;
+    return around.stage.storyPane() != nullptr && type != StoryShowType::None;
 }
 
 bool StoryDisplay::hasStoryWindow() const {
-    return around.stage.pGetDialog() != nullptr && !paneShowsStories();
+    return around.stage.storyDialog() != nullptr && !paneShowsStories();
 }
 
 TRVNewsStory* StoryDisplay::windowOnShow() const {
-    TRVNewsStory* window = around.stage.pGetDialog();
+    TRVNewsStory* window = around.stage.storyDialog();
     return hasStoryWindow() && window->isVisible() ? window : nullptr;
 }
 
 void StoryDisplay::show() {
     const ListIndex list = view.shownList();
-    CSuperSheetWnd* grid = view.listOf(list).pGetGrid();
+    CSuperSheetWnd* grid = view.listOf(list).grid();
     const int focused = focusedRow(grid);
     if (focused < 0) {
-        around.stage.vHideDialog();
+        around.stage.hideDialog();
         clear();
         return;
     }
     grid->vAutoVerScrolling(focused);
     if (hasStoryWindow()) {
-        around.stage.pGetDialog()->vSetStoryData(static_cast<int>(list), focused, around.foundUnder(list));
-        around.stage.vShowDialog();
+        around.stage.storyDialog()->vSetStoryData(static_cast<int>(list), focused, around.foundUnder(list));
+        around.stage.showDialog();
     }
     if (!paneShowsStories() || focused == row)
         return;
     row = focused;
-    NewsStoryView* pane = around.stage.pGetPane();
+    NewsStoryView* pane = around.stage.storyPane();
     pane->vSetFont(around.font());
     pane->vSetStoryData(static_cast<int>(list), row, around.foundUnder(list));
     listRelatedSymbols();
 }
 
 void StoryDisplay::clear() {
-    around.stage.vClearStory();
+    around.stage.clearStory();
     forget();
 }
 
 void StoryDisplay::follow(const CSuperSheetWnd& grid, ListIndex list) {
-    if (!grid.bIsTakingUpRows() && !keepsPlace && paneShowsStories() && view.shownList() == list)
+    if (!grid.isTakingUpRows() && !keepsPlace && paneShowsStories() && view.shownList() == list)
         show();
 }
 
 bool StoryDisplay::takeClick() {
-    NewsStoryView* pane = around.stage.pGetPane();
+    NewsStoryView* pane = around.stage.storyPane();
     if (pane == nullptr)
         return false;
     if (paneShowsStories()) {
@@ -85,11 +87,11 @@ bool StoryDisplay::takeClick() {
         return true;
     }
     const HeadlineList& list = view.listOf(view.shownList());
-    const int focused = focusedRow(list.pGetGrid());
+    const int focused = focusedRow(list.grid());
     if (focused < 0)
         return true;
     row = focused;
-    if (!list.Table().empty()) {
+    if (!list.headlineTable().empty()) {
         pane->SetHeadLinePos(row);
         around.goTo(static_cast<int>(view.shownList()), row);
     }
@@ -102,8 +104,8 @@ void StoryDisplay::takeDoubleClick() {
 }
 
 void StoryDisplay::page(int step) {
-    NewsStoryView* pane = around.stage.pGetPane();
-    const int size = view.listOf(view.shownList()).Table().size();
+    NewsStoryView* pane = around.stage.storyPane();
+    const int size = view.listOf(view.shownList()).headlineTable().size();
     if (pane == nullptr || size <= 0)
         return;
     const int wanted = pane->GetHeadLinePos() + step;
@@ -115,77 +117,77 @@ void StoryDisplay::page(int step) {
 
 int StoryDisplay::pointAt(int newRow) {
     if (paneShowsStories()) {
-        around.stage.pGetPane()->SetHeadLinePos(newRow);
-        return around.stage.pGetPane()->GetHeadLinePos();
+        around.stage.storyPane()->SetHeadLinePos(newRow);
+        return around.stage.storyPane()->GetHeadLinePos();
     }
     if (!hasStoryWindow())
         return -1;
-    around.stage.pGetDialog()->SetHeadLinePos(newRow);
-    return around.stage.pGetDialog()->GetHeadLinePos();
+    around.stage.storyDialog()->SetHeadLinePos(newRow);
+    return around.stage.storyDialog()->GetHeadLinePos();
 }
 
 std::optional<CHeadlineTable> StoryDisplay::shownOf(ListIndex list) const {
-    if (!paneShowsStories() || around.stage.pGetPane()->iGetTable() != static_cast<int>(list))
+    if (!paneShowsStories() || around.stage.storyPane()->listNumber() != static_cast<int>(list))
         return std::nullopt;
-    return view.entryAt(list, around.stage.pGetPane()->GetHeadLinePos());
+    return view.entryAt(list, around.stage.storyPane()->GetHeadLinePos());
 }
 
 bool StoryDisplay::readInPlace(ListIndex list, const std::function<bool()>& read) {
     const auto shown = shownOf(list);
-    view.listOf(list).vHoldPlace();
+    view.listOf(list).holdPlace();
     const bool result = [&] {
         const QScopedValueRollback keeping(keepsPlace, true);
         return read();
     }();
-    const int newRow = shown ? view.listOf(list).Table().rowOf(KeyOf(*shown)) : -1;
+    const int newRow = shown ? view.listOf(list).headlineTable().rowOf(keyOf(*shown)) : -1;
     if (newRow >= 0)
-        around.stage.pGetPane()->SetHeadLinePos(newRow);
+        around.stage.storyPane()->SetHeadLinePos(newRow);
     return result;
 }
 
 void StoryDisplay::keepThrough(ListIndex list, const HeadlinePlace& place) {
     if (!paneShowsStories() || place == HeadlinePlace() ||
-        around.stage.pGetPane()->iGetTable() != static_cast<int>(list))
+        around.stage.storyPane()->listNumber() != static_cast<int>(list))
         return;
-    NewsStoryView& pane = *around.stage.pGetPane();
+    NewsStoryView& pane = *around.stage.storyPane();
     const int shown = pane.GetHeadLinePos();
     const bool came = place.row >= 0;
     if (place.oldRow == shown && came)
-        pane.vMoveHeadLinePos(place.row);
+        pane.moveHeadLinePos(place.row);
     else if (place.oldRow == shown)
-        pane.vLeaveHeadline();
+        pane.leaveHeadline();
     else if (came && place.row <= shown && (place.oldRow < 0 || place.oldRow > shown))
-        pane.vMoveHeadLinePos(shown + 1);
+        pane.moveHeadLinePos(shown + 1);
     else if (!came && place.oldRow < shown)
-        pane.vMoveHeadLinePos(shown - 1);
+        pane.moveHeadLinePos(shown - 1);
 }
 
 void StoryDisplay::takeHeadlines(const std::vector<CHeadlineTable>& entries) {
     if (paneShowsStories())
-        around.stage.pGetPane()->RespHeadLine(entries);
+        around.stage.storyPane()->RespHeadLine(entries);
     if (TRVNewsStory* window = windowOnShow())
         window->RespHeadLine(entries);
 }
 
 void StoryDisplay::takeStory(const CHeadlineTable& entry) {
     if (paneShowsStories())
-        around.stage.pGetPane()->RespStory(entry);
+        around.stage.storyPane()->RespStory(entry);
     if (TRVNewsStory* window = windowOnShow())
         window->RespStory(entry);
 }
 
 void StoryDisplay::takeUpdate(const CHeadlineTable& entry) {
-    if (view.listOf(view.shownList()).Table().rowOf(KeyOf(entry)) < 0)
+    if (view.listOf(view.shownList()).headlineTable().rowOf(keyOf(entry)) < 0)
         return;
     if (TRVNewsStory* window = windowOnShow())
         window->vStoryUpdateNotify(&entry);
-    else if (around.stage.pGetPane() != nullptr)
-        around.stage.pGetPane()->vStoryUpdateNotify(&entry);
+    else if (around.stage.storyPane() != nullptr)
+        around.stage.storyPane()->vStoryUpdateNotify(&entry);
 }
 
 void StoryDisplay::listRelatedSymbols() {
-    CNewsRelateSymbolQuoteView* quotes = around.stage.pGetQuotes();
-    const NewsStoryView* pane = around.stage.pGetPane();
+    CNewsRelateSymbolQuoteView* quotes = around.stage.relatedQuotes();
+    const NewsStoryView* pane = around.stage.storyPane();
     if (quotes == nullptr || pane == nullptr)
         return;
     const auto entry = view.entryAt(view.shownList(), pane->GetHeadLinePos());
@@ -193,15 +195,17 @@ void StoryDisplay::listRelatedSymbols() {
         return;
     CNewsSymLst related;
     backEnd.BKNEWS_GetSymbolListBySeqNo(related, *entry);
-    quotes->vSetSymbolList(related);
+    quotes->setSymbolList(related);
 }
 
 void StoryDisplay::takeRelatedSymbols(const CNewsSymlistInfo& info) {
-    CNewsRelateSymbolQuoteView* quotes = around.stage.pGetQuotes();
-    const NewsStoryView* pane = around.stage.pGetPane();
+    CNewsRelateSymbolQuoteView* quotes = around.stage.relatedQuotes();
+    const NewsStoryView* pane = around.stage.storyPane();
     if (quotes == nullptr || pane == nullptr)
         return;
-    const auto& shown = pane->PointedAt();
-    if (shown && KeyOf(*shown) == info.headline)
-        quotes->vSetSymbolList(info.list);
+    const auto& shown = pane->headlinePointedAt();
+    if (shown && keyOf(*shown) == info.headline)
+        quotes->setSymbolList(info.list);
 }
+
+}  // namespace wirepane

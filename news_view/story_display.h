@@ -14,8 +14,15 @@
 
 class BKQuoteInterface;
 class CSuperSheetWnd;
+
+namespace wirepane {
 class StoryStage;
+
+}  // namespace wirepane
+
 class TRVNewsStory;
+
+namespace wirepane {
 class ViewContext;
 enum class StoryShowType : unsigned short;
 struct HeadlinePlace;
@@ -96,3 +103,5 @@ private:
     int row = -1;
     bool keepsPlace = false;  // a list is being read anew around its reader
 };
+
+}  // namespace wirepane

@@ -9,6 +9,8 @@
 
 #include <QApplication>
 
+namespace wirepane {
+
 namespace {
 constexpr int ordinaryWindow = 1;  // the host's pop-up position setting
 }
@@ -17,42 +19,42 @@ StoryStage::~StoryStage() {
     delete dialog;
 }
 
-void StoryStage::vSetPane(NewsStoryView* storyPane) {
+void StoryStage::setPane(NewsStoryView* storyPane) {
     pane = storyPane;
 }
 
-NewsStoryView* StoryStage::pGetPane() const {
+NewsStoryView* StoryStage::storyPane() const {
     return pane;
 }
 
-void StoryStage::vSetQuotes(CNewsRelateSymbolQuoteView* quoteView) {
+void StoryStage::setQuotes(CNewsRelateSymbolQuoteView* quoteView) {
     quotes = quoteView;
 }
 
-CNewsRelateSymbolQuoteView* StoryStage::pGetQuotes() const {
+CNewsRelateSymbolQuoteView* StoryStage::relatedQuotes() const {
     return quotes;
 }
 
-void StoryStage::vClearStory() {
+void StoryStage::clearStory() {
     if (pane != nullptr)
         pane->OnClearStory();
     if (quotes != nullptr)
-        quotes->vClearSymbols();
+        quotes->clearSymbols();
 }
 
-void StoryStage::vSetDialog(TRVNewsStory* storyDialog) {
+void StoryStage::setDialog(TRVNewsStory* storyDialog) {
     dialog = storyDialog;
 }
 
-TRVNewsStory* StoryStage::pGetDialog() const {
+TRVNewsStory* StoryStage::storyDialog() const {
     return dialog;
 }
 
-bool StoryStage::bCanShow() const {
+bool StoryStage::canShow() const {
     return pane != nullptr || dialog != nullptr;
 }
 
-void StoryStage::vHideDialog() {
+void StoryStage::hideDialog() {
     if (dialog != nullptr)
         dialog->hide();
 }
@@ -65,17 +67,17 @@ void StoryStage::SetStoryWndStyle() {
     if (dialog == nullptr)
         return;
     QWidget* active = QApplication::activeWindow();
-    vSetTopMost(IsStoryDlgOnTop());
+    setTopMost(IsStoryDlgOnTop());
     if (active != nullptr && active != dialog)
         active->activateWindow();
 }
 
-void StoryStage::vLeaveTop() {
+void StoryStage::leaveTop() {
     if (dialog != nullptr)
-        vSetTopMost(false);
+        setTopMost(false);
 }
 
-void StoryStage::vShowDialog() {
+void StoryStage::showDialog() {
     if (dialog == nullptr)
         return;
     SetStoryWndStyle();
@@ -85,10 +87,10 @@ void StoryStage::vShowDialog() {
 
 void StoryStage::ChangeActiveApp(bool active) {
     if (dialog != nullptr)
-        vSetTopMost(active && IsStoryDlgOnTop());
+        setTopMost(active && IsStoryDlgOnTop());
 }
 
-void StoryStage::vSetTopMost(bool topMost) {
+void StoryStage::setTopMost(bool topMost) {
     if (dialog->windowFlags().testFlag(Qt::WindowStaysOnTopHint) == topMost)
         return;
     // Changing the flag hides the window: it is shown again where it was, without taking the keyboard.
@@ -102,3 +104,5 @@ void StoryStage::vSetTopMost(bool topMost) {
         dialog->setAttribute(Qt::WA_ShowWithoutActivating, false);
     }
 }
+
+}  // namespace wirepane

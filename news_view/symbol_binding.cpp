@@ -6,11 +6,13 @@
 #include "host/contract/search_control.h"
 #include "host/controls/quote_combo_box_auto.h"
 #include "host/controls/sc_combo_box.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 
 #include <QStringList>
 
 #include <algorithm>
+
+namespace wirepane {
 
 namespace {
 
@@ -31,27 +33,27 @@ SymbolBinding::SymbolBinding(BKQuoteInterface& newsBackEnd, const ControlSet& co
     : backEnd(newsBackEnd), controls(controlSet) {}
 
 int SymbolBinding::iInitServiceComboBox(unsigned char& selected) {
-    auto* combo = controls.Find<SCComboBox>(ids::serviceCombo);
+    auto* combo = controls.find<SCComboBox>(ids::serviceCombo);
     std::vector<unsigned char> all;
     if (combo == nullptr || !backEnd.bGetAllServiceID(all))
         return -1;
     combo->clear();
     services.clear();
-    vOfferService(stockExchangeService, stockExchangeLabel, all);
-    vOfferService(emergingBoardService, emergingBoardLabel, all);
-    vOfferService(hongKongService, hongKongLabel, all);
+    offerService(stockExchangeService, stockExchangeLabel, all);
+    offerService(emergingBoardService, emergingBoardLabel, all);
+    offerService(hongKongService, hongKongLabel, all);
     unsigned char delayed = 0;
     if (!contains(services, hongKongService) && backEnd.bGetServiceID2Delay(hongKongService, delayed))
-        vOfferService(delayed, hongKongLabel, all);
+        offerService(delayed, hongKongLabel, all);
     if (services.empty())
         return -1;
-    const int index = std::max(iServiceIndex(current.market), 0);
-    selected = ServiceAt(index);
+    const int index = std::max(serviceIndex(current.market), 0);
+    selected = serviceAt(index);
     combo->setCurrentIndex(index);
     return index;
 }
 
-bool SymbolBinding::bLacksMarket(unsigned char service) const {
+bool SymbolBinding::lacksMarket(unsigned char service) const {
     unsigned char delayed = hongKongService;
     backEnd.bGetServiceID2Delay(hongKongService, delayed);
     const bool takes = service == stockExchangeService || service == emergingBoardService ||
@@ -59,34 +61,34 @@ bool SymbolBinding::bLacksMarket(unsigned char service) const {
     return takes && !contains(services, service);
 }
 
-void SymbolBinding::vOfferMarkets() {
-    auto* combo = controls.Find<SCComboBox>(ids::serviceCombo);
+void SymbolBinding::offerMarkets() {
+    auto* combo = controls.find<SCComboBox>(ids::serviceCombo);
     const int chosen = combo != nullptr ? combo->currentIndex() : -1;
-    const unsigned char market = chosen >= 0 ? ServiceAt(chosen) : current.market;
+    const unsigned char market = chosen >= 0 ? serviceAt(chosen) : current.market;
     unsigned char selected = market;
-    if (iInitServiceComboBox(selected) >= 0 && iServiceIndex(market) >= 0)
-        vSelectService(iServiceIndex(market));
+    if (iInitServiceComboBox(selected) >= 0 && serviceIndex(market) >= 0)
+        selectService(serviceIndex(market));
 }
 
-void SymbolBinding::vOfferService(unsigned char service, const QString& label,
-                                  const std::vector<unsigned char>& all) {
+void SymbolBinding::offerService(unsigned char service, const QString& label,
+                                 const std::vector<unsigned char>& all) {
     if (!contains(all, service) || backEnd.BKQCheckAuthSupport(service) == 0)
         return;
     services.push_back(service);
-    controls.Find<SCComboBox>(ids::serviceCombo)->addItem(label);
+    controls.find<SCComboBox>(ids::serviceCombo)->addItem(label);
 }
 
-void SymbolBinding::vDropService(unsigned char service) {
-    const int index = iServiceIndex(service);
+void SymbolBinding::dropService(unsigned char service) {
+    const int index = serviceIndex(service);
     if (index < 0)
         return;
     services.erase(services.begin() + index);
-    if (auto* combo = controls.Find<SCComboBox>(ids::serviceCombo))
+    if (auto* combo = controls.find<SCComboBox>(ids::serviceCombo))
         combo->removeItem(index);
 }
 
-bool SymbolBinding::bGetSymbols(unsigned char service, std::vector<QString>& codes,
-                                std::vector<QString>& names) const {
+bool SymbolBinding::fetchSymbols(unsigned char service, std::vector<QString>& codes,
+                                 std::vector<QString>& names) const {
     const bool found = service == emergingBoardService
                            ? backEnd.bGetSymbolID(service, codes, names)
                            : SearchControl::GetSearchObjInterface()->GetSymbolsByService(
@@ -95,13 +97,13 @@ bool SymbolBinding::bGetSymbols(unsigned char service, std::vector<QString>& cod
 }
 
 int SymbolBinding::iInitSymbolComboBox(unsigned char service) {
-    auto* combo = controls.Find<CQuoteComboBoxAuto>(ids::symbolCombo);
+    auto* combo = controls.find<CQuoteComboBoxAuto>(ids::symbolCombo);
     if (combo == nullptr)
         return -1;
     std::vector<QString> codes;
     std::vector<QString> names;
-    if (!bGetSymbols(service, codes, names)) {
-        vDropService(service);
+    if (!fetchSymbols(service, codes, names)) {
+        dropService(service);
         return -1;
     }
     symbols.clear();
@@ -116,7 +118,7 @@ int SymbolBinding::iInitSymbolComboBox(unsigned char service) {
     }
     combo->clear();
     combo->addItems(items);
-    const int index = iSymbolIndex(current.code);
+    const int index = symbolIndex(current.code);
     combo->setCurrentIndex(index);
     return index;
 }
@@ -132,34 +134,36 @@ bool SymbolBinding::IsSupportNews(unsigned char service, const QString& code) co
            category == supportedHongKongCategory;
 }
 
-int SymbolBinding::iServiceIndex(unsigned char service) const {
+int SymbolBinding::serviceIndex(unsigned char service) const {
     const auto found = std::find(services.begin(), services.end(), service);
     return found == services.end() ? -1 : static_cast<int>(found - services.begin());
 }
 
-std::optional<CSymbolInfo> SymbolBinding::SelectedSymbol() const {
-    const auto* combo = controls.Find<CQuoteComboBoxAuto>(ids::symbolCombo);
+std::optional<CSymbolInfo> SymbolBinding::selectedSymbol() const {
+    const auto* combo = controls.find<CQuoteComboBoxAuto>(ids::symbolCombo);
     const int index = combo != nullptr ? combo->currentIndex() : -1;
     if (index < 0 || index >= static_cast<int>(symbols.size()))
         return std::nullopt;
     return symbols[static_cast<std::size_t>(index)];
 }
 
-void SymbolBinding::vShowCurrent() {
-    if (SelectedSymbol() == current)
+void SymbolBinding::showCurrent() {
+    if (selectedSymbol() == current)
         return;
-    const bool offered = iServiceIndex(current.market) >= 0;
-    vSelectSymbol(offered ? iInitSymbolComboBox(current.market) : -1);
+    const bool offered = serviceIndex(current.market) >= 0;
+    selectSymbol(offered ? iInitSymbolComboBox(current.market) : -1);
     if (offered)
-        vSelectService(iServiceIndex(current.market));
+        selectService(serviceIndex(current.market));
 }
 
-void SymbolBinding::vSelectService(int index) {
-    if (auto* combo = controls.Find<SCComboBox>(ids::serviceCombo))
+void SymbolBinding::selectService(int index) {
+    if (auto* combo = controls.find<SCComboBox>(ids::serviceCombo))
         combo->setCurrentIndex(index);
 }
 
-void SymbolBinding::vSelectSymbol(int index) {
-    if (auto* combo = controls.Find<CQuoteComboBoxAuto>(ids::symbolCombo))
+void SymbolBinding::selectSymbol(int index) {
+    if (auto* combo = controls.find<CQuoteComboBoxAuto>(ids::symbolCombo))
         combo->setCurrentIndex(index);
 }
+
+}  // namespace wirepane

@@ -11,6 +11,8 @@
 #include <optional>
 #include <vector>
 
+namespace wirepane {
+
 // The symbol whose news the symbol mode shows, and the two combos that choose it: the service combo, and the
 // symbol combo with the supported symbols of the chosen service. What happens when it changes is the view's
 // affair.
@@ -19,8 +21,8 @@ public:
     SymbolBinding(BKQuoteInterface& backEnd, const ControlSet& controls);
 
     // The current news symbol.
-    const CSymbolInfo& Current() const { return current; }
-    void vSetCurrent(const CSymbolInfo& symbol) { current = symbol; }
+    const CSymbolInfo& currentSymbol() const { return current; }
+    void setCurrent(const CSymbolInfo& symbol) { current = symbol; }
 
     // Fills the service combo with the markets that the user may see and selects the current symbol's, else
     // the first. The index of the selection, its service in `selected`; -1, and `selected` unchanged, when
@@ -35,30 +37,30 @@ public:
     bool IsSupportNews(unsigned char service, const QString& code) const;
 
     // Whether a market that the service combo may offer is not offered.
-    bool bLacksMarket(unsigned char service) const;
+    bool lacksMarket(unsigned char service) const;
     // Fills the service combo with the markets of this moment; its choice stays, where it is still offered.
-    void vOfferMarkets();
+    void offerMarkets();
 
     // The place of a service in the service combo; -1 when it is not offered.
-    int iServiceIndex(unsigned char service) const;
-    unsigned char ServiceAt(int index) const { return services.at(static_cast<std::size_t>(index)); }
+    int serviceIndex(unsigned char service) const;
+    unsigned char serviceAt(int index) const { return services.at(static_cast<std::size_t>(index)); }
     // The place of a code in the symbol combo, by exact text and in constant time; -1 when it is not there.
-    int iSymbolIndex(const QString& code) const { return indexOfCode.value(code, -1); }
-    bool bHasSymbols() const { return !symbols.empty(); }
+    int symbolIndex(const QString& code) const { return indexOfCode.value(code, -1); }
+    bool hasSymbols() const { return !symbols.empty(); }
     // What is selected in the symbol combo.
-    std::optional<CSymbolInfo> SelectedSymbol() const;
+    std::optional<CSymbolInfo> selectedSymbol() const;
 
     // Makes both combos name the current symbol: its market's symbols are offered, and nothing is chosen
     // where it is not among them.
-    void vShowCurrent();
+    void showCurrent();
 
-    void vSelectService(int index);
-    void vSelectSymbol(int index);
+    void selectService(int index);
+    void selectSymbol(int index);
 
 private:
-    void vOfferService(unsigned char service, const QString& label, const std::vector<unsigned char>& all);
-    void vDropService(unsigned char service);
-    bool bGetSymbols(unsigned char service, std::vector<QString>& codes, std::vector<QString>& names) const;
+    void offerService(unsigned char service, const QString& label, const std::vector<unsigned char>& all);
+    void dropService(unsigned char service);
+    bool fetchSymbols(unsigned char service, std::vector<QString>& codes, std::vector<QString>& names) const;
 
     BKQuoteInterface& backEnd;
     const ControlSet& controls;
@@ -67,3 +69,5 @@ private:
     std::vector<CSymbolInfo> symbols;     // in the order of the symbol combo
     QHash<QString, int> indexOfCode;
 };
+
+}  // namespace wirepane

@@ -7,13 +7,15 @@
 #include "host/contract/fixed_services.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/mode_loading.h"
 #include "news_view/view_context.h"
 #include "news_view/view_settings.h"
 
 #include <algorithm>
 #include <utility>
+
+namespace wirepane {
 
 namespace {
 
@@ -35,17 +37,17 @@ bool SymbolMode::isShown() const {
 }
 
 CSuperSheetWnd* SymbolMode::grid() const {
-    return parts.lists[ListIndex::Symbol].pGetGrid();
+    return parts.lists[ListIndex::Symbol].grid();
 }
 
 // --- Start and end ---
 
 void SymbolMode::start(bool isLinked, bool only) {
     fromLink = isLinked;
-    binding.vSetCurrent({startMarket(startCode()), {}});
+    binding.setCurrent({startMarket(startCode()), {}});
     if (only) {
         const QString code = calls.codeOfLinkGroup();
-        binding.vSetCurrent({startMarket(code), code});
+        binding.setCurrent({startMarket(code), code});
     }
 }
 
@@ -69,10 +71,10 @@ void SymbolMode::keep() const {
 }
 
 void SymbolMode::offer() {
-    if (parts.loading.bTakeSymbolInformation())
+    if (parts.loading.takeSymbolInformation())
         bInitialSymbolInfo();
     else if (!current().code.isEmpty())
-        binding.vShowCurrent();
+        binding.showCurrent();
 }
 
 void SymbolMode::bInitialSymbolInfo() {
@@ -80,15 +82,15 @@ void SymbolMode::bInitialSymbolInfo() {
     const int serviceIndex = binding.iInitServiceComboBox(service);
     const int symbolIndex = serviceIndex >= 0 ? binding.iInitSymbolComboBox(service) : -1;
     calls.layOut();
-    const bool symbolFailed = symbolIndex < 0 && !binding.bHasSymbols();
+    const bool symbolFailed = symbolIndex < 0 && !binding.hasSymbols();
     if (serviceIndex < 0 || (symbolFailed && current().code.isEmpty())) {
         setNotSupported();
         return;
     }
-    int index = binding.iSymbolIndex(startCode());
+    int index = binding.symbolIndex(startCode());
     if (index < 0)
-        index = binding.iSymbolIndex(fallbackCode);
-    binding.vSelectSymbol(index);
+        index = binding.symbolIndex(fallbackCode);
+    binding.selectSymbol(index);
     if (parts.settings.focusedTab == static_cast<int>(ListIndex::Symbol))
         symbolChosen();
 }
@@ -110,7 +112,7 @@ void SymbolMode::setSupported() {
 void SymbolMode::hideWithoutUse() {
     if (!calls.isSupported())
         hideMode();
-    else if (parts.lists[ListIndex::All].pGetGrid() == nullptr)
+    else if (parts.lists[ListIndex::All].grid() == nullptr)
         hideControls();
 }
 
@@ -124,7 +126,7 @@ void SymbolMode::hideMode() {
 // Without a list of all news the grid of symbol news stands where its controls would.
 void SymbolMode::hideControls() {
     for (const int id : {ids::serviceButton, ids::serviceCombo, ids::symbolCombo}) {
-        if (QWidget* control = GetDlgItem(&parts.window, id))
+        if (QWidget* control = dlgItem(&parts.window, id))
             control->hide();
     }
 }
@@ -137,8 +139,8 @@ CSymbolInfo SymbolMode::listed() const {
 
 bool SymbolMode::readFirst() {
     const QString code = current().code;
-    if (const int row = binding.iSymbolIndex(code); row >= 0)
-        binding.vSelectSymbol(row);
+    if (const int row = binding.symbolIndex(code); row >= 0)
+        binding.selectSymbol(row);
     // A choice that is the symbol shown already is none to the combo, but the list is read all the same.
     const auto selected = chosen();
     if (fromLink && selected && selected->code != code)
@@ -150,7 +152,7 @@ bool SymbolMode::readFirst() {
 
 void SymbolMode::read() {
     context.clearStory();
-    parts.lists.bRebuildSymbol(current());
+    parts.lists.rebuildSymbol(current());
     // The reader of another list reads on.
     if (!isShown() && context.paneShowsStories())
         context.showStory();
@@ -158,7 +160,7 @@ void SymbolMode::read() {
 
 void SymbolMode::readFiltered(const RelationMatcher* filter) {
     if (chosen())
-        parts.lists.bRebuildSymbol(current(), filter);
+        parts.lists.rebuildSymbol(current(), filter);
 }
 
 // --- The user's choice ---
@@ -168,26 +170,26 @@ void SymbolMode::symbolChosen() {
     if (grid() == nullptr || !selected)
         return;
     if (selected->code == current().code) {
-        binding.vSelectSymbol(binding.iSymbolIndex(selected->code));
+        binding.selectSymbol(binding.symbolIndex(selected->code));
         return;
     }
-    binding.vSetCurrent(*selected);
+    binding.setCurrent(*selected);
     read();
     calls.tellLinkGroup(*selected);
 }
 
 void SymbolMode::serviceChosen() {
-    const auto* combo = parts.controls.Find<SCComboBox>(ids::serviceCombo);
+    const auto* combo = parts.controls.find<SCComboBox>(ids::serviceCombo);
     const int index = combo != nullptr ? combo->currentIndex() : -1;
     if (grid() == nullptr || index < 0)
         return;
-    const unsigned char service = binding.ServiceAt(index);
+    const unsigned char service = binding.serviceAt(index);
     if (service == current().market) {
-        binding.vSelectService(index);
+        binding.selectService(index);
         return;
     }
-    binding.vSetCurrent({service, current().code});
-    binding.vSelectSymbol(binding.iInitSymbolComboBox(service));
+    binding.setCurrent({service, current().code});
+    binding.selectSymbol(binding.iInitSymbolComboBox(service));
     symbolChosen();
     calls.layOut();
 }
@@ -195,42 +197,42 @@ void SymbolMode::serviceChosen() {
 // --- Changes from elsewhere ---
 
 bool SymbolMode::take(const CSymbolInfo& symbol) {
-    binding.vSetCurrent(symbol);
+    binding.setCurrent(symbol);
     return binding.IsSupportNews(symbol.market, symbol.code) && vDoNormalChangeSymbol(symbol);
 }
 
 bool SymbolMode::vDoNormalChangeSymbol(const CSymbolInfo& symbol) {
     vOnChangeServiceCombobox(symbol.market);
     const bool isRead = vOnChangeSymbolCombobox();
-    const int index = binding.iSymbolIndex(symbol.code);
+    const int index = binding.symbolIndex(symbol.code);
     if (isShown() && index >= 0) {
-        binding.vSelectSymbol(index);
+        binding.selectSymbol(index);
         symbolChosen();
     }
     return isRead;
 }
 
 void SymbolMode::vOnChangeServiceCombobox(unsigned char service) {
-    const int index = binding.iServiceIndex(service);
+    const int index = binding.serviceIndex(service);
     if (!isShown() || index < 0)
         return;
     const int symbolIndex = binding.iInitSymbolComboBox(service);
     if (symbolIndex < 0)
         return;
-    binding.vSelectService(index);
-    binding.vSelectSymbol(symbolIndex);
+    binding.selectService(index);
+    binding.selectSymbol(symbolIndex);
 }
 
 bool SymbolMode::vOnChangeSymbolCombobox() {
     const QString code = current().code;
-    const int index = binding.iSymbolIndex(code);
+    const int index = binding.symbolIndex(code);
     if (!isShown() || code.isEmpty() || index < 0)
         return false;
     for (const int id : {ids::serviceCombo, ids::symbolCombo, ids::serviceButton}) {
-        if (QWidget* control = GetDlgItem(&parts.window, id))
+        if (QWidget* control = dlgItem(&parts.window, id))
             control->show();
     }
-    binding.vSelectSymbol(index);
+    binding.selectSymbol(index);
     read();
     return true;
 }
@@ -250,24 +252,24 @@ void SymbolMode::follow(const CSymbolInfo& symbol, bool isRead) {
 
 void SymbolMode::takeUpdates(const std::vector<CSymbolUpdateInfo>& updates) {
     const auto isNewMarket = [this](const CSymbolUpdateInfo& update) {
-        return binding.bLacksMarket(update.service) && binding.IsSupportNews(update.service, update.code);
+        return binding.lacksMarket(update.service) && binding.IsSupportNews(update.service, update.code);
     };
-    if (parts.loading.bHasSymbolInformation() && std::any_of(updates.begin(), updates.end(), isNewMarket))
+    if (parts.loading.hasSymbolInformation() && std::any_of(updates.begin(), updates.end(), isNewMarket))
         offerMarket();
     const bool concernsMode =
         std::any_of(updates.begin(), updates.end(), [this](const CSymbolUpdateInfo& update) {
             return binding.IsSupportNews(update.service, update.code);
         });
     const unsigned char service = current().market;
-    if (concernsMode && binding.iServiceIndex(service) >= 0 && binding.iInitSymbolComboBox(service) >= 0 &&
+    if (concernsMode && binding.serviceIndex(service) >= 0 && binding.iInitSymbolComboBox(service) >= 0 &&
         parts.newsType == symbolNewsType)
         symbolChosen();
 }
 
 // The first symbols of a market have come.
 void SymbolMode::offerMarket() {
-    if (binding.bHasSymbols()) {
-        binding.vOfferMarkets();
+    if (binding.hasSymbols()) {
+        binding.offerMarkets();
         calls.layOut();
         return;
     }
@@ -281,12 +283,14 @@ void SymbolMode::offerMarket() {
 
 void SymbolMode::refillSymbols() {
     const unsigned char service = current().market;
-    if (binding.iServiceIndex(service) >= 0)
+    if (binding.serviceIndex(service) >= 0)
         binding.iInitSymbolComboBox(service);
 }
 
 std::optional<CSymbolInfo> SymbolMode::forOthers() const {
-    if (!isShown() || !binding.bHasSymbols())
+    if (!isShown() || !binding.hasSymbols())
         return std::nullopt;
     return chosen().value_or(CSymbolInfo{stockExchangeService, noSelectionCode});
 }
+
+}  // namespace wirepane

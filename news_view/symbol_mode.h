@@ -13,6 +13,8 @@
 #include <vector>
 
 class CSuperSheetWnd;
+
+namespace wirepane {
 class RelationMatcher;
 class ViewContext;
 
@@ -42,8 +44,8 @@ public:
     void keep() const;
 
     // The current news symbol; what is chosen in the combo; whose news the list is to hold.
-    const CSymbolInfo& current() const { return binding.Current(); }
-    std::optional<CSymbolInfo> chosen() const { return binding.SelectedSymbol(); }
+    const CSymbolInfo& current() const { return binding.currentSymbol(); }
+    std::optional<CSymbolInfo> chosen() const { return binding.selectedSymbol(); }
     CSymbolInfo listed() const;
     // The symbol that other views may take from this one; nothing while the mode is not shown.
     std::optional<CSymbolInfo> forOthers() const;
@@ -90,3 +92,5 @@ private:
     SymbolBinding binding;
     bool fromLink = false;
 };
+
+}  // namespace wirepane

@@ -11,27 +11,31 @@
 #include "news_view/list_notices.h"
 #include "search/search_desk.h"
 
+namespace wirepane {
+
 void tellOfBackEnd(ListNotices& notices, BKQuoteInterface& backEnd, const FeedBreaks& breaks) {
-    if (const auto since = breaks.Since())
-        notices.vTell(NoticeKind::Offline,
-                      LangText(backEnd, keys::offlineSince) + QLatin1Char(' ') + TimeText(*since, false));
-    if (const auto* moment = dynamic_cast<const ReadingMoment*>(&backEnd); moment && moment->IsReadAsOf())
-        notices.vTell(NoticeKind::AsOf, LangText(backEnd, keys::noticeAsOf));
+    if (const auto since = breaks.brokenSince())
+        notices.tell(NoticeKind::Offline,
+                     langText(backEnd, keys::offlineSince) + QLatin1Char(' ') + timeText(*since, false));
+    if (const auto* moment = dynamic_cast<const ReadingMoment*>(&backEnd); moment && moment->isReadAsOf())
+        notices.tell(NoticeKind::AsOf, langText(backEnd, keys::noticeAsOf));
 }
 
 void tellOfList(ListNotices& notices, BKQuoteInterface& backEnd, ListIndex list, const HeadlineLists& lists,
                 const SearchDesk& searches, const FeedBreaks& breaks) {
-    if (const auto symbol = searches.Narrowing(list))
-        notices.vTell(NoticeKind::Narrowed, LangText(backEnd, keys::noticeNarrowed)
-                                                .arg(symbol->code + QLatin1Char(' ') +
-                                                     SymbolName(backEnd, *symbol).value_or(QString()))
-                                                .simplified());
-    if (lists.bHasOthersFilter(list))
-        notices.vTell(
+    if (const auto symbol = searches.narrowing(list))
+        notices.tell(NoticeKind::Narrowed, langText(backEnd, keys::noticeNarrowed)
+                                               .arg(symbol->code + QLatin1Char(' ') +
+                                                    symbolName(backEnd, *symbol).value_or(QString()))
+                                               .simplified());
+    if (lists.hasOthersFilter(list))
+        notices.tell(
             NoticeKind::Filtered,
-            LangText(backEnd, list == ListIndex::Relation ? keys::noticeUnfiltered : keys::noticeFiltered));
-    const auto sent = searches.SentAt(list);
-    if (sent && sent->endedBreaks < breaks.Ended())
-        notices.vTell(NoticeKind::BeforeBreak,
-                      LangText(backEnd, keys::noticeBeforeBreak).arg(TimeText(sent->time, true)));
+            langText(backEnd, list == ListIndex::Relation ? keys::noticeUnfiltered : keys::noticeFiltered));
+    const auto sent = searches.sentAt(list);
+    if (sent && sent->endedBreaks < breaks.ended())
+        notices.tell(NoticeKind::BeforeBreak,
+                     langText(backEnd, keys::noticeBeforeBreak).arg(timeText(sent->time, true)));
 }
+
+}  // namespace wirepane

@@ -5,6 +5,8 @@
 #include "headline_list/list_index.h"
 
 class BKQuoteInterface;
+
+namespace wirepane {
 class FeedBreaks;
 class HeadlineLists;
 class ListNotices;
@@ -18,3 +20,5 @@ void tellOfBackEnd(ListNotices& notices, BKQuoteInterface& backEnd, const FeedBr
 // and another list's filter.
 void tellOfList(ListNotices& notices, BKQuoteInterface& backEnd, ListIndex list, const HeadlineLists& lists,
                 const SearchDesk& searches, const FeedBreaks& breaks);
+
+}  // namespace wirepane

@@ -9,11 +9,13 @@
 #include "host/controls/registered_message.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/mode_table.h"
 #include "news_view/view_parts.h"
 
 #include <algorithm>
+
+using namespace wirepane;
 
 TRVNewsCtrlView::TRVNewsCtrlView(QWidget* parent)
     : TRVQuoteBaseView(parent), parts(std::make_unique<Parts>(*this)) {}
@@ -23,15 +25,15 @@ TRVNewsCtrlView::~TRVNewsCtrlView() {
 }
 
 void TRVNewsCtrlView::GetCaption(QString& caption) {
-    caption = LangText(parts->backEnd, keys::caption);
+    caption = langText(parts->backEnd, keys::caption);
 }
 
 void TRVNewsCtrlView::ChangeActiveApp(int active) {
-    if (!StoryStage::IsStoryDlgOnTop() || bPopupFollowsApplication())
+    if (!StoryStage::IsStoryDlgOnTop() || doesPopupFollowApplication())
         parts->stage.ChangeActiveApp(active != 0);
 }
 
-bool TRVNewsCtrlView::OnCommand(int id) {
+bool TRVNewsCtrlView::onCommand(int id) {
     struct Command {
         int id;
         void (TRVNewsCtrlView::*carryOut)();
@@ -67,14 +69,14 @@ bool TRVNewsCtrlView::OnCommand(int id) {
     else if (id >= ids::firstServiceCommand && id <= ids::lastServiceCommand)
         OnSelectCheckService(static_cast<unsigned int>(id));
     else if (!parts->takeNoticeCommand(id))
-        return TRVQuoteBaseView::OnCommand(id);
+        return TRVQuoteBaseView::onCommand(id);
     return true;
 }
 
 // --- Deferred refresh ---
 
 void TRVNewsCtrlView::vUpdateView() {
-    SetTimer(ids::refreshTimer, ids::refreshDelayMs);
+    setTimer(ids::refreshTimer, ids::refreshDelayMs);
 }
 
 void TRVNewsCtrlView::vRealUpdateView() {
@@ -89,15 +91,15 @@ void TRVNewsCtrlView::OnTimer(int id) {
         parts->categories.learn(false);
         vRealUpdateView();
         parts->categories.showColumn();
-        KillTimer(ids::refreshTimer);
+        endTimer(ids::refreshTimer);
     }
     TRVQuoteBaseView::OnTimer(id);
 }
 
-bool TRVNewsCtrlView::OnRegisteredMessage(const RegisteredMessageEvent& message) {
-    static const QEvent::Type changeSize = RegisterMessage(QStringLiteral("RVMSG_CHANGESIZE"));
+bool TRVNewsCtrlView::onRegisteredMessage(const RegisteredMessageEvent& message) {
+    static const QEvent::Type changeSize = registerMessage(QStringLiteral("RVMSG_CHANGESIZE"));
     if (message.type() != changeSize)
-        return TRVQuoteBaseView::OnRegisteredMessage(message);
+        return TRVQuoteBaseView::onRegisteredMessage(message);
     OnChangeSize(message.firstParameter);
     return true;
 }
@@ -110,12 +112,12 @@ void TRVNewsCtrlView::OnChangeSize(quintptr sender) {
 // --- Modes and layout ---
 
 void TRVNewsCtrlView::SwitchFunction(int mode) {
-    if (const auto index = ListOfNumber(mode))
+    if (const auto index = listOfNumber(mode))
         parts->modes.switchTo(*index);
 }
 
 void TRVNewsCtrlView::ShowHideCtrObject(int mode) {
-    if (const auto index = ListOfNumber(mode))
+    if (const auto index = listOfNumber(mode))
         parts->modes.showParts(*index);
 }
 
@@ -124,7 +126,7 @@ void TRVNewsCtrlView::vSetComponentPos() {
 }
 
 int TRVNewsCtrlView::iGetFunctionID(int stored) const {
-    if (!ListOfNumber(stored) ||
+    if (!listOfNumber(stored) ||
         (stored == static_cast<int>(ListIndex::Symbol) && bIsAuthService(stockExchangeService) != 1))
         return 0;
     return stored;
@@ -132,8 +134,8 @@ int TRVNewsCtrlView::iGetFunctionID(int stored) const {
 
 int TRVNewsCtrlView::iGetFunctionID(const QString& name) const {
     for (const ListKind& kind : listKinds) {
-        const QLatin1StringView key = ModeOf(kind.index).captionKey;
-        if (name.compare(LangText(parts->backEnd, key), Qt::CaseInsensitive) == 0 || name == key)
+        const QLatin1StringView key = modeOf(kind.index).captionKey;
+        if (name.compare(langText(parts->backEnd, key), Qt::CaseInsensitive) == 0 || name == key)
             return iGetFunctionID(static_cast<int>(kind.index));
     }
     return 0;
@@ -144,10 +146,10 @@ int TRVNewsCtrlView::iGetTabIndex(int mode) const {
 }
 
 void TRVNewsCtrlView::CheckInitialView(int& mode) const {
-    if (Sheet(mode) != nullptr)
+    if (sheetOf(mode) != nullptr)
         return;
     for (int candidate = 0; candidate < listCount; ++candidate) {
-        if (Sheet(candidate) != nullptr) {
+        if (sheetOf(candidate) != nullptr) {
             mode = candidate;
             return;
         }
@@ -155,13 +157,13 @@ void TRVNewsCtrlView::CheckInitialView(int& mode) const {
 }
 
 void TRVNewsCtrlView::OnSelchangeTabMode() {
-    if (const auto* strip = parts->controls.Find<CXTPTabControl>(ids::tabStrip))
-        SwitchFunction(strip->iGetItemData(strip->GetCurSel()));
+    if (const auto* strip = parts->controls.find<CXTPTabControl>(ids::tabStrip))
+        SwitchFunction(strip->itemData(strip->curSel()));
 }
 
 void TRVNewsCtrlView::OnBtnChangeShowType() {
-    if (parts->newsType == 0 && GetDlgItem(this, ids::showTypeButton) != nullptr) {
-        parts->stage.vHideDialog();
+    if (parts->newsType == 0 && dlgItem(this, ids::showTypeButton) != nullptr) {
+        parts->stage.hideDialog();
         SetStoryShowType(static_cast<unsigned short>(GetStoryShowType() + 1));
         parts->story.forget();
         if (parts->story.paneShowsStories())
@@ -203,7 +205,7 @@ int TRVNewsCtrlView::GetSheetWidth() const {
 // --- Lists ---
 
 bool TRVNewsCtrlView::InitialHeadlineTable(int number) {
-    const auto list = ListOfNumber(number);
+    const auto list = listOfNumber(number);
     return list && parts->modes.read(*list);
 }
 

@@ -12,7 +12,11 @@
 #include <vector>
 
 class QDate;
+
+namespace wirepane {
 enum class ListIndex : int;
+
+}  // namespace wirepane
 
 // The news view that a terminal places in its frames: a face. What it shows and does is the work of its
 // parts, each of which says in its own header what it does; the view hands calls on to them.
@@ -20,9 +24,9 @@ enum class ListIndex : int;
 // The host creates it by its class name, then calls OnInitialUpdate and InitialViewInfo. A back end is
 // installed before and outlives the view. What is marked "For hosts" only hosts call, the module does not.
 class TRVNewsCtrlView : public TRVQuoteBaseView,
-                        public GoneHeadlineReceiver,
-                        public NewsViewAccess,
-                        public HeadlineExplainer {
+                        public wirepane::GoneHeadlineReceiver,
+                        public wirepane::NewsViewAccess,
+                        public wirepane::HeadlineExplainer {
     Q_OBJECT
 
 public:
@@ -38,7 +42,7 @@ public:
     void GetCaption(QString& caption) override;
     void ChangeActiveApp(int active) override;
     void vChangeCast() override;
-    bool OnCommand(int id) override;
+    bool onCommand(int id) override;
 
     // --- Modes and layout ---
 
@@ -91,14 +95,14 @@ public:
     void ChangeSymbol(const QWidget* sender, unsigned char group, unsigned char service, const QString& code,
                       const QString& name) override;
     int GetCurrSymbolInfo(unsigned char& service, QString& code) override;
-    void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) override;
+    void vDoSymbolUpdate(const std::vector<wirepane::CSymbolUpdateInfo>& updates) override;
     void InitialNewsRelateQuoteView();
     void ChangeNewsSymbolList();
     void vReRegisterSymbols() override;
     void vUnregisterViewSymbol() override;
-    void vRecvNewMemory(const CQuoteMemory* quote) override;
-    void vRecvMemoryRecovery(const CQuoteMemory* quote) override;
-    void vRecvMultiSymbolMemoryRecovery(const std::vector<CQuoteMemory>& quotes) override;
+    void vRecvNewMemory(const wirepane::CQuoteMemory* quote) override;
+    void vRecvMemoryRecovery(const wirepane::CQuoteMemory* quote) override;
+    void vRecvMultiSymbolMemoryRecovery(const std::vector<wirepane::CQuoteMemory>& quotes) override;
     void vRecvNewsRelateSymbolListRecovery(const CNewsSymlistInfo* info) override;
 
     // --- Days, and what is sent again ---
@@ -107,7 +111,7 @@ public:
     void OnDateTimeChange(const QDate& date);
     void OnDateTimeCloseUp();
     bool bChangeDate(const QDate& date);
-    void vRecvNewMarketStatus(const CMarketStatus* status) override;
+    void vRecvNewMarketStatus(const wirepane::CMarketStatus* status) override;
     bool bChangeDateByNewHeadLine();
     // For the headlines of the selected rows, the current list's table, the focused row's story.
     void OnReCoverHeadline();
@@ -126,7 +130,7 @@ public:
     void OnWarningSearchDlg();
     void OnDealsSearch();
     void RespSearchHeadLineTable(const CSearch& condition, unsigned char serviceId) override;
-    void ProcessNewSearchHeadline(CSearch& condition, ListIndex list, const CHeadline& headline,
+    void ProcessNewSearchHeadline(CSearch& condition, wirepane::ListIndex list, const CHeadline& headline,
                                   const QString& key);
     void vDoSearchChangeSymbol(const CSearch& condition, unsigned char market, const QString& symbolCode);
     void vShowTip(const QRect& rectangle, const QString& text);
@@ -138,13 +142,12 @@ public:
     void OnBtnPageDown();
     void OnBtnPageUp();
     void RecvNewHeadLine(const CHeadline* headline, const QString& category, const QString& symbol) override;
-    void vHeadlineGone(const HeadlineKey& key) override;
-    void vHeadlineReplaced(const CHeadline* headline, const QString& category,
-                           const QString& symbol) override;
+    void headlineGone(const wirepane::HeadlineKey& key) override;
+    void headlineReplaced(const CHeadline* headline, const QString& category, const QString& symbol) override;
     void RespHeadLine(const std::vector<CHeadlineTable>& entries) override;
     void RespStory(const CHeadlineTable& entry) override;
     void StoryUpdateNotify(const CHeadlineTable* entry) override;
-    void vConnectionChanged(bool connected) override;
+    void connectionChanged(bool connected) override;
 
     // --- Printing and saving ---
 
@@ -153,9 +156,9 @@ public:
     void OnBtnPrint();
     void OnBtnSaveas();
     static void Linefeed(QString& story);
-    NewsOutcome PrintSelection(const std::optional<OutputTarget>& target) override;
-    NewsOutcome SaveSelection(const std::optional<OutputTarget>& target) override;
-    void PreviewSelection() override;
+    wirepane::NewsOutcome printSelection(const std::optional<wirepane::OutputTarget>& target) override;
+    wirepane::NewsOutcome saveSelection(const std::optional<wirepane::OutputTarget>& target) override;
+    void previewSelection() override;
 
     // --- Keys, mouse, context menu; each is true when nobody else is to get it ---
 
@@ -178,20 +181,20 @@ public:
     void ChangeCurrViewCategoryState(bool show);
     void OnSelchangeComboIndex();
     void OnChangeCategoryState();
-    void vReloadCategories() override;
+    void reloadCategories() override;
 
     // --- For the host's scripts ---
 
-    QVariantMap State() const override;
-    QVariantMap StoryState(bool inDialog) const override;
-    CSuperSheetWnd* Sheet(int list) const override;
-    std::vector<HeadlineKey> Keys(int list, int from, int count) const override;
-    void ShowEachList() override;
-    std::vector<HeadlineStanding> Explain(const HeadlineKey& key) const override;
+    QVariantMap state() const override;
+    QVariantMap storyState(bool inDialog) const override;
+    CSuperSheetWnd* sheetOf(int list) const override;
+    std::vector<wirepane::HeadlineKey> keysOf(int list, int from, int count) const override;
+    void showEachList() override;
+    std::vector<wirepane::HeadlineStanding> explain(const wirepane::HeadlineKey& key) const override;
 
 protected:
     void OnTimer(int id) override;
-    bool OnRegisteredMessage(const RegisteredMessageEvent& message) override;
+    bool onRegisteredMessage(const wirepane::RegisteredMessageEvent& message) override;
     void OnDraw(QPainter& painter) override;
     bool OnEraseBkgnd(QPainter& painter) override;
     void vNotSupportSymbol(QPainter& painter) override;
@@ -206,9 +209,9 @@ protected:
 
 private:
     void GetConfigFromIni();
-    void vTakeNewsType();
+    void takeNewsType();
     void vViewCreate();
-    void vOpenFocusedTab();
+    void openFocusedTab();
     void OnChangeSize(quintptr sender);
     void DrawTitile(QPainter& painter);
 

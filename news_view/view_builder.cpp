@@ -6,8 +6,8 @@
 #include "headline_list/headline_lists.h"
 #include "host/contract/fixed_services.h"
 #include "host/controls/window_id.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/application_switches.h"
-#include "news_view/control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/mode_table.h"
 #include "news_view/news_services.h"
@@ -15,6 +15,8 @@
 #include "news_view/view_settings.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
+
+namespace wirepane {
 
 namespace {
 
@@ -37,16 +39,16 @@ TRVQuoteBaseView* ViewBuilder::CreateView(const QMetaObject& kind, const QString
         return nullptr;
     }
     child->setObjectName(name);
-    SetWindowId(child, ids::firstChildView + id);
+    setWindowId(child, ids::firstChildView + id);
     child->setGeometry(place);
     child->show();
-    child->vSetFrameId(view.iGetFrameId());
+    child->setFrameId(view.idOfFrame());
     child->OnInitialUpdate();
     return child;
 }
 
 void ViewBuilder::createStoryPane(EntrySource& entries, TRVCfgIO2* settings, const ViewSettingPath& path) {
-    const int top = gridTop + view.iGetTitleHeight();
+    const int top = gridTop + view.titleHeight();
     const QRect place(view.width() / 2, top, view.width() - view.width() / 2, view.height() - top);
     auto* pane = qobject_cast<NewsStoryView*>(
         CreateView(NewsStoryView::staticMetaObject, QStringLiteral("NewsStoryView"), ids::storyPane, place));
@@ -54,39 +56,39 @@ void ViewBuilder::createStoryPane(EntrySource& entries, TRVCfgIO2* settings, con
         return;
     pane->vSetNewsParent(&entries);
     pane->InitialViewInfo(settings, path.section, path.first, path.second, {});
-    stage.vSetPane(pane);
+    stage.setPane(pane);
 }
 
 CNewsRelateSymbolQuoteView* ViewBuilder::createQuotes(const ViewSettingPath& path) {
-    if (stage.pGetPane() == nullptr || stage.pGetQuotes() != nullptr)
+    if (stage.storyPane() == nullptr || stage.relatedQuotes() != nullptr)
         return nullptr;
     const QString name = QStringLiteral("CNewsRelateSymbolQuoteView");
     auto* quotes = qobject_cast<CNewsRelateSymbolQuoteView*>(
         CreateView(CNewsRelateSymbolQuoteView::staticMetaObject, name, ids::relatedQuotes, QRect()));
     if (quotes == nullptr)
         return nullptr;
-    quotes->vSetRegistrant(&view);
+    quotes->setRegistrant(&view);
     if (!quotes->CreateView(&view, name, path.first, path.second)) {
         delete quotes;
         return nullptr;
     }
-    quotes->vSetSorting(parts.settings.quoteSorting);
-    stage.vSetQuotes(quotes);
+    quotes->setSorting(parts.settings.quoteSorting);
+    stage.setQuotes(quotes);
     return quotes;
 }
 
 void ViewBuilder::createControls() {
     QRect client = view.rect();
-    client.setTop(client.top() + view.iGetTitleHeight());
-    const bool single = parts.services.Entries().size() == 1;
-    const int base = client.left() + (parts.services.Entries().size() > 1 ? serviceButtonRoom : 0);
+    client.setTop(client.top() + view.titleHeight());
+    const bool single = parts.services.currentServices().size() == 1;
+    const int base = client.left() + (parts.services.currentServices().size() > 1 ? serviceButtonRoom : 0);
     const int left = client.left() + 4;
-    parts.controls.vCreateServiceButton(QRect(left, client.top() + 27, single ? 0 : base - left, 20));
-    if (!IsSingleFunction(parts.settings.functions))
-        parts.controls.vCreateTabStrip(QRect(client.left(), client.top(), client.width(), tabStripHeight));
+    parts.controls.createServiceButton(QRect(left, client.top() + 27, single ? 0 : base - left, 20));
+    if (!isSingleFunction(parts.settings.functions))
+        parts.controls.createTabStrip(QRect(client.left(), client.top(), client.width(), tabStripHeight));
     const QRect gridPlace(client.left(), client.top() + gridTop, client.width(), client.height() - gridTop);
     const QRect row(base + 4, client.top() + 25, 120, 25);
-    for (const ListIndex mode : ModesInOrderOfCreation())
+    for (const ListIndex mode : modesInOrderOfCreation())
         createMode(mode, gridPlace, row);
 }
 
@@ -100,18 +102,18 @@ bool ViewBuilder::isOffered(ListIndex mode) const {
         case ListIndex::WarningTerm:
             return parts.switches.showWarningSearch;
         case ListIndex::Warrant:
-            return parts.services.iGetWarrantIndex() >= 0;
+            return parts.services.indexOfWarrants() >= 0;
         default:
             return true;
     }
 }
 
 void ViewBuilder::createMode(ListIndex mode, const QRect& gridPlace, const QRect& row) {
-    if ((parts.settings.functions & ModeOf(mode).maskBit) == 0)
+    if ((parts.settings.functions & modeOf(mode).maskBit) == 0)
         return;
     if (isOffered(mode)) {
         vInitialSheetWnd(mode, gridPlace);
-        parts.controls.vAddTab(mode);
+        parts.controls.addTab(mode);
     } else if (mode == ListIndex::Symbol || mode == ListIndex::Warrant) {
         return;
     }
@@ -120,12 +122,12 @@ void ViewBuilder::createMode(ListIndex mode, const QRect& gridPlace, const QRect
 
 void ViewBuilder::createControlsOf(ListIndex mode, const QRect& row) {
     // The list of warrants alone is of a day, too, though nobody picks it.
-    const bool onlyWarrants = mode == ListIndex::Warrant && IsSingleFunction(parts.settings.functions);
+    const bool onlyWarrants = mode == ListIndex::Warrant && isSingleFunction(parts.settings.functions);
     if (mode == ListIndex::All || onlyWarrants) {
-        parts.controls.vCreateDatePicker(row, calls.pickedDate());
+        parts.controls.createDatePicker(row, calls.pickedDate());
         calls.connectDatePicker();
     } else if (mode == ListIndex::Category) {
-        parts.controls.vCreateCategoryCombo(QRect(row.x(), row.y(), 120, 200));
+        parts.controls.createCategoryCombo(QRect(row.x(), row.y(), 120, 200));
         calls.connectCategoryCombo();
     } else {
         parts.controls.CreateControls(mode, row, view.GetViewFont());
@@ -135,10 +137,12 @@ void ViewBuilder::createControlsOf(ListIndex mode, const QRect& row) {
 }
 
 void ViewBuilder::vInitialSheetWnd(ListIndex list, const QRect& place) {
-    CSuperSheetWnd* grid = CreateHeadlineSheet(&view, place, parts.newsType, parts.backEnd);
+    CSuperSheetWnd* grid = createHeadlineSheet(&view, place, parts.newsType, parts.backEnd);
     if (grid == nullptr)
         return;
-    grid->vStretchLastColumn(parts.settings.options[ViewOption::StretchTitles]);
-    parts.lists[list].vSetGrid(grid);
+    grid->stretchLast(parts.settings.options[ViewOption::StretchTitles]);
+    parts.lists[list].setGrid(grid);
     calls.connectGrid(*grid, list);
 }
+
+}  // namespace wirepane

@@ -12,11 +12,23 @@
 
 class CNewsRelateSymbolQuoteView;
 class CSuperSheetWnd;
+
+namespace wirepane {
 class EntrySource;
+
+}  // namespace wirepane
+
 class QMetaObject;
+
+namespace wirepane {
 class StoryStage;
+
+}  // namespace wirepane
+
 class TRVCfgIO2;
 class TRVQuoteBaseView;
+
+namespace wirepane {
 struct ViewSettingPath;
 
 // Creates what a view shows, once each: the story pane and the quotes beside it, and by the enabled functions
@@ -55,3 +67,5 @@ private:
     StoryStage& stage;
     const Calls calls;
 };
+
+}  // namespace wirepane

@@ -9,8 +9,14 @@
 #include <functional>
 #include <optional>
 
+namespace wirepane {
 class HeadlineList;
+
+}  // namespace wirepane
+
 struct CHeadlineTable;
+
+namespace wirepane {
 
 // What an owner of a part of the news view's work sees of the view. What only two owners share goes from one
 // to the other by a call that is given at construction. Interface thread only.
@@ -46,3 +52,5 @@ public:
     // What the notices tell may have changed: they are asked for and placed anew.
     virtual void placeNotices() = 0;
 };
+
+}  // namespace wirepane

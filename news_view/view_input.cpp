@@ -10,6 +10,8 @@
 #include <QMouseEvent>
 #include <QWheelEvent>
 
+using namespace wirepane;
+
 bool TRVNewsCtrlView::PreTranslateMessage(const QKeyEvent& event) {
     return parts->input.takeBefore(event);
 }

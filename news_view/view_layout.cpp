@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 constexpr int margin = 4;
@@ -104,7 +106,7 @@ void layOutPaneBelow(const LayoutInput& in, const Frame& frame, ViewLayout& out)
 
 }  // namespace
 
-ViewLayout LayOut(const LayoutInput& in) {
+ViewLayout layOut(const LayoutInput& in) {
     ViewLayout out;
     const Frame frame{in.client.x(), in.client.y() + in.titleHeight, in.client.x() + in.client.width(),
                       in.client.y() + in.client.height()};
@@ -134,3 +136,5 @@ ViewLayout LayOut(const LayoutInput& in) {
     }
     return out;
 }
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace wirepane {
+
 // How the story of a headline is shown beside the grid.
 enum class StoryShowType : unsigned short { None = 0, Right = 1, Below = 2 };
 
@@ -38,4 +40,6 @@ struct ViewLayout {
     bool storyHidesHeadline = false;
 };
 
-ViewLayout LayOut(const LayoutInput& in);
+ViewLayout layOut(const LayoutInput& in);
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 #include "news_view/view_parts.h"
 #include "search/news_relate_symbol_quote_view.h"
 
+using namespace wirepane;
+
 // --- Searches ---
 
 void TRVNewsCtrlView::OnSearch() {
@@ -112,21 +114,21 @@ void TRVNewsCtrlView::RecvNewHeadLine(const CHeadline* headline, const QString& 
         parts->liveNews.push({*headline, categoryId, symbolCode});
 }
 
-void TRVNewsCtrlView::vHeadlineReplaced(const CHeadline* headline, const QString& categoryId,
-                                        const QString& symbolCode) {
+void TRVNewsCtrlView::headlineReplaced(const CHeadline* headline, const QString& categoryId,
+                                       const QString& symbolCode) {
     if (headline != nullptr)
         parts->liveNews.replace({*headline, categoryId, symbolCode});
 }
 
-void TRVNewsCtrlView::vHeadlineGone(const HeadlineKey& key) {
+void TRVNewsCtrlView::headlineGone(const HeadlineKey& key) {
     parts->liveNews.takeOut(key);
 }
 
-void TRVNewsCtrlView::vConnectionChanged(bool connected) {
+void TRVNewsCtrlView::connectionChanged(bool connected) {
     if (connected)
-        parts->breaks.vRestored(host_clock::now());
+        parts->breaks.restored(host_clock::now());
     else
-        parts->breaks.vLost(host_clock::now());
+        parts->breaks.lost(host_clock::now());
     parts->board.place();
     update();
 }
@@ -138,7 +140,7 @@ void TRVNewsCtrlView::OnSelectService() {
 }
 
 int TRVNewsCtrlView::iBeSelectNewsNum() const {
-    return parts->services.iSelectedCount();
+    return parts->services.selectedCount();
 }
 
 void TRVNewsCtrlView::OnSelectCheckService(unsigned int id) {
@@ -159,7 +161,7 @@ int TRVNewsCtrlView::GetCategoryColor(const QString& name, QColor& text, QColor&
     return parts->categories.colourOf(0, name, text, background) ? 1 : 0;
 }
 
-void TRVNewsCtrlView::vReloadCategories() {
+void TRVNewsCtrlView::reloadCategories() {
     parts->categories.reloadNames();
 }
 
@@ -180,14 +182,14 @@ void TRVNewsCtrlView::OnSelchangeComboIndex() {
 void TRVNewsCtrlView::ChangeSymbol(const QWidget* sender, unsigned char group, unsigned char service,
                                    const QString& code, const QString& name) {
     const CSymbolInfo symbol{service, code};
-    const bool concernsView = sender == this || (group == GetLinkGroup() && GetLinkGroup() != 0);
+    const bool concernsView = sender == this || (group == linkedGroup() && linkedGroup() != 0);
     if (!concernsView || parts->symbolMode.current() == symbol)
         return;
-    vSetBaseSymbol(parts->backEnd.bIsSymbolIDExist(service, code) == 1 ? symbol : CSymbolInfo{});
+    setBaseSymbol(parts->backEnd.bIsSymbolIDExist(service, code) == 1 ? symbol : CSymbolInfo{});
     const bool isRead = parts->symbolMode.take(symbol);
     parts->searches.followSymbol(symbol);
     parts->symbolMode.follow(symbol, isRead);
-    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
         quotes->ChangeSymbol(sender, group, service, code, name);
 }
 
@@ -196,7 +198,7 @@ void TRVNewsCtrlView::GetSymbolNews(const QString&) {
 }
 
 void TRVNewsCtrlView::OnSelSymbol(const QString& code) {
-    if (parts->listOf(ListIndex::Symbol).pGetGrid() != nullptr)
+    if (parts->listOf(ListIndex::Symbol).grid() != nullptr)
         GetSymbolNews(code);
 }
 
@@ -209,7 +211,7 @@ void TRVNewsCtrlView::OnSelchangeComboService() {
 }
 
 void TRVNewsCtrlView::vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) {
-    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
         quotes->vDoSymbolUpdate(updates);
     parts->searches.updateSymbolPicker(updates);
     parts->symbolMode.takeUpdates(updates);
@@ -238,7 +240,7 @@ void TRVNewsCtrlView::InitialNewsRelateQuoteView() {
     // The other views of the group follow the user's choice; this one goes on showing its news.
     connect(quotes, &TRVQuoteBaseView::SendChangeSymbol, this,
             [this](unsigned char, unsigned char service, const QString& code) {
-                emit SendChangeSymbol(GetLinkGroup(), service, code);
+                emit SendChangeSymbol(linkedGroup(), service, code);
             });
     vSetComponentPos();
     if (parts->story.paneShowsStories() && parts->story.shownRow() >= 0)
@@ -251,27 +253,27 @@ void TRVNewsCtrlView::vRecvNewsRelateSymbolListRecovery(const CNewsSymlistInfo* 
 }
 
 void TRVNewsCtrlView::vReRegisterSymbols() {
-    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
         quotes->vReRegisterSymbols();
 }
 
 void TRVNewsCtrlView::vUnregisterViewSymbol() {
-    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
         quotes->vUnregisterViewSymbol();
 }
 
 void TRVNewsCtrlView::vRecvNewMemory(const CQuoteMemory* quote) {
-    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
         quotes->vRecvNewMemory(quote);
 }
 
 void TRVNewsCtrlView::vRecvMemoryRecovery(const CQuoteMemory* quote) {
-    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
         quotes->vRecvMemoryRecovery(quote);
 }
 
 void TRVNewsCtrlView::vRecvMultiSymbolMemoryRecovery(const std::vector<CQuoteMemory>& memories) {
-    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
         quotes->vRecvMultiSymbolMemoryRecovery(memories);
 }
 

@@ -4,8 +4,8 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/language_keys.h"
 #include "host/controls/xtp_tab_control.h"
+#include "host/views/news_control_ids.h"
 #include "host/views/sheet_scheme.h"
-#include "news_view/control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "news_view/view_parts.h"
 #include "search/news_relate_symbol_quote_view.h"
@@ -14,6 +14,8 @@
 
 #include <QEvent>
 #include <QPainter>
+
+using namespace wirepane;
 
 bool TRVNewsCtrlView::OnEraseBkgnd(QPainter& painter) {
     if (!parts->arrangement.isPlaced())
@@ -24,46 +26,46 @@ bool TRVNewsCtrlView::OnEraseBkgnd(QPainter& painter) {
 }
 
 void TRVNewsCtrlView::OnDraw(QPainter& painter) {
-    if (GetDataState() == DataState::NotSupported) {
+    if (currentDataState() == DataState::NotSupported) {
         vNotSupportSymbol(painter);
-        vDrawFrameBorder(painter);
+        drawFrameBorder(painter);
     } else {
         DrawTitile(painter);
     }
 }
 
 void TRVNewsCtrlView::DrawTitile(QPainter& painter) {
-    vDrawTitle(painter);
-    vDrawFrameBorder(painter);
+    drawTitle(painter);
+    drawFrameBorder(painter);
 }
 
 void TRVNewsCtrlView::vNotSupportSymbol(QPainter& painter) {
     const QRect grid = parts->arrangement.layout().grid;
-    const QRect area(0, iGetTitleHeight(), grid.width(), grid.bottom() + 1 - iGetTitleHeight());
+    const QRect area(0, titleHeight(), grid.width(), grid.bottom() + 1 - titleHeight());
     painter.fillRect(area, colBackground);
     painter.setFont(GetViewFont());
     painter.setPen(QColor::fromRgb(colBackground.rgb() ^ 0xFFFFFFU));
-    painter.drawText(area, Qt::AlignCenter | Qt::TextSingleLine, LangText(parts->backEnd, keys::noData));
+    painter.drawText(area, Qt::AlignCenter | Qt::TextSingleLine, langText(parts->backEnd, keys::noData));
 }
 
 void TRVNewsCtrlView::vChangeCast() {
     TRVQuoteBaseView::vChangeCast();
     parts->controls.vSetFont(GetViewFont());
-    if (auto* strip = parts->controls.Find<CXTPTabControl>(ids::tabStrip))
-        strip->SetColorSet({HostColour(QStringLiteral("COLOR_LISTCTL_HDBkCOLOR1"), {}),
-                            HostColour(QStringLiteral("COLOR_LISTCTL_HDTEXTCOLOR1"), {})});
+    if (auto* strip = parts->controls.find<CXTPTabControl>(ids::tabStrip))
+        strip->SetColorSet({hostColour(QStringLiteral("COLOR_LISTCTL_HDBkCOLOR1"), {}),
+                            hostColour(QStringLiteral("COLOR_LISTCTL_HDTEXTCOLOR1"), {})});
     for (const ListKind& kind : listKinds) {
-        if (CSuperSheetWnd* grid = parts->listOf(kind.index).pGetGrid())
-            ApplyHostScheme(*grid, GetViewFont());
+        if (CSuperSheetWnd* grid = parts->listOf(kind.index).grid())
+            applyHostScheme(*grid, GetViewFont());
     }
-    if (NewsStoryView* pane = parts->stage.pGetPane())
+    if (NewsStoryView* pane = parts->stage.storyPane())
         pane->vChangeCast();
-    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
         quotes->vChangeCast();
     if (parts->initialised)
         vSetComponentPos();
     update();
-    if (TRVNewsStory* dialog = parts->stage.pGetDialog())
+    if (TRVNewsStory* dialog = parts->stage.storyDialog())
         dialog->vSetFont(GetViewFont());
 }
 
@@ -75,12 +77,12 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     parts->shortcuts.loadToolTips();
     parts->standingSearches.loadHints();
     parts->categories.learnCombo();
-    if (TRVNewsStory* dialog = parts->stage.pGetDialog())
+    if (TRVNewsStory* dialog = parts->stage.storyDialog())
         dialog->vLoadLanguageString();
     for (int list = 0; list < listCount; ++list) {
-        if (CSuperSheetWnd* sheet = Sheet(list)) {
-            SetHeadlineSheetTexts(*sheet, parts->newsType, parts->backEnd);
-            parts->listOf(static_cast<ListIndex>(list)).vForgetWrittenCells();
+        if (CSuperSheetWnd* sheet = sheetOf(list)) {
+            setHeadlineSheetTexts(*sheet, parts->newsType, parts->backEnd);
+            parts->listOf(static_cast<ListIndex>(list)).forgetWrittenCells();
         }
     }
     vSetComponentPos();

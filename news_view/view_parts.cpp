@@ -10,13 +10,15 @@
 #include "host/contract/sync_info.h"
 #include "host/controls/s_button.h"
 #include "host/controls/xtp_tab_control.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/notice_line.h"
 #include "news_view/told_notices.h"
 #include "story/news_story_view.h"
 #include "story/trv_news_story.h"
 
 #include <QItemSelectionModel>
+
+using namespace wirepane;
 
 TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
     : view(newsView),
@@ -31,7 +33,7 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       story(*this, backEnd, storySurroundings()),
       output(backEnd, outputDialogs, outputSurroundings()),
       board(noticeSurroundings(), noticeTellers()),
-      menu(view, [this](int command) { view.OnCommand(command); }),
+      menu(view, [this](int command) { view.onCommand(command); }),
       contextMenu(*this, menu, contextMenuSurroundings()),
       input(*this, inputSurroundings()),
       shortcuts(*this, shortcutSurroundings()),
@@ -46,14 +48,14 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       symbolMode(*this, common, symbolCalls()),
       sentAgain(*this, common, choices()),
       serviceMenu(*this, common,
-                  {[this](int command) { view.OnCommand(command); }, [this] { readForServices(); }}),
+                  {[this](int command) { view.onCommand(command); }, [this] { readForServices(); }}),
       liveNews(*this, common, liveCalls()) {
-    lists.vSetOnRead([this] { board.place(); });
+    lists.setOnRead([this] { board.place(); });
 }
 
 // A window that goes hands the keyboard back to the view, whose parts must all be there then.
 TRVNewsCtrlView::Parts::~Parts() {
-    delete stage.pGetDialog();
+    delete stage.storyDialog();
 }
 
 // --- Modes, places and what is created ---
@@ -74,7 +76,7 @@ Modes::Calls TRVNewsCtrlView::Parts::modeCalls() {
 }
 
 Arrangement::Calls TRVNewsCtrlView::Parts::arrangementCalls() {
-    return {[this] { return view.GetViewFont(); }, [this] { return view.iGetTitleHeight(); },
+    return {[this] { return view.GetViewFont(); }, [this] { return view.titleHeight(); },
             [this] { return story.showType(); }};
 }
 
@@ -88,9 +90,9 @@ ViewBuilder::Calls TRVNewsCtrlView::Parts::builderCalls() {
 void TRVNewsCtrlView::Parts::connectGrid(CSuperSheetWnd& grid, ListIndex list) {
     QObject::connect(&grid, &CSuperSheetWnd::LButtonUp, &view,
                      [this](const QPoint& point) { view.OnLButtonUp(forwardedByGrid, point); });
-    QObject::connect(&grid, &CSuperSheetWnd::LButtonDblClk, &view,
+    QObject::connect(&grid, &CSuperSheetWnd::lButtonDblClk, &view,
                      [this](const QPoint& point) { view.OnLButtonDblClk(forwardedByGrid, point); });
-    QObject::connect(&grid, &CSuperSheetWnd::ScrolledVertically, &view, &TRVNewsCtrlView::OnVScroll);
+    QObject::connect(&grid, &CSuperSheetWnd::scrolledVertically, &view, &TRVNewsCtrlView::OnVScroll);
     QObject::connect(grid.selectionModel(), &QItemSelectionModel::currentRowChanged, &view,
                      [this, &grid, list] { story.follow(grid, list); });
 }
@@ -98,7 +100,7 @@ void TRVNewsCtrlView::Parts::connectGrid(CSuperSheetWnd& grid, ListIndex list) {
 // --- Stories, output, notices ---
 
 StoryDisplay::Surroundings TRVNewsCtrlView::Parts::storySurroundings() {
-    return {stage, [this](ListIndex list) { return searches.desk().FoundUnder(list); },
+    return {stage, [this](ListIndex list) { return searches.desk().foundUnder(list); },
             [this] { return view.GetViewFont(); }, [this](int list, int row) { bChangeNewsPos(list, row); }};
 }
 
@@ -106,9 +108,9 @@ OutputJobs::Surroundings TRVNewsCtrlView::Parts::outputSurroundings() {
     return {view,
             stage,
             settings,
-            [this] { return services.ActiveServices(static_cast<int>(modes.shown())); },
+            [this] { return services.activeServices(static_cast<int>(modes.shown())); },
             [this] { board.place(); },
-            [this](const QString& sentence) { emit view.MessageForUser(sentence); }};
+            [this](const QString& sentence) { emit view.messageForUser(sentence); }};
 }
 
 NoticeBoard::Surroundings TRVNewsCtrlView::Parts::noticeSurroundings() {
@@ -124,7 +126,7 @@ NoticeBoard::Surroundings TRVNewsCtrlView::Parts::noticeSurroundings() {
 
 std::vector<NoticeBoard::Teller> TRVNewsCtrlView::Parts::noticeTellers() {
     return {
-        [this](ListNotices& notices) { notices.vTell(NoticeKind::Awaited, output.awaitedText()); },
+        [this](ListNotices& notices) { notices.tell(NoticeKind::Awaited, output.awaitedText()); },
         [this](ListNotices& notices) { tellOfBackEnd(notices, backEnd, breaks); },
         [this](ListNotices& notices) {
             tellOfList(notices, backEnd, modes.shown(), lists, searches.desk(), breaks);
@@ -133,11 +135,11 @@ std::vector<NoticeBoard::Teller> TRVNewsCtrlView::Parts::noticeTellers() {
     };
 }
 
-QColor TRVNewsCtrlView::Parts::TimeColour(std::int64_t time) const {
-    return breaks.bHolds(time) ? lateColour(view.colBackground) : QColor();
+QColor TRVNewsCtrlView::Parts::timeColour(std::int64_t time) const {
+    return breaks.holds(time) ? lateColour(view.colBackground) : QColor();
 }
 
-void TRVNewsCtrlView::Parts::vRowsReplaced(ListIndex list) {
+void TRVNewsCtrlView::Parts::rowsReplaced(ListIndex list) {
     if (modes.shown() == list)
         story.forget();
 }
@@ -145,7 +147,7 @@ void TRVNewsCtrlView::Parts::vRowsReplaced(ListIndex list) {
 // --- Keys, mouse, menu ---
 
 ContextMenu::Surroundings TRVNewsCtrlView::Parts::contextMenuSurroundings() {
-    return {view, [this] { return view.iGetTitleHeight(); },
+    return {view, [this] { return view.titleHeight(); },
             [this](bool onRow) {
                 return contextMenuEntries(
                     {modes.shown(), onRow, settings.showCategory, story.hasStoryWindow()}, backEnd,
@@ -159,7 +161,7 @@ ListInput::Surroundings TRVNewsCtrlView::Parts::inputSurroundings() {
 }
 
 Shortcuts::Surroundings TRVNewsCtrlView::Parts::shortcutSurroundings() {
-    return {view, controls, stage, [this](int command) { view.OnCommand(command); },
+    return {view, controls, stage, [this](int command) { view.onCommand(command); },
             [this] { view.OnSelchangeTabMode(); }};
 }
 
@@ -168,13 +170,13 @@ Shortcuts::Surroundings TRVNewsCtrlView::Parts::shortcutSurroundings() {
 SymbolMode::Calls TRVNewsCtrlView::Parts::symbolCalls() {
     return {[this] { arrangement.place(); },
             [this] { modes.showParts(modes.shown()); },
-            [this] { return view.GetDataState() != DataState::NotSupported; },
+            [this] { return view.currentDataState() != DataState::NotSupported; },
             [this](bool supported) {
-                view.vSetDataState(supported ? DataState::Normal : DataState::NotSupported);
+                view.setDataState(supported ? DataState::Normal : DataState::NotSupported);
             },
-            [this] { return CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(view.GetLinkGroup()); },
+            [this] { return CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(view.linkedGroup()); },
             [this](const CSymbolInfo& symbol) {
-                emit view.SendChangeSymbol(view.GetLinkGroup(), symbol.market, symbol.code);
+                emit view.SendChangeSymbol(view.linkedGroup(), symbol.market, symbol.code);
             }};
 }
 
@@ -202,7 +204,7 @@ IntakeState TRVNewsCtrlView::Parts::intakeChoices() const {
     state.categoryId = categories.chosenId();
     // While another mode is shown the list may hold another symbol's news than the combo names.
     const auto symbol = symbolMode.chosen();
-    if (symbol && symbol->code == lists.ListedSymbol().code) {
+    if (symbol && symbol->code == lists.listSymbol().code) {
         state.symbolCode = symbol->code;
         state.symbolMarket = symbol->market;
     }
@@ -211,10 +213,10 @@ IntakeState TRVNewsCtrlView::Parts::intakeChoices() const {
 
 void TRVNewsCtrlView::Parts::readForServices() {
     const RelationMatcher* filter = standingSearches.filterOfShownList();
-    lists.bRebuild(ListIndex::All, TableKind::ByDate, days.pickedKey(), filter);
+    lists.rebuild(ListIndex::All, TableKind::ByDate, days.pickedKey(), filter);
     categories.vRefreshCategoryCombo();
     symbolMode.readFiltered(filter);
-    lists.bRebuild(ListIndex::Relation, TableKind::ByDate, DateKey(host_clock::today()), filter);
+    lists.rebuild(ListIndex::Relation, TableKind::ByDate, dateKey(host_clock::today()), filter);
     if (modes.shown() == ListIndex::Search && shownGrid() != nullptr)
         searches.searchForText();
     services.CheckRegisterService(view);
@@ -225,29 +227,29 @@ void TRVNewsCtrlView::Parts::readForServices() {
 // --- Entries ---
 
 std::optional<CHeadlineTable> TRVNewsCtrlView::Parts::entryAt(ListIndex list, int row) const {
-    const HeadlineTable& table = lists[list].Table();
+    const HeadlineTable& table = lists[list].headlineTable();
     return row >= 0 && row < table.size() ? std::optional(table.at(row)) : std::nullopt;
 }
 
 bool TRVNewsCtrlView::Parts::bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const {
-    const auto index = ListOfNumber(list);
+    const auto index = listOfNumber(list);
     const auto found = index ? entryAt(*index, row) : std::nullopt;
     entry = found.value_or(entry);
     return found.has_value();
 }
 
 int TRVNewsCtrlView::Parts::iGetHeadlineTableSize(int list) const {
-    const auto index = ListOfNumber(list);
-    return index ? lists[*index].Table().size() : -1;
+    const auto index = listOfNumber(list);
+    return index ? lists[*index].headlineTable().size() : -1;
 }
 
 void TRVNewsCtrlView::Parts::vGetNewsActiveService(std::vector<unsigned char>& active) const {
-    active = services.ActiveServices(static_cast<int>(modes.shown()));
+    active = services.activeServices(static_cast<int>(modes.shown()));
 }
 
-int TRVNewsCtrlView::Parts::iRowOf(int list, const CHeadlineTable& headline) const {
-    const auto index = ListOfNumber(list);
-    return index ? lists[*index].Table().rowOf(KeyOf(headline)) : -1;
+int TRVNewsCtrlView::Parts::rowOf(int list, const CHeadlineTable& headline) const {
+    const auto index = listOfNumber(list);
+    return index ? lists[*index].headlineTable().rowOf(keyOf(headline)) : -1;
 }
 
 std::vector<CHeadlineTable> TRVNewsCtrlView::Parts::selectedEntries() const {
@@ -262,29 +264,29 @@ std::vector<CHeadlineTable> TRVNewsCtrlView::Parts::selectedEntries() const {
     return entries;
 }
 
-void TRVNewsCtrlView::Parts::PrintHeadline(const CHeadlineTable& headline) {
+void TRVNewsCtrlView::Parts::printHeadline(const CHeadlineTable& headline) {
     output.tell(output.print({headline}, std::nullopt));
 }
 
-void TRVNewsCtrlView::Parts::SaveHeadline(const CHeadlineTable& headline) {
+void TRVNewsCtrlView::Parts::saveHeadline(const CHeadlineTable& headline) {
     output.tell(output.save({headline}, std::nullopt));
 }
 
 bool TRVNewsCtrlView::Parts::bChangeNewsPos(int list, int row) {
     if (list != static_cast<int>(modes.shown())) {
         view.SwitchFunction(view.iGetFunctionID(list));
-        if (auto* strip = controls.Find<CXTPTabControl>(ids::tabStrip))
+        if (auto* strip = controls.find<CXTPTabControl>(ids::tabStrip))
             strip->SetCurSel(controls.iGetTabIndex(static_cast<int>(modes.shown())));
     }
-    if (NewsStoryView* pane = stage.pGetPane()) {
+    if (NewsStoryView* pane = stage.storyPane()) {
         pane->SetHeadLinePos(row);
         // A position just below the last row stays: hosts rely on it.
-        const int size = lists[modes.shown()].Table().size();
+        const int size = lists[modes.shown()].headlineTable().size();
         if (pane->GetHeadLinePos() > size)
             pane->SetHeadLinePos(size - 1);
     }
     if (CSuperSheetWnd* grid = shownGrid()) {
-        grid->vSetActiveSelection(row, -1);
+        grid->setActiveSelection(row, -1);
         grid->vAutoVerScrolling(row);
     }
     story.show();
@@ -296,7 +298,7 @@ bool TRVNewsCtrlView::Parts::bChangeNewsPos(int list, int row) {
 bool TRVNewsCtrlView::Parts::takeNoticeCommand(int id) {
     // The button beside the notice asks first what is to become of what is complete.
     if (id == ids::askBeforeStop && output.ready() > 0) {
-        const QWidget* stop = controls.Find<SButton>(ids::stopWaiting);
+        const QWidget* stop = controls.find<SButton>(ids::stopWaiting);
         menu.popUp(output.waitingCommands(), stop->mapToGlobal(QPoint(0, stop->height())));
     } else if (id == ids::stopWaiting || id == ids::askBeforeStop) {
         output.stopWaiting();
@@ -314,7 +316,7 @@ bool TRVNewsCtrlView::Parts::takeNoticeCommand(int id) {
 
 // The shown list without another list's filter.
 void TRVNewsCtrlView::Parts::readUnfiltered() {
-    if (!lists.bHasOthersFilter(shownList()))
+    if (!lists.hasOthersFilter(shownList()))
         return;
     sentAgain.readAgain(shownList());
     story.show();

@@ -38,21 +38,21 @@
 
 // What the news view is made of: the parts that several owners stand on, the owners of its work, and what
 // they see of the view and of one another. Only the view's own files know it.
-struct TRVNewsCtrlView::Parts final : ViewContext, ListOwner, StoryOwner {
+struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner, wirepane::StoryOwner {
     explicit Parts(TRVNewsCtrlView& newsView);
     ~Parts() override;
 
     // What owners see of the view.
-    ListIndex shownList() const override { return modes.shown(); }
-    HeadlineList& listOf(ListIndex list) override { return lists[list]; }
-    std::optional<CHeadlineTable> entryAt(ListIndex list, int row) const override;
+    wirepane::ListIndex shownList() const override { return modes.shown(); }
+    wirepane::HeadlineList& listOf(wirepane::ListIndex list) override { return lists[list]; }
+    std::optional<CHeadlineTable> entryAt(wirepane::ListIndex list, int row) const override;
     void showStory() override { story.show(); }
     void clearStory() override { story.clear(); }
     bool paneShowsStories() const override { return story.paneShowsStories(); }
     bool hasOpenStory() const override { return story.hasOpenStory(); }
     void forgetShownStory() override { story.forget(); }
     void refresh() override { view.vUpdateView(); }
-    bool readInPlace(ListIndex list, const std::function<bool()>& read) override {
+    bool readInPlace(wirepane::ListIndex list, const std::function<bool()>& read) override {
         return story.readInPlace(list, read);
     }
     QString statusText() const override { return board.status(); }
@@ -61,27 +61,29 @@ struct TRVNewsCtrlView::Parts final : ViewContext, ListOwner, StoryOwner {
 
     // What lists see of it. The services are the user's own choice, also while the warrant mode has set it
     // aside: every list but the warrants' holds what he has ticked.
-    const std::vector<ServiceEntry>& vGetServices() const override { return services.Saved(); }
+    const std::vector<wirepane::ServiceEntry>& allServices() const override {
+        return services.savedServices();
+    }
     int GetNewsType() const override { return newsType; }
-    QString CategoryNameOf(unsigned char service, int id) override { return categories.nameOf(service, id); }
-    int CategoryColourOf(unsigned char service, const QString& name, QColor& text,
+    QString categoryNameOf(unsigned char service, int id) override { return categories.nameOf(service, id); }
+    int categoryColourOf(unsigned char service, const QString& name, QColor& text,
                          QColor& background) override {
         return categories.colourOf(service, name, text, background) ? 1 : 0;
     }
-    QColor TimeColour(std::int64_t time) const override;
-    void vCategoryStateAfterWriting() override { categories.showColumn(); }
-    void vRowsReplaced(ListIndex list) override;
+    QColor timeColour(std::int64_t time) const override;
+    void categoryStateAfterWriting() override { categories.showColumn(); }
+    void rowsReplaced(wirepane::ListIndex list) override;
 
     // What stories see of it.
     int iGetHeadlineTableSize(int list) const override;
     bool bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const override;
     void vGetNewsActiveService(std::vector<unsigned char>& active) const override;
     bool bChangeNewsPos(int list, int row) override;
-    int iRowOf(int list, const CHeadlineTable& headline) const override;
-    void PrintHeadline(const CHeadlineTable& headline) override;
-    void SaveHeadline(const CHeadlineTable& headline) override;
+    int rowOf(int list, const CHeadlineTable& headline) const override;
+    void printHeadline(const CHeadlineTable& headline) override;
+    void saveHeadline(const CHeadlineTable& headline) override;
 
-    CSuperSheetWnd* shownGrid() const { return lists[modes.shown()].pGetGrid(); }
+    CSuperSheetWnd* shownGrid() const { return lists[modes.shown()].grid(); }
     std::vector<CHeadlineTable> selectedEntries() const;
     // What notices and the button beside them offer. False: the command is none of theirs.
     bool takeNoticeCommand(int id);
@@ -92,57 +94,57 @@ struct TRVNewsCtrlView::Parts final : ViewContext, ListOwner, StoryOwner {
 
     TRVNewsCtrlView& view;
     BKQuoteInterface& backEnd;
-    NewsServices services;
-    HeadlineLists lists;
-    ControlSet controls;
-    StoryStage stage;
-    ModeLoading loading;
-    ApplicationSwitches switches;
-    ViewSettings settings;
-    FeedBreaks breaks;
-    OutputDialogs outputDialogs;
+    wirepane::NewsServices services;
+    wirepane::HeadlineLists lists;
+    wirepane::ControlSet controls;
+    wirepane::StoryStage stage;
+    wirepane::ModeLoading loading;
+    wirepane::ApplicationSwitches switches;
+    wirepane::ViewSettings settings;
+    wirepane::FeedBreaks breaks;
+    wirepane::OutputDialogs outputDialogs;
     int newsType = 0;
     bool initialised = false;  // the host's first calls are through
-    ListTip tip;
-    const CommonParts common;
+    wirepane::ListTip tip;
+    const wirepane::CommonParts common;
 
-    Modes modes;
-    Arrangement arrangement;
-    ViewBuilder builder;
-    StoryDisplay story;
-    OutputJobs output;
-    NoticeBoard board;
-    CommandMenu menu;
-    ContextMenu contextMenu;
-    ListInput input;
-    Shortcuts shortcuts;
-    Searches searches;
-    StandingSearches standingSearches;
-    Days days;
-    CategoryMode categories;
-    SymbolMode symbolMode;
-    SentAgain sentAgain;
-    ServiceMenu serviceMenu;
-    LiveNews liveNews;
+    wirepane::Modes modes;
+    wirepane::Arrangement arrangement;
+    wirepane::ViewBuilder builder;
+    wirepane::StoryDisplay story;
+    wirepane::OutputJobs output;
+    wirepane::NoticeBoard board;
+    wirepane::CommandMenu menu;
+    wirepane::ContextMenu contextMenu;
+    wirepane::ListInput input;
+    wirepane::Shortcuts shortcuts;
+    wirepane::Searches searches;
+    wirepane::StandingSearches standingSearches;
+    wirepane::Days days;
+    wirepane::CategoryMode categories;
+    wirepane::SymbolMode symbolMode;
+    wirepane::SentAgain sentAgain;
+    wirepane::ServiceMenu serviceMenu;
+    wirepane::LiveNews liveNews;
 
 private:
     // What each owner is given of the view and of the others.
-    ListTip::Look tipLook() const;
-    Modes::Calls modeCalls();
-    Arrangement::Calls arrangementCalls();
-    ViewBuilder::Calls builderCalls();
-    StoryDisplay::Surroundings storySurroundings();
-    OutputJobs::Surroundings outputSurroundings();
-    NoticeBoard::Surroundings noticeSurroundings();
-    std::vector<NoticeBoard::Teller> noticeTellers();
-    ContextMenu::Surroundings contextMenuSurroundings();
-    ListInput::Surroundings inputSurroundings();
-    Shortcuts::Surroundings shortcutSurroundings();
-    SymbolMode::Calls symbolCalls();
-    SentAgain::Choices choices();
-    LiveNews::Calls liveCalls();
-    IntakeState intakeChoices() const;
-    void connectGrid(CSuperSheetWnd& grid, ListIndex list);
+    wirepane::ListTip::Look tipLook() const;
+    wirepane::Modes::Calls modeCalls();
+    wirepane::Arrangement::Calls arrangementCalls();
+    wirepane::ViewBuilder::Calls builderCalls();
+    wirepane::StoryDisplay::Surroundings storySurroundings();
+    wirepane::OutputJobs::Surroundings outputSurroundings();
+    wirepane::NoticeBoard::Surroundings noticeSurroundings();
+    std::vector<wirepane::NoticeBoard::Teller> noticeTellers();
+    wirepane::ContextMenu::Surroundings contextMenuSurroundings();
+    wirepane::ListInput::Surroundings inputSurroundings();
+    wirepane::Shortcuts::Surroundings shortcutSurroundings();
+    wirepane::SymbolMode::Calls symbolCalls();
+    wirepane::SentAgain::Choices choices();
+    wirepane::LiveNews::Calls liveCalls();
+    wirepane::IntakeState intakeChoices() const;
+    void connectGrid(CSuperSheetWnd& grid, wirepane::ListIndex list);
     void readForServices();
     void readUnfiltered();
 };

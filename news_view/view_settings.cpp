@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 const QString functionsKey = u"EnabledFunctions"_s;
@@ -37,7 +39,7 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
     ViewSettings settings;
     int mask = 0;
     if (reader.GetViewInfo(path, functionsKey, mask))
-        settings.functions = KnownFunctions(static_cast<std::uint32_t>(mask));
+        settings.functions = knownFunctions(static_cast<std::uint32_t>(mask));
     unsigned short showType = 0;
     if (reader.GetViewInfo(path, showTypeKey, showType) && showType <= highestShowType)
         settings.newsShowType = showType;
@@ -58,13 +60,15 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
 }
 
 void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
-    writer.SetViewInfo(path, functionsKey, static_cast<int>(functions));
-    writer.SetViewInfo(path, showTypeKey, int{newsShowType});
-    writer.SetViewInfo(path, showCategoryKey, showCategory);
-    writer.SetViewInfo(path, focusedTabKey, focusedTab);
-    writer.SetViewInfo(path, symbolKey, symbolId);
+    writer.setViewInfo(path, functionsKey, static_cast<int>(functions));
+    writer.setViewInfo(path, showTypeKey, int{newsShowType});
+    writer.setViewInfo(path, showCategoryKey, showCategory);
+    writer.setViewInfo(path, focusedTabKey, focusedTab);
+    writer.setViewInfo(path, symbolKey, symbolId);
     if (symbolService)
-        writer.SetViewInfo(path, symbolServiceKey, int{*symbolService});
-    writer.SetViewInfo(path, categoryKey, categoryId);
-    writer.SetViewInfo(path, quoteSortingKey, numberOf(quoteSorting));
+        writer.setViewInfo(path, symbolServiceKey, int{*symbolService});
+    writer.setViewInfo(path, categoryKey, categoryId);
+    writer.setViewInfo(path, quoteSortingKey, numberOf(quoteSorting));
 }
+
+}  // namespace wirepane

@@ -12,6 +12,8 @@
 #include <cstdint>
 #include <optional>
 
+namespace wirepane {
+
 // The settings of a view that are plain values; what is absent or makes no sense has its default. The
 // services keep their own (NewsServices).
 struct ViewSettings {
@@ -30,3 +32,5 @@ struct ViewSettings {
     static ViewSettings read(const TRVCfgIO2& reader, const ViewSettingPath& path, int defaultTab);
     void write(TRVCfgIO2& writer, const ViewSettingPath& path) const;
 };
+
+}  // namespace wirepane

@@ -10,11 +10,13 @@
 #include "host/contract/sync_info.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/xtp_tab_control.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "news_view/view_parts.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "story/trv_news_story.h"
+
+using namespace wirepane;
 
 namespace {
 
@@ -24,14 +26,14 @@ const QString symbolNewsType = QStringLiteral("MULTITIMESALSE_SYMBOLNEWS");
 }  // namespace
 
 void TRVNewsCtrlView::OnInitialUpdate() {
-    RequireInterfaceThread("TRVQuoteBaseView::OnInitialUpdate");
-    RequireOfHost(!parts->serviceMenu.isFilled(),
+    requireInterfaceThread("TRVQuoteBaseView::OnInitialUpdate");
+    requireOfHost(!parts->serviceMenu.isFilled(),
                   "TRVQuoteBaseView::OnInitialUpdate was called twice on one view.");
     TRVQuoteBaseView::OnInitialUpdate();
     if (parts->backEnd.bIsConnect() != 1)
-        vConnectionChanged(false);
+        connectionChanged(false);
     GetConfigFromIni();
-    parts->services.vLoad(parts->backEnd);
+    parts->services.load(parts->backEnd);
     parts->serviceMenu.fill();
 }
 
@@ -42,38 +44,38 @@ void TRVNewsCtrlView::GetConfigFromIni() {
 
 void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
                                       const QString&) {
-    RequireOfHost(parts->serviceMenu.isFilled(),
+    requireOfHost(parts->serviceMenu.isFilled(),
                   "TRVQuoteBaseView::InitialViewInfo was called before OnInitialUpdate.");
     TRVQuoteBaseView::InitialViewInfo(reader, section, first, second, viewKey);
-    vTakeNewsType();
+    takeNewsType();
     if (parts->newsType == 0) {
         parts->builder.createStoryPane(*parts, settingsReader, settingsPath);
         parts->controls.CreateTypeBtn();
         parts->controls.CreateFunctionBtn();
     }
-    parts->controls.vCreateNotices();
+    parts->controls.createNotices();
     parts->services.vInitialNewsService(*reader, settingsPath, *this);
-    parts->searches.desk().vRestore(SearchMemory::read(*reader, settingsPath));
+    parts->searches.desk().restore(SearchMemory::read(*reader, settingsPath));
     parts->categories.bInitialTransferCatObject();
     parts->categories.bInitialTransferWarrantCatObject();
     vViewCreate();
-    parts->story.setShowType(parts->stage.pGetPane() != nullptr ? parts->settings.newsShowType : 0);
+    parts->story.setShowType(parts->stage.storyPane() != nullptr ? parts->settings.newsShowType : 0);
     parts->controls.vLoadLanguageString();
     parts->shortcuts.loadToolTips();
     parts->standingSearches.loadHints();
     parts->shortcuts.create();
     vChangeCast();
     vSetComponentPos();
-    vOpenFocusedTab();
+    openFocusedTab();
     InitialNewsRelateQuoteView();
     parts->shortcuts.setTabOrder();
     parts->categories.showColumn();
 }
 
-void TRVNewsCtrlView::vTakeNewsType() {
+void TRVNewsCtrlView::takeNewsType() {
     const bool namedSymbolNews =
-        windowTitle().compare(LangText(parts->backEnd, keys::symbolNewsCaption), Qt::CaseInsensitive) == 0;
-    if (cszGetTypeName() == symbolNewsType || namedSymbolNews)
+        windowTitle().compare(langText(parts->backEnd, keys::symbolNewsCaption), Qt::CaseInsensitive) == 0;
+    if (viewTypeName() == symbolNewsType || namedSymbolNews)
         parts->newsType = 2;
     const bool symbolNewsOnly = parts->newsType == 1 || parts->newsType == 2;
     parts->settings = ViewSettings::read(*settingsReader, settingsPath,
@@ -84,17 +86,17 @@ void TRVNewsCtrlView::vTakeNewsType() {
 }
 
 void TRVNewsCtrlView::vViewCreate() {
-    if (parts->stage.pGetDialog() == nullptr)
-        parts->stage.vSetDialog(new TRVNewsStory(*parts, this));
+    if (parts->stage.storyDialog() == nullptr)
+        parts->stage.setDialog(new TRVNewsStory(*parts, this));
     parts->builder.createControls();
 }
 
-void TRVNewsCtrlView::vOpenFocusedTab() {
+void TRVNewsCtrlView::openFocusedTab() {
     CSyncInfo* sync = CSyncInfo::GetSettingCFG();
     int mode = parts->symbolMode.isFromLink() ? static_cast<int>(ListIndex::Symbol)
                                               : iGetFunctionID(parts->settings.focusedTab);
     CheckInitialView(mode);
-    if (auto* strip = parts->controls.Find<CXTPTabControl>(ids::tabStrip))
+    if (auto* strip = parts->controls.find<CXTPTabControl>(ids::tabStrip))
         strip->SetCurSel(iGetTabIndex(mode));
     parts->initialised = true;
     SwitchFunction(mode);
@@ -103,17 +105,17 @@ void TRVNewsCtrlView::vOpenFocusedTab() {
 }
 
 void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, int first, int second) {
-    RequireInterfaceThread("TRVQuoteBaseView::SaveViewInfo");
-    RequireOfHost(settingsReader != nullptr,
+    requireInterfaceThread("TRVQuoteBaseView::SaveViewInfo");
+    requireOfHost(settingsReader != nullptr,
                   "TRVQuoteBaseView::SaveViewInfo was called before InitialViewInfo.");
-    RequireOfHost(writer != nullptr,
+    requireOfHost(writer != nullptr,
                   "TRVQuoteBaseView::SaveViewInfo was given nowhere to write the settings to.");
     const ViewSettingPath path{section, first, second, viewKey};
     parts->settings.newsShowType = GetStoryShowType();
     parts->symbolMode.keep();
-    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.pGetQuotes())
-        parts->settings.quoteSorting = quotes->GetTable().sorting();
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
+        parts->settings.quoteSorting = quotes->quoteTable().sorting();
     parts->settings.write(*writer, path);
-    parts->services.vSave(*writer, path);
+    parts->services.save(*writer, path);
     parts->searches.desk().memory.write(*writer, path);
 }

@@ -6,7 +6,7 @@
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "news_view/view_parts.h"
 #include "search/news_relate_symbol_quote_view.h"
@@ -18,6 +18,8 @@
 #include <QVariantList>
 
 #include <algorithm>
+
+using namespace wirepane;
 
 namespace {
 
@@ -31,14 +33,14 @@ QVariantList rectangle(const QRect& rect) {
 
 // What pane and dialog have in common: a title and a story by the same numbers.
 QVariantMap storyTexts(const QWidget& window) {
-    const auto* title = qobject_cast<const MyRichEdit*>(GetDlgItem(&window, story_ids::title));
-    const auto* story = qobject_cast<const MyRichEdit*>(GetDlgItem(&window, story_ids::storyText));
+    const auto* title = qobject_cast<const MyRichEdit*>(dlgItem(&window, story_ids::title));
+    const auto* story = qobject_cast<const MyRichEdit*>(dlgItem(&window, story_ids::storyText));
     if (title == nullptr || story == nullptr)
         return {};
-    const auto [start, end] = story->GetSelection();
+    const auto [start, end] = story->selection();
     return {{QStringLiteral("visible"), window.isVisible()},
-            {QStringLiteral("title"), title->szGetText()},
-            {QStringLiteral("story"), story->szGetText()},
+            {QStringLiteral("title"), title->literalText()},
+            {QStringLiteral("story"), story->literalText()},
             {QStringLiteral("selection"), QVariantList{start, end}},
             {QStringLiteral("titleRect"), rectangle(title->geometry())},
             {QStringLiteral("storyRect"), rectangle(story->geometry())},
@@ -50,7 +52,7 @@ template <class Display>
 QVariantMap displayState(const Display& display) {
     QVariantMap state = storyTexts(display);
     state.insert(QStringLiteral("position"), display.GetHeadLinePos());
-    state.insert(QStringLiteral("table"), display.iGetTable());
+    state.insert(QStringLiteral("table"), display.listNumber());
     return state;
 }
 
@@ -58,11 +60,11 @@ QVariantList quoteState(CNewsRelateSymbolQuoteView* quotes) {
     QVariantList rows;
     if (quotes == nullptr)
         return rows;
-    const QuoteTable& table = quotes->GetTable();
+    const QuoteTable& table = quotes->quoteTable();
     for (int row = 0; row < table.size(); ++row) {
         QVariantList texts;
         for (int column = 0; column < quoteColumns; ++column)
-            texts.append(TextOf(table.at(row), static_cast<QuoteColumn>(column)));
+            texts.append(textOf(table.at(row), static_cast<QuoteColumn>(column)));
         rows.append(QVariant(texts));
     }
     return rows;
@@ -70,39 +72,39 @@ QVariantList quoteState(CNewsRelateSymbolQuoteView* quotes) {
 
 }  // namespace
 
-CSuperSheetWnd* TRVNewsCtrlView::Sheet(int list) const {
-    const auto index = ListOfNumber(list);
-    return index ? parts->lists[*index].pGetGrid() : nullptr;
+CSuperSheetWnd* TRVNewsCtrlView::sheetOf(int list) const {
+    const auto index = listOfNumber(list);
+    return index ? parts->lists[*index].grid() : nullptr;
 }
 
-std::vector<HeadlineKey> TRVNewsCtrlView::Keys(int list, int from, int count) const {
+std::vector<HeadlineKey> TRVNewsCtrlView::keysOf(int list, int from, int count) const {
     std::vector<HeadlineKey> result;
-    if (const auto index = ListOfNumber(list)) {
-        for (const CHeadlineTable& entry : parts->lists[*index].Table().rows(from, count))
-            result.push_back(KeyOf(entry));
+    if (const auto index = listOfNumber(list)) {
+        for (const CHeadlineTable& entry : parts->lists[*index].headlineTable().rows(from, count))
+            result.push_back(keyOf(entry));
     }
     return result;
 }
 
-QVariantMap TRVNewsCtrlView::StoryState(bool inDialog) const {
+QVariantMap TRVNewsCtrlView::storyState(bool inDialog) const {
     if (inDialog)
-        return parts->stage.pGetDialog() != nullptr ? displayState(*parts->stage.pGetDialog())
-                                                    : QVariantMap();
-    return parts->stage.pGetPane() != nullptr ? displayState(*parts->stage.pGetPane()) : QVariantMap();
+        return parts->stage.storyDialog() != nullptr ? displayState(*parts->stage.storyDialog())
+                                                     : QVariantMap();
+    return parts->stage.storyPane() != nullptr ? displayState(*parts->stage.storyPane()) : QVariantMap();
 }
 
-QVariantMap TRVNewsCtrlView::State() const {
+QVariantMap TRVNewsCtrlView::state() const {
     QVariantList tabs;
-    if (const auto* strip = parts->controls.Find<CXTPTabControl>(ids::tabStrip)) {
+    if (const auto* strip = parts->controls.find<CXTPTabControl>(ids::tabStrip)) {
         for (int i = 0; i < strip->count(); ++i) {
-            tabs.append(QVariantMap{{QStringLiteral("mode"), strip->iGetItemData(i)},
-                                    {QStringLiteral("text"), strip->szGetTabText(i)},
-                                    {QStringLiteral("selected"), i == strip->GetCurSel()}});
+            tabs.append(QVariantMap{{QStringLiteral("mode"), strip->itemData(i)},
+                                    {QStringLiteral("text"), strip->literalTabText(i)},
+                                    {QStringLiteral("selected"), i == strip->curSel()}});
         }
     }
     QVariantList serviceStates;
-    for (std::size_t i = 0; i < parts->services.Entries().size(); ++i) {
-        const ServiceEntry& entry = parts->services.Entries()[i];
+    for (std::size_t i = 0; i < parts->services.currentServices().size(); ++i) {
+        const ServiceEntry& entry = parts->services.currentServices()[i];
         QString name;
         parts->backEnd.BKQNEWS_bGetFullNameByService(name, entry.service);
         serviceStates.append(QVariantMap{{QStringLiteral("id"), entry.service},
@@ -110,25 +112,25 @@ QVariantMap TRVNewsCtrlView::State() const {
                                          {QStringLiteral("selected"), entry.selected},
                                          {QStringLiteral("date"), entry.date},
                                          {QStringLiteral("pending"), entry.searchPending},
-                                         {QStringLiteral("registered"), parts->services.bIsRegistered(i)}});
+                                         {QStringLiteral("registered"), parts->services.isRegistered(i)}});
     }
     QVariantList noticeStates;
     const ListNotices notices = parts->board.notices();
     const std::array<int, 3> awaited = parts->output.awaited();
-    for (const auto& [kind, text] : notices.InOrder())
+    for (const auto& [kind, text] : notices.inOrder())
         noticeStates.append(
-            QVariantMap{{QStringLiteral("text"), text}, {QStringLiteral("command"), CommandOf(kind)}});
+            QVariantMap{{QStringLiteral("text"), text}, {QStringLiteral("command"), commandOf(kind)}});
     return {{QStringLiteral("mode"), static_cast<int>(parts->modes.shown())},
             {QStringLiteral("newsType"), parts->newsType},
             {QStringLiteral("storyShowType"), GetStoryShowType()},
             {QStringLiteral("mask"), parts->settings.functions},
             {QStringLiteral("focusedTab"), parts->settings.focusedTab},
-            {QStringLiteral("dataState"), static_cast<int>(GetDataState())},
+            {QStringLiteral("dataState"), static_cast<int>(currentDataState())},
             {QStringLiteral("caption"), parts->board.status()},
             {QStringLiteral("awaited"), QVariantMap{{QStringLiteral("print"), awaited[0]},
                                                     {QStringLiteral("save"), awaited[1]},
                                                     {QStringLiteral("preview"), awaited[2]}}},
-            {QStringLiteral("notice"), notices.Text()},
+            {QStringLiteral("notice"), notices.text()},
             {QStringLiteral("notices"), noticeStates},
             {QStringLiteral("showCategory"), parts->settings.showCategory},
             {QStringLiteral("storyRow"), parts->story.shownRow()},
@@ -140,6 +142,6 @@ QVariantMap TRVNewsCtrlView::State() const {
             {QStringLiteral("tabs"), tabs},
             {QStringLiteral("tip"), parts->tip.state()},
             {QStringLiteral("shortTip"), parts->searches.shortTipState()},
-            {QStringLiteral("quotes"), quoteState(parts->stage.pGetQuotes())},
+            {QStringLiteral("quotes"), quoteState(parts->stage.relatedQuotes())},
             {QStringLiteral("services"), serviceStates}};
 }

@@ -4,10 +4,12 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
 #include "host/controls/s_button.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "news_view/view_parts.h"
 #include "output/printable_story.h"
+
+using namespace wirepane;
 
 void TRVNewsCtrlView::OnShowStory() {
     parts->story.show();
@@ -53,11 +55,11 @@ void TRVNewsCtrlView::OnReCoverStory() {
 // --- Printing and saving ---
 
 void TRVNewsCtrlView::OnPrintNews() {
-    parts->output.tell(PrintSelection(std::nullopt));
+    parts->output.tell(printSelection(std::nullopt));
 }
 
 void TRVNewsCtrlView::OnSaveNews() {
-    parts->output.tell(SaveSelection(std::nullopt));
+    parts->output.tell(saveSelection(std::nullopt));
 }
 
 void TRVNewsCtrlView::OnBtnPrint() {
@@ -68,15 +70,15 @@ void TRVNewsCtrlView::OnBtnSaveas() {
     OnSaveNews();
 }
 
-NewsOutcome TRVNewsCtrlView::PrintSelection(const std::optional<OutputTarget>& target) {
+NewsOutcome TRVNewsCtrlView::printSelection(const std::optional<OutputTarget>& target) {
     return parts->output.print(parts->selectedEntries(), target);
 }
 
-NewsOutcome TRVNewsCtrlView::SaveSelection(const std::optional<OutputTarget>& target) {
+NewsOutcome TRVNewsCtrlView::saveSelection(const std::optional<OutputTarget>& target) {
     return parts->output.save(parts->selectedEntries(), target);
 }
 
-void TRVNewsCtrlView::PreviewSelection() {
+void TRVNewsCtrlView::previewSelection() {
     parts->output.tell(parts->output.preview(parts->selectedEntries()));
 }
 

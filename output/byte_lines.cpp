@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "output/byte_lines.h"
 
+namespace wirepane {
+
 namespace {
 
 constexpr char32_t firstDoubleByte = 0x80;
@@ -14,29 +16,29 @@ qsizetype endOfCharacter(QStringView text, qsizetype at) {
 
 }  // namespace
 
-int ByteWidth(char32_t character) {
+int byteWidth(char32_t character) {
     return character < firstDoubleByte ? 1 : 2;
 }
 
-int ByteLength(QStringView text) {
+int byteLength(QStringView text) {
     int bytes = 0;
     for (qsizetype at = 0; at < text.size(); at = endOfCharacter(text, at))
-        bytes += ByteWidth(text[at].unicode());
+        bytes += byteWidth(text[at].unicode());
     return bytes;
 }
 
-QStringView FirstBytes(QStringView text, int bytes) {
+QStringView firstBytes(QStringView text, int bytes) {
     qsizetype at = 0;
     for (int room = bytes; at < text.size(); at = endOfCharacter(text, at)) {
-        room -= ByteWidth(text[at].unicode());
+        room -= byteWidth(text[at].unicode());
         if (room < 0)
             break;
     }
     return text.first(at);
 }
 
-QStringView TakeLine(QStringView& text) {
-    QStringView line = FirstBytes(text, bytesPerLine);
+QStringView takeLine(QStringView& text) {
+    QStringView line = firstBytes(text, bytesPerLine);
     const qsizetype lineFeed = line.indexOf(u'\n');
     if (lineFeed >= 0)
         line.truncate(lineFeed + 1);
@@ -44,10 +46,10 @@ QStringView TakeLine(QStringView& text) {
     return line;
 }
 
-std::vector<QStringView> TitleLines(QStringView title, bool whole) {
+std::vector<QStringView> titleLines(QStringView title, bool whole) {
     std::vector<QStringView> lines;
-    for (QStringView line = FirstBytes(title, bytesPerLine); line.size() < title.size();
-         line = FirstBytes(title, bytesPerLine)) {
+    for (QStringView line = firstBytes(title, bytesPerLine); line.size() < title.size();
+         line = firstBytes(title, bytesPerLine)) {
         lines.push_back(line);
         title = title.sliced(line.size());
     }
@@ -55,3 +57,5 @@ std::vector<QStringView> TitleLines(QStringView title, bool whole) {
         lines.push_back(title);
     return lines;
 }
+
+}  // namespace wirepane

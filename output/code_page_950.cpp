@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace wirepane {
+
 namespace {
 
 using PageTable = std::array<std::uint16_t, 0x10000>;  // 0: not a double-byte character of the page
@@ -39,7 +41,7 @@ std::optional<PageTable> readTable() {
 
 }  // namespace
 
-std::optional<PageBytes> EncodeCodePage950(QStringView text) {
+std::optional<PageBytes> encodeCodePage950(QStringView text) {
     static const std::optional<PageTable> table = readTable();
     if (!table)
         return std::nullopt;
@@ -62,3 +64,5 @@ std::optional<PageBytes> EncodeCodePage950(QStringView text) {
     }
     return result;
 }
+
+}  // namespace wirepane

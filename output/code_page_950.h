@@ -7,6 +7,8 @@
 
 #include <optional>
 
+namespace wirepane {
+
 // Text as bytes of code page 950.
 struct PageBytes {
     QByteArray bytes;
@@ -14,4 +16,6 @@ struct PageBytes {
 };
 
 // Nothing where this system has no converter for the page. Thread: any.
-std::optional<PageBytes> EncodeCodePage950(QStringView text);
+std::optional<PageBytes> encodeCodePage950(QStringView text);
+
+}  // namespace wirepane

@@ -10,7 +10,9 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
-bool OutputDialogs::bAskPrinter(QPrinter& printer, QWidget* parent) {
+namespace wirepane {
+
+bool OutputDialogs::askPrinter(QPrinter& printer, QWidget* parent) {
     printer.setCollateCopies(true);
     const HeapDialog dialog(new QPrintDialog(&printer, parent));
     dialog->setOption(QAbstractPrintDialog::PrintPageRange, false);
@@ -21,14 +23,14 @@ bool OutputDialogs::bAskPrinter(QPrinter& printer, QWidget* parent) {
     return dialog->exec() == QDialog::Accepted;
 }
 
-std::optional<OutputTarget> OutputDialogs::AskFile(BKQuoteInterface& backEnd, QWidget* parent) {
+std::optional<OutputTarget> OutputDialogs::askFile(BKQuoteInterface& backEnd, QWidget* parent) {
     const QString pattern = QStringLiteral(" (*.txt)");
-    const QString utf8Filter = LangText(backEnd, keys::utf8FileFilter) + pattern;
+    const QString utf8Filter = langText(backEnd, keys::utf8FileFilter) + pattern;
     const HeapDialog dialog(new QFileDialog(parent));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
-    dialog->setNameFilters({LangText(backEnd, keys::fileFilter) + pattern, utf8Filter});
+    dialog->setNameFilters({langText(backEnd, keys::fileFilter) + pattern, utf8Filter});
     dialog->setDefaultSuffix(QStringLiteral("txt"));
     if (dialog->exec() != QDialog::Accepted || dialog->selectedFiles().isEmpty())
         return std::nullopt;
@@ -37,3 +39,5 @@ std::optional<OutputTarget> OutputDialogs::AskFile(BKQuoteInterface& backEnd, QW
         dialog->selectedNameFilter() == utf8Filter ? NewsFileType::Utf8 : NewsFileType::CodePage950,
         {}};
 }
+
+}  // namespace wirepane

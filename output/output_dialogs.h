@@ -10,6 +10,8 @@ class BKQuoteInterface;
 class QPrinter;
 class QWidget;
 
+namespace wirepane {
+
 // What printing and saving ask the user; the platform's dialogs. Each runs an event loop: what the caller
 // holds may be gone afterwards.
 class OutputDialogs {
@@ -18,8 +20,10 @@ public:
 
     // Lets the user choose the printer and its settings; no ranges of pages, several copies collated. Where
     // there is no printer, a PDF file. False: cancelled.
-    virtual bool bAskPrinter(QPrinter& printer, QWidget* parent);
+    virtual bool askPrinter(QPrinter& printer, QWidget* parent);
     // The file to save to and its type, code page 950 first. A file that exists is not asked about. Nothing:
     // cancelled.
-    virtual std::optional<OutputTarget> AskFile(BKQuoteInterface& backEnd, QWidget* parent);
+    virtual std::optional<OutputTarget> askFile(BKQuoteInterface& backEnd, QWidget* parent);
 };
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 constexpr int longestFaceName = 31;
@@ -33,14 +35,14 @@ bool standsByItself(char32_t character) {
 
 }  // namespace
 
-Shaping ShapingFor(const QString& text) {
+Shaping shapingFor(const QString& text) {
     const QList<uint> characters = text.toUcs4();
     return std::all_of(characters.begin(), characters.end(), standsByItself) ? Shaping::None : Shaping::Full;
 }
 
-QFont PageFont(BKQuoteInterface& backEnd, int pixelSize, Shaping shaping) {
+QFont pageFont(BKQuoteInterface& backEnd, int pixelSize, Shaping shaping) {
     QFont font;
-    font.setFamilies(QStringList{LangText(backEnd, keys::printFont).left(longestFaceName)} +
+    font.setFamilies(QStringList{langText(backEnd, keys::printFont).left(longestFaceName)} +
                      CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont().families());
     // Lines are counted in half widths: tables stand in columns where the face counts so too.
     font.setStyleHint(QFont::Monospace);
@@ -51,3 +53,5 @@ QFont PageFont(BKQuoteInterface& backEnd, int pixelSize, Shaping shaping) {
         font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
 }
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 constexpr int headingBytes = 12;
@@ -65,11 +67,11 @@ struct ItemLines {
 int fittingSize(const QRect& box, int inset, int lines, const std::vector<QString>& texts, int wanted,
                 const TextMeasure& measure) {
     const auto widest = std::max_element(texts.begin(), texts.end(), [&](const auto& a, const auto& b) {
-        return measure.Width(a, wanted) < measure.Width(b, wanted);
+        return measure.width(a, wanted) < measure.width(b, wanted);
     });
     const auto fits = [&](int size) {
-        return measure.LineHeight(size) * (lines + 1) <= box.height() &&
-               (widest == texts.end() || measure.Width(*widest, size) <= box.width() - 2 * inset);
+        return measure.lineHeight(size) * (lines + 1) <= box.height() &&
+               (widest == texts.end() || measure.width(*widest, size) <= box.width() - 2 * inset);
     };
     int smallest = 1;
     for (int above = wanted + 1; above - smallest > 1;) {
@@ -85,7 +87,7 @@ std::vector<PlacedText> placeLines(const std::vector<QString>& lines, const QRec
     std::vector<PlacedText> placed;
     int y = box.top();
     for (const QString& line : lines) {
-        y += measure.LineHeight(pixelSize);
+        y += measure.lineHeight(pixelSize);
         placed.push_back({QPoint(box.left() + inset, y), line, pixelSize});
     }
     return placed;
@@ -122,13 +124,13 @@ FontSizes sizesFor(const std::vector<ItemLines>& items, const PagePlan& plan, in
 // The page without the texts of its story.
 PrintedPage commonPage(const PagePlan& plan, const PageSize& size, const PageTexts& texts, int number,
                        int pixelSize, const TextMeasure& measure) {
-    const int lineHeight = measure.LineHeight(pixelSize);
-    const auto width = [&](const QString& text) { return measure.Width(text, pixelSize); };
+    const int lineHeight = measure.lineHeight(pixelSize);
+    const auto width = [&](const QString& text) { return measure.width(text, pixelSize); };
     const int footerBottom = plan.frames.footer.top() + plan.frames.footer.height();
     PrintedPage page;
     page.number = number;
     page.frames = plan.frames;
-    page.heading = {QPoint(size.width * 2 / 5, 0), FirstBytes(texts.heading, headingBytes).toString(),
+    page.heading = {QPoint(size.width * 2 / 5, 0), firstBytes(texts.heading, headingBytes).toString(),
                     pixelSize};
     page.date = {QPoint(plan.dateRight - width(texts.date), middle(plan.dateTop, footerBottom, lineHeight)),
                  texts.date, pixelSize};
@@ -147,24 +149,24 @@ QString withoutLineEnd(QStringView line) {
 
 }  // namespace
 
-std::vector<std::vector<QString>> BodyPages(QStringView story) {
+std::vector<std::vector<QString>> bodyPages(QStringView story) {
     std::vector<std::vector<QString>> pages;
     while (!story.isEmpty()) {
         std::vector<QString>& page = pages.emplace_back();
         while (!story.isEmpty() && page.size() < bodyLinesPerPage)
-            page.push_back(withoutLineEnd(TakeLine(story)));
+            page.push_back(withoutLineEnd(takeLine(story)));
     }
     return pages;
 }
 
-std::vector<PrintedPage> LayOutPages(const NewsItems& items, const PageSize& size, const PageTexts& texts,
+std::vector<PrintedPage> layOutPages(const OutputItems& items, const PageSize& size, const PageTexts& texts,
                                      int pixelSize, const TextMeasure& measure) {
     std::vector<ItemLines> lines;
-    for (const NewsItem& item : items) {
+    for (const OutputItem& item : items) {
         ItemLines& itemLines = lines.emplace_back();
-        for (const QStringView line : TitleLines(item.title, item.wholeTitle))
+        for (const QStringView line : titleLines(item.title, item.wholeTitle))
             itemLines.title.push_back(line.toString());
-        itemLines.pages = BodyPages(item.story);
+        itemLines.pages = bodyPages(item.story);
     }
     const PagePlan plan = planOf(size);
     const FontSizes sizes = sizesFor(lines, plan, pixelSize, measure);
@@ -180,3 +182,5 @@ std::vector<PrintedPage> LayOutPages(const NewsItems& items, const PageSize& siz
     }
     return pages;
 }
+
+}  // namespace wirepane

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "output/news_item.h"
+#include "output/output_item.h"
 
 #include <QPoint>
 #include <QRect>
 #include <QString>
 
 #include <vector>
+
+namespace wirepane {
 
 // The printed pages as a value: where every frame and every text stands. Drawing adds nothing to it. Pure.
 
@@ -26,8 +28,8 @@ public:
     virtual ~TextMeasure() = default;
 
     // The height of a line of the page's font at this pixel size, with the space between lines.
-    virtual int LineHeight(int pixelSize) const = 0;
-    virtual int Width(const QString& text, int pixelSize) const = 0;
+    virtual int lineHeight(int pixelSize) const = 0;
+    virtual int width(const QString& text, int pixelSize) const = 0;
 };
 
 // What stands on every page.
@@ -66,9 +68,11 @@ struct PrintedPage {
 inline constexpr int bodyLinesPerPage = 49;
 
 // A story in the lines of its pages, without their line ends. Empty for an empty story.
-std::vector<std::vector<QString>> BodyPages(QStringView story);
+std::vector<std::vector<QString>> bodyPages(QStringView story);
 
 // The pages of the items, in their order. `pixelSize` is that of the page's font; titles and bodies keep it
 // where they fit their boxes, otherwise all titles, or all bodies, are scaled down evenly until they do.
-std::vector<PrintedPage> LayOutPages(const NewsItems& items, const PageSize& size, const PageTexts& texts,
+std::vector<PrintedPage> layOutPages(const OutputItems& items, const PageSize& size, const PageTexts& texts,
                                      int pixelSize, const TextMeasure& measure);
+
+}  // namespace wirepane

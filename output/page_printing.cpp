@@ -21,6 +21,8 @@
 #include <algorithm>
 #include <map>
 
+namespace wirepane {
+
 namespace {
 
 constexpr int pointSize = 12;
@@ -35,12 +37,12 @@ public:
     DeviceMeasure(QPagedPaintDevice& paintDevice, BKQuoteInterface& newsBackEnd)
         : device(paintDevice), backEnd(newsBackEnd) {}
 
-    int LineHeight(int pixelSize) const override {
+    int lineHeight(int pixelSize) const override {
         const QFontMetrics metrics = metricsOf(pixelSize, Shaping::None);
         return metrics.height() + std::max(metrics.leading(), 0);
     }
-    int Width(const QString& text, int pixelSize) const override {
-        return metricsOf(pixelSize, ShapingFor(text)).horizontalAdvance(text);
+    int width(const QString& text, int pixelSize) const override {
+        return metricsOf(pixelSize, shapingFor(text)).horizontalAdvance(text);
     }
 
 private:
@@ -48,7 +50,7 @@ private:
         const auto found = known.find({pixelSize, shaping});
         if (found != known.end())
             return found->second;
-        const QFontMetrics metrics(PageFont(backEnd, pixelSize, shaping), &device);
+        const QFontMetrics metrics(pageFont(backEnd, pixelSize, shaping), &device);
         return known.emplace(std::pair(pixelSize, shaping), metrics).first->second;
     }
 
@@ -58,7 +60,7 @@ private:
 };
 
 void drawText(QPainter& painter, BKQuoteInterface& backEnd, const PlacedText& text) {
-    painter.setFont(PageFont(backEnd, text.pixelSize, ShapingFor(text.text)));
+    painter.setFont(pageFont(backEnd, text.pixelSize, shapingFor(text.text)));
     painter.drawText(text.topLeft + QPoint(0, painter.fontMetrics().ascent()), text.text);
 }
 
@@ -86,7 +88,7 @@ void drawPage(QPainter& painter, BKQuoteInterface& backEnd, const PrintedPage& p
 NewsOutcome failure(BKQuoteInterface& backEnd, const QString& where, const QString& why) {
     NewsOutcome outcome;
     outcome.failed = true;
-    outcome.message = LangText(backEnd, keys::printFailed).arg(where, why);
+    outcome.message = langText(backEnd, keys::printFailed).arg(where, why);
     return outcome;
 }
 
@@ -114,42 +116,42 @@ QString charactersOf(const std::vector<PrintedPage>& pages) {
 }
 
 NewsOutcome writePdf(const QString& file, const QPageLayout& layout, BKQuoteInterface& backEnd,
-                     const NewsItems& items) {
+                     const OutputItems& items) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     NewsOutcome outcome;
     QString drawn;
     {
         QPdfWriter writer(&buffer);
-        writer.setTitle(LangText(backEnd, keys::printDocument));
+        writer.setTitle(langText(backEnd, keys::printDocument));
         writer.setResolution(pdfResolution);
         writer.setPageLayout(layout);
-        const auto pages = PagesOn(writer, backEnd, items);
-        if (pages.empty() || !DrawPages(writer, backEnd, pages))
+        const auto pages = pagesOn(writer, backEnd, items);
+        if (pages.empty() || !drawPages(writer, backEnd, pages))
             return outcome;
         outcome.count = static_cast<int>(pages.size());
         drawn = charactersOf(pages);
     }
     QByteArray& pdf = buffer.buffer();
-    NameDrawnCharacters(pdf, drawn, PageFont(backEnd, pointSize, Shaping::None));
-    if (const auto why = WriteWholeFile(file, pdf))
+    nameDrawnCharacters(pdf, drawn, pageFont(backEnd, pointSize, Shaping::None));
+    if (const auto why = writeWholeFile(file, pdf))
         return failure(backEnd, QDir::toNativeSeparators(file), *why);
     return outcome;
 }
 
 }  // namespace
 
-std::vector<PrintedPage> PagesOn(QPagedPaintDevice& device, BKQuoteInterface& backEnd,
-                                 const NewsItems& items) {
+std::vector<PrintedPage> pagesOn(QPagedPaintDevice& device, BKQuoteInterface& backEnd,
+                                 const OutputItems& items) {
     const QDateTime now = QDateTime::fromSecsSinceEpoch(host_clock::now());
-    const PageTexts texts{LangText(backEnd, keys::printHeading),
+    const PageTexts texts{langText(backEnd, keys::printHeading),
                           now.toString(QStringLiteral("yyyy/MM/dd HH:mm"))};
     const PageSize size{device.width(), device.height(), device.widthMM(), device.heightMM()};
     const int pixelSize = (2 * pointSize * device.logicalDpiY() + pointsPerInch) / (2 * pointsPerInch);
-    return LayOutPages(items, size, texts, pixelSize, DeviceMeasure(device, backEnd));
+    return layOutPages(items, size, texts, pixelSize, DeviceMeasure(device, backEnd));
 }
 
-bool DrawPages(QPagedPaintDevice& device, BKQuoteInterface& backEnd, const std::vector<PrintedPage>& pages) {
+bool drawPages(QPagedPaintDevice& device, BKQuoteInterface& backEnd, const std::vector<PrintedPage>& pages) {
     QPainter painter;
     if (!painter.begin(&device))
         return false;
@@ -161,11 +163,11 @@ bool DrawPages(QPagedPaintDevice& device, BKQuoteInterface& backEnd, const std::
     return painter.end();
 }
 
-NewsOutcome PrintItems(QPrinter& printer, BKQuoteInterface& backEnd, const NewsItems& items) {
+NewsOutcome printItems(QPrinter& printer, BKQuoteInterface& backEnd, const OutputItems& items) {
     if (!printer.outputFileName().isEmpty())
         return writePdf(printer.outputFileName(), printer.pageLayout(), backEnd, items);
-    printer.setDocName(LangText(backEnd, keys::printDocument));
-    const auto pages = PagesOn(printer, backEnd, items);
+    printer.setDocName(langText(backEnd, keys::printDocument));
+    const auto pages = pagesOn(printer, backEnd, items);
     NewsOutcome outcome;
     if (pages.empty())
         return outcome;
@@ -174,30 +176,32 @@ NewsOutcome PrintItems(QPrinter& printer, BKQuoteInterface& backEnd, const NewsI
     std::vector<PrintedPage> all;
     for (int i = 0; i < times; ++i)
         all.insert(all.end(), pages.begin(), pages.end());
-    if (!printer.isValid() || !DrawPages(printer, backEnd, all) || printer.printerState() == QPrinter::Error)
-        return failure(backEnd, printer.printerName(), LangText(backEnd, keys::printerGone));
+    if (!printer.isValid() || !drawPages(printer, backEnd, all) || printer.printerState() == QPrinter::Error)
+        return failure(backEnd, printer.printerName(), langText(backEnd, keys::printerGone));
     outcome.count = static_cast<int>(pages.size());
     return outcome;
 }
 
-NewsOutcome PrintItemsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items) {
+NewsOutcome printItemsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const OutputItems& items) {
     const auto paper = paperNamed(target.paper);
     if (!paper)
         return failure(backEnd, QDir::toNativeSeparators(target.file),
-                       LangText(backEnd, keys::noSuchPaper).arg(target.paper));
+                       langText(backEnd, keys::noSuchPaper).arg(target.paper));
     const QMarginsF margins(pdfMarginMm, pdfMarginMm, pdfMarginMm, pdfMarginMm);
     return writePdf(target.file, QPageLayout(*paper, QPageLayout::Portrait, margins, QPageLayout::Millimeter),
                     backEnd, items);
 }
 
-void PreviewItems(BKQuoteInterface& backEnd, const NewsItems& items, QWidget* parent) {
+void previewItems(BKQuoteInterface& backEnd, const OutputItems& items, QWidget* parent) {
     QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(LangText(backEnd, keys::printDocument));
+    printer.setDocName(langText(backEnd, keys::printDocument));
     const HeapDialog dialog(new QPrintPreviewDialog(&printer, parent));
     QObject::connect(dialog.get(), &QPrintPreviewDialog::paintRequested, dialog.get(),
                      [&backEnd, &items](QPrinter* device) {
-                         DrawPages(*device, backEnd, PagesOn(*device, backEnd, items));
+                         drawPages(*device, backEnd, pagesOn(*device, backEnd, items));
                      });
     dialog->resize(previewSize);
     dialog->exec();
 }
+
+}  // namespace wirepane

@@ -12,6 +12,8 @@
 #include <set>
 #include <vector>
 
+namespace wirepane {
+
 namespace {
 
 constexpr int digits = 4;  // of a character in the file: "<4E00>"
@@ -92,7 +94,7 @@ void correctList(QByteArray& pdf, qsizetype from, qsizetype to, const DrawnChara
 
 }  // namespace
 
-void NameDrawnCharacters(QByteArray& pdf, const QString& drawn, const QFont& font) {
+void nameDrawnCharacters(QByteArray& pdf, const QString& drawn, const QFont& font) {
     const DrawnCharacters characters(drawn, font);
     // Nothing moves: the file's own table of places stays right.
     for (qsizetype map = pdf.indexOf("begincmap"); map >= 0; map = pdf.indexOf("begincmap", map + 1)) {
@@ -105,3 +107,5 @@ void NameDrawnCharacters(QByteArray& pdf, const QString& drawn, const QFont& fon
         }
     }
 }
+
+}  // namespace wirepane

@@ -7,14 +7,18 @@
 
 #include <algorithm>
 
+using namespace wirepane;
+
 void Linefeed(QString& story) {
     const auto isBreak = [](QChar c) { return c == u'\r' || c == u'\n'; };
     story.truncate(std::find_if(story.cbegin(), story.cend(), isBreak) - story.cbegin());
     vConvertStoryContent(story);
 }
 
-QString DatedStory(const CStory& story) {
-    const QDateTime local = LocalTime(story.time);
+namespace wirepane {
+
+QString datedStory(const CStory& story) {
+    const QDateTime local = localTime(story.time);
     const QDate day = local.date();
     const QTime time = local.time();
     const bool known = local.isValid();
@@ -24,20 +28,22 @@ QString DatedStory(const CStory& story) {
            story.text;
 }
 
-QString PrintedStory(const CStory& story) {
-    QString text = DatedStory(story);
+QString printedStory(const CStory& story) {
+    QString text = datedStory(story);
     Linefeed(text);
     return text;
 }
 
-QString LateStory(const CStory& story) {
-    QString text = DatedStory(story);
+QString lateStory(const CStory& story) {
+    QString text = datedStory(story);
     vConvertStoryContent(text);
     return text;
 }
 
-QString SavedStory(const CStory& story) {
+QString savedStory(const CStory& story) {
     QString text = story.text;
     Linefeed(text);
     return text;
 }
+
+}  // namespace wirepane

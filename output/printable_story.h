@@ -12,13 +12,17 @@
 // line break. Hosts rely on the cut: wire form has neither CR nor LF.
 void Linefeed(QString& story);
 
+namespace wirepane {
+
 // The story with its date line in front, "@@@@yyyy/mm/dd hh:mm:ss" in local time, not yet in lines; month and
 // day as hosts know them ("%4d/%02d/%2d"). A time outside any calendar: "   0/00/ 0 -1:-1:-1".
-QString DatedStory(const CStory& story);
+QString datedStory(const CStory& story);
 
 // As a story prints that was at hand, and one that came later: that one is not cut.
-QString PrintedStory(const CStory& story);
-QString LateStory(const CStory& story);
+QString printedStory(const CStory& story);
+QString lateStory(const CStory& story);
 // As a file holds a story that was at hand: without the date line. One that came later is a LateStory there
 // too.
-QString SavedStory(const CStory& story);
+QString savedStory(const CStory& story);
+
+}  // namespace wirepane

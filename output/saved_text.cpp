@@ -6,6 +6,8 @@
 #include "output/byte_lines.h"
 #include "output/code_page_950.h"
 
+namespace wirepane {
+
 namespace {
 
 constexpr int hyphens = 80;
@@ -20,7 +22,7 @@ QString converted(BKQuoteInterface& backEnd, const QString& text) {
 }
 
 void appendWholeTitle(QString& out, const QString& title) {
-    for (const QStringView line : TitleLines(title, true)) {
+    for (const QStringView line : titleLines(title, true)) {
         out += line;
         out += u'\n';
     }
@@ -30,7 +32,7 @@ void appendWholeTitle(QString& out, const QString& title) {
 // Its line feeds count as a part of it.
 void appendTitle(QString& out, const QString& title) {
     const QString text = title + QStringLiteral("\n\n");
-    const std::vector<QStringView> lines = TitleLines(text, false);
+    const std::vector<QStringView> lines = titleLines(text, false);
     const bool whole = lines.front().size() == text.size();
     for (const QStringView line : lines) {
         out += line;
@@ -42,8 +44,8 @@ void appendTitle(QString& out, const QString& title) {
 void appendStory(QString& out, const QString& story) {
     const QString text = story + QStringLiteral("\n\n");
     QStringView rest = text;
-    while (FirstBytes(rest, bytesPerLine).size() < rest.size()) {
-        out += TakeLine(rest);
+    while (firstBytes(rest, bytesPerLine).size() < rest.size()) {
+        out += takeLine(rest);
         out += QStringLiteral("\r\n");
     }
     out += rest;
@@ -51,22 +53,24 @@ void appendStory(QString& out, const QString& story) {
 
 }  // namespace
 
-std::optional<SavedText> WriteNews(BKQuoteInterface& backEnd, const NewsItems& items, NewsFileType type) {
+std::optional<SavedText> writeNews(BKQuoteInterface& backEnd, const OutputItems& items, NewsFileType type) {
     QString text;
-    for (const NewsItem& item : items) {
-        text += u' ' + LangText(backEnd, keys::newsNumber) + u' ' + QString::number(item.entry.sequence) +
+    for (const OutputItem& item : items) {
+        text += u' ' + langText(backEnd, keys::newsNumber) + u' ' + QString::number(item.entry.sequence) +
                 QStringLiteral("\n\n");
-        text += LangText(backEnd, keys::newsTitle);
+        text += langText(backEnd, keys::newsTitle);
         const bool whole = item.wholeTitle && type == NewsFileType::Utf8;
         (whole ? appendWholeTitle : appendTitle)(text, converted(backEnd, item.title));
-        text += LangText(backEnd, keys::newsStory);
+        text += langText(backEnd, keys::newsStory);
         appendStory(text, converted(backEnd, item.story));
         text += QString(hyphens, u'-') + u'\n';
     }
     if (type == NewsFileType::Utf8)
         return SavedText{text.toUtf8(), 0};
-    const auto page = EncodeCodePage950(text);
+    const auto page = encodeCodePage950(text);
     if (!page)
         return std::nullopt;
     return SavedText{page->bytes, page->replaced};
 }
+
+}  // namespace wirepane

@@ -3,13 +3,15 @@
 #pragma once
 
 #include "host/views/news_output.h"
-#include "output/news_item.h"
+#include "output/output_item.h"
 
 #include <QByteArray>
 
 #include <optional>
 
 class BKQuoteInterface;
+
+namespace wirepane {
 
 // A saved file as its bytes.
 struct SavedText {
@@ -20,4 +22,6 @@ struct SavedText {
 // The items one after the other: number, title, story, a line of hyphens; the labels in the language in
 // force. Nothing where this system cannot write the file type. Line ends are the platform's text mode's to
 // translate.
-std::optional<SavedText> WriteNews(BKQuoteInterface& backEnd, const NewsItems& items, NewsFileType type);
+std::optional<SavedText> writeNews(BKQuoteInterface& backEnd, const OutputItems& items, NewsFileType type);
+
+}  // namespace wirepane

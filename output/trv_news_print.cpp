@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace wirepane;
+
 TRVNewsPrint::TRVNewsPrint(BKQuoteInterface& newsBackEnd, OutputDialogs& outputDialogs, QWidget& window)
     : backEnd(newsBackEnd), dialogs(outputDialogs), parentWindow(window) {}
 
@@ -20,19 +22,19 @@ TRVNewsPrint::~TRVNewsPrint() {
     *alive = false;
 }
 
-StoryForm TRVNewsPrint::Form() const {
-    return &PrintedStory;
+StoryForm TRVNewsPrint::storyForm() const {
+    return &printedStory;
 }
 
-NewsItems TRVNewsPrint::Gather(const std::vector<CHeadlineTable>& entries,
-                               const std::vector<unsigned char>& services) const {
-    NewsItems items = GatherNews(backEnd, entries, services, Form());
-    for (NewsItem& item : items)
+OutputItems TRVNewsPrint::gather(const std::vector<CHeadlineTable>& entries,
+                                 const std::vector<unsigned char>& services) const {
+    OutputItems items = gatherNews(backEnd, entries, services, storyForm());
+    for (OutputItem& item : items)
         item.wholeTitle = wholeTitles;
     return items;
 }
 
-NewsOutcome TRVNewsPrint::PutOut(NewsItems items, QWidget* parent,
+NewsOutcome TRVNewsPrint::putOut(OutputItems items, QWidget* parent,
                                  const std::optional<OutputTarget>& target) {
     if (busy) {
         queue.push_back({std::move(items), {}, target});
@@ -41,130 +43,130 @@ NewsOutcome TRVNewsPrint::PutOut(NewsItems items, QWidget* parent,
         return later;
     }
     const std::shared_ptr<bool> here = alive;
-    NewsOutcome outcome = OutputAlone(items, parent, target);
+    NewsOutcome outcome = outputAlone(items, parent, target);
     if (*here)
-        vPutOutSettled();
+        putOutSettled();
     return outcome;
 }
 
-void TRVNewsPrint::vWait(NewsItems items, const std::vector<unsigned char>& services,
-                         const std::optional<OutputTarget>& target) {
-    RequestMissing(backEnd, items);
+void TRVNewsPrint::wait(OutputItems items, const std::vector<unsigned char>& services,
+                        const std::optional<OutputTarget>& target) {
+    requestMissing(backEnd, items);
     queue.push_back({std::move(items), services, target});
-    vTakeAnswer();
+    takeAnswer();
 }
 
-int TRVNewsPrint::iAwaited() const {
+int TRVNewsPrint::awaitedCount() const {
     std::ptrdiff_t awaited = 0;
     for (const Pending& pending : queue)
         awaited += std::count_if(pending.items.begin(), pending.items.end(),
-                                 [](const NewsItem& item) { return !item.bIsSettled(); });
+                                 [](const OutputItem& item) { return !item.isSettled(); });
     return static_cast<int>(awaited);
 }
 
-int TRVNewsPrint::iReady() const {
+int TRVNewsPrint::readyCount() const {
     std::size_t ready = 0;
     for (const Pending& pending : queue) {
-        if (!bIsSettled(pending.items))
-            ready += Complete(pending.items).size();
+        if (!isSettled(pending.items))
+            ready += completeItems(pending.items).size();
     }
     return static_cast<int>(ready);
 }
 
-void TRVNewsPrint::vForgetAwaited() {
-    std::erase_if(queue, [](const Pending& pending) { return !bIsSettled(pending.items); });
+void TRVNewsPrint::forgetAwaited() {
+    std::erase_if(queue, [](const Pending& pending) { return !isSettled(pending.items); });
     if (onAwaited)
         onAwaited();
 }
 
-void TRVNewsPrint::vPutOutReady() {
+void TRVNewsPrint::putOutReady() {
     for (Pending& pending : queue) {
-        if (Complete(pending.items).empty())
+        if (completeItems(pending.items).empty())
             continue;
-        for (NewsItem& item : pending.items)
-            item.leftOut = !item.bIsComplete();
+        for (OutputItem& item : pending.items)
+            item.leftOut = !item.isComplete();
     }
-    vForgetAwaited();
-    vPutOutSoon();
+    forgetAwaited();
+    putOutSoon();
 }
 
 void TRVNewsPrint::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
     for (Pending& pending : queue)
-        TakeTitles(backEnd, pending.items, entries, pending.services);
-    vTakeAnswer();
+        takeTitles(backEnd, pending.items, entries, pending.services);
+    takeAnswer();
 }
 
 void TRVNewsPrint::RespStory(const CHeadlineTable& entry) {
     for (Pending& pending : queue)
-        TakeStory(backEnd, pending.items, entry);
-    vTakeAnswer();
+        takeStory(backEnd, pending.items, entry);
+    takeAnswer();
 }
 
-void TRVNewsPrint::vTakeAnswer() {
+void TRVNewsPrint::takeAnswer() {
     if (onAwaited && !queue.empty())
         onAwaited();
-    vPutOutSoon();
+    putOutSoon();
 }
 
 // The user may be asked, and the back end's delivery shall not wait for that.
-void TRVNewsPrint::vPutOutSoon() {
+void TRVNewsPrint::putOutSoon() {
     const bool settled = std::any_of(queue.begin(), queue.end(),
-                                     [](const Pending& pending) { return bIsSettled(pending.items); });
+                                     [](const Pending& pending) { return isSettled(pending.items); });
     if (!settled || std::exchange(soon, true))
         return;
     QTimer::singleShot(0, &parentWindow, [this, here = alive] {
         if (!*here)
             return;
         soon = false;
-        vPutOutSettled();
+        putOutSettled();
     });
 }
 
 // From the last list to the first. Lists may come and be completed while one is put out.
-void TRVNewsPrint::vPutOutSettled() {
+void TRVNewsPrint::putOutSettled() {
     const std::shared_ptr<bool> here = alive;
     while (*here && !busy) {
         const auto settled = std::find_if(queue.rbegin(), queue.rend(),
-                                          [](const Pending& pending) { return bIsSettled(pending.items); });
+                                          [](const Pending& pending) { return isSettled(pending.items); });
         if (settled == queue.rend())
             return;
         const Pending pending = std::move(*settled);
         queue.erase(std::next(settled).base());
-        const NewsOutcome outcome = OutputAlone(pending.items, nullptr, pending.target);
+        const NewsOutcome outcome = outputAlone(pending.items, nullptr, pending.target);
         if (*here && onFinished)
             onFinished(outcome);
     }
 }
 
-NewsOutcome TRVNewsPrint::OutputAlone(const NewsItems& items, QWidget* parent,
+NewsOutcome TRVNewsPrint::outputAlone(const OutputItems& items, QWidget* parent,
                                       const std::optional<OutputTarget>& target) {
     const std::shared_ptr<bool> here = alive;
     busy = true;
-    const NewsOutcome outcome = OutputSettled(items, parent != nullptr ? parent : &parentWindow, target);
+    const NewsOutcome outcome = outputSettled(items, parent != nullptr ? parent : &parentWindow, target);
     if (*here)
         busy = false;
     return outcome;
 }
 
-NewsOutcome TRVNewsPrint::OutputSettled(const NewsItems& items, QWidget* parent,
+NewsOutcome TRVNewsPrint::outputSettled(const OutputItems& items, QWidget* parent,
                                         const std::optional<OutputTarget>& target) {
     BKQuoteInterface& news = backEnd;
-    const NewsItems complete = Complete(items);
+    const OutputItems complete = completeItems(items);
     if (complete.empty() && !items.empty())
-        return NothingToPutOut(news);
-    NewsOutcome outcome = Output(complete, parent, target);
-    TellLeftOut(news, items.size() - complete.size(), outcome);
+        return nothingToPutOut(news);
+    NewsOutcome outcome = output(complete, parent, target);
+    tellLeftOut(news, items.size() - complete.size(), outcome);
     return outcome;
 }
 
-NewsOutcome TRVNewsPrint::Output(const NewsItems& items, QWidget* parent,
+NewsOutcome TRVNewsPrint::output(const OutputItems& items, QWidget* parent,
                                  const std::optional<OutputTarget>& target) {
     BKQuoteInterface& news = backEnd;
     if (target)
-        return PrintItemsToPdf(*target, news, items);
+        return printItemsToPdf(*target, news, items);
     QPrinter printer(QPrinter::HighResolution);
     const std::shared_ptr<bool> here = alive;
-    if (!dialogs.bAskPrinter(printer, parent) || !*here)
+    if (!dialogs.askPrinter(printer, parent) || !*here)
         return {};
-    return PrintItems(printer, news, items);
+    return printItems(printer, news, items);
 }

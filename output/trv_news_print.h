@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "output/news_item.h"
 #include "output/output_dialogs.h"
+#include "output/output_item.h"
 
 #include <functional>
 #include <memory>
@@ -20,73 +20,76 @@ class QWidget;
 class TRVNewsPrint {
 public:
     // All must outlive this. `parentWindow` is the parent of dialogs that are given no other.
-    TRVNewsPrint(BKQuoteInterface& backEnd, OutputDialogs& dialogs, QWidget& parentWindow);
+    TRVNewsPrint(BKQuoteInterface& backEnd, wirepane::OutputDialogs& dialogs, QWidget& parentWindow);
     TRVNewsPrint(const TRVNewsPrint&) = delete;
     TRVNewsPrint& operator=(const TRVNewsPrint&) = delete;
     virtual ~TRVNewsPrint();
 
     // Titles of several lines are put out whole from here on, in files of code page 950 excepted. At first:
     // without their tail.
-    void vSetWholeTitles(bool on) { wholeTitles = on; }
+    void setWholeTitles(bool on) { wholeTitles = on; }
     // What is at hand of these entries, titles with any of `services`.
-    NewsItems Gather(const std::vector<CHeadlineTable>& entries,
-                     const std::vector<unsigned char>& services) const;
+    wirepane::OutputItems gather(const std::vector<CHeadlineTable>& entries,
+                                 const std::vector<unsigned char>& services) const;
     // Puts settled news out. Without a target the user is asked. While other news is being put out it waits
     // for its turn.
-    NewsOutcome PutOut(NewsItems items, QWidget* parent, const std::optional<OutputTarget>& target);
+    wirepane::NewsOutcome putOut(wirepane::OutputItems items, QWidget* parent,
+                                 const std::optional<wirepane::OutputTarget>& target);
     // Asks the back end for what is missing, once, and puts the news out when it is settled.
-    void vWait(NewsItems items, const std::vector<unsigned char>& services,
-               const std::optional<OutputTarget>& target);
-    bool bIsWaiting() const { return !queue.empty(); }
+    void wait(wirepane::OutputItems items, const std::vector<unsigned char>& services,
+              const std::optional<wirepane::OutputTarget>& target);
+    bool isWaiting() const { return !queue.empty(); }
     // How many pieces of news are waited for: they lack their title or their story.
-    int iAwaited() const;
+    int awaitedCount() const;
     // How many pieces of the news that waits for others are complete.
-    int iReady() const;
+    int readyCount() const;
     // Waits no longer: news that waits is never put out; what is complete of it is put out without the rest.
-    void vForgetAwaited();
-    void vPutOutReady();
+    void forgetAwaited();
+    void putOutReady();
 
     // What the back end answers.
     void RespHeadLine(const std::vector<CHeadlineTable>& entries);
     void RespStory(const CHeadlineTable& entry);
 
-    // Is told when iAwaited may have changed.
-    void vSetOnAwaited(std::function<void()> told) { onAwaited = std::move(told); }
+    // Is told when awaitedCount may have changed.
+    void setOnAwaited(std::function<void()> told) { onAwaited = std::move(told); }
     // Is told what came of news that had waited.
-    void vSetOnFinished(std::function<void(const NewsOutcome&)> told) { onFinished = std::move(told); }
+    void setOnFinished(std::function<void(const wirepane::NewsOutcome&)> told) {
+        onFinished = std::move(told);
+    }
 
 protected:
     // Puts the items out. May run an event loop in which the owner goes.
-    virtual NewsOutcome Output(const NewsItems& items, QWidget* parent,
-                               const std::optional<OutputTarget>& target);
+    virtual wirepane::NewsOutcome output(const wirepane::OutputItems& items, QWidget* parent,
+                                         const std::optional<wirepane::OutputTarget>& target);
     // How stories that are at hand are written.
-    virtual StoryForm Form() const;
+    virtual wirepane::StoryForm storyForm() const;
 
-    BKQuoteInterface& News() const { return backEnd; }
-    OutputDialogs& Dialogs() const { return dialogs; }
+    BKQuoteInterface& newsBackEnd() const { return backEnd; }
+    wirepane::OutputDialogs& outputDialogs() const { return dialogs; }
 
 private:
     struct Pending {
-        NewsItems items;
+        wirepane::OutputItems items;
         std::vector<unsigned char> services;
-        std::optional<OutputTarget> target;
+        std::optional<wirepane::OutputTarget> target;
     };
-    NewsOutcome OutputAlone(const NewsItems& items, QWidget* parent,
-                            const std::optional<OutputTarget>& target);
-    void vTakeAnswer();
-    NewsOutcome OutputSettled(const NewsItems& items, QWidget* parent,
-                              const std::optional<OutputTarget>& target);
-    void vPutOutSoon();
-    void vPutOutSettled();
+    wirepane::NewsOutcome outputAlone(const wirepane::OutputItems& items, QWidget* parent,
+                                      const std::optional<wirepane::OutputTarget>& target);
+    void takeAnswer();
+    wirepane::NewsOutcome outputSettled(const wirepane::OutputItems& items, QWidget* parent,
+                                        const std::optional<wirepane::OutputTarget>& target);
+    void putOutSoon();
+    void putOutSettled();
 
     BKQuoteInterface& backEnd;
-    OutputDialogs& dialogs;
+    wirepane::OutputDialogs& dialogs;
     QWidget& parentWindow;
     std::vector<Pending> queue;
     std::function<void()> onAwaited;
-    std::function<void(const NewsOutcome&)> onFinished;
+    std::function<void(const wirepane::NewsOutcome&)> onFinished;
     bool busy = false;
-    bool soon = false;  // vPutOutSettled is on its way
+    bool soon = false;  // putOutSettled is on its way
     bool wholeTitles = false;
     std::shared_ptr<bool> alive = std::make_shared<bool>(true);
 };

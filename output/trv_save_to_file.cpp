@@ -10,42 +10,48 @@
 
 #include <QDir>
 
-StoryForm TRVSaveToFile::Form() const {
-    return &SavedStory;
+using namespace wirepane;
+
+StoryForm TRVSaveToFile::storyForm() const {
+    return &savedStory;
 }
 
-NewsOutcome TRVSaveToFile::Output(const NewsItems& items, QWidget* parent,
+NewsOutcome TRVSaveToFile::output(const OutputItems& items, QWidget* parent,
                                   const std::optional<OutputTarget>& target) {
-    BKQuoteInterface& news = News();
-    const std::optional<OutputTarget> file = target ? target : Dialogs().AskFile(news, parent);
-    return file ? SaveItemsTo(*file, news, items) : NewsOutcome();
+    BKQuoteInterface& news = newsBackEnd();
+    const std::optional<OutputTarget> file = target ? target : outputDialogs().askFile(news, parent);
+    return file ? saveItemsTo(*file, news, items) : NewsOutcome();
 }
 
-NewsOutcome SaveItemsTo(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items) {
+namespace wirepane {
+
+NewsOutcome saveItemsTo(const OutputTarget& target, BKQuoteInterface& backEnd, const OutputItems& items) {
     const QString name = QDir::toNativeSeparators(target.file);
     const auto failure = [&](const QString& why) {
         NewsOutcome outcome;
         outcome.failed = true;
-        outcome.message = LangText(backEnd, keys::saveFailed).arg(name, why);
+        outcome.message = langText(backEnd, keys::saveFailed).arg(name, why);
         return outcome;
     };
-    const auto text = WriteNews(backEnd, items, target.type);
+    const auto text = writeNews(backEnd, items, target.type);
     if (!text)
-        return failure(LangText(backEnd, keys::noCodePage));
-    if (const auto why = WriteWholeFile(target.file, text->bytes, QIODevice::Text))
+        return failure(langText(backEnd, keys::noCodePage));
+    if (const auto why = writeWholeFile(target.file, text->bytes, QIODevice::Text))
         return failure(*why);
     NewsOutcome outcome;
     outcome.count = static_cast<int>(text->bytes.size());
     if (text->replaced > 0)
         outcome.message =
-            LangText(backEnd, keys::charactersReplaced).arg(QString::number(text->replaced), name);
+            langText(backEnd, keys::charactersReplaced).arg(QString::number(text->replaced), name);
     return outcome;
 }
 
-NewsOutcome TRVNewsPreview::Output(const NewsItems& items, QWidget* parent,
+NewsOutcome TRVNewsPreview::output(const OutputItems& items, QWidget* parent,
                                    const std::optional<OutputTarget>&) {
     NewsOutcome outcome;
     outcome.count = static_cast<int>(items.size());
-    PreviewItems(News(), items, parent);
+    previewItems(newsBackEnd(), items, parent);
     return outcome;
 }
+
+}  // namespace wirepane

@@ -10,10 +10,12 @@ public:
     using TRVNewsPrint::TRVNewsPrint;
 
 protected:
-    NewsOutcome Output(const NewsItems& items, QWidget* parent,
-                       const std::optional<OutputTarget>& target) override;
-    StoryForm Form() const override;
+    wirepane::NewsOutcome output(const wirepane::OutputItems& items, QWidget* parent,
+                                 const std::optional<wirepane::OutputTarget>& target) override;
+    wirepane::StoryForm storyForm() const override;
 };
+
+namespace wirepane {
 
 // Shows the pages that would be printed.
 class TRVNewsPreview : public TRVNewsPrint {
@@ -21,9 +23,11 @@ public:
     using TRVNewsPrint::TRVNewsPrint;
 
 protected:
-    NewsOutcome Output(const NewsItems& items, QWidget* parent,
+    NewsOutcome output(const OutputItems& items, QWidget* parent,
                        const std::optional<OutputTarget>& target) override;
 };
 
 // Writes the items to the target; `message` tells of characters that the file type could not hold.
-NewsOutcome SaveItemsTo(const OutputTarget& target, BKQuoteInterface& backEnd, const NewsItems& items);
+NewsOutcome saveItemsTo(const OutputTarget& target, BKQuoteInterface& backEnd, const OutputItems& items);
+
+}  // namespace wirepane

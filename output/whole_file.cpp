@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+namespace wirepane {
+
 namespace {
 
 // A disk that fills up takes a part without an error: the rest meets it.
@@ -22,7 +24,7 @@ bool writeAll(QIODevice& device, const QByteArray& bytes) {
 
 }  // namespace
 
-std::optional<QString> WriteWholeFile(const QString& file, const QByteArray& bytes,
+std::optional<QString> writeWholeFile(const QString& file, const QByteArray& bytes,
                                       QIODevice::OpenMode mode) {
     // A device, a pipe: written to, not replaced.
     const QFileInfo existing(file);
@@ -38,3 +40,5 @@ std::optional<QString> WriteWholeFile(const QString& file, const QByteArray& byt
         return std::nullopt;
     return whole.errorString();
 }
+
+}  // namespace wirepane

@@ -8,7 +8,11 @@
 
 #include <optional>
 
+namespace wirepane {
+
 // Writes a file as a whole: a file of this name that exists is replaced when the new one is complete, and
 // stays as it is otherwise. `mode` may add QIODevice::Text. The reason when it failed.
-std::optional<QString> WriteWholeFile(const QString& file, const QByteArray& bytes,
+std::optional<QString> writeWholeFile(const QString& file, const QByteArray& bytes,
                                       QIODevice::OpenMode mode = QIODevice::NotOpen);
+
+}  // namespace wirepane

@@ -11,10 +11,9 @@
 #include <limits>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 namespace {
-
-using namespace wirepane;
 
 constexpr int statusDone = 0;
 constexpr int statusCut = 1;  // whoever reads wants no more

@@ -18,6 +18,8 @@
 
 #include <array>
 
+using namespace wirepane;
+
 namespace {
 
 constexpr int scopeWidth = 100;
@@ -30,98 +32,98 @@ CAdvSearchDlg::CAdvSearchDlg(const CSearch& edited, const KeywordList& keywordPo
                              const RecentSearches& searches, QWidget* parent)
     : KeywordEntryDlg(edited.keywords, keywordPool, {search_ids::removeAll, search_keys::askRemoveAll},
                       parent),
-      condition(ForEverySymbol(edited)),
+      condition(forEverySymbol(edited)),
       recent(searches) {
-    SetWindowId(this, search_ids::advancedSearch);
-    setWindowTitle(LangText(search_keys::title));
+    setWindowId(this, search_ids::advancedSearch);
+    setWindowTitle(langText(search_keys::title));
     auto* column = new QVBoxLayout(this);
     column->setSpacing(fontMetrics().height() * 2 / 3);
-    column->addLayout(pCreateEntry(), 1);
-    column->addLayout(pCreateChoices());
-    column->addLayout(pCreateRecent());
-    column->addLayout(pCreateEnd());
+    column->addLayout(createEntry(), 1);
+    column->addLayout(createChoices());
+    column->addLayout(createRecent());
+    column->addLayout(createEnd());
     resize(fontMetrics().averageCharWidth() * 100, sizeHint().height());
-    vFillRecent();
-    vLoadCondition();
+    fillRecent();
+    loadCondition();
 }
 
-void CAdvSearchDlg::vGetResult(CSearch& edited, KeywordList& keywordPool, RecentSearches& searches) const {
+void CAdvSearchDlg::readResult(CSearch& edited, KeywordList& keywordPool, RecentSearches& searches) const {
     edited = condition;
-    edited.keywords = Keywords();
-    keywordPool = Pool();
+    edited.keywords = composedKeywords();
+    keywordPool = offeredKeywords();
     searches = recent;
 }
 
-QLayout* CAdvSearchDlg::pCreateChoices() {
+QLayout* CAdvSearchDlg::createChoices() {
     auto* grid = new QGridLayout;
     scope =
-        AddChoices(this, *grid, 0, AddCaption(this, search_ids::scopeCaption, LangText(search_keys::scope)),
-                   ChoicesOf(search_ids::scopeButtons));
+        addChoices(this, *grid, 0, addCaption(this, search_ids::scopeCaption, langText(search_keys::scope)),
+                   choicesOf(search_ids::scopeButtons));
     method =
-        AddChoices(this, *grid, 1, AddCaption(this, search_ids::methodCaption, LangText(search_keys::method)),
-                   ChoicesOf(search_ids::methodButtons));
+        addChoices(this, *grid, 1, addCaption(this, search_ids::methodCaption, langText(search_keys::method)),
+                   choicesOf(search_ids::methodButtons));
     grid->setHorizontalSpacing(fontMetrics().height());
     grid->setColumnStretch(static_cast<int>(search_ids::scopeButtons.size()) + 1, 1);
     return grid;
 }
 
-void CAdvSearchDlg::vCreateRecentList() {
+void CAdvSearchDlg::createRecentList() {
     recentList = new ReportList(
         std::array{
-            ReportColumn{LangText(search_keys::scopeColumn), scopeWidth, Qt::AlignLeft, ScopeTexts()},
-            ReportColumn{LangText(search_keys::methodColumn), methodWidth, Qt::AlignHCenter, MethodTexts()},
-            ReportColumn{LangText(search_keys::contentsColumn), 0}},
+            ReportColumn{langText(search_keys::scopeColumn), scopeWidth, Qt::AlignLeft, scopeTexts()},
+            ReportColumn{langText(search_keys::methodColumn), methodWidth, Qt::AlignHCenter, methodTexts()},
+            ReportColumn{langText(search_keys::contentsColumn), 0}},
         this);
-    SetWindowId(recentList, search_ids::recent);
-    recentList->setAccessibleName(LangText(search_keys::recent));
-    recentList->setFixedHeight(recentList->iHeightOf(recentRows));
+    setWindowId(recentList, search_ids::recent);
+    recentList->setAccessibleName(langText(search_keys::recent));
+    recentList->setFixedHeight(recentList->heightOf(recentRows));
     recentList->installEventFilter(this);
-    connect(recentList, &QTableWidget::cellClicked, this, &CAdvSearchDlg::vSelectRecent);
+    connect(recentList, &QTableWidget::cellClicked, this, &CAdvSearchDlg::selectRecent);
     connect(recentList, &QTableWidget::itemSelectionChanged, this, [this] {
         if (recentList->selectionModel()->hasSelection())
-            vSelectRecent(recentList->currentRow());
+            selectRecent(recentList->currentRow());
     });
     connect(recentList, &QTableWidget::cellDoubleClicked, this, [this](int row) {
-        vSelectRecent(row);
+        selectRecent(row);
         QMetaObject::invokeMethod(
-            this, [this] { OnOK(); }, Qt::QueuedConnection);
+            this, [this] { onOK(); }, Qt::QueuedConnection);
     });
 }
 
-QLayout* CAdvSearchDlg::pCreateRecent() {
-    vCreateRecentList();
+QLayout* CAdvSearchDlg::createRecent() {
+    createRecentList();
     auto* column = new QVBoxLayout;
-    column->addWidget(AddCaption(this, search_ids::recentCaption, LangText(search_keys::recent)));
+    column->addWidget(addCaption(this, search_ids::recentCaption, langText(search_keys::recent)));
     column->addWidget(recentList);
     return column;
 }
 
 // --- The condition and its controls ---
 
-void CAdvSearchDlg::vLoadCondition() {
+void CAdvSearchDlg::loadCondition() {
     method->button(numberOf(shownMethod(condition.method)))->setChecked(true);
     scope->button(numberOf(scopeOf(condition.scope)))->setChecked(true);
-    vSetKeywords(condition.keywords);
+    setKeywords(condition.keywords);
 }
 
-void CAdvSearchDlg::vReadCondition() {
+void CAdvSearchDlg::readCondition() {
     condition.method = static_cast<unsigned char>(method->checkedId());
     condition.scope = static_cast<unsigned char>(scope->checkedId());
-    condition.keywords = ShownKeywords();
-    vSetKeywords(condition.keywords);
+    condition.keywords = shownKeywords();
+    setKeywords(condition.keywords);
 }
 
-void CAdvSearchDlg::vFillRecent() {
+void CAdvSearchDlg::fillRecent() {
     int row = 0;
     for (auto search = recent.rbegin(); search != recent.rend(); ++search, ++row) {
         QString contents;
         for (const QString& keyword : search->keywords)
             contents += keyword + u' ';
-        recentList->vSetRow(row, {ScopeText(search->scope), MethodText(search->method), contents});
+        recentList->setRow(row, {scopeText(search->scope), searchMethodText(search->method), contents});
     }
 }
 
-void CAdvSearchDlg::vSelectRecent(int row) {
+void CAdvSearchDlg::selectRecent(int row) {
     const int index = static_cast<int>(recent.size()) - row - 1;
     const QSignalBlocker quiet(recentList);
     if (index < 0 || index >= static_cast<int>(recent.size())) {
@@ -129,12 +131,12 @@ void CAdvSearchDlg::vSelectRecent(int row) {
         return;
     }
     condition = recent[static_cast<std::size_t>(index)];
-    vLoadCondition();
+    loadCondition();
     recentList->selectRow(row);
 }
 
-void CAdvSearchDlg::OnOK() {
-    vReadCondition();
-    KeepRecentSearch(recent, condition);
-    KeywordEntryDlg::OnOK();
+void CAdvSearchDlg::onOK() {
+    readCondition();
+    keepRecentSearch(recent, condition);
+    KeywordEntryDlg::onOK();
 }

@@ -7,37 +7,41 @@
 #include "search/recent_searches.h"
 
 class QButtonGroup;
+
+namespace wirepane {
 class ReportList;
+
+}  // namespace wirepane
 
 // The modal dialog in which a keyword search is composed: its keywords, where and how they must match, or one
 // of the searches made last.
-class CAdvSearchDlg : public KeywordEntryDlg {
+class CAdvSearchDlg : public wirepane::KeywordEntryDlg {
     Q_OBJECT
 
 public:
     // Edits copies of all three.
-    CAdvSearchDlg(const CSearch& condition, const KeywordList& pool, const RecentSearches& recent,
-                  QWidget* parent);
+    CAdvSearchDlg(const CSearch& condition, const wirepane::KeywordList& pool,
+                  const wirepane::RecentSearches& recent, QWidget* parent);
 
     // What the caller takes back whatever the result: the condition and the pool as they were edited, and the
     // recent searches, which OK alone changes.
-    void vGetResult(CSearch& condition, KeywordList& pool, RecentSearches& recent) const;
+    void readResult(CSearch& condition, wirepane::KeywordList& pool, wirepane::RecentSearches& recent) const;
 
 protected:
-    void OnOK() override;
+    void onOK() override;
 
 private:
-    QLayout* pCreateChoices();
-    QLayout* pCreateRecent();
-    void vCreateRecentList();
-    void vFillRecent();
-    void vLoadCondition();
-    void vReadCondition();
-    void vSelectRecent(int row);
+    QLayout* createChoices();
+    QLayout* createRecent();
+    void createRecentList();
+    void fillRecent();
+    void loadCondition();
+    void readCondition();
+    void selectRecent(int row);
 
     CSearch condition;
-    RecentSearches recent;
+    wirepane::RecentSearches recent;
     QButtonGroup* scope = nullptr;   // button ids: SearchScope
     QButtonGroup* method = nullptr;  // button ids: SearchMethod
-    ReportList* recentList = nullptr;
+    wirepane::ReportList* recentList = nullptr;
 };

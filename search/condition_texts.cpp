@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 QLatin1StringView nameKeyOf(const auto& table, auto number) {
@@ -16,7 +18,7 @@ QLatin1StringView nameKeyOf(const auto& table, auto number) {
 }
 
 QString shown(QLatin1StringView nameKey) {
-    return NameOfCaption(CaptionWithoutKey(LangText(nameKey)));
+    return nameOfCaption(captionWithoutKey(langText(nameKey)));
 }
 
 QStringList allShown(const auto& table) {
@@ -35,26 +37,28 @@ std::vector<Choice> choicesOf(const auto& table, const auto& buttons) {
 
 }  // namespace
 
-std::vector<Choice> ChoicesOf(std::span<const search_ids::MethodButton> buttons) {
+std::vector<Choice> choicesOf(std::span<const search_ids::MethodButton> buttons) {
     return choicesOf(searchMethods, buttons);
 }
 
-std::vector<Choice> ChoicesOf(std::span<const search_ids::ScopeButton> buttons) {
+std::vector<Choice> choicesOf(std::span<const search_ids::ScopeButton> buttons) {
     return choicesOf(searchScopes, buttons);
 }
 
-QString ScopeText(int scope) {
+QString scopeText(int scope) {
     return shown(nameKeyOf(searchScopes, scopeOf(scope)));
 }
 
-QString MethodText(int method) {
+QString searchMethodText(int method) {
     return shown(nameKeyOf(searchMethods, shownMethod(method)));
 }
 
-QStringList ScopeTexts() {
+QStringList scopeTexts() {
     return allShown(searchScopes);
 }
 
-QStringList MethodTexts() {
+QStringList methodTexts() {
     return allShown(searchMethods);
 }
+
+}  // namespace wirepane

@@ -16,17 +16,19 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-QPushButton* AddButton(QDialog* dialog, int id, const QString& text) {
+namespace wirepane {
+
+QPushButton* makeButton(QDialog* dialog, int id, const QString& text) {
     auto* button = new QPushButton(text, dialog);
-    SetWindowId(button, id);
+    setWindowId(button, id);
     button->setAutoDefault(false);
     button->installEventFilter(dialog);
     return button;
 }
 
-QLabel* AddCaption(QDialog* dialog, int id, const QString& text) {
+QLabel* addCaption(QDialog* dialog, int id, const QString& text) {
     auto* caption = new QLabel(dialog);
-    SetWindowId(caption, id);
+    setWindowId(caption, id);
     caption->setTextFormat(Qt::PlainText);
     caption->setText(text);
     QFont bold = caption->font();
@@ -35,14 +37,14 @@ QLabel* AddCaption(QDialog* dialog, int id, const QString& text) {
     return caption;
 }
 
-QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* caption,
+QButtonGroup* addChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* caption,
                          std::span<const Choice> choices) {
     auto* group = new QButtonGroup(dialog);
     grid.addWidget(caption, row, 0);
     int column = 1;
     for (const Choice& choice : choices) {
-        auto* button = new QRadioButton(LangText(choice.key), dialog);
-        SetWindowId(button, choice.id);
+        auto* button = new QRadioButton(langText(choice.key), dialog);
+        setWindowId(button, choice.id);
         button->installEventFilter(dialog);
         grid.addWidget(button, row, column++);
         group->addButton(button, choice.value);
@@ -50,8 +52,8 @@ QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* ca
     return group;
 }
 
-QLayout* AddEnd(QDialog* dialog, QPushButton* ok) {
-    QPushButton* cancel = AddButton(dialog, search_ids::cancel, LangText(search_keys::cancel));
+QLayout* addEnd(QDialog* dialog, QPushButton* ok) {
+    QPushButton* cancel = makeButton(dialog, search_ids::cancel, langText(search_keys::cancel));
     QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
     if (QWidget* last = cancel->previousInFocusChain(); last != ok)
         QWidget::setTabOrder(last, ok);
@@ -63,7 +65,7 @@ QLayout* AddEnd(QDialog* dialog, QPushButton* ok) {
     return row;
 }
 
-int RunOver(QWidget* below, QDialog* child) {
+int runOver(QWidget* below, QDialog* child) {
     const QPointer<QWidget> alive(below);
     const int result = child->exec();
     if (below == nullptr)
@@ -75,8 +77,8 @@ int RunOver(QWidget* below, QDialog* child) {
     return result;
 }
 
-int RunModally(QDialog* dialog) {
-    return RunOver(dialog->parentWidget(), dialog) == QDialog::Accepted ? search_ids::ok : search_ids::cancel;
+int runModally(QDialog* dialog) {
+    return runOver(dialog->parentWidget(), dialog) == QDialog::Accepted ? search_ids::ok : search_ids::cancel;
 }
 
 namespace {
@@ -91,11 +93,13 @@ QMessageBox* boxOver(QWidget* below, QMessageBox::Icon icon, const QString& text
 
 }  // namespace
 
-bool AskYesNo(QWidget* below, const QString& question) {
+bool askYesNo(QWidget* below, const QString& question) {
     QMessageBox* box = boxOver(below, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No);
-    return RunOver(below, box) == QMessageBox::Yes;
+    return runOver(below, box) == QMessageBox::Yes;
 }
 
-void TellError(QWidget* below, const QString& text) {
-    RunOver(below, boxOver(below, QMessageBox::Warning, text, QMessageBox::Ok));
+void tellError(QWidget* below, const QString& text) {
+    runOver(below, boxOver(below, QMessageBox::Warning, text, QMessageBox::Ok));
 }
+
+}  // namespace wirepane

@@ -14,13 +14,15 @@ class QLayout;
 class QPushButton;
 class QWidget;
 
+namespace wirepane {
+
 // Controls of the search dialogs: direct children of the dialog, known by their numbers, with the dialog as
 // their event filter.
 
 // A button that Enter presses only where the dialog says so.
-QPushButton* AddButton(QDialog* dialog, int id, const QString& text);
+QPushButton* makeButton(QDialog* dialog, int id, const QString& text);
 // A bold caption. `id` 0: nobody asks for it.
-QLabel* AddCaption(QDialog* dialog, int id, const QString& text);
+QLabel* addCaption(QDialog* dialog, int id, const QString& text);
 
 struct Choice {
     int id;
@@ -29,20 +31,22 @@ struct Choice {
 };
 // A row of radio buttons behind a caption, of which one is checked at a time; they stand in the group by
 // their values, which are not negative.
-QButtonGroup* AddChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* caption,
+QButtonGroup* addChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* caption,
                          std::span<const Choice> choices);
 
 // The last row of the dialog: `ok`, and a button that cancels. They come last in the order of the Tab key
 // when all other controls are there.
-QLayout* AddEnd(QDialog* dialog, QPushButton* ok);
+QLayout* addEnd(QDialog* dialog, QPushButton* ok);
 
 // Runs a dialog over a window or a part of it, which gets the keyboard back. Its result; QDialog::Rejected
 // when what is below is gone by then, and `child` with it. Below may be nothing.
-int RunOver(QWidget* below, QDialog* child);
+int runOver(QWidget* below, QDialog* child);
 // Runs a dialog over its parent: search_ids::ok or search_ids::cancel. The dialog may be gone by then.
-int RunModally(QDialog* dialog);
+int runModally(QDialog* dialog);
 // Asks the user a question over a window or a part of it. True for Yes; false also when what is below is gone
 // by then.
-bool AskYesNo(QWidget* below, const QString& question);
+bool askYesNo(QWidget* below, const QString& question);
 // Tells the user why nothing happened.
-void TellError(QWidget* below, const QString& text);
+void tellError(QWidget* below, const QString& text);
+
+}  // namespace wirepane

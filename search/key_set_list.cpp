@@ -7,6 +7,8 @@
 #include <QSignalBlocker>
 #include <QStyle>
 
+namespace wirepane {
+
 KeySetList::KeySetList(std::span<const ReportColumn> columns, QWidget* parent) : ReportList(columns, parent) {
     const int boxWidth = 2 * style()->pixelMetric(QStyle::PM_IndicatorWidth);
     setColumnWidth(0, columnWidth(0) + boxWidth);
@@ -14,7 +16,7 @@ KeySetList::KeySetList(std::span<const ReportColumn> columns, QWidget* parent) :
         if (changed->column() != 0)
             return;
         clickTicked = true;
-        emit TicksChanged();
+        emit ticksChanged();
     });
     connect(this, &QTableWidget::cellClicked, this, [this](int row) {
         if (!clickTicked)
@@ -23,42 +25,42 @@ KeySetList::KeySetList(std::span<const ReportColumn> columns, QWidget* parent) :
     connect(this, &QTableWidget::cellDoubleClicked, this, [this](int row) {
         if (!clickTicked)
             QMetaObject::invokeMethod(
-                this, [this, row] { emit RowDoubleClicked(row); }, Qt::QueuedConnection);
+                this, [this, row] { emit rowDoubleClicked(row); }, Qt::QueuedConnection);
     });
     connect(this, &QTableWidget::itemSelectionChanged, this, [this] {
         if (selectionModel()->hasSelection())
             emit RowChosen(currentRow());
         else
-            emit RowLeft();
+            emit rowLeft();
     });
 }
 
-void KeySetList::vSetKeySet(int row, const QStringList& texts) {
+void KeySetList::setKeySet(int row, const QStringList& texts) {
     const QSignalBlocker quiet(this);
     const bool added = row == rowCount();
-    vSetRow(row, texts);
+    setRow(row, texts);
     if (added)
         item(row, 0)->setCheckState(Qt::Unchecked);
 }
 
-void KeySetList::vTick(int row, bool ticked) {
+void KeySetList::tick(int row, bool ticked) {
     item(row, 0)->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
 }
 
-bool KeySetList::bIsTicked(int row) const {
+bool KeySetList::isTicked(int row) const {
     return item(row, 0)->checkState() == Qt::Checked;
 }
 
-std::vector<int> KeySetList::TickedRows() const {
+std::vector<int> KeySetList::tickedRows() const {
     std::vector<int> rows;
     for (int row = 0; row < rowCount(); ++row) {
-        if (bIsTicked(row))
+        if (isTicked(row))
             rows.push_back(row);
     }
     return rows;
 }
 
-void KeySetList::vMark(int row) {
+void KeySetList::mark(int row) {
     const QSignalBlocker quiet(this);
     clearSelection();
     if (row < 0)
@@ -67,7 +69,7 @@ void KeySetList::vMark(int row) {
     scrollToItem(item(row, 0));
 }
 
-// The mouse selects by being clicked beside a check box: RowChosen is answered with vMark.
+// The mouse selects by being clicked beside a check box: RowChosen is answered with mark.
 QItemSelectionModel::SelectionFlags KeySetList::selectionCommand(const QModelIndex& index,
                                                                  const QEvent* event) const {
     const bool byMouse = dynamic_cast<const QMouseEvent*>(event) != nullptr;
@@ -85,16 +87,16 @@ void KeySetList::mousePressEvent(QMouseEvent* event) {
 void KeySetList::mouseReleaseEvent(QMouseEvent* event) {
     ReportList::mouseReleaseEvent(event);
     if (event->button() == Qt::RightButton)
-        emit RowLeft();
+        emit rowLeft();
 }
 
 void KeySetList::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier && currentRow() >= 0) {
-        vTick(currentRow(), !bIsTicked(currentRow()));
+        tick(currentRow(), !isTicked(currentRow()));
         return;
     }
     if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection()) {
-        emit RowLeft();
+        emit rowLeft();
         return;
     }
     ReportList::keyPressEvent(event);
@@ -103,3 +105,5 @@ void KeySetList::keyPressEvent(QKeyEvent* event) {
     if (arrow && currentRow() >= 0 && !selectionModel()->hasSelection())
         emit RowChosen(currentRow());
 }
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // The list of key sets: rows with a check box, of which one may be marked as the one that is worked on. A
 // click on a check box, and Space, tick a row and do nothing else.
 class KeySetList : public ReportList {
@@ -14,23 +16,23 @@ class KeySetList : public ReportList {
 public:
     KeySetList(std::span<const ReportColumn> columns, QWidget* parent);
 
-    // As vSetRow; a row that is new is not ticked.
-    void vSetKeySet(int row, const QStringList& texts);
-    void vTick(int row, bool ticked);
-    bool bIsTicked(int row) const;
-    std::vector<int> TickedRows() const;
+    // As setRow; a row that is new is not ticked.
+    void setKeySet(int row, const QStringList& texts);
+    void tick(int row, bool ticked);
+    bool isTicked(int row) const;
+    std::vector<int> tickedRows() const;
     // Marks a row, which is brought into sight; -1: none. Sends nothing.
-    void vMark(int row);
+    void mark(int row);
 
 signals:
     // The user clicked a row, or went to it by keys.
     void RowChosen(int row);
     // He is done with the marked row: a click of the right button, Esc.
-    void RowLeft();
+    void rowLeft();
     // He clicked a row twice. Sent after the click.
-    void RowDoubleClicked(int row);
+    void rowDoubleClicked(int row);
     // A row was ticked or unticked, by whomever.
-    void TicksChanged();
+    void ticksChanged();
 
 protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
@@ -42,3 +44,5 @@ protected:
 private:
     bool clickTicked = false;  // the last click was one on a check box
 };
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 constexpr QLatin1StringView methodMark{"C:"};
@@ -59,7 +61,7 @@ std::optional<std::vector<QString>> keywordsIn(QStringView text) {
 
 }  // namespace
 
-QString TextOfKeySet(const CNewsKey& keySet) {
+QString textOfKeySet(const CNewsKey& keySet) {
     QStringList newsTypes;
     for (const std::int32_t id : keySet.newsTypes)
         newsTypes.append(QString::number(id));
@@ -70,7 +72,7 @@ QString TextOfKeySet(const CNewsKey& keySet) {
            keywords.join(u',');
 }
 
-std::optional<CNewsKey> KeySetOfText(const QString& text) {
+std::optional<CNewsKey> keySetOfText(const QString& text) {
     const qsizetype types = text.indexOf(newsTypesMark);
     const qsizetype words = types < 0 ? -1 : text.indexOf(keywordsMark, types);
     if (!text.startsWith(methodMark) || words < 0)
@@ -84,3 +86,5 @@ std::optional<CNewsKey> KeySetOfText(const QString& text) {
         return std::nullopt;
     return CNewsKey(*method, *newsTypes, *keywords);
 }
+
+}  // namespace wirepane

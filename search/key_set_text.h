@@ -6,9 +6,13 @@
 
 #include <optional>
 
+namespace wirepane {
+
 // The text that a key set is stored as: method, news types and keywords, as in "C:1 T:3,7 K:A,B". A backslash
 // makes the character behind it part of a keyword; it stands before a comma, another backslash, and the blank
 // of " K:". The remarks are left out.
-QString TextOfKeySet(const CNewsKey& keySet);
+QString textOfKeySet(const CNewsKey& keySet);
 // Reads it back; none for any other text. A text without backslashes holds its keywords as they are.
-std::optional<CNewsKey> KeySetOfText(const QString& text);
+std::optional<CNewsKey> keySetOfText(const QString& text);
+
+}  // namespace wirepane

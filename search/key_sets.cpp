@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 static_assert(CNewsKey::all == numberOf(SearchMethod::All) && CNewsKey::any == numberOf(SearchMethod::Any),
@@ -21,7 +23,7 @@ bool wantsEvery(const CNewsKey& keySet) {
 
 QString namesOf(const CNewsKey& keySet, const CategoryMap& newsTypes) {
     if (wantsEvery(keySet) || keySet.newsTypes.size() == newsTypes.size())
-        return LangText(search_keys::allNewsTypes);
+        return langText(search_keys::allNewsTypes);
     QString names;
     for (const std::int32_t id : keySet.newsTypes) {
         if (const auto type = newsTypes.find(id); type != newsTypes.end())
@@ -32,7 +34,7 @@ QString namesOf(const CNewsKey& keySet, const CategoryMap& newsTypes) {
 
 }  // namespace
 
-CategoryMap NewsTypesOf(BKQuoteInterface& backEnd, std::span<const ServiceEntry> services) {
+CategoryMap newsTypesOf(BKQuoteInterface& backEnd, std::span<const ServiceEntry> services) {
     CategoryMap newsTypes;
     for (const ServiceEntry& entry : services) {
         std::vector<QString> ids;
@@ -43,11 +45,11 @@ CategoryMap NewsTypesOf(BKQuoteInterface& backEnd, std::span<const ServiceEntry>
             newsTypes.emplace(ids[i].toInt(), names[i]);
     }
     for (auto& [id, name] : newsTypes)
-        name = ShownText(backEnd, services.front().service, name);
+        name = shownText(backEnd, services.front().service, name);
     return newsTypes;
 }
 
-std::vector<CNewsKey> WithNewsTypes(std::vector<CNewsKey> keySets, const CategoryMap& newsTypes) {
+std::vector<CNewsKey> withNewsTypes(std::vector<CNewsKey> keySets, const CategoryMap& newsTypes) {
     std::vector<std::int32_t> all;
     for (const auto& [id, name] : newsTypes)
         all.push_back(id);
@@ -59,7 +61,7 @@ std::vector<CNewsKey> WithNewsTypes(std::vector<CNewsKey> keySets, const Categor
     return keySets;
 }
 
-int SaveKeySet(std::vector<CNewsKey>& keySets, const CNewsKey& keySet, int editing) {
+int saveKeySet(std::vector<CNewsKey>& keySets, const CNewsKey& keySet, int editing) {
     const auto count = static_cast<int>(keySets.size());
     int row = editing;
     if (editing < 0)
@@ -73,7 +75,7 @@ int SaveKeySet(std::vector<CNewsKey>& keySets, const CNewsKey& keySet, int editi
     return row;
 }
 
-std::vector<int> RowsOfEqual(std::span<const CNewsKey> keySets, std::span<const CNewsKey> others) {
+std::vector<int> rowsOfEqual(std::span<const CNewsKey> keySets, std::span<const CNewsKey> others) {
     std::vector<int> rows;
     for (std::size_t row = 0; row < keySets.size(); ++row) {
         if (std::find(others.begin(), others.end(), keySets[row]) != others.end())
@@ -82,8 +84,10 @@ std::vector<int> RowsOfEqual(std::span<const CNewsKey> keySets, std::span<const 
     return rows;
 }
 
-QStringList TextsOfKeySet(const CNewsKey& keySet, const CategoryMap& newsTypes) {
+QStringList textsOfKeySet(const CNewsKey& keySet, const CategoryMap& newsTypes) {
     const QStringList keywords(keySet.keywords.begin(), keySet.keywords.end());
-    return {MethodText(keySet.knownMethod()), namesOf(keySet, newsTypes),
+    return {searchMethodText(keySet.knownMethod()), namesOf(keySet, newsTypes),
             keywords.join(QStringLiteral(", "))};
 }
+
+}  // namespace wirepane

@@ -20,12 +20,14 @@
 #include <QPushButton>
 #include <QShortcut>
 
+namespace wirepane {
+
 namespace {
 
 template <class Control>
 Control* add(QWidget* dialog, int id, const QString& name = {}) {
     auto* control = new Control(dialog);
-    SetWindowId(control, id);
+    setWindowId(control, id);
     control->setAccessibleName(name);
     return control;
 }
@@ -61,66 +63,66 @@ QPixmap pickerPicture(int side, qreal scale, const QColor& colour, const QColor&
 
 }  // namespace
 
-QGridLayout* KeywordEntryDlg::pCreateEntry() {
-    vCreateControls();
-    vLoadPickerBitmaps();
-    vConnect();
-    vFillPool({});
-    vSelectTab(0);
-    return pLayOut();
+QGridLayout* KeywordEntryDlg::createEntry() {
+    createControls();
+    loadPickerBitmaps();
+    connectControls();
+    fillPool({});
+    selectTab(0);
+    return layOut();
 }
 
-QLayout* KeywordEntryDlg::pCreateEnd() {
-    return AddEnd(this, okButton);
+QLayout* KeywordEntryDlg::createEnd() {
+    return addEnd(this, okButton);
 }
 
-void KeywordEntryDlg::vCreateControls() {
+void KeywordEntryDlg::createControls() {
     tabs = add<CXTPTabControl>(this, search_ids::tabs);
-    tabs->iInsertTab(LangText(search_keys::keywordTab), 0);
-    tabs->iInsertTab(LangText(search_keys::symbolTab), 1);
-    keywordEdit = add<QLineEdit>(this, search_ids::keywordEdit, LangText(search_keys::keywordHint));
-    keywordEdit->setPlaceholderText(LangText(search_keys::keywordHint));
-    poolList = addList(this, search_ids::pool, LangText(search_keys::keywordTab));
-    poolButton = AddButton(this, search_ids::removeFromPool, LangText(search_keys::removeFromPool));
-    symbolEdit = add<QLineEdit>(this, search_ids::symbolEdit, LangText(search_keys::symbolHint));
-    symbolEdit->setPlaceholderText(LangText(search_keys::symbolHint));
-    pickerButton = add<CHoverButton>(this, search_ids::picker, LangText(search_keys::picker));
-    pickerButton->setToolTip(LangText(search_keys::picker).toHtmlEscaped());
+    tabs->appendTab(langText(search_keys::keywordTab), 0);
+    tabs->appendTab(langText(search_keys::symbolTab), 1);
+    keywordEdit = add<QLineEdit>(this, search_ids::keywordEdit, langText(search_keys::keywordHint));
+    keywordEdit->setPlaceholderText(langText(search_keys::keywordHint));
+    poolList = addList(this, search_ids::pool, langText(search_keys::keywordTab));
+    poolButton = makeButton(this, search_ids::removeFromPool, langText(search_keys::removeFromPool));
+    symbolEdit = add<QLineEdit>(this, search_ids::symbolEdit, langText(search_keys::symbolHint));
+    symbolEdit->setPlaceholderText(langText(search_keys::symbolHint));
+    pickerButton = add<CHoverButton>(this, search_ids::picker, langText(search_keys::picker));
+    pickerButton->setToolTip(langText(search_keys::picker).toHtmlEscaped());
     pickerButton->setAutoDefault(false);
-    candidateList = addList(this, search_ids::candidates, LangText(search_keys::symbolTab));
-    addButton = AddButton(this, search_ids::add, LangText(search_keys::add));
-    removeButton = AddButton(this, search_ids::remove, LangText(search_keys::remove));
-    removeAllButton = AddButton(this, removeAll.id, LangText(search_keys::removeAll));
-    keywordList = addList(this, search_ids::keywords, LangText(search_keys::keywords));
-    addTypedButton = AddButton(this, search_ids::addTyped, {});
+    candidateList = addList(this, search_ids::candidates, langText(search_keys::symbolTab));
+    addButton = makeButton(this, search_ids::add, langText(search_keys::add));
+    removeButton = makeButton(this, search_ids::remove, langText(search_keys::remove));
+    removeAllButton = makeButton(this, removeAll.id, langText(search_keys::removeAll));
+    keywordList = addList(this, search_ids::keywords, langText(search_keys::keywords));
+    addTypedButton = makeButton(this, search_ids::addTyped, {});
     addTypedButton->setFocusPolicy(Qt::NoFocus);
     addTypedButton->hide();
-    okButton = AddButton(this, search_ids::ok, LangText(search_keys::ok));
+    okButton = makeButton(this, search_ids::ok, langText(search_keys::ok));
     for (QWidget* control : {static_cast<QWidget*>(keywordEdit), static_cast<QWidget*>(poolList),
                              static_cast<QWidget*>(symbolEdit), static_cast<QWidget*>(pickerButton),
                              static_cast<QWidget*>(candidateList), static_cast<QWidget*>(keywordList)})
         control->installEventFilter(this);
 }
 
-void KeywordEntryDlg::vConnect() {
-    connect(tabs, &QTabBar::currentChanged, this, &KeywordEntryDlg::vSelectTab);
+void KeywordEntryDlg::connectControls() {
+    connect(tabs, &QTabBar::currentChanged, this, &KeywordEntryDlg::selectTab);
     auto* nextTab = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Tab), this);
     connect(nextTab, &QShortcut::activated, this, [this] { tabs->setCurrentIndex(1 - currentTab); });
-    connect(keywordEdit, &QLineEdit::textEdited, this, &KeywordEntryDlg::vFillPool);
-    connect(symbolEdit, &QLineEdit::textEdited, this, &KeywordEntryDlg::vSymbolTyped);
-    connect(addTypedButton, &QPushButton::clicked, this, &KeywordEntryDlg::vAddTypedKeyword);
-    connect(addButton, &QPushButton::clicked, this, &KeywordEntryDlg::vAddSelected);
-    connect(poolList, &QListWidget::itemDoubleClicked, this, &KeywordEntryDlg::vAddSelected);
-    connect(candidateList, &QListWidget::itemDoubleClicked, this, &KeywordEntryDlg::vAddSelected);
-    connect(removeButton, &QPushButton::clicked, this, &KeywordEntryDlg::vRemoveSelected);
-    connect(keywordList, &QListWidget::itemDoubleClicked, this, &KeywordEntryDlg::vRemoveSelected);
-    connect(removeAllButton, &QPushButton::clicked, this, &KeywordEntryDlg::vRemoveAll);
-    connect(poolButton, &QPushButton::clicked, this, &KeywordEntryDlg::vRemoveFromPool);
-    connect(pickerButton, &QPushButton::clicked, this, &KeywordEntryDlg::vShowPicker);
-    connect(okButton, &QPushButton::clicked, this, [this] { OnOK(); });
+    connect(keywordEdit, &QLineEdit::textEdited, this, &KeywordEntryDlg::fillPool);
+    connect(symbolEdit, &QLineEdit::textEdited, this, &KeywordEntryDlg::symbolTyped);
+    connect(addTypedButton, &QPushButton::clicked, this, &KeywordEntryDlg::addTypedKeyword);
+    connect(addButton, &QPushButton::clicked, this, &KeywordEntryDlg::addSelected);
+    connect(poolList, &QListWidget::itemDoubleClicked, this, &KeywordEntryDlg::addSelected);
+    connect(candidateList, &QListWidget::itemDoubleClicked, this, &KeywordEntryDlg::addSelected);
+    connect(removeButton, &QPushButton::clicked, this, &KeywordEntryDlg::removeSelected);
+    connect(keywordList, &QListWidget::itemDoubleClicked, this, &KeywordEntryDlg::removeSelected);
+    connect(removeAllButton, &QPushButton::clicked, this, &KeywordEntryDlg::emptyKeywords);
+    connect(poolButton, &QPushButton::clicked, this, &KeywordEntryDlg::removeFromPool);
+    connect(pickerButton, &QPushButton::clicked, this, &KeywordEntryDlg::showPicker);
+    connect(okButton, &QPushButton::clicked, this, [this] { onOK(); });
 }
 
-QGridLayout* KeywordEntryDlg::pLayOut() {
+QGridLayout* KeywordEntryDlg::layOut() {
     auto* line = new QHBoxLayout;
     line->addWidget(keywordEdit);
     line->addWidget(symbolEdit);
@@ -146,7 +148,7 @@ QGridLayout* KeywordEntryDlg::pLayOut() {
     grid->addLayout(lists, 2, 0);
     grid->addWidget(poolButton, 3, 0, Qt::AlignLeft);
     grid->addLayout(buttons, 1, 1, 2, 1);
-    grid->addWidget(AddCaption(this, search_ids::keywordsCaption, LangText(search_keys::keywords)), 0, 2,
+    grid->addWidget(addCaption(this, search_ids::keywordsCaption, langText(search_keys::keywords)), 0, 2,
                     Qt::AlignLeft | Qt::AlignVCenter);
     grid->addWidget(keywordList, 1, 2, 3, 1);
     grid->setColumnStretch(0, 1);
@@ -155,7 +157,7 @@ QGridLayout* KeywordEntryDlg::pLayOut() {
     return grid;
 }
 
-void KeywordEntryDlg::vLoadPickerBitmaps() {
+void KeywordEntryDlg::loadPickerBitmaps() {
     const int side = keywordEdit->sizeHint().height();
     const QPalette colours = palette();
     const QColor text = colours.color(QPalette::Active, QPalette::ButtonText);
@@ -164,12 +166,14 @@ void KeywordEntryDlg::vLoadPickerBitmaps() {
     const QPixmap pressed = pickerPicture(side, devicePixelRatioF(),
                                           colours.color(QPalette::Active, QPalette::HighlightedText), hover);
     hover.setAlpha(70);
-    pickerButton->LoadBitmaps(normal, pressed, pickerPicture(side, devicePixelRatioF(), text, hover), normal);
-    pickerButton->SizeToContent();
+    pickerButton->loadBitmaps(normal, pressed, pickerPicture(side, devicePixelRatioF(), text, hover), normal);
+    pickerButton->sizeToContent();
 }
 
 void KeywordEntryDlg::changeEvent(QEvent* event) {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && pickerButton != nullptr)
-        vLoadPickerBitmaps();
+        loadPickerBitmaps();
 }
+
+}  // namespace wirepane

@@ -24,6 +24,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 constexpr int symbolTab = 1;
@@ -65,16 +67,16 @@ KeywordEntryDlg::KeywordEntryDlg(KeywordList conditionKeywords, KeywordList keyw
       removeAll(removing) {}
 
 int KeywordEntryDlg::DoModal() {
-    return RunModally(this);
+    return runModally(this);
 }
 
-void KeywordEntryDlg::OnOK() {
+void KeywordEntryDlg::onOK() {
     accept();
 }
 
 // --- Tabs ---
 
-void KeywordEntryDlg::vSelectTab(int tab) {
+void KeywordEntryDlg::selectTab(int tab) {
     if (tab != 0 && tab != symbolTab)
         return;
     currentTab = tab;
@@ -84,21 +86,21 @@ void KeywordEntryDlg::vSelectTab(int tab) {
     for (QWidget* control : {static_cast<QWidget*>(symbolEdit), static_cast<QWidget*>(candidateList),
                              static_cast<QWidget*>(pickerButton)})
         control->setVisible(tab == symbolTab);
-    CurrentEdit()->setFocus();
+    currentEdit()->setFocus();
 }
 
-QLineEdit* KeywordEntryDlg::CurrentEdit() const {
+QLineEdit* KeywordEntryDlg::currentEdit() const {
     return currentTab == symbolTab ? symbolEdit : keywordEdit;
 }
 
-void KeywordEntryDlg::vFocusEdit() {
-    CurrentEdit()->setFocus();
-    CurrentEdit()->selectAll();
+void KeywordEntryDlg::focusEdit() {
+    currentEdit()->setFocus();
+    currentEdit()->selectAll();
 }
 
 // --- Keywords and their pool ---
 
-void KeywordEntryDlg::vSetKeywords(const KeywordList& changed, const std::vector<int>& selected) {
+void KeywordEntryDlg::setKeywords(const KeywordList& changed, const std::vector<int>& selected) {
     keywords = changed;
     fill(*keywordList, keywords);
     for (const int row : selected)
@@ -107,7 +109,7 @@ void KeywordEntryDlg::vSetKeywords(const KeywordList& changed, const std::vector
         keywordList->scrollToItem(keywordList->item(selected.back()));
 }
 
-KeywordList KeywordEntryDlg::ShownKeywords() const {
+KeywordList KeywordEntryDlg::shownKeywords() const {
     KeywordList shown;
     for (int row = 0; row < keywordList->count(); ++row) {
         if (const QString text = keywordList->item(row)->text(); !text.isEmpty())
@@ -116,66 +118,66 @@ KeywordList KeywordEntryDlg::ShownKeywords() const {
     return shown;
 }
 
-void KeywordEntryDlg::vFillPool(const QString& part) {
-    fill(*poolList, KeywordsWith(pool, part));
+void KeywordEntryDlg::fillPool(const QString& part) {
+    fill(*poolList, keywordsWith(pool, part));
 }
 
-void KeywordEntryDlg::vAddTypedKeyword() {
+void KeywordEntryDlg::addTypedKeyword() {
     const QString typed = keywordEdit->text();
     int inPool = -1;
     if (!typed.isEmpty()) {
-        inPool = KeepKeyword(pool, typed);
-        vAddKeywords({typed});
+        inPool = keepKeyword(pool, typed);
+        addKeywords({typed});
     }
-    vFillPool({});
+    fillPool({});
     selectAlone(*poolList, inPool);
     keywordEdit->clear();
 }
 
-void KeywordEntryDlg::vAddKeywords(const KeywordList& added) {
+void KeywordEntryDlg::addKeywords(const KeywordList& added) {
     KeywordList changed = keywords;
     std::vector<int> selected;
     for (const QString& keyword : added) {
-        if (const int index = KeepKeyword(changed, keyword); index >= 0)
+        if (const int index = keepKeyword(changed, keyword); index >= 0)
             selected.push_back(index);
     }
-    vSetKeywords(changed, selected);
+    setKeywords(changed, selected);
 }
 
-void KeywordEntryDlg::vAddSelected() {
+void KeywordEntryDlg::addSelected() {
     QListWidget& list = currentTab == symbolTab ? *candidateList : *poolList;
     KeywordList added;
     for (const QString& text : selectedTexts(list)) {
-        const KeywordList parts = currentTab == symbolTab ? KeywordsOfCandidate(text) : KeywordList{text};
+        const KeywordList parts = currentTab == symbolTab ? keywordsOfCandidate(text) : KeywordList{text};
         added.insert(added.end(), parts.begin(), parts.end());
     }
     list.clearSelection();
-    vAddKeywords(added);
-    vFocusEdit();
+    addKeywords(added);
+    focusEdit();
 }
 
-void KeywordEntryDlg::vRemoveSelected() {
+void KeywordEntryDlg::removeSelected() {
     KeywordList changed = keywords;
     for (const QString& text : selectedTexts(*keywordList))
-        RemoveKeyword(changed, text);
-    vSetKeywords(changed);
+        removeKeyword(changed, text);
+    setKeywords(changed);
 }
 
-void KeywordEntryDlg::vRemoveFromPool() {
+void KeywordEntryDlg::removeFromPool() {
     for (const QString& text : selectedTexts(*poolList))
-        RemoveKeyword(pool, text);
+        removeKeyword(pool, text);
     keywordEdit->clear();
-    vFillPool({});
+    fillPool({});
 }
 
-void KeywordEntryDlg::vRemoveAll() {
-    if (!keywords.empty() && AskYesNo(this, LangText(removeAll.question)))
-        vSetKeywords({});
+void KeywordEntryDlg::emptyKeywords() {
+    if (!keywords.empty() && askYesNo(this, langText(removeAll.question)))
+        setKeywords({});
 }
 
 // --- Symbols ---
 
-void KeywordEntryDlg::vSymbolTyped(const QString& typed) {
+void KeywordEntryDlg::symbolTyped(const QString& typed) {
     candidateTimer.stop();
     if (typed.isEmpty())
         candidateList->clear();
@@ -189,10 +191,10 @@ void KeywordEntryDlg::timerEvent(QTimerEvent* event) {
         return;
     }
     candidateTimer.stop();
-    vFindCandidates();
+    findCandidates();
 }
 
-void KeywordEntryDlg::vFindCandidates() {
+void KeywordEntryDlg::findCandidates() {
     std::vector<QString> found;
     SearchControl::GetSearchObjInterface()->FindSearchList(symbolEdit->text(), found);
     fill(*candidateList, found);
@@ -203,7 +205,7 @@ void KeywordEntryDlg::vFindCandidates() {
     selectAlone(*candidateList, first == found.end() ? -1 : static_cast<int>(first - found.begin()));
 }
 
-void KeywordEntryDlg::vShowPicker() {
+void KeywordEntryDlg::showPicker() {
     if (symbolPicker.isNull()) {
         symbolPicker = new QuoteTRVChangeSymbol(this, 1);
         symbolPicker->Create();
@@ -216,24 +218,24 @@ void KeywordEntryDlg::vShowPicker() {
     symbolPicker->vSetShowStatus(true);
 }
 
-void KeywordEntryDlg::vTakePicked(quintptr symbol) {
+void KeywordEntryDlg::takePicked(quintptr symbol) {
     if (symbolPicker.isNull() || symbol == 0)
         return;
     const CSymbolInfo& picked = *reinterpret_cast<const CSymbolInfo*>(symbol);
     KeywordList added{picked.code};
-    if (const auto name = SymbolName(backEnd, picked))
+    if (const auto name = symbolName(backEnd, picked))
         added.push_back(*name);
     candidateList->clearSelection();
-    vAddKeywords(added);
+    addKeywords(added);
     symbolEdit->setFocus();
     symbolEdit->selectAll();
 }
 
 bool KeywordEntryDlg::event(QEvent* event) {
-    static const QEvent::Type picked = RegisterMessage(u"RVMSGCHANGESYMBOLBYSEARCH"_s);
-    static const QEvent::Type treeUpdate = RegisterMessage(u"MSG_SYMBOLUPDATE_TREEDLG"_s);
+    static const QEvent::Type picked = registerMessage(u"RVMSGCHANGESYMBOLBYSEARCH"_s);
+    static const QEvent::Type treeUpdate = registerMessage(u"MSG_SYMBOLUPDATE_TREEDLG"_s);
     if (event->type() == picked) {
-        vTakePicked(static_cast<RegisteredMessageEvent*>(event)->firstParameter);
+        takePicked(static_cast<RegisteredMessageEvent*>(event)->firstParameter);
         return true;
     }
     if (event->type() == treeUpdate) {
@@ -247,7 +249,7 @@ bool KeywordEntryDlg::event(QEvent* event) {
 
 // --- The default button ---
 
-QPushButton* KeywordEntryDlg::pDefaultFor(const QWidget* focus) const {
+QPushButton* KeywordEntryDlg::defaultFor(const QWidget* focus) const {
     if (focus == keywordEdit)
         return addTypedButton;
     if (focus == symbolEdit || focus == candidateList || focus == poolList)
@@ -259,7 +261,7 @@ QPushButton* KeywordEntryDlg::pDefaultFor(const QWidget* focus) const {
 
 bool KeywordEntryDlg::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn)
-        pDefaultFor(qobject_cast<QWidget*>(watched))->setDefault(true);
+        defaultFor(qobject_cast<QWidget*>(watched))->setDefault(true);
     return QDialog::eventFilter(watched, event);
 }
 
@@ -277,3 +279,5 @@ void KeywordEntryDlg::keyPressEvent(QKeyEvent* event) {
         }
     }
 }
+
+}  // namespace wirepane

@@ -20,6 +20,8 @@ class QListWidget;
 class QPushButton;
 class QuoteTRVChangeSymbol;
 
+namespace wirepane {
+
 // A dialog in which the keywords of a condition are entered: typed, taken from the pool of keywords that were
 // typed before, or made of symbols. The search dialogs derive from it and add what else their condition has.
 //
@@ -33,8 +35,8 @@ public:
     int DoModal();
 
     // What was edited, whatever the result was.
-    const KeywordList& Keywords() const { return keywords; }
-    const KeywordList& Pool() const { return pool; }
+    const KeywordList& composedKeywords() const { return keywords; }
+    const KeywordList& offeredKeywords() const { return pool; }
 
 protected:
     // The button that removes all keywords: its number, and what it asks first.
@@ -46,18 +48,18 @@ protected:
     KeywordEntryDlg(KeywordList keywords, KeywordList pool, const RemoveAll& removeAll, QWidget* parent);
 
     // Creates the controls and sets their texts; the row of buttons at the end, when all others are there.
-    QGridLayout* pCreateEntry();
-    QLayout* pCreateEnd();
+    QGridLayout* createEntry();
+    QLayout* createEnd();
 
     // Replaces the keywords of the condition; those at `selected` are selected in their list.
-    void vSetKeywords(const KeywordList& changed, const std::vector<int>& selected = {});
+    void setKeywords(const KeywordList& changed, const std::vector<int>& selected = {});
     // The keywords as their list shows them.
-    KeywordList ShownKeywords() const;
+    KeywordList shownKeywords() const;
 
     // OK was pressed: ends the dialog.
-    virtual void OnOK();
+    virtual void onOK();
     // The button that Enter presses while a control has the keyboard.
-    virtual QPushButton* pDefaultFor(const QWidget* focus) const;
+    virtual QPushButton* defaultFor(const QWidget* focus) const;
 
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -66,24 +68,24 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void vCreateControls();
-    void vConnect();
-    QGridLayout* pLayOut();
-    void vLoadPickerBitmaps();
-    void vSelectTab(int tab);
-    QLineEdit* CurrentEdit() const;
-    void vFocusEdit();
-    void vAddTypedKeyword();
-    void vFillPool(const QString& part);
-    void vAddSelected();
-    void vAddKeywords(const KeywordList& added);
-    void vRemoveSelected();
-    void vRemoveFromPool();
-    void vRemoveAll();
-    void vSymbolTyped(const QString& typed);
-    void vFindCandidates();
-    void vShowPicker();
-    void vTakePicked(quintptr symbol);
+    void createControls();
+    void connectControls();
+    QGridLayout* layOut();
+    void loadPickerBitmaps();
+    void selectTab(int tab);
+    QLineEdit* currentEdit() const;
+    void focusEdit();
+    void addTypedKeyword();
+    void fillPool(const QString& part);
+    void addSelected();
+    void addKeywords(const KeywordList& added);
+    void removeSelected();
+    void removeFromPool();
+    void emptyKeywords();
+    void symbolTyped(const QString& typed);
+    void findCandidates();
+    void showPicker();
+    void takePicked(quintptr symbol);
 
     BKQuoteInterface& backEnd;
     KeywordList keywords;
@@ -107,3 +109,5 @@ private:
     QPushButton* removeAllButton = nullptr;
     QPushButton* okButton = nullptr;
 };
+
+}  // namespace wirepane

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <iterator>
 
-int KeepKeyword(KeywordList& list, const QString& keyword) {
+namespace wirepane {
+
+int keepKeyword(KeywordList& list, const QString& keyword) {
     if (keyword.isEmpty())
         return -1;
     const auto known = std::find(list.begin(), list.end(), keyword);
@@ -15,25 +17,27 @@ int KeepKeyword(KeywordList& list, const QString& keyword) {
     return index;
 }
 
-void RemoveKeyword(KeywordList& list, const QString& keyword) {
+void removeKeyword(KeywordList& list, const QString& keyword) {
     const auto known = std::find(list.begin(), list.end(), keyword);
     if (known != list.end())
         list.erase(known);
 }
 
-KeywordList KeywordsWith(const KeywordList& list, const QString& part) {
+KeywordList keywordsWith(const KeywordList& list, const QString& part) {
     KeywordList found;
     std::copy_if(list.begin(), list.end(), std::back_inserter(found),
                  [&](const QString& keyword) { return keyword.contains(part); });
     return found;
 }
 
-KeywordList KeywordsOfCandidate(const QString& candidate) {
+KeywordList keywordsOfCandidate(const QString& candidate) {
     const QString text = candidate.mid(candidate.indexOf(u']') + 1);
     const qsizetype blank = text.indexOf(u' ');
     QString name = text.mid(blank + 1);
     KeywordList keywords;
-    KeepKeyword(keywords, blank < 0 ? text : text.left(blank));
-    KeepKeyword(keywords, name.remove(u' '));
+    keepKeyword(keywords, blank < 0 ? text : text.left(blank));
+    keepKeyword(keywords, name.remove(u' '));
     return keywords;
 }
+
+}  // namespace wirepane

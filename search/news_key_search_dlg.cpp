@@ -22,6 +22,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace wirepane;
+
 namespace {
 
 constexpr int methodWidth = 90;
@@ -36,22 +38,22 @@ CNewsKeySearchDlg::CNewsKeySearchDlg(const KeywordList& keywordPool, const Categ
     : KeywordEntryDlg({}, keywordPool, {search_ids::removeAllOfKeySet, search_keys::askRemoveAllOfKeySet},
                       parent),
       newsTypes(categories),
-      keySets(WithNewsTypes(stored, categories)) {
-    SetWindowId(this, search_ids::newsKeySearch);
-    setWindowTitle(LangText(search_keys::relationTitle));
+      keySets(withNewsTypes(stored, categories)) {
+    setWindowId(this, search_ids::newsKeySearch);
+    setWindowTitle(langText(search_keys::relationTitle));
     auto* column = new QVBoxLayout(this);
     column->setSpacing(fontMetrics().height() * 2 / 3);
-    column->addWidget(AddCaption(this, search_ids::newsKeyTitle, LangText(search_keys::relationTitle)));
-    column->addLayout(pCreateComposition(), 1);
-    column->addLayout(pCreateKeySets());
-    column->addLayout(pCreateEnd());
+    column->addWidget(addCaption(this, search_ids::newsKeyTitle, langText(search_keys::relationTitle)));
+    column->addLayout(createComposition(), 1);
+    column->addLayout(createKeySets());
+    column->addLayout(createEnd());
     resize(fontMetrics().averageCharWidth() * 100, sizeHint().height());
     for (std::size_t row = 0; row < keySets.size(); ++row)
-        vFillRow(static_cast<int>(row));
+        fillRow(static_cast<int>(row));
 }
 
 // Between what belongs together.
-void CNewsKeySearchDlg::vTakeAnyCase() {
+void CNewsKeySearchDlg::takeAnyCase() {
     capitalsNote->hide();
 }
 
@@ -59,41 +61,41 @@ int CNewsKeySearchDlg::nearby() const {
     return fontMetrics().height() / 3;
 }
 
-QCheckBox* CNewsKeySearchDlg::pAddCheckBox(int id, QLatin1StringView key) {
-    auto* box = new QCheckBox(LangText(key), this);
-    SetWindowId(box, id);
+QCheckBox* CNewsKeySearchDlg::addCheckBox(int id, QLatin1StringView key) {
+    auto* box = new QCheckBox(langText(key), this);
+    setWindowId(box, id);
     box->installEventFilter(this);
     return box;
 }
 
 // Below the keywords to choose from the news types, below those that were chosen the rest.
-QLayout* CNewsKeySearchDlg::pCreateComposition() {
-    QGridLayout* grid = pCreateEntry();
+QLayout* CNewsKeySearchDlg::createComposition() {
+    QGridLayout* grid = createEntry();
     const int below = grid->rowCount();
-    grid->addLayout(pCreateNewsTypes(), below, 0);
-    grid->addLayout(pCreateSaving(), below, 2);
+    grid->addLayout(createNewsTypes(), below, 0);
+    grid->addLayout(createSaving(), below, 2);
     return grid;
 }
 
-QLayout* CNewsKeySearchDlg::pCreateNewsTypes() {
-    allNewsTypes = pAddCheckBox(search_ids::allNewsTypes, search_keys::selectAllNewsTypes);
+QLayout* CNewsKeySearchDlg::createNewsTypes() {
+    allNewsTypes = addCheckBox(search_ids::allNewsTypes, search_keys::selectAllNewsTypes);
     newsTypeList = new CCheckListBox(this);
-    SetWindowId(newsTypeList, search_ids::newsTypes);
-    newsTypeList->setAccessibleName(LangText(search_keys::newsType));
+    setWindowId(newsTypeList, search_ids::newsTypes);
+    newsTypeList->setAccessibleName(langText(search_keys::newsType));
     newsTypeList->installEventFilter(this);
     for (const auto& [id, name] : newsTypes)
-        newsTypeList->item(newsTypeList->AddString(name))->setData(Qt::UserRole, id);
-    newsTypeList->setFixedHeight(newsTypeRows * RoomyRows::HeightOf(fontMetrics()) +
+        newsTypeList->item(newsTypeList->addString(name))->setData(Qt::UserRole, id);
+    newsTypeList->setFixedHeight(newsTypeRows * RoomyRows::heightOf(fontMetrics()) +
                                  2 * newsTypeList->frameWidth());
-    connect(newsTypeList, &QListWidget::itemChanged, this, &CNewsKeySearchDlg::vFollowTicks);
+    connect(newsTypeList, &QListWidget::itemChanged, this, &CNewsKeySearchDlg::followTicks);
     connect(allNewsTypes, &QCheckBox::clicked, this, [this](bool ticked) {
         for (int row = 0; row < newsTypeList->count(); ++row) {
-            newsTypeList->SetCheck(row, ticked);
+            newsTypeList->setCheck(row, ticked);
             newsTypeList->item(row)->setSelected(ticked);
         }
     });
     auto* head = new QHBoxLayout;
-    head->addWidget(AddCaption(this, search_ids::newsTypesCaption, LangText(search_keys::newsType)));
+    head->addWidget(addCaption(this, search_ids::newsTypesCaption, langText(search_keys::newsType)));
     head->addStretch();
     head->addWidget(allNewsTypes);
     auto* column = new QVBoxLayout;
@@ -103,16 +105,16 @@ QLayout* CNewsKeySearchDlg::pCreateNewsTypes() {
     return column;
 }
 
-QLayout* CNewsKeySearchDlg::pCreateSaving() {
+QLayout* CNewsKeySearchDlg::createSaving() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(fontMetrics().height());
-    method = AddChoices(this, *grid, 0, AddCaption(this, 0, LangText(search_keys::method)),
-                        ChoicesOf(search_ids::keySetMethodButtons));
+    method = addChoices(this, *grid, 0, addCaption(this, 0, langText(search_keys::method)),
+                        choicesOf(search_ids::keySetMethodButtons));
     method->button(CNewsKey::all)->setChecked(true);
     grid->setColumnStretch(static_cast<int>(search_ids::keySetMethodButtons.size()) + 1, 1);
-    saveButton = AddButton(this, search_ids::saveKeySet, LangText(search_keys::addKeySet));
-    connect(saveButton, &QPushButton::clicked, this, &CNewsKeySearchDlg::vSave);
-    capitalsNote = new QLabel(LangText(search_keys::capitalsNote), this);
+    saveButton = makeButton(this, search_ids::saveKeySet, langText(search_keys::addKeySet));
+    connect(saveButton, &QPushButton::clicked, this, &CNewsKeySearchDlg::save);
+    capitalsNote = new QLabel(langText(search_keys::capitalsNote), this);
     capitalsNote->setTextFormat(Qt::PlainText);
     capitalsNote->setWordWrap(true);
     auto* column = new QVBoxLayout;
@@ -123,34 +125,34 @@ QLayout* CNewsKeySearchDlg::pCreateSaving() {
     return column;
 }
 
-void CNewsKeySearchDlg::vCreateKeySetList() {
-    keySetList = new KeySetList(std::array{ReportColumn{LangText(search_keys::methodColumn), methodWidth,
-                                                        Qt::AlignHCenter, MethodTexts()},
-                                           ReportColumn{LangText(search_keys::newsType), newsTypesWidth},
-                                           ReportColumn{LangText(search_keys::contentsColumn), 0}},
+void CNewsKeySearchDlg::createKeySetList() {
+    keySetList = new KeySetList(std::array{ReportColumn{langText(search_keys::methodColumn), methodWidth,
+                                                        Qt::AlignHCenter, methodTexts()},
+                                           ReportColumn{langText(search_keys::newsType), newsTypesWidth},
+                                           ReportColumn{langText(search_keys::contentsColumn), 0}},
                                 this);
-    SetWindowId(keySetList, search_ids::keySets);
-    keySetList->setAccessibleName(LangText(search_keys::relationTitle));
-    keySetList->setFixedHeight(keySetList->iHeightOf(keySetRows));
+    setWindowId(keySetList, search_ids::keySets);
+    keySetList->setAccessibleName(langText(search_keys::relationTitle));
+    keySetList->setFixedHeight(keySetList->heightOf(keySetRows));
     keySetList->installEventFilter(this);
-    connect(keySetList, &KeySetList::RowChosen, this, &CNewsKeySearchDlg::vEdit);
-    connect(keySetList, &KeySetList::RowLeft, this, &CNewsKeySearchDlg::vStopEditing);
-    connect(keySetList, &KeySetList::TicksChanged, this, &CNewsKeySearchDlg::vFollowTicks);
-    connect(keySetList, &KeySetList::RowDoubleClicked, this, [this](int row) {
-        vDelete({row});
-        vStopEditing();
+    connect(keySetList, &KeySetList::RowChosen, this, &CNewsKeySearchDlg::edit);
+    connect(keySetList, &KeySetList::rowLeft, this, &CNewsKeySearchDlg::stopEditing);
+    connect(keySetList, &KeySetList::ticksChanged, this, &CNewsKeySearchDlg::followTicks);
+    connect(keySetList, &KeySetList::rowDoubleClicked, this, [this](int row) {
+        deleteChosen({row});
+        stopEditing();
     });
 }
 
-QLayout* CNewsKeySearchDlg::pCreateKeySets() {
-    vCreateKeySetList();
-    allKeySets = pAddCheckBox(search_ids::allKeySets, search_keys::selectAllKeySets);
+QLayout* CNewsKeySearchDlg::createKeySets() {
+    createKeySetList();
+    allKeySets = addCheckBox(search_ids::allKeySets, search_keys::selectAllKeySets);
     connect(allKeySets, &QCheckBox::clicked, this, [this](bool ticked) {
         for (int row = 0; row < keySetList->rowCount(); ++row)
-            keySetList->vTick(row, ticked);
+            keySetList->tick(row, ticked);
     });
-    deleteButton = AddButton(this, search_ids::deleteKeySets, LangText(search_keys::deleteKeySets));
-    connect(deleteButton, &QPushButton::clicked, this, [this] { vDelete(keySetList->TickedRows()); });
+    deleteButton = makeButton(this, search_ids::deleteKeySets, langText(search_keys::deleteKeySets));
+    connect(deleteButton, &QPushButton::clicked, this, [this] { deleteChosen(keySetList->tickedRows()); });
     auto* under = new QHBoxLayout;
     under->addWidget(allKeySets);
     under->addStretch();
@@ -162,102 +164,102 @@ QLayout* CNewsKeySearchDlg::pCreateKeySets() {
     return column;
 }
 
-QPushButton* CNewsKeySearchDlg::pDefaultFor(const QWidget* focus) const {
+QPushButton* CNewsKeySearchDlg::defaultFor(const QWidget* focus) const {
     const QList<QAbstractButton*> methods = method->buttons();
     const bool composing = focus == newsTypeList || focus == allNewsTypes ||
                            std::find(methods.begin(), methods.end(), focus) != methods.end();
-    return composing ? saveButton : KeywordEntryDlg::pDefaultFor(focus);
+    return composing ? saveButton : KeywordEntryDlg::defaultFor(focus);
 }
 
-std::vector<CNewsKey> CNewsKeySearchDlg::TickedKeySets() const {
+std::vector<CNewsKey> CNewsKeySearchDlg::tickedKeySets() const {
     std::vector<CNewsKey> ticked;
-    for (const int row : keySetList->TickedRows())
+    for (const int row : keySetList->tickedRows())
         ticked.push_back(keySets[static_cast<std::size_t>(row)]);
     return ticked;
 }
 
 // --- One key set ---
 
-CNewsKey CNewsKeySearchDlg::ComposedKeySet() const {
-    CNewsKey keySet(method->checkedId(), {}, Keywords());
+CNewsKey CNewsKeySearchDlg::composedKeySet() const {
+    CNewsKey keySet(method->checkedId(), {}, composedKeywords());
     for (int row = 0; row < newsTypeList->count(); ++row) {
-        if (newsTypeList->GetCheck(row))
+        if (newsTypeList->check(row))
             keySet.newsTypes.push_back(newsTypeList->item(row)->data(Qt::UserRole).toInt());
     }
     return keySet;
 }
 
-void CNewsKeySearchDlg::vSave() {
-    const CNewsKey keySet = ComposedKeySet();
+void CNewsKeySearchDlg::save() {
+    const CNewsKey keySet = composedKeySet();
     if (keySet.newsTypes.empty() || keySet.keywords.empty()) {
-        TellError(this,
-                  LangText(keySet.newsTypes.empty() ? search_keys::noNewsType : search_keys::noKeyword));
+        tellError(this,
+                  langText(keySet.newsTypes.empty() ? search_keys::noNewsType : search_keys::noKeyword));
         return;
     }
-    const int row = SaveKeySet(keySets, keySet, editing);
+    const int row = saveKeySet(keySets, keySet, editing);
     if (row < 0)
         return;
-    vFillRow(row);
-    vLeaveEditing();
-    keySetList->vTick(row, true);
+    fillRow(row);
+    leaveEditing();
+    keySetList->tick(row, true);
 }
 
-void CNewsKeySearchDlg::vEdit(int row) {
+void CNewsKeySearchDlg::edit(int row) {
     if (row < 0 || row >= static_cast<int>(keySets.size()))
         return;
     editing = row;
     const CNewsKey& keySet = keySets[static_cast<std::size_t>(row)];
-    vSetKeywords(keySet.keywords);
+    setKeywords(keySet.keywords);
     method->button(keySet.knownMethod())->setChecked(true);
     newsTypeList->clearSelection();
     for (int type = 0; type < newsTypeList->count(); ++type) {
         const std::int32_t id = newsTypeList->item(type)->data(Qt::UserRole).toInt();
-        newsTypeList->SetCheck(
+        newsTypeList->setCheck(
             type, std::find(keySet.newsTypes.begin(), keySet.newsTypes.end(), id) != keySet.newsTypes.end());
     }
-    saveButton->setText(LangText(search_keys::editKeySet));
-    keySetList->vMark(row);
+    saveButton->setText(langText(search_keys::editKeySet));
+    keySetList->mark(row);
 }
 
-void CNewsKeySearchDlg::vLeaveEditing() {
+void CNewsKeySearchDlg::leaveEditing() {
     editing = -1;
-    saveButton->setText(LangText(search_keys::addKeySet));
-    vSetKeywords({});
-    keySetList->vMark(-1);
+    saveButton->setText(langText(search_keys::addKeySet));
+    setKeywords({});
+    keySetList->mark(-1);
 }
 
 // A key set that is being composed anew is not lost.
-void CNewsKeySearchDlg::vStopEditing() {
+void CNewsKeySearchDlg::stopEditing() {
     if (editing >= 0)
-        vLeaveEditing();
+        leaveEditing();
 }
 
 // --- All of them ---
 
-void CNewsKeySearchDlg::vFillRow(int row) {
-    keySetList->vSetKeySet(row, TextsOfKeySet(keySets[static_cast<std::size_t>(row)], newsTypes));
+void CNewsKeySearchDlg::fillRow(int row) {
+    keySetList->setKeySet(row, textsOfKeySet(keySets[static_cast<std::size_t>(row)], newsTypes));
 }
 
-void CNewsKeySearchDlg::vDelete(const std::vector<int>& rows) {
+void CNewsKeySearchDlg::deleteChosen(const std::vector<int>& rows) {
     std::vector<CNewsKey> doomed;
     for (const int row : rows)
         doomed.push_back(keySets.at(static_cast<std::size_t>(row)));
-    if (doomed.empty() || !AskYesNo(this, LangText(search_keys::askDeleteKeySets).arg(doomed.size())))
+    if (doomed.empty() || !askYesNo(this, langText(search_keys::askDeleteKeySets).arg(doomed.size())))
         return;
-    const std::vector<int> equal = RowsOfEqual(keySets, doomed);
+    const std::vector<int> equal = rowsOfEqual(keySets, doomed);
     for (auto row = equal.rbegin(); row != equal.rend(); ++row) {
         const QSignalBlocker quiet(keySetList);
         keySets.erase(keySets.begin() + *row);
         keySetList->removeRow(*row);
     }
-    vFollowTicks();
-    vStopEditing();
+    followTicks();
+    stopEditing();
 }
 
 // The boxes for all of them are ticked while all are.
-void CNewsKeySearchDlg::vFollowTicks() {
-    const auto ticked = ComposedKeySet().newsTypes.size();
+void CNewsKeySearchDlg::followTicks() {
+    const auto ticked = composedKeySet().newsTypes.size();
     allNewsTypes->setChecked(ticked > 0 && ticked == newsTypes.size());
-    const auto sets = keySetList->TickedRows().size();
+    const auto sets = keySetList->tickedRows().size();
     allKeySets->setChecked(sets > 0 && sets == keySets.size());
 }

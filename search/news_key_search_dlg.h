@@ -6,7 +6,12 @@
 #include "search/keyword_entry_dlg.h"
 
 class CCheckListBox;
+
+namespace wirepane {
 class KeySetList;
+
+}  // namespace wirepane
+
 class QButtonGroup;
 class QCheckBox;
 class QLabel;
@@ -15,50 +20,50 @@ class QLayout;
 // The modal dialog in which the key sets of the relation search are composed, kept, and ticked: a key set is
 // put together of keywords, a method and news types, and saved as a new one or over the one that is worked
 // on.
-class CNewsKeySearchDlg : public KeywordEntryDlg {
+class CNewsKeySearchDlg : public wirepane::KeywordEntryDlg {
     Q_OBJECT
 
 public:
     // Works on copies.
-    CNewsKeySearchDlg(const KeywordList& pool, const CategoryMap& newsTypes,
+    CNewsKeySearchDlg(const wirepane::KeywordList& pool, const wirepane::CategoryMap& newsTypes,
                       const std::vector<CNewsKey>& stored, QWidget* parent);
 
     // The view compares keywords whatever their case: the note that says otherwise goes.
-    void vTakeAnyCase();
+    void takeAnyCase();
 
     // What the caller takes back after OK, besides the pool.
-    const std::vector<CNewsKey>& KeySets() const { return keySets; }
-    std::vector<CNewsKey> TickedKeySets() const;
+    const std::vector<CNewsKey>& composedKeySets() const { return keySets; }
+    std::vector<CNewsKey> tickedKeySets() const;
 
 protected:
-    QPushButton* pDefaultFor(const QWidget* focus) const override;
+    QPushButton* defaultFor(const QWidget* focus) const override;
 
 private:
-    QLayout* pCreateComposition();
-    QLayout* pCreateNewsTypes();
-    QLayout* pCreateSaving();
-    QLayout* pCreateKeySets();
-    void vCreateKeySetList();
+    QLayout* createComposition();
+    QLayout* createNewsTypes();
+    QLayout* createSaving();
+    QLayout* createKeySets();
+    void createKeySetList();
     int nearby() const;
-    QCheckBox* pAddCheckBox(int id, QLatin1StringView key);
+    QCheckBox* addCheckBox(int id, QLatin1StringView key);
 
-    CNewsKey ComposedKeySet() const;
-    void vSave();
-    void vEdit(int row);
-    void vLeaveEditing();
-    void vStopEditing();
-    void vDelete(const std::vector<int>& rows);
-    void vFillRow(int row);
-    void vFollowTicks();
+    CNewsKey composedKeySet() const;
+    void save();
+    void edit(int row);
+    void leaveEditing();
+    void stopEditing();
+    void deleteChosen(const std::vector<int>& rows);
+    void fillRow(int row);
+    void followTicks();
 
-    const CategoryMap newsTypes;
+    const wirepane::CategoryMap newsTypes;
     std::vector<CNewsKey> keySets;
     int editing = -1;  // the row that is worked on; -1: a new key set
 
     QButtonGroup* method = nullptr;  // button ids: SearchMethod
     CCheckListBox* newsTypeList = nullptr;
     QCheckBox* allNewsTypes = nullptr;
-    KeySetList* keySetList = nullptr;
+    wirepane::KeySetList* keySetList = nullptr;
     QCheckBox* allKeySets = nullptr;
     QLabel* capitalsNote = nullptr;
     QPushButton* saveButton = nullptr;

@@ -15,6 +15,7 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 namespace {
 
@@ -45,17 +46,17 @@ bool CNewsRelateSymbolQuoteView::CreateView(QWidget* parent, const QString& name
     InitFont();
     if (!QuoteListBaseView::CreateView(parent, name, first, second))
         return false;
-    vResetSelection();
-    setWindowTitle(LangText(titleKey));
-    vSetUpColumns(nameCharacters);
-    pGetSheet()->show();
+    resetSelection();
+    setWindowTitle(langText(titleKey));
+    setUpColumns(nameCharacters);
+    quoteSheet()->show();
     // The layout runs once more when the window has its place.
     QCoreApplication::postEvent(this, new QResizeEvent(size(), size()));
     CSyncInfo::GetSettingCFG()->SYS_vSetIsLinkNews(false);
     return true;
 }
 
-void CNewsRelateSymbolQuoteView::vSetSymbolList(const CNewsSymLst& list) {
+void CNewsRelateSymbolQuoteView::setSymbolList(const CNewsSymLst& list) {
     std::vector<CSymbolInfo> symbols = list.symbols;
     std::vector<unsigned char> markets;
     auto* backEnd = BKQuoteInterface::GetBKInterface();
@@ -63,38 +64,38 @@ void CNewsRelateSymbolQuoteView::vSetSymbolList(const CNewsSymLst& list) {
         for (CSymbolInfo& symbol : symbols)
             symbol = inItsMarket(symbol, *backEnd, markets);
     }
-    vSetSymbols(symbols);
+    setSymbols(symbols);
 }
 
 int CNewsRelateSymbolQuoteView::GetCurrSymbolInfo(unsigned char& service, QString& code) {
-    if (iGetRowCount() <= 0)
-        return iGetRowCount();
+    if (rowCount() <= 0)
+        return rowCount();
     CSymbolInfo symbol;
     vGetFocusSymbol(symbol);
     service = symbol.market;
     code = symbol.code;
-    return iGetRowCount();
+    return rowCount();
 }
 
 void CNewsRelateSymbolQuoteView::GetCaption(QString& caption) {
-    caption = LangText(titleKey);
+    caption = langText(titleKey);
 }
 
 void CNewsRelateSymbolQuoteView::vLoadLanguageString() {
     QuoteListBaseView::vLoadLanguageString();
-    setWindowTitle(LangText(titleKey));
+    setWindowTitle(langText(titleKey));
     setAccessibleName(windowTitle());
-    if (pGetSheet() != nullptr)
-        pGetSheet()->setAccessibleName(windowTitle());
+    if (quoteSheet() != nullptr)
+        quoteSheet()->setAccessibleName(windowTitle());
 }
 
-QString CNewsRelateSymbolQuoteView::cszGetNotice() const {
-    return LangText(noSymbolsKey);
+QString CNewsRelateSymbolQuoteView::notice() const {
+    return langText(noSymbolsKey);
 }
 
 void CNewsRelateSymbolQuoteView::vChangeCast() {
     QuoteListBaseView::vChangeCast();
-    lineColour = HostColour(u"COLOR_LISTCTL_OTHERLINE"_s, palette().color(QPalette::Mid));
+    lineColour = hostColour(u"COLOR_LISTCTL_OTHERLINE"_s, palette().color(QPalette::Mid));
     update();
 }
 
@@ -104,6 +105,6 @@ void CNewsRelateSymbolQuoteView::OnDraw(QPainter& painter) {
     painter.setPen(lineColour);
     painter.drawLine(rect().topLeft(), rect().topRight());
     painter.drawLine(rect().topLeft(), rect().bottomLeft());
-    if (bIsTitleShown())
-        painter.drawLine(0, iGetTitleHeight(), width(), iGetTitleHeight());
+    if (isTitleShown())
+        painter.drawLine(0, titleHeight(), width(), titleHeight());
 }

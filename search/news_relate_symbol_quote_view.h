@@ -17,7 +17,7 @@ public:
     // Creates the list and withdraws the request that the next view opens with the news of the linked symbol.
     bool CreateView(QWidget* parent, const QString& name, int first, int second) override;
     // Lists the symbols of a headline. One without a market is that of the first market that has its code.
-    void vSetSymbolList(const CNewsSymLst& list);
+    void setSymbolList(const CNewsSymLst& list);
 
     // For hosts: the number of rows; where there are any, also the focused symbol.
     int GetCurrSymbolInfo(unsigned char& service, QString& code) override;
@@ -27,7 +27,7 @@ public:
 protected:
     void OnDraw(QPainter& painter) override;
     void vLoadLanguageString() override;
-    QString cszGetNotice() const override;
+    QString notice() const override;
 
 private:
     QColor lineColour;

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 
-bool AsksTheSame(const CSearch& a, const CSearch& b) {
+namespace wirepane {
+
+bool asksTheSame(const CSearch& a, const CSearch& b) {
     if (a.scope != b.scope || a.method != b.method || a.keywords.size() != b.keywords.size())
         return false;
     if (a.keywords == b.keywords)
@@ -16,17 +18,19 @@ bool AsksTheSame(const CSearch& a, const CSearch& b) {
     });
 }
 
-CSearch ForEverySymbol(CSearch condition) {
+CSearch forEverySymbol(CSearch condition) {
     condition.symbols.clear();
     return condition;
 }
 
-void KeepRecentSearch(RecentSearches& recent, const CSearch& condition) {
+void keepRecentSearch(RecentSearches& recent, const CSearch& condition) {
     const bool known = std::any_of(recent.begin(), recent.end(),
-                                   [&](const CSearch& other) { return AsksTheSame(other, condition); });
+                                   [&](const CSearch& other) { return asksTheSame(other, condition); });
     if (known)
         return;
     if (recent.size() >= mostRecentSearches)
         recent.erase(recent.begin());
-    recent.push_back(ForEverySymbol(condition));
+    recent.push_back(forEverySymbol(condition));
 }
+
+}  // namespace wirepane

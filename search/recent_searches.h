@@ -6,12 +6,14 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // Scope and method are equal, and the keywords are the same in whatever order.
-bool AsksTheSame(const CSearch& a, const CSearch& b);
+bool asksTheSame(const CSearch& a, const CSearch& b);
 
 // The condition without the symbols that it is narrowed to: dialogs show none, and what they edit and keep
 // has none.
-CSearch ForEverySymbol(CSearch condition);
+CSearch forEverySymbol(CSearch condition);
 
 // The searches that were made last, oldest first.
 using RecentSearches = std::vector<CSearch>;
@@ -19,4 +21,6 @@ inline constexpr std::size_t mostRecentSearches = 10;
 
 // Appends the condition unless one that asks the same is there, which stays where it is; the oldest gives way
 // when the list is full. It is kept for every symbol.
-void KeepRecentSearch(RecentSearches& recent, const CSearch& condition);
+void keepRecentSearch(RecentSearches& recent, const CSearch& condition);
+
+}  // namespace wirepane

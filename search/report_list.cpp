@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 constexpr int textMargins = 16;
@@ -41,7 +43,7 @@ ReportList::ReportList(std::span<const ReportColumn> columns, QWidget* parent)
     setWordWrap(false);
     setItemDelegate(new ReportRows(this));
     verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(RoomyRows::HeightOf(fontMetrics()));
+    verticalHeader()->setDefaultSectionSize(RoomyRows::heightOf(fontMetrics()));
     QHeaderView* header = horizontalHeader();
     header->setSectionsMovable(true);
     header->setHighlightSections(false);
@@ -58,7 +60,7 @@ ReportList::ReportList(std::span<const ReportColumn> columns, QWidget* parent)
     }
 }
 
-void ReportList::vSetRow(int row, const QStringList& texts) {
+void ReportList::setRow(int row, const QStringList& texts) {
     if (row == rowCount())
         insertRow(row);
     for (int column = 0; column < columnCount(); ++column) {
@@ -70,7 +72,9 @@ void ReportList::vSetRow(int row, const QStringList& texts) {
     }
 }
 
-int ReportList::iHeightOf(int rows) const {
+int ReportList::heightOf(int rows) const {
     return horizontalHeader()->sizeHint().height() + rows * verticalHeader()->defaultSectionSize() +
            2 * frameWidth();
 }
+
+}  // namespace wirepane

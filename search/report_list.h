@@ -6,6 +6,8 @@
 
 #include <span>
 
+namespace wirepane {
+
 struct ReportColumn {
     QString header;
     int width;  // at least; the last column takes the room that is left
@@ -22,7 +24,9 @@ public:
     ReportList(std::span<const ReportColumn> columns, QWidget* parent);
 
     // Writes the texts of a row, which is appended when it is the next one.
-    void vSetRow(int row, const QStringList& texts);
+    void setRow(int row, const QStringList& texts);
     // The height at which so many rows are in sight.
-    int iHeightOf(int rows) const;
+    int heightOf(int rows) const;
 };
+
+}  // namespace wirepane

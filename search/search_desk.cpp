@@ -8,13 +8,15 @@
 #include <algorithm>
 #include <utility>
 
-void SearchDesk::vRestore(SearchMemory kept) {
+namespace wirepane {
+
+void SearchDesk::restore(SearchMemory kept) {
     memory = std::move(kept);
-    if (const CSearch* inForce = memory.warnings.Chosen())
+    if (const CSearch* inForce = memory.warnings.chosenItem())
         warningTerm = *inForce;
 }
 
-CSearch* SearchDesk::ConditionOf(ListIndex mode) {
+CSearch* SearchDesk::conditionOf(ListIndex mode) {
     switch (mode) {
         case ListIndex::Search:
             return &ordinary;
@@ -25,7 +27,7 @@ CSearch* SearchDesk::ConditionOf(ListIndex mode) {
     }
 }
 
-const SearchDesk::Sent* SearchDesk::SentFrom(ListIndex list) const {
+const SearchDesk::Sent* SearchDesk::sentFrom(ListIndex list) const {
     switch (list) {
         case ListIndex::Search:
             return &sentOrdinary;
@@ -36,15 +38,15 @@ const SearchDesk::Sent* SearchDesk::SentFrom(ListIndex list) const {
     }
 }
 
-CSearch SearchDesk::FoundUnder(ListIndex list) const {
-    const Sent* sent = SentFrom(list);
+CSearch SearchDesk::foundUnder(ListIndex list) const {
+    const Sent* sent = sentFrom(list);
     CSearch found = sent != nullptr ? sent->condition : CSearch();
     found.keywordSearch = !found.keywords.empty();
     return found;
 }
 
-std::optional<CSymbolInfo> SearchDesk::Narrowing(ListIndex list) const {
-    const Sent* sent = SentFrom(list);
+std::optional<CSymbolInfo> SearchDesk::narrowing(ListIndex list) const {
+    const Sent* sent = sentFrom(list);
     if (sent == nullptr)
         return std::nullopt;
     const CSearch& next = list == ListIndex::Search ? ordinary : warningTerm;
@@ -55,22 +57,22 @@ std::optional<CSymbolInfo> SearchDesk::Narrowing(ListIndex list) const {
     return std::nullopt;
 }
 
-void SearchDesk::vEndNarrowing(ListIndex list) {
-    const Sent* sent = SentFrom(list);
+void SearchDesk::endNarrowing(ListIndex list) {
+    const Sent* sent = sentFrom(list);
     if (sent == nullptr)
         return;
-    CSearch& condition = *ConditionOf(list);
+    CSearch& condition = *conditionOf(list);
     if (!sent->condition.symbols.empty())
         condition = sent->condition;
     condition.symbols.clear();
 }
 
-std::optional<SearchDesk::Moment> SearchDesk::SentAt(ListIndex list) const {
-    const Sent* sent = SentFrom(list);
+std::optional<SearchDesk::Moment> SearchDesk::sentAt(ListIndex list) const {
+    const Sent* sent = sentFrom(list);
     return sent != nullptr ? sent->at : std::nullopt;
 }
 
-std::optional<TableKind> SearchDesk::KindOfAnswer(const CSearch& condition) const {
+std::optional<TableKind> SearchDesk::kindOfAnswer(const CSearch& condition) const {
     if (condition == ordinary || condition == warningTerm)
         return TableKind::Search;
     if (condition == second)
@@ -78,8 +80,8 @@ std::optional<TableKind> SearchDesk::KindOfAnswer(const CSearch& condition) cons
     return std::nullopt;
 }
 
-void SearchDesk::vTakeQuickSearch(const QString& word, std::int64_t now) {
-    KeepKeyword(history, word);
+void SearchDesk::takeQuickSearch(const QString& word, std::int64_t now) {
+    keepKeyword(history, word);
     if (ordinary.keywords != std::vector{word})
         ordinary.symbols.clear();
     ordinary.scope = numberOf(SearchScope::Headlines);
@@ -88,13 +90,13 @@ void SearchDesk::vTakeQuickSearch(const QString& word, std::int64_t now) {
     ordinary.keywords = {word};
 }
 
-bool SearchDesk::bTakeSearchText(const QString& text) {
+bool SearchDesk::takeSearchText(const QString& text) {
     return std::exchange(previousText, text) != text;
 }
 
-QString SearchDesk::WaitText(const CSearch& condition) const {
+QString SearchDesk::waitText(const CSearch& condition) const {
     constexpr qsizetype longest = 1000;
-    QString text = LangText(backEnd, keys::searching);
+    QString text = langText(backEnd, keys::searching);
     for (const QString& keyword : condition.keywords) {
         if (text.size() > longest)
             break;
@@ -103,13 +105,14 @@ QString SearchDesk::WaitText(const CSearch& condition) const {
     return text.left(longest);
 }
 
-void SearchDesk::vCompleteMethod(CSearch& condition) {
+void SearchDesk::completeMethod(CSearch& condition) {
     if (condition.keywords.size() >= 2 && condition.method == numberOf(SearchMethod::NotSet))
         condition.method = numberOf(SearchMethod::All);
 }
 
-void SearchDesk::vSend(ListIndex mode, std::span<ServiceEntry> services, bool awaited, const Moment& now) {
-    const CSearch* active = ConditionOf(mode);
+void SearchDesk::sendSearch(ListIndex mode, std::span<ServiceEntry> services, bool awaited,
+                            const Moment& now) {
+    const CSearch* active = conditionOf(mode);
     if (active == nullptr)
         return;
     const CSearch condition = *active;
@@ -120,22 +123,22 @@ void SearchDesk::vSend(ListIndex mode, std::span<ServiceEntry> services, bool aw
         entry.searchPending = entry.selected && awaited;
         if (!entry.selected)
             continue;
-        vSent(condition, entry.service);
+        noteSent(condition, entry.service);
         backEnd.BKQNEWS_bSearchNews(entry.service, searchKind, condition);
     }
 }
 
-void SearchDesk::vSent(const CSearch& condition, unsigned char service) {
+void SearchDesk::noteSent(const CSearch& condition, unsigned char service) {
     const std::pair search(condition, service);
     if (std::find(due.begin(), due.end(), search) == due.end())
         due.push_back(search);
 }
 
-bool SearchDesk::bTakeAnswerDue(const CSearch& condition, unsigned char service) {
+bool SearchDesk::takeAnswerDue(const CSearch& condition, unsigned char service) {
     return std::erase(due, std::pair(condition, service)) > 0;
 }
 
-void SearchDesk::vNarrow(const CSearch& condition, const CSymbolInfo& symbol, bool warningTermToo) {
+void SearchDesk::narrow(const CSearch& condition, const CSymbolInfo& symbol, bool warningTermToo) {
     // All of them are found first: `condition` may be one of those that change.
     std::vector<CSearch*> equal;
     for (CSearch* stored : {&ordinary, &second, &warningTerm}) {
@@ -146,7 +149,7 @@ void SearchDesk::vNarrow(const CSearch& condition, const CSymbolInfo& symbol, bo
         stored->symbols = {symbol};
 }
 
-bool TakeAnswer(std::span<ServiceEntry> services, unsigned char service) {
+bool markAnswered(std::span<ServiceEntry> services, unsigned char service) {
     bool others = false;
     for (ServiceEntry& entry : services) {
         entry.searchPending &= entry.service != service;
@@ -155,9 +158,11 @@ bool TakeAnswer(std::span<ServiceEntry> services, unsigned char service) {
     return others;
 }
 
-bool ForgetPending(std::span<ServiceEntry> services) {
+bool forgetPending(std::span<ServiceEntry> services) {
     bool any = false;
     for (ServiceEntry& entry : services)
         any |= std::exchange(entry.searchPending, false);
     return any;
 }
+
+}  // namespace wirepane

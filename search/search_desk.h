@@ -15,6 +15,8 @@
 #include <utility>
 #include <vector>
 
+namespace wirepane {
+
 // The searches of a view: their conditions, what has been sent and is still to be answered, and what is kept
 // of them. Showing results is the view's affair. Interface thread only.
 class SearchDesk {
@@ -28,59 +30,59 @@ public:
     SearchMemory memory;
 
     // Takes over what was kept; the warning item in force becomes what the warning-term mode sends.
-    void vRestore(SearchMemory kept);
+    void restore(SearchMemory kept);
 
     // The condition that a mode sends; null for a mode without searches.
-    CSearch* ConditionOf(ListIndex mode);
+    CSearch* conditionOf(ListIndex mode);
     // A search was sent besides.
-    void vSent(const CSearch& condition, unsigned char service);
+    void noteSent(const CSearch& condition, unsigned char service);
     // A service has answered a condition: true when this view waits for that; it does not any more. Other
     // answers come by themselves, because the service has found more.
-    bool bTakeAnswerDue(const CSearch& condition, unsigned char service);
+    bool takeAnswerDue(const CSearch& condition, unsigned char service);
 
     // The condition that a list's rows were found under, with its keywords to be marked; empty for others.
-    CSearch FoundUnder(ListIndex list) const;
+    CSearch foundUnder(ListIndex list) const;
     // The table that holds the answer to a condition; none: no search of this view asked for it.
-    std::optional<TableKind> KindOfAnswer(const CSearch& condition) const;
+    std::optional<TableKind> kindOfAnswer(const CSearch& condition) const;
 
     // The symbol that a list's search is narrowed to: of what was found, else of what will be sent next.
-    std::optional<CSymbolInfo> Narrowing(ListIndex list) const;
+    std::optional<CSymbolInfo> narrowing(ListIndex list) const;
     // What a list's search is narrowed to counts no more: what was found under it is what its mode sends
     // next, for every symbol.
-    void vEndNarrowing(ListIndex list);
+    void endNarrowing(ListIndex list);
     // When the search of a list was sent last; none: never.
     struct Moment {
         std::int64_t time = 0;        // seconds since 1970
         std::size_t endedBreaks = 0;  // of the back end's connection, until then
     };
-    std::optional<Moment> SentAt(ListIndex list) const;
+    std::optional<Moment> sentAt(ListIndex list) const;
 
     // Makes the word alone the ordinary condition (in headlines, composed at `now`), and keeps it in the
     // history. Another word than the one in force is not narrowed to a symbol.
-    void vTakeQuickSearch(const QString& word, std::int64_t now);
+    void takeQuickSearch(const QString& word, std::int64_t now);
     // For hosts: the quick-search words used so far, each once, newest last.
-    const std::vector<QString>& History() const { return history; }
+    const std::vector<QString>& searchHistory() const { return history; }
     // True when the text of the search box is another one than at the previous search.
-    bool bTakeSearchText(const QString& text);
+    bool takeSearchText(const QString& text);
     // What the user reads while answers are awaited: the wait text and the keywords, 1,000 characters at
     // most: a list of keywords can be longer than any screen.
-    QString WaitText(const CSearch& condition) const;
+    QString waitText(const CSearch& condition) const;
 
     // Two keywords or more need a method: all must match unless one is set.
-    static void vCompleteMethod(CSearch& condition);
+    static void completeMethod(CSearch& condition);
     // Sends the condition of a mode to the selected services; they are pending when `awaited`, all others
     // are not. `now` is what SentAt gives from then on.
-    void vSend(ListIndex mode, std::span<ServiceEntry> services, bool awaited, const Moment& now);
+    void sendSearch(ListIndex mode, std::span<ServiceEntry> services, bool awaited, const Moment& now);
     // Narrows every condition that equals `condition` to a symbol; the one of the warning terms with
     // `warningTermToo` only.
-    void vNarrow(const CSearch& condition, const CSymbolInfo& symbol, bool warningTermToo);
+    void narrow(const CSearch& condition, const CSymbolInfo& symbol, bool warningTermToo);
 
 private:
     struct Sent {
         CSearch condition;
         std::optional<Moment> at;
     };
-    const Sent* SentFrom(ListIndex list) const;
+    const Sent* sentFrom(ListIndex list) const;
 
     BKQuoteInterface& backEnd;
     Sent sentOrdinary;
@@ -91,11 +93,13 @@ private:
 };
 
 // A service has answered, or will not: it is not pending any more. True when others still are.
-bool TakeAnswer(std::span<ServiceEntry> services, unsigned char service);
+bool markAnswered(std::span<ServiceEntry> services, unsigned char service);
 // Nothing is awaited any more. True when something was.
-bool ForgetPending(std::span<ServiceEntry> services);
+bool forgetPending(std::span<ServiceEntry> services);
 
 // The key of search tables.
 inline const QString searchTableKey = QStringLiteral("SEARCH");
 // The number of the list that asks, as every search is sent.
 inline constexpr int searchKind = static_cast<int>(TableKind::Search);
+
+}  // namespace wirepane

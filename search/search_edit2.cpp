@@ -9,15 +9,16 @@
 #include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 SearchEdit2::SearchEdit2(QWidget* parent) : SEdit(parent) {}
 
 void SearchEdit2::keyPressEvent(QKeyEvent* event) {
     const bool pastes = event->key() == Qt::Key_Insert && event->modifiers().testFlag(Qt::ShiftModifier);
     if (pastes)
-        vRefuse(keys::invalidPaste);
+        refuse(keys::invalidPaste);
     else if (event->text() == u" "_s)
-        vRefuse(keys::invalidValue);
+        refuse(keys::invalidValue);
     else
         SEdit::keyPressEvent(event);
 }
@@ -32,10 +33,10 @@ void SearchEdit2::inputMethodEvent(QInputMethodEvent* event) {
     QInputMethodEvent taken(event->preeditString(), event->attributes());
     taken.setCommitString(composed.remove(u' '), event->replacementStart(), event->replacementLength());
     SEdit::inputMethodEvent(&taken);
-    vRefuse(keys::invalidValue);
+    refuse(keys::invalidValue);
 }
 
-void SearchEdit2::vRefuse(QLatin1StringView key) {
+void SearchEdit2::refuse(QLatin1StringView key) {
     if (owner != nullptr)
-        owner->vShowTip({mapToGlobal(QPoint(0, 0)), size()}, LangText(key));
+        owner->vShowTip({mapToGlobal(QPoint(0, 0)), size()}, langText(key));
 }

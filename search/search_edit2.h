@@ -6,12 +6,16 @@
 
 class QRect;
 
+namespace wirepane {
+
 // Shows a short tip in the middle of a rectangle of the screen.
 class ShortTips {
 public:
     virtual ~ShortTips() = default;
     virtual void vShowTip(const QRect& rectangle, const QString& text) = 0;
 };
+
+}  // namespace wirepane
 
 // The line in which a quick search is typed. It takes no blanks, typed or composed, and nothing pasted with
 // Shift+Insert, and tells the user why. Other ways of pasting are open.
@@ -22,14 +26,14 @@ public:
     explicit SearchEdit2(QWidget* parent = nullptr);
 
     // Who shows the tips; not owned, null: nobody.
-    void vSetOwner(ShortTips* view) { owner = view; }
+    void setOwner(wirepane::ShortTips* view) { owner = view; }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
-    void vRefuse(QLatin1StringView key);
+    void refuse(QLatin1StringView key);
 
-    ShortTips* owner = nullptr;
+    wirepane::ShortTips* owner = nullptr;
 };

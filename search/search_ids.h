@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace wirepane {
+
 // Numbers of the controls of the search dialogs.
 namespace search_ids {
 
@@ -92,3 +94,5 @@ inline constexpr std::array warningScopeButtons{ScopeButton{SearchScope::Headlin
                                                 ScopeButton{SearchScope::Both, warningBoth}};
 
 }  // namespace search_ids
+
+}  // namespace wirepane

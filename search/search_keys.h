@@ -4,6 +4,8 @@
 
 #include <QLatin1StringView>
 
+namespace wirepane {
+
 // The language keys of the search dialogs.
 namespace search_keys {
 
@@ -55,3 +57,5 @@ inline constexpr QLatin1StringView warningHint{"IDS_DIALOG-DEAL-SEARCH_WARNING_H
 inline constexpr QLatin1StringView warningOk{"IDS_DIALOG-DEAL-SEARCH_WARNING_IDOK"};
 
 }  // namespace search_keys
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 const QString poolKey = u"!RVNEWS_NEWSSEARCH_KEYWORD"_s;
@@ -34,7 +36,7 @@ RecentSearches recentOf(const QStringList& texts) {
         if (!condition.LoadStringA(text))
             continue;
         condition.keywords = poolOf({condition.keywords.begin(), condition.keywords.end()});
-        KeepRecentSearch(recent, condition);
+        keepRecentSearch(recent, condition);
     }
     return recent;
 }
@@ -42,7 +44,7 @@ RecentSearches recentOf(const QStringList& texts) {
 std::vector<CNewsKey> keySetsOf(const QStringList& texts) {
     std::vector<CNewsKey> keySets;
     for (const QString& text : texts) {
-        if (const auto keySet = KeySetOfText(text))
+        if (const auto keySet = keySetOfText(text))
             keySets.push_back(*keySet);
     }
     return keySets;
@@ -53,7 +55,7 @@ WarningItems warningsOf(const QStringList& texts, int chosen) {
     WarningItems warnings;
     for (int number = 1; number <= texts.size(); ++number) {
         CSearch condition;
-        if (condition.LoadStringA(texts[number - 1]) && warnings.Add(condition) && number == chosen)
+        if (condition.LoadStringA(texts[number - 1]) && warnings.add(condition) && number == chosen)
             warnings.chosen = static_cast<int>(warnings.items.size());
     }
     return warnings;
@@ -83,10 +85,12 @@ SearchMemory SearchMemory::read(const TRVCfgIO2& reader, const ViewSettingPath& 
 void SearchMemory::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
     QStringList keySetTexts;
     for (const CNewsKey& keySet : keySets)
-        keySetTexts.append(TextOfKeySet(keySet));
-    writer.SetViewInfo(path, poolKey, QStringList(keywordPool.begin(), keywordPool.end()));
-    writer.SetViewInfo(path, recentKey, textsOf(recent));
-    writer.SetViewInfo(path, keySetsKey, keySetTexts);
-    writer.SetViewInfo(path, warningsKey, textsOf(warnings.items));
-    writer.SetViewInfo(path, chosenWarningKey, warnings.chosen);
+        keySetTexts.append(textOfKeySet(keySet));
+    writer.setViewInfo(path, poolKey, QStringList(keywordPool.begin(), keywordPool.end()));
+    writer.setViewInfo(path, recentKey, textsOf(recent));
+    writer.setViewInfo(path, keySetsKey, keySetTexts);
+    writer.setViewInfo(path, warningsKey, textsOf(warnings.items));
+    writer.setViewInfo(path, chosenWarningKey, warnings.chosen);
 }
+
+}  // namespace wirepane

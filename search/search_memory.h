@@ -8,6 +8,8 @@
 #include "search/recent_searches.h"
 #include "search/warning_items.h"
 
+namespace wirepane {
+
 // What a view keeps of its user's searches: every keyword ever typed, the searches made last, and the stored
 // conditions of its standing searches.
 struct SearchMemory {
@@ -20,3 +22,5 @@ struct SearchMemory {
     static SearchMemory read(const TRVCfgIO2& reader, const ViewSettingPath& path);
     void write(TRVCfgIO2& writer, const ViewSettingPath& path) const;
 };
+
+}  // namespace wirepane

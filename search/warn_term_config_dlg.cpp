@@ -17,12 +17,13 @@
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 CWarnTermConfigDlg::CWarnTermConfigDlg(const CSearch& edited, QWidget* parent)
     : QDialog(parent), condition(edited) {
-    SetWindowId(this, search_ids::warnTermConfig);
-    setWindowTitle(LangText(search_keys::warningItemTitle));
-    vCreateControls();
+    setWindowId(this, search_ids::warnTermConfig);
+    setWindowTitle(langText(search_keys::warningItemTitle));
+    createControls();
     const QStringList keywords(condition.keywords.begin(), condition.keywords.end());
     keywordEdit->setText(keywords.join(u", "_s));
     method->button(numberOf(shownMethod(condition.method)))->setChecked(true);
@@ -30,25 +31,25 @@ CWarnTermConfigDlg::CWarnTermConfigDlg(const CSearch& edited, QWidget* parent)
     keywordEdit->setFocus();
 }
 
-void CWarnTermConfigDlg::vCreateControls() {
+void CWarnTermConfigDlg::createControls() {
     keywordEdit = new QLineEdit(this);
-    SetWindowId(keywordEdit, search_ids::warningEdit);
-    keywordEdit->setAccessibleName(LangText(search_keys::contentsColumn));
-    keywordEdit->setPlaceholderText(LangText(search_keys::warningHint));
+    setWindowId(keywordEdit, search_ids::warningEdit);
+    keywordEdit->setAccessibleName(langText(search_keys::contentsColumn));
+    keywordEdit->setPlaceholderText(langText(search_keys::warningHint));
     keywordEdit->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(fontMetrics().height());
-    grid->addWidget(AddCaption(this, 0, LangText(search_keys::contentsColumn)), 0, 0);
+    grid->addWidget(addCaption(this, 0, langText(search_keys::contentsColumn)), 0, 0);
     const int columns = static_cast<int>(search_ids::warningScopeButtons.size()) + 1;
     grid->addWidget(keywordEdit, 0, 1, 1, columns);
-    method = AddChoices(this, *grid, 1, AddCaption(this, 0, LangText(search_keys::method)),
-                        ChoicesOf(search_ids::warningMethodButtons));
-    scope = AddChoices(this, *grid, 2, AddCaption(this, 0, LangText(search_keys::scope)),
-                       ChoicesOf(search_ids::warningScopeButtons));
+    method = addChoices(this, *grid, 1, addCaption(this, 0, langText(search_keys::method)),
+                        choicesOf(search_ids::warningMethodButtons));
+    scope = addChoices(this, *grid, 2, addCaption(this, 0, langText(search_keys::scope)),
+                       choicesOf(search_ids::warningScopeButtons));
     grid->setColumnStretch(columns, 1);
 
-    QPushButton* ok = AddButton(this, search_ids::ok, LangText(search_keys::warningOk));
+    QPushButton* ok = makeButton(this, search_ids::ok, langText(search_keys::warningOk));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
 
@@ -56,19 +57,23 @@ void CWarnTermConfigDlg::vCreateControls() {
     column->setSpacing(fontMetrics().height());
     column->setSizeConstraint(QLayout::SetFixedSize);
     column->addLayout(grid);
-    column->addLayout(AddEnd(this, ok));
+    column->addLayout(addEnd(this, ok));
 }
 
-CSearch CWarnTermConfigDlg::Condition() const {
+CSearch CWarnTermConfigDlg::composed() const {
     CSearch edited = condition;
-    edited.keywords = KeywordsOfText(keywordEdit->text());
+    edited.keywords = keywordsOfText(keywordEdit->text());
     edited.method = static_cast<unsigned char>(method->checkedId());
     edited.scope = static_cast<unsigned char>(scope->checkedId());
     return edited;
 }
 
-std::vector<QString> KeywordsOfText(const QString& text) {
+namespace wirepane {
+
+std::vector<QString> keywordsOfText(const QString& text) {
     static const QRegularExpression separators(u"[ ,\n]"_s);
     const QStringList pieces = text.split(separators, Qt::SkipEmptyParts);
     return {pieces.begin(), pieces.end()};
 }
+
+}  // namespace wirepane

@@ -18,10 +18,10 @@ public:
     CWarnTermConfigDlg(const CSearch& condition, QWidget* parent);
 
     // The condition as the controls have it.
-    CSearch Condition() const;
+    CSearch composed() const;
 
 private:
-    void vCreateControls();
+    void createControls();
 
     CSearch condition;
     QLineEdit* keywordEdit = nullptr;
@@ -29,5 +29,9 @@ private:
     QButtonGroup* scope = nullptr;   // button ids: the scope
 };
 
+namespace wirepane {
+
 // The keywords of a text: what stands between blanks, commas and line feeds, in order, also when it repeats.
-std::vector<QString> KeywordsOfText(const QString& text);
+std::vector<QString> keywordsOfText(const QString& text);
+
+}  // namespace wirepane

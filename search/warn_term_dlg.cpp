@@ -18,6 +18,7 @@
 #include <array>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 namespace {
 
@@ -28,124 +29,124 @@ constexpr int rowsInSight = 10;
 
 // A method that is not set has no text.
 QString methodText(int method) {
-    return isSearchMethod(method) ? MethodText(method) : QString();
+    return isSearchMethod(method) ? searchMethodText(method) : QString();
 }
 
 }  // namespace
 
 CWarnTermDlg::CWarnTermDlg(const WarningItems& items, const CSearch& inForce, QWidget* parent)
     : QDialog(parent), warnings(items), chosen(inForce) {
-    SetWindowId(this, search_ids::warnTerms);
-    setWindowTitle(LangText(search_keys::warningTitle));
-    vCreateList();
+    setWindowId(this, search_ids::warnTerms);
+    setWindowTitle(langText(search_keys::warningTitle));
+    createList();
     auto* column = new QVBoxLayout(this);
     column->setSpacing(fontMetrics().height() * 2 / 3);
     column->addWidget(list, 1);
-    column->addLayout(pCreateCommands());
-    column->addLayout(pCreateEnd());
+    column->addLayout(createCommands());
+    column->addLayout(createEnd());
     resize(fontMetrics().averageCharWidth() * 90, sizeHint().height());
-    for (int row = 0; warnings.Item(row) != nullptr; ++row)
-        vFillRow(row);
+    for (int row = 0; warnings.itemAt(row) != nullptr; ++row)
+        fillRow(row);
     list->setFocus();
 }
 
 int CWarnTermDlg::DoModal() {
-    return RunModally(this);
+    return runModally(this);
 }
 
-void CWarnTermDlg::vCreateList() {
+void CWarnTermDlg::createList() {
     list = new ReportList(
         std::array{
             ReportColumn{u" "_s, numberWidth},
-            ReportColumn{LangText(search_keys::scopeColumn), scopeWidth, Qt::AlignLeft, ScopeTexts()},
-            ReportColumn{LangText(search_keys::methodColumn), methodWidth, Qt::AlignHCenter, MethodTexts()},
-            ReportColumn{LangText(search_keys::contentsColumn), 0}},
+            ReportColumn{langText(search_keys::scopeColumn), scopeWidth, Qt::AlignLeft, scopeTexts()},
+            ReportColumn{langText(search_keys::methodColumn), methodWidth, Qt::AlignHCenter, methodTexts()},
+            ReportColumn{langText(search_keys::contentsColumn), 0}},
         this);
-    SetWindowId(list, search_ids::warnings);
-    list->setAccessibleName(LangText(search_keys::warningTitle));
-    list->setMinimumHeight(list->iHeightOf(rowsInSight));
+    setWindowId(list, search_ids::warnings);
+    list->setAccessibleName(langText(search_keys::warningTitle));
+    list->setMinimumHeight(list->heightOf(rowsInSight));
     connect(
-        list, &QTableWidget::cellDoubleClicked, this, [this] { vEdit(); }, Qt::QueuedConnection);
+        list, &QTableWidget::cellDoubleClicked, this, [this] { edit(); }, Qt::QueuedConnection);
 }
 
-QLayout* CWarnTermDlg::pCreateCommands() {
+QLayout* CWarnTermDlg::createCommands() {
     auto* row = new QHBoxLayout;
     const auto add = [&](int id, QLatin1StringView key, void (CWarnTermDlg::*act)()) {
-        QPushButton* button = AddButton(this, id, LangText(key));
+        QPushButton* button = makeButton(this, id, langText(key));
         connect(button, &QPushButton::clicked, this, act);
         row->addWidget(button);
     };
-    add(search_ids::addWarning, search_keys::addWarning, &CWarnTermDlg::vAdd);
-    add(search_ids::editWarning, search_keys::editWarning, &CWarnTermDlg::vEdit);
-    add(search_ids::deleteWarning, search_keys::deleteWarning, &CWarnTermDlg::vDelete);
+    add(search_ids::addWarning, search_keys::addWarning, &CWarnTermDlg::add);
+    add(search_ids::editWarning, search_keys::editWarning, &CWarnTermDlg::edit);
+    add(search_ids::deleteWarning, search_keys::deleteWarning, &CWarnTermDlg::deleteChosen);
     row->addStretch();
     return row;
 }
 
-QLayout* CWarnTermDlg::pCreateEnd() {
-    QPushButton* ok = AddButton(this, search_ids::ok, LangText(search_keys::ok));
+QLayout* CWarnTermDlg::createEnd() {
+    QPushButton* ok = makeButton(this, search_ids::ok, langText(search_keys::ok));
     ok->setDefault(true);
-    connect(ok, &QPushButton::clicked, this, &CWarnTermDlg::OnOK);
-    return AddEnd(this, ok);
+    connect(ok, &QPushButton::clicked, this, &CWarnTermDlg::onOK);
+    return addEnd(this, ok);
 }
 
-int CWarnTermDlg::SelectedRow() const {
+int CWarnTermDlg::selectedRow() const {
     const QModelIndexList rows = list->selectionModel()->selectedRows();
     return rows.isEmpty() ? -1 : rows.front().row();
 }
 
 // Rows keep the number that they were given; only the next opening counts them anew.
-void CWarnTermDlg::vFillRow(int row) {
-    const CSearch& item = *warnings.Item(row);
+void CWarnTermDlg::fillRow(int row) {
+    const CSearch& item = *warnings.itemAt(row);
     const QStringList keywords(item.keywords.begin(), item.keywords.end());
-    list->vSetRow(row, {QString::number(row + 1), ScopeText(item.scope), methodText(item.method),
-                        keywords.join(u", "_s)});
+    list->setRow(row, {QString::number(row + 1), scopeText(item.scope), methodText(item.method),
+                       keywords.join(u", "_s)});
     QFont font = list->font();
     font.setBold(warnings.chosen == row + 1);
     for (int column = 0; column < list->columnCount(); ++column)
         list->item(row, column)->setFont(font);
 }
 
-bool CWarnTermDlg::bEdit(CSearch& condition) {
+bool CWarnTermDlg::edit(CSearch& condition) {
     const HeapDialog dialog(new CWarnTermConfigDlg(condition, this));
-    if (RunOver(this, dialog.get()) != Accepted)
+    if (runOver(this, dialog.get()) != Accepted)
         return false;
-    condition = dialog->Condition();
+    condition = dialog->composed();
     return true;
 }
 
-void CWarnTermDlg::vAdd() {
+void CWarnTermDlg::add() {
     CSearch condition;
     condition.method = numberOf(SearchMethod::All);
-    if (bEdit(condition) && warnings.Add(condition))
-        vFillRow(list->rowCount());
+    if (edit(condition) && warnings.add(condition))
+        fillRow(list->rowCount());
 }
 
-void CWarnTermDlg::vEdit() {
-    const int row = SelectedRow();
+void CWarnTermDlg::edit() {
+    const int row = selectedRow();
     if (row < 0)
         return;
-    CSearch condition = *warnings.Item(row);
-    if (!bEdit(condition) || !warnings.Replace(row, condition))
+    CSearch condition = *warnings.itemAt(row);
+    if (!edit(condition) || !warnings.replace(row, condition))
         return;
     list->removeRow(row);
-    vFillRow(list->rowCount());
+    fillRow(list->rowCount());
 }
 
-void CWarnTermDlg::vDelete() {
-    const int row = SelectedRow();
+void CWarnTermDlg::deleteChosen() {
+    const int row = selectedRow();
     if (row < 0)
         return;
-    warnings.Remove(row);
+    warnings.remove(row);
     list->removeRow(row);
 }
 
-void CWarnTermDlg::OnOK() {
-    const int row = SelectedRow();
+void CWarnTermDlg::onOK() {
+    const int row = selectedRow();
     if (row < 0) {
-        TellError(this, LangText(search_keys::noWarningSelected));
+        tellError(this, langText(search_keys::noWarningSelected));
         return;
     }
-    warnings.Choose(row, chosen);
+    warnings.choose(row, chosen);
     accept();
 }

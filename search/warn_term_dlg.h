@@ -7,7 +7,11 @@
 #include <QDialog>
 
 class QLayout;
+
+namespace wirepane {
 class ReportList;
+
+}  // namespace wirepane
 
 // The modal dialog with the list of warning terms, in which one is chosen and all are managed. The one in
 // force stands out.
@@ -16,29 +20,29 @@ class CWarnTermDlg : public QDialog {
 
 public:
     // Works on copies. `inForce`: the condition that the chosen item changes. A back end has been installed.
-    CWarnTermDlg(const WarningItems& items, const CSearch& inForce, QWidget* parent);
+    CWarnTermDlg(const wirepane::WarningItems& items, const CSearch& inForce, QWidget* parent);
 
     // Runs the dialog: search_ids::ok or search_ids::cancel.
     int DoModal();
 
     // What the caller takes back whatever the result; the condition is changed by OK alone.
-    const WarningItems& Items() const { return warnings; }
-    const CSearch& Chosen() const { return chosen; }
+    const wirepane::WarningItems& items() const { return warnings; }
+    const CSearch& chosenItem() const { return chosen; }
 
 private:
-    void vCreateList();
-    QLayout* pCreateCommands();
-    QLayout* pCreateEnd();
-    int SelectedRow() const;
-    void vFillRow(int row);
+    void createList();
+    QLayout* createCommands();
+    QLayout* createEnd();
+    int selectedRow() const;
+    void fillRow(int row);
     // Has the user edit a condition. False when he cancels, and when this dialog is gone by then.
-    bool bEdit(CSearch& condition);
-    void vAdd();
-    void vEdit();
-    void vDelete();
-    void OnOK();
+    bool edit(CSearch& condition);
+    void add();
+    void edit();
+    void deleteChosen();
+    void onOK();
 
-    WarningItems warnings;
+    wirepane::WarningItems warnings;
     CSearch chosen;
-    ReportList* list = nullptr;
+    wirepane::ReportList* list = nullptr;
 };

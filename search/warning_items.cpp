@@ -7,31 +7,33 @@
 
 #include <algorithm>
 
-const CSearch* WarningItems::Item(int row) const {
+namespace wirepane {
+
+const CSearch* WarningItems::itemAt(int row) const {
     return row >= 0 && row < static_cast<int>(items.size()) ? &items[static_cast<std::size_t>(row)] : nullptr;
 }
 
-bool WarningItems::Add(const CSearch& item) {
+bool WarningItems::add(const CSearch& item) {
     if (item.keywords.empty())
         return false;
-    items.push_back(ForEverySymbol(item));
+    items.push_back(forEverySymbol(item));
     return true;
 }
 
-bool WarningItems::Replace(int row, const CSearch& edited) {
-    const CSearch* item = Item(row);
+bool WarningItems::replace(int row, const CSearch& edited) {
+    const CSearch* item = itemAt(row);
     if (item == nullptr || edited.keywords.empty() || *item == edited)
         return false;
     const bool inForce = chosen == row + 1;
-    Remove(row);
+    remove(row);
     items.push_back(edited);
     if (inForce)
         chosen = static_cast<int>(items.size());
     return true;
 }
 
-void WarningItems::Remove(int row) {
-    if (Item(row) == nullptr)
+void WarningItems::remove(int row) {
+    if (itemAt(row) == nullptr)
         return;
     items.erase(items.begin() + row);
     if (chosen == row + 1)
@@ -40,8 +42,8 @@ void WarningItems::Remove(int row) {
         --chosen;
 }
 
-void WarningItems::Choose(int row, CSearch& condition) {
-    const CSearch* item = Item(row);
+void WarningItems::choose(int row, CSearch& condition) {
+    const CSearch* item = itemAt(row);
     if (item == nullptr)
         return;
     condition.keywords = item->keywords;
@@ -50,8 +52,10 @@ void WarningItems::Choose(int row, CSearch& condition) {
     if (isSearchMethod(item->method))
         condition.method = item->method;
     const bool known = std::any_of(items.begin(), items.end(),
-                                   [&](const CSearch& other) { return AsksTheSame(other, condition); });
+                                   [&](const CSearch& other) { return asksTheSame(other, condition); });
     if (!known)
-        Add(condition);
+        add(condition);
     chosen = row + 1;
 }
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 // Turned round, so that the first match is the last one, and folded once for all keywords.
@@ -17,7 +19,7 @@ QString foldedBackwards(const QString& text) {
 
 }  // namespace
 
-std::optional<TextRange> LastMatch(const QString& text, const std::vector<QString>& keywords) {
+std::optional<TextRange> lastKeywordMatch(const QString& text, const std::vector<QString>& keywords) {
     const QString backwards = keywords.empty() ? QString() : foldedBackwards(text);
     for (auto keyword = keywords.rbegin(); keyword != keywords.rend(); ++keyword) {
         if (keyword->isEmpty())
@@ -30,3 +32,5 @@ std::optional<TextRange> LastMatch(const QString& text, const std::vector<QStrin
     }
     return {};
 }
+
+}  // namespace wirepane

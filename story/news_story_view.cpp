@@ -11,6 +11,8 @@
 
 #include <QEvent>
 
+using namespace wirepane;
+
 namespace {
 
 constexpr int sideMargin = 10;
@@ -30,12 +32,12 @@ void NewsStoryView::InitialViewInfo(TRVCfgIO2* settings, const QString& section,
                                     const QString&) {
     TRVQuoteBaseView::InitialViewInfo(settings, section, first, second, QStringLiteral("NewsStoryView"));
     titleEdit = new MyRichEdit(this);
-    SetWindowId(titleEdit, story_ids::title);
+    setWindowId(titleEdit, story_ids::title);
     titleEdit->document()->setDocumentMargin(titlePadding);
     storyEdit = new MyRichEdit(this);
-    SetWindowId(storyEdit, story_ids::storyText);
+    setWindowId(storyEdit, story_ids::storyText);
     notice = new CQuoteStaticEx(this);
-    SetWindowId(notice, story_ids::updateNotice);
+    setWindowId(notice, story_ids::updateNotice);
     notice->hide();
     vLoadLanguageString();
     titleEdit->show();
@@ -53,35 +55,35 @@ void NewsStoryView::vSetStoryData(int table, int position, const CSearch& condit
 }
 
 void NewsStoryView::vShowData() {
-    vDraw(reader.ShowData());
+    draw(reader.showData());
 }
 
 void NewsStoryView::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
-    vDraw(reader.RespHeadLine(entries));
+    draw(reader.RespHeadLine(entries));
 }
 
 void NewsStoryView::RespStory(const CHeadlineTable& entry) {
-    vDraw(reader.RespStory(entry));
+    draw(reader.RespStory(entry));
 }
 
-void NewsStoryView::vDraw(const StoryTexts& texts) {
+void NewsStoryView::draw(const StoryTexts& texts) {
     if (titleEdit == nullptr)
         return;
     if (texts.title)
-        titleEdit->vSetText(*texts.title);
+        titleEdit->showText(*texts.title);
     if (!texts.story)
         return;
-    vSetNotice({});
-    storyEdit->vSetText(*texts.story);
+    setNotice({});
+    storyEdit->showText(*texts.story);
     vSetStorySearchMarke();
 }
 
 void NewsStoryView::vStoryUpdateNotify(const CHeadlineTable*) {
     if (notice != nullptr)
-        vSetNotice(LangText(keys::waitForUpdate));
+        setNotice(langText(keys::waitForUpdate));
 }
 
-void NewsStoryView::vSetNotice(const QString& text) {
+void NewsStoryView::setNotice(const QString& text) {
     notice->setText(text);
     if (notice->isHidden() == text.isEmpty())
         return;
@@ -97,16 +99,16 @@ void NewsStoryView::OnClearStory() {
     reader.OnClearStory();
     if (titleEdit == nullptr)
         return;
-    titleEdit->vSetText({});
-    storyEdit->vSetText({});
-    vSetNotice({});
+    titleEdit->showText({});
+    storyEdit->showText({});
+    setNotice({});
 }
 
 void NewsStoryView::vSetStorySearchMarke() {
     if (storyEdit == nullptr)
         return;
-    if (const auto match = reader.Mark(storyEdit->szGetShownText()))
-        storyEdit->vSetSelection(match->start, match->end);
+    if (const auto match = reader.Mark(storyEdit->shownText()))
+        storyEdit->setSelection(match->start, match->end);
 }
 
 void NewsStoryView::vSetTextColor() {
@@ -114,18 +116,18 @@ void NewsStoryView::vSetTextColor() {
         return;
     titleEdit->vSetTextColor(colText);
     storyEdit->vSetTextColor(colText);
-    notice->vSetColors(colText, colBackground);
+    notice->setColors(colText, colBackground);
 }
 
 void NewsStoryView::vSetFont(const QFont& font) {
     if (font == paneFont)
         return;
     paneFont = font;
-    vApplyFont();
+    applyFont();
     vSetComponentPos();
 }
 
-void NewsStoryView::vApplyFont() {
+void NewsStoryView::applyFont() {
     for (QWidget* control : std::initializer_list<QWidget*>{titleEdit, storyEdit, notice}) {
         if (control != nullptr)
             control->setFont(paneFont);
@@ -152,7 +154,7 @@ void NewsStoryView::vSetComponentPos() {
 void NewsStoryView::vChangeCast() {
     TRVQuoteBaseView::vChangeCast();
     paneFont = GetViewFont();
-    vApplyFont();
+    applyFont();
     for (MyRichEdit* edit : {storyEdit, titleEdit}) {
         if (edit != nullptr)
             edit->vSetBkColor(colBackground);
@@ -163,8 +165,8 @@ void NewsStoryView::vChangeCast() {
 }
 
 void NewsStoryView::vLoadLanguageString() {
-    titleEdit->setAccessibleName(LangText(keys::title));
-    storyEdit->setAccessibleName(LangText(keys::nameOfStory));
+    titleEdit->setAccessibleName(langText(keys::title));
+    storyEdit->setAccessibleName(langText(keys::nameOfStory));
 }
 
 void NewsStoryView::changeEvent(QEvent* event) {

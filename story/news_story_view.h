@@ -8,7 +8,12 @@
 #include <QFont>
 
 class CQuoteStaticEx;
+
+namespace wirepane {
 class EntrySource;
+
+}  // namespace wirepane
+
 class MyRichEdit;
 
 // The pane inside the news view that shows the story of the selected headline: a title of three lines above
@@ -22,7 +27,7 @@ public:
     Q_INVOKABLE explicit NewsStoryView(QWidget* parent = nullptr);
 
     // Whose headlines are shown; not owned.
-    void vSetNewsParent(EntrySource* owner) { reader.vSetSource(owner); }
+    void vSetNewsParent(wirepane::EntrySource* owner) { reader.showSource(owner); }
 
     // Does not attach to the back end: the pane hears it through its owner alone.
     void OnInitialUpdate() override;
@@ -37,13 +42,13 @@ public:
     void SetHeadLinePos(int position) { reader.SetHeadLinePos(position); }
     int GetHeadLinePos() const { return reader.GetHeadLinePos(); }
     // Rows have come or gone above the headline shown: the position moves along.
-    void vMoveHeadLinePos(int position) { reader.MoveHeadLinePos(position); }
+    void moveHeadLinePos(int position) { reader.moveHeadLinePos(position); }
     // The headline shown has left the list: it stays on show.
-    void vLeaveHeadline() { reader.LeaveHeadline(); }
+    void leaveHeadline() { reader.leaveHeadline(); }
     // The headline shown, while its list has it; nothing: none.
-    const std::optional<CHeadlineTable>& PointedAt() const { return reader.PointedAt(); }
+    const std::optional<CHeadlineTable>& headlinePointedAt() const { return reader.headlinePointedAt(); }
     // The owner's list that the position refers to.
-    int iGetTable() const { return reader.iGetTable(); }
+    int listNumber() const { return reader.listNumber(); }
 
     // Shows the headline and story at the position, or a placeholder while they are not at hand. An empty
     // list leaves the pane as it is.
@@ -76,12 +81,12 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void vDraw(const StoryTexts& texts);
-    void vSetNotice(const QString& text);
-    void vApplyFont();
+    void draw(const wirepane::StoryTexts& texts);
+    void setNotice(const QString& text);
+    void applyFont();
     void vLoadLanguageString();
 
-    StoryReader reader;
+    wirepane::StoryReader reader;
     MyRichEdit* titleEdit = nullptr;
     MyRichEdit* storyEdit = nullptr;
     CQuoteStaticEx* notice = nullptr;

@@ -13,6 +13,8 @@
 
 #include <algorithm>
 
+using namespace wirepane;
+
 namespace {
 
 constexpr int placePeriodMs = 100;
@@ -44,7 +46,7 @@ bool isOfActiveWindow(const QWidget* widget) {
 }  // namespace
 
 CQuoteDlgTipMsg::CQuoteDlgTipMsg(QWidget* parent) : QWidget(parent) {
-    SetWindowId(this, story_ids::tip);
+    setWindowId(this, story_ids::tip);
     setFocusPolicy(Qt::NoFocus);
     hide();
 }
@@ -53,12 +55,12 @@ bool CQuoteDlgTipMsg::CreateByID(QWidget* parent) {
     if (parent != nullptr)
         setParent(parent);
     label = new CQuoteStaticEx(this);
-    SetWindowId(label, story_ids::tipText);
+    setWindowId(label, story_ids::tipText);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     // Its colours are often those of what lies under it.
     label->setFrameStyle(QFrame::Box | QFrame::Plain);
     hide();
-    vPlace();
+    place();
     return true;
 }
 
@@ -76,7 +78,7 @@ void CQuoteDlgTipMsg::vSetInfoColor(const QColor& foreground, const QColor& back
 }
 
 // Text that is too wide is cut by its average character width, so that what stays fills the largest tip.
-void CQuoteDlgTipMsg::vFitToText() {
+void CQuoteDlgTipMsg::fitToText() {
     const QFontMetrics metrics(tipFont.value_or(font()));
     const int textWidth = metrics.horizontalAdvance(text);
     int width = textWidth + horizontalRoom;
@@ -92,10 +94,10 @@ void CQuoteDlgTipMsg::vFitToText() {
 void CQuoteDlgTipMsg::vShow(QWidget* parent, int top, int left, bool toTheLeft) {
     if (label == nullptr || !isOfActiveWindow(parent))
         return;
-    label->vSetColors(textColour, backColour);
+    label->setColors(textColour, backColour);
     if (top != keepPlace && left != keepPlace)
         position = QPoint(left, top);
-    vFitToText();
+    fitToText();
     if (toTheLeft)
         position.rx() -= tipSize.width();
     if (parent != nullptr) {
@@ -103,7 +105,7 @@ void CQuoteDlgTipMsg::vShow(QWidget* parent, int top, int left, bool toTheLeft) 
         owner = parent;
         setParent(parent);
     }
-    vPlace();
+    place();
     label->setFont(tipFont.value_or(font()));
     label->setText(text);
     label->setGeometry(QRect(QPoint(0, 0), tipSize));
@@ -122,7 +124,7 @@ void CQuoteDlgTipMsg::vStop() {
     hide();
 }
 
-void CQuoteDlgTipMsg::vPlace() {
+void CQuoteDlgTipMsg::place() {
     if (owner == nullptr && parentWidget() == nullptr)
         return;
     setGeometry(QRect(position.isNull() ? placeForOrigin : position, tipSize));
@@ -130,7 +132,7 @@ void CQuoteDlgTipMsg::vPlace() {
 
 void CQuoteDlgTipMsg::timerEvent(QTimerEvent* event) {
     if (event->timerId() == placeTimer.timerId()) {
-        vPlace();
+        place();
     } else if (event->timerId() == countDown.timerId()) {
         remainingMs -= countDownPeriodMs;
         if (remainingMs < 1)

@@ -40,15 +40,15 @@ public:
     void vShow(QWidget* parent, int top, int left, bool toTheLeft);
     void vStop();
     // The text as it is shown, cut where it was too wide.
-    const QString& cszGetText() const { return text; }
+    const QString& tipText() const { return text; }
 
 protected:
     void timerEvent(QTimerEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    void vFitToText();
-    void vPlace();
+    void fitToText();
+    void place();
 
     CQuoteStaticEx* label = nullptr;
     QPointer<QWidget> owner;

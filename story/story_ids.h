@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+namespace wirepane {
+
 // Numbers of the controls of the story pane, the story dialog and the tip window.
 namespace story_ids {
 
@@ -18,3 +20,5 @@ inline constexpr int tip = 3059;
 inline constexpr int tipText = 2349;
 
 }  // namespace story_ids
+
+}  // namespace wirepane

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <limits>
 
+namespace wirepane {
+
 void StoryReader::vSetStoryData(int newTable, int newPosition, const CSearch& newCondition) {
     table = newTable;
     condition = newCondition;
@@ -18,10 +20,10 @@ void StoryReader::vSetStoryData(int newTable, int newPosition, const CSearch& ne
 
 void StoryReader::SetHeadLinePos(int newPosition) {
     position = std::max(0, newPosition);
-    pointedAt = EntryAtPosition();
+    pointedAt = entryAtPosition();
 }
 
-void StoryReader::MoveHeadLinePos(int newPosition) {
+void StoryReader::moveHeadLinePos(int newPosition) {
     if (pointedAt)
         SetHeadLinePos(newPosition);
     else
@@ -38,70 +40,70 @@ void StoryReader::OnClearStory() {
     shown.reset();
 }
 
-StoryTexts StoryReader::ShowData() {
+StoryTexts StoryReader::showData() {
     if (source == nullptr || source->iGetHeadlineTableSize(table) < 1)
         return {};
-    pointedAt = EntryAtPosition();
+    pointedAt = entryAtPosition();
     shown = pointedAt;
-    const QString placeholder = LangText(backEnd, keys::recover);
+    const QString placeholder = langText(backEnd, keys::recover);
     if (!pointedAt)
         return {placeholder, placeholder, true};
-    const QString title = TitleOf(*pointedAt).value_or(placeholder);
+    const QString title = titleOf(*pointedAt).value_or(placeholder);
     CStory story;
     if (!backEnd.BKQNEWS_bGetStory(story, *pointedAt))
         return {title, placeholder, true};
-    return {title, TextOf(story, pointedAt->service, BodyEnd::Shown), false};
+    return {title, textOf(story, pointedAt->service, BodyEnd::Shown), false};
 }
 
 StoryTexts StoryReader::RespHeadLine(const std::vector<CHeadlineTable>& entries) const {
-    const auto entry = Awaited();
-    if (!entry || !bTitleIsShown())
+    const auto entry = awaitedHeadline();
+    if (!entry || !titleIsShown())
         return {};
     const bool answered = std::any_of(entries.begin(), entries.end(), [&](const CHeadlineTable& candidate) {
-        return IsSameNews(candidate, *entry);
+        return isSameNews(candidate, *entry);
     });
-    return {answered ? TitleOf(*entry) : std::nullopt, {}, false};
+    return {answered ? titleOf(*entry) : std::nullopt, {}, false};
 }
 
 StoryTexts StoryReader::RespStory(const CHeadlineTable& answered) {
-    const auto entry = Awaited();
+    const auto entry = awaitedHeadline();
     CStory story;
-    if (!entry || !IsSameNews(answered, *entry) || !backEnd.BKQNEWS_bGetStory(story, answered))
+    if (!entry || !isSameNews(answered, *entry) || !backEnd.BKQNEWS_bGetStory(story, answered))
         return {};
     StoryTexts texts;
-    texts.story = story.text.isEmpty() ? DatedText(story.time, LangText(backEnd, keys::noStory))
-                                       : TextOf(story, entry->service, BodyEnd::Answered);
-    if (!bTitleIsShown())
-        texts.title = TitleOf(*entry).value_or(LangText(backEnd, keys::recover));
+    texts.story = story.text.isEmpty() ? datedText(story.time, langText(backEnd, keys::noStory))
+                                       : textOf(story, entry->service, BodyEnd::Answered);
+    if (!titleIsShown())
+        texts.title = titleOf(*entry).value_or(langText(backEnd, keys::recover));
     shown = entry;
     return texts;
 }
 
 std::optional<TextRange> StoryReader::Mark(const QString& shownText) const {
-    return condition.keywordSearch ? LastMatch(shownText, condition.keywords) : std::nullopt;
+    return condition.keywordSearch ? lastKeywordMatch(shownText, condition.keywords) : std::nullopt;
 }
 
-std::optional<CHeadlineTable> StoryReader::EntryAtPosition() const {
+std::optional<CHeadlineTable> StoryReader::entryAtPosition() const {
     CHeadlineTable entry;
     if (source == nullptr || !source->bGetHeadlineTable(entry, table, position))
         return {};
     return entry;
 }
 
-std::optional<CHeadlineTable> StoryReader::Awaited() const {
+std::optional<CHeadlineTable> StoryReader::awaitedHeadline() const {
     if (follows == Follows::Headline)
         return pointedAt;
-    const auto entry = EntryAtPosition();
-    return entry && pointedAt && IsSameNews(*pointedAt, *entry) ? entry : std::nullopt;
+    const auto entry = entryAtPosition();
+    return entry && pointedAt && isSameNews(*pointedAt, *entry) ? entry : std::nullopt;
 }
 
-bool StoryReader::bTitleIsShown() const {
-    return shown && pointedAt && IsSameNews(*shown, *pointedAt);
+bool StoryReader::titleIsShown() const {
+    return shown && pointedAt && isSameNews(*shown, *pointedAt);
 }
 
 // The title as it is to be shown; none while the headline is not at hand with any active service. A dated
 // title never equals the placeholder, so it is converted without a look at that.
-std::optional<QString> StoryReader::TitleOf(const CHeadlineTable& entry) const {
+std::optional<QString> StoryReader::titleOf(const CHeadlineTable& entry) const {
     std::vector<unsigned char> services;
     source->vGetNewsActiveService(services);
     std::vector<CHeadline> headlines;
@@ -112,11 +114,13 @@ std::optional<QString> StoryReader::TitleOf(const CHeadlineTable& entry) const {
     if (headlines.empty())
         return {};
     const CHeadline& first = headlines.front();
-    return ShownText(backEnd, first.service, DatedText(first.time, first.title));
+    return shownText(backEnd, first.service, datedText(first.time, first.title));
 }
 
-QString StoryReader::TextOf(const CStory& story, unsigned char service, BodyEnd end) const {
-    QString body = ShownText(backEnd, service, story.text);
+QString StoryReader::textOf(const CStory& story, unsigned char service, BodyEnd end) const {
+    QString body = shownText(backEnd, service, story.text);
     vConvertStoryContent(body);
-    return StoryText(story.time, body, end, LangText(backEnd, keys::storyRemark));
+    return storyText(story.time, body, end, langText(backEnd, keys::storyRemark));
 }
+
+}  // namespace wirepane

@@ -12,6 +12,7 @@
 #include <optional>
 #include <vector>
 
+namespace wirepane {
 class EntrySource;
 enum class BodyEnd : int;
 
@@ -40,7 +41,7 @@ public:
         : backEnd(newsSource), follows(followed) {}
 
     // Whose headlines are read; not owned, null: none.
-    void vSetSource(const EntrySource* owner) { source = owner; }
+    void showSource(const EntrySource* owner) { source = owner; }
 
     // Points at a headline of list `table`, which was found under `condition` (empty: not by a search).
     void vSetStoryData(int table, int position, const CSearch& condition = {});
@@ -49,14 +50,14 @@ public:
     int GetHeadLinePos() const { return position; }
     // Rows have come or gone above: the position moves along with the headline that is pointed at. Without
     // one the position alone moves.
-    void MoveHeadLinePos(int newPosition);
+    void moveHeadLinePos(int newPosition);
     // The headline pointed at has left the list: what is shown stays, and nothing answers for it.
-    void LeaveHeadline() { pointedAt.reset(); }
-    int iGetTable() const { return table; }
+    void leaveHeadline() { pointedAt.reset(); }
+    int listNumber() const { return table; }
     // The headline that answers are for; nothing: none.
-    const std::optional<CHeadlineTable>& PointedAt() const { return pointedAt; }
+    const std::optional<CHeadlineTable>& headlinePointedAt() const { return pointedAt; }
     // The headline whose title is on show; nothing: none.
-    const std::optional<CHeadlineTable>& Shown() const { return shown; }
+    const std::optional<CHeadlineTable>& shownHeadline() const { return shown; }
     // A headline was inserted above: the position moves down with its headline.
     void RecvNewHeadLine();
     // Nothing is shown: answers are ignored until the reader is pointed at a headline again.
@@ -64,7 +65,7 @@ public:
 
     // Shows the headline at the position: title and story, or a placeholder for what is not at hand. Nothing
     // when the list is empty.
-    StoryTexts ShowData();
+    StoryTexts showData();
     // Headlines can be had: the title, when the shown headline is among them.
     StoryTexts RespHeadLine(const std::vector<CHeadlineTable>& entries) const;
     // A story can be had: its text, when it belongs to the headline at the position; with the title where
@@ -75,12 +76,12 @@ public:
     std::optional<TextRange> Mark(const QString& shownText) const;
 
 private:
-    std::optional<CHeadlineTable> EntryAtPosition() const;
+    std::optional<CHeadlineTable> entryAtPosition() const;
     // The headline that answers are for.
-    std::optional<CHeadlineTable> Awaited() const;
-    bool bTitleIsShown() const;
-    std::optional<QString> TitleOf(const CHeadlineTable& entry) const;
-    QString TextOf(const CStory& story, unsigned char service, BodyEnd end) const;
+    std::optional<CHeadlineTable> awaitedHeadline() const;
+    bool titleIsShown() const;
+    std::optional<QString> titleOf(const CHeadlineTable& entry) const;
+    QString textOf(const CStory& story, unsigned char service, BodyEnd end) const;
 
     BKQuoteInterface& backEnd;
     Follows follows;
@@ -91,3 +92,5 @@ private:
     std::optional<CHeadlineTable> pointedAt;
     std::optional<CHeadlineTable> shown;
 };
+
+}  // namespace wirepane

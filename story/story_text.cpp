@@ -5,6 +5,7 @@
 #include "headline_list/cell_texts.h"
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 namespace {
 
@@ -12,19 +13,23 @@ constexpr QLatin1StringView paragraphMark{"@@@@"};
 constexpr QLatin1StringView lineBreak{"\r\n"};
 
 QString dateLine(std::int64_t time) {
-    const QDateTime local = LocalTime(time);
+    const QDateTime local = localTime(time);
     return local.isValid() ? local.toString(u"yyyy/MM/dd HH:mm:ss \r\n"_s) : u"0000/00/00 -1:-1:-1 \r\n"_s;
 }
 
 }  // namespace
 
-QString DatedText(std::int64_t time, const QString& text) {
+namespace wirepane {
+
+QString datedText(std::int64_t time, const QString& text) {
     return dateLine(time) + text;
 }
 
-QString StoryText(std::int64_t time, const QString& body, BodyEnd end, const QString& remark) {
+QString storyText(std::int64_t time, const QString& body, BodyEnd end, const QString& remark) {
     return dateLine(time) + body + QString(static_cast<int>(end), u' ') + lineBreak + lineBreak + remark;
 }
+
+}  // namespace wirepane
 
 void vConvertStoryContent(QString& story) {
     story.removeIf([](QChar c) { return c == u'\r' || c == u'\n'; });
@@ -41,7 +46,11 @@ void vConvertStoryContent(QString& story) {
     story = std::move(lines);
 }
 
-bool IsSameNews(const CHeadlineTable& a, const CHeadlineTable& b) {
+namespace wirepane {
+
+bool isSameNews(const CHeadlineTable& a, const CHeadlineTable& b) {
     return a.service == b.service && a.sequence == b.sequence && a.second == b.second && a.last == b.last &&
-           (a.time == b.time || LocalTime(a.time).date() == LocalTime(b.time).date());
+           (a.time == b.time || localTime(a.time).date() == localTime(b.time).date());
 }
+
+}  // namespace wirepane

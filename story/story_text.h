@@ -8,12 +8,14 @@
 
 #include <cstdint>
 
+namespace wirepane {
+
 // The texts that the story displays show, and the rules behind them. Lines end with "\r\n". Times are seconds
 // since 1970 and are shown in local time; a time outside any calendar shows as "0000/00/00 -1:-1:-1".
 
 // Date, time and one text under them: "yyyy/mm/dd hh:mm:ss \r\n<text>". The form of titles and of what stands
 // in place of an empty story.
-QString DatedText(std::int64_t time, const QString& text);
+QString datedText(std::int64_t time, const QString& text);
 
 // The blanks between a story's body and the break after it.
 enum class BodyEnd : int {
@@ -22,12 +24,18 @@ enum class BodyEnd : int {
 };
 
 // A story: "yyyy/mm/dd hh:mm:ss \r\n<body><blanks>\r\n\r\n<remark>".
-QString StoryText(std::int64_t time, const QString& body, BodyEnd end, const QString& remark);
+QString storyText(std::int64_t time, const QString& body, BodyEnd end, const QString& remark);
+
+}  // namespace wirepane
 
 // Brings a story from wire form into lines: joins what transport wrapping broke at CR and LF, then makes each
 // "@@@@" (from the left) a line break. Linear in the length.
 void vConvertStoryContent(QString& story);
 
+namespace wirepane {
+
 // Two entries name the same news: service, local calendar day, number and both opaque values are equal. Times
 // outside any calendar are all of one day.
-bool IsSameNews(const CHeadlineTable& a, const CHeadlineTable& b);
+bool isSameNews(const CHeadlineTable& a, const CHeadlineTable& b);
+
+}  // namespace wirepane

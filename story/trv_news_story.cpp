@@ -14,6 +14,8 @@
 #include "story/story_owner.h"
 #include "story/story_text.h"
 
+using namespace wirepane;
+
 namespace {
 
 constexpr int margin = 10;
@@ -44,7 +46,7 @@ constexpr std::array<StoryButton, 4> storyButtons{{
 TRVNewsStory::TRVNewsStory(StoryOwner& storyOwner, QWidget* ownerView)
     : TRVNewsStory(&storyOwner, nullptr, ownerView) {}
 
-TRVNewsStory::TRVNewsStory(CMainFrame* frame) : TRVNewsStory(nullptr, frame, frame->pGetWindow()) {}
+TRVNewsStory::TRVNewsStory(CMainFrame* frame) : TRVNewsStory(nullptr, frame, frame->frameWindow()) {}
 
 TRVNewsStory::TRVNewsStory(StoryOwner* storyOwner, CMainFrame* frame, QWidget* parent)
     : QDialog(parent),
@@ -54,25 +56,25 @@ TRVNewsStory::TRVNewsStory(StoryOwner* storyOwner, CMainFrame* frame, QWidget* p
       titleEdit(new MyRichEdit(this)),
       storyEdit(new MyRichEdit(this)),
       notice(new CQuoteStaticEx(this)) {
-    reader.vSetSource(owner);
+    reader.showSource(owner);
     reader.vSetStoryData(-1, 0);
-    SetWindowId(this, story_ids::dialog);
-    SetWindowId(titleEdit, story_ids::title);
-    SetWindowId(storyEdit, story_ids::storyText);
-    SetWindowId(notice, story_ids::updateNotice);
+    setWindowId(this, story_ids::dialog);
+    setWindowId(titleEdit, story_ids::title);
+    setWindowId(storyEdit, story_ids::storyText);
+    setWindowId(notice, story_ids::updateNotice);
     titleEdit->document()->setDocumentMargin(titlePadding);
     notice->hide();
-    vCreateButtons();
+    createButtons();
     vSetFont(CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont());
     vLoadLanguageString();
     resize(initialSize);
 }
 
 // No button is pressed by Enter: the dialog has no keys of its own.
-void TRVNewsStory::vCreateButtons() {
+void TRVNewsStory::createButtons() {
     for (std::size_t i = 0; i < buttons.size(); ++i) {
         buttons[i] = new SButton(this);
-        SetWindowId(buttons[i], storyButtons[i].id);
+        setWindowId(buttons[i], storyButtons[i].id);
         buttons[i]->setHidden(owner == nullptr);
         connect(buttons[i], &SButton::clicked, this, storyButtons[i].clicked);
     }
@@ -82,19 +84,19 @@ void TRVNewsStory::vCreateButtons() {
 }
 
 void TRVNewsStory::vLoadLanguageString() {
-    setWindowTitle(LangText(keys::storyDialogTitle));
-    titleEdit->setAccessibleName(LangText(keys::title));
-    storyEdit->setAccessibleName(LangText(keys::nameOfStory));
+    setWindowTitle(langText(keys::storyDialogTitle));
+    titleEdit->setAccessibleName(langText(keys::title));
+    storyEdit->setAccessibleName(langText(keys::nameOfStory));
     for (std::size_t i = 0; i < buttons.size(); ++i)
-        buttons[i]->setText(LangText(storyButtons[i].textKey));
-    vLayOut();
+        buttons[i]->setText(langText(storyButtons[i].textKey));
+    layOut();
 }
 
 void TRVNewsStory::vSetFont(const QFont& font) {
     titleEdit->setFont(font);
     storyEdit->setFont(font);
     notice->setFont(font);
-    vLayOut();
+    layOut();
 }
 
 // --- Stories ---
@@ -105,51 +107,51 @@ void TRVNewsStory::vSetStoryData(int table, int position, const CSearch& conditi
 }
 
 void TRVNewsStory::vShowData() {
-    vDraw(reader.ShowData());
+    draw(reader.showData());
 }
 
 void TRVNewsStory::RespHeadLine(const std::vector<CHeadlineTable>& entries) {
-    vDraw(reader.RespHeadLine(entries));
+    draw(reader.RespHeadLine(entries));
 }
 
 void TRVNewsStory::RespStory(const CHeadlineTable& entry) {
-    vDraw(reader.RespStory(entry));
+    draw(reader.RespStory(entry));
 }
 
-void TRVNewsStory::vDraw(const StoryTexts& texts) {
+void TRVNewsStory::draw(const StoryTexts& texts) {
     if (texts.title)
-        titleEdit->vSetText(*texts.title);
+        titleEdit->showText(*texts.title);
     if (texts.story)
-        vShowStory(*texts.story);
+        showStory(*texts.story);
 }
 
-void TRVNewsStory::vShowStory(const QString& text) {
-    vSetNotice({});
-    storyEdit->vSetText(text);
+void TRVNewsStory::showStory(const QString& text) {
+    setNotice({});
+    storyEdit->showText(text);
     vSetStorySearchMarke();
 }
 
 void TRVNewsStory::vSetStorySearchMarke() {
-    if (const auto match = reader.Mark(storyEdit->szGetShownText()))
-        storyEdit->vSetSelection(match->start, match->end);
+    if (const auto match = reader.Mark(storyEdit->shownText()))
+        storyEdit->setSelection(match->start, match->end);
 }
 
 void TRVNewsStory::vStoryUpdateNotify(const CHeadlineTable*) {
-    vSetNotice(LangText(keys::waitForUpdate));
+    setNotice(langText(keys::waitForUpdate));
 }
 
-void TRVNewsStory::vSetNotice(const QString& text) {
+void TRVNewsStory::setNotice(const QString& text) {
     notice->setText(text);
     if (notice->isHidden() == text.isEmpty())
         return;
     notice->setHidden(text.isEmpty());
-    vLayOut();
+    layOut();
 }
 
 // --- Buttons ---
 
-void TRVNewsStory::vPage(int step) {
-    const int size = owner != nullptr ? owner->iGetHeadlineTableSize(iGetTable()) : 0;
+void TRVNewsStory::page(int step) {
+    const int size = owner != nullptr ? owner->iGetHeadlineTableSize(listNumber()) : 0;
     if (size < 1)
         return;
     int position = GetHeadLinePos() + step;
@@ -159,59 +161,59 @@ void TRVNewsStory::vPage(int step) {
         position = size - 1;
     reader.SetHeadLinePos(position);
     vShowData();
-    owner->bChangeNewsPos(iGetTable(), position);
+    owner->bChangeNewsPos(listNumber(), position);
 }
 
 void TRVNewsStory::OnBtnPageDown() {
-    vPage(1);
+    page(1);
 }
 
 void TRVNewsStory::OnBtnPageUp() {
-    vPage(-1);
+    page(-1);
 }
 
 void TRVNewsStory::OnBtnPrint() {
-    vPutOutShown(&StoryOwner::PrintHeadline);
+    putOutShown(&StoryOwner::printHeadline);
 }
 
 void TRVNewsStory::OnBtnSaveas() {
-    vPutOutShown(&StoryOwner::SaveHeadline);
+    putOutShown(&StoryOwner::saveHeadline);
 }
 
 // Headlines that arrived, or a list that was read anew, may have moved the headline away from the position.
-void TRVNewsStory::vPutOutShown(void (StoryOwner::*putOut)(const CHeadlineTable&)) {
-    const std::optional<CHeadlineTable> headline = reader.Shown();
+void TRVNewsStory::putOutShown(void (StoryOwner::*putOut)(const CHeadlineTable&)) {
+    const std::optional<CHeadlineTable> headline = reader.shownHeadline();
     if (owner == nullptr || !headline)
         return;
-    if (const int row = owner->iRowOf(iGetTable(), *headline); row >= 0)
-        owner->bChangeNewsPos(iGetTable(), row);
+    if (const int row = owner->rowOf(listNumber(), *headline); row >= 0)
+        owner->bChangeNewsPos(listNumber(), row);
     (owner->*putOut)(*headline);
 }
 
 // --- The main frame's texts ---
 
 void TRVNewsStory::vMainFrameShowHeadline(const QString& text) {
-    vDraw({text, LangText(keys::recover), true});
+    draw({text, langText(keys::recover), true});
 }
 
 void TRVNewsStory::vMainFrameShowStroy(const CStory& story) {
     if (story.text.isEmpty()) {
-        vShowStory(LangText(keys::recover));
+        showStory(langText(keys::recover));
         return;
     }
     QString body = story.text;
     vConvertStoryContent(body);
-    vShowStory(StoryText(story.time, body, BodyEnd::Shown, LangText(keys::storyRemark)));
+    showStory(storyText(story.time, body, BodyEnd::Shown, langText(keys::storyRemark)));
 }
 
 // --- Layout ---
 
 void TRVNewsStory::resizeEvent(QResizeEvent* event) {
     QDialog::resizeEvent(event);
-    vLayOut();
+    layOut();
 }
 
-void TRVNewsStory::vLayOut() {
+void TRVNewsStory::layOut() {
     const int noticeHeight = notice->isHidden() ? 0 : notice->fontMetrics().height();
     notice->setGeometry(margin, margin, width() - 2 * margin, noticeHeight);
     const QRect title(margin, margin + noticeHeight, width() - 2 * margin,
@@ -221,11 +223,11 @@ void TRVNewsStory::vLayOut() {
     const int storyBottom = height() - (owner != nullptr ? spaceForButtons : margin);
     storyEdit->setGeometry(margin, storyTop, title.width(), storyBottom - storyTop);
     if (owner != nullptr)
-        vPlaceButtons();
+        placeButtons();
 }
 
 // All are as large as the largest needs to be.
-void TRVNewsStory::vPlaceButtons() {
+void TRVNewsStory::placeButtons() {
     QSize size = buttons.front()->sizeHint();
     for (const SButton* button : buttons)
         size = size.expandedTo(button->sizeHint());
@@ -241,7 +243,7 @@ void TRVNewsStory::vPlaceButtons() {
 void TRVNewsStory::reject() {
     QDialog::reject();
     if (owner == nullptr) {
-        mainFrame->OnStoryWindowClosed();
+        mainFrame->onStoryWindowClosed();
         return;
     }
     parentWidget()->activateWindow();

@@ -13,18 +13,22 @@ class CMainFrame;
 class CQuoteStaticEx;
 class MyRichEdit;
 class SButton;
+
+namespace wirepane {
 class StoryOwner;
+
+}  // namespace wirepane
 
 // The story of a headline in a window of its own, modeless. It serves a news view, with buttons to page
 // through the view's headlines, print and save; or a main frame, bare, which pushes its texts in. Created
 // hidden; its owner shows it, hides it and deletes it. Colours are the platform's. The back end must have
 // been installed.
-class TRVNewsStory : public QDialog, public NewsStoryWindow {
+class TRVNewsStory : public QDialog, public wirepane::NewsStoryWindow {
     Q_OBJECT
 
 public:
     // Both outlive the dialog. `ownerView` is its parent window and gets the keyboard back.
-    TRVNewsStory(StoryOwner& owner, QWidget* ownerView);
+    TRVNewsStory(wirepane::StoryOwner& owner, QWidget* ownerView);
     explicit TRVNewsStory(CMainFrame* mainFrame);
 
     // Sets every text of the dialog in the language in force.
@@ -36,7 +40,7 @@ public:
     // The row whose story the answers that come are for; negative: 0. What is shown stays.
     void SetHeadLinePos(int position) { reader.SetHeadLinePos(position); }
     int GetHeadLinePos() const { return reader.GetHeadLinePos(); }
-    int iGetTable() const { return reader.iGetTable(); }
+    int listNumber() const { return reader.listNumber(); }
     // Shows the headline and story at the position, or a placeholder while they are not at hand. An empty
     // list leaves the dialog as it is.
     void vShowData();
@@ -57,7 +61,7 @@ public:
     void OnBtnSaveas();
 
     // The main frame's texts: a headline whose story is not there yet; a story (an empty one has not come).
-    QWidget* pGetWindow() override { return this; }
+    QWidget* frameWindow() override { return this; }
     void vMainFrameShowHeadline(const QString& text) override;
     void vMainFrameShowStroy(const CStory& story) override;
 
@@ -68,19 +72,19 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    TRVNewsStory(StoryOwner* owner, CMainFrame* mainFrame, QWidget* parent);
-    void vCreateButtons();
-    void vLayOut();
-    void vPlaceButtons();
-    void vDraw(const StoryTexts& texts);
-    void vShowStory(const QString& text);
-    void vSetNotice(const QString& text);
-    void vPage(int step);
-    void vPutOutShown(void (StoryOwner::*putOut)(const CHeadlineTable&));
+    TRVNewsStory(wirepane::StoryOwner* owner, CMainFrame* mainFrame, QWidget* parent);
+    void createButtons();
+    void layOut();
+    void placeButtons();
+    void draw(const wirepane::StoryTexts& texts);
+    void showStory(const QString& text);
+    void setNotice(const QString& text);
+    void page(int step);
+    void putOutShown(void (wirepane::StoryOwner::*putOut)(const CHeadlineTable&));
 
-    StoryOwner* owner;
+    wirepane::StoryOwner* owner;
     CMainFrame* mainFrame;
-    StoryReader reader;
+    wirepane::StoryReader reader;
     MyRichEdit* titleEdit;
     MyRichEdit* storyEdit;
     CQuoteStaticEx* notice;

@@ -12,7 +12,6 @@
 struct sqlite3_stmt;
 
 namespace wirepane {
-
 class Database;
 
 // A prepared statement, to be run any number of times through Query. One that SQLite refuses (a damaged

@@ -8,7 +8,6 @@
 #include <QPointer>
 
 namespace wirepane {
-
 class LineChannel;
 
 // A sender at the other end of a channel: its lines are a source, and it is told how far they have been

@@ -11,7 +11,6 @@
 #include <vector>
 
 namespace wirepane {
-
 class FeedSource;
 
 // What became of one batch of a source.

@@ -12,7 +12,6 @@
 #include <vector>
 
 namespace wirepane {
-
 class EmbeddedBackEnd;
 struct SourceKind;
 

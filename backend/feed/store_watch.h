@@ -5,7 +5,6 @@
 #include "backend/feed/feed_source.h"
 
 namespace wirepane {
-
 class EmbeddedBackEnd;
 
 // The news that other programs put into the store. It is there already and need not be taken: it is only

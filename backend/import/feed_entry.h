@@ -10,7 +10,6 @@
 #include <optional>
 
 namespace wirepane {
-
 class XmlSource;
 
 // What the elements of a feed and of its entries say, whatever the kind of feed.

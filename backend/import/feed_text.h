@@ -5,7 +5,6 @@
 #include <QString>
 
 namespace wirepane {
-
 class XmlSource;
 
 // What a feed says of the form of a text element.

@@ -6,7 +6,6 @@
 #include "backend/result.h"
 
 namespace wirepane {
-
 class XmlSource;
 
 // The news of the NewsML-G2 <newsItem> that `xml` stands on; goes to its end. The error says why it cannot be

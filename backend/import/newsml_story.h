@@ -5,7 +5,6 @@
 #include <QString>
 
 namespace wirepane {
-
 class XmlSource;
 
 // What the content of a news item says, as plain text.

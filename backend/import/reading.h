@@ -11,7 +11,6 @@
 #include <memory>
 
 namespace wirepane {
-
 struct Mapping;
 
 // One item of a source as a reader hands it over: the item, or why it cannot be taken.

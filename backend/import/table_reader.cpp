@@ -22,19 +22,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // What a table holds; its header line says it.
-enum class TableKind { Unknown, Symbols, Categories, Quotes };
+enum class TableContent { Unknown, Symbols, Categories, Quotes };
 
 constexpr QLatin1StringView footer("File Creation Time");
 
-TableKind kindOf(const TableColumns& columns) {
+TableContent kindOf(const TableColumns& columns) {
     if (columns.has(Column::Service) && columns.has(Column::Id) && columns.has(Column::Name))
-        return TableKind::Categories;
+        return TableContent::Categories;
     if (columns.has(Column::Market) && columns.has(Column::Code) && columns.has(Column::Last) &&
         columns.has(Column::Change) && columns.has(Column::Volume))
-        return TableKind::Quotes;
+        return TableContent::Quotes;
     const bool knowsMarket = columns.has(Column::Market) || columns.market() != unknownMarket;
-    return columns.has(Column::Code) && columns.has(Column::Name) && knowsMarket ? TableKind::Symbols
-                                                                                 : TableKind::Unknown;
+    return columns.has(Column::Code) && columns.has(Column::Name) && knowsMarket ? TableContent::Symbols
+                                                                                 : TableContent::Unknown;
 }
 
 Result<qint64> number(Phrase what, const QString& text, qint64 least, qint64 most) {
@@ -146,11 +146,11 @@ Result<StoreItem> quoteItem(const TableColumns& columns, const QStringList& row)
                                change.value(), volume.value()});
 }
 
-Result<StoreItem> itemOf(TableKind kind, const TableColumns& columns, const QStringList& row,
+Result<StoreItem> itemOf(TableContent kind, const TableColumns& columns, const QStringList& row,
                          const ReadOptions& options) {
-    if (kind == TableKind::Categories)
+    if (kind == TableContent::Categories)
         return categoryItem(columns, row);
-    return kind == TableKind::Quotes ? quoteItem(columns, row) : symbolItem(columns, row, options);
+    return kind == TableContent::Quotes ? quoteItem(columns, row) : symbolItem(columns, row, options);
 }
 
 bool isLeftOut(const QStringList& row) {
@@ -165,7 +165,7 @@ void readRows(QStringView table, const ReadOptions& options, const ItemVisitor& 
     if (!header)
         return;
     const TableColumns columns(header->fields);
-    const TableKind kind = kindOf(columns);
+    const TableContent kind = kindOf(columns);
     while (const auto row = csv.next()) {
         const Phrase place = makeError<import_errors::atLine>(row->line);
         if (!row->closed) {
@@ -182,7 +182,7 @@ void readRows(QStringView table, const ReadOptions& options, const ItemVisitor& 
 }  // namespace
 
 bool isTable(const SourceHead& head) {
-    return kindOf(TableColumns(head.csvHeader())) != TableKind::Unknown;
+    return kindOf(TableColumns(head.csvHeader())) != TableContent::Unknown;
 }
 
 Done readTable(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {

@@ -14,7 +14,6 @@
 #include <vector>
 
 namespace wirepane {
-
 class SocketServer;
 
 // One client on a local socket. Deletes itself when the client is gone.

@@ -54,7 +54,7 @@ EmbeddedBackEnd::EmbeddedBackEnd(std::unique_ptr<Database> store)
       searches(
           database->path(),
           [this](const CSearch& condition, unsigned char service) {
-              ForEachReceiver(
+              forEachReceiver(
                   [&](NewsReceiver& receiver) { receiver.RespSearchHeadLineTable(condition, service); });
           },
           [this](const std::function<void()>& answer) { answers.give(Held::Search, answer); }) {}
@@ -148,7 +148,7 @@ void EmbeddedBackEnd::tellOf(const std::vector<SymbolItem>& symbols) {
         symbolTable.put(symbol);
         updates.push_back({symbol.market, symbol.code});
     }
-    ForEachReceiver([&](NewsReceiver& receiver) { receiver.vDoSymbolUpdate(updates); });
+    forEachReceiver([&](NewsReceiver& receiver) { receiver.vDoSymbolUpdate(updates); });
 }
 
 std::optional<Error> EmbeddedBackEnd::storeTrouble() const {
@@ -169,7 +169,7 @@ void EmbeddedBackEnd::checkForNews() {
 void EmbeddedBackEnd::tellDue() {
     if (!connected)
         return;
-    const std::int64_t position = ReadPosition();
+    const std::int64_t position = readPosition();
     for (const HeadlineKey& key : laterNews.due())
         tellHeadline(key, position);
 }
@@ -190,7 +190,7 @@ void EmbeddedBackEnd::setConnected(bool on) {
     if (on == connected)
         return;
     connected = on;
-    ForEachReceiver([on](NewsReceiver& receiver) { receiver.vConnectionChanged(on); });
+    forEachReceiver([on](NewsReceiver& receiver) { receiver.connectionChanged(on); });
     if (!on) {
         delivery.close();
         announcements.close();
@@ -211,7 +211,7 @@ void EmbeddedBackEnd::tell(const Arrival& arrival) {
     if (arrival.isGone) {
         // What has come back to a key, or another headline that has it now, is not gone.
         if (headlineCache.find(arrival.key) == nullptr)
-            ForEachReceiver([&](NewsReceiver& receiver) { TellGoneHeadline(receiver, arrival.key); });
+            forEachReceiver([&](NewsReceiver& receiver) { tellGoneHeadline(receiver, arrival.key); });
         return;
     }
     if (!laterNews.admits(arrival.key))
@@ -239,8 +239,8 @@ void EmbeddedBackEnd::tellHeadline(const HeadlineKey& key, std::int64_t position
     }
     const QString code = symbols.empty() ? QString() : symbols.front().code;
     const QString category = QString::number(headline.categoryId);
-    ForEachReceiver(
-        [&](NewsReceiver& receiver) { TellReplacedHeadline(receiver, headline, category, code); });
+    forEachReceiver(
+        [&](NewsReceiver& receiver) { tellReplacedHeadline(receiver, headline, category, code); });
     announcements.add(key, headline.categoryId, symbols, newsRange().contains(headline.time));
 }
 
@@ -249,38 +249,38 @@ void EmbeddedBackEnd::push(const CHeadline& headline, const std::vector<CSymbolI
     const QString code = symbols.empty() ? QString() : symbols.front().code;
     const QString category = QString::number(headline.categoryId);
     toldPosition = position;
-    ForEachReceiver([&](NewsReceiver& receiver) { receiver.RecvNewHeadLine(&headline, category, code); });
+    forEachReceiver([&](NewsReceiver& receiver) { receiver.RecvNewHeadLine(&headline, category, code); });
     toldPosition = 0;
 }
 
 void EmbeddedBackEnd::respStory(const CHeadlineTable& entry) {
-    const QScopedValueRollback telling(tellingOf, std::optional(KeyOf(entry)));
-    ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespStory(entry); });
+    const QScopedValueRollback telling(tellingOf, std::optional(keyOf(entry)));
+    forEachReceiver([&](NewsReceiver& receiver) { receiver.RespStory(entry); });
 }
 
 void EmbeddedBackEnd::tellStory(const CHeadlineTable& entry) {
     respStory(entry);
-    const auto related = reader.relatedSymbols(KeyOf(entry));
+    const auto related = reader.relatedSymbols(keyOf(entry));
     if (!related)
         return;
-    const CNewsSymlistInfo info{KeyOf(entry), {*related}};
-    ForEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvNewsRelateSymbolListRecovery(&info); });
+    const CNewsSymlistInfo info{keyOf(entry), {*related}};
+    forEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvNewsRelateSymbolListRecovery(&info); });
 }
 
 void EmbeddedBackEnd::announceStoryChange(const HeadlineKey& key) {
     const CHeadlineTable entry = entryOf(key);
-    ForEachReceiver([&](NewsReceiver& receiver) { receiver.StoryUpdateNotify(&entry); });
+    forEachReceiver([&](NewsReceiver& receiver) { receiver.StoryUpdateNotify(&entry); });
 }
 
 void EmbeddedBackEnd::startNewsDay(const CMarketStatus& status) {
     if (dayOfText(QString::number(status.date)).isValid())
         newsDays.report(status.service, status.date);
-    ForEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvNewMarketStatus(&status); });
+    forEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvNewMarketStatus(&status); });
 }
 
 // --- Registration ---
 
-void EmbeddedBackEnd::RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
+void EmbeddedBackEnd::registerSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                                       const std::vector<CSymbolInfo>& removed) {
     std::set<unsigned char>& services = registrations[view];
     for (const CSymbolInfo& symbol : added) {
@@ -307,7 +307,7 @@ void EmbeddedBackEnd::tellNewsDay(NewsReceiver* view, unsigned char service) {
         QMetaObject::invokeMethod(&delivery, tellIt, Qt::QueuedConnection);
 }
 
-void EmbeddedBackEnd::UnregisterSymbols(NewsReceiver* view) {
+void EmbeddedBackEnd::unregisterSymbols(NewsReceiver* view) {
     registrations.erase(view);
     quoteDesk.leaveAll(view);
 }

@@ -4,7 +4,7 @@
 
 #include "backend/database/database.h"
 #include "backend/database/store_sync.h"
-#include "backend/search/search_desk.h"
+#include "backend/search/search_dispatcher.h"
 #include "backend/search/search_rules.h"
 #include "backend/store/answer_desk.h"
 #include "backend/store/arrival_log.h"
@@ -48,7 +48,7 @@ namespace wirepane {
 // Requests are answered from the event loop, also those that cannot be met. A story that is looked up and has
 // no text is not found: RespStory announces it, and while that is told it is found, empty. One that is still
 // to come is announced when it has come. Searches look through all stories of a service, whether the
-// source is connected or not, on a thread of their own (see NewsSearch and SearchDesk).
+// source is connected or not, on a thread of their own (see NewsSearch and SearchDispatcher).
 //
 // As a sink it tells every receiver what came in, in the order of coming, once it is committed: news of the
 // news day that its service is in as a new headline, whether it is new or replaced, a key that replaced news
@@ -159,9 +159,9 @@ public:
     // The sentence about the first damage that a look-up or a change met; empty: none did.
     const std::optional<Error>& storeDamage() const { return database->damage(); }
 
-    void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
+    void registerSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                          const std::vector<CSymbolInfo>& removed) override;
-    void UnregisterSymbols(NewsReceiver* view) override;
+    void unregisterSymbols(NewsReceiver* view) override;
     bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& services) override;
     bool BKQNEWS_bGetFullNameByService(QString& name, unsigned char service) override;
     bool BKQNEWS_bGetShortNameByService(QString& name, unsigned char service) override;
@@ -195,9 +195,9 @@ public:
     bool LangIsConvertToSimplified(const unsigned char& service) override;
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
     QString PathGetSysPath() override;
-    bool IsReadAsOf() const override { return laterNews.held() == LaterNews::Held::All; }
-    std::int64_t ReadPosition() override { return arrivals.last().value_or(0); }
-    std::int64_t ToldPosition() const override { return toldPosition; }
+    bool isReadAsOf() const override { return laterNews.held() == LaterNews::Held::All; }
+    std::int64_t readPosition() override { return arrivals.last().value_or(0); }
+    std::int64_t positionTold() const override { return toldPosition; }
 
 private:
     // What the running transaction has changed.
@@ -253,7 +253,7 @@ private:
     Entries announced;                     // stories whose announcement is on its way
     std::optional<HeadlineKey> tellingOf;  // the headline whose story is being told
     NewsDays newsDays;
-    LocalDays localDays;
+    LocalDayNumbers localDays;
     std::int64_t toldPosition = 0;
     Changes changes;
     int lastMissed = 0;
@@ -267,7 +267,7 @@ private:
     QString sysPath;
     NewsDelivery delivery;
     TableAnnouncements announcements;
-    SearchDesk searches;
+    SearchDispatcher searches;
 };
 
 }  // namespace wirepane

@@ -70,7 +70,7 @@ int EmbeddedBackEnd::BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHe
     int count = 0;
     for (const CHeadlineTable& entry : entries) {
         const CHeadline* const headline =
-            entry.service == service ? headlineCache.find(KeyOf(entry)) : nullptr;
+            entry.service == service ? headlineCache.find(keyOf(entry)) : nullptr;
         if (headline == nullptr)
             continue;
         headlines.push_back(*headline);
@@ -81,8 +81,8 @@ int EmbeddedBackEnd::BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHe
 
 bool EmbeddedBackEnd::BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) {
     const bool held = answers.isHeld(Held::Stories);
-    std::optional<QString> text = held ? std::nullopt : reader.story(KeyOf(entry));
-    if (!text || (text->isEmpty() && tellingOf != KeyOf(entry))) {
+    std::optional<QString> text = held ? std::nullopt : reader.story(keyOf(entry));
+    if (!text || (text->isEmpty() && tellingOf != keyOf(entry))) {
         if (held || text)
             announceStory(entry);
         return false;
@@ -94,7 +94,7 @@ bool EmbeddedBackEnd::BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& ent
 }
 
 bool EmbeddedBackEnd::BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& symbols, const CHeadlineTable& entry) {
-    std::optional<std::vector<CSymbolInfo>> found = reader.relatedSymbols(KeyOf(entry));
+    std::optional<std::vector<CSymbolInfo>> found = reader.relatedSymbols(keyOf(entry));
     if (!found)
         return false;
     symbols.symbols = *std::move(found);

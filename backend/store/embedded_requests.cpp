@@ -40,7 +40,7 @@ bool EmbeddedBackEnd::BKNEWS_bReRequestHeadlineTable(unsigned char service, cons
     answers.giveLater(Held::Tables, [this, service, symbol] {
         std::vector<CHeadlineTable> table;
         const CHeadlineTableInfo info{service, statusOf(tableOf(service, table, symbol)), symbol.code};
-        ForEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvSymHeadlineTableRecovery(&info); });
+        forEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvSymHeadlineTableRecovery(&info); });
     });
     return true;
 }
@@ -53,7 +53,7 @@ bool EmbeddedBackEnd::BKNEWS_bReRequestHeadlineTable(unsigned char service, int 
     answers.giveLater(Held::Tables, [this, service, kind, key, byDate] {
         std::vector<CHeadlineTable> table;
         const CHeadlineTableInfo info{service, statusOf(tableOf(service, table, kind, key)), key};
-        ForEachReceiver([&](NewsReceiver& receiver) {
+        forEachReceiver([&](NewsReceiver& receiver) {
             if (byDate)
                 receiver.vRecvAllHeadlineTableRecovery(&info);
             else
@@ -68,7 +68,7 @@ void EmbeddedBackEnd::announce(const AnnouncedTables& tables) {
     answers.give(Held::Tables, [this, tables] {
         const auto tellOf = [this](unsigned char service, const QString& key, auto operation) {
             const CHeadlineTableInfo info{service, 0, key};
-            ForEachReceiver([&](NewsReceiver& receiver) { (receiver.*operation)(&info); });
+            forEachReceiver([&](NewsReceiver& receiver) { (receiver.*operation)(&info); });
         };
         for (const auto& [service, day] : tables.days)
             tellOf(service, QString::number(day), &NewsReceiver::vRecvAllHeadlineTableRecovery);
@@ -91,14 +91,14 @@ bool EmbeddedBackEnd::BKQNEWS_bReCoverHeadline(unsigned char service, std::vecto
     std::vector<CHeadlineTable> missing;
     std::size_t next = before;
     for (const CHeadlineTable& entry : entries) {
-        if (next < headlines.size() && KeyOf(headlines[next]) == KeyOf(entry))
+        if (next < headlines.size() && keyOf(headlines[next]) == keyOf(entry))
             ++next;
         else if (entry.service == service)
             missing.push_back(entry);
     }
     if (!missing.empty())
         answers.giveLater(Held::Headlines, [this, missing] {
-            ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespHeadLine(missing); });
+            forEachReceiver([&](NewsReceiver& receiver) { receiver.RespHeadLine(missing); });
         });
     return next > before || !missing.empty();
 }
@@ -122,7 +122,7 @@ void EmbeddedBackEnd::hold(Held what, bool on) {
         return;
     const Entries waited = std::exchange(awaited, {});
     const std::vector<CHeadlineTable> entries(waited.begin(), waited.end());
-    ForEachReceiver([&](NewsReceiver& receiver) { receiver.RespHeadLine(entries); });
+    forEachReceiver([&](NewsReceiver& receiver) { receiver.RespHeadLine(entries); });
 }
 
 }  // namespace wirepane

@@ -32,7 +32,7 @@ void LaterNews::takeOut(std::vector<CHeadlineTable>& table, std::size_t from) co
     if (which == Held::Nothing)
         return;
     const auto isHeld = [this](const CHeadlineTable& entry) {
-        return entry.time > end && !admitted.contains({KeyOf(entry)});
+        return entry.time > end && !admitted.contains({keyOf(entry)});
     };
     table.erase(std::remove_if(table.begin() + static_cast<std::ptrdiff_t>(from), table.end(), isHeld),
                 table.end());

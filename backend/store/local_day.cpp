@@ -24,7 +24,7 @@ QDate dayOfText(const QString& text) {
     return QDate(number / 10000, number / 100 % 100, number % 100);
 }
 
-std::int32_t LocalDays::numberOf(std::int64_t time) {
+std::int32_t LocalDayNumbers::numberOf(std::int64_t time) {
     if (!bounds.contains(time)) {
         const QDate day = QDateTime::fromSecsSinceEpoch(time).date();
         bounds = boundsOf(day);

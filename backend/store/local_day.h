@@ -25,7 +25,7 @@ std::int32_t dayNumber(QDate day);
 QDate dayOfText(const QString& text);
 
 // Tells the local day of times, quickly for times near each other.
-class LocalDays {
+class LocalDayNumbers {
 public:
     // As yyyymmdd.
     std::int32_t numberOf(std::int64_t time);

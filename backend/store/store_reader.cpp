@@ -114,7 +114,7 @@ int StoreReader::appendSymbol(std::vector<CHeadlineTable>& table, unsigned char 
         const auto first = table.begin() + start;
         std::inplace_merge(first, first + count, table.end(), isNewer);
         table.erase(std::unique(first, table.end(),
-                                [](const auto& a, const auto& b) { return KeyOf(a) == KeyOf(b); }),
+                                [](const auto& a, const auto& b) { return keyOf(a) == keyOf(b); }),
                     table.end());
     }
     return static_cast<int>(table.end() - table.begin() - start);

@@ -83,7 +83,7 @@ private:
     Statement insertService;
     Statement findSymbol;
     Statement writeSymbol;
-    LocalDays days;
+    LocalDayNumbers days;
     QSet<unsigned char> services;  // known to be there
     bool begun = false;
 };

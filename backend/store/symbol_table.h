@@ -12,7 +12,6 @@
 #include <vector>
 
 namespace wirepane {
-
 class Database;
 
 // All symbols of the store, in memory: by market in the order of their codes, and searched by code and name.

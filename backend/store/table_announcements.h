@@ -51,7 +51,7 @@ private:
     std::function<bool()> isArriving;
     std::function<void(const AnnouncedTables&)> tell;
     AnnouncedTables waiting;
-    LocalDays localDays;
+    LocalDayNumbers localDays;
     QElapsedTimer sinceFirst;  // of what waits
     QElapsedTimer sinceTold;
     QTimer timer;

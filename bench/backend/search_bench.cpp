@@ -3,7 +3,7 @@
 // What the search costs: taking in with its index, beside the library's own splitter of words; and searches
 // in a large store, beside the bare query of the index.
 #include "backend/database/statement.h"
-#include "backend/search/search_desk.h"
+#include "backend/search/search_dispatcher.h"
 #include "backend/store/store_writer.h"
 #include "bench/backend/search_store.h"
 #include "bench/backend/store_timing.h"
@@ -100,7 +100,7 @@ struct Answers {
     }
 
     int count = 0;
-    SearchDesk desk;
+    SearchDispatcher desk;
 };
 
 double secondsOfBareQuery(Database& store, QStringView word) {
@@ -171,6 +171,9 @@ void inputDuringSearch(benchmark::State& state) {
 }  // namespace wirepane::bench
 
 using namespace wirepane::bench;
+using namespace wirepane;
+
+namespace wirepane {
 
 BENCHMARK(takeInIndexed)
     ->ArgName("chinese")
@@ -192,6 +195,8 @@ BENCHMARK_CAPTURE(searchFor, common, commonWord)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(inputDuringSearch)->Arg(1'000'000)->Iterations(3)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace wirepane
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);

@@ -16,6 +16,7 @@
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 namespace wirepane::bench {
 
@@ -71,7 +72,7 @@ void takeBurstIn(benchmark::State& state) {
         QTemporaryDir folder;
         EmbeddedBackEnd backEnd(opened(folder.filePath(u"burst.db"_s)));
         Counter view;
-        backEnd.Attach(&view);
+        backEnd.attach(&view);
         batched.push_back(secondsOf([&] {
             bool good = static_cast<bool>(backEnd.begin());
             for (const NewsItem& item : items)
@@ -84,13 +85,13 @@ void takeBurstIn(benchmark::State& state) {
         }));
         state.SetIterationTime(batched.back());
         EmbeddedBackEnd other(opened(folder.filePath(u"single.db"_s)));
-        other.Attach(&view);
+        other.attach(&view);
         single.push_back(secondsOf([&] {
             for (std::size_t i = 0; i < singles; ++i)
                 benchmark::DoNotOptimize(other.takeIn(items[i]));
         }));
-        backEnd.Detach(&view);
-        other.Detach(&view);
+        backEnd.detach(&view);
+        other.detach(&view);
     }
     const double rate = static_cast<double>(items.size()) / median(batched);
     state.counters["items_per_s"] = rate;
@@ -121,7 +122,7 @@ void lookUpVisibleRows(benchmark::State& state) {
         cache.clear();
         times.push_back(secondsOf([&] {
             for (std::size_t i = row; i < row + visible; ++i)
-                benchmark::DoNotOptimize(cache.find(KeyOf(table[i])));
+                benchmark::DoNotOptimize(cache.find(keyOf(table[i])));
         }));
         state.SetIterationTime(times.back());
     }
@@ -135,6 +136,8 @@ void lookUpVisibleRows(benchmark::State& state) {
 
 }  // namespace wirepane::bench
 
+namespace wirepane {
+
 using wirepane::bench::lookUpVisibleRows;
 using wirepane::bench::takeBurstIn;
 using wirepane::bench::takeIn;
@@ -142,6 +145,8 @@ using wirepane::bench::takeIn;
 BENCHMARK(takeBurstIn)->Arg(1000)->Arg(10'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(takeIn)->Arg(1000)->Arg(20'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(lookUpVisibleRows)->Arg(1000)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+}  // namespace wirepane
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);

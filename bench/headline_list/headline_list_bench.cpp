@@ -6,6 +6,8 @@
 
 #include <QApplication>
 
+using namespace wirepane;
+
 namespace {
 
 void mergeTables(benchmark::State& state) {
@@ -14,7 +16,7 @@ void mergeTables(benchmark::State& state) {
     for (unsigned char service = 1; service <= serviceCount; ++service) {
         backEnd.BKQNEWS_iGetHeadlineTable(service, runs.emplace_back(), 0, {});
     }
-    measure(state, "merge", [&] { benchmark::DoNotOptimize(SortedNewestFirst(runs)); });
+    measure(state, "merge", [&] { benchmark::DoNotOptimize(sortedNewestFirst(runs)); });
 }
 
 void openDay(benchmark::State& state) {
@@ -27,7 +29,7 @@ void refillVisibleRows(benchmark::State& state) {
     fixture.open();
     HeadlineList& list = fixture.lists[ListIndex::All];
     measure(state, "refill", [&] {
-        list.vForgetWrittenCells();
+        list.forgetWrittenCells();
         list.vFillHeadline();
     });
 }
@@ -44,17 +46,21 @@ void memoryPerHeadline(benchmark::State& state) {
         const double before = usedMemory();
         fixture.open();
         QApplication::processEvents();
-        fixture.lists[ListIndex::All].vForgetWrittenCells();
+        fixture.lists[ListIndex::All].forgetWrittenCells();
         state.counters["bytes"] = (usedMemory() - before) / static_cast<double>(state.range(0));
     }
 }
 
 }  // namespace
 
+namespace wirepane {
+
 BENCHMARK(mergeTables)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(openDay)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(refillVisibleRows)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(memoryPerHeadline)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(1);
+
+}  // namespace wirepane
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);

@@ -17,6 +17,8 @@
 #include <map>
 #include <string>
 
+namespace wirepane {
+
 inline constexpr int serviceCount = 8;
 inline constexpr std::int64_t start = 1'770'000'000;
 
@@ -60,12 +62,12 @@ public:
         for (int i = 0; i < serviceCount; ++i)
             services.push_back({static_cast<unsigned char>(i + 1), true, 0, false});
     }
-    const std::vector<ServiceEntry>& vGetServices() const override { return services; }
+    const std::vector<ServiceEntry>& allServices() const override { return services; }
     int GetNewsType() const override { return 0; }
-    QString CategoryNameOf(unsigned char, int) override { return QStringLiteral("Markets"); }
-    int CategoryColourOf(unsigned char, const QString&, QColor&, QColor&) override { return 0; }
-    void vCategoryStateAfterWriting() override {}
-    void vRowsReplaced(ListIndex) override {}
+    QString categoryNameOf(unsigned char, int) override { return QStringLiteral("Markets"); }
+    int categoryColourOf(unsigned char, const QString&, QColor&, QColor&) override { return 0; }
+    void categoryStateAfterWriting() override {}
+    void rowsReplaced(ListIndex) override {}
 
 private:
     std::vector<ServiceEntry> services;
@@ -75,10 +77,10 @@ private:
 struct Fixture {
     explicit Fixture(int entries) : backEnd(entries) {
         window.resize(800, 700);
-        lists[ListIndex::All].vSetGrid(CreateHeadlineSheet(&window, window.rect(), 0, backEnd));
+        lists[ListIndex::All].setGrid(createHeadlineSheet(&window, window.rect(), 0, backEnd));
         window.show();
     }
-    void open() { lists.bRebuild(ListIndex::All, TableKind::ByDate, {}); }
+    void open() { lists.rebuild(ListIndex::All, TableKind::ByDate, {}); }
 
     QWidget window;
     ArrayBackEnd backEnd;
@@ -113,3 +115,5 @@ inline double usedMemory() {
     const auto info = mallinfo2();
     return static_cast<double>(info.uordblks + info.hblkhd);
 }
+
+}  // namespace wirepane

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <limits>
 
+namespace wirepane {
+
 namespace {
 
 CHeadline newestHeadline() {
@@ -67,7 +69,8 @@ struct PushOfRow {
     bool turn = false;
     CHeadline next(const HeadlineList& list) const {
         CHeadline headline = newestHeadline();
-        const CHeadlineTable& entry = list.Table().at(row >= 0 ? row : list.Table().size() / 2);
+        const CHeadlineTable& entry =
+            list.headlineTable().at(row >= 0 ? row : list.headlineTable().size() / 2);
         headline.time = entry.time;
         if (again) {
             headline.service = entry.service;
@@ -155,3 +158,5 @@ BENCHMARK(memoryPerPushedHeadline)
     ->Args({100'000, 1})
     ->Args({1'000'000, 0})
     ->Iterations(1);
+
+}  // namespace wirepane

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <random>
 
+namespace wirepane {
+
 namespace {
 
 constexpr std::size_t wordsPerSet = 10;
@@ -131,3 +133,5 @@ BENCHMARK(sharedLatin)->RangeMultiplier(10)->Range(10, 10'000);
 BENCHMARK(sharedChinese)->RangeMultiplier(10)->Range(10, 10'000);
 BENCHMARK(sharedByThrees)->RangeMultiplier(10)->Range(10, 10'000);
 BENCHMARK(compileKeySets)->RangeMultiplier(10)->Range(10, 10'000)->Unit(benchmark::kMillisecond);
+
+}  // namespace wirepane

@@ -13,11 +13,13 @@
 #include <map>
 #include <string>
 
+using namespace wirepane;
+
 namespace {
 
 class Headlines : public SheetCells {
 public:
-    QString Text(int row, int column) const override {
+    QString text(int row, int column) const override {
         if (column == 0)
             return QString::number(row);
         return column == 1 ? category : title;
@@ -32,12 +34,12 @@ private:
 struct Fixture {
     Fixture() : sheet(new CSheetBuilder, nullptr) {
         sheet.bCreateSheet();
-        sheet.vSetSmoothHorizontalScroll(true);
-        sheet.vSetHeaderRowHeight(16);
-        sheet.vSetRowHeight(16);
+        sheet.setSmoothHorizontalScroll(true);
+        sheet.setHeaderRowHeight(16);
+        sheet.setHeightOfRows(16);
         for (const int width : {100, 50, 300})
-            sheet.vInsertColumn(width);
-        sheet.vSetCells(&cells);
+            sheet.insertColumn(width);
+        sheet.setCells(&cells);
         sheet.resize(800, 700);
         sheet.show();
         QApplication::processEvents();
@@ -68,7 +70,7 @@ void replaceRowsAndPaint(benchmark::State& state) {
     Fixture fixture;
     auto& builder = static_cast<CSheetBuilder&>(*fixture.sheet.model());
     measure(state, "replace", [&] {
-        builder.vSetRowCount(static_cast<int>(state.range(0)));
+        builder.setRowCount(static_cast<int>(state.range(0)));
         fixture.sheet.viewport()->repaint();
     });
 }
@@ -77,8 +79,8 @@ void replaceRowsAndPaint(benchmark::State& state) {
 void clearAddAndPaint(benchmark::State& state) {
     Fixture fixture;
     measure(state, "clear", [&] {
-        fixture.sheet.vClearRows();
-        fixture.sheet.vAddRows(static_cast<int>(state.range(0)));
+        fixture.sheet.clearRows();
+        fixture.sheet.addRows(static_cast<int>(state.range(0)));
         fixture.sheet.viewport()->repaint();
     });
 }
@@ -86,7 +88,7 @@ void clearAddAndPaint(benchmark::State& state) {
 void scrollToMiddleAndPaint(benchmark::State& state) {
     Fixture fixture;
     const auto rows = static_cast<int>(state.range(0));
-    fixture.sheet.vAddRows(rows);
+    fixture.sheet.addRows(rows);
     QApplication::processEvents();
     int offset = 0;
     measure(state, "scroll", [&] {
@@ -98,19 +100,19 @@ void scrollToMiddleAndPaint(benchmark::State& state) {
 
 void rewriteVisibleRows(benchmark::State& state) {
     Fixture fixture;
-    fixture.sheet.vAddRows(static_cast<int>(state.range(0)));
+    fixture.sheet.addRows(static_cast<int>(state.range(0)));
     QApplication::processEvents();
     measure(state, "rewrite", [&] {
-        const int first = fixture.sheet.iGetFirstVisibleRow();
-        for (int row = first; row <= first + fixture.sheet.iGetRowsPerPage(); ++row)
-            fixture.sheet.vInvalidateRow(row);
+        const int first = fixture.sheet.firstVisibleRow();
+        for (int row = first; row <= first + fixture.sheet.rowsPerPage(); ++row)
+            fixture.sheet.invalidateRow(row);
         QApplication::processEvents();
     });
 }
 
 void readSelectionOfAll(benchmark::State& state) {
     Fixture fixture;
-    fixture.sheet.vAddRows(static_cast<int>(state.range(0)));
+    fixture.sheet.addRows(static_cast<int>(state.range(0)));
     fixture.sheet.selectAll();
     std::vector<int> rows;
     measure(state, "selection", [&] { fixture.sheet.vGetAllSelectionNdx(rows); });
@@ -126,7 +128,7 @@ void memoryPerRow(benchmark::State& state) {
         Fixture fixture;
         fixture.sheet.grab();
         const double before = used();
-        fixture.sheet.vAddRows(static_cast<int>(state.range(0)));
+        fixture.sheet.addRows(static_cast<int>(state.range(0)));
         fixture.sheet.grab();
         QApplication::processEvents();
         state.counters["bytes"] = (used() - before) / static_cast<double>(state.range(0));
@@ -135,12 +137,16 @@ void memoryPerRow(benchmark::State& state) {
 
 }  // namespace
 
+namespace wirepane {
+
 BENCHMARK(replaceRowsAndPaint)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(clearAddAndPaint)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(scrollToMiddleAndPaint)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(rewriteVisibleRows)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(readSelectionOfAll)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(memoryPerRow)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(1);
+
+}  // namespace wirepane
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);

@@ -17,6 +17,8 @@
 #include <atomic>
 #include <thread>
 
+using namespace wirepane;
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -27,7 +29,7 @@ double secondsSince(Clock::time_point from) {
 
 class LiveBackEnd : public ArrayBackEnd {
 public:
-    explicit LiveBackEnd(int entries) : ArrayBackEnd(entries) { SetBKInterface(this); }
+    explicit LiveBackEnd(int entries) : ArrayBackEnd(entries) { setBKInterface(this); }
     bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& services) override {
         services.clear();
         for (int i = 1; i <= serviceCount; ++i)
@@ -86,7 +88,7 @@ void insertIntoABareTable(benchmark::State& state) {
     backEnd.BKQNEWS_iGetHeadlineTable(1, runs.front(), 0, {});
     HeadlineTable table;
     table.assign(runs);
-    table.BuildIndex();
+    table.buildIndex();
     int inserted = 0;
     measure(state, "table", [&] {
         for (int i = 0; i < 1000; ++i) {
@@ -139,7 +141,7 @@ void keysDuringABurst(benchmark::State& state) {
     constexpr int burst = 50'000;
     for (auto unused : state) {
         LiveView live(static_cast<int>(state.range(0)));
-        KeyWatch watch(*live.view.Sheet(0));
+        KeyWatch watch(*live.view.sheetOf(0));
         const auto from = Clock::now();
         QTimer feed;
         QObject::connect(&feed, &QTimer::timeout, &feed, [&] {
@@ -177,6 +179,8 @@ void keysDuringABurst(benchmark::State& state) {
 
 }  // namespace
 
+namespace wirepane {
+
 BENCHMARK(pushThroughTheView)
     ->Arg(1000)
     ->Arg(100'000)
@@ -195,6 +199,8 @@ BENCHMARK(keysDuringABurst)
     ->Arg(1'000'000)
     ->Iterations(1)
     ->Unit(benchmark::kMillisecond);
+
+}  // namespace wirepane
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);

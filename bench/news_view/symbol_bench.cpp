@@ -5,8 +5,8 @@
 #include "bench/headline_list/list_bench.h"
 #include "host/contract/search_control.h"
 #include "host/controls/quote_combo_box_auto.h"
+#include "host/views/news_control_ids.h"
 #include "host/views/virtual_base_view.h"
-#include "news_view/control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/symbol_binding.h"
 
@@ -14,6 +14,8 @@
 #include <QLineEdit>
 
 #include <benchmark/benchmark.h>
+
+using namespace wirepane;
 
 namespace {
 
@@ -26,7 +28,7 @@ QString codeOf(int number) {
 class Symbols : public SearchControl {
 public:
     explicit Symbols(int count) {
-        SetSearchObjInterface(this);
+        setSearchObjInterface(this);
         for (int i = 0; i < count; ++i) {
             allCodes.push_back(codeOf(i));
             allNames.push_back(QStringLiteral("Company %1").arg(i));
@@ -48,7 +50,7 @@ struct SymbolRow {
     explicit SymbolRow(int count) : search(count) {
         view.resize(800, 600);
         controls.CreateControls(ListIndex::Symbol, QRect(0, 0, 200, 25), view.font());
-        binding.vSetCurrent({market, codeOf(count / 2)});
+        binding.setCurrent({market, codeOf(count / 2)});
         view.show();
     }
 
@@ -76,14 +78,14 @@ void findCode(benchmark::State& state) {
     row.binding.iInitSymbolComboBox(market);
     const QString code = codeOf(count - 1);
     for (auto unused : state)
-        benchmark::DoNotOptimize(row.binding.iSymbolIndex(code));
+        benchmark::DoNotOptimize(row.binding.symbolIndex(code));
 }
 
 // A key typed into the box, until the offers below it are there.
 void typeKey(benchmark::State& state) {
     SymbolRow row(static_cast<int>(state.range(0)));
     row.binding.iInitSymbolComboBox(market);
-    auto* combo = row.controls.Find<CQuoteComboBoxAuto>(ids::symbolCombo);
+    auto* combo = row.controls.find<CQuoteComboBoxAuto>(ids::symbolCombo);
     for (auto unused : state) {
         combo->lineEdit()->selectAll();
         combo->lineEdit()->insert(QStringLiteral("9"));
@@ -93,9 +95,13 @@ void typeKey(benchmark::State& state) {
 
 }  // namespace
 
+namespace wirepane {
+
 BENCHMARK(fillCombo)->Arg(1000)->Arg(30'000)->Arg(300'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(findCode)->Arg(1000)->Arg(30'000)->Arg(300'000);
 BENCHMARK(typeKey)->Arg(1000)->Arg(30'000)->Unit(benchmark::kMillisecond);
+
+}  // namespace wirepane
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -17,6 +17,7 @@
 #include <string>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 namespace {
 
@@ -61,7 +62,7 @@ QString storyInWireForm(std::int64_t length) {
 // A back end and a list with one headline and its story.
 class OneStory : public BKQuoteInterface, public EntrySource {
 public:
-    explicit OneStory(std::int64_t length) : wire(storyInWireForm(length)) { SetBKInterface(this); }
+    explicit OneStory(std::int64_t length) : wire(storyInWireForm(length)) { setBKInterface(this); }
 
     int iGetHeadlineTableSize(int) const override { return 1; }
     bool bGetHeadlineTable(CHeadlineTable& entry, int, int row) const override {
@@ -150,7 +151,7 @@ void findTwentyKeywords(benchmark::State& state) {
     double seconds = 0;
     for (auto unused : state) {
         const auto from = Clock::now();
-        benchmark::DoNotOptimize(LastMatch(text, keywords));
+        benchmark::DoNotOptimize(lastKeywordMatch(text, keywords));
         seconds += secondsSince(from);
     }
     tellRatio(state, "find", seconds / static_cast<double>(state.iterations()));
@@ -158,9 +159,13 @@ void findTwentyKeywords(benchmark::State& state) {
 
 }  // namespace
 
+namespace wirepane {
+
 BENCHMARK(showStory)->RangeMultiplier(10)->Range(1000, 1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(showMarkedStory)->RangeMultiplier(10)->Range(1000, 1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(findTwentyKeywords)->RangeMultiplier(10)->Range(1000, 1'000'000)->Unit(benchmark::kMillisecond);
+
+}  // namespace wirepane
 
 int main(int argc, char** argv) {
     WatchedApplication application(argc, argv);

@@ -13,6 +13,7 @@
 #include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 namespace wirepane::bench {
 
@@ -43,13 +44,13 @@ std::int64_t readIndex(Database& store) {
 struct OpenedDay {
     explicit OpenedDay(const QString& path) : backEnd(opened(path)) {
         window.resize(800, 700);
-        lists[ListIndex::All].vSetGrid(CreateHeadlineSheet(&window, window.rect(), 0, backEnd));
+        lists[ListIndex::All].setGrid(createHeadlineSheet(&window, window.rect(), 0, backEnd));
         window.show();
         QCoreApplication::processEvents();
     }
     // Until the first rows are painted.
     void open() {
-        lists.bRebuild(ListIndex::All, TableKind::ByDate, newsDay.toString(u"yyyyMMdd"_s));
+        lists.rebuild(ListIndex::All, TableKind::ByDate, newsDay.toString(u"yyyyMMdd"_s));
         QCoreApplication::sendPostedEvents();
     }
 
@@ -76,7 +77,7 @@ void openDay(benchmark::State& state) {
         first.push_back(secondsOf([&] { day.open(); }));
         again.push_back(secondsOf([&] { day.open(); }));
         state.SetIterationTime(first.back());
-        if (day.lists[ListIndex::All].Table().size() != state.range(0))
+        if (day.lists[ListIndex::All].headlineTable().size() != state.range(0))
             throw std::runtime_error("the day is not whole");
     }
     state.counters["bare_ms"] = median(bare) * 1000;
@@ -88,9 +89,13 @@ void openDay(benchmark::State& state) {
 
 }  // namespace wirepane::bench
 
+namespace wirepane {
+
 using wirepane::bench::openDay;
 
 BENCHMARK(openDay)->Arg(1000)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(3);
+
+}  // namespace wirepane
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -14,11 +14,13 @@
 #include <QTranslator>
 #include <QVBoxLayout>
 
+using namespace wirepane;
+
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     QString error;
-    NewsModule* module = arguments.size() > 1 ? LoadNewsModule(arguments[1], error) : nullptr;
+    NewsModule* module = arguments.size() > 1 ? loadNewsModule(arguments[1], error) : nullptr;
     if (module == nullptr) {
         QTextStream(stderr) << (error.isEmpty() ? QStringLiteral("usage: minimal_host MODULE") : error)
                             << '\n';
@@ -30,7 +32,7 @@ int main(int argc, char** argv) {
         QCoreApplication::installTranslator(&texts);
 
     TenHeadlines backEnd;
-    BKQuoteInterface::SetBKInterface(&backEnd);
+    BKQuoteInterface::setBKInterface(&backEnd);
 
     QWidget frame;
     frame.resize(900, 420);

@@ -36,7 +36,7 @@ public:
         return true;
     }
     QString BKQNEWS_cszGetCurrDateByService(unsigned char) override {
-        return host_clock::today().toString(QStringLiteral("yyyyMMdd"));
+        return wirepane::host_clock::today().toString(QStringLiteral("yyyyMMdd"));
     }
     int bIsConnect() override { return 1; }
 
@@ -44,7 +44,7 @@ public:
     int BKQNEWS_iGetHeadlineTable(unsigned char service, std::vector<CHeadlineTable>& table, int kind,
                                   const QString& key) override {
         const bool today = key == BKQNEWS_cszGetCurrDateByService(service);
-        if (service != newsService || kind != static_cast<int>(TableKind::ByDate) || !today)
+        if (service != newsService || kind != static_cast<int>(wirepane::TableKind::ByDate) || !today)
             return 0;
         for (int number = count; number > 0; --number)
             table.push_back(entryOf(number));
@@ -97,10 +97,10 @@ private:
     }
     bool isOurs(const CHeadlineTable& entry) const {
         return entry.sequence >= 1 && entry.sequence <= count &&
-               KeyOf(entry) == KeyOf(entryOf(entry.sequence));
+               wirepane::keyOf(entry) == wirepane::keyOf(entryOf(entry.sequence));
     }
 
     const QTemporaryDir folder;
-    const std::int64_t start = host_clock::now();
-    const std::int64_t midnight = host_clock::today().startOfDay().toSecsSinceEpoch();
+    const std::int64_t start = wirepane::host_clock::now();
+    const std::int64_t midnight = wirepane::host_clock::today().startOfDay().toSecsSinceEpoch();
 };

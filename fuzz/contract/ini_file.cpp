@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 constexpr qsizetype longestValue = 1024;
@@ -42,3 +44,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promiseSameValue(file);
     return 0;
 }
+
+}  // namespace wirepane

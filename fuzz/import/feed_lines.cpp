@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-using namespace wirepane;
+namespace wirepane {
 
 namespace {
 
@@ -58,3 +58,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promise(greetings + taken == lines.size() && !source.isFull(), "every line is accounted for");
     return 0;
 }
+
+}  // namespace wirepane

@@ -4,7 +4,7 @@
 #include "fuzz/support/fuzz_input.h"
 #include "fuzz/support/news_promises.h"
 
-using namespace wirepane;
+namespace wirepane {
 
 // RSS and Atom, in any encoding.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
@@ -12,3 +12,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promiseFile(source, source.size(), {}, readFeed);
     return 0;
 }
+
+}  // namespace wirepane

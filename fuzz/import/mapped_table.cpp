@@ -5,7 +5,7 @@
 #include "fuzz/support/fuzz_input.h"
 #include "fuzz/support/news_promises.h"
 
-using namespace wirepane;
+namespace wirepane {
 
 namespace {
 
@@ -43,3 +43,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promise(!isRefused || (result.items.empty() && result.rejections == 0), "what is refused gives nothing");
     return 0;
 }
+
+}  // namespace wirepane

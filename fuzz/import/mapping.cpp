@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-using namespace wirepane;
+namespace wirepane {
 
 namespace {
 
@@ -46,3 +46,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
                    [&](const ItemVisitor& visit) { readMappedTable(table, mapping, {}, visit); });
     return 0;
 }
+
+}  // namespace wirepane

@@ -4,7 +4,7 @@
 #include "fuzz/support/fuzz_input.h"
 #include "fuzz/support/news_promises.h"
 
-using namespace wirepane;
+namespace wirepane {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const QByteArray source = FuzzInput(bytes, size).bytes();
@@ -12,3 +12,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promise(!result.items.empty() || result.rejections > 0, "a message without news is rejected");
     return 0;
 }
+
+}  // namespace wirepane

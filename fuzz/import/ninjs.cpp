@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-using namespace wirepane;
+namespace wirepane {
 
 namespace {
 
@@ -79,3 +79,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
                        [&](const ItemVisitor& visit) { readJsonList(source, options, visit); });
     return 0;
 }
+
+}  // namespace wirepane

@@ -8,7 +8,7 @@
 
 #include <QRegularExpression>
 
-using namespace wirepane;
+namespace wirepane {
 
 namespace {
 
@@ -40,3 +40,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     }
     return 0;
 }
+
+}  // namespace wirepane

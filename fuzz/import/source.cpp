@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-using namespace wirepane;
+namespace wirepane {
 
 // Any file: its format is recognised, and each reader survives what it would not be given. The first byte
 // chooses how large a file may be.
@@ -27,3 +27,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         promiseFile(source, counted, options, format.read);
     return 0;
 }
+
+}  // namespace wirepane

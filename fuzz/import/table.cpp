@@ -6,7 +6,7 @@
 #include "fuzz/support/fuzz_input.h"
 #include "fuzz/support/news_promises.h"
 
-using namespace wirepane;
+namespace wirepane {
 
 namespace {
 
@@ -53,3 +53,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promiseFile(source, text->size(), {}, readTable);
     return 0;
 }
+
+}  // namespace wirepane

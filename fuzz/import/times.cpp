@@ -6,7 +6,7 @@
 
 #include <QDateTime>
 
-using namespace wirepane;
+namespace wirepane {
 
 namespace {
 
@@ -62,3 +62,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     }
     return 0;
 }
+
+}  // namespace wirepane

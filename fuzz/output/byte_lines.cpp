@@ -5,6 +5,8 @@
 #include "fuzz/support/fuzz_input.h"
 #include "output/code_page_950.h"
 
+namespace wirepane {
+
 namespace {
 
 // Whether a cut at this place splits no character.
@@ -13,12 +15,12 @@ bool isBetweenCharacters(QStringView text, qsizetype at) {
 }
 
 void promiseCuts(QStringView text, int bytes) {
-    const QStringView first = FirstBytes(text, bytes);
+    const QStringView first = firstBytes(text, bytes);
     const auto cut = first.size();
-    promise(text.startsWith(first) && ByteLength(first) <= bytes,
+    promise(text.startsWith(first) && byteLength(first) <= bytes,
             "a cut text has no more bytes than asked for");
     promise(isBetweenCharacters(text, cut), "a cut splits no character");
-    const bool hasRoom = ByteLength(text.sliced(cut)) > 0 && bytes - ByteLength(first) >= 2;
+    const bool hasRoom = byteLength(text.sliced(cut)) > 0 && bytes - byteLength(first) >= 2;
     promise(cut == text.size() || !hasRoom, "a cut leaves no room for another character");
 }
 
@@ -26,8 +28,8 @@ void promiseLines(QStringView text) {
     QStringView rest = text;
     qsizetype taken = 0;
     while (!rest.isEmpty()) {
-        const QStringView line = TakeLine(rest);
-        promise(!line.isEmpty() && ByteLength(line) <= bytesPerLine, "a line has 1 to 80 bytes");
+        const QStringView line = takeLine(rest);
+        promise(!line.isEmpty() && byteLength(line) <= bytesPerLine, "a line has 1 to 80 bytes");
         promise(line == text.sliced(taken, line.size()), "lines are the text");
         promise(isBetweenCharacters(text, taken), "a line splits no character");
         const qsizetype feed = line.indexOf(u'\n');
@@ -39,23 +41,23 @@ void promiseLines(QStringView text) {
 
 void promiseTitle(QStringView title, bool whole) {
     qsizetype taken = 0;
-    for (const QStringView line : TitleLines(title, whole)) {
-        promise(ByteLength(line) <= bytesPerLine && line == title.sliced(taken, line.size()),
+    for (const QStringView line : titleLines(title, whole)) {
+        promise(byteLength(line) <= bytesPerLine && line == title.sliced(taken, line.size()),
                 "the lines of a title are its text");
         taken += line.size();
     }
-    promise((!whole && ByteLength(title) > bytesPerLine) || taken == title.size(),
+    promise((!whole && byteLength(title) > bytesPerLine) || taken == title.size(),
             "a short title is whole, and a long one where it is to be");
-    promise(ByteLength(title.sliced(taken)) <= bytesPerLine, "a long title loses 80 bytes at most");
+    promise(byteLength(title.sliced(taken)) <= bytesPerLine, "a long title loses 80 bytes at most");
 }
 
 void promisePage(QStringView text) {
-    const auto page = EncodeCodePage950(text);
+    const auto page = encodeCodePage950(text);
     promise(page.has_value(), "this system has the code page");
-    promise(page->bytes.size() == ByteLength(text), "bytes are counted as they are written");
+    promise(page->bytes.size() == byteLength(text), "bytes are counted as they are written");
     promise(page->replaced >= 0 && 2 * page->replaced <= page->bytes.size(), "what is replaced is counted");
-    const QStringView first = FirstBytes(text, bytesPerLine);
-    promise(page->bytes.startsWith(EncodeCodePage950(first)->bytes), "a cut text is the start of the bytes");
+    const QStringView first = firstBytes(text, bytesPerLine);
+    promise(page->bytes.startsWith(encodeCodePage950(first)->bytes), "a cut text is the start of the bytes");
 }
 
 }  // namespace
@@ -72,3 +74,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promisePage(text);
     return 0;
 }
+
+}  // namespace wirepane

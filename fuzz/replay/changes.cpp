@@ -6,6 +6,8 @@
 #include <array>
 #include <string_view>
 
+namespace wirepane {
+
 namespace {
 
 using namespace std::string_view_literals;
@@ -94,3 +96,5 @@ QByteArray SeedChanges::next() {
     bytes.truncate(longest);
     return bytes;
 }
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 #include <random>
 #include <vector>
 
+namespace wirepane {
+
 // Makes changed copies of seeds, the same ones in every run.
 class SeedChanges {
 public:
@@ -25,3 +27,5 @@ private:
     const std::vector<QByteArray>& seeds;
     std::mt19937 random;
 };
+
+}  // namespace wirepane

@@ -10,6 +10,8 @@
 #include <sanitizer/common_interface_defs.h>
 #endif
 
+namespace wirepane {
+
 namespace {
 
 std::string path;
@@ -52,3 +54,5 @@ KeptInput::~KeptInput() {
 void KeptInput::set(const QByteArray& bytes) {
     kept = bytes;
 }
+
+}  // namespace wirepane

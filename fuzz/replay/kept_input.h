@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+namespace wirepane {
+
 // Keeps the bytes that a target is running on: when the program ends in the middle of it (a promise broken, a
 // fault, a finding of the sanitizers) they are left in the file "fuzz_replay_NAME.input" of the working
 // folder. One at a time.
@@ -16,3 +18,5 @@ public:
 
     void set(const QByteArray& bytes);
 };
+
+}  // namespace wirepane

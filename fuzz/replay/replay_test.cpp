@@ -14,6 +14,8 @@
 #include "fuzz_targets.inc"
 #undef FUZZ_TARGET
 
+namespace wirepane {
+
 namespace {
 
 using Target = int(const std::uint8_t*, std::size_t);
@@ -62,3 +64,5 @@ TEST(FuzzReplay, samples_of_formats) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

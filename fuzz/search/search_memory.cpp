@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 const ViewSettingPath path;
@@ -42,15 +44,15 @@ void promiseCondition(const QString& text) {
 }
 
 void promiseKeySet(const QString& text) {
-    if (const auto keySet = KeySetOfText(text)) {
+    if (const auto keySet = keySetOfText(text)) {
         promise(std::none_of(keySet->keywords.begin(), keySet->keywords.end(),
                              [](const QString& keyword) { return keyword.isEmpty(); }),
                 "the keywords of a key set are not empty");
-        promise(KeySetOfText(TextOfKeySet(*keySet)) == *keySet, "a key set is read back as it was");
+        promise(keySetOfText(textOfKeySet(*keySet)) == *keySet, "a key set is read back as it was");
     }
     CNewsKey composed(CNewsKey::any, {-1, 7}, {text, text.left(text.size() / 2), QStringLiteral("k")});
     std::erase_if(composed.keywords, [](const QString& keyword) { return keyword.isEmpty(); });
-    promise(KeySetOfText(TextOfKeySet(composed)) == composed, "a key set may hold any keywords");
+    promise(keySetOfText(textOfKeySet(composed)) == composed, "a key set may hold any keywords");
 }
 
 void promiseSameMemory(const SearchMemory& a, const SearchMemory& b) {
@@ -71,7 +73,8 @@ void promiseMemory(const QStringList& texts) {
     const SearchMemory memory = SearchMemory::read(stored, path);
     promise(isWithoutRepeats(memory.keywordPool), "the pool has no keyword twice");
     promise(memory.recent.size() <= mostRecentSearches, "few recent searches are kept");
-    promise(memory.warnings.chosen == 0 || memory.warnings.Chosen() != nullptr, "what is chosen is there");
+    promise(memory.warnings.chosen == 0 || memory.warnings.chosenItem() != nullptr,
+            "what is chosen is there");
     MemoryCfgIO written;
     memory.write(written, path);
     promiseSameMemory(memory, SearchMemory::read(written, path));
@@ -89,3 +92,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promiseMemory(texts);
     return 0;
 }
+
+}  // namespace wirepane

@@ -11,8 +11,9 @@
 
 #include <QTemporaryDir>
 
-using namespace wirepane;
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -118,3 +119,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
             "a search finds what stands in the text and nothing else");
     return 0;
 }
+
+}  // namespace wirepane

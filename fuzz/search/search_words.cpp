@@ -7,7 +7,7 @@
 #include <QList>
 #include <QStringDecoder>
 
-using namespace wirepane;
+namespace wirepane {
 
 namespace {
 
@@ -54,3 +54,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promise(valid.startsWith(keyword), "what is searched for is the start of it");
     return 0;
 }
+
+}  // namespace wirepane

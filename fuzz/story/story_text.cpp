@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 constexpr std::int64_t someTime = 1072915200;
@@ -45,7 +47,7 @@ void promiseLines(const QString& wire) {
     QString shown = wire;
     vConvertStoryContent(shown);
     promise(shown == inLines(wire), "a story is brought into lines");
-    const QString dated = StoryText(someTime, shown, BodyEnd::Shown, u"remark"_s);
+    const QString dated = storyText(someTime, shown, BodyEnd::Shown, u"remark"_s);
     promise(dated.size() == 22 + shown.size() + 2 + 4 + 6 && dated.contains(shown),
             "a story that is shown has its date before it and the remark behind");
 }
@@ -54,19 +56,19 @@ void promisePrinted(const QString& wire) {
     const CStory story{someTime, wire, {}};
     const auto breakAt =
         std::find_if(wire.begin(), wire.end(), [](QChar c) { return c == u'\r' || c == u'\n'; });
-    promise(SavedStory(story) == inLines(wire.left(breakAt - wire.begin())),
+    promise(savedStory(story) == inLines(wire.left(breakAt - wire.begin())),
             "what is saved ends where the first line break of the wire stands");
-    promise(LateStory(story).endsWith(inLines(wire)) || wire.startsWith(u'@'), "a late story is not cut");
+    promise(lateStory(story).endsWith(inLines(wire)) || wire.startsWith(u'@'), "a late story is not cut");
     QString all;
-    for (const auto& page : BodyPages(LateStory(story))) {
+    for (const auto& page : bodyPages(lateStory(story))) {
         promise(!page.empty() && page.size() <= std::size_t(bodyLinesPerPage), "a page holds 49 lines");
         for (const QString& line : page) {
-            promise(ByteLength(line) <= bytesPerLine, "a line has at most 80 bytes");
+            promise(byteLength(line) <= bytesPerLine, "a line has at most 80 bytes");
             all += line;
         }
     }
     const auto textAlone = [](QString text) { return text.remove(u'\r').remove(u'\n'); };
-    promise(textAlone(all) == textAlone(LateStory(story)), "no character is lost between lines and pages");
+    promise(textAlone(all) == textAlone(lateStory(story)), "no character is lost between lines and pages");
 }
 
 }  // namespace
@@ -78,7 +80,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promisePrinted(text);
     const std::vector<QString> keywords{text.section(u'\n', 0, 0), text.section(u'\n', 1, 1)};
     const QString searched = text.section(u'\n', 2);
-    promise(LastMatch(searched, keywords) == lastMatch(searched, keywords),
+    promise(lastKeywordMatch(searched, keywords) == lastMatch(searched, keywords),
             "the last match of the last keyword is marked");
     return 0;
 }
+
+}  // namespace wirepane

@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <cstring>
 
+namespace wirepane {
+
 void promise(bool kept, const char* sentence) {
     if (kept)
         return;
@@ -36,3 +38,5 @@ QByteArray FuzzInput::line() {
     rest = rest.sliced(std::min(found.size() + 1, rest.size()));
     return QByteArray(found.constData(), found.size());
 }
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 #include <cstddef>
 #include <cstdint>
 
+namespace wirepane {
+
 // Ends the program, with the sentence, when a reader did not keep what it promises.
 void promise(bool kept, const char* sentence);
 
@@ -32,3 +34,5 @@ public:
 private:
     QByteArray rest;
 };
+
+}  // namespace wirepane

@@ -9,8 +9,9 @@
 
 #include <algorithm>
 
-using namespace wirepane;
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -92,3 +93,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     }
     return 0;
 }
+
+}  // namespace wirepane

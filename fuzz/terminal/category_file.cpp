@@ -6,8 +6,9 @@
 
 #include <QTemporaryDir>
 
-using namespace wirepane;
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -39,3 +40,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
                 "a category has its id and a name");
     return 0;
 }
+
+}  // namespace wirepane

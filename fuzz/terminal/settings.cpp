@@ -11,8 +11,9 @@
 
 #include <algorithm>
 
-using namespace wirepane;
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -127,3 +128,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     }
     return 0;
 }
+
+}  // namespace wirepane

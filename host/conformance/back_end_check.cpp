@@ -6,10 +6,14 @@
 #include "host/conformance/quote_check.h"
 #include "host/conformance/request_check.h"
 
-std::vector<QString> BrokenDuties(BKQuoteInterface& backEnd, std::chrono::milliseconds patience) {
+namespace wirepane {
+
+std::vector<QString> brokenDuties(BKQuoteInterface& backEnd, std::chrono::milliseconds patience) {
     Findings findings;
-    for (const unsigned char service : CheckCatalogues(backEnd, findings))
-        CheckRequests(backEnd, service, CheckNews(backEnd, service, findings), patience, findings);
-    CheckQuotes(backEnd, patience, findings);
-    return findings.Take();
+    for (const unsigned char service : checkCatalogues(backEnd, findings))
+        checkRequests(backEnd, service, checkNews(backEnd, service, findings), patience, findings);
+    checkQuotes(backEnd, patience, findings);
+    return findings.takeAll();
 }
+
+}  // namespace wirepane

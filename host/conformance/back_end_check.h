@@ -9,6 +9,8 @@
 #include <chrono>
 #include <vector>
 
+namespace wirepane {
+
 // Puts a back end through the duties that BKQuoteInterface states, and tells which it breaks.
 //
 // The back end should hold some news: what it has none of (headlines, stories, categories, symbols, quotes)
@@ -20,5 +22,7 @@
 // Result: a sentence for each broken duty, with the operation and its arguments; empty: none was seen broken.
 // An operation that hangs or crashes cannot be told of. Call it on the interface thread, with an application
 // object, while no view is attached.
-std::vector<QString> BrokenDuties(BKQuoteInterface& backEnd,
+std::vector<QString> brokenDuties(BKQuoteInterface& backEnd,
                                   std::chrono::milliseconds patience = std::chrono::seconds(10));
+
+}  // namespace wirepane

@@ -10,9 +10,11 @@
 
 #include <chrono>
 
+namespace wirepane {
+
 // Waits in the event loop for what the back end tells. Result: whether it came in time.
 template <class HasCome>
-bool WaitUntil(HasCome hasCome, std::chrono::milliseconds patience) {
+bool waitUntil(HasCome hasCome, std::chrono::milliseconds patience) {
     const QDeadlineTimer limit(patience);
     while (!hasCome() && !limit.hasExpired())
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
@@ -20,8 +22,10 @@ bool WaitUntil(HasCome hasCome, std::chrono::milliseconds patience) {
 }
 
 // An answer to `request` has come: on the interface thread, and not while it was `sending`.
-inline void CheckMoment(const QString& request, bool sending, Findings& findings) {
-    findings.Expect(!sending, request + QStringLiteral(": the answer comes before the request returns."));
-    findings.Expect(QThread::currentThread() == QCoreApplication::instance()->thread(),
+inline void checkMoment(const QString& request, bool sending, Findings& findings) {
+    findings.expect(!sending, request + QStringLiteral(": the answer comes before the request returns."));
+    findings.expect(QThread::currentThread() == QCoreApplication::instance()->thread(),
                     request + QStringLiteral(": the answer comes on another thread."));
 }
+
+}  // namespace wirepane

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 constexpr int lastService = 255;
@@ -24,12 +26,12 @@ QString of(const char* operation, int service) {
 std::vector<unsigned char> checkServices(BKQuoteInterface& backEnd, Findings& findings) {
     std::vector<unsigned char> services{1, 1, 1};
     if (!backEnd.BKQNEWS_bGetAllNewsService(services)) {
-        findings.Expect(services.empty(), u"BKQNEWS_bGetAllNewsService answers false and leaves services."_s);
+        findings.expect(services.empty(), u"BKQNEWS_bGetAllNewsService answers false and leaves services."_s);
         return {};
     }
     const std::set<unsigned char> different(services.begin(), services.end());
-    findings.Expect(!services.empty(), u"BKQNEWS_bGetAllNewsService answers true and gives no service."_s);
-    findings.Expect(different.size() == services.size(),
+    findings.expect(!services.empty(), u"BKQNEWS_bGetAllNewsService answers true and gives no service."_s);
+    findings.expect(different.size() == services.size(),
                     u"BKQNEWS_bGetAllNewsService gives a service twice, or appends to what was there."_s);
     return services;
 }
@@ -44,19 +46,19 @@ void checkNames(BKQuoteInterface& backEnd, const std::vector<unsigned char>& ser
             QString name = sentinel;
             const bool given = full ? backEnd.BKQNEWS_bGetFullNameByService(name, id)
                                     : backEnd.BKQNEWS_bGetShortNameByService(name, id);
-            findings.Expect(!known || given, of(operation, service) + u"there is no name."_s);
-            findings.Expect(given || name == sentinel,
+            findings.expect(!known || given, of(operation, service) + u"there is no name."_s);
+            findings.expect(given || name == sentinel,
                             of(operation, service) + u"answers false and changes the name."_s);
             // Once is enough: who names one, names all.
             if (given && !known && !namesOthers) {
                 namesOthers = true;
-                findings.Expect(false, of(operation, service) + u"there is a name, and no such service."_s);
+                findings.expect(false, of(operation, service) + u"there is a name, and no such service."_s);
             }
         }
         if (!known)
             continue;
         const QString day = backEnd.BKQNEWS_cszGetCurrDateByService(id);
-        findings.Expect(QDate::fromString(day, u"yyyyMMdd"_s).isValid(),
+        findings.expect(QDate::fromString(day, u"yyyyMMdd"_s).isValid(),
                         of("BKQNEWS_cszGetCurrDateByService", service) +
                             u"\"%1\" is no day in the form yyyymmdd."_s.arg(day));
     }
@@ -67,13 +69,13 @@ void checkCategories(BKQuoteInterface& backEnd, unsigned char service, Findings&
     std::vector<QString> names;
     const bool given = backEnd.bNewsAPI_GetNewsCatId(service, ids, names);
     const QString where = of("bNewsAPI_GetNewsCatId", service);
-    findings.Expect(given || (ids.empty() && names.empty()), where + u"answers false and gives something."_s);
-    findings.Expect(ids.size() == names.size(),
+    findings.expect(given || (ids.empty() && names.empty()), where + u"answers false and gives something."_s);
+    findings.expect(ids.size() == names.size(),
                     where + u"there are %1 ids and %2 names."_s.arg(ids.size()).arg(names.size()));
     for (const QString& id : ids) {
         bool isNumber = false;
         id.toInt(&isNumber);
-        findings.Expect(isNumber, where + u"the id \"%1\" is no decimal number."_s.arg(id));
+        findings.expect(isNumber, where + u"the id \"%1\" is no decimal number."_s.arg(id));
     }
 }
 
@@ -82,22 +84,22 @@ void checkSymbols(BKQuoteInterface& backEnd, unsigned char service, Findings& fi
     std::vector<QString> names;
     const bool given = backEnd.bGetSymbolID(service, codes, names);
     const QString where = of("bGetSymbolID", service);
-    findings.Expect(given || (codes.empty() && names.empty()),
+    findings.expect(given || (codes.empty() && names.empty()),
                     where + u"answers false and gives something."_s);
-    findings.Expect(codes.size() == names.size(),
+    findings.expect(codes.size() == names.size(),
                     where + u"there are %1 codes and %2 names."_s.arg(codes.size()).arg(names.size()));
     for (std::size_t i = 0; i < codes.size() && i < mostEntries; ++i) {
-        findings.Expect(backEnd.bIsSymbolIDExist(service, codes[i]) == 1,
+        findings.expect(backEnd.bIsSymbolIDExist(service, codes[i]) == 1,
                         of("bIsSymbolIDExist", service) + u"\"%1\" is listed and unknown."_s.arg(codes[i]));
     }
-    findings.Expect(backEnd.bIsSymbolIDExist(service, noSuchCode) != 1,
+    findings.expect(backEnd.bIsSymbolIDExist(service, noSuchCode) != 1,
                     of("bIsSymbolIDExist", service) + u"\"%1\" is known."_s.arg(noSuchCode));
     constexpr int unchanged = -12345;
     int category = unchanged;
-    findings.Expect(backEnd.bGetCategorybySymbolID(category, service, noSuchCode) || category == unchanged,
+    findings.expect(backEnd.bGetCategorybySymbolID(category, service, noSuchCode) || category == unchanged,
                     of("bGetCategorybySymbolID", service) + u"answers false and changes the category."_s);
     QString value = sentinel;
-    findings.Expect(
+    findings.expect(
         backEnd.bGetItemDataByItemNo(value, service, noSuchCode, symbol_items::name) || value == sentinel,
         of("bGetItemDataByItemNo", service) + u"answers false and changes the value."_s);
 }
@@ -110,19 +112,19 @@ std::vector<CHeadlineTable> checkTable(BKQuoteInterface& backEnd, unsigned char 
     const int count = backEnd.BKQNEWS_iGetHeadlineTable(service, table, kind, key);
     const QString where =
         of("BKQNEWS_iGetHeadlineTable", service) + u"kind %1, key \"%2\": "_s.arg(kind).arg(key.left(20));
-    if (!findings.Expect(!table.empty() && KeyOf(table.front()) == KeyOf(before),
+    if (!findings.expect(!table.empty() && keyOf(table.front()) == keyOf(before),
                          where + u"what was in the table before is gone."_s))
         return {};
     table.erase(table.begin());
-    findings.Expect(count == static_cast<int>(table.size()),
+    findings.expect(count == static_cast<int>(table.size()),
                     where + u"says %1 and appends %2 entries."_s.arg(count).arg(table.size()));
-    findings.Expect(std::all_of(table.begin(), table.end(),
+    findings.expect(std::all_of(table.begin(), table.end(),
                                 [&](const CHeadlineTable& entry) { return entry.service == service; }),
                     where + u"an entry belongs to another service."_s);
     std::set<std::pair<std::int64_t, std::int32_t>> keys;
     for (const CHeadlineTable& entry : table)
         keys.emplace(entry.time, entry.sequence);
-    findings.Expect(keys.size() == table.size(), where + u"two entries have one key."_s);
+    findings.expect(keys.size() == table.size(), where + u"two entries have one key."_s);
     return table;
 }
 
@@ -146,16 +148,16 @@ void checkHeadlines(BKQuoteInterface& backEnd, unsigned char service,
     asked.push_back(stranger);
     std::vector<CHeadline> headlines(1);
     const int count = backEnd.BKQNEWS_iGetHeadline(service, headlines, asked);
-    if (!findings.Expect(!headlines.empty(), where + u"what was in the list before is gone."_s))
+    if (!findings.expect(!headlines.empty(), where + u"what was in the list before is gone."_s))
         return;
     headlines.erase(headlines.begin());
-    findings.Expect(count == static_cast<int>(headlines.size()),
+    findings.expect(count == static_cast<int>(headlines.size()),
                     where + u"says %1 and appends %2 headlines."_s.arg(count).arg(headlines.size()));
     auto place = entries.begin();
     for (const CHeadline& headline : headlines) {
         place = std::find_if(place, entries.end(),
-                             [&](const CHeadlineTable& entry) { return KeyOf(entry) == KeyOf(headline); });
-        if (!findings.Expect(
+                             [&](const CHeadlineTable& entry) { return keyOf(entry) == keyOf(headline); });
+        if (!findings.expect(
                 place != entries.end(),
                 where + u"headline %1 was not asked for, or comes out of the order of the entries."_s.arg(
                             headline.sequence)))
@@ -163,7 +165,7 @@ void checkHeadlines(BKQuoteInterface& backEnd, unsigned char service,
         ++place;
     }
     std::vector<CHeadline> invented;
-    findings.Expect(backEnd.BKQNEWS_iGetHeadline(service, invented, inventedEntries(service, entries)) == 0 &&
+    findings.expect(backEnd.BKQNEWS_iGetHeadline(service, invented, inventedEntries(service, entries)) == 0 &&
                         invented.empty(),
                     where + u"there is a headline of an entry that stands for nothing."_s);
 }
@@ -172,7 +174,7 @@ void checkStories(BKQuoteInterface& backEnd, unsigned char service,
                   const std::vector<CHeadlineTable>& entries, Findings& findings) {
     for (const CHeadlineTable& entry : inventedEntries(service, entries)) {
         CStory story;
-        findings.Expect(
+        findings.expect(
             !backEnd.BKQNEWS_bGetStory(story, entry),
             of("BKQNEWS_bGetStory", service) + u"there is a story of an entry that stands for nothing."_s);
     }
@@ -183,15 +185,15 @@ void checkStories(BKQuoteInterface& backEnd, unsigned char service,
         story.text = sentinel;
         const QString where = u"%1, number %2: "_s.arg(entry.service).arg(entry.sequence);
         if (backEnd.BKQNEWS_bGetStory(story, entry))
-            findings.Expect(
-                KeyOf(story.entry) == KeyOf(entry),
+            findings.expect(
+                keyOf(story.entry) == keyOf(entry),
                 u"BKQNEWS_bGetStory, service "_s + where + u"gives the story of another headline."_s);
         else
-            findings.Expect(story.text == sentinel, u"BKQNEWS_bGetStory, service "_s + where +
+            findings.expect(story.text == sentinel, u"BKQNEWS_bGetStory, service "_s + where +
                                                         u"answers false and changes the story."_s);
         CNewsSymLst related;
         related.symbols = {{1, sentinel}};
-        findings.Expect(
+        findings.expect(
             backEnd.BKNEWS_GetSymbolListBySeqNo(related, entry) ||
                 (related.symbols.size() == 1 && related.symbols.front().code == sentinel),
             u"BKNEWS_GetSymbolListBySeqNo, service "_s + where + u"answers false and changes the symbols."_s);
@@ -200,7 +202,7 @@ void checkStories(BKQuoteInterface& backEnd, unsigned char service,
 
 }  // namespace
 
-std::vector<unsigned char> CheckCatalogues(BKQuoteInterface& backEnd, Findings& findings) {
+std::vector<unsigned char> checkCatalogues(BKQuoteInterface& backEnd, Findings& findings) {
     const std::vector<unsigned char> services = checkServices(backEnd, findings);
     checkNames(backEnd, services, findings);
     for (int service = 0; service <= lastService; ++service) {
@@ -208,25 +210,25 @@ std::vector<unsigned char> CheckCatalogues(BKQuoteInterface& backEnd, Findings& 
         checkSymbols(backEnd, static_cast<unsigned char>(service), findings);
     }
     const QString unknown = u"NO_SUCH_TEXT"_s;
-    findings.Expect(backEnd.LangGetLangString(unknown) == unknown,
+    findings.expect(backEnd.LangGetLangString(unknown) == unknown,
                     u"LangGetLangString: an unknown key is not given back as it is."_s);
     return services;
 }
 
-std::vector<CHeadlineTable> CheckNews(BKQuoteInterface& backEnd, unsigned char service, Findings& findings) {
+std::vector<CHeadlineTable> checkNews(BKQuoteInterface& backEnd, unsigned char service, Findings& findings) {
     constexpr int byDate = static_cast<int>(TableKind::ByDate);
     constexpr int longKey = 100000;
     for (const int kind : {byDate, static_cast<int>(TableKind::ByCategory), -1, 99}) {
         for (const QString& key :
              {QString(), u"99999999"_s, u"2026-03-02"_s, QString(longKey, u'7'), QString(QChar(0xd800))}) {
-            findings.Expect(
+            findings.expect(
                 checkTable(backEnd, service, kind, key, findings).empty(),
                 of("BKQNEWS_iGetHeadlineTable", service) +
                     u"there is news of kind %1 under the key \"%2\"."_s.arg(kind).arg(key.left(20)));
         }
     }
     std::vector<CHeadlineTable> bySymbol;
-    findings.Expect(
+    findings.expect(
         backEnd.BKQNEWS_iGetHeadlineTable(bySymbol, service, {service, noSuchCode}) == 0 && bySymbol.empty(),
         of("BKQNEWS_iGetHeadlineTable", service) + u"there is news of the symbol \"%1\"."_s.arg(noSuchCode));
     std::vector<CHeadlineTable> entries =
@@ -236,3 +238,5 @@ std::vector<CHeadlineTable> CheckNews(BKQuoteInterface& backEnd, unsigned char s
     checkStories(backEnd, service, entries, findings);
     return entries;
 }
+
+}  // namespace wirepane

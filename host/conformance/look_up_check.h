@@ -7,8 +7,12 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // The duties of what is answered at once. Services, names, categories and symbols; result: the services.
-std::vector<unsigned char> CheckCatalogues(BKQuoteInterface& backEnd, Findings& findings);
+std::vector<unsigned char> checkCatalogues(BKQuoteInterface& backEnd, Findings& findings);
 
 // Tables, headlines, stories and related symbols of one service; result: entries of its current day.
-std::vector<CHeadlineTable> CheckNews(BKQuoteInterface& backEnd, unsigned char service, Findings& findings);
+std::vector<CHeadlineTable> checkNews(BKQuoteInterface& backEnd, unsigned char service, Findings& findings);
+
+}  // namespace wirepane

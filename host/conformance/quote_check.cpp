@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 constexpr std::size_t mostSymbols = 200;  // that are asked for
@@ -17,50 +19,50 @@ const QString operation = u"RegisterSymbols"_s;
 class QuoteListener : public NewsReceiver {
 public:
     QuoteListener(BKQuoteInterface& heard, Findings& noted) : backEnd(heard), findings(noted) {
-        backEnd.Attach(this);
+        backEnd.attach(this);
     }
-    ~QuoteListener() override { backEnd.Detach(this); }
+    ~QuoteListener() override { backEnd.detach(this); }
 
-    void Register(const std::vector<CSymbolInfo>& added) {
+    void registerAll(const std::vector<CSymbolInfo>& added) {
         registered.insert(added.begin(), added.end());
-        vSend(added, {});
+        sendSearch(added, {});
     }
-    void Leave(const std::vector<CSymbolInfo>& removed) {
+    void leave(const std::vector<CSymbolInfo>& removed) {
         for (const CSymbolInfo& symbol : removed)
             registered.erase(symbol);
-        vSend({}, removed);
+        sendSearch({}, removed);
     }
-    void LeaveAll() {
+    void leaveAll() {
         registered.clear();
-        backEnd.UnregisterSymbols(this);
+        backEnd.unregisterSymbols(this);
     }
     // Registers, also again, and waits to be told of a quote. False: none came in time.
-    bool Hears(const std::vector<CSymbolInfo>& symbols, std::chrono::milliseconds patience) {
+    bool hears(const std::vector<CSymbolInfo>& symbols, std::chrono::milliseconds patience) {
         count = 0;
-        Register(symbols);
-        return WaitUntil([this] { return count > 0; }, patience);
+        registerAll(symbols);
+        return waitUntil([this] { return count > 0; }, patience);
     }
 
-    void vRecvNewMemory(const CQuoteMemory* quote) override { vHear(quote); }
-    void vRecvMemoryRecovery(const CQuoteMemory* quote) override { vHear(quote); }
+    void vRecvNewMemory(const CQuoteMemory* quote) override { hear(quote); }
+    void vRecvMemoryRecovery(const CQuoteMemory* quote) override { hear(quote); }
     void vRecvMultiSymbolMemoryRecovery(const std::vector<CQuoteMemory>& quotes) override {
         for (const CQuoteMemory& quote : quotes)
-            vHear(&quote);
+            hear(&quote);
     }
 
     CSymbolInfo last;  // of which it has heard
 
 private:
-    void vSend(const std::vector<CSymbolInfo>& added, const std::vector<CSymbolInfo>& removed) {
+    void sendSearch(const std::vector<CSymbolInfo>& added, const std::vector<CSymbolInfo>& removed) {
         sending = true;
-        backEnd.RegisterSymbols(this, added, removed);
+        backEnd.registerSymbols(this, added, removed);
         sending = false;
     }
-    void vHear(const CQuoteMemory* quote) {
-        CheckMoment(operation, sending, findings);
-        if (!findings.Expect(quote != nullptr, operation + u": a view is told of no quote."_s))
+    void hear(const CQuoteMemory* quote) {
+        checkMoment(operation, sending, findings);
+        if (!findings.expect(quote != nullptr, operation + u": a view is told of no quote."_s))
             return;
-        findings.Expect(
+        findings.expect(
             registered.contains(quote->symbol),
             operation + u": a quote of \"%1\" comes to a view that is not registered for it."_s.arg(
                             quote->symbol.code));
@@ -91,26 +93,28 @@ std::vector<CSymbolInfo> symbolsOf(BKQuoteInterface& backEnd) {
 
 }  // namespace
 
-void CheckQuotes(BKQuoteInterface& backEnd, std::chrono::milliseconds patience, Findings& findings) {
+void checkQuotes(BKQuoteInterface& backEnd, std::chrono::milliseconds patience, Findings& findings) {
     const std::vector<CSymbolInfo> symbols = symbolsOf(backEnd);
     QuoteListener nobody(backEnd, findings);
     QuoteListener leaver(backEnd, findings);
     QuoteListener view(backEnd, findings);
-    leaver.Leave(symbols);
-    if (symbols.empty() || !view.Hears(symbols, patience))
+    leaver.leave(symbols);
+    if (symbols.empty() || !view.hears(symbols, patience))
         return;
     const std::vector<CSymbolInfo> known{view.last};
     const QString told = operation + u", \"%1\": "_s.arg(view.last.code);
-    findings.Expect(view.Hears(known, patience),
+    findings.expect(view.hears(known, patience),
                     told + u"a view that is registered already is not told what is known."_s);
 
     // What comes to the view comes after what would have come to one that registered before it.
-    leaver.Register(known);
-    leaver.Leave(known);
-    view.Hears(known, patience);
-    leaver.Register(known);
-    leaver.LeaveAll();
-    view.Hears(known, patience);
-    findings.Expect(leaver.Hears(known, patience),
+    leaver.registerAll(known);
+    leaver.leave(known);
+    view.hears(known, patience);
+    leaver.registerAll(known);
+    leaver.leaveAll();
+    view.hears(known, patience);
+    findings.expect(leaver.hears(known, patience),
                     told + u"a view that has left and registers again is not told what is known."_s);
 }
+
+}  // namespace wirepane

@@ -7,6 +7,10 @@
 
 #include <chrono>
 
+namespace wirepane {
+
 // The duties of real-time distribution: who registers for the quotes of symbols hears what is known of them,
 // and nobody else hears it.
-void CheckQuotes(BKQuoteInterface& backEnd, std::chrono::milliseconds patience, Findings& findings);
+void checkQuotes(BKQuoteInterface& backEnd, std::chrono::milliseconds patience, Findings& findings);
+
+}  // namespace wirepane

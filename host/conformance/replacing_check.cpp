@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 QString nameOf(const HeadlineKey& key) {
@@ -41,7 +43,7 @@ std::vector<HeadlineKey> keysAtHand(BKQuoteInterface& backEnd) {
         std::vector<CHeadline> headlines;
         backEnd.BKQNEWS_iGetHeadline(service, headlines, table);
         for (const CHeadline& headline : headlines)
-            keys.push_back(KeyOf(headline));
+            keys.push_back(keyOf(headline));
     }
     return keys;
 }
@@ -49,26 +51,26 @@ std::vector<HeadlineKey> keysAtHand(BKQuoteInterface& backEnd) {
 class Listener : public NewsReceiver, public GoneHeadlineReceiver {
 public:
     Listener(BKQuoteInterface& heard, Findings& noted) : backEnd(heard), findings(noted) {
-        backEnd.Attach(this);
+        backEnd.attach(this);
     }
-    ~Listener() override { backEnd.Detach(this); }
+    ~Listener() override { backEnd.detach(this); }
 
-    void vHeadlineGone(const HeadlineKey& key) override {
-        CheckMoment(u"A gone key, "_s + nameOf(key), false, findings);
-        findings.Expect(!hasHeadline(backEnd, key), nameOf(key) + u": is told as gone and has a headline."_s);
-        findings.Expect(!isGone(key), nameOf(key) + u": is told as gone twice."_s);
+    void headlineGone(const HeadlineKey& key) override {
+        checkMoment(u"A gone key, "_s + nameOf(key), false, findings);
+        findings.expect(!hasHeadline(backEnd, key), nameOf(key) + u": is told as gone and has a headline."_s);
+        findings.expect(!isGone(key), nameOf(key) + u": is told as gone twice."_s);
         gone.push_back(key);
     }
     void RecvNewHeadLine(const CHeadline* headline, const QString&, const QString&) override {
         if (headline == nullptr)
             return;
         const bool isLate = std::any_of(gone.begin(), gone.end(), [&](const HeadlineKey& key) {
-            return haveSameNumberOnADay(key, KeyOf(*headline));
+            return haveSameNumberOnADay(key, keyOf(*headline));
         });
-        findings.Expect(!isLate, nameOf(KeyOf(*headline)) +
+        findings.expect(!isLate, nameOf(keyOf(*headline)) +
                                      u": its former key is told as gone before the headline is told."_s);
     }
-    void vHeadlineReplaced(const CHeadline* headline, const QString&, const QString&) override {
+    void headlineReplaced(const CHeadline* headline, const QString&, const QString&) override {
         RecvNewHeadLine(headline, {}, {});
     }
     bool isGone(const HeadlineKey& key) const {
@@ -83,7 +85,7 @@ private:
 
 }  // namespace
 
-std::vector<QString> BrokenDutiesOfReplacing(BKQuoteInterface& backEnd, const std::function<void()>& replace,
+std::vector<QString> brokenDutiesOfReplacing(BKQuoteInterface& backEnd, const std::function<void()>& replace,
                                              std::chrono::milliseconds patience) {
     Findings findings;
     const std::vector<HeadlineKey> before = keysAtHand(backEnd);
@@ -92,10 +94,12 @@ std::vector<QString> BrokenDutiesOfReplacing(BKQuoteInterface& backEnd, const st
     std::vector<HeadlineKey> lost;
     std::copy_if(before.begin(), before.end(), std::back_inserter(lost),
                  [&](const HeadlineKey& key) { return !hasHeadline(backEnd, key); });
-    findings.Expect(!lost.empty(), u"No key of a current day has lost its headline: nothing was checked."_s);
+    findings.expect(!lost.empty(), u"No key of a current day has lost its headline: nothing was checked."_s);
     const auto isTold = [&](const HeadlineKey& key) { return listener.isGone(key); };
-    WaitUntil([&] { return std::all_of(lost.begin(), lost.end(), isTold); }, patience);
+    waitUntil([&] { return std::all_of(lost.begin(), lost.end(), isTold); }, patience);
     for (const HeadlineKey& key : lost)
-        findings.Expect(isTold(key), nameOf(key) + u": has no headline any more, and nobody is told."_s);
-    return findings.Take();
+        findings.expect(isTold(key), nameOf(key) + u": has no headline any more, and nobody is told."_s);
+    return findings.takeAll();
 }
+
+}  // namespace wirepane

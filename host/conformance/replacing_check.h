@@ -10,6 +10,8 @@
 #include <functional>
 #include <vector>
 
+namespace wirepane {
+
 // Puts a back end that tells which keys are gone (GoneHeadlineReceiver) through its duties, and tells which
 // it breaks: every key of its services' current days that loses its headline is told, once, when it has lost
 // it, and after the headline that took its place.
@@ -20,5 +22,7 @@
 //
 // Result: a sentence for each broken duty; empty: none was seen broken. Interface thread, with an application
 // object, while no view is attached.
-std::vector<QString> BrokenDutiesOfReplacing(BKQuoteInterface& backEnd, const std::function<void()>& replace,
+std::vector<QString> brokenDutiesOfReplacing(BKQuoteInterface& backEnd, const std::function<void()>& replace,
                                              std::chrono::milliseconds patience = std::chrono::seconds(10));
+
+}  // namespace wirepane

@@ -6,35 +6,37 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 // Hears what the back end tells, and notes what comes at a wrong time or on a wrong thread.
 class Listener : public NewsReceiver {
 public:
     Listener(BKQuoteInterface& heard, Findings& noted) : backEnd(heard), findings(noted) {
-        backEnd.Attach(this);
+        backEnd.attach(this);
     }
-    ~Listener() override { backEnd.Detach(this); }
+    ~Listener() override { backEnd.detach(this); }
 
     // Sends a request and waits for its answer; false: it was not sent.
     template <class Send>
-    bool Await(const QString& request, std::chrono::milliseconds patience, Send send) {
+    bool await(const QString& request, std::chrono::milliseconds patience, Send send) {
         awaited = request;
         answers = 0;
         sending = true;
         const bool sent = send();
         sending = false;
-        findings.Expect(!sent || WaitUntil([this] { return answers > 0; }, patience),
+        findings.expect(!sent || waitUntil([this] { return answers > 0; }, patience),
                         request + u": true, and no answer in time."_s);
         return sent;
     }
 
-    void RespStory(const CHeadlineTable& entry) override { vHear(KeyOf(entry) == story); }
+    void RespStory(const CHeadlineTable& entry) override { hear(keyOf(entry) == story); }
     void RespSearchHeadLineTable(const CSearch& condition, unsigned char service) override {
-        vHear(condition == search && service == askedService);
+        hear(condition == search && service == askedService);
     }
     void vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo* info) override {
-        vHear(info != nullptr && info->service == askedService && info->key == key);
+        hear(info != nullptr && info->service == askedService && info->key == key);
     }
 
     unsigned char askedService = 0;
@@ -43,8 +45,8 @@ public:
     CSearch search;
 
 private:
-    void vHear(bool isTheAnswer) {
-        CheckMoment(awaited, sending, findings);
+    void hear(bool isTheAnswer) {
+        checkMoment(awaited, sending, findings);
         if (isTheAnswer)
             ++answers;
     }
@@ -59,13 +61,13 @@ private:
 // Hears which headlines and stories can be had now.
 class MissListener : public NewsReceiver {
 public:
-    explicit MissListener(BKQuoteInterface& heard) : backEnd(heard) { backEnd.Attach(this); }
-    ~MissListener() override { backEnd.Detach(this); }
+    explicit MissListener(BKQuoteInterface& heard) : backEnd(heard) { backEnd.attach(this); }
+    ~MissListener() override { backEnd.detach(this); }
 
-    void RespStory(const CHeadlineTable& entry) override { vTake(stories, entry); }
+    void RespStory(const CHeadlineTable& entry) override { take(stories, entry); }
     void RespHeadLine(const std::vector<CHeadlineTable>& entries) override {
         for (const CHeadlineTable& entry : entries)
-            vTake(headlines, entry);
+            take(headlines, entry);
     }
 
     // Missed, and not told of yet.
@@ -73,8 +75,8 @@ public:
     std::vector<HeadlineKey> headlines;
 
 private:
-    static void vTake(std::vector<HeadlineKey>& missed, const CHeadlineTable& entry) {
-        std::erase(missed, KeyOf(entry));
+    static void take(std::vector<HeadlineKey>& missed, const CHeadlineTable& entry) {
+        std::erase(missed, keyOf(entry));
     }
 
     BKQuoteInterface& backEnd;
@@ -90,16 +92,16 @@ void checkMisses(BKQuoteInterface& backEnd, unsigned char service, const std::ve
         CStory story;
         std::vector<CHeadline> headline;
         if (!backEnd.BKQNEWS_bGetStory(story, entry))
-            listener.stories.push_back(KeyOf(entry));
+            listener.stories.push_back(keyOf(entry));
         if (backEnd.BKQNEWS_iGetHeadline(service, headline, {entry}) == 0)
-            listener.headlines.push_back(KeyOf(entry));
+            listener.headlines.push_back(keyOf(entry));
     }
-    WaitUntil([&] { return listener.stories.empty() && listener.headlines.empty(); }, patience);
+    waitUntil([&] { return listener.stories.empty() && listener.headlines.empty(); }, patience);
     const auto expectAllTold = [&](const std::vector<HeadlineKey>& missed, const QString& operation,
                                    const QString& answer) {
         if (missed.empty())
             return;
-        findings.Expect(
+        findings.expect(
             false,
             u"%1, service %2, number %3: not at hand, and no %4 tells when it is (%5 such)."_s.arg(operation)
                 .arg(service)
@@ -117,14 +119,14 @@ const std::vector<QString> hostileKeywords{u"\"'(*)"_s, u"a AND NOT b"_s, u"%_\\
 
 }  // namespace
 
-void CheckRequests(BKQuoteInterface& backEnd, unsigned char service,
+void checkRequests(BKQuoteInterface& backEnd, unsigned char service,
                    const std::vector<CHeadlineTable>& entries, std::chrono::milliseconds patience,
                    Findings& findings) {
     checkMisses(backEnd, service, entries, patience, findings);
     Listener listener(backEnd, findings);
     listener.askedService = service;
     listener.key = backEnd.BKQNEWS_cszGetCurrDateByService(service);
-    listener.Await(u"BKNEWS_bReRequestHeadlineTable, service %1"_s.arg(service), patience, [&] {
+    listener.await(u"BKNEWS_bReRequestHeadlineTable, service %1"_s.arg(service), patience, [&] {
         return backEnd.BKNEWS_bReRequestHeadlineTable(service, static_cast<int>(TableKind::ByDate),
                                                       listener.key);
     });
@@ -132,8 +134,8 @@ void CheckRequests(BKQuoteInterface& backEnd, unsigned char service,
     for (const CHeadlineTable& entry : entries) {
         if (!backEnd.BKQNEWS_bGetStory(atHand, entry))
             continue;
-        listener.story = KeyOf(entry);
-        listener.Await(u"BKQNews_bReRequestHeadlineStory, service %1"_s.arg(service), patience,
+        listener.story = keyOf(entry);
+        listener.await(u"BKQNews_bReRequestHeadlineStory, service %1"_s.arg(service), patience,
                        [&] { return backEnd.BKQNews_bReRequestHeadlineStory(entry); });
         break;
     }
@@ -141,10 +143,12 @@ void CheckRequests(BKQuoteInterface& backEnd, unsigned char service,
     listener.search.method = 1;
     listener.search.keywords = hostileKeywords;
     const QString search = u"BKQNEWS_bSearchNews, service %1"_s.arg(service);
-    if (!listener.Await(search, patience,
+    if (!listener.await(search, patience,
                         [&] { return backEnd.BKQNEWS_bSearchNews(service, searchList, listener.search); }))
         return;
     std::vector<CHeadlineTable> found;
     backEnd.BKQNEWS_iGetHeadlineTable(service, found, searchList, u"SEARCH"_s);
-    findings.Expect(found.empty(), search + u": finds news that nobody wrote."_s);
+    findings.expect(found.empty(), search + u": finds news that nobody wrote."_s);
 }
+
+}  // namespace wirepane

@@ -8,8 +8,12 @@
 #include <chrono>
 #include <vector>
 
+namespace wirepane {
+
 // The duties of what is answered later: what a look-up has missed, tables and stories that are asked for
 // again, and searches, of one service. `entries` are some of its news.
-void CheckRequests(BKQuoteInterface& backEnd, unsigned char service,
+void checkRequests(BKQuoteInterface& backEnd, unsigned char service,
                    const std::vector<CHeadlineTable>& entries, std::chrono::milliseconds patience,
                    Findings& findings);
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+using namespace wirepane;
+
 namespace {
 BKQuoteInterface* installed = nullptr;
 }
@@ -21,27 +23,27 @@ BKQuoteInterface* BKQuoteInterface::GetBKInterface() {
     return installed;
 }
 
-void BKQuoteInterface::SetBKInterface(BKQuoteInterface* backEnd) {
+void BKQuoteInterface::setBKInterface(BKQuoteInterface* backEnd) {
     installed = backEnd;
 }
 
-void BKQuoteInterface::Attach(NewsReceiver* receiver) {
-    RequireInterfaceThread("BKQuoteInterface::Attach");
+void BKQuoteInterface::attach(NewsReceiver* receiver) {
+    requireInterfaceThread("BKQuoteInterface::Attach");
     if (receiver != nullptr && std::find(receivers.begin(), receivers.end(), receiver) == receivers.end())
         receivers.push_back(receiver);
 }
 
-void BKQuoteInterface::Detach(NewsReceiver* receiver) {
-    RequireInterfaceThread("BKQuoteInterface::Detach");
-    UnregisterSymbols(receiver);
+void BKQuoteInterface::detach(NewsReceiver* receiver) {
+    requireInterfaceThread("BKQuoteInterface::Detach");
+    unregisterSymbols(receiver);
     if (deliveries > 0)
         std::replace(receivers.begin(), receivers.end(), receiver, static_cast<NewsReceiver*>(nullptr));
     else
         std::erase(receivers, receiver);
 }
 
-void BKQuoteInterface::ForEachReceiver(const std::function<void(NewsReceiver&)>& call) {
-    RequireInterfaceThread("BKQuoteInterface::ForEachReceiver, by which a back end answers and tells news,");
+void BKQuoteInterface::forEachReceiver(const std::function<void(NewsReceiver&)>& call) {
+    requireInterfaceThread("BKQuoteInterface::ForEachReceiver, by which a back end answers and tells news,");
     ++deliveries;
     // By index: a receiver may attach another one, which is called too.
     for (std::size_t i = 0; i < receivers.size(); ++i) {
@@ -52,10 +54,10 @@ void BKQuoteInterface::ForEachReceiver(const std::function<void(NewsReceiver&)>&
         std::erase(receivers, nullptr);
 }
 
-void BKQuoteInterface::RegisterSymbols(NewsReceiver*, const std::vector<CSymbolInfo>&,
+void BKQuoteInterface::registerSymbols(NewsReceiver*, const std::vector<CSymbolInfo>&,
                                        const std::vector<CSymbolInfo>&) {}
 
-void BKQuoteInterface::UnregisterSymbols(NewsReceiver*) {}
+void BKQuoteInterface::unregisterSymbols(NewsReceiver*) {}
 
 bool BKQuoteInterface::BKQNEWS_bGetShortNameByService(QString& name, unsigned char service) {
     return BKQNEWS_bGetFullNameByService(name, service);

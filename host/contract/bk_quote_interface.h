@@ -12,6 +12,8 @@
 #include <functional>
 #include <vector>
 
+namespace wirepane {
+
 // Kinds of headline tables in the key form of BKQNEWS_iGetHeadlineTable and BKNEWS_bReRequestHeadlineTable.
 enum class TableKind : int { ByDate = 0, ByCategory = 1, Search = 3, SecondSearch = 4 };
 
@@ -20,6 +22,8 @@ namespace symbol_items {
 inline constexpr int name = 1019;
 inline constexpr int nameWithMonth = 2020;
 }  // namespace symbol_items
+
+}  // namespace wirepane
 
 // The back end that a host gives to the news module. The module owns no news: everything it shows comes from
 // here, as a synchronous look-up into what the back end has at hand, or as the later answer to a request.
@@ -44,22 +48,22 @@ public:
     static BKQuoteInterface* GetBKInterface();
     // Installs the back end of this process. Call it before the first view is created; the host keeps
     // ownership and keeps it alive until the last view is gone.
-    static void SetBKInterface(BKQuoteInterface* backEnd);
+    static void setBKInterface(BKQuoteInterface* backEnd);
 
     // --- Who is told ---
 
     // From Attach to Detach the receiver gets the back end's calls. Both may be called during a delivery; a
     // detached receiver is not called again. Attaching twice is attaching once.
-    void Attach(NewsReceiver* receiver);
-    void Detach(NewsReceiver* receiver);
+    void attach(wirepane::NewsReceiver* receiver);
+    void detach(wirepane::NewsReceiver* receiver);
 
     // Real-time distribution: a symbol with an empty code stands for the news of a whole service; one with a
     // code for its quotes, of which `view` then hears by the memory callbacks: later what is known (also for
     // one that is registered already), and every change from now on. `view` has been attached.
-    virtual void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
+    virtual void registerSymbols(wirepane::NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                                  const std::vector<CSymbolInfo>& removed);
     // Ends all registrations of `view`.
-    virtual void UnregisterSymbols(NewsReceiver* view);
+    virtual void unregisterSymbols(wirepane::NewsReceiver* view);
 
     // --- Services ---
 
@@ -158,9 +162,9 @@ public:
 
 protected:
     // Calls `call` for every attached receiver, in the order of attaching. Interface thread only.
-    void ForEachReceiver(const std::function<void(NewsReceiver&)>& call);
+    void forEachReceiver(const std::function<void(wirepane::NewsReceiver&)>& call);
 
 private:
-    std::vector<NewsReceiver*> receivers;  // null: detached during a delivery, removed after it
-    int deliveries = 0;                    // depth of ForEachReceiver
+    std::vector<wirepane::NewsReceiver*> receivers;  // null: detached during a delivery, removed after it
+    int deliveries = 0;                              // depth of ForEachReceiver
 };

@@ -5,6 +5,8 @@
 #include <limits>
 #include <optional>
 
+using namespace wirepane;
+
 namespace {
 
 std::optional<qlonglong> wholeNumber(const QVariant& value) {
@@ -42,7 +44,7 @@ bool readNumber(const QVariant& stored, Number& value) {
 TRVCfgIO2::~TRVCfgIO2() = default;
 
 bool TRVCfgIO2::GetViewInfo(const ViewSettingPath& path, const QString& key, bool& value) const {
-    const QVariant stored = Value(path, key);
+    const QVariant stored = storedValue(path, key);
     if (stored.typeId() == QMetaType::QString) {
         const QString text = stored.toString().trimmed().toLower();
         if (text == QLatin1String("true") || text == QLatin1String("false")) {
@@ -58,15 +60,15 @@ bool TRVCfgIO2::GetViewInfo(const ViewSettingPath& path, const QString& key, boo
 }
 
 bool TRVCfgIO2::GetViewInfo(const ViewSettingPath& path, const QString& key, int& value) const {
-    return readNumber(Value(path, key), value);
+    return readNumber(storedValue(path, key), value);
 }
 
 bool TRVCfgIO2::GetViewInfo(const ViewSettingPath& path, const QString& key, unsigned short& value) const {
-    return readNumber(Value(path, key), value);
+    return readNumber(storedValue(path, key), value);
 }
 
 bool TRVCfgIO2::GetViewInfo(const ViewSettingPath& path, const QString& key, QString& value) const {
-    const QVariant stored = Value(path, key);
+    const QVariant stored = storedValue(path, key);
     if (!stored.isValid() || stored.typeId() == QMetaType::QStringList || !stored.canConvert<QString>())
         return false;
     value = stored.toString();
@@ -74,17 +76,21 @@ bool TRVCfgIO2::GetViewInfo(const ViewSettingPath& path, const QString& key, QSt
 }
 
 bool TRVCfgIO2::GetViewInfo(const ViewSettingPath& path, const QString& key, QStringList& value) const {
-    const QVariant stored = Value(path, key);
+    const QVariant stored = storedValue(path, key);
     if (stored.typeId() != QMetaType::QStringList)
         return false;
     value = stored.toStringList();
     return true;
 }
 
-void MemoryCfgIO::SetViewInfo(const ViewSettingPath&, const QString& key, const QVariant& value) {
+namespace wirepane {
+
+void MemoryCfgIO::setViewInfo(const ViewSettingPath&, const QString& key, const QVariant& value) {
     values[key] = value;
 }
 
-QVariant MemoryCfgIO::Value(const ViewSettingPath&, const QString& key) const {
+QVariant MemoryCfgIO::storedValue(const ViewSettingPath&, const QString& key) const {
     return values.value(key);
 }
+
+}  // namespace wirepane

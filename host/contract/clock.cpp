@@ -6,6 +6,8 @@
 
 #include <atomic>
 
+namespace wirepane {
+
 namespace {
 std::atomic<std::int64_t> shift{0};
 }
@@ -21,3 +23,5 @@ QDate host_clock::today() {
 void host_clock::startAt(std::int64_t secondsSince1970) {
     shift = secondsSince1970 - QDateTime::currentSecsSinceEpoch();
 }
+
+}  // namespace wirepane

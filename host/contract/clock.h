@@ -8,6 +8,8 @@
 
 #include <cstdint>
 
+namespace wirepane {
+
 // The one clock of host and module for what counts as the present moment. It runs with the machine's clock; a
 // host can shift it, so that an archive can be read, or a script run, as of any day. Any thread.
 namespace host_clock {
@@ -22,3 +24,5 @@ WIREPANE_CONTRACT_EXPORT QDate today();
 WIREPANE_CONTRACT_EXPORT void startAt(std::int64_t secondsSince1970);
 
 }  // namespace host_clock
+
+}  // namespace wirepane

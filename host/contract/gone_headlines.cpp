@@ -2,15 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "host/contract/gone_headlines.h"
 
+namespace wirepane {
+
 GoneHeadlineReceiver::~GoneHeadlineReceiver() = default;
 
-void TellGoneHeadline(NewsReceiver& receiver, const HeadlineKey& key) {
+void tellGoneHeadline(NewsReceiver& receiver, const HeadlineKey& key) {
     if (auto* wants = dynamic_cast<GoneHeadlineReceiver*>(&receiver))
-        wants->vHeadlineGone(key);
+        wants->headlineGone(key);
 }
 
-void TellReplacedHeadline(NewsReceiver& receiver, const CHeadline& headline, const QString& categoryId,
+void tellReplacedHeadline(NewsReceiver& receiver, const CHeadline& headline, const QString& categoryId,
                           const QString& symbolCode) {
     if (auto* wants = dynamic_cast<GoneHeadlineReceiver*>(&receiver))
-        wants->vHeadlineReplaced(&headline, categoryId, symbolCode);
+        wants->headlineReplaced(&headline, categoryId, symbolCode);
 }
+
+}  // namespace wirepane

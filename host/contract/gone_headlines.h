@@ -5,6 +5,8 @@
 #include "host/contract/export.h"
 #include "host/contract/news_receiver.h"
 
+namespace wirepane {
+
 // Optional on both sides. A receiver that wants to know which headlines no longer exist implements this
 // beside NewsReceiver; a back end that replaces headlines tells those that do.
 //
@@ -18,15 +20,17 @@ public:
     virtual ~GoneHeadlineReceiver();
 
     // There is no headline with this key any more.
-    virtual void vHeadlineGone(const HeadlineKey& key) = 0;
+    virtual void headlineGone(const HeadlineKey& key) = 0;
     // A headline may have been replaced, and is not pushed, because it belongs to another day than the one
     // whose news is: lists that have it ask again whether it belongs to them. With the arguments of
     // NewsReceiver::RecvNewHeadLine.
-    virtual void vHeadlineReplaced(const CHeadline* headline, const QString& categoryId,
-                                   const QString& symbolCode) = 0;
+    virtual void headlineReplaced(const CHeadline* headline, const QString& categoryId,
+                                  const QString& symbolCode) = 0;
 };
 
 // For back ends, inside ForEachReceiver: these tell a receiver that wants to know.
-WIREPANE_CONTRACT_EXPORT void TellGoneHeadline(NewsReceiver& receiver, const HeadlineKey& key);
-WIREPANE_CONTRACT_EXPORT void TellReplacedHeadline(NewsReceiver& receiver, const CHeadline& headline,
+WIREPANE_CONTRACT_EXPORT void tellGoneHeadline(NewsReceiver& receiver, const HeadlineKey& key);
+WIREPANE_CONTRACT_EXPORT void tellReplacedHeadline(NewsReceiver& receiver, const CHeadline& headline,
                                                    const QString& categoryId, const QString& symbolCode);
+
+}  // namespace wirepane

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QStringDecoder>
 
+namespace wirepane {
+
 namespace {
 
 constexpr qint64 maxFileSize = 1 << 20;
@@ -71,3 +73,5 @@ int IniFile::number(const QString& section, const QString& key, int fallback) co
     const int value = values.value(entryName(section, key)).toInt(&ok);
     return ok ? value : fallback;
 }
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 #include <QHash>
 #include <QString>
 
+namespace wirepane {
+
 // A small reader of the host's ini files. Section and key names are compared without regard to case, values
 // are taken as they stand (trimmed, one pair of enclosing quotation marks removed), the first of equal keys
 // counts. The bytes are UTF-8 or, where they are not valid UTF-8, code page 950.
@@ -26,3 +28,5 @@ public:
 private:
     QHash<QString, QString> values;  // "section\nkey" in lower case
 };
+
+}  // namespace wirepane

@@ -18,11 +18,11 @@ TRVItemDisplay::~TRVItemDisplay() {
         installed = nullptr;
 }
 
-TRVItemDisplay* TRVItemDisplay::GetItemDisplay() {
+TRVItemDisplay* TRVItemDisplay::itemDisplay() {
     return installed != nullptr ? installed : &defaults();
 }
 
-void TRVItemDisplay::SetItemDisplay(TRVItemDisplay* display) {
+void TRVItemDisplay::setItemDisplay(TRVItemDisplay* display) {
     installed = display;
 }
 
@@ -31,7 +31,7 @@ void TRVItemDisplay::GetNewsCatColor(int, QColor& text, QColor& background) {
     background = QColor();
 }
 
-void TRVItemDisplay::GetWarrantCatColor(int, QColor& text, QColor& background) {
+void TRVItemDisplay::warrantCatColor(int, QColor& text, QColor& background) {
     text = QColor();
     background = QColor();
 }

@@ -15,12 +15,12 @@ public:
     virtual ~TRVItemDisplay();  // uninstalls itself when it is the installed one
 
     // The installed display; one without colours before a host installs its own. Never null, not owned.
-    static TRVItemDisplay* GetItemDisplay();
-    static void SetItemDisplay(TRVItemDisplay* display);
+    static TRVItemDisplay* itemDisplay();
+    static void setItemDisplay(TRVItemDisplay* display);
 
     // The colours of a news category; an invalid colour means the grid's own.
     virtual void GetNewsCatColor(int categoryId, QColor& text, QColor& background);
     // The same for warrants, whose categories have ids of their own. A host that does not override it leaves
     // them in the grid's colours.
-    virtual void GetWarrantCatColor(int categoryId, QColor& text, QColor& background);
+    virtual void warrantCatColor(int categoryId, QColor& text, QColor& background);
 };

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace wirepane {
+
 namespace {
 
 std::optional<QString> textOf(const QJsonValue& value) {
@@ -120,3 +122,5 @@ bool JsonFields::flag(const QString& name) {
 QJsonArray JsonFields::list(const QString& name) {
     return needed(name, optionalList(name));
 }
+
+}  // namespace wirepane

@@ -12,6 +12,8 @@
 #include <cstdint>
 #include <optional>
 
+namespace wirepane {
+
 // What a field of a JSON object must be and is not.
 enum class JsonMust { BeThere, BeText, BeNumber, BeWholeNumber, BeTrueOrFalse, BeList, BeObject };
 
@@ -67,3 +69,5 @@ private:
 // The whole number that a value is, when it lies between these.
 WIREPANE_CONTRACT_EXPORT std::optional<std::int64_t> wholeNumber(const QJsonValue& value, std::int64_t least,
                                                                  std::int64_t most);
+
+}  // namespace wirepane

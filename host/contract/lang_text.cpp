@@ -4,7 +4,11 @@
 
 #include "host/contract/bk_quote_interface.h"
 
-QString LangText(QLatin1StringView key) {
+namespace wirepane {
+
+QString langText(QLatin1StringView key) {
     auto* backEnd = BKQuoteInterface::GetBKInterface();
     return backEnd != nullptr ? backEnd->LangGetLangString(QString(key)) : QString(key);
 }
+
+}  // namespace wirepane

@@ -5,12 +5,14 @@
 #include <QCoreApplication>
 #include <QThread>
 
-void RequireOfHost(bool kept, const char* mistake) {
+namespace wirepane {
+
+void requireOfHost(bool kept, const char* mistake) {
     if (!kept)
         qFatal("wirepane: %s", mistake);
 }
 
-void RequireInterfaceThread(const char* operation) {
+void requireInterfaceThread(const char* operation) {
     const QCoreApplication* application = QCoreApplication::instance();
     if (application != nullptr && QThread::currentThread() != application->thread())
         qFatal(
@@ -18,3 +20,5 @@ void RequireInterfaceThread(const char* operation) {
             "object.",
             operation);
 }
+
+}  // namespace wirepane

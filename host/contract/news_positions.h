@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+namespace wirepane {
+
 // What a back end may offer beside BKQuoteInterface, by inheriting this, too: it numbers the news that comes
 // in. A view that finds it (by dynamic_cast from the installed back end) does not take a pushed headline into
 // a list that had it already when the list was read, be it read during a break or between the keeping of the
@@ -17,7 +19,9 @@ public:
 
     // The position of the latest news that tables hold now; 0: none yet. News that comes, or replaces other
     // news, takes a higher one. Asked before a table is read.
-    virtual std::int64_t ReadPosition() = 0;
+    virtual std::int64_t readPosition() = 0;
     // The position of the headline for which RecvNewHeadLine is being called; 0 otherwise.
-    virtual std::int64_t ToldPosition() const = 0;
+    virtual std::int64_t positionTold() const = 0;
 };
+
+}  // namespace wirepane

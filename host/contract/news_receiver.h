@@ -8,6 +8,8 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // What the back end tells a view. Every call arrives on the interface thread; pointers are valid for the
 // duration of the call only. Each operation does nothing unless a view overrides it.
 class WIREPANE_CONTRACT_EXPORT NewsReceiver {
@@ -35,7 +37,7 @@ public:
     // The related symbols of a headline have been sent again.
     virtual void vRecvNewsRelateSymbolListRecovery(const CNewsSymlistInfo*);
     // The connection to the source of news is lost, is back; what was missed is pushed afterwards.
-    virtual void vConnectionChanged(bool connected);
+    virtual void connectionChanged(bool connected);
     // A service has started a new news day: told before the first headline of it.
     virtual void vRecvNewMarketStatus(const CMarketStatus*);
 
@@ -47,3 +49,5 @@ public:
     // The host's symbol catalogue changed.
     virtual void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>&);
 };
+
+}  // namespace wirepane

@@ -4,6 +4,8 @@
 
 #include "host/contract/export.h"
 
+namespace wirepane {
+
 // What a back end may offer beside BKQuoteInterface, by inheriting this, too: its news can be read as of an
 // earlier moment, at which lists and searches then end. A view that finds it (by dynamic_cast from the
 // installed back end) says so beside its lists. Interface thread.
@@ -12,5 +14,7 @@ public:
     virtual ~ReadingMoment();
 
     // True while lists end before the present of the world. A host opens its views anew when it changes.
-    virtual bool IsReadAsOf() const = 0;
+    virtual bool isReadAsOf() const = 0;
 };
+
+}  // namespace wirepane

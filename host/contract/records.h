@@ -12,6 +12,8 @@
 #include <type_traits>
 #include <vector>
 
+namespace wirepane {
+
 // What identifies a headline: two records with equal keys are the same headline.
 struct HeadlineKey {
     std::int64_t time = 0;      // seconds since 1970, UTC; shown in local time
@@ -20,6 +22,8 @@ struct HeadlineKey {
 
     bool operator==(const HeadlineKey&) const = default;
 };
+
+}  // namespace wirepane
 
 // One entry of a headline table: the index entry by which a headline, its story and its related symbols are
 // fetched. 32 bytes, because a list may hold a million of them.
@@ -43,12 +47,16 @@ struct CHeadline {
     std::uint64_t reserved = 0;  // the back end's own; the module does not read it
 };
 
-inline HeadlineKey KeyOf(const CHeadlineTable& entry) {
+namespace wirepane {
+
+inline HeadlineKey keyOf(const CHeadlineTable& entry) {
     return {entry.time, entry.sequence, entry.service};
 }
-inline HeadlineKey KeyOf(const CHeadline& headline) {
+inline HeadlineKey keyOf(const CHeadline& headline) {
     return {headline.time, headline.sequence, headline.service};
 }
+
+}  // namespace wirepane
 
 // What a table-recovery answer is about.
 struct CHeadlineTableInfo {
@@ -87,9 +95,11 @@ struct CNewsSymLst {
 
 // The related symbols of a headline, sent again.
 struct CNewsSymlistInfo {
-    HeadlineKey headline;
+    wirepane::HeadlineKey headline;
     CNewsSymLst list;
 };
+
+namespace wirepane {
 
 // One change of the host's symbol catalogue.
 struct CSymbolUpdateInfo {
@@ -110,3 +120,5 @@ struct CQuoteMemory {
     double change = 0;  // against the previous close, in price units
     std::int64_t volume = 0;
 };
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace wirepane {
+
 // How the keywords of a search work together: the numbers that conditions (CSearch) and key sets (CNewsKey)
 // carry and store.
 enum class SearchMethod : unsigned char {
@@ -66,3 +68,5 @@ constexpr SearchMethod shownMethod(int number) {
 constexpr SearchScope scopeOf(int number) {
     return number >= 0 && number <= lastSearchScope ? static_cast<SearchScope>(number) : SearchScope::Both;
 }
+
+}  // namespace wirepane

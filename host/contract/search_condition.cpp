@@ -13,6 +13,7 @@
 #include <optional>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 namespace {
 

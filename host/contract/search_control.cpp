@@ -4,6 +4,8 @@
 
 #include "host/contract/fixed_services.h"
 
+using namespace wirepane;
+
 namespace {
 
 SearchControl* installed = nullptr;
@@ -24,7 +26,7 @@ SearchControl* SearchControl::GetSearchObjInterface() {
     return installed != nullptr ? installed : &none();
 }
 
-void SearchControl::SetSearchObjInterface(SearchControl* search) {
+void SearchControl::setSearchObjInterface(SearchControl* search) {
     installed = search;
 }
 

@@ -18,7 +18,7 @@ public:
 
     // The installed search; one that finds nothing before a host installs its own. Never null, not owned.
     static SearchControl* GetSearchObjInterface();
-    static void SetSearchObjInterface(SearchControl* search);
+    static void setSearchObjInterface(SearchControl* search);
 
     // Replaces `codes` and `names` by the symbols of a service, pairwise; `kind` 1: those with news. False:
     // both empty.

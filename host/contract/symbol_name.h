@@ -9,6 +9,10 @@
 
 class BKQuoteInterface;
 
+namespace wirepane {
+
 // The name that the host shows of a symbol; none when it has none at hand.
-WIREPANE_CONTRACT_EXPORT std::optional<QString> SymbolName(BKQuoteInterface& backEnd,
+WIREPANE_CONTRACT_EXPORT std::optional<QString> symbolName(BKQuoteInterface& backEnd,
                                                            const CSymbolInfo& symbol);
+
+}  // namespace wirepane

@@ -24,7 +24,7 @@ CSyncInfo* CSyncInfo::GetSettingCFG() {
     return installed != nullptr ? installed : &defaults();
 }
 
-void CSyncInfo::SetSettingCFG(CSyncInfo* settings) {
+void CSyncInfo::setSettingCFG(CSyncInfo* settings) {
     installed = settings;
 }
 

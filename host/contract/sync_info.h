@@ -21,7 +21,7 @@ public:
     // owned.
     static CSyncInfo* GetSettingCFG();
     // Installs the settings of this process; null goes back to the defaults. The host keeps ownership.
-    static void SetSettingCFG(CSyncInfo* settings);
+    static void setSettingCFG(CSyncInfo* settings);
 
     // A named colour, such as "COLOR_LISTCTL_NORMALTEXT"; an invalid colour for a name that the scheme lacks.
     virtual QColor SYS_crGetOtherColor(const QString& name);

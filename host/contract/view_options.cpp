@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/contract/view_options.h"
 
+namespace wirepane {
+
 ViewOptions ViewOptions::read(const TRVCfgIO2& reader, const ViewSettingPath& path) {
     ViewOptions options;
     for (const ViewOptionRow& row : viewOptionTable) {
@@ -16,6 +18,8 @@ void ViewOptions::writeMissing(TRVCfgIO2& store, const ViewSettingPath& path) {
     for (const ViewOptionRow& row : viewOptionTable) {
         bool value = false;
         if (!store.GetViewInfo(path, QString(row.key), value))
-            store.SetViewInfo(path, QString(row.key), true);
+            store.setViewInfo(path, QString(row.key), true);
     }
 }
+
+}  // namespace wirepane

@@ -11,6 +11,8 @@
 #include <bitset>
 #include <cstddef>
 
+namespace wirepane {
+
 // What a host may switch on for a view by its settings, beyond what a view does whose settings say nothing.
 // Each is a boolean setting of the view "TRVNewsCtrlView"; absent or no boolean, it is off.
 enum class ViewOption {
@@ -54,3 +56,5 @@ public:
 private:
     std::bitset<static_cast<std::size_t>(ViewOption::Count)> on;
 };
+
+}  // namespace wirepane

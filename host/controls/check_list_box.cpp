@@ -4,6 +4,8 @@
 
 #include "host/controls/roomy_rows.h"
 
+using namespace wirepane;
+
 CCheckListBox::CCheckListBox(QWidget* parent) : QListWidget(parent) {
     setSelectionMode(ExtendedSelection);
     setUniformItemSizes(true);
@@ -12,7 +14,7 @@ CCheckListBox::CCheckListBox(QWidget* parent) : QListWidget(parent) {
     setTextElideMode(Qt::ElideRight);
 }
 
-int CCheckListBox::AddString(const QString& text) {
+int CCheckListBox::addString(const QString& text) {
     auto* added = new QListWidgetItem(text);
     added->setFlags(added->flags() | Qt::ItemIsUserCheckable);
     added->setCheckState(Qt::Unchecked);
@@ -20,10 +22,10 @@ int CCheckListBox::AddString(const QString& text) {
     return row(added);
 }
 
-void CCheckListBox::SetCheck(int row, bool ticked) {
+void CCheckListBox::setCheck(int row, bool ticked) {
     item(row)->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
 }
 
-bool CCheckListBox::GetCheck(int row) const {
+bool CCheckListBox::check(int row) const {
     return item(row)->checkState() == Qt::Checked;
 }

@@ -15,7 +15,7 @@ public:
     explicit CCheckListBox(QWidget* parent = nullptr);
 
     // Appends an item that is not ticked. Its row.
-    int AddString(const QString& text);
-    void SetCheck(int row, bool ticked);
-    bool GetCheck(int row) const;
+    int addString(const QString& text);
+    void setCheck(int row, bool ticked);
+    bool check(int row) const;
 };

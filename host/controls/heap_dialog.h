@@ -4,6 +4,8 @@
 
 #include <QPointer>
 
+namespace wirepane {
+
 // A modal dialog for the time of a function. While it is run its parent may go, and the dialog with it;
 // otherwise it goes with this.
 template <class Dialog>
@@ -15,7 +17,7 @@ public:
     HeapDialog& operator=(const HeapDialog&) = delete;
 
     // Deletes it before its time: as long as it is there it may count as the active window.
-    void Delete() { delete dialog; }
+    void destroy() { delete dialog; }
     // False when it has gone.
     explicit operator bool() const { return !dialog.isNull(); }
     Dialog* operator->() const { return dialog; }
@@ -24,3 +26,5 @@ public:
 private:
     QPointer<Dialog> dialog;
 };
+
+}  // namespace wirepane

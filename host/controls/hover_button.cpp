@@ -8,7 +8,7 @@ CHoverButton::CHoverButton(QWidget* parent) : QPushButton(parent) {
     setAttribute(Qt::WA_Hover);
 }
 
-void CHoverButton::LoadBitmaps(const QPixmap& asNormal, const QPixmap& asSelected, const QPixmap& asFocused,
+void CHoverButton::loadBitmaps(const QPixmap& asNormal, const QPixmap& asSelected, const QPixmap& asFocused,
                                const QPixmap& asDisabled) {
     normal = asNormal;
     selected = asSelected;
@@ -17,7 +17,7 @@ void CHoverButton::LoadBitmaps(const QPixmap& asNormal, const QPixmap& asSelecte
     update();
 }
 
-void CHoverButton::SizeToContent() {
+void CHoverButton::sizeToContent() {
     setFixedSize(sizeHint());
 }
 

@@ -16,10 +16,10 @@ public:
 
     // The pictures of the button as it lies there, pressed, under the mouse or with the keyboard, and out of
     // use.
-    void LoadBitmaps(const QPixmap& normal, const QPixmap& selected, const QPixmap& focused,
+    void loadBitmaps(const QPixmap& normal, const QPixmap& selected, const QPixmap& focused,
                      const QPixmap& disabled);
     // Takes the size of the normal picture.
-    void SizeToContent();
+    void sizeToContent();
 
     QSize sizeHint() const override;
 

@@ -4,6 +4,8 @@
 
 #include <QTextBoundaryFinder>
 
+namespace wirepane {
+
 namespace {
 
 constexpr int mostParts = 32;  // of one character: marks beyond that are taken apart
@@ -28,7 +30,7 @@ int beginOfCharacter(const QString& text, int at) {
 
 }  // namespace
 
-std::vector<int> LongRunBreaks(const QString& text) {
+std::vector<int> longRunBreaks(const QString& text) {
     std::vector<int> breaks;
     int begin = 0;
     for (int at = 0; at < text.size(); ++at) {
@@ -44,7 +46,7 @@ std::vector<int> LongRunBreaks(const QString& text) {
     return breaks;
 }
 
-QString Broken(const QString& text, const std::vector<int>& breaks) {
+QString broken(const QString& text, const std::vector<int>& breaks) {
     QString broken;
     broken.reserve(text.size() + static_cast<qsizetype>(breaks.size()));
     int from = 0;
@@ -56,7 +58,7 @@ QString Broken(const QString& text, const std::vector<int>& breaks) {
     return broken += QStringView(text).sliced(from);
 }
 
-QString Whole(const QString& piece, int from, const std::vector<int>& breaks) {
+QString whole(const QString& piece, int from, const std::vector<int>& breaks) {
     QString whole;
     whole.reserve(piece.size());
     qsizetype done = 0;
@@ -69,3 +71,5 @@ QString Whole(const QString& piece, int from, const std::vector<int>& breaks) {
     }
     return whole += QStringView(piece).sliced(done);
 }
+
+}  // namespace wirepane

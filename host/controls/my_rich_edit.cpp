@@ -14,6 +14,8 @@
 
 #include <algorithm>
 
+using namespace wirepane;
+
 MyRichEdit::MyRichEdit(QWidget* parent) : QPlainTextEdit(parent) {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -23,16 +25,16 @@ MyRichEdit::MyRichEdit(QWidget* parent) : QPlainTextEdit(parent) {
     applyColours();
 }
 
-void MyRichEdit::vSetText(const QString& text) {
+void MyRichEdit::showText(const QString& text) {
     shown = text;
     QString lines = text;
     lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    breaks = LongRunBreaks(lines);
-    setPlainText(breaks.empty() ? lines : Broken(lines, breaks));
+    breaks = longRunBreaks(lines);
+    setPlainText(breaks.empty() ? lines : broken(lines, breaks));
 }
 
-QString MyRichEdit::szGetShownText() const {
-    return Whole(document()->toRawText(), 0, breaks);
+QString MyRichEdit::shownText() const {
+    return whole(document()->toRawText(), 0, breaks);
 }
 
 // The place in the document of a character of the shown text, or of the end of the one before it.
@@ -50,12 +52,12 @@ int MyRichEdit::inText(int place) const {
     return place - passed;
 }
 
-std::pair<int, int> MyRichEdit::GetSelection() const {
+std::pair<int, int> MyRichEdit::selection() const {
     const QTextCursor cursor = textCursor();
     return {inText(cursor.selectionStart()), inText(cursor.selectionEnd())};
 }
 
-void MyRichEdit::vSetSelection(int start, int end) {
+void MyRichEdit::setSelection(int start, int end) {
     QTextCursor selection(document());
     selection.setPosition(inDocument(start, true));
     selection.setPosition(inDocument(end, false), QTextCursor::KeepAnchor);
@@ -125,6 +127,6 @@ void MyRichEdit::keyPressEvent(QKeyEvent* event) {
 QMimeData* MyRichEdit::createMimeDataFromSelection() const {
     auto* copied = new QMimeData;
     const QTextCursor cursor = textCursor();
-    copied->setText(Whole(cursor.selection().toPlainText(), cursor.selectionStart(), breaks));
+    copied->setText(whole(cursor.selection().toPlainText(), cursor.selectionStart(), breaks));
     return copied;
 }

@@ -21,16 +21,16 @@ public:
     explicit MyRichEdit(QWidget* parent = nullptr);
 
     // "\r\n" and "\n" break the line. The view goes to the top, nothing is selected.
-    void vSetText(const QString& text);
+    void showText(const QString& text);
     // The text exactly as it was set.
-    const QString& szGetText() const { return shown; }
+    const QString& literalText() const { return shown; }
     // The text as selections count it: each line break is one character (U+2029).
-    QString szGetShownText() const;
+    QString shownText() const;
     // Selects the characters from `start` to before `end` of the shown text. A selection whose end is out of
     // sight is scrolled to the middle.
-    void vSetSelection(int start, int end);
+    void setSelection(int start, int end);
     // What is selected, counted in the same way.
-    std::pair<int, int> GetSelection() const;
+    std::pair<int, int> selection() const;
 
     void vSetTextColor(const QColor& colour);
     void vSetBkColor(const QColor& colour);

@@ -2,17 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/plain_caption.h"
 
-QString CaptionOfName(QString name) {
+namespace wirepane {
+
+QString captionOfName(QString name) {
     return name.replace(u'&', QStringLiteral("&&"));
 }
 
-QString NameOfCaption(QString caption) {
+QString nameOfCaption(QString caption) {
     for (qsizetype mark = caption.indexOf(u'&'); mark >= 0; mark = caption.indexOf(u'&', mark + 1))
         caption.remove(mark, 1);
     return caption;
 }
 
-QString CaptionWithoutKey(QString caption) {
+QString captionWithoutKey(QString caption) {
     qsizetype mark = caption.indexOf(u'&');
     while (mark >= 0 && caption.mid(mark + 1, 1) == u'&')
         mark = caption.indexOf(u'&', mark + 2);
@@ -21,3 +23,5 @@ QString CaptionWithoutKey(QString caption) {
     const bool added = mark > 0 && caption.at(mark - 1) == u'(' && caption.mid(mark + 2, 1) == u')';
     return added ? caption.remove(mark - 1, 4) : caption.remove(mark, 1);
 }
+
+}  // namespace wirepane

@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QStringListModel>
 
+using namespace wirepane;
+
 namespace {
 constexpr int mostOffers = 50;
 }
@@ -34,7 +36,7 @@ CQuoteComboBoxAuto::CQuoteComboBoxAuto(QWidget* parent)
 
 void CQuoteComboBoxAuto::offer(const QString& typed) {
     typing = true;
-    offers = SymbolMatches(
+    offers = symbolMatches(
         typed, count(), [this](int index) { return itemText(index); }, mostOffers);
     QStringList texts;
     for (const int index : offers)
@@ -58,8 +60,8 @@ void CQuoteComboBoxAuto::take(int offerRow) {
         return;  // the items were replaced since they were offered
     setCurrentIndex(index);
     setEditText(text);
-    emit SelChange(index);
-    emit CloseUp();
+    emit selChange(index);
+    emit closeUp();
 }
 
 void CQuoteComboBoxAuto::stopTyping() {

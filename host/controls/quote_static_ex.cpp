@@ -8,7 +8,7 @@ CQuoteStaticEx::CQuoteStaticEx(QWidget* parent) : QLabel(parent) {
     setAutoFillBackground(true);
 }
 
-void CQuoteStaticEx::vSetColors(const QColor& text, const QColor& background) {
+void CQuoteStaticEx::setColors(const QColor& text, const QColor& background) {
     QPalette colours;
     if (text.isValid())
         colours.setColor(QPalette::WindowText, text);

@@ -14,5 +14,5 @@ class WIREPANE_HOST_EXPORT CQuoteStaticEx : public QLabel {
 public:
     explicit CQuoteStaticEx(QWidget* parent = nullptr);
 
-    void vSetColors(const QColor& text, const QColor& background);
+    void setColors(const QColor& text, const QColor& background);
 };

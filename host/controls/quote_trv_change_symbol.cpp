@@ -21,6 +21,7 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 namespace {
 
@@ -35,9 +36,9 @@ QuoteTRVChangeSymbol::QuoteTRVChangeSymbol(QWidget* parent, int /*purpose*/) : Q
 bool QuoteTRVChangeSymbol::Create() {
     if (BKQuoteInterface::GetBKInterface() == nullptr)
         return false;
-    setWindowTitle(LangText("IDS_DIALOG-CHANGE-SYMBOL_TITLE"_L1));
+    setWindowTitle(langText("IDS_DIALOG-CHANGE-SYMBOL_TITLE"_L1));
     search = new QLineEdit(this);
-    search->setPlaceholderText(LangText("IDS_DIALOG-CHANGE-SYMBOL_HINT"_L1));
+    search->setPlaceholderText(langText("IDS_DIALOG-CHANGE-SYMBOL_HINT"_L1));
     search->setAccessibleName(search->placeholderText());
     search->setClearButtonEnabled(true);
     search->installEventFilter(this);
@@ -48,12 +49,12 @@ bool QuoteTRVChangeSymbol::Create() {
     tree->setUniformRowHeights(true);
     tree->setItemDelegate(new RoomyRows(tree));
     tree->header()->setStretchLastSection(true);
-    auto* choose = new QPushButton(LangText("IDS_DIALOG-CHANGE-SYMBOL_CHOOSE"_L1), this);
-    auto* close = new QPushButton(LangText("IDS_DIALOG-CHANGE-SYMBOL_CLOSE"_L1), this);
+    auto* choose = new QPushButton(langText("IDS_DIALOG-CHANGE-SYMBOL_CHOOSE"_L1), this);
+    auto* close = new QPushButton(langText("IDS_DIALOG-CHANGE-SYMBOL_CLOSE"_L1), this);
     const std::pair<QWidget*, int> numbers[] = {
         {search, searchEdit}, {tree, symbolTree}, {choose, chooseButton}, {close, closeButton}};
     for (const auto& [control, id] : numbers)
-        SetWindowId(control, id);
+        setWindowId(control, id);
     choose->setDefault(true);
     close->setAutoDefault(false);
 
@@ -67,13 +68,13 @@ bool QuoteTRVChangeSymbol::Create() {
     column->addLayout(buttons);
     resize(fontMetrics().averageCharWidth() * 56, fontMetrics().height() * 26);
 
-    connect(search, &QLineEdit::textChanged, this, &QuoteTRVChangeSymbol::vShowMatches);
-    connect(tree, &QTreeWidget::itemExpanded, this, &QuoteTRVChangeSymbol::vFillMarket);
-    connect(tree, &QTreeWidget::itemDoubleClicked, this, &QuoteTRVChangeSymbol::vChoose);
-    connect(choose, &QPushButton::clicked, this, [this] { vChoose(tree->currentItem()); });
+    connect(search, &QLineEdit::textChanged, this, &QuoteTRVChangeSymbol::showMatches);
+    connect(tree, &QTreeWidget::itemExpanded, this, &QuoteTRVChangeSymbol::fillMarket);
+    connect(tree, &QTreeWidget::itemDoubleClicked, this, &QuoteTRVChangeSymbol::chooseItem);
+    connect(choose, &QPushButton::clicked, this, [this] { chooseItem(tree->currentItem()); });
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
-    vReadMarkets();
-    vFillTree();
+    readMarkets();
+    fillTree();
     return true;
 }
 
@@ -84,7 +85,7 @@ void QuoteTRVChangeSymbol::vSetShowStatus(bool shown) {
     search->selectAll();
 }
 
-void QuoteTRVChangeSymbol::vReadMarkets() {
+void QuoteTRVChangeSymbol::readMarkets() {
     BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
     std::vector<unsigned char> services;
     backEnd.bGetAllServiceID(services);
@@ -96,30 +97,30 @@ void QuoteTRVChangeSymbol::vReadMarkets() {
     }
 }
 
-void QuoteTRVChangeSymbol::vReadSymbols(Market& market) {
+void QuoteTRVChangeSymbol::readSymbols(Market& market) {
     if (std::exchange(market.read, true))
         return;
     BKQuoteInterface::GetBKInterface()->bGetSymbolID(market.id, market.codes, market.names);
     market.names.resize(market.codes.size());
 }
 
-void QuoteTRVChangeSymbol::vFillTree() {
+void QuoteTRVChangeSymbol::fillTree() {
     tree->clear();
     for (const Market& market : markets)
-        pAddMarket(market)->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+        addMarket(market)->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
     if (tree->topLevelItemCount() == 1)
         tree->expandItem(tree->topLevelItem(0));
 }
 
-QTreeWidgetItem* QuoteTRVChangeSymbol::pAddMarket(const Market& market) {
+QTreeWidgetItem* QuoteTRVChangeSymbol::addMarket(const Market& market) {
     auto* item = new QTreeWidgetItem(tree, QStringList(market.name));
     item->setData(0, marketRole, static_cast<int>(&market - markets.data()));
     item->setFirstColumnSpanned(true);
     return item;
 }
 
-QTreeWidgetItem* QuoteTRVChangeSymbol::pAddSymbol(QTreeWidgetItem* under, const Market& market,
-                                                  std::size_t symbol) {
+QTreeWidgetItem* QuoteTRVChangeSymbol::addSymbol(QTreeWidgetItem* under, const Market& market,
+                                                 std::size_t symbol) {
     auto* item = new QTreeWidgetItem({market.codes[symbol], market.names[symbol]});
     item->setData(0, marketRole, under->data(0, marketRole));
     item->setData(0, codeRole, market.codes[symbol]);
@@ -127,38 +128,38 @@ QTreeWidgetItem* QuoteTRVChangeSymbol::pAddSymbol(QTreeWidgetItem* under, const 
     return item;
 }
 
-void QuoteTRVChangeSymbol::vFillMarket(QTreeWidgetItem* item) {
+void QuoteTRVChangeSymbol::fillMarket(QTreeWidgetItem* item) {
     if (item->parent() != nullptr || item->childCount() > 0)
         return;
     Market& market = markets[static_cast<std::size_t>(item->data(0, marketRole).toInt())];
-    vReadSymbols(market);
+    readSymbols(market);
     tree->setUpdatesEnabled(false);
     for (std::size_t symbol = 0; symbol < market.codes.size(); ++symbol)
-        pAddSymbol(item, market, symbol);
+        addSymbol(item, market, symbol);
     item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
     tree->resizeColumnToContents(0);
     tree->setUpdatesEnabled(true);
 }
 
-void QuoteTRVChangeSymbol::vShowMatches(const QString& typed) {
+void QuoteTRVChangeSymbol::showMatches(const QString& typed) {
     if (typed.trimmed().isEmpty()) {
-        vFillTree();
+        fillTree();
         return;
     }
     tree->clear();
     for (Market& market : markets) {
-        vReadSymbols(market);
+        readSymbols(market);
         const auto textOf = [&market](int index) {
             const auto symbol = static_cast<std::size_t>(index);
             return market.codes[symbol] + u' ' + market.names[symbol];
         };
         const std::vector<int> matches =
-            SymbolMatches(typed, static_cast<int>(market.codes.size()), textOf, mostMatches);
+            symbolMatches(typed, static_cast<int>(market.codes.size()), textOf, mostMatches);
         if (matches.empty())
             continue;
-        QTreeWidgetItem* item = pAddMarket(market);
+        QTreeWidgetItem* item = addMarket(market);
         for (const int match : matches) {
-            QTreeWidgetItem* symbol = pAddSymbol(item, market, static_cast<std::size_t>(match));
+            QTreeWidgetItem* symbol = addSymbol(item, market, static_cast<std::size_t>(match));
             if (tree->currentItem() == nullptr || tree->currentItem()->parent() == nullptr)
                 tree->setCurrentItem(symbol);
         }
@@ -179,17 +180,17 @@ void QuoteTRVChangeSymbol::vDoSymbolUpdateTreeNode(quintptr update) {
         }
     }
     if (!known || changed == nullptr)
-        vReadMarkets();
-    vShowMatches(search->text());
+        readMarkets();
+    showMatches(search->text());
 }
 
-void QuoteTRVChangeSymbol::vChoose(const QTreeWidgetItem* item) {
-    static const QEvent::Type chosen = RegisterMessage(u"RVMSGCHANGESYMBOLBYSEARCH"_s);
+void QuoteTRVChangeSymbol::chooseItem(const QTreeWidgetItem* item) {
+    static const QEvent::Type chosen = registerMessage(u"RVMSGCHANGESYMBOLBYSEARCH"_s);
     if (item == nullptr || item->parent() == nullptr)
         return;
     const CSymbolInfo symbol{markets[static_cast<std::size_t>(item->data(0, marketRole).toInt())].id,
                              item->data(0, codeRole).toString()};
-    SendRegisteredMessage(parentWidget(), chosen, reinterpret_cast<quintptr>(&symbol));
+    sendRegisteredMessage(parentWidget(), chosen, reinterpret_cast<quintptr>(&symbol));
 }
 
 // The arrows walk the tree also while the user types.

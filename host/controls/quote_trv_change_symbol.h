@@ -48,14 +48,14 @@ private:
         std::vector<QString> codes;
         std::vector<QString> names;
     };
-    void vReadMarkets();
-    void vReadSymbols(Market& market);
-    void vFillTree();
-    void vFillMarket(QTreeWidgetItem* item);
-    void vShowMatches(const QString& typed);
-    QTreeWidgetItem* pAddMarket(const Market& market);
-    QTreeWidgetItem* pAddSymbol(QTreeWidgetItem* under, const Market& market, std::size_t symbol);
-    void vChoose(const QTreeWidgetItem* item);
+    void readMarkets();
+    void readSymbols(Market& market);
+    void fillTree();
+    void fillMarket(QTreeWidgetItem* item);
+    void showMatches(const QString& typed);
+    QTreeWidgetItem* addMarket(const Market& market);
+    QTreeWidgetItem* addSymbol(QTreeWidgetItem* under, const Market& market, std::size_t symbol);
+    void chooseItem(const QTreeWidgetItem* item);
 
     std::vector<Market> markets;
     QLineEdit* search = nullptr;

@@ -6,9 +6,11 @@
 #include <QHash>
 #include <QWidget>
 
+namespace wirepane {
+
 RegisteredMessageEvent::~RegisteredMessageEvent() = default;
 
-QEvent::Type RegisterMessage(const QString& name) {
+QEvent::Type registerMessage(const QString& name) {
     static QHash<QString, int> types;
     auto known = types.constFind(name);
     if (known == types.constEnd())
@@ -16,9 +18,11 @@ QEvent::Type RegisterMessage(const QString& name) {
     return static_cast<QEvent::Type>(*known);
 }
 
-void SendRegisteredMessage(QWidget* window, QEvent::Type type, quintptr first, quintptr second) {
+void sendRegisteredMessage(QWidget* window, QEvent::Type type, quintptr first, quintptr second) {
     if (window == nullptr)
         return;
     RegisteredMessageEvent event(type, first, second);
     QApplication::sendEvent(window, &event);
 }
+
+}  // namespace wirepane

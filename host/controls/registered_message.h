@@ -9,9 +9,11 @@
 
 class QWidget;
 
+namespace wirepane {
+
 // Messages that cross module boundaries are known by name: the same name gives the same event type in host
 // and module. Interface thread only.
-WIREPANE_HOST_EXPORT QEvent::Type RegisterMessage(const QString& name);
+WIREPANE_HOST_EXPORT QEvent::Type registerMessage(const QString& name);
 
 // A registered message with its two parameters.
 class WIREPANE_HOST_EXPORT RegisteredMessageEvent : public QEvent {
@@ -25,5 +27,7 @@ public:
 };
 
 // Delivers a message to `window` at once; a null window takes nothing.
-WIREPANE_HOST_EXPORT void SendRegisteredMessage(QWidget* window, QEvent::Type type, quintptr first,
+WIREPANE_HOST_EXPORT void sendRegisteredMessage(QWidget* window, QEvent::Type type, quintptr first,
                                                 quintptr second = 0);
+
+}  // namespace wirepane

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <limits>
 
+namespace wirepane {
+
 RowRuns::RowRuns(int count) : total(count) {
     if (count > 0)
         parts.push_back({0, count});
@@ -137,3 +139,5 @@ bool RowRuns::unchanged() const {
         return same;
     });
 }
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // Says for each row of a list which row it was in an earlier state of the list, or that it is new. It keeps
 // runs of neighbours, so that it stays small while most rows keep their neighbours. Rows count from 0.
 class WIREPANE_HOST_EXPORT RowRuns {
@@ -60,3 +62,5 @@ private:
     std::vector<Run> parts;
     int total;
 };
+
+}  // namespace wirepane

@@ -7,17 +7,19 @@
 #include <QKeyEvent>
 #include <QStyleOptionButton>
 
+using namespace wirepane;
+
 SButton::SButton(QWidget* parent) : QPushButton(parent) {
     setAutoDefault(false);
 }
 
-void SButton::vSetText(const QString& text) {
-    setText(CaptionOfName(text));
+void SButton::showText(const QString& text) {
+    setText(captionOfName(text));
     setAccessibleName(text);
 }
 
-QString SButton::szGetText() const {
-    return NameOfCaption(text());
+QString SButton::literalText() const {
+    return nameOfCaption(text());
 }
 
 void SButton::keyPressEvent(QKeyEvent* event) {

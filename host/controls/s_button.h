@@ -15,9 +15,9 @@ public:
     explicit SButton(QWidget* parent = nullptr);
 
     // Shows the text as it stands, with its '&'. (setText makes a key of what follows an '&'.)
-    void vSetText(const QString& text);
-    // The text as vSetText took it.
-    QString szGetText() const;
+    void showText(const QString& text);
+    // The text as showText took it.
+    QString literalText() const;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -18,10 +18,10 @@ SDateTimeCtrl::SDateTimeCtrl(QWidget* parent) : QDateEdit(parent) {
     // The keys of the open calendar go to the table of days.
     for (QWidget* part : calendarWidget()->findChildren<QWidget*>())
         part->installEventFilter(this);
-    connect(this, &QDateEdit::dateChanged, this, &SDateTimeCtrl::DateTimeChange);
+    connect(this, &QDateEdit::dateChanged, this, &SDateTimeCtrl::dateTimeChange);
 }
 
-void SDateTimeCtrl::vSetDate(const QDate& date) {
+void SDateTimeCtrl::showDate(const QDate& date) {
     const QSignalBlocker silent(this);
     setDate(date);
     dateAtOpening = this->date();
@@ -36,14 +36,14 @@ void SDateTimeCtrl::changeEvent(QEvent* event) {
 void SDateTimeCtrl::keyPressEvent(QKeyEvent* event) {
     const bool altDown = event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier);
     if (altDown || event->key() == Qt::Key_F4) {
-        vDropDown();
+        dropDown();
         event->accept();
         return;
     }
     QDateEdit::keyPressEvent(event);
 }
 
-void SDateTimeCtrl::vDropDown() {
+void SDateTimeCtrl::dropDown() {
     // The base opens its calendar for nothing but a press on the arrow.
     QStyleOptionComboBox box;
     box.initFrom(this);
@@ -66,7 +66,7 @@ bool SDateTimeCtrl::eventFilter(QObject* watched, QEvent* event) {
         emit DropDown();
     } else if (watched == calendarWidget() && event->type() == QEvent::Hide && dropped) {
         dropped = false;
-        emit CloseUp(date());
+        emit closeUp(date());
     }
     return QDateEdit::eventFilter(watched, event);
 }

@@ -17,18 +17,18 @@ public:
     explicit SDateTimeCtrl(QWidget* parent = nullptr);
 
     // Sets the date and tells nobody. An invalid date is ignored.
-    void vSetDate(const QDate& date);
-    bool bIsDropped() const { return dropped; }
+    void showDate(const QDate& date);
+    bool isDropped() const { return dropped; }
     // Opens the calendar, as the user does.
-    void vDropDown();
+    void dropDown();
 
 Q_SIGNALS:
     // The calendar opens.
     void DropDown();
     // The user changed the date, in the line or in the open calendar.
-    void DateTimeChange(const QDate& date);
+    void dateTimeChange(const QDate& date);
     // The calendar has closed, with this date in force.
-    void CloseUp(const QDate& date);
+    void closeUp(const QDate& date);
 
 protected:
     void changeEvent(QEvent* event) override;

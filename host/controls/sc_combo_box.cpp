@@ -35,7 +35,7 @@ SCComboBox::SCComboBox(QWidget* parent) : QComboBox(parent) {
     if (auto* list = qobject_cast<QListView*>(view()))
         list->setUniformItemSizes(true);
     view()->setTextElideMode(Qt::ElideRight);
-    connect(this, &QComboBox::activated, this, &SCComboBox::SelChange);
+    connect(this, &QComboBox::activated, this, &SCComboBox::selChange);
     watchItems();
 }
 
@@ -65,7 +65,7 @@ int SCComboBox::widestOf(int first, int last) const {
     return found;
 }
 
-int SCComboBox::iGetWidestItem() const {
+int SCComboBox::widestItem() const {
     if (!widestKnown) {
         widest = widestOf(0, count() - 1);
         widestKnown = true;
@@ -92,7 +92,7 @@ bool SCComboBox::eventFilter(QObject* watched, QEvent* event) {
     if (dropped && event->type() == QEvent::Hide && watched == view()->window()) {
         dropped = false;
         // The list hides before the chosen item becomes current.
-        QMetaObject::invokeMethod(this, &SCComboBox::CloseUp, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &SCComboBox::closeUp, Qt::QueuedConnection);
     }
     return QComboBox::eventFilter(watched, event);
 }

@@ -16,7 +16,7 @@ public:
 
     // The width in pixels of the widest item's text in the combo's font; 0 without items. Kept between
     // changes of the items and the font.
-    int iGetWidestItem() const;
+    int widestItem() const;
 
     void setModel(QAbstractItemModel* model) override;
     void showPopup() override;
@@ -24,10 +24,10 @@ public:
 Q_SIGNALS:
     // The drop-down closed, for whatever reason. When the user chose an item, it is the current one by then.
     // Told from the event loop, once for each time the drop-down was open.
-    void CloseUp();
+    void closeUp();
     // The user chose the item at this index (perhaps the one that was current). Never told of changes in
     // code.
-    void SelChange(int index);
+    void selChange(int index);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -6,13 +6,19 @@
 
 #include <algorithm>
 
-QColor SheetCells::TextColour(int /*row*/, int /*column*/) const {
+namespace wirepane {
+
+QColor SheetCells::textColour(int /*row*/, int /*column*/) const {
     return {};
 }
 
-QColor SheetCells::Highlight(int /*row*/, int /*column*/) const {
+QColor SheetCells::highlight(int /*row*/, int /*column*/) const {
     return {};
 }
+
+}  // namespace wirepane
+
+using namespace wirepane;
 
 CSheetBuilder::CSheetBuilder(QObject* parent) : QAbstractTableModel(parent) {}
 
@@ -20,14 +26,14 @@ bool CSheetBuilder::hasColumn(int column) const {
     return column >= 0 && column < static_cast<int>(columns.size());
 }
 
-void CSheetBuilder::vInsertColumn(int width, Qt::Alignment alignment, const QString& key) {
+void CSheetBuilder::insertColumn(int width, Qt::Alignment alignment, const QString& key) {
     const int end = static_cast<int>(columns.size());
     beginInsertColumns({}, end, end);
     columns.push_back({std::max(0, width), alignment, key, {}, {}});
     endInsertColumns();
 }
 
-void CSheetBuilder::vSetHeaderText(int column, const QString& text, const QString& toolTip) {
+void CSheetBuilder::setHeaderText(int column, const QString& text, const QString& toolTip) {
     if (!hasColumn(column))
         return;
     columns[column].header = text;
@@ -35,17 +41,17 @@ void CSheetBuilder::vSetHeaderText(int column, const QString& text, const QStrin
     emit headerDataChanged(Qt::Horizontal, column, column);
 }
 
-int CSheetBuilder::iGetInitialWidth(int column) const {
+int CSheetBuilder::initialWidth(int column) const {
     return hasColumn(column) ? columns[column].width : 0;
 }
 
-void CSheetBuilder::vSetCells(const SheetCells* cells) {
+void CSheetBuilder::setCells(const SheetCells* cells) {
     source = cells;
     if (rows > 0 && !columns.empty())
         emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
 }
 
-void CSheetBuilder::vSetRowCount(int count) {
+void CSheetBuilder::setRowCount(int count) {
     count = std::max(0, count);
     queue.reset();
     if (count == 0 && rows == 0)
@@ -55,8 +61,8 @@ void CSheetBuilder::vSetRowCount(int count) {
     endResetModel();
 }
 
-void CSheetBuilder::vInsertRows(int row, int count) {
-    vTakeUpQueue();
+void CSheetBuilder::insertRows(int row, int count) {
+    takeUpQueue();
     if (count <= 0 || row < 0 || row > rows)
         return;
     beginInsertRows({}, row, row + count - 1);
@@ -64,8 +70,8 @@ void CSheetBuilder::vInsertRows(int row, int count) {
     endInsertRows();
 }
 
-void CSheetBuilder::vRemoveRows(int row, int count) {
-    vTakeUpQueue();
+void CSheetBuilder::removeRows(int row, int count) {
+    takeUpQueue();
     if (count <= 0 || row < 0 || count > rows - row)
         return;
     beginRemoveRows({}, row, row + count - 1);
@@ -73,7 +79,7 @@ void CSheetBuilder::vRemoveRows(int row, int count) {
     endRemoveRows();
 }
 
-void CSheetBuilder::vRowWritten(int row) {
+void CSheetBuilder::rowWritten(int row) {
     if (queue)
         row = queue->oldRow(row);
     if (row >= 0 && row < rows && !columns.empty())
@@ -97,11 +103,11 @@ QVariant CSheetBuilder::data(const QModelIndex& index, int role) const {
     if (source == nullptr || row < 0)
         return {};
     if (role == Qt::DisplayRole)
-        return source->Text(row, index.column());
+        return source->text(row, index.column());
     if (role != Qt::ForegroundRole && role != Qt::BackgroundRole)
         return {};
-    const QColor colour = role == Qt::ForegroundRole ? source->TextColour(row, index.column())
-                                                     : source->Highlight(row, index.column());
+    const QColor colour = role == Qt::ForegroundRole ? source->textColour(row, index.column())
+                                                     : source->highlight(row, index.column());
     return colour.isValid() ? QVariant(QBrush(colour)) : QVariant();
 }
 

@@ -12,6 +12,8 @@
 #include <optional>
 #include <vector>
 
+namespace wirepane {
+
 // Where a sheet takes the texts of its cells from. The sheet asks for rows on screen only, each time it
 // paints them, and keeps nothing: answers must be quick. Interface thread.
 class WIREPANE_HOST_EXPORT SheetCells {
@@ -22,18 +24,20 @@ public:
     virtual ~SheetCells() = default;
 
     // The text of a cell, drawn as it stands (never as markup); empty for a cell that was not written.
-    virtual QString Text(int row, int column) const = 0;
+    virtual QString text(int row, int column) const = 0;
     // The text colour of a cell; an invalid colour means the sheet's own.
-    virtual QColor TextColour(int row, int column) const;
+    virtual QColor textColour(int row, int column) const;
     // What is laid over the background of a cell; an invalid colour means nothing.
-    virtual QColor Highlight(int row, int column) const;
+    virtual QColor highlight(int row, int column) const;
 };
+
+}  // namespace wirepane
 
 // The columns and the number of rows of a sheet: the model under CSuperSheetWnd. Rows and columns count from
 // 0.
 //
 // Rows that come and go one by one are queued: the cells' source has them at once, the model takes all of
-// them up together, later in the same turn of the event loop or when vTakeUpQueue is called. Until then its
+// them up together, later in the same turn of the event loop or when takeUpQueue is called. Until then its
 // rows show the cells that they had. Nothing may be queued from a slot of the model's signals.
 class WIREPANE_HOST_EXPORT CSheetBuilder : public QAbstractTableModel {
     Q_OBJECT
@@ -46,42 +50,42 @@ public:
 
     // Appends a column `width` pixels wide (0 or more: a width of 0 hides it). The key is what code finds it
     // by, wherever it stands.
-    void vInsertColumn(int width, Qt::Alignment alignment, const QString& key = {});
+    void insertColumn(int width, Qt::Alignment alignment, const QString& key = {});
     // What the header says, and in a tool tip (plain text; empty: none). A column out of range is ignored.
-    void vSetHeaderText(int column, const QString& text, const QString& toolTip = {});
+    void setHeaderText(int column, const QString& text, const QString& toolTip = {});
     // The width that the column was inserted with; 0 for a column out of range.
-    int iGetInitialWidth(int column) const;
+    int initialWidth(int column) const;
 
     // The source of the cells: not owned, must outlive the builder or be taken out with null (empty cells).
-    void vSetCells(const SheetCells* cells);
+    void setCells(const wirepane::SheetCells* cells);
 
     // Without what is queued.
-    int iGetRowCount() const { return rows; }
+    int rowCount() const { return rows; }
     // Starts over with this many rows, without what was queued: one model reset, and none when the sheet is
     // and stays empty. A count below 0 counts as 0.
-    void vSetRowCount(int count);
-    // Puts `count` rows in before `row` (iGetRowCount(): at the end), without touching what is selected.
+    void setRowCount(int count);
+    // Puts `count` rows in before `row` (rowCount(): at the end), without touching what is selected.
     // Takes the queue up first.
-    void vInsertRows(int row, int count);
-    void vRemoveRows(int row, int count);
+    void insertRows(int row, int count);
+    void removeRows(int row, int count);
     // The cells of a row (counted with what is queued) have been written: it is drawn again when it is on
     // screen. Ignored out of range.
-    void vRowWritten(int row);
+    void rowWritten(int row);
 
     // A row has come before `row`, has gone, has moved to row 0: rows are counted with what is queued
     // already. Out of range: ignored. Rows that are selected or current stay so wherever they move.
-    void vQueueInsert(int row);
-    void vQueueRemove(int row);
-    void vQueueMoveToTop(int row);
+    void queueInsert(int row);
+    void queueRemove(int row);
+    void queueMoveToTop(int row);
     // Where the first of the rows from `row` on that stay in their order goes: how many rows further down.
-    int iGetQueuedShift(int row) const { return queue ? queue->shiftFrom(row) : 0; }
+    int queuedShift(int row) const { return queue ? queue->shiftFrom(row) : 0; }
     // Where the row goes; -1: it goes away.
-    int iGetQueuedRow(int row) const { return queue ? queue->newRow(row) : row; }
+    int queuedRow(int row) const { return queue ? queue->newRow(row) : row; }
     // Rows put in at the top, or at few places, are told as rows put in, rows taken out as rows taken out,
     // all else as a change of layout.
-    void vTakeUpQueue();
+    void takeUpQueue();
 
-    int rowCount(const QModelIndex& parent = {}) const override;
+    int rowCount(const QModelIndex& parent) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
@@ -89,7 +93,7 @@ public:
 
 Q_SIGNALS:
     void QueueAboutToBeTakenUp();
-    void QueueTakenUp();
+    void queueTakenUp();
 
 private:
     struct Column {
@@ -101,7 +105,7 @@ private:
     };
     bool hasColumn(int column) const;
     int queuedRowCount() const { return queue ? queue->size() : rows; }
-    RowRuns& openQueue();
+    wirepane::RowRuns& openQueue();
     void takeOutRows();
     void putInRows();
     void putInWhereTheyStand();
@@ -109,8 +113,8 @@ private:
     void putInOrder();
 
     std::vector<Column> columns;
-    const SheetCells* source = nullptr;
+    const wirepane::SheetCells* source = nullptr;
     int rows = 0;
-    std::optional<RowRuns> queue;  // what the source's rows are in the model
+    std::optional<wirepane::RowRuns> queue;  // what the source's rows are in the model
     bool takingUp = false;
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/sheet_colours.h"
 
+namespace wirepane {
+
 namespace {
 
 QColor chosen(const QColor& own, const QColor& other) {
@@ -17,18 +19,20 @@ QColor mixed(const QColor& over, const QColor& under, int share) {
 
 }  // namespace
 
-QColor SheetColours::RowBackground(bool odd, const QPalette& palette) const {
+QColor SheetColours::rowBackground(bool odd, const QPalette& palette) const {
     return odd ? chosen(oddRow, palette.color(QPalette::AlternateBase))
                : chosen(evenRow, palette.color(QPalette::Base));
 }
 
-QColor SheetColours::MarkBackground(bool hasFocus, const QPalette& palette) const {
-    const QColor row = RowBackground(false, palette);
+QColor SheetColours::markBackground(bool hasFocus, const QPalette& palette) const {
+    const QColor row = rowBackground(false, palette);
     if (hasFocus)
         return chosen(focused, mixed(palette.color(QPalette::Active, QPalette::Highlight), row, 28));
-    return chosen(unfocused, mixed(Text(palette), row, 14));
+    return chosen(unfocused, mixed(textColour(palette), row, 14));
 }
 
-QColor SheetColours::Text(const QPalette& palette) const {
+QColor SheetColours::textColour(const QPalette& palette) const {
     return chosen(text, palette.color(QPalette::Text));
 }
+
+}  // namespace wirepane

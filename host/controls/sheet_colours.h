@@ -7,6 +7,8 @@
 #include <QColor>
 #include <QPalette>
 
+namespace wirepane {
+
 // The colours of a sheet's rows. A colour that was not set (invalid) follows the palette, so a sheet without
 // colours of its own fits a light and a dark scheme.
 struct WIREPANE_HOST_EXPORT SheetColours {
@@ -17,7 +19,9 @@ struct WIREPANE_HOST_EXPORT SheetColours {
     QColor unfocused;  // and while it has not
     bool marking = true;
 
-    QColor RowBackground(bool odd, const QPalette& palette) const;
-    QColor MarkBackground(bool hasFocus, const QPalette& palette) const;
-    QColor Text(const QPalette& palette) const;
+    QColor rowBackground(bool odd, const QPalette& palette) const;
+    QColor markBackground(bool hasFocus, const QPalette& palette) const;
+    QColor textColour(const QPalette& palette) const;
 };
+
+}  // namespace wirepane

@@ -5,6 +5,8 @@
 #include <QAbstractItemView>
 #include <QPainter>
 
+namespace wirepane {
+
 SheetDelegate::SheetDelegate(QAbstractItemView* sheet) : QStyledItemDelegate(sheet), view(sheet) {}
 
 bool SheetDelegate::isMarkedCurrent(const QModelIndex& index) const {
@@ -15,14 +17,14 @@ void SheetDelegate::paintBackground(QPainter& painter, const QRect& cell, const 
                                     bool selected) const {
     const bool current = isMarkedCurrent(index);
     const bool odd = (index.row() % 2 == 1) != firstRowOdd;
-    painter.fillRect(cell, selected || current ? colours.MarkBackground(view->hasFocus(), view->palette())
-                                               : colours.RowBackground(odd, view->palette()));
+    painter.fillRect(cell, selected || current ? colours.markBackground(view->hasFocus(), view->palette())
+                                               : colours.rowBackground(odd, view->palette()));
     const QVariant highlight = index.data(Qt::BackgroundRole);
     if (highlight.isValid())
         painter.fillRect(cell, highlight.value<QBrush>());
     if (!current || !view->hasFocus())
         return;
-    QColor line = colours.Text(view->palette());
+    QColor line = colours.textColour(view->palette());
     line.setAlpha(70);
     painter.fillRect(QRect(cell.left(), cell.top(), cell.width(), 1), line);
     painter.fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), line);
@@ -38,7 +40,7 @@ void SheetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
     const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
     painter->setFont(option.font);
-    painter->setPen(own.isValid() ? own.value<QBrush>().color() : colours.Text(view->palette()));
+    painter->setPen(own.isValid() ? own.value<QBrush>().color() : colours.textColour(view->palette()));
     painter->drawText(room, static_cast<int>(alignment) | Qt::TextSingleLine,
                       option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
 }
@@ -47,3 +49,5 @@ QSize SheetDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIn
     const QString text = index.data(Qt::DisplayRole).toString();
     return {option.fontMetrics.horizontalAdvance(text) + 2 * margin + 1, option.fontMetrics.height()};
 }
+
+}  // namespace wirepane

@@ -9,6 +9,8 @@
 
 class QAbstractItemView;
 
+namespace wirepane {
+
 // Draws the cells of a sheet: one line of plain text on the row's colour, cut with dots at the right. Marked
 // rows (selected or current) keep the colours of their texts.
 class WIREPANE_HOST_EXPORT SheetDelegate : public QStyledItemDelegate {
@@ -30,3 +32,5 @@ private:
 
     const QAbstractItemView* view;
 };
+
+}  // namespace wirepane

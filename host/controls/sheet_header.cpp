@@ -7,6 +7,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+namespace wirepane {
+
 SheetHeader::SheetHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
     setSectionsClickable(false);
     setHighlightSections(false);
@@ -62,3 +64,5 @@ void SheetHeader::paintEvent(QPaintEvent* event) {
     if (end < viewport()->width())
         QPainter(viewport()).fillRect(QRect(end, 0, viewport()->width() - end, height()), shownBackground());
 }
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 #include <QHeaderView>
 
+namespace wirepane {
+
 // The header row of a sheet: flat, one line of plain text per column, lined up with the cells below, with
 // a mark on the column that the rows are sorted by while the sort indicator is shown. Colours
 // that were not set (invalid) follow the palette's buttons.
@@ -26,3 +28,5 @@ private:
     QColor shownBackground() const;
     QColor shownText() const;
 };
+
+}  // namespace wirepane

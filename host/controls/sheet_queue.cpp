@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace wirepane;
+
 namespace {
 
 // Up to this many places, rows are put in one place after the other.
@@ -15,27 +17,27 @@ constexpr int fewPlaces = 8;
 RowRuns& CSheetBuilder::openQueue() {
     if (!queue) {
         queue.emplace(rows);
-        QMetaObject::invokeMethod(this, &CSheetBuilder::vTakeUpQueue, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &CSheetBuilder::takeUpQueue, Qt::QueuedConnection);
     }
     return *queue;
 }
 
-void CSheetBuilder::vQueueInsert(int row) {
+void CSheetBuilder::queueInsert(int row) {
     if (row >= 0 && row <= queuedRowCount())
         openQueue().insert(row);
 }
 
-void CSheetBuilder::vQueueRemove(int row) {
+void CSheetBuilder::queueRemove(int row) {
     if (row >= 0 && row < queuedRowCount())
         openQueue().remove(row);
 }
 
-void CSheetBuilder::vQueueMoveToTop(int row) {
+void CSheetBuilder::queueMoveToTop(int row) {
     if (row >= 0 && row < queuedRowCount())
         openQueue().moveToTop(row);
 }
 
-void CSheetBuilder::vTakeUpQueue() {
+void CSheetBuilder::takeUpQueue() {
     if (!queue || takingUp)
         return;
     takingUp = true;
@@ -45,7 +47,7 @@ void CSheetBuilder::vTakeUpQueue() {
     putInOrder();
     queue.reset();
     takingUp = false;
-    emit QueueTakenUp();
+    emit queueTakenUp();
 }
 
 // After each step the model's rows and the queue agree again, so that a listener can read cells at any point.

@@ -9,55 +9,57 @@
 
 #include <algorithm>
 
-void CSuperSheetWnd::vAddRows(int count) {
+using namespace wirepane;
+
+void CSuperSheetWnd::addRows(int count) {
     if (builder != nullptr)
-        builder->vInsertRows(iGetRowCount(), count);
+        builder->insertRows(rowCount(), count);
 }
 
-void CSuperSheetWnd::vClearRows() {
+void CSuperSheetWnd::clearRows() {
     if (builder == nullptr)
         return;
-    builder->vSetRowCount(0);
+    builder->setRowCount(0);
     // A header into which rows came at the top keeps room for several times as many, unless its state is set.
     verticalHeader()->restoreState(verticalHeader()->saveState());
 }
 
-int CSuperSheetWnd::iGetRowCount() const {
+int CSuperSheetWnd::rowCount() const {
     takeUpRows();
-    return builder != nullptr ? builder->iGetRowCount() : 0;
+    return builder != nullptr ? builder->rowCount() : 0;
 }
 
-void CSuperSheetWnd::vInsertRow(int row) {
+void CSuperSheetWnd::insertRow(int row) {
     if (builder != nullptr)
-        builder->vQueueInsert(row);
+        builder->queueInsert(row);
 }
 
-void CSuperSheetWnd::vDeleteRow(int row) {
+void CSuperSheetWnd::deleteRow(int row) {
     if (builder != nullptr)
-        builder->vQueueRemove(row);
+        builder->queueRemove(row);
 }
 
-void CSuperSheetWnd::vMoveRowToTop(int row) {
+void CSuperSheetWnd::moveRowToTop(int row) {
     if (builder != nullptr)
-        builder->vQueueMoveToTop(row);
+        builder->queueMoveToTop(row);
 }
 
 void CSuperSheetWnd::takeUpRows() const {
     if (builder != nullptr)
-        builder->vTakeUpQueue();
+        builder->takeUpQueue();
 }
 
-int CSuperSheetWnd::iGetFirstVisibleRowToCome() const {
+int CSuperSheetWnd::firstVisibleRowToCome() const {
     const int first = verticalScrollBar()->value();
-    return first == 0 || builder == nullptr ? first : std::max(0, first + builder->iGetQueuedShift(first));
+    return first == 0 || builder == nullptr ? first : std::max(0, first + builder->queuedShift(first));
 }
 
 // From above, in the place of the first row on screen when that goes; from below, when fewer rows come above
 // the last row on screen than above the first. At its top the sheet shows what comes.
-bool CSuperSheetWnd::bOthersComeOnScreen() const {
-    const bool fromAbove = shownFirst > 0 && builder->iGetQueuedRow(shownFirst) != shownFirst + shownShift;
-    const int last = std::min(shownFirst + iGetRowsPerPage(), builder->iGetRowCount() - 1);
-    return fromAbove || builder->iGetQueuedShift(last) < (shownFirst > 0 ? shownShift : 0);
+bool CSuperSheetWnd::mayShowOthers() const {
+    const bool fromAbove = shownFirst > 0 && builder->queuedRow(shownFirst) != shownFirst + shownShift;
+    const int last = std::min(shownFirst + rowsPerPage(), builder->rowCount() - 1);
+    return fromAbove || builder->queuedShift(last) < (shownFirst > 0 ? shownShift : 0);
 }
 
 void CSuperSheetWnd::keepShownRows() {
@@ -65,13 +67,13 @@ void CSuperSheetWnd::keepShownRows() {
     if (shownFirst > 0)
         verticalScrollBar()->setValue(shownFirst + shownShift);
     takingUp = false;
-    if (builder->iGetRowCount() == 0)
-        vResetRowBkColor();
+    if (builder->rowCount() == 0)
+        resetRowBkColor();
     else if (shownShift % 2 != 0)
         delegate->firstRowOdd = !delegate->firstRowOdd;
     viewport()->update();
     if (othersComeOnScreen)
-        emit ScrolledVertically();
+        emit scrolledVertically();
 }
 
 bool CSuperSheetWnd::viewportEvent(QEvent* event) {
@@ -79,12 +81,12 @@ bool CSuperSheetWnd::viewportEvent(QEvent* event) {
     return QTableView::viewportEvent(event);
 }
 
-void CSuperSheetWnd::vInvalidateRow(int row) {
+void CSuperSheetWnd::invalidateRow(int row) {
     if (builder != nullptr)
-        builder->vRowWritten(row);
+        builder->rowWritten(row);
 }
 
-void CSuperSheetWnd::vResetRowBkColor() {
+void CSuperSheetWnd::resetRowBkColor() {
     if (!delegate->firstRowOdd)
         return;
     delegate->firstRowOdd = false;
@@ -92,8 +94,8 @@ void CSuperSheetWnd::vResetRowBkColor() {
 }
 
 void CSuperSheetWnd::keepRowColours(int firstRow, int count) {
-    if (builder->iGetRowCount() == 0 || (firstRow == 0 && builder->iGetRowCount() == count))
-        vResetRowBkColor();
+    if (builder->rowCount() == 0 || (firstRow == 0 && builder->rowCount() == count))
+        resetRowBkColor();
     else if (firstRow == 0 && count % 2 == 1)
         delegate->firstRowOdd = !delegate->firstRowOdd;
 }

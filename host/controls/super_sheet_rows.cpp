@@ -14,7 +14,9 @@
 #include <algorithm>
 #include <utility>
 
-void CSuperSheetWnd::vResetScroll() {
+using namespace wirepane;
+
+void CSuperSheetWnd::resetScroll() {
     takeUpRows();
     executeDelayedItemsLayout();
     verticalScrollBar()->setValue(0);
@@ -22,11 +24,11 @@ void CSuperSheetWnd::vResetScroll() {
 }
 
 void CSuperSheetWnd::vAutoVerScrolling(int row) {
-    if (row < 0 || row >= iGetRowCount())
+    if (row < 0 || row >= rowCount())
         return;
     executeDelayedItemsLayout();
-    const int first = iGetFirstVisibleRow();
-    const int page = std::max(1, iGetRowsPerPage());
+    const int first = firstVisibleRow();
+    const int page = std::max(1, rowsPerPage());
     if (row < first)
         verticalScrollBar()->setValue(row);
     else if (row >= first + page)
@@ -40,20 +42,20 @@ void CSuperSheetWnd::scrollTo(const QModelIndex& index, ScrollHint hint) {
         QTableView::scrollTo(index, hint);
 }
 
-void CSuperSheetWnd::vSetFirstVisibleRow(int row) {
+void CSuperSheetWnd::setFirstVisibleRow(int row) {
     takeUpRows();
     executeDelayedItemsLayout();
     verticalScrollBar()->setValue(row);
 }
 
-int CSuperSheetWnd::iGetFirstVisibleRow() const {
+int CSuperSheetWnd::firstVisibleRow() const {
     takeUpRows();
     // With rows of one height, scrolled by the row, the bar's value is the row: asking the header would walk
     // it.
-    return std::clamp(verticalScrollBar()->value(), 0, std::max(0, iGetRowCount() - 1));
+    return std::clamp(verticalScrollBar()->value(), 0, std::max(0, rowCount() - 1));
 }
 
-int CSuperSheetWnd::iGetRowsPerPage() const {
+int CSuperSheetWnd::rowsPerPage() const {
     return viewport()->height() / verticalHeader()->defaultSectionSize();
 }
 
@@ -62,8 +64,8 @@ int CSuperSheetWnd::iCalcRowNdx(const QPoint& client) const {
     const QPoint point = viewport()->mapFrom(this, client);
     if (!viewport()->rect().contains(point))
         return -1;
-    const int row = iGetFirstVisibleRow() + point.y() / verticalHeader()->defaultSectionSize();
-    return row < iGetRowCount() ? row : -1;
+    const int row = firstVisibleRow() + point.y() / verticalHeader()->defaultSectionSize();
+    return row < rowCount() ? row : -1;
 }
 
 bool CSuperSheetWnd::bHasFocus() const {
@@ -91,10 +93,10 @@ void CSuperSheetWnd::vGetAllSelectionNdx(std::vector<int>& rows) const {
     }
 }
 
-void CSuperSheetWnd::vSetActiveSelection(int row, int column) {
+void CSuperSheetWnd::setActiveSelection(int row, int column) {
     const auto first = std::find_if(widths.begin(), widths.end(), [](int width) { return width > 0; });
     const int shown = column >= 0 ? column : static_cast<int>(first - widths.begin());
-    if (row < 0 || row >= iGetRowCount() || !hasColumn(shown) || selectionModel() == nullptr)
+    if (row < 0 || row >= rowCount() || !hasColumn(shown) || selectionModel() == nullptr)
         return;
     const bool scrolls = hasAutoScroll();
     setAutoScroll(false);
@@ -103,9 +105,9 @@ void CSuperSheetWnd::vSetActiveSelection(int row, int column) {
     setAutoScroll(scrolls);
 }
 
-void CSuperSheetWnd::vSelectRows(std::vector<int> rows, int current) {
-    vClearSelection();
-    const int last = iGetRowCount() - 1;
+void CSuperSheetWnd::selectRows(std::vector<int> rows, int current) {
+    deselectRows();
+    const int last = rowCount() - 1;
     const auto shown = std::find_if(widths.begin(), widths.end(), [](int width) { return width > 0; });
     const auto column = static_cast<int>(shown - widths.begin());
     if (selectionModel() == nullptr || !hasColumn(column))
@@ -128,7 +130,7 @@ void CSuperSheetWnd::vSelectRows(std::vector<int> rows, int current) {
     setAutoScroll(scrolls);
 }
 
-void CSuperSheetWnd::vClearSelection() {
+void CSuperSheetWnd::deselectRows() {
     takeUpRows();
     if (selectionModel() != nullptr)
         selectionModel()->clear();
@@ -141,7 +143,7 @@ void CSuperSheetWnd::keyboardSearch(const QString& /*search*/) {
 QModelIndex CSuperSheetWnd::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
     takeUpRows();
     const QModelIndex current = currentIndex();
-    if (iGetRowCount() == 0 || !current.isValid())
+    if (rowCount() == 0 || !current.isValid())
         return QTableView::moveCursor(action, modifiers);
     // A row is selected as a whole: left and right scroll, home and end go to the first and last row.
     switch (action) {
@@ -154,7 +156,7 @@ QModelIndex CSuperSheetWnd::moveCursor(CursorAction action, Qt::KeyboardModifier
         case MoveHome:
             return current.siblingAtRow(0);
         case MoveEnd:
-            return builder->index(iGetRowCount() - 1, current.column());
+            return builder->index(rowCount() - 1, current.column());
         default:
             return QTableView::moveCursor(action, modifiers);
     }
@@ -194,7 +196,7 @@ void CSuperSheetWnd::mouseReleaseEvent(QMouseEvent* event) {
 void CSuperSheetWnd::mouseDoubleClickEvent(QMouseEvent* event) {
     QTableView::mouseDoubleClickEvent(event);
     if (isPlainClick(*event))
-        emit LButtonDblClk(viewport()->mapTo(this, event->pos()));
+        emit lButtonDblClk(viewport()->mapTo(this, event->pos()));
 }
 
 void CSuperSheetWnd::vSetHeaderRowBkColor(const QColor& colour) {

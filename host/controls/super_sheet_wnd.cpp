@@ -15,6 +15,8 @@
 
 #include <algorithm>
 
+using namespace wirepane;
+
 CSuperSheetWnd::CSuperSheetWnd(CSheetBuilder* sheetBuilder, QWidget* parent)
     : QTableView(parent),
       builder(sheetBuilder),
@@ -42,7 +44,7 @@ CSuperSheetWnd::CSuperSheetWnd(CSheetBuilder* sheetBuilder, QWidget* parent)
             [this](int column, int, int size) { sectionResized(column, size); });
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         if (!takingUp)
-            emit ScrolledVertically();
+            emit scrolledVertically();
     });
     applyHeights();
 }
@@ -62,7 +64,7 @@ void CSuperSheetWnd::connectRows() {
     connect(builder, &QAbstractItemModel::columnsInserted, this,
             [this](const QModelIndex&, int first, int last) { columnsInserted(first, last); });
     connect(builder, &QAbstractItemModel::modelReset, this, [this] {
-        vResetRowBkColor();
+        resetRowBkColor();
         verticalScrollBar()->setValue(0);
     });
     const auto keepColours = [this](const QModelIndex&, int first, int last) {
@@ -74,13 +76,13 @@ void CSuperSheetWnd::connectRows() {
     connect(builder, &CSheetBuilder::QueueAboutToBeTakenUp, this, [this] {
         takingUp = true;
         shownFirst = verticalScrollBar()->value();
-        shownShift = builder->iGetQueuedShift(shownFirst);
-        othersComeOnScreen = bOthersComeOnScreen();
+        shownShift = builder->queuedShift(shownFirst);
+        othersComeOnScreen = mayShowOthers();
     });
-    connect(builder, &CSheetBuilder::QueueTakenUp, this, &CSuperSheetWnd::keepShownRows);
+    connect(builder, &CSheetBuilder::queueTakenUp, this, &CSuperSheetWnd::keepShownRows);
 }
 
-void CSuperSheetWnd::vSetThinBar(bool thin) {
+void CSuperSheetWnd::setThinBar(bool thin) {
     auto* style = findChild<ThinBarStyle*>(QString(), Qt::FindDirectChildrenOnly);
     if (thin && style == nullptr)
         style = new ThinBarStyle(this);
@@ -90,16 +92,16 @@ void CSuperSheetWnd::vSetThinBar(bool thin) {
     QCoreApplication::sendEvent(this, &anew);
 }
 
-void CSuperSheetWnd::vSetSmoothHorizontalScroll(bool smooth) {
+void CSuperSheetWnd::setSmoothHorizontalScroll(bool smooth) {
     setHorizontalScrollMode(smooth ? QAbstractItemView::ScrollPerPixel : QAbstractItemView::ScrollPerItem);
 }
 
-void CSuperSheetWnd::vSetHeaderRowHeight(int height) {
+void CSuperSheetWnd::setHeaderRowHeight(int height) {
     wantedHeaderHeight = std::max(1, height);
     applyHeights();
 }
 
-void CSuperSheetWnd::vSetRowHeight(int height) {
+void CSuperSheetWnd::setHeightOfRows(int height) {
     wantedRowHeight = std::max(1, height);
     applyHeights();
 }
@@ -119,28 +121,28 @@ bool CSuperSheetWnd::hasColumn(int column) const {
     return column >= 0 && column < static_cast<int>(widths.size());
 }
 
-void CSuperSheetWnd::vInsertColumn(int width, Qt::Alignment alignment, const QString& key) {
+void CSuperSheetWnd::insertColumn(int width, Qt::Alignment alignment, const QString& key) {
     if (builder != nullptr)
-        builder->vInsertColumn(width, alignment, key);
+        builder->insertColumn(width, alignment, key);
 }
 
 void CSuperSheetWnd::columnsInserted(int first, int last) {
     for (int column = first; column <= last; ++column) {
         widths.insert(widths.begin() + column, 0);
-        vSetColWidth(column, builder->iGetInitialWidth(column));
+        vSetColWidth(column, builder->initialWidth(column));
     }
 }
 
-void CSuperSheetWnd::vSetHeaderText(int column, const QString& text, const QString& toolTip) {
+void CSuperSheetWnd::setHeaderText(int column, const QString& text, const QString& toolTip) {
     if (builder == nullptr)
         return;
     const bool named = accessibleName() != headerTexts();
-    builder->vSetHeaderText(column, text, toolTip);
+    builder->setHeaderText(column, text, toolTip);
     if (!named)
         setAccessibleName(headerTexts());
 }
 
-int CSuperSheetWnd::iGetColumn(const QString& key) const {
+int CSuperSheetWnd::column(const QString& key) const {
     for (int column = 0; column < static_cast<int>(widths.size()); ++column) {
         if (builder->headerData(column, Qt::Horizontal, CSheetBuilder::columnKeyRole) == key)
             return column;
@@ -168,7 +170,7 @@ void CSuperSheetWnd::vSetColWidth(int column, int width) {
     stretchLastColumn();
 }
 
-int CSuperSheetWnd::iGetColWidth(int column) const {
+int CSuperSheetWnd::colWidth(int column) const {
     return hasColumn(column) ? columnWidth(column) : 0;
 }
 
@@ -179,7 +181,7 @@ void CSuperSheetWnd::sectionResized(int column, int size) {
     stretchLastColumn();
 }
 
-void CSuperSheetWnd::vStretchLastColumn(bool stretch) {
+void CSuperSheetWnd::stretchLast(bool stretch) {
     lastColumnStretches = stretch;
     stretchLastColumn();
 }
@@ -200,9 +202,9 @@ void CSuperSheetWnd::stretchLastColumn() {
     stretching = false;
 }
 
-void CSuperSheetWnd::vSetCells(const SheetCells* cells) {
+void CSuperSheetWnd::setCells(const SheetCells* cells) {
     if (builder != nullptr)
-        builder->vSetCells(cells);
+        builder->setCells(cells);
 }
 
 void CSuperSheetWnd::resizeEvent(QResizeEvent* event) {
@@ -211,7 +213,7 @@ void CSuperSheetWnd::resizeEvent(QResizeEvent* event) {
     if (size() == toldSize)
         return;  // only a scroll bar came or went
     toldSize = size();
-    SendRegisteredMessage(parentWidget(), RegisterMessage(QStringLiteral("RVMSG_CHANGESIZE")),
+    sendRegisteredMessage(parentWidget(), registerMessage(QStringLiteral("RVMSG_CHANGESIZE")),
                           reinterpret_cast<quintptr>(this));
 }
 
@@ -228,7 +230,7 @@ void CSuperSheetWnd::initStyleOption(QStyleOptionFrame* option) const {
     option->palette.setColor(QPalette::WindowText, frameColour.isValid() ? frameColour : faint);
 }
 
-void CSuperSheetWnd::vSetEmptyText(const QString& text) {
+void CSuperSheetWnd::setEmptyText(const QString& text) {
     emptyText = text;
     setAccessibleDescription(text);
     viewport()->update();
@@ -236,11 +238,11 @@ void CSuperSheetWnd::vSetEmptyText(const QString& text) {
 
 void CSuperSheetWnd::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
-    if (emptyText.isEmpty() || iGetRowCount() > 0)
+    if (emptyText.isEmpty() || rowCount() > 0)
         return;
     const int margin = 2 * fontMetrics().height();
     QPainter painter(viewport());
-    QColor colour = delegate->colours.Text(palette());
+    QColor colour = delegate->colours.textColour(palette());
     colour.setAlphaF(0.7F);
     painter.setPen(colour);
     painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),

@@ -9,13 +9,16 @@
 
 #include <vector>
 
+namespace wirepane {
 class SheetDelegate;
 class SheetHeader;
+
+}  // namespace wirepane
 
 // A grid of rows of one height under a header row: rows are selected whole (also several, with Shift and
 // Ctrl), and drawn only while on screen, so that a million of them cost as much as a page. Rows and columns
 // count from 0; sizes are pixels; a row or column out of range is ignored. A builder that starts over
-// (vSetRowCount, vClearRows) leaves no selection and no current row, and the sheet at its top. Where no
+// (setRowCount, clearRows) leaves no selection and no current row, and the sheet at its top. Where no
 // colour is set the palette's are used. Interface thread.
 //
 // Tells its parent by the registered message "RVMSG_CHANGESIZE" that its size changed; the first parameter is
@@ -30,61 +33,61 @@ public:
     // Puts the sheet over its builder. False without a builder.
     bool bCreateSheet();
     // Narrow scroll bars without arrows.
-    void vSetThinBar(bool thin);
+    void setThinBar(bool thin);
     // Horizontal scrolling by the pixel instead of by the column.
-    void vSetSmoothHorizontalScroll(bool smooth);
+    void setSmoothHorizontalScroll(bool smooth);
     // Heights are exact, except that they grow to the font's height + 2 where the font is taller.
-    void vSetHeaderRowHeight(int height);
-    void vSetRowHeight(int height);
+    void setHeaderRowHeight(int height);
+    void setHeightOfRows(int height);
 
     // Columns are cut at their width; the last one is stretched to the sheet's right edge when there is room,
-    // unless vStretchLastColumn says otherwise. The user can resize them.
-    void vInsertColumn(int width, Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter,
-                       const QString& key = {});
-    void vStretchLastColumn(bool stretch);
+    // unless stretchLast says otherwise. The user can resize them.
+    void insertColumn(int width, Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter,
+                      const QString& key = {});
+    void stretchLast(bool stretch);
     // The header texts are the sheet's accessible name, until another one is set.
-    void vSetHeaderText(int column, const QString& text, const QString& toolTip = {});
+    void setHeaderText(int column, const QString& text, const QString& toolTip = {});
     // The column that was inserted with the key; -1: none was.
-    int iGetColumn(const QString& key) const;
+    int column(const QString& key) const;
     // A width of 0 takes the column out of sight, and out of the user's reach.
     void vSetColWidth(int column, int width);
     // The width on screen, with what the last column was stretched by.
-    int iGetColWidth(int column) const;
+    int colWidth(int column) const;
 
-    // The source of the cells, as CSheetBuilder::vSetCells.
-    void vSetCells(const SheetCells* cells);
+    // The source of the cells, as CSheetBuilder::setCells.
+    void setCells(const wirepane::SheetCells* cells);
     // Appends empty rows.
-    void vAddRows(int count);
-    void vClearRows();
+    void addRows(int count);
+    void clearRows();
     // Rows of the source that have come before `row`, gone, or moved to row 0. The sheet takes up all of them
     // together: before it paints, before anything below reads it, at the latest in the next turn of the event
     // loop. What is selected or current stays so. The rows on screen keep their places while others come and
     // go above them; at its top the sheet shows what comes.
-    void vInsertRow(int row);
-    void vDeleteRow(int row);
-    void vMoveRowToTop(int row);
+    void insertRow(int row);
+    void deleteRow(int row);
+    void moveRowToTop(int row);
     // True in signals that come of this, and not of the user.
-    bool bIsTakingUpRows() const { return takingUp; }
-    int iGetRowCount() const;
+    bool isTakingUpRows() const { return takingUp; }
+    int rowCount() const;
     // What stands in the middle of the sheet while it has no rows.
-    void vSetEmptyText(const QString& text);
+    void setEmptyText(const QString& text);
     // The cells of a row have been written: it is drawn again.
-    void vInvalidateRow(int row);
+    void invalidateRow(int row);
     // Row 0 has the first row colour again. (A row keeps its colour while rows come and go above the others.)
-    void vResetRowBkColor();
+    void resetRowBkColor();
 
     // To the first row and the left edge.
-    void vResetScroll();
+    void resetScroll();
     // Scrolls no further than brings the row fully into sight.
     void vAutoVerScrolling(int row);
     // As far as there are rows below it.
-    void vSetFirstVisibleRow(int row);
+    void setFirstVisibleRow(int row);
     // 0 also when there are no rows.
-    int iGetFirstVisibleRow() const;
-    // What iGetFirstVisibleRow would say, without taking anything up.
-    int iGetFirstVisibleRowToCome() const;
+    int firstVisibleRow() const;
+    // What firstVisibleRow would say, without taking anything up.
+    int firstVisibleRowToCome() const;
     // The number of whole rows that fit.
-    int iGetRowsPerPage() const;
+    int rowsPerPage() const;
     // The row at a point of this widget (its header and frame included); -1 where there is none.
     int iCalcRowNdx(const QPoint& client) const;
 
@@ -92,17 +95,17 @@ public:
     bool bHasFocus() const;
     // The current cell as (column, row), kept while another window has the keyboard; (-1, -1) when there is
     // none. Getting the keyboard makes no row current: the user's first key or click does, or
-    // vSetActiveSelection.
+    // setActiveSelection.
     QPoint cptGetFocusNdx() const;
     // All selected rows, ascending; what was in `rows` goes. Costs as much as the answer is long.
     void vGetAllSelectionNdx(std::vector<int>& rows) const;
     // Selects the row alone and makes it current, without scrolling; column -1: the row as a whole.
-    void vSetActiveSelection(int row, int column);
+    void setActiveSelection(int row, int column);
     // Selects these rows, ascending or not, and no others, and makes `current` current (-1: none), without
     // scrolling.
-    void vSelectRows(std::vector<int> rows, int current);
+    void selectRows(std::vector<int> rows, int current);
     // No row is selected or current.
-    void vClearSelection();
+    void deselectRows();
 
     // An invalid colour goes back to the palette's.
     void vSetHeaderRowBkColor(const QColor& colour);
@@ -120,10 +123,10 @@ Q_SIGNALS:
     // The left button was released, was clicked twice, over the rows or below them, without Ctrl or Shift
     // (which change the selection); the sheet has acted on it. The point is one of the sheet.
     void LButtonUp(const QPoint& point);
-    void LButtonDblClk(const QPoint& point);
+    void lButtonDblClk(const QPoint& point);
     // Other rows have come on screen, because the user or code scrolled or because rows on screen went. Not
     // sent while rows come and go above those on screen, which keep their places then.
-    void ScrolledVertically();
+    void scrolledVertically();
 
 public:
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
@@ -149,15 +152,15 @@ private:
     void applyHeights();
     void keepRowColours(int firstRow, int count);
     void takeUpRows() const;
-    bool bOthersComeOnScreen() const;
+    bool mayShowOthers() const;
     void keepShownRows();
     int heightFor(int height) const;
     QString headerTexts() const;
     bool hasColumn(int column) const;
 
     CSheetBuilder* builder;
-    SheetDelegate* delegate;
-    SheetHeader* header;
+    wirepane::SheetDelegate* delegate;
+    wirepane::SheetHeader* header;
     std::vector<int> widths;  // as set or dragged, before stretching; 0: hidden
     QColor frameColour;
     QString emptyText;

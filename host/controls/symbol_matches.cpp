@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 enum Fit { exactCode, codePrefix, nameOrText, none };
@@ -20,7 +22,7 @@ Fit fitOf(QStringView item, QStringView typed) {
 
 }  // namespace
 
-std::vector<int> SymbolMatches(const QString& typed, int count, const std::function<QString(int)>& text,
+std::vector<int> symbolMatches(const QString& typed, int count, const std::function<QString(int)>& text,
                                int most) {
     const QString wanted = typed.trimmed();
     if (wanted.isEmpty())
@@ -38,3 +40,5 @@ std::vector<int> SymbolMatches(const QString& typed, int count, const std::funct
     }
     return matches;
 }
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 namespace {
 
 constexpr int extent = 8;
@@ -83,3 +85,5 @@ void ThinBarStyle::drawComplexControl(ComplexControl control, const QStyleOption
     painter->drawRoundedRect(thumb(*bar).adjusted(1, 1, -1, -1), 3, 3);
     painter->restore();
 }
+
+}  // namespace wirepane

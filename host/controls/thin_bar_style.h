@@ -6,6 +6,8 @@
 
 #include <QProxyStyle>
 
+namespace wirepane {
+
 // Thin scroll bars: no arrows, a plain groove, a thumb of the text's colour. The bars must not outlive the
 // style.
 class WIREPANE_HOST_EXPORT ThinBarStyle : public QProxyStyle {
@@ -18,3 +20,5 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
 };
+
+}  // namespace wirepane

@@ -5,23 +5,27 @@
 #include <QVariant>
 #include <QWidget>
 
+namespace wirepane {
+
 namespace {
 constexpr char idProperty[] = "windowId";
 }
 
-void SetWindowId(QWidget* control, int id) {
+void setWindowId(QWidget* control, int id) {
     control->setProperty(idProperty, id);
 }
 
-int WindowId(const QWidget* control) {
+int windowId(const QWidget* control) {
     return control->property(idProperty).toInt();
 }
 
-QWidget* GetDlgItem(const QWidget* window, int id) {
+QWidget* dlgItem(const QWidget* window, int id) {
     for (QObject* child : window->children()) {
         auto* control = qobject_cast<QWidget*>(child);
-        if (control != nullptr && WindowId(control) == id)
+        if (control != nullptr && windowId(control) == id)
             return control;
     }
     return nullptr;
 }
+
+}  // namespace wirepane

@@ -7,6 +7,8 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
+using namespace wirepane;
+
 CXTPTabControl::CXTPTabControl(QWidget* parent) : QTabBar(parent) {
     setExpanding(false);
     setDrawBase(false);
@@ -14,23 +16,23 @@ CXTPTabControl::CXTPTabControl(QWidget* parent) : QTabBar(parent) {
     setElideMode(Qt::ElideNone);
     connect(this, &QTabBar::currentChanged, this, [this](int index) {
         if (byUser)
-            emit SelChange(index);
+            emit selChange(index);
     });
 }
 
-int CXTPTabControl::iInsertTab(const QString& text, int itemData) {
+int CXTPTabControl::appendTab(const QString& text, int itemData) {
     const QSignalBlocker silent(this);
-    const int index = addTab(CaptionOfName(text));
+    const int index = addTab(captionOfName(text));
     setTabData(index, itemData);
     return index;
 }
 
-void CXTPTabControl::vSetTabText(int index, const QString& text) {
-    setTabText(index, CaptionOfName(text));
+void CXTPTabControl::showTabText(int index, const QString& text) {
+    setTabText(index, captionOfName(text));
 }
 
-QString CXTPTabControl::szGetTabText(int index) const {
-    return NameOfCaption(tabText(index));
+QString CXTPTabControl::literalTabText(int index) const {
+    return nameOfCaption(tabText(index));
 }
 
 void CXTPTabControl::SetColorSet(const TRVTabColorSet& colours) {
@@ -46,7 +48,7 @@ void CXTPTabControl::SetColorSet(const TRVTabColorSet& colours) {
     setPalette(own);
 }
 
-int CXTPTabControl::iGetItemData(int index) const {
+int CXTPTabControl::itemData(int index) const {
     return tabData(index).toInt();
 }
 

@@ -21,22 +21,22 @@ public:
     explicit CXTPTabControl(QWidget* parent = nullptr);
 
     // Appends a tab and returns its index; the first one becomes the selected one.
-    int iInsertTab(const QString& text, int itemData);
-    void vSetTabText(int index, const QString& text);
-    QString szGetTabText(int index) const;
+    int appendTab(const QString& text, int itemData);
+    void showTabText(int index, const QString& text);
+    QString literalTabText(int index) const;
     // 0 for an index out of range.
-    int iGetItemData(int index) const;
+    int itemData(int index) const;
 
     void SetColorSet(const TRVTabColorSet& colours);
 
     // The selected tab; -1 when there is none.
-    int GetCurSel() const { return currentIndex(); }
+    int curSel() const { return currentIndex(); }
     // Selects a tab: currentChanged tells of it, SelChange does not. An index out of range is ignored.
     void SetCurSel(int index);
 
 Q_SIGNALS:
     // The user selected another tab, by mouse, wheel or keys.
-    void SelChange(int index);
+    void selChange(int index);
 
 private:
     bool byUser = true;

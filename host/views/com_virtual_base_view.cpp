@@ -12,6 +12,7 @@
 #include <QPalette>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 namespace {
 
@@ -26,34 +27,34 @@ int g_iGetFontHeight(const QFont& font) {
 
 RVComVirtualBaseView::RVComVirtualBaseView(QWidget* parent) : TRVVirtualBaseView(parent) {
     InitFont();
-    vTakeColours();
+    takeColours();
 }
 
 void RVComVirtualBaseView::InitFont() {
     viewFont = CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont();
 }
 
-void RVComVirtualBaseView::vTakeColours() {
-    colBackground = HostColour(u"COLOR_LISTCTL_BACKGROUND"_s, QApplication::palette().color(QPalette::Base));
-    colText = HostColour(u"COLOR_LISTCTL_NORMALTEXT"_s, QApplication::palette().color(QPalette::Text));
+void RVComVirtualBaseView::takeColours() {
+    colBackground = hostColour(u"COLOR_LISTCTL_BACKGROUND"_s, QApplication::palette().color(QPalette::Base));
+    colText = hostColour(u"COLOR_LISTCTL_NORMALTEXT"_s, QApplication::palette().color(QPalette::Text));
 }
 
 void RVComVirtualBaseView::GetCaption(QString& caption) {
     caption.clear();
 }
 
-void RVComVirtualBaseView::vSetTitleShown(bool shown) {
+void RVComVirtualBaseView::setTitleShown(bool shown) {
     titleShown = shown;
     update();
 }
 
-int RVComVirtualBaseView::iGetTitleHeight() const {
+int RVComVirtualBaseView::titleHeight() const {
     return titleShown ? g_iGetFontHeight(viewFont) + titleMargin : 0;
 }
 
 void RVComVirtualBaseView::vChangeCast() {
     InitFont();
-    vTakeColours();
+    takeColours();
     update();
 }
 
@@ -67,25 +68,25 @@ bool RVComVirtualBaseView::OnEraseBkgnd(QPainter& painter) {
 }
 
 void RVComVirtualBaseView::OnDraw(QPainter& painter) {
-    vDrawTitle(painter);
-    vDrawFrameBorder(painter);
+    drawTitle(painter);
+    drawFrameBorder(painter);
 }
 
-void RVComVirtualBaseView::vDrawTitle(QPainter& painter) {
+void RVComVirtualBaseView::drawTitle(QPainter& painter) {
     if (!titleShown)
         return;
     QString caption;
     GetCaption(caption);
-    const QRect band(0, 0, width(), iGetTitleHeight());
-    painter.fillRect(band, HostColour(u"COLOR_LISTCTL_HDBkCOLOR1"_s, palette().color(QPalette::Button)));
+    const QRect band(0, 0, width(), titleHeight());
+    painter.fillRect(band, hostColour(u"COLOR_LISTCTL_HDBkCOLOR1"_s, palette().color(QPalette::Button)));
     painter.setFont(viewFont);
-    painter.setPen(HostColour(u"COLOR_LISTCTL_HDTEXTCOLOR1"_s, palette().color(QPalette::ButtonText)));
+    painter.setPen(hostColour(u"COLOR_LISTCTL_HDTEXTCOLOR1"_s, palette().color(QPalette::ButtonText)));
     painter.drawText(band.adjusted(textMargin, 0, -textMargin, 0), Qt::AlignVCenter | Qt::TextSingleLine,
                      caption);
 }
 
-void RVComVirtualBaseView::vDrawFrameBorder(QPainter& painter) {
-    painter.setPen(HostColour(u"COLOR_LISTCTL_HDBkCOLOR1"_s, palette().color(QPalette::Mid)));
+void RVComVirtualBaseView::drawFrameBorder(QPainter& painter) {
+    painter.setPen(hostColour(u"COLOR_LISTCTL_HDBkCOLOR1"_s, palette().color(QPalette::Mid)));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

@@ -29,10 +29,10 @@ public:
     virtual void GetCaption(QString& caption);
 
     // The title band at the top of the client area; off unless the host wants it.
-    void vSetTitleShown(bool shown);
-    bool bIsTitleShown() const { return titleShown; }
+    void setTitleShown(bool shown);
+    bool isTitleShown() const { return titleShown; }
     // Height of the title band in pixels: the title font's height plus 5; 0 when it is not shown.
-    int iGetTitleHeight() const;
+    int titleHeight() const;
 
     // A change of the host's colours or font: reads both again and repaints.
     virtual void vChangeCast();
@@ -45,8 +45,8 @@ protected:
     virtual void OnDraw(QPainter& painter);
     // Parts of it. The title is the caption on a band; the border frames the client area; the picture says
     // that the view has nothing to show for its symbol.
-    void vDrawTitle(QPainter& painter);
-    void vDrawFrameBorder(QPainter& painter);
+    void drawTitle(QPainter& painter);
+    void drawFrameBorder(QPainter& painter);
     virtual void vNotSupportSymbol(QPainter& painter);
     // Asks for the pending layout to be done before painting.
     void SendPaintLayout();
@@ -58,7 +58,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void vTakeColours();
+    void takeColours();
 
     QFont viewFont;
     bool titleShown = false;

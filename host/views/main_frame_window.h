@@ -12,7 +12,7 @@ public:
     virtual ~CMainFrame();
 
     // The window that the story window belongs to, which outlives it.
-    virtual QWidget* pGetWindow() = 0;
+    virtual QWidget* frameWindow() = 0;
     // The user has closed the story window; it can be shown again.
-    virtual void OnStoryWindowClosed() {}
+    virtual void onStoryWindowClosed() {}
 };

@@ -9,6 +9,8 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // What decides whether a headline stands in a list of a news view, in the order in which it is asked.
 enum class StandingCheck {
     Told,     // the back end gives it out: not what it holds back as dated after the present moment
@@ -47,7 +49,9 @@ public:
     virtual ~HeadlineExplainer();
 
     // Shows one list after another, and then the one that was on show: a list is read when it is shown.
-    virtual void ShowEachList() = 0;
+    virtual void showEachList() = 0;
     // By the lists that the view has, in their order. Changes nothing, but reads tables of the back end.
-    virtual std::vector<HeadlineStanding> Explain(const HeadlineKey& key) const = 0;
+    virtual std::vector<HeadlineStanding> explain(const HeadlineKey& key) const = 0;
 };
+
+}  // namespace wirepane

@@ -8,13 +8,18 @@
 #include <QObject>
 #include <QPluginLoader>
 
+using namespace wirepane;
+
 // Their type information stands here alone, for the host as for the module.
 CMainFrame::~CMainFrame() = default;
+
+namespace wirepane {
+
 NewsStoryWindow::~NewsStoryWindow() = default;
 NewsModule::~NewsModule() = default;
 NewsViewAccess::~NewsViewAccess() = default;
 
-NewsModule* LoadNewsModule(const QString& file, QString& error) {
+NewsModule* loadNewsModule(const QString& file, QString& error) {
     QPluginLoader loader(QFileInfo(file).absoluteFilePath());
     QObject* plugin = loader.instance();
     if (plugin == nullptr) {
@@ -26,3 +31,5 @@ NewsModule* LoadNewsModule(const QString& file, QString& error) {
         error = QStringLiteral("%1 is not a news module of this version").arg(file);
     return module;
 }
+
+}  // namespace wirepane

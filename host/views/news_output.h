@@ -4,6 +4,8 @@
 
 #include <QString>
 
+namespace wirepane {
+
 // What a news module is told, and tells, about printing and saving.
 
 // How a file of saved news holds its characters.
@@ -29,3 +31,5 @@ struct NewsOutcome {
     bool failed = false;
     QString message;  // a sentence for the user, with the file's name; empty: nothing to tell
 };
+
+}  // namespace wirepane

@@ -5,26 +5,28 @@
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/misuse.h"
 
+using namespace wirepane;
+
 TRVQuoteBaseView::TRVQuoteBaseView(QWidget* parent) : RVComVirtualBaseView(parent) {}
 
 TRVQuoteBaseView::~TRVQuoteBaseView() {
     if (auto* backEnd = BKQuoteInterface::GetBKInterface())
-        backEnd->Detach(this);
+        backEnd->detach(this);
 }
 
 void TRVQuoteBaseView::OnInitialUpdate() {
     RVComVirtualBaseView::OnInitialUpdate();
     if (auto* backEnd = BKQuoteInterface::GetBKInterface())
-        backEnd->Attach(this);
+        backEnd->attach(this);
 }
 
 void TRVQuoteBaseView::InitialViewInfo(TRVCfgIO2* reader, const QString& section, int first, int second,
                                        const QString& name) {
-    RequireInterfaceThread("TRVQuoteBaseView::InitialViewInfo");
-    RequireOfHost(reader != nullptr,
+    requireInterfaceThread("TRVQuoteBaseView::InitialViewInfo");
+    requireOfHost(reader != nullptr,
                   "TRVQuoteBaseView::InitialViewInfo was given no reader of settings: give it an "
                   "object that stays, such as a MemoryCfgIO.");
-    RequireOfHost(settingsReader == nullptr,
+    requireOfHost(settingsReader == nullptr,
                   "TRVQuoteBaseView::InitialViewInfo was called twice on one view.");
     settingsReader = reader;
     settingsPath = {section, first, second, name};
@@ -57,10 +59,10 @@ int TRVQuoteBaseView::bIsAuthService(unsigned char service) {
 void C_RegisterSymbol(TRVQuoteBaseView* view, const std::vector<CSymbolInfo>& added,
                       const std::vector<CSymbolInfo>& removed) {
     if (auto* backEnd = BKQuoteInterface::GetBKInterface())
-        backEnd->RegisterSymbols(view, added, removed);
+        backEnd->registerSymbols(view, added, removed);
 }
 
 void C_UnRegisterSymbol(TRVQuoteBaseView* view) {
     if (auto* backEnd = BKQuoteInterface::GetBKInterface())
-        backEnd->UnregisterSymbols(view);
+        backEnd->unregisterSymbols(view);
 }

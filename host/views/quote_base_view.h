@@ -9,12 +9,16 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // Whether a view has something to show.
 enum class DataState : int { Normal = 0, NotSupported = 1 };
 
+}  // namespace wirepane
+
 // A view of quotes or news: it hears the back end, has a current symbol and a link group, and keeps settings.
 // It attaches itself to the installed back end in OnInitialUpdate and detaches when it is destroyed.
-class WIREPANE_HOST_EXPORT TRVQuoteBaseView : public RVComVirtualBaseView, public NewsReceiver {
+class WIREPANE_HOST_EXPORT TRVQuoteBaseView : public RVComVirtualBaseView, public wirepane::NewsReceiver {
     Q_OBJECT
 
 public:
@@ -43,19 +47,19 @@ public:
     virtual void vUnregisterViewSymbol();
 
     // Views of one link group follow one symbol; 0: not linked.
-    void vSetLinkGroup(unsigned char group) { linkGroup = group; }
-    unsigned char GetLinkGroup() const { return linkGroup; }
+    void setLinkGroup(unsigned char group) { linkGroup = group; }
+    unsigned char linkedGroup() const { return linkGroup; }
 
     // What kind of view the host made of the class; set before InitialViewInfo.
-    void vSetTypeName(const QString& name) { typeName = name; }
-    const QString& cszGetTypeName() const { return typeName; }
+    void setTypeName(const QString& name) { typeName = name; }
+    const QString& viewTypeName() const { return typeName; }
 
     // The host's wish that pop-up windows of the view follow the application's activation also where they are
     // kept on top.
-    void vSetPopupFollowsApplication(bool follows) { popupFollowsApplication = follows; }
-    bool bPopupFollowsApplication() const { return popupFollowsApplication; }
+    void setPopupFollowsApplication(bool follows) { popupFollowsApplication = follows; }
+    bool doesPopupFollowApplication() const { return popupFollowsApplication; }
 
-    DataState GetDataState() const { return dataState; }
+    wirepane::DataState currentDataState() const { return dataState; }
 
     // 1 when the user may see this service.
     static int bIsAuthService(unsigned char service);
@@ -65,22 +69,22 @@ Q_SIGNALS:
     void SendChangeSymbol(unsigned char group, unsigned char service, const QString& code);
     // The view has something to tell the user that does not go by itself: a sentence, such as why a file
     // could not be written.
-    void MessageForUser(const QString& sentence);
+    void messageForUser(const QString& sentence);
 
 protected:
-    void vSetDataState(DataState state) { dataState = state; }
-    void vSetBaseSymbol(const CSymbolInfo& symbol) { baseSymbol = symbol; }
+    void setDataState(wirepane::DataState state) { dataState = state; }
+    void setBaseSymbol(const CSymbolInfo& symbol) { baseSymbol = symbol; }
 
     // Where the settings stand and who reads them; valid from InitialViewInfo on. The reader is the host's.
     TRVCfgIO2* settingsReader = nullptr;
-    ViewSettingPath settingsPath;
+    wirepane::ViewSettingPath settingsPath;
 
 private:
     CSymbolInfo baseSymbol;
     QString typeName;
     unsigned char linkGroup = 0;
     bool popupFollowsApplication = false;
-    DataState dataState = DataState::Normal;
+    wirepane::DataState dataState = wirepane::DataState::Normal;
 };
 
 // Real-time distribution by the installed back end; without one nothing happens.

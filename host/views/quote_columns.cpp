@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <numeric>
 
+namespace wirepane {
+
 namespace {
 
 int& widthOf(QuoteWidths& widths, QuoteColumn column) {
@@ -17,7 +19,7 @@ int sumOf(const QuoteWidths& widths) {
 
 }  // namespace
 
-QuoteWidths FitQuoteColumns(const QuoteWidths& wanted, int box) {
+QuoteWidths fitQuoteColumns(const QuoteWidths& wanted, int box) {
     QuoteWidths widths = wanted;
     box = std::max(0, box);
     int& name = widthOf(widths, QuoteColumn::Name);
@@ -35,3 +37,5 @@ QuoteWidths FitQuoteColumns(const QuoteWidths& wanted, int box) {
     widthOf(widths, name > 0 ? QuoteColumn::Name : QuoteColumn::Code) += box - sumOf(widths);
     return widths;
 }
+
+}  // namespace wirepane

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/views/quote_flashes.h"
 
+namespace wirepane {
+
 namespace {
 constexpr int ticksOfFlash = 3;
 }
@@ -22,3 +24,5 @@ std::vector<CSymbolInfo> QuoteFlashes::tick() {
     }
     return over;
 }
+
+}  // namespace wirepane

@@ -9,6 +9,8 @@
 
 #include <vector>
 
+namespace wirepane {
+
 // Which quotes have changed just now. A flash lasts some ticks of the list's timer; a tick costs as much as
 // there are flashes.
 class WIREPANE_HOST_EXPORT QuoteFlashes {
@@ -23,3 +25,5 @@ public:
 private:
     QHash<CSymbolInfo, int> ticksLeft;
 };
+
+}  // namespace wirepane

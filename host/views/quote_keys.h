@@ -4,6 +4,8 @@
 
 #include <QLatin1StringView>
 
+namespace wirepane {
+
 // The language keys of quote lists.
 namespace quote_keys {
 
@@ -15,3 +17,5 @@ inline constexpr QLatin1StringView percent{"IDS_QUOTE-LIST_PERCENT"};
 inline constexpr QLatin1StringView volume{"IDS_QUOTE-LIST_VOLUME"};
 
 }  // namespace quote_keys
+
+}  // namespace wirepane

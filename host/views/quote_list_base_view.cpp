@@ -19,6 +19,7 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using namespace wirepane;
 
 namespace {
 
@@ -58,7 +59,7 @@ QuoteListBaseView::QuoteListBaseView(QWidget* parent) : TRVQuoteBaseView(parent)
 
 QuoteListBaseView::~QuoteListBaseView() {
     if (sheet != nullptr)
-        sheet->vSetCells(nullptr);
+        sheet->setCells(nullptr);
 }
 
 // --- Creation ---
@@ -74,24 +75,24 @@ bool QuoteListBaseView::CreateView(QWidget* parent, const QString& name, int fir
         return false;
     }
     sheet = made;
-    sheet->vSetThinBar(CSyncInfo::GetSettingCFG()->CApi_GetThinBarStatus());
+    sheet->setThinBar(CSyncInfo::GetSettingCFG()->CApi_GetThinBarStatus());
     sheet->setFrameStyle(QFrame::NoFrame);
     sheet->setSelectionMode(QAbstractItemView::SingleSelection);
-    sheet->vSetHeaderRowHeight(rowHeight);
-    sheet->vSetRowHeight(rowHeight);
-    sheet->vSetCells(this);
+    sheet->setHeaderRowHeight(rowHeight);
+    sheet->setHeightOfRows(rowHeight);
+    sheet->setCells(this);
     sheet->installEventFilter(this);
     sheet->viewport()->installEventFilter(this);
     show();
     return true;
 }
 
-void QuoteListBaseView::vSetUpColumns(int nameCharacters) {
+void QuoteListBaseView::setUpColumns(int nameCharacters) {
     nameRoom = nameCharacters;
     if (sheet == nullptr)
         return;
     for (const QuoteColumnKind& kind : columnKinds)
-        sheet->vInsertColumn(1, kind.alignment);
+        sheet->insertColumn(1, kind.alignment);
     QHeaderView* header = sheet->horizontalHeader();
     header->setSortIndicator(-1, Qt::AscendingOrder);
     header->setSortIndicatorShown(true);
@@ -101,12 +102,12 @@ void QuoteListBaseView::vSetUpColumns(int nameCharacters) {
         std::optional<QuoteTable::Sorting> sorting;
         if (column >= 0)
             sorting = {static_cast<QuoteColumn>(column), order == Qt::DescendingOrder};
-        vReorder([&] { table.sortBy(sorting); });
+        reorder([&] { table.sortBy(sorting); });
         sheet->vAutoVerScrolling(sheet->cptGetFocusNdx().y());
     });
     connect(sheet->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
         if (!focusByCode && !mouseDown)
-            vAnnounceFocus();
+            announceFocus();
     });
     vLoadLanguageString();
     vChangeCast();
@@ -116,10 +117,10 @@ void QuoteListBaseView::vLoadLanguageString() {
     if (sheet == nullptr)
         return;
     for (int column = 0; column < quoteColumns; ++column)
-        sheet->vSetHeaderText(column, LangText(columnKinds.at(static_cast<std::size_t>(column)).headerKey));
+        sheet->setHeaderText(column, langText(columnKinds.at(static_cast<std::size_t>(column)).headerKey));
     for (int row = 0; row < table.size(); ++row)
-        vLoadName(row);
-    vFitColumns();
+        loadName(row);
+    fitColumns();
     update();
 }
 
@@ -133,76 +134,76 @@ void QuoteListBaseView::vChangeCast() {
     TRVQuoteBaseView::vChangeCast();
     const bool dark = colBackground.lightness() < 128;
     riseColour =
-        HostColour(u"COLOR_QUOTE_RISE"_s, dark ? QColor(0xFF, 0x7B, 0x7B) : QColor(0xC0, 0x26, 0x26));
+        hostColour(u"COLOR_QUOTE_RISE"_s, dark ? QColor(0xFF, 0x7B, 0x7B) : QColor(0xC0, 0x26, 0x26));
     fallColour =
-        HostColour(u"COLOR_QUOTE_FALL"_s, dark ? QColor(0x4C, 0xC3, 0x8A) : QColor(0x14, 0x74, 0x3A));
+        hostColour(u"COLOR_QUOTE_FALL"_s, dark ? QColor(0x4C, 0xC3, 0x8A) : QColor(0x14, 0x74, 0x3A));
     if (sheet == nullptr)
         return;
-    ApplyHostScheme(*sheet, GetViewFont());
-    vLayOut();
-    vFitColumns();
+    applyHostScheme(*sheet, GetViewFont());
+    layOut();
+    fitColumns();
 }
 
 // --- Layout and painting ---
 
 void QuoteListBaseView::resizeEvent(QResizeEvent* event) {
     TRVQuoteBaseView::resizeEvent(event);
-    vLayOut();
+    layOut();
 }
 
-void QuoteListBaseView::vLayOut() {
+void QuoteListBaseView::layOut() {
     if (sheet != nullptr)
-        sheet->setGeometry(rect().adjusted(1, 1 + iGetTitleHeight(), -1, -1));
+        sheet->setGeometry(rect().adjusted(1, 1 + titleHeight(), -1, -1));
 }
 
-void QuoteListBaseView::vFitColumns() {
+void QuoteListBaseView::fitColumns() {
     const QFontMetrics metrics(GetViewFont());
     const int character = metrics.horizontalAdvance(u'0');
     QuoteWidths wanted{};
     for (std::size_t column = 0; column < wanted.size(); ++column) {
         const QuoteColumnKind& kind = columnKinds.at(column);
         const int characters = kind.characters > 0 ? kind.characters : nameRoom;
-        const int header = metrics.horizontalAdvance(LangText(kind.headerKey)) + sortMarkRoom;
+        const int header = metrics.horizontalAdvance(langText(kind.headerKey)) + sortMarkRoom;
         wanted.at(column) = std::max(characters * character, header) + cellMargins;
     }
-    const QuoteWidths widths = FitQuoteColumns(wanted, sheet->viewport()->width());
+    const QuoteWidths widths = fitQuoteColumns(wanted, sheet->viewport()->width());
     for (int column = 0; column < quoteColumns; ++column)
         sheet->vSetColWidth(column, widths.at(static_cast<std::size_t>(column)));
 }
 
 void QuoteListBaseView::OnDraw(QPainter& painter) {
-    if (GetDataState() == DataState::NotSupported)
+    if (currentDataState() == DataState::NotSupported)
         vNotSupportSymbol(painter);
     TRVQuoteBaseView::OnDraw(painter);
 }
 
 void QuoteListBaseView::vNotSupportSymbol(QPainter& painter) {
     constexpr int margin = 8;
-    const QRect area = rect().adjusted(0, iGetTitleHeight(), 0, 0);
+    const QRect area = rect().adjusted(0, titleHeight(), 0, 0);
     QColor faint = colText;
     faint.setAlpha(160);
     painter.fillRect(area, colBackground);
     painter.setFont(GetViewFont());
     painter.setPen(faint);
     painter.drawText(area.adjusted(margin, margin, -margin, -margin), Qt::AlignCenter | Qt::TextWordWrap,
-                     cszGetNotice());
+                     notice());
 }
 
-QString QuoteListBaseView::Text(int row, int column) const {
-    return row < table.size() ? TextOf(table.at(row), static_cast<QuoteColumn>(column)) : QString();
+QString QuoteListBaseView::text(int row, int column) const {
+    return row < table.size() ? textOf(table.at(row), static_cast<QuoteColumn>(column)) : QString();
 }
 
-QColor QuoteListBaseView::TextColour(int row, int column) const {
+QColor QuoteListBaseView::textColour(int row, int column) const {
     const auto kind = static_cast<QuoteColumn>(column);
     const bool coloured =
         kind == QuoteColumn::Last || kind == QuoteColumn::Change || kind == QuoteColumn::Percent;
-    const int direction = coloured && row < table.size() ? DirectionOf(table.at(row)) : 0;
+    const int direction = coloured && row < table.size() ? directionOf(table.at(row)) : 0;
     if (direction == 0)
         return {};
     return direction > 0 ? riseColour : fallColour;
 }
 
-QColor QuoteListBaseView::Highlight(int row, int column) const {
+QColor QuoteListBaseView::highlight(int row, int column) const {
     constexpr int strength = 70;
     if (column < static_cast<int>(QuoteColumn::Last) || row >= table.size() ||
         !flashes.isFlashing(table.at(row).symbol))
@@ -213,7 +214,7 @@ QColor QuoteListBaseView::Highlight(int row, int column) const {
 }
 
 // Rows that are not on screen cost nothing.
-void QuoteListBaseView::vRepaintRow(int row) {
+void QuoteListBaseView::repaintRow(int row) {
     const QRect place(0, sheet->rowViewportPosition(row), sheet->viewport()->width(), sheet->rowHeight(row));
     if (place.intersects(sheet->viewport()->rect()))
         sheet->viewport()->update(place);
@@ -221,19 +222,19 @@ void QuoteListBaseView::vRepaintRow(int row) {
 
 // --- Symbols ---
 
-void QuoteListBaseView::vSetSymbols(const std::vector<CSymbolInfo>& symbols) {
-    vFillRows(symbols);
-    vShowState(symbols.empty() ? DataState::NotSupported : DataState::Normal);
+void QuoteListBaseView::setSymbols(const std::vector<CSymbolInfo>& symbols) {
+    fillRows(symbols);
+    showState(symbols.empty() ? DataState::NotSupported : DataState::Normal);
 }
 
-void QuoteListBaseView::vClearSymbols() {
-    vFillRows({});
-    vShowState(DataState::Normal);
+void QuoteListBaseView::clearSymbols() {
+    fillRows({});
+    showState(DataState::Normal);
 }
 
 // The grid gives way to the notice, and the keyboard stays here meanwhile.
-void QuoteListBaseView::vShowState(DataState state) {
-    vSetDataState(state);
+void QuoteListBaseView::showState(DataState state) {
+    setDataState(state);
     update();
     if (sheet == nullptr)
         return;
@@ -244,33 +245,33 @@ void QuoteListBaseView::vShowState(DataState state) {
         sheet->setFocus();
 }
 
-void QuoteListBaseView::vFillRows(const std::vector<CSymbolInfo>& symbols) {
+void QuoteListBaseView::fillRows(const std::vector<CSymbolInfo>& symbols) {
     const std::vector<CSymbolInfo> before = table.symbols();
     if (sheet == nullptr || before == symbols)
         return;
-    vTakeUpMemory();
+    takeUpMemory();
     CSymbolInfo focused;
     vGetFocusSymbol(focused);
     table.setSymbols(symbols);
     for (int row = 0; row < table.size(); ++row) {
         if (table.at(row).name.isEmpty())
-            vLoadName(row);
+            loadName(row);
     }
     table.resort();
-    sheet->vClearRows();
-    sheet->vAddRows(table.size());
-    vFocusRow(table.rowOf(focused));
+    sheet->clearRows();
+    sheet->addRows(table.size());
+    focusRow(table.rowOf(focused));
     const std::vector<CSymbolInfo> now = table.symbols();
     if (distributing)
         C_RegisterSymbol(registrant, without(now, before), without(before, now));
 }
 
-void QuoteListBaseView::vLoadName(int row) {
+void QuoteListBaseView::loadName(int row) {
     auto* backEnd = BKQuoteInterface::GetBKInterface();
     if (backEnd == nullptr)
         return;
     const CSymbolInfo& symbol = table.at(row).symbol;
-    const auto name = SymbolName(*backEnd, symbol);
+    const auto name = symbolName(*backEnd, symbol);
     if (!name)
         return;
     QString shown = *name;
@@ -284,8 +285,8 @@ void QuoteListBaseView::vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& up
         const int row = table.rowOf({update.service, update.code});
         if (row < 0)
             continue;
-        vLoadName(row);
-        vRepaintRow(row);
+        loadName(row);
+        repaintRow(row);
     }
 }
 
@@ -314,7 +315,7 @@ void QuoteListBaseView::vRecvNewMemory(const CQuoteMemory* quote) {
         this,
         [this] {
             takeUpPosted = false;
-            vTakeUpMemory();
+            takeUpMemory();
         },
         Qt::QueuedConnection);
 }
@@ -328,12 +329,12 @@ void QuoteListBaseView::vRecvMultiSymbolMemoryRecovery(const std::vector<CQuoteM
         vRecvNewMemory(&quote);
 }
 
-void QuoteListBaseView::vTakeUpMemory() {
+void QuoteListBaseView::takeUpMemory() {
     for (const CQuoteMemory& quote : std::exchange(pending, {}))
         vShow(quote);
 }
 
-bool QuoteListBaseView::bAnimates() const {
+bool QuoteListBaseView::animates() const {
     return isVisible() && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
 }
 
@@ -341,14 +342,14 @@ void QuoteListBaseView::vShow(const CQuoteMemory& quote) {
     const auto update = table.update(quote);
     if (!update)
         return;
-    if (!update->first && bAnimates())
+    if (!update->first && animates())
         flashes.start(quote.symbol);
     // One timer ends all flashes, and brings rows that have moved to their places.
     if (!flashes.isEmpty() || table.isStale()) {
-        if (RunningTimers().empty())
-            SetTimer(flashTimer, flashTickMs);
+        if (runningTimers().empty())
+            setTimer(flashTimer, flashTickMs);
     }
-    vRepaintRow(update->row);
+    repaintRow(update->row);
 }
 
 void QuoteListBaseView::OnTimer(int id) {
@@ -357,43 +358,43 @@ void QuoteListBaseView::OnTimer(int id) {
         return;
     for (const CSymbolInfo& symbol : flashes.tick()) {
         if (const int row = table.rowOf(symbol); row >= 0)
-            vRepaintRow(row);
+            repaintRow(row);
     }
     if (table.isStale())
-        vReorder([this] { table.resort(); });
+        reorder([this] { table.resort(); });
     if (flashes.isEmpty())
-        KillTimer(flashTimer);
+        endTimer(flashTimer);
 }
 
-const QuoteTable& QuoteListBaseView::GetTable() {
-    vTakeUpMemory();
+const QuoteTable& QuoteListBaseView::quoteTable() {
+    takeUpMemory();
     if (table.isStale())
-        vReorder([this] { table.resort(); });
+        reorder([this] { table.resort(); });
     return table;
 }
 
 // --- Order, focus, selection ---
 
 template <class Reorder>
-void QuoteListBaseView::vReorder(Reorder reorder) {
+void QuoteListBaseView::reorder(Reorder reorder) {
     CSymbolInfo focused;
     vGetFocusSymbol(focused);
     reorder();
-    vFocusRow(table.rowOf(focused));
+    focusRow(table.rowOf(focused));
     sheet->viewport()->update();
 }
 
-void QuoteListBaseView::vFocusRow(int row) {
+void QuoteListBaseView::focusRow(int row) {
     if (sheet == nullptr || row < 0 || row == sheet->cptGetFocusNdx().y())
         return;
     const QScopedValueRollback byCode(focusByCode, true);
-    sheet->vSetActiveSelection(row, -1);
+    sheet->setActiveSelection(row, -1);
 }
 
-void QuoteListBaseView::vResetSelection() {
+void QuoteListBaseView::resetSelection() {
     const QScopedValueRollback byCode(focusByCode, true);
     if (sheet != nullptr)
-        sheet->vClearSelection();
+        sheet->deselectRows();
 }
 
 void QuoteListBaseView::vGetFocusSymbol(CSymbolInfo& symbol) const {
@@ -401,27 +402,27 @@ void QuoteListBaseView::vGetFocusSymbol(CSymbolInfo& symbol) const {
     symbol = row >= 0 && row < table.size() ? table.at(row).symbol : CSymbolInfo{};
 }
 
-void QuoteListBaseView::vAnnounceFocus() {
+void QuoteListBaseView::announceFocus() {
     CSymbolInfo symbol;
     vGetFocusSymbol(symbol);
     if (symbol.market != 0)
-        emit SendChangeSymbol(GetLinkGroup(), symbol.market, symbol.code);
+        emit SendChangeSymbol(linkedGroup(), symbol.market, symbol.code);
 }
 
 void QuoteListBaseView::ChangeSymbol(const QWidget* sender, unsigned char group, unsigned char service,
                                      const QString& code, const QString& name) {
     TRVQuoteBaseView::ChangeSymbol(sender, group, service, code, name);
-    vFocusRow(table.rowOf({service, code}));
+    focusRow(table.rowOf({service, code}));
 }
 
-void QuoteListBaseView::vSortBy(QuoteColumn column) {
+void QuoteListBaseView::sortBy(QuoteColumn column) {
     const auto& now = table.sorting();
     const bool same = now && now->column == column;
     const bool cleared = same && now->descending;
-    vSetSorting(cleared ? std::nullopt : std::optional(QuoteTable::Sorting{column, same}));
+    setSorting(cleared ? std::nullopt : std::optional(QuoteTable::Sorting{column, same}));
 }
 
-void QuoteListBaseView::vSetSorting(const std::optional<QuoteTable::Sorting>& sorting) {
+void QuoteListBaseView::setSorting(const std::optional<QuoteTable::Sorting>& sorting) {
     if (sheet == nullptr)
         return;
     // The header tells of its change.
@@ -430,14 +431,14 @@ void QuoteListBaseView::vSetSorting(const std::optional<QuoteTable::Sorting>& so
         sorting && sorting->descending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
-bool QuoteListBaseView::OnSheetKey(int key) {
+bool QuoteListBaseView::onSheetKey(int key) {
     if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-        vAnnounceFocus();
+        announceFocus();
         return true;
     }
     if (key < Qt::Key_1 || key >= Qt::Key_1 + quoteColumns)
         return false;
-    vSortBy(static_cast<QuoteColumn>(key - Qt::Key_1));
+    sortBy(static_cast<QuoteColumn>(key - Qt::Key_1));
     return true;
 }
 
@@ -445,19 +446,19 @@ bool QuoteListBaseView::eventFilter(QObject* watched, QEvent* event) {
     if (watched == sheet && event->type() == QEvent::KeyPress) {
         const auto* press = static_cast<const QKeyEvent*>(event);
         const bool plain = (press->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-        return plain && OnSheetKey(press->key());
+        return plain && onSheetKey(press->key());
     }
     if (sheet == nullptr || watched != sheet->viewport())
         return TRVQuoteBaseView::eventFilter(watched, event);
     if (event->type() == QEvent::Resize) {
-        vFitColumns();
+        fitColumns();
     } else if (event->type() == QEvent::MouseButtonPress) {
         mouseDown = true;
     } else if (event->type() == QEvent::MouseButtonRelease) {
         const auto* release = static_cast<const QMouseEvent*>(event);
         mouseDown = false;
         if (release->button() == Qt::LeftButton && sheet->rowAt(release->position().toPoint().y()) >= 0)
-            vAnnounceFocus();
+            announceFocus();
     }
     return false;
 }

@@ -19,10 +19,10 @@ class CSuperSheetWnd;
 // not at all; the focused row and the selection stay with their symbol. The columns always fit the list's
 // width.
 //
-// The list is created with CreateView and filled with vSetSymbols, which registers the symbols for real-time
+// The list is created with CreateView and filled with setSymbols, which registers the symbols for real-time
 // distribution. Updates gather and are shown together in the next turn of the event loop. A row that the user
 // focuses by mouse or keyboard is announced by SendChangeSymbol; one that code focuses is not.
-class WIREPANE_HOST_EXPORT QuoteListBaseView : public TRVQuoteBaseView, private SheetCells {
+class WIREPANE_HOST_EXPORT QuoteListBaseView : public TRVQuoteBaseView, private wirepane::SheetCells {
     Q_OBJECT
 
 public:
@@ -33,38 +33,38 @@ public:
     // numbers are kept. Once. False: the grid could not be made.
     virtual bool CreateView(QWidget* parent, const QString& name, int first, int second);
     // Sets up the columns; names of this many characters have room before anything is narrowed.
-    void vSetUpColumns(int nameCharacters);
+    void setUpColumns(int nameCharacters);
 
     // Lists these symbols; a symbol that stays keeps its quote, and the focus. An empty list says that there
     // is nothing to show (DataState::NotSupported).
-    void vSetSymbols(const std::vector<CSymbolInfo>& symbols);
+    void setSymbols(const std::vector<CSymbolInfo>& symbols);
     // Empties the list without saying anything.
-    void vClearSymbols();
+    void clearSymbols();
     // Drops the updates that have come and are not shown yet.
     void vClearAllMemoryUpdate() { pending.clear(); }
     // Shows them now.
-    void vTakeUpMemory();
-    int iGetRowCount() const { return table.size(); }
+    void takeUpMemory();
+    int rowCount() const { return table.size(); }
     // As shown, with every update that has come.
-    const QuoteTable& GetTable();
+    const wirepane::QuoteTable& quoteTable();
     // The symbol of the focused row; an empty one when no row is.
     void vGetFocusSymbol(CSymbolInfo& symbol) const;
     // Up, down, not at all: as a click on the column's header.
-    void vSortBy(QuoteColumn column);
-    // As the user left it: GetTable().sorting(). After vSetUpColumns.
-    void vSetSorting(const std::optional<QuoteTable::Sorting>& sorting);
+    void sortBy(wirepane::QuoteColumn column);
+    // As the user left it: GetTable().sorting(). After setUpColumns.
+    void setSorting(const std::optional<wirepane::QuoteTable::Sorting>& sorting);
     // Null before CreateView.
-    CSuperSheetWnd* pGetSheet() const { return sheet; }
+    CSuperSheetWnd* quoteSheet() const { return sheet; }
 
     // Who is registered with the back end and hears the quotes: the list itself, or a view that hands on to
     // it what it hears. Not owned; outlives the list or is its parent. Set it before symbols are listed.
-    void vSetRegistrant(TRVQuoteBaseView* view) { registrant = view; }
+    void setRegistrant(TRVQuoteBaseView* view) { registrant = view; }
 
-    void vRecvNewMemory(const CQuoteMemory* quote) override;
-    void vRecvMemoryRecovery(const CQuoteMemory* quote) override;
-    void vRecvMultiSymbolMemoryRecovery(const std::vector<CQuoteMemory>& quotes) override;
+    void vRecvNewMemory(const wirepane::CQuoteMemory* quote) override;
+    void vRecvMemoryRecovery(const wirepane::CQuoteMemory* quote) override;
+    void vRecvMultiSymbolMemoryRecovery(const std::vector<wirepane::CQuoteMemory>& quotes) override;
     // Names may have changed.
-    void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) override;
+    void vDoSymbolUpdate(const std::vector<wirepane::CSymbolUpdateInfo>& updates) override;
     void vReRegisterSymbols() override;
     void vUnregisterViewSymbol() override;
     // The row of the symbol, where it is listed, is focused.
@@ -76,9 +76,9 @@ protected:
     virtual void vLoadLanguageString();
     void vNotSupportSymbol(QPainter& painter) override;
     // What is said in place of an empty list.
-    virtual QString cszGetNotice() const { return {}; }
+    virtual QString notice() const { return {}; }
     // Drops the focused row and the selection.
-    void vResetSelection();
+    void resetSelection();
     void OnDraw(QPainter& painter) override;
     void OnTimer(int id) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -87,30 +87,30 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    QString Text(int row, int column) const override;
-    QColor TextColour(int row, int column) const override;
-    QColor Highlight(int row, int column) const override;
+    QString text(int row, int column) const override;
+    QColor textColour(int row, int column) const override;
+    QColor highlight(int row, int column) const override;
 
-    void vShowState(DataState state);
-    void vLayOut();
-    void vFitColumns();
-    void vFillRows(const std::vector<CSymbolInfo>& symbols);
-    void vLoadName(int row);
-    void vRepaintRow(int row);
-    void vShow(const CQuoteMemory& quote);
-    bool bAnimates() const;
+    void showState(wirepane::DataState state);
+    void layOut();
+    void fitColumns();
+    void fillRows(const std::vector<CSymbolInfo>& symbols);
+    void loadName(int row);
+    void repaintRow(int row);
+    void vShow(const wirepane::CQuoteMemory& quote);
+    bool animates() const;
     // Orders the rows; focus and selection stay with their symbol.
     template <class Reorder>
-    void vReorder(Reorder reorder);
-    void vFocusRow(int row);
-    void vAnnounceFocus();
-    bool OnSheetKey(int key);
+    void reorder(Reorder reorder);
+    void focusRow(int row);
+    void announceFocus();
+    bool onSheetKey(int key);
 
     TRVQuoteBaseView* registrant = this;
     CSuperSheetWnd* sheet = nullptr;
-    QuoteTable table;
-    QuoteFlashes flashes;
-    std::vector<CQuoteMemory> pending;
+    wirepane::QuoteTable table;
+    wirepane::QuoteFlashes flashes;
+    std::vector<wirepane::CQuoteMemory> pending;
     int nameRoom = 0;           // in characters
     bool distributing = true;   // the symbols are registered
     bool takeUpPosted = false;  // the event loop will take the pending updates up

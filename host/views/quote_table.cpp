@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 const QString unknown = QStringLiteral("--");
@@ -42,7 +44,7 @@ int decimalsOf(const CQuoteMemory& quote) {
 
 std::optional<double> valueOf(const QuoteRow& row, QuoteColumn column) {
     if (column == QuoteColumn::Percent)
-        return PercentOf(row);
+        return percentOf(row);
     if (!row.quote)
         return std::nullopt;
     if (column == QuoteColumn::Last)
@@ -73,25 +75,25 @@ bool isBefore(const QuoteRow& a, const QuoteRow& b, const QuoteTable::Sorting& s
 
 }  // namespace
 
-std::optional<double> PercentOf(const QuoteRow& row) {
+std::optional<double> percentOf(const QuoteRow& row) {
     if (!row.quote || !(row.quote->last - row.quote->change > 0))
         return std::nullopt;
     return row.quote->change / (row.quote->last - row.quote->change) * 100;
 }
 
-int DirectionOf(const QuoteRow& row) {
+int directionOf(const QuoteRow& row) {
     if (!row.quote || row.quote->change == 0)
         return 0;
     return row.quote->change > 0 ? 1 : -1;
 }
 
-QString TextOf(const QuoteRow& row, QuoteColumn column) {
+QString textOf(const QuoteRow& row, QuoteColumn column) {
     if (column == QuoteColumn::Code)
         return row.symbol.code;
     if (column == QuoteColumn::Name)
         return row.name;
     if (column == QuoteColumn::Percent) {
-        const auto percent = PercentOf(row);
+        const auto percent = percentOf(row);
         return percent ? signedText(*percent, 2) + u'%' : unknown;
     }
     if (!row.quote)
@@ -168,3 +170,5 @@ void QuoteTable::resort() {
         places[static_cast<std::size_t>(order[row])] = static_cast<int>(row);
     stale = false;
 }
+
+}  // namespace wirepane

@@ -11,6 +11,8 @@
 #include <optional>
 #include <vector>
 
+namespace wirepane {
+
 // The columns of a quote list, from left to right.
 enum class QuoteColumn { Code, Name, Last, Change, Percent, Volume };
 inline constexpr int quoteColumns = 6;
@@ -22,12 +24,12 @@ struct QuoteRow {
 };
 
 // The change in percent of the previous close; nothing where there is no quote or the close was nothing.
-WIREPANE_HOST_EXPORT std::optional<double> PercentOf(const QuoteRow& row);
+WIREPANE_HOST_EXPORT std::optional<double> percentOf(const QuoteRow& row);
 // 1: risen, -1: fallen, 0: neither, or no quote.
-WIREPANE_HOST_EXPORT int DirectionOf(const QuoteRow& row);
+WIREPANE_HOST_EXPORT int directionOf(const QuoteRow& row);
 // What stands in a cell. Prices with two to four decimals, as many as price and change need; changes with
 // their sign; "--" for a number that is not known.
-WIREPANE_HOST_EXPORT QString TextOf(const QuoteRow& row, QuoteColumn column);
+WIREPANE_HOST_EXPORT QString textOf(const QuoteRow& row, QuoteColumn column);
 
 // The rows of a quote list and their order, without anything on screen. Rows count from 0. An update costs
 // the same in a list of any length: it moves no row. Where the order depends on what it changed, isStale()
@@ -74,3 +76,5 @@ private:
     std::optional<Sorting> chosen;
     bool stale = false;
 };
+
+}  // namespace wirepane

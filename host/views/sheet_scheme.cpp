@@ -10,22 +10,26 @@
 
 using namespace Qt::StringLiterals;
 
-QColor HostColour(const QString& name, const QColor& fallback) {
+namespace wirepane {
+
+QColor hostColour(const QString& name, const QColor& fallback) {
     const QColor colour = CSyncInfo::GetSettingCFG()->SYS_crGetOtherColor(name);
     return colour.isValid() ? colour : fallback;
 }
 
-void ApplyHostScheme(CSuperSheetWnd& sheet, const QFont& font) {
+void applyHostScheme(CSuperSheetWnd& sheet, const QFont& font) {
     const QPalette palette = QApplication::palette();
-    const QColor background = HostColour(u"COLOR_LISTCTL_BACKGROUND"_s, palette.color(QPalette::Base));
-    const QColor header = HostColour(u"COLOR_LISTCTL_HDBkCOLOR1"_s, palette.color(QPalette::Button));
+    const QColor background = hostColour(u"COLOR_LISTCTL_BACKGROUND"_s, palette.color(QPalette::Base));
+    const QColor header = hostColour(u"COLOR_LISTCTL_HDBkCOLOR1"_s, palette.color(QPalette::Button));
     sheet.vSetHeaderRowBkColor(header);
     sheet.vSetHeaderRowFgColor(
-        HostColour(u"COLOR_LISTCTL_HDTEXTCOLOR1"_s, palette.color(QPalette::ButtonText)));
+        hostColour(u"COLOR_LISTCTL_HDTEXTCOLOR1"_s, palette.color(QPalette::ButtonText)));
     sheet.vSetFrameColor(header);
-    sheet.vSetBkColor(background, HostColour(u"COLOR_LISTCTL_BACKGROUNDSLASH"_s, background));
-    sheet.vSetFocusColor(true, HostColour(u"COLOR_LISTCTL_CLICKLINE"_s, palette.color(QPalette::Highlight)),
-                         HostColour(u"COLOR_LISTCTL_CLICKLINE_GRAY"_s, palette.color(QPalette::Midlight)));
-    sheet.vSetFgColor(HostColour(u"COLOR_LISTCTL_NORMALTEXT"_s, palette.color(QPalette::Text)));
+    sheet.vSetBkColor(background, hostColour(u"COLOR_LISTCTL_BACKGROUNDSLASH"_s, background));
+    sheet.vSetFocusColor(true, hostColour(u"COLOR_LISTCTL_CLICKLINE"_s, palette.color(QPalette::Highlight)),
+                         hostColour(u"COLOR_LISTCTL_CLICKLINE_GRAY"_s, palette.color(QPalette::Midlight)));
+    sheet.vSetFgColor(hostColour(u"COLOR_LISTCTL_NORMALTEXT"_s, palette.color(QPalette::Text)));
     sheet.vSetFont(font);
 }
+
+}  // namespace wirepane

@@ -10,9 +10,13 @@
 
 class CSuperSheetWnd;
 
+namespace wirepane {
+
 // A colour of the host by its name, or `fallback` where its scheme lacks it.
-WIREPANE_HOST_EXPORT QColor HostColour(const QString& name, const QColor& fallback);
+WIREPANE_HOST_EXPORT QColor hostColour(const QString& name, const QColor& fallback);
 
 // Gives a sheet the host's colours of this moment, where the host has none those of its palette, and the
 // font.
-WIREPANE_HOST_EXPORT void ApplyHostScheme(CSuperSheetWnd& sheet, const QFont& font);
+WIREPANE_HOST_EXPORT void applyHostScheme(CSuperSheetWnd& sheet, const QFont& font);
+
+}  // namespace wirepane

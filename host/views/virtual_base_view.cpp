@@ -8,38 +8,40 @@
 
 #include <algorithm>
 
+using namespace wirepane;
+
 TRVVirtualBaseView::TRVVirtualBaseView(QWidget* parent) : QWidget(parent) {}
 
 void TRVVirtualBaseView::OnInitialUpdate() {}
 
-void TRVVirtualBaseView::SetTimer(int id, int periodMs) {
+void TRVVirtualBaseView::setTimer(int id, int periodMs) {
     timers[id].start(periodMs, this);
 }
 
-void TRVVirtualBaseView::KillTimer(int id) {
+void TRVVirtualBaseView::endTimer(int id) {
     timers.erase(id);
 }
 
-std::vector<int> TRVVirtualBaseView::RunningTimers() const {
+std::vector<int> TRVVirtualBaseView::runningTimers() const {
     std::vector<int> ids;
     for (const auto& [id, timer] : timers)
         ids.push_back(id);
     return ids;
 }
 
-bool TRVVirtualBaseView::OnCommand(int) {
+bool TRVVirtualBaseView::onCommand(int) {
     return false;
 }
 
 void TRVVirtualBaseView::OnTimer(int) {}
 
-bool TRVVirtualBaseView::OnRegisteredMessage(const RegisteredMessageEvent&) {
+bool TRVVirtualBaseView::onRegisteredMessage(const RegisteredMessageEvent&) {
     return false;
 }
 
 bool TRVVirtualBaseView::event(QEvent* event) {
     const auto* message = dynamic_cast<RegisteredMessageEvent*>(event);
-    if (message != nullptr && OnRegisteredMessage(*message))
+    if (message != nullptr && onRegisteredMessage(*message))
         return true;
     return QWidget::event(event);
 }

@@ -11,7 +11,10 @@
 #include <map>
 #include <vector>
 
+namespace wirepane {
 class RegisteredMessageEvent;
+
+}  // namespace wirepane
 
 // The root of the views that a host places in its frames: timers by number, registered messages, commands by
 // number. Views live on the interface thread and belong to their parent.
@@ -25,24 +28,24 @@ public:
     virtual void OnInitialUpdate();
 
     // Starts timer `id` with a period in milliseconds; a running timer of that id starts anew.
-    void SetTimer(int id, int periodMs);
-    void KillTimer(int id);
+    void setTimer(int id, int periodMs);
+    void endTimer(int id);
     // The ids of the running timers, ascending.
-    std::vector<int> RunningTimers() const;
+    std::vector<int> runningTimers() const;
 
     // Carries out a command by its number, as menus, buttons and scripts send it. False: not a command of
     // this view.
-    virtual bool OnCommand(int id);
+    virtual bool onCommand(int id);
 
     // The identifier of the host frame that holds the view; children get their parent's.
-    void vSetFrameId(int id) { frameId = id; }
-    int iGetFrameId() const { return frameId; }
+    void setFrameId(int id) { frameId = id; }
+    int idOfFrame() const { return frameId; }
 
 protected:
     // Called at every period of a running timer.
     virtual void OnTimer(int id);
     // A registered message has arrived; false: not one that this view knows.
-    virtual bool OnRegisteredMessage(const RegisteredMessageEvent& message);
+    virtual bool onRegisteredMessage(const wirepane::RegisteredMessageEvent& message);
 
     bool event(QEvent* event) override;
     void timerEvent(QTimerEvent* event) override;

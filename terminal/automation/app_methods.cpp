@@ -70,7 +70,7 @@ void AppMethods::answerWhenIdle(const Reply& reply, int rounds) {
 bool AppMethods::refreshIsDue() const {
     constexpr int refreshTimer = 1;
     for (const auto& open : session.workspace().views()) {
-        const std::vector<int> timers = open->view->RunningTimers();
+        const std::vector<int> timers = open->view->runningTimers();
         if (std::find(timers.begin(), timers.end(), refreshTimer) != timers.end())
             return true;
     }

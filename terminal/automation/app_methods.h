@@ -7,7 +7,6 @@
 #include <QObject>
 
 namespace wirepane {
-
 class Session;
 
 // The application as a whole: screenshot, wait, idle, app.quit.

@@ -20,7 +20,6 @@
 #include <QObject>
 
 namespace wirepane {
-
 class StandardChannel;
 
 // The automation interface of a session: its methods, the queue of requests, and the channels they come by.

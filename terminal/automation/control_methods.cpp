@@ -26,7 +26,7 @@ QStringList entriesOf(const QWidget& control) {
             entries.append(combo->itemText(i));
     } else if (const auto* tabs = qobject_cast<const QTabBar*>(&control)) {
         for (int i = 0; i < tabs->count(); ++i)
-            entries.append(NameOfCaption(tabs->tabText(i)));
+            entries.append(nameOfCaption(tabs->tabText(i)));
     }
     return entries;
 }

@@ -5,7 +5,6 @@
 #include "terminal/automation/method_table.h"
 
 namespace wirepane {
-
 class Session;
 
 // Working the controls of views as a user does: control.*.

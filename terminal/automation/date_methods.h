@@ -5,7 +5,6 @@
 #include "terminal/automation/method_table.h"
 
 namespace wirepane {
-
 class Session;
 
 // Picking the date of a view, as the user does: date.*.

@@ -54,14 +54,14 @@ QJsonValue idOf(const QDialog& dialog, const QWidget* control) {
                 return QString(name);
         }
     }
-    const int id = control != nullptr && dialog.isAncestorOf(control) ? WindowId(control) : 0;
+    const int id = control != nullptr && dialog.isAncestorOf(control) ? windowId(control) : 0;
     return id != 0 ? QJsonValue(id) : QJsonValue(QJsonValue::Null);
 }
 
 QJsonArray boxReport(const QMessageBox& box) {
     QJsonArray report;
     for (const QAbstractButton* button : box.buttons())
-        report.append(QJsonObject{{u"id"_s, idOf(box, button)}, {u"text"_s, NameOfCaption(button->text())}});
+        report.append(QJsonObject{{u"id"_s, idOf(box, button)}, {u"text"_s, nameOfCaption(button->text())}});
     return report;
 }
 
@@ -76,7 +76,7 @@ Answer state(Params&) {
     const auto buttons = dialog->findChildren<QPushButton*>();
     const auto preset = std::find_if(buttons.begin(), buttons.end(),
                                      [](const QPushButton* button) { return button->isDefault(); });
-    answer.result = QJsonObject{{u"id"_s, WindowId(dialog)},
+    answer.result = QJsonObject{{u"id"_s, windowId(dialog)},
                                 {u"class"_s, QString::fromLatin1(dialog->metaObject()->className())},
                                 {u"title"_s, dialog->windowTitle()},
                                 {u"text"_s, box != nullptr ? box->text() : QString()},
@@ -103,7 +103,7 @@ QWidget* controlIn(Params& params, const QDialog& dialog) {
                                         [&](const QWidget* button) { return idOf(dialog, button) == id; });
         control = named == buttons.end() ? nullptr : *named;
     } else {
-        control = GetDlgItem(&dialog, static_cast<int>(params.number(u"id"_s, 1)));
+        control = dlgItem(&dialog, static_cast<int>(params.number(u"id"_s, 1)));
     }
     if (params.error())
         return nullptr;

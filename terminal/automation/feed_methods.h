@@ -6,7 +6,6 @@
 #include "terminal/automation/method_table.h"
 
 namespace wirepane {
-
 class Session;
 
 // Playing the feed behind the back end: feed.*.

@@ -27,9 +27,9 @@ struct Rows {
 
 // The rows asked for, by default those on screen, cut to those that exist.
 Rows rowsAsked(Params& params, const CSuperSheetWnd& sheet) {
-    const auto from = params.optionalNumber(u"from"_s, 0).value_or(sheet.iGetFirstVisibleRow());
-    const auto count = params.optionalNumber(u"count"_s, 0).value_or(sheet.iGetRowsPerPage());
-    const std::int64_t rows = sheet.iGetRowCount();
+    const auto from = params.optionalNumber(u"from"_s, 0).value_or(sheet.firstVisibleRow());
+    const auto count = params.optionalNumber(u"count"_s, 0).value_or(sheet.rowsPerPage());
+    const std::int64_t rows = sheet.rowCount();
     const auto first = std::min(from, rows);
     return {static_cast<int>(first), static_cast<int>(std::min(count, rows - first))};
 }
@@ -39,7 +39,7 @@ QJsonArray columnsReport(const CSuperSheetWnd& sheet) {
     const auto* model = sheet.model();
     for (int column = 0; column < model->columnCount(); ++column)
         columns.append(QJsonObject{{u"text"_s, model->headerData(column, Qt::Horizontal).toString()},
-                                   {u"width"_s, sheet.iGetColWidth(column)}});
+                                   {u"width"_s, sheet.colWidth(column)}});
     return columns;
 }
 
@@ -56,7 +56,7 @@ QJsonArray cellsReport(const QAbstractItemModel& model, const Rows& rows) {
 
 QJsonArray coloursReport(const CSuperSheetWnd& sheet, const Rows& rows) {
     QJsonArray colours;
-    const int column = sheet.iGetColumn(categoryColumnKey);
+    const int column = sheet.column(categoryColumnKey);
     for (int row = rows.first; row < rows.first + rows.count; ++row) {
         const QVariant brush = sheet.model()->index(row, column).data(Qt::ForegroundRole);
         colours.append(brush.isValid() ? QJsonValue(brush.value<QBrush>().color().name())
@@ -67,7 +67,7 @@ QJsonArray coloursReport(const CSuperSheetWnd& sheet, const Rows& rows) {
 
 QJsonArray keysReport(const NewsViewAccess& access, int list, const Rows& rows) {
     QJsonArray keys;
-    for (const HeadlineKey& key : access.Keys(list, rows.first, rows.count))
+    for (const HeadlineKey& key : access.keysOf(list, rows.first, rows.count))
         keys.append(QJsonObject{{u"service"_s, key.service},
                                 {u"time"_s, static_cast<qint64>(key.time)},
                                 {u"seq"_s, key.sequence}});
@@ -84,9 +84,8 @@ QJsonArray selectionReport(const CSuperSheetWnd& sheet) {
 }
 
 void requireRow(Params& params, const CSuperSheetWnd& sheet, std::int64_t row) {
-    if (row >= sheet.iGetRowCount())
-        params.fail(u"the grid has no row %1: it has %2"_s.arg(row).arg(sheet.iGetRowCount()),
-                    RpcCode::NotFound);
+    if (row >= sheet.rowCount())
+        params.fail(u"the grid has no row %1: it has %2"_s.arg(row).arg(sheet.rowCount()), RpcCode::NotFound);
 }
 
 }  // namespace
@@ -105,11 +104,11 @@ Answer GridMethods::read(Params& params) {
     const Rows rows = rowsAsked(params, *sheet);
     const int focus = sheet->cptGetFocusNdx().y();
     return QJsonObject{
-        {u"rows"_s, sheet->iGetRowCount()},
+        {u"rows"_s, sheet->rowCount()},
         {u"columns"_s, columnsReport(*sheet)},
         {u"from"_s, rows.first},
-        {u"firstVisible"_s, sheet->iGetFirstVisibleRow()},
-        {u"rowsPerPage"_s, sheet->iGetRowsPerPage()},
+        {u"firstVisible"_s, sheet->firstVisibleRow()},
+        {u"rowsPerPage"_s, sheet->rowsPerPage()},
         {u"selection"_s, selectionReport(*sheet)},
         {u"focus"_s, focus},
         {u"cells"_s, cellsReport(*sheet->model(), rows)},

@@ -5,7 +5,6 @@
 #include "terminal/automation/method_table.h"
 
 namespace wirepane {
-
 class Session;
 
 // Reading and moving in the grids of views: grid.*.

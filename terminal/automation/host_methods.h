@@ -5,7 +5,6 @@
 #include "terminal/automation/method_table.h"
 
 namespace wirepane {
-
 class Session;
 
 // What the host sets for all views: host.*.

@@ -23,12 +23,12 @@ constexpr int storyText = 8071;
 
 // The story in the pane, or in the view's dialog.
 QWidget* shownStory(const OpenView& view) {
-    const QWidget* pane = GetDlgItem(view.view, storyPane);
+    const QWidget* pane = dlgItem(view.view, storyPane);
     if (pane != nullptr && pane->isVisible())
-        return GetDlgItem(pane, storyText);
+        return dlgItem(pane, storyText);
     const auto dialogs = view.view->findChildren<QDialog*>();
     for (const QDialog* dialog : dialogs) {
-        if (QWidget* story = dialog->isVisible() ? GetDlgItem(dialog, storyText) : nullptr)
+        if (QWidget* story = dialog->isVisible() ? dlgItem(dialog, storyText) : nullptr)
             return story;
     }
     return nullptr;
@@ -51,7 +51,7 @@ QWidget* targetOf(Params& params, const OpenView& view) {
     if (!params.has(u"target"_s))
         widget = keyboardHolder(view);
     else if (target.isDouble())
-        widget = GetDlgItem(view.view, static_cast<int>(params.number(u"target"_s, 1)));
+        widget = dlgItem(view.view, static_cast<int>(params.number(u"target"_s, 1)));
     else if (target == u"grid"_s)
         widget = view.shownGrid();
     else if (target == u"story"_s)

@@ -5,7 +5,6 @@
 #include "terminal/automation/method_table.h"
 
 namespace wirepane {
-
 class Session;
 
 // Keys and clicks as a user makes them: input.*.

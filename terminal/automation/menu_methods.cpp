@@ -41,7 +41,7 @@ QJsonArray itemsOf(const QMenu& menu) {
     for (const QAction* action : menu.actions()) {
         if (action->isVisible())
             items.append(QJsonObject{{u"id"_s, action->data().toInt()},
-                                     {u"text"_s, NameOfCaption(action->text())},
+                                     {u"text"_s, nameOfCaption(action->text())},
                                      {u"checked"_s, action->isChecked()},
                                      {u"enabled"_s, action->isEnabled()},
                                      {u"separator"_s, action->isSeparator()}});

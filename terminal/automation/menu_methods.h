@@ -7,7 +7,6 @@
 #include <QObject>
 
 namespace wirepane {
-
 class Session;
 
 // The menus of views: menu.*.

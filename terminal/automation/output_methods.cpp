@@ -34,7 +34,7 @@ Answer OutputMethods::print(Params& params) {
     target.paper = params.optionalText(u"paper"_s).value_or(QString());
     if (view == nullptr || params.error())
         return {};
-    return answerOf(view->access->PrintSelection(target), u"pages"_s);
+    return answerOf(view->access->printSelection(target), u"pages"_s);
 }
 
 Answer OutputMethods::save(Params& params) {
@@ -47,7 +47,7 @@ Answer OutputMethods::save(Params& params) {
     target.type = type == u"utf8"_s ? NewsFileType::Utf8 : NewsFileType::CodePage950;
     if (view == nullptr || params.error())
         return {};
-    return answerOf(view->access->SaveSelection(target), u"bytes"_s);
+    return answerOf(view->access->saveSelection(target), u"bytes"_s);
 }
 
 }  // namespace wirepane

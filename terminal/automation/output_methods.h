@@ -5,7 +5,6 @@
 #include "terminal/automation/method_table.h"
 
 namespace wirepane {
-
 class Session;
 
 // Printing and saving the selected news, with the dialogs answered: print.pdf, save.file.

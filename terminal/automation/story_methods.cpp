@@ -20,7 +20,7 @@ Answer StoryMethods::state(Params& params) {
         params.fail(u"\"where\" must be \"pane\" or \"dialog\""_s);
     if (view == nullptr || params.error())
         return {};
-    const QVariantMap shown = view->access->StoryState(where == u"dialog"_s);
+    const QVariantMap shown = view->access->storyState(where == u"dialog"_s);
     if (shown.isEmpty())
         return RpcError{RpcCode::NotFound, u"view %1 has no story %2"_s.arg(view->number).arg(where)};
     return QJsonObject::fromVariantMap(shown);

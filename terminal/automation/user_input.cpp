@@ -181,7 +181,7 @@ void setChecked(QAbstractButton& button, bool checked) {
 }
 
 void pickDate(SDateTimeCtrl& picker, const QDate& date) {
-    if (picker.bIsDropped())
+    if (picker.isDropped())
         picker.calendarWidget()->setSelectedDate(date);
     else
         picker.setDate(date);
@@ -189,12 +189,12 @@ void pickDate(SDateTimeCtrl& picker, const QDate& date) {
 
 void openCalendar(SDateTimeCtrl& picker) {
     picker.setFocus();
-    if (!picker.bIsDropped())
+    if (!picker.isDropped())
         pressKey(&picker, Qt::Key_F4);
 }
 
 void closeCalendar(SDateTimeCtrl& picker) {
-    if (picker.bIsDropped())
+    if (picker.isDropped())
         picker.calendarWidget()->window()->close();
 }
 

@@ -23,7 +23,7 @@ CSuperSheetWnd* sheetOf(Params& params, const OpenView& view) {
     const auto list = static_cast<int>(params.number(u"list"_s, 0, NewsViewAccess::lists - 1));
     if (params.error())
         return nullptr;
-    CSuperSheetWnd* sheet = view.access->Sheet(list);
+    CSuperSheetWnd* sheet = view.access->sheetOf(list);
     if (sheet == nullptr)
         params.fail(u"view %1 has no grid for list %2"_s.arg(view.number).arg(list), RpcCode::NotFound);
     return sheet;
@@ -33,7 +33,7 @@ QWidget* controlOf(Params& params, const OpenView& view) {
     const auto id = static_cast<int>(params.number(u"id"_s, 1));
     if (params.error())
         return nullptr;
-    QWidget* control = GetDlgItem(view.view, id);
+    QWidget* control = dlgItem(view.view, id);
     if (control == nullptr)
         params.fail(u"view %1 has no control %2"_s.arg(view.number).arg(id), RpcCode::NotFound);
     return control;
@@ -41,7 +41,7 @@ QWidget* controlOf(Params& params, const OpenView& view) {
 
 WidgetPoint middleOfRow(Params& params, const OpenView& view, int row) {
     CSuperSheetWnd* sheet = view.shownGrid();
-    if (sheet == nullptr || row >= sheet->iGetRowCount()) {
+    if (sheet == nullptr || row >= sheet->rowCount()) {
         params.fail(u"view %1 shows no row %2"_s.arg(view.number).arg(row), RpcCode::NotFound);
         return {};
     }

@@ -158,7 +158,7 @@ Answer ViewMethods::explain(Params& params) {
     if (explainer == nullptr)
         return RpcError{RpcCode::Refused, u"the news module does not explain its lists"_s};
     QJsonArray lists;
-    for (const HeadlineStanding& standing : explainer->Explain(key))
+    for (const HeadlineStanding& standing : explainer->explain(key))
         lists.append(standingReport(standing));
     return QJsonObject{{u"lists"_s, lists}};
 }
@@ -169,7 +169,7 @@ Answer ViewMethods::command(Params& params) {
     if (view == nullptr || params.error())
         return {};
     const int number = view->number;
-    if (!view->view->OnCommand(id))
+    if (!view->view->onCommand(id))
         return RpcError{RpcCode::NotFound, u"view %1 has no command %2"_s.arg(number).arg(id)};
     return {};
 }

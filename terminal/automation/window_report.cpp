@@ -35,14 +35,14 @@ QJsonObject comboReport(const QComboBox& combo) {
 QJsonObject tabsReport(const QTabBar& tabs) {
     QJsonArray items;
     for (int i = 0; i < tabs.count(); ++i)
-        items.append(NameOfCaption(tabs.tabText(i)));
-    return {{u"text"_s, NameOfCaption(tabs.tabText(tabs.currentIndex()))},
+        items.append(nameOfCaption(tabs.tabText(i)));
+    return {{u"text"_s, nameOfCaption(tabs.tabText(tabs.currentIndex()))},
             {u"items"_s, items},
             {u"index"_s, tabs.currentIndex()}};
 }
 
 QJsonObject buttonReport(const QAbstractButton& button) {
-    return {{u"text"_s, NameOfCaption(button.text())}, {u"checked"_s, button.isChecked()}};
+    return {{u"text"_s, nameOfCaption(button.text())}, {u"checked"_s, button.isChecked()}};
 }
 
 // The texts of the rows of a list and which are selected and ticked; a tree's branches are its rows.
@@ -93,7 +93,7 @@ QJsonObject contentReport(const QWidget& control) {
 }
 
 QJsonObject controlReport(const QWidget& window, const QWidget& control) {
-    QJsonObject report{{u"id"_s, WindowId(&control)},
+    QJsonObject report{{u"id"_s, windowId(&control)},
                        {u"class"_s, QString::fromLatin1(control.metaObject()->className())},
                        {u"text"_s, QString()},
                        {u"visible"_s, control.isVisibleTo(&window)},
@@ -108,14 +108,14 @@ QJsonObject controlReport(const QWidget& window, const QWidget& control) {
 QJsonArray gridsReport(const OpenView& view) {
     QJsonArray grids;
     for (int list = 0; list < NewsViewAccess::lists; ++list) {
-        const CSuperSheetWnd* sheet = view.access->Sheet(list);
+        const CSuperSheetWnd* sheet = view.access->sheetOf(list);
         if (sheet == nullptr)
             continue;
         const QRect place(sheet->mapTo(view.view, QPoint(0, 0)), sheet->size());
         grids.append(QJsonObject{{u"list"_s, list},
                                  {u"visible"_s, sheet->isVisibleTo(view.view)},
                                  {u"rect"_s, rectangleReport(place)},
-                                 {u"rows"_s, sheet->iGetRowCount()}});
+                                 {u"rows"_s, sheet->rowCount()}});
     }
     return grids;
 }
@@ -153,9 +153,9 @@ QJsonArray controlsReport(const QWidget& window) {
     QList<const QWidget*> controls;
     const auto children = window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     std::copy_if(children.begin(), children.end(), std::back_inserter(controls),
-                 [](const QWidget* child) { return !child->isWindow() && WindowId(child) != 0; });
+                 [](const QWidget* child) { return !child->isWindow() && windowId(child) != 0; });
     std::sort(controls.begin(), controls.end(),
-              [](const QWidget* a, const QWidget* b) { return WindowId(a) < WindowId(b); });
+              [](const QWidget* a, const QWidget* b) { return windowId(a) < windowId(b); });
     QJsonArray report;
     for (const QWidget* control : controls)
         report.append(controlReport(window, *control));
@@ -166,12 +166,12 @@ QJsonObject viewReport(const OpenView& view) {
     QString caption;
     view.view->GetCaption(caption);
     QJsonArray timers;
-    for (const int id : view.view->RunningTimers())
+    for (const int id : view.view->runningTimers())
         timers.append(id);
     QJsonObject report{{u"view"_s, view.number},
                        {u"title"_s, caption},
-                       {u"dataState"_s, static_cast<int>(view.view->GetDataState())},
-                       {u"linkGroup"_s, view.view->GetLinkGroup()},
+                       {u"dataState"_s, static_cast<int>(view.view->currentDataState())},
+                       {u"linkGroup"_s, view.view->linkedGroup()},
                        {u"tip"_s, tipReport(*view.view)},
                        {u"shortTip"_s, shortTipReport(*view.view)},
                        {u"quotes"_s, QJsonArray()},
@@ -179,7 +179,7 @@ QJsonObject viewReport(const OpenView& view) {
                        {u"timers"_s, timers},
                        {u"controls"_s, controlsReport(*view.view)},
                        {u"grids"_s, gridsReport(view)}};
-    const QJsonObject own = QJsonObject::fromVariantMap(view.access->State());
+    const QJsonObject own = QJsonObject::fromVariantMap(view.access->state());
     for (auto part = own.begin(); part != own.end(); ++part)
         report.insert(part.key(), part.value());
     return report;

@@ -9,7 +9,6 @@
 class QWidget;
 
 namespace wirepane {
-
 struct OpenView;
 
 // [left, top, width, height].

@@ -92,8 +92,8 @@ int explain(Session& session, const CHeadline& headline) {
         auto* explainer = dynamic_cast<HeadlineExplainer*>(view->view);
         if (explainer == nullptr)
             return unusable(u"The news module does not explain its lists."_s);
-        explainer->ShowEachList();
-        for (const HeadlineStanding& standing : explainer->Explain(KeyOf(headline)))
+        explainer->showEachList();
+        for (const HeadlineStanding& standing : explainer->explain(keyOf(headline)))
             printLine(u"view %1, %2, %3"_s.arg(view->number)
                           .arg(view->shownTitle(), standingText(standing, nameOf)));
     }

@@ -129,8 +129,8 @@ int exportNews(EmbeddedBackEnd& backEnd, const ExportOptions& options) {
         return exitPartly;
     }
     NewsModule& news = *module.value();
-    const NewsOutcome outcome = options.pdf ? news.PrintNews(wanted.value(), options.target)
-                                            : news.SaveNews(wanted.value(), options.target);
+    const NewsOutcome outcome = options.pdf ? news.printNews(wanted.value(), options.target)
+                                            : news.saveNews(wanted.value(), options.target);
     if (outcome.failed)
         return unusable(outcome.message);
     if (!outcome.message.isEmpty())
@@ -163,7 +163,7 @@ int runExport() {
     Languages languages;
     languages.use(language);
     backEnd->setConvertsToSimplified(language == u"zh-CN"_s);
-    BKQuoteInterface::SetBKInterface(backEnd.get());
+    BKQuoteInterface::setBKInterface(backEnd.get());
     return exportNews(*backEnd, options);
 }
 

@@ -13,7 +13,6 @@
 class QCommandLineParser;
 
 namespace wirepane {
-
 class CommandArguments;
 
 inline constexpr int lastNewsService = 255;

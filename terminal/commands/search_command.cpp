@@ -49,7 +49,7 @@ void printRow(const CHeadline& headline, const QString& service, bool asJson) {
 int printFound(Database& store, const std::vector<CHeadlineTable>& found, std::size_t most, bool asJson) {
     StoreReader reader(store);
     for (std::size_t i = 0; i < std::min(found.size(), most) && !store.damage(); ++i) {
-        const auto headline = reader.headline(KeyOf(found[i]));
+        const auto headline = reader.headline(keyOf(found[i]));
         const auto service = reader.service(found[i].service);
         if (headline)
             printRow(*headline, service ? service->shortName : QString::number(found[i].service), asJson);

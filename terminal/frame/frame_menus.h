@@ -6,7 +6,6 @@
 #include <QString>
 
 namespace wirepane {
-
 class MainFrame;
 
 // A view in the list of the window menu.

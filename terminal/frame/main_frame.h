@@ -11,7 +11,6 @@
 class QLabel;
 
 namespace wirepane {
-
 class NoticeBar;
 class SymbolBox;
 class ViewDesk;

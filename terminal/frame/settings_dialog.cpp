@@ -65,7 +65,7 @@ QWidget* SettingsDialog::generalPage(const TerminalChoices& present) {
     scheme = new QComboBox;
     for (const auto& [text, value] : {std::pair(TextId::SchemeLight, ColourScheme::Light),
                                       std::pair(TextId::SchemeDark, ColourScheme::Dark)})
-        scheme->addItem(CaptionWithoutKey(terminalText(text)), static_cast<int>(value));
+        scheme->addItem(captionWithoutKey(terminalText(text)), static_cast<int>(value));
     scheme->setCurrentIndex(scheme->findData(static_cast<int>(present.scheme)));
     fontSize = new QSpinBox;
     fontSize->setRange(TerminalSettings::smallestFont, TerminalSettings::largestFont);

@@ -16,7 +16,6 @@ class QLineEdit;
 class QStringListModel;
 
 namespace wirepane {
-
 class LinkBadge;
 
 // The entry of symbols in the tool bar: a link group, and a line that completes codes and names. Enter or a

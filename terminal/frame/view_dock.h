@@ -5,7 +5,6 @@
 #include <QDockWidget>
 
 namespace wirepane {
-
 class ViewTitleBar;
 
 // The frame of one of the user's views: it can stand beside others, behind one of their tabs, or float.

@@ -8,7 +8,6 @@
 class QMainWindow;
 
 namespace wirepane {
-
 class ViewDock;
 
 enum class Arrangement { Columns, Rows, Tabs };

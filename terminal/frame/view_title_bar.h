@@ -8,7 +8,6 @@ class QLabel;
 class QToolButton;
 
 namespace wirepane {
-
 class LinkBadge;
 
 // The bar over a docked view: its link group, its title, buttons to float and to close it. A press anywhere

@@ -6,6 +6,7 @@
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
+#include "host/views/news_control_ids.h"
 #include "terminal/frame/frame_errors.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/view_desk.h"
@@ -25,7 +26,6 @@ namespace {
 const QString viewClass = u"TRVNewsCtrlView"_s;
 constexpr QLatin1StringView symbolNewsKey{"IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS"};
 
-constexpr int tabStrip = 3100;  // the view's tabs
 constexpr int symbolMode = 2;
 constexpr QSize startSize(900, 600);  // of a view whose dock has not been laid out yet
 
@@ -39,15 +39,15 @@ QWidget* keyboardTarget(const OpenView& open) {
 
 // What the view is for: its chosen tab, else its caption.
 QString subjectOf(const OpenView& open, bool& ofSymbol) {
-    const auto* strip = qobject_cast<CXTPTabControl*>(GetDlgItem(open.view, tabStrip));
+    const auto* strip = qobject_cast<CXTPTabControl*>(dlgItem(open.view, ids::tabStrip));
     if (strip != nullptr && strip->count() > 0) {
-        ofSymbol = strip->iGetItemData(strip->GetCurSel()) == symbolMode;
-        return strip->szGetTabText(strip->GetCurSel());
+        ofSymbol = strip->itemData(strip->curSel()) == symbolMode;
+        return strip->literalTabText(strip->curSel());
     }
     ofSymbol = open.newsType == 1 || open.newsType == 2;
     QString caption;
     if (ofSymbol)
-        caption = LangText(symbolNewsKey);
+        caption = langText(symbolNewsKey);
     else
         open.view->GetCaption(caption);
     return caption;
@@ -60,13 +60,13 @@ QString OpenView::shownTitle() const {
         return title;
     bool ofSymbol = false;
     const QString subject = subjectOf(*this, ofSymbol);
-    const QString code = access->State()[u"symbol"_s].toMap()[u"code"_s].toString();
+    const QString code = access->state()[u"symbol"_s].toMap()[u"code"_s].toString();
     return ofSymbol && !code.isEmpty() ? u"%1 %2"_s.arg(subject, code) : subject;
 }
 
 CSuperSheetWnd* OpenView::shownGrid() const {
     for (int list = 0; list < NewsViewAccess::lists; ++list) {
-        CSuperSheetWnd* sheet = access->Sheet(list);
+        CSuperSheetWnd* sheet = access->sheetOf(list);
         if (sheet != nullptr && sheet->isVisibleTo(view))
             return sheet;
     }
@@ -124,16 +124,16 @@ Done Workspace::start(OpenView& open, unsigned char group, const QSize& size) {
         frame.desk().place(view, size);
     else
         view->resize(open.dock->widget() != nullptr ? open.dock->widget()->size() : startSize);
-    view->vSetFrameId(open.number);
-    view->vSetLinkGroup(group);
+    view->setFrameId(open.number);
+    view->setLinkGroup(group);
     view->OnInitialUpdate();
-    view->vSetTypeName(open.typeName);
+    view->setTypeName(open.typeName);
     access->vSetNewsType(open.newsType);
     view->InitialViewInfo(open.settings, open.section, frameNumber, open.place, viewClass);
     if (open.dock != nullptr)
         open.dock->setWidget(view);
     view->show();
-    if (const auto* strip = qobject_cast<CXTPTabControl*>(GetDlgItem(view, tabStrip)))
+    if (const auto* strip = qobject_cast<CXTPTabControl*>(dlgItem(view, ids::tabStrip)))
         connect(strip, &QTabBar::currentChanged, this, &Workspace::refreshTitles, Qt::QueuedConnection);
     emit opened(&open);
     return Nothing{};
@@ -173,7 +173,7 @@ void Workspace::close(int number) {
 }
 
 Done Workspace::reopen(OpenView& open) {
-    const unsigned char group = open.view->GetLinkGroup();
+    const unsigned char group = open.view->linkedGroup();
     const QSize size = open.dock == nullptr ? open.view->size() : QSize();
     const QPointer<QWidget> old = open.view;
     const Done started = start(open, group, size);
@@ -207,7 +207,7 @@ void Workspace::rename(OpenView& view, const QString& title) {
 }
 
 void Workspace::link(OpenView& view, unsigned char group) {
-    view.view->vSetLinkGroup(group);
+    view.view->setLinkGroup(group);
     emit linked(&view);
     refreshTitles();
 }
@@ -264,7 +264,7 @@ void Workspace::refreshTitles() {
     for (const auto& open : openViews) {
         if (open->dock == nullptr || open->view == nullptr)
             continue;
-        open->dock->setTitle(open->shownTitle(), open->view->GetLinkGroup());
+        open->dock->setTitle(open->shownTitle(), open->view->linkedGroup());
         open->dock->setActive(open.get() == current);
     }
     emit arranged();

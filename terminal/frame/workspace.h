@@ -15,7 +15,6 @@
 #include <vector>
 
 namespace wirepane {
-
 class MainFrame;
 class ViewDock;
 

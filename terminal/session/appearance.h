@@ -5,7 +5,6 @@
 #include "terminal/settings/colour_scheme.h"
 
 namespace wirepane {
-
 class TerminalSettings;
 class Workspace;
 

@@ -20,19 +20,19 @@ BreakingNews::BreakingNews(NewsModule& newsModule, EmbeddedBackEnd& newsBackEnd,
     : module(newsModule), backEnd(newsBackEnd), frame(mainFrame) {}
 
 BreakingNews::~BreakingNews() {
-    backEnd.Detach(this);
+    backEnd.detach(this);
 }
 
-QWidget* BreakingNews::pGetWindow() {
+QWidget* BreakingNews::frameWindow() {
     return &frame;
 }
 
 void BreakingNews::show() {
     if (window == nullptr)
-        window = module.CreateStoryWindow(this);
+        window = module.createStoryWindow(this);
     if (window == nullptr)
         return;
-    backEnd.Attach(this);
+    backEnd.attach(this);
     std::vector<CHeadline> newest;
     std::vector<unsigned char> services;
     backEnd.BKQNEWS_bGetAllNewsService(services);
@@ -45,9 +45,9 @@ void BreakingNews::show() {
     }
     if (!newest.empty())
         showHeadline(newest.back());
-    window->pGetWindow()->show();
-    window->pGetWindow()->raise();
-    window->pGetWindow()->activateWindow();
+    window->frameWindow()->show();
+    window->frameWindow()->raise();
+    window->frameWindow()->activateWindow();
 }
 
 void BreakingNews::retranslate() {
@@ -55,8 +55,8 @@ void BreakingNews::retranslate() {
         window->vLoadLanguageString();
 }
 
-void BreakingNews::OnStoryWindowClosed() {
-    backEnd.Detach(this);
+void BreakingNews::onStoryWindowClosed() {
+    backEnd.detach(this);
     frame.activateWindow();
 }
 
@@ -66,7 +66,7 @@ void BreakingNews::RecvNewHeadLine(const CHeadline* headline, const QString&, co
 }
 
 void BreakingNews::RespStory(const CHeadlineTable& entry) {
-    if (KeyOf(entry) == KeyOf(shown))
+    if (keyOf(entry) == keyOf(shown))
         showStory();
 }
 
@@ -83,7 +83,7 @@ void BreakingNews::showStory() {
         return;
     // To the window a story without text is one that is still to come.
     if (story.text.isEmpty())
-        story.text = LangText(noStoryKey);
+        story.text = langText(noStoryKey);
     window->vMainFrameShowStroy(story);
 }
 

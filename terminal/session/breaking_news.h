@@ -7,7 +7,6 @@
 #include "host/views/news_module.h"
 
 namespace wirepane {
-
 class EmbeddedBackEnd;
 class MainFrame;
 
@@ -23,8 +22,8 @@ public:
     void show();
     void retranslate();
 
-    QWidget* pGetWindow() override;
-    void OnStoryWindowClosed() override;
+    QWidget* frameWindow() override;
+    void onStoryWindowClosed() override;
 
     void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
                          const QString& symbolCode) override;

@@ -50,7 +50,7 @@ void CategoryDisplay::GetNewsCatColor(int categoryId, QColor& text, QColor& back
     background = QColor();
 }
 
-void CategoryDisplay::GetWarrantCatColor(int categoryId, QColor& text, QColor& background) {
+void CategoryDisplay::warrantCatColor(int categoryId, QColor& text, QColor& background) {
     text = backEnd.categoryColour(categoryId, warrantService);
     background = QColor();
 }

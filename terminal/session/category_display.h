@@ -8,7 +8,6 @@
 #include <vector>
 
 namespace wirepane {
-
 class EmbeddedBackEnd;
 
 // The colours of news categories, as the store has them.
@@ -18,7 +17,7 @@ public:
     explicit CategoryDisplay(EmbeddedBackEnd& backEnd);
 
     void GetNewsCatColor(int categoryId, QColor& text, QColor& background) override;
-    void GetWarrantCatColor(int categoryId, QColor& text, QColor& background) override;
+    void warrantCatColor(int categoryId, QColor& text, QColor& background) override;
 
 private:
     EmbeddedBackEnd& backEnd;

@@ -11,11 +11,11 @@ namespace wirepane {
 
 CategoryWatch::CategoryWatch(EmbeddedBackEnd& embedded, std::function<void()> onMissed)
     : backEnd(embedded), missed(std::move(onMissed)) {
-    backEnd.Attach(this);
+    backEnd.attach(this);
 }
 
 CategoryWatch::~CategoryWatch() {
-    backEnd.Detach(this);
+    backEnd.detach(this);
 }
 
 void CategoryWatch::know(const std::vector<CategoryName>& categories) {

@@ -10,7 +10,6 @@
 #include <vector>
 
 namespace wirepane {
-
 class EmbeddedBackEnd;
 
 // Notices the news whose category has come into the store since the module's file of categories was written.

@@ -3,6 +3,7 @@
 #include "terminal/session/frame_commands.h"
 
 #include "host/controls/heap_dialog.h"
+#include "host/views/news_control_ids.h"
 #include "terminal/frame/guide_window.h"
 #include "terminal/frame/read_as_of_dialog.h"
 #include "terminal/frame/settings_dialog.h"
@@ -27,8 +28,6 @@ namespace wirepane {
 namespace {
 constexpr int symbolNewsType = 2;
 // Of a news view.
-constexpr int printNewsCommand = 9271;
-constexpr int saveNewsCommand = 9272;
 }  // namespace
 
 FrameCommands::FrameCommands(Session& terminal)
@@ -120,13 +119,13 @@ void FrameCommands::carryOutOnView(FrameCommand command) {
             view->dock->setFloating(!view->dock->isFloating());
             break;
         case FrameCommand::Print:
-            view->view->OnCommand(printNewsCommand);
+            view->view->onCommand(ids::printNews);
             break;
         case FrameCommand::PrintPreview:
-            view->access->PreviewSelection();
+            view->access->previewSelection();
             break;
         case FrameCommand::SaveAs:
-            view->view->OnCommand(saveNewsCommand);
+            view->view->onCommand(ids::saveNews);
             break;
         case FrameCommand::NextView:
             workspace.activateNext(1);

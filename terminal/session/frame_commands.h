@@ -10,7 +10,6 @@
 #include <QPointer>
 
 namespace wirepane {
-
 class GuideWindow;
 class Session;
 

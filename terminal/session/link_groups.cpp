@@ -38,7 +38,7 @@ void LinkGroups::watch(const OpenView& open) {
 }
 
 void LinkGroups::tell(const OpenView& open) {
-    const unsigned char group = open.view->GetLinkGroup();
+    const unsigned char group = open.view->linkedGroup();
     const auto found = current.find(group);
     if (group == 0 || found == current.end())
         return;
@@ -52,7 +52,7 @@ void LinkGroups::change(const QWidget* sender, unsigned char group, const Symbol
     {
         const QScopedValueRollback<bool> guard(telling, true);
         for (const auto& open : workspace.views()) {
-            if (group != 0 && open->view != sender && open->view->GetLinkGroup() == group)
+            if (group != 0 && open->view != sender && open->view->linkedGroup() == group)
                 open->view->ChangeSymbol(sender, group, symbol.market, symbol.code, symbol.name);
         }
     }

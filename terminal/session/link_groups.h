@@ -11,7 +11,6 @@
 class QWidget;
 
 namespace wirepane {
-
 struct OpenView;
 class TerminalSettings;
 class Workspace;

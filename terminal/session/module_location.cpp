@@ -27,7 +27,7 @@ Result<NewsModule*> loadModule() {
         if (!QFileInfo::exists(file))
             continue;
         QString error;
-        if (NewsModule* module = LoadNewsModule(file, error))
+        if (NewsModule* module = loadNewsModule(file, error))
             return module;
         return makeError<session_errors::moduleNotLoaded>(error);
     }

@@ -4,9 +4,8 @@
 
 #include "backend/result.h"
 
-class NewsModule;
-
 namespace wirepane {
+class NewsModule;
 
 // Loads the news module: the file beside the program, else the installed one.
 Result<NewsModule*> loadModule();

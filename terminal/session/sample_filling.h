@@ -8,7 +8,6 @@
 #include <functional>
 
 namespace wirepane {
-
 class Database;
 
 struct SampleTotals {

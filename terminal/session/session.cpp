@@ -99,7 +99,7 @@ Session::Session(const SessionOptions& options)
                    QDir(configFolder).filePath(u"wirepane.ini"_s)),
       layout(settingsFile),
       terminalSettings(std::make_unique<TerminalSettings>(settingsFile)) {
-    CSyncInfo::SetSettingCFG(terminalSettings.get());
+    CSyncInfo::setSettingCFG(terminalSettings.get());
 }
 
 Session::~Session() = default;
@@ -119,12 +119,12 @@ Done Session::start(const SessionOptions& options) {
     if (const Done opened = openStore(options, wanted); !opened)
         return opened;
     store->setSysPath(configFolder);
-    BKQuoteInterface::SetBKInterface(store.get());
-    SearchControl::SetSearchObjInterface(&store->symbols());
+    BKQuoteInterface::setBKInterface(store.get());
+    SearchControl::setSearchObjInterface(&store->symbols());
     if (const Done fed = startFeed(options); !fed)
         return fed;
     categoryDisplay = std::make_unique<CategoryDisplay>(*store);
-    TRVItemDisplay::SetItemDisplay(categoryDisplay.get());
+    TRVItemDisplay::setItemDisplay(categoryDisplay.get());
     const auto module = loadModule();
     if (!module)
         return module.error();
@@ -141,7 +141,7 @@ Done Session::start(const SessionOptions& options) {
     categoryWatch = std::make_unique<CategoryWatch>(*store, [this] {
         writeCategories();
         for (const auto& view : openViews->views())
-            view->access->vReloadCategories();
+            view->access->reloadCategories();
     });
     look->apply();
     connectParts();
@@ -198,7 +198,7 @@ void Session::connectParts() {
             [this](const Error& error) { mainFrame->showNotice(shownText(error)); });
     connect(openViews.get(), &Workspace::arranged, this, &Session::showViews);
     connect(openViews.get(), &Workspace::opened, mainFrame.get(), [this](const OpenView* view) {
-        connect(view->view, &TRVQuoteBaseView::MessageForUser, mainFrame.get(), &MainFrame::showNotice);
+        connect(view->view, &TRVQuoteBaseView::messageForUser, mainFrame.get(), &MainFrame::showNotice);
     });
     // Later: the views hear of the change after their frame.
     connect(
@@ -342,7 +342,7 @@ void Session::showViews() {
     if (active != nullptr && active->dock != nullptr)
         state.activeView = active->number;
     if (active != nullptr)
-        state.linkGroup = active->view->GetLinkGroup();
+        state.linkGroup = active->view->linkedGroup();
     mainFrame->showChoices(state);
     mainFrame->showCaption(active != nullptr ? active->shownTitle() : QString());
     // Only when the view or its group is another one: the user may have picked a group for the box.

@@ -28,7 +28,7 @@ constexpr int storyBelow = 2;
 const QString section = u"main"_s;
 
 StoredView storedView(const OpenView& open) {
-    return {open.place, open.newsType, open.typeName, open.title, open.view->GetLinkGroup()};
+    return {open.place, open.newsType, open.typeName, open.title, open.view->linkedGroup()};
 }
 
 }  // namespace
@@ -87,7 +87,7 @@ Result<OpenView*> WorkspaceKeeper::openNew(int newsType) {
     parts.layout.forget(section, view.place);
     // Beside others a view is narrow: its story goes under its list.
     if (!parts.workspace.docked().empty())
-        parts.layout.SetViewInfo(Workspace::settingPath(section, view.place), u"NewsShowType"_s, storyBelow);
+        parts.layout.setViewInfo(Workspace::settingPath(section, view.place), u"NewsShowType"_s, storyBelow);
     return open(view);
 }
 

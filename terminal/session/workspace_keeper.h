@@ -10,7 +10,6 @@
 #include <functional>
 
 namespace wirepane {
-
 class LayoutStore;
 class LinkGroups;
 class MainFrame;

@@ -73,11 +73,11 @@ void LayoutStore::forget(const QString& section, int place) {
 
 LayoutStore::LayoutStore(SettingsFile& settingsFile) : file(settingsFile) {}
 
-void LayoutStore::SetViewInfo(const ViewSettingPath& path, const QString& key, const QVariant& value) {
+void LayoutStore::setViewInfo(const ViewSettingPath& path, const QString& key, const QVariant& value) {
     file.setValue(groupOf(path), key, settingToJson(value));
 }
 
-QVariant LayoutStore::Value(const ViewSettingPath& path, const QString& key) const {
+QVariant LayoutStore::storedValue(const ViewSettingPath& path, const QString& key) const {
     return settingFromJson(file.value(groupOf(path), key));
 }
 

@@ -7,7 +7,6 @@
 #include <QJsonValue>
 
 namespace wirepane {
-
 class SettingsFile;
 
 // A stored setting as JSON and back: a boolean, a number, a text or a list of texts. An invalid variant
@@ -24,10 +23,10 @@ public:
     // Drops all settings of the views of a place: the second of the two layout numbers, the first being 0.
     void forget(const QString& section, int place);
 
-    void SetViewInfo(const ViewSettingPath& path, const QString& key, const QVariant& value) override;
+    void setViewInfo(const ViewSettingPath& path, const QString& key, const QVariant& value) override;
 
 protected:
-    QVariant Value(const ViewSettingPath& path, const QString& key) const override;
+    QVariant storedValue(const ViewSettingPath& path, const QString& key) const override;
 
 private:
     SettingsFile& file;

@@ -9,7 +9,6 @@
 #include <QJsonValue>
 
 namespace wirepane {
-
 class SettingsFile;
 
 // The switches of the module's search modes, as "Application.ini" gives them to a view that opens.

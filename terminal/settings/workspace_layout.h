@@ -10,7 +10,6 @@
 #include <vector>
 
 namespace wirepane {
-
 class SettingsFile;
 
 // One of the user's views, as it is to be opened again. Its settings stand in the layout store under its

@@ -5,6 +5,7 @@
 #include "host/contract/view_options.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
+#include "host/views/news_control_ids.h"
 #include "terminal/automation/user_input.h"
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
@@ -33,9 +34,6 @@ namespace wirepane {
 
 namespace {
 
-constexpr int tabStrip = 3100;  // the view's tabs
-constexpr int categoryCombo = 3004;
-constexpr int showTypeButton = 25458;
 constexpr int categoryTab = 1;
 constexpr int allNewsList = 0;
 constexpr int categoryList = 1;
@@ -109,16 +107,16 @@ private:
         ViewOptions::writeMissing(*request.ownSettings, {});
         // Beside others a view is narrow: its story goes under its list.
         if (request.place > 0)
-            request.ownSettings->SetViewInfo({}, u"NewsShowType"_s, storyBelow);
+            request.ownSettings->setViewInfo({}, u"NewsShowType"_s, storyBelow);
         const auto opened = session.openView(std::move(request));
         return opened ? Done(Nothing{}) : Done(opened.error());
     }
 
     // The newest rows whose stories are there: for a story that is still to be written, printing waits.
     QItemSelection newestWithStories(NewsViewAccess& view) {
-        const QAbstractItemModel* rows = view.Sheet(allNewsList)->model();
+        const QAbstractItemModel* rows = view.sheetOf(allNewsList)->model();
         QItemSelection selected;
-        const std::vector<HeadlineKey> keys = view.Keys(allNewsList, 0, rows->rowCount());
+        const std::vector<HeadlineKey> keys = view.keysOf(allNewsList, 0, rows->rowCount());
         for (int row = 0; row < static_cast<int>(keys.size()) && selected.size() < newsPutOut; ++row) {
             const HeadlineKey& key = keys[static_cast<std::size_t>(row)];
             CStory story;
@@ -131,14 +129,14 @@ private:
     // Prints the newest headlines into a PDF, and saves them.
     Done putOutNews() {
         NewsViewAccess& view = *session.workspace().newest()->access;
-        view.Sheet(allNewsList)
+        view.sheetOf(allNewsList)
             ->selectionModel()
             ->select(newestWithStories(view), QItemSelectionModel::ClearAndSelect);
         for (const QString& name : {pagesName, textName})
             QFile::remove(folder.filePath(name));
         for (const NewsOutcome& outcome :
-             {view.PrintSelection(OutputTarget{folder.filePath(pagesName), {}, {}}),
-              view.SaveSelection(OutputTarget{folder.filePath(textName), NewsFileType::Utf8, {}})}) {
+             {view.printSelection(OutputTarget{folder.filePath(pagesName), {}, {}}),
+              view.saveSelection(OutputTarget{folder.filePath(textName), NewsFileType::Utf8, {}})}) {
             if (outcome.failed)
                 return makeError<tour_errors::refused>(outcome.message);
         }
@@ -152,7 +150,7 @@ private:
     bool isWritten() const { return folder.exists(pagesName) && folder.exists(textName); }
 
     void showTab(int tab) {
-        auto* tabs = qobject_cast<QTabBar*>(GetDlgItem(session.workspace().newest()->view, tabStrip));
+        auto* tabs = qobject_cast<QTabBar*>(dlgItem(session.workspace().newest()->view, ids::tabStrip));
         if (tabs != nullptr && tab < tabs->count())
             clickTab(*tabs, tab);
     }
@@ -164,7 +162,7 @@ private:
                 return opened;
         }
         session.workspace().arrange(Arrangement::Columns);
-        session.workspace().find(1)->view->OnCommand(showTypeButton);
+        session.workspace().find(1)->view->onCommand(ids::showTypeButton);
         session.workspace().activate(*session.workspace().find(2));
         std::vector<QString> codes;
         std::vector<QString> names;
@@ -177,11 +175,11 @@ private:
 
     void showCategoryWithNews() {
         const OpenView& view = *session.workspace().newest();
-        auto* combo = qobject_cast<QComboBox*>(GetDlgItem(view.view, categoryCombo));
-        const CSuperSheetWnd* sheet = view.access->Sheet(categoryList);
+        auto* combo = qobject_cast<QComboBox*>(dlgItem(view.view, ids::categoryCombo));
+        const CSuperSheetWnd* sheet = view.access->sheetOf(categoryList);
         if (combo == nullptr || sheet == nullptr)
             return;
-        for (int entry = 0; entry < combo->count() && sheet->iGetRowCount() == 0; ++entry)
+        for (int entry = 0; entry < combo->count() && sheet->rowCount() == 0; ++entry)
             chooseComboEntry(*combo, entry);
     }
 

@@ -5,7 +5,7 @@
 #include "host/contract/search_control.h"
 #include "host/contract/view_options.h"
 #include "host/controls/window_id.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "search/news_key_search_dlg.h"
 #include "search/search_ids.h"
 
@@ -22,7 +22,8 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -74,7 +75,7 @@ QMap<QString, QVariant> firstSettings(int view) {
 
 // The combo names the categories of the ticked services, rising from 1 as far as any of them has them.
 void chooseCategory(TRVNewsCtrlView& view, int entry) {
-    auto* combo = qobject_cast<QComboBox*>(GetDlgItem(&view, ids::categoryCombo));
+    auto* combo = qobject_cast<QComboBox*>(dlgItem(&view, ids::categoryCombo));
     if (combo == nullptr || combo->count() == 0)
         return;
     combo->setCurrentIndex(std::min(entry, combo->count() - 1));
@@ -82,7 +83,7 @@ void chooseCategory(TRVNewsCtrlView& view, int entry) {
 }
 
 void chooseSymbol(TRVNewsCtrlView& view, const QString& code) {
-    auto* combo = qobject_cast<QComboBox*>(GetDlgItem(&view, ids::symbolCombo));
+    auto* combo = qobject_cast<QComboBox*>(dlgItem(&view, ids::symbolCombo));
     combo->setCurrentIndex(combo->findText(code, Qt::MatchContains));
     view.OnSelchangeComboSymbol();
 }
@@ -102,7 +103,7 @@ private:
 
 }  // namespace
 
-bool desk::IsRelated(std::int32_t category, const QString& title) {
+bool desk::isRelated(std::int32_t category, const QString& title) {
     return title.contains(u"copper"_s) || (category <= 4 && title.contains(u"rate"_s));
 }
 
@@ -110,9 +111,9 @@ Desk::Desk(const QString& storePath, const QString& systemFolder)
     : backEnd(std::move(EmbeddedBackEnd::open(storePath).value())) {
     for (int view = 0; view < desk::views; ++view)
         views[static_cast<std::size_t>(view)].settings.values = firstSettings(view);
-    for (const StoreItem& item : WeekWire::Catalogues())
+    for (const StoreItem& item : WeekWire::catalogues())
         EXPECT_TRUE(backEnd->takeIn(item));
-    Install();
+    install();
     for (int view = 0; view < desk::views; ++view)
         open(view, systemFolder);
     tickKeySets();
@@ -122,7 +123,7 @@ Desk::Desk(const Desk& other, const QString& systemFolder)
     : backEnd(std::move(EmbeddedBackEnd::open(other.backEnd->storePath()).value())) {
     for (std::size_t view = 0; view < views.size(); ++view)
         other.views[view].view->SaveViewInfo(&views[view].settings, u"Layout"_s, 0, 0);
-    Install();
+    install();
     for (int view = 0; view < desk::views; ++view)
         open(view, systemFolder);
     tickKeySets();
@@ -133,9 +134,9 @@ Desk::~Desk() {
         place.view.reset();
 }
 
-void Desk::Install() {
-    BKQuoteInterface::SetBKInterface(backEnd.get());
-    SearchControl::SetSearchObjInterface(&backEnd->symbols());
+void Desk::install() {
+    BKQuoteInterface::setBKInterface(backEnd.get());
+    SearchControl::setSearchObjInterface(&backEnd->symbols());
 }
 
 void Desk::open(int number, const QString& systemFolder) {
@@ -160,30 +161,30 @@ void Desk::tickKeySets() {
         auto* dialog = qobject_cast<CNewsKeySearchDlg*>(QApplication::activeModalWidget());
         ASSERT_NE(dialog, nullptr);
         for (const int button : {search_ids::allKeySets, search_ids::ok})
-            qobject_cast<QAbstractButton*>(GetDlgItem(dialog, button))->click();
+            qobject_cast<QAbstractButton*>(dlgItem(dialog, button))->click();
         ticked = true;
     });
-    view.OnCommand(ids::relationSearchButton);
+    view.onCommand(ids::relationSearchButton);
     EXPECT_TRUE(ticked);
 }
 
-std::vector<HeadlineKey> Desk::Keys(int view, int list) const {
-    return View(view).Keys(list, 0, View(view).iGetHeadlineTableSize(list));
+std::vector<HeadlineKey> Desk::keysOf(int view, int list) const {
+    return View(view).keysOf(list, 0, View(view).iGetHeadlineTableSize(list));
 }
 
-std::vector<int> Desk::ModesOf(int view) {
+std::vector<int> Desk::modesOf(int view) {
     static constexpr int ownModes[] = {searchMode, relationMode, warningMode};
     return {0, 1, 2, warrantMode, ownModes[view]};
 }
 
-void Desk::GoTo(int view, int mode) {
+void Desk::goTo(int view, int mode) {
     View(view).SwitchFunction(mode);
-    Settle();
+    settle();
 }
 
-QStringList Desk::TextsOf(int view, int list, int row) const {
-    CSuperSheetWnd& sheet = *View(view).Sheet(list);
-    if (row < sheet.iGetFirstVisibleRow() || row > sheet.iGetFirstVisibleRow() + sheet.iGetRowsPerPage()) {
+QStringList Desk::textsOf(int view, int list, int row) const {
+    CSuperSheetWnd& sheet = *View(view).sheetOf(list);
+    if (row < sheet.firstVisibleRow() || row > sheet.firstVisibleRow() + sheet.rowsPerPage()) {
         sheet.verticalScrollBar()->setValue(row);
         View(view).vRealUpdateView();
     }
@@ -193,9 +194,9 @@ QStringList Desk::TextsOf(int view, int list, int row) const {
     return texts;
 }
 
-std::vector<unsigned char> Desk::TickedServices(int view) const {
+std::vector<unsigned char> Desk::tickedServices(int view) const {
     std::vector<unsigned char> ticked;
-    const QVariantList services = View(view).State()[u"services"_s].toList();
+    const QVariantList services = View(view).state()[u"services"_s].toList();
     for (const QVariant& service : services) {
         if (service.toMap()[u"selected"_s].toBool())
             ticked.push_back(static_cast<unsigned char>(service.toMap()[u"id"_s].toInt()));
@@ -203,23 +204,23 @@ std::vector<unsigned char> Desk::TickedServices(int view) const {
     return ticked;
 }
 
-void Desk::TickAllServices() {
+void Desk::tickAllServices() {
     for (const Place& place : views) {
         place.view->SwitchFunction(0);
-        const QVariantList services = place.view->State()[u"services"_s].toList();
+        const QVariantList services = place.view->state()[u"services"_s].toList();
         for (int i = 0; i < services.size(); ++i) {
             const QVariantMap service = services[i].toMap();
             if (!service[u"selected"_s].toBool() && service[u"id"_s].toInt() != warrantService)
-                place.view->OnCommand(ids::firstServiceCommand + i);
+                place.view->onCommand(ids::firstServiceCommand + i);
         }
     }
 }
 
-void Desk::Settle() {
+void Desk::settle() {
     ASSERT_TRUE(QTest::qWaitFor(
         [this] {
             return backEnd->isDelivered() && std::all_of(views.begin(), views.end(), [](const Place& place) {
-                       return place.view->RunningTimers().empty();
+                       return place.view->runningTimers().empty();
                    });
         },
         patienceMs));
@@ -230,16 +231,16 @@ void Desk::Settle() {
 // has none, is answered when all are, and leaves the search with all its keys in memory.
 void Desk::awaitSearches() {
     AnswerCount answers(WeekWire::commonWord);
-    backEnd->Attach(&answers);
+    backEnd->attach(&answers);
     backEnd->BKQNEWS_bSearchNews(emptyService, static_cast<int>(TableKind::SecondSearch),
                                  conditionOf(WeekWire::commonWord));
     EXPECT_TRUE(QTest::qWaitFor([&] { return answers.count > 0; }, patienceMs));
-    backEnd->Detach(&answers);
+    backEnd->detach(&answers);
 }
 
 void Desk::search(const QString& word) {
     TRVNewsCtrlView& view = View(desk::searching);
-    qobject_cast<QLineEdit*>(GetDlgItem(&view, ids::searchEdit))->setText(word);
+    qobject_cast<QLineEdit*>(dlgItem(&view, ids::searchEdit))->setText(word);
     view.OnSearch();
 }
 
@@ -249,17 +250,17 @@ void Desk::askEveryService(const QString& word) {
         backEnd->BKQNEWS_bSearchNews(service, static_cast<int>(TableKind::Search), conditionOf(word));
 }
 
-void Desk::RebuildLists(const QDate& day) {
-    const QString searchWord = WeekWire::WordOf(day);
+void Desk::rebuildLists(const QDate& day) {
+    const QString searchWord = WeekWire::wordOf(day);
     for (const Place& place : views) {
         TRVNewsCtrlView& view = *place.view;
         view.SwitchFunction(0);
         view.bChangeDate(day);
         view.InitialHeadlineTable(0);
         view.SwitchFunction(1);
-        chooseCategory(view, WeekWire::CategoryOf(day) - 1);
+        chooseCategory(view, WeekWire::categoryOf(day) - 1);
         view.SwitchFunction(2);
-        chooseSymbol(view, WeekWire::SymbolOf(day));
+        chooseSymbol(view, WeekWire::symbolOf(day));
         view.InitialHeadlineTable(2);
         view.SwitchFunction(warrantMode);
     }
@@ -268,15 +269,15 @@ void Desk::RebuildLists(const QDate& day) {
     View(desk::searching).SwitchFunction(searchMode);
     search(searchWord);
     askEveryService(searchWord);
-    Settle();
+    settle();
     View(desk::warning).SwitchFunction(warningMode);
     View(desk::warning).OnDealsSearch();
     askEveryService(desk::warningWord);
-    Settle();
+    settle();
     for (const Place& place : views)
         place.view->SwitchFunction(0);
     letOtherSearchesGo();
-    Settle();
+    settle();
 }
 
 // The back end keeps the results of the last few searches.
@@ -286,39 +287,41 @@ void Desk::letOtherSearchesGo() {
                                      conditionOf(u"nothing%1"_s.arg(i)));
 }
 
-void Desk::DoSomething(WeekWire& dice) {
-    TRVNewsCtrlView& view = View(dice.Below(desk::views));
+void Desk::doSomething(WeekWire& dice) {
+    TRVNewsCtrlView& view = View(dice.below(desk::views));
     CSuperSheetWnd* sheet = view.pGetCurrSheetView();
-    const int rows = sheet->iGetRowCount();
-    if (dice.Below(2) == 0)
-        sheet->verticalScrollBar()->setValue(dice.Below(3) == 0 ? dice.Below(std::max(1, rows)) : 0);
+    const int rows = sheet->rowCount();
+    if (dice.below(2) == 0)
+        sheet->verticalScrollBar()->setValue(dice.below(3) == 0 ? dice.below(std::max(1, rows)) : 0);
     else if (rows > 0)
-        view.bChangeNewsPos(view.State()[u"mode"_s].toInt(), dice.Below(std::min(rows, 200)));
+        view.bChangeNewsPos(view.state()[u"mode"_s].toInt(), dice.below(std::min(rows, 200)));
 }
 
-void Desk::DoSomethingBig(WeekWire& dice, const QDate& day) {
-    const int number = dice.Below(desk::views);
+void Desk::doSomethingBig(WeekWire& dice, const QDate& day) {
+    const int number = dice.below(desk::views);
     TRVNewsCtrlView& view = View(number);
-    const std::vector<int> modes = ModesOf(number);
-    switch (dice.Below(6)) {
+    const std::vector<int> modes = modesOf(number);
+    switch (dice.below(6)) {
         case 0:
-            view.bChangeDate(day.addDays(-dice.Below(3)));
+            view.bChangeDate(day.addDays(-dice.below(3)));
             break;
         case 1:
             view.bChangeDate(day);
             break;
         case 2:
-            view.OnCommand(ids::firstServiceCommand + dice.Below(4));  // the warrants have no command
+            view.onCommand(ids::firstServiceCommand + dice.below(4));  // the warrants have no command
             break;
         case 3:
             if (number == desk::searching)
-                search(u"word%1"_s.arg(10 + dice.Below(80)));
+                search(u"word%1"_s.arg(10 + dice.below(80)));
             break;
         case 4:
-            chooseCategory(view, dice.Below(7));
+            chooseCategory(view, dice.below(7));
             break;
         default:
             view.SwitchFunction(
-                modes.at(static_cast<std::size_t>(dice.Below(static_cast<int>(modes.size())))));
+                modes.at(static_cast<std::size_t>(dice.below(static_cast<int>(modes.size())))));
     }
 }
+
+}  // namespace wirepane

@@ -14,6 +14,8 @@
 #include <array>
 #include <memory>
 
+namespace wirepane {
+
 // What the three views of a desk are for, and what they look for.
 namespace desk {
 inline constexpr int searching = 0;  // all modes, ordinary searches
@@ -23,7 +25,7 @@ inline constexpr int views = 3;
 
 inline const QString warningWord = QStringLiteral("strike");
 // What the ticked key sets want.
-bool IsRelated(std::int32_t category, const QString& title);
+bool isRelated(std::int32_t category, const QString& title);
 }  // namespace desk
 
 // A terminal with three views over one store. The installed back end is its own from here on.
@@ -35,27 +37,27 @@ public:
     Desk(const Desk& other, const QString& systemFolder);
     ~Desk();
 
-    wirepane::EmbeddedBackEnd& BackEnd() { return *backEnd; }
+    wirepane::EmbeddedBackEnd& embeddedBackEnd() { return *backEnd; }
     TRVNewsCtrlView& View(int number) const { return *views.at(static_cast<std::size_t>(number)).view; }
-    std::vector<HeadlineKey> Keys(int view, int list) const;
-    std::vector<unsigned char> TickedServices(int view) const;
+    std::vector<HeadlineKey> keysOf(int view, int list) const;
+    std::vector<unsigned char> tickedServices(int view) const;
     // The modes that a view has, and a switch to one.
-    static std::vector<int> ModesOf(int view);
-    void GoTo(int view, int mode);
+    static std::vector<int> modesOf(int view);
+    void goTo(int view, int mode);
     // The cells of a row of the current list, which is scrolled there as a reader does.
-    QStringList TextsOf(int view, int list, int row) const;
+    QStringList textsOf(int view, int list, int row) const;
 
     // Installs its back end as that of the process.
-    void Install();
+    void install();
     // Lets everything come to rest: what is told, drawn, searched for.
-    void Settle();
+    void settle();
     // Reads every list of every view anew, for what the wire has of its own on that day.
-    void RebuildLists(const QDate& day);
+    void rebuildLists(const QDate& day);
     // Ticks every service but the warrants in every view.
-    void TickAllServices();
+    void tickAllServices();
     // Something that a user does a hundred times a day; something that reads whole lists.
-    void DoSomething(WeekWire& dice);
-    void DoSomethingBig(WeekWire& dice, const QDate& day);
+    void doSomething(WeekWire& dice);
+    void doSomethingBig(WeekWire& dice, const QDate& day);
 
 private:
     struct Place {
@@ -73,3 +75,5 @@ private:
     std::unique_ptr<wirepane::EmbeddedBackEnd> backEnd;
     std::array<Place, desk::views> views;
 };
+
+}  // namespace wirepane

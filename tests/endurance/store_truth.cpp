@@ -8,7 +8,8 @@
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -24,18 +25,18 @@ QString among(const StoreTruth::Services& services) {
 StoreTruth::StoreTruth(const QString& storePath)
     : store(std::move(Database::open(storePath, Database::Mode::Read, std::chrono::seconds(5)).value())) {}
 
-std::vector<HeadlineKey> StoreTruth::OfDay(const QDate& day, const Services& services, const Wanted& wanted) {
+std::vector<HeadlineKey> StoreTruth::ofDay(const QDate& day, const Services& services, const Wanted& wanted) {
     return read(u"%1 AND time >= %2 AND time < %3"_s.arg(among(services))
                     .arg(day.startOfDay().toSecsSinceEpoch())
                     .arg(day.addDays(1).startOfDay().toSecsSinceEpoch()),
                 wanted);
 }
 
-std::vector<HeadlineKey> StoreTruth::OfCategory(int category, const Services& services) {
+std::vector<HeadlineKey> StoreTruth::ofCategory(int category, const Services& services) {
     return read(u"%1 AND category = %2"_s.arg(among(services)).arg(category));
 }
 
-std::vector<HeadlineKey> StoreTruth::OfSymbol(unsigned char market, const QString& code,
+std::vector<HeadlineKey> StoreTruth::ofSymbol(unsigned char market, const QString& code,
                                               const Services& services) {
     return read(u"%1 AND id IN (SELECT headline FROM related_symbols WHERE market = %2 AND code = '%3')"_s
                     .arg(among(services))
@@ -43,11 +44,11 @@ std::vector<HeadlineKey> StoreTruth::OfSymbol(unsigned char market, const QStrin
                     .arg(code));
 }
 
-std::vector<HeadlineKey> StoreTruth::WithWord(const QString& word) {
+std::vector<HeadlineKey> StoreTruth::withWord(const QString& word) {
     return read(u"' ' || title || ' ' LIKE '% %1 %'"_s.arg(word));
 }
 
-QStringList StoreTruth::TextsOf(const HeadlineKey& key) {
+QStringList StoreTruth::textsOf(const HeadlineKey& key) {
     Statement statement(
         *store,
         "SELECT name, title FROM headlines LEFT JOIN categories ON categories.id = category AND "
@@ -76,3 +77,5 @@ std::vector<HeadlineKey> StoreTruth::read(const QString& condition, const Wanted
     }
     return keys;
 }
+
+}  // namespace wirepane

@@ -11,6 +11,8 @@
 #include <memory>
 #include <vector>
 
+namespace wirepane {
+
 // The keys that the lists of a view must hold, told from the store's tables by plain SQL and plain loops.
 class StoreTruth {
 public:
@@ -25,17 +27,19 @@ public:
     using Wanted = std::function<bool(const Row&)>;
 
     // In no order that matters: sort both sides.
-    std::vector<HeadlineKey> OfDay(const QDate& day, const Services& services, const Wanted& wanted = {});
-    std::vector<HeadlineKey> OfCategory(int category, const Services& services);
-    std::vector<HeadlineKey> OfSymbol(unsigned char market, const QString& code, const Services& services);
+    std::vector<HeadlineKey> ofDay(const QDate& day, const Services& services, const Wanted& wanted = {});
+    std::vector<HeadlineKey> ofCategory(int category, const Services& services);
+    std::vector<HeadlineKey> ofSymbol(unsigned char market, const QString& code, const Services& services);
     // Headlines with the word, of every service and day.
-    std::vector<HeadlineKey> WithWord(const QString& word);
+    std::vector<HeadlineKey> withWord(const QString& word);
     int Count(const char* sql);
     // The title of a headline and the name of its topic.
-    QStringList TextsOf(const HeadlineKey& key);
+    QStringList textsOf(const HeadlineKey& key);
 
 private:
     std::vector<HeadlineKey> read(const QString& condition, const Wanted& wanted = {});
 
     std::unique_ptr<wirepane::Database> store;
 };
+
+}  // namespace wirepane

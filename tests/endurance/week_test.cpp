@@ -22,7 +22,8 @@
 #include <tuple>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -42,11 +43,11 @@ Keys sorted(Keys keys) {
 class TellOrder : public NewsReceiver {
 public:
     void RecvNewHeadLine(const CHeadline* headline, const QString&, const QString&) override {
-        const HeadlineKey key = KeyOf(*headline);
+        const HeadlineKey key = keyOf(*headline);
         told[{key.service, key.time, key.sequence}] = ++count;
     }
     // 0: not told.
-    int Of(const HeadlineKey& key) const {
+    int of(const HeadlineKey& key) const {
         const auto place = told.find({key.service, key.time, key.sequence});
         return place == told.end() ? 0 : place->second;
     }
@@ -61,9 +62,9 @@ private:
 bool isInOrder(const Keys& rows, const TellOrder& order) {
     std::size_t told = 0;
     const auto isBelow = [&](const HeadlineKey& above, const HeadlineKey& below) {
-        return above.time == below.time || order.Of(above) > order.Of(below);
+        return above.time == below.time || order.of(above) > order.of(below);
     };
-    while (told < rows.size() && order.Of(rows[told]) > 0 &&
+    while (told < rows.size() && order.of(rows[told]) > 0 &&
            (told == 0 || isBelow(rows[told - 1], rows[told])))
         ++told;
     std::size_t read = rows.size();
@@ -77,13 +78,13 @@ protected:
     Week() {
         startDay(QDate(2026, 3, 2));
         session = std::make_unique<Desk>(folder.filePath(u"news.db"_s), folder.path());
-        session->BackEnd().Attach(&order);
+        session->embeddedBackEnd().attach(&order);
     }
-    ~Week() override { session->BackEnd().Detach(&order); }
+    ~Week() override { session->embeddedBackEnd().detach(&order); }
 
     void startDay(const QDate& next) {
         day = next;
-        wire.StartDay(day);
+        wire.startDay(day);
         moveClock(0);
     }
     // The clock runs on while a day is lived and checked: midnight must not come meanwhile.
@@ -96,35 +97,35 @@ protected:
     void liveThroughTheDay() {
         const int batch = std::clamp(perDay / 200, 20, 500);
         const int batches = perDay / batch;
-        EmbeddedBackEnd& backEnd = session->BackEnd();
+        EmbeddedBackEnd& backEnd = session->embeddedBackEnd();
         int offlineFor = 0;
         for (int i = 0; i < batches && !HasFatalFailure(); ++i) {
             moveClock(double(i) / batches);
             ASSERT_TRUE(backEnd.begin());
-            for (const StoreItem& item : wire.Next(batch, double(i) / batches))
+            for (const StoreItem& item : wire.next(batch, double(i) / batches))
                 ASSERT_TRUE(backEnd.take(item));
             ASSERT_TRUE(backEnd.commit());
-            if (offlineFor == 0 && wire.Below(batches) < 3) {
-                offlineFor = 1 + wire.Below(batches / 20 + 2);
+            if (offlineFor == 0 && wire.below(batches) < 3) {
+                offlineFor = 1 + wire.below(batches / 20 + 2);
                 backEnd.setConnected(false);
                 ++breaks;
             } else if (offlineFor > 0 && --offlineFor == 0) {
                 backEnd.setConnected(true);
             }
-            if (wire.Below(3) == 0)
+            if (wire.below(3) == 0)
                 QCoreApplication::processEvents();
-            session->DoSomething(wire);
-            if (wire.Below(batches) < 40)
-                session->DoSomethingBig(wire, day);
+            session->doSomething(wire);
+            if (wire.below(batches) < 40)
+                session->doSomethingBig(wire, day);
         }
         backEnd.setConnected(true);
-        session->Settle();
+        session->settle();
     }
 
     // Another program's writing lets the back end forget what it keeps of earlier days for speed, within
     // bounds of its own: a store that grows would be seen as a program that does.
     void letTheBackEndForgetItsCaches() {
-        const auto other = openStore(session->BackEnd().storePath());
+        const auto other = openStore(session->embeddedBackEnd().storePath());
         ASSERT_TRUE(other);
         StoreWriter writer(*other.value());
         ASSERT_TRUE(writer.begin());
@@ -133,7 +134,7 @@ protected:
     }
 
     void expectKeys(int view, int list, const Keys& truth) {
-        const Keys held = sorted(session->Keys(view, list));
+        const Keys held = sorted(session->keysOf(view, list));
         rows += QString::number(held.size()) + u' ';
         ASSERT_TRUE(held == sorted(truth))
             << day.toString().toStdString() << ", view " << view << ", list " << list << ": holds "
@@ -143,41 +144,41 @@ protected:
     // Rows and their texts. At most `mostTexts` rows are looked at one by one.
     void expectListAsItStands(int view, int list) {
         TRVNewsCtrlView& held = session->View(view);
-        StoreTruth truth(session->BackEnd().storePath());
-        const std::vector<unsigned char> ticked = session->TickedServices(view);
+        StoreTruth truth(session->embeddedBackEnd().storePath());
+        const std::vector<unsigned char> ticked = session->tickedServices(view);
         const QDate picked =
-            QDate::fromString(QString::number(held.State()[u"pickedDate"_s].toInt()), u"yyyyMMdd"_s);
+            QDate::fromString(QString::number(held.state()[u"pickedDate"_s].toInt()), u"yyyyMMdd"_s);
         MemoryCfgIO saved;
         held.SaveViewInfo(&saved, u"Layout"_s, 0, 0);
-        const QVariantMap symbol = held.State()[u"symbol"_s].toMap();
+        const QVariantMap symbol = held.state()[u"symbol"_s].toMap();
         Keys expected;
         switch (static_cast<ListIndex>(list)) {
             case ListIndex::All:
-                expected = truth.OfDay(picked, ticked);
+                expected = truth.ofDay(picked, ticked);
                 break;
             case ListIndex::Category:
-                expected = truth.OfCategory(saved.values[u"CategoryID"_s].toInt(), ticked);
+                expected = truth.ofCategory(saved.values[u"CategoryID"_s].toInt(), ticked);
                 break;
             case ListIndex::Symbol:
-                expected = truth.OfSymbol(static_cast<unsigned char>(symbol[u"service"_s].toInt()),
+                expected = truth.ofSymbol(static_cast<unsigned char>(symbol[u"service"_s].toInt()),
                                           symbol[u"code"_s].toString(), ticked);
                 break;
             case ListIndex::Relation:
-                expected = truth.OfDay(day, ticked, [](const StoreTruth::Row& row) {
-                    return desk::IsRelated(row.category, row.title);
+                expected = truth.ofDay(day, ticked, [](const StoreTruth::Row& row) {
+                    return desk::isRelated(row.category, row.title);
                 });
                 break;
             case ListIndex::Warrant:
-                expected = truth.OfDay(picked, {52});
+                expected = truth.ofDay(picked, {52});
                 break;
             default:
                 return;
         }
-        const Keys rowsHeld = session->Keys(view, list);
+        const Keys rowsHeld = session->keysOf(view, list);
         SCOPED_TRACE(u"%1, view %2, list %3"_s.arg(day.toString()).arg(view).arg(list).toStdString());
         ASSERT_EQ(rowsHeld.size(), expected.size());
         ASSERT_TRUE(sorted(rowsHeld) == sorted(expected));
-        EXPECT_TRUE(!wire.IsOrderly() || isInOrder(rowsHeld, order));
+        EXPECT_TRUE(!wire.isOrderly() || isInOrder(rowsHeld, order));
         expectTexts(view, list, rowsHeld, truth);
     }
 
@@ -185,12 +186,12 @@ protected:
         constexpr std::size_t mostTexts = 500;
         const std::size_t step = 1 + keys.size() / mostTexts;
         for (std::size_t row = 0; row < keys.size(); row += step) {
-            const QStringList texts = session->TextsOf(view, list, static_cast<int>(row));
-            ASSERT_EQ(texts.mid(1), truth.TextsOf(keys[row])) << "row " << row;
+            const QStringList texts = session->textsOf(view, list, static_cast<int>(row));
+            ASSERT_EQ(texts.mid(1), truth.textsOf(keys[row])) << "row " << row;
             const QDateTime time = QDateTime::fromSecsSinceEpoch(keys[row].time);
             const QString ofDay = time.toString(u"HH:mm"_s);
             const QString withDate = time.toString(u"MM/dd HH:mm"_s);
-            const bool hasDate = KindOf(static_cast<ListIndex>(list)).showDate;
+            const bool hasDate = kindOf(static_cast<ListIndex>(list)).showDate;
             // Pushed rows of the relation list say their day.
             const bool mayHaveDate = hasDate || list == static_cast<int>(ListIndex::Relation);
             ASSERT_TRUE((texts[0] == ofDay && !hasDate) || (texts[0] == withDate && mayHaveDate))
@@ -204,11 +205,11 @@ protected:
         for (int view = 0; view < desk::views && !HasFatalFailure(); ++view) {
             // A list of a symbol takes the pushed news whose main symbol it is, and finds more when it is
             // read.
-            const int current = session->View(view).State()[u"mode"_s].toInt();
+            const int current = session->View(view).state()[u"mode"_s].toInt();
             if (current != static_cast<int>(ListIndex::Symbol))
                 expectListAsItStands(view, current);
-            for (const int mode : Desk::ModesOf(view)) {
-                session->GoTo(view, mode);
+            for (const int mode : Desk::modesOf(view)) {
+                session->goTo(view, mode);
                 expectListAsItStands(view, mode);
             }
         }
@@ -216,34 +217,34 @@ protected:
 
     void expectWhatBelongsThere() {
         rows.clear();
-        StoreTruth truth(session->BackEnd().storePath());
-        ASSERT_GT(truth.OfDay(day, {1}).size(), std::size_t(perDay / 10));
+        StoreTruth truth(session->embeddedBackEnd().storePath());
+        ASSERT_GT(truth.ofDay(day, {1}).size(), std::size_t(perDay / 10));
         for (int view = 0; view < desk::views; ++view) {
-            const std::vector<unsigned char> ticked = session->TickedServices(view);
-            const QVariantMap symbol = session->View(view).State()[u"symbol"_s].toMap();
+            const std::vector<unsigned char> ticked = session->tickedServices(view);
+            const QVariantMap symbol = session->View(view).state()[u"symbol"_s].toMap();
             MemoryCfgIO saved;
             session->View(view).SaveViewInfo(&saved, u"Layout"_s, 0, 0);
-            expectKeys(view, 0, truth.OfDay(day, ticked));
-            expectKeys(view, 1, truth.OfCategory(saved.values[u"CategoryID"_s].toInt(), ticked));
+            expectKeys(view, 0, truth.ofDay(day, ticked));
+            expectKeys(view, 1, truth.ofCategory(saved.values[u"CategoryID"_s].toInt(), ticked));
             expectKeys(view, 2,
-                       truth.OfSymbol(static_cast<unsigned char>(symbol[u"service"_s].toInt()),
+                       truth.ofSymbol(static_cast<unsigned char>(symbol[u"service"_s].toInt()),
                                       symbol[u"code"_s].toString(), ticked));
-            expectKeys(view, static_cast<int>(ListIndex::Warrant), truth.OfDay(day, {52}));
+            expectKeys(view, static_cast<int>(ListIndex::Warrant), truth.ofDay(day, {52}));
         }
         expectKeys(desk::relating, static_cast<int>(ListIndex::Relation),
-                   truth.OfDay(day, session->TickedServices(desk::relating), [](const StoreTruth::Row& row) {
-                       return desk::IsRelated(row.category, row.title);
+                   truth.ofDay(day, session->tickedServices(desk::relating), [](const StoreTruth::Row& row) {
+                       return desk::isRelated(row.category, row.title);
                    }));
         expectKeys(desk::searching, static_cast<int>(ListIndex::Search),
-                   truth.WithWord(WeekWire::WordOf(day)));
+                   truth.withWord(WeekWire::wordOf(day)));
         expectKeys(desk::warning, static_cast<int>(ListIndex::WarningTerm),
-                   truth.WithWord(desk::warningWord));
+                   truth.withWord(desk::warningWord));
     }
 
     void expectSameRows(const Desk& fresh) {
         for (int view = 0; view < desk::views; ++view) {
             for (int list = 0; list < listCount; ++list) {
-                ASSERT_TRUE(session->Keys(view, list) == fresh.Keys(view, list))
+                ASSERT_TRUE(session->keysOf(view, list) == fresh.keysOf(view, list))
                     << day.toString().toStdString() << ", view " << view << ", list " << list;
             }
         }
@@ -251,15 +252,15 @@ protected:
 
     // What the session holds beyond what the same desk, opened fresh on the same store, holds.
     std::int64_t memoryBeyondAFreshDesk() {
-        inUse = MemoryInUse::Now();
+        inUse = MemoryInUse::now();
         std::int64_t withFresh = 0;
         {
             Desk fresh(*session, folder.path());
-            fresh.RebuildLists(day);
+            fresh.rebuildLists(day);
             expectSameRows(fresh);
-            withFresh = MemoryInUse::Now().other;
+            withFresh = MemoryInUse::now().other;
         }
-        session->Install();
+        session->install();
         return inUse.other - (withFresh - inUse.other);
     }
 
@@ -290,19 +291,19 @@ TEST_F(Week, MemoryStaysAndEveryListHoldsWhatBelongsThere) {
         expectListsAsTheyStand();
         if (HasFatalFailure())
             return;
-        session->RebuildLists(day);
+        session->rebuildLists(day);
         expectWhatBelongsThere();
         // Days compare when their lists do: the same services, each with what the day before has.
         letTheBackEndForgetItsCaches();
-        session->TickAllServices();
-        session->RebuildLists(day);
-        session->BackEnd().takeRequests();
+        session->tickAllServices();
+        session->rebuildLists(day);
+        session->embeddedBackEnd().takeRequests();
         if (HasFatalFailure())
             return;
         expectWhatBelongsThere();
         const std::int64_t beyond = memoryBeyondAFreshDesk();
         if (wanted > 0)
-            std::cout << day.toString(u"yyyy-MM-dd"_s).toStdString() << "  sent " << wire.Sent()
+            std::cout << day.toString(u"yyyy-MM-dd"_s).toStdString() << "  sent " << wire.sentCount()
                       << "  in use " << inUse.other << " and " << inUse.ofDatabases << " of databases"
                       << "  beyond a fresh desk " << beyond << "  lived " << lived << " ms  checked "
                       << time.restart() << " ms  rows " << rows.toStdString() << std::endl;
@@ -315,5 +316,7 @@ TEST_F(Week, MemoryStaysAndEveryListHoldsWhatBelongsThere) {
         }
     }
     EXPECT_GT(breaks, days);
-    EXPECT_EQ(StoreChecker(session->BackEnd().storePath()).check().value(), QStringList{});
+    EXPECT_EQ(StoreChecker(session->embeddedBackEnd().storePath()).check().value(), QStringList{});
 }
+
+}  // namespace wirepane

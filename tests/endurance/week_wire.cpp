@@ -7,7 +7,8 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -28,7 +29,7 @@ void keep(std::deque<NewsItem>& items, const NewsItem& item) {
 
 }  // namespace
 
-std::vector<StoreItem> WeekWire::Catalogues() {
+std::vector<StoreItem> WeekWire::catalogues() {
     std::vector<StoreItem> items;
     for (int i = 0; i < 10; ++i)
         items.push_back(SymbolItem{16, QString::number(2330 + i), u"Company %1"_s.arg(i), 1});
@@ -41,30 +42,30 @@ std::vector<StoreItem> WeekWire::Catalogues() {
     return items;
 }
 
-QString WeekWire::SymbolOf(const QDate& day) {
+QString WeekWire::symbolOf(const QDate& day) {
     return QString::number(2330 + day.day() % 10);
 }
 
-QString WeekWire::WordOf(const QDate& day) {
+QString WeekWire::wordOf(const QDate& day) {
     return u"word%1"_s.arg(1000 + day.day());
 }
 
-void WeekWire::StartDay(const QDate& begun) {
+void WeekWire::startDay(const QDate& begun) {
     day = begun;
     dayBegin = day.startOfDay().toSecsSinceEpoch();
     recent.clear();
     storyLess.clear();
 }
 
-std::vector<StoreItem> WeekWire::Next(int count, double share) {
+std::vector<StoreItem> WeekWire::next(int count, double share) {
     std::vector<StoreItem> items;
     const auto moment = static_cast<std::int64_t>(share * (daySeconds - 1));
     for (int i = 0; i < count; ++i) {
         ++sent;
-        const bool isAgain = !recent.empty() && Below(10) == 0;
+        const bool isAgain = !recent.empty() && below(10) == 0;
         const NewsItem item = isAgain ? again() : fresh(moment);
         items.emplace_back(item);
-        if (!storyLess.empty() && Below(8) == 0) {
+        if (!storyLess.empty() && below(8) == 0) {
             NewsItem late = storyLess.front();
             storyLess.pop_front();
             late.story = u"The story of a headline that came before it."_s;
@@ -77,18 +78,18 @@ std::vector<StoreItem> WeekWire::Next(int count, double share) {
 // Now and then one that is an hour late, and one that belongs to the day before.
 NewsItem WeekWire::fresh(std::int64_t moment) {
     NewsItem item;
-    item.service = services[Below(std::size(services))];
+    item.service = services[below(std::size(services))];
     item.identity = u"n%1"_s.arg(++numbered);
-    const int late = IsOrderly() ? 0 : Below(30) + (Below(500) == 0 ? 3600 : 0);
-    const int dayBefore = Below(60) == 0 ? daySeconds : 0;
+    const int late = isOrderly() ? 0 : below(30) + (below(500) == 0 ? 3600 : 0);
+    const int dayBefore = below(60) == 0 ? daySeconds : 0;
     item.time = dayBegin + std::max<std::int64_t>(0, moment - late) - dayBefore;
     item.title = title();
-    item.categoryId = CategoryOf(day.addDays(Below(2)));
-    if (Below(3) == 0)
-        item.related.push_back({16, SymbolOf(day)});
-    if (Below(12) == 0)
-        item.related.push_back({16, SymbolOf(day.addDays(-1))});
-    const int kind = Below(4);
+    item.categoryId = categoryOf(day.addDays(below(2)));
+    if (below(3) == 0)
+        item.related.push_back({16, symbolOf(day)});
+    if (below(12) == 0)
+        item.related.push_back({16, symbolOf(day.addDays(-1))});
+    const int kind = below(4);
     if (kind == 0)
         item.story = u"%1 %2@@@@%3"_s.arg(title(), title(), title());
     keep(recent, item);
@@ -98,7 +99,7 @@ NewsItem WeekWire::fresh(std::int64_t moment) {
 }
 
 NewsItem WeekWire::again() {
-    NewsItem& item = recent[static_cast<std::size_t>(Below(static_cast<int>(recent.size())))];
+    NewsItem& item = recent[static_cast<std::size_t>(below(static_cast<int>(recent.size())))];
     ++item.version;
     item.title = title();
     std::erase_if(storyLess, [&](const NewsItem& other) { return other.identity == item.identity; });
@@ -108,8 +109,10 @@ NewsItem WeekWire::again() {
 QString WeekWire::title() {
     QStringList words{commonWord};
     for (int i = 0; i < 5; ++i)
-        words += word(Below(vocabulary));
-    if (Below(60) == 0)
-        words += WordOf(day);
+        words += word(below(vocabulary));
+    if (below(60) == 0)
+        words += wordOf(day);
     return words.join(u' ');
 }
+
+}  // namespace wirepane

@@ -12,6 +12,8 @@
 #include <random>
 #include <vector>
 
+namespace wirepane {
+
 // A wire of made-up news, the same for the same seed: every service, categories, related symbols, stories
 // that come with their headline, later or never, and headlines that are sent again.
 class WeekWire {
@@ -22,20 +24,20 @@ public:
     inline static const QString commonWord = QStringLiteral("wire");
     static constexpr unsigned char services[] = {1, 2, 16, 22, 52, 122};
     // The symbols and categories that the news is about.
-    static std::vector<wirepane::StoreItem> Catalogues();
-    static QString SymbolOf(const QDate& day);
-    static QString WordOf(const QDate& day);
-    static int CategoryOf(const QDate& day) { return day.dayOfWeek(); }
+    static std::vector<wirepane::StoreItem> catalogues();
+    static QString symbolOf(const QDate& day);
+    static QString wordOf(const QDate& day);
+    static int categoryOf(const QDate& day) { return day.dayOfWeek(); }
 
     // On an orderly day no headline is dated before one that came earlier, but for those of the day before.
-    void StartDay(const QDate& begun);
-    bool IsOrderly() const { return day.day() % 2 == 1; }
+    void startDay(const QDate& begun);
+    bool isOrderly() const { return day.day() % 2 == 1; }
     // The next items, as they come when `share` of the day, in [0, 1], is over.
-    std::vector<wirepane::StoreItem> Next(int count, double share);
+    std::vector<wirepane::StoreItem> next(int count, double share);
     // How many headlines were sent, those that were sent again included.
-    int Sent() const { return sent; }
+    int sentCount() const { return sent; }
 
-    int Below(int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
+    int below(int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
 
 private:
     wirepane::NewsItem fresh(std::int64_t moment);
@@ -50,3 +52,5 @@ private:
     std::deque<wirepane::NewsItem> recent;     // what may be sent again
     std::deque<wirepane::NewsItem> storyLess;  // what waits for its story
 };
+
+}  // namespace wirepane

@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 
+namespace wirepane {
+
 TEST(CellTexts, TimesAreLocal) {
     struct Case {
         std::int64_t time;
@@ -23,14 +25,14 @@ TEST(CellTexts, TimesAreLocal) {
         {std::numeric_limits<std::int64_t>::min(), "", ""},
     };
     for (const Case& c : cases) {
-        EXPECT_EQ(TimeText(c.time, false).toStdString(), c.timeOnly) << c.time;
-        EXPECT_EQ(TimeText(c.time, true).toStdString(), c.withDate) << c.time;
+        EXPECT_EQ(timeText(c.time, false).toStdString(), c.timeOnly) << c.time;
+        EXPECT_EQ(timeText(c.time, true).toStdString(), c.withDate) << c.time;
     }
 }
 
 TEST(CellTexts, ADayIsEightDigits) {
-    EXPECT_EQ(DateKey(QDate(2026, 3, 2)), QStringLiteral("20260302"));
-    EXPECT_EQ(DateKey(QDate()), QStringLiteral("-001-1-1"));
+    EXPECT_EQ(dateKey(QDate(2026, 3, 2)), QStringLiteral("20260302"));
+    EXPECT_EQ(dateKey(QDate()), QStringLiteral("-001-1-1"));
 }
 
 TEST(CellTexts, SimplifiedTextHasTheMarketsTermReplaced) {
@@ -38,9 +40,11 @@ TEST(CellTexts, SimplifiedTextHasTheMarketsTermReplaced) {
     backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS")] = QStringLiteral("资讯");
     backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_REPLASE_MESSAGE")] = QStringLiteral("信息");
     const QString title = QStringLiteral("新聞資讯與資讯");
-    EXPECT_EQ(ShownText(backEnd, 1, title), title);
+    EXPECT_EQ(shownText(backEnd, 1, title), title);
     backEnd.simplified = true;
-    EXPECT_EQ(ShownText(backEnd, 1, title), QStringLiteral("新闻信息與信息"));
+    EXPECT_EQ(shownText(backEnd, 1, title), QStringLiteral("新闻信息與信息"));
     backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS")] = QStringLiteral("");
-    EXPECT_EQ(ShownText(backEnd, 1, title), QStringLiteral("新闻资讯與资讯"));
+    EXPECT_EQ(shownText(backEnd, 1, title), QStringLiteral("新闻资讯與资讯"));
 }
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 class HeadlineColumns : public HeadlineListTest {};
@@ -23,28 +25,28 @@ TEST_F(HeadlineColumns, NewsTypesHaveTheirColumns) {
         {0, three}, {1, {u"time 100"_s, u"title 300"_s}}, {2, three}, {3, three}, {-1, three}, {99, three}};
     for (const Case& c : cases) {
         const std::unique_ptr<CSuperSheetWnd> sheet(
-            CreateHeadlineSheet(&window, {0, 0, 600, 100}, c.newsType, backEnd));
+            createHeadlineSheet(&window, {0, 0, 600, 100}, c.newsType, backEnd));
         QStringList columns;
         for (int place = 0; place < sheet->model()->columnCount(); ++place) {
-            const HeadlineColumnKind* kind = ColumnAt(c.newsType, place);
+            const HeadlineColumnKind* kind = headlineColumnAt(c.newsType, place);
             ASSERT_NE(kind, nullptr) << c.newsType;
-            EXPECT_EQ(PlaceOf(kind->column, c.newsType), place);
-            EXPECT_EQ(sheet->iGetColumn(kind->key), place);
-            columns.append(u"%1 %2"_s.arg(kind->key).arg(sheet->iGetColWidth(place)));
+            EXPECT_EQ(placeOf(kind->column, c.newsType), place);
+            EXPECT_EQ(sheet->column(kind->key), place);
+            columns.append(u"%1 %2"_s.arg(kind->key).arg(sheet->colWidth(place)));
         }
         EXPECT_EQ(columns, c.columns) << c.newsType;
-        EXPECT_EQ(ColumnAt(c.newsType, static_cast<int>(columns.size())), nullptr);
-        EXPECT_EQ(ColumnAt(c.newsType, -1), nullptr);
+        EXPECT_EQ(headlineColumnAt(c.newsType, static_cast<int>(columns.size())), nullptr);
+        EXPECT_EQ(headlineColumnAt(c.newsType, -1), nullptr);
     }
-    EXPECT_EQ(PlaceOf(HeadlineColumn::Category, 1), -1);
+    EXPECT_EQ(placeOf(HeadlineColumn::Category, 1), -1);
 }
 
 TEST_F(HeadlineColumns, HeadersSayTheirTextsAndToolTipsAsPlainText) {
     backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_CATEGORY"_s] = u"<Topic>"_s;
     backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_TITLE"_s] = u"Headline"_s;
-    const std::unique_ptr<CSuperSheetWnd> sheet(CreateHeadlineSheet(&window, {}, 0, backEnd));
+    const std::unique_ptr<CSuperSheetWnd> sheet(createHeadlineSheet(&window, {}, 0, backEnd));
     const auto header = [&](HeadlineColumn column, int role) {
-        return sheet->model()->headerData(PlaceOf(column, 0), Qt::Horizontal, role).toString();
+        return sheet->model()->headerData(placeOf(column, 0), Qt::Horizontal, role).toString();
     };
     EXPECT_EQ(header(HeadlineColumn::Title, Qt::DisplayRole), u"Headline"_s);
     EXPECT_EQ(header(HeadlineColumn::Title, Qt::ToolTipRole), QString());
@@ -52,7 +54,7 @@ TEST_F(HeadlineColumns, HeadersSayTheirTextsAndToolTipsAsPlainText) {
     EXPECT_EQ(header(HeadlineColumn::Category, Qt::ToolTipRole), u"&lt;Topic&gt;"_s);
     // After a change of language.
     backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_CATEGORY"_s] = u"分類"_s;
-    SetHeadlineSheetTexts(*sheet, 0, backEnd);
+    setHeadlineSheetTexts(*sheet, 0, backEnd);
     EXPECT_EQ(header(HeadlineColumn::Category, Qt::ToolTipRole), u"分類"_s);
 }
 
@@ -69,7 +71,9 @@ TEST_F(HeadlineColumns, RowsAreCopiedColumnByColumn) {
     for (const Case& c : cases) {
         owner.newsType = c.newsType;
         HeadlineList& all = list(ListIndex::All);
-        lists.bRebuild(ListIndex::All, TableKind::ByDate, u"20260302"_s);
-        EXPECT_EQ(all.TextOfRows({0, 1, 2, -1}), c.lines) << c.newsType;
+        lists.rebuild(ListIndex::All, TableKind::ByDate, u"20260302"_s);
+        EXPECT_EQ(all.textOfRows({0, 1, 2, -1}), c.lines) << c.newsType;
     }
 }
+
+}  // namespace wirepane

@@ -3,6 +3,8 @@
 #include "headline_list/table_reading.h"
 #include "tests/headline_list/list_fixture.h"
 
+namespace wirepane {
+
 namespace {
 
 const QString day = QStringLiteral("20260302");
@@ -17,16 +19,16 @@ TEST_F(HeadlineListTest, ADayOfTickedServicesIsMergedNewestFirst) {
     backEnd.add(16, localTime(2026, 3, 2, 9, 20), 1, QStringLiteral("not ticked"));
     backEnd.add(1, localTime(2026, 3, 1, 9, 20), 3, QStringLiteral("the day before"));
     HeadlineList& all = list(ListIndex::All);
-    EXPECT_TRUE(lists.bRebuild(ListIndex::All, TableKind::ByDate, day));
+    EXPECT_TRUE(lists.rebuild(ListIndex::All, TableKind::ByDate, day));
     EXPECT_EQ(rows(all),
               (QStringList{QStringLiteral("09:30 | Markets | b9"), QStringLiteral("09:30 | (recover) | a2"),
                            QStringLiteral("09:10 | Markets | b1"), QStringLiteral("09:00 | Markets | a1")}));
-    EXPECT_EQ(all.TextColour(0, 1), QColor(Qt::red));
-    EXPECT_FALSE(all.TextColour(1, 1).isValid());
-    EXPECT_FALSE(all.TextColour(0, titleColumn).isValid());
+    EXPECT_EQ(all.textColour(0, 1), QColor(Qt::red));
+    EXPECT_FALSE(all.textColour(1, 1).isValid());
+    EXPECT_FALSE(all.textColour(0, titleColumn).isValid());
 
-    EXPECT_FALSE(lists.bRebuild(ListIndex::All, TableKind::ByDate, QStringLiteral("20250101")));
-    EXPECT_EQ(all.pGetGrid()->iGetRowCount(), 0);
+    EXPECT_FALSE(lists.rebuild(ListIndex::All, TableKind::ByDate, QStringLiteral("20250101")));
+    EXPECT_EQ(all.grid()->rowCount(), 0);
     EXPECT_EQ(rows(all), QStringList());
 }
 
@@ -34,19 +36,19 @@ TEST_F(HeadlineListTest, OnlyVisibleRowsAreReadAndWritten) {
     for (int i = 0; i < 200; ++i)
         backEnd.add(1, localTime(2026, 3, 2, 9, 0, i % 60) + 60 * (i / 60), i, QString::number(i));
     HeadlineList& all = list(ListIndex::All);
-    lists.bRebuild(ListIndex::All, TableKind::ByDate, day);
-    const int page = all.pGetGrid()->iGetRowsPerPage();
+    lists.rebuild(ListIndex::All, TableKind::ByDate, day);
+    const int page = all.grid()->rowsPerPage();
     ASSERT_GE(page, 4);
     ASSERT_LE(page, 6);
     EXPECT_EQ(owner.rowsWritten, page + 1);
-    EXPECT_EQ(all.Text(page, titleColumn), QString::number(199 - page));
-    EXPECT_EQ(all.Text(page + 1, titleColumn), QString());
+    EXPECT_EQ(all.text(page, titleColumn), QString::number(199 - page));
+    EXPECT_EQ(all.text(page + 1, titleColumn), QString());
 
     backEnd.asked.clear();
-    all.pGetGrid()->vAutoVerScrolling(199);
+    all.grid()->vAutoVerScrolling(199);
     all.vFillHeadline();
-    EXPECT_EQ(all.Text(199, titleColumn), QStringLiteral("0"));
-    EXPECT_EQ(all.Text(100, titleColumn), QString());
+    EXPECT_EQ(all.text(199, titleColumn), QStringLiteral("0"));
+    EXPECT_EQ(all.text(100, titleColumn), QString());
     ASSERT_EQ(backEnd.asked.size(), 2);  // one request per ticked service
     EXPECT_TRUE(backEnd.asked[0].startsWith(QStringLiteral("headlines 1 [")))
         << backEnd.asked[0].toStdString();
@@ -55,7 +57,7 @@ TEST_F(HeadlineListTest, OnlyVisibleRowsAreReadAndWritten) {
 TEST_F(HeadlineListTest, ARowWithItsTitleIsNotWrittenAgain) {
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("same"), 7);
     HeadlineList& all = list(ListIndex::All);
-    lists.bRebuild(ListIndex::All, TableKind::ByDate, day);
+    lists.rebuild(ListIndex::All, TableKind::ByDate, day);
     const int written = owner.rowsWritten;
     all.vFillHeadline();
     EXPECT_EQ(owner.rowsWritten, written);
@@ -67,7 +69,7 @@ TEST_F(HeadlineListTest, ARowWithItsTitleIsNotWrittenAgain) {
     headline.sequence = 1;
     headline.title = QStringLiteral("same");
     all.vUpdateHeadline(0, headline, true);
-    EXPECT_EQ(all.Text(0, 0), QStringLiteral("09:00"));
+    EXPECT_EQ(all.text(0, 0), QStringLiteral("09:00"));
     headline.title = QStringLiteral("corrected");
     all.vUpdateHeadline(0, headline, true);
     EXPECT_EQ(rows(all), QStringList{QStringLiteral("03/02 09:00 | (recover) | corrected")});
@@ -77,7 +79,7 @@ TEST_F(HeadlineListTest, RowsWithoutAHeadlineShowThePlaceholder) {
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("late"), 7, {}, false);
     backEnd.add(1, localTime(2026, 3, 2, 8, 0), 2, QStringLiteral("here"), 7);
     HeadlineList& all = list(ListIndex::All);
-    lists.bRebuild(ListIndex::All, TableKind::ByDate, day);
+    lists.rebuild(ListIndex::All, TableKind::ByDate, day);
     EXPECT_EQ(rows(all).front(), QStringLiteral(" |  | "));
     all.vFillTempHeadline();
     EXPECT_EQ(rows(all),
@@ -104,9 +106,9 @@ TEST_F(HeadlineListTest, EachListAsksItsOwnServices) {
     };
     for (const Case& c : cases) {
         HeadlineList& tested = list(c.list);
-        tested.vSetTable(ReadServiceTable(backEnd, 52, TableKind::ByDate, day));
+        tested.setTable(readServiceTable(backEnd, 52, TableKind::ByDate, day));
         backEnd.asked.clear();
-        tested.vRefill();
+        tested.refill();
         ASSERT_EQ(backEnd.asked.size(), c.asked.size());
         for (qsizetype i = 0; i < c.asked.size(); ++i)
             EXPECT_TRUE(backEnd.asked[i].startsWith(c.asked[i])) << backEnd.asked[i].toStdString();
@@ -114,15 +116,15 @@ TEST_F(HeadlineListTest, EachListAsksItsOwnServices) {
     list(ListIndex::Category);
     list(ListIndex::Symbol);
     list(ListIndex::Relation);
-    lists.bRebuild(ListIndex::Category, TableKind::ByCategory, QStringLiteral("7"));
+    lists.rebuild(ListIndex::Category, TableKind::ByCategory, QStringLiteral("7"));
     EXPECT_EQ(rows(lists[ListIndex::Category]).size(), 2);
-    EXPECT_EQ(lists[ListIndex::Category].Text(0, 0), QStringLiteral("03/02 09:00"));
-    EXPECT_TRUE(lists.bRebuildSymbol({16, QStringLiteral("2330")}));
-    EXPECT_FALSE(lists.bRebuildSymbol({16, QStringLiteral("233")}));
+    EXPECT_EQ(lists[ListIndex::Category].text(0, 0), QStringLiteral("03/02 09:00"));
+    EXPECT_TRUE(lists.rebuildSymbol({16, QStringLiteral("2330")}));
+    EXPECT_FALSE(lists.rebuildSymbol({16, QStringLiteral("233")}));
     RelationMatcher keySets;
-    EXPECT_FALSE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &keySets));
+    EXPECT_FALSE(lists.rebuild(ListIndex::Relation, TableKind::ByDate, day, &keySets));
     keySets = RelationMatcher(std::vector<CNewsKey>{{1, {7}, {QStringLiteral("2")}}});
-    EXPECT_TRUE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &keySets));
+    EXPECT_TRUE(lists.rebuild(ListIndex::Relation, TableKind::ByDate, day, &keySets));
     EXPECT_EQ(rows(lists[ListIndex::Relation]), QStringList{QStringLiteral("09:00 | Markets | 2")});
 }
 
@@ -132,7 +134,7 @@ TEST_F(HeadlineListTest, TheRelationTestSkipsHeadlinesThatAreNotAtHand) {
     backEnd.add(1, localTime(2026, 3, 2, 7, 0), 3, QStringLiteral("RATE"), 7);
     list(ListIndex::Relation);
     const RelationMatcher keySets(std::vector<CNewsKey>{{1, {7}, {QStringLiteral("RATE")}}});
-    EXPECT_TRUE(lists.bRebuild(ListIndex::Relation, TableKind::ByDate, day, &keySets));
+    EXPECT_TRUE(lists.rebuild(ListIndex::Relation, TableKind::ByDate, day, &keySets));
     EXPECT_EQ(rows(lists[ListIndex::Relation]), QStringList{QStringLiteral("07:00 | Markets | RATE")});
 }
 
@@ -140,9 +142,9 @@ TEST_F(HeadlineListTest, TwoColumnsHaveNoCategory) {
     owner.newsType = 1;
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("two"), 7);
     HeadlineList& all = list(ListIndex::All);
-    lists.bRebuild(ListIndex::All, TableKind::ByDate, day);
+    lists.rebuild(ListIndex::All, TableKind::ByDate, day);
     EXPECT_EQ(rows(all), QStringList{QStringLiteral("09:00 | two")});
-    EXPECT_FALSE(all.TextColour(0, 1).isValid());
+    EXPECT_FALSE(all.textColour(0, 1).isValid());
     const int written = owner.rowsWritten;
     all.vFillHeadline();
     EXPECT_EQ(owner.rowsWritten, written) << "the title is compared in column 1";
@@ -152,16 +154,16 @@ TEST_F(HeadlineListTest, ACategoryKeepsItsColourInSimplifiedCharacters) {
     backEnd.simplified = true;
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("title"), 8);
     HeadlineList& all = list(ListIndex::All);
-    lists.bRebuild(ListIndex::All, TableKind::ByDate, day);
-    EXPECT_EQ(all.Text(0, 1), QStringLiteral("新闻"));
-    EXPECT_EQ(all.TextColour(0, 1), QColor(Qt::red));
+    lists.rebuild(ListIndex::All, TableKind::ByDate, day);
+    EXPECT_EQ(all.text(0, 1), QStringLiteral("新闻"));
+    EXPECT_EQ(all.textColour(0, 1), QColor(Qt::red));
 }
 
 TEST_F(HeadlineListTest, NothingHappensWithoutAGridOrARow) {
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("unseen"));
-    EXPECT_FALSE(lists.bRebuild(ListIndex::All, TableKind::ByDate, day));
-    lists[ListIndex::All].vSetTable(ReadServiceTable(backEnd, 1, TableKind::ByDate, day));
-    EXPECT_EQ(lists[ListIndex::All].Table().size(), 1);
+    EXPECT_FALSE(lists.rebuild(ListIndex::All, TableKind::ByDate, day));
+    lists[ListIndex::All].setTable(readServiceTable(backEnd, 1, TableKind::ByDate, day));
+    EXPECT_EQ(lists[ListIndex::All].headlineTable().size(), 1);
     EXPECT_EQ(owner.rowsWritten, 0);
     lists[ListIndex::All].vFillTempHeadline();
     lists[ListIndex::All].vUpdateHeadline(0, {}, true);
@@ -170,7 +172,9 @@ TEST_F(HeadlineListTest, NothingHappensWithoutAGridOrARow) {
     EXPECT_EQ(owner.rowsWritten, 0);
 
     // The grid may be destroyed before the list, and the list before the grid.
-    delete list(ListIndex::Search).pGetGrid();
-    lists[ListIndex::Search].vRefill();
-    EXPECT_EQ(lists[ListIndex::Search].pGetGrid(), nullptr);
+    delete list(ListIndex::Search).grid();
+    lists[ListIndex::Search].refill();
+    EXPECT_EQ(lists[ListIndex::Search].grid(), nullptr);
 }
+
+}  // namespace wirepane

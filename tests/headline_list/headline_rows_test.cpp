@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+namespace wirepane {
+
 namespace {
 
 // A plain list to compare with: every row has the ticket that it got when it came.
@@ -79,3 +81,5 @@ TEST(HeadlineRows, AreThoseOfAPlainList) {
         }
     }
 }
+
+}  // namespace wirepane

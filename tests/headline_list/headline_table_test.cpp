@@ -11,6 +11,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+namespace wirepane {
+
 namespace {
 
 QDate dayOf(std::int64_t time) {
@@ -29,7 +31,7 @@ void expectSameAnswers(const HeadlineTable& table, const std::vector<CHeadlineTa
         return row.service == key.service && row.sequence == key.sequence;
     };
     ASSERT_EQ(table.size(), static_cast<int>(plain.size()));
-    ASSERT_EQ(table.rowOf(key), firstRow(plain, 0, [&](const auto& row) { return KeyOf(row) == key; }));
+    ASSERT_EQ(table.rowOf(key), firstRow(plain, 0, [&](const auto& row) { return keyOf(row) == key; }));
     ASSERT_EQ(table.rowOfSameDay(key), firstRow(plain, 0, [&](const auto& row) {
                   return hasNumber(row) && dayOf(row.time) == dayOf(key.time);
               }));
@@ -70,7 +72,7 @@ TEST(HeadlineTable, FindsTheFirstRowWhateverComesAndGoes) {
         if (step % 2000 == 1000) {
             plain.assign(static_cast<std::size_t>(step / 10), {});
             std::generate(plain.begin(), plain.end(), anyEntry);
-            std::stable_sort(plain.begin(), plain.end(), NewerFirst);
+            std::stable_sort(plain.begin(), plain.end(), newerFirst);
             table.assign({plain});
         }
         const auto row = static_cast<int>(random() % (plain.size() + 1));
@@ -82,7 +84,7 @@ TEST(HeadlineTable, FindsTheFirstRowWhateverComesAndGoes) {
             plain.erase(plain.begin() + row);
             table.remove(row);
         }
-        expectSameAnswers(table, plain, KeyOf(anyEntry()));
+        expectSameAnswers(table, plain, keyOf(anyEntry()));
         if (HasFatalFailure())
             FAIL() << "step " << step;
     }
@@ -96,13 +98,15 @@ TEST(HeadlineTable, FindsEveryRowWhileItGrowsAndShrinks) {
     for (int i = 0; i < count; ++i)
         table.insert(table.insertPosition(noon + i), entry(i));
     for (int i = 0; i < count; ++i) {
-        ASSERT_EQ(table.rowOf(KeyOf(entry(i))), count - 1 - i);
+        ASSERT_EQ(table.rowOf(keyOf(entry(i))), count - 1 - i);
         ASSERT_EQ(table.rowOf({noon + i, i % 1000, 2}), -1);
     }
     for (int i = count; i-- > 0;) {
         table.remove(0);
-        ASSERT_EQ(table.rowOf(KeyOf(entry(i))), -1);
-        ASSERT_EQ(table.rowOf(KeyOf(entry(i / 2))), i == 0 ? -1 : i - 1 - i / 2);
+        ASSERT_EQ(table.rowOf(keyOf(entry(i))), -1);
+        ASSERT_EQ(table.rowOf(keyOf(entry(i / 2))), i == 0 ? -1 : i - 1 - i / 2);
     }
     EXPECT_TRUE(table.empty());
 }
+
+}  // namespace wirepane

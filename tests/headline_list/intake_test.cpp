@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 // Every list is there, has been shown and wants what the cases push, unless a case says otherwise.
@@ -120,7 +122,7 @@ TEST(Intake, AHeadlineGoesToEveryListThatWantsIt) {
         CHeadline headline;
         headline.service = c.service;
         headline.title = u"Rates rise"_s;
-        EXPECT_EQ(ListsFor({headline, c.categoryId, symbolCode}, state), c.targets) << c.what;
+        EXPECT_EQ(listsFor({headline, c.categoryId, symbolCode}, state), c.targets) << c.what;
     }
 }
 
@@ -145,6 +147,8 @@ TEST(DatePager, ADayIsCheckedAgainstTheRange) {
         {QDate(2025, 6, 19), 255, DateCheck::TooEarly},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(CheckPickedDate(c.wanted, inForce, today, c.range), c.check)
+        EXPECT_EQ(checkPickedDate(c.wanted, inForce, today, c.range), c.check)
             << c.wanted.toString(Qt::ISODate).toStdString() << " range " << c.range;
 }
+
+}  // namespace wirepane

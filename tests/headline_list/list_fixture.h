@@ -15,26 +15,28 @@
 #include <gtest/gtest.h>
 #include <vector>
 
+namespace wirepane {
+
 // Stands in for the view: services with the first two ticked, one known category.
 class FakeOwner : public ListOwner {
 public:
-    const std::vector<ServiceEntry>& vGetServices() const override { return services; }
+    const std::vector<ServiceEntry>& allServices() const override { return services; }
     int GetNewsType() const override { return newsType; }
-    QString CategoryNameOf(unsigned char service, int id) override {
+    QString categoryNameOf(unsigned char service, int id) override {
         if (id == 7 && service == warrantService)
             return QStringLiteral("Issue");
         if (id == 8)
             return QStringLiteral("新聞");
         return id == 7 ? QStringLiteral("Markets") : QStringLiteral("(recover)");
     }
-    int CategoryColourOf(unsigned char, const QString& name, QColor& text, QColor&) override {
+    int categoryColourOf(unsigned char, const QString& name, QColor& text, QColor&) override {
         if (name != QStringLiteral("Markets") && name != QStringLiteral("新聞"))
             return 0;
         text = Qt::red;
         return 1;
     }
-    void vCategoryStateAfterWriting() override { ++rowsWritten; }
-    void vRowsReplaced(ListIndex list) override { replaced.push_back(list); }
+    void categoryStateAfterWriting() override { ++rowsWritten; }
+    void rowsReplaced(ListIndex list) override { replaced.push_back(list); }
 
     std::vector<ServiceEntry> services{
         {1, true, 0, false}, {2, true, 0, false}, {16, false, 0, false}, {52, false, 0, false}};
@@ -45,7 +47,7 @@ public:
 
 class HeadlineListTest : public testing::Test {
 protected:
-    const int titleColumn = PlaceOf(HeadlineColumn::Title, 0);
+    const int titleColumn = placeOf(HeadlineColumn::Title, 0);
 
     HeadlineListTest() {
         backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_RECOVER")] = QStringLiteral("...");
@@ -53,8 +55,8 @@ protected:
 
     HeadlineList& list(ListIndex index, int height = 16 * 5 + 16 + 4) {
         HeadlineList& result = lists[index];
-        if (result.pGetGrid() == nullptr) {
-            result.vSetGrid(CreateHeadlineSheet(&window, QRect(0, 0, 600, height), owner.newsType, backEnd));
+        if (result.grid() == nullptr) {
+            result.setGrid(createHeadlineSheet(&window, QRect(0, 0, 600, height), owner.newsType, backEnd));
             window.resize(700, 900);
             window.show();
         }
@@ -64,12 +66,12 @@ protected:
     // The time, category and title of the rows as the grid shows them, " | " between the cells.
     QStringList rows(const HeadlineList& of) const {
         QStringList result;
-        for (int row = 0; row < of.pGetGrid()->iGetRowCount(); ++row) {
+        for (int row = 0; row < of.grid()->rowCount(); ++row) {
             QStringList cells;
             for (const QString& key :
                  {QStringLiteral("time"), QStringLiteral("category"), QStringLiteral("title")}) {
-                if (const int column = of.pGetGrid()->iGetColumn(key); column >= 0)
-                    cells.append(of.Text(row, column));
+                if (const int column = of.grid()->column(key); column >= 0)
+                    cells.append(of.text(row, column));
             }
             result.append(cells.join(QStringLiteral(" | ")));
         }
@@ -81,3 +83,5 @@ protected:
     QWidget window;
     HeadlineLists lists{backEnd, owner};
 };
+
+}  // namespace wirepane

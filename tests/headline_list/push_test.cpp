@@ -16,6 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 CHeadline headline(std::int64_t time, std::int32_t sequence, const QString& title,
@@ -38,7 +40,7 @@ public:
     void append(const HeadlineKey& key) { rows.push_back({key, nextId++}); }
 
     HeadlinePlace push(const CHeadline& pushed) {
-        const HeadlineKey key = KeyOf(pushed);
+        const HeadlineKey key = keyOf(pushed);
         const auto hasNumber = [&](const Row& row) {
             return row.key.service == key.service && row.key.sequence == key.sequence;
         };
@@ -91,14 +93,14 @@ protected:
         TableRuns runs(1);
         for (int i = 0; i < count; ++i)
             runs.front().push_back({noon - 60 * i, 1000 - i, 1, 0, 0});
-        result.vSetTable(runs);
-        result.vRefill();
+        result.setTable(runs);
+        result.refill();
         return result;
     }
     static std::vector<int> sequences(const HeadlineList& of) {
         std::vector<int> result;
-        for (int row = 0; row < of.Table().size(); ++row)
-            result.push_back(of.Table().at(row).sequence);
+        for (int row = 0; row < of.headlineTable().size(); ++row)
+            result.push_back(of.headlineTable().at(row).sequence);
         return result;
     }
 };
@@ -129,14 +131,14 @@ TEST_F(Push, GoesWhereItsTimeAndNumberSay) {
         HeadlineList& all = filled(ListIndex::All, 3);
         EXPECT_EQ(all.vProcessNewHeadline(c.pushed, false), c.place);
         EXPECT_EQ(sequences(all), c.sequences);
-        EXPECT_EQ(all.Text(c.place.row, titleColumn), u"n"_s);
-        EXPECT_EQ(all.Text(c.place.row, 1), u"Markets"_s);
-        EXPECT_EQ(all.Text(c.place.row, 0), QDateTime::fromSecsSinceEpoch(c.pushed.time).toString(u"HH:mm"));
-        EXPECT_EQ(all.pGetGrid()->iGetRowCount(), static_cast<int>(c.sequences.size()));
+        EXPECT_EQ(all.text(c.place.row, titleColumn), u"n"_s);
+        EXPECT_EQ(all.text(c.place.row, 1), u"Markets"_s);
+        EXPECT_EQ(all.text(c.place.row, 0), QDateTime::fromSecsSinceEpoch(c.pushed.time).toString(u"HH:mm"));
+        EXPECT_EQ(all.grid()->rowCount(), static_cast<int>(c.sequences.size()));
     }
     HeadlineList& unseen = lists[ListIndex::Symbol];
     EXPECT_EQ(unseen.vProcessNewHeadline(headline(noon, 1, u"n"_s), true), HeadlinePlace());
-    EXPECT_TRUE(unseen.Table().empty());
+    EXPECT_TRUE(unseen.headlineTable().empty());
 }
 
 // The day decides whether a headline is one sent again; which row of its number goes, the order does.
@@ -146,18 +148,18 @@ TEST_F(Push, OfTwoDaysRowsWithTheNumberTheUpperOneGoes) {
     EXPECT_EQ(all.vProcessNewHeadline(headline(noon - 30, 999, u"again"_s), false), (HeadlinePlace{0, 0}));
     EXPECT_EQ(rows(all),
               (QStringList{u"11:59 | Markets | again"_s, u" |  | "_s, u"11:59 | Markets | again"_s}));
-    EXPECT_EQ(dayOf(all.Table().at(0).time), QDate(2026, 3, 2));
+    EXPECT_EQ(dayOf(all.headlineTable().at(0).time), QDate(2026, 3, 2));
 }
 
 TEST_F(Push, RandomPushesGoWhereThePlainListSays) {
     std::mt19937 random(20260302);
     const auto below = [&](int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); };
     HeadlineList& all = filled(ListIndex::All, 40);
-    CSuperSheetWnd& sheet = *all.pGetGrid();
+    CSuperSheetWnd& sheet = *all.grid();
     QAbstractItemModelTester tester(sheet.model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
     PlainList plain;
-    for (int row = 0; row < all.Table().size(); ++row)
-        plain.append(KeyOf(all.Table().at(row)));
+    for (int row = 0; row < all.headlineTable().size(); ++row)
+        plain.append(keyOf(all.headlineTable().at(row)));
     std::set<int> chosen;
     for (const int row : {5, 9, 30}) {
         sheet.selectionModel()->setCurrentIndex(sheet.model()->index(row, 0),
@@ -174,13 +176,14 @@ TEST_F(Push, RandomPushesGoWhereThePlainListSays) {
                                               static_cast<unsigned char>(1 + below(2)));
             ASSERT_EQ(all.vProcessNewHeadline(pushed, false), plain.push(pushed)) << "batch " << batch;
         }
-        ASSERT_EQ(all.Table().size(), static_cast<int>(plain.rows.size()));
-        ASSERT_EQ(sheet.iGetRowCount(), all.Table().size());
+        ASSERT_EQ(all.headlineTable().size(), static_cast<int>(plain.rows.size()));
+        ASSERT_EQ(sheet.rowCount(), all.headlineTable().size());
         std::set<int> stillThere;
         std::vector<int> selected;
-        for (int row = 0; row < all.Table().size(); ++row) {
+        for (int row = 0; row < all.headlineTable().size(); ++row) {
             const PlainList::Row& expected = plain.rows[static_cast<std::size_t>(row)];
-            ASSERT_EQ(KeyOf(all.Table().at(row)), expected.key) << "batch " << batch << " row " << row;
+            ASSERT_EQ(keyOf(all.headlineTable().at(row)), expected.key)
+                << "batch " << batch << " row " << row;
             ASSERT_EQ(sheet.model()->index(row, 2).data().toString(), plain.titleOf(expected));
             if (chosen.count(expected.id) != 0)
                 selected.push_back(row);
@@ -189,20 +192,20 @@ TEST_F(Push, RandomPushesGoWhereThePlainListSays) {
         sheet.vGetAllSelectionNdx(rows);
         ASSERT_EQ(rows, selected) << "batch " << batch;
     }
-    EXPECT_GT(all.Table().size(), 200);
+    EXPECT_GT(all.headlineTable().size(), 200);
 }
 
 TEST_F(Push, AReaderFurtherDownKeepsTheRowsOnScreen) {
     HeadlineList& all = filled(ListIndex::All, 500);
-    CSuperSheetWnd& sheet = *all.pGetGrid();
+    CSuperSheetWnd& sheet = *all.grid();
     sheet.verticalScrollBar()->setValue(200);
-    sheet.vSetActiveSelection(202, -1);
+    sheet.setActiveSelection(202, -1);
     for (int i = 0; i < 3000; ++i)
         all.vProcessNewHeadline(headline(noon + i, 2000 + i, QString::number(i)), false);
-    EXPECT_EQ(all.Table().at(sheet.iGetFirstVisibleRow()).sequence, 800);
-    EXPECT_EQ(all.Table().at(sheet.cptGetFocusNdx().y()).sequence, 798);
+    EXPECT_EQ(all.headlineTable().at(sheet.firstVisibleRow()).sequence, 800);
+    EXPECT_EQ(all.headlineTable().at(sheet.cptGetFocusNdx().y()).sequence, 798);
     EXPECT_EQ(all.vGetShowedHeadlineTable().front().sequence, 800);
-    sheet.vResetScroll();
+    sheet.resetScroll();
     all.vProcessNewHeadline(headline(noon + 9000, 9000, u"newest"_s), false);
     EXPECT_EQ(all.vGetShowedHeadlineTable().front().sequence, 9000);
 }
@@ -227,19 +230,19 @@ TEST_F(Push, RowsOfTheRelationListKeepTheirFormOfTime) {
                      u"03/02 12:01 | Markets | 1"_s, u"12:00 | ... | ..."_s, u"11:59 | Markets | built"_s}));
 
     // The rows of a reader who is further down stay written while others are pushed.
-    CSuperSheetWnd& sheet = *relation.pGetGrid();
+    CSuperSheetWnd& sheet = *relation.grid();
     sheet.verticalScrollBar()->setValue(2);
     push(4, 1200);
-    EXPECT_EQ(relation.Text(sheet.iGetFirstVisibleRow(), titleColumn), u"1"_s);
-    EXPECT_EQ(relation.Text(sheet.iGetFirstVisibleRow() + 2, titleColumn), u"built"_s);
-    EXPECT_EQ(relation.Text(0, titleColumn), u"1199"_s);
-    EXPECT_EQ(relation.Text(1000, titleColumn), QString()) << "let go";
+    EXPECT_EQ(relation.text(sheet.firstVisibleRow(), titleColumn), u"1"_s);
+    EXPECT_EQ(relation.text(sheet.firstVisibleRow() + 2, titleColumn), u"built"_s);
+    EXPECT_EQ(relation.text(0, titleColumn), u"1199"_s);
+    EXPECT_EQ(relation.text(1000, titleColumn), QString()) << "let go";
     sheet.verticalScrollBar()->setValue(1000);
     relation.vFillHeadline();
-    EXPECT_EQ(relation.Text(1000, 0), u"03/02 15:19"_s);
-    relation.vForgetWrittenCells();
+    EXPECT_EQ(relation.text(1000, 0), u"03/02 15:19"_s);
+    relation.forgetWrittenCells();
     relation.vFillHeadline();
-    EXPECT_EQ(relation.Text(1000, 0), u"03/02 15:19"_s) << "also after a change of language";
+    EXPECT_EQ(relation.text(1000, 0), u"03/02 15:19"_s) << "also after a change of language";
 
     // A title that has changed meanwhile is written in the list's own form.
     relation.vUpdateHeadline(1000, headline(noon + 60 * 199, 199, u"corrected"_s), false);
@@ -250,18 +253,20 @@ TEST_F(Push, RowsAreWrittenFromTheBackEndByEntryAndAtTheTop) {
     HeadlineList& all = filled(ListIndex::Relation, 300);
     for (const int i : {0, 1, 100})
         backEnd.add(1, noon - 60 * i, 1000 - i, u"RATE %1"_s.arg(i), 7);
-    all.vUpdateHeadline({all.Table().at(1), all.Table().at(100), {noon, 77, 1, 0, 0}});
-    EXPECT_EQ(all.Text(0, titleColumn), QString());
-    EXPECT_EQ(all.Text(1, titleColumn), u"RATE 1"_s);
-    EXPECT_EQ(all.Text(100, titleColumn), u"RATE 100"_s);
+    all.vUpdateHeadline({all.headlineTable().at(1), all.headlineTable().at(100), {noon, 77, 1, 0, 0}});
+    EXPECT_EQ(all.text(0, titleColumn), QString());
+    EXPECT_EQ(all.text(1, titleColumn), u"RATE 1"_s);
+    EXPECT_EQ(all.text(100, titleColumn), u"RATE 100"_s);
     const RelationMatcher oil(std::vector<CNewsKey>{{1, {7}, {u"OIL"_s}}});
     const RelationMatcher rate(std::vector<CNewsKey>{{1, {7}, {u"RATE"_s}}});
     all.vUpdataTopHeadline(false, &oil);
-    EXPECT_EQ(all.Text(0, titleColumn), QString());
+    EXPECT_EQ(all.text(0, titleColumn), QString());
     all.vUpdataTopHeadline(true, &rate);
-    EXPECT_EQ(all.Text(0, 0), u"03/02 12:00"_s);
+    EXPECT_EQ(all.text(0, 0), u"03/02 12:00"_s);
     all.vDeleteHeadline(0);
     all.vDeleteHeadline(299);
-    EXPECT_EQ(all.pGetGrid()->iGetRowCount(), 299);
-    EXPECT_EQ(all.Text(0, titleColumn), u"RATE 1"_s);
+    EXPECT_EQ(all.grid()->rowCount(), 299);
+    EXPECT_EQ(all.text(0, titleColumn), u"RATE 1"_s);
 }
+
+}  // namespace wirepane

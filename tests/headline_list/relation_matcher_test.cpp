@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 TEST(RelationMatcher, MatchesAsStated) {
     constexpr std::int32_t every = CNewsKey::everyNewsType;
     struct Case {
@@ -194,3 +196,5 @@ TEST(RelationMatcher, OutlivesItsKeySets) {
     EXPECT_FALSE(matcher.CheckIsRelationSearch(headline, 1, {}));
     EXPECT_TRUE(matcher.empty());
 }
+
+}  // namespace wirepane

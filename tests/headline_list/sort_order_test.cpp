@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+namespace wirepane {
+
 namespace {
 
 CHeadlineTable entry(std::int64_t time, std::int32_t sequence, unsigned char service = 1,
@@ -19,7 +21,7 @@ template <class Entries>
 std::vector<HeadlineKey> keysOf(const Entries& entries) {
     std::vector<HeadlineKey> keys;
     for (const CHeadlineTable& e : entries)
-        keys.push_back(KeyOf(e));
+        keys.push_back(keyOf(e));
     return keys;
 }
 
@@ -44,7 +46,7 @@ TEST(SortOrder, IsDescendingFieldByField) {
         {"equal", entry(100, 5, 200, 7, 9), false},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(NewerFirst(reference, c.other), c.referenceFirst) << c.what;
+        EXPECT_EQ(newerFirst(reference, c.other), c.referenceFirst) << c.what;
 }
 
 // Whatever the runs are like, the result is what a stable sort of the concatenation gives.
@@ -61,12 +63,12 @@ TEST(SortOrder, MergingEqualsAStableSort) {
                 run.push_back(entry(random() % 20, static_cast<std::int32_t>(random() % 4),
                                     static_cast<unsigned char>(number)));
             if (random() % 8 != 0)
-                std::stable_sort(run.begin(), run.end(), NewerFirst);
+                std::stable_sort(run.begin(), run.end(), newerFirst);
             expected.insert(expected.end(), run.begin(), run.end());
         }
-        std::stable_sort(expected.begin(), expected.end(), NewerFirst);
+        std::stable_sort(expected.begin(), expected.end(), newerFirst);
         std::vector<CHeadlineTable> sorted;
-        SortedNewestFirst(runs).forEach(
+        sortedNewestFirst(runs).forEach(
             [&](HeadlineRows::Ticket, const CHeadlineTable& e) { sorted.push_back(e); });
         ASSERT_EQ(keysOf(sorted), keysOf(expected)) << "round " << round;
     }
@@ -82,13 +84,13 @@ TEST(HeadlineTable, FindsTheFirstRowOfEveryKey) {
             entries.push_back(entry(random() % 500, static_cast<std::int32_t>(random() % 3),
                                     static_cast<unsigned char>(random() % 2)));
         table.assign({entries});
-        std::stable_sort(entries.begin(), entries.end(), NewerFirst);
+        std::stable_sort(entries.begin(), entries.end(), newerFirst);
         ASSERT_EQ(table.size(), size);
         for (int row = 0; row < size; ++row) {
             const auto first = std::find_if(entries.begin(), entries.end(), [&](const CHeadlineTable& e) {
-                return KeyOf(e) == KeyOf(entries[static_cast<std::size_t>(row)]);
+                return keyOf(e) == keyOf(entries[static_cast<std::size_t>(row)]);
             });
-            ASSERT_EQ(table.rowOf(KeyOf(table.at(row))), first - entries.begin())
+            ASSERT_EQ(table.rowOf(keyOf(table.at(row))), first - entries.begin())
                 << "row " << row << " of " << size;
         }
         EXPECT_EQ(table.rowOf({1000, 0, 0}), -1);
@@ -113,3 +115,5 @@ TEST(HeadlineTable, CutsRowsAtTheEnd) {
         EXPECT_EQ(times, c.times) << c.from << " +" << c.count;
     }
 }
+
+}  // namespace wirepane

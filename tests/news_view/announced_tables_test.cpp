@@ -3,12 +3,14 @@
 // Tables and answers that the back end tells of by itself, and news that a list was read with before it is
 // told.
 #include "host/contract/news_positions.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "tests/news_view/view_fixture.h"
 
 #include <QScrollBar>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -38,15 +40,15 @@ protected:
         view->vRecvCatHeadlineTableRecovery(&info);
     }
     // The number of the headline in a row.
-    int numberAt(int list, int row) const { return view->Keys(list, row, 1).at(0).sequence; }
-    int firstShown(int list) const { return numberAt(list, view->Sheet(list)->iGetFirstVisibleRow()); }
+    int numberAt(int list, int row) const { return view->keysOf(list, row, 1).at(0).sequence; }
+    int firstShown(int list) const { return numberAt(list, view->sheetOf(list)->firstVisibleRow()); }
     int focused(int list) const {
-        const int row = view->Sheet(list)->cptGetFocusNdx().y();
+        const int row = view->sheetOf(list)->cptGetFocusNdx().y();
         return row < 0 ? -1 : numberAt(list, row);
     }
     std::vector<int> selected(int list) const {
         std::vector<int> rows;
-        view->Sheet(list)->vGetAllSelectionNdx(rows);
+        view->sheetOf(list)->vGetAllSelectionNdx(rows);
         for (int& row : rows)
             row = numberAt(list, row);
         return rows;
@@ -61,13 +63,13 @@ TEST_F(AnnouncedTables, WhatTheReaderLooksAtStaysWhereItIs) {
         backEnd.addStory({entry.time, u"Story %1"_s.arg(minute + 1) + QString(5000, u'x'), entry});
     }
     openWithRows({{u"NewsShowType"_s, 1}});
-    CSuperSheetWnd& sheet = *view->Sheet(allMode);
+    CSuperSheetWnd& sheet = *view->sheetOf(allMode);
     sheet.verticalScrollBar()->setValue(20);
-    sheet.vSetActiveSelection(22, -1);
+    sheet.setActiveSelection(22, -1);
     sheet.selectionModel()->select(sheet.model()->index(25, 0),
                                    QItemSelectionModel::Select | QItemSelectionModel::Rows);
     QCoreApplication::processEvents();
-    const QVariantMap before = view->StoryState(false);
+    const QVariantMap before = view->storyState(false);
     backEnd.asked.clear();
     for (int number = 100; number < 110; ++number) {
         addNews(1, 8, 0, number);
@@ -79,16 +81,16 @@ TEST_F(AnnouncedTables, WhatTheReaderLooksAtStaysWhereItIs) {
     EXPECT_EQ(firstShown(allMode), 39);
     EXPECT_EQ(focused(allMode), 37);
     EXPECT_EQ(selected(allMode), (std::vector<int>{37, 34}));
-    const QVariantMap after = view->StoryState(false);
+    const QVariantMap after = view->storyState(false);
     EXPECT_EQ(after[u"title"_s], before[u"title"_s]);
     EXPECT_EQ(numberAt(allMode, after[u"position"_s].toInt()), 37) << "paging goes on from its row";
     EXPECT_TRUE(backEnd.asked.filter(u"story "_s).isEmpty()) << "it is not even drawn again";
-    EXPECT_EQ(titles(allMode).at(sheet.iGetFirstVisibleRow()), u"s1 9:38"_s);
+    EXPECT_EQ(titles(allMode).at(sheet.firstVisibleRow()), u"s1 9:38"_s);
 
     // What this view asked for, and what it is told at its top, is shown from the top.
-    EXPECT_TRUE(view->OnCommand(ids::recoverHeadlineTable));
+    EXPECT_TRUE(view->onCommand(ids::recoverHeadlineTable));
     tellDate();
-    EXPECT_EQ(sheet.iGetFirstVisibleRow(), 0);
+    EXPECT_EQ(sheet.firstVisibleRow(), 0);
     EXPECT_EQ(focused(allMode), -1);
     addNews(2, 11, 0, 200);
     tellDate();
@@ -98,7 +100,7 @@ TEST_F(AnnouncedTables, WhatTheReaderLooksAtStaysWhereItIs) {
 TEST_F(AnnouncedTables, AnAnswerThatNobodyWaitsForSelectsNothingElse) {
     open({{u"NewsShowType"_s, 1}});
     view->SwitchFunction(searchMode);
-    auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit));
+    auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
     edit->setText(u"gold"_s);
     for (int minute = 0; minute < 59; ++minute) {
         addNews(1, 9, minute, minute + 1);
@@ -110,14 +112,14 @@ TEST_F(AnnouncedTables, AnAnswerThatNobodyWaitsForSelectsNothingElse) {
     condition.method = 1;
     view->RespSearchHeadLineTable(condition, 1);
     EXPECT_EQ(focused(searchMode), 59);
-    CSuperSheetWnd& sheet = *view->Sheet(searchMode);
+    CSuperSheetWnd& sheet = *view->sheetOf(searchMode);
     sheet.verticalScrollBar()->setValue(20);
-    sheet.vSetActiveSelection(22, -1);
+    sheet.setActiveSelection(22, -1);
     backEnd.searchTables[2].push_back({localTime(2026, 3, 2, 10, 0), 7, 2, 0, 0});
     view->RespSearchHeadLineTable(condition, 2);
     EXPECT_EQ(focused(searchMode), 7) << "the service was asked: its first row";
     sheet.verticalScrollBar()->setValue(20);
-    sheet.vSetActiveSelection(22, -1);
+    sheet.setActiveSelection(22, -1);
     const int focus = focused(searchMode);
     const int first = firstShown(searchMode);
     backEnd.searchTables[2].push_back({localTime(2026, 3, 2, 10, 1), 8, 2, 0, 0});
@@ -205,8 +207,8 @@ TEST_F(AnnouncedTables, AViewOfWarrantsAloneHasADayAndFollowsTheirs) {
 
 TEST_F(AnnouncedTables, AHeadlineThatAListWasReadWithIsNotTakenAgain) {
     struct Numbered : FakeBackEnd, NewsPositions {
-        std::int64_t ReadPosition() override { return latest; }
-        std::int64_t ToldPosition() const override { return told; }
+        std::int64_t readPosition() override { return latest; }
+        std::int64_t positionTold() const override { return told; }
         std::int64_t latest = 0;
         std::int64_t told = 0;
     } numbered;
@@ -244,3 +246,5 @@ TEST_F(AnnouncedTables, AHeadlineThatAListWasReadWithIsNotTakenAgain) {
     EXPECT_EQ(titles(allMode).front(), u"n4"_s) << "without a number it counts as sent again";
     view.reset();
 }
+
+}  // namespace wirepane

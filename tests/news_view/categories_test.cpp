@@ -3,7 +3,7 @@
 // What the topics are called, where their names come from, and what the combo offers of them.
 #include "host/contract/item_display.h"
 #include "host/controls/sc_combo_box.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "tests/news_view/view_fixture.h"
 
 #include <QAbstractItemView>
@@ -12,6 +12,8 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -22,9 +24,9 @@ const QString pending = u"IDS_NEWSCTRLVIEW_STRING_RECOVER"_s;
 // Category 1 in red, and in green where it is one of warrants.
 class Colours : public TRVItemDisplay {
 public:
-    Colours() { SetItemDisplay(this); }
+    Colours() { setItemDisplay(this); }
     void GetNewsCatColor(int id, QColor& text, QColor&) override { text = id == 1 ? Qt::red : QColor(); }
-    void GetWarrantCatColor(int id, QColor& text, QColor&) override { text = id == 1 ? Qt::green : QColor(); }
+    void warrantCatColor(int id, QColor& text, QColor&) override { text = id == 1 ? Qt::green : QColor(); }
 };
 
 class Categories : public NewsViewTest {
@@ -37,7 +39,7 @@ protected:
         settle();
     }
     void settle() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
     }
     void publish(unsigned char service, std::int32_t sequence, int category) {
         const QString name = u"n%1"_s.arg(sequence);
@@ -51,15 +53,13 @@ protected:
         view->RecvNewHeadLine(&headline, QString::number(category), {});
     }
     QString topic(int list, int row) const {
-        EXPECT_GT(view->Sheet(list)->iGetRowCount(), row);
-        return view->Sheet(list)->model()->index(row, 1).data().toString();
+        EXPECT_GT(view->sheetOf(list)->rowCount(), row);
+        return view->sheetOf(list)->model()->index(row, 1).data().toString();
     }
     QColor colour(int list) const {
-        return view->Sheet(list)->model()->index(0, 1).data(Qt::ForegroundRole).value<QBrush>().color();
+        return view->sheetOf(list)->model()->index(0, 1).data(Qt::ForegroundRole).value<QBrush>().color();
     }
-    SCComboBox& combo() const {
-        return *qobject_cast<SCComboBox*>(GetDlgItem(view.get(), ids::categoryCombo));
-    }
+    SCComboBox& combo() const { return *qobject_cast<SCComboBox*>(dlgItem(view.get(), ids::categoryCombo)); }
     QStringList items() const {
         QStringList texts;
         for (int i = 0; i < combo().count(); ++i)
@@ -109,10 +109,10 @@ TEST_F(Categories, ANameThatComesLaterReachesTheRowsThatLackIt) {
     settle();
     EXPECT_EQ(topic(0, 2), u"Shipping");
     writeFile(u"NewsService.ini"_s, "[CONFIG]\nCatId=1,7\nSHORTNAME=Exchange,Ships\n");
-    view->vReloadCategories();
+    view->reloadCategories();
     EXPECT_EQ(topic(0, 2), u"Ships") << "the host has changed its file";
     EXPECT_EQ(topic(0, 1), u"Exchange");
-    EXPECT_EQ(view->Sheet(0)->model()->index(2, 2).data().toString(), u"s1 9:00");
+    EXPECT_EQ(view->sheetOf(0)->model()->index(2, 2).data().toString(), u"s1 9:00");
 }
 
 TEST_F(Categories, TheComboLearnsTopicsAndKeepsItsChoice) {
@@ -133,7 +133,7 @@ TEST_F(Categories, TheComboLearnsTopicsAndKeepsItsChoice) {
     combo().showPopup();
     backEnd.categories[1].push_back({u"8"_s, u"Steel"_s});
     publish(1, 2, 8);
-    view->vReloadCategories();
+    view->reloadCategories();
     settle();
     EXPECT_EQ(combo().count(), 3) << "not under the hand of the user";
     combo().view()->setCurrentIndex(combo().model()->index(0, 0));
@@ -149,7 +149,7 @@ TEST_F(Categories, AComboThatLearnsItsFirstTopicChoosesIt) {
     openAt(categoryMode, {{u"CategoryID"_s, u"2"_s}});
     EXPECT_EQ(items(), QStringList());
     backEnd.categories = all;
-    view->vReloadCategories();
+    view->reloadCategories();
     EXPECT_EQ(combo().currentText(), u"Economy") << "the stored one";
     EXPECT_EQ(titles(categoryMode), QStringList{u"s1 9:00"_s});
     view->SwitchFunction(0);
@@ -210,14 +210,16 @@ TEST_F(Categories, TopicsWithoutANameCostOneReadingABurst) {
 TEST_F(Categories, WrittenRowsLeaveTheColumnAlone) {
     addNews(1, 9, 0, 1);
     openAt(0);
-    const auto* header = qobject_cast<const QTableView*>(view->Sheet(0))->horizontalHeader();
+    const auto* header = qobject_cast<const QTableView*>(view->sheetOf(0))->horizontalHeader();
     int resized = 0;
     QObject::connect(header, &QHeaderView::sectionResized, header, [&resized] { ++resized; });
     for (int i = 2; i < 20; ++i)
         push(1, 9, 30, i);
     EXPECT_EQ(resized, 0);
-    EXPECT_EQ(view->Sheet(0)->iGetColWidth(1), 50);
-    view->OnCommand(ids::changeCategoryState);
+    EXPECT_EQ(view->sheetOf(0)->colWidth(1), 50);
+    view->onCommand(ids::changeCategoryState);
     push(1, 9, 31, 30);
-    EXPECT_EQ(view->Sheet(0)->iGetColWidth(1), 0);
+    EXPECT_EQ(view->sheetOf(0)->colWidth(1), 0);
 }
+
+}  // namespace wirepane

@@ -5,7 +5,7 @@
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/window_id.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "story/news_story_view.h"
 #include "story/quote_dlg_tip_msg.h"
 #include "story/story_ids.h"
@@ -16,6 +16,8 @@
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -36,9 +38,9 @@ protected:
         open(stored);
         frame.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
-        picker = qobject_cast<SDateTimeCtrl*>(GetDlgItem(view.get(), ids::datePicker));
+        picker = qobject_cast<SDateTimeCtrl*>(dlgItem(view.get(), ids::datePicker));
         ASSERT_NE(picker, nullptr);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
         backEnd.asked.clear();
     }
 
@@ -97,7 +99,7 @@ TEST_F(Dates, OnlyTheDateInForceWhenTheCalendarClosesCounts) {
     picker->setDate({2026, 3, 1});
     picker->setDate({2026, 2, 20});
     EXPECT_EQ(tablesRead(), QStringList());
-    picker->vSetDate({2026, 3, 1});
+    picker->showDate({2026, 3, 1});
     view->OnDateTimeCloseUp();
     EXPECT_EQ(titles(0), QStringList{u"yesterday"_s});
     EXPECT_EQ(tablesRead().size(), 5) << "once, from the five ticked services";
@@ -164,23 +166,23 @@ TEST_F(Dates, ANewDayDuringTheWarrantModeFollowsTheUsersChoice) {
 }
 
 TEST_F(Dates, ADayThatItsMonthLacksCountsOn) {
-    EXPECT_EQ(DayOfNumber(20260231), QDate(2026, 3, 3));
-    EXPECT_EQ(DayOfNumber(20240229), QDate(2024, 2, 29));
-    EXPECT_THROW(DayOfNumber(20261300), std::invalid_argument);
+    EXPECT_EQ(dayOfNumber(20260231), QDate(2026, 3, 3));
+    EXPECT_EQ(dayOfNumber(20240229), QDate(2024, 2, 29));
+    EXPECT_THROW(dayOfNumber(20261300), std::invalid_argument);
 }
 
 TEST_F(Dates, GoingToARowShowsItsStory) {
     const CHeadlineTable first{localTime(2026, 3, 2, 9, 0), 1, 1, 0, 0};
     backEnd.addStory({first.time, u"the story"_s, first});
     openActive();
-    auto* pane = qobject_cast<NewsStoryView*>(GetDlgItem(view.get(), ids::firstChildView + ids::storyPane));
+    auto* pane = qobject_cast<NewsStoryView*>(dlgItem(view.get(), ids::firstChildView + ids::storyPane));
     ASSERT_NE(pane, nullptr);
     view->SwitchFunction(3);
     EXPECT_TRUE(view->bChangeNewsPos(0, 1));
     EXPECT_EQ(state(u"mode"_s).toInt(), 0);
-    EXPECT_EQ(view->Sheet(0)->cptGetFocusNdx().y(), 1);
-    EXPECT_TRUE(static_cast<MyRichEdit*>(GetDlgItem(pane, story_ids::storyText))
-                    ->szGetText()
+    EXPECT_EQ(view->sheetOf(0)->cptGetFocusNdx().y(), 1);
+    EXPECT_TRUE(static_cast<MyRichEdit*>(dlgItem(pane, story_ids::storyText))
+                    ->literalText()
                     .contains(u"the story"_s));
     const std::pair<int, int> positions[] = {{0, 0}, {2, 2}, {3, 1}, {-4, 0}};
     for (const auto& [wanted, held] : positions) {
@@ -188,3 +190,5 @@ TEST_F(Dates, GoingToARowShowsItsStory) {
         EXPECT_EQ(pane->GetHeadLinePos(), held) << wanted;
     }
 }
+
+}  // namespace wirepane

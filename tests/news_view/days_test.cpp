@@ -6,11 +6,13 @@
 #include "headline_list/language_keys.h"
 #include "headline_list/relation_matcher.h"
 #include "host/controls/s_date_time_ctrl.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/sent_again.h"
 #include "tests/news_view/owner_fixture.h"
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -20,9 +22,9 @@ class DaysTest : public OwnerTest {
 protected:
     DaysTest() { days.setRange(3); }
 
-    SDateTimeCtrl& picker() { return *controls.Find<SDateTimeCtrl>(ids::datePicker); }
+    SDateTimeCtrl& picker() { return *controls.find<SDateTimeCtrl>(ids::datePicker); }
     void givePicker() {
-        controls.vCreateDatePicker(QRect(0, 0, 100, 20), today);
+        controls.createDatePicker(QRect(0, 0, 100, 20), today);
         days.connectPicker();
     }
 
@@ -40,7 +42,7 @@ protected:
 TEST_F(DaysTest, AViewStandsAtADayByItsPickerOrByItsWarrants) {
     EXPECT_FALSE(days.hasDay());
     EXPECT_NE(days.pickedKey(), u"20260302"_s);
-    settings.functions = ModeOf(ListIndex::Warrant).maskBit;
+    settings.functions = modeOf(ListIndex::Warrant).maskBit;
     EXPECT_TRUE(days.hasDay());
     settings.functions = defaultFunctionMask;
     givePicker();
@@ -88,12 +90,12 @@ TEST_F(DaysTest, ADateIsTakenWithinTheRangeAndToldOtherwise) {
 TEST_F(DaysTest, WhileTheCalendarIsOpenNothingIsPicked) {
     givePicker();
     emit picker().DropDown();
-    emit picker().DateTimeChange(QDate(2026, 3, 1));
+    emit picker().dateTimeChange(QDate(2026, 3, 1));
     EXPECT_EQ(days.picked(), today);
-    picker().vSetDate(QDate(2026, 3, 1));
-    emit picker().CloseUp(QDate(2026, 3, 1));
+    picker().showDate(QDate(2026, 3, 1));
+    emit picker().closeUp(QDate(2026, 3, 1));
     EXPECT_EQ(days.picked(), QDate(2026, 3, 1));
-    emit picker().DateTimeChange(today);
+    emit picker().dateTimeChange(today);
     EXPECT_EQ(days.picked(), today);
 }
 
@@ -124,7 +126,7 @@ TEST_F(DaysTest, ANewsDayOfATickedServiceIsFollowed) {
         if (c.isFollowed) {
             EXPECT_EQ(tables, (QStringList{u"table 1 0 20260303"_s, u"table 2 0 20260302"_s}));
             EXPECT_EQ(tip.text(), u"S1 "_s + keys::clearService);
-            EXPECT_EQ(services.Entries()[0].date, 20260303);
+            EXPECT_EQ(services.currentServices()[0].date, 20260303);
         }
     }
     EXPECT_EQ(days.newsDay(), QDate(2026, 3, 3));
@@ -263,10 +265,10 @@ TEST_F(SentAgainTest, AServiceWithoutDataIsNamedOnce) {
 TEST_F(SentAgainTest, ATableOfNewsItselfAlsoFillsTheWarningTerms) {
     view.add(1);
     sentAgain.takeDateTable(info(1, dateKey));
-    EXPECT_EQ(view.lists[ListIndex::WarningTerm].Table().size(), 0);
+    EXPECT_EQ(view.lists[ListIndex::WarningTerm].headlineTable().size(), 0);
     switches.showWarningSearch = true;
     sentAgain.takeDateTable(info(1, dateKey));
-    EXPECT_EQ(view.lists[ListIndex::WarningTerm].Table().size(), 1);
+    EXPECT_EQ(view.lists[ListIndex::WarningTerm].headlineTable().size(), 1);
 }
 
 TEST_F(SentAgainTest, UnaskedTablesAreReadNowOrWhenTheirListIsShown) {
@@ -274,19 +276,21 @@ TEST_F(SentAgainTest, UnaskedTablesAreReadNowOrWhenTheirListIsShown) {
     view.shown = ListIndex::All;
     sentAgain.takeDateTable(info(1, dateKey));
     EXPECT_FALSE(wasRead()) << "never shown";
-    EXPECT_FALSE(view.lists.bHasMissed(ListIndex::All));
-    loading.bTakeLoad(ListIndex::All);
-    loading.bTakeLoad(ListIndex::Relation);
+    EXPECT_FALSE(view.lists.hasMissed(ListIndex::All));
+    loading.takeLoad(ListIndex::All);
+    loading.takeLoad(ListIndex::Relation);
     sentAgain.takeDateTable(info(1, dateKey));
     EXPECT_TRUE(wasRead());
-    EXPECT_TRUE(view.lists.bHasMissed(ListIndex::Relation));
+    EXPECT_TRUE(view.lists.hasMissed(ListIndex::Relation));
     sentAgain.takeDateTable(info(16, dateKey));
     EXPECT_FALSE(wasRead()) << "not ticked";
-    loading.bTakeLoad(ListIndex::Category);
-    loading.bTakeLoad(ListIndex::Warrant);
+    loading.takeLoad(ListIndex::Category);
+    loading.takeLoad(ListIndex::Warrant);
     sentAgain.takeCategoryTable(info(1, u"7"_s));
     sentAgain.takeDateTable(info(52, dateKey));
     EXPECT_FALSE(wasRead());
-    EXPECT_TRUE(view.lists.bHasMissed(ListIndex::Category));
-    EXPECT_TRUE(view.lists.bHasMissed(ListIndex::Warrant));
+    EXPECT_TRUE(view.lists.hasMissed(ListIndex::Category));
+    EXPECT_TRUE(view.lists.hasMissed(ListIndex::Warrant));
 }
+
+}  // namespace wirepane

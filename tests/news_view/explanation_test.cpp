@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 const QString today = u"20260302"_s;
@@ -48,11 +50,11 @@ protected:
     }
 
     void readAll(RelationFilter filter) {
-        lists.bRebuild(ListIndex::All, TableKind::ByDate, today, filter);
-        lists.bRebuild(ListIndex::Category, TableKind::ByCategory, u"7"_s, filter);
-        lists.bRebuildSymbol({16, u"2330"_s}, filter);
-        lists.bRebuild(ListIndex::Relation, TableKind::ByDate, today, &keySets);
-        lists.bRebuildWarrant(today);
+        lists.rebuild(ListIndex::All, TableKind::ByDate, today, filter);
+        lists.rebuild(ListIndex::Category, TableKind::ByCategory, u"7"_s, filter);
+        lists.rebuildSymbol({16, u"2330"_s}, filter);
+        lists.rebuild(ListIndex::Relation, TableKind::ByDate, today, &keySets);
+        lists.rebuildWarrant(today);
     }
 
     ExplainedView view() {
@@ -62,7 +64,7 @@ protected:
     }
 
     QString explained(const ExplainedView& of, ListIndex index, const HeadlineKey& key) {
-        const std::vector<HeadlineStanding> standings = ExplainHeadline(of, key);
+        const std::vector<HeadlineStanding> standings = explainHeadline(of, key);
         return textOf(standings.at(static_cast<std::size_t>(index)));
     }
 
@@ -113,10 +115,10 @@ TEST_F(ExplanationTest, TellsOfListsThatWereReadUnderTheKeySets) {
     EXPECT_EQ(explained(view(), ListIndex::Symbol, dayBefore),
               u"row 1: told, service (1), symbol 2330, filter ticked"_s);
     // And of the list of the key sets that was read without them.
-    lists.bRebuild(ListIndex::Relation, TableKind::ByDate, today, nullptr);
+    lists.rebuild(ListIndex::Relation, TableKind::ByDate, today, nullptr);
     EXPECT_EQ(explained(view(), ListIndex::Relation, oil), u"row 0: told, service (2), day 20260302"_s);
     keySets = {};
-    lists.bRebuild(ListIndex::Relation, TableKind::ByDate, today, &keySets);
+    lists.rebuild(ListIndex::Relation, TableKind::ByDate, today, &keySets);
     EXPECT_EQ(explained(view(), ListIndex::Relation, rate),
               u"-: told, service (1), day 20260302, not keySets"_s);
 }
@@ -132,13 +134,13 @@ TEST_F(ExplanationTest, TellsWhatIsNotChosenAndNotReadYet) {
 
     // What was found stands there, and a list without a grid is not told of.
     fresh.wasSearched.fill(true);
-    lists[ListIndex::Search].vSetTable(TableRuns{{{rate.time, rate.sequence, rate.service, 0, 0}}});
+    lists[ListIndex::Search].setTable(TableRuns{{{rate.time, rate.sequence, rate.service, 0, 0}}});
     EXPECT_EQ(explained(fresh, ListIndex::Search, rate),
               u"not read, row 0: told, service (1), search found"_s);
     EXPECT_EQ(explained(fresh, ListIndex::WarningTerm, rate),
               u"not read, -: told, service (1), not search found"_s);
-    delete lists[ListIndex::WarningTerm].pGetGrid();
-    EXPECT_EQ(ExplainHeadline(fresh, rate).size(), 6u);
+    delete lists[ListIndex::WarningTerm].grid();
+    EXPECT_EQ(explainHeadline(fresh, rate).size(), 6u);
 }
 
 // The view explains with its own ticks, day, topic and lists.
@@ -149,7 +151,7 @@ TEST_F(NewsViewTest, ExplainsAsItStands) {
     const auto explained = [this](int list, unsigned char service) {
         const int minute = service == 1 ? 0 : 10;
         for (const HeadlineStanding& standing :
-             view->Explain({localTime(2026, 3, 2, 9, minute), service, service})) {
+             view->explain({localTime(2026, 3, 2, 9, minute), service, service})) {
             if (standing.list == list)
                 return textOf(standing);
         }
@@ -158,10 +160,12 @@ TEST_F(NewsViewTest, ExplainsAsItStands) {
     EXPECT_EQ(explained(0, 1), u"row 0: told, service (1), day 20260302"_s);
     EXPECT_EQ(explained(0, 2), u"-: told, not service (2)"_s);
     EXPECT_EQ(explained(1, 1), u"not read, -: told, service (1), not topic (2)"_s);
-    view->ShowEachList();
+    view->showEachList();
     EXPECT_EQ(state(u"mode"_s), 0) << "the list that was on show is so again";
     EXPECT_EQ(explained(1, 1), u"row 0: told, service (1), topic 2"_s);
     EXPECT_EQ(explained(3, 1), u"-: told, service (1), not search"_s);
 }
 
 }  // namespace
+
+}  // namespace wirepane

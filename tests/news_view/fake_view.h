@@ -19,6 +19,8 @@
 #include "story/story_owner.h"
 #include "tests/support/fake_back_end.h"
 
+namespace wirepane {
+
 // What an owner of a part of the view's work sees of it, without the view: lists with grids on a bare window,
 // and a note of what the owner asked for. The headlines are those of 2 March 2026 of service 1.
 class FakeView : public ViewContext, public ListOwner, public StoryOwner {
@@ -29,14 +31,14 @@ public:
     explicit FakeView(FakeBackEnd& newsBackEnd, Grids grids = Grids::AllAndCategory)
         : backEnd(newsBackEnd), controls(window, newsBackEnd), lists(newsBackEnd, *this) {
         window.resize(600, 400);
-        services.vLoad(backEnd);
-        services.vSelectInBoth(0);
+        services.load(backEnd);
+        services.selectInBoth(0);
         if (grids == Grids::None)
             return;
         for (const ListIndex list : {ListIndex::All, ListIndex::Category}) {
-            CSuperSheetWnd* grid = CreateHeadlineSheet(&window, QRect(0, 100, 600, 300), 0, backEnd);
+            CSuperSheetWnd* grid = createHeadlineSheet(&window, QRect(0, 100, 600, 300), 0, backEnd);
             grid->setVisible(list == ListIndex::All);
-            lists[list].vSetGrid(grid);
+            lists[list].setGrid(grid);
         }
     }
 
@@ -44,7 +46,7 @@ public:
         return {backEnd,  window,  services, lists, controls, settings,
                 switches, loading, breaks,   tip,   newsType};
     }
-    CSuperSheetWnd* grid(ListIndex list = ListIndex::All) { return lists[list].pGetGrid(); }
+    CSuperSheetWnd* grid(ListIndex list = ListIndex::All) { return lists[list].grid(); }
     // Adds a headline with its story; the list has it when it is read next.
     CHeadlineTable add(std::int32_t sequence) {
         const CHeadlineTable entry{localTime(2026, 3, 2, 9, sequence), sequence, 1, 0, 0};
@@ -53,7 +55,7 @@ public:
         return entry;
     }
     bool read(ListIndex list = ListIndex::All) {
-        return lists.bRebuild(list, TableKind::ByDate, QStringLiteral("20260302"));
+        return lists.rebuild(list, TableKind::ByDate, QStringLiteral("20260302"));
     }
 
     ListIndex shownList() const override { return shown; }
@@ -81,28 +83,28 @@ public:
     }
     void placeNotices() override { calls.append(QStringLiteral("place notices")); }
 
-    const std::vector<ServiceEntry>& vGetServices() const override { return services.Saved(); }
+    const std::vector<ServiceEntry>& allServices() const override { return services.savedServices(); }
     int GetNewsType() const override { return newsType; }
-    QString CategoryNameOf(unsigned char, int) override { return QStringLiteral("Markets"); }
-    int CategoryColourOf(unsigned char, const QString&, QColor&, QColor&) override { return 0; }
-    void vCategoryStateAfterWriting() override {}
-    void vRowsReplaced(ListIndex) override {}
+    QString categoryNameOf(unsigned char, int) override { return QStringLiteral("Markets"); }
+    int categoryColourOf(unsigned char, const QString&, QColor&, QColor&) override { return 0; }
+    void categoryStateAfterWriting() override {}
+    void rowsReplaced(ListIndex) override {}
 
     int iGetHeadlineTableSize(int list) const override {
-        const auto index = ListOfNumber(list);
-        return index ? lists[*index].Table().size() : -1;
+        const auto index = listOfNumber(list);
+        return index ? lists[*index].headlineTable().size() : -1;
     }
     bool bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const override {
         if (row < 0 || row >= iGetHeadlineTableSize(list))
             return false;
-        entry = lists[static_cast<ListIndex>(list)].Table().at(row);
+        entry = lists[static_cast<ListIndex>(list)].headlineTable().at(row);
         return true;
     }
     void vGetNewsActiveService(std::vector<unsigned char>& active) const override { active = {1}; }
     bool bChangeNewsPos(int, int) override { return true; }
-    int iRowOf(int, const CHeadlineTable&) const override { return -1; }
-    void PrintHeadline(const CHeadlineTable&) override {}
-    void SaveHeadline(const CHeadlineTable&) override {}
+    int rowOf(int, const CHeadlineTable&) const override { return -1; }
+    void printHeadline(const CHeadlineTable&) override {}
+    void saveHeadline(const CHeadlineTable&) override {}
 
     FakeBackEnd& backEnd;
     TRVQuoteBaseView window;
@@ -121,3 +123,5 @@ public:
     QString status;
     QStringList calls;
 };
+
+}  // namespace wirepane

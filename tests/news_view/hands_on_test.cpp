@@ -3,7 +3,7 @@
 // What a user of the keyboard, the mouse and a screen reader finds in the news view.
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/s_date_time_ctrl.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "story/trv_news_story.h"
 #include "tests/news_view/view_fixture.h"
 #include "tests/support/accessible_names.h"
@@ -21,6 +21,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 class HandsOnTest : public NewsViewTest {
 protected:
     void openWithNews(int rows, int showType, int mask = 0x7F) {
@@ -34,7 +36,7 @@ protected:
     int storyRow() { return state(u"storyRow"_s).toInt(); }
     int mode() { return state(u"mode"_s).toInt(); }
     QPoint middle(int row) { return grid()->visualRect(grid()->model()->index(row, 0)).center(); }
-    bool dialogVisible() { return view->StoryState(true)[u"visible"_s].toBool(); }
+    bool dialogVisible() { return view->storyState(true)[u"visible"_s].toBool(); }
     static void hit(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
@@ -53,11 +55,11 @@ TEST_F(HandsOnTest, AScreenReaderFindsANameForEverything) {
     openWithNews(3, 2);
     for (const int shown : {0, 1, 2, 3, 5}) {
         view->SwitchFunction(shown);
-        EXPECT_GT(CheckAccessibleNames(*view), 5) << shown;
+        EXPECT_GT(checkAccessibleNames(*view), 5) << shown;
     }
     auto* dialog = view->findChild<TRVNewsStory*>();
     dialog->show();
-    EXPECT_EQ(CheckAccessibleNames(*dialog), 6) << "title, text and four buttons";
+    EXPECT_EQ(checkAccessibleNames(*dialog), 6) << "title, text and four buttons";
     dialog->hide();
     view->SwitchFunction(0);
     QAccessibleInterface* table = QAccessible::queryAccessibleInterface(grid());
@@ -79,24 +81,24 @@ TEST_F(HandsOnTest, ShortcutsReachWhatTheMouseReaches) {
     EXPECT_EQ(mode(), tabModes().last());
     hit(Qt::Key_F3);
     EXPECT_EQ(mode(), 3);
-    EXPECT_EQ(QApplication::focusWidget(), GetDlgItem(view.get(), ids::searchEdit));
+    EXPECT_EQ(QApplication::focusWidget(), dlgItem(view.get(), ids::searchEdit));
     hit(Qt::Key_F6);
     EXPECT_EQ(QApplication::focusWidget(), grid());
     hit(Qt::Key_F8);
     EXPECT_EQ(mode(), 0);
-    auto* picker = qobject_cast<SDateTimeCtrl*>(GetDlgItem(view.get(), ids::datePicker));
-    EXPECT_TRUE(picker->bIsDropped());
+    auto* picker = qobject_cast<SDateTimeCtrl*>(dlgItem(view.get(), ids::datePicker));
+    EXPECT_TRUE(picker->isDropped());
     QApplication::activePopupWidget()->close();
     grid()->setFocus();
     hit(Qt::Key_E, Qt::ControlModifier);
     EXPECT_FALSE(state(u"showCategory"_s).toBool());
-    grid()->vSetActiveSelection(0, -1);
+    grid()->setActiveSelection(0, -1);
     hit(Qt::Key_PageDown, Qt::AltModifier);
     EXPECT_EQ(storyRow(), 1);
     backEnd.asked.clear();
     hit(Qt::Key_F5);
     EXPECT_EQ(backEnd.asked.filter(u"again"_s).size(), 5);
-    const QString tip = GetDlgItem(view.get(), ids::showTypeButton)->toolTip();
+    const QString tip = dlgItem(view.get(), ids::showTypeButton)->toolTip();
     EXPECT_TRUE(tip.endsWith(u"(F9)"_s)) << tip.toStdString();
 }
 
@@ -129,11 +131,11 @@ TEST_F(HandsOnTest, ScrollingSidewaysGoesToTheListThatHasTheKeyboard) {
     grid()->vSetColWidth(grid()->model()->columnCount() - 1, 3000);
     const QScrollBar* bar = grid()->horizontalScrollBar();
     ASSERT_TRUE(QTest::qWaitFor([bar] { return bar->maximum() > 0; }));
-    GetDlgItem(view.get(), ids::datePicker)->setFocus();
+    dlgItem(view.get(), ids::datePicker)->setFocus();
     turnWheel({-120, 0});
     EXPECT_EQ(bar->value(), 0);
     grid()->setFocus();
-    grid()->vSetActiveSelection(1, -1);
+    grid()->setActiveSelection(1, -1);
     turnWheel({-120, 0});
     EXPECT_GT(bar->value(), 0);
     EXPECT_EQ(grid()->cptGetFocusNdx().y(), 1);
@@ -152,10 +154,10 @@ TEST_F(HandsOnTest, TheTitleIsTheHosts) {
         std::set<QEvent::Type> types;
     } seen;
     openWithNews(3, 0);
-    grid()->vSetActiveSelection(0, -1);
-    view->vSetTitleShown(true);
+    grid()->setActiveSelection(0, -1);
+    view->setTitleShown(true);
     view->resize(990, 700);
-    const QPoint band(300, view->iGetTitleHeight() / 2);
+    const QPoint band(300, view->titleHeight() / 2);
     ASSERT_EQ(view->childAt(band), nullptr);
     frame.installEventFilter(&seen);
     QTest::mouseClick(view.get(), Qt::LeftButton, {}, band);
@@ -167,7 +169,7 @@ TEST_F(HandsOnTest, TheTitleIsTheHosts) {
         EXPECT_EQ(seen.types.count(type), 1U) << type;
     EXPECT_FALSE(dialogVisible());
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    EXPECT_TRUE(view->OnContextMenu(view->mapToGlobal(QPoint(300, view->iGetTitleHeight()))));
+    EXPECT_TRUE(view->OnContextMenu(view->mapToGlobal(QPoint(300, view->titleHeight()))));
     QApplication::activePopupWidget()->close();
 }
 
@@ -194,8 +196,8 @@ TEST_F(HandsOnTest, WhatClosesGivesTheKeyboardBack) {
     };
     for (const Case& c : cases) {
         view->SwitchFunction(c.mode);
-        QWidget* holder = c.holder == 0 ? grid() : GetDlgItem(view.get(), c.holder);
-        grid()->vSetActiveSelection(0, -1);
+        QWidget* holder = c.holder == 0 ? grid() : dlgItem(view.get(), c.holder);
+        grid()->setActiveSelection(0, -1);
         holder->setFocus();
         if (c.mode == 3)
             closeWaiting();
@@ -216,7 +218,7 @@ TEST_F(HandsOnTest, WhatClosesGivesTheKeyboardBack) {
 TEST_F(HandsOnTest, TheStoryScrollsByItsKeys) {
     MyRichEdit story;
     story.resize(300, 100);
-    story.vSetText(u"line\n"_s.repeated(200));
+    story.showText(u"line\n"_s.repeated(200));
     story.show();
     const QScrollBar* bar = story.verticalScrollBar();
     QTest::keyClick(&story, Qt::Key_PageDown);
@@ -228,3 +230,5 @@ TEST_F(HandsOnTest, TheStoryScrollsByItsKeys) {
     QTest::keyClick(&story, Qt::Key_Home);
     EXPECT_EQ(bar->value(), 0);
 }
+
+}  // namespace wirepane

@@ -3,7 +3,7 @@
 // Which keys of a news view go where: the decision alone, and with real keys.
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/super_sheet_wnd.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/key_routing.h"
 #include "story/story_ids.h"
 #include "tests/news_view/view_fixture.h"
@@ -17,6 +17,8 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -35,24 +37,24 @@ TEST(KeyRouting, FollowsModeFocusAndStory) {
             for (const bool story : {false, true}) {
                 const KeySituation at{static_cast<ListIndex>(mode), 0, story, focus};
                 for (const int key : {Qt::Key_Return, Qt::Key_Enter})
-                    EXPECT_EQ(RouteKey(key, {}, at),
+                    EXPECT_EQ(routeKey(key, {}, at),
                               grid && mode != 2 && mode != 3 ? consumed(false, true, false) : left);
                 for (const int key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown})
-                    EXPECT_EQ(RouteKey(key, {}, at), consumed(true, grid, story));
+                    EXPECT_EQ(routeKey(key, {}, at), consumed(true, grid, story));
                 for (const int key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Left, Qt::Key_Right})
-                    EXPECT_EQ(RouteKey(key, Qt::ShiftModifier, at), consumed(false, grid, story));
+                    EXPECT_EQ(routeKey(key, Qt::ShiftModifier, at), consumed(false, grid, story));
                 for (const int key : {Qt::Key_A, Qt::Key_F5, Qt::Key_Tab})
-                    EXPECT_EQ(RouteKey(key, {}, at), left);
-                EXPECT_EQ(RouteKey(Qt::Key_Down, Qt::AltModifier, at), left);
+                    EXPECT_EQ(routeKey(key, {}, at), left);
+                EXPECT_EQ(routeKey(Qt::Key_Down, Qt::AltModifier, at), left);
             }
         }
     }
     const KeyRoute toView{.consumed = true, .toView = true};
     for (const int newsType : {0, 1, 2, 3}) {
         const bool takes = newsType >= 2;
-        EXPECT_EQ(RouteKey(Qt::Key_A, {}, {ListIndex::Symbol, newsType, false, KeyboardFocus::Grid}),
+        EXPECT_EQ(routeKey(Qt::Key_A, {}, {ListIndex::Symbol, newsType, false, KeyboardFocus::Grid}),
                   takes ? toView : left);
-        EXPECT_EQ(RouteKey(Qt::Key_A, {}, {ListIndex::Symbol, newsType, false, KeyboardFocus::Control}),
+        EXPECT_EQ(routeKey(Qt::Key_A, {}, {ListIndex::Symbol, newsType, false, KeyboardFocus::Control}),
                   left);
     }
 }
@@ -74,7 +76,7 @@ TEST(KeysAtRelease, ActOncePerPressAndPerRepeat) {
         KeysAtRelease keys;
         int acts = 0;
         for (const char* key = c.keys; *key != 0; ++key)
-            acts += *key == 'p' || *key == 'P' ? keys.bPress(7, *key == 'P') : keys.bRelease(7);
+            acts += *key == 'p' || *key == 'P' ? keys.press(7, *key == 'P') : keys.release(7);
         EXPECT_EQ(acts, c.acts) << c.what;
     }
 }
@@ -95,13 +97,13 @@ protected:
     int storyRow() { return state(u"storyRow"_s).toInt(); }
     template <class Control>
     Control* control(int id) {
-        return qobject_cast<Control*>(GetDlgItem(view.get(), id));
+        return qobject_cast<Control*>(dlgItem(view.get(), id));
     }
 };
 
 TEST_F(KeysTest, TheListMovesWhenAKeyIsReleasedAndTheStoryFollows) {
     openWithNews(1);
-    grid()->vSetActiveSelection(1, -1);
+    grid()->setActiveSelection(1, -1);
     EXPECT_EQ(storyRow(), 1);
     QTest::keyPress(grid(), Qt::Key_Down);
     EXPECT_EQ(row(), 1);
@@ -147,7 +149,7 @@ TEST_F(KeysTest, KeysOfTheListStayWithTheListInEveryMode) {
 
 TEST_F(KeysTest, EnterBelongsToTheFocus) {
     openWithNews(1);
-    grid()->vSetActiveSelection(2, -1);
+    grid()->setActiveSelection(2, -1);
     view->RecvNewHeadLine(nullptr, {}, {});
     push(1, 10, 0, 9);
     EXPECT_EQ(storyRow(), -1);
@@ -189,7 +191,7 @@ TEST_F(KeysTest, TheSearchEditRefusesBlanksAndOneWayOfPasting) {
 
 TEST_F(KeysTest, PageButtonsGoRoundAndRound) {
     openWithNews(1);
-    grid()->vSetActiveSelection(3, -1);
+    grid()->setActiveSelection(3, -1);
     const int expected[] = {4, 0, 1, 0, 4};
     const int buttons[] = {ids::pageDownButton, ids::pageDownButton, ids::pageDownButton, ids::pageUpButton,
                            ids::pageUpButton};
@@ -203,7 +205,7 @@ TEST_F(KeysTest, PageButtonsGoRoundAndRound) {
 TEST_F(KeysTest, SelectedRowsAreCopiedAlsoThoseOffScreen) {
     openWithNews(1);
     QApplication::clipboard()->setText(u"kept"_s);
-    grid()->vClearSelection();
+    grid()->deselectRows();
     QTest::keyClick(grid(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), u"kept"_s) << "no row is selected";
     QTest::keyClick(grid(), Qt::Key_Home);
@@ -245,3 +247,5 @@ TEST_F(KeysTest, TheContextMenuOffersWhatThePlaceAllows) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 }
+
+}  // namespace wirepane

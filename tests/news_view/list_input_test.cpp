@@ -6,9 +6,9 @@
 #include "host/controls/s_button.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
+#include "host/views/news_control_ids.h"
 #include "host/views/virtual_base_view.h"
 #include "news_view/context_menu.h"
-#include "news_view/control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/shortcuts.h"
 #include "news_view/story_stage.h"
@@ -29,6 +29,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 // Five headlines in a grid that has the keyboard, a line beside it.
@@ -42,7 +44,7 @@ protected:
         view.window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&view.window));
         grid().setFocus();
-        grid().vSetActiveSelection(2, -1);
+        grid().setActiveSelection(2, -1);
         view.calls.clear();
     }
 
@@ -95,7 +97,7 @@ TEST_F(ListInputTest, KeysElsewhereAreLeftAlone) {
     EXPECT_EQ(storiesShown(), 0);
 
     auto* quotes = new CNewsRelateSymbolQuoteView(&view.window);
-    stage.vSetQuotes(quotes);
+    stage.setQuotes(quotes);
     quotes->setFocusPolicy(Qt::StrongFocus);
     quotes->show();
     EXPECT_TRUE(input.takeBefore(key(Qt::Key_Home)));
@@ -128,7 +130,7 @@ TEST_F(ListInputTest, AKeyThatNobodyTookIsTheLists) {
     QApplication::clipboard()->setText(u"kept"_s);
     EXPECT_TRUE(input.takePress(key(Qt::Key_C, Qt::ControlModifier)));
     EXPECT_TRUE(QApplication::clipboard()->text().endsWith(u"Title 3"_s));
-    grid().vClearSelection();
+    grid().deselectRows();
     input.copyRows();
     EXPECT_TRUE(QApplication::clipboard()->text().endsWith(u"Title 3"_s)) << "no row is selected";
     grid().clearFocus();
@@ -158,7 +160,7 @@ TEST_F(ListInputTest, TheWheelTurnsTheListWhereNothingElseTakesIt) {
         view.add(i);
     view.read();
     grid().vSetColWidth(grid().model()->columnCount() - 1, 3000);
-    grid().vSetActiveSelection(0, -1);
+    grid().setActiveSelection(0, -1);
     const QScrollBar& up = *grid().verticalScrollBar();
     const QScrollBar& sideways = *grid().horizontalScrollBar();
     ASSERT_TRUE(QTest::qWaitFor([&] { return up.maximum() > 0 && sideways.maximum() > 0; }));
@@ -238,13 +240,13 @@ TEST_F(ListInputTest, EntriesOfAMenuCarryTheirCommandsOut) {
 TEST_F(ListInputTest, EveryShortcutDoesWhatItsControlDoes) {
     TRVVirtualBaseView window;
     ControlSet controls(window, backEnd);
-    controls.vCreateTabStrip({});
+    controls.createTabStrip({});
     controls.CreateControls(ListIndex::Search, {}, {});
     controls.CreateTypeBtn();
     for (const ListIndex mode : {ListIndex::All, ListIndex::Search, ListIndex::Category})
-        controls.vAddTab(mode);
+        controls.addTab(mode);
     controls.vLoadLanguageString();
-    auto& strip = *controls.Find<CXTPTabControl>(ids::tabStrip);
+    auto& strip = *controls.find<CXTPTabControl>(ids::tabStrip);
     QList<int> carriedOut;
     int tabsChosen = 0;
     Shortcuts shortcuts(
@@ -270,16 +272,16 @@ TEST_F(ListInputTest, EveryShortcutDoesWhatItsControlDoes) {
     for (const auto& [key, tab] :
          {std::pair(u"Ctrl+PgDown"_s, 1), {u"Ctrl+PgUp"_s, 0}, {u"Ctrl+PgUp"_s, 2}, {u"Ctrl+PgDown"_s, 0}}) {
         hit(key);
-        EXPECT_EQ(strip.GetCurSel(), tab) << key.toStdString();
+        EXPECT_EQ(strip.curSel(), tab) << key.toStdString();
     }
     EXPECT_EQ(tabsChosen, 4);
 
     hit(u"F3"_s);
-    EXPECT_EQ(strip.GetCurSel(), 0) << "there is no list of the search mode";
-    CSuperSheetWnd* found = CreateHeadlineSheet(&window, {}, 0, backEnd);
-    view.lists[ListIndex::Search].vSetGrid(found);
+    EXPECT_EQ(strip.curSel(), 0) << "there is no list of the search mode";
+    CSuperSheetWnd* found = createHeadlineSheet(&window, {}, 0, backEnd);
+    view.lists[ListIndex::Search].setGrid(found);
     hit(u"F3"_s);
-    EXPECT_EQ(strip.GetCurSel(), 1);
+    EXPECT_EQ(strip.curSel(), 1);
     EXPECT_EQ(tabsChosen, 5);
     hit(u"Shift+F3"_s);
     EXPECT_EQ(carriedOut, QList<int>()) << "the button is not to be seen";
@@ -291,13 +293,15 @@ TEST_F(ListInputTest, EveryShortcutDoesWhatItsControlDoes) {
     QList<int> order;
     const QWidget* next = &strip;
     do {
-        if (WindowId(next) != 0 && next->parentWidget() == &window)
-            order.append(WindowId(next));
+        if (windowId(next) != 0 && next->parentWidget() == &window)
+            order.append(windowId(next));
         next = next->nextInFocusChain();
     } while (next != &strip);
     EXPECT_EQ(order, (QList<int>{ids::tabStrip, ids::showTypeButton, ids::searchEdit, ids::searchButton,
                                  ids::dealsSearchButton}));
 
-    const SButton& button = *controls.Find<SButton>(ids::showTypeButton);
+    const SButton& button = *controls.find<SButton>(ids::showTypeButton);
     EXPECT_EQ(button.toolTip(), button.text() + u" (F9)"_s);
 }
+
+}  // namespace wirepane

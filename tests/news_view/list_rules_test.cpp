@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 // Rules of what the lists are read from: each where a reader meets it.
 #include "host/controls/sc_combo_box.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "tests/news_view/view_fixture.h"
 
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -37,9 +39,9 @@ protected:
         happens();
         return backEnd.asked.filter(u"table "_s);
     }
-    void tick(int index) { view->OnCommand(ids::firstServiceCommand + index); }
+    void tick(int index) { view->onCommand(ids::firstServiceCommand + index); }
     QStringList entries(int id) const {
-        const auto& combo = *qobject_cast<SCComboBox*>(GetDlgItem(view.get(), id));
+        const auto& combo = *qobject_cast<SCComboBox*>(dlgItem(view.get(), id));
         QStringList texts;
         for (int i = 0; i < combo.count(); ++i)
             texts.append(combo.itemText(i));
@@ -151,9 +153,11 @@ TEST_F(ListRules, TheSymbolModeTakesTheSymbolsThatHaveNews) {
         openWith("");
         view->SwitchFunction(symbolMode);
         EXPECT_EQ(entries(ids::serviceCombo), c.markets) << c.what;
-        auto* markets = qobject_cast<SCComboBox*>(GetDlgItem(view.get(), ids::serviceCombo));
+        auto* markets = qobject_cast<SCComboBox*>(dlgItem(view.get(), ids::serviceCombo));
         markets->setCurrentIndex(c.market);
         view->OnSelchangeComboService();
         EXPECT_EQ(entries(ids::symbolCombo), c.symbols) << c.what;
     }
 }
+
+}  // namespace wirepane

@@ -4,7 +4,7 @@
 // mode was shown, a linked view chose a symbol.
 #include "host/contract/sync_info.h"
 #include "host/controls/sc_combo_box.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "tests/news_view/view_fixture.h"
 
 #include <QApplication>
@@ -12,6 +12,8 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -44,8 +46,8 @@ protected:
         QTest::mouseClick(sheet->viewport(), Qt::LeftButton, {},
                           sheet->visualRect(sheet->model()->index(row, 0)).center());
     }
-    QString story() const { return view->StoryState(false)[u"story"_s].toString(); }
-    SCComboBox& combo(int id) const { return *qobject_cast<SCComboBox*>(GetDlgItem(view.get(), id)); }
+    QString story() const { return view->storyState(false)[u"story"_s].toString(); }
+    SCComboBox& combo(int id) const { return *qobject_cast<SCComboBox*>(dlgItem(view.get(), id)); }
     void chooseCategory(int index) {
         combo(ids::categoryCombo).setCurrentIndex(index);
         view->OnSelchangeComboIndex();
@@ -107,7 +109,7 @@ TEST_F(ListsInStep, AClickShowsTheStoryOfTheHeadlineThatStandsThere) {
          [this] {
              addTold(1, today, 31, 21);
              const CHeadlineTableInfo info{1, 0, u"20260302"_s};
-             view->OnCommand(ids::recoverHeadlineTable);
+             view->onCommand(ids::recoverHeadlineTable);
              view->vRecvAllHeadlineTableRecovery(&info);
          },
          u"story of 1-21"_s},
@@ -127,7 +129,7 @@ TEST_F(ListsInStep, ALinkedSymbolLeavesTheStoryOfTheListOnShow) {
     addTold(1, today, 10, 1, 1, u"2330"_s);
     addTold(1, today, 5, 2, 1, u"4001"_s);
     openShown({{u"SymbolID"_s, u"2330"_s}});
-    view->vSetLinkGroup(3);
+    view->setLinkGroup(3);
     view->SwitchFunction(symbolMode);
     view->SwitchFunction(0);
     click(1);
@@ -136,7 +138,7 @@ TEST_F(ListsInStep, ALinkedSymbolLeavesTheStoryOfTheListOnShow) {
     EXPECT_EQ(state(u"storyRow"_s).toInt(), 1);
     view->SetStoryShowType(0);
     view->ChangeSymbol(nullptr, 3, 16, u"2330"_s, {});
-    EXPECT_FALSE(view->StoryState(true)[u"visible"_s].toBool()) << "no window opens by itself";
+    EXPECT_FALSE(view->storyState(true)[u"visible"_s].toBool()) << "no window opens by itself";
     view->SetStoryShowType(1);
     view->SwitchFunction(symbolMode);
     click(0);
@@ -155,8 +157,8 @@ TEST_F(ListsInStep, TheWarrantModeChangesNoTick) {
     view->SwitchFunction(warrantMode);
     backEnd.asked.clear();
     for (int command = ids::firstServiceCommand; command <= ids::lastServiceCommand; ++command)
-        view->OnCommand(command);
-    view->OnCommand(ids::serviceButton);
+        view->onCommand(command);
+    view->onCommand(ids::serviceButton);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "the menu has nothing to offer";
     EXPECT_EQ(backEnd.asked.filter(u"table "_s), QStringList());
     EXPECT_EQ(titles(warrantMode), QStringList{u"52-2"_s});
@@ -171,18 +173,18 @@ TEST_F(ListsInStep, TheWarrantModeChangesNoTick) {
     std::set<unsigned char> withWarrants = registered;
     withWarrants.insert(52);
     EXPECT_EQ(backEnd.registrations[view.get()], withWarrants);
-    view->OnCommand(ids::serviceButton);
+    view->onCommand(ids::serviceButton);
     const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
     EXPECT_TRUE(menu->actions().front()->isEnabled());
     QApplication::activePopupWidget()->close();
-    view->OnCommand(ids::firstServiceCommand);
+    view->onCommand(ids::firstServiceCommand);
     EXPECT_EQ(ticked(), std::set<int>{2});
 }
 
 TEST_F(ListsInStep, AServiceMenuOnShowGoesGreyWithTheWarrantMode) {
     openShown();
-    view->OnCommand(ids::serviceButton);
+    view->onCommand(ids::serviceButton);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
     for (const int mode : {warrantMode, 3}) {
@@ -218,8 +220,8 @@ TEST_F(ListsInStep, ATopicIsNamedByItsServiceWhateverIsShown) {
     openShown();
     const auto topics = [this](int list) {
         QStringList result;
-        const CSuperSheetWnd* sheet = view->Sheet(list);
-        for (int row = 0; row < sheet->iGetRowCount(); ++row)
+        const CSuperSheetWnd* sheet = view->sheetOf(list);
+        for (int row = 0; row < sheet->rowCount(); ++row)
             result.append(sheet->model()->index(row, 1).data().toString());
         return result;
     };
@@ -256,7 +258,7 @@ TEST_F(ListsInStep, TheCombosNameTheSymbolOfTheList) {
     addTold(1, today, 10, 1, 1, u"2330"_s);
     addTold(1, today, 5, 2, 1, u"4001"_s);
     openShown({{u"SymbolID"_s, u"2330"_s}});
-    view->vSetLinkGroup(3);
+    view->setLinkGroup(3);
     view->SwitchFunction(symbolMode);
     view->SwitchFunction(0);
     view->ChangeSymbol(nullptr, 3, 122, u"4001"_s, {});
@@ -318,14 +320,14 @@ TEST_F(ListsInStep, SymbolsThatComeWhileTheModeIsShownFillItsCombos) {
     addTold(1, today, 5, 2, 1, u"2330"_s);
     openShown({{u"SymbolID"_s, u"2330"_s}});
     view->SwitchFunction(symbolMode);
-    ASSERT_EQ(view->GetDataState(), DataState::NotSupported);
+    ASSERT_EQ(view->currentDataState(), DataState::NotSupported);
     backEnd.symbols[16] = all.at(16);
     view->vDoSymbolUpdate({{16, u"#001"_s}, {16, u"2330"_s}});
-    EXPECT_EQ(view->GetDataState(), DataState::Normal);
+    EXPECT_EQ(view->currentDataState(), DataState::Normal);
     EXPECT_EQ(combos(), u"台灣證券 / 2330 Aster Chips");
     EXPECT_EQ(symbolRows(), QStringList{u"1-2"_s});
     EXPECT_TRUE(isShown(ids::serviceCombo) && isShown(ids::symbolCombo));
-    EXPECT_FALSE(view->Sheet(symbolMode)->isHidden());
+    EXPECT_FALSE(view->sheetOf(symbolMode)->isHidden());
 
     view->SwitchFunction(0);
     backEnd.symbols[122] = all.at(122);
@@ -348,7 +350,7 @@ TEST_F(ListsInStep, AViewOfWarrantsAloneHasTheDaysWarrants) {
 TEST_F(ListsInStep, NewsOfTheLinkedSymbolIsReadAtEverySwitch) {
     class LinkNews : public CSyncInfo {
     public:
-        LinkNews() { SetSettingCFG(this); }
+        LinkNews() { setSettingCFG(this); }
         QString SYS_cszGetCurrentSymbol(unsigned char) override { return u"2330"_s; }
         bool SYS_bGetIsLinkNews() override { return true; }
     } sync;
@@ -361,3 +363,5 @@ TEST_F(ListsInStep, NewsOfTheLinkedSymbolIsReadAtEverySwitch) {
     EXPECT_EQ(symbolRows(), (QStringList{u"1-2"_s, u"1-1"_s}));
     view.reset();
 }
+
+}  // namespace wirepane

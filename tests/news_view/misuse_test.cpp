@@ -4,6 +4,8 @@
 
 #include <thread>
 
+namespace wirepane {
+
 namespace {
 
 // A view that its host has created and nothing more.
@@ -23,7 +25,7 @@ protected:
 };
 
 struct TellingBackEnd : FakeBackEnd {
-    using BKQuoteInterface::ForEachReceiver;
+    using BKQuoteInterface::forEachReceiver;
 };
 
 using MisuseDeathTest = MisuseTest;
@@ -47,10 +49,12 @@ TEST_F(MisuseDeathTest, WhatIsMissingIsNamed) {
 TEST_F(MisuseDeathTest, AnotherThreadIsNamed) {
     start();
     const auto elsewhere = [](const auto& call) { std::thread(call).join(); };
-    const auto tell = [] { TellingBackEnd().ForEachReceiver([](NewsReceiver&) {}); };
+    const auto tell = [] { TellingBackEnd().forEachReceiver([](NewsReceiver&) {}); };
     EXPECT_DEATH(elsewhere(tell), "wirepane: .*ForEachReceiver.*another thread");
-    EXPECT_DEATH(elsewhere([this] { backEnd.Detach(view.get()); }), "wirepane: .*Detach.*another thread");
+    EXPECT_DEATH(elsewhere([this] { backEnd.detach(view.get()); }), "wirepane: .*Detach.*another thread");
     EXPECT_DEATH(elsewhere([this] { save(&settings); }), "wirepane: .*SaveViewInfo.*another thread");
 }
 
 }  // namespace
+
+}  // namespace wirepane

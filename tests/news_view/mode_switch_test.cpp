@@ -4,8 +4,8 @@
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/arrangement.h"
-#include "news_view/control_ids.h"
 #include "news_view/modes.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_builder.h"
@@ -17,6 +17,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 using Ids = std::vector<unsigned char>;
@@ -27,16 +29,16 @@ protected:
         view.hasPane = false;
         for (const unsigned char service : backEnd.services)
             backEnd.categories[service] = {{u"1"_s, u"Markets"_s}, {u"2"_s, u"Economy"_s}};
-        view.services.vLoad(backEnd);
+        view.services.load(backEnd);
         tick({1, 2});
     }
 
     void tick(const Ids& ticked) {
-        for (std::size_t i = 0; i < view.services.Entries().size(); ++i) {
-            const unsigned char service = view.services.Entries()[i].service;
-            view.services.vSelect(i, std::find(ticked.begin(), ticked.end(), service) != ticked.end());
+        for (std::size_t i = 0; i < view.services.currentServices().size(); ++i) {
+            const unsigned char service = view.services.currentServices()[i].service;
+            view.services.select(i, std::find(ticked.begin(), ticked.end(), service) != ticked.end());
         }
-        view.services.vCopyToSaved();
+        view.services.copyToSaved();
     }
     Ids ticked(const std::vector<ServiceEntry>& entries) const {
         Ids services;
@@ -61,14 +63,14 @@ protected:
     }
     static QList<int> tabs(const FakeView& of) {
         QList<int> numbers;
-        const auto* strip = of.controls.Find<CXTPTabControl>(ids::tabStrip);
+        const auto* strip = of.controls.find<CXTPTabControl>(ids::tabStrip);
         for (int i = 0; strip != nullptr && i < strip->count(); ++i)
-            numbers.append(strip->iGetItemData(i));
+            numbers.append(strip->itemData(i));
         std::sort(numbers.begin(), numbers.end());
         return numbers;
     }
     bool isShown(int id) const {
-        const QWidget* control = GetDlgItem(&view.window, id);
+        const QWidget* control = dlgItem(&view.window, id);
         return control != nullptr && !control->isHidden();
     }
     void switchTo(ListIndex mode) {
@@ -82,7 +84,7 @@ protected:
     static QString named(const QString& call, ListIndex list) {
         return call + u' ' + QString::number(static_cast<int>(list));
     }
-    void giveWindow() { stage.vSetDialog(new TRVNewsStory(view, &view.window)); }
+    void giveWindow() { stage.setDialog(new TRVNewsStory(view, &view.window)); }
 
     FakeBackEnd backEnd;
     FakeView view{backEnd, FakeView::Grids::None};
@@ -151,7 +153,7 @@ TEST_F(ModeSwitchTest, TheEnabledFunctionsDecideWhatIsThere) {
     };
     for (const Case& c : cases) {
         FakeView fresh{backEnd, FakeView::Grids::None};
-        fresh.services.vLoad(backEnd);
+        fresh.services.load(backEnd);
         fresh.settings.functions = c.functions;
         fresh.switches = c.switches;
         ViewBuilder ofFresh(
@@ -161,20 +163,20 @@ TEST_F(ModeSwitchTest, TheEnabledFunctionsDecideWhatIsThere) {
         EXPECT_EQ(grids(fresh), c.grids) << c.what;
         EXPECT_EQ(tabs(fresh), c.tabs) << c.what;
         for (const int id : c.controls)
-            EXPECT_NE(GetDlgItem(&fresh.window, id), nullptr) << c.what << ", " << id;
+            EXPECT_NE(dlgItem(&fresh.window, id), nullptr) << c.what << ", " << id;
         for (const int id : c.lacking)
-            EXPECT_EQ(GetDlgItem(&fresh.window, id), nullptr) << c.what << ", " << id;
+            EXPECT_EQ(dlgItem(&fresh.window, id), nullptr) << c.what << ", " << id;
     }
 }
 
 TEST_F(ModeSwitchTest, WhatTheUserMayNotSeeIsNotThere) {
     backEnd.unauthorised = {16};
     backEnd.services = {1, 2};
-    view.services.vLoad(backEnd);
+    view.services.load(backEnd);
     build(0x26);
     EXPECT_EQ(grids(view), QList<int>{1});
     EXPECT_EQ(tabs(view), QList<int>{1});
-    EXPECT_EQ(GetDlgItem(&view.window, ids::symbolCombo), nullptr);
+    EXPECT_EQ(dlgItem(&view.window, ids::symbolCombo), nullptr);
 }
 
 TEST_F(ModeSwitchTest, WhatIsCreatedIsConnectedOnce) {
@@ -183,7 +185,7 @@ TEST_F(ModeSwitchTest, WhatIsCreatedIsConnectedOnce) {
     connected.sort();
     EXPECT_EQ(connected, (QStringList{u"categories"_s, u"dates"_s, u"grid 0"_s, u"grid 1"_s, u"grid 3"_s,
                                       u"search edit"_s}));
-    EXPECT_EQ(GetDlgItem(&view.window, ids::serviceButton)->width(), 80);
+    EXPECT_EQ(dlgItem(&view.window, ids::serviceButton)->width(), 80);
 }
 
 // --- What a switch does ---
@@ -245,20 +247,20 @@ TEST_F(ModeSwitchTest, ServicesGoThroughTheWarrantModeUnchanged) {
     giveWindow();
     switchTo(ListIndex::All);
     switchTo(ListIndex::Warrant);
-    EXPECT_EQ(ticked(view.services.Entries()), Ids{52});
-    EXPECT_EQ(ticked(view.services.Saved()), (Ids{1, 2}));
+    EXPECT_EQ(ticked(view.services.currentServices()), Ids{52});
+    EXPECT_EQ(ticked(view.services.savedServices()), (Ids{1, 2}));
     switchTo(ListIndex::Category);
-    EXPECT_EQ(ticked(view.services.Entries()), (Ids{1, 2}));
+    EXPECT_EQ(ticked(view.services.currentServices()), (Ids{1, 2}));
     tick({});
     switchTo(ListIndex::All);
-    EXPECT_EQ(ticked(view.services.Entries()), Ids{1}) << "one is ticked";
-    EXPECT_EQ(ticked(view.services.Saved()), Ids{1});
+    EXPECT_EQ(ticked(view.services.currentServices()), Ids{1}) << "one is ticked";
+    EXPECT_EQ(ticked(view.services.savedServices()), Ids{1});
 }
 
 TEST_F(ModeSwitchTest, AListThatMissedSomethingIsReadAgain) {
     build(0x03);
     giveWindow();
-    view.lists.vMissed(ListIndex::All);
+    view.lists.noteMissed(ListIndex::All);
     switchTo(ListIndex::Category);
     EXPECT_FALSE(view.calls.contains(u"again 0"_s));
     switchTo(ListIndex::All);
@@ -298,13 +300,13 @@ TEST_F(ModeSwitchTest, WhatWasFoundIsFilledIntoTheListThatTheSwitchesName) {
         view.switches = c.switches;
         switchTo(c.mode);
         for (const ListIndex list : {ListIndex::Search, ListIndex::WarningTerm}) {
-            view.lists[list].vSetTable(TableRuns());
+            view.lists[list].setTable(TableRuns());
             view.lists[list].vFillHeadlineTable();
-            view.lists[list].vSetTable(found);
+            view.lists[list].setTable(found);
         }
         EXPECT_TRUE(modes.read(ListIndex::Search));
         for (const ListIndex list : {ListIndex::Search, ListIndex::WarningTerm})
-            EXPECT_EQ(view.grid(list)->iGetRowCount(), list == c.filled ? 1 : 0)
+            EXPECT_EQ(view.grid(list)->rowCount(), list == c.filled ? 1 : 0)
                 << c.switches.showNormalSearch << c.switches.showWarningSearch << static_cast<int>(c.mode);
     }
 }
@@ -329,7 +331,7 @@ TEST_F(ModeSwitchTest, OnlyAViewOfTwoColumnsLeavesTheKeyboard) {
     view.window.show();
     for (const int type : {1, 0, 2, 3}) {
         view.newsType = type;
-        GetDlgItem(&view.window, ids::serviceButton)->setFocus();
+        dlgItem(&view.window, ids::serviceButton)->setFocus();
         switchTo(ListIndex::Category);
         EXPECT_EQ(view.window.focusWidget() == view.grid(ListIndex::Category), type != 1) << type;
     }
@@ -355,11 +357,13 @@ TEST_F(ModeSwitchTest, EverythingStandsWhereTheLayoutSays) {
     EXPECT_EQ(view.grid()->geometry(), places.grid);
     EXPECT_EQ(view.grid(ListIndex::Symbol)->geometry(), places.gridWithoutControls);
     EXPECT_EQ(view.grid(ListIndex::Warrant)->geometry(), places.gridWithoutControls);
-    EXPECT_EQ(stage.pGetPane()->geometry(), places.storyPane);
-    EXPECT_FALSE(stage.pGetPane()->isHidden());
+    EXPECT_EQ(stage.storyPane()->geometry(), places.storyPane);
+    EXPECT_FALSE(stage.storyPane()->isHidden());
     EXPECT_EQ(arrangement.gridWidth(), view.window.width() / 2);
     showType = StoryShowType::None;
     arrangement.place();
-    EXPECT_TRUE(stage.pGetPane()->isHidden());
+    EXPECT_TRUE(stage.storyPane()->isHidden());
     EXPECT_EQ(arrangement.gridWidth(), view.window.width());
 }
+
+}  // namespace wirepane

@@ -7,13 +7,15 @@
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "story/story_ids.h"
 #include "tests/news_view/view_fixture.h"
 
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+namespace wirepane {
 
 TEST_F(NewsViewTest, OpensWithTheDayNewestFirst) {
     addNews(1, 9, 0, 1);
@@ -23,7 +25,7 @@ TEST_F(NewsViewTest, OpensWithTheDayNewestFirst) {
     open();
     EXPECT_EQ(titles(0), (QStringList{QStringLiteral("s2 9:10"), QStringLiteral("s1 9:00"),
                                       QStringLiteral("s16 8:00")}));
-    EXPECT_EQ(view->Sheet(0)->model()->index(2, 1).data().toString(), QStringLiteral("Economy"));
+    EXPECT_EQ(view->sheetOf(0)->model()->index(2, 1).data().toString(), QStringLiteral("Economy"));
     EXPECT_EQ(backEnd.registrations[view.get()], (std::set<unsigned char>{1, 2, 16, 22, 122}));
     CHeadlineTable entry;
     EXPECT_TRUE(view->bGetHeadlineTable(entry, 0, 2));
@@ -32,7 +34,7 @@ TEST_F(NewsViewTest, OpensWithTheDayNewestFirst) {
     EXPECT_FALSE(view->bGetHeadlineTable(entry, 7, 0));
     EXPECT_EQ(view->iGetHeadlineTableSize(0), 3);
     EXPECT_EQ(view->iGetHeadlineTableSize(7), -1);
-    EXPECT_EQ(KeyOf(view->GetHeadlineTable(99)), HeadlineKey());
+    EXPECT_EQ(keyOf(view->GetHeadlineTable(99)), HeadlineKey());
     NewsReceiver* receiver = view.get();
     view.reset();
     EXPECT_EQ(backEnd.registrations.count(static_cast<NewsReceiver*>(receiver)), 0U);
@@ -65,11 +67,11 @@ TEST_F(NewsViewTest, TheMaskDecidesTabsAndGrids) {
         EXPECT_EQ(tabModes(), c.tabs) << c.what;
         QList<int> grids;
         for (int list = 0; list < listCount; ++list) {
-            if (view->Sheet(list) != nullptr)
+            if (view->sheetOf(list) != nullptr)
                 grids.append(list);
         }
         EXPECT_EQ(grids, c.grids) << c.what;
-        EXPECT_EQ(GetDlgItem(view.get(), ids::tabStrip) == nullptr, c.tabs.isEmpty()) << c.what;
+        EXPECT_EQ(dlgItem(view.get(), ids::tabStrip) == nullptr, c.tabs.isEmpty()) << c.what;
     }
 }
 
@@ -84,15 +86,15 @@ TEST_F(NewsViewTest, EachModeShowsItsControlsAndItsGrid) {
         for (const int id : {3001, 3002, 3004, 3005, 3006, 3007, 3008, 3009, 3010, 3011})
             EXPECT_EQ(isShown(id), mode->contains(id)) << "mode " << mode.key() << ", control " << id;
         for (int list = 0; list < listCount; ++list) {
-            if (CSuperSheetWnd* sheet = view->Sheet(list)) {
+            if (CSuperSheetWnd* sheet = view->sheetOf(list)) {
                 EXPECT_EQ(!sheet->isHidden(), list == mode.key());
             }
         }
-        EXPECT_EQ(view->pGetCurrSheetView(), view->Sheet(mode.key()));
+        EXPECT_EQ(view->pGetCurrSheetView(), view->sheetOf(mode.key()));
     }
     view->SwitchFunction(7);
     view->SwitchFunction(-1);
-    EXPECT_EQ(view->State()[QStringLiteral("mode")].toInt(), 5)
+    EXPECT_EQ(view->state()[QStringLiteral("mode")].toInt(), 5)
         << "a number outside the modes changes nothing";
 }
 
@@ -114,8 +116,8 @@ TEST_F(NewsViewTest, ListsAreReadAsTheirModeSays) {
     EXPECT_EQ(tablesAsked(2), symbol) << "read at every switch";
     EXPECT_EQ(tablesAsked(5), QStringList{QStringLiteral("table 52 0 20260302")});
     EXPECT_EQ(titles(5), QStringList{QStringLiteral("s52 9:05")});
-    EXPECT_EQ(view->Sheet(5)->model()->index(0, 1).data().toString(), QStringLiteral("Issue"));
-    EXPECT_EQ(view->Sheet(5)->model()->index(0, 0).data().toString(), QStringLiteral("03/02 09:05"));
+    EXPECT_EQ(view->sheetOf(5)->model()->index(0, 1).data().toString(), QStringLiteral("Issue"));
+    EXPECT_EQ(view->sheetOf(5)->model()->index(0, 0).data().toString(), QStringLiteral("03/02 09:05"));
     EXPECT_EQ(tablesAsked(5).size(), 1);
     EXPECT_EQ(tablesAsked(0), QStringList());
     std::vector<unsigned char> active;
@@ -131,7 +133,7 @@ TEST_F(NewsViewTest, TheSymbolModeFollowsCombosAndLinkedViews) {
     addNews(1, 9, 1, 2, 1, QStringLiteral("6214"));
     addNews(1, 9, 2, 3, 1, QStringLiteral("4001"));
     open({{QStringLiteral("FocusedTab"), 2}, {QStringLiteral("SymbolID"), QStringLiteral("unknown")}});
-    view->vSetLinkGroup(3);
+    view->setLinkGroup(3);
     QStringList told;
     QObject::connect(view.get(), &TRVQuoteBaseView::SendChangeSymbol, view.get(),
                      [&](unsigned char group, unsigned char service, const QString& code) {
@@ -139,8 +141,8 @@ TEST_F(NewsViewTest, TheSymbolModeFollowsCombosAndLinkedViews) {
                      });
     EXPECT_EQ(titles(2), QStringList{QStringLiteral("s1 9:01")}) << "an unknown symbol falls back to 6214";
 
-    auto* symbolCombo = qobject_cast<SCComboBox*>(GetDlgItem(view.get(), ids::symbolCombo));
-    auto* serviceCombo = qobject_cast<SCComboBox*>(GetDlgItem(view.get(), ids::serviceCombo));
+    auto* symbolCombo = qobject_cast<SCComboBox*>(dlgItem(view.get(), ids::symbolCombo));
+    auto* serviceCombo = qobject_cast<SCComboBox*>(dlgItem(view.get(), ids::serviceCombo));
     ASSERT_TRUE(symbolCombo != nullptr && serviceCombo != nullptr);
     EXPECT_EQ(serviceCombo->count(), 3);
     EXPECT_EQ(symbolCombo->count(), 2) << "an index is not supported";
@@ -171,7 +173,7 @@ TEST_F(NewsViewTest, TheSymbolModeFollowsCombosAndLinkedViews) {
     EXPECT_EQ(serviceCombo->currentIndex(), 2);
     EXPECT_EQ(symbolCombo->currentText(), QString());
     EXPECT_EQ(told, QStringList());
-    view->vSetLinkGroup(0);
+    view->setLinkGroup(0);
     EXPECT_FALSE(change(nullptr, 0, 16, QStringLiteral("2330"))) << "a view that is not linked";
 }
 
@@ -180,10 +182,10 @@ TEST_F(NewsViewTest, WithoutSymbolsThereIsNothingToShow) {
     open();
     for (int round = 0; round < 2; ++round) {
         view->SwitchFunction(2);
-        EXPECT_EQ(view->GetDataState(), DataState::NotSupported);
+        EXPECT_EQ(view->currentDataState(), DataState::NotSupported);
         for (const int id : {ids::serviceButton, ids::serviceCombo, ids::symbolCombo})
             EXPECT_FALSE(isShown(id)) << id;
-        EXPECT_TRUE(view->Sheet(2)->isHidden());
+        EXPECT_TRUE(view->sheetOf(2)->isHidden());
         view->SwitchFunction(0);
         EXPECT_TRUE(isShown(ids::serviceButton));
     }
@@ -194,7 +196,7 @@ TEST_F(NewsViewTest, TheLastTickedServiceStaysTicked) {
     addNews(2, 9, 1, 1);
     open();
     const auto choose = [this](int command) {
-        view->OnCommand(command);
+        view->onCommand(command);
         return titles(0);
     };
     EXPECT_EQ(choose(5050), QStringList{QStringLiteral("s2 9:01")});
@@ -215,15 +217,15 @@ TEST_F(NewsViewTest, AUserPicksACategoryAndATab) {
     addNews(1, 9, 1, 2, 2);
     open({{QStringLiteral("FocusedTab"), 1}, {QStringLiteral("CategoryID"), QStringLiteral("2")}});
     EXPECT_EQ(titles(1), QStringList{QStringLiteral("s1 9:01")}) << "opens with the stored category";
-    auto* combo = qobject_cast<SCComboBox*>(GetDlgItem(view.get(), ids::categoryCombo));
+    auto* combo = qobject_cast<SCComboBox*>(dlgItem(view.get(), ids::categoryCombo));
     ASSERT_NE(combo, nullptr);
     pick(*combo, 0);
     EXPECT_EQ(titles(1), QStringList{QStringLiteral("s1 9:00")});
 
-    auto* strip = qobject_cast<CXTPTabControl*>(GetDlgItem(view.get(), ids::tabStrip));
+    auto* strip = qobject_cast<CXTPTabControl*>(dlgItem(view.get(), ids::tabStrip));
     ASSERT_NE(strip, nullptr);
     QTest::mouseClick(strip, Qt::LeftButton, {}, strip->tabRect(3).center());
-    EXPECT_EQ(view->State()[QStringLiteral("mode")].toInt(), 3);
+    EXPECT_EQ(view->state()[QStringLiteral("mode")].toInt(), 3);
 }
 
 TEST_F(NewsViewTest, OpensWithAModeThatExists) {
@@ -246,36 +248,36 @@ TEST_F(NewsViewTest, OpensWithAModeThatExists) {
     };
     for (const Case& c : cases) {
         open(c.stored, c.newsType);
-        EXPECT_EQ(view->State()[QStringLiteral("mode")].toInt(), c.mode) << c.what;
-        EXPECT_EQ(GetDlgItem(view.get(), ids::showTypeButton) != nullptr, c.newsType == 0) << c.what;
-        EXPECT_EQ(GetDlgItem(view.get(), ids::firstChildView + ids::storyPane) != nullptr, c.newsType == 0)
+        EXPECT_EQ(view->state()[QStringLiteral("mode")].toInt(), c.mode) << c.what;
+        EXPECT_EQ(dlgItem(view.get(), ids::showTypeButton) != nullptr, c.newsType == 0) << c.what;
+        EXPECT_EQ(dlgItem(view.get(), ids::firstChildView + ids::storyPane) != nullptr, c.newsType == 0)
             << c.what;
     }
     backEnd.unauthorised = {16};
     open({{tab, 2}});
-    EXPECT_EQ(view->State()[QStringLiteral("mode")].toInt(), 0)
+    EXPECT_EQ(view->state()[QStringLiteral("mode")].toInt(), 0)
         << "the symbol mode needs the right to see service 16";
-    EXPECT_EQ(view->Sheet(2), nullptr);
+    EXPECT_EQ(view->sheetOf(2), nullptr);
 }
 
 TEST_F(NewsViewTest, SurvivesABackEndWithoutServices) {
     backEnd.services.clear();
     open({{QStringLiteral("EnabledFunctions"), 0x7F}});
-    EXPECT_EQ(view->Sheet(5), nullptr);
+    EXPECT_EQ(view->sheetOf(5), nullptr);
     for (int mode = 0; mode < listCount; ++mode)
         view->SwitchFunction(mode);
-    EXPECT_EQ(view->State()[QStringLiteral("services")].toList().size(), 0);
+    EXPECT_EQ(view->state()[QStringLiteral("services")].toList().size(), 0);
 }
 
 TEST_F(NewsViewTest, ChangesWithin100MsAreOneRefresh) {
     addNews(1, 9, 0, 1);
     open();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
     backEnd.asked.clear();
     for (int i = 0; i < 5; ++i)
         view->vUpdateView();
-    EXPECT_EQ(view->RunningTimers(), std::vector<int>{ids::refreshTimer});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }, 2000));
+    EXPECT_EQ(view->runningTimers(), std::vector<int>{ids::refreshTimer});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }, 2000));
     EXPECT_EQ(backEnd.asked.size(), 5) << "one question to each of the five ticked services";
 }
 
@@ -285,13 +287,13 @@ TEST_F(NewsViewTest, OnlyTheCurrentGridsWidthChangeRefreshes) {
     struct Deaf : QObject {
         bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::Resize; }
     } deaf;
-    view->Sheet(0)->installEventFilter(&deaf);
-    view->Sheet(0)->viewport()->installEventFilter(&deaf);
-    const QEvent::Type changeSize = RegisterMessage(QStringLiteral("RVMSG_CHANGESIZE"));
+    view->sheetOf(0)->installEventFilter(&deaf);
+    view->sheetOf(0)->viewport()->installEventFilter(&deaf);
+    const QEvent::Type changeSize = registerMessage(QStringLiteral("RVMSG_CHANGESIZE"));
     const auto sentBy = [&](int list) {
-        view->KillTimer(ids::refreshTimer);
-        SendRegisteredMessage(view.get(), changeSize, reinterpret_cast<quintptr>(view->Sheet(list)));
-        return !view->RunningTimers().empty();
+        view->endTimer(ids::refreshTimer);
+        sendRegisteredMessage(view.get(), changeSize, reinterpret_cast<quintptr>(view->sheetOf(list)));
+        return !view->runningTimers().empty();
     };
     view->resize(950, 700);
     EXPECT_TRUE(sentBy(0)) << "the current grid has another width";
@@ -303,9 +305,9 @@ TEST_F(NewsViewTest, OnlyTheCurrentGridsWidthChangeRefreshes) {
 
 TEST_F(NewsViewTest, TheStoryTakesItsShareInThreeWays) {
     open();
-    auto* button = qobject_cast<SButton*>(GetDlgItem(view.get(), ids::showTypeButton));
+    auto* button = qobject_cast<SButton*>(dlgItem(view.get(), ids::showTypeButton));
     ASSERT_NE(button, nullptr);
-    const auto gridSize = [this] { return view->Sheet(0)->size(); };
+    const auto gridSize = [this] { return view->sheetOf(0)->size(); };
     EXPECT_EQ(view->GetStoryShowType(), 1);
     EXPECT_EQ(gridSize().width(), 500);
     EXPECT_EQ(view->GetSheetWidth(), 500);
@@ -323,11 +325,11 @@ TEST_F(NewsViewTest, TheStoryTakesItsShareInThreeWays) {
 
 TEST_F(NewsViewTest, HidingTheCategoryColumnKeepsTheColumn) {
     open({{QStringLiteral("ShowCategory"), false}});
-    const int column = view->Sheet(0)->iGetColumn(QStringLiteral("category"));
+    const int column = view->sheetOf(0)->column(QStringLiteral("category"));
     EXPECT_EQ(column, 1);
-    EXPECT_EQ(view->Sheet(0)->iGetColWidth(column), 0);
+    EXPECT_EQ(view->sheetOf(0)->colWidth(column), 0);
     view->ChangeCurrViewCategoryState(true);
-    EXPECT_EQ(view->Sheet(0)->iGetColWidth(column), 50);
+    EXPECT_EQ(view->sheetOf(0)->colWidth(column), 50);
 }
 
 TEST_F(NewsViewTest, WhatIsSavedOpensTheSame) {
@@ -352,17 +354,17 @@ TEST_F(NewsViewTest, ReadsOnWhileHeadlinesArrive) {
         backEnd.addStory({entry.time, QStringLiteral("story %1").arg(sequence), entry});
     }
     open();
-    auto* pane = GetDlgItem(view.get(), ids::firstChildView + ids::storyPane);
+    auto* pane = dlgItem(view.get(), ids::firstChildView + ids::storyPane);
     ASSERT_NE(pane, nullptr);
     const auto story = [pane] {
-        return static_cast<MyRichEdit*>(GetDlgItem(pane, story_ids::storyText))->szGetText();
+        return static_cast<MyRichEdit*>(dlgItem(pane, story_ids::storyText))->literalText();
     };
     focusGrid();
-    QTest::keyClick(view->Sheet(0), Qt::Key_Down);
+    QTest::keyClick(view->sheetOf(0), Qt::Key_Down);
     EXPECT_TRUE(story().contains(QStringLiteral("story 2"))) << story().toStdString();
-    QTest::keyClick(view->Sheet(0), Qt::Key_Down);
+    QTest::keyClick(view->sheetOf(0), Qt::Key_Down);
     EXPECT_TRUE(story().contains(QStringLiteral("story 1")));
-    EXPECT_EQ(view->State()[QStringLiteral("storyRow")].toInt(), 1);
+    EXPECT_EQ(view->state()[QStringLiteral("storyRow")].toInt(), 1);
 
     push(1, 9, 20, 3);
     push(1, 8, 0, 4);
@@ -370,9 +372,9 @@ TEST_F(NewsViewTest, ReadsOnWhileHeadlinesArrive) {
     push(99, 9, 22, 1);
     EXPECT_EQ(titles(0), (QStringList{QStringLiteral("pushed 3"), QStringLiteral("s1 9:10"),
                                       QStringLiteral("s1 9:00"), QStringLiteral("pushed 4")}));
-    EXPECT_EQ(view->Sheet(0)->cptGetFocusNdx().y(), 2) << "the selected headline stays selected";
+    EXPECT_EQ(view->sheetOf(0)->cptGetFocusNdx().y(), 2) << "the selected headline stays selected";
     EXPECT_TRUE(story().contains(QStringLiteral("story 1"))) << "and its story stays on show";
-    QTest::keyClick(view->Sheet(0), Qt::Key_Up);
+    QTest::keyClick(view->sheetOf(0), Qt::Key_Up);
     EXPECT_TRUE(story().contains(QStringLiteral("story 2")));
 
     push(1, 9, 0, 1);
@@ -382,3 +384,5 @@ TEST_F(NewsViewTest, ReadsOnWhileHeadlinesArrive) {
     push(1, 9, 30, 9);
     EXPECT_EQ(titles(0).size(), 4) << "nothing is taken while the back end is disconnected";
 }
+
+}  // namespace wirepane

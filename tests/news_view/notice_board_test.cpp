@@ -4,9 +4,9 @@
 #include "news_view/notice_board.h"
 
 #include "host/controls/s_button.h"
+#include "host/views/news_control_ids.h"
 #include "host/views/virtual_base_view.h"
 #include "news_view/context_menu.h"
-#include "news_view/control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/notice_line.h"
 #include "tests/support/fake_back_end.h"
@@ -18,6 +18,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 // A window with a control row of 400 by 20 pixels at 30, and what a view of no list has to tell.
@@ -25,13 +27,13 @@ class NoticeBoardTest : public testing::Test {
 protected:
     NoticeBoardTest() {
         window.resize(400, 300);
-        controls.vCreateNotices();
+        controls.createNotices();
         list.setFocusPolicy(Qt::StrongFocus);
     }
 
     template <class Control>
     Control& control(int id) {
-        return *controls.Find<Control>(id);
+        return *controls.find<Control>(id);
     }
     // A control that takes room in the row, or elsewhere.
     QWidget* put(const QRect& place) {
@@ -54,8 +56,8 @@ protected:
                            return NoticeBoard::Look{window.font(), Qt::black, Qt::white};
                        },
                        [this] { return waiting; }, [this] { return &list; }},
-                      {[this](ListNotices& notices) { notices.vTell(NoticeKind::Hint, hint); },
-                       [](ListNotices& notices) { notices.vTell(NoticeKind::Narrowed, u"one"_s); }}};
+                      {[this](ListNotices& notices) { notices.tell(NoticeKind::Hint, hint); },
+                       [](ListNotices& notices) { notices.tell(NoticeKind::Narrowed, u"one"_s); }}};
 };
 
 }  // namespace
@@ -115,10 +117,10 @@ TEST_F(NoticeBoardTest, TheStopButtonIsThereWhileThereIsSomethingToStop) {
 }
 
 TEST_F(NoticeBoardTest, TellsWhatEveryPartHasToTell) {
-    EXPECT_EQ(board.notices().Text(), u"one"_s);
+    EXPECT_EQ(board.notices().text(), u"one"_s);
     hint = u"three"_s;
     board.setStatus(u" two "_s);
-    EXPECT_EQ(board.notices().Text(), u"one · two · three"_s);
+    EXPECT_EQ(board.notices().text(), u"one · two · three"_s);
     EXPECT_EQ(board.status(), u" two "_s);
     EXPECT_EQ(control<NoticeLine>(ids::notice).text(), u"one · two · three"_s) << "placed by itself";
     const int before = looks;
@@ -130,9 +132,9 @@ TEST(ContextMenu, OffersWhatThePlaceAllows) {
     FakeBackEnd backEnd;
     const MenuEntry waiting{ids::stopWaiting, u"stop"_s, {}};
     ListNotices notices;
-    notices.vTell(NoticeKind::Offline, u"offline"_s);
+    notices.tell(NoticeKind::Offline, u"offline"_s);
     ListNotices narrowed = notices;
-    narrowed.vTell(NoticeKind::Narrowed, u"A & B"_s);
+    narrowed.tell(NoticeKind::Narrowed, u"A & B"_s);
     struct Case {
         const char* what;
         MenuSituation at;
@@ -170,3 +172,5 @@ TEST(ContextMenu, OffersWhatThePlaceAllows) {
     const std::vector<MenuEntry> entries = contextMenuEntries({}, backEnd, {}, narrowed);
     EXPECT_EQ(entries.back(), (MenuEntry{ids::endNarrowing, u"A && B"_s, {}})) << "no mnemonic";
 }
+
+}  // namespace wirepane

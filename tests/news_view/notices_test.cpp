@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What the control row tells of a list, in which order, and what it offers to do about it.
 #include "host/controls/s_button.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/list_notices.h"
 #include "search/adv_search_dlg.h"
 #include "search/news_key_search_dlg.h"
@@ -16,6 +16,8 @@
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -53,7 +55,7 @@ protected:
         frame.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
         view->SwitchFunction(mode);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
         backEnd.asked.clear();
     }
     // The relation list with the ticked key set GOLD, of service 1.
@@ -67,7 +69,7 @@ protected:
         });
     }
     void quickSearch(const QString& text) {
-        auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit));
+        auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
         edit->setText(text);
         QTest::keyClick(edit, Qt::Key_Return);
     }
@@ -80,12 +82,12 @@ protected:
     }
     // As it stands there, which is also what scripts read.
     QString notice() const {
-        const auto* line = qobject_cast<QLabel*>(GetDlgItem(view.get(), ids::notice));
+        const auto* line = qobject_cast<QLabel*>(dlgItem(view.get(), ids::notice));
         const QString text = line->isVisible() ? line->text() : QString();
         EXPECT_EQ(state(u"notice"_s).toString(), text);
         return text;
     }
-    SButton& button(int id) const { return *qobject_cast<SButton*>(GetDlgItem(view.get(), id)); }
+    SButton& button(int id) const { return *qobject_cast<SButton*>(dlgItem(view.get(), id)); }
     void click(int id) const {
         ASSERT_TRUE(button(id).isVisible()) << id;
         QTest::mouseClick(&button(id), Qt::LeftButton);
@@ -98,16 +100,16 @@ TEST(NoticeOrder, TheFirstOnesHaveTheRoom) {
     const QFontMetrics metrics{QFont()};
     const QString longText(40, u'w');
     ListNotices notices;
-    notices.vTell(NoticeKind::Hint, u"hint"_s);
-    notices.vTell(NoticeKind::Filtered, longText);
-    notices.vTell(NoticeKind::Offline, u"offline"_s);
-    notices.vTell(NoticeKind::Narrowed, {});
-    EXPECT_EQ(notices.Text(), u"offline · "_s + longText + u" · hint"_s);
+    notices.tell(NoticeKind::Hint, u"hint"_s);
+    notices.tell(NoticeKind::Filtered, longText);
+    notices.tell(NoticeKind::Offline, u"offline"_s);
+    notices.tell(NoticeKind::Narrowed, {});
+    EXPECT_EQ(notices.text(), u"offline · "_s + longText + u" · hint"_s);
 
     const auto placed = [&](int room) {
         QStringList texts;
         int end = 0;
-        for (const PlacedNotice& notice : PlaceNotices(notices, room, metrics)) {
+        for (const PlacedNotice& notice : placeNotices(notices, room, metrics)) {
             EXPECT_GE(notice.left, end) << "one behind the other";
             end = notice.left + notice.width;
             EXPECT_LE(end, room);
@@ -115,15 +117,15 @@ TEST(NoticeOrder, TheFirstOnesHaveTheRoom) {
         }
         return texts;
     };
-    const int whole = metrics.horizontalAdvance(notices.Text()) + 3;
+    const int whole = metrics.horizontalAdvance(notices.text()) + 3;
     EXPECT_EQ(placed(whole), (QStringList{u"offline"_s, longText, u"hint"_s}));
     const QStringList cut = placed(whole / 2);
     ASSERT_EQ(cut.size(), 2) << "nothing behind what is cut";
     EXPECT_TRUE(cut[1].endsWith(u'…'));
     EXPECT_EQ(placed(metrics.horizontalAdvance(u"offline · ww"_s)), QStringList{u"offline"_s}) << "no crumbs";
     EXPECT_EQ(placed(0), QStringList());
-    notices.vTell(NoticeKind::Offline, {});
-    EXPECT_EQ(notices.Text(), longText + u" · hint"_s);
+    notices.tell(NoticeKind::Offline, {});
+    EXPECT_EQ(notices.text(), longText + u" · hint"_s);
 }
 
 TEST_F(Notices, ANarrowedSearchSaysSoUntilAClickOrAnotherTextEndsIt) {
@@ -150,7 +152,7 @@ TEST_F(Notices, ANarrowedSearchSaysSoUntilAClickOrAnotherTextEndsIt) {
     button(ids::endNarrowing).setFocus();
     QTest::keyClick(&button(ids::endNarrowing), Qt::Key_Return);
     EXPECT_EQ(sent(), (QStringList{u"gold @16 2330"_s, u"gold"_s})) << "by the keyboard, too";
-    EXPECT_EQ(view->focusWidget(), view->Sheet(3)) << "which goes to the list";
+    EXPECT_EQ(view->focusWidget(), view->sheetOf(3)) << "which goes to the list";
 
     link(u"6214"_s);
     quickSearch(u"oil"_s);
@@ -191,7 +193,7 @@ TEST_F(Notices, TheNarrowingOfAWarningTermStaysWithIt) {
 
     view->SwitchFunction(3);
     runDialog<CAdvSearchDlg>(ids::dealsSearchButton, [](CAdvSearchDlg& dialog) {
-        qobject_cast<QLineEdit*>(GetDlgItem(&dialog, search_ids::keywordEdit))->setText(u"oil"_s);
+        qobject_cast<QLineEdit*>(dlgItem(&dialog, search_ids::keywordEdit))->setText(u"oil"_s);
         press(dialog, search_ids::addTyped);
         press(dialog, search_ids::ok);
     });
@@ -233,7 +235,7 @@ TEST_F(Notices, AListReadUnderAnotherListsFilterSaysSoAndShowsAll) {
     openRelation({{u"CategoryID"_s, u"1"_s}});
     view->SwitchFunction(1);
     view->SwitchFunction(4);
-    view->OnCommand(ids::firstServiceCommand + 1);
+    view->onCommand(ids::firstServiceCommand + 1);
     EXPECT_EQ(titles(4), (QStringList{u"Gold again"_s, u"Gold of the morning"_s}));
     EXPECT_EQ(notice(), QString()) << "its own filter is what it is for";
     const QStringList all{u"Tin again"_s, u"Gold again"_s, u"Tin of the morning"_s, u"Gold of the morning"_s};
@@ -242,7 +244,7 @@ TEST_F(Notices, AListReadUnderAnotherListsFilterSaysSoAndShowsAll) {
     view->OnSelchangeComboIndex();
     EXPECT_EQ(notice(), QString()) << "the user has chosen a category anew";
     view->SwitchFunction(4);
-    view->OnCommand(ids::firstServiceCommand + 2);
+    view->onCommand(ids::firstServiceCommand + 2);
     for (const int list : {0, 1}) {
         view->SwitchFunction(list);
         EXPECT_EQ(titles(list), titles(4)) << list;
@@ -252,14 +254,14 @@ TEST_F(Notices, AListReadUnderAnotherListsFilterSaysSoAndShowsAll) {
         EXPECT_EQ(notice(), QString()) << list;
     }
     view->SwitchFunction(4);
-    view->OnCommand(ids::firstServiceCommand + 2);
+    view->onCommand(ids::firstServiceCommand + 2);
     view->SwitchFunction(0);
     EXPECT_EQ(notice(), u"filtered"_s);
     const CHeadlineTableInfo sentAgain{1, 0, u"20260302"_s};
     view->vRecvAllHeadlineTableRecovery(&sentAgain);
     EXPECT_EQ(notice(), QString()) << "all of it was sent again";
-    view->OnCommand(ids::firstServiceCommand + 1);
-    view->OnCommand(ids::firstServiceCommand + 1);
+    view->onCommand(ids::firstServiceCommand + 1);
+    view->onCommand(ids::firstServiceCommand + 1);
     EXPECT_EQ(notice(), QString());
     view->SwitchFunction(4);
     EXPECT_EQ(titles(4), all);
@@ -271,7 +273,7 @@ TEST_F(Notices, AListReadUnderAnotherListsFilterSaysSoAndShowsAll) {
 
 TEST_F(Notices, AFilteredListIsReadAnewWhenItIsShownWhereTheSettingsSaySo) {
     openRelation({{u"RebuildFilteredLists"_s, true}, {u"NewsShowType"_s, 1}});
-    view->OnCommand(ids::firstServiceCommand + 1);
+    view->onCommand(ids::firstServiceCommand + 1);
     EXPECT_EQ(titles(0), titles(4)) << "not before it is shown";
     view->SwitchFunction(0);
     EXPECT_EQ(titles(0).size(), 4);
@@ -290,8 +292,8 @@ TEST_F(Notices, WhatWasFoundBeforeABreakSaysFromWhenItIs) {
     openMode("ShowWarningSearch=1\n", 3,
              {{itemsKey, QStringList{term(u"tin"_s).GetString()}}, {u"WarningSearchItemOrder"_s, 1}});
     const auto breakOff = [this] {
-        view->vConnectionChanged(false);
-        view->vConnectionChanged(true);
+        view->connectionChanged(false);
+        view->connectionChanged(true);
     };
     breakOff();
     quickSearch(u"gold"_s);
@@ -300,9 +302,9 @@ TEST_F(Notices, WhatWasFoundBeforeABreakSaysFromWhenItIs) {
     view->OnDealsSearch();
     EXPECT_EQ(notice(), QString()) << "searched since";
     host_clock::startAt(localTime(2026, 3, 2, 10, 0));
-    view->vConnectionChanged(false);
+    view->connectionChanged(false);
     EXPECT_EQ(notice(), u"offline since 10:00"_s);
-    view->vConnectionChanged(true);
+    view->connectionChanged(true);
     for (const auto& [list, word] : {std::pair{6, u"tin"_s}, std::pair{3, u"gold"_s}}) {
         view->SwitchFunction(list);
         EXPECT_EQ(notice(), u"of 03/02 09:30"_s) << list;
@@ -322,12 +324,14 @@ TEST_F(Notices, AreShownAfterAVisitToSymbolNewsWithoutSymbols) {
     EXPECT_EQ(state(u"dataState"_s).toInt(), 1);
     for (const int mode : {2, 0}) {
         view->SwitchFunction(mode);
-        const auto* line = qobject_cast<QLabel*>(GetDlgItem(view.get(), ids::notice));
+        const auto* line = qobject_cast<QLabel*>(dlgItem(view.get(), ids::notice));
         const QImage before = view->grab(line->geometry()).toImage();
-        view->vConnectionChanged(false);
+        view->connectionChanged(false);
         EXPECT_EQ(line->text(), u"offline since 09:30"_s) << "as a screen reader reads it";
         EXPECT_TRUE(line->isVisible());
         EXPECT_NE(view->grab(line->geometry()).toImage(), before) << "in mode " << mode;
-        view->vConnectionChanged(true);
+        view->connectionChanged(true);
     }
 }
+
+}  // namespace wirepane

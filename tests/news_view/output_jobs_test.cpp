@@ -4,7 +4,7 @@
 #include "news_view/output_jobs.h"
 
 #include "host/controls/window_id.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_settings.h"
 #include "tests/support/fake_back_end.h"
@@ -19,16 +19,18 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 // Answers nothing, and notes who was asked.
 class Asked : public OutputDialogs {
 public:
-    bool bAskPrinter(QPrinter&, QWidget* parent) override {
+    bool askPrinter(QPrinter&, QWidget* parent) override {
         note(u"printer"_s, parent);
         return false;
     }
-    std::optional<OutputTarget> AskFile(BKQuoteInterface&, QWidget* parent) override {
+    std::optional<OutputTarget> askFile(BKQuoteInterface&, QWidget* parent) override {
         note(u"file"_s, parent);
         return std::nullopt;
     }
@@ -54,7 +56,7 @@ protected:
                          {u"IDS_NEWSCTRLVIEW_STRING_PUT_OUT_READY"_s, u"ready %1"_s},
                          {u"IDS_NEWSCTRLVIEW_STRING_STOP_WAITING"_s, u"stop"_s}};
         for (const int id : {ids::printButton, ids::saveAsButton})
-            SetWindowId(new QPushButton(window.get()), id);
+            setWindowId(new QPushButton(window.get()), id);
         OutputJobs::Surroundings around{
             *window,
             stage,
@@ -84,7 +86,7 @@ protected:
         QFile file(folder.filePath(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    bool isEnabled(int button) const { return GetDlgItem(window.get(), button)->isEnabled(); }
+    bool isEnabled(int button) const { return dlgItem(window.get(), button)->isEnabled(); }
 
     QTemporaryDir folder;
     FakeBackEnd backEnd;
@@ -210,3 +212,5 @@ TEST_F(OutputJobsTest, AnswersReachEveryJob) {
     jobs->takeHeadlines({unseen});
     EXPECT_TRUE(QTest::qWaitFor([&] { return saved(u"seen.txt"_s).contains("Seen"); }));
 }
+
+}  // namespace wirepane

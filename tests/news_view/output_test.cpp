@@ -3,7 +3,7 @@
 #include "headline_list/list_index.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/s_button.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "story/story_ids.h"
 #include "story/trv_news_story.h"
 #include "tests/news_view/view_fixture.h"
@@ -19,6 +19,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 constexpr int all = static_cast<int>(ListIndex::All);
@@ -28,7 +30,7 @@ constexpr int saveNews = 9272;
 // A host that wants story windows to stay on top.
 class OnTop : public CSyncInfo {
 public:
-    OnTop() { SetSettingCFG(this); }
+    OnTop() { setSettingCFG(this); }
     int SYS_eGetPopupWndPosition() override { return 2; }
 };
 
@@ -45,9 +47,9 @@ protected:
         while (view->GetStoryShowType() != 0)
             view->OnBtnChangeShowType();
     }
-    void select(int row) { view->Sheet(all)->vSetActiveSelection(row, -1); }
+    void select(int row) { view->sheetOf(all)->setActiveSelection(row, -1); }
     TRVNewsStory* dialog() const { return view->findChild<TRVNewsStory*>(); }
-    QString dialogTitle() const { return view->StoryState(true)[u"title"_s].toString(); }
+    QString dialogTitle() const { return view->storyState(true)[u"title"_s].toString(); }
     QByteArray saved(const QString& name) const {
         QFile file(folder.filePath(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -77,12 +79,12 @@ TEST_F(ViewOutputTest, TheDialogAndTheGridFollowEachOther) {
     ASSERT_NE(dialog(), nullptr);
     EXPECT_FALSE(dialog()->isVisible());
     select(0);
-    view->OnCommand(ids::showStory);
+    view->onCommand(ids::showStory);
     EXPECT_TRUE(dialog()->isVisible());
     EXPECT_TRUE(dialogTitle().endsWith(u"s1 12:00"_s));
     dialog()->OnBtnPageUp();
     EXPECT_TRUE(dialogTitle().endsWith(u"s1 10:00"_s));
-    EXPECT_EQ(view->Sheet(all)->cptGetFocusNdx().y(), 2);
+    EXPECT_EQ(view->sheetOf(all)->cptGetFocusNdx().y(), 2);
     push(1, 12, 30, 9);
     EXPECT_TRUE(dialogTitle().endsWith(u"s1 10:00"_s));
     view->SwitchFunction(static_cast<int>(ListIndex::Category));
@@ -96,21 +98,21 @@ TEST_F(ViewOutputTest, ALateStoryReachesTheDialogOnShow) {
     view->OnShowStory();
     backEnd.storyAtHand = true;
     view->RespStory(view->GetHeadlineTable(1));
-    EXPECT_TRUE(view->StoryState(true)[u"story"_s].toString().contains(u"Body 2"_s));
+    EXPECT_TRUE(view->storyState(true)[u"story"_s].toString().contains(u"Body 2"_s));
 }
 
 TEST_F(ViewOutputTest, SavesTheSelectedRowsInTheirOrder) {
     openWithNews();
-    view->Sheet(all)->clearSelection();
-    EXPECT_EQ(view->SaveSelection(target(u"none.txt"_s)).count, 0);
+    view->sheetOf(all)->clearSelection();
+    EXPECT_EQ(view->saveSelection(target(u"none.txt"_s)).count, 0);
     EXPECT_FALSE(QFile::exists(folder.filePath(u"none.txt"_s))) << "nothing is selected";
-    view->Sheet(all)->selectAll();
-    const NewsOutcome outcome = view->SaveSelection(target(u"all.txt"_s));
+    view->sheetOf(all)->selectAll();
+    const NewsOutcome outcome = view->saveSelection(target(u"all.txt"_s));
     const QByteArray text = saved(u"all.txt"_s);
     EXPECT_EQ(outcome.count, text.size());
     EXPECT_LT(text.indexOf("Body 3"), text.indexOf("Body 2"));
     EXPECT_LT(text.indexOf("Body 2"), text.indexOf("Body 1"));
-    EXPECT_EQ(view->PrintSelection(target(u"all.pdf"_s)).count, 3);
+    EXPECT_EQ(view->printSelection(target(u"all.pdf"_s)).count, 3);
     EXPECT_TRUE(saved(u"all.pdf"_s).startsWith("%PDF"));
 }
 
@@ -119,10 +121,10 @@ TEST_F(ViewOutputTest, WaitsForStoriesAndClosesWhileItWaits) {
     openWithNews();
     select(0);
     backEnd.asked.clear();
-    EXPECT_TRUE(view->SaveSelection(target(u"late.txt"_s)).waiting);
+    EXPECT_TRUE(view->saveSelection(target(u"late.txt"_s)).waiting);
     EXPECT_EQ(backEnd.asked.filter(u"again"_s), QStringList{u"again story 1 3"_s});
     select(1);
-    EXPECT_TRUE(view->PrintSelection(target(u"late.pdf"_s)).waiting);
+    EXPECT_TRUE(view->printSelection(target(u"late.pdf"_s)).waiting);
     backEnd.storyAtHand = true;
     view->RespStory(view->GetHeadlineTable(0));
     EXPECT_TRUE(QTest::qWaitFor([&] { return saved(u"late.txt"_s).contains("2026/03/ 2 12:00:00Body 3"); }));
@@ -137,7 +139,7 @@ TEST_F(ViewOutputTest, ALateTitleReachesWhatWaitsForIt) {
     backEnd.addStory({late.time, u"Body 4"_s, late});
     view->InitialHeadlineTable(all);
     select(0);
-    EXPECT_TRUE(view->SaveSelection(target(u"late.txt"_s)).waiting);
+    EXPECT_TRUE(view->saveSelection(target(u"late.txt"_s)).waiting);
     backEnd.makeAllAtHand();
     view->RespHeadLine({late});
     EXPECT_TRUE(QTest::qWaitFor([&] { return saved(u"late.txt"_s).contains("Come late"); }));
@@ -151,7 +153,7 @@ TEST_F(ViewOutputTest, EveryWayToPrintAndToSaveAsksItsQuestion) {
         {printNews, true}, {ids::printButton, true}, {saveNews, false}, {ids::saveAsButton, false}};
     for (const auto& [command, prints] : ways) {
         int asked = 0;
-        asked = answering([&, id = command] { view->OnCommand(id); },
+        asked = answering([&, id = command] { view->onCommand(id); },
                           [&, isPrint = prints](QWidget& question) {
                               EXPECT_EQ(qobject_cast<QPrintDialog*>(&question) != nullptr, isPrint);
                               static_cast<QDialog&>(question).reject();
@@ -163,7 +165,7 @@ TEST_F(ViewOutputTest, EveryWayToPrintAndToSaveAsksItsQuestion) {
 TEST_F(ViewOutputTest, TheUserStopsWaiting) {
     backEnd.storyAtHand = false;
     openWithNews();
-    auto* stop = qobject_cast<SButton*>(GetDlgItem(view.get(), ids::stopWaiting));
+    auto* stop = qobject_cast<SButton*>(dlgItem(view.get(), ids::stopWaiting));
     ASSERT_NE(stop, nullptr);
     EXPECT_TRUE(stop->isHidden()) << "nothing is waited for";
     // A window over the view takes no room in its control row.
@@ -171,19 +173,19 @@ TEST_F(ViewOutputTest, TheUserStopsWaiting) {
     view->OnShowStory();
     dialog()->setGeometry(-5, -5, 2000, 1000);
     select(0);
-    EXPECT_TRUE(view->SaveSelection(target(u"late.txt"_s)).waiting);
+    EXPECT_TRUE(view->saveSelection(target(u"late.txt"_s)).waiting);
     EXPECT_FALSE(stop->isHidden());
     EXPECT_FALSE(stop->accessibleName().isEmpty());
     EXPECT_EQ(stop->toolTip(), stop->accessibleName());
     stop->setFocus();
     QTest::keyClick(stop, Qt::Key_Return);
     EXPECT_TRUE(stop->isHidden());
-    EXPECT_EQ(view->focusWidget(), view->Sheet(all));
+    EXPECT_EQ(view->focusWidget(), view->sheetOf(all));
 
     // The menu has it too. What has come by then is put out.
-    EXPECT_TRUE(view->PrintSelection(target(u"never.pdf"_s)).waiting);
+    EXPECT_TRUE(view->printSelection(target(u"never.pdf"_s)).waiting);
     select(1);
-    EXPECT_TRUE(view->SaveSelection(target(u"whole.txt"_s)).waiting);
+    EXPECT_TRUE(view->saveSelection(target(u"whole.txt"_s)).waiting);
     backEnd.storyAtHand = true;
     view->RespStory(view->GetHeadlineTable(1));
     view->OnContextMenu(view->mapToGlobal(QPoint(20, view->height() / 2)));
@@ -203,12 +205,12 @@ TEST_F(ViewOutputTest, TheStopButtonOffersWhatIsReady) {
     openWithNews();
     backEnd.add(1, localTime(2026, 3, 2, 12, 30), 4, u"Flash"_s);
     view->InitialHeadlineTable(all);
-    QSignalSpy told(view.get(), &TRVQuoteBaseView::MessageForUser);
+    QSignalSpy told(view.get(), &TRVQuoteBaseView::messageForUser);
     backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_LEFT_OUT"_s, u"left out %1"_s);
-    view->Sheet(all)->selectAll();
-    EXPECT_TRUE(view->SaveSelection(target(u"ready.txt"_s)).waiting);
-    EXPECT_TRUE(view->PrintSelection(target(u"dropped.pdf"_s)).waiting);
-    auto* stop = qobject_cast<SButton*>(GetDlgItem(view.get(), ids::stopWaiting));
+    view->sheetOf(all)->selectAll();
+    EXPECT_TRUE(view->saveSelection(target(u"ready.txt"_s)).waiting);
+    EXPECT_TRUE(view->printSelection(target(u"dropped.pdf"_s)).waiting);
+    auto* stop = qobject_cast<SButton*>(dlgItem(view.get(), ids::stopWaiting));
     stop->click();
     EXPECT_FALSE(stop->isHidden()) << "the user is asked first";
     const auto commands = [&] {
@@ -235,7 +237,7 @@ TEST_F(ViewOutputTest, TheWindowsHeadlineIsPutOutWhereverItStandsByNow) {
     push(1, 12, 30, 9);
     answering([&] { dialog()->OnBtnSaveas(); },
               [&](QWidget& question) {
-                  EXPECT_EQ(view->Sheet(all)->cptGetFocusNdx().y(), 2);
+                  EXPECT_EQ(view->sheetOf(all)->cptGetFocusNdx().y(), 2);
                   static_cast<QDialog&>(question).reject();
               });
     EXPECT_TRUE(dialogTitle().endsWith(u"s1 11:00"_s));
@@ -249,7 +251,7 @@ TEST_F(ViewOutputTest, TitlesStayWholeWhereTheHostWantsIt) {
     for (const bool whole : {false, true}) {
         open(whole ? QMap<QString, QVariant>{{u"WholeTitles"_s, true}} : QMap<QString, QVariant>());
         select(0);
-        view->SaveSelection(target(u"title.txt"_s));
+        view->saveSelection(target(u"title.txt"_s));
         EXPECT_EQ(saved(u"title.txt"_s).contains(QByteArray(20, 'x') + "\n\n"), whole);
         EXPECT_EQ(saved(u"title.txt"_s).count('x'), whole ? 100 : 80);
     }
@@ -257,12 +259,12 @@ TEST_F(ViewOutputTest, TitlesStayWholeWhereTheHostWantsIt) {
 
 TEST_F(ViewOutputTest, TellsWhyAFileCouldNotBeWritten) {
     openWithNews();
-    QSignalSpy told(view.get(), &TRVQuoteBaseView::MessageForUser);
+    QSignalSpy told(view.get(), &TRVQuoteBaseView::messageForUser);
     backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_SAVE_FAILED"_s, u"%1: %2"_s);
     backEnd.storyAtHand = false;
     select(0);
     OutputTarget nowhere = target(u"missing/late.txt"_s);
-    EXPECT_TRUE(view->SaveSelection(nowhere).waiting);
+    EXPECT_TRUE(view->saveSelection(nowhere).waiting);
     backEnd.storyAtHand = true;
     view->RespStory(view->GetHeadlineTable(0));
     EXPECT_TRUE(QTest::qWaitFor([&] { return told.count() == 1; }));
@@ -275,9 +277,9 @@ TEST_F(ViewOutputTest, AsksWithTheStoryDialogOutOfTheWay) {
     select(0);
     view->OnShowStory();
     ASSERT_TRUE(dialog()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-    const auto* button = qobject_cast<SButton*>(GetDlgItem(view.get(), ids::saveAsButton));
+    const auto* button = qobject_cast<SButton*>(dlgItem(view.get(), ids::saveAsButton));
     ASSERT_NE(button, nullptr);
-    EXPECT_EQ(answering([&] { view->OnCommand(saveNews); },
+    EXPECT_EQ(answering([&] { view->onCommand(saveNews); },
                         [&](QWidget& question) {
                             EXPECT_FALSE(button->isEnabled());
                             EXPECT_EQ(question.parentWidget(), dialog());
@@ -291,7 +293,7 @@ TEST_F(ViewOutputTest, AsksWithTheStoryDialogOutOfTheWay) {
     EXPECT_TRUE(button->isEnabled());
     EXPECT_TRUE(dialog()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) << "as the host wants it";
     EXPECT_EQ(
-        answering([&] { view->OnCommand(printNews); },
+        answering([&] { view->onCommand(printNews); },
                   [&](QWidget& question) {
                       auto& print = dynamic_cast<QPrintDialog&>(question);
                       for (const auto range : {QPrintDialog::PrintPageRange, QPrintDialog::PrintCurrentPage,
@@ -302,6 +304,8 @@ TEST_F(ViewOutputTest, AsksWithTheStoryDialogOutOfTheWay) {
                   }),
         1);
     // The view goes while the user is asked.
-    EXPECT_EQ(answering([&] { view->OnCommand(ids::saveAsButton); }, [&](QWidget&) { view.reset(); }), 1);
+    EXPECT_EQ(answering([&] { view->onCommand(ids::saveAsButton); }, [&](QWidget&) { view.reset(); }), 1);
     EXPECT_EQ(view, nullptr);
 }
+
+}  // namespace wirepane

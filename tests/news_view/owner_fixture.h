@@ -18,6 +18,8 @@
 #include <gtest/gtest.h>
 #include <utility>
 
+namespace wirepane {
+
 // What owners of the view's work stand on, without the view: seven lists with grids on a bare window,
 // services of which 1 and 2 are ticked, controls as far as a test creates them. It is 9:30 on 2 March 2026.
 class OwnerTest : public testing::Test {
@@ -33,15 +35,15 @@ protected:
         host_clock::startAt(localTime(2026, 3, 2, 9, 30));
         for (const ListIndex list : {ListIndex::Symbol, ListIndex::Search, ListIndex::Relation,
                                      ListIndex::Warrant, ListIndex::WarningTerm})
-            view.lists[list].vSetGrid(CreateHeadlineSheet(&view.window, QRect(0, 100, 600, 300), 0, backEnd));
-        services.vLoad(backEnd);
-        services.vSelectInBoth(0);
-        services.vSelectInBoth(1);
+            view.lists[list].setGrid(createHeadlineSheet(&view.window, QRect(0, 100, 600, 300), 0, backEnd));
+        services.load(backEnd);
+        services.selectInBoth(0);
+        services.selectInBoth(1);
     }
 
     void withoutGrid(ListIndex list) {
         delete view.grid(list);
-        view.lists[list].vSetGrid(nullptr);
+        view.lists[list].setGrid(nullptr);
     }
     void switchOn(ViewOption option) {
         MemoryCfgIO stored;
@@ -66,3 +68,5 @@ protected:
     CommonParts parts{backEnd,  host,    services, view.lists, controls, settings,
                       switches, loading, breaks,   tip,        newsType};
 };
+
+}  // namespace wirepane

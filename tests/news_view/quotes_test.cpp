@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "host/controls/super_sheet_wnd.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
 #include "tests/news_view/view_fixture.h"
@@ -9,6 +9,8 @@
 #include <limits>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -26,7 +28,7 @@ protected:
 
     CNewsRelateSymbolQuoteView* quotes() const {
         return qobject_cast<CNewsRelateSymbolQuoteView*>(
-            GetDlgItem(view.get(), ids::firstChildView + ids::relatedQuotes));
+            dlgItem(view.get(), ids::firstChildView + ids::relatedQuotes));
     }
     // "2330 Aster Chips --", a row each: code, name, last.
     QStringList rows() const {
@@ -36,7 +38,7 @@ protected:
             all += row.toStringList().mid(0, 3).join(u' ');
         return all;
     }
-    void selectRow(int row) { view->pGetCurrSheetView()->vSetActiveSelection(row, -1); }
+    void selectRow(int row) { view->pGetCurrSheetView()->setActiveSelection(row, -1); }
 
     const QStringList ofNewest{u"2330 Aster Chips --"_s, u"00700 Harbour Holdings --"_s};
 };
@@ -48,7 +50,7 @@ TEST_F(RelatedQuotesTest, StandsBesideTheStoryWhereThereIsOne) {
         view.reset();
     }
     open();
-    const auto* pane = GetDlgItem(view.get(), ids::firstChildView + ids::storyPane);
+    const auto* pane = dlgItem(view.get(), ids::firstChildView + ids::storyPane);
     ASSERT_NE(quotes(), nullptr);
     EXPECT_EQ(quotes()->geometry().bottom() + 1, view->height());
     EXPECT_EQ(quotes()->height(), 120);
@@ -74,10 +76,10 @@ TEST_F(RelatedQuotesTest, ListsTheSymbolsOfTheShownHeadlineAndNoOthers) {
     view->OnBtnPageDown();
     EXPECT_EQ(rows(), QStringList{u"6214 Lantern Foods --"_s});
     EXPECT_EQ(backEnd.followed[view.get()], QStringList{u"16:6214"_s});
-    EXPECT_EQ(quotes()->GetDataState(), DataState::Normal);
+    EXPECT_EQ(quotes()->currentDataState(), DataState::Normal);
     view->OnBtnPageDown();
     EXPECT_EQ(rows(), QStringList()) << "a headline without symbols";
-    EXPECT_EQ(quotes()->GetDataState(), DataState::NotSupported);
+    EXPECT_EQ(quotes()->currentDataState(), DataState::NotSupported);
     unsigned char market = 9;
     QString code = u"unchanged"_s;
     EXPECT_EQ(quotes()->GetCurrSymbolInfo(market, code), 0);
@@ -85,7 +87,7 @@ TEST_F(RelatedQuotesTest, ListsTheSymbolsOfTheShownHeadlineAndNoOthers) {
     selectRow(0);
     view->SwitchFunction(static_cast<int>(ListIndex::Search));
     EXPECT_EQ(rows(), QStringList());
-    EXPECT_EQ(quotes()->GetDataState(), DataState::Normal);
+    EXPECT_EQ(quotes()->currentDataState(), DataState::Normal);
     EXPECT_EQ(backEnd.followed[view.get()], QStringList());
     view->SwitchFunction(static_cast<int>(ListIndex::All));
     EXPECT_EQ(rows(), ofNewest);
@@ -106,7 +108,7 @@ TEST_F(RelatedQuotesTest, IsSortedAsItWasLeft) {
     view->SaveViewInfo(&settings, u"Layout"_s, 0, 0);
     EXPECT_EQ(settings.values[u"QuoteSorting"_s], -2);
     EXPECT_EQ(shownAt(settings.values[u"QuoteSorting"_s]), reversed);
-    quotes()->vSortBy(QuoteColumn::Code);
+    quotes()->sortBy(QuoteColumn::Code);
     EXPECT_EQ(rows(), reversed);
     view->SaveViewInfo(&settings, u"Layout"_s, 0, 0);
     EXPECT_EQ(settings.values[u"QuoteSorting"_s], 1);
@@ -135,7 +137,7 @@ TEST_F(RelatedQuotesTest, HandsOnWhatTheBackEndSays) {
     EXPECT_EQ(rows(), (QStringList{u"6214 Lantern Foods --"_s, u"2330 Aster Chips 601.00"_s}));
 
     // The headline leaves the list; what stands in its place has its own symbols.
-    view->vHeadlineGone(again.headline);
+    view->headlineGone(again.headline);
     again = {{localTime(2026, 3, 2, 9, 2), 2, 1}, {{chips}}};
     view->vRecvNewsRelateSymbolListRecovery(&again);
     EXPECT_EQ(rows().size(), 2);
@@ -155,14 +157,14 @@ TEST_F(RelatedQuotesTest, HandsOnWhatTheBackEndSays) {
 TEST_F(RelatedQuotesTest, TheUsersChoiceDrivesTheLinkGroupAndItsChoiceIsFollowed) {
     // Without the symbol mode, which would empty story and list for the news of a new symbol.
     open({{u"EnabledFunctions"_s, 0x09}});
-    view->vSetLinkGroup(2);
+    view->setLinkGroup(2);
     QStringList announced;
     QObject::connect(view.get(), &TRVQuoteBaseView::SendChangeSymbol, view.get(),
                      [&](unsigned char group, unsigned char market, const QString& code) {
                          announced += u"%1 %2:%3"_s.arg(group).arg(market).arg(code);
                      });
     selectRow(0);
-    CSuperSheetWnd* sheet = quotes()->pGetSheet();
+    CSuperSheetWnd* sheet = quotes()->quoteSheet();
     focusGrid();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
@@ -186,3 +188,5 @@ TEST_F(RelatedQuotesTest, TheUsersChoiceDrivesTheLinkGroupAndItsChoiceIsFollowed
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -3,7 +3,7 @@
 // A user gone wild: keys, clicks, wheel turns and menu choices while headlines arrive. WIREPANE_INPUTS is the
 // number of inputs, a few thousand without it.
 #include "headline_list/language_keys.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "tests/news_view/view_fixture.h"
 
 #include <QApplication>
@@ -18,6 +18,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 class RandomInputTest : public NewsViewTest {
 protected:
     int below(int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
@@ -28,7 +30,7 @@ protected:
         const auto children = window->findChildren<QWidget*>();
         for (QWidget* child : children) {
             // Printing and saving ask the system's dialogs, which wait for a real user.
-            const int id = WindowId(child);
+            const int id = windowId(child);
             if (child->isVisible() && child->window() == window->window() && id != ids::printButton &&
                 id != ids::saveAsButton)
                 shown.append(child);
@@ -161,7 +163,9 @@ TEST_F(RandomInputTest, NothingBreaks) {
         const int mode = state(u"mode"_s).toInt();
         const CSuperSheetWnd* sheet = view->pGetCurrSheetView();
         ASSERT_LE(sheet->cptGetFocusNdx().y(), view->iGetHeadlineTableSize(mode) - 1) << i;
-        ASSERT_EQ(view->iGetHeadlineTableSize(mode), sheet->iGetRowCount()) << i;
+        ASSERT_EQ(view->iGetHeadlineTableSize(mode), sheet->rowCount()) << i;
         ASSERT_EQ(complaints, QStringList()) << i;
     }
 }
+
+}  // namespace wirepane

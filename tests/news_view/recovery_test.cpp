@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 // What the user has sent again, and the back end's answers.
 #include "host/controls/sc_combo_box.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "story/trv_news_story.h"
 #include "tests/news_view/view_fixture.h"
 
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -26,13 +28,13 @@ protected:
         open(stored);
         frame.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
         backEnd.asked.clear();
     }
 
     QStringList requests(int command) {
         backEnd.asked.clear();
-        EXPECT_TRUE(view->OnCommand(command));
+        EXPECT_TRUE(view->onCommand(command));
         return backEnd.asked.filter(u"again "_s);
     }
 
@@ -72,8 +74,8 @@ TEST_F(Recovery, SelectedRowsAwaitTheirHeadlines) {
         addNews(1, 9, sequence, sequence);
     openActive();
     EXPECT_EQ(requests(ids::recoverHeadline), QStringList()) << "nothing is selected";
-    CSuperSheetWnd& sheet = *view->Sheet(0);
-    sheet.vSetActiveSelection(0, -1);
+    CSuperSheetWnd& sheet = *view->sheetOf(0);
+    sheet.setActiveSelection(0, -1);
     for (const int row : {1, 3})
         sheet.selectionModel()->select(sheet.model()->index(row, 0),
                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
@@ -93,7 +95,7 @@ TEST_F(Recovery, TheFocusedRowsStoryIsAskedForAgain) {
     addNews(1, 9, 1, 2);
     openActive();
     EXPECT_EQ(requests(ids::recoverStory), QStringList{u"again story 1 2"_s}) << "the first row stands in";
-    view->Sheet(0)->vSetActiveSelection(1, -1);
+    view->sheetOf(0)->setActiveSelection(1, -1);
     EXPECT_EQ(requests(ids::recoverStory), QStringList{u"again story 1 1"_s});
     view->SwitchFunction(3);
     EXPECT_EQ(requests(ids::recoverStory), QStringList()) << "an empty list";
@@ -106,7 +108,7 @@ TEST_F(Recovery, TheStoryDialogIsPointedAtTheRowWhoseStoryIsAskedForAgain) {
     view->SetStoryShowType(0);
     const auto* dialog = view->findChild<TRVNewsStory*>();
     ASSERT_NE(dialog, nullptr);
-    view->Sheet(0)->vSetActiveSelection(1, -1);
+    view->sheetOf(0)->setActiveSelection(1, -1);
     EXPECT_EQ(requests(ids::recoverStory), QStringList{u"again story 1 1"_s});
     EXPECT_EQ(dialog->GetHeadLinePos(), 1);
     EXPECT_FALSE(dialog->isVisible());
@@ -191,24 +193,24 @@ TEST_F(Recovery, AnEmptyListSaysSoUnasked) {
     backEnd.texts[u"IDS_NEWSCTRLVIEW_HINT_NO_NEWS"_s] = u"no news, press %1"_s;
     openActive();
     for (const int list : {0, 1, 2})
-        EXPECT_EQ(view->Sheet(list)->accessibleDescription(), u"no news, press F5"_s) << list;
-    EXPECT_EQ(view->Sheet(5)->accessibleDescription(), u"IDS_NEWSCTRLVIEW_HINT_NO_WARRANT_NEWS"_s);
+        EXPECT_EQ(view->sheetOf(list)->accessibleDescription(), u"no news, press F5"_s) << list;
+    EXPECT_EQ(view->sheetOf(5)->accessibleDescription(), u"IDS_NEWSCTRLVIEW_HINT_NO_WARRANT_NEWS"_s);
 }
 
 TEST_F(Recovery, NewsOfABreakIsMarkedAndTheBreakIsShown) {
     addNews(1, 9, 10, 1);
     openActive();
     const auto colour = [this](int row) {
-        return view->Sheet(0)->model()->index(row, 0).data(Qt::ForegroundRole);
+        return view->sheetOf(0)->model()->index(row, 0).data(Qt::ForegroundRole);
     };
     const auto picture = [this] { return view->grab(QRect(200, 20, 400, 40)).toImage(); };
     const QImage connected = picture();
     const auto at = [](int minute) { host_clock::startAt(localTime(2026, 3, 2, 9, minute)); };
     at(30);
-    view->vConnectionChanged(false);
+    view->connectionChanged(false);
     EXPECT_NE(picture(), connected);
     at(35);
-    view->vConnectionChanged(true);
+    view->connectionChanged(true);
     EXPECT_EQ(picture(), connected);
     push(1, 9, 29, 2);
     push(1, 9, 30, 3);
@@ -230,5 +232,7 @@ TEST_F(Recovery, TheWarningTermListFollowsTheAllNewsList) {
     EXPECT_EQ(titles(6), QStringList());
     answer(dateAnswer, 1, u"20260302"_s);
     EXPECT_EQ(titles(6), QStringList{u"s1 9:00"_s});
-    EXPECT_EQ(view->Sheet(6)->model()->index(0, 0).data().toString(), u"03/02 09:00"_s);
+    EXPECT_EQ(view->sheetOf(6)->model()->index(0, 0).data().toString(), u"03/02 09:00"_s);
 }
+
+}  // namespace wirepane

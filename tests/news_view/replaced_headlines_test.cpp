@@ -3,7 +3,7 @@
 // Headlines that are replaced while views show them: which lists they leave, and what stays in place then.
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/s_date_time_ctrl.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "search/news_key_search_dlg.h"
 #include "search/search_ids.h"
 #include "story/news_story_view.h"
@@ -15,6 +15,8 @@
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -45,7 +47,7 @@ protected:
         const CHeadline headline{1, version.time, 1, version.title, 0, version.topic, 0};
         view->RecvNewHeadLine(&headline, QString::number(version.topic), version.symbol);
     }
-    void gone(std::int64_t time, std::int32_t sequence = 1) { TellGoneHeadline(*view, {time, sequence, 1}); }
+    void gone(std::int64_t time, std::int32_t sequence = 1) { tellGoneHeadline(*view, {time, sequence, 1}); }
 
     // Shows every list once, with headlines 3, 2 and 1.
     void openLists() {
@@ -63,19 +65,19 @@ protected:
     void tickKeySet(const QString& word) {
         runDialog<CNewsKeySearchDlg>(ids::relationSearchButton, [&word](CNewsKeySearchDlg& dialog) {
             press(dialog, search_ids::allNewsTypes);
-            qobject_cast<QLineEdit*>(GetDlgItem(&dialog, search_ids::keywordEdit))->setText(word);
+            qobject_cast<QLineEdit*>(dlgItem(&dialog, search_ids::keywordEdit))->setText(word);
             press(dialog, search_ids::addTyped);
             press(dialog, search_ids::saveKeySet);
             press(dialog, search_ids::ok);
         });
     }
     void settle() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
     }
     QStringList all(int) const { return {u"Gold 3"_s, u"Gold 2"_s, u"Gold up"_s}; }
     QString story() const {
-        auto* pane = GetDlgItem(view.get(), ids::firstChildView + ids::storyPane);
-        return static_cast<MyRichEdit*>(GetDlgItem(pane, story_ids::storyText))->szGetText();
+        auto* pane = dlgItem(view.get(), ids::firstChildView + ids::storyPane);
+        return static_cast<MyRichEdit*>(dlgItem(pane, story_ids::storyText))->literalText();
     }
     const QStringList others{u"Gold 3"_s, u"Gold 2"_s};
 };
@@ -131,7 +133,7 @@ TEST_F(ReplacedHeadlines, LeaveEveryListWithTheKeyThatTheyHad) {
     const std::int64_t nine = localTime(2026, 3, 2, 9, 0);
     backEnd.searchTables[1] = {{nine, 1, 1, 0, 0}, {localTime(2026, 3, 2, 9, 2) - 86400, 2, 1, 0, 0}};
     view->SwitchFunction(3);
-    auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit));
+    auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
     ASSERT_NE(edit, nullptr);
     edit->setText(u"gold"_s);
     QTest::keyClick(edit, Qt::Key_Return);
@@ -150,7 +152,7 @@ TEST_F(ReplacedHeadlines, LeaveEveryListWithTheKeyThatTheyHad) {
 
 TEST_F(ReplacedHeadlines, KeepTheirRowUnderANewTimeWhereTheyAreNotPushed) {
     openLists();
-    auto* picker = qobject_cast<SDateTimeCtrl*>(GetDlgItem(view.get(), ids::datePicker));
+    auto* picker = qobject_cast<SDateTimeCtrl*>(dlgItem(view.get(), ids::datePicker));
     ASSERT_NE(picker, nullptr);
     // A day later the reader pages back to this one.
     const CMarketStatus next{1, 20260303};
@@ -163,7 +165,7 @@ TEST_F(ReplacedHeadlines, KeepTheirRowUnderANewTimeWhereTheyAreNotPushed) {
     gone(nine);
     settle();
     EXPECT_EQ(titles(0), others + QStringList{u"Gold down"_s});
-    EXPECT_EQ(view->Keys(0, 2, 1), (std::vector<HeadlineKey>{{nine - 60, 1, 1}}));
+    EXPECT_EQ(view->keysOf(0, 2, 1), (std::vector<HeadlineKey>{{nine - 60, 1, 1}}));
     EXPECT_EQ(titles(1), QStringList{u"Gold down"_s} + others) << "this list takes it in, at its top";
     EXPECT_EQ(view->iGetHeadlineTableSize(1), 3) << "and has it once";
 }
@@ -172,7 +174,7 @@ TEST_F(ReplacedHeadlines, AreAskedForAlsoWhenTheyAreOfAnotherDayAndNotPushed) {
     openLists();
     publish({u"Oil up"_s, 2, u"2330"_s});
     const CHeadline headline{1, localTime(2026, 3, 2, 9, 0), 1, u"Oil up"_s, 0, 2, 0};
-    TellReplacedHeadline(*view, headline, u"2"_s, u"2330"_s);
+    tellReplacedHeadline(*view, headline, u"2"_s, u"2330"_s);
     settle();
     EXPECT_EQ(titles(0), others + QStringList{u"Oil up"_s}) << "in its place";
     EXPECT_EQ(titles(1), others);
@@ -181,7 +183,7 @@ TEST_F(ReplacedHeadlines, AreAskedForAlsoWhenTheyAreOfAnotherDayAndNotPushed) {
     settle();
     EXPECT_EQ(titles(2), others + QStringList{u"Oil up"_s});
     const CHeadline never{1, localTime(2026, 3, 2, 9, 30), 30, u"Gold"_s, 0, 1, 0};
-    TellReplacedHeadline(*view, never, u"1"_s, u"2330"_s);
+    tellReplacedHeadline(*view, never, u"1"_s, u"2330"_s);
     for (const int list : {1, 2, 4})
         EXPECT_FALSE(titles(list).contains(u"Gold"_s)) << "nothing is taken in";
 }
@@ -196,9 +198,9 @@ TEST_F(ReplacedHeadlines, LeaveTheStoryTheFocusAndTheSelectionWhereTheyAre) {
     settle();
     focusGrid();
     for (int row = 0; row < 3; ++row)
-        QTest::keyClick(view->Sheet(1), Qt::Key_Down);
+        QTest::keyClick(view->sheetOf(1), Qt::Key_Down);
     ASSERT_TRUE(story().contains(u"story 1"_s)) << story().toStdString();
-    const auto focused = [this] { return view->Sheet(1)->cptGetFocusNdx().y(); };
+    const auto focused = [this] { return view->sheetOf(1)->cptGetFocusNdx().y(); };
     // One above the focus goes.
     const CHeadline other{1, localTime(2026, 3, 2, 9, 3), 3, u"Gold 3"_s, 0, 2, 0};
     view->RecvNewHeadLine(&other, u"2"_s, {});
@@ -216,7 +218,9 @@ TEST_F(ReplacedHeadlines, LeaveTheStoryTheFocusAndTheSelectionWhereTheyAre) {
     push(1, 9, 20, 20);
     view->RespStory({localTime(2026, 3, 2, 9, 2), 2, 1, 0, 0});
     EXPECT_TRUE(story().contains(u"story 1"_s)) << "another headline's story is not its";
-    QTest::keyClick(view->Sheet(1), Qt::Key_Up);
-    QTest::keyClick(view->Sheet(1), Qt::Key_Down);
+    QTest::keyClick(view->sheetOf(1), Qt::Key_Up);
+    QTest::keyClick(view->sheetOf(1), Qt::Key_Down);
     EXPECT_TRUE(story().contains(u"story 2"_s)) << "until the reader goes on";
 }
+
+}  // namespace wirepane

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Searching from the news view: what is sent, what is shown, what the user is told.
 #include "host/controls/my_rich_edit.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "search/adv_search_dlg.h"
 #include "search/search_ids.h"
 #include "story/news_story_view.h"
@@ -19,6 +19,8 @@
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -54,12 +56,12 @@ protected:
         frame.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
         view->SwitchFunction(mode);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
         backEnd.asked.clear();
     }
 
     void quickSearch(const QString& text) {
-        auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit));
+        auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
         ASSERT_NE(edit, nullptr);
         edit->setText(text);
         QTest::keyClick(edit, Qt::Key_Return);
@@ -99,8 +101,8 @@ protected:
         return shown[u"visible"_s].toBool() ? shown[u"text"_s].toString() : QString();
     }
     MyRichEdit& story() const {
-        auto* pane = GetDlgItem(view.get(), ids::firstChildView + ids::storyPane);
-        return *static_cast<MyRichEdit*>(GetDlgItem(pane, story_ids::storyText));
+        auto* pane = dlgItem(view.get(), ids::firstChildView + ids::storyPane);
+        return *static_cast<MyRichEdit*>(dlgItem(pane, story_ids::storyText));
     }
     // Runs the dialog: `work` has it in front of the user and ends it.
     void runDialog(const std::function<void(CAdvSearchDlg&)>& work) {
@@ -109,15 +111,15 @@ protected:
             ASSERT_NE(dialog, nullptr);
             work(*dialog);
         });
-        view->OnCommand(ids::dealsSearchButton);
+        view->onCommand(ids::dealsSearchButton);
     }
     static void addKeyword(const CAdvSearchDlg& dialog, const QString& keyword) {
-        auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(&dialog, search_ids::keywordEdit));
+        auto* edit = qobject_cast<QLineEdit*>(dlgItem(&dialog, search_ids::keywordEdit));
         edit->setText(keyword);
         QTest::keyClick(edit, Qt::Key_Return);
     }
     static void press(const CAdvSearchDlg& dialog, int id) {
-        qobject_cast<QAbstractButton*>(GetDlgItem(&dialog, id))->click();
+        qobject_cast<QAbstractButton*>(dlgItem(&dialog, id))->click();
     }
 };
 
@@ -137,7 +139,7 @@ TEST_F(SearchesOfTheView, TheQuickSearchAsksTheTickedServicesAndShowsWhatIsThere
     view->RespSearchHeadLineTable(quick(u"rate cut"_s), 1);
     EXPECT_EQ(titles(3), (QStringList{u"s2 9:10"_s, u"s22 9:05"_s, u"s1 9:00"_s})) << "of every service";
     EXPECT_EQ(tip(), searching + u" rate cut"_s) << "service 2 is still awaited";
-    EXPECT_EQ(view->Sheet(3)->cptGetFocusNdx().y(), 0);
+    EXPECT_EQ(view->sheetOf(3)->cptGetFocusNdx().y(), 0);
     view->RespSearchHeadLineTable(quick(u"rate cut"_s), 2);
     EXPECT_EQ(tip(), QString());
     EXPECT_EQ(pending(), QList<int>());
@@ -212,18 +214,18 @@ TEST_F(SearchesOfTheView, TwoKeywordsAreSentWithAMethodWhichIsKept) {
         EXPECT_EQ(sent().front(), u"search 1 3 "_s + asked);
     }
     view->RespSearchHeadLineTable(two, 1);
-    EXPECT_EQ(view->Sheet(6)->cptGetFocusNdx().y(), -1) << "the condition without a method is none of ours";
+    EXPECT_EQ(view->sheetOf(6)->cptGetFocusNdx().y(), -1) << "the condition without a method is none of ours";
     two.method = 1;
     view->RespSearchHeadLineTable(two, 1);
-    EXPECT_EQ(view->Sheet(6)->cptGetFocusNdx().y(), 0);
+    EXPECT_EQ(view->sheetOf(6)->cptGetFocusNdx().y(), 0);
 }
 
 TEST_F(SearchesOfTheView, TheWaitTipComesWithAnotherTextInTheBoxAndNamesTheSearchThatIsSent) {
     openSearch();
     const auto search = [this](const QString& keyword) {
         runDialog([&](CAdvSearchDlg& dialog) {
-            qobject_cast<QAbstractButton*>(GetDlgItem(&dialog, search_ids::methodAnd))->click();
-            for (auto* keywords = qobject_cast<QListWidget*>(GetDlgItem(&dialog, search_ids::keywords));
+            qobject_cast<QAbstractButton*>(dlgItem(&dialog, search_ids::methodAnd))->click();
+            for (auto* keywords = qobject_cast<QListWidget*>(dlgItem(&dialog, search_ids::keywords));
                  keywords->count() > 0;) {
                 keywords->selectAll();
                 press(dialog, search_ids::remove);
@@ -243,7 +245,7 @@ TEST_F(SearchesOfTheView, TheWaitTipComesWithAnotherTextInTheBoxAndNamesTheSearc
     view->findChild<CQuoteDlgTipMsg*>()->vStop();
     search(u"tin"_s);
     EXPECT_EQ(tip(), QString()) << "the text in the box is the same";
-    qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit))->setText(u"other"_s);
+    qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit))->setText(u"other"_s);
     search(u"tin"_s);
     EXPECT_EQ(tip(), searching + u" tin"_s) << "the keywords are the same, the text is not";
     EXPECT_EQ(pending(), (QList<int>{1, 2}));
@@ -265,14 +267,14 @@ TEST_F(SearchesOfTheView, AChangeOfServicesSearchesAgain) {
     openSearch();
     quickSearch(u"gold"_s);
     sent();
-    view->OnCommand(ids::firstServiceCommand + 2);
+    view->onCommand(ids::firstServiceCommand + 2);
     EXPECT_EQ(sent(),
               (QStringList{u"search 1 3 0/1 gold"_s, u"search 2 3 0/1 gold"_s, u"search 16 3 0/1 gold"_s}));
 }
 
 TEST_F(SearchesOfTheView, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
     openSearch();
-    auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(view.get(), ids::searchEdit));
+    auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
     edit->setFocus();
     runDialog([](CAdvSearchDlg& dialog) { press(dialog, search_ids::ok); });
     EXPECT_EQ(shortTip(), invalid) << "without keywords";
@@ -321,7 +323,7 @@ TEST_F(SearchesOfTheView, TheStoryOfAResultHasItsKeywordsMarked) {
     EXPECT_EQ(story().textCursor().selectedText(), u"gold"_s);
     backEnd.searchTables.clear();
     view->RespSearchHeadLineTable(quick(u"GOLD"_s), 1);
-    EXPECT_EQ(story().szGetText(), QString()) << "nothing was found";
+    EXPECT_EQ(story().literalText(), QString()) << "nothing was found";
 }
 
 TEST_F(SearchesOfTheView, AnAnswerOpensNoWindowOfAStory) {
@@ -329,12 +331,12 @@ TEST_F(SearchesOfTheView, AnAnswerOpensNoWindowOfAStory) {
     quickSearch(u"gold"_s);
     backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
     view->RespSearchHeadLineTable(quick(u"gold"_s), 1);
-    EXPECT_FALSE(view->StoryState(true)[u"visible"_s].toBool());
-    view->OnCommand(ids::showStory);
-    EXPECT_TRUE(view->StoryState(true)[u"title"_s].toString().endsWith(u"s1 9:00"_s));
+    EXPECT_FALSE(view->storyState(true)[u"visible"_s].toBool());
+    view->onCommand(ids::showStory);
+    EXPECT_TRUE(view->storyState(true)[u"title"_s].toString().endsWith(u"s1 9:00"_s));
     backEnd.searchTables[2] = {entryOf(2, 9, 10, 1)};
     view->RespSearchHeadLineTable(quick(u"gold"_s), 2);
-    EXPECT_TRUE(view->StoryState(true)[u"title"_s].toString().endsWith(u"s2 9:10"_s)) << "as the rows do";
+    EXPECT_TRUE(view->storyState(true)[u"title"_s].toString().endsWith(u"s2 9:10"_s)) << "as the rows do";
 }
 
 TEST_F(SearchesOfTheView, ASymbolOfALinkedViewNarrowsTheSearch) {
@@ -398,10 +400,12 @@ TEST_F(SearchesOfTheView, RowsOfWarningTermsStayWhileAPushIsSearchedForWhereTheS
     addNews(2, 9, 20, 2);
     backEnd.searchTables[2] = {};
     push(2, 9, 20, 2);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
     EXPECT_EQ(sent(), QStringList{u"search 2 3 0/1 gold"_s});
     EXPECT_EQ(titles(6), both);
     backEnd.searchTables[2] = {entryOf(2, 9, 20, 2), entryOf(2, 9, 10, 1)};
     view->RespSearchHeadLineTable(quick(u"gold"_s), 2);
     EXPECT_EQ(titles(6), (QStringList{u"s2 9:20"_s, u"s2 9:10"_s, u"s1 9:00"_s}));
 }
+
+}  // namespace wirepane

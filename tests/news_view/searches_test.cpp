@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 class SearchesTest : public OwnerTest {
@@ -61,13 +63,13 @@ TEST_F(SearchesTest, WhatIsAtHandIsShownAtOnceAndToldToTheNotices) {
     view.status = u"S1 "_s;
     find(1);
     searches.send();
-    EXPECT_EQ(view.lists[ListIndex::Search].Table().size(), 1);
+    EXPECT_EQ(view.lists[ListIndex::Search].headlineTable().size(), 1);
     EXPECT_EQ(calls(), (QStringList{u"show story"_s, u"place notices"_s}));
     EXPECT_EQ(view.status, u"S1 "_s);
     backEnd.searchTables.clear();
     searches.send();
     EXPECT_EQ(view.status, QString()) << "nothing is there to be told of";
-    EXPECT_EQ(searches.desk().SentAt(ListIndex::Search)->time, host_clock::now());
+    EXPECT_EQ(searches.desk().sentAt(ListIndex::Search)->time, host_clock::now());
 }
 
 TEST_F(SearchesTest, AnAnswerIsShownFromItsTopOnceAndInPlaceWhenItComesByItself) {
@@ -83,7 +85,7 @@ TEST_F(SearchesTest, AnAnswerIsShownFromItsTopOnceAndInPlaceWhenItComesByItself)
     searches.takeAnswer(plain, 1);
     EXPECT_EQ(calls(), QStringList{u"place notices"_s}) << "an answer opens no window";
     EXPECT_EQ(focusedRow(ListIndex::Search), 0);
-    view.grid(ListIndex::Search)->vSetActiveSelection(2, -1);
+    view.grid(ListIndex::Search)->setActiveSelection(2, -1);
     searches.takeAnswer(plain, 1);
     EXPECT_EQ(calls(), QStringList{u"read in place"_s});
     view.hasStoryWindow = true;
@@ -102,7 +104,7 @@ TEST_F(SearchesTest, AnAnswerIsShownFromItsTopOnceAndInPlaceWhenItComesByItself)
 TEST_F(SearchesTest, NothingFoundIsToldWithTheLastAnswer) {
     CSearch plain = condition(u"plain"_s);
     searches.desk().ordinary = plain;
-    searches.desk().bTakeSearchText(u"another"_s);  // what is in the box is new: the answers are awaited
+    searches.desk().takeSearchText(u"another"_s);  // what is in the box is new: the answers are awaited
     searches.send();
     const QString waiting = tip.text();
     EXPECT_TRUE(waiting.contains(u"plain"_s));
@@ -117,10 +119,10 @@ TEST_F(SearchesTest, AnswersGoToTheWarningTermsWhereThoseAreSwitchedOn) {
     find(1);
     searches.send();
     searches.takeAnswer(condition(u"plain"_s), 1);
-    EXPECT_EQ(view.lists[ListIndex::WarningTerm].Table().size(), 0);
+    EXPECT_EQ(view.lists[ListIndex::WarningTerm].headlineTable().size(), 0);
     switches.showWarningSearch = true;
     searches.takeAnswer(condition(u"plain"_s), 2);
-    EXPECT_EQ(view.lists[ListIndex::WarningTerm].Table().size(), 1);
+    EXPECT_EQ(view.lists[ListIndex::WarningTerm].headlineTable().size(), 1);
 }
 
 TEST_F(SearchesTest, TheNewestPushOfEachServiceIsSearchedForWhileWarningTermsAreShown) {
@@ -149,16 +151,16 @@ TEST_F(SearchesTest, TheNewestPushOfEachServiceIsSearchedForWhileWarningTermsAre
 
 TEST_F(SearchesTest, APushedHeadlineReplacesTheRowsUnlessTheyAreToStay) {
     const CHeadlineTable old = view.add(1);
-    view.lists[ListIndex::WarningTerm].vSetTable({{old}});
+    view.lists[ListIndex::WarningTerm].setTable({{old}});
     CHeadline headline;
     headline.service = 1;
     CSearch warning = condition(u"warning"_s);
     switchOn(ViewOption::KeepWarningRows);
     searches.searchFor(warning, ListIndex::WarningTerm, headline, searchTableKey);
-    EXPECT_EQ(view.lists[ListIndex::WarningTerm].Table().size(), 1);
+    EXPECT_EQ(view.lists[ListIndex::WarningTerm].headlineTable().size(), 1);
     settings.options = {};
     searches.searchFor(warning, ListIndex::WarningTerm, headline, searchTableKey);
-    EXPECT_EQ(view.lists[ListIndex::WarningTerm].Table().size(), 0);
+    EXPECT_EQ(view.lists[ListIndex::WarningTerm].headlineTable().size(), 0);
     EXPECT_EQ(sent().size(), 2);
     withoutGrid(ListIndex::WarningTerm);
     searches.searchFor(warning, ListIndex::WarningTerm, headline, searchTableKey);
@@ -211,7 +213,7 @@ protected:
     LiveNewsTest() {
         now.hasDatePicker = true;
         now.pickedDate = now.newsDay = QDate(2026, 3, 2);
-        loading.bTakeLoad(ListIndex::All);
+        loading.takeLoad(ListIndex::All);
     }
     CHeadline headline(std::int32_t sequence) {
         CHeadline made;
@@ -221,7 +223,7 @@ protected:
         made.title = u"Title %1"_s.arg(sequence);
         return made;
     }
-    int rows() const { return view.lists[ListIndex::All].Table().size(); }
+    int rows() const { return view.lists[ListIndex::All].headlineTable().size(); }
 
     IntakeState now;
     QStringList told;
@@ -269,7 +271,7 @@ TEST_F(LiveNewsTest, WithoutAConnectionOrADayNothingHappens) {
 
 TEST_F(LiveNewsTest, OnlyListsThatHaveAHeadlineReplaceIt) {
     CHeadline first = headline(1);
-    loading.bTakeLoad(ListIndex::Category);
+    loading.takeLoad(ListIndex::Category);
     now.categoryId = u"7"_s;
     live.replace({first, u"7"_s, {}});
     EXPECT_EQ(calls(), QStringList());
@@ -293,7 +295,9 @@ TEST_F(LiveNewsTest, AHeadlineThatIsGoneLeavesItsLists) {
     live.takeOut({first.time, 2, 1});
     EXPECT_EQ(calls(), QStringList());
     EXPECT_EQ(rows(), 1);
-    live.takeOut(KeyOf(first));
+    live.takeOut(keyOf(first));
     EXPECT_EQ(calls(), changed);
     EXPECT_EQ(rows(), 0);
 }
+
+}  // namespace wirepane

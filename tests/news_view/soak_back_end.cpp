@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 void SoakBackEnd::store(const Item& item) {
     const int number = item.headline.sequence;
     if (number < size()) {
@@ -52,7 +54,7 @@ int SoakBackEnd::BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadli
     int count = 0;
     for (const CHeadlineTable& entry : entries) {
         if (entry.service != service || entry.sequence >= size() ||
-            KeyOf(at(entry.sequence).headline) != KeyOf(entry))
+            keyOf(at(entry.sequence).headline) != keyOf(entry))
             continue;
         headlines.push_back(at(entry.sequence).headline);
         ++count;
@@ -64,3 +66,5 @@ bool SoakBackEnd::BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) 
     story = {entry.time, u"story %1"_s.arg(entry.sequence), entry};
     return true;
 }
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 #include <QDate>
 
+namespace wirepane {
+
 // A back end that holds a million headlines: each number is given once, a headline that is sent again keeps
 // its number and day.
 class SoakBackEnd : public FakeBackEnd {
@@ -40,3 +42,5 @@ private:
     std::map<std::pair<unsigned char, QString>, std::vector<int>> days;  // numbers by service and yyyymmdd
     std::map<unsigned char, std::vector<int>> ofService;
 };
+
+}  // namespace wirepane

@@ -6,7 +6,7 @@
 #include "host/contract/clock.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "story/news_story_view.h"
 #include "tests/news_view/soak_back_end.h"
@@ -22,6 +22,8 @@
 #include <set>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -60,9 +62,9 @@ protected:
     }
 
     int below(int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
-    int mode() const { return view->State()[u"mode"_s].toInt(); }
+    int mode() const { return view->state()[u"mode"_s].toInt(); }
     std::vector<HeadlineKey> keys(const TRVNewsCtrlView& of, int list) const {
-        return of.Keys(list, 0, of.iGetHeadlineTableSize(list));
+        return of.keysOf(list, 0, of.iGetHeadlineTableSize(list));
     }
 
     void startDay(const QDate& day) {
@@ -96,7 +98,7 @@ protected:
         const CSuperSheetWnd* sheet = view->pGetCurrSheetView();
         sentAgain.clear();
         const int focus = sheet->cptGetFocusNdx().y();
-        const int first = sheet->iGetFirstVisibleRow();
+        const int first = sheet->firstVisibleRow();
         const int focused = view->GetHeadlineTable(focus).sequence;
         const int top = view->GetHeadlineTable(first).sequence;
         for (int i = 0; i < count; ++i)
@@ -104,13 +106,13 @@ protected:
         if (focus >= 0) {
             ASSERT_EQ(view->GetHeadlineTable(sheet->cptGetFocusNdx().y()).sequence, focused);
             const auto* pane =
-                qobject_cast<NewsStoryView*>(GetDlgItem(view.get(), ids::firstChildView + ids::storyPane));
-            if (pane->iGetTable() == mode()) {
+                qobject_cast<NewsStoryView*>(dlgItem(view.get(), ids::firstChildView + ids::storyPane));
+            if (pane->listNumber() == mode()) {
                 ASSERT_EQ(view->GetHeadlineTable(pane->GetHeadLinePos()).sequence, focused);
             }
         }
         // At the very end of a list the rows on screen move when one of them goes.
-        const int firstNow = sheet->iGetFirstVisibleRow();
+        const int firstNow = sheet->firstVisibleRow();
         if (first > 0 && sentAgain.count(top) == 0 && firstNow < sheet->verticalScrollBar()->maximum()) {
             ASSERT_EQ(view->GetHeadlineTable(firstNow).sequence, top);
         }
@@ -121,14 +123,14 @@ protected:
         CSuperSheetWnd* sheet = view->pGetCurrSheetView();
         if (what < 4)
             sheet->verticalScrollBar()->setValue(below(2) * below(300));
-        else if (what < 7 && sheet->iGetRowCount() > 0)
-            view->bChangeNewsPos(mode(), below(std::min(sheet->iGetRowCount(), 200)));
+        else if (what < 7 && sheet->rowCount() > 0)
+            view->bChangeNewsPos(mode(), below(std::min(sheet->rowCount(), 200)));
         else if (what == 7 && mode() == 0)
             view->bChangeDate(backEnd.newsDay.addDays(-below(3)));
         else if (what == 8 && mode() == 0)
             view->bChangeDate(backEnd.newsDay);
         else if (what == 9)
-            view->OnCommand(ids::firstServiceCommand + below(4));  // the warrants have no command
+            view->onCommand(ids::firstServiceCommand + below(4));  // the warrants have no command
         else if (what == 10)
             switchMode();
         else if (what == 11 && below(5) == 0)
@@ -154,7 +156,7 @@ protected:
             std::vector<HeadlineKey> held = keys(*view, list);
             if (list == 0) {
                 // Another day's list takes no pushes, the news day's takes those of other days too.
-                if (view->State()[u"pickedDate"_s] != view->State()[u"newsDay"_s])
+                if (view->state()[u"pickedDate"_s] != view->state()[u"newsDay"_s])
                     continue;
                 std::erase_if(held,
                               [&](const HeadlineKey& key) { return dayOf(key.time) != backEnd.newsDay; });
@@ -168,8 +170,8 @@ protected:
         for (const int list : {0, 1, 2, warrantMode}) {
             ASSERT_TRUE(keys(*view, list) == keys(fresh, list))
                 << "list " << list << " at " << backEnd.size();
-            const auto* model = view->Sheet(list)->model();
-            const auto* freshModel = fresh.Sheet(list)->model();
+            const auto* model = view->sheetOf(list)->model();
+            const auto* freshModel = fresh.sheetOf(list)->model();
             ASSERT_EQ(model->rowCount(), view->iGetHeadlineTableSize(list));
             for (int cell = 0; cell < 3 * std::min(model->rowCount(), 20); ++cell) {
                 ASSERT_EQ(model->index(cell / 3, cell % 3).data(),
@@ -187,7 +189,7 @@ protected:
         const auto fresh = open(otherFrame, saved);
         for (const int other : {1, 2, warrantMode, 0})
             fresh->SwitchFunction(other);
-        const QString picked = view->State()[u"pickedDate"_s].toString();
+        const QString picked = view->state()[u"pickedDate"_s].toString();
         fresh->bChangeDate(QDate::fromString(picked, u"yyyyMMdd"_s));
         fresh->SwitchFunction(warrantMode);
         fresh->SwitchFunction(0);
@@ -229,3 +231,5 @@ TEST_F(Soak, AfterALongSessionTheListsAreThoseOfAFreshView) {
     }
     EXPECT_GT(backEnd.newsDay, QDate(2026, 3, 2)) << "several days went by";
 }
+
+}  // namespace wirepane

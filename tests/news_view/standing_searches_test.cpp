@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Key sets and warning terms in the news view: what the dialogs change, what arrives, what is kept.
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "search/news_key_search_dlg.h"
 #include "search/search_ids.h"
 #include "search/warn_term_dlg.h"
@@ -12,6 +12,8 @@
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -34,11 +36,11 @@ protected:
         frame.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
         view->SwitchFunction(mode);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
         backEnd.asked.clear();
     }
     static void saveKeySet(const QWidget& dialog, const QString& keyword) {
-        auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(&dialog, search_ids::keywordEdit));
+        auto* edit = qobject_cast<QLineEdit*>(dlgItem(&dialog, search_ids::keywordEdit));
         edit->setText(keyword);
         press(dialog, search_ids::addTyped);
         press(dialog, search_ids::saveKeySet);
@@ -53,7 +55,7 @@ protected:
         backEnd.add(1, headline.time, sequence, title, 1);
         view->RecvNewHeadLine(&headline, u"1"_s, {});
     }
-    QString hint(int list) const { return view->Sheet(list)->accessibleDescription(); }
+    QString hint(int list) const { return view->sheetOf(list)->accessibleDescription(); }
     QStringList sent() {
         const QStringList searches = backEnd.asked.filter(u"search "_s);
         backEnd.asked.clear();
@@ -77,7 +79,7 @@ TEST_F(StandingSearchesOfTheView, OnlyWhatTickedKeySetsWantArrives) {
         press(dialog, search_ids::allNewsTypes);
         for (const QString& keyword : {u"GOLD"_s, u"RATE"_s, u"OIL"_s})
             saveKeySet(dialog, keyword);
-        auto* list = qobject_cast<QAbstractItemView*>(GetDlgItem(&dialog, search_ids::keySets));
+        auto* list = qobject_cast<QAbstractItemView*>(dlgItem(&dialog, search_ids::keySets));
         list->model()->setData(list->model()->index(2, 0), Qt::Unchecked, Qt::CheckStateRole);
         press(dialog, search_ids::ok);
     });
@@ -87,7 +89,7 @@ TEST_F(StandingSearchesOfTheView, OnlyWhatTickedKeySetsWantArrives) {
     pushTitle(u"Oil is kept but not ticked"_s, 12);
     pushTitle(u"Something else"_s, 13);
     pushTitle(u"Marigolds"_s, 14);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
     const QStringList arrived{u"Marigolds"_s, u"Rate cut"_s, u"Gold of the morning"_s};
     EXPECT_EQ(titles(4), arrived);
     EXPECT_EQ(saved()[keySetsKey].toStringList(),
@@ -123,7 +125,7 @@ TEST_F(StandingSearchesOfTheView, TheChosenWarningTermIsSentAndSurvivesARestart)
     EXPECT_EQ(hint(6), u"IDS_NEWSCTRLVIEW_HINT_NO_WARNING_TERM"_s);
     const auto choose = [this](int row, int button) {
         runDialog<CWarnTermDlg>(ids::warningSearchButton, [&](CWarnTermDlg& dialog) {
-            auto* list = qobject_cast<QAbstractItemView*>(GetDlgItem(&dialog, search_ids::warnings));
+            auto* list = qobject_cast<QAbstractItemView*>(dlgItem(&dialog, search_ids::warnings));
             list->selectionModel()->setCurrentIndex(
                 list->model()->index(row, 0),
                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
@@ -150,3 +152,5 @@ TEST_F(StandingSearchesOfTheView, TheChosenWarningTermIsSentAndSurvivesARestart)
     runDialog<QDialog>(ids::dealsSearchButton, [](QDialog& dialog) { press(dialog, search_ids::ok); });
     EXPECT_EQ(sent(), QStringList{u"search 1 3 2/1 oil"_s}) << "the search dialog starts from it";
 }
+
+}  // namespace wirepane

@@ -4,7 +4,7 @@
 // meets it.
 #include "host/contract/sync_info.h"
 #include "host/controls/quote_combo_box_auto.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "tests/news_view/view_fixture.h"
 
 #include <QApplication>
@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 constexpr int symbolMode = static_cast<int>(ListIndex::Symbol);
@@ -22,7 +24,7 @@ using Ids = std::set<int>;
 // A host whose link groups have a symbol each.
 class GroupSymbols : public CSyncInfo {
 public:
-    GroupSymbols() { SetSettingCFG(this); }
+    GroupSymbols() { setSettingCFG(this); }
     QString SYS_cszGetCurrentSymbol(unsigned char group) override {
         return group == 3 ? u"2330"_s : u"6214"_s;
     }
@@ -35,7 +37,7 @@ protected:
     // The commands of the service menu, and those with a check mark.
     std::pair<Ids, Ids> menu() {
         view->SwitchFunction(state(u"mode"_s).toInt());
-        view->OnCommand(ids::serviceButton);
+        view->onCommand(ids::serviceButton);
         auto* shown = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         std::pair<Ids, Ids> commands;
         if (shown == nullptr)
@@ -58,7 +60,7 @@ protected:
         return result;
     }
     int entries(int id) const {
-        const auto* combo = qobject_cast<QComboBox*>(GetDlgItem(view.get(), id));
+        const auto* combo = qobject_cast<QComboBox*>(dlgItem(view.get(), id));
         return combo != nullptr ? combo->count() : -1;
     }
 };
@@ -72,10 +74,10 @@ TEST_F(StartRules, TheServiceMenuLeavesTheWarrantsOutAndKeepsTheirCommandFree) {
 
 TEST_F(StartRules, ControlsAreThereByTheMaskAlone) {
     open({{u"EnabledFunctions"_s, 0}});
-    EXPECT_NE(GetDlgItem(view.get(), ids::tabStrip), nullptr) << "no function is not one function";
+    EXPECT_NE(dlgItem(view.get(), ids::tabStrip), nullptr) << "no function is not one function";
     open({{u"EnabledFunctions"_s, 0x48}});
-    EXPECT_NE(GetDlgItem(view.get(), ids::relationSearchButton), nullptr) << "without its switch";
-    EXPECT_NE(GetDlgItem(view.get(), ids::warningSearchButton), nullptr) << "without its switch";
+    EXPECT_NE(dlgItem(view.get(), ids::relationSearchButton), nullptr) << "without its switch";
+    EXPECT_NE(dlgItem(view.get(), ids::warningSearchButton), nullptr) << "without its switch";
     EXPECT_EQ(tabModes(), QList<int>{3});
 }
 
@@ -132,7 +134,7 @@ TEST_F(StartRules, CombosAreFilledOnlyInViewsWithAllNews) {
 TEST_F(StartRules, ARefreshEndsItsTimer) {
     addNews(1, 9, 0, 1);
     open();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view->RunningTimers().empty(); }, 2000));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }, 2000));
     backEnd.asked.clear();
     view->vUpdateView();
     QTest::qWait(3 * ids::refreshDelayMs);
@@ -159,9 +161,9 @@ TEST_F(StartRules, TheNewsTypeDecidesWhatAViewIsFor) {
     };
     for (const Case& c : cases) {
         open({{u"EnabledFunctions"_s, 0x7F}}, c.newsType, [&c](TRVNewsCtrlView& prepared) {
-            prepared.vSetTypeName(c.typeName);
+            prepared.setTypeName(c.typeName);
             prepared.setWindowTitle(c.title);
-            prepared.vSetLinkGroup(3);
+            prepared.setLinkGroup(3);
         });
         const bool symbolNews = c.becomes == 1 || c.becomes == 2;
         EXPECT_EQ(view->GetNewsType(), c.becomes) << c.what;
@@ -196,7 +198,9 @@ TEST_F(StartRules, AModeIsFoundByItsName) {
 
 TEST_F(StartRules, TheTitleColumnStretchesWhenTheHostSaysSo) {
     open();
-    EXPECT_EQ(view->Sheet(0)->iGetColWidth(2), 300);
+    EXPECT_EQ(view->sheetOf(0)->colWidth(2), 300);
     open({{u"StretchTitles"_s, true}});
-    EXPECT_GT(view->Sheet(0)->iGetColWidth(2), 300);
+    EXPECT_GT(view->sheetOf(0)->colWidth(2), 300);
 }
+
+}  // namespace wirepane

@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 constexpr unsigned short inWindow = 0;
@@ -27,7 +29,7 @@ protected:
             view.add(i);
         view.read();
         view.window.show();
-        stage.vSetDialog(new TRVNewsStory(view, &view.window));
+        stage.setDialog(new TRVNewsStory(view, &view.window));
     }
 
     void givePane() {
@@ -36,11 +38,11 @@ protected:
         pane->OnInitialUpdate();
         MemoryCfgIO settings;
         pane->InitialViewInfo(&settings, {}, 0, 0, {});
-        stage.vSetPane(pane);
+        stage.setPane(pane);
     }
-    NewsStoryView& pane() { return *stage.pGetPane(); }
-    TRVNewsStory& window() { return *stage.pGetDialog(); }
-    void focus(int row) { view.grid()->vSetActiveSelection(row, -1); }
+    NewsStoryView& pane() { return *stage.storyPane(); }
+    TRVNewsStory& window() { return *stage.storyDialog(); }
+    void focus(int row) { view.grid()->setActiveSelection(row, -1); }
     // How often a story was read since this was called last.
     qsizetype storiesRead() {
         const qsizetype count = backEnd.asked.filter(u"story"_s).size();
@@ -101,7 +103,7 @@ TEST_F(StoryDisplayTest, ThePaneReadsAStoryOncePerRow) {
     EXPECT_EQ(storiesRead(), 1);
     story.clear();
     EXPECT_EQ(story.shownRow(), -1);
-    EXPECT_EQ(pane().PointedAt(), std::nullopt);
+    EXPECT_EQ(pane().headlinePointedAt(), std::nullopt);
 }
 
 TEST_F(StoryDisplayTest, TheWindowOpensAndGoesWithTheFocus) {
@@ -113,7 +115,7 @@ TEST_F(StoryDisplayTest, TheWindowOpensAndGoesWithTheFocus) {
     EXPECT_TRUE(story.hasOpenStory());
     EXPECT_EQ(window().GetHeadLinePos(), 1);
     EXPECT_EQ(story.shownRow(), -1) << "that is the pane's";
-    view.lists[ListIndex::All].vSetTable(TableRuns());
+    view.lists[ListIndex::All].setTable(TableRuns());
     view.lists[ListIndex::All].vFillHeadlineTable();
     story.show();
     EXPECT_EQ(story.windowOnShow(), nullptr) << "without a row there is no story";
@@ -219,7 +221,7 @@ TEST_F(StoryDisplayTest, ThePaneKeepsItsStoryWhileRowsComeAndGo) {
         story.show();
         story.keepThrough(c.list, c.place);
         EXPECT_EQ(pane().GetHeadLinePos(), c.position) << c.what;
-        EXPECT_EQ(pane().PointedAt().has_value(), c.listed) << c.what;
+        EXPECT_EQ(pane().headlinePointedAt().has_value(), c.listed) << c.what;
     }
     story.setShowType(inWindow);
     const int before = pane().GetHeadLinePos();
@@ -237,7 +239,7 @@ TEST_F(StoryDisplayTest, TheRowOfTheDisplayIsPointedAt) {
     EXPECT_EQ(story.pointAt(2), 2);
     EXPECT_EQ(window().GetHeadLinePos(), 2);
     EXPECT_EQ(pane().GetHeadLinePos(), 0);
-    stage.vSetDialog(nullptr);
+    stage.setDialog(nullptr);
     EXPECT_EQ(story.pointAt(2), -1) << "stories are shown nowhere";
 }
 
@@ -266,20 +268,22 @@ TEST_F(StoryDisplayTest, RelatedSymbolsAreThoseOfTheHeadlineShown) {
     givePane();
     auto* quotes = new CNewsRelateSymbolQuoteView(&view.window);
     ASSERT_TRUE(quotes->CreateView(&view.window, u"quotes"_s, 0, 0));
-    stage.vSetQuotes(quotes);
+    stage.setQuotes(quotes);
     backEnd.related[{1, 4}] = {{16, u"2330"_s}};
     story.setShowType(atRight);
     focus(1);
     story.show();
-    EXPECT_EQ(quotes->GetTable().size(), 1);
+    EXPECT_EQ(quotes->quoteTable().size(), 1);
     CNewsSymlistInfo info;
-    info.headline = KeyOf(*view.entryAt(ListIndex::All, 2));
+    info.headline = keyOf(*view.entryAt(ListIndex::All, 2));
     info.list.symbols = {{16, u"1101"_s}, {16, u"1102"_s}};
     story.takeRelatedSymbols(info);
-    EXPECT_EQ(quotes->GetTable().size(), 1) << "of another headline";
-    info.headline = KeyOf(*view.entryAt(ListIndex::All, 1));
+    EXPECT_EQ(quotes->quoteTable().size(), 1) << "of another headline";
+    info.headline = keyOf(*view.entryAt(ListIndex::All, 1));
     story.takeRelatedSymbols(info);
-    EXPECT_EQ(quotes->GetTable().size(), 2);
+    EXPECT_EQ(quotes->quoteTable().size(), 2);
     story.clear();
-    EXPECT_EQ(quotes->GetTable().size(), 0);
+    EXPECT_EQ(quotes->quoteTable().size(), 0);
 }
+
+}  // namespace wirepane

@@ -5,12 +5,14 @@
 
 #include "headline_list/language_keys.h"
 #include "host/controls/sc_combo_box.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/category_mode.h"
-#include "news_view/control_ids.h"
 #include "news_view/service_menu.h"
 #include "tests/news_view/owner_fixture.h"
 
 using namespace Qt::StringLiterals;
+
+namespace wirepane {
 
 namespace {
 
@@ -23,7 +25,7 @@ protected:
         backEnd.symbols[16] = {{u"2330"_s, u"Aster Chips"_s}, {u"6214"_s, u"Lantern Foods"_s}};
         backEnd.symbols[122] = {{u"4001"_s, u"Young Board"_s}};
         controls.CreateControls(ListIndex::Symbol, QRect(0, 0, 120, 20), QFont());
-        controls.vCreateServiceButton(QRect(0, 0, 20, 20));
+        controls.createServiceButton(QRect(0, 0, 20, 20));
         view.shown = ListIndex::Symbol;
         settings.functions = symbolNewsMask | 1;
     }
@@ -37,7 +39,7 @@ protected:
         calls();
     }
     QStringList read() { return asked().filter(u"symbol "_s); }
-    bool isShown(int id) { return !controls.Find<QWidget>(id)->isHidden(); }
+    bool isShown(int id) { return !controls.find<QWidget>(id)->isHidden(); }
 
     QString linkedCode;
     QStringList told;
@@ -81,7 +83,7 @@ TEST_F(SymbolModeTest, TheSymbolToStartWithIsTheLinkedOrTheSavedOne) {
 
 TEST_F(SymbolModeTest, TheUsersChoiceIsReadAndTellsTheLinkGroup) {
     open();
-    auto& combo = *controls.Find<QComboBox>(ids::symbolCombo);
+    auto& combo = *controls.find<QComboBox>(ids::symbolCombo);
     combo.setCurrentIndex(1);
     mode.symbolChosen();
     EXPECT_EQ(mode.current(), foods);
@@ -103,7 +105,7 @@ TEST_F(SymbolModeTest, TheUsersChoiceIsReadAndTellsTheLinkGroup) {
 
 TEST_F(SymbolModeTest, AnotherMarketsSymbolsAreOffered) {
     open();
-    auto& markets = *controls.Find<SCComboBox>(ids::serviceCombo);
+    auto& markets = *controls.find<SCComboBox>(ids::serviceCombo);
     ASSERT_GE(markets.count(), 2);
     mode.serviceChosen();
     EXPECT_EQ(told, QStringList()) << "the same market";
@@ -147,7 +149,7 @@ TEST_F(SymbolModeTest, OtherViewsTakeTheChosenSymbolWhileTheModeIsShown) {
     EXPECT_EQ(mode.forOthers(), std::nullopt) << "there are no symbols yet";
     open();
     EXPECT_EQ(mode.forOthers(), chips);
-    controls.Find<QComboBox>(ids::symbolCombo)->setCurrentIndex(-1);
+    controls.find<QComboBox>(ids::symbolCombo)->setCurrentIndex(-1);
     EXPECT_EQ(mode.forOthers(), (CSymbolInfo{16, u"#001"_s}));
     view.shown = ListIndex::All;
     EXPECT_EQ(mode.forOthers(), std::nullopt);
@@ -179,12 +181,12 @@ protected:
         backEnd.categories[1] = {{u"1"_s, u"Markets"_s}, {u"2"_s, u"Economy"_s}};
         backEnd.categories[2] = {{u"2"_s, u"Economy"_s}, {u"3"_s, u"Metals"_s}};
         backEnd.categories[16] = {{u"9"_s, u"Unticked"_s}};
-        controls.vCreateCategoryCombo(QRect(0, 0, 120, 200));
+        controls.createCategoryCombo(QRect(0, 0, 120, 200));
         view.shown = ListIndex::Category;
         mode.bInitialTransferCatObject();
         mode.bInitialTransferWarrantCatObject();
     }
-    QComboBox& combo() { return *controls.Find<QComboBox>(ids::categoryCombo); }
+    QComboBox& combo() { return *controls.find<QComboBox>(ids::categoryCombo); }
     QStringList read() { return asked().filter(u"table"_s); }
 
     CategoryMode mode{view, parts, [] { return nullptr; }};
@@ -202,8 +204,8 @@ TEST_F(CategoryModeTest, TheComboOffersTheTickedServicesCategoriesOnce) {
     mode.chosen();
     EXPECT_EQ(settings.categoryId, u"2"_s);
     EXPECT_EQ(read(), QStringList{u"table 1 1 2"_s});
-    services.vSelect(0, false);
-    services.vCopyToSaved();
+    services.select(0, false);
+    services.copyToSaved();
     mode.vRefreshCategoryCombo();
     EXPECT_EQ(mode.chosenId(), u"2"_s) << "by its name";
     EXPECT_EQ(combo().count(), 2);
@@ -241,13 +243,13 @@ TEST_F(CategoryModeTest, TheColumnFollowsTheUserInViewsOfThreeColumns) {
     view.shown = ListIndex::All;
     settings.showCategory = true;
     mode.showColumn();
-    EXPECT_EQ(view.grid()->iGetColWidth(1), 50);
+    EXPECT_EQ(view.grid()->colWidth(1), 50);
     mode.toggleColumn();
-    EXPECT_EQ(view.grid()->iGetColWidth(1), 0);
+    EXPECT_EQ(view.grid()->colWidth(1), 0);
     newsType = 1;
     mode.toggleColumn();
     EXPECT_TRUE(settings.showCategory);
-    EXPECT_EQ(view.grid()->iGetColWidth(1), 0);
+    EXPECT_EQ(view.grid()->colWidth(1), 0);
 }
 
 TEST_F(CategoryModeTest, AnUnknownCategoryHasATextAndNoColour) {
@@ -281,10 +283,13 @@ TEST_F(OwnerTest, TheServiceMenuKeepsTheLastTickAndStandsFastAmongWarrants) {
         view.shown = c.shown;
         const int before = changes;
         menu.toggle(ids::firstServiceCommand + c.service);
-        EXPECT_EQ(services.Saved()[static_cast<std::size_t>(c.service)].selected, c.isTicked) << c.what;
+        EXPECT_EQ(services.savedServices()[static_cast<std::size_t>(c.service)].selected, c.isTicked)
+            << c.what;
         EXPECT_EQ(changes > before, c.changes) << c.what;
     }
     menu.toggle(ids::firstServiceCommand + 99);
     menu.toggle(0);
     EXPECT_EQ(changes, 2);
 }
+
+}  // namespace wirepane

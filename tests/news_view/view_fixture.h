@@ -23,6 +23,8 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+namespace wirepane {
+
 // A terminal in small: one frame, one view over a fake back end, on the morning of 2 March 2026.
 class NewsViewTest : public testing::Test {
 protected:
@@ -83,7 +85,7 @@ protected:
         view->RecvNewHeadLine(&headline, QStringLiteral("1"), symbol);
     }
 
-    QVariant state(const QString& name) const { return view->State()[name]; }
+    QVariant state(const QString& name) const { return view->state()[name]; }
     // The text of the tip, empty while none is shown.
     QString tip() const {
         const QVariantMap shown = state(QStringLiteral("tip")).toMap();
@@ -93,16 +95,16 @@ protected:
 
     QStringList titles(int list) const {
         QStringList result;
-        CSuperSheetWnd* sheet = view->Sheet(list);
-        for (int row = 0; sheet != nullptr && row < sheet->iGetRowCount(); ++row)
+        CSuperSheetWnd* sheet = view->sheetOf(list);
+        for (int row = 0; sheet != nullptr && row < sheet->rowCount(); ++row)
             result.append(
-                sheet->model()->index(row, sheet->iGetColumn(QStringLiteral("title"))).data().toString());
+                sheet->model()->index(row, sheet->column(QStringLiteral("title"))).data().toString());
         return result;
     }
 
     QList<int> tabModes() const {
         QList<int> modes;
-        const QVariantList tabs = view->State()[QStringLiteral("tabs")].toList();
+        const QVariantList tabs = view->state()[QStringLiteral("tabs")].toList();
         for (const QVariant& tab : tabs)
             modes.append(tab.toMap()[QStringLiteral("mode")].toInt());
         return modes;
@@ -132,15 +134,15 @@ protected:
             if (shown)
                 work(*dialog);
         });
-        view->OnCommand(button);
+        view->onCommand(button);
         EXPECT_TRUE(shown);
     }
     static void press(const QWidget& dialog, int id) {
-        qobject_cast<QAbstractButton*>(GetDlgItem(&dialog, id))->click();
+        qobject_cast<QAbstractButton*>(dlgItem(&dialog, id))->click();
     }
 
     bool isShown(int id) const {
-        const QWidget* control = GetDlgItem(view.get(), id);
+        const QWidget* control = dlgItem(view.get(), id);
         return control != nullptr && !control->isHidden();
     }
 
@@ -150,3 +152,5 @@ protected:
     QWidget frame;
     std::unique_ptr<TRVNewsCtrlView> view;
 };
+
+}  // namespace wirepane

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace wirepane {
+
 namespace {
 
 // A view of 1000 x 700 pixels with a font of 16 pixels: unit width 70, page buttons 64, control row 31..51.
@@ -25,7 +27,7 @@ LayoutInput ordinary() {
 }  // namespace
 
 TEST(ViewLayout, ControlsOfAnOrdinaryView) {
-    const ViewLayout out = LayOut(ordinary());
+    const ViewLayout out = layOut(ordinary());
     EXPECT_EQ(out.tabStrip, QRect(0, 0, 924, 22));
     EXPECT_EQ(out.showTypeButton, QRect(924, 0, 73, 22));
     EXPECT_EQ(out.serviceButton, QRect(4, 27, 76, 20));
@@ -50,7 +52,7 @@ TEST(ViewLayout, ALargerFontAndATitleMoveEverythingDown) {
     in.fontHeight = 25;
     in.firstTabHeight = 0;
     in.titleHeight = 30;
-    const ViewLayout out = LayOut(in);
+    const ViewLayout out = layOut(in);
     EXPECT_EQ(out.tabStrip, QRect(0, 30, 888, 31));
     EXPECT_EQ(out.serviceButton, QRect(4, 66, 112, 29));
     EXPECT_EQ(out.datePicker, QRect(120, 66, 156, 29));
@@ -60,7 +62,7 @@ TEST(ViewLayout, ALargerFontAndATitleMoveEverythingDown) {
 TEST(ViewLayout, OneServiceNeedsNoButton) {
     LayoutInput in = ordinary();
     in.serviceCount = 1;
-    const ViewLayout out = LayOut(in);
+    const ViewLayout out = layOut(in);
     EXPECT_EQ(out.serviceButton.width(), 0);
     for (const QRect& control :
          {out.relationButton, out.datePicker, out.categoryCombo, out.serviceCombo, out.searchEdit})
@@ -79,7 +81,7 @@ TEST(ViewLayout, PageButtonsGiveWayFromTheLast) {
     for (const Case& c : cases) {
         LayoutInput in = ordinary();
         in.client.setWidth(c.width);
-        const ViewLayout out = LayOut(in);
+        const ViewLayout out = layOut(in);
         const int shown =
             !out.pageDown.isEmpty() + !out.pageUp.isEmpty() + !out.saveAs.isEmpty() + !out.print.isEmpty();
         EXPECT_EQ(shown, c.shown) << c.width;
@@ -132,7 +134,7 @@ TEST(ViewLayout, TheStoryTakesItsShare) {
         in.showType = c.type;
         in.newsType = c.newsType;
         in.hasRelatedQuotes = c.quotes;
-        const ViewLayout out = LayOut(in);
+        const ViewLayout out = layOut(in);
         EXPECT_EQ(out.grid, c.grid) << c.what;
         EXPECT_EQ(out.storyPane, c.pane) << c.what;
         EXPECT_EQ(out.relatedQuotes, c.relatedQuotes) << c.what;
@@ -142,9 +144,9 @@ TEST(ViewLayout, TheStoryTakesItsShare) {
 
 TEST(ViewLayout, SymbolAndWarrantGridsUseTheFreeRow) {
     LayoutInput in = ordinary();
-    EXPECT_EQ(LayOut(in).gridWithoutControls, LayOut(in).grid);
+    EXPECT_EQ(layOut(in).gridWithoutControls, layOut(in).grid);
     in.hasAllNewsGrid = false;
-    EXPECT_EQ(LayOut(in).gridWithoutControls, QRect(0, 24, 1000, 676));
+    EXPECT_EQ(layOut(in).gridWithoutControls, QRect(0, 24, 1000, 676));
 }
 
 TEST(ViewLayout, NoSizeIsTooSmall) {
@@ -154,9 +156,11 @@ TEST(ViewLayout, NoSizeIsTooSmall) {
         for (const StoryShowType type : {StoryShowType::None, StoryShowType::Right, StoryShowType::Below}) {
             in.showType = type;
             in.hasRelatedQuotes = true;
-            const ViewLayout out = LayOut(in);
+            const ViewLayout out = layOut(in);
             for (const QRect& rectangle : {out.tabStrip, out.grid, out.storyPane, out.relatedQuotes})
                 EXPECT_TRUE(rectangle.width() >= 0 && rectangle.height() >= 0) << size;
         }
     }
 }
+
+}  // namespace wirepane

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+namespace wirepane {
+
 namespace {
 
 const ViewSettingPath path{QStringLiteral("Layout"), 0, 0, QStringLiteral("TRVNewsCtrlView")};
@@ -56,14 +58,14 @@ TEST(NewsServices, WhatWasStoredIsTicked) {
         MemoryCfgIO reader;
         reader.values = c.stored;
         NewsServices services;
-        services.vLoad(backEnd);
+        services.load(backEnd);
         services.vInitialNewsService(reader, path, view);
-        EXPECT_EQ(ticked(services.Entries()), c.ticked) << c.what;
-        EXPECT_EQ(ticked(services.Saved()), c.ticked) << c.what;
+        EXPECT_EQ(ticked(services.currentServices()), c.ticked) << c.what;
+        EXPECT_EQ(ticked(services.savedServices()), c.ticked) << c.what;
         EXPECT_EQ(Ids(backEnd.registrations[&view].begin(), backEnd.registrations[&view].end()), c.ticked)
             << c.what;
-        EXPECT_EQ(services.iGetWarrantIndex(), 4);
-        EXPECT_EQ(services.Entries().front().date, 20260302);
+        EXPECT_EQ(services.indexOfWarrants(), 4);
+        EXPECT_EQ(services.currentServices().front().date, 20260302);
     }
 }
 
@@ -73,36 +75,36 @@ TEST(NewsServices, ModesLookAtTheirServices) {
     MemoryCfgIO reader;
     reader.values[QStringLiteral("Sheet0ServiceCheck2")] = true;
     NewsServices services;
-    services.vLoad(backEnd);
+    services.load(backEnd);
     services.vInitialNewsService(reader, path, view);
     for (const int mode : {0, 1, 2, 4})
-        EXPECT_EQ(services.ActiveServices(mode), Ids{2}) << mode;
+        EXPECT_EQ(services.activeServices(mode), Ids{2}) << mode;
     for (const int mode : {3, 6})
-        EXPECT_EQ(services.ActiveServices(mode), backEnd.services) << mode;
-    EXPECT_EQ(services.ActiveServices(5), Ids{52});
-    EXPECT_EQ(services.ActiveServices(7), Ids{});
-    EXPECT_EQ(services.ActiveServices(-1), Ids{});
+        EXPECT_EQ(services.activeServices(mode), backEnd.services) << mode;
+    EXPECT_EQ(services.activeServices(5), Ids{52});
+    EXPECT_EQ(services.activeServices(7), Ids{});
+    EXPECT_EQ(services.activeServices(-1), Ids{});
 
     backEnd.services = {1, 2};
-    services.vLoad(backEnd);
-    EXPECT_EQ(services.iGetWarrantIndex(), -1);
-    EXPECT_EQ(services.ActiveServices(5), Ids{});
+    services.load(backEnd);
+    EXPECT_EQ(services.indexOfWarrants(), -1);
+    EXPECT_EQ(services.activeServices(5), Ids{});
 }
 
 TEST(NewsServices, RegistrationsFollowTheTicks) {
     FakeBackEnd backEnd;
     TRVQuoteBaseView view;
     NewsServices services;
-    services.vLoad(backEnd);
-    services.vSelect(0, true);
-    services.vSelect(2, true);
+    services.load(backEnd);
+    services.select(0, true);
+    services.select(2, true);
     services.CheckRegisterService(view);
     EXPECT_EQ(backEnd.registrations[&view], (std::set<unsigned char>{1, 16}));
-    services.vSelect(0, false);
-    services.vSelect(1, true);
+    services.select(0, false);
+    services.select(1, true);
     services.CheckRegisterService(view);
     EXPECT_EQ(backEnd.registrations[&view], (std::set<unsigned char>{2, 16}));
-    EXPECT_THROW(services.vSelect(6, true), std::out_of_range);
+    EXPECT_THROW(services.select(6, true), std::out_of_range);
 }
 
 TEST(CategoryCatalogue, PairsListsOfEqualLength) {
@@ -125,8 +127,8 @@ TEST(CategoryCatalogue, PairsListsOfEqualLength) {
     };
     for (const Case& c : cases) {
         CategoryCatalogue catalogue;
-        EXPECT_EQ(catalogue.bLoad(IniFile::parse(c.file)), c.loaded) << c.what;
-        const QString* name = catalogue.NameOf(c.id);
+        EXPECT_EQ(catalogue.load(IniFile::parse(c.file)), c.loaded) << c.what;
+        const QString* name = catalogue.nameOf(c.id);
         ASSERT_EQ(name != nullptr, c.name != nullptr) << c.what;
         if (name != nullptr) {
             EXPECT_EQ(name->toStdString(), c.name) << c.what;
@@ -141,24 +143,24 @@ TEST(ModeLoading, SwitchesDecideWhatASwitchReads) {
         both{true, true};
     for (int mode = 0; mode < listCount; ++mode) {
         const auto list = static_cast<ListIndex>(mode);
-        EXPECT_EQ(ModeLoading::LoadingMode(list, none), list);
-        EXPECT_EQ(ModeLoading::LoadingMode(list, normal), list);
-        EXPECT_EQ(ModeLoading::LoadingMode(list, warning), mode == 6 ? ListIndex::Search : list);
-        EXPECT_EQ(ModeLoading::LoadingMode(list, both), ListIndex::Search);
+        EXPECT_EQ(ModeLoading::loadingMode(list, none), list);
+        EXPECT_EQ(ModeLoading::loadingMode(list, normal), list);
+        EXPECT_EQ(ModeLoading::loadingMode(list, warning), mode == 6 ? ListIndex::Search : list);
+        EXPECT_EQ(ModeLoading::loadingMode(list, both), ListIndex::Search);
     }
     ModeLoading loading;
     for (const ListIndex once : {ListIndex::All, ListIndex::Relation}) {
-        EXPECT_FALSE(loading.bWasShown(once));
-        EXPECT_TRUE(loading.bTakeLoad(once));
-        EXPECT_FALSE(loading.bTakeLoad(once));
-        EXPECT_TRUE(loading.bWasShown(once));
+        EXPECT_FALSE(loading.wasShown(once));
+        EXPECT_TRUE(loading.takeLoad(once));
+        EXPECT_FALSE(loading.takeLoad(once));
+        EXPECT_TRUE(loading.wasShown(once));
     }
     for (const ListIndex always :
          {ListIndex::Category, ListIndex::Symbol, ListIndex::Search, ListIndex::Warrant}) {
-        EXPECT_TRUE(loading.bTakeLoad(always));
-        EXPECT_TRUE(loading.bTakeLoad(always));
+        EXPECT_TRUE(loading.takeLoad(always));
+        EXPECT_TRUE(loading.takeLoad(always));
     }
-    EXPECT_FALSE(loading.bTakeLoad(ListIndex::WarningTerm));
+    EXPECT_FALSE(loading.takeLoad(ListIndex::WarningTerm));
 }
 
 TEST(ViewSettings, NonsenseHasItsDefault) {
@@ -190,3 +192,5 @@ TEST(ViewSettings, NonsenseHasItsDefault) {
     EXPECT_FALSE(again.showCategory);
     EXPECT_EQ(again.focusedTab, 5);
 }
+
+}  // namespace wirepane

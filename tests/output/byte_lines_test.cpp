@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 QString repeated(const QString& text, int times) {
@@ -20,7 +22,7 @@ QString repeated(const QString& text, int times) {
 std::vector<int> lengths(const std::vector<QStringView>& lines) {
     std::vector<int> result;
     for (const QStringView line : lines)
-        result.push_back(ByteLength(line));
+        result.push_back(byteLength(line));
     return result;
 }
 
@@ -48,7 +50,7 @@ TEST(ByteLinesTest, CutsBetweenCharacters) {
         std::vector<QStringView> lines;
         QString whole;
         for (QStringView rest = c.text; !rest.isEmpty();) {
-            lines.push_back(TakeLine(rest));
+            lines.push_back(takeLine(rest));
             whole += lines.back();
         }
         EXPECT_EQ(lengths(lines), c.bytes) << c.what;
@@ -57,24 +59,24 @@ TEST(ByteLinesTest, CutsBetweenCharacters) {
 }
 
 TEST(ByteLinesTest, LongTitlesLoseTheirTail) {
-    EXPECT_EQ(lengths(TitleLines({}, false)), (std::vector<int>{0}));
-    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 80), false)), (std::vector<int>{80}));
-    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 81), false)), (std::vector<int>{80}));
-    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 160), false)), (std::vector<int>{80}));
-    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 200), false)), (std::vector<int>{80, 80}));
-    EXPECT_EQ(lengths(TitleLines(u'a' + repeated(u"聞"_s, 80), false)), (std::vector<int>{79, 80}));
-    EXPECT_EQ(lengths(TitleLines({}, true)), (std::vector<int>{0}));
-    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 80), true)), (std::vector<int>{80}));
-    EXPECT_EQ(lengths(TitleLines(repeated(u"a"_s, 160), true)), (std::vector<int>{80, 80}));
-    EXPECT_EQ(lengths(TitleLines(u'a' + repeated(u"聞"_s, 80), true)), (std::vector<int>{79, 80, 2}));
+    EXPECT_EQ(lengths(titleLines({}, false)), (std::vector<int>{0}));
+    EXPECT_EQ(lengths(titleLines(repeated(u"a"_s, 80), false)), (std::vector<int>{80}));
+    EXPECT_EQ(lengths(titleLines(repeated(u"a"_s, 81), false)), (std::vector<int>{80}));
+    EXPECT_EQ(lengths(titleLines(repeated(u"a"_s, 160), false)), (std::vector<int>{80}));
+    EXPECT_EQ(lengths(titleLines(repeated(u"a"_s, 200), false)), (std::vector<int>{80, 80}));
+    EXPECT_EQ(lengths(titleLines(u'a' + repeated(u"聞"_s, 80), false)), (std::vector<int>{79, 80}));
+    EXPECT_EQ(lengths(titleLines({}, true)), (std::vector<int>{0}));
+    EXPECT_EQ(lengths(titleLines(repeated(u"a"_s, 80), true)), (std::vector<int>{80}));
+    EXPECT_EQ(lengths(titleLines(repeated(u"a"_s, 160), true)), (std::vector<int>{80, 80}));
+    EXPECT_EQ(lengths(titleLines(u'a' + repeated(u"聞"_s, 80), true)), (std::vector<int>{79, 80, 2}));
 }
 
 TEST(CodePage950Test, WritesTheWhiteSquareForWhatThePageLacks) {
-    const auto text = EncodeCodePage950(u"A台é😀闻\u0080\r\n"_s);
+    const auto text = encodeCodePage950(u"A台é😀闻\u0080\r\n"_s);
     ASSERT_TRUE(text);
     EXPECT_EQ(text->bytes.toHex(' '), QByteArray("41 a5 78 a1 bc a1 bc a1 bc a1 bc 0d 0a"));
     EXPECT_EQ(text->replaced, 4);
-    EXPECT_EQ(EncodeCodePage950(QString(QChar(0xD83D)) + u'a')->bytes, QByteArray("\xA1\xBC"
+    EXPECT_EQ(encodeCodePage950(QString(QChar(0xD83D)) + u'a')->bytes, QByteArray("\xA1\xBC"
                                                                                   "a"));
 }
 
@@ -82,8 +84,8 @@ TEST(CodePage950Test, EveryCharacterTakesTheBytesThatItsWidthSays) {
     int doubleByte = 0;
     for (char32_t character = 0; character < 0x10000; ++character) {
         const QString text(QChar(static_cast<char16_t>(character)));
-        const auto encoded = EncodeCodePage950(text);
-        ASSERT_EQ(encoded->bytes.size(), ByteWidth(character)) << std::hex << static_cast<int>(character);
+        const auto encoded = encodeCodePage950(text);
+        ASSERT_EQ(encoded->bytes.size(), byteWidth(character)) << std::hex << static_cast<int>(character);
         if (encoded->replaced != 0 || character < 0x80)
             continue;
         ++doubleByte;
@@ -91,3 +93,5 @@ TEST(CodePage950Test, EveryCharacterTakesTheBytesThatItsWidthSays) {
     }
     EXPECT_GT(doubleByte, 13000);
 }
+
+}  // namespace wirepane

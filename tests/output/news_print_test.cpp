@@ -31,16 +31,18 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 // Answers instead of the user, and may do something while the dialog is open.
 class Answers : public OutputDialogs {
 public:
-    bool bAskPrinter(QPrinter&, QWidget* parent) override {
+    bool askPrinter(QPrinter&, QWidget* parent) override {
         ask(parent);
         return false;
     }
-    std::optional<OutputTarget> AskFile(BKQuoteInterface&, QWidget* parent) override {
+    std::optional<OutputTarget> askFile(BKQuoteInterface&, QWidget* parent) override {
         ask(parent);
         return file.isEmpty() ? std::nullopt : std::optional(OutputTarget{file, NewsFileType::Utf8, {}});
     }
@@ -83,11 +85,11 @@ protected:
     void tell(std::int32_t number, const QString& text) {
         backEnd.addStory({entry(number).time, text, entry(number)});
     }
-    NewsItems gather(const TRVNewsPrint& job, const std::vector<std::int32_t>& numbers) const {
+    OutputItems gather(const TRVNewsPrint& job, const std::vector<std::int32_t>& numbers) const {
         std::vector<CHeadlineTable> entries;
         for (const std::int32_t number : numbers)
             entries.push_back(entry(number));
-        return job.Gather(entries, {1});
+        return job.gather(entries, {1});
     }
     QString path(const QString& name) const { return folder.filePath(name); }
     OutputTarget target(const QString& name) const { return {path(name), NewsFileType::Utf8, {}}; }
@@ -108,22 +110,22 @@ protected:
 TEST_F(NewsPrintTest, PutsOutWhenTheLastAnswerHasCome) {
     TRVSaveToFile saver(backEnd, answers, window);
     std::vector<NewsOutcome> finished;
-    saver.vSetOnFinished([&](const NewsOutcome& outcome) { finished.push_back(outcome); });
-    NewsItems items = gather(saver, {1, 2, 3});
-    ASSERT_FALSE(bIsSettled(items));
-    saver.vWait(items, {1}, target(u"late.txt"_s));
+    saver.setOnFinished([&](const NewsOutcome& outcome) { finished.push_back(outcome); });
+    OutputItems items = gather(saver, {1, 2, 3});
+    ASSERT_FALSE(isSettled(items));
+    saver.wait(items, {1}, target(u"late.txt"_s));
     tell(2, u"Body 2@@@@x"_s);
     tell(3, u"Body\r\n3"_s);
     saver.RespStory(entry(2));
     saver.RespStory(entry(3));
     settle();
-    EXPECT_TRUE(saver.bIsWaiting());
+    EXPECT_TRUE(saver.isWaiting());
     EXPECT_FALSE(QFile::exists(path(u"late.txt"_s)));
     backEnd.makeAllAtHand();
     saver.RespHeadLine({entry(2)});
     EXPECT_FALSE(QFile::exists(path(u"late.txt"_s))) << "not within the back end's call";
     settle();
-    EXPECT_FALSE(saver.bIsWaiting());
+    EXPECT_FALSE(saver.isWaiting());
     const QByteArray text = contents(path(u"late.txt"_s));
     EXPECT_TRUE(text.contains("TITLETitle 1\n\nIDS_NEWSCTRLVIEW_NEWS_STORYBody 1\n\n"));
     EXPECT_TRUE(text.contains("STORY\r\n2026/03/ 2 09:02:00Body 2\r\nx\n\n"));
@@ -135,7 +137,7 @@ TEST_F(NewsPrintTest, PutsOutWhenTheLastAnswerHasCome) {
 TEST_F(NewsPrintTest, AsksOneAfterTheOtherAndLateNewsForItsOwnWindow) {
     TRVSaveToFile saver(backEnd, answers, window);
     answers.file = path(u"asked.txt"_s);
-    saver.vWait(gather(saver, {3}), {1}, {});
+    saver.wait(gather(saver, {3}), {1}, {});
     // While the user is asked for the first, the second is completed, and a third comes.
     tell(3, u"Body 3"_s);
     QWidget dialog;
@@ -143,26 +145,26 @@ TEST_F(NewsPrintTest, AsksOneAfterTheOtherAndLateNewsForItsOwnWindow) {
         answers.meanwhile = nullptr;
         saver.RespStory(entry(3));
         settle();
-        EXPECT_TRUE(saver.PutOut(gather(saver, {1}), nullptr, {}).waiting);
+        EXPECT_TRUE(saver.putOut(gather(saver, {1}), nullptr, {}).waiting);
         EXPECT_EQ(answers.parents.size(), 1U);
     };
-    saver.PutOut(gather(saver, {1}), &dialog, {});
+    saver.putOut(gather(saver, {1}), &dialog, {});
     settle();
     EXPECT_EQ(answers.parents, (std::vector<QWidget*>{&dialog, &window, &window}));
-    EXPECT_FALSE(saver.bIsWaiting());
+    EXPECT_FALSE(saver.isWaiting());
     EXPECT_TRUE(contents(answers.file).contains("Body 3"));
 }
 
 TEST_F(NewsPrintTest, OutlivesNoOwner) {
     auto saver = std::make_unique<TRVSaveToFile>(backEnd, answers, window);
-    saver->vWait(gather(*saver, {2}), {1}, {});
+    saver->wait(gather(*saver, {2}), {1}, {});
     answers.meanwhile = [&] { saver.reset(); };
     answers.file = path(u"gone.txt"_s);
-    saver->PutOut(gather(*saver, {1}), nullptr, {});
+    saver->putOut(gather(*saver, {1}), nullptr, {});
     EXPECT_EQ(saver, nullptr);
     auto printer = std::make_unique<TRVNewsPrint>(backEnd, answers, window);
     answers.meanwhile = [&] { printer.reset(); };
-    EXPECT_EQ(printer->PutOut(gather(*printer, {1}), nullptr, {}).count, 0);
+    EXPECT_EQ(printer->putOut(gather(*printer, {1}), nullptr, {}).count, 0);
     EXPECT_EQ(printer, nullptr);
 }
 
@@ -171,13 +173,13 @@ TEST_F(NewsPrintTest, LeavesOutWhatWillNotComeAndSaysSo) {
     backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_NOTHING_TO_PUT_OUT"_s, u"nothing"_s);
     TRVSaveToFile saver(backEnd, answers, window);
     std::vector<NewsOutcome> finished;
-    saver.vSetOnFinished([&](const NewsOutcome& outcome) { finished.push_back(outcome); });
-    saver.vWait(gather(saver, {1, 3}), {1}, target(u"some.txt"_s));
-    saver.vWait(gather(saver, {3}), {1}, target(u"some.txt"_s));
-    EXPECT_EQ(saver.iAwaited(), 2);
+    saver.setOnFinished([&](const NewsOutcome& outcome) { finished.push_back(outcome); });
+    saver.wait(gather(saver, {1, 3}), {1}, target(u"some.txt"_s));
+    saver.wait(gather(saver, {3}), {1}, target(u"some.txt"_s));
+    EXPECT_EQ(saver.awaitedCount(), 2);
     tell(3, {});
     saver.RespStory(entry(3));
-    EXPECT_EQ(saver.iAwaited(), 0);
+    EXPECT_EQ(saver.awaitedCount(), 0);
     settle();
     ASSERT_EQ(finished.size(), 2U);
     EXPECT_TRUE(finished[0].failed) << "nothing of this list came";
@@ -186,28 +188,28 @@ TEST_F(NewsPrintTest, LeavesOutWhatWillNotComeAndSaysSo) {
     EXPECT_TRUE(contents(path(u"some.txt"_s)).contains("Body 1"));
     EXPECT_FALSE(contents(path(u"some.txt"_s)).contains("Title 3"));
     // A file that is there stays where there is nothing to write.
-    EXPECT_TRUE(saver.PutOut(gather(saver, {3}), nullptr, target(u"some.txt"_s)).failed);
+    EXPECT_TRUE(saver.putOut(gather(saver, {3}), nullptr, target(u"some.txt"_s)).failed);
     EXPECT_TRUE(contents(path(u"some.txt"_s)).contains("Body 1"));
     // The user cancels: nothing was put out, so nothing was left out.
-    EXPECT_EQ(saver.PutOut(gather(saver, {1, 3}), nullptr, {}).message, QString());
+    EXPECT_EQ(saver.putOut(gather(saver, {1, 3}), nullptr, {}).message, QString());
 }
 
 TEST_F(NewsPrintTest, PutsOutWhatIsReadyWithoutTheRest) {
     TRVSaveToFile saver(backEnd, answers, window);
-    saver.vWait(gather(saver, {1, 2, 3}), {1}, target(u"ready.txt"_s));
-    saver.vWait(gather(saver, {2}), {1}, target(u"none.txt"_s));
-    EXPECT_EQ(saver.iReady(), 1);
-    saver.vPutOutReady();
-    EXPECT_EQ(saver.iAwaited(), 0);
+    saver.wait(gather(saver, {1, 2, 3}), {1}, target(u"ready.txt"_s));
+    saver.wait(gather(saver, {2}), {1}, target(u"none.txt"_s));
+    EXPECT_EQ(saver.readyCount(), 1);
+    saver.putOutReady();
+    EXPECT_EQ(saver.awaitedCount(), 0);
     settle();
-    EXPECT_FALSE(saver.bIsWaiting());
+    EXPECT_FALSE(saver.isWaiting());
     EXPECT_TRUE(contents(path(u"ready.txt"_s)).contains("Body 1"));
     EXPECT_FALSE(QFile::exists(path(u"none.txt"_s)));
     // What has waited and is dropped is not ready later.
-    saver.vWait(gather(saver, {1, 3}), {1}, target(u"dropped.txt"_s));
-    saver.vForgetAwaited();
-    EXPECT_EQ(saver.iReady(), 0);
-    saver.vPutOutReady();
+    saver.wait(gather(saver, {1, 3}), {1}, target(u"dropped.txt"_s));
+    saver.forgetAwaited();
+    EXPECT_EQ(saver.readyCount(), 0);
+    saver.putOutReady();
     settle();
     EXPECT_FALSE(QFile::exists(path(u"dropped.txt"_s)));
 }
@@ -218,7 +220,7 @@ TEST_F(NewsPrintTest, TellsWhatAFileCouldNotHold) {
     TRVSaveToFile saver(backEnd, answers, window);
     OutputTarget page = target(u"page.txt"_s);
     page.type = NewsFileType::CodePage950;
-    const NewsOutcome outcome = saver.PutOut(gather(saver, {3}), nullptr, page);
+    const NewsOutcome outcome = saver.putOut(gather(saver, {3}), nullptr, page);
     EXPECT_EQ(outcome.message, u"2 in "_s + page.file);
     EXPECT_FALSE(outcome.failed);
     EXPECT_EQ(outcome.count, contents(page.file).size());
@@ -235,7 +237,7 @@ TEST_F(NewsPrintTest, LeavesAnOldFileWhereANewOneFails) {
         for (const QString& file : {path(u"missing/folder.txt"_s), folder.path(), u"/dev/full"_s}) {
             if (file == u"/dev/full"_s && !QFile::exists(file))
                 continue;
-            const NewsOutcome outcome = job->PutOut(gather(*job, {1}), nullptr, OutputTarget{file, {}, {}});
+            const NewsOutcome outcome = job->putOut(gather(*job, {1}), nullptr, OutputTarget{file, {}, {}});
             EXPECT_TRUE(outcome.failed) << file.toStdString();
             EXPECT_EQ(outcome.count, 0);
             EXPECT_TRUE(outcome.message.startsWith(verb + file + u": "_s)) << outcome.message.toStdString();
@@ -244,11 +246,16 @@ TEST_F(NewsPrintTest, LeavesAnOldFileWhereANewOneFails) {
     }
     EXPECT_FALSE(QFileInfo(u"/dev/full"_s).isFile()) << "a device stays one";
     EXPECT_TRUE(
-        printer.PutOut(gather(printer, {1}), nullptr, OutputTarget{path(u"a.pdf"_s), {}, u"Z9"_s}).failed);
+        printer.putOut(gather(printer, {1}), nullptr, OutputTarget{path(u"a.pdf"_s), {}, u"Z9"_s}).failed);
     EXPECT_FALSE(QFile::exists(path(u"a.pdf"_s)));
 }
 
+}  // namespace wirepane
+
 #ifdef Q_OS_UNIX
+
+namespace wirepane {
+
 TEST(WholeFileTest, AFullDiskLeavesTheOldFile) {
     // A limit to the size of files stands for the disk; writes end short there, too.
     const QTemporaryDir folder;
@@ -258,9 +265,9 @@ TEST(WholeFileTest, AFullDiskLeavesTheOldFile) {
     const auto usual = std::signal(SIGXFSZ, SIG_IGN);
     const rlimit small{50000, limit.rlim_max};
     for (const int size : {50001, 60000, 5000000}) {
-        ASSERT_FALSE(WriteWholeFile(file, "old"));
+        ASSERT_FALSE(writeWholeFile(file, "old"));
         ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-        const auto failed = WriteWholeFile(file, QByteArray(size, 'x'));
+        const auto failed = writeWholeFile(file, QByteArray(size, 'x'));
         ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
         EXPECT_TRUE(failed && !failed->isEmpty()) << size;
         EXPECT_EQ(contents(file), QByteArray("old"));
@@ -269,7 +276,12 @@ TEST(WholeFileTest, AFullDiskLeavesTheOldFile) {
     }
     std::signal(SIGXFSZ, usual);
 }
+
+}  // namespace wirepane
+
 #endif
+
+namespace wirepane {
 
 TEST_F(NewsPrintTest, APrinterThatIsGoneIsTold) {
     backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_PRINT_FAILED"_s, u"print %1: %2"_s);
@@ -279,7 +291,7 @@ TEST_F(NewsPrintTest, APrinterThatIsGoneIsTold) {
     printer.setOutputFormat(QPrinter::NativeFormat);
     printer.setPrinterName(u"No such printer"_s);
     printer.setOutputFileName({});
-    const NewsOutcome outcome = PrintItems(printer, backEnd, gather(job, {1}));
+    const NewsOutcome outcome = printItems(printer, backEnd, gather(job, {1}));
     if (outcome.count > 0)
         GTEST_SKIP() << "every printer's name is taken here";
     EXPECT_TRUE(outcome.failed);
@@ -297,15 +309,15 @@ TEST_F(NewsPrintTest, ThePdfHoldsTheStoriesInTheirLines) {
     paragraphs.append(QString(QChar::LineSeparator));
     tell(1, paragraphs.join(u"@@@@"_s));
     TRVNewsPrint job(backEnd, answers, window);
-    const NewsItems items = gather(job, {1});
-    ASSERT_EQ(job.PutOut(items, nullptr, target(u"news.pdf"_s)).count, 3);
+    const OutputItems items = gather(job, {1});
+    ASSERT_EQ(job.putOut(items, nullptr, target(u"news.pdf"_s)).count, 3);
     QString text;
     ASSERT_NO_FATAL_FAILURE(readPdf(u"news.pdf"_s, text));
     if (IsSkipped())
         return;
     const QStringList pages = text.split(u'\f', Qt::SkipEmptyParts);
     ASSERT_EQ(pages.size(), 3);
-    const auto expected = BodyPages(items[0].story);
+    const auto expected = bodyPages(items[0].story);
     for (qsizetype page = 0; page < pages.size(); ++page) {
         EXPECT_TRUE(pages[page].contains(u"News Details"_s));
         EXPECT_TRUE(pages[page].contains(u"Title 1"_s));
@@ -322,7 +334,7 @@ TEST_F(NewsPrintTest, ARadicalInAPdfLeavesTheIdeographsWhatTheyAre) {
     tell(1, u"\u2F00\u4E00 \u2F08\u4EBA \u4E00\u4EBA a\u00A0b c"_s);
     tell(3, u"\u2F45\u5411"_s);
     TRVNewsPrint job(backEnd, answers, window);
-    ASSERT_EQ(job.PutOut(gather(job, {1, 3}), nullptr, target(u"news.pdf"_s)).count, 2);
+    ASSERT_EQ(job.putOut(gather(job, {1, 3}), nullptr, target(u"news.pdf"_s)).count, 2);
     QString text;
     ASSERT_NO_FATAL_FAILURE(readPdf(u"news.pdf"_s, text));
     if (IsSkipped())
@@ -344,12 +356,12 @@ TEST_F(NewsPrintTest, PagesAreSetInTwelvePointsOfTheFaceThatTheLanguageNames) {
     for (const int resolution : {72, 600, 1200}) {
         writer.setResolution(resolution);
         TRVNewsPrint job(backEnd, answers, window);
-        const auto pages = PagesOn(writer, backEnd, gather(job, {1}));
+        const auto pages = pagesOn(writer, backEnd, gather(job, {1}));
         ASSERT_EQ(pages.size(), 1U);
         EXPECT_EQ(pages[0].heading.pixelSize, resolution / 6);
         EXPECT_EQ(pages[0].title[0].pixelSize, resolution / 6) << "what fits is not made smaller";
     }
-    const QFont font = PageFont(backEnd, 200, Shaping::None);
+    const QFont font = pageFont(backEnd, 200, Shaping::None);
     EXPECT_EQ(font.families().first(), u"Noto Sans Mono CJK TC, and what "_s.left(31));
     EXPECT_EQ(font.weight(), QFont::Normal);
 }
@@ -357,8 +369,8 @@ TEST_F(NewsPrintTest, PagesAreSetInTwelvePointsOfTheFaceThatTheLanguageNames) {
 // In the face of the program's own languages, columns stand.
 TEST_F(NewsPrintTest, AChineseCharacterIsAsWideAsTwoLetters) {
     backEnd.texts.insert(u"IDS_SINGLETON-STRING_FONTNAME"_s, u"Noto Sans Mono CJK TC"_s);
-    const QFontMetrics metrics(PageFont(backEnd, 100, Shaping::None));
-    if (!QFontInfo(PageFont(backEnd, 100, Shaping::None)).family().startsWith(u"Noto Sans Mono CJK"_s))
+    const QFontMetrics metrics(pageFont(backEnd, 100, Shaping::None));
+    if (!QFontInfo(pageFont(backEnd, 100, Shaping::None)).family().startsWith(u"Noto Sans Mono CJK"_s))
         GTEST_SKIP() << "the face is not installed";
     for (const QString& pair : {u"ii"_s, u"WW"_s, u"1."_s, u"  "_s, u"聞"_s, u"：　"_s.left(1), u"─"_s})
         EXPECT_EQ(metrics.horizontalAdvance(pair), 100) << pair.toStdString();
@@ -369,8 +381,8 @@ TEST_F(NewsPrintTest, EveryFrameIsDrawnInsideItsRectangle) {
     if (pdftoppm.isEmpty())
         GTEST_SKIP() << "pdftoppm is not installed";
     TRVNewsPrint job(backEnd, answers, window);
-    const NewsItems items = gather(job, {1});
-    ASSERT_EQ(job.PutOut(items, nullptr, target(u"news.pdf"_s)).count, 1);
+    const OutputItems items = gather(job, {1});
+    ASSERT_EQ(job.putOut(items, nullptr, target(u"news.pdf"_s)).count, 1);
     constexpr int dotsPerInch = 300;
     constexpr int pdfDotsPerInch = 1200;
     constexpr int marginDots = 118;  // 10 mm
@@ -385,7 +397,7 @@ TEST_F(NewsPrintTest, EveryFrameIsDrawnInsideItsRectangle) {
     writer.setResolution(pdfDotsPerInch);
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
                                      QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter));
-    const PageFrames frames = PagesOn(writer, backEnd, items)[0].frames;
+    const PageFrames frames = pagesOn(writer, backEnd, items)[0].frames;
     for (const QRect& frame : {frames.outer, frames.inner, frames.title, frames.body, frames.footer}) {
         const auto onPage = [](int place) { return place * dotsPerInch / pdfDotsPerInch + marginDots; };
         const int left = onPage(frame.left());
@@ -408,3 +420,5 @@ TEST_F(NewsPrintTest, EveryFrameIsDrawnInsideItsRectangle) {
         EXPECT_TRUE(lies([&](int in) { return isDark(x, bottom - in); }));
     }
 }
+
+}  // namespace wirepane

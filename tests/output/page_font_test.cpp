@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
-TEST(PageFont, OnlyCharactersThatJoinAreShaped) {
+namespace wirepane {
+
+TEST(pageFont, OnlyCharactersThatJoinAreShaped) {
     struct Case {
         const char* text;
         Shaping shaping;
@@ -22,5 +24,7 @@ TEST(PageFont, OnlyCharactersThatJoinAreShaped) {
         {"👩\u200d👩", Shaping::Full},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(ShapingFor(QString::fromUtf8(c.text)), c.shaping) << c.text;
+        EXPECT_EQ(shapingFor(QString::fromUtf8(c.text)), c.shaping) << c.text;
 }
+
+}  // namespace wirepane

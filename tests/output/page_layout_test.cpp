@@ -8,13 +8,15 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 // Every character is as wide as half its size in bytes, every line a fifth higher than its text.
 class EvenMeasure : public TextMeasure {
 public:
-    int LineHeight(int pixelSize) const override { return pixelSize * 6 / 5; }
-    int Width(const QString& text, int pixelSize) const override {
+    int lineHeight(int pixelSize) const override { return pixelSize * 6 / 5; }
+    int width(const QString& text, int pixelSize) const override {
         return static_cast<int>(text.size()) * pixelSize / 2;
     }
 };
@@ -23,8 +25,8 @@ public:
 constexpr PageSize paper{760, 1108, 190, 277};
 const PageTexts texts{u"Detailed News of a long name"_s, u"2026/03/02 09:30"_s};
 
-NewsItem item(const QString& title, const QString& story) {
-    NewsItem result;
+OutputItem item(const QString& title, const QString& story) {
+    OutputItem result;
     result.title = title;
     result.story = story;
     return result;
@@ -37,8 +39,8 @@ QString lines(int count) {
     return result.join(u"\r\n"_s);
 }
 
-std::vector<PrintedPage> layOut(const NewsItems& items, int pixelSize = 16) {
-    return LayOutPages(items, paper, texts, pixelSize, EvenMeasure());
+std::vector<PrintedPage> layOut(const OutputItems& items, int pixelSize = 16) {
+    return layOutPages(items, paper, texts, pixelSize, EvenMeasure());
 }
 
 }  // namespace
@@ -61,7 +63,7 @@ TEST(PageLayoutTest, NumbersThePagesOfEachStory) {
 
 TEST(PageLayoutTest, CutsBodiesIntoLinesOf80Bytes) {
     const QString long1 = u"a"_s.repeated(79) + u"新聞\r\n"_s;
-    const auto pages = BodyPages(QString(u"\r\n"_s + long1 + u"b\n\r\n"_s));
+    const auto pages = bodyPages(QString(u"\r\n"_s + long1 + u"b\n\r\n"_s));
     ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(pages[0], (std::vector<QString>{{}, u"a"_s.repeated(79), u"新聞"_s, u"b"_s, {}}));
 }
@@ -84,7 +86,7 @@ TEST(PageLayoutTest, PutsEverythingInItsPlace) {
 TEST(PageLayoutTest, ScalesWhatDoesNotFit) {
     const struct {
         const char* what;
-        NewsItem news;
+        OutputItem news;
         int title;
         int body;
     } cases[] = {
@@ -110,18 +112,18 @@ TEST(PageLayoutTest, ScalesWhatDoesNotFit) {
         for (const auto& [texts, box] :
              {std::pair(page.title, page.frames.title), std::pair(page.body, page.frames.body)}) {
             for (const PlacedText& line : texts) {
-                const QRect place(line.topLeft, QSize(measure.Width(line.text, line.pixelSize),
-                                                      measure.LineHeight(line.pixelSize)));
+                const QRect place(line.topLeft, QSize(measure.width(line.text, line.pixelSize),
+                                                      measure.lineHeight(line.pixelSize)));
                 EXPECT_TRUE(box.contains(place));
             }
         }
     }
     EXPECT_EQ(pages[0].body[1].topLeft.y() - pages[0].body[0].topLeft.y(),
-              EvenMeasure().LineHeight(pages[0].body[0].pixelSize));
+              EvenMeasure().lineHeight(pages[0].body[0].pixelSize));
 }
 
 TEST(PageLayoutTest, ATitleKeepsItsTailWhereItIsToBeWhole) {
-    NewsItem whole = item(u"w"_s.repeated(170), lines(1));
+    OutputItem whole = item(u"w"_s.repeated(170), lines(1));
     EXPECT_EQ(layOut({whole}, 16)[0].title.size(), 2U);
     whole.wholeTitle = true;
     const auto pages = layOut({whole}, 16);
@@ -130,5 +132,7 @@ TEST(PageLayoutTest, ATitleKeepsItsTailWhereItIsToBeWhole) {
 }
 
 TEST(PageLayoutTest, SurvivesPaperOfNoSize) {
-    EXPECT_EQ(LayOutPages({item(u"T"_s, lines(50))}, {}, texts, 16, EvenMeasure()).size(), 2U);
+    EXPECT_EQ(layOutPages({item(u"T"_s, lines(50))}, {}, texts, 16, EvenMeasure()).size(), 2U);
 }
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 class SavedTextTest : public testing::Test {
@@ -19,11 +21,11 @@ protected:
     }
 
     QByteArray written(const QString& title, const QString& story) {
-        NewsItem item;
+        OutputItem item;
         item.entry.sequence = 42;
         item.title = title;
         item.story = story;
-        return WriteNews(backEnd, {item}, NewsFileType::CodePage950)->bytes;
+        return writeNews(backEnd, {item}, NewsFileType::CodePage950)->bytes;
     }
     static QByteArray around(const QByteArray& title, const QByteArray& story) {
         return " No. 42\n\nTitle: " + title + "Story:\n" + story + QByteArray(80, '-') + '\n';
@@ -65,29 +67,29 @@ TEST_F(SavedTextTest, WritesTheFileByteByByte) {
     };
     for (const auto& c : cases)
         EXPECT_EQ(written(c.title, c.story).toStdString(), c.expected.toStdString()) << c.what;
-    EXPECT_EQ(WriteNews(backEnd, {}, NewsFileType::CodePage950)->bytes, QByteArray());
+    EXPECT_EQ(writeNews(backEnd, {}, NewsFileType::CodePage950)->bytes, QByteArray());
 }
 
 TEST_F(SavedTextTest, KeepsEveryCharacterInUtf8) {
-    NewsItem item;
+    OutputItem item;
     item.title = u"Café"_s;
     item.story = u"闻😀"_s;
-    const auto page = WriteNews(backEnd, {item, item}, NewsFileType::CodePage950);
+    const auto page = writeNews(backEnd, {item, item}, NewsFileType::CodePage950);
     EXPECT_EQ(page->replaced, 6);
-    const auto utf8 = WriteNews(backEnd, {item}, NewsFileType::Utf8);
+    const auto utf8 = writeNews(backEnd, {item}, NewsFileType::Utf8);
     EXPECT_EQ(utf8->replaced, 0);
     EXPECT_EQ(utf8->bytes,
               QByteArray(" No. 0\n\nTitle: Café\n\nStory:\n闻😀\n\n") + QByteArray(80, '-') + '\n');
 }
 
 TEST_F(SavedTextTest, ConvertsAsServiceZeroDoes) {
-    NewsItem item;
+    OutputItem item;
     item.entry.service = 7;
     item.title = u"新聞"_s;
     item.story = u"資"_s;
     backEnd.simplifiedServices = {0};
     const auto text = [&] {
-        return QString::fromUtf8(WriteNews(backEnd, {item}, NewsFileType::Utf8)->bytes);
+        return QString::fromUtf8(writeNews(backEnd, {item}, NewsFileType::Utf8)->bytes);
     };
     EXPECT_TRUE(text().contains(u"Title: 新闻\n\nStory:\n资\n\n"_s));
     backEnd.simplifiedServices = {7};
@@ -95,7 +97,7 @@ TEST_F(SavedTextTest, ConvertsAsServiceZeroDoes) {
 }
 
 TEST_F(SavedTextTest, WholeTitlesKeepTheirTailWhereEveryCharacterIsKept) {
-    NewsItem item;
+    OutputItem item;
     item.entry.sequence = 42;
     item.title = QString(200, u'a');
     item.story = u"S"_s;
@@ -103,11 +105,13 @@ TEST_F(SavedTextTest, WholeTitlesKeepTheirTailWhereEveryCharacterIsKept) {
     const QByteArray a80(80, 'a');
     const QByteArray cut = around(a80 + '\n' + a80 + '\n', "S\n\n");
     const QByteArray whole = around(a80 + '\n' + a80 + '\n' + a80.left(40) + "\n\n", "S\n\n");
-    EXPECT_EQ(WriteNews(backEnd, {item}, NewsFileType::Utf8)->bytes, whole);
-    EXPECT_EQ(WriteNews(backEnd, {item}, NewsFileType::CodePage950)->bytes, cut);
+    EXPECT_EQ(writeNews(backEnd, {item}, NewsFileType::Utf8)->bytes, whole);
+    EXPECT_EQ(writeNews(backEnd, {item}, NewsFileType::CodePage950)->bytes, cut);
     item.wholeTitle = false;
-    EXPECT_EQ(WriteNews(backEnd, {item}, NewsFileType::Utf8)->bytes, cut);
+    EXPECT_EQ(writeNews(backEnd, {item}, NewsFileType::Utf8)->bytes, cut);
     item.wholeTitle = true;
     item.title = u"Rates"_s;
-    EXPECT_EQ(WriteNews(backEnd, {item}, NewsFileType::Utf8)->bytes, around("Rates\n\n", "S\n\n"));
+    EXPECT_EQ(writeNews(backEnd, {item}, NewsFileType::Utf8)->bytes, around("Rates\n\n", "S\n\n"));
 }
+
+}  // namespace wirepane

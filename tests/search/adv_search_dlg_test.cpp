@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 CSearch condition(std::vector<QString> keywords, unsigned char scope = 0, unsigned char method = 1) {
@@ -40,11 +42,11 @@ protected:
     }
 
     // What the caller takes back.
-    void takeBack() { dialog->vGetResult(edited, pool, recent); }
+    void takeBack() { dialog->readResult(edited, pool, recent); }
 
     void showSymbolTab() const {
         QTest::keyClick(dialog.get(), Qt::Key_Tab, Qt::ControlModifier);
-        ASSERT_EQ(at<CXTPTabControl>(search_ids::tabs).GetCurSel(), 1);
+        ASSERT_EQ(at<CXTPTabControl>(search_ids::tabs).curSel(), 1);
     }
 
     CSearch edited;
@@ -156,8 +158,8 @@ TEST_F(AdvancedSearch, ThePickerReportsSymbols) {
     auto* picker = dialog->findChild<QuoteTRVChangeSymbol*>();
     ASSERT_NE(picker, nullptr);
     EXPECT_TRUE(picker->isVisible());
-    auto* search = qobject_cast<QLineEdit*>(GetDlgItem(picker, QuoteTRVChangeSymbol::searchEdit));
-    auto* tree = qobject_cast<QTreeWidget*>(GetDlgItem(picker, QuoteTRVChangeSymbol::symbolTree));
+    auto* search = qobject_cast<QLineEdit*>(dlgItem(picker, QuoteTRVChangeSymbol::searchEdit));
+    auto* tree = qobject_cast<QTreeWidget*>(dlgItem(picker, QuoteTRVChangeSymbol::symbolTree));
     ASSERT_EQ(tree->topLevelItemCount(), 2) << "a branch for each market";
     QTest::keyClicks(search, u"lantern"_s);
     ASSERT_EQ(tree->topLevelItemCount(), 1);
@@ -190,7 +192,7 @@ TEST_F(AdvancedSearch, EnterPressesTheButtonOfWhereTheKeyboardIs) {
         {search_ids::keywords, search_ids::ok},          {search_ids::remove, search_ids::remove},
         {search_ids::scopeStories, search_ids::ok},      {search_ids::recent, search_ids::ok}};
     for (const auto& [control, button] : cases) {
-        GetDlgItem(dialog.get(), control)->setFocus();
+        dlgItem(dialog.get(), control)->setFocus();
         EXPECT_EQ(defaultButton(), button) << control;
     }
     EXPECT_EQ(at<QTableWidget>(search_ids::recent).selectedItems().size(), 0)
@@ -250,3 +252,5 @@ TEST_F(AdvancedSearch, ARecentSearchIsLoadedByAClickAndRunByTwo) {
     EXPECT_EQ(recent.size(), 2U) << "it is kept already, and stays where it is";
     EXPECT_EQ(recent.front(), edited);
 }
+
+}  // namespace wirepane

@@ -16,6 +16,8 @@
 #include <functional>
 #include <gtest/gtest.h>
 
+namespace wirepane {
+
 // A search dialog in front of the user, worked with mouse and keys; its controls are known by their numbers.
 class DialogTest : public testing::Test {
 protected:
@@ -31,13 +33,13 @@ protected:
 
     template <class Control>
     Control& at(int id) const {
-        auto* control = qobject_cast<Control*>(GetDlgItem(window, id));
+        auto* control = qobject_cast<Control*>(dlgItem(window, id));
         EXPECT_NE(control, nullptr) << id;
         return *control;
     }
     void type(int id, const QString& text) const { QTest::keyClicks(&at<QLineEdit>(id), text); }
-    void press(int id, Qt::Key key) const { QTest::keyClick(GetDlgItem(window, id), key); }
-    void click(int id) const { QTest::mouseClick(GetDlgItem(window, id), Qt::LeftButton); }
+    void press(int id, Qt::Key key) const { QTest::keyClick(dlgItem(window, id), key); }
+    void click(int id) const { QTest::mouseClick(dlgItem(window, id), Qt::LeftButton); }
     // Near the right edge of the row's first cell: beside a check box.
     void clickRow(int id, int row, bool twice = false, Qt::MouseButton button = Qt::LeftButton) const {
         auto& view = at<QAbstractItemView>(id);
@@ -111,12 +113,12 @@ protected:
         return found;
     }
     int focus() const {
-        return QApplication::focusWidget() != nullptr ? WindowId(QApplication::focusWidget()) : 0;
+        return QApplication::focusWidget() != nullptr ? windowId(QApplication::focusWidget()) : 0;
     }
     int defaultButton() const {
         for (const auto* button : window->findChildren<QPushButton*>()) {
             if (button->isDefault())
-                return WindowId(button);
+                return windowId(button);
         }
         return 0;
     }
@@ -125,3 +127,5 @@ protected:
     QDialog* window = nullptr;
     int result = -1;
 };
+
+}  // namespace wirepane

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 const QString textAnd = u"IDS_DIALOG-DEAL-SEARCH_AND_BUTTON"_s;
@@ -89,8 +91,8 @@ TEST_F(KeySetDialog, ANewKeySetNeedsANewsTypeAndAKeyword) {
     addKeyword(u"TIN"_s);
     save();
     EXPECT_EQ(rows(search_ids::keySets).size(), 5) << "it is there already";
-    EXPECT_EQ(dialog->TickedKeySets(), (std::vector{CNewsKey(1, {12}, {u"TIN"_s})}));
-    EXPECT_EQ(dialog->Pool(), (KeywordList{u"GOLD"_s, u"OIL"_s, u"TIN"_s}));
+    EXPECT_EQ(dialog->tickedKeySets(), (std::vector{CNewsKey(1, {12}, {u"TIN"_s})}));
+    EXPECT_EQ(dialog->offeredKeywords(), (KeywordList{u"GOLD"_s, u"OIL"_s, u"TIN"_s}));
 }
 
 TEST_F(KeySetDialog, AClickedKeySetIsWorkedOnUntilItIsSavedOrLeft) {
@@ -113,7 +115,7 @@ TEST_F(KeySetDialog, AClickedKeySetIsWorkedOnUntilItIsSavedOrLeft) {
     EXPECT_EQ(rows(search_ids::keySets).front(), textOr + u"|Deals Policy |X, V"_s);
     EXPECT_EQ(ticked(search_ids::keySets), QList<int>{0});
     EXPECT_EQ(saveText(), newSet);
-    EXPECT_EQ(dialog->KeySets().size(), 4U);
+    EXPECT_EQ(dialog->composedKeySets().size(), 4U);
 
     for (const bool byKey : {false, true}) {
         clickRow(search_ids::keySets, 3);
@@ -161,7 +163,7 @@ TEST_F(KeySetDialog, CheckBoxesTickAndDoNothingElse) {
     at<QAbstractItemView>(search_ids::keywords).setFocus();
     press(search_ids::keywords, Qt::Key_Return);
     EXPECT_EQ(result, QDialog::Accepted);
-    const std::vector<CNewsKey> chosen = dialog->TickedKeySets();
+    const std::vector<CNewsKey> chosen = dialog->tickedKeySets();
     ASSERT_EQ(chosen.size(), 3U);
     EXPECT_EQ(chosen[0].newsTypes, (std::vector{3, 7, 12}));
     EXPECT_EQ(chosen[2], stored[3]) << "in the order of the rows";
@@ -179,17 +181,17 @@ TEST_F(KeySetDialog, DeletesWithAllThatAreEqualAfterAsking) {
     EXPECT_EQ(rows(search_ids::keySets).size(), 4);
     EXPECT_EQ(saveText(), sameSet) << "nothing changes";
     answerBox(u"delete 2?"_s, QMessageBox::Yes, deleteTicked);
-    EXPECT_EQ(dialog->KeySets(), (std::vector{stored[1], stored[2]}));
+    EXPECT_EQ(dialog->composedKeySets(), (std::vector{stored[1], stored[2]}));
     EXPECT_EQ(saveText(), newSet);
 
     const auto clickTwice = [this] { clickRow(search_ids::keySets, 1, true); };
     answerBox(u"delete 1?"_s, QMessageBox::No, clickTwice);
     ASSERT_TRUE(QTest::qWaitFor([this] { return saveText() == newSet; }));
-    EXPECT_EQ(dialog->KeySets().size(), 2U);
+    EXPECT_EQ(dialog->composedKeySets().size(), 2U);
     answerBox(u"delete 1?"_s, QMessageBox::Yes, clickTwice);
     ASSERT_TRUE(QTest::qWaitFor([this] { return rows(search_ids::keySets).isEmpty(); }))
         << "the other one is equal";
-    EXPECT_TRUE(dialog->KeySets().empty());
+    EXPECT_TRUE(dialog->composedKeySets().empty());
     EXPECT_EQ(texts(search_ids::keywords), QStringList());
 }
 
@@ -205,7 +207,7 @@ TEST_F(KeySetDialog, EnterSavesWhereAKeySetIsComposedAndEndsElsewhere) {
                                          {search_ids::allKeySets, search_ids::ok},
                                          {search_ids::deleteKeySets, search_ids::deleteKeySets}};
     for (const auto& [control, button] : cases) {
-        GetDlgItem(window, control)->setFocus();
+        dlgItem(window, control)->setFocus();
         EXPECT_EQ(defaultButton(), button) << control;
     }
     EXPECT_EQ(saveText(), newSet) << "being in the list chooses nothing";
@@ -214,3 +216,5 @@ TEST_F(KeySetDialog, EnterSavesWhereAKeySetIsComposedAndEndsElsewhere) {
               [this] { click(search_ids::removeAllOfKeySet); });
     EXPECT_EQ(texts(search_ids::keywords), QStringList());
 }
+
+}  // namespace wirepane

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 CSearch condition(std::vector<QString> keywords, unsigned char scope = 0, unsigned char method = 1) {
@@ -81,21 +83,21 @@ TEST(Keywords, OfACandidate) {
         {u" "_s, {}},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(KeywordsOfCandidate(c.candidate), c.keywords) << c.candidate.toStdString();
+        EXPECT_EQ(keywordsOfCandidate(c.candidate), c.keywords) << c.candidate.toStdString();
 }
 
 TEST(RecentSearches, KeepTheTenLastThatAskDifferently) {
     RecentSearches recent;
     for (int i = 0; i < 11; ++i)
-        KeepRecentSearch(recent, condition({QString::number(i), u"x"_s}));
+        keepRecentSearch(recent, condition({QString::number(i), u"x"_s}));
     ASSERT_EQ(recent.size(), 10U);
     EXPECT_EQ(recent.front().keywords.front(), u"1"_s);
     const RecentSearches before = recent;
-    KeepRecentSearch(recent, condition({u"x"_s, u"4"_s}));
+    keepRecentSearch(recent, condition({u"x"_s, u"4"_s}));
     EXPECT_EQ(recent, before) << "the same keywords in another order";
     for (const CSearch& other : {condition({u"4"_s, u"x"_s}, 1), condition({u"4"_s, u"x"_s}, 0, 2),
                                  condition({u"4"_s}), condition({u"4"_s, u"X"_s})}) {
-        KeepRecentSearch(recent, other);
+        keepRecentSearch(recent, other);
         EXPECT_EQ(recent.back(), other);
         EXPECT_EQ(recent.size(), 10U);
     }
@@ -132,8 +134,8 @@ TEST(SearchMemory, SurvivesTheSettingsWithWhateverItHolds) {
     EXPECT_EQ(damaged.recent.front().keywords, std::vector<QString>{u"x"_s}) << "once";
     EXPECT_EQ(damaged.recent.back().keywords, std::vector<QString>{u"8"_s});
     EXPECT_EQ(damaged.keySets, std::vector{CNewsKey(1, {3}, {u"a"_s})});
-    ASSERT_NE(damaged.warnings.Chosen(), nullptr);
-    EXPECT_EQ(damaged.warnings.Chosen()->keywords, std::vector<QString>{u"in force"_s});
+    ASSERT_NE(damaged.warnings.chosenItem(), nullptr);
+    EXPECT_EQ(damaged.warnings.chosenItem()->keywords, std::vector<QString>{u"in force"_s});
     for (const int none : {-1, 0, 1, 2, 5}) {
         settings.values[u"WarningSearchItemOrder"_s] = none;
         EXPECT_EQ(SearchMemory::read(settings, path).warnings.chosen, 0) << none;
@@ -150,14 +152,16 @@ TEST(SearchDesk, TellsAnswersApart) {
     later.time = 99;
     CSearch narrowed = desk.ordinary;
     narrowed.symbols = {{16, u"2330"_s}};
-    EXPECT_EQ(desk.KindOfAnswer(later), TableKind::Search) << "when it was composed does not count";
-    EXPECT_EQ(desk.KindOfAnswer(desk.warningTerm), TableKind::Search);
-    EXPECT_EQ(desk.KindOfAnswer(desk.second), TableKind::SecondSearch);
-    EXPECT_EQ(desk.KindOfAnswer(narrowed), std::nullopt);
-    EXPECT_EQ(desk.KindOfAnswer(condition({u"b"_s, u"a"_s})), std::nullopt) << "the order counts";
+    EXPECT_EQ(desk.kindOfAnswer(later), TableKind::Search) << "when it was composed does not count";
+    EXPECT_EQ(desk.kindOfAnswer(desk.warningTerm), TableKind::Search);
+    EXPECT_EQ(desk.kindOfAnswer(desk.second), TableKind::SecondSearch);
+    EXPECT_EQ(desk.kindOfAnswer(narrowed), std::nullopt);
+    EXPECT_EQ(desk.kindOfAnswer(condition({u"b"_s, u"a"_s})), std::nullopt) << "the order counts";
 
-    desk.vNarrow(desk.ordinary, {16, u"2330"_s}, true);
+    desk.narrow(desk.ordinary, {16, u"2330"_s}, true);
     EXPECT_EQ(desk.ordinary, narrowed);
     EXPECT_TRUE(desk.second.symbols.empty());
-    EXPECT_EQ(desk.KindOfAnswer(narrowed), TableKind::Search);
+    EXPECT_EQ(desk.kindOfAnswer(narrowed), TableKind::Search);
 }
+
+}  // namespace wirepane

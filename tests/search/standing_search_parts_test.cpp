@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 CSearch condition(std::vector<QString> keywords, unsigned char scope = 0, unsigned char method = 1) {
@@ -44,10 +46,10 @@ TEST(KeySetText, IsReadBackAsItWasWritten) {
         {{1, {1}, {u" T:5"_s, u"聯儲局"_s, u"\n"_s}}, u"C:1 T:1 K: T:5,聯儲局,\n"_s},
     };
     for (const Case& c : cases) {
-        EXPECT_EQ(TextOfKeySet(c.keySet), c.text);
-        EXPECT_EQ(KeySetOfText(c.text), c.keySet) << c.text.toStdString();
+        EXPECT_EQ(textOfKeySet(c.keySet), c.text);
+        EXPECT_EQ(keySetOfText(c.text), c.keySet) << c.text.toStdString();
     }
-    EXPECT_EQ(KeySetOfText(u"C:1 T:1 K:a K:b,c"_s), CNewsKey(1, {1}, {u"a K:b"_s, u"c"_s}))
+    EXPECT_EQ(keySetOfText(u"C:1 T:1 K:a K:b,c"_s), CNewsKey(1, {1}, {u"a K:b"_s, u"c"_s}))
         << "a form from before there were backslashes";
 }
 
@@ -57,7 +59,7 @@ TEST(KeySetText, IsRejectedWholeWhenItIsDamaged) {
           u"C:1  T:3 K:A"_s, u"C:1 T:3, K:A"_s, u"C:1 T:3,x K:A"_s, u"C:1 T:03 K:A"_s,
           u"C:1 T:99999999999 K:A"_s, u"C:1 T:3 K:A,,B"_s, u"C:1 T:3 K:A,"_s, u"C:1 T:3 K:A\\"_s,
           u" C:1 T:3 K:A"_s, u"T:3 C:1 K:A"_s, u"C:1 K:A T:3"_s})
-        EXPECT_EQ(KeySetOfText(text), std::nullopt) << text.toStdString();
+        EXPECT_EQ(keySetOfText(text), std::nullopt) << text.toStdString();
 }
 
 TEST(KeySets, TakeTheNewsTypesOfAllServicesButWarrants) {
@@ -66,14 +68,14 @@ TEST(KeySets, TakeTheNewsTypesOfAllServicesButWarrants) {
     backEnd.categories[2] = {{u"3"_s, u"Other name"_s}, {u"7"_s, u"Deals"_s}};
     backEnd.categories[52] = {{u"9"_s, u"Issue"_s}};
     const ServiceEntry services[] = {{52}, {1}, {22}, {2}};
-    EXPECT_EQ(NewsTypesOf(backEnd, services),
+    EXPECT_EQ(newsTypesOf(backEnd, services),
               (CategoryMap{{-2, u"Flash"_s}, {3, u"Markets"_s}, {7, u"Deals"_s}}));
-    EXPECT_EQ(NewsTypesOf(backEnd, {}), CategoryMap());
+    EXPECT_EQ(newsTypesOf(backEnd, {}), CategoryMap());
     backEnd.categories[2].back().second = u"資券新聞"_s;
     backEnd.simplifiedServices = {2};
-    EXPECT_EQ(NewsTypesOf(backEnd, services).at(7), u"資券新聞"_s) << "whatever the name's own service";
+    EXPECT_EQ(newsTypesOf(backEnd, services).at(7), u"資券新聞"_s) << "whatever the name's own service";
     backEnd.simplifiedServices = {52};
-    EXPECT_EQ(NewsTypesOf(backEnd, services).at(7), u"资券新闻"_s) << "as the first service has it";
+    EXPECT_EQ(newsTypesOf(backEnd, services).at(7), u"资券新闻"_s) << "as the first service has it";
 }
 
 TEST(KeySets, AreSavedOnceAndWorkedOnInPlace) {
@@ -84,12 +86,12 @@ TEST(KeySets, AreSavedOnceAndWorkedOnInPlace) {
     std::vector<CNewsKey> keySets;
     int row = 0;
     for (const CNewsKey& keySet : {a, otherMethod, otherOrder, otherWords})
-        EXPECT_EQ(SaveKeySet(keySets, keySet, -1), row++);
-    EXPECT_EQ(SaveKeySet(keySets, otherOrder, -1), 2) << "it is there already";
-    EXPECT_EQ(SaveKeySet(keySets, a, 4), -1);
+        EXPECT_EQ(saveKeySet(keySets, keySet, -1), row++);
+    EXPECT_EQ(saveKeySet(keySets, otherOrder, -1), 2) << "it is there already";
+    EXPECT_EQ(saveKeySet(keySets, a, 4), -1);
     EXPECT_EQ(keySets, (std::vector{a, otherMethod, otherOrder, otherWords}));
-    EXPECT_EQ(SaveKeySet(keySets, a, 3), 3);
-    EXPECT_EQ(RowsOfEqual(keySets, std::vector{a, otherWords}), (std::vector{0, 3}));
+    EXPECT_EQ(saveKeySet(keySets, a, 3), 3);
+    EXPECT_EQ(rowsOfEqual(keySets, std::vector{a, otherWords}), (std::vector{0, 3}));
 }
 
 TEST(KeySets, ShowWhatTheyWant) {
@@ -110,41 +112,41 @@ TEST(KeySets, ShowWhatTheyWant) {
         {{1, {99}, {u"A"_s}}, {all, {}, u"A"_s}},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(TextsOfKeySet(c.keySet, types), c.texts) << c.texts.join(u'|').toStdString();
+        EXPECT_EQ(textsOfKeySet(c.keySet, types), c.texts) << c.texts.join(u'|').toStdString();
 
     const std::vector<CNewsKey> stored{{1, {wanted}, {}}, {1, {wanted, 3}, {}}, {1, {99}, {}}};
-    const std::vector<CNewsKey> spelledOut = WithNewsTypes(stored, types);
+    const std::vector<CNewsKey> spelledOut = withNewsTypes(stored, types);
     EXPECT_EQ(spelledOut[0].newsTypes, (std::vector{3, 7}));
     EXPECT_EQ(spelledOut[1], stored[1]);
     EXPECT_EQ(spelledOut[2], stored[2]);
-    EXPECT_EQ(WithNewsTypes(stored, {}), stored) << "every does not become none";
+    EXPECT_EQ(withNewsTypes(stored, {}), stored) << "every does not become none";
 }
 
 TEST(WarningItems, TakeTheKeywordsOfALine) {
-    EXPECT_EQ(KeywordsOfText(u" gold,, oil\nrate cut ,gold"_s),
+    EXPECT_EQ(keywordsOfText(u" gold,, oil\nrate cut ,gold"_s),
               (std::vector{u"gold"_s, u"oil"_s, u"rate"_s, u"cut"_s, u"gold"_s}));
-    EXPECT_EQ(KeywordsOfText(u" ,\n"_s), std::vector<QString>());
+    EXPECT_EQ(keywordsOfText(u" ,\n"_s), std::vector<QString>());
 }
 
 TEST(WarningItems, TheNumberInForceStaysWithItsItem) {
     WarningItems warnings{{condition({u"a"_s}), condition({u"b"_s}), condition({u"c"_s})}, 2};
-    EXPECT_FALSE(warnings.Add(condition({})));
-    EXPECT_FALSE(warnings.Replace(0, condition({u"a"_s}))) << "nothing was changed";
-    EXPECT_FALSE(warnings.Replace(0, condition({}))) << "nothing is lost";
-    EXPECT_FALSE(warnings.Replace(3, condition({u"z"_s})));
-    warnings.Remove(-1);
+    EXPECT_FALSE(warnings.add(condition({})));
+    EXPECT_FALSE(warnings.replace(0, condition({u"a"_s}))) << "nothing was changed";
+    EXPECT_FALSE(warnings.replace(0, condition({}))) << "nothing is lost";
+    EXPECT_FALSE(warnings.replace(3, condition({u"z"_s})));
+    warnings.remove(-1);
     EXPECT_EQ(firstWords(warnings), (std::vector{u"a"_s, u"b"_s, u"c"_s}));
 
-    EXPECT_TRUE(warnings.Replace(0, condition({u"a"_s}, 1))) << "the scope alone is a change";
+    EXPECT_TRUE(warnings.replace(0, condition({u"a"_s}, 1))) << "the scope alone is a change";
     EXPECT_EQ(firstWords(warnings), (std::vector{u"b"_s, u"c"_s, u"a"_s}));
     EXPECT_EQ(warnings.chosen, 1);
-    EXPECT_TRUE(warnings.Replace(0, condition({u"B"_s})));
-    EXPECT_EQ(warnings.Chosen()->keywords.front(), u"B"_s);
-    warnings.Remove(0);
+    EXPECT_TRUE(warnings.replace(0, condition({u"B"_s})));
+    EXPECT_EQ(warnings.chosenItem()->keywords.front(), u"B"_s);
+    warnings.remove(0);
     EXPECT_EQ(warnings.chosen, 2);
-    warnings.Remove(1);
+    warnings.remove(1);
     EXPECT_EQ(warnings.chosen, 0);
-    EXPECT_EQ(warnings.Chosen(), nullptr);
+    EXPECT_EQ(warnings.chosenItem(), nullptr);
     EXPECT_EQ(firstWords(warnings), std::vector{u"a"_s});
 }
 
@@ -164,10 +166,12 @@ TEST(WarningItems, AConditionTakesWhatTheChosenItemAsksFor) {
         WarningItems warnings{{condition({u"x"_s, u"y"_s}, 0, 2), c.item}, 0};
         CSearch inForce = condition({u"before"_s}, 0, 2);
         inForce.symbols = {{16, u"2330"_s}};
-        warnings.Choose(1, inForce);
+        warnings.choose(1, inForce);
         EXPECT_EQ(inForce, c.expected);
         EXPECT_EQ(warnings.chosen, 2);
         ASSERT_EQ(warnings.items.size(), c.items);
         EXPECT_EQ(warnings.items.back(), c.items == 3 ? c.expected : c.item) << "new where it asks for more";
     }
 }
+
+}  // namespace wirepane

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 const QString headlines = u"IDS_DIALOG-DEAL-SEARCH_HEADLINE_SEARCH"_s;
@@ -44,10 +46,10 @@ protected:
                   const std::function<void()>& work) const {
         answer<CWarnTermConfigDlg>(
             [&](CWarnTermConfigDlg& item) {
-                auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(&item, search_ids::warningEdit));
+                auto* edit = qobject_cast<QLineEdit*>(dlgItem(&item, search_ids::warningEdit));
                 edit->setText(keywords);
                 for (const int id : buttons)
-                    qobject_cast<QAbstractButton*>(GetDlgItem(&item, id))->click();
+                    qobject_cast<QAbstractButton*>(dlgItem(&item, id))->click();
             },
             work);
     }
@@ -81,8 +83,8 @@ TEST_F(WarnTerms, AreAddedWithKeywordsOnly) {
     add(u"never"_s, {search_ids::cancel});
     EXPECT_EQ(rows(search_ids::warnings).size(), 4);
     add(u"new"_s, {search_ids::ok});
-    EXPECT_EQ(dialog->Items().items.back(), condition({u"new"_s}, 0, 1));
-    EXPECT_EQ(dialog->Items().items[3], condition({u"rate"_s, u"cut"_s}, 2, 2));
+    EXPECT_EQ(dialog->items().items.back(), condition({u"new"_s}, 0, 1));
+    EXPECT_EQ(dialog->items().items[3], condition({u"rate"_s, u"cut"_s}, 2, 2));
 }
 
 TEST_F(WarnTerms, GoToTheEndWhenTheyAreEditedAndKeepTheirNumbersWhenOthersGo) {
@@ -95,11 +97,11 @@ TEST_F(WarnTerms, GoToTheEndWhenTheyAreEditedAndKeepTheirNumbersWhenOthersGo) {
     const auto editFirst = [this] { clickRow(search_ids::warnings, 0, true); };
     answer<CWarnTermConfigDlg>(
         [](CWarnTermConfigDlg& item) {
-            EXPECT_EQ(qobject_cast<QLineEdit*>(GetDlgItem(&item, search_ids::warningEdit))->text(),
+            EXPECT_EQ(qobject_cast<QLineEdit*>(dlgItem(&item, search_ids::warningEdit))->text(),
                       u"gold, oil"_s);
-            EXPECT_TRUE(qobject_cast<QRadioButton*>(GetDlgItem(&item, search_ids::warningAnd))->isChecked());
+            EXPECT_TRUE(qobject_cast<QRadioButton*>(dlgItem(&item, search_ids::warningAnd))->isChecked());
             EXPECT_TRUE(
-                qobject_cast<QRadioButton*>(GetDlgItem(&item, search_ids::warningHeadlines))->isChecked());
+                qobject_cast<QRadioButton*>(dlgItem(&item, search_ids::warningHeadlines))->isChecked());
             item.accept();
         },
         editFirst);
@@ -107,7 +109,7 @@ TEST_F(WarnTerms, GoToTheEndWhenTheyAreEditedAndKeepTheirNumbersWhenOthersGo) {
     editItem(u"gold"_s, {search_ids::ok}, editFirst);
     ASSERT_TRUE(QTest::qWaitFor([this] { return rows(search_ids::warnings).front().startsWith(u'2'); }));
     EXPECT_EQ(rows(search_ids::warnings).value(2), u"3|"_s + headlines + u'|' + textAnd + u"|gold"_s);
-    EXPECT_EQ(dialog->Items().chosen, 1);
+    EXPECT_EQ(dialog->items().chosen, 1);
 
     clickRow(search_ids::warnings, 0);
     click(search_ids::deleteWarning);
@@ -115,8 +117,8 @@ TEST_F(WarnTerms, GoToTheEndWhenTheyAreEditedAndKeepTheirNumbersWhenOthersGo) {
     ASSERT_EQ(left.size(), 2);
     EXPECT_TRUE(left[0].startsWith(u"3|"_s));
     EXPECT_TRUE(left[1].startsWith(u"3|"_s));
-    EXPECT_EQ(dialog->Items().chosen, 0);
-    EXPECT_EQ(dialog->Chosen(), items.items[1]) << "what is in force stays so";
+    EXPECT_EQ(dialog->items().chosen, 0);
+    EXPECT_EQ(dialog->chosenItem(), items.items[1]) << "what is in force stays so";
 }
 
 TEST_F(WarnTerms, OkPutsTheSelectedOneInForce) {
@@ -126,9 +128,9 @@ TEST_F(WarnTerms, OkPutsTheSelectedOneInForce) {
     clickRow(search_ids::warnings, 2);
     click(search_ids::ok);
     EXPECT_EQ(result, QDialog::Accepted);
-    EXPECT_EQ(dialog->Chosen(), condition({u"tin"_s}, 2, 2)) << "the method is the one before";
-    EXPECT_EQ(dialog->Items().chosen, 3);
-    EXPECT_EQ(dialog->Items().items.size(), 4U) << "it asks for something new";
+    EXPECT_EQ(dialog->chosenItem(), condition({u"tin"_s}, 2, 2)) << "the method is the one before";
+    EXPECT_EQ(dialog->items().chosen, 3);
+    EXPECT_EQ(dialog->items().items.size(), 4U) << "it asks for something new";
 }
 
 TEST_F(WarnTerms, CancelKeepsWhatIsInForceAndTheItems) {
@@ -137,7 +139,9 @@ TEST_F(WarnTerms, CancelKeepsWhatIsInForceAndTheItems) {
     clickRow(search_ids::warnings, 0);
     press(search_ids::warnings, Qt::Key_Escape);
     EXPECT_EQ(result, QDialog::Rejected);
-    EXPECT_EQ(dialog->Chosen(), items.items[1]);
-    EXPECT_EQ(dialog->Items().chosen, 2);
-    EXPECT_EQ(dialog->Items().items.size(), 4U);
+    EXPECT_EQ(dialog->chosenItem(), items.items[1]);
+    EXPECT_EQ(dialog->items().chosen, 2);
+    EXPECT_EQ(dialog->items().items.size(), 4U);
 }
+
+}  // namespace wirepane

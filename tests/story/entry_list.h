@@ -4,6 +4,8 @@
 
 #include "headline_list/entry_source.h"
 
+namespace wirepane {
+
 // An owner of one headline list, number 3, whose mode looks at services 1 and 2.
 class EntryList : public EntrySource {
 public:
@@ -23,3 +25,5 @@ public:
     std::vector<CHeadlineTable> entries;
     std::vector<unsigned char> active{1, 2};
 };
+
+}  // namespace wirepane

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 static void PrintTo(const TextRange& range, std::ostream* out) {
     *out << range.start << ".." << range.end;
 }
@@ -44,8 +46,8 @@ TEST(KeywordMatch, TheLastMatchOfTheLastKeywordStays) {
         {"no keywords", {}, {}},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(LastMatch(text, c.keywords), c.expected) << c.what;
-    EXPECT_EQ(LastMatch({}, {u"a"_s}), std::nullopt);
+        EXPECT_EQ(lastKeywordMatch(text, c.keywords), c.expected) << c.what;
+    EXPECT_EQ(lastKeywordMatch({}, {u"a"_s}), std::nullopt);
 }
 
 TEST(KeywordMatch, AgreesWithTheWalk) {
@@ -63,7 +65,9 @@ TEST(KeywordMatch, AgreesWithTheWalk) {
         const std::vector<QString> keywords{word(random() % 3), word(random() % 4), word(random() % 5)};
         const auto expected = walk(text, keywords);
         found += expected ? 1 : 0;
-        EXPECT_EQ(LastMatch(text, keywords), expected) << text.toStdString();
+        EXPECT_EQ(lastKeywordMatch(text, keywords), expected) << text.toStdString();
     }
     EXPECT_GT(found, 500);
 }
+
+}  // namespace wirepane

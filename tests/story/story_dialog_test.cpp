@@ -18,6 +18,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 constexpr int list = 3;
@@ -41,17 +43,17 @@ public:
         asked.append(u"go %1 %2"_s.arg(number).arg(row));
         return true;
     }
-    int iRowOf(int number, const CHeadlineTable& headline) const override {
+    int rowOf(int number, const CHeadlineTable& headline) const override {
         for (int row = 0; row < iGetHeadlineTableSize(number); ++row) {
-            if (KeyOf(entries[static_cast<std::size_t>(row)]) == KeyOf(headline))
+            if (keyOf(entries[static_cast<std::size_t>(row)]) == keyOf(headline))
                 return row;
         }
         return -1;
     }
-    void PrintHeadline(const CHeadlineTable& headline) override {
+    void printHeadline(const CHeadlineTable& headline) override {
         asked.append(u"print %1"_s.arg(headline.sequence));
     }
-    void SaveHeadline(const CHeadlineTable& headline) override {
+    void saveHeadline(const CHeadlineTable& headline) override {
         asked.append(u"save %1"_s.arg(headline.sequence));
     }
 
@@ -62,23 +64,23 @@ public:
 
 class Frame : public CMainFrame {
 public:
-    QWidget* pGetWindow() override { return &window; }
-    void OnStoryWindowClosed() override { ++closed; }
+    QWidget* frameWindow() override { return &window; }
+    void onStoryWindowClosed() override { ++closed; }
 
     QWidget window;
     int closed = 0;
 };
 
 MyRichEdit* edit(const QWidget& dialog, int id) {
-    return qobject_cast<MyRichEdit*>(GetDlgItem(&dialog, id));
+    return qobject_cast<MyRichEdit*>(dlgItem(&dialog, id));
 }
 
 QString title(const QWidget& dialog) {
-    return edit(dialog, story_ids::title)->szGetText();
+    return edit(dialog, story_ids::title)->literalText();
 }
 
 QString story(const QWidget& dialog) {
-    return edit(dialog, story_ids::storyText)->szGetText();
+    return edit(dialog, story_ids::storyText)->literalText();
 }
 
 class StoryDialogTest : public testing::Test {
@@ -96,7 +98,7 @@ protected:
         }
         view.resize(400, 300);
     }
-    void click(TRVNewsStory& dialog, int id) { QTest::mouseClick(GetDlgItem(&dialog, id), Qt::LeftButton); }
+    void click(TRVNewsStory& dialog, int id) { QTest::mouseClick(dlgItem(&dialog, id), Qt::LeftButton); }
 
     FakeBackEnd backEnd;
     Owner owner;
@@ -138,14 +140,14 @@ TEST_F(StoryDialogTest, WaitsForItsStoryLikeThePane) {
     dialog.vSetStoryData(list, 0, condition);
     EXPECT_EQ(story(dialog), u"Fetching"_s);
     dialog.vStoryUpdateNotify(nullptr);
-    EXPECT_FALSE(GetDlgItem(&dialog, story_ids::updateNotice)->isHidden());
+    EXPECT_FALSE(dlgItem(&dialog, story_ids::updateNotice)->isHidden());
     backEnd.storyAtHand = true;
     dialog.RespStory(owner.entries[1]);
     EXPECT_EQ(story(dialog), u"Fetching"_s) << "of another headline";
     dialog.RespStory(owner.entries[0]);
     EXPECT_EQ(story(dialog), u"2026/03/02 09:09:00 \r\nStory 1\r\nrates \r\n\r\nEnd."_s);
     EXPECT_EQ(edit(dialog, story_ids::storyText)->textCursor().selectedText(), u"rates"_s);
-    EXPECT_TRUE(GetDlgItem(&dialog, story_ids::updateNotice)->isHidden());
+    EXPECT_TRUE(dlgItem(&dialog, story_ids::updateNotice)->isHidden());
 }
 
 TEST_F(StoryDialogTest, ItsHeadlineIsTheOneOnShowWhereverItStandsByNow) {
@@ -201,7 +203,7 @@ TEST_F(StoryDialogTest, ItsPartsShareTheWindow) {
     int right = 690;
     for (const int id : {story_ids::previousButton, story_ids::nextButton, story_ids::saveAsButton,
                          story_ids::printButton}) {
-        const QRect button = GetDlgItem(&dialog, id)->geometry();
+        const QRect button = dlgItem(&dialog, id)->geometry();
         EXPECT_EQ(button.left() + button.width(), right);
         EXPECT_EQ(button.top(), 465);
         right = button.left() - 9;
@@ -216,12 +218,12 @@ TEST_F(StoryDialogTest, TheNoticeAndTheFontMoveTheParts) {
     font.setPixelSize(21);
     dialog.vSetFont(font);
     for (const int id : {story_ids::title, story_ids::storyText, story_ids::updateNotice})
-        EXPECT_EQ(static_cast<QWidget*>(GetDlgItem(&dialog, id))->font().pixelSize(), 21);
+        EXPECT_EQ(static_cast<QWidget*>(dlgItem(&dialog, id))->font().pixelSize(), 21);
     const QRect titlePlace = edit(dialog, story_ids::title)->geometry();
     const QRect storyPlace = edit(dialog, story_ids::storyText)->geometry();
     EXPECT_EQ(titlePlace.height(), 2 * edit(dialog, story_ids::title)->fontMetrics().lineSpacing() + 10);
     dialog.vStoryUpdateNotify(nullptr);
-    const QRect notice = GetDlgItem(&dialog, story_ids::updateNotice)->geometry();
+    const QRect notice = dlgItem(&dialog, story_ids::updateNotice)->geometry();
     EXPECT_EQ(notice, QRect(10, 10, 680, QFontMetrics(font).height()));
     EXPECT_EQ(edit(dialog, story_ids::title)->geometry(), titlePlace.translated(0, notice.height()));
     EXPECT_EQ(edit(dialog, story_ids::storyText)->geometry(), storyPlace.adjusted(0, notice.height(), 0, 0));
@@ -242,10 +244,10 @@ TEST_F(StoryDialogTest, HasNoKeysOfItsOwnAndNamesItsParts) {
     EXPECT_TRUE(owner.asked.isEmpty()) << owner.asked.join(u' ').toStdString();
     EXPECT_TRUE(dialog.isVisible());
     // Tab reads on from the story: print, save as, next, previous.
-    const QWidget* last = GetDlgItem(&dialog, story_ids::printButton);
+    const QWidget* last = dlgItem(&dialog, story_ids::printButton);
     for (const int id : {story_ids::saveAsButton, story_ids::nextButton, story_ids::previousButton}) {
-        EXPECT_EQ(last->nextInFocusChain(), GetDlgItem(&dialog, id));
-        last = GetDlgItem(&dialog, id);
+        EXPECT_EQ(last->nextInFocusChain(), dlgItem(&dialog, id));
+        last = dlgItem(&dialog, id);
     }
 }
 
@@ -278,7 +280,7 @@ TEST_F(StoryDialogTest, ABareWindowShowsWhatTheMainFrameGivesIt) {
     dialog.show();
     for (const int id :
          {story_ids::previousButton, story_ids::nextButton, story_ids::saveAsButton, story_ids::printButton})
-        EXPECT_TRUE(GetDlgItem(&dialog, id)->isHidden());
+        EXPECT_TRUE(dlgItem(&dialog, id)->isHidden());
     EXPECT_EQ(edit(dialog, story_ids::storyText)->geometry().bottom(), 389);
     dialog.vMainFrameShowHeadline(u"Breaking"_s);
     EXPECT_EQ(title(dialog), u"Breaking"_s);
@@ -295,3 +297,5 @@ TEST_F(StoryDialogTest, ABareWindowShowsWhatTheMainFrameGivesIt) {
     dialog.close();
     EXPECT_EQ(frame.closed, 1);
 }
+
+}  // namespace wirepane

@@ -18,13 +18,15 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 constexpr int list = EntryList::number;
 
 class Scheme : public CSyncInfo {
 public:
-    Scheme() { SetSettingCFG(this); }
+    Scheme() { setSettingCFG(this); }
     QColor SYS_crGetOtherColor(const QString& name) override { return colours.value(name); }
     QFont SYS_fntGetViewFont() override { return font; }
 
@@ -57,12 +59,12 @@ protected:
         backEnd.add(entry.service, entry.time, entry.sequence, title);
         backEnd.addStory({entry.time, story, entry});
     }
-    MyRichEdit* edit(int id) const { return static_cast<MyRichEdit*>(GetDlgItem(pane, id)); }
-    QString title() const { return edit(story_ids::title)->szGetText(); }
-    QString story() const { return edit(story_ids::storyText)->szGetText(); }
+    MyRichEdit* edit(int id) const { return static_cast<MyRichEdit*>(dlgItem(pane, id)); }
+    QString title() const { return edit(story_ids::title)->literalText(); }
+    QString story() const { return edit(story_ids::storyText)->literalText(); }
     QTextCursor selection() const { return edit(story_ids::storyText)->textCursor(); }
     CQuoteStaticEx* notice() const {
-        return static_cast<CQuoteStaticEx*>(GetDlgItem(pane, story_ids::updateNotice));
+        return static_cast<CQuoteStaticEx*>(dlgItem(pane, story_ids::updateNotice));
     }
 
     const CHeadlineTable first{localTime(2026, 3, 2, 9, 30), 7, 1, 0, 0};
@@ -240,3 +242,5 @@ TEST_F(StoryPaneTest, TakesANewSchemeAndFont) {
     EXPECT_EQ(edit(story_ids::title)->height(), 3 * QFontMetrics(larger).height());
     EXPECT_EQ(edit(story_ids::storyText)->font().pixelSize(), 31);
 }
+
+}  // namespace wirepane

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 static void PrintTo(const StoryTexts& texts, std::ostream* out) {
     *out << "title: " << texts.title.value_or(u"(none)"_s).toStdString()
          << "\nstory: " << texts.story.value_or(u"(none)"_s).toStdString() << "\nawaited: " << texts.awaited;
@@ -28,7 +30,7 @@ protected:
                          {u"IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS"_s, u"资讯"_s},
                          {u"IDS_NEWSCTRLVIEW_STRING_REPLASE_MESSAGE"_s, u"信息"_s}};
         owner.entries = {first, second};
-        reader.vSetSource(&owner);
+        reader.showSource(&owner);
     }
     void giveHeadline(const CHeadlineTable& entry, const QString& title) {
         backEnd.add(entry.service, entry.time, entry.sequence, title);
@@ -38,7 +40,7 @@ protected:
     }
     StoryTexts show(int position) {
         reader.vSetStoryData(list, position);
-        return reader.ShowData();
+        return reader.showData();
     }
 
     const CHeadlineTable first{localTime(2026, 3, 2, 9, 30), 7, 1, 11, 12};
@@ -161,10 +163,12 @@ TEST_F(StoryReaderTest, ThePositionMovesWithItsHeadline) {
     giveStory(second, u"Body"_s);
     show(-5);
     EXPECT_EQ(reader.GetHeadLinePos(), 0);
-    EXPECT_EQ(reader.iGetTable(), list);
+    EXPECT_EQ(reader.listNumber(), list);
     show(1);
     owner.entries.insert(owner.entries.begin(), {first.time + 60, 8, 1, 0, 0});
     reader.RecvNewHeadLine();
     EXPECT_EQ(reader.GetHeadLinePos(), 2);
     EXPECT_NE(reader.RespStory(second), nothing);
 }
+
+}  // namespace wirepane

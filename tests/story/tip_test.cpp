@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+namespace wirepane {
+
 namespace {
 
 class TipTest : public testing::Test {
@@ -31,7 +33,7 @@ protected:
         tip.vSetInfo(nullptr, text, Qt::white, Qt::darkRed, ms);
         tip.vShow(&grid, top, left, toTheLeft);
     }
-    QString shownText() const { return static_cast<QLabel*>(GetDlgItem(&tip, story_ids::tipText))->text(); }
+    QString shownText() const { return static_cast<QLabel*>(dlgItem(&tip, story_ids::tipText))->text(); }
 
     QWidget window;
     QWidget grid{&window};
@@ -121,7 +123,7 @@ TEST_F(TipTest, IsAsHighAsItsFontNeedsAndNoLowerThanOthers) {
         tip.vSetFont(font);
         show(QStringLiteral("abc"), 1000);
         EXPECT_EQ(tip.height(), std::max(22, QFontMetrics(font).height() + 8));
-        const auto* label = static_cast<QLabel*>(GetDlgItem(&tip, story_ids::tipText));
+        const auto* label = static_cast<QLabel*>(dlgItem(&tip, story_ids::tipText));
         EXPECT_EQ(label->font().pixelSize(), pixels);
         EXPECT_EQ(label->geometry(), QRect(QPoint(0, 0), tip.size()));
     }
@@ -146,7 +148,7 @@ TEST_F(TipTest, ADialogOfItsWindowIsNoOtherWindow) {
 
 TEST_F(TipTest, IsPaintedInTheColoursThatItWasGiven) {
     show(QStringLiteral("abc"), 1000);
-    const auto* label = static_cast<QLabel*>(GetDlgItem(&tip, story_ids::tipText));
+    const auto* label = static_cast<QLabel*>(dlgItem(&tip, story_ids::tipText));
     EXPECT_EQ(label->palette().color(QPalette::WindowText), QColor(Qt::white));
     EXPECT_EQ(label->palette().color(QPalette::Window), QColor(Qt::darkRed));
 }
@@ -159,3 +161,5 @@ TEST_F(TipTest, NeverShowsOverAnotherWindow) {
     EXPECT_FALSE(tip.isVisible());
     EXPECT_EQ(tip.parentWidget(), &window);
 }
+
+}  // namespace wirepane

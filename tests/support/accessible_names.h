@@ -7,9 +7,11 @@
 
 #include <gtest/gtest.h>
 
+namespace wirepane {
+
 // Every control in a window that the keyboard reaches has a role and a name for a screen reader; answers how
 // many there are. What stands in lists and tables is not looked at.
-inline int CheckAccessibleNames(QAccessibleInterface& of) {
+inline int checkAccessibleNames(QAccessibleInterface& of) {
     int seen = 0;
     const QAccessible::State state = of.state();
     const QAccessible::Role role = of.role();
@@ -24,11 +26,13 @@ inline int CheckAccessibleNames(QAccessibleInterface& of) {
     for (int i = 0; i < of.childCount(); ++i) {
         QAccessibleInterface* child = of.child(i);
         if (child != nullptr && child->object() != nullptr)
-            seen += CheckAccessibleNames(*child);
+            seen += checkAccessibleNames(*child);
     }
     return seen;
 }
 
-inline int CheckAccessibleNames(QWidget& window) {
-    return CheckAccessibleNames(*QAccessible::queryAccessibleInterface(&window));
+inline int checkAccessibleNames(QWidget& window) {
+    return checkAccessibleNames(*QAccessible::queryAccessibleInterface(&window));
 }
+
+}  // namespace wirepane

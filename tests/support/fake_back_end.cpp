@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace wirepane {
+
 void FakeBackEnd::add(unsigned char service, std::int64_t time, std::int32_t sequence, const QString& title,
                       std::int32_t category, const QString& symbol, bool atHand) {
     CHeadline headline;
@@ -28,7 +30,7 @@ void FakeBackEnd::makeAllAtHand() {
         piece.atHand = true;
 }
 
-void FakeBackEnd::RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
+void FakeBackEnd::registerSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                                   const std::vector<CSymbolInfo>& removed) {
     for (const CSymbolInfo& symbol : added) {
         if (symbol.code.isEmpty())
@@ -44,7 +46,7 @@ void FakeBackEnd::RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolI
     }
 }
 
-void FakeBackEnd::UnregisterSymbols(NewsReceiver* view) {
+void FakeBackEnd::unregisterSymbols(NewsReceiver* view) {
     registrations.erase(view);
     followed.erase(view);
 }
@@ -228,7 +230,7 @@ int FakeBackEnd::BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadli
     for (const CHeadlineTable& entry : entries) {
         sequences.append(QString::number(entry.sequence));
         const auto piece = std::find_if(pieces.begin(), pieces.end(), [&](const Piece& candidate) {
-            return KeyOf(candidate.headline) == KeyOf(entry);
+            return keyOf(candidate.headline) == keyOf(entry);
         });
         if (piece == pieces.end() || !piece->atHand || entry.service != service)
             continue;
@@ -242,7 +244,7 @@ int FakeBackEnd::BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadli
 bool FakeBackEnd::BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) {
     asked.append(QStringLiteral("story %1 %2").arg(entry.service).arg(entry.sequence));
     const auto found = std::find_if(stories.rbegin(), stories.rend(), [&](const CStory& candidate) {
-        return KeyOf(candidate.entry) == KeyOf(entry);
+        return keyOf(candidate.entry) == keyOf(entry);
     });
     if (!storyAtHand || found == stories.rend())
         return false;
@@ -259,3 +261,5 @@ void FakeBackEnd::LangConvertToSimplifiedChinese(const QString& in, QString& out
 std::int64_t localTime(int year, int month, int day, int hour, int minute, int second) {
     return QDateTime(QDate(year, month, day), QTime(hour, minute, second)).toSecsSinceEpoch();
 }
+
+}  // namespace wirepane

@@ -13,13 +13,15 @@
 #include <set>
 #include <vector>
 
+namespace wirepane {
+
 // A back end for tests: holds headlines in memory, answers like a real one, and writes down what it was
 // asked.
 class FakeBackEnd : public BKQuoteInterface, public SearchControl {
 public:
     FakeBackEnd() {
-        SetBKInterface(this);
-        SetSearchObjInterface(this);
+        setBKInterface(this);
+        setSearchObjInterface(this);
     }
 
     // Adds a headline; `atHand` false: its table entry is known, its title is not.
@@ -55,9 +57,9 @@ public:
     std::map<unsigned char, std::vector<CHeadlineTable>> secondSearchTables;             // of the other kind
     QStringList candidates;  // for whatever is typed into a symbol search
 
-    void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
+    void registerSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                          const std::vector<CSymbolInfo>& removed) override;
-    void UnregisterSymbols(NewsReceiver* view) override;
+    void unregisterSymbols(NewsReceiver* view) override;
     bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& out) override;
     bool BKQNEWS_bGetFullNameByService(QString& name, unsigned char service) override;
     QString BKQNEWS_cszGetCurrDateByService(unsigned char service) override;
@@ -116,3 +118,5 @@ private:
 
 // Seconds since 1970 of a local time; the tests run in UTC+8.
 std::int64_t localTime(int year, int month, int day, int hour, int minute, int second = 0);
+
+}  // namespace wirepane

@@ -6,6 +6,8 @@
 
 #include <cstddef>
 
+namespace wirepane {
+
 // What each method means, told as plainly as can be: whether a text fits that holds `held` of `asked`
 // keywords. Searches are compared with it on random conditions of every method.
 inline bool fitsKeywords(SearchMethod method, std::size_t held, std::size_t asked) {
@@ -18,3 +20,5 @@ inline bool fitsKeywords(SearchMethod method, std::size_t held, std::size_t aske
     }
     return held > 0;
 }
+
+}  // namespace wirepane

@@ -6,7 +6,11 @@
 
 #include <ostream>
 
+namespace wirepane {
+
 // Failures show texts as texts.
 inline void PrintTo(const QString& text, std::ostream* out) {
     *out << '"' << text.toStdString() << '"';
 }
+
+}  // namespace wirepane

@@ -34,7 +34,7 @@ protected:
     LiveFeedStatesTest() {
         host_clock::startAt(moment(u"2026-03-02T12:00:00"_s));
         backEnd->forgetNewsDays();
-        backEnd->Attach(&listener);
+        backEnd->attach(&listener);
         feed = std::make_unique<LiveFeed>(*backEnd);
         QObject::connect(feed.get(), &LiveFeed::stateChanged, feed.get(), [this] { states += nameOf(); });
         QObject::connect(feed.get(), &LiveFeed::trouble, feed.get(),
@@ -43,7 +43,7 @@ protected:
             SpoolSource::open(folder.filePath(u"spool"_s), {std::chrono::milliseconds(0), 1'000'000, {}})
                 .value()));
     }
-    ~LiveFeedStatesTest() override { backEnd->Detach(&listener); }
+    ~LiveFeedStatesTest() override { backEnd->detach(&listener); }
 
     QString trouble() const {
         const auto error = feed->state().trouble;
@@ -219,7 +219,7 @@ TEST_F(LiveFeedStatesTest, AStoreThatIsTakenAwayTakesNoNewsWithIt) {
 }
 
 TEST_F(LiveFeedStatesTest, AStoreThatCanOnlyBeReadIsSaidToBeSoOnce) {
-    backEnd->Detach(&listener);
+    backEnd->detach(&listener);
     feed.reset();
     backEnd = std::make_unique<EmbeddedBackEnd>(
         std::move(Database::openToRead(store, std::chrono::seconds(1)).value()));

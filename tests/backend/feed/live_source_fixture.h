@@ -100,13 +100,13 @@ protected:
 
     void open() {
         backEnd = std::move(EmbeddedBackEnd::open(storeFile).value());
-        backEnd->Attach(&listener);
+        backEnd->attach(&listener);
         feed = std::make_unique<LiveFeed>(*backEnd);
     }
     // As a kill does: what is on its way is dropped.
     void end() {
         feed.reset();
-        backEnd->Detach(&listener);
+        backEnd->detach(&listener);
         backEnd.reset();
     }
     QStringList told() const { return listener.heard.filter(u"News "_s); }

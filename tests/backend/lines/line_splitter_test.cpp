@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace wirepane;
+namespace wirepane {
 
 namespace {
 
@@ -52,3 +52,5 @@ TEST(LineSplitterTest, AnOverlongLineIsRefusedOnceAndTheNextOneCounts) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

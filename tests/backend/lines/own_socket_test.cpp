@@ -21,7 +21,8 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -195,3 +196,5 @@ TEST(OwnSocketTest, OtherUsersAreNeitherServedNorTrusted) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

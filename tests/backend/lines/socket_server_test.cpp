@@ -12,7 +12,8 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -188,3 +189,5 @@ TEST(SocketServerTest, AClientThatTakesNoAnswersIsNotListenedTo) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

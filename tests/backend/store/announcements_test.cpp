@@ -23,9 +23,9 @@ public:
     AnnouncementsTest() : backEnd(std::move(openStore(store->path()).value())) {
         host_clock::startAt(at(23, 0));
         backEnd.forgetNewsDays();
-        backEnd.Attach(&listener);
+        backEnd.attach(&listener);
     }
-    ~AnnouncementsTest() override { backEnd.Detach(&listener); }
+    ~AnnouncementsTest() override { backEnd.detach(&listener); }
 
 protected:
     QStringList heard() { return std::exchange(listener.heard, {}); }
@@ -79,19 +79,19 @@ TEST_F(AnnouncementsTest, TheFirstNewsOfADayReportsItByWhateverRoadItComes) {
 }
 
 TEST_F(AnnouncementsTest, WhoRegistersAServiceIsToldTheDayThatItHasReported) {
-    backEnd.RegisterSymbols(&listener, {{1, {}}}, {});
+    backEnd.registerSymbols(&listener, {{1, {}}}, {});
     host_clock::startAt(at(0, 1) + daySeconds);
     backEnd.startNewsDay({1, 20260303});
     heard();
     Listener gone;
-    backEnd.Attach(&gone);
-    backEnd.RegisterSymbols(&listener, {{1, {}}, {2, {}}}, {});
-    backEnd.RegisterSymbols(&gone, {{1, {}}}, {});
-    backEnd.Detach(&gone);
+    backEnd.attach(&gone);
+    backEnd.registerSymbols(&listener, {{1, {}}, {2, {}}}, {});
+    backEnd.registerSymbols(&gone, {{1, {}}}, {});
+    backEnd.detach(&gone);
     QCoreApplication::processEvents();
     EXPECT_EQ(heard(), QStringList()) << "registered already, nothing reported";
-    backEnd.RegisterSymbols(&listener, {}, {{1, {}}});
-    backEnd.RegisterSymbols(&listener, {{1, {}}}, {});
+    backEnd.registerSymbols(&listener, {}, {{1, {}}});
+    backEnd.registerSymbols(&listener, {{1, {}}}, {});
     EXPECT_EQ(heard(), QStringList()) << "not during the call";
     QCoreApplication::processEvents();
     EXPECT_EQ(heard(), QStringList{u"day 20260303 of 1"_s});
@@ -171,16 +171,16 @@ TEST_F(AnnouncementsTest, ReceiversMayLeaveWhileTablesAreTold) {
         void vRecvAllHeadlineTableRecovery(const CHeadlineTableInfo* info) override {
             Listener::vRecvAllHeadlineTableRecovery(info);
             for (NewsReceiver* receiver : leaving)
-                backEnd.Detach(receiver);
-            backEnd.Detach(this);
+                backEnd.detach(receiver);
+            backEnd.detach(this);
         }
         EmbeddedBackEnd& backEnd;
         std::vector<NewsReceiver*> leaving;
     };
     auto behind = std::make_unique<Listener>();
     Leaving first(backEnd, {behind.get()});
-    backEnd.Attach(&first);
-    backEnd.Attach(behind.get());
+    backEnd.attach(&first);
+    backEnd.attach(behind.get());
     takeAll({newsItem(1, u"a"_s, at(9, 0) - daySeconds, u"Old"_s)});
     backEnd.setConnected(false);
     EXPECT_FALSE(QTest::qWaitFor([this] { return backEnd.isDelivered(); }, 100))
@@ -196,29 +196,29 @@ TEST_F(AnnouncementsTest, APositionTellsWhetherAReadHeldWhatIsTold) {
     struct Positions : NewsReceiver {
         explicit Positions(NewsPositions& store) : backEnd(store) {}
         void RecvNewHeadLine(const CHeadline*, const QString&, const QString&) override {
-            told.push_back(backEnd.ToldPosition());
+            told.push_back(backEnd.positionTold());
         }
         NewsPositions& backEnd;
         std::vector<std::int64_t> told;
     } positions(backEnd);
-    backEnd.Attach(&positions);
-    EXPECT_EQ(backEnd.ReadPosition(), 0);
+    backEnd.attach(&positions);
+    EXPECT_EQ(backEnd.readPosition(), 0);
     const NewsItem item = newsItem(1, u"a"_s, at(9, 0), u"A"_s);
     takeAll({item, newsItem(1, u"b"_s, at(8, 0), u"B"_s)});
-    const std::int64_t before = backEnd.ReadPosition();
+    const std::int64_t before = backEnd.readPosition();
     backEnd.setConnected(false);
     NewsItem again = item;
     ++again.version;
     takeNews(again);
-    const std::int64_t during = backEnd.ReadPosition();
+    const std::int64_t during = backEnd.readPosition();
     backEnd.setConnected(true);
     ASSERT_EQ(positions.told.size(), 3u);
     EXPECT_LT(positions.told[0], positions.told[1]);
     EXPECT_EQ(positions.told[1], before);
     EXPECT_EQ(positions.told[2], during);
     EXPECT_GT(during, before);
-    EXPECT_EQ(backEnd.ToldPosition(), 0);
-    backEnd.Detach(&positions);
+    EXPECT_EQ(backEnd.positionTold(), 0);
+    backEnd.detach(&positions);
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ TEST(EmbeddedBackEndConformance, KeepsEveryDuty) {
     }
     std::vector<CHeadlineTable> day;
     ASSERT_EQ(backEnd.BKQNEWS_iGetHeadlineTable(1, day, 0, u"20260302"_s), 6) << "nothing to check";
-    const std::vector<QString> broken = BrokenDuties(backEnd);
+    const std::vector<QString> broken = brokenDuties(backEnd);
     EXPECT_EQ(QStringList(broken.begin(), broken.end()).join(u'\n').toStdString(), "");
 }
 
@@ -48,7 +48,7 @@ TEST(EmbeddedBackEndConformance, TellsEveryKeyThatIsGone) {
         }
     };
     takeAll();
-    const std::vector<QString> broken = BrokenDutiesOfReplacing(backEnd, [&] {
+    const std::vector<QString> broken = brokenDutiesOfReplacing(backEnd, [&] {
         items[0].title = u"Coffee"_s;  // the same key
         items[1].time = at(11, 0);
         items[2].time -= 86400;

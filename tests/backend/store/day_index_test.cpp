@@ -71,7 +71,7 @@ TEST_F(DayIndexTest, ADayIsTheLocalDayAlsoAfterAMoveToAnotherZone) {
     std::vector<CHeadlineTable> table;
     EXPECT_EQ(index.append(table, 1, monday), 864);
     EXPECT_EQ(table.front().time, at(23, 58, 20));
-    EXPECT_EQ(KeyOf(table.back()), (HeadlineKey{at(0, 0), 1, 1}));
+    EXPECT_EQ(keyOf(table.back()), (HeadlineKey{at(0, 0), 1, 1}));
     const std::int64_t lastOfUtcDay = at(7, 58, 20);
     const TimeZone utc("UTC");
     table.clear();

@@ -20,9 +20,9 @@ class EmbeddedBackEndTest : public StoreFixture {
 public:
     EmbeddedBackEndTest() : backEnd(std::move(openStore(store->path()).value())) {
         host_clock::startAt(at(12, 0));
-        backEnd.Attach(&listener);
+        backEnd.attach(&listener);
     }
-    ~EmbeddedBackEndTest() override { backEnd.Detach(&listener); }
+    ~EmbeddedBackEndTest() override { backEnd.detach(&listener); }
 
 protected:
     Take takeIn(const StoreItem& item) {
@@ -130,7 +130,7 @@ TEST_F(EmbeddedBackEndTest, ReceiversAreToldOfWhatChangedAndOfNothingElse) {
     CStory story;
     ASSERT_TRUE(backEnd.BKQNEWS_bGetStory(story, moved));
     EXPECT_EQ(story.text, u"The plant.@@@@It shut."_s);
-    EXPECT_EQ(KeyOf(story.entry), KeyOf(moved));
+    EXPECT_EQ(keyOf(story.entry), keyOf(moved));
     const CHeadlineTable old{at(11, 0), 1, 16, 0, 0};
     EXPECT_EQ(titles(16, {old, moved}), QStringList{u"Plant reopened"_s});
     story.text = u"kept"_s;
@@ -184,10 +184,10 @@ TEST_F(EmbeddedBackEndTest, RequestsAndRegistrationsAreWrittenDown) {
     EXPECT_EQ(asked.front().arguments.last(), u"1"_s);
     EXPECT_TRUE(backEnd.takeRequests().empty());
 
-    backEnd.RegisterSymbols(&listener, {{16, {}}, {1, {}}, {2, u"code"_s}}, {});
-    backEnd.RegisterSymbols(&listener, {{52, {}}}, {{1, {}}});
+    backEnd.registerSymbols(&listener, {{16, {}}, {1, {}}, {2, u"code"_s}}, {});
+    backEnd.registerSymbols(&listener, {{52, {}}}, {{1, {}}});
     EXPECT_EQ(backEnd.registeredServices(&listener), (std::vector<unsigned char>{16, 52}));
-    backEnd.Detach(&listener);
+    backEnd.detach(&listener);
     EXPECT_TRUE(backEnd.registeredServices(&listener).empty());
 }
 

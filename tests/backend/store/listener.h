@@ -16,10 +16,10 @@ using namespace Qt::StringLiterals;
 // Writes down what it is told.
 class Listener : public NewsReceiver, public GoneHeadlineReceiver {
 public:
-    void vHeadlineReplaced(const CHeadline* headline, const QString&, const QString&) override {
+    void headlineReplaced(const CHeadline* headline, const QString&, const QString&) override {
         replaced += u"%1/%2 %3"_s.arg(headline->service).arg(headline->sequence).arg(headline->title);
     }
-    void vHeadlineGone(const HeadlineKey& key) override {
+    void headlineGone(const HeadlineKey& key) override {
         const QString time = QDateTime::fromSecsSinceEpoch(key.time).toString(u"HH:mm"_s);
         heard += u"gone %1/%2 %3"_s.arg(key.service).arg(key.sequence).arg(time);
     }

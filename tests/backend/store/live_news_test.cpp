@@ -24,9 +24,9 @@ public:
     LiveNewsTest() : backEnd(std::move(openStore(store->path()).value())) {
         host_clock::startAt(at(12, 0));
         backEnd.forgetNewsDays();
-        backEnd.Attach(&listener);
+        backEnd.attach(&listener);
     }
-    ~LiveNewsTest() override { backEnd.Detach(&listener); }
+    ~LiveNewsTest() override { backEnd.detach(&listener); }
 
 protected:
     void takeIn(const NewsItem& item) {
@@ -253,7 +253,7 @@ TEST_F(LiveNewsTest, TwoTerminalsOnOneStoreLoseNothingAndHearEachOther) {
     ASSERT_TRUE(opened);
     EmbeddedBackEnd& other = *opened.value();
     Listener otherListener;
-    other.Attach(&otherListener);
+    other.attach(&otherListener);
     std::mt19937 random(20260302);
     for (int i = 0; i < 300; ++i) {
         EmbeddedBackEnd& taking = random() % 2 == 0 ? backEnd : other;
@@ -283,7 +283,7 @@ TEST_F(LiveNewsTest, TwoTerminalsOnOneStoreLoseNothingAndHearEachOther) {
     EXPECT_GT(mine.size(), 100u);
     EXPECT_TRUE(
         std::equal(mine.begin(), mine.end(), theirs.begin(), theirs.end(),
-                   [](const CHeadlineTable& a, const CHeadlineTable& b) { return KeyOf(a) == KeyOf(b); }));
+                   [](const CHeadlineTable& a, const CHeadlineTable& b) { return keyOf(a) == keyOf(b); }));
     EXPECT_EQ(rows("SELECT count(*) FROM headlines"), QStringList{QString::number(mine.size())});
     const QStringList titles = rows("SELECT sequence, title FROM headlines");
     for (const QString& row : titles) {
@@ -292,7 +292,7 @@ TEST_F(LiveNewsTest, TwoTerminalsOnOneStoreLoseNothingAndHearEachOther) {
         EXPECT_TRUE(otherListener.heard.contains(said)) << row.toStdString();
     }
     EXPECT_EQ(StoreChecker(store->path()).check().value(), QStringList{});
-    other.Detach(&otherListener);
+    other.detach(&otherListener);
 }
 
 TEST_F(LiveNewsTest, AClockThatIsSetNumbersAndTellsNewsAllTheSame) {
@@ -342,7 +342,7 @@ TEST_F(LiveNewsTest, AStoryCanComeAfterItsHeadlineAndChange) {
     takeIn(newsItem(1, u"a"_s, at(10, 0), u"Merger of Taishin"_s));
     heard();
     const CHeadlineTable entry{at(10, 0), 1, 1, 0, 0};
-    const HeadlineKey key = KeyOf(entry);
+    const HeadlineKey key = keyOf(entry);
     const auto put = [&](const HeadlineKey& of, const QString& text) {
         const Result<TakeOutcome> outcome = backEnd.takeStory(of, text);
         EXPECT_TRUE(outcome);
@@ -390,7 +390,7 @@ TEST_F(LiveNewsTest, ThatThereIsNoStoryIsToldBeforeItCanBeHad) {
     EXPECT_EQ(heard(), (QStringList{u"story 1"_s, u"story 2"_s, u"story 9"_s})) << "each is answered";
     EXPECT_EQ(found, (QStringList{QString(), u"-"_s, QString()})) << "the second is still to come";
     found.clear();
-    ASSERT_TRUE(backEnd.takeStory(KeyOf(none), u"After all"_s));
+    ASSERT_TRUE(backEnd.takeStory(keyOf(none), u"After all"_s));
     EXPECT_EQ(found, QStringList{u"After all"_s});
     // A day is as long as a promise holds.
     heard();

@@ -60,9 +60,9 @@ class QuotesTest : public StoreFixture {
 protected:
     QuotesTest() {
         backEnd = std::move(EmbeddedBackEnd::open(pathOf(u"quotes.wirepane"_s)).value());
-        backEnd->Attach(&listener);
+        backEnd->attach(&listener);
     }
-    ~QuotesTest() override { backEnd->Detach(&listener); }
+    ~QuotesTest() override { backEnd->detach(&listener); }
 
     Take put(const CSymbolInfo& symbol, double last, double change, std::int64_t volume) {
         const auto taken = backEnd->takeIn(QuoteItem{symbol.market, symbol.code, last, change, volume});
@@ -77,7 +77,7 @@ protected:
 TEST_F(QuotesTest, WhoRegistersGetsWhatIsKnownLaterAndThenEveryChange) {
     put(first, 600, 5, 100);
     EXPECT_EQ(listener.take(), QStringList());
-    backEnd->RegisterSymbols(&listener, {first, {16, {}}, {16, u"none"_s}}, {});
+    backEnd->registerSymbols(&listener, {first, {16, {}}, {16, u"none"_s}}, {});
     EXPECT_EQ(listener.heard, QStringList()) << "not during the call";
     EXPECT_EQ(listener.take(), QStringList(u"known 16:2330 600 5 100"_s));
 
@@ -86,33 +86,33 @@ TEST_F(QuotesTest, WhoRegistersGetsWhatIsKnownLaterAndThenEveryChange) {
     put(second, 300, -2, 7);
     EXPECT_EQ(listener.take(), QStringList(u"new 16:2330 601.5 6.5 120"_s)) << "the service is news alone";
 
-    backEnd->RegisterSymbols(&listener, {first, second}, {});
+    backEnd->registerSymbols(&listener, {first, second}, {});
     EXPECT_EQ(listener.take(),
               (QStringList{u"known of many 16:2330 601.5 6.5 120"_s, u"known of many 22:00700 300 -2 7"_s}));
-    backEnd->RegisterSymbols(&listener, {}, {first});
+    backEnd->registerSymbols(&listener, {}, {first});
     put(first, 1, 0, 1);
     put(second, 301, -1, 8);
     EXPECT_EQ(listener.take(), QStringList(u"new 22:00700 301 -1 8"_s));
-    backEnd->RegisterSymbols(&listener, {first}, {});
-    backEnd->UnregisterSymbols(&listener);
+    backEnd->registerSymbols(&listener, {first}, {});
+    backEnd->unregisterSymbols(&listener);
     put(second, 302, 0, 9);
     EXPECT_EQ(listener.take(), QStringList()) << "nor what it asked for before it left";
 }
 
 TEST_F(QuotesTest, AReceiverThatLeavesWhileOthersAreToldIsNotToldAnyMore) {
     QuoteListener other;
-    backEnd->Attach(&other);
+    backEnd->attach(&other);
     for (QuoteListener* receiver : {&listener, &other})
-        backEnd->RegisterSymbols(receiver, {first}, {});
+        backEnd->registerSymbols(receiver, {first}, {});
     QCoreApplication::processEvents();
-    listener.onNew = [&] { backEnd->Detach(&other); };
+    listener.onNew = [&] { backEnd->detach(&other); };
     put(first, 10, 1, 1);
     EXPECT_EQ(listener.take().size(), 1);
     EXPECT_EQ(other.take(), QStringList());
 }
 
 TEST_F(QuotesTest, AReceiverThatTakesQuotesInHearsThemInTheirOrder) {
-    backEnd->RegisterSymbols(&listener, {first, second}, {});
+    backEnd->registerSymbols(&listener, {first, second}, {});
     QCoreApplication::processEvents();
     listener.onNew = [&] {
         listener.onNew = nullptr;
@@ -127,7 +127,7 @@ TEST_F(QuotesTest, AReceiverThatTakesQuotesInHearsThemInTheirOrder) {
 }
 
 TEST_F(QuotesTest, ABreakAndOtherProgramsLoseNoQuote) {
-    backEnd->RegisterSymbols(&listener, {first, second}, {});
+    backEnd->registerSymbols(&listener, {first, second}, {});
     QCoreApplication::processEvents();
     backEnd->setConnected(false);
     put(first, 10, 1, 1);
@@ -170,7 +170,7 @@ TEST_F(QuotesTest, NumbersThatAreNoneOrOutOfRangeAreRejected) {
         EXPECT_FALSE(sentence(taken.value().reason.value()).isEmpty());
     }
     EXPECT_EQ(put({1, u"free"_s}, 0, 0, 0), Take::TakenIn) << "worth nothing, but a quote";
-    backEnd->RegisterSymbols(&listener, {first}, {});
+    backEnd->registerSymbols(&listener, {first}, {});
     EXPECT_EQ(listener.take(), QStringList(u"known 16:2330 10 1 1"_s));
 }
 

@@ -10,12 +10,12 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+namespace wirepane {
+
 // Lets failed comparisons show texts as texts.
 inline void PrintTo(const QString& text, std::ostream* out) {
     *out << '"' << text.toStdString() << '"';
 }
-
-namespace wirepane {
 
 // A real store in a folder of its own.
 class StoreFixture : public testing::Test {

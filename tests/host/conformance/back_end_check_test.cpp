@@ -11,6 +11,8 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
+namespace wirepane {
+
 namespace {
 
 enum class Fault {
@@ -122,28 +124,28 @@ public:
         return known;
     }
     bool BKQNews_bReRequestHeadlineStory(const CHeadlineTable& entry) override {
-        return answer([this, entry] { ForEachReceiver([&](NewsReceiver& view) { view.RespStory(entry); }); });
+        return answer([this, entry] { forEachReceiver([&](NewsReceiver& view) { view.RespStory(entry); }); });
     }
     bool BKQNEWS_bSearchNews(unsigned char service, int, const CSearch& condition) override {
         return answer([this, service, condition] {
-            ForEachReceiver([&](NewsReceiver& view) { view.RespSearchHeadLineTable(condition, service); });
+            forEachReceiver([&](NewsReceiver& view) { view.RespSearchHeadLineTable(condition, service); });
         });
     }
 
-    void RegisterSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
+    void registerSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                          const std::vector<CSymbolInfo>& removed) override {
         if (!removed.empty())
-            vLeave(view, Fault::QuoteAfterLeaving);
+            leave(view, Fault::QuoteAfterLeaving);
         if (added.empty() || (is(Fault::QuoteNotAfterReturning) && gone.contains(view)))
             return;
         if (!followers.insert(view).second && is(Fault::QuoteOnce))
             return;
         if (is(Fault::QuoteAtOnce))
-            vTell(view);
+            tell(view);
         else if (!is(Fault::AnswersNever))
-            QTimer::singleShot(0, &events, [this, view] { vTell(view); });
+            QTimer::singleShot(0, &events, [this, view] { tell(view); });
     }
-    void UnregisterSymbols(NewsReceiver* view) override { vLeave(view, Fault::QuoteAfterUnregistering); }
+    void unregisterSymbols(NewsReceiver* view) override { leave(view, Fault::QuoteAfterUnregistering); }
 
 private:
     static constexpr std::int32_t lateHeadline = 1;
@@ -160,7 +162,7 @@ private:
         if (!is(silent)) {
             QTimer::singleShot(0, &events, [this, entry, late] {
                 came.insert({entry.service, late});
-                ForEachReceiver([&](NewsReceiver& view) {
+                forEachReceiver([&](NewsReceiver& view) {
                     if (late == lateStory)
                         view.RespStory(entry);
                     else
@@ -179,15 +181,15 @@ private:
         return true;
     }
 
-    void vLeave(NewsReceiver* view, Fault forgotten) {
+    void leave(NewsReceiver* view, Fault forgotten) {
         if (!is(forgotten) && followers.erase(view) > 0)
             gone.insert(view);
     }
-    void vTell(NewsReceiver* view) {
+    void tell(NewsReceiver* view) {
         const CQuoteMemory quote{{1, u"2330"_s}, 12.5, 0.5, 100};
         const CQuoteMemory* told = is(Fault::QuoteOfNothing) ? nullptr : &quote;
         if (is(Fault::QuoteToAll))
-            ForEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvMemoryRecovery(told); });
+            forEachReceiver([&](NewsReceiver& receiver) { receiver.vRecvMemoryRecovery(told); });
         else if (followers.contains(view))
             view->vRecvMemoryRecovery(told);
     }
@@ -204,7 +206,7 @@ QString brokenBy(Fault fault) {
     const bool isSilent = fault == Fault::AnswersNever || fault == Fault::QuoteOfNothing ||
                           fault == Fault::HeadlineNeverTold || fault == Fault::StoryNeverTold ||
                           fault == Fault::QuoteOnce || fault == Fault::QuoteNotAfterReturning;
-    const std::vector<QString> broken = BrokenDuties(backEnd, isSilent ? 50ms : 10s);
+    const std::vector<QString> broken = brokenDuties(backEnd, isSilent ? 50ms : 10s);
     return QStringList(broken.begin(), broken.end()).join(u'\n');
 }
 
@@ -252,3 +254,5 @@ TEST(BackEndCheck, TellsWhichDutyIsBroken) {
                                                               << told.toStdString();
     }
 }
+
+}  // namespace wirepane

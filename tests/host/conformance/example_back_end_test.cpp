@@ -7,8 +7,12 @@
 
 #include <gtest/gtest.h>
 
+namespace wirepane {
+
 TEST(ExampleBackEnd, KeepsEveryDuty) {
     TenHeadlines backEnd;
-    const std::vector<QString> broken = BrokenDuties(backEnd);
+    const std::vector<QString> broken = brokenDuties(backEnd);
     EXPECT_EQ(QStringList(broken.begin(), broken.end()).join(u'\n').toStdString(), "");
 }
+
+}  // namespace wirepane

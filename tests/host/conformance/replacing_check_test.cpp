@@ -11,6 +11,8 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
+namespace wirepane {
+
 namespace {
 
 enum class Fault { None, NothingReplaced, NeverTold, ToldBefore, ToldAndKept, ToldTwice };
@@ -46,24 +48,24 @@ public:
     }
     bool BKQNEWS_bGetStory(CStory&, const CHeadlineTable&) override { return false; }
 
-    void Replace() {
+    void replace() {
         if (fault == Fault::NothingReplaced)
             return;
         time = first + 1;
         const CHeadline headline{1, time, 1, u"Title"_s};
         if (fault == Fault::ToldBefore)
-            TellGone();
-        ForEachReceiver([&](NewsReceiver& view) { view.RecvNewHeadLine(&headline, {}, {}); });
+            tellGone();
+        forEachReceiver([&](NewsReceiver& view) { view.RecvNewHeadLine(&headline, {}, {}); });
         if (fault != Fault::ToldBefore && fault != Fault::NeverTold)
-            TellGone();
+            tellGone();
         if (fault == Fault::ToldTwice)
-            TellGone();
+            tellGone();
     }
 
 private:
     static constexpr std::int64_t first = 1772413200;
-    void TellGone() {
-        ForEachReceiver([](NewsReceiver& view) { TellGoneHeadline(view, {first, 1, 1}); });
+    void tellGone() {
+        forEachReceiver([](NewsReceiver& view) { tellGoneHeadline(view, {first, 1, 1}); });
     }
 
     const Fault fault;
@@ -86,11 +88,13 @@ TEST(ReplacingCheck, TellsWhichDutyIsBroken) {
     };
     for (const auto& c : cases) {
         ReplacingBackEnd backEnd(c.fault);
-        const std::vector<QString> broken = BrokenDutiesOfReplacing(
-            backEnd, [&] { backEnd.Replace(); }, 50ms);
+        const std::vector<QString> broken = brokenDutiesOfReplacing(
+            backEnd, [&] { backEnd.replace(); }, 50ms);
         const QString told = QStringList(broken.begin(), broken.end()).join(u'\n');
         EXPECT_TRUE(told.contains(QString::fromUtf8(c.told)) && told.isEmpty() == (c.fault == Fault::None))
             << c.told << "\nnot in:\n"
             << told.toStdString();
     }
 }
+
+}  // namespace wirepane

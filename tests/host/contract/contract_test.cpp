@@ -15,6 +15,8 @@
 #include <functional>
 #include <gtest/gtest.h>
 
+namespace wirepane {
+
 namespace {
 
 class Receiver : public NewsReceiver {
@@ -32,7 +34,7 @@ public:
 class Speaker : public FakeBackEnd {
 public:
     void speak() {
-        ForEachReceiver([](NewsReceiver& receiver) { receiver.RespStory({}); });
+        forEachReceiver([](NewsReceiver& receiver) { receiver.RespStory({}); });
     }
 };
 
@@ -43,18 +45,18 @@ TEST(BackEndInterface, TellsThoseThatAreAttached) {
     Receiver first;
     Receiver second;
     Receiver late;
-    backEnd.Attach(&first);
-    backEnd.Attach(&first);
-    backEnd.Attach(&second);
+    backEnd.attach(&first);
+    backEnd.attach(&first);
+    backEnd.attach(&second);
     backEnd.speak();
     EXPECT_EQ(first.calls, 1);
     EXPECT_EQ(second.calls, 1);
 
     // A receiver may detach others and itself, and attach new ones, while it is told.
     first.whenCalled = [&] {
-        backEnd.Detach(&second);
-        backEnd.Detach(&first);
-        backEnd.Attach(&late);
+        backEnd.detach(&second);
+        backEnd.detach(&first);
+        backEnd.attach(&late);
     };
     backEnd.speak();
     EXPECT_EQ(first.calls, 2);
@@ -66,7 +68,7 @@ TEST(BackEndInterface, TellsThoseThatAreAttached) {
 
     // A nested delivery does not forget who left during it.
     late.whenCalled = [&] {
-        late.whenCalled = [&] { backEnd.Detach(&late); };
+        late.whenCalled = [&] { backEnd.detach(&late); };
         backEnd.speak();
     };
     backEnd.speak();
@@ -80,10 +82,10 @@ TEST(BackEndInterface, InstalledObjectsUninstallThemselves) {
         FakeBackEnd backEnd;
         EXPECT_EQ(BKQuoteInterface::GetBKInterface(), &backEnd);
         CSyncInfo settings;
-        CSyncInfo::SetSettingCFG(&settings);
+        CSyncInfo::setSettingCFG(&settings);
         EXPECT_EQ(CSyncInfo::GetSettingCFG(), &settings);
         TRVItemDisplay display;
-        TRVItemDisplay::SetItemDisplay(&display);
+        TRVItemDisplay::setItemDisplay(&display);
     }
     EXPECT_EQ(BKQuoteInterface::GetBKInterface(), nullptr);
     EXPECT_FALSE(CSyncInfo::GetSettingCFG()
@@ -91,7 +93,7 @@ TEST(BackEndInterface, InstalledObjectsUninstallThemselves) {
                      .isValid());
     QColor text = Qt::red;
     QColor background = Qt::red;
-    TRVItemDisplay::GetItemDisplay()->GetNewsCatColor(1, text, background);
+    TRVItemDisplay::itemDisplay()->GetNewsCatColor(1, text, background);
     EXPECT_FALSE(text.isValid() || background.isValid());
 }
 
@@ -123,7 +125,7 @@ TEST(ViewSettingsStore, ReadsWhatFitsTheType) {
         MemoryCfgIO store;
         const QString key = QStringLiteral("Key");
         if (c.stored.isValid())
-            store.SetViewInfo(path, key, c.stored);
+            store.setViewInfo(path, key, c.stored);
         int number = no;
         EXPECT_EQ(store.GetViewInfo(path, key, number), c.asInt != no) << c.what;
         EXPECT_EQ(number, c.asInt) << c.what;
@@ -204,3 +206,5 @@ TEST(ViewOptions, WhatTheUserSwitchedOffStaysOff) {
     for (const ViewOptionRow& row : viewOptionTable)
         EXPECT_EQ(options[row.option], row.option != viewOptionTable.front().option) << row.key.data();
 }
+
+}  // namespace wirepane

@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 
+namespace wirepane {
+
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -88,3 +90,5 @@ TEST(JsonFields, TheFirstFaultStays) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -14,6 +14,8 @@
 #include <gtest/gtest.h>
 #include <utility>
 
+namespace wirepane {
+
 namespace {
 
 const QStringList symbols{QStringLiteral("2317 鴻海"), QStringLiteral("2330 台積電"),
@@ -28,9 +30,9 @@ protected:
         combo = new Combo(&window);
         combo->setGeometry(0, 0, 200, 24);
         combo->addItems(symbols);
-        QObject::connect(combo, &SCComboBox::SelChange, combo,
+        QObject::connect(combo, &SCComboBox::selChange, combo,
                          [this](int index) { told << QStringLiteral("sel %1").arg(index); });
-        QObject::connect(combo, &SCComboBox::CloseUp, combo,
+        QObject::connect(combo, &SCComboBox::closeUp, combo,
                          [this] { told << QStringLiteral("close %1").arg(combo->currentIndex()); });
         window.resize(400, 400);
         window.show();
@@ -130,12 +132,12 @@ TEST_F(ComboBox, KnowsItsWidestItemThroughEveryChange) {
     };
     for (const auto& change : changes) {
         change();
-        EXPECT_EQ(combo->iGetWidestItem(), widest());
+        EXPECT_EQ(combo->widestItem(), widest());
     }
-    EXPECT_EQ(combo->iGetWidestItem(), 0);
+    EXPECT_EQ(combo->widestItem(), 0);
 }
 
-TEST(SymbolMatches, ExactCodeThenCodesThenNames) {
+TEST(symbolMatches, ExactCodeThenCodesThenNames) {
     const struct {
         const char16_t* typed;
         int most;
@@ -147,7 +149,7 @@ TEST(SymbolMatches, ExactCodeThenCodesThenNames) {
     for (const auto& test : cases) {
         const QString typed = QString::fromUtf16(test.typed);
         EXPECT_EQ(
-            SymbolMatches(
+            symbolMatches(
                 typed, static_cast<int>(symbols.size()), [](int index) { return symbols[index]; }, test.most),
             test.found)
             << typed.toStdString();
@@ -248,3 +250,5 @@ TEST_F(SymbolCombo, TheDropDownTellsAsThatOfAnyCombo) {
     EXPECT_EQ(takeTold(), (QStringList{QStringLiteral("sel 3"), QStringLiteral("close 3")}));
     EXPECT_EQ(combo->lineEdit()->text(), symbols[3]);
 }
+
+}  // namespace wirepane

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+namespace wirepane {
+
 namespace {
 
 const QDate start(2026, 3, 10);
@@ -20,16 +22,16 @@ protected:
     DatePicker() {
         picker = new SDateTimeCtrl(&window);
         picker->setGeometry(0, 0, 120, 24);
-        picker->vSetDate(start);
+        picker->showDate(start);
         const auto log = [this](const char* what, const QDate& date) {
             told << QStringLiteral("%1 %2").arg(QLatin1StringView(what),
                                                 date.toString(QStringLiteral("MM/dd")));
         };
         QObject::connect(picker, &SDateTimeCtrl::DropDown, picker,
                          [this] { told << QStringLiteral("drop"); });
-        QObject::connect(picker, &SDateTimeCtrl::DateTimeChange, picker,
+        QObject::connect(picker, &SDateTimeCtrl::dateTimeChange, picker,
                          [log](const QDate& date) { log("change", date); });
-        QObject::connect(picker, &SDateTimeCtrl::CloseUp, picker,
+        QObject::connect(picker, &SDateTimeCtrl::closeUp, picker,
                          [log](const QDate& date) { log("close", date); });
         window.resize(500, 400);
         window.show();
@@ -52,10 +54,10 @@ protected:
 }  // namespace
 
 TEST_F(DatePicker, SettingInCodeTellsNothing) {
-    picker->vSetDate(QDate(2025, 12, 31));
+    picker->showDate(QDate(2025, 12, 31));
     EXPECT_EQ(picker->date(), QDate(2025, 12, 31));
     EXPECT_EQ(picker->text(), QStringLiteral("2025/12/31"));
-    picker->vSetDate(QDate());
+    picker->showDate(QDate());
     EXPECT_EQ(picker->date(), QDate(2025, 12, 31));
     EXPECT_EQ(takeTold(), QStringList());
 }
@@ -74,16 +76,16 @@ TEST_F(DatePicker, TheCalendarTellsDropDownChangesCloseUp) {
         Qt::KeyboardModifiers modifiers;
     } openers[] = {{Qt::Key_F4, Qt::NoModifier}, {Qt::Key_Down, Qt::AltModifier}};
     for (const auto& opener : openers) {
-        picker->vSetDate(start);
+        picker->showDate(start);
         QTest::keyClick(picker, opener.key, opener.modifiers);
         ASSERT_TRUE(picker->calendarWidget()->isVisible());
-        EXPECT_TRUE(picker->bIsDropped());
+        EXPECT_TRUE(picker->isDropped());
         EXPECT_EQ(takeTold(), lines("drop"));
         QTest::keyClick(days(), Qt::Key_Left);
         QTest::keyClick(days(), Qt::Key_Left);
         EXPECT_EQ(takeTold(), lines("change 03/09,change 03/08"));
         QTest::keyClick(days(), Qt::Key_Return);
-        EXPECT_FALSE(picker->bIsDropped());
+        EXPECT_FALSE(picker->isDropped());
         EXPECT_EQ(takeTold(), lines("close 03/08"));
     }
 }
@@ -106,7 +108,7 @@ TEST_F(DatePicker, TheMouseOpensChoosesAndCloses) {
     const QPoint arrow =
         picker->style()->subControlRect(QStyle::CC_ComboBox, &box, QStyle::SC_ComboBoxArrow, picker).center();
     QTest::mouseClick(picker, Qt::LeftButton, {}, arrow);
-    ASSERT_TRUE(picker->bIsDropped());
+    ASSERT_TRUE(picker->isDropped());
     const QModelIndex today = days()->currentIndex();
     const QModelIndex chosen = today.siblingAtRow(today.row() + 1);
     QTest::mouseClick(days()->viewport(), Qt::LeftButton, {}, days()->visualRect(chosen).center());
@@ -127,3 +129,5 @@ TEST_F(DatePicker, GoesAwayQuietlyWithItsCalendarOpen) {
     delete picker;
     EXPECT_EQ(takeTold(), QStringList());
 }
+
+}  // namespace wirepane

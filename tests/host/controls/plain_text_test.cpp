@@ -18,22 +18,24 @@
 
 #include <gtest/gtest.h>
 
+namespace wirepane {
+
 TEST(Tabs, TellOfTheUserOnlyAndKeepTheirNumbers) {
     CXTPTabControl tabs;
-    QSignalSpy told(&tabs, &CXTPTabControl::SelChange);
+    QSignalSpy told(&tabs, &CXTPTabControl::selChange);
     QSignalSpy changed(&tabs, &QTabBar::currentChanged);
-    EXPECT_EQ(tabs.GetCurSel(), -1);
-    EXPECT_EQ(tabs.iInsertTab(QStringLiteral("All"), 0), 0);
-    EXPECT_EQ(tabs.iInsertTab(QStringLiteral("Category"), 1), 1);
-    EXPECT_EQ(tabs.iInsertTab(QStringLiteral("Warrants"), 5), 2);
-    EXPECT_EQ(tabs.GetCurSel(), 0);
+    EXPECT_EQ(tabs.curSel(), -1);
+    EXPECT_EQ(tabs.appendTab(QStringLiteral("All"), 0), 0);
+    EXPECT_EQ(tabs.appendTab(QStringLiteral("Category"), 1), 1);
+    EXPECT_EQ(tabs.appendTab(QStringLiteral("Warrants"), 5), 2);
+    EXPECT_EQ(tabs.curSel(), 0);
     tabs.SetCurSel(2);
-    EXPECT_EQ(tabs.GetCurSel(), 2);
+    EXPECT_EQ(tabs.curSel(), 2);
     for (const int outside : {3, -1})
         tabs.SetCurSel(outside);
-    EXPECT_EQ(tabs.GetCurSel(), 2);
-    EXPECT_EQ(tabs.iGetItemData(2), 5);
-    EXPECT_EQ(tabs.iGetItemData(3), 0);
+    EXPECT_EQ(tabs.curSel(), 2);
+    EXPECT_EQ(tabs.itemData(2), 5);
+    EXPECT_EQ(tabs.itemData(3), 0);
     EXPECT_EQ(told.count(), 0);
     EXPECT_EQ(changed.count(), 1) << "by whomever: a caption follows it";
 
@@ -53,19 +55,19 @@ TEST(PlainText, ShowsAmpersandsOfNames) {
 
     SButton button;
     QPushButton plain;
-    button.vSetText(name);
-    EXPECT_EQ(button.szGetText(), name);
+    button.showText(name);
+    EXPECT_EQ(button.literalText(), name);
     EXPECT_EQ(button.text(), caption);
     EXPECT_TRUE(button.shortcut().isEmpty());
     button.setText(QStringLiteral("&Search"));  // a key where one is wanted
     EXPECT_EQ(button.shortcut(), QKeySequence(Qt::ALT | Qt::Key_S));
 
     CXTPTabControl tabs;
-    tabs.iInsertTab(name, 1);
+    tabs.appendTab(name, 1);
     EXPECT_EQ(tabs.tabText(0), caption);
-    EXPECT_EQ(tabs.szGetTabText(0), name);
-    tabs.vSetTabText(0, QStringLiteral("a&b"));
-    EXPECT_EQ(tabs.szGetTabText(0), QStringLiteral("a&b"));
+    EXPECT_EQ(tabs.literalTabText(0), name);
+    tabs.showTabText(0, QStringLiteral("a&b"));
+    EXPECT_EQ(tabs.literalTabText(0), QStringLiteral("a&b"));
 
     // A combo needs no doubling: with '&' taken for a mark, both texts would be drawn alike.
     const auto picture = [](const QString& text) {
@@ -81,7 +83,7 @@ TEST(PlainText, ShowsAmpersandsOfNames) {
 TEST(Button, CutsATextThatIsTooLongWithDots) {
     const QString text = QStringLiteral("Select news services & more");
     SButton button;
-    button.vSetText(text);
+    button.showText(text);
     button.resize(60, 24);
     const QImage narrow = button.grab().toImage();
     QPushButton dotted;
@@ -94,14 +96,14 @@ TEST(Button, CutsATextThatIsTooLongWithDots) {
         found = dotted.grab().toImage() == narrow;
     }
     EXPECT_TRUE(found);
-    EXPECT_EQ(button.szGetText(), text);
+    EXPECT_EQ(button.literalText(), text);
 }
 
 TEST(RichEdit, ShowsTextAsItStandsAndGivesItBack) {
     MyRichEdit edit;
     const QString text = QStringLiteral("2026/03/10 09:00:00 \r\n<b>AT&amp;T</b> up\r\n\r\nlast  \nline");
-    edit.vSetText(text);
-    EXPECT_EQ(edit.szGetText(), text);
+    edit.showText(text);
+    EXPECT_EQ(edit.literalText(), text);
     QStringList shown;
     for (QTextBlock block = edit.document()->begin(); block.isValid(); block = block.next())
         shown << block.text();
@@ -129,10 +131,10 @@ TEST(RichEdit, BreaksRunsThatNoLineHoldsForTheEyeAlone) {
                        QString(3000, QChar::Nbsp)};
     for (const QString& run : runs) {
         MyRichEdit edit;
-        edit.vSetText(before + run + QStringLiteral("\r\nkeyword"));
+        edit.showText(before + run + QStringLiteral("\r\nkeyword"));
         const QString shown =
             QStringLiteral("Before \u00A0words\u2029") + run + QStringLiteral("\u2029keyword");
-        EXPECT_EQ(edit.szGetShownText(), shown);
+        EXPECT_EQ(edit.shownText(), shown);
         QString pieces;
         int longest = 0;
         for (QTextBlock block = edit.document()->begin(); block.isValid(); block = block.next()) {
@@ -147,8 +149,8 @@ TEST(RichEdit, BreaksRunsThatNoLineHoldsForTheEyeAlone) {
         const auto keyword = static_cast<int>(shown.size()) - 7;
         for (const auto& [start, end] : {std::pair(keyword, keyword + 7), std::pair(0, keyword),
                                          std::pair(20, 2019), std::pair(1, static_cast<int>(shown.size()))}) {
-            edit.vSetSelection(start, end);
-            EXPECT_EQ(edit.GetSelection(), std::pair(start, end));
+            edit.setSelection(start, end);
+            EXPECT_EQ(edit.selection(), std::pair(start, end));
             edit.copy();
             EXPECT_EQ(QApplication::clipboard()->mimeData()->text(),
                       shown.mid(start, end - start)
@@ -163,7 +165,7 @@ TEST(RichEdit, LeavesTextThatCanBeBrokenAsItIs) {
          {QStringLiteral("word "), QStringLiteral("中文"), QStringLiteral("well-known "),
           QStringLiteral("a-"), QStringLiteral("句。"), QStringLiteral("ab\t")}) {
         MyRichEdit edit;
-        edit.vSetText(unit.repeated(5000));
+        edit.showText(unit.repeated(5000));
         EXPECT_EQ(edit.document()->blockCount(), 1) << unit.toStdString();
     }
 }
@@ -180,7 +182,7 @@ TEST(RichEdit, KeepsTheSelectionInSightWithoutTheKeyboard) {
     QApplication::setPalette(colours);
     edit->vSetTextColor(QColor(200, 0, 0));
     edit->vSetBkColor(QColor(20, 30, 40));
-    edit->vSetText(QStringLiteral("selected words"));
+    edit->showText(QStringLiteral("selected words"));
     window.show();
     edit->selectAll();
     line->setFocus();
@@ -231,3 +233,5 @@ TEST(TipWindow, StaysOnTheScreenAndTakesTheNewTime) {
     EXPECT_TRUE(QTest::qWaitFor([&tip] { return !tip.isVisible(); }));
     EXPECT_GE(shown.elapsed(), 250);
 }
+
+}  // namespace wirepane

@@ -15,6 +15,8 @@
 #include <numeric>
 #include <random>
 
+namespace wirepane {
+
 namespace {
 
 // A plain list of numbered rows: the trivial model of what a sheet shows.
@@ -26,7 +28,7 @@ public:
         std::iota(ids.begin(), ids.end(), 0);
         nextId = count;
     }
-    QString Text(int row, int) const override {
+    QString text(int row, int) const override {
         return QString::number(ids.at(static_cast<std::size_t>(row)));
     }
 
@@ -41,28 +43,28 @@ public:
 class RowQueue : public testing::Test {
 protected:
     explicit RowQueue(int count = 100) : rows(count) {
-        builder.vInsertColumn(100, Qt::AlignLeft);
-        builder.vInsertColumn(100, Qt::AlignLeft);
-        builder.vSetCells(&rows);
-        builder.vSetRowCount(count);
+        builder.insertColumn(100, Qt::AlignLeft);
+        builder.insertColumn(100, Qt::AlignLeft);
+        builder.setCells(&rows);
+        builder.setRowCount(count);
     }
 
     void insert(int row) {
         rows.insert(row);
-        builder.vQueueInsert(row);
+        builder.queueInsert(row);
     }
     void remove(int row) {
         rows.remove(row);
-        builder.vQueueRemove(row);
+        builder.queueRemove(row);
     }
     void moveToTop(int row) {
         rows.moveToTop(row);
-        builder.vQueueMoveToTop(row);
+        builder.queueMoveToTop(row);
     }
     int idAt(int row) const { return builder.index(row, 0).data().toString().toInt(); }
     void expectTakenUp() const {
-        ASSERT_EQ(builder.iGetRowCount(), static_cast<int>(rows.ids.size()));
-        for (int row = 0; row < builder.iGetRowCount(); ++row)
+        ASSERT_EQ(builder.rowCount(), static_cast<int>(rows.ids.size()));
+        for (int row = 0; row < builder.rowCount(); ++row)
             ASSERT_EQ(idAt(row), rows.ids[static_cast<std::size_t>(row)]) << "row " << row;
     }
 
@@ -108,7 +110,7 @@ TEST_F(RowQueue, TellsEachBatchInAsFewSignalsAsItTakes) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         rows.restart(100);
-        builder.vSetRowCount(100);
+        builder.setRowCount(100);
         resets.clear();
         c.batch();
         EXPECT_EQ(inserted.count() + removed.count() + layouts.count(), 0) << "told too early";
@@ -124,14 +126,14 @@ TEST_F(RowQueue, TellsEachBatchInAsFewSignalsAsItTakes) {
 }
 
 TEST_F(RowQueue, StartingOverDropsWhatIsQueued) {
-    builder.vQueueInsert(0);
-    builder.vQueueRemove(50);
-    builder.vSetRowCount(100);
+    builder.queueInsert(0);
+    builder.queueRemove(50);
+    builder.setRowCount(100);
     for (const int outside : {-1, 101})
-        builder.vQueueInsert(outside);
+        builder.queueInsert(outside);
     for (const int outside : {-1, 100}) {
-        builder.vQueueRemove(outside);
-        builder.vQueueMoveToTop(outside);
+        builder.queueRemove(outside);
+        builder.queueMoveToTop(outside);
     }
     QSignalSpy inserted(&builder, &QAbstractItemModel::rowsInserted);
     QCoreApplication::processEvents();
@@ -161,13 +163,13 @@ TEST_F(RowQueue, RandomBatchesKeepModelAndIndexesRight) {
             else
                 remove(below(count));
         }
-        ASSERT_EQ(builder.iGetRowCount(), static_cast<int>(before.size()));
+        ASSERT_EQ(builder.rowCount(), static_cast<int>(before.size()));
         for (std::size_t row = 0; row < before.size(); ++row) {
             const bool there = std::find(rows.ids.begin(), rows.ids.end(), before[row]) != rows.ids.end();
             ASSERT_EQ(builder.index(static_cast<int>(row), 0).data().toString(),
                       there ? QString::number(before[row]) : QString());
         }
-        builder.vTakeUpQueue();
+        builder.takeUpQueue();
         expectTakenUp();
         for (const auto& [index, id] : kept) {
             const bool there = std::find(rows.ids.begin(), rows.ids.end(), id) != rows.ids.end();
@@ -181,22 +183,22 @@ class SheetOfRows : public SheetFixture {
 protected:
     SheetOfRows() : rows(1000) {
         showWithRows(10);
-        sheet->vSetCells(&rows);
-        sheet->vAddRows(1000);
+        sheet->setCells(&rows);
+        sheet->addRows(1000);
     }
     void insert(int row) {
         rows.insert(row);
-        sheet->vInsertRow(row);
+        sheet->insertRow(row);
     }
     void moveToTop(int row) {
         rows.moveToTop(row);
-        sheet->vMoveRowToTop(row);
+        sheet->moveRowToTop(row);
     }
     void remove(int row) {
         rows.remove(row);
-        sheet->vDeleteRow(row);
+        sheet->deleteRow(row);
     }
-    int firstId() const { return rows.ids[static_cast<std::size_t>(sheet->iGetFirstVisibleRow())]; }
+    int firstId() const { return rows.ids[static_cast<std::size_t>(sheet->firstVisibleRow())]; }
     std::vector<int> selectedIds() const {
         std::vector<int> ids;
         for (const int row : selection())
@@ -211,8 +213,8 @@ protected:
 TEST_F(SheetOfRows, AtTheTopTheNewRowsShow) {
     for (int i = 0; i < 30; ++i)
         insert(0);
-    EXPECT_EQ(sheet->iGetFirstVisibleRow(), 0);
-    EXPECT_EQ(sheet->iGetRowCount(), 1030);
+    EXPECT_EQ(sheet->firstVisibleRow(), 0);
+    EXPECT_EQ(sheet->rowCount(), 1030);
 }
 
 TEST_F(SheetOfRows, RowsOnScreenKeepTheirPlace) {
@@ -236,15 +238,15 @@ TEST_F(SheetOfRows, RowsOnScreenKeepTheirPlace) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         rows.restart(1000);
-        sheet->vClearRows();
-        sheet->vAddRows(1000);
+        sheet->clearRows();
+        sheet->addRows(1000);
         QCoreApplication::processEvents();
         sheet->verticalScrollBar()->setValue(500);
         const QImage before = sheet->viewport()->grab().toImage();
-        QSignalSpy told(sheet, &CSuperSheetWnd::ScrolledVertically);
+        QSignalSpy told(sheet, &CSuperSheetWnd::scrolledVertically);
         c.batch();
-        const int expected = sheet->iGetFirstVisibleRowToCome();
-        EXPECT_EQ(sheet->iGetFirstVisibleRow(), expected);
+        const int expected = sheet->firstVisibleRowToCome();
+        EXPECT_EQ(sheet->firstVisibleRow(), expected);
         EXPECT_EQ(firstId(), c.first);
         EXPECT_EQ(told.count(), c.told ? 1 : 0);
         if (c.first == 500 && rows.ids[static_cast<std::size_t>(expected) + 9] == 509) {
@@ -254,7 +256,7 @@ TEST_F(SheetOfRows, RowsOnScreenKeepTheirPlace) {
 }
 
 TEST_F(SheetOfRows, SelectionAndCurrentRowFollowTheirHeadlines) {
-    sheet->vSetActiveSelection(20, -1);
+    sheet->setActiveSelection(20, -1);
     for (const int row : {22, 23, 24, 40})
         sheet->selectionModel()->select(sheet->model()->index(row, 0),
                                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
@@ -275,17 +277,17 @@ TEST_F(SheetOfRows, SelectionAndCurrentRowFollowTheirHeadlines) {
 
 TEST_F(SheetOfRows, WhateverReadsTheSheetFindsTheRowsThere) {
     const std::pair<const char*, std::function<void()>> readers[] = {
-        {"count", [&] { sheet->iGetRowCount(); }},
-        {"first row", [&] { sheet->iGetFirstVisibleRow(); }},
+        {"count", [&] { sheet->rowCount(); }},
+        {"first row", [&] { sheet->firstVisibleRow(); }},
         {"point",
          [&] {
              sheet->iCalcRowNdx({10, 30});
          }},
         {"current", [&] { sheet->cptGetFocusNdx(); }},
         {"selection", [&] { selection(); }},
-        {"select", [&] { sheet->vSetActiveSelection(3, -1); }},
+        {"select", [&] { sheet->setActiveSelection(3, -1); }},
         {"scroll", [&] { sheet->vAutoVerScrolling(3); }},
-        {"scroll to the top", [&] { sheet->vResetScroll(); }},
+        {"scroll to the top", [&] { sheet->resetScroll(); }},
         {"paint", [&] { sheet->viewport()->repaint(); }},
         {"key", [&] { QTest::keyClick(sheet, Qt::Key_Down); }},
         {"click",
@@ -295,7 +297,7 @@ TEST_F(SheetOfRows, WhateverReadsTheSheetFindsTheRowsThere) {
         {"append",
          [&] {
              rows.insert(static_cast<int>(rows.ids.size()));
-             sheet->vAddRows(1);
+             sheet->addRows(1);
          }},
         {"the next turn", [] { QCoreApplication::processEvents(); }},
     };
@@ -308,3 +310,5 @@ TEST_F(SheetOfRows, WhateverReadsTheSheetFindsTheRowsThere) {
         QCoreApplication::processEvents();
     }
 }
+
+}  // namespace wirepane

@@ -5,13 +5,15 @@
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 
+namespace wirepane {
+
 namespace {
 
 class SheetBuilder : public testing::Test {
 protected:
     SheetBuilder() : tester(&builder, QAbstractItemModelTester::FailureReportingMode::Fatal) {
-        builder.vInsertColumn(100, Qt::AlignLeft | Qt::AlignVCenter);
-        builder.vInsertColumn(50, Qt::AlignRight | Qt::AlignVCenter);
+        builder.insertColumn(100, Qt::AlignLeft | Qt::AlignVCenter);
+        builder.insertColumn(50, Qt::AlignRight | Qt::AlignVCenter);
     }
 
     CSheetBuilder builder;
@@ -30,8 +32,8 @@ TEST_F(SheetBuilder, StartsOverWithOneResetAndNoneWhileEmpty) {
     } steps[] = {{0, 0, 0}, {5, 5, 1}, {5, 5, 1}, {1'000'000, 1'000'000, 1}, {-3, 0, 1}, {0, 0, 0}};
     for (const auto& step : steps) {
         resets.clear();
-        builder.vSetRowCount(step.count);
-        EXPECT_EQ(builder.iGetRowCount(), step.rows) << step.count;
+        builder.setRowCount(step.count);
+        EXPECT_EQ(builder.rowCount(), step.rows) << step.count;
         EXPECT_EQ(resets.count(), step.resets) << step.count;
     }
     EXPECT_EQ(inserted.count() + removed.count() + changed.count(), 0);
@@ -48,8 +50,8 @@ TEST_F(SheetBuilder, InsertsAndRemovesExactlyTheRowsAsked) {
     for (const auto& step : steps) {
         QSignalSpy& told = step.insert ? inserted : removed;
         told.clear();
-        step.insert ? builder.vInsertRows(step.row, step.count) : builder.vRemoveRows(step.row, step.count);
-        EXPECT_EQ(builder.iGetRowCount(), step.rows);
+        step.insert ? builder.insertRows(step.row, step.count) : builder.removeRows(step.row, step.count);
+        EXPECT_EQ(builder.rowCount(), step.rows);
         ASSERT_EQ(told.count(), step.happens ? 1 : 0);
         if (!step.happens)
             continue;
@@ -60,28 +62,30 @@ TEST_F(SheetBuilder, InsertsAndRemovesExactlyTheRowsAsked) {
 }
 
 TEST_F(SheetBuilder, AWrittenRowChangesThatRowAlone) {
-    builder.vSetRowCount(10);
+    builder.setRowCount(10);
     for (const int outside : {-1, 10})
-        builder.vRowWritten(outside);
+        builder.rowWritten(outside);
     EXPECT_EQ(changed.count(), 0);
-    builder.vRowWritten(4);
+    builder.rowWritten(4);
     ASSERT_EQ(changed.count(), 1);
     EXPECT_EQ(changed[0][0].toModelIndex(), builder.index(4, 0));
     EXPECT_EQ(changed[0][1].toModelIndex(), builder.index(4, 1));
 }
 
 TEST_F(SheetBuilder, TakesTextsAndColoursFromTheCells) {
-    builder.vSetRowCount(3);
+    builder.setRowCount(3);
     const QModelIndex cell = builder.index(2, 1);
     EXPECT_EQ(cell.data().toString(), QString());
     const NumberedCells cells;
-    builder.vSetCells(&cells);
+    builder.setCells(&cells);
     EXPECT_EQ(changed.count(), 1);
     EXPECT_EQ(cell.data().toString(), QStringLiteral("2/1"));
     EXPECT_EQ(cell.data(Qt::ForegroundRole).value<QBrush>().color(), QColor(Qt::red));
     EXPECT_FALSE(cell.siblingAtColumn(0).data(Qt::ForegroundRole).isValid());
     EXPECT_EQ(cell.data(Qt::TextAlignmentRole).value<Qt::Alignment>(), Qt::AlignRight | Qt::AlignVCenter);
     EXPECT_FALSE(cell.data(Qt::ToolTipRole).isValid());  // a title is text, and a tool tip guesses markup
-    builder.vSetCells(nullptr);
+    builder.setCells(nullptr);
     EXPECT_EQ(cell.data().toString(), QString());
 }
+
+}  // namespace wirepane

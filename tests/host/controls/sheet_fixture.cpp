@@ -8,25 +8,27 @@
 
 #include <algorithm>
 
-QString NumberedCells::Text(int row, int column) const {
+namespace wirepane {
+
+QString NumberedCells::text(int row, int column) const {
     ++asked;
     lowestAsked = std::min(lowestAsked, row);
     highestAsked = std::max(highestAsked, row);
     return QStringLiteral("%1/%2").arg(row).arg(column);
 }
 
-QColor NumberedCells::TextColour(int /*row*/, int column) const {
+QColor NumberedCells::textColour(int /*row*/, int column) const {
     return column == 1 ? QColor(Qt::red) : QColor();
 }
 
 SheetFixture::SheetFixture() : sheet(new CSuperSheetWnd(new CSheetBuilder, &window)) {
     EXPECT_TRUE(sheet->bCreateSheet());
-    sheet->vSetSmoothHorizontalScroll(true);
-    sheet->vSetHeaderRowHeight(16);
-    sheet->vSetRowHeight(16);
+    sheet->setSmoothHorizontalScroll(true);
+    sheet->setHeaderRowHeight(16);
+    sheet->setHeightOfRows(16);
     for (const int width : {100, 50, 300})
-        sheet->vInsertColumn(width);
-    sheet->vSetCells(&cells);
+        sheet->insertColumn(width);
+    sheet->setCells(&cells);
 }
 
 void SheetFixture::showAt(const QSize& size) {
@@ -51,3 +53,5 @@ std::vector<int> SheetFixture::selection() const {
     sheet->vGetAllSelectionNdx(rows);
     return rows;
 }
+
+}  // namespace wirepane

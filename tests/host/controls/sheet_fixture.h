@@ -10,11 +10,13 @@
 #include <utility>
 #include <vector>
 
+namespace wirepane {
+
 // Cells that say where they are; counts how often they are asked.
 class NumberedCells : public SheetCells {
 public:
-    QString Text(int row, int column) const override;
-    QColor TextColour(int row, int column) const override;
+    QString text(int row, int column) const override;
+    QColor textColour(int row, int column) const override;
 
     mutable int asked = 0;
     mutable int lowestAsked = 1 << 30;
@@ -38,3 +40,5 @@ protected:
     NumberedCells cells;
     CSuperSheetWnd* sheet;
 };
+
+}  // namespace wirepane

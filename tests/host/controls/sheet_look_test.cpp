@@ -9,6 +9,8 @@
 #include <QScrollBar>
 #include <QTest>
 
+namespace wirepane {
+
 namespace {
 
 using SheetLook = SheetFixture;
@@ -31,7 +33,7 @@ bool holds(const QImage& picture, const QColor& colour) {
 class Listener : public QWidget {
 public:
     bool event(QEvent* happened) override {
-        if (happened->type() == RegisterMessage(QStringLiteral("RVMSG_CHANGESIZE")))
+        if (happened->type() == registerMessage(QStringLiteral("RVMSG_CHANGESIZE")))
             senders.push_back(static_cast<RegisteredMessageEvent*>(happened)->firstParameter);
         return QWidget::event(happened);
     }
@@ -47,7 +49,7 @@ TEST_F(SheetLook, HeightsAreExactAndGrowForTallFonts) {
     for (font.setPixelSize(small); QFontMetrics(font).height() > 16; font.setPixelSize(small))
         --small;
     sheet->vSetFont(font);
-    sheet->vAddRows(3);
+    sheet->addRows(3);
     showAt({600, 300});
     EXPECT_EQ(sheet->rowHeight(2), 16);
     EXPECT_EQ(sheet->horizontalHeader()->height(), 16);
@@ -78,23 +80,23 @@ TEST_F(SheetLook, TheLastColumnStretchesButKeepsItsWidth) {
         for (const auto& [column, width] : step.set)
             sheet->vSetColWidth(column, width);
         for (int column = 0; column < 3; ++column)
-            EXPECT_EQ(sheet->iGetColWidth(column), step.widths[column]) << step.width << ' ' << column;
+            EXPECT_EQ(sheet->colWidth(column), step.widths[column]) << step.width << ' ' << column;
     }
-    sheet->vClearRows();
-    sheet->vAddRows(10);
-    static_cast<CSheetBuilder*>(sheet->model())->vSetRowCount(5);
-    EXPECT_EQ(sheet->iGetColWidth(0), 200);  // a reset is no reason to lose them
-    EXPECT_EQ(sheet->iGetColWidth(2), 700);
+    sheet->clearRows();
+    sheet->addRows(10);
+    static_cast<CSheetBuilder*>(sheet->model())->setRowCount(5);
+    EXPECT_EQ(sheet->colWidth(0), 200);  // a reset is no reason to lose them
+    EXPECT_EQ(sheet->colWidth(2), 700);
 }
 
 TEST_F(SheetLook, TheLastColumnStretchesOnlyWhereItMay) {
     showAt({600, 300});
-    sheet->vStretchLastColumn(false);
-    EXPECT_EQ(sheet->iGetColWidth(2), 300);
+    sheet->stretchLast(false);
+    EXPECT_EQ(sheet->colWidth(2), 300);
     showAt({800, 300});
-    EXPECT_EQ(sheet->iGetColWidth(2), 300);
-    sheet->vStretchLastColumn(true);
-    EXPECT_EQ(sheet->iGetColWidth(2), 800 - 2 * sheet->frameWidth() - 150);
+    EXPECT_EQ(sheet->colWidth(2), 300);
+    sheet->stretchLast(true);
+    EXPECT_EQ(sheet->colWidth(2), 800 - 2 * sheet->frameWidth() - 150);
 }
 
 TEST_F(SheetLook, TheUserDragsColumnsButNotHiddenOnes) {
@@ -107,13 +109,13 @@ TEST_F(SheetLook, TheUserDragsColumnsButNotHiddenOnes) {
         QTest::mouseRelease(header, Qt::LeftButton, {}, {to, 8});
     };
     drag(99, 139);
-    EXPECT_EQ(sheet->iGetColWidth(0), 140);
-    EXPECT_EQ(sheet->iGetColWidth(2), 600 - 2 * sheet->frameWidth() - 190);
+    EXPECT_EQ(sheet->colWidth(0), 140);
+    EXPECT_EQ(sheet->colWidth(2), 600 - 2 * sheet->frameWidth() - 190);
     sheet->vSetColWidth(1, 0);
     drag(139, 99);
     drag(101, 130);  // right of the edge where the hidden column is
-    EXPECT_EQ(sheet->iGetColWidth(1), 0);
-    EXPECT_EQ(sheet->iGetColWidth(0) + sheet->iGetColWidth(2), 600 - 2 * sheet->frameWidth());
+    EXPECT_EQ(sheet->colWidth(1), 0);
+    EXPECT_EQ(sheet->colWidth(0) + sheet->colWidth(2), 600 - 2 * sheet->frameWidth());
 }
 
 TEST_F(SheetLook, TellsItsParentOnceOfEachNewSize) {
@@ -121,14 +123,14 @@ TEST_F(SheetLook, TellsItsParentOnceOfEachNewSize) {
     parent.resize(500, 500);
     auto* inner = new CSuperSheetWnd(new CSheetBuilder, &parent);
     inner->bCreateSheet();
-    inner->vInsertColumn(50);
+    inner->insertColumn(50);
     parent.show();
     inner->setGeometry(0, 0, 300, 100);
     QCoreApplication::processEvents();
     parent.senders.clear();
     inner->setGeometry(0, 0, 200, 100);
     inner->setGeometry(0, 20, 200, 100);  // moved only
-    inner->vAddRows(100);                 // a scroll bar comes: the viewport shrinks, the sheet does not
+    inner->addRows(100);                  // a scroll bar comes: the viewport shrinks, the sheet does not
     QCoreApplication::processEvents();
     EXPECT_EQ(parent.senders, std::vector<quintptr>{reinterpret_cast<quintptr>(inner)});
 }
@@ -137,26 +139,26 @@ TEST_F(SheetLook, RowsAlternateAndKeepTheirColourWhileOthersComeAbove) {
     const QColor first(10, 20, 30);
     const QColor second(90, 100, 110);
     sheet->vSetBkColor(first, second);
-    sheet->vAddRows(4);
+    sheet->addRows(4);
     showAt({600, 300});
     auto* builder = static_cast<CSheetBuilder*>(sheet->model());
     EXPECT_EQ(rowColour(*sheet, 0), first);
     EXPECT_EQ(rowColour(*sheet, 1), second);
     EXPECT_EQ(rowColour(*sheet, 4), first);  // below the rows
-    builder->vInsertRows(0, 1);
+    builder->insertRows(0, 1);
     EXPECT_EQ(rowColour(*sheet, 0), second);
     EXPECT_EQ(rowColour(*sheet, 1), first);
-    builder->vInsertRows(0, 2);
+    builder->insertRows(0, 2);
     EXPECT_EQ(rowColour(*sheet, 3), first);
-    builder->vRemoveRows(0, 1);
+    builder->removeRows(0, 1);
     EXPECT_EQ(rowColour(*sheet, 2), first);
-    builder->vInsertRows(0, 1);
+    builder->insertRows(0, 1);
     EXPECT_EQ(rowColour(*sheet, 0), second);
-    sheet->vResetRowBkColor();
+    sheet->resetRowBkColor();
     EXPECT_EQ(rowColour(*sheet, 0), first);
-    builder->vInsertRows(0, 1);
-    sheet->vClearRows();
-    sheet->vAddRows(3);
+    builder->insertRows(0, 1);
+    sheet->clearRows();
+    sheet->addRows(3);
     EXPECT_EQ(rowColour(*sheet, 0), first);
 }
 
@@ -166,10 +168,10 @@ TEST_F(SheetLook, TheCurrentRowIsMarkedByWhoHasTheKeyboard) {
     const QColor unfocused(4, 5, 6);
     sheet->vSetBkColor(Qt::white, Qt::white);
     sheet->vSetFocusColor(true, focused, unfocused);
-    sheet->vAddRows(5);
+    sheet->addRows(5);
     showAt({600, 300});
     sheet->setFocus();
-    sheet->vSetActiveSelection(2, -1);
+    sheet->setActiveSelection(2, -1);
     EXPECT_EQ(rowColour(*sheet, 2), focused);
     EXPECT_EQ(rowColour(*sheet, 1), QColor(Qt::white));
     line->setFocus();
@@ -186,8 +188,8 @@ TEST_F(SheetLook, ColoursReachTextHeaderAndFrameAndFollowThePaletteWhenUnset) {
     QFont solid = sheet->font();
     solid.setStyleStrategy(QFont::NoAntialias);
     sheet->vSetFont(solid);
-    sheet->vSetHeaderText(0, QStringLiteral("Time"));
-    sheet->vAddRows(3);
+    sheet->setHeaderText(0, QStringLiteral("Time"));
+    sheet->addRows(3);
     showAt({600, 300});
     sheet->vSetFgColor(QColor(1, 1, 200));
     sheet->vSetHeaderRowBkColor(QColor(2, 2, 2));
@@ -211,25 +213,27 @@ TEST_F(SheetLook, ColoursReachTextHeaderAndFrameAndFollowThePaletteWhenUnset) {
 }
 
 TEST_F(SheetLook, ThinBarsComeAndGo) {
-    sheet->vAddRows(1000);
+    sheet->addRows(1000);
     showAt({600, 300});
     const int usual = sheet->verticalScrollBar()->width();
-    sheet->vSetThinBar(true);
+    sheet->setThinBar(true);
     EXPECT_EQ(sheet->verticalScrollBar()->width(), 8);
-    EXPECT_EQ(sheet->iGetColWidth(2), sheet->viewport()->width() - 150);
+    EXPECT_EQ(sheet->colWidth(2), sheet->viewport()->width() - 150);
     // A press in the groove, away from the thumb, turns the page; there are no arrows to hit.
     QTest::mouseClick(sheet->verticalScrollBar(), Qt::LeftButton, {},
                       {4, sheet->verticalScrollBar()->height() - 2});
-    EXPECT_EQ(sheet->iGetFirstVisibleRow(), sheet->verticalScrollBar()->pageStep());
-    sheet->vSetThinBar(false);
+    EXPECT_EQ(sheet->firstVisibleRow(), sheet->verticalScrollBar()->pageStep());
+    sheet->setThinBar(false);
     EXPECT_EQ(sheet->verticalScrollBar()->width(), usual);
 }
 
 TEST_F(SheetLook, IsNamedByItsHeadersUnlessNamedOtherwise) {
-    sheet->vSetHeaderText(0, QStringLiteral("Time"));
-    sheet->vSetHeaderText(2, QStringLiteral("Title"));
+    sheet->setHeaderText(0, QStringLiteral("Time"));
+    sheet->setHeaderText(2, QStringLiteral("Title"));
     EXPECT_EQ(sheet->accessibleName(), QStringLiteral("Time, Title"));
     sheet->setAccessibleName(QStringLiteral("Headlines"));
-    sheet->vSetHeaderText(2, QStringLiteral("Headline"));
+    sheet->setHeaderText(2, QStringLiteral("Headline"));
     EXPECT_EQ(sheet->accessibleName(), QStringLiteral("Headlines"));
 }
+
+}  // namespace wirepane

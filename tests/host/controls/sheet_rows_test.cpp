@@ -11,50 +11,52 @@
 
 #include <numeric>
 
+namespace wirepane {
+
 using SheetRows = SheetFixture;
 
 TEST(SheetWithoutBuilder, AnswersThatThereIsNothing) {
     CSuperSheetWnd sheet(nullptr, nullptr);
     EXPECT_FALSE(sheet.bCreateSheet());
-    sheet.vInsertColumn(100);
-    sheet.vSetHeaderText(0, QStringLiteral("x"));
-    sheet.vAddRows(3);
-    sheet.vClearRows();
-    sheet.vInvalidateRow(0);
-    sheet.vSetActiveSelection(0, -1);
-    sheet.vClearSelection();
-    sheet.vResetScroll();
+    sheet.insertColumn(100);
+    sheet.setHeaderText(0, QStringLiteral("x"));
+    sheet.addRows(3);
+    sheet.clearRows();
+    sheet.invalidateRow(0);
+    sheet.setActiveSelection(0, -1);
+    sheet.deselectRows();
+    sheet.resetScroll();
     sheet.vAutoVerScrolling(0);
     std::vector<int> rows{1};
     sheet.vGetAllSelectionNdx(rows);
     EXPECT_TRUE(rows.empty());
-    EXPECT_EQ(sheet.iGetRowCount(), 0);
-    EXPECT_EQ(sheet.iGetFirstVisibleRow(), 0);
+    EXPECT_EQ(sheet.rowCount(), 0);
+    EXPECT_EQ(sheet.firstVisibleRow(), 0);
     EXPECT_EQ(sheet.iCalcRowNdx({5, 25}), -1);
     EXPECT_EQ(sheet.cptGetFocusNdx(), QPoint(-1, -1));
 }
 
 TEST_F(SheetRows, CountsThePageAndTheFirstVisibleRow) {
-    sheet->vAddRows(100);
+    sheet->addRows(100);
     const struct {
         int height, page;
     } sizes[] = {{10 * line(), 10}, {11 * line() - 1, 10}, {11 * line(), 11}, {line() - 1, 0}, {line(), 1}};
     for (const auto& size : sizes) {
         showAt({600, line() + 2 * sheet->frameWidth() + size.height});
-        EXPECT_EQ(sheet->iGetRowsPerPage(), size.page) << size.height;
-        EXPECT_EQ(sheet->iGetFirstVisibleRow(), 0) << size.height;
+        EXPECT_EQ(sheet->rowsPerPage(), size.page) << size.height;
+        EXPECT_EQ(sheet->firstVisibleRow(), 0) << size.height;
     }
     showWithRows(10);
     sheet->verticalScrollBar()->setValue(1000);
-    EXPECT_EQ(sheet->iGetFirstVisibleRow(), 90);
-    sheet->vResetScroll();
-    EXPECT_EQ(sheet->iGetFirstVisibleRow(), 0);
+    EXPECT_EQ(sheet->firstVisibleRow(), 90);
+    sheet->resetScroll();
+    EXPECT_EQ(sheet->firstVisibleRow(), 0);
 }
 
 TEST_F(SheetRows, ScrollsNoFurtherThanNeeded) {
     showWithRows(10);
-    sheet->vAddRows(100);  // nothing laid out yet: scrolling must not depend on the event loop
-    QSignalSpy scrolled(sheet, &CSuperSheetWnd::ScrolledVertically);
+    sheet->addRows(100);  // nothing laid out yet: scrolling must not depend on the event loop
+    QSignalSpy scrolled(sheet, &CSuperSheetWnd::scrolledVertically);
     const struct {
         int row, first;
         bool moves;
@@ -63,14 +65,14 @@ TEST_F(SheetRows, ScrollsNoFurtherThanNeeded) {
     for (const auto& step : steps) {
         scrolled.clear();
         sheet->vAutoVerScrolling(step.row);
-        EXPECT_EQ(sheet->iGetFirstVisibleRow(), step.first) << step.row;
+        EXPECT_EQ(sheet->firstVisibleRow(), step.first) << step.row;
         EXPECT_EQ(scrolled.count(), step.moves ? 1 : 0) << step.row;
     }
 }
 
 TEST_F(SheetRows, FindsTheRowUnderAPoint) {
     showAt({600, 400});
-    sheet->vAddRows(5);
+    sheet->addRows(5);
     const int top = sheet->frameWidth() + line();
     const struct {
         QPoint point;
@@ -86,15 +88,15 @@ TEST_F(SheetRows, FindsTheRowUnderAPoint) {
                   {{10, 500}, -1}};
     for (const auto& place : places)
         EXPECT_EQ(sheet->iCalcRowNdx(place.point), place.row) << place.point.x() << ' ' << place.point.y();
-    sheet->vAddRows(95);
+    sheet->addRows(95);
     sheet->vAutoVerScrolling(99);
-    const int first = sheet->iGetFirstVisibleRow();
+    const int first = sheet->firstVisibleRow();
     EXPECT_EQ(sheet->iCalcRowNdx({10, top + line()}), first + 1);
 }
 
 TEST_F(SheetRows, SelectionIsAscendingHoweverItWasMade) {
     showWithRows(20);
-    sheet->vAddRows(20);
+    sheet->addRows(20);
     const auto click = [this](int row, Qt::KeyboardModifiers keys) {
         QTest::mouseClick(sheet->viewport(), Qt::LeftButton, keys, {10, row * line() + line() / 2});
     };
@@ -106,22 +108,22 @@ TEST_F(SheetRows, SelectionIsAscendingHoweverItWasMade) {
     EXPECT_EQ(selection(), (std::vector<int>{3, 7, 12, 14, 15}));
     EXPECT_EQ(sheet->cptGetFocusNdx(), QPoint(0, 7));
 
-    sheet->vSetActiveSelection(4, -1);
+    sheet->setActiveSelection(4, -1);
     EXPECT_EQ(selection(), std::vector<int>{4});
     EXPECT_EQ(sheet->cptGetFocusNdx(), QPoint(0, 4));
-    sheet->vSetActiveSelection(5, 2);
+    sheet->setActiveSelection(5, 2);
     EXPECT_EQ(selection(), std::vector<int>{5});
     EXPECT_EQ(sheet->cptGetFocusNdx(), QPoint(2, 5));
     for (const int outside : {-1, 20})
-        sheet->vSetActiveSelection(outside, -1);
+        sheet->setActiveSelection(outside, -1);
     EXPECT_EQ(selection(), std::vector<int>{5});
-    sheet->vClearSelection();
+    sheet->deselectRows();
     EXPECT_TRUE(selection().empty());
     EXPECT_EQ(sheet->cptGetFocusNdx(), QPoint(-1, -1));
 }
 
 TEST_F(SheetRows, SelectingAMillionRowsIsReadByRanges) {
-    sheet->vAddRows(1'000'000);
+    sheet->addRows(1'000'000);
     sheet->selectAll();
     std::vector<int> expected(1'000'000);
     std::iota(expected.begin(), expected.end(), 0);
@@ -134,36 +136,36 @@ TEST_F(SheetRows, SelectingAMillionRowsIsReadByRanges) {
 
 TEST_F(SheetRows, SelectingInCodeDoesNotScroll) {
     showWithRows(10);
-    sheet->vAddRows(100);
-    sheet->vSetActiveSelection(80, -1);
-    EXPECT_EQ(sheet->iGetFirstVisibleRow(), 0);
+    sheet->addRows(100);
+    sheet->setActiveSelection(80, -1);
+    EXPECT_EQ(sheet->firstVisibleRow(), 0);
 }
 
 TEST_F(SheetRows, StartingOverForgetsSelectionAndScroll) {
     showWithRows(10);
     for (const bool viaClear : {true, false}) {
-        sheet->vAddRows(100);
-        sheet->vSetActiveSelection(50, -1);
+        sheet->addRows(100);
+        sheet->setActiveSelection(50, -1);
         sheet->vAutoVerScrolling(50);
-        ASSERT_EQ(sheet->iGetFirstVisibleRow(), 41);
-        viaClear ? sheet->vClearRows() : static_cast<CSheetBuilder*>(sheet->model())->vSetRowCount(100);
+        ASSERT_EQ(sheet->firstVisibleRow(), 41);
+        viaClear ? sheet->clearRows() : static_cast<CSheetBuilder*>(sheet->model())->setRowCount(100);
         EXPECT_TRUE(selection().empty());
         EXPECT_EQ(sheet->cptGetFocusNdx(), QPoint(-1, -1));
-        EXPECT_EQ(sheet->iGetFirstVisibleRow(), 0);
-        EXPECT_EQ(sheet->iGetRowCount(), viaClear ? 0 : 100);
-        sheet->vClearRows();
+        EXPECT_EQ(sheet->firstVisibleRow(), 0);
+        EXPECT_EQ(sheet->rowCount(), viaClear ? 0 : 100);
+        sheet->clearRows();
     }
 }
 
 TEST_F(SheetRows, AddedRowsLeaveSelectionAndScrollAlone) {
     showWithRows(10);
-    sheet->vAddRows(100);
-    sheet->vSetActiveSelection(50, -1);
+    sheet->addRows(100);
+    sheet->setActiveSelection(50, -1);
     sheet->vAutoVerScrolling(50);
-    sheet->vAddRows(100);
+    sheet->addRows(100);
     EXPECT_EQ(selection(), std::vector<int>{50});
-    EXPECT_EQ(sheet->iGetFirstVisibleRow(), 41);
-    EXPECT_EQ(sheet->iGetRowCount(), 200);
+    EXPECT_EQ(sheet->firstVisibleRow(), 41);
+    EXPECT_EQ(sheet->rowCount(), 200);
 }
 
 TEST_F(SheetRows, TheKeyboardAloneMakesNoRowCurrentAndLosingItKeepsTheRow) {
@@ -171,7 +173,7 @@ TEST_F(SheetRows, TheKeyboardAloneMakesNoRowCurrentAndLosingItKeepsTheRow) {
     line->setGeometry(0, 500, 100, 20);
     showWithRows(10);
     window.resize(600, 540);
-    sheet->vAddRows(100);
+    sheet->addRows(100);
     line->setFocus();
     sheet->setFocus();
     EXPECT_TRUE(sheet->bHasFocus());
@@ -186,9 +188,9 @@ TEST_F(SheetRows, TheKeyboardAloneMakesNoRowCurrentAndLosingItKeepsTheRow) {
 
 TEST_F(SheetRows, KeysMoveByRowPageAndToTheEnds) {
     showWithRows(10);
-    sheet->vAddRows(1000);
+    sheet->addRows(1000);
     sheet->setFocus();
-    sheet->vSetActiveSelection(5, -1);
+    sheet->setActiveSelection(5, -1);
     const struct {
         Qt::Key key;
         int row, first;
@@ -199,13 +201,13 @@ TEST_F(SheetRows, KeysMoveByRowPageAndToTheEnds) {
         QTest::keyClick(sheet, step.key);
         EXPECT_EQ(selection(), std::vector<int>{step.row}) << step.key;
         EXPECT_EQ(sheet->cptGetFocusNdx(), QPoint(0, step.row)) << step.key;
-        EXPECT_EQ(sheet->iGetFirstVisibleRow(), step.first) << step.key;
+        EXPECT_EQ(sheet->firstVisibleRow(), step.first) << step.key;
     }
 }
 
 TEST_F(SheetRows, OnlyRowsOnScreenAreAskedFor) {
     showWithRows(10);
-    sheet->vAddRows(1'000'000);
+    sheet->addRows(1'000'000);
     cells.highestAsked = -1;
     sheet->grab();
     EXPECT_EQ(cells.lowestAsked, 0);
@@ -218,7 +220,9 @@ TEST_F(SheetRows, OnlyRowsOnScreenAreAskedFor) {
     EXPECT_EQ(cells.lowestAsked, 499'991);
     EXPECT_EQ(cells.highestAsked, 500'000);
     cells.asked = 0;
-    sheet->vInvalidateRow(3);
+    sheet->invalidateRow(3);
     QTest::keyClick(sheet, Qt::Key_A);  // no search through a million rows
     EXPECT_LE(cells.asked, 30);
 }
+
+}  // namespace wirepane

@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+namespace wirepane {
+
 namespace {
 
 class View : public TRVQuoteBaseView {
@@ -23,11 +25,11 @@ protected:
     void OnTimer(int id) override {
         fired.push_back(id);
         if (id == 1)
-            KillTimer(1);
+            endTimer(1);
     }
-    bool OnRegisteredMessage(const RegisteredMessageEvent& message) override {
-        if (message.type() != RegisterMessage(QStringLiteral("WIREPANE_TEST")))
-            return TRVQuoteBaseView::OnRegisteredMessage(message);
+    bool onRegisteredMessage(const RegisteredMessageEvent& message) override {
+        if (message.type() != registerMessage(QStringLiteral("WIREPANE_TEST")))
+            return TRVQuoteBaseView::onRegisteredMessage(message);
         heard = {message.firstParameter, message.secondParameter};
         return true;
     }
@@ -37,39 +39,39 @@ protected:
 
 TEST(BaseView, TimersGoByNumber) {
     View view;
-    view.SetTimer(1, 5);
-    view.SetTimer(2, 5);
-    view.SetTimer(2, 10'000);
-    view.KillTimer(99);
-    EXPECT_EQ(view.RunningTimers(), (std::vector<int>{1, 2}));
+    view.setTimer(1, 5);
+    view.setTimer(2, 5);
+    view.setTimer(2, 10'000);
+    view.endTimer(99);
+    EXPECT_EQ(view.runningTimers(), (std::vector<int>{1, 2}));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !view.fired.empty(); }));
     QTest::qWait(30);
     EXPECT_EQ(view.fired, std::vector<int>{1})
         << "killed while it was told; the other runs with its new period";
-    EXPECT_EQ(view.RunningTimers(), std::vector<int>{2});
+    EXPECT_EQ(view.runningTimers(), std::vector<int>{2});
 }
 
 TEST(BaseView, MessagesGoByName) {
     View view;
-    EXPECT_EQ(RegisterMessage(QStringLiteral("A")), RegisterMessage(QStringLiteral("A")));
-    EXPECT_NE(RegisterMessage(QStringLiteral("A")), RegisterMessage(QStringLiteral("B")));
-    SendRegisteredMessage(&view, RegisterMessage(QStringLiteral("A")), 1, 2);
+    EXPECT_EQ(registerMessage(QStringLiteral("A")), registerMessage(QStringLiteral("A")));
+    EXPECT_NE(registerMessage(QStringLiteral("A")), registerMessage(QStringLiteral("B")));
+    sendRegisteredMessage(&view, registerMessage(QStringLiteral("A")), 1, 2);
     EXPECT_TRUE(view.heard.empty());
-    SendRegisteredMessage(&view, RegisterMessage(QStringLiteral("WIREPANE_TEST")), 1, 2);
+    sendRegisteredMessage(&view, registerMessage(QStringLiteral("WIREPANE_TEST")), 1, 2);
     EXPECT_EQ(view.heard, (std::vector<quintptr>{1, 2}));
-    SendRegisteredMessage(nullptr, RegisterMessage(QStringLiteral("A")), 1);
+    sendRegisteredMessage(nullptr, registerMessage(QStringLiteral("A")), 1);
 }
 
 TEST(BaseView, ControlsAreFoundByNumberInTheirOwnWindow) {
     QWidget window;
     auto* child = new QWidget(&window);
     auto* grandchild = new QWidget(child);
-    SetWindowId(child, 3010);
-    SetWindowId(grandchild, 3011);
-    EXPECT_EQ(GetDlgItem(&window, 3010), child);
-    EXPECT_EQ(GetDlgItem(&window, 3011), nullptr);
-    EXPECT_EQ(GetDlgItem(child, 3011), grandchild);
-    EXPECT_EQ(WindowId(&window), 0);
+    setWindowId(child, 3010);
+    setWindowId(grandchild, 3011);
+    EXPECT_EQ(dlgItem(&window, 3010), child);
+    EXPECT_EQ(dlgItem(&window, 3011), nullptr);
+    EXPECT_EQ(dlgItem(child, 3011), grandchild);
+    EXPECT_EQ(windowId(&window), 0);
 }
 
 TEST(BaseView, LeavesTheBackEndWhenItGoes) {
@@ -87,13 +89,15 @@ TEST(NewsModuleLoading, SaysWhyItFailed) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("no_module.so"));
     QString error;
-    EXPECT_EQ(LoadNewsModule(path, error), nullptr);
+    EXPECT_EQ(loadNewsModule(path, error), nullptr);
     EXPECT_TRUE(error.contains(path)) << error.toStdString();
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("not a library");
     file.close();
     error.clear();
-    EXPECT_EQ(LoadNewsModule(path, error), nullptr);
+    EXPECT_EQ(loadNewsModule(path, error), nullptr);
     EXPECT_TRUE(error.contains(path)) << error.toStdString();
 }
+
+}  // namespace wirepane

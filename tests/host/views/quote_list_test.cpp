@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 class StillStyle : public QProxyStyle {
@@ -34,7 +36,7 @@ protected:
         list->OnInitialUpdate();
         list->resize(frame.size());
         EXPECT_TRUE(list->CreateView(&frame, u"Quotes"_s, 3, 4));
-        list->vSetUpColumns(16);
+        list->setUpColumns(16);
         QObject::connect(list, &TRVQuoteBaseView::SendChangeSymbol, list,
                          [this](unsigned char, unsigned char market, const QString& code) {
                              announced += u"%1:%2"_s.arg(market).arg(code);
@@ -49,10 +51,10 @@ protected:
         list->vRecvNewMemory(&quote);
     }
     QString cell(int row, int column) const {
-        return list->pGetSheet()->model()->index(row, column).data().toString();
+        return list->quoteSheet()->model()->index(row, column).data().toString();
     }
     bool flashes(int row) const {
-        return list->pGetSheet()->model()->index(row, 2).data(Qt::BackgroundRole).isValid();
+        return list->quoteSheet()->model()->index(row, 2).data(Qt::BackgroundRole).isValid();
     }
     QString focused() const {
         CSymbolInfo symbol;
@@ -60,7 +62,7 @@ protected:
         return symbol.code;
     }
     void clickRow(int row) {
-        CSuperSheetWnd& sheet = *list->pGetSheet();
+        CSuperSheetWnd& sheet = *list->quoteSheet();
         QTest::mouseClick(sheet.viewport(), Qt::LeftButton, {},
                           QPoint(20, sheet.rowViewportPosition(row) + 4));
     }
@@ -73,9 +75,9 @@ protected:
 };
 
 TEST_F(QuoteListTest, RegistersWhatItListsAndAgainWhenAsked) {
-    list->vSetSymbols({all[0], all[1]});
+    list->setSymbols({all[0], all[1]});
     EXPECT_EQ(backEnd.followed[list], (QStringList{u"16:1000"_s, u"16:1001"_s}));
-    list->vSetSymbols({all[1], all[2]});
+    list->setSymbols({all[1], all[2]});
     EXPECT_EQ(backEnd.followed[list], (QStringList{u"16:1001"_s, u"16:1002"_s}))
         << "what stays is left alone";
     backEnd.followed.clear();
@@ -83,18 +85,18 @@ TEST_F(QuoteListTest, RegistersWhatItListsAndAgainWhenAsked) {
     EXPECT_EQ(backEnd.followed[list], (QStringList{u"16:1001"_s, u"16:1002"_s}));
     list->vUnregisterViewSymbol();
     EXPECT_EQ(backEnd.followed[list], QStringList());
-    list->vSetSymbols({all[5]});
+    list->setSymbols({all[5]});
     EXPECT_EQ(backEnd.followed[list], QStringList()) << "not while it is not shown";
     list->vReRegisterSymbols();
     EXPECT_EQ(backEnd.followed[list], QStringList{u"16:1005"_s});
-    list->vClearSymbols();
+    list->clearSymbols();
     EXPECT_EQ(backEnd.followed[list], QStringList());
     delete list;
     EXPECT_FALSE(backEnd.followed.contains(list));
 }
 
 TEST_F(QuoteListTest, UpdatesAreShownInTheNextTurnAndCanBeDropped) {
-    list->vSetSymbols({all[0], all[1]});
+    list->setSymbols({all[0], all[1]});
     EXPECT_EQ(cell(0, 1), u"Aster");
     EXPECT_EQ(cell(0, 2), u"--");
     update(0, 10, 1);
@@ -108,39 +110,39 @@ TEST_F(QuoteListTest, UpdatesAreShownInTheNextTurnAndCanBeDropped) {
     QCoreApplication::processEvents();
     EXPECT_EQ(cell(0, 2), u"11.00");
     update(1, 5);
-    EXPECT_EQ(TextOf(list->GetTable().at(1), QuoteColumn::Last), u"5.00") << "who reads it reads it whole";
+    EXPECT_EQ(textOf(list->quoteTable().at(1), QuoteColumn::Last), u"5.00") << "who reads it reads it whole";
 }
 
 TEST_F(QuoteListTest, AChangeFlashesForAMomentOnItsRowAlone) {
-    list->vSetSymbols(all);
+    list->setSymbols(all);
     update(0, 10);
     update(1, 10);
-    list->vTakeUpMemory();
+    list->takeUpMemory();
     EXPECT_FALSE(flashes(0)) << "the first quote is no change";
     update(0, 11);
-    list->vTakeUpMemory();
+    list->takeUpMemory();
     EXPECT_TRUE(flashes(0));
     EXPECT_FALSE(flashes(1));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !flashes(0); }, 3000));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return list->RunningTimers().empty(); }, 3000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list->runningTimers().empty(); }, 3000));
 
     StillStyle still;
     list->setStyle(&still);
     update(0, 12);
-    list->vTakeUpMemory();
+    list->takeUpMemory();
     EXPECT_FALSE(flashes(0));
-    EXPECT_TRUE(list->RunningTimers().empty());
+    EXPECT_TRUE(list->runningTimers().empty());
     list->setStyle(nullptr);
 }
 
 TEST_F(QuoteListTest, FocusAndSelectionStayWithTheirSymbol) {
-    list->vSetSymbols({all[0], all[1], all[2]});
+    list->setSymbols({all[0], all[1], all[2]});
     for (const int index : {0, 1, 2})
         update(index, 10 + index);
-    list->vTakeUpMemory();
+    list->takeUpMemory();
     clickRow(1);
     EXPECT_EQ(focused(), u"1001");
-    QHeaderView* header = list->pGetSheet()->horizontalHeader();
+    QHeaderView* header = list->quoteSheet()->horizontalHeader();
     const auto clickLast = [&] {
         QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
                           QPoint(header->sectionViewportPosition(2) + 10, header->height() / 2));
@@ -150,25 +152,25 @@ TEST_F(QuoteListTest, FocusAndSelectionStayWithTheirSymbol) {
     EXPECT_EQ(cell(0, 0), u"1002") << "falling";
     EXPECT_EQ(focused(), u"1001");
     update(1, 99);
-    EXPECT_EQ(list->GetTable().at(0).symbol.code, u"1001");
-    EXPECT_EQ(list->pGetSheet()->cptGetFocusNdx().y(), 0);
+    EXPECT_EQ(list->quoteTable().at(0).symbol.code, u"1001");
+    EXPECT_EQ(list->quoteSheet()->cptGetFocusNdx().y(), 0);
     std::vector<int> selected;
-    list->pGetSheet()->vGetAllSelectionNdx(selected);
+    list->quoteSheet()->vGetAllSelectionNdx(selected);
     EXPECT_EQ(selected, std::vector<int>{0});
     clickLast();
     EXPECT_EQ(cell(0, 0), u"1000") << "in their own order again";
     EXPECT_EQ(focused(), u"1001");
-    list->vSetSymbols({all[3], all[1]});
+    list->setSymbols({all[3], all[1]});
     EXPECT_EQ(focused(), u"1001");
     EXPECT_EQ(announced, QStringList{u"16:1001"_s}) << "the click alone";
 }
 
 TEST_F(QuoteListTest, TheUsersHandAnnouncesAndNothingElseDoes) {
-    list->vSetSymbols({all[0], all[1], all[2]});
+    list->setSymbols({all[0], all[1], all[2]});
     list->ChangeSymbol(nullptr, 1, 16, u"1002"_s, {});
     EXPECT_EQ(focused(), u"1002");
     EXPECT_EQ(announced, QStringList());
-    CSuperSheetWnd* sheet = list->pGetSheet();
+    CSuperSheetWnd* sheet = list->quoteSheet();
     sheet->setFocus();
     QTest::keyClick(sheet, Qt::Key_Up);
     EXPECT_EQ(announced, QStringList{u"16:1001"_s});
@@ -180,30 +182,32 @@ TEST_F(QuoteListTest, TheUsersHandAnnouncesAndNothingElseDoes) {
     QTest::keyClick(sheet, Qt::Key_1);
     EXPECT_EQ(cell(0, 0), u"1002") << "sorted by code, falling";
     QTest::mouseClick(sheet->viewport(), Qt::LeftButton, {}, QPoint(5, sheet->viewport()->height() - 2));
-    list->vClearSymbols();
+    list->clearSymbols();
     EXPECT_EQ(announced.size(), 4);
     EXPECT_EQ(focused(), u"");
 }
 
 TEST_F(QuoteListTest, TheKeyboardStaysWhileThereIsNothingToList) {
-    list->vSetSymbols({all[0]});
-    list->pGetSheet()->setFocus();
-    list->vSetSymbols({});
-    EXPECT_EQ(list->GetDataState(), DataState::NotSupported);
-    EXPECT_TRUE(list->pGetSheet()->isHidden());
+    list->setSymbols({all[0]});
+    list->quoteSheet()->setFocus();
+    list->setSymbols({});
+    EXPECT_EQ(list->currentDataState(), DataState::NotSupported);
+    EXPECT_TRUE(list->quoteSheet()->isHidden());
     EXPECT_TRUE(list->hasFocus());
-    list->vSetSymbols({all[1]});
-    EXPECT_TRUE(list->pGetSheet()->hasFocus());
+    list->setSymbols({all[1]});
+    EXPECT_TRUE(list->quoteSheet()->hasFocus());
 }
 
 TEST_F(QuoteListTest, TheColumnsFillTheBoxWhateverItsSize) {
-    list->vSetSymbols(all);
-    const QHeaderView* header = list->pGetSheet()->horizontalHeader();
+    list->setSymbols(all);
+    const QHeaderView* header = list->quoteSheet()->horizontalHeader();
     for (const int width : {900, 420, 250, 120}) {
         list->resize(width, 120);
         QCoreApplication::processEvents();
-        EXPECT_EQ(header->length(), list->pGetSheet()->viewport()->width()) << width;
+        EXPECT_EQ(header->length(), list->quoteSheet()->viewport()->width()) << width;
     }
 }
 
 }  // namespace
+
+}  // namespace wirepane

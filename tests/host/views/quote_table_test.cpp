@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace wirepane {
+
 namespace {
 
 CSymbolInfo symbol(const QString& code, unsigned char market = 16) {
@@ -32,7 +34,7 @@ QString texts(const std::optional<CQuoteMemory>& quote) {
     QStringList all;
     for (const QuoteColumn column :
          {QuoteColumn::Last, QuoteColumn::Change, QuoteColumn::Percent, QuoteColumn::Volume})
-        all += TextOf(row, column);
+        all += textOf(row, column);
     return all.join(u' ');
 }
 
@@ -62,7 +64,7 @@ TEST(QuoteTable, SaysPricesChangesAndVolumes) {
     };
     for (const auto& c : cases) {
         EXPECT_EQ(texts(c.quote), c.texts);
-        EXPECT_EQ(DirectionOf({symbol(u"1"_s), {}, c.quote}), c.direction) << c.texts.toStdString();
+        EXPECT_EQ(directionOf({symbol(u"1"_s), {}, c.quote}), c.direction) << c.texts.toStdString();
     }
 }
 
@@ -116,7 +118,7 @@ TEST(QuoteTable, AnUpdateMovesNothingUntilTheRowsArePutInOrder) {
 
     table.setSymbols({symbol(u"9"_s), symbol(u"1"_s)});
     EXPECT_EQ(codes(table).join(u""_s), u"19") << "what stays is known still, and sorted";
-    EXPECT_EQ(TextOf(table.at(0), QuoteColumn::Last), u"2.50");
+    EXPECT_EQ(textOf(table.at(0), QuoteColumn::Last), u"2.50");
 }
 
 // Random operations against a plain sort of a plain list.
@@ -160,7 +162,7 @@ TEST(QuoteTable, AgreesWithAPlainList) {
 TEST(QuoteColumns, FillEveryBoxExactlyAndGiveWayInOrder) {
     const QuoteWidths wanted{60, 150, 80, 70, 60, 90};
     for (int box = -5; box < 1200; ++box) {
-        const QuoteWidths widths = FitQuoteColumns(wanted, box);
+        const QuoteWidths widths = fitQuoteColumns(wanted, box);
         ASSERT_EQ(std::accumulate(widths.begin(), widths.end(), 0), std::max(0, box)) << box;
         ASSERT_GE(*std::min_element(widths.begin(), widths.end()), 0) << box;
     }
@@ -173,5 +175,7 @@ TEST(QuoteColumns, FillEveryBoxExactlyAndGiveWayInOrder) {
         {100, {30, 0, 40, 0, 30, 0}},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(FitQuoteColumns(wanted, c.box), c.widths) << c.box;
+        EXPECT_EQ(fitQuoteColumns(wanted, c.box), c.widths) << c.box;
 }
+
+}  // namespace wirepane

@@ -5,7 +5,8 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -58,3 +59,5 @@ TEST(JsonRpcTest, RequestsCarryTheirIdMethodAndParameters) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

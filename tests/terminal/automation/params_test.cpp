@@ -8,7 +8,8 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -63,3 +64,5 @@ TEST(ParamsTest, NullAndAbsentAreTheSameAndTheFirstErrorStays) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

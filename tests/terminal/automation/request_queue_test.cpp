@@ -10,7 +10,8 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -137,3 +138,5 @@ TEST_F(RequestQueueTest, AChannelThatGoesTakesNothingWithIt) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -5,7 +5,7 @@
 #include "host/controls/quote_trv_change_symbol.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
-#include "news_view/control_ids.h"
+#include "host/views/news_control_ids.h"
 #include "search/search_ids.h"
 #include "terminal/frame/frame_command.h"
 #include "tests/support/accessible_names.h"
@@ -25,8 +25,9 @@
 #include <functional>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -69,7 +70,7 @@ protected:
         // OK and Cancel alone have their keys.
         if (buttons > 2)
             checkCaptions(captions, window.windowTitle());
-        EXPECT_GT(CheckAccessibleNames(window), 0);
+        EXPECT_GT(checkAccessibleNames(window), 0);
     }
 
     void checkMenu(const QList<QAction*>& actions, const QString& where) const {
@@ -109,16 +110,16 @@ protected:
         inDialog(open, [](const QDialog&) {});
     }
 
-    void command(int id) { session->workspace().active()->view->OnCommand(id); }
+    void command(int id) { session->workspace().active()->view->onCommand(id); }
     void command(FrameCommand id) { emit session->frame().commanded(id); }
     static void click(const QDialog& dialog, int id) {
-        qobject_cast<QAbstractButton*>(GetDlgItem(&dialog, id))->click();
+        qobject_cast<QAbstractButton*>(dlgItem(&dialog, id))->click();
     }
     static void selectTab(const QDialog& dialog, int tab) {
         dialog.findChild<QTabBar*>()->setCurrentIndex(tab);
     }
     static void typeKeyword(const QDialog& dialog, const QString& keyword) {
-        auto* line = qobject_cast<QLineEdit*>(GetDlgItem(&dialog, search_ids::keywordEdit));
+        auto* line = qobject_cast<QLineEdit*>(dlgItem(&dialog, search_ids::keywordEdit));
         line->setText(keyword);
         QTest::keyClick(line, Qt::Key_Return);
     }
@@ -126,13 +127,13 @@ protected:
     void checkFrame() {
         checkMenu(session->frame().menuBar()->actions(), u"the menu bar"_s);
         TRVQuoteBaseView* view = session->workspace().active()->view;
-        const CSuperSheetWnd* sheet = session->workspace().active()->access->Sheet(0);
+        const CSuperSheetWnd* sheet = session->workspace().active()->access->sheetOf(0);
         const QPoint row = sheet->mapTo(view, QPoint(50, 50));
         QContextMenuEvent asked(QContextMenuEvent::Mouse, row, view->mapToGlobal(row));
         QApplication::sendEvent(view, &asked);
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         ASSERT_NE(menu, nullptr);
-        EXPECT_GE(menu->actions().size(), 6) << "on a row of " << sheet->iGetRowCount();
+        EXPECT_GE(menu->actions().size(), 6) << "on a row of " << sheet->rowCount();
         checkMenu(menu->actions(), u"the menu of a row"_s);
         menu->close();
     }
@@ -147,9 +148,9 @@ protected:
     }
     void checkStoryWindow() {
         const OpenView& view = *session->workspace().active();
-        while (view.access->State()[u"storyShowType"_s].toInt() != 0)
+        while (view.access->state()[u"storyShowType"_s].toInt() != 0)
             command(ids::showTypeButton);
-        view.access->Sheet(0)->vSetActiveSelection(0, -1);
+        view.access->sheetOf(0)->setActiveSelection(0, -1);
         command(ids::showStory);
         const auto dialogs = view.view->findChildren<QDialog*>();
         const auto story = std::find_if(dialogs.begin(), dialogs.end(), [](const QDialog* dialog) {
@@ -201,3 +202,5 @@ TEST_F(AccessKeysTest, EachIsOfferedOnceInAMenuOrWindow) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "host/views/news_control_ids.h"
 #include "tests/terminal/program/program_runner.h"
 #include "tests/terminal/program/script_client.h"
 
@@ -11,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -82,7 +85,7 @@ TEST_F(AutomationSessionTest, AViewTellsItsStateAndGivesItsSettingsBack) {
     EXPECT_EQ(state[u"tabs"_s].toArray().size(), 2);
     bool tabStripSeen = false;
     for (const QJsonValue& control : state[u"controls"_s].toArray())
-        tabStripSeen = tabStripSeen || control[u"id"_s].toInt() == 3100;
+        tabStripSeen = tabStripSeen || control[u"id"_s].toInt() == ids::tabStrip;
     EXPECT_TRUE(tabStripSeen);
     const QString picture = scratch.path(u"view.png"_s);
     const QJsonObject shot =
@@ -90,7 +93,7 @@ TEST_F(AutomationSessionTest, AViewTellsItsStateAndGivesItsSettingsBack) {
     EXPECT_EQ(shot[u"size"_s].toArray(), (QJsonArray{801, 603}));
     EXPECT_EQ(QImage(picture).size(), QSize(801, 603));
 
-    script.result(u"control.choose"_s, QJsonObject{{u"id"_s, 3100}, {u"index"_s, 0}});
+    script.result(u"control.choose"_s, QJsonObject{{u"id"_s, ids::tabStrip}, {u"index"_s, 0}});
     EXPECT_EQ(script.result(u"view.state"_s)[u"mode"_s].toInt(), 0);
     script.result(u"view.resize"_s, QJsonObject{{u"size"_s, QJsonArray{1200, 700}}});
     const QJsonArray grids = script.result(u"view.state"_s)[u"grids"_s].toArray();
@@ -144,16 +147,16 @@ TEST_F(AutomationSessionTest, RequestsThatCannotBeDoneSayWhyAndEndNothing) {
         {u"grid.read"_s, {}, -32602},
         {u"grid.select"_s, {{u"list"_s, 0}, {u"rows"_s, QJsonArray{0}}}, -32001},
         {u"control.choose"_s, {{u"id"_s, 9999}, {u"index"_s, 0}}, -32001},
-        {u"control.choose"_s, {{u"id"_s, 3100}, {u"index"_s, 99}}, -32001},
-        {u"control.choose"_s, {{u"id"_s, 3100}, {u"text"_s, u"No such tab"_s}}, -32001},
-        {u"control.choose"_s, {{u"id"_s, 3100}}, -32602},
-        {u"control.set"_s, {{u"id"_s, 3100}, {u"text"_s, u"x"_s}}, -32002},
+        {u"control.choose"_s, {{u"id"_s, ids::tabStrip}, {u"index"_s, 99}}, -32001},
+        {u"control.choose"_s, {{u"id"_s, ids::tabStrip}, {u"text"_s, u"No such tab"_s}}, -32001},
+        {u"control.choose"_s, {{u"id"_s, ids::tabStrip}}, -32602},
+        {u"control.set"_s, {{u"id"_s, ids::tabStrip}, {u"text"_s, u"x"_s}}, -32002},
         {u"menu.open"_s, {}, -32602},
-        {u"menu.open"_s, {{u"id"_s, 3010}, {u"row"_s, 0}}, -32602},
+        {u"menu.open"_s, {{u"id"_s, ids::serviceButton}, {u"row"_s, 0}}, -32602},
         {u"menu.open"_s, {{u"row"_s, 0}}, -32001},
-        {u"menu.open"_s, {{u"id"_s, 3009}}, -32002},
+        {u"menu.open"_s, {{u"id"_s, ids::datePicker}}, -32002},
         {u"menu.open"_s, {{u"point"_s, QJsonArray{5000, 1}}}, -32602},
-        {u"menu.choose"_s, {{u"id"_s, 5050}}, -32002},
+        {u"menu.choose"_s, {{u"id"_s, ids::firstServiceCommand}}, -32002},
         {u"view.link"_s, {{u"group"_s, 256}}, -32602},
         {u"view.open"_s, {{u"docked"_s, true}, {u"size"_s, QJsonArray{9, 9}}}, -32602},
         {u"symbol.change"_s, {{u"group"_s, 1}, {u"service"_s, 16}}, -32602},
@@ -270,7 +273,7 @@ TEST_F(AutomationSessionTest, HostSettingsTakeEffectAtOnceAndSwitchesForTheNextV
 TEST_F(AutomationSessionTest, MenusAnswerWhileTheyAreOpen) {
     ScriptClient script(arguments());
     script.result(u"view.open"_s);
-    const QJsonObject button{{u"id"_s, 3010}};
+    const QJsonObject button{{u"id"_s, ids::serviceButton}};
     const QJsonArray items = script.result(u"menu.open"_s, button)[u"items"_s].toArray();
     ASSERT_GT(items.size(), 2);
     EXPECT_EQ(items[1][u"id"_s].toInt(), 5051);
@@ -358,10 +361,10 @@ TEST_F(AutomationSessionTest, ASearchIsComposedInItsDialogAndFindsChineseAndEngl
     script.result(u"feed.push"_s, news(2, u"2026-03-02T09:02:00"_s, 1, u"央行降息在即"_s));
     script.result(u"feed.push"_s, news(1, u"2026-03-02T09:03:00"_s, 2, u"Nothing of note"_s));
     script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{900, 600}}, {u"mask"_s, 0x09}});
-    script.result(u"control.choose"_s, QJsonObject{{u"id"_s, 3100}, {u"index"_s, 1}});
+    script.result(u"control.choose"_s, QJsonObject{{u"id"_s, ids::tabStrip}, {u"index"_s, 1}});
     EXPECT_TRUE(script.result(u"dialog.state"_s).isNull());
 
-    script.result(u"view.command"_s, QJsonObject{{u"id"_s, 3002}});
+    script.result(u"view.command"_s, QJsonObject{{u"id"_s, ids::dealsSearchButton}});
     const QJsonObject opened = script.result(u"dialog.state"_s).toObject();
     EXPECT_EQ(opened[u"id"_s].toInt(), 2013);
     EXPECT_EQ(opened[u"title"_s].toString(), u"Advanced Search"_s);
@@ -381,7 +384,7 @@ TEST_F(AutomationSessionTest, ASearchIsComposedInItsDialogAndFindsChineseAndEngl
     const QJsonObject found = script.result(u"grid.read"_s, QJsonObject{{u"list"_s, 3}}).toObject();
     EXPECT_EQ(titlesOf(found), (QStringList{u"央行降息在即"_s, u"Rate cut is near"_s}));
 
-    script.result(u"view.command"_s, QJsonObject{{u"id"_s, 3002}});
+    script.result(u"view.command"_s, QJsonObject{{u"id"_s, ids::dealsSearchButton}});
     const QJsonArray controls = script.result(u"dialog.state"_s).toObject()[u"controls"_s].toArray();
     const auto recent = std::find_if(controls.begin(), controls.end(), [](const QJsonValue& control) {
         return control[u"id"_s].toInt() == 2074;
@@ -394,3 +397,5 @@ TEST_F(AutomationSessionTest, ASearchIsComposedInItsDialogAndFindsChineseAndEngl
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -7,8 +7,9 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 // An old wire of topic 1, then one of topic 2 that is smaller: a new topic must not wait for all of it to be
 // counted.
@@ -35,3 +36,5 @@ TEST(CategoryNames, OfMoreThanTheFileHoldsTheLatestTopicsComeFirst) {
     ASSERT_EQ(names.size(), topics + 1U) << "with that of news without a topic";
     EXPECT_EQ(names.front().id, 2);
 }
+
+}  // namespace wirepane

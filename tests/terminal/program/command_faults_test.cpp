@@ -11,8 +11,9 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -145,3 +146,5 @@ TEST_F(CommandFaultsTest, WhatIsPutOutFollowsTheUsersMask) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -17,6 +17,8 @@
 using namespace Qt::StringLiterals;
 using namespace wirepane::test;
 
+namespace wirepane {
+
 namespace {
 
 class CommandLineTest : public testing::Test {
@@ -304,3 +306,5 @@ TEST_F(CommandLineTest, EveryCategoryOfTheSampleHasNews) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -14,8 +14,9 @@
 #include <random>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -231,3 +232,5 @@ TEST_F(DamagedStoreTest, WhatIsNotRefusedIsSeenByCheck) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The desk worked by keyboard: views, links, the symbol box, settings.
 #include "host/controls/window_id.h"
+#include "host/views/news_control_ids.h"
 #include "terminal/automation/user_input.h"
 #include "terminal/frame/settings_dialog.h"
 #include "terminal/frame/symbol_box.h"
@@ -24,8 +25,9 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -35,7 +37,7 @@ protected:
 
     int activeNumber() { return session->workspace().active()->number; }
     QString codeOf(int view) {
-        return session->workspace().find(view)->access->State()[u"symbol"_s].toMap()[u"code"_s].toString();
+        return session->workspace().find(view)->access->state()[u"symbol"_s].toMap()[u"code"_s].toString();
     }
     // A symbol of the sample that news may name.
     SymbolItem someSymbol(std::size_t place) {
@@ -87,7 +89,7 @@ TEST_F(DeskTest, TheSymbolBoxDrivesTheViewsOfItsGroup) {
     press(Qt::Key_N);
     press(Qt::Key_N);
     press(Qt::Key_0);  // the third view follows nothing
-    EXPECT_EQ(workspace.find(3)->view->GetLinkGroup(), 0);
+    EXPECT_EQ(workspace.find(3)->view->linkedGroup(), 0);
     const SymbolItem first = someSymbol(3);
     press(Qt::Key_K);
     QTest::keyClicks(QApplication::focusWidget(), first.code);
@@ -123,8 +125,8 @@ TEST_F(DeskTest, TheSymbolBoxDrivesTheViewsOfItsGroup) {
     // A view that joins the group takes its symbol; one that picks another hands it to the group.
     workspace.link(*workspace.find(3), 1);
     EXPECT_EQ(codeOf(3), second.code);
-    clickTab(*qobject_cast<QTabBar*>(GetDlgItem(workspace.find(3)->view, 3100)), 2);
-    chooseComboEntry(*qobject_cast<QComboBox*>(GetDlgItem(workspace.find(3)->view, 3005)), 0);
+    clickTab(*qobject_cast<QTabBar*>(dlgItem(workspace.find(3)->view, ids::tabStrip)), 2);
+    chooseComboEntry(*qobject_cast<QComboBox*>(dlgItem(workspace.find(3)->view, ids::symbolCombo)), 0);
     ASSERT_TRUE(QTest::qWaitFor([&] { return codeOf(3) != second.code; }));
     EXPECT_EQ(codeOf(1), codeOf(3));
     EXPECT_EQ(line->text(), codeOf(3));
@@ -134,7 +136,7 @@ TEST_F(DeskTest, TheSymbolBoxDrivesTheViewsOfItsGroup) {
 TEST_F(DeskTest, TitlesFollowTheUserTheTabAndTheLanguage) {
     OpenView& view = *session->workspace().active();
     EXPECT_EQ(view.shownTitle(), u"All News"_s);
-    clickTab(*qobject_cast<QTabBar*>(GetDlgItem(view.view, 3100)), 1);
+    clickTab(*qobject_cast<QTabBar*>(dlgItem(view.view, ids::tabStrip)), 1);
     ASSERT_TRUE(QTest::qWaitFor([&] { return view.dock->windowTitle().contains(u"By Category"_s); }));
     press(Qt::Key_F3, Qt::NoModifier);
     ASSERT_TRUE(QTest::qWaitFor([&] { return view.dock->windowTitle().contains(u"Search"_s); }));
@@ -175,7 +177,7 @@ TEST_F(DeskTest, SettingsTakeEffectWhenTheyAreAccepted) {
     EXPECT_TRUE(session->settings().switches().warningSearch);
     // The user's views are opened anew under their numbers, with the new tabs.
     QSet<int> modes;
-    const QVariantList tabs = session->workspace().find(1)->access->State()[u"tabs"_s].toList();
+    const QVariantList tabs = session->workspace().find(1)->access->state()[u"tabs"_s].toList();
     for (const QVariant& tab : tabs)
         modes.insert(tab.toMap()[u"mode"_s].toInt());
     EXPECT_FALSE(modes.contains(4));
@@ -183,14 +185,16 @@ TEST_F(DeskTest, SettingsTakeEffectWhenTheyAreAccepted) {
 
 TEST_F(DeskTest, ClosedAndDuplicatedViewsKeepTheirSettingsApart) {
     Workspace& workspace = session->workspace();
-    clickTab(*qobject_cast<QTabBar*>(GetDlgItem(workspace.find(1)->view, 3100)), 1);
+    clickTab(*qobject_cast<QTabBar*>(dlgItem(workspace.find(1)->view, ids::tabStrip)), 1);
     press(Qt::Key_D);
-    EXPECT_EQ(workspace.find(2)->access->State()[u"mode"_s].toInt(), 1);
+    EXPECT_EQ(workspace.find(2)->access->state()[u"mode"_s].toInt(), 1);
     session->keeper().save();
     workspace.close(2);
     press(Qt::Key_N);
     EXPECT_EQ(workspace.find(3)->place, 1);
-    EXPECT_EQ(workspace.find(3)->access->State()[u"mode"_s].toInt(), 0) << "a new view is a fresh one";
+    EXPECT_EQ(workspace.find(3)->access->state()[u"mode"_s].toInt(), 0) << "a new view is a fresh one";
 }
 
 }  // namespace
+
+}  // namespace wirepane

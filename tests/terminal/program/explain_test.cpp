@@ -10,6 +10,8 @@
 using namespace Qt::StringLiterals;
 using namespace wirepane::test;
 
+namespace wirepane {
+
 namespace {
 
 // A store with an item of 1 March and one of 2 March, and the user's settings, of another service.
@@ -91,3 +93,5 @@ TEST_F(ExplainTest, TellsWhatIsWrongWithAKey) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

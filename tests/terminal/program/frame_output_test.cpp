@@ -20,8 +20,9 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -74,7 +75,7 @@ TEST_F(FrameOutputTest, TheLatestHeadlineStandsInAWindowOfItsOwn) {
 }
 
 TEST_F(FrameOutputTest, ThePreviewShowsTheSelectedNews) {
-    session->workspace().active()->access->Sheet(0)->vSetActiveSelection(0, -1);
+    session->workspace().active()->access->sheetOf(0)->setActiveSelection(0, -1);
     QString shown;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
@@ -91,7 +92,7 @@ TEST_F(FrameOutputTest, ThePreviewShowsTheSelectedNews) {
 }
 
 TEST_F(FrameOutputTest, ATopicThatIsNewToTheStoreHasItsName) {
-    const CSuperSheetWnd& sheet = *session->workspace().active()->access->Sheet(0);
+    const CSuperSheetWnd& sheet = *session->workspace().active()->access->sheetOf(0);
     const auto topic = [&sheet] { return sheet.model()->index(0, 1).data().toString(); };
     publish(1, u"Zinc rises"_s, u"Metals"_s);
     EXPECT_TRUE(QTest::qWaitFor([&] { return topic() == u"Metals"_s; })) << topic().toStdString();
@@ -126,3 +127,5 @@ TEST_F(FrameOutputTest, TheGuideIsWholeAndAllItsLinksLeadSomewhere) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -15,8 +15,9 @@
 #include <random>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -138,3 +139,5 @@ TEST_F(ImportKillTest, AnInterruptEndsTheImportBetweenTwoItems) {
 #endif
 
 }  // namespace
+
+}  // namespace wirepane

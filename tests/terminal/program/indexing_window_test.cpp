@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace wirepane;
+namespace wirepane {
 
 namespace {
 
@@ -41,3 +41,5 @@ TEST(IndexingWindow, ComesUpWhenItTakesLong) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // A reader's session by keyboard alone.
+#include "host/views/news_control_ids.h"
 #include "tests/terminal/program/program_runner.h"
 #include "tests/terminal/program/script_client.h"
 
@@ -10,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -108,7 +111,7 @@ TEST_F(KeyboardSession, TypesEveryCharacter) {
     QString typed;
     const QJsonArray controls = state(u"controls"_s).toArray();
     for (const auto& control : controls) {
-        if (control[u"id"_s] == 3008)
+        if (control[u"id"_s] == ids::searchEdit)
             typed = control[u"text"_s].toString();
     }
     EXPECT_EQ(typed.toStdString(), text.toStdString());
@@ -123,7 +126,7 @@ TEST_F(KeyboardSession, InputThatCannotBeDoneIsRefused) {
     const Case cases[] = {
         {u"input.key"_s, {{u"key"_s, u"NoSuchKey"_s}}, -32602},
         {u"input.key"_s, {{u"key"_s, u"Return"_s}, {u"target"_s, 77}}, -32001},
-        {u"input.key"_s, {{u"key"_s, u"Return"_s}, {u"target"_s, 3008}}, -32002},
+        {u"input.key"_s, {{u"key"_s, u"Return"_s}, {u"target"_s, ids::searchEdit}}, -32002},
         {u"input.key"_s, {{u"key"_s, u"Return"_s}, {u"target"_s, 3009.5}}, -32602},
         {u"input.type"_s, {{u"target"_s, u"grid"_s}}, -32602},
         {u"input.click"_s, {{u"row"_s, 99}}, -32001},
@@ -135,3 +138,5 @@ TEST_F(KeyboardSession, InputThatCannotBeDoneIsRefused) {
     script.result(u"input.click"_s, QJsonObject{{u"row"_s, 3}, {u"double"_s, true}});
     EXPECT_EQ(state(u"storyRow"_s).toInt(), 3);
 }
+
+}  // namespace wirepane

@@ -16,8 +16,9 @@
 #include <random>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -303,3 +304,5 @@ TEST_F(FeedKillTest, AKilledTerminalHasEveryFileThatItMovedAway) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -17,8 +17,9 @@
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -39,7 +40,7 @@ protected:
             30000);
         if (!shown)
             return {};
-        EXPECT_GT(CheckAccessibleNames(*dialog), 0);
+        EXPECT_GT(checkAccessibleNames(*dialog), 0);
         QString said;
         for (const auto* label : dialog->findChildren<QLabel*>())
             said += label->text();
@@ -54,7 +55,7 @@ protected:
         auto* progress = session->frame().findChild<QProgressDialog*>();
         return progress != nullptr && progress->isVisible() ? progress : nullptr;
     }
-    int rows() { return session->workspace().active()->access->Sheet(0)->iGetRowCount(); }
+    int rows() { return session->workspace().active()->access->sheetOf(0)->rowCount(); }
 };
 
 TEST_F(NewsImportTest, TellsWhatCameOfIt) {
@@ -115,7 +116,7 @@ TEST_F(NewsImportTest, ALongOneCanBeCancelledAndLeavesWholeFiles) {
     import.takeIn({first, second});
     EXPECT_EQ(shownProgress(), nullptr) << "not at once";
     ASSERT_TRUE(QTest::qWaitFor([&] { return shownProgress() != nullptr; }));
-    EXPECT_GT(CheckAccessibleNames(*shownProgress()), 0);
+    EXPECT_GT(checkAccessibleNames(*shownProgress()), 0);
     ASSERT_TRUE(QTest::qWaitFor([&] { return rows() == before + 1; })) << "the terminal goes on";
     // Asked for again, it only shows what is running.
     shownProgress()->hide();
@@ -174,3 +175,5 @@ TEST(ImportRunner, TakesRelativePathsAndEndsItsProgram) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

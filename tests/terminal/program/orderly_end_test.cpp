@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "host/views/news_control_ids.h"
 #include "terminal/settings/settings_file.h"
 #include "terminal/settings/workspace_layout.h"
 #include "tests/terminal/program/program_runner.h"
@@ -14,8 +15,9 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -41,8 +43,9 @@ TEST_P(OrderlyEndTest, KeepsTheSettingsAndLeavesNoSockets) {
         arguments({u"--workspace"_s, u"--feed"_s, feed, u"--automation-socket"_s, automation}));
     // A modal dialog is open, and the last change is not two seconds old.
     script.result(u"view.open"_s, QJsonObject{{u"docked"_s, true}});
-    script.result(u"control.choose"_s, QJsonObject{{u"view"_s, 2}, {u"id"_s, 3100}, {u"index"_s, 3}});
-    script.result(u"view.command"_s, QJsonObject{{u"view"_s, 2}, {u"id"_s, 3002}});
+    script.result(u"control.choose"_s,
+                  QJsonObject{{u"view"_s, 2}, {u"id"_s, ids::tabStrip}, {u"index"_s, 3}});
+    script.result(u"view.command"_s, QJsonObject{{u"view"_s, 2}, {u"id"_s, ids::dealsSearchButton}});
     ASSERT_FALSE(script.result(u"dialog.state"_s).isNull());
     ASSERT_TRUE(QFileInfo::exists(feed) && QFileInfo::exists(automation));
     EXPECT_EQ(script.end(GetParam()), 0) << script.notes().toStdString();
@@ -91,3 +94,5 @@ TEST_F(OrderlyEndTest, AReplayTakesItsTerminalAndItsFolderWithIt) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "host/views/news_control_ids.h"
 #include "tests/terminal/program/program_runner.h"
 #include "tests/terminal/program/script_client.h"
 
@@ -12,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -93,9 +96,9 @@ TEST_F(OutputSessionTest, AWaitIsEndedByItsAnswerOrWithTheTerminal) {
 
 TEST_F(OutputSessionTest, TheStoryDialogTellsWhatItShows) {
     while (terminal.result(u"view.state"_s)[u"storyShowType"_s].toInt() != 0)
-        terminal.result(u"view.command"_s, QJsonObject{{u"id"_s, 25458}});
+        terminal.result(u"view.command"_s, QJsonObject{{u"id"_s, ids::showTypeButton}});
     select({0});
-    terminal.result(u"view.command"_s, QJsonObject{{u"id"_s, 9270}});
+    terminal.result(u"view.command"_s, QJsonObject{{u"id"_s, ids::showStory}});
     const QJsonValue state = terminal.result(u"story.state"_s, QJsonObject{{u"where"_s, u"dialog"_s}});
     EXPECT_TRUE(state[u"visible"_s].toBool());
     EXPECT_EQ(state[u"title"_s].toString(), u"2026/03/02 09:02:00 \r\nSecond"_s);
@@ -104,3 +107,5 @@ TEST_F(OutputSessionTest, TheStoryDialogTellsWhatItShows) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Searches that stand, and the quotes beside a story, in the real program: composed, kept, and fed by a
 // replay.
+#include "host/views/news_control_ids.h"
 #include "tests/terminal/program/program_runner.h"
 #include "tests/terminal/program/script_client.h"
 
@@ -11,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -79,8 +82,9 @@ TEST_F(StandingSearchSessionTest, TickedKeySetsTakeTheHeadlinesOfAReplayThatThey
     ScriptClient script(arguments(u"news.wirepane"_s));
     script.result(u"host.set"_s, QJsonObject{{u"switches"_s, QJsonObject{{u"ShowNormalSearch"_s, 1}}}});
     script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{900, 600}}, {u"mask"_s, 0x09}});
-    script.result(u"control.choose"_s, QJsonObject{{u"id"_s, 3100}, {u"text"_s, u"Relation Search"_s}});
-    command(script, 3001);
+    script.result(u"control.choose"_s,
+                  QJsonObject{{u"id"_s, ids::tabStrip}, {u"text"_s, u"Relation Search"_s}});
+    command(script, ids::relationSearchButton);
     for (const QString& keyword : {u"CHIPS"_s, u"降息"_s}) {
         set(script, 2061, u"text"_s, keyword);
         click(script, 2063);
@@ -109,8 +113,9 @@ TEST_F(StandingSearchSessionTest, TheChosenWarningTermComesBackAndIsSearchedForA
         ScriptClient script(arguments(u"news.wirepane"_s));
         script.result(u"host.set"_s, warnings);
         script.result(u"view.open"_s, open);
-        script.result(u"control.choose"_s, QJsonObject{{u"id"_s, 3100}, {u"text"_s, u"Warning Terms"_s}});
-        command(script, 3006);
+        script.result(u"control.choose"_s,
+                      QJsonObject{{u"id"_s, ids::tabStrip}, {u"text"_s, u"Warning Terms"_s}});
+        command(script, ids::warningSearchButton);
         for (const QString& words : {u"copper"_s, u"tea, rice"_s}) {
             click(script, 3);
             set(script, 2043, u"text"_s, words);
@@ -157,3 +162,5 @@ TEST_F(StandingSearchSessionTest, TheQuotesBesideAStoryAreLive) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -5,6 +5,7 @@
 #include "host/contract/clock.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
+#include "host/views/news_control_ids.h"
 #include "terminal/automation/user_input.h"
 #include "terminal/session/frame_commands.h"
 #include "terminal/session/session.h"
@@ -21,8 +22,9 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
 using namespace wirepane::test;
+
+namespace wirepane {
 
 namespace {
 
@@ -44,7 +46,7 @@ protected:
         EXPECT_TRUE(opened) << (opened ? "" : sentence(opened.error()).toStdString());
         return std::move(session.value());
     }
-    static QVariantMap stateOf(Session& session) { return session.workspace().newest()->access->State(); }
+    static QVariantMap stateOf(Session& session) { return session.workspace().newest()->access->state(); }
 
     Scratch scratch;
 };
@@ -55,7 +57,7 @@ TEST_F(UserTerminalTest, OpensAsItWasClosed) {
         ASSERT_NE(session, nullptr);
         const FrameCommands commands(*session);
         ASSERT_EQ(stateOf(*session)[u"mode"_s].toInt(), 0);
-        auto* tabs = qobject_cast<QTabBar*>(GetDlgItem(session->workspace().newest()->view, 3100));
+        auto* tabs = qobject_cast<QTabBar*>(dlgItem(session->workspace().newest()->view, ids::tabStrip));
         ASSERT_NE(tabs, nullptr);
         clickTab(*tabs, 1);
         emit session->frame().schemeChosen(u"dark"_s);
@@ -102,7 +104,7 @@ TEST_F(UserTerminalTest, ReadAsOfAnotherDayShowsThatDay) {
     const auto session = open();
     ASSERT_NE(session, nullptr);
     EXPECT_EQ(stateOf(*session)[u"pickedDate"_s].toInt(), 20260302);
-    EXPECT_GT(session->workspace().newest()->access->Sheet(0)->iGetRowCount(), 0);
+    EXPECT_GT(session->workspace().newest()->access->sheetOf(0)->rowCount(), 0);
     ASSERT_TRUE(session->readAsOf(moment(u"2026-02-27T10:00:00"_s)));
     ASSERT_EQ(session->workspace().views().size(), 1U);
     EXPECT_EQ(stateOf(*session)[u"pickedDate"_s].toInt(), 20260227);
@@ -111,8 +113,8 @@ TEST_F(UserTerminalTest, ReadAsOfAnotherDayShowsThatDay) {
 TEST_F(UserTerminalTest, ReadingAsOfAMomentEndsThereAndGoesOnAsTheClockRuns) {
     const auto session = open();
     ASSERT_NE(session, nullptr);
-    const auto rows = [&] { return session->workspace().newest()->access->Sheet(0)->iGetRowCount(); };
-    const auto newest = [&] { return session->workspace().newest()->access->Keys(0, 0, 1).front().time; };
+    const auto rows = [&] { return session->workspace().newest()->access->sheetOf(0)->rowCount(); };
+    const auto newest = [&] { return session->workspace().newest()->access->keysOf(0, 0, 1).front().time; };
     const auto clock = [&] {
         QStringList shown;
         for (const QLabel* label : session->frame().statusBar()->findChildren<QLabel*>()) {
@@ -122,7 +124,7 @@ TEST_F(UserTerminalTest, ReadingAsOfAMomentEndsThereAndGoesOnAsTheClockRuns) {
         return shown.join(u'|');
     };
     const auto isTold = [&] {
-        const QVariant notice = session->workspace().newest()->access->State()[u"notice"_s];
+        const QVariant notice = session->workspace().newest()->access->state()[u"notice"_s];
         return notice.toString().contains(u"As of an earlier moment"_s);
     };
     const int whole = rows();
@@ -197,3 +199,5 @@ TEST(TourTest, LeavesAPictureOfEachSceneAndThePrintedAndSavedNews) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The user's workspace across runs of the real program: left in order, killed, or with settings that make no
 // sense.
+#include "host/views/news_control_ids.h"
 #include "tests/terminal/program/program_runner.h"
 #include "tests/terminal/program/script_client.h"
 
@@ -14,10 +15,10 @@
 using namespace Qt::StringLiterals;
 using namespace wirepane::test;
 
+namespace wirepane {
+
 namespace {
 
-constexpr int tabStrip = 3100;
-constexpr int symbolCombo = 3005;
 constexpr int linkGroup = 3;
 
 class WorkspaceTest : public testing::Test {
@@ -51,14 +52,14 @@ protected:
         script.result(u"view.open"_s, QJsonObject{{u"docked"_s, true}, {u"newsType"_s, 2}});
         for (const int view : {1, 2})
             script.result(u"view.link"_s, QJsonObject{{u"view"_s, view}, {u"group"_s, linkGroup}});
-        choose(script, 1, tabStrip, 1);
-        choose(script, 2, tabStrip, 2);
+        choose(script, 1, ids::tabStrip, 1);
+        choose(script, 2, ids::tabStrip, 2);
         // A symbol that one view picks reaches the others.
-        choose(script, 2, symbolCombo, 5);
+        choose(script, 2, ids::symbolCombo, 5);
         code = stateOf(script, 2)[u"symbol"_s][u"code"_s].toString();
         ASSERT_FALSE(code.isEmpty());
-        script.result(u"menu.open"_s, QJsonObject{{u"view"_s, 1}, {u"id"_s, 3010}});
-        script.result(u"menu.choose"_s, QJsonObject{{u"id"_s, 5050}});
+        script.result(u"menu.open"_s, QJsonObject{{u"view"_s, 1}, {u"id"_s, ids::serviceButton}});
+        script.result(u"menu.choose"_s, QJsonObject{{u"id"_s, ids::firstServiceCommand}});
         script.result(u"host.set"_s,
                       QJsonObject{{u"scheme"_s, u"dark"_s}, {u"lang"_s, u"zh-TW"_s}, {u"fontSize"_s, 11}});
         script.result(u"view.link"_s, QJsonObject{{u"view"_s, 3}, {u"group"_s, linkGroup}});
@@ -175,3 +176,5 @@ TEST_F(WorkspaceTest, FilesOfTheModuleThatCannotBeWrittenAreTold) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -16,7 +16,8 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -134,3 +135,5 @@ TEST(ErrorTexts, AnErrorIsToldInTheLanguageInForceAlsoByAnotherProgram) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -10,7 +10,8 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -27,10 +28,10 @@ TEST(LayoutStoreTest, KeepsEachKindOfSettingApartByViewAndPlace) {
     {
         SettingsFile file(path);
         LayoutStore store(file);
-        store.SetViewInfo(one, u"ShowCategory"_s, false);
-        store.SetViewInfo(one, u"FocusedTab"_s, 65535);
-        store.SetViewInfo(one, u"SymbolID"_s, u"2330,\"台\""_s);
-        store.SetViewInfo(one, u"Items"_s, QStringList{u"a,b"_s, u""_s});
+        store.setViewInfo(one, u"ShowCategory"_s, false);
+        store.setViewInfo(one, u"FocusedTab"_s, 65535);
+        store.setViewInfo(one, u"SymbolID"_s, u"2330,\"台\""_s);
+        store.setViewInfo(one, u"Items"_s, QStringList{u"a,b"_s, u""_s});
         ASSERT_TRUE(file.save());
     }
     SettingsFile file(path);
@@ -103,3 +104,5 @@ TEST(ColourSchemeTest, TextIsReadableOnEveryGround) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -9,7 +9,8 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -61,3 +62,5 @@ TEST(ModuleFilesTest, SaysWhichFileCannotBeWritten) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

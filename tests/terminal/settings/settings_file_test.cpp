@@ -11,7 +11,8 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -226,3 +227,5 @@ TEST_F(SettingsFileTest, SaysWhenItCannotBeSaved) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

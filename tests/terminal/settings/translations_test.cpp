@@ -15,7 +15,8 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -111,3 +112,5 @@ TEST(TranslationsTest, LanguagesHaveTheSamePlaceholdersAndEdges) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

@@ -12,7 +12,8 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using namespace wirepane;
+
+namespace wirepane {
 
 namespace {
 
@@ -85,3 +86,5 @@ TEST_F(WorkspaceLayoutTest, NonsenseCostsNoMoreThanItself) {
 }
 
 }  // namespace
+
+}  // namespace wirepane

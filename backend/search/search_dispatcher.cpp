@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/search/search_desk.h"
+#include "backend/search/search_dispatcher.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,13 +19,13 @@ bool holdsAny(const std::vector<CHeadlineTable>& entries, const std::vector<Head
                 return entry.time != wanted.time ? entry.time > wanted.time
                                                  : entry.sequence > wanted.sequence;
             });
-        return place != entries.end() && KeyOf(*place) == key;
+        return place != entries.end() && keyOf(*place) == key;
     });
 }
 
 }  // namespace
 
-SearchDesk::SearchDesk(const QString& storePath, Answered answered, Gate answerGate)
+SearchDispatcher::SearchDispatcher(const QString& storePath, Answered answered, Gate answerGate)
     : tell(std::move(answered)),
       gate(answerGate ? std::move(answerGate) : [](const std::function<void()>& answer) { answer(); }) {
     worker = std::make_unique<SearchWorker>(
@@ -36,14 +36,14 @@ SearchDesk::SearchDesk(const QString& storePath, Answered answered, Gate answerG
         });
 }
 
-SearchDesk::~SearchDesk() {
+SearchDispatcher::~SearchDispatcher() {
     for (const Search& search : searches) {
         for (const auto& [service, pending] : search.pending)
             *pending.dropped = true;
     }
 }
 
-void SearchDesk::ask(unsigned char service, int kind, const CSearch& condition) {
+void SearchDispatcher::ask(unsigned char service, int kind, const CSearch& condition) {
     Search& search = searchOf(kind, condition);
     present[kind] = search.id;
     if (const auto older = search.pending.find(service); older != search.pending.end())
@@ -52,7 +52,7 @@ void SearchDesk::ask(unsigned char service, int kind, const CSearch& condition) 
     forgetOldest();
 }
 
-void SearchDesk::send(Search& search, unsigned char service, std::optional<News> news) {
+void SearchDispatcher::send(Search& search, unsigned char service, std::optional<News> news) {
     const std::int64_t ticket = ++lastNumber;
     const auto dropped = std::make_shared<std::atomic<bool>>(false);
     search.pending.insert_or_assign(service, Pending{ticket, dropped, std::move(news), {}});
@@ -60,7 +60,7 @@ void SearchDesk::send(Search& search, unsigned char service, std::optional<News>
 }
 
 // One that is being searched may have been read before the news came.
-void SearchDesk::lookAgain(unsigned char service, const News& news) {
+void SearchDispatcher::lookAgain(unsigned char service, const News& news) {
     for (Search& search : searches) {
         const auto pending = search.pending.find(service);
         if (pending != search.pending.end())
@@ -70,7 +70,7 @@ void SearchDesk::lookAgain(unsigned char service, const News& news) {
     }
 }
 
-SearchDesk::Search& SearchDesk::searchOf(int kind, const CSearch& condition) {
+SearchDispatcher::Search& SearchDispatcher::searchOf(int kind, const CSearch& condition) {
     const auto known = std::find_if(searches.begin(), searches.end(), [&](const Search& search) {
         return search.kind == kind && search.condition == condition;
     });
@@ -83,7 +83,7 @@ SearchDesk::Search& SearchDesk::searchOf(int kind, const CSearch& condition) {
     return searches.back();
 }
 
-const std::vector<CHeadlineTable>& SearchDesk::table(unsigned char service, int kind) const {
+const std::vector<CHeadlineTable>& SearchDispatcher::table(unsigned char service, int kind) const {
     static const std::vector<CHeadlineTable> none;
     const auto id = present.find(kind);
     if (id == present.end())
@@ -97,7 +97,7 @@ const std::vector<CHeadlineTable>& SearchDesk::table(unsigned char service, int 
     return none;
 }
 
-void SearchDesk::take(std::int64_t ticket, std::vector<CHeadlineTable>&& entries) {
+void SearchDispatcher::take(std::int64_t ticket, std::vector<CHeadlineTable>&& entries) {
     for (Search& search : searches) {
         for (auto pending = search.pending.begin(); pending != search.pending.end(); ++pending) {
             if (pending->second.ticket != ticket)
@@ -118,7 +118,7 @@ void SearchDesk::take(std::int64_t ticket, std::vector<CHeadlineTable>&& entries
 }
 
 // A receiver may send a search meanwhile, which then stays the present one.
-void SearchDesk::deliver(Search& search, unsigned char service) {
+void SearchDispatcher::deliver(Search& search, unsigned char service) {
     const int kind = search.kind;
     const std::int64_t id = search.id;
     const CSearch condition = search.condition;
@@ -128,7 +128,7 @@ void SearchDesk::deliver(Search& search, unsigned char service) {
         present[kind] = before;
 }
 
-void SearchDesk::forgetOldest() {
+void SearchDispatcher::forgetOldest() {
     const auto canGo = [this](const Search& search) {
         return search.pending.empty() && present[search.kind] != search.id;
     };

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "output/news_item.h"
+#include "output/output_item.h"
 
 #include "output/printable_story.h"
 #include "story/story_text.h"
@@ -10,17 +10,19 @@
 #include <map>
 #include <unordered_map>
 
+namespace wirepane {
+
 namespace {
 
-using ItemsByNumber = std::unordered_multimap<std::uint64_t, NewsItem*>;
+using ItemsByNumber = std::unordered_multimap<std::uint64_t, OutputItem*>;
 
 std::uint64_t numberOf(unsigned char service, std::int32_t sequence) {
     return static_cast<std::uint64_t>(service) << 32 | static_cast<std::uint32_t>(sequence);
 }
 
-ItemsByNumber byNumber(NewsItems& items) {
+ItemsByNumber byNumber(OutputItems& items) {
     ItemsByNumber result;
-    for (NewsItem& item : items)
+    for (OutputItem& item : items)
         result.emplace(numberOf(item.entry.service, item.entry.sequence), &item);
     return result;
 }
@@ -30,32 +32,32 @@ ItemsByNumber byNumber(NewsItems& items) {
 void takeTitle(const ItemsByNumber& items, const CHeadline& headline) {
     const auto [first, last] = items.equal_range(numberOf(headline.service, headline.sequence));
     for (auto item = first; item != last; ++item) {
-        NewsItem& found = *item->second;
+        OutputItem& found = *item->second;
         const CHeadlineTable entry{headline.time, headline.sequence, headline.service, found.entry.second,
                                    found.entry.last};
-        if (!IsSameNews(found.entry, entry))
+        if (!isSameNews(found.entry, entry))
             continue;
         found.title = headline.title;
         found.hasTitle = true;
     }
 }
 
-void putStory(NewsItem& item, const CStory& story, StoryForm form) {
+void putStory(OutputItem& item, const CStory& story, StoryForm form) {
     item.leftOut = story.text.isEmpty();
     item.hasStory = !item.leftOut;
     item.story = item.leftOut ? QString() : form(story);
 }
 
-void takeLateStory(BKQuoteInterface& backEnd, NewsItem& item) {
+void takeLateStory(BKQuoteInterface& backEnd, OutputItem& item) {
     CStory story;
     if (item.hasTitle && !item.hasStory && backEnd.BKQNEWS_bGetStory(story, item.entry) &&
-        IsSameNews(story.entry, item.entry))
-        putStory(item, story, &LateStory);
+        isSameNews(story.entry, item.entry))
+        putStory(item, story, &lateStory);
 }
 
 // The headline was announced, and none of the services that are looked at has it: its own may, as for news
 // that was listed before its service was unticked.
-void takeAnnounced(BKQuoteInterface& backEnd, NewsItem& item) {
+void takeAnnounced(BKQuoteInterface& backEnd, OutputItem& item) {
     std::vector<CHeadline> headlines;
     item.leftOut = backEnd.BKQNEWS_iGetHeadline(item.entry.service, headlines, {item.entry}) == 0;
     if (item.leftOut)
@@ -66,20 +68,20 @@ void takeAnnounced(BKQuoteInterface& backEnd, NewsItem& item) {
 
 }  // namespace
 
-bool bIsSettled(const NewsItems& items) {
-    return std::all_of(items.begin(), items.end(), [](const NewsItem& item) { return item.bIsSettled(); });
+bool isSettled(const OutputItems& items) {
+    return std::all_of(items.begin(), items.end(), [](const OutputItem& item) { return item.isSettled(); });
 }
 
-NewsItems Complete(const NewsItems& items) {
-    NewsItems complete;
+OutputItems completeItems(const OutputItems& items) {
+    OutputItems complete;
     std::copy_if(items.begin(), items.end(), std::back_inserter(complete),
-                 [](const NewsItem& item) { return item.bIsComplete(); });
+                 [](const OutputItem& item) { return item.isComplete(); });
     return complete;
 }
 
-NewsItems GatherNews(BKQuoteInterface& backEnd, const std::vector<CHeadlineTable>& entries,
-                     const std::vector<unsigned char>& services, StoryForm form) {
-    NewsItems items(entries.size());
+OutputItems gatherNews(BKQuoteInterface& backEnd, const std::vector<CHeadlineTable>& entries,
+                       const std::vector<unsigned char>& services, StoryForm form) {
+    OutputItems items(entries.size());
     for (std::size_t i = 0; i < entries.size(); ++i) {
         items[i].entry = entries[i];
         CStory story;
@@ -96,9 +98,9 @@ NewsItems GatherNews(BKQuoteInterface& backEnd, const std::vector<CHeadlineTable
     return items;
 }
 
-void RequestMissing(BKQuoteInterface& backEnd, NewsItems& items) {
+void requestMissing(BKQuoteInterface& backEnd, OutputItems& items) {
     std::map<unsigned char, std::vector<CHeadlineTable>> untitled;
-    for (const NewsItem& item : items) {
+    for (const OutputItem& item : items) {
         if (!item.hasTitle)
             untitled[item.entry.service].push_back(item.entry);
     }
@@ -109,16 +111,16 @@ void RequestMissing(BKQuoteInterface& backEnd, NewsItems& items) {
         for (const CHeadline& headline : headlines)
             takeTitle(index, headline);
     }
-    for (const NewsItem& item : items) {
-        if (!item.bIsSettled() && !item.hasStory)
+    for (const OutputItem& item : items) {
+        if (!item.isSettled() && !item.hasStory)
             backEnd.BKQNews_bReRequestHeadlineStory(item.entry);
     }
 }
 
-void TakeTitles(BKQuoteInterface& backEnd, NewsItems& items, const std::vector<CHeadlineTable>& entries,
+void takeTitles(BKQuoteInterface& backEnd, OutputItems& items, const std::vector<CHeadlineTable>& entries,
                 const std::vector<unsigned char>& services) {
     ItemsByNumber untitled;
-    for (NewsItem& item : items) {
+    for (OutputItem& item : items) {
         if (!item.hasTitle)
             untitled.emplace(numberOf(item.entry.service, item.entry.sequence), &item);
     }
@@ -133,16 +135,18 @@ void TakeTitles(BKQuoteInterface& backEnd, NewsItems& items, const std::vector<C
     for (const auto& [number, item] : untitled) {
         const bool announced = std::any_of(
             entries.begin(), entries.end(),
-            [&awaited = item->entry](const CHeadlineTable& entry) { return IsSameNews(entry, awaited); });
+            [&awaited = item->entry](const CHeadlineTable& entry) { return isSameNews(entry, awaited); });
         if (announced && !item->hasTitle)
             takeAnnounced(backEnd, *item);
         takeLateStory(backEnd, *item);
     }
 }
 
-void TakeStory(BKQuoteInterface& backEnd, NewsItems& items, const CHeadlineTable& entry) {
-    for (NewsItem& item : items) {
-        if (IsSameNews(item.entry, entry))
+void takeStory(BKQuoteInterface& backEnd, OutputItems& items, const CHeadlineTable& entry) {
+    for (OutputItem& item : items) {
+        if (isSameNews(item.entry, entry))
             takeLateStory(backEnd, item);
     }
 }
+
+}  // namespace wirepane

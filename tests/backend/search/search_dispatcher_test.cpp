@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/search/search_desk.h"
+#include "backend/search/search_dispatcher.h"
 
 #include "tests/backend/store/store_fixture.h"
 
@@ -20,13 +20,13 @@ CSearch conditionOf(const QString& keyword) {
 }
 
 // Each answer is written down with the sizes of the tables of services 1 and 2 at that moment.
-class SearchDeskTest : public StoreFixture {
+class SearchDispatcherTest : public StoreFixture {
 protected:
-    SearchDeskTest() {
+    SearchDispatcherTest() {
         takeNews(newsItem(1, u"a"_s, at(9, 0), u"gold"_s));
         takeNews(newsItem(1, u"b"_s, at(9, 1), u"gold and tin"_s));
         takeNews(newsItem(2, u"c"_s, at(9, 2), u"gold"_s));
-        desk = std::make_unique<SearchDesk>(
+        desk = std::make_unique<SearchDispatcher>(
             store->path(), [this](const CSearch& condition, unsigned char service) {
                 answers += u"%1@%2 %3"_s.arg(condition.keywords.front()).arg(service).arg(sizes());
                 if (then)
@@ -42,10 +42,10 @@ protected:
 
     QStringList answers;
     std::function<void()> then;
-    std::unique_ptr<SearchDesk> desk;
+    std::unique_ptr<SearchDispatcher> desk;
 };
 
-TEST_F(SearchDeskTest, AnswersEachServiceAndKeepsTheTableForTheSameCondition) {
+TEST_F(SearchDispatcherTest, AnswersEachServiceAndKeepsTheTableForTheSameCondition) {
     desk->ask(1, kind, conditionOf(u"gold"_s));
     desk->ask(2, kind, conditionOf(u"gold"_s));
     EXPECT_EQ(sizes(), u"0,0");
@@ -81,7 +81,7 @@ TEST_F(SearchDeskTest, AnswersEachServiceAndKeepsTheTableForTheSameCondition) {
     EXPECT_EQ(sizes(), u"0,0");
 }
 
-TEST_F(SearchDeskTest, ANewerSearchForTheSameConditionMakesTheOlderVoid) {
+TEST_F(SearchDispatcherTest, ANewerSearchForTheSameConditionMakesTheOlderVoid) {
     for (int i = 0; i < 50; ++i)
         desk->ask(1, kind, conditionOf(u"gold"_s));
     desk->ask(2, kind, conditionOf(u"gold"_s));
@@ -91,7 +91,7 @@ TEST_F(SearchDeskTest, ANewerSearchForTheSameConditionMakesTheOlderVoid) {
 }
 
 // Two views search at once: each reads its own tables while it is answered, and what was sent last stays.
-TEST_F(SearchDeskTest, AnOvertakenSearchIsAnsweredWithItsOwnTables) {
+TEST_F(SearchDispatcherTest, AnOvertakenSearchIsAnsweredWithItsOwnTables) {
     desk->ask(1, kind, conditionOf(u"tin"_s));
     desk->ask(1, kind, conditionOf(u"gold"_s));
     desk->ask(2, kind, conditionOf(u"tin"_s));
@@ -101,7 +101,7 @@ TEST_F(SearchDeskTest, AnOvertakenSearchIsAnsweredWithItsOwnTables) {
     EXPECT_EQ(sizes(), u"2,1");
 }
 
-TEST_F(SearchDeskTest, ASearchSentDuringAnAnswerIsThePresentOne) {
+TEST_F(SearchDispatcherTest, ASearchSentDuringAnAnswerIsThePresentOne) {
     then = [this] { desk->ask(2, kind, conditionOf(u"tin"_s)); };
     desk->ask(1, kind, conditionOf(u"gold"_s));
     ASSERT_TRUE(answered(2));
@@ -109,10 +109,10 @@ TEST_F(SearchDeskTest, ASearchSentDuringAnAnswerIsThePresentOne) {
     EXPECT_EQ(sizes(), u"0,0");
 }
 
-TEST_F(SearchDeskTest, AStoreThatCannotBeReadGivesEmptyAnswersAndTheEndWaitsForNothing) {
+TEST_F(SearchDispatcherTest, AStoreThatCannotBeReadGivesEmptyAnswersAndTheEndWaitsForNothing) {
     QStringList told;
-    SearchDesk lost(pathOf(u"none.db"_s),
-                    [&](const CSearch&, unsigned char service) { told += QString::number(service); });
+    SearchDispatcher lost(pathOf(u"none.db"_s),
+                          [&](const CSearch&, unsigned char service) { told += QString::number(service); });
     lost.ask(7, kind, conditionOf(u"gold"_s));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !told.isEmpty(); }));
     EXPECT_TRUE(lost.table(7, kind).empty());

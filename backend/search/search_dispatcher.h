@@ -20,7 +20,7 @@ namespace wirepane {
 // other views have sent theirs meanwhile: of the searches that are answered the last few are kept. One that
 // was composed anew since then is new. While an answer is delivered, its search is the present one, so that a
 // view whose search was overtaken by another view's still reads its own.
-class SearchDesk {
+class SearchDispatcher {
 public:
     // `answered` is called for each answer, from the event loop, when its table can be read.
     using Answered = std::function<void(const CSearch& condition, unsigned char service)>;
@@ -29,11 +29,11 @@ public:
     // once.
     using Gate = std::function<void(const std::function<void()>& answer)>;
 
-    SearchDesk(const QString& storePath, Answered answered, Gate gate = {});
+    SearchDispatcher(const QString& storePath, Answered answered, Gate gate = {});
     // Gives up what is being searched.
-    ~SearchDesk();
-    SearchDesk(const SearchDesk&) = delete;
-    SearchDesk& operator=(const SearchDesk&) = delete;
+    ~SearchDispatcher();
+    SearchDispatcher(const SearchDispatcher&) = delete;
+    SearchDispatcher& operator=(const SearchDispatcher&) = delete;
 
     // Sends a search; one in the same service for the same condition that is not answered yet is void.
     void ask(unsigned char service, int kind, const CSearch& condition);

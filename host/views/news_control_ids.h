@@ -4,7 +4,10 @@
 
 #include <array>
 
-// Numbers of the view's controls, commands and timers.
+namespace wirepane {
+
+// Numbers of the view's controls and commands: what GetDlgItem finds, what OnCommand takes. They stay what
+// they are.
 namespace ids {
 
 // Controls of the control row and the tab strip.
@@ -54,3 +57,5 @@ inline constexpr int refreshTimer = 1;
 inline constexpr int refreshDelayMs = 100;
 
 }  // namespace ids
+
+}  // namespace wirepane
