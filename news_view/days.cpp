@@ -36,7 +36,7 @@ QString Days::pickedKey() const {
 
 void Days::connectPicker() {
     const auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker);
-    QObject::connect(picker, &SDateTimeCtrl::DropDown, &parts.window, [this] { calendarOpened(); });
+    QObject::connect(picker, &SDateTimeCtrl::droppedDown, &parts.window, [this] { calendarOpened(); });
     QObject::connect(picker, &SDateTimeCtrl::dateTimeChange, &parts.window,
                      [this](const QDate& date) { dateChanged(date); });
     QObject::connect(picker, &SDateTimeCtrl::closeUp, &parts.window, [this] { calendarClosed(); });

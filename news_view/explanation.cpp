@@ -64,12 +64,12 @@ private:
                     return readTables(view.backEnd, services, TableKind::ByDate, wanted, filter);
                 }};
     }
-    Subject Topic() const;
-    Subject Symbol() const;
+    Subject topic() const;
+    Subject symbol() const;
     Subject subjectOf(ListIndex list) const;
 
     std::vector<CheckedStanding> checks(ListIndex list, int row) const;
-    CheckedStanding Service(ListIndex list) const;
+    CheckedStanding serviceCheck(ListIndex list) const;
     void addKeySets(ListIndex list, const Subject& subject, std::vector<CheckedStanding>& checks) const;
 
     const ExplainedView& view;
@@ -78,7 +78,7 @@ private:
     bool isTicked = false;
 };
 
-Subject Explanation::Topic() const {
+Subject Explanation::topic() const {
     std::vector<CHeadline> headlines;
     view.backEnd.BKQNEWS_iGetHeadline(key.service, headlines, {{key.time, key.sequence, key.service, 0, 0}});
     const QString own = headlines.empty() ? QString() : QString::number(headlines.front().categoryId);
@@ -89,7 +89,7 @@ Subject Explanation::Topic() const {
             }};
 }
 
-Subject Explanation::Symbol() const {
+Subject Explanation::symbol() const {
     const CSymbolInfo listed = view.lists.listSymbol();
     return {StandingCheck::Symbol,
             listed.code,
@@ -101,14 +101,14 @@ Subject Explanation::Symbol() const {
 
 Subject Explanation::subjectOf(ListIndex list) const {
     if (list == ListIndex::Category)
-        return Topic();
+        return topic();
     if (list == ListIndex::Symbol)
-        return Symbol();
+        return symbol();
     // The news that the key sets are tried on is the present day's.
     return dayOf(list == ListIndex::Relation ? dateKey(host_clock::today()) : view.day);
 }
 
-CheckedStanding Explanation::Service(ListIndex list) const {
+CheckedStanding Explanation::serviceCheck(ListIndex list) const {
     const QString own = QString::number(key.service);
     if (list == ListIndex::Warrant)
         return {StandingCheck::Service, key.service == warrantService, QString::number(warrantService), own};
@@ -117,7 +117,7 @@ CheckedStanding Explanation::Service(ListIndex list) const {
 
 std::vector<CheckedStanding> Explanation::checks(ListIndex list, int row) const {
     std::vector<CheckedStanding> checks{{StandingCheck::Told, isRead(dayOf(day), nullptr), {}, {}},
-                                        Service(list)};
+                                        serviceCheck(list)};
     if (list == ListIndex::Search || list == ListIndex::WarningTerm) {
         const bool searched = view.wasSearched[static_cast<std::size_t>(list)];
         checks.push_back(

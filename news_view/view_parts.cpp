@@ -88,7 +88,7 @@ ViewBuilder::Calls TRVNewsCtrlView::Parts::builderCalls() {
 }
 
 void TRVNewsCtrlView::Parts::connectGrid(CSuperSheetWnd& grid, ListIndex list) {
-    QObject::connect(&grid, &CSuperSheetWnd::LButtonUp, &view,
+    QObject::connect(&grid, &CSuperSheetWnd::leftButtonUp, &view,
                      [this](const QPoint& point) { view.OnLButtonUp(forwardedByGrid, point); });
     QObject::connect(&grid, &CSuperSheetWnd::lButtonDblClk, &view,
                      [this](const QPoint& point) { view.OnLButtonDblClk(forwardedByGrid, point); });

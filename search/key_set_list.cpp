@@ -20,7 +20,7 @@ KeySetList::KeySetList(std::span<const ReportColumn> columns, QWidget* parent) :
     });
     connect(this, &QTableWidget::cellClicked, this, [this](int row) {
         if (!clickTicked)
-            emit RowChosen(row);
+            emit rowChosen(row);
     });
     connect(this, &QTableWidget::cellDoubleClicked, this, [this](int row) {
         if (!clickTicked)
@@ -29,7 +29,7 @@ KeySetList::KeySetList(std::span<const ReportColumn> columns, QWidget* parent) :
     });
     connect(this, &QTableWidget::itemSelectionChanged, this, [this] {
         if (selectionModel()->hasSelection())
-            emit RowChosen(currentRow());
+            emit rowChosen(currentRow());
         else
             emit rowLeft();
     });
@@ -69,7 +69,7 @@ void KeySetList::mark(int row) {
     scrollToItem(item(row, 0));
 }
 
-// The mouse selects by being clicked beside a check box: RowChosen is answered with mark.
+// The mouse selects by being clicked beside a check box: rowChosen is answered with mark.
 QItemSelectionModel::SelectionFlags KeySetList::selectionCommand(const QModelIndex& index,
                                                                  const QEvent* event) const {
     const bool byMouse = dynamic_cast<const QMouseEvent*>(event) != nullptr;
@@ -103,7 +103,7 @@ void KeySetList::keyPressEvent(QKeyEvent* event) {
     // The arrow that has nowhere to go takes the row where it is.
     const bool arrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
     if (arrow && currentRow() >= 0 && !selectionModel()->hasSelection())
-        emit RowChosen(currentRow());
+        emit rowChosen(currentRow());
 }
 
 }  // namespace wirepane

@@ -26,7 +26,7 @@ public:
 
 signals:
     // The user clicked a row, or went to it by keys.
-    void RowChosen(int row);
+    void rowChosen(int row);
     // He is done with the marked row: a click of the right button, Esc.
     void rowLeft();
     // He clicked a row twice. Sent after the click.

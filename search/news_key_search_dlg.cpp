@@ -135,7 +135,7 @@ void CNewsKeySearchDlg::createKeySetList() {
     keySetList->setAccessibleName(langText(search_keys::relationTitle));
     keySetList->setFixedHeight(keySetList->heightOf(keySetRows));
     keySetList->installEventFilter(this);
-    connect(keySetList, &KeySetList::RowChosen, this, &CNewsKeySearchDlg::edit);
+    connect(keySetList, &KeySetList::rowChosen, this, &CNewsKeySearchDlg::edit);
     connect(keySetList, &KeySetList::rowLeft, this, &CNewsKeySearchDlg::stopEditing);
     connect(keySetList, &KeySetList::ticksChanged, this, &CNewsKeySearchDlg::followTicks);
     connect(keySetList, &KeySetList::rowDoubleClicked, this, [this](int row) {

@@ -107,7 +107,7 @@ void NewsStoryView::OnClearStory() {
 void NewsStoryView::vSetStorySearchMarke() {
     if (storyEdit == nullptr)
         return;
-    if (const auto match = reader.Mark(storyEdit->shownText()))
+    if (const auto match = reader.mark(storyEdit->shownText()))
         storyEdit->setSelection(match->start, match->end);
 }
 

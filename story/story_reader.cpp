@@ -79,7 +79,7 @@ StoryTexts StoryReader::RespStory(const CHeadlineTable& answered) {
     return texts;
 }
 
-std::optional<TextRange> StoryReader::Mark(const QString& shownText) const {
+std::optional<TextRange> StoryReader::mark(const QString& shownText) const {
     return condition.keywordSearch ? lastKeywordMatch(shownText, condition.keywords) : std::nullopt;
 }
 

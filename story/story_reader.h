@@ -73,7 +73,7 @@ public:
     StoryTexts RespStory(const CHeadlineTable& entry);
 
     // Which characters of the shown story to select for the keywords; none unless found by keyword search.
-    std::optional<TextRange> Mark(const QString& shownText) const;
+    std::optional<TextRange> mark(const QString& shownText) const;
 
 private:
     std::optional<CHeadlineTable> entryAtPosition() const;

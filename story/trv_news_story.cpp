@@ -132,7 +132,7 @@ void TRVNewsStory::showStory(const QString& text) {
 }
 
 void TRVNewsStory::vSetStorySearchMarke() {
-    if (const auto match = reader.Mark(storyEdit->shownText()))
+    if (const auto match = reader.mark(storyEdit->shownText()))
         storyEdit->setSelection(match->start, match->end);
 }
 

@@ -64,7 +64,7 @@ BRINGS_OWNERS_TOGETHER = "news_view/view_parts.h"
 # What keeps the view quick to read and to compile: lines of its face, of what owners see of it and of an owner's
 # header; and headers of this repository that half of the room's files may reach, directly and by others.
 MOST_LINES = {"news_view/trv_news_ctrl_view.h": 220, "news_view/view_context.h": 60}
-MOST_LINES_OF_AN_OWNER = 100
+MOST_LINES_OF_AN_OWNER = 110
 MOST_REACHED_BY_HALF = 28
 # A back end needs no widgets: of the host it knows the contract alone.
 WITHOUT_WIDGETS = {"backend", "host/contract", "sample_wire"}

@@ -63,7 +63,7 @@ bool SDateTimeCtrl::eventFilter(QObject* watched, QEvent* event) {
     if (watched == calendarWidget() && event->type() == QEvent::Show) {
         dropped = true;
         dateAtOpening = date();
-        emit DropDown();
+        emit droppedDown();
     } else if (watched == calendarWidget() && event->type() == QEvent::Hide && dropped) {
         dropped = false;
         emit closeUp(date());

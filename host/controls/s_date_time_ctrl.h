@@ -7,9 +7,9 @@
 #include <QDateEdit>
 
 // A date picker with a drop-down calendar, which F4, Alt+Down and the arrow open, and which speaks the
-// language of the default locale. It tells of the user's changes only, at once and in this order: DropDown,
-// any number of DateTimeChange, CloseUp. Esc closes the calendar and goes back to the date it was opened
-// with, or that was set meanwhile.
+// language of the default locale. It tells of the user's changes only, at once and in this order:
+// droppedDown, any number of DateTimeChange, CloseUp. Esc closes the calendar and goes back to the date it
+// was opened with, or that was set meanwhile.
 class WIREPANE_HOST_EXPORT SDateTimeCtrl : public QDateEdit {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ public:
 
 Q_SIGNALS:
     // The calendar opens.
-    void DropDown();
+    void droppedDown();
     // The user changed the date, in the line or in the open calendar.
     void dateTimeChange(const QDate& date);
     // The calendar has closed, with this date in force.

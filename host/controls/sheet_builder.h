@@ -92,7 +92,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 Q_SIGNALS:
-    void QueueAboutToBeTakenUp();
+    void queueAboutToBeTakenUp();
     void queueTakenUp();
 
 private:

@@ -41,7 +41,7 @@ void CSheetBuilder::takeUpQueue() {
     if (!queue || takingUp)
         return;
     takingUp = true;
-    emit QueueAboutToBeTakenUp();
+    emit queueAboutToBeTakenUp();
     takeOutRows();
     putInRows();
     putInOrder();

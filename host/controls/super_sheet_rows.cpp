@@ -190,7 +190,7 @@ bool isPlainClick(const QMouseEvent& event) {
 void CSuperSheetWnd::mouseReleaseEvent(QMouseEvent* event) {
     QTableView::mouseReleaseEvent(event);
     if (isPlainClick(*event))
-        emit LButtonUp(viewport()->mapTo(this, event->pos()));
+        emit leftButtonUp(viewport()->mapTo(this, event->pos()));
 }
 
 void CSuperSheetWnd::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -73,7 +73,7 @@ void CSuperSheetWnd::connectRows() {
     };
     connect(builder, &QAbstractItemModel::rowsInserted, this, keepColours);
     connect(builder, &QAbstractItemModel::rowsRemoved, this, keepColours);
-    connect(builder, &CSheetBuilder::QueueAboutToBeTakenUp, this, [this] {
+    connect(builder, &CSheetBuilder::queueAboutToBeTakenUp, this, [this] {
         takingUp = true;
         shownFirst = verticalScrollBar()->value();
         shownShift = builder->queuedShift(shownFirst);

@@ -122,7 +122,7 @@ public:
 Q_SIGNALS:
     // The left button was released, was clicked twice, over the rows or below them, without Ctrl or Shift
     // (which change the selection); the sheet has acted on it. The point is one of the sheet.
-    void LButtonUp(const QPoint& point);
+    void leftButtonUp(const QPoint& point);
     void lButtonDblClk(const QPoint& point);
     // Other rows have come on screen, because the user or code scrolled or because rows on screen went. Not
     // sent while rows come and go above those on screen, which keep their places then.

@@ -8,16 +8,16 @@ namespace wirepane {
 
 namespace {
 
-enum Fit { exactCode, codePrefix, nameOrText, none };
+enum Fit { ExactCode, CodePrefix, NameOrText, NoFit };
 
 Fit fitOf(QStringView item, QStringView typed) {
     const qsizetype blank = item.indexOf(u' ');
     const QStringView code = blank < 0 ? item : item.left(blank);
     if (code.startsWith(typed, Qt::CaseInsensitive))
-        return code.size() == typed.size() ? exactCode : codePrefix;
+        return code.size() == typed.size() ? ExactCode : CodePrefix;
     const bool whole = item.startsWith(typed, Qt::CaseInsensitive);
     const bool name = blank >= 0 && item.mid(blank + 1).contains(typed, Qt::CaseInsensitive);
-    return whole || name ? nameOrText : none;
+    return whole || name ? NameOrText : NoFit;
 }
 
 }  // namespace
@@ -27,10 +27,10 @@ std::vector<int> symbolMatches(const QString& typed, int count, const std::funct
     const QString wanted = typed.trimmed();
     if (wanted.isEmpty())
         return {};
-    std::vector<int> groups[none];
+    std::vector<int> groups[NoFit];
     for (int index = 0; index < count; ++index) {
         const Fit fit = fitOf(text(index), wanted);
-        if (fit != none)
+        if (fit != NoFit)
             groups[fit].push_back(index);
     }
     std::vector<int> matches;

@@ -5,10 +5,10 @@
 namespace wirepane {
 
 // What the program returns.
-enum ExitStatus : int {
-    exitDone = 0,
-    exitPartly = 1,    // import: something was rejected, or it was stopped; check: faults were found
-    exitUnusable = 2,  // wrong arguments, a store or a file that cannot be used
-};
+using ExitStatus = int;
+inline constexpr ExitStatus exitDone = 0;
+inline constexpr ExitStatus exitPartly =
+    1;  // import: something was rejected, or it was stopped; check: faults were found
+inline constexpr ExitStatus exitUnusable = 2;  // wrong arguments, a store or a file that cannot be used
 
 }  // namespace wirepane

@@ -155,7 +155,7 @@ void Desk::open(int number, const QString& systemFolder) {
 }
 
 void Desk::tickKeySets() {
-    TRVNewsCtrlView& view = View(desk::relating);
+    TRVNewsCtrlView& view = viewOf(desk::relating);
     bool ticked = false;
     QTimer::singleShot(0, &view, [&ticked] {
         auto* dialog = qobject_cast<CNewsKeySearchDlg*>(QApplication::activeModalWidget());
@@ -169,7 +169,7 @@ void Desk::tickKeySets() {
 }
 
 std::vector<HeadlineKey> Desk::keysOf(int view, int list) const {
-    return View(view).keysOf(list, 0, View(view).iGetHeadlineTableSize(list));
+    return viewOf(view).keysOf(list, 0, viewOf(view).iGetHeadlineTableSize(list));
 }
 
 std::vector<int> Desk::modesOf(int view) {
@@ -178,15 +178,15 @@ std::vector<int> Desk::modesOf(int view) {
 }
 
 void Desk::goTo(int view, int mode) {
-    View(view).SwitchFunction(mode);
+    viewOf(view).SwitchFunction(mode);
     settle();
 }
 
 QStringList Desk::textsOf(int view, int list, int row) const {
-    CSuperSheetWnd& sheet = *View(view).sheetOf(list);
+    CSuperSheetWnd& sheet = *viewOf(view).sheetOf(list);
     if (row < sheet.firstVisibleRow() || row > sheet.firstVisibleRow() + sheet.rowsPerPage()) {
         sheet.verticalScrollBar()->setValue(row);
-        View(view).vRealUpdateView();
+        viewOf(view).vRealUpdateView();
     }
     QStringList texts;
     for (int column = 0; column < sheet.model()->columnCount(); ++column)
@@ -196,7 +196,7 @@ QStringList Desk::textsOf(int view, int list, int row) const {
 
 std::vector<unsigned char> Desk::tickedServices(int view) const {
     std::vector<unsigned char> ticked;
-    const QVariantList services = View(view).state()[u"services"_s].toList();
+    const QVariantList services = viewOf(view).state()[u"services"_s].toList();
     for (const QVariant& service : services) {
         if (service.toMap()[u"selected"_s].toBool())
             ticked.push_back(static_cast<unsigned char>(service.toMap()[u"id"_s].toInt()));
@@ -239,7 +239,7 @@ void Desk::awaitSearches() {
 }
 
 void Desk::search(const QString& word) {
-    TRVNewsCtrlView& view = View(desk::searching);
+    TRVNewsCtrlView& view = viewOf(desk::searching);
     qobject_cast<QLineEdit*>(dlgItem(&view, ids::searchEdit))->setText(word);
     view.OnSearch();
 }
@@ -264,14 +264,14 @@ void Desk::rebuildLists(const QDate& day) {
         view.InitialHeadlineTable(2);
         view.SwitchFunction(warrantMode);
     }
-    View(desk::relating).SwitchFunction(relationMode);
-    View(desk::relating).InitialHeadlineTable(relationMode);
-    View(desk::searching).SwitchFunction(searchMode);
+    viewOf(desk::relating).SwitchFunction(relationMode);
+    viewOf(desk::relating).InitialHeadlineTable(relationMode);
+    viewOf(desk::searching).SwitchFunction(searchMode);
     search(searchWord);
     askEveryService(searchWord);
     settle();
-    View(desk::warning).SwitchFunction(warningMode);
-    View(desk::warning).OnDealsSearch();
+    viewOf(desk::warning).SwitchFunction(warningMode);
+    viewOf(desk::warning).OnDealsSearch();
     askEveryService(desk::warningWord);
     settle();
     for (const Place& place : views)
@@ -288,7 +288,7 @@ void Desk::letOtherSearchesGo() {
 }
 
 void Desk::doSomething(WeekWire& dice) {
-    TRVNewsCtrlView& view = View(dice.below(desk::views));
+    TRVNewsCtrlView& view = viewOf(dice.below(desk::views));
     CSuperSheetWnd* sheet = view.pGetCurrSheetView();
     const int rows = sheet->rowCount();
     if (dice.below(2) == 0)
@@ -299,7 +299,7 @@ void Desk::doSomething(WeekWire& dice) {
 
 void Desk::doSomethingBig(WeekWire& dice, const QDate& day) {
     const int number = dice.below(desk::views);
-    TRVNewsCtrlView& view = View(number);
+    TRVNewsCtrlView& view = viewOf(number);
     const std::vector<int> modes = modesOf(number);
     switch (dice.below(6)) {
         case 0:

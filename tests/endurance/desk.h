@@ -38,7 +38,7 @@ public:
     ~Desk();
 
     wirepane::EmbeddedBackEnd& embeddedBackEnd() { return *backEnd; }
-    TRVNewsCtrlView& View(int number) const { return *views.at(static_cast<std::size_t>(number)).view; }
+    TRVNewsCtrlView& viewOf(int number) const { return *views.at(static_cast<std::size_t>(number)).view; }
     std::vector<HeadlineKey> keysOf(int view, int list) const;
     std::vector<unsigned char> tickedServices(int view) const;
     // The modes that a view has, and a switch to one.

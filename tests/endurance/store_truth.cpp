@@ -58,7 +58,7 @@ QStringList StoreTruth::textsOf(const HeadlineKey& key) {
     return query.next() ? QStringList{query.text(0), query.text(1)} : QStringList();
 }
 
-int StoreTruth::Count(const char* sql) {
+int StoreTruth::count(const char* sql) {
     std::int64_t number = -1;
     return store->readNumber(sql, number) ? static_cast<int>(number) : -1;
 }

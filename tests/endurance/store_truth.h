@@ -32,7 +32,7 @@ public:
     std::vector<HeadlineKey> ofSymbol(unsigned char market, const QString& code, const Services& services);
     // Headlines with the word, of every service and day.
     std::vector<HeadlineKey> withWord(const QString& word);
-    int Count(const char* sql);
+    int count(const char* sql);
     // The title of a headline and the name of its topic.
     QStringList textsOf(const HeadlineKey& key);
 

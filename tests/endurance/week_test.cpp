@@ -143,7 +143,7 @@ protected:
 
     // Rows and their texts. At most `mostTexts` rows are looked at one by one.
     void expectListAsItStands(int view, int list) {
-        TRVNewsCtrlView& held = session->View(view);
+        TRVNewsCtrlView& held = session->viewOf(view);
         StoreTruth truth(session->embeddedBackEnd().storePath());
         const std::vector<unsigned char> ticked = session->tickedServices(view);
         const QDate picked =
@@ -205,7 +205,7 @@ protected:
         for (int view = 0; view < desk::views && !HasFatalFailure(); ++view) {
             // A list of a symbol takes the pushed news whose main symbol it is, and finds more when it is
             // read.
-            const int current = session->View(view).state()[u"mode"_s].toInt();
+            const int current = session->viewOf(view).state()[u"mode"_s].toInt();
             if (current != static_cast<int>(ListIndex::Symbol))
                 expectListAsItStands(view, current);
             for (const int mode : Desk::modesOf(view)) {
@@ -221,9 +221,9 @@ protected:
         ASSERT_GT(truth.ofDay(day, {1}).size(), std::size_t(perDay / 10));
         for (int view = 0; view < desk::views; ++view) {
             const std::vector<unsigned char> ticked = session->tickedServices(view);
-            const QVariantMap symbol = session->View(view).state()[u"symbol"_s].toMap();
+            const QVariantMap symbol = session->viewOf(view).state()[u"symbol"_s].toMap();
             MemoryCfgIO saved;
-            session->View(view).SaveViewInfo(&saved, u"Layout"_s, 0, 0);
+            session->viewOf(view).SaveViewInfo(&saved, u"Layout"_s, 0, 0);
             expectKeys(view, 0, truth.ofDay(day, ticked));
             expectKeys(view, 1, truth.ofCategory(saved.values[u"CategoryID"_s].toInt(), ticked));
             expectKeys(view, 2,

@@ -50,16 +50,16 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     MyBackEnd backEnd;
     backEnd.Publish(QStringLiteral("Something"));
-    BKQuoteInterface::SetBKInterface(&backEnd);
+    BKQuoteInterface::setBKInterface(&backEnd);
     QString error;
-    NewsModule* module = LoadNewsModule(QStringLiteral(MODULE), error);
+    wirepane::NewsModule* module = wirepane::loadNewsModule(QStringLiteral(MODULE), error);
     QWidget frame;
     TRVQuoteBaseView* view = module->CreateView(QStringLiteral("TRVNewsCtrlView"), &frame);
-    MemoryCfgIO settings;
+    wirepane::MemoryCfgIO settings;
     view->OnInitialUpdate();
     view->InitialViewInfo(&settings, QString(), 0, 0, QString());
     frame.show();
-    const CSuperSheetWnd* sheet = dynamic_cast<NewsViewAccess*>(view)->Sheet(0);
+    const CSuperSheetWnd* sheet = dynamic_cast<wirepane::NewsViewAccess*>(view)->sheetOf(0);
     QTextStream(stdout) << sheet->model()->index(0, 1).data().toString() << '\n';
 }
 END
@@ -73,7 +73,7 @@ cat >>"$work/headers/host.cpp" <<'END'
 #include <QTextStream>
 int main() {
     QString error;
-    const bool loaded = LoadNewsModule(QStringLiteral(MODULE), error) != nullptr;
+    const bool loaded = wirepane::loadNewsModule(QStringLiteral(MODULE), error) != nullptr;
     QTextStream(stderr) << error;
     return loaded ? 0 : 1;
 }

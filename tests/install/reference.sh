@@ -17,6 +17,6 @@ told colour "$(grep -rhoE 'COLOR_[A-Za-z0-9_]+' --include='*.cpp' --include='*.h
 told setting "$(grep -hoE 'Key = u"[^"]+"' news_view/view_settings.cpp search/search_memory.cpp | cut -d '"' -f 2)"
 told option "$(grep -oE 'QLatin1StringView\("[A-Za-z]+"' host/contract/view_options.h | cut -d '"' -f 2)"
 told control "$(sed -nE '/first|Timer|storyPane|relatedQuotes|DelayMs/! s/.*constexpr int .* = ([0-9]+);.*/\1/p' \
-    news_view/control_ids.h)"
+    host/views/news_control_ids.h)"
 told operation "$(grep -h -B 1 '= 0;' host/contract/bk_quote_interface.h | grep -oE 'b?[A-Za-z_]+\(' | tr -d '(')"
 exit $missing

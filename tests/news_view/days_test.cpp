@@ -89,7 +89,7 @@ TEST_F(DaysTest, ADateIsTakenWithinTheRangeAndToldOtherwise) {
 
 TEST_F(DaysTest, WhileTheCalendarIsOpenNothingIsPicked) {
     givePicker();
-    emit picker().DropDown();
+    emit picker().droppedDown();
     emit picker().dateTimeChange(QDate(2026, 3, 1));
     EXPECT_EQ(days.picked(), today);
     picker().showDate(QDate(2026, 3, 1));

@@ -27,7 +27,7 @@ protected:
             told << QStringLiteral("%1 %2").arg(QLatin1StringView(what),
                                                 date.toString(QStringLiteral("MM/dd")));
         };
-        QObject::connect(picker, &SDateTimeCtrl::DropDown, picker,
+        QObject::connect(picker, &SDateTimeCtrl::droppedDown, picker,
                          [this] { told << QStringLiteral("drop"); });
         QObject::connect(picker, &SDateTimeCtrl::dateTimeChange, picker,
                          [log](const QDate& date) { log("change", date); });
