@@ -130,8 +130,8 @@ void CategoryMode::vRefreshCategoryCombo() {
     chosen();
 }
 
-std::vector<CategoryItem> CategoryMode::itemsOfServices() const {
-    std::vector<CategoryItem> offered;
+std::vector<OfferedCategory> CategoryMode::itemsOfServices() const {
+    std::vector<OfferedCategory> offered;
     std::set<QString> known;
     for (const ServiceEntry& entry : parts.services.savedServices()) {
         std::vector<QString> idTexts;
@@ -153,7 +153,7 @@ void CategoryMode::fillCombo() {
     items = itemsOfServices();
     missed.clear();
     combo->clear();
-    for (const CategoryItem& item : items)
+    for (const OfferedCategory& item : items)
         combo->addItem(item.text);
 }
 
@@ -174,8 +174,8 @@ void CategoryMode::learnCombo() {
 
 // The place of a category in the combo; -1 when it is not there.
 int CategoryMode::indexOf(const QString& id) const {
-    const auto found =
-        std::find_if(items.begin(), items.end(), [&id](const CategoryItem& item) { return item.id == id; });
+    const auto found = std::find_if(items.begin(), items.end(),
+                                    [&id](const OfferedCategory& item) { return item.id == id; });
     return found == items.end() ? -1 : static_cast<int>(found - items.begin());
 }
 

@@ -68,7 +68,7 @@ public:
     void learnCombo();
 
 private:
-    std::vector<CategoryItem> itemsOfServices() const;
+    std::vector<OfferedCategory> itemsOfServices() const;
     void fillCombo();
     int indexOf(const QString& id) const;
 
@@ -76,10 +76,10 @@ private:
     const CommonParts parts;
     const std::function<const RelationMatcher*()> filter;
     NewsCategories names;
-    std::vector<CategoryItem> items;  // in the order of the combo
-    std::set<QString> missed;         // by the combo since it was filled
-    bool isOneMissed = false;         // since the last refresh
-    bool comboIsBehind = false;       // it was open when there was something to learn
+    std::vector<OfferedCategory> items;  // in the order of the combo
+    std::set<QString> missed;            // by the combo since it was filled
+    bool isOneMissed = false;            // since the last refresh
+    bool comboIsBehind = false;          // it was open when there was something to learn
 };
 
 }  // namespace wirepane

@@ -11,11 +11,11 @@
 namespace wirepane {
 
 // An entry of the category combo.
-struct CategoryItem {
+struct OfferedCategory {
     QString id;  // decimal
     QString text;
 
-    bool operator==(const CategoryItem&) const = default;
+    bool operator==(const OfferedCategory&) const = default;
 };
 
 // What the categories of each service are called: as the host's file says, and what it leaves out as the
