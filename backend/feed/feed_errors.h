@@ -12,7 +12,6 @@ inline constexpr ErrorCode unknownLine{
 inline constexpr ErrorCode greetingNotFirst{"ERROR_FEED_GREETING_NOT_FIRST",
                                             u"A greeting can only be the first line."};
 inline constexpr ErrorCode lineOver{"ERROR_FEED_LINE_OVER", u"The line is longer than %1 MiB."};
-inline constexpr ErrorCode lineTooLong{"ERROR_FEED_LINE_TOO_LONG", u"The line is too long."};
 inline constexpr ErrorCode atPosition{"ERROR_FEED_AT_POSITION", u"%1"};
 
 // Of spool folders and their files.

@@ -103,10 +103,6 @@
         <source></source>
         <translation>The line is longer than %1 MiB.</translation>
     </message>
-    <message id="ERROR_FEED_LINE_TOO_LONG">
-        <source></source>
-        <translation>The line is too long.</translation>
-    </message>
     <message id="ERROR_FEED_MORE_REJECTED">
         <source></source>
         <translation>and more: %1 items were rejected.</translation>

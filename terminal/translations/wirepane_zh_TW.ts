@@ -103,10 +103,6 @@
         <source></source>
         <translation>此行超過 %1 MiB。</translation>
     </message>
-    <message id="ERROR_FEED_LINE_TOO_LONG">
-        <source></source>
-        <translation>此行過長。</translation>
-    </message>
     <message id="ERROR_FEED_MORE_REJECTED">
         <source></source>
         <translation>以及更多：共有 %1 個項目被拒絕。</translation>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/feed/feed_errors.h"
 #include "backend/feed/line_source.h"
+#include "backend/import/import_errors.h"
 #include "tests/backend/feed/feed_fixture.h"
 
 #include <thread>
@@ -30,7 +30,7 @@ TEST_F(TakeBatchTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
     EXPECT_FALSE(source.hasBatch());
     source.add(positioned(record(u"a"_s, u"A"_s), 1));
     source.add("rubbish");
-    source.addRejected(makeError<feed_errors::lineTooLong>());
+    source.addRejected(makeError<import_errors::lineTooLong>(10));
     source.add(helloLine({u"other"_s, 1}));
     source.add(positioned(record(u"a"_s, u"A"_s), 2));
     const Result<BatchOutcome> taken = takeBatch(source, *writer);
