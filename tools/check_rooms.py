@@ -66,6 +66,8 @@ BRINGS_OWNERS_TOGETHER = "news_view/view_parts.h"
 MOST_LINES = {"news_view/trv_news_ctrl_view.h": 220, "news_view/view_context.h": 60}
 MOST_LINES_OF_AN_OWNER = 110
 MOST_REACHED_BY_HALF = 28
+# Any source of the product: what is longer has more than one job.
+MOST_LINES_OF_A_SOURCE = 470
 # A back end needs no widgets: of the host it knows the contract alone.
 WITHOUT_WIDGETS = {"backend", "host/contract", "sample_wire"}
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([^">]+)[">]', re.MULTILINE)
@@ -156,10 +158,17 @@ def faults_of_view(sources: list[str]) -> list[str]:
     return faults
 
 
+def faults_of_size(sources: list[str]) -> list[str]:
+    sizes = {path: len((ROOT / path).read_text(encoding="utf-8").splitlines()) for path in sources}
+    return [f"{path}: {lines} lines, {MOST_LINES_OF_A_SOURCE} at most"
+            for path, lines in sizes.items() if lines > MOST_LINES_OF_A_SOURCE]
+
+
 def main() -> int:
     files = subprocess.run(["git", "ls-files", "*.h", "*.cpp"], cwd=ROOT, check=True, capture_output=True, text=True)
     sources = [path for path in files.stdout.split() if path.split("/")[0] in MAY_USE]
     faults = faults_of_floors() + [fault for path in sources for fault in faults_of(path)] + faults_of_view(sources)
+    faults += faults_of_size(sources)
     print("\n".join(faults) or f"{len(sources)} files, every include runs down the house")
     return 1 if faults or not sources else 0
 
