@@ -106,8 +106,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         store = std::make_unique<OneItemStore>();
     FuzzInput input(bytes, size);
     CSearch condition;
-    condition.scope = input.byte() % (lastSearchScope + 1);
-    condition.method = input.byte() % (lastSearchMethod + 1);
+    condition.scope = static_cast<unsigned char>(input.byte() % (lastSearchScope + 1));
+    condition.method = static_cast<unsigned char>(input.byte() % (lastSearchMethod + 1));
     input.line();
     condition.keywords = {QString::fromUtf8(input.line()), QString::fromUtf8(input.line())};
     const QString title = QString::fromUtf8(input.line());
