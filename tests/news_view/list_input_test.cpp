@@ -284,7 +284,7 @@ TEST_F(ListInputTest, EveryShortcutDoesWhatItsControlDoes) {
     EXPECT_EQ(strip.curSel(), 1);
     EXPECT_EQ(tabsChosen, 5);
     hit(u"Shift+F3"_s);
-    EXPECT_EQ(carriedOut, QList<int>()) << "the button is not to be seen";
+    EXPECT_TRUE(carriedOut.isEmpty()) << "the button is not to be seen";
     window.show();
     hit(u"Shift+F3"_s);
     EXPECT_EQ(carriedOut, QList<int>{ids::dealsSearchButton});
