@@ -6,7 +6,7 @@
 
 namespace wirepane {
 
-TEST(pageFont, OnlyCharactersThatJoinAreShaped) {
+TEST(PageFont, OnlyCharactersThatJoinAreShaped) {
     struct Case {
         const char* text;
         Shaping shaping;

@@ -15,7 +15,7 @@ namespace {
 constexpr std::int64_t noTime = std::numeric_limits<std::int64_t>::min();
 }
 
-TEST(storyText, Formats) {
+TEST(StoryText, Formats) {
     const std::int64_t time = localTime(2026, 3, 2, 9, 5, 7);
     const struct {
         QString made;
@@ -38,7 +38,7 @@ TEST(storyText, Formats) {
         EXPECT_EQ(c.made, c.expected);
 }
 
-TEST(storyText, LinesFollowTheParagraphMarksAlone) {
+TEST(StoryText, LinesFollowTheParagraphMarksAlone) {
     const struct {
         QString wire;
         QString lines;
@@ -61,7 +61,7 @@ TEST(storyText, LinesFollowTheParagraphMarksAlone) {
     }
 }
 
-TEST(storyText, SameNewsIsOfOneLocalDay) {
+TEST(StoryText, SameNewsIsOfOneLocalDay) {
     const CHeadlineTable entry{localTime(2026, 3, 2, 0, 0), 7, 1, 20, 30};
     const auto changed = [entry](auto change) {
         CHeadlineTable other = entry;

@@ -84,12 +84,12 @@ TEST_F(TipTest, GoesWhenItsTimeIsUpOrItIsClicked) {
     EXPECT_TRUE(tip.isVisible()) << "the grain is one second";
     ASSERT_TRUE(QTest::qWaitFor([this] { return !tip.isVisible(); }, 1500));
 
-    // A second that is begun is a whole one.
+    // A second that is begun is a whole one: two beats of a timer that may come a twentieth early, not one.
     QElapsedTimer time;
     time.start();
     show(QStringLiteral("longer"), 1001);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !tip.isVisible(); }, 4000));
-    EXPECT_GT(time.elapsed(), 1900);
+    EXPECT_GT(time.elapsed(), 1500);
     time.restart();
     show(QStringLiteral("one second"), 1000);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !tip.isVisible(); }, 4000));

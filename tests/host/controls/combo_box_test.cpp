@@ -137,7 +137,7 @@ TEST_F(ComboBox, KnowsItsWidestItemThroughEveryChange) {
     EXPECT_EQ(combo->widestItem(), 0);
 }
 
-TEST(symbolMatches, ExactCodeThenCodesThenNames) {
+TEST(SymbolMatches, ExactCodeThenCodesThenNames) {
     const struct {
         const char16_t* typed;
         int most;
