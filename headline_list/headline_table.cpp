@@ -6,6 +6,19 @@
 
 namespace wirepane {
 
+void ListedDays::add(std::int64_t time) {
+    const std::int64_t day = days.of(time);
+    if (day == last)
+        return;
+    last = day;
+    if (listed.insert(day).second)
+        timeOfEach.push_back(time);
+}
+
+void ListedDays::clear() {
+    *this = {};
+}
+
 std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
     std::vector<CHeadlineTable> copies;
     const int first = std::max(from, 0);

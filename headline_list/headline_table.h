@@ -5,12 +5,29 @@
 #include "headline_list/row_identities.h"
 #include "headline_list/row_index.h"
 #include "headline_list/sort_order.h"
+#include "host/contract/local_days.h"
 #include "host/contract/records.h"
 
 #include <cstdint>
+#include <optional>
+#include <unordered_set>
 #include <vector>
 
 namespace wirepane {
+
+// The local calendar days that a list's headlines fall on, each told by one of its times.
+class ListedDays {
+public:
+    void add(std::int64_t time);
+    void clear();
+    const std::vector<std::int64_t>& times() const { return timeOfEach; }
+
+private:
+    LocalDays days;
+    std::unordered_set<std::int64_t> listed;
+    std::vector<std::int64_t> timeOfEach;
+    std::optional<std::int64_t> last;  // most headlines fall on the day of the one before
+};
 
 // The entries of one headline list: row 0 is the newest, as far as the list is sorted (headlines that were
 // sent again leave it unsorted). Rows come and go and are found in time that hardly grows with the list.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/local_days.h"
+#include "host/contract/local_days.h"
 #include "host/contract/records.h"
 
 #include <cstdint>

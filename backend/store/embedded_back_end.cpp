@@ -230,7 +230,7 @@ void EmbeddedBackEnd::tellHeadline(const HeadlineKey& key, std::int64_t position
     // A receiver may look other headlines up meanwhile.
     const CHeadline headline = *read;
     const auto symbols = reader.relatedSymbols(key).value_or(std::vector<CSymbolInfo>());
-    const std::int32_t day = localDays.numberOf(headline.time);
+    const std::int32_t day = dayNumber(localDays.dateOf(headline.time));
     if (newsDays.begins(headline.service, day))
         startNewsDay({headline.service, day});
     if (newsDays.of(headline.service) == day) {

@@ -22,6 +22,7 @@
 #include "backend/store/table_announcements.h"
 #include "backend/words/simplified_chinese.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/local_days.h"
 #include "host/contract/news_positions.h"
 #include "host/contract/reading_moment.h"
 
@@ -253,7 +254,7 @@ private:
     Entries announced;                     // stories whose announcement is on its way
     std::optional<HeadlineKey> tellingOf;  // the headline whose story is being told
     NewsDays newsDays;
-    LocalDayNumbers localDays;
+    LocalDays localDays;
     std::int64_t toldPosition = 0;
     Changes changes;
     int lastMissed = 0;

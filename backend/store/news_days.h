@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "backend/store/local_day.h"
+#include "backend/store/day_bounds.h"
 
 #include <cstdint>
 #include <map>

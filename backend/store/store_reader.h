@@ -3,7 +3,7 @@
 #pragma once
 
 #include "backend/database/statement.h"
-#include "backend/store/local_day.h"
+#include "backend/store/day_bounds.h"
 #include "host/contract/records.h"
 
 #include <QString>

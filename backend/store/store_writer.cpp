@@ -4,6 +4,7 @@
 
 #include "backend/clean_text.h"
 #include "backend/database/database_failure.h"
+#include "backend/store/day_bounds.h"
 #include "backend/store/item_check.h"
 #include "backend/store/store_errors.h"
 
@@ -121,7 +122,7 @@ Result<StoredNews> StoreWriter::takeNews(const NewsItem& given) {
 }
 
 Result<StoredNews> StoreWriter::add(const NewsItem& item) {
-    NewsPlace place{.day = days.numberOf(item.time)};
+    NewsPlace place{.day = dayNumber(days.dateOf(item.time))};
     const Result<std::optional<std::int32_t>> number = numberFor(item, place.day, nullptr);
     if (!number)
         return number.error();
@@ -138,7 +139,7 @@ Result<StoredNews> StoreWriter::add(const NewsItem& item) {
 }
 
 Result<StoredNews> StoreWriter::replace(const NewsItem& item, const KnownNews& known) {
-    NewsPlace place{.day = days.numberOf(item.time)};
+    NewsPlace place{.day = dayNumber(days.dateOf(item.time))};
     const Result<std::optional<std::int32_t>> number = numberFor(item, place.day, &known);
     if (!number)
         return number.error();

@@ -7,9 +7,9 @@
 #include "backend/store/category_book.h"
 #include "backend/store/day_numbers.h"
 #include "backend/store/feed_positions.h"
-#include "backend/store/local_day.h"
 #include "backend/store/news_writer.h"
 #include "backend/store/quote_book.h"
+#include "host/contract/local_days.h"
 #include "host/contract/records.h"
 
 #include <QSet>
@@ -83,7 +83,7 @@ private:
     Statement insertService;
     Statement findSymbol;
     Statement writeSymbol;
-    LocalDayNumbers days;
+    LocalDays days;
     QSet<unsigned char> services;  // known to be there
     bool begun = false;
 };

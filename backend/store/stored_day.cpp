@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/stored_day.h"
 
-#include "backend/store/local_day.h"
+#include "backend/store/day_bounds.h"
 #include "backend/store/store_errors.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_reader.h"

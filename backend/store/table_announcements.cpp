@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/table_announcements.h"
 
+#include "backend/store/day_bounds.h"
+
 #include <algorithm>
 
 namespace wirepane {
@@ -26,7 +28,7 @@ void TableAnnouncements::add(const HeadlineKey& key, std::int32_t categoryId,
     if (waiting.empty())
         sinceFirst.start();
     waiting.news[key.service].push_back(key);
-    waiting.days.emplace(key.service, localDays.numberOf(key.time));
+    waiting.days.emplace(key.service, dayNumber(localDays.dateOf(key.time)));
     if (inTables) {
         waiting.categories.emplace(key.service, categoryId);
         for (const CSymbolInfo& symbol : symbols)

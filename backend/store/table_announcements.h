@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "backend/store/local_day.h"
+#include "host/contract/local_days.h"
 #include "host/contract/records.h"
 
 #include <QElapsedTimer>
@@ -51,7 +51,7 @@ private:
     std::function<bool()> isArriving;
     std::function<void(const AnnouncedTables&)> tell;
     AnnouncedTables waiting;
-    LocalDayNumbers localDays;
+    LocalDays localDays;
     QElapsedTimer sinceFirst;  // of what waits
     QElapsedTimer sinceTold;
     QTimer timer;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/backend/big_store.h"
 
-#include "backend/store/local_day.h"
+#include "backend/store/day_bounds.h"
 #include "backend/store/store_file.h"
 
 #include <map>

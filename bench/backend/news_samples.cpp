@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/backend/news_samples.h"
 
-#include "backend/store/local_day.h"
+#include "backend/store/day_bounds.h"
 #include "bench/backend/big_store.h"
 
 #include <random>

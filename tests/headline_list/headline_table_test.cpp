@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/headline_table.h"
 
-#include "headline_list/local_days.h"
 #include "tests/support/fake_back_end.h"
 
 #include <QDateTime>
@@ -41,21 +40,6 @@ void expectSameAnswers(const HeadlineTable& table, const std::vector<CHeadlineTa
 }
 
 }  // namespace
-
-TEST(LocalDays, AreThoseOfTheCalendar) {
-    LocalDays days;
-    std::mt19937_64 random(11);
-    std::vector<std::int64_t> times{0, -1, localTime(2026, 3, 2, 0, 0), localTime(2026, 3, 1, 23, 59, 59)};
-    for (int i = 0; i < 500; ++i)
-        times.push_back(static_cast<std::int64_t>(random() % 4'000'000'000) - 1'000'000'000);
-    for (const std::int64_t time : times) {
-        for (const std::int64_t other : {time, time + 3'600, time + 40'000, time - 86'400})
-            ASSERT_EQ(days.of(time) == days.of(other), dayOf(time) == dayOf(other)) << time << ' ' << other;
-    }
-    constexpr std::int64_t farthest = std::numeric_limits<std::int64_t>::max();
-    EXPECT_EQ(days.of(farthest), days.of(farthest - 1));
-    EXPECT_NE(days.of(farthest), days.of(-farthest));
-}
 
 // Few keys, so that many rows share one, and rows coming and going anywhere.
 TEST(HeadlineTable, FindsTheFirstRowWhateverComesAndGoes) {

@@ -3,8 +3,7 @@
 #include "backend/store/day_index.h"
 
 #include "tests/backend/store/store_fixture.h"
-
-#include <ctime>
+#include "tests/support/time_zone.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,22 +25,6 @@ protected:
         }
         ASSERT_TRUE(writer->commit());
     }
-};
-
-// Runs with the local time of another place.
-class TimeZone {
-public:
-    explicit TimeZone(const char* name) : before(qgetenv("TZ")) { set(name); }
-    ~TimeZone() { set(before); }
-    TimeZone(const TimeZone&) = delete;
-    TimeZone& operator=(const TimeZone&) = delete;
-
-private:
-    static void set(const QByteArray& name) {
-        qputenv("TZ", name);
-        tzset();
-    }
-    QByteArray before;
 };
 
 TEST_F(DayIndexTest, TooManyEntriesDropTheDaysAskedForLongestAgo) {

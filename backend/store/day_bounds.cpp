@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/store/local_day.h"
+#include "backend/store/day_bounds.h"
 
 #include <QDateTime>
 
@@ -22,15 +22,6 @@ QDate dayOfText(const QString& text) {
         return {};
     const int number = text.toInt();
     return QDate(number / 10000, number / 100 % 100, number % 100);
-}
-
-std::int32_t LocalDayNumbers::numberOf(std::int64_t time) {
-    if (!bounds.contains(time)) {
-        const QDate day = QDateTime::fromSecsSinceEpoch(time).date();
-        bounds = boundsOf(day);
-        number = dayNumber(day);
-    }
-    return number;
 }
 
 }  // namespace wirepane

@@ -19,20 +19,9 @@ struct DayBounds {
 
 DayBounds boundsOf(QDate day);
 
-// A date as the number yyyymmdd.
+// A date as the number yyyymmdd; 0 for one that is invalid.
 std::int32_t dayNumber(QDate day);
 // The date of an eight-digit text yyyymmdd; invalid when it is none.
 QDate dayOfText(const QString& text);
-
-// Tells the local day of times, quickly for times near each other.
-class LocalDayNumbers {
-public:
-    // As yyyymmdd.
-    std::int32_t numberOf(std::int64_t time);
-
-private:
-    DayBounds bounds;
-    std::int32_t number = 0;
-};
 
 }  // namespace wirepane

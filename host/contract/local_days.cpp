@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "headline_list/local_days.h"
+#include "host/contract/local_days.h"
 
 #include <QDateTime>
 
@@ -12,17 +12,22 @@ namespace {
 
 constexpr std::int64_t secondsPerDay = 86400;
 constexpr std::int64_t farthestUtcDay = 2932896;  // the end of the year 9999
+constexpr std::int64_t julianDayOf1970 = 2440588;
 
 std::int64_t utcDayOf(std::int64_t time) {
     return time / secondsPerDay - (time % secondsPerDay < 0 ? 1 : 0);
+}
+
+bool inCalendar(std::int64_t utcDay) {
+    return utcDay >= -farthestUtcDay && utcDay <= farthestUtcDay;
 }
 
 }  // namespace
 
 LocalDays::UtcDay LocalDays::ask(std::int64_t utcDay) {
     constexpr std::int64_t never = std::numeric_limits<std::int64_t>::max();
-    if (utcDay < -farthestUtcDay || utcDay > farthestUtcDay)
-        return {never, utcDay, utcDay};
+    if (!inCalendar(utcDay))
+        return {never, utcDay + julianDayOf1970, utcDay + julianDayOf1970};
     const std::int64_t begin = utcDay * secondsPerDay;
     const QDate first = QDateTime::fromSecsSinceEpoch(begin).date();
     const QDate second = QDateTime::fromSecsSinceEpoch(begin + secondsPerDay - 1).date();
@@ -43,17 +48,8 @@ std::int64_t LocalDays::of(std::int64_t time) {
     return time < last.midnight ? last.before : last.after;
 }
 
-void ListedDays::add(std::int64_t time) {
-    const std::int64_t day = days.of(time);
-    if (day == last)
-        return;
-    last = day;
-    if (listed.insert(day).second)
-        timeOfEach.push_back(time);
-}
-
-void ListedDays::clear() {
-    *this = {};
+QDate LocalDays::dateOf(std::int64_t time) {
+    return inCalendar(utcDayOf(time)) ? QDate::fromJulianDay(of(time)) : QDate();
 }
 
 }  // namespace wirepane
