@@ -102,16 +102,8 @@ void HeadlineTable::remove(int row) {
 
 void HeadlineTable::assign(const TableRuns& runs) {
     entries = sortedNewestFirst(runs);
-    byNumber.clear();
     days.clear();
     indexed = false;
-}
-
-void HeadlineTable::clear() {
-    entries = {};
-    indexed = true;
-    byNumber.clear();
-    days.clear();
 }
 
 }  // namespace wirepane

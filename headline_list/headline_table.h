@@ -60,12 +60,11 @@ public:
     void remove(int row);
 
     // Replaces all entries by those of the runs, newest first. They are searched by their order until
-    // BuildIndex, so that opening a day does not wait for them.
+    // buildIndex, so that opening a day does not wait for them.
     void assign(const TableRuns& runs);
     // Makes the table ready for pushes; the first push does it where nobody else did. Reads all rows once
     // after an assign.
     void buildIndex() const;
-    void clear();
 
 private:
     int rowInOrder(const HeadlineKey& key) const;

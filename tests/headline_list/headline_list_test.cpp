@@ -87,6 +87,14 @@ TEST_F(HeadlineListTest, RowsWithoutAHeadlineShowThePlaceholder) {
     const int written = owner.rowsWritten;
     all.vFillTempHeadline();
     EXPECT_EQ(owner.rowsWritten, written) << "a row whose time is right is left alone";
+
+    backEnd.asked.clear();
+    EXPECT_FALSE(all.reCoverHeadline({-1, 2}));
+    EXPECT_EQ(backEnd.asked, QStringList());
+    EXPECT_FALSE(all.reCoverHeadline({2, 1})) << "nothing comes at once";
+    EXPECT_EQ(backEnd.asked, (QStringList{QStringLiteral("again 1 [2]"), QStringLiteral("again 2 [2]")}));
+    EXPECT_EQ(rows(all),
+              (QStringList{QStringLiteral("09:00 | ... | ..."), QStringLiteral("08:00 | ... | ...")}));
 }
 
 TEST_F(HeadlineListTest, EachListAsksItsOwnServices) {
@@ -157,6 +165,54 @@ TEST_F(HeadlineListTest, ACategoryKeepsItsColourInSimplifiedCharacters) {
     lists.rebuild(ListIndex::All, TableKind::ByDate, day);
     EXPECT_EQ(all.text(0, 1), QStringLiteral("新闻"));
     EXPECT_EQ(all.textColour(0, 1), QColor(Qt::red));
+}
+
+// What was on screen keeps its height, as far as it is listed still; a list at its top stays there.
+TEST_F(HeadlineListTest, AReaderFindsHisPlaceInATableThatIsReadAgain) {
+    struct Case {
+        const char* what;
+        int firstVisible;
+        std::vector<int> selected;
+        int current;
+        int newFirstVisible;
+        std::vector<int> newSelected;
+        int newCurrent;
+    };
+    // Read again, the table has three rows more at its top and lacks rows 50 and 51.
+    const Case cases[] = {
+        {"at the top", 0, {0, 2}, 2, 0, {3, 5}, 5},
+        {"further down", 40, {41, 50}, 41, 43, {44}, 44},
+        {"the first rows on screen are gone", 50, {51}, 51, 51, {}, -1},
+        {"behind what is gone", 60, {}, -1, 61, {}, -1},
+    };
+    const auto entry = [](int row) {
+        return CHeadlineTable{localTime(2026, 3, 2, 9, 0) - row, 1000 - row, 1, 0, 0};
+    };
+    TableRuns before(1);
+    TableRuns after(1);
+    for (int row = -3; row < 100; ++row) {
+        if (row >= 0)
+            before.front().push_back(entry(row));
+        if (row != 50 && row != 51)
+            after.front().push_back(entry(row));
+    }
+    HeadlineList& all = list(ListIndex::All);
+    CSuperSheetWnd& sheet = *all.grid();
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        all.setTable(before);
+        all.refill();
+        sheet.setFirstVisibleRow(c.firstVisible);
+        sheet.selectRows(c.selected, c.current);
+        all.holdPlace();
+        all.setTable(after);
+        all.refill();
+        std::vector<int> selected;
+        sheet.vGetAllSelectionNdx(selected);
+        EXPECT_EQ(selected, c.newSelected);
+        EXPECT_EQ(sheet.firstVisibleRow(), c.newFirstVisible);
+        EXPECT_EQ(sheet.cptGetFocusNdx().y(), c.newCurrent);
+    }
 }
 
 TEST_F(HeadlineListTest, NothingHappensWithoutAGridOrARow) {

@@ -58,6 +58,12 @@ TEST(HeadlineTable, FindsTheFirstRowWhateverComesAndGoes) {
             std::generate(plain.begin(), plain.end(), anyEntry);
             std::stable_sort(plain.begin(), plain.end(), newerFirst);
             table.assign({plain});
+            for (int i = 0; i < 200; ++i) {
+                const HeadlineKey key = keyOf(anyEntry());
+                ASSERT_EQ(table.rowOf(key),
+                          firstRow(plain, 0, [&](const auto& row) { return keyOf(row) == key; }))
+                    << "before there is an index";
+            }
         }
         const auto row = static_cast<int>(random() % (plain.size() + 1));
         if (random() % 9 < 5 || row == table.size()) {

@@ -3,9 +3,13 @@
 #include "headline_list/intake.h"
 
 #include "headline_list/date_pager.h"
+#include "headline_list/feed_breaks.h"
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <stdexcept>
+#include <string>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -126,7 +130,47 @@ TEST(Intake, AHeadlineGoesToEveryListThatWantsIt) {
     }
 }
 
-TEST(DatePager, ADayIsCheckedAgainstTheRange) {
+TEST(Intake, AListKeepsAReplacedHeadlineThatItStillWants) {
+    struct Case {
+        const char* what;
+        ListIndex list;
+        QString categoryId;
+        QString symbolCode;
+        NamedSymbols named;
+        bool kept;
+    };
+    const Case cases[] = {
+        {"all news", ListIndex::All, u"8"_s, u"2317"_s, {}, true},
+        {"the category", ListIndex::Category, u"7"_s, u"2317"_s, {}, true},
+        {"another category", ListIndex::Category, u"8"_s, u"2330"_s, {{{16, u"2330"_s}}}, false},
+        {"the key sets' category", ListIndex::Relation, u"7"_s, u"2317"_s, {}, true},
+        {"a category of no key set", ListIndex::Relation, u"8"_s, u"2330"_s, {}, false},
+        {"the main symbol", ListIndex::Symbol, u"8"_s, u"2330"_s, {}, true},
+        {"another, and no others known", ListIndex::Symbol, u"7"_s, u"2317"_s, {}, false},
+        {"named among others",
+         ListIndex::Symbol,
+         u"7"_s,
+         u"2317"_s,
+         {{{16, u"2317"_s}, {16, u"2330"_s}}},
+         true},
+        {"named without a market", ListIndex::Symbol, u"7"_s, u"2317"_s, {{{0, u"2330"_s}}}, true},
+        {"named in another market", ListIndex::Symbol, u"7"_s, u"2317"_s, {{{22, u"2330"_s}}}, false},
+        {"others named", ListIndex::Symbol, u"7"_s, u"2317"_s, {{{16, u"2317"_s}}}, false},
+    };
+    OpenState state = openState();
+    state.symbolMarket = 16;
+    const RelationMatcher wanted(state.wanted);
+    state.relation = &wanted;
+    const CHeadline headline;
+    for (const Case& c : cases)
+        EXPECT_EQ(keeps(c.list, {headline, c.categoryId, c.symbolCode}, c.named, state), c.kept) << c.what;
+    state.categoryId.reset();
+    state.symbolCode.reset();
+    for (const ListIndex list : {ListIndex::Category, ListIndex::Symbol})
+        EXPECT_TRUE(keeps(list, {headline, u"8"_s, u"2317"_s}, {}, state)) << "nothing is chosen";
+}
+
+TEST(DatePager, ADayIsCheckedAgainstTheRangeAndPicked) {
     const QDate today(2026, 3, 2);
     const QDate inForce(2026, 2, 27);
     struct Case {
@@ -146,9 +190,73 @@ TEST(DatePager, ADayIsCheckedAgainstTheRange) {
         {QDate(2025, 6, 20), 255, DateCheck::Accepted},
         {QDate(2025, 6, 19), 255, DateCheck::TooEarly},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(checkPickedDate(c.wanted, inForce, today, c.range), c.check)
+    for (const Case& c : cases) {
+        DatePager pager(inForce);
+        pager.setRange(c.range);
+        EXPECT_EQ(pager.pick(c.wanted, today), c.check)
             << c.wanted.toString(Qt::ISODate).toStdString() << " range " << c.range;
+        EXPECT_EQ(pager.pickedDate(), c.check == DateCheck::Accepted ? c.wanted : inForce);
+        EXPECT_EQ(pager.currentNewsDay(), inForce);
+    }
+}
+
+TEST(DatePager, ANumberNamesADayOrNone) {
+    const std::pair<std::int32_t, QDate> cases[] = {{20240229, {2024, 2, 29}},
+                                                    {20260231, {2026, 3, 3}},
+                                                    {19000101, {1900, 1, 1}},
+                                                    {18991231, {}},
+                                                    {20261231, {2026, 12, 31}},
+                                                    {20261301, {}},
+                                                    {20260001, {}},
+                                                    {20260100, {}},
+                                                    {20260132, {}},
+                                                    {-1, {}}};
+    const auto dayOrNone = [](std::int32_t number) {
+        try {
+            return dayOfNumber(number);
+        } catch (const std::invalid_argument&) {
+            return QDate();
+        }
+    };
+    for (const auto& [number, day] : cases)
+        EXPECT_EQ(dayOrNone(number), day) << number;
+}
+
+TEST(DatePager, ATickedServiceBeginsANewDay) {
+    const std::vector<ServiceEntry> services{
+        {1, true, 20260302}, {2, false, 20260302}, {1, true, 20260301}, {2, true, 20260302}};
+    const std::pair<CMarketStatus, int> cases[] = {{{1, 20260303}, 0},
+                                                   {{1, 20260302}, 2},
+                                                   {{2, 20260303}, -1},
+                                                   {{2, 20260302}, -1},
+                                                   {{9, 20260303}, -1}};
+    for (const auto& [status, entry] : cases)
+        EXPECT_EQ(entryOfNewDay(services, status), entry) << int(status.service) << ' ' << status.date;
+}
+
+// Seconds; a break lasts until the connection is back, which is itself no part of it.
+TEST(FeedBreaks, HoldTheTimesWithoutAConnection) {
+    FeedBreaks breaks;
+    const auto held = [&] {
+        std::string result;
+        for (const int time : {9, 10, 19, 20, 29, 30, 40})
+            result += breaks.holds(time) ? 'x' : '.';
+        return result;
+    };
+    breaks.restored(5);
+    EXPECT_EQ(breaks.ended(), 0U);
+    breaks.lost(10);
+    breaks.lost(15);
+    EXPECT_EQ(breaks.brokenSince(), 10);
+    EXPECT_EQ(held(), ".xxxxxx");
+    breaks.restored(20);
+    EXPECT_EQ(held(), ".xx....");
+    breaks.lost(30);
+    EXPECT_EQ(held(), ".xx..xx");
+    breaks.restored(40);
+    breaks.restored(50);
+    EXPECT_EQ(held(), ".xx..x.");
+    EXPECT_EQ(breaks.ended(), 2U);
 }
 
 }  // namespace wirepane

@@ -141,6 +141,19 @@ TEST_F(Push, GoesWhereItsTimeAndNumberSay) {
     EXPECT_TRUE(unseen.headlineTable().empty());
 }
 
+TEST_F(Push, AReplacedHeadlineStaysWhereItStandsOrLeaves) {
+    HeadlineList& all = filled(ListIndex::All, 3);
+    all.replaceHeadline(1, headline(noon - 3600, 999, u"replaced"_s));
+    for (const int noRow : {-1, 3})
+        all.replaceHeadline(noRow, headline(noon, 1, u"nowhere"_s));
+    EXPECT_EQ(sequences(all), (std::vector{1000, 999, 998}));
+    EXPECT_EQ(rows(all).at(1), u"11:00 | Markets | replaced"_s);
+    const std::pair<int, HeadlinePlace> cases[] = {{-1, {}}, {3, {}}, {2, {-1, 2}}, {0, {-1, 0}}};
+    for (const auto& [row, place] : cases)
+        EXPECT_EQ(all.takeOut(row), place) << row;
+    EXPECT_EQ(rows(all), QStringList{u"11:00 | Markets | replaced"_s});
+}
+
 // The day decides whether a headline is one sent again; which row of its number goes, the order does.
 TEST_F(Push, OfTwoDaysRowsWithTheNumberTheUpperOneGoes) {
     HeadlineList& all = filled(ListIndex::All, 2);
@@ -247,6 +260,9 @@ TEST_F(Push, RowsOfTheRelationListKeepTheirFormOfTime) {
     // A title that has changed meanwhile is written in the list's own form.
     relation.vUpdateHeadline(1000, headline(noon + 60 * 199, 199, u"corrected"_s), false);
     EXPECT_EQ(rows(relation).at(1000), u"15:19 | Markets | corrected"_s);
+    relation.forgetWrittenCells();
+    relation.vFillHeadline();
+    EXPECT_EQ(relation.text(1000, 0), u"15:19"_s) << "and stays in it";
 }
 
 TEST_F(Push, RowsAreWrittenFromTheBackEndByEntryAndAtTheTop) {

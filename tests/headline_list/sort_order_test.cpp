@@ -74,31 +74,6 @@ TEST(SortOrder, MergingEqualsAStableSort) {
     }
 }
 
-TEST(HeadlineTable, FindsTheFirstRowOfEveryKey) {
-    std::mt19937 random(7);
-    HeadlineTable table;
-    EXPECT_EQ(table.rowOf({1, 1, 1}), -1);
-    for (const int size : {0, 1, 3, 50, 2000, 2001}) {
-        std::vector<CHeadlineTable> entries;
-        for (int i = 0; i < size; ++i)
-            entries.push_back(entry(random() % 500, static_cast<std::int32_t>(random() % 3),
-                                    static_cast<unsigned char>(random() % 2)));
-        table.assign({entries});
-        std::stable_sort(entries.begin(), entries.end(), newerFirst);
-        ASSERT_EQ(table.size(), size);
-        for (int row = 0; row < size; ++row) {
-            const auto first = std::find_if(entries.begin(), entries.end(), [&](const CHeadlineTable& e) {
-                return keyOf(e) == keyOf(entries[static_cast<std::size_t>(row)]);
-            });
-            ASSERT_EQ(table.rowOf(keyOf(table.at(row))), first - entries.begin())
-                << "row " << row << " of " << size;
-        }
-        EXPECT_EQ(table.rowOf({1000, 0, 0}), -1);
-    }
-    table.clear();
-    EXPECT_EQ(table.rowOf({1, 1, 1}), -1);
-}
-
 TEST(HeadlineTable, CutsRowsAtTheEnd) {
     HeadlineTable table;
     table.assign({{entry(3, 0), entry(2, 0), entry(1, 0)}});
