@@ -64,6 +64,10 @@ TEST(HeadlineTable, FindsTheFirstRowWhateverComesAndGoes) {
                           firstRow(plain, 0, [&](const auto& row) { return keyOf(row) == key; }))
                     << "before there is an index";
             }
+            const CHeadlineTable oldest = plain.back();
+            plain.insert(plain.begin(), oldest);
+            table.insert(0, oldest);
+            ASSERT_EQ(table.rowOf(keyOf(oldest)), 0) << "put in before there was an index";
         }
         const auto row = static_cast<int>(random() % (plain.size() + 1));
         if (random() % 9 < 5 || row == table.size()) {
