@@ -101,20 +101,23 @@ const CharacterFolding& CharacterFolding::instance() {
     return folding;
 }
 
-CharacterFolding::CharacterFolding() : foldedCharacters(tableSize), kinds(tableSize) {
+CharacterFolding::CharacterFolding() : table(tableSize) {
     for (char32_t c = 0; c < tableSize; ++c)
-        foldedCharacters[c] = QChar::isSurrogate(c) ? char16_t(c) : foldedOnce(c);
+        table[c].character = QChar::isSurrogate(c) ? char16_t(c) : foldedOnce(c);
     foldChinese();
     std::uint64_t hash = 0xcbf29ce484222325U ^ rulesVersion;
     for (char32_t c = 0; c < tableSize; ++c) {
+        Entry& entry = table[c];
         // Folding what is folded must change nothing.
-        for (int i = 0; i < 4 && foldedCharacters[c] != foldedCharacters[foldedCharacters[c]]; ++i)
-            foldedCharacters[c] = foldedCharacters[foldedCharacters[c]];
+        for (int i = 0; i < 4 && entry.character != table[entry.character].character; ++i)
+            entry.character = table[entry.character].character;
         // A character is what its folded form is: a full-width comma is a comma.
-        kinds[c] = kindOf(kindOf(c) == CharacterKind::Dropped ? c : foldedCharacters[c]);
-        hash = (hash ^ foldedCharacters[c] ^ (std::uint64_t(kinds[c]) << 16)) * 0x100000001b3U;
+        entry.kind = kindOf(kindOf(c) == CharacterKind::Dropped ? c : entry.character);
+        hash = (hash ^ entry.character ^ (std::uint64_t(entry.kind) << 16)) * 0x100000001b3U;
     }
     sum = std::int64_t(hash >> 1);
+    for (unsigned char c = 0; c < 0x80; ++c)
+        plainLetters[c] = table[c].kind == CharacterKind::Letter ? char(table[c].character) : '\0';
 }
 
 void CharacterFolding::foldChinese() {
@@ -128,7 +131,7 @@ void CharacterFolding::foldChinese() {
     char32_t c = firstIdeograph;
     for (const QStringView line : QStringView(simplified).tokenize(u'\n')) {
         if (c < endOfIdeographs && line.size() == 1)
-            foldedCharacters[c] = line.front().unicode();
+            table[c].character = line.front().unicode();
         ++c;
     }
 }

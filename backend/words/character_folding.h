@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -25,12 +26,19 @@ public:
     // Made at the first call, which takes some 20 milliseconds; any thread.
     static const CharacterFolding& instance();
 
-    char32_t folded(char32_t character) const {
-        return character < foldedCharacters.size() ? foldedCharacters[character] : character;
+    struct Folded {
+        char32_t character = 0;
+        CharacterKind kind = CharacterKind::Space;
+    };
+    Folded of(char32_t character) const {
+        if (character >= table.size())
+            return {character, kindBeyond(character)};
+        return {table[character].character, table[character].kind};
     }
-    CharacterKind kind(char32_t character) const {
-        return character < kinds.size() ? kinds[character] : kindBeyond(character);
-    }
+    char32_t folded(char32_t character) const { return of(character).character; }
+    CharacterKind kind(char32_t character) const { return of(character).kind; }
+    // What a byte of UTF-8 that is a whole letter or digit, one of ASCII, is folded to; 0 for any other byte.
+    char plainLetter(unsigned char byte) const { return plainLetters[byte]; }
     // A number that changes when any character is folded otherwise: an index is good for one such number.
     std::int64_t fingerprint() const { return sum; }
 
@@ -39,8 +47,13 @@ private:
     void foldChinese();
     static CharacterKind kindBeyond(char32_t character);
 
-    std::vector<char16_t> foldedCharacters;
-    std::vector<CharacterKind> kinds;
+    // Side by side: whoever asks for one asks for the other.
+    struct Entry {
+        char16_t character = 0;
+        CharacterKind kind = CharacterKind::Space;
+    };
+    std::vector<Entry> table;
+    std::array<char, 256> plainLetters{};
     std::int64_t sum = 0;
 };
 

@@ -4,11 +4,12 @@
 
 #include <QStringDecoder>
 
+#include <algorithm>
+
 namespace wirepane {
 
 namespace {
 
-constexpr int longestWord = 60;  // characters
 constexpr char32_t brokenByte = 0xfffd;
 
 bool isDigit(char32_t c) {
@@ -17,6 +18,10 @@ bool isDigit(char32_t c) {
 
 bool isWide(char32_t raw) {
     return raw >= 0xff00;
+}
+
+bool isFollowing(unsigned byte) {
+    return (byte & 0xc0U) == 0x80;
 }
 
 }  // namespace
@@ -29,37 +34,47 @@ WordReader::Character WordReader::characterAt(qsizetype position) const {
     };
     const unsigned first = byte(position);
     char32_t raw = first;
-    qsizetype length = 1;
+    qsizetype bytes = 1;
     if (first >= 0x80) {
-        length = first >= 0xf0 ? 4 : first >= 0xe0 ? 3 : first >= 0xc2 ? 2 : 1;
-        raw = length == 1 ? brokenByte : first & (0x7fU >> length);
-        for (qsizetype i = 1; i < length; ++i) {
-            if ((byte(position + i) & 0xc0U) != 0x80) {
+        bytes = first >= 0xf0 ? 4 : first >= 0xe0 ? 3 : first >= 0xc2 ? 2 : 1;
+        raw = bytes == 1 ? brokenByte : first & (0x7fU >> bytes);
+        for (qsizetype i = 1; i < bytes; ++i) {
+            const unsigned next = byte(position + i);
+            if (!isFollowing(next)) {
                 raw = brokenByte;
-                length = 1;
+                bytes = 1;
                 break;
             }
-            raw = (raw << 6) | (byte(position + i) & 0x3fU);
+            raw = (raw << 6) | (next & 0x3fU);
         }
     }
-    return {raw, folding.folded(raw), folding.kind(raw), position + length};
+    const CharacterFolding::Folded folded = folding.of(raw);
+    return {raw, folded.character, folded.kind, position + bytes};
 }
 
 bool WordReader::next() {
-    current.clear();
+    length = 0;
     while (at < text.size()) {
-        const Character character = characterAt(at);
         wordStart = at;
+        Run run;
+        if (readPlainRun(run))
+            return true;
+        if (run.characters > 0) {
+            readRun(run);
+            return true;
+        }
+        const Character character = characterAt(at);
         at = character.end;
         switch (character.kind) {
             case CharacterKind::Space:
             case CharacterKind::Dropped:
                 continue;
             case CharacterKind::LineEnd:
-                current.push_back('\n');
+                append(U'\n');
                 return true;
             case CharacterKind::Letter:
-                readRun(character);
+                at = wordStart;
+                readRun(run);
                 return true;
             case CharacterKind::Single:
             case CharacterKind::Symbol:
@@ -70,29 +85,49 @@ bool WordReader::next() {
     return false;
 }
 
-void WordReader::readRun(Character character) {
-    int length = 0;
-    int digits = 0;  // since the last sign in the number, or the last letter
-    bool grouped = false;
-    for (;;) {
+// Letters and digits of ASCII, which need no decoding. True: they are the whole word. A point or a comma
+// behind a digit, and what is not ASCII, may belong to it and is left to readRun().
+bool WordReader::readPlainRun(Run& run) {
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
+    const qsizetype end = std::min(text.size(), at + longestWord);
+    const qsizetype start = at;
+    qsizetype lastLetter = start - 1;
+    qsizetype i = start;
+    for (; i < end; ++i) {
+        const char folded = folding.plainLetter(bytes[i]);
+        if (folded == 0)
+            break;
+        current[std::size_t(i - start)] = folded;
+        lastLetter = isDigit(bytes[i]) ? lastLetter : i;
+    }
+    if (i == start)
+        return false;
+    length = std::size_t(i - start);
+    at = i;
+    run.characters = int(i - start);
+    if (i == text.size() || run.characters == longestWord)
+        return true;
+    run.digits = int(i - 1 - lastLetter);
+    run.last = bytes[i - 1];
+    return bytes[i] < 0x80 && (run.digits == 0 || (bytes[i] != '.' && bytes[i] != ','));
+}
+
+void WordReader::readRun(Run run) {
+    while (at < text.size() && run.characters < longestWord) {
+        const Character character = characterAt(at);
         if (character.kind == CharacterKind::Letter) {
             append(character.folded);
-            digits = isDigit(character.folded) ? digits + 1 : 0;
-            ++length;
-        }
-        const char32_t last = character.raw;
-        if (at >= text.size() || length >= longestWord)
-            return;
-        character = characterAt(at);
-        if (character.kind == CharacterKind::Symbol && digits > 0 &&
-            joinsNumber(character, last, digits, grouped)) {
+            run.digits = isDigit(character.folded) ? run.digits + 1 : 0;
+            ++run.characters;
+        } else if (character.kind == CharacterKind::Symbol && run.digits > 0 && joinsNumber(character, run)) {
             append(character.folded);
-            grouped = character.folded == U',';
-            digits = 0;
-            ++length;
-        } else if (character.kind != CharacterKind::Letter && character.kind != CharacterKind::Dropped) {
+            run.grouped = character.folded == U',';
+            run.digits = 0;
+            ++run.characters;
+        } else if (character.kind != CharacterKind::Dropped) {
             return;
         }
+        run.last = character.raw;
         at = character.end;
     }
 }
@@ -109,10 +144,9 @@ char32_t WordReader::digitAt(qsizetype& position, bool wide) const {
 }
 
 // A sign of another width than the digits around it is punctuation of the sentence.
-bool WordReader::joinsNumber(const Character& separator, char32_t lastDigit, int digitsBefore,
-                             bool grouped) const {
+bool WordReader::joinsNumber(const Character& separator, const Run& run) const {
     const bool wide = isWide(separator.raw);
-    if (isWide(lastDigit) != wide)
+    if (isWide(run.last) != wide)
         return false;
     qsizetype position = separator.end;
     int digits = 0;
@@ -120,22 +154,23 @@ bool WordReader::joinsNumber(const Character& separator, char32_t lastDigit, int
         ++digits;
     if (separator.folded == U'.')
         return digits > 0;
-    return separator.folded == U',' && digits == 3 && (grouped ? digitsBefore == 3 : digitsBefore <= 3);
+    return separator.folded == U',' && digits == 3 && (run.grouped ? run.digits == 3 : run.digits <= 3);
 }
 
 void WordReader::append(char32_t c) {
-    const auto follow = [this, c](int shift) { current.push_back(char(0x80 | ((c >> shift) & 0x3f))); };
+    const auto put = [this](char32_t byte) { current[length++] = char(byte); };
+    const auto follow = [&](int shift) { put(0x80 | ((c >> shift) & 0x3f)); };
     if (c < 0x80) {
-        current.push_back(char(c));
+        put(c);
         return;
     }
     if (c < 0x800) {
-        current.push_back(char(0xc0 | (c >> 6)));
+        put(0xc0 | (c >> 6));
     } else if (c < 0x10000) {
-        current.push_back(char(0xe0 | (c >> 12)));
+        put(0xe0 | (c >> 12));
         follow(6);
     } else {
-        current.push_back(char(0xf0 | (c >> 18)));
+        put(0xf0 | (c >> 18));
         follow(12);
         follow(6);
     }

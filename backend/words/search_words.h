@@ -7,7 +7,7 @@
 #include <QByteArrayView>
 #include <QString>
 
-#include <string>
+#include <array>
 #include <string_view>
 
 namespace wirepane {
@@ -22,14 +22,17 @@ namespace wirepane {
 // - blanks separate; a line end is the word "\n", so that no phrase is found across it.
 class WordReader {
 public:
+    static constexpr int longestWord = 60;  // characters
+    static constexpr std::size_t longestWordBytes = 4 * longestWord;
+
     // `utf8` outlives this. Bytes that are no UTF-8 count as signs.
     explicit WordReader(QByteArrayView utf8);
 
     // Goes to the next word; false at the end.
     bool next();
     // In UTF-8; valid until the next call.
-    std::string_view word() const { return current; }
-    bool isLineEnd() const { return current == "\n"; }
+    std::string_view word() const { return {current.data(), length}; }
+    bool isLineEnd() const { return length == 1 && current.front() == '\n'; }
     // Where the word stands in the text, in bytes.
     qsizetype start() const { return wordStart; }
     qsizetype end() const { return at; }
@@ -41,15 +44,24 @@ private:
         CharacterKind kind = CharacterKind::Space;
         qsizetype end = 0;
     };
+    // The word so far, when it is a run of letters and digits.
+    struct Run {
+        char32_t last = 0;  // as it stands in the text
+        int characters = 0;
+        int digits = 0;  // since the last sign in the number, or the last letter
+        bool grouped = false;
+    };
     Character characterAt(qsizetype position) const;
     char32_t digitAt(qsizetype& position, bool wide) const;
-    void readRun(Character character);
-    bool joinsNumber(const Character& separator, char32_t lastDigit, int digitsBefore, bool grouped) const;
+    bool readPlainRun(Run& run);
+    void readRun(Run run);
+    bool joinsNumber(const Character& separator, const Run& run) const;
     void append(char32_t character);
 
     QByteArrayView text;
     const CharacterFolding& folding;
-    std::string current;
+    std::array<char, longestWordBytes> current;
+    std::size_t length = 0;  // of the word, in bytes
     qsizetype wordStart = 0;
     qsizetype at = 0;
 };

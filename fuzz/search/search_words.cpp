@@ -3,6 +3,7 @@
 #include "backend/words/search_words.h"
 
 #include "fuzz/support/fuzz_input.h"
+#include "fuzz/support/slow_words.h"
 
 #include <QList>
 #include <QStringDecoder>
@@ -14,18 +15,21 @@ namespace {
 // Made before the first run, whose time is limited.
 const CharacterFolding& folding = CharacterFolding::instance();
 
-constexpr std::size_t longestWord = 60;  // characters
-
 void promiseWords(const QByteArray& utf8) {
     WordReader reader(utf8);
+    SlowWords slow(utf8);
     qsizetype end = 0;
     while (reader.next()) {
         promise(reader.start() >= end && reader.end() > reader.start() && reader.end() <= utf8.size(),
                 "words stand one behind the other in the text");
         end = reader.end();
-        promise(!reader.word().empty() && reader.word().size() <= 4 * longestWord,
+        promise(!reader.word().empty() && reader.word().size() <= WordReader::longestWordBytes,
                 "a word has 1 to 60 characters");
+        promise(slow.next() && slow.word() == reader.word() && slow.start() == reader.start() &&
+                    slow.end() == reader.end(),
+                "every road finds the same words at the same places");
     }
+    promise(!slow.next(), "no road ends before the text");
 }
 
 void promiseFolding(const QString& text) {

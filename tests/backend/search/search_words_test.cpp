@@ -2,9 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "backend/words/search_words.h"
 
+#include "fuzz/support/slow_words.h"
 #include "tests/support/qt_printers.h"
 
+#include <QDirIterator>
+#include <QFile>
+
 #include <gtest/gtest.h>
+#include <random>
 
 namespace wirepane {
 namespace {
@@ -40,6 +45,96 @@ TEST(SearchWords, SplitAsTheyAreSearchedFor) {
     };
     for (const auto& [text, words] : cases)
         EXPECT_EQ(wordsOf(text), words);
+}
+
+void expectSameWords(const QByteArray& utf8) {
+    WordReader reader(utf8);
+    SlowWords slow(utf8);
+    while (slow.next()) {
+        ASSERT_TRUE(reader.next());
+        ASSERT_EQ(reader.word(), slow.word()) << utf8.constData();
+        ASSERT_EQ(reader.start(), slow.start());
+        ASSERT_EQ(reader.end(), slow.end());
+    }
+    ASSERT_FALSE(reader.next());
+}
+
+TEST(SearchWords, AreTheSameOnEveryRoad) {
+    const std::vector<QByteArray> pieces{"a",
+                                         "Zq",
+                                         "7",
+                                         "42",
+                                         "110",
+                                         ".",
+                                         ",",
+                                         ",700",
+                                         "1,234,567.89",
+                                         " ",
+                                         "\n",
+                                         "\r\n",
+                                         "-",
+                                         "'",
+                                         "\t",
+                                         "é",
+                                         "ß",
+                                         "İ",
+                                         "ﬁ",
+                                         "e\u0301",
+                                         "\u200b",
+                                         "\u00ad",
+                                         "，",
+                                         "．",
+                                         "７００",
+                                         "Ａ",
+                                         "臺",
+                                         "积電",
+                                         "。",
+                                         "「",
+                                         "カ",
+                                         "ｶ",
+                                         "각",
+                                         "ไทย",
+                                         "²",
+                                         "①",
+                                         "½",
+                                         "٣",
+                                         "\U0001F600",
+                                         "𠮷",
+                                         "\U000E0101",
+                                         "\x80",
+                                         "\xbf",
+                                         "\xe4\xb8",
+                                         "\xe0\x80\x80",
+                                         "\xed\xa0\x80",
+                                         "\xff",
+                                         "\xf8\x88\x80\x80",
+                                         "\xc3",
+                                         QByteArray(1, '\0'),
+                                         QByteArray(59, 'x'),
+                                         QByteArray(60, '8'),
+                                         QByteArray(61, 'Y')};
+    std::mt19937 random(11);
+    for (int round = 0; round < 20'000; ++round) {
+        QByteArray text;
+        for (std::size_t i = random() % 12; i > 0; --i)
+            text += pieces[random() % pieces.size()];
+        expectSameWords(text);
+    }
+}
+
+TEST(SearchWords, OfRealNewsAreTheSameOnEveryRoad) {
+    const QString root = qEnvironmentVariable("WIREPANE_TEST_NEWS");
+    if (root.isEmpty() || !QFileInfo(root).isDir())
+        GTEST_SKIP() << "no real news: WIREPANE_TEST_NEWS names no folder";
+    QDirIterator all(root, QDir::Files, QDirIterator::Subdirectories);
+    int files = 0;
+    while (all.hasNext()) {
+        QFile file(all.next());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        expectSameWords(file.read(65536));
+        ++files;
+    }
+    EXPECT_GT(files, 0);
 }
 
 TEST(SearchWords, FoldingWhatIsFoldedChangesNothing) {
