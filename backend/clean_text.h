@@ -18,6 +18,15 @@ bool isLineBreak(char32_t character);
 bool isHidden(char32_t character);
 // The character at `at`, which goes behind it.
 char32_t takeCharacter(QStringView text, qsizetype& at);
+// Where the run of characters from `at` on ends of which none is hidden, breaks lines or is made of
+// surrogates: what can be taken as it is, without a look at each.
+qsizetype endOfPlainRun(QStringView text, qsizetype at);
+// As QChar::isSpace(), sooner for most characters.
+inline bool isBlank(QChar character) {
+    constexpr char16_t lastBlank = 0x3000;
+    const char16_t c = character.unicode();
+    return c < 0x80 ? c == u' ' || (c >= u'\t' && c <= u'\r') : c <= lastBlank && character.isSpace();
+}
 
 // One line: line breaks and tabs become blanks, what is hidden goes.
 QString cleanTitle(const QString& text);

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/feed_text.h"
 
+#include "backend/clean_text.h"
 #include "backend/import/plain_text.h"
 #include "backend/import/xml_source.h"
 
 #include <QByteArray>
-#include <QRegularExpression>
+
+#include <algorithm>
 
 namespace wirepane {
 
@@ -19,10 +21,22 @@ bool isBinaryType(QStringView type) {
     return type.contains(u'/') && !type.startsWith("text/"_L1) && !type.endsWith("xml"_L1);
 }
 
-// The lines of text are indented as the XML around them is, which says nothing about paragraphs.
+// The lines of text are indented as the XML around them is, which says nothing about paragraphs. A line of
+// blanks alone stays.
 QString withoutIndents(const QString& text) {
-    static const QRegularExpression indent(u"\\n[ \\t]+(?=\\S)"_s);
-    return text.trimmed().replace(indent, u"\n"_s);
+    const auto isIndent = [](QChar c) { return c == u' ' || c == u'\t'; };
+    const QStringView all = QStringView(text).trimmed();
+    QString kept;
+    kept.reserve(all.size());
+    qsizetype from = 0;
+    for (qsizetype at = all.indexOf(u'\n'); at >= 0; at = all.indexOf(u'\n', from)) {
+        const auto* const rest = all.begin() + at + 1;
+        const auto* const line = std::find_if_not(rest, all.end(), isIndent);
+        const bool hasText = line != all.end() && (line->unicode() >= 0x80 || !isBlank(*line));
+        kept += all.sliced(from, at + 1 - from);
+        from = (hasText ? line : rest) - all.begin();
+    }
+    return kept.append(all.sliced(from));
 }
 
 }  // namespace
@@ -33,7 +47,7 @@ QString feedText(XmlSource& xml, FeedTextKind kind) {
     const QString mode = attributes.value("mode"_L1).toString().toLower();
     const XmlSource::Content content = xml.content();
     if (content.hasChildren)
-        return plainText(content.markup);
+        return plainText(content.markup());
     if (mode == "base64"_L1 || (mode.isEmpty() && isBinaryType(type)))
         return plainText(QString::fromUtf8(QByteArray::fromBase64(content.text.toUtf8())));
     if (kind == FeedTextKind::Markup || (type.contains("html"_L1) && type != "xhtml"_L1))

@@ -6,13 +6,14 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace wirepane {
 
 namespace {
 
 struct Entity {
-    const char* name;
+    std::string_view name;
     char16_t character;
 };
 
@@ -73,12 +74,13 @@ constexpr std::array<Entity, 253> entities{
 }  // namespace
 
 char32_t htmlEntity(QStringView name) {
-    const auto* found = std::lower_bound(entities.begin(), entities.end(), name,
-                                         [](const Entity& entity, QStringView wanted) {
-                                             return wanted.compare(QLatin1StringView(entity.name)) > 0;
-                                         });
-    const bool known = found != entities.end() && name == QLatin1StringView(found->name);
-    return known ? found->character : 0;
+    const auto textOf = [](const Entity& entity) {
+        return QLatin1StringView(entity.name.data(), qsizetype(entity.name.size()));
+    };
+    const auto* found = std::lower_bound(
+        entities.begin(), entities.end(), name,
+        [&](const Entity& entity, QStringView wanted) { return wanted.compare(textOf(entity)) > 0; });
+    return found != entities.end() && name == textOf(*found) ? found->character : 0;
 }
 
 }  // namespace wirepane

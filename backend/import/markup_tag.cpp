@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string_view>
 
 namespace wirepane {
 
@@ -18,7 +19,7 @@ constexpr qsizetype longestName = 40;
 constexpr int quotesForgiven = 16;
 
 struct KnownTag {
-    const char* name;
+    std::string_view name;
     TagEffect effect;
 };
 
@@ -170,7 +171,8 @@ bool isNamePart(QChar c) {
 template <std::size_t size>
 const KnownTag* tagOf(const std::array<KnownTag, size>& tags, QStringView name) {
     const auto* found = std::find_if(tags.begin(), tags.end(), [&](const KnownTag& tag) {
-        return name.compare(QLatin1StringView(tag.name), Qt::CaseInsensitive) == 0;
+        return name.size() == qsizetype(tag.name.size()) &&
+               name.compare(QLatin1StringView(tag.name.data(), name.size()), Qt::CaseInsensitive) == 0;
     });
     return found == tags.end() ? nullptr : found;
 }

@@ -44,7 +44,7 @@ void NewsmlStory::takeMarkup(XmlSource& xml) {
         if (xml.reader().name() == "nitf"_L1)
             takeArticle(xml);
         else if (statedHtml || xml.reader().namespaceUri() == xhtmlNamespace)
-            addParagraph(text, plainText(xml.content().markup));
+            addParagraph(text, plainText(xml.content().markup()));
         else
             xml.skip();
     }
@@ -55,7 +55,7 @@ void NewsmlStory::takeArticle(XmlSource& xml) {
     while (xml.enterChild()) {
         const QStringView name = xml.reader().name();
         if (name == "body.content"_L1)
-            addParagraph(text, plainText(xml.content().markup));
+            addParagraph(text, plainText(xml.content().markup()));
         else if (name == "hl1"_L1 && headline.isEmpty())
             headline = xml.content().text;
         else if (name == "body"_L1 || name == "body.head"_L1 || name == "hedline"_L1)

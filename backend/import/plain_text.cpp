@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/plain_text.h"
 
+#include "backend/clean_text.h"
 #include "backend/import/html_entities.h"
 #include "backend/import/markup_tag.h"
 
@@ -67,15 +68,29 @@ public:
     QString take() {
         while (at < text.size()) {
             const QChar c = text.at(at);
-            if (!(c == u'<' && skipTag()) && !(c == u'&' && takeReference())) {
-                add(text.sliced(at, 1));
-                ++at;
-            }
+            if ((c == u'<' && skipTag()) || (c == u'&' && takeReference()))
+                continue;
+            const qsizetype end = qMax(endOfRun(at, text.size()), at + 1);
+            add(text.sliced(at, end - at));
+            at = end;
         }
         return std::move(plain);
     }
 
 private:
+    // Where the run of characters ends of which none is blank or could start markup; a lone blank between two
+    // of them belongs to it, since it stays as it is.
+    qsizetype endOfRun(qsizetype from, qsizetype limit) const {
+        const auto isText = [this](qsizetype i) {
+            const QChar c = text.at(i);
+            return c != u'<' && c != u'&' && !isBlank(c);
+        };
+        while (from < limit &&
+               (isText(from) || (text.at(from) == u' ' && from > at && from + 1 < limit && isText(from + 1))))
+            ++from;
+        return from;
+    }
+
     bool skipTag() {
         if (text.sliced(at).startsWith("<![CDATA["_L1)) {
             takeLiterally(9);
@@ -117,9 +132,10 @@ private:
         return true;
     }
 
-    void add(QStringView character) {
-        const QChar c = character.front();
-        if (c.isSpace()) {
+    // A blank, or characters that start with none.
+    void add(QStringView characters) {
+        const QChar c = characters.front();
+        if (isBlank(c)) {
             gap = true;
             paragraphEnd = paragraphEnd || (preformatted && c == u'\n');
             return;
@@ -129,7 +145,7 @@ private:
         else if (!plain.isEmpty() && gap)
             plain += u' ';
         gap = paragraphEnd = false;
-        plain += character;
+        plain += characters;
     }
 
     QStringView text;

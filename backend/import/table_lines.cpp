@@ -26,34 +26,57 @@ int columnsOf(char32_t c, int column) {
     return c == 0x3000 || isIdeographic(c) ? 2 : 1;
 }
 
-int width(QStringView text) {
+bool isWiderThan(int most, QStringView text) {
     int columns = 0;
-    for (qsizetype at = 0; at < text.size();)
+    for (qsizetype at = 0; at < text.size() && columns <= most;)
         columns += columnsOf(takeCharacter(text, at), columns);
-    return columns;
+    return columns > most;
 }
 
 QStringView indentOf(QStringView line) {
-    const auto* first = std::find_if_not(line.begin(), line.end(), [](QChar c) { return c.isSpace(); });
+    const auto* first = std::find_if_not(line.begin(), line.end(), isBlank);
     return line.first(first - line.begin());
 }
 
 QStringView withoutEnd(QStringView line) {
-    while (!line.isEmpty() && line.back().isSpace())
+    while (!line.isEmpty() && isBlank(line.back()))
         line.chop(1);
     return line;
 }
 
-// Strokes alone, or with a caption among them.
+bool isStroke(QChar c) {
+    switch (c.unicode()) {
+        case u'=':
+        case u'-':
+        case u'_':
+        case u'*':
+        case u'~':
+        case u'+':
+        case u'|':
+        case u'─':
+        case u'━':
+        case u'═':
+        case u'―':
+        case u'—':
+        case u'–':
+        case u'＝':
+        case u'－':
+        case u'＿':
+            return true;
+        default:
+            return false;
+    }
+}
+
+// Strokes alone, or with a caption among them. Most lines have been written too much of by their middle.
 bool isRule(QStringView content) {
-    constexpr QStringView strokes = u"=-_─━═―—–＝－＿*~+|";
     qsizetype drawn = 0;
     qsizetype written = 0;
     for (const QChar c : content) {
-        if (strokes.contains(c))
+        if (isStroke(c))
             ++drawn;
-        else
-            written += c.isSpace() ? 0 : 1;
+        else if (!isBlank(c) && ++written > content.size() / 2)
+            return false;
     }
     return drawn >= (written == 0 ? shortestRule : shortestCaptioned) && drawn >= written;
 }
@@ -65,12 +88,12 @@ bool endsSentence(QChar c) {
 
 bool hasColumns(QStringView content) {
     for (qsizetype at = 0; at < content.size();) {
-        if (!content.at(at).isSpace()) {
+        if (!isBlank(content.at(at))) {
             ++at;
             continue;
         }
         qsizetype end = at;
-        while (content.at(end).isSpace())  // the content ends with something else
+        while (isBlank(content.at(end)))  // the content ends with something else
             ++end;
         const bool isTab = content.sliced(at, end - at).contains(u'\t');
         if (isTab || end - at > 2 || (end - at == 2 && !endsSentence(content.at(at - 1))))
@@ -90,9 +113,9 @@ Line kindOf(QStringView line) {
         return Line::Rule;
     if (hasColumns(content))
         return Line::Columns;
-    if (width(content) > shortWidth)
+    if (isWiderThan(shortWidth, content))
         return Line::Long;
-    return width(indentOf(line)) >= headingIndent ? Line::Heading : Line::Short;
+    return isWiderThan(headingIndent - 1, indentOf(line)) ? Line::Heading : Line::Short;
 }
 
 bool isSign(Line line) {

@@ -35,6 +35,11 @@ QString cleaned(QStringView text) {
     QString clean;
     clean.reserve(text.size());
     for (qsizetype at = 0; at < text.size();) {
+        const qsizetype start = at;
+        at = endOfPlainRun(text, start);
+        clean += text.sliced(start, at - start);
+        if (at == text.size())
+            break;
         const char32_t c = takeCharacter(text, at);
         if (c == U'\r') {
             if (!text.sliced(at).startsWith(u'\n'))
@@ -50,6 +55,8 @@ QString cleaned(QStringView text) {
 
 // The paragraph with no run of "@" in it that could be read as a mark, on its own or beside one.
 QString markFree(const QString& paragraph) {
+    if (!paragraph.contains(paragraphMark))
+        return paragraph;
     QString free;
     free.reserve(paragraph.size());
     qsizetype run = 0;

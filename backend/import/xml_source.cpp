@@ -9,6 +9,8 @@
 #include <QRegularExpression>
 #include <QStringBuilder>
 
+#include <utility>
+
 namespace wirepane {
 
 using namespace Qt::StringLiterals;
@@ -81,19 +83,21 @@ XmlSource::Content XmlSource::content() {
     while (depth > outside && advance()) {
         if (xml.isCharacters() || xml.isEntityReference()) {
             content.text += xml.text();
-            content.markup += xml.text().toString().toHtmlEscaped();
+            if (content.hasChildren)
+                content.tagged += xml.text().toString().toHtmlEscaped();
         } else if (xml.isStartElement()) {
             addElement(content);
         } else if (xml.isEndElement() && depth > outside) {
-            content.markup += u"</" % xml.name() % u'>';
+            content.tagged += u"</" % xml.name() % u'>';
         }
     }
     return content;
 }
 
 void XmlSource::addElement(Content& content) {
-    content.hasChildren = true;
-    content.markup += u'<' % xml.name() % u'>';
+    if (!std::exchange(content.hasChildren, true))
+        content.tagged = content.text.toHtmlEscaped();
+    content.tagged += u'<' % xml.name() % u'>';
 }
 
 std::optional<Error> XmlSource::fault() const {

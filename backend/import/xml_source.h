@@ -26,9 +26,13 @@ public:
 
     // What stands in an element, and goes to its end.
     struct Content {
-        QString text;    // the text in it, that of its children included
-        QString markup;  // the same with the tags of its children, escaped as in the source
+        QString text;  // the text in it, that of its children included
         bool hasChildren = false;
+
+        // The same with the tags of its children, escaped as in the source.
+        QString markup() const { return hasChildren ? tagged : text.toHtmlEscaped(); }
+
+        QString tagged;  // as markup(), once there is a child
     };
     Content content();
 

@@ -41,5 +41,15 @@ TEST(CleanText, WhatCannotBeSeenGoesAndIsShownEscaped) {
     }
 }
 
+TEST(CleanText, RunsEndWhereACharacterNeedsALook) {
+    for (char32_t c = 0; c < 0x10000; ++c) {
+        const QString text = u'a' + QString(QChar(char16_t(c))) + u'b';
+        const bool isPlain = !isHidden(c) && !isLineBreak(c) && !QChar::isSurrogate(c);
+        ASSERT_EQ(endOfPlainRun(text, 0), isPlain ? 3 : 1) << std::hex << unsigned(c);
+        ASSERT_EQ(cleanTitle(text) == text, isPlain) << std::hex << unsigned(c);
+        ASSERT_EQ(isBlank(QChar(char16_t(c))), QChar(char16_t(c)).isSpace()) << std::hex << unsigned(c);
+    }
+}
+
 }  // namespace
 }  // namespace wirepane
