@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/error.h"
+#include "host/contract/records.h"
 
 #include <QString>
 
@@ -12,13 +13,6 @@
 #include <vector>
 
 namespace wirepane {
-
-struct SymbolRef {
-    unsigned char market = 0;  // service id of the market; 0: not known
-    QString code;
-
-    bool operator==(const SymbolRef&) const = default;
-};
 
 inline constexpr std::int64_t firstNewsTime = -2208988800;  // 1900-01-01 00:00:00 UTC
 inline constexpr std::int64_t lastNewsTime = 253402300799;  // 9999-12-31 23:59:59 UTC
@@ -32,8 +26,8 @@ struct NewsItem {
     QString title;                             // one line of plain text
     std::optional<QString> story = QString();  // plain text in wire form; empty: it has none; absent: the
                                                // source says that one is still to come
-    QString category;                // name of its category; empty: none. The store gives each name an id
-    std::vector<SymbolRef> related;  // the first is the main symbol
+    QString category;                  // name of its category; empty: none. The store gives each name an id
+    std::vector<CSymbolInfo> related;  // the first is the main symbol; market 0: not known
 
     std::optional<std::int32_t>
         sequence;  // given by a feed that numbers its headlines; else the store numbers

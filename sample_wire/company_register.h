@@ -28,7 +28,7 @@ struct Company {
     std::uint64_t seed = 0;
 
     QStringView name(Language language) const { return language == Language::English ? english : chinese; }
-    SymbolRef symbol() const { return {market, code}; }
+    CSymbolInfo symbol() const { return {market, code}; }
 };
 
 // An invented warrant on one of the companies of the exchange market.
@@ -38,7 +38,7 @@ struct Warrant {
     const Company* underlying = nullptr;
     int issuer = 0;  // index into the brokers
 
-    SymbolRef symbol() const { return {warrantService, code}; }
+    CSymbolInfo symbol() const { return {warrantService, code}; }
 };
 
 // The companies and warrants of the sample wire: always the same ones, ordered by code in every market.

@@ -65,7 +65,7 @@ public:
 private:
     bool handDay(Day day, const std::vector<PlannedItem>& items, const Taker& take) const;
     NewsItem itemOf(const PlannedItem& planned, const Assignment& assignment) const;
-    std::vector<SymbolRef> relatedOf(const Scene& scene) const;
+    std::vector<CSymbolInfo> relatedOf(const Scene& scene) const;
     QString identityOf(unsigned char service, const Assignment& assignment) const;
 
     SampleOptions options;
@@ -104,7 +104,7 @@ bool SampleWire::Desk::handSymbols(const Taker& take) const {
 
 bool SampleWire::Desk::handQuotes(const Taker& take) const {
     const LocalTime at = LocalTime::fromUtc(options.now);
-    const auto hand = [&take](const SymbolRef& symbol, const Quote& quote, std::int64_t volume) {
+    const auto hand = [&take](const CSymbolInfo& symbol, const Quote& quote, std::int64_t volume) {
         return take(QuoteItem{symbol.market, symbol.code, static_cast<double>(quote.now) / 100,
                               static_cast<double>(quote.now - quote.previous) / 100, volume});
     };
@@ -152,8 +152,8 @@ NewsItem SampleWire::Desk::itemOf(const PlannedItem& planned, const Assignment& 
     return item;
 }
 
-std::vector<SymbolRef> SampleWire::Desk::relatedOf(const Scene& scene) const {
-    std::vector<SymbolRef> related;
+std::vector<CSymbolInfo> SampleWire::Desk::relatedOf(const Scene& scene) const {
+    std::vector<CSymbolInfo> related;
     if (scene.warrant())
         related.push_back(scene.warrant()->symbol());
     if (isAboutCompany(scene.topic()))

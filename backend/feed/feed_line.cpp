@@ -32,10 +32,10 @@ Result<StoreItem> ninjs(QByteArrayView record, unsigned char service) {
     return item ? Result<StoreItem>(stored(item.value())) : Result<StoreItem>(item.error());
 }
 
-SymbolRef symbolFrom(const QJsonValue& entry, bool& isSymbol) {
+CSymbolInfo symbolFrom(const QJsonValue& entry, bool& isSymbol) {
     JsonFields fields(entry.toObject());
     const auto market = static_cast<unsigned char>(fields.number(u"market"_s, 0, lastId));
-    SymbolRef symbol{market, fields.text(u"code"_s)};
+    CSymbolInfo symbol{market, fields.text(u"code"_s)};
     isSymbol = isSymbol && !fields.fault();
     return symbol;
 }

@@ -34,7 +34,7 @@ QByteArray lineOf(const NewsItem& item, const QString& position) {
     if (item.sequence)
         object[u"sequence"_s] = *item.sequence;
     QJsonArray related;
-    for (const SymbolRef& symbol : item.related)
+    for (const CSymbolInfo& symbol : item.related)
         related.append(QJsonObject{{u"market"_s, symbol.market}, {u"code"_s, symbol.code}});
     object[u"related"_s] = related;
     return recordLine(u"item"_s, object, position);

@@ -50,7 +50,7 @@ std::optional<Error> underEmbargo(const QString& until, QLatin1StringView field)
     return makeError<import_errors::underEmbargo>(field, titleLine(until.left(longestQuote)));
 }
 
-void addSymbol(std::vector<SymbolRef>& symbols, const SymbolRef& symbol) {
+void addSymbol(std::vector<CSymbolInfo>& symbols, const CSymbolInfo& symbol) {
     if (!symbol.code.isEmpty() && symbols.size() < mostSymbols &&
         std::find(symbols.begin(), symbols.end(), symbol) == symbols.end())
         symbols.push_back(symbol);

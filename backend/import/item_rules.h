@@ -29,6 +29,6 @@ std::optional<Error> notForPublication(const QString& status, QLatin1StringView 
 std::optional<Error> underEmbargo(const QString& until, QLatin1StringView field);
 
 // Adds a symbol that is not there yet; one without code and more than 100 are left out.
-void addSymbol(std::vector<SymbolRef>& symbols, const SymbolRef& symbol);
+void addSymbol(std::vector<CSymbolInfo>& symbols, const CSymbolInfo& symbol);
 
 }  // namespace wirepane

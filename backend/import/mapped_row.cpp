@@ -66,8 +66,8 @@ QString identityOf(const MappedRow& row, const Mapping& mapping) {
     return anything ? mapping.identityPrefix + parts.join(u'|') : QString();
 }
 
-std::vector<SymbolRef> symbolsOf(const MappedRow& row, const MappedSymbols& mapped) {
-    std::vector<SymbolRef> symbols;
+std::vector<CSymbolInfo> symbolsOf(const MappedRow& row, const MappedSymbols& mapped) {
+    std::vector<CSymbolInfo> symbols;
     for (const QString& column : mapped.columns) {
         const QString value = row.value(column);
         const QStringList codes =

@@ -257,7 +257,7 @@ private:
     Preferred description;
     QString category;
     NewsmlStory story;
-    std::vector<SymbolRef> symbols;
+    std::vector<CSymbolInfo> symbols;
 };
 
 }  // namespace

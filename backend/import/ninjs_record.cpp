@@ -108,8 +108,8 @@ std::optional<Error> heldBack(const NinjsFields& fields) {
     return std::nullopt;
 }
 
-std::vector<SymbolRef> symbolsOf(const NinjsFields& fields) {
-    std::vector<SymbolRef> symbols;
+std::vector<CSymbolInfo> symbolsOf(const NinjsFields& fields) {
+    std::vector<CSymbolInfo> symbols;
     for (const NinjsFields& organisation : fields.list("organisation"_L1)) {
         for (const NinjsFields& symbol : organisation.list("symbols"_L1)) {
             addSymbol(symbols,

@@ -35,14 +35,14 @@ bool isColour(const QString& text) {
     return text.size() == 7 && text.front() == u'#' && std::all_of(text.begin() + 1, text.end(), isHex);
 }
 
-std::vector<SymbolRef> cleanedSymbols(const std::vector<SymbolRef>& symbols) {
-    QSet<std::pair<unsigned char, QString>> seen;
-    std::vector<SymbolRef> kept;
-    for (const SymbolRef& symbol : symbols) {
-        SymbolRef clean{symbol.market, cleanTitle(symbol.code)};
-        if (seen.contains({clean.market, clean.code}))
+std::vector<CSymbolInfo> cleanedSymbols(const std::vector<CSymbolInfo>& symbols) {
+    QSet<CSymbolInfo> seen;
+    std::vector<CSymbolInfo> kept;
+    for (const CSymbolInfo& symbol : symbols) {
+        CSymbolInfo clean{symbol.market, cleanTitle(symbol.code)};
+        if (seen.contains(clean))
             continue;
-        seen.insert({clean.market, clean.code});
+        seen.insert(clean);
         kept.push_back(std::move(clean));
     }
     return kept;
@@ -120,7 +120,7 @@ std::optional<Error> faultOf(const NewsItem& item) {
         return makeError<store_errors::timeOutOfRange>(item.time);
     if (item.related.size() > limits::relatedSymbols)
         return makeError<store_errors::tooManySymbols>(item.related.size(), limits::relatedSymbols);
-    for (const SymbolRef& symbol : item.related) {
+    for (const CSymbolInfo& symbol : item.related) {
         if (auto fault = symbolFault(symbol.code))
             return fault;
     }

@@ -134,7 +134,7 @@ bool NewsWriter::writeStory(std::int64_t id, const std::optional<QString>& story
 
 bool NewsWriter::writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place) {
     int position = 0;
-    for (const SymbolRef& symbol : item.related) {
+    for (const CSymbolInfo& symbol : item.related) {
         if (!Query(insertRelated, id, position++, symbol.market, symbol.code, item.service, item.time,
                    place.sequence)
                  .run())

@@ -54,7 +54,7 @@ PlainInserts::PlainInserts(const std::vector<NewsItem>& items) {
                 item.story->toUtf8(),
                 searched,
                 {}};
-        for (const SymbolRef& symbol : item.related)
+        for (const CSymbolInfo& symbol : item.related)
             row.related.emplace_back(symbol.market, symbol.code.toUtf8());
         rows.push_back(std::move(row));
     }

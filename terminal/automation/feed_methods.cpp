@@ -23,8 +23,8 @@ constexpr std::int64_t lastId = 255;
 constexpr int supportedCategory = 1;
 constexpr int unsupportedCategory = 0;
 
-std::vector<SymbolRef> symbolsFrom(Params& params) {
-    std::vector<SymbolRef> symbols;
+std::vector<CSymbolInfo> symbolsFrom(Params& params) {
+    std::vector<CSymbolInfo> symbols;
     if (params.has(u"related"_s) && !params.value(u"related"_s).isArray())
         params.fail(u"\"related\" must be a list of {market, code}"_s);
     const QJsonArray items = params.value(u"related"_s).toArray();
@@ -40,9 +40,9 @@ std::vector<SymbolRef> symbolsFrom(Params& params) {
 
 // The main symbol stands first. Its market is the one that the related symbols name for its code, else the
 // news service itself.
-void putFirst(std::vector<SymbolRef>& symbols, const QString& code, unsigned char service) {
+void putFirst(std::vector<CSymbolInfo>& symbols, const QString& code, unsigned char service) {
     const auto known = std::find_if(symbols.begin(), symbols.end(),
-                                    [&code](const SymbolRef& symbol) { return symbol.code == code; });
+                                    [&code](const CSymbolInfo& symbol) { return symbol.code == code; });
     if (known == symbols.end())
         symbols.insert(symbols.begin(), {service, code});
     else

@@ -74,7 +74,7 @@ inline QString lineOf(const NewsItem& item) {
                        .arg(QString::number(item.service), item.identity, QString::number(item.version),
                             QString::number(item.time), item.title,
                             item.story->isEmpty() ? QStringLiteral("-") : *item.story, item.category);
-    for (const SymbolRef& symbol : item.related)
+    for (const CSymbolInfo& symbol : item.related)
         line += QStringLiteral("|%1:%2").arg(symbol.market).arg(symbol.code);
     return line;
 }

@@ -154,7 +154,7 @@ TEST(SampleWire, RelatedSymbolsAreInTheSymbolTable) {
 
     for (const NewsItem& item : wire.news) {
         std::set<std::pair<int, QString>> once;
-        for (const SymbolRef& symbol : item.related) {
+        for (const CSymbolInfo& symbol : item.related) {
             EXPECT_TRUE(table.contains({symbol.market, symbol.code})) << symbol.code.toStdString();
             EXPECT_TRUE(once.insert({symbol.market, symbol.code}).second) << item.title.toStdString();
         }

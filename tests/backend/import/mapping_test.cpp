@@ -45,7 +45,7 @@ TEST(Mapping, ReadsRowsOfJsonAndOfCsvAlike) {
         EXPECT_EQ(news.time, 1766333178);  // 2025-12-22 00:06:18 +08:00
         EXPECT_EQ(news.story, u"1.日期:114/12/19@@@@2.人員(如:執行長):無3.5%不變@@@@(2)甲"_s);
         EXPECT_EQ(news.category, u"其他");
-        EXPECT_EQ(news.related, (std::vector<SymbolRef>{{16, u"2330"_s}}));
+        EXPECT_EQ(news.related, (std::vector<CSymbolInfo>{{16, u"2330"_s}}));
     }
 }
 
@@ -131,7 +131,7 @@ TEST(Mapping, RulesOfServicesSymbolsAndSeparators) {
     ASSERT_EQ(out.items.size(), 3U) << qPrintable(out.refusal);
     EXPECT_EQ(out.news(0).service, 16);
     EXPECT_EQ(out.news(0).story, u"x@@@@y"_s);
-    EXPECT_EQ(out.news(0).related, (std::vector<SymbolRef>{{1, u"A"_s}, {1, u"B"_s}}));
+    EXPECT_EQ(out.news(0).related, (std::vector<CSymbolInfo>{{1, u"A"_s}, {1, u"B"_s}}));
     EXPECT_EQ(out.news(1).service, 1);
     EXPECT_EQ(out.news(1).title, u"S, s");
     EXPECT_EQ(out.news(1).category, u"none");

@@ -52,7 +52,7 @@ TEST(Newsml, AnItemIsReadWhole) {
     EXPECT_EQ(news.title, u"Fed été halts");
     EXPECT_EQ(news.story, u"One two@@@@Mid@@@@Three <b>"_s);
     EXPECT_EQ(news.category, u"economy, finance");
-    EXPECT_EQ(news.related, (std::vector<SymbolRef>{{1, u"IBM"_s}, {16, u"2330"_s}}));
+    EXPECT_EQ(news.related, (std::vector<CSymbolInfo>{{1, u"IBM"_s}, {16, u"2330"_s}}));
 }
 
 TEST(Newsml, TheStoryIsTheTextOfTheFirstRenditionThatHasAny) {

@@ -18,7 +18,7 @@ QByteArray record(const QByteArray& fields) {
 
 QString taken(const NewsItem& item) {
     QString symbols;
-    for (const SymbolRef& symbol : item.related)
+    for (const CSymbolInfo& symbol : item.related)
         symbols += u" %1/%2"_s.arg(symbol.market).arg(symbol.code);
     return u"%1|%2|%3|%4|%5|%6"_s.arg(item.identity, item.title, item.story.value_or(u"-"_s), item.category,
                                       QString::number(item.version), symbols.trimmed());

@@ -45,7 +45,7 @@ QStringList PlainScan::find(unsigned char service, const CSearch& condition) con
                    (condition.scope != 0 && phrase.indexIn(entry.story) >= 0);
         };
         const auto named = [&](const CSymbolInfo& symbol) {
-            return std::any_of(entry.related.begin(), entry.related.end(), [&](const SymbolRef& ref) {
+            return std::any_of(entry.related.begin(), entry.related.end(), [&](const CSymbolInfo& ref) {
                 return ref.code == symbol.code && (ref.market == symbol.market || ref.market == 0);
             });
         };

@@ -26,7 +26,7 @@ private:
         QString identity;
         QByteArray title;  // the words in UTF-8, each between blanks
         QByteArray story;
-        std::vector<SymbolRef> related;
+        std::vector<CSymbolInfo> related;
     };
     PlainWords words;
     std::vector<Entry> entries;

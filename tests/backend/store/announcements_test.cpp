@@ -33,7 +33,7 @@ protected:
         EXPECT_TRUE(QTest::qWaitFor([this] { return backEnd.isDelivered(); }));
         return heard();
     }
-    static NewsItem about(NewsItem item, int category, const std::vector<SymbolRef>& symbols) {
+    static NewsItem about(NewsItem item, int category, const std::vector<CSymbolInfo>& symbols) {
         item.categoryId = category;
         item.related = symbols;
         return item;
@@ -99,7 +99,7 @@ TEST_F(AnnouncementsTest, WhoRegistersAServiceIsToldTheDayThatItHasReported) {
 }
 
 TEST_F(AnnouncementsTest, TheTablesOfOtherDaysNewsAreToldOnceForWhatCameTogether) {
-    const SymbolRef company{16, u"2330"_s};
+    const CSymbolInfo company{16, u"2330"_s};
     std::vector<NewsItem> items;
     for (int i = 0; i < 1200; ++i)
         items.push_back(

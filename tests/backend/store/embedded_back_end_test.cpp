@@ -58,7 +58,7 @@ protected:
 
 TEST_F(EmbeddedBackEndTest, TablesComeNewestFirstWithinTheirRange) {
     const auto put = [&](unsigned char service, const QString& title, std::int64_t time,
-                         std::vector<SymbolRef> related, std::int32_t category) {
+                         std::vector<CSymbolInfo> related, std::int32_t category) {
         NewsItem item = newsItem(service, title, time, title);
         item.related = std::move(related);
         item.categoryId = category;

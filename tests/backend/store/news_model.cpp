@@ -49,7 +49,7 @@ QStringList NewsModel::listing() const {
                            .arg(sequence)
                            .arg(item.version)
                            .arg(item.title, item.story.value_or(u"-"_s));
-        for (const SymbolRef& symbol : item.related)
+        for (const CSymbolInfo& symbol : item.related)
             line += symbol.code + u' ';
         lines += line;
     }
