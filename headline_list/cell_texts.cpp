@@ -3,6 +3,7 @@
 #include "headline_list/cell_texts.h"
 
 #include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
 
 #include <chrono>
 

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/bk_quote_interface.h"
-
 #include <QDate>
 #include <QDateTime>
 #include <QString>
 
 #include <cstdint>
+
+class BKQuoteInterface;
 
 namespace wirepane {
 

@@ -6,7 +6,6 @@
 #include "headline_list/cell_texts.h"
 #include "headline_list/language_keys.h"
 #include "headline_list/list_owner.h"
-#include "host/contract/bk_quote_interface.h"
 
 #include <QColor>
 #include <QLatin1StringView>

@@ -8,6 +8,9 @@
 #include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
 #include "headline_list/relation_matcher.h"
+#include "headline_list/service_entry.h"
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/fixed_services.h"
 
 #include <utility>
 

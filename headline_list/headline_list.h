@@ -3,7 +3,7 @@
 #pragma once
 
 #include "headline_list/list_index.h"
-#include "headline_list/list_owner.h"
+#include "host/controls/sheet_cells.h"
 #include "host/controls/super_sheet_wnd.h"
 
 #include <QPointer>
@@ -18,6 +18,7 @@ class BKQuoteInterface;
 namespace wirepane {
 class CellState;
 class HeadlineTable;
+class ListOwner;
 class ReadingPlace;
 class RelationMatcher;
 

@@ -4,7 +4,10 @@
 
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
+#include "headline_list/list_owner.h"
 #include "headline_list/table_reading.h"
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/fixed_services.h"
 #include "host/contract/news_positions.h"
 
 namespace wirepane {

@@ -3,6 +3,7 @@
 #include "headline_list/headline_columns.h"
 #include "headline_list/headline_list.h"
 #include "host/contract/sync_info.h"
+#include "host/controls/sheet_builder.h"
 
 namespace wirepane {
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/intake.h"
 
+#include "host/contract/fixed_services.h"
+
 #include <algorithm>
 
 namespace wirepane {

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/bk_quote_interface.h"
-
 #include <QLatin1StringView>
 #include <QString>
+
+class BKQuoteInterface;
 
 namespace wirepane {
 
@@ -139,8 +139,6 @@ inline constexpr QLatin1StringView replaceMessage{"IDS_NEWSCTRLVIEW_STRING_REPLA
 }  // namespace keys
 
 // The text of a key in the language in force.
-inline QString langText(BKQuoteInterface& backEnd, QLatin1StringView key) {
-    return backEnd.LangGetLangString(QString(key));
-}
+QString langText(BKQuoteInterface& backEnd, QLatin1StringView key);
 
 }  // namespace wirepane

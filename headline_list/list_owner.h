@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/list_index.h"
-#include "headline_list/service_entry.h"
-
 #include <QColor>
 #include <QString>
 
@@ -12,6 +9,8 @@
 #include <vector>
 
 namespace wirepane {
+enum class ListIndex : int;
+struct ServiceEntry;
 
 // What the headline lists need from the view that owns them. Interface thread only.
 class ListOwner {

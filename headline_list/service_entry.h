@@ -2,13 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/fixed_services.h"
-
 #include <cstdint>
 
 namespace wirepane {
-
-// The service whose news are warrant news: it has a list of its own.
 
 // One news service in the view's list.
 struct ServiceEntry {

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "headline_list/table_reading.h"
 
+#include "headline_list/relation_matcher.h"
+#include "headline_list/service_entry.h"
+#include "host/contract/bk_quote_interface.h"
+
 namespace wirepane {
 
 namespace {

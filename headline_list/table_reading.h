@@ -2,16 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/relation_matcher.h"
-#include "headline_list/service_entry.h"
 #include "headline_list/sort_order.h"
-#include "host/contract/bk_quote_interface.h"
 
 #include <QString>
 
 #include <vector>
 
+class BKQuoteInterface;
+struct CSymbolInfo;
+
 namespace wirepane {
+class RelationMatcher;
+enum class TableKind : int;
+struct ServiceEntry;
 
 // How the tables of lists are read from the back end: one run per selected service, in the order of the
 // services.

@@ -12,8 +12,6 @@
 #include "news_view/news_services.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_context.h"
-#include "search/news_relate_symbol_quote_view.h"
-#include "story/news_story_view.h"
 
 #include <QStyle>
 
@@ -55,7 +53,7 @@ ViewLayout Arrangement::layout() const {
 void Arrangement::place() {
     const ViewLayout places = layout();
     parts.controls.place(places);
-    placeStory(places);
+    stage.place(places.storyPane, places.storyHidesHeadline, places.relatedQuotes);
     for (const ListKind& kind : listKinds) {
         const bool withoutControls = kind.index == ListIndex::Symbol || kind.index == ListIndex::Warrant;
         if (CSuperSheetWnd* grid = parts.lists[kind.index].grid())
@@ -65,19 +63,6 @@ void Arrangement::place() {
     view.placeNotices();
     parts.window.update();
     view.refresh();
-}
-
-void Arrangement::placeStory(const ViewLayout& places) {
-    if (NewsStoryView* pane = stage.storyPane()) {
-        pane->HideHeadLine(places.storyHidesHeadline ? 1 : 0);
-        pane->setGeometry(places.storyPane);
-        pane->setVisible(!places.storyPane.isEmpty());
-        pane->vSetComponentPos();
-    }
-    if (CNewsRelateSymbolQuoteView* quotes = stage.relatedQuotes()) {
-        quotes->setGeometry(places.relatedQuotes);
-        quotes->setVisible(!places.relatedQuotes.isEmpty());
-    }
 }
 
 bool Arrangement::takeWidth() {

@@ -39,7 +39,6 @@ public:
 
 private:
     LayoutInput input() const;
-    void placeStory(const ViewLayout& layout);
 
     ViewContext& view;
     const CommonParts parts;

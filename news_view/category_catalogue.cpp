@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/category_catalogue.h"
 
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/ini_file.h"
+
 #include <QStringList>
 
 namespace wirepane {

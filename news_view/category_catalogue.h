@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/bk_quote_interface.h"
-#include "host/contract/ini_file.h"
-
 #include <QColor>
 #include <QString>
 
 #include <map>
 #include <vector>
 
+class BKQuoteInterface;
+
 namespace wirepane {
+class IniFile;
 
 // Category ids and their short names, both ways.
 class CategoryCatalogue {

@@ -7,6 +7,8 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/fixed_services.h"
 #include "host/contract/item_display.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/views/news_control_ids.h"

@@ -14,6 +14,7 @@
 #include "host/views/virtual_base_view.h"
 #include "news_view/mode_table.h"
 #include "news_view/notice_line.h"
+#include "news_view/view_layout.h"
 #include "search/search_edit2.h"
 
 #include <QLineEdit>

@@ -2,21 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/list_index.h"
-#include "host/contract/bk_quote_interface.h"
-#include "news_view/view_layout.h"
-
 #include <QDate>
 #include <QFont>
 #include <QHash>
 #include <QPointer>
 #include <QWidget>
 
-class CXTPTabControl;
-class SButton;
+class BKQuoteInterface;
 class TRVVirtualBaseView;
 
 namespace wirepane {
+enum class ListIndex : int;
+struct ViewLayout;
 
 // The controls of a news view: creates them, finds them by number, gives them their texts, places, fonts, and
 // shows those of a mode. A control that was not created is skipped everywhere. Buttons send their number as a

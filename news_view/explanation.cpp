@@ -5,8 +5,12 @@
 #include "headline_list/cell_texts.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
+#include "headline_list/relation_matcher.h"
+#include "headline_list/service_entry.h"
 #include "headline_list/table_reading.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
+#include "host/contract/fixed_services.h"
 
 #include <algorithm>
 #include <functional>

@@ -5,8 +5,6 @@
 #include "headline_list/headline_list.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_context.h"
-#include "search/news_relate_symbol_quote_view.h"
-#include "story/news_story_view.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -31,12 +29,6 @@ ListInput::ListInput(ViewContext& context, Surroundings surroundings)
 
 // --- Keys ---
 
-bool ListInput::quotesHaveFocus() const {
-    const QWidget* holder = around.window.focusWidget();
-    const QWidget* quotes = around.stage.relatedQuotes();
-    return quotes != nullptr && holder != nullptr && (holder == quotes || quotes->isAncestorOf(holder));
-}
-
 KeySituation ListInput::situation() const {
     const CSuperSheetWnd* grid = view.listOf(view.shownList()).grid();
     const QWidget* holder = around.window.focusWidget();
@@ -49,7 +41,7 @@ KeySituation ListInput::situation() const {
 }
 
 bool ListInput::takeBefore(const QKeyEvent& event) {
-    if (handingKeyOn || quotesHaveFocus())
+    if (handingKeyOn || around.stage.isInQuotes(around.window.focusWidget()))
         return false;
     if (event.type() == QEvent::KeyRelease)
         return takeRelease(event);
@@ -124,10 +116,8 @@ void ListInput::takeWheel(const QWheelEvent& event) {
     CSuperSheetWnd* grid = view.listOf(view.shownList()).grid();
     // What a grid or the story at its end lets pass is not for the grid again.
     const QWidget* under = around.window.childAt(event.position().toPoint());
-    const auto holdsPoint = [under](const QWidget* part) {
-        return under != nullptr && part != nullptr && part->isAncestorOf(under);
-    };
-    if (handingWheelOn || grid == nullptr || holdsPoint(grid) || holdsPoint(around.stage.storyPane()))
+    const bool isOverGrid = under != nullptr && grid != nullptr && grid->isAncestorOf(under);
+    if (handingWheelOn || grid == nullptr || isOverGrid || around.stage.isInPane(under))
         return;
     const QScopedValueRollback handingOn(handingWheelOn, true);
     if (event.angleDelta().x() != 0 && event.angleDelta().y() == 0) {

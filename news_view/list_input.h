@@ -43,7 +43,6 @@ public:
 
 private:
     KeySituation situation() const;
-    bool quotesHaveFocus() const;
     void carryOut(const KeyRoute& route, const QKeyEvent& event);
     void handOn(QWidget& receiver, const QKeyEvent& event);
 

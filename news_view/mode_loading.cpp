@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/mode_loading.h"
 
+#include "news_view/application_switches.h"
 #include "news_view/mode_table.h"
 
 #include <utility>

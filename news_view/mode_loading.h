@@ -3,11 +3,11 @@
 #pragma once
 
 #include "headline_list/list_index.h"
-#include "news_view/application_switches.h"
 
 #include <array>
 
 namespace wirepane {
+struct ApplicationSwitches;
 
 // Decides what a switch to a mode reads, and remembers what has been read once.
 class ModeLoading {

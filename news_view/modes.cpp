@@ -4,6 +4,7 @@
 
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
+#include "news_view/application_switches.h"
 #include "news_view/control_set.h"
 #include "news_view/mode_loading.h"
 #include "news_view/mode_table.h"

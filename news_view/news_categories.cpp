@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/news_categories.h"
 
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/fixed_services.h"
+#include "host/contract/ini_file.h"
 
 #include <algorithm>
 #include <utility>

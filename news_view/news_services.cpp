@@ -3,6 +3,8 @@
 #include "news_view/news_services.h"
 
 #include "headline_list/list_index.h"
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/fixed_services.h"
 #include "host/views/quote_base_view.h"
 
 #include <algorithm>

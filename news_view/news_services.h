@@ -3,16 +3,17 @@
 #pragma once
 
 #include "headline_list/service_entry.h"
-#include "host/contract/bk_quote_interface.h"
-#include "host/contract/cfg_io.h"
 
 #include <functional>
 #include <span>
 #include <vector>
 
+class BKQuoteInterface;
+class TRVCfgIO2;
 class TRVQuoteBaseView;
 
 namespace wirepane {
+struct ViewSettingPath;
 
 // The view's news services: which there are, which the user has ticked, which are registered with the back
 // end. Two copies of the list are kept: the live one, which a mode may change for its own purposes, and the

@@ -6,8 +6,6 @@
 #include "host/controls/window_id.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/story_stage.h"
-#include "news_view/view_settings.h"
-#include "story/trv_news_story.h"
 
 #include <QPointer>
 
@@ -46,7 +44,7 @@ NewsOutcome OutputJobs::putOut(TRVNewsPrint& job, int button, const std::vector<
     if (entries.empty())
         return {};
     const std::vector<unsigned char> services = around.titles();
-    job.setWholeTitles(around.settings.options[ViewOption::WholeTitles]);
+    job.setWholeTitles(around.wholeTitles());
     OutputItems items = job.gather(entries, services);
     if (!isSettled(items)) {
         job.wait(std::move(items), services, target);
@@ -60,12 +58,11 @@ NewsOutcome OutputJobs::putOut(TRVNewsPrint& job, int button, const std::vector<
 NewsOutcome OutputJobs::ask(TRVNewsPrint& job, int button, OutputItems items) {
     const QPointer<QWidget> window = &around.window;
     const QPointer<QWidget> control = dlgItem(&around.window, button);
-    TRVNewsStory* dialog = around.stage.storyDialog();
+    QWidget* dialog = around.stage.dialogOnShow();
     around.stage.leaveTop();
     if (control != nullptr)
         control->setEnabled(false);
-    NewsOutcome outcome = job.putOut(
-        std::move(items), dialog != nullptr && dialog->isVisible() ? dialog : nullptr, std::nullopt);
+    NewsOutcome outcome = job.putOut(std::move(items), dialog, std::nullopt);
     if (control != nullptr)
         control->setEnabled(true);
     // The jobs have gone with their window: nobody is left to tell it.

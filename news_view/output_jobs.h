@@ -12,7 +12,6 @@
 
 namespace wirepane {
 class StoryStage;
-struct ViewSettings;
 
 // Printing, saving and previewing the news of one view: three jobs, each with what it waits for. What the
 // user is to know of news that had waited is told as it comes. Interface thread only.
@@ -20,9 +19,9 @@ class OutputJobs {
 public:
     // What the jobs need of the view around them.
     struct Surroundings {
-        QWidget& window;               // of the questions; holds the buttons that ask them
-        StoryStage& stage;             // whose dialog makes room for a question
-        const ViewSettings& settings;  // whether titles stay whole
+        QWidget& window;                    // of the questions; holds the buttons that ask them
+        StoryStage& stage;                  // whose dialog makes room for a question
+        std::function<bool()> wholeTitles;  // whether titles stay whole
         std::function<std::vector<unsigned char>()> titles;  // the services that are asked for titles
         std::function<void()> awaitedChanged;                // what is waited for may have changed
         std::function<void(const QString&)> tell;            // a sentence for the user

@@ -7,6 +7,7 @@
 #include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
 #include "headline_list/table_reading.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
 #include "host/contract/symbol_name.h"
 #include "host/controls/heap_dialog.h"
@@ -219,8 +220,7 @@ void Searches::searchFor(CSearch& condition, ListIndex index, const CHeadline& h
     if (list.grid() == nullptr)
         return;
     SearchDesk::completeMethod(condition);
-    conditions.noteSent(condition, headline.service);
-    parts.backEnd.BKQNEWS_bSearchNews(headline.service, searchKind, condition);
+    conditions.ask(condition, headline.service);
     // The answer brings the rows of all services.
     if (parts.settings.options[ViewOption::KeepWarningRows])
         return;

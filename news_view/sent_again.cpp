@@ -8,6 +8,7 @@
 #include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
+#include "host/contract/fixed_services.h"
 #include "news_view/application_switches.h"
 #include "news_view/list_tip.h"
 #include "news_view/mode_loading.h"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/service_menu.h"
 
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/fixed_services.h"
 #include "host/controls/window_id.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/news_services.h"

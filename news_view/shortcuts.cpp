@@ -11,10 +11,7 @@
 #include "news_view/control_set.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_context.h"
-#include "search/news_relate_symbol_quote_view.h"
 #include "search/search_edit2.h"
-#include "story/news_story_view.h"
-#include "story/story_ids.h"
 
 #include <QAbstractButton>
 #include <QShortcut>
@@ -113,12 +110,8 @@ void Shortcuts::setTabOrder() {
         follow(dlgItem(&around.window, id));
     for (const ListKind& kind : listKinds)
         follow(view.listOf(kind.index).grid());
-    if (const NewsStoryView* pane = around.stage.storyPane()) {
-        for (const int id : {story_ids::title, story_ids::storyText})
-            follow(dlgItem(pane, id));
-    }
-    if (const CNewsRelateSymbolQuoteView* quotes = around.stage.relatedQuotes())
-        follow(quotes->quoteSheet());
+    for (QWidget* part : {around.stage.paneTitle(), around.stage.paneText(), around.stage.quotesGrid()})
+        follow(part);
 }
 
 void Shortcuts::stepMode(int step) {
@@ -167,13 +160,8 @@ void Shortcuts::openCalendar() {
 
 // From the list to the story beside it, to the quotes of its symbols, and back to the list.
 void Shortcuts::changePane() {
-    std::vector<QWidget*> panes;
-    if (CSuperSheetWnd* grid = view.listOf(view.shownList()).grid())
-        panes.push_back(grid);
-    if (const NewsStoryView* pane = around.stage.storyPane())
-        panes.push_back(dlgItem(pane, story_ids::storyText));
-    if (const CNewsRelateSymbolQuoteView* quotes = around.stage.relatedQuotes())
-        panes.push_back(quotes->quoteSheet());
+    std::vector<QWidget*> panes{view.listOf(view.shownList()).grid(), around.stage.paneText(),
+                                around.stage.quotesGrid()};
     std::erase_if(panes, [](const QWidget* pane) { return pane == nullptr || !pane->isVisible(); });
     if (panes.empty())
         return;

@@ -4,6 +4,7 @@
 
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
+#include "host/contract/bk_quote_interface.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_context.h"
 #include "news_view/view_layout.h"

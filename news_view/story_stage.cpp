@@ -3,8 +3,11 @@
 #include "news_view/story_stage.h"
 
 #include "host/contract/sync_info.h"
+#include "host/controls/super_sheet_wnd.h"
+#include "host/controls/window_id.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "story/news_story_view.h"
+#include "story/story_ids.h"
 #include "story/trv_news_story.h"
 
 #include <QApplication>
@@ -48,6 +51,43 @@ void StoryStage::setDialog(TRVNewsStory* storyDialog) {
 
 TRVNewsStory* StoryStage::storyDialog() const {
     return dialog;
+}
+
+QWidget* StoryStage::dialogOnShow() const {
+    return dialog != nullptr && dialog->isVisible() ? dialog : nullptr;
+}
+
+void StoryStage::place(const QRect& storyPlace, bool withoutHeadline, const QRect& quotesPlace) {
+    if (pane != nullptr) {
+        pane->HideHeadLine(withoutHeadline ? 1 : 0);
+        pane->setGeometry(storyPlace);
+        pane->setVisible(!storyPlace.isEmpty());
+        pane->vSetComponentPos();
+    }
+    if (quotes != nullptr) {
+        quotes->setGeometry(quotesPlace);
+        quotes->setVisible(!quotesPlace.isEmpty());
+    }
+}
+
+bool StoryStage::isInPane(const QWidget* part) const {
+    return pane != nullptr && part != nullptr && pane->isAncestorOf(part);
+}
+
+bool StoryStage::isInQuotes(const QWidget* part) const {
+    return quotes != nullptr && part != nullptr && (part == quotes || quotes->isAncestorOf(part));
+}
+
+QWidget* StoryStage::paneTitle() const {
+    return pane != nullptr ? dlgItem(pane, story_ids::title) : nullptr;
+}
+
+QWidget* StoryStage::paneText() const {
+    return pane != nullptr ? dlgItem(pane, story_ids::storyText) : nullptr;
+}
+
+QWidget* StoryStage::quotesGrid() const {
+    return quotes != nullptr ? quotes->quoteSheet() : nullptr;
 }
 
 bool StoryStage::canShow() const {

@@ -6,6 +6,8 @@
 
 class CNewsRelateSymbolQuoteView;
 class NewsStoryView;
+class QRect;
+class QWidget;
 class TRVNewsStory;
 
 namespace wirepane {
@@ -28,7 +30,19 @@ public:
     // The dialog belongs to the stage from here on.
     void setDialog(TRVNewsStory* dialog);
     TRVNewsStory* storyDialog() const;
+    // The dialog while it is to be seen; null: it is not.
+    QWidget* dialogOnShow() const;
     bool canShow() const;
+
+    // Puts the pane and the quotes in their places; an empty place hides.
+    void place(const QRect& storyPlace, bool withoutHeadline, const QRect& quotesPlace);
+    // Whether a widget (null: none) stands in the pane; is the quotes, or stands in them.
+    bool isInPane(const QWidget* part) const;
+    bool isInQuotes(const QWidget* part) const;
+    // What takes the keyboard in the pane and in the quotes; null where there is none.
+    QWidget* paneTitle() const;
+    QWidget* paneText() const;
+    QWidget* quotesGrid() const;
 
     void hideDialog();
 

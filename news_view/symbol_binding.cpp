@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/symbol_binding.h"
 
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/fixed_services.h"
 #include "host/contract/search_control.h"
 #include "host/controls/quote_combo_box_auto.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/views/news_control_ids.h"
+#include "news_view/control_set.h"
 
 #include <QStringList>
 

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/bk_quote_interface.h"
-#include "news_view/control_set.h"
+#include "host/contract/records.h"
 
 #include <QHash>
 #include <QString>
@@ -11,7 +10,10 @@
 #include <optional>
 #include <vector>
 
+class BKQuoteInterface;
+
 namespace wirepane {
+class ControlSet;
 
 // The symbol whose news the symbol mode shows, and the two combos that choose it: the service combo, and the
 // symbol combo with the supported symbols of the chosen service. What happens when it changes is the view's

@@ -8,6 +8,7 @@
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/window_id.h"
 #include "host/views/news_control_ids.h"
+#include "news_view/control_set.h"
 #include "news_view/mode_loading.h"
 #include "news_view/view_context.h"
 #include "news_view/view_settings.h"

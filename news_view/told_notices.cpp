@@ -6,6 +6,7 @@
 #include "headline_list/feed_breaks.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/reading_moment.h"
 #include "host/contract/symbol_name.h"
 #include "news_view/list_notices.h"

@@ -3,6 +3,7 @@
 // What the host tells the news view of news, days, symbols and quotes, and what the user does with them: the
 // owners of that do the work.
 #include "headline_list/headline_list.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "news_view/view_parts.h"

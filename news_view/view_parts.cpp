@@ -6,7 +6,9 @@
 #include "headline_list/cell_texts.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
+#include "host/contract/fixed_services.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/s_button.h"
 #include "host/controls/xtp_tab_control.h"
@@ -107,7 +109,7 @@ StoryDisplay::Surroundings TRVNewsCtrlView::Parts::storySurroundings() {
 OutputJobs::Surroundings TRVNewsCtrlView::Parts::outputSurroundings() {
     return {view,
             stage,
-            settings,
+            [this] { return settings.options[ViewOption::WholeTitles]; },
             [this] { return services.activeServices(static_cast<int>(modes.shown())); },
             [this] { board.place(); },
             [this](const QString& sentence) { emit view.messageForUser(sentence); }};

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/view_settings.h"
 
+#include "host/contract/cfg_io.h"
+
 #include <cstdlib>
 #include <limits>
 

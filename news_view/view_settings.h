@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/cfg_io.h"
 #include "host/contract/view_options.h"
 #include "host/views/quote_table.h"
 #include "news_view/mode_table.h"
@@ -12,7 +11,10 @@
 #include <cstdint>
 #include <optional>
 
+class TRVCfgIO2;
+
 namespace wirepane {
+struct ViewSettingPath;
 
 // The settings of a view that are plain values; what is absent or makes no sense has its default. The
 // services keep their own (NewsServices).

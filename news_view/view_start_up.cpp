@@ -4,6 +4,7 @@
 #include "headline_list/cell_texts.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/fixed_services.h"
 #include "host/contract/ini_file.h"
 #include "host/contract/misuse.h"

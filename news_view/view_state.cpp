@@ -3,6 +3,7 @@
 // What the news view lets the host's scripts look at.
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"

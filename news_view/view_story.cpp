@@ -3,6 +3,7 @@
 // The stories of the news view, and what becomes of them on paper and in files.
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/controls/s_button.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/output_item.h"
 
+#include "host/contract/bk_quote_interface.h"
 #include "output/printable_story.h"
 #include "story/story_text.h"
 

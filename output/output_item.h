@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/bk_quote_interface.h"
 #include "host/contract/records.h"
 
 #include <QString>
 
 #include <vector>
+
+class BKQuoteInterface;
 
 namespace wirepane {
 

@@ -3,6 +3,7 @@
 #include "output/saved_text.h"
 
 #include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
 #include "output/byte_lines.h"
 #include "output/code_page_950.h"
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/keyword_entry_dlg.h"
 
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/lang_text.h"
 #include "host/contract/search_control.h"
 #include "host/contract/symbol_name.h"

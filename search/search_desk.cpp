@@ -3,6 +3,9 @@
 #include "search/search_desk.h"
 
 #include "headline_list/language_keys.h"
+#include "headline_list/list_index.h"
+#include "headline_list/service_entry.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/search_choices.h"
 
 #include <algorithm>
@@ -121,17 +124,17 @@ void SearchDesk::sendSearch(ListIndex mode, std::span<ServiceEntry> services, bo
     sent = {condition, now};
     for (ServiceEntry& entry : services) {
         entry.searchPending = entry.selected && awaited;
-        if (!entry.selected)
-            continue;
-        noteSent(condition, entry.service);
-        backEnd.BKQNEWS_bSearchNews(entry.service, searchKind, condition);
+        if (entry.selected)
+            ask(condition, entry.service);
     }
 }
 
-void SearchDesk::noteSent(const CSearch& condition, unsigned char service) {
+void SearchDesk::ask(const CSearch& condition, unsigned char service) {
     const std::pair search(condition, service);
     if (std::find(due.begin(), due.end(), search) == due.end())
         due.push_back(search);
+    // Every search is sent with the number of the same list.
+    backEnd.BKQNEWS_bSearchNews(service, static_cast<int>(TableKind::Search), condition);
 }
 
 bool SearchDesk::takeAnswerDue(const CSearch& condition, unsigned char service) {

@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/list_index.h"
-#include "headline_list/service_entry.h"
-#include "host/contract/bk_quote_interface.h"
 #include "host/contract/search_condition.h"
 #include "search/search_memory.h"
 
@@ -15,7 +12,12 @@
 #include <utility>
 #include <vector>
 
+class BKQuoteInterface;
+
 namespace wirepane {
+enum class ListIndex : int;
+enum class TableKind : int;
+struct ServiceEntry;
 
 // The searches of a view: their conditions, what has been sent and is still to be answered, and what is kept
 // of them. Showing results is the view's affair. Interface thread only.
@@ -34,8 +36,8 @@ public:
 
     // The condition that a mode sends; null for a mode without searches.
     CSearch* conditionOf(ListIndex mode);
-    // A search was sent besides.
-    void noteSent(const CSearch& condition, unsigned char service);
+    // Asks a service besides.
+    void ask(const CSearch& condition, unsigned char service);
     // A service has answered a condition: true when this view waits for that; it does not any more. Other
     // answers come by themselves, because the service has found more.
     bool takeAnswerDue(const CSearch& condition, unsigned char service);
@@ -99,7 +101,5 @@ bool forgetPending(std::span<ServiceEntry> services);
 
 // The key of search tables.
 inline const QString searchTableKey = QStringLiteral("SEARCH");
-// The number of the list that asks, as every search is sent.
-inline constexpr int searchKind = static_cast<int>(TableKind::Search);
 
 }  // namespace wirepane

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/search_memory.h"
 
+#include "host/contract/cfg_io.h"
 #include "search/key_set_text.h"
 
 #include <QSet>

@@ -3,12 +3,14 @@
 #pragma once
 
 #include "headline_list/news_key.h"
-#include "host/contract/cfg_io.h"
 #include "search/keyword_list.h"
 #include "search/recent_searches.h"
 #include "search/warning_items.h"
 
+class TRVCfgIO2;
+
 namespace wirepane {
+struct ViewSettingPath;
 
 // What a view keeps of its user's searches: every keyword ever typed, the searches made last, and the stored
 // conditions of its standing searches.

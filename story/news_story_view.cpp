@@ -3,6 +3,7 @@
 #include "story/news_story_view.h"
 
 #include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/lang_text.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/quote_static_ex.h"

@@ -5,6 +5,7 @@
 #include "headline_list/cell_texts.h"
 #include "headline_list/entry_source.h"
 #include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
 #include "story/story_text.h"
 
 #include <algorithm>

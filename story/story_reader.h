@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/bk_quote_interface.h"
 #include "host/contract/records.h"
 #include "host/contract/search_condition.h"
 #include "story/keyword_match.h"
@@ -11,6 +10,8 @@
 
 #include <optional>
 #include <vector>
+
+class BKQuoteInterface;
 
 namespace wirepane {
 class EntrySource;

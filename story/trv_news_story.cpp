@@ -3,6 +3,7 @@
 #include "story/trv_news_story.h"
 
 #include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/lang_text.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/my_rich_edit.h"

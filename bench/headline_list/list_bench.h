@@ -7,7 +7,10 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/headline_table.h"
+#include "headline_list/list_owner.h"
+#include "headline_list/service_entry.h"
 #include "headline_list/table_reading.h"
+#include "host/contract/bk_quote_interface.h"
 
 #include <QWidget>
 

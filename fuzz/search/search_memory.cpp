@@ -3,6 +3,7 @@
 #include "search/search_memory.h"
 
 #include "fuzz/support/fuzz_input.h"
+#include "host/contract/cfg_io.h"
 #include "host/contract/search_choices.h"
 #include "search/key_set_text.h"
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/contract/view_options.h"
 
+#include "host/contract/cfg_io.h"
+
 namespace wirepane {
 
 ViewOptions ViewOptions::read(const TRVCfgIO2& reader, const ViewSettingPath& path) {

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/cfg_io.h"
 #include "host/contract/export.h"
 
 #include <QLatin1StringView>
@@ -11,7 +10,10 @@
 #include <bitset>
 #include <cstddef>
 
+class TRVCfgIO2;
+
 namespace wirepane {
+struct ViewSettingPath;
 
 // What a host may switch on for a view by its settings, beyond what a view does whose settings say nothing.
 // Each is a boolean setting of the view "TRVNewsCtrlView"; absent or no boolean, it is off.

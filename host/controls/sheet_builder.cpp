@@ -2,21 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/sheet_builder.h"
 
+#include "host/controls/sheet_cells.h"
+
 #include <QBrush>
 
 #include <algorithm>
-
-namespace wirepane {
-
-QColor SheetCells::textColour(int /*row*/, int /*column*/) const {
-    return {};
-}
-
-QColor SheetCells::highlight(int /*row*/, int /*column*/) const {
-    return {};
-}
-
-}  // namespace wirepane
 
 using namespace wirepane;
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // How the rows of a sheet come and go, and what stays in place meanwhile.
+#include "host/controls/sheet_builder.h"
 #include "host/controls/sheet_delegate.h"
 #include "host/controls/super_sheet_wnd.h"
 

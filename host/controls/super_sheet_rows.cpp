@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // The rows of a sheet: which of them are on screen, selected and current, and in which colours.
+#include "host/controls/sheet_builder.h"
 #include "host/controls/sheet_delegate.h"
 #include "host/controls/sheet_header.h"
 #include "host/controls/super_sheet_wnd.h"

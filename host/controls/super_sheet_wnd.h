@@ -3,13 +3,15 @@
 #pragma once
 
 #include "host/contract/export.h"
-#include "host/controls/sheet_builder.h"
 
 #include <QTableView>
 
 #include <vector>
 
+class CSheetBuilder;
+
 namespace wirepane {
+class SheetCells;
 class SheetDelegate;
 class SheetHeader;
 

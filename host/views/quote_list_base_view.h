@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/contract/export.h"
-#include "host/controls/sheet_builder.h"
+#include "host/controls/sheet_cells.h"
 #include "host/views/quote_base_view.h"
 #include "host/views/quote_columns.h"
 #include "host/views/quote_flashes.h"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/endurance/desk.h"
 
+#include "host/contract/fixed_services.h"
 #include "host/contract/search_control.h"
 #include "host/contract/view_options.h"
 #include "host/controls/window_id.h"

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "headline_list/news_key.h"
+#include "headline_list/relation_matcher.h"
 #include "headline_list/table_reading.h"
 #include "tests/headline_list/list_fixture.h"
 

@@ -4,6 +4,7 @@
 
 #include "headline_list/date_pager.h"
 #include "headline_list/feed_breaks.h"
+#include "host/contract/fixed_services.h"
 
 #include <functional>
 #include <gtest/gtest.h>

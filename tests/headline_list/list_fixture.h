@@ -6,7 +6,9 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/headline_table.h"
+#include "headline_list/service_entry.h"
 #include "headline_list/table_reading.h"
+#include "host/contract/fixed_services.h"
 #include "tests/support/fake_back_end.h"
 
 #include <QStringList>

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Pushed headlines in one list: where they go, what the rows show, what stays selected.
+#include "headline_list/news_key.h"
+#include "headline_list/relation_matcher.h"
 #include "tests/headline_list/list_fixture.h"
 
 #include <QAbstractItemModelTester>

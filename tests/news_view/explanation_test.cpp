@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/explanation.h"
 
+#include "headline_list/relation_matcher.h"
 #include "host/contract/clock.h"
 #include "tests/headline_list/list_fixture.h"
 #include "tests/news_view/view_fixture.h"

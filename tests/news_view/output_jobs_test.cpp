@@ -6,7 +6,6 @@
 #include "host/controls/window_id.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/story_stage.h"
-#include "news_view/view_settings.h"
 #include "tests/support/fake_back_end.h"
 
 #include <QFile>
@@ -60,7 +59,7 @@ protected:
         OutputJobs::Surroundings around{
             *window,
             stage,
-            settings,
+            [this] { return wholeTitles; },
             [this] { return services; },
             [this] { ++awaitedChanged; },
             [this](const QString& sentence) { told.append(sentence); },
@@ -92,7 +91,7 @@ protected:
     FakeBackEnd backEnd;
     std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
     StoryStage stage;
-    ViewSettings settings;
+    bool wholeTitles = false;
     Asked dialogs;
     std::vector<unsigned char> services{1};
     int awaitedChanged = 0;
@@ -151,9 +150,7 @@ TEST_F(OutputJobsTest, TitlesComeFromTheServicesOfTheModeAndAsLongAsTheSettingsS
     backEnd.add(1, entry.time, 1, QString(100, u'x'));
     backEnd.addStory({entry.time, u"Body"_s, entry});
     for (const bool whole : {false, true}) {
-        MemoryCfgIO stored;
-        stored.values[u"WholeTitles"_s] = whole;
-        settings = ViewSettings::read(stored, {}, 0);
+        wholeTitles = whole;
         jobs->save({entry}, target(u"title.txt"_s));
         EXPECT_EQ(saved(u"title.txt"_s).count('x'), whole ? 100 : 80);
     }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "host/contract/cfg_io.h"
+#include "host/contract/ini_file.h"
 #include "host/views/quote_base_view.h"
 #include "news_view/application_switches.h"
 #include "news_view/category_catalogue.h"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Conditions, keywords and recent searches, and what is kept of them.
+#include "host/contract/cfg_io.h"
 #include "search/search_desk.h"
 #include "tests/support/fake_back_end.h"
 

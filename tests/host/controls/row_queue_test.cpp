@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 // Rows that come and go one by one: the model takes them up together, and what is selected, current or on
 // screen stays.
+#include "host/controls/sheet_builder.h"
+#include "host/controls/sheet_cells.h"
 #include "tests/host/controls/sheet_fixture.h"
 
 #include <QAbstractItemModelTester>

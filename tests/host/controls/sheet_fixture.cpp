@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/host/controls/sheet_fixture.h"
 
+#include "host/controls/sheet_builder.h"
+
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QTest>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/controls/sheet_cells.h"
 #include "host/controls/super_sheet_wnd.h"
 
 #include <QWidget>

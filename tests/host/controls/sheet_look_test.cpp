@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "host/controls/registered_message.h"
+#include "host/controls/sheet_builder.h"
 #include "tests/host/controls/sheet_fixture.h"
 
 #include <QHeaderView>

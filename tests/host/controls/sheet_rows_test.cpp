@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "host/controls/sheet_builder.h"
 #include "tests/host/controls/sheet_fixture.h"
 
 #include <QElapsedTimer>
