@@ -19,6 +19,10 @@ void ListedDays::clear() {
     *this = {};
 }
 
+std::optional<CHeadlineTable> HeadlineTable::entryAt(int row) const {
+    return row >= 0 && row < size() ? std::optional(at(row)) : std::nullopt;
+}
+
 std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
     std::vector<CHeadlineTable> copies;
     const int first = std::max(from, 0);

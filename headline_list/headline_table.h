@@ -38,6 +38,8 @@ public:
 
     // The entry of a row in [0, size()).
     const CHeadlineTable& at(int row) const { return entries.at(row); }
+    // The entry of any row; nothing when there is no such row.
+    std::optional<CHeadlineTable> entryAt(int row) const;
 
     // Up to `count` entries from row `from` on, cut at the end of the table.
     std::vector<CHeadlineTable> rows(int from, int count) const;

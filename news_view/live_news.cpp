@@ -49,7 +49,7 @@ void LiveNews::push(const PushedHeadline& pushed) {
 // Rows that come and go one by one are no new rows of the list: here the story is forgotten besides.
 void LiveNews::listsChanged() {
     context.refresh();
-    context.forgetShownStory();
+    calls.forgetShownStory();
 }
 
 // A headline that was sent again is asked by every list that has it, whether or not the list takes it in.

@@ -39,9 +39,11 @@ constexpr unsigned char commodityMarket = 0x6D;
 
 }  // namespace
 
-Searches::Searches(ViewContext& viewContext, const CommonParts& commonParts)
+Searches::Searches(ViewContext& viewContext, const CommonParts& commonParts,
+                   std::function<bool()> showsStoryNow)
     : context(viewContext),
       parts(commonParts),
+      showsStory(std::move(showsStoryNow)),
       conditions(parts.backEnd),
       shortTip(new CXTTipWindow(&parts.window)) {}
 
@@ -163,7 +165,7 @@ void Searches::showFound(ListIndex index, bool selectFirst) {
         list.grid()->setActiveSelection(0, -1);
     // An answer opens no window; one that is open follows the rows. Without rows there is no story: that of
     // a row that went would stand beside an empty list.
-    const bool isStoryAsked = !selectFirst || list.headlineTable().empty() || context.hasOpenStory();
+    const bool isStoryAsked = !selectFirst || list.headlineTable().empty() || showsStory();
     if (context.shownList() == index && isStoryAsked)
         context.showStory();
     context.placeNotices();

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QVariantMap>
 
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -28,7 +29,8 @@ struct CSymbolUpdateInfo;
 // the tip while they wait, and what is found. Interface thread only.
 class Searches : private ShortTips {
 public:
-    Searches(ViewContext& context, const CommonParts& parts);
+    // `showsStory`: whether showing a story opens no window, because the pane or the open window shows it.
+    Searches(ViewContext& context, const CommonParts& parts, std::function<bool()> showsStory);
 
     // Enter in the search box searches, and what it refuses is told in a short tip.
     void connectEdit();
@@ -76,6 +78,7 @@ private:
 
     ViewContext& context;
     const CommonParts parts;
+    const std::function<bool()> showsStory;
     SearchDesk conditions;
     std::map<unsigned char, CHeadline> pushed;  // the newest of each service since the last refresh
     QString waitTipText;                        // of the search that was announced last, as it was shown

@@ -135,16 +135,16 @@ bool SentAgain::take(const CHeadlineTableInfo& info, ListIndex list, bool asked,
         return true;
     QString name;
     parts.backEnd.BKQNEWS_bGetShortNameByService(name, info.service);
-    if (!context.statusText().contains(name))
+    if (!choices.statusText().contains(name))
         context.setStatusText(withServiceName(name));
     parts.tip.showOver(
-        grid, context.statusText() + nothingFound.separator + langText(parts.backEnd, nothingFound.key));
+        grid, choices.statusText() + nothingFound.separator + langText(parts.backEnd, nothingFound.key));
     return false;
 }
 
 // The status text with one more service that has no news.
 QString SentAgain::withServiceName(const QString& name) const {
-    const QString status = context.statusText();
+    const QString status = choices.statusText();
     const QString before = status.trimmed();
     if (before.isEmpty() || !parts.settings.options[ViewOption::SeparateServiceNames])
         return status + name + u' ';

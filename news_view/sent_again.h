@@ -29,6 +29,7 @@ public:
         std::function<CSymbolInfo()> symbol;        // the current news symbol
         std::function<CSymbolInfo()> listedSymbol;  // whose news the symbol list is to hold
         std::function<const RelationMatcher&()> keySets;
+        std::function<QString()> statusText;
     };
     SentAgain(ViewContext& context, const CommonParts& parts, Choices choices);
 

@@ -130,7 +130,7 @@ int StoryDisplay::pointAt(int newRow) {
 std::optional<CHeadlineTable> StoryDisplay::shownOf(ListIndex list) const {
     if (!paneShowsStories() || around.stage.storyPane()->listNumber() != static_cast<int>(list))
         return std::nullopt;
-    return view.entryAt(list, around.stage.storyPane()->GetHeadLinePos());
+    return view.listOf(list).headlineTable().entryAt(around.stage.storyPane()->GetHeadLinePos());
 }
 
 bool StoryDisplay::readInPlace(ListIndex list, const std::function<bool()>& read) {
@@ -191,7 +191,7 @@ void StoryDisplay::listRelatedSymbols() {
     const NewsStoryView* pane = around.stage.storyPane();
     if (quotes == nullptr || pane == nullptr)
         return;
-    const auto entry = view.entryAt(view.shownList(), pane->GetHeadLinePos());
+    const auto entry = view.listOf(view.shownList()).headlineTable().entryAt(pane->GetHeadLinePos());
     if (!entry)
         return;
     CNewsSymLst related;

@@ -214,7 +214,7 @@ CSuperSheetWnd* TRVNewsCtrlView::pGetCurrSheetView() const {
 }
 
 CHeadlineTable TRVNewsCtrlView::GetHeadlineTable(int row) const {
-    return parts->entryAt(parts->modes.shown(), row).value_or(CHeadlineTable());
+    return parts->shownEntry(row).value_or(CHeadlineTable());
 }
 
 bool TRVNewsCtrlView::bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const {

@@ -39,7 +39,7 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       contextMenu(*this, menu, contextMenuSurroundings()),
       input(*this, inputSurroundings()),
       shortcuts(*this, shortcutSurroundings()),
-      searches(*this, common),
+      searches(*this, common, [this] { return story.hasOpenStory(); }),
       standingSearches(*this, common, searches.desk(),
                        {[this] { modes.read(ListIndex::Relation); }, [this] { searches.send(); }}),
       days(*this, common,
@@ -183,14 +183,18 @@ SymbolMode::Calls TRVNewsCtrlView::Parts::symbolCalls() {
 }
 
 SentAgain::Choices TRVNewsCtrlView::Parts::choices() {
-    return {[this] { return days.pickedKey(); }, [this] { return categories.chosenId(); },
-            [this] { return symbolMode.current(); }, [this] { return symbolMode.listed(); },
-            [this]() -> const RelationMatcher& { return standingSearches.tickedKeySets(); }};
+    return {[this] { return days.pickedKey(); },
+            [this] { return categories.chosenId(); },
+            [this] { return symbolMode.current(); },
+            [this] { return symbolMode.listed(); },
+            [this]() -> const RelationMatcher& { return standingSearches.tickedKeySets(); },
+            [this] { return board.status(); }};
 }
 
 LiveNews::Calls TRVNewsCtrlView::Parts::liveCalls() {
     return {[this] { return intakeChoices(); },
             [this](ListIndex list, const HeadlinePlace& place) { story.keepThrough(list, place); },
+            [this] { story.forget(); },
             [this](const CHeadline& headline, const QString& categoryId) {
                 searches.notePushed(headline);
                 categories.notePushed(headline, categoryId);
@@ -228,14 +232,13 @@ void TRVNewsCtrlView::Parts::readForServices() {
 
 // --- Entries ---
 
-std::optional<CHeadlineTable> TRVNewsCtrlView::Parts::entryAt(ListIndex list, int row) const {
-    const HeadlineTable& table = lists[list].headlineTable();
-    return row >= 0 && row < table.size() ? std::optional(table.at(row)) : std::nullopt;
+std::optional<CHeadlineTable> TRVNewsCtrlView::Parts::shownEntry(int row) const {
+    return lists[modes.shown()].headlineTable().entryAt(row);
 }
 
 bool TRVNewsCtrlView::Parts::bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const {
     const auto index = listOfNumber(list);
-    const auto found = index ? entryAt(*index, row) : std::nullopt;
+    const auto found = index ? lists[*index].headlineTable().entryAt(row) : std::nullopt;
     entry = found.value_or(entry);
     return found.has_value();
 }
@@ -260,7 +263,7 @@ std::vector<CHeadlineTable> TRVNewsCtrlView::Parts::selectedEntries() const {
         grid->vGetAllSelectionNdx(rows);
     std::vector<CHeadlineTable> entries;
     for (const int row : rows) {
-        if (const auto entry = entryAt(modes.shown(), row))
+        if (const auto entry = shownEntry(row))
             entries.push_back(*entry);
     }
     return entries;

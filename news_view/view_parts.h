@@ -45,17 +45,13 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     // What owners see of the view.
     wirepane::ListIndex shownList() const override { return modes.shown(); }
     wirepane::HeadlineList& listOf(wirepane::ListIndex list) override { return lists[list]; }
-    std::optional<CHeadlineTable> entryAt(wirepane::ListIndex list, int row) const override;
     void showStory() override { story.show(); }
     void clearStory() override { story.clear(); }
     bool paneShowsStories() const override { return story.paneShowsStories(); }
-    bool hasOpenStory() const override { return story.hasOpenStory(); }
-    void forgetShownStory() override { story.forget(); }
     void refresh() override { view.vUpdateView(); }
     bool readInPlace(wirepane::ListIndex list, const std::function<bool()>& read) override {
         return story.readInPlace(list, read);
     }
-    QString statusText() const override { return board.status(); }
     void setStatusText(const QString& text) override { board.setStatus(text); }
     void placeNotices() override { board.place(); }
 
@@ -83,6 +79,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     void printHeadline(const CHeadlineTable& headline) override;
     void saveHeadline(const CHeadlineTable& headline) override;
 
+    std::optional<CHeadlineTable> shownEntry(int row) const;
     CSuperSheetWnd* shownGrid() const { return lists[modes.shown()].grid(); }
     std::vector<CHeadlineTable> selectedEntries() const;
     // What notices and the button beside them offer. False: the command is none of theirs.

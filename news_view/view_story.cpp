@@ -49,7 +49,7 @@ void TRVNewsCtrlView::OnReCoverStory() {
     if (sheet == nullptr)
         return;
     const int position = parts->story.pointAt(sheet->cptGetFocusNdx().y());
-    if (const auto entry = parts->entryAt(parts->modes.shown(), position))
+    if (const auto entry = parts->shownEntry(position))
         parts->backEnd.BKQNews_bReRequestHeadlineStory(*entry);
 }
 

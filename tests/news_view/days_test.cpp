@@ -65,10 +65,10 @@ TEST_F(DaysTest, ADateIsTakenWithinTheRangeAndToldOtherwise) {
     const QString tooLate = QString(keys::afterDays);
     const Case cases[] = {
         {"the date in force", today, false, {}, {}, today},
-        {"yesterday", {2026, 3, 1}, true, {u"table 1 0 20260301"_s}, {}, {2026, 3, 1}},
+        {"yesterday", {2026, 3, 1}, true, bothTables(u"0 20260301"_s), {}, {2026, 3, 1}},
         {"too early", {2026, 2, 26}, false, {}, tooEarly, {2026, 3, 1}},
         {"too late", {2026, 3, 3}, false, {}, tooLate, {2026, 3, 1}},
-        {"a day without news", {2026, 2, 28}, false, {u"table 1 0 20260228"_s}, tooLate, {2026, 2, 28}},
+        {"a day without news", {2026, 2, 28}, false, bothTables(u"0 20260228"_s), tooLate, {2026, 2, 28}},
     };
     for (const Case& c : cases) {
         view.status = u"S1 "_s;
@@ -171,7 +171,8 @@ protected:
     SentAgain sentAgain{view,
                         parts,
                         {[this] { return dateKey; }, [this] { return categoryId; }, [this] { return symbol; },
-                         [this] { return symbol; }, [this]() -> const RelationMatcher& { return keySets; }}};
+                         [this] { return symbol; }, [this]() -> const RelationMatcher& { return keySets; },
+                         [this] { return view.status; }}};
 };
 
 }  // namespace

@@ -60,23 +60,15 @@ public:
 
     ListIndex shownList() const override { return shown; }
     HeadlineList& listOf(ListIndex list) override { return lists[list]; }
-    std::optional<CHeadlineTable> entryAt(ListIndex list, int row) const override {
-        CHeadlineTable entry;
-        if (!bGetHeadlineTable(entry, static_cast<int>(list), row))
-            return std::nullopt;
-        return entry;
-    }
+    CHeadlineTable entryAt(ListIndex list, int row) const { return lists[list].headlineTable().at(row); }
     void showStory() override { calls.append(QStringLiteral("show story")); }
     void clearStory() override { calls.append(QStringLiteral("clear story")); }
     bool paneShowsStories() const override { return hasPane; }
-    bool hasOpenStory() const override { return hasPane || hasStoryWindow; }
-    void forgetShownStory() override { calls.append(QStringLiteral("forget story")); }
     void refresh() override { calls.append(QStringLiteral("refresh")); }
     bool readInPlace(ListIndex, const std::function<bool()>& anew) override {
         calls.append(QStringLiteral("read in place"));
         return anew();
     }
-    QString statusText() const override { return status; }
     void setStatusText(const QString& text) override {
         calls.append(QStringLiteral("status ") + text);
         status = text;
@@ -95,10 +87,10 @@ public:
         return index ? lists[*index].headlineTable().size() : -1;
     }
     bool bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const override {
-        if (row < 0 || row >= iGetHeadlineTableSize(list))
-            return false;
-        entry = lists[static_cast<ListIndex>(list)].headlineTable().at(row);
-        return true;
+        const auto index = listOfNumber(list);
+        const auto found = index ? lists[*index].headlineTable().entryAt(row) : std::nullopt;
+        entry = found.value_or(entry);
+        return found.has_value();
     }
     void vGetNewsActiveService(std::vector<unsigned char>& active) const override { active = {1}; }
     bool bChangeNewsPos(int, int) override { return true; }
@@ -115,11 +107,10 @@ public:
     ApplicationSwitches switches;
     ModeLoading loading;
     FeedBreaks breaks;
-    ListTip tip{window, [] { return ListTip::Look{}; }};
+    ListTip tip{window, [] { return ListTip::Look{{}, Qt::black, Qt::white}; }};
     ListIndex shown = ListIndex::All;
     int newsType = 0;
     bool hasPane = true;
-    bool hasStoryWindow = false;
     QString status;
     QStringList calls;
 };

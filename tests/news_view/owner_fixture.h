@@ -2,17 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/feed_breaks.h"
 #include "host/contract/cfg_io.h"
 #include "host/contract/clock.h"
-#include "host/views/quote_base_view.h"
-#include "news_view/application_switches.h"
-#include "news_view/common_parts.h"
-#include "news_view/control_set.h"
-#include "news_view/list_tip.h"
-#include "news_view/mode_loading.h"
-#include "news_view/news_services.h"
-#include "news_view/view_settings.h"
 #include "tests/news_view/fake_view.h"
 
 #include <gtest/gtest.h>
@@ -36,8 +27,6 @@ protected:
         for (const ListIndex list : {ListIndex::Symbol, ListIndex::Search, ListIndex::Relation,
                                      ListIndex::Warrant, ListIndex::WarningTerm})
             view.lists[list].setGrid(createHeadlineSheet(&view.window, QRect(0, 100, 600, 300), 0, backEnd));
-        services.load(backEnd);
-        services.selectInBoth(0);
         services.selectInBoth(1);
     }
 
@@ -53,20 +42,24 @@ protected:
     // What was asked of the back end, asked of the view, since this was called last.
     QStringList asked() { return std::exchange(backEnd.asked, {}); }
     QStringList calls() { return std::exchange(view.calls, {}); }
+    // What is asked of the back end for a table of the ticked services.
+    static QStringList bothTables(const QString& table) {
+        return {QStringLiteral("table 1 ") + table, QStringLiteral("table 2 ") + table};
+    }
 
     NamingBackEnd backEnd;
     FakeView view{backEnd};
-    TRVQuoteBaseView host;
-    NewsServices services;
-    ControlSet controls{host, backEnd};
-    ViewSettings settings;
-    ApplicationSwitches switches;
-    ModeLoading loading;
-    FeedBreaks breaks;
-    ListTip tip{host, [] { return ListTip::Look{{}, Qt::black, Qt::white}; }};
-    int newsType = 0;
-    CommonParts parts{backEnd,  host,    services, view.lists, controls, settings,
-                      switches, loading, breaks,   tip,        newsType};
+    // The parts of the view.
+    TRVQuoteBaseView& host = view.window;
+    NewsServices& services = view.services;
+    ControlSet& controls = view.controls;
+    ViewSettings& settings = view.settings;
+    ApplicationSwitches& switches = view.switches;
+    ModeLoading& loading = view.loading;
+    FeedBreaks& breaks = view.breaks;
+    ListTip& tip = view.tip;
+    int& newsType = view.newsType;
+    const CommonParts parts = view.parts();
 };
 
 }  // namespace wirepane

@@ -30,7 +30,8 @@ protected:
     void find(std::int32_t sequence) { backEnd.searchTables[1].push_back(view.add(sequence)); }
     int focusedRow(ListIndex list) { return view.grid(list)->cptGetFocusNdx().y(); }
 
-    Searches searches{view, parts};
+    bool hasStoryWindow = false;
+    Searches searches{view, parts, [this] { return view.hasPane || hasStoryWindow; }};
 };
 
 }  // namespace
@@ -88,7 +89,7 @@ TEST_F(SearchesTest, AnAnswerIsShownFromItsTopOnceAndInPlaceWhenItComesByItself)
     view.grid(ListIndex::Search)->setActiveSelection(2, -1);
     searches.takeAnswer(plain, 1);
     EXPECT_EQ(calls(), QStringList{u"read in place"_s});
-    view.hasStoryWindow = true;
+    hasStoryWindow = true;
     searches.takeAnswer(plain, 2);
     EXPECT_EQ(calls(), (QStringList{u"show story"_s, u"place notices"_s}));
     view.shown = ListIndex::All;
@@ -234,6 +235,7 @@ protected:
          [this](ListIndex list, const HeadlinePlace& place) {
              told.append(u"%1: %2 %3"_s.arg(static_cast<int>(list)).arg(place.oldRow).arg(place.row));
          },
+         [this] { view.calls.append(u"forget story"_s); },
          [this](const CHeadline& pushed, const QString& category) {
              told.append(u"pushed %1 %2"_s.arg(pushed.sequence).arg(category));
          }}};

@@ -246,7 +246,7 @@ TEST_F(StoryDisplayTest, TheRowOfTheDisplayIsPointedAt) {
 TEST_F(StoryDisplayTest, AnswersReachTheDisplayThatIsToBeSeen) {
     givePane();
     backEnd.storyAtHand = false;
-    const CHeadlineTable entry = *view.entryAt(ListIndex::All, 1);
+    const CHeadlineTable entry = view.entryAt(ListIndex::All, 1);
     for (const unsigned short type : {inWindow, atRight}) {
         story.setShowType(type);
         focus(1);
@@ -254,7 +254,7 @@ TEST_F(StoryDisplayTest, AnswersReachTheDisplayThatIsToBeSeen) {
         storiesRead();
         story.takeStory(entry);
         EXPECT_EQ(storiesRead(), 1) << type;
-        story.takeStory(*view.entryAt(ListIndex::All, 2));
+        story.takeStory(view.entryAt(ListIndex::All, 2));
         EXPECT_EQ(storiesRead(), 0) << "of another headline";
         if (type == inWindow)
             window().hide();
@@ -275,11 +275,11 @@ TEST_F(StoryDisplayTest, RelatedSymbolsAreThoseOfTheHeadlineShown) {
     story.show();
     EXPECT_EQ(quotes->quoteTable().size(), 1);
     CNewsSymlistInfo info;
-    info.headline = keyOf(*view.entryAt(ListIndex::All, 2));
+    info.headline = keyOf(view.entryAt(ListIndex::All, 2));
     info.list.symbols = {{16, u"1101"_s}, {16, u"1102"_s}};
     story.takeRelatedSymbols(info);
     EXPECT_EQ(quotes->quoteTable().size(), 1) << "of another headline";
-    info.headline = keyOf(*view.entryAt(ListIndex::All, 1));
+    info.headline = keyOf(view.entryAt(ListIndex::All, 1));
     story.takeRelatedSymbols(info);
     EXPECT_EQ(quotes->quoteTable().size(), 2);
     story.clear();

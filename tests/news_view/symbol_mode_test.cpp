@@ -88,7 +88,7 @@ TEST_F(SymbolModeTest, TheUsersChoiceIsReadAndTellsTheLinkGroup) {
     mode.symbolChosen();
     EXPECT_EQ(mode.current(), foods);
     EXPECT_EQ(told, QStringList{u"chose 6214"_s});
-    EXPECT_EQ(read(), QStringList{u"table 1 symbol 6214"_s});
+    EXPECT_EQ(read(), bothTables(u"symbol 6214"_s));
     EXPECT_EQ(calls(), QStringList{u"clear story"_s}) << "the list shows its own story";
     mode.symbolChosen();
     EXPECT_EQ(read(), QStringList()) << "the same one";
@@ -119,7 +119,7 @@ TEST_F(SymbolModeTest, ALinkedSymbolIsFollowedWhereItHasNews) {
     open();
     EXPECT_TRUE(mode.take(foods));
     EXPECT_EQ(mode.chosen(), foods);
-    EXPECT_EQ(read(), QStringList{u"table 1 symbol 6214"_s}) << "read once";
+    EXPECT_EQ(read(), bothTables(u"symbol 6214"_s)) << "read once";
     EXPECT_EQ(told, QStringList()) << "nobody chose here";
     mode.follow(foods, true);
     EXPECT_EQ(read(), QStringList());
@@ -127,7 +127,7 @@ TEST_F(SymbolModeTest, ALinkedSymbolIsFollowedWhereItHasNews) {
     EXPECT_FALSE(mode.take(chips));
     EXPECT_EQ(read(), QStringList());
     mode.follow(chips, false);
-    EXPECT_EQ(read(), QStringList{u"table 1 symbol 2330"_s});
+    EXPECT_EQ(read(), bothTables(u"symbol 2330"_s));
 
     const CSymbolInfo future{1, u"TXF"_s};
     for (const int type : {0, 2}) {
@@ -199,11 +199,11 @@ TEST_F(CategoryModeTest, TheComboOffersTheTickedServicesCategoriesOnce) {
     mode.bInitialCategoryInfo();
     EXPECT_EQ(combo().count(), 3);
     EXPECT_EQ(mode.chosenId(), u"3"_s) << "the stored one";
-    EXPECT_EQ(read(), QStringList{u"table 1 1 3"_s});
+    EXPECT_EQ(read(), bothTables(u"1 3"_s));
     combo().setCurrentIndex(1);
     mode.chosen();
     EXPECT_EQ(settings.categoryId, u"2"_s);
-    EXPECT_EQ(read(), QStringList{u"table 1 1 2"_s});
+    EXPECT_EQ(read(), bothTables(u"1 2"_s));
     services.select(0, false);
     services.copyToSaved();
     mode.vRefreshCategoryCombo();
