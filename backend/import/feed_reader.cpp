@@ -9,8 +9,7 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
-#include <vector>
+#include <optional>
 
 namespace wirepane {
 
@@ -20,49 +19,47 @@ namespace {
 
 constexpr QLatin1StringView rdfNamespace("http://www.w3.org/1999/02/22-rdf-syntax-ns#");
 
+// The feed's own date may stand behind its entries. Those that wait for it are not kept meanwhile, however
+// many they are, but read again when all that the feed says is known.
 class FeedReading {
 public:
-    FeedReading(const ReadOptions& readOptions, const ItemVisitor& visitor)
-        : options(readOptions), visit(visitor) {}
+    FeedReading(QIODevice& document, const ReadOptions& readOptions, const ItemVisitor& visitor)
+        : source(document), options(readOptions), visit(visitor) {}
 
-    void read(const QByteArray& source) {
-        const Done opened = xml.open(source);
-        if (!opened) {
+    void read() {
+        XmlSource xml;
+        if (const Done opened = xml.open(source); !opened) {
             visit({opened.error(), makeError<import_errors::atLine>(1), 0});
             return;
         }
         if (xml.enterChild())
-            readContainer();
-        for (const Waiting& waiting : std::exchange(undated, {})) {
-            if (going)
-                handOver(waiting.entry, waiting.number);
-        }
+            readContainer(xml);
+        const qint64 end = xml.bytesRead();
+        if (going && lastWaiting > 0)
+            readWaiting(end);
         if (const auto fault = xml.fault(); going && fault)
-            visit({*fault, makeError<import_errors::atLine>(xml.reader().lineNumber()), position()});
+            visit({*fault, makeError<import_errors::atLine>(xml.reader().lineNumber()), end});
     }
 
 private:
-    struct Waiting {
-        FeedEntry entry;
-        qsizetype number;
-    };
-
     // The root or a channel: entries, and what the feed says of itself.
-    void readContainer() {
+    void readContainer(XmlSource& xml) {
         const QString root = xml.reader().namespaceUri().toString();
         const bool isRdf = root == rdfNamespace;
-        while (going && xml.enterChild()) {
+        while (going && !isDone() && xml.enterChild()) {
             const QStringView name = xml.reader().name();
             if (name == "item"_L1 || name == "entry"_L1)
-                readEntry();
+                readEntry(xml);
             else if (name == "channel"_L1)
-                readContainer();
+                readContainer(xml);
+            else if (secondEnd)
+                xml.skip();
             else
                 feed.takeElement(xml, isRdf ? xml.reader().namespaceUri().toString() : root);
         }
     }
 
-    void readEntry() {
+    void readEntry(XmlSource& xml) {
         FeedEntry entry;
         entry.identity = xml.reader().attributes().value(rdfNamespace, "about"_L1).toString();
         const QString own = xml.reader().namespaceUri().toString();
@@ -71,27 +68,41 @@ private:
         if (xml.fault())
             return;  // cut off in the middle
         ++count;
-        // The feed's own date may stand behind its entries.
-        if (!entry.time() && !feed.time())
-            undated.push_back({std::move(entry), count});
-        else
-            handOver(entry, count);
+        if (secondEnd) {
+            if (!entry.time())
+                handOver(entry, *secondEnd);
+        } else if (!entry.time() && !feed.time()) {
+            lastWaiting = count;
+        } else {
+            handOver(entry, xml.bytesRead());
+        }
     }
 
-    void handOver(const FeedEntry& entry, qsizetype number) {
+    void readWaiting(qint64 end) {
+        source.seek(0);
+        XmlSource xml;
+        secondEnd = end;
+        count = 0;
+        if (xml.open(source) && xml.enterChild())
+            readContainer(xml);
+    }
+
+    bool isDone() const { return secondEnd && count == lastWaiting; }
+
+    void handOver(const FeedEntry& entry, qint64 position) {
         const Result<StoreItem> content = feedItem(entry, feed, options.service);
         const QString name = entry.identity.isEmpty() ? entry.link : entry.identity;
-        going = visit({content, placeOfItem(number, name.left(200)), position()});
+        going = visit({content, placeOfItem(count, name.left(200)), position});
     }
 
-    qint64 position() const { return xml.reader().characterOffset(); }
-
+    QIODevice& source;
     const ReadOptions& options;
     const ItemVisitor& visit;
-    XmlSource xml;
     FeedEntry feed;
-    std::vector<Waiting> undated;
     qsizetype count = 0;
+    qsizetype lastWaiting = 0;  // 0: none waits
+    std::optional<qint64>
+        secondEnd;  // when those that wait are read: how far the source had been read before
     bool going = true;
 };
 
@@ -113,10 +124,9 @@ bool isAtom(const SourceHead& head) {
 }
 
 Done readFeed(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
-    const Result<QByteArray> document = wholeSource(source, options.limits.file);
-    if (!document)
-        return document.error();
-    FeedReading(options, visit).read(document.value());
+    if (const auto fault = faultOfSize(source, options.limits.file))
+        return *fault;
+    FeedReading(source, options, visit).read();
     return Nothing{};
 }
 

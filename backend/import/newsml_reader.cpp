@@ -42,7 +42,7 @@ public:
     NewsmlReading(const ReadOptions& readOptions, const ItemVisitor& visitor)
         : options(readOptions), visit(visitor) {}
 
-    void read(const QByteArray& source) {
+    void read(QIODevice& source) {
         const Done opened = xml.open(source);
         if (!opened) {
             visit({opened.error(), makeError<import_errors::atLine>(1), 0});
@@ -51,9 +51,10 @@ public:
         if (xml.enterChild())
             readElement();
         if (const auto fault = xml.fault(); going && fault)
-            visit({*fault, makeError<import_errors::atLine>(xml.reader().lineNumber()), position()});
+            visit({*fault, makeError<import_errors::atLine>(xml.reader().lineNumber()), xml.bytesRead()});
         else if (going && count == 0)
-            visit({makeError<import_errors::messageEmpty>(), makeError<import_errors::atEnd>(), position()});
+            visit({makeError<import_errors::messageEmpty>(), makeError<import_errors::atEnd>(),
+                   xml.bytesRead()});
     }
 
 private:
@@ -80,10 +81,8 @@ private:
         if (xml.fault())
             return;
         ++count;
-        going = visit({content, placeOfItem(count, guid.left(200)), position()});
+        going = visit({content, placeOfItem(count, guid.left(200)), xml.bytesRead()});
     }
-
-    qint64 position() const { return xml.reader().characterOffset(); }
 
     const ReadOptions& options;
     const ItemVisitor& visit;
@@ -103,10 +102,9 @@ bool isNewsml(const SourceHead& head) {
 }
 
 Done readNewsml(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
-    const Result<QByteArray> document = wholeSource(source, options.limits.file);
-    if (!document)
-        return document.error();
-    NewsmlReading(options, visit).read(document.value());
+    if (const auto fault = faultOfSize(source, options.limits.file))
+        return *fault;
+    NewsmlReading(options, visit).read(source);
     return Nothing{};
 }
 

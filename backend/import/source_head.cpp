@@ -7,6 +7,8 @@
 #include "backend/import/text_encoding.h"
 #include "backend/import/xml_source.h"
 
+#include <QBuffer>
+
 #include <utility>
 
 namespace wirepane {
@@ -25,8 +27,11 @@ XmlStart SourceHead::xmlStart() const {
     if (!content.startsWith('<'))
         return {};
     XmlStart start;
+    QBuffer document;
+    document.setData(bytes);
+    document.open(QIODevice::ReadOnly);
     XmlSource xml;
-    if (const Done opened = xml.open(bytes); !opened) {
+    if (const Done opened = xml.open(document); !opened) {
         start.fault = opened.error();
     } else if (xml.enterChild()) {
         start.root = xml.reader().name().toString();

@@ -6,9 +6,15 @@
 
 namespace wirepane {
 
+std::optional<Error> faultOfSize(const QIODevice& source, qint64 limit) {
+    if (source.size() <= limit)
+        return std::nullopt;
+    return makeError<import_errors::fileTooLarge>(limit);
+}
+
 Result<QByteArray> wholeSource(QIODevice& source, qint64 limit) {
-    if (source.size() > limit)
-        return makeError<import_errors::fileTooLarge>(limit);
+    if (const auto fault = faultOfSize(source, limit))
+        return *fault;
     return source.readAll();
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/xml_source.h"
 
+#include "backend/import/decoded_source.h"
 #include "backend/import/html_entities.h"
 #include "backend/import/import_errors.h"
 #include "backend/import/text_encoding.h"
@@ -22,12 +23,16 @@ constexpr int longestExpansion = 65536;  // characters that one entity may expan
 constexpr qsizetype declarationLength = 1024;
 
 // The encoding that the XML declaration names; empty when it names none or a byte order mark says it.
-QByteArray declaredEncoding(const QByteArray& document) {
+QRegularExpressionMatch declaredEncoding(const QString& start) {
     static const QRegularExpression form(
         u"^\\s*<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([A-Za-z0-9._:-]+)[\"']"_s);
-    const auto match =
-        form.match(QString::fromLatin1(document.first(qMin(document.size(), declarationLength))));
-    return match.captured(1).toLatin1();
+    return form.match(start.left(declarationLength));
+}
+
+// The decoder that the parser takes by itself.
+QStringDecoder parsersDecoder(QIODevice& document) {
+    const auto known = QStringConverter::encodingForData(document.peek(4), u'<');
+    return QStringDecoder(known.value_or(QStringConverter::Utf8));
 }
 
 }  // namespace
@@ -37,18 +42,28 @@ QString XmlSource::HtmlEntities::resolveUndeclaredEntity(const QString& name) {
     return character != 0 ? QStringView(QChar::fromUcs4(character)).toString() : QString();
 }
 
-Done XmlSource::open(const QByteArray& document) {
+Done XmlSource::open(QIODevice& document) {
+    source = &document;
     xml.setEntityResolver(&entities);
     xml.setEntityExpansionLimit(longestExpansion);
-    const QByteArray encoding = declaredEncoding(document);
+    const QByteArray encoding =
+        declaredEncoding(QString::fromLatin1(document.peek(declarationLength))).captured(1).toLatin1();
     if (encoding.isEmpty() || encoding.compare("utf-8", Qt::CaseInsensitive) == 0) {
-        xml.addData(document);
-        return Nothing{};
+        // A document with a wrong byte is no text, wherever the byte stands.
+        const bool isText = isWellEncoded(document, parsersDecoder(document));
+        xml.setDevice(&document);
+        if (!isText)
+            xml.raiseError(u"Encountered incorrectly encoded content."_s);
+    } else {
+        QStringDecoder decoder = decoderOf(encoding);
+        if (!decoder.isValid())
+            return makeError<import_errors::unknownEncoding>(QLatin1StringView(encoding));
+        decoded = std::make_unique<DecodedSource>(document, std::move(decoder), [](QString& text) {
+            const auto declared = declaredEncoding(text);
+            text.replace(declared.capturedStart(1), declared.capturedLength(1), u"UTF-8"_s);
+        });
+        xml.setDevice(decoded.get());
     }
-    QStringDecoder decoder = decoderOf(encoding);
-    if (!decoder.isValid())
-        return makeError<import_errors::unknownEncoding>(QLatin1StringView(encoding));
-    xml.addData(QString(decoder(document)));
     return Nothing{};
 }
 

@@ -4,20 +4,22 @@
 
 #include "backend/result.h"
 
-#include <QByteArray>
+#include <QIODevice>
 #include <QString>
 #include <QXmlStreamReader>
 
+#include <memory>
 #include <optional>
 
 namespace wirepane {
 
 // One XML document from outside: its encoding, HTML's named entities, and bounds on nesting and entity
-// expansion.
+// expansion. It is read a piece at a time.
 class XmlSource {
 public:
-    // The document must be opened before anything is read. Fails when the declared encoding is not known.
-    Done open(const QByteArray& document);
+    // The document must be opened before anything is read; it is random-access, open for reading, stands at
+    // its start and outlives this. Fails when the declared encoding is not known.
+    Done open(QIODevice& document);
 
     // Goes to the next child of the current element; false at the end of that element or of the document.
     bool enterChild();
@@ -37,6 +39,8 @@ public:
     Content content();
 
     const QXmlStreamReader& reader() const { return xml; }
+    // How far the document has been read.
+    qint64 bytesRead() const { return source->pos(); }
     // What is wrong with the document; nothing when nothing is.
     std::optional<Error> fault() const;
 
@@ -49,6 +53,8 @@ private:
     };
 
     HtmlEntities entities;
+    QIODevice* source = nullptr;
+    std::unique_ptr<QIODevice> decoded;  // where the parser does not decode by itself
     QXmlStreamReader xml;
     int depth = 0;
 };

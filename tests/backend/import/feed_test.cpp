@@ -152,5 +152,43 @@ TEST(Feeds, ReadsTheEncodingThatTheyDeclare) {
               u"The file declares the encoding “klingon”, which is not known here.");
 }
 
+// What is longer than the pieces that a document is read in.
+TEST(Feeds, OfManyPiecesAreReadAsIfTheyWereOne) {
+    const auto documentOf = [](const QString& encoding, const QString& end) {
+        QString text = u"<?xml version='1.0' encoding='%1'?>\n<rss><channel>"_s.arg(encoding);
+        for (int i = 1; i <= 300; ++i) {
+            text +=
+                u"<item><guid>urn:%1</guid><title>台積電%1</title><description>%2</description>%3</item>\n"_s
+                    .arg(i)
+                    .arg(QString(i, u'電') + QString(i, u'x'))
+                    .arg(i % 3 == 0 ? u"<pubDate>2004-01-02</pubDate>"_s : QString());
+        }
+        return text + end;
+    };
+    const QString dated = u"<pubDate>2004-01-01</pubDate></channel></rss>"_s;
+    for (const QString& encoding : {u"UTF-8"_s, u"Big5"_s, u"GB18030"_s, u"UTF-16"_s}) {
+        QStringEncoder encoder(encoding.toLatin1().constData(), QStringConverter::Flag::WriteBom);
+        const auto out = readAll(encoder(documentOf(encoding, dated)));
+        ASSERT_EQ(out.items.size(), 300U) << qPrintable(encoding + out.complaints() + out.refusal);
+        // Those without a date wait for that of the feed.
+        for (std::size_t i = 0; i < 300; ++i) {
+            const int number = i < 100 ? int(i + 1) * 3 : int(i - 100) / 2 * 3 + int(i - 100) % 2 + 1;
+            ASSERT_EQ(out.news(i).identity, u"urn:%1"_s.arg(number)) << qPrintable(encoding);
+            ASSERT_EQ(out.news(i).title, u"台積電%1"_s.arg(number)) << qPrintable(encoding);
+            ASSERT_EQ(*out.news(i).story, QString(number, u'電') + QString(number, u'x'));
+        }
+    }
+    const auto undated = readAll(documentOf(u"UTF-8"_s, u"</channel><"_s).toUtf8());
+    EXPECT_EQ(undated.items.size(), 100U);
+    ASSERT_EQ(undated.rejections.size(), 201U);
+    EXPECT_EQ(undated.rejections.at(1).place, u"item 2 (urn:2)");
+    EXPECT_EQ(undated.rejections.back().place, u"line 302");
+    const auto broken =
+        readAll(documentOf(u"UTF-8"_s, u"#"_s).toUtf8().replace('#', "\xff") + dated.toUtf8());
+    EXPECT_EQ(broken.complaints(),
+              u"line 1: The XML cannot be read: Encountered incorrectly encoded content.");
+    EXPECT_TRUE(broken.items.empty());
+}
+
 }  // namespace
 }  // namespace wirepane
