@@ -10,11 +10,21 @@ namespace wirepane {
 
 namespace {
 
+// Asking the tables of all characters for each would take most of the time.
+QChar folded(QChar c) {
+    constexpr char16_t asciiEnd = 0x80;
+    constexpr char16_t caselessFrom = 0x2E80;  // the scripts of East Asia
+    constexpr char16_t caselessEnd = 0xA640;
+    if (c.unicode() < asciiEnd)
+        return c >= u'A' && c <= u'Z' ? QChar(c.unicode() + (u'a' - u'A')) : c;
+    return c.unicode() >= caselessFrom && c.unicode() < caselessEnd ? c : c.toCaseFolded();
+}
+
 // Turned round, so that the first match is the last one, and folded once for all keywords.
 QString foldedBackwards(const QString& text) {
-    QString folded(text.size(), Qt::Uninitialized);
-    std::transform(text.crbegin(), text.crend(), folded.begin(), [](QChar c) { return c.toCaseFolded(); });
-    return folded;
+    QString backwards(text.size(), Qt::Uninitialized);
+    std::transform(text.crbegin(), text.crend(), backwards.begin(), folded);
+    return backwards;
 }
 
 }  // namespace

@@ -26,7 +26,16 @@ QString datedText(std::int64_t time, const QString& text) {
 }
 
 QString storyText(std::int64_t time, const QString& body, BodyEnd end, const QString& remark) {
-    return dateLine(time) + body + QString(static_cast<int>(end), u' ') + lineBreak + lineBreak + remark;
+    const QString date = dateLine(time);
+    const auto blanks = static_cast<int>(end);
+    QString text;  // appended to: a sum would copy a long body once for each of its terms
+    text.reserve(date.size() + body.size() + blanks + 2 * lineBreak.size() + remark.size());
+    return text.append(date)
+        .append(body)
+        .append(QString(blanks, u' '))
+        .append(lineBreak)
+        .append(lineBreak)
+        .append(remark);
 }
 
 }  // namespace wirepane

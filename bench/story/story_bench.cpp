@@ -4,16 +4,13 @@
 // keywords. Each case is run at 1,000 to 1,000,000 characters in paragraphs of 10,000, every other one in
 // Chinese. "vs_10000" is its time as a multiple of the one at 10,000; "pause_ms" is the longest time that the
 // interface was held up at one go.
-#include "headline_list/entry_source.h"
-#include "host/contract/bk_quote_interface.h"
+#include "bench/story/one_story.h"
+#include "bench/story/watched_application.h"
 #include "host/contract/cfg_io.h"
 #include "story/keyword_match.h"
 #include "story/news_story_view.h"
 
-#include <QApplication>
-
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <map>
 #include <string>
 
@@ -21,30 +18,6 @@ using namespace Qt::StringLiterals;
 using namespace wirepane;
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
-
-double secondsSince(Clock::time_point from) {
-    return std::chrono::duration<double>(Clock::now() - from).count();
-}
-
-// Notes the longest time that handling one event took.
-class WatchedApplication : public QApplication {
-public:
-    using QApplication::QApplication;
-    bool notify(QObject* receiver, QEvent* event) override {
-        const auto from = Clock::now();
-        ++depth;
-        const bool handled = QApplication::notify(receiver, event);
-        if (--depth == 0)
-            longest = std::max(longest, secondsSince(from));
-        return handled;
-    }
-    double longest = 0;
-
-private:
-    int depth = 0;
-};
 
 QString paragraph(const QString& sentence) {
     constexpr qsizetype length = 10'000;
@@ -59,38 +32,6 @@ QString storyInWireForm(std::int64_t length) {
         wire += english + u"@@@@"_s + chinese + u"@@@@"_s;
     return wire.first(length) + u" the last word"_s;
 }
-
-// A back end and a list with one headline and its story.
-class OneStory : public BKQuoteInterface, public EntrySource {
-public:
-    explicit OneStory(std::int64_t length) : wire(storyInWireForm(length)) { setBKInterface(this); }
-
-    int iGetHeadlineTableSize(int) const override { return 1; }
-    bool bGetHeadlineTable(CHeadlineTable& entry, int, int row) const override {
-        entry = {1'770'000'000, 1, 1, 0, 0};
-        return row == 0;
-    }
-    void vGetNewsActiveService(std::vector<unsigned char>& services) const override { services = {1}; }
-    bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>&) override { return false; }
-    bool BKQNEWS_bGetFullNameByService(QString&, unsigned char) override { return false; }
-    QString BKQNEWS_cszGetCurrDateByService(unsigned char) override { return {}; }
-    int bIsConnect() override { return 1; }
-    using BKQuoteInterface::BKQNEWS_iGetHeadlineTable;
-    int BKQNEWS_iGetHeadlineTable(unsigned char, std::vector<CHeadlineTable>&, int, const QString&) override {
-        return 0;
-    }
-    int BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadline>& headlines,
-                             const std::vector<CHeadlineTable>& entries) override {
-        headlines.push_back({service, entries.front().time, 1, u"Freight rates recover"_s, 0, 1, 0});
-        return 1;
-    }
-    bool BKQNEWS_bGetStory(CStory& story, const CHeadlineTable& entry) override {
-        story = {entry.time, wire, entry};
-        return true;
-    }
-
-    const QString wire;
-};
 
 void tellRatio(benchmark::State& state, const std::string& name, double secondsPerRun) {
     static std::map<std::string, double> base;
@@ -110,7 +51,7 @@ std::vector<QString> twentyKeywords() {
 
 void show(benchmark::State& state, const std::string& name, const CSearch& condition) {
     auto& application = static_cast<WatchedApplication&>(*QApplication::instance());
-    OneStory news(state.range(0));
+    OneStory news(storyInWireForm(state.range(0)));
     QWidget window;
     window.resize(640, 480);
     MemoryCfgIO settings;
@@ -125,7 +66,7 @@ void show(benchmark::State& state, const std::string& name, const CSearch& condi
     double seconds = 0;
     application.longest = 0;
     for (auto unused : state) {
-        const auto from = Clock::now();
+        const auto from = BenchClock::now();
         pane.vSetStoryData(0, 0, condition);
         application.longest = std::max(application.longest, secondsSince(from));
         QApplication::processEvents();
@@ -151,7 +92,7 @@ void findTwentyKeywords(benchmark::State& state) {
     const std::vector<QString> keywords = twentyKeywords();
     double seconds = 0;
     for (auto unused : state) {
-        const auto from = Clock::now();
+        const auto from = BenchClock::now();
         benchmark::DoNotOptimize(lastKeywordMatch(text, keywords));
         seconds += secondsSince(from);
     }

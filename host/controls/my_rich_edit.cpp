@@ -2,17 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/my_rich_edit.h"
 
-#include "host/controls/long_runs.h"
-
 #include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTextCursor>
-#include <QTextDocumentFragment>
+#include <QTimerEvent>
 
-#include <algorithm>
+#include <utility>
 
 using namespace wirepane;
 
@@ -23,44 +21,67 @@ MyRichEdit::MyRichEdit(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     applyColours();
+    // Whoever selects or scrolls himself is not taken elsewhere any more.
+    const auto forget = [this] { awaited.reset(); };
+    connect(this, &QPlainTextEdit::selectionChanged, this, forget);
+    connect(verticalScrollBar(), &QAbstractSlider::actionTriggered, this, forget);
 }
 
 void MyRichEdit::showText(const QString& text) {
     shown = text;
-    QString lines = text;
-    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    breaks = longRunBreaks(lines);
-    setPlainText(breaks.empty() ? lines : broken(lines, breaks));
+    portions = TextPortions(text);
+    setPlainText(portions.next());
+    awaited.reset();
+    if (portions.isWhole())
+        filling.stop();
+    else
+        filling.start(0, this);
 }
 
-QString MyRichEdit::shownText() const {
-    return whole(document()->toRawText(), 0, breaks);
+void MyRichEdit::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == filling.timerId())
+        addPortion();
+    else
+        QPlainTextEdit::timerEvent(event);
 }
 
-// The place in the document of a character of the shown text, or of the end of the one before it.
-int MyRichEdit::inDocument(int character, bool behindBreak) const {
-    const auto before = behindBreak ? std::upper_bound(breaks.begin(), breaks.end(), character)
-                                    : std::lower_bound(breaks.begin(), breaks.end(), character);
-    return character + static_cast<int>(before - breaks.begin());
+void MyRichEdit::addPortion() {
+    QScrollBar& bar = *verticalScrollBar();
+    const bool atEnd = bar.maximum() > 0 && bar.value() == bar.maximum();
+    QTextCursor end(document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(portions.next());
+    if (portions.isWhole())
+        filling.stop();
+    if (atEnd)
+        bar.setValue(bar.maximum());
+    if (awaited && awaited->second <= portions.handedOut())
+        select(*std::exchange(awaited, std::nullopt));
 }
 
-int MyRichEdit::inText(int place) const {
-    int passed = 0;
-    while (passed < static_cast<int>(breaks.size()) &&
-           breaks[static_cast<std::size_t>(passed)] + passed < place)
-        ++passed;
-    return place - passed;
-}
-
+// A selection that reaches the end of what is there so far goes on to the end of the text: so it was made, by
+// selecting all of it or by going to its end, and so it grows with each portion.
 std::pair<int, int> MyRichEdit::selection() const {
+    if (awaited)
+        return *awaited;
     const QTextCursor cursor = textCursor();
-    return {inText(cursor.selectionStart()), inText(cursor.selectionEnd())};
+    const int end = portions.characterAt(cursor.selectionEnd());
+    return {
+        portions.characterAt(cursor.selectionStart()),
+        cursor.hasSelection() && end == portions.handedOut() ? static_cast<int>(shownText().size()) : end};
 }
 
 void MyRichEdit::setSelection(int start, int end) {
+    if (end <= portions.handedOut())
+        select({start, end});
+    else
+        awaited = {start, end};
+}
+
+void MyRichEdit::select(std::pair<int, int> characters) {
     QTextCursor selection(document());
-    selection.setPosition(inDocument(start, true));
-    selection.setPosition(inDocument(end, false), QTextCursor::KeepAnchor);
+    selection.setPosition(portions.placeOf(characters.first, true));
+    selection.setPosition(portions.placeOf(characters.second, false), QTextCursor::KeepAnchor);
     const bool inSight = viewport()->rect().contains(cursorRect(selection));
     setTextCursor(selection);
     if (!inSight)
@@ -124,9 +145,17 @@ void MyRichEdit::keyPressEvent(QKeyEvent* event) {
     QPlainTextEdit::keyPressEvent(event);
 }
 
+// From the text itself: the document would make a copy of itself first (4 MB in short lines: 0.6 s).
 QMimeData* MyRichEdit::createMimeDataFromSelection() const {
+    const auto [start, end] = selection();
+    QString copy = shownText().mid(start, end - start);
+    for (QChar& c : copy) {
+        if (c == QChar::ParagraphSeparator || c == QChar::LineSeparator)
+            c = u'\n';
+        else if (c == QChar::Nbsp)
+            c = u' ';
+    }
     auto* copied = new QMimeData;
-    const QTextCursor cursor = textCursor();
-    copied->setText(whole(cursor.selection().toPlainText(), cursor.selectionStart(), breaks));
+    copied->setText(copy);
     return copied;
 }

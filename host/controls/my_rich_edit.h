@@ -3,17 +3,24 @@
 #pragma once
 
 #include "host/contract/export.h"
+#include "host/controls/text_portions.h"
 
+#include <QBasicTimer>
 #include <QPlainTextEdit>
 
+#include <optional>
 #include <utility>
-#include <vector>
 
 // A read-only text of several lines. Text is never taken as markup, and is copied as plain text. Colours that
 // were not set (invalid) follow the palette. What is selected stays visible while another window has the
-// keyboard. Home, End, Page, arrows and Space scroll, with Ctrl too. Lines are laid out when they come into
-// view, so that a long text shows as fast as a short one; a run that no line could hold and that has no place
-// to be broken is broken for the eye alone.
+// keyboard. Home, End, Page, arrows and Space scroll, with Ctrl too.
+//
+// No text holds the interface up. The document is given the first portion at once and the rest from the event
+// loop, a few milliseconds at a time (TextPortions); lines are laid out when they come into view. What is
+// asked of the text meanwhile is answered for all of it: texts, selections and copies are whole, a view that
+// stands at the end stays there, and a selection beyond what is there is made, and scrolled to, when its
+// portion comes, unless the user has selected or scrolled by then. Runs that no line could hold, and lines
+// that are too long to be laid out at once, are broken for the eye alone.
 class WIREPANE_HOST_EXPORT MyRichEdit : public QPlainTextEdit {
     Q_OBJECT
 
@@ -25,7 +32,7 @@ public:
     // The text exactly as it was set.
     const QString& literalText() const { return shown; }
     // The text as selections count it: each line break is one character (U+2029).
-    QString shownText() const;
+    const QString& shownText() const { return portions.text(); }
     // Selects the characters from `start` to before `end` of the shown text. A selection whose end is out of
     // sight is scrolled to the middle.
     void setSelection(int start, int end);
@@ -38,16 +45,18 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
     QMimeData* createMimeDataFromSelection() const override;
 
 private:
     void applyColours();
-
-    int inDocument(int character, bool behindBreak) const;
-    int inText(int place) const;
+    void addPortion();
+    void select(std::pair<int, int> characters);
 
     QString shown;
-    std::vector<int> breaks;  // the characters of the shown text before which it is broken for the eye alone
+    wirepane::TextPortions portions;  // of the shown text: what the document has of it
+    QBasicTimer filling;
+    std::optional<std::pair<int, int>> awaited;  // to be selected when it is there
     QColor textColour;
     QColor background;
 };

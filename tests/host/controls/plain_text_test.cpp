@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
@@ -165,10 +166,104 @@ TEST(RichEdit, LeavesTextThatCanBeBrokenAsItIs) {
          {QStringLiteral("word "), QStringLiteral("中文"), QStringLiteral("well-known "),
           QStringLiteral("a-"), QStringLiteral("句。"), QStringLiteral("ab\t")}) {
         MyRichEdit edit;
-        edit.showText(unit.repeated(5000));
+        edit.showText(unit.repeated(10'000 / unit.size()));
         EXPECT_EQ(edit.document()->blockCount(), 1) << unit.toStdString();
+        edit.showText(unit.repeated(12'000 / unit.size()));
+        EXPECT_EQ(edit.document()->blockCount(), 2) << "too long to be laid out at once";
+        EXPECT_TRUE(edit.document()->begin().text().endsWith(unit.back())) << "broken where a line may end";
     }
 }
+
+// Texts of several portions, whose boundaries fall into lines, between them, and into empty ones.
+class LongText : public testing::TestWithParam<QString> {
+protected:
+    LongText() {
+        edit.resize(300, 200);
+        edit.show();
+        edit.showText(before + GetParam().repeated(400'000 / GetParam().size()) +
+                      QStringLiteral("\r\nthe end"));
+        shown = edit.literalText();
+        shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\n', QChar::ParagraphSeparator);
+    }
+    bool isWhole() const { return edit.document()->characterCount() > shown.size(); }
+    bool waitForAll() const {
+        return QTest::qWaitFor([this] { return isWhole(); });
+    }
+    QString copied() {
+        edit.copy();
+        return QApplication::clipboard()->mimeData()->text().replace(u'\n', QChar::ParagraphSeparator);
+    }
+
+    const QString before = QStringLiteral("first words\n");
+    MyRichEdit edit;
+    QString shown;
+};
+
+TEST_P(LongText, ComesInPortionsAndIsWholeToWhoeverAsks) {
+    EXPECT_FALSE(isWhole());
+    EXPECT_EQ(edit.shownText(), shown);
+    edit.setSelection(6, 11);
+    EXPECT_EQ(copied(), QStringLiteral("words"));
+    edit.selectAll();
+    EXPECT_FALSE(isWhole());
+    EXPECT_EQ(edit.selection(), std::pair(0, static_cast<int>(shown.size())));
+    EXPECT_EQ(copied(), shown);
+    ASSERT_TRUE(waitForAll());
+    EXPECT_EQ(edit.selection(), std::pair(0, static_cast<int>(shown.size()))) << "it has grown with the text";
+    EXPECT_EQ(copied(), shown);
+    EXPECT_EQ(edit.textCursor().selectionEnd(), edit.document()->characterCount() - 1);
+    // What the document has of it, without what is there for the eye alone.
+    const auto letters = [](QString text) {
+        return text.removeIf(
+            [](QChar c) { return c == QChar::ParagraphSeparator || c == QChar::LineSeparator; });
+    };
+    EXPECT_EQ(letters(edit.document()->toRawText()), letters(shown));
+    for (const auto& [start, end] : {std::pair(70'000, 70'003), std::pair(3, 200'000),
+                                     std::pair(65'536, static_cast<int>(shown.size()) - 1)}) {
+        edit.setSelection(start, end);
+        EXPECT_EQ(edit.selection(), std::pair(start, end));
+        EXPECT_EQ(copied(), shown.mid(start, end - start));
+    }
+}
+
+TEST_P(LongText, GoesToWhatIsStillToCome) {
+    const auto end = static_cast<int>(shown.size());
+    edit.setSelection(end - 7, end);
+    EXPECT_EQ(edit.selection(), std::pair(end - 7, end));
+    ASSERT_TRUE(waitForAll());
+    EXPECT_EQ(edit.textCursor().selectedText(), QStringLiteral("the end"));
+    EXPECT_TRUE(edit.viewport()->rect().contains(edit.cursorRect()));
+
+    edit.showText(edit.literalText());
+    QTest::keyClick(&edit, Qt::Key_End);
+    ASSERT_TRUE(waitForAll());
+    EXPECT_EQ(edit.verticalScrollBar()->value(), edit.verticalScrollBar()->maximum());
+    EXPECT_GT(edit.verticalScrollBar()->maximum(), 0);
+}
+
+TEST_P(LongText, LeavesTheUserWhereHeHasGone) {
+    const auto end = static_cast<int>(shown.size());
+    edit.setSelection(end - 7, end);
+    QTest::keyClick(&edit, Qt::Key_Down);
+    const int place = edit.verticalScrollBar()->value();
+    EXPECT_GT(place, 0);
+    ASSERT_TRUE(waitForAll());
+    EXPECT_EQ(edit.verticalScrollBar()->value(), place);
+    EXPECT_FALSE(edit.textCursor().hasSelection());
+    // Another text: nothing of the former comes any more.
+    edit.showText(edit.literalText());
+    edit.setSelection(end - 7, end);
+    edit.showText(QStringLiteral("short"));
+    QTest::qWait(0);
+    EXPECT_EQ(edit.document()->toRawText(), QStringLiteral("short"));
+    EXPECT_EQ(edit.selection(), std::pair(0, 0));
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, LongText,
+                         testing::Values(QStringLiteral("Rates firm as volumes rise.\r\n"),
+                                         QStringLiteral("運價回升走強。\n"), QStringLiteral("x"),
+                                         QStringLiteral("words and words "), QStringLiteral("ab\r\n\r\n"),
+                                         QStringLiteral("\n")));
 
 TEST(RichEdit, KeepsTheSelectionInSightWithoutTheKeyboard) {
     QWidget window;
