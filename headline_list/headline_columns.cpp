@@ -17,7 +17,7 @@ static_assert(standsInOrder(), "the rows of the table stand in the order of Head
 
 }  // namespace
 
-const HeadlineColumnKind* headlineColumnAt(int newsType, int place) {
+const HeadlineColumnKind* headlineColumnAt(NewsType newsType, int place) {
     for (const HeadlineColumnKind& kind : headlineColumns) {
         if (kind.isOf(newsType) && place-- == 0)
             return &kind;
@@ -25,7 +25,7 @@ const HeadlineColumnKind* headlineColumnAt(int newsType, int place) {
     return nullptr;
 }
 
-int placeOf(HeadlineColumn column, int newsType) {
+int placeOf(HeadlineColumn column, NewsType newsType) {
     int place = 0;
     while (const HeadlineColumnKind* kind = headlineColumnAt(newsType, place)) {
         if (kind->column == column)

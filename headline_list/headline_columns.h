@@ -6,6 +6,7 @@
 #include "headline_list/cell_texts.h"
 #include "headline_list/language_keys.h"
 #include "headline_list/list_owner.h"
+#include "host/contract/view_kinds.h"
 
 #include <QColor>
 #include <QLatin1StringView>
@@ -35,7 +36,7 @@ struct HeadlineColumnKind {
     QLatin1StringView menuKey = {};     // of the command that shows and hides it; empty: it always shows
     int width;                          // while it is shown, in pixels
     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
-    bool (*isOf)(int newsType) = [](int) { return true; };
+    bool (*isOf)(NewsType newsType) = [](NewsType) { return true; };
     // True: service, time and number of a row say it. False: only its headline does, and until that is at
     // hand a placeholder stands there.
     bool ofEntry = false;
@@ -68,8 +69,8 @@ inline QString title(const CellSource& source) {
     return shownText(source.backEnd, source.headline.service, source.headline.title);
 }
 
-inline bool ofThreeColumns(int newsType) {
-    return newsType != 1;
+inline bool ofThreeColumns(NewsType newsType) {
+    return newsType != NewsType::TwoColumns;
 }
 
 }  // namespace column_cells
@@ -104,8 +105,8 @@ constexpr const HeadlineColumnKind& kindOf(HeadlineColumn column) {
 
 // The column at a place, counted from 0 at the left, in the grids of a news type; null: there are not so
 // many.
-const HeadlineColumnKind* headlineColumnAt(int newsType, int place);
+const HeadlineColumnKind* headlineColumnAt(NewsType newsType, int place);
 // Where a column stands in the grids of a news type; -1: they do not have it.
-int placeOf(HeadlineColumn column, int newsType);
+int placeOf(HeadlineColumn column, NewsType newsType);
 
 }  // namespace wirepane

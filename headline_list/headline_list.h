@@ -28,6 +28,7 @@ struct CHeadline;
 struct CHeadlineTable;
 
 namespace wirepane {
+enum class NewsType : int;
 struct HeadlineKey;
 struct WrittenCells;
 struct HeadlineColumnKind;
@@ -146,10 +147,10 @@ private:
 };
 
 // Creates a headline grid with the columns and header texts of the news type as a visible child of `parent`.
-CSuperSheetWnd* createHeadlineSheet(QWidget* parent, const QRect& rectangle, int newsType,
+CSuperSheetWnd* createHeadlineSheet(QWidget* parent, const QRect& rectangle, NewsType newsType,
                                     BKQuoteInterface& backEnd);
 
 // Sets the header texts again, after a change of language.
-void setHeadlineSheetTexts(CSuperSheetWnd& sheet, int newsType, BKQuoteInterface& backEnd);
+void setHeadlineSheetTexts(CSuperSheetWnd& sheet, NewsType newsType, BKQuoteInterface& backEnd);
 
 }  // namespace wirepane

@@ -13,7 +13,7 @@ constexpr int rowHeight = 16;
 
 }  // namespace
 
-CSuperSheetWnd* createHeadlineSheet(QWidget* parent, const QRect& rectangle, int newsType,
+CSuperSheetWnd* createHeadlineSheet(QWidget* parent, const QRect& rectangle, NewsType newsType,
                                     BKQuoteInterface& backEnd) {
     auto* sheet = new CSuperSheetWnd(new CSheetBuilder, parent);
     if (!sheet->bCreateSheet()) {
@@ -33,7 +33,7 @@ CSuperSheetWnd* createHeadlineSheet(QWidget* parent, const QRect& rectangle, int
     return sheet;
 }
 
-void setHeadlineSheetTexts(CSuperSheetWnd& sheet, int newsType, BKQuoteInterface& backEnd) {
+void setHeadlineSheetTexts(CSuperSheetWnd& sheet, NewsType newsType, BKQuoteInterface& backEnd) {
     for (int place = 0; const HeadlineColumnKind* column = headlineColumnAt(newsType, place); ++place) {
         const QString toolTip =
             column->toolTipKey.isEmpty() ? QString() : langText(backEnd, column->toolTipKey);

@@ -10,6 +10,7 @@
 
 namespace wirepane {
 enum class ListIndex : int;
+enum class NewsType : int;
 struct ServiceEntry;
 
 // What the headline lists need from the view that owns them. Interface thread only.
@@ -19,8 +20,8 @@ public:
 
     // The services in their order, with the user's choice.
     virtual const std::vector<ServiceEntry>& allServices() const = 0;
-    // 1: grids have two columns; anything else: three.
-    virtual int GetNewsType() const = 0;
+    // TwoColumns: grids have two columns; anything else: three.
+    virtual NewsType GetNewsType() const = 0;
 
     // The short name of a category of a service; for an unknown id a text that says so. Warrants have
     // categories of their own, whose ids are those of other news, too: a row keeps its name whatever the view

@@ -72,7 +72,7 @@ bool Arrangement::takeWidth() {
 int Arrangement::gridWidth() const {
     const StoryShowType type = calls.showType();
     const int width = parts.window.width();
-    if (parts.newsType != 0 || type == StoryShowType::None || type == StoryShowType::Below)
+    if (parts.newsType != NewsType::Full || type == StoryShowType::None || type == StoryShowType::Below)
         return width;
     return type == StoryShowType::Right ? width / 2 : 0;
 }

@@ -11,6 +11,7 @@ class HeadlineLists;
 class ListTip;
 class ModeLoading;
 class NewsServices;
+enum class NewsType : int;
 
 }  // namespace wirepane
 
@@ -33,7 +34,7 @@ struct CommonParts {
     ModeLoading& loading;
     FeedBreaks& breaks;
     ListTip& tip;
-    const int& newsType;  // see NewsViewAccess::vSetNewsType
+    const NewsType& newsType;
 };
 
 }  // namespace wirepane

@@ -8,7 +8,7 @@ namespace {
 
 KeyRoute otherKey(const KeySituation& situation) {
     // A control that has the keyboard keeps its keys: an edit in which nothing can be typed is none.
-    const bool viewTakesKeys = situation.newsType == 2 || situation.newsType == 3;
+    const bool viewTakesKeys = situation.newsType == NewsType::Symbol || situation.newsType == NewsType::Bare;
     if (!viewTakesKeys || situation.focus == KeyboardFocus::Control)
         return {};
     return {.consumed = true, .toView = true};

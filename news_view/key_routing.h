@@ -3,6 +3,7 @@
 #pragma once
 
 #include "headline_list/list_index.h"
+#include "host/contract/view_kinds.h"
 
 #include <Qt>
 
@@ -19,7 +20,7 @@ enum class KeyboardFocus {
 
 struct KeySituation {
     ListIndex mode = ListIndex::All;
-    int newsType = 0;
+    NewsType newsType = NewsType::Full;
     bool paneShowsStories = false;
     KeyboardFocus focus = KeyboardFocus::View;
 };

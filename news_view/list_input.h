@@ -19,7 +19,7 @@ public:
     struct Surroundings {
         QWidget& window;                         // the view; gets the keys that are the view's own
         const StoryStage& stage;                 // what lies there has keys and a wheel of its own
-        std::function<int()> newsType;           // of the view
+        std::function<NewsType()> newsType;      // of the view
         std::function<bool()> paneShowsStories;  // then a key that moves the list shows the story of its row
         std::function<void()> openContextMenu;   // by key
     };

@@ -15,9 +15,7 @@
 
 namespace wirepane {
 
-namespace {
-constexpr int twoColumns = 1;  // the news type that never takes the keyboard
-}
+namespace {}
 
 Modes::Modes(ViewContext& context, const CommonParts& commonParts, StoryStage& storyStage, Calls atASwitch)
     : view(context), parts(commonParts), stage(storyStage), calls(std::move(atASwitch)) {}
@@ -94,7 +92,7 @@ void Modes::load(ListIndex toLoad) {
 
 void Modes::takeKeyboard() {
     CSuperSheetWnd* grid = parts.lists[mode].grid();
-    if (parts.newsType == twoColumns || grid == nullptr)
+    if (parts.newsType == NewsType::TwoColumns || grid == nullptr)
         return;
     grid->setFocus();
     grid->viewport()->update();

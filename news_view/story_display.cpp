@@ -18,8 +18,6 @@ namespace wirepane {
 
 namespace {
 
-constexpr int showTypes = 3;
-
 int focusedRow(const CSuperSheetWnd* grid) {
     return grid != nullptr ? grid->cptGetFocusNdx().y() : -1;
 }
@@ -28,10 +26,6 @@ int focusedRow(const CSuperSheetWnd* grid) {
 
 StoryDisplay::StoryDisplay(ViewContext& context, BKQuoteInterface& newsBackEnd, Surroundings surroundings)
     : view(context), backEnd(newsBackEnd), around(std::move(surroundings)) {}
-
-void StoryDisplay::setShowType(unsigned short number) {
-    type = static_cast<StoryShowType>(number % showTypes);
-}
 
 bool StoryDisplay::paneShowsStories() const {
     return around.stage.storyPane() != nullptr && type != StoryShowType::None;

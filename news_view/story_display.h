@@ -41,9 +41,9 @@ public:
     // All that is referred to outlives the display.
     StoryDisplay(ViewContext& view, BKQuoteInterface& backEnd, Surroundings surroundings);
 
-    // How stories are shown: by the number of the type, round and round.
+    // How stories are shown.
     StoryShowType showType() const { return type; }
-    void setShowType(unsigned short number);
+    void setShowType(StoryShowType shown) { type = shown; }
     // Whether stories are shown in the pane; else they are in their window.
     bool paneShowsStories() const;
     // Whether there is a window that stories are shown in, not the pane.

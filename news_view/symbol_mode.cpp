@@ -20,8 +20,6 @@ namespace wirepane {
 
 namespace {
 
-constexpr int symbolNewsType = 2;
-
 const QString noSelectionCode = QStringLiteral("#001");
 const QString fallbackCode = QStringLiteral("6214");
 
@@ -245,7 +243,7 @@ void SymbolMode::follow(const CSymbolInfo& symbol, bool isRead) {
         setSupported();
         if (grid() != nullptr && !isRead)
             read();
-    } else if (parts.newsType == symbolNewsType) {
+    } else if (parts.newsType == NewsType::Symbol) {
         setNotSupported();
     }
     parts.window.update();
@@ -263,7 +261,7 @@ void SymbolMode::takeUpdates(const std::vector<CSymbolUpdateInfo>& updates) {
         });
     const unsigned char service = current().market;
     if (concernsMode && binding.serviceIndex(service) >= 0 && binding.iInitSymbolComboBox(service) >= 0 &&
-        parts.newsType == symbolNewsType)
+        parts.newsType == NewsType::Symbol)
         symbolChosen();
 }
 

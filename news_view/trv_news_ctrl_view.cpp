@@ -162,7 +162,7 @@ void TRVNewsCtrlView::OnSelchangeTabMode() {
 }
 
 void TRVNewsCtrlView::OnBtnChangeShowType() {
-    if (parts->newsType == 0 && dlgItem(this, ids::showTypeButton) != nullptr) {
+    if (parts->newsType == NewsType::Full && dlgItem(this, ids::showTypeButton) != nullptr) {
         parts->stage.hideDialog();
         SetStoryShowType(static_cast<unsigned short>(GetStoryShowType() + 1));
         parts->story.forget();
@@ -174,7 +174,7 @@ void TRVNewsCtrlView::OnBtnChangeShowType() {
 }
 
 void TRVNewsCtrlView::SetStoryShowType(unsigned short type) {
-    parts->story.setShowType(type);
+    parts->story.setShowType(storyShowTypeOf(type));
     vSetComponentPos();
 }
 
@@ -191,11 +191,11 @@ bool TRVNewsCtrlView::IsStoryDlgOnTop() const {
 }
 
 void TRVNewsCtrlView::vSetNewsType(int type) {
-    parts->newsType = type;
+    parts->newsType = static_cast<NewsType>(type);
 }
 
 int TRVNewsCtrlView::GetNewsType() const {
-    return parts->newsType;
+    return static_cast<int>(parts->newsType);
 }
 
 int TRVNewsCtrlView::GetSheetWidth() const {

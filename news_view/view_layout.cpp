@@ -121,14 +121,14 @@ ViewLayout layOut(const LayoutInput& in) {
     if (in.showType == StoryShowType::Below)
         gridBottom -= std::min(in.client.height() * 30 / 100, 200);
     int gridRight = frame.right;
-    if (in.newsType == 0 && in.showType == StoryShowType::Right)
+    if (in.newsType == NewsType::Full && in.showType == StoryShowType::Right)
         gridRight = frame.left + (frame.right - frame.left) / 2;
     out.grid = between(frame.left, rowBottom + 8, gridRight, gridBottom);
     out.gridWithoutControls = out.grid;
     if (!in.hasAllNewsGrid)
         out.gridWithoutControls.setTop(frame.top + tabHeight + 2);
 
-    if (in.newsType == 0 && in.hasStoryPane) {
+    if (in.newsType == NewsType::Full && in.hasStoryPane) {
         if (in.showType == StoryShowType::Right)
             layOutPaneAtRight(in, frame, out);
         else if (in.showType == StoryShowType::Below)

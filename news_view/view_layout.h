@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/view_kinds.h"
+
 #include <QRect>
 
 #include <array>
 
 namespace wirepane {
-
-// How the story of a headline is shown beside the grid.
-enum class StoryShowType : unsigned short { None = 0, Right = 1, Below = 2 };
 
 // All that the layout of a news view depends on. Pixels of the view's client area.
 struct LayoutInput {
@@ -21,7 +20,7 @@ struct LayoutInput {
     int serviceComboText = 0;  // widths of the widest item texts
     int symbolComboText = 0;
     int captionButtonWidth = 0;  // of the platform's window buttons
-    int newsType = 0;
+    NewsType newsType = NewsType::Full;
     StoryShowType showType = StoryShowType::None;
     bool hasStoryPane = false;
     bool hasRelatedQuotes = false;

@@ -60,7 +60,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     const std::vector<wirepane::ServiceEntry>& allServices() const override {
         return services.savedServices();
     }
-    int GetNewsType() const override { return newsType; }
+    wirepane::NewsType GetNewsType() const override { return newsType; }
     QString categoryNameOf(unsigned char service, int id) override { return categories.nameOf(service, id); }
     int categoryColourOf(unsigned char service, const QString& name, QColor& text,
                          QColor& background) override {
@@ -100,7 +100,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::ViewSettings settings;
     wirepane::FeedBreaks breaks;
     wirepane::OutputDialogs outputDialogs;
-    int newsType = 0;
+    wirepane::NewsType newsType = wirepane::NewsType::Full;
     bool initialised = false;  // the host's first calls are through
     wirepane::ListTip tip;
     const wirepane::CommonParts common;

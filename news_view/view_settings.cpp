@@ -22,8 +22,6 @@ const QString symbolServiceKey = u"SymbolService"_s;
 const QString categoryKey = u"CategoryID"_s;
 const QString quoteSortingKey = u"QuoteSorting"_s;
 
-constexpr unsigned short highestShowType = 2;
-
 std::optional<QuoteTable::Sorting> sortingOf(int number) {
     if (number == 0 || number < -quoteColumns || number > quoteColumns)
         return std::nullopt;
@@ -43,8 +41,8 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
     if (reader.GetViewInfo(path, functionsKey, mask))
         settings.functions = knownFunctions(static_cast<std::uint32_t>(mask));
     unsigned short showType = 0;
-    if (reader.GetViewInfo(path, showTypeKey, showType) && showType <= highestShowType)
-        settings.newsShowType = showType;
+    if (reader.GetViewInfo(path, showTypeKey, showType) && showType < storyShowTypes)
+        settings.newsShowType = static_cast<StoryShowType>(showType);
     reader.GetViewInfo(path, showCategoryKey, settings.showCategory);
     settings.focusedTab = defaultTab;
     reader.GetViewInfo(path, focusedTabKey, settings.focusedTab);
@@ -63,7 +61,7 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
 
 void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
     writer.setViewInfo(path, functionsKey, static_cast<int>(functions));
-    writer.setViewInfo(path, showTypeKey, int{newsShowType});
+    writer.setViewInfo(path, showTypeKey, static_cast<int>(newsShowType));
     writer.setViewInfo(path, showCategoryKey, showCategory);
     writer.setViewInfo(path, focusedTabKey, focusedTab);
     writer.setViewInfo(path, symbolKey, symbolId);

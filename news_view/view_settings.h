@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/view_kinds.h"
 #include "host/contract/view_options.h"
 #include "host/views/quote_table.h"
 #include "news_view/mode_table.h"
@@ -19,13 +20,13 @@ struct ViewSettingPath;
 // The settings of a view that are plain values; what is absent or makes no sense has its default. The
 // services keep their own (NewsServices).
 struct ViewSettings {
-    std::uint32_t functions = defaultFunctionMask;  // "EnabledFunctions": the enabled-function mask
-    unsigned short newsShowType = 1;                // "NewsShowType": 0 none, 1 right, 2 below
-    bool showCategory = true;                       // "ShowCategory"
-    int focusedTab = 0;                             // "FocusedTab": the function mode to open with
-    QString symbolId;                               // "SymbolID"
-    std::optional<unsigned char> symbolService;     // "SymbolService": the market of that symbol
-    QString categoryId;                             // "CategoryID"
+    std::uint32_t functions = defaultFunctionMask;      // "EnabledFunctions": the enabled-function mask
+    StoryShowType newsShowType = StoryShowType::Right;  // "NewsShowType"
+    bool showCategory = true;                           // "ShowCategory"
+    int focusedTab = 0;                                 // "FocusedTab": the function mode to open with
+    QString symbolId;                                   // "SymbolID"
+    std::optional<unsigned char> symbolService;         // "SymbolService": the market of that symbol
+    QString categoryId;                                 // "CategoryID"
     // "QuoteSorting": the number of the column from 1 on, negative: descending; 0: none
     std::optional<QuoteTable::Sorting> quoteSorting;
     ViewOptions options;  // the host's choice: never written back

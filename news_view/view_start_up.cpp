@@ -22,7 +22,7 @@ using namespace wirepane;
 namespace {
 
 const QString viewKey = QStringLiteral("TRVNewsCtrlView");
-const QString symbolNewsType = QStringLiteral("MULTITIMESALSE_SYMBOLNEWS");
+const QString symbolNewsView = QStringLiteral("MULTITIMESALSE_SYMBOLNEWS");
 
 }  // namespace
 
@@ -49,7 +49,7 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
                   "TRVQuoteBaseView::InitialViewInfo was called before OnInitialUpdate.");
     TRVQuoteBaseView::InitialViewInfo(reader, section, first, second, viewKey);
     takeNewsType();
-    if (parts->newsType == 0) {
+    if (parts->newsType == NewsType::Full) {
         parts->builder.createStoryPane(*parts, settingsReader, settingsPath);
         parts->controls.CreateTypeBtn();
         parts->controls.CreateFunctionBtn();
@@ -60,7 +60,8 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     parts->categories.bInitialTransferCatObject();
     parts->categories.bInitialTransferWarrantCatObject();
     vViewCreate();
-    parts->story.setShowType(parts->stage.storyPane() != nullptr ? parts->settings.newsShowType : 0);
+    parts->story.setShowType(parts->stage.storyPane() != nullptr ? parts->settings.newsShowType
+                                                                 : StoryShowType::None);
     parts->controls.vLoadLanguageString();
     parts->shortcuts.loadToolTips();
     parts->standingSearches.loadHints();
@@ -76,9 +77,9 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
 void TRVNewsCtrlView::takeNewsType() {
     const bool namedSymbolNews =
         windowTitle().compare(langText(parts->backEnd, keys::symbolNewsCaption), Qt::CaseInsensitive) == 0;
-    if (viewTypeName() == symbolNewsType || namedSymbolNews)
-        parts->newsType = 2;
-    const bool symbolNewsOnly = parts->newsType == 1 || parts->newsType == 2;
+    if (viewTypeName() == symbolNewsView || namedSymbolNews)
+        parts->newsType = NewsType::Symbol;
+    const bool symbolNewsOnly = isOfOneSymbol(parts->newsType);
     parts->settings = ViewSettings::read(*settingsReader, settingsPath,
                                          symbolNewsOnly ? static_cast<int>(ListIndex::Symbol) : 0);
     parts->symbolMode.start(CSyncInfo::GetSettingCFG()->SYS_bGetIsLinkNews(), symbolNewsOnly);
@@ -112,7 +113,7 @@ void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, in
     requireOfHost(writer != nullptr,
                   "TRVQuoteBaseView::SaveViewInfo was given nowhere to write the settings to.");
     const ViewSettingPath path{section, first, second, viewKey};
-    parts->settings.newsShowType = GetStoryShowType();
+    parts->settings.newsShowType = parts->story.showType();
     parts->symbolMode.keep();
     if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
         parts->settings.quoteSorting = quotes->quoteTable().sorting();

@@ -122,7 +122,7 @@ QVariantMap TRVNewsCtrlView::state() const {
         noticeStates.append(
             QVariantMap{{QStringLiteral("text"), text}, {QStringLiteral("command"), commandOf(kind)}});
     return {{QStringLiteral("mode"), static_cast<int>(parts->modes.shown())},
-            {QStringLiteral("newsType"), parts->newsType},
+            {QStringLiteral("newsType"), GetNewsType()},
             {QStringLiteral("storyShowType"), GetStoryShowType()},
             {QStringLiteral("mask"), parts->settings.functions},
             {QStringLiteral("focusedTab"), parts->settings.focusedTab},

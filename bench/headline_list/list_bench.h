@@ -11,6 +11,7 @@
 #include "headline_list/service_entry.h"
 #include "headline_list/table_reading.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/view_kinds.h"
 
 #include <QWidget>
 
@@ -66,7 +67,7 @@ public:
             services.push_back({static_cast<unsigned char>(i + 1), true, 0, false});
     }
     const std::vector<ServiceEntry>& allServices() const override { return services; }
-    int GetNewsType() const override { return 0; }
+    NewsType GetNewsType() const override { return NewsType::Full; }
     QString categoryNameOf(unsigned char, int) override { return QStringLiteral("Markets"); }
     int categoryColourOf(unsigned char, const QString&, QColor&, QColor&) override { return 0; }
     void categoryStateAfterWriting() override {}
@@ -80,7 +81,7 @@ private:
 struct Fixture {
     explicit Fixture(int entries) : backEnd(entries) {
         window.resize(800, 700);
-        lists[ListIndex::All].setGrid(createHeadlineSheet(&window, window.rect(), 0, backEnd));
+        lists[ListIndex::All].setGrid(createHeadlineSheet(&window, window.rect(), NewsType::Full, backEnd));
         window.show();
     }
     void open() { lists.rebuild(ListIndex::All, TableKind::ByDate, {}); }

@@ -44,7 +44,7 @@ std::int64_t readIndex(Database& store) {
 struct OpenedDay {
     explicit OpenedDay(const QString& path) : backEnd(opened(path)) {
         window.resize(800, 700);
-        lists[ListIndex::All].setGrid(createHeadlineSheet(&window, window.rect(), 0, backEnd));
+        lists[ListIndex::All].setGrid(createHeadlineSheet(&window, window.rect(), NewsType::Full, backEnd));
         window.show();
         QCoreApplication::processEvents();
     }

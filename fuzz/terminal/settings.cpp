@@ -63,7 +63,7 @@ void promiseLayout(const WorkspaceLayout& layout) {
     promise(layout.views.size() <= std::size_t(WorkspaceLayout::mostViews), "a layout has few views");
     for (auto view = layout.views.begin(); view != layout.views.end(); ++view) {
         promise(view->place >= 0 && view->place <= WorkspaceLayout::lastPlace, "a view has a place");
-        promise(view->newsType >= 0 && view->newsType <= 3, "a view has a type");
+        promise(view->newsType >= NewsType::Full && view->newsType <= NewsType::Bare, "a view has a type");
         promise(std::none_of(layout.views.begin(), view,
                              [&](const StoredView& other) { return other.place == view->place; }),
                 "no two views have one place");

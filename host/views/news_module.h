@@ -71,9 +71,7 @@ class WIREPANE_HOST_EXPORT NewsViewAccess {
 public:
     virtual ~NewsViewAccess();
 
-    // 0: with an embedded story pane; 1: the news of the link group's symbol alone in two columns, time and
-    // title, without pane, never taking the keyboard; 2: symbol news alone; 3: no pane, no page buttons. Set
-    // it before InitialViewInfo.
+    // A NewsType. Set it before InitialViewInfo.
     virtual void vSetNewsType(int newsType) = 0;
 
     // The view's own state under the names of the automation interface (mode, newsType, services, ...),

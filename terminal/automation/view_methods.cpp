@@ -19,7 +19,6 @@ namespace wirepane {
 namespace {
 
 constexpr QSize ordinaryViewSize(1000, 700);
-constexpr int lastNewsType = 3;
 
 std::unique_ptr<MemoryCfgIO> settingsFrom(Params& params) {
     auto settings = std::make_unique<MemoryCfgIO>();
@@ -61,6 +60,10 @@ QString checkName(StandingCheck check) {
     return {};
 }
 
+NewsType newsTypeFrom(Params& params) {
+    return static_cast<NewsType>(params.optionalNumber(u"newsType"_s, 0, lastNewsType).value_or(0));
+}
+
 QJsonObject standingReport(const HeadlineStanding& standing) {
     QJsonArray checks;
     for (const CheckedStanding& checked : standing.checks)
@@ -90,7 +93,7 @@ Answer ViewMethods::open(Params& params) {
         return openDocked(params);
     ViewRequest request;
     request.size = params.optionalSize(u"size"_s).value_or(ordinaryViewSize);
-    request.newsType = static_cast<int>(params.optionalNumber(u"newsType"_s, 0, lastNewsType).value_or(0));
+    request.newsType = newsTypeFrom(params);
     request.typeName = params.optionalText(u"typeName"_s).value_or(QString());
     request.section = params.optionalText(u"section"_s).value_or(request.section);
     request.ownSettings = settingsFrom(params);
@@ -107,10 +110,10 @@ Answer ViewMethods::openDocked(Params& params) {
         if (params.has(name))
             params.fail(u"a docked view takes no \"%1\""_s.arg(name));
     }
-    const auto newsType = params.optionalNumber(u"newsType"_s, 0, lastNewsType).value_or(0);
+    const NewsType newsType = newsTypeFrom(params);
     if (params.error())
         return {};
-    const auto opened = session.keeper().openNew(static_cast<int>(newsType));
+    const auto opened = session.keeper().openNew(newsType);
     if (!opened)
         return RpcError{RpcCode::Refused, sentence(opened.error())};
     return QJsonObject{{u"view"_s, opened.value()->number}};

@@ -44,7 +44,7 @@ QString subjectOf(const OpenView& open, bool& ofSymbol) {
         ofSymbol = strip->itemData(strip->curSel()) == symbolMode;
         return strip->literalTabText(strip->curSel());
     }
-    ofSymbol = open.newsType == 1 || open.newsType == 2;
+    ofSymbol = isOfOneSymbol(open.newsType);
     QString caption;
     if (ofSymbol)
         caption = langText(symbolNewsKey);
@@ -128,7 +128,7 @@ Done Workspace::start(OpenView& open, unsigned char group, const QSize& size) {
     view->setLinkGroup(group);
     view->OnInitialUpdate();
     view->setTypeName(open.typeName);
-    access->vSetNewsType(open.newsType);
+    access->vSetNewsType(static_cast<int>(open.newsType));
     view->InitialViewInfo(open.settings, open.section, frameNumber, open.place, viewClass);
     if (open.dock != nullptr)
         open.dock->setWidget(view);

@@ -4,6 +4,7 @@
 
 #include "backend/result.h"
 #include "host/contract/cfg_io.h"
+#include "host/contract/view_kinds.h"
 #include "host/views/news_module.h"
 #include "host/views/quote_base_view.h"
 #include "terminal/frame/view_docks.h"
@@ -20,8 +21,8 @@ class ViewDock;
 
 // How a news view is to be opened.
 struct ViewRequest {
-    QSize size;        // of its client area, on the desk; invalid: in a dock
-    int newsType = 0;  // 0..3, see NewsViewAccess
+    QSize size;  // of its client area, on the desk; invalid: in a dock
+    NewsType newsType = NewsType::Full;
     QString typeName;
     QString section = QStringLiteral("main");
     int place = 0;  // the user's views: which of them, for its dock and its settings
@@ -39,7 +40,7 @@ struct OpenView {
     TRVQuoteBaseView* view = nullptr;
     NewsViewAccess* access = nullptr;
     ViewDock* dock = nullptr;  // null: it stands on the desk
-    int newsType = 0;
+    NewsType newsType = NewsType::Full;
     QString typeName;
     QString section;
     int place = 0;

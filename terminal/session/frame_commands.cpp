@@ -25,11 +25,6 @@ using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
-namespace {
-constexpr int symbolNewsType = 2;
-// Of a news view.
-}  // namespace
-
 FrameCommands::FrameCommands(Session& terminal)
     : session(terminal),
       newsImport(terminal.storePath(), terminal.frame(), QCoreApplication::applicationFilePath()) {
@@ -61,8 +56,8 @@ void FrameCommands::carryOut(FrameCommand command) {
     switch (command) {
         case FrameCommand::NewView:
         case FrameCommand::NewSymbolView: {
-            const auto opened =
-                session.keeper().openNew(command == FrameCommand::NewSymbolView ? symbolNewsType : 0);
+            const auto opened = session.keeper().openNew(
+                command == FrameCommand::NewSymbolView ? NewsType::Symbol : NewsType::Full);
             report(opened ? Done(Nothing{}) : Done(opened.error()));
             break;
         }

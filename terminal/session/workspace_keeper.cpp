@@ -24,7 +24,6 @@ namespace wirepane {
 namespace {
 
 constexpr int keepMs = 2000;
-constexpr int storyBelow = 2;
 const QString section = u"main"_s;
 
 StoredView storedView(const OpenView& open) {
@@ -41,7 +40,7 @@ WorkspaceKeeper::WorkspaceKeeper(Parts itsParts) : parts(std::move(itsParts)) {
 Done WorkspaceKeeper::restore() {
     WorkspaceLayout layout = WorkspaceLayout::read(parts.file);
     if (layout.views.empty())
-        layout.views.push_back({0, 0, {}, {}, parts.frame.symbolBox().group()});
+        layout.views.push_back({0, NewsType::Full, {}, {}, parts.frame.symbolBox().group()});
     parts.links.recall(layout.symbols);
     Done failure = Nothing{};
     for (const StoredView& view : layout.views) {
@@ -78,7 +77,7 @@ Result<OpenView*> WorkspaceKeeper::open(const StoredView& stored) {
     return parts.open(std::move(request));
 }
 
-Result<OpenView*> WorkspaceKeeper::openNew(int newsType) {
+Result<OpenView*> WorkspaceKeeper::openNew(NewsType newsType) {
     StoredView view;
     view.place = freePlace();
     view.newsType = newsType;
@@ -87,7 +86,8 @@ Result<OpenView*> WorkspaceKeeper::openNew(int newsType) {
     parts.layout.forget(section, view.place);
     // Beside others a view is narrow: its story goes under its list.
     if (!parts.workspace.docked().empty())
-        parts.layout.setViewInfo(Workspace::settingPath(section, view.place), u"NewsShowType"_s, storyBelow);
+        parts.layout.setViewInfo(Workspace::settingPath(section, view.place), u"NewsShowType"_s,
+                                 static_cast<int>(StoryShowType::Below));
     return open(view);
 }
 

@@ -42,7 +42,7 @@ public:
     // the frame and left out. Fails when not one can be opened.
     Done restore();
     // Opens one more view, in the symbol box's link group; or one with the settings and the group of another.
-    Result<OpenView*> openNew(int newsType = 0);
+    Result<OpenView*> openNew(NewsType newsType = NewsType::Full);
     Result<OpenView*> openLike(const OpenView& other);
     // Starts all the user's views anew with the settings that they have now.
     Done reopenAll();

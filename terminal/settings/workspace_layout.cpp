@@ -18,7 +18,6 @@ namespace {
 
 const QString group = u"workspace"_s;
 
-constexpr int lastNewsType = 3;
 constexpr int lastByte = 255;
 constexpr int nothing = -1;
 
@@ -33,7 +32,7 @@ std::optional<StoredView> viewOf(const QJsonObject& stored) {
     view.place = numberOf(stored[u"place"_s], WorkspaceLayout::lastPlace);
     if (view.place == nothing)
         return std::nullopt;
-    view.newsType = std::max(0, numberOf(stored[u"newsType"_s], lastNewsType));
+    view.newsType = static_cast<NewsType>(std::max(0, numberOf(stored[u"newsType"_s], lastNewsType)));
     view.typeName = stored[u"typeName"_s].toString();
     view.title = stored[u"title"_s].toString();
     view.linkGroup = static_cast<unsigned char>(std::max(0, numberOf(stored[u"linkGroup"_s], lastByte)));
@@ -42,7 +41,7 @@ std::optional<StoredView> viewOf(const QJsonObject& stored) {
 
 QJsonObject objectOf(const StoredView& view) {
     return {{u"place"_s, view.place},
-            {u"newsType"_s, view.newsType},
+            {u"newsType"_s, static_cast<int>(view.newsType)},
             {u"typeName"_s, view.typeName},
             {u"title"_s, view.title},
             {u"linkGroup"_s, view.linkGroup}};

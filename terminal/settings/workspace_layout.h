@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/news_item.h"
+#include "host/contract/view_kinds.h"
 
 #include <QByteArray>
 
@@ -16,7 +17,7 @@ class SettingsFile;
 // place.
 struct StoredView {
     int place = 0;
-    int newsType = 0;  // 0..3
+    NewsType newsType = NewsType::Full;
     QString typeName;
     QString title;  // given by the user; empty: what the view shows
     unsigned char linkGroup = 0;

@@ -39,10 +39,8 @@ constexpr int allNewsList = 0;
 constexpr int categoryList = 1;
 constexpr int newsPutOut = 3;
 constexpr int mostTurns = 50;
-constexpr int storyBelow = 2;
 const QString pagesName = u"news.pdf"_s;
 const QString textName = u"news.txt"_s;
-constexpr int symbolNewsType = 2;
 constexpr unsigned char symbolMarket = 16;
 constexpr int settleMs = 300;  // longer than the view's deferred refresh
 
@@ -70,7 +68,7 @@ public:
 
 private:
     Done playScenes() {
-        if (const Done opened = openView(0); !opened)
+        if (const Done opened = openView(NewsType::Full); !opened)
             return opened;
         session.setScheme(ColourScheme::Light);
         if (const Done taken = picture(u"1-all-news-light.png"_s); !taken)
@@ -98,7 +96,7 @@ private:
     }
 
     // A view with settings of its own: which views the user has, and how they stand, is none of the tour's.
-    Done openView(int newsType) {
+    Done openView(NewsType newsType) {
         ViewRequest request;
         request.newsType = newsType;
         request.place = places++;
@@ -107,7 +105,7 @@ private:
         ViewOptions::writeMissing(*request.ownSettings, {});
         // Beside others a view is narrow: its story goes under its list.
         if (request.place > 0)
-            request.ownSettings->setViewInfo({}, u"NewsShowType"_s, storyBelow);
+            request.ownSettings->setViewInfo({}, u"NewsShowType"_s, static_cast<int>(StoryShowType::Below));
         const auto opened = session.openView(std::move(request));
         return opened ? Done(Nothing{}) : Done(opened.error());
     }
@@ -157,7 +155,7 @@ private:
 
     // Three views that follow one symbol.
     Done openDesk() {
-        for (const int newsType : {0, symbolNewsType}) {
+        for (const NewsType newsType : {NewsType::Full, NewsType::Symbol}) {
             if (const Done opened = openView(newsType); !opened)
                 return opened;
         }

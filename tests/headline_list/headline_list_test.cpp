@@ -149,7 +149,7 @@ TEST_F(HeadlineListTest, TheRelationTestSkipsHeadlinesThatAreNotAtHand) {
 }
 
 TEST_F(HeadlineListTest, TwoColumnsHaveNoCategory) {
-    owner.newsType = 1;
+    owner.newsType = NewsType::TwoColumns;
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("two"), 7);
     HeadlineList& all = list(ListIndex::All);
     lists.rebuild(ListIndex::All, TableKind::ByDate, day);

@@ -23,7 +23,7 @@ namespace wirepane {
 class FakeOwner : public ListOwner {
 public:
     const std::vector<ServiceEntry>& allServices() const override { return services; }
-    int GetNewsType() const override { return newsType; }
+    NewsType GetNewsType() const override { return newsType; }
     QString categoryNameOf(unsigned char service, int id) override {
         if (id == 7 && service == warrantService)
             return QStringLiteral("Issue");
@@ -42,14 +42,14 @@ public:
 
     std::vector<ServiceEntry> services{
         {1, true, 0, false}, {2, true, 0, false}, {16, false, 0, false}, {52, false, 0, false}};
-    int newsType = 0;
+    NewsType newsType = NewsType::Full;
     int rowsWritten = 0;
     std::vector<ListIndex> replaced;
 };
 
 class HeadlineListTest : public testing::Test {
 protected:
-    const int titleColumn = placeOf(HeadlineColumn::Title, 0);
+    const int titleColumn = placeOf(HeadlineColumn::Title, NewsType::Full);
 
     HeadlineListTest() {
         backEnd.texts[QStringLiteral("IDS_NEWSCTRLVIEW_STRING_RECOVER")] = QStringLiteral("...");

@@ -36,7 +36,8 @@ public:
         if (grids == Grids::None)
             return;
         for (const ListIndex list : {ListIndex::All, ListIndex::Category}) {
-            CSuperSheetWnd* grid = createHeadlineSheet(&window, QRect(0, 100, 600, 300), 0, backEnd);
+            CSuperSheetWnd* grid =
+                createHeadlineSheet(&window, QRect(0, 100, 600, 300), NewsType::Full, backEnd);
             grid->setVisible(list == ListIndex::All);
             lists[list].setGrid(grid);
         }
@@ -76,7 +77,7 @@ public:
     void placeNotices() override { calls.append(QStringLiteral("place notices")); }
 
     const std::vector<ServiceEntry>& allServices() const override { return services.savedServices(); }
-    int GetNewsType() const override { return newsType; }
+    NewsType GetNewsType() const override { return newsType; }
     QString categoryNameOf(unsigned char, int) override { return QStringLiteral("Markets"); }
     int categoryColourOf(unsigned char, const QString&, QColor&, QColor&) override { return 0; }
     void categoryStateAfterWriting() override {}
@@ -109,7 +110,7 @@ public:
     FeedBreaks breaks;
     ListTip tip{window, [] { return ListTip::Look{{}, Qt::black, Qt::white}; }};
     ListIndex shown = ListIndex::All;
-    int newsType = 0;
+    NewsType newsType = NewsType::Full;
     bool hasPane = true;
     QString status;
     QStringList calls;

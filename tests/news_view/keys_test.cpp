@@ -35,7 +35,7 @@ TEST(KeyRouting, FollowsModeFocusAndStory) {
         for (const KeyboardFocus focus : {KeyboardFocus::Grid, KeyboardFocus::View, KeyboardFocus::Control}) {
             const bool grid = focus == KeyboardFocus::Grid;
             for (const bool story : {false, true}) {
-                const KeySituation at{static_cast<ListIndex>(mode), 0, story, focus};
+                const KeySituation at{static_cast<ListIndex>(mode), NewsType::Full, story, focus};
                 for (const int key : {Qt::Key_Return, Qt::Key_Enter})
                     EXPECT_EQ(routeKey(key, {}, at),
                               grid && mode != 2 && mode != 3 ? consumed(false, true, false) : left);
@@ -50,8 +50,8 @@ TEST(KeyRouting, FollowsModeFocusAndStory) {
         }
     }
     const KeyRoute toView{.consumed = true, .toView = true};
-    for (const int newsType : {0, 1, 2, 3}) {
-        const bool takes = newsType >= 2;
+    for (const NewsType newsType : {NewsType::Full, NewsType::TwoColumns, NewsType::Symbol, NewsType::Bare}) {
+        const bool takes = newsType >= NewsType::Symbol;
         EXPECT_EQ(routeKey(Qt::Key_A, {}, {ListIndex::Symbol, newsType, false, KeyboardFocus::Grid}),
                   takes ? toView : left);
         EXPECT_EQ(routeKey(Qt::Key_A, {}, {ListIndex::Symbol, newsType, false, KeyboardFocus::Control}),

@@ -57,7 +57,7 @@ protected:
     FakeView view{backEnd};
     QLineEdit line{&view.window};
     StoryStage stage;
-    int newsType = 0;
+    NewsType newsType = NewsType::Full;
     bool paneShows = true;
     int menus = 0;
     ListInput input{
@@ -146,7 +146,7 @@ TEST_F(ListInputTest, AKeyThatNobodyTookIsTheLists) {
 TEST_F(ListInputTest, LettersGoToAViewOfSymbolNews) {
     line.setFocus();
     EXPECT_FALSE(input.takeBefore(key(Qt::Key_A)));
-    for (const int type : {2, 3}) {
+    for (const NewsType type : {NewsType::Symbol, NewsType::Bare}) {
         newsType = type;
         EXPECT_FALSE(input.takeBefore(key(Qt::Key_A))) << "in a control";
         grid().setFocus();
@@ -278,7 +278,7 @@ TEST_F(ListInputTest, EveryShortcutDoesWhatItsControlDoes) {
 
     hit(u"F3"_s);
     EXPECT_EQ(strip.curSel(), 0) << "there is no list of the search mode";
-    CSuperSheetWnd* found = createHeadlineSheet(&window, {}, 0, backEnd);
+    CSuperSheetWnd* found = createHeadlineSheet(&window, {}, NewsType::Full, backEnd);
     view.lists[ListIndex::Search].setGrid(found);
     hit(u"F3"_s);
     EXPECT_EQ(strip.curSel(), 1);

@@ -330,7 +330,7 @@ TEST_F(ModeSwitchTest, OnlyAViewOfTwoColumnsLeavesTheKeyboard) {
     giveWindow();
     view.window.show();
     for (const int type : {1, 0, 2, 3}) {
-        view.newsType = type;
+        view.newsType = static_cast<NewsType>(type);
         dlgItem(&view.window, ids::serviceButton)->setFocus();
         switchTo(ListIndex::Category);
         EXPECT_EQ(view.window.focusWidget() == view.grid(ListIndex::Category), type != 1) << type;

@@ -26,7 +26,8 @@ protected:
         host_clock::startAt(localTime(2026, 3, 2, 9, 30));
         for (const ListIndex list : {ListIndex::Symbol, ListIndex::Search, ListIndex::Relation,
                                      ListIndex::Warrant, ListIndex::WarningTerm})
-            view.lists[list].setGrid(createHeadlineSheet(&view.window, QRect(0, 100, 600, 300), 0, backEnd));
+            view.lists[list].setGrid(
+                createHeadlineSheet(&view.window, QRect(0, 100, 600, 300), NewsType::Full, backEnd));
         services.selectInBoth(1);
     }
 
@@ -58,7 +59,7 @@ protected:
     ModeLoading& loading = view.loading;
     FeedBreaks& breaks = view.breaks;
     ListTip& tip = view.tip;
-    int& newsType = view.newsType;
+    NewsType& newsType = view.newsType;
     const CommonParts parts = view.parts();
 };
 

@@ -18,8 +18,8 @@ namespace wirepane {
 
 namespace {
 
-constexpr unsigned short inWindow = 0;
-constexpr unsigned short atRight = 1;
+constexpr StoryShowType inWindow = StoryShowType::None;
+constexpr StoryShowType atRight = StoryShowType::Right;
 
 // Five headlines, 9:05 in row 0, in a view with a pane and a window for stories.
 class StoryDisplayTest : public testing::Test {
@@ -70,7 +70,7 @@ protected:
 
 TEST_F(StoryDisplayTest, ShowTypesGoRoundAndThePaneNeedsToBeThere) {
     for (unsigned short type = 0; type < 5; ++type) {
-        story.setShowType(type);
+        story.setShowType(storyShowTypeOf(type));
         EXPECT_EQ(static_cast<int>(story.showType()), type % 3);
         EXPECT_FALSE(story.paneShowsStories()) << "there is no pane";
         EXPECT_TRUE(story.hasStoryWindow());
@@ -247,13 +247,13 @@ TEST_F(StoryDisplayTest, AnswersReachTheDisplayThatIsToBeSeen) {
     givePane();
     backEnd.storyAtHand = false;
     const CHeadlineTable entry = view.entryAt(ListIndex::All, 1);
-    for (const unsigned short type : {inWindow, atRight}) {
+    for (const StoryShowType type : {inWindow, atRight}) {
         story.setShowType(type);
         focus(1);
         story.show();
         storiesRead();
         story.takeStory(entry);
-        EXPECT_EQ(storiesRead(), 1) << type;
+        EXPECT_EQ(storiesRead(), 1) << static_cast<int>(type);
         story.takeStory(view.entryAt(ListIndex::All, 2));
         EXPECT_EQ(storiesRead(), 0) << "of another headline";
         if (type == inWindow)

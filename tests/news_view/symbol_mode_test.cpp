@@ -130,11 +130,11 @@ TEST_F(SymbolModeTest, ALinkedSymbolIsFollowedWhereItHasNews) {
     EXPECT_EQ(read(), bothTables(u"symbol 2330"_s));
 
     const CSymbolInfo future{1, u"TXF"_s};
-    for (const int type : {0, 2}) {
+    for (const NewsType type : {NewsType::Full, NewsType::Symbol}) {
         newsType = type;
         EXPECT_FALSE(mode.take(future));
         mode.follow(future, false);
-        EXPECT_EQ(supported, type != 2) << "a view of symbol news alone has nothing to show";
+        EXPECT_EQ(supported, type != NewsType::Symbol) << "a view of symbol news alone has nothing to show";
         EXPECT_EQ(read(), QStringList());
     }
     EXPECT_FALSE(isShown(ids::symbolCombo));
@@ -246,7 +246,7 @@ TEST_F(CategoryModeTest, TheColumnFollowsTheUserInViewsOfThreeColumns) {
     EXPECT_EQ(view.grid()->colWidth(1), 50);
     mode.toggleColumn();
     EXPECT_EQ(view.grid()->colWidth(1), 0);
-    newsType = 1;
+    newsType = NewsType::TwoColumns;
     mode.toggleColumn();
     EXPECT_TRUE(settings.showCategory);
     EXPECT_EQ(view.grid()->colWidth(1), 0);

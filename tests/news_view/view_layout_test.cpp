@@ -94,15 +94,23 @@ TEST(ViewLayout, TheStoryTakesItsShare) {
     struct Case {
         const char* what;
         StoryShowType type;
-        int newsType, height;
+        NewsType newsType;
+        int height;
         bool quotes;
         QRect grid, pane, relatedQuotes;
     };
     const Case cases[] = {
-        {"right", StoryShowType::Right, 0, 700, false, {0, 55, 500, 645}, {510, 55, 490, 645}, {}},
+        {"right",
+         StoryShowType::Right,
+         NewsType::Full,
+         700,
+         false,
+         {0, 55, 500, 645},
+         {510, 55, 490, 645},
+         {}},
         {"right with quotes",
          StoryShowType::Right,
-         0,
+         NewsType::Full,
          700,
          true,
          {0, 55, 500, 645},
@@ -110,23 +118,44 @@ TEST(ViewLayout, TheStoryTakesItsShare) {
          {510, 580, 490, 120}},
         {"right with quotes, low",
          StoryShowType::Right,
-         0,
+         NewsType::Full,
          355,
          true,
          {0, 55, 500, 300},
          {510, 55, 490, 200},
          {510, 255, 490, 100}},
-        {"below", StoryShowType::Below, 0, 1000, false, {0, 55, 1000, 745}, {0, 800, 1000, 200}, {}},
-        {"below, low", StoryShowType::Below, 0, 500, false, {0, 55, 1000, 295}, {0, 350, 1000, 150}, {}},
+        {"below",
+         StoryShowType::Below,
+         NewsType::Full,
+         1000,
+         false,
+         {0, 55, 1000, 745},
+         {0, 800, 1000, 200},
+         {}},
+        {"below, low",
+         StoryShowType::Below,
+         NewsType::Full,
+         500,
+         false,
+         {0, 55, 1000, 295},
+         {0, 350, 1000, 150},
+         {}},
         {"below with quotes",
          StoryShowType::Below,
-         0,
+         NewsType::Full,
          1000,
          true,
          {0, 55, 1000, 745},
          {0, 800, 500, 200},
          {500, 800, 500, 200}},
-        {"no pane for this news type", StoryShowType::Right, 1, 700, false, {0, 55, 1000, 645}, {}, {}},
+        {"no pane for this news type",
+         StoryShowType::Right,
+         NewsType::TwoColumns,
+         700,
+         false,
+         {0, 55, 1000, 645},
+         {},
+         {}},
     };
     for (const Case& c : cases) {
         LayoutInput in = ordinary();
@@ -138,7 +167,8 @@ TEST(ViewLayout, TheStoryTakesItsShare) {
         EXPECT_EQ(out.grid, c.grid) << c.what;
         EXPECT_EQ(out.storyPane, c.pane) << c.what;
         EXPECT_EQ(out.relatedQuotes, c.relatedQuotes) << c.what;
-        EXPECT_EQ(out.storyHidesHeadline, c.type == StoryShowType::Right && c.newsType == 0) << c.what;
+        EXPECT_EQ(out.storyHidesHeadline, c.type == StoryShowType::Right && c.newsType == NewsType::Full)
+            << c.what;
     }
 }
 

@@ -173,23 +173,24 @@ TEST(ViewSettings, NonsenseHasItsDefault) {
                      {QStringLiteral("SymbolID"), QStringLiteral("2330")}};
     ViewSettings settings = ViewSettings::read(reader, path, 2);
     EXPECT_EQ(settings.functions, 0x7FU);
-    EXPECT_EQ(settings.newsShowType, 1);
+    EXPECT_EQ(settings.newsShowType, StoryShowType::Right);
     EXPECT_TRUE(settings.showCategory);
     EXPECT_EQ(settings.focusedTab, 2);
     EXPECT_EQ(settings.symbolId, QStringLiteral("2330"));
     for (const int type : {0, 1, 2, 3, -1}) {
         reader.values[QStringLiteral("NewsShowType")] = type;
-        EXPECT_EQ(ViewSettings::read(reader, path, 2).newsShowType, type < 0 || type > 2 ? 1 : type) << type;
+        const int shown = static_cast<int>(ViewSettings::read(reader, path, 2).newsShowType);
+        EXPECT_EQ(shown, type < 0 || type > 2 ? 1 : type) << type;
     }
 
     settings.showCategory = false;
-    settings.newsShowType = 2;
+    settings.newsShowType = StoryShowType::Below;
     settings.focusedTab = 5;
     MemoryCfgIO stored;
     settings.write(stored, path);
     const ViewSettings again = ViewSettings::read(stored, path, 0);
     EXPECT_EQ(again.functions, settings.functions);
-    EXPECT_EQ(again.newsShowType, 2);
+    EXPECT_EQ(again.newsShowType, StoryShowType::Below);
     EXPECT_FALSE(again.showCategory);
     EXPECT_EQ(again.focusedTab, 5);
 }

@@ -34,7 +34,9 @@ protected:
 
 TEST_F(WorkspaceLayoutTest, ReadsBackWhatWasWritten) {
     WorkspaceLayout layout;
-    layout.views = {{0, 0, {}, {}, 0}, {7, 2, u"TYPE"_s, u"Öl, \"50%\" & 石油"_s, 6}, {3, 3, {}, {}, 255}};
+    layout.views = {{0, NewsType::Full, {}, {}, 0},
+                    {7, NewsType::Symbol, u"TYPE"_s, u"Öl, \"50%\" & 石油"_s, 6},
+                    {3, NewsType::Bare, {}, {}, 255}};
     layout.arrangement = QByteArray("\0\xff\n;x", 5);
     layout.activePlace = 7;
     layout.symbols = {{1, {16, u"2330"_s, u"台積電"_s}}, {255, {22, u"00005"_s, {}}}};
@@ -60,17 +62,19 @@ TEST_F(WorkspaceLayoutTest, NonsenseCostsNoMoreThanItself) {
     };
     const Case cases[] = {
         {"no list", R"({"place": 1})", {}},
-        {"not objects", R"([1, "x", null, [], {"place": 4}])", {{4, 0, {}, {}, 0}}},
+        {"not objects", R"([1, "x", null, [], {"place": 4}])", {{4, {}, {}, {}, 0}}},
         {"no place", R"([{"newsType": 1}])", {}},
         {"places out of range", R"([{"place": -1}, {"place": 1000}, {"place": 1.5}, {"place": "1"}])", {}},
         {"a place twice",
          R"([{"place": 1, "title": "a"}, {"place": 1, "title": "b"}])",
-         {{1, 0, {}, u"a"_s, 0}}},
-        {"values out of range", R"([{"place": 1, "newsType": 4, "linkGroup": 256}])", {{1, 0, {}, {}, 0}}},
+         {{1, {}, {}, u"a"_s, 0}}},
+        {"values out of range", R"([{"place": 1, "newsType": 4, "linkGroup": 256}])", {{1, {}, {}, {}, 0}}},
         {"values of other types",
          R"([{"place": 1, "newsType": "2", "linkGroup": [], "title": 5, "typeName": {}}])",
-         {{1, 0, {}, {}, 0}}},
-        {"unknown keys", R"([{"place": 1, "colour": "red", "newsType": 2}])", {{1, 2, {}, {}, 0}}},
+         {{1, {}, {}, {}, 0}}},
+        {"unknown keys",
+         R"([{"place": 1, "colour": "red", "newsType": 2}])",
+         {{1, NewsType::Symbol, {}, {}, 0}}},
     };
     for (const Case& test : cases)
         EXPECT_EQ(readWith(u"views"_s, test.views).views, test.expected) << test.what;
