@@ -49,7 +49,7 @@ void HeadlineRows::insert(int row, const CHeadlineTable& entry) {
     }
     const auto offset = static_cast<std::size_t>(position - below[place]);
     const Ticket ticket = takeTicket();
-    pageOfTicket[ticket] = order[place];
+    pageOfTicket[numberOf(ticket)] = order[place];
     Page& page = pageAt(place);
     page.entries.insert(atOffset(page.entries, offset), entry);
     page.tickets.insert(atOffset(page.tickets, offset), ticket);
@@ -104,7 +104,7 @@ HeadlineRows::Spot HeadlineRows::spotOf(int row) const {
 }
 
 HeadlineRows::Spot HeadlineRows::spotOf(Ticket ticket) const {
-    const std::uint32_t number = pageOfTicket[ticket];
+    const std::uint32_t number = pageOfTicket[numberOf(ticket)];
     const std::vector<Ticket>& tickets = pages[number].tickets;
     const auto found = std::find(tickets.rbegin(), tickets.rend(), ticket);
     return {places[number], static_cast<std::size_t>(tickets.rend() - found - 1)};
@@ -169,7 +169,7 @@ void HeadlineRows::moveEntries(std::size_t from, std::size_t firstOffset, std::s
     Page& source = pageAt(from);
     Page& target = pageAt(to);
     for (std::size_t offset = firstOffset; offset < source.tickets.size(); ++offset)
-        pageOfTicket[source.tickets[offset]] = order[to];
+        pageOfTicket[numberOf(source.tickets[offset])] = order[to];
     target.entries.insert(target.entries.end(), atOffset(source.entries, firstOffset), source.entries.end());
     target.tickets.insert(target.tickets.end(), atOffset(source.tickets, firstOffset), source.tickets.end());
     source.entries.resize(firstOffset);

@@ -17,7 +17,7 @@ namespace wirepane {
 // coming to its going, whatever comes and goes around it.
 class HeadlineRows {
 public:
-    using Ticket = std::uint32_t;  // small numbers; one whose row has gone is given out again
+    enum class Ticket : std::uint32_t {};  // small numbers; one whose row has gone is given out again
 
     HeadlineRows() = default;
     // `next` hands out `count` entries from the top down.
@@ -73,6 +73,7 @@ private:
         return rowCount - 1 - below[place] - static_cast<int>(offset);
     }
     Ticket takeTicket();
+    static std::size_t numberOf(Ticket ticket) { return static_cast<std::size_t>(ticket); }
     void openPage(std::size_t place);
     void closePage(std::size_t place);
     void split(std::size_t place);
@@ -116,7 +117,8 @@ HeadlineRows::HeadlineRows(int count, Next next) : rowCount(count) {
         for (std::size_t offset = length; offset-- > 0;)
             page.entries[offset] = next();
         page.tickets.resize(length);
-        std::iota(page.tickets.begin(), page.tickets.end(), static_cast<Ticket>(below[place]));
+        for (std::size_t offset = 0; offset < length; ++offset)
+            page.tickets[offset] = Ticket(static_cast<std::size_t>(below[place]) + offset);
         std::fill_n(pageOfTicket.begin() + below[place], length, static_cast<std::uint32_t>(number));
         findEarliest(place);
     }

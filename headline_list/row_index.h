@@ -52,9 +52,9 @@ private:
 
     static Slot tagOf(std::uint64_t hash) { return static_cast<Slot>(hash) & tagMask; }
     static Slot slotFor(Ticket ticket, std::uint64_t hash, bool shared) {
-        return ((ticket + 1) << ticketShift) | (tagOf(hash) << 1) | (shared ? 1U : 0U);
+        return ((static_cast<Slot>(ticket) + 1) << ticketShift) | (tagOf(hash) << 1) | (shared ? 1U : 0U);
     }
-    static Ticket ticketIn(Slot slot) { return (slot >> ticketShift) - 1; }
+    static Ticket ticketIn(Slot slot) { return Ticket((slot >> ticketShift) - 1); }
     static bool hasTag(Slot slot, std::uint64_t hash) { return ((slot >> 1) & tagMask) == tagOf(hash); }
     static bool isShared(Slot slot) { return (slot & 1U) != 0; }
     std::uint64_t hashIn(const HeadlineRows& rows, Slot slot) const {

@@ -13,7 +13,7 @@ namespace {
 // A plain list to compare with: every row has the ticket that it got when it came.
 struct PlainRow {
     CHeadlineTable entry;
-    HeadlineRows::Ticket ticket = 0;
+    HeadlineRows::Ticket ticket{};
 };
 using PlainRows = std::vector<PlainRow>;
 
@@ -53,7 +53,7 @@ TEST(HeadlineRows, AreThoseOfAPlainList) {
     const auto newEntry = [&] { return CHeadlineTable{1000 - below(100) * below(10), ++sequence, 1, 0, 0}; };
     PlainRows plain;
     for (int i = 0; i < 1500; ++i)
-        plain.push_back({newEntry(), 0});
+        plain.push_back({newEntry(), {}});
     HeadlineRows rows(1500, [row = plain.begin()]() mutable { return row++->entry; });
     for (std::size_t row = 0; row < plain.size(); ++row)
         plain[row].ticket = rows.ticketOf(static_cast<int>(row));
