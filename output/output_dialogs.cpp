@@ -28,7 +28,6 @@ std::optional<OutputTarget> OutputDialogs::askFile(BKQuoteInterface& backEnd, QW
     const QString utf8Filter = langText(backEnd, keys::utf8FileFilter) + pattern;
     const HeapDialog dialog(new QFileDialog(parent));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
     dialog->setNameFilters({langText(backEnd, keys::fileFilter) + pattern, utf8Filter});
     dialog->setDefaultSuffix(QStringLiteral("txt"));

@@ -73,7 +73,6 @@ void drawFrame(QPainter& painter, const QRect& frame, int width) {
 void drawPage(QPainter& painter, BKQuoteInterface& backEnd, const PrintedPage& page) {
     const int width = std::max(painter.device()->logicalDpiY() / framesPerInch, 1);
     painter.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.setBrush(Qt::NoBrush);
     for (const QRect& frame :
          {page.frames.outer, page.frames.inner, page.frames.footer, page.frames.title, page.frames.body})
         drawFrame(painter, frame, width);

@@ -81,8 +81,7 @@ private:
 
 // One list of named characters: "[<0031> <4E00> ]".
 void correctList(QByteArray& pdf, qsizetype from, qsizetype to, const DrawnCharacters& drawn) {
-    for (qsizetype at = pdf.indexOf('<', from); at >= 0 && at + digits + 1 < to;
-         at = pdf.indexOf('<', at + 1)) {
+    for (qsizetype at = pdf.indexOf('<', from); at >= 0 && at < to; at = pdf.indexOf('<', at + 1)) {
         bool isNumber = false;
         const auto named = pdf.mid(at + 1, digits).toUShort(&isNumber, 16);
         if (!isNumber || pdf[at + 1 + digits] != '>')

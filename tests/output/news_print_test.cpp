@@ -113,7 +113,9 @@ TEST_F(NewsPrintTest, PutsOutWhenTheLastAnswerHasCome) {
     saver.setOnFinished([&](const NewsOutcome& outcome) { finished.push_back(outcome); });
     OutputItems items = gather(saver, {1, 2, 3});
     ASSERT_FALSE(isSettled(items));
+    backEnd.asked.clear();
     saver.wait(items, {1}, target(u"late.txt"_s));
+    EXPECT_EQ(backEnd.asked, (QStringList{u"again 1 [2]"_s, u"again story 1 2"_s, u"again story 1 3"_s}));
     tell(2, u"Body 2@@@@x"_s);
     tell(3, u"Body\r\n3"_s);
     saver.RespStory(entry(2));

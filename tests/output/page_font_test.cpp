@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "output/page_font.h"
 
+#include "output/pdf_characters.h"
+
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
@@ -25,6 +29,26 @@ TEST(PageFont, OnlyCharactersThatJoinAreShaped) {
     };
     for (const Case& c : cases)
         EXPECT_EQ(shapingFor(QString::fromUtf8(c.text)), c.shaping) << c.text;
+}
+
+// A blank that does not break shares its glyph with the common one, and stands first among them. Only lists
+// of named characters within a map are corrected, and nothing moves.
+TEST(PdfCharacters, AreCorrectedInTheListsOfTheirMaps) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"begincmap <00> [<2F00> <0041> <2F00> ] endcmap", "begincmap <00> [<4E00> <0041> <4E00> ] endcmap"},
+        {"begincmap [<2F00>] [[<2F00>] endcmap begincmap [<2F00>] endcmap",
+         "begincmap [<4E00>] [[<4E00>] endcmap begincmap [<4E00>] endcmap"},
+        {"begincmap [<<2F00> <2F00 <2F0> <2F00>] endcmap", "begincmap [<<4E00> <2F00 <2F0> <4E00>] endcmap"},
+        {"[<2F00>] begincmap <2F00> endcmap [<2F00>]", nullptr},
+        {"begincmap [<2F00> endcmap ]", nullptr},
+        {"begincmap [<2F00>]", nullptr},
+        {"begincmap [<2F00", nullptr},
+    };
+    for (const auto& [written, corrected] : cases) {
+        QByteArray pdf(written);
+        nameDrawnCharacters(pdf, u"A一"_s, QFont());
+        EXPECT_EQ(pdf, QByteArray(corrected != nullptr ? corrected : written));
+    }
 }
 
 }  // namespace wirepane

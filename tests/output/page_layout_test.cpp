@@ -100,6 +100,8 @@ TEST(PageLayoutTest, ScalesWhatDoesNotFit) {
         EXPECT_EQ(page.title[0].pixelSize, c.title) << c.what;
         EXPECT_EQ(page.body[0].pixelSize, c.body) << c.what;
     }
+    // 257 / 2: a line above the title's has room, too.
+    EXPECT_EQ(layOut({item(u"T"_s, u"x"_s)}, 200)[0].title[0].pixelSize, 107);
     // Larger text: everything stays inside its box, and all stories are of one size.
     const auto pages =
         layOut({item(u"w"_s.repeated(2000), lines(60)), item(u"T"_s, u"w"_s.repeated(80))}, 40);

@@ -112,6 +112,8 @@ TEST_F(StoryPaneTest, DrawsTitlesAndStoriesAsTheyStand) {
     pane->RespHeadLine({first});
     pane->RespStory(first);
     EXPECT_EQ(title() + story(), QString());
+    pane->vShowData();
+    EXPECT_TRUE(title().endsWith(u"yields"_s)) << "a list of one headline shows it";
 }
 
 TEST_F(StoryPaneTest, FollowsItsHeadlineWhenOthersArrive) {
@@ -232,6 +234,9 @@ TEST_F(StoryPaneTest, TakesANewSchemeAndFont) {
         EXPECT_EQ(edit(id)->palette().color(QPalette::Base), QColor(10, 20, 30));
         EXPECT_EQ(edit(id)->font().pixelSize(), 23);
     }
+    pane->vStoryUpdateNotify(nullptr);
+    EXPECT_EQ(notice()->palette().color(QPalette::WindowText), QColor(200, 10, 20));
+    EXPECT_EQ(notice()->palette().color(QPalette::Window), QColor(10, 20, 30));
     EXPECT_EQ(edit(story_ids::title)->height(), 3 * QFontMetrics(scheme.font).height());
     EXPECT_EQ(pane->grab().toImage().pixelColor(4, 100), QColor(10, 20, 30)) << "beside the texts";
     EXPECT_EQ(selection().selectedText(), u"Body"_s);
@@ -241,6 +246,24 @@ TEST_F(StoryPaneTest, TakesANewSchemeAndFont) {
     pane->vSetFont(larger);
     EXPECT_EQ(edit(story_ids::title)->height(), 3 * QFontMetrics(larger).height());
     EXPECT_EQ(edit(story_ids::storyText)->font().pixelSize(), 31);
+
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_TITLE"_s] = u"標題"_s;
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(pane, &change);
+    EXPECT_EQ(edit(story_ids::title)->accessibleName(), u"標題"_s);
+}
+
+TEST_F(StoryPaneTest, BeginsInTheSchemeAlsoInAWindowThatIsShown) {
+    scheme.colours = {{u"COLOR_LISTCTL_BACKGROUND"_s, QColor(10, 20, 30)}};
+    NewsStoryView another(&window);
+    another.show();
+    another.OnInitialUpdate();
+    another.InitialViewInfo(&settings, u"Layout"_s, 0, 0, {});
+    for (const int id : {story_ids::title, story_ids::storyText}) {
+        const auto* part = static_cast<MyRichEdit*>(dlgItem(&another, id));
+        EXPECT_TRUE(part->isVisible());
+        EXPECT_EQ(part->palette().color(QPalette::Base), QColor(10, 20, 30));
+    }
 }
 
 }  // namespace wirepane

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "output/output_dialogs.h"
+
+#include "output/page_printing.h"
+#include "tests/support/fake_back_end.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+// Does what opens a dialog, and lets `reply` work and end it.
+template <class Dialog>
+void answering(const std::function<void()>& asks, const std::function<void(Dialog&)>& reply) {
+    bool answered = false;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return;
+        look.stop();
+        answered = true;
+        reply(*dialog);
+    });
+    look.start(5);
+    asks();
+    EXPECT_TRUE(answered);
+}
+
+}  // namespace
+
+TEST(OutputDialogs, AFileIsAskedForWithItsType) {
+    FakeBackEnd backEnd;
+    backEnd.texts = {{u"IDS_NEWSCTRLVIEW_STRING_FILE_FILTER"_s, u"Text"_s},
+                     {u"IDS_NEWSCTRLVIEW_STRING_FILE_FILTER_UTF8"_s, u"Unicode"_s}};
+    const QTemporaryDir folder;
+    OutputDialogs dialogs;
+    const std::pair<QString, NewsFileType> cases[] = {{u"Text (*.txt)"_s, NewsFileType::CodePage950},
+                                                      {u"Unicode (*.txt)"_s, NewsFileType::Utf8}};
+    for (const auto& [filter, type] : cases) {
+        std::optional<OutputTarget> target;
+        answering<QFileDialog>([&] { target = dialogs.askFile(backEnd, nullptr); },
+                               [&, &filter = filter](QFileDialog& dialog) {
+                                   EXPECT_TRUE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+                                   EXPECT_EQ(dialog.nameFilters().constFirst(), u"Text (*.txt)"_s);
+                                   dialog.selectNameFilter(filter);
+                                   dialog.findChild<QLineEdit*>()->setText(folder.filePath(u"news"_s));
+                                   static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+                               });
+        ASSERT_TRUE(target);
+        EXPECT_EQ(target->file, folder.filePath(u"news.txt"_s));
+        EXPECT_EQ(target->type, type);
+    }
+    answering<QFileDialog>([&] { EXPECT_FALSE(dialogs.askFile(backEnd, nullptr)); },
+                           [](QFileDialog& dialog) { dialog.reject(); });
+}
+
+TEST(OutputDialogs, APrinterIsAskedForWithoutRangesOfPages) {
+    OutputDialogs dialogs;
+    for (const bool accepted : {true, false}) {
+        QPrinter printer;
+        answering<QPrintDialog>(
+            [&] { EXPECT_EQ(dialogs.askPrinter(printer, nullptr), accepted); },
+            [&](QPrintDialog& dialog) {
+                for (const auto range : {QPrintDialog::PrintPageRange, QPrintDialog::PrintCurrentPage,
+                                         QPrintDialog::PrintSelection})
+                    EXPECT_FALSE(dialog.testOption(range));
+                EXPECT_TRUE(dialog.testOption(QPrintDialog::PrintCollateCopies));
+                dialog.done(accepted ? QDialog::Accepted : QDialog::Rejected);
+            });
+        EXPECT_TRUE(printer.collateCopies());
+    }
+}
+
+TEST(OutputDialogs, ThePreviewShowsEveryPage) {
+    FakeBackEnd backEnd;
+    OutputItem item;
+    item.title = u"Title"_s;
+    item.story = u"line\n"_s.repeated(60);
+    answering<QPrintPreviewDialog>([&] { previewItems(backEnd, {item}, nullptr); },
+                                   [](QPrintPreviewDialog& dialog) {
+                                       EXPECT_EQ(dialog.findChild<QPrintPreviewWidget*>()->pageCount(), 2);
+                                       dialog.reject();
+                                   });
+}
+
+}  // namespace wirepane
