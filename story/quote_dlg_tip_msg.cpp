@@ -60,7 +60,6 @@ bool CQuoteDlgTipMsg::CreateByID(QWidget* parent) {
     // Its colours are often those of what lies under it.
     label->setFrameStyle(QFrame::Box | QFrame::Plain);
     hide();
-    place();
     return true;
 }
 

@@ -48,12 +48,12 @@ StoryTexts StoryReader::showData() {
     shown = pointedAt;
     const QString placeholder = langText(backEnd, keys::recover);
     if (!pointedAt)
-        return {placeholder, placeholder, true};
+        return {placeholder, placeholder};
     const QString title = titleOf(*pointedAt).value_or(placeholder);
     CStory story;
     if (!backEnd.BKQNEWS_bGetStory(story, *pointedAt))
-        return {title, placeholder, true};
-    return {title, textOf(story, pointedAt->service, BodyEnd::Shown), false};
+        return {title, placeholder};
+    return {title, textOf(story, pointedAt->service, BodyEnd::Shown)};
 }
 
 StoryTexts StoryReader::RespHeadLine(const std::vector<CHeadlineTable>& entries) const {
@@ -63,7 +63,7 @@ StoryTexts StoryReader::RespHeadLine(const std::vector<CHeadlineTable>& entries)
     const bool answered = std::any_of(entries.begin(), entries.end(), [&](const CHeadlineTable& candidate) {
         return isSameNews(candidate, *entry);
     });
-    return {answered ? titleOf(*entry) : std::nullopt, {}, false};
+    return {answered ? titleOf(*entry) : std::nullopt, {}};
 }
 
 StoryTexts StoryReader::RespStory(const CHeadlineTable& answered) {

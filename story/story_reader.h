@@ -21,7 +21,6 @@ enum class BodyEnd : int;
 struct StoryTexts {
     std::optional<QString> title;
     std::optional<QString> story;
-    bool awaited = false;  // `story` is the placeholder: the story is not at hand yet
 
     bool operator==(const StoryTexts&) const = default;
 };

@@ -194,7 +194,7 @@ void TRVNewsStory::putOutShown(void (StoryOwner::*putOut)(const CHeadlineTable&)
 // --- The main frame's texts ---
 
 void TRVNewsStory::vMainFrameShowHeadline(const QString& text) {
-    draw({text, langText(keys::recover), true});
+    draw({text, langText(keys::recover)});
 }
 
 void TRVNewsStory::vMainFrameShowStroy(const CStory& story) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "headline_list/language_keys.h"
+#include "host/contract/sync_info.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/s_button.h"
 #include "host/controls/window_id.h"
@@ -208,17 +209,31 @@ TEST_F(StoryDialogTest, ItsPartsShareTheWindow) {
         EXPECT_EQ(button.top(), 465);
         right = button.left() - 9;
     }
+    const int width = dlgItem(&dialog, story_ids::nextButton)->width();
+    backEnd.texts[u"IDS_DIALOG-STORY_PRINT"_s] = u"Print in another language, and at length"_s;
+    dialog.vLoadLanguageString();
+    EXPECT_GT(dlgItem(&dialog, story_ids::nextButton)->width(), width) << "as wide as the widest";
 }
 
 TEST_F(StoryDialogTest, TheNoticeAndTheFontMoveTheParts) {
+    struct Scheme : CSyncInfo {
+        Scheme() { setSettingCFG(this); }
+        QFont SYS_fntGetViewFont() override { return font; }
+        QFont font;
+    } scheme;
+    scheme.font.setPixelSize(27);
     TRVNewsStory dialog(owner, &view);
     dialog.resize(700, 500);
     dialog.show();
+    const auto expectSize = [&](int pixels) {
+        for (const int id : {story_ids::title, story_ids::storyText, story_ids::updateNotice})
+            EXPECT_EQ(static_cast<QWidget*>(dlgItem(&dialog, id))->font().pixelSize(), pixels);
+    };
+    expectSize(27);
     QFont font;
     font.setPixelSize(21);
     dialog.vSetFont(font);
-    for (const int id : {story_ids::title, story_ids::storyText, story_ids::updateNotice})
-        EXPECT_EQ(static_cast<QWidget*>(dlgItem(&dialog, id))->font().pixelSize(), 21);
+    expectSize(21);
     const QRect titlePlace = edit(dialog, story_ids::title)->geometry();
     const QRect storyPlace = edit(dialog, story_ids::storyText)->geometry();
     EXPECT_EQ(titlePlace.height(), 2 * edit(dialog, story_ids::title)->fontMetrics().lineSpacing() + 10);

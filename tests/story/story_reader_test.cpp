@@ -13,7 +13,7 @@ namespace wirepane {
 
 static void PrintTo(const StoryTexts& texts, std::ostream* out) {
     *out << "title: " << texts.title.value_or(u"(none)"_s).toStdString()
-         << "\nstory: " << texts.story.value_or(u"(none)"_s).toStdString() << "\nawaited: " << texts.awaited;
+         << "\nstory: " << texts.story.value_or(u"(none)"_s).toStdString();
 }
 
 namespace {
@@ -54,17 +54,16 @@ protected:
 }  // namespace
 
 TEST_F(StoryReaderTest, ShowsWhatIsAtHandAndAPlaceholderForTheRest) {
-    EXPECT_EQ(show(0), (StoryTexts{u"Fetching"_s, u"Fetching"_s, true}));
+    EXPECT_EQ(show(0), (StoryTexts{u"Fetching"_s, u"Fetching"_s}));
     giveHeadline(first, u"Rates <b>rise</b>"_s);
     const QString title = u"2026/03/02 09:30:00 \r\nRates <b>rise</b>"_s;
-    EXPECT_EQ(show(0), (StoryTexts{title, u"Fetching"_s, true}));
+    EXPECT_EQ(show(0), (StoryTexts{title, u"Fetching"_s}));
     giveStory(first, u"One\r\nline@@@@two"_s);
-    EXPECT_EQ(show(0), (StoryTexts{title, u"2026/03/02 09:31:00 \r\nOneline\r\ntwo  \r\n\r\nEnd."_s, false}));
-    EXPECT_EQ(show(1), (StoryTexts{u"Fetching"_s, u"Fetching"_s, true}))
-        << "nothing is left of another story";
+    EXPECT_EQ(show(0), (StoryTexts{title, u"2026/03/02 09:31:00 \r\nOneline\r\ntwo  \r\n\r\nEnd."_s}));
+    EXPECT_EQ(show(1), (StoryTexts{u"Fetching"_s, u"Fetching"_s})) << "nothing is left of another story";
     giveStory(second, {});
-    EXPECT_EQ(show(1), (StoryTexts{u"Fetching"_s, u"2026/03/02 09:31:00 \r\n  \r\n\r\nEnd."_s, false}));
-    EXPECT_EQ(show(2), (StoryTexts{u"Fetching"_s, u"Fetching"_s, true})) << "below the list";
+    EXPECT_EQ(show(1), (StoryTexts{u"Fetching"_s, u"2026/03/02 09:31:00 \r\n  \r\n\r\nEnd."_s}));
+    EXPECT_EQ(show(2), (StoryTexts{u"Fetching"_s, u"Fetching"_s})) << "below the list";
     owner.entries.clear();
     EXPECT_EQ(show(0), nothing);
 }
@@ -85,17 +84,16 @@ TEST_F(StoryReaderTest, ConvertsTitleAndBodyWhereAsked) {
     backEnd.simplified = true;
     const QString title = u"2026/03/02 09:30:00 \r\n新闻信息"_s;
     // The term is looked for before the lines are joined.
-    EXPECT_EQ(show(0),
-              (StoryTexts{title, u"2026/03/02 09:31:00 \r\n信息\r\n闻 资讯  \r\n\r\nEnd."_s, false}));
-    EXPECT_EQ(reader.RespHeadLine({first}), (StoryTexts{title, {}, false}));
+    EXPECT_EQ(show(0), (StoryTexts{title, u"2026/03/02 09:31:00 \r\n信息\r\n闻 资讯  \r\n\r\nEnd."_s}));
+    EXPECT_EQ(reader.RespHeadLine({first}), (StoryTexts{title, {}}));
     EXPECT_EQ(reader.RespStory(first).story, u"2026/03/02 09:31:00 \r\n信息\r\n闻 资讯 \r\n\r\nEnd."_s);
     // Each service is asked for itself.
     giveHeadline(second, u"新聞"_s);
     giveStory(second, u"聞"_s);
     backEnd.simplified = false;
     backEnd.simplifiedServices = {0, 1};
-    EXPECT_EQ(show(1), (StoryTexts{u"2026/03/02 09:00:00 \r\n新聞"_s,
-                                   u"2026/03/02 09:31:00 \r\n聞  \r\n\r\nEnd."_s, false}));
+    EXPECT_EQ(show(1),
+              (StoryTexts{u"2026/03/02 09:00:00 \r\n新聞"_s, u"2026/03/02 09:31:00 \r\n聞  \r\n\r\nEnd."_s}));
     EXPECT_EQ(reader.RespStory(second).story, u"2026/03/02 09:31:00 \r\n聞 \r\n\r\nEnd."_s);
     EXPECT_EQ(show(0).title, title);
 }
@@ -107,13 +105,13 @@ TEST_F(StoryReaderTest, AnswersFillInWhatWasAwaited) {
     giveHeadline(first, u"Rates rise"_s);
     giveStory(first, u"Body"_s);
     const QString title = u"2026/03/02 09:30:00 \r\nRates rise"_s;
-    const StoryTexts story{{}, u"2026/03/02 09:31:00 \r\nBody \r\n\r\nEnd."_s, false};
+    const StoryTexts story{{}, u"2026/03/02 09:31:00 \r\nBody \r\n\r\nEnd."_s};
     for (int times = 0; times < 2; ++times) {
-        EXPECT_EQ(reader.RespHeadLine({second, first}), (StoryTexts{title, {}, false}));
+        EXPECT_EQ(reader.RespHeadLine({second, first}), (StoryTexts{title, {}}));
         EXPECT_EQ(reader.RespStory(first), story);
     }
     giveStory(first, {});
-    EXPECT_EQ(reader.RespStory(first), (StoryTexts{{}, u"2026/03/02 09:31:00 \r\nNo story"_s, false}));
+    EXPECT_EQ(reader.RespStory(first), (StoryTexts{{}, u"2026/03/02 09:31:00 \r\nNo story"_s}));
 }
 
 TEST_F(StoryReaderTest, IgnoresAnswersForWhatIsNotShown) {
@@ -153,10 +151,10 @@ TEST_F(StoryReaderTest, AStoryAskedForByRowComesWithItsTitle) {
     reader.SetHeadLinePos(1);
     EXPECT_EQ(reader.RespHeadLine({second}), nothing) << "no title over the story of another headline";
     const QString story = u"2026/03/02 09:31:00 \r\nOther body \r\n\r\nEnd."_s;
-    EXPECT_EQ(reader.RespStory(second), (StoryTexts{u"2026/03/02 09:00:00 \r\nFreight"_s, story, false}));
-    EXPECT_EQ(reader.RespStory(second), (StoryTexts{{}, story, false}));
+    EXPECT_EQ(reader.RespStory(second), (StoryTexts{u"2026/03/02 09:00:00 \r\nFreight"_s, story}));
+    EXPECT_EQ(reader.RespStory(second), (StoryTexts{{}, story}));
     reader.SetHeadLinePos(1);
-    EXPECT_EQ(reader.RespStory(second), (StoryTexts{{}, story, false})) << "it is shown already";
+    EXPECT_EQ(reader.RespStory(second), (StoryTexts{{}, story})) << "it is shown already";
 }
 
 TEST_F(StoryReaderTest, ThePositionMovesWithItsHeadline) {

@@ -114,6 +114,9 @@ TEST_F(TipTest, GivesTheKeyboardToItsOwnerWhereItIsShownOverNothing) {
     EXPECT_TRUE(tip.isVisible());
     EXPECT_EQ(tip.parentWidget(), &window);
     EXPECT_TRUE(edit.hasFocus());
+    tip.vSetInfo(nullptr, QStringLiteral("of nobody"), Qt::white, Qt::black, 1000);
+    tip.vShow(nullptr, 50, 60, false);
+    EXPECT_EQ(tip.pos(), QPoint(60, 50));
 }
 
 TEST_F(TipTest, IsAsHighAsItsFontNeedsAndNoLowerThanOthers) {
