@@ -3,6 +3,7 @@
 #include "backend/import/import_job.h"
 
 #include "backend/import/import_errors.h"
+#include "backend/import/read_ahead.h"
 #include "backend/import/source_reader.h"
 #include "host/contract/clock.h"
 
@@ -85,8 +86,8 @@ void ImportJob::takeFile(QFile& file, const QString& path) {
     ReadOptions ofFile = options;
     ofFile.sourceName = QFileInfo(path).fileName();
     FileState state;
-    const Done read =
-        readSource(file, ofFile, [&](SourceItem&& item) { return takeItem(std::move(item), path, state); });
+    const Done read = readAhead([&](const ItemVisitor& visit) { return readSource(file, ofFile, visit); },
+                                [&](SourceItem&& item) { return takeItem(std::move(item), path, state); });
     if (read && file.error() != QFileDevice::NoError)
         finishFile(path, state, makeError<import_errors::fileNotReadToEnd>(file.errorString()));
     else

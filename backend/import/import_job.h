@@ -59,8 +59,8 @@ struct ImportReport {
 int importExitStatus(const ImportReport& report);
 
 // Takes files into a store. Each file is taken in as a whole or not at all; running the same files again is
-// harmless, and that is how a stopped import goes on. run() works on the thread that calls it, and so do the
-// two callbacks.
+// harmless, and that is how a stopped import goes on. run() takes items on the thread that calls it, and so
+// do the two callbacks; meanwhile another thread reads ahead.
 class ImportJob {
 public:
     // `sink` outlives the job. Of `options` the source name is filled in per file.
