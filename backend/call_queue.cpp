@@ -23,16 +23,22 @@ void CallQueue::clear() {
     calls.clear();
 }
 
-void CallQueue::callNext() {
+void CallQueue::callAll() {
+    while (callNext()) {
+    }
+}
+
+bool CallQueue::callNext() {
     Call call;
     {
         const std::lock_guard lock(mutex);
         if (calls.empty())
-            return;
+            return false;
         call = std::move(calls.front());
         calls.pop_front();
     }
     call();
+    return true;
 }
 
 }  // namespace wirepane

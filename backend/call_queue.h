@@ -25,12 +25,14 @@ public:
     void post(Call call);
     // Drops what has not begun. Any thread.
     void clear();
+    // Makes the calls that have been posted until now, at once. The thread that the queue lives on.
+    void callAll();
 
 signals:
     void posted();
 
 private:
-    void callNext();
+    bool callNext();
 
     std::mutex mutex;
     std::deque<Call> calls;

@@ -37,8 +37,6 @@ class FeedSink : public ItemSink {
 public:
     // Between begin() and commit(). `source` names the source for good; `position` is the source's own text.
     virtual Done keepPosition(const QString& source, const QString& position) = 0;
-    // Empty for a source that was never heard of.
-    virtual Result<QString> positionOf(const QString& source) = 0;
 };
 
 }  // namespace wirepane

@@ -12,7 +12,7 @@ namespace wirepane {
 
 namespace {
 
-constexpr int longLog = 1000;  // pages
+constexpr int longLog = 4000;  // pages
 constexpr std::chrono::milliseconds busyTimeout{1000};
 
 }  // namespace
@@ -31,21 +31,28 @@ StoreSync::~StoreSync() {
 }
 
 int StoreSync::committed(void* self, sqlite3*, const char*, int pagesInLog) {
-    static_cast<StoreSync*>(self)->ask(pagesInLog >= longLog);
+    auto* const sync = static_cast<StoreSync*>(self);
+    sync->pagesInLog = pagesInLog;
+    sync->ask();
     return SQLITE_OK;
 }
 
-void StoreSync::ask(bool isLogLong) {
+// A log that begins anew after a checkpoint is shorter than it was then.
+bool StoreSync::isLogLong() const {
+    const int pages = pagesInLog;
+    const int before = pagesAtCheckpoint;
+    return pages - (pages < before ? 0 : before) >= longLog;
+}
+
+void StoreSync::ask() {
     ++commits;
-    if (isLogLong)
-        isLong = true;
     if (!isAsked.exchange(true))
         thread.post([this] { syncWhatIsNew(); });
 }
 
 // Asks anew, too, so that one who was told of an error can try again.
 void StoreSync::whenOnDisk(Callback callback) {
-    ask(false);
+    ask();
     waiting.emplace_back(commits, std::move(callback));
 }
 
@@ -66,11 +73,7 @@ void StoreSync::syncWhatIsNew() {
     const std::int64_t upTo = commits;
     if (synced == upTo)
         return;
-    const bool isDue = isLong.exchange(false);
     const Done done = sync();
-    // Before anybody is called: who waits for the disk does not lengthen the log meanwhile.
-    if (isDue)
-        checkpoint();
     synced = upTo;
     outcome = done;
     answers.post([this, upTo, done] { deliver(upTo, done); });
@@ -95,12 +98,6 @@ Done StoreSync::sync() {
     if (log->pMethods->xSync(log, SQLITE_SYNC_NORMAL) != SQLITE_OK)
         return makeError<database_errors::notOnDisk>(path);
     return Nothing{};
-}
-
-// As far as no reader needs the log; the rest comes with a later commit.
-void StoreSync::checkpoint() {
-    if (database)
-        sqlite3_wal_checkpoint_v2(database->handle(), "main", SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
 }
 
 // Whoever is called may ask again, or destroy what waits behind him.

@@ -34,9 +34,8 @@ QByteArray receiptLine(const LineSource::Receipt& receipt) {
 
 }  // namespace
 
-FeedConnection::FeedConnection(LineChannel* sender, unsigned char service,
-                               std::chrono::milliseconds longestTaking, Answers wanted)
-    : LineSource(service, longestTaking), channel(sender), answers(wanted) {
+FeedConnection::FeedConnection(LineChannel* sender, unsigned char service, Answers wanted)
+    : LineSource(service), channel(sender), answers(wanted) {
     setState(SourceState::Live);
     onReceipt([this](const Receipt& receipt) {
         answer(receiptLine(receipt));

@@ -20,8 +20,7 @@ public:
     enum class Answers { All, None };
 
     // The channel is not owned; when it goes, the sender is gone. The rest as LineSource has it.
-    FeedConnection(LineChannel* channel, unsigned char service, std::chrono::milliseconds longestTaking,
-                   Answers answers = Answers::All);
+    FeedConnection(LineChannel* channel, unsigned char service, Answers answers = Answers::All);
 
     void resume(const Result<QString>& position) override;
     // A break sends the sender off; it may come again as another.

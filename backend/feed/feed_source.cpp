@@ -73,16 +73,11 @@ void FeedSource::tellTrouble(const Error& error) {
         owner->sourceTrouble(error);
 }
 
-void resumeSource(FeedSource& source, FeedSink& sink) {
-    if (source.awaitsPosition())
-        source.resume(source.name().isEmpty() ? QString() : sink.positionOf(source.name()));
-}
-
-Result<BatchOutcome> takeBatch(FeedSource& source, FeedSink& sink) {
+Result<BatchOutcome> takeBatch(FeedBatch& batch, const QString& source, FeedSink& sink) {
     if (const Done begun = sink.begin(); !begun)
         return begun.error();
     Taking taking(sink);
-    const Done read = source.read([&taking](SourceItem&& item) { return taking.take(item); });
+    const Done read = batch.read([&taking](SourceItem&& item) { return taking.take(item); });
     if (taking.failure) {
         sink.rollback();
         return *taking.failure;
@@ -93,9 +88,9 @@ Result<BatchOutcome> takeBatch(FeedSource& source, FeedSink& sink) {
         refused.fault = read.error();
         return refused;
     }
-    const QString position = source.position();
-    if (!source.name().isEmpty() && !position.isEmpty()) {
-        if (const Done kept = sink.keepPosition(source.name(), position); !kept) {
+    const QString position = batch.position();
+    if (!source.isEmpty() && !position.isEmpty()) {
+        if (const Done kept = sink.keepPosition(source, position); !kept) {
             sink.rollback();
             return kept.error();
         }

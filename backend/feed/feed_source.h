@@ -53,8 +53,24 @@ public:
     virtual void addSource(const std::shared_ptr<FeedSource>&) {}
 };
 
+// Items that are taken together, and the position behind them. Made on the interface thread, then read on any
+// one thread.
+class FeedBatch {
+public:
+    FeedBatch() = default;
+    FeedBatch(const FeedBatch&) = delete;
+    FeedBatch& operator=(const FeedBatch&) = delete;
+    virtual ~FeedBatch() = default;
+
+    // Hands the items over, until `visit` answers false. An error: the batch as a whole cannot be read.
+    virtual Done read(const ItemVisitor& visit) = 0;
+    // The position behind what has been read; empty: there is none to keep.
+    virtual QString position() const { return {}; }
+};
+
 // A source of news: it hands items over in batches that are taken whole or not at all, each with the position
-// behind it, and goes on from any such position. Interface thread; one that blocks is a QueuedSource.
+// behind it, and goes on from any such position. Interface thread; one that blocks to find its batches is a
+// QueuedSource.
 //
 // What a source has no use for it leaves as it is here.
 class FeedSource {
@@ -78,12 +94,10 @@ public:
     virtual void poll() {}
     // Whether a batch is at hand. Looks at once and does not wait.
     virtual bool hasBatch() { return false; }
-    // Hands the items of the batch over, until `visit` answers false. The same batch again until it is
-    // acknowledged. An error: the batch as a whole cannot be read.
-    virtual Done read(const ItemVisitor&) { return Nothing{}; }
-    // The position behind the batch that was read last; empty: there is none to keep.
-    virtual QString position() const { return {}; }
-    // The batch that was taken is on the disk, or has been refused: the next one may come.
+    // The batch at hand; the same items again until it is acknowledged. It does not need the source any more.
+    // Null: there is none.
+    virtual std::shared_ptr<FeedBatch> batch() { return nullptr; }
+    // The batch that was handed out last is on the disk, or has been refused: the next one may come.
     virtual void acknowledge(const BatchOutcome&) {}
 
     // The terminal is disconnected, or connected again. While it is not, nothing is taken.
@@ -107,12 +121,10 @@ private:
     SourceTaker* owner = nullptr;
 };
 
-// Lets a source that waits for its position go on behind the one that the sink keeps for it.
-void resumeSource(FeedSource& source, FeedSink& sink);
-
-// Takes the batch at hand into the sink, in one transaction together with its position. The caller
-// acknowledges it as soon as what the sink has committed is on the disk, and does not take it again before.
-// An error is the sink's: nothing was taken, and the batch stays at hand.
-Result<BatchOutcome> takeBatch(FeedSource& source, FeedSink& sink);
+// Takes a batch into the sink, in one transaction together with its position, which is kept for `source`
+// (empty: it is not kept). The source is told of it as soon as what the sink has committed is on the disk,
+// and its batch is not taken again before. An error is the sink's: nothing was taken, and the batch stays at
+// hand.
+Result<BatchOutcome> takeBatch(FeedBatch& batch, const QString& source, FeedSink& sink);
 
 }  // namespace wirepane

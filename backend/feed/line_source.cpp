@@ -5,7 +5,8 @@
 #include "backend/feed/feed_errors.h"
 #include "backend/import/import_errors.h"
 
-#include <algorithm>
+#include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -14,6 +15,42 @@ namespace wirepane {
 namespace {
 constexpr std::size_t mostLines = 1000;   // of a batch
 constexpr qint64 mostBytes = 512 * 1024;  // of a batch, about
+
+class LineBatch : public FeedBatch {
+public:
+    // `before`: how many lines have gone before.
+    LineBatch(std::vector<Result<QByteArray>> batchLines, qint64 before, unsigned char ofService)
+        : lines(std::move(batchLines)), number(before), service(ofService) {}
+
+    Done read(const ItemVisitor& visit) override {
+        qint64 at = number;
+        for (const Result<QByteArray>& line : lines) {
+            if (!visit(itemOf(line, makeError<import_errors::atLine>(++at))))
+                break;
+        }
+        return Nothing{};
+    }
+    QString position() const override { return lastPosition; }
+
+private:
+    SourceItem itemOf(const Result<QByteArray>& line, const Phrase& place) {
+        if (!line)
+            return {line.error(), place, 0};
+        FeedLine parsed = parsedFeedLine(line.value(), service);
+        auto* record = std::get_if<FeedRecord>(&parsed);
+        if (record == nullptr)
+            return {makeError<feed_errors::greetingNotFirst>(), place, 0};
+        if (!record->position.isEmpty())
+            lastPosition = record->position;
+        return {std::move(record->item), place, 0};
+    }
+
+    std::vector<Result<QByteArray>> lines;
+    qint64 number;
+    unsigned char service;
+    QString lastPosition;
+};
+
 }  // namespace
 
 void LineSource::add(const QByteArray& line) {
@@ -38,50 +75,27 @@ void LineSource::addRejected(const Error& reason) {
 void LineSource::drop() {
     lines.clear();
     waitingBytes = 0;
-    batch = 0;
+    linesOfBatch = 0;
 }
 
-Done LineSource::read(const ItemVisitor& visit) {
-    batch = 0;
-    lastPosition.clear();
+std::shared_ptr<FeedBatch> LineSource::batch() {
+    std::vector<Line> next;
     qint64 bytes = 0;
-    const auto begin = std::chrono::steady_clock::now();
-    const auto isEnough = [&] {
-        return batch >= mostLines || bytes >= mostBytes ||
-               std::chrono::steady_clock::now() - begin >= longest;
-    };
-    while (batch < lines.size() && (batch == 0 || !isEnough())) {
-        const Result<QByteArray>& line = lines[batch];
-        ++batch;
-        const Phrase place = makeError<import_errors::atLine>(acknowledged + static_cast<qint64>(batch));
-        if (!line) {
-            if (!visit({line.error(), place, 0}))
-                break;
-            continue;
-        }
-        bytes += line.value().size();
-        FeedLine parsed = parsedFeedLine(line.value(), hello.service);
-        auto* record = std::get_if<FeedRecord>(&parsed);
-        if (record == nullptr) {
-            if (!visit({makeError<feed_errors::greetingNotFirst>(), place, 0}))
-                break;
-            continue;
-        }
-        if (!record->position.isEmpty())
-            lastPosition = record->position;
-        if (!visit({std::move(record->item), place, 0}))
-            break;
+    while (next.size() < lines.size() && next.size() < mostLines && bytes < mostBytes) {
+        next.push_back(lines[next.size()]);
+        bytes += next.back() ? next.back().value().size() : 0;
     }
-    return Nothing{};
+    linesOfBatch = next.size();
+    return std::make_shared<LineBatch>(std::move(next), acknowledged, hello.service);
 }
 
 void LineSource::acknowledge(const BatchOutcome& outcome) {
-    const auto end = lines.begin() + static_cast<std::ptrdiff_t>(batch);
+    const auto end = lines.begin() + static_cast<std::ptrdiff_t>(linesOfBatch);
     for (auto line = lines.begin(); line != end; ++line)
         waitingBytes -= *line ? line->value().size() : 0;
     lines.erase(lines.begin(), end);
-    acknowledged += static_cast<qint64>(batch);
-    batch = 0;
+    acknowledged += static_cast<qint64>(linesOfBatch);
+    linesOfBatch = 0;
     if (tell)
         tell({acknowledged, outcome});
 }

@@ -7,7 +7,6 @@
 
 #include <QByteArray>
 
-#include <chrono>
 #include <deque>
 #include <functional>
 
@@ -23,13 +22,8 @@ public:
         BatchOutcome outcome;
     };
 
-    // `service` is that of records before which no handshake names one. A batch ends with the line during
-    // which it has taken longer than `longestTaking`.
-    explicit LineSource(unsigned char service = 1,
-                        std::chrono::milliseconds longestTaking = std::chrono::hours(1))
-        : longest(longestTaking) {
-        hello.service = service;
-    }
+    // `service` is that of records before which no handshake names one.
+    explicit LineSource(unsigned char service = 1) { hello.service = service; }
 
     // The next line; a handshake counts only before the first item.
     void add(const QByteArray& line);
@@ -47,23 +41,21 @@ public:
     bool awaitsPosition() const override { return isAwaiting; }
     void resume(const Result<QString>&) override { isAwaiting = false; }
     bool hasBatch() override { return !lines.empty(); }
-    Done read(const ItemVisitor& visit) override;
-    QString position() const override { return lastPosition; }
+    std::shared_ptr<FeedBatch> batch() override;
     void acknowledge(const BatchOutcome& outcome) override;
 
 private:
+    using Line = Result<QByteArray>;
     static constexpr std::size_t mostWaiting = 4000;  // lines
     static constexpr qint64 mostWaitingBytes = 512 * 1024;
 
-    std::chrono::milliseconds longest;
     FeedHello hello;
-    std::deque<Result<QByteArray>> lines;
+    std::deque<Line> lines;
     qint64 waitingBytes = 0;
-    std::size_t batch = 0;    // lines of the batch that was read last
-    qint64 acknowledged = 0;  // lines
-    bool begun = false;       // the first line has come
-    bool isAwaiting = false;  // its position
-    QString lastPosition;
+    std::size_t linesOfBatch = 0;  // that was handed out last
+    qint64 acknowledged = 0;       // lines
+    bool begun = false;            // the first line has come
+    bool isAwaiting = false;       // its position
     std::function<void(const Receipt&)> tell;
 };
 

@@ -18,8 +18,8 @@ namespace wirepane {
 namespace {
 
 constexpr int tickMs = 250;
-constexpr int retryMs = 2000;  // after the store could not be written
-constexpr std::chrono::milliseconds shortPatience{20};
+constexpr int retryMs = 2000;             // after the store could not be written
+constexpr int behindMs = 5;               // between looks whether the telling has come up to the taking
 constexpr qint64 longestReturnMs = 3000;  // of sources, after a break
 
 }  // namespace
@@ -66,8 +66,33 @@ std::vector<SourceReport> LiveFeed::sources() const {
 }
 
 void LiveFeed::sourceReady(FeedSource& source) {
-    resumeSource(source, backEnd);
+    if (const Entry* entry = entryOf(source))
+        resume(std::shared_ptr(entry->source));
     pumpSoon();
+}
+
+// Behind what is being taken of it, so that it goes on behind that, too.
+void LiveFeed::resume(const std::shared_ptr<FeedSource>& source) {
+    Entry* const entry = entryOf(*source);
+    if (entry == nullptr || entry->isAsking || !source->awaitsPosition())
+        return;
+    const QString name = source->name();
+    if (name.isEmpty()) {
+        source->resume(QString());
+        return;
+    }
+    entry->isAsking = true;
+    const auto position = std::make_shared<Result<QString>>(QString());
+    backEnd.ask([name, position](StoreWriter& writer) { *position = writer.positionOf(name); },
+                [self = QPointer(this), source, position] {
+                    Entry* const asking = self ? self->entryOf(*source) : nullptr;
+                    if (asking == nullptr)
+                        return;
+                    asking->isAsking = false;
+                    if (self->isConnected && source->awaitsPosition())
+                        source->resume(*position);
+                    self->pumpSoon();
+                });
 }
 
 void LiveFeed::sourceStateChanged(FeedSource& source) {
@@ -115,7 +140,7 @@ void LiveFeed::tick() {
         entry.source->poll();
         if (!isConnected)
             continue;
-        resumeSource(*entry.source, backEnd);
+        resume(entry.source);
         if (entry.source->hasBatch())
             pumpSoon();
     }
@@ -128,14 +153,14 @@ void LiveFeed::pumpSoon() {
         pumping.start(hasTrouble() ? retryMs : 0);
 }
 
-// One batch a turn, so that the windows stay alive; the next turn when this one did anything.
+// One batch a turn; the next turn when this one did anything. What is taken faster than the views are told
+// waits at its source.
 void LiveFeed::pump() {
-    // A view that is told may open a dialog, whose loop comes by here.
-    if (!isTaking) {
-        if (isConnected && pumpOne())
-            pumpSoon();
-        dropDoneSources();
-    }
+    if (isConnected && backEnd.isBehind())
+        pumping.start(behindMs);
+    else if (isConnected && pumpOne())
+        pumpSoon();
+    dropDoneSources();
     updateState();
 }
 
@@ -154,21 +179,31 @@ bool LiveFeed::pumpOne() {
 }
 
 void LiveFeed::take(const std::shared_ptr<FeedSource>& source) {
-    isTaking = true;
-    // The windows must not stand still while another program writes.
-    backEnd.setPatience(shortPatience);
-    const Result<BatchOutcome> taken = takeBatch(*source, backEnd);
-    backEnd.setPatience(StoreOptions().busyTimeout);
-    isTaking = false;
+    const int batch = ++batches;
+    entryOf(*source)->batch = batch;
+    const auto taken = std::make_shared<Result<BatchOutcome>>(BatchOutcome());
+    backEnd.ask([items = source->batch(), name = source->name(),
+                 taken](StoreWriter& writer) { *taken = takeBatch(*items, name, writer); },
+                [self = QPointer(this), source, taken, batch] {
+                    if (self)
+                        self->noteTaken(source, *taken, batch);
+                });
+}
+
+void LiveFeed::noteTaken(const std::shared_ptr<FeedSource>& source, const Result<BatchOutcome>& taken,
+                         int batch) {
     tellTrouble(taken ? std::nullopt : std::optional(taken.error()));
-    if (!taken)
+    Entry* const entry = entryOf(*source);
+    if (entry == nullptr)
         return;
-    takenLate += isCatchingUp ? taken.value().news : 0;
-    // A receiver that was told may have sent it off.
-    if (Entry* entry = entryOf(*source)) {
-        entry->batch = ++batches;
-        awaitDisk(source, taken.value(), entry->batch);
+    if (taken) {
+        takenLate += isCatchingUp ? taken.value().news : 0;
+        awaitDisk(source, taken.value(), batch);
+    } else {
+        entry->batch = 0;
+        pumpSoon();
     }
+    updateState();
 }
 
 void LiveFeed::awaitDisk(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch) {

@@ -37,9 +37,9 @@ struct SourceReport {
     SourceState state;
 };
 
-// The live news of a running terminal: owns the sources, lets each go on where it was, and takes in what they
-// bring, a batch at a time so that the windows stay alive. The store is watched as a source like the others.
-// Interface thread.
+// The live news of a running terminal: owns the sources, lets each go on where it was, and has what they
+// bring taken in on the store's thread, one batch of each at a time. The store is watched as a source like
+// the others. Interface thread.
 class LiveFeed : public QObject, private SourceTaker {
     Q_OBJECT
 
@@ -71,7 +71,8 @@ signals:
 private:
     struct Entry {
         std::shared_ptr<FeedSource> source;
-        int batch = 0;  // that is being flushed; 0: none
+        int batch = 0;          // that is being taken or flushed; 0: none
+        bool isAsking = false;  // for its position
     };
 
     void sourceReady(FeedSource& source) override;
@@ -81,7 +82,9 @@ private:
     void pumpSoon();
     void pump();
     bool pumpOne();
+    void resume(const std::shared_ptr<FeedSource>& source);
     void take(const std::shared_ptr<FeedSource>& source);
+    void noteTaken(const std::shared_ptr<FeedSource>& source, const Result<BatchOutcome>& taken, int batch);
     void awaitDisk(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch);
     void acknowledge(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch,
                      const Done& onDisk);
@@ -97,7 +100,7 @@ private:
     EmbeddedBackEnd& backEnd;
     std::vector<Entry> entries;  // the store's watch first
     std::size_t turn = 0;        // whose it is to be taken
-    int batches = 0;             // taken so far
+    int batches = 0;             // handed to the store so far
     QTimer ticking;
     QTimer pumping;
     std::optional<Error> takeTrouble;  // of the last batch
@@ -107,7 +110,6 @@ private:
     std::size_t sourcesBefore = 0;  // the break
     QElapsedTimer sinceBreak;       // since its end
     qint64 takenLate = 0;           // while catching up
-    bool isTaking = false;
     FeedState current;
 };
 

@@ -6,6 +6,27 @@
 
 namespace wirepane {
 
+namespace {
+
+class QueuedBatch : public FeedBatch {
+public:
+    explicit QueuedBatch(std::shared_ptr<const SourceBatch> queued) : batch(std::move(queued)) {}
+
+    Done read(const ItemVisitor& visit) override {
+        for (const SourceItem& item : batch->items) {
+            if (!visit(SourceItem(item)))
+                break;
+        }
+        return Nothing{};
+    }
+    QString position() const override { return batch->position; }
+
+private:
+    std::shared_ptr<const SourceBatch> batch;
+};
+
+}  // namespace
+
 QueuedSource::QueuedSource(QString name, std::unique_ptr<SourceReader> sourceReader)
     : ownName(std::move(name)), reader(std::move(sourceReader)) {}
 
@@ -35,7 +56,7 @@ void QueuedSource::stop() {
     thread.reset();
     queue.reset();
     calls.clear();
-    isRead = false;
+    isTaken = false;
 }
 
 void QueuedSource::arrived() {
@@ -53,22 +74,14 @@ bool QueuedSource::hasBatch() {
     return queue && queue->front() != nullptr;
 }
 
-Done QueuedSource::read(const ItemVisitor& visit) {
-    isRead = true;
-    for (const SourceItem& item : queue->front()->items) {
-        if (!visit(SourceItem(item)))
-            break;
-    }
-    return Nothing{};
-}
-
-QString QueuedSource::position() const {
-    return queue->front()->position;
+std::shared_ptr<FeedBatch> QueuedSource::batch() {
+    isTaken = true;
+    return std::make_shared<QueuedBatch>(queue->front());
 }
 
 void QueuedSource::acknowledge(const BatchOutcome&) {
     // A batch of before a break is not at hand any more.
-    if (!std::exchange(isRead, false))
+    if (!std::exchange(isTaken, false))
         return;
     queue->pop();
     arrived();

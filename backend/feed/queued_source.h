@@ -32,8 +32,7 @@ public:
     bool awaitsPosition() const override { return isWaiting; }
     void resume(const Result<QString>& position) override;
     bool hasBatch() override;
-    Done read(const ItemVisitor& visit) override;
-    QString position() const override;
+    std::shared_ptr<FeedBatch> batch() override;
     void acknowledge(const BatchOutcome& outcome) override;
     // What was not acknowledged before a break is read again after it.
     void setOnline(bool on) override;
@@ -49,7 +48,7 @@ private:
     std::unique_ptr<SourceQueue> queue;  // of the reading that is under way; null: none is
     std::unique_ptr<WorkerThread> thread;
     bool isWaiting = true;  // for its position
-    bool isRead = false;    // the batch at hand
+    bool isTaken = false;   // the batch at hand
 };
 
 }  // namespace wirepane

@@ -111,7 +111,7 @@ void Replay::sendNext() {
     }
     if (source->hasBatch()) {
         isUnderWay = true;
-        source->read([this](SourceItem&& item) {
+        source->batch()->read([this](SourceItem&& item) {
             const QString position = sentence(item.place);
             client.send(itemLine(std::get<NewsItem>(item.content.value()), position).chopped(1), position);
             ++sent;

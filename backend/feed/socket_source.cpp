@@ -8,13 +8,6 @@
 
 namespace wirepane {
 
-namespace {
-
-// The windows wait for a batch, and are to answer the user within a twentieth of a second.
-constexpr std::chrono::milliseconds longestTaking{20};
-
-}  // namespace
-
 SocketSource::SocketSource(QString name) : socketName(std::move(name)) {
     listen();
 }
@@ -23,7 +16,7 @@ void SocketSource::listen() {
     server = std::make_unique<SocketServer>();
     QObject::connect(server.get(), &SocketServer::connected, server.get(), [this](LineChannel* channel) {
         if (taker() != nullptr)
-            taker()->addSource(std::make_shared<FeedConnection>(channel, 1, longestTaking));
+            taker()->addSource(std::make_shared<FeedConnection>(channel, 1));
     });
     const Done listening = server->listen(socketName);
     setState(listening ? SourceState::Live : SourceState::Failed,

@@ -14,7 +14,7 @@ bool SourceQueue::push(SourceBatch batch) {
         changed.wait(lock, [this] { return isClosed || batches < mostWaiting; });
         if (isClosed)
             return false;
-        entries.emplace_back(std::move(batch));
+        entries.emplace_back(std::make_shared<const SourceBatch>(std::move(batch)));
         ++batches;
     }
     tellArrived();
@@ -54,9 +54,11 @@ void SourceQueue::close() {
     changed.notify_all();
 }
 
-const SourceBatch* SourceQueue::front() {
+std::shared_ptr<const SourceBatch> SourceQueue::front() {
     const std::lock_guard lock(mutex);
-    return entries.empty() ? nullptr : std::get_if<SourceBatch>(&entries.front());
+    if (entries.empty() || std::holds_alternative<Change>(entries.front()))
+        return nullptr;
+    return std::get<std::shared_ptr<const SourceBatch>>(entries.front());
 }
 
 void SourceQueue::pop() {

@@ -39,7 +39,7 @@ public:
     // For the interface thread.
     void close();
     // The batch whose turn it is; null: none, or a state comes before it. It stays in its place until pop().
-    const SourceBatch* front();
+    std::shared_ptr<const SourceBatch> front();
     void pop();
     struct Change {
         SourceState::Kind kind;
@@ -54,7 +54,7 @@ private:
     std::function<void()> tellArrived;
     std::mutex mutex;
     std::condition_variable changed;
-    std::deque<std::variant<SourceBatch, Change>> entries;
+    std::deque<std::variant<std::shared_ptr<const SourceBatch>, Change>> entries;
     std::size_t batches = 0;  // of these
     bool hasEnded = false;
     bool isClosed = false;

@@ -78,6 +78,34 @@ std::vector<Error> reasonsOf(const BatchOutcome& outcome) {
     return reasons;
 }
 
+class FileBatch : public FeedBatch {
+public:
+    FileBatch(QString file, qint64 largestFile, ReadOptions readOptions)
+        : path(std::move(file)), largest(largestFile), options(std::move(readOptions)) {}
+
+    Done read(const ItemVisitor& visit) override {
+        const QFileInfo info(path);
+        if (info.isSymLink())
+            return makeError<feed_errors::spoolLink>();
+        if (info.exists() && !info.isFile())
+            return makeError<import_errors::noFile>();
+        if (info.size() > largest)
+            return makeError<feed_errors::spoolFileTooLarge>(largest);
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return makeError<import_errors::fileNotOpened>(file.errorString());
+        Done read = readSource(file, options, visit);
+        if (read && file.error() != QFileDevice::NoError)
+            return makeError<import_errors::fileNotReadToEnd>(file.errorString());
+        return read;
+    }
+
+private:
+    QString path;
+    qint64 largest;
+    ReadOptions options;
+};
+
 QByteArray fileText(const std::vector<Error>& reasons) {
     QString text;
     for (const Error& reason : reasons)
@@ -151,24 +179,10 @@ bool SpoolSource::hasBatch() {
     return false;
 }
 
-Done SpoolSource::read(const ItemVisitor& visit) {
-    const QString path = QDir(folder).filePath(current);
-    const QFileInfo info(path);
-    if (info.isSymLink())
-        return makeError<feed_errors::spoolLink>();
-    if (info.exists() && !info.isFile())
-        return makeError<import_errors::noFile>();
-    if (info.size() > options.largestFile)
-        return makeError<feed_errors::spoolFileTooLarge>(options.largestFile);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return makeError<import_errors::fileNotOpened>(file.errorString());
+std::shared_ptr<FeedBatch> SpoolSource::batch() {
     ReadOptions reading = options.read;
     reading.sourceName = current;
-    Done read = readSource(file, reading, visit);
-    if (read && file.error() != QFileDevice::NoError)
-        return makeError<import_errors::fileNotReadToEnd>(file.errorString());
-    return read;
+    return std::make_shared<FileBatch>(QDir(folder).filePath(current), options.largestFile, reading);
 }
 
 void SpoolSource::acknowledge(const BatchOutcome& outcome) {

@@ -36,7 +36,7 @@ public:
     // The folder is its own memory: what is in it has not been taken, and no position need be kept.
     QString name() const override;
     bool hasBatch() override;
-    Done read(const ItemVisitor& visit) override;
+    std::shared_ptr<FeedBatch> batch() override;
     void acknowledge(const BatchOutcome& outcome) override;
 
 private:

@@ -15,8 +15,7 @@ QString StoreWatch::name() const {
 void StoreWatch::poll() {
     const auto trouble = backEnd.storeTrouble();
     setState(trouble ? SourceState::Failed : isOnline ? SourceState::Live : SourceState::Offline, trouble);
-    if (isOnline)
-        backEnd.checkForNews();
+    backEnd.checkForNews();
 }
 
 void StoreWatch::setOnline(bool on) {

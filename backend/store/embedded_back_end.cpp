@@ -33,110 +33,120 @@ Result<std::unique_ptr<EmbeddedBackEnd>> EmbeddedBackEnd::open(const QString& st
             return store.error();
         store = std::move(read);
     }
-    return std::make_unique<EmbeddedBackEnd>(std::move(store.value()));
+    Result<StoreConnections> connections = withReader(std::move(store));
+    if (!connections)
+        return connections.error();
+    return std::make_unique<EmbeddedBackEnd>(std::move(connections.value()));
 }
 
-EmbeddedBackEnd::EmbeddedBackEnd(std::unique_ptr<Database> store)
-    : database(std::move(store)),
-      disk(*database),
-      reader(*database),
-      writer(*database),
-      days(*database),
+EmbeddedBackEnd::EmbeddedBackEnd(StoreConnections opened)
+    : connections(std::move(opened)),
+      onlyRead(connections.writing->isReadOnly()),
+      disk(*connections.writing),
+      arrivals(*connections.reading),
+      snapshot(*connections.reading, arrivals),
+      seen(snapshot.position()),
+      reader(*connections.reading),
+      days(*connections.reading),
       headlineCache(reader),
-      laterNews(*database),
-      quotes(*database),
+      laterNews(*connections.reading),
+      quotes(*connections.reading),
       toldRevision(quotes.lastRevision()),
       quoteDesk([this](const CSymbolInfo& symbol) { return quotes.find(symbol); }),
-      arrivals(*database),
       delivery(arrivals, [this](const Arrival& arrival) { tell(arrival); }),
       announcements([this] { return !delivery.isDone(); },
                     [this](const AnnouncedTables& tables) { announce(tables); }),
       searches(
-          database->path(),
+          connections.reading->path(),
           [this](const CSearch& condition, unsigned char service) {
               forEachReceiver(
                   [&](NewsReceiver& receiver) { receiver.RespSearchHeadLineTable(condition, service); });
           },
-          [this](const std::function<void()>& answer) { answers.give(Held::Search, answer); }) {}
+          [this](const std::function<void()>& answer) {
+              // It may hold news that came after the present moment of the look-ups.
+              moveOn();
+              answers.give(Held::Search, answer);
+              tellNews();
+          }),
+      intake(*connections.writing, disk, [this](const WorkReport& report) { note(report); }) {}
 
-void EmbeddedBackEnd::catchUp() {
-    if (!reader.changedElsewhere())
+void EmbeddedBackEnd::moveOn() {
+    // So much is read again sooner than followed, and the log may not reach back.
+    constexpr std::int64_t mostFollowed = 50'000;
+    snapshot.moveOn();
+    const bool isFar = snapshot.position() - seen > mostFollowed;
+    const std::vector<Arrival> fresh = arrivals.after(seen);
+    delivery.add(fresh);
+    if (isFar) {
+        forgetNews();
         return;
+    }
+    for (const Arrival& arrival : fresh) {
+        headlineCache.forget(arrival.key);
+        if (arrival.isGone)
+            days.remove(arrival.key);
+        else if (!arrival.onlyStory)
+            days.add(arrival.key);
+    }
+}
+
+void EmbeddedBackEnd::forgetNews() {
     days.clear();
     headlineCache.clear();
-    symbolsRead = false;
+}
+
+void EmbeddedBackEnd::note(const WorkReport& report) {
+    moveOn();
+    // Another program may have done more than put news in.
+    if (report.byOthers) {
+        forgetNews();
+        symbolsRead = false;
+    }
+    symbolsToTell.insert(symbolsToTell.end(), report.symbols.begin(), report.symbols.end());
+    if (report.damage)
+        damageOfWork = report.damage;
+}
+
+void EmbeddedBackEnd::tellNews() {
+    delivery.run();
+    tellOf(std::exchange(symbolsToTell, {}));
+    tellQuotes();
 }
 
 // --- Taking in ---
 
+void EmbeddedBackEnd::ask(StoreIntake::Work work, const std::function<void()>& then) {
+    intake.ask(std::move(work), [this, then] {
+        tellNews();
+        if (then)
+            then();
+    });
+}
+
+void EmbeddedBackEnd::run(const StoreIntake::Work& work) {
+    ask(work, {});
+    intake.finish();
+}
+
 Result<TakeOutcome> EmbeddedBackEnd::takeIn(const StoreItem& item) {
-    if (Done begun = begin(); !begun)
-        return begun.error();
-    Result<TakeOutcome> outcome = take(item);
-    if (!outcome)
-        return outcome;
-    if (Done kept = commit(); !kept)
-        return kept.error();
-    return outcome;
-}
-
-Done EmbeddedBackEnd::begin() {
-    changes = {};
-    Done begun = writer.begin();
-    // From here on nobody else can write.
-    if (begun)
-        catchUp();
-    return begun;
-}
-
-Result<TakeOutcome> EmbeddedBackEnd::take(const StoreItem& item) {
-    const auto* news = std::get_if<NewsItem>(&item);
-    if (news == nullptr) {
-        Result<TakeOutcome> outcome = writer.take(item);
-        const auto* symbol = std::get_if<SymbolItem>(&item);
-        if (symbol != nullptr && outcome && outcome.value().take == Take::TakenIn)
-            changes.symbols.push_back(*symbol);
-        return outcome;
-    }
-    const Result<StoredNews> stored = writer.takeNews(*news);
-    if (!stored)
-        return stored.error();
-    if (stored.value().outcome.take == Take::TakenIn)
-        changes.news.emplace_back(stored.value().before, stored.value().key);
-    return stored.value().outcome;
-}
-
-Done EmbeddedBackEnd::commit() {
-    if (Done kept = writer.commit(); !kept)
-        return kept;
-    const Changes done = std::exchange(changes, {});
-    for (const auto& [before, key] : done.news) {
-        if (before) {
-            days.remove(*before);
-            headlineCache.forget(*before);
-        }
-        days.add(key);
-        headlineCache.forget(key);
-    }
-    delivery.run();
-    tellOf(done.symbols);
-    tellQuotes();
-    return Nothing{};
-}
-
-void EmbeddedBackEnd::rollback() {
-    writer.rollback();
-    changes = {};
+    return takeOne([&item](StoreWriter& writer) { return writer.take(item); });
 }
 
 Result<TakeOutcome> EmbeddedBackEnd::takeStory(const HeadlineKey& key, const QString& story) {
-    if (Done begun = begin(); !begun)
-        return begun.error();
-    Result<TakeOutcome> outcome = writer.takeStory(key, story);
-    if (!outcome)
-        return outcome;
-    if (Done kept = commit(); !kept)
-        return kept.error();
+    return takeOne([&key, &story](StoreWriter& writer) { return writer.takeStory(key, story); });
+}
+
+Result<TakeOutcome> EmbeddedBackEnd::takeOne(const std::function<Result<TakeOutcome>(StoreWriter&)>& take) {
+    Result<TakeOutcome> outcome = TakeOutcome();
+    run([&](StoreWriter& writer) {
+        Done done = writer.begin();
+        if (done)
+            outcome = take(writer);
+        if (done && outcome)
+            done = writer.commit();
+        if (!done)
+            outcome = done.error();
+    });
     return outcome;
 }
 
@@ -152,18 +162,25 @@ void EmbeddedBackEnd::tellOf(const std::vector<SymbolItem>& symbols) {
 }
 
 std::optional<Error> EmbeddedBackEnd::storeTrouble() const {
-    if (database->isReadOnly())
-        return onlyReadError(database->path());
-    return database->wasTakenAway() ? std::optional(takenAwayError(database->path())) : std::nullopt;
+    if (onlyRead)
+        return onlyReadError(storePath());
+    return connections.reading->wasTakenAway() ? std::optional(takenAwayError(storePath())) : std::nullopt;
+}
+
+std::optional<Error> EmbeddedBackEnd::storeDamage() const {
+    const std::optional<Error>& ofReading = connections.reading->damage();
+    return ofReading ? ofReading : damageOfWork;
 }
 
 // --- Telling ---
 
 void EmbeddedBackEnd::checkForNews() {
-    catchUp();
-    delivery.run();
+    moveOn();
+    // Whether it was another program only the store's own thread can tell.
+    if (reader.changedElsewhere())
+        intake.ask({});
+    tellNews();
     tellDue();
-    tellQuotes();
 }
 
 void EmbeddedBackEnd::tellDue() {
@@ -196,7 +213,7 @@ void EmbeddedBackEnd::setConnected(bool on) {
         announcements.close();
         return;
     }
-    catchUp();
+    moveOn();
     lastMissed = delivery.open();
     announcements.open();
     tellQuotes();
@@ -323,7 +340,7 @@ std::vector<unsigned char> EmbeddedBackEnd::registeredServices(NewsReceiver* rec
 
 SymbolTable& EmbeddedBackEnd::symbols() {
     if (!symbolsRead)
-        symbolsRead = static_cast<bool>(symbolTable.load(*database));
+        symbolsRead = static_cast<bool>(symbolTable.load(*connections.reading));
     return symbolTable;
 }
 

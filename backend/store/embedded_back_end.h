@@ -16,8 +16,10 @@
 #include "backend/store/quote_book.h"
 #include "backend/store/quote_desk.h"
 #include "backend/store/request_log.h"
+#include "backend/store/store_file.h"
+#include "backend/store/store_intake.h"
 #include "backend/store/store_reader.h"
-#include "backend/store/store_writer.h"
+#include "backend/store/store_snapshot.h"
 #include "backend/store/symbol_table.h"
 #include "backend/store/table_announcements.h"
 #include "backend/words/simplified_chinese.h"
@@ -40,7 +42,8 @@
 
 namespace wirepane {
 
-// The back end over one news store. Every operation runs on the interface thread.
+// The back end over one news store. Every operation runs on the interface thread; what writes is done on the
+// store's own (see StoreIntake), and nobody waits for it but who asks to.
 //
 // Tables come newest first. Those of a category and of a symbol reach back BKQbyGetNewsDateRange() days from
 // the present day (host_clock); a symbol without a code has none. News that is dated ahead is in them, and is
@@ -51,11 +54,14 @@ namespace wirepane {
 // to come is announced when it has come. Searches look through all stories of a service, whether the
 // source is connected or not, on a thread of their own (see NewsSearch and SearchDispatcher).
 //
-// As a sink it tells every receiver what came in, in the order of coming, once it is committed: news of the
+// Every receiver is told what came in, in the order of coming, once it is committed: news of the
 // news day that its service is in as a new headline, whether it is new or replaced, a key that replaced news
 // no longer has as gone (GoneHeadlineReceiver), a story that was missing as a story that can be had, a symbol
-// as a change of the catalogue. Nothing is told of what was there already. Of a large batch the first 500 are
-// told before commit() returns, the rest from the event loop.
+// as a change of the catalogue. Nothing is told of what was there already. A large batch is told in portions
+// of 500, with the event loop running between them.
+//
+// Look-ups see the store as of one moment, which moves on just before the telling begins of what has come
+// since: tables may hold news that is still to be told, and their position (NewsPositions) tells of which.
 //
 // News of any other day is not pushed, since a pushed headline is one of the day that views are in. The
 // tables that hold it are told as tables that were sent again, from the event loop: by its date, its category
@@ -69,17 +75,20 @@ namespace wirepane {
 // event loop, then every change. With a story that is asked for again, or comes late, the related symbols of
 // its headline are sent.
 //
-// Other programs may write to the store meanwhile: look-ups see it, and checkForNews() tells the receivers.
-class EmbeddedBackEnd : public BKQuoteInterface, public NewsPositions, public ReadingMoment, public FeedSink {
+// Other programs may write to the store meanwhile: checkForNews() tells the receivers of it.
+class EmbeddedBackEnd : public BKQuoteInterface, public NewsPositions, public ReadingMoment {
 public:
     // Opens the store, or makes it (see openStore). One that cannot be written to is read: it takes nothing
     // in.
     static Result<std::unique_ptr<EmbeddedBackEnd>> open(const QString& storePath,
                                                          const IndexProgress& onIndexing = {});
-    explicit EmbeddedBackEnd(std::unique_ptr<Database> store);
+    explicit EmbeddedBackEnd(StoreConnections connections);
 
-    // How long begin() waits for another program that is writing. At first: five seconds.
-    void setPatience(std::chrono::milliseconds patience) { database->setBusyTimeout(patience); }
+    // Does the work on the store's thread, behind what was asked before, and tells the receivers what it has
+    // committed; then calls back, from the event loop.
+    void ask(StoreIntake::Work work, const std::function<void()>& then);
+    // The same, waiting for it: when this returns, the first 500 have been told.
+    void run(const StoreIntake::Work& work);
 
     // Stores one item now, in a transaction of its own. An error leaves the store as it was.
     Result<TakeOutcome> takeIn(const StoreItem& item);
@@ -87,24 +96,17 @@ public:
     // it can be had. Rejected: there is no such headline.
     Result<TakeOutcome> takeStory(const HeadlineKey& key, const QString& story);
 
-    Done begin() override;
-    Result<TakeOutcome> take(const StoreItem& item) override;
-    Done commit() override;
-    void rollback() override;
-    // commit() does not wait for the disk: what it keeps survives the death of the program, but not yet that
-    // of the machine. Calls back from the event loop when all that is committed now is on the disk.
+    // Work does not wait for the disk: what it commits survives the death of the program, but not yet that of
+    // the machine. Calls back from the event loop when all that is committed now is on the disk.
     void whenOnDisk(StoreSync::Callback callback) { disk.whenOnDisk(std::move(callback)); }
-    // Waits for that, and calls back whoever waits.
-    void waitForDisk() { disk.finish(); }
-    Done keepPosition(const QString& source, const QString& position) override {
-        return writer.keepPosition(source, position);
-    }
-    Result<QString> positionOf(const QString& source) override { return writer.positionOf(source); }
 
-    // Tells the receivers what other programs have written to the store since the last call.
+    // Look-ups see what other programs have written to the store since the last call, and the receivers are
+    // told of it, while connected.
     void checkForNews();
     // True when every receiver has been told of everything that is in the store.
     bool isDelivered() const { return delivery.isDone() && announcements.isDone(); }
+    // So much waits to be told that more had better come later.
+    bool isBehind() const { return delivery.isBehind(); }
 
     // Tells the receivers of the change. While not connected, they are told no news. What came meanwhile is
     // told when the connection is back, oldest first. At first: connected.
@@ -151,14 +153,14 @@ public:
 
     void setConvertsToSimplified(bool on) { simplified = on; }  // at first: false
     void setSysPath(const QString& path) { sysPath = path; }    // at first: the contract's default
-    const QString& storePath() const { return database->path(); }
+    const QString& storePath() const { return connections.reading->path(); }
     // What keeps the store from taking news in for as long as it lasts, found out without trying: a sentence;
     // empty when nothing does.
     std::optional<Error> storeTrouble() const;
     // Whether the store can only be read, for as long as it is open.
-    bool isReadOnly() const { return database->isReadOnly(); }
-    // The sentence about the first damage that a look-up or a change met; empty: none did.
-    const std::optional<Error>& storeDamage() const { return database->damage(); }
+    bool isReadOnly() const { return onlyRead; }
+    // The first damage that a look-up or a change met; nothing: none did.
+    std::optional<Error> storeDamage() const;
 
     void registerSymbols(NewsReceiver* view, const std::vector<CSymbolInfo>& added,
                          const std::vector<CSymbolInfo>& removed) override;
@@ -197,15 +199,10 @@ public:
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
     QString PathGetSysPath() override;
     bool isReadAsOf() const override { return laterNews.held() == LaterNews::Held::All; }
-    std::int64_t readPosition() override { return arrivals.last().value_or(0); }
+    std::int64_t readPosition() override { return snapshot.position(); }
     std::int64_t positionTold() const override { return toldPosition; }
 
 private:
-    // What the running transaction has changed.
-    struct Changes {
-        std::vector<std::pair<std::optional<HeadlineKey>, HeadlineKey>> news;  // where it stood and stands
-        std::vector<SymbolItem> symbols;
-    };
     struct EntryOrder {
         bool operator()(const CHeadlineTable& a, const CHeadlineTable& b) const {
             return std::tie(a.service, a.time, a.sequence) < std::tie(b.service, b.time, b.sequence);
@@ -215,8 +212,15 @@ private:
 
     // The days that a table without a date reaches over.
     DayBounds newsRange();
-    // Forgets what is in memory when another program has written to the store.
-    void catchUp();
+    // Look-ups see what is in the store now; what is in memory of it follows.
+    void moveOn();
+    // Forgets what is in memory of it.
+    void forgetNews();
+    Result<TakeOutcome> takeOne(const std::function<Result<TakeOutcome>(StoreWriter&)>& take);
+    // Work has been done.
+    void note(const WorkReport& report);
+    // Tells the receivers what look-ups see.
+    void tellNews();
     void tell(const Arrival& arrival);
     void tellHeadline(const HeadlineKey& key, std::int64_t position);
     // The headlines whose moment has come.
@@ -236,10 +240,13 @@ private:
     int tableOf(unsigned char service, std::vector<CHeadlineTable>& table, int kind, const QString& key);
     int tableOf(unsigned char service, std::vector<CHeadlineTable>& table, const CSymbolInfo& symbol);
 
-    std::unique_ptr<Database> database;
+    StoreConnections connections;
+    bool onlyRead;
     StoreSync disk;
+    ArrivalLog arrivals;
+    StoreSnapshot snapshot;
+    std::int64_t seen;  // of the arrivals: the last that what is in memory follows
     StoreReader reader;
-    StoreWriter writer;
     DayIndex days;
     HeadlineCache headlineCache;
     LaterNews laterNews;
@@ -248,7 +255,6 @@ private:
     std::int64_t toldRevision;  // of the quotes
     bool tellingQuotes = false;
     QuoteDesk quoteDesk;
-    ArrivalLog arrivals;
     AnswerDesk answers;
     Entries awaited;                       // headlines that were looked up while they were held
     Entries announced;                     // stories whose announcement is on its way
@@ -256,7 +262,8 @@ private:
     NewsDays newsDays;
     LocalDays localDays;
     std::int64_t toldPosition = 0;
-    Changes changes;
+    std::vector<SymbolItem> symbolsToTell;
+    std::optional<Error> damageOfWork;
     int lastMissed = 0;
     RequestLog requests;
     SimplifiedChinese chinese;
@@ -269,6 +276,7 @@ private:
     NewsDelivery delivery;
     TableAnnouncements announcements;
     SearchDispatcher searches;
+    StoreIntake intake;  // last: its reports reach all of the above
 };
 
 }  // namespace wirepane

@@ -31,7 +31,6 @@ int EmbeddedBackEnd::tableOf(unsigned char service, std::vector<CHeadlineTable>&
     bool isNumber = false;
     const int category = key.toInt(&isNumber);
     if (kind == static_cast<int>(TableKind::ByDate)) {
-        catchUp();
         days.append(table, service, dayOfText(key));
     } else if (kind == static_cast<int>(TableKind::Search) ||
                kind == static_cast<int>(TableKind::SecondSearch)) {
@@ -66,7 +65,6 @@ int EmbeddedBackEnd::BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHe
         awaited.insert(entries.begin(), entries.end());
         return 0;
     }
-    catchUp();
     int count = 0;
     for (const CHeadlineTable& entry : entries) {
         const CHeadline* const headline =

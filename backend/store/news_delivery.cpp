@@ -25,21 +25,20 @@ int NewsDelivery::open() {
     waiting.insert(waiting.end(), missed.begin(), missed.end());
     const auto isHeadline = [](const Arrival& arrival) { return !arrival.onlyStory && !arrival.isGone; };
     const auto headlines = std::count_if(missed.begin(), missed.end(), isHeadline);
-    handOn();
+    run();
     return static_cast<int>(headlines);
 }
 
-void NewsDelivery::run() {
-    if (!isOpen)
+void NewsDelivery::add(const std::vector<Arrival>& fresh) {
+    if (!isOpen || fresh.empty())
         return;
-    const std::vector<Arrival> fresh = arrivals.after(position);
     waiting.insert(waiting.end(), fresh.begin(), fresh.end());
-    handOn();
+    position = fresh.back().position;
 }
 
-void NewsDelivery::handOn() {
+void NewsDelivery::run() {
     // A receiver that takes news in itself only adds to what waits.
-    if (isBusy || isPosted)
+    if (!isOpen || isBusy || isPosted)
         return;
     isBusy = true;
     for (int left = batch; left > 0 && isOpen && !waiting.empty(); --left) {
@@ -55,7 +54,7 @@ void NewsDelivery::handOn() {
         this,
         [this] {
             isPosted = false;
-            handOn();
+            run();
         },
         Qt::QueuedConnection);
 }

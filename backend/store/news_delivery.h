@@ -25,12 +25,16 @@ public:
     void close() { isOpen = false; }
     // Hands on what came while it was closed, oldest first. Result: how many headlines.
     int open();
-    // Hands on what has come, in the order of coming.
+    // What has come into the log since the last call, in the order of coming.
+    void add(const std::vector<Arrival>& arrivals);
+    // Hands on what has come.
     void run();
     bool isDone() const { return waiting.empty(); }
+    // So much waits that more would only wait, too.
+    bool isBehind() const { return waiting.size() >= mostWaiting; }
 
 private:
-    void handOn();
+    static constexpr std::size_t mostWaiting = 2000;
 
     ArrivalLog& arrivals;
     std::function<void(const Arrival&)> tell;

@@ -167,4 +167,15 @@ Result<std::unique_ptr<Database>> openStoreToRead(const QString& path, const Sto
     return opened;
 }
 
+Result<StoreConnections> withReader(Result<std::unique_ptr<Database>> store) {
+    if (!store)
+        return store.error();
+    Result<std::unique_ptr<Database>> reader =
+        Database::openToRead(store.value()->path(), StoreOptions().busyTimeout);
+    if (!reader)
+        return reader.error();
+    reader.value()->execute("PRAGMA temp_store = MEMORY");
+    return StoreConnections{std::move(store.value()), std::move(reader.value())};
+}
+
 }  // namespace wirepane

@@ -28,6 +28,15 @@ Result<std::unique_ptr<Database>> openStore(const QString& path, const StoreOpti
 // present version. An absent or empty file is an error, and stays as it is.
 Result<std::unique_ptr<Database>> openStoreToRead(const QString& path, const StoreOptions& options = {});
 
+// A store that is written to on one thread and read on another.
+struct StoreConnections {
+    std::unique_ptr<Database> writing;
+    std::unique_ptr<Database> reading;
+};
+
+// Opens a second connection beside that of a store that could be opened; an error of either.
+Result<StoreConnections> withReader(Result<std::unique_ptr<Database>> store);
+
 // Why this open database cannot be read as a news store: it is none, still empty, or of another version.
 // Nothing when it can. Reads only.
 std::optional<Error> readingFault(Database& database);

@@ -69,6 +69,7 @@ Done StoreWriter::commit() {
     if (!numbers.save() || !arrivals.trim() || !database.commit())
         return fail();
     begun = false;
+    keptSymbols = changedSymbols.size();
     return Nothing{};
 }
 
@@ -77,6 +78,12 @@ void StoreWriter::rollback() {
     if (begun && database.inTransaction())
         database.execute("ROLLBACK");
     begun = false;
+    changedSymbols.resize(keptSymbols);
+}
+
+std::vector<SymbolItem> StoreWriter::takeChangedSymbols() {
+    keptSymbols = 0;
+    return std::exchange(changedSymbols, {});
 }
 
 Error StoreWriter::fail() {
@@ -253,6 +260,7 @@ Result<TakeOutcome> StoreWriter::takeSymbol(const SymbolItem& item) {
     }
     if (!Query(writeSymbol, item.market, item.code, item.name, item.category).run())
         return fail();
+    changedSymbols.push_back(item);
     return TakeOutcome{};
 }
 

@@ -15,6 +15,8 @@
 #include <QSet>
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace wirepane {
 
@@ -48,13 +50,17 @@ public:
     Done commit() override;
     void rollback() override;
     Done keepPosition(const QString& source, const QString& position) override;
-    Result<QString> positionOf(const QString& source) override;
+
+    // How far a source has been taken. Empty for one that was never heard of.
+    Result<QString> positionOf(const QString& source);
 
     // As take(), and tells where the news stands now.
     Result<StoredNews> takeNews(const NewsItem& item);
     // Puts the story of the headline with this key, whether it had one or not. Rejected: there is no such
     // headline, or the text is too long.
     Result<TakeOutcome> takeStory(const HeadlineKey& key, const QString& story);
+    // The symbols that the transactions since the last call have changed.
+    std::vector<SymbolItem> takeChangedSymbols();
 
 private:
     Result<TakeOutcome> takeSymbol(const SymbolItem& item);
@@ -84,7 +90,9 @@ private:
     Statement findSymbol;
     Statement writeSymbol;
     LocalDays days;
-    QSet<unsigned char> services;  // known to be there
+    QSet<unsigned char> services;            // known to be there
+    std::vector<SymbolItem> changedSymbols;  // the last of them by the running transaction
+    std::size_t keptSymbols = 0;             // of them, by those before
     bool begun = false;
 };
 

@@ -70,21 +70,18 @@ void takeBurstIn(benchmark::State& state) {
     std::vector<double> single;
     for (auto unused : state) {
         QTemporaryDir folder;
-        EmbeddedBackEnd backEnd(opened(folder.filePath(u"burst.db"_s)));
+        EmbeddedBackEnd backEnd(connectionsTo(folder.filePath(u"burst.db"_s)));
         Counter view;
         backEnd.attach(&view);
         batched.push_back(secondsOf([&] {
-            bool good = static_cast<bool>(backEnd.begin());
-            for (const NewsItem& item : items)
-                good = backEnd.take(item) && good;
-            good = backEnd.commit() && good;
-            while (good && !backEnd.isDelivered())
+            backEnd.run([&items](StoreWriter& writer) { takeAllIn(writer, items); });
+            while (!backEnd.isDelivered())
                 QCoreApplication::processEvents();
-            if (!good || view.headlines != items.size())
+            if (view.headlines != items.size())
                 throw std::runtime_error("the burst was not told whole");
         }));
         state.SetIterationTime(batched.back());
-        EmbeddedBackEnd other(opened(folder.filePath(u"single.db"_s)));
+        EmbeddedBackEnd other(connectionsTo(folder.filePath(u"single.db"_s)));
         other.attach(&view);
         single.push_back(secondsOf([&] {
             for (std::size_t i = 0; i < singles; ++i)
@@ -110,7 +107,7 @@ std::vector<CHeadlineTable> readTables(EmbeddedBackEnd& backEnd) {
 void lookUpVisibleRows(benchmark::State& state) {
     static double smallest = 0;
     constexpr std::size_t visible = 40;
-    EmbeddedBackEnd backEnd(opened(BigStore::of(static_cast<int>(state.range(0))).path()));
+    EmbeddedBackEnd backEnd(connectionsTo(BigStore::of(static_cast<int>(state.range(0))).path()));
     const std::vector<CHeadlineTable> table = readTables(backEnd);
     const auto store = opened(BigStore::of(static_cast<int>(state.range(0))).path());
     StoreReader reader(*store);

@@ -32,4 +32,8 @@ inline std::unique_ptr<Database> opened(const QString& path) {
     return std::move(store.value());
 }
 
+inline StoreConnections connectionsTo(const QString& path) {
+    return std::move(withReader(opened(path)).value());
+}
+
 }  // namespace wirepane::bench

@@ -42,7 +42,7 @@ std::int64_t readIndex(Database& store) {
 
 // A list with its grid on screen, over a back end that was just opened.
 struct OpenedDay {
-    explicit OpenedDay(const QString& path) : backEnd(opened(path)) {
+    explicit OpenedDay(const QString& path) : backEnd(connectionsTo(path)) {
         window.resize(800, 700);
         lists[ListIndex::All].setGrid(createHeadlineSheet(&window, window.rect(), NewsType::Full, backEnd));
         window.show();

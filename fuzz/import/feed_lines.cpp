@@ -52,7 +52,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const qint64 greetings = source.awaitsPosition() ? 1 : 0;
     source.onReceipt([&](const LineSource::Receipt& receipt) { taken = receipt.lines; });
     while (source.hasBatch()) {
-        source.read([](SourceItem&&) { return true; });
+        source.batch()->read([](SourceItem&&) { return true; });
         source.acknowledge({});
     }
     promise(greetings + taken == lines.size() && !source.isFull(), "every line is accounted for");

@@ -154,7 +154,7 @@ int runExport() {
         return *status;
     if (!QFileInfo::exists(arguments.storeFile()))
         return unusable(u"There is no store %1."_s.arg(QDir::toNativeSeparators(arguments.storeFile())));
-    auto store = openStoreToRead(arguments.storeFile(), {.onIndexing = indexingLines()});
+    auto store = withReader(openStoreToRead(arguments.storeFile(), {.onIndexing = indexingLines()}));
     if (!store)
         return unusable(sentence(store.error()));
     const auto backEnd = std::make_unique<EmbeddedBackEnd>(std::move(store.value()));

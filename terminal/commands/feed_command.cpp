@@ -43,7 +43,7 @@ class StoreFeed : public QObject, private SourceTaker {
 public:
     StoreFeed(Database& database, StandardChannel& input, unsigned char service,
               FeedConnection::Answers answers)
-        : store(database), writer(database), lines(&input, service, std::chrono::hours(1), answers) {
+        : store(database), writer(database), lines(&input, service, answers) {
         lines.setTaker(this);
         pumping.setSingleShot(true);
         connect(&pumping, &QTimer::timeout, this, &StoreFeed::pump);
@@ -54,7 +54,8 @@ public:
 
 private:
     void sourceReady(FeedSource& source) override {
-        resumeSource(source, writer);
+        if (source.awaitsPosition())
+            source.resume(source.name().isEmpty() ? QString() : writer.positionOf(source.name()));
         pumpSoon();
     }
     void pumpSoon() {
@@ -71,7 +72,7 @@ private:
     }
     // False: the store cannot be written, and it is over.
     bool takeNext() {
-        const Result<BatchOutcome> taken = takeBatch(lines, writer);
+        const Result<BatchOutcome> taken = takeBatch(*lines.batch(), lines.name(), writer);
         if (taken) {
             totals += taken.value().totals;
             for (const Rejection& rejection : taken.value().rejections)

@@ -101,10 +101,13 @@ protected:
         int offlineFor = 0;
         for (int i = 0; i < batches && !HasFatalFailure(); ++i) {
             moveClock(double(i) / batches);
-            ASSERT_TRUE(backEnd.begin());
-            for (const StoreItem& item : wire.next(batch, double(i) / batches))
-                ASSERT_TRUE(backEnd.take(item));
-            ASSERT_TRUE(backEnd.commit());
+            const std::vector<StoreItem> items = wire.next(batch, double(i) / batches);
+            backEnd.run([&items](StoreWriter& store) {
+                ASSERT_TRUE(store.begin());
+                for (const StoreItem& item : items)
+                    ASSERT_TRUE(store.take(item));
+                ASSERT_TRUE(store.commit());
+            });
             if (offlineFor == 0 && wire.below(batches) < 3) {
                 offlineFor = 1 + wire.below(batches / 20 + 2);
                 backEnd.setConnected(false);
@@ -131,6 +134,7 @@ protected:
         ASSERT_TRUE(writer.begin());
         ASSERT_TRUE(writer.take(SymbolItem{16, u"9999"_s, day.toString(), 1}));
         ASSERT_TRUE(writer.commit());
+        session->embeddedBackEnd().run({});
     }
 
     void expectKeys(int view, int list, const Keys& truth) {

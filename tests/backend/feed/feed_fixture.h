@@ -67,7 +67,6 @@ public:
     Done keepPosition(const QString& source, const QString& position) override {
         return failsAt == Keep ? Done(makeError<refusal>()) : real.keepPosition(source, position);
     }
-    Result<QString> positionOf(const QString& source) override { return real.positionOf(source); }
 
 private:
     FeedSink& real;

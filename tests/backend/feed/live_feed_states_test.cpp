@@ -8,6 +8,7 @@
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "tests/backend/store/listener.h"
+#include "tests/backend/store/take_all.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -55,9 +56,15 @@ protected:
                (state.late > 0 ? u" %1 late"_s.arg(state.late) : QString());
     }
     std::unique_ptr<EmbeddedBackEnd> open() {
-        std::unique_ptr<Database> opened = std::move(openStore(store).value());
-        database = opened.get();
+        StoreConnections opened = connectionsTo(store);
+        database = opened.writing.get();
         return std::make_unique<EmbeddedBackEnd>(std::move(opened));
+    }
+    // On the connection that writes.
+    void limitPages(std::int64_t pages) {
+        backEnd->run([&](StoreWriter&) {
+            ASSERT_TRUE(database->execute(("PRAGMA max_page_count = " + std::to_string(pages)).c_str()));
+        });
     }
     // The store and what stands beside it.
     void moveStore(const QString& from, const QString& to) {
@@ -86,7 +93,7 @@ protected:
     }
 
     QString store = folder.filePath(u"news.db"_s);
-    Database* database = nullptr;  // the back end's own
+    Database* database = nullptr;  // the back end's own, which writes
     std::unique_ptr<EmbeddedBackEnd> backEnd = open();
     Listener listener;
     std::unique_ptr<LiveFeed> feed;
@@ -168,8 +175,8 @@ TEST_F(LiveFeedStatesTest, AFullDiskStopsTheFeedUntilThereIsRoomAgain) {
     put(u"a"_s, u"Before"_s, u"2026-03-02T11:00:00"_s);
     EXPECT_TRUE(hears(u"Before"_s));
     std::int64_t pages = 0;
-    ASSERT_TRUE(database->readNumber("PRAGMA page_count", pages));
-    ASSERT_TRUE(database->execute(("PRAGMA max_page_count = " + std::to_string(pages)).c_str()));
+    ASSERT_TRUE(openStore(store).value()->readNumber("PRAGMA page_count", pages));
+    limitPages(pages);
     for (int i = 0; i < 20; ++i)
         put(u"b%1"_s.arg(i), u"Waits for room "_s + QString(8000, u'x'), u"2026-03-02T11:30:00"_s);
     EXPECT_TRUE(becomes(FeedState::Reconnecting));
@@ -182,7 +189,7 @@ TEST_F(LiveFeedStatesTest, AFullDiskStopsTheFeedUntilThereIsRoomAgain) {
     EXPECT_EQ(newsOfTheDay(), 21 - waiting);
     EXPECT_EQ(StoreChecker(store).check().value(), QStringList{});
 
-    ASSERT_TRUE(database->execute("PRAGMA max_page_count = 1000000"));
+    limitPages(1'000'000);
     EXPECT_TRUE(becomes(FeedState::Live));
     EXPECT_TRUE(QTest::qWaitFor([&] { return newsOfTheDay() == 21 && feed->isIdle(); }, 10000));
     EXPECT_EQ(listener.heard.filter(u"headline"_s).size(), 21);
@@ -222,7 +229,7 @@ TEST_F(LiveFeedStatesTest, AStoreThatCanOnlyBeReadIsSaidToBeSoOnce) {
     backEnd->detach(&listener);
     feed.reset();
     backEnd = std::make_unique<EmbeddedBackEnd>(
-        std::move(Database::openToRead(store, std::chrono::seconds(1)).value()));
+        std::move(withReader(Database::openToRead(store, std::chrono::seconds(1))).value()));
     feed = std::make_unique<LiveFeed>(*backEnd);
     QStringList sentences;
     QObject::connect(feed.get(), &LiveFeed::trouble, feed.get(),

@@ -36,7 +36,7 @@ protected:
     int takeAll() {
         int batches = 0;
         while (spool->hasBatch() && batches < 1000) {
-            const Result<BatchOutcome> taken = takeBatch(*spool, *writer);
+            const Result<BatchOutcome> taken = takeBatch(*spool->batch(), spool->name(), *writer);
             EXPECT_TRUE(taken);
             if (!taken)
                 break;
@@ -184,7 +184,7 @@ TEST_F(SpoolTest, AStoreThatFailsLeavesTheFileInTheSpool) {
     for (const auto moment : {FailingSink::Begin, FailingSink::TakeSecond, FailingSink::Commit}) {
         sink.failsAt = moment;
         ASSERT_TRUE(spool->hasBatch());
-        EXPECT_FALSE(takeBatch(*spool, sink));
+        EXPECT_FALSE(takeBatch(*spool->batch(), spool->name(), sink));
         EXPECT_EQ(filesIn({}), QStringList{u"a.jsonl"_s});
         EXPECT_EQ(titles(), QStringList{});
     }

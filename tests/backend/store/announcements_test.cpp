@@ -6,6 +6,7 @@
 #include "host/contract/clock.h"
 #include "tests/backend/store/listener.h"
 #include "tests/backend/store/store_fixture.h"
+#include "tests/backend/store/take_all.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -20,7 +21,7 @@ constexpr std::int64_t daySeconds = 86400;
 
 class AnnouncementsTest : public StoreFixture {
 public:
-    AnnouncementsTest() : backEnd(std::move(openStore(store->path()).value())) {
+    AnnouncementsTest() : backEnd(connectionsTo(store->path())) {
         host_clock::startAt(at(23, 0));
         backEnd.forgetNewsDays();
         backEnd.attach(&listener);
@@ -38,12 +39,7 @@ protected:
         item.related = symbols;
         return item;
     }
-    void takeAll(const std::vector<NewsItem>& items) {
-        ASSERT_TRUE(backEnd.begin());
-        for (const NewsItem& item : items)
-            ASSERT_TRUE(backEnd.take(item));
-        ASSERT_TRUE(backEnd.commit());
-    }
+    void takeAll(const std::vector<NewsItem>& items) { ASSERT_TRUE(wirepane::takeAll(backEnd, items)); }
 
     EmbeddedBackEnd backEnd;
     Listener listener;
@@ -210,6 +206,7 @@ TEST_F(AnnouncementsTest, APositionTellsWhetherAReadHeldWhatIsTold) {
     NewsItem again = item;
     ++again.version;
     takeNews(again);
+    backEnd.checkForNews();
     const std::int64_t during = backEnd.readPosition();
     backEnd.setConnected(true);
     ASSERT_EQ(positions.told.size(), 3u);

@@ -6,6 +6,7 @@
 #include "host/contract/clock.h"
 #include "tests/backend/store/listener.h"
 #include "tests/backend/store/store_fixture.h"
+#include "tests/backend/store/take_all.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -18,7 +19,7 @@ namespace {
 
 class EmbeddedBackEndTest : public StoreFixture {
 public:
-    EmbeddedBackEndTest() : backEnd(std::move(openStore(store->path()).value())) {
+    EmbeddedBackEndTest() : backEnd(connectionsTo(store->path())) {
         host_clock::startAt(at(12, 0));
         backEnd.attach(&listener);
     }
@@ -99,10 +100,12 @@ TEST_F(EmbeddedBackEndTest, HeadlinesComeInTheOrderAskedForAndOnlyOfTheService) 
                                             {at(9, 0), 1, 1, 0, 0},
                                             {at(9, 1), 2, 1, 0, 0}};
     EXPECT_EQ(titles(1, asked), (QStringList{u"B"_s, u"A"_s, u"B"_s}));
-    // What another program writes shows at once, also in what was looked up before.
+    // What another program writes shows as soon as it is told, also in what was looked up before.
     NewsItem again = newsItem(1, u"b"_s, at(9, 1), u"B, corrected"_s);
     again.version = 1;
     takeNews(again);
+    EXPECT_EQ(titles(1, asked), (QStringList{u"B"_s, u"A"_s, u"B"_s}));
+    backEnd.checkForNews();
     EXPECT_EQ(titles(1, asked), (QStringList{u"B, corrected"_s, u"A"_s, u"B, corrected"_s}));
 }
 

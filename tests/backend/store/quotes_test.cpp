@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/embedded_back_end.h"
 #include "tests/backend/store/store_fixture.h"
+#include "tests/backend/store/take_all.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -118,10 +119,8 @@ TEST_F(QuotesTest, AReceiverThatTakesQuotesInHearsThemInTheirOrder) {
         listener.onNew = nullptr;
         put(second, 9, 0, 9);
     };
-    ASSERT_TRUE(backEnd->begin());
-    ASSERT_TRUE(backEnd->take(QuoteItem{first.market, first.code, 1, 0, 1}));
-    ASSERT_TRUE(backEnd->take(QuoteItem{second.market, second.code, 2, 0, 2}));
-    ASSERT_TRUE(backEnd->commit());
+    ASSERT_TRUE(takeAll<QuoteItem>(
+        *backEnd, {{first.market, first.code, 1, 0, 1}, {second.market, second.code, 2, 0, 2}}));
     EXPECT_EQ(listener.take(),
               (QStringList{u"new 16:2330 1 0 1"_s, u"new 22:00700 2 0 2"_s, u"new 22:00700 9 0 9"_s}));
 }

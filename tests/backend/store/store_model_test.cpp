@@ -4,6 +4,7 @@
 #include "backend/store/store_checker.h"
 #include "backend/store/store_file.h"
 #include "tests/backend/store/news_model.h"
+#include "tests/backend/store/take_all.h"
 
 #include <array>
 
@@ -63,8 +64,8 @@ TEST_F(StoreModelTest, RandomTransactionsLeaveWhatTheModelHolds) {
 
 // Two back ends on one store: each must show what either has taken in.
 TEST_F(StoreModelTest, DayTablesStayRightWhoeverTakesIn) {
-    EmbeddedBackEnd first(std::move(openStore(store->path()).value()));
-    EmbeddedBackEnd second(std::move(openStore(store->path()).value()));
+    EmbeddedBackEnd first(connectionsTo(store->path()));
+    EmbeddedBackEnd second(connectionsTo(store->path()));
     std::mt19937 random(2);
     NewsModel model;
     const QDate day(2026, 3, 2);
@@ -74,11 +75,13 @@ TEST_F(StoreModelTest, DayTablesStayRightWhoeverTakesIn) {
         const Result<TakeOutcome> outcome = backEnd.takeIn(item);
         ASSERT_TRUE(outcome) << sentence(outcome.error()).toStdString();
         ASSERT_EQ(outcome.value().take, model.take(item));
+        first.checkForNews();
         for (const int offset : {-1, 0, 1, 2}) {
             const QDate shown = day.addDays(offset);
             ASSERT_EQ(dayOf(first, item.service, shown), model.day(item.service, shown)) << round;
         }
     }
+    second.checkForNews();
     for (const unsigned char service : std::to_array<unsigned char>({1, 16, 52}))
         EXPECT_EQ(dayOf(second, service, day), model.day(service, day));
 }

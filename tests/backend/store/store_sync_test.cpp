@@ -4,7 +4,6 @@
 
 #include "backend/store/store_file.h"
 
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -22,7 +21,6 @@ protected:
         const QByteArray sql = "INSERT INTO notes VALUES(randomblob(" + QByteArray::number(bytes) + "))";
         ASSERT_TRUE(store->execute(sql.constData())) << sentence(store->failure()).toStdString();
     }
-    qint64 logSize() const { return QFileInfo(file + u"-wal"_s).size(); }
 
     QTemporaryDir folder;
     QString file = folder.filePath(u"news.wirepane"_s);
@@ -65,18 +63,6 @@ TEST_F(StoreSyncTest, NobodyIsCalledAfterTheEnd) {
     }
     QCoreApplication::processEvents();
     EXPECT_FALSE(told);
-}
-
-// The log would grow for good if nobody carried it over.
-TEST_F(StoreSyncTest, TheLogStaysShort) {
-    constexpr int bytes = 1 << 20;
-    StoreSync sync(*store);
-    for (int i = 0; i < 64; ++i) {
-        write(bytes);
-        sync.finish();
-    }
-    EXPECT_GT(QFileInfo(file).size(), 48 * bytes);
-    EXPECT_LT(logSize(), 16 * bytes);
 }
 
 TEST_F(StoreSyncTest, AStoreThatIsGoneIsAnError) {

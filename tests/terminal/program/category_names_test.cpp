@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/embedded_back_end.h"
 #include "terminal/session/category_display.h"
+#include "tests/backend/store/take_all.h"
 #include "tests/terminal/program/program_runner.h"
 
 #include <gtest/gtest.h>
@@ -20,10 +21,10 @@ TEST(CategoryNames, OfMoreThanTheFileHoldsTheLatestTopicsComeFirst) {
     ASSERT_TRUE(opened);
     EmbeddedBackEnd& store = *opened.value();
     constexpr int topics = 200;
-    ASSERT_TRUE(store.begin());
+    std::vector<CategoryItem> categories;
     for (int id = 1; id <= topics; ++id)
-        ASSERT_TRUE(store.take(CategoryItem{1, id, u"Topic of the long name %1"_s.arg(id), {}}));
-    ASSERT_TRUE(store.commit());
+        categories.push_back({1, id, u"Topic of the long name %1"_s.arg(id), {}});
+    ASSERT_TRUE(takeAll(store, categories));
     const auto database = Database::open(path, Database::Mode::Write, std::chrono::seconds(5));
     ASSERT_TRUE(database);
     ASSERT_TRUE(database.value()->execute(

@@ -4,6 +4,7 @@
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
+#include "tests/backend/store/take_all.h"
 #include "tests/terminal/program/program_runner.h"
 
 #include <QDateTime>
@@ -286,7 +287,7 @@ TEST_F(CommandLineTest, EveryCategoryOfTheSampleHasNews) {
                           u"2026-03-06T20:00:00"_s})
                   .status,
               0);
-    wirepane::EmbeddedBackEnd backEnd(std::move(wirepane::openStore(store).value()));
+    wirepane::EmbeddedBackEnd backEnd(wirepane::connectionsTo(store));
     std::vector<unsigned char> services;
     backEnd.BKQNEWS_bGetAllNewsService(services);
     EXPECT_EQ(services.size(), 6U);

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/store_intake.h"
+
+#include "backend/database/store_sync.h"
+
+#include <sqlite3.h>
+#include <utility>
+
+namespace wirepane {
+
+namespace {
+
+// Who finds the store busy tries again later, and lets others have their turn meanwhile.
+constexpr std::chrono::milliseconds patience{250};
+
+}  // namespace
+
+StoreIntake::StoreIntake(Database& store, StoreSync& storeSync, Reported reported)
+    : database(store), sync(storeSync), tell(std::move(reported)) {
+    database.setBusyTimeout(patience);
+    writer = std::make_unique<StoreWriter>(database);
+    database.readNumber("PRAGMA data_version", lastVersion.emplace());
+}
+
+void StoreIntake::ask(Work work, Then then) {
+    jobs.push_back({std::move(work), std::move(then)});
+    if (jobs.size() == 1)
+        beginNext();
+}
+
+void StoreIntake::finish() {
+    while (!jobs.empty()) {
+        thread.run([] {});
+        answers.callAll();
+    }
+}
+
+void StoreIntake::beginNext() {
+    thread.post([this, work = jobs.front().work] {
+        const WorkReport done = perform(work);
+        answers.post([this, done] { report(done); });
+    });
+}
+
+WorkReport StoreIntake::perform(const Work& work) {
+    if (work)
+        work(*writer);
+    WorkReport done{writer->takeChangedSymbols(), false, database.damage()};
+    std::int64_t version = 0;
+    done.byOthers = !database.readNumber("PRAGMA data_version", version) || version != lastVersion;
+    lastVersion = version;
+    return done;
+}
+
+void StoreIntake::report(const WorkReport& done) {
+    tell(done);
+    // The readers have just moved on to the log's end: now all of it can be carried over, and nobody writes
+    // meanwhile. A log that is never quite carried over grows without end.
+    if (sync.isLogLong()) {
+        thread.post([this] {
+            checkpoint();
+            answers.post([this] { report({}); });
+        });
+        return;
+    }
+    const Then then = std::move(jobs.front().then);
+    jobs.pop_front();
+    if (!jobs.empty())
+        beginNext();
+    if (then)
+        then();
+}
+
+void StoreIntake::checkpoint() {
+    sqlite3_wal_checkpoint_v2(database.handle(), "main", SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+    sync.noteCheckpoint();
+}
+
+}  // namespace wirepane
