@@ -4,8 +4,10 @@
 #include "search/adv_search_dlg.h"
 
 #include "host/controls/quote_trv_change_symbol.h"
+#include "host/controls/registered_message.h"
 #include "host/controls/xtp_tab_control.h"
 #include "search/search_ids.h"
+#include "tests/search/conditions.h"
 #include "tests/search/dialog_fixture.h"
 
 #include <QRadioButton>
@@ -17,14 +19,6 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 namespace {
-
-CSearch condition(std::vector<QString> keywords, unsigned char scope = 0, unsigned char method = 1) {
-    CSearch search;
-    search.keywords = std::move(keywords);
-    search.scope = scope;
-    search.method = method;
-    return search;
-}
 
 class AdvancedSearch : public DialogTest {
 protected:
@@ -125,6 +119,12 @@ TEST_F(AdvancedSearch, AsksBeforeAllKeywordsGo) {
     EXPECT_TRUE(at<QRadioButton>(search_ids::methodAnd).isChecked());
     click(search_ids::removeAll);
     EXPECT_EQ(QApplication::activeModalWidget(), dialog.get()) << "nothing is left to ask about";
+
+    for (const int row : {2, 0})
+        at<QListWidget>(search_ids::pool).item(row)->setSelected(true);
+    click(search_ids::add);
+    EXPECT_EQ(texts(search_ids::keywords), (QStringList{u"gold"_s, u"silver"_s}))
+        << "from the top down, however they were selected";
 }
 
 TEST_F(AdvancedSearch, SymbolsAreFoundAfterAPauseAndGiveCodeAndName) {
@@ -154,6 +154,11 @@ TEST_F(AdvancedSearch, SymbolsAreFoundAfterAPauseAndGiveCodeAndName) {
 TEST_F(AdvancedSearch, ThePickerReportsSymbols) {
     open();
     showSymbolTab();
+    expectRoomForEach();
+    const auto tellOfNewSymbols = [this] {
+        sendRegisteredMessage(dialog.get(), registerMessage(u"MSG_SYMBOLUPDATE_TREEDLG"_s), 0);
+    };
+    tellOfNewSymbols();
     click(search_ids::picker);
     auto* picker = dialog->findChild<QuoteTRVChangeSymbol*>();
     ASSERT_NE(picker, nullptr);
@@ -177,7 +182,7 @@ TEST_F(AdvancedSearch, ThePickerReportsSymbols) {
     EXPECT_EQ(texts(search_ids::keywords).size(), 6) << "a market is no symbol";
 
     backEnd.symbols[22].push_back({u"00005"_s, u"Bay Bank"_s});
-    picker->vDoSymbolUpdateTreeNode(0);
+    tellOfNewSymbols();
     QTest::keyClicks(search, u"bay"_s);
     EXPECT_EQ(tree->topLevelItemCount(), 1);
     picker->close();

@@ -29,6 +29,18 @@ protected:
         window->show();
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        expectRoomForEach();
+    }
+    // What is to be seen stands inside the window, and beside all else.
+    void expectRoomForEach() const {
+        QRegion taken;
+        for (const QWidget* part : window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (!part->isVisible() || part->isWindow())
+                continue;
+            EXPECT_TRUE(window->rect().contains(part->geometry()) && !taken.intersects(part->geometry()))
+                << part->metaObject()->className() << ' ' << windowId(part);
+            taken += part->geometry();
+        }
     }
 
     template <class Control>

@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QRadioButton>
 #include <QStyle>
+#include <QTableWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -146,6 +147,11 @@ TEST_F(KeySetDialog, CheckBoxesTickAndDoNothingElse) {
     at<QAbstractItemView>(search_ids::keySets).setFocus();
     press(search_ids::keySets, Qt::Key_Space);
     EXPECT_EQ(ticked(search_ids::keySets), QList<int>{1}) << "Space where the last click was";
+    for (const bool isTicked : {true, false}) {
+        at<QTableWidget>(search_ids::keySets).setCurrentCell(0, 0, QItemSelectionModel::NoUpdate);
+        press(search_ids::keySets, Qt::Key_Space);
+        EXPECT_EQ(ticked(search_ids::keySets).contains(0), isTicked);
+    }
     EXPECT_EQ(saveText(), newSet);
     EXPECT_EQ(texts(search_ids::keywords), QStringList{u"HALF"_s});
 

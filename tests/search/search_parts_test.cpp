@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 // Conditions, keywords and recent searches, and what is kept of them.
 #include "host/contract/cfg_io.h"
+#include "search/news_relate_symbol_quote_view.h"
 #include "search/search_desk.h"
+#include "tests/search/conditions.h"
 #include "tests/support/fake_back_end.h"
 
 #include <gtest/gtest.h>
@@ -12,14 +14,6 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 namespace {
-
-CSearch condition(std::vector<QString> keywords, unsigned char scope = 0, unsigned char method = 1) {
-    CSearch search;
-    search.keywords = std::move(keywords);
-    search.scope = scope;
-    search.method = method;
-    return search;
-}
 
 const KeywordList awkward{u"rate cut"_s,    u"a,b;c|d"_s,       u"\"quoted\" 'so'"_s,
                           u"back\\slash"_s, u"two\r\nlines"_s,  u"聯儲局"_s,
@@ -163,6 +157,24 @@ TEST(SearchDesk, TellsAnswersApart) {
     EXPECT_EQ(desk.ordinary, narrowed);
     EXPECT_TRUE(desk.second.symbols.empty());
     EXPECT_EQ(desk.kindOfAnswer(narrowed), TableKind::Search);
+}
+
+TEST(RelatedQuotes, ASymbolWithoutAMarketIsThatOfTheFirstThatHasItsCode) {
+    FakeBackEnd backEnd;
+    backEnd.symbols = {{16, {{u"2330"_s, u"Aster"_s}}},
+                       {22, {{u"2330"_s, u"Other"_s}, {u"700"_s, u"Bay"_s}}}};
+    QWidget window;
+    auto* quotes = new CNewsRelateSymbolQuoteView(&window);
+    ASSERT_TRUE(quotes->CreateView(&window, u"quotes"_s, 0, 0));
+    const std::pair<CSymbolInfo, QString> cases[] = {{{0, u"2330"_s}, u"16:2330"_s},
+                                                     {{1, u"2330"_s}, u"1:2330"_s},
+                                                     {{22, u"2330"_s}, u"22:2330"_s},
+                                                     {{0, u"700"_s}, u"22:700"_s},
+                                                     {{0, u"9"_s}, u"0:9"_s}};
+    for (const auto& [listed, followed] : cases) {
+        quotes->setSymbolList({{listed}});
+        EXPECT_EQ(backEnd.followed[quotes], QStringList{followed});
+    }
 }
 
 }  // namespace wirepane

@@ -5,6 +5,7 @@
 #include "search/key_sets.h"
 #include "search/warn_term_config_dlg.h"
 #include "search/warning_items.h"
+#include "tests/search/conditions.h"
 #include "tests/support/fake_back_end.h"
 
 #include <gtest/gtest.h>
@@ -14,14 +15,6 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 namespace {
-
-CSearch condition(std::vector<QString> keywords, unsigned char scope = 0, unsigned char method = 1) {
-    CSearch search;
-    search.keywords = std::move(keywords);
-    search.scope = scope;
-    search.method = method;
-    return search;
-}
 
 std::vector<QString> firstWords(const WarningItems& warnings) {
     std::vector<QString> words;
