@@ -130,7 +130,9 @@ TEST_F(AdvancedSearch, AsksBeforeAllKeywordsGo) {
 TEST_F(AdvancedSearch, SymbolsAreFoundAfterAPauseAndGiveCodeAndName) {
     backEnd.candidates = {u"[22]00700 Harbour Holdings"_s, u"2330 Aster Chips"_s, u"Lonely"_s};
     open();
+    const QRect place = at<QListWidget>(search_ids::pool).geometry();
     showSymbolTab();
+    EXPECT_EQ(at<QListWidget>(search_ids::candidates).geometry(), place) << "nothing moves";
     EXPECT_EQ(focus(), search_ids::symbolEdit);
     EXPECT_FALSE(at<QListWidget>(search_ids::pool).isVisible());
     backEnd.asked.clear();

@@ -6,10 +6,12 @@
 #include "tests/support/fake_back_end.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTest>
 #include <QTimer>
 
@@ -31,7 +33,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(window));
         expectRoomForEach();
     }
-    // What is to be seen stands inside the window, and beside all else.
+    // What is to be seen stands inside the window, and beside all else; columns fill their table.
     void expectRoomForEach() const {
         QRegion taken;
         for (const QWidget* part : window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -40,6 +42,9 @@ protected:
             EXPECT_TRUE(window->rect().contains(part->geometry()) && !taken.intersects(part->geometry()))
                 << part->metaObject()->className() << ' ' << windowId(part);
             taken += part->geometry();
+            const auto* table = qobject_cast<const QTableWidget*>(part);
+            EXPECT_TRUE(table == nullptr ||
+                        table->horizontalHeader()->length() >= table->viewport()->width());
         }
     }
 

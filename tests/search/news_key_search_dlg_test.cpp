@@ -98,7 +98,9 @@ TEST_F(KeySetDialog, ANewKeySetNeedsANewsTypeAndAKeyword) {
 
 TEST_F(KeySetDialog, AClickedKeySetIsWorkedOnUntilItIsSavedOrLeft) {
     open();
+    at<QListWidget>(search_ids::newsTypes).selectAll();
     clickRow(search_ids::keySets, 1);
+    EXPECT_EQ(selected(search_ids::newsTypes), QStringList());
     EXPECT_EQ(texts(search_ids::keywords), (QStringList{u"Y"_s, u"Z"_s}));
     EXPECT_TRUE(at<QRadioButton>(search_ids::methodOr).isChecked());
     EXPECT_EQ(ticked(search_ids::newsTypes), QList<int>{1});

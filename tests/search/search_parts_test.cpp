@@ -1,11 +1,16 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Conditions, keywords and recent searches, and what is kept of them.
+#include "headline_list/language_keys.h"
 #include "host/contract/cfg_io.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "search/search_desk.h"
+#include "search/search_edit2.h"
 #include "tests/search/conditions.h"
 #include "tests/support/fake_back_end.h"
+
+#include <QInputMethodEvent>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -175,6 +180,41 @@ TEST(RelatedQuotes, ASymbolWithoutAMarketIsThatOfTheFirstThatHasItsCode) {
         quotes->setSymbolList({{listed}});
         EXPECT_EQ(backEnd.followed[quotes], QStringList{followed});
     }
+    quotes->setSymbolList({});
+    unsigned char market = 99;
+    QString code = u"as before"_s;
+    EXPECT_EQ(quotes->GetCurrSymbolInfo(market, code), 0);
+    EXPECT_EQ(market, 99);
+    EXPECT_EQ(code, u"as before"_s);
+}
+
+TEST(SearchEdit, TakesNoBlanksAndNothingPastedAndSaysSo) {
+    struct Tips : ShortTips {
+        void vShowTip(const QRect& rectangle, const QString& text) override {
+            place = rectangle;
+            told.append(text);
+        }
+        QRect place;
+        QStringList told;
+    };
+    FakeBackEnd backEnd;
+    Tips tips;
+    SearchEdit2 edit;
+    edit.setOwner(&tips);
+    edit.setGeometry(30, 40, 200, 24);
+    edit.show();
+    QTest::keyClicks(&edit, u"a b"_s);
+    QTest::keyClick(&edit, Qt::Key_Insert, Qt::ShiftModifier);
+    QInputMethodEvent composed;
+    composed.setCommitString(u"台 積"_s);
+    QCoreApplication::sendEvent(&edit, &composed);
+    EXPECT_EQ(edit.text(), u"ab台積"_s);
+    EXPECT_EQ(tips.told, (QStringList{QString(keys::invalidValue), QString(keys::invalidPaste),
+                                      QString(keys::invalidValue)}));
+    EXPECT_EQ(tips.place, QRect(edit.mapToGlobal(QPoint(0, 0)), edit.size()));
+    edit.setOwner(nullptr);
+    QTest::keyClicks(&edit, u" c"_s);
+    EXPECT_EQ(edit.text(), u"ab台積c"_s);
 }
 
 }  // namespace wirepane

@@ -102,6 +102,7 @@ TEST_F(WarnTerms, GoToTheEndWhenTheyAreEditedAndKeepTheirNumbersWhenOthersGo) {
             EXPECT_TRUE(qobject_cast<QRadioButton*>(dlgItem(&item, search_ids::warningAnd))->isChecked());
             EXPECT_TRUE(
                 qobject_cast<QRadioButton*>(dlgItem(&item, search_ids::warningHeadlines))->isChecked());
+            EXPECT_EQ(item.minimumSize(), item.maximumSize());
             item.accept();
         },
         editFirst);
