@@ -88,7 +88,7 @@ bool StoryDisplay::takeClick() {
     row = focused;
     if (!list.headlineTable().empty()) {
         pane->SetHeadLinePos(row);
-        around.goTo(static_cast<int>(view.shownList()), row);
+        around.goTo(view.shownList(), row);
     }
     return true;
 }
@@ -106,7 +106,7 @@ void StoryDisplay::page(int step) {
     const int wanted = pane->GetHeadLinePos() + step;
     pane->SetHeadLinePos(wanted < 0 ? size - 1 : wanted >= size ? 0 : wanted);
     pane->vShowData();
-    around.goTo(static_cast<int>(view.shownList()), pane->GetHeadLinePos());
+    around.goTo(view.shownList(), pane->GetHeadLinePos());
     listRelatedSymbols();
 }
 
@@ -122,7 +122,7 @@ int StoryDisplay::pointAt(int newRow) {
 }
 
 std::optional<CHeadlineTable> StoryDisplay::shownOf(ListIndex list) const {
-    if (!paneShowsStories() || around.stage.storyPane()->listNumber() != static_cast<int>(list))
+    if (!paneShowsStories() || around.stage.storyPane()->list() != list)
         return std::nullopt;
     return view.listOf(list).headlineTable().entryAt(around.stage.storyPane()->GetHeadLinePos());
 }
@@ -141,8 +141,7 @@ bool StoryDisplay::readInPlace(ListIndex list, const std::function<bool()>& read
 }
 
 void StoryDisplay::keepThrough(ListIndex list, const HeadlinePlace& place) {
-    if (!paneShowsStories() || place == HeadlinePlace() ||
-        around.stage.storyPane()->listNumber() != static_cast<int>(list))
+    if (!paneShowsStories() || place == HeadlinePlace() || around.stage.storyPane()->list() != list)
         return;
     NewsStoryView& pane = *around.stage.storyPane();
     const int shown = pane.GetHeadLinePos();

@@ -35,7 +35,7 @@ public:
         StoryStage& stage;
         std::function<CSearch(ListIndex)> foundUnder;  // the condition that a list's rows were found under
         std::function<QFont()> font;                   // the view's
-        std::function<void(int list, int row)> goTo;   // the selection of the view goes to a row
+        std::function<void(ListIndex list, int row)> goTo;  // the selection of the view goes to a row
     };
 
     // All that is referred to outlives the display.

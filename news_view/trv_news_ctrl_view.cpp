@@ -218,11 +218,15 @@ CHeadlineTable TRVNewsCtrlView::GetHeadlineTable(int row) const {
 }
 
 bool TRVNewsCtrlView::bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const {
-    return parts->bGetHeadlineTable(entry, list, row);
+    const auto index = listOfNumber(list);
+    const auto found = index ? parts->entryOf(*index, row) : std::nullopt;
+    entry = found.value_or(entry);
+    return found.has_value();
 }
 
 int TRVNewsCtrlView::iGetHeadlineTableSize(int list) const {
-    return parts->iGetHeadlineTableSize(list);
+    const auto index = listOfNumber(list);
+    return index ? parts->entryCount(*index) : -1;
 }
 
 void TRVNewsCtrlView::vGetNewsActiveService(std::vector<unsigned char>& services) const {

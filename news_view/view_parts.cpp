@@ -103,7 +103,7 @@ void TRVNewsCtrlView::Parts::connectGrid(CSuperSheetWnd& grid, ListIndex list) {
 
 StoryDisplay::Surroundings TRVNewsCtrlView::Parts::storySurroundings() {
     return {stage, [this](ListIndex list) { return searches.desk().foundUnder(list); },
-            [this] { return view.GetViewFont(); }, [this](int list, int row) { bChangeNewsPos(list, row); }};
+            [this] { return view.GetViewFont(); }, [this](ListIndex list, int row) { goTo(list, row); }};
 }
 
 OutputJobs::Surroundings TRVNewsCtrlView::Parts::outputSurroundings() {
@@ -236,25 +236,20 @@ std::optional<CHeadlineTable> TRVNewsCtrlView::Parts::shownEntry(int row) const 
     return lists[modes.shown()].headlineTable().entryAt(row);
 }
 
-bool TRVNewsCtrlView::Parts::bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const {
-    const auto index = listOfNumber(list);
-    const auto found = index ? lists[*index].headlineTable().entryAt(row) : std::nullopt;
-    entry = found.value_or(entry);
-    return found.has_value();
+int TRVNewsCtrlView::Parts::entryCount(ListIndex list) const {
+    return lists[list].headlineTable().size();
 }
 
-int TRVNewsCtrlView::Parts::iGetHeadlineTableSize(int list) const {
-    const auto index = listOfNumber(list);
-    return index ? lists[*index].headlineTable().size() : -1;
+std::optional<CHeadlineTable> TRVNewsCtrlView::Parts::entryOf(ListIndex list, int row) const {
+    return lists[list].headlineTable().entryAt(row);
+}
+
+int TRVNewsCtrlView::Parts::rowOf(ListIndex list, const CHeadlineTable& headline) const {
+    return lists[list].headlineTable().rowOf(keyOf(headline));
 }
 
 void TRVNewsCtrlView::Parts::vGetNewsActiveService(std::vector<unsigned char>& active) const {
     active = services.activeServices(static_cast<int>(modes.shown()));
-}
-
-int TRVNewsCtrlView::Parts::rowOf(int list, const CHeadlineTable& headline) const {
-    const auto index = listOfNumber(list);
-    return index ? lists[*index].headlineTable().rowOf(keyOf(headline)) : -1;
 }
 
 std::vector<CHeadlineTable> TRVNewsCtrlView::Parts::selectedEntries() const {
@@ -277,9 +272,9 @@ void TRVNewsCtrlView::Parts::saveHeadline(const CHeadlineTable& headline) {
     output.tell(output.save({headline}, std::nullopt));
 }
 
-bool TRVNewsCtrlView::Parts::bChangeNewsPos(int list, int row) {
-    if (list != static_cast<int>(modes.shown())) {
-        view.SwitchFunction(view.iGetFunctionID(list));
+void TRVNewsCtrlView::Parts::goTo(ListIndex list, int row) {
+    if (list != modes.shown()) {
+        view.SwitchFunction(view.iGetFunctionID(static_cast<int>(list)));
         if (auto* strip = controls.find<CXTPTabControl>(ids::tabStrip))
             strip->SetCurSel(controls.iGetTabIndex(static_cast<int>(modes.shown())));
     }
@@ -295,7 +290,6 @@ bool TRVNewsCtrlView::Parts::bChangeNewsPos(int list, int row) {
         grid->vAutoVerScrolling(row);
     }
     story.show();
-    return true;
 }
 
 // --- What notices offer ---

@@ -71,11 +71,11 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     void rowsReplaced(wirepane::ListIndex list) override;
 
     // What stories see of it.
-    int iGetHeadlineTableSize(int list) const override;
-    bool bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const override;
+    int entryCount(wirepane::ListIndex list) const override;
+    std::optional<CHeadlineTable> entryOf(wirepane::ListIndex list, int row) const override;
     void vGetNewsActiveService(std::vector<unsigned char>& active) const override;
-    bool bChangeNewsPos(int list, int row) override;
-    int rowOf(int list, const CHeadlineTable& headline) const override;
+    void goTo(wirepane::ListIndex list, int row) override;
+    int rowOf(wirepane::ListIndex list, const CHeadlineTable& headline) const override;
     void printHeadline(const CHeadlineTable& headline) override;
     void saveHeadline(const CHeadlineTable& headline) override;
 

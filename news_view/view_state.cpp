@@ -53,7 +53,7 @@ template <class Display>
 QVariantMap displayState(const Display& display) {
     QVariantMap state = storyTexts(display);
     state.insert(QStringLiteral("position"), display.GetHeadLinePos());
-    state.insert(QStringLiteral("table"), display.listNumber());
+    state.insert(QStringLiteral("table"), display.list() ? static_cast<int>(*display.list()) : -1);
     return state;
 }
 

@@ -17,7 +17,8 @@ void TRVNewsCtrlView::OnShowStory() {
 }
 
 bool TRVNewsCtrlView::bChangeNewsPos(int list, int row) {
-    return parts->bChangeNewsPos(list, row);
+    parts->goTo(static_cast<ListIndex>(list), row);  // switching finds a mode for any number
+    return true;
 }
 
 void TRVNewsCtrlView::OnBtnPageDown() {

@@ -51,7 +51,7 @@ void NewsStoryView::vSetStoryData(int table, int position) {
 }
 
 void NewsStoryView::vSetStoryData(int table, int position, const CSearch& condition) {
-    reader.vSetStoryData(table, position, condition);
+    reader.pointAt(listOfNumber(table), position, condition);
     vShowData();
 }
 

@@ -48,7 +48,7 @@ public:
     // The headline shown, while its list has it; nothing: none.
     const std::optional<CHeadlineTable>& headlinePointedAt() const { return reader.headlinePointedAt(); }
     // The owner's list that the position refers to.
-    int listNumber() const { return reader.listNumber(); }
+    std::optional<wirepane::ListIndex> list() const { return reader.list(); }
 
     // Shows the headline and story at the position, or a placeholder while they are not at hand. An empty
     // list leaves the pane as it is.

@@ -10,9 +10,9 @@ namespace wirepane {
 class StoryOwner : public EntrySource {
 public:
     // Moves the view's selection to a row of a list.
-    virtual bool bChangeNewsPos(int list, int row) = 0;
+    virtual void goTo(ListIndex list, int row) = 0;
     // The row at which a list has a headline; -1: it has left the list.
-    virtual int rowOf(int list, const CHeadlineTable& headline) const = 0;
+    virtual int rowOf(ListIndex list, const CHeadlineTable& headline) const = 0;
     // Prints, saves, a headline, whether it is listed or not.
     virtual void printHeadline(const CHeadlineTable& headline) = 0;
     virtual void saveHeadline(const CHeadlineTable& headline) = 0;

@@ -13,8 +13,8 @@
 
 namespace wirepane {
 
-void StoryReader::vSetStoryData(int newTable, int newPosition, const CSearch& newCondition) {
-    table = newTable;
+void StoryReader::pointAt(std::optional<ListIndex> list, int newPosition, const CSearch& newCondition) {
+    pointedList = list;
     condition = newCondition;
     SetHeadLinePos(newPosition);
 }
@@ -42,7 +42,7 @@ void StoryReader::OnClearStory() {
 }
 
 StoryTexts StoryReader::showData() {
-    if (source == nullptr || source->iGetHeadlineTableSize(table) < 1)
+    if (source == nullptr || !pointedList || source->entryCount(*pointedList) < 1)
         return {};
     pointedAt = entryAtPosition();
     shown = pointedAt;
@@ -85,10 +85,7 @@ std::optional<TextRange> StoryReader::mark(const QString& shownText) const {
 }
 
 std::optional<CHeadlineTable> StoryReader::entryAtPosition() const {
-    CHeadlineTable entry;
-    if (source == nullptr || !source->bGetHeadlineTable(entry, table, position))
-        return {};
-    return entry;
+    return source != nullptr && pointedList ? source->entryOf(*pointedList, position) : std::nullopt;
 }
 
 std::optional<CHeadlineTable> StoryReader::awaitedHeadline() const {

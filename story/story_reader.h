@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/list_index.h"
 #include "host/contract/records.h"
 #include "host/contract/search_condition.h"
 #include "story/keyword_match.h"
@@ -43,8 +44,9 @@ public:
     // Whose headlines are read; not owned, null: none.
     void showSource(const EntrySource* owner) { source = owner; }
 
-    // Points at a headline of list `table`, which was found under `condition` (empty: not by a search).
-    void vSetStoryData(int table, int position, const CSearch& condition = {});
+    // Points at a headline of a list (nothing: of none), which was found under `condition` (empty: not by a
+    // search).
+    void pointAt(std::optional<ListIndex> list, int position, const CSearch& condition = {});
     // A negative position counts as 0.
     void SetHeadLinePos(int newPosition);
     int GetHeadLinePos() const { return position; }
@@ -53,7 +55,7 @@ public:
     void moveHeadLinePos(int newPosition);
     // The headline pointed at has left the list: what is shown stays, and nothing answers for it.
     void leaveHeadline() { pointedAt.reset(); }
-    int listNumber() const { return table; }
+    std::optional<ListIndex> list() const { return pointedList; }
     // The headline that answers are for; nothing: none.
     const std::optional<CHeadlineTable>& headlinePointedAt() const { return pointedAt; }
     // The headline whose title is on show; nothing: none.
@@ -87,7 +89,7 @@ private:
     Follows follows;
     const EntrySource* source = nullptr;
     CSearch condition;
-    int table = 0;
+    std::optional<ListIndex> pointedList = ListIndex::All;
     int position = 0;
     std::optional<CHeadlineTable> pointedAt;
     std::optional<CHeadlineTable> shown;

@@ -58,7 +58,7 @@ TRVNewsStory::TRVNewsStory(StoryOwner* storyOwner, CMainFrame* frame, QWidget* p
       storyEdit(new MyRichEdit(this)),
       notice(new CQuoteStaticEx(this)) {
     reader.showSource(owner);
-    reader.vSetStoryData(-1, 0);
+    reader.pointAt(std::nullopt, 0);
     setWindowId(this, story_ids::dialog);
     setWindowId(titleEdit, story_ids::title);
     setWindowId(storyEdit, story_ids::storyText);
@@ -103,7 +103,7 @@ void TRVNewsStory::vSetFont(const QFont& font) {
 // --- Stories ---
 
 void TRVNewsStory::vSetStoryData(int table, int position, const CSearch& condition) {
-    reader.vSetStoryData(table, position, condition);
+    reader.pointAt(listOfNumber(table), position, condition);
     vShowData();
 }
 
@@ -152,7 +152,7 @@ void TRVNewsStory::setNotice(const QString& text) {
 // --- Buttons ---
 
 void TRVNewsStory::page(int step) {
-    const int size = owner != nullptr ? owner->iGetHeadlineTableSize(listNumber()) : 0;
+    const int size = owner != nullptr && list() ? owner->entryCount(*list()) : 0;
     if (size < 1)
         return;
     int position = GetHeadLinePos() + step;
@@ -162,7 +162,7 @@ void TRVNewsStory::page(int step) {
         position = size - 1;
     reader.SetHeadLinePos(position);
     vShowData();
-    owner->bChangeNewsPos(listNumber(), position);
+    owner->goTo(*list(), position);
 }
 
 void TRVNewsStory::OnBtnPageDown() {
@@ -186,8 +186,8 @@ void TRVNewsStory::putOutShown(void (StoryOwner::*putOut)(const CHeadlineTable&)
     const std::optional<CHeadlineTable> headline = reader.shownHeadline();
     if (owner == nullptr || !headline)
         return;
-    if (const int row = owner->rowOf(listNumber(), *headline); row >= 0)
-        owner->bChangeNewsPos(listNumber(), row);
+    if (const int row = list() ? owner->rowOf(*list(), *headline) : -1; row >= 0)
+        owner->goTo(*list(), row);
     (owner->*putOut)(*headline);
 }
 

@@ -40,7 +40,7 @@ public:
     // The row whose story the answers that come are for; negative: 0. What is shown stays.
     void SetHeadLinePos(int position) { reader.SetHeadLinePos(position); }
     int GetHeadLinePos() const { return reader.GetHeadLinePos(); }
-    int listNumber() const { return reader.listNumber(); }
+    std::optional<wirepane::ListIndex> list() const { return reader.list(); }
     // Shows the headline and story at the position, or a placeholder while they are not at hand. An empty
     // list leaves the dialog as it is.
     void vShowData();

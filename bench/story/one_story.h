@@ -12,10 +12,9 @@ class OneStory : public BKQuoteInterface, public EntrySource {
 public:
     explicit OneStory(QString text) : wire(std::move(text)) { setBKInterface(this); }
 
-    int iGetHeadlineTableSize(int) const override { return 1; }
-    bool bGetHeadlineTable(CHeadlineTable& entry, int, int row) const override {
-        entry = {1'770'000'000, 1, 1, 0, 0};
-        return row == 0;
+    int entryCount(ListIndex) const override { return 1; }
+    std::optional<CHeadlineTable> entryOf(ListIndex, int row) const override {
+        return row == 0 ? std::optional(CHeadlineTable{1'770'000'000, 1, 1, 0, 0}) : std::nullopt;
     }
     void vGetNewsActiveService(std::vector<unsigned char>& services) const override { services = {1}; }
     bool BKQNEWS_bGetAllNewsService(std::vector<unsigned char>&) override { return false; }

@@ -83,19 +83,13 @@ public:
     void categoryStateAfterWriting() override {}
     void rowsReplaced(ListIndex) override {}
 
-    int iGetHeadlineTableSize(int list) const override {
-        const auto index = listOfNumber(list);
-        return index ? lists[*index].headlineTable().size() : -1;
-    }
-    bool bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const override {
-        const auto index = listOfNumber(list);
-        const auto found = index ? lists[*index].headlineTable().entryAt(row) : std::nullopt;
-        entry = found.value_or(entry);
-        return found.has_value();
+    int entryCount(ListIndex list) const override { return lists[list].headlineTable().size(); }
+    std::optional<CHeadlineTable> entryOf(ListIndex list, int row) const override {
+        return lists[list].headlineTable().entryAt(row);
     }
     void vGetNewsActiveService(std::vector<unsigned char>& active) const override { active = {1}; }
-    bool bChangeNewsPos(int, int) override { return true; }
-    int rowOf(int, const CHeadlineTable&) const override { return -1; }
+    void goTo(ListIndex, int) override {}
+    int rowOf(ListIndex, const CHeadlineTable&) const override { return -1; }
     void printHeadline(const CHeadlineTable&) override {}
     void saveHeadline(const CHeadlineTable&) override {}
 

@@ -107,7 +107,7 @@ protected:
             ASSERT_EQ(view->GetHeadlineTable(sheet->cptGetFocusNdx().y()).sequence, focused);
             const auto* pane =
                 qobject_cast<NewsStoryView*>(dlgItem(view.get(), ids::firstChildView + ids::storyPane));
-            if (pane->listNumber() == mode()) {
+            if (pane->list() == listOfNumber(mode())) {
                 ASSERT_EQ(view->GetHeadlineTable(pane->GetHeadLinePos()).sequence, focused);
             }
         }

@@ -63,7 +63,9 @@ protected:
                             return CSearch();
                         },
                         [] { return QFont(); },
-                        [this](int list, int row) { wentTo.append(u"%1:%2"_s.arg(list).arg(row)); }}};
+                        [this](ListIndex list, int row) {
+                            wentTo.append(u"%1:%2"_s.arg(static_cast<int>(list)).arg(row));
+                        }}};
 };
 
 }  // namespace

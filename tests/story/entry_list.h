@@ -3,22 +3,22 @@
 #pragma once
 
 #include "headline_list/entry_source.h"
+#include "headline_list/list_index.h"
 
 namespace wirepane {
 
-// An owner of one headline list, number 3, whose mode looks at services 1 and 2.
+// An owner of one headline list whose mode looks at services 1 and 2.
 class EntryList : public EntrySource {
 public:
-    static constexpr int number = 3;
+    static constexpr ListIndex number = ListIndex::Search;
 
-    int iGetHeadlineTableSize(int list) const override {
+    int entryCount(ListIndex list) const override {
         return list == number ? static_cast<int>(entries.size()) : 0;
     }
-    bool bGetHeadlineTable(CHeadlineTable& entry, int list, int row) const override {
-        if (row < 0 || row >= iGetHeadlineTableSize(list))
-            return false;
-        entry = entries[static_cast<std::size_t>(row)];
-        return true;
+    std::optional<CHeadlineTable> entryOf(ListIndex list, int row) const override {
+        if (row < 0 || row >= entryCount(list))
+            return std::nullopt;
+        return entries[static_cast<std::size_t>(row)];
     }
     void vGetNewsActiveService(std::vector<unsigned char>& services) const override { services = active; }
 

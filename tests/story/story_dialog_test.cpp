@@ -28,24 +28,22 @@ constexpr int list = 3;
 // A view of one list that writes down what the dialog asks of it.
 class Owner : public StoryOwner {
 public:
-    int iGetHeadlineTableSize(int number) const override {
-        return number == list ? static_cast<int>(entries.size()) : 0;
+    int entryCount(ListIndex of) const override {
+        return of == ListIndex(list) ? static_cast<int>(entries.size()) : 0;
     }
-    bool bGetHeadlineTable(CHeadlineTable& entry, int number, int row) const override {
-        if (row < 0 || row >= iGetHeadlineTableSize(number))
-            return false;
-        entry = entries[static_cast<std::size_t>(row)];
-        return true;
+    std::optional<CHeadlineTable> entryOf(ListIndex of, int row) const override {
+        if (row < 0 || row >= entryCount(of))
+            return std::nullopt;
+        return entries[static_cast<std::size_t>(row)];
     }
     void vGetNewsActiveService(std::vector<unsigned char>& services) const override { services = {1, 2}; }
-    bool bChangeNewsPos(int number, int row) override {
+    void goTo(ListIndex of, int row) override {
         if (onGo)
             onGo();
-        asked.append(u"go %1 %2"_s.arg(number).arg(row));
-        return true;
+        asked.append(u"go %1 %2"_s.arg(static_cast<int>(of)).arg(row));
     }
-    int rowOf(int number, const CHeadlineTable& headline) const override {
-        for (int row = 0; row < iGetHeadlineTableSize(number); ++row) {
+    int rowOf(ListIndex of, const CHeadlineTable& headline) const override {
+        for (int row = 0; row < entryCount(of); ++row) {
             if (keyOf(entries[static_cast<std::size_t>(row)]) == keyOf(headline))
                 return row;
         }

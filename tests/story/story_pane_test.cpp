@@ -22,7 +22,7 @@ namespace wirepane {
 
 namespace {
 
-constexpr int list = EntryList::number;
+constexpr int list = static_cast<int>(EntryList::number);
 
 class Scheme : public CSyncInfo {
 public:

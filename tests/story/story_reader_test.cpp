@@ -18,7 +18,7 @@ static void PrintTo(const StoryTexts& texts, std::ostream* out) {
 
 namespace {
 
-constexpr int list = EntryList::number;
+constexpr ListIndex list = EntryList::number;
 
 // Two headlines of 2 March 2026, newest first: number 7 of service 1, number 3 of service 2.
 class StoryReaderTest : public testing::Test {
@@ -39,7 +39,7 @@ protected:
         backEnd.addStory({localTime(2026, 3, 2, 9, 31), wire, entry});
     }
     StoryTexts show(int position) {
-        reader.vSetStoryData(list, position);
+        reader.pointAt(list, position);
         return reader.showData();
     }
 
@@ -161,7 +161,7 @@ TEST_F(StoryReaderTest, ThePositionMovesWithItsHeadline) {
     giveStory(second, u"Body"_s);
     show(-5);
     EXPECT_EQ(reader.GetHeadLinePos(), 0);
-    EXPECT_EQ(reader.listNumber(), list);
+    EXPECT_EQ(reader.list(), list);
     show(1);
     owner.entries.insert(owner.entries.begin(), {first.time + 60, 8, 1, 0, 0});
     reader.RecvNewHeadLine();
