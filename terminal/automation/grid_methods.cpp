@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/automation/grid_methods.h"
 
+#include "host/controls/sheet_builder.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "terminal/automation/view_lookup.h"
 #include "terminal/session/session.h"
@@ -38,8 +39,10 @@ QJsonArray columnsReport(const CSuperSheetWnd& sheet) {
     QJsonArray columns;
     const auto* model = sheet.model();
     for (int column = 0; column < model->columnCount(); ++column)
-        columns.append(QJsonObject{{u"text"_s, model->headerData(column, Qt::Horizontal).toString()},
-                                   {u"width"_s, sheet.colWidth(column)}});
+        columns.append(QJsonObject{
+            {u"key"_s, model->headerData(column, Qt::Horizontal, CSheetBuilder::columnKeyRole).toString()},
+            {u"text"_s, model->headerData(column, Qt::Horizontal).toString()},
+            {u"width"_s, sheet.colWidth(column)}});
     return columns;
 }
 

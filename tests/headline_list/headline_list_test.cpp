@@ -25,8 +25,8 @@ TEST_F(HeadlineListTest, ADayOfTickedServicesIsMergedNewestFirst) {
     EXPECT_EQ(rows(all),
               (QStringList{QStringLiteral("09:30 | Markets | b9"), QStringLiteral("09:30 | (recover) | a2"),
                            QStringLiteral("09:10 | Markets | b1"), QStringLiteral("09:00 | Markets | a1")}));
-    EXPECT_EQ(all.textColour(0, 1), QColor(Qt::red));
-    EXPECT_FALSE(all.textColour(1, 1).isValid());
+    EXPECT_EQ(all.textColour(0, categoryColumn), QColor(Qt::red));
+    EXPECT_FALSE(all.textColour(1, categoryColumn).isValid());
     EXPECT_FALSE(all.textColour(0, titleColumn).isValid());
 
     EXPECT_FALSE(lists.rebuild(ListIndex::All, TableKind::ByDate, QStringLiteral("20250101")));
@@ -154,10 +154,10 @@ TEST_F(HeadlineListTest, TwoColumnsHaveNoCategory) {
     HeadlineList& all = list(ListIndex::All);
     lists.rebuild(ListIndex::All, TableKind::ByDate, day);
     EXPECT_EQ(rows(all), QStringList{QStringLiteral("09:00 | two")});
-    EXPECT_FALSE(all.textColour(0, 1).isValid());
+    EXPECT_FALSE(all.textColour(0, placeOf(HeadlineColumn::Title, NewsType::TwoColumns)).isValid());
     const int written = owner.rowsWritten;
     all.vFillHeadline();
-    EXPECT_EQ(owner.rowsWritten, written) << "the title is compared in column 1";
+    EXPECT_EQ(owner.rowsWritten, written) << "the title is compared where it stands";
 }
 
 TEST_F(HeadlineListTest, ACategoryKeepsItsColourInSimplifiedCharacters) {
@@ -165,8 +165,8 @@ TEST_F(HeadlineListTest, ACategoryKeepsItsColourInSimplifiedCharacters) {
     backEnd.add(1, localTime(2026, 3, 2, 9, 0), 1, QStringLiteral("title"), 8);
     HeadlineList& all = list(ListIndex::All);
     lists.rebuild(ListIndex::All, TableKind::ByDate, day);
-    EXPECT_EQ(all.text(0, 1), QStringLiteral("新闻"));
-    EXPECT_EQ(all.textColour(0, 1), QColor(Qt::red));
+    EXPECT_EQ(all.text(0, categoryColumn), QStringLiteral("新闻"));
+    EXPECT_EQ(all.textColour(0, categoryColumn), QColor(Qt::red));
 }
 
 // What was on screen keeps its height, as far as it is listed still; a list at its top stays there.

@@ -49,6 +49,8 @@ public:
 
 class HeadlineListTest : public testing::Test {
 protected:
+    const int timeColumn = placeOf(HeadlineColumn::Time, NewsType::Full);
+    const int categoryColumn = placeOf(HeadlineColumn::Category, NewsType::Full);
     const int titleColumn = placeOf(HeadlineColumn::Title, NewsType::Full);
 
     HeadlineListTest() {

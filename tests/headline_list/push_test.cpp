@@ -134,8 +134,9 @@ TEST_F(Push, GoesWhereItsTimeAndNumberSay) {
         EXPECT_EQ(all.vProcessNewHeadline(c.pushed, false), c.place);
         EXPECT_EQ(sequences(all), c.sequences);
         EXPECT_EQ(all.text(c.place.row, titleColumn), u"n"_s);
-        EXPECT_EQ(all.text(c.place.row, 1), u"Markets"_s);
-        EXPECT_EQ(all.text(c.place.row, 0), QDateTime::fromSecsSinceEpoch(c.pushed.time).toString(u"HH:mm"));
+        EXPECT_EQ(all.text(c.place.row, categoryColumn), u"Markets"_s);
+        EXPECT_EQ(all.text(c.place.row, timeColumn),
+                  QDateTime::fromSecsSinceEpoch(c.pushed.time).toString(u"HH:mm"));
         EXPECT_EQ(all.grid()->rowCount(), static_cast<int>(c.sequences.size()));
     }
     HeadlineList& unseen = lists[ListIndex::Symbol];
@@ -199,7 +200,7 @@ TEST_F(Push, RandomPushesGoWhereThePlainListSays) {
             const PlainList::Row& expected = plain.rows[static_cast<std::size_t>(row)];
             ASSERT_EQ(keyOf(all.headlineTable().at(row)), expected.key)
                 << "batch " << batch << " row " << row;
-            ASSERT_EQ(sheet.model()->index(row, 2).data().toString(), plain.titleOf(expected));
+            ASSERT_EQ(sheet.model()->index(row, titleColumn).data().toString(), plain.titleOf(expected));
             if (chosen.count(expected.id) != 0)
                 selected.push_back(row);
         }

@@ -60,7 +60,7 @@ int main(int argc, char** argv) {
     view->InitialViewInfo(&settings, QString(), 0, 0, QString());
     frame.show();
     const CSuperSheetWnd* sheet = dynamic_cast<wirepane::NewsViewAccess*>(view)->sheetOf(0);
-    QTextStream(stdout) << sheet->model()->index(0, 1).data().toString() << '\n';
+    QTextStream(stdout) << sheet->model()->index(0, sheet->column(QStringLiteral("category"))).data().toString() << '\n';
 }
 END
 compile "$work/topics.cpp" "$work/topics"

@@ -54,10 +54,13 @@ protected:
     }
     QString topic(int list, int row) const {
         EXPECT_GT(view->sheetOf(list)->rowCount(), row);
-        return view->sheetOf(list)->model()->index(row, 1).data().toString();
+        return cellText(*view->sheetOf(list), row, "category"_L1);
     }
     QColor colour(int list) const {
-        return view->sheetOf(list)->model()->index(0, 1).data(Qt::ForegroundRole).value<QBrush>().color();
+        return cellOf(*view->sheetOf(list), 0, "category"_L1)
+            .data(Qt::ForegroundRole)
+            .value<QBrush>()
+            .color();
     }
     SCComboBox& combo() const { return *qobject_cast<SCComboBox*>(dlgItem(view.get(), ids::categoryCombo)); }
     QStringList items() const {
@@ -112,7 +115,7 @@ TEST_F(Categories, ANameThatComesLaterReachesTheRowsThatLackIt) {
     view->reloadCategories();
     EXPECT_EQ(topic(0, 2), u"Ships") << "the host has changed its file";
     EXPECT_EQ(topic(0, 1), u"Exchange");
-    EXPECT_EQ(view->sheetOf(0)->model()->index(2, 2).data().toString(), u"s1 9:00");
+    EXPECT_EQ(cellText(*view->sheetOf(0), 2, "title"_L1), u"s1 9:00");
 }
 
 TEST_F(Categories, TheComboLearnsTopicsAndKeepsItsChoice) {
@@ -216,10 +219,10 @@ TEST_F(Categories, WrittenRowsLeaveTheColumnAlone) {
     for (int i = 2; i < 20; ++i)
         push(1, 9, 30, i);
     EXPECT_EQ(resized, 0);
-    EXPECT_EQ(view->sheetOf(0)->colWidth(1), 50);
+    EXPECT_EQ(view->sheetOf(0)->colWidth(view->sheetOf(0)->column(u"category"_s)), 50);
     view->onCommand(ids::changeCategoryState);
     push(1, 9, 31, 30);
-    EXPECT_EQ(view->sheetOf(0)->colWidth(1), 0);
+    EXPECT_EQ(view->sheetOf(0)->colWidth(view->sheetOf(0)->column(u"category"_s)), 0);
 }
 
 }  // namespace wirepane

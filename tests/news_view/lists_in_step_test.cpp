@@ -222,7 +222,7 @@ TEST_F(ListsInStep, ATopicIsNamedByItsServiceWhateverIsShown) {
         QStringList result;
         const CSuperSheetWnd* sheet = view->sheetOf(list);
         for (int row = 0; row < sheet->rowCount(); ++row)
-            result.append(sheet->model()->index(row, 1).data().toString());
+            result.append(cellText(*sheet, row, "category"_L1));
         return result;
     };
     view->SwitchFunction(warrantMode);

@@ -25,7 +25,7 @@ TEST_F(NewsViewTest, OpensWithTheDayNewestFirst) {
     open();
     EXPECT_EQ(titles(0), (QStringList{QStringLiteral("s2 9:10"), QStringLiteral("s1 9:00"),
                                       QStringLiteral("s16 8:00")}));
-    EXPECT_EQ(view->sheetOf(0)->model()->index(2, 1).data().toString(), QStringLiteral("Economy"));
+    EXPECT_EQ(cellText(*view->sheetOf(0), 2, QLatin1StringView("category")), QStringLiteral("Economy"));
     EXPECT_EQ(backEnd.registrations[view.get()], (std::set<unsigned char>{1, 2, 16, 22, 122}));
     CHeadlineTable entry;
     EXPECT_TRUE(view->bGetHeadlineTable(entry, 0, 2));
@@ -116,8 +116,8 @@ TEST_F(NewsViewTest, ListsAreReadAsTheirModeSays) {
     EXPECT_EQ(tablesAsked(2), symbol) << "read at every switch";
     EXPECT_EQ(tablesAsked(5), QStringList{QStringLiteral("table 52 0 20260302")});
     EXPECT_EQ(titles(5), QStringList{QStringLiteral("s52 9:05")});
-    EXPECT_EQ(view->sheetOf(5)->model()->index(0, 1).data().toString(), QStringLiteral("Issue"));
-    EXPECT_EQ(view->sheetOf(5)->model()->index(0, 0).data().toString(), QStringLiteral("03/02 09:05"));
+    EXPECT_EQ(cellText(*view->sheetOf(5), 0, QLatin1StringView("category")), QStringLiteral("Issue"));
+    EXPECT_EQ(cellText(*view->sheetOf(5), 0, QLatin1StringView("time")), QStringLiteral("03/02 09:05"));
     EXPECT_EQ(tablesAsked(5).size(), 1);
     EXPECT_EQ(tablesAsked(0), QStringList());
     std::vector<unsigned char> active;
@@ -326,7 +326,7 @@ TEST_F(NewsViewTest, TheStoryTakesItsShareInThreeWays) {
 TEST_F(NewsViewTest, HidingTheCategoryColumnKeepsTheColumn) {
     open({{QStringLiteral("ShowCategory"), false}});
     const int column = view->sheetOf(0)->column(QStringLiteral("category"));
-    EXPECT_EQ(column, 1);
+    ASSERT_GE(column, 0);
     EXPECT_EQ(view->sheetOf(0)->colWidth(column), 0);
     view->ChangeCurrViewCategoryState(true);
     EXPECT_EQ(view->sheetOf(0)->colWidth(column), 50);

@@ -5,6 +5,7 @@
 #include "host/views/news_control_ids.h"
 #include "story/trv_news_story.h"
 #include "tests/news_view/view_fixture.h"
+#include "tests/support/grid_cells.h"
 
 #include <QTest>
 
@@ -82,8 +83,8 @@ TEST_F(Recovery, SelectedRowsAwaitTheirHeadlines) {
     EXPECT_EQ(requests(ids::recoverHeadline),
               (QStringList{u"again 1 [4 3 1]"_s, u"again 2 [4 3 1]"_s, u"again 16 [4 3 1]"_s}));
     EXPECT_EQ(titles(0), (QStringList{u"..."_s, u"..."_s, u"s1 9:02"_s, u"..."_s}));
-    EXPECT_EQ(sheet.model()->index(0, 0).data().toString(), u"09:04"_s);
-    EXPECT_EQ(sheet.model()->index(0, 1).data().toString(), u"..."_s);
+    EXPECT_EQ(cellText(sheet, 0, "time"_L1), u"09:04"_s);
+    EXPECT_EQ(cellText(sheet, 0, "category"_L1), u"..."_s);
     view->RespHeadLine({view->GetHeadlineTable(3), {0, 77, 1, 0, 0}});
     EXPECT_EQ(titles(0).back(), u"s1 9:01"_s);
     view->vRealUpdateView();

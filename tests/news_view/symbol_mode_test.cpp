@@ -242,14 +242,15 @@ TEST_F(CategoryModeTest, APushedCategoryIsLearnedOnceAtTheNextRefresh) {
 TEST_F(CategoryModeTest, TheColumnFollowsTheUserInViewsOfThreeColumns) {
     view.shown = ListIndex::All;
     settings.showCategory = true;
+    const int column = view.grid()->column(u"category"_s);
     mode.showColumn();
-    EXPECT_EQ(view.grid()->colWidth(1), 50);
+    EXPECT_EQ(view.grid()->colWidth(column), 50);
     mode.toggleColumn();
-    EXPECT_EQ(view.grid()->colWidth(1), 0);
+    EXPECT_EQ(view.grid()->colWidth(column), 0);
     newsType = NewsType::TwoColumns;
     mode.toggleColumn();
     EXPECT_TRUE(settings.showCategory);
-    EXPECT_EQ(view.grid()->colWidth(1), 0);
+    EXPECT_EQ(view.grid()->colWidth(column), 0);
 }
 
 TEST_F(CategoryModeTest, AnUnknownCategoryHasATextAndNoColour) {

@@ -8,6 +8,7 @@
 #include "host/controls/window_id.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "tests/support/fake_back_end.h"
+#include "tests/support/grid_cells.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

@@ -42,14 +42,6 @@ protected:
     Scratch scratch;
 };
 
-QStringList titlesOf(const QJsonObject& grid) {
-    QStringList titles;
-    const QJsonArray cells = grid[u"cells"_s].toArray();
-    for (const QJsonValue& row : cells)
-        titles.append(row.toArray().last().toString());
-    return titles;
-}
-
 TEST_F(AutomationSessionTest, AGridShowsWhatTheFeedBrought) {
     ScriptClient script(arguments());
     script.result(u"feed.push"_s, news(1, u"2026-03-02T09:01:00"_s, 1, u"First & <b>plain</b>"_s));

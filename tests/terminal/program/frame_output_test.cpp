@@ -3,6 +3,7 @@
 // What the desk shows beside the views, the window of breaking news, the print preview, the guide; and what
 // news brings that the views have not met.
 #include "host/controls/super_sheet_wnd.h"
+#include "tests/support/grid_cells.h"
 #include "tests/terminal/program/frame_fixture.h"
 
 #include <QApplication>
@@ -93,7 +94,7 @@ TEST_F(FrameOutputTest, ThePreviewShowsTheSelectedNews) {
 
 TEST_F(FrameOutputTest, ATopicThatIsNewToTheStoreHasItsName) {
     const CSuperSheetWnd& sheet = *session->workspace().active()->access->sheetOf(0);
-    const auto topic = [&sheet] { return sheet.model()->index(0, 1).data().toString(); };
+    const auto topic = [&sheet] { return cellText(sheet, 0, QLatin1StringView("category")); };
     publish(1, u"Zinc rises"_s, u"Metals"_s);
     EXPECT_TRUE(QTest::qWaitFor([&] { return topic() == u"Metals"_s; })) << topic().toStdString();
 }

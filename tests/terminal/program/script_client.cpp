@@ -88,4 +88,16 @@ void ScriptClient::kill() {
     process.waitForFinished(answerMs);
 }
 
+QStringList titlesOf(const QJsonObject& grid) {
+    const QJsonArray columns = grid[QStringLiteral("columns")].toArray();
+    qsizetype title = 0;
+    while (title < columns.size() && columns[title][u"key"] != QStringLiteral("title"))
+        ++title;
+    QStringList titles;
+    const QJsonArray cells = grid[QStringLiteral("cells")].toArray();
+    for (const QJsonValue& row : cells)
+        titles.append(row[title].toString());
+    return titles;
+}
+
 }  // namespace wirepane::test

@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QString>
+#include <QStringList>
 
 namespace wirepane::test {
 
@@ -40,5 +41,8 @@ private:
     QProcess process;
     int lastId = 0;
 };
+
+// The titles of the rows that "grid.read" has answered with.
+QStringList titlesOf(const QJsonObject& grid);
 
 }  // namespace wirepane::test

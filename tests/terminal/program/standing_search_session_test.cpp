@@ -57,12 +57,7 @@ protected:
     }
 
     static QStringList titles(ScriptClient& script, int list) {
-        QStringList titles;
-        const QJsonArray cells =
-            script.result(u"grid.read"_s, QJsonObject{{u"list"_s, list}}).toObject()[u"cells"_s].toArray();
-        for (const QJsonValue& row : cells)
-            titles.append(row.toArray().last().toString());
-        return titles;
+        return titlesOf(script.result(u"grid.read"_s, QJsonObject{{u"list"_s, list}}).toObject());
     }
 
     Scratch scratch;
