@@ -57,30 +57,6 @@ PagePlan planOf(const PageSize& size) {
     return plan;
 }
 
-struct ItemLines {
-    std::vector<QString> title;
-    std::vector<std::vector<QString>> pages;
-};
-
-// The largest pixel size up to `wanted` at which `lines` lines, one line's space above them, and the widest
-// text fit into the box.
-int fittingSize(const QRect& box, int inset, int lines, const std::vector<QString>& texts, int wanted,
-                const TextMeasure& measure) {
-    const auto widest = std::max_element(texts.begin(), texts.end(), [&](const auto& a, const auto& b) {
-        return measure.width(a, wanted) < measure.width(b, wanted);
-    });
-    const auto fits = [&](int size) {
-        return measure.lineHeight(size) * (lines + 1) <= box.height() &&
-               (widest == texts.end() || measure.width(*widest, size) <= box.width() - 2 * inset);
-    };
-    int smallest = 1;
-    for (int above = wanted + 1; above - smallest > 1;) {
-        const int middle = smallest + (above - smallest) / 2;
-        (fits(middle) ? smallest : above) = middle;
-    }
-    return smallest;
-}
-
 // Line n of a box, from 0 on, stands n + 1 lines below its top.
 std::vector<PlacedText> placeLines(const std::vector<QString>& lines, const QRect& box, int inset,
                                    int pixelSize, const TextMeasure& measure) {
@@ -95,30 +71,6 @@ std::vector<PlacedText> placeLines(const std::vector<QString>& lines, const QRec
 
 int middle(int from, int to, int length) {
     return from + (to - from - length) / 2;
-}
-
-struct FontSizes {
-    int page = 0;
-    int title = 0;
-    int body = 0;
-};
-
-FontSizes sizesFor(const std::vector<ItemLines>& items, const PagePlan& plan, int pixelSize,
-                   const TextMeasure& measure) {
-    std::vector<QString> titles;
-    std::vector<QString> bodies;
-    std::size_t titleLines = 1;
-    for (const ItemLines& item : items) {
-        titleLines = std::max(titleLines, item.title.size());
-        titles.insert(titles.end(), item.title.begin(), item.title.end());
-        for (const auto& page : item.pages)
-            bodies.insert(bodies.end(), page.begin(), page.end());
-    }
-    const auto fit = [&](const QRect& box, int lines, const std::vector<QString>& texts) {
-        return fittingSize(box, plan.inset, lines, texts, pixelSize, measure);
-    };
-    return {pixelSize, fit(plan.frames.title, static_cast<int>(titleLines), titles),
-            fit(plan.frames.body, bodyLinesPerPage, bodies)};
 }
 
 // The page without the texts of its story.
@@ -147,40 +99,115 @@ QString withoutLineEnd(QStringView line) {
     return line.toString();
 }
 
+// Takes the lines of one page from the front of a story.
+std::vector<QString> takePage(QStringView& story) {
+    std::vector<QString> page;
+    while (!story.isEmpty() && page.size() < bodyLinesPerPage)
+        page.push_back(withoutLineEnd(takeLine(story)));
+    return page;
+}
+
 }  // namespace
 
 std::vector<std::vector<QString>> bodyPages(QStringView story) {
     std::vector<std::vector<QString>> pages;
-    while (!story.isEmpty()) {
-        std::vector<QString>& page = pages.emplace_back();
-        while (!story.isEmpty() && page.size() < bodyLinesPerPage)
-            page.push_back(withoutLineEnd(takeLine(story)));
-    }
+    while (!story.isEmpty())
+        pages.push_back(takePage(story));
     return pages;
+}
+
+PageMaker::PageMaker(OutputItems news, const PageSize& pageSize, const PageTexts& pageTexts, int fontSize,
+                     const TextMeasure& textMeasure)
+    : items(std::move(news)), size(pageSize), texts(pageTexts), pixelSize(fontSize), measure(textMeasure) {
+    for (const OutputItem& item : items)
+        characters += item.story.size();
+}
+
+bool PageMaker::step() {
+    if (!rest.isEmpty())
+        readPage();
+    else if (lines.size() < items.size())
+        readItem();
+    else if (placedItem < lines.size())
+        placePage();
+    else
+        return false;
+    return true;
+}
+
+// Reading and placing take about as long.
+double PageMaker::progress() const {
+    const auto part = [](auto done, auto all) {
+        return all == 0 ? 0 : static_cast<double>(done) / static_cast<double>(all);
+    };
+    return (part(charactersRead, characters) + part(made.size(), pageCount)) / 2;
+}
+
+void PageMaker::readItem() {
+    const OutputItem& item = items[lines.size()];
+    ItemLines& itemLines = lines.emplace_back();
+    for (const QStringView line : titleLines(item.title, item.wholeTitle))
+        itemLines.title.push_back(line.toString());
+    mostTitleLines = std::max(mostTitleLines, itemLines.title.size());
+    take(widestTitle, itemLines.title);
+    rest = item.story;
+}
+
+void PageMaker::readPage() {
+    const qsizetype before = rest.size();
+    take(widestBody, lines.back().pages.emplace_back(takePage(rest)));
+    charactersRead += before - rest.size();
+    ++pageCount;
+}
+
+void PageMaker::take(Widest& widest, const std::vector<QString>& candidates) const {
+    for (const QString& text : candidates) {
+        if (const int width = measure.width(text, pixelSize); width > widest.width)
+            widest = {text, width};
+    }
+}
+
+// The largest size up to that of the page at which the lines, one line's space above them, and the widest
+// text fit into the box.
+int PageMaker::fittingSize(const QRect& box, std::size_t lineCount, const Widest& widest) const {
+    const int inset = planOf(size).inset;
+    const auto fits = [&](int candidate) {
+        return measure.lineHeight(candidate) * static_cast<int>(lineCount + 1) <= box.height() &&
+               measure.width(widest.text, candidate) <= box.width() - 2 * inset;
+    };
+    int smallest = 1;
+    for (int above = pixelSize + 1; above - smallest > 1;) {
+        const int middle = smallest + (above - smallest) / 2;
+        (fits(middle) ? smallest : above) = middle;
+    }
+    return smallest;
+}
+
+void PageMaker::placePage() {
+    const ItemLines& item = lines[placedItem];
+    if (placedPage == item.pages.size()) {
+        ++placedItem;
+        placedPage = 0;
+        return;
+    }
+    const PagePlan plan = planOf(size);
+    if (made.empty()) {
+        titleSize = fittingSize(plan.frames.title, mostTitleLines, widestTitle);
+        bodySize = fittingSize(plan.frames.body, bodyLinesPerPage, widestBody);
+    }
+    const std::vector<QString>& body = item.pages[placedPage++];
+    PrintedPage page = commonPage(plan, size, texts, static_cast<int>(placedPage), pixelSize, measure);
+    page.title = placeLines(item.title, plan.frames.title, plan.inset, titleSize, measure);
+    page.body = placeLines(body, plan.frames.body, plan.inset, bodySize, measure);
+    made.push_back(std::move(page));
 }
 
 std::vector<PrintedPage> layOutPages(const OutputItems& items, const PageSize& size, const PageTexts& texts,
                                      int pixelSize, const TextMeasure& measure) {
-    std::vector<ItemLines> lines;
-    for (const OutputItem& item : items) {
-        ItemLines& itemLines = lines.emplace_back();
-        for (const QStringView line : titleLines(item.title, item.wholeTitle))
-            itemLines.title.push_back(line.toString());
-        itemLines.pages = bodyPages(item.story);
-    }
-    const PagePlan plan = planOf(size);
-    const FontSizes sizes = sizesFor(lines, plan, pixelSize, measure);
-    std::vector<PrintedPage> pages;
-    for (const ItemLines& item : lines) {
-        int number = 0;
-        for (const auto& body : item.pages) {
-            PrintedPage page = commonPage(plan, size, texts, ++number, sizes.page, measure);
-            page.title = placeLines(item.title, plan.frames.title, plan.inset, sizes.title, measure);
-            page.body = placeLines(body, plan.frames.body, plan.inset, sizes.body, measure);
-            pages.push_back(std::move(page));
-        }
-    }
-    return pages;
+    PageMaker maker(items, size, texts, pixelSize, measure);
+    while (maker.step())
+        continue;
+    return maker.takePages();
 }
 
 }  // namespace wirepane

@@ -2,17 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/printed_page.h"
 #include "output/output_item.h"
 
-#include <QPoint>
-#include <QRect>
 #include <QString>
 
 #include <vector>
 
 namespace wirepane {
 
-// The printed pages as a value: where every frame and every text stands. Drawing adds nothing to it. Pure.
+// Lays news out on printed pages. Pure.
 
 // The printable area of a page, in device pixels and millimetres.
 struct PageSize {
@@ -38,40 +37,70 @@ struct PageTexts {
     QString date;
 };
 
-// A text by its top left corner.
-struct PlacedText {
-    QPoint topLeft;
-    QString text;
-    int pixelSize = 0;
-
-    bool operator==(const PlacedText&) const = default;
-};
-
-struct PageFrames {
-    QRect outer;
-    QRect inner;
-    QRect title;
-    QRect body;
-    QRect footer;
-};
-
-struct PrintedPage {
-    int number = 0;  // from 1 on within each story
-    PageFrames frames;
-    PlacedText heading;
-    PlacedText date;
-    PlacedText pageNumber;
-    std::vector<PlacedText> title;
-    std::vector<PlacedText> body;
-};
-
 inline constexpr int bodyLinesPerPage = 49;
 
 // A story in the lines of its pages, without their line ends. Empty for an empty story.
 std::vector<std::vector<QString>> bodyPages(QStringView story);
 
-// The pages of the items, in their order. `pixelSize` is that of the page's font; titles and bodies keep it
-// where they fit their boxes, otherwise all titles, or all bodies, are scaled down evenly until they do.
+// Makes the pages of news, one at a time: each step takes a millisecond or less. `pixelSize` is that of the
+// page's font; titles and bodies keep it where they fit their boxes, otherwise all titles, or all bodies, are
+// scaled down evenly until they do.
+class PageMaker {
+public:
+    // `measure` outlives it.
+    PageMaker(OutputItems items, const PageSize& size, const PageTexts& texts, int pixelSize,
+              const TextMeasure& measure);
+    PageMaker(const PageMaker&) = delete;
+    PageMaker& operator=(const PageMaker&) = delete;
+
+    // False: there is nothing left to do.
+    bool step();
+    // How much is done, from 0 to 1.
+    double progress() const;
+    // The pages of the items, in their order; none for a story that is empty.
+    std::vector<PrintedPage> takePages() { return std::move(made); }
+
+private:
+    struct ItemLines {
+        std::vector<QString> title;
+        std::vector<std::vector<QString>> pages;
+    };
+    // The widest of many texts, in the page's font.
+    struct Widest {
+        QString text;
+        int width = 0;
+    };
+
+    void readItem();
+    void readPage();
+    void placePage();
+    void take(Widest& widest, const std::vector<QString>& texts) const;
+    int fittingSize(const QRect& box, std::size_t lineCount, const Widest& widest) const;
+
+    const OutputItems items;
+    const PageSize size;
+    const PageTexts texts;
+    const int pixelSize;
+    const TextMeasure& measure;
+    qsizetype characters = 0;  // of all stories
+    qsizetype charactersRead = 0;
+
+    // First the stories are read into lines: sizes depend on all of them.
+    QStringView rest;  // of the story that is being read
+    std::vector<ItemLines> lines;
+    std::size_t mostTitleLines = 1;
+    std::size_t pageCount = 0;
+    Widest widestTitle;
+    Widest widestBody;
+    // Then pages are made of the lines.
+    std::size_t placedItem = 0;
+    std::size_t placedPage = 0;  // of the item
+    int titleSize = 0;
+    int bodySize = 0;
+    std::vector<PrintedPage> made;
+};
+
+// The same in one go.
 std::vector<PrintedPage> layOutPages(const OutputItems& items, const PageSize& size, const PageTexts& texts,
                                      int pixelSize, const TextMeasure& measure);
 

@@ -3,23 +3,23 @@
 #include "output/page_printing.h"
 
 #include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
+#include "host/contract/page_font.h"
+#include "host/contract/sync_info.h"
 #include "host/controls/heap_dialog.h"
-#include "output/page_font.h"
-#include "output/pdf_characters.h"
-#include "output/whole_file.h"
 
 #include <QBuffer>
 #include <QDateTime>
 #include <QDir>
 #include <QFontMetrics>
-#include <QPainter>
 #include <QPdfWriter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
 #include <algorithm>
 #include <map>
+#include <optional>
 
 namespace wirepane {
 
@@ -27,18 +27,17 @@ namespace {
 
 constexpr int pointSize = 12;
 constexpr int pointsPerInch = 72;
-constexpr int framesPerInch = 150;  // a frame is drawn that fraction of an inch wide
-constexpr int pdfResolution = 1200;
+constexpr int longestFaceName = 31;
 constexpr qreal pdfMarginMm = 10;
 constexpr QSize previewSize{900, 800};
 
 class DeviceMeasure : public TextMeasure {
 public:
-    DeviceMeasure(QPagedPaintDevice& paintDevice, BKQuoteInterface& newsBackEnd)
-        : device(paintDevice), backEnd(newsBackEnd) {}
+    DeviceMeasure(QPagedPaintDevice& paintDevice, QStringList fontFamilies)
+        : device(paintDevice), families(std::move(fontFamilies)) {}
 
     int lineHeight(int pixelSize) const override {
-        const QFontMetrics metrics = metricsOf(pixelSize, Shaping::None);
+        const QFontMetrics& metrics = metricsOf(pixelSize, Shaping::None);
         return metrics.height() + std::max(metrics.leading(), 0);
     }
     int width(const QString& text, int pixelSize) const override {
@@ -50,39 +49,14 @@ private:
         const auto found = known.find({pixelSize, shaping});
         if (found != known.end())
             return found->second;
-        const QFontMetrics metrics(pageFont(backEnd, pixelSize, shaping), &device);
+        const QFontMetrics metrics(pageFont(families, pixelSize, shaping), &device);
         return known.emplace(std::pair(pixelSize, shaping), metrics).first->second;
     }
 
     QPagedPaintDevice& device;
-    BKQuoteInterface& backEnd;
+    const QStringList families;
     mutable std::map<std::pair<int, Shaping>, QFontMetrics> known;
 };
-
-void drawText(QPainter& painter, BKQuoteInterface& backEnd, const PlacedText& text) {
-    painter.setFont(pageFont(backEnd, text.pixelSize, shapingFor(text.text)));
-    painter.drawText(text.topLeft + QPoint(0, painter.fontMetrics().ascent()), text.text);
-}
-
-// The frame lies inside its rectangle.
-void drawFrame(QPainter& painter, const QRect& frame, int width) {
-    const int half = width / 2;
-    painter.drawRect(frame.adjusted(half, half, half - width, half - width));
-}
-
-void drawPage(QPainter& painter, BKQuoteInterface& backEnd, const PrintedPage& page) {
-    const int width = std::max(painter.device()->logicalDpiY() / framesPerInch, 1);
-    painter.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    for (const QRect& frame :
-         {page.frames.outer, page.frames.inner, page.frames.footer, page.frames.title, page.frames.body})
-        drawFrame(painter, frame, width);
-    for (const PlacedText& text : {page.date, page.pageNumber, page.heading})
-        drawText(painter, backEnd, text);
-    for (const std::vector<PlacedText>& lines : {page.title, page.body}) {
-        for (const PlacedText& line : lines)
-            drawText(painter, backEnd, line);
-    }
-}
 
 NewsOutcome failure(BKQuoteInterface& backEnd, const QString& where, const QString& why) {
     NewsOutcome outcome;
@@ -102,93 +76,115 @@ std::optional<QPageSize> paperNamed(const QString& name) {
     return std::nullopt;
 }
 
-QString charactersOf(const std::vector<PrintedPage>& pages) {
-    QString characters;
-    for (const PrintedPage& page : pages) {
-        characters += page.heading.text + page.date.text + page.pageNumber.text;
-        for (const auto* lines : {&page.title, &page.body}) {
-            for (const PlacedText& line : *lines)
-                characters += line.text;
-        }
-    }
-    return characters;
+std::shared_ptr<PagesToPaint> pdfPages(const QString& file, const QPageLayout& layout,
+                                       BKQuoteInterface& backEnd) {
+    auto pages = std::make_shared<PagesToPaint>();
+    pages->families = pageFamilies(backEnd);
+    pages->file = file;
+    pages->title = langText(backEnd, keys::printDocument);
+    pages->layout = layout;
+    return pages;
 }
 
-NewsOutcome writePdf(const QString& file, const QPageLayout& layout, BKQuoteInterface& backEnd,
-                     const OutputItems& items) {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    NewsOutcome outcome;
-    QString drawn;
-    {
-        QPdfWriter writer(&buffer);
-        writer.setTitle(langText(backEnd, keys::printDocument));
-        writer.setResolution(pdfResolution);
-        writer.setPageLayout(layout);
-        const auto pages = pagesOn(writer, backEnd, items);
-        if (pages.empty() || !drawPages(writer, backEnd, pages))
-            return outcome;
-        outcome.count = static_cast<int>(pages.size());
-        drawn = charactersOf(pages);
-    }
-    QByteArray& pdf = buffer.buffer();
-    nameDrawnCharacters(pdf, drawn, pageFont(backEnd, pointSize, Shaping::None));
-    if (const auto why = writeWholeFile(file, pdf))
-        return failure(backEnd, QDir::toNativeSeparators(file), *why);
-    return outcome;
+NewsOutcome paintInOneGo(const std::shared_ptr<PagesToPaint>& pages, BKQuoteInterface& backEnd,
+                         const OutputItems& items) {
+    pages->pages = PageMaking(*pages, backEnd, items).allPages();
+    return pages->pages.empty() ? NewsOutcome() : outcomeOf(*pages, paintPages(*pages), backEnd);
 }
 
 }  // namespace
 
-std::vector<PrintedPage> pagesOn(QPagedPaintDevice& device, BKQuoteInterface& backEnd,
-                                 const OutputItems& items) {
-    const QDateTime now = QDateTime::fromSecsSinceEpoch(host_clock::now());
-    const PageTexts texts{langText(backEnd, keys::printHeading),
-                          now.toString(QStringLiteral("yyyy/MM/dd HH:mm"))};
-    const PageSize size{device.width(), device.height(), device.widthMM(), device.heightMM()};
-    const int pixelSize = (2 * pointSize * device.logicalDpiY() + pointsPerInch) / (2 * pointsPerInch);
-    return layOutPages(items, size, texts, pixelSize, DeviceMeasure(device, backEnd));
+QStringList pageFamilies(BKQuoteInterface& backEnd) {
+    return QStringList{langText(backEnd, keys::printFont).left(longestFaceName)} +
+           CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont().families();
 }
 
-bool drawPages(QPagedPaintDevice& device, BKQuoteInterface& backEnd, const std::vector<PrintedPage>& pages) {
-    QPainter painter;
-    if (!painter.begin(&device))
-        return false;
-    for (std::size_t i = 0; i < pages.size(); ++i) {
-        if (i > 0 && !device.newPage())
-            return false;
-        drawPage(painter, backEnd, pages[i]);
-    }
-    return painter.end();
-}
-
-NewsOutcome printItems(QPrinter& printer, BKQuoteInterface& backEnd, const OutputItems& items) {
-    if (!printer.outputFileName().isEmpty())
-        return writePdf(printer.outputFileName(), printer.pageLayout(), backEnd, items);
-    printer.setDocName(langText(backEnd, keys::printDocument));
-    const auto pages = pagesOn(printer, backEnd, items);
-    NewsOutcome outcome;
-    if (pages.empty())
-        return outcome;
+std::shared_ptr<PagesToPaint> pagesFor(const std::shared_ptr<QPrinter>& printer, BKQuoteInterface& backEnd) {
+    if (!printer->outputFileName().isEmpty())
+        return pdfPages(printer->outputFileName(), printer->pageLayout(), backEnd);
+    printer->setDocName(langText(backEnd, keys::printDocument));
+    auto pages = std::make_shared<PagesToPaint>();
+    pages->families = pageFamilies(backEnd);
     // A printer that makes no copies by itself is given all pages again.
-    const int times = printer.supportsMultipleCopies() ? 1 : std::max(printer.copyCount(), 1);
-    std::vector<PrintedPage> all;
-    for (int i = 0; i < times; ++i)
-        all.insert(all.end(), pages.begin(), pages.end());
-    if (!printer.isValid() || !drawPages(printer, backEnd, all) || printer.printerState() == QPrinter::Error)
-        return failure(backEnd, printer.printerName(), langText(backEnd, keys::printerGone));
-    outcome.count = static_cast<int>(pages.size());
-    return outcome;
+    pages->times = printer->supportsMultipleCopies() ? 1 : std::max(printer->copyCount(), 1);
+    pages->device = printer;
+    pages->abort = [printer = printer.get()] { printer->abort(); };
+    return pages;
 }
 
-NewsOutcome printItemsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const OutputItems& items) {
+std::variant<std::shared_ptr<PagesToPaint>, NewsOutcome> pagesForPdf(const OutputTarget& target,
+                                                                     BKQuoteInterface& backEnd) {
     const auto paper = paperNamed(target.paper);
     if (!paper)
         return failure(backEnd, QDir::toNativeSeparators(target.file),
                        langText(backEnd, keys::noSuchPaper).arg(target.paper));
     const QMarginsF margins(pdfMarginMm, pdfMarginMm, pdfMarginMm, pdfMarginMm);
-    return writePdf(target.file, QPageLayout(*paper, QPageLayout::Portrait, margins, QPageLayout::Millimeter),
-                    backEnd, items);
+    return pdfPages(target.file, QPageLayout(*paper, QPageLayout::Portrait, margins, QPageLayout::Millimeter),
+                    backEnd);
+}
+
+// A PDF's paper. Nothing is written.
+struct PageMaking::PdfPaper {
+    explicit PdfPaper(const QPageLayout& layout) : writer(&nowhere) {
+        writer.setResolution(pdfResolution);
+        writer.setPageLayout(layout);
+    }
+
+    QBuffer nowhere;
+    QPdfWriter writer;
+};
+
+PageMaking::PageMaking(const PagesToPaint& destination, BKQuoteInterface& backEnd, const OutputItems& items)
+    : paper(destination.device != nullptr ? nullptr : std::make_unique<PdfPaper>(destination.layout)),
+      maker(makerOn(paper != nullptr ? static_cast<QPagedPaintDevice&>(paper->writer) : *destination.device,
+                    backEnd, items)) {}
+
+PageMaking::PageMaking(QPagedPaintDevice& device, BKQuoteInterface& backEnd, const OutputItems& items)
+    : maker(makerOn(device, backEnd, items)) {}
+
+PageMaking::~PageMaking() = default;
+
+std::unique_ptr<PageMaker> PageMaking::makerOn(QPagedPaintDevice& device, BKQuoteInterface& backEnd,
+                                               const OutputItems& items) {
+    const QDateTime now = QDateTime::fromSecsSinceEpoch(host_clock::now());
+    const PageTexts texts{langText(backEnd, keys::printHeading),
+                          now.toString(QStringLiteral("yyyy/MM/dd HH:mm"))};
+    const PageSize size{device.width(), device.height(), device.widthMM(), device.heightMM()};
+    const int pixelSize = (2 * pointSize * device.logicalDpiY() + pointsPerInch) / (2 * pointsPerInch);
+    measure = std::make_unique<DeviceMeasure>(device, pageFamilies(backEnd));
+    return std::make_unique<PageMaker>(items, size, texts, pixelSize, *measure);
+}
+
+std::vector<PrintedPage> PageMaking::allPages() {
+    while (step())
+        continue;
+    return takePages();
+}
+
+NewsOutcome outcomeOf(const PagesToPaint& pages, const PaintOutcome& painted, BKQuoteInterface& backEnd) {
+    const auto* printer = static_cast<const QPrinter*>(pages.device.get());
+    NewsOutcome outcome;
+    if (painted.result == PaintResult::Stopped)
+        return outcome;
+    if (printer == nullptr && painted.result == PaintResult::Failed)
+        return failure(backEnd, QDir::toNativeSeparators(pages.file), painted.why);
+    if (printer != nullptr &&
+        (painted.result == PaintResult::Failed || printer->printerState() == QPrinter::Error))
+        return failure(backEnd, printer->printerName(), langText(backEnd, keys::printerGone));
+    outcome.count = static_cast<int>(pages.pages.size());
+    return outcome;
+}
+
+NewsOutcome printItems(const std::shared_ptr<QPrinter>& printer, BKQuoteInterface& backEnd,
+                       const OutputItems& items) {
+    return paintInOneGo(pagesFor(printer, backEnd), backEnd, items);
+}
+
+NewsOutcome printItemsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const OutputItems& items) {
+    const auto pages = pagesForPdf(target, backEnd);
+    if (const auto* cannot = std::get_if<NewsOutcome>(&pages))
+        return *cannot;
+    return paintInOneGo(std::get<0>(pages), backEnd, items);
 }
 
 void previewItems(BKQuoteInterface& backEnd, const OutputItems& items, QWidget* parent) {
@@ -197,7 +193,8 @@ void previewItems(BKQuoteInterface& backEnd, const OutputItems& items, QWidget* 
     const HeapDialog dialog(new QPrintPreviewDialog(&printer, parent));
     QObject::connect(dialog.get(), &QPrintPreviewDialog::paintRequested, dialog.get(),
                      [&backEnd, &items](QPrinter* device) {
-                         drawPages(*device, backEnd, pagesOn(*device, backEnd, items));
+                         drawPages(*device, PageMaking(*device, backEnd, items).allPages(),
+                                   pageFamilies(backEnd));
                      });
     dialog->resize(previewSize);
     dialog->exec();

@@ -164,9 +164,9 @@ NewsOutcome TRVNewsPrint::output(const OutputItems& items, QWidget* parent,
     BKQuoteInterface& news = backEnd;
     if (target)
         return printItemsToPdf(*target, news, items);
-    QPrinter printer(QPrinter::HighResolution);
+    const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
     const std::shared_ptr<bool> here = alive;
-    if (!dialogs.askPrinter(printer, parent) || !*here)
+    if (!dialogs.askPrinter(*printer, parent) || !*here)
         return {};
     return printItems(printer, news, items);
 }

@@ -3,10 +3,10 @@
 #include "output/trv_save_to_file.h"
 
 #include "headline_list/language_keys.h"
+#include "host/contract/whole_file.h"
 #include "output/page_printing.h"
 #include "output/printable_story.h"
 #include "output/saved_text.h"
-#include "output/whole_file.h"
 
 #include <QDir>
 

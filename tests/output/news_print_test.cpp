@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "output/page_font.h"
+#include "host/contract/page_font.h"
+#include "host/contract/whole_file.h"
 #include "output/page_printing.h"
 #include "output/trv_save_to_file.h"
-#include "output/whole_file.h"
 #include "tests/support/fake_back_end.h"
 
 #include <QBuffer>
@@ -289,10 +289,10 @@ TEST_F(NewsPrintTest, APrinterThatIsGoneIsTold) {
     backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_PRINT_FAILED"_s, u"print %1: %2"_s);
     backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE"_s, u"gone"_s);
     TRVNewsPrint job(backEnd, answers, window);
-    QPrinter printer;
-    printer.setOutputFormat(QPrinter::NativeFormat);
-    printer.setPrinterName(u"No such printer"_s);
-    printer.setOutputFileName({});
+    const auto printer = std::make_shared<QPrinter>();
+    printer->setOutputFormat(QPrinter::NativeFormat);
+    printer->setPrinterName(u"No such printer"_s);
+    printer->setOutputFileName({});
     const NewsOutcome outcome = printItems(printer, backEnd, gather(job, {1}));
     if (outcome.count > 0)
         GTEST_SKIP() << "every printer's name is taken here";
@@ -358,12 +358,12 @@ TEST_F(NewsPrintTest, PagesAreSetInTwelvePointsOfTheFaceThatTheLanguageNames) {
     for (const int resolution : {72, 600, 1200}) {
         writer.setResolution(resolution);
         TRVNewsPrint job(backEnd, answers, window);
-        const auto pages = pagesOn(writer, backEnd, gather(job, {1}));
+        const auto pages = PageMaking(writer, backEnd, gather(job, {1})).allPages();
         ASSERT_EQ(pages.size(), 1U);
         EXPECT_EQ(pages[0].heading.pixelSize, resolution / 6);
         EXPECT_EQ(pages[0].title[0].pixelSize, resolution / 6) << "what fits is not made smaller";
     }
-    const QFont font = pageFont(backEnd, 200, Shaping::None);
+    const QFont font = pageFont(pageFamilies(backEnd), 200, Shaping::None);
     EXPECT_EQ(font.families().first(), u"Noto Sans Mono CJK TC, and what "_s.left(31));
     EXPECT_EQ(font.weight(), QFont::Normal);
 }
@@ -371,8 +371,10 @@ TEST_F(NewsPrintTest, PagesAreSetInTwelvePointsOfTheFaceThatTheLanguageNames) {
 // In the face of the program's own languages, columns stand.
 TEST_F(NewsPrintTest, AChineseCharacterIsAsWideAsTwoLetters) {
     backEnd.texts.insert(u"IDS_SINGLETON-STRING_FONTNAME"_s, u"Noto Sans Mono CJK TC"_s);
-    const QFontMetrics metrics(pageFont(backEnd, 100, Shaping::None));
-    if (!QFontInfo(pageFont(backEnd, 100, Shaping::None)).family().startsWith(u"Noto Sans Mono CJK"_s))
+    const QFontMetrics metrics(pageFont(pageFamilies(backEnd), 100, Shaping::None));
+    if (!QFontInfo(pageFont(pageFamilies(backEnd), 100, Shaping::None))
+             .family()
+             .startsWith(u"Noto Sans Mono CJK"_s))
         GTEST_SKIP() << "the face is not installed";
     for (const QString& pair : {u"ii"_s, u"WW"_s, u"1."_s, u"  "_s, u"聞"_s, u"：　"_s.left(1), u"─"_s})
         EXPECT_EQ(metrics.horizontalAdvance(pair), 100) << pair.toStdString();
@@ -399,7 +401,7 @@ TEST_F(NewsPrintTest, EveryFrameIsDrawnInsideItsRectangle) {
     writer.setResolution(pdfDotsPerInch);
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
                                      QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter));
-    const PageFrames frames = pagesOn(writer, backEnd, items)[0].frames;
+    const PageFrames frames = PageMaking(writer, backEnd, items).allPages()[0].frames;
     for (const QRect& frame : {frames.outer, frames.inner, frames.title, frames.body, frames.footer}) {
         const auto onPage = [](int place) { return place * dotsPerInch / pdfDotsPerInch + marginDots; };
         const int left = onPage(frame.left());

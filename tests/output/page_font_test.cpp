@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "output/page_font.h"
+#include "host/contract/page_font.h"
 
-#include "output/pdf_characters.h"
+#include "host/contract/pdf_characters.h"
 
 #include <gtest/gtest.h>
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QByteArray>
 #include <QIODevice>
 #include <QString>
@@ -12,7 +14,7 @@ namespace wirepane {
 
 // Writes a file as a whole: a file of this name that exists is replaced when the new one is complete, and
 // stays as it is otherwise. `mode` may add QIODevice::Text. The reason when it failed.
-std::optional<QString> writeWholeFile(const QString& file, const QByteArray& bytes,
-                                      QIODevice::OpenMode mode = QIODevice::NotOpen);
+WIREPANE_CONTRACT_EXPORT std::optional<QString> writeWholeFile(const QString& file, const QByteArray& bytes,
+                                                               QIODevice::OpenMode mode = QIODevice::NotOpen);
 
 }  // namespace wirepane

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "output/pdf_characters.h"
+#include "host/contract/pdf_characters.h"
 
 #include <QGlyphRun>
 #include <QRawFont>

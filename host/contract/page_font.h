@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QFont>
-#include <QString>
+#include "host/contract/export.h"
 
-class BKQuoteInterface;
+#include <QFont>
+#include <QStringList>
 
 namespace wirepane {
 
@@ -17,10 +17,9 @@ enum class Shaping {
 };
 
 // What the text needs: Full where its characters join, turn around or stand over one another.
-Shaping shapingFor(const QString& text);
+WIREPANE_CONTRACT_EXPORT Shaping shapingFor(const QString& text);
 
-// The font of printed pages: the face that the language in force names, and for what it lacks those of the
-// host. A size below 1 counts as 1.
-QFont pageFont(BKQuoteInterface& backEnd, int pixelSize, Shaping shaping);
+// The font of printed pages: of the first of these families that has a character. A size below 1 counts as 1.
+WIREPANE_CONTRACT_EXPORT QFont pageFont(const QStringList& families, int pixelSize, Shaping shaping);
 
 }  // namespace wirepane

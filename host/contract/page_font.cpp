@@ -1,10 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "output/page_font.h"
-
-#include "headline_list/language_keys.h"
-#include "host/contract/bk_quote_interface.h"
-#include "host/contract/sync_info.h"
+#include "host/contract/page_font.h"
 
 #include <algorithm>
 
@@ -12,7 +8,6 @@ namespace wirepane {
 
 namespace {
 
-constexpr int longestFaceName = 31;
 constexpr char32_t firstWholeHangul = 0x3130;  // those before are parts that join
 
 bool standsByItself(char32_t character) {
@@ -40,10 +35,9 @@ Shaping shapingFor(const QString& text) {
     return std::all_of(characters.begin(), characters.end(), standsByItself) ? Shaping::None : Shaping::Full;
 }
 
-QFont pageFont(BKQuoteInterface& backEnd, int pixelSize, Shaping shaping) {
+QFont pageFont(const QStringList& families, int pixelSize, Shaping shaping) {
     QFont font;
-    font.setFamilies(QStringList{langText(backEnd, keys::printFont).left(longestFaceName)} +
-                     CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont().families());
+    font.setFamilies(families);
     // Lines are counted in half widths: tables stand in columns where the face counts so too.
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);

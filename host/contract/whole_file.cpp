@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "output/whole_file.h"
+#include "host/contract/whole_file.h"
 
 #include <QFile>
 #include <QFileInfo>
