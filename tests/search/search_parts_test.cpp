@@ -3,6 +3,7 @@
 // Conditions, keywords and recent searches, and what is kept of them.
 #include "headline_list/language_keys.h"
 #include "host/contract/cfg_io.h"
+#include "host/contract/search_choices.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "search/search_desk.h"
 #include "search/search_edit2.h"
@@ -162,6 +163,25 @@ TEST(SearchDesk, TellsAnswersApart) {
     EXPECT_EQ(desk.ordinary, narrowed);
     EXPECT_TRUE(desk.second.symbols.empty());
     EXPECT_EQ(desk.kindOfAnswer(narrowed), TableKind::Search);
+}
+
+TEST(SearchDesk, AQuickSearchKeepsTheSymbolsOfItsOwnWord) {
+    FakeBackEnd backEnd;
+    SearchDesk desk(backEnd);
+    const std::vector<CSymbolInfo> symbols{{16, u"2330"_s}};
+    const std::tuple<QString, bool, std::vector<CSymbolInfo>> cases[] = {
+        {u"tin"_s, true, {}}, {u"tin"_s, false, symbols}, {u"zinc"_s, true, {}}};
+    for (const auto& [word, isOther, kept] : cases) {
+        desk.ordinary.symbols = symbols;
+        desk.ordinary.scope = numberOf(SearchScope::Stories);
+        EXPECT_EQ(desk.takeSearchText(word), isOther);
+        desk.takeQuickSearch(word, 99);
+        CSearch expected = condition({word});
+        expected.symbols = kept;
+        EXPECT_EQ(desk.ordinary, expected);
+        EXPECT_EQ(desk.ordinary.time, 99);
+    }
+    EXPECT_EQ(desk.searchHistory(), (std::vector{u"tin"_s, u"zinc"_s}));
 }
 
 TEST(RelatedQuotes, ASymbolWithoutAMarketIsThatOfTheFirstThatHasItsCode) {
