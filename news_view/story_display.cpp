@@ -184,11 +184,12 @@ void StoryDisplay::listRelatedSymbols() {
     const NewsStoryView* pane = around.stage.storyPane();
     if (quotes == nullptr || pane == nullptr)
         return;
-    const auto entry = view.listOf(view.shownList()).headlineTable().entryAt(pane->GetHeadLinePos());
-    if (!entry)
+    // Not what stands at the pane's row by now: the headline may have left it.
+    const auto& shown = pane->headlinePointedAt();
+    if (!shown)
         return;
     CNewsSymLst related;
-    backEnd.BKNEWS_GetSymbolListBySeqNo(related, *entry);
+    backEnd.BKNEWS_GetSymbolListBySeqNo(related, *shown);
     quotes->setSymbolList(related);
 }
 

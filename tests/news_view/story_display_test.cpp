@@ -284,8 +284,14 @@ TEST_F(StoryDisplayTest, RelatedSymbolsAreThoseOfTheHeadlineShown) {
     info.headline = keyOf(view.entryAt(ListIndex::All, 1));
     story.takeRelatedSymbols(info);
     EXPECT_EQ(quotes->quoteTable().size(), 2);
+    const HeadlinePlace left = view.lists[ListIndex::All].takeOut(1);
+    story.keepThrough(ListIndex::All, left);
+    story.listRelatedSymbols();
+    EXPECT_EQ(quotes->quoteTable().size(), 2) << "another headline stands at its row by now";
     story.clear();
     EXPECT_EQ(quotes->quoteTable().size(), 0);
+    story.listRelatedSymbols();
+    EXPECT_EQ(quotes->quoteTable().size(), 0) << "nothing is shown";
 }
 
 }  // namespace wirepane
