@@ -51,7 +51,7 @@ const QString* CategoryCatalogue::nameOf(int id) const {
     return found == names.end() ? nullptr : &found->second;
 }
 
-int CategoryCatalogue::GetCategoryIDbyName(const QString& name) const {
+int CategoryCatalogue::idOf(const QString& name) const {
     const auto found = idsByName.find(name);
     return found == idsByName.end() ? -1 : found->second;
 }

@@ -25,7 +25,7 @@ public:
     // The short name; null when the id is unknown.
     const QString* nameOf(int id) const;
     // The id of exactly this name; -1 when there is none.
-    int GetCategoryIDbyName(const QString& name) const;
+    int idOf(const QString& name) const;
 
     bool operator==(const CategoryCatalogue&) const = default;
 

@@ -169,7 +169,7 @@ void ControlSet::addTab(ListIndex mode) {
         strip->appendTab(langText(backEnd, modeOf(mode).captionKey), static_cast<int>(mode));
 }
 
-int ControlSet::iGetTabIndex(int mode) const {
+int ControlSet::tabIndexOf(int mode) const {
     const auto* strip = find<CXTPTabControl>(ids::tabStrip);
     for (int i = 0; strip != nullptr && i < strip->count(); ++i) {
         if (strip->itemData(i) == mode)
@@ -178,7 +178,7 @@ int ControlSet::iGetTabIndex(int mode) const {
     return 0;
 }
 
-void ControlSet::ShowHideCtrObject(ListIndex mode) {
+void ControlSet::showControlsOf(ListIndex mode) {
     const auto shown = modeOf(mode).controls;
     for (const int id : switchableControls()) {
         if (QWidget* control = controls.value(id))
@@ -193,14 +193,14 @@ void ControlSet::place(const ViewLayout& layout) {
     }
 }
 
-void ControlSet::vSetFont(const QFont& font) {
+void ControlSet::setFont(const QFont& font) {
     for (const Placement& placement : placements) {
         if (QWidget* control = controls.value(placement.id))
             control->setFont(font);
     }
 }
 
-void ControlSet::vLoadLanguageString() {
+void ControlSet::loadTexts() {
     // Several views share a window, in which no key can stand for a button of each: they have shortcuts.
     for (const ButtonText& text : buttonTexts) {
         if (auto* button = find<SButton>(text.id))

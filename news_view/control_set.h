@@ -37,14 +37,14 @@ public:
     // Adds the mode's tab, when there is a tab strip.
     void addTab(ListIndex mode);
     // The index of the mode's tab; 0 when there is none.
-    int iGetTabIndex(int mode) const;
+    int tabIndexOf(int mode) const;
 
     // Shows the controls of the mode and hides the other switchable ones.
-    void ShowHideCtrObject(ListIndex mode);
+    void showControlsOf(ListIndex mode);
     void place(const ViewLayout& layout);
-    void vSetFont(const QFont& font);
+    void setFont(const QFont& font);
     // Sets every text in the language in force.
-    void vLoadLanguageString();
+    void loadTexts();
 
     // A control of a kind by its number; null when there is none.
     template <class Control>

@@ -50,7 +50,7 @@ void Modes::switchTo(ListIndex next) {
 }
 
 void Modes::showParts(ListIndex of) {
-    parts.controls.ShowHideCtrObject(of);
+    parts.controls.showControlsOf(of);
     for (const ListKind& kind : listKinds) {
         if (CSuperSheetWnd* grid = parts.lists[kind.index].grid())
             grid->setVisible(kind.index == of);

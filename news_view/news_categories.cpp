@@ -61,13 +61,13 @@ const QString* NewsCategories::nameOf(unsigned char service, int id) {
 
 int NewsCategories::idOf(unsigned char service, const QString& name) {
     if (service == warrantService)
-        return warrants.GetCategoryIDbyName(name);
-    const int id = file.GetCategoryIDbyName(name);
+        return warrants.idOf(name);
+    const int id = file.idOf(name);
     if (id >= 0)
         return id;
     if (!everRead)
         readLists();
-    return lists.GetCategoryIDbyName(name);
+    return lists.idOf(name);
 }
 
 bool NewsCategories::learn(bool hostSaysSo) {

@@ -87,7 +87,7 @@ void NoticeBoard::place() {
     const Look look = around.look();
     line->setFont(look.font);
     line->setColours(look.text, lateColour(look.background));
-    line->vShow(notices(), room, next);
+    line->showNotices(notices(), room, next);
 }
 
 }  // namespace wirepane

@@ -53,7 +53,7 @@ void NoticeLine::setColours(const QColor& plain, const QColor& late) {
     colourOfLate = late;
 }
 
-void NoticeLine::vShow(const ListNotices& notices, const QRect& area, QWidget* keyboardNext) {
+void NoticeLine::showNotices(const ListNotices& notices, const QRect& area, QWidget* keyboardNext) {
     setGeometry(area);
     placed = placeNotices(notices, area.width(), fontMetrics());
     for (const int command : ids::noticeCommands) {

@@ -45,7 +45,7 @@ public:
     void setColours(const QColor& plain, const QColor& late);
     // Shows the notices in an area of the parent, as far as they have room there. The keyboard goes to
     // `keyboardNext` (null: nowhere) when the notice that has it goes.
-    void vShow(const ListNotices& notices, const QRect& area, QWidget* keyboardNext);
+    void showNotices(const ListNotices& notices, const QRect& area, QWidget* keyboardNext);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

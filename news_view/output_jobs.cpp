@@ -69,7 +69,7 @@ NewsOutcome OutputJobs::ask(TRVNewsPrint& job, int button, OutputItems items) {
     if (window == nullptr)
         outcome.message.clear();
     else
-        around.stage.SetStoryWndStyle();
+        around.stage.applyWindowStyle();
     return outcome;
 }
 

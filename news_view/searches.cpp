@@ -80,10 +80,10 @@ void Searches::searchForText() {
 
 void Searches::tipAtEdit(const QString& text) {
     if (const auto* edit = parts.controls.find<SEdit>(ids::searchEdit))
-        vShowTip({edit->mapToGlobal(QPoint(0, 0)), edit->size()}, text);
+        showTip({edit->mapToGlobal(QPoint(0, 0)), edit->size()}, text);
 }
 
-void Searches::vShowTip(const QRect& rectangle, const QString& text) {
+void Searches::showTip(const QRect& rectangle, const QString& text) {
     shortTip->vShow(rectangle.topLeft() + QPoint(rectangle.width() / 2, rectangle.height() / 2), text,
                     shortTipWindowMs);
 }

@@ -65,7 +65,7 @@ public:
 
     SearchDesk& desk() { return conditions; }
     const SearchDesk& desk() const { return conditions; }
-    void vShowTip(const QRect& rectangle, const QString& text) override;
+    void showTip(const QRect& rectangle, const QString& text) override;
     // The short tip, for the host's scripts.
     QVariantMap shortTipState() const;
 

@@ -128,7 +128,7 @@ bool Shortcuts::goToMode(ListIndex mode) {
     auto* strip = around.controls.find<CXTPTabControl>(ids::tabStrip);
     if (strip == nullptr || view.listOf(mode).grid() == nullptr)
         return false;
-    strip->SetCurSel(around.controls.iGetTabIndex(static_cast<int>(mode)));
+    strip->SetCurSel(around.controls.tabIndexOf(static_cast<int>(mode)));
     around.tabChosen();
     return true;
 }

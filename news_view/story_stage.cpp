@@ -99,15 +99,15 @@ void StoryStage::hideDialog() {
         dialog->hide();
 }
 
-bool StoryStage::IsStoryDlgOnTop() {
+bool StoryStage::keepsDialogOnTop() {
     return CSyncInfo::GetSettingCFG()->SYS_eGetPopupWndPosition() != ordinaryWindow;
 }
 
-void StoryStage::SetStoryWndStyle() {
+void StoryStage::applyWindowStyle() {
     if (dialog == nullptr)
         return;
     QWidget* active = QApplication::activeWindow();
-    setTopMost(IsStoryDlgOnTop());
+    setTopMost(keepsDialogOnTop());
     if (active != nullptr && active != dialog)
         active->activateWindow();
 }
@@ -120,14 +120,14 @@ void StoryStage::leaveTop() {
 void StoryStage::showDialog() {
     if (dialog == nullptr)
         return;
-    SetStoryWndStyle();
+    applyWindowStyle();
     dialog->show();
     dialog->raise();
 }
 
-void StoryStage::ChangeActiveApp(bool active) {
+void StoryStage::applicationActivated(bool active) {
     if (dialog != nullptr)
-        setTopMost(active && IsStoryDlgOnTop());
+        setTopMost(active && keepsDialogOnTop());
 }
 
 void StoryStage::setTopMost(bool topMost) {

@@ -47,15 +47,15 @@ public:
     void hideDialog();
 
     // False when the host wants the dialog as an ordinary window.
-    static bool IsStoryDlgOnTop();
+    static bool keepsDialogOnTop();
     // Applies the host's wish without moving or sizing the dialog; the active window stays active.
-    void SetStoryWndStyle();
+    void applyWindowStyle();
     // Lets other windows lie over the dialog until the host's wish is applied again.
     void leaveTop();
     // Shows the dialog over the ordinary windows.
     void showDialog();
     // The application became active or inactive: an inactive application has no window on top of others.
-    void ChangeActiveApp(bool active);
+    void applicationActivated(bool active);
 
 private:
     void setTopMost(bool topMost);

@@ -29,8 +29,8 @@ void TRVNewsCtrlView::GetCaption(QString& caption) {
 }
 
 void TRVNewsCtrlView::ChangeActiveApp(int active) {
-    if (!StoryStage::IsStoryDlgOnTop() || doesPopupFollowApplication())
-        parts->stage.ChangeActiveApp(active != 0);
+    if (!StoryStage::keepsDialogOnTop() || doesPopupFollowApplication())
+        parts->stage.applicationActivated(active != 0);
 }
 
 bool TRVNewsCtrlView::onCommand(int id) {
@@ -142,7 +142,7 @@ int TRVNewsCtrlView::iGetFunctionID(const QString& name) const {
 }
 
 int TRVNewsCtrlView::iGetTabIndex(int mode) const {
-    return parts->controls.iGetTabIndex(mode);
+    return parts->controls.tabIndexOf(mode);
 }
 
 void TRVNewsCtrlView::CheckInitialView(int& mode) const {
@@ -183,11 +183,11 @@ unsigned short TRVNewsCtrlView::GetStoryShowType() const {
 }
 
 void TRVNewsCtrlView::SetStoryWndStyle() {
-    parts->stage.SetStoryWndStyle();
+    parts->stage.applyWindowStyle();
 }
 
 bool TRVNewsCtrlView::IsStoryDlgOnTop() const {
-    return StoryStage::IsStoryDlgOnTop();
+    return StoryStage::keepsDialogOnTop();
 }
 
 void TRVNewsCtrlView::vSetNewsType(int type) {

@@ -52,7 +52,7 @@ void TRVNewsCtrlView::vDoSearchChangeSymbol(const CSearch& condition, unsigned c
 }
 
 void TRVNewsCtrlView::vShowTip(const QRect& rectangle, const QString& text) {
-    parts->searches.vShowTip(rectangle, text);
+    parts->searches.showTip(rectangle, text);
 }
 
 // --- Days ---

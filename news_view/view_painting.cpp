@@ -50,7 +50,7 @@ void TRVNewsCtrlView::vNotSupportSymbol(QPainter& painter) {
 
 void TRVNewsCtrlView::vChangeCast() {
     TRVQuoteBaseView::vChangeCast();
-    parts->controls.vSetFont(GetViewFont());
+    parts->controls.setFont(GetViewFont());
     if (auto* strip = parts->controls.find<CXTPTabControl>(ids::tabStrip))
         strip->SetColorSet({hostColour(QStringLiteral("COLOR_LISTCTL_HDBkCOLOR1"), {}),
                             hostColour(QStringLiteral("COLOR_LISTCTL_HDTEXTCOLOR1"), {})});
@@ -73,7 +73,7 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     TRVQuoteBaseView::changeEvent(event);
     if (event->type() != QEvent::LanguageChange || !parts->initialised)
         return;
-    parts->controls.vLoadLanguageString();
+    parts->controls.loadTexts();
     parts->shortcuts.loadToolTips();
     parts->standingSearches.loadHints();
     parts->categories.learnCombo();

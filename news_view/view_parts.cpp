@@ -276,7 +276,7 @@ void TRVNewsCtrlView::Parts::goTo(ListIndex list, int row) {
     if (list != modes.shown()) {
         view.SwitchFunction(view.iGetFunctionID(static_cast<int>(list)));
         if (auto* strip = controls.find<CXTPTabControl>(ids::tabStrip))
-            strip->SetCurSel(controls.iGetTabIndex(static_cast<int>(modes.shown())));
+            strip->SetCurSel(controls.tabIndexOf(static_cast<int>(modes.shown())));
     }
     if (NewsStoryView* pane = stage.storyPane()) {
         pane->SetHeadLinePos(row);

@@ -62,7 +62,7 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     vViewCreate();
     parts->story.setShowType(parts->stage.storyPane() != nullptr ? parts->settings.newsShowType
                                                                  : StoryShowType::None);
-    parts->controls.vLoadLanguageString();
+    parts->controls.loadTexts();
     parts->shortcuts.loadToolTips();
     parts->standingSearches.loadHints();
     parts->shortcuts.create();

@@ -38,5 +38,5 @@ void SearchEdit2::inputMethodEvent(QInputMethodEvent* event) {
 
 void SearchEdit2::refuse(QLatin1StringView key) {
     if (owner != nullptr)
-        owner->vShowTip({mapToGlobal(QPoint(0, 0)), size()}, langText(key));
+        owner->showTip({mapToGlobal(QPoint(0, 0)), size()}, langText(key));
 }

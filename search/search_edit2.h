@@ -12,7 +12,7 @@ namespace wirepane {
 class ShortTips {
 public:
     virtual ~ShortTips() = default;
-    virtual void vShowTip(const QRect& rectangle, const QString& text) = 0;
+    virtual void showTip(const QRect& rectangle, const QString& text) = 0;
 };
 
 }  // namespace wirepane

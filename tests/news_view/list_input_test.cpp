@@ -245,7 +245,7 @@ TEST_F(ListInputTest, EveryShortcutDoesWhatItsControlDoes) {
     controls.CreateTypeBtn();
     for (const ListIndex mode : {ListIndex::All, ListIndex::Search, ListIndex::Category})
         controls.addTab(mode);
-    controls.vLoadLanguageString();
+    controls.loadTexts();
     auto& strip = *controls.find<CXTPTabControl>(ids::tabStrip);
     QList<int> carriedOut;
     int tabsChosen = 0;

@@ -133,8 +133,8 @@ TEST(CategoryCatalogue, PairsListsOfEqualLength) {
         ASSERT_EQ(name != nullptr, c.name != nullptr) << c.what;
         if (name != nullptr) {
             EXPECT_EQ(name->toStdString(), c.name) << c.what;
-            EXPECT_EQ(catalogue.GetCategoryIDbyName(*name), c.id) << c.what;
-            EXPECT_EQ(catalogue.GetCategoryIDbyName(name->toLower() + u'x'), -1) << c.what;
+            EXPECT_EQ(catalogue.idOf(*name), c.id) << c.what;
+            EXPECT_EQ(catalogue.idOf(name->toLower() + u'x'), -1) << c.what;
         }
     }
 }

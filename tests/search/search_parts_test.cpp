@@ -210,7 +210,7 @@ TEST(RelatedQuotes, ASymbolWithoutAMarketIsThatOfTheFirstThatHasItsCode) {
 
 TEST(SearchEdit, TakesNoBlanksAndNothingPastedAndSaysSo) {
     struct Tips : ShortTips {
-        void vShowTip(const QRect& rectangle, const QString& text) override {
+        void showTip(const QRect& rectangle, const QString& text) override {
             place = rectangle;
             told.append(text);
         }
