@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/csv.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace wirepane {
 
 namespace {
@@ -12,22 +15,37 @@ bool isLineEnd(QChar c) {
 
 }  // namespace
 
-CsvReader::CsvReader(QStringView csv, QChar separator)
-    : text(csv), comma(separator), at(csv.startsWith(QChar::ByteOrderMark) ? 1 : 0) {}
+CsvReader::CsvReader(TextPieces csv, QChar separator)
+    : pieces(std::move(csv)), comma(separator), text(pieces()) {
+    at = text.startsWith(QChar::ByteOrderMark) ? 1 : 0;
+}
+
+CsvReader::CsvReader(const QString& csv, QChar separator)
+    : CsvReader([rest = csv]() mutable { return std::exchange(rest, {}); }, separator) {}
 
 std::optional<CsvRecord> CsvReader::next() {
     while (takeLineEnd()) {
     }
-    if (at == text.size())
+    if (isAtEnd())
         return std::nullopt;
     return record();
+}
+
+// Goes to the next piece where this one has been read.
+bool CsvReader::isAtEnd() {
+    if (at < text.size())
+        return false;
+    before += at;
+    at = 0;
+    text = pieces();
+    return text.isEmpty();
 }
 
 CsvRecord CsvReader::record() {
     CsvRecord found{{}, line, true};
     for (;;) {
         found.fields += field(found.closed);
-        if (at == text.size() || takeLineEnd())
+        if (isAtEnd() || takeLineEnd())
             return found;
         ++at;  // the comma
     }
@@ -36,27 +54,34 @@ CsvRecord CsvReader::record() {
 // What stands behind a closing quote belongs to the field as it is.
 QString CsvReader::field(bool& closed) {
     QString value;
-    if (at < text.size() && text.at(at) == u'"')
+    if (!isAtEnd() && text.at(at) == u'"')
         value = quotedField(closed);
-    const qsizetype start = at;
-    while (at < text.size() && text.at(at) != comma && !isLineEnd(text.at(at)))
-        ++at;
-    return value.append(text.sliced(start, at - start));
+    const auto ends = [this](QChar c) { return c == comma || isLineEnd(c); };
+    while (!isAtEnd() && !ends(text.at(at))) {
+        const qsizetype start = at;
+        at = std::find_if(text.cbegin() + start, text.cend(), ends) - text.cbegin();
+        value += QStringView(text).sliced(start, at - start);
+    }
+    return value;
 }
 
 QString CsvReader::quotedField(bool& closed) {
     QString value;
-    for (++at; at < text.size(); ++at) {
-        const QChar c = text.at(at);
+    const auto stops = [](QChar c) { return c == u'"' || isLineEnd(c); };
+    for (++at; !isAtEnd();) {
+        const qsizetype start = at;
+        at = std::find_if(text.cbegin() + start, text.cend(), stops) - text.cbegin();
+        value += QStringView(text).sliced(start, at - start);
+        if (at == text.size())
+            continue;
+        const QChar c = text.at(at++);
         if (c == u'"') {
-            if (at + 1 == text.size() || text.at(at + 1) != u'"') {
-                ++at;
+            if (isAtEnd() || text.at(at) != u'"')
                 return value;
-            }
             ++at;
-        }
-        if (c == u'\n' || (c == u'\r' && !text.sliced(at).startsWith(u"\r\n")))
+        } else if (c == u'\n' || isAtEnd() || text.at(at) != u'\n') {
             ++line;
+        }
         value += c;
     }
     closed = false;
@@ -64,9 +89,10 @@ QString CsvReader::quotedField(bool& closed) {
 }
 
 bool CsvReader::takeLineEnd() {
-    if (at == text.size() || !isLineEnd(text.at(at)))
+    if (isAtEnd() || !isLineEnd(text.at(at)))
         return false;
-    at += text.sliced(at).startsWith(u"\r\n") ? 2 : 1;
+    if (text.at(at++) == u'\r' && !isAtEnd() && text.at(at) == u'\n')
+        ++at;
     ++line;
     return true;
 }

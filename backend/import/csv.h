@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/import/text_pieces.h"
+
 #include <QString>
 #include <QStringList>
-#include <QStringView>
 
 #include <optional>
 
@@ -21,23 +22,26 @@ struct CsvRecord {
 // lines.
 class CsvReader {
 public:
-    // `csv` outlives this.
-    explicit CsvReader(QStringView csv, QChar separator = u',');
+    explicit CsvReader(TextPieces csv, QChar separator = u',');
+    explicit CsvReader(const QString& csv, QChar separator = u',');
 
     // The next record; nothing at the end.
     std::optional<CsvRecord> next();
 
-    qsizetype position() const { return at; }  // characters read so far
+    qsizetype position() const { return before + at; }  // characters read so far
 
 private:
+    bool isAtEnd();
     CsvRecord record();
     QString field(bool& closed);
     QString quotedField(bool& closed);
     bool takeLineEnd();
 
-    QStringView text;
+    TextPieces pieces;
     QChar comma;
+    QString text;  // the present piece
     qsizetype at = 0;
+    qsizetype before = 0;  // characters of the pieces before it
     qint64 line = 1;
 };
 

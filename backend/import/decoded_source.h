@@ -2,40 +2,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QIODevice>
-#include <QStringDecoder>
+#include "backend/import/text_pieces.h"
 
-#include <functional>
+#include <QByteArray>
+#include <QIODevice>
 
 namespace wirepane {
 
-// A source in whatever encoding, read as UTF-8 without a byte order mark, a piece at a time. What cannot be
-// decoded becomes the replacement character.
+// A text as bytes of UTF-8, to be read one after the other. Its position is that in the source from which the
+// text comes, as far as that has been read.
 class DecodedSource : public QIODevice {
 public:
-    // Changes the first piece of the text, which is as long as the source is or some thousand bytes.
-    using Start = std::function<void(QString& text)>;
-
-    // The source is open for reading, outlives this, and is read from where it stands.
-    DecodedSource(QIODevice& source, QStringDecoder decoder, Start start = {});
+    // The source outlives this.
+    DecodedSource(const QIODevice& source, TextPieces text);
 
     bool isSequential() const override { return true; }
     bool atEnd() const override;
+    qint64 pos() const override { return encoded.pos(); }
 
 protected:
     qint64 readData(char* data, qint64 most) override;
     qint64 writeData(const char* data, qint64 length) override;
 
 private:
-    QIODevice& encoded;
-    QStringDecoder decode;
-    Start changeStart;
+    const QIODevice& encoded;
+    TextPieces pieces;
     QByteArray decoded;
     qsizetype given = 0;  // of these
 };
-
-// Whether all that a source holds from where it stands is of the decoder's encoding; the source stands there
-// again. A last character that is cut off is forgiven.
-bool isWellEncoded(QIODevice& source, QStringDecoder decoder);
 
 }  // namespace wirepane

@@ -4,40 +4,68 @@
 
 namespace wirepane {
 
-JsonList::JsonList(QByteArrayView list) : text(list), at(list.indexOf('[') + 1) {}
+namespace {
+
+constexpr qint64 pieceSize = 32768;  // bytes
+
+}  // namespace
+
+JsonList::JsonList(QIODevice& list) : source(list) {
+    while ((at < text.size() || readOn()) && text.at(at) != '[')
+        start = ++at;
+    start = ++at;
+}
 
 std::optional<QByteArrayView> JsonList::next() {
     while (!atEnd) {
         bool isLast = false;
-        const QByteArrayView entry = entryFrom(at, isLast);
+        start = at;
+        const QByteArrayView found = entry(isLast);
         atEnd = isLast;
-        if (!entry.isEmpty() || !isLast)  // an empty entry is an error of the list, save before its "]"
-            return entry;
+        if (!found.isEmpty() || !isLast)  // an empty entry is an error of the list, save before its "]"
+            return found;
     }
     return std::nullopt;
 }
 
-QByteArrayView JsonList::entryFrom(qsizetype start, bool& isLast) {
+bool JsonList::isFollowed() {
+    do {
+        if (!QByteArrayView(text).sliced(at).trimmed().isEmpty())
+            return true;
+        start = at = text.size();
+    } while (readOn());
+    return false;
+}
+
+// Lets go of the entries before the present one.
+bool JsonList::readOn() {
+    const QByteArray piece = source.read(pieceSize);
+    text.remove(0, start).append(piece);
+    at -= start;
+    start = 0;
+    return !piece.isEmpty();
+}
+
+QByteArrayView JsonList::entry(bool& isLast) {
     qsizetype depth = 0;
     bool quoted = false;
-    for (at = start; at < text.size(); ++at) {
-        const char c = text[at];
+    bool escaped = false;
+    for (; at < text.size() || readOn(); ++at) {
+        const char c = text.at(at);
         if (quoted) {
-            if (c == '\\')
-                ++at;
-            quoted = c != '"';
+            quoted = escaped || c != '"';
+            escaped = !escaped && c == '\\';
             continue;
         }
         quoted = c == '"';
         if (depth == 0 && (c == ',' || c == ']')) {
             isLast = closed = c == ']';
-            return text.sliced(start, at++ - start).trimmed();
+            return QByteArrayView(text).sliced(start, at++ - start).trimmed();
         }
         depth += (c == '[' || c == '{') - (c == ']' || c == '}');
     }
     isLast = true;
-    at = text.size();
-    return text.sliced(start).trimmed();
+    return QByteArrayView(text).sliced(start).trimmed();
 }
 
 }  // namespace wirepane

@@ -2,31 +2,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
+#include <QIODevice>
 
 #include <optional>
 
 namespace wirepane {
 
 // Cuts a JSON list into its entries by their brackets alone, so that one broken entry does not spoil the
-// others and no more than one is ever parsed at a time.
+// others and no more than one is ever in memory, or parsed, at a time.
 class JsonList {
 public:
-    // `list` starts with "[" (blanks before it allowed) and outlives this.
-    explicit JsonList(QByteArrayView list);
+    // `list` starts with "[" (blanks before it allowed), is open for reading and outlives this.
+    explicit JsonList(QIODevice& list);
 
-    // The next entry without the blanks around it; nothing behind the last.
+    // The next entry without the blanks around it, valid until the next call; nothing behind the last.
     std::optional<QByteArrayView> next();
 
-    qsizetype position() const { return at; }  // bytes read so far
-    bool isClosed() const { return closed; }   // the list's own "]" was found
-    // Behind the last entry: what follows the list, blanks left out.
-    QByteArrayView rest() const { return text.sliced(at).trimmed(); }
+    bool isClosed() const { return closed; }  // the list's own "]" was found
+    // Behind the last entry: whether more than blanks follows the list.
+    bool isFollowed();
 
 private:
-    QByteArrayView entryFrom(qsizetype start, bool& isLast);
+    bool readOn();
+    QByteArrayView entry(bool& isLast);
 
-    QByteArrayView text;
+    QIODevice& source;
+    QByteArray text;      // what has been read, from the present entry on
+    qsizetype start = 0;  // of that entry
     qsizetype at = 0;
     bool closed = false;
     bool atEnd = false;

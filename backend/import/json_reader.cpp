@@ -65,19 +65,19 @@ void readJsonLines(QIODevice& source, const ReadOptions& options, const ItemVisi
     }
 }
 
-void readJsonList(const QByteArray& source, const ReadOptions& options, const ItemVisitor& visit) {
+void readJsonList(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
     JsonList list(source);
     qsizetype number = 0;
     while (const auto record = list.next()) {
         const Result<StoreItem> content = storeItem(*record, options);
-        if (!visit({content, placeOf(++number, content), list.position()}))
+        if (!visit({content, placeOf(++number, content), source.pos()}))
             return;
     }
     if (!list.isClosed())
         visit({makeError<import_errors::listWithoutEnd>(), makeError<import_errors::atItem>(number),
-               source.size()});
-    else if (!list.rest().isEmpty())
-        visit({makeError<import_errors::behindList>(), makeError<import_errors::atEnd>(), source.size()});
+               source.pos()});
+    else if (list.isFollowed())
+        visit({makeError<import_errors::behindList>(), makeError<import_errors::atEnd>(), source.pos()});
 }
 
 void readJsonDocument(const QByteArray& source, const ReadOptions& options, const ItemVisitor& visit) {

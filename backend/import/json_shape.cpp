@@ -4,6 +4,7 @@
 
 #include "backend/import/json_list.h"
 
+#include <QBuffer>
 #include <QJsonDocument>
 #include <QJsonParseError>
 
@@ -54,7 +55,10 @@ std::vector<QJsonObject> recordsInHead(const SourceHead& head) {
     if (shape == JsonShape::Document) {
         add(head.text());
     } else if (shape == JsonShape::List) {
-        JsonList list(head.text());
+        QBuffer text;
+        text.setData(head.text().toByteArray());
+        text.open(QIODevice::ReadOnly);
+        JsonList list(text);
         while (const auto entry = list.next())
             add(*entry);
     } else if (shape == JsonShape::Lines) {

@@ -3,35 +3,25 @@
 #include "backend/import/mapped_table.h"
 
 #include "backend/import/csv.h"
+#include "backend/import/decoded_source.h"
 #include "backend/import/import_errors.h"
 #include "backend/import/json_fault.h"
 #include "backend/import/json_list.h"
 #include "backend/import/mapped_row.h"
-#include "backend/import/text_encoding.h"
+#include "backend/import/source_size.h"
 #include "backend/import/wire_form.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
+#include <utility>
 
 namespace wirepane {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-std::optional<QString> textIn(const QByteArray& source, const QStringList& encodings) {
-    if (encodings.isEmpty())
-        return decodedText(source);
-    for (const QString& name : encodings) {
-        QStringDecoder decoder = decoderOf(name.toLatin1());
-        QString text = decoder(source);
-        if (!decoder.hasError())
-            return text;
-    }
-    return std::nullopt;
-}
 
 // A row by its line (CSV) or by its number (JSON).
 struct RowPlace {
@@ -49,27 +39,29 @@ struct RowPlace {
 
 class RowSink {
 public:
-    RowSink(const Mapping& ofTable, const ReadOptions& readOptions, const ItemVisitor& visitor)
-        : mapping(ofTable), options(readOptions), visit(visitor) {}
+    RowSink(const QIODevice& table, const Mapping& ofTable, const ReadOptions& readOptions,
+            const ItemVisitor& visitor)
+        : source(table), mapping(ofTable), options(readOptions), visit(visitor) {}
 
-    bool take(const MappedRow& row, const RowPlace& place, qint64 position) const {
+    bool take(const MappedRow& row, const RowPlace& place) const {
         const Result<NewsItem> item = mappedItem(mapping, row, options.service);
         if (!item)
-            return reject(item.error(), place.alone(), position);
-        return visit({StoreItem(item.value()), place.named(item.value().identity.left(200)), position});
+            return reject(item.error(), place.alone());
+        return visit({StoreItem(item.value()), place.named(item.value().identity.left(200)), source.pos()});
     }
-    bool reject(Error reason, Phrase place, qint64 position) const {
-        return visit({std::move(reason), std::move(place), position});
+    bool reject(Error reason, Phrase place) const {
+        return visit({std::move(reason), std::move(place), source.pos()});
     }
 
 private:
+    const QIODevice& source;
     const Mapping& mapping;
     const ReadOptions& options;
     const ItemVisitor& visit;
 };
 
-Done readCsv(const QString& table, const Mapping& mapping, const RowSink& sink) {
-    CsvReader csv(table, mapping.separator);
+Done readCsv(TextPieces table, const Mapping& mapping, const RowSink& sink) {
+    CsvReader csv(std::move(table), mapping.separator);
     const auto header = csv.next();
     QStringList columns = header ? header->fields : QStringList();
     std::for_each(columns.begin(), columns.end(), [](QString& column) { column = column.trimmed(); });
@@ -80,64 +72,86 @@ Done readCsv(const QString& table, const Mapping& mapping, const RowSink& sink) 
     while (const auto record = csv.next()) {
         const RowPlace place{true, record->line};
         if (!record->closed) {
-            sink.reject(makeError<import_errors::quoteNotClosed>(), place.alone(), csv.position());
+            sink.reject(makeError<import_errors::quoteNotClosed>(), place.alone());
             break;
         }
         MappedRow row;
         for (qsizetype i = 0; i < std::min(columns.size(), record->fields.size()); ++i)
             row.insert(columns.at(i), record->fields.at(i).trimmed());
-        if (!sink.take(row, place, csv.position()))
+        if (!sink.take(row, place))
             break;
     }
     return Nothing{};
 }
 
-bool takeObject(QByteArrayView text, const RowPlace& place, qint64 position, const RowSink& sink) {
+bool takeObject(QByteArrayView text, const RowPlace& place, const RowSink& sink) {
     QJsonParseError problem;
     const auto document =
         QJsonDocument::fromJson(QByteArray::fromRawData(text.data(), text.size()), &problem);
     if (problem.error != QJsonParseError::NoError)
         return sink.reject(makeError<import_errors::rowNoJson>(jsonFault(problem), problem.offset),
-                           place.alone(), position);
+                           place.alone());
     if (!document.isObject())
-        return sink.reject(makeError<import_errors::rowNoObject>(), place.alone(), position);
+        return sink.reject(makeError<import_errors::rowNoObject>(), place.alone());
     const QJsonObject object = document.object();
     MappedRow row;
     for (auto field = object.begin(); field != object.end(); ++field)
         row.insert(field.key().trimmed(), field.value().toVariant().toString().trimmed());
-    return sink.take(row, place, position);
+    return sink.take(row, place);
 }
 
-Done readJson(const QByteArray& table, const RowSink& sink) {
+Done readJson(QIODevice& table, const RowSink& sink) {
     JsonList list(table);
     qsizetype number = 0;
     while (const auto row = list.next()) {
-        if (!takeObject(*row, {false, ++number}, list.position(), sink))
+        if (!takeObject(*row, {false, ++number}, sink))
             return Nothing{};
     }
     if (!list.isClosed())
-        sink.reject(makeError<import_errors::listWithoutEnd>(), makeError<import_errors::atRow>(number),
-                    table.size());
-    else if (!list.rest().isEmpty())
-        sink.reject(makeError<import_errors::behindList>(), makeError<import_errors::atEnd>(), table.size());
+        sink.reject(makeError<import_errors::listWithoutEnd>(), makeError<import_errors::atRow>(number));
+    else if (list.isFollowed())
+        sink.reject(makeError<import_errors::behindList>(), makeError<import_errors::atEnd>());
     return Nothing{};
+}
+
+// The same text with nothing but itself at its start.
+struct TableText {
+    QString start;  // the first piece with more than blanks, and those before it
+    TextPieces all;
+};
+
+TableText tableText(TextPieces pieces) {
+    QString start = pieces();
+    if (start.startsWith(QChar::ByteOrderMark))
+        start.remove(0, 1);
+    QString piece = start;
+    while (!piece.isEmpty() && QStringView(piece).trimmed().isEmpty())
+        start += piece = pieces();
+    return {start, [rest = std::move(pieces), first = start]() mutable {
+                return first.isEmpty() ? rest() : std::exchange(first, {});
+            }};
 }
 
 }  // namespace
 
-Done readMappedTable(const QByteArray& source, const Mapping& mapping, const ReadOptions& options,
+Done readMappedTable(QIODevice& source, const Mapping& mapping, const ReadOptions& options,
                      const ItemVisitor& visit) {
-    const auto decoded = textIn(source, mapping.encodings);
-    if (!decoded)
+    if (const auto fault = faultOfSize(source, options.limits.file))
+        return *fault;
+    auto decoder = textDecoder(source, mapping.encodings);
+    if (!decoder)
         return makeError<import_errors::noMappedEncoding>();
-    const QString text = decoded->startsWith(QChar::ByteOrderMark) ? decoded->sliced(1) : *decoded;
-    const QStringView start = QStringView(text).trimmed();
+    const TableText table = tableText(textPieces(source, std::move(*decoder)));
+    const QStringView start = QStringView(table.start).trimmed();
     if (start.isEmpty())
         return makeError<import_errors::fileEmpty>();
     if (start.startsWith(u'<'))
         return makeError<import_errors::markupPage>(titleLine(start.left(40)));
-    const RowSink sink(mapping, options, visit);
-    return start.startsWith(u'[') ? readJson(text.toUtf8(), sink) : readCsv(text, mapping, sink);
+    const RowSink sink(source, mapping, options, visit);
+    if (!start.startsWith(u'['))
+        return readCsv(table.all, mapping, sink);
+    DecodedSource list(source, table.all);
+    return readJson(list, sink);
 }
 
 }  // namespace wirepane

@@ -4,7 +4,7 @@
 
 #include "backend/import/import_errors.h"
 #include "backend/import/newsml_fields.h"
-#include "backend/import/whole_source.h"
+#include "backend/import/source_size.h"
 #include "backend/import/wire_form.h"
 #include "backend/import/xml_source.h"
 

@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/ninjs_source.h"
 
+#include "backend/import/decoded_source.h"
 #include "backend/import/import_errors.h"
 #include "backend/import/json_reader.h"
 #include "backend/import/json_shape.h"
 #include "backend/import/ninjs_fields.h"
+#include "backend/import/source_size.h"
 #include "backend/import/text_encoding.h"
-#include "backend/import/whole_source.h"
-
-#include <QBuffer>
 
 #include <algorithm>
+#include <utility>
 
 namespace wirepane {
 
@@ -19,15 +19,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// JSON is UTF-8; where it comes as UTF-16 it is converted first.
-Done readUtf16(const QByteArray& bytes, const ReadOptions& options, const ItemVisitor& visit) {
-    const auto text = decodedText(bytes);
-    if (!text)
+Done readShape(JsonShape shape, QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
+    if (shape == JsonShape::Lines)
+        readJsonLines(source, options, visit);
+    else if (shape == JsonShape::List)
+        readJsonList(source, options, visit);
+    else
+        readJsonDocument(source.readAll(), options, visit);
+    return Nothing{};
+}
+
+// JSON is UTF-8; where it comes as UTF-16 it is converted.
+Done readUtf16(JsonShape shape, QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
+    auto decoder = textDecoder(source);
+    if (!decoder)
         return makeError<import_errors::noUtf16>();
-    QByteArray converted = text->toUtf8();
-    QBuffer buffer(&converted);
-    buffer.open(QIODevice::ReadOnly);
-    return readNinjs(buffer, options, visit);
+    DecodedSource converted(source, textPieces(source, std::move(*decoder)));
+    return readShape(shape, converted, options, visit);
 }
 
 }  // namespace
@@ -42,20 +50,11 @@ bool isNinjs(const SourceHead& head) {
 Done readNinjs(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
     const QByteArray start = source.peek(recognisedFrom);
     const JsonShape shape = jsonShape(SourceHead(start));
-    if (shape == JsonShape::Lines && !isUtf16(start)) {
-        readJsonLines(source, options, visit);
-        return Nothing{};
-    }
-    const Result<QByteArray> bytes = wholeSource(source, options.limits.file);
-    if (!bytes)
-        return bytes.error();
-    if (isUtf16(start))
-        return readUtf16(bytes.value(), options, visit);
-    if (shape == JsonShape::List)
-        readJsonList(bytes.value(), options, visit);
-    else
-        readJsonDocument(bytes.value(), options, visit);
-    return Nothing{};
+    const auto fault = faultOfSize(source, options.limits.file);
+    if (fault && (shape != JsonShape::Lines || isUtf16(start)))
+        return *fault;
+    return isUtf16(start) ? readUtf16(shape, source, options, visit)
+                          : readShape(shape, source, options, visit);
 }
 
 }  // namespace wirepane

@@ -5,6 +5,7 @@
 #include "backend/import/csv.h"
 #include "backend/import/import_errors.h"
 #include "backend/import/text_encoding.h"
+#include "backend/import/text_pieces.h"
 #include "backend/import/xml_source.h"
 
 #include <QBuffer>
@@ -47,8 +48,11 @@ XmlStart SourceHead::xmlStart() const {
 
 QStringList SourceHead::csvHeader() const {
     const qsizetype lastLine = isWhole() ? bytes.size() : bytes.lastIndexOf('\n');
-    const auto text = decodedText(bytes.first(qMax<qsizetype>(lastLine, 0)));
-    const auto header = text ? CsvReader(*text).next() : std::nullopt;
+    QBuffer lines;
+    lines.setData(bytes.first(qMax<qsizetype>(lastLine, 0)));
+    lines.open(QIODevice::ReadOnly);
+    auto decoder = textDecoder(lines);
+    const auto header = decoder ? CsvReader(textPieces(lines, std::move(*decoder))).next() : std::nullopt;
     return header ? header->fields : QStringList();
 }
 

@@ -4,15 +4,12 @@
 
 #include "backend/import/mapped_table.h"
 #include "backend/import/source_formats.h"
-#include "backend/import/whole_source.h"
 
 namespace wirepane {
 
 Done readSource(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
-    if (options.mapping) {
-        const Result<QByteArray> table = wholeSource(source, options.limits.file);
-        return table ? readMappedTable(table.value(), *options.mapping, options, visit) : table.error();
-    }
+    if (options.mapping)
+        return readMappedTable(source, *options.mapping, options, visit);
     const Result<const SourceFormat*> format = recognisedFormat(SourceHead(source.peek(recognisedFrom)));
     return format ? format.value()->read(source, options, visit) : format.error();
 }

@@ -4,9 +4,8 @@
 
 #include "backend/import/csv.h"
 #include "backend/import/import_errors.h"
+#include "backend/import/source_size.h"
 #include "backend/import/table_columns.h"
-#include "backend/import/text_encoding.h"
-#include "backend/import/whole_source.h"
 #include "backend/import/wire_form.h"
 
 #include <QRegularExpression>
@@ -159,8 +158,7 @@ bool isLeftOut(const QStringList& row) {
            });
 }
 
-void readRows(QStringView table, const ReadOptions& options, const ItemVisitor& visit) {
-    CsvReader csv(table);
+void readRows(CsvReader csv, const QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
     const auto header = csv.next();
     if (!header)
         return;
@@ -169,12 +167,12 @@ void readRows(QStringView table, const ReadOptions& options, const ItemVisitor& 
     while (const auto row = csv.next()) {
         const Phrase place = makeError<import_errors::atLine>(row->line);
         if (!row->closed) {
-            visit({makeError<import_errors::quoteNotClosed>(), place, csv.position()});
+            visit({makeError<import_errors::quoteNotClosed>(), place, source.pos()});
             return;
         }
         if (isLeftOut(row->fields))
             continue;
-        if (!visit({itemOf(kind, columns, row->fields, options), place, csv.position()}))
+        if (!visit({itemOf(kind, columns, row->fields, options), place, source.pos()}))
             return;
     }
 }
@@ -186,13 +184,12 @@ bool isTable(const SourceHead& head) {
 }
 
 Done readTable(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
-    const Result<QByteArray> bytes = wholeSource(source, options.limits.file);
-    if (!bytes)
-        return bytes.error();
-    const auto text = decodedText(bytes.value());
-    if (!text)
+    if (const auto fault = faultOfSize(source, options.limits.file))
+        return *fault;
+    auto decoder = textDecoder(source);
+    if (!decoder)
         return makeError<import_errors::noKnownEncoding>();
-    readRows(*text, options, visit);
+    readRows(CsvReader(textPieces(source, std::move(*decoder))), source, options, visit);
     return Nothing{};
 }
 

@@ -42,13 +42,6 @@ constexpr std::array labels{
     Label{"sjis", "windows-31j"},
 };
 
-std::optional<QString> decoded(QStringDecoder&& decoder, const QByteArray& bytes) {
-    if (!decoder.isValid())
-        return std::nullopt;
-    const QString text = decoder(bytes);
-    return decoder.hasError() ? std::nullopt : std::optional<QString>(text);
-}
-
 }  // namespace
 
 QStringDecoder decoderOf(const QByteArray& encoding) {
@@ -64,14 +57,6 @@ QStringDecoder decoderOf(const QByteArray& encoding) {
 
 bool isUtf16(const QByteArray& bytes) {
     return bytes.startsWith("\xff\xfe") || bytes.startsWith("\xfe\xff");
-}
-
-std::optional<QString> decodedText(const QByteArray& bytes) {
-    if (isUtf16(bytes))
-        return decoded(QStringDecoder(QStringDecoder::Utf16), bytes);
-    if (auto text = decoded(QStringDecoder(QStringDecoder::Utf8), bytes))
-        return text;
-    return decoded(QStringDecoder("windows-950"), bytes);
 }
 
 QByteArrayView withoutByteOrderMark(QByteArrayView text) {

@@ -4,10 +4,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
-#include <QString>
 #include <QStringDecoder>
-
-#include <optional>
 
 namespace wirepane {
 
@@ -15,10 +12,6 @@ namespace wirepane {
 // "iso-8859-1" write windows-1252, which holds the same characters and more, and so with other names. Not
 // valid for a name that is not known.
 QStringDecoder decoderOf(const QByteArray& encoding);
-
-// The text of bytes that are UTF-8 or, failing that, code page 950, or UTF-16 with a byte order mark; nothing
-// when they are none of these.
-std::optional<QString> decodedText(const QByteArray& bytes);
 
 // Whether the bytes start with the byte order mark of UTF-16.
 bool isUtf16(const QByteArray& bytes);

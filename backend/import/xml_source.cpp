@@ -58,10 +58,16 @@ Done XmlSource::open(QIODevice& document) {
         QStringDecoder decoder = decoderOf(encoding);
         if (!decoder.isValid())
             return makeError<import_errors::unknownEncoding>(QLatin1StringView(encoding));
-        decoded = std::make_unique<DecodedSource>(document, std::move(decoder), [](QString& text) {
-            const auto declared = declaredEncoding(text);
-            text.replace(declared.capturedStart(1), declared.capturedLength(1), u"UTF-8"_s);
-        });
+        // The declaration is of the bytes that were decoded.
+        TextPieces text = [pieces = textPieces(document, std::move(decoder)), isFirst = true]() mutable {
+            QString piece = pieces();
+            if (std::exchange(isFirst, false)) {
+                const auto declared = declaredEncoding(piece);
+                piece.replace(declared.capturedStart(1), declared.capturedLength(1), u"UTF-8"_s);
+            }
+            return piece;
+        };
+        decoded = std::make_unique<DecodedSource>(document, std::move(text));
         xml.setDevice(decoded.get());
     }
     return Nothing{};

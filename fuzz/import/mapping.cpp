@@ -4,6 +4,8 @@
 #include "fuzz/support/fuzz_input.h"
 #include "fuzz/support/news_promises.h"
 
+#include <QBuffer>
+
 #include <algorithm>
 
 namespace wirepane {
@@ -41,9 +43,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
             "services have numbers");
     promise(std::all_of(mapping.service.names.begin(), mapping.service.names.end(), isService),
             "services are named by numbers");
-    const QByteArray table = tableFor(mapping);
-    promiseReading(4 * table.size(),
-                   [&](const ItemVisitor& visit) { readMappedTable(table, mapping, {}, visit); });
+    QBuffer table;
+    table.setData(tableFor(mapping));
+    table.open(QIODevice::ReadOnly);
+    promiseReading(table.size(), [&](const ItemVisitor& visit) {
+        table.seek(0);
+        readMappedTable(table, mapping, {}, visit);
+    });
     return 0;
 }
 

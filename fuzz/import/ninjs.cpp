@@ -42,6 +42,14 @@ std::vector<StoreItem> itemsOfLines(QByteArray source) {
         .items;
 }
 
+ReadingResult promiseList(QByteArray list, const ReadOptions& options) {
+    return promiseReading(list.size(), [&](const ItemVisitor& visit) {
+        QBuffer buffer(&list);
+        buffer.open(QIODevice::ReadOnly);
+        readJsonList(buffer, options, visit);
+    });
+}
+
 // Records give the same items line by line and in a list; a byte order mark belongs to the lines alone.
 void promiseSameInAList(const QByteArray& source) {
     QByteArrayList records = source.split('\n');
@@ -50,8 +58,7 @@ void promiseSameInAList(const QByteArray& source) {
     });
     const std::vector<StoreItem> expected = itemsOfLines(records.join('\n'));
     const QByteArray list = '[' + records.join(',') + ']';
-    const ReadingResult result =
-        promiseReading(list.size(), [&](const ItemVisitor& visit) { readJsonList(list, {}, visit); });
+    const ReadingResult result = promiseList(list, {});
     promise(result.items.size() + std::size_t(result.rejections) == std::size_t(records.size()),
             "each entry of a list is accounted for");
     promise(std::equal(result.items.begin(), result.items.end(), expected.begin(), expected.end(),
@@ -75,8 +82,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     promise(document.items.size() + std::size_t(document.rejections) == 1, "a document is one record");
     promiseSameInAList(source);
     if (source.trimmed().startsWith('['))
-        promiseReading(source.size(),
-                       [&](const ItemVisitor& visit) { readJsonList(source, options, visit); });
+        promiseList(source, options);
     return 0;
 }
 

@@ -9,10 +9,15 @@
 namespace wirepane {
 namespace {
 
-// Every record as "line:field|field", with a "!" behind one whose quote is never closed.
-QString readOut(QStringView csv) {
+// Every record as "line:field|field", with a "!" behind one whose quote is never closed. The text comes in
+// pieces of so many characters.
+QString readOut(QStringView csv, qsizetype pieceSize) {
     QStringList records;
-    CsvReader reader(csv);
+    CsvReader reader([rest = csv, pieceSize]() mutable {
+        const QString piece = rest.left(pieceSize).toString();
+        rest = rest.sliced(piece.size());
+        return piece;
+    });
     while (const auto record = reader.next())
         records += QString::number(record->line) + u':' + record->fields.join(u'|') +
                    (record->closed ? QString() : QStringLiteral("!"));
@@ -41,8 +46,10 @@ TEST(Csv, SplitsRecordsAndFields) {
         {u"\"", u"1:!"},
         {u"\"\"\"", u"1:\"!"},
     };
-    for (const auto& [csv, expected] : rows)
-        EXPECT_EQ(readOut(csv), expected) << qPrintable(csv.toString());
+    for (const auto& [csv, expected] : rows) {
+        for (const qsizetype pieceSize : {1, 2, 3, 1000})
+            EXPECT_EQ(readOut(csv, pieceSize), expected) << qPrintable(csv.toString());
+    }
 }
 
 }  // namespace
