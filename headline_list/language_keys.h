@@ -99,7 +99,7 @@ inline constexpr QLatin1StringView noticeFiltered{"IDS_NEWSCTRLVIEW_NOTICE_FILTE
 inline constexpr QLatin1StringView noticeUnfiltered{"IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED"};
 // "%1": when it was searched.
 inline constexpr QLatin1StringView noticeAsOf{"IDS_NEWSCTRLVIEW_NOTICE_AS_OF"};
-inline constexpr QLatin1StringView noticeBeforeBreak{"IDS_NEWSCTRLVIEW_NOTICE_BEFORE_BREAK"};
+inline constexpr QLatin1StringView noticeBeforeOutage{"IDS_NEWSCTRLVIEW_NOTICE_BEFORE_BREAK"};
 
 // What empty lists say. "%1": the key that opens the dialog.
 inline constexpr QLatin1StringView hintNoNews{"IDS_NEWSCTRLVIEW_HINT_NO_NEWS"};

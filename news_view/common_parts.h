@@ -6,7 +6,7 @@ class BKQuoteInterface;
 
 namespace wirepane {
 class ControlSet;
-class FeedBreaks;
+class Outages;
 class HeadlineLists;
 class ListTip;
 class ModeLoading;
@@ -32,7 +32,7 @@ struct CommonParts {
     ViewSettings& settings;
     const ApplicationSwitches& switches;
     ModeLoading& loading;
-    FeedBreaks& breaks;
+    Outages& outages;
     ListTip& tip;
     const NewsType& newsType;
 };

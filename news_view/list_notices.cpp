@@ -25,7 +25,7 @@ int commandOf(NoticeKind kind) {
             return ids::endNarrowing;
         case NoticeKind::Filtered:
             return ids::readUnfiltered;
-        case NoticeKind::BeforeBreak:
+        case NoticeKind::BeforeOutage:
             return ids::searchAgain;
         default:
             return 0;

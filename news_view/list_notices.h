@@ -14,13 +14,13 @@ namespace wirepane {
 // row has no room for all of it, the first ones stand there. Those before the status text name what is
 // missing in the list; what only explains comes last.
 enum class NoticeKind {
-    Awaited,      // what printing and saving wait for; the button beside it stops that
-    Offline,      // the back end is cut off from its source
-    AsOf,         // the back end is read as of an earlier moment
-    Narrowed,     // the search is narrowed to a symbol
-    Filtered,     // the list was read under another list's filter
-    BeforeBreak,  // what was found is older than a break
-    Status,       // the services that have nothing
+    Awaited,       // what printing and saving wait for; the button beside it stops that
+    Offline,       // the back end is cut off from its source
+    AsOf,          // the back end is read as of an earlier moment
+    Narrowed,      // the search is narrowed to a symbol
+    Filtered,      // the list was read under another list's filter
+    BeforeOutage,  // what was found is older than an outage
+    Status,        // the services that have nothing
     Hint,
 };
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/searches.h"
 
-#include "headline_list/feed_breaks.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
+#include "headline_list/outages.h"
 #include "headline_list/table_reading.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
@@ -134,7 +134,7 @@ void Searches::send() {
         waitTipText = parts.tip.text();
     }
     conditions.sendSearch(shown, parts.services.liveServices(), awaited,
-                          {host_clock::now(), parts.breaks.ended()});
+                          {host_clock::now(), parts.outages.ended()});
     list.setTable(
         readTables(parts.backEnd, parts.services.currentServices(), TableKind::Search, searchTableKey));
     showFound(shown, false);

@@ -3,9 +3,9 @@
 #include "news_view/told_notices.h"
 
 #include "headline_list/cell_texts.h"
-#include "headline_list/feed_breaks.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/language_keys.h"
+#include "headline_list/outages.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/reading_moment.h"
 #include "host/contract/symbol_name.h"
@@ -14,8 +14,8 @@
 
 namespace wirepane {
 
-void tellOfBackEnd(ListNotices& notices, BKQuoteInterface& backEnd, const FeedBreaks& breaks) {
-    if (const auto since = breaks.brokenSince())
+void tellOfBackEnd(ListNotices& notices, BKQuoteInterface& backEnd, const Outages& outages) {
+    if (const auto since = outages.lostSince())
         notices.tell(NoticeKind::Offline,
                      langText(backEnd, keys::offlineSince) + QLatin1Char(' ') + timeText(*since, false));
     if (const auto* moment = dynamic_cast<const ReadingMoment*>(&backEnd); moment && moment->isReadAsOf())
@@ -23,7 +23,7 @@ void tellOfBackEnd(ListNotices& notices, BKQuoteInterface& backEnd, const FeedBr
 }
 
 void tellOfList(ListNotices& notices, BKQuoteInterface& backEnd, ListIndex list, const HeadlineLists& lists,
-                const SearchDesk& searches, const FeedBreaks& breaks) {
+                const SearchDesk& searches, const Outages& outages) {
     if (const auto symbol = searches.narrowing(list))
         notices.tell(NoticeKind::Narrowed, langText(backEnd, keys::noticeNarrowed)
                                                .arg(symbol->code + QLatin1Char(' ') +
@@ -34,9 +34,9 @@ void tellOfList(ListNotices& notices, BKQuoteInterface& backEnd, ListIndex list,
             NoticeKind::Filtered,
             langText(backEnd, list == ListIndex::Relation ? keys::noticeUnfiltered : keys::noticeFiltered));
     const auto sent = searches.sentAt(list);
-    if (sent && sent->endedBreaks < breaks.ended())
-        notices.tell(NoticeKind::BeforeBreak,
-                     langText(backEnd, keys::noticeBeforeBreak).arg(timeText(sent->time, true)));
+    if (sent && sent->endedOutages < outages.ended())
+        notices.tell(NoticeKind::BeforeOutage,
+                     langText(backEnd, keys::noticeBeforeOutage).arg(timeText(sent->time, true)));
 }
 
 }  // namespace wirepane

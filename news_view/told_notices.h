@@ -7,18 +7,18 @@
 class BKQuoteInterface;
 
 namespace wirepane {
-class FeedBreaks;
+class Outages;
 class HeadlineLists;
 class ListNotices;
 class SearchDesk;
 
 // What a view tells of the back end: since when it is cut off from its source, and that it is read as of an
 // earlier moment.
-void tellOfBackEnd(ListNotices& notices, BKQuoteInterface& backEnd, const FeedBreaks& breaks);
+void tellOfBackEnd(ListNotices& notices, BKQuoteInterface& backEnd, const Outages& outages);
 
-// What a view tells of the list that it shows: a search that is narrowed to a symbol or older than a break,
+// What a view tells of the list that it shows: a search that is narrowed to a symbol or older than an outage,
 // and another list's filter.
 void tellOfList(ListNotices& notices, BKQuoteInterface& backEnd, ListIndex list, const HeadlineLists& lists,
-                const SearchDesk& searches, const FeedBreaks& breaks);
+                const SearchDesk& searches, const Outages& outages);
 
 }  // namespace wirepane

@@ -127,9 +127,9 @@ void TRVNewsCtrlView::headlineGone(const HeadlineKey& key) {
 
 void TRVNewsCtrlView::connectionChanged(bool connected) {
     if (connected)
-        parts->breaks.restored(host_clock::now());
+        parts->outages.restored(host_clock::now());
     else
-        parts->breaks.lost(host_clock::now());
+        parts->outages.lost(host_clock::now());
     parts->board.place();
     update();
 }

@@ -28,7 +28,7 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       lists(backEnd, *this),
       controls(view, backEnd),
       tip(view, [this] { return tipLook(); }),
-      common{backEnd, view, services, lists, controls, settings, switches, loading, breaks, tip, newsType},
+      common{backEnd, view, services, lists, controls, settings, switches, loading, outages, tip, newsType},
       modes(*this, common, stage, modeCalls()),
       arrangement(*this, common, stage, arrangementCalls()),
       builder(view, common, stage, builderCalls()),
@@ -129,16 +129,16 @@ NoticeBoard::Surroundings TRVNewsCtrlView::Parts::noticeSurroundings() {
 std::vector<NoticeBoard::Teller> TRVNewsCtrlView::Parts::noticeTellers() {
     return {
         [this](ListNotices& notices) { notices.tell(NoticeKind::Awaited, output.awaitedText()); },
-        [this](ListNotices& notices) { tellOfBackEnd(notices, backEnd, breaks); },
+        [this](ListNotices& notices) { tellOfBackEnd(notices, backEnd, outages); },
         [this](ListNotices& notices) {
-            tellOfList(notices, backEnd, modes.shown(), lists, searches.desk(), breaks);
+            tellOfList(notices, backEnd, modes.shown(), lists, searches.desk(), outages);
         },
         [this](ListNotices& notices) { standingSearches.tell(notices); },
     };
 }
 
 QColor TRVNewsCtrlView::Parts::timeColour(std::int64_t time) const {
-    return breaks.holds(time) ? lateColour(view.colBackground) : QColor();
+    return outages.holds(time) ? lateColour(view.colBackground) : QColor();
 }
 
 void TRVNewsCtrlView::Parts::rowsReplaced(ListIndex list) {

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/feed_breaks.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/intake.h"
 #include "headline_list/list_owner.h"
+#include "headline_list/outages.h"
 #include "news_view/application_switches.h"
 #include "news_view/arrangement.h"
 #include "news_view/category_mode.h"
@@ -98,7 +98,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::ModeLoading loading;
     wirepane::ApplicationSwitches switches;
     wirepane::ViewSettings settings;
-    wirepane::FeedBreaks breaks;
+    wirepane::Outages outages;
     wirepane::OutputDialogs outputDialogs;
     wirepane::NewsType newsType = wirepane::NewsType::Full;
     bool initialised = false;  // the host's first calls are through

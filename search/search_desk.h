@@ -55,7 +55,7 @@ public:
     // When the search of a list was sent last; none: never.
     struct Moment {
         std::int64_t time = 0;        // seconds since 1970
-        std::size_t endedBreaks = 0;  // of the back end's connection, until then
+        std::size_t endedOutages = 0;  // of the back end's connection, until then
     };
     std::optional<Moment> sentAt(ListIndex list) const;
 

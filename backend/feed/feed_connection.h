@@ -23,7 +23,7 @@ public:
     FeedConnection(LineChannel* channel, unsigned char service, Answers answers = Answers::All);
 
     void resume(const Result<QString>& position) override;
-    // A break sends the sender off; it may come again as another.
+    // An outage sends the sender off; it may come again as another.
     void setOnline(bool on) override;
     // The sender is gone, and all that it sent has been taken.
     bool isDone() override { return hasEnded && !hasBatch(); }

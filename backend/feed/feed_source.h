@@ -84,7 +84,7 @@ public:
     // without a memory.
     virtual QString name() const = 0;
 
-    // Whether it waits to be told where to go on, as after it was opened and after a break.
+    // Whether it waits to be told where to go on, as after it was opened and after an outage.
     virtual bool awaitsPosition() const { return false; }
     // Goes on behind this position, which is the one that is kept; empty: from the start. An error: the store
     // cannot say.

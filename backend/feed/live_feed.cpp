@@ -20,7 +20,7 @@ namespace {
 constexpr int tickMs = 250;
 constexpr int retryMs = 2000;             // after the store could not be written
 constexpr int behindMs = 5;               // between looks whether the telling has come up to the taking
-constexpr qint64 longestReturnMs = 3000;  // of sources, after a break
+constexpr qint64 longestReturnMs = 3000;  // of sources, after an outage
 
 }  // namespace
 
@@ -117,7 +117,7 @@ void LiveFeed::setConnected(bool connected) {
         backEnd.setConnected(false);
     } else {
         isCatchingUp = true;
-        sinceBreak.start();
+        sinceOutage.start();
         takenLate = 0;
         backEnd.setConnected(true);
         for (const Entry& entry : std::vector(entries))
@@ -252,7 +252,7 @@ void LiveFeed::dropDoneSources() {
 
 // The sources of before are waited for, for a while.
 bool LiveFeed::hasCaughtUp() {
-    const bool areBack = entries.size() >= sourcesBefore || sinceBreak.elapsed() > longestReturnMs;
+    const bool areBack = entries.size() >= sourcesBefore || sinceOutage.elapsed() > longestReturnMs;
     return isConnected && areBack && isIdle();
 }
 

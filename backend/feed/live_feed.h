@@ -19,13 +19,13 @@ struct SourceKind;
 struct FeedState {
     enum Kind {
         Live,
-        Reconnecting,  // taking what a break kept away, or waiting for a store that cannot be written
+        Reconnecting,  // taking what an outage kept away, or waiting for a store that cannot be written
         Offline,
         OnlyRead,  // the store can only be read: no news comes by itself
     };
     Kind kind = Live;
     std::int64_t since = 0;        // when it came to be so, seconds since 1970; 0: from the start
-    int late = 0;                  // items that came late after the last break
+    int late = 0;                  // items that came late after the last outage
     std::optional<Error> trouble;  // why the store cannot be written; nothing: it can
 
     bool operator==(const FeedState&) const = default;
@@ -48,13 +48,13 @@ public:
     explicit LiveFeed(EmbeddedBackEnd& backEnd);
     ~LiveFeed() override;
 
-    // Opens a source of this kind. One that is there but fails is tried again after a break.
+    // Opens a source of this kind. One that is there but fails is tried again after an outage.
     Done open(const SourceKind& kind, const QString& value);
     void addSource(const std::shared_ptr<FeedSource>& source) override;
     // Those that have a name, in the order in which they came.
     std::vector<SourceReport> sources() const;
 
-    // An outage, a break, keeps everything away: files stay in the spool, clients are sent off and may come
+    // An outage keeps everything away: files stay in the spool, clients are sent off and may come
     // again after it. What came to the store meanwhile is told when it is over, oldest first.
     void setConnected(bool connected);
     FeedState state() const { return current; }
@@ -107,8 +107,8 @@ private:
     bool isTold = false;               // that trouble is
     bool isConnected = true;
     bool isCatchingUp = false;
-    std::size_t sourcesBefore = 0;  // the break
-    QElapsedTimer sinceBreak;       // since its end
+    std::size_t sourcesBefore = 0;  // the outage
+    QElapsedTimer sinceOutage;      // since its end
     qint64 takenLate = 0;           // while catching up
     FeedState current;
 };

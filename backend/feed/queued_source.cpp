@@ -80,7 +80,7 @@ std::shared_ptr<FeedBatch> QueuedSource::batch() {
 }
 
 void QueuedSource::acknowledge(const BatchOutcome&) {
-    // A batch of before a break is not at hand any more.
+    // A batch of before an outage is not at hand any more.
     if (!std::exchange(isTaken, false))
         return;
     queue->pop();

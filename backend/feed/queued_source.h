@@ -16,7 +16,7 @@ public:
     virtual ~SourceReader() = default;
 
     // Runs on a thread of its own: reads from behind the position (empty: from the start), pushes batches and
-    // tells states, until the queue is closed or nothing more can come. Runs anew after a break, from the
+    // tells states, until the queue is closed or nothing more can come. Runs anew after an outage, from the
     // position that is kept by then. What it waits for by other means than the queue it waits for briefly:
     // who ends the source waits for its return.
     virtual void run(const QString& position, SourceQueue& queue) = 0;
@@ -34,7 +34,7 @@ public:
     bool hasBatch() override;
     std::shared_ptr<FeedBatch> batch() override;
     void acknowledge(const BatchOutcome& outcome) override;
-    // What was not acknowledged before a break is read again after it.
+    // What was not acknowledged before an outage is read again after it.
     void setOnline(bool on) override;
     bool isDone() override;
 

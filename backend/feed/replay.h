@@ -40,8 +40,8 @@ private:
     Clock::time_point begin;
 };
 
-// Plays the news of a stored day into a terminal. What falls due during a break of the connection comes when
-// it is back.
+// Plays the news of a stored day into a terminal. What falls due during an outage of the connection comes
+// when it is back.
 class Replay : public QObject, private SourceTaker {
     Q_OBJECT
 

@@ -111,7 +111,7 @@ public:
     // Tells the receivers of the change. While not connected, they are told no news. What came meanwhile is
     // told when the connection is back, oldest first. At first: connected.
     void setConnected(bool on);
-    // How many headlines were told late after the last break.
+    // How many headlines were told late after the last outage.
     int lateHeadlines() const { return lastMissed; }
     // When this headline, or its present version, reached the store, in seconds since 1970; nothing for an
     // unknown one.

@@ -10,8 +10,8 @@ namespace wirepane {
 
 // What a back end may offer beside BKQuoteInterface, by inheriting this, too: it numbers the news that comes
 // in. A view that finds it (by dynamic_cast from the installed back end) does not take a pushed headline into
-// a list that had it already when the list was read, be it read during a break or between the keeping of the
-// headline and the telling. Without it such a headline counts as sent again and moves to the top.
+// a list that had it already when the list was read, be it read during an outage or between the keeping of
+// the headline and the telling. Without it such a headline counts as sent again and moves to the top.
 // Interface thread.
 class WIREPANE_CONTRACT_EXPORT NewsPositions {
 public:

@@ -93,7 +93,7 @@ protected:
         host_clock::startAt(day.startOfDay().toSecsSinceEpoch() + static_cast<int>(share * newsHours));
     }
 
-    // All headlines of the day in batches of one transaction each; a few breaks, in which hands go on.
+    // All headlines of the day in batches of one transaction each; a few outages, in which hands go on.
     void liveThroughTheDay() {
         const int batch = std::clamp(perDay / 200, 20, 500);
         const int batches = perDay / batch;
@@ -111,7 +111,7 @@ protected:
             if (offlineFor == 0 && wire.below(batches) < 3) {
                 offlineFor = 1 + wire.below(batches / 20 + 2);
                 backEnd.setConnected(false);
-                ++breaks;
+                ++outages;
             } else if (offlineFor > 0 && --offlineFor == 0) {
                 backEnd.setConnected(true);
             }
@@ -278,7 +278,7 @@ protected:
     std::unique_ptr<Desk> session;
     MemoryInUse inUse;
     QString rows;  // of each list that was compared
-    int breaks = 0;
+    int outages = 0;
 };
 
 }  // namespace
@@ -319,7 +319,7 @@ TEST_F(Week, MemoryStaysAndEveryListHoldsWhatBelongsThere) {
                 << day.toString().toStdString();
         }
     }
-    EXPECT_GT(breaks, days);
+    EXPECT_GT(outages, days);
     EXPECT_EQ(StoreChecker(session->embeddedBackEnd().storePath()).check().value(), QStringList{});
 }
 

@@ -3,7 +3,7 @@
 #include "headline_list/intake.h"
 
 #include "headline_list/date_pager.h"
-#include "headline_list/feed_breaks.h"
+#include "headline_list/outages.h"
 #include "host/contract/fixed_services.h"
 
 #include <functional>
@@ -235,29 +235,29 @@ TEST(DatePager, ATickedServiceBeginsANewDay) {
         EXPECT_EQ(entryOfNewDay(services, status), entry) << int(status.service) << ' ' << status.date;
 }
 
-// Seconds; a break lasts until the connection is back, which is itself no part of it.
-TEST(FeedBreaks, HoldTheTimesWithoutAConnection) {
-    FeedBreaks breaks;
+// Seconds; an outage lasts until the connection is back, which is itself no part of it.
+TEST(Outages, HoldTheTimesWithoutAConnection) {
+    Outages outages;
     const auto held = [&] {
         std::string result;
         for (const int time : {9, 10, 19, 20, 29, 30, 40})
-            result += breaks.holds(time) ? 'x' : '.';
+            result += outages.holds(time) ? 'x' : '.';
         return result;
     };
-    breaks.restored(5);
-    EXPECT_EQ(breaks.ended(), 0U);
-    breaks.lost(10);
-    breaks.lost(15);
-    EXPECT_EQ(breaks.brokenSince(), 10);
+    outages.restored(5);
+    EXPECT_EQ(outages.ended(), 0U);
+    outages.lost(10);
+    outages.lost(15);
+    EXPECT_EQ(outages.lostSince(), 10);
     EXPECT_EQ(held(), ".xxxxxx");
-    breaks.restored(20);
+    outages.restored(20);
     EXPECT_EQ(held(), ".xx....");
-    breaks.lost(30);
+    outages.lost(30);
     EXPECT_EQ(held(), ".xx..xx");
-    breaks.restored(40);
-    breaks.restored(50);
+    outages.restored(40);
+    outages.restored(50);
     EXPECT_EQ(held(), ".xx..x.");
-    EXPECT_EQ(breaks.ended(), 2U);
+    EXPECT_EQ(outages.ended(), 2U);
 }
 
 }  // namespace wirepane

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "headline_list/feed_breaks.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/headline_table.h"
 #include "headline_list/list_owner.h"
+#include "headline_list/outages.h"
 #include "host/views/quote_base_view.h"
 #include "news_view/application_switches.h"
 #include "news_view/common_parts.h"
@@ -45,7 +45,7 @@ public:
 
     CommonParts parts() {
         return {backEnd,  window,  services, lists, controls, settings,
-                switches, loading, breaks,   tip,   newsType};
+                switches, loading, outages,  tip,   newsType};
     }
     CSuperSheetWnd* grid(ListIndex list = ListIndex::All) { return lists[list].grid(); }
     // Adds a headline with its story; the list has it when it is read next.
@@ -101,7 +101,7 @@ public:
     ViewSettings settings;
     ApplicationSwitches switches;
     ModeLoading loading;
-    FeedBreaks breaks;
+    Outages outages;
     ListTip tip{window, [] { return ListTip::Look{{}, Qt::black, Qt::white}; }};
     ListIndex shown = ListIndex::All;
     NewsType newsType = NewsType::Full;

@@ -57,7 +57,7 @@ protected:
     ViewSettings& settings = view.settings;
     ApplicationSwitches& switches = view.switches;
     ModeLoading& loading = view.loading;
-    FeedBreaks& breaks = view.breaks;
+    Outages& outages = view.outages;
     ListTip& tip = view.tip;
     NewsType& newsType = view.newsType;
     const CommonParts parts = view.parts();

@@ -19,7 +19,7 @@ TEST_F(LiveSourceTest, AReaderThatIsKilledAnywhereGoesOnBehindWhatWasKept) {
     ASSERT_TRUE(other);
     QStringList kept;  // what is in the store when a reader begins
     const auto hasBegun = [&] {
-        // What is being taken when a break comes is kept, and the reader goes on behind it.
+        // What is being taken when an outage comes is kept, and the reader goes on behind it.
         backEnd->run({});
         const auto inStore = titlesIn(*other.value()).size();
         kept += inStore > 0 ? QString::number(inStore) : QString();
@@ -113,7 +113,7 @@ TEST(QueuedSourceTest, AReaderIsNoFurtherAheadThanTheQueueIsLong) {
         EXPECT_EQ(source.batch()->position(), u"11"_s);
         source.acknowledge({});
         EXPECT_TRUE(QTest::qWaitFor([&] { return log.pushed == most + 1; }));
-        // A batch of before a break cannot be acknowledged after it.
+        // A batch of before an outage cannot be acknowledged after it.
         source.batch();
         source.setOnline(false);
         source.setOnline(true);

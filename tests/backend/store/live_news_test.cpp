@@ -92,7 +92,7 @@ TEST_F(LiveNewsTest, WhatAnotherProgramWritesIsToldInTheOrderOfComing) {
     EXPECT_EQ(entriesOfToday(), 4);
 }
 
-// By itself, by another program, and in a break, at whose end the last word counts.
+// By itself, by another program, and in an outage, at whose end the last word counts.
 TEST_F(LiveNewsTest, AKeyThatReplacedNewsHasLostIsToldAsGone) {
     constexpr std::int64_t day = 86400;
     NewsItem item = newsItem(1, u"a"_s, at(11, 0), u"A"_s);
@@ -185,7 +185,7 @@ TEST_F(LiveNewsTest, AReaderOfAnEarlierMomentSeesNothingOfTheFuture) {
         EXPECT_EQ(entriesOfToday(), 2 + c.aheadAtOnce) << "not before it is told";
         backEnd.setConnected(false);
         backEnd.checkForNews();
-        EXPECT_EQ(heard(), QStringList{}) << "nothing comes in a break";
+        EXPECT_EQ(heard(), QStringList{}) << "nothing comes in an outage";
         backEnd.setConnected(true);
         backEnd.checkForNews();
         EXPECT_EQ(heard(), QStringList{u"headline 1/3 Tea evening [1] 2330"_s});
@@ -228,7 +228,7 @@ TEST_F(LiveNewsTest, ABurstIsOneTransactionAndIsToldInPortions) {
     EXPECT_EQ(entriesOfToday(), burst);
     EXPECT_LT(listener.heard.size(), burst);
     EXPECT_FALSE(backEnd.isDelivered());
-    // A break in the middle of the batches loses none.
+    // An outage in the middle of the batches loses none.
     backEnd.setConnected(false);
     QCoreApplication::processEvents();
     const auto before = listener.heard.size();

@@ -191,15 +191,15 @@ TEST_F(AutomationSessionTest, WhatIsPushedDuringABreakIsInTheListAfterIt) {
     script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{900, 600}}, {u"mask"_s, 1}});
     script.result(u"feed.push"_s, news(1, u"2026-03-02T09:01:00"_s, 1, u"Before"_s));
     script.result(u"feed.connect"_s, QJsonObject{{u"on"_s, false}});
-    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:20:00"_s, 3, u"Second of the break"_s));
-    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:10:00"_s, 2, u"First of the break"_s));
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:20:00"_s, 3, u"Second of the outage"_s));
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:10:00"_s, 2, u"First of the outage"_s));
     const auto titles = [&] {
         script.result(u"idle"_s);
         return titlesOf(script.result(u"grid.read"_s, QJsonObject{{u"list"_s, 0}}).toObject());
     };
     EXPECT_EQ(titles(), QStringList{u"Before"_s});
     script.result(u"feed.connect"_s, QJsonObject{{u"on"_s, true}});
-    EXPECT_EQ(titles(), (QStringList{u"Second of the break"_s, u"First of the break"_s, u"Before"_s}));
+    EXPECT_EQ(titles(), (QStringList{u"Second of the outage"_s, u"First of the outage"_s, u"Before"_s}));
 
     const QJsonObject key{
         {u"service"_s, 1}, {u"time"_s, localSeconds(u"2026-03-02T09:01:00"_s)}, {u"seq"_s, 1}};

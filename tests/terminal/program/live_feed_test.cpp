@@ -193,10 +193,10 @@ TEST_F(LiveFeedTest, AReplayWithABreakEndsAsOneWithout) {
     start(replay, replayTo(u"broken"_s));
     ASSERT_TRUE(QTest::qWaitFor([&] { return listNow(script).size() > calm.size() / 4; }, 20000));
     script.result(u"feed.connect"_s, QJsonObject{{u"on"_s, false}});
-    const QStringList atBreak = list(script);
-    EXPECT_LT(atBreak.size(), calm.size());
+    const QStringList atOutage = list(script);
+    EXPECT_LT(atOutage.size(), calm.size());
     script.result(u"wait"_s, QJsonObject{{u"ms"_s, 1000}});
-    EXPECT_EQ(list(script), atBreak);
+    EXPECT_EQ(list(script), atOutage);
     script.result(u"feed.connect"_s, QJsonObject{{u"on"_s, true}});
     ASSERT_TRUE(replay.waitForFinished(60000));
     EXPECT_EQ(replay.exitCode(), 0) << replay.readAllStandardError().toStdString();
@@ -245,7 +245,7 @@ TEST_F(FeedKillTest, WhatWasConfirmedOutlivesAKill) {
     for (int round = 0; round < rounds; ++round) {
         QProcess feed;
         start(feed, {u"feed"_s, u"--store"_s, store, u"--receipts"_s});
-        // The lines that may have been lost come again, as after any break.
+        // The lines that may have been lost come again, as after any outage.
         next = confirmed;
         constexpr int perRound = 4000;
         feed.write(lines(next, perRound));
