@@ -5,7 +5,6 @@
 #include "tests/sample_wire/collected_wire.h"
 
 #include <QColor>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -15,7 +14,6 @@
 namespace wirepane {
 namespace {
 
-constexpr int screenful = 40;
 constexpr QStringView mark = u"@@@@";
 
 const CollectedWire& wire() {
@@ -92,82 +90,6 @@ TEST(SampleTexts, StoriesKeepToTheLengthAskedFor) {
         ASSERT_TRUE(item.story);
         EXPECT_GE(item.story->size(), 1'000) << item.title.toStdString();
         EXPECT_LE(item.story->size(), 3'000) << item.title.toStdString();
-    }
-}
-
-TEST(SampleTexts, EveryServiceSpeaksItsLanguage) {
-    for (unsigned char service : std::initializer_list<unsigned char>{2, 16, 52, 122})
-        for (const NewsItem* item : wire().newsOf(service))
-            EXPECT_TRUE(isChinese(item->title)) << item->title.toStdString();
-    for (const NewsItem* item : wire().newsOf(1))
-        EXPECT_FALSE(isChinese(item->title + item->story.value_or(QString()))) << item->title.toStdString();
-    const auto hongKong = wire().newsOf(22);
-    const auto chinese = std::count_if(hongKong.begin(), hongKong.end(),
-                                       [](const NewsItem* item) { return isChinese(item->title); });
-    EXPECT_GT(chinese, static_cast<int>(hongKong.size()) / 2);
-    EXPECT_LT(chinese, static_cast<int>(hongKong.size()) * 9 / 10);
-}
-
-// What is left of a title when its figures and all but its first letters are taken away: how it is worded.
-QString wordingOf(const NewsItem& item) {
-    static const QRegularExpression names(QStringLiteral("[0-9.,]+|[A-Z][a-z]+"));
-    QString title = item.title;
-    return title.remove(names).simplified();
-}
-
-TEST(SampleTexts, NoScreenfulLooksRepetitive) {
-    struct Row {
-        unsigned char service;
-        std::size_t distinctTitles;
-    };
-    for (const Row& row : {Row{1, 38}, {2, 38}, {16, 38}, {22, 38}, {122, 38}, {52, 36}}) {
-        const auto news = wire().newsOf(row.service);
-        for (std::size_t first = 0; first + screenful <= news.size(); first += 7) {
-            std::set<QString> titles;
-            for (int i = 0; i < screenful; ++i)
-                titles.insert(news[first + i]->title);
-            EXPECT_GE(titles.size(), row.distinctTitles) << "service " << int{row.service} << " at " << first;
-        }
-    }
-    const auto english = wire().newsOf(1);
-    for (std::size_t first = 0; first + screenful <= english.size(); first += 7) {
-        std::set<QString> wordings;
-        for (int i = 0; i < screenful; ++i)
-            wordings.insert(wordingOf(*english[first + i]));
-        EXPECT_GE(wordings.size(), 30U) << "at " << first;
-    }
-}
-
-// A title's figures are those of its story.
-TEST(SampleTexts, FiguresOfTheHeadlineStandInTheStory) {
-    const QRegularExpression resultTitle(QStringLiteral(
-        "posts [a-z-]+ profit of (NT\\$[0-9.,]+ [mb]illion)|revenue (?:rises|falls) [0-9.]+% on year "
-        "to (NT\\$[0-9.,]+ [mb]illion)"));
-    int compared = 0;
-    for (const NewsItem* item : wire().newsOf(1)) {
-        const QRegularExpressionMatch match = resultTitle.match(item->title);
-        if (!match.hasMatch() || item->story->isEmpty())
-            continue;
-        EXPECT_TRUE(item->story->contains(match.captured(match.lastCapturedIndex())))
-            << item->title.toStdString() << '\n'
-            << item->story->toStdString();
-        ++compared;
-    }
-    EXPECT_GT(compared, 10);
-}
-
-TEST(SampleTexts, TheMainSymbolIsTheOneThatTheStoryNames) {
-    for (unsigned char service : std::initializer_list<unsigned char>{16, 52, 122})
-        for (const NewsItem* item : wire().newsOf(service))
-            EXPECT_FALSE(item->related.empty()) << item->title.toStdString();
-    for (const NewsItem* item : wire().newsOf(52)) {
-        ASSERT_GE(item->related.size(), 2U);
-        EXPECT_EQ(item->related[0].market, 52);
-        EXPECT_EQ(item->related[1].market, 16);
-        if (!item->story->isEmpty()) {
-            EXPECT_TRUE(item->story->contains(item->related[0].code)) << item->story->toStdString();
-            EXPECT_TRUE(item->story->contains(item->related[1].code)) << item->story->toStdString();
-        }
     }
 }
 

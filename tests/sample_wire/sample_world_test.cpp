@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "sample_wire/day_plan.h"
-#include "sample_wire/results.h"
 #include "sample_wire/slots.h"
 #include "tests/sample_wire/collected_wire.h"
 
@@ -77,33 +76,6 @@ TEST(MarketState, PricesFlowFromOneDayIntoTheNextWithinTheDailyLimit) {
                     << company.english.toStdString();
             }
         }
-    }
-}
-
-TEST(Results, ReportsOfOnePeriodAgreeWithEachOther) {
-    const CompanyRegister companies(sampleData().words);
-    const Month march{2026 * 12 + 2};
-    for (const Company& company : companies.companies(emergingBoardService)) {
-        const MonthRevenue third = monthRevenue(company, march);
-        const MonthRevenue second = monthRevenue(company, {march.number - 1});
-        EXPECT_EQ(third.monthBefore, second.revenue);
-        EXPECT_GT(third.yearToDate, second.yearToDate);
-        EXPECT_EQ(monthRevenue(company, {march.number + 12}).yearBefore, third.revenue);
-
-        const QuarterResults quarter = quarterResults(company, {2025 * 4 + 3});
-        EXPECT_EQ(quarter.up(), quarter.margin > quarter.marginBefore);
-        EXPECT_LE(quarter.profit, quarter.revenue);
-        EXPECT_GT(quarter.profitBefore, 0);
-    }
-}
-
-TEST(Rhythm, DrawsNoMinuteThatHasNoWeight) {
-    const RhythmPoint points[] = {{0, 0}, {600, 0}, {660, 10}, {720, 0}, {24 * 60 - 1, 0}};
-    const Rhythm rhythm(points);
-    for (std::uint64_t i = 0; i < 5'000; ++i) {
-        const int minute = rhythm.minuteFor(hashOf(i));
-        EXPECT_GT(minute, 600);
-        EXPECT_LT(minute, 720);
     }
 }
 
