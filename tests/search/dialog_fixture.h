@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -33,7 +34,8 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(window));
         expectRoomForEach();
     }
-    // What is to be seen stands inside the window, and beside all else; columns fill their table.
+    // What is to be seen stands inside the window, and beside all else; columns fill their table, and
+    // captions show texts as they stand.
     void expectRoomForEach() const {
         QRegion taken;
         for (const QWidget* part : window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -42,6 +44,8 @@ protected:
             EXPECT_TRUE(window->rect().contains(part->geometry()) && !taken.intersects(part->geometry()))
                 << part->metaObject()->className() << ' ' << windowId(part);
             taken += part->geometry();
+            const auto* caption = qobject_cast<const QLabel*>(part);
+            EXPECT_TRUE(caption == nullptr || caption->textFormat() == Qt::PlainText);
             const auto* table = qobject_cast<const QTableWidget*>(part);
             EXPECT_TRUE(table == nullptr ||
                         table->horizontalHeader()->length() >= table->viewport()->width());

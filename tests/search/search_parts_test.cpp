@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 // Conditions, keywords and recent searches, and what is kept of them.
 #include "headline_list/language_keys.h"
+#include "headline_list/list_index.h"
+#include "headline_list/service_entry.h"
 #include "host/contract/cfg_io.h"
 #include "host/contract/search_choices.h"
 #include "search/news_relate_symbol_quote_view.h"
@@ -184,6 +186,38 @@ TEST(SearchDesk, AQuickSearchKeepsTheSymbolsOfItsOwnWord) {
     EXPECT_EQ(desk.searchHistory(), (std::vector{u"tin"_s, u"zinc"_s}));
 }
 
+TEST(SearchDesk, AnswersAreDueOnceFromWhoWasAskedLast) {
+    FakeBackEnd backEnd;
+    SearchDesk desk(backEnd);
+    std::vector<ServiceEntry> services{{1, true}, {2, false}, {16, true}};
+    const auto pending = [&] {
+        QString result;
+        for (const ServiceEntry& entry : services)
+            result += entry.searchPending ? u'x' : u'.';
+        return result;
+    };
+    const CSearch before = condition({u"before"_s});
+    desk.ordinary = before;
+    desk.sendSearch(ListIndex::Search, services, true, {5, 2});
+    EXPECT_EQ(backEnd.asked.size(), 2);
+    EXPECT_EQ(pending(), u"x.x"_s);
+    EXPECT_TRUE(desk.takeAnswerDue(before, 1));
+    EXPECT_FALSE(desk.takeAnswerDue(before, 1));
+    EXPECT_FALSE(desk.takeAnswerDue(before, 2)) << "not asked";
+    EXPECT_TRUE(markAnswered(services, 1));
+    EXPECT_FALSE(markAnswered(services, 16));
+    desk.ordinary = condition({u"after"_s});
+    desk.sendSearch(ListIndex::Search, services, false, {6, 3});
+    EXPECT_EQ(pending(), u"..."_s) << "sent without waiting";
+    EXPECT_FALSE(desk.takeAnswerDue(before, 16)) << "its search was given up";
+    EXPECT_TRUE(desk.takeAnswerDue(desk.ordinary, 16));
+    EXPECT_EQ(desk.sentAt(ListIndex::Search)->time, 6);
+    desk.sendSearch(ListIndex::Search, services, true, {7, 3});
+    EXPECT_TRUE(forgetPending(services));
+    EXPECT_FALSE(forgetPending(services));
+    EXPECT_EQ(pending(), u"..."_s);
+}
+
 TEST(RelatedQuotes, ASymbolWithoutAMarketIsThatOfTheFirstThatHasItsCode) {
     FakeBackEnd backEnd;
     backEnd.symbols = {{16, {{u"2330"_s, u"Aster"_s}}},
@@ -191,6 +225,7 @@ TEST(RelatedQuotes, ASymbolWithoutAMarketIsThatOfTheFirstThatHasItsCode) {
     QWidget window;
     auto* quotes = new CNewsRelateSymbolQuoteView(&window);
     ASSERT_TRUE(quotes->CreateView(&window, u"quotes"_s, 0, 0));
+    EXPECT_EQ(quotes->windowTitle(), u"IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE"_s);
     const std::pair<CSymbolInfo, QString> cases[] = {{{0, u"2330"_s}, u"16:2330"_s},
                                                      {{1, u"2330"_s}, u"1:2330"_s},
                                                      {{22, u"2330"_s}, u"22:2330"_s},
