@@ -212,13 +212,6 @@ protected:
     PlainRows rows;
 };
 
-TEST_F(SheetOfRows, AtTheTopTheNewRowsShow) {
-    for (int i = 0; i < 30; ++i)
-        insert(0);
-    EXPECT_EQ(sheet->firstVisibleRow(), 0);
-    EXPECT_EQ(sheet->rowCount(), 1030);
-}
-
 TEST_F(SheetOfRows, RowsOnScreenKeepTheirPlace) {
     struct Case {
         const char* what;

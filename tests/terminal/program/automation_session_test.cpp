@@ -215,28 +215,6 @@ TEST_F(AutomationSessionTest, WhatIsPushedDuringABreakIsInTheListAfterIt) {
     EXPECT_EQ(script.result(u"view.state"_s)[u"newsDay"_s].toInt(), 20260303);
 }
 
-TEST_F(AutomationSessionTest, AHeadlineWithoutAStorySaysSoUntilOneComes) {
-    ScriptClient script(arguments());
-    script.result(u"host.set"_s, QJsonObject{{u"lang"_s, u"en"_s}});
-    script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{900, 600}}, {u"mask"_s, 1}});
-    QJsonObject flash = news(1, u"2026-03-02T09:01:00"_s, 1, u"Flash"_s);
-    flash[u"story"_s] = QString();
-    script.result(u"feed.push"_s, flash);
-    script.result(u"idle"_s);
-    script.result(u"input.click"_s, QJsonObject{{u"row"_s, 0}});
-    script.result(u"idle"_s);
-    const auto shown = [&] {
-        return script.result(u"story.state"_s, QJsonObject{{u"where"_s, u"pane"_s}})[u"story"_s].toString();
-    };
-    EXPECT_TRUE(shown().endsWith(u"\r\nThis headline has no story."_s)) << shown().toStdString();
-    script.result(u"feed.story"_s, QJsonObject{{u"service"_s, 1},
-                                               {u"time"_s, localSeconds(u"2026-03-02T09:01:00"_s)},
-                                               {u"seq"_s, 1},
-                                               {u"story"_s, u"After all"_s}});
-    script.result(u"idle"_s);
-    EXPECT_TRUE(shown().contains(u"After all"_s)) << shown().toStdString();
-}
-
 TEST_F(AutomationSessionTest, HostSettingsTakeEffectAtOnceAndSwitchesForTheNextView) {
     ScriptClient script(arguments());
     script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{800, 500}}});

@@ -1,10 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "backend/import/source_formats.h"
-#include "backend/store/embedded_back_end.h"
-#include "backend/store/store_file.h"
-#include "host/contract/clock.h"
-#include "tests/backend/store/take_all.h"
 #include "tests/terminal/program/program_runner.h"
 
 #include <QDateTime>
@@ -280,30 +276,6 @@ TEST_F(CommandLineTest, TheSameSampleTwiceIsOneSample) {
     EXPECT_EQ(second.status, 0);
     EXPECT_TRUE(second.out.startsWith(u"0 taken in"_s)) << second.out.toStdString();
     EXPECT_EQ(check().status, 0);
-}
-
-TEST_F(CommandLineTest, EveryCategoryOfTheSampleHasNews) {
-    ASSERT_EQ(runProgram({u"sample"_s, u"--store"_s, store, u"--days"_s, u"5"_s, u"--now"_s,
-                          u"2026-03-06T20:00:00"_s})
-                  .status,
-              0);
-    wirepane::EmbeddedBackEnd backEnd(wirepane::connectionsTo(store));
-    std::vector<unsigned char> services;
-    backEnd.BKQNEWS_bGetAllNewsService(services);
-    EXPECT_EQ(services.size(), 6U);
-    host_clock::startAt(QDateTime(QDate(2026, 3, 6), QTime(20, 0)).toSecsSinceEpoch());
-    for (const unsigned char service : services) {
-        std::vector<QString> ids;
-        std::vector<QString> names;
-        backEnd.bNewsAPI_GetNewsCatId(service, ids, names);
-        EXPECT_FALSE(ids.empty()) << int{service};
-        for (std::size_t i = 0; i < ids.size(); ++i) {
-            std::vector<CHeadlineTable> table;
-            backEnd.BKQNEWS_iGetHeadlineTable(service, table, static_cast<int>(TableKind::ByCategory),
-                                              ids[i]);
-            EXPECT_FALSE(table.empty()) << int{service} << ' ' << names[i].toStdString();
-        }
-    }
 }
 
 }  // namespace
