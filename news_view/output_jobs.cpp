@@ -21,6 +21,7 @@ OutputJobs::OutputJobs(BKQuoteInterface& newsBackEnd, OutputDialogs& dialogs, Su
       previewer(backEnd, dialogs, around.window) {
     for (TRVNewsPrint* job : jobs()) {
         job->setOnAwaited(around.awaitedChanged);
+        job->setOnHandedOver([this] { setEnabled(ids::printButton, true); });
         job->setOnFinished([this](const NewsOutcome& outcome) { tell(outcome); });
     }
 }
@@ -57,20 +58,23 @@ NewsOutcome OutputJobs::putOut(TRVNewsPrint& job, int button, const std::vector<
 
 NewsOutcome OutputJobs::ask(TRVNewsPrint& job, int button, OutputItems items) {
     const QPointer<QWidget> window = &around.window;
-    const QPointer<QWidget> control = dlgItem(&around.window, button);
     QWidget* dialog = around.stage.dialogOnShow();
     around.stage.leaveTop();
-    if (control != nullptr)
-        control->setEnabled(false);
+    setEnabled(button, false);
     NewsOutcome outcome = job.putOut(std::move(items), dialog, std::nullopt);
-    if (control != nullptr)
-        control->setEnabled(true);
     // The jobs have gone with their window: nobody is left to tell it.
-    if (window == nullptr)
+    if (window == nullptr) {
         outcome.message.clear();
-    else
-        around.stage.applyWindowStyle();
+        return outcome;
+    }
+    setEnabled(button, !outcome.underWay);
+    around.stage.applyWindowStyle();
     return outcome;
+}
+
+void OutputJobs::setEnabled(int button, bool on) {
+    if (QWidget* control = dlgItem(&around.window, button))
+        control->setEnabled(on);
 }
 
 void OutputJobs::tell(const NewsOutcome& outcome) {
@@ -89,7 +93,7 @@ void OutputJobs::takeStory(const CHeadlineTable& entry) {
 }
 
 bool OutputJobs::isWaiting() const {
-    return awaited() != std::array<int, 3>{};
+    return awaited() != std::array<int, 3>{} || printer.progress();
 }
 
 std::array<int, 3> OutputJobs::awaited() const {
@@ -104,6 +108,8 @@ QString OutputJobs::awaitedText() const {
         if (counts[i] > 0)
             told.append(langText(backEnd, texts[i]).arg(counts[i]));
     }
+    if (const auto progress = printer.progress())
+        told.append(langText(backEnd, keys::printing).arg(static_cast<int>(100 * *progress)));
     return told.join(QStringLiteral(" · "));
 }
 
@@ -122,8 +128,10 @@ int OutputJobs::ready() const {
 }
 
 void OutputJobs::stopWaiting() {
-    for (TRVNewsPrint* job : jobs())
+    for (TRVNewsPrint* job : jobs()) {
         job->forgetAwaited();
+        job->stopRuns();
+    }
 }
 
 void OutputJobs::putOutReady() {

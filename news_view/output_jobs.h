@@ -31,8 +31,9 @@ public:
     OutputJobs(BKQuoteInterface& backEnd, OutputDialogs& dialogs, Surroundings surroundings);
 
     // Puts the news of these entries out, when it has all come: without a target the user is asked, meanwhile
-    // the story dialog leaves the top and the button that asks is off. The window may go, and the jobs with
-    // it, while he is. Nothing happens without entries.
+    // the story dialog leaves the top and the button that asks is off, for pages until they have been handed
+    // to the host that paints them. The window may go, and the jobs with it, while he is. Nothing happens
+    // without entries.
     NewsOutcome print(const std::vector<CHeadlineTable>& entries, const std::optional<OutputTarget>& target);
     NewsOutcome save(const std::vector<CHeadlineTable>& entries, const std::optional<OutputTarget>& target);
     NewsOutcome preview(const std::vector<CHeadlineTable>& entries);
@@ -43,7 +44,8 @@ public:
     void takeHeadlines(const std::vector<CHeadlineTable>& entries);
     void takeStory(const CHeadlineTable& entry);
 
-    // Whether any job waits, and in words what each waits for; empty: for nothing.
+    // Whether any job waits or takes long, and in words what each waits for and how far it is; empty:
+    // nothing.
     bool isWaiting() const;
     QString awaitedText() const;
     // How many pieces of news each job waits for: printing, saving, the preview.
@@ -52,8 +54,8 @@ public:
     std::vector<MenuEntry> waitingCommands() const;
     // How many pieces of the news that waits are complete.
     int ready() const;
-    // What is still waited for is put out no more, nor what waited with it; what is complete is, without the
-    // rest.
+    // What is still waited for is put out no more, nor what waited with it, nor the rest of what is being
+    // printed; what is complete is put out, without the rest.
     void stopWaiting();
     void putOutReady();
 
@@ -63,6 +65,7 @@ private:
     NewsOutcome putOut(TRVNewsPrint& job, int button, const std::vector<CHeadlineTable>& entries,
                        const std::optional<OutputTarget>& target);
     NewsOutcome ask(TRVNewsPrint& job, int button, OutputItems items);
+    void setEnabled(int button, bool on);
 
     BKQuoteInterface& backEnd;
     Surroundings around;

@@ -86,12 +86,6 @@ std::shared_ptr<PagesToPaint> pdfPages(const QString& file, const QPageLayout& l
     return pages;
 }
 
-NewsOutcome paintInOneGo(const std::shared_ptr<PagesToPaint>& pages, BKQuoteInterface& backEnd,
-                         const OutputItems& items) {
-    pages->pages = PageMaking(*pages, backEnd, items).allPages();
-    return pages->pages.empty() ? NewsOutcome() : outcomeOf(*pages, paintPages(*pages), backEnd);
-}
-
 }  // namespace
 
 QStringList pageFamilies(BKQuoteInterface& backEnd) {
@@ -164,7 +158,8 @@ std::vector<PrintedPage> PageMaking::allPages() {
 NewsOutcome outcomeOf(const PagesToPaint& pages, const PaintOutcome& painted, BKQuoteInterface& backEnd) {
     const auto* printer = static_cast<const QPrinter*>(pages.device.get());
     NewsOutcome outcome;
-    if (painted.result == PaintResult::Stopped)
+    outcome.failed = painted.result == PaintResult::Stopped;
+    if (outcome.failed)
         return outcome;
     if (printer == nullptr && painted.result == PaintResult::Failed)
         return failure(backEnd, QDir::toNativeSeparators(pages.file), painted.why);
@@ -175,16 +170,17 @@ NewsOutcome outcomeOf(const PagesToPaint& pages, const PaintOutcome& painted, BK
     return outcome;
 }
 
-NewsOutcome printItems(const std::shared_ptr<QPrinter>& printer, BKQuoteInterface& backEnd,
-                       const OutputItems& items) {
-    return paintInOneGo(pagesFor(printer, backEnd), backEnd, items);
+NewsOutcome printInOneGo(const std::shared_ptr<PagesToPaint>& pages, BKQuoteInterface& backEnd,
+                         const OutputItems& items) {
+    pages->pages = PageMaking(*pages, backEnd, items).allPages();
+    return pages->pages.empty() ? NewsOutcome() : outcomeOf(*pages, paintPages(*pages), backEnd);
 }
 
 NewsOutcome printItemsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const OutputItems& items) {
     const auto pages = pagesForPdf(target, backEnd);
     if (const auto* cannot = std::get_if<NewsOutcome>(&pages))
         return *cannot;
-    return paintInOneGo(std::get<0>(pages), backEnd, items);
+    return printInOneGo(std::get<0>(pages), backEnd, items);
 }
 
 void previewItems(BKQuoteInterface& backEnd, const OutputItems& items, QWidget* parent) {

@@ -56,8 +56,8 @@ private:
 NewsOutcome outcomeOf(const PagesToPaint& pages, const PaintOutcome& painted, BKQuoteInterface& backEnd);
 
 // Print in one go. Nothing is printed without pages.
-NewsOutcome printItems(const std::shared_ptr<QPrinter>& printer, BKQuoteInterface& backEnd,
-                       const OutputItems& items);
+NewsOutcome printInOneGo(const std::shared_ptr<PagesToPaint>& pages, BKQuoteInterface& backEnd,
+                         const OutputItems& items);
 NewsOutcome printItemsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const OutputItems& items);
 
 // Shows the pages that would be printed. Runs an event loop.

@@ -4,6 +4,7 @@
 
 #include "output/left_out.h"
 #include "output/page_printing.h"
+#include "output/print_run.h"
 #include "output/printable_story.h"
 
 #include <QPrinter>
@@ -20,6 +21,12 @@ TRVNewsPrint::TRVNewsPrint(BKQuoteInterface& newsBackEnd, OutputDialogs& outputD
 
 TRVNewsPrint::~TRVNewsPrint() {
     *alive = false;
+    NewsOutcome stopped;
+    stopped.failed = true;
+    for (const Run& run : runs) {
+        if (run.target && run.target->told)
+            run.target->told(stopped);
+    }
 }
 
 StoryForm TRVNewsPrint::storyForm() const {
@@ -133,8 +140,8 @@ void TRVNewsPrint::putOutSettled() {
         const Pending pending = std::move(*settled);
         queue.erase(std::next(settled).base());
         const NewsOutcome outcome = outputAlone(pending.items, nullptr, pending.target);
-        if (*here && onFinished)
-            onFinished(outcome);
+        if (*here && !outcome.underWay)
+            tellFinished(pending.target, outcome);
     }
 }
 
@@ -144,7 +151,7 @@ NewsOutcome TRVNewsPrint::outputAlone(const OutputItems& items, QWidget* parent,
     busy = true;
     const NewsOutcome outcome = outputSettled(items, parent != nullptr ? parent : &parentWindow, target);
     if (*here)
-        busy = false;
+        busy = outcome.underWay;
     return outcome;
 }
 
@@ -154,19 +161,89 @@ NewsOutcome TRVNewsPrint::outputSettled(const OutputItems& items, QWidget* paren
     const OutputItems complete = completeItems(items);
     if (complete.empty() && !items.empty())
         return nothingToPutOut(news);
+    const std::size_t leftOut = items.size() - complete.size();
     NewsOutcome outcome = output(complete, parent, target);
-    tellLeftOut(news, items.size() - complete.size(), outcome);
+    if (outcome.underWay)
+        runs.back().leftOut = leftOut;
+    else
+        tellLeftOut(news, leftOut, outcome);
     return outcome;
 }
 
 NewsOutcome TRVNewsPrint::output(const OutputItems& items, QWidget* parent,
                                  const std::optional<OutputTarget>& target) {
     BKQuoteInterface& news = backEnd;
-    if (target)
-        return printItemsToPdf(*target, news, items);
-    const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    const std::shared_ptr<bool> here = alive;
-    if (!dialogs.askPrinter(*printer, parent) || !*here)
-        return {};
-    return printItems(printer, news, items);
+    std::shared_ptr<PagesToPaint> pages;
+    if (target) {
+        const auto pdf = pagesForPdf(*target, news);
+        if (const auto* cannot = std::get_if<NewsOutcome>(&pdf))
+            return *cannot;
+        pages = std::get<0>(pdf);
+    } else {
+        const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+        const std::shared_ptr<bool> here = alive;
+        if (!dialogs.askPrinter(*printer, parent) || !*here)
+            return {};
+        pages = pagesFor(printer, news);
+    }
+    const bool isTold = !target || target->told;
+    return isTold && PagePainter::installed() != nullptr ? start(pages, items, target)
+                                                         : printInOneGo(pages, news, items);
+}
+
+// --- What goes on beside everything else ---
+
+NewsOutcome TRVNewsPrint::start(const std::shared_ptr<PagesToPaint>& pages, const OutputItems& items,
+                                const std::optional<OutputTarget>& target) {
+    PrintRun::Told told{[this] { handedOver(); },
+                        [this] {
+                            if (onAwaited)
+                                onAwaited();
+                        },
+                        [this, job = pages.get()](const PaintOutcome& painted) { endRun(painted, job); }};
+    auto making = std::make_unique<PageMaking>(*pages, backEnd, items);
+    runs.push_back({std::make_unique<PrintRun>(pages, std::move(making), std::move(told)), target});
+    NewsOutcome outcome;
+    outcome.underWay = true;
+    return outcome;
+}
+
+void TRVNewsPrint::handedOver() {
+    busy = false;
+    if (onHandedOver)
+        onHandedOver();
+    putOutSoon();
+}
+
+void TRVNewsPrint::endRun(const PaintOutcome& painted, const PagesToPaint* pages) {
+    const auto ended =
+        std::find_if(runs.begin(), runs.end(), [&](const Run& run) { return &run.run->job() == pages; });
+    Run run = std::move(*ended);
+    runs.erase(ended);
+    NewsOutcome outcome = outcomeOf(*pages, painted, backEnd);
+    tellLeftOut(backEnd, run.leftOut, outcome);
+    run.run.release()->deleteLater();
+    if (onAwaited)
+        onAwaited();
+    tellFinished(run.target, outcome);
+}
+
+void TRVNewsPrint::tellFinished(const std::optional<OutputTarget>& target, const NewsOutcome& outcome) {
+    if (target && target->told)
+        target->told(outcome);
+    if (onFinished)
+        onFinished(outcome);
+}
+
+void TRVNewsPrint::stopRuns() {
+    for (const Run& run : runs)
+        run.run->stop();
+}
+
+std::optional<double> TRVNewsPrint::progress() const {
+    for (const Run& run : runs) {
+        if (run.run->isLong())
+            return run.run->progress();
+    }
+    return std::nullopt;
 }

@@ -12,11 +12,19 @@
 
 class QWidget;
 
+namespace wirepane {
+class PrintRun;
+struct PagesToPaint;
+struct PaintOutcome;
+
+}  // namespace wirepane
+
 // Prints news, at once or when everything that it needs has come, and then from the event loop: never within
 // the back end's call. A list of news that waits stays in a queue until the back end's answers have completed
 // it; a queue goes with its owner, whatever still waits. What will not come is left out, and the outcome says
 // of how much. The saver and the preview differ in what they do
-// with complete news only. Interface thread only.
+// with complete news only. Where the host has a PagePainter, pages are made and painted beside everything
+// else; what is to be printed meanwhile waits until they have been handed over. Interface thread only.
 class TRVNewsPrint {
 public:
     // All must outlive this. `parentWindow` is the parent of dialogs that are given no other.
@@ -47,13 +55,20 @@ public:
     void forgetAwaited();
     void putOutReady();
 
+    // What is under way is printed no further, and leaves no half file.
+    void stopRuns();
+    // How much of it is done, from 0 to 1, when it takes more than half a second.
+    std::optional<double> progress() const;
+
     // What the back end answers.
     void RespHeadLine(const std::vector<CHeadlineTable>& entries);
     void RespStory(const CHeadlineTable& entry);
 
-    // Is told when awaitedCount may have changed.
+    // Is told when awaitedCount or progress may have changed.
     void setOnAwaited(std::function<void()> told) { onAwaited = std::move(told); }
-    // Is told what came of news that had waited.
+    // Is told when the pages of what is under way have been handed over: the next can be printed.
+    void setOnHandedOver(std::function<void()> told) { onHandedOver = std::move(told); }
+    // Is told what came of news that had waited or was under way.
     void setOnFinished(std::function<void(const wirepane::NewsOutcome&)> told) {
         onFinished = std::move(told);
     }
@@ -74,6 +89,18 @@ private:
         std::vector<unsigned char> services;
         std::optional<wirepane::OutputTarget> target;
     };
+    struct Run {
+        std::unique_ptr<wirepane::PrintRun> run;
+        std::optional<wirepane::OutputTarget> target;
+        std::size_t leftOut = 0;
+    };
+    wirepane::NewsOutcome start(const std::shared_ptr<wirepane::PagesToPaint>& pages,
+                                const wirepane::OutputItems& items,
+                                const std::optional<wirepane::OutputTarget>& target);
+    void handedOver();
+    void endRun(const wirepane::PaintOutcome& painted, const wirepane::PagesToPaint* pages);
+    void tellFinished(const std::optional<wirepane::OutputTarget>& target,
+                      const wirepane::NewsOutcome& outcome);
     wirepane::NewsOutcome outputAlone(const wirepane::OutputItems& items, QWidget* parent,
                                       const std::optional<wirepane::OutputTarget>& target);
     void takeAnswer();
@@ -86,7 +113,9 @@ private:
     wirepane::OutputDialogs& dialogs;
     QWidget& parentWindow;
     std::vector<Pending> queue;
+    std::vector<Run> runs;
     std::function<void()> onAwaited;
+    std::function<void()> onHandedOver;
     std::function<void(const wirepane::NewsOutcome&)> onFinished;
     bool busy = false;
     bool soon = false;  // putOutSettled is on its way

@@ -60,7 +60,7 @@ public:
 
 }  // namespace wirepane
 
-#define WIREPANE_NEWS_MODULE_IID "wirepane.NewsModule/3"
+#define WIREPANE_NEWS_MODULE_IID "wirepane.NewsModule/4"
 Q_DECLARE_INTERFACE(wirepane::NewsModule, WIREPANE_NEWS_MODULE_IID)
 
 namespace wirepane {

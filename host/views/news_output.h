@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace wirepane {
 
 // What a news module is told, and tells, about printing and saving.
@@ -14,6 +16,15 @@ enum class NewsFileType {
     Utf8,         // without a byte-order mark
 };
 
+// What came of it.
+struct NewsOutcome {
+    int count = 0;          // pages printed, bytes saved; headlines shown in a preview
+    bool waiting = false;   // it is put out when the titles and stories that are missing have come
+    bool underWay = false;  // it is being printed, and will be told
+    bool failed = false;    // also what was stopped, which has no message
+    QString message;        // a sentence for the user, with the file's name; empty: nothing to tell
+};
+
 // Where news is to go without the user being asked.
 struct OutputTarget {
     QString file;
@@ -22,14 +33,9 @@ struct OutputTarget {
     // NewsModule: titles of several lines keep their tail, but in a file of code page 950. A view decides by
     // its settings.
     bool wholeTitles = false;
-};
-
-// What came of it.
-struct NewsOutcome {
-    int count = 0;         // pages printed, bytes saved; headlines shown in a preview
-    bool waiting = false;  // it is put out when the titles and stories that are missing have come
-    bool failed = false;
-    QString message;  // a sentence for the user, with the file's name; empty: nothing to tell
+    // Views: is told, once, what came of news that waited or was under way. With it pages are painted by the
+    // host's PagePainter where there is one; without it within the call.
+    std::function<void(const NewsOutcome&)> told = {};
 };
 
 }  // namespace wirepane

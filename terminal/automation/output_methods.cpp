@@ -5,6 +5,8 @@
 #include "terminal/automation/view_lookup.h"
 #include "terminal/session/session.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -13,7 +15,7 @@ namespace {
 
 Answer answerOf(const NewsOutcome& outcome, const QString& name) {
     if (outcome.failed)
-        return RpcError{RpcCode::Refused, outcome.message};
+        return RpcError{RpcCode::Refused, outcome.message.isEmpty() ? u"it was stopped"_s : outcome.message};
     QJsonObject result{{name, outcome.count}};
     if (outcome.waiting)
         result.insert(u"waiting"_s, true);
@@ -23,18 +25,28 @@ Answer answerOf(const NewsOutcome& outcome, const QString& name) {
 }  // namespace
 
 void OutputMethods::addTo(MethodTable& table) {
-    table.add(u"print.pdf"_s, [this](Params& params) { return print(params); });
+    table.addDeferred(u"print.pdf"_s, [this](Params& params, const Reply& reply) { print(params, reply); });
     table.add(u"save.file"_s, [this](Params& params) { return save(params); });
 }
 
-Answer OutputMethods::print(Params& params) {
+// Answered when the file is there, unless something of it is still to come.
+void OutputMethods::print(Params& params, const Reply& reply) {
     const OpenView* view = viewOf(params, session.workspace());
     OutputTarget target;
     target.file = params.text(u"path"_s);
     target.paper = params.optionalText(u"paper"_s).value_or(QString());
-    if (view == nullptr || params.error())
-        return {};
-    return answerOf(view->access->printSelection(target), u"pages"_s);
+    if (view == nullptr || params.error()) {
+        reply(params.error() ? Answer(*params.error()) : Answer());
+        return;
+    }
+    const auto answered = std::make_shared<bool>(false);
+    target.told = [reply, answered, here = std::weak_ptr(alive)](const NewsOutcome& outcome) {
+        if (!here.expired() && !std::exchange(*answered, true))
+            reply(answerOf(outcome, u"pages"_s));
+    };
+    const NewsOutcome outcome = view->access->printSelection(target);
+    if (!outcome.underWay && !std::exchange(*answered, true))
+        reply(answerOf(outcome, u"pages"_s));
 }
 
 Answer OutputMethods::save(Params& params) {

@@ -4,6 +4,8 @@
 
 #include "terminal/automation/method_table.h"
 
+#include <memory>
+
 namespace wirepane {
 class Session;
 
@@ -16,10 +18,11 @@ public:
     void addTo(MethodTable& table);
 
 private:
-    Answer print(Params& params);
+    void print(Params& params, const Reply& reply);
     Answer save(Params& params);
 
     Session& session;
+    std::shared_ptr<bool> alive = std::make_shared<bool>(true);  // what is printed may outlast this
 };
 
 }  // namespace wirepane

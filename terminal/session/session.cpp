@@ -121,6 +121,8 @@ Done Session::start(const SessionOptions& options) {
     store->setSysPath(configFolder);
     BKQuoteInterface::setBKInterface(store.get());
     SearchControl::setSearchObjInterface(&store->symbols());
+    painter = std::make_unique<BackgroundPainter>();
+    PagePainter::install(painter.get());
     if (const Done fed = startFeed(options); !fed)
         return fed;
     categoryDisplay = std::make_unique<CategoryDisplay>(*store);

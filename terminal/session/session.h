@@ -8,6 +8,7 @@
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/workspace.h"
 #include "terminal/session/appearance.h"
+#include "terminal/session/background_painter.h"
 #include "terminal/session/breaking_news.h"
 #include "terminal/session/category_display.h"
 #include "terminal/session/category_watch.h"
@@ -120,6 +121,7 @@ private:
     // In the order in which they depend on each other; destroyed from the last to the first.
     std::unique_ptr<TerminalSettings> terminalSettings;
     std::unique_ptr<EmbeddedBackEnd> store;
+    std::unique_ptr<BackgroundPainter> painter;
     std::unique_ptr<LiveFeed> liveFeed;
     QString feedNotice;  // why feeds do not find this terminal under the common name
     std::unique_ptr<CategoryDisplay> categoryDisplay;

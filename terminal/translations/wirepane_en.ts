@@ -1463,6 +1463,10 @@
         <source></source>
         <translation>Waiting to preview: %1 still to come</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRINTING">
+        <source></source>
+        <translation>Printing: %1%</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PRINT">
         <source></source>
         <translation>Waiting to print: %1 still to come</translation>

@@ -1463,6 +1463,10 @@
         <source></source>
         <translation>等待打印预览，尚缺 %1 则</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRINTING">
+        <source></source>
+        <translation>正在打印：%1%</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PRINT">
         <source></source>
         <translation>等待打印，尚缺 %1 则</translation>

@@ -1463,6 +1463,10 @@
         <source></source>
         <translation>等待預覽列印，尚缺 %1 則</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRINTING">
+        <source></source>
+        <translation>正在列印：%1%</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PRINT">
         <source></source>
         <translation>等待列印，尚缺 %1 則</translation>

@@ -7,8 +7,10 @@
 #include "host/views/news_control_ids.h"
 #include "news_view/story_stage.h"
 #include "tests/support/fake_back_end.h"
+#include "tests/support/held_painter.h"
 
 #include <QFile>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -22,18 +24,20 @@ namespace wirepane {
 
 namespace {
 
-// Answers nothing, and notes who was asked.
+// Notes who was asked.
 class Asked : public OutputDialogs {
 public:
-    bool askPrinter(QPrinter&, QWidget* parent) override {
+    bool askPrinter(QPrinter& printer, QWidget* parent) override {
         note(u"printer"_s, parent);
-        return false;
+        printer.setOutputFileName(file);
+        return !file.isEmpty();
     }
     std::optional<OutputTarget> askFile(BKQuoteInterface&, QWidget* parent) override {
         note(u"file"_s, parent);
         return std::nullopt;
     }
 
+    QString file;  // that is printed into; empty: none
     QStringList asked;
     QWidget* over = nullptr;
     std::function<void()> whileAsked = [] {};
@@ -189,6 +193,27 @@ TEST_F(OutputJobsTest, WhatIsCompleteIsPutOutWithoutTheRestAndTheUserIsToldOfIt)
     EXPECT_EQ(told, QStringList{u"left out 1"_s});
     jobs->tell({});
     EXPECT_EQ(told.size(), 1) << "nothing to tell";
+}
+
+TEST_F(OutputJobsTest, WhatIsBeingPrintedIsToldAndCanBeStopped) {
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_PRINTING"_s] = u"printed %1"_s;
+    HeldPainter painter;
+    dialogs.file = folder.filePath(u"asked.pdf"_s);
+    EXPECT_TRUE(jobs->print({news(1)}, std::nullopt).underWay);
+    EXPECT_FALSE(isEnabled(ids::printButton)) << "until the pages have been handed over";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return painter.jobs.size() == 1; }));
+    EXPECT_TRUE(isEnabled(ids::printButton));
+    EXPECT_FALSE(jobs->isWaiting()) << "not worth telling yet";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return jobs->isWaiting(); }));
+    EXPECT_EQ(jobs->awaitedText(), u"printed 50"_s);
+    EXPECT_EQ(jobs->waitingCommands(), (std::vector<MenuEntry>{{ids::stopWaiting, u"stop"_s, {}}}));
+    EXPECT_GT(awaitedChanged, 0);
+    jobs->stopWaiting();
+    painter.paintNext();
+    EXPECT_FALSE(jobs->isWaiting());
+    EXPECT_EQ(jobs->awaitedText(), QString());
+    EXPECT_EQ(told, QStringList()) << "the user knows";
+    EXPECT_FALSE(QFile::exists(dialogs.file));
 }
 
 TEST_F(OutputJobsTest, AnswersReachEveryJob) {
