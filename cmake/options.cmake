@@ -116,7 +116,7 @@ endfunction()
 function(wirepane_add_test test program fonts family)
     add_test(NAME ${test} COMMAND ${program})
     set_tests_properties(${test} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;FONTCONFIG_FILE=${CMAKE_BINARY_DIR}/tests/${fonts}_fonts.conf;WIREPANE_TEST_FONT=${family};LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp;WIREPANE_TEST_NEWS=${CMAKE_SOURCE_DIR}/../shared/news"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;FONTCONFIG_FILE=${CMAKE_BINARY_DIR}/tests/${fonts}_fonts.conf;WIREPANE_TEST_FONT=${family};LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp;TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/races.supp;WIREPANE_TEST_NEWS=${CMAKE_SOURCE_DIR}/../shared/news"
         TIMEOUT 600)
 endfunction()
 

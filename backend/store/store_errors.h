@@ -24,6 +24,7 @@ inline constexpr ErrorCode nothingToKeep{"ERROR_STORE_NOTHING_TO_KEEP",
                                          u"Nothing was begun that could be kept."};
 inline constexpr ErrorCode nothingBegun{"ERROR_STORE_NOTHING_BEGUN",
                                         u"Nothing was begun that the %1 could be part of."};
+inline constexpr ErrorCode stopped{"ERROR_STORE_STOPPED", u"The program ends: nothing more is taken in."};
 inline constexpr ErrorCode news{"ERROR_STORE_NEWS", u"news"};
 inline constexpr ErrorCode story{"ERROR_STORE_STORY", u"story"};
 inline constexpr ErrorCode position{"ERROR_STORE_POSITION", u"position"};

@@ -23,6 +23,10 @@ StoreIntake::StoreIntake(Database& store, StoreSync& storeSync, Reported reporte
     database.readNumber("PRAGMA data_version", lastVersion.emplace());
 }
 
+StoreIntake::~StoreIntake() {
+    writer->stop();
+}
+
 void StoreIntake::ask(Work work, Then then) {
     jobs.push_back({std::move(work), std::move(then)});
     if (jobs.size() == 1)

@@ -37,6 +37,11 @@ public:
     // Both outlive this.
     StoreIntake(Database& database, StoreSync& sync, Reported reported);
 
+    // What is under way is given up, what has not begun is dropped.
+    ~StoreIntake();
+    StoreIntake(const StoreIntake&) = delete;
+    StoreIntake& operator=(const StoreIntake&) = delete;
+
     // `then` is called back from the event loop, when the work is done and has been reported, and the next
     // has begun.
     void ask(Work work, Then then = {});

@@ -93,6 +93,10 @@ Error StoreWriter::fail() {
 }
 
 Result<TakeOutcome> StoreWriter::take(const StoreItem& item) {
+    if (isStopped) {
+        rollback();
+        return makeError<store_errors::stopped>();
+    }
     if (const auto* symbol = std::get_if<SymbolItem>(&item))
         return takeSymbol(cleaned(*symbol));
     if (const auto* category = std::get_if<CategoryItem>(&item))

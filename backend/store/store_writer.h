@@ -14,6 +14,7 @@
 
 #include <QSet>
 
+#include <atomic>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -59,6 +60,8 @@ public:
     // Puts the story of the headline with this key, whether it had one or not. Rejected: there is no such
     // headline, or the text is too long.
     Result<TakeOutcome> takeStory(const HeadlineKey& key, const QString& story);
+    // From now on nothing is taken: what is under way fails, and is taken back. Any thread.
+    void stop() { isStopped = true; }
     // The symbols that the transactions since the last call have changed.
     std::vector<SymbolItem> takeChangedSymbols();
 
@@ -94,6 +97,7 @@ private:
     std::vector<SymbolItem> changedSymbols;  // the last of them by the running transaction
     std::size_t keptSymbols = 0;             // of them, by those before
     bool begun = false;
+    std::atomic<bool> isStopped = false;
 };
 
 }  // namespace wirepane

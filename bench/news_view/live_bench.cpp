@@ -3,14 +3,13 @@
 // What live news costs with a whole view open: pushes through RecvNewHeadLine beside bare insertions into a
 // table, and how long a key waits for its answer while 50,000 headlines arrive in a second.
 #include "bench/headline_list/list_bench.h"
+#include "bench/news_view/key_watch.h"
 #include "headline_list/list_index.h"
 #include "host/contract/cfg_io.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "news_view/trv_news_ctrl_view.h"
 
 #include <QApplication>
-#include <QInputDevice>
-#include <QKeyEvent>
 #include <QTimer>
 
 #include <algorithm>
@@ -18,14 +17,9 @@
 #include <thread>
 
 using namespace wirepane;
+using namespace wirepane::bench;
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
-
-double secondsSince(Clock::time_point from) {
-    return std::chrono::duration<double>(Clock::now() - from).count();
-}
 
 class LiveBackEnd : public ArrayBackEnd {
 public:
@@ -100,42 +94,6 @@ void insertIntoABareTable(benchmark::State& state) {
         benchmark::Counter(1000.0 * static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 
-// Notes when the keys that were posted to a window have been answered.
-class KeyWatch : public QObject {
-public:
-    // The keyboard is made here, on the interface thread.
-    explicit KeyWatch(QWidget& window) : target(window) { QInputDevice::primaryKeyboard(); }
-
-    // Any thread: a key, and a mark behind it in the queue of events.
-    void post() {
-        QCoreApplication::postEvent(&target, new QKeyEvent(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier));
-        QCoreApplication::postEvent(this, new Mark);
-    }
-    // Seconds from the post to the answer, ascending.
-    std::vector<double> takeWaits() {
-        std::sort(waits.begin(), waits.end());
-        return std::exchange(waits, {});
-    }
-
-protected:
-    bool event(QEvent* event) override {
-        if (auto* mark = dynamic_cast<Mark*>(event)) {
-            waits.push_back(secondsSince(mark->posted));
-            return true;
-        }
-        return QObject::event(event);
-    }
-
-private:
-    struct Mark : QEvent {
-        Mark() : QEvent(QEvent::User) {}
-        Clock::time_point posted = Clock::now();
-    };
-
-    QWidget& target;
-    std::vector<double> waits;
-};
-
 // Headlines come as the clock says, a millisecond's worth at a time; keys come from another thread.
 void keysDuringABurst(benchmark::State& state) {
     constexpr int burst = 50'000;
@@ -164,16 +122,8 @@ void keysDuringABurst(benchmark::State& state) {
         over = true;
         user.join();
         QApplication::processEvents();
-        const std::vector<double> waits = watch.takeWaits();
-        const auto wait = [&](double share) {
-            return 1000 * waits[static_cast<std::size_t>(share * static_cast<double>(waits.size() - 1))];
-        };
-        state.counters["keys"] = static_cast<double>(waits.size());
+        countWaits(state, watch.takeWaits());
         state.counters["seconds"] = seconds;
-        state.counters["ms_50"] = wait(0.5);
-        state.counters["ms_90"] = wait(0.9);
-        state.counters["ms_99"] = wait(0.99);
-        state.counters["ms_max"] = wait(1);
     }
 }
 

@@ -863,6 +863,10 @@
         <source></source>
         <translation>The quote belongs to no market.</translation>
     </message>
+    <message id="ERROR_STORE_STOPPED">
+        <source></source>
+        <translation>The program ends: nothing more is taken in.</translation>
+    </message>
     <message id="ERROR_STORE_STORY">
         <source></source>
         <translation>story</translation>

@@ -863,6 +863,10 @@
         <source></source>
         <translation>报价不属于任何市场。</translation>
     </message>
+    <message id="ERROR_STORE_STOPPED">
+        <source></source>
+        <translation>程序即将结束，不再收录。</translation>
+    </message>
     <message id="ERROR_STORE_STORY">
         <source></source>
         <translation>正文</translation>

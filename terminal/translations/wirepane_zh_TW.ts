@@ -863,6 +863,10 @@
         <source></source>
         <translation>報價不屬於任何市場。</translation>
     </message>
+    <message id="ERROR_STORE_STOPPED">
+        <source></source>
+        <translation>程式即將結束，不再收錄。</translation>
+    </message>
     <message id="ERROR_STORE_STORY">
         <source></source>
         <translation>內文</translation>

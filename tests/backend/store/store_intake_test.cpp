@@ -178,6 +178,23 @@ TEST_F(StoreIntakeTest, NobodyWaitsForAStoreThatIsBusy) {
     writer->rollback();
 }
 
+// Nobody waits for the end of a large file to end the program; nothing of it stays.
+TEST_F(StoreIntakeTest, TheEndGivesUpWhatIsUnderWay) {
+    std::atomic<int> taken = 0;
+    {
+        EmbeddedBackEnd backEnd(connectionsTo(store->path()));
+        backEnd.ask(
+            [&taken](StoreWriter& into) {
+                ASSERT_TRUE(into.begin());
+                while (into.take(newsItem(service, QString::number(taken), at(9, 0), u"T"_s)))
+                    ++taken;
+            },
+            {});
+        EXPECT_TRUE(QTest::qWaitFor([&taken] { return taken > 10; }));
+    }
+    EXPECT_EQ(rows("SELECT count(*) FROM headlines"), QStringList{u"0"_s});
+}
+
 }  // namespace
 
 }  // namespace wirepane

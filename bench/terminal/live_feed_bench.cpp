@@ -1,0 +1,232 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// A live feed from its lines to the rows on screen: a sender on a socket, the store, three views. How much
+// comes through at full rate and how long a key waits meanwhile; how long a line takes to its painted row
+// when 500 come in a second.
+#include "backend/feed/live_feed.h"
+#include "backend/feed/socket_source.h"
+#include "backend/store/embedded_back_end.h"
+#include "bench/backend/store_timing.h"
+#include "bench/news_view/key_watch.h"
+#include "host/contract/cfg_io.h"
+#include "host/contract/clock.h"
+#include "host/contract/view_options.h"
+#include "host/controls/super_sheet_wnd.h"
+#include "host/views/news_control_ids.h"
+#include "news_view/trv_news_ctrl_view.h"
+
+#include <QAbstractItemModel>
+#include <QApplication>
+#include <QDateTime>
+#include <QLocalSocket>
+#include <QTemporaryDir>
+
+#include <atomic>
+#include <mutex>
+#include <stdexcept>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+using namespace wirepane;
+using namespace wirepane::bench;
+
+namespace {
+
+constexpr int viewCount = 3;
+
+// Every headline has a second of its own, so that the newest stands on top.
+const std::int64_t evening = QDateTime(QDate(2026, 3, 2), QTime(22, 0)).toSecsSinceEpoch();
+constexpr int perDay = 70'000;
+
+QString titleOf(int number) {
+    return u"Headline %1 of a day full of news"_s.arg(number);
+}
+
+QByteArray lineOf(int number) {
+    const QString moment =
+        QDateTime::fromSecsSinceEpoch(evening - perDay + number % perDay, Qt::UTC).toString(Qt::ISODate);
+    return u"{\"uri\":\"bench:%1\",\"headline\":\"%2\",\"versioncreated\":\"%3\",\"body_text\":\"%4\"}\n"_s
+        .arg(number)
+        .arg(titleOf(number), moment, u"Copper rises for the third day. "_s.repeated(8))
+        .toUtf8();
+}
+
+// Three views over a store with a live feed.
+class LiveDesk {
+public:
+    LiveDesk() {
+        host_clock::startAt(evening);
+        BKQuoteInterface::setBKInterface(&backEnd);
+        for (Place& place : views) {
+            place.view = std::make_unique<TRVNewsCtrlView>();
+            place.view->resize(900, 600);
+            ViewOptions::writeMissing(place.settings, {u"Layout"_s, 0, 0, u"TRVNewsCtrlView"_s});
+            place.view->OnInitialUpdate();
+            place.view->InitialViewInfo(&place.settings, u"Layout"_s, 0, 0, {});
+            place.view->show();
+        }
+        feed.addSource(std::make_shared<SocketSource>(socketName()));
+        QApplication::processEvents();
+    }
+    QString socketName() const { return folder.filePath(u"feed"_s); }
+    CSuperSheetWnd& sheet(std::size_t view = 0) { return *views.at(view).view->sheetOf(0); }
+    // Until every view has so many rows and has painted.
+    void awaitRows(int count) {
+        const auto from = Clock::now();
+        const auto isThere = [&](Place& place) { return place.view->iGetHeadlineTableSize(0) >= count; };
+        while (!std::all_of(views.begin(), views.end(), isThere)) {
+            QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+            if (secondsSince(from) > 300)
+                throw std::runtime_error("the views did not get all the news");
+        }
+        QApplication::processEvents();
+    }
+
+private:
+    struct Place {
+        MemoryCfgIO settings;
+        std::unique_ptr<TRVNewsCtrlView> view;
+    };
+
+    QTemporaryDir folder;
+    EmbeddedBackEnd backEnd{connectionsTo(folder.filePath(u"news.db"_s))};
+    std::array<Place, viewCount> views;
+    LiveFeed feed{backEnd};
+};
+
+// Sends lines from a thread of its own: `perSecond` of them, or, with 0, as many as are taken.
+class Sender {
+public:
+    Sender(const QString& name, int count, int perSecond) : sentAt(static_cast<std::size_t>(count)) {
+        thread = std::thread([this, name, count, perSecond] {
+            QLocalSocket socket;
+            socket.connectToServer(name);
+            socket.waitForConnected();
+            const auto from = Clock::now();
+            for (int i = 0; i < count; ++i) {
+                if (perSecond > 0)
+                    std::this_thread::sleep_until(from +
+                                                  std::chrono::microseconds(1'000'000LL * i / perSecond));
+                sentAt[static_cast<std::size_t>(i)] = Clock::now();
+                sent = i + 1;
+                socket.write(lineOf(i));
+                if (perSecond > 0 || i % 200 == 199)
+                    socket.waitForBytesWritten(-1);
+            }
+            while (socket.bytesToWrite() > 0)
+                socket.waitForBytesWritten(-1);
+            while (!over)
+                std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        });
+    }
+    ~Sender() {
+        over = true;
+        thread.join();
+    }
+
+    std::vector<Clock::time_point> sentAt;
+    std::atomic<int> sent = 0;  // of these
+    std::atomic<bool> over = false;
+
+private:
+    std::thread thread;
+};
+
+void keysDuringALiveFeed(benchmark::State& state) {
+    const int count = static_cast<int>(state.range(0));
+    for (auto unused : state) {
+        LiveDesk desk;
+        KeyWatch watch(desk.sheet());
+        const auto from = Clock::now();
+        {
+            Sender sender(desk.socketName(), count, 0);
+            std::thread user([&] {
+                while (!sender.over) {
+                    std::this_thread::sleep_for(std::chrono::milliseconds(3));
+                    watch.post();
+                }
+            });
+            desk.awaitRows(count);
+            sender.over = true;
+            user.join();
+        }
+        state.counters["items_per_s"] = count / secondsSince(from);
+        QApplication::processEvents();
+        countWaits(state, watch.takeWaits());
+    }
+}
+
+// Notes, at each painting of a sheet, how long ago the headlines were sent that stand in it now.
+class PaintWatch : public QObject {
+public:
+    PaintWatch(CSuperSheetWnd& watched, const Sender& source) : sheet(watched), sender(source) {
+        sheet.viewport()->installEventFilter(this);
+    }
+    std::vector<double> waits() {
+        std::sort(seen.begin(), seen.end());
+        return seen;
+    }
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            note();
+        return QObject::eventFilter(object, event);
+    }
+
+private:
+    void note() {
+        const QAbstractItemModel& model = *sheet.model();
+        for (int row = 0; row < std::min(model.rowCount(), sheet.rowsPerPage()); ++row) {
+            for (int column = 0; column < model.columnCount(); ++column) {
+                const QString text = model.index(row, column).data().toString();
+                if (!text.startsWith("Headline "_L1))
+                    continue;
+                const int number = text.section(u' ', 1, 1).toInt();
+                for (; next <= number; ++next)
+                    seen.push_back(secondsSince(sender.sentAt.at(static_cast<std::size_t>(next))));
+            }
+        }
+    }
+
+    CSuperSheetWnd& sheet;
+    const Sender& sender;
+    std::vector<double> seen;
+    int next = 0;
+};
+
+void lineToPaintedRow(benchmark::State& state) {
+    const int count = static_cast<int>(state.range(0));
+    constexpr int perSecond = 500;
+    for (auto unused : state) {
+        LiveDesk desk;
+        Sender sender(desk.socketName(), count, perSecond);
+        PaintWatch watch(desk.sheet(), sender);
+        desk.awaitRows(count);
+        const auto from = Clock::now();
+        while (std::ssize(watch.waits()) < count && secondsSince(from) < 5)
+            QApplication::processEvents();
+        countWaits(state, watch.waits());
+    }
+}
+
+}  // namespace
+
+namespace wirepane {
+
+BENCHMARK(keysDuringALiveFeed)
+    ->Arg(1000)
+    ->Arg(30'000)
+    ->Arg(200'000)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(lineToPaintedRow)->Arg(1000)->Arg(10'000)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+}  // namespace wirepane
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
