@@ -41,7 +41,6 @@ void NewsStoryView::InitialViewInfo(TRVCfgIO2* settings, const QString& section,
     setWindowId(notice, story_ids::updateNotice);
     notice->hide();
     vLoadLanguageString();
-    titleEdit->show();
     storyEdit->show();
     vChangeCast();
 }

@@ -3,9 +3,9 @@
 #include "output/output_dialogs.h"
 
 #include "output/page_printing.h"
+#include "tests/support/answering.h"
 #include "tests/support/fake_back_end.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPrintDialog>
@@ -13,36 +13,12 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QTemporaryDir>
-#include <QTimer>
 
-#include <functional>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
-
-namespace {
-
-// Does what opens a dialog, and lets `reply` work and end it.
-template <class Dialog>
-void answering(const std::function<void()>& asks, const std::function<void(Dialog&)>& reply) {
-    bool answered = false;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &look, [&] {
-        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr)
-            return;
-        look.stop();
-        answered = true;
-        reply(*dialog);
-    });
-    look.start(5);
-    asks();
-    EXPECT_TRUE(answered);
-}
-
-}  // namespace
 
 TEST(OutputDialogs, AFileIsAskedForWithItsType) {
     FakeBackEnd backEnd;

@@ -73,31 +73,6 @@ TEST(SampleWire, OrdinaryWiresSendSomethingInTheLastMinutesWheneverThePresentIs)
     }
 }
 
-TEST(SampleWire, EveryServiceSendsAsItsRoleWantsItInCategoriesOfItsOwn) {
-    const CollectedWire wire = collect(threeDays());
-    std::map<std::pair<int, std::int32_t>, QString> catalogue;
-    for (const CategoryItem& category : wire.categories)
-        catalogue[{category.service, category.id}] = category.name;
-
-    struct Row {
-        unsigned char service;
-        std::size_t atLeast;
-        std::size_t fewestCategories;
-    };
-    for (const Row& row :
-         {Row{1, 500, 8}, {2, 500, 8}, {16, 200, 8}, {22, 200, 8}, {122, 80, 8}, {52, 100, 8}}) {
-        const auto news = wire.newsOf(row.service);
-        EXPECT_GE(news.size(), row.atLeast) << int{row.service};
-        std::set<QString> used;
-        for (const NewsItem* item : news) {
-            ASSERT_TRUE(item->categoryId);
-            EXPECT_EQ((catalogue[{row.service, *item->categoryId}]), item->category);
-            used.insert(item->category);
-        }
-        EXPECT_GE(used.size(), row.fewestCategories) << int{row.service};
-    }
-}
-
 TEST(SampleWire, KeepsTheRhythmOfADeskAndRestsAtWeekends) {
     SampleOptions options = threeDays();
     options.now = afternoon + 7 * 24 * hour;

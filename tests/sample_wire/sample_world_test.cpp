@@ -61,23 +61,5 @@ TEST(Writer, WritesTheSameSumInTheUnitsOfBothLanguages) {
     }
 }
 
-TEST(MarketState, PricesFlowFromOneDayIntoTheNextWithinTheDailyLimit) {
-    const CompanyRegister companies(sampleData().words);
-    const MarketState markets(sampleData().words, 3);
-    const Day monday{LocalTime::fromUtc(afternoon).day.number - 2};
-    for (unsigned char market : {stockExchangeService, hongKongService}) {
-        for (const Company& company : companies.companies(market)) {
-            for (int day = 0; day < 4; ++day) {
-                const Quote close = markets.share(company, {{monday.number + day}, 17 * 60});
-                const Quote next = markets.share(company, {{monday.number + day + 1}, 10 * 60});
-                EXPECT_LE(close.change(), 1'200) << company.english.toStdString();
-                // An unchanged share is moved by one step, so that a headline has something to say.
-                EXPECT_LE(std::abs(next.previous - close.now), close.now / 20)
-                    << company.english.toStdString();
-            }
-        }
-    }
-}
-
 }  // namespace
 }  // namespace wirepane::sample

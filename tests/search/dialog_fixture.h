@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/controls/window_id.h"
+#include "tests/support/answering.h"
 #include "tests/support/fake_back_end.h"
 
 #include <QApplication>
@@ -14,9 +15,7 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
-#include <QTimer>
 
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace wirepane {
@@ -72,19 +71,8 @@ protected:
     // Does `work`, which opens a window over the dialog, and `answer`s that window.
     template <class Window>
     void answer(const std::function<void(Window&)>& reply, const std::function<void()>& work) const {
-        bool answered = false;
-        QTimer look;
-        QObject::connect(&look, &QTimer::timeout, window, [&] {
-            auto* over = qobject_cast<Window*>(QApplication::activeModalWidget());
-            if (over == nullptr)
-                return;
-            look.stop();
-            answered = true;
-            reply(*over);
-        });
-        look.start(0);
-        work();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return answered && QApplication::activeModalWidget() == window; }));
+        answering<Window>(work, reply);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeModalWidget() == window; }));
         EXPECT_TRUE(QTest::qWaitForWindowActive(window)) << "it gets the keyboard back";
     }
     void answerBox(const QString& text, QMessageBox::StandardButton button,

@@ -75,6 +75,7 @@ TEST_F(KeySetDialog, ShowsNewsTypesAndKeySetsAndStartsANewOne) {
     EXPECT_EQ(texts(search_ids::keywords), QStringList());
     EXPECT_EQ(saveText(), newSet);
     EXPECT_EQ(focus(), search_ids::keywordEdit);
+    EXPECT_EQ(at<QLabel>(search_ids::newsTypesCaption).text(), u"IDS_DIALOG-DEAL-SEARCH_NEWSTYPE"_s);
 }
 
 TEST_F(KeySetDialog, ANewKeySetNeedsANewsTypeAndAKeyword) {
@@ -150,7 +151,7 @@ TEST_F(KeySetDialog, CheckBoxesTickAndDoNothingElse) {
     press(search_ids::keySets, Qt::Key_Space);
     EXPECT_EQ(ticked(search_ids::keySets), QList<int>{1}) << "Space where the last click was";
     for (const bool isTicked : {true, false}) {
-        at<QTableWidget>(search_ids::keySets).setCurrentCell(0, 0, QItemSelectionModel::NoUpdate);
+        at<QTableWidget>(search_ids::keySets).setCurrentCell(0, 2, QItemSelectionModel::NoUpdate);
         press(search_ids::keySets, Qt::Key_Space);
         EXPECT_EQ(ticked(search_ids::keySets).contains(0), isTicked);
     }

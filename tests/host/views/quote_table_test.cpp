@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <numeric>
-#include <random>
 
 using namespace Qt::StringLiterals;
 
@@ -119,44 +118,6 @@ TEST(QuoteTable, AnUpdateMovesNothingUntilTheRowsArePutInOrder) {
     table.setSymbols({symbol(u"9"_s), symbol(u"1"_s)});
     EXPECT_EQ(codes(table).join(u""_s), u"19") << "what stays is known still, and sorted";
     EXPECT_EQ(textOf(table.at(0), QuoteColumn::Last), u"2.50");
-}
-
-// Random operations against a plain sort of a plain list.
-TEST(QuoteTable, AgreesWithAPlainList) {
-    std::mt19937 random(5);
-    const auto draw = [&random](int below) {
-        return static_cast<int>(random() % static_cast<unsigned>(below));
-    };
-    QuoteTable table;
-    std::vector<CSymbolInfo> symbols;
-    for (int i = 0; i < 60; ++i)
-        symbols.push_back(symbol(QString::number(i)));
-    table.setSymbols(symbols);
-    std::map<QString, double> lasts;
-    for (int step = 0; step < 2000; ++step) {
-        if (draw(50) == 0)
-            table.sortBy(draw(3) == 0 ? std::nullopt
-                                      : std::optional(QuoteTable::Sorting{QuoteColumn::Last, draw(2) == 0}));
-        const QString code = QString::number(draw(60));
-        lasts[code] = draw(20);
-        table.update(quoteOf(lasts[code], 0, 1, code));
-        if (draw(10) == 0)
-            table.resort();
-        ASSERT_EQ(table.rowOf(table.at(draw(60)).symbol) < 0, false);
-    }
-    table.resort();
-    std::vector<CSymbolInfo> expected = symbols;
-    if (const auto sorting = table.sorting()) {
-        std::stable_sort(expected.begin(), expected.end(), [&](const CSymbolInfo& a, const CSymbolInfo& b) {
-            if (!lasts.contains(a.code) || !lasts.contains(b.code))
-                return lasts.contains(a.code) && !lasts.contains(b.code);
-            return sorting->descending ? lasts[a.code] > lasts[b.code] : lasts[a.code] < lasts[b.code];
-        });
-    }
-    for (int row = 0; row < table.size(); ++row) {
-        EXPECT_EQ(table.at(row).symbol.code, expected[static_cast<std::size_t>(row)].code) << row;
-        EXPECT_EQ(table.rowOf(table.at(row).symbol), row);
-    }
 }
 
 TEST(QuoteColumns, FillEveryBoxExactlyAndGiveWayInOrder) {

@@ -3,10 +3,10 @@
 // What the desk shows beside the views, the window of breaking news, the print preview, the guide; and what
 // news brings that the views have not met.
 #include "host/controls/super_sheet_wnd.h"
+#include "tests/support/answering.h"
 #include "tests/support/grid_cells.h"
 #include "tests/terminal/program/frame_fixture.h"
 
-#include <QApplication>
 #include <QDateTime>
 #include <QDialog>
 #include <QFileInfo>
@@ -15,7 +15,6 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
-#include <QTimer>
 #include <QUrl>
 
 #include <gtest/gtest.h>
@@ -77,19 +76,11 @@ TEST_F(FrameOutputTest, TheLatestHeadlineStandsInAWindowOfItsOwn) {
 
 TEST_F(FrameOutputTest, ThePreviewShowsTheSelectedNews) {
     session->workspace().active()->access->sheetOf(0)->setActiveSelection(0, -1);
-    QString shown;
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (modal == nullptr)
-            return;
-        poll.stop();
-        shown = QString::fromLatin1(modal->metaObject()->className());
-        static_cast<QDialog*>(modal)->reject();
-    });
-    poll.start(300);
-    press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(shown, u"QPrintPreviewDialog"_s);
+    answering<QDialog>([this] { press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier); },
+                       [](QDialog& preview) {
+                           EXPECT_STREQ(preview.metaObject()->className(), "QPrintPreviewDialog");
+                           preview.reject();
+                       });
 }
 
 TEST_F(FrameOutputTest, ATopicThatIsNewToTheStoreHasItsName) {
