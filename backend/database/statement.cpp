@@ -86,6 +86,18 @@ void Query::bind(int index, const QString& value) {
     }
 }
 
+void Query::bind(int index, QByteArrayView utf8) {
+    if (broken)
+        return;
+    // Where there are no characters there may be no address either, which would be no text to SQLite.
+    if (sqlite3_bind_text64(running, index, utf8.isEmpty() ? "" : utf8.data(),
+                            static_cast<sqlite3_uint64>(utf8.size()), SQLITE_STATIC,
+                            SQLITE_UTF8) != SQLITE_OK) {
+        broken = true;
+        source.owner.noteFailure();
+    }
+}
+
 void Query::bind(int index, double value) {
     if (!broken)
         sqlite3_bind_double(running, index, value);

@@ -31,7 +31,8 @@ private:
     const char* text;
 };
 
-// One run of a statement, from its parameters to the end of the Query's life, which also ends the reading.
+// One run of a statement, from its parameters to the end of the Query's life, which also ends the reading. A
+// text is copied; one in UTF-8 is not, and outlives the Query.
 class Query {
 public:
     template <class... Values>
@@ -65,6 +66,7 @@ private:
         bindNumber(index, static_cast<std::int64_t>(value));
     }
     void bind(int index, const QString& value);
+    void bind(int index, QByteArrayView utf8);
     void bind(int index, double value);
     void bindNumber(int index, std::int64_t value);
 

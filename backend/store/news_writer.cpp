@@ -4,18 +4,7 @@
 
 #include "host/contract/clock.h"
 
-using namespace Qt::StringLiterals;
-
 namespace wirepane {
-
-namespace {
-
-// The story as the view news_text gives it: the search sees no paragraph marks.
-QString searchedText(const QString& story) {
-    return QString(story).replace("@@@@"_L1, "\n"_L1);
-}
-
-}  // namespace
 
 NewsWriter::NewsWriter(Database& owner)
     : database(owner),
@@ -81,8 +70,7 @@ bool NewsWriter::insert(const NewsItem& item, const NewsPlace& place) {
              .run())
         return false;
     written = database.lastInsertId();
-    return writeStory(written, item.story) && writeRelated(written, item, place) &&
-           addToSearch(written, item.title, item.story);
+    return writeTexts(written, item.title, item.story) && writeRelated(written, item, place);
 }
 
 // The row gets an id that no row had before, so that an id stands for one service, time and number for good.
@@ -99,20 +87,22 @@ bool NewsWriter::replace(std::int64_t id, const NewsItem& item, const NewsPlace&
         if (query.next() || query.failed())
             return false;
     }
-    return writeStory(written, item.story) && writeRelated(written, item, place) &&
-           addToSearch(written, item.title, item.story);
+    return writeTexts(written, item.title, item.story) && writeRelated(written, item, place);
 }
 
 bool NewsWriter::putStory(std::int64_t id, const QString& story) {
     QString title;
-    return takeFromSearch(id, title) && Query(deleteText, id).run() && writeStory(id, story) &&
-           addToSearch(id, title, story);
+    return takeFromSearch(id, title) && Query(deleteText, id).run() && writeTexts(id, title, story);
 }
 
 // A row for the index is never selected from another table in the same statement: that would make the index
-// write what it gathers, row by row.
-bool NewsWriter::addToSearch(std::int64_t id, const QString& title, const std::optional<QString>& story) {
-    return Query(insertSearched, id, title, story ? searchedText(*story) : QString()).run();
+// write what it gathers, row by row. It is what the view news_text gives: the search sees no paragraph marks.
+bool NewsWriter::writeTexts(std::int64_t id, const QString& title, const std::optional<QString>& story) {
+    QByteArray text = story.value_or(QString()).toUtf8();
+    if (story && !Query(insertText, id, QByteArrayView(text)).run())
+        return false;
+    text.replace("@@@@", "\n");
+    return Query(insertSearched, id, title, QByteArrayView(text)).run();
 }
 
 bool NewsWriter::takeFromSearch(std::int64_t id, QString& title) {
@@ -126,10 +116,6 @@ bool NewsWriter::takeFromSearch(std::int64_t id, QString& title) {
     }
     // The index forgets a text only when it is told the very text that it knows.
     return Query(deleteSearched, id, title, story).run();
-}
-
-bool NewsWriter::writeStory(std::int64_t id, const std::optional<QString>& story) {
-    return !story || Query(insertText, id, *story).run();
 }
 
 bool NewsWriter::writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place) {

@@ -53,9 +53,9 @@ public:
 
 private:
     static std::optional<KnownNews> known(Query& query, bool& failed);
-    bool writeStory(std::int64_t id, const std::optional<QString>& story);
+    // The story, and what the index holds of the news.
+    bool writeTexts(std::int64_t id, const QString& title, const std::optional<QString>& story);
     bool writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place);
-    bool addToSearch(std::int64_t id, const QString& title, const std::optional<QString>& story);
     // Takes out what the index holds of a piece of news; `title` becomes the title that it had.
     bool takeFromSearch(std::int64_t id, QString& title);
 
