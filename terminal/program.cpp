@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/program.h"
 
+#include "terminal/commands/backup_command.h"
 #include "terminal/commands/check_command.h"
 #include "terminal/commands/export_command.h"
 #include "terminal/commands/feed_command.h"
@@ -31,8 +32,8 @@ struct Command {
 };
 
 constexpr Command commands[] = {
-    {"import", &runImport}, {"feed", &runFeed},     {"replay", &runReplay},       {"sample", &runSample},
-    {"check", &runCheck},   {"search", &runSearch}, {"export", &runExport, true},
+    {"import", &runImport}, {"feed", &runFeed},     {"replay", &runReplay}, {"sample", &runSample},
+    {"check", &runCheck},   {"backup", &runBackup}, {"search", &runSearch}, {"export", &runExport, true},
 };
 
 QtMessageHandler usualMessages = nullptr;

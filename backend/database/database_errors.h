@@ -32,6 +32,8 @@ inline constexpr ErrorCode takenAway{"ERROR_DATABASE_TAKEN_AWAY",
                                      u"%1 was moved or deleted while it was open: no news is taken in until "
                                      u"it is back or the program is started again."};
 inline constexpr ErrorCode onlyRead{"ERROR_DATABASE_ONLY_READ", u"%1 can only be read: no news is taken in."};
+inline constexpr ErrorCode backupExists{"ERROR_DATABASE_BACKUP_EXISTS",
+                                        u"%1 is there already; name another file for the backup."};
 inline constexpr ErrorCode notOnDisk{"ERROR_DATABASE_NOT_ON_DISK", u"%1 cannot be brought to its disk."};
 
 }  // namespace wirepane::database_errors

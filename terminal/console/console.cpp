@@ -76,16 +76,20 @@ void clearPassing() {
         print(stderr, u"\r\033[K"_s);
 }
 
-std::function<void(std::int64_t done, std::int64_t total)> indexingLines() {
+std::function<void(std::int64_t done, std::int64_t total)> passingShare(const QString& work) {
     constexpr qint64 silentMs = 500;
     QElapsedTimer started;
     started.start();
-    return [started](std::int64_t done, std::int64_t total) {
+    return [started, work](std::int64_t done, std::int64_t total) {
         if (done >= total)
             clearPassing();
         else if (started.elapsed() > silentMs)
-            printPassing(u"Making the search index anew: %1 %"_s.arg(done * 100 / total));
+            printPassing(u"%1: %2 %"_s.arg(work).arg(done * 100 / total));
     };
+}
+
+std::function<void(std::int64_t done, std::int64_t total)> indexingLines() {
+    return passingShare(u"Making the search index anew"_s);
 }
 
 }  // namespace wirepane

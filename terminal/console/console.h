@@ -25,7 +25,10 @@ void printPassing(const QString& text);
 // Makes room after passing lines.
 void clearPassing();
 
-// Shows in passing lines how far the search index of a store is made anew; nothing in the first half second.
+// Shows in passing lines which share of some work is done; nothing in the first half second.
+std::function<void(std::int64_t done, std::int64_t total)> passingShare(const QString& work);
+
+// The same for the search index of a store that is made anew.
 std::function<void(std::int64_t done, std::int64_t total)> indexingLines();
 
 }  // namespace wirepane

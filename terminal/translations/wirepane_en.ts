@@ -27,6 +27,10 @@
         <source></source>
         <translation>None of this news lies within the last 255 days. To see it, start the terminal with --now %1, or read as of that moment (Ctrl+G in the terminal).</translation>
     </message>
+    <message id="ERROR_DATABASE_BACKUP_EXISTS">
+        <source></source>
+        <translation>%1 is there already; name another file for the backup.</translation>
+    </message>
     <message id="ERROR_DATABASE_DAMAGED">
         <source></source>
         <translation>%1 is damaged (%2).</translation>

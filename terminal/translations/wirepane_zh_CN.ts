@@ -27,6 +27,10 @@
         <source></source>
         <translation>这些新闻都不在最近 255 天之内。若要查看，请以 --now %1 启动终端，或使用“指定时点阅读”（在终端中按 Ctrl+G）。</translation>
     </message>
+    <message id="ERROR_DATABASE_BACKUP_EXISTS">
+        <source></source>
+        <translation>%1 已经存在，请为备份指定另一个文件。</translation>
+    </message>
     <message id="ERROR_DATABASE_DAMAGED">
         <source></source>
         <translation>%1 已损坏（%2）。</translation>

@@ -27,6 +27,10 @@
         <source></source>
         <translation>這些新聞都不在最近 255 天之內。若要檢視，請以 --now %1 啟動終端機，或使用「指定時點閱讀」（在終端機中按 Ctrl+G）。</translation>
     </message>
+    <message id="ERROR_DATABASE_BACKUP_EXISTS">
+        <source></source>
+        <translation>%1 已經存在，請為備份指定另一個檔案。</translation>
+    </message>
     <message id="ERROR_DATABASE_DAMAGED">
         <source></source>
         <translation>%1 已損毀（%2）。</translation>

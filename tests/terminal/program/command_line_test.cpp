@@ -192,6 +192,7 @@ TEST_F(CommandLineTest, AStoreThatIsNoneIsNamedAndLeftAlone) {
         {u"import"_s, u"--store"_s, notAStore, file},
         {u"sample"_s, u"--store"_s, notAStore},
         {u"check"_s, u"--store"_s, notAStore},
+        {u"backup"_s, u"--store"_s, notAStore, scratch.path(u"copy.wirepane"_s)},
         {u"--automation"_s, u"--store"_s, notAStore, u"--config"_s, config},
         {u"--tour"_s, scratch.path(u"tour"_s), u"--store"_s, notAStore, u"--config"_s, config},
     };
@@ -221,6 +222,7 @@ TEST_F(CommandLineTest, WrongArgumentsAreSaidAndChangeNothing) {
         {{u"sample"_s, u"extra"_s}, u"extra"_s},
         {{u"sample"_s, u"--now"_s, u"yesterday"_s}, u"yesterday"_s},
         {{u"check"_s, u"extra"_s}, u"extra"_s},
+        {{u"backup"_s}, u"file"_s},
         {{u"--automation"_s, u"--lang"_s, u"fr"_s}, u"--lang"_s},
         {{u"--automation"_s, u"imprt"_s}, u"imprt"_s},
         {{u"--automation"_s, u"--now"_s, u"2026-02-30T00:00:00"_s}, u"--now"_s},
@@ -235,7 +237,7 @@ TEST_F(CommandLineTest, WrongArgumentsAreSaidAndChangeNothing) {
 }
 
 TEST_F(CommandLineTest, HelpAndVersionGoToStandardOutput) {
-    for (const QString& command : {u"import"_s, u"sample"_s, u"check"_s, QString()}) {
+    for (const QString& command : {u"import"_s, u"sample"_s, u"check"_s, u"backup"_s, QString()}) {
         QStringList arguments = command.isEmpty() ? QStringList() : QStringList{command};
         const ProgramOutcome help = runProgram(arguments + QStringList{u"--help"_s});
         EXPECT_EQ(help.status, 0);
@@ -276,6 +278,11 @@ TEST_F(CommandLineTest, TheSameSampleTwiceIsOneSample) {
     EXPECT_EQ(second.status, 0);
     EXPECT_TRUE(second.out.startsWith(u"0 taken in"_s)) << second.out.toStdString();
     EXPECT_EQ(check().status, 0);
+    const QString copy = scratch.path(u"copy.wirepane"_s);
+    const ProgramOutcome backup = runProgram({u"backup"_s, u"--store"_s, store, copy});
+    EXPECT_EQ(backup.status, 0) << backup.err.toStdString();
+    EXPECT_TRUE(backup.out.contains(copy)) << backup.out.toStdString();
+    EXPECT_EQ(runProgram({u"check"_s, u"--store"_s, copy}).status, 0);
 }
 
 }  // namespace
