@@ -112,7 +112,10 @@ TEST_F(DaysTest, ANewsDayOfATickedServiceIsFollowed) {
     const Case cases[] = {
         {"not ticked", 16, 20260303, false},
         {"the date at which it stands", 1, 20260302, false},
-        {"a date that no calendar knows", 1, 20261303, false},
+        {"month 13", 1, 20261303, false},
+        {"no date", 1, -1, false},
+        {"an unknown service", 99, 20260303, false},
+        {"the warrants", 52, 20260303, false},
         {"a new day", 1, 20260303, true},
         {"the same day, said again", 1, 20260303, false},
     };

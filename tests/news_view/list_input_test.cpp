@@ -128,8 +128,12 @@ TEST_F(ListInputTest, AKeyThatNobodyTookIsTheLists) {
         EXPECT_EQ(menus, c.menus) << c.what;
     }
     QApplication::clipboard()->setText(u"kept"_s);
+    grid().selectRows({1, 2}, 2);
     EXPECT_TRUE(input.takePress(key(Qt::Key_C, Qt::ControlModifier)));
-    EXPECT_TRUE(QApplication::clipboard()->text().endsWith(u"Title 3"_s));
+    const QStringList copied = QApplication::clipboard()->text().split(u'\n');
+    EXPECT_EQ(copied.size(), 2);
+    EXPECT_TRUE(copied.front().endsWith(u"Title 4"_s));
+    EXPECT_TRUE(copied.back().endsWith(u"Title 3"_s));
     grid().deselectRows();
     input.copyRows();
     EXPECT_TRUE(QApplication::clipboard()->text().endsWith(u"Title 3"_s)) << "no row is selected";

@@ -52,7 +52,7 @@ protected:
         view.settings.functions = functions;
         builder.createControls();
     }
-    // The modes whose grids, and whose tabs, are there, by number, ascending.
+    // The modes whose grids are there, by number; whose tabs are, from left to right.
     static QList<int> grids(FakeView& of) {
         QList<int> numbers;
         for (const ListKind& kind : listKinds) {
@@ -66,7 +66,6 @@ protected:
         const auto* strip = of.controls.find<CXTPTabControl>(ids::tabStrip);
         for (int i = 0; strip != nullptr && i < strip->count(); ++i)
             numbers.append(strip->itemData(i));
-        std::sort(numbers.begin(), numbers.end());
         return numbers;
     }
     bool isShown(int id) const {
@@ -128,6 +127,13 @@ TEST_F(ModeSwitchTest, TheEnabledFunctionsDecideWhatIsThere) {
         QList<int> lacking;   // and some that are not
     };
     const Case cases[] = {
+        {"everything",
+         0x7F,
+         {true, true},
+         {0, 1, 2, 3, 4, 5, 6},
+         {0, 1, 2, 3, 4, 6, 5},
+         {ids::tabStrip, ids::relationSearchButton, ids::warningSearchButton},
+         {}},
         {"all news alone has no tabs", 0x01, {}, {0}, {}, {ids::datePicker}, {ids::tabStrip}},
         {"categories", 0x03, {}, {0, 1}, {0, 1}, {ids::datePicker, ids::categoryCombo}, {ids::symbolCombo}},
         {"symbols", 0x04, {}, {2}, {}, {ids::serviceCombo, ids::symbolCombo}, {ids::datePicker}},
@@ -191,6 +197,7 @@ TEST_F(ModeSwitchTest, WhatIsCreatedIsConnectedOnce) {
 // --- What a switch does ---
 
 TEST_F(ModeSwitchTest, ASwitchShowsItsPartsAndReadsWhatItsModeSays) {
+    view.switches.showNormalSearch = true;
     build(0x7F);
     switchTo(ListIndex::All);
     EXPECT_EQ(view.calls, QStringList()) << "there is no place for stories yet";
@@ -198,17 +205,24 @@ TEST_F(ModeSwitchTest, ASwitchShowsItsPartsAndReadsWhatItsModeSays) {
     struct Case {
         ListIndex mode;
         QStringList first, again;  // what is called, the pane apart
-        int control;
+        QList<int> controls;
     };
     const Case cases[] = {
-        {ListIndex::All, {u"day 0"_s}, {}, ids::datePicker},
-        {ListIndex::Category, {u"fill categories"_s, u"show story"_s}, {u"show story"_s}, ids::categoryCombo},
+        {ListIndex::All, {u"day 0"_s}, {}, {ids::serviceButton, ids::datePicker}},
+        {ListIndex::Category,
+         {u"fill categories"_s, u"show story"_s},
+         {u"show story"_s},
+         {ids::serviceButton, ids::categoryCombo}},
         {ListIndex::Symbol,
          {u"hide"_s, u"offer symbols"_s, u"symbol news"_s},
          {u"hide"_s, u"offer symbols"_s, u"symbol news"_s},
-         ids::symbolCombo},
-        {ListIndex::Search, {}, {}, ids::searchEdit},
-        {ListIndex::Warrant, {u"register warrants"_s, u"day 5"_s}, {u"register warrants"_s, u"day 5"_s}, 0},
+         {ids::serviceButton, ids::serviceCombo, ids::symbolCombo}},
+        {ListIndex::Search,
+         {},
+         {},
+         {ids::serviceButton, ids::searchEdit, ids::searchButton, ids::dealsSearchButton}},
+        {ListIndex::Relation, {u"day 4"_s}, {}, {ids::serviceButton, ids::relationSearchButton}},
+        {ListIndex::Warrant, {u"register warrants"_s, u"day 5"_s}, {u"register warrants"_s, u"day 5"_s}, {}},
     };
     for (const bool first : {true, false}) {
         for (const Case& c : cases) {
@@ -224,8 +238,8 @@ TEST_F(ModeSwitchTest, ASwitchShowsItsPartsAndReadsWhatItsModeSays) {
                 EXPECT_TRUE(grid == nullptr || grid->isHidden() == (kind.index != c.mode));
             }
             for (const Case& other : cases) {
-                EXPECT_TRUE(other.control == 0 || isShown(other.control) == (other.mode == c.mode))
-                    << other.control;
+                for (const int id : other.controls)
+                    EXPECT_EQ(isShown(id), c.controls.contains(id)) << id;
             }
         }
     }

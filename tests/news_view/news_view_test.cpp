@@ -40,64 +40,6 @@ TEST_F(NewsViewTest, OpensWithTheDayNewestFirst) {
     EXPECT_EQ(backEnd.registrations.count(static_cast<NewsReceiver*>(receiver)), 0U);
 }
 
-TEST_F(NewsViewTest, TheMaskDecidesTabsAndGrids) {
-    struct Case {
-        const char* what;
-        int mask;
-        QByteArray switches;
-        QList<int> tabs;
-        QList<int> grids;
-    };
-    const Case cases[] = {
-        {"the default", 0x6F, "", {0, 1, 2, 3, 5}, {0, 1, 2, 3, 5}},
-        {"all", 0x7F, "ShowNormalSearch=1\n", {0, 1, 2, 3, 4, 5}, {0, 1, 2, 3, 4, 5}},
-        {"the warning-term tab stands before the warrants",
-         0x7F,
-         "ShowWarningSearch=1\n",
-         {0, 1, 2, 3, 6, 5},
-         {0, 1, 2, 3, 5, 6}},
-        {"a switch must be 1", 0x48, "ShowNormalSearch=2\nShowWarningSearch=yes\n", {3}, {3}},
-        {"one function has no tab strip", 0x01, "", {}, {0}},
-        {"unknown bits are ignored", 0x101, "", {}, {0}},
-        {"only warrants", 0x20, "", {}, {5}},
-    };
-    for (const Case& c : cases) {
-        writeFile(QStringLiteral("Application.ini"), "[NewsCtrlSearchView]\n" + c.switches);
-        open({{QStringLiteral("EnabledFunctions"), c.mask}});
-        EXPECT_EQ(tabModes(), c.tabs) << c.what;
-        QList<int> grids;
-        for (int list = 0; list < listCount; ++list) {
-            if (view->sheetOf(list) != nullptr)
-                grids.append(list);
-        }
-        EXPECT_EQ(grids, c.grids) << c.what;
-        EXPECT_EQ(dlgItem(view.get(), ids::tabStrip) == nullptr, c.tabs.isEmpty()) << c.what;
-    }
-}
-
-TEST_F(NewsViewTest, EachModeShowsItsControlsAndItsGrid) {
-    writeFile(QStringLiteral("Application.ini"), "[NewsCtrlSearchView]\nShowNormalSearch=1\n");
-    open({{QStringLiteral("EnabledFunctions"), 0x7F}});
-    const QMap<int, QList<int>> shown = {{0, {3009, 3010}},       {1, {3004, 3010}},
-                                         {2, {3005, 3010, 3011}}, {3, {3002, 3007, 3008, 3010}},
-                                         {4, {3001, 3010}},       {5, {}}};
-    for (auto mode = shown.begin(); mode != shown.end(); ++mode) {
-        view->SwitchFunction(mode.key());
-        for (const int id : {3001, 3002, 3004, 3005, 3006, 3007, 3008, 3009, 3010, 3011})
-            EXPECT_EQ(isShown(id), mode->contains(id)) << "mode " << mode.key() << ", control " << id;
-        for (int list = 0; list < listCount; ++list) {
-            if (CSuperSheetWnd* sheet = view->sheetOf(list)) {
-                EXPECT_EQ(!sheet->isHidden(), list == mode.key());
-            }
-        }
-        EXPECT_EQ(view->pGetCurrSheetView(), view->sheetOf(mode.key()));
-    }
-    view->SwitchFunction(7);
-    view->SwitchFunction(-1);
-    EXPECT_EQ(view->state()[QStringLiteral("mode")].toInt(), 5)
-        << "a number outside the modes changes nothing";
-}
-
 TEST_F(NewsViewTest, ListsAreReadAsTheirModeSays) {
     addNews(1, 9, 0, 1, 1, QStringLiteral("2330"));
     addNews(52, 9, 5, 1);
@@ -258,6 +200,9 @@ TEST_F(NewsViewTest, OpensWithAModeThatExists) {
     EXPECT_EQ(view->state()[QStringLiteral("mode")].toInt(), 0)
         << "the symbol mode needs the right to see service 16";
     EXPECT_EQ(view->sheetOf(2), nullptr);
+    for (const int noMode : {7, -1})
+        view->SwitchFunction(noMode);
+    EXPECT_EQ(view->state()[QStringLiteral("mode")].toInt(), 0) << "a number outside the modes";
 }
 
 TEST_F(NewsViewTest, SurvivesABackEndWithoutServices) {

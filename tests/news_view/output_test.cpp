@@ -257,20 +257,6 @@ TEST_F(ViewOutputTest, TitlesStayWholeWhereTheHostWantsIt) {
     }
 }
 
-TEST_F(ViewOutputTest, TellsWhyAFileCouldNotBeWritten) {
-    openWithNews();
-    QSignalSpy told(view.get(), &TRVQuoteBaseView::messageForUser);
-    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_SAVE_FAILED"_s, u"%1: %2"_s);
-    backEnd.storyAtHand = false;
-    select(0);
-    OutputTarget nowhere = target(u"missing/late.txt"_s);
-    EXPECT_TRUE(view->saveSelection(nowhere).waiting);
-    backEnd.storyAtHand = true;
-    view->RespStory(view->GetHeadlineTable(0));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return told.count() == 1; }));
-    EXPECT_TRUE(told.at(0).at(0).toString().startsWith(nowhere.file + u": "_s));
-}
-
 TEST_F(ViewOutputTest, AsksWithTheStoryDialogOutOfTheWay) {
     OnTop host;
     openWithNews();

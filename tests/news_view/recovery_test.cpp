@@ -55,21 +55,6 @@ constexpr auto symbolAnswer = &TRVNewsCtrlView::vRecvSymHeadlineTableRecovery;
 
 }  // namespace
 
-TEST_F(Recovery, EachListAsksForItsOwnTable) {
-    openActive({{u"CategoryID"_s, u"2"_s}, {u"SymbolID"_s, u"2330"_s}});
-    const QMap<int, QStringList> asked = {
-        {0, {u"again 1 0 20260302"_s, u"again 2 0 20260302"_s, u"again 16 0 20260302"_s}},
-        {1, {u"again 1 1 2"_s, u"again 2 1 2"_s, u"again 16 1 2"_s}},
-        {2, {u"again 1 symbol 2330"_s, u"again 2 symbol 2330"_s, u"again 16 symbol 2330"_s}},
-        {3, {}},
-        {5, {}},
-    };
-    for (auto mode = asked.begin(); mode != asked.end(); ++mode) {
-        view->SwitchFunction(mode.key());
-        EXPECT_EQ(requests(ids::recoverHeadlineTable), *mode) << "mode " << mode.key();
-    }
-}
-
 TEST_F(Recovery, SelectedRowsAwaitTheirHeadlines) {
     for (int sequence = 1; sequence <= 4; ++sequence)
         addNews(1, 9, sequence, sequence);
@@ -182,14 +167,6 @@ TEST_F(Recovery, AServiceWithoutDataIsNamedOnce) {
     EXPECT_EQ(titles(1), QStringList{u"s1 9:00"_s}) << "the other services' news are there";
 }
 
-TEST_F(Recovery, ServicesWithoutDataAreToldApartWhereTheSettingsSaySo) {
-    openActive({{u"SeparateServiceNames"_s, true}});
-    backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_BETWEEN_NAMES"_s] = u", "_s;
-    for (const unsigned char service : std::initializer_list<unsigned char>{1, 2, 1, 16})
-        answer(dateAnswer, service, u"20260302"_s, -1);
-    EXPECT_EQ(tip(), u"Service 1, Service 2, Service 16 no news that day"_s);
-}
-
 TEST_F(Recovery, AnEmptyListSaysSoUnasked) {
     backEnd.texts[u"IDS_NEWSCTRLVIEW_HINT_NO_NEWS"_s] = u"no news, press %1"_s;
     openActive();
@@ -224,16 +201,6 @@ TEST_F(Recovery, NewsOfABreakIsMarkedAndTheBreakIsShown) {
         EXPECT_NE(colour(row), plain) << row;
     for (const int row : {3, 4})
         EXPECT_EQ(colour(row), plain) << row;
-}
-
-TEST_F(Recovery, TheWarningTermListFollowsTheAllNewsList) {
-    writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
-    addNews(1, 9, 0, 1);
-    openActive({{u"EnabledFunctions"_s, 0x7F}});
-    EXPECT_EQ(titles(6), QStringList());
-    answer(dateAnswer, 1, u"20260302"_s);
-    EXPECT_EQ(titles(6), QStringList{u"s1 9:00"_s});
-    EXPECT_EQ(view->sheetOf(6)->model()->index(0, 0).data().toString(), u"03/02 09:00"_s);
 }
 
 }  // namespace wirepane

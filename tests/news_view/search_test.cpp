@@ -150,18 +150,6 @@ TEST_F(SearchesOfTheView, TheQuickSearchAsksTheTickedServicesAndShowsWhatIsThere
     EXPECT_EQ(pending(), QList<int>());
 }
 
-TEST_F(SearchesOfTheView, NothingFoundIsToldWithTheLastAnswer) {
-    openSearch();
-    quickSearch(u"nothing"_s);
-    EXPECT_EQ(titles(3), QStringList());
-    view->RespSearchHeadLineTable(quick(u"something else"_s), 1);
-    EXPECT_EQ(pending(), (QList<int>{1, 2})) << "an answer that nobody waits for";
-    view->RespSearchHeadLineTable(quick(u"nothing"_s), 2);
-    EXPECT_EQ(tip(), searching + u" nothing"_s);
-    view->RespSearchHeadLineTable(quick(u"nothing"_s), 1);
-    EXPECT_EQ(tip(), notFound);
-}
-
 TEST_F(SearchesOfTheView, QuickSearchesThatCannotBeSentAreRefused) {
     openSearch();
     for (const QString& text : {QString(), u"   "_s}) {
@@ -251,18 +239,6 @@ TEST_F(SearchesOfTheView, TheWaitTipComesWithAnotherTextInTheBoxAndNamesTheSearc
     EXPECT_EQ(pending(), (QList<int>{1, 2}));
 }
 
-TEST_F(SearchesOfTheView, OnlySearchModesSend) {
-    openSearch();
-    quickSearch(u"gold"_s);
-    sent();
-    view->SwitchFunction(0);
-    view->OnDealsSearch();
-    EXPECT_EQ(sent(), QStringList());
-    view->SwitchFunction(3);
-    view->OnDealsSearch();
-    EXPECT_EQ(sent().size(), 2);
-}
-
 TEST_F(SearchesOfTheView, AChangeOfServicesSearchesAgain) {
     openSearch();
     quickSearch(u"gold"_s);
@@ -337,21 +313,6 @@ TEST_F(SearchesOfTheView, AnAnswerOpensNoWindowOfAStory) {
     backEnd.searchTables[2] = {entryOf(2, 9, 10, 1)};
     view->RespSearchHeadLineTable(quick(u"gold"_s), 2);
     EXPECT_TRUE(view->storyState(true)[u"title"_s].toString().endsWith(u"s2 9:10"_s)) << "as the rows do";
-}
-
-TEST_F(SearchesOfTheView, ASymbolOfALinkedViewNarrowsTheSearch) {
-    openSearch();
-    view->ChangeSymbol(view.get(), 0, 16, u"2330"_s, {});
-    EXPECT_EQ(sent(), QStringList()) << "nothing was searched for";
-    EXPECT_EQ(shortTip(), QString());
-    quickSearch(u"gold"_s);
-    sent();
-    view->ChangeSymbol(view.get(), 0, 16, u"6214"_s, {});
-    EXPECT_EQ(sent(), (QStringList{u"search 1 3 0/1 gold @16 6214"_s, u"search 2 3 0/1 gold @16 6214"_s}));
-    view->ChangeSymbol(view.get(), 0, 16, u"unknown"_s, {});
-    EXPECT_EQ(sent(), QStringList()) << "a symbol without a name";
-    view->ChangeSymbol(view.get(), 0, 1, u"TXF"_s, {});
-    EXPECT_EQ(sent(), QStringList()) << "a future without a commodity";
 }
 
 TEST_F(SearchesOfTheView, WithWarningTermsAnswersGoToTheirListAndPushesAskAgain) {

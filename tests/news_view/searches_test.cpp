@@ -109,6 +109,7 @@ TEST_F(SearchesTest, NothingFoundIsToldWithTheLastAnswer) {
     searches.send();
     const QString waiting = tip.text();
     EXPECT_TRUE(waiting.contains(u"plain"_s));
+    searches.takeAnswer(condition(u"strange"_s), 2);
     searches.takeAnswer(plain, 1);
     EXPECT_EQ(tip.text(), waiting);
     searches.takeAnswer(plain, 2);
@@ -174,17 +175,19 @@ TEST_F(SearchesTest, ASymbolNarrowsWhatIsInForce) {
         ListIndex shown;
         const char* word;  // of the condition in force; null: none
         bool standsFast;
-        QString code;
+        CSymbolInfo symbol;
         int sent, narrowed;
     };
     const Case cases[] = {
-        {"a search", ListIndex::Search, "plain", false, u"2330"_s, 2, 2},
-        {"none was composed", ListIndex::Search, nullptr, false, u"2330"_s, 0, 0},
-        {"a symbol that nobody knows", ListIndex::Search, "plain", false, u"9999"_s, 0, 0},
-        {"the warning terms", ListIndex::WarningTerm, "plain", false, u"2330"_s, 2, 2},
-        {"the warning terms stand fast", ListIndex::WarningTerm, "plain", true, u"2330"_s, 0, 0},
-        {"a list without searches", ListIndex::All, "plain", false, u"2330"_s, 0, 0},
+        {"a search", ListIndex::Search, "plain", false, {16, u"2330"_s}, 2, 2},
+        {"none was composed", ListIndex::Search, nullptr, false, {16, u"2330"_s}, 0, 0},
+        {"a symbol that nobody knows", ListIndex::Search, "plain", false, {16, u"9999"_s}, 0, 0},
+        {"the warning terms", ListIndex::WarningTerm, "plain", false, {16, u"2330"_s}, 2, 2},
+        {"the warning terms stand fast", ListIndex::WarningTerm, "plain", true, {16, u"2330"_s}, 0, 0},
+        {"a future without a commodity", ListIndex::Search, "plain", false, {1, u"TXF"_s}, 0, 0},
+        {"a list without searches", ListIndex::All, "plain", false, {16, u"2330"_s}, 0, 0},
     };
+    backEnd.symbols[1] = {{u"TXF"_s, u"Index future"_s}};
     for (const Case& c : cases) {
         settings.options = {};
         if (c.standsFast)
@@ -192,7 +195,7 @@ TEST_F(SearchesTest, ASymbolNarrowsWhatIsInForce) {
         const CSearch inForce = c.word != nullptr ? condition(QString::fromLatin1(c.word)) : CSearch();
         searches.desk().ordinary = searches.desk().warningTerm = inForce;
         view.shown = c.shown;
-        searches.followSymbol({16, c.code});
+        searches.followSymbol(c.symbol);
         const QStringList lines = sent();
         EXPECT_EQ(lines.size(), c.sent) << c.what;
         EXPECT_EQ(lines.filter(u"@16 2330"_s).size(), c.narrowed) << c.what;

@@ -173,19 +173,6 @@ TEST_F(StartRules, TheNewsTypeDecidesWhatAViewIsFor) {
     }
 }
 
-TEST_F(StartRules, OnlyAViewOfTwoColumnsLeavesTheKeyboardWhereItIs) {
-    QLineEdit elsewhere(&frame);
-    for (const int newsType : {0, 1, 2, 3}) {
-        open({}, newsType);
-        frame.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
-        elsewhere.show();
-        elsewhere.setFocus();
-        view->SwitchFunction(symbolMode);
-        EXPECT_EQ(elsewhere.hasFocus(), newsType == 1) << newsType;
-    }
-}
-
 TEST_F(StartRules, AModeIsFoundByItsName) {
     backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_SEARCH_NEWS"_s] = u"Search"_s;
     open();

@@ -139,6 +139,15 @@ TEST(CategoryCatalogue, PairsListsOfEqualLength) {
     }
 }
 
+TEST(ApplicationSwitches, AreOnAtOneAlone) {
+    const auto read = [](const QByteArray& lines) {
+        const auto on = ApplicationSwitches::read(IniFile::parse("[NewsCtrlSearchView]\n" + lines));
+        return std::pair(on.showNormalSearch, on.showWarningSearch);
+    };
+    EXPECT_EQ(read("ShowNormalSearch=1\nShowWarningSearch=yes\n"), std::pair(true, false));
+    EXPECT_EQ(read("ShowNormalSearch=2\nShowWarningSearch=1\n"), std::pair(false, true));
+}
+
 TEST(ModeLoading, SwitchesDecideWhatASwitchReads) {
     constexpr ApplicationSwitches none{false, false}, normal{true, false}, warning{false, true},
         both{true, true};
