@@ -204,31 +204,39 @@ TEST_F(SentAgainTest, TheTableOfTheShownListIsAskedForOfEveryTickedService) {
 }
 
 TEST_F(SentAgainTest, WhatDoesNotFitTheViewIsDropped) {
+    using Take = void (SentAgain::*)(const CHeadlineTableInfo&);
+    constexpr Take date = &SentAgain::takeDateTable, category = &SentAgain::takeCategoryTable,
+                   ofSymbol = &SentAgain::takeSymbolTable;
     struct Case {
         const char* what;
         ListIndex shown;
+        Take take;
         CHeadlineTableInfo table;
         bool isRead;
     };
     const Case cases[] = {
-        {"the picked date", ListIndex::All, info(1, u"20260302"_s), true},
-        {"another date", ListIndex::All, info(1, u"20260301"_s), false},
-        {"not ticked", ListIndex::All, info(16, u"20260302"_s), false},
-        {"another list is shown", ListIndex::Category, info(1, u"20260302"_s), false},
-        {"warrants that are not ticked", ListIndex::Warrant, info(52, u"20260302"_s), false},
+        {"the picked date", ListIndex::All, date, info(1, u"20260302"_s), true},
+        {"another date", ListIndex::All, date, info(1, u"20260301"_s), false},
+        {"a key of another length is read as it is", ListIndex::All, date, info(1, u"x"_s), true},
+        {"not ticked", ListIndex::All, date, info(16, u"20260302"_s), false},
+        {"another list is shown", ListIndex::Category, date, info(1, u"20260302"_s), false},
+        {"warrants that are not ticked", ListIndex::Warrant, date, info(52, u"20260302"_s), false},
+        {"the chosen category", ListIndex::Category, category, info(2, u"7"_s), true},
+        {"also while another list is shown", ListIndex::All, category, info(2, u"7"_s), true},
+        {"another category", ListIndex::Category, category, info(2, u"8"_s), false},
+        {"of a service without a tick", ListIndex::Category, category, info(16, u"7"_s), false},
+        {"the current symbol", ListIndex::Symbol, ofSymbol, info(1, u"2330"_s), true},
+        {"another symbol", ListIndex::Symbol, ofSymbol, info(1, u"2317"_s), false},
     };
     for (const Case& c : cases) {
         view.shown = c.shown;
-        sentAgain.takeDateTable(c.table);
+        (sentAgain.*c.take)(c.table);
         EXPECT_EQ(wasRead(), c.isRead) << c.what;
     }
-    sentAgain.takeCategoryTable(info(1, u"8"_s));
-    sentAgain.takeSymbolTable(info(1, u"2317"_s));
-    EXPECT_FALSE(wasRead());
-    sentAgain.takeCategoryTable(info(1, u"7"_s));
-    EXPECT_TRUE(wasRead());
-    sentAgain.takeSymbolTable(info(1, u"2330"_s));
-    EXPECT_TRUE(wasRead());
+    view.shown = ListIndex::Warrant;
+    services.select(static_cast<std::size_t>(services.indexOfWarrants()), true);
+    sentAgain.takeDateTable(info(52, u"20260302"_s));
+    EXPECT_TRUE(wasRead()) << "warrants in their mode";
     symbol = {};
     sentAgain.takeSymbolTable(info(1, {}));
     EXPECT_FALSE(wasRead());
@@ -264,6 +272,10 @@ TEST_F(SentAgainTest, AServiceWithoutDataIsNamedOnce) {
     view.status.clear();
     sentAgain.takeDateTable(info(1, dateKey, -1));
     EXPECT_EQ(view.status, QString()) << "there are rows";
+    sentAgain.takeCategoryTable(info(1, u"7"_s, -1));
+    EXPECT_EQ(tip.text(), u"S1  "_s + keys::classNotFound);
+    sentAgain.takeSymbolTable(info(1, u"2330"_s, -1));
+    EXPECT_EQ(tip.text(), u"S1  "_s + keys::symbolNewsNotFound);
 }
 
 TEST_F(SentAgainTest, ATableOfNewsItselfAlsoFillsTheWarningTerms) {

@@ -127,23 +127,6 @@ TEST_F(HandsOnTest, TheWheelTurnsTheListFromAnywhereInTheView) {
     EXPECT_EQ(grid()->verticalScrollBar()->value(), grid()->verticalScrollBar()->maximum());
 }
 
-TEST_F(HandsOnTest, ScrollingSidewaysGoesToTheListThatHasTheKeyboard) {
-    openWithNews(3, 0, 0x01);
-    grid()->vSetColWidth(grid()->model()->columnCount() - 1, 3000);
-    const QScrollBar* bar = grid()->horizontalScrollBar();
-    ASSERT_TRUE(QTest::qWaitFor([bar] { return bar->maximum() > 0; }));
-    dlgItem(view.get(), ids::datePicker)->setFocus();
-    turnWheel({-120, 0});
-    EXPECT_EQ(bar->value(), 0);
-    grid()->setFocus();
-    grid()->setActiveSelection(1, -1);
-    turnWheel({-120, 0});
-    EXPECT_GT(bar->value(), 0);
-    EXPECT_EQ(grid()->cptGetFocusNdx().y(), 1);
-    turnWheel({120, 0});
-    EXPECT_EQ(bar->value(), 0);
-}
-
 TEST_F(HandsOnTest, TheTitleIsTheHosts) {
     // What the view leaves to its host, seen by the window around it.
     class Seen : public QObject {

@@ -321,6 +321,7 @@ TEST_F(ListsInStep, SymbolsThatComeWhileTheModeIsShownFillItsCombos) {
     openShown({{u"SymbolID"_s, u"2330"_s}});
     view->SwitchFunction(symbolMode);
     ASSERT_EQ(view->currentDataState(), DataState::NotSupported);
+    EXPECT_FALSE(isShown(ids::serviceButton));
     backEnd.symbols[16] = all.at(16);
     view->vDoSymbolUpdate({{16, u"#001"_s}, {16, u"2330"_s}});
     EXPECT_EQ(view->currentDataState(), DataState::Normal);
@@ -330,21 +331,12 @@ TEST_F(ListsInStep, SymbolsThatComeWhileTheModeIsShownFillItsCombos) {
     EXPECT_FALSE(view->sheetOf(symbolMode)->isHidden());
 
     view->SwitchFunction(0);
+    EXPECT_TRUE(isShown(ids::serviceButton));
     backEnd.symbols[122] = all.at(122);
     view->vDoSymbolUpdate({{16, u"6214"_s}, {122, u"4001"_s}});
     EXPECT_EQ(combo(ids::serviceCombo).count(), 2);
     EXPECT_EQ(combos(), u"台灣證券 / 2330 Aster Chips") << "the choice stays";
     EXPECT_FALSE(isShown(ids::serviceCombo)) << "another mode is shown";
-}
-
-TEST_F(ListsInStep, AViewOfWarrantsAloneHasTheDaysWarrants) {
-    addTold(1, today, 5, 1);
-    addTold(52, today, 10, 2);
-    open({{u"EnabledFunctions"_s, 0x20}});
-    EXPECT_EQ(titles(warrantMode), QStringList{u"52-2"_s});
-    push(52, 9, 30, 3);
-    push(1, 9, 31, 4);
-    EXPECT_EQ(titles(warrantMode), (QStringList{u"pushed 3"_s, u"52-2"_s}));
 }
 
 TEST_F(ListsInStep, NewsOfTheLinkedSymbolIsReadAtEverySwitch) {

@@ -119,20 +119,6 @@ TEST_F(NewsViewTest, TheSymbolModeFollowsCombosAndLinkedViews) {
     EXPECT_FALSE(change(nullptr, 0, 16, QStringLiteral("2330"))) << "a view that is not linked";
 }
 
-TEST_F(NewsViewTest, WithoutSymbolsThereIsNothingToShow) {
-    backEnd.symbols.clear();
-    open();
-    for (int round = 0; round < 2; ++round) {
-        view->SwitchFunction(2);
-        EXPECT_EQ(view->currentDataState(), DataState::NotSupported);
-        for (const int id : {ids::serviceButton, ids::serviceCombo, ids::symbolCombo})
-            EXPECT_FALSE(isShown(id)) << id;
-        EXPECT_TRUE(view->sheetOf(2)->isHidden());
-        view->SwitchFunction(0);
-        EXPECT_TRUE(isShown(ids::serviceButton));
-    }
-}
-
 TEST_F(NewsViewTest, TheLastTickedServiceStaysTicked) {
     addNews(1, 9, 0, 1);
     addNews(2, 9, 1, 1);

@@ -72,15 +72,6 @@ TEST_F(StartRules, TheServiceMenuLeavesTheWarrantsOutAndKeepsTheirCommandFree) {
     EXPECT_EQ(menu().first, (Ids{5050, 5051, 5052, 5053, 5055}));
 }
 
-TEST_F(StartRules, ControlsAreThereByTheMaskAlone) {
-    open({{u"EnabledFunctions"_s, 0}});
-    EXPECT_NE(dlgItem(view.get(), ids::tabStrip), nullptr) << "no function is not one function";
-    open({{u"EnabledFunctions"_s, 0x48}});
-    EXPECT_NE(dlgItem(view.get(), ids::relationSearchButton), nullptr) << "without its switch";
-    EXPECT_NE(dlgItem(view.get(), ids::warningSearchButton), nullptr) << "without its switch";
-    EXPECT_EQ(tabModes(), QList<int>{3});
-}
-
 TEST_F(StartRules, ASwitchTakesTheServicesOver) {
     struct Case {
         const char* what;
@@ -129,16 +120,6 @@ TEST_F(StartRules, CombosAreFilledOnlyInViewsWithAllNews) {
         EXPECT_EQ(entries(ids::symbolCombo), symbols ? (all ? 2 : 0) : -1) << mask;
         EXPECT_EQ(entries(ids::serviceCombo), symbols ? (all ? 3 : 0) : -1) << mask;
     }
-}
-
-TEST_F(StartRules, ARefreshEndsItsTimer) {
-    addNews(1, 9, 0, 1);
-    open();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }, 2000));
-    backEnd.asked.clear();
-    view->vUpdateView();
-    QTest::qWait(3 * ids::refreshDelayMs);
-    EXPECT_EQ(backEnd.asked.size(), 5) << "one refresh asks each of five services once";
 }
 
 TEST_F(StartRules, TheNewsTypeDecidesWhatAViewIsFor) {
