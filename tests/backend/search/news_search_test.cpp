@@ -143,8 +143,10 @@ TEST_F(NewsSearchTest, SymbolsNarrow) {
 // With the keys in memory as without them: news, later stories and replacements are seen at once.
 TEST_F(NewsSearchTest, FollowsWhatIsTakenIn) {
     for (const bool loaded : {false, true}) {
-        if (loaded)
+        if (loaded) {
             search.prepare();
+            EXPECT_EQ(found(conditionOf({u"l"_s})), QStringList({u"lead"_s, u"bronze l"_s}));
+        }
         const QString mark = loaded ? u"k"_s : u"l"_s;
         takeNews(newsItem(1, mark + u"1"_s, at(10, 0), u"silver "_s + mark));
         EXPECT_EQ(found(conditionOf({mark})).size(), 1);
