@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-// A reader's session by keyboard alone.
+// What scripts type, and what of it is refused.
 #include "host/views/news_control_ids.h"
 #include "tests/terminal/program/program_runner.h"
 #include "tests/terminal/program/script_client.h"
@@ -21,7 +21,6 @@ protected:
     KeyboardSession() {
         for (int i = 0; i < 12; ++i)
             push(i % 2 == 0 ? 1 : 16, u"2026-03-02T08:%1:00"_s.arg(i, 2, 10, QChar(u'0')), i + 1);
-        push(1, u"2026-03-01T20:00:00"_s, 1);
         script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{1000, 600}}, {u"mask"_s, 0x6F}});
         script.result(u"idle"_s);
     }
@@ -39,13 +38,11 @@ protected:
                                   {u"story"_s, u"Story of "_s + title}});
     }
 
-    void key(const QString& name, int times = 1) {
-        for (int i = 0; i < times; ++i)
-            script.result(u"input.key"_s, QJsonObject{{u"key"_s, name}});
+    void key(const QString& name) {
+        script.result(u"input.key"_s, QJsonObject{{u"key"_s, name}});
         script.result(u"idle"_s);
     }
     QJsonValue state(const QString& name) { return script.result(u"view.state"_s)[name]; }
-    int rows() { return script.result(u"grid.read"_s, QJsonObject{{u"list"_s, 0}})[u"rows"_s].toInt(); }
 
     Scratch scratch;
     ScriptClient script{{u"--store"_s, scratch.path(u"news.wirepane"_s), u"--config"_s,
@@ -54,55 +51,6 @@ protected:
 };
 
 }  // namespace
-
-TEST_F(KeyboardSession, ReadsTheNewsWithoutAMouse) {
-    // Ten stories, each shown as its row is reached.
-    key(u"Home"_s);
-    for (int row = 0; row < 10; ++row) {
-        if (row > 0)
-            key(u"Down"_s);
-        const QJsonValue story = script.result(u"story.state"_s, QJsonObject{{u"where"_s, u"pane"_s}});
-        EXPECT_TRUE(story[u"story"_s].toString().contains(u"Story of News %1"_s.arg(12 - row)))
-            << story[u"story"_s].toString().toStdString();
-    }
-    // Without the first service half of them are left.
-    key(u"F7"_s);
-    key(u"Down"_s);
-    key(u"Return"_s);
-    EXPECT_FALSE(state(u"services"_s)[0][u"selected"_s].toBool(true));
-    EXPECT_EQ(rows(), 6);
-    key(u"F7"_s);
-    key(u"Down"_s);
-    key(u"Space"_s);
-    EXPECT_EQ(rows(), 12);
-    // The day before.
-    key(u"F8"_s);
-    key(u"Left"_s);
-    key(u"Return"_s);
-    EXPECT_EQ(state(u"pickedDate"_s).toInt(), 20260301);
-    EXPECT_EQ(rows(), 1);
-    // Round the tabs, and a search on the way.
-    QList<int> modes;
-    for (int i = 0; i < 6; ++i) {
-        key(u"Ctrl+PageDown"_s);
-        modes.append(state(u"mode"_s).toInt());
-    }
-    EXPECT_EQ(modes, (QList<int>{1, 2, 3, 4, 5, 0}));
-    key(u"F3"_s);
-    script.result(u"input.type"_s, QJsonObject{{u"text"_s, u"News 7"_s}});
-    EXPECT_EQ(state(u"shortTip"_s)[u"visible"_s].toBool(), true) << "a search has no blanks";
-    key(u"Home"_s);
-    key(u"Return"_s);
-    EXPECT_EQ(state(u"mode"_s).toInt(), 3);
-    // The menu of a row.
-    key(u"F6"_s);
-    key(u"Ctrl+PageDown"_s, 3);
-    EXPECT_EQ(state(u"mode"_s).toInt(), 0);
-    key(u"Menu"_s);
-    key(u"Down"_s);
-    key(u"Return"_s);
-    EXPECT_FALSE(state(u"showCategory"_s).toBool(true));
-}
 
 TEST_F(KeyboardSession, TypesEveryCharacter) {
     key(u"F3"_s);
