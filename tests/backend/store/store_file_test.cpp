@@ -185,6 +185,7 @@ TEST_F(StoreFileTest, AFileThatIsNoUsableStoreIsNamedAndLeftAlone) {
         {"a text", QByteArray("This is a letter, not a store. ").repeated(200), u"is not a news store"_s},
         {"a newer store", patched(60, QByteArray("\0\0\0\7", 4)), u"newer version"_s},
         {"another program's database", patched(68, "ABCD"), u"but not a news store"_s},
+        {"one that says nothing of itself", patched(60, QByteArray(12, '\0')), u"but not a news store"_s},
         {"a store cut in the middle", good.first(good.size() / 2), u"is damaged"_s},
         {"a store cut within its first page", good.first(700), u"is damaged"_s},
         {"a store with a spoilt list of tables", patched(100, QByteArray(2000, '\x5a')), u"is damaged"_s},
@@ -212,6 +213,8 @@ TEST_F(StoreFileTest, AStoreThatIsInUseElsewhereSaysSo) {
     ASSERT_TRUE(second);
     StoreWriter other(*second.value());
     ASSERT_TRUE(writer->begin());
+    EXPECT_TRUE(openStore(pathOf(u"news.db"_s), impatient))
+        << "opening one that is up to date writes nothing";
     const Done begun = other.begin();
     ASSERT_FALSE(begun);
     EXPECT_TRUE(sentence(begun.error()).contains(u"is being used by another program"_s))
