@@ -117,7 +117,8 @@ void RowIndex<Identity>::rebuild(const HeadlineRows& rows) {
     });
     for (std::size_t number = 1; number < ends.size(); ++number)
         ends[number] += ends[number - 1];
-    // The rows by segment: one segment's slots and hashes stay at hand while they are filled.
+    // The rows by segment: one segment's slots and hashes stay in the processor's cache while they are
+    // filled.
     std::vector<HashedRow> ordered(rowCount);
     std::vector<std::size_t> places = ends;
     for (const HashedRow& row : hashed)

@@ -23,9 +23,9 @@ namespace {
 template <class PutOut>
 NewsOutcome putOutAtHand(const std::vector<CHeadlineTable>& entries, StoryForm form,
                          const OutputTarget& target, PutOut putOut) {
-    requireInterfaceThread("NewsModule::PrintNews or SaveNews");
+    requireInterfaceThread("NewsModule::printEntries or saveEntries");
     requireOfHost(BKQuoteInterface::GetBKInterface() != nullptr,
-                  "NewsModule::PrintNews or SaveNews was called before a back end was installed "
+                  "NewsModule::printEntries or saveEntries was called before a back end was installed "
                   "(BKQuoteInterface::SetBKInterface).");
     BKQuoteInterface& backEnd = *BKQuoteInterface::GetBKInterface();
     std::set<unsigned char> services;
@@ -75,11 +75,12 @@ public:
         return BKQuoteInterface::GetBKInterface() != nullptr ? new TRVNewsStory(mainFrame) : nullptr;
     }
 
-    NewsOutcome printNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
+    NewsOutcome printEntries(const std::vector<CHeadlineTable>& entries,
+                             const OutputTarget& target) override {
         return putOutAtHand(entries, &printedStory, target, &printItemsToPdf);
     }
 
-    NewsOutcome saveNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
+    NewsOutcome saveEntries(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) override {
         return putOutAtHand(entries, &savedStory, target, &saveItemsTo);
     }
 };

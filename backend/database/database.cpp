@@ -34,7 +34,7 @@ int flagsOf(Database::Mode mode) {
     return SQLITE_OPEN_READONLY | SQLITE_OPEN_URI;
 }
 
-// An absolute path is never taken for an address or for one of SQLite's special names.
+// An absolute path is never taken for a URI or for one of SQLite's special names.
 QByteArray nameOf(const QString& absolutePath, Database::Mode mode) {
     if (mode != Database::Mode::Immutable)
         return absolutePath.toUtf8();

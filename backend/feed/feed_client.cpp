@@ -23,22 +23,22 @@ constexpr qint64 windowBytes = 1024 * 1024;
 
 }  // namespace
 
-FeedClient::FeedClient(QString socketName, FeedHello handshake, QObject* parent)
-    : QObject(parent), name(std::move(socketName)), hello(std::move(handshake)) {
+FeedClient::FeedClient(QString socketName, FeedHandshake itsHandshake, QObject* parent)
+    : QObject(parent), name(std::move(socketName)), handshake(std::move(itsHandshake)) {
     again.setSingleShot(true);
     again.setInterval(retryMs);
     connect(&again, &QTimer::timeout, this, &FeedClient::connectAgain);
-    connect(&socket, &QLocalSocket::connected, this, &FeedClient::greet);
+    connect(&socket, &QLocalSocket::connected, this, &FeedClient::shakeHands);
     connect(&socket, &QLocalSocket::readyRead, this, &FeedClient::receive);
     connect(&socket, &QLocalSocket::disconnected, this, [this] {
         receive();
-        isGreeted = false;
+        hasShakenHands = false;
         emit connectionLost();
         again.start();
     });
     connect(&socket, &QLocalSocket::errorOccurred, this, [this](QLocalSocket::LocalSocketError) {
         // A connection that breaks tells so in another way.
-        if (isGreeted || again.isActive())
+        if (hasShakenHands || again.isActive())
             return;
         tryAgain();
     });
@@ -71,7 +71,7 @@ void FeedClient::connectAgain() {
         emit failed(sentence(path.error()));
 }
 
-void FeedClient::greet() {
+void FeedClient::shakeHands() {
     // Whoever has taken the name may be anybody.
     if (!isOwnPeer(socket.socketDescriptor())) {
         const QString path = socket.fullServerName();
@@ -84,8 +84,8 @@ void FeedClient::greet() {
     splitter = {};
     sent = 0;
     sentBytes = 0;
-    confirmedLines = 0;
-    socket.write(helloLine(hello));
+    acknowledgedLines = 0;
+    socket.write(handshakeLine(handshake));
 }
 
 void FeedClient::receive() {
@@ -105,15 +105,15 @@ void FeedClient::answered(const QByteArray& line) {
     }
     const qint64 taken = answer["lines"_L1].toInteger();
     const auto fresh =
-        static_cast<std::size_t>(std::clamp<qint64>(taken - confirmedLines, 0, static_cast<qint64>(sent)));
-    confirmedLines += static_cast<qint64>(fresh);
+        static_cast<std::size_t>(std::clamp<qint64>(taken - acknowledgedLines, 0, static_cast<qint64>(sent)));
+    acknowledgedLines += static_cast<qint64>(fresh);
     forget(fresh);
     sum += {answer["takenIn"_L1].toInteger(), answer["alreadyThere"_L1].toInteger(),
             answer["rejected"_L1].toInteger()};
     const QJsonArray rejections = answer["rejections"_L1].toArray();
     for (const auto& rejection : rejections)
         emit rejected(rejection["place"_L1].toString(), rejection["reason"_L1].toString());
-    emit confirmed();
+    emit acknowledged();
     sendMore();
 }
 
@@ -126,9 +126,9 @@ void FeedClient::startFrom(const QString& position) {
         sum.takenIn += kept - lines.begin() + 1;
         forget(static_cast<std::size_t>(kept - lines.begin()) + 1);
     }
-    isGreeted = true;
+    hasShakenHands = true;
     emit connectionMade();
-    emit confirmed();
+    emit acknowledged();
     sendMore();
 }
 
@@ -151,11 +151,12 @@ void FeedClient::forget(std::size_t count) {
 }
 
 bool FeedClient::isFull() const {
-    return lines.size() >= mostUnconfirmed || lineBytes >= mostUnconfirmedBytes;
+    return lines.size() >= mostUnacknowledged || lineBytes >= mostUnacknowledgedBytes;
 }
 
 void FeedClient::sendMore() {
-    while (isGreeted && sent < std::min(window, lines.size()) && (sent == 0 || sentBytes < windowBytes)) {
+    while (hasShakenHands && sent < std::min(window, lines.size()) &&
+           (sent == 0 || sentBytes < windowBytes)) {
         const QByteArray& text = lines[sent].text;
         socket.write(text);
         socket.write("\n");

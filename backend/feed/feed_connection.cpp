@@ -19,13 +19,13 @@ QByteArray lineOf(const QJsonObject& answer) {
     return QJsonDocument(answer).toJson(QJsonDocument::Compact) + '\n';
 }
 
-QByteArray receiptLine(const LineSource::Receipt& receipt) {
+QByteArray acknowledgementLine(const LineSource::Acknowledgement& told) {
     QJsonArray rejections;
-    for (const Rejection& rejection : receipt.outcome.rejections)
+    for (const Rejection& rejection : told.outcome.rejections)
         rejections.append(
             QJsonObject{{u"place"_s, sentence(*rejection.place)}, {u"reason"_s, sentence(rejection.reason)}});
-    const ImportTotals& totals = receipt.outcome.totals;
-    return lineOf({{u"lines"_s, receipt.lines},
+    const ImportTotals& totals = told.outcome.totals;
+    return lineOf({{u"lines"_s, told.lines},
                    {u"takenIn"_s, totals.takenIn},
                    {u"alreadyThere"_s, totals.alreadyThere},
                    {u"rejected"_s, totals.rejected},
@@ -37,8 +37,8 @@ QByteArray receiptLine(const LineSource::Receipt& receipt) {
 FeedConnection::FeedConnection(LineChannel* sender, unsigned char service, Answers wanted)
     : LineSource(service), channel(sender), answers(wanted) {
     setState(SourceState::Live);
-    onReceipt([this](const Receipt& receipt) {
-        answer(receiptLine(receipt));
+    onAcknowledged([this](const Acknowledgement& told) {
+        answer(acknowledgementLine(told));
         holdWhenFull();
     });
     QObject::connect(sender, &LineChannel::lineReceived, &context, [this](const QByteArray& line) {

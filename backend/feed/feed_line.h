@@ -26,7 +26,7 @@ struct FeedRecord {
 //   {"quote": QUOTE, "position": TEXT}    what a symbol trades at: market, code, last, change, volume
 //   {"symbol": SYMBOL, "position": TEXT}  an entry of the symbol table: market, code, name, category
 //   {"category": CATEGORY, "position": TEXT}  an entry of a service's catalogue: service, id, name, colour
-using FeedLine = std::variant<FeedHello, FeedRecord>;
+using FeedLine = std::variant<FeedHandshake, FeedRecord>;
 
 FeedLine parsedFeedLine(QByteArrayView line, unsigned char service);
 

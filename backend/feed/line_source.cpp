@@ -55,10 +55,10 @@ private:
 
 void LineSource::add(const QByteArray& line) {
     if (!begun) {
-        const FeedLine first = parsedFeedLine(line, hello.service);
+        const FeedLine first = parsedFeedLine(line, handshake.service);
         begun = true;
-        if (const auto* handshake = std::get_if<FeedHello>(&first)) {
-            hello = *handshake;
+        if (const auto* named = std::get_if<FeedHandshake>(&first)) {
+            handshake = *named;
             isAwaiting = true;
             return;
         }
@@ -86,7 +86,7 @@ std::shared_ptr<FeedBatch> LineSource::batch() {
         bytes += next.back() ? next.back().value().size() : 0;
     }
     linesOfBatch = next.size();
-    return std::make_shared<LineBatch>(std::move(next), acknowledged, hello.service);
+    return std::make_shared<LineBatch>(std::move(next), acknowledged, handshake.service);
 }
 
 void LineSource::acknowledge(const BatchOutcome& outcome) {

@@ -17,13 +17,13 @@ namespace wirepane {
 class LineSource : public FeedSource {
 public:
     // What the sender is told when lines are on the disk.
-    struct Receipt {
+    struct Acknowledgement {
         qint64 lines = 0;  // of all so far
         BatchOutcome outcome;
     };
 
     // `service` is that of records before which no handshake names one.
-    explicit LineSource(unsigned char service = 1) { hello.service = service; }
+    explicit LineSource(unsigned char service = 1) { handshake.service = service; }
 
     // The next line; a handshake counts only before the first item.
     void add(const QByteArray& line);
@@ -34,10 +34,10 @@ public:
     // Enough waits for a while: whoever brings lines had better stop until some are acknowledged.
     bool isFull() const { return lines.size() >= mostWaiting || waitingBytes >= mostWaitingBytes; }
 
-    void onReceipt(std::function<void(const Receipt&)> callback) { tell = std::move(callback); }
+    void onAcknowledged(std::function<void(const Acknowledgement&)> callback) { tell = std::move(callback); }
 
-    QString name() const override { return hello.source; }
-    // Who greets is to be told its position; what comes after it is the sender's business.
+    QString name() const override { return handshake.source; }
+    // Who has shaken hands is to be told its position; what comes after it is the sender's business.
     bool awaitsPosition() const override { return isAwaiting; }
     void resume(const Result<QString>&) override { isAwaiting = false; }
     bool hasBatch() override { return !lines.empty(); }
@@ -49,14 +49,14 @@ private:
     static constexpr std::size_t mostWaiting = 4000;  // lines
     static constexpr qint64 mostWaitingBytes = 512 * 1024;
 
-    FeedHello hello;
+    FeedHandshake handshake;
     std::deque<Line> lines;
     qint64 waitingBytes = 0;
     std::size_t linesOfBatch = 0;  // that was handed out last
     qint64 acknowledged = 0;       // lines
     bool begun = false;            // the first line has come
     bool isAwaiting = false;       // its position
-    std::function<void(const Receipt&)> tell;
+    std::function<void(const Acknowledgement&)> tell;
 };
 
 }  // namespace wirepane

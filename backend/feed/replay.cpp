@@ -13,7 +13,7 @@ namespace wirepane {
 
 namespace {
 
-// Of a batch: so much is sent before the terminal has confirmed what went before it.
+// Of a batch: so much is sent before the terminal has acknowledged what went before it.
 constexpr std::size_t mostItems = 1000;
 constexpr qsizetype mostCharacters = 512 * 1024;  // of stories, about
 
@@ -70,7 +70,7 @@ Done ReplayReader::readDue(std::size_t& next, SourceBatch& batch) {
 
 Replay::Replay(StoredDay& stored, FeedClient& feed, ReplayOptions replayOptions)
     : day(stored), client(feed), options(std::move(replayOptions)) {
-    connect(&client, &FeedClient::confirmed, this, &Replay::sendNext);
+    connect(&client, &FeedClient::acknowledged, this, &Replay::sendNext);
 }
 
 void Replay::start() {
@@ -101,7 +101,7 @@ void Replay::sourceStateChanged(FeedSource& changed) {
 
 // A batch is done with when the terminal has all of it.
 void Replay::sendNext() {
-    if (!source || client.unconfirmed() > 0)
+    if (!source || client.unacknowledged() > 0)
         return;
     if (std::exchange(isUnderWay, false)) {
         source->acknowledge({});

@@ -70,8 +70,8 @@ QByteArray lineOf(const QuoteItem& quote, const QString& position) {
 
 }  // namespace
 
-QByteArray helloLine(const FeedHello& hello) {
-    return lineOf({{u"source"_s, hello.source}, {u"service"_s, hello.service}});
+QByteArray handshakeLine(const FeedHandshake& handshake) {
+    return lineOf({{u"source"_s, handshake.source}, {u"service"_s, handshake.service}});
 }
 
 QByteArray itemLine(const NewsItem& item, const QString& position) {

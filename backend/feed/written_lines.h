@@ -10,14 +10,14 @@
 namespace wirepane {
 
 // What a feed says of itself before its first item.
-struct FeedHello {
+struct FeedHandshake {
     QString source;             // the name under which its position is kept; empty: none is kept
     unsigned char service = 1;  // of records that do not name one
 };
 
 // Lines of a feed in the form of feed_line.h, with their line feed. `position`: the sender's mark behind the
 // item; empty: none.
-QByteArray helloLine(const FeedHello& hello);
+QByteArray handshakeLine(const FeedHandshake& handshake);
 QByteArray itemLine(const NewsItem& item, const QString& position = {});
 QByteArray feedLine(const StoreItem& item, const QString& position = {});
 

@@ -104,11 +104,11 @@ void keepFirst(std::optional<std::int64_t>& kept, const std::optional<std::int64
 QString linkOf(XmlSource& xml) {
     const QXmlStreamAttributes attributes = xml.reader().attributes();
     const QString relation = attributes.value("rel"_L1).toString();
-    const QString address = attributes.value("href"_L1).toString();
+    const QString uri = attributes.value("href"_L1).toString();
     const QString text = xml.content().text;
-    if (address.isEmpty())
+    if (uri.isEmpty())
         return cleanLine(text);
-    return relation.isEmpty() || relation == "alternate"_L1 ? cleanLine(address) : QString();
+    return relation.isEmpty() || relation == "alternate"_L1 ? cleanLine(uri) : QString();
 }
 
 QString categoryOf(XmlSource& xml) {
@@ -119,8 +119,8 @@ QString categoryOf(XmlSource& xml) {
     return titleLine(!label.isEmpty() ? label : !term.isEmpty() ? term : text);
 }
 
-// What names the entry: its own identity, which is made unique by the feed's where it is no address or name
-// by itself; else its link; else its text.
+// What names the entry: its own identity, which is made unique by the feed's where it is no URI by itself;
+// else its link; else its text.
 QString identityOf(const FeedEntry& entry, const FeedEntry& feed) {
     if (entry.identity.contains(u':'))
         return entry.identity;

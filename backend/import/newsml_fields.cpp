@@ -23,7 +23,7 @@ namespace {
 
 constexpr QLatin1StringView xmlNamespace("http://www.w3.org/XML/1998/namespace");
 
-// What stands behind the alias of a code ("stat:usable"), or behind the last slash of an address.
+// What stands behind the alias of a code ("stat:usable"), or behind the last slash of a URI.
 QString codeOf(QStringView value) {
     const QStringView code = value.trimmed();
     return code.sliced(std::max(code.lastIndexOf(u':'), code.lastIndexOf(u'/')) + 1).toString();

@@ -57,7 +57,7 @@ namespace wirepane {
 // Every receiver is told what came in, in the order of coming, once it is committed: news of the
 // news day that its service is in as a new headline, whether it is new or replaced, a key that replaced news
 // no longer has as gone (GoneHeadlineReceiver), a story that was missing as a story that can be had, a symbol
-// as a change of the catalogue. Nothing is told of what was there already. A large batch is told in portions
+// as a change of the catalogue. Nothing is told of what was there already. Much of it is told in batches
 // of 500, with the event loop running between them.
 //
 // Look-ups see the store as of one moment, which moves on just before the telling begins of what has come

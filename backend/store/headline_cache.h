@@ -17,7 +17,8 @@ class HeadlineCache {
 public:
     explicit HeadlineCache(StoreReader& reader, qsizetype mostHeadlines = 4096);
 
-    // The headline, from memory or from the store; null when there is none. Valid until the next call.
+    // The headline, from memory (a cache hit) or from the store; null when there is none. Valid until the
+    // next call.
     const CHeadline* find(const HeadlineKey& key);
     void forget(const HeadlineKey& key);
     void clear();

@@ -25,7 +25,7 @@ std::optional<Error> faultOf(const NewsItem& item);
 std::optional<Error> faultOfStory(const QString& story);
 std::optional<Error> faultOf(const SymbolItem& item);
 std::optional<Error> faultOf(const CategoryItem& item);
-// Numbers that are none, or beyond all prices, and changes that leave less than nothing as the previous
+// Prices that are NaN or beyond all prices, and changes that leave less than nothing as the previous
 // close.
 std::optional<Error> faultOf(const QuoteItem& item);
 

@@ -59,8 +59,8 @@ WorkReport StoreIntake::perform(const Work& work) {
 
 void StoreIntake::report(const WorkReport& done) {
     tell(done);
-    // The readers have just moved on to the log's end: now all of it can be carried over, and nobody writes
-    // meanwhile. A log that is never quite carried over grows without end.
+    // The readers have just moved on to the log's end: now a checkpoint can carry all of it over, and nobody
+    // writes meanwhile. A log that is never quite carried over grows without end.
     if (sync.isLogLong()) {
         thread.post([this] {
             checkpoint();

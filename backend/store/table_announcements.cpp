@@ -20,7 +20,7 @@ TableAnnouncements::TableAnnouncements(std::function<bool()> arriving,
                                        std::function<void(const AnnouncedTables&)> telling)
     : isArriving(std::move(arriving)), tell(std::move(telling)) {
     timer.setSingleShot(true);
-    connect(&timer, &QTimer::timeout, this, &TableAnnouncements::flush);
+    connect(&timer, &QTimer::timeout, this, &TableAnnouncements::tellWaiting);
 }
 
 void TableAnnouncements::add(const HeadlineKey& key, std::int32_t categoryId,
@@ -45,7 +45,7 @@ void TableAnnouncements::open() {
     timer.start(static_cast<int>(std::max<qint64>(0, pauseMs - since)));
 }
 
-void TableAnnouncements::flush() {
+void TableAnnouncements::tellWaiting() {
     if (isArriving() && sinceFirst.elapsed() < mostPatienceMs) {
         timer.start(askAgainMs);
         return;

@@ -46,7 +46,7 @@ public:
     void open();
 
 private:
-    void flush();
+    void tellWaiting();
 
     std::function<bool()> isArriving;
     std::function<void(const AnnouncedTables&)> tell;

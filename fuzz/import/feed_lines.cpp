@@ -12,11 +12,11 @@ namespace {
 
 void promiseSameLine(const QByteArray& line) {
     const FeedLine parsed = parsedFeedLine(line, 7);
-    if (const auto* hello = std::get_if<FeedHello>(&parsed)) {
-        const FeedLine again = parsedFeedLine(helloLine(*hello), 9);
-        const auto* same = std::get_if<FeedHello>(&again);
-        promise(same != nullptr && same->source == hello->source && same->service == hello->service,
-                "a greeting arrives as it was");
+    if (const auto* handshake = std::get_if<FeedHandshake>(&parsed)) {
+        const FeedLine again = parsedFeedLine(handshakeLine(*handshake), 9);
+        const auto* same = std::get_if<FeedHandshake>(&again);
+        promise(same != nullptr && same->source == handshake->source && same->service == handshake->service,
+                "a handshake arrives as it was");
         return;
     }
     const auto& record = std::get<FeedRecord>(parsed);
@@ -49,13 +49,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         promiseSameLine(line);
         source.add(line);
     }
-    const qint64 greetings = source.awaitsPosition() ? 1 : 0;
-    source.onReceipt([&](const LineSource::Receipt& receipt) { taken = receipt.lines; });
+    const qint64 handshakes = source.awaitsPosition() ? 1 : 0;
+    source.onAcknowledged([&](const LineSource::Acknowledgement& told) { taken = told.lines; });
     while (source.hasBatch()) {
         source.batch()->read([](SourceItem&&) { return true; });
         source.acknowledge({});
     }
-    promise(greetings + taken == lines.size() && !source.isFull(), "every line is accounted for");
+    promise(handshakes + taken == lines.size() && !source.isFull(), "every line is accounted for");
     return 0;
 }
 

@@ -29,7 +29,8 @@ inline constexpr int nameWithMonth = 2020;
 // here, as a synchronous look-up into what the back end has at hand, or as the later answer to a request.
 //
 // Thread: every operation is called on, and every answer must arrive on, the interface thread. No operation
-// may run an event loop or throw. Look-ups must return at once: what is not at hand is reported as absent.
+// may run an event loop or throw. Look-ups must return at once: what is not at hand (a cache miss) is
+// reported as absent.
 //
 // A view asks for a title or a story once and does not ask again by itself: who has missed a look-up is owed
 // an answer unasked, RespHeadLine or RespStory, when it can be had, and also when it turns out that there is

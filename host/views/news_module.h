@@ -54,8 +54,10 @@ public:
     // Lays the news of these entries out and prints it into a PDF file; saves it as text. What the back end
     // has not at hand is left out, and the outcome says so; when that is all of it, it failed, and a file of
     // that name stays as it is. Needs no window, the application must be one with windows all the same.
-    virtual NewsOutcome printNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) = 0;
-    virtual NewsOutcome saveNews(const std::vector<CHeadlineTable>& entries, const OutputTarget& target) = 0;
+    virtual NewsOutcome printEntries(const std::vector<CHeadlineTable>& entries,
+                                     const OutputTarget& target) = 0;
+    virtual NewsOutcome saveEntries(const std::vector<CHeadlineTable>& entries,
+                                    const OutputTarget& target) = 0;
 };
 
 }  // namespace wirepane

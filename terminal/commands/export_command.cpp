@@ -129,8 +129,8 @@ int exportNews(EmbeddedBackEnd& backEnd, const ExportOptions& options) {
         return exitPartly;
     }
     NewsModule& news = *module.value();
-    const NewsOutcome outcome = options.pdf ? news.printNews(wanted.value(), options.target)
-                                            : news.saveNews(wanted.value(), options.target);
+    const NewsOutcome outcome = options.pdf ? news.printEntries(wanted.value(), options.target)
+                                            : news.saveEntries(wanted.value(), options.target);
     if (outcome.failed)
         return unusable(outcome.message);
     if (!outcome.message.isEmpty())

@@ -122,7 +122,7 @@ int feedTerminal(const QString& name, unsigned char service) {
     bool hasEnded = false;
     bool isReached = false;  // an input without lines, too, is for a terminal that is there
     const auto endWhenDone = [&] {
-        if (hasEnded && isReached && client.unconfirmed() == 0)
+        if (hasEnded && isReached && client.unacknowledged() == 0)
             QCoreApplication::exit(exitDone);
     };
     QObject::connect(&channel, &LineChannel::lineReceived, &client, [&](const QByteArray& line) {
@@ -139,7 +139,7 @@ int feedTerminal(const QString& name, unsigned char service) {
         isReached = true;
         endWhenDone();
     });
-    QObject::connect(&client, &FeedClient::confirmed, &client, [&] {
+    QObject::connect(&client, &FeedClient::acknowledged, &client, [&] {
         channel.setHeld(client.isFull());
         endWhenDone();
     });
@@ -152,7 +152,7 @@ int feedTerminal(const QString& name, unsigned char service) {
     });
     client.start(triesAtFirst);
     if (QCoreApplication::exec() != exitDone) {
-        printNote(u"%1 lines were not confirmed."_s.arg(client.unconfirmed()));
+        printNote(u"%1 lines were not confirmed."_s.arg(client.unacknowledged()));
         return exitUnusable;
     }
     return endWith(channel, client.totals());

@@ -24,8 +24,6 @@ namespace wirepane {
 namespace {
 
 constexpr int all = static_cast<int>(ListIndex::All);
-constexpr int printNews = 9271;
-constexpr int saveNews = 9272;
 
 // A host that wants story windows to stay on top.
 class OnTop : public CSyncInfo {
@@ -150,7 +148,7 @@ TEST_F(ViewOutputTest, EveryWayToPrintAndToSaveAsksItsQuestion) {
     openWithNews();
     select(0);
     const std::pair<int, bool> ways[] = {
-        {printNews, true}, {ids::printButton, true}, {saveNews, false}, {ids::saveAsButton, false}};
+        {ids::printNews, true}, {ids::printButton, true}, {ids::saveNews, false}, {ids::saveAsButton, false}};
     for (const auto& [command, prints] : ways) {
         int asked = 0;
         asked = answering([&, id = command] { view->onCommand(id); },
@@ -265,7 +263,7 @@ TEST_F(ViewOutputTest, AsksWithTheStoryDialogOutOfTheWay) {
     ASSERT_TRUE(dialog()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     const auto* button = qobject_cast<SButton*>(dlgItem(view.get(), ids::saveAsButton));
     ASSERT_NE(button, nullptr);
-    EXPECT_EQ(answering([&] { view->onCommand(saveNews); },
+    EXPECT_EQ(answering([&] { view->onCommand(ids::saveNews); },
                         [&](QWidget& question) {
                             EXPECT_FALSE(button->isEnabled());
                             EXPECT_EQ(question.parentWidget(), dialog());
@@ -279,7 +277,7 @@ TEST_F(ViewOutputTest, AsksWithTheStoryDialogOutOfTheWay) {
     EXPECT_TRUE(button->isEnabled());
     EXPECT_TRUE(dialog()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) << "as the host wants it";
     EXPECT_EQ(
-        answering([&] { view->onCommand(printNews); },
+        answering([&] { view->onCommand(ids::printNews); },
                   [&](QWidget& question) {
                       auto& print = dynamic_cast<QPrintDialog&>(question);
                       for (const auto range : {QPrintDialog::PrintPageRange, QPrintDialog::PrintCurrentPage,

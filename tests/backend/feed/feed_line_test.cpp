@@ -44,7 +44,7 @@ TEST(FeedLineTest, AnItemComesBackAsItWas) {
     EXPECT_EQ(newsOf(std::get<FeedRecord>(without)).story, QString()) << "none";
 }
 
-TEST(FeedLineTest, RecordsAndGreetingsAreToldApart) {
+TEST(FeedLineTest, RecordsAndHandshakesAreToldApart) {
     const QByteArray record =
         R"({"uri":"u:1","type":"text","headline":"\"wirepane\" rises","versioncreated":"2026-03-02T01:00:00Z"})";
     const FeedLine plain = parsedFeedLine(record, 16);
@@ -54,9 +54,9 @@ TEST(FeedLineTest, RecordsAndGreetingsAreToldApart) {
     EXPECT_EQ(newsOf(std::get<FeedRecord>(wrapped)).title, u"\"wirepane\" rises"_s);
     EXPECT_EQ(newsOf(std::get<FeedRecord>(wrapped)).service, 22);
     EXPECT_EQ(std::get<FeedRecord>(wrapped).position, u"7"_s);
-    const FeedLine hello = parsedFeedLine(helloLine({u"desk 1"_s, 22}), 1);
-    EXPECT_EQ(std::get<FeedHello>(hello).source, u"desk 1"_s);
-    EXPECT_EQ(std::get<FeedHello>(hello).service, 22);
+    const FeedLine handshake = parsedFeedLine(handshakeLine({u"desk 1"_s, 22}), 1);
+    EXPECT_EQ(std::get<FeedHandshake>(handshake).source, u"desk 1"_s);
+    EXPECT_EQ(std::get<FeedHandshake>(handshake).service, 22);
 }
 
 TEST(FeedLineTest, AQuoteIsReadWithItsPosition) {

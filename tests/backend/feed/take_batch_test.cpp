@@ -14,30 +14,30 @@ QByteArray positioned(const QByteArray& record, int position) {
     return "{\"wirepane\":{\"position\":\"" + QByteArray::number(position) + "\",\"ninjs\":" + record + "}}";
 }
 
-TEST_F(TakeBatchTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
+TEST_F(TakeBatchTest, LinesAreAcknowledgedOnceTheyAreOnTheDisk) {
     LineSource source;
-    QStringList receipts;
-    source.onReceipt([&](const LineSource::Receipt& receipt) {
-        receipts += u"%1: %2 %3 %4"_s.arg(receipt.lines)
-                        .arg(receipt.outcome.totals.takenIn)
-                        .arg(receipt.outcome.totals.alreadyThere)
-                        .arg(receipt.outcome.totals.rejected);
+    QStringList acknowledgements;
+    source.onAcknowledged([&](const LineSource::Acknowledgement& told) {
+        acknowledgements += u"%1: %2 %3 %4"_s.arg(told.lines)
+                                .arg(told.outcome.totals.takenIn)
+                                .arg(told.outcome.totals.alreadyThere)
+                                .arg(told.outcome.totals.rejected);
     });
     QStringList places;
-    source.add(helloLine({u"wire"_s, 16}));
+    source.add(handshakeLine({u"wire"_s, 16}));
     EXPECT_FALSE(source.hasBatch());
     source.add(positioned(record(u"a"_s, u"A"_s), 1));
     source.add("rubbish");
     source.addRejected(makeError<import_errors::lineTooLong>(10));
-    source.add(helloLine({u"other"_s, 1}));
+    source.add(handshakeLine({u"other"_s, 1}));
     source.add(positioned(record(u"a"_s, u"A"_s), 2));
     const Result<BatchOutcome> taken = takeBatch(*source.batch(), source.name(), *writer);
     ASSERT_TRUE(taken);
-    EXPECT_EQ(receipts, QStringList{});
+    EXPECT_EQ(acknowledgements, QStringList{});
     source.acknowledge(taken.value());
     for (const Rejection& rejection : taken.value().rejections)
         places += sentence(*rejection.place);
-    EXPECT_EQ(receipts, QStringList{u"5: 1 1 3"_s});
+    EXPECT_EQ(acknowledgements, QStringList{u"5: 1 1 3"_s});
     EXPECT_EQ(places, (QStringList{u"line 2"_s, u"line 3"_s, u"line 4"_s}));
     EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2"_s);
     EXPECT_FALSE(source.hasBatch());
@@ -49,7 +49,8 @@ TEST_F(TakeBatchTest, LinesAreConfirmedOnceTheyAreOnTheDisk) {
         ASSERT_TRUE(next);
         source.acknowledge(next.value());
     }
-    EXPECT_EQ(receipts.mid(1), (QStringList{u"1005: 1000 0 0"_s, u"2005: 1000 0 0"_s, u"2505: 500 0 0"_s}));
+    EXPECT_EQ(acknowledgements.mid(1),
+              (QStringList{u"1005: 1000 0 0"_s, u"2005: 1000 0 0"_s, u"2505: 500 0 0"_s}));
     EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2509"_s);
 }
 
@@ -82,9 +83,9 @@ TEST_F(TakeBatchTest, BatchesAreBoundedInSize) {
 TEST_F(TakeBatchTest, AStoreThatFailsKeepsTheBatchForLater) {
     FailingSink sink(*writer);
     LineSource source;
-    int receipts = 0;
-    source.onReceipt([&](const LineSource::Receipt&) { ++receipts; });
-    source.add(helloLine({u"wire"_s, 1}));
+    int acknowledgements = 0;
+    source.onAcknowledged([&](const LineSource::Acknowledgement&) { ++acknowledgements; });
+    source.add(handshakeLine({u"wire"_s, 1}));
     source.add(positioned(record(u"a"_s, u"A"_s), 1));
     source.add(positioned(record(u"b"_s, u"B"_s), 2));
     for (const auto moment :
@@ -93,7 +94,7 @@ TEST_F(TakeBatchTest, AStoreThatFailsKeepsTheBatchForLater) {
         EXPECT_FALSE(takeBatch(*source.batch(), source.name(), sink)) << moment;
         EXPECT_EQ(titles(), QStringList{}) << moment;
         EXPECT_EQ(writer->positionOf(u"wire"_s).value(), QString()) << moment;
-        EXPECT_EQ(receipts, 0) << moment;
+        EXPECT_EQ(acknowledgements, 0) << moment;
     }
     sink.failsAt = FailingSink::Never;
     EXPECT_TRUE(takeBatch(*source.batch(), source.name(), sink));

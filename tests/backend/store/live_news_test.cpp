@@ -216,7 +216,7 @@ TEST_F(LiveNewsTest, ASourceWhoseClockIsOffIsToldOf) {
     EXPECT_EQ(ahead.size(), 1) << "a clock that was set is no measure";
 }
 
-TEST_F(LiveNewsTest, ABurstIsOneTransactionAndIsToldInPortions) {
+TEST_F(LiveNewsTest, ABurstIsOneTransactionAndIsToldInBatches) {
     constexpr int burst = 1700;
     std::vector<NewsItem> items;
     for (int i = 0; i < burst; ++i)

@@ -144,16 +144,16 @@ TEST_F(QuotesTest, ABreakAndOtherProgramsLoseNoQuote) {
     EXPECT_EQ(listener.take(), QStringList(u"new 22:00700 5 -1 3"_s));
 }
 
-TEST_F(QuotesTest, NumbersThatAreNoneOrOutOfRangeAreRejected) {
-    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+TEST_F(QuotesTest, NaNAndNumbersOutOfRangeAreRejected) {
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     constexpr double endless = std::numeric_limits<double>::infinity();
     put(first, 10, 1, 1);
     const QuoteItem bad[] = {
-        {16, u"2330"_s, none, 0, 0},
+        {16, u"2330"_s, nan, 0, 0},
         {16, u"2330"_s, endless, 0, 0},
         {16, u"2330"_s, -1, -2, 0},
         {16, u"2330"_s, 1e13, 0, 0},
-        {16, u"2330"_s, 10, none, 0},
+        {16, u"2330"_s, 10, nan, 0},
         {16, u"2330"_s, 10, -endless, 0},
         {16, u"2330"_s, 10, 10.5, 0},
         {16, u"2330"_s, 10, 1, -1},

@@ -235,18 +235,18 @@ protected:
     }
 };
 
-TEST_F(FeedKillTest, WhatWasConfirmedOutlivesAKill) {
+TEST_F(FeedKillTest, WhatWasAcknowledgedOutlivesAKill) {
     const QString store = scratch.path(u"news.wirepane"_s);
     std::mt19937 random(seed);
     int next = 0;
-    int confirmed = 0;
+    int acknowledged = 0;
     int killedBusy = 0;
     const int rounds = kills(15);
     for (int round = 0; round < rounds; ++round) {
         QProcess feed;
         start(feed, {u"feed"_s, u"--store"_s, store, u"--receipts"_s});
         // The lines that may have been lost come again, as after any outage.
-        next = confirmed;
+        next = acknowledged;
         constexpr int perRound = 4000;
         feed.write(lines(next, perRound));
         feed.waitForReadyRead(10000);
@@ -255,23 +255,23 @@ TEST_F(FeedKillTest, WhatWasConfirmedOutlivesAKill) {
         feed.waitForFinished();
         qint64 said = 0;
         for (const QByteArray& line : feed.readAllStandardOutput().split('\n')) {
-            const QJsonObject receipt = QJsonDocument::fromJson(line).object();
-            said = std::max(said, receipt[u"lines"_s].toInteger());
+            const QJsonObject answer = QJsonDocument::fromJson(line).object();
+            said = std::max(said, answer[u"lines"_s].toInteger());
         }
-        confirmed = next + static_cast<int>(said);
+        acknowledged = next + static_cast<int>(said);
         killedBusy += said > 0 && said < perRound ? 1 : 0;
         const int inStore = held(store);
-        ASSERT_GE(inStore, confirmed) << round;
+        ASSERT_GE(inStore, acknowledged) << round;
         ASSERT_LE(inStore, next + perRound) << round;
         if (round % 50 == 49)
             expectSound(store);
     }
     EXPECT_GT(killedBusy, rounds / 5);
-    EXPECT_GT(confirmed, 0);
-    EXPECT_EQ(heldOfFirst(store, confirmed), confirmed);
+    EXPECT_GT(acknowledged, 0);
+    EXPECT_EQ(heldOfFirst(store, acknowledged), acknowledged);
     expectSound(store);
     RecordProperty("killedBusy", killedBusy);
-    RecordProperty("confirmed", confirmed);
+    RecordProperty("acknowledged", acknowledged);
 }
 
 TEST_F(FeedKillTest, AKilledTerminalHasEveryFileThatItMovedAway) {
