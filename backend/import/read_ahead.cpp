@@ -14,27 +14,33 @@ namespace wirepane {
 
 namespace {
 
-// Handing items over one by one would wake the other thread for each.
-constexpr std::size_t mostTogether = 64;       // items
-constexpr qsizetype enoughCharacters = 32768;  // for which none is waited for any longer
-constexpr std::size_t mostWaiting = 4;         // lots of items
+// Handing items over one by one would wake the other thread for each; with too few of them on the way each
+// thread waits for the other whenever the machine is busy. Weights are characters of stories, and some for
+// the rest.
+constexpr qsizetype weightOfRest = 512;
+constexpr qsizetype heldTogether = qsizetype(64) << 10;
+constexpr qsizetype mostWaiting = qsizetype(1) << 20;
 
-using Items = std::vector<SourceItem>;
+struct Lot {
+    std::vector<SourceItem> items;
+    qsizetype weight = 0;
+};
 
-qsizetype charactersOf(const SourceItem& item) {
+qsizetype weightOf(const SourceItem& item) {
     const auto* const news = item.content ? std::get_if<NewsItem>(&item.content.value()) : nullptr;
-    return news != nullptr && news->story ? news->story->size() : 0;
+    return weightOfRest + (news != nullptr && news->story ? news->story->size() : 0);
 }
 
 // Between the two threads.
 class Waiting {
 public:
     // For the reader: waits for room. False: nobody takes what it reads any more.
-    bool push(Items items) {
+    bool push(Lot lot) {
         std::unique_lock lock(mutex);
-        changed.wait(lock, [this] { return isClosed || lots.size() < mostWaiting; });
+        changed.wait(lock, [this] { return isClosed || weight < mostWaiting; });
+        weight += lot.weight;
         if (!isClosed)
-            lots.push_back(std::move(items));
+            lots.push_back(std::move(lot));
         changed.notify_all();
         return !isClosed;
     }
@@ -45,15 +51,16 @@ public:
     }
 
     // For who takes them: waits for items; none when the reader has come to its end.
-    Items pop() {
+    std::vector<SourceItem> pop() {
         std::unique_lock lock(mutex);
         changed.wait(lock, [this] { return hasEnded || !lots.empty(); });
         if (lots.empty())
             return {};
-        Items items = std::move(lots.front());
+        Lot lot = std::move(lots.front());
         lots.pop_front();
+        weight -= lot.weight;
         changed.notify_all();
-        return items;
+        return std::move(lot.items);
     }
     void close() {
         const std::lock_guard lock(mutex);
@@ -64,29 +71,26 @@ public:
 private:
     std::mutex mutex;
     std::condition_variable changed;
-    std::deque<Items> lots;
+    std::deque<Lot> lots;
+    qsizetype weight = 0;  // of them all
     bool isClosed = false;
     bool hasEnded = false;
 };
 
 Done readInto(Waiting& waiting, const Reader& read) {
-    Items items;
-    qsizetype characters = 0;
+    Lot lot;
     const Done done = read([&](SourceItem&& item) {
-        characters += charactersOf(item);
-        items.push_back(std::move(item));
-        if (items.size() < mostTogether && characters < enoughCharacters)
-            return true;
-        characters = 0;
-        return waiting.push(std::exchange(items, {}));
+        lot.weight += weightOf(item);
+        lot.items.push_back(std::move(item));
+        return lot.weight < heldTogether || waiting.push(std::exchange(lot, {}));
     });
-    if (!items.empty())
-        waiting.push(std::move(items));
+    if (!lot.items.empty())
+        waiting.push(std::move(lot));
     waiting.end();
     return done;
 }
 
-bool takeAll(Items items, const ItemVisitor& visit) {
+bool takeAll(std::vector<SourceItem> items, const ItemVisitor& visit) {
     for (SourceItem& item : items) {
         if (!visit(std::move(item)))
             return false;
@@ -101,7 +105,7 @@ Done readAhead(const Reader& read, const ItemVisitor& visit) {
     Done done = Nothing{};
     WorkerThread thread;
     thread.post([&] { done = readInto(waiting, read); });
-    for (Items items = waiting.pop(); !items.empty(); items = waiting.pop()) {
+    for (auto items = waiting.pop(); !items.empty(); items = waiting.pop()) {
         if (!takeAll(std::move(items), visit))
             break;
     }

@@ -12,10 +12,9 @@ namespace wirepane {
 using Reader = std::function<Done(const ItemVisitor&)>;
 
 // Runs the reader on a thread of its own, so that it reads on while what it has read is taken: `visit` is
-// called on the thread that calls this, in the order of the source. A reader that is faster waits; some
-// hundred items, or some 100,000 characters beyond the largest item, are in memory. Returns once the reader
-// has, with what it said; it is stopped as soon as `visit` has answered false and it hands over the next
-// items.
+// called on the thread that calls this, in the order of the source. A reader that is faster waits: the
+// largest items and a million characters of others are in memory. Returns once the reader has, with what it
+// said; it is stopped as soon as `visit` has answered false and it hands over the next items.
 Done readAhead(const Reader& read, const ItemVisitor& visit);
 
 }  // namespace wirepane
