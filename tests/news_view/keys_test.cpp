@@ -1,15 +1,12 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Which keys of a news view go where: the decision alone, and with real keys.
-#include "host/controls/my_rich_edit.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/key_routing.h"
-#include "story/story_ids.h"
 #include "tests/news_view/view_fixture.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>

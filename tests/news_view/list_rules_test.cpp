@@ -63,15 +63,6 @@ TEST_F(ListRules, ATickReadsEveryListThatDependsOnIt) {
     EXPECT_EQ(titles(relationMode), QStringList{u"s1 9:00"_s});
 }
 
-TEST_F(ListRules, TheKeySetListIsOfTodayWhateverDayIsPicked) {
-    openWith("ShowNormalSearch=1\n");
-    view->bChangeDate({2026, 3, 1});
-    tick(1);
-    EXPECT_EQ(titles(0), QStringList{u"yesterday"_s});
-    EXPECT_EQ(view->iGetHeadlineTableSize(relationMode), 1);
-    EXPECT_EQ(titles(relationMode), QStringList{u"s1 9:00"_s});
-}
-
 TEST_F(ListRules, TheListOnShowDecidesWhetherKeySetsFilter) {
     openWith("ShowNormalSearch=1\n");
     view->SwitchFunction(symbolMode);

@@ -63,6 +63,7 @@ protected:
         stored[keySetsKey] = QStringList{u"C:1 T:-999 K:"_s + word};
         openMode("ShowNormalSearch=1\n", 0, stored);
         view->SwitchFunction(4);
+        EXPECT_EQ(titles(4), QStringList()) << "key sets are kept without their ticks";
         runDialog<CNewsKeySearchDlg>(ids::relationSearchButton, [](CNewsKeySearchDlg& dialog) {
             press(dialog, search_ids::allKeySets);
             press(dialog, search_ids::ok);

@@ -89,16 +89,6 @@ TEST_F(ViewOutputTest, TheDialogAndTheGridFollowEachOther) {
     EXPECT_FALSE(dialog()->isVisible());
 }
 
-TEST_F(ViewOutputTest, ALateStoryReachesTheDialogOnShow) {
-    backEnd.storyAtHand = false;
-    openWithNews();
-    select(1);
-    view->OnShowStory();
-    backEnd.storyAtHand = true;
-    view->RespStory(view->GetHeadlineTable(1));
-    EXPECT_TRUE(view->storyState(true)[u"story"_s].toString().contains(u"Body 2"_s));
-}
-
 TEST_F(ViewOutputTest, SavesTheSelectedRowsInTheirOrder) {
     openWithNews();
     view->sheetOf(all)->clearSelection();
@@ -173,6 +163,7 @@ TEST_F(ViewOutputTest, TheUserStopsWaiting) {
     select(0);
     EXPECT_TRUE(view->saveSelection(target(u"late.txt"_s)).waiting);
     EXPECT_FALSE(stop->isHidden());
+    EXPECT_EQ(state(u"awaited"_s).toMap(), (QVariantMap{{u"print"_s, 0}, {u"save"_s, 1}, {u"preview"_s, 0}}));
     EXPECT_FALSE(stop->accessibleName().isEmpty());
     EXPECT_EQ(stop->toolTip(), stop->accessibleName());
     stop->setFocus();

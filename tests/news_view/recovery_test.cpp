@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What the user has sent again, and the back end's answers.
-#include "host/controls/sc_combo_box.h"
 #include "host/views/news_control_ids.h"
-#include "story/trv_news_story.h"
 #include "tests/news_view/view_fixture.h"
 #include "tests/support/grid_cells.h"
 
@@ -83,19 +81,6 @@ TEST_F(Recovery, TheFocusedRowsStoryIsAskedForAgain) {
     EXPECT_EQ(requests(ids::recoverStory), QStringList{u"again story 1 1"_s});
     view->SwitchFunction(3);
     EXPECT_EQ(requests(ids::recoverStory), QStringList()) << "an empty list";
-}
-
-TEST_F(Recovery, TheStoryDialogIsPointedAtTheRowWhoseStoryIsAskedForAgain) {
-    addNews(1, 9, 0, 1);
-    addNews(1, 9, 1, 2);
-    openActive();
-    view->SetStoryShowType(0);
-    const auto* dialog = view->findChild<TRVNewsStory*>();
-    ASSERT_NE(dialog, nullptr);
-    view->sheetOf(0)->setActiveSelection(1, -1);
-    EXPECT_EQ(requests(ids::recoverStory), QStringList{u"again story 1 1"_s});
-    EXPECT_EQ(dialog->GetHeadLinePos(), 1);
-    EXPECT_FALSE(dialog->isVisible());
 }
 
 TEST_F(Recovery, AnAnswerIsTakenForWhatIsChosen) {

@@ -9,7 +9,6 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -106,17 +105,6 @@ TEST_F(StandingSearchesOfTheView, OnlyWhatTickedKeySetsWantArrives) {
     EXPECT_EQ(saved()[keySetsKey].toStringList().size(), 3);
     EXPECT_EQ(saved()[u"!RVNEWS_NEWSSEARCH_KEYWORD"_s].toStringList(),
               (QStringList{u"GOLD"_s, u"RATE"_s, u"OIL"_s, u"NEVER"_s}));
-}
-
-TEST_F(StandingSearchesOfTheView, KeySetsSurviveARestartUnticked) {
-    addNews(1, 9, 0, 1);
-    openWith("ShowNormalSearch=1\n", 4, {{keySetsKey, QStringList{u"C:1 T:-999 K:S1"_s}}});
-    EXPECT_EQ(titles(4), QStringList());
-    runDialog<CNewsKeySearchDlg>(ids::relationSearchButton, [](CNewsKeySearchDlg& dialog) {
-        press(dialog, search_ids::allKeySets);
-        press(dialog, search_ids::ok);
-    });
-    EXPECT_EQ(titles(4), QStringList{u"s1 9:00"_s});
 }
 
 TEST_F(StandingSearchesOfTheView, TheChosenWarningTermIsSentAndSurvivesARestart) {

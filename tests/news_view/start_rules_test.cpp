@@ -8,7 +8,6 @@
 #include "tests/news_view/view_fixture.h"
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QMenu>
 #include <QTest>
 

@@ -3,6 +3,7 @@
 // The story of a list's row, in the pane and in its window, without a view.
 #include "news_view/story_display.h"
 
+#include "host/controls/quote_static_ex.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_layout.h"
 #include "search/news_relate_symbol_quote_view.h"
@@ -264,6 +265,29 @@ TEST_F(StoryDisplayTest, AnswersReachTheDisplayThatIsToBeSeen) {
     story.setShowType(inWindow);
     story.takeStory(entry);
     EXPECT_EQ(storiesRead(), 0) << "neither is to be seen";
+}
+
+TEST_F(StoryDisplayTest, AnUpdateIsToldWhereTheStoryIs) {
+    givePane();
+    const CHeadlineTable entry = view.entryAt(ListIndex::All, 1);
+    CHeadlineTable unlisted = entry;
+    unlisted.sequence = 99;
+    const auto isTold = [](const QWidget& display) {
+        return !display.findChild<CQuoteStaticEx*>()->isHidden();
+    };
+    story.setShowType(atRight);
+    focus(1);
+    story.show();
+    story.takeUpdate(unlisted);
+    EXPECT_FALSE(isTold(pane()));
+    story.takeUpdate(entry);
+    EXPECT_TRUE(isTold(pane()));
+    story.setShowType(inWindow);
+    story.show();
+    story.takeUpdate(unlisted);
+    EXPECT_FALSE(isTold(window()));
+    story.takeUpdate(entry);
+    EXPECT_TRUE(isTold(window()));
 }
 
 TEST_F(StoryDisplayTest, RelatedSymbolsAreThoseOfTheHeadlineShown) {

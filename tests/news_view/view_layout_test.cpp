@@ -91,85 +91,42 @@ TEST(ViewLayout, PageButtonsGiveWayFromTheLast) {
 }
 
 TEST(ViewLayout, TheStoryTakesItsShare) {
+    constexpr StoryShowType right = StoryShowType::Right, below = StoryShowType::Below;
     struct Case {
         const char* what;
         StoryShowType type;
-        NewsType newsType;
         int height;
         bool quotes;
         QRect grid, pane, relatedQuotes;
     };
+    const QRect half(0, 55, 500, 645);
+    const QRect upper(0, 55, 1000, 745);
     const Case cases[] = {
-        {"right",
-         StoryShowType::Right,
-         NewsType::Full,
-         700,
-         false,
-         {0, 55, 500, 645},
-         {510, 55, 490, 645},
-         {}},
-        {"right with quotes",
-         StoryShowType::Right,
-         NewsType::Full,
-         700,
-         true,
-         {0, 55, 500, 645},
-         {510, 55, 490, 525},
-         {510, 580, 490, 120}},
-        {"right with quotes, low",
-         StoryShowType::Right,
-         NewsType::Full,
-         355,
-         true,
-         {0, 55, 500, 300},
-         {510, 55, 490, 200},
-         {510, 255, 490, 100}},
-        {"below",
-         StoryShowType::Below,
-         NewsType::Full,
-         1000,
-         false,
-         {0, 55, 1000, 745},
-         {0, 800, 1000, 200},
-         {}},
-        {"below, low",
-         StoryShowType::Below,
-         NewsType::Full,
-         500,
-         false,
-         {0, 55, 1000, 295},
-         {0, 350, 1000, 150},
-         {}},
-        {"below with quotes",
-         StoryShowType::Below,
-         NewsType::Full,
-         1000,
-         true,
-         {0, 55, 1000, 745},
-         {0, 800, 500, 200},
-         {500, 800, 500, 200}},
-        {"no pane for this news type",
-         StoryShowType::Right,
-         NewsType::TwoColumns,
-         700,
-         false,
-         {0, 55, 1000, 645},
-         {},
-         {}},
+        {"right", right, 700, false, half, {510, 55, 490, 645}, {}},
+        {"right with quotes", right, 700, true, half, {510, 55, 490, 525}, {510, 580, 490, 120}},
+        {"low", right, 355, true, {0, 55, 500, 300}, {510, 55, 490, 200}, {510, 255, 490, 100}},
+        {"below", below, 1000, false, upper, {0, 800, 1000, 200}, {}},
+        {"below, low", below, 500, false, {0, 55, 1000, 295}, {0, 350, 1000, 150}, {}},
+        {"below with quotes", below, 1000, true, upper, {0, 800, 500, 200}, {500, 800, 500, 200}},
     };
+    LayoutInput in = ordinary();
     for (const Case& c : cases) {
-        LayoutInput in = ordinary();
         in.client.setHeight(c.height);
         in.showType = c.type;
-        in.newsType = c.newsType;
         in.hasRelatedQuotes = c.quotes;
         const ViewLayout out = layOut(in);
         EXPECT_EQ(out.grid, c.grid) << c.what;
         EXPECT_EQ(out.storyPane, c.pane) << c.what;
         EXPECT_EQ(out.relatedQuotes, c.relatedQuotes) << c.what;
-        EXPECT_EQ(out.storyHidesHeadline, c.type == StoryShowType::Right && c.newsType == NewsType::Full)
-            << c.what;
+        EXPECT_EQ(out.storyHidesHeadline, c.type == right) << c.what;
     }
+    in = ordinary();
+    in.showType = right;
+    in.newsType = NewsType::TwoColumns;
+    const ViewLayout out = layOut(in);
+    EXPECT_EQ(out.grid, QRect(0, 55, 1000, 645)) << "no pane for this news type";
+    EXPECT_TRUE(out.storyPane.isEmpty() && out.relatedQuotes.isEmpty());
+    EXPECT_FALSE(out.storyHidesHeadline);
 }
 
 TEST(ViewLayout, SymbolAndWarrantGridsUseTheFreeRow) {
