@@ -112,12 +112,9 @@ void NewsServices::CheckRegisterService(TRVQuoteBaseView& view) {
     }
 }
 
-std::vector<unsigned char> NewsServices::activeServices(int mode) const {
-    const auto list = listOfNumber(mode);
+std::vector<unsigned char> NewsServices::activeServices(ListIndex mode) const {
     std::vector<unsigned char> services;
-    if (!list)
-        return services;
-    const FillServices which = kindOf(*list).fill;
+    const FillServices which = kindOf(mode).fill;
     for (std::size_t i = 0; i < live.size(); ++i) {
         const bool wanted = which == FillServices::Every ||
                             (which == FillServices::Selected && live[i].selected) ||

@@ -13,6 +13,7 @@ class TRVCfgIO2;
 class TRVQuoteBaseView;
 
 namespace wirepane {
+enum class ListIndex : int;
 struct ViewSettingPath;
 
 // The view's news services: which there are, which the user has ticked, which are registered with the back
@@ -59,7 +60,7 @@ public:
     bool isRegistered(std::size_t index) const { return registered.at(index); }
 
     // The services that a mode looks at: the ticked ones, every one, or the warrant service alone.
-    std::vector<unsigned char> activeServices(int mode) const;
+    std::vector<unsigned char> activeServices(ListIndex mode) const;
 
 private:
     std::vector<ServiceEntry> live;

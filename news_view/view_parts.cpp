@@ -110,7 +110,7 @@ OutputJobs::Surroundings TRVNewsCtrlView::Parts::outputSurroundings() {
     return {view,
             stage,
             [this] { return settings.options[ViewOption::WholeTitles]; },
-            [this] { return services.activeServices(static_cast<int>(modes.shown())); },
+            [this] { return services.activeServices(modes.shown()); },
             [this] { board.place(); },
             [this](const QString& sentence) { emit view.messageForUser(sentence); }};
 }
@@ -249,7 +249,7 @@ int TRVNewsCtrlView::Parts::rowOf(ListIndex list, const CHeadlineTable& headline
 }
 
 void TRVNewsCtrlView::Parts::vGetNewsActiveService(std::vector<unsigned char>& active) const {
-    active = services.activeServices(static_cast<int>(modes.shown()));
+    active = services.activeServices(modes.shown());
 }
 
 std::vector<CHeadlineTable> TRVNewsCtrlView::Parts::selectedEntries() const {

@@ -78,18 +78,16 @@ TEST(NewsServices, ModesLookAtTheirServices) {
     NewsServices services;
     services.load(backEnd);
     services.vInitialNewsService(reader, path, view);
-    for (const int mode : {0, 1, 2, 4})
-        EXPECT_EQ(services.activeServices(mode), Ids{2}) << mode;
-    for (const int mode : {3, 6})
-        EXPECT_EQ(services.activeServices(mode), backEnd.services) << mode;
-    EXPECT_EQ(services.activeServices(5), Ids{52});
-    EXPECT_EQ(services.activeServices(7), Ids{});
-    EXPECT_EQ(services.activeServices(-1), Ids{});
+    for (const ListIndex mode : {ListIndex::All, ListIndex::Category, ListIndex::Symbol, ListIndex::Relation})
+        EXPECT_EQ(services.activeServices(mode), Ids{2}) << static_cast<int>(mode);
+    for (const ListIndex mode : {ListIndex::Search, ListIndex::WarningTerm})
+        EXPECT_EQ(services.activeServices(mode), backEnd.services) << static_cast<int>(mode);
+    EXPECT_EQ(services.activeServices(ListIndex::Warrant), Ids{52});
 
     backEnd.services = {1, 2};
     services.load(backEnd);
     EXPECT_EQ(services.indexOfWarrants(), -1);
-    EXPECT_EQ(services.activeServices(5), Ids{});
+    EXPECT_EQ(services.activeServices(ListIndex::Warrant), Ids{});
 }
 
 TEST(NewsServices, RegistrationsFollowTheTicks) {
