@@ -81,6 +81,20 @@ TEST_F(SearchDispatcherTest, AnswersEachServiceAndKeepsTheTableForTheSameConditi
     EXPECT_EQ(sizes(), u"0,0");
 }
 
+TEST_F(SearchDispatcherTest, ItLooksAgainAndTellsOfWhatItFindsOnly) {
+    takeNews(newsItem(1, u"d"_s, at(9, 1), u"gold of the same minute"_s));
+    desk->ask(1, kind, conditionOf(u"gold"_s));
+    ASSERT_TRUE(answered(1));
+    desk->lookAgain(1, {{at(9, 0), 2, 1}, {at(9, 2), 9, 1}});
+    desk->lookAgain(2, {{at(9, 2), 1, 2}});
+    for (const HeadlineKey& key : {HeadlineKey{at(9, 0), 1, 1}, {at(9, 1), 2, 1}, {at(9, 1), 3, 1}}) {
+        const qsizetype before = answers.size();
+        desk->lookAgain(1, {{at(9, 5), 9, 1}, key});
+        EXPECT_TRUE(answered(before + 1)) << key.sequence;
+    }
+    EXPECT_EQ(answers, QStringList(4, u"gold@1 3,0"_s));
+}
+
 TEST_F(SearchDispatcherTest, ANewerSearchForTheSameConditionMakesTheOlderVoid) {
     for (int i = 0; i < 50; ++i)
         desk->ask(1, kind, conditionOf(u"gold"_s));

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "backend/store/item_check.h"
 #include "backend/store/limits.h"
 #include "tests/backend/store/store_fixture.h"
 
@@ -144,6 +145,11 @@ TEST_F(StoreWriterTest, OneNameOfACategoryHasOneIdButAmongWarrants) {
     EXPECT_EQ(idOf(2, u"e"_s, u" ,"_s), 0);
     EXPECT_EQ(rows("SELECT space, id, name FROM categories WHERE id > 6 OR (space = 52 AND id > 4)"),
               (QStringList{u"0|7|Weather-Seas"_s, u"0|8|Shipping"_s, u"52|5|Shipping"_s}));
+
+    const QString long63(63, u'x');
+    for (const QString& tooMuch : {QString(), u"😀"_s, u" y"_s, u"-"_s})
+        EXPECT_EQ(cleanCategoryName(long63 + tooMuch), long63);
+    EXPECT_EQ(cleanCategoryName(long63.repeated(2)), long63 + u'x');
 
     EXPECT_EQ(take(CategoryItem{2, 7, u"Weather-Seas"_s, u"#00FF00"_s}), Take::TakenIn);
     EXPECT_EQ(take(CategoryItem{2, 7, u"Weather-Seas"_s, {}}), Take::AlreadyThere);
