@@ -11,22 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr bool breaksLine(char32_t c) {
-    return c == U'\n' || c == U'\v' || c == U'\f' || c == 0x85 || c == 0x2028 || c == 0x2029;
-}
-
-constexpr bool hides(char32_t c) {
-    const bool control = c < 0x20 || (c >= 0x7f && c < 0xa0);
-    const bool direction = c == 0x61c || c == 0x200e || c == 0x200f || (c >= 0x202a && c <= 0x202e) ||
-                           (c >= 0x2066 && c <= 0x2069);
-    return control || direction || c == 0xfeff || QChar::isNonCharacter(c);
-}
-
-// What endOfPlainRun() runs over, one bit a character: a look into 8 kB instead of a dozen comparisons.
-constexpr auto plainCharacters = [] {
+// What endOfPlainRun() runs over, one bit a character: a look into 8 kB instead of a dozen comparisons. Made
+// when the program starts (compilers give up on so many steps); until then no character is plain, and each is
+// looked at.
+const auto plainCharacters = [] {
     std::array<std::uint64_t, 0x10000 / 64> bits{};
     for (char32_t c = 0; c < 0x10000; ++c) {
-        if (!hides(c) && !breaksLine(c) && !QChar::isSurrogate(c))
+        if (!isHidden(c) && !isLineBreak(c) && !QChar::isSurrogate(c))
             bits[c / 64] |= std::uint64_t(1) << (c % 64);
     }
     return bits;
@@ -78,11 +69,14 @@ QString escaped(char32_t c) {
 }  // namespace
 
 bool isLineBreak(char32_t c) {
-    return breaksLine(c);
+    return c == U'\n' || c == U'\v' || c == U'\f' || c == 0x85 || c == 0x2028 || c == 0x2029;
 }
 
 bool isHidden(char32_t c) {
-    return hides(c);
+    const bool control = c < 0x20 || (c >= 0x7f && c < 0xa0);
+    const bool direction = c == 0x61c || c == 0x200e || c == 0x200f || (c >= 0x202a && c <= 0x202e) ||
+                           (c >= 0x2066 && c <= 0x2069);
+    return control || direction || c == 0xfeff || QChar::isNonCharacter(c);
 }
 
 char32_t takeCharacter(QStringView text, qsizetype& at) {
