@@ -65,6 +65,7 @@ inline constexpr QLatin1StringView waitingToSave{"IDS_NEWSCTRLVIEW_STRING_WAITIN
 inline constexpr QLatin1StringView waitingToPreview{"IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PREVIEW"};
 // "%1": how much of it is done, in hundredths.
 inline constexpr QLatin1StringView printing{"IDS_NEWSCTRLVIEW_STRING_PRINTING"};
+inline constexpr QLatin1StringView saving{"IDS_NEWSCTRLVIEW_STRING_SAVING"};
 inline constexpr QLatin1StringView stopWaiting{"IDS_NEWSCTRLVIEW_STRING_STOP_WAITING"};
 // "%1": how many pieces of news.
 inline constexpr QLatin1StringView putOutReady{"IDS_NEWSCTRLVIEW_STRING_PUT_OUT_READY"};

@@ -21,7 +21,9 @@ OutputJobs::OutputJobs(BKQuoteInterface& newsBackEnd, OutputDialogs& dialogs, Su
       previewer(backEnd, dialogs, around.window) {
     for (TRVNewsPrint* job : jobs()) {
         job->setOnAwaited(around.awaitedChanged);
-        job->setOnHandedOver([this] { setEnabled(ids::printButton, true); });
+        job->setOnHandedOver([this, button = job == &saver ? ids::saveAsButton : ids::printButton] {
+            setEnabled(button, true);
+        });
         job->setOnFinished([this](const NewsOutcome& outcome) { tell(outcome); });
     }
 }
@@ -93,7 +95,7 @@ void OutputJobs::takeStory(const CHeadlineTable& entry) {
 }
 
 bool OutputJobs::isWaiting() const {
-    return awaited() != std::array<int, 3>{} || printer.progress();
+    return awaited() != std::array<int, 3>{} || printer.progress() || saver.progress();
 }
 
 std::array<int, 3> OutputJobs::awaited() const {
@@ -108,8 +110,11 @@ QString OutputJobs::awaitedText() const {
         if (counts[i] > 0)
             told.append(langText(backEnd, texts[i]).arg(counts[i]));
     }
-    if (const auto progress = printer.progress())
-        told.append(langText(backEnd, keys::printing).arg(static_cast<int>(100 * *progress)));
+    for (const auto& [progress, text] :
+         {std::pair(printer.progress(), keys::printing), std::pair(saver.progress(), keys::saving)}) {
+        if (progress)
+            told.append(langText(backEnd, text).arg(static_cast<int>(100 * *progress)));
+    }
     return told.join(QStringLiteral(" · "));
 }
 

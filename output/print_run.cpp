@@ -4,28 +4,19 @@
 
 #include "output/page_printing.h"
 
-#include <QElapsedTimer>
 #include <QPointer>
-#include <QTimerEvent>
 
 namespace wirepane {
 
-namespace {
-
-constexpr int turnMs = 10;      // at one go; the window stands so long
-constexpr int tellingMs = 500;  // what is shorter is not told
-
-}  // namespace
-
 PrintRun::PrintRun(std::shared_ptr<PagesToPaint> pagesToPaint, std::unique_ptr<PageMaking> pageMaking,
-                   Told whoIsTold)
-    : pages(std::move(pagesToPaint)), making(std::move(pageMaking)), told(std::move(whoIsTold)) {
-    turn.start(0, this);
-    telling.start(tellingMs, this);
-}
+                   BKQuoteInterface& newsBackEnd, Told whoIsTold)
+    : OutputRun(std::move(whoIsTold)),
+      pages(std::move(pagesToPaint)),
+      making(std::move(pageMaking)),
+      backEnd(newsBackEnd) {}
 
 PrintRun::~PrintRun() {
-    stop();
+    pages->stopped = true;
 }
 
 double PrintRun::progress() const {
@@ -34,53 +25,35 @@ double PrintRun::progress() const {
     return pages->pages.empty() ? 1 : 0.5 + 0.5 * pages->painted / pages->count();
 }
 
-void PrintRun::timerEvent(QTimerEvent* event) {
-    if (event->timerId() == turn.timerId()) {
-        makePages();
-    } else {
-        isTold = true;
-        told.progressed();
-    }
-}
-
-void PrintRun::makePages() {
-    QElapsedTimer clock;
-    clock.start();
-    while (!pages->stopped && clock.elapsed() < turnMs) {
-        if (!making->step()) {
-            handOver();
-            return;
-        }
-    }
+bool PrintRun::step() {
     if (pages->stopped)
-        end({PaintResult::Stopped, {}});
+        finish({PaintResult::Stopped, {}});
+    else if (making->step())
+        return true;
+    else
+        paint();
+    return false;
 }
 
-void PrintRun::handOver() {
-    turn.stop();
+void PrintRun::paint() {
     pages->pages = making->takePages();
     making.reset();
     PagePainter* painter = PagePainter::installed();
     if (pages->pages.empty()) {
-        end({});
+        finish({});
     } else if (painter == nullptr) {
-        end(paintPages(*pages));
+        finish(paintPages(*pages));
     } else {
-        painter->paint(pages, [self = QPointer<PrintRun>(this)](const PaintOutcome& outcome) {
+        painter->paint(pages, [self = QPointer<PrintRun>(this)](const PaintOutcome& painted) {
             if (self)
-                self->end(outcome);
+                self->finish(painted);
         });
-        told.handedOver();
-        told.handedOver = nullptr;
+        handOver();
     }
 }
 
-void PrintRun::end(const PaintOutcome& outcome) {
-    turn.stop();
-    telling.stop();
-    if (told.handedOver)
-        told.handedOver();
-    told.painted(outcome);
+void PrintRun::finish(const PaintOutcome& painted) {
+    end(outcomeOf(*pages, painted, backEnd));
 }
 
 }  // namespace wirepane

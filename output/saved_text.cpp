@@ -12,6 +12,7 @@ namespace wirepane {
 namespace {
 
 constexpr int hyphens = 80;
+constexpr int linesPerStep = 500;  // a fraction of a millisecond
 
 // Files hold the texts of every service as service 0 shows them.
 QString converted(BKQuoteInterface& backEnd, const QString& text) {
@@ -42,36 +43,72 @@ void appendTitle(QString& out, const QString& title) {
     }
 }
 
-void appendStory(QString& out, const QString& story) {
-    const QString text = story + QStringLiteral("\n\n");
-    QStringView rest = text;
-    while (firstBytes(rest, bytesPerLine).size() < rest.size()) {
-        out += takeLine(rest);
-        out += QStringLiteral("\r\n");
-    }
-    out += rest;
-}
-
 }  // namespace
 
-std::optional<SavedText> writeNews(BKQuoteInterface& backEnd, const OutputItems& items, NewsFileType type) {
+NewsWriter::NewsWriter(BKQuoteInterface& newsBackEnd, OutputItems news, NewsFileType fileType)
+    : backEnd(newsBackEnd), items(std::move(news)), type(fileType) {}
+
+bool NewsWriter::step() {
+    if (!rest.isEmpty())
+        writeLines();
+    else if (begun < items.size())
+        beginItem();
+    else
+        return false;
+    return true;
+}
+
+double NewsWriter::progress() const {
+    if (items.empty())
+        return 1;
+    const double left = story.isEmpty() ? 0 : double(rest.size()) / double(story.size());
+    return (double(begun) - left) / double(items.size());
+}
+
+void NewsWriter::beginItem() {
+    const OutputItem& item = items[begun++];
+    QString text = u' ' + langText(backEnd, keys::newsNumber) + u' ' + QString::number(item.entry.sequence) +
+                   QStringLiteral("\n\n") + langText(backEnd, keys::newsTitle);
+    const bool whole = item.wholeTitle && type == NewsFileType::Utf8;
+    (whole ? appendWholeTitle : appendTitle)(text, converted(backEnd, item.title));
+    put(text + langText(backEnd, keys::newsStory));
+    story = converted(backEnd, item.story) + QStringLiteral("\n\n");
+    rest = story;
+}
+
+void NewsWriter::writeLines() {
     QString text;
-    for (const OutputItem& item : items) {
-        text += u' ' + langText(backEnd, keys::newsNumber) + u' ' + QString::number(item.entry.sequence) +
-                QStringLiteral("\n\n");
-        text += langText(backEnd, keys::newsTitle);
-        const bool whole = item.wholeTitle && type == NewsFileType::Utf8;
-        (whole ? appendWholeTitle : appendTitle)(text, converted(backEnd, item.title));
-        text += langText(backEnd, keys::newsStory);
-        appendStory(text, converted(backEnd, item.story));
-        text += QString(hyphens, u'-') + u'\n';
+    for (int line = 0; line < linesPerStep && firstBytes(rest, bytesPerLine).size() < rest.size(); ++line) {
+        text += takeLine(rest);
+        text += QStringLiteral("\r\n");
     }
-    if (type == NewsFileType::Utf8)
-        return SavedText{text.toUtf8(), 0};
-    const auto page = encodeCodePage950(text);
-    if (!page)
-        return std::nullopt;
-    return SavedText{page->bytes, page->replaced};
+    if (firstBytes(rest, bytesPerLine).size() == rest.size()) {
+        text += rest;
+        text += QString(hyphens, u'-') + u'\n';
+        rest = {};
+    }
+    put(text);
+}
+
+// Lines are whole characters: each piece becomes bytes by itself.
+void NewsWriter::put(const QString& text) {
+    if (!written)
+        return;
+    if (type == NewsFileType::Utf8) {
+        written->bytes += text.toUtf8();
+    } else if (const auto page = encodeCodePage950(text)) {
+        written->bytes += page->bytes;
+        written->replaced += page->replaced;
+    } else {
+        written.reset();
+    }
+}
+
+std::optional<SavedText> writeNews(BKQuoteInterface& backEnd, const OutputItems& items, NewsFileType type) {
+    NewsWriter writer(backEnd, items, type);
+    while (writer.step())
+        continue;
+    return writer.take();
 }
 
 }  // namespace wirepane

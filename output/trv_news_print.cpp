@@ -187,22 +187,25 @@ NewsOutcome TRVNewsPrint::output(const OutputItems& items, QWidget* parent,
         pages = pagesFor(printer, news);
     }
     const bool isTold = !target || target->told;
-    return isTold && PagePainter::installed() != nullptr ? start(pages, items, target)
-                                                         : printInOneGo(pages, news, items);
+    if (!isTold || PagePainter::installed() == nullptr)
+        return printInOneGo(pages, news, items);
+    return start(target, [&](OutputRun::Told told) {
+        return std::make_unique<PrintRun>(pages, std::make_unique<PageMaking>(*pages, news, items), news,
+                                          std::move(told));
+    });
 }
 
 // --- What goes on beside everything else ---
 
-NewsOutcome TRVNewsPrint::start(const std::shared_ptr<PagesToPaint>& pages, const OutputItems& items,
-                                const std::optional<OutputTarget>& target) {
-    PrintRun::Told told{[this] { handedOver(); },
-                        [this] {
-                            if (onAwaited)
-                                onAwaited();
-                        },
-                        [this, job = pages.get()](const PaintOutcome& painted) { endRun(painted, job); }};
-    auto making = std::make_unique<PageMaking>(*pages, backEnd, items);
-    runs.push_back({std::make_unique<PrintRun>(pages, std::move(making), std::move(told)), target});
+NewsOutcome TRVNewsPrint::start(const std::optional<OutputTarget>& target, const MakeRun& makeRun) {
+    const int number = ++runsBegun;
+    OutputRun::Told told{[this] { handedOver(); },
+                         [this] {
+                             if (onAwaited)
+                                 onAwaited();
+                         },
+                         [this, number](const NewsOutcome& outcome) { endRun(number, outcome); }};
+    runs.push_back({number, makeRun(std::move(told)), target});
     NewsOutcome outcome;
     outcome.underWay = true;
     return outcome;
@@ -215,14 +218,13 @@ void TRVNewsPrint::handedOver() {
     putOutSoon();
 }
 
-void TRVNewsPrint::endRun(const PaintOutcome& painted, const PagesToPaint* pages) {
+void TRVNewsPrint::endRun(int number, NewsOutcome outcome) {
     const auto ended =
-        std::find_if(runs.begin(), runs.end(), [&](const Run& run) { return &run.run->job() == pages; });
+        std::find_if(runs.begin(), runs.end(), [&](const Run& run) { return run.number == number; });
     Run run = std::move(*ended);
     runs.erase(ended);
-    NewsOutcome outcome = outcomeOf(*pages, painted, backEnd);
-    tellLeftOut(backEnd, run.leftOut, outcome);
     run.run.release()->deleteLater();
+    tellLeftOut(backEnd, run.leftOut, outcome);
     if (onAwaited)
         onAwaited();
     tellFinished(run.target, outcome);

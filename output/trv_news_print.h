@@ -4,6 +4,7 @@
 
 #include "output/output_dialogs.h"
 #include "output/output_item.h"
+#include "output/output_run.h"
 
 #include <functional>
 #include <memory>
@@ -12,12 +13,7 @@
 
 class QWidget;
 
-namespace wirepane {
-class PrintRun;
-struct PagesToPaint;
-struct PaintOutcome;
-
-}  // namespace wirepane
+namespace wirepane {}  // namespace wirepane
 
 // Prints news, at once or when everything that it needs has come, and then from the event loop: never within
 // the back end's call. A list of news that waits stays in a queue until the back end's answers have completed
@@ -77,6 +73,11 @@ protected:
     // Puts the items out. May run an event loop in which the owner goes.
     virtual wirepane::NewsOutcome output(const wirepane::OutputItems& items, QWidget* parent,
                                          const std::optional<wirepane::OutputTarget>& target);
+    using MakeRun = std::function<std::unique_ptr<wirepane::OutputRun>(wirepane::OutputRun::Told)>;
+    // Begins a run, whose outcome is told later: also to the target, where there is one that is.
+    wirepane::NewsOutcome start(const std::optional<wirepane::OutputTarget>& target, const MakeRun& makeRun);
+    // False when this has gone.
+    std::shared_ptr<const bool> aliveMark() const { return alive; }
     // How stories that are at hand are written.
     virtual wirepane::StoryForm storyForm() const;
 
@@ -90,15 +91,13 @@ private:
         std::optional<wirepane::OutputTarget> target;
     };
     struct Run {
-        std::unique_ptr<wirepane::PrintRun> run;
+        int number = 0;
+        std::unique_ptr<wirepane::OutputRun> run;
         std::optional<wirepane::OutputTarget> target;
         std::size_t leftOut = 0;
     };
-    wirepane::NewsOutcome start(const std::shared_ptr<wirepane::PagesToPaint>& pages,
-                                const wirepane::OutputItems& items,
-                                const std::optional<wirepane::OutputTarget>& target);
     void handedOver();
-    void endRun(const wirepane::PaintOutcome& painted, const wirepane::PagesToPaint* pages);
+    void endRun(int number, wirepane::NewsOutcome outcome);
     void tellFinished(const std::optional<wirepane::OutputTarget>& target,
                       const wirepane::NewsOutcome& outcome);
     wirepane::NewsOutcome outputAlone(const wirepane::OutputItems& items, QWidget* parent,
@@ -114,6 +113,7 @@ private:
     QWidget& parentWindow;
     std::vector<Pending> queue;
     std::vector<Run> runs;
+    int runsBegun = 0;
     std::function<void()> onAwaited;
     std::function<void()> onHandedOver;
     std::function<void(const wirepane::NewsOutcome&)> onFinished;

@@ -6,11 +6,17 @@
 #include "host/contract/whole_file.h"
 #include "output/page_printing.h"
 #include "output/printable_story.h"
-#include "output/saved_text.h"
+#include "output/save_run.h"
 
 #include <QDir>
 
 using namespace wirepane;
+
+namespace {
+
+constexpr qsizetype longSave = 500'000;  // characters: some 10 ms
+
+}  // namespace
 
 StoryForm TRVSaveToFile::storyForm() const {
     return &savedStory;
@@ -19,13 +25,24 @@ StoryForm TRVSaveToFile::storyForm() const {
 NewsOutcome TRVSaveToFile::output(const OutputItems& items, QWidget* parent,
                                   const std::optional<OutputTarget>& target) {
     BKQuoteInterface& news = newsBackEnd();
+    const std::shared_ptr<const bool> here = aliveMark();
     const std::optional<OutputTarget> file = target ? target : outputDialogs().askFile(news, parent);
-    return file ? saveItemsTo(*file, news, items) : NewsOutcome();
+    if (!file || !*here)
+        return {};
+    qsizetype characters = 0;
+    for (const OutputItem& item : items)
+        characters += item.story.size();
+    if (characters < longSave || (target && !target->told))
+        return saveItemsTo(*file, news, items);
+    return start(target, [&](OutputRun::Told told) {
+        return std::make_unique<SaveRun>(*file, news, items, std::move(told));
+    });
 }
 
 namespace wirepane {
 
-NewsOutcome saveItemsTo(const OutputTarget& target, BKQuoteInterface& backEnd, const OutputItems& items) {
+NewsOutcome saveText(const OutputTarget& target, BKQuoteInterface& backEnd,
+                     const std::optional<SavedText>& text) {
     const QString name = QDir::toNativeSeparators(target.file);
     const auto failure = [&](const QString& why) {
         NewsOutcome outcome;
@@ -33,7 +50,6 @@ NewsOutcome saveItemsTo(const OutputTarget& target, BKQuoteInterface& backEnd, c
         outcome.message = langText(backEnd, keys::saveFailed).arg(name, why);
         return outcome;
     };
-    const auto text = writeNews(backEnd, items, target.type);
     if (!text)
         return failure(langText(backEnd, keys::noCodePage));
     if (const auto why = writeWholeFile(target.file, text->bytes, QIODevice::Text))
@@ -44,6 +60,10 @@ NewsOutcome saveItemsTo(const OutputTarget& target, BKQuoteInterface& backEnd, c
         outcome.message =
             langText(backEnd, keys::charactersReplaced).arg(QString::number(text->replaced), name);
     return outcome;
+}
+
+NewsOutcome saveItemsTo(const OutputTarget& target, BKQuoteInterface& backEnd, const OutputItems& items) {
+    return saveText(target, backEnd, writeNews(backEnd, items, target.type));
 }
 
 NewsOutcome TRVNewsPreview::output(const OutputItems& items, QWidget* parent,

@@ -6,7 +6,7 @@
 // again with a mark on its last words ("mark"). "..._ms" is how long it took until the window stood still,
 // "..._wait_ms" the longest time that a key would have waited meanwhile.
 #include "bench/story/one_story.h"
-#include "bench/story/watched_application.h"
+#include "bench/support/watched_application.h"
 #include "host/contract/cfg_io.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/window_id.h"

@@ -5,7 +5,7 @@
 // Chinese. "vs_10000" is its time as a multiple of the one at 10,000; "pause_ms" is the longest time that the
 // interface was held up at one go.
 #include "bench/story/one_story.h"
-#include "bench/story/watched_application.h"
+#include "bench/support/watched_application.h"
 #include "host/contract/cfg_io.h"
 #include "story/keyword_match.h"
 #include "story/news_story_view.h"

@@ -20,7 +20,7 @@ enum class NewsFileType {
 struct NewsOutcome {
     int count = 0;          // pages printed, bytes saved; headlines shown in a preview
     bool waiting = false;   // it is put out when the titles and stories that are missing have come
-    bool underWay = false;  // it is being printed, and will be told
+    bool underWay = false;  // it is being put out, and what comes of it is told later
     bool failed = false;    // also what was stopped, which has no message
     QString message;        // a sentence for the user, with the file's name; empty: nothing to tell
 };
@@ -34,7 +34,8 @@ struct OutputTarget {
     // its settings.
     bool wholeTitles = false;
     // Views: is told, once, what came of news that waited or was under way. With it pages are painted by the
-    // host's PagePainter where there is one; without it within the call.
+    // host's PagePainter, where there is one, and long files are made from the event loop; without it all is
+    // done within the call.
     std::function<void(const NewsOutcome&)> told = {};
 };
 

@@ -26,40 +26,42 @@ Answer answerOf(const NewsOutcome& outcome, const QString& name) {
 
 void OutputMethods::addTo(MethodTable& table) {
     table.addDeferred(u"print.pdf"_s, [this](Params& params, const Reply& reply) { print(params, reply); });
-    table.add(u"save.file"_s, [this](Params& params) { return save(params); });
+    table.addDeferred(u"save.file"_s, [this](Params& params, const Reply& reply) { save(params, reply); });
 }
 
-// Answered when the file is there, unless something of it is still to come.
 void OutputMethods::print(Params& params, const Reply& reply) {
-    const OpenView* view = viewOf(params, session.workspace());
     OutputTarget target;
     target.file = params.text(u"path"_s);
     target.paper = params.optionalText(u"paper"_s).value_or(QString());
-    if (view == nullptr || params.error()) {
-        reply(params.error() ? Answer(*params.error()) : Answer());
-        return;
-    }
-    const auto answered = std::make_shared<bool>(false);
-    target.told = [reply, answered, here = std::weak_ptr(alive)](const NewsOutcome& outcome) {
-        if (!here.expired() && !std::exchange(*answered, true))
-            reply(answerOf(outcome, u"pages"_s));
-    };
-    const NewsOutcome outcome = view->access->printSelection(target);
-    if (!outcome.underWay && !std::exchange(*answered, true))
-        reply(answerOf(outcome, u"pages"_s));
+    putOut(params, reply, target, &NewsViewAccess::printSelection, u"pages"_s);
 }
 
-Answer OutputMethods::save(Params& params) {
-    const OpenView* view = viewOf(params, session.workspace());
+void OutputMethods::save(Params& params, const Reply& reply) {
     OutputTarget target;
     target.file = params.text(u"path"_s);
     const QString type = params.optionalText(u"type"_s).value_or(u"txt"_s);
     if (type != u"txt"_s && type != u"utf8"_s)
         params.fail(u"\"type\" must be \"txt\" or \"utf8\""_s);
     target.type = type == u"utf8"_s ? NewsFileType::Utf8 : NewsFileType::CodePage950;
-    if (view == nullptr || params.error())
-        return {};
-    return answerOf(view->access->saveSelection(target), u"bytes"_s);
+    putOut(params, reply, target, &NewsViewAccess::saveSelection, u"bytes"_s);
+}
+
+// Answered when the file is there, unless something of it is still to come.
+void OutputMethods::putOut(Params& params, const Reply& reply, OutputTarget& target, PutOut method,
+                           const QString& counted) {
+    const OpenView* view = viewOf(params, session.workspace());
+    if (view == nullptr || params.error()) {
+        reply(params.error() ? Answer(*params.error()) : Answer());
+        return;
+    }
+    const auto answered = std::make_shared<bool>(false);
+    target.told = [reply, answered, counted, here = std::weak_ptr(alive)](const NewsOutcome& outcome) {
+        if (!here.expired() && !std::exchange(*answered, true))
+            reply(answerOf(outcome, counted));
+    };
+    const NewsOutcome outcome = (view->access->*method)(target);
+    if (!outcome.underWay && !std::exchange(*answered, true))
+        reply(answerOf(outcome, counted));
 }
 
 }  // namespace wirepane

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/views/news_module.h"
 #include "terminal/automation/method_table.h"
 
 #include <memory>
@@ -19,7 +20,11 @@ public:
 
 private:
     void print(Params& params, const Reply& reply);
-    Answer save(Params& params);
+    void save(Params& params, const Reply& reply);
+
+    using PutOut = NewsOutcome (NewsViewAccess::*)(const std::optional<OutputTarget>&);
+    void putOut(Params& params, const Reply& reply, OutputTarget& target, PutOut method,
+                const QString& counted);
 
     Session& session;
     std::shared_ptr<bool> alive = std::make_shared<bool>(true);  // what is printed may outlast this

@@ -1475,6 +1475,10 @@
         <source></source>
         <translation>Printing: %1%</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SAVING">
+        <source></source>
+        <translation>Saving: %1%</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PRINT">
         <source></source>
         <translation>Waiting to print: %1 still to come</translation>

@@ -1475,6 +1475,10 @@
         <source></source>
         <translation>正在打印：%1%</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SAVING">
+        <source></source>
+        <translation>正在保存：%1%</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PRINT">
         <source></source>
         <translation>等待打印，尚缺 %1 则</translation>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-// Printing where the host paints: pages are made from the event loop and handed over, and may be stopped.
+// Printing where the host paints, and saving what is long: from the event loop, and it may be stopped.
 #include "output/page_printing.h"
-#include "output/trv_news_print.h"
+#include "output/trv_save_to_file.h"
 #include "tests/support/fake_back_end.h"
 #include "tests/support/held_painter.h"
 
@@ -21,9 +21,9 @@ namespace wirepane {
 
 namespace {
 
-class PrintRunTest : public testing::Test {
+class OutputRunTest : public testing::Test {
 protected:
-    PrintRunTest() {
+    OutputRunTest() {
         printer->setOnHandedOver([this] { ++handedOver; });
         backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_STRING_LEFT_OUT"_s, u"left out %1"_s);
     }
@@ -64,7 +64,7 @@ protected:
 
 }  // namespace
 
-TEST_F(PrintRunTest, PagesAreHandedOverAndWhatCameOfThemIsTold) {
+TEST_F(OutputRunTest, PagesAreHandedOverAndWhatCameOfThemIsTold) {
     OutputItems items = news(120);
     items.push_back(OutputItem{});
     items.back().leftOut = true;
@@ -91,7 +91,7 @@ TEST_F(PrintRunTest, PagesAreHandedOverAndWhatCameOfThemIsTold) {
     EXPECT_EQ(files(), QStringList{u"news.pdf"_s});
 }
 
-TEST_F(PrintRunTest, WithoutAPainterOrWithoutAnyoneToTellItIsPrintedWithinTheCall) {
+TEST_F(OutputRunTest, WithoutAPainterOrWithoutAnyoneToTellItIsPrintedWithinTheCall) {
     OutputTarget silent = target();
     silent.told = nullptr;
     EXPECT_EQ(printer->putOut(news(2), nullptr, silent).count, 2);
@@ -100,7 +100,7 @@ TEST_F(PrintRunTest, WithoutAPainterOrWithoutAnyoneToTellItIsPrintedWithinTheCal
     EXPECT_TRUE(painter.jobs.empty() && told.empty());
 }
 
-TEST_F(PrintRunTest, WhatIsStoppedLeavesNoHalfFile) {
+TEST_F(OutputRunTest, WhatIsStoppedLeavesNoHalfFile) {
     QFile old(file);
     ASSERT_TRUE(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
     old.close();
@@ -124,7 +124,7 @@ TEST_F(PrintRunTest, WhatIsStoppedLeavesNoHalfFile) {
     EXPECT_EQ(files(), QStringList{u"news.pdf"_s});
 }
 
-TEST_F(PrintRunTest, WhatItsOwnerLeavesIsStopped) {
+TEST_F(OutputRunTest, WhatItsOwnerLeavesIsStopped) {
     for (const bool isHandedOver : {false, true}) {
         told.clear();
         print(news(isHandedOver ? 3 : 5000));
@@ -141,7 +141,7 @@ TEST_F(PrintRunTest, WhatItsOwnerLeavesIsStopped) {
     }
 }
 
-TEST_F(PrintRunTest, WhatTakesLongSaysHowFarItIs) {
+TEST_F(OutputRunTest, WhatTakesLongSaysHowFarItIs) {
     int changes = 0;
     printer->setOnAwaited([&] { ++changes; });
     print(news(3));
@@ -155,6 +155,40 @@ TEST_F(PrintRunTest, WhatTakesLongSaysHowFarItIs) {
     painter.paintNext();
     EXPECT_FALSE(printer->progress());
     EXPECT_EQ(changes, 2);
+}
+
+TEST_F(OutputRunTest, LongFilesAreSavedFromTheEventLoopByteByByteAsWithinTheCall) {
+    TRVSaveToFile saver(backEnd, dialogs, window);
+    OutputItems items = news(300);
+    for (OutputItem& item : items)
+        item.story += u"新聞 \U0001F600 "_s.repeated(100'000);
+    items.push_back(items[0]);
+    for (const NewsFileType type : {NewsFileType::CodePage950, NewsFileType::Utf8}) {
+        told.clear();
+        OutputTarget later = target();
+        later.type = type;
+        OutputTarget atOnce = later;
+        atOnce.told = nullptr;
+        const NewsOutcome whole = saver.putOut(items, nullptr, atOnce);
+        EXPECT_EQ(whole.count, written().size());
+        const QByteArray expected = written();
+        ASSERT_TRUE(QFile::remove(file));
+        EXPECT_TRUE(saver.putOut(items, nullptr, later).underWay);
+        EXPECT_EQ(files(), QStringList());
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !told.empty(); }));
+        EXPECT_EQ(told[0].count, whole.count);
+        EXPECT_EQ(told[0].message, whole.message);
+        EXPECT_TRUE(written() == expected);
+        // Stopped, the file stays as it is.
+        EXPECT_TRUE(saver.putOut(news(9000), nullptr, later).underWay);
+        QCoreApplication::processEvents();
+        saver.stopRuns();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() == 2; }));
+        EXPECT_TRUE(told[1].failed);
+        EXPECT_TRUE(written() == expected);
+        EXPECT_EQ(files().size(), 1);
+    }
+    EXPECT_FALSE(saver.putOut(news(1), nullptr, target()).underWay) << "a short one is there at once";
 }
 
 TEST(PagePainting, StopsAPrinterInTheMiddle) {

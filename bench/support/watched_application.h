@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QThread>
 
 #include <algorithm>
 #include <chrono>
@@ -15,11 +16,14 @@ inline double secondsSince(BenchClock::time_point from) {
     return std::chrono::duration<double>(BenchClock::now() - from).count();
 }
 
-// Notes the longest time that handling one event took: so long may a key have to wait.
+// Notes the longest time that handling one event of the interface thread took: so long may a key have to
+// wait.
 class WatchedApplication : public QApplication {
 public:
     using QApplication::QApplication;
     bool notify(QObject* receiver, QEvent* event) override {
+        if (QThread::currentThread() != thread())
+            return QApplication::notify(receiver, event);
         const auto from = BenchClock::now();
         ++depth;
         const bool handled = QApplication::notify(receiver, event);
