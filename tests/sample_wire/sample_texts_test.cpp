@@ -3,11 +3,9 @@
 #include "sample_wire/phrasebook.h"
 #include "sample_wire/service_role.h"
 #include "tests/sample_wire/collected_wire.h"
-
-#include <QColor>
+#include "tests/support/contrast.h"
 
 #include <algorithm>
-#include <cmath>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -91,19 +89,6 @@ TEST(SampleTexts, StoriesKeepToTheLengthAskedFor) {
         EXPECT_GE(item.story->size(), 1'000) << item.title.toStdString();
         EXPECT_LE(item.story->size(), 3'000) << item.title.toStdString();
     }
-}
-
-double contrast(const QColor& a, const QColor& b) {
-    const auto linear = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    const auto luminance = [&linear](const QColor& colour) {
-        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-               0.0722 * linear(colour.blueF());
-    };
-    const double brighter = std::max(luminance(a), luminance(b));
-    const double darker = std::min(luminance(a), luminance(b));
-    return (brighter + 0.05) / (darker + 0.05);
 }
 
 TEST(SampleTexts, CategoryColoursAreReadableOnLightAndDarkAndNamesAreShort) {

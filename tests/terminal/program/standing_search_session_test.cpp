@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-// Searches that stand, and the quotes beside a story, in the real program: composed, kept, and fed by a
-// replay.
+// A search that stands, and the quotes beside a story, in the real program.
 #include "host/views/news_control_ids.h"
 #include "tests/terminal/program/program_runner.h"
 #include "tests/terminal/program/script_client.h"
@@ -17,15 +16,13 @@ namespace wirepane {
 
 namespace {
 
-constexpr int relationList = 4;
 constexpr int warningList = 6;
 
 class StandingSearchSessionTest : public testing::Test {
 protected:
     QStringList arguments(const QString& store) const {
-        return {u"--store"_s, scratch.path(store),        u"--config"_s, scratch.path(u"config"_s),
-                u"--now"_s,   u"2026-03-02T09:30:00"_s,   u"--lang"_s,   u"en"_s,
-                u"--feed"_s,  u"wirepane-standing-test"_s};
+        return {u"--store"_s, scratch.path(store),      u"--config"_s, scratch.path(u"config"_s),
+                u"--now"_s,   u"2026-03-02T09:30:00"_s, u"--lang"_s,   u"en"_s};
     }
 
     static void push(ScriptClient& script, int sequence, const QString& title) {
@@ -62,42 +59,6 @@ protected:
 
     Scratch scratch;
 };
-
-TEST_F(StandingSearchSessionTest, TickedKeySetsTakeTheHeadlinesOfAReplayThatTheyMatch) {
-    {
-        ScriptClient archive(arguments(u"archive.wirepane"_s));
-        for (const auto& [sequence, title] : {std::pair(1, u"Chips rise"_s),
-                                              {2, u"央行降息"_s},
-                                              {3, u"Tea falls"_s},
-                                              {4, u"CHIPS and tea"_s},
-                                              {5, u"A quiet day"_s}})
-            push(archive, sequence, title);
-        archive.result(u"app.quit"_s);
-    }
-    ScriptClient script(arguments(u"news.wirepane"_s));
-    script.result(u"host.set"_s, QJsonObject{{u"switches"_s, QJsonObject{{u"ShowNormalSearch"_s, 1}}}});
-    script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{900, 600}}, {u"mask"_s, 0x09}});
-    script.result(u"control.choose"_s,
-                  QJsonObject{{u"id"_s, ids::tabStrip}, {u"text"_s, u"Relation Search"_s}});
-    command(script, ids::relationSearchButton);
-    for (const QString& keyword : {u"CHIPS"_s, u"降息"_s}) {
-        set(script, 2061, u"text"_s, keyword);
-        click(script, 2063);
-        set(script, 2034, u"checked"_s, true);
-        click(script, 2091);
-    }
-    click(script, 1);
-    EXPECT_TRUE(script.result(u"dialog.state"_s).isNull());
-
-    const ProgramOutcome replay =
-        runProgram({u"replay"_s, u"--store"_s, scratch.path(u"archive.wirepane"_s), u"--date"_s,
-                    u"2026-03-02"_s, u"--speed"_s, u"0"_s, u"--to"_s, u"wirepane-standing-test"_s});
-    EXPECT_EQ(replay.status, 0) << replay.err.toStdString();
-    settle(script);
-    EXPECT_EQ(titles(script, relationList),
-              (QStringList{u"CHIPS and tea"_s, u"央行降息"_s, u"Chips rise"_s}));
-    EXPECT_EQ(script.result(u"grid.read"_s, QJsonObject{{u"list"_s, 0}})[u"rows"_s].toInt(), 5);
-}
 
 TEST_F(StandingSearchSessionTest, TheChosenWarningTermComesBackAndIsSearchedForAgain) {
     const QJsonObject warnings{

@@ -168,7 +168,7 @@ TEST_F(WorkspaceTest, SettingsWithoutSenseOpenWithTheirDefaults) {
     }
 }
 
-TEST_F(WorkspaceTest, FilesOfTheModuleThatCannotBeWrittenAreTold) {
+TEST_F(WorkspaceTest, OpensWithoutTheFilesOfTheModule) {
     for (const QString& name : {u"NewsService.ini"_s, u"Application.ini"_s})
         QDir().mkpath(scratch.path(u"config/"_s + name));
     ScriptClient script(arguments());

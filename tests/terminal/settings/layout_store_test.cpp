@@ -4,6 +4,7 @@
 
 #include "terminal/settings/settings_file.h"
 #include "terminal/settings/terminal_settings.h"
+#include "tests/support/contrast.h"
 
 #include <QTemporaryDir>
 
@@ -67,20 +68,6 @@ TEST(TerminalSettingsTest, TakesValuesThatMakeNoSenseAsDefaults) {
     EXPECT_EQ(settings.scheme(), ColourScheme::Light);
     EXPECT_EQ(settings.SYS_eGetPopupWndPosition(), 1);
     EXPECT_TRUE(settings.frameGeometry().isEmpty());
-}
-
-// What a scheme draws must be readable: the contrast of text and ground after the usual luminance formula.
-double contrast(const QColor& text, const QColor& ground) {
-    const auto luminance = [](const QColor& colour) {
-        const auto linear = [](double part) {
-            return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-               0.0722 * linear(colour.blueF());
-    };
-    const double a = luminance(text);
-    const double b = luminance(ground);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
 TEST(ColourSchemeTest, TextIsReadableOnEveryGround) {
