@@ -269,14 +269,14 @@ TEST_F(StoryDisplayTest, AnswersReachTheDisplayThatIsToBeSeen) {
 
 TEST_F(StoryDisplayTest, AnUpdateIsToldWhereTheStoryIs) {
     givePane();
-    const CHeadlineTable entry = view.entryAt(ListIndex::All, 1);
+    const CHeadlineTable entry = view.entryAt(ListIndex::All, 0);
     CHeadlineTable unlisted = entry;
     unlisted.sequence = 99;
     const auto isTold = [](const QWidget& display) {
         return !display.findChild<CQuoteStaticEx*>()->isHidden();
     };
     story.setShowType(atRight);
-    focus(1);
+    focus(0);
     story.show();
     story.takeUpdate(unlisted);
     EXPECT_FALSE(isTold(pane()));
