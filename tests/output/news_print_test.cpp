@@ -401,9 +401,10 @@ TEST_F(NewsPrintTest, EveryFrameIsDrawnInsideItsRectangle) {
     writer.setResolution(pdfDotsPerInch);
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
                                      QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter));
-    const PageFrames frames = PageMaking(writer, backEnd, items).allPages()[0].frames;
+    const PrintedPage expected = PageMaking(writer, backEnd, items).allPages()[0];
+    const PageFrames& frames = expected.frames;
+    const auto onPage = [](int place) { return place * dotsPerInch / pdfDotsPerInch + marginDots; };
     for (const QRect& frame : {frames.outer, frames.inner, frames.title, frames.body, frames.footer}) {
-        const auto onPage = [](int place) { return place * dotsPerInch / pdfDotsPerInch + marginDots; };
         const int left = onPage(frame.left());
         const int right = onPage(frame.left() + frame.width());
         const int top = onPage(frame.top());
@@ -423,6 +424,15 @@ TEST_F(NewsPrintTest, EveryFrameIsDrawnInsideItsRectangle) {
         EXPECT_TRUE(lies([&](int in) { return isDark(x, top + in); }));
         EXPECT_TRUE(lies([&](int in) { return isDark(x, bottom - in); }));
     }
+    // A text stands below the top of its line.
+    const PlacedText& title = expected.title[0];
+    const int top = onPage(title.topLeft.y());
+    bool isThere = false;
+    for (int row = top; row < top + title.pixelSize * dotsPerInch / pdfDotsPerInch; ++row) {
+        for (int column = onPage(title.topLeft.x()); column < page.width() / 2; ++column)
+            isThere = isThere || qGray(page.pixel(column, row)) < 100;
+    }
+    EXPECT_TRUE(isThere);
 }
 
 }  // namespace wirepane
