@@ -12,6 +12,7 @@ namespace wirepane::sample {
 namespace {
 
 constexpr int quietSeconds = 600;
+constexpr std::int64_t followedSeconds = 10;
 constexpr std::uint32_t firstFillerOrdinal = 10'000'000;
 
 bool earlier(const PlannedItem& a, const PlannedItem& b) {
@@ -98,6 +99,34 @@ std::vector<PlannedItem> DayPlan::dayUntil(std::int64_t now) const {
         });
         if (quiet && isOrdinaryWire(ids[service]))
             addFillers(items, service, now);
+    }
+    std::sort(items.begin(), items.end(), earlier);
+    return items;
+}
+
+std::vector<PlannedItem> DayPlan::followedDay(Day followed) const {
+    std::vector<PlannedItem> items = day(followed);
+    std::vector<std::uint16_t> ordinary;
+    for (std::size_t service = 0; service < ids.size(); ++service) {
+        if (isOrdinaryWire(ids[service]))
+            ordinary.push_back(static_cast<std::uint16_t>(service));
+    }
+    if (ordinary.empty())
+        return items;
+    std::vector<bool> busy(daySeconds / followedSeconds);
+    for (const PlannedItem& item : items) {
+        if (isOrdinaryWire(ids[item.service]))
+            busy[static_cast<std::size_t>((item.time - followed.startUtc()) / followedSeconds)] = true;
+    }
+    for (std::size_t slot = 0; slot < busy.size(); ++slot) {
+        if (busy[slot])
+            continue;
+        Random random(hashOf(planSeed, static_cast<std::uint64_t>(followed.number), slot));
+        const std::int64_t second = static_cast<std::int64_t>(slot) * followedSeconds +
+                                    random.between(0, static_cast<int>(followedSeconds) - 1);
+        const int service = random.between(0, static_cast<int>(ordinary.size()) - 1);
+        items.push_back({followed.startUtc() + second, ordinary[static_cast<std::size_t>(service)],
+                         firstFillerOrdinal + static_cast<std::uint32_t>(second), true});
     }
     std::sort(items.begin(), items.end(), earlier);
     return items;

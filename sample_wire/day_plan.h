@@ -44,6 +44,9 @@ public:
     // The items of the day of the present moment up to then. An ordinary wire that sent nothing in the last
     // minutes sends a few fillers.
     std::vector<PlannedItem> dayUntil(std::int64_t now) const;
+    // The items of a day that is followed as it goes by: those of day(), and a filler of an ordinary wire in
+    // every ten seconds in which none sends anything.
+    std::vector<PlannedItem> followedDay(Day day) const;
 
 private:
     int countOf(std::size_t service, Day day) const;

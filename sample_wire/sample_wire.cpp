@@ -12,6 +12,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <limits>
 
 namespace wirepane {
 
@@ -61,9 +62,13 @@ public:
     bool handSymbols(const Taker& take) const;
     bool handQuotes(const Taker& take) const;
     bool handNews(const Taker& take) const;
+    void follow(std::int64_t moment, const Taker& take) const;
+    bool tick(std::int64_t moment, const Taker& take) const;
 
 private:
-    bool handDay(Day day, const std::vector<PlannedItem>& items, const Taker& take) const;
+    // Nothing from before `from` is handed over.
+    bool handDay(Day day, const std::vector<PlannedItem>& items, const Taker& take,
+                 std::int64_t from = std::numeric_limits<std::int64_t>::min()) const;
     NewsItem itemOf(const PlannedItem& planned, const Assignment& assignment) const;
     std::vector<CSymbolInfo> relatedOf(const Scene& scene) const;
     QString identityOf(unsigned char service, const Assignment& assignment) const;
@@ -125,12 +130,39 @@ bool SampleWire::Desk::handNews(const Taker& take) const {
     return handDay(today, plan.dayUntil(options.now), take);
 }
 
-bool SampleWire::Desk::handDay(Day day, const std::vector<PlannedItem>& items, const Taker& take) const {
+void SampleWire::Desk::follow(std::int64_t moment, const Taker& take) const {
+    Day day = LocalTime::fromUtc(moment).day;
+    while (handDay(day, plan.followedDay(day), take, moment))
+        ++day.number;
+}
+
+bool SampleWire::Desk::tick(std::int64_t moment, const Taker& take) const {
+    constexpr int symbols = 12;
+    const LocalTime at = LocalTime::fromUtc(moment);
+    Random random(hashOf(options.seed, static_cast<std::uint64_t>(moment)));
+    for (int i = 0; i < symbols; ++i) {
+        const unsigned char market = i % 4 == 0 ? hongKongService : stockExchangeService;
+        const auto& traded = companies.companies(market);
+        const Company& company =
+            traded[static_cast<std::size_t>(random.between(0, static_cast<int>(traded.size()) - 1))];
+        const Quote quote = markets.share(company, at);
+        const std::int64_t step = std::max<std::int64_t>(quote.now / 500, 1);
+        const std::int64_t now = std::max(step, quote.now + step * random.between(-3, 3));
+        if (!take(QuoteItem{market, company.code, static_cast<double>(now) / 100,
+                            static_cast<double>(now - quote.previous) / 100, markets.volume(company, at)}))
+            return false;
+    }
+    return true;
+}
+
+bool SampleWire::Desk::handDay(Day day, const std::vector<PlannedItem>& items, const Taker& take,
+                               std::int64_t from) const {
     std::vector<NewsDesk> desks;
     for (unsigned char service : plan.services())
         desks.emplace_back(service, day, planSeed, options.correctionPermille);
     return std::all_of(items.begin(), items.end(), [&](const PlannedItem& item) {
-        return take(itemOf(item, desks[item.service].next(item)));
+        const Assignment assignment = desks[item.service].next(item);
+        return item.time < from || take(itemOf(item, assignment));
     });
 }
 
@@ -194,6 +226,14 @@ SampleWire::~SampleWire() = default;
 bool SampleWire::run(const Taker& take) const {
     return desk->handCategories(take) && desk->handSymbols(take) && desk->handQuotes(take) &&
            desk->handNews(take);
+}
+
+void SampleWire::follow(std::int64_t moment, const Taker& take) const {
+    desk->follow(moment, take);
+}
+
+bool SampleWire::tick(std::int64_t moment, const Taker& take) const {
+    return desk->tick(moment, take);
 }
 
 }  // namespace wirepane

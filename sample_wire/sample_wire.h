@@ -41,6 +41,12 @@ public:
     // later than the present moment. True: all were taken. May be called again, and starts from the beginning
     // then.
     bool run(const Taker& take) const;
+    // Hands over the news from a moment on, day after day without end, until no more is wanted. Between the
+    // items of the plan, ordinary wires send something every ten seconds.
+    void follow(std::int64_t moment, const Taker& take) const;
+    // Hands over the quotes of a few symbols, others at each moment, as trading moves them. False: no more
+    // are wanted.
+    bool tick(std::int64_t moment, const Taker& take) const;
 
 private:
     class Desk;

@@ -6,9 +6,15 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QJsonDocument>
+#include <QJsonObject>
 
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <limits>
+#include <optional>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace wirepane;
@@ -38,6 +44,9 @@ public:
             {u"per-day"_s, u"Headlines on a working day. Default: %1."_s.arg(defaults.headlinesPerDay),
              u"number"_s, QString::number(defaults.headlinesPerDay)},
             {u"now"_s, u"What is taken as the present moment, such as 2026-03-02T09:30:00."_s, u"moment"_s},
+            {u"follow"_s,
+             u"Greets as a feed does, goes on behind the position that it is answered on standard input, at "
+             "most as many days back, and then as the clock runs, until nobody listens."_s},
         });
         parser.addHelpOption();
         parser.addVersionOption();
@@ -62,6 +71,8 @@ public:
         return options;
     }
 
+    bool isFollowing() const { return parser.isSet(u"follow"_s); }
+
     QStringList faults;
 
 private:
@@ -74,6 +85,66 @@ private:
     }
 
     QCommandLineParser parser;
+};
+
+bool write(const QByteArray& line) {
+    return std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stdout) ==
+           static_cast<std::size_t>(line.size());
+}
+
+// A line that was written to standard input; nothing at its end.
+std::optional<QByteArray> readLine() {
+    QByteArray line;
+    for (int c = std::fgetc(stdin); c != EOF; c = std::fgetc(stdin)) {
+        if (c == '\n')
+            return line;
+        line += static_cast<char>(c);
+    }
+    return std::nullopt;
+}
+
+// The wire as it goes by. Its positions are the times of the news.
+class Following {
+public:
+    explicit Following(const SampleOptions& wireOptions)
+        : options(wireOptions), ahead(options.now - QDateTime::currentSecsSinceEpoch()) {}
+
+    void run(const SampleWire& wire) {
+        constexpr std::int64_t daySeconds = 86'400;
+        if (!write(helloLine({u"sample-wire-%1"_s.arg(options.seed), 1})) || std::fflush(stdout) != 0)
+            return;
+        const QJsonObject answer = QJsonDocument::fromJson(readLine().value_or(QByteArray())).object();
+        const std::int64_t kept = answer[u"position"_s].toString().toLongLong();
+        // Whoever listens says no more, but when he goes, this ends.
+        std::thread([] {
+            while (readLine()) {
+            }
+            std::_Exit(statusDone);
+        }).detach();
+        const std::int64_t earliest = options.now - (options.days - 1) * daySeconds;
+        wire.follow(kept > 0 ? std::max(kept, earliest) : options.now, [&](StoreItem&& item) {
+            const std::int64_t time = std::get<NewsItem>(item).time;
+            return waitFor(time, wire) && write(feedLine(item, QString::number(time)));
+        });
+    }
+
+private:
+    std::int64_t now() const { return QDateTime::currentSecsSinceEpoch() + ahead; }
+
+    // Trading goes on meanwhile.
+    bool waitFor(std::int64_t time, const SampleWire& wire) {
+        while (now() < time) {
+            const bool written =
+                wire.tick(now(), [](const StoreItem& quote) { return write(feedLine(quote)); });
+            if (!written || std::fflush(stdout) != 0)
+                return false;
+            std::this_thread::sleep_for(std::chrono::seconds(1));
+        }
+        return true;
+    }
+
+    SampleOptions options;
+    std::int64_t ahead;  // of the machine's clock
 };
 
 }  // namespace
@@ -90,11 +161,12 @@ int main(int argc, char** argv) {
         say(fault);
     if (!faults.isEmpty())
         return statusUnusable;
-    const bool whole = SampleWire(data, options).run([](const StoreItem& item) {
-        const QByteArray line = feedLine(item);
-        return std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stdout) ==
-               static_cast<std::size_t>(line.size());
-    });
+    const SampleWire wire(data, options);
+    if (arguments.isFollowing()) {
+        Following(options).run(wire);
+        return statusCut;
+    }
+    const bool whole = wire.run([](const StoreItem& item) { return write(feedLine(item)); });
     if (whole && std::fflush(stdout) == 0)
         return statusDone;
     say(u"the news could not be written"_s);

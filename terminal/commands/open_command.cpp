@@ -40,6 +40,7 @@ struct OpenOptions {
     bool automation = false;              // on standard input and output
     bool sample = false;
     bool noSample = false;
+    bool followsSample = false;
     bool tour = false;
     bool workspace = false;  // a script works on the user's views
 
@@ -119,6 +120,9 @@ OpenOptions openOptions(CommandArguments& arguments) {
     options.sample = parser.isSet(u"sample"_s);
     options.noSample = parser.isSet(u"no-sample"_s);
     options.sources = sourcesFrom(arguments);
+    // Who names a source of news has no need of an invented one.
+    options.followsSample =
+        options.sources.empty() && !options.noSample && !options.isScripted() && !options.tour;
     if (!parser.isSet(u"feed"_s) && !options.isScripted() && !options.tour)
         options.sources.push_back({u"feed"_s, defaultFeedName});
     if (isExplaining && (options.isScripted() || options.tour))
@@ -178,7 +182,7 @@ int runForScripts(Session& session, const OpenOptions& options, StandardChannel*
 int runOpened(const OpenOptions& options, StandardChannel* channel) {
     const bool sample = options.sample || (!options.isScripted() && !options.noSample);
     const auto session = Session::open({options.storeFile, options.configFolder, options.language, sample,
-                                        options.sources, !options.isScripted()});
+                                        options.sources, !options.isScripted(), options.followsSample});
     if (!session) {
         printNote(sentence(session.error()));
         return exitUnusable;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/sample_process.h"
 
+#include "backend/feed/program_source.h"
 #include "terminal/session/session_errors.h"
 
 #include <QCoreApplication>
@@ -21,14 +22,21 @@ QString momentOf(std::int64_t seconds) {
     return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate);
 }
 
+QString programFile() {
+    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(WIREPANE_SAMPLE_WIRE_FILE));
+}
+
+QStringList argumentsOf(const SampleOptions& options) {
+    return {u"--seed"_s,    QString::number(options.seed),
+            u"--days"_s,    QString::number(options.days),
+            u"--per-day"_s, QString::number(options.headlinesPerDay),
+            u"--now"_s,     momentOf(options.now)};
+}
+
 }  // namespace
 
 SampleProcess::SampleProcess(const SampleOptions& options) {
-    const QDir programFolder(QCoreApplication::applicationDirPath());
-    process.start(
-        programFolder.filePath(QStringLiteral(WIREPANE_SAMPLE_WIRE_FILE)),
-        {u"--seed"_s, QString::number(options.seed), u"--days"_s, QString::number(options.days),
-         u"--per-day"_s, QString::number(options.headlinesPerDay), u"--now"_s, momentOf(options.now)});
+    process.start(programFile(), argumentsOf(options));
     process.closeWriteChannel();
     process.waitForStarted(noLimit);
 }
@@ -56,6 +64,11 @@ Done SampleProcess::end() {
     const QString words = QString::fromLocal8Bit(process.readAllStandardError()).trimmed();
     return words.isEmpty() ? makeError<session_errors::sampleBrokeOffSilently>()
                            : makeError<session_errors::sampleBrokeOff>(words);
+}
+
+std::shared_ptr<FeedSource> followedSample(const SampleOptions& options) {
+    return std::make_shared<ProgramSource>(u"wirepane-sample-wire"_s, programFile(),
+                                           argumentsOf(options) + QStringList{u"--follow"_s});
 }
 
 }  // namespace wirepane

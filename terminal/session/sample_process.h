@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/feed/feed_source.h"
 #include "backend/result.h"
 #include "sample_wire/sample_options.h"
 
 #include <QByteArray>
 #include <QProcess>
 
+#include <memory>
 #include <optional>
 
 namespace wirepane {
@@ -30,5 +32,9 @@ public:
 private:
     QProcess process;
 };
+
+// The same wire as a live source: goes on behind what the store has of it, at most options.days back, and
+// then as the clock runs.
+std::shared_ptr<FeedSource> followedSample(const SampleOptions& options);
 
 }  // namespace wirepane

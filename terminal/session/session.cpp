@@ -4,11 +4,13 @@
 
 #include "backend/feed/feed_name.h"
 #include "backend/feed/source_kinds.h"
+#include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/session/indexing_window.h"
 #include "terminal/session/module_location.h"
+#include "terminal/session/sample_process.h"
 #include "terminal/session/session_errors.h"
 #include "terminal/session/store_opening.h"
 #include "terminal/settings/module_files.h"
@@ -31,6 +33,7 @@ namespace {
 
 constexpr int sameMomentSeconds = 60;  // a clock that is no further off counts as the machine's
 constexpr std::chrono::seconds clockPeriod{1};
+constexpr int daysFollowed = 2;  // of the sample wire, after an absence
 
 QString asOfText() {
     const std::int64_t now = host_clock::now();
@@ -237,7 +240,26 @@ Done Session::startFeed(const SessionOptions& options) {
         else if (!opened)
             return opened;
     }
+    if (options.followsSample)
+        followSample();
     return Nothing{};
+}
+
+// Invented and real news never mix by themselves.
+void Session::followSample() {
+    const auto reading = openStoreToRead(storeFile);
+    std::int64_t isSample = 0;
+    if (!reading || store->isReadOnly() ||
+        !reading.value()->readNumber("SELECT EXISTS(SELECT 1 FROM headlines) AND NOT EXISTS("
+                                     "SELECT 1 FROM headlines WHERE identity NOT LIKE 'sample:%')",
+                                     isSample) ||
+        isSample == 0)
+        return;
+    SampleOptions sample;
+    sample.now = host_clock::now();
+    sample.days = daysFollowed;
+    liveFeed->addSource(followedSample(sample));
+    isSampleFollowed = true;
 }
 
 void Session::prepareModuleFiles() {
@@ -330,8 +352,11 @@ void Session::showStatus() {
     std::erase(services, warrantService);
     const FeedState feedState = liveFeed->state();
     shownAsOf = asOfText();
-    mainFrame->showStatus({feedText(feedState), feedTip(*liveFeed), feedState.kind == FeedState::Live,
-                           storeFile, static_cast<int>(services.size()), shownAsOf});
+    // The green light is for real news.
+    const bool isInvented = isSampleFollowed && feedState.kind == FeedState::Live;
+    mainFrame->showStatus({isInvented ? terminalText(TextId::FeedSample) : feedText(feedState),
+                           feedTip(*liveFeed), feedState.kind == FeedState::Live && !isInvented, storeFile,
+                           static_cast<int>(services.size()), shownAsOf});
 }
 
 void Session::showViews() {

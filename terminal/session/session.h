@@ -42,6 +42,8 @@ struct SessionOptions {
     std::vector<SourceRequest> sources = {};
     // A user waits: what takes long before the windows open is told in one of its own.
     bool tellsProgress = false;
+    // Where the store holds the sample wire and nothing else, that goes on as a live source.
+    bool followsSample = false;
 };
 
 // One running terminal: the store behind its back end, the settings, the news module and the main frame with
@@ -107,6 +109,7 @@ private:
     Done openStore(const SessionOptions& options, const QString& language);
     void connectParts();
     Done startFeed(const SessionOptions& options);
+    void followSample();
     void tellDatedAhead(unsigned char service, std::int64_t time);
     void prepareModuleFiles();
     void writeCategories();
@@ -123,6 +126,7 @@ private:
     std::unique_ptr<EmbeddedBackEnd> store;
     std::unique_ptr<BackgroundPainter> painter;
     std::unique_ptr<LiveFeed> liveFeed;
+    bool isSampleFollowed = false;
     QString feedNotice;  // why feeds do not find this terminal under the common name
     std::unique_ptr<CategoryDisplay> categoryDisplay;
     std::unique_ptr<MainFrame> mainFrame;

@@ -32,6 +32,7 @@ enum class TextId {
     FeedReconnecting,
     FeedOnlyRead,
     FeedLate,
+    FeedSample,
     SourceConnecting,
     SourceStale,
     SourceFailed,

@@ -111,6 +111,10 @@
         <source></source>
         <translation>and more: %1 items were rejected.</translation>
     </message>
+    <message id="ERROR_FEED_PROGRAM_ENDED">
+        <source></source>
+        <translation>%1 has ended: %2</translation>
+    </message>
     <message id="ERROR_FEED_REJECTED_AT">
         <source></source>
         <translation>%1: %2</translation>
@@ -1606,6 +1610,10 @@
     <message id="TERMINAL_FEED_RECONNECTING">
         <source></source>
         <translation>Reconnecting…</translation>
+    </message>
+    <message id="TERMINAL_FEED_SAMPLE">
+        <source></source>
+        <translation>Sample wire: invented news – import your own with Ctrl+O</translation>
     </message>
     <message id="TERMINAL_FLOAT_BUTTON">
         <source></source>

@@ -111,6 +111,10 @@
         <source></source>
         <translation>以及更多：共有 %1 个项目被拒绝。</translation>
     </message>
+    <message id="ERROR_FEED_PROGRAM_ENDED">
+        <source></source>
+        <translation>%1 已结束：%2</translation>
+    </message>
     <message id="ERROR_FEED_REJECTED_AT">
         <source></source>
         <translation>%1：%2</translation>
@@ -1606,6 +1610,10 @@
     <message id="TERMINAL_FEED_RECONNECTING">
         <source></source>
         <translation>重新连接中…</translation>
+    </message>
+    <message id="TERMINAL_FEED_SAMPLE">
+        <source></source>
+        <translation>示例新闻（内容均为虚构）– 按 Ctrl+O 导入您的新闻</translation>
     </message>
     <message id="TERMINAL_FLOAT_BUTTON">
         <source></source>

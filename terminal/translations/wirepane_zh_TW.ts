@@ -111,6 +111,10 @@
         <source></source>
         <translation>以及更多：共有 %1 個項目被拒絕。</translation>
     </message>
+    <message id="ERROR_FEED_PROGRAM_ENDED">
+        <source></source>
+        <translation>%1 已結束：%2</translation>
+    </message>
     <message id="ERROR_FEED_REJECTED_AT">
         <source></source>
         <translation>%1：%2</translation>
@@ -1606,6 +1610,10 @@
     <message id="TERMINAL_FEED_RECONNECTING">
         <source></source>
         <translation>重新連線中…</translation>
+    </message>
+    <message id="TERMINAL_FEED_SAMPLE">
+        <source></source>
+        <translation>示範新聞（內容均為虛構）– 按 Ctrl+O 匯入您的新聞</translation>
     </message>
     <message id="TERMINAL_FLOAT_BUTTON">
         <source></source>

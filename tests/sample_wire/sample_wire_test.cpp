@@ -182,5 +182,41 @@ TEST(SampleWire, StopsWhenNoMoreIsWanted) {
     EXPECT_EQ(taken, 2'000);
 }
 
+// At any hour, weekends and midnight included.
+TEST(SampleWire, FollowedItSendsSomethingEveryTwentySecondsAndTheSameToEverybody) {
+    SampleOptions options = threeDays();
+    const SampleWire wire(sampleData(), options);
+    const auto newsFrom = [&wire](std::int64_t from, std::int64_t until) {
+        std::vector<NewsItem> news;
+        wire.follow(from, [&](StoreItem&& item) {
+            news.push_back(std::move(std::get<NewsItem>(item)));
+            return news.back().time < until;
+        });
+        return news;
+    };
+    constexpr std::int64_t days = 4 * 24 * hour;  // from Wednesday to Sunday
+    const std::vector<NewsItem> all = newsFrom(afternoon, afternoon + days);
+    std::int64_t before = afternoon;
+    std::set<std::pair<QString, int>> versions;
+    for (const NewsItem& item : all) {
+        EXPECT_GE(item.time, before);
+        EXPECT_LE(item.time - before, 20) << item.time;
+        before = item.time;
+        EXPECT_TRUE(versions.emplace(item.identity, item.version).second) << lineOf(item).toStdString();
+    }
+    // Who comes later gets what the others got, and what the wire has sent of the day is in it.
+    const std::vector<NewsItem> later = newsFrom(afternoon + days / 2, afternoon + days);
+    ASSERT_GT(later.size(), 1000U);
+    EXPECT_TRUE(std::equal(later.rbegin(), later.rend(), all.rbegin(),
+                           [](const NewsItem& a, const NewsItem& b) { return lineOf(a) == lineOf(b); }));
+    options.now = afternoon + 24 * hour;
+    for (const NewsItem& item : collect(options).news) {
+        const bool isFiller = item.identity.section(u':', -1).size() > 6;
+        if (item.time >= afternoon && !isFiller) {
+            EXPECT_TRUE(versions.contains({item.identity, item.version})) << lineOf(item).toStdString();
+        }
+    }
+}
+
 }  // namespace
 }  // namespace wirepane

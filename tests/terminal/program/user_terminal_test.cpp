@@ -35,9 +35,14 @@ protected:
     static std::int64_t moment(const QString& text) {
         return QDateTime::fromString(text, Qt::ISODate).toSecsSinceEpoch();
     }
-    std::unique_ptr<Session> open() {
-        auto session =
-            Session::open({scratch.path(u"news.wirepane"_s), scratch.path(u"config"_s), u"en"_s, true});
+    std::unique_ptr<Session> open(bool followsSample = false) {
+        auto session = Session::open({scratch.path(u"news.wirepane"_s),
+                                      scratch.path(u"config"_s),
+                                      u"en"_s,
+                                      true,
+                                      {},
+                                      false,
+                                      followsSample});
         EXPECT_TRUE(session) << (session ? "" : sentence(session.error()).toStdString());
         if (!session)
             return nullptr;
@@ -160,6 +165,36 @@ TEST_F(UserTerminalTest, ReadingAsOfAMomentEndsThereAndGoesOnAsTheClockRuns) {
     ASSERT_TRUE(session->backEnd().takeIn(live));
     EXPECT_TRUE(session->frame().notices().contains(u"is dated ahead"_s))
         << session->frame().notices().toStdString();
+}
+
+TEST_F(UserTerminalTest, TheSampleWireGoesOnUntilTheStoreHoldsOtherNews) {
+    const auto statusSaysInvented = [](Session& session) {
+        const auto labels = session.frame().statusBar()->findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [](const QLabel* label) { return label->text().contains(u"invented news"_s); });
+    };
+    const auto sampleState = [](Session& session) {
+        for (const SourceReport& source : session.feed().sources()) {
+            if (source.name == u"wirepane-sample-wire"_s)
+                return static_cast<int>(source.state.kind);
+        }
+        return -1;
+    };
+    {
+        const auto session = open(true);
+        ASSERT_NE(session, nullptr);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return sampleState(*session) == SourceState::Live; }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return statusSaysInvented(*session); }));
+        NewsItem real;
+        real.identity = u"real"_s;
+        real.title = u"Real"_s;
+        real.time = host_clock::now();
+        ASSERT_TRUE(session->backEnd().takeIn(real));
+    }
+    const auto session = open(true);
+    ASSERT_NE(session, nullptr);
+    EXPECT_EQ(sampleState(*session), -1);
+    EXPECT_FALSE(statusSaysInvented(*session));
 }
 
 TEST_F(UserTerminalTest, ADamagedSettingsFileDoesNotKeepTheTerminalShut) {
