@@ -111,7 +111,7 @@ public:
 
     void run(const SampleWire& wire) {
         constexpr std::int64_t daySeconds = 86'400;
-        if (!write(helloLine({u"sample-wire-%1"_s.arg(options.seed), 1})) || std::fflush(stdout) != 0)
+        if (!write(handshakeLine({u"sample-wire-%1"_s.arg(options.seed), 1})) || std::fflush(stdout) != 0)
             return;
         const QJsonObject answer = QJsonDocument::fromJson(readLine().value_or(QByteArray())).object();
         const std::int64_t kept = answer[u"position"_s].toString().toLongLong();
