@@ -92,26 +92,6 @@ TEST(SampleWire, KeepsTheRhythmOfADeskAndRestsAtWeekends) {
     EXPECT_LT(byKindOfDay[true] / 2, byKindOfDay[false] / 8 / 3);
 }
 
-TEST(SampleWire, EveryItemSentAgainHasAHigherVersionAndAnotherTitle) {
-    std::map<QString, const NewsItem*> seen;
-    int corrections = 0;
-    const CollectedWire wire = collect(threeDays());
-    for (const NewsItem& item : wire.news) {
-        const NewsItem*& before = seen[item.identity];
-        if (before) {
-            ++corrections;
-            EXPECT_GT(item.version, before->version);
-            EXPECT_GE(item.time, before->time);
-            EXPECT_NE(item.title, before->title);
-            EXPECT_EQ(item.service, before->service);
-        } else {
-            EXPECT_EQ(item.version, 0) << item.title.toStdString();
-        }
-        before = &item;
-    }
-    EXPECT_GT(corrections, static_cast<int>(wire.news.size()) / 100);
-}
-
 TEST(SampleWire, RelatedSymbolsAreInTheSymbolTable) {
     const CollectedWire wire = collect(threeDays());
     std::set<std::pair<int, QString>> table;

@@ -94,19 +94,6 @@ protected:
     Scratch scratch;
 };
 
-TEST_F(WorkspaceTest, AUserFindsThreeLinkedViewsAgain) {
-    {
-        ScriptClient script(arguments());
-        arrange(script);
-        expectArranged(script);
-        script.result(u"app.quit"_s);
-        EXPECT_EQ(script.endInput(), 0);
-    }
-    ScriptClient script(arguments());
-    expectArranged(script);
-    EXPECT_TRUE(settings().contains("dark"));
-}
-
 TEST_F(WorkspaceTest, AKilledTerminalHasKeptThem) {
     {
         ScriptClient script(arguments());
@@ -120,6 +107,7 @@ TEST_F(WorkspaceTest, AKilledTerminalHasKeptThem) {
     }
     ScriptClient script(arguments());
     expectArranged(script);
+    EXPECT_TRUE(settings().contains("dark"));
 }
 
 TEST_F(WorkspaceTest, SettingsWithoutSenseOpenWithTheirDefaults) {
