@@ -33,13 +33,7 @@ class Categories : public NewsViewTest {
 protected:
     void openAt(int mode, QMap<QString, QVariant> stored = {}) {
         stored.insert(u"FocusedTab"_s, mode);
-        open(stored);
-        frame.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
-        settle();
-    }
-    void settle() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
+        openActive(stored);
     }
     void publish(unsigned char service, std::int32_t sequence, int category) {
         const QString name = u"n%1"_s.arg(sequence);
@@ -69,11 +63,7 @@ protected:
             texts.append(combo().itemText(i));
         return texts;
     }
-    int tablesRead() {
-        const auto read = backEnd.asked.filter(u"table "_s).size();
-        backEnd.asked.clear();
-        return static_cast<int>(read);
-    }
+    int tablesRead() { return static_cast<int>(asked(u"table "_s).size()); }
 };
 
 }  // namespace

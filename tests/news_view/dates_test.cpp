@@ -31,22 +31,14 @@ protected:
         backEnd.add(1, localTime(2026, 3, 3, 8, 0), 1, u"tomorrow"_s, 1);
     }
 
-    void openActive(const QMap<QString, QVariant>& stored = {}) {
-        open(stored);
-        frame.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+    void openWithPicker(const QMap<QString, QVariant>& stored = {}) {
+        openActive(stored);
         picker = qobject_cast<SDateTimeCtrl*>(dlgItem(view.get(), ids::datePicker));
         ASSERT_NE(picker, nullptr);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
-        backEnd.asked.clear();
     }
 
     // What was read, the refresh of rows on screen left out.
-    QStringList tablesRead() {
-        const QStringList read = backEnd.asked.filter(u"table "_s);
-        backEnd.asked.clear();
-        return read;
-    }
+    QStringList tablesRead() { return asked(u"table "_s); }
 
     void beginDay(unsigned char service, int date) {
         const CMarketStatus status{service, date};
@@ -59,7 +51,7 @@ protected:
 }  // namespace
 
 TEST_F(Dates, TheUserPagesWithinTheRange) {
-    openActive();
+    openWithPicker();
     struct Case {
         const char* what;
         QDate wanted;
@@ -90,7 +82,7 @@ TEST_F(Dates, TheUserPagesWithinTheRange) {
 }
 
 TEST_F(Dates, OnlyTheDateInForceWhenTheCalendarClosesCounts) {
-    openActive();
+    openWithPicker();
     view->OnDateTimeDropDown();
     picker->setDate({2026, 3, 1});
     picker->setDate({2026, 2, 20});
@@ -102,7 +94,7 @@ TEST_F(Dates, OnlyTheDateInForceWhenTheCalendarClosesCounts) {
 }
 
 TEST_F(Dates, PushesReachThePickedDayOnlyWhileItIsTheNewsDay) {
-    openActive();
+    openWithPicker();
     EXPECT_TRUE(view->bChangeDate({2026, 3, 1}));
     push(1, 9, 20, 5);
     EXPECT_EQ(titles(0), QStringList{u"yesterday"_s});
@@ -112,7 +104,7 @@ TEST_F(Dates, PushesReachThePickedDayOnlyWhileItIsTheNewsDay) {
 }
 
 TEST_F(Dates, TheViewFollowsANewDayOfATickedService) {
-    openActive();
+    openWithPicker();
     backEnd.currentDates[1] = u"20260303"_s;
     view->bChangeDate({2026, 3, 1});
     beginDay(1, 20260303);
@@ -129,7 +121,7 @@ TEST_F(Dates, TheViewFollowsANewDayOfATickedService) {
 }
 
 TEST_F(Dates, ANewDayDuringTheWarrantModeFollowsTheUsersChoice) {
-    openActive();
+    openWithPicker();
     view->SwitchFunction(5);
     backEnd.currentDates[1] = u"20260303"_s;
     beginDay(52, 20260303);
@@ -143,7 +135,7 @@ TEST_F(Dates, ANewDayDuringTheWarrantModeFollowsTheUsersChoice) {
 TEST_F(Dates, GoingToARowShowsItsStory) {
     const CHeadlineTable first{localTime(2026, 3, 2, 9, 0), 1, 1, 0, 0};
     backEnd.addStory({first.time, u"the story"_s, first});
-    openActive();
+    openWithPicker();
     auto* pane = qobject_cast<NewsStoryView*>(dlgItem(view.get(), ids::firstChildView + ids::storyPane));
     ASSERT_NE(pane, nullptr);
     view->SwitchFunction(3);

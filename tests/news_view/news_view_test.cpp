@@ -182,7 +182,7 @@ TEST_F(NewsViewTest, SurvivesABackEndWithoutServices) {
 TEST_F(NewsViewTest, ChangesWithin100MsAreOneRefresh) {
     addNews(1, 9, 0, 1);
     open();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
+    settle();
     backEnd.asked.clear();
     for (int i = 0; i < 5; ++i)
         view->vUpdateView();

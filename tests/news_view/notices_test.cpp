@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -51,12 +50,7 @@ protected:
     void openMode(const QByteArray& switches, int mode, QMap<QString, QVariant> stored = {}) {
         writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\n" + switches);
         stored[u"Sheet0ServiceCheck1"_s] = true;
-        open(stored);
-        frame.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
-        view->SwitchFunction(mode);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
-        backEnd.asked.clear();
+        openActive(stored, mode);
     }
     // The relation list with the ticked key set GOLD, of service 1.
     void openRelation(QMap<QString, QVariant> stored = {}, const QString& word = u"GOLD"_s) {
@@ -69,17 +63,10 @@ protected:
             press(dialog, search_ids::ok);
         });
     }
-    void quickSearch(const QString& text) {
-        auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
-        edit->setText(text);
-        QTest::keyClick(edit, Qt::Key_Return);
-    }
     void link(const QString& code) { view->ChangeSymbol(view.get(), 0, 16, code, {}); }
     // What was searched for in the only ticked service, without what is the same each time.
     QStringList sent() {
-        QStringList searches = backEnd.asked.filter(u"search 1 3 0/1 "_s);
-        backEnd.asked.clear();
-        return searches.replaceInStrings(u"search 1 3 0/1 "_s, QString());
+        return asked(u"search 1 3 0/1 "_s).replaceInStrings(u"search 1 3 0/1 "_s, QString());
     }
     // As it stands there, which is also what scripts read.
     QString notice() const {

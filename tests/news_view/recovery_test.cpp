@@ -21,18 +21,10 @@ protected:
         backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_INVALID_DATE1"_s] = u"no news that day"_s;
     }
 
-    void openActive(const QMap<QString, QVariant>& stored = {}) {
-        open(stored);
-        frame.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
-        backEnd.asked.clear();
-    }
-
     QStringList requests(int command) {
         backEnd.asked.clear();
         EXPECT_TRUE(view->onCommand(command));
-        return backEnd.asked.filter(u"again "_s);
+        return asked(u"again "_s);
     }
 
     using Answer = void (TRVNewsCtrlView::*)(const CHeadlineTableInfo*);
@@ -41,7 +33,7 @@ protected:
         backEnd.asked.clear();
         const CHeadlineTableInfo info{service, static_cast<signed char>(status), key};
         (view.get()->*callback)(&info);
-        return !backEnd.asked.filter(u"table "_s).isEmpty();
+        return !asked(u"table "_s).isEmpty();
     }
 };
 

@@ -10,9 +10,7 @@
 #include "story/story_ids.h"
 #include "tests/news_view/view_fixture.h"
 
-#include <QAbstractButton>
 #include <QLineEdit>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -51,9 +49,8 @@ protected:
 
     // Shows every list once, with headlines 3, 2 and 1.
     void openLists() {
-        open({{u"EnabledFunctions"_s, 0x7F}, {u"SymbolID"_s, u"2330"_s}, {u"Sheet0ServiceCheck1"_s, true}});
-        frame.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+        openActive(
+            {{u"EnabledFunctions"_s, 0x7F}, {u"SymbolID"_s, u"2330"_s}, {u"Sheet0ServiceCheck1"_s, true}});
         for (const int mode : {1, 2, 4})
             view->SwitchFunction(mode);
         tickKeySet(u"GOLD"_s);
@@ -70,9 +67,6 @@ protected:
             press(dialog, search_ids::saveKeySet);
             press(dialog, search_ids::ok);
         });
-    }
-    void settle() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
     }
     QStringList all(int) const { return {u"Gold 3"_s, u"Gold 2"_s, u"Gold up"_s}; }
     QString story() const {
@@ -133,10 +127,7 @@ TEST_F(ReplacedHeadlines, LeaveEveryListWithTheKeyThatTheyHad) {
     const std::int64_t nine = localTime(2026, 3, 2, 9, 0);
     backEnd.searchTables[1] = {{nine, 1, 1, 0, 0}, {localTime(2026, 3, 2, 9, 2) - 86400, 2, 1, 0, 0}};
     view->SwitchFunction(3);
-    auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
-    ASSERT_NE(edit, nullptr);
-    edit->setText(u"gold"_s);
-    QTest::keyClick(edit, Qt::Key_Return);
+    quickSearch(u"gold"_s);
     ASSERT_EQ(view->iGetHeadlineTableSize(3), 2);
     view->SwitchFunction(0);
     // It is yesterday's: the back end does not push it, it only says that the key is gone.

@@ -13,7 +13,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QRadioButton>
 #include <QTest>
 #include <QTextCursor>
 #include <QTimer>
@@ -52,19 +51,7 @@ protected:
     void openSearch(QMap<QString, QVariant> stored = {}, int mode = 3) {
         stored[u"Sheet0ServiceCheck1"_s] = true;
         stored[u"Sheet0ServiceCheck2"_s] = true;
-        open(stored);
-        frame.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
-        view->SwitchFunction(mode);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
-        backEnd.asked.clear();
-    }
-
-    void quickSearch(const QString& text) {
-        auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
-        ASSERT_NE(edit, nullptr);
-        edit->setText(text);
-        QTest::keyClick(edit, Qt::Key_Return);
+        openActive(stored, mode);
     }
 
     // The texts of the message boxes that `work` puts in front of the user, each of which is closed.
@@ -83,11 +70,7 @@ protected:
         work();
         return texts;
     }
-    QStringList sent() {
-        const QStringList searches = backEnd.asked.filter(u"search "_s);
-        backEnd.asked.clear();
-        return searches;
-    }
+    QStringList sent() { return asked(u"search "_s); }
     QList<int> pending() const {
         QList<int> result;
         for (const QVariant& service : state(u"services"_s).toList()) {
@@ -104,22 +87,13 @@ protected:
         auto* pane = dlgItem(view.get(), ids::firstChildView + ids::storyPane);
         return *static_cast<MyRichEdit*>(dlgItem(pane, story_ids::storyText));
     }
-    // Runs the dialog: `work` has it in front of the user and ends it.
-    void runDialog(const std::function<void(CAdvSearchDlg&)>& work) {
-        QTimer::singleShot(0, view.get(), [&] {
-            auto* dialog = qobject_cast<CAdvSearchDlg*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            work(*dialog);
-        });
-        view->onCommand(ids::dealsSearchButton);
+    void compose(const std::function<void(CAdvSearchDlg&)>& work) {
+        runDialog<CAdvSearchDlg>(ids::dealsSearchButton, work);
     }
     static void addKeyword(const CAdvSearchDlg& dialog, const QString& keyword) {
         auto* edit = qobject_cast<QLineEdit*>(dlgItem(&dialog, search_ids::keywordEdit));
         edit->setText(keyword);
         QTest::keyClick(edit, Qt::Key_Return);
-    }
-    static void press(const CAdvSearchDlg& dialog, int id) {
-        qobject_cast<QAbstractButton*>(dlgItem(&dialog, id))->click();
     }
 };
 
@@ -166,7 +140,7 @@ TEST_F(SearchesOfTheView, QuickSearchesThatCannotBeSentAreRefused) {
 TEST_F(SearchesOfTheView, WithoutAServiceTheLastSearchIsSentWhateverIsInTheBox) {
     backEnd.services.clear();
     openSearch();
-    runDialog([](CAdvSearchDlg& dialog) {
+    compose([](CAdvSearchDlg& dialog) {
         addKeyword(dialog, u"gold"_s);
         press(dialog, search_ids::ok);
     });
@@ -211,7 +185,7 @@ TEST_F(SearchesOfTheView, TwoKeywordsAreSentWithAMethodWhichIsKept) {
 TEST_F(SearchesOfTheView, TheWaitTipComesWithAnotherTextInTheBoxAndNamesTheSearchThatIsSent) {
     openSearch();
     const auto search = [this](const QString& keyword) {
-        runDialog([&](CAdvSearchDlg& dialog) {
+        compose([&](CAdvSearchDlg& dialog) {
             qobject_cast<QAbstractButton*>(dlgItem(&dialog, search_ids::methodAnd))->click();
             for (auto* keywords = qobject_cast<QListWidget*>(dlgItem(&dialog, search_ids::keywords));
                  keywords->count() > 0;) {
@@ -252,12 +226,12 @@ TEST_F(SearchesOfTheView, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
     openSearch();
     auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
     edit->setFocus();
-    runDialog([](CAdvSearchDlg& dialog) { press(dialog, search_ids::ok); });
+    compose([](CAdvSearchDlg& dialog) { press(dialog, search_ids::ok); });
     EXPECT_EQ(shortTip(), invalid) << "without keywords";
     EXPECT_EQ(sent(), QStringList());
     EXPECT_EQ(view->focusWidget(), edit);
     edit->setText(u"gold"_s);
-    runDialog([](CAdvSearchDlg& dialog) {
+    compose([](CAdvSearchDlg& dialog) {
         addKeyword(dialog, u"gold"_s);
         addKeyword(dialog, u"oil"_s);
         press(dialog, search_ids::scopeBoth);
@@ -269,7 +243,7 @@ TEST_F(SearchesOfTheView, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
     quickSearch(u"silver"_s);
     sent();
     EXPECT_EQ(pending(), (QList<int>{1, 2}));
-    runDialog([](CAdvSearchDlg& dialog) {
+    compose([](CAdvSearchDlg& dialog) {
         addKeyword(dialog, u"tin"_s);
         dialog.reject();
     });
@@ -285,7 +259,7 @@ TEST_F(SearchesOfTheView, TheDialogsSearchIsSentAtOkAndKeptAtCancel) {
 
     edit->clear();
     edit->setFocus();
-    runDialog([](CAdvSearchDlg& dialog) { press(dialog, search_ids::ok); });
+    compose([](CAdvSearchDlg& dialog) { press(dialog, search_ids::ok); });
     EXPECT_EQ(view->focusWidget(), view->pGetCurrSheetView()) << "to go through what is found";
 }
 
@@ -361,7 +335,7 @@ TEST_F(SearchesOfTheView, RowsOfWarningTermsStayWhileAPushIsSearchedForWhereTheS
     addNews(2, 9, 20, 2);
     backEnd.searchTables[2] = {};
     push(2, 9, 20, 2);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
+    settle();
     EXPECT_EQ(sent(), QStringList{u"search 2 3 0/1 gold"_s});
     EXPECT_EQ(titles(6), both);
     backEnd.searchTables[2] = {entryOf(2, 9, 20, 2), entryOf(2, 9, 10, 1)};

@@ -7,7 +7,6 @@
 #include "search/warn_term_dlg.h"
 #include "tests/news_view/view_fixture.h"
 
-#include <QAbstractButton>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
@@ -31,12 +30,7 @@ protected:
     void openWith(const QByteArray& switches, int mode, QMap<QString, QVariant> stored = {}) {
         writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\n" + switches);
         stored[u"Sheet0ServiceCheck1"_s] = true;
-        open(stored);
-        frame.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
-        view->SwitchFunction(mode);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
-        backEnd.asked.clear();
+        openActive(stored, mode);
     }
     static void saveKeySet(const QWidget& dialog, const QString& keyword) {
         auto* edit = qobject_cast<QLineEdit*>(dlgItem(&dialog, search_ids::keywordEdit));
@@ -55,11 +49,7 @@ protected:
         view->RecvNewHeadLine(&headline, u"1"_s, {});
     }
     QString hint(int list) const { return view->sheetOf(list)->accessibleDescription(); }
-    QStringList sent() {
-        const QStringList searches = backEnd.asked.filter(u"search "_s);
-        backEnd.asked.clear();
-        return searches;
-    }
+    QStringList sent() { return asked(u"search "_s); }
     QMap<QString, QVariant> saved() {
         view->SaveViewInfo(&settings, u"Layout"_s, 0, 0);
         return settings.values;
@@ -88,7 +78,7 @@ TEST_F(StandingSearchesOfTheView, OnlyWhatTickedKeySetsWantArrives) {
     pushTitle(u"Oil is kept but not ticked"_s, 12);
     pushTitle(u"Something else"_s, 13);
     pushTitle(u"Marigolds"_s, 14);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
+    settle();
     const QStringList arrived{u"Marigolds"_s, u"Rate cut"_s, u"Gold of the morning"_s};
     EXPECT_EQ(titles(4), arrived);
     EXPECT_EQ(saved()[keySetsKey].toStringList(),

@@ -6,6 +6,7 @@
 #include "host/contract/clock.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
+#include "host/views/news_control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "tests/support/fake_back_end.h"
 #include "tests/support/grid_cells.h"
@@ -23,6 +24,8 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <optional>
+#include <utility>
 
 namespace wirepane {
 
@@ -72,6 +75,29 @@ protected:
         view->InitialViewInfo(&settings, QStringLiteral("Layout"), 0, 0, {});
         frame.show();
         return *view;
+    }
+
+    // The same in the front and at rest, in a mode. What was asked until then is forgotten.
+    void openActive(const QMap<QString, QVariant>& stored = {}, std::optional<int> mode = {}) {
+        open(stored);
+        frame.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+        if (mode)
+            view->SwitchFunction(*mode);
+        settle();
+        backEnd.asked.clear();
+    }
+    // Until no refresh is on its way any more.
+    void settle() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return view->runningTimers().empty(); }));
+    }
+    // What was asked of the back end since this was called last, as far as it has this in it.
+    QStringList asked(const QString& kind) { return std::exchange(backEnd.asked, {}).filter(kind); }
+    void quickSearch(const QString& text) {
+        auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
+        ASSERT_NE(edit, nullptr);
+        edit->setText(text);
+        QTest::keyClick(edit, Qt::Key_Return);
     }
 
     // A headline of 2 March as the back end pushes it.
