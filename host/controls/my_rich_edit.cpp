@@ -55,7 +55,7 @@ void MyRichEdit::addPortion() {
         filling.stop();
     if (atEnd)
         bar.setValue(bar.maximum());
-    if (awaited && awaited->second <= portions.handedOut())
+    if (awaited && (awaited->second < portions.handedOut() || portions.isWhole()))
         select(*std::exchange(awaited, std::nullopt));
 }
 
@@ -72,7 +72,7 @@ std::pair<int, int> MyRichEdit::selection() const {
 }
 
 void MyRichEdit::setSelection(int start, int end) {
-    if (end <= portions.handedOut())
+    if (end < portions.handedOut() || portions.isWhole())
         select({start, end});
     else
         awaited = {start, end};

@@ -194,6 +194,19 @@ protected:
         return QApplication::clipboard()->mimeData()->text().replace(u'\n', QChar::ParagraphSeparator);
     }
 
+    // Where what the document has of the text ends.
+    int portionEnd() {
+        int breaks = 0;  // for the eye alone
+        for (QTextBlock block = edit.document()->begin(); block.isValid(); block = block.next()) {
+            const int end = block.position() + block.length() - 1;
+            breaks += end - breaks < shown.size() && block.next().isValid() &&
+                              shown[end - breaks] != QChar::ParagraphSeparator
+                          ? 1
+                          : 0;
+        }
+        return edit.document()->characterCount() - 1 - breaks;
+    }
+
     const QString before = QStringLiteral("first words\n");
     MyRichEdit edit;
     QString shown;
@@ -204,6 +217,10 @@ TEST_P(LongText, ComesInPortionsAndIsWholeToWhoeverAsks) {
     EXPECT_EQ(edit.shownText(), shown);
     edit.setSelection(6, 11);
     EXPECT_EQ(copied(), QStringLiteral("words"));
+    // One that ends where the first portion does ends there.
+    const int first = portionEnd();
+    edit.setSelection(6, first);
+    EXPECT_EQ(edit.selection(), std::pair(6, first));
     edit.selectAll();
     EXPECT_FALSE(isWhole());
     EXPECT_EQ(edit.selection(), std::pair(0, static_cast<int>(shown.size())));
