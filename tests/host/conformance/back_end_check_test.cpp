@@ -25,6 +25,7 @@ enum class Fault {
     SymbolUnknown,
     TableReplaced,
     TableMiscounted,
+    TableWithTwins,
     TableOfAnother,
     AnyKeyFinds,
     HeadlinesOutOfOrder,
@@ -99,6 +100,8 @@ public:
             table.push_back({sequence * 60, sequence, service, 0, 0});
         if (is(Fault::TableOfAnother))
             table.back().service = 9;
+        if (is(Fault::TableWithTwins))
+            table.back() = table[table.size() - 2];
         return is(Fault::TableMiscounted) ? 2 : 3;
     }
     int BKQNEWS_iGetHeadline(unsigned char service, std::vector<CHeadline>& headlines,
@@ -226,6 +229,7 @@ TEST(BackEndCheck, TellsWhichDutyIsBroken) {
         {Fault::SymbolUnknown, "bIsSymbolIDExist, service 1: \"2330\" is listed and unknown."},
         {Fault::TableReplaced, "key \"20260302\": what was in the table before is gone."},
         {Fault::TableMiscounted, "says 2 and appends 3 entries."},
+        {Fault::TableWithTwins, "two entries have one key."},
         {Fault::TableOfAnother, "an entry belongs to another service."},
         {Fault::AnyKeyFinds, "there is news of kind 0 under the key \"99999999\"."},
         {Fault::HeadlinesOutOfOrder, "out of the order of the entries."},
