@@ -6,7 +6,6 @@
 #include "headline_list/headline_lists.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/xtp_tab_control.h"
-#include "host/views/com_virtual_base_view.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/news_services.h"
@@ -26,7 +25,7 @@ Arrangement::Arrangement(ViewContext& context, const CommonParts& commonParts, S
 LayoutInput Arrangement::input() const {
     LayoutInput in;
     in.client = parts.window.rect();
-    in.fontHeight = g_iGetFontHeight(calls.font());
+    in.fontHeight = calls.fontHeight();
     in.titleHeight = calls.titleHeight();
     const auto* strip = parts.controls.find<CXTPTabControl>(ids::tabStrip);
     in.firstTabHeight = strip != nullptr && strip->count() > 0 ? strip->tabRect(0).height() : 0;

@@ -5,8 +5,6 @@
 #include "news_view/common_parts.h"
 #include "news_view/view_layout.h"
 
-#include <QFont>
-
 #include <functional>
 
 namespace wirepane {
@@ -18,7 +16,7 @@ class Arrangement {
 public:
     // What it depends on beside the parts, of this moment.
     struct Calls {
-        std::function<QFont()> font;
+        std::function<int()> fontHeight;   // of the view font's text, in pixels
         std::function<int()> titleHeight;  // of the title band; 0 when none is shown
         std::function<StoryShowType()> showType;
     };

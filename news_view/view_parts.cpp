@@ -12,6 +12,7 @@
 #include "host/contract/sync_info.h"
 #include "host/controls/s_button.h"
 #include "host/controls/xtp_tab_control.h"
+#include "host/views/com_virtual_base_view.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/notice_line.h"
 #include "news_view/told_notices.h"
@@ -78,7 +79,7 @@ Modes::Calls TRVNewsCtrlView::Parts::modeCalls() {
 }
 
 Arrangement::Calls TRVNewsCtrlView::Parts::arrangementCalls() {
-    return {[this] { return view.GetViewFont(); }, [this] { return view.titleHeight(); },
+    return {[this] { return g_iGetFontHeight(view.GetViewFont()); }, [this] { return view.titleHeight(); },
             [this] { return story.showType(); }};
 }
 

@@ -65,7 +65,7 @@ BRINGS_OWNERS_TOGETHER = "news_view/view_parts.h"
 # header; and headers of this repository that half of the room's files may reach, directly and by others.
 MOST_LINES = {"news_view/trv_news_ctrl_view.h": 220, "news_view/view_context.h": 60}
 MOST_LINES_OF_AN_OWNER = 110
-MOST_REACHED_BY_HALF = 22
+MOST_REACHED_BY_HALF = 21
 # Any source of the product: what is longer has more than one job.
 MOST_LINES_OF_A_SOURCE = 470
 # A back end needs no widgets: of the host it knows the contract alone.

@@ -358,7 +358,7 @@ TEST_F(ModeSwitchTest, EverythingStandsWhereTheLayoutSays) {
     giveWindow();
     StoryShowType showType = StoryShowType::Right;
     Arrangement arrangement(view, view.parts(), stage,
-                            {[] { return QFont(); }, [] { return 12; }, [&] { return showType; }});
+                            {[] { return 16; }, [] { return 12; }, [&] { return showType; }});
     EXPECT_FALSE(arrangement.isPlaced());
     MemoryCfgIO settings;
     builder.createStoryPane(view, &settings, {});
