@@ -126,6 +126,8 @@ TEST_F(SheetRows, SelectingInCodeDoesNotScroll) {
     sheet->addRows(100);
     sheet->setActiveSelection(80, -1);
     EXPECT_EQ(sheet->firstVisibleRow(), 0);
+    sheet->selectRows({70, 71}, 70);
+    EXPECT_EQ(sheet->firstVisibleRow(), 0);
 }
 
 TEST_F(SheetRows, StartingOverForgetsSelectionAndScroll) {

@@ -98,6 +98,10 @@ TEST_F(QuoteListTest, RegistersWhatItListsAndAgainWhenAsked) {
 TEST_F(QuoteListTest, UpdatesAreShownInTheNextTurnAndCanBeDropped) {
     list->setSymbols({all[0], all[1]});
     EXPECT_EQ(cell(0, 1), u"Aster");
+    backEnd.symbols[16] = {{u"1000"_s, u"紫菀"_s}, {u"1001"_s, u"樺"_s}};
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(list, &change);
+    EXPECT_EQ(cell(0, 1) + cell(1, 1), u"紫菀樺");
     EXPECT_EQ(cell(0, 2), u"--");
     update(0, 10, 1);
     update(0, 11, 2);
