@@ -113,6 +113,9 @@ TEST_F(QuoteListTest, UpdatesAreShownInTheNextTurnAndCanBeDropped) {
     list->vClearAllMemoryUpdate();
     QCoreApplication::processEvents();
     EXPECT_EQ(cell(0, 2), u"11.00");
+    update(0, 13);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(cell(0, 2), u"13.00") << "in every turn";
     update(1, 5);
     EXPECT_EQ(textOf(list->quoteTable().at(1), QuoteColumn::Last), u"5.00") << "who reads it reads it whole";
 }
@@ -198,6 +201,8 @@ TEST_F(QuoteListTest, TheKeyboardStaysWhileThereIsNothingToList) {
     EXPECT_EQ(list->currentDataState(), DataState::NotSupported);
     EXPECT_TRUE(list->quoteSheet()->isHidden());
     EXPECT_TRUE(list->hasFocus());
+    list->clearSymbols();
+    EXPECT_EQ(list->currentDataState(), DataState::Normal) << "nothing is known, not even that there is none";
     list->setSymbols({all[1]});
     EXPECT_TRUE(list->quoteSheet()->hasFocus());
 }
