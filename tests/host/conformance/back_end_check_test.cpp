@@ -23,6 +23,7 @@ enum class Fault {
     DayWithDashes,
     CategoriesUnpaired,
     SymbolUnknown,
+    SymbolsOfNoAnswer,
     TableReplaced,
     TableMiscounted,
     TableWithTwins,
@@ -80,6 +81,9 @@ public:
     }
     bool bGetSymbolID(unsigned char, std::vector<QString>& codes, std::vector<QString>& names) override {
         codes = {u"2330"_s};
+        names.clear();
+        if (is(Fault::SymbolsOfNoAnswer))
+            return false;
         names = {u"Tea"_s};
         return true;
     }
@@ -227,6 +231,7 @@ TEST(BackEndCheck, TellsWhichDutyIsBroken) {
         {Fault::DayWithDashes, "\"2026-03-02\" is no day"},
         {Fault::CategoriesUnpaired, "there are 1 ids and 2 names."},
         {Fault::SymbolUnknown, "bIsSymbolIDExist, service 1: \"2330\" is listed and unknown."},
+        {Fault::SymbolsOfNoAnswer, "bGetSymbolID, service 1: answers false and gives something."},
         {Fault::TableReplaced, "key \"20260302\": what was in the table before is gone."},
         {Fault::TableMiscounted, "says 2 and appends 3 entries."},
         {Fault::TableWithTwins, "two entries have one key."},

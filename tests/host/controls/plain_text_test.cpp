@@ -305,6 +305,13 @@ TEST(RichEdit, KeepsTheSelectionInSightWithoutTheKeyboard) {
         marked += picture.pixelColor(x, 6) == QColor(1, 2, 250) ? 1 : 0;
     EXPECT_GT(marked, 40);
     EXPECT_EQ(picture.pixelColor(150, 80), QColor(20, 30, 40));
+    EXPECT_EQ(edit->palette().color(QPalette::Text), QColor(200, 0, 0));
+    // What was out of sight comes to the middle.
+    edit->showText(QStringLiteral("line\n").repeated(200) + QStringLiteral("word") +
+                   QStringLiteral("\nline").repeated(200));
+    edit->setSelection(1000, 1004);
+    EXPECT_EQ(edit->textCursor().selectedText(), QStringLiteral("word"));
+    EXPECT_LT(std::abs(edit->cursorRect().center().y() - 50), 30) << "at an edge it would be further away";
 }
 
 TEST(TipWindow, StandsCentredOnThePointAndGoesInTime) {

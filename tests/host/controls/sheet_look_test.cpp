@@ -213,6 +213,16 @@ TEST_F(SheetLook, ColoursReachTextHeaderAndFrameAndFollowThePaletteWhenUnset) {
     EXPECT_EQ(rowColour(*sheet, 10), QColor(9, 9, 9));
 }
 
+TEST_F(SheetLook, AnEmptySheetShowsItsText) {
+    showAt({600, 300});
+    sheet->vSetBkColor(Qt::white, Qt::white);
+    const QImage blank = sheet->viewport()->grab().toImage();
+    sheet->setEmptyText(QStringLiteral("Nothing yet"));
+    EXPECT_NE(sheet->viewport()->grab().toImage(), blank);
+    sheet->addRows(1);
+    EXPECT_EQ(sheet->viewport()->grab().toImage().copy(0, line(), 600, 300), blank.copy(0, line(), 600, 300));
+}
+
 TEST_F(SheetLook, ThinBarsComeAndGo) {
     sheet->addRows(1000);
     showAt({600, 300});

@@ -126,8 +126,10 @@ TEST_F(SheetRows, SelectingInCodeDoesNotScroll) {
     sheet->addRows(100);
     sheet->setActiveSelection(80, -1);
     EXPECT_EQ(sheet->firstVisibleRow(), 0);
-    sheet->selectRows({70, 71}, 70);
+    sheet->selectRows({73, 70, 71, 200}, 70);
     EXPECT_EQ(sheet->firstVisibleRow(), 0);
+    EXPECT_EQ(selection(), (std::vector{70, 71, 73}));
+    EXPECT_EQ(sheet->cptGetFocusNdx(), QPoint(0, 70));
 }
 
 TEST_F(SheetRows, StartingOverForgetsSelectionAndScroll) {
