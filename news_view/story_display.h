@@ -80,6 +80,8 @@ public:
     // `read` reads a list anew; what the reader looks at stays where it is: the rows, and the pane's story.
     // Result: what `read` says.
     bool readInPlace(ListIndex list, const std::function<bool()>& read);
+    // Whether that is under way.
+    bool isReadInPlace() const { return keepsPlace; }
     // A row of a list came, went or moved: the pane keeps its story, also when its own row goes.
     void keepThrough(ListIndex list, const HeadlinePlace& place);
 

@@ -34,6 +34,7 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       arrangement(*this, common, stage, arrangementCalls()),
       builder(view, common, stage, builderCalls()),
       story(*this, backEnd, storySurroundings()),
+      newestRow(*this, [this] { return settings.options[ViewOption::FollowNewest]; }),
       output(backEnd, outputDialogs, outputSurroundings()),
       board(noticeSurroundings(), noticeTellers()),
       menu(view, [this](int command) { view.onCommand(command); }),
@@ -98,6 +99,7 @@ void TRVNewsCtrlView::Parts::connectGrid(CSuperSheetWnd& grid, ListIndex list) {
     QObject::connect(&grid, &CSuperSheetWnd::scrolledVertically, &view, &TRVNewsCtrlView::OnVScroll);
     QObject::connect(grid.selectionModel(), &QItemSelectionModel::currentRowChanged, &view,
                      [this, &grid, list] { story.follow(grid, list); });
+    newestRow.watch(grid, list);
 }
 
 // --- Stories, output, notices ---
@@ -145,6 +147,8 @@ QColor TRVNewsCtrlView::Parts::timeColour(std::int64_t time) const {
 void TRVNewsCtrlView::Parts::rowsReplaced(ListIndex list) {
     if (modes.shown() == list)
         story.forget();
+    if (!story.isReadInPlace())
+        newestRow.forget(list);
 }
 
 // --- Keys, mouse, menu ---

@@ -19,6 +19,7 @@
 #include "news_view/live_news.h"
 #include "news_view/mode_loading.h"
 #include "news_view/modes.h"
+#include "news_view/newest_row.h"
 #include "news_view/news_services.h"
 #include "news_view/notice_board.h"
 #include "news_view/output_jobs.h"
@@ -109,6 +110,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::Arrangement arrangement;
     wirepane::ViewBuilder builder;
     wirepane::StoryDisplay story;
+    wirepane::NewestRow newestRow;
     wirepane::OutputJobs output;
     wirepane::NoticeBoard board;
     wirepane::CommandMenu menu;

@@ -57,7 +57,7 @@ NO_MORE_THAN = {
 # The owners of the news view's work. What one needs of another it is given: only the place that brings them together
 # knows the headers of others.
 OWNERS = set(
-    "arrangement category_mode context_menu days list_input live_news modes notice_board output_jobs searches "
+    "arrangement category_mode context_menu days list_input live_news modes newest_row notice_board output_jobs searches "
     "sent_again service_menu shortcuts standing_searches story_display symbol_mode view_builder".split()
 )
 BRINGS_OWNERS_TOGETHER = "news_view/view_parts.h"
