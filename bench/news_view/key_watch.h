@@ -8,8 +8,10 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <atomic>
 #include <benchmark/benchmark.h>
 #include <chrono>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -55,6 +57,28 @@ private:
 
     QWidget& target;
     std::vector<double> waits;
+};
+
+// Somebody who strikes a key every few milliseconds, from a thread of his own, for as long as this lives.
+class Typing {
+public:
+    explicit Typing(KeyWatch& watch)
+        : thread([this, &watch] {
+              while (!over) {
+                  std::this_thread::sleep_for(std::chrono::milliseconds(3));
+                  watch.post();
+              }
+          }) {}
+    ~Typing() {
+        over = true;
+        thread.join();
+    }
+    Typing(const Typing&) = delete;
+    Typing& operator=(const Typing&) = delete;
+
+private:
+    std::atomic<bool> over = false;
+    std::thread thread;
 };
 
 // The spread of waits, which are seconds in ascending order, in milliseconds.

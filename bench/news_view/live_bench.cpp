@@ -13,8 +13,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <atomic>
-#include <thread>
 
 using namespace wirepane;
 using namespace wirepane::bench;
@@ -109,18 +107,12 @@ void keysDuringABurst(benchmark::State& state) {
         });
         feed.setTimerType(Qt::PreciseTimer);
         feed.start(1);
-        std::atomic<bool> over = false;
-        std::thread user([&] {
-            while (!over) {
-                std::this_thread::sleep_for(std::chrono::milliseconds(3));
-                watch.post();
-            }
-        });
-        while (live.pushed < burst)
-            QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        {
+            const Typing user(watch);
+            while (live.pushed < burst)
+                QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        }
         const double seconds = secondsSince(from);
-        over = true;
-        user.join();
         QApplication::processEvents();
         countWaits(state, watch.takeWaits());
         state.counters["seconds"] = seconds;

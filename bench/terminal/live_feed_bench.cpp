@@ -140,15 +140,8 @@ void keysDuringALiveFeed(benchmark::State& state) {
         const auto from = Clock::now();
         {
             Sender sender(desk.socketName(), count, 0);
-            std::thread user([&] {
-                while (!sender.over) {
-                    std::this_thread::sleep_for(std::chrono::milliseconds(3));
-                    watch.post();
-                }
-            });
+            const Typing user(watch);
             desk.awaitRows(count);
-            sender.over = true;
-            user.join();
         }
         state.counters["items_per_s"] = count / secondsSince(from);
         QApplication::processEvents();
