@@ -104,6 +104,37 @@ TEST_F(LiveFeedTest, NewsReachesARunningTerminalOnEveryRoad) {
     EXPECT_EQ(runProgram({u"check"_s, u"--store"_s, storeOf(u"desk"_s)}).status, 0);
 }
 
+TEST_F(LiveFeedTest, TwoTerminalsOnOneStoreShowEachOthersNews) {
+    QStringList second = terminal(u"second"_s);
+    second.replace(1, storeOf(u"first"_s));
+    ScriptClient one(terminal(u"first"_s));
+    ScriptClient two(second);
+    openView(one);
+    openView(two);
+    QProcess feeds[2];
+    for (int i = 0; i < 2; ++i)
+        start(feeds[i], {u"feed"_s, u"--to"_s, scratch.path(i == 0 ? u"first"_s : u"second"_s)});
+    constexpr int each = 300;
+    for (int i = 0; i < each; ++i) {
+        for (QProcess& feed : feeds)
+            feed.write(ninjsItem(u"u:%1-%2"_s.arg(&feed - feeds).arg(i), u"News"_s, u"Story"_s, newsTime) +
+                       '\n');
+    }
+    for (QProcess& feed : feeds) {
+        feed.closeWriteChannel();
+        ASSERT_TRUE(feed.waitForFinished());
+        EXPECT_EQ(feed.readAllStandardOutput(), "300 taken in, 0 already there, 0 rejected\n");
+    }
+    EXPECT_TRUE(becomes(one, 2 * each));
+    EXPECT_TRUE(becomes(two, 2 * each));
+    QStringList keys = list(one);
+    QStringList others = list(two);
+    // News of one time stands as it came, which the two saw differently.
+    keys.sort();
+    others.sort();
+    EXPECT_EQ(keys, others);
+}
+
 TEST_F(LiveFeedTest, WhatCannotBeFedOrPlayedIsSaid) {
     const QString store = storeOf(u"empty"_s);
     struct Case {
