@@ -31,6 +31,7 @@ namespace {
 
 constexpr int patienceMs = 3'600'000;  // a busy machine is none of its business
 constexpr unsigned char emptyService = 250;
+constexpr int allMode = static_cast<int>(ListIndex::All);
 constexpr int warrantMode = static_cast<int>(ListIndex::Warrant);
 constexpr int relationMode = static_cast<int>(ListIndex::Relation);
 constexpr int searchMode = static_cast<int>(ListIndex::Search);
@@ -82,6 +83,13 @@ void chooseCategory(TRVNewsCtrlView& view, int entry) {
         return;
     combo->setCurrentIndex(std::min(entry, combo->count() - 1));
     view.OnSelchangeComboIndex();
+}
+
+// The date picker is on show with all news alone, and picking reads no other list: that of the warrants, the
+// other list of the picked day, is read when it is shown next.
+void pickDay(TRVNewsCtrlView& view, const QDate& day) {
+    view.SwitchFunction(allMode);
+    view.bChangeDate(day);
 }
 
 void chooseSymbol(TRVNewsCtrlView& view, const QString& code) {
@@ -208,7 +216,7 @@ std::vector<unsigned char> Desk::tickedServices(int view) const {
 
 void Desk::tickAllServices() {
     for (const Place& place : views) {
-        place.view->SwitchFunction(0);
+        place.view->SwitchFunction(allMode);
         const QVariantList services = place.view->state()[u"services"_s].toList();
         for (int i = 0; i < services.size(); ++i) {
             const QVariantMap service = services[i].toMap();
@@ -256,9 +264,8 @@ void Desk::rebuildLists(const QDate& day) {
     const QString searchWord = WeekWire::wordOf(day);
     for (const Place& place : views) {
         TRVNewsCtrlView& view = *place.view;
-        view.SwitchFunction(0);
-        view.bChangeDate(day);
-        view.InitialHeadlineTable(0);
+        pickDay(view, day);
+        view.InitialHeadlineTable(allMode);
         view.SwitchFunction(1);
         chooseCategory(view, WeekWire::categoryOf(day) - 1);
         view.SwitchFunction(2);
@@ -277,7 +284,7 @@ void Desk::rebuildLists(const QDate& day) {
     askEveryService(desk::warningWord);
     settle();
     for (const Place& place : views)
-        place.view->SwitchFunction(0);
+        place.view->SwitchFunction(allMode);
     letOtherSearchesGo();
     settle();
 }
@@ -305,10 +312,10 @@ void Desk::doSomethingBig(WeekWire& dice, const QDate& day) {
     const std::vector<int> modes = modesOf(number);
     switch (dice.below(6)) {
         case 0:
-            view.bChangeDate(day.addDays(-dice.below(3)));
+            pickDay(view, day.addDays(-dice.below(3)));
             break;
         case 1:
-            view.bChangeDate(day);
+            pickDay(view, day);
             break;
         case 2:
             view.onCommand(ids::firstServiceCommand + dice.below(4));  // the warrants have no command
