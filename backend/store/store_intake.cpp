@@ -4,8 +4,12 @@
 
 #include "backend/database/store_sync.h"
 
+#include <QFileInfo>
+
 #include <sqlite3.h>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
@@ -13,6 +17,7 @@ namespace {
 
 // Who finds the store busy tries again later, and lets others have their turn meanwhile.
 constexpr std::chrono::milliseconds patience{250};
+constexpr qint64 longLog = 16 << 20;  // bytes
 
 }  // namespace
 
@@ -50,9 +55,10 @@ void StoreIntake::beginNext() {
 WorkReport StoreIntake::perform(const Work& work) {
     if (work)
         work(*writer);
-    WorkReport done{writer->takeChangedSymbols(), false, database.damage()};
+    WorkReport done{.symbols = writer->takeChangedSymbols(), .damage = database.damage()};
     std::int64_t version = 0;
     done.byOthers = !database.readNumber("PRAGMA data_version", version) || version != lastVersion;
+    done.isLogLong = done.byOthers && QFileInfo(database.path() + u"-wal"_s).size() > longLog;
     lastVersion = version;
     return done;
 }
@@ -61,7 +67,7 @@ void StoreIntake::report(const WorkReport& done) {
     tell(done);
     // The readers have just moved on to the log's end: now a checkpoint can carry all of it over, and nobody
     // writes meanwhile. A log that is never quite carried over grows without end.
-    if (sync.isLogLong()) {
+    if (sync.isLogLong() || done.isLogLong) {
         thread.post([this] {
             checkpoint();
             answers.post([this] { report({}); });

@@ -19,6 +19,7 @@ class StoreSync;
 struct WorkReport {
     std::vector<SymbolItem> symbols;  // that it has changed
     bool byOthers = false;            // another program has written, too, since the last report
+    bool isLogLong = false;           // that of the store, by what others have written
     std::optional<Error> damage;      // the first that the connection has met
 };
 
