@@ -5,6 +5,7 @@
 #include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
 
+#include <atomic>
 #include <chrono>
 
 namespace wirepane {
@@ -18,17 +19,23 @@ bool isInCalendar(std::int64_t secondsSince1970) {
 }
 
 // Seconds. Asking the system costs more than all else about a cell, and headlines that are written together
-// are near in time: the last answer is kept for the quarter of an hour that it holds for.
+// are near in time: the last answer is kept for the quarter of an hour that it holds for, both in one number,
+// so that no thread sees half of it.
 int offsetFromUtc(std::int64_t secondsSince1970) {
     constexpr std::int64_t quarter = 900;
-    static thread_local std::int64_t knownQuarter = -1;
-    static thread_local int known = 0;
+    constexpr std::int64_t offsets = 1 << 20;  // more than there are, half of them west of Greenwich
+    static std::atomic<std::int64_t> known = -1;
     // Before 1970 clocks were set at odd seconds.
-    if (secondsSince1970 < 0 || secondsSince1970 / quarter != knownQuarter) {
-        known = QDateTime::fromSecsSinceEpoch(secondsSince1970).offsetFromUtc();
-        knownQuarter = secondsSince1970 < 0 ? -1 : secondsSince1970 / quarter;
+    if (secondsSince1970 < 0)
+        return QDateTime::fromSecsSinceEpoch(secondsSince1970).offsetFromUtc();
+    const std::int64_t wanted = secondsSince1970 / quarter;
+    std::int64_t answer = known;
+    if (answer < 0 || answer / offsets != wanted) {
+        const int offset = QDateTime::fromSecsSinceEpoch(secondsSince1970).offsetFromUtc();
+        answer = wanted * offsets + offset + offsets / 2;
+        known = answer;
     }
-    return known;
+    return static_cast<int>(answer % offsets - offsets / 2);
 }
 
 QString twoDigits(unsigned first, char16_t between, unsigned second) {
