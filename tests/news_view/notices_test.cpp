@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What the control row tells of a list, in which order, and what it offers to do about it.
+#include "headline_list/language_keys.h"
 #include "host/controls/s_button.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/list_notices.h"
 #include "search/adv_search_dlg.h"
 #include "search/news_key_search_dlg.h"
 #include "search/search_ids.h"
+#include "search/search_keys.h"
 #include "search/warn_term_dlg.h"
 #include "tests/news_view/view_fixture.h"
 
@@ -58,7 +60,9 @@ protected:
         openMode("ShowNormalSearch=1\n", 0, stored);
         view->SwitchFunction(4);
         EXPECT_EQ(titles(4), QStringList()) << "key sets are kept without their ticks";
-        runDialog<CNewsKeySearchDlg>(ids::relationSearchButton, [](CNewsKeySearchDlg& dialog) {
+        runDialog<CNewsKeySearchDlg>(ids::relationSearchButton, [this](CNewsKeySearchDlg& dialog) {
+            for (const auto* label : dialog.findChildren<QLabel*>())
+                tellsOfCapitals |= label->isVisible() && label->text() == search_keys::capitalsNote;
             press(dialog, search_ids::allKeySets);
             press(dialog, search_ids::ok);
         });
@@ -80,6 +84,8 @@ protected:
         ASSERT_TRUE(button(id).isVisible()) << id;
         QTest::mouseClick(&button(id), Qt::LeftButton);
     }
+
+    bool tellsOfCapitals = false;  // the dialog of key sets has, once
 };
 
 }  // namespace
@@ -271,9 +277,11 @@ TEST_F(Notices, AFilteredListIsReadAnewWhenItIsShownWhereTheSettingsSaySo) {
 TEST_F(Notices, KeySetsMatchInAnyCaseWhereTheSettingsSaySo) {
     openRelation({}, u"gold"_s);
     EXPECT_EQ(titles(4), QStringList());
+    EXPECT_TRUE(std::exchange(tellsOfCapitals, false));
     view.reset();
     openRelation({{u"KeySetsInAnyCase"_s, true}}, u"gold"_s);
     EXPECT_EQ(titles(4), QStringList{u"Gold of the morning"_s});
+    EXPECT_FALSE(tellsOfCapitals);
 }
 
 TEST_F(Notices, WhatWasFoundBeforeABreakSaysFromWhenItIs) {
@@ -310,6 +318,9 @@ TEST_F(Notices, AreShownAfterAVisitToSymbolNewsWithoutSymbols) {
     backEnd.symbols.clear();
     openMode({}, 2);
     EXPECT_EQ(state(u"dataState"_s).toInt(), 1);
+    const QImage told = view->grab().toImage();
+    backEnd.texts[keys::noData] = u" "_s;
+    EXPECT_NE(view->grab().toImage(), told) << "that there is nothing to show is painted";
     for (const int mode : {2, 0}) {
         view->SwitchFunction(mode);
         const auto* line = qobject_cast<QLabel*>(dlgItem(view.get(), ids::notice));

@@ -4,7 +4,9 @@
 #include "news_view/searches.h"
 
 #include "headline_list/language_keys.h"
+#include "host/controls/registered_message.h"
 #include "news_view/live_news.h"
+#include "search/news_key_search_dlg.h"
 #include "tests/news_view/owner_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -206,6 +208,23 @@ TEST_F(SearchesTest, ASymbolNarrowsWhatIsInForce) {
     sent();
     searches.endNarrowing();
     EXPECT_EQ(sent().filter(u"@"_s).size(), 0);
+}
+
+TEST_F(SearchesTest, AnOpenDialogIsToldOfTheOneSymbolThatChangedOrToReadAll) {
+    struct Dialog : CNewsKeySearchDlg {
+        explicit Dialog(QWidget* parent) : CNewsKeySearchDlg({}, {}, {}, parent) {}
+        bool event(QEvent* event) override {
+            if (event->type() == registerMessage(u"MSG_SYMBOLUPDATE_TREEDLG"_s))
+                told.push_back(static_cast<RegisteredMessageEvent*>(event)->firstParameter);
+            return CNewsKeySearchDlg::event(event);
+        }
+        std::vector<quintptr> told;
+    } dialog(&host);
+    const std::vector<CSymbolUpdateInfo> one{{16, u"2330"_s}}, two{{16, u"2330"_s}, {16, u"6214"_s}};
+    for (const auto& updates : {&one, &two})
+        searches.updateSymbolPicker(*updates);
+    searches.updateSymbolPicker({});
+    EXPECT_EQ(dialog.told, (std::vector<quintptr>{reinterpret_cast<quintptr>(&one.front()), 0}));
 }
 
 // --- Headlines that arrive ---

@@ -90,11 +90,13 @@ TEST_F(StoryDisplayTest, ShowTypesGoRoundAndThePaneNeedsToBeThere) {
 TEST_F(StoryDisplayTest, ThePaneReadsAStoryOncePerRow) {
     givePane();
     story.setShowType(atRight);
+    view.grid()->resize(600, 60);
     focus(2);
     storiesRead();
     story.show();
     EXPECT_EQ(storiesRead(), 1);
     EXPECT_EQ(story.shownRow(), 2);
+    EXPECT_GT(view.grid()->firstVisibleRow(), 0) << "its row is scrolled into sight";
     EXPECT_EQ(pane().GetHeadLinePos(), 2);
     EXPECT_EQ(foundUnder, QList<ListIndex>{ListIndex::All});
     EXPECT_FALSE(window().isVisible());

@@ -79,6 +79,11 @@ TEST_F(SymbolModeTest, TheSymbolToStartWithIsTheLinkedOrTheSavedOne) {
     mode.keep();
     EXPECT_EQ(settings.symbolId, u"4001"_s);
     EXPECT_EQ(settings.symbolService, 122);
+    linkedCode.clear();
+    mode.start(true, false);
+    mode.offer();
+    mode.readFirst();
+    EXPECT_EQ(mode.current(), foods) << "a link without a symbol leaves it to the combo";
 }
 
 TEST_F(SymbolModeTest, TheUsersChoiceIsReadAndTellsTheLinkGroup) {
@@ -113,6 +118,19 @@ TEST_F(SymbolModeTest, AnotherMarketsSymbolsAreOffered) {
     mode.serviceChosen();
     EXPECT_NE(mode.current().market, 16);
     EXPECT_TRUE(told.contains(u"lay out"_s));
+}
+
+TEST_F(SymbolModeTest, AMarketThatComesLaterLeavesTheChoice) {
+    settings.symbolService = 122;
+    backEnd.unauthorised = {16};
+    settings.symbolId = u"4001"_s;
+    open(u"4001"_s);
+    mode.take({1, u"TXF"_s});
+    backEnd.unauthorised.clear();
+    mode.takeUpdates({{16, u"2330"_s}});
+    auto& markets = *controls.find<SCComboBox>(ids::serviceCombo);
+    EXPECT_EQ(markets.itemText(0), u"台灣證券");
+    EXPECT_EQ(markets.currentText(), u"興櫃股票") << "the first until then";
 }
 
 TEST_F(SymbolModeTest, ALinkedSymbolIsFollowedWhereItHasNews) {
@@ -179,6 +197,7 @@ class CategoryModeTest : public OwnerTest {
 protected:
     CategoryModeTest() {
         backEnd.categories[1] = {{u"1"_s, u"Markets"_s}, {u"2"_s, u"Economy"_s}};
+        backEnd.categories[52] = {{u"0"_s, u"Issue"_s}};
         backEnd.categories[2] = {{u"2"_s, u"Economy"_s}, {u"3"_s, u"Metals"_s}};
         backEnd.categories[16] = {{u"9"_s, u"Unticked"_s}};
         controls.createCategoryCombo(QRect(0, 0, 120, 200));
@@ -258,6 +277,7 @@ TEST_F(CategoryModeTest, AnUnknownCategoryHasATextAndNoColour) {
     EXPECT_EQ(mode.idOf(1, u"Nobody's"_s), -1);
     QColor text, background;
     EXPECT_FALSE(mode.colourOf(1, u"Nobody's"_s, text, background));
+    EXPECT_TRUE(mode.colourOf(52, u"Issue"_s, text, background)) << "the smallest number";
 }
 
 // --- The service menu ---

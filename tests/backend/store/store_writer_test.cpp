@@ -151,12 +151,13 @@ TEST_F(StoreWriterTest, OneNameOfACategoryHasOneIdButAmongWarrants) {
         EXPECT_EQ(cleanCategoryName(long63 + tooMuch), long63);
     EXPECT_EQ(cleanCategoryName(long63.repeated(2)), long63 + u'x');
 
-    EXPECT_EQ(take(CategoryItem{2, 7, u"Weather-Seas"_s, u"#00FF00"_s}), Take::TakenIn);
+    EXPECT_EQ(take(CategoryItem{2, 7, u"Weather-Seas"_s, u"#09AF00"_s}), Take::TakenIn);
     EXPECT_EQ(take(CategoryItem{2, 7, u"Weather-Seas"_s, {}}), Take::AlreadyThere);
     EXPECT_EQ(take(CategoryItem{2, 9, u"Shipping"_s, {}}), Take::Rejected);
     EXPECT_EQ(take(CategoryItem{52, 9, u"Weather-Seas"_s, {}}), Take::TakenIn);
-    EXPECT_EQ(take(CategoryItem{2, 9, u"X"_s, u"red"_s}), Take::Rejected);
-    EXPECT_EQ(rows("SELECT colour FROM categories WHERE space = 0 AND id = 7"), QStringList{u"#00ff00"_s});
+    for (const QString& colour : {u"red"_s, u"#00gg00"_s})
+        EXPECT_EQ(take(CategoryItem{2, 9, u"X"_s, colour}), Take::Rejected);
+    EXPECT_EQ(rows("SELECT colour FROM categories WHERE space = 0 AND id = 7"), QStringList{u"#09af00"_s});
 }
 
 TEST_F(StoreWriterTest, UnknownServicesAndSymbolsAreMade) {
