@@ -76,6 +76,8 @@ TEST(FeedLineTest, EntriesOfTheSymbolTableAndOfCataloguesComeBackAsTheyWere) {
         SymbolItem{52, u"030012"_s, u"嵐蘅岩港購01"_s, 3},
         CategoryItem{22, 301, u"港股"_s, u"#2a8c55"_s},
         QuoteItem{16, u"2330"_s, 601.35, -0.1, mostVolume},
+        CategoryItem{1, 1, u"Markets"_s, {}},
+        QuoteItem{1, u"X"_s, 0, 0, 0},
     };
     for (const StoreItem& entry : entries) {
         const QByteArray line = feedLine(entry, u"p"_s);
@@ -114,11 +116,6 @@ TEST(FeedLineTest, WhatIsNoNewsIsRejectedWithAReason) {
         R"({"wirepane":{"quote":{"market":1,"code":"1","last":"1","change":0,"volume":1}}})",
         R"({"wirepane":{"quote":{"market":1,"code":"1","last":1e999,"change":0,"volume":1}}})",
         R"({"wirepane":{"quote":{"market":1,"code":"1","last":1,"change":0,"volume":1.5}}})",
-        R"({"wirepane":{"symbol":{"market":0,"code":"1","name":"n"}}})",
-        R"({"wirepane":{"symbol":{"market":1,"code":"1"}}})",
-        R"({"wirepane":{"symbol":{"market":1,"code":"1","name":"n","category":-1}}})",
-        R"({"wirepane":{"category":{"service":1,"id":0,"name":"n"}}})",
-        R"({"wirepane":{"category":{"service":1,"id":1,"name":"n","colour":7}}})",
         R"({"wirepane":{"symbol":{"market":0,"code":"1","name":"n"}}})",
         R"({"wirepane":{"symbol":{"market":1,"code":"1"}}})",
         R"({"wirepane":{"symbol":{"market":1,"code":"1","name":"n","category":-1}}})",

@@ -156,6 +156,7 @@ TEST_F(SpoolTest, ALongNameIsCutSoThatItsReasonHasRoom) {
     EXPECT_EQ(takeAll(), 2);
     QStringList names = filesIn(u"rejected"_s);
     ASSERT_EQ(names.size(), 4);
+    EXPECT_TRUE(names.contains(words.left(79) + u".jsonl"_s)) << "no more is cut than must be";
     for (const QString& name : names.filter(QRegularExpression(u"jsonl$"_s))) {
         EXPECT_TRUE(name.startsWith(words.left(70)));
         EXPECT_FALSE(content(u"rejected/"_s + name + u".reason.txt"_s).isEmpty()) << name.toStdString();
