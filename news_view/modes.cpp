@@ -15,8 +15,6 @@
 
 namespace wirepane {
 
-namespace {}
-
 Modes::Modes(ViewContext& context, const CommonParts& commonParts, StoryStage& storyStage, Calls atASwitch)
     : view(context), parts(commonParts), stage(storyStage), calls(std::move(atASwitch)) {}
 
