@@ -54,7 +54,7 @@ public:
     void endNarrowing(ListIndex list);
     // When the search of a list was sent last; none: never.
     struct Moment {
-        std::int64_t time = 0;        // seconds since 1970
+        std::int64_t time = 0;         // seconds since 1970
         std::size_t endedOutages = 0;  // of the back end's connection, until then
     };
     std::optional<Moment> sentAt(ListIndex list) const;

@@ -29,7 +29,6 @@ inline constexpr ErrorCode spoolNotMoved{
 inline constexpr ErrorCode rejectedAt{"ERROR_FEED_REJECTED_AT", u"%1: %2"};
 inline constexpr ErrorCode moreRejected{"ERROR_FEED_MORE_REJECTED", u"and more: %1 items were rejected."};
 
-
 // Of a program that feeds; %2 is why, in its own words or the system's.
 inline constexpr ErrorCode programEnded{"ERROR_FEED_PROGRAM_ENDED", u"%1 has ended: %2"};
 

@@ -9,7 +9,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-
 namespace wirepane {
 
 using SheetRows = SheetFixture;
