@@ -15,7 +15,6 @@ class QDate;
 
 namespace wirepane {
 enum class ListIndex : int;
-
 }  // namespace wirepane
 
 // The news view that a terminal places in its frames: a face. What it shows and does is the work of its
