@@ -123,6 +123,11 @@ inline constexpr QLatin1StringView nameOfSymbol{"IDS_NEWSCTRLVIEW_NAME_SYMBOL"};
 inline constexpr QLatin1StringView nameOfSearchText{"IDS_NEWSCTRLVIEW_NAME_SEARCH_TEXT"};
 inline constexpr QLatin1StringView nameOfStory{"IDS_NEWSCTRLVIEW_NAME_STORY"};
 
+// The markets of the symbol mode.
+inline constexpr QLatin1StringView stockExchange{"IDS_NEWSCTRLVIEW_MARKET_STOCK_EXCHANGE"};
+inline constexpr QLatin1StringView emergingBoard{"IDS_NEWSCTRLVIEW_MARKET_EMERGING_BOARD"};
+inline constexpr QLatin1StringView hongKong{"IDS_NEWSCTRLVIEW_MARKET_HONG_KONG"};
+
 // The context menu.
 inline constexpr QLatin1StringView showCategory{"IDS_NEWSCTRLVIEW_STRING_SHOW_CATEGORY"};
 inline constexpr QLatin1StringView recoverHeadlineList{"IDS_NEWSCTRLVIEW_STRING_RECOVER_HEADLINELIST"};

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/symbol_binding.h"
 
+#include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/fixed_services.h"
 #include "host/contract/search_control.h"
+#include "host/contract/view_options.h"
 #include "host/controls/quote_combo_box_auto.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/views/news_control_ids.h"
@@ -21,9 +23,19 @@ namespace {
 constexpr int symbolsWithNews = 1;
 constexpr int supportedHongKongCategory = 1;
 
-const QString stockExchangeLabel = QStringLiteral("台灣證券");
-const QString emergingBoardLabel = QStringLiteral("興櫃股票");
-const QString hongKongLabel = QStringLiteral("香港股市");
+struct MarketName {
+    QString stated;
+    QLatin1StringView key;  // of that in the language in force
+};
+
+// Every other service is the Hong Kong market, whatever number it is delivered under.
+MarketName nameOf(unsigned char service) {
+    if (service == stockExchangeService)
+        return {QStringLiteral("台灣證券"), keys::stockExchange};
+    if (service == emergingBoardService)
+        return {QStringLiteral("興櫃股票"), keys::emergingBoard};
+    return {QStringLiteral("香港股市"), keys::hongKong};
+}
 
 bool contains(const std::vector<unsigned char>& services, unsigned char service) {
     return std::find(services.begin(), services.end(), service) != services.end();
@@ -31,8 +43,9 @@ bool contains(const std::vector<unsigned char>& services, unsigned char service)
 
 }  // namespace
 
-SymbolBinding::SymbolBinding(BKQuoteInterface& newsBackEnd, const ControlSet& controlSet)
-    : backEnd(newsBackEnd), controls(controlSet) {}
+SymbolBinding::SymbolBinding(BKQuoteInterface& newsBackEnd, const ControlSet& controlSet,
+                             const ViewOptions& viewOptions)
+    : backEnd(newsBackEnd), controls(controlSet), options(viewOptions) {}
 
 int SymbolBinding::iInitServiceComboBox(unsigned char& selected) {
     auto* combo = controls.find<SCComboBox>(ids::serviceCombo);
@@ -41,12 +54,12 @@ int SymbolBinding::iInitServiceComboBox(unsigned char& selected) {
         return -1;
     combo->clear();
     services.clear();
-    offerService(stockExchangeService, stockExchangeLabel, all);
-    offerService(emergingBoardService, emergingBoardLabel, all);
-    offerService(hongKongService, hongKongLabel, all);
+    offerService(stockExchangeService, all);
+    offerService(emergingBoardService, all);
+    offerService(hongKongService, all);
     unsigned char delayed = 0;
     if (!contains(services, hongKongService) && backEnd.bGetServiceID2Delay(hongKongService, delayed))
-        offerService(delayed, hongKongLabel, all);
+        offerService(delayed, all);
     if (services.empty())
         return -1;
     const int index = std::max(serviceIndex(current.market), 0);
@@ -72,12 +85,22 @@ void SymbolBinding::offerMarkets() {
         selectService(serviceIndex(market));
 }
 
-void SymbolBinding::offerService(unsigned char service, const QString& label,
-                                 const std::vector<unsigned char>& all) {
+QString SymbolBinding::marketName(unsigned char service) const {
+    const MarketName name = nameOf(service);
+    return options[ViewOption::MarketNames] ? langText(backEnd, name.key) : name.stated;
+}
+
+void SymbolBinding::nameMarkets() {
+    auto* combo = controls.find<SCComboBox>(ids::serviceCombo);
+    for (std::size_t i = 0; combo != nullptr && i < services.size(); ++i)
+        combo->setItemText(static_cast<int>(i), marketName(services[i]));
+}
+
+void SymbolBinding::offerService(unsigned char service, const std::vector<unsigned char>& all) {
     if (!contains(all, service) || backEnd.BKQCheckAuthSupport(service) == 0)
         return;
     services.push_back(service);
-    controls.find<SCComboBox>(ids::serviceCombo)->addItem(label);
+    controls.find<SCComboBox>(ids::serviceCombo)->addItem(marketName(service));
 }
 
 void SymbolBinding::dropService(unsigned char service) {

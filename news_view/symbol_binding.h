@@ -14,13 +14,14 @@ class BKQuoteInterface;
 
 namespace wirepane {
 class ControlSet;
+class ViewOptions;
 
 // The symbol whose news the symbol mode shows, and the two combos that choose it: the service combo, and the
 // symbol combo with the supported symbols of the chosen service. What happens when it changes is the view's
 // affair.
 class SymbolBinding {
 public:
-    SymbolBinding(BKQuoteInterface& backEnd, const ControlSet& controls);
+    SymbolBinding(BKQuoteInterface& backEnd, const ControlSet& controls, const ViewOptions& options);
 
     // The current news symbol.
     const CSymbolInfo& currentSymbol() const { return current; }
@@ -42,6 +43,8 @@ public:
     bool lacksMarket(unsigned char service) const;
     // Fills the service combo with the markets of this moment; its choice stays, where it is still offered.
     void offerMarkets();
+    // Names the markets that are offered in the language in force, if they are to be.
+    void nameMarkets();
 
     // The place of a service in the service combo; -1 when it is not offered.
     int serviceIndex(unsigned char service) const;
@@ -60,12 +63,14 @@ public:
     void selectSymbol(int index);
 
 private:
-    void offerService(unsigned char service, const QString& label, const std::vector<unsigned char>& all);
+    QString marketName(unsigned char service) const;
+    void offerService(unsigned char service, const std::vector<unsigned char>& all);
     void dropService(unsigned char service);
     bool fetchSymbols(unsigned char service, std::vector<QString>& codes, std::vector<QString>& names) const;
 
     BKQuoteInterface& backEnd;
     const ControlSet& controls;
+    const ViewOptions& options;
     CSymbolInfo current;
     std::vector<unsigned char> services;  // in the order of the service combo
     std::vector<CSymbolInfo> symbols;     // in the order of the symbol combo

@@ -29,7 +29,7 @@ SymbolMode::SymbolMode(ViewContext& viewContext, const CommonParts& commonParts,
     : context(viewContext),
       parts(commonParts),
       calls(std::move(given)),
-      binding(parts.backEnd, parts.controls) {}
+      binding(parts.backEnd, parts.controls, parts.settings.options) {}
 
 bool SymbolMode::isShown() const {
     return context.shownList() == ListIndex::Symbol;

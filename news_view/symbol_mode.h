@@ -67,6 +67,7 @@ public:
     // The back end's symbols have changed.
     void takeUpdates(const std::vector<CSymbolUpdateInfo>& updates);
     void refillSymbols();
+    void nameMarkets() { binding.nameMarkets(); }
 
     // The mode's controls are shown: those go that have nothing to choose, or no place.
     void hideWithoutUse();

@@ -77,6 +77,7 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     parts->shortcuts.loadToolTips();
     parts->standingSearches.loadHints();
     parts->categories.learnCombo();
+    parts->symbolMode.nameMarkets();
     if (TRVNewsStory* dialog = parts->stage.storyDialog())
         dialog->vLoadLanguageString();
     for (int list = 0; list < listCount; ++list) {

@@ -26,6 +26,7 @@ enum class ViewOption {
     ReadMissedTables,       // tables sent again unasked are taken by every list that they belong to
     SeparateServiceNames,   // the names of services without news are told apart from one another
     StretchTitles,          // the title column takes what room its list has left
+    MarketNames,            // markets are named in the language in force
     FollowNewest,           // the newest row is selected until the reader goes to one himself
     Count
 };
@@ -45,6 +46,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::ReadMissedTables, QLatin1StringView("ReadMissedTables")},
     {ViewOption::SeparateServiceNames, QLatin1StringView("SeparateServiceNames")},
     {ViewOption::StretchTitles, QLatin1StringView("StretchTitles")},
+    {ViewOption::MarketNames, QLatin1StringView("MarketNames")},
     {ViewOption::FollowNewest, QLatin1StringView("FollowNewest")},
 }};
 

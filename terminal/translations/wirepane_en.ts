@@ -1219,6 +1219,18 @@
         <source></source>
         <translation>Warning term: %2. Press %1 to search for it, or for another one.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_MARKET_EMERGING_BOARD">
+        <source></source>
+        <translation>Emerging Board</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_MARKET_HONG_KONG">
+        <source></source>
+        <translation>Hong Kong Stocks</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_MARKET_STOCK_EXCHANGE">
+        <source></source>
+        <translation>Taiwan Stocks</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NAME_DATE">
         <source></source>
         <translation>Date</translation>

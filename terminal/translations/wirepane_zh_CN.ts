@@ -1219,6 +1219,18 @@
         <source></source>
         <translation>警示词：%2。按 %1 搜索或改选其他警示词。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_MARKET_EMERGING_BOARD">
+        <source></source>
+        <translation>兴柜股票</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_MARKET_HONG_KONG">
+        <source></source>
+        <translation>香港股市</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_MARKET_STOCK_EXCHANGE">
+        <source></source>
+        <translation>台湾证券</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NAME_DATE">
         <source></source>
         <translation>日期</translation>

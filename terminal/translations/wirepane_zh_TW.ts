@@ -1219,6 +1219,18 @@
         <source></source>
         <translation>警示詞：%2。按 %1 搜尋或改選其他警示詞。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_MARKET_EMERGING_BOARD">
+        <source></source>
+        <translation>興櫃股票</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_MARKET_HONG_KONG">
+        <source></source>
+        <translation>香港股市</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_MARKET_STOCK_EXCHANGE">
+        <source></source>
+        <translation>台灣證券</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NAME_DATE">
         <source></source>
         <translation>日期</translation>

@@ -131,6 +131,10 @@ TEST_F(SymbolModeTest, AMarketThatComesLaterLeavesTheChoice) {
     auto& markets = *controls.find<SCComboBox>(ids::serviceCombo);
     EXPECT_EQ(markets.itemText(0), u"台灣證券");
     EXPECT_EQ(markets.currentText(), u"興櫃股票") << "the first until then";
+    switchOn(ViewOption::MarketNames);
+    mode.nameMarkets();
+    EXPECT_EQ(markets.currentText(), langText(backEnd, keys::emergingBoard));
+    EXPECT_NE(markets.currentText(), u"興櫃股票");
 }
 
 TEST_F(SymbolModeTest, ALinkedSymbolIsFollowedWhereItHasNews) {

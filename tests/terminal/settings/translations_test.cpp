@@ -3,6 +3,7 @@
 #include "host/controls/s_date_time_ctrl.h"
 #include "terminal/translations/languages.h"
 #include "terminal/translations/terminal_text.h"
+#include "tests/support/chinese_text.h"
 
 #include <QCalendarWidget>
 #include <QCoreApplication>
@@ -91,6 +92,20 @@ TEST(TranslationsTest, TheCatalogueInForceGivesItsTexts) {
     EXPECT_FALSE(languages.use(u"de"_s));
     EXPECT_EQ(languages.current(), u"zh-CN"_s);
     EXPECT_EQ(terminalText(TextId::LanguageSimplifiedChinese), u"简体中文"_s);
+}
+
+// Two texts say the same in both kinds of characters, and one is for a system that has no Chinese at all.
+TEST(TranslationsTest, ChineseTextsAreChineseAndOfTheirKind) {
+    const QSet<QString> other{u"IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS"_s,
+                              u"IDS_NEWSCTRLVIEW_STRING_REPLASE_MESSAGE"_s, u"TERMINAL_NO_CHINESE_FONT"_s};
+    for (const QString& code : {u"zh-TW"_s, u"zh-CN"_s}) {
+        const auto texts = catalogue(code);
+        for (auto text = texts.begin(); text != texts.end(); ++text) {
+            if (!other.contains(text.key()))
+                EXPECT_EQ(strangeParts(*text, code), QStringList())
+                    << text.key().toStdString() << ": " << text->toStdString();
+        }
+    }
 }
 
 TEST(TranslationsTest, LanguagesHaveTheSamePlaceholdersAndEdges) {
