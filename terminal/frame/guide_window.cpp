@@ -4,11 +4,16 @@
 
 #include "terminal/translations/terminal_text.h"
 
+#include <QDir>
+#include <QEvent>
 #include <QImage>
+#include <QLocale>
 #include <QTextBrowser>
 #include <QTextTable>
 #include <QUrl>
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
@@ -48,19 +53,31 @@ void layOutTables(const QTextDocument& document) {
 
 }  // namespace
 
-GuideWindow::GuideWindow(const QString& file, QWidget* parent) : QDialog(parent, Qt::Window) {
-    setWindowTitle(terminalText(TextId::GuideTitle));
+GuideWindow::GuideWindow(const QString& guideFolder, QWidget* parent)
+    : QDialog(parent, Qt::Window), folder(guideFolder), text(new GuideText) {
     resize(startSize);
-    auto* text = new GuideText;
-    text->setAccessibleName(windowTitle());
     text->setFrameShape(QFrame::NoFrame);
     text->document()->setDocumentMargin(16);
     text->setOpenExternalLinks(true);
-    connect(text, &QTextBrowser::sourceChanged, text, [text] { layOutTables(*text->document()); });
-    text->setSource(QUrl::fromLocalFile(file));
+    connect(text, &QTextBrowser::sourceChanged, text, [this] { layOutTables(*text->document()); });
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->addWidget(text);
+    read();
+}
+
+void GuideWindow::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        read();
+}
+
+void GuideWindow::read() {
+    setWindowTitle(terminalText(TextId::GuideTitle));
+    text->setAccessibleName(windowTitle());
+    const QDir guides(folder);
+    const QString own = u"guide_%1.md"_s.arg(QLocale().name());
+    text->setSource(QUrl::fromLocalFile(guides.filePath(guides.exists(own) ? own : u"guide.md"_s)));
 }
 
 }  // namespace wirepane

@@ -4,15 +4,27 @@
 
 #include <QDialog>
 
+class QTextBrowser;
+
 namespace wirepane {
 
-// The user's guide, to read beside the terminal; its links lead to the documents beside it, Alt+Left back.
+// The user's guide in the language in force, to read beside the terminal; its links lead to the documents
+// beside it, Alt+Left back.
 class GuideWindow : public QDialog {
     Q_OBJECT
 
 public:
-    // `file` is a Markdown document.
-    explicit GuideWindow(const QString& file, QWidget* parent = nullptr);
+    // `folder` has the guide as a Markdown document: guide.md in English, guide_zh_TW.md and so on.
+    explicit GuideWindow(const QString& folder, QWidget* parent = nullptr);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void read();
+
+    const QString folder;
+    QTextBrowser* const text;
 };
 
 }  // namespace wirepane

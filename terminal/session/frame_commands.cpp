@@ -184,14 +184,14 @@ void FrameCommands::rename(int number) {
 }
 
 void FrameCommands::showGuide() {
-    const QString file = QDir::cleanPath(
-        QDir(QCoreApplication::applicationDirPath()).filePath(u"../share/wirepane/docs/guide/guide.md"_s));
-    if (!QFileInfo::exists(file)) {
-        report(makeError<session_errors::guideMissing>(QDir::toNativeSeparators(file)));
+    const QString folder = QDir::cleanPath(
+        QDir(QCoreApplication::applicationDirPath()).filePath(u"../share/wirepane/docs/guide"_s));
+    if (!QFileInfo::exists(folder + u"/guide.md"_s)) {
+        report(makeError<session_errors::guideMissing>(QDir::toNativeSeparators(folder)));
         return;
     }
     if (guide == nullptr) {
-        guide = new GuideWindow(file, &session.frame());
+        guide = new GuideWindow(folder, &session.frame());
         guide->setAttribute(Qt::WA_DeleteOnClose);
     }
     guide->show();
