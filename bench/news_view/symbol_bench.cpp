@@ -4,6 +4,7 @@
 // key costs. Filling is to be linear, finding constant.
 #include "bench/headline_list/list_bench.h"
 #include "host/contract/search_control.h"
+#include "host/contract/view_options.h"
 #include "host/controls/quote_combo_box_auto.h"
 #include "host/views/news_control_ids.h"
 #include "host/views/virtual_base_view.h"
@@ -58,7 +59,8 @@ struct SymbolRow {
     Symbols search;
     TRVVirtualBaseView view;
     ControlSet controls{view, backEnd};
-    SymbolBinding binding{backEnd, controls};
+    ViewOptions options;
+    SymbolBinding binding{backEnd, controls, options};
 };
 
 void fillCombo(benchmark::State& state) {
