@@ -432,9 +432,8 @@ int EmbeddedBackEnd::BKQCheckAuthSupport(unsigned char service) {
     return found && found->authorised ? 1 : 0;
 }
 
-QColor EmbeddedBackEnd::categoryColour(std::int32_t id, unsigned char service) {
-    const QString colour = reader.categoryColour(service, id);
-    return colour.isEmpty() ? QColor() : QColor(colour);
+std::optional<StoredCategory> EmbeddedBackEnd::category(std::int32_t id, unsigned char service) {
+    return reader.category(service, id);
 }
 
 // --- Texts ---

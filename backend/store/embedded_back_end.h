@@ -144,9 +144,9 @@ public:
     // searches, with their arguments in the contract's order but without what is to be filled. A symbol is
     // its market and its code, an entry its service, time and number, a search its keywords.
     std::vector<Request> takeRequests() { return requests.take(); }
-    // The colour of a category by its id; invalid: none of its own. Warrants number their categories for
-    // themselves: name their service for one of theirs.
-    QColor categoryColour(std::int32_t id, unsigned char service = 0);
+    // A category by its id. Warrants number their categories for themselves: name their service for one of
+    // theirs.
+    std::optional<StoredCategory> category(std::int32_t id, unsigned char service = 0);
 
     // The symbols of the store, read at the first use; also the host's symbol search.
     SymbolTable& symbols();

@@ -11,6 +11,10 @@ namespace wirepane {
 
 namespace {
 
+StoredCategory categoryIn(Query& row) {
+    return {row.smallNumber(0), row.text(1), row.text(2)};
+}
+
 bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
     return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
 }
@@ -37,7 +41,7 @@ StoreReader::StoreReader(Database& database)
                     "SELECT id, name, colour FROM service_categories "
                     "JOIN categories ON categories.space = service_categories.space AND id = category "
                     "WHERE service = ? ORDER BY category"),
-      oneColour(database, "SELECT colour FROM categories WHERE space = ? AND id = ?"),
+      oneCategory(database, "SELECT id, name, colour FROM categories WHERE space = ? AND id = ?"),
       byCategory(database,
                  "SELECT time, sequence FROM headlines WHERE service = ? AND category = ? AND time >= ? AND "
                  "time < ? ORDER BY time DESC, sequence DESC"),
@@ -84,13 +88,15 @@ std::optional<StoredService> StoreReader::service(unsigned char id) {
 std::vector<StoredCategory> StoreReader::categories(unsigned char service) {
     std::vector<StoredCategory> found;
     for (Query query(allCategories, service); query.next();)
-        found.push_back({query.smallNumber(0), query.text(1), query.text(2)});
+        found.push_back(categoryIn(query));
     return found;
 }
 
-QString StoreReader::categoryColour(unsigned char service, std::int32_t id) {
-    Query query(oneColour, categorySpaceOf(service), id);
-    return query.next() ? query.text(0) : QString();
+std::optional<StoredCategory> StoreReader::category(unsigned char service, std::int32_t id) {
+    Query query(oneCategory, categorySpaceOf(service), id);
+    if (!query.next())
+        return std::nullopt;
+    return categoryIn(query);
 }
 
 int StoreReader::appendCategory(std::vector<CHeadlineTable>& table, unsigned char service,

@@ -43,8 +43,8 @@ public:
     std::optional<StoredService> service(unsigned char id);
     // By id.
     std::vector<StoredCategory> categories(unsigned char service);
-    // The colour of a category id of this service's numbering (see categorySpaceOf); empty: none.
-    QString categoryColour(unsigned char service, std::int32_t id);
+    // The category with an id of this service's numbering (see categorySpaceOf).
+    std::optional<StoredCategory> category(unsigned char service, std::int32_t id);
 
     // Append the entries of a category, or of a symbol, within `bounds` to `table`, newest first. A related
     // symbol whose market is not known (0) counts for its code in every market. Result: how many.
@@ -66,7 +66,7 @@ private:
     Statement allServices;
     Statement oneService;
     Statement allCategories;
-    Statement oneColour;
+    Statement oneCategory;
     Statement byCategory;
     Statement bySymbol;
     Statement oneHeadline;

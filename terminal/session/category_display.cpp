@@ -5,6 +5,8 @@
 #include "backend/database/statement.h"
 #include "backend/store/embedded_back_end.h"
 #include "host/contract/fixed_services.h"
+#include "terminal/settings/terminal_settings.h"
+#include "terminal/settings/topic_tones.h"
 
 #include <algorithm>
 #include <chrono>
@@ -43,16 +45,26 @@ void putMostUsedFirst(std::vector<CategoryName>& categories, const QString& stor
 
 }  // namespace
 
-CategoryDisplay::CategoryDisplay(EmbeddedBackEnd& embedded) : backEnd(embedded) {}
+CategoryDisplay::CategoryDisplay(EmbeddedBackEnd& embedded, const TerminalSettings& terminalSettings)
+    : backEnd(embedded), settings(terminalSettings) {}
 
 void CategoryDisplay::GetNewsCatColor(int categoryId, QColor& text, QColor& background) {
-    text = backEnd.categoryColour(categoryId);
+    text = colourOf(categoryId, 0);
     background = QColor();
 }
 
 void CategoryDisplay::warrantCatColor(int categoryId, QColor& text, QColor& background) {
-    text = backEnd.categoryColour(categoryId, warrantService);
+    text = colourOf(categoryId, warrantService);
     background = QColor();
+}
+
+QColor CategoryDisplay::colourOf(int categoryId, unsigned char service) {
+    const std::optional<StoredCategory> category = backEnd.category(categoryId, service);
+    if (!category)
+        return schemeColour(settings.scheme(), ColourRole::Weak);
+    const QColor own(category->colour);
+    return topicColour(settings.scheme(),
+                       own.isValid() ? topicToneNear(own) : topicToneOfName(category->name));
 }
 
 std::vector<CategoryName> categoryNames(EmbeddedBackEnd& backEnd) {

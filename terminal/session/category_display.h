@@ -5,22 +5,28 @@
 #include "host/contract/item_display.h"
 #include "terminal/settings/module_files.h"
 
+#include <QColor>
+
 #include <vector>
 
 namespace wirepane {
 class EmbeddedBackEnd;
+class TerminalSettings;
 
-// The colours of news categories, as the store has them.
+// The colours of news categories: the tones of the scheme that come nearest to what the store has.
 class CategoryDisplay : public TRVItemDisplay {
 public:
-    // Not owned.
-    explicit CategoryDisplay(EmbeddedBackEnd& backEnd);
+    // Neither is owned.
+    CategoryDisplay(EmbeddedBackEnd& backEnd, const TerminalSettings& settings);
 
     void GetNewsCatColor(int categoryId, QColor& text, QColor& background) override;
     void warrantCatColor(int categoryId, QColor& text, QColor& background) override;
 
 private:
+    QColor colourOf(int categoryId, unsigned char service);
+
     EmbeddedBackEnd& backEnd;
+    const TerminalSettings& settings;
 };
 
 // The categories of all services but the warrant service (which names its own to the module), each id once.

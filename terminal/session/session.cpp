@@ -128,7 +128,7 @@ Done Session::start(const SessionOptions& options) {
     PagePainter::install(painter.get());
     if (const Done fed = startFeed(options); !fed)
         return fed;
-    categoryDisplay = std::make_unique<CategoryDisplay>(*store);
+    categoryDisplay = std::make_unique<CategoryDisplay>(*store, *terminalSettings);
     TRVItemDisplay::setItemDisplay(categoryDisplay.get());
     const auto module = loadModule();
     if (!module)

@@ -62,6 +62,14 @@ void TerminalSettings::setScheme(ColourScheme scheme) {
     store(u"scheme"_s, schemeName(scheme));
 }
 
+bool TerminalSettings::greenIsUp() const {
+    return stored(u"greenIsUp"_s).toBool(false);
+}
+
+void TerminalSettings::setGreenIsUp(bool isGreen) {
+    store(u"greenIsUp"_s, isGreen);
+}
+
 int TerminalSettings::fontSize() const {
     return std::clamp(stored(u"fontSize"_s).toInt(defaultFont), smallestFont, largestFont);
 }
@@ -107,7 +115,7 @@ void TerminalSettings::setFrameGeometry(const QByteArray& geometry) {
 }
 
 QColor TerminalSettings::SYS_crGetOtherColor(const QString& name) {
-    return schemeColour(scheme(), name);
+    return schemeColour(scheme(), name, greenIsUp());
 }
 
 QFont TerminalSettings::SYS_fntGetViewFont() {

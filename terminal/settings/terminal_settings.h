@@ -31,6 +31,9 @@ public:
 
     ColourScheme scheme() const;
     void setScheme(ColourScheme scheme);
+    // Whether quotes that rise are green and those that fall red; else the other way round.
+    bool greenIsUp() const;
+    void setGreenIsUp(bool isGreen);
     // Points, always within the limits above.
     int fontSize() const;
     void setFontSize(int points);

@@ -168,9 +168,9 @@ TEST_F(EmbeddedBackEndTest, ServicesAndCategoriesAreThoseOfTheStore) {
     EXPECT_FALSE(backEnd.bNewsAPI_GetNewsCatId(77, ids, names));
     EXPECT_TRUE(ids.empty() && names.empty());
     EXPECT_TRUE(takeIn(CategoryItem{2, 3, u"Announcements"_s, u"#102030"_s}) == Take::TakenIn);
-    EXPECT_EQ(backEnd.categoryColour(3), QColor(0x10, 0x20, 0x30));
-    EXPECT_NE(backEnd.categoryColour(3, 52), QColor(0x10, 0x20, 0x30));
-    EXPECT_FALSE(backEnd.categoryColour(1000).isValid());
+    EXPECT_EQ(backEnd.category(3)->colour, u"#102030"_s);
+    EXPECT_NE(backEnd.category(3, 52)->colour, u"#102030"_s);
+    EXPECT_FALSE(backEnd.category(1000).has_value());
 }
 
 TEST_F(EmbeddedBackEndTest, RequestsAndRegistrationsAreWrittenDown) {

@@ -4,7 +4,6 @@
 
 #include "terminal/settings/settings_file.h"
 #include "terminal/settings/terminal_settings.h"
-#include "tests/support/contrast.h"
 
 #include <QTemporaryDir>
 
@@ -68,26 +67,6 @@ TEST(TerminalSettingsTest, TakesValuesThatMakeNoSenseAsDefaults) {
     EXPECT_EQ(settings.scheme(), ColourScheme::Light);
     EXPECT_EQ(settings.SYS_eGetPopupWndPosition(), 1);
     EXPECT_TRUE(settings.frameGeometry().isEmpty());
-}
-
-TEST(ColourSchemeTest, TextIsReadableOnEveryGround) {
-    const QString text = u"COLOR_LISTCTL_NORMALTEXT"_s;
-    const std::pair<QString, QString> pairs[] = {
-        {text, u"COLOR_LISTCTL_BACKGROUND"_s},
-        {text, u"COLOR_LISTCTL_BACKGROUNDSLASH"_s},
-        {text, u"COLOR_LISTCTL_CLICKLINE"_s},
-        {text, u"COLOR_LISTCTL_CLICKLINE_GRAY"_s},
-        {u"COLOR_LISTCTL_HDTEXTCOLOR1"_s, u"COLOR_LISTCTL_HDBkCOLOR1"_s},
-    };
-    for (const ColourScheme scheme : {ColourScheme::Light, ColourScheme::Dark}) {
-        for (const auto& [front, ground] : pairs) {
-            const QColor frontColour = schemeColour(scheme, front);
-            const QColor groundColour = schemeColour(scheme, ground);
-            ASSERT_TRUE(frontColour.isValid() && groundColour.isValid()) << ground.toStdString();
-            EXPECT_GE(contrast(frontColour, groundColour), 4.5) << ground.toStdString();
-        }
-    }
-    EXPECT_FALSE(schemeColour(ColourScheme::Dark, u"COLOR_UNKNOWN"_s).isValid());
 }
 
 }  // namespace
