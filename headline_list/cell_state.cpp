@@ -15,9 +15,9 @@ const WrittenCells* CellState::find(const HeadlineKey& key) const {
     return it == written.constEnd() ? nullptr : &*it;
 }
 
-void CellState::write(const HeadlineKey& key, const WrittenCells& cells) {
+void CellState::write(const HeadlineKey& key, WrittenCells&& cells) {
     otherTimeForm.remove(key);
-    written.insert(key, cells);
+    written.emplace(key, std::move(cells));
 }
 
 void CellState::forget(const HeadlineKey& key) {

@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QSet>
 #include <QString>
+#include <QVarLengthArray>
 
 #include <vector>
 
@@ -16,12 +17,12 @@ enum class HeadlineColumn;
 
 // What was written into a row.
 struct WrittenCells {
-    std::vector<QString> texts;  // by HeadlineColumn
-    QColor categoryColour;       // of the category's text; invalid: the grid's own
-    bool showDate = false;       // the time is written with its date
+    QVarLengthArray<QString, 4> texts;  // by HeadlineColumn
+    QColor categoryColour;              // of the category's text; invalid: the grid's own
+    bool showDate = false;              // the time is written with its date
 
-    const QString& textOf(HeadlineColumn column) const { return texts[static_cast<std::size_t>(column)]; }
-    QString& textOf(HeadlineColumn column) { return texts[static_cast<std::size_t>(column)]; }
+    const QString& textOf(HeadlineColumn column) const { return texts[static_cast<qsizetype>(column)]; }
+    QString& textOf(HeadlineColumn column) { return texts[static_cast<qsizetype>(column)]; }
 };
 
 // The cells that were written, by headline: a row that moves keeps its texts without being touched. Rows that
@@ -34,7 +35,7 @@ public:
     int size() const { return static_cast<int>(written.size()); }
     // Null when the headline's row has not been written, or its texts have been let go.
     const WrittenCells* find(const HeadlineKey& key) const;
-    void write(const HeadlineKey& key, const WrittenCells& cells);
+    void write(const HeadlineKey& key, WrittenCells&& cells);
     void forget(const HeadlineKey& key);
     void clear();
 

@@ -110,7 +110,7 @@ void HeadlineList::writeHeadline(int row, const CHeadline& headline, bool showDa
     WrittenCells written{{}, categoryColour(headline.service, category), showDate};
     for (const HeadlineColumnKind& column : headlineColumns)
         written.texts.push_back(column.text({headline, showDate, backEnd, owner}));
-    writeCells(row, written);
+    writeCells(row, std::move(written));
 }
 
 // What is said of a row whose headline is not at hand.
@@ -135,7 +135,7 @@ void HeadlineList::vFillSheet(int row, const QString& time, const QString& categ
     written.textOf(HeadlineColumn::Category) = category;
     written.textOf(HeadlineColumn::Title) = title;
     written.categoryColour = categoryColour(table.at(row).service, category);
-    writeCells(row, written);
+    writeCells(row, std::move(written));
 }
 
 // By the name as the catalogue has it, not as it is shown.
@@ -147,10 +147,10 @@ QColor HeadlineList::categoryColour(unsigned char service, const QString& name) 
     return text;
 }
 
-void HeadlineList::writeCells(int row, const WrittenCells& written) {
+void HeadlineList::writeCells(int row, WrittenCells&& written) {
     if (sheet == nullptr || row < 0 || row >= table.size())
         return;
-    cells.write(keyOf(table.at(row)), written);
+    cells.write(keyOf(table.at(row)), std::move(written));
     if (cells.size() > CellState::enough)
         letCellsGo();
     sheet->invalidateRow(row);

@@ -129,7 +129,7 @@ private:
     void writeHeadline(int row, const CHeadline& headline, bool showDate);
     WrittenCells placeholdersOf(const CHeadlineTable& entry, bool showDate) const;
     QColor categoryColour(unsigned char service, const QString& name) const;
-    void writeCells(int row, const WrittenCells& written);
+    void writeCells(int row, WrittenCells&& written);
     void letCellsGo();
     void forgetCells(const HeadlineKey& key);
 
