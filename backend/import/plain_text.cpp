@@ -103,7 +103,8 @@ private:
         if (tag.name.compare("pre"_L1, Qt::CaseInsensitive) == 0)
             preformatted = !tag.closing;
         gap = gap || tag.effect == TagEffect::Gap;
-        paragraphEnd = paragraphEnd || tag.effect == TagEffect::Paragraph;
+        if (tag.effect == TagEffect::Paragraph)
+            endParagraph();
         if (tag.effect == TagEffect::Hidden && !tag.closing && !tag.isEmpty)
             skipContent(tag.name);
         return true;
@@ -135,23 +136,36 @@ private:
     // A blank, or characters that start with none.
     void add(QStringView characters) {
         const QChar c = characters.front();
+        if (preformatted && c == u'\n') {
+            endParagraph();
+            return;
+        }
         if (isBlank(c)) {
             gap = true;
-            paragraphEnd = paragraphEnd || (preformatted && c == u'\n');
+            if (preformatted)
+                blanks += c == QChar::Nbsp ? QChar(u' ') : c;
             return;
         }
         if (!plain.isEmpty() && paragraphEnd)
             plain += "\n\n"_L1;
-        else if (!plain.isEmpty() && gap)
+        else if (!plain.isEmpty() && gap && blanks.isEmpty())
             plain += u' ';
+        plain += blanks;
+        blanks.clear();
         gap = paragraphEnd = false;
         plain += characters;
+    }
+
+    void endParagraph() {
+        paragraphEnd = true;
+        blanks.clear();
     }
 
     QStringView text;
     MarkupTags tags;
     QString plain;
     qsizetype at = 0;
+    QString blanks;             // of <pre>, since the last character of the line
     bool gap = false;           // white space since the last character
     bool paragraphEnd = false;  // a block began or ended since the last character
     bool preformatted = false;

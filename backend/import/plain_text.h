@@ -11,7 +11,8 @@ namespace wirepane {
 // text. The result is text: what looks like markup in it is to be shown as it stands.
 
 // The text of HTML or XHTML: tags, comments, scripts and styles dropped, entities decoded, white space
-// folded, and a blank line between the paragraphs (blocks, list items, table rows, <br>, lines of <pre>).
+// folded but inside the lines of <pre>, and a blank line between the paragraphs (blocks, list items, table
+// rows, <br>, lines of <pre>).
 QString plainText(QStringView markup);
 
 // The text of a value of which its format does not say whether it is text or markup: as plainText() where it
