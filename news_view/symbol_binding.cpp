@@ -77,12 +77,13 @@ bool SymbolBinding::lacksMarket(unsigned char service) const {
 }
 
 void SymbolBinding::offerMarkets() {
-    auto* combo = controls.find<SCComboBox>(ids::serviceCombo);
+    const auto* combo = controls.find<SCComboBox>(ids::serviceCombo);
     const int chosen = combo != nullptr ? combo->currentIndex() : -1;
-    const unsigned char market = chosen >= 0 ? serviceAt(chosen) : current.market;
-    unsigned char selected = market;
-    if (iInitServiceComboBox(selected) >= 0 && serviceIndex(market) >= 0)
-        selectService(serviceIndex(market));
+    const unsigned char before = chosen >= 0 ? serviceAt(chosen) : current.market;
+    unsigned char selected = before;
+    iInitServiceComboBox(selected);
+    if (serviceIndex(current.market) < 0 && serviceIndex(before) >= 0)
+        selectService(serviceIndex(before));
 }
 
 QString SymbolBinding::marketName(unsigned char service) const {

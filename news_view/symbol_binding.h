@@ -41,7 +41,8 @@ public:
 
     // Whether a market that the service combo may offer is not offered.
     bool lacksMarket(unsigned char service) const;
-    // Fills the service combo with the markets of this moment; its choice stays, where it is still offered.
+    // Fills the service combo with the markets of this moment. It chooses that of the current symbol; where
+    // that is not offered, its choice stays if it still is.
     void offerMarkets();
     // Names the markets that are offered in the language in force, if they are to be.
     void nameMarkets();

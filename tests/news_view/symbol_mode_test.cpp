@@ -137,6 +137,16 @@ TEST_F(SymbolModeTest, AMarketThatComesLaterLeavesTheChoice) {
     EXPECT_NE(markets.currentText(), u"興櫃股票");
 }
 
+TEST_F(SymbolModeTest, AMarketThatComesLaterIsChosenWhereTheSymbolIsOfIt) {
+    backEnd.unauthorised = {122};
+    open();
+    mode.take({122, u"4001"_s});
+    backEnd.unauthorised.clear();
+    mode.takeUpdates({{122, u"4001"_s}});
+    EXPECT_EQ(controls.find<SCComboBox>(ids::serviceCombo)->currentText(), u"興櫃股票");
+    EXPECT_EQ(mode.chosen(), (CSymbolInfo{122, u"4001"_s})) << "and both combos name the same market";
+}
+
 TEST_F(SymbolModeTest, ALinkedSymbolIsFollowedWhereItHasNews) {
     open();
     EXPECT_TRUE(mode.take(foods));
