@@ -102,6 +102,7 @@ void Days::follow(const CMarketStatus& status) {
     } catch (const std::invalid_argument&) {
         return;
     }
+    const bool isAnother = day != pager.pickedDate();
     parts.services.showDate(static_cast<std::size_t>(entry), status.date);
     picker->showDate(day);
     pager.startNewsDay(day, picker->date());
@@ -111,7 +112,8 @@ void Days::follow(const CMarketStatus& status) {
     }
     tellNewDay(status.service);
     readCurrentDates();
-    if (parts.settings.options[ViewOption::ReadMissedTables])
+    // Each service tells of the day; the warrants of it are read when the first does.
+    if (isAnother && parts.settings.options[ViewOption::ReadMissedTables])
         calls.readNowOrWhenShown(ListIndex::Warrant);
 }
 
