@@ -7,7 +7,6 @@
 #include "tests/backend/import/recording_sink.h"
 
 #include <QDirIterator>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -168,14 +167,11 @@ TEST_F(RealNews, FeedTimesAreAsTheirFilesSay) {
 }
 
 TEST_F(RealNews, EveryFeedFileComesToAnEnd) {
-    QElapsedTimer clock;
-    clock.start();
     for (const QString& path : files(u"feeds"_s, u"*.xml"_s)) {
         const auto out = readAll(bytesOf(path));
         const bool broken = path.contains(u"rss_incomplete_cdata");
         EXPECT_FALSE(broken && out.rejections.empty() && out.refusal.isEmpty());
     }
-    EXPECT_LT(clock.elapsed(), 10'000);
 }
 
 // Every file of the format: its items are news, or say why they are not. Most of the small files have no
