@@ -11,8 +11,7 @@ namespace wirepane {
 class LineChannel;
 
 // A sender at the other end of a channel: its lines are a source, and it is told how far they have been
-// taken. Its handshake is answered {"position": TEXT}, the position kept for its source; to what is on
-// the disk,
+// taken. Its handshake is answered {"position": TEXT}, the position kept for its source; what is on the disk,
 // {"lines": so far, "takenIn": n, "alreadyThere": n, "rejected": n, "rejections": [{"place", "reason"}]}; and
 // {"error": TEXT} when the store cannot say.
 class FeedConnection : public LineSource {

@@ -29,9 +29,7 @@ std::optional<Error> symbolFault(const QString& code) {
 }
 
 bool isColour(const QString& text) {
-    const auto isHex = [](QChar c) {
-        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
-    };
+    const auto isHex = [](QChar c) { return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f'); };
     return text.size() == 7 && text.front() == u'#' && std::all_of(text.begin() + 1, text.end(), isHex);
 }
 

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What a user of the keyboard, the mouse and a screen reader finds in the news view.
-#include "host/controls/my_rich_edit.h"
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/views/news_control_ids.h"
 #include "story/trv_news_story.h"
@@ -197,22 +196,6 @@ TEST_F(HandsOnTest, WhatClosesGivesTheKeyboardBack) {
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << c.what;
         EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == holder; })) << c.what;
     }
-}
-
-TEST_F(HandsOnTest, TheStoryScrollsByItsKeys) {
-    MyRichEdit story;
-    story.resize(300, 100);
-    story.showText(u"line\n"_s.repeated(200));
-    story.show();
-    const QScrollBar* bar = story.verticalScrollBar();
-    QTest::keyClick(&story, Qt::Key_PageDown);
-    EXPECT_GT(bar->value(), 1);
-    QTest::keyClick(&story, Qt::Key_End, Qt::ControlModifier);
-    EXPECT_EQ(bar->value(), bar->maximum());
-    QTest::keyClick(&story, Qt::Key_Up);
-    EXPECT_EQ(bar->value(), bar->maximum() - 1);
-    QTest::keyClick(&story, Qt::Key_Home);
-    EXPECT_EQ(bar->value(), 0);
 }
 
 }  // namespace wirepane

@@ -314,6 +314,22 @@ TEST(RichEdit, KeepsTheSelectionInSightWithoutTheKeyboard) {
     EXPECT_LT(std::abs(edit->cursorRect().center().y() - 50), 30) << "at an edge it would be further away";
 }
 
+TEST(RichEdit, ScrollsByItsKeys) {
+    MyRichEdit edit;
+    edit.resize(300, 100);
+    edit.showText(QStringLiteral("line\n").repeated(200));
+    edit.show();
+    const QScrollBar* bar = edit.verticalScrollBar();
+    QTest::keyClick(&edit, Qt::Key_PageDown);
+    EXPECT_GT(bar->value(), 1);
+    QTest::keyClick(&edit, Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(bar->value(), bar->maximum());
+    QTest::keyClick(&edit, Qt::Key_Up);
+    EXPECT_EQ(bar->value(), bar->maximum() - 1);
+    QTest::keyClick(&edit, Qt::Key_Home);
+    EXPECT_EQ(bar->value(), 0);
+}
+
 TEST(TipWindow, StandsCentredOnThePointAndGoesInTime) {
     QWidget window;
     window.show();
