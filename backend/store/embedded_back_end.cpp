@@ -401,14 +401,14 @@ bool EmbeddedBackEnd::BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& ser
 bool EmbeddedBackEnd::BKQNEWS_bGetFullNameByService(QString& name, unsigned char service) {
     const std::optional<StoredService> found = reader.service(service);
     if (found)
-        name = found->fullName;
+        name = nameOfService(found->fullName);
     return found.has_value();
 }
 
 bool EmbeddedBackEnd::BKQNEWS_bGetShortNameByService(QString& name, unsigned char service) {
     const std::optional<StoredService> found = reader.service(service);
     if (found)
-        name = found->shortName;
+        name = nameOfService(found->shortName);
     return found.has_value();
 }
 

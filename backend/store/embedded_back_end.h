@@ -151,6 +151,8 @@ public:
     // The symbols of the store, read at the first use; also the host's symbol search.
     SymbolTable& symbols();
 
+    // What services are called whose names in the store are these. At first: so.
+    void nameServicesBy(std::function<QString(const QString&)> naming) { nameOfService = std::move(naming); }
     void setConvertsToSimplified(bool on) { simplified = on; }  // at first: false
     void setSysPath(const QString& path) { sysPath = path; }    // at first: the contract's default
     const QString& storePath() const { return connections.reading->path(); }
@@ -272,6 +274,7 @@ private:
     std::map<NewsReceiver*, std::set<unsigned char>> registrations;
     bool connected = true;
     bool simplified = false;
+    std::function<QString(const QString&)> nameOfService = [](const QString& stored) { return stored; };
     QString sysPath;
     NewsDelivery delivery;
     TableAnnouncements announcements;

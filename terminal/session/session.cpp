@@ -122,6 +122,7 @@ Done Session::start(const SessionOptions& options) {
     if (const Done opened = openStore(options, wanted); !opened)
         return opened;
     store->setSysPath(configFolder);
+    store->nameServicesBy(shownServiceName);
     BKQuoteInterface::setBKInterface(store.get());
     SearchControl::setSearchObjInterface(&store->symbols());
     painter = std::make_unique<BackgroundPainter>();
