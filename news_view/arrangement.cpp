@@ -11,9 +11,11 @@
 #include "news_view/news_services.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_context.h"
+#include "news_view/view_settings.h"
 
 #include <QStyle>
 
+#include <algorithm>
 #include <utility>
 
 namespace wirepane {
@@ -41,8 +43,25 @@ LayoutInput Arrangement::input() const {
     in.showType = calls.showType();
     in.hasStoryPane = stage.storyPane() != nullptr;
     in.hasRelatedQuotes = stage.relatedQuotes() != nullptr;
+    in.aligned = isAligned();
+    if (in.aligned)
+        in.needs = needs();
     in.hasAllNewsGrid = parts.lists[ListIndex::All].grid() != nullptr;
     return in;
+}
+
+bool Arrangement::isAligned() const {
+    return parts.settings.options[ViewOption::AlignControls];
+}
+
+ButtonNeeds Arrangement::needs() const {
+    const auto of = [this](int id) { return parts.controls.neededWidth(id); };
+    return {of(ids::serviceButton),
+            std::max(of(ids::relationSearchButton), of(ids::warningSearchButton)),
+            of(ids::searchButton),
+            of(ids::dealsSearchButton),
+            of(ids::showTypeButton),
+            {of(ids::pageDownButton), of(ids::pageUpButton), of(ids::saveAsButton), of(ids::printButton)}};
 }
 
 ViewLayout Arrangement::layout() const {
@@ -50,6 +69,8 @@ ViewLayout Arrangement::layout() const {
 }
 
 void Arrangement::place() {
+    if (isAligned())
+        parts.controls.showIcons(calls.showType());
     const ViewLayout places = layout();
     parts.controls.place(places);
     stage.place(places.storyPane, places.storyHidesHeadline, places.relatedQuotes);

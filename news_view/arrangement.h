@@ -37,6 +37,8 @@ public:
 
 private:
     LayoutInput input() const;
+    bool isAligned() const;
+    ButtonNeeds needs() const;
 
     ViewContext& view;
     const CommonParts parts;

@@ -3,6 +3,7 @@
 #include "news_view/control_set.h"
 
 #include "headline_list/language_keys.h"
+#include "host/controls/line_icon.h"
 #include "host/controls/plain_caption.h"
 #include "host/controls/quote_combo_box_auto.h"
 #include "host/controls/s_button.h"
@@ -43,6 +44,29 @@ constexpr std::array buttonTexts{
     ButtonText{ids::printButton, keys::storyPrint},
     ButtonText{ids::saveAsButton, keys::storySaveAs},
 };
+
+struct ButtonIcon {
+    int id;
+    LineIcon icon;
+};
+
+constexpr std::array buttonIcons{
+    ButtonIcon{ids::serviceButton, LineIcon::Services},
+    ButtonIcon{ids::relationSearchButton, LineIcon::Relation},
+    ButtonIcon{ids::dealsSearchButton, LineIcon::Advanced},
+    ButtonIcon{ids::warningSearchButton, LineIcon::Bell},
+    ButtonIcon{ids::searchButton, LineIcon::Search},
+    ButtonIcon{ids::pageDownButton, LineIcon::Next},
+    ButtonIcon{ids::pageUpButton, LineIcon::Prev},
+    ButtonIcon{ids::saveAsButton, LineIcon::Save},
+    ButtonIcon{ids::printButton, LineIcon::Print},
+};
+
+LineIcon iconOf(StoryShowType showType) {
+    if (showType == StoryShowType::Right)
+        return LineIcon::LayoutRight;
+    return showType == StoryShowType::Below ? LineIcon::LayoutBelow : LineIcon::LayoutList;
+}
 
 // Controls without words on them, as they are called.
 constexpr std::array controlNames{
@@ -191,6 +215,20 @@ void ControlSet::place(const ViewLayout& layout) {
         if (QWidget* control = controls.value(placement.id))
             control->setGeometry(layout.*placement.place);
     }
+}
+
+void ControlSet::showIcons(StoryShowType showType) {
+    for (const ButtonIcon& row : buttonIcons) {
+        if (auto* button = find<SButton>(row.id); button != nullptr && button->icon().isNull())
+            button->setIcon(lineIcon(row.icon));
+    }
+    if (auto* button = find<SButton>(ids::showTypeButton))
+        button->setIcon(lineIcon(iconOf(showType)));
+}
+
+int ControlSet::neededWidth(int id) const {
+    const auto* button = find<SButton>(id);
+    return button != nullptr ? button->widthWithIcon() : 0;
 }
 
 void ControlSet::setFont(const QFont& font) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/view_kinds.h"
+
 #include <QDate>
 #include <QFont>
 #include <QHash>
@@ -42,6 +44,10 @@ public:
     // Shows the controls of the mode and hides the other switchable ones.
     void showControlsOf(ListIndex mode);
     void place(const ViewLayout& layout);
+    // Gives the buttons their icons; that of the layout button is the one of the present layout.
+    void showIcons(StoryShowType showType);
+    // What the button needs for its icon and its text; 0 when there is no such button.
+    int neededWidth(int id) const;
     void setFont(const QFont& font);
     // Sets every text in the language in force.
     void loadTexts();

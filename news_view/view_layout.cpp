@@ -9,6 +9,8 @@ namespace wirepane {
 namespace {
 
 constexpr int margin = 4;
+constexpr int alignedMargin = 8;
+constexpr int iconAlone = 28;  // the width of a button that shows no text
 constexpr int paneMargin = 10;
 
 QRect between(int left, int top, int right, int bottom) {
@@ -27,6 +29,14 @@ struct Frame {
 // The tab strip with the show-type button at its right end; returns the height of the band.
 int layOutTabs(const LayoutInput& in, const Frame& frame, int unit, ViewLayout& out) {
     const int height = in.firstTabHeight > 0 ? in.firstTabHeight + 2 : in.fontHeight + 6;
+    if (in.aligned) {
+        const int right = frame.right - alignedMargin;
+        const int left = right - std::max(unit, in.needs.showType);
+        const int buttonHeight = std::min(in.fontHeight + 4, height);
+        out.tabStrip = between(frame.left, frame.top, left - margin, frame.top + height);
+        out.showTypeButton = QRect(left, frame.top + (height - buttonHeight) / 2, right - left, buttonHeight);
+        return height;
+    }
     const int stripRight = frame.right - 6 - unit;
     out.tabStrip = between(frame.left, frame.top, stripRight, frame.top + height);
     out.showTypeButton = between(stripRight, frame.top, frame.right - 3, frame.top + height);
@@ -37,23 +47,24 @@ int layOutTabs(const LayoutInput& in, const Frame& frame, int unit, ViewLayout& 
 int layOutControls(const LayoutInput& in, const Frame& frame, int top, int bottom, int unit,
                    ViewLayout& out) {
     const bool single = in.serviceCount == 1;
-    const int x0 = frame.left + margin;
-    const int a = single ? frame.left : frame.left + unit + 10;
+    const int x0 = frame.left + (in.aligned ? alignedMargin : margin);
+    const int a = single ? frame.left : std::max(frame.left + unit + 10, x0 + in.needs.service);
     const int dateWidth = widthOf(in.fontHeight, 120) + 6;
     const auto place = [&](int left, int width) {
         return between(std::max(left, x0), top, std::max(left, x0) + width, bottom);
     };
     out.serviceButton = single ? QRect(x0, top, 0, bottom - top) : between(x0, top, a, bottom);
-    out.relationButton = place(a + 2, unit);
+    out.relationButton = place(a + (in.aligned ? 4 : 2), std::max(unit, in.needs.relation));
     out.datePicker = place(a + 4, dateWidth);
     out.categoryCombo = place(a + 4, dateWidth + 20);
     out.serviceCombo = place(a + 4, in.serviceComboText + in.captionButtonWidth);
     const int symbolLeft = out.serviceCombo.x() + out.serviceCombo.width() + 4;
     out.symbolCombo = place(symbolLeft, in.symbolComboText + 25);
-    out.searchEdit = place(a + 3, 2 * (unit + 6));
-    const int searchLeft = out.searchEdit.x() + out.searchEdit.width() + 2;
-    out.searchButton = place(searchLeft, unit);
-    out.dealsButton = place(searchLeft + unit + 2, unit + 6);
+    const int gap = in.aligned ? 4 : 2;
+    out.searchEdit = place(a + (in.aligned ? 4 : 3), 2 * (unit + 6));
+    const int searchLeft = out.searchEdit.x() + out.searchEdit.width() + gap;
+    out.searchButton = place(searchLeft, std::max(unit, in.needs.search));
+    out.dealsButton = place(searchLeft + out.searchButton.width() + gap, std::max(unit + 6, in.needs.deals));
 
     int rightmost = 0;
     for (const QRect& control : {out.serviceButton, out.relationButton, out.datePicker, out.categoryCombo,
@@ -62,16 +73,47 @@ int layOutControls(const LayoutInput& in, const Frame& frame, int top, int botto
     return rightmost;
 }
 
+// Buttons that are as wide as their icons and texts, up to the right margin; without their texts where that
+// is too wide, and where that is, too, without the last ones.
+void layOutGrownButtons(const LayoutInput& in, const Frame& frame, int rightmost,
+                        const std::array<QRect*, 4>& buttons, const std::array<int, 4>& gaps, QRect place) {
+    const int right = frame.right - alignedMargin;
+    std::array<int, 4> widths = in.needs.output;
+    const auto needed = [&](std::size_t count) {
+        int sum = 0;
+        for (std::size_t i = 0; i < count; ++i)
+            sum += gaps[i] + widths[i];
+        return sum;
+    };
+    std::size_t shown = buttons.size();
+    if (rightmost + margin + needed(shown) > right)
+        widths.fill(iconAlone);
+    while (shown > 0 && rightmost + margin + needed(shown) > right)
+        --shown;
+    int x = right - needed(shown);
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        x += gaps[i];
+        place.setLeft(x);
+        place.setWidth(widths[i]);
+        *buttons[i] = i < shown ? place : QRect();
+        x += widths[i];
+    }
+}
+
 // The page buttons at the right of the control row: those that do not fit give way from the last one
 // backwards.
 void layOutPageButtons(const LayoutInput& in, const Frame& frame, int top, int bottom, int rightmost,
                        ViewLayout& out) {
+    const std::array buttons{&out.pageDown, &out.pageUp, &out.saveAs, &out.print};
+    const std::array gaps{0, 3, 3, 9};
+    if (in.aligned) {
+        layOutGrownButtons(in, frame, rightmost, buttons, gaps, QRect(0, top, 0, bottom - top));
+        return;
+    }
     const int width = widthOf(in.fontHeight, 80);
     const int space = std::min(frame.right - frame.left - rightmost, 4 * width + 24);
     const int fitting = space > 0 ? space / (width + 3) : 0;
-    const std::array buttons{&out.pageDown, &out.pageUp, &out.saveAs, &out.print};
     const std::array widths{width, width, width + 6, width + 6};
-    const std::array gaps{0, 3, 3, 9};
     int x = frame.right - space - 3;
     for (int i = 0; i < 4; ++i) {
         x += gaps[i];

@@ -10,6 +10,16 @@
 
 namespace wirepane {
 
+// What buttons need for icon and text, where the view grows them to that; 0: nothing.
+struct ButtonNeeds {
+    int service = 0;
+    int relation = 0;
+    int search = 0;
+    int deals = 0;
+    int showType = 0;
+    std::array<int, 4> output{};  // page down, page up, save as, print
+};
+
 // All that the layout of a news view depends on. Pixels of the view's client area.
 struct LayoutInput {
     QRect client;            // the client rectangle
@@ -25,6 +35,8 @@ struct LayoutInput {
     bool hasStoryPane = false;
     bool hasRelatedQuotes = false;
     bool hasAllNewsGrid = false;
+    bool aligned = false;  // controls keep one margin at either side, and buttons have what they need
+    ButtonNeeds needs;
 };
 
 // Where everything goes. An empty rectangle means: no room.

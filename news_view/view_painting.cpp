@@ -3,6 +3,7 @@
 // What the news view paints itself, and the colours and texts that it hands on.
 #include "headline_list/headline_list.h"
 #include "headline_list/language_keys.h"
+#include "host/contract/colour_roles.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/news_control_ids.h"
 #include "host/views/sheet_scheme.h"
@@ -22,6 +23,12 @@ bool TRVNewsCtrlView::OnEraseBkgnd(QPainter& painter) {
         return false;
     SendPaintLayout();
     painter.fillRect(rect(), colBackground);
+    // Strip and controls belong to the window, not to the list below them.
+    const ViewLayout places = parts->arrangement.layout();
+    painter.fillRect(0, 0, width(), places.grid.top(), roleColour(ColourRole::Raised, colBackground));
+    // Where the tabs end, so that it runs on beyond them.
+    painter.fillRect(0, places.tabStrip.bottom() - 2, width(), 1,
+                     roleColour(ColourRole::Line, colBackground));
     return true;
 }
 

@@ -27,6 +27,7 @@ enum class ViewOption {
     SeparateServiceNames,   // the names of services without news are told apart from one another
     StretchTitles,          // the title column takes what room its list has left
     MarketNames,            // markets are named in the language in force
+    AlignControls,          // controls keep one edge at either side, and bear icons beside their texts
     FollowNewest,           // the newest row is selected until the reader goes to one himself
     Count
 };
@@ -47,6 +48,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::SeparateServiceNames, QLatin1StringView("SeparateServiceNames")},
     {ViewOption::StretchTitles, QLatin1StringView("StretchTitles")},
     {ViewOption::MarketNames, QLatin1StringView("MarketNames")},
+    {ViewOption::AlignControls, QLatin1StringView("AlignControls")},
     {ViewOption::FollowNewest, QLatin1StringView("FollowNewest")},
 }};
 

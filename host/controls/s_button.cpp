@@ -22,6 +22,13 @@ QString SButton::literalText() const {
     return nameOfCaption(text());
 }
 
+int SButton::widthWithIcon() const {
+    constexpr int sideMargin = 6;
+    constexpr int gap = 4;
+    const int text = fontMetrics().size(Qt::TextShowMnemonic, this->text()).width();
+    return 2 * sideMargin + iconSize().width() + gap + text;
+}
+
 void SButton::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
@@ -31,6 +38,11 @@ void SButton::keyPressEvent(QKeyEvent* event) {
 
 void SButton::initStyleOption(QStyleOptionButton* option) const {
     QPushButton::initStyleOption(option);
+    if (!icon().isNull()) {
+        if (width() < widthWithIcon())
+            option->text.clear();
+        return;
+    }
     const QRect room = style()->subElementRect(QStyle::SE_PushButtonContents, option, this);
     option->text =
         option->fontMetrics.elidedText(option->text, Qt::ElideRight, room.width(), Qt::TextShowMnemonic);

@@ -18,6 +18,9 @@ public:
     void showText(const QString& text);
     // The text as showText took it.
     QString literalText() const;
+    // What it needs to show its icon and its text side by side. A narrower one that has an icon shows that
+    // alone.
+    int widthWithIcon() const;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

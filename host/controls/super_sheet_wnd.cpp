@@ -8,7 +8,7 @@
 #include "host/controls/sheet_header.h"
 #include "host/controls/thin_bar_style.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <QResizeEvent>
@@ -84,6 +84,8 @@ void CSuperSheetWnd::connectRows() {
 }
 
 void CSuperSheetWnd::setThinBar(bool thin) {
+    if (QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent) <= thin_bar::widest)
+        thin = false;
     auto* style = findChild<ThinBarStyle*>(QString(), Qt::FindDirectChildrenOnly);
     if (thin && style == nullptr)
         style = new ThinBarStyle(this);

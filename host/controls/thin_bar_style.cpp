@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/thin_bar_style.h"
 
+#include "host/contract/colour_roles.h"
+
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QPainter>
 #include <QStyleOptionSlider>
@@ -12,8 +15,9 @@ namespace wirepane {
 
 namespace {
 
+constexpr int shortestThumb = 24;
 constexpr int extent = 8;
-constexpr int shortestThumb = 20;
+constexpr int thumbWidth = 6;
 
 QRect thumb(const QStyleOptionSlider& bar) {
     const bool horizontal = bar.orientation == Qt::Horizontal;
@@ -29,7 +33,19 @@ QRect thumb(const QStyleOptionSlider& bar) {
                       : QRect(bar.rect.left(), bar.rect.top() + start, bar.rect.width(), size);
 }
 
-QRect part(const QStyleOptionSlider& bar, QStyle::SubControl subControl) {
+// What the bar scrolls lies on this ground.
+QColor groundOf(const QStyleOptionSlider& bar, const QWidget* widget) {
+    const QWidget* holder = widget != nullptr ? widget->parentWidget() : nullptr;
+    const auto* area =
+        qobject_cast<const QAbstractScrollArea*>(holder != nullptr ? holder->parentWidget() : nullptr);
+    if (area == nullptr)
+        return bar.palette.color(QPalette::Base);
+    return area->viewport()->palette().color(area->viewport()->backgroundRole());
+}
+
+}  // namespace
+
+QRect thin_bar::part(const QStyleOptionSlider& bar, QStyle::SubControl subControl) {
     const QRect slider = thumb(bar);
     QRect rest = bar.rect;
     switch (subControl) {
@@ -50,7 +66,22 @@ QRect part(const QStyleOptionSlider& bar, QStyle::SubControl subControl) {
     }
 }
 
-}  // namespace
+void thin_bar::draw(const QStyleOptionSlider& bar, QPainter& painter, const QWidget* widget) {
+    painter.fillRect(bar.rect, groundOf(bar, widget));
+    if (bar.maximum <= bar.minimum)
+        return;
+    const bool pointedAt = bar.state & (QStyle::State_Sunken | QStyle::State_MouseOver);
+    const QColor outline = roleColour(ColourRole::Border, bar.palette.color(QPalette::Dark));
+    const QColor strong = roleColour(ColourRole::Weak, bar.palette.color(QPalette::WindowText));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(pointedAt ? strong : outline);
+    const int thickness = bar.orientation == Qt::Horizontal ? bar.rect.height() : bar.rect.width();
+    const qreal inset = (thickness - thumbWidth) / 2.0;
+    painter.drawRoundedRect(QRectF(thumb(bar)).adjusted(inset, inset, -inset, -inset), 3, 3);
+    painter.restore();
+}
 
 ThinBarStyle::ThinBarStyle(QObject* parent) : QProxyStyle(QApplication::style()->name()) {
     setParent(parent);
@@ -64,7 +95,7 @@ QRect ThinBarStyle::subControlRect(ComplexControl control, const QStyleOptionCom
                                    SubControl subControl, const QWidget* widget) const {
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control == CC_ScrollBar && bar != nullptr)
-        return part(*bar, subControl);
+        return thin_bar::part(*bar, subControl);
     return QProxyStyle::subControlRect(control, option, subControl, widget);
 }
 
@@ -75,15 +106,7 @@ void ThinBarStyle::drawComplexControl(ComplexControl control, const QStyleOption
         QProxyStyle::drawComplexControl(control, option, painter, widget);
         return;
     }
-    painter->fillRect(bar->rect, bar->palette.window());
-    QColor colour = bar->palette.color(QPalette::WindowText);
-    colour.setAlpha(bar->state.testFlag(State_Sunken) ? 150 : 90);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(colour);
-    painter->drawRoundedRect(thumb(*bar).adjusted(1, 1, -1, -1), 3, 3);
-    painter->restore();
+    thin_bar::draw(*bar, *painter, widget);
 }
 
 }  // namespace wirepane

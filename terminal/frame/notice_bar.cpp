@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/notice_bar.h"
 
+#include "host/controls/line_icon.h"
+
 #include <QAction>
 #include <QEvent>
 #include <QLabel>
-#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -20,11 +21,12 @@ NoticeBar::NoticeBar(QWidget* parent) : QToolBar(parent), label(new QLabel) {
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setMargin(4);
+    label->setIndent(4);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     label->installEventFilter(this);
     addWidget(label);
-    const QAction* close = addAction(style()->standardIcon(QStyle::SP_TitleBarCloseButton), QString());
+    const QAction* close = addAction(lineIcon(LineIcon::Close), QString());
     connect(close, &QAction::triggered, this, [this] {
         label->clear();
         hide();

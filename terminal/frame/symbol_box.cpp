@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/symbol_box.h"
 
+#include "host/controls/line_icon.h"
 #include "terminal/frame/link_badge.h"
 #include "terminal/translations/terminal_text.h"
 
@@ -41,9 +42,10 @@ SymbolBox::SymbolBox(QWidget* parent)
     name->setTextFormat(Qt::PlainText);
     name->setMinimumWidth(1);
     line->setClearButtonEnabled(true);
+    line->addAction(lineIcon(LineIcon::Search, QPalette::PlaceholderText), QLineEdit::LeadingPosition);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(4, 3, 4, 3);
-    row->setSpacing(6);
+    row->setContentsMargins(8, 4, 8, 4);
+    row->setSpacing(8);
     row->addWidget(badge);
     row->addWidget(line);
     row->addWidget(name, 1);

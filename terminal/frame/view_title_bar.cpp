@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/view_title_bar.h"
 
+#include "host/controls/line_icon.h"
 #include "terminal/frame/link_badge.h"
 #include "terminal/translations/terminal_text.h"
 
@@ -15,45 +16,15 @@ namespace wirepane {
 
 namespace {
 
-constexpr int activeStripe = 2;  // pixels at the top
-
-// A flat button with a sign that is drawn in the palette's colours.
-class SignButton : public QToolButton {
-public:
-    enum class Sign { Float, Close };
-
-    SignButton(Sign shownSign, QWidget* parent) : QToolButton(parent), sign(shownSign) {
-        setAutoRaise(true);
-        setFocusPolicy(Qt::NoFocus);
-    }
-
-    QSize sizeHint() const override {
-        const int side = fontMetrics().height() + 3;
-        return {side, side};
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        if (underMouse())
-            painter.fillRect(rect(), palette().color(QPalette::Mid));
-        painter.setPen(QPen(palette().color(QPalette::ButtonText), 1.2));
-        const qreal side = std::min(width(), height()) * 0.42;
-        const QRectF square(QRectF(rect()).center() - QPointF(side / 2, side / 2), QSizeF(side, side));
-        if (sign == Sign::Close) {
-            painter.drawLine(square.topLeft(), square.bottomRight());
-            painter.drawLine(square.topRight(), square.bottomLeft());
-        } else {
-            painter.drawRect(square.adjusted(side * 0.25, 0, 0, -side * 0.25));
-            painter.drawLine(square.topLeft() + QPointF(0, side * 0.4), square.bottomLeft());
-            painter.drawLine(square.bottomLeft(), QPointF(square.right() - side * 0.35, square.bottom()));
-        }
-    }
-
-private:
-    Sign sign;
-};
+QToolButton* flatButton(LineIcon icon, QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setIcon(lineIcon(icon, QPalette::PlaceholderText));
+    button->setIconSize(QSize(14, 14));
+    button->setFixedSize(20, 20);
+    return button;
+}
 
 }  // namespace
 
@@ -61,14 +32,14 @@ ViewTitleBar::ViewTitleBar(QWidget* parent)
     : QWidget(parent),
       badge(new LinkBadge(this)),
       label(new QLabel(this)),
-      floatButton(new SignButton(SignButton::Sign::Float, this)),
-      closeButton(new SignButton(SignButton::Sign::Close, this)) {
+      floatButton(flatButton(LineIcon::Window, this)),
+      closeButton(flatButton(LineIcon::Close, this)) {
     label->setTextFormat(Qt::PlainText);
     label->setMinimumWidth(1);
     badge->setFocusPolicy(Qt::NoFocus);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(4, 3, 3, 3);
-    row->setSpacing(6);
+    row->setContentsMargins(8, 3, 8, 3);
+    row->setSpacing(8);
     row->addWidget(badge);
     row->addWidget(label, 1);
     row->addWidget(floatButton);
@@ -91,8 +62,9 @@ void ViewTitleBar::setGroup(unsigned char group) {
 void ViewTitleBar::setActive(bool isActive) {
     active = isActive;
     QFont font = label->font();
-    font.setBold(active);
+    font.setWeight(active ? QFont::DemiBold : QFont::Normal);
     label->setFont(font);
+    label->setForegroundRole(active ? QPalette::WindowText : QPalette::PlaceholderText);
     elide();
     update();
 }
@@ -114,10 +86,7 @@ void ViewTitleBar::resizeEvent(QResizeEvent* event) {
 }
 
 void ViewTitleBar::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.fillRect(rect(), palette().color(active ? QPalette::Button : QPalette::Window));
-    if (active)
-        painter.fillRect(0, 0, width(), activeStripe, palette().color(QPalette::Highlight));
+    QPainter(this).fillRect(rect(), palette().color(QPalette::Window));
 }
 
 void ViewTitleBar::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/indicators.h"
 
+#include "host/contract/colour_roles.h"
+
 #include <QPainter>
 #include <QStyleOption>
 
@@ -11,7 +13,7 @@ namespace wirepane {
 
 namespace {
 
-constexpr qreal corner = 2;
+constexpr qreal corner = 3;
 
 struct Colours {
     QColor edge;
@@ -22,14 +24,17 @@ struct Colours {
 Colours coloursOf(const QStyleOption& option) {
     const bool enabled = option.state.testFlag(QStyle::State_Enabled);
     const bool ticked = option.state & (QStyle::State_On | QStyle::State_NoChange);
-    const bool pointedAt = option.state & (QStyle::State_HasFocus | QStyle::State_MouseOver);
-    const auto group = enabled ? QPalette::Active : QPalette::Disabled;
-    const QColor accent = option.palette.color(group, QPalette::Highlight);
-    QColor edge = option.palette.color(group, QPalette::Text);
-    edge.setAlphaF(enabled ? 0.55F : 0.3F);
-    return {ticked || (enabled && pointedAt) ? accent : edge,
-            ticked ? accent : option.palette.color(group, QPalette::Base),
-            option.palette.color(group, QPalette::HighlightedText)};
+    const QColor accent = option.palette.color(QPalette::Link);
+    const QColor ground = option.palette.color(QPalette::Base);
+    if (!enabled)
+        return {option.palette.color(QPalette::Disabled, QPalette::Text), ground,
+                option.palette.color(QPalette::Disabled, QPalette::Text)};
+    QColor edge = option.palette.color(QPalette::Dark);
+    if (ticked || option.state.testFlag(QStyle::State_HasFocus))
+        edge = accent;
+    else if (option.state.testFlag(QStyle::State_MouseOver))
+        edge = option.palette.color(QPalette::Text);
+    return {edge, ticked ? accent : ground, roleColour(ColourRole::OnAccent, ground)};
 }
 
 // The largest square in the middle, on the middles of pixels.
@@ -56,9 +61,6 @@ void drawCheckBox(const QStyleOption& option, QPainter& painter) {
         return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
     };
     beginIndicator(painter, colours);
-    // On a selected row the ground is the accent itself.
-    if (option.state.testFlag(QStyle::State_Selected))
-        painter.setPen(colours.mark);
     painter.drawRoundedRect(box, corner, corner);
     painter.setPen(QPen(colours.mark, box.width() / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     if (option.state.testFlag(QStyle::State_NoChange))

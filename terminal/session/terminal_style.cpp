@@ -2,13 +2,23 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/terminal_style.h"
 
+#include "host/contract/colour_roles.h"
+#include "host/controls/line_icon.h"
+#include "host/controls/thin_bar_style.h"
+#include "host/views/quote_base_view.h"
 #include "terminal/session/indicators.h"
+#include "terminal/session/plates.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
+#include <QDateTimeEdit>
 #include <QFrame>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -16,81 +26,87 @@ namespace wirepane {
 
 namespace {
 
-constexpr int separatorWidth = 3;
-constexpr int tabStripe = 2;
-constexpr qreal corner = 3;
-constexpr int comboArrowWidth = 16;
+constexpr int comboArrowWidth = 18;
 constexpr int comboTextMargin = 4;
+constexpr int arrowSide = 12;
+constexpr int calendarSide = 14;
+constexpr int menuBarPadding = 8;
 
-// A plate that is pressed, pointed at, or at rest.
-void drawPlate(const QStyleOption& option, QPainter& painter) {
-    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
-    const bool down = option.state & (QStyle::State_Sunken | QStyle::State_On);
-    const bool hovered = enabled && option.state.testFlag(QStyle::State_MouseOver);
-    const QColor ground = option.palette.color(enabled ? QPalette::Button : QPalette::Window);
-    const bool dark = ground.lightness() < 128;
-    QColor fill = ground;
-    if (down)
-        fill = dark ? ground.darker(120) : ground.darker(112);
-    else if (hovered)
-        fill = dark ? ground.lighter(125) : ground.lighter(103);
-    const bool focused = enabled && option.state.testFlag(QStyle::State_HasFocus);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(option.palette.color(focused ? QPalette::Highlight : QPalette::Mid));
-    painter.setBrush(fill);
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
-    painter.restore();
-}
+struct Metric {
+    QStyle::PixelMetric metric;
+    int pixels;
+};
 
-void drawEditFrame(const QStyleOption& option, QPainter& painter) {
-    const bool focused = option.state.testFlag(QStyle::State_HasFocus);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(option.palette.color(focused ? QPalette::Highlight : QPalette::Mid));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
-    painter.restore();
-}
+constexpr Metric metrics[] = {
+    {QStyle::PM_DefaultFrameWidth, 1},
+    {QStyle::PM_ButtonMargin, 8},
+    {QStyle::PM_SmallIconSize, 16},
+    {QStyle::PM_ButtonIconSize, 14},
+    {QStyle::PM_IndicatorWidth, 14},
+    {QStyle::PM_IndicatorHeight, 14},
+    {QStyle::PM_ScrollBarExtent, thin_bar::widest},
+    {QStyle::PM_ScrollBarSliderMin, 24},
+    {QStyle::PM_SplitterWidth, 7},
+    {QStyle::PM_TabBarTabHSpace, 24},
+    {QStyle::PM_TabBarTabVSpace, 10},
+    {QStyle::PM_TabBarBaseHeight, 1},
+    {QStyle::PM_TabBarTabShiftVertical, 0},
+    {QStyle::PM_MenuBarItemSpacing, 0},
+    {QStyle::PM_MenuBarHMargin, 0},
+    {QStyle::PM_MenuBarVMargin, 0},
+    {QStyle::PM_MenuBarPanelWidth, 0},
+    {QStyle::PM_MenuPanelWidth, 1},
+    {QStyle::PM_MenuVMargin, 4},
+    {QStyle::PM_ToolTipLabelFrameWidth, 6},
+    {QStyle::PM_FocusFrameHMargin, 2},
+    {QStyle::PM_FocusFrameVMargin, 2},
+    {QStyle::PM_DockWidgetSeparatorExtent, 3},
+    {QStyle::PM_ToolBarFrameWidth, 0},
+    {QStyle::PM_ToolBarItemMargin, 0},
+};
 
-// Around a text or a list.
-void drawFrame(const QStyleOption& option, QPainter& painter) {
-    const bool focused = option.state.testFlag(QStyle::State_HasFocus);
-    painter.setPen(option.palette.color(focused ? QPalette::Highlight : QPalette::Mid));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
-}
-
-// A tab of a strip at the top of what it belongs to.
-void drawTab(const QStyleOption& option, QPainter& painter) {
-    const bool selected = option.state.testFlag(QStyle::State_Selected);
-    const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
-    const QPalette& palette = option.palette;
-    painter.fillRect(option.rect, palette.color(selected  ? QPalette::Base
-                                                : hovered ? QPalette::Button
-                                                          : QPalette::Window));
-    QRect line = option.rect;
-    if (selected) {
-        line.setHeight(tabStripe);
-        painter.fillRect(line, palette.color(QPalette::Highlight));
+// What is drawn where an arrow points.
+std::optional<LineIcon> arrowOf(QStyle::PrimitiveElement element) {
+    switch (element) {
+        case QStyle::PE_IndicatorArrowDown:
+            return LineIcon::Down;
+        case QStyle::PE_IndicatorArrowUp:
+            return LineIcon::Prev;
+        case QStyle::PE_IndicatorArrowLeft:
+            return LineIcon::Left;
+        case QStyle::PE_IndicatorArrowRight:
+            return LineIcon::Right;
+        default:
+            return std::nullopt;
     }
-    painter.setPen(palette.color(QPalette::Mid));
-    painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
 }
 
-void drawHeaderSection(const QStyleOption& option, QPainter& painter) {
-    painter.fillRect(option.rect, option.palette.color(QPalette::Button));
-    painter.setPen(option.palette.color(QPalette::Mid));
-    painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
-    painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+void drawArrow(LineIcon icon, const QStyleOption& option, const QRect& place, int side, QPainter& painter) {
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    QRectF square(0, 0, side, side);
+    square.moveCenter(QRectF(place).center());
+    drawLineIcon(
+        painter, icon, square,
+        option.palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::PlaceholderText));
 }
 
-void drawArrow(const QStyle& style, const QStyleOption& option, const QRect& place, QPainter& painter,
-               const QWidget* widget) {
-    QStyleOption arrow(option);
-    const int side = std::min({place.width(), place.height(), 12});
-    arrow.rect = QRect(place.center() - QPoint(side / 2, side / 2), QSize(side, side));
-    style.drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, widget);
+// The line to type in of a control that has drawn ground and outline itself.
+bool isPartOfInput(const QWidget* widget) {
+    const QWidget* parent = widget != nullptr ? widget->parentWidget() : nullptr;
+    return qobject_cast<const QComboBox*>(parent) != nullptr ||
+           qobject_cast<const QAbstractSpinBox*>(parent) != nullptr;
+}
+
+bool isInView(const QWidget* widget) {
+    return widget != nullptr && qobject_cast<const TRVQuoteBaseView*>(widget->parentWidget()) != nullptr;
+}
+
+// With a part of the palette changed.
+template <class Option>
+Option recoloured(const Option& option, QPalette::ColorRole part, const QColor& colour) {
+    Option changed(option);
+    changed.palette.setColor(part, colour);
+    return changed;
 }
 
 }  // namespace
@@ -106,16 +122,11 @@ TerminalStyle::TerminalStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s))
 }
 
 int TerminalStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
-    switch (metric) {
-        case PM_DockWidgetSeparatorExtent:
-            return separatorWidth;
-        case PM_ToolBarFrameWidth:
-        case PM_ToolBarItemMargin:
-        case PM_TabBarTabShiftVertical:
-            return 0;
-        default:
-            return QProxyStyle::pixelMetric(metric, option, widget);
+    for (const Metric& own : metrics) {
+        if (own.metric == metric)
+            return own.pixels;
     }
+    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 int TerminalStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -124,12 +135,23 @@ int TerminalStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
         // Drop-downs are lists under their boxes, quick with tens of thousands of items.
         case SH_ComboBox_Popup:
         case SH_DialogButtonBox_ButtonsHaveIcons:
+        case SH_ScrollBar_Transient:
+        case SH_EtchDisabledText:
             return 0;
+        case SH_ToolTip_WakeUpDelay:
+            return 500;
         case SH_Menu_SpaceActivatesItem:  // it ticks a box, so it ticks what looks like one
             return 1;
         default:
             return QProxyStyle::styleHint(hint, option, widget, answer);
     }
+}
+
+QSize TerminalStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                      const QWidget* widget) const {
+    if (type == CT_MenuBarItem)
+        return size + QSize(2 * menuBarPadding, 10);
+    return QProxyStyle::sizeFromContents(type, option, size, widget);
 }
 
 QRect TerminalStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
@@ -139,16 +161,29 @@ QRect TerminalStyle::subControlRect(ComplexControl control, const QStyleOptionCo
         if (subControl == SC_ComboBoxArrow)
             return visualRect(option->direction, box, box.adjusted(box.width() - comboArrowWidth, 0, 0, 0));
         if (subControl == SC_ComboBoxEditField)
-            return visualRect(option->direction, box, box.adjusted(comboTextMargin, 1, -comboArrowWidth, -1));
+            return visualRect(option->direction, box, box.adjusted(comboTextMargin, 2, -comboArrowWidth, -2));
     }
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_ScrollBar && bar != nullptr)
+        return thin_bar::part(*bar, subControl);
     return QProxyStyle::subControlRect(control, option, subControl, widget);
 }
 
 void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                   const QWidget* widget) const {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (const auto arrow = arrowOf(element)) {
+        drawArrow(*arrow, *option, option->rect, std::min(arrowSide, option->rect.width()), *painter);
+        return;
+    }
     switch (element) {
         case PE_PanelButtonCommand:
-            drawPlate(*option, *painter);
+            if (button != nullptr)
+                drawButtonPlate(*button, *painter);
+            break;
+        case PE_PanelButtonTool:
+            drawToolPlate(*option, *painter);
             break;
         case PE_IndicatorCheckBox:
         case PE_IndicatorItemViewItemCheck:
@@ -157,24 +192,34 @@ void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         case PE_IndicatorRadioButton:
             drawRadioButton(*option, *painter);
             break;
+        case PE_PanelLineEdit:
+            if (frame != nullptr && frame->lineWidth > 0 && !isPartOfInput(widget))
+                drawInput(*option, *painter, true);
+            break;
         case PE_FrameLineEdit:
-            drawEditFrame(*option, *painter);
+            drawInput(*option, *painter, false);
             break;
         case PE_IndicatorDockWidgetResizeHandle:
-            painter->fillRect(option->rect, option->palette.color(QPalette::Mid));
+            drawSplitter(*option, *painter);
             break;
         case PE_FrameTabWidget:
-            painter->setPen(option->palette.color(QPalette::Mid));
-            painter->setBrush(option->palette.color(QPalette::Base));
-            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-            break;
-        case PE_Frame:
-            drawFrame(*option, *painter);
-            break;
-        case PE_FrameMenu:
+        case PE_FrameGroupBox:
             painter->setPen(option->palette.color(QPalette::Mid));
             painter->setBrush(Qt::NoBrush);
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            break;
+        case PE_Frame:
+            drawListFrame(*option, *painter, isInView(widget));
+            break;
+        case PE_PanelTipLabel:
+            painter->fillRect(option->rect, option->palette.color(QPalette::ToolTipBase));
+            drawPopupFrame(*option, *painter);
+            break;
+        case PE_PanelMenu:
+            painter->fillRect(option->rect, option->palette.color(QPalette::Window));
+            break;
+        case PE_FrameMenu:
+            drawPopupFrame(*option, *painter);
             break;
         case PE_PanelStatusBar:
             painter->setPen(option->palette.color(QPalette::Mid));
@@ -182,6 +227,7 @@ void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             break;
         case PE_FrameFocusRect:
         case PE_FrameStatusBarItem:
+        case PE_PanelMenuBar:
             break;
         default:
             QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -190,39 +236,112 @@ void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
 
 void TerminalStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                 const QWidget* widget) const {
-    const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
-    if (element == CE_TabBarTabShape && tab != nullptr &&
-        (tab->shape == QTabBar::RoundedNorth || tab->shape == QTabBar::TriangularNorth)) {
-        drawTab(*option, *painter);
-    } else if (element == CE_HeaderSection) {
-        drawHeaderSection(*option, *painter);
-    } else if (element == CE_ToolBar) {
-        painter->fillRect(option->rect, option->palette.color(QPalette::Window));
-        painter->setPen(option->palette.color(QPalette::Mid));
-        painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
-    } else {
-        QProxyStyle::drawControl(element, option, painter, widget);
+    switch (element) {
+        case CE_TabBarTabShape:
+            break;  // with its label
+        case CE_TabBarTabLabel:
+            if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option))
+                drawTab(*tab, *painter);
+            break;
+        case CE_PushButtonLabel:
+            drawButtonLabel(*option, *painter, widget);
+            break;
+        case CE_HeaderSection:
+        case CE_HeaderEmptyArea:
+            drawHeading(*option, *painter);
+            break;
+        case CE_Splitter:
+            drawSplitter(*option, *painter);
+            break;
+        case CE_MenuItem:
+        case CE_MenuBarItem:
+            drawMenuEntry(element, *option, *painter, widget);
+            break;
+        case CE_MenuBarEmptyArea:
+            painter->fillRect(option->rect, option->palette.color(QPalette::Window));
+            break;
+        case CE_ProgressBarContents:
+            if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option)) {
+                const auto own = recoloured(*bar, QPalette::Highlight, bar->palette.color(QPalette::Link));
+                QProxyStyle::drawControl(element, &own, painter, widget);
+            }
+            break;
+        case CE_ToolBar:
+            painter->fillRect(option->rect, option->palette.color(QPalette::Window));
+            painter->setPen(option->palette.color(QPalette::Mid));
+            painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
+            break;
+        default:
+            QProxyStyle::drawControl(element, option, painter, widget);
     }
+}
+
+// The default button has its text on the accent.
+void TerminalStyle::drawButtonLabel(const QStyleOption& option, QPainter& painter,
+                                    const QWidget* widget) const {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    const bool onAccent = button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton) &&
+                          button->state.testFlag(State_Enabled);
+    if (!onAccent) {
+        QProxyStyle::drawControl(CE_PushButtonLabel, &option, &painter, widget);
+        return;
+    }
+    const QColor text = roleColour(ColourRole::OnAccent, option.palette.color(QPalette::Base));
+    const auto own = recoloured(*button, QPalette::ButtonText, text);
+    painter.save();
+    QFont font = painter.font();
+    font.setWeight(QFont::Medium);
+    painter.setFont(font);
+    QProxyStyle::drawControl(CE_PushButtonLabel, &own, &painter, widget);
+    painter.restore();
+}
+
+void TerminalStyle::drawMenuEntry(ControlElement element, const QStyleOption& option, QPainter& painter,
+                                  const QWidget* widget) const {
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(&option);
+    if (entry == nullptr)
+        return;
+    painter.fillRect(option.rect, option.palette.color(QPalette::Window));
+    QStyleOptionMenuItem plain(*entry);
+    if (entry->state.testFlag(State_Selected) && entry->state.testFlag(State_Enabled)) {
+        drawMenuMark(option, painter);
+        plain.state &= ~(State_Selected | State_Sunken);
+    }
+    if (element == CE_MenuBarItem) {
+        drawItemText(&painter, option.rect,
+                     Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip | Qt::TextSingleLine,
+                     option.palette, entry->state.testFlag(State_Enabled), entry->text, QPalette::WindowText);
+        return;
+    }
+    QProxyStyle::drawControl(element, &plain, &painter, widget);
+}
+
+void TerminalStyle::drawSpinBox(const QStyleOptionComplex& option, QPainter& painter,
+                                const QWidget* widget) const {
+    drawInput(option, painter, true);
+    for (const auto& [part, icon] :
+         {std::pair(SC_SpinBoxUp, LineIcon::Prev), std::pair(SC_SpinBoxDown, LineIcon::Next)})
+        drawArrow(icon, option, proxy()->subControlRect(CC_SpinBox, &option, part, widget), 8, painter);
 }
 
 void TerminalStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                        QPainter* painter, const QWidget* widget) const {
     const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control == CC_SpinBox) {
+        drawSpinBox(*option, *painter, widget);
+    } else if (control == CC_ScrollBar && bar != nullptr) {
+        thin_bar::draw(*bar, *painter, widget);
+    } else if (control == CC_ComboBox && (combo == nullptr || combo->frame)) {
+        // Date pickers come with the option of a spin box.
+        const bool isDate = qobject_cast<const QDateTimeEdit*>(widget) != nullptr;
+        drawInput(*option, *painter, true);
+        drawArrow(isDate ? LineIcon::Calendar : LineIcon::Down, *option,
+                  subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget).adjusted(0, 0, -2, 0),
+                  isDate ? calendarSide : arrowSide, *painter);
+    } else {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-        drawEditFrame(*option, *painter);
-        return;
     }
-    if (control != CC_ComboBox || combo == nullptr || !combo->frame) {
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
-        return;
-    }
-    QStyleOptionComboBox plate(*combo);
-    if (combo->editable)
-        plate.palette.setColor(QPalette::Button, combo->palette.color(QPalette::Base));
-    drawPlate(plate, *painter);
-    drawArrow(*this, *option, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget), *painter,
-              widget);
 }
 
 }  // namespace wirepane

@@ -17,6 +17,8 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* answer) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,
                          const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -25,6 +27,12 @@ public:
                      const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+
+private:
+    void drawButtonLabel(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
+    void drawMenuEntry(ControlElement element, const QStyleOption& option, QPainter& painter,
+                       const QWidget* widget) const;
+    void drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
 };
 
 }  // namespace wirepane

@@ -136,6 +136,26 @@ TEST(ViewLayout, SymbolAndWarrantGridsUseTheFreeRow) {
     EXPECT_EQ(layOut(in).gridWithoutControls, QRect(0, 24, 1000, 676));
 }
 
+TEST(ViewLayout, AlignedControlsKeepOneEdgeAtEitherSideWhateverTheTextsNeed) {
+    LayoutInput in = ordinary();
+    in.aligned = true;
+    in.needs = {90, 120, 80, 110, 96, {70, 70, 90, 75}};
+    const auto edge = [](const QRect& place) { return place.x() + place.width(); };
+    for (const int width : {1000, 700, 480, 340}) {
+        in.client.setWidth(width);
+        const ViewLayout out = layOut(in);
+        EXPECT_EQ(out.serviceButton, QRect(8, 27, 90, 20)) << width;
+        EXPECT_EQ(edge(out.showTypeButton), width - 8) << width;
+        EXPECT_EQ(out.datePicker.x(), 102) << width;
+        EXPECT_EQ(out.searchEdit.x(), 102) << width;
+        EXPECT_EQ(out.dealsButton.width(), 110) << width;
+        const QRect last = out.print.isEmpty() ? out.pageDown : out.print;
+        EXPECT_EQ(edge(last), last.isEmpty() ? 0 : width - 8) << width;
+        // Texts where they have room, else the icons alone.
+        EXPECT_EQ(out.saveAs.width(), width == 1000 ? 90 : out.saveAs.isEmpty() ? 0 : 28) << width;
+    }
+}
+
 TEST(ViewLayout, NoSizeIsTooSmall) {
     for (const int size : {0, 1, 20, 60}) {
         LayoutInput in = ordinary();
