@@ -7,6 +7,7 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
+#include "headline_list/list_state.h"
 #include "headline_list/relation_matcher.h"
 #include "headline_list/service_entry.h"
 #include "host/contract/bk_quote_interface.h"
@@ -150,6 +151,8 @@ QColor HeadlineList::categoryColour(unsigned char service, const QString& name) 
 void HeadlineList::writeCells(int row, WrittenCells&& written) {
     if (sheet == nullptr || row < 0 || row >= table.size())
         return;
+    if (state->widths.note(written))
+        applyWidths();
     cells.write(keyOf(table.at(row)), std::move(written));
     if (cells.size() > CellState::enough)
         letCellsGo();

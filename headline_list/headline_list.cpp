@@ -5,6 +5,7 @@
 #include "headline_list/cell_state.h"
 #include "headline_list/headline_columns.h"
 #include "headline_list/headline_table.h"
+#include "headline_list/list_state.h"
 #include "headline_list/reading_place.h"
 #include "host/contract/bk_quote_interface.h"
 
@@ -20,12 +21,6 @@ CHeadlineTable entryOf(const CHeadline& headline) {
 
 }  // namespace
 
-struct HeadlineList::State {
-    HeadlineTable table;
-    CellState cells;
-    std::optional<ReadingPlace> heldPlace;
-};
-
 HeadlineList::HeadlineList(const ListKind& listKind, BKQuoteInterface& newsBackEnd, ListOwner& listOwner)
     : kind(listKind),
       backEnd(newsBackEnd),
@@ -36,6 +31,8 @@ HeadlineList::HeadlineList(const ListKind& listKind, BKQuoteInterface& newsBackE
       heldPlace(state->heldPlace) {
     afterPainting.setSingleShot(true);
     QObject::connect(&afterPainting, &QTimer::timeout, &afterPainting, [this] { table.buildIndex(); });
+    QObject::connect(&state->fading, &QTimer::timeout, &state->fading, [this] { fade(); });
+    state->clock.start();
 }
 
 HeadlineList::~HeadlineList() {
@@ -45,8 +42,13 @@ HeadlineList::~HeadlineList() {
 
 void HeadlineList::setGrid(CSuperSheetWnd* grid) {
     sheet = grid;
-    if (sheet != nullptr)
-        sheet->setCells(this);
+    if (sheet == nullptr)
+        return;
+    sheet->setCells(this);
+    QObject::connect(sheet, &CSuperSheetWnd::columnDragged, &afterPainting,
+                     [this](int place, int width) { takeDraggedWidth(place, width); });
+    QObject::connect(sheet, &CSuperSheetWnd::columnEndDoubleClicked, &afterPainting,
+                     [this](int place) { takeDraggedWidth(place, 0); });
 }
 
 void HeadlineList::setTable(const TableRuns& runs) {
@@ -67,6 +69,7 @@ void HeadlineList::vFillHeadlineTable() {
     if (sheet == nullptr)
         return;
     cells.clear();
+    state->arrivals.clear();
     sheet->clearRows();
     sheet->addRows(table.size());
     sheet->resetRowBkColor();
@@ -92,6 +95,7 @@ void HeadlineList::refill() {
 HeadlinePlace HeadlineList::vProcessNewHeadline(const CHeadline& headline, bool showDate) {
     if (sheet == nullptr)
         return {};
+    noteArrival(keyOf(headline));
     const int known = table.rowOfSameDay(keyOf(headline));
     if (known < 0) {
         const int row = table.insertPosition(headline.time);

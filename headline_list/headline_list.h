@@ -7,6 +7,7 @@
 #include "host/controls/super_sheet_wnd.h"
 
 #include <QPointer>
+#include <QString>
 #include <QTimer>
 
 #include <memory>
@@ -21,6 +22,7 @@ class HeadlineTable;
 class ListOwner;
 class ReadingPlace;
 class RelationMatcher;
+class ViewOptions;
 
 }  // namespace wirepane
 
@@ -29,6 +31,7 @@ struct CHeadlineTable;
 
 namespace wirepane {
 enum class NewsType : int;
+enum class HeadlineColumn;
 struct HeadlineKey;
 struct WrittenCells;
 struct HeadlineColumnKind;
@@ -56,6 +59,18 @@ public:
     CSuperSheetWnd* grid() const { return sheet; }
     const ListKind& kindOfList() const { return kind; }
     const HeadlineTable& headlineTable() const { return table; }
+
+    // What the settings say of the look of the list, for the grid of this moment.
+    void setOptions(const ViewOptions& options);
+    // The fonts, the headings or the names of topics have changed: columns that are measured are measured
+    // anew.
+    void measureColumns();
+    // A column in its width, or out of sight.
+    void showColumn(HeadlineColumn column, bool show);
+    // The widths that the user has given by hand, as a text to keep; empty: none. Only columns that are
+    // measured keep them.
+    QString keptWidths() const;
+    void restoreWidths(const QString& kept);
 
     // Replaces the table by these runs, newest first. The grid follows with vFillHeadlineTable.
     void setTable(const std::vector<std::vector<CHeadlineTable>>& runs);
@@ -119,6 +134,11 @@ public:
     // The cells for the grid.
     QString text(int row, int column) const override;
     QColor textColour(int row, int column) const override;
+    SheetChip chip(const QString& cellText, int column) const override;
+    QString tag(int row, int column) const override;
+    int arrival(int row) const override;
+    bool holdsFigures(int column) const override;
+    QString toolTip(int row) const override;
 
 private:
     // The column at a place of the grid; null: there is none.
@@ -132,6 +152,11 @@ private:
     void writeCells(int row, WrittenCells&& written);
     void letCellsGo();
     void forgetCells(const HeadlineKey& key);
+    void takeDraggedWidth(int place, int width);
+    void applyWidths();
+    void noteArrival(const HeadlineKey& key);
+    void fade();
+    QString serviceName(unsigned char service) const;
 
     const ListKind& kind;
     BKQuoteInterface& backEnd;

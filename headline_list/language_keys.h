@@ -77,6 +77,12 @@ inline constexpr QLatin1StringView category{"IDS_NEWSCTRLVIEW_STRING_CATEGORY"};
 inline constexpr QLatin1StringView title{"IDS_NEWSCTRLVIEW_STRING_TITLE"};
 inline constexpr QLatin1StringView recover{"IDS_NEWSCTRLVIEW_STRING_RECOVER"};
 
+// How long ago a headline came, in its tool tip. "%1": how many.
+inline constexpr QLatin1StringView secondsAgo{"IDS_NEWSCTRLVIEW_TIP_SECONDS_AGO"};
+inline constexpr QLatin1StringView minutesAgo{"IDS_NEWSCTRLVIEW_TIP_MINUTES_AGO"};
+inline constexpr QLatin1StringView hoursAgo{"IDS_NEWSCTRLVIEW_TIP_HOURS_AGO"};
+inline constexpr QLatin1StringView daysAgo{"IDS_NEWSCTRLVIEW_TIP_DAYS_AGO"};
+
 // What tips say about dates and about data that is missing.
 inline constexpr QLatin1StringView onlySelect{"IDS_NEWSCTRLVIEW_STRING_ONLYSELECT"};
 inline constexpr QLatin1StringView inSomeDays{"IDS_NEWSCTRLVIEW_STRING_INSOMEDAYS"};

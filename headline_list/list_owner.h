@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <vector>
@@ -30,6 +31,8 @@ public:
     // The colours of a category of a service by its name. 1 when it has an id; else 0 and both unchanged.
     virtual int categoryColourOf(unsigned char service, const QString& name, QColor& text,
                                  QColor& background) = 0;
+    // The names of the topics that may come, as far as they are known: columns are measured by them.
+    virtual QStringList topicNames() const { return {}; }
     // The text colour of the time of a row; invalid: the grid's own.
     virtual QColor timeColour(std::int64_t time) const {
         Q_UNUSED(time);

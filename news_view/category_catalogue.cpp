@@ -51,6 +51,13 @@ const QString* CategoryCatalogue::nameOf(int id) const {
     return found == names.end() ? nullptr : &found->second;
 }
 
+QStringList CategoryCatalogue::allNames() const {
+    QStringList all;
+    for (const auto& [id, name] : names)
+        all << name;
+    return all;
+}
+
 int CategoryCatalogue::idOf(const QString& name) const {
     const auto found = idsByName.find(name);
     return found == idsByName.end() ? -1 : found->second;

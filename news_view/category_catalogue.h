@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QString>
+#include <QStringList>
 
 #include <map>
 #include <vector>
@@ -24,6 +25,7 @@ public:
 
     // The short name; null when the id is unknown.
     const QString* nameOf(int id) const;
+    QStringList allNames() const;
     // The id of exactly this name; -1 when there is none.
     int idOf(const QString& name) const;
 

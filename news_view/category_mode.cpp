@@ -91,13 +91,7 @@ void CategoryMode::showColumn() {
 }
 
 void CategoryMode::showColumn(bool show) {
-    CSuperSheetWnd* sheet = parts.lists[context.shownList()].grid();
-    const int column = placeOf(HeadlineColumn::Category, parts.newsType);
-    const int width = show ? kindOf(HeadlineColumn::Category).width : 0;
-    if (column < 0 || sheet == nullptr || sheet->colWidth(column) == width)
-        return;
-    sheet->vSetColWidth(column, width);
-    sheet->viewport()->update();
+    parts.lists[context.shownList()].showColumn(HeadlineColumn::Category, show);
 }
 
 void CategoryMode::toggleColumn() {

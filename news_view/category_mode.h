@@ -44,6 +44,8 @@ public:
 
     // A text that says so where nobody knows the id.
     QString nameOf(unsigned char service, int id);
+    // Those that are known so far, of all but warrants.
+    QStringList topicNames() const { return names.known(); }
     // -1 when there is none of exactly this name.
     int idOf(unsigned char service, const QString& name) { return names.idOf(service, name); }
     // False, and both colours unchanged, when there is none of this name.

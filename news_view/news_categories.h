@@ -5,6 +5,7 @@
 #include "news_view/category_catalogue.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -37,6 +38,8 @@ public:
 
     // The short name; null when nobody knows the id. Valid until the next call.
     const QString* nameOf(unsigned char service, int id);
+    // The names that have been read so far, without those of warrants.
+    QStringList known() const { return file.allNames() + lists.allNames(); }
     // The id of exactly this name; -1 when there is none.
     int idOf(unsigned char service, const QString& name);
 

@@ -140,8 +140,9 @@ void ViewBuilder::vInitialSheetWnd(ListIndex list, const QRect& place) {
     CSuperSheetWnd* grid = createHeadlineSheet(&view, place, parts.newsType, parts.backEnd);
     if (grid == nullptr)
         return;
-    grid->stretchLast(parts.settings.options[ViewOption::StretchTitles]);
     parts.lists[list].setGrid(grid);
+    parts.lists[list].setOptions(parts.settings.options);
+    parts.lists[list].restoreWidths(parts.settings.columnWidths.value(static_cast<int>(list)));
     calls.connectGrid(*grid, list);
 }
 

@@ -58,12 +58,17 @@ void TRVNewsCtrlView::vNotSupportSymbol(QPainter& painter) {
 void TRVNewsCtrlView::vChangeCast() {
     TRVQuoteBaseView::vChangeCast();
     parts->controls.setFont(GetViewFont());
+    // The density of rows is the user's to change while he reads.
+    if (settingsReader != nullptr)
+        parts->settings.options.readAgain(ViewOption::RowAir, *settingsReader, settingsPath);
     if (auto* strip = parts->controls.find<CXTPTabControl>(ids::tabStrip))
         strip->SetColorSet({hostColour(QStringLiteral("COLOR_LISTCTL_HDBkCOLOR1"), {}),
                             hostColour(QStringLiteral("COLOR_LISTCTL_HDTEXTCOLOR1"), {})});
     for (const ListKind& kind : listKinds) {
-        if (CSuperSheetWnd* grid = parts->listOf(kind.index).grid())
+        if (CSuperSheetWnd* grid = parts->listOf(kind.index).grid()) {
             applyHostScheme(*grid, GetViewFont());
+            parts->listOf(kind.index).setOptions(parts->settings.options);
+        }
     }
     if (NewsStoryView* pane = parts->stage.storyPane())
         pane->vChangeCast();
@@ -90,6 +95,7 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     for (int list = 0; list < listCount; ++list) {
         if (CSuperSheetWnd* sheet = sheetOf(list)) {
             setHeadlineSheetTexts(*sheet, parts->newsType, parts->backEnd);
+            parts->listOf(static_cast<ListIndex>(list)).measureColumns();
             parts->listOf(static_cast<ListIndex>(list)).forgetWrittenCells();
         }
     }

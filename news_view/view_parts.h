@@ -67,6 +67,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
                          QColor& background) override {
         return categories.colourOf(service, name, text, background) ? 1 : 0;
     }
+    QStringList topicNames() const override { return categories.topicNames(); }
     QColor timeColour(std::int64_t time) const override;
     void categoryStateAfterWriting() override { categories.showColumn(); }
     void rowsReplaced(wirepane::ListIndex list) override;

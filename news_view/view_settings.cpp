@@ -21,6 +21,7 @@ const QString symbolKey = u"SymbolID"_s;
 const QString symbolServiceKey = u"SymbolService"_s;
 const QString categoryKey = u"CategoryID"_s;
 const QString quoteSortingKey = u"QuoteSorting"_s;
+const QString columnWidthsKey = u"ColumnWidths"_s;
 
 std::optional<QuoteTable::Sorting> sortingOf(int number) {
     if (number == 0 || number < -quoteColumns || number > quoteColumns)
@@ -55,6 +56,7 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
     int quoteSorting = 0;
     reader.GetViewInfo(path, quoteSortingKey, quoteSorting);
     settings.quoteSorting = sortingOf(quoteSorting);
+    reader.GetViewInfo(path, columnWidthsKey, settings.columnWidths);
     settings.options = ViewOptions::read(reader, path);
     return settings;
 }
@@ -69,6 +71,8 @@ void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
         writer.setViewInfo(path, symbolServiceKey, int{*symbolService});
     writer.setViewInfo(path, categoryKey, categoryId);
     writer.setViewInfo(path, quoteSortingKey, numberOf(quoteSorting));
+    if (options[ViewOption::MeasuredColumns])
+        writer.setViewInfo(path, columnWidthsKey, columnWidths);
 }
 
 }  // namespace wirepane

@@ -8,6 +8,7 @@
 #include "news_view/mode_table.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <optional>
@@ -29,6 +30,9 @@ struct ViewSettings {
     QString categoryId;                                 // "CategoryID"
     // "QuoteSorting": the number of the column from 1 on, negative: descending; 0: none
     std::optional<QuoteTable::Sorting> quoteSorting;
+    // "ColumnWidths": by list, what the user has given its columns by hand (ColumnWidths::keptText); only a
+    // view that measures its columns writes it
+    QStringList columnWidths;
     ViewOptions options;  // the host's choice: never written back
 
     // `defaultTab`: the focused tab when none is stored.

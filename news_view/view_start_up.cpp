@@ -117,6 +117,9 @@ void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, in
     parts->symbolMode.keep();
     if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
         parts->settings.quoteSorting = quotes->quoteTable().sorting();
+    parts->settings.columnWidths.clear();
+    for (const ListKind& kind : listKinds)
+        parts->settings.columnWidths << parts->listOf(kind.index).keptWidths();
     parts->settings.write(*writer, path);
     parts->services.save(*writer, path);
     parts->searches.desk().memory.write(*writer, path);

@@ -7,7 +7,6 @@
 #include <QLatin1StringView>
 
 #include <array>
-#include <bitset>
 #include <cstddef>
 
 class TRVCfgIO2;
@@ -15,8 +14,9 @@ class TRVCfgIO2;
 namespace wirepane {
 struct ViewSettingPath;
 
-// What a host may switch on for a view by its settings, beyond what a view does whose settings say nothing.
-// Each is a boolean setting of the view "TRVNewsCtrlView"; absent or no boolean, it is off.
+// What a host may ask of a view by its settings, beyond what a view does whose settings say nothing. Each is
+// a setting of the view "TRVNewsCtrlView": a boolean, or a number of pixels. Absent or of another kind or out
+// of range, it is off, or 0.
 enum class ViewOption {
     WarningTermsStandFast,  // the list of warning terms does not follow the symbol of the link group
     RebuildFilteredLists,   // a list rebuilt under another list's filter is rebuilt when it is shown next
@@ -29,12 +29,23 @@ enum class ViewOption {
     MarketNames,            // markets are named in the language in force
     AlignControls,          // controls keep one edge at either side, and bear icons beside their texts
     FollowNewest,           // the newest row is selected until the reader goes to one himself
+    MeasuredColumns,        // columns as wide as their texts; widths set by hand are kept
+    FinishedRows,           // a row under the pointer, a bar at the selected one, small quiet headings
+    ServiceTags,            // the service's short name at the right of a title
+    TitleChips,             // the words of a flash or a correction at a title's head as a chip
+    MarkArrivals,           // rows that have just come are tinted, and fade
+    RowTips,                // tool tips of rows: title, service, topic, time with seconds, age
+    RowAir,                 // what a row has over the height of its text; 0: rows of 16 pixels
+    HeadingHeight,          // of the band of column headings; 0: 16
+    RowGutter,              // before the first column's text
     Count
 };
 
 struct ViewOptionRow {
     ViewOption option;
     QLatin1StringView key;
+    int most = 1;  // 1: a boolean; else a number from 0 to this
+    int own = 1;   // what a host writes that wants it (ViewOptions::writeMissing)
 };
 
 // In the order of ViewOption.
@@ -50,19 +61,36 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::MarketNames, QLatin1StringView("MarketNames")},
     {ViewOption::AlignControls, QLatin1StringView("AlignControls")},
     {ViewOption::FollowNewest, QLatin1StringView("FollowNewest")},
+    {ViewOption::MeasuredColumns, QLatin1StringView("MeasuredColumns")},
+    {ViewOption::FinishedRows, QLatin1StringView("FinishedRows")},
+    {ViewOption::ServiceTags, QLatin1StringView("ServiceTags")},
+    {ViewOption::TitleChips, QLatin1StringView("TitleChips")},
+    {ViewOption::MarkArrivals, QLatin1StringView("MarkArrivals")},
+    {ViewOption::RowTips, QLatin1StringView("RowTips")},
+    {ViewOption::RowAir, QLatin1StringView("RowAir"), 32, 6},
+    {ViewOption::HeadingHeight, QLatin1StringView("HeadingHeight"), 64, 22},
+    {ViewOption::RowGutter, QLatin1StringView("RowGutter"), 32, 16},
 }};
+
+constexpr const ViewOptionRow& rowOf(ViewOption option) {
+    return viewOptionTable[static_cast<std::size_t>(option)];
+}
 
 // The options of one view. A value.
 class WIREPANE_CONTRACT_EXPORT ViewOptions {
 public:
     static ViewOptions read(const TRVCfgIO2& reader, const ViewSettingPath& path);
-    // Writes those that the store lacks, switched on: for a host that offers its users all of them.
+    // One of them as the store has it now.
+    void readAgain(ViewOption option, const TRVCfgIO2& reader, const ViewSettingPath& path);
+    // Writes those that the store lacks, each as the table says: for a host that offers its users all of
+    // them.
     static void writeMissing(TRVCfgIO2& store, const ViewSettingPath& path);
 
-    bool operator[](ViewOption option) const { return on.test(static_cast<std::size_t>(option)); }
+    bool operator[](ViewOption option) const { return value(option) != 0; }
+    int value(ViewOption option) const { return values[static_cast<std::size_t>(option)]; }
 
 private:
-    std::bitset<static_cast<std::size_t>(ViewOption::Count)> on;
+    std::array<int, viewOptionTable.size()> values{};
 };
 
 }  // namespace wirepane

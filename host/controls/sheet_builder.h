@@ -42,6 +42,9 @@ public:
 
     // The source of the cells: not owned, must outlive the builder or be taken out with null (empty cells).
     void setCells(const wirepane::SheetCells* cells);
+    const wirepane::SheetCells* cells() const { return source; }
+    // Of the texts of a column; the column must be there.
+    Qt::Alignment alignment(int column) const { return columns[static_cast<std::size_t>(column)].alignment; }
 
     // Without what is queued.
     int rowCount() const { return rows; }

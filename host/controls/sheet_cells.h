@@ -9,6 +9,15 @@
 
 namespace wirepane {
 
+// The words at the head of a text that finished rows draw as a chip. What stands beside the label in them,
+// such as a colon or brackets, is left out of the drawing.
+struct SheetChip {
+    int length = 0;  // of the words; 0: there is no chip
+    int labelFrom = 0;
+    int labelLength = 0;
+    bool urgent = false;  // filled, not outlined
+};
+
 // Where a sheet takes the texts of its cells from. The sheet asks for rows on screen only, each time it
 // paints them, and keeps nothing: answers must be quick. Interface thread.
 class WIREPANE_HOST_EXPORT SheetCells {
@@ -30,6 +39,35 @@ public:
     virtual QColor highlight(int row, int column) const {
         Q_UNUSED(row);
         Q_UNUSED(column);
+        return {};
+    }
+
+    // What finished rows have beside that. The head of a cell's text, asked for once for each text.
+    virtual SheetChip chip(const QString& cellText, int column) const {
+        Q_UNUSED(cellText);
+        Q_UNUSED(column);
+        return {};
+    }
+    // Small and grey at the right end of a cell that has room for it; empty: nothing.
+    virtual QString tag(int row, int column) const {
+        Q_UNUSED(row);
+        Q_UNUSED(column);
+        return {};
+    }
+    // How much of the colour of rows that have just come a row's ground has, of fullArrival; 0: none.
+    static constexpr int fullArrival = 8;
+    virtual int arrival(int row) const {
+        Q_UNUSED(row);
+        return 0;
+    }
+    // True: digits are drawn in one width.
+    virtual bool holdsFigures(int column) const {
+        Q_UNUSED(column);
+        return false;
+    }
+    // Of a row, plain text; empty: it has none. Also rows that are not finished show it.
+    virtual QString toolTip(int row) const {
+        Q_UNUSED(row);
         return {};
     }
 };

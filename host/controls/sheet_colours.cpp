@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/sheet_colours.h"
 
+#include "host/controls/sheet_cells.h"
+
 namespace wirepane {
 
 namespace {
@@ -33,6 +35,39 @@ QColor SheetColours::markBackground(bool hasFocus, const QPalette& palette) cons
 
 QColor SheetColours::textColour(const QPalette& palette) const {
     return chosen(text, palette.color(QPalette::Text));
+}
+
+QColor SheetColours::hoverBackground(const QPalette& palette) const {
+    return chosen(hover, mixed(textColour(palette), rowBackground(false, palette), 7));
+}
+
+QColor SheetColours::arrivedBackground(const QColor& row, int share, const QPalette& palette) const {
+    const QColor full = chosen(arrived, mixed(palette.color(QPalette::Link), row, 20));
+    return mixed(full, row, share * 100 / SheetCells::fullArrival);
+}
+
+QColor SheetColours::accentColour(const QPalette& palette) const {
+    return chosen(accent, palette.color(QPalette::Link));
+}
+
+QColor SheetColours::weakColour(const QPalette& palette) const {
+    return chosen(weak, mixed(textColour(palette), rowBackground(false, palette), 68));
+}
+
+QColor SheetColours::borderColour(const QPalette& palette) const {
+    return chosen(border, mixed(textColour(palette), rowBackground(false, palette), 50));
+}
+
+QColor SheetColours::lineColour(const QPalette& palette) const {
+    return chosen(line, mixed(textColour(palette), rowBackground(false, palette), 20));
+}
+
+QColor SheetColours::urgentColour(const QPalette& palette) const {
+    return chosen(urgent, palette.color(QPalette::BrightText));
+}
+
+QColor SheetColours::onUrgentColour() const {
+    return chosen(onUrgent, Qt::white);
 }
 
 }  // namespace wirepane

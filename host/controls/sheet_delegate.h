@@ -3,7 +3,9 @@
 #pragma once
 
 #include "host/contract/export.h"
+#include "host/controls/row_look.h"
 #include "host/controls/sheet_colours.h"
+#include "host/controls/sheet_row_painter.h"
 
 #include <QStyledItemDelegate>
 
@@ -12,10 +14,14 @@ class QAbstractItemView;
 namespace wirepane {
 
 // Draws the cells of a sheet: one line of plain text on the row's colour, cut with dots at the right. Marked
-// rows (selected or current) keep the colours of their texts.
+// rows (selected or current) keep the colours of their texts. Finished rows besides: the row under the
+// pointer and one that has just come have grounds of their own, a bar stands at the selected row while the
+// sheet has the keyboard.
 class WIREPANE_HOST_EXPORT SheetDelegate : public QStyledItemDelegate {
 public:
     static constexpr int margin = 4;  // between a cell's edge and its text, in pixels
+    // The room that a cell's text has of a rectangle of its column, a heading or a cell.
+    static QRect textRoom(const QRect& cell, int column, const RowLook& look);
 
     explicit SheetDelegate(QAbstractItemView* sheet);
 
@@ -24,13 +30,20 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
     SheetColours colours;
+    RowLook look;
     bool firstRowOdd = false;  // row 0 has the colour of odd rows
+    int hoveredRow = -1;       // under the pointer
+    // The colours have changed.
+    void forgetPictures() { rowPainter.forgetPictures(); }
 
 private:
     bool isMarkedCurrent(const QModelIndex& index) const;
     void paintBackground(QPainter& painter, const QRect& cell, const QModelIndex& index, bool selected) const;
+    void paintFinished(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
+    QColor finishedGround(const QModelIndex& index, bool selected, const SheetCells& cells, int row) const;
 
     const QAbstractItemView* view;
+    mutable SheetRowPainter rowPainter{colours};  // what it has laid out
 };
 
 }  // namespace wirepane

@@ -20,6 +20,20 @@ QColor SheetHeader::shownBackground() const {
     return background.isValid() ? background : palette().color(QPalette::Button);
 }
 
+QColor SheetHeader::shownLine() const {
+    if (look.finished && line.isValid())
+        return line;
+    QColor faint = shownText();
+    faint.setAlpha(60);
+    return faint;
+}
+
+bool SheetHeader::event(QEvent* event) {
+    if (look.finished && (event->type() == QEvent::Enter || event->type() == QEvent::Leave))
+        viewport()->update();
+    return QHeaderView::event(event);
+}
+
 QColor SheetHeader::shownText() const {
     return text.isValid() ? text : palette().color(QPalette::ButtonText);
 }
@@ -27,13 +41,11 @@ QColor SheetHeader::shownText() const {
 void SheetHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
     if (!rect.isValid())
         return;
-    QColor line = shownText();
-    line.setAlpha(60);
     painter->fillRect(rect, shownBackground());
-    if (rect.right() < viewport()->width() - 1)
-        painter->fillRect(QRect(rect.right(), rect.top() + 3, 1, rect.height() - 6), line);
-    painter->fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), line);
-    QRect room = rect.adjusted(SheetDelegate::margin, 0, -SheetDelegate::margin, -1);
+    if (rect.right() < viewport()->width() - 1 && (!look.finished || underMouse()))
+        painter->fillRect(QRect(rect.right(), rect.top() + 3, 1, rect.height() - 6), shownLine());
+    painter->fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), shownLine());
+    QRect room = SheetDelegate::textRoom(rect, logicalIndex, look).adjusted(0, 0, 0, -1);
     if (isSortIndicatorShown() && sortIndicatorSection() == logicalIndex)
         room.setRight(paintSortMark(*painter, room));
     const QVariant alignment = model()->headerData(logicalIndex, Qt::Horizontal, Qt::TextAlignmentRole);
@@ -61,8 +73,13 @@ void SheetHeader::paintEvent(QPaintEvent* event) {
     QHeaderView::paintEvent(event);
     // The base fills what is right of the last section from the style: keep the row in one colour.
     const int end = length() - offset();
-    if (end < viewport()->width())
-        QPainter(viewport()).fillRect(QRect(end, 0, viewport()->width() - end, height()), shownBackground());
+    if (end >= viewport()->width())
+        return;
+    const QRect rest(end, 0, viewport()->width() - end, height());
+    QPainter painter(viewport());
+    painter.fillRect(rest, shownBackground());
+    if (look.finished)
+        painter.fillRect(QRect(rest.left(), rest.bottom(), rest.width(), 1), shownLine());
 }
 
 }  // namespace wirepane

@@ -77,14 +77,16 @@ void CSuperSheetWnd::keepShownRows() {
         emit scrolledVertically();
 }
 
-bool CSuperSheetWnd::viewportEvent(QEvent* event) {
-    takeUpRows();
-    return QTableView::viewportEvent(event);
-}
-
 void CSuperSheetWnd::invalidateRow(int row) {
     if (builder != nullptr)
         builder->rowWritten(row);
+}
+
+void CSuperSheetWnd::repaintRow(int row) {
+    const int height = verticalHeader()->defaultSectionSize();
+    const int place = row - verticalScrollBar()->value();
+    if (place >= 0 && place <= viewport()->height() / height)
+        viewport()->update(0, place * height, viewport()->width(), height);
 }
 
 void CSuperSheetWnd::resetRowBkColor() {

@@ -239,5 +239,21 @@ void CSuperSheetWnd::vSetFgColor(const QColor& colour) {
 
 void CSuperSheetWnd::vSetFont(const QFont& font) {
     setFont(font);
-    header->setFont(font);
+    header->setFont(headingFont());
+}
+
+void CSuperSheetWnd::setFinishColours(const SheetColours& colours) {
+    SheetColours& own = delegate->colours;
+    own.hover = colours.hover;
+    own.arrived = colours.arrived;
+    own.accent = colours.accent;
+    own.weak = colours.weak;
+    own.border = colours.border;
+    own.line = colours.line;
+    own.urgent = colours.urgent;
+    own.onUrgent = colours.onUrgent;
+    header->line = colours.line;
+    delegate->forgetPictures();
+    header->viewport()->update();
+    viewport()->update();
 }

@@ -15,6 +15,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace wirepane;
 
@@ -43,6 +44,7 @@ CSuperSheetWnd::CSuperSheetWnd(CSheetBuilder* sheetBuilder, QWidget* parent)
     setFrameStyle(QFrame::Box | QFrame::Plain);
     connect(header, &QHeaderView::sectionResized, this,
             [this](int column, int, int size) { sectionResized(column, size); });
+    connect(header, &QHeaderView::sectionHandleDoubleClicked, this, &CSuperSheetWnd::columnEndDoubleClicked);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         if (!takingUp)
             emit scrolledVertically();
@@ -109,14 +111,47 @@ void CSuperSheetWnd::setHeightOfRows(int height) {
     applyHeights();
 }
 
-int CSuperSheetWnd::heightFor(int height) const {
-    const int fontHeight = fontMetrics().height();
-    return fontHeight > height ? fontHeight + 2 : height;
+void CSuperSheetWnd::setLook(const RowLook& look) {
+    if (look == delegate->look)
+        return;
+    delegate->look = look;
+    header->look = look;
+    header->setFont(headingFont());
+    viewport()->setMouseTracking(look.finished);
+    applyHeights();
+    header->viewport()->update();
+    viewport()->update();
+}
+
+const RowLook& CSuperSheetWnd::look() const {
+    return delegate->look;
+}
+
+QFont CSuperSheetWnd::headingFont() const {
+    return delegate->look.finished ? sizedFont(font(), headingShare) : font();
+}
+
+int CSuperSheetWnd::heightFor(int height, const QFontMetrics& metrics) const {
+    return metrics.height() > height ? metrics.height() + 2 : height;
+}
+
+int CSuperSheetWnd::rowHeightFor() const {
+    if (delegate->look.air == 0)
+        return heightFor(wantedRowHeight, fontMetrics());
+    constexpr int mostMore = 4;
+    const int least = textHeight(font()) + delegate->look.air;
+    // Else the edges of every other row would lie within a pixel of the screen.
+    for (int height = least; height < least + mostMore; ++height) {
+        const qreal onScreen = height * devicePixelRatioF();
+        if (onScreen == std::floor(onScreen))
+            return height;
+    }
+    return least;
 }
 
 void CSuperSheetWnd::applyHeights() {
-    header->setFixedHeight(heightFor(wantedHeaderHeight));
-    verticalHeader()->setDefaultSectionSize(heightFor(wantedRowHeight));
+    header->setFixedHeight(heightFor(wantedHeaderHeight, QFontMetrics(headingFont())));
+    verticalHeader()->setDefaultSectionSize(rowHeightFor());
     updateGeometries();
 }
 
@@ -182,6 +217,7 @@ void CSuperSheetWnd::sectionResized(int column, int size) {
         return;
     widths[column] = size;
     stretchLastColumn();
+    emit columnDragged(column, size);
 }
 
 void CSuperSheetWnd::stretchLast(bool stretch) {
@@ -224,6 +260,8 @@ void CSuperSheetWnd::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         applyHeights();
+    else if (event->type() == QEvent::PaletteChange)
+        delegate->forgetPictures();
 }
 
 void CSuperSheetWnd::initStyleOption(QStyleOptionFrame* option) const {
@@ -240,6 +278,7 @@ void CSuperSheetWnd::setEmptyText(const QString& text) {
 }
 
 void CSuperSheetWnd::paintEvent(QPaintEvent* event) {
+    delegate->hoveredRow = rowAtHeight(hoverY);
     QTableView::paintEvent(event);
     if (emptyText.isEmpty() || rowCount() > 0)
         return;

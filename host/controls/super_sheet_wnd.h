@@ -3,17 +3,20 @@
 #pragma once
 
 #include "host/contract/export.h"
+#include "host/controls/row_look.h"
 
 #include <QTableView>
 
 #include <vector>
 
 class CSheetBuilder;
+class QHelpEvent;
 
 namespace wirepane {
 class SheetCells;
 class SheetDelegate;
 class SheetHeader;
+struct SheetColours;
 
 }  // namespace wirepane
 
@@ -41,6 +44,12 @@ public:
     // Heights are exact, except that they grow to the font's height + 2 where the font is taller.
     void setHeaderRowHeight(int height);
     void setHeightOfRows(int height);
+    // How rows and headings look. Rows that have air are as high as their text and it, in whole pixels of the
+    // screen.
+    void setLook(const wirepane::RowLook& look);
+    const wirepane::RowLook& look() const;
+    // What headings are written in.
+    QFont headingFont() const;
 
     // Columns are cut at their width; the last one is stretched to the sheet's right edge when there is room,
     // unless stretchLast says otherwise. The user can resize them.
@@ -75,6 +84,8 @@ public:
     void setEmptyText(const QString& text);
     // The cells of a row have been written: it is drawn again.
     void invalidateRow(int row);
+    // Something about a row's look has changed, and none of its texts.
+    void repaintRow(int row);
     // Row 0 has the first row colour again. (A row keeps its colour while rows come and go above the others.)
     void resetRowBkColor();
 
@@ -120,6 +131,8 @@ public:
     void vSetFocusColor(bool marking, const QColor& focused, const QColor& unfocused);
     void vSetFgColor(const QColor& colour);
     void vSetFont(const QFont& font);
+    // Those of finished rows (SheetColours); of the others nothing is taken.
+    void setFinishColours(const wirepane::SheetColours& colours);
 
 Q_SIGNALS:
     // The left button was released, was clicked twice, over the rows or below them, without Ctrl or Shift
@@ -129,6 +142,9 @@ Q_SIGNALS:
     // Other rows have come on screen, because the user or code scrolled or because rows on screen went. Not
     // sent while rows come and go above those on screen, which keep their places then.
     void scrolledVertically();
+    // The user has dragged a column to a width, has clicked twice at the end of its heading.
+    void columnDragged(int column, int width);
+    void columnEndDoubleClicked(int column);
 
 public:
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
@@ -156,7 +172,11 @@ private:
     void takeUpRows() const;
     bool mayShowOthers() const;
     void keepShownRows();
-    int heightFor(int height) const;
+    int heightFor(int height, const QFontMetrics& metrics) const;
+    int rowHeightFor() const;
+    int rowAtHeight(int y) const;
+    void hoverAt(int y);
+    bool showToolTip(const QHelpEvent& event);
     QString headerTexts() const;
     bool hasColumn(int column) const;
 
@@ -169,6 +189,7 @@ private:
     QSize toldSize;
     int wantedRowHeight = 20;
     int wantedHeaderHeight = 20;
+    int hoverY = -1;  // of the pointer over the rows; -1: it is elsewhere
     bool stretching = false;
     bool lastColumnStretches = true;
     int shownFirst = 0;  // the first visible row before and after rows are taken up

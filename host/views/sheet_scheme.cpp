@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/views/sheet_scheme.h"
 
+#include "host/contract/colour_roles.h"
 #include "host/contract/sync_info.h"
+#include "host/controls/sheet_colours.h"
 #include "host/controls/super_sheet_wnd.h"
 
 #include <QApplication>
@@ -29,6 +31,16 @@ void applyHostScheme(CSuperSheetWnd& sheet, const QFont& font) {
     sheet.vSetFocusColor(true, hostColour(u"COLOR_LISTCTL_CLICKLINE"_s, palette.color(QPalette::Highlight)),
                          hostColour(u"COLOR_LISTCTL_CLICKLINE_GRAY"_s, palette.color(QPalette::Midlight)));
     sheet.vSetFgColor(hostColour(u"COLOR_LISTCTL_NORMALTEXT"_s, palette.color(QPalette::Text)));
+    SheetColours finish;
+    finish.hover = roleColour(ColourRole::Hover);
+    finish.arrived = roleColour(ColourRole::Arrived);
+    finish.accent = roleColour(ColourRole::Accent);
+    finish.weak = roleColour(ColourRole::Weak);
+    finish.border = roleColour(ColourRole::Border);
+    finish.line = roleColour(ColourRole::Line);
+    finish.urgent = roleColour(ColourRole::Flash);
+    finish.onUrgent = roleColour(ColourRole::OnFlash);
+    sheet.setFinishColours(finish);
     sheet.vSetFont(font);
 }
 

@@ -1419,6 +1419,22 @@
         <source></source>
         <translation>Pending…</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_SECONDS_AGO">
+        <source></source>
+        <translation>%1 s ago</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_MINUTES_AGO">
+        <source></source>
+        <translation>%1 min ago</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_HOURS_AGO">
+        <source></source>
+        <translation>%1 h ago</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_DAYS_AGO">
+        <source></source>
+        <translation>%1 days ago</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER_HEADLINELIST">
         <source></source>
         <translation>Reload &amp;Headlines</translation>

@@ -1419,6 +1419,22 @@
         <source></source>
         <translation>补发中…</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_SECONDS_AGO">
+        <source></source>
+        <translation>%1 秒前</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_MINUTES_AGO">
+        <source></source>
+        <translation>%1 分钟前</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_HOURS_AGO">
+        <source></source>
+        <translation>%1 小时前</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_DAYS_AGO">
+        <source></source>
+        <translation>%1 天前</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER_HEADLINELIST">
         <source></source>
         <translation>重新载入标题(&amp;H)</translation>

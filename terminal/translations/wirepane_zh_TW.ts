@@ -1419,6 +1419,22 @@
         <source></source>
         <translation>回補中…</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_SECONDS_AGO">
+        <source></source>
+        <translation>%1 秒前</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_MINUTES_AGO">
+        <source></source>
+        <translation>%1 分鐘前</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_HOURS_AGO">
+        <source></source>
+        <translation>%1 小時前</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_DAYS_AGO">
+        <source></source>
+        <translation>%1 天前</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_RECOVER_HEADLINELIST">
         <source></source>
         <translation>回補新聞標題(&amp;H)</translation>

@@ -207,4 +207,20 @@ TEST(ViewOptions, WhatTheUserSwitchedOffStaysOff) {
         EXPECT_EQ(options[row.option], row.option != viewOptionTable.front().option) << row.key.data();
 }
 
+TEST(ViewOptions, NumbersKeepToTheirRange) {
+    MemoryCfgIO all;
+    ViewOptions::writeMissing(all, {});
+    for (const ViewOptionRow& row : viewOptionTable) {
+        if (row.most == 1)
+            continue;
+        EXPECT_EQ(ViewOptions::read(all, {}).value(row.option), row.own) << row.key.data();
+        for (const int number : {-1, 0, row.most, row.most + 1}) {
+            MemoryCfgIO set;
+            set.values = {{QString(row.key), number}};
+            EXPECT_EQ(ViewOptions::read(set, {}).value(row.option), number == row.most ? number : 0)
+                << row.key.data() << ' ' << number;
+        }
+    }
+}
+
 }  // namespace wirepane

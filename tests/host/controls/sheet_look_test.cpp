@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "host/controls/drawn_texts.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/sheet_builder.h"
+#include "host/controls/sheet_colours.h"
 #include "tests/host/controls/sheet_fixture.h"
 
 #include <QHeaderView>
@@ -211,6 +213,61 @@ TEST_F(SheetLook, ColoursReachTextHeaderAndFrameAndFollowThePaletteWhenUnset) {
     EXPECT_EQ(picture.pixelColor(3, 4), QColor(8, 8, 8));
     EXPECT_EQ(rowColour(*sheet, 0), QColor(9, 9, 9));
     EXPECT_EQ(rowColour(*sheet, 10), QColor(9, 9, 9));
+}
+
+TEST_F(SheetLook, GroundsOfFinishedRowsSayWhatBecameOfThem) {
+    struct Arriving : NumberedCells {
+        int arrival(int row) const override { return row == 1 || row == 2 ? fullArrival : 0; }
+    } arriving;
+    SheetColours finish;
+    finish.hover = QColor(1, 1, 90);
+    finish.arrived = QColor(90, 1, 1);
+    finish.accent = QColor(1, 90, 1);
+    const QColor selected(70, 70, 70);
+    const QColor unfocused(80, 80, 80);
+    auto* line = new QLineEdit(&window);
+    sheet->setCells(&arriving);
+    sheet->setFinishColours(finish);
+    sheet->vSetBkColor(Qt::white, Qt::white);
+    sheet->vSetFocusColor(true, selected, unfocused);
+    sheet->addRows(5);
+    showAt({600, 300});
+    EXPECT_EQ(rowColour(*sheet, 1), QColor(Qt::white));  // plain rows
+    sheet->setLook({true, 16, 6});
+    EXPECT_EQ(sheet->rowHeight(0), textHeight(sheet->font()) + 6);
+    const int height = sheet->rowHeight(0);
+    sheet->setFocus();
+    sheet->setActiveSelection(2, -1);
+    QTest::mouseMove(sheet->viewport(), {50, 3 * height + 5});
+    const auto ground = [&](int row) {
+        QCoreApplication::processEvents();
+        return sheet->viewport()->grab().toImage().pixelColor(8, row * height + 2);
+    };
+    EXPECT_EQ(ground(1), finish.arrived);
+    EXPECT_EQ(ground(2), selected);  // wins over an arrival
+    EXPECT_EQ(ground(3), finish.hover);
+    EXPECT_EQ(rowColour(*sheet, 2), finish.accent);  // the bar
+    EXPECT_EQ(rowColour(*sheet, 3), finish.hover);
+    line->setFocus();
+    EXPECT_EQ(rowColour(*sheet, 2), unfocused);  // and no bar
+    QTest::mouseMove(sheet->viewport(), {50, 4 * height + 5});
+    EXPECT_EQ(ground(3), QColor(Qt::white));
+    sheet->setCells(nullptr);
+}
+
+TEST(DrawnTexts, StayWithinTheirRoomAndAreLaidOutOnce) {
+    DrawnTexts texts;
+    texts.setFont(QGuiApplication::font());
+    const QString text = QStringLiteral("Shares of shipping lines firm as freight rates recover 航運");
+    const DrawnText& whole = texts.line(text, 2000);
+    const qreal width = whole.width;
+    const QGlyphRun* glyphs = whole.runs.data();
+    for (const int room : {0, 1, 30, 150, static_cast<int>(width) - 1})
+        EXPECT_LE(texts.line(text, room).width,
+                  std::max<qreal>(room, QFontMetricsF(texts.font()).horizontalAdvance(u'\u2026')));
+    EXPECT_EQ(texts.line(text, 2000).runs.constData(), glyphs);
+    // A full-width bracket's ink stands at the edge.
+    EXPECT_GT(texts.line(QStringLiteral("《開市》"), 2000).overhang, 0);
 }
 
 TEST_F(SheetLook, AnEmptySheetShowsItsText) {

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// How a headline list looks where its settings ask for more than the plain columns.
+#include "headline_list/headline_columns.h"
+#include "headline_list/headline_list.h"
+#include "headline_list/list_state.h"
+#include "headline_list/row_tip.h"
+#include "headline_list/title_chips.h"
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/clock.h"
+
+#include <QHeaderView>
+#include <QStyle>
+
+namespace wirepane {
+
+void HeadlineList::setOptions(const ViewOptions& options) {
+    state->options = options;
+    if (sheet == nullptr)
+        return;
+    if (const int heading = options.value(ViewOption::HeadingHeight); heading > 0)
+        sheet->setHeaderRowHeight(heading);
+    sheet->setLook({options[ViewOption::FinishedRows], options.value(ViewOption::RowGutter),
+                    options.value(ViewOption::RowAir)});
+    sheet->stretchLast(options[ViewOption::StretchTitles] || options[ViewOption::MeasuredColumns]);
+    measureColumns();
+}
+
+// --- Columns ---
+
+void HeadlineList::measureColumns() {
+    state->serviceNames.clear();
+    if (sheet == nullptr || !state->options[ViewOption::MeasuredColumns])
+        return;
+    QStringList headings;
+    for (const HeadlineColumnKind& column : headlineColumns)
+        headings << langText(backEnd, column.headerKey);
+    state->widths.measure({sheet->font(), sheet->headingFont(), headings, owner.topicNames()},
+                          state->options.value(ViewOption::RowGutter), kind.showDate);
+    applyWidths();
+}
+
+void HeadlineList::applyWidths() {
+    for (const HeadlineColumnKind& column : headlineColumns) {
+        if (column.column != HeadlineColumn::Title)
+            showColumn(column.column, column.column != HeadlineColumn::Category || state->categoryShown);
+    }
+}
+
+void HeadlineList::showColumn(HeadlineColumn column, bool show) {
+    if (column == HeadlineColumn::Category)
+        state->categoryShown = show;
+    const int place = placeOf(column, owner.GetNewsType());
+    const int width = show ? state->widths.of(column) : 0;
+    if (sheet == nullptr || place < 0 || sheet->colWidth(place) == width)
+        return;
+    sheet->vSetColWidth(place, width);
+    sheet->viewport()->update();
+}
+
+void HeadlineList::takeDraggedWidth(int place, int width) {
+    const HeadlineColumnKind* column = columnAt(place);
+    if (column == nullptr || !state->widths.isMeasuring())
+        return;
+    state->widths.setByHand(column->column, width);
+    applyWidths();
+}
+
+QString HeadlineList::keptWidths() const {
+    return state->widths.keptText();
+}
+
+void HeadlineList::restoreWidths(const QString& kept) {
+    state->widths.restore(kept);
+    if (state->widths.isMeasuring())
+        applyWidths();
+}
+
+// --- Rows ---
+
+SheetChip HeadlineList::chip(const QString& cellText, int column) const {
+    const HeadlineColumnKind* shown = columnAt(column);
+    const bool isTitle = shown != nullptr && shown->column == HeadlineColumn::Title;
+    return isTitle && state->options[ViewOption::TitleChips] ? chipOfTitle(cellText) : SheetChip{};
+}
+
+bool HeadlineList::holdsFigures(int column) const {
+    const HeadlineColumnKind* shown = columnAt(column);
+    return shown != nullptr && shown->column == HeadlineColumn::Time;
+}
+
+QString HeadlineList::serviceName(unsigned char service) const {
+    const auto known = state->serviceNames.constFind(service);
+    if (known != state->serviceNames.cend())
+        return *known;
+    QString name;
+    backEnd.BKQNEWS_bGetShortNameByService(name, service);
+    return *state->serviceNames.insert(service, name);
+}
+
+QString HeadlineList::tag(int row, int column) const {
+    const HeadlineColumnKind* shown = columnAt(column);
+    if (!state->options[ViewOption::ServiceTags] || shown == nullptr ||
+        shown->column != HeadlineColumn::Title || row < 0 || row >= table.size())
+        return {};
+    return serviceName(table.at(row).service);
+}
+
+QString HeadlineList::toolTip(int row) const {
+    const WrittenCells* written = cellsOf(row);
+    if (!state->options[ViewOption::RowTips] || written == nullptr)
+        return {};
+    const CHeadlineTable& entry = table.at(row);
+    return rowTip(backEnd, written->textOf(HeadlineColumn::Title), serviceName(entry.service),
+                  written->textOf(HeadlineColumn::Category), entry.time, host_clock::now());
+}
+
+// --- Rows that have just come ---
+
+void HeadlineList::noteArrival(const HeadlineKey& key) {
+    const bool animates = sheet->style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, sheet) > 0;
+    if (!state->options[ViewOption::MarkArrivals] || !animates || !sheet->isVisible())
+        return;
+    state->arrivals.note(key, state->clock.elapsed());
+    if (!state->fading.isActive())
+        state->fading.start(Arrivals::stepMs);
+}
+
+int HeadlineList::arrival(int row) const {
+    if (state->arrivals.isEmpty() || row < 0 || row >= table.size())
+        return 0;
+    return state->arrivals.stepOf(keyOf(table.at(row)), state->clock.elapsed());
+}
+
+// Only rows on screen that fade are drawn again, and once more when they have faded.
+void HeadlineList::fade() {
+    if (sheet != nullptr) {
+        const int first = sheet->firstVisibleRow();
+        for (int row = first; row <= first + sheet->rowsPerPage() && row < table.size(); ++row) {
+            if (state->arrivals.holds(keyOf(table.at(row))))
+                sheet->repaintRow(row);
+        }
+    }
+    state->arrivals.forgetFaded(state->clock.elapsed());
+    if (state->arrivals.isEmpty())
+        state->fading.stop();
+}
+
+}  // namespace wirepane

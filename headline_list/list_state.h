@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "headline_list/arrivals.h"
+#include "headline_list/cell_state.h"
+#include "headline_list/column_widths.h"
+#include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
+#include "headline_list/reading_place.h"
+#include "host/contract/view_options.h"
+
+#include <QElapsedTimer>
+#include <QHash>
+
+#include <optional>
+
+namespace wirepane {
+
+// What a headline list is made of. For its own files alone.
+struct HeadlineList::State {
+    HeadlineTable table;
+    CellState cells;
+    std::optional<ReadingPlace> heldPlace;
+    ViewOptions options;
+    ColumnWidths widths;
+    bool categoryShown = true;
+    Arrivals arrivals;
+    QElapsedTimer clock;  // of the arrivals
+    QTimer fading;
+    QHash<unsigned char, QString> serviceNames;  // that were asked for
+};
+
+}  // namespace wirepane

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/sheet_row_painter.h"
+
+#include "host/controls/row_look.h"
+#include "host/controls/sheet_cells.h"
+
+#include <QPaintDevice>
+#include <QPainter>
+
+namespace wirepane {
+
+namespace {
+
+constexpr int roomForTag = 420;  // a cell that is narrower shows none
+constexpr int tagEdge = 18;      // from the cell's right edge: the scroll bar lies there
+constexpr int tagGap = 10;       // between text and tag
+constexpr int radius = 3;
+constexpr int mostKept = 64;
+
+qreal baselineIn(const QRect& room, const QFont& font) {
+    const QFontMetricsF metrics(font);
+    return room.top() + (room.height() - metrics.height()) / 2 + metrics.ascent();
+}
+
+}  // namespace
+
+void SheetRowPainter::setFont(const QFont& font) {
+    if (font == texts.font())
+        return;
+    texts.setFont(font);
+    tags.setFont(sizedFont(font, tagShare));
+    chipFont = sizedFont(font, chipShare);
+    chipFont.setWeight(QFont::DemiBold);
+    chips.clear();
+}
+
+void SheetRowPainter::forgetPictures() {
+    chips.clear();
+    pens.clear();
+}
+
+// A pen made of a colour takes memory.
+void SheetRowPainter::setPen(QPainter& painter, const QColor& colour) {
+    if (pens.size() > mostKept)
+        pens.clear();
+    auto pen = pens.find(colour.rgba());
+    if (pen == pens.end())
+        pen = pens.insert(colour.rgba(), QPen(colour));
+    painter.setPen(*pen);
+}
+
+int SheetRowPainter::paintTag(QPainter& painter, const SheetCells& cells, const Cell& cell,
+                              const QPalette& palette) {
+    const QString tag = cell.room.width() < roomForTag ? QString() : cells.tag(cell.row, cell.column);
+    if (tag.isEmpty())
+        return cell.room.right() + 1;
+    const DrawnText& drawn = tags.line(tag, roomForTag / 2);
+    const qreal left = cell.room.right() + 1 - tagEdge - drawn.width;
+    setPen(painter, colours.weakColour(palette));
+    DrawnTexts::draw(painter, drawn, left, baselineIn(cell.room, tags.font()));
+    return static_cast<int>(left) - tagGap;
+}
+
+void SheetRowPainter::paint(QPainter& painter, const SheetCells& cells, const Cell& cell,
+                            const QPalette& palette) {
+    const QString text = cells.text(cell.row, cell.column);
+    if (text.isEmpty())
+        return;
+    const int right = paintTag(painter, cells, cell, palette);
+    const DrawnText& drawn = texts.line(text, right - cell.room.left(), &cells, cell.column);
+    qreal x = cell.room.left();
+    if (cell.alignment & Qt::AlignRight)
+        x = right - drawn.width;
+    if (drawn.chip.length > 0) {
+        const QPixmap& chip = chipPicture(painter, drawn.chipLabel, drawn.chip.urgent, palette);
+        const qreal high = chip.height() / chip.devicePixelRatio();
+        painter.drawPixmap(QPointF(x, cell.room.top() + static_cast<int>((cell.room.height() - high) / 2)),
+                           chip);
+        x += chip.width() / chip.devicePixelRatio() + DrawnTexts::chipGap;
+    }
+    const QColor own = cells.textColour(cell.row, cell.column);
+    setPen(painter, own.isValid() ? own : colours.textColour(palette));
+    DrawnTexts::draw(painter, drawn, x, baselineIn(cell.room, texts.font()));
+}
+
+const QPixmap& SheetRowPainter::chipPicture(const QPainter& painter, const QString& label, bool urgent,
+                                            const QPalette& palette) {
+    if (const qreal ratio = painter.device()->devicePixelRatioF(); ratio != chipRatio) {
+        chips.clear();
+        chipRatio = ratio;
+    }
+    if (const auto known = chips.constFind(label); known != chips.cend())
+        return *known;
+    const QSize size(texts.chipWidth(label), textHeight(chipFont) + 1);
+    QPixmap picture((QSizeF(size) * chipRatio).toSize());
+    picture.setDevicePixelRatio(chipRatio);
+    picture.fill(Qt::transparent);
+    QPainter drawing(&picture);
+    drawing.setRenderHint(QPainter::Antialiasing);
+    drawing.setPen(urgent ? QPen(Qt::NoPen) : QPen(colours.borderColour(palette)));
+    drawing.setBrush(urgent ? QBrush(colours.urgentColour(palette)) : QBrush(Qt::NoBrush));
+    const QRectF outline{QPointF(), QSizeF(size)};
+    constexpr qreal half = 0.5;  // a line of one pixel lies within the pixel
+    drawing.drawRoundedRect(urgent ? outline : outline.adjusted(half, half, -half, -half), radius, radius);
+    drawing.setFont(chipFont);
+    drawing.setPen(urgent ? colours.onUrgentColour() : colours.textColour(palette));
+    drawing.drawText(outline, Qt::AlignCenter | Qt::TextSingleLine, label);
+    return *chips.insert(label, picture);
+}
+
+}  // namespace wirepane

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/export.h"
+#include "host/controls/drawn_texts.h"
+#include "host/controls/sheet_colours.h"
+
+#include <QHash>
+#include <QPen>
+#include <QPixmap>
+
+class QPainter;
+
+namespace wirepane {
+class SheetCells;
+
+// Draws what stands in the cells of finished rows: the text, cut with dots at the right, its head as a chip,
+// the tag at its end. What was drawn once is drawn again without being laid out again, and without taking
+// memory.
+class SheetRowPainter {
+public:
+    struct Cell {
+        int row = 0;  // of the cells' source
+        int column = 0;
+        QRect room;  // for the text
+        Qt::Alignment alignment;
+    };
+
+    // The colours are referred to; after a change of theirs call forgetPictures.
+    explicit SheetRowPainter(const SheetColours& rowColours) : colours(rowColours) {}
+
+    // The font of what is painted next.
+    void setFont(const QFont& font);
+    void forgetPictures();
+    void paint(QPainter& painter, const SheetCells& cells, const Cell& cell, const QPalette& palette);
+
+private:
+    // Result: where the tag leaves off.
+    int paintTag(QPainter& painter, const SheetCells& cells, const Cell& cell, const QPalette& palette);
+    const QPixmap& chipPicture(const QPainter& painter, const QString& label, bool urgent,
+                               const QPalette& palette);
+    void setPen(QPainter& painter, const QColor& colour);
+
+    const SheetColours& colours;
+    DrawnTexts texts;
+    DrawnTexts tags;
+    QFont chipFont;
+    QHash<QString, QPixmap> chips;
+    qreal chipRatio = 0;  // device pixels to a pixel in the chips' pictures
+    QHash<QRgb, QPen> pens;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "headline_list/arrivals.h"
+#include "headline_list/column_widths.h"
+#include "headline_list/row_tip.h"
+#include "headline_list/title_chips.h"
+#include "host/contract/cfg_io.h"
+#include "host/contract/view_options.h"
+#include "host/controls/row_look.h"
+#include "tests/headline_list/list_fixture.h"
+#include "tests/support/local_time.h"
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+using HeadlineLook = HeadlineListTest;
+
+ViewOptions ownOptions() {
+    MemoryCfgIO store;
+    ViewOptions::writeMissing(store, {});
+    return ViewOptions::read(store, {});
+}
+
+}  // namespace
+
+TEST(TitleChips, StandForTheWordsAtTheHead) {
+    const struct {
+        QString title, label, rest;
+        bool urgent;
+    } rows[] = {{u"FLASH: Rates up"_s, u"FLASH"_s, u"Rates up"_s, true},
+                {u"快訊：台灣出口增"_s, u"快訊"_s, u"台灣出口增"_s, true},
+                {u"快讯：  增"_s, u"快讯"_s, u"增"_s, true},
+                {u"CORRECTED:New rules"_s, u"CORRECTED"_s, u"New rules"_s, false},
+                {u"（更正）《開市》"_s, u"更正"_s, u"《開市》"_s, false},
+                {u"FLASH: "_s, {}, u"FLASH: "_s, false},  // nothing would be left
+                {u"Flash: Rates up"_s, {}, u"Flash: Rates up"_s, false},
+                {{}, {}, {}, false}};
+    for (const auto& row : rows) {
+        const SheetChip chip = chipOfTitle(row.title);
+        EXPECT_EQ(row.title.mid(chip.labelFrom, chip.labelLength), row.label);
+        EXPECT_EQ(row.title.mid(chip.length), row.rest);
+        EXPECT_EQ(chip.urgent, row.urgent);
+    }
+}
+
+TEST(Arrivals, FadeInEightStepsAndAreForgotten) {
+    Arrivals arrivals;
+    const HeadlineKey key{100, 1, 2};
+    arrivals.note(key, 1000);
+    for (const auto& [now, step] :
+         {std::pair{1000, 8}, {1499, 8}, {1500, 7}, {4999, 1}, {5000, 0}, {99000, 0}})
+        EXPECT_EQ(arrivals.stepOf(key, now), step) << now;
+    EXPECT_EQ(arrivals.stepOf({100, 2, 2}, 1000), 0);
+    arrivals.forgetFaded(4999);
+    EXPECT_TRUE(arrivals.holds(key));
+    arrivals.forgetFaded(5000);
+    EXPECT_TRUE(arrivals.isEmpty());
+}
+
+TEST_F(HeadlineLook, ATipSaysWhatARowHasNoRoomFor) {
+    for (const auto& [key, text] :
+         {std::pair{"SECONDS", u"%1 s"_s}, {"MINUTES", u"%1 min"_s}, {"HOURS", u"%1 h"_s}})
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_TIP_%1_AGO"_s.arg(QLatin1StringView(key))] = text;
+    const std::int64_t time = localTime(2026, 3, 2, 9, 30, 5);
+    EXPECT_EQ(rowTip(backEnd, u"Rates <b>up</b>"_s, u"General"_s, {}, time, time + 59),
+              u"Rates <b>up</b>\nGeneral · 2026/03/02 09:30:05 · 59 s"_s);
+    EXPECT_TRUE(rowTip(backEnd, u"T"_s, {}, u"Policy"_s, time, time + 3599).endsWith(u"59 min"));
+    EXPECT_TRUE(rowTip(backEnd, u"T"_s, {}, u"Policy"_s, time, time + 2 * 86400 - 1).endsWith(u"47 h"));
+    EXPECT_TRUE(rowTip(backEnd, u"T"_s, {}, {}, time, time - 1).endsWith(u"09:30:05"));  // yet to come
+}
+
+TEST_F(HeadlineLook, MeasuredColumnsHoldTheirTextsAtAnySize) {
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_CATEGORY"_s] = u"Topic"_s;
+    HeadlineList& news = list(ListIndex::All);
+    CSuperSheetWnd& grid = *news.grid();
+    EXPECT_EQ(grid.colWidth(timeColumn), 100);
+    for (const int points : {9, 14, 20}) {
+        QFont font = grid.font();
+        font.setPointSize(points);
+        grid.vSetFont(font);
+        news.setOptions(ownOptions());
+        news.setTable({{{localTime(2026, 3, 2, 9, 30), 1, 1, 0, 0}}});
+        news.vFillHeadlineTable();
+        const QFontMetrics metrics(font);
+        const int bound = 140 * textHeight(font) / 18;
+        for (const auto& [topic, widest] :
+             {std::pair{u"Tax"_s, u"Topic"_s}, {u"Transport"_s, u"Transport"_s}}) {
+            news.vFillSheet(0, u"09:30"_s, topic, u"T"_s);
+            EXPECT_GE(grid.colWidth(categoryColumn), metrics.horizontalAdvance(topic) + 16);
+            EXPECT_LE(grid.colWidth(categoryColumn), metrics.horizontalAdvance(widest) + 16 + 1);
+        }
+        news.vFillSheet(0, u"09:30"_s, QString(80, u'W'), u"T"_s);
+        EXPECT_EQ(grid.colWidth(categoryColumn), std::max(140, bound));
+        const int ofTime = grid.colWidth(timeColumn);
+        EXPECT_GE(ofTime, 16 + metrics.horizontalAdvance(u"00:00"_s) + 14);
+        CHeadline headline{1, localTime(2026, 3, 2, 9, 31), 2, u"dated"_s, 0, 7, 0};
+        news.vProcessNewHeadline(headline, true);  // with its date
+        EXPECT_GE(grid.colWidth(timeColumn), 16 + metrics.horizontalAdvance(u"00/00 00:00"_s) + 14);
+        EXPECT_GT(grid.colWidth(timeColumn), ofTime);
+        EXPECT_EQ(grid.colWidth(titleColumn),
+                  grid.viewport()->width() - grid.colWidth(timeColumn) - grid.colWidth(categoryColumn));
+    }
+}
+
+TEST_F(HeadlineLook, WidthsGivenByHandAreKept) {
+    HeadlineList& news = list(ListIndex::All);
+    emit news.grid()->columnDragged(categoryColumn, 77);
+    EXPECT_EQ(news.keptWidths(), QString());  // plain columns are not kept
+    news.setOptions(ownOptions());
+    emit news.grid()->columnDragged(categoryColumn, 77);
+    emit news.grid()->columnDragged(titleColumn, 55);  // has the rest
+    EXPECT_EQ(news.keptWidths(), u"0,77,0"_s);
+    news.showColumn(HeadlineColumn::Category, false);
+    EXPECT_EQ(news.grid()->colWidth(categoryColumn), 0);
+    HeadlineList& other = list(ListIndex::Search);
+    other.setOptions(ownOptions());
+    for (const QString& kept : {u"x,,-5"_s, news.keptWidths()})
+        other.restoreWidths(kept);
+    EXPECT_EQ(other.grid()->colWidth(categoryColumn), 77);
+    emit other.grid()->columnEndDoubleClicked(categoryColumn);
+    EXPECT_NE(other.grid()->colWidth(categoryColumn), 77);
+    EXPECT_EQ(other.keptWidths(), QString());
+}
+
+}  // namespace wirepane
