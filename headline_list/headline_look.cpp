@@ -41,10 +41,11 @@ void HeadlineList::measureColumns() {
 }
 
 void HeadlineList::applyWidths() {
-    for (const HeadlineColumnKind& column : headlineColumns) {
-        if (column.column != HeadlineColumn::Title)
-            showColumn(column.column, column.column != HeadlineColumn::Category || state->categoryShown);
-    }
+    showColumn(HeadlineColumn::Time, true);
+    showColumn(HeadlineColumn::Category, state->categoryShown);
+    // It is stretched over what the others leave.
+    constexpr int leastOfTitle = 120;
+    sheet->vSetColWidth(placeOf(HeadlineColumn::Title, owner.GetNewsType()), leastOfTitle);
 }
 
 void HeadlineList::showColumn(HeadlineColumn column, bool show) {
