@@ -2,20 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "backend/search/search_worker.h"
 
-#include <chrono>
 #include <utility>
 
 namespace wirepane {
 
 namespace {
 
-constexpr std::chrono::seconds preparesAfter{2};
 constexpr std::chrono::seconds busyTimeout{5};
 
 }  // namespace
 
-SearchWorker::SearchWorker(QString storePath, Answer answer)
-    : path(std::move(storePath)), tell(std::move(answer)) {
+SearchWorker::SearchWorker(QString storePath, Answer answer, std::chrono::milliseconds idle)
+    : path(std::move(storePath)), tell(std::move(answer)), preparesAfter(idle) {
     thread.post([this] { prepareWhenIdle(); });
 }
 

@@ -7,6 +7,7 @@
 #include "backend/worker_thread.h"
 
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -31,7 +32,8 @@ public:
     // `answer` is called on the worker's thread, never after the destructor returns; not for dropped jobs.
     using Answer = std::function<void(std::int64_t ticket, std::vector<CHeadlineTable>&& entries)>;
 
-    SearchWorker(QString storePath, Answer answer);
+    SearchWorker(QString storePath, Answer answer,
+                 std::chrono::milliseconds preparesAfter = std::chrono::seconds(2));
 
     // Any thread. A job that is being searched when the worker ends is waited for, so drop it before.
     void ask(SearchJob job);
@@ -44,6 +46,7 @@ private:
 
     const QString path;
     const Answer tell;
+    const std::chrono::milliseconds preparesAfter;
     std::unique_ptr<Database> database;
     std::optional<NewsSearch> news;
     std::int64_t searched = 0;  // jobs

@@ -74,6 +74,7 @@ TEST(FeedLineTest, AQuoteIsReadWithItsPosition) {
 TEST(FeedLineTest, EntriesOfTheSymbolTableAndOfCataloguesComeBackAsTheyWere) {
     const StoreItem entries[] = {
         SymbolItem{52, u"030012"_s, u"嵐蘅岩港購01"_s, 3},
+        SymbolItem{1, u"X"_s, u"X"_s, 0},
         CategoryItem{22, 301, u"港股"_s, u"#2a8c55"_s},
         QuoteItem{16, u"2330"_s, 601.35, -0.1, mostVolume},
         CategoryItem{1, 1, u"Markets"_s, {}},
@@ -108,6 +109,8 @@ TEST(FeedLineTest, WhatIsNoNewsIsRejectedWithAReason) {
         R"({"wirepane":{"item":{"service":1,"identity":"a","time":1.5,"title":"t"}}})",
         R"({"wirepane":{"item":{"service":1,"identity":7,"time":1,"title":"t"}}})",
         R"({"wirepane":{"item":{"service":1,"identity":"a","time":1,"title":"t","sequence":4294967296}}})",
+        R"({"wirepane":{"item":{"service":1,"identity":"a","time":1,"title":"t","sequence":-2147483649}}})",
+        R"({"wirepane":{"item":{"service":1,"identity":"a","time":1,"title":"t"}},"more":1})",
         R"({"wirepane":{"item":{"service":1,"identity":"a","time":1,"title":"t","related":[1]}}})",
         R"({"wirepane":{"item":{"service":1,"identity":"a","time":1,"title":"t","related":"x"}}})",
         R"({"wirepane":{"ninjs":{"headline":"no uri"}}})",

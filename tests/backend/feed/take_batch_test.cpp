@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "backend/feed/feed_connection.h"
 #include "backend/feed/line_source.h"
 #include "backend/import/import_errors.h"
+#include "backend/lines/line_channel.h"
 #include "tests/backend/feed/feed_fixture.h"
 
 namespace wirepane {
@@ -52,6 +54,9 @@ TEST_F(TakeBatchTest, LinesAreAcknowledgedOnceTheyAreOnTheDisk) {
     EXPECT_EQ(acknowledgements.mid(1),
               (QStringList{u"1005: 1000 0 0"_s, u"2005: 1000 0 0"_s, u"2505: 500 0 0"_s}));
     EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2509"_s);
+    source.add(record(u"z"_s, u"Z"_s));
+    EXPECT_TRUE(takeBatch(*source.batch(), source.name(), *writer));
+    EXPECT_EQ(writer->positionOf(u"wire"_s).value(), u"2509"_s) << "what names none is behind none";
 }
 
 // Who takes a batch keeps others waiting.
@@ -99,6 +104,31 @@ TEST_F(TakeBatchTest, AStoreThatFailsKeepsTheBatchForLater) {
     sink.failsAt = FailingSink::Never;
     EXPECT_TRUE(takeBatch(*source.batch(), source.name(), sink));
     EXPECT_EQ(titles(), (QStringList{u"A"_s, u"B"_s}));
+}
+
+class FakeChannel : public LineChannel {
+public:
+    void send(const QByteArray& line) override { sent += line; }
+    void heldChanged() override {}
+    QByteArrayList sent;
+};
+
+TEST_F(TakeBatchTest, ASenderIsAnsweredIfItWantsToBeAndDoneWithWhenItsLinesAreTaken) {
+    for (const auto answers : {FeedConnection::Answers::All, FeedConnection::Answers::None}) {
+        const qsizetype answered = answers == FeedConnection::Answers::All ? 1 : 0;
+        FakeChannel channel;
+        FeedConnection sender(&channel, 1, answers);
+        emit channel.lineReceived(handshakeLine({u"wire"_s, 1}));
+        sender.resume(u"4"_s);
+        EXPECT_EQ(channel.sent, QByteArrayList(answered, "{\"position\":\"4\"}\n"));
+        emit channel.lineReceived(record(u"a"_s, u"A"_s));
+        emit channel.ended();
+        EXPECT_FALSE(sender.isDone());
+        sender.batch();
+        sender.acknowledge({});
+        EXPECT_TRUE(sender.isDone());
+        EXPECT_EQ(channel.sent.size(), 2 * answered);
+    }
 }
 
 }  // namespace

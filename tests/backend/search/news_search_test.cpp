@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "backend/search/news_search.h"
 
+#include "backend/search/search_index_check.h"
 #include "backend/store/store_file.h"
 #include "tests/backend/store/store_fixture.h"
+
+#include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
 
@@ -158,6 +161,45 @@ TEST_F(NewsSearchTest, FollowsWhatIsTakenIn) {
         EXPECT_EQ(found(conditionOf({mark})), QStringList({u"lead"_s, u"bronze "_s + mark}));
         EXPECT_EQ(found(conditionOf({u"silver"_s, mark})), QStringList({u"lead"_s}));
     }
+}
+
+// Many are looked up among the keys in memory, which are read once, ahead or when they are needed first.
+TEST_F(NewsSearchTest, TheKeysOfAllHeadlinesAreReadOnce) {
+    constexpr int many = 5000;
+    ASSERT_TRUE(writer->begin());
+    for (int i = 0; i < many; ++i)
+        ASSERT_TRUE(writer->takeNews(newsItem(1, QString::number(i), at(9, 0, i % 60), u"gold"_s)));
+    ASSERT_TRUE(writer->commit());
+    int reads = 0;
+    sqlite3_trace_v2(
+        reading->handle(), SQLITE_TRACE_STMT,
+        [](unsigned, void* count, void*, void* sql) {
+            if (QByteArray(static_cast<const char*>(sql)).endsWith("ORDER BY service, time, sequence"))
+                ++*static_cast<int*>(count);
+            return 0;
+        },
+        &reads);
+    for (const bool isAhead : {false, true}) {
+        NewsSearch fresh(*reading);
+        reads = 0;
+        if (isAhead)
+            fresh.prepare();
+        EXPECT_EQ(reads, isAhead ? 1 : 0);
+        for (const QString& word : {u"gold"_s, u"gold"_s, u"tin"_s}) {
+            const auto entries = fresh.find(1, conditionOf({word}));
+            ASSERT_TRUE(entries);
+            EXPECT_EQ(entries->size(), word == u"gold"_s ? std::size_t(many) : 0U);
+        }
+        EXPECT_EQ(reads, 1);
+    }
+    sqlite3_trace_v2(reading->handle(), 0, nullptr, nullptr);
+}
+
+TEST_F(NewsSearchTest, NoMoreFaultsOfTheIndexAreNamedThanWanted) {
+    for (const QString& identity : {u"a"_s, u"b"_s, u"c"_s})
+        takeStory(identity, u"Title"_s, u"story"_s);
+    ASSERT_TRUE(store->execute("UPDATE stories SET text = 'another'"));
+    EXPECT_EQ(searchIndexFaults(*reading, 2), (QStringList{u"1/a"_s, u"1/b"_s}));
 }
 
 TEST_F(NewsSearchTest, KeywordsOfAnySizeAndNumberAreAnswered) {

@@ -4,6 +4,7 @@
 
 #include "tests/backend/store/store_fixture.h"
 
+#include <QFile>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -121,6 +122,20 @@ TEST_F(SearchDispatcherTest, ASearchSentDuringAnAnswerIsThePresentOne) {
     ASSERT_TRUE(answered(2));
     EXPECT_EQ(answers, QStringList({u"gold@1 2,0"_s, u"tin@2 0,0"_s}));
     EXPECT_EQ(sizes(), u"0,0");
+}
+
+// The keys of the headlines are read ahead; a store that is open leaves its shared memory beside it.
+TEST_F(SearchDispatcherTest, AWorkerReadsAheadWhileNothingIsAsked) {
+    ASSERT_TRUE(store->execute("PRAGMA wal_checkpoint(TRUNCATE)"));
+    for (const bool isAsked : {false, true}) {
+        const QString copy = pathOf(u"copy%1.db"_s.arg(isAsked));
+        ASSERT_TRUE(QFile::copy(store->path(), copy));
+        SearchWorker worker(
+            copy, [](std::int64_t, std::vector<CHeadlineTable>&&) {}, std::chrono::milliseconds(20));
+        if (isAsked)
+            worker.ask({1, 1, conditionOf(u"gold"_s), std::make_shared<std::atomic<bool>>(true)});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(copy + u"-shm"_s); })) << isAsked;
+    }
 }
 
 TEST_F(SearchDispatcherTest, AStoreThatCannotBeReadGivesEmptyAnswersAndTheEndWaitsForNothing) {
