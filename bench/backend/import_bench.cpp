@@ -9,6 +9,7 @@
 #include "bench/backend/plain_inserts.h"
 #include "bench/backend/search_store.h"
 #include "bench/backend/store_timing.h"
+#include "bench/support/run_benchmarks.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -151,8 +152,5 @@ BENCHMARK_CAPTURE(importFile, table, Format::Table)
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<QCoreApplication>(argc, argv);
 }

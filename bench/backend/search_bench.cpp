@@ -7,6 +7,7 @@
 #include "backend/store/store_writer.h"
 #include "bench/backend/search_store.h"
 #include "bench/backend/store_timing.h"
+#include "bench/support/run_benchmarks.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -81,13 +82,13 @@ struct Answers {
         const CSearch condition = conditionOf(word);
         double first = 0;
         const double all = secondsOf([&] {
-            const auto from = std::chrono::steady_clock::now();
+            const auto from = BenchClock::now();
             for (int service = 1; service <= searchServices; ++service)
                 desk.ask(static_cast<unsigned char>(service), kind, condition);
             while (count < searchServices) {
                 QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
                 if (first == 0 && count > 0)
-                    first = std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
+                    first = secondsSince(from);
             }
         });
         return {first, all};
@@ -149,7 +150,7 @@ void inputDuringSearch(benchmark::State& state) {
         QTimer timer;
         timer.setTimerType(Qt::PreciseTimer);
         QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-            const auto now = std::chrono::steady_clock::now();
+            const auto now = BenchClock::now();
             late.push_back(std::chrono::duration<double, std::milli>(now - due).count());
             due = now + std::chrono::milliseconds(1);
         });
@@ -199,8 +200,5 @@ BENCHMARK(inputDuringSearch)->Arg(1'000'000)->Iterations(3)->UseManualTime()->Un
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<QCoreApplication>(argc, argv);
 }

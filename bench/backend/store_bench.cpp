@@ -7,6 +7,7 @@
 #include "bench/backend/news_samples.h"
 #include "bench/backend/plain_inserts.h"
 #include "bench/backend/store_timing.h"
+#include "bench/support/run_benchmarks.h"
 #include "host/contract/clock.h"
 
 #include <QCoreApplication>
@@ -146,8 +147,5 @@ BENCHMARK(lookUpVisibleRows)->Arg(1000)->Arg(1'000'000)->UseManualTime()->Unit(b
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<QCoreApplication>(argc, argv);
 }

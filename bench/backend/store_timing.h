@@ -3,9 +3,9 @@
 #pragma once
 
 #include "backend/store/store_file.h"
+#include "bench/support/bench_clock.h"
 
 #include <algorithm>
-#include <chrono>
 #include <memory>
 #include <stdexcept>
 #include <vector>
@@ -14,9 +14,9 @@ namespace wirepane::bench {
 
 template <class Run>
 double secondsOf(Run run) {
-    const auto from = std::chrono::steady_clock::now();
+    const auto from = BenchClock::now();
     run();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
+    return secondsSince(from);
 }
 
 inline double median(std::vector<double> values) {

@@ -3,6 +3,7 @@
 // What a headline list costs: merging the services' tables, filling a page, memory per headline. Each case is
 // run at 1,000, 100,000 and 1,000,000 entries; "vs_1000" is its time as a multiple of the smallest one's.
 #include "bench/headline_list/list_bench.h"
+#include "bench/support/run_benchmarks.h"
 
 #include <QApplication>
 
@@ -73,8 +74,5 @@ BENCHMARK(memoryPerHeadline)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iteration
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<QApplication>(argc, argv);
 }

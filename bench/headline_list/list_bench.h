@@ -4,6 +4,7 @@
 
 // What the benchmarks of the headline lists share: eight services in memory, a list with its grid on screen,
 // and the comparison with the smallest case.
+#include "bench/support/bench_clock.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/headline_table.h"
@@ -17,7 +18,6 @@
 
 #include <array>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <malloc.h>
 #include <map>
 #include <random>
@@ -116,9 +116,9 @@ template <class Run>
 void measure(benchmark::State& state, const std::string& name, Run run) {
     double seconds = 0;
     for (auto unused : state) {
-        const auto from = std::chrono::steady_clock::now();
+        const auto from = BenchClock::now();
         run();
-        seconds += std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
+        seconds += secondsSince(from);
     }
     tellRatio(state, name, seconds / static_cast<double>(state.iterations()));
 }

@@ -46,11 +46,11 @@ void measurePushes(benchmark::State& state, const std::string& name, Push push) 
         double seconds = 0;
         for (int i = 0; i < perRound; ++i) {
             const CHeadline headline = push.next(list);
-            const auto from = std::chrono::steady_clock::now();
+            const auto from = BenchClock::now();
             list.vProcessNewHeadline(headline, false);
             if (push.turn)
                 QApplication::processEvents();
-            seconds += std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
+            seconds += secondsSince(from);
         }
         quietest = std::min(quietest, seconds / perRound);
     }

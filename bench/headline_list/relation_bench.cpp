@@ -86,12 +86,12 @@ void measureTrial(benchmark::State& state, const char* name, const Trial& trial)
     const QString symbol = QStringLiteral("2330");
     std::size_t next = 0;
     int wanted = 0;
-    const auto from = std::chrono::steady_clock::now();
+    const auto from = BenchClock::now();
     for (auto unused : state) {
         wanted += matcher.CheckIsRelationSearch(trial.headlines[next], 1, symbol) ? 1 : 0;
         next = next + 1 == trial.headlines.size() ? 0 : next + 1;
     }
-    const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
+    const double seconds = secondsSince(from);
     const double perHeadline = seconds / static_cast<double>(state.iterations());
     state.counters["us"] = perHeadline * 1e6;
     tellRatio(state, name, perHeadline, 10);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What a sheet costs at 1,000, 100,000 and 1,000,000 rows: showing its rows, scrolling, reading the
 // selection, memory per row. "vs_1000" is a case's time as a multiple of the smallest one's.
+#include "bench/support/run_benchmarks.h"
 #include "host/controls/sheet_builder.h"
 #include "host/controls/sheet_cells.h"
 #include "host/controls/super_sheet_wnd.h"
@@ -151,8 +152,5 @@ BENCHMARK(memoryPerRow)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(1);
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<QApplication>(argc, argv);
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "bench/support/bench_clock.h"
+
 #include <QCoreApplication>
 #include <QInputDevice>
 #include <QKeyEvent>
@@ -17,11 +19,7 @@
 
 namespace wirepane::bench {
 
-using Clock = std::chrono::steady_clock;
-
-inline double secondsSince(Clock::time_point from) {
-    return std::chrono::duration<double>(Clock::now() - from).count();
-}
+using Clock = BenchClock;
 
 // Notes when the keys that were posted to a window have been answered.
 class KeyWatch : public QObject {

@@ -4,6 +4,7 @@
 // table, and how long a key waits for its answer while 50,000 headlines arrive in a second.
 #include "bench/headline_list/list_bench.h"
 #include "bench/news_view/key_watch.h"
+#include "bench/support/run_benchmarks.h"
 #include "headline_list/list_index.h"
 #include "host/contract/cfg_io.h"
 #include "host/controls/super_sheet_wnd.h"
@@ -145,8 +146,5 @@ BENCHMARK(keysDuringABurst)
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<QApplication>(argc, argv);
 }

@@ -3,6 +3,7 @@
 // The symbol combo of symbol news: filling it from the symbol search, finding a code in it, and what a typed
 // key costs. Filling is to be linear, finding constant.
 #include "bench/headline_list/list_bench.h"
+#include "bench/support/run_benchmarks.h"
 #include "host/contract/search_control.h"
 #include "host/contract/view_options.h"
 #include "host/controls/quote_combo_box_auto.h"
@@ -106,9 +107,5 @@ BENCHMARK(typeKey)->Arg(1000)->Arg(30'000)->Unit(benchmark::kMillisecond);
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<QApplication>(argc, argv);
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What it costs to print stories into a PDF: of 1,000 characters to 4 MB, in English, in Chinese and without
 // a blank. "InBackground": as the terminal does it; "wait_ms" is the longest time that a key had to wait.
+#include "bench/support/run_benchmarks.h"
 #include "bench/support/watched_application.h"
 #include "output/page_printing.h"
 #include "output/trv_news_print.h"
@@ -99,8 +100,5 @@ BENCHMARK(printChinese)->Arg(1000)->Arg(100'000)->Arg(4 << 20)->Unit(benchmark::
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    wirepane::WatchedApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<wirepane::WatchedApplication>(argc, argv);
 }

@@ -6,6 +6,7 @@
 // again with a mark on its last words ("mark"). "..._ms" is how long it took until the window stood still,
 // "..._wait_ms" the longest time that a key would have waited meanwhile.
 #include "bench/story/one_story.h"
+#include "bench/support/run_benchmarks.h"
 #include "bench/support/watched_application.h"
 #include "host/contract/cfg_io.h"
 #include "host/controls/my_rich_edit.h"
@@ -146,8 +147,5 @@ BENCHMARK(longStory)
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    wirepane::WatchedApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<wirepane::WatchedApplication>(argc, argv);
 }

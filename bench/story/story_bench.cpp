@@ -5,6 +5,7 @@
 // Chinese. "vs_10000" is its time as a multiple of the one at 10,000; "pause_ms" is the longest time that the
 // interface was held up at one go.
 #include "bench/story/one_story.h"
+#include "bench/support/run_benchmarks.h"
 #include "bench/support/watched_application.h"
 #include "host/contract/cfg_io.h"
 #include "story/keyword_match.h"
@@ -110,8 +111,5 @@ BENCHMARK(findTwentyKeywords)->RangeMultiplier(10)->Range(1000, 1'000'000)->Unit
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    WatchedApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<WatchedApplication>(argc, argv);
 }

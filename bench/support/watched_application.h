@@ -2,19 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "bench/support/bench_clock.h"
+
 #include <QApplication>
 #include <QThread>
 
 #include <algorithm>
-#include <chrono>
 
 namespace wirepane {
-
-using BenchClock = std::chrono::steady_clock;
-
-inline double secondsSince(BenchClock::time_point from) {
-    return std::chrono::duration<double>(BenchClock::now() - from).count();
-}
 
 // Notes the longest time that handling one event of the interface thread took: so long may a key have to
 // wait.

@@ -8,6 +8,7 @@
 #include "backend/store/embedded_back_end.h"
 #include "bench/backend/store_timing.h"
 #include "bench/news_view/key_watch.h"
+#include "bench/support/run_benchmarks.h"
 #include "host/contract/cfg_io.h"
 #include "host/contract/clock.h"
 #include "host/contract/view_options.h"
@@ -218,8 +219,5 @@ BENCHMARK(lineToPaintedRow)->Arg(1000)->Arg(10'000)->Iterations(1)->Unit(benchma
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<QApplication>(argc, argv);
 }

@@ -6,6 +6,7 @@
 #include "bench/backend/big_store.h"
 #include "bench/backend/store_timing.h"
 #include "bench/headline_list/list_bench.h"
+#include "bench/support/run_benchmarks.h"
 
 #include <QApplication>
 
@@ -98,9 +99,5 @@ BENCHMARK(openDay)->Arg(1000)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return wirepane::runBenchmarks<QApplication>(argc, argv);
 }
