@@ -9,6 +9,7 @@
 #include "host/contract/gone_headlines.h"
 
 #include <QScopedValueRollback>
+#include <QSet>
 
 #include <algorithm>
 
@@ -401,14 +402,14 @@ bool EmbeddedBackEnd::BKQNEWS_bGetAllNewsService(std::vector<unsigned char>& ser
 bool EmbeddedBackEnd::BKQNEWS_bGetFullNameByService(QString& name, unsigned char service) {
     const std::optional<StoredService> found = reader.service(service);
     if (found)
-        name = nameOfService(found->fullName);
+        name = nameOf(found->fullName);
     return found.has_value();
 }
 
 bool EmbeddedBackEnd::BKQNEWS_bGetShortNameByService(QString& name, unsigned char service) {
     const std::optional<StoredService> found = reader.service(service);
     if (found)
-        name = nameOfService(found->shortName);
+        name = nameOf(found->shortName);
     return found.has_value();
 }
 
@@ -420,9 +421,15 @@ bool EmbeddedBackEnd::bNewsAPI_GetNewsCatId(unsigned char service, std::vector<Q
                                             std::vector<QString>& names) {
     ids.clear();
     names.clear();
-    for (const StoredCategory& category : reader.categories(service)) {
+    const std::vector<StoredCategory> categories = reader.categories(service);
+    QSet<QString> taken;
+    for (const StoredCategory& category : categories)
+        taken.insert(category.name);
+    for (const StoredCategory& category : categories) {
+        const QString shown = nameOf(category.name);
         ids.push_back(QString::number(category.id));
-        names.push_back(category.name);
+        names.push_back(taken.contains(shown) ? category.name : shown);
+        taken.insert(shown);
     }
     return !ids.empty();
 }

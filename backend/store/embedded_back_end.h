@@ -151,8 +151,9 @@ public:
     // The symbols of the store, read at the first use; also the host's symbol search.
     SymbolTable& symbols();
 
-    // What services are called whose names in the store are these. At first: so.
-    void nameServicesBy(std::function<QString(const QString&)> naming) { nameOfService = std::move(naming); }
+    // What services and categories are called whose names in the store are these; at first: so. A category is
+    // called as it is where another one of its service is called so.
+    void nameBy(std::function<QString(const QString&)> naming) { nameOf = std::move(naming); }
     void setConvertsToSimplified(bool on) { simplified = on; }  // at first: false
     void setSysPath(const QString& path) { sysPath = path; }    // at first: the contract's default
     const QString& storePath() const { return connections.reading->path(); }
@@ -274,7 +275,7 @@ private:
     std::map<NewsReceiver*, std::set<unsigned char>> registrations;
     bool connected = true;
     bool simplified = false;
-    std::function<QString(const QString&)> nameOfService = [](const QString& stored) { return stored; };
+    std::function<QString(const QString&)> nameOf = [](const QString& stored) { return stored; };
     QString sysPath;
     NewsDelivery delivery;
     TableAnnouncements announcements;

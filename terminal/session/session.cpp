@@ -15,6 +15,7 @@
 #include "terminal/session/store_opening.h"
 #include "terminal/settings/module_files.h"
 #include "terminal/translations/shown_text.h"
+#include "terminal/translations/stored_names.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QDateTime>
@@ -122,7 +123,7 @@ Done Session::start(const SessionOptions& options) {
     if (const Done opened = openStore(options, wanted); !opened)
         return opened;
     store->setSysPath(configFolder);
-    store->nameServicesBy(shownServiceName);
+    store->nameBy(shownName);
     BKQuoteInterface::setBKInterface(store.get());
     SearchControl::setSearchObjInterface(&store->symbols());
     painter = std::make_unique<BackgroundPainter>();
@@ -144,11 +145,7 @@ Done Session::start(const SessionOptions& options) {
     workspaceKeeper = std::make_unique<WorkspaceKeeper>(
         WorkspaceKeeper::Parts{settingsFile, layout, *terminalSettings, *openViews, *linkGroups, *mainFrame,
                                [this](ViewRequest request) { return openView(std::move(request)); }});
-    categoryWatch = std::make_unique<CategoryWatch>(*store, [this] {
-        writeCategories();
-        for (const auto& view : openViews->views())
-            view->access->reloadCategories();
-    });
+    categoryWatch = std::make_unique<CategoryWatch>(*store, [this] { renameCategories(); });
     look->apply();
     connectParts();
     for (const QString& sentence : {feedNotice, settingsFile.message()}) {
@@ -277,6 +274,12 @@ void Session::writeCategories() {
         mainFrame->showNotice(shownText(written.error()));
 }
 
+void Session::renameCategories() {
+    writeCategories();
+    for (const auto& view : openViews->views())
+        view->access->reloadCategories();
+}
+
 Result<OpenView*> Session::openView(ViewRequest request) {
     prepareModuleFiles();
     if (request.size.isValid())
@@ -316,6 +319,7 @@ bool Session::setLanguage(const QString& code) {
         return false;
     terminalSettings->setLanguage(code);
     look->apply();
+    renameCategories();
     showViews();
     return true;
 }

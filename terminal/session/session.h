@@ -113,6 +113,7 @@ private:
     void tellDatedAhead(unsigned char service, std::int64_t time);
     void prepareModuleFiles();
     void writeCategories();
+    void renameCategories();
     Done reopenUserViews();
     bool useLanguage(const QString& code);
 

@@ -113,12 +113,6 @@ QString terminalText(TextId id) {
     return qtTrId(keys[static_cast<std::size_t>(id)]);
 }
 
-QString shownServiceName(const QString& stored) {
-    const QByteArray key = "SERVICE_" + stored.toUpper().replace(u' ', u'_').toUtf8();
-    const QString shown = qtTrId(key.constData());
-    return shown == QString::fromUtf8(key) ? stored : shown;
-}
-
 std::span<const char* const> terminalTextKeys() {
     return keys;
 }

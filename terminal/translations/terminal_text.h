@@ -108,10 +108,6 @@ enum class TextId {
 // The text in the language in force.
 QString terminalText(TextId id);
 
-// What a service is called whose name in the store is this: those that every store begins with have a name in
-// each language, all others are called as they are.
-QString shownServiceName(const QString& stored);
-
 // The keys of all of them.
 std::span<const char* const> terminalTextKeys();
 

@@ -1567,50 +1567,6 @@
         <source></source>
         <translation>Noto Sans Mono CJK TC</translation>
     </message>
-    <message id="SERVICE_EMERGING">
-        <source></source>
-        <translation>Emerging</translation>
-    </message>
-    <message id="SERVICE_EMERGING_BOARD">
-        <source></source>
-        <translation>Emerging Board</translation>
-    </message>
-    <message id="SERVICE_EXCHANGE">
-        <source></source>
-        <translation>Exchange</translation>
-    </message>
-    <message id="SERVICE_GENERAL">
-        <source></source>
-        <translation>General</translation>
-    </message>
-    <message id="SERVICE_GENERAL_NEWS">
-        <source></source>
-        <translation>General News</translation>
-    </message>
-    <message id="SERVICE_HONG_KONG">
-        <source></source>
-        <translation>Hong Kong</translation>
-    </message>
-    <message id="SERVICE_HONG_KONG_MARKET">
-        <source></source>
-        <translation>Hong Kong Market</translation>
-    </message>
-    <message id="SERVICE_MARKET">
-        <source></source>
-        <translation>Market</translation>
-    </message>
-    <message id="SERVICE_MARKET_NEWS">
-        <source></source>
-        <translation>Market News</translation>
-    </message>
-    <message id="SERVICE_STOCK_EXCHANGE">
-        <source></source>
-        <translation>Stock Exchange</translation>
-    </message>
-    <message id="SERVICE_WARRANTS">
-        <source></source>
-        <translation>Warrants</translation>
-    </message>
     <message id="TERMINAL_ACCEPT">
         <source></source>
         <translation>OK</translation>

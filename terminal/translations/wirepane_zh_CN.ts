@@ -1567,50 +1567,6 @@
         <source></source>
         <translation>Noto Sans Mono CJK SC</translation>
     </message>
-    <message id="SERVICE_EMERGING">
-        <source></source>
-        <translation>兴柜</translation>
-    </message>
-    <message id="SERVICE_EMERGING_BOARD">
-        <source></source>
-        <translation>兴柜股票</translation>
-    </message>
-    <message id="SERVICE_EXCHANGE">
-        <source></source>
-        <translation>证交所</translation>
-    </message>
-    <message id="SERVICE_GENERAL">
-        <source></source>
-        <translation>综合</translation>
-    </message>
-    <message id="SERVICE_GENERAL_NEWS">
-        <source></source>
-        <translation>综合新闻</translation>
-    </message>
-    <message id="SERVICE_HONG_KONG">
-        <source></source>
-        <translation>香港</translation>
-    </message>
-    <message id="SERVICE_HONG_KONG_MARKET">
-        <source></source>
-        <translation>香港市场</translation>
-    </message>
-    <message id="SERVICE_MARKET">
-        <source></source>
-        <translation>市场</translation>
-    </message>
-    <message id="SERVICE_MARKET_NEWS">
-        <source></source>
-        <translation>市场新闻</translation>
-    </message>
-    <message id="SERVICE_STOCK_EXCHANGE">
-        <source></source>
-        <translation>证券交易所</translation>
-    </message>
-    <message id="SERVICE_WARRANTS">
-        <source></source>
-        <translation>权证</translation>
-    </message>
     <message id="TERMINAL_ACCEPT">
         <source></source>
         <translation>确定</translation>

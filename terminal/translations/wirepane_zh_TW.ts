@@ -1567,50 +1567,6 @@
         <source></source>
         <translation>Noto Sans Mono CJK TC</translation>
     </message>
-    <message id="SERVICE_EMERGING">
-        <source></source>
-        <translation>興櫃</translation>
-    </message>
-    <message id="SERVICE_EMERGING_BOARD">
-        <source></source>
-        <translation>興櫃股票</translation>
-    </message>
-    <message id="SERVICE_EXCHANGE">
-        <source></source>
-        <translation>證交所</translation>
-    </message>
-    <message id="SERVICE_GENERAL">
-        <source></source>
-        <translation>綜合</translation>
-    </message>
-    <message id="SERVICE_GENERAL_NEWS">
-        <source></source>
-        <translation>綜合新聞</translation>
-    </message>
-    <message id="SERVICE_HONG_KONG">
-        <source></source>
-        <translation>香港</translation>
-    </message>
-    <message id="SERVICE_HONG_KONG_MARKET">
-        <source></source>
-        <translation>香港市場</translation>
-    </message>
-    <message id="SERVICE_MARKET">
-        <source></source>
-        <translation>市場</translation>
-    </message>
-    <message id="SERVICE_MARKET_NEWS">
-        <source></source>
-        <translation>市場新聞</translation>
-    </message>
-    <message id="SERVICE_STOCK_EXCHANGE">
-        <source></source>
-        <translation>證券交易所</translation>
-    </message>
-    <message id="SERVICE_WARRANTS">
-        <source></source>
-        <translation>權證</translation>
-    </message>
     <message id="TERMINAL_ACCEPT">
         <source></source>
         <translation>確定</translation>

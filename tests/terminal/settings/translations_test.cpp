@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/s_date_time_ctrl.h"
 #include "terminal/translations/languages.h"
+#include "terminal/translations/stored_names.h"
 #include "terminal/translations/terminal_text.h"
 #include "tests/support/chinese_text.h"
 
@@ -107,6 +108,28 @@ TEST(TranslationsTest, ChineseTextsAreChineseAndOfTheirKind) {
                                            << strange.join(u" | "_s).toStdString();
         }
     }
+}
+
+TEST(TranslationsTest, NamesOfStoresAreToldApartInEachLanguage) {
+    QFile file(sources + u"/terminal/translations/stored_names.tsv"_s);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    const QStringList lines = text.split(u'\n', Qt::SkipEmptyParts).filter(QRegularExpression(u"^[^#]"_s));
+    QHash<QString, QSet<QString>> seen;
+    Languages languages;
+    for (const QString& line : lines.mid(1)) {
+        const QStringList names = line.split(u'\t');
+        ASSERT_EQ(names.size(), Languages::codes().size() + 1) << line.toStdString();
+        for (qsizetype i = 0; i < Languages::codes().size(); ++i) {
+            const QString code = Languages::codes().at(i);
+            ASSERT_TRUE(languages.use(code));
+            EXPECT_EQ(shownName(names.front()), names.at(i + 1));
+            EXPECT_FALSE(seen[code].contains(names.at(i + 1))) << line.toStdString();
+            seen[code].insert(names.at(i + 1));
+            EXPECT_TRUE(i == 0 || strangeParts(names.at(i + 1), code).isEmpty()) << line.toStdString();
+        }
+    }
+    EXPECT_EQ(shownName(u"a name of its own"_s), u"a name of its own"_s);
 }
 
 TEST(TranslationsTest, LanguagesHaveTheSamePlaceholdersAndEdges) {
