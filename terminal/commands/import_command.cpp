@@ -7,7 +7,7 @@
 #include "backend/import/source_formats.h"
 #include "backend/store/store_writer.h"
 #include "terminal/commands/command_arguments.h"
-#include "terminal/commands/import_report.h"
+#include "terminal/session/import_report.h"
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
 #include "terminal/console/interrupt.h"

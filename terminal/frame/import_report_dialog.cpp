@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/import_report_dialog.h"
 
+#include "backend/error.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStyle>
@@ -53,9 +55,8 @@ QPlainTextEdit* detailsText(const QString& details, const QString& name) {
 
 ImportReportDialog::ImportReportDialog(const QString& headline, const QString& details, bool warns,
                                        QWidget* parent)
-    : QDialog(parent) {
+    : QDialog(parent), buttons(new QDialogButtonBox(QDialogButtonBox::Ok)) {
     setWindowTitle(terminalText(TextId::ImportTitle));
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
     buttons->button(QDialogButtonBox::Ok)->setText(terminalText(TextId::Accept));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);
@@ -67,6 +68,20 @@ ImportReportDialog::ImportReportDialog(const QString& headline, const QString& d
     // A text's own idea of its height is that of many lines.
     resize(minimumSizeHint().expandedTo(minimumSize()));
     buttons->button(QDialogButtonBox::Ok)->setFocus();
+}
+
+void ImportReportDialog::offerReadingAsOf(const QDateTime& moment) {
+    const QDate day = moment.date();
+    const QString text = filledIn(terminalText(TextId::ImportReadAsOf),
+                                  {QString::number(day.year()), QString::number(day.month()),
+                                   QString::number(day.day()), QLocale().standaloneMonthName(day.month())});
+    auto* button = buttons->addButton(text, QDialogButtonBox::ActionRole);
+    connect(button, &QPushButton::clicked, this, [this, moment] {
+        accept();
+        emit readAsOfAsked(moment.toSecsSinceEpoch());
+    });
+    button->setDefault(true);
+    button->setFocus();
 }
 
 }  // namespace wirepane

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDateTime>
 #include <QDialog>
+
+class QDialogButtonBox;
 
 namespace wirepane {
 
@@ -15,6 +18,15 @@ public:
     // there are none. `warns`: not everything went well.
     ImportReportDialog(const QString& headline, const QString& details, bool warns,
                        QWidget* parent = nullptr);
+
+    // Adds a button that goes to the moment of news that is too old for the lists of today.
+    void offerReadingAsOf(const QDateTime& moment);
+
+signals:
+    void readAsOfAsked(std::int64_t moment);
+
+private:
+    QDialogButtonBox* buttons;
 };
 
 }  // namespace wirepane

@@ -48,6 +48,8 @@ FrameCommands::FrameCommands(Session& terminal)
         if (const OpenView* view = workspace->find(number))
             workspace->activate(*view);
     });
+    connect(&newsImport, &NewsImport::readAsOfAsked, this,
+            [this](std::int64_t moment) { report(session.readAsOf(moment)); });
     connect(workspace, &Workspace::renameAsked, this, &FrameCommands::rename);
     connect(workspace, &Workspace::closeAsked, workspace, &Workspace::close);
 }

@@ -6,6 +6,7 @@
 #include "backend/import/source_formats.h"
 #include "host/controls/heap_dialog.h"
 #include "terminal/frame/import_report_dialog.h"
+#include "terminal/session/import_report.h"
 #include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
 
@@ -88,13 +89,21 @@ void NewsImport::takeIn(const QStringList& files) {
 void NewsImport::showOutcome(const ImportOutcome& outcome) {
     delete progress;
     QStringList said;
-    for (const QJsonValue& line : outcome.said)
-        said += escapedText(shownText(line));
+    QDateTime moment;
+    for (const QJsonValue& line : outcome.said) {
+        const bool isOld = line["code"_L1].toString() == QLatin1StringView(import_report::nothingRecent.key);
+        if (isOld)
+            moment = QDateTime::fromString(line["arguments"_L1][0].toString(), Qt::ISODate);
+        said += isOld ? terminalText(TextId::ImportNothingRecent) : escapedText(shownText(line));
+    }
     if (outcome.leftOut > 0)
         said += terminalText(TextId::ImportLeftOut).arg(outcome.leftOut);
     auto* report = new ImportReportDialog(terminalText(headlineOf(outcome.kind)), said.join(u'\n'),
                                           outcome.kind != ImportOutcome::Complete, &window);
     report->setAttribute(Qt::WA_DeleteOnClose);
+    if (moment.isValid())
+        report->offerReadingAsOf(moment);
+    connect(report, &ImportReportDialog::readAsOfAsked, this, &NewsImport::readAsOfAsked);
     report->show();
 }
 

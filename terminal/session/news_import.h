@@ -24,6 +24,10 @@ public:
     // Not while an import is running.
     void takeIn(const QStringList& files);
 
+signals:
+    // The user wants to read what was taken in, at its moment (seconds since 1970, UTC).
+    void readAsOfAsked(std::int64_t moment);
+
 private:
     void showOutcome(const ImportOutcome& outcome);
 

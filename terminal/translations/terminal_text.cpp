@@ -103,6 +103,8 @@ constexpr std::array keys{
     "TERMINAL_IMPORT_FAILED",
     "TERMINAL_IMPORT_LEFT_OUT",
     "TERMINAL_IMPORT_NOT_STARTED",
+    "TERMINAL_IMPORT_NOTHING_RECENT",
+    "TERMINAL_IMPORT_READ_AS_OF",
     "TERMINAL_NO_CHINESE_FONT",
 };
 static_assert(keys.size() == static_cast<std::size_t>(TextId::NoChineseFont) + 1);

@@ -102,6 +102,8 @@ enum class TextId {
     ImportFailed,
     ImportLeftOut,
     ImportNotStarted,
+    ImportNothingRecent,
+    ImportReadAsOf,
     NoChineseFont,
 };
 

@@ -1699,6 +1699,10 @@
         <source></source>
         <translation>&amp;Import News…</translation>
     </message>
+    <message id="TERMINAL_IMPORT_NOTHING_RECENT">
+        <source></source>
+        <translation>None of this news lies within the last 255 days: it is read as of its own time.</translation>
+    </message>
     <message id="TERMINAL_IMPORT_NOT_STARTED">
         <source></source>
         <translation>The import could not be started.</translation>
@@ -1706,6 +1710,10 @@
     <message id="TERMINAL_IMPORT_PARTIAL">
         <source></source>
         <translation>The import is finished, but not everything could be taken in.</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_READ_AS_OF">
+        <source></source>
+        <translation>&amp;Read as of %3 %4 %1</translation>
     </message>
     <message id="TERMINAL_IMPORT_RUNNING">
         <source></source>

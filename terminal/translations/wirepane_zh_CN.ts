@@ -1699,6 +1699,10 @@
         <source></source>
         <translation>导入新闻(&amp;I)…</translation>
     </message>
+    <message id="TERMINAL_IMPORT_NOTHING_RECENT">
+        <source></source>
+        <translation>这些新闻都不在最近 255 天之内，须按当时的时点阅读。</translation>
+    </message>
     <message id="TERMINAL_IMPORT_NOT_STARTED">
         <source></source>
         <translation>无法启动导入程序。</translation>
@@ -1706,6 +1710,10 @@
     <message id="TERMINAL_IMPORT_PARTIAL">
         <source></source>
         <translation>导入完成，但有部分内容无法导入。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_READ_AS_OF">
+        <source></source>
+        <translation>阅读 %1 年 %2 月 %3 日的新闻(&amp;R)</translation>
     </message>
     <message id="TERMINAL_IMPORT_RUNNING">
         <source></source>

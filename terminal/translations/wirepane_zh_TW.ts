@@ -1699,6 +1699,10 @@
         <source></source>
         <translation>匯入新聞(&amp;I)…</translation>
     </message>
+    <message id="TERMINAL_IMPORT_NOTHING_RECENT">
+        <source></source>
+        <translation>這些新聞都不在最近 255 天之內，須以當時的時點閱讀。</translation>
+    </message>
     <message id="TERMINAL_IMPORT_NOT_STARTED">
         <source></source>
         <translation>無法啟動匯入程式。</translation>
@@ -1706,6 +1710,10 @@
     <message id="TERMINAL_IMPORT_PARTIAL">
         <source></source>
         <translation>匯入完成，但有部分內容無法匯入。</translation>
+    </message>
+    <message id="TERMINAL_IMPORT_READ_AS_OF">
+        <source></source>
+        <translation>閱讀 %1 年 %2 月 %3 日的新聞(&amp;R)</translation>
     </message>
     <message id="TERMINAL_IMPORT_RUNNING">
         <source></source>

@@ -7,6 +7,7 @@
 #include "terminal/frame/import_report_dialog.h"
 #include "terminal/translations/shown_text.h"
 #include "tests/support/accessible_names.h"
+#include "tests/support/chinese_text.h"
 #include "tests/terminal/program/frame_fixture.h"
 #include "tests/terminal/program/script_client.h"
 
@@ -83,7 +84,7 @@ TEST_F(NewsImportTest, TellsWhatCameOfIt) {
          programFile(),
          {u"not everything"_s, u"\n1 taken in, 0 already there, 1 rejected\n"_s, mixed + u": line 2: "_s}},
         {store, hopeless, programFile(), {u"20000 rejected\n"_s, u"And "_s, u" more lines"_s}},
-        {store, old, programFile(), {u"1 taken in"_s, u"--now 1987-"_s}},
+        {store, old, programFile(), {u"1 taken in"_s, u"255 days"_s}},
         {store, scratch.path(u"missing"_s), programFile(), {u"The import failed."_s, u"missing: "_s}},
         {noStore, good, programFile(), {u"The import failed."_s, u"no-store"_s}},
         {store, good, noProgram, {u"could not be started"_s, noProgram}},
@@ -96,10 +97,33 @@ TEST_F(NewsImportTest, TellsWhatCameOfIt) {
         for (const QString& told : c.told)
             EXPECT_TRUE(said.contains(told)) << qPrintable(said);
         // What is old is so for the terminal's present moment.
-        EXPECT_EQ(said.contains(u"--now"_s), c.file == old) << qPrintable(said);
+        EXPECT_EQ(said.contains(u"255 days"_s), c.file == old) << qPrintable(said);
+        EXPECT_FALSE(said.contains(u"--now"_s)) << "is for the console";
     }
     // That of 1987 is not for the list of the day.
     EXPECT_TRUE(QTest::qWaitFor([&] { return rows() == before + 2; })) << rows() - before;
+}
+
+TEST_F(NewsImportTest, OldNewsIsReadAtItsMomentByAButtonOfTheReport) {
+    ImportReportDialog report(u"Done"_s, {}, true);
+    report.offerReadingAsOf(QDateTime(QDate(1987, 3, 3), QTime(17, 0)));
+    auto* button = qobject_cast<QPushButton*>(report.focusWidget());
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->text(), u"&Read as of 3 March 1987"_s);
+    QObject::connect(&report, &ImportReportDialog::readAsOfAsked, session.get(),
+                     [this](std::int64_t moment) { EXPECT_TRUE(session->readAsOf(moment)); });
+    button->click();
+    EXPECT_EQ(session->workspace().active()->access->state()[u"newsDay"_s].toInt(), 19870303);
+}
+
+TEST_F(NewsImportTest, SaysInTheLanguageOfTheTerminalWhatIsWrong) {
+    ASSERT_TRUE(session->setLanguage(u"zh-TW"_s));
+    const QString file = scratch.write(
+        u"x"_s, ninjsItem(u"u:4"_s, u"Good"_s, u"Story"_s, newsTime) + "\n{\"uri\": broken\n[]\n");
+    NewsImport import(session->storePath(), session->frame(), programFile());
+    import.takeIn({file});
+    const QString said = report();
+    EXPECT_EQ(strangeParts(QString(said).remove(file), u"zh-TW"_s), QStringList()) << qPrintable(said);
 }
 
 TEST_F(NewsImportTest, ALongOneCanBeCancelledAndLeavesWholeFiles) {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What errors say in the terminal, and that every code says it in every language.
 #include "backend/import/import_errors.h"
-#include "terminal/commands/import_report.h"
+#include "terminal/session/import_report.h"
 #include "terminal/translations/languages.h"
 #include "terminal/translations/shown_text.h"
 #include "tests/support/qt_printers.h"
