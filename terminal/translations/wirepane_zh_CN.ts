@@ -497,7 +497,7 @@
     </message>
     <message id="ERROR_IMPORT_NO_SYMBOL_CODE">
         <source></source>
-        <translation>“%1”不是品种代码。</translation>
+        <translation>“%1”不是证券代码。</translation>
     </message>
     <message id="ERROR_IMPORT_NO_UTF_16">
         <source></source>
@@ -597,11 +597,11 @@
     </message>
     <message id="ERROR_IMPORT_SYMBOL_FIELD">
         <source></source>
-        <translation>代码的“%1”%2。</translation>
+        <translation>证券的“%1”%2。</translation>
     </message>
     <message id="ERROR_IMPORT_SYMBOL_WITHOUT_NAME">
         <source></source>
-        <translation>品种“%1”没有名称。</translation>
+        <translation>证券“%1”没有名称。</translation>
     </message>
     <message id="ERROR_IMPORT_TIME_FORM">
         <source></source>
@@ -785,7 +785,7 @@
     </message>
     <message id="ERROR_STORE_CODE_OF_SYMBOL">
         <source></source>
-        <translation>品种代码</translation>
+        <translation>证券代码</translation>
     </message>
     <message id="ERROR_STORE_EMPTY">
         <source></source>
@@ -801,7 +801,7 @@
     </message>
     <message id="ERROR_STORE_NAME_OF_SYMBOL">
         <source></source>
-        <translation>品种名称</translation>
+        <translation>证券名称</translation>
     </message>
     <message id="ERROR_STORE_NEWER_VERSION">
         <source></source>
@@ -881,15 +881,15 @@
     </message>
     <message id="ERROR_STORE_SYMBOL">
         <source></source>
-        <translation>品种</translation>
+        <translation>证券</translation>
     </message>
     <message id="ERROR_STORE_SYMBOL_WITHOUT_CODE">
         <source></source>
-        <translation>有品种没有代码。</translation>
+        <translation>有证券没有代码。</translation>
     </message>
     <message id="ERROR_STORE_SYMBOL_WITHOUT_MARKET">
         <source></source>
-        <translation>品种不属于任何市场。</translation>
+        <translation>证券不属于任何市场。</translation>
     </message>
     <message id="ERROR_STORE_TIME_OUT_OF_RANGE">
         <source></source>
@@ -909,7 +909,7 @@
     </message>
     <message id="ERROR_STORE_TOO_MANY_SYMBOLS">
         <source></source>
-        <translation>列有 %1 个相关品种，上限为 %2 个。</translation>
+        <translation>列有 %1 个相关证券，上限为 %2 个。</translation>
     </message>
     <message id="ERROR_STORE_VOLUME_OUT_OF_RANGE">
         <source></source>
@@ -933,7 +933,7 @@
     </message>
     <message id="IDC_BASEVIEW-STRING_NO_DATA">
         <source></source>
-        <translation>此品种没有新闻。</translation>
+        <translation>该证券没有新闻。</translation>
     </message>
     <message id="IDS_DIALOG-CHANGE-SYMBOL_CHOOSE">
         <source></source>
@@ -949,7 +949,7 @@
     </message>
     <message id="IDS_DIALOG-CHANGE-SYMBOL_TITLE">
         <source></source>
-        <translation>选择品种</translation>
+        <translation>选择证券</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_ADD_BUTTON">
         <source></source>
@@ -1053,7 +1053,7 @@
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_PICKER">
         <source></source>
-        <translation>从所有品种中选择</translation>
+        <translation>从所有证券中选择</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_RANGE">
         <source></source>
@@ -1093,7 +1093,7 @@
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_SYMBOL">
         <source></source>
-        <translation>品种</translation>
+        <translation>证券</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_SYMBOL_HINT">
         <source></source>
@@ -1253,7 +1253,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_NAME_SYMBOL">
         <source></source>
-        <translation>商品</translation>
+        <translation>证券</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_NEWS_NO">
         <source></source>
@@ -1489,7 +1489,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SYMBOL_NEWS_NOT_FOUND">
         <source></source>
-        <translation>此品种没有新闻。</translation>
+        <translation>该证券没有新闻。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_TIME">
         <source></source>
@@ -1537,7 +1537,7 @@
     </message>
     <message id="IDS_QUOTE-LIST_CODE">
         <source></source>
-        <translation>代号</translation>
+        <translation>代码</translation>
     </message>
     <message id="IDS_QUOTE-LIST_LAST">
         <source></source>
@@ -1557,11 +1557,11 @@
     </message>
     <message id="IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE">
         <source></source>
-        <translation>相关品种</translation>
+        <translation>相关证券</translation>
     </message>
     <message id="IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE_NONE">
         <source></source>
-        <translation>这则新闻没有相关品种。</translation>
+        <translation>这则新闻没有相关证券。</translation>
     </message>
     <message id="IDS_SINGLETON-STRING_FONTNAME">
         <source></source>

@@ -497,7 +497,7 @@
     </message>
     <message id="ERROR_IMPORT_NO_SYMBOL_CODE">
         <source></source>
-        <translation>「%1」不是商品代碼。</translation>
+        <translation>「%1」不是商品代號。</translation>
     </message>
     <message id="ERROR_IMPORT_NO_UTF_16">
         <source></source>
@@ -597,7 +597,7 @@
     </message>
     <message id="ERROR_IMPORT_SYMBOL_FIELD">
         <source></source>
-        <translation>代碼的「%1」%2。</translation>
+        <translation>商品的「%1」%2。</translation>
     </message>
     <message id="ERROR_IMPORT_SYMBOL_WITHOUT_NAME">
         <source></source>
@@ -785,7 +785,7 @@
     </message>
     <message id="ERROR_STORE_CODE_OF_SYMBOL">
         <source></source>
-        <translation>商品代碼</translation>
+        <translation>商品代號</translation>
     </message>
     <message id="ERROR_STORE_EMPTY">
         <source></source>
@@ -885,7 +885,7 @@
     </message>
     <message id="ERROR_STORE_SYMBOL_WITHOUT_CODE">
         <source></source>
-        <translation>有商品沒有代碼。</translation>
+        <translation>有商品沒有代號。</translation>
     </message>
     <message id="ERROR_STORE_SYMBOL_WITHOUT_MARKET">
         <source></source>
@@ -945,7 +945,7 @@
     </message>
     <message id="IDS_DIALOG-CHANGE-SYMBOL_HINT">
         <source></source>
-        <translation>以代碼或名稱搜尋</translation>
+        <translation>以代號或名稱搜尋</translation>
     </message>
     <message id="IDS_DIALOG-CHANGE-SYMBOL_TITLE">
         <source></source>
@@ -1097,7 +1097,7 @@
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_SYMBOL_HINT">
         <source></source>
-        <translation>代碼或名稱</translation>
+        <translation>代號或名稱</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_TITLE">
         <source></source>
@@ -1933,7 +1933,7 @@
     </message>
     <message id="TERMINAL_SYMBOL_PROMPT">
         <source></source>
-        <translation>代碼或名稱</translation>
+        <translation>代號或名稱</translation>
     </message>
     <message id="TERMINAL_SYMBOL_UNKNOWN">
         <source></source>

@@ -7,11 +7,14 @@
 #include "host/controls/window_id.h"
 #include "host/views/news_control_ids.h"
 #include "search/search_ids.h"
+#include "terminal/automation/user_input.h"
 #include "terminal/frame/frame_command.h"
 #include "tests/terminal/program/frame_fixture.h"
 
 #include <QAbstractButton>
+#include <QCalendarWidget>
 #include <QContextMenuEvent>
+#include <QDateEdit>
 #include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
@@ -34,8 +37,10 @@ protected:
     virtual void lookAtMenu(const QList<QAction*>& actions, const QString& where) = 0;
 
     void lookAtAll() {
+        QCoreApplication::processEvents();  // texts follow the language
         ASSERT_TRUE(session->setSwitches({true, false}));
         visitFrame();
+        visitModes();
         visitFrameDialogs();
         visitStoryWindow();
         visitSearchDialogs();
@@ -92,6 +97,25 @@ protected:
         EXPECT_GE(menu->actions().size(), 6) << "on a row of " << sheet->rowCount();
         lookAtMenu(menu->actions(), QStringLiteral("the menu of a row"));
         menu->close();
+    }
+    // The desk in each mode, with what its empty lists say.
+    void visitModes() {
+        const OpenView& view = *session->workspace().active();
+        auto* tabs = qobject_cast<QTabBar*>(dlgItem(view.view, ids::tabStrip));
+        ASSERT_NE(tabs, nullptr);
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            clickTab(*tabs, tab);
+            QCoreApplication::processEvents();
+            look(session->frame());
+        }
+        clickTab(*tabs, 0);
+        look(*qobject_cast<QDateEdit*>(dlgItem(view.view, ids::datePicker))->calendarWidget());
+        auto* services = qobject_cast<QAbstractButton*>(dlgItem(view.view, ids::serviceButton));
+        QTimer::singleShot(0, services, [services] { services->click(); });
+        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+        QWidget* popup = QApplication::activePopupWidget();
+        look(*popup);
+        popup->close();
     }
     void visitFrameDialogs() {
         inDialog([this] { command(FrameCommand::Settings); },

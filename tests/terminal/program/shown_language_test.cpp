@@ -3,15 +3,12 @@
 // What windows, menus and tips show in Chinese is Chinese, and of its kind.
 #include "host/contract/fixed_services.h"
 #include "host/controls/my_rich_edit.h"
-#include "terminal/automation/user_input.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/session/category_display.h"
 #include "tests/support/chinese_text.h"
 #include "tests/terminal/program/every_window.h"
 
-#include <QCalendarWidget>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QMetaProperty>
 #include <QTextBrowser>
 #include <QTextDocumentFragment>
@@ -109,25 +106,6 @@ protected:
         }
     }
 
-    // The desk in each mode, with what its empty lists say.
-    void visitModes() {
-        const OpenView& view = *session->workspace().active();
-        auto* tabs = qobject_cast<QTabBar*>(dlgItem(view.view, ids::tabStrip));
-        ASSERT_NE(tabs, nullptr);
-        for (int tab = 0; tab < tabs->count(); ++tab) {
-            clickTab(*tabs, tab);
-            QCoreApplication::processEvents();
-            look(session->frame());
-        }
-        clickTab(*tabs, 0);
-        look(*qobject_cast<QDateEdit*>(dlgItem(view.view, ids::datePicker))->calendarWidget());
-        auto* services = qobject_cast<QAbstractButton*>(dlgItem(view.view, ids::serviceButton));
-        QTimer::singleShot(0, services, [services] { services->click(); });
-        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-        QWidget* popup = QApplication::activePopupWidget();
-        look(*popup);
-        popup->close();
-    }
     void visitStandardDialogs() {
         for (const FrameCommand id : {FrameCommand::ImportNews, FrameCommand::Print,
                                       FrameCommand::PrintPreview, FrameCommand::SaveAs})
@@ -152,7 +130,6 @@ TEST_F(ShownLanguageTest, IsThatOfTheTerminal) {
     for (const QString& code : {u"zh-TW"_s, u"zh-CN"_s}) {
         ASSERT_TRUE(session->setLanguage(code));
         lookAtAll();
-        visitModes();
         visitStandardDialogs();
         visitOthers();
     }
