@@ -4,6 +4,8 @@
 
 #include "host/contract/records.h"
 
+#include <QString>
+
 #include <optional>
 #include <vector>
 
@@ -20,6 +22,12 @@ public:
     virtual std::optional<CHeadlineTable> entryOf(ListIndex list, int row) const = 0;
     // Replaces `services` by the ids of the services that the current mode looks at.
     virtual void vGetNewsActiveService(std::vector<unsigned char>& services) const = 0;
+    // What a category of a service is called beside a story; empty: nothing is said of it.
+    virtual QString topicOf(unsigned char service, int category) {
+        Q_UNUSED(service);
+        Q_UNUSED(category);
+        return {};
+    }
 };
 
 }  // namespace wirepane

@@ -199,8 +199,10 @@ void StoryDisplay::takeRelatedSymbols(const CNewsSymlistInfo& info) {
     if (quotes == nullptr || pane == nullptr)
         return;
     const auto& shown = pane->headlinePointedAt();
-    if (shown && keyOf(*shown) == info.headline)
+    if (shown && keyOf(*shown) == info.headline) {
         quotes->setSymbolList(info.list);
+        around.stage.storyPane()->showSymbolsAgain();
+    }
 }
 
 }  // namespace wirepane

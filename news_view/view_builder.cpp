@@ -55,6 +55,7 @@ void ViewBuilder::createStoryPane(EntrySource& entries, TRVCfgIO2* settings, con
     if (pane == nullptr)
         return;
     pane->vSetNewsParent(&entries);
+    pane->setStorySetting(storySettingOf(parts.settings));
     pane->InitialViewInfo(settings, path.section, path.first, path.second, {});
     stage.setPane(pane);
 }

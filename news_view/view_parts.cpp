@@ -34,6 +34,7 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       arrangement(*this, common, stage, arrangementCalls()),
       builder(view, common, stage, builderCalls()),
       story(*this, backEnd, storySurroundings()),
+      storyInput(storyInputSurroundings()),
       newestRow(*this, [this] { return settings.options[ViewOption::FollowNewest]; }),
       output(backEnd, outputDialogs, outputSurroundings()),
       board(noticeSurroundings(), noticeTellers()),
@@ -107,6 +108,12 @@ void TRVNewsCtrlView::Parts::connectGrid(CSuperSheetWnd& grid, ListIndex list) {
 StoryDisplay::Surroundings TRVNewsCtrlView::Parts::storySurroundings() {
     return {stage, [this](ListIndex list) { return searches.desk().foundUnder(list); },
             [this] { return view.GetViewFont(); }, [this](ListIndex list, int row) { goTo(list, row); }};
+}
+
+StoryInput::Surroundings TRVNewsCtrlView::Parts::storyInputSurroundings() {
+    return {stage, settings, [this](const CSymbolInfo& symbol) {
+                emit view.SendChangeSymbol(view.linkedGroup(), symbol.market, symbol.code);
+            }};
 }
 
 OutputJobs::Surroundings TRVNewsCtrlView::Parts::outputSurroundings() {

@@ -29,6 +29,7 @@
 #include "news_view/shortcuts.h"
 #include "news_view/standing_searches.h"
 #include "news_view/story_display.h"
+#include "news_view/story_input.h"
 #include "news_view/story_stage.h"
 #include "news_view/symbol_mode.h"
 #include "news_view/trv_news_ctrl_view.h"
@@ -76,6 +77,9 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     int entryCount(wirepane::ListIndex list) const override;
     std::optional<CHeadlineTable> entryOf(wirepane::ListIndex list, int row) const override;
     void vGetNewsActiveService(std::vector<unsigned char>& active) const override;
+    QString topicOf(unsigned char service, int category) override {
+        return categories.nameOf(service, category);
+    }
     void goTo(wirepane::ListIndex list, int row) override;
     int rowOf(wirepane::ListIndex list, const CHeadlineTable& headline) const override;
     void printHeadline(const CHeadlineTable& headline) override;
@@ -111,6 +115,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::Arrangement arrangement;
     wirepane::ViewBuilder builder;
     wirepane::StoryDisplay story;
+    wirepane::StoryInput storyInput;
     wirepane::NewestRow newestRow;
     wirepane::OutputJobs output;
     wirepane::NoticeBoard board;
@@ -134,6 +139,7 @@ private:
     wirepane::Arrangement::Calls arrangementCalls();
     wirepane::ViewBuilder::Calls builderCalls();
     wirepane::StoryDisplay::Surroundings storySurroundings();
+    wirepane::StoryInput::Surroundings storyInputSurroundings();
     wirepane::OutputJobs::Surroundings outputSurroundings();
     wirepane::NoticeBoard::Surroundings noticeSurroundings();
     std::vector<wirepane::NoticeBoard::Teller> noticeTellers();

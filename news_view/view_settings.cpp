@@ -4,6 +4,7 @@
 
 #include "host/contract/cfg_io.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 
@@ -22,6 +23,7 @@ const QString symbolServiceKey = u"SymbolService"_s;
 const QString categoryKey = u"CategoryID"_s;
 const QString quoteSortingKey = u"QuoteSorting"_s;
 const QString columnWidthsKey = u"ColumnWidths"_s;
+const QString storySizeKey = u"StorySize"_s;
 
 std::optional<QuoteTable::Sorting> sortingOf(int number) {
     if (number == 0 || number < -quoteColumns || number > quoteColumns)
@@ -57,6 +59,8 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
     reader.GetViewInfo(path, quoteSortingKey, quoteSorting);
     settings.quoteSorting = sortingOf(quoteSorting);
     reader.GetViewInfo(path, columnWidthsKey, settings.columnWidths);
+    reader.GetViewInfo(path, storySizeKey, settings.storySize);
+    settings.storySize = std::clamp(settings.storySize, smallestStorySize, largestStorySize);
     settings.options = ViewOptions::read(reader, path);
     return settings;
 }
@@ -73,6 +77,12 @@ void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
     writer.setViewInfo(path, quoteSortingKey, numberOf(quoteSorting));
     if (options[ViewOption::MeasuredColumns])
         writer.setViewInfo(path, columnWidthsKey, columnWidths);
+    if (options[ViewOption::TypesetStory])
+        writer.setViewInfo(path, storySizeKey, storySize);
+}
+
+StorySetting storySettingOf(const ViewSettings& settings) {
+    return {settings.options[ViewOption::TypesetStory], settings.storySize};
 }
 
 }  // namespace wirepane

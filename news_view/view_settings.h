@@ -6,6 +6,7 @@
 #include "host/contract/view_options.h"
 #include "host/views/quote_table.h"
 #include "news_view/mode_table.h"
+#include "story/story_setting.h"
 
 #include <QString>
 #include <QStringList>
@@ -33,11 +34,15 @@ struct ViewSettings {
     // "ColumnWidths": by list, what the user has given its columns by hand (ColumnWidths::keptText); only a
     // view that measures its columns writes it
     QStringList columnWidths;
-    ViewOptions options;  // the host's choice: never written back
+    int storySize = plainStorySize;  // "StorySize": of typeset stories, in hundredths
+    ViewOptions options;             // the host's choice: never written back
 
     // `defaultTab`: the focused tab when none is stored.
     static ViewSettings read(const TRVCfgIO2& reader, const ViewSettingPath& path, int defaultTab);
     void write(TRVCfgIO2& writer, const ViewSettingPath& path) const;
 };
+
+// How the stories of a view with these settings are set.
+StorySetting storySettingOf(const ViewSettings& settings);
 
 }  // namespace wirepane

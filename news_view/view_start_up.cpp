@@ -51,6 +51,7 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     takeNewsType();
     if (parts->newsType == NewsType::Full) {
         parts->builder.createStoryPane(*parts, settingsReader, settingsPath);
+        parts->storyInput.connectPane();
         parts->controls.CreateTypeBtn();
         parts->controls.CreateFunctionBtn();
     }

@@ -4,6 +4,7 @@
 
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/lang_text.h"
+#include "host/contract/symbol_name.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/views/sheet_scheme.h"
@@ -11,8 +12,6 @@
 #include <QCoreApplication>
 #include <QPainter>
 #include <QResizeEvent>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace wirepane;
@@ -22,16 +21,6 @@ namespace {
 constexpr QLatin1StringView titleKey{"IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE"};
 constexpr QLatin1StringView noSymbolsKey{"IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE_NONE"};
 constexpr int nameCharacters = 16;
-
-CSymbolInfo inItsMarket(const CSymbolInfo& symbol, BKQuoteInterface& backEnd,
-                        const std::vector<unsigned char>& markets) {
-    if (symbol.market != 0)
-        return symbol;
-    const auto market = std::find_if(markets.begin(), markets.end(), [&](unsigned char candidate) {
-        return backEnd.bIsSymbolIDExist(candidate, symbol.code) == 1;
-    });
-    return market != markets.end() ? CSymbolInfo{*market, symbol.code} : symbol;
-}
 
 }  // namespace
 
@@ -58,11 +47,9 @@ bool CNewsRelateSymbolQuoteView::CreateView(QWidget* parent, const QString& name
 
 void CNewsRelateSymbolQuoteView::setSymbolList(const CNewsSymLst& list) {
     std::vector<CSymbolInfo> symbols = list.symbols;
-    std::vector<unsigned char> markets;
-    auto* backEnd = BKQuoteInterface::GetBKInterface();
-    if (backEnd != nullptr && backEnd->bGetAllServiceID(markets)) {
+    if (auto* backEnd = BKQuoteInterface::GetBKInterface()) {
         for (CSymbolInfo& symbol : symbols)
-            symbol = inItsMarket(symbol, *backEnd, markets);
+            symbol = inItsMarket(*backEnd, symbol);
     }
     setSymbols(symbols);
 }

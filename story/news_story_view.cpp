@@ -18,7 +18,8 @@ namespace {
 
 constexpr int sideMargin = 10;
 constexpr int titleLines = 3;
-constexpr int titlePadding = 1;  // leaves the title's third line readable within the height of three
+constexpr int noticeMargin = 24;  // from the right edge, where the story is typeset
+constexpr int titlePadding = 1;   // leaves the title's third line readable within the height of three
 
 }  // namespace
 
@@ -40,9 +41,31 @@ void NewsStoryView::InitialViewInfo(TRVCfgIO2* settings, const QString& section,
     notice = new CQuoteStaticEx(this);
     setWindowId(notice, story_ids::updateNotice);
     notice->hide();
+    connect(storyEdit, &MyRichEdit::sizeWanted, this, &NewsStoryView::sizeWanted);
+    connect(storyEdit, &MyRichEdit::linkClicked, this, [this](const QString& link) {
+        if (const auto symbol = symbolOfLink(link))
+            emit symbolChosen(symbol->market, symbol->code);
+    });
     vLoadLanguageString();
     storyEdit->show();
     vChangeCast();
+}
+
+void NewsStoryView::setStorySetting(const StorySetting& setting) {
+    if (setting == storySetting)
+        return;
+    storySetting = setting;
+    reader.tellHeads(setting.typeset);
+    applyFont();
+    applyTypography();
+    vSetComponentPos();
+}
+
+void NewsStoryView::applyTypography() {
+    if (storyEdit == nullptr)
+        return;
+    storyEdit->setTypography(storySetting.typeset ? std::optional(storyTypography(hideHeadline, palette()))
+                                                  : std::nullopt);
 }
 
 void NewsStoryView::vSetStoryData(int table, int position) {
@@ -71,11 +94,15 @@ void NewsStoryView::draw(const StoryTexts& texts) {
         return;
     if (texts.title)
         titleEdit->showText(*texts.title);
+    putStory(*storyEdit, texts, reader.storyState());
     if (!texts.story)
         return;
     setNotice({});
-    storyEdit->showText(*texts.story);
     vSetStorySearchMarke();
+}
+
+void NewsStoryView::showSymbolsAgain() {
+    draw(reader.headAgain());
 }
 
 void NewsStoryView::vStoryUpdateNotify(const CHeadlineTable*) {
@@ -100,6 +127,7 @@ void NewsStoryView::OnClearStory() {
     if (titleEdit == nullptr)
         return;
     titleEdit->showText({});
+    storyEdit->setLead({});
     storyEdit->showText({});
     setNotice({});
 }
@@ -130,13 +158,22 @@ void NewsStoryView::vSetFont(const QFont& font) {
 void NewsStoryView::applyFont() {
     for (QWidget* control : std::initializer_list<QWidget*>{titleEdit, storyEdit, notice}) {
         if (control != nullptr)
-            control->setFont(paneFont);
+            control->setFont(control == storyEdit ? storyFont(paneFont, storySetting) : paneFont);
     }
+}
+
+void NewsStoryView::HideHeadLine(int hide) {
+    hideHeadline = hide != 0;
+    applyTypography();
 }
 
 void NewsStoryView::vSetComponentPos() {
     if (titleEdit == nullptr)
         return;
+    if (storySetting.typeset) {
+        placeTypeset();
+        return;
+    }
     const int line = g_iGetFontHeight(paneFont);
     const int top = notice->isHidden() ? 0 : line;
     notice->setGeometry(0, 0, width(), top);
@@ -151,10 +188,20 @@ void NewsStoryView::vSetComponentPos() {
     storyEdit->setGeometry(story);
 }
 
+// The notice is over the space above the headline: the story does not move for it.
+void NewsStoryView::placeTypeset() {
+    titleEdit->hide();
+    storyEdit->setGeometry(rect());
+    const QSize size = notice->sizeHint();
+    notice->setGeometry(width() - size.width() - noticeMargin, 0, size.width(), size.height());
+    notice->raise();
+}
+
 void NewsStoryView::vChangeCast() {
     TRVQuoteBaseView::vChangeCast();
     paneFont = GetViewFont();
     applyFont();
+    applyTypography();
     for (MyRichEdit* edit : {storyEdit, titleEdit}) {
         if (edit != nullptr)
             edit->vSetBkColor(colBackground);

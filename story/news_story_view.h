@@ -4,6 +4,7 @@
 
 #include "host/views/quote_base_view.h"
 #include "story/story_reader.h"
+#include "story/story_setting.h"
 
 #include <QFont>
 
@@ -25,6 +26,10 @@ class NewsStoryView : public TRVQuoteBaseView {
 public:
     // The back end must have been installed.
     Q_INVOKABLE explicit NewsStoryView(QWidget* parent = nullptr);
+
+    // How stories are set; the owner's choice. Typeset, the story has its headline above it, in one text, and
+    // the title's control is not seen.
+    void setStorySetting(const wirepane::StorySetting& setting);
 
     // Whose headlines are shown; not owned.
     void vSetNewsParent(wirepane::EntrySource* owner) { reader.showSource(owner); }
@@ -62,6 +67,8 @@ public:
     // A headline arrived at the top of the list: the position moves along.
     void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
                          const QString& symbolCode) override;
+    // The symbols of the headline shown are known anew.
+    void showSymbolsAgain();
     // Empties the pane; answers for what it showed are ignored from here on.
     void OnClearStory();
 
@@ -71,9 +78,14 @@ public:
     void vSetTextColor();
     void vSetFont(const QFont& font);
     // Non-zero hides the title; the story then fills the whole pane. Takes effect at the next layout.
-    void HideHeadLine(int hide) { hideHeadline = hide != 0; }
+    void HideHeadLine(int hide);
     void vSetComponentPos();
     void vChangeCast() override;
+
+Q_SIGNALS:
+    // The user has chosen a symbol of the story; wants stories in another size, as steppedStorySize has it.
+    void symbolChosen(unsigned char market, const QString& code);
+    void sizeWanted(int step);
 
 protected:
     void OnDraw(QPainter& painter) override;
@@ -83,6 +95,8 @@ protected:
 private:
     void draw(const wirepane::StoryTexts& texts);
     void setNotice(const QString& text);
+    void applyTypography();
+    void placeTypeset();
     void applyFont();
     void vLoadLanguageString();
 
@@ -91,5 +105,6 @@ private:
     MyRichEdit* storyEdit = nullptr;
     CQuoteStaticEx* notice = nullptr;
     QFont paneFont;
+    wirepane::StorySetting storySetting;
     bool hideHeadline = false;
 };

@@ -6,6 +6,7 @@
 #include "headline_list/entry_source.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/symbol_name.h"
 #include "story/story_text.h"
 
 #include <algorithm>
@@ -47,13 +48,21 @@ StoryTexts StoryReader::showData() {
     pointedAt = entryAtPosition();
     shown = pointedAt;
     const QString placeholder = langText(backEnd, keys::recover);
-    if (!pointedAt)
-        return {placeholder, placeholder};
-    const QString title = titleOf(*pointedAt).value_or(placeholder);
+    StoryTexts texts;
+    if (pointedAt)
+        texts = titleOf(*pointedAt);
+    else if (tellsHeads)
+        texts.head = StoryHead();
+    if (!texts.title)
+        texts.title = placeholder;
+    texts.story = placeholder;
+    state = StoryState::Awaited;
     CStory story;
-    if (!backEnd.BKQNEWS_bGetStory(story, *pointedAt))
-        return {title, placeholder};
-    return {title, textOf(story, pointedAt->service, BodyEnd::Shown)};
+    if (!pointedAt || !backEnd.BKQNEWS_bGetStory(story, *pointedAt))
+        return texts;
+    texts.story = textOf(story, pointedAt->service, BodyEnd::Shown);
+    state = StoryState::There;
+    return texts;
 }
 
 StoryTexts StoryReader::RespHeadLine(const std::vector<CHeadlineTable>& entries) const {
@@ -63,7 +72,15 @@ StoryTexts StoryReader::RespHeadLine(const std::vector<CHeadlineTable>& entries)
     const bool answered = std::any_of(entries.begin(), entries.end(), [&](const CHeadlineTable& candidate) {
         return isSameNews(candidate, *entry);
     });
-    return {answered ? titleOf(*entry) : std::nullopt, {}};
+    return answered ? titleOf(*entry) : StoryTexts();
+}
+
+StoryTexts StoryReader::headAgain() const {
+    if (!shown || !tellsHeads)
+        return {};
+    StoryTexts texts = titleOf(*shown);
+    texts.title.reset();
+    return texts;
 }
 
 StoryTexts StoryReader::RespStory(const CHeadlineTable& answered) {
@@ -72,10 +89,14 @@ StoryTexts StoryReader::RespStory(const CHeadlineTable& answered) {
     if (!entry || !isSameNews(answered, *entry) || !backEnd.BKQNEWS_bGetStory(story, answered))
         return {};
     StoryTexts texts;
+    if (!titleIsShown()) {
+        texts = titleOf(*entry);
+        if (!texts.title)
+            texts.title = langText(backEnd, keys::recover);
+    }
+    state = story.text.isEmpty() ? StoryState::Empty : StoryState::There;
     texts.story = story.text.isEmpty() ? datedText(story.time, langText(backEnd, keys::noStory))
                                        : textOf(story, entry->service, BodyEnd::Answered);
-    if (!titleIsShown())
-        texts.title = titleOf(*entry).value_or(langText(backEnd, keys::recover));
     shown = entry;
     return texts;
 }
@@ -99,9 +120,7 @@ bool StoryReader::titleIsShown() const {
     return shown && pointedAt && isSameNews(*shown, *pointedAt);
 }
 
-// The title as it is to be shown; none while the headline is not at hand with any active service. A dated
-// title never equals the placeholder, so it is converted without a look at that.
-std::optional<QString> StoryReader::titleOf(const CHeadlineTable& entry) const {
+std::optional<CHeadline> StoryReader::headlineOf(const CHeadlineTable& entry) const {
     std::vector<unsigned char> services;
     source->vGetNewsActiveService(services);
     std::vector<CHeadline> headlines;
@@ -109,10 +128,34 @@ std::optional<QString> StoryReader::titleOf(const CHeadlineTable& entry) const {
         if (backEnd.BKQNEWS_iGetHeadline(service, headlines, {entry}) > 0)
             break;
     }
-    if (headlines.empty())
-        return {};
-    const CHeadline& first = headlines.front();
-    return shownText(backEnd, first.service, datedText(first.time, first.title));
+    return headlines.empty() ? std::nullopt : std::optional(headlines.front());
+}
+
+// The title as it is to be shown, and the head; none while the headline is not at hand. A dated title never
+// equals the placeholder, so it is converted without a look at that.
+StoryTexts StoryReader::titleOf(const CHeadlineTable& entry) const {
+    StoryTexts texts;
+    const std::optional<CHeadline> headline = headlineOf(entry);
+    if (headline)
+        texts.title = shownText(backEnd, headline->service, datedText(headline->time, headline->title));
+    if (tellsHeads)
+        texts.head = headline ? headOf(entry, *headline) : StoryHead();
+    return texts;
+}
+
+StoryHead StoryReader::headOf(const CHeadlineTable& entry, const CHeadline& headline) const {
+    StoryHead head;
+    head.headline = shownText(backEnd, headline.service, headline.title).simplified();
+    backEnd.BKQNEWS_bGetShortNameByService(head.source, headline.service);
+    head.topic = source->topicOf(headline.service, headline.categoryId);
+    head.time = datedText(headline.time, {}).trimmed();
+    CNewsSymLst related;
+    backEnd.BKNEWS_GetSymbolListBySeqNo(related, entry);
+    for (const CSymbolInfo& symbol : related.symbols) {
+        const CSymbolInfo known = inItsMarket(backEnd, symbol);
+        head.symbols.push_back({known, symbolName(backEnd, known).value_or(QString())});
+    }
+    return head;
 }
 
 QString StoryReader::textOf(const CStory& story, unsigned char service, BodyEnd end) const {

@@ -6,6 +6,7 @@
 #include "host/contract/records.h"
 #include "host/contract/search_condition.h"
 #include "story/keyword_match.h"
+#include "story/story_setting.h"
 
 #include <QString>
 
@@ -18,10 +19,14 @@ namespace wirepane {
 class EntrySource;
 enum class BodyEnd : int;
 
+// What stands in place of a story: a placeholder, that there is none, or the story.
+enum class StoryState { Awaited, Empty, There };
+
 // What a story display has to put into its two texts; a text that is absent stays as it is.
 struct StoryTexts {
     std::optional<QString> title;
     std::optional<QString> story;
+    std::optional<StoryHead> head = {};  // only where the reader is to tell it
 
     bool operator==(const StoryTexts&) const = default;
 };
@@ -42,7 +47,9 @@ public:
         : backEnd(newsSource), follows(followed) {}
 
     // Whose headlines are read; not owned, null: none.
-    void showSource(const EntrySource* owner) { source = owner; }
+    void showSource(EntrySource* owner) { source = owner; }
+    // Heads are told with the titles from here on.
+    void tellHeads(bool told) { tellsHeads = told; }
 
     // Points at a headline of a list (nothing: of none), which was found under `condition` (empty: not by a
     // search).
@@ -70,6 +77,10 @@ public:
     StoryTexts showData();
     // Headlines can be had: the title, when the shown headline is among them.
     StoryTexts RespHeadLine(const std::vector<CHeadlineTable>& entries) const;
+    // What the last text of a story is that was told.
+    StoryState storyState() const { return state; }
+    // The head of the headline on show again: with the symbols that are known by now.
+    StoryTexts headAgain() const;
     // A story can be had: its text, when it belongs to the headline at the position; with the title where
     // another headline is still shown.
     StoryTexts RespStory(const CHeadlineTable& entry);
@@ -82,13 +93,18 @@ private:
     // The headline that answers are for.
     std::optional<CHeadlineTable> awaitedHeadline() const;
     bool titleIsShown() const;
-    std::optional<QString> titleOf(const CHeadlineTable& entry) const;
+    // The headline, while it is at hand with any active service.
+    std::optional<CHeadline> headlineOf(const CHeadlineTable& entry) const;
+    StoryTexts titleOf(const CHeadlineTable& entry) const;
+    StoryHead headOf(const CHeadlineTable& entry, const CHeadline& headline) const;
     QString textOf(const CStory& story, unsigned char service, BodyEnd end) const;
 
     BKQuoteInterface& backEnd;
     Follows follows;
-    const EntrySource* source = nullptr;
+    EntrySource* source = nullptr;
     CSearch condition;
+    bool tellsHeads = false;
+    StoryState state = StoryState::Awaited;
     std::optional<ListIndex> pointedList = ListIndex::All;
     int position = 0;
     std::optional<CHeadlineTable> pointedAt;

@@ -17,6 +17,9 @@ namespace wirepane {
 // in place of an empty story.
 QString datedText(std::int64_t time, const QString& text);
 
+// How many characters the first of these lines has with its end, as texts count them that are shown.
+inline constexpr int dateLineCharacters = 21;
+
 // The blanks between a story's body and the break after it.
 enum class BodyEnd : int {
     Answered = 1,  // the story came as an answer

@@ -4,6 +4,9 @@
 
 #include "host/contract/bk_quote_interface.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace wirepane {
 
 std::optional<QString> symbolName(BKQuoteInterface& backEnd, const CSymbolInfo& symbol) {
@@ -12,6 +15,16 @@ std::optional<QString> symbolName(BKQuoteInterface& backEnd, const CSymbolInfo& 
     if (!backEnd.bGetItemDataByItemNo(name, symbol.market, symbol.code, item))
         return std::nullopt;
     return name;
+}
+
+CSymbolInfo inItsMarket(BKQuoteInterface& backEnd, const CSymbolInfo& symbol) {
+    std::vector<unsigned char> markets;
+    if (symbol.market != 0 || !backEnd.bGetAllServiceID(markets))
+        return symbol;
+    const auto market = std::find_if(markets.begin(), markets.end(), [&](unsigned char candidate) {
+        return backEnd.bIsSymbolIDExist(candidate, symbol.code) == 1;
+    });
+    return market != markets.end() ? CSymbolInfo{*market, symbol.code} : symbol;
 }
 
 }  // namespace wirepane

@@ -15,4 +15,7 @@ namespace wirepane {
 WIREPANE_CONTRACT_EXPORT std::optional<QString> symbolName(BKQuoteInterface& backEnd,
                                                            const CSymbolInfo& symbol);
 
+// A symbol that came without its market in the first one that knows it; as it is where none does.
+WIREPANE_CONTRACT_EXPORT CSymbolInfo inItsMarket(BKQuoteInterface& backEnd, const CSymbolInfo& symbol);
+
 }  // namespace wirepane

@@ -38,6 +38,7 @@ enum class ViewOption {
     RowAir,                 // what a row has over the height of its text; 0: rows of 16 pixels
     HeadingHeight,          // of the band of column headings; 0: 16
     RowGutter,              // before the first column's text
+    TypesetStory,  // stories are typeset, in a size of their own; what is awaited says so in its place
     Count
 };
 
@@ -70,6 +71,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::RowAir, QLatin1StringView("RowAir"), 32, 6},
     {ViewOption::HeadingHeight, QLatin1StringView("HeadingHeight"), 64, 22},
     {ViewOption::RowGutter, QLatin1StringView("RowGutter"), 32, 16},
+    {ViewOption::TypesetStory, QLatin1StringView("TypesetStory")},
 }};
 
 constexpr const ViewOptionRow& rowOf(ViewOption option) {

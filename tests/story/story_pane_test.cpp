@@ -87,6 +87,38 @@ CSearch search(std::vector<QString> keywords, bool keywordSearch = true) {
 
 }  // namespace
 
+TEST_F(StoryPaneTest, SetsStoriesUnderTheirHeadlines) {
+    pane->setStorySetting({true});
+    give(first, u"Rates  up"_s, u"One@@@@Two"_s);
+    backEnd.storyAtHand = false;
+    pane->vSetStoryData(list, 0);
+    EXPECT_EQ(edit(story_ids::storyText)->toPlainText(),
+              u"Rates up\nService 1  \u00B7  2026/03/02 09:30:00\nFetching"_s);
+    const QRect place = edit(story_ids::storyText)->geometry();
+    pane->vStoryUpdateNotify(nullptr);
+    EXPECT_TRUE(notice()->isVisible());
+    EXPECT_EQ(edit(story_ids::storyText)->geometry(), place) << "what is read stays where it is";
+    backEnd.storyAtHand = true;
+    pane->RespStory(first);
+    EXPECT_TRUE(edit(story_ids::storyText)->toPlainText().endsWith(u"\nOne\nTwo \n\nEnd."_s));
+    EXPECT_EQ(story(), u"2026/03/02 09:30:00 \r\nOne\r\nTwo \r\n\r\nEnd."_s) << "the text is as ever";
+    EXPECT_TRUE(edit(story_ids::title)->isHidden());
+    pane->OnClearStory();
+    EXPECT_EQ(edit(story_ids::storyText)->toPlainText(), QString());
+}
+
+TEST(StorySetting, StepsSizesWithinBoundsAndFindsSymbolsOfLinks) {
+    EXPECT_EQ(steppedStorySize(100, 1), 110);
+    EXPECT_EQ(steppedStorySize(60, -1), 60);
+    EXPECT_EQ(steppedStorySize(300, 1), 300);
+    EXPECT_EQ(steppedStorySize(170, 0), 100);
+    const TextLead lead = leadOf({u"H"_s, u"S"_s, {}, u"T"_s, {{{3, u"12:3"_s}, u"A B"_s}}});
+    EXPECT_EQ(lead.particulars.size(), 5U);
+    EXPECT_EQ(symbolOfLink(lead.particulars.back().target), (CSymbolInfo{3, u"12:3"_s}));
+    for (const QString& link : {QString(), u"12"_s, u"x:1"_s, u"300:1"_s})
+        EXPECT_FALSE(symbolOfLink(link)) << link.toStdString();
+}
+
 TEST_F(StoryPaneTest, DrawsTitlesAndStoriesAsTheyStand) {
     give(first, u"<b>Rates</b> &amp; yields"_s, u"<img src=x>@@@@a < b"_s);
     backEnd.storyAtHand = false;

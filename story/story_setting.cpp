@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "story/story_setting.h"
+
+#include "host/contract/colour_roles.h"
+#include "story/story_reader.h"
+#include "story/story_text.h"
+
+#include <QPalette>
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int sizeStep = 10;
+constexpr double bodySize = 1.1;  // as a multiple of the font of views
+constexpr double largeHeadline = 1.5 / bodySize;
+constexpr double smallHeadline = 1.3 / bodySize;
+
+// A line may end behind the dot, not within a part.
+const QString betweenParts = u"\u00A0\u00A0\u00B7  "_s;
+
+QString inOnePiece(QString text) {
+    return text.replace(u' ', QChar(QChar::Nbsp));
+}
+
+MyRichEdit::Parts partsOf(StoryState state) {
+    return {state == StoryState::Awaited ? 0 : dateLineCharacters, true};
+}
+
+}  // namespace
+
+int steppedStorySize(int size, int step) {
+    return step == 0 ? plainStorySize
+                     : std::clamp(size + step * sizeStep, smallestStorySize, largestStorySize);
+}
+
+TextLead leadOf(const StoryHead& head) {
+    TextLead lead;
+    lead.headline = head.headline;
+    const auto add = [&lead](const QString& text, const QString& target) {
+        if (text.isEmpty())
+            return;
+        if (!lead.particulars.empty())
+            lead.particulars.push_back({betweenParts, {}});
+        lead.particulars.push_back({inOnePiece(text), target});
+    };
+    for (const QString& part : {head.source, head.topic, head.time})
+        add(part, {});
+    for (const RelatedSymbol& related : head.symbols)
+        add(u"%1 %2"_s.arg(related.symbol.code, related.name).trimmed(),
+            u"%1:%2"_s.arg(related.symbol.market).arg(related.symbol.code));
+    return lead;
+}
+
+std::optional<CSymbolInfo> symbolOfLink(const QString& link) {
+    const qsizetype colon = link.indexOf(u':');
+    bool isNumber = false;
+    const int market = QStringView(link).first(std::max<qsizetype>(0, colon)).toInt(&isNumber);
+    if (!isNumber || market < 0 || market > std::numeric_limits<unsigned char>::max())
+        return std::nullopt;
+    return CSymbolInfo{static_cast<unsigned char>(market), link.sliced(colon + 1)};
+}
+
+QFont storyFont(QFont viewFont, const StorySetting& setting) {
+    if (!setting.typeset)
+        return viewFont;
+    const double factor = bodySize * setting.size / plainStorySize;
+    if (viewFont.pixelSize() > 0)
+        viewFont.setPixelSize(std::max(1, qRound(viewFont.pixelSize() * factor)));
+    else
+        viewFont.setPointSizeF(viewFont.pointSizeF() * factor);
+    return viewFont;
+}
+
+Typography storyTypography(bool withLargeHeadline, const QPalette& palette) {
+    return {withLargeHeadline ? largeHeadline : smallHeadline,
+            roleColour(ColourRole::Weak, palette.color(QPalette::PlaceholderText)),
+            roleColour(ColourRole::Accent, palette.color(QPalette::Link))};
+}
+
+void putStory(MyRichEdit& edit, const StoryTexts& texts, StoryState state) {
+    if (texts.head)
+        edit.setLead(leadOf(*texts.head));
+    if (texts.story)
+        edit.showText(*texts.story, partsOf(state));
+}
+
+}  // namespace wirepane
