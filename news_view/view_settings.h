@@ -6,7 +6,7 @@
 #include "host/contract/view_options.h"
 #include "host/views/quote_table.h"
 #include "news_view/mode_table.h"
-#include "story/story_setting.h"
+#include "story/story_size.h"
 
 #include <QString>
 #include <QStringList>

@@ -9,6 +9,7 @@
 #include "host/controls/quote_static_ex.h"
 #include "host/controls/window_id.h"
 #include "story/story_ids.h"
+#include "story/story_setting.h"
 
 #include <QEvent>
 

@@ -4,7 +4,7 @@
 
 #include "host/views/quote_base_view.h"
 #include "story/story_reader.h"
-#include "story/story_setting.h"
+#include "story/story_size.h"
 
 #include <QFont>
 

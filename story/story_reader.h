@@ -6,7 +6,7 @@
 #include "host/contract/records.h"
 #include "host/contract/search_condition.h"
 #include "story/keyword_match.h"
-#include "story/story_setting.h"
+#include "story/story_head.h"
 
 #include <QString>
 

@@ -4,6 +4,7 @@
 
 #include "host/contract/colour_roles.h"
 #include "story/story_reader.h"
+#include "story/story_size.h"
 #include "story/story_text.h"
 
 #include <QPalette>

@@ -58,7 +58,7 @@ NO_MORE_THAN = {
 # knows the headers of others.
 OWNERS = set(
     "arrangement category_mode context_menu days list_input live_news modes newest_row notice_board output_jobs searches "
-    "sent_again service_menu shortcuts standing_searches story_display symbol_mode view_builder".split()
+    "sent_again service_menu shortcuts standing_searches story_display story_input symbol_mode view_builder".split()
 )
 BRINGS_OWNERS_TOGETHER = "news_view/view_parts.h"
 # What keeps the view quick to read and to compile: lines of its face, of what owners see of it and of an owner's

@@ -7,6 +7,7 @@
 #include "host/controls/window_id.h"
 #include "story/news_story_view.h"
 #include "story/story_ids.h"
+#include "story/story_setting.h"
 #include "tests/story/entry_list.h"
 #include "tests/support/fake_back_end.h"
 
