@@ -11,6 +11,7 @@
 #include "search/search_keys.h"
 #include "search/warn_term_dlg.h"
 #include "tests/news_view/view_fixture.h"
+#include "tests/support/conditions.h"
 
 #include <QAction>
 #include <QLabel>
@@ -25,14 +26,6 @@ namespace {
 const QString itemsKey = u"WarningSearchItems"_s;
 const QString recentKey = u"!RVNEWS_NEWSSEARCH_NEARTENSEARCHINFO"_s;
 const QString keySetsKey = u"!RVNEWS_NEWSKEY_KEYWORDSETTING"_s;
-
-CSearch term(const QString& word, std::vector<CSymbolInfo> symbols = {}) {
-    CSearch search;
-    search.keywords = {word};
-    search.method = 1;
-    search.symbols = std::move(symbols);
-    return search;
-}
 
 class Notices : public NewsViewTest {
 protected:
@@ -172,7 +165,9 @@ TEST_F(Notices, TheMenuOffersWhatANoticeWithoutRoomDoes) {
 }
 
 TEST_F(Notices, TheNarrowingOfAWarningTermStaysWithIt) {
-    const QStringList kept{term(u"gold"_s, {{16, u"2330"_s}}).GetString()};
+    CSearch narrowed = condition({u"gold"_s});
+    narrowed.symbols = {{16, u"2330"_s}};
+    const QStringList kept{narrowed.GetString()};
     openMode("ShowWarningSearch=1\n", 6,
              {{itemsKey, kept}, {recentKey, kept}, {u"WarningSearchItemOrder"_s, 1}});
     view->OnDealsSearch();
@@ -208,7 +203,7 @@ TEST_F(Notices, TheNarrowingOfAWarningTermStaysWithIt) {
 
 TEST_F(Notices, WarningTermsStandFastWhereTheSettingsSaySo) {
     openMode("ShowWarningSearch=1\n", 6,
-             {{itemsKey, QStringList{term(u"gold"_s).GetString()}},
+             {{itemsKey, QStringList{condition({u"gold"_s}).GetString()}},
               {u"WarningSearchItemOrder"_s, 1},
               {u"WarningTermsStandFast"_s, true}});
     view->OnDealsSearch();
@@ -286,7 +281,7 @@ TEST_F(Notices, KeySetsMatchInAnyCaseWhereTheSettingsSaySo) {
 
 TEST_F(Notices, WhatWasFoundBeforeABreakSaysFromWhenItIs) {
     openMode("ShowWarningSearch=1\n", 3,
-             {{itemsKey, QStringList{term(u"tin"_s).GetString()}}, {u"WarningSearchItemOrder"_s, 1}});
+             {{itemsKey, QStringList{condition({u"tin"_s}).GetString()}}, {u"WarningSearchItemOrder"_s, 1}});
     const auto breakOff = [this] {
         view->connectionChanged(false);
         view->connectionChanged(true);

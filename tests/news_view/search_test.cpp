@@ -9,6 +9,7 @@
 #include "story/quote_dlg_tip_msg.h"
 #include "story/story_ids.h"
 #include "tests/news_view/view_fixture.h"
+#include "tests/support/conditions.h"
 
 #include <QLineEdit>
 #include <QListWidget>
@@ -29,13 +30,6 @@ const QString searching = u"IDS_NEWSCTRLVIEW_STRING_NEWS_SEARCHING"_s;
 
 CHeadlineTable entryOf(unsigned char service, int hour, int minute, std::int32_t sequence) {
     return {localTime(2026, 3, 2, hour, minute), sequence, service, 0, 0};
-}
-
-CSearch quick(const QString& word) {
-    CSearch search;
-    search.keywords = {word};
-    search.method = 1;
-    return search;
 }
 
 class SearchesOfTheView : public NewsViewTest {
@@ -110,11 +104,11 @@ TEST_F(SearchesOfTheView, TheQuickSearchAsksTheTickedServicesAndShowsWhatIsThere
     EXPECT_EQ(tip(), searching + u" rate cut"_s);
     EXPECT_EQ(pending(), (QList<int>{1, 2}));
 
-    view->RespSearchHeadLineTable(quick(u"rate cut"_s), 1);
+    view->RespSearchHeadLineTable(condition({u"rate cut"_s}), 1);
     EXPECT_EQ(titles(3), (QStringList{u"s2 9:10"_s, u"s22 9:05"_s, u"s1 9:00"_s})) << "of every service";
     EXPECT_EQ(tip(), searching + u" rate cut"_s) << "service 2 is still awaited";
     EXPECT_EQ(view->sheetOf(3)->cptGetFocusNdx().y(), 0);
-    view->RespSearchHeadLineTable(quick(u"rate cut"_s), 2);
+    view->RespSearchHeadLineTable(condition({u"rate cut"_s}), 2);
     EXPECT_EQ(tip(), QString());
     EXPECT_EQ(pending(), QList<int>());
 
@@ -150,7 +144,7 @@ TEST_F(SearchesOfTheView, WithoutAServiceTheLastSearchIsSentWhateverIsInTheBox) 
 
 TEST_F(SearchesOfTheView, AnAnswerToTheSecondSearchHasATableOfItsOwn) {
     writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
-    openSearch({{u"WarningSearchItems"_s, QStringList{quick(u"tin"_s).GetString()}},
+    openSearch({{u"WarningSearchItems"_s, QStringList{condition({u"tin"_s}).GetString()}},
                 {u"WarningSearchItemOrder"_s, 1}});
     quickSearch(u"gold"_s);
     backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
@@ -163,7 +157,7 @@ TEST_F(SearchesOfTheView, AnAnswerToTheSecondSearchHasATableOfItsOwn) {
 }
 
 TEST_F(SearchesOfTheView, TwoKeywordsAreSentWithAMethodWhichIsKept) {
-    CSearch one = quick(u"gold"_s);
+    CSearch one = condition({u"gold"_s});
     one.method = 0;
     CSearch two = one;
     two.keywords.push_back(u"oil"_s);
@@ -201,7 +195,7 @@ TEST_F(SearchesOfTheView, TheWaitTipComesWithAnotherTextInTheBoxAndNamesTheSearc
     search(u"oil"_s);
     EXPECT_EQ(tip(), searching + u" oil"_s) << "nobody waits for gold any more";
     EXPECT_EQ(pending(), QList<int>()) << "the text in the box is the same";
-    CSearch oil = quick(u"oil"_s);
+    CSearch oil = condition({u"oil"_s});
     view->RespSearchHeadLineTable(oil, 1);
     EXPECT_EQ(tip(), notFound);
     view->findChild<CQuoteDlgTipMsg*>()->vStop();
@@ -269,10 +263,10 @@ TEST_F(SearchesOfTheView, TheStoryOfAResultHasItsKeywordsMarked) {
     backEnd.searchTables[1] = {found};
     openSearch({{u"NewsShowType"_s, 1}});
     quickSearch(u"GOLD"_s);
-    view->RespSearchHeadLineTable(quick(u"GOLD"_s), 1);
+    view->RespSearchHeadLineTable(condition({u"GOLD"_s}), 1);
     EXPECT_EQ(story().textCursor().selectedText(), u"gold"_s);
     backEnd.searchTables.clear();
-    view->RespSearchHeadLineTable(quick(u"GOLD"_s), 1);
+    view->RespSearchHeadLineTable(condition({u"GOLD"_s}), 1);
     EXPECT_EQ(story().literalText(), QString()) << "nothing was found";
 }
 
@@ -280,12 +274,12 @@ TEST_F(SearchesOfTheView, AnAnswerOpensNoWindowOfAStory) {
     openSearch({{u"NewsShowType"_s, 0}});
     quickSearch(u"gold"_s);
     backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
-    view->RespSearchHeadLineTable(quick(u"gold"_s), 1);
+    view->RespSearchHeadLineTable(condition({u"gold"_s}), 1);
     EXPECT_FALSE(view->storyState(true)[u"visible"_s].toBool());
     view->onCommand(ids::showStory);
     EXPECT_TRUE(view->storyState(true)[u"title"_s].toString().endsWith(u"s1 9:00"_s));
     backEnd.searchTables[2] = {entryOf(2, 9, 10, 1)};
-    view->RespSearchHeadLineTable(quick(u"gold"_s), 2);
+    view->RespSearchHeadLineTable(condition({u"gold"_s}), 2);
     EXPECT_TRUE(view->storyState(true)[u"title"_s].toString().endsWith(u"s2 9:10"_s)) << "as the rows do";
 }
 
@@ -294,10 +288,10 @@ TEST_F(SearchesOfTheView, WithWarningTermsAnswersGoToTheirListAndPushesAskAgain)
     backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
     openSearch();
     quickSearch(u"gold"_s);
-    view->RespSearchHeadLineTable(quick(u"gold"_s), 1);
+    view->RespSearchHeadLineTable(condition({u"gold"_s}), 1);
     EXPECT_EQ(titles(6), QStringList{u"s1 9:00"_s});
 
-    CSearch warning = quick(u"gold"_s);
+    CSearch warning = condition({u"gold"_s});
     warning.keywords.push_back(u"oil"_s);
     warning.method = 0;
     const auto pushed = [&](int day, std::int32_t sequence) {
@@ -322,13 +316,13 @@ TEST_F(SearchesOfTheView, WithWarningTermsAnswersGoToTheirListAndPushesAskAgain)
 TEST_F(SearchesOfTheView, RowsOfWarningTermsStayWhileAPushIsSearchedForWhereTheSettingsSaySo) {
     writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
     openSearch({{u"KeepWarningRows"_s, true},
-                {u"WarningSearchItems"_s, QStringList{quick(u"gold"_s).GetString()}},
+                {u"WarningSearchItems"_s, QStringList{condition({u"gold"_s}).GetString()}},
                 {u"WarningSearchItemOrder"_s, 1}},
                6);
     backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
     backEnd.searchTables[2] = {entryOf(2, 9, 10, 1)};
     view->OnDealsSearch();
-    view->RespSearchHeadLineTable(quick(u"gold"_s), 1);
+    view->RespSearchHeadLineTable(condition({u"gold"_s}), 1);
     const QStringList both{u"s2 9:10"_s, u"s1 9:00"_s};
     EXPECT_EQ(titles(6), both);
     sent();
@@ -339,7 +333,7 @@ TEST_F(SearchesOfTheView, RowsOfWarningTermsStayWhileAPushIsSearchedForWhereTheS
     EXPECT_EQ(sent(), QStringList{u"search 2 3 0/1 gold"_s});
     EXPECT_EQ(titles(6), both);
     backEnd.searchTables[2] = {entryOf(2, 9, 20, 2), entryOf(2, 9, 10, 1)};
-    view->RespSearchHeadLineTable(quick(u"gold"_s), 2);
+    view->RespSearchHeadLineTable(condition({u"gold"_s}), 2);
     EXPECT_EQ(titles(6), (QStringList{u"s2 9:20"_s, u"s2 9:10"_s, u"s1 9:00"_s}));
 }
 

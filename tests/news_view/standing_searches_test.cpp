@@ -6,6 +6,7 @@
 #include "search/search_ids.h"
 #include "search/warn_term_dlg.h"
 #include "tests/news_view/view_fixture.h"
+#include "tests/support/conditions.h"
 
 #include <QLineEdit>
 
@@ -16,14 +17,6 @@ namespace wirepane {
 namespace {
 
 const QString keySetsKey = u"!RVNEWS_NEWSKEY_KEYWORDSETTING"_s;
-
-CSearch term(const QString& word, unsigned char scope = 0) {
-    CSearch search;
-    search.keywords = {word};
-    search.scope = scope;
-    search.method = 1;
-    return search;
-}
 
 class StandingSearchesOfTheView : public NewsViewTest {
 protected:
@@ -98,7 +91,7 @@ TEST_F(StandingSearchesOfTheView, OnlyWhatTickedKeySetsWantArrives) {
 }
 
 TEST_F(StandingSearchesOfTheView, TheChosenWarningTermIsSentAndSurvivesARestart) {
-    const QStringList kept{term(u"gold"_s).GetString(), term(u"oil"_s, 2).GetString()};
+    const QStringList kept{condition({u"gold"_s}).GetString(), condition({u"oil"_s}, 2).GetString()};
     openWith("ShowWarningSearch=1\n", 6, {{u"WarningSearchItems"_s, kept}});
     EXPECT_EQ(hint(6), u"IDS_NEWSCTRLVIEW_HINT_NO_WARNING_TERM"_s);
     const auto choose = [this](int row, int button) {

@@ -7,8 +7,8 @@
 #include "host/controls/registered_message.h"
 #include "host/controls/xtp_tab_control.h"
 #include "search/search_ids.h"
-#include "tests/search/conditions.h"
 #include "tests/search/dialog_fixture.h"
+#include "tests/support/conditions.h"
 
 #include <QRadioButton>
 #include <QTableWidget>

@@ -5,7 +5,7 @@
 #include "search/key_sets.h"
 #include "search/warn_term_config_dlg.h"
 #include "search/warning_items.h"
-#include "tests/search/conditions.h"
+#include "tests/support/conditions.h"
 #include "tests/support/fake_back_end.h"
 
 #include <gtest/gtest.h>

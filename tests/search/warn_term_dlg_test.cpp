@@ -6,6 +6,7 @@
 #include "search/search_ids.h"
 #include "search/warn_term_config_dlg.h"
 #include "tests/search/dialog_fixture.h"
+#include "tests/support/conditions.h"
 
 #include <QRadioButton>
 
@@ -20,14 +21,6 @@ const QString stories = u"IDS_DIALOG-DEAL-SEARCH_STORY_SEARCH"_s;
 const QString both = u"IDS_DIALOG-DEAL-SEARCH_HEARLINE_AND_STORY_SEARCH"_s;
 const QString textAnd = u"IDS_DIALOG-DEAL-SEARCH_AND_BUTTON"_s;
 const QString textOr = u"IDS_DIALOG-DEAL-SEARCH_OR_BUTTON"_s;
-
-CSearch condition(std::vector<QString> keywords, unsigned char scope, unsigned char method) {
-    CSearch search;
-    search.keywords = std::move(keywords);
-    search.scope = scope;
-    search.method = method;
-    return search;
-}
 
 class WarnTerms : public DialogTest {
 protected:

@@ -5,6 +5,7 @@
 #include "backend/search/search_index_check.h"
 #include "backend/store/store_file.h"
 #include "tests/backend/store/store_fixture.h"
+#include "tests/support/conditions.h"
 
 #include <sqlite3.h>
 
@@ -12,14 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace wirepane {
 namespace {
-
-CSearch conditionOf(std::vector<QString> keywords, unsigned char scope = 2, unsigned char method = 1) {
-    CSearch condition;
-    condition.keywords = std::move(keywords);
-    condition.scope = scope;
-    condition.method = method;
-    return condition;
-}
 
 class NewsSearchTest : public StoreFixture {
 protected:
@@ -58,48 +51,23 @@ TEST_F(NewsSearchTest, OddNumbersAreFoundAsTyped) {
     const QStringList keywords{u"1,234５"_s, u"1,234\u200d5"_s, u"1"_s + u".1"_s.repeated(40)};
     takeStory(u"a"_s, u"Title"_s, u"x "_s + keywords.join(u" x "_s) + u" x"_s);
     for (const QString& keyword : keywords)
-        EXPECT_EQ(found(conditionOf({keyword})), QStringList(u"Title"_s)) << qPrintable(keyword);
+        EXPECT_EQ(found(condition({keyword}, 2)), QStringList(u"Title"_s)) << qPrintable(keyword);
 }
 
 TEST_F(NewsSearchTest, KeywordsAreFoundAsTyped) {
     const QString text =
         u"台積電(2330)宣布，營收2.5%成長至11,700億元@@@@A&T and c++ 0700.HK in the US-China talks@@@@O'Neil 臺灣"_s;
     takeStory(u"a"_s, u"Title"_s, text);
-    const std::vector<std::pair<QString, bool>> keywords{
-        {u"台"_s, true},
-        {u"積電"_s, true},
-        {u"积电"_s, true},
-        {u"電積"_s, false},
-        {u"台湾"_s, true},
-        {u"台積電(2330)"_s, true},
-        {u"(2330"_s, true},
-        {u"233"_s, false},
-        {u"2.5%"_s, true},
-        {u"２．５％"_s, true},
-        {u"5%"_s, false},
-        {u"700"_s, false},
-        {u"11,700"_s, true},
-        {u"0700.hk"_s, true},
-        {u"700.HK"_s, false},
-        {u"a&t"_s, true},
-        {u"C++"_s, true},
-        {u"c#"_s, false},
-        {u"us-china"_s, true},
-        {u"us china"_s, false},
-        {u"chin"_s, false},
-        {u"ＣＨＩＮＡ"_s, true},
-        {u"talks o'neil"_s, false},
-        {u"o'neil"_s, true},
-        {u"the OR talks"_s, false},
-        {u"\"us"_s, false},
-        {u"title:talks"_s, false},
-        {u"tal*"_s, false},
-        {u"億元 A"_s, false},
-        {u"in\nthe"_s, true},
-        {u"the\0US"_s, true},
-    };
-    for (const auto& [keyword, expected] : keywords)
-        EXPECT_EQ(found(conditionOf({keyword})).size(), expected ? 1 : 0) << qPrintable(keyword);
+    const QStringList held{u"台"_s,      u"積電"_s,   u"积电"_s,     u"台湾"_s,       u"台積電(2330)"_s,
+                           u"(2330"_s,   u"2.5%"_s,   u"２．５％"_s, u"11,700"_s,     u"0700.hk"_s,
+                           u"a&t"_s,     u"C++"_s,    u"us-china"_s, u"ＣＨＩＮＡ"_s, u"o'neil"_s,
+                           u"in\nthe"_s, u"the\0US"_s};
+    const QStringList others{u"電積"_s, u"233"_s,         u"5%"_s,   u"700"_s,          u"700.HK"_s,
+                             u"c#"_s,   u"us china"_s,    u"chin"_s, u"talks o'neil"_s, u"the OR talks"_s,
+                             u"\"us"_s, u"title:talks"_s, u"tal*"_s, u"億元 A"_s};
+    for (const QString& keyword : held + others)
+        EXPECT_EQ(found(condition({keyword}, 2)).size(), held.contains(keyword) ? 1 : 0)
+            << qPrintable(keyword);
 }
 
 TEST_F(NewsSearchTest, ScopeMethodAndOrder) {
@@ -109,19 +77,19 @@ TEST_F(NewsSearchTest, ScopeMethodAndOrder) {
     const QString a = u"Copper rises"_s;
     const QString b = u"Gold rises"_s;
     const QString c = u"Tin"_s;
-    EXPECT_EQ(found(conditionOf({u"copper"_s}, 0)), QStringList({a}));
-    EXPECT_EQ(found(conditionOf({u"copper"_s}, 1)), QStringList({b}));
-    EXPECT_EQ(found(conditionOf({u"copper"_s}, 2)), QStringList({b, a}));
-    EXPECT_EQ(found(conditionOf({u"copper"_s, u"tin"_s})), QStringList({b}));
-    EXPECT_EQ(found(conditionOf({u"copper"_s, u"tin"_s}, 2, 2)), QStringList({b, c, a}));
-    EXPECT_EQ(found(conditionOf({u"rises"_s, u" "_s, u"gold"_s}, 0, 0)), QStringList({b}));
-    EXPECT_EQ(found(conditionOf({u"zinc"_s, u"tin"_s}, 0, 2)), QStringList({c}));
-    EXPECT_EQ(found(conditionOf({u"gold"_s, u"copper"_s}, 0)), QStringList());
-    EXPECT_EQ(found(conditionOf({u"and"_s, u"copper"_s}, 1)), QStringList({b}));
-    EXPECT_EQ(found(conditionOf({u"copper\" OR \"gold"_s, u"tin"_s})), QStringList());
-    EXPECT_EQ(found(conditionOf({})), QStringList());
-    EXPECT_EQ(found(conditionOf({u" "_s, u"\n"_s}, 2, 2)), QStringList());
-    EXPECT_EQ(found(conditionOf({u"copper"_s}), 2), QStringList());
+    EXPECT_EQ(found(condition({u"copper"_s}, 0)), QStringList({a}));
+    EXPECT_EQ(found(condition({u"copper"_s}, 1)), QStringList({b}));
+    EXPECT_EQ(found(condition({u"copper"_s}, 2)), QStringList({b, a}));
+    EXPECT_EQ(found(condition({u"copper"_s, u"tin"_s}, 2)), QStringList({b}));
+    EXPECT_EQ(found(condition({u"copper"_s, u"tin"_s}, 2, 2)), QStringList({b, c, a}));
+    EXPECT_EQ(found(condition({u"rises"_s, u" "_s, u"gold"_s}, 0, 0)), QStringList({b}));
+    EXPECT_EQ(found(condition({u"zinc"_s, u"tin"_s}, 0, 2)), QStringList({c}));
+    EXPECT_EQ(found(condition({u"gold"_s, u"copper"_s}, 0)), QStringList());
+    EXPECT_EQ(found(condition({u"and"_s, u"copper"_s}, 1)), QStringList({b}));
+    EXPECT_EQ(found(condition({u"copper\" OR \"gold"_s, u"tin"_s}, 2)), QStringList());
+    EXPECT_EQ(found(condition({}, 2)), QStringList());
+    EXPECT_EQ(found(condition({u" "_s, u"\n"_s}, 2, 2)), QStringList());
+    EXPECT_EQ(found(condition({u"copper"_s}, 2), 2), QStringList());
 }
 
 TEST_F(NewsSearchTest, SymbolsNarrow) {
@@ -132,15 +100,15 @@ TEST_F(NewsSearchTest, SymbolsNarrow) {
     item.related = {{0, u"2330"_s}, {1, u"IBM"_s}};
     takeNews(item);
     takeNews(newsItem(1, u"c"_s, at(9, 2), u"Gold three"_s));
-    CSearch condition = conditionOf({u"gold"_s});
-    condition.symbols = {{16, u"2330"_s}};
-    EXPECT_EQ(found(condition), QStringList({u"Gold two"_s, u"Gold one"_s}));
-    condition.symbols = {{122, u"2330"_s}};
-    EXPECT_EQ(found(condition), QStringList({u"Gold two"_s}));
-    condition.symbols = {{16, u"2330"_s}, {1, u"IBM"_s}};
-    EXPECT_EQ(found(condition), QStringList({u"Gold two"_s, u"Gold one"_s}));
-    condition.symbols = {{16, u"1101"_s}};
-    EXPECT_EQ(found(condition), QStringList());
+    CSearch narrowed = condition({u"gold"_s}, 2);
+    narrowed.symbols = {{16, u"2330"_s}};
+    EXPECT_EQ(found(narrowed), QStringList({u"Gold two"_s, u"Gold one"_s}));
+    narrowed.symbols = {{122, u"2330"_s}};
+    EXPECT_EQ(found(narrowed), QStringList({u"Gold two"_s}));
+    narrowed.symbols = {{16, u"2330"_s}, {1, u"IBM"_s}};
+    EXPECT_EQ(found(narrowed), QStringList({u"Gold two"_s, u"Gold one"_s}));
+    narrowed.symbols = {{16, u"1101"_s}};
+    EXPECT_EQ(found(narrowed), QStringList());
 }
 
 // With the keys in memory as without them: news, later stories and replacements are seen at once.
@@ -148,18 +116,18 @@ TEST_F(NewsSearchTest, FollowsWhatIsTakenIn) {
     for (const bool loaded : {false, true}) {
         if (loaded) {
             search.prepare();
-            EXPECT_EQ(found(conditionOf({u"l"_s})), QStringList({u"lead"_s, u"bronze l"_s}));
+            EXPECT_EQ(found(condition({u"l"_s}, 2)), QStringList({u"lead"_s, u"bronze l"_s}));
         }
         const QString mark = loaded ? u"k"_s : u"l"_s;
         takeNews(newsItem(1, mark + u"1"_s, at(10, 0), u"silver "_s + mark));
-        EXPECT_EQ(found(conditionOf({mark})).size(), 1);
+        EXPECT_EQ(found(condition({mark}, 2)).size(), 1);
         takeStory(mark + u"2"_s, u"lead"_s, u"silver "_s + mark, 59);
-        EXPECT_EQ(found(conditionOf({mark})), QStringList({u"silver "_s + mark, u"lead"_s}));
+        EXPECT_EQ(found(condition({mark}, 2)), QStringList({u"silver "_s + mark, u"lead"_s}));
         NewsItem replaced = newsItem(1, mark + u"1"_s, at(8, 0), u"bronze "_s + mark);
         replaced.version = 9;
         EXPECT_EQ(takeNews(replaced).outcome.take, Take::TakenIn);
-        EXPECT_EQ(found(conditionOf({mark})), QStringList({u"lead"_s, u"bronze "_s + mark}));
-        EXPECT_EQ(found(conditionOf({u"silver"_s, mark})), QStringList({u"lead"_s}));
+        EXPECT_EQ(found(condition({mark}, 2)), QStringList({u"lead"_s, u"bronze "_s + mark}));
+        EXPECT_EQ(found(condition({u"silver"_s, mark}, 2)), QStringList({u"lead"_s}));
     }
 }
 
@@ -186,7 +154,7 @@ TEST_F(NewsSearchTest, TheKeysOfAllHeadlinesAreReadOnce) {
             fresh.prepare();
         EXPECT_EQ(reads, isAhead ? 1 : 0);
         for (const QString& word : {u"gold"_s, u"gold"_s, u"tin"_s}) {
-            const auto entries = fresh.find(1, conditionOf({word}));
+            const auto entries = fresh.find(1, condition({word}, 2));
             ASSERT_TRUE(entries);
             EXPECT_EQ(entries->size(), word == u"gold"_s ? std::size_t(many) : 0U);
         }
@@ -208,13 +176,13 @@ TEST_F(NewsSearchTest, KeywordsOfAnySizeAndNumberAreAnswered) {
     for (int i = 0; i < 3000; ++i)
         many.push_back(u"none%1"_s.arg(i));
     many.push_back(u"word"_s);
-    EXPECT_EQ(found(conditionOf(many, 2, 2)).size(), 1);
-    EXPECT_EQ(found(conditionOf(many, 2, 1)).size(), 0);
-    EXPECT_EQ(found(conditionOf(std::vector<QString>(3000, u"word"_s), 1, 1)).size(), 1);
-    EXPECT_EQ(found(conditionOf({QString(1'000'000, u'x')})).size(), 0);
-    EXPECT_EQ(found(conditionOf({QString(1'000'000, u'龍')})).size(), 0);
-    EXPECT_EQ(found(conditionOf({QString(1'000'000, u'(')})).size(), 0);
-    EXPECT_EQ(found(conditionOf({QString(QChar(0xd800)) + u"\"'"_s})).size(), 0);
+    EXPECT_EQ(found(condition(many, 2, 2)).size(), 1);
+    EXPECT_EQ(found(condition(many, 2, 1)).size(), 0);
+    EXPECT_EQ(found(condition(std::vector<QString>(3000, u"word"_s), 1, 1)).size(), 1);
+    EXPECT_EQ(found(condition({QString(1'000'000, u'x')}, 2)).size(), 0);
+    EXPECT_EQ(found(condition({QString(1'000'000, u'龍')}, 2)).size(), 0);
+    EXPECT_EQ(found(condition({QString(1'000'000, u'(')}, 2)).size(), 0);
+    EXPECT_EQ(found(condition({QString(QChar(0xd800)) + u"\"'"_s}, 2)).size(), 0);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "backend/search/search_dispatcher.h"
 
 #include "tests/backend/store/store_fixture.h"
+#include "tests/support/conditions.h"
 
 #include <QFile>
 #include <QTest>
@@ -13,12 +14,6 @@ namespace wirepane {
 namespace {
 
 constexpr int kind = 3;
-
-CSearch conditionOf(const QString& keyword) {
-    CSearch condition;
-    condition.keywords = {keyword};
-    return condition;
-}
 
 // Each answer is written down with the sizes of the tables of services 1 and 2 at that moment.
 class SearchDispatcherTest : public StoreFixture {
@@ -47,13 +42,13 @@ protected:
 };
 
 TEST_F(SearchDispatcherTest, AnswersEachServiceAndKeepsTheTableForTheSameCondition) {
-    desk->ask(1, kind, conditionOf(u"gold"_s));
-    desk->ask(2, kind, conditionOf(u"gold"_s));
+    desk->ask(1, kind, condition({u"gold"_s}));
+    desk->ask(2, kind, condition({u"gold"_s}));
     EXPECT_EQ(sizes(), u"0,0");
     ASSERT_TRUE(answered(2));
     EXPECT_EQ(answers, QStringList({u"gold@1 2,0"_s, u"gold@2 2,1"_s}));
     takeNews(newsItem(1, u"d"_s, at(9, 3), u"gold again"_s));
-    desk->ask(1, kind, conditionOf(u"gold"_s));
+    desk->ask(1, kind, condition({u"gold"_s}));
     EXPECT_EQ(sizes(), u"2,1");
     ASSERT_TRUE(answered(3));
     EXPECT_EQ(sizes(), u"3,1");
@@ -61,22 +56,22 @@ TEST_F(SearchDispatcherTest, AnswersEachServiceAndKeepsTheTableForTheSameConditi
     EXPECT_TRUE(desk->table(1, 4).empty());
     // A new condition empties the tables of services that it does not ask too. The old one after it, as a
     // view sends it whose headlines are pushed, finds its own again; composed anew it is a new one.
-    desk->ask(1, kind, conditionOf(u"tin"_s));
+    desk->ask(1, kind, condition({u"tin"_s}));
     EXPECT_EQ(sizes(), u"0,0");
     ASSERT_TRUE(answered(4));
     EXPECT_EQ(sizes(), u"1,0");
-    desk->ask(1, kind, conditionOf(u"gold"_s));
+    desk->ask(1, kind, condition({u"gold"_s}));
     ASSERT_TRUE(answered(5));
     EXPECT_EQ(answers.constLast(), u"gold@1 3,1"_s);
-    desk->ask(1, kind, conditionOf(u"tin"_s));
-    CSearch anew = conditionOf(u"gold"_s);
+    desk->ask(1, kind, condition({u"tin"_s}));
+    CSearch anew = condition({u"gold"_s});
     anew.time = 1;
     desk->ask(1, kind, anew);
     ASSERT_TRUE(answered(7));
     EXPECT_EQ(answers.constLast(), u"gold@1 3,0"_s);
     // Not all that was ever searched for is kept.
     for (int i = 0; i < 20; ++i)
-        desk->ask(1, kind, conditionOf(QString::number(i)));
+        desk->ask(1, kind, condition({QString::number(i)}));
     ASSERT_TRUE(answered(27));
     desk->ask(1, kind, anew);
     EXPECT_EQ(sizes(), u"0,0");
@@ -84,7 +79,7 @@ TEST_F(SearchDispatcherTest, AnswersEachServiceAndKeepsTheTableForTheSameConditi
 
 TEST_F(SearchDispatcherTest, ItLooksAgainAndTellsOfWhatItFindsOnly) {
     takeNews(newsItem(1, u"d"_s, at(9, 1), u"gold of the same minute"_s));
-    desk->ask(1, kind, conditionOf(u"gold"_s));
+    desk->ask(1, kind, condition({u"gold"_s}));
     ASSERT_TRUE(answered(1));
     desk->lookAgain(1, {{at(9, 0), 2, 1}, {at(9, 2), 9, 1}});
     desk->lookAgain(2, {{at(9, 2), 1, 2}});
@@ -98,8 +93,8 @@ TEST_F(SearchDispatcherTest, ItLooksAgainAndTellsOfWhatItFindsOnly) {
 
 TEST_F(SearchDispatcherTest, ANewerSearchForTheSameConditionMakesTheOlderVoid) {
     for (int i = 0; i < 50; ++i)
-        desk->ask(1, kind, conditionOf(u"gold"_s));
-    desk->ask(2, kind, conditionOf(u"gold"_s));
+        desk->ask(1, kind, condition({u"gold"_s}));
+    desk->ask(2, kind, condition({u"gold"_s}));
     ASSERT_TRUE(answered(2));
     QCoreApplication::processEvents();
     EXPECT_EQ(answers, QStringList({u"gold@1 2,0"_s, u"gold@2 2,1"_s}));
@@ -107,18 +102,18 @@ TEST_F(SearchDispatcherTest, ANewerSearchForTheSameConditionMakesTheOlderVoid) {
 
 // Two views search at once: each reads its own tables while it is answered, and what was sent last stays.
 TEST_F(SearchDispatcherTest, AnOvertakenSearchIsAnsweredWithItsOwnTables) {
-    desk->ask(1, kind, conditionOf(u"tin"_s));
-    desk->ask(1, kind, conditionOf(u"gold"_s));
-    desk->ask(2, kind, conditionOf(u"tin"_s));
-    desk->ask(2, kind, conditionOf(u"gold"_s));
+    desk->ask(1, kind, condition({u"tin"_s}));
+    desk->ask(1, kind, condition({u"gold"_s}));
+    desk->ask(2, kind, condition({u"tin"_s}));
+    desk->ask(2, kind, condition({u"gold"_s}));
     ASSERT_TRUE(answered(4));
     EXPECT_EQ(answers, QStringList({u"tin@1 1,0"_s, u"gold@1 2,0"_s, u"tin@2 1,0"_s, u"gold@2 2,1"_s}));
     EXPECT_EQ(sizes(), u"2,1");
 }
 
 TEST_F(SearchDispatcherTest, ASearchSentDuringAnAnswerIsThePresentOne) {
-    then = [this] { desk->ask(2, kind, conditionOf(u"tin"_s)); };
-    desk->ask(1, kind, conditionOf(u"gold"_s));
+    then = [this] { desk->ask(2, kind, condition({u"tin"_s})); };
+    desk->ask(1, kind, condition({u"gold"_s}));
     ASSERT_TRUE(answered(2));
     EXPECT_EQ(answers, QStringList({u"gold@1 2,0"_s, u"tin@2 0,0"_s}));
     EXPECT_EQ(sizes(), u"0,0");
@@ -133,7 +128,7 @@ TEST_F(SearchDispatcherTest, AWorkerReadsAheadWhileNothingIsAsked) {
         SearchWorker worker(
             copy, [](std::int64_t, std::vector<CHeadlineTable>&&) {}, std::chrono::milliseconds(20));
         if (isAsked)
-            worker.ask({1, 1, conditionOf(u"gold"_s), std::make_shared<std::atomic<bool>>(true)});
+            worker.ask({1, 1, condition({u"gold"_s}), std::make_shared<std::atomic<bool>>(true)});
         EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(copy + u"-shm"_s); })) << isAsked;
     }
 }
@@ -142,11 +137,11 @@ TEST_F(SearchDispatcherTest, AStoreThatCannotBeReadGivesEmptyAnswersAndTheEndWai
     QStringList told;
     SearchDispatcher lost(pathOf(u"none.db"_s),
                           [&](const CSearch&, unsigned char service) { told += QString::number(service); });
-    lost.ask(7, kind, conditionOf(u"gold"_s));
+    lost.ask(7, kind, condition({u"gold"_s}));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !told.isEmpty(); }));
     EXPECT_TRUE(lost.table(7, kind).empty());
     for (int i = 0; i < 100; ++i)
-        desk->ask(1, kind, conditionOf(QString::number(i)));
+        desk->ask(1, kind, condition({QString::number(i)}));
     desk.reset();
     QCoreApplication::processEvents();
     EXPECT_LE(answers.size(), 100);
