@@ -54,9 +54,11 @@ TEST(FeedLineTest, RecordsAndHandshakesAreToldApart) {
     EXPECT_EQ(newsOf(std::get<FeedRecord>(wrapped)).title, u"\"wirepane\" rises"_s);
     EXPECT_EQ(newsOf(std::get<FeedRecord>(wrapped)).service, 22);
     EXPECT_EQ(std::get<FeedRecord>(wrapped).position, u"7"_s);
-    const FeedLine handshake = parsedFeedLine(handshakeLine({u"desk 1"_s, 22}), 1);
-    EXPECT_EQ(std::get<FeedHandshake>(handshake).source, u"desk 1"_s);
-    EXPECT_EQ(std::get<FeedHandshake>(handshake).service, 22);
+    for (const unsigned char service : std::initializer_list<unsigned char>{1, 22, 255}) {
+        const FeedLine handshake = parsedFeedLine(handshakeLine({u"desk 1"_s, service}), 1);
+        EXPECT_EQ(std::get<FeedHandshake>(handshake).source, u"desk 1"_s);
+        EXPECT_EQ(std::get<FeedHandshake>(handshake).service, service);
+    }
 }
 
 TEST(FeedLineTest, AQuoteIsReadWithItsPosition) {

@@ -180,6 +180,9 @@ TEST_F(LiveSourceTest, WhatFailsIsToldWithItsReasonAndTriedAgain) {
     EXPECT_EQ(feed->sources().back().state.reason, makeError<logGone>()) << "it stays to be seen";
     EXPECT_FALSE(feed->open(*sourceKind(u"spool"), storeFile)) << "a file is no folder";
     EXPECT_EQ(sourceKind(u"none"), nullptr);
+    feed->setConnected(false);
+    feed->addSource(std::make_shared<SocketSource>(folder.filePath(u"late"_s)));
+    EXPECT_EQ(nameOf(feed->sources().back().state.kind), u"offline"_s) << "as the feed is";
 }
 
 }  // namespace

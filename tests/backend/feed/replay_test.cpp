@@ -61,6 +61,19 @@ TEST_F(ReplayTest, ADayIsPlayedInItsOrderOnceOrAsNews) {
     EXPECT_GE(oldest, host_clock::now() - 60) << "of this moment";
 }
 
+TEST_F(ReplayTest, ADayThatCannotBeReadOnIsSaidToBeSo) {
+    const auto day = std::move(StoredDay::open(archive, QDate(2026, 3, 2)).value());
+    ASSERT_TRUE(openStore(archive).value()->execute("DELETE FROM headlines WHERE id = 2"));
+    FeedClient client(socket, {u"a"_s, 1});
+    client.start(40);
+    Replay replay(*day, client, {.speed = 0, .run = u"a"_s});
+    QSignalSpy failed(&replay, &Replay::failed);
+    replay.start();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !failed.isEmpty(); }));
+    EXPECT_FALSE(failed.value(0).value(0).toString().isEmpty());
+    EXPECT_TRUE(hasTold(1)) << "what could be read is played";
+}
+
 // Ten seconds lie between the first two and the last.
 TEST_F(ReplayTest, WhatIsNotDueWaits) {
     struct Case {

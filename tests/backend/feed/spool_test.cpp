@@ -61,14 +61,18 @@ TEST_F(SpoolTest, FilesAreTakenOldestFirstAndMovedWithTheReasonsBesideThem) {
     const QByteArray a = record(u"a"_s, u"A"_s) + '\n';
     put(u"later.jsonl"_s, a + record(u"b"_s, u"B"_s) + '\n', 10);
     put(u"earlier.jsonl"_s, a + "{\"uri\": broken\n" + record(u"c"_s, u"C"_s) + '\n', 20);
-    put(u"only-bad.jsonl"_s, "{\"uri\":\"x\"}\n{\"uri\":\"y\"}\n", 5);
+    put(u"only-bad.jsonl"_s, "{\"uri\":\"x\"}\n", 5);
+    put(u"half-known.jsonl"_s, a + record(u"d"_s, u"D"_s) + "\n{\"uri\":\"y\"}\n", 6);
+    put(u"just-right.jsonl"_s,
+        record(u"e"_s, u"E"_s) + QByteArray(100'000, ' ').sliced(record(u"e"_s, u"E"_s).size()), 1);
     put(u"letter.txt"_s, "Dear all,", 4);
     put(u"empty"_s, {}, 3);
     put(u"huge.jsonl"_s, QByteArray(200'000, ' '), 2);
-    EXPECT_EQ(takeAll(), 6);
-    EXPECT_EQ(titles(), (QStringList{u"A"_s, u"C"_s, u"B"_s}));
+    EXPECT_EQ(takeAll(), 8);
+    EXPECT_EQ(titles(), (QStringList{u"A"_s, u"C"_s, u"B"_s, u"D"_s, u"E"_s}));
     EXPECT_EQ(filesIn(u"done"_s),
-              (QStringList{u"earlier.jsonl"_s, u"earlier.jsonl.reason.txt"_s, u"later.jsonl"_s}));
+              (QStringList{u"earlier.jsonl"_s, u"earlier.jsonl.reason.txt"_s, u"half-known.jsonl"_s,
+                           u"half-known.jsonl.reason.txt"_s, u"just-right.jsonl"_s, u"later.jsonl"_s}));
     EXPECT_EQ(filesIn(u"rejected"_s),
               (QStringList{u"empty"_s, u"empty.reason.txt"_s, u"huge.jsonl"_s, u"huge.jsonl.reason.txt"_s,
                            u"letter.txt"_s, u"letter.txt.reason.txt"_s, u"only-bad.jsonl"_s,
@@ -76,7 +80,7 @@ TEST_F(SpoolTest, FilesAreTakenOldestFirstAndMovedWithTheReasonsBesideThem) {
     EXPECT_TRUE(content(u"done/earlier.jsonl.reason.txt"_s).startsWith("line 2: "));
     EXPECT_TRUE(content(u"rejected/huge.jsonl.reason.txt"_s).contains("larger than 100000 bytes"));
     EXPECT_EQ(filesIn({}), QStringList{});
-    EXPECT_EQ(troubles, 5);
+    EXPECT_EQ(troubles, 6);
 }
 
 TEST_F(SpoolTest, NamesThatAreThereAlreadyGetANumber) {
