@@ -6,7 +6,6 @@
 #include "host/controls/window_id.h"
 #include "host/views/news_control_ids.h"
 #include "story/news_story_view.h"
-#include "story/quote_dlg_tip_msg.h"
 #include "story/story_ids.h"
 #include "tests/news_view/view_fixture.h"
 
@@ -21,10 +20,6 @@ namespace {
 class Dates : public NewsViewTest {
 protected:
     Dates() {
-        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_ONLYSELECT"_s] = u"the last "_s;
-        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_INSOMEDAYS"_s] = u" days"_s;
-        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_AFTERDAYS"_s] = u"not yet"_s;
-        backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_CLEAR_SERVICE"_s] = u"begins"_s;
         addNews(1, 9, 0, 1);
         addNews(2, 9, 10, 1);
         backEnd.add(1, localTime(2026, 3, 1, 8, 0), 7, u"yesterday"_s, 1);
@@ -50,37 +45,6 @@ protected:
 
 }  // namespace
 
-TEST_F(Dates, TheUserPagesWithinTheRange) {
-    openWithPicker();
-    struct Case {
-        const char* what;
-        QDate wanted;
-        QString tip;
-        QDate inForce;
-        QStringList titles;
-    };
-    const QStringList today{u"s2 9:10"_s, u"s1 9:00"_s};
-    const Case cases[] = {
-        {"a day further back than the range", {2025, 6, 19}, u"the last 255 days"_s, {2026, 3, 2}, today},
-        {"the date in force", {2026, 3, 2}, {}, {2026, 3, 2}, today},
-        {"yesterday", {2026, 3, 1}, {}, {2026, 3, 1}, {u"yesterday"_s}},
-        {"to come", {2027, 1, 1}, u"not yet"_s, {2026, 3, 1}, {u"yesterday"_s}},
-        {"the last day of the range, without news", {2025, 6, 20}, {}, {2025, 6, 20}, {}},
-        {"back", {2026, 3, 2}, {}, {2026, 3, 2}, today},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        const QString before = state(u"pickedDate"_s).toString();
-        picker->setDate(c.wanted);
-        EXPECT_EQ(tip(), c.tip);
-        EXPECT_EQ(picker->date(), c.inForce);
-        EXPECT_EQ(state(u"pickedDate"_s).toString(), c.inForce.toString(u"yyyyMMdd"_s));
-        EXPECT_EQ(titles(0), c.titles);
-        EXPECT_EQ(tablesRead().isEmpty(), state(u"pickedDate"_s).toString() == before);
-        view->findChild<CQuoteDlgTipMsg*>()->vStop();
-    }
-}
-
 TEST_F(Dates, OnlyTheDateInForceWhenTheCalendarClosesCounts) {
     openWithPicker();
     view->OnDateTimeDropDown();
@@ -101,23 +65,6 @@ TEST_F(Dates, PushesReachThePickedDayOnlyWhileItIsTheNewsDay) {
     EXPECT_TRUE(view->bChangeDate({2026, 3, 2}));
     push(1, 9, 21, 6);
     EXPECT_EQ(titles(0).front(), u"pushed 6"_s);
-}
-
-TEST_F(Dates, TheViewFollowsANewDayOfATickedService) {
-    openWithPicker();
-    backEnd.currentDates[1] = u"20260303"_s;
-    view->bChangeDate({2026, 3, 1});
-    beginDay(1, 20260303);
-    EXPECT_EQ(state(u"newsDay"_s).toInt(), 20260303);
-    EXPECT_EQ(state(u"pickedDate"_s).toInt(), 20260303);
-    EXPECT_EQ(picker->date(), QDate(2026, 3, 3));
-    EXPECT_EQ(tip(), u"Service 1 begins"_s);
-    EXPECT_EQ(titles(0), (QStringList{u"tomorrow"_s, u"s2 9:10"_s}))
-        << "each service gives the day at which it stands";
-    tablesRead();
-    beginDay(1, 20260303);
-    EXPECT_EQ(tablesRead(), QStringList()) << "reported again";
-    EXPECT_FALSE(view->bChangeDateByNewHeadLine()) << "there is no relation-search list";
 }
 
 TEST_F(Dates, ANewDayDuringTheWarrantModeFollowsTheUsersChoice) {

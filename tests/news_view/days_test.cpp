@@ -136,8 +136,8 @@ TEST_F(DaysTest, ANewsDayOfATickedServiceIsFollowed) {
     EXPECT_TRUE(readAgain.isEmpty());
     EXPECT_TRUE(readOrMissed.isEmpty());
     switchOn(ViewOption::ReadMissedTables);
-    for (const CMarketStatus& status : {CMarketStatus{1, 20260304}, CMarketStatus{2, 20260304}}) {
-        days.follow(status);
+    for (const CMarketStatus& told : {CMarketStatus{1, 20260304}, CMarketStatus{2, 20260304}}) {
+        days.follow(told);
         EXPECT_EQ(readOrMissed, QList{ListIndex::Warrant}) << "once, whoever tells of the day";
     }
 }
@@ -160,11 +160,11 @@ namespace {
 
 class SentAgainTest : public OwnerTest {
 protected:
-    CHeadlineTableInfo info(unsigned char service, const QString& key, signed char status = 0) {
+    CHeadlineTableInfo info(unsigned char service, const QString& key, signed char answer = 0) {
         CHeadlineTableInfo table;
         table.service = service;
         table.key = key;
-        table.status = status;
+        table.status = answer;
         return table;
     }
     bool wasRead() { return !asked().filter(u"table"_s).isEmpty(); }

@@ -11,29 +11,31 @@
 
 namespace wirepane {
 
-// What owners of the view's work stand on, without the view: seven lists with grids on a bare window,
-// services of which 1 and 2 are ticked, controls as far as a test creates them. It is 9:30 on 2 March 2026.
-class OwnerTest : public testing::Test {
-protected:
-    struct NamingBackEnd : FakeBackEnd {
+struct OwnBackEnd {
+    struct : FakeBackEnd {
         bool BKQNEWS_bGetShortNameByService(QString& name, unsigned char service) override {
             name = QStringLiteral("S%1").arg(service);
             return true;
         }
-    };
+    } own;
+};
 
-    OwnerTest() {
+// What owners of the view's work stand on, without the view: seven lists with grids on a bare window,
+// services of which 1 and 2 are ticked, controls as far as a test creates them. It is 9:30 on 2 March 2026.
+class OwnerTest : public testing::Test, private OwnBackEnd, protected FakeView {
+protected:
+    OwnerTest() : FakeView(own) {
         host_clock::startAt(localTime(2026, 3, 2, 9, 30));
         for (const ListIndex list : {ListIndex::Symbol, ListIndex::Search, ListIndex::Relation,
                                      ListIndex::Warrant, ListIndex::WarningTerm})
-            view.lists[list].setGrid(
-                createHeadlineSheet(&view.window, QRect(0, 100, 600, 300), NewsType::Full, backEnd));
+            lists[list].setGrid(
+                createHeadlineSheet(&window, QRect(0, 100, 600, 300), NewsType::Full, backEnd));
         services.selectInBoth(1);
     }
 
     void withoutGrid(ListIndex list) {
         delete view.grid(list);
-        view.lists[list].setGrid(nullptr);
+        lists[list].setGrid(nullptr);
     }
     void switchOn(ViewOption option) {
         MemoryCfgIO stored;
@@ -48,19 +50,8 @@ protected:
         return {QStringLiteral("table 1 ") + table, QStringLiteral("table 2 ") + table};
     }
 
-    NamingBackEnd backEnd;
-    FakeView view{backEnd};
-    // The parts of the view.
-    TRVQuoteBaseView& host = view.window;
-    NewsServices& services = view.services;
-    ControlSet& controls = view.controls;
-    ViewSettings& settings = view.settings;
-    ApplicationSwitches& switches = view.switches;
-    ModeLoading& loading = view.loading;
-    Outages& outages = view.outages;
-    ListTip& tip = view.tip;
-    NewsType& newsType = view.newsType;
-    const CommonParts parts = view.parts();
+    FakeView& view = *this;
+    const CommonParts parts = FakeView::parts();
 };
 
 }  // namespace wirepane

@@ -89,16 +89,6 @@ TEST_F(Recovery, AnAnswerIsTakenForWhatIsChosen) {
     }
 }
 
-TEST_F(Recovery, ATableThatIsSentAgainReplacesTheOldOne) {
-    openActive();
-    push(1, 9, 30, 9);
-    addNews(1, 9, 0, 1);
-    addNews(2, 9, 10, 1);
-    EXPECT_TRUE(answer(dateAnswer, 1, u"20260302"_s));
-    EXPECT_EQ(titles(0), (QStringList{u"s2 9:10"_s, u"s1 9:00"_s}));
-    EXPECT_EQ(tip(), QString());
-}
-
 TEST_F(Recovery, AServiceWithoutDataIsNamed) {
     openActive();
     answer(dateAnswer, 1, u"20260302"_s, -1);

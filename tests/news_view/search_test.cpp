@@ -270,19 +270,6 @@ TEST_F(SearchesOfTheView, TheStoryOfAResultHasItsKeywordsMarked) {
     EXPECT_EQ(story().literalText(), QString()) << "nothing was found";
 }
 
-TEST_F(SearchesOfTheView, AnAnswerOpensNoWindowOfAStory) {
-    openSearch({{u"NewsShowType"_s, 0}});
-    quickSearch(u"gold"_s);
-    backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
-    view->RespSearchHeadLineTable(condition({u"gold"_s}), 1);
-    EXPECT_FALSE(view->storyState(true)[u"visible"_s].toBool());
-    view->onCommand(ids::showStory);
-    EXPECT_TRUE(view->storyState(true)[u"title"_s].toString().endsWith(u"s1 9:00"_s));
-    backEnd.searchTables[2] = {entryOf(2, 9, 10, 1)};
-    view->RespSearchHeadLineTable(condition({u"gold"_s}), 2);
-    EXPECT_TRUE(view->storyState(true)[u"title"_s].toString().endsWith(u"s2 9:10"_s)) << "as the rows do";
-}
-
 TEST_F(SearchesOfTheView, WithWarningTermsAnswersGoToTheirListAndPushesAskAgain) {
     writeFile(u"Application.ini"_s, "[NewsCtrlSearchView]\nShowWarningSearch=1\n");
     backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};

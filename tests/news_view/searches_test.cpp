@@ -39,10 +39,10 @@ protected:
 }  // namespace
 
 TEST_F(SearchesTest, OnlyListsWithSearchesSendAndOnlyWhatHasAKeyword) {
-    const ListIndex lists[] = {ListIndex::All,        ListIndex::Category, ListIndex::Symbol,
-                               ListIndex::Relation,   ListIndex::Warrant,  ListIndex::Search,
-                               ListIndex::WarningTerm};
-    for (const ListIndex list : lists) {
+    const ListIndex all[] = {ListIndex::All,        ListIndex::Category, ListIndex::Symbol,
+                             ListIndex::Relation,   ListIndex::Warrant,  ListIndex::Search,
+                             ListIndex::WarningTerm};
+    for (const ListIndex list : all) {
         view.shown = list;
         searches.desk().ordinary = searches.desk().warningTerm = CSearch();
         searches.send();
@@ -219,7 +219,7 @@ TEST_F(SearchesTest, AnOpenDialogIsToldOfTheOneSymbolThatChangedOrToReadAll) {
             return CNewsKeySearchDlg::event(event);
         }
         std::vector<quintptr> told;
-    } dialog(&host);
+    } dialog(&window);
     const std::vector<CSymbolUpdateInfo> one{{16, u"2330"_s}}, two{{16, u"2330"_s}, {16, u"6214"_s}};
     for (const auto& updates : {&one, &two})
         searches.updateSymbolPicker(*updates);
