@@ -5,6 +5,7 @@
 #include "headline_list/language_keys.h"
 #include "host/controls/heap_dialog.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -14,12 +15,16 @@ namespace wirepane {
 
 bool OutputDialogs::askPrinter(QPrinter& printer, QWidget* parent) {
     printer.setCollateCopies(true);
+    const bool toFile = QPrinterInfo::availablePrinters().isEmpty();
+    // But under X the dialog would propose a folder, which it then refuses.
+    if (toFile && printer.outputFileName().isEmpty())
+        printer.setOutputFileName(QDir::home().filePath(QStringLiteral("news.pdf")));
     const HeapDialog dialog(new QPrintDialog(&printer, parent));
     dialog->setOption(QAbstractPrintDialog::PrintPageRange, false);
     dialog->setOption(QAbstractPrintDialog::PrintCurrentPage, false);
     dialog->setOption(QAbstractPrintDialog::PrintSelection, false);
     dialog->setOption(QAbstractPrintDialog::PrintCollateCopies, true);
-    dialog->setOption(QAbstractPrintDialog::PrintToFile, QPrinterInfo::availablePrinters().isEmpty());
+    dialog->setOption(QAbstractPrintDialog::PrintToFile, toFile);
     return dialog->exec() == QDialog::Accepted;
 }
 

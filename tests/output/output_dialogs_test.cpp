@@ -12,6 +12,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -60,6 +61,7 @@ TEST(OutputDialogs, APrinterIsAskedForWithoutRangesOfPages) {
                 dialog.done(accepted ? QDialog::Accepted : QDialog::Rejected);
             });
         EXPECT_TRUE(printer.collateCopies());
+        EXPECT_EQ(printer.outputFileName().endsWith(u".pdf"_s), QPrinterInfo::availablePrinters().isEmpty());
     }
 }
 
