@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/translations/languages.h"
 
+#include "terminal/translations/text_table.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -21,7 +23,12 @@ QString catalogueSuffix(const QString& code) {
 QString ToolkitTexts::translate(const char* context, const char* source, const char* disambiguation,
                                 int n) const {
     const bool ofFileKinds = QLatin1StringView(context) == "QAbstractFileIconProvider"_L1;
-    return QTranslator::translate(ofFileKinds ? "QFileDialog" : context, source, disambiguation, n);
+    const QString text =
+        QTranslator::translate(ofFileKinds ? "QFileDialog" : context, source, disambiguation, n);
+    if (!text.isEmpty())
+        return text;
+    static const TextTable own(u":/names/toolkit_texts.tsv"_s);
+    return own.find(QString::fromUtf8(source)).value_or(QString());
 }
 
 QStringList Languages::codes() {
@@ -42,9 +49,10 @@ bool Languages::use(const QString& code) {
     QLocale::setDefault(QLocale(catalogueSuffix(code)));
     QCoreApplication::removeTranslator(&texts);
     QCoreApplication::removeTranslator(&toolkitTexts);
-    if (toolkitTexts.load(u"qtbase_"_s + catalogueSuffix(code),
-                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&toolkitTexts);
+    // Not found, it still has a few texts of its own.
+    (void)toolkitTexts.load(u"qtbase_"_s + catalogueSuffix(code),
+                            QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    QCoreApplication::installTranslator(&toolkitTexts);
     const bool loaded = texts.load(u":/i18n/wirepane_"_s + catalogueSuffix(code));
     if (loaded)
         QCoreApplication::installTranslator(&texts);

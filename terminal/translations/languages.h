@@ -8,7 +8,8 @@
 
 namespace wirepane {
 
-// The texts of Qt's own dialogs and buttons.
+// The texts of Qt's own dialogs and buttons: Qt's, where they are installed, else those of the most common
+// ones.
 class ToolkitTexts : public QTranslator {
 public:
     // Qt's catalogues keep the names of the kinds of files under the file dialog, where they were once asked

@@ -4,6 +4,7 @@
 #include "terminal/translations/languages.h"
 #include "terminal/translations/stored_names.h"
 #include "terminal/translations/terminal_text.h"
+#include "terminal/translations/text_table.h"
 #include "tests/support/chinese_text.h"
 
 #include <QCalendarWidget>
@@ -84,6 +85,8 @@ TEST(TranslationsTest, TheCatalogueInForceGivesItsTexts) {
     EXPECT_EQ(QCoreApplication::translate("QPrintDialog", "&Print"), u"打印(&P)"_s) << "Qt's own texts";
     EXPECT_EQ(QCoreApplication::translate("QAbstractFileIconProvider", "Folder", "All other platforms"),
               u"文件夹"_s);
+    EXPECT_EQ(ToolkitTexts().translate("QLineEdit", "Select All", nullptr, -1), u"全选"_s)
+        << "without Qt's catalogues";
     SDateTimeCtrl picker;
     EXPECT_EQ(picker.calendarWidget()->locale().monthName(3), u"三月"_s);
     ASSERT_TRUE(languages.use(u"en"_s));
@@ -110,23 +113,25 @@ TEST(TranslationsTest, ChineseTextsAreChineseAndOfTheirKind) {
     }
 }
 
-TEST(TranslationsTest, NamesOfStoresAreToldApartInEachLanguage) {
-    QFile file(sources + u"/terminal/translations/stored_names.tsv"_s);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(file.readAll());
-    const QStringList lines = text.split(u'\n', Qt::SkipEmptyParts).filter(QRegularExpression(u"^[^#]"_s));
-    QHash<QString, QSet<QString>> seen;
+TEST(TranslationsTest, TablesOfTextsAreWholeAndTellNamesApart) {
     Languages languages;
-    for (const QString& line : lines.mid(1)) {
-        const QStringList names = line.split(u'\t');
-        ASSERT_EQ(names.size(), Languages::codes().size() + 1) << line.toStdString();
-        for (qsizetype i = 0; i < Languages::codes().size(); ++i) {
-            const QString code = Languages::codes().at(i);
-            ASSERT_TRUE(languages.use(code));
-            EXPECT_EQ(shownName(names.front()), names.at(i + 1));
-            EXPECT_FALSE(seen[code].contains(names.at(i + 1))) << line.toStdString();
-            seen[code].insert(names.at(i + 1));
-            EXPECT_TRUE(i == 0 || strangeParts(names.at(i + 1), code).isEmpty()) << line.toStdString();
+    for (const QString& name : {u"stored_names"_s, u"toolkit_texts"_s}) {
+        QFile file(u"%1/terminal/translations/%2.tsv"_s.arg(sources, name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const TextTable table(file.fileName());
+        const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+        QHash<QString, QSet<QString>> seen;
+        for (const QString& line : lines.filter(QRegularExpression(u"^[^#]"_s)).mid(1)) {
+            const QStringList texts = line.split(u'\t');
+            ASSERT_EQ(texts.size(), Languages::codes().size() + 1) << line.toStdString();
+            for (qsizetype i = 1; i < texts.size(); ++i) {
+                const QString code = Languages::codes().at(i - 1);
+                ASSERT_TRUE(languages.use(code));
+                EXPECT_EQ(table.find(texts.front()), texts.at(i));
+                EXPECT_FALSE(seen[code].contains(texts.at(i))) << line.toStdString();
+                seen[code].insert(texts.at(i));
+                EXPECT_TRUE(i == 1 || strangeParts(texts.at(i), code).isEmpty()) << line.toStdString();
+            }
         }
     }
     EXPECT_EQ(shownName(u"a name of its own"_s), u"a name of its own"_s);
