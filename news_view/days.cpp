@@ -9,6 +9,8 @@
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
+#include "host/contract/news_day_finder.h"
+#include "host/controls/day_calendar.h"
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/control_set.h"
@@ -17,6 +19,7 @@
 #include "news_view/view_context.h"
 #include "news_view/view_settings.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -37,11 +40,43 @@ QString Days::pickedKey() const {
 // --- The date picker ---
 
 void Days::connectPicker() {
-    const auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker);
+    auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker);
     QObject::connect(picker, &SDateTimeCtrl::droppedDown, &parts.window, [this] { calendarOpened(); });
+    dressCalendar(*picker->calendar());
     QObject::connect(picker, &SDateTimeCtrl::dateTimeChange, &parts.window,
                      [this](const QDate& date) { dateChanged(date); });
     QObject::connect(picker, &SDateTimeCtrl::closeUp, &parts.window, [this] { calendarClosed(); });
+}
+
+void Days::dressCalendar(DayCalendar& calendar) {
+    calendar.setDayStates([this](const QDate& day) {
+        return DayCalendar::DayState{hasNewsOn(day), !isInRange(day)};
+    });
+    calendar.clearDayButtons();
+    calendar.addDayButton(langText(parts.backEnd, keys::today), [] { return host_clock::today(); });
+    calendar.addDayButton(langText(parts.backEnd, keys::yesterday),
+                          [] { return host_clock::today().addDays(-1); });
+}
+
+// The days that pick() takes.
+bool Days::isInRange(const QDate& day) const {
+    const QDate today = host_clock::today();
+    const DateCheck check = checkPickedDate(day, {}, today, pager.rangeInDays());
+    return check != DateCheck::TooEarly && check != DateCheck::TooLate;
+}
+
+bool Days::hasNewsOn(const QDate& day) const {
+    auto* finder = dynamic_cast<NewsDayFinder*>(&parts.backEnd);
+    const auto& services = parts.services.currentServices();
+    return finder != nullptr && isInRange(day) &&
+           std::any_of(services.begin(), services.end(), [finder, &day](const ServiceEntry& entry) {
+               return entry.selected && finder->hasNewsOn(entry.service, day);
+           });
+}
+
+void Days::loadTexts() {
+    if (auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker))
+        dressCalendar(*picker->calendar());
 }
 
 void Days::dateChanged(const QDate& date) {

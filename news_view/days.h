@@ -10,6 +10,7 @@
 #include <functional>
 
 namespace wirepane {
+class DayCalendar;
 class RelationMatcher;
 class ViewContext;
 enum class ListIndex : int;
@@ -37,6 +38,8 @@ public:
 
     // The date picker's signals. While its calendar is open the date is not picked yet.
     void connectPicker();
+    // Sets the texts of its calendar in the language in force.
+    void loadTexts();
     void calendarOpened() { calendarIsOpen = true; }
     void dateChanged(const QDate& date);
     void calendarClosed();
@@ -52,6 +55,9 @@ public:
     bool readCurrentDates();
 
 private:
+    void dressCalendar(DayCalendar& calendar);
+    bool isInRange(const QDate& day) const;
+    bool hasNewsOn(const QDate& day) const;
     void refuse(const QString& why);
     int entryOfWarrants(const CMarketStatus& status) const;
     void tellNewDay(unsigned char service);

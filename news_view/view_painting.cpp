@@ -86,6 +86,7 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     if (event->type() != QEvent::LanguageChange || !parts->initialised)
         return;
     parts->controls.loadTexts();
+    parts->days.loadTexts();
     parts->shortcuts.loadToolTips();
     parts->standingSearches.loadHints();
     parts->categories.learnCombo();

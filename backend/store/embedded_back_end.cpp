@@ -439,6 +439,10 @@ int EmbeddedBackEnd::BKQCheckAuthSupport(unsigned char service) {
     return found && found->authorised ? 1 : 0;
 }
 
+bool EmbeddedBackEnd::hasNewsOn(unsigned char service, const QDate& day) {
+    return reader.hasHeadline(service, boundsOf(day));
+}
+
 std::optional<StoredCategory> EmbeddedBackEnd::category(std::int32_t id, unsigned char service) {
     return reader.category(service, id);
 }

@@ -25,6 +25,7 @@
 #include "backend/words/simplified_chinese.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/local_days.h"
+#include "host/contract/news_day_finder.h"
 #include "host/contract/news_positions.h"
 #include "host/contract/reading_moment.h"
 
@@ -76,7 +77,7 @@ namespace wirepane {
 // its headline are sent.
 //
 // Other programs may write to the store meanwhile: checkForNews() tells the receivers of it.
-class EmbeddedBackEnd : public BKQuoteInterface, public NewsPositions, public ReadingMoment {
+class EmbeddedBackEnd : public BKQuoteInterface, public NewsPositions, public ReadingMoment, public NewsDayFinder {
 public:
     // Opens the store, or makes it (see openStore). One that cannot be written to is read: it takes nothing
     // in.
@@ -144,6 +145,7 @@ public:
     // searches, with their arguments in the contract's order but without what is to be filled. A symbol is
     // its market and its code, an entry its service, time and number, a search its keywords.
     std::vector<Request> takeRequests() { return requests.take(); }
+    bool hasNewsOn(unsigned char service, const QDate& day) override;
     // A category by its id. Warrants number their categories for themselves: name their service for one of
     // theirs.
     std::optional<StoredCategory> category(std::int32_t id, unsigned char service = 0);

@@ -42,6 +42,7 @@ StoreReader::StoreReader(Database& database)
                     "JOIN categories ON categories.space = service_categories.space AND id = category "
                     "WHERE service = ? ORDER BY category"),
       oneCategory(database, "SELECT id, name, colour FROM categories WHERE space = ? AND id = ?"),
+      anyHeadline(database, "SELECT 1 FROM headlines WHERE service = ? AND time >= ? AND time < ? LIMIT 1"),
       byCategory(database,
                  "SELECT time, sequence FROM headlines WHERE service = ? AND category = ? AND time >= ? AND "
                  "time < ? ORDER BY time DESC, sequence DESC"),
@@ -90,6 +91,10 @@ std::vector<StoredCategory> StoreReader::categories(unsigned char service) {
     for (Query query(allCategories, service); query.next();)
         found.push_back(categoryIn(query));
     return found;
+}
+
+bool StoreReader::hasHeadline(unsigned char service, const DayBounds& bounds) {
+    return Query(anyHeadline, service, bounds.begin, bounds.end).next();
 }
 
 std::optional<StoredCategory> StoreReader::category(unsigned char service, std::int32_t id) {

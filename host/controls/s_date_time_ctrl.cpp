@@ -2,16 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/s_date_time_ctrl.h"
 
+#include "host/controls/day_calendar.h"
+
 #include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
 
+using namespace wirepane;
+
 SDateTimeCtrl::SDateTimeCtrl(QWidget* parent) : QDateEdit(parent) {
     setCalendarPopup(true);
+    days = new DayCalendar;
+    setCalendarWidget(days);
     setDisplayFormat(QStringLiteral("yyyy/MM/dd"));
     calendarWidget()->setLocale(QLocale());
-    calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     // Dates are typed into the line; what is being typed into a calendar that goes would leak.
     calendarWidget()->setDateEditEnabled(false);
     calendarWidget()->installEventFilter(this);

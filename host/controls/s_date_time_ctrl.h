@@ -6,6 +6,10 @@
 
 #include <QDateEdit>
 
+namespace wirepane {
+class DayCalendar;
+}
+
 // A date picker with a drop-down calendar, which F4, Alt+Down and the arrow open, and which speaks the
 // language of the default locale. It tells of the user's changes only, at once and in this order:
 // droppedDown, any number of DateTimeChange, CloseUp. Esc closes the calendar and goes back to the date it
@@ -18,6 +22,7 @@ public:
 
     // Sets the date and tells nobody. An invalid date is ignored.
     void showDate(const QDate& date);
+    wirepane::DayCalendar* calendar() { return days; }
     bool isDropped() const { return dropped; }
     // Opens the calendar, as the user does.
     void dropDown();
@@ -36,6 +41,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    wirepane::DayCalendar* days;
     QDate dateAtOpening;
     bool dropped = false;
 };

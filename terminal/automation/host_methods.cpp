@@ -45,7 +45,7 @@ Wanted wantedFrom(Params& params, const SearchSwitches& present) {
     if (const auto name = params.optionalText(u"scheme"_s)) {
         wanted.scheme = schemeByName(*name);
         if (!wanted.scheme)
-            params.fail(u"\"scheme\" is \"light\" or \"dark\""_s);
+            params.fail(u"\"scheme\" is \"light\", \"dark\" or \"contrast\""_s);
     }
     wanted.language = params.optionalText(u"lang"_s);
     if (wanted.language && !Languages::codes().contains(*wanted.language))

@@ -18,6 +18,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QScreen>
 
 #include <algorithm>
 #include <cstring>
@@ -136,10 +137,20 @@ OpenOptions openOptions(CommandArguments& arguments) {
     return options;
 }
 
+// Most of the screen, but no more than is read well, and always on it.
+QSize firstSize(const QSize& screen) {
+    constexpr QSize largest(1600, 1000);
+    constexpr QSize least(1100, 765);
+    constexpr qreal share = 0.85;
+    const QSize wanted = (QSizeF(screen) * share).toSize().boundedTo(largest).expandedTo(least);
+    constexpr QSize frameOfWindow(16, 48);
+    return wanted.boundedTo(screen - frameOfWindow);
+}
+
 Done openWorkspace(Session& session) {
     MainFrame& frame = session.frame();
     if (!frame.restoreGeometry(session.settings().frameGeometry()))
-        frame.resize(frame.sizeHint());
+        frame.resize(firstSize(frame.screen()->availableSize()));
     frame.show();
     return session.keeper().restore();
 }

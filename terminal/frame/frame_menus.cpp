@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/frame_menus.h"
 
+#include "host/controls/line_icon.h"
 #include "terminal/frame/link_badge.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/translations/terminal_text.h"
@@ -11,6 +12,7 @@
 #include <QMenuBar>
 
 #include <array>
+#include <optional>
 #include <span>
 
 using namespace Qt::StringLiterals;
@@ -25,6 +27,7 @@ struct Entry {
     QLatin1StringView shortcuts;  // portable names, "; " between two of them
     bool ofView = false;          // needs an active view
     bool startsGroup = false;
+    bool ofModule = false;  // the view itself has the shortcut; the menu only tells of it
 };
 
 constexpr std::array fileEntries{
@@ -40,6 +43,16 @@ constexpr std::array fileEntries{
     Entry{FrameCommand::ReadAsOf, TextId::ReadAsOf, "Ctrl+G"_L1},
     Entry{FrameCommand::Settings, TextId::Settings, "Ctrl+,"_L1},
     Entry{FrameCommand::Quit, TextId::Quit, "Ctrl+Q"_L1, false, true},
+};
+
+constexpr std::array newsEntries{
+    Entry{FrameCommand::NewsSearch, TextId::NewsSearch, "Ctrl+F"_L1, true, false, true},
+    Entry{FrameCommand::NewsServices, TextId::NewsServices, "F7"_L1, true, false, true},
+    Entry{FrameCommand::NewsDate, TextId::NewsDate, "F8"_L1, true, false, true},
+    Entry{FrameCommand::NewsNextPage, TextId::NewsNextPage, "Alt+PgDown"_L1, true, true, true},
+    Entry{FrameCommand::NewsPreviousPage, TextId::NewsPreviousPage, "Alt+PgUp"_L1, true, false, true},
+    Entry{FrameCommand::NewsOpenInWindow, TextId::NewsOpenInWindow, ""_L1, true},
+    Entry{FrameCommand::NewsLayout, TextId::NewsLayout, "F9"_L1, true, true, true},
 };
 
 constexpr std::array fontEntries{
@@ -65,12 +78,45 @@ constexpr std::array arrangeEntries{
     Entry{FrameCommand::ArrangeTabs, TextId::ArrangeTabs, "Ctrl+Shift+3"_L1, true},
 };
 
+// Icons only where a button has one, too.
+std::optional<LineIcon> iconOf(FrameCommand command) {
+    switch (command) {
+        case FrameCommand::SaveAs:
+            return LineIcon::Save;
+        case FrameCommand::Print:
+            return LineIcon::Print;
+        case FrameCommand::NewsSearch:
+            return LineIcon::Search;
+        case FrameCommand::NewsServices:
+            return LineIcon::Services;
+        case FrameCommand::NewsDate:
+            return LineIcon::Calendar;
+        case FrameCommand::NewsNextPage:
+            return LineIcon::Next;
+        case FrameCommand::NewsPreviousPage:
+            return LineIcon::Prev;
+        case FrameCommand::NewsOpenInWindow:
+        case FrameCommand::FloatView:
+            return LineIcon::Window;
+        case FrameCommand::CloseView:
+            return LineIcon::Close;
+        default:
+            return std::nullopt;
+    }
+}
+
 void addEntries(MainFrame& frame, QMenu& menu, std::span<const Entry> entries, const MenuState& state) {
     for (const Entry& entry : entries) {
         if (entry.startsGroup)
             menu.addSeparator();
+        const auto keys = QKeySequence::listFromString(entry.shortcuts, QKeySequence::PortableText);
         QAction* action = menu.addAction(terminalText(entry.text));
-        action->setShortcuts(QKeySequence::listFromString(entry.shortcuts, QKeySequence::PortableText));
+        if (entry.ofModule)
+            action->setText(action->text() + u'\t' + keys.constFirst().toString(QKeySequence::NativeText));
+        else
+            action->setShortcuts(keys);
+        if (const auto icon = iconOf(entry.command))
+            action->setIcon(lineIcon(*icon));
         action->setEnabled(!entry.ofView || state.activeView != 0);
         QObject::connect(action, &QAction::triggered, &frame,
                          [&frame, command = entry.command] { emit frame.commanded(command); });
@@ -103,8 +149,10 @@ void addFileMenu(MainFrame& frame, const MenuState& state) {
 void addLookMenu(MainFrame& frame, const MenuState& state) {
     QMenu* menu = frame.menuBar()->addMenu(terminalText(TextId::ViewMenu));
     addChoices(*menu->addMenu(terminalText(TextId::SchemeMenu)),
-               {{TextId::SchemeLight, u"light"_s}, {TextId::SchemeDark, u"dark"_s}}, state.scheme,
-               [&frame](const QString& value) { emit frame.schemeChosen(value); });
+               {{TextId::SchemeLight, u"light"_s},
+                {TextId::SchemeDark, u"dark"_s},
+                {TextId::SchemeContrast, u"contrast"_s}},
+               state.scheme, [&frame](const QString& value) { emit frame.schemeChosen(value); });
     addChoices(*menu->addMenu(terminalText(TextId::LanguageMenu)),
                {{TextId::LanguageEnglish, u"en"_s},
                 {TextId::LanguageTraditionalChinese, u"zh-TW"_s},
@@ -149,6 +197,7 @@ void addWindowMenu(MainFrame& frame, const MenuState& state) {
 
 void addFrameMenus(MainFrame& frame, const MenuState& state) {
     addFileMenu(frame, state);
+    addEntries(frame, *frame.menuBar()->addMenu(terminalText(TextId::NewsMenu)), newsEntries, state);
     addLookMenu(frame, state);
     addWindowMenu(frame, state);
     addEntries(frame, *frame.menuBar()->addMenu(terminalText(TextId::HelpMenu)), helpEntries, state);

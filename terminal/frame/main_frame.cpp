@@ -3,14 +3,13 @@
 #include "terminal/frame/main_frame.h"
 
 #include "terminal/frame/notice_bar.h"
+#include "terminal/frame/status_line.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/frame/view_desk.h"
 #include "terminal/frame/view_dock.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QCloseEvent>
-#include <QDir>
-#include <QLabel>
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
@@ -23,15 +22,7 @@ namespace wirepane {
 
 namespace {
 
-QLabel* statusLabel(QStatusBar* bar, int stretch) {
-    auto* label = new QLabel;
-    label->setTextFormat(Qt::PlainText);
-    // A long path must not keep the window wide.
-    label->setMinimumWidth(1);
-    label->setContentsMargins(0, 0, 12, 0);
-    bar->addWidget(label, stretch);
-    return label;
-}
+constexpr int statusHeight = 24;
 
 QToolBar* barWith(QWidget* content) {
     auto* bar = new QToolBar;
@@ -41,12 +32,6 @@ QToolBar* barWith(QWidget* content) {
     bar->layout()->setContentsMargins(0, 0, 0, 0);
     bar->addWidget(content);
     return bar;
-}
-
-// The lamp of the feed's state before its name.
-QString withLamp(const QString& text, bool live) {
-    const QString colour = live ? u"#2f9e58"_s : u"#d0672c"_s;
-    return u"<span style='color:%1'>●</span>&nbsp;&nbsp;%2"_s.arg(colour, text.toHtmlEscaped());
 }
 
 // Entries of menus that go keep their shortcuts until they are gone.
@@ -65,13 +50,13 @@ MainFrame::MainFrame()
       symbols(new SymbolBox),
       notice(new NoticeBar),
       symbolBar(barWith(symbols)),
-      feedLabel(statusLabel(statusBar(), 0)),
-      storeLabel(statusLabel(statusBar(), 1)),
-      servicesLabel(statusLabel(statusBar(), 0)),
-      asOfLabel(statusLabel(statusBar(), 0)) {
-    feedLabel->setTextFormat(Qt::RichText);
-    statusBar()->setContentsMargins(8, 0, 8, 0);
+      statusLine(new StatusLine) {
     statusBar()->setSizeGripEnabled(false);
+    statusBar()->setMinimumHeight(statusHeight);
+    statusBar()->addWidget(statusLine, 1);
+    connect(statusLine, &StatusLine::importAsked, this, [this] { emit commanded(FrameCommand::ImportNews); });
+    connect(statusLine, &StatusLine::connectAsked, this, [this] { emit commanded(FrameCommand::Connect); });
+    connect(statusLine, &StatusLine::presentAsked, this, [this] { emit commanded(FrameCommand::Present); });
     setCentralWidget(viewDesk);
     addToolBar(symbolBar);
     addToolBarBreak();
@@ -110,12 +95,7 @@ void MainFrame::showChoices(const MenuState& state) {
 }
 
 void MainFrame::showStatus(const FrameStatus& status) {
-    feedLabel->setText(withLamp(status.feed, status.isLive));
-    feedLabel->setToolTip(status.feedTip.toHtmlEscaped().replace(u'\n', u"<br>"_s));
-    storeLabel->setText(QDir::toNativeSeparators(status.storeFile));
-    servicesLabel->setText(terminalText(TextId::ServicesCount).arg(status.services));
-    asOfLabel->setText(status.asOf.isEmpty() ? QString() : terminalText(TextId::AsOf).arg(status.asOf));
-    asOfLabel->setVisible(!status.asOf.isEmpty());
+    statusLine->show(status);
 }
 
 void MainFrame::showCaption(const QString& viewCaption) {

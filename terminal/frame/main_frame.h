@@ -8,22 +8,12 @@
 
 #include <QMainWindow>
 
-class QLabel;
-
 namespace wirepane {
 class NoticeBar;
+class StatusLine;
+struct FrameStatus;
 class SymbolBox;
 class ViewDesk;
-
-// What the status bar says.
-struct FrameStatus {
-    QString feed;     // how the terminal stands to its sources of news
-    QString feedTip;  // how its sources stand, in lines
-    bool isLive = true;
-    QString storeFile;
-    int services = 0;
-    QString asOf;  // empty: the present moment is the machine's
-};
 
 // The terminal's main window: menus, the symbol box, the docks and the desk with the views, the status bar.
 // What its menu commands do is the session's business.
@@ -81,10 +71,7 @@ private:
     SymbolBox* symbols;
     NoticeBar* notice;
     QToolBar* symbolBar;
-    QLabel* feedLabel;
-    QLabel* storeLabel;
-    QLabel* servicesLabel;
-    QLabel* asOfLabel;
+    StatusLine* statusLine;
     QString caption;
     MenuState menuState;
 };

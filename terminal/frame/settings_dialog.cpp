@@ -64,9 +64,14 @@ QWidget* SettingsDialog::generalPage(const TerminalChoices& present) {
     language->setCurrentIndex(language->findData(present.language));
     scheme = new QComboBox;
     for (const auto& [text, value] : {std::pair(TextId::SchemeLight, ColourScheme::Light),
-                                      std::pair(TextId::SchemeDark, ColourScheme::Dark)})
+                                      std::pair(TextId::SchemeDark, ColourScheme::Dark),
+                                      std::pair(TextId::SchemeContrast, ColourScheme::HighContrast)})
         scheme->addItem(captionWithoutKey(terminalText(text)), static_cast<int>(value));
     scheme->setCurrentIndex(scheme->findData(static_cast<int>(present.scheme)));
+    rising = new QComboBox;
+    rising->addItem(terminalText(TextId::RisingRed), false);
+    rising->addItem(terminalText(TextId::RisingGreen), true);
+    rising->setCurrentIndex(rising->findData(present.greenIsUp));
     fontSize = new QSpinBox;
     fontSize->setRange(TerminalSettings::smallestFont, TerminalSettings::largestFont);
     fontSize->setValue(present.fontSize);
@@ -78,6 +83,7 @@ QWidget* SettingsDialog::generalPage(const TerminalChoices& present) {
     form->setVerticalSpacing(10);
     form->addRow(terminalText(TextId::SettingsLanguage), language);
     form->addRow(terminalText(TextId::SettingsScheme), scheme);
+    form->addRow(terminalText(TextId::SettingsRising), rising);
     form->addRow(terminalText(TextId::SettingsFont), fontSize);
     return page;
 }
@@ -120,6 +126,7 @@ void SettingsDialog::showWarning() {
 TerminalChoices SettingsDialog::choices() const {
     return {language->currentData().toString(),
             static_cast<ColourScheme>(scheme->currentData().toInt()),
+            rising->currentData().toBool(),
             fontSize->value(),
             {normalSearch->isChecked(), warningSearch->isChecked()}};
 }

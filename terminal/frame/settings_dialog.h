@@ -18,6 +18,7 @@ namespace wirepane {
 struct TerminalChoices {
     QString language;
     ColourScheme scheme = ColourScheme::Light;
+    bool greenIsUp = false;
     int fontSize = 0;  // points
     SearchSwitches switches;
 };
@@ -38,6 +39,7 @@ private:
 
     QComboBox* language = nullptr;
     QComboBox* scheme = nullptr;
+    QComboBox* rising = nullptr;
     QSpinBox* fontSize = nullptr;
     QCheckBox* normalSearch = nullptr;
     QCheckBox* warningSearch = nullptr;

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "terminal/session/dialog_tabs.h"
 #include "terminal/settings/colour_scheme.h"
 
 namespace wirepane {
 class TerminalSettings;
 class Workspace;
 
-// Brings scheme and font to the application's windows and to the views that are open.
+// Brings scheme, font and what all windows have in common to the application and to the views that are open.
 class Appearance {
 public:
     // Neither is owned.
@@ -25,6 +26,7 @@ private:
 
     TerminalSettings& settings;
     Workspace& workspace;
+    DialogTabs dialogTabs;
 };
 
 }  // namespace wirepane

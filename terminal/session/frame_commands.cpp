@@ -15,15 +15,30 @@
 #include "terminal/translations/terminal_text.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
+
+namespace {
+
+// Does what the view's own shortcut does.
+void pressShortcut(QWidget& view, QLatin1StringView key) {
+    const auto shortcuts = view.findChildren<QShortcut*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QShortcut* shortcut : shortcuts) {
+        if (shortcut->key() == QKeySequence(QString(key)))
+            emit shortcut->activated();
+    }
+}
+
+}  // namespace
 
 FrameCommands::FrameCommands(Session& terminal)
     : session(terminal),
@@ -75,6 +90,12 @@ void FrameCommands::carryOut(FrameCommand command) {
         case FrameCommand::ReadAsOf:
             readAsOf();
             break;
+        case FrameCommand::Present:
+            report(session.readAsOf(QDateTime::currentSecsSinceEpoch()));
+            break;
+        case FrameCommand::Connect:
+            showGuide();
+            break;
         case FrameCommand::Settings:
             changeSettings();
             break;
@@ -124,6 +145,27 @@ void FrameCommands::carryOutOnView(FrameCommand command) {
         case FrameCommand::SaveAs:
             view->view->onCommand(ids::saveNews);
             break;
+        case FrameCommand::NewsSearch:
+            pressShortcut(*view->view, "Ctrl+F"_L1);
+            break;
+        case FrameCommand::NewsServices:
+            view->view->onCommand(ids::serviceButton);
+            break;
+        case FrameCommand::NewsDate:
+            pressShortcut(*view->view, "F8"_L1);
+            break;
+        case FrameCommand::NewsNextPage:
+            view->view->onCommand(ids::pageDownButton);
+            break;
+        case FrameCommand::NewsPreviousPage:
+            view->view->onCommand(ids::pageUpButton);
+            break;
+        case FrameCommand::NewsLayout:
+            view->view->onCommand(ids::showTypeButton);
+            break;
+        case FrameCommand::NewsOpenInWindow:
+            view->view->onCommand(ids::showStory);
+            break;
         case FrameCommand::NextView:
             workspace.activateNext(1);
             break;
@@ -152,13 +194,15 @@ void FrameCommands::readAsOf() {
 
 void FrameCommands::changeSettings() {
     TerminalSettings& settings = session.settings();
-    const TerminalChoices present{session.language(), settings.scheme(), settings.fontSize(),
-                                  settings.switches()};
+    const TerminalChoices present{session.language(), settings.scheme(), settings.greenIsUp(),
+                                  settings.fontSize(), settings.switches()};
     const HeapDialog dialog(new SettingsDialog(present, &session.frame()));
     if (dialog->exec() != QDialog::Accepted)
         return;
     const TerminalChoices chosen = dialog->choices();
-    if (chosen.scheme != present.scheme)
+    if (chosen.greenIsUp != present.greenIsUp)
+        settings.setGreenIsUp(chosen.greenIsUp);
+    if (chosen.scheme != present.scheme || chosen.greenIsUp != present.greenIsUp)
         session.setScheme(chosen.scheme);
     if (chosen.fontSize != present.fontSize)
         session.setFontSize(chosen.fontSize);

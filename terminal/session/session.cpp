@@ -12,6 +12,7 @@
 #include "terminal/session/module_location.h"
 #include "terminal/session/sample_process.h"
 #include "terminal/session/session_errors.h"
+#include "terminal/session/status_report.h"
 #include "terminal/session/store_opening.h"
 #include "terminal/settings/module_files.h"
 #include "terminal/translations/shown_text.h"
@@ -32,54 +33,8 @@ namespace wirepane {
 
 namespace {
 
-constexpr int sameMomentSeconds = 60;  // a clock that is no further off counts as the machine's
 constexpr std::chrono::seconds clockPeriod{1};
 constexpr int daysFollowed = 2;  // of the sample wire, after an absence
-
-QString asOfText() {
-    const std::int64_t now = host_clock::now();
-    if (std::abs(now - QDateTime::currentSecsSinceEpoch()) < sameMomentSeconds)
-        return {};
-    return QDateTime::fromSecsSinceEpoch(now).toString(u"yyyy/MM/dd HH:mm"_s);
-}
-
-QString feedText(const FeedState& state) {
-    if (state.kind == FeedState::Reconnecting)
-        return terminalText(TextId::FeedReconnecting);
-    if (state.kind == FeedState::OnlyRead)
-        return terminalText(TextId::FeedOnlyRead);
-    if (state.kind == FeedState::Offline)
-        return terminalText(TextId::OfflineSince)
-            .arg(QDateTime::fromSecsSinceEpoch(state.since).toString(u"HH:mm"_s));
-    return state.late > 0 ? terminalText(TextId::FeedLate).arg(state.late) : terminalText(TextId::FeedLive);
-}
-
-QString sourceText(const SourceState& state) {
-    const QString since = QDateTime::fromSecsSinceEpoch(state.since).toString(u"HH:mm"_s);
-    switch (state.kind) {
-        case SourceState::Connecting:
-            return terminalText(TextId::SourceConnecting);
-        case SourceState::Live:
-            return terminalText(TextId::FeedLive);
-        case SourceState::Stale:
-            return terminalText(TextId::SourceStale).arg(since);
-        case SourceState::Offline:
-            return terminalText(TextId::OfflineSince).arg(since);
-        case SourceState::Failed:
-            break;
-    }
-    return terminalText(TextId::SourceFailed).arg(since, state.reason ? shownText(*state.reason) : QString());
-}
-
-// What stands in the way of the feed, then how its sources stand, a line each.
-QString feedTip(const LiveFeed& feed) {
-    QStringList lines;
-    if (const auto trouble = feed.state().trouble)
-        lines += shownText(*trouble);
-    for (const SourceReport& source : feed.sources())
-        lines += u"%1: %2"_s.arg(source.name, sourceText(source.state));
-    return lines.join(u'\n');
-}
 
 // Whether the topics of the news, or the language of the terminal, are in Chinese, and no font has it. The
 // sentence that says so holds English in every language.
@@ -146,6 +101,7 @@ Done Session::start(const SessionOptions& options) {
         WorkspaceKeeper::Parts{settingsFile, layout, *terminalSettings, *openViews, *linkGroups, *mainFrame,
                                [this](ViewRequest request) { return openView(std::move(request)); }});
     categoryWatch = std::make_unique<CategoryWatch>(*store, [this] { renameCategories(); });
+    status = std::make_unique<StatusReport>(*store, *liveFeed, *openViews);
     look->apply();
     connectParts();
     for (const QString& sentence : {feedNotice, settingsFile.message()}) {
@@ -191,10 +147,7 @@ void Session::connectParts() {
             });
     connect(liveFeed.get(), &LiveFeed::stateChanged, this, &Session::showStatus);
     connect(liveFeed.get(), &LiveFeed::sourcesChanged, this, &Session::showStatus);
-    connect(&clock, &QTimer::timeout, this, [this] {
-        if (asOfText() != shownAsOf)
-            showStatus();
-    });
+    connect(&clock, &QTimer::timeout, this, &Session::showStatus);
     clock.start(clockPeriod);
     store->onDatedAhead([this](unsigned char service, std::int64_t time) { tellDatedAhead(service, time); });
     connect(liveFeed.get(), &LiveFeed::trouble, mainFrame.get(),
@@ -307,6 +260,7 @@ Done Session::reopenUserViews() {
 
 void Session::setScheme(ColourScheme scheme) {
     look->setScheme(scheme);
+    showStatus();
     showViews();
 }
 
@@ -351,17 +305,7 @@ void Session::setActive(bool active) {
 }
 
 void Session::showStatus() {
-    std::vector<unsigned char> services;
-    store->BKQNEWS_bGetAllNewsService(services);
-    // Those that the service menu has: the warrants have a list of their own.
-    std::erase(services, warrantService);
-    const FeedState feedState = liveFeed->state();
-    shownAsOf = asOfText();
-    // The green light is for real news.
-    const bool isInvented = isSampleFollowed && feedState.kind == FeedState::Live;
-    mainFrame->showStatus({isInvented ? terminalText(TextId::FeedSample) : feedText(feedState),
-                           feedTip(*liveFeed), feedState.kind == FeedState::Live && !isInvented, storeFile,
-                           static_cast<int>(services.size()), shownAsOf});
+    mainFrame->showStatus(status->now(storeFile, isSampleFollowed));
 }
 
 void Session::showViews() {

@@ -13,6 +13,7 @@
 #include "terminal/session/category_display.h"
 #include "terminal/session/category_watch.h"
 #include "terminal/session/link_groups.h"
+#include "terminal/session/status_report.h"
 #include "terminal/session/workspace_keeper.h"
 #include "terminal/settings/layout_store.h"
 #include "terminal/settings/settings_file.h"
@@ -137,9 +138,9 @@ private:
     std::unique_ptr<LinkGroups> linkGroups;
     std::unique_ptr<WorkspaceKeeper> workspaceKeeper;
     std::unique_ptr<CategoryWatch> categoryWatch;
+    std::unique_ptr<StatusReport> status;
     FollowedView followed;
     QTimer clock;                       // the status bar's
-    QString shownAsOf;                  // what it shows
     std::set<unsigned char> toldAhead;  // services whose news is dated ahead
 };
 

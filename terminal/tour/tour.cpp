@@ -88,9 +88,10 @@ private:
         if (const Done taken = picture(u"4-linked-views.png"_s); !taken)
             return taken;
         session.setScheme(ColourScheme::Dark);
-        SettingsDialog settings({session.language(), session.settings().scheme(),
-                                 session.settings().fontSize(), session.settings().switches()},
-                                &session.frame());
+        SettingsDialog settings(
+            {session.language(), session.settings().scheme(), session.settings().greenIsUp(),
+             session.settings().fontSize(), session.settings().switches()},
+            &session.frame());
         settings.show();
         return picture(u"5-settings.png"_s);
     }

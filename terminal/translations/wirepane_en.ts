@@ -1499,6 +1499,10 @@
         <source></source>
         <translation>Headline</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_TODAY">
+        <source></source>
+        <translation>Today</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PREVIEW">
         <source></source>
         <translation>Waiting to preview: %1 still to come</translation>
@@ -1566,6 +1570,10 @@
     <message id="IDS_SINGLETON-STRING_FONTNAME">
         <source></source>
         <translation>Noto Sans Mono CJK TC</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_YESTERDAY">
+        <source></source>
+        <translation>Yesterday</translation>
     </message>
     <message id="TERMINAL_ACCEPT">
         <source></source>
@@ -1641,7 +1649,7 @@
     </message>
     <message id="TERMINAL_FEED_SAMPLE">
         <source></source>
-        <translation>Sample wire: invented news – import your own with Ctrl+O</translation>
+        <translation>Sample wire – invented news</translation>
     </message>
     <message id="TERMINAL_FLOAT_BUTTON">
         <source></source>
@@ -1670,6 +1678,14 @@
     <message id="TERMINAL_GUIDE_TITLE">
         <source></source>
         <translation>User's Guide</translation>
+    </message>
+    <message id="TERMINAL_HEADLINE_COUNT">
+        <source></source>
+        <translation>%1 headlines</translation>
+    </message>
+    <message id="TERMINAL_HOURS_AGO">
+        <source></source>
+        <translation>%1 h ago</translation>
     </message>
     <message id="TERMINAL_IMPORT_ALL_KINDS">
         <source></source>
@@ -1739,6 +1755,10 @@
         <source></source>
         <translation>繁體中文</translation>
     </message>
+    <message id="TERMINAL_LAST_HEADLINE">
+        <source></source>
+        <translation>last headline %1 · %2</translation>
+    </message>
     <message id="TERMINAL_LINK_GROUP">
         <source></source>
         <translation>Group &amp;%1</translation>
@@ -1771,6 +1791,10 @@
         <source></source>
         <translation>&amp;Link group</translation>
     </message>
+    <message id="TERMINAL_MENU_NEWS">
+        <source></source>
+        <translation>&amp;News</translation>
+    </message>
     <message id="TERMINAL_MENU_SCHEME">
         <source></source>
         <translation>&amp;Colours</translation>
@@ -1782,6 +1806,38 @@
     <message id="TERMINAL_MENU_VIEWS">
         <source></source>
         <translation>&amp;Window</translation>
+    </message>
+    <message id="TERMINAL_MINUTES_AGO">
+        <source></source>
+        <translation>%1 min ago</translation>
+    </message>
+    <message id="TERMINAL_NEWS_DATE">
+        <source></source>
+        <translation>&amp;Date…</translation>
+    </message>
+    <message id="TERMINAL_NEWS_LAYOUT">
+        <source></source>
+        <translation>Change &amp;Layout</translation>
+    </message>
+    <message id="TERMINAL_NEWS_NEXT_PAGE">
+        <source></source>
+        <translation>&amp;Next Page</translation>
+    </message>
+    <message id="TERMINAL_NEWS_OPEN_IN_WINDOW">
+        <source></source>
+        <translation>Open in &amp;Window</translation>
+    </message>
+    <message id="TERMINAL_NEWS_PREVIOUS_PAGE">
+        <source></source>
+        <translation>&amp;Previous Page</translation>
+    </message>
+    <message id="TERMINAL_NEWS_SEARCH">
+        <source></source>
+        <translation>&amp;Search…</translation>
+    </message>
+    <message id="TERMINAL_NEWS_SERVICES">
+        <source></source>
+        <translation>Se&amp;rvices…</translation>
     </message>
     <message id="TERMINAL_NEW_SYMBOL_VIEW">
         <source></source>
@@ -1798,6 +1854,10 @@
     <message id="TERMINAL_NO_CHINESE_FONT">
         <source></source>
         <translation>No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
+    </message>
+    <message id="TERMINAL_PRESENT">
+        <source></source>
+        <translation>Present</translation>
     </message>
     <message id="TERMINAL_PREVIOUS_VIEW">
         <source></source>
@@ -1843,9 +1903,21 @@
         <source></source>
         <translation>&amp;Rename view…</translation>
     </message>
+    <message id="TERMINAL_RISING_GREEN">
+        <source></source>
+        <translation>Green</translation>
+    </message>
+    <message id="TERMINAL_RISING_RED">
+        <source></source>
+        <translation>Red</translation>
+    </message>
     <message id="TERMINAL_SAVE_NEWS">
         <source></source>
         <translation>&amp;Save News As…</translation>
+    </message>
+    <message id="TERMINAL_SCHEME_CONTRAST">
+        <source></source>
+        <translation>&amp;High Contrast</translation>
     </message>
     <message id="TERMINAL_SCHEME_DARK">
         <source></source>
@@ -1855,9 +1927,13 @@
         <source></source>
         <translation>&amp;Light</translation>
     </message>
+    <message id="TERMINAL_SECONDS_AGO">
+        <source></source>
+        <translation>%1 s ago</translation>
+    </message>
     <message id="TERMINAL_SERVICES_COUNT">
         <source></source>
-        <translation>Services: %1</translation>
+        <translation>%1 of %2 services</translation>
     </message>
     <message id="TERMINAL_SETTINGS">
         <source></source>
@@ -1899,6 +1975,10 @@
         <source></source>
         <translation>A change opens your views anew.</translation>
     </message>
+    <message id="TERMINAL_SETTINGS_RISING">
+        <source></source>
+        <translation>&amp;Rising quotes</translation>
+    </message>
     <message id="TERMINAL_SETTINGS_SCHEME">
         <source></source>
         <translation>&amp;Colours</translation>
@@ -1926,6 +2006,14 @@
     <message id="TERMINAL_SOURCE_STALE">
         <source></source>
         <translation>Nothing new since %1</translation>
+    </message>
+    <message id="TERMINAL_STATUS_CONNECT">
+        <source></source>
+        <translation>Connect…</translation>
+    </message>
+    <message id="TERMINAL_STATUS_IMPORT">
+        <source></source>
+        <translation>Import…</translation>
     </message>
     <message id="TERMINAL_SYMBOL_BAR">
         <source></source>

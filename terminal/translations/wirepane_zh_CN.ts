@@ -1499,6 +1499,10 @@
         <source></source>
         <translation>标题</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_TODAY">
+        <source></source>
+        <translation>今天</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PREVIEW">
         <source></source>
         <translation>等待打印预览，尚缺 %1 则</translation>
@@ -1566,6 +1570,10 @@
     <message id="IDS_SINGLETON-STRING_FONTNAME">
         <source></source>
         <translation>Noto Sans Mono CJK SC</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_YESTERDAY">
+        <source></source>
+        <translation>昨天</translation>
     </message>
     <message id="TERMINAL_ACCEPT">
         <source></source>
@@ -1641,7 +1649,7 @@
     </message>
     <message id="TERMINAL_FEED_SAMPLE">
         <source></source>
-        <translation>示例新闻（内容均为虚构）– 按 Ctrl+O 导入您的新闻</translation>
+        <translation>示例新闻 – 内容均为虚构</translation>
     </message>
     <message id="TERMINAL_FLOAT_BUTTON">
         <source></source>
@@ -1670,6 +1678,14 @@
     <message id="TERMINAL_GUIDE_TITLE">
         <source></source>
         <translation>使用手册</translation>
+    </message>
+    <message id="TERMINAL_HEADLINE_COUNT">
+        <source></source>
+        <translation>%1 条新闻</translation>
+    </message>
+    <message id="TERMINAL_HOURS_AGO">
+        <source></source>
+        <translation>%1 小时前</translation>
     </message>
     <message id="TERMINAL_IMPORT_ALL_KINDS">
         <source></source>
@@ -1739,6 +1755,10 @@
         <source></source>
         <translation>繁體中文</translation>
     </message>
+    <message id="TERMINAL_LAST_HEADLINE">
+        <source></source>
+        <translation>最新一条 %1 · %2</translation>
+    </message>
     <message id="TERMINAL_LINK_GROUP">
         <source></source>
         <translation>组 &amp;%1</translation>
@@ -1771,6 +1791,10 @@
         <source></source>
         <translation>联动组(&amp;K)</translation>
     </message>
+    <message id="TERMINAL_MENU_NEWS">
+        <source></source>
+        <translation>新闻(&amp;N)</translation>
+    </message>
     <message id="TERMINAL_MENU_SCHEME">
         <source></source>
         <translation>配色(&amp;C)</translation>
@@ -1782,6 +1806,38 @@
     <message id="TERMINAL_MENU_VIEWS">
         <source></source>
         <translation>窗口(&amp;W)</translation>
+    </message>
+    <message id="TERMINAL_MINUTES_AGO">
+        <source></source>
+        <translation>%1 分钟前</translation>
+    </message>
+    <message id="TERMINAL_NEWS_DATE">
+        <source></source>
+        <translation>日期(&amp;D)…</translation>
+    </message>
+    <message id="TERMINAL_NEWS_LAYOUT">
+        <source></source>
+        <translation>更改布局(&amp;L)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_NEXT_PAGE">
+        <source></source>
+        <translation>下一页(&amp;N)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_OPEN_IN_WINDOW">
+        <source></source>
+        <translation>在窗口中打开(&amp;W)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_PREVIOUS_PAGE">
+        <source></source>
+        <translation>上一页(&amp;P)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_SEARCH">
+        <source></source>
+        <translation>搜索(&amp;S)…</translation>
+    </message>
+    <message id="TERMINAL_NEWS_SERVICES">
+        <source></source>
+        <translation>新闻来源(&amp;R)…</translation>
     </message>
     <message id="TERMINAL_NEW_SYMBOL_VIEW">
         <source></source>
@@ -1798,6 +1854,10 @@
     <message id="TERMINAL_NO_CHINESE_FONT">
         <source></source>
         <translation>未安装中文字体，中文会显示为方块。 No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
+    </message>
+    <message id="TERMINAL_PRESENT">
+        <source></source>
+        <translation>回到现在</translation>
     </message>
     <message id="TERMINAL_PREVIOUS_VIEW">
         <source></source>
@@ -1843,9 +1903,21 @@
         <source></source>
         <translation>重命名(&amp;R)…</translation>
     </message>
+    <message id="TERMINAL_RISING_GREEN">
+        <source></source>
+        <translation>绿色</translation>
+    </message>
+    <message id="TERMINAL_RISING_RED">
+        <source></source>
+        <translation>红色</translation>
+    </message>
     <message id="TERMINAL_SAVE_NEWS">
         <source></source>
         <translation>另存新闻(&amp;S)…</translation>
+    </message>
+    <message id="TERMINAL_SCHEME_CONTRAST">
+        <source></source>
+        <translation>高对比度(&amp;H)</translation>
     </message>
     <message id="TERMINAL_SCHEME_DARK">
         <source></source>
@@ -1855,9 +1927,13 @@
         <source></source>
         <translation>浅色(&amp;L)</translation>
     </message>
+    <message id="TERMINAL_SECONDS_AGO">
+        <source></source>
+        <translation>%1 秒前</translation>
+    </message>
     <message id="TERMINAL_SERVICES_COUNT">
         <source></source>
-        <translation>新闻来源：%1</translation>
+        <translation>新闻来源 %1/%2</translation>
     </message>
     <message id="TERMINAL_SETTINGS">
         <source></source>
@@ -1899,6 +1975,10 @@
         <source></source>
         <translation>更改后将重新打开您的窗口。</translation>
     </message>
+    <message id="TERMINAL_SETTINGS_RISING">
+        <source></source>
+        <translation>上涨颜色(&amp;R)</translation>
+    </message>
     <message id="TERMINAL_SETTINGS_SCHEME">
         <source></source>
         <translation>配色(&amp;C)</translation>
@@ -1926,6 +2006,14 @@
     <message id="TERMINAL_SOURCE_STALE">
         <source></source>
         <translation>无新消息（自 %1）</translation>
+    </message>
+    <message id="TERMINAL_STATUS_CONNECT">
+        <source></source>
+        <translation>连接…</translation>
+    </message>
+    <message id="TERMINAL_STATUS_IMPORT">
+        <source></source>
+        <translation>导入…</translation>
     </message>
     <message id="TERMINAL_SYMBOL_BAR">
         <source></source>

@@ -1499,6 +1499,10 @@
         <source></source>
         <translation>標題</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_TODAY">
+        <source></source>
+        <translation>今天</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_WAITING_TO_PREVIEW">
         <source></source>
         <translation>等待預覽列印，尚缺 %1 則</translation>
@@ -1566,6 +1570,10 @@
     <message id="IDS_SINGLETON-STRING_FONTNAME">
         <source></source>
         <translation>Noto Sans Mono CJK TC</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_YESTERDAY">
+        <source></source>
+        <translation>昨天</translation>
     </message>
     <message id="TERMINAL_ACCEPT">
         <source></source>
@@ -1641,7 +1649,7 @@
     </message>
     <message id="TERMINAL_FEED_SAMPLE">
         <source></source>
-        <translation>示範新聞（內容均為虛構）– 按 Ctrl+O 匯入您的新聞</translation>
+        <translation>示範新聞 – 內容均為虛構</translation>
     </message>
     <message id="TERMINAL_FLOAT_BUTTON">
         <source></source>
@@ -1670,6 +1678,14 @@
     <message id="TERMINAL_GUIDE_TITLE">
         <source></source>
         <translation>使用手冊</translation>
+    </message>
+    <message id="TERMINAL_HEADLINE_COUNT">
+        <source></source>
+        <translation>%1 則新聞</translation>
+    </message>
+    <message id="TERMINAL_HOURS_AGO">
+        <source></source>
+        <translation>%1 小時前</translation>
     </message>
     <message id="TERMINAL_IMPORT_ALL_KINDS">
         <source></source>
@@ -1739,6 +1755,10 @@
         <source></source>
         <translation>繁體中文</translation>
     </message>
+    <message id="TERMINAL_LAST_HEADLINE">
+        <source></source>
+        <translation>最新一則 %1 · %2</translation>
+    </message>
     <message id="TERMINAL_LINK_GROUP">
         <source></source>
         <translation>群組 &amp;%1</translation>
@@ -1771,6 +1791,10 @@
         <source></source>
         <translation>連動群組(&amp;K)</translation>
     </message>
+    <message id="TERMINAL_MENU_NEWS">
+        <source></source>
+        <translation>新聞(&amp;N)</translation>
+    </message>
     <message id="TERMINAL_MENU_SCHEME">
         <source></source>
         <translation>配色(&amp;C)</translation>
@@ -1782,6 +1806,38 @@
     <message id="TERMINAL_MENU_VIEWS">
         <source></source>
         <translation>視窗(&amp;W)</translation>
+    </message>
+    <message id="TERMINAL_MINUTES_AGO">
+        <source></source>
+        <translation>%1 分鐘前</translation>
+    </message>
+    <message id="TERMINAL_NEWS_DATE">
+        <source></source>
+        <translation>日期(&amp;D)…</translation>
+    </message>
+    <message id="TERMINAL_NEWS_LAYOUT">
+        <source></source>
+        <translation>變更版面(&amp;L)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_NEXT_PAGE">
+        <source></source>
+        <translation>下一頁(&amp;N)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_OPEN_IN_WINDOW">
+        <source></source>
+        <translation>在視窗中開啟(&amp;W)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_PREVIOUS_PAGE">
+        <source></source>
+        <translation>上一頁(&amp;P)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_SEARCH">
+        <source></source>
+        <translation>搜尋(&amp;S)…</translation>
+    </message>
+    <message id="TERMINAL_NEWS_SERVICES">
+        <source></source>
+        <translation>新聞來源(&amp;R)…</translation>
     </message>
     <message id="TERMINAL_NEW_SYMBOL_VIEW">
         <source></source>
@@ -1798,6 +1854,10 @@
     <message id="TERMINAL_NO_CHINESE_FONT">
         <source></source>
         <translation>未安裝中文字型，中文會顯示為方塊。 No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
+    </message>
+    <message id="TERMINAL_PRESENT">
+        <source></source>
+        <translation>回到現在</translation>
     </message>
     <message id="TERMINAL_PREVIOUS_VIEW">
         <source></source>
@@ -1843,9 +1903,21 @@
         <source></source>
         <translation>重新命名(&amp;R)…</translation>
     </message>
+    <message id="TERMINAL_RISING_GREEN">
+        <source></source>
+        <translation>綠色</translation>
+    </message>
+    <message id="TERMINAL_RISING_RED">
+        <source></source>
+        <translation>紅色</translation>
+    </message>
     <message id="TERMINAL_SAVE_NEWS">
         <source></source>
         <translation>另存新聞(&amp;S)…</translation>
+    </message>
+    <message id="TERMINAL_SCHEME_CONTRAST">
+        <source></source>
+        <translation>高對比(&amp;H)</translation>
     </message>
     <message id="TERMINAL_SCHEME_DARK">
         <source></source>
@@ -1855,9 +1927,13 @@
         <source></source>
         <translation>淺色(&amp;L)</translation>
     </message>
+    <message id="TERMINAL_SECONDS_AGO">
+        <source></source>
+        <translation>%1 秒前</translation>
+    </message>
     <message id="TERMINAL_SERVICES_COUNT">
         <source></source>
-        <translation>新聞來源：%1</translation>
+        <translation>新聞來源 %1/%2</translation>
     </message>
     <message id="TERMINAL_SETTINGS">
         <source></source>
@@ -1899,6 +1975,10 @@
         <source></source>
         <translation>變更後會重新開啟您的視窗。</translation>
     </message>
+    <message id="TERMINAL_SETTINGS_RISING">
+        <source></source>
+        <translation>上漲顏色(&amp;R)</translation>
+    </message>
     <message id="TERMINAL_SETTINGS_SCHEME">
         <source></source>
         <translation>配色(&amp;C)</translation>
@@ -1926,6 +2006,14 @@
     <message id="TERMINAL_SOURCE_STALE">
         <source></source>
         <translation>無新消息（自 %1）</translation>
+    </message>
+    <message id="TERMINAL_STATUS_CONNECT">
+        <source></source>
+        <translation>連線…</translation>
+    </message>
+    <message id="TERMINAL_STATUS_IMPORT">
+        <source></source>
+        <translation>匯入…</translation>
     </message>
     <message id="TERMINAL_SYMBOL_BAR">
         <source></source>

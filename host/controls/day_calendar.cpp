@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/day_calendar.h"
+
+#include "host/contract/colour_roles.h"
+#include "host/controls/line_icon.h"
+
+#include <QBoxLayout>
+#include <QEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QTextCharFormat>
+#include <QToolButton>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr qreal corner = 4;
+constexpr qreal dotRadius = 1.5;
+constexpr qreal dotAbove = 4;  // the middle of the dot above the lower edge
+
+}  // namespace
+
+DayCalendar::DayCalendar(QWidget* parent)
+    : QCalendarWidget(parent), buttons(new QWidget(this)), row(new QHBoxLayout(buttons)) {
+    setVerticalHeaderFormat(NoVerticalHeader);
+    row->setContentsMargins(8, 6, 8, 8);
+    row->addStretch(1);
+    buttons->hide();
+    if (auto* column = qobject_cast<QBoxLayout*>(layout()))
+        column->addWidget(buttons);
+    dress();
+}
+
+void DayCalendar::setDayStates(std::function<DayState(const QDate&)> states) {
+    stateOf = std::move(states);
+    updateCells();
+}
+
+void DayCalendar::addDayButton(const QString& text, std::function<QDate()> day) {
+    auto* button = new QPushButton(text, buttons);
+    button->setAutoDefault(false);
+    row->insertWidget(row->count() - 1, button);
+    buttons->show();
+    connect(button, &QPushButton::clicked, this, [this, pick = std::move(day)] {
+        setSelectedDate(pick());
+        emit activated(selectedDate());
+    });
+}
+
+void DayCalendar::clearDayButtons() {
+    const auto present = buttons->findChildren<QPushButton*>();
+    for (QPushButton* button : present)
+        delete button;
+}
+
+// Weekends are days as all others, and the bar above them is no selection.
+void DayCalendar::dress() {
+    QTextCharFormat plain;
+    plain.setForeground(palette().color(QPalette::Text));
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
+        setWeekdayTextFormat(day, plain);
+    QTextCharFormat heading;
+    heading.setForeground(palette().color(QPalette::PlaceholderText));
+    heading.setBackground(palette().color(QPalette::Window));
+    setHeaderTextFormat(heading);
+    if (auto* bar = findChild<QWidget*>(u"qt_calendar_navigationbar"_s))
+        bar->setBackgroundRole(QPalette::Window);
+    for (const auto& [name, icon] : {std::pair(u"qt_calendar_prevmonth"_s, LineIcon::Left),
+                                     std::pair(u"qt_calendar_nextmonth"_s, LineIcon::Right)}) {
+        if (auto* step = findChild<QToolButton*>(name))
+            step->setIcon(lineIcon(icon));
+    }
+}
+
+void DayCalendar::changeEvent(QEvent* event) {
+    QCalendarWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && row != nullptr)
+        dress();
+}
+
+void DayCalendar::paintCell(QPainter* painter, const QRect& place, QDate date) const {
+    const DayState state = stateOf ? stateOf(date) : DayState();
+    const bool isSelected = date == selectedDate();
+    const bool isOtherMonth = date.month() != monthShown() || date.year() != yearShown();
+    const QPalette colours = palette();
+    QColor text = colours.color(isOtherMonth ? QPalette::PlaceholderText : QPalette::Text);
+    painter->save();
+    painter->fillRect(place, colours.color(QPalette::Window));
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    if (isSelected) {
+        text = roleColour(ColourRole::OnAccent, colours.color(QPalette::HighlightedText));
+        painter->setBrush(roleColour(ColourRole::Accent, colours.color(QPalette::Highlight)));
+        painter->drawRoundedRect(QRectF(place).adjusted(2, 1, -2, -1), corner, corner);
+    } else if (state.isOutOfRange || date < minimumDate() || date > maximumDate()) {
+        text = colours.color(QPalette::Disabled, QPalette::Text);
+    }
+    if (state.hasNews) {
+        painter->setBrush(text);
+        painter->drawEllipse(QPointF(QRectF(place).center().x(), place.bottom() + 1 - dotAbove), dotRadius,
+                             dotRadius);
+    }
+    painter->setPen(text);
+    painter->drawText(place.adjusted(0, 0, 0, -static_cast<int>(dotAbove)), Qt::AlignCenter,
+                      QString::number(date.day()));
+    painter->restore();
+}
+
+}  // namespace wirepane

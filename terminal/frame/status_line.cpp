@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/frame/status_line.h"
+
+#include "host/contract/colour_roles.h"
+#include "terminal/translations/terminal_text.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QTimeZone>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int minute = 60;
+constexpr int hour = 60 * minute;
+constexpr qreal fontShare = 0.9;  // of the controls' size
+
+QString link(const QString& name, TextId text) {
+    const QColor colour = QApplication::palette().color(QPalette::Link);
+    return u"<a href='%1' style='color:%2; text-decoration:none'>%3</a>"_s.arg(
+        name, colour.name(), terminalText(text).toHtmlEscaped());
+}
+
+QString ageText(std::int64_t seconds) {
+    if (seconds < minute)
+        return terminalText(TextId::SecondsAgo).arg(seconds);
+    if (seconds < hour)
+        return terminalText(TextId::MinutesAgo).arg(seconds / minute);
+    return terminalText(TextId::HoursAgo).arg(seconds / hour);
+}
+
+QString lastText(const FrameStatus& status) {
+    if (status.lastHeadline == 0)
+        return {};
+    const QString time = QDateTime::fromSecsSinceEpoch(status.lastHeadline).toString(u"HH:mm:ss"_s);
+    return terminalText(TextId::LastHeadline)
+        .arg(time, ageText(std::max<std::int64_t>(0, status.now - status.lastHeadline)));
+}
+
+// With the place that the zone is named after, or in languages that write it otherwise its distance from UTC.
+QString clockText(std::int64_t now) {
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(now);
+    const QString zone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
+    QString place = zone.mid(zone.lastIndexOf(u'/') + 1).replace(u'_', u' ');
+    if (QLocale().language() != QLocale::English)
+        place = time.toOffsetFromUtc(time.offsetFromUtc()).toString(u"t"_s).remove(u"UTC"_s);
+    return u"%1 %2"_s.arg(time.toString(u"HH:mm:ss"_s), place).trimmed();
+}
+
+void showColoured(QLabel* label, const QString& text, ColourRole role) {
+    QPalette colours;
+    colours.setColor(QPalette::WindowText,
+                     roleColour(role, QApplication::palette().color(QPalette::WindowText)));
+    label->setPalette(colours);
+    label->setText(text);
+}
+
+void showText(QLabel* label, const QString& text) {
+    label->setText(text);
+    label->setVisible(!text.isEmpty());
+}
+
+}  // namespace
+
+StatusLine::StatusLine(QWidget* parent)
+    : QWidget(parent),
+      feed(addLabel()),
+      actions(addLabel()),
+      last(addLabel()),
+      asOf(addLabel()),
+      present(new QPushButton(this)),
+      headlines(addLabel()),
+      services(addLabel()),
+      clock(addLabel()) {
+    actions->setTextFormat(Qt::RichText);
+    for (QLabel* weak : {last, headlines, services, clock})
+        weak->setForegroundRole(QPalette::PlaceholderText);
+    actions->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    present->setAutoDefault(false);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(8, 0, 8, 0);
+    row->setSpacing(12);
+    for (QWidget* part : std::initializer_list<QWidget*>{feed, actions, last, asOf, present})
+        row->addWidget(part);
+    row->addStretch(1);
+    for (QWidget* part : {headlines, services, clock})
+        row->addWidget(part);
+    connect(actions, &QLabel::linkActivated, this,
+            [this](const QString& name) { name == "import"_L1 ? emit importAsked() : emit connectAsked(); });
+    connect(present, &QPushButton::clicked, this, &StatusLine::presentAsked);
+}
+
+QLabel* StatusLine::addLabel() {
+    auto* label = new QLabel(this);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+// A little smaller than what is read.
+void StatusLine::fitFont() {
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * fontShare);
+    if (this->font() != font)
+        setFont(font);
+}
+
+void StatusLine::show(const FrameStatus& status) {
+    fitFont();
+    const ColourRole tone = status.isLive && !status.isInvented ? ColourRole::Good : ColourRole::Warning;
+    showColoured(feed, u"●  "_s + status.feed, tone);
+    QStringList tips = status.feedTip.split(u'\n', Qt::SkipEmptyParts);
+    tips.append(QDir::toNativeSeparators(status.storeFile));
+    feed->setToolTip(tips.join(u'\n').toHtmlEscaped().replace(u'\n', u"<br>"_s));
+    showText(actions, status.isInvented ? link(u"import"_s, TextId::StatusImport) + u"&nbsp;&nbsp;&nbsp;"_s +
+                                              link(u"connect"_s, TextId::StatusConnect)
+                                        : QString());
+    showText(last, status.isInvented ? QString() : lastText(status));
+    showColoured(asOf, status.asOf.isEmpty() ? QString() : terminalText(TextId::AsOf).arg(status.asOf),
+                 ColourRole::Warning);
+    asOf->setVisible(!status.asOf.isEmpty());
+    present->setText(terminalText(TextId::Present));
+    present->setVisible(!status.asOf.isEmpty());
+    const QLocale figures(QLocale::English);
+    showText(headlines, status.headlines < 0
+                            ? QString()
+                            : terminalText(TextId::HeadlineCount).arg(figures.toString(status.headlines)));
+    showText(services, terminalText(TextId::ServicesCount).arg(status.services).arg(status.allServices));
+    clock->setText(clockText(status.now));
+}
+
+}  // namespace wirepane

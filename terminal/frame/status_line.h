@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+#include <cstdint>
+
+class QLabel;
+class QPushButton;
+
+namespace wirepane {
+
+// What the status bar says.
+struct FrameStatus {
+    QString feed;     // how the terminal stands to its sources of news
+    QString feedTip;  // how its sources stand, in lines
+    bool isLive = true;
+    bool isInvented = false;        // the news is that of the sample wire
+    std::int64_t lastHeadline = 0;  // its time; 0: none has come yet
+    std::int64_t now = 0;
+    QString storeFile;
+    int services = 0;  // that are ticked, of those that there are
+    int allServices = 0;
+    int headlines = -1;  // of the list on show; -1: there is none
+    QString asOf;        // empty: the present moment is the machine's
+};
+
+// The contents of the status bar: what one reads at its left, what one can do about it, and at its right the
+// counts and the clock.
+class StatusLine : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit StatusLine(QWidget* parent = nullptr);
+
+    void show(const FrameStatus& status);
+
+signals:
+    void importAsked();
+    void connectAsked();
+    void presentAsked();
+
+private:
+    QLabel* addLabel();
+    void fitFont();
+
+    QLabel* feed;
+    QLabel* actions;
+    QLabel* last;
+    QLabel* asOf;
+    QPushButton* present;
+    QLabel* headlines;
+    QLabel* services;
+    QLabel* clock;
+};
+
+}  // namespace wirepane

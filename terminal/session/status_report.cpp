@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/session/status_report.h"
+
+#include "backend/feed/live_feed.h"
+#include "backend/store/embedded_back_end.h"
+#include "host/contract/clock.h"
+#include "host/contract/fixed_services.h"
+#include "host/controls/super_sheet_wnd.h"
+#include "terminal/frame/workspace.h"
+#include "terminal/translations/shown_text.h"
+#include "terminal/translations/terminal_text.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int sameMomentSeconds = 60;  // a clock that is no further off counts as the machine's
+
+QString feedText(const FeedState& state) {
+    if (state.kind == FeedState::Reconnecting)
+        return terminalText(TextId::FeedReconnecting);
+    if (state.kind == FeedState::OnlyRead)
+        return terminalText(TextId::FeedOnlyRead);
+    if (state.kind == FeedState::Offline)
+        return terminalText(TextId::OfflineSince)
+            .arg(QDateTime::fromSecsSinceEpoch(state.since).toString(u"HH:mm"_s));
+    return state.late > 0 ? terminalText(TextId::FeedLate).arg(state.late) : terminalText(TextId::FeedLive);
+}
+
+QString sourceText(const SourceState& state) {
+    const QString since = QDateTime::fromSecsSinceEpoch(state.since).toString(u"HH:mm"_s);
+    switch (state.kind) {
+        case SourceState::Connecting:
+            return terminalText(TextId::SourceConnecting);
+        case SourceState::Live:
+            return terminalText(TextId::FeedLive);
+        case SourceState::Stale:
+            return terminalText(TextId::SourceStale).arg(since);
+        case SourceState::Offline:
+            return terminalText(TextId::OfflineSince).arg(since);
+        case SourceState::Failed:
+            break;
+    }
+    return terminalText(TextId::SourceFailed).arg(since, state.reason ? shownText(*state.reason) : QString());
+}
+
+// What stands in the way of the feed, then how its sources stand, a line each.
+QString feedTip(const LiveFeed& feed) {
+    QStringList lines;
+    if (const auto trouble = feed.state().trouble)
+        lines += shownText(*trouble);
+    for (const SourceReport& source : feed.sources())
+        lines += u"%1: %2"_s.arg(source.name, sourceText(source.state));
+    return lines.join(u'\n');
+}
+
+// The rows of the list on show; -1: there is none.
+int rowsOf(const NewsViewAccess& access, const QVariantMap& state) {
+    const CSuperSheetWnd* sheet = access.sheetOf(state.value(u"mode"_s).toInt());
+    return sheet != nullptr ? sheet->model()->rowCount() : -1;
+}
+
+int tickedServices(const QVariantMap& state) {
+    const QVariantList services = state.value(u"services"_s).toList();
+    return static_cast<int>(std::count_if(services.begin(), services.end(), [](const QVariant& service) {
+        const QVariantMap entry = service.toMap();
+        return entry.value(u"id"_s).toInt() != warrantService && entry.value(u"selected"_s).toBool();
+    }));
+}
+
+}  // namespace
+
+QString asOfText() {
+    const std::int64_t now = host_clock::now();
+    if (std::abs(now - QDateTime::currentSecsSinceEpoch()) < sameMomentSeconds)
+        return {};
+    return QDateTime::fromSecsSinceEpoch(now).toString(u"yyyy/MM/dd HH:mm"_s);
+}
+
+StatusReport::StatusReport(EmbeddedBackEnd& embedded, const LiveFeed& liveFeed, Workspace& openViews)
+    : backEnd(embedded), feed(liveFeed), workspace(openViews) {
+    backEnd.attach(this);
+}
+
+StatusReport::~StatusReport() {
+    backEnd.detach(this);
+}
+
+void StatusReport::RecvNewHeadLine(const CHeadline* headline, const QString&, const QString&) {
+    if (headline != nullptr)
+        lastHeadline = std::max(lastHeadline, headline->time);
+}
+
+FrameStatus StatusReport::now(const QString& storeFile, bool isSampleFollowed) const {
+    std::vector<unsigned char> services;
+    backEnd.BKQNEWS_bGetAllNewsService(services);
+    // Those that the service menu has: the warrants have a list of their own.
+    std::erase(services, warrantService);
+    const FeedState state = feed.state();
+    FrameStatus status;
+    status.isLive = state.kind == FeedState::Live;
+    // The green light is for real news.
+    status.isInvented = isSampleFollowed && status.isLive;
+    status.feed = status.isInvented ? terminalText(TextId::FeedSample) : feedText(state);
+    status.feedTip = feedTip(feed);
+    status.lastHeadline = lastHeadline;
+    status.now = host_clock::now();
+    status.storeFile = storeFile;
+    status.allServices = static_cast<int>(services.size());
+    status.services = status.allServices;
+    status.asOf = asOfText();
+    if (const OpenView* active = workspace.active()) {
+        const QVariantMap view = active->access->state();
+        status.services = tickedServices(view);
+        status.headlines = rowsOf(*active->access, view);
+    }
+    return status;
+}
+
+}  // namespace wirepane

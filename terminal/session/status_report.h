@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/news_receiver.h"
+#include "terminal/frame/status_line.h"
+
+namespace wirepane {
+class EmbeddedBackEnd;
+class LiveFeed;
+class Workspace;
+
+// The present moment, where it is not the machine's; else empty.
+QString asOfText();
+
+// Gathers what the status bar says.
+class StatusReport : public NewsReceiver {
+public:
+    // None is owned; all outlive this.
+    StatusReport(EmbeddedBackEnd& backEnd, const LiveFeed& feed, Workspace& workspace);
+    ~StatusReport() override;
+    StatusReport(const StatusReport&) = delete;
+    StatusReport& operator=(const StatusReport&) = delete;
+
+    FrameStatus now(const QString& storeFile, bool isSampleFollowed) const;
+
+    void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
+                         const QString& symbolCode) override;
+
+private:
+    EmbeddedBackEnd& backEnd;
+    const LiveFeed& feed;
+    Workspace& workspace;
+    std::int64_t lastHeadline = 0;
+};
+
+}  // namespace wirepane
