@@ -68,6 +68,9 @@ void TRVNewsCtrlView::vChangeCast() {
         if (CSuperSheetWnd* grid = parts->listOf(kind.index).grid()) {
             applyHostScheme(*grid, GetViewFont());
             parts->listOf(kind.index).setOptions(parts->settings.options);
+            // Colours of topics are those of the scheme in which their cells were written.
+            parts->listOf(kind.index).forgetWrittenCells();
+            parts->listOf(kind.index).vFillHeadline();
         }
     }
     if (NewsStoryView* pane = parts->stage.storyPane())
