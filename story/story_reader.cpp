@@ -147,13 +147,14 @@ StoryHead StoryReader::headOf(const CHeadlineTable& entry, const CHeadline& head
     StoryHead head;
     head.headline = shownText(backEnd, headline.service, headline.title).simplified();
     backEnd.BKQNEWS_bGetShortNameByService(head.source, headline.service);
-    head.topic = source->topicOf(headline.service, headline.categoryId);
+    head.topic = shownText(backEnd, headline.service, source->topicOf(headline.service, headline.categoryId));
     head.time = datedText(headline.time, {}).trimmed();
     CNewsSymLst related;
     backEnd.BKNEWS_GetSymbolListBySeqNo(related, entry);
     for (const CSymbolInfo& symbol : related.symbols) {
         const CSymbolInfo known = inItsMarket(backEnd, symbol);
-        head.symbols.push_back({known, symbolName(backEnd, known).value_or(QString())});
+        const QString name = symbolName(backEnd, known).value_or(QString());
+        head.symbols.push_back({known, shownText(backEnd, headline.service, name)});
     }
     return head;
 }
