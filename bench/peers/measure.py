@@ -137,7 +137,10 @@ class Wirepane(Reader):
     def looking(self):
         figures = {}
         for step, word in (('rare', make_feed.RARE), ('common', make_feed.COMMON)):
-            figures[step] = told(run(self.command('search', '--limit', '20', word), self.patience))
+            command = self.command('search', '--limit', '20', word)
+            figures[step] = told(run(command, self.patience))
+            if not subprocess.run(command, capture_output=True, check=True).stdout:
+                raise RuntimeError('nothing is found')
         begin = time.monotonic()
         program = subprocess.Popen(
             self.command('--automation', '--config', str(self.home / 'settings'), '--now', '2026-03-02T09:00:00Z'),
@@ -272,13 +275,17 @@ class Liferea(Reader):
         raise RuntimeError('liferea does not start')
 
     @staticmethod
-    def end(session):
+    def end(session, process):
+        """With what it has started, which is of its group; it may take its time."""
         os.killpg(session.pid, signal.SIGTERM)
+        begin = time.monotonic()
+        while Path('/proc/%d' % process).exists() and time.monotonic() - begin < 30:
+            time.sleep(0.1)
         try:
-            session.wait(30)
-        except subprocess.TimeoutExpired:
             os.killpg(session.pid, signal.SIGKILL)
-            session.wait()
+        except ProcessLookupError:
+            pass
+        session.wait()
 
     def wait_for(self, isThere, begin):
         while not isThere():
@@ -303,8 +310,8 @@ class Liferea(Reader):
         figures = {}
         self.put(0)
         session = self.begin()
+        process = self.process_of(session)
         try:
-            process = self.process_of(session)
             window = self.window_of(process, time.monotonic())
             for number, step in ((0, 'import'), (1, 'more')):
                 self.put(number)
@@ -323,17 +330,17 @@ class Liferea(Reader):
                     figures['memory'] = megabytes(status_of(process, 'VmHWM'))
             return figures
         finally:
-            self.end(session)
+            self.end(session, process)
 
     def looking(self):
         begin = time.monotonic()
         session = self.begin()
+        process = self.process_of(session)
         try:
-            process = self.process_of(session)
             self.window_of(process, begin)
             return {'start': '%s (%s)' % (seconds(time.monotonic() - begin), seconds(processor_of(process)))}
         finally:
-            self.end(session)
+            self.end(session, process)
 
 
 READERS = {'wirepane': Wirepane, 'newsboat': Newsboat, 'liferea': Liferea}
