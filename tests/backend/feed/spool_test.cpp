@@ -111,6 +111,10 @@ TEST_F(SpoolTest, WhatIsBeingWrittenIsNotTaken) {
     EXPECT_TRUE(QFileInfo(path(u"folder.jsonl"_s)).isDir());
 
     // Where the system does not tell, a file must have been quiet.
+    put(u"slow.jsonl"_s, "?");
+    this->open({std::chrono::hours(1), 100'000, {}});
+    for (const char* look : {"first seen", "seen for a moment"})
+        EXPECT_FALSE(spool->hasBatch()) << look;
     this->open({std::chrono::milliseconds(150), 100'000, {}});
     put(u"slow.jsonl"_s, record(u"s"_s, u"Half"_s).left(20));
     EXPECT_FALSE(spool->hasBatch());
