@@ -59,6 +59,15 @@ void DayCalendar::clearDayButtons() {
         delete button;
 }
 
+// The base knows nothing of the buttons, which would take the room of the last weeks.
+QSize DayCalendar::minimumSizeHint() const {
+    QSize size = QCalendarWidget::minimumSizeHint();
+    if (!buttons->isHidden())
+        size = QSize(qMax(size.width(), buttons->sizeHint().width()),
+                     size.height() + buttons->sizeHint().height());
+    return size;
+}
+
 // Weekends are days as all others, and the bar above them is no selection.
 void DayCalendar::dress() {
     QTextCharFormat plain;

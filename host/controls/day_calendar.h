@@ -15,8 +15,8 @@ class QPushButton;
 
 namespace wirepane {
 
-// A calendar in the colours of the scheme, which marks days that have news with a dot, greys those that cannot
-// be picked, and goes to single days by buttons below it.
+// A calendar in the colours of the scheme, which marks days that have news with a dot, greys those that
+// cannot be picked, and goes to single days by buttons below it.
 class WIREPANE_HOST_EXPORT DayCalendar : public QCalendarWidget {
     Q_OBJECT
 
@@ -35,6 +35,8 @@ public:
     void addDayButton(const QString& text, std::function<QDate()> day);
     // Takes the buttons away again.
     void clearDayButtons();
+
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintCell(QPainter* painter, const QRect& place, QDate date) const override;

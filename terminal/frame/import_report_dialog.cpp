@@ -3,6 +3,7 @@
 #include "terminal/frame/import_report_dialog.h"
 
 #include "backend/error.h"
+#include "host/controls/line_icon.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QDialogButtonBox>
@@ -11,7 +12,6 @@
 #include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QStyle>
 #include <QVBoxLayout>
 
 namespace wirepane {
@@ -19,15 +19,14 @@ namespace wirepane {
 namespace {
 
 constexpr int widthInCharacters = 76;
+constexpr int signSize = 24;
 constexpr int fewestLines = 3;
 constexpr int mostLines = 12;  // more are scrolled
 
-QLayout* headlineRow(const QString& headline, const QStyle& style, bool warns) {
-    const int size = style.pixelMetric(QStyle::PM_LargeIconSize);
+QLayout* headlineRow(const QString& headline, bool warns) {
     auto* sign = new QLabel;
     sign->setPixmap(
-        style.standardIcon(warns ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation)
-            .pixmap(size));
+        lineIcon(warns ? LineIcon::Warning : LineIcon::Check, QPalette::WindowText).pixmap(signSize));
     auto* text = new QLabel(headline);
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
@@ -60,7 +59,7 @@ ImportReportDialog::ImportReportDialog(const QString& headline, const QString& d
     buttons->button(QDialogButtonBox::Ok)->setText(terminalText(TextId::Accept));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);
-    column->addLayout(headlineRow(headline, *style(), warns));
+    column->addLayout(headlineRow(headline, warns));
     if (!details.isEmpty())
         column->addWidget(detailsText(details, headline), 1);
     column->addWidget(buttons);
