@@ -57,6 +57,12 @@ TEST_F(SheetLook, HeightsAreExactAndGrowForTallFonts) {
     EXPECT_EQ(sheet->rowHeight(2), 16);
     EXPECT_EQ(sheet->horizontalHeader()->height(), 16);
     EXPECT_EQ(sheet->viewport()->height(), 300 - 16 - 2 * sheet->frameWidth());
+    sheet->setHeaderRowHeight(20);
+    sheet->setHeightOfRows(24);
+    EXPECT_EQ(sheet->rowHeight(2), 24);
+    EXPECT_EQ(sheet->horizontalHeader()->height(), 20);
+    sheet->setHeaderRowHeight(16);
+    sheet->setHeightOfRows(16);
     font.setPixelSize(30);
     sheet->vSetFont(font);
     const int tall = QFontMetrics(font).height() + 2;

@@ -117,6 +117,14 @@ TEST_F(SheetRows, SelectionIsAscendingHoweverItWasMade) {
     EXPECT_EQ(selection(), std::vector<int>{5});
     sheet->deselectRows();
     EXPECT_TRUE(selection().empty());
+    const auto add = [this](int top, int bottom, int column) {
+        const QItemSelection more(sheet->model()->index(top, column), sheet->model()->index(bottom, column));
+        sheet->selectionModel()->select(more, QItemSelectionModel::Select);
+    };
+    add(2, 4, 1);
+    add(1, 3, 0);
+    EXPECT_EQ(selection(), (std::vector<int>{1, 2, 3, 4})) << "each once";
+    sheet->deselectRows();
     EXPECT_EQ(sheet->cptGetFocusNdx(), QPoint(-1, -1));
 }
 
