@@ -148,6 +148,15 @@ inline constexpr QLatin1StringView storyRemark{"IDS_NEWSCTRLVIEW_STRING_PS"};
 inline constexpr QLatin1StringView noStory{"IDS_NEWSCTRLVIEW_STRING_NO_NEWS_STORY"};
 inline constexpr QLatin1StringView waitForUpdate{"IDS_NEWSCTRLVIEW_STRING_WAIT_FOR_UPDATE"};
 
+// What can be done in a story, and in its window. "%1": what is selected.
+inline constexpr QLatin1StringView storyCopy{"IDS_NEWSCTRLVIEW_STORY_COPY"};
+inline constexpr QLatin1StringView storySelectAll{"IDS_NEWSCTRLVIEW_STORY_SELECT_ALL"};
+inline constexpr QLatin1StringView storyInWindow{"IDS_NEWSCTRLVIEW_STORY_IN_WINDOW"};
+inline constexpr QLatin1StringView storySearch{"IDS_NEWSCTRLVIEW_STORY_SEARCH"};
+inline constexpr QLatin1StringView storySmaller{"IDS_NEWSCTRLVIEW_STORY_SMALLER"};
+inline constexpr QLatin1StringView storyLarger{"IDS_NEWSCTRLVIEW_STORY_LARGER"};
+inline constexpr QLatin1StringView storyPin{"IDS_NEWSCTRLVIEW_STORY_PIN"};
+
 // The term to be replaced after conversion to simplified characters, and what replaces it. Spelled so.
 inline constexpr QLatin1StringView replaceNews{"IDS_NEWSCTRLVIEW_STRING_REPLASE_NEWS"};
 inline constexpr QLatin1StringView replaceMessage{"IDS_NEWSCTRLVIEW_STRING_REPLASE_MESSAGE"};

@@ -51,7 +51,7 @@ void StoryDisplay::show() {
     }
     grid->vAutoVerScrolling(focused);
     if (hasStoryWindow()) {
-        around.stage.storyDialog()->vSetStoryData(static_cast<int>(list), focused, around.foundUnder(list));
+        around.stage.dialogForNext()->vSetStoryData(static_cast<int>(list), focused, around.foundUnder(list));
         around.stage.showDialog();
     }
     if (!paneShowsStories() || focused == row)
@@ -61,6 +61,17 @@ void StoryDisplay::show() {
     pane->vSetFont(around.font());
     pane->vSetStoryData(static_cast<int>(list), row, around.foundUnder(list));
     listRelatedSymbols();
+}
+
+void StoryDisplay::openWindow() {
+    const NewsStoryView* pane = around.stage.storyPane();
+    TRVNewsStory* window = around.stage.dialogForNext();
+    if (pane == nullptr || window == nullptr || !pane->headlinePointedAt())
+        return;
+    const ListIndex list = view.shownList();
+    window->vSetStoryData(static_cast<int>(list), pane->GetHeadLinePos(), around.foundUnder(list));
+    around.stage.showDialog();
+    window->activateWindow();
 }
 
 void StoryDisplay::clear() {
@@ -159,15 +170,19 @@ void StoryDisplay::keepThrough(ListIndex list, const HeadlinePlace& place) {
 void StoryDisplay::takeHeadlines(const std::vector<CHeadlineTable>& entries) {
     if (paneShowsStories())
         around.stage.storyPane()->RespHeadLine(entries);
-    if (TRVNewsStory* window = windowOnShow())
-        window->RespHeadLine(entries);
+    for (TRVNewsStory* window : around.stage.windows()) {
+        if (window->isVisible())
+            window->RespHeadLine(entries);
+    }
 }
 
 void StoryDisplay::takeStory(const CHeadlineTable& entry) {
     if (paneShowsStories())
         around.stage.storyPane()->RespStory(entry);
-    if (TRVNewsStory* window = windowOnShow())
-        window->RespStory(entry);
+    for (TRVNewsStory* window : around.stage.windows()) {
+        if (window->isVisible())
+            window->RespStory(entry);
+    }
 }
 
 void StoryDisplay::takeUpdate(const CHeadlineTable& entry) {

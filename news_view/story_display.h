@@ -50,7 +50,6 @@ public:
     bool hasStoryWindow() const;
     // The story window while it is the view's story display and to be seen; null: it is not.
     TRVNewsStory* windowOnShow() const;
-
     // Whether `show` opens no window: stories are in the pane, or their window is open.
     bool hasOpenStory() const { return paneShowsStories() || windowOnShow() != nullptr; }
 
@@ -62,13 +61,15 @@ public:
     // Shows the story of the shown list's focused row, unless the pane shows that row's already; without a
     // focused row the story goes.
     void show();
+    // Shows the pane's story in a window, too.
+    void openWindow();
     // The story of a list's new current row is shown in the pane, when the reader went there: not where the
     // current row went because its own has left, nor within `readInPlace`.
     void follow(const CSuperSheetWnd& grid, ListIndex list);
     // A row has been clicked: its story is shown in the pane; where stories are in their window, the view
     // goes to the row. False in views without a pane, for which a click is nothing.
     bool takeClick();
-    // The same for a double click, which opens the window.
+    // A double click opens the window.
     void takeDoubleClick();
     // Shows the next, the previous story of the shown list in the pane, round and round; the selection
     // follows.

@@ -19,7 +19,12 @@ constexpr int ordinaryWindow = 1;  // the host's pop-up position setting
 }
 
 StoryStage::~StoryStage() {
-    delete dialog;
+    deleteWindows();
+}
+
+void StoryStage::deleteWindows() {
+    for (TRVNewsStory* window : windows())
+        delete window;
 }
 
 void StoryStage::setPane(NewsStoryView* storyPane) {
@@ -51,6 +56,26 @@ void StoryStage::setDialog(TRVNewsStory* storyDialog) {
 
 TRVNewsStory* StoryStage::storyDialog() const {
     return dialog;
+}
+
+TRVNewsStory* StoryStage::dialogForNext() {
+    if (dialog == nullptr || !dialog->isPinned() || !dialog->isVisible() || !maker)
+        return dialog;
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    pinned.push_back(dialog);
+    dialog = maker();
+    return dialog;
+}
+
+std::vector<TRVNewsStory*> StoryStage::windows() const {
+    std::vector<TRVNewsStory*> result;
+    if (dialog != nullptr)
+        result.push_back(dialog);
+    for (const QPointer<TRVNewsStory>& window : pinned) {
+        if (window != nullptr)
+            result.push_back(window);
+    }
+    return result;
 }
 
 QWidget* StoryStage::dialogOnShow() const {
@@ -95,7 +120,7 @@ bool StoryStage::canShow() const {
 }
 
 void StoryStage::hideDialog() {
-    if (dialog != nullptr)
+    if (dialog != nullptr && !dialog->hasTools())
         dialog->hide();
 }
 

@@ -4,6 +4,9 @@
 
 #include <QPointer>
 
+#include <functional>
+#include <vector>
+
 class CNewsRelateSymbolQuoteView;
 class NewsStoryView;
 class QRect;
@@ -30,6 +33,13 @@ public:
     // The dialog belongs to the stage from here on.
     void setDialog(TRVNewsStory* dialog);
     TRVNewsStory* storyDialog() const;
+    // Makes another dialog where one is pinned; absent: there is one for good.
+    void setDialogMaker(std::function<TRVNewsStory*()> makesDialog) { maker = std::move(makesDialog); }
+    // The dialog that the next story is to be shown in: the one there is, unless it is pinned.
+    TRVNewsStory* dialogForNext();
+    // The dialog and those that are pinned; what the user closes of them goes.
+    std::vector<TRVNewsStory*> windows() const;
+    void deleteWindows();
     // The dialog while it is to be seen; null: it is not.
     QWidget* dialogOnShow() const;
     bool canShow() const;
@@ -44,6 +54,7 @@ public:
     QWidget* paneText() const;
     QWidget* quotesGrid() const;
 
+    // One with tools stays: the user closes it.
     void hideDialog();
 
     // False when the host wants the dialog as an ordinary window.
@@ -63,6 +74,8 @@ private:
     QPointer<NewsStoryView> pane;
     QPointer<CNewsRelateSymbolQuoteView> quotes;
     QPointer<TRVNewsStory> dialog;
+    std::vector<QPointer<TRVNewsStory>> pinned;
+    std::function<TRVNewsStory*()> maker;
 };
 
 }  // namespace wirepane

@@ -80,8 +80,9 @@ void TRVNewsCtrlView::vChangeCast() {
     if (parts->initialised)
         vSetComponentPos();
     update();
-    if (TRVNewsStory* dialog = parts->stage.storyDialog())
-        dialog->vSetFont(GetViewFont());
+    for (TRVNewsStory* window : parts->stage.windows())
+        window->vSetFont(GetViewFont());
+    parts->storyInput.applySetting();
 }
 
 void TRVNewsCtrlView::changeEvent(QEvent* event) {
@@ -94,8 +95,8 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     parts->standingSearches.loadHints();
     parts->categories.learnCombo();
     parts->symbolMode.nameMarkets();
-    if (TRVNewsStory* dialog = parts->stage.storyDialog())
-        dialog->vLoadLanguageString();
+    for (TRVNewsStory* window : parts->stage.windows())
+        window->vLoadLanguageString();
     for (int list = 0; list < listCount; ++list) {
         if (CSuperSheetWnd* sheet = sheetOf(list)) {
             setHeadlineSheetTexts(*sheet, parts->newsType, parts->backEnd);

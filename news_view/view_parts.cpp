@@ -6,11 +6,13 @@
 #include "headline_list/cell_texts.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
+#include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/s_button.h"
+#include "host/controls/s_edit.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/com_virtual_base_view.h"
 #include "host/views/news_control_ids.h"
@@ -60,7 +62,7 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
 
 // A window that goes hands the keyboard back to the view, whose parts must all be there then.
 TRVNewsCtrlView::Parts::~Parts() {
-    delete stage.storyDialog();
+    stage.deleteWindows();
 }
 
 // --- Modes, places and what is created ---
@@ -111,9 +113,24 @@ StoryDisplay::Surroundings TRVNewsCtrlView::Parts::storySurroundings() {
 }
 
 StoryInput::Surroundings TRVNewsCtrlView::Parts::storyInputSurroundings() {
-    return {stage, settings, [this](const CSymbolInfo& symbol) {
+    return {view,
+            stage,
+            settings,
+            [this] { return new TRVNewsStory(*this, &view); },
+            [this](const CSymbolInfo& symbol) {
                 emit view.SendChangeSymbol(view.linkedGroup(), symbol.market, symbol.code);
-            }};
+            },
+            [this] { story.openWindow(); },
+            [this] { return lists[ListIndex::Search].grid() != nullptr; },
+            [this](const QString& words) { searchFor(words); }};
+}
+
+void TRVNewsCtrlView::Parts::searchFor(const QString& words) {
+    showMode(ListIndex::Search);
+    if (auto* edit = controls.find<SEdit>(ids::searchEdit)) {
+        edit->setText(words);
+        searches.searchForText();
+    }
 }
 
 OutputJobs::Surroundings TRVNewsCtrlView::Parts::outputSurroundings() {
@@ -264,6 +281,11 @@ void TRVNewsCtrlView::Parts::vGetNewsActiveService(std::vector<unsigned char>& a
     active = services.activeServices(modes.shown());
 }
 
+QString TRVNewsCtrlView::Parts::topicOf(unsigned char service, int category) {
+    const QString name = categories.nameOf(service, category);
+    return name == langText(backEnd, keys::recover) ? QString() : name;
+}
+
 std::vector<CHeadlineTable> TRVNewsCtrlView::Parts::selectedEntries() const {
     std::vector<int> rows;
     if (const CSuperSheetWnd* grid = shownGrid())
@@ -284,12 +306,16 @@ void TRVNewsCtrlView::Parts::saveHeadline(const CHeadlineTable& headline) {
     output.tell(output.save({headline}, std::nullopt));
 }
 
+void TRVNewsCtrlView::Parts::showMode(ListIndex list) {
+    if (list == modes.shown())
+        return;
+    view.SwitchFunction(view.iGetFunctionID(static_cast<int>(list)));
+    if (auto* strip = controls.find<CXTPTabControl>(ids::tabStrip))
+        strip->SetCurSel(controls.tabIndexOf(static_cast<int>(modes.shown())));
+}
+
 void TRVNewsCtrlView::Parts::goTo(ListIndex list, int row) {
-    if (list != modes.shown()) {
-        view.SwitchFunction(view.iGetFunctionID(static_cast<int>(list)));
-        if (auto* strip = controls.find<CXTPTabControl>(ids::tabStrip))
-            strip->SetCurSel(controls.tabIndexOf(static_cast<int>(modes.shown())));
-    }
+    showMode(list);
     if (NewsStoryView* pane = stage.storyPane()) {
         pane->SetHeadLinePos(row);
         // A position just below the last row stays: hosts rely on it.

@@ -77,9 +77,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     int entryCount(wirepane::ListIndex list) const override;
     std::optional<CHeadlineTable> entryOf(wirepane::ListIndex list, int row) const override;
     void vGetNewsActiveService(std::vector<unsigned char>& active) const override;
-    QString topicOf(unsigned char service, int category) override {
-        return categories.nameOf(service, category);
-    }
+    QString topicOf(unsigned char service, int category) override;
     void goTo(wirepane::ListIndex list, int row) override;
     int rowOf(wirepane::ListIndex list, const CHeadlineTable& headline) const override;
     void printHeadline(const CHeadlineTable& headline) override;
@@ -88,6 +86,10 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     std::optional<CHeadlineTable> shownEntry(int row) const;
     CSuperSheetWnd* shownGrid() const { return lists[modes.shown()].grid(); }
     std::vector<CHeadlineTable> selectedEntries() const;
+    // The list's mode and its tab, unless it is shown.
+    void showMode(wirepane::ListIndex list);
+    // Searches as if the words had been typed into the search box.
+    void searchFor(const QString& words);
     // What notices and the button beside them offer. False: the command is none of theirs.
     bool takeNoticeCommand(int id);
 

@@ -24,6 +24,7 @@ const QString categoryKey = u"CategoryID"_s;
 const QString quoteSortingKey = u"QuoteSorting"_s;
 const QString columnWidthsKey = u"ColumnWidths"_s;
 const QString storySizeKey = u"StorySize"_s;
+const QString windowPlacesKey = u"StoryWindowPlaces"_s;
 
 std::optional<QuoteTable::Sorting> sortingOf(int number) {
     if (number == 0 || number < -quoteColumns || number > quoteColumns)
@@ -61,6 +62,7 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
     reader.GetViewInfo(path, columnWidthsKey, settings.columnWidths);
     reader.GetViewInfo(path, storySizeKey, settings.storySize);
     settings.storySize = std::clamp(settings.storySize, smallestStorySize, largestStorySize);
+    reader.GetViewInfo(path, windowPlacesKey, settings.storyWindowPlaces);
     settings.options = ViewOptions::read(reader, path);
     return settings;
 }
@@ -79,6 +81,8 @@ void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
         writer.setViewInfo(path, columnWidthsKey, columnWidths);
     if (options[ViewOption::TypesetStory])
         writer.setViewInfo(path, storySizeKey, storySize);
+    if (options[ViewOption::StoryWindow])
+        writer.setViewInfo(path, windowPlacesKey, storyWindowPlaces);
 }
 
 StorySetting storySettingOf(const ViewSettings& settings) {

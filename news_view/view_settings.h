@@ -35,6 +35,7 @@ struct ViewSettings {
     // view that measures its columns writes it
     QStringList columnWidths;
     int storySize = plainStorySize;  // "StorySize": of typeset stories, in hundredths
+    QStringList storyWindowPlaces;   // "StoryWindowPlaces": of the story window, by screen (WindowPlaces)
     ViewOptions options;             // the host's choice: never written back
 
     // `defaultTab`: the focused tab when none is stored.

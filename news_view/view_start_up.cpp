@@ -15,7 +15,6 @@
 #include "news_view/trv_news_ctrl_view.h"
 #include "news_view/view_parts.h"
 #include "search/news_relate_symbol_quote_view.h"
-#include "story/trv_news_story.h"
 
 using namespace wirepane;
 
@@ -90,7 +89,7 @@ void TRVNewsCtrlView::takeNewsType() {
 
 void TRVNewsCtrlView::vViewCreate() {
     if (parts->stage.storyDialog() == nullptr)
-        parts->stage.setDialog(new TRVNewsStory(*parts, this));
+        parts->stage.setDialog(parts->storyInput.makeWindow());
     parts->builder.createControls();
 }
 

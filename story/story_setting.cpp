@@ -26,6 +26,9 @@ constexpr double smallHeadline = 1.3 / bodySize;
 // A line may end behind the dot, not within a part.
 const QString betweenParts = u"\u00A0\u00A0\u00B7  "_s;
 
+// What a back end calls the topic of news that has none.
+const QString noTopic = u"\u2013"_s;
+
 QString inOnePiece(QString text) {
     return text.replace(u' ', QChar(QChar::Nbsp));
 }
@@ -45,7 +48,7 @@ TextLead leadOf(const StoryHead& head) {
     TextLead lead;
     lead.headline = head.headline;
     const auto add = [&lead](const QString& text, const QString& target) {
-        if (text.isEmpty())
+        if (text.isEmpty() || text == noTopic)
             return;
         if (!lead.particulars.empty())
             lead.particulars.push_back({betweenParts, {}});

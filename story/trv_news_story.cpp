@@ -6,6 +6,7 @@
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/lang_text.h"
 #include "host/contract/sync_info.h"
+#include "host/controls/line_icon.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/quote_static_ex.h"
 #include "host/controls/s_button.h"
@@ -13,8 +14,19 @@
 #include "host/views/main_frame_window.h"
 #include "story/story_ids.h"
 #include "story/story_owner.h"
+#include "story/story_setting.h"
 #include "story/story_text.h"
+#include "story/story_tools.h"
+#include "story/window_places.h"
 
+#include <QScreen>
+#include <QShortcut>
+#include <QShowEvent>
+#include <QToolButton>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
 using namespace wirepane;
 
 namespace {
@@ -27,6 +39,23 @@ constexpr int buttonGap = 9;
 constexpr int spaceForButtons = 50;
 constexpr int buttonTop = 15;  // below the story
 constexpr QSize initialSize{640, 480};
+// With tools.
+constexpr QSize largerSize{760, 820};
+constexpr int barHeight = 36;
+constexpr int barMargin = 8;
+constexpr int barGap = 3;
+
+struct StoryKey {
+    QLatin1StringView key;
+    std::size_t button;  // of storyButtons
+};
+
+constexpr std::array<StoryKey, 4> storyKeys{
+    {{"Alt+PgUp"_L1, 0}, {"Alt+PgDown"_L1, 1}, {"Ctrl+S"_L1, 2}, {"Ctrl+P"_L1, 3}}};
+// Of the same buttons.
+constexpr std::array<LineIcon, 4> storyIcons{LineIcon::Prev, LineIcon::Next, LineIcon::Save, LineIcon::Print};
+// The places of the buttons from the left: next, previous, save as, print.
+constexpr std::array<std::size_t, 4> orderWithTools{1, 0, 2, 3};
 
 struct StoryButton {
     int id;
@@ -66,6 +95,11 @@ TRVNewsStory::TRVNewsStory(StoryOwner* storyOwner, CMainFrame* frame, QWidget* p
     titleEdit->document()->setDocumentMargin(titlePadding);
     notice->hide();
     createButtons();
+    connect(storyEdit, &MyRichEdit::sizeWanted, this, &TRVNewsStory::sizeWanted);
+    connect(storyEdit, &MyRichEdit::linkClicked, this, [this](const QString& link) {
+        if (const auto symbol = symbolOfLink(link))
+            emit symbolChosen(symbol->market, symbol->code);
+    });
     vSetFont(CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont());
     vLoadLanguageString();
     resize(initialSize);
@@ -84,8 +118,67 @@ void TRVNewsStory::createButtons() {
         setTabOrder(buttons[i], buttons[i - 1]);
 }
 
+void TRVNewsStory::addTools(QStringList& places) {
+    keptPlaces = &places;
+    tools = new StoryTools(this);
+    connect(tools, &StoryTools::copyWanted, this, &TRVNewsStory::copyStory);
+    connect(tools, &StoryTools::sizeWanted, this, &TRVNewsStory::sizeWanted);
+    reader.tellHeads(true);
+    QWidget* last = storyEdit;
+    const auto follow = [&last](QWidget* next) {
+        setTabOrder(last, next);
+        last = next;
+    };
+    for (const std::size_t at : orderWithTools) {
+        buttons[at]->setIcon(lineIcon(storyIcons[at]));
+        follow(buttons[at]);
+    }
+    for (QToolButton* button : tools->buttons())
+        follow(button);
+    addShortcuts();
+    resize(largerSize);
+    vLoadLanguageString();
+    storyEdit->setFocus();
+}
+
+void TRVNewsStory::addShortcuts() {
+    for (const StoryKey& key : storyKeys) {
+        auto* shortcut = new QShortcut(QKeySequence(QString(key.key)), this);
+        connect(shortcut, &QShortcut::activated, this, storyButtons[key.button].clicked);
+    }
+}
+
+bool TRVNewsStory::isPinned() const {
+    return tools != nullptr && tools->isPinned();
+}
+
+void TRVNewsStory::setStorySetting(const StorySetting& setting) {
+    storySetting = setting;
+    reader.tellHeads(setting.typeset || tools != nullptr);
+    storyEdit->setTypography(setting.typeset ? std::optional(storyTypography(true, palette()))
+                                             : std::nullopt);
+    vSetFont(dialogFont);
+}
+
+void TRVNewsStory::copyStory() {
+    if (!storyEdit->textCursor().hasSelection())
+        storyEdit->selectAll();
+    storyEdit->copy();
+}
+
 void TRVNewsStory::vLoadLanguageString() {
-    setWindowTitle(langText(keys::storyDialogTitle));
+    const QString headline = storyEdit->lead().headline;
+    setWindowTitle(tools != nullptr && !headline.isEmpty() ? headline : langText(keys::storyDialogTitle));
+    if (tools != nullptr) {
+        tools->loadTexts();
+        for (const StoryKey& key : storyKeys) {
+            const QKeySequence sequence{QString(key.key)};
+            buttons[key.button]->setToolTip(u"%1 (%2)"_s
+                                                .arg(langText(storyButtons[key.button].textKey).remove(u'&'),
+                                                     sequence.toString(QKeySequence::NativeText))
+                                                .toHtmlEscaped());
+        }
+    }
     titleEdit->setAccessibleName(langText(keys::title));
     storyEdit->setAccessibleName(langText(keys::nameOfStory));
     for (std::size_t i = 0; i < buttons.size(); ++i)
@@ -94,8 +187,9 @@ void TRVNewsStory::vLoadLanguageString() {
 }
 
 void TRVNewsStory::vSetFont(const QFont& font) {
+    dialogFont = font;
     titleEdit->setFont(font);
-    storyEdit->setFont(font);
+    storyEdit->setFont(storyFont(font, storySetting));
     notice->setFont(font);
     layOut();
 }
@@ -122,13 +216,13 @@ void TRVNewsStory::RespStory(const CHeadlineTable& entry) {
 void TRVNewsStory::draw(const StoryTexts& texts) {
     if (texts.title)
         titleEdit->showText(*texts.title);
-    if (texts.story)
-        showStory(*texts.story);
-}
-
-void TRVNewsStory::showStory(const QString& text) {
+    putStory(*storyEdit, texts, reader.storyState());
+    if (tools != nullptr && texts.head)
+        setWindowTitle(texts.head->headline.isEmpty() ? langText(keys::storyDialogTitle)
+                                                      : texts.head->headline);
+    if (!texts.story)
+        return;
     setNotice({});
-    storyEdit->showText(text);
     vSetStorySearchMarke();
 }
 
@@ -162,7 +256,9 @@ void TRVNewsStory::page(int step) {
         position = size - 1;
     reader.SetHeadLinePos(position);
     vShowData();
-    owner->goTo(*list(), position);
+    // What is pinned goes its own way.
+    if (!isPinned())
+        owner->goTo(*list(), position);
 }
 
 void TRVNewsStory::OnBtnPageDown() {
@@ -198,13 +294,13 @@ void TRVNewsStory::vMainFrameShowHeadline(const QString& text) {
 }
 
 void TRVNewsStory::vMainFrameShowStroy(const CStory& story) {
-    if (story.text.isEmpty()) {
-        showStory(langText(keys::recover));
-        return;
-    }
     QString body = story.text;
     vConvertStoryContent(body);
-    showStory(storyText(story.time, body, BodyEnd::Shown, langText(keys::storyRemark)));
+    StoryTexts texts;
+    texts.story = story.text.isEmpty()
+                      ? langText(keys::recover)
+                      : storyText(story.time, body, BodyEnd::Shown, langText(keys::storyRemark));
+    draw(texts);
 }
 
 // --- Layout ---
@@ -212,9 +308,59 @@ void TRVNewsStory::vMainFrameShowStroy(const CStory& story) {
 void TRVNewsStory::resizeEvent(QResizeEvent* event) {
     QDialog::resizeEvent(event);
     layOut();
+    keepOwnPlace();
+}
+
+void TRVNewsStory::moveEvent(QMoveEvent* event) {
+    QDialog::moveEvent(event);
+    keepOwnPlace();
+}
+
+void TRVNewsStory::keepOwnPlace() {
+    if (keptPlaces != nullptr && isVisible())
+        keepPlace(*keptPlaces, screen()->name(), geometry());
+}
+
+void TRVNewsStory::showEvent(QShowEvent* event) {
+    if (keptPlaces != nullptr && !event->spontaneous() && !testAttribute(Qt::WA_Moved)) {
+        const QWidget* beside = parentWidget()->window();
+        const QRect kept = placeOn(*keptPlaces, beside->screen()->name()).value_or(QRect());
+        const QRect room = beside->screen()->availableGeometry();
+        setGeometry(room.intersects(kept) ? kept : placeBeside(beside->frameGeometry(), size(), room));
+    }
+    QDialog::showEvent(event);
+}
+
+// The story is as wide as the dialog; its headline stands in it.
+void TRVNewsStory::layOutWithTools() {
+    QSize size(0, barHeight - 2 * (barMargin - 1));
+    for (const SButton* button : buttons)
+        size.setWidth(std::max({size.width(), button->sizeHint().width(), button->widthWithIcon()}));
+    int left = barMargin;
+    const int top = (barHeight - size.height()) / 2;
+    for (const std::size_t at : orderWithTools) {
+        if (at == orderWithTools.back())
+            left += buttonGap - barGap;
+        buttons[at]->setGeometry(left, top, size.width(), size.height());
+        left += size.width() + barGap;
+    }
+    tools->move(std::max(left, width() - barMargin - tools->width()), (barHeight - tools->height()) / 2);
+    titleEdit->setVisible(!storySetting.typeset);
+    const int titleHeight =
+        storySetting.typeset ? 0 : titleLines * titleEdit->fontMetrics().lineSpacing() + titleExtra;
+    titleEdit->setGeometry(0, barHeight, width(), titleHeight);
+    const int storyTop = barHeight + titleHeight;
+    storyEdit->setGeometry(0, storyTop, width(), height() - storyTop);
+    const QSize said = notice->sizeHint();
+    notice->setGeometry(width() - said.width() - 2 * margin, storyTop, said.width(), said.height());
+    notice->raise();
 }
 
 void TRVNewsStory::layOut() {
+    if (tools != nullptr) {
+        layOutWithTools();
+        return;
+    }
     const int noticeHeight = notice->isHidden() ? 0 : notice->fontMetrics().height();
     notice->setGeometry(margin, margin, width() - 2 * margin, noticeHeight);
     const QRect title(margin, margin + noticeHeight, width() - 2 * margin,
@@ -243,6 +389,8 @@ void TRVNewsStory::placeButtons() {
 
 void TRVNewsStory::reject() {
     QDialog::reject();
+    if (tools != nullptr)
+        tools->unpin();
     if (owner == nullptr) {
         mainFrame->onStoryWindowClosed();
         return;

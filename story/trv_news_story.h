@@ -4,6 +4,7 @@
 
 #include "host/views/news_module.h"
 #include "story/story_reader.h"
+#include "story/story_size.h"
 
 #include <QDialog>
 
@@ -16,6 +17,7 @@ class SButton;
 
 namespace wirepane {
 class StoryOwner;
+class StoryTools;
 
 }  // namespace wirepane
 
@@ -30,6 +32,16 @@ public:
     // Both outlive the dialog. `ownerView` is its parent window and gets the keyboard back.
     TRVNewsStory(wirepane::StoryOwner& owner, QWidget* ownerView);
     explicit TRVNewsStory(CMainFrame* mainFrame);
+
+    // How stories are set; the owner's choice.
+    void setStorySetting(const wirepane::StorySetting& setting);
+    // The dialog bears the headline as its title; its buttons stand above the story, with tools at the right.
+    // It opens beside the owner's window, where `places`, which outlives it, has no other place, and keeps
+    // that there. Once, for a news view's dialog.
+    void addTools(QStringList& places);
+    // Whether the user has pinned it: other stories leave it alone.
+    bool isPinned() const;
+    bool hasTools() const { return tools != nullptr; }
 
     // Sets every text of the dialog in the language in force.
     void vLoadLanguageString() override;
@@ -68,16 +80,26 @@ public:
     // The user closes the dialog, by its frame or with Esc.
     void reject() override;
 
+Q_SIGNALS:
+    // The user has chosen a symbol of the story; wants stories in another size, as steppedStorySize has it.
+    void symbolChosen(unsigned char market, const QString& code);
+    void sizeWanted(int step);
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     TRVNewsStory(wirepane::StoryOwner* owner, CMainFrame* mainFrame, QWidget* parent);
     void createButtons();
+    void addShortcuts();
     void layOut();
     void placeButtons();
+    void layOutWithTools();
+    void keepOwnPlace();
+    void copyStory();
     void draw(const wirepane::StoryTexts& texts);
-    void showStory(const QString& text);
     void setNotice(const QString& text);
     void page(int step);
     void putOutShown(void (wirepane::StoryOwner::*putOut)(const CHeadlineTable&));
@@ -88,5 +110,9 @@ private:
     MyRichEdit* titleEdit;
     MyRichEdit* storyEdit;
     CQuoteStaticEx* notice;
+    wirepane::StoryTools* tools = nullptr;
+    QStringList* keptPlaces = nullptr;
+    wirepane::StorySetting storySetting;
+    QFont dialogFont;
     std::array<SButton*, 4> buttons{};  // from the right: previous, next, save as, print
 };

@@ -39,6 +39,8 @@ enum class ViewOption {
     HeadingHeight,          // of the band of column headings; 0: 16
     RowGutter,              // before the first column's text
     TypesetStory,  // stories are typeset, in a size of their own; what is awaited says so in its place
+    StoryMenu,     // a story has a menu of its own
+    StoryWindow,   // the story window has tools, lies beside its list, is kept open when it is pinned
     Count
 };
 
@@ -72,6 +74,8 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::HeadingHeight, QLatin1StringView("HeadingHeight"), 64, 22},
     {ViewOption::RowGutter, QLatin1StringView("RowGutter"), 32, 16},
     {ViewOption::TypesetStory, QLatin1StringView("TypesetStory")},
+    {ViewOption::StoryMenu, QLatin1StringView("StoryMenu")},
+    {ViewOption::StoryWindow, QLatin1StringView("StoryWindow")},
 }};
 
 constexpr const ViewOptionRow& rowOf(ViewOption option) {

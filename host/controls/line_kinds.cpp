@@ -5,6 +5,8 @@
 #include <QChar>
 
 #include <algorithm>
+#include <cstddef>
+#include <optional>
 
 namespace wirepane {
 
@@ -14,8 +16,10 @@ namespace {
 constexpr int narrowestBroken = 50;
 constexpr int widestBroken = 110;
 constexpr int shortestRule = 4;
+constexpr qsizetype longestLabel = 24;  // alone in its line, within a table
+constexpr std::size_t mostLabels = 3;   // in a row
 
-enum class Shape { Empty, Prose, Columns, Rule };
+enum class Shape { Empty, Prose, Columns };
 
 bool isBlank(QChar c) {
     return c.isSpace();
@@ -30,7 +34,14 @@ bool endsSentence(QChar c) {
 }
 
 bool drawsRule(QChar c) {
-    return QStringView(u"-=_+|*─━═—－＝").contains(c) || isBlank(c);
+    return QStringView(u"-=_+|*─━═—－＝").contains(c);
+}
+
+// Also one with a heading in its middle.
+bool isRule(QStringView line) {
+    const auto drawn = std::count_if(line.begin(), line.end(), drawsRule);
+    const auto blank = std::count_if(line.begin(), line.end(), isBlank);
+    return drawn >= shortestRule && drawn * 3 >= (line.size() - blank) * 2;
 }
 
 // A gap is three columns of blanks, a tab, or two columns that end no sentence; two of the latter are needed.
@@ -40,8 +51,8 @@ Shape shapeOf(QStringView line) {
         return Shape::Empty;
     if (line.size() > widestAligned)
         return Shape::Prose;
-    if (line.size() >= shortestRule && std::all_of(line.begin(), line.end(), drawsRule))
-        return Shape::Rule;
+    if (isRule(line))
+        return Shape::Columns;
     int certain = 0;
     int possible = 0;
     qsizetype blanksFrom = -1;
@@ -103,6 +114,24 @@ std::vector<QStringView> linesOf(QStringView text) {
     return lines;
 }
 
+// A table goes from one line with columns to the next, over few labels that stand alone.
+std::vector<bool> tablesOf(const std::vector<QStringView>& lines, const std::vector<Shape>& shapes) {
+    std::vector<bool> inTable(lines.size(), false);
+    std::optional<std::size_t> begin;  // the line with columns that a table may go on from
+    for (std::size_t at = 0; at < lines.size(); ++at) {
+        if (shapes[at] == Shape::Columns) {
+            if (begin)
+                std::fill(inTable.begin() + static_cast<std::ptrdiff_t>(*begin),
+                          inTable.begin() + static_cast<std::ptrdiff_t>(at) + 1, true);
+            begin = at;
+        } else if (begin && (shapes[at] == Shape::Empty || lines[at].trimmed().size() > longestLabel ||
+                             at - *begin > mostLabels)) {
+            begin.reset();
+        }
+    }
+    return inTable;
+}
+
 }  // namespace
 
 bool isWide(char16_t c) {
@@ -115,25 +144,15 @@ std::vector<LineKind> lineKinds(QStringView text) {
     const std::vector<QStringView> lines = linesOf(text);
     std::vector<Shape> shapes(lines.size());
     std::transform(lines.begin(), lines.end(), shapes.begin(), shapeOf);
-    const auto hasColumns = [&shapes](std::size_t at) {
-        return at < shapes.size() && (shapes[at] == Shape::Columns || shapes[at] == Shape::Rule);
-    };
-    // Unsigned: before the first line there is none either.
-    const auto isAligned = [&](std::size_t at) {
-        return hasColumns(at) && (hasColumns(at - 1) || hasColumns(at + 1));
-    };
+    const std::vector<bool> inTable = tablesOf(lines, shapes);
     std::vector<LineKind> kinds(lines.size(), LineKind::Paragraph);
     for (std::size_t at = 0; at < lines.size(); ++at) {
-        // A label alone in its line stands between lines with columns.
-        const bool inTable = isAligned(at) || (shapes[at] == Shape::Prose && lines[at].size() < 60 &&
-                                               isAligned(at - 1) && isAligned(at + 1));
-        const bool tableGoesOn =
-            isAligned(at + 1) || (isAligned(at) && isAligned(at + 2) && shapes[at + 1] == Shape::Prose);
+        const bool last = at + 1 == lines.size();
         if (shapes[at] == Shape::Empty)
             kinds[at] = LineKind::Empty;
-        else if (inTable)
-            kinds[at] = tableGoesOn ? LineKind::Aligned : LineKind::AlignedLast;
-        else if (at + 1 < lines.size() && shapes[at + 1] == Shape::Prose && goesOn(lines[at], lines[at + 1]))
+        else if (inTable[at])
+            kinds[at] = !last && inTable[at + 1] ? LineKind::Aligned : LineKind::AlignedLast;
+        else if (!last && shapes[at + 1] == Shape::Prose && goesOn(lines[at], lines[at + 1]))
             kinds[at] = LineKind::Continued;
     }
     return kinds;

@@ -43,9 +43,11 @@ void MyRichEdit::setTypography(const std::optional<Typography>& typography) {
         page = new TypesetDocument(*viewport(), this);
         page->setDefaultFont(font());
         setDocument(page);
+        setCursorWidth(0);  // keys scroll and select; at rest a caret would stand in the headline
         page->setTypography(*look);
     } else {
         setDocument(nullptr);
+        setCursorWidth(1);
         delete page;
     }
     fill();

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace wirepane {
 
 namespace {
@@ -72,6 +74,15 @@ QFont scaled(QFont font, double factor) {
     return font;
 }
 
+// The platform's own, where that is of a fixed pitch: without a desktop's settings it need not be.
+QStringList fixedFamilies() {
+    QStringList families = QFontDatabase::systemFont(QFontDatabase::FixedFont).families();
+    families += {u"Noto Sans Mono"_s, u"DejaVu Sans Mono"_s, u"Liberation Mono"_s, u"Consolas"_s,
+                 u"Menlo"_s,          u"Courier New"_s};
+    families.removeIf([](const QString& family) { return !QFontDatabase::isFixedPitch(family); });
+    return families;
+}
+
 qreal pixelsOf(const QFont& font) {
     return QFontInfo(font).pixelSize();
 }
@@ -109,7 +120,7 @@ void TypesetDocument::loadFormats() {
     link.setForeground(look.link);
     endMark.setProperty(QTextFormat::FontSizeAdjustment, oneSmaller);
     endMark.setForeground(look.weak);
-    fixed.setFontFamilies(QFontDatabase::systemFont(QFontDatabase::FixedFont).families() + font.families());
+    fixed.setFontFamilies(fixedFamilies() + font.families());
     fixed.setFontFixedPitch(true);
     fixed.setFontStyleHint(QFont::Monospace);
     fixed.setProperty(QTextFormat::FontSizeAdjustment, oneSmaller);

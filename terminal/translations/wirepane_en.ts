@@ -1283,6 +1283,34 @@
         <source></source>
         <translation>Not looked through by key sets: do it now</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_COPY">
+        <source></source>
+        <translation>Copy</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_IN_WINDOW">
+        <source></source>
+        <translation>Open in Window</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_LARGER">
+        <source></source>
+        <translation>Larger Text</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_PIN">
+        <source></source>
+        <translation>Keep This Window Open</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_SEARCH">
+        <source></source>
+        <translation>Search for “%1”</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_SELECT_ALL">
+        <source></source>
+        <translation>Select All</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_SMALLER">
+        <source></source>
+        <translation>Smaller Text</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_AFTERDAYS">
         <source></source>
         <translation>The date lies in the future.</translation>

@@ -1283,6 +1283,34 @@
         <source></source>
         <translation>尚未以关键词组筛选：立即筛选</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_COPY">
+        <source></source>
+        <translation>复制</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_IN_WINDOW">
+        <source></source>
+        <translation>在窗口中打开</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_LARGER">
+        <source></source>
+        <translation>放大文字</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_PIN">
+        <source></source>
+        <translation>保留此窗口</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_SEARCH">
+        <source></source>
+        <translation>搜索“%1”</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_SELECT_ALL">
+        <source></source>
+        <translation>全选</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_SMALLER">
+        <source></source>
+        <translation>缩小文字</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_AFTERDAYS">
         <source></source>
         <translation>所选日期晚于今天。</translation>

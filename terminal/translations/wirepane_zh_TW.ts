@@ -1283,6 +1283,34 @@
         <source></source>
         <translation>尚未以關鍵字組篩選：立即篩選</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_COPY">
+        <source></source>
+        <translation>複製</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_IN_WINDOW">
+        <source></source>
+        <translation>在視窗中開啟</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_LARGER">
+        <source></source>
+        <translation>放大文字</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_PIN">
+        <source></source>
+        <translation>保留此視窗</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_SEARCH">
+        <source></source>
+        <translation>搜尋「%1」</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_SELECT_ALL">
+        <source></source>
+        <translation>全選</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STORY_SMALLER">
+        <source></source>
+        <translation>縮小文字</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_AFTERDAYS">
         <source></source>
         <translation>所選日期晚於今天。</translation>

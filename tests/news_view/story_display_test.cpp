@@ -11,6 +11,9 @@
 #include "story/trv_news_story.h"
 #include "tests/news_view/fake_view.h"
 
+#include <QTest>
+#include <QToolButton>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -318,6 +321,40 @@ TEST_F(StoryDisplayTest, RelatedSymbolsAreThoseOfTheHeadlineShown) {
     EXPECT_EQ(quotes->quoteTable().size(), 0);
     story.listRelatedSymbols();
     EXPECT_EQ(quotes->quoteTable().size(), 0) << "nothing is shown";
+}
+
+// While a window is pinned, the next story opens another one; both hear what comes for them.
+TEST_F(StoryDisplayTest, OpensAnotherWindowBesideAPinnedOne) {
+    QStringList places;
+    const auto make = [&] {
+        auto* dialog = new TRVNewsStory(view, &view.window);
+        dialog->addTools(places);
+        return dialog;
+    };
+    delete stage.storyDialog();
+    stage.setDialog(make());
+    stage.setDialogMaker(make);
+    givePane();
+    story.setShowType(atRight);
+    focus(0);
+    story.show();
+    story.openWindow();
+    TRVNewsStory* first = &window();
+    EXPECT_TRUE(first->isVisible());
+    story.openWindow();
+    EXPECT_EQ(&window(), first) << "not pinned: it is used again";
+    first->findChildren<QToolButton*>().back()->click();
+    focus(2);
+    story.show();
+    story.openWindow();
+    EXPECT_NE(&window(), first);
+    EXPECT_EQ(stage.windows().size(), 2U);
+    EXPECT_EQ(first->GetHeadLinePos(), 0);
+    EXPECT_EQ(window().GetHeadLinePos(), 2);
+    stage.hideDialog();
+    EXPECT_TRUE(window().isVisible()) << "the user closes it";
+    first->reject();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return stage.windows().size() == 1; }));
 }
 
 }  // namespace wirepane

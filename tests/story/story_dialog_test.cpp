@@ -8,12 +8,18 @@
 #include "host/views/main_frame_window.h"
 #include "story/story_ids.h"
 #include "story/story_owner.h"
+#include "story/story_size.h"
 #include "story/trv_news_story.h"
+#include "story/window_places.h"
 #include "tests/support/fake_back_end.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
+#include <QScreen>
 #include <QTest>
 #include <QTextCursor>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -309,6 +315,55 @@ TEST_F(StoryDialogTest, ABareWindowShowsWhatTheMainFrameGivesIt) {
     EXPECT_EQ(title(dialog), u"Breaking"_s);
     dialog.close();
     EXPECT_EQ(frame.closed, 1);
+}
+
+TEST_F(StoryDialogTest, WithToolsIsTitledByItsHeadlineAndGoesItsOwnWayWhenPinned) {
+    QStringList places;
+    TRVNewsStory dialog(owner, &view);
+    dialog.setStorySetting({true});
+    dialog.addTools(places);
+    dialog.show();
+    dialog.vSetStoryData(list, 0);
+    EXPECT_EQ(dialog.windowTitle(), edit(dialog, story_ids::storyText)->lead().headline);
+    EXPECT_FALSE(dialog.windowTitle().isEmpty());
+    // Next, previous, save as, then apart from them print.
+    const auto place = [&dialog](int id) { return dlgItem(&dialog, id)->geometry(); };
+    EXPECT_EQ(place(story_ids::previousButton).left() - place(story_ids::nextButton).right(), 4);
+    EXPECT_EQ(place(story_ids::saveAsButton).left() - place(story_ids::previousButton).right(), 4);
+    EXPECT_EQ(place(story_ids::printButton).left() - place(story_ids::saveAsButton).right(), 10);
+
+    const auto tools = dialog.findChildren<QToolButton*>();
+    ASSERT_EQ(tools.size(), 4);
+    for (const QToolButton* tool : tools)
+        EXPECT_FALSE(tool->toolTip().isEmpty() || tool->accessibleName().isEmpty());
+    owner.asked.clear();
+    tools.back()->click();
+    EXPECT_TRUE(dialog.isPinned());
+    click(dialog, story_ids::nextButton);
+    EXPECT_TRUE(owner.asked.filter(u"go"_s).isEmpty());
+    EXPECT_EQ(dialog.GetHeadLinePos(), 1);
+    tools.front()->click();
+    EXPECT_EQ(QApplication::clipboard()->text(), story(dialog).replace(u"\r\n"_s, u"\n"_s));
+
+    dialog.setGeometry(20, 30, 500, 400);
+    EXPECT_EQ(placeOn(places, dialog.screen()->name()), QRect(20, 30, 500, 400));
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible() || dialog.isPinned());
+}
+
+TEST(WindowPlaces, LieBesideTheListAndAreKeptForEachScreen) {
+    const QRect screen(0, 0, 1000, 600);
+    const QSize size(300, 400);
+    EXPECT_EQ(placeBeside({0, 50, 600, 500}, size, screen), QRect(608, 50, 300, 400));
+    EXPECT_EQ(placeBeside({400, 50, 600, 500}, size, screen), QRect(92, 50, 300, 400));
+    EXPECT_EQ(placeBeside(screen, {2000, 700}, screen), screen) << "no larger than the screen";
+    QStringList places{u"broken"_s, u"1,2,x a"_s};
+    keepPlace(places, u"left one"_s, {1, 2, 30, 40});
+    keepPlace(places, u"b"_s, {-5, 6, 7, 8});
+    keepPlace(places, u"left one"_s, {2, 2, 30, 40});
+    EXPECT_EQ(placeOn(places, u"left one"_s), QRect(2, 2, 30, 40));
+    EXPECT_EQ(placeOn(places, u"b"_s), QRect(-5, 6, 7, 8));
+    EXPECT_FALSE(placeOn(places, u"a"_s));
 }
 
 }  // namespace wirepane

@@ -43,6 +43,8 @@ TEST(LineKinds, TellTablesFromProse) {
         {u"a\tb\nc\td\n \nend", u"AZEP"},
         {u"名稱　　　金額\n=====\n甲　　　　12", u"AAZ"},
         {u"Net   1\nTax   1\nof which\nlost   2\nleft   0\nend", u"AAAAZP"},
+        {u"a    1\n(label)\nand more\nb    2\nA sentence that is no label.\nc    3", u"AAAZPP"},
+        {u"-----Sales-----\na    1", u"AZ"},
         {u"| a | b |\n| c | d |", u"AZ"},
         {u"two  ends  here\nand  so  on", u"AZ"},
         {u"This line has been broken by the hand of its writer and\nends here.\nNext", u"CPP"},
