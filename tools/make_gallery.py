@@ -173,7 +173,7 @@ def warning_terms(of: Gallery):
 def side_by_side(of: Gallery):
     for news_type in (0, 2):
         of.open(newsType=news_type)
-    of.ask("input.click", row=1)
+    of.ask("symbol.change", group=1, service=16, code="6214", name="")
     of.picture("side-by-side")
 
 

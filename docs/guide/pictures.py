@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Makes the pictures of the guide from the running program: every mode and dialog, light and dark.
+"""Makes the pictures of the guide from the running program: every mode and dialog, light and dark. Those of the guide in
+Chinese stand in pictures_zh_TW and pictures_zh_CN.
 
 pictures.py WIREPANE [FOLDER [LANGUAGE]]    FOLDER: beside this script; LANGUAGE: en, zh-TW or zh-CN
 
@@ -78,7 +79,7 @@ class Guide:
             self.terminal.settle()
 
     def modes(self):
-        self.ask("view.open", size=[1000, 620], mask=127)
+        self.ask("view.open", size=[1000, 620], mask=127, own=True)
         for mode, name in ((ALL, "all-news"), (CATEGORY, "by-category"), (SYMBOL, "by-symbol"), (WARRANTS, "warrants")):
             self.show_mode(mode)
             self.read(mode)
@@ -148,7 +149,7 @@ class Guide:
         # With both kinds of standing searches on, a view loads nothing but searches.
         self.ask("host.set", switches={"ShowNormalSearch": 0, "ShowWarningSearch": 1})
         self.ask("view.close")
-        self.ask("view.open", size=[1000, 620], mask=127)
+        self.ask("view.open", size=[1000, 620], mask=127, own=True)
         self.show_mode(WARNINGS)
         self.ask("view.command", id=WARNING_DIALOG)
         self.ask("dialog.click", id=3)
