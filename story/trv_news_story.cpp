@@ -41,6 +41,7 @@ constexpr int buttonTop = 15;  // below the story
 constexpr QSize initialSize{640, 480};
 // With tools.
 constexpr QSize largerSize{760, 820};
+constexpr int cascade = 28;
 constexpr int barHeight = 36;
 constexpr int barMargin = 8;
 constexpr int barGap = 3;
@@ -321,12 +322,24 @@ void TRVNewsStory::keepOwnPlace() {
         keepPlace(*keptPlaces, screen()->name(), geometry());
 }
 
+// A pinned one that lies there stays in sight.
+QRect TRVNewsStory::besideOthers(QRect place) const {
+    for (const QObject* sibling : parentWidget()->children()) {
+        const auto* other = qobject_cast<const TRVNewsStory*>(sibling);
+        if (other != nullptr && other != this && other->isVisible() &&
+            other->geometry().topLeft() == place.topLeft())
+            return besideOthers(place.translated(cascade, cascade));
+    }
+    return place;
+}
+
 void TRVNewsStory::showEvent(QShowEvent* event) {
     if (keptPlaces != nullptr && !event->spontaneous() && !testAttribute(Qt::WA_Moved)) {
         const QWidget* beside = parentWidget()->window();
         const QRect kept = placeOn(*keptPlaces, beside->screen()->name()).value_or(QRect());
         const QRect room = beside->screen()->availableGeometry();
-        setGeometry(room.intersects(kept) ? kept : placeBeside(beside->frameGeometry(), size(), room));
+        setGeometry(
+            besideOthers(room.intersects(kept) ? kept : placeBeside(beside->frameGeometry(), size(), room)));
     }
     QDialog::showEvent(event);
 }

@@ -98,6 +98,7 @@ private:
     void placeButtons();
     void layOutWithTools();
     void keepOwnPlace();
+    QRect besideOthers(QRect place) const;
     void copyStory();
     void draw(const wirepane::StoryTexts& texts);
     void setNotice(const QString& text);

@@ -348,6 +348,7 @@ TEST_F(StoryDisplayTest, OpensAnotherWindowBesideAPinnedOne) {
     story.show();
     story.openWindow();
     EXPECT_NE(&window(), first);
+    EXPECT_NE(window().pos(), first->pos()) << "both are in sight";
     EXPECT_EQ(stage.windows().size(), 2U);
     EXPECT_EQ(first->GetHeadLinePos(), 0);
     EXPECT_EQ(window().GetHeadLinePos(), 2);
