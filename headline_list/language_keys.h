@@ -123,6 +123,8 @@ inline constexpr QLatin1StringView hintSearch{"IDS_NEWSCTRLVIEW_HINT_SEARCH"};
 
 // What controls without a text are called.
 inline constexpr QLatin1StringView nameOfModes{"IDS_NEWSCTRLVIEW_NAME_MODES"};
+inline constexpr QLatin1StringView allServices{"IDS_NEWSCTRLVIEW_STRING_ALL_SERVICES"};
+inline constexpr QLatin1StringView onlyThisService{"IDS_NEWSCTRLVIEW_STRING_ONLY_THIS_SERVICE"};
 inline constexpr QLatin1StringView today{"IDS_NEWSCTRLVIEW_STRING_TODAY"};
 inline constexpr QLatin1StringView yesterday{"IDS_NEWSCTRLVIEW_STRING_YESTERDAY"};
 inline constexpr QLatin1StringView nameOfDate{"IDS_NEWSCTRLVIEW_NAME_DATE"};

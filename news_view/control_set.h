@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/contract/view_kinds.h"
-
 #include <QDate>
 #include <QFont>
 #include <QHash>
@@ -15,6 +13,7 @@ class TRVVirtualBaseView;
 
 namespace wirepane {
 enum class ListIndex : int;
+enum class StoryShowType : unsigned short;
 struct ViewLayout;
 
 // The controls of a news view: creates them, finds them by number, gives them their texts, places, fonts, and

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/service_menu.h"
 
+#include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/fixed_services.h"
+#include "host/controls/ticking_menu.h"
 #include "host/controls/window_id.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/news_services.h"
 #include "news_view/view_context.h"
-
-#include <QMenu>
 
 #include <utility>
 
@@ -21,7 +21,7 @@ ServiceMenu::ServiceMenu(ViewContext& viewContext, const CommonParts& commonPart
 ServiceMenu::~ServiceMenu() = default;
 
 void ServiceMenu::fill() {
-    menu = std::make_unique<QMenu>();
+    menu = std::make_unique<TickingMenu>();
     int command = ids::firstServiceCommand;
     for (const ServiceEntry& entry : parts.services.currentServices()) {
         const int id = command++;
@@ -36,10 +36,45 @@ void ServiceMenu::fill() {
     }
 }
 
+void ServiceMenu::addWholeChoice() {
+    menu->setStaysOpen(true);
+    menu->addSeparator();
+    all = menu->addAction(QString());
+    QObject::connect(all, &QAction::triggered, &parts.window,
+                     [this] { choose([](std::size_t) { return true; }); });
+    hint = menu->addAction(QString());
+    hint->setEnabled(false);
+    QObject::connect(menu.get(), &TickingMenu::onlyAsked, &parts.window, [this](const QAction* entry) {
+        const auto only = static_cast<std::size_t>(entry->data().toInt() - ids::firstServiceCommand);
+        choose([only](std::size_t index) { return index == only; });
+    });
+}
+
+void ServiceMenu::choose(const std::function<bool(std::size_t)>& isWanted) {
+    if (standsFast())
+        return;
+    const auto& services = parts.services.currentServices();
+    for (std::size_t i = 0; i < services.size(); ++i) {
+        if (services[i].service != warrantService)
+            parts.services.select(i, isWanted(i));
+    }
+    parts.services.copyToSaved();
+    showTicks();
+    calls.ticksChanged();
+}
+
 void ServiceMenu::popUp() {
     const QWidget* button = dlgItem(&parts.window, ids::serviceButton);
-    if (button != nullptr && !standsFast())
-        menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
+    if (button == nullptr || standsFast())
+        return;
+    // The menu is filled before the view knows its settings.
+    if (calls.staysOpen()) {
+        if (all == nullptr)
+            addWholeChoice();
+        all->setText(langText(parts.backEnd, keys::allServices));
+        hint->setText(langText(parts.backEnd, keys::onlyThisService));
+    }
+    menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
 }
 
 void ServiceMenu::toggle(int command) {
@@ -66,6 +101,8 @@ bool ServiceMenu::standsFast() const {
 void ServiceMenu::showTicks() {
     const QList<QAction*> actions = menu->actions();
     for (QAction* action : actions) {
+        if (!action->isCheckable())
+            continue;
         const auto service = static_cast<std::size_t>(action->data().toInt() - ids::firstServiceCommand);
         action->setChecked(parts.services.savedServices().at(service).selected);
         action->setEnabled(!standsFast());

@@ -7,9 +7,10 @@
 #include <functional>
 #include <memory>
 
-class QMenu;
+class QAction;
 
 namespace wirepane {
+class TickingMenu;
 class ViewContext;
 
 // The menu in which the user ticks the services whose news the lists hold. The warrant mode looks at no
@@ -19,6 +20,7 @@ public:
     struct Calls {
         std::function<void(int)> command;
         std::function<void()> ticksChanged;  // lists are to be read anew, registrations brought in line
+        std::function<bool()> staysOpen = [] { return false; };  // while ticking
     };
     ServiceMenu(ViewContext& context, const CommonParts& parts, Calls calls);
     ~ServiceMenu();
@@ -35,11 +37,16 @@ public:
 
 private:
     bool standsFast() const;
+    void addWholeChoice();
+    // Ticks those services that `isWanted` says, at least one.
+    void choose(const std::function<bool(std::size_t)>& isWanted);
 
     ViewContext& context;
     const CommonParts parts;
     const Calls calls;
-    std::unique_ptr<QMenu> menu;
+    std::unique_ptr<TickingMenu> menu;
+    QAction* all = nullptr;  // of the menu, where it stays open
+    QAction* hint = nullptr;
 };
 
 }  // namespace wirepane

@@ -55,7 +55,8 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       symbolMode(*this, common, symbolCalls()),
       sentAgain(*this, common, choices()),
       serviceMenu(*this, common,
-                  {[this](int command) { view.onCommand(command); }, [this] { readForServices(); }}),
+                  {[this](int command) { view.onCommand(command); }, [this] { readForServices(); },
+                   [this] { return settings.options[ViewOption::KeepServicesOpen]; }}),
       liveNews(*this, common, liveCalls()) {
     lists.setOnRead([this] { board.place(); });
 }

@@ -10,6 +10,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QRegularExpression>
 
 namespace wirepane {
 
@@ -28,6 +29,12 @@ bool OutputDialogs::askPrinter(QPrinter& printer, QWidget* parent) {
     return dialog->exec() == QDialog::Accepted;
 }
 
+void OutputDialogs::proposeName(const QString& name) {
+    constexpr qsizetype longest = 60;
+    static const QRegularExpression untaken(QStringLiteral("[/\\\\:*?\"<>|\\x00-\\x1f]+"));
+    proposal = QString(name).replace(untaken, QStringLiteral(" ")).left(longest).simplified();
+}
+
 std::optional<OutputTarget> OutputDialogs::askFile(BKQuoteInterface& backEnd, QWidget* parent) {
     const QString pattern = QStringLiteral(" (*.txt)");
     const QString utf8Filter = langText(backEnd, keys::utf8FileFilter) + pattern;
@@ -36,6 +43,8 @@ std::optional<OutputTarget> OutputDialogs::askFile(BKQuoteInterface& backEnd, QW
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
     dialog->setNameFilters({langText(backEnd, keys::fileFilter) + pattern, utf8Filter});
     dialog->setDefaultSuffix(QStringLiteral("txt"));
+    if (!proposal.isEmpty())
+        dialog->selectFile(proposal + QStringLiteral(".txt"));
     if (dialog->exec() != QDialog::Accepted || dialog->selectedFiles().isEmpty())
         return std::nullopt;
     return OutputTarget{

@@ -8,6 +8,7 @@
 #include "output/printable_story.h"
 #include "output/save_run.h"
 
+#include <QDateTime>
 #include <QDir>
 
 using namespace wirepane;
@@ -15,6 +16,12 @@ using namespace wirepane;
 namespace {
 
 constexpr qsizetype longSave = 500'000;  // characters: some 10 ms
+
+// The day of the news, and its title.
+QString proposedName(const OutputItem& item) {
+    return QDateTime::fromSecsSinceEpoch(item.entry.time).toString(QStringLiteral("yyyy-MM-dd ")) +
+           item.title;
+}
 
 }  // namespace
 
@@ -26,6 +33,8 @@ NewsOutcome TRVSaveToFile::output(const OutputItems& items, QWidget* parent,
                                   const std::optional<OutputTarget>& target) {
     BKQuoteInterface& news = newsBackEnd();
     const std::shared_ptr<const bool> here = aliveMark();
+    if (!target && !items.empty())
+        outputDialogs().proposeName(proposedName(items.front()));
     const std::optional<OutputTarget> file = target ? target : outputDialogs().askFile(news, parent);
     if (!file || !*here)
         return {};

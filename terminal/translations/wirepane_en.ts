@@ -1315,6 +1315,10 @@
         <source></source>
         <translation>The date lies in the future.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_ALL_SERVICES">
+        <source></source>
+        <translation>All Services</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_BETWEEN_NAMES">
         <source></source>
         <translation>, </translation>
@@ -1422,6 +1426,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLYSELECT">
         <source></source>
         <translation>Only the last </translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_ONLY_THIS_SERVICE">
+        <source></source>
+        <translation>Shift: only this one</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE">
         <source></source>

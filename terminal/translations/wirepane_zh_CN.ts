@@ -1315,6 +1315,10 @@
         <source></source>
         <translation>所选日期晚于今天。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_ALL_SERVICES">
+        <source></source>
+        <translation>全部新闻来源</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_BETWEEN_NAMES">
         <source></source>
         <translation>、</translation>
@@ -1422,6 +1426,10 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLYSELECT">
         <source></source>
         <translation>只能选择最近 </translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_ONLY_THIS_SERVICE">
+        <source></source>
+        <translation>Shift：只选这一个</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE">
         <source></source>

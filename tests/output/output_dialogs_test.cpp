@@ -27,6 +27,7 @@ TEST(OutputDialogs, AFileIsAskedForWithItsType) {
                      {u"IDS_NEWSCTRLVIEW_STRING_FILE_FILTER_UTF8"_s, u"Unicode"_s}};
     const QTemporaryDir folder;
     OutputDialogs dialogs;
+    dialogs.proposeName(u"2026-03-02 Shares up 3/4: \"why?\""_s);
     const std::pair<QString, NewsFileType> cases[] = {{u"Text (*.txt)"_s, NewsFileType::CodePage950},
                                                       {u"Unicode (*.txt)"_s, NewsFileType::Utf8}};
     for (const auto& [filter, type] : cases) {
@@ -35,6 +36,8 @@ TEST(OutputDialogs, AFileIsAskedForWithItsType) {
                                [&, &filter = filter](QFileDialog& dialog) {
                                    EXPECT_TRUE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
                                    EXPECT_EQ(dialog.nameFilters().constFirst(), u"Text (*.txt)"_s);
+                                   EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(),
+                                             u"2026-03-02 Shares up 3 4 why.txt"_s);
                                    dialog.selectNameFilter(filter);
                                    dialog.findChild<QLineEdit*>()->setText(folder.filePath(u"news"_s));
                                    static_cast<QDialog&>(dialog).done(QDialog::Accepted);

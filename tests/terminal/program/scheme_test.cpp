@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "host/controls/window_id.h"
+#include "host/views/news_control_ids.h"
+#include "tests/terminal/program/frame_fixture.h"
+
+#include <map>
+
+using namespace wirepane::test;
+
+namespace wirepane {
+
+namespace {
+
+class SchemeTest : public FrameFixture {
+protected:
+    SchemeTest() : FrameFixture(1200) {}
+
+    std::map<const QWidget*, QRect> places() {
+        QCoreApplication::processEvents();
+        std::map<const QWidget*, QRect> found;
+        for (const QWidget* widget : session->frame().findChildren<QWidget*>()) {
+            if (widget->isVisible())
+                found[widget] = widget->geometry();
+        }
+        return found;
+    }
+};
+
+TEST_F(SchemeTest, SchemesDifferInColourAloneAndControlsKeepTheirEdges) {
+    session->showStatus();
+    const auto light = places();
+    const QImage before = session->frame().grab().toImage();
+    for (const ColourScheme scheme : {ColourScheme::Dark, ColourScheme::HighContrast}) {
+        session->setScheme(scheme);
+        EXPECT_EQ(places(), light) << schemeName(scheme).toStdString();
+        EXPECT_NE(session->frame().grab().toImage(), before);
+    }
+    QWidget* view = session->workspace().active()->view;
+    const auto edge = [view](int id) { return dlgItem(view, id)->geometry().right(); };
+    EXPECT_EQ(edge(ids::printButton), edge(ids::showTypeButton));
+    EXPECT_EQ(dlgItem(view, ids::serviceButton)->x(), 8);
+}
+
+}  // namespace
+
+}  // namespace wirepane
