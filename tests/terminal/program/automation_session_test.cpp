@@ -143,6 +143,7 @@ TEST_F(AutomationSessionTest, RequestsThatCannotBeDoneSayWhyAndEndNothing) {
         {u"control.choose"_s, {{u"id"_s, ids::tabStrip}, {u"text"_s, u"No such tab"_s}}, -32001},
         {u"control.choose"_s, {{u"id"_s, ids::tabStrip}}, -32602},
         {u"control.set"_s, {{u"id"_s, ids::tabStrip}, {u"text"_s, u"x"_s}}, -32002},
+        {u"control.set"_s, {{u"id"_s, ids::tabStrip}, {u"checked"_s, true}}, -32002},
         {u"menu.open"_s, {}, -32602},
         {u"menu.open"_s, {{u"id"_s, ids::serviceButton}, {u"row"_s, 0}}, -32602},
         {u"menu.open"_s, {{u"row"_s, 0}}, -32001},
