@@ -5,17 +5,28 @@
 #include "backend/news_item.h"
 #include "backend/result.h"
 
+#include <optional>
+#include <vector>
+
 namespace wirepane {
 
 enum class Take {
     TakenIn,       // new, or a later version of what was there
     AlreadyThere,  // nothing changed
     Rejected,      // this item cannot be taken; the others can
+    PutOff,        // what becomes of it commit() decides
 };
 
 struct TakeOutcome {
     Take take = Take::TakenIn;
     std::optional<Error> reason;  // for Rejected
+};
+
+// What commit() has decided of the items that had been put off, in their order; and how many of those that
+// were said to be taken in turned out to be there already, since others brought them meanwhile.
+struct LateOutcomes {
+    std::vector<TakeOutcome> putOff;
+    qint64 overtaken = 0;
 };
 
 // What takes items in. An error (a full disk, a damaged store) ends the taking in; nothing since the last
@@ -26,8 +37,14 @@ public:
 
     // Between begin() and commit() items are taken in all or nothing.
     virtual Done begin() = 0;
+    // As begin(), for so many items that others should not have to wait for them all: a sink may let others
+    // have their turn in between, and put items off.
+    virtual Done beginMany() { return begin(); }
+    // The next item is not there yet: who waits for a turn may have it.
+    virtual void pause() {}
     virtual Result<TakeOutcome> take(const StoreItem& item) = 0;
     virtual Done commit() = 0;
+    virtual LateOutcomes takeLateOutcomes() { return {}; }
     virtual void rollback() = 0;
 };
 

@@ -13,6 +13,7 @@
 #include <QUrl>
 
 #include <sqlite3.h>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -183,7 +184,19 @@ int Database::changes() const {
 }
 
 void Database::setBusyTimeout(std::chrono::milliseconds timeout) {
-    sqlite3_busy_timeout(connection, static_cast<int>(timeout.count()));
+    patience = timeout;
+    sqlite3_busy_handler(connection, &Database::waitForOthers, this);
+}
+
+int Database::waitForOthers(void* self, int tries) {
+    auto* const database = static_cast<Database*>(self);
+    const auto now = std::chrono::steady_clock::now();
+    if (tries == 0)
+        database->waitingSince = now;
+    if (now - database->waitingSince >= database->patience)
+        return 0;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    return 1;
 }
 
 void Database::setCheckpointOnClose(bool on) {

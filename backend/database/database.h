@@ -56,7 +56,8 @@ public:
     std::int64_t lastInsertId() const;
     // Rows that the last statement changed.
     int changes() const;
-    // How long statements wait from now on for another program that is writing.
+    // How long statements wait from now on for another program that is writing. They look every millisecond,
+    // so that one that writes much needs to leave others but short pauses.
     void setBusyTimeout(std::chrono::milliseconds timeout);
     // While off, closing leaves the file and its log exactly as they are.
     void setCheckpointOnClose(bool on);
@@ -79,8 +80,12 @@ public:
 private:
     Database(QString path, sqlite3* connection);
 
+    static int waitForOthers(void* self, int tries);
+
     QString filePath;
     sqlite3* connection;
+    std::chrono::milliseconds patience{0};
+    std::chrono::steady_clock::time_point waitingSince;
     Error lastFailure;
     std::optional<Error> firstDamage;
     int damageCount = 0;

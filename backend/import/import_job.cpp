@@ -23,9 +23,9 @@ constexpr qint64 toldEvery = 100;  // milliseconds
 constexpr std::int64_t day = 86400;
 constexpr std::int64_t recentDays = 255;
 
-bool isRecent(const NewsItem& item) {
+bool isRecent(std::int64_t time) {
     const std::int64_t now = host_clock::now();
-    return item.time >= now - recentDays * day && item.time <= now + day;
+    return time >= now - recentDays * day && time <= now + day;
 }
 
 }  // namespace
@@ -79,7 +79,8 @@ void ImportJob::runFile(const QString& path) {
 }
 
 void ImportJob::takeFile(QFile& file, const QString& path) {
-    if (const Done begun = sink.begin(); !begun) {
+    const bool isMuch = file.size() > options.limits.atOnce;
+    if (const Done begun = isMuch ? sink.beginMany() : sink.begin(); !begun) {
         report.failure = begun.error();
         return;
     }
@@ -87,7 +88,8 @@ void ImportJob::takeFile(QFile& file, const QString& path) {
     ofFile.sourceName = QFileInfo(path).fileName();
     FileState state;
     const Done read = readAhead([&](const ItemVisitor& visit) { return readSource(file, ofFile, visit); },
-                                [&](SourceItem&& item) { return takeItem(std::move(item), path, state); });
+                                [&](SourceItem&& item) { return takeItem(std::move(item), path, state); },
+                                [this] { sink.pause(); });
     if (read && file.error() != QFileDevice::NoError)
         finishFile(path, state, makeError<import_errors::fileNotReadToEnd>(file.errorString()));
     else
@@ -111,16 +113,33 @@ bool ImportJob::store(const StoreItem& item, const QString& path, const Phrase& 
         state.failure = outcome.error();
         return false;
     }
-    if (outcome.value().take == Take::Rejected) {
-        rejectItem(path, place, *outcome.value().reason, state);
-        return true;
-    }
-    ++(outcome.value().take == Take::TakenIn ? state.totals.takenIn : state.totals.alreadyThere);
-    if (const auto* news = std::get_if<NewsItem>(&item)) {
-        state.newest = std::max(state.newest.value_or(news->time), news->time);
-        state.anyRecent = state.anyRecent || isRecent(*news);
-    }
+    const auto* const news = std::get_if<NewsItem>(&item);
+    const PutOff taken{place, news != nullptr ? std::optional(news->time) : std::nullopt};
+    if (outcome.value().take == Take::PutOff)
+        state.putOff.push_back(taken);
+    else
+        count(outcome.value(), path, taken, state);
     return true;
+}
+
+void ImportJob::count(const TakeOutcome& outcome, const QString& path, const PutOff& item, FileState& state) {
+    if (outcome.take == Take::Rejected) {
+        rejectItem(path, item.place, *outcome.reason, state);
+        return;
+    }
+    ++(outcome.take == Take::TakenIn ? state.totals.takenIn : state.totals.alreadyThere);
+    if (item.time) {
+        state.newest = std::max(state.newest.value_or(*item.time), *item.time);
+        state.anyRecent = state.anyRecent || isRecent(*item.time);
+    }
+}
+
+void ImportJob::countLate(const QString& path, FileState& state) {
+    const LateOutcomes late = sink.takeLateOutcomes();
+    for (std::size_t i = 0; i < late.putOff.size() && i < state.putOff.size(); ++i)
+        count(late.putOff[i], path, state.putOff[i], state);
+    state.totals.takenIn -= late.overtaken;
+    state.totals.alreadyThere += late.overtaken;
 }
 
 void ImportJob::finishFile(const QString& path, FileState& state, const Done& read) {
@@ -137,6 +156,7 @@ void ImportJob::finishFile(const QString& path, FileState& state, const Done& re
         report.failure = committed.error();
         return;
     }
+    countLate(path, state);
     ++report.filesRead;
     report.totals += state.totals;
     report.newest = std::max(report.newest, state.newest);

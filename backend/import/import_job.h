@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <vector>
 
 class QFile;
 
@@ -77,18 +78,26 @@ public:
     ImportReport run();
 
 private:
+    // An item that commit() decides on.
+    struct PutOff {
+        Phrase place;
+        std::optional<std::int64_t> time;  // of news
+    };
     // What happened to the file being read; it counts once the file is committed.
     struct FileState {
         ImportTotals totals;
         std::optional<std::int64_t> newest;
         bool anyRecent = false;
         std::optional<Error> failure;
+        std::vector<PutOff> putOff;
     };
 
     void runFile(const QString& path);
     void takeFile(QFile& file, const QString& path);
     bool takeItem(SourceItem&& item, const QString& path, FileState& state);
     bool store(const StoreItem& item, const QString& path, const Phrase& place, FileState& state);
+    void count(const TakeOutcome& outcome, const QString& path, const PutOff& item, FileState& state);
+    void countLate(const QString& path, FileState& state);
     void finishFile(const QString& path, FileState& state, const Done& read);
     void rejectFile(const QString& path, const Error& reason);
     void rejectItem(const QString& path, const Phrase& place, const Error& reason, FileState& state);

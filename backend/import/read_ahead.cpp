@@ -50,7 +50,12 @@ public:
         changed.notify_all();
     }
 
-    // For who takes them: waits for items; none when the reader has come to its end.
+    // For who takes them: whether there are any, and waits for them; none when the reader has come to its
+    // end.
+    bool hasAny() {
+        const std::lock_guard lock(mutex);
+        return hasEnded || !lots.empty();
+    }
     std::vector<SourceItem> pop() {
         std::unique_lock lock(mutex);
         changed.wait(lock, [this] { return hasEnded || !lots.empty(); });
@@ -100,12 +105,17 @@ bool takeAll(std::vector<SourceItem> items, const ItemVisitor& visit) {
 
 }  // namespace
 
-Done readAhead(const Reader& read, const ItemVisitor& visit) {
+Done readAhead(const Reader& read, const ItemVisitor& visit, const std::function<void()>& pause) {
     Waiting waiting;
     Done done = Nothing{};
     WorkerThread thread;
     thread.post([&] { done = readInto(waiting, read); });
-    for (auto items = waiting.pop(); !items.empty(); items = waiting.pop()) {
+    const auto next = [&] {
+        if (pause && !waiting.hasAny())
+            pause();
+        return waiting.pop();
+    };
+    for (auto items = next(); !items.empty(); items = next()) {
         if (!takeAll(std::move(items), visit))
             break;
     }

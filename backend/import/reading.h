@@ -31,6 +31,7 @@ struct ReadLimits {
     qint64 line = qint64(64)
                   << 20;  // bytes of one line of JSON with its end; a longer one is rejected, reading goes on
     qint64 file = qint64(512) << 20;  // bytes of a source that is read as a whole; a larger one is refused
+    qint64 atOnce = qint64(4) << 20;  // bytes of a file for which others can wait: some tenths of a second
 };
 
 struct ReadOptions {

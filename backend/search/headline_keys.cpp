@@ -21,7 +21,7 @@ void makeRoom(Keys& keys, std::size_t more) {
 HeadlineKeys::HeadlineKeys(Database& database)
     : all(database, "SELECT service, time, sequence, id FROM headlines ORDER BY service, time, sequence"),
       newer(database, "SELECT service, time, sequence, id FROM headlines WHERE id > ? ORDER BY id"),
-      newest(database, "SELECT max(id) FROM headlines"),
+      firstHidden(database, "SELECT min(first) FROM import_blocks WHERE hidden"),
       one(database, "SELECT time, sequence FROM headlines WHERE id = ? AND service = ?") {}
 
 bool HeadlineKeys::isOlder(const Key& a, const Key& b) {
@@ -39,11 +39,18 @@ bool HeadlineKeys::loadAll() {
     }
     for (auto& [service, keys] : byService)
         keys.shrink_to_fit();
-    if (!query.failed())
-        return true;
-    byService.clear();
-    lastId = 0;
-    return false;
+    hasLoaded = !query.failed() && passHidden();
+    if (!hasLoaded)
+        byService.clear();
+    return hasLoaded;
+}
+
+// What an import hides shows later, among the ids that are here already.
+bool HeadlineKeys::passHidden() {
+    Query query(firstHidden);
+    if (query.next() && !query.isNull(0))
+        lastId = std::min(lastId, query.number(0) - 1);
+    return !query.failed();
 }
 
 bool HeadlineKeys::catchUp() {
@@ -62,7 +69,7 @@ bool HeadlineKeys::catchUp() {
     }
     for (auto& [service, keys] : added)
         merge(byService[service], keys);
-    return true;
+    return passHidden();
 }
 
 // News that was sent again in its place has another id now, and stays one key.

@@ -17,7 +17,7 @@ class HeadlineKeys {
 public:
     explicit HeadlineKeys(Database& database);
 
-    bool isLoaded() const { return lastId > 0; }
+    bool isLoaded() const { return hasLoaded; }
     // Reads what is new since the last call; the first call reads all. False on failure.
     bool catchUp();
     // The entries of a service whose ids are in the set, newest first.
@@ -36,13 +36,15 @@ private:
     static bool isOlder(const Key& a, const Key& b);
     static void merge(Keys& known, Keys& added);
     bool loadAll();
+    bool passHidden();
 
     Statement all;
     Statement newer;
-    Statement newest;
+    Statement firstHidden;
     Statement one;
     std::map<unsigned char, Keys> byService;
-    std::int64_t lastId = 0;
+    bool hasLoaded = false;
+    std::int64_t lastId = 0;  // up to here nothing can come any more
 };
 
 }  // namespace wirepane

@@ -3,6 +3,7 @@
 #include "backend/search/search_dispatcher.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace wirepane {
@@ -46,10 +47,28 @@ SearchDispatcher::~SearchDispatcher() {
 void SearchDispatcher::ask(unsigned char service, int kind, const CSearch& condition) {
     Search& search = searchOf(kind, condition);
     present[kind] = search.id;
-    if (const auto older = search.pending.find(service); older != search.pending.end())
-        *older->second.dropped = true;
+    drop(search, service);
     send(search, service, std::nullopt);
     forgetOldest();
+}
+
+void SearchDispatcher::drop(Search& search, unsigned char service) {
+    if (const auto older = search.pending.find(service); older != search.pending.end())
+        *older->second.dropped = true;
+}
+
+void SearchDispatcher::renew() {
+    for (Search& search : searches) {
+        std::set<unsigned char> services;
+        for (const auto& [service, table] : search.tables)
+            services.insert(service);
+        for (const auto& [service, pending] : search.pending)
+            services.insert(service);
+        for (const unsigned char service : services) {
+            drop(search, service);
+            send(search, service, std::nullopt);
+        }
+    }
 }
 
 void SearchDispatcher::send(Search& search, unsigned char service, std::optional<News> news) {

@@ -40,6 +40,8 @@ public:
     // News has come that no view is told of by itself: the searches in that service that find some of it are
     // answered again.
     void lookAgain(unsigned char service, const std::vector<HeadlineKey>& news);
+    // The index holds more of the news that is there: all searches are answered again.
+    void renew();
     // The table of the present search.
     const std::vector<CHeadlineTable>& table(unsigned char service, int kind) const;
 
@@ -60,6 +62,7 @@ private:
     };
 
     Search& searchOf(int kind, const CSearch& condition);
+    static void drop(Search& search, unsigned char service);
     void send(Search& search, unsigned char service, std::optional<News> news);
     void take(std::int64_t ticket, std::vector<CHeadlineTable>&& entries);
     void deliver(Search& search, unsigned char service);

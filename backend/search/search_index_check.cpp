@@ -103,7 +103,10 @@ std::optional<QStringList> searchIndexFaults(Database& database, int most) {
     QStringList faults;
     Statement texts(database,
                     "SELECT news_text.id, news_text.title, story, service || '/' || identity "
-                    "FROM news_text JOIN headlines ON headlines.id = news_text.id ORDER BY news_text.id");
+                    "FROM news_text JOIN headlines ON headlines.id = news_text.id WHERE coalesce(("
+                    "SELECT last < headlines.id FROM import_blocks WHERE first <= headlines.id "
+                    "ORDER BY first DESC LIMIT 1), 1) "
+                    "ORDER BY news_text.id");
     Query query(texts);
     while (query.next()) {
         const auto indexed = sums.extract(query.number(0));

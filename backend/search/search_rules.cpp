@@ -22,11 +22,14 @@ constexpr const char* indexSettings =
 
 bool fillIndex(Database& database, const IndexProgress& progress) {
     std::int64_t last = 0;
-    if (!database.readNumber("SELECT coalesce(max(id), 0) FROM headlines", last))
+    if (!database.readNumber("SELECT coalesce(max(id), 0) FROM all_headlines", last))
         return false;
     Statement fill(database,
                    "INSERT INTO news_search(rowid, title, story) SELECT id, title, story FROM news_text "
-                   "WHERE id > ? AND id <= ?");
+                   "WHERE id > ? AND id <= ? AND "
+                   // What imports have brought and not indexed yet is still to come.
+                   "coalesce((SELECT last < id FROM import_blocks WHERE first <= id "
+                   "ORDER BY first DESC LIMIT 1), 1)");
     for (std::int64_t done = 0; done < last; done += headlinesAtOnce) {
         const std::int64_t end = std::min(done + headlinesAtOnce, last);
         if (!Query(fill, done, end).run())

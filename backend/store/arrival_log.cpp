@@ -13,9 +13,10 @@ ArrivalLog::ArrivalLog(Database& database, std::int64_t mostArrivals)
       newest(database, "SELECT coalesce(max(position), 0) FROM arrivals"),
       later(database,
             "SELECT max(position), min(only_story), 0, service, time, sequence FROM arrivals "
-            "JOIN headlines ON id = headline WHERE position > ?1 GROUP BY headline UNION ALL "
+            "JOIN headlines ON id = headline WHERE position > ?1 AND position <= ?2 GROUP BY headline UNION "
+            "ALL "
             "SELECT position, 0, 1, gone_service, gone_time, gone_sequence FROM arrivals "
-            "WHERE position > ?1 AND gone_service IS NOT NULL ORDER BY 1, 3"),
+            "WHERE position > ?1 AND position <= ?2 AND gone_service IS NOT NULL ORDER BY 1, 3"),
       most(mostArrivals) {}
 
 bool ArrivalLog::add(std::int64_t headlineId, bool onlyStory, const std::optional<HeadlineKey>& gone) {
@@ -33,9 +34,9 @@ std::optional<std::int64_t> ArrivalLog::last() {
     return query.next() ? std::optional(query.number(0)) : std::nullopt;
 }
 
-std::vector<Arrival> ArrivalLog::after(std::int64_t& position) {
+std::vector<Arrival> ArrivalLog::after(std::int64_t& position, std::int64_t last) {
     std::vector<Arrival> arrivals;
-    for (Query query(later, position); query.next();) {
+    for (Query query(later, position, last); query.next();) {
         position = query.number(0);
         const HeadlineKey key{query.number(4), query.smallNumber(5),
                               static_cast<unsigned char>(query.number(3))};

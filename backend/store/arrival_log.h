@@ -6,6 +6,7 @@
 #include "host/contract/records.h"
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -34,9 +35,11 @@ public:
 
     // The position of the last arrival; 0: none yet. Nothing on failure.
     std::optional<std::int64_t> last();
-    // What came after `position`, in its order; `position` moves to the last of it. News that was replaced
-    // again meanwhile stands at its last place only, each key that it lost behind the news that replaced it.
-    std::vector<Arrival> after(std::int64_t& position);
+    // What came after `position` and up to `last`, in its order; `position` moves to the last of it. News
+    // that was replaced again meanwhile stands at its last place only, each key that it lost behind the news
+    // that replaced it.
+    std::vector<Arrival> after(std::int64_t& position,
+                               std::int64_t last = std::numeric_limits<std::int64_t>::max());
 
 private:
     Statement insert;

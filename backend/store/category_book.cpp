@@ -17,8 +17,23 @@ CategoryBook::CategoryBook(Database& owner)
       highest(owner, "SELECT coalesce(max(id), 0) FROM categories WHERE space = ?"),
       insert(owner, "INSERT INTO categories(space, id, name, colour) VALUES(?, ?, ?, ?)"),
       update(owner, "UPDATE categories SET name = ?3, colour = ?4 WHERE space = ?1 AND id = ?2"),
-      insertLink(owner,
-                 "INSERT OR IGNORE INTO service_categories(service, category, space) VALUES(?, ?, ?)") {}
+      insertLink(owner, "INSERT OR IGNORE INTO service_categories(service, category, space) VALUES(?, ?, ?)"),
+      holdLink(owner,
+               "INSERT OR IGNORE INTO held_links(service, category, space) SELECT ?1, ?2, ?3 WHERE NOT "
+               "EXISTS(SELECT 1 FROM service_categories WHERE service = ?1 AND category = ?2)") {}
+
+bool CategoryBook::showHeld() {
+    return database.execute(
+        "INSERT OR IGNORE INTO service_categories(service, category, space) "
+        "SELECT service, category, space FROM held_links; DELETE FROM held_links");
+}
+
+bool CategoryBook::dropHeld() {
+    return database.execute(
+        "DELETE FROM categories WHERE (space, id) IN (SELECT space, category FROM held_links) AND NOT "
+        "EXISTS(SELECT 1 FROM service_categories WHERE service_categories.space = categories.space AND "
+        "category = id); DELETE FROM held_links");
+}
 
 std::optional<std::int32_t> CategoryBook::idOf(unsigned char service, const QString& name) {
     const auto known = ids.constFind({service, name});
@@ -56,6 +71,8 @@ std::optional<std::int32_t> CategoryBook::makeCategory(int space, const QString&
 }
 
 bool CategoryBook::link(unsigned char service, std::int32_t id, int& changes) {
+    if (isHolding)
+        return Query(holdLink, service, id, categorySpaceOf(service)).run();
     if (!Query(insertLink, service, id, categorySpaceOf(service)).run())
         return false;
     changes += database.changes();

@@ -19,6 +19,12 @@ public:
 
     // Forgets what may have been taken back: at the start of every transaction.
     void restart() { ids.clear(); }
+    // From now on a category that a name needs does not belong to the service yet, so that no reader sees it
+    // there: showHeld() makes the links, dropHeld() forgets them and the categories that were made for them.
+    // False on failure.
+    void holdLinks(bool on) { isHolding = on; }
+    bool showHeld();
+    bool dropHeld();
     // The id of a name in a service; the category is made where it is missing. Nothing on failure.
     std::optional<std::int32_t> idOf(unsigned char service, const QString& name);
     // Takes a category in: new, renamed, coloured (an empty colour leaves the one that is there).
@@ -39,6 +45,8 @@ private:
     Statement insert;
     Statement update;
     Statement insertLink;
+    Statement holdLink;
+    bool isHolding = false;
     QHash<std::pair<unsigned char, QString>, std::int32_t> ids;
 };
 

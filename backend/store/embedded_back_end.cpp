@@ -73,15 +73,16 @@ EmbeddedBackEnd::EmbeddedBackEnd(StoreConnections opened)
 
 void EmbeddedBackEnd::moveOn() {
     // So much is read again sooner than followed, and the log may not reach back.
-    constexpr std::int64_t mostFollowed = 50'000;
+    constexpr std::int64_t mostFollowed = 10'000;
     snapshot.moveOn();
-    const bool isFar = snapshot.position() - seen > mostFollowed;
-    const std::vector<Arrival> fresh = arrivals.after(seen);
-    delivery.add(fresh);
-    if (isFar) {
+    if (snapshot.position() - seen > mostFollowed) {
+        delivery.addRange(seen, snapshot.position());
+        seen = snapshot.position();
         forgetNews();
         return;
     }
+    const std::vector<Arrival> fresh = arrivals.after(seen);
+    delivery.add(fresh);
     for (const Arrival& arrival : fresh) {
         headlineCache.forget(arrival.key);
         if (arrival.isGone)
@@ -182,6 +183,7 @@ void EmbeddedBackEnd::checkForNews() {
         intake.ask({});
     tellNews();
     tellDue();
+    followIndex();
 }
 
 void EmbeddedBackEnd::tellDue() {

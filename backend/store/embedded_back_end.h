@@ -77,7 +77,10 @@ namespace wirepane {
 // its headline are sent.
 //
 // Other programs may write to the store meanwhile: checkForNews() tells the receivers of it.
-class EmbeddedBackEnd : public BKQuoteInterface, public NewsPositions, public ReadingMoment, public NewsDayFinder {
+class EmbeddedBackEnd : public BKQuoteInterface,
+                        public NewsPositions,
+                        public ReadingMoment,
+                        public NewsDayFinder {
 public:
     // Opens the store, or makes it (see openStore). One that cannot be written to is read: it takes nothing
     // in.
@@ -158,6 +161,9 @@ public:
     void nameBy(std::function<QString(const QString&)> naming) { nameOf = std::move(naming); }
     void setConvertsToSimplified(bool on) { simplified = on; }  // at first: false
     void setSysPath(const QString& path) { sysPath = path; }    // at first: the contract's default
+    // How many headlines (at most) searches do not find yet, since an import has brought more than the index
+    // holds; as of the last checkForNews(). All searches are answered again when it becomes 0.
+    std::int64_t searchBacklog() const { return unindexed; }
     const QString& storePath() const { return connections.reading->path(); }
     // What keeps the store from taking news in for as long as it lasts, found out without trying: a sentence;
     // empty when nothing does.
@@ -230,6 +236,7 @@ private:
     void tellHeadline(const HeadlineKey& key, std::int64_t position);
     // The headlines whose moment has come.
     void tellDue();
+    void followIndex();
     void push(const CHeadline& headline, const std::vector<CSymbolInfo>& symbols, std::int64_t position);
     void announce(const AnnouncedTables& tables);
     // The news day that a service has reported, to one who has just registered it.
@@ -276,6 +283,7 @@ private:
     bool symbolsRead = false;
     std::map<NewsReceiver*, std::set<unsigned char>> registrations;
     bool connected = true;
+    std::int64_t unindexed = 0;
     bool simplified = false;
     std::function<QString(const QString&)> nameOf = [](const QString& stored) { return stored; };
     QString sysPath;

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-// The look-ups of the back end into its news: tables, headlines, stories.
+// The look-ups of the back end into its news: tables, headlines, stories; and how far its index is.
 #include "backend/store/embedded_back_end.h"
+#include "backend/store/import_upkeep.h"
 #include "host/contract/clock.h"
 
 #include <limits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -97,6 +99,13 @@ bool EmbeddedBackEnd::BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& symbols, const CH
         return false;
     symbols.symbols = *std::move(found);
     return true;
+}
+
+void EmbeddedBackEnd::followIndex() {
+    const std::int64_t before =
+        std::exchange(unindexed, unindexedHeadlines(*connections.reading).value_or(0));
+    if (before > 0 && unindexed == 0)
+        searches.renew();
 }
 
 }  // namespace wirepane

@@ -36,18 +36,37 @@ void NewsDelivery::add(const std::vector<Arrival>& fresh) {
     position = fresh.back().position;
 }
 
+void NewsDelivery::addRange(std::int64_t after, std::int64_t last) {
+    if (!isOpen)
+        return;
+    ranges.push_back({after, last});
+    position = last;
+}
+
+void NewsDelivery::readOn() {
+    Range& range = ranges.front();
+    const std::int64_t last = std::min(range.after + batch, range.last);
+    const std::vector<Arrival> fresh = arrivals.after(range.after, last);
+    waiting.insert(waiting.end(), fresh.begin(), fresh.end());
+    range.after = last;
+    if (last == range.last)
+        ranges.pop_front();
+}
+
 void NewsDelivery::run() {
     // A receiver that takes news in itself only adds to what waits.
     if (!isOpen || isBusy || isPosted)
         return;
     isBusy = true;
+    if (waiting.empty() && !ranges.empty())
+        readOn();
     for (int left = batch; left > 0 && isOpen && !waiting.empty(); --left) {
         const Arrival next = waiting.front();
         waiting.pop_front();
         tell(next);
     }
     isBusy = false;
-    if (!isOpen || waiting.empty())
+    if (!isOpen || isDone())
         return;
     isPosted = true;
     QMetaObject::invokeMethod(

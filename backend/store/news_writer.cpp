@@ -6,26 +6,29 @@
 
 namespace wirepane {
 
-NewsWriter::NewsWriter(Database& owner)
+NewsWriter::NewsWriter(Database& owner, const ImportBlocks& importBlocks)
     : database(owner),
+      blocks(importBlocks),
       findIdentity(owner,
                    "SELECT id, version, time, day, sequence, category, "
-                   "EXISTS(SELECT 1 FROM stories WHERE headline = headlines.id AND text <> '') "
-                   "FROM headlines WHERE service = ? AND identity = ?"),
+                   "EXISTS(SELECT 1 FROM stories WHERE headline = all_headlines.id AND text <> '') "
+                   "FROM all_headlines WHERE service = ? AND identity = ?"),
       findKey(owner,
               "SELECT id, version, time, day, sequence, category, "
               "EXISTS(SELECT 1 FROM stories WHERE headline = headlines.id AND text <> '') "
               "FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),
-      findNumber(owner,
-                 "SELECT 1 FROM headlines WHERE service = ?1 AND sequence = ?2 AND (day = ?3 OR time = ?4) "
-                 "AND id <> ?5"),
+      findNumber(
+          owner,
+          "SELECT 1 FROM all_headlines WHERE service = ?1 AND sequence = ?2 AND (day = ?3 OR time = ?4) "
+          "AND id <> ?5"),
       insertHeadline(owner,
-                     "INSERT INTO headlines(service, time, sequence, day, category, version, received, "
+                     "INSERT INTO all_headlines(service, time, sequence, day, category, version, received, "
                      "identity, title) VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-      updateHeadline(owner,
-                     "UPDATE headlines SET id = (SELECT max(id) + 1 FROM headlines), time = ?2, sequence = "
-                     "?3, day = ?4, category = ?5, version = ?6, "
-                     "received = ?7, title = ?8 WHERE id = ?1 RETURNING id"),
+      updateHeadline(
+          owner,
+          "UPDATE all_headlines SET id = (SELECT max(id) + 1 FROM all_headlines), time = ?2, sequence = "
+          "?3, day = ?4, category = ?5, version = ?6, "
+          "received = ?7, title = ?8 WHERE id = ?1 RETURNING id"),
       insertText(owner, "INSERT INTO stories(headline, text) VALUES(?, ?)"),
       deleteText(owner, "DELETE FROM stories WHERE headline = ?"),
       insertRelated(owner,
@@ -101,6 +104,8 @@ bool NewsWriter::writeTexts(std::int64_t id, const QString& title, const std::op
     QByteArray text = story.value_or(QString()).toUtf8();
     if (story && !Query(insertText, id, QByteArrayView(text)).run())
         return false;
+    if (blocks.isUnindexed(id))
+        return true;
     text.replace("@@@@", "\n");
     return Query(insertSearched, id, title, QByteArrayView(text)).run();
 }
@@ -115,7 +120,7 @@ bool NewsWriter::takeFromSearch(std::int64_t id, QString& title) {
         story = query.text(1);
     }
     // The index forgets a text only when it is told the very text that it knows.
-    return Query(deleteSearched, id, title, story).run();
+    return blocks.isUnindexed(id) || Query(deleteSearched, id, title, story).run();
 }
 
 bool NewsWriter::writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place) {

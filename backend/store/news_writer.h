@@ -5,6 +5,7 @@
 #include "backend/database/database.h"
 #include "backend/database/statement.h"
 #include "backend/news_item.h"
+#include "backend/store/import_blocks.h"
 #include "host/contract/records.h"
 
 #include <cstdint>
@@ -30,14 +31,16 @@ struct NewsPlace {
     std::int32_t category = 0;
 };
 
-// The rows of one piece of news: headline, story, related symbols and search index, always in step.
-// Operations answer false on failure, which the database then holds.
+// The rows of one piece of news: headline, story, related symbols and search index, always in step but for
+// the ids of `blocks`, which the index does not hold yet. Operations answer false on failure, which the
+// database then holds.
 class NewsWriter {
 public:
-    explicit NewsWriter(Database& database);
+    NewsWriter(Database& database, const ImportBlocks& blocks);
 
     // Nothing when the news is not there, or on failure (then `failed` is set).
     std::optional<KnownNews> find(unsigned char service, const QString& identity, bool& failed);
+    // Of news that readers can see.
     std::optional<KnownNews> find(const HeadlineKey& key, bool& failed);
     // Whether no other piece of news than `exceptId` has this number on this day or at this time.
     bool isFree(const NewsItem& item, std::int32_t day, std::int32_t sequence, std::int64_t exceptId,
@@ -53,13 +56,14 @@ public:
 
 private:
     static std::optional<KnownNews> known(Query& query, bool& failed);
-    // The story, and what the index holds of the news.
+    // The story, and what the index is to hold of the news.
     bool writeTexts(std::int64_t id, const QString& title, const std::optional<QString>& story);
     bool writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place);
-    // Takes out what the index holds of a piece of news; `title` becomes the title that it had.
+    // Takes out what the index holds of a piece of news, if it does; `title` becomes the title that it had.
     bool takeFromSearch(std::int64_t id, QString& title);
 
     Database& database;
+    const ImportBlocks& blocks;
     Statement findIdentity;
     Statement findKey;
     Statement findNumber;

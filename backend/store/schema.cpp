@@ -122,7 +122,35 @@ ALTER TABLE arrivals ADD COLUMN gone_time INTEGER;
 ALTER TABLE arrivals ADD COLUMN gone_sequence INTEGER;
 )sql";
 
-constexpr std::array steps{firstVersion, arrivalsAndPositions, ownSearchWords, quotes, goneKeys};
+// What an import has brought so far stands among the rest, in blocks of ids that readers pass over: those
+// look through the views. A block that is shown and still listed is not in the search index yet.
+constexpr const char* blocksOfImports = R"sql(
+ALTER TABLE headlines RENAME TO all_headlines;
+CREATE TABLE import_blocks(
+    first INTEGER PRIMARY KEY,
+    last INTEGER NOT NULL,
+    hidden INTEGER NOT NULL);
+CREATE TABLE held_links(
+    service INTEGER NOT NULL,
+    category INTEGER NOT NULL,
+    space INTEGER NOT NULL,
+    PRIMARY KEY(service, category)) WITHOUT ROWID;
+CREATE TABLE set_aside(
+    headline INTEGER PRIMARY KEY,
+    identity TEXT NOT NULL);
+
+CREATE VIEW headlines AS SELECT * FROM all_headlines WHERE
+    +id < (SELECT coalesce(min(first), 9223372036854775807) FROM import_blocks WHERE hidden) OR
+    coalesce((SELECT last < all_headlines.id OR NOT hidden FROM import_blocks
+              WHERE first <= all_headlines.id ORDER BY first DESC LIMIT 1), 1);
+CREATE VIEW shown_symbols AS SELECT * FROM related_symbols WHERE
+    +headline < (SELECT coalesce(min(first), 9223372036854775807) FROM import_blocks WHERE hidden) OR
+    coalesce((SELECT last < headline OR NOT hidden FROM import_blocks
+              WHERE first <= headline ORDER BY first DESC LIMIT 1), 1);
+)sql";
+
+constexpr std::array steps{firstVersion, arrivalsAndPositions, ownSearchWords, quotes,
+                           goneKeys,     blocksOfImports};
 
 }  // namespace
 

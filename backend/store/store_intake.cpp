@@ -18,14 +18,17 @@ namespace {
 // Who finds the store busy tries again later, and lets others have their turn meanwhile.
 constexpr std::chrono::milliseconds patience{250};
 constexpr qint64 longLog = 16 << 20;  // bytes
+constexpr std::chrono::milliseconds betweenPieces{20};
+constexpr std::chrono::milliseconds importsLookedAfter{1000};
 
 }  // namespace
 
 StoreIntake::StoreIntake(Database& store, StoreSync& storeSync, Reported reported)
-    : database(store), sync(storeSync), tell(std::move(reported)) {
+    : database(store), sync(storeSync), tell(std::move(reported)), importLock(store.path()) {
     database.setBusyTimeout(patience);
     writer = std::make_unique<StoreWriter>(database);
     database.readNumber("PRAGMA data_version", lastVersion.emplace());
+    thread.post([this] { lookForUpkeep(); });
 }
 
 StoreIntake::~StoreIntake() {
@@ -58,9 +61,40 @@ WorkReport StoreIntake::perform(const Work& work) {
     WorkReport done{.symbols = writer->takeChangedSymbols(), .damage = database.damage()};
     std::int64_t version = 0;
     done.byOthers = !database.readNumber("PRAGMA data_version", version) || version != lastVersion;
-    done.isLogLong = done.byOthers && QFileInfo(database.path() + u"-wal"_s).size() > longLog;
+    // An import that is under way looks after the log itself.
+    done.isLogLong = done.byOthers && !upkeep && QFileInfo(database.path() + u"-wal"_s).size() > longLog;
     lastVersion = version;
+    if (done.byOthers)
+        lookForUpkeep();
     return done;
+}
+
+void StoreIntake::lookForUpkeep() {
+    if (upkeep || database.isReadOnly() || !needsUpkeep(database))
+        return;
+    upkeep = std::make_unique<ImportUpkeep>(database);
+    thread.postLater(betweenPieces, [this] { doUpkeep(); });
+}
+
+// An import that is under way does it itself, unless it is killed; one that wants to begin may do so between
+// two pieces.
+void StoreIntake::doUpkeep() {
+    const bool isOurs = importLock.take() == ImportLock::Taken::Yes;
+    const bool isMore = isOurs ? doPieceOfUpkeep() : needsUpkeep(database);
+    importLock.release();
+    if (isMore)
+        thread.postLater(isOurs ? betweenPieces : importsLookedAfter, [this] { doUpkeep(); });
+    else
+        upkeep.reset();
+}
+
+// Whether more is left. What fails is tried again when another program has written.
+bool StoreIntake::doPieceOfUpkeep() {
+    const Result<bool> cleared = upkeep->clearSome();
+    if (!cleared || cleared.value())
+        return bool(cleared);
+    const Result<bool> indexed = upkeep->indexSome();
+    return indexed && indexed.value();
 }
 
 void StoreIntake::report(const WorkReport& done) {

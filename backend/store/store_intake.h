@@ -3,6 +3,8 @@
 #pragma once
 
 #include "backend/database/database.h"
+#include "backend/store/import_lock.h"
+#include "backend/store/import_upkeep.h"
 #include "backend/store/store_writer.h"
 #include "backend/worker_thread.h"
 
@@ -60,15 +62,21 @@ private:
     // On the thread:
     WorkReport perform(const Work& work);
     void checkpoint();
+    // What imports have left to do, a piece at a time, so that what is asked meanwhile waits for no more.
+    void lookForUpkeep();
+    void doUpkeep();
+    bool doPieceOfUpkeep();
 
     Database& database;
     StoreSync& sync;
     Reported tell;
     std::unique_ptr<StoreWriter> writer;
     std::optional<std::int64_t> lastVersion;  // of the store, as others have left it
-    std::deque<Job> jobs;                     // the first is under way
-    CallQueue answers;                        // on the interface thread
-    WorkerThread thread;                      // last: it uses all of the above
+    ImportLock importLock;
+    std::unique_ptr<ImportUpkeep> upkeep;  // while there is something to do
+    std::deque<Job> jobs;                  // the first is under way
+    CallQueue answers;                     // on the interface thread
+    WorkerThread thread;                   // last: it uses all of the above
 };
 
 }  // namespace wirepane

@@ -35,8 +35,9 @@ std::int64_t awaitedSince() {
 
 StoreReader::StoreReader(Database& database)
     : dataVersion(database, "PRAGMA data_version"),
-      allServices(database, "SELECT id FROM services ORDER BY position, id"),
-      oneService(database, "SELECT full_name, short_name, authorised FROM services WHERE id = ?"),
+      allServices(database, "SELECT id FROM services WHERE position > 0 ORDER BY position, id"),
+      oneService(database,
+                 "SELECT full_name, short_name, authorised FROM services WHERE id = ? AND position > 0"),
       allCategories(database,
                     "SELECT id, name, colour FROM service_categories "
                     "JOIN categories ON categories.space = service_categories.space AND id = category "
@@ -47,7 +48,7 @@ StoreReader::StoreReader(Database& database)
                  "SELECT time, sequence FROM headlines WHERE service = ? AND category = ? AND time >= ? AND "
                  "time < ? ORDER BY time DESC, sequence DESC"),
       bySymbol(database,
-               "SELECT time, sequence FROM related_symbols WHERE service = ? AND market = ? AND code = ? AND "
+               "SELECT time, sequence FROM shown_symbols WHERE service = ? AND market = ? AND code = ? AND "
                "time >= ? AND time < ? ORDER BY time DESC, sequence DESC"),
       oneHeadline(database,
                   "SELECT title, category FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),

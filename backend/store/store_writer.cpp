@@ -38,19 +38,37 @@ Error numberTaken(const NewsItem& item) {
 
 StoreWriter::StoreWriter(Database& owner)
     : database(owner),
-      news(owner),
+      blocks(owner),
+      news(owner, blocks),
       numbers(owner),
       categories(owner),
       arrivals(owner),
       positions(owner),
       quotes(owner),
       insertService(owner,
-                    "INSERT OR IGNORE INTO services(id, full_name, short_name, position) "
-                    "SELECT ?1, ?2, ?2, coalesce(max(position), 0) + 1 FROM services"),
+                    "INSERT INTO services(id, full_name, short_name, position) "
+                    "SELECT ?1, ?2, ?2, coalesce(max(position), 0) + 1 FROM services WHERE true "
+                    "ON CONFLICT(id) DO UPDATE SET position = excluded.position WHERE services.position = 0"),
+      insertHiddenService(owner,
+                          "INSERT OR IGNORE INTO services(id, full_name, short_name, position) "
+                          "VALUES(?1, ?2, ?2, 0)"),
+      noteAside(
+          owner,
+          "INSERT INTO set_aside(headline, identity) SELECT id, identity FROM all_headlines WHERE id = ?"),
+      // No identity of a source begins with such a character.
+      renameAside(owner, "UPDATE all_headlines SET identity = char(1) || id WHERE id = ?"),
       findSymbol(owner, "SELECT name, category FROM symbols WHERE market = ? AND code = ?"),
       writeSymbol(owner, "REPLACE INTO symbols(market, code, name, category) VALUES(?, ?, ?, ?)") {}
 
 Done StoreWriter::begin() {
+    return beginAs(false);
+}
+
+Done StoreWriter::beginHidden() {
+    return beginAs(true);
+}
+
+Done StoreWriter::beginAs(bool isHidden) {
     if (database.wasTakenAway())
         return takenAwayError(database.path());
     if (!database.begin())
@@ -60,13 +78,27 @@ Done StoreWriter::begin() {
     services.clear();
     days = {};
     begun = true;
+    isHiding = isHidden;
+    categories.holdLinks(isHidden);
+    if (!blocks.load() || (isHidden && !blocks.hideNew()))
+        return fail();
+    return Nothing{};
+}
+
+Done StoreWriter::showHidden() {
+    if (!database.execute(
+            "INSERT INTO arrivals(headline, only_story) SELECT id, 0 FROM import_blocks "
+            "CROSS JOIN all_headlines ON id BETWEEN first AND last WHERE hidden ORDER BY first, id;"
+            "UPDATE services SET position = (SELECT max(position) FROM services) + 1 WHERE position = 0") ||
+        !categories.showHeld() || !blocks.show())
+        return fail();
     return Nothing{};
 }
 
 Done StoreWriter::commit() {
     if (!begun)
         return makeError<store_errors::nothingToKeep>();
-    if (!numbers.save() || !arrivals.trim() || !database.commit())
+    if (!numbers.save() || (isHiding ? !blocks.keepNew() : !arrivals.trim()) || !database.commit())
         return fail();
     begun = false;
     keptSymbols = changedSymbols.size();
@@ -116,20 +148,40 @@ Result<StoredNews> StoreWriter::takeNews(const NewsItem& given) {
     if (const auto fault = faultOf(item))
         return rejected(*fault);
     bool failed = false;
-    const std::optional<KnownNews> known = news.find(item.service, item.identity, failed);
+    std::optional<KnownNews> known = news.find(item.service, item.identity, failed);
     if (failed)
         return fail();
+    if (known && !isHiding && blocks.isHidden(known->id)) {
+        if (!setAside(known->id))
+            return fail();
+        known.reset();
+    }
     if (!known)
         return add(item);
-    if (isLater(item, *known))
-        return replace(item, *known);
-    if (item.version == known->version && !item.story.value_or(QString()).isEmpty() && !known->hasStory)
-        return addStory(item, *known);
+    const bool isNewer = isLater(item, *known);
+    const bool bringsStory = !isNewer && item.version == known->version &&
+                             !item.story.value_or(QString()).isEmpty() && !known->hasStory;
     StoredNews stored;
+    if (isHiding && (isNewer || bringsStory) && !blocks.isHidden(known->id)) {
+        stored.outcome.take = Take::PutOff;
+        return stored;
+    }
+    if (isNewer)
+        return replace(item, *known);
+    if (bringsStory)
+        return addStory(item, *known);
     stored.outcome.take = Take::AlreadyThere;
     stored.key = keyOf(item, *known);
     stored.categoryId = known->category;
     return stored;
+}
+
+bool StoreWriter::noteArrival(std::int64_t id, bool onlyStory, const std::optional<HeadlineKey>& gone) {
+    return isHiding || arrivals.add(id, onlyStory, gone);
+}
+
+bool StoreWriter::setAside(std::int64_t id) {
+    return Query(noteAside, id).run() && Query(renameAside, id).run();
 }
 
 Result<StoredNews> StoreWriter::add(const NewsItem& item) {
@@ -141,7 +193,7 @@ Result<StoredNews> StoreWriter::add(const NewsItem& item) {
         return rejected(numberTaken(item));
     place.sequence = *number.value();
     if (!ensureService(item.service) || !findCategory(item, place.category) || !news.insert(item, place) ||
-        !arrivals.add(news.writtenId(), false))
+        !noteArrival(news.writtenId(), false))
         return fail();
     StoredNews stored;
     stored.key = {item.time, place.sequence, item.service};
@@ -162,14 +214,14 @@ Result<StoredNews> StoreWriter::replace(const NewsItem& item, const KnownNews& k
     stored.before = keyOf(item, known);
     const std::optional<HeadlineKey> gone = stored.before == stored.key ? std::nullopt : stored.before;
     if (!findCategory(item, place.category) || !news.replace(known.id, item, place) ||
-        !arrivals.add(news.writtenId(), false, gone))
+        !noteArrival(news.writtenId(), false, gone))
         return fail();
     stored.categoryId = place.category;
     return stored;
 }
 
 Result<StoredNews> StoreWriter::addStory(const NewsItem& item, const KnownNews& known) {
-    if (!news.putStory(known.id, *item.story) || !arrivals.add(known.id, true))
+    if (!news.putStory(known.id, *item.story) || !noteArrival(known.id, true))
         return fail();
     StoredNews stored;
     stored.onlyStory = true;
@@ -191,7 +243,7 @@ Result<TakeOutcome> StoreWriter::takeStory(const HeadlineKey& key, const QString
         return fail();
     if (!known)
         return TakeOutcome{Take::Rejected, makeError<store_errors::noHeadline>()};
-    if (!news.putStory(known->id, story) || !arrivals.add(known->id, true))
+    if (!news.putStory(known->id, story) || !noteArrival(known->id, true))
         return fail();
     return TakeOutcome{};
 }
@@ -237,7 +289,8 @@ Result<std::optional<std::int32_t>> StoreWriter::numberFor(const NewsItem& item,
 bool StoreWriter::ensureService(unsigned char service) {
     if (services.contains(service))
         return true;
-    if (!Query(insertService, service, u"Service %1"_s.arg(service)).run())
+    Statement& insert = isHiding ? insertHiddenService : insertService;
+    if (!Query(insert, service, u"Service %1"_s.arg(service)).run())
         return false;
     services.insert(service);
     return true;

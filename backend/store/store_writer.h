@@ -47,6 +47,12 @@ public:
     explicit StoreWriter(Database& database);
 
     Done begin() override;
+    // As begin(): what is taken in until commit() stays hidden from readers, is told to nobody and is not in
+    // the search index, until a transaction begun by begin() shows it. Only news is taken, and an item that
+    // would change news which readers see is put off.
+    Done beginHidden();
+    // In a transaction begun by begin(): shows all that is hidden, as what came last.
+    Done showHidden();
     Result<TakeOutcome> take(const StoreItem& item) override;
     Done commit() override;
     void rollback() override;
@@ -66,10 +72,14 @@ public:
     std::vector<SymbolItem> takeChangedSymbols();
 
 private:
+    Done beginAs(bool isHidden);
     Result<TakeOutcome> takeSymbol(const SymbolItem& item);
     Result<TakeOutcome> takeCategory(const CategoryItem& item);
     Result<TakeOutcome> takeQuote(const QuoteItem& item);
 
+    // News that readers do not see yet gives way to news that they will see at once.
+    bool setAside(std::int64_t id);
+    bool noteArrival(std::int64_t id, bool onlyStory, const std::optional<HeadlineKey>& gone = {});
     Result<StoredNews> add(const NewsItem& item);
     Result<StoredNews> replace(const NewsItem& item, const KnownNews& known);
     Result<StoredNews> addStory(const NewsItem& item, const KnownNews& known);
@@ -83,6 +93,7 @@ private:
     Error fail();
 
     Database& database;
+    ImportBlocks blocks;
     NewsWriter news;
     DayNumbers numbers;
     CategoryBook categories;
@@ -90,6 +101,9 @@ private:
     FeedPositions positions;
     QuoteBook quotes;
     Statement insertService;
+    Statement insertHiddenService;
+    Statement noteAside;
+    Statement renameAside;
     Statement findSymbol;
     Statement writeSymbol;
     LocalDays days;
@@ -97,6 +111,7 @@ private:
     std::vector<SymbolItem> changedSymbols;  // the last of them by the running transaction
     std::size_t keptSymbols = 0;             // of them, by those before
     bool begun = false;
+    bool isHiding = false;
     std::atomic<bool> isStopped = false;
 };
 

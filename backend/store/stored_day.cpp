@@ -47,7 +47,7 @@ Done StoredDay::copyCatalogues(Database& target) const {
     Statement attach(target, "ATTACH ? AS source");
     const bool attached = Query(attach, database->path()).run();
     if (attached && target.execute("BEGIN; DELETE FROM service_categories; DELETE FROM categories;"
-                                   "REPLACE INTO services SELECT * FROM source.services;"
+                                   "REPLACE INTO services SELECT * FROM source.services WHERE position > 0;"
                                    "INSERT INTO categories SELECT * FROM source.categories;"
                                    "INSERT INTO service_categories SELECT * FROM source.service_categories;"
                                    "REPLACE INTO symbols SELECT * FROM source.symbols;"

@@ -32,7 +32,8 @@ BigStore::BigStore(int headlines) : file(folder.filePath(u"big.db"_s)) {
         "WITH ids(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM ids WHERE i < " +
         count +
         " - 1) "
-        "INSERT INTO headlines(service, time, sequence, day, category, version, received, identity, title) "
+        "INSERT INTO all_headlines(service, time, sequence, day, category, version, received, identity, "
+        "title) "
         "SELECT i % " +
         services + " + 1, " + time + ", i / " + services +
         " + 1, 20260302, i % 5 + 1, 0, 0, "

@@ -63,7 +63,7 @@ PlainInserts::PlainInserts(const std::vector<NewsItem>& items) {
 void PlainInserts::run(Database& store) const {
     Insert headline(
         store,
-        "INSERT INTO headlines(service, time, sequence, day, category, version, received, identity, "
+        "INSERT INTO all_headlines(service, time, sequence, day, category, version, received, identity, "
         "title) VALUES(?, ?, ?, 20260302, 1, 0, 0, ?, ?)");
     Insert story(store, "INSERT INTO stories(headline, text) VALUES(?, ?)");
     Insert related(store,

@@ -71,7 +71,7 @@ SearchStore::SearchStore(int stories) : file(folder.filePath(u"search.db"_s)) {
         check(Query(service, i).run(), *store);
     Statement headline(
         *store,
-        "INSERT INTO headlines(id, service, time, sequence, day, category, version, received, identity, "
+        "INSERT INTO all_headlines(id, service, time, sequence, day, category, version, received, identity, "
         "title) VALUES(?1, ?2, ?3, ?1, 20260302, 1, 0, 0, ?1, ?4)");
     Statement text(*store, "INSERT INTO stories VALUES(?, ?)");
     Statement search(*store, "INSERT INTO news_search(rowid, title, story) VALUES(?, ?, ?)");

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 // A live feed from its lines to the rows on screen: a sender on a socket, the store, three views. How much
 // comes through at full rate and how long a key waits meanwhile; how long a line takes to its painted row
-// when 500 come in a second.
+// when 500 come in a second, and when ten do while a large file is imported into the same store.
 #include "backend/feed/live_feed.h"
 #include "backend/feed/socket_source.h"
+#include "backend/import/import_job.h"
 #include "backend/store/embedded_back_end.h"
+#include "backend/store/staged_import.h"
+#include "bench/backend/news_file.h"
 #include "bench/backend/store_timing.h"
 #include "bench/news_view/key_watch.h"
 #include "bench/support/run_benchmarks.h"
@@ -69,6 +72,7 @@ public:
         feed.addSource(std::make_shared<SocketSource>(socketName()));
         QApplication::processEvents();
     }
+    QString storePath() const { return folder.filePath(u"news.db"_s); }
     QString socketName() const { return folder.filePath(u"feed"_s); }
     CSuperSheetWnd& sheet(std::size_t view = 0) { return *views.at(view).view->sheetOf(0); }
     // Until every view has so many rows and has painted.
@@ -104,7 +108,7 @@ public:
             socket.connectToServer(name);
             socket.waitForConnected();
             const auto from = Clock::now();
-            for (int i = 0; i < count; ++i) {
+            for (int i = 0; i < count && !over; ++i) {
                 if (perSecond > 0)
                     std::this_thread::sleep_until(from +
                                                   std::chrono::microseconds(1'000'000LL * i / perSecond));
@@ -204,6 +208,57 @@ void lineToPaintedRow(benchmark::State& state) {
     }
 }
 
+// As another program does it.
+class Importing {
+public:
+    Importing(const QString& store, const NewsFile& file) {
+        thread = std::thread([this, store, &file] {
+            const auto database = opened(store);
+            StagedImport staged(*database);
+            const auto from = Clock::now();
+            takenIn = ImportJob({file.path}, staged, file.options).run().totals.takenIn;
+            shownAfter = secondsSince(from);
+            while (staged.indexSome().value()) {
+            }
+            indexedAfter = secondsSince(from);
+            isDone = true;
+        });
+    }
+    ~Importing() { thread.join(); }
+
+    std::atomic<bool> isDone = false;
+    qint64 takenIn = 0;
+    double shownAfter = 0;
+    double indexedAfter = 0;
+
+private:
+    std::thread thread;
+};
+
+void lineToPaintedRowBesideAnImport(benchmark::State& state) {
+    const int count = static_cast<int>(state.range(0));
+    constexpr int perSecond = 10;
+    constexpr int mostLines = 20'000;
+    constexpr std::int64_t longAgo = 1'600'000'000;
+    const NewsFile file(Format::Rss, count, longAgo);
+    for (auto unused : state) {
+        LiveDesk desk;
+        Sender sender(desk.socketName(), mostLines, perSecond);
+        PaintWatch watch(desk.sheet(), sender);
+        desk.awaitRows(2 * perSecond);
+        {
+            const Importing import(desk.storePath(), file);
+            while (!import.isDone)
+                QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+            if (import.takenIn != count)
+                throw std::runtime_error("the file was not taken in whole");
+            state.counters["shown_per_s"] = count / import.shownAfter;
+            state.counters["items_per_s"] = count / import.indexedAfter;
+        }
+        countWaits(state, watch.waits());
+    }
+}
+
 }  // namespace
 
 namespace wirepane {
@@ -211,6 +266,11 @@ namespace wirepane {
 BENCHMARK(keysDuringALiveFeed)
     ->Arg(1000)
     ->Arg(30'000)
+    ->Arg(200'000)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(lineToPaintedRowBesideAnImport)
+    ->Arg(20'000)
     ->Arg(200'000)
     ->Iterations(1)
     ->Unit(benchmark::kMillisecond);

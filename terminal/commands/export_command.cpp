@@ -83,6 +83,7 @@ Result<std::vector<CHeadlineTable>> wantedNews(EmbeddedBackEnd& backEnd, const E
         const auto store = openStoreToRead(backEnd.storePath());
         if (!store)
             return store.error();
+        noteBacklog(*store.value());
         const auto found = findAll(*store.value(), services, options.condition);
         return found ? Result<std::vector<CHeadlineTable>>(*found) : store.value()->failure();
     }

@@ -5,12 +5,12 @@
 #include "backend/import/import_job.h"
 #include "backend/import/mapping.h"
 #include "backend/import/source_formats.h"
-#include "backend/store/store_writer.h"
+#include "backend/store/staged_import.h"
 #include "terminal/commands/command_arguments.h"
-#include "terminal/session/import_report.h"
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
 #include "terminal/console/interrupt.h"
+#include "terminal/session/import_report.h"
 #include "terminal/session/store_opening.h"
 #include "terminal/translations/shown_text.h"
 
@@ -54,6 +54,20 @@ QString formatsForHelp() {
         formats +=
             format.forms.isEmpty() ? format.name.toString() : u"%1 (%2)"_s.arg(format.name, format.forms);
     return formats.join(u", "_s);
+}
+
+// Others can read what was taken in meanwhile; whoever opens the store next goes on with what is left here.
+void fillIndex(StagedImport& staged, Database& store, const std::atomic<bool>& interrupted) {
+    const std::int64_t total = unindexedHeadlines(store).value_or(0);
+    QElapsedTimer started;
+    started.start();
+    for (Result<bool> isMore = true; isMore && isMore.value() && !interrupted; isMore = staged.indexSome()) {
+        const std::int64_t left = unindexedHeadlines(store).value_or(0);
+        if (started.elapsed() > silentMs && total > 0)
+            printPassing(
+                u"Search index: %1 % – %2 headlines to go"_s.arg((total - left) * 100 / total).arg(left));
+    }
+    clearPassing();
 }
 
 int reportEnd(const ImportReport& report, const Wording& worded) {
@@ -119,8 +133,12 @@ int runImport() {
         printNote(worded(store.error()));
         return exitUnusable;
     }
-    StoreWriter writer(*store.value());
-    ImportJob job(arguments.rest(), writer, options);
+    StagedImport staged(*store.value());
+    staged.onWaiting([&interrupted] {
+        printPassing(u"Another import into this store is under way; waiting for its end."_s);
+        return !interrupted;
+    });
+    ImportJob job(arguments.rest(), staged, options);
     job.onRejection([&worded](const ImportRejection& rejected) { printNote(worded(rejectionOf(rejected))); });
     QElapsedTimer started;
     started.start();
@@ -133,7 +151,11 @@ int runImport() {
         job.stop();
     const ImportReport report = job.run();
     running = nullptr;
-    return reportEnd(report, worded);
+    const int status = reportEnd(report, worded);
+    // The terminal does so itself.
+    if (!arguments.parser.isSet(asValues))
+        fillIndex(staged, *store.value(), interrupted);
+    return status;
 }
 
 }  // namespace wirepane

@@ -3,8 +3,10 @@
 #include "terminal/commands/news_query.h"
 
 #include "backend/search/news_search.h"
+#include "backend/store/import_upkeep.h"
 #include "host/contract/search_choices.h"
 #include "terminal/commands/command_arguments.h"
+#include "terminal/console/console.h"
 
 #include <algorithm>
 
@@ -79,6 +81,12 @@ std::optional<std::vector<CHeadlineTable>> findAll(Database& store,
     }
     std::stable_sort(all.begin(), all.end(), isNewer);
     return all;
+}
+
+void noteBacklog(Database& store) {
+    if (const std::int64_t left = unindexedHeadlines(store).value_or(0); left > 0)
+        printNote(
+            u"%1 headlines of an import are not in the search index yet, and not searched."_s.arg(left));
 }
 
 }  // namespace wirepane

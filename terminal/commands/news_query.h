@@ -27,4 +27,7 @@ std::optional<std::vector<CHeadlineTable>> findAll(Database& store,
                                                    const std::vector<unsigned char>& services,
                                                    const CSearch& condition);
 
+// Tells the user that what findAll() gave may lack something, where the search index is behind the store.
+void noteBacklog(Database& store);
+
 }  // namespace wirepane

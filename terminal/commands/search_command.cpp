@@ -99,6 +99,7 @@ int runSearch() {
         printNote(sentence(database.damage().value_or(database.failure())));
         return exitUnusable;
     }
+    noteBacklog(database);
     return printFound(database, *found, std::size_t(most), arguments.parser.isSet(u"json"_s));
 }
 

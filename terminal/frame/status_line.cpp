@@ -80,11 +80,12 @@ StatusLine::StatusLine(QWidget* parent)
       last(addLabel()),
       asOf(addLabel()),
       present(new QPushButton(this)),
+      index(addLabel()),
       headlines(addLabel()),
       services(addLabel()),
       clock(addLabel()) {
     actions->setTextFormat(Qt::RichText);
-    for (QLabel* weak : {last, headlines, services, clock})
+    for (QLabel* weak : {last, index, headlines, services, clock})
         weak->setForegroundRole(QPalette::PlaceholderText);
     actions->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     present->setAutoDefault(false);
@@ -94,7 +95,7 @@ StatusLine::StatusLine(QWidget* parent)
     for (QWidget* part : std::initializer_list<QWidget*>{feed, actions, last, asOf, present})
         row->addWidget(part);
     row->addStretch(1);
-    for (QWidget* part : {headlines, services, clock})
+    for (QWidget* part : {index, headlines, services, clock})
         row->addWidget(part);
     connect(actions, &QLabel::linkActivated, this,
             [this](const QString& name) { name == "import"_L1 ? emit importAsked() : emit connectAsked(); });
@@ -132,6 +133,10 @@ void StatusLine::show(const FrameStatus& status) {
     present->setText(terminalText(TextId::Present));
     present->setVisible(!status.asOf.isEmpty());
     const QLocale figures(QLocale::English);
+    showText(index,
+             status.searchBacklog == 0
+                 ? QString()
+                 : terminalText(TextId::SearchBacklog).arg(figures.toString(qint64(status.searchBacklog))));
     showText(headlines, status.headlines < 0
                             ? QString()
                             : terminalText(TextId::HeadlineCount).arg(figures.toString(status.headlines)));

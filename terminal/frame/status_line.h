@@ -23,8 +23,9 @@ struct FrameStatus {
     QString storeFile;
     int services = 0;  // that are ticked, of those that there are
     int allServices = 0;
-    int headlines = -1;  // of the list on show; -1: there is none
-    QString asOf;        // empty: the present moment is the machine's
+    int headlines = -1;              // of the list on show; -1: there is none
+    QString asOf;                    // empty: the present moment is the machine's
+    std::int64_t searchBacklog = 0;  // headlines that searches do not find yet
 };
 
 // The contents of the status bar: what one reads at its left, what one can do about it, and at its right the
@@ -51,6 +52,7 @@ private:
     QLabel* last;
     QLabel* asOf;
     QPushButton* present;
+    QLabel* index;
     QLabel* headlines;
     QLabel* services;
     QLabel* clock;

@@ -117,6 +117,7 @@ FrameStatus StatusReport::now(const QString& storeFile, bool isSampleFollowed) c
     status.allServices = static_cast<int>(services.size());
     status.services = status.allServices;
     status.asOf = asOfText();
+    status.searchBacklog = backEnd.searchBacklog();
     if (const OpenView* active = workspace.active()) {
         const QVariantMap view = active->access->state();
         status.services = tickedServices(view);

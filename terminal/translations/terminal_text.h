@@ -46,6 +46,7 @@ enum class TextId {
     SourceStale,
     SourceFailed,
     ServicesCount,
+    SearchBacklog,
     AsOf,
     LastHeadline,
     SecondsAgo,

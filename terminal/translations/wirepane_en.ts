@@ -1963,6 +1963,10 @@
         <source></source>
         <translation>&amp;Light</translation>
     </message>
+    <message id="TERMINAL_SEARCH_BACKLOG">
+        <source></source>
+        <translation>Search lacks %1 headlines: its index follows</translation>
+    </message>
     <message id="TERMINAL_SECONDS_AGO">
         <source></source>
         <translation>%1 s ago</translation>

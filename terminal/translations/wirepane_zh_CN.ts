@@ -1963,6 +1963,10 @@
         <source></source>
         <translation>浅色(&amp;L)</translation>
     </message>
+    <message id="TERMINAL_SEARCH_BACKLOG">
+        <source></source>
+        <translation>搜索暂缺 %1 条标题：索引建立中</translation>
+    </message>
     <message id="TERMINAL_SECONDS_AGO">
         <source></source>
         <translation>%1 秒前</translation>

@@ -1963,6 +1963,10 @@
         <source></source>
         <translation>淺色(&amp;L)</translation>
     </message>
+    <message id="TERMINAL_SEARCH_BACKLOG">
+        <source></source>
+        <translation>搜尋暫缺 %1 則標題：索引建立中</translation>
+    </message>
     <message id="TERMINAL_SECONDS_AGO">
         <source></source>
         <translation>%1 秒前</translation>

@@ -63,7 +63,7 @@ TEST_F(ReplayTest, ADayIsPlayedInItsOrderOnceOrAsNews) {
 
 TEST_F(ReplayTest, ADayThatCannotBeReadOnIsSaidToBeSo) {
     const auto day = std::move(StoredDay::open(archive, QDate(2026, 3, 2)).value());
-    ASSERT_TRUE(openStore(archive).value()->execute("DELETE FROM headlines WHERE id = 2"));
+    ASSERT_TRUE(openStore(archive).value()->execute("DELETE FROM all_headlines WHERE id = 2"));
     FeedClient client(socket, {u"a"_s, 1});
     client.start(40);
     Replay replay(*day, client, {.speed = 0, .run = u"a"_s});

@@ -145,7 +145,7 @@ TEST_F(StoreAccessTest, AStoreIsItsOwnersAloneAndAFile) {
 
 TEST_F(StoreAccessTest, NothingThatAStoreBringsWithItRuns) {
     ASSERT_TRUE(
-        store->execute("CREATE TRIGGER thief AFTER INSERT ON headlines BEGIN DELETE FROM stories; END"));
+        store->execute("CREATE TRIGGER thief AFTER INSERT ON all_headlines BEGIN DELETE FROM stories; END"));
     takeNews(newsItem(1, u"b"_s, at(9, 1), u"Tin falls"_s));
     EXPECT_EQ(rows("SELECT count(*) FROM headlines"), QStringList{u"2"_s});
     EXPECT_EQ(rows("SELECT text FROM stories WHERE headline = 1"), QStringList{u"By noon."_s});

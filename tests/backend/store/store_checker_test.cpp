@@ -41,9 +41,9 @@ TEST_F(StoreCheckerTest, EachRuleThatIsBrokenIsNamedWithItsOffenders) {
         QString expected;
     };
     const Case cases[] = {
-        {"UPDATE headlines SET title = ' ' WHERE id = 2",
+        {"UPDATE all_headlines SET title = ' ' WHERE id = 2",
          u"These headlines have no title, or one that is too long: 1/n2."_s},
-        {"UPDATE headlines SET time = 'noon' WHERE id = 1",
+        {"UPDATE all_headlines SET time = 'noon' WHERE id = 1",
          u"The time of these headlines does not lie within the years 1900 to 9999: 1/n1."_s},
         {"UPDATE numbering SET last = 4",
          u"The numbering of these services and days has fallen behind their headlines: 1/20260302."_s},
@@ -65,7 +65,7 @@ TEST_F(StoreCheckerTest, EachRuleThatIsBrokenIsNamedWithItsOffenders) {
          u"The search index does not hold the text of: 1/n1, 1/n2, 1/n3 and more."_s},
         {"INSERT INTO news_search(rowid, title, story) VALUES(99, 'ghost', 'story')",
          u"The search index does not hold the text of: entry 99."_s},
-        {"CREATE TRIGGER thief AFTER INSERT ON headlines BEGIN DELETE FROM stories; END",
+        {"CREATE TRIGGER thief AFTER INSERT ON all_headlines BEGIN DELETE FROM stories; END",
          u"These triggers are none of the store's; they never run: thief."_s},
         {"INSERT INTO news_search(news_search) VALUES('delete-all')",
          u"The search index does not hold the text of: 1/n1, 1/n2, 1/n3 and more."_s},

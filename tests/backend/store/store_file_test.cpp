@@ -28,7 +28,9 @@ const StoreOptions impatient{.busyTimeout = 20ms};
 
 // Makes a store what it would be, had only the first version of the schema ever been.
 constexpr const char* toFirstVersion =
-    "PRAGMA user_version = 1; DROP TABLE quotes; DROP TABLE search_rules; DROP TABLE arrivals; DROP TABLE "
+    "PRAGMA user_version = 1; DROP VIEW headlines; DROP VIEW shown_symbols; DROP TABLE import_blocks; "
+    "DROP TABLE held_links; DROP TABLE set_aside; ALTER TABLE all_headlines RENAME TO headlines; "
+    "DROP TABLE quotes; DROP TABLE search_rules; DROP TABLE arrivals; DROP TABLE "
     "feed_positions; "
     "DROP TABLE news_search; CREATE VIRTUAL TABLE news_search USING fts5("
     "title, story, content='news_text', content_rowid='id', tokenize='unicode61');"

@@ -29,7 +29,7 @@ TEST(CategoryNames, OfMoreThanTheFileHoldsTheLatestTopicsComeFirst) {
     ASSERT_TRUE(database);
     ASSERT_TRUE(database.value()->execute(
         "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 24000) "
-        "INSERT INTO headlines(id, service, time, sequence, day, category, version, received, identity, "
+        "INSERT INTO all_headlines(id, service, time, sequence, day, category, version, received, identity, "
         "title) "
         "SELECT i, 1, i, i, 20260302, CASE WHEN i > 14000 THEN 2 ELSE 1 END, 1, 0, i, 'News' FROM n"))
         << sentence(database.value()->failure()).toStdString();

@@ -106,14 +106,14 @@ TEST_F(CommandFaultsTest, DamageThatIsReadEndsTheCommand) {
     const QStringList search{u"search"_s, u"--store"_s, store, u"copper"_s};
     const QStringList exports{u"export"_s, u"--store"_s, store, u"--day"_s, u"20260302"_s, news};
     const QList<std::pair<QByteArray, QStringList>> cases{
-        {"headlines", search},
+        {"all_headlines", search},
         {"services", search},
         {"news_search_data", search},
-        {"headlines", exports},
+        {"all_headlines", exports},
         {"services", exports},
         {"stories", exports},
         {"related_symbols", exports},
-        {"headlines", {u"import"_s, u"--store"_s, store, wire}},
+        {"all_headlines", {u"import"_s, u"--store"_s, store, wire}},
         {"symbols", {u"import"_s, u"--store"_s, store, symbols}},
     };
     for (const auto& [table, command] : cases) {

@@ -22,7 +22,7 @@ namespace wirepane {
 namespace {
 
 constexpr int filesInAll = 4;
-constexpr int itemsPerFile = 1500;
+constexpr int itemsPerFile = 1500;  // in files that are large enough to go in by and by
 constexpr int kills = 12;
 constexpr unsigned seed = 20260302;
 
@@ -37,7 +37,7 @@ protected:
                 const int number = file * itemsPerFile + i;
                 const QString when = newest.addSecs(-number).toString(Qt::ISODate);
                 lines += ninjsItem(u"u:%1"_s.arg(number), u"Headline %1"_s.arg(number),
-                                   u"Story %1 "_s.arg(number).repeated(40), when) +
+                                   u"Story %1 "_s.arg(number).repeated(400), when) +
                          '\n';
             }
             files.append(scratch.write(u"wire-%1.jsonl"_s.arg(file), lines));

@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/staged_import.h"
+
+#include "backend/clean_text.h"
+#include "backend/store/store_errors.h"
+
+#include <sqlite3.h>
+#include <thread>
+
+namespace wirepane {
+
+namespace {
+
+constexpr int batchesBetweenCheckpoints = 25;
+constexpr std::chrono::milliseconds betweenLooks{100};  // for another import to end
+
+}  // namespace
+
+StagedImport::StagedImport(Database& owner) : StagedImport(owner, Pace()) {}
+
+StagedImport::StagedImport(Database& owner, Pace asked)
+    : database(owner),
+      pace(asked),
+      writer(owner),
+      upkeep(owner),
+      lock(owner.path()),
+      later(owner.path()),
+      readAside(owner,
+                "SELECT id, service, set_aside.identity, version, time, title, category, text, text IS NULL "
+                "FROM set_aside JOIN all_headlines ON id = set_aside.headline "
+                "LEFT JOIN stories ON stories.headline = id ORDER BY id"),
+      readAsideSymbols(owner,
+                       "SELECT market, code FROM related_symbols WHERE headline = ? ORDER BY position"),
+      deleteAside(owner, "DELETE FROM all_headlines WHERE id = ?") {}
+
+StagedImport::~StagedImport() {
+    takeBack();
+}
+
+Done StagedImport::begin() {
+    Done begun = writer.begin();
+    if (begun)
+        state = State::AtOnce;
+    return begun;
+}
+
+Done StagedImport::beginMany() {
+    const Result<bool> locked = takeLock();
+    if (!locked)
+        return locked.error();
+    if (!locked.value() || database.wasTakenAway())
+        return begin();
+    if (Done cleared = clearHidden(); !cleared) {
+        lock.release();
+        return cleared;
+    }
+    setLasting(false);
+    putsAllOff = false;
+    identitiesPutOff.clear();
+    late = {};
+    state = State::Beginning;
+    return Nothing{};
+}
+
+// False: nobody can have it.
+Result<bool> StagedImport::takeLock() {
+    ImportLock::Taken taken = lock.take();
+    for (; taken == ImportLock::Taken::Busy; taken = lock.take()) {
+        if (isPatient && !isPatient())
+            return makeError<store_errors::stopped>();
+        std::this_thread::sleep_for(betweenLooks);
+    }
+    return taken == ImportLock::Taken::Yes;
+}
+
+Done StagedImport::clearHidden() {
+    Result<bool> isMore = true;
+    while (isMore && isMore.value()) {
+        isMore = upkeep.clearSome();
+        letOthersWrite();
+    }
+    return isMore ? Done(Nothing{}) : Done(isMore.error());
+}
+
+// What is hidden need not outlast the machine: the transaction that shows it brings all of it to the disk.
+void StagedImport::setLasting(bool on) {
+    database.execute(on ? "PRAGMA synchronous = FULL; PRAGMA wal_autocheckpoint = 1000"
+                        : "PRAGMA synchronous = NORMAL; PRAGMA wal_autocheckpoint = 0");
+}
+
+Result<TakeOutcome> StagedImport::take(const StoreItem& item) {
+    const bool isNews = std::holds_alternative<NewsItem>(item);
+    if (state == State::Beginning && !isNews) {
+        setLasting(true);
+        lock.release();
+        if (Done begun = begin(); !begun)
+            return begun.error();
+    }
+    if (state == State::AtOnce)
+        return writer.take(item);
+    state = State::Staging;
+    putsAllOff = putsAllOff || !isNews;
+    return putsAllOff ? putOff(item) : stage(std::get<NewsItem>(item));
+}
+
+Result<TakeOutcome> StagedImport::stage(const NewsItem& item) {
+    // What comes behind news that was put off must not be decided before it.
+    const std::size_t identity = qHashMulti(0, item.service, cleanTitle(item.identity));
+    if (identitiesPutOff.contains(identity))
+        return putOff(item);
+    if (isBatchOpen && elapsed() >= pace.batch) {
+        if (Done closed = closeBatch(); !closed)
+            return closed.error();
+    }
+    if (!isBatchOpen) {
+        if (Done opened = openBatch(); !opened)
+            return opened.error();
+    }
+    Result<TakeOutcome> outcome = writer.take(item);
+    isBatchOpen = bool(outcome);
+    if (!outcome || outcome.value().take != Take::PutOff)
+        return outcome;
+    identitiesPutOff.insert(identity);
+    return putOff(item);
+}
+
+Result<TakeOutcome> StagedImport::putOff(const StoreItem& item) {
+    const Done kept = later.add(item);
+    return kept ? Result<TakeOutcome>(TakeOutcome{Take::PutOff, {}}) : kept.error();
+}
+
+Done StagedImport::openBatch() {
+    Done begun = writer.beginHidden();
+    isBatchOpen = bool(begun);
+    sinceOpened.start();
+    return begun;
+}
+
+std::chrono::milliseconds StagedImport::elapsed() const {
+    return std::chrono::milliseconds(sinceOpened.elapsed());
+}
+
+Done StagedImport::closeBatch() {
+    isBatchOpen = false;
+    if (Done kept = writer.commit(); !kept)
+        return kept;
+    if (++batches >= batchesBetweenCheckpoints)
+        checkpoint();
+    letOthersWrite();
+    return Nothing{};
+}
+
+void StagedImport::pause() {
+    // What fails here fails again with the next item.
+    if (isBatchOpen && elapsed() >= pace.leastBatch)
+        (void)closeBatch();
+}
+
+void StagedImport::letOthersWrite() {
+    std::this_thread::sleep_for(pace.pause);
+}
+
+// Keeps no writer waiting, and carries over no more than readers let it.
+void StagedImport::checkpoint() {
+    batches = 0;
+    sqlite3_wal_checkpoint_v2(database.handle(), "main", SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+}
+
+Done StagedImport::commit() {
+    if (state == State::AtOnce) {
+        Done committed = writer.commit();
+        if (committed)
+            state = State::Idle;
+        return committed;
+    }
+    if (state == State::Idle)
+        return writer.commit();
+    if (isBatchOpen) {
+        if (Done closed = closeBatch(); !closed)
+            return closed;
+    }
+    // So that little is left to be brought to the disk while others wait.
+    checkpoint();
+    setLasting(true);
+    Done shown = writer.begin();
+    if (shown)
+        shown = showAll();
+    if (shown)
+        shown = writer.commit();
+    if (!shown)
+        return shown;
+    later.clear();
+    lock.release();
+    state = State::Idle;
+    return Nothing{};
+}
+
+Done StagedImport::showAll() {
+    std::vector<NewsItem> aside;
+    if (Done taken = takeAside(aside); !taken)
+        return taken;
+    if (Done shown = writer.showHidden(); !shown)
+        return shown;
+    for (const NewsItem& item : aside) {
+        const Result<TakeOutcome> outcome = writer.take(item);
+        if (!outcome)
+            return outcome.error();
+        late.overtaken += outcome.value().take == Take::TakenIn ? 0 : 1;
+    }
+    return later.forEach([this](const StoreItem& item) -> Done {
+        const Result<TakeOutcome> outcome = writer.take(item);
+        if (!outcome)
+            return outcome.error();
+        late.putOff.push_back(outcome.value());
+        return Nothing{};
+    });
+}
+
+// Others need no number and no service of it any more: it comes in again as it came.
+Done StagedImport::takeAside(std::vector<NewsItem>& items) {
+    std::vector<std::int64_t> ids;
+    {
+        Query query(readAside);
+        while (query.next()) {
+            ids.push_back(query.number(0));
+            NewsItem& item = items.emplace_back();
+            item.service = static_cast<unsigned char>(query.number(1));
+            item.identity = query.text(2);
+            item.version = query.smallNumber(3);
+            item.time = query.number(4);
+            item.title = query.text(5);
+            item.categoryId = query.smallNumber(6);
+            item.story = query.number(8) != 0 ? std::nullopt : std::optional(query.text(7));
+        }
+        if (query.failed())
+            return database.failure();
+    }
+    for (std::size_t i = 0; i < ids.size(); ++i) {
+        for (Query query(readAsideSymbols, ids[i]); query.next();)
+            items[i].related.push_back({static_cast<unsigned char>(query.number(0)), query.text(1)});
+        if (!Query(deleteAside, ids[i]).run())
+            return database.failure();
+    }
+    return database.execute("DELETE FROM set_aside") ? Done(Nothing{}) : Done(database.failure());
+}
+
+void StagedImport::takeBack() {
+    writer.rollback();
+    isBatchOpen = false;
+    if (state == State::Beginning || state == State::Staging) {
+        // What cannot be cleared now the next one clears.
+        (void)clearHidden();
+        setLasting(true);
+        lock.release();
+    }
+    later.clear();
+    late = {};
+    state = State::Idle;
+}
+
+Result<bool> StagedImport::indexSome() {
+    if (!needsUpkeep(database) || lock.take() != ImportLock::Taken::Yes)
+        return false;
+    setLasting(false);
+    const Result<bool> isMore = upkeep.indexSome();
+    if (++batches >= batchesBetweenCheckpoints)
+        checkpoint();
+    letOthersWrite();
+    if (!isMore || !isMore.value()) {
+        setLasting(true);
+        checkpoint();
+        lock.release();
+    }
+    return isMore;
+}
+
+}  // namespace wirepane

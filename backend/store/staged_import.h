@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/store/import_lock.h"
+#include "backend/store/import_upkeep.h"
+#include "backend/store/item_spool.h"
+#include "backend/store/store_writer.h"
+
+#include <QElapsedTimer>
+#include <QSet>
+
+#include <chrono>
+#include <functional>
+#include <utility>
+#include <vector>
+
+namespace wirepane {
+
+// Takes files into a store beside whoever else writes to it.
+//
+// Few items (begin) go in as with a StoreWriter, in one transaction. Many (beginMany) go in by short ones,
+// with pauses between them in which others have their turn, and stay hidden until commit() shows them all at
+// once; what is killed or taken back before that leaves nothing that readers see, and the next one clears it
+// away. They enter the search index afterwards (indexSome).
+//
+// News that others bring meanwhile stands before the file: where it is the same piece of news as a hidden
+// one, the hidden one is set aside. What would change news that is there, and all that follows an item that
+// is no news, is put off. commit() then takes both in the transaction that shows the rest. A file that begins
+// with something else than news goes in as few items do.
+//
+// One import into a store at a time takes many items; others wait. Thread: that of the database, which must
+// outlive this and is used by nothing else between beginMany() and commit() or rollback().
+class StagedImport : public ItemSink {
+public:
+    // How long others wait at most, and how long they have to notice that they need not: who waits looks
+    // every millisecond. A batch that is shorter than the least is not worth a transaction.
+    struct Pace {
+        std::chrono::milliseconds batch{40};
+        std::chrono::milliseconds leastBatch{10};
+        std::chrono::milliseconds pause{3};
+    };
+
+    explicit StagedImport(Database& database);
+    StagedImport(Database& database, Pace pace);
+    // Takes back what is under way.
+    ~StagedImport() override;
+    StagedImport(const StagedImport&) = delete;
+    StagedImport& operator=(const StagedImport&) = delete;
+
+    // Called again and again while another import is waited for; false: no longer.
+    void onWaiting(std::function<bool()> callback) { isPatient = std::move(callback); }
+
+    Done begin() override;
+    Done beginMany() override;
+    void pause() override;
+    Result<TakeOutcome> take(const StoreItem& item) override;
+    Done commit() override;
+    LateOutcomes takeLateOutcomes() override { return std::exchange(late, {}); }
+    void rollback() override { takeBack(); }
+
+    // Brings a piece of what has been taken in into the search index, unless another import is under way,
+    // which does that then; true: more is left.
+    Result<bool> indexSome();
+
+private:
+    enum class State { Idle, AtOnce, Beginning, Staging };
+
+    Result<bool> takeLock();
+    Done clearHidden();
+    void takeBack();
+    void setLasting(bool on);
+    // Transactions of hidden news.
+    Done openBatch();
+    Done closeBatch();
+    std::chrono::milliseconds elapsed() const;
+    Result<TakeOutcome> stage(const NewsItem& item);
+    Result<TakeOutcome> putOff(const StoreItem& item);
+    void letOthersWrite();
+    void checkpoint();
+    // Within the last transaction.
+    Done takeAside(std::vector<NewsItem>& items);
+    Done showAll();
+
+    Database& database;
+    const Pace pace;
+    StoreWriter writer;
+    ImportUpkeep upkeep;
+    ImportLock lock;
+    ItemSpool later;
+    Statement readAside;
+    Statement readAsideSymbols;
+    Statement deleteAside;
+    std::function<bool()> isPatient;
+    State state = State::Idle;
+    bool isBatchOpen = false;
+    bool putsAllOff = false;
+    QSet<std::size_t> identitiesPutOff;  // their hashes
+    int batches = 0;                     // since the last checkpoint
+    QElapsedTimer sinceOpened;
+    LateOutcomes late;
+};
+
+}  // namespace wirepane
