@@ -18,10 +18,7 @@ void HeadlineList::setOptions(const ViewOptions& options) {
     state->options = options;
     if (sheet == nullptr)
         return;
-    if (const int heading = options.value(ViewOption::HeadingHeight); heading > 0)
-        sheet->setHeaderRowHeight(heading);
-    sheet->setLook({options[ViewOption::FinishedRows], options.value(ViewOption::RowGutter),
-                    options.value(ViewOption::RowAir)});
+    sheet->setLook(rowLook(options));
     sheet->stretchLast(options[ViewOption::StretchTitles] || options[ViewOption::MeasuredColumns]);
     measureColumns();
 }

@@ -5,6 +5,7 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "host/contract/fixed_services.h"
+#include "host/controls/row_look.h"
 #include "host/controls/window_id.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/application_switches.h"
@@ -25,6 +26,15 @@ constexpr int gridTop = 52;
 constexpr int tabStripHeight = 22;
 
 }  // namespace
+
+// The first column stands where the story's text does.
+RowLook quoteLook(const ViewOptions& options) {
+    constexpr int inset = 8;
+    RowLook look = rowLook(options);
+    if (look.gutter > 0)
+        look.gutter += inset;
+    return look;
+}
 
 ViewBuilder::ViewBuilder(TRVQuoteBaseView& newsView, const CommonParts& commonParts, StoryStage& storyStage,
                          Calls ofTheView)
@@ -73,6 +83,7 @@ CNewsRelateSymbolQuoteView* ViewBuilder::createQuotes(const ViewSettingPath& pat
         delete quotes;
         return nullptr;
     }
+    quotes->setLook(quoteLook(parts.settings.options));
     quotes->setSorting(parts.settings.quoteSorting);
     stage.setQuotes(quotes);
     return quotes;

@@ -29,7 +29,12 @@ class TRVCfgIO2;
 class TRVQuoteBaseView;
 
 namespace wirepane {
+struct RowLook;
 struct ViewSettingPath;
+class ViewOptions;
+
+// How the rows of the quotes beside a story look.
+RowLook quoteLook(const ViewOptions& options);
 
 // Creates what a view shows, once each: the story pane and the quotes beside it, and by the enabled functions
 // the grids, their tabs and their controls. Interface thread only.

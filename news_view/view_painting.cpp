@@ -4,6 +4,7 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/colour_roles.h"
+#include "host/controls/row_look.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/news_control_ids.h"
 #include "host/views/sheet_scheme.h"
@@ -75,8 +76,10 @@ void TRVNewsCtrlView::vChangeCast() {
     }
     if (NewsStoryView* pane = parts->stage.storyPane())
         pane->vChangeCast();
-    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes())
+    if (CNewsRelateSymbolQuoteView* quotes = parts->stage.relatedQuotes()) {
         quotes->vChangeCast();
+        quotes->setLook(quoteLook(parts->settings.options));
+    }
     if (parts->initialised)
         vSetComponentPos();
     update();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/row_look.h"
 
+#include "host/contract/view_options.h"
+
 #include <QFontInfo>
 #include <QFontMetrics>
 
@@ -9,6 +11,13 @@
 #include <cmath>
 
 namespace wirepane {
+
+RowLook rowLook(const ViewOptions& options) {
+    return {.finished = options[ViewOption::FinishedRows],
+            .gutter = options.value(ViewOption::RowGutter),
+            .air = options.value(ViewOption::RowAir),
+            .heading = options.value(ViewOption::HeadingHeight)};
+}
 
 int textHeight(const QFont& font) {
     constexpr double ofSize = 1.35;

@@ -7,15 +7,20 @@
 #include <QFont>
 
 namespace wirepane {
+class ViewOptions;
 
 // How the rows of a sheet look, beyond one line of plain text in rows of a set height. Pixels.
 struct RowLook {
     bool finished = false;  // as SheetRowPainter draws rows; the headings small and without separators
     int gutter = 0;         // before the first column's text; others begin at their column's edge. 0: 4 each
     int air = 0;            // what a row has over the height of its text; 0: the set height
+    int heading = 0;        // the height of the headings; 0: the set height
 
     bool operator==(const RowLook&) const = default;
 };
+
+// What a view's settings say of it.
+WIREPANE_HOST_EXPORT RowLook rowLook(const ViewOptions& options);
 
 // The larger of the font's height and 1.35 times its size: a Chinese glyph beside a low Latin font needs it.
 WIREPANE_HOST_EXPORT int textHeight(const QFont& font);

@@ -150,7 +150,8 @@ int CSuperSheetWnd::rowHeightFor() const {
 }
 
 void CSuperSheetWnd::applyHeights() {
-    header->setFixedHeight(heightFor(wantedHeaderHeight, QFontMetrics(headingFont())));
+    const int heading = delegate->look.heading > 0 ? delegate->look.heading : wantedHeaderHeight;
+    header->setFixedHeight(heightFor(heading, QFontMetrics(headingFont())));
     verticalHeader()->setDefaultSectionSize(rowHeightFor());
     updateGeometries();
 }

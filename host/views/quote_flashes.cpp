@@ -4,23 +4,25 @@
 
 namespace wirepane {
 
-namespace {
-constexpr int ticksOfFlash = 3;
+void QuoteFlashes::start(const CSymbolInfo& symbol, const QuoteCells& cells, int ticks) {
+    flashes.insert(symbol, {ticks, cells});
 }
 
-void QuoteFlashes::start(const CSymbolInfo& symbol) {
-    ticksLeft.insert(symbol, ticksOfFlash);
+bool QuoteFlashes::isFlashing(const CSymbolInfo& symbol, int column) const {
+    const auto flash = flashes.constFind(symbol);
+    return flash != flashes.cend() &&
+           (column == anyColumn || flash->cells.test(static_cast<std::size_t>(column)));
 }
 
 std::vector<CSymbolInfo> QuoteFlashes::tick() {
     std::vector<CSymbolInfo> over;
-    for (auto flash = ticksLeft.begin(); flash != ticksLeft.end();) {
-        if (--*flash > 0) {
+    for (auto flash = flashes.begin(); flash != flashes.end();) {
+        if (--flash->ticksLeft > 0) {
             ++flash;
             continue;
         }
         over.push_back(flash.key());
-        flash = ticksLeft.erase(flash);
+        flash = flashes.erase(flash);
     }
     return over;
 }

@@ -8,7 +8,7 @@
 #include "host/contract/sync_info.h"
 #include "host/controls/sheet_builder.h"
 #include "host/controls/super_sheet_wnd.h"
-#include "host/views/quote_keys.h"
+#include "host/views/quote_column_kinds.h"
 #include "host/views/sheet_scheme.h"
 
 #include <QHeaderView>
@@ -27,23 +27,16 @@ namespace {
 constexpr int rowHeight = 16;
 constexpr int flashTimer = 1;
 constexpr int flashTickMs = 150;
-constexpr int cellMargins = 10;
-constexpr int sortMarkRoom = 12;
+constexpr int ticksOfFlash = 3;
+constexpr int ticksOfFinishedFlash = 4;
 
-struct QuoteColumnKind {
-    QLatin1StringView headerKey;
-    int characters;  // that have room; the name's are set up
-    Qt::Alignment alignment;
-};
-
-constexpr std::array<QuoteColumnKind, quoteColumns> columnKinds{{
-    {quote_keys::code, 7, Qt::AlignLeft | Qt::AlignVCenter},
-    {quote_keys::name, 0, Qt::AlignLeft | Qt::AlignVCenter},
-    {quote_keys::last, 9, Qt::AlignRight | Qt::AlignVCenter},
-    {quote_keys::change, 7, Qt::AlignRight | Qt::AlignVCenter},
-    {quote_keys::percent, 7, Qt::AlignRight | Qt::AlignVCenter},
-    {quote_keys::volume, 11, Qt::AlignRight | Qt::AlignVCenter},
-}};
+QuoteCells changedCells(const QuoteRow& before, const QuoteRow& now) {
+    QuoteCells changed;
+    for (int column = 0; column < quoteColumns; ++column)
+        changed.set(static_cast<std::size_t>(column), textOf(before, static_cast<QuoteColumn>(column)) !=
+                                                          textOf(now, static_cast<QuoteColumn>(column)));
+    return changed;
+}
 
 std::vector<CSymbolInfo> without(const std::vector<CSymbolInfo>& symbols,
                                  const std::vector<CSymbolInfo>& others) {
@@ -92,7 +85,7 @@ void QuoteListBaseView::setUpColumns(int nameCharacters) {
     nameRoom = nameCharacters;
     if (sheet == nullptr)
         return;
-    for (const QuoteColumnKind& kind : columnKinds)
+    for (const QuoteColumnKind& kind : quoteColumnKinds)
         sheet->insertColumn(1, kind.alignment);
     QHeaderView* header = sheet->horizontalHeader();
     header->setSortIndicator(-1, Qt::AscendingOrder);
@@ -118,7 +111,8 @@ void QuoteListBaseView::vLoadLanguageString() {
     if (sheet == nullptr)
         return;
     for (int column = 0; column < quoteColumns; ++column)
-        sheet->setHeaderText(column, langText(columnKinds.at(static_cast<std::size_t>(column)).headerKey));
+        sheet->setHeaderText(column,
+                             langText(quoteColumnKinds.at(static_cast<std::size_t>(column)).headerKey));
     for (int row = 0; row < table.size(); ++row)
         loadName(row);
     fitColumns();
@@ -143,82 +137,6 @@ void QuoteListBaseView::vChangeCast() {
     applyHostScheme(*sheet, GetViewFont());
     layOut();
     fitColumns();
-}
-
-// --- Layout and painting ---
-
-void QuoteListBaseView::resizeEvent(QResizeEvent* event) {
-    TRVQuoteBaseView::resizeEvent(event);
-    layOut();
-}
-
-void QuoteListBaseView::layOut() {
-    if (sheet != nullptr)
-        sheet->setGeometry(rect().adjusted(1, 1 + titleHeight(), -1, -1));
-}
-
-void QuoteListBaseView::fitColumns() {
-    const QFontMetrics metrics(GetViewFont());
-    const int character = metrics.horizontalAdvance(u'0');
-    QuoteWidths wanted{};
-    for (std::size_t column = 0; column < wanted.size(); ++column) {
-        const QuoteColumnKind& kind = columnKinds.at(column);
-        const int characters = kind.characters > 0 ? kind.characters : nameRoom;
-        const int header = metrics.horizontalAdvance(langText(kind.headerKey)) + sortMarkRoom;
-        wanted.at(column) = std::max(characters * character, header) + cellMargins;
-    }
-    const QuoteWidths widths = fitQuoteColumns(wanted, sheet->viewport()->width());
-    for (int column = 0; column < quoteColumns; ++column)
-        sheet->vSetColWidth(column, widths.at(static_cast<std::size_t>(column)));
-}
-
-void QuoteListBaseView::OnDraw(QPainter& painter) {
-    if (currentDataState() == DataState::NotSupported)
-        vNotSupportSymbol(painter);
-    TRVQuoteBaseView::OnDraw(painter);
-}
-
-void QuoteListBaseView::vNotSupportSymbol(QPainter& painter) {
-    constexpr int margin = 8;
-    const QRect area = rect().adjusted(0, titleHeight(), 0, 0);
-    QColor faint = colText;
-    faint.setAlpha(160);
-    painter.fillRect(area, colBackground);
-    painter.setFont(GetViewFont());
-    painter.setPen(faint);
-    painter.drawText(area.adjusted(margin, margin, -margin, -margin), Qt::AlignCenter | Qt::TextWordWrap,
-                     notice());
-}
-
-QString QuoteListBaseView::text(int row, int column) const {
-    return row < table.size() ? textOf(table.at(row), static_cast<QuoteColumn>(column)) : QString();
-}
-
-QColor QuoteListBaseView::textColour(int row, int column) const {
-    const auto kind = static_cast<QuoteColumn>(column);
-    const bool coloured =
-        kind == QuoteColumn::Last || kind == QuoteColumn::Change || kind == QuoteColumn::Percent;
-    const int direction = coloured && row < table.size() ? directionOf(table.at(row)) : 0;
-    if (direction == 0)
-        return {};
-    return direction > 0 ? riseColour : fallColour;
-}
-
-QColor QuoteListBaseView::highlight(int row, int column) const {
-    constexpr int strength = 70;
-    if (column < static_cast<int>(QuoteColumn::Last) || row >= table.size() ||
-        !flashes.isFlashing(table.at(row).symbol))
-        return {};
-    QColor colour = palette().color(QPalette::Highlight);
-    colour.setAlpha(strength);
-    return colour;
-}
-
-// Rows that are not on screen cost nothing.
-void QuoteListBaseView::repaintRow(int row) {
-    const QRect place(0, sheet->rowViewportPosition(row), sheet->viewport()->width(), sheet->rowHeight(row));
-    if (place.intersects(sheet->viewport()->rect()))
-        sheet->viewport()->update(place);
 }
 
 // --- Symbols ---
@@ -287,7 +205,7 @@ void QuoteListBaseView::vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& up
         if (row < 0)
             continue;
         loadName(row);
-        repaintRow(row);
+        sheet->repaintRow(row);
     }
 }
 
@@ -340,17 +258,20 @@ bool QuoteListBaseView::animates() const {
 }
 
 void QuoteListBaseView::vShow(const CQuoteMemory& quote) {
+    const int known = table.rowOf(quote.symbol);
+    const QuoteRow before = known >= 0 ? table.at(known) : QuoteRow{};
     const auto update = table.update(quote);
     if (!update)
         return;
     if (!update->first && animates())
-        flashes.start(quote.symbol);
+        flashes.start(quote.symbol, changedCells(before, table.at(update->row)),
+                      sheet->look().finished ? ticksOfFinishedFlash : ticksOfFlash);
     // One timer ends all flashes, and brings rows that have moved to their places.
     if (!flashes.isEmpty() || table.isStale()) {
         if (runningTimers().empty())
             setTimer(flashTimer, flashTickMs);
     }
-    repaintRow(update->row);
+    sheet->repaintRow(update->row);
 }
 
 void QuoteListBaseView::OnTimer(int id) {
@@ -359,7 +280,7 @@ void QuoteListBaseView::OnTimer(int id) {
         return;
     for (const CSymbolInfo& symbol : flashes.tick()) {
         if (const int row = table.rowOf(symbol); row >= 0)
-            repaintRow(row);
+            sheet->repaintRow(row);
     }
     if (table.isStale())
         reorder([this] { table.resort(); });

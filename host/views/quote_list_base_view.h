@@ -13,6 +13,11 @@
 
 class CSuperSheetWnd;
 
+namespace wirepane {
+struct RowLook;
+
+}  // namespace wirepane
+
 // A list of symbols with their quotes on a grid: code, name, last price, change, change in percent, volume.
 // Rises and falls have colours and signs; what changes flashes for a moment, unless the style does without
 // animations. The user sorts it by a click on a header or the keys 1 to 6, by the same column up, down and
@@ -34,6 +39,10 @@ public:
     virtual bool CreateView(QWidget* parent, const QString& name, int first, int second);
     // Sets up the columns; names of this many characters have room before anything is narrowed.
     void setUpColumns(int nameCharacters);
+
+    // How its rows look. The columns of finished rows are set from the left, and of a quote that has changed
+    // only the cells flash that have.
+    void setLook(const wirepane::RowLook& look);
 
     // Lists these symbols; a symbol that stays keeps its quote, and the focus. An empty list says that there
     // is nothing to show (DataState::NotSupported).
@@ -90,13 +99,14 @@ private:
     QString text(int row, int column) const override;
     QColor textColour(int row, int column) const override;
     QColor highlight(int row, int column) const override;
+    bool holdsFigures(int column) const override;
 
     void showState(wirepane::DataState state);
     void layOut();
+    wirepane::QuoteWidths wantedWidths() const;
     void fitColumns();
     void fillRows(const std::vector<CSymbolInfo>& symbols);
     void loadName(int row);
-    void repaintRow(int row);
     void vShow(const wirepane::CQuoteMemory& quote);
     bool animates() const;
     // Orders the rows; focus and selection stay with their symbol.

@@ -36,6 +36,7 @@ enum class FrameCommand {
     Settings,
     FontLarger,
     FontSmaller,
+    CompactRows,
     Guide,
     Quit,
 };

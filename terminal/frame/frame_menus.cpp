@@ -61,6 +61,10 @@ constexpr std::array fontEntries{
     Entry{FrameCommand::FontSmaller, TextId::FontSmaller, "Ctrl+-"_L1},
 };
 
+constexpr std::array densityEntries{
+    Entry{FrameCommand::CompactRows, TextId::CompactRows, "Ctrl+Shift+R"_L1, true, true},
+};
+
 constexpr std::array windowEntries{
     Entry{FrameCommand::NextView, TextId::NextView, "Ctrl+Tab; Ctrl+F6"_L1, true},
     Entry{FrameCommand::PreviousView, TextId::PreviousView, "Ctrl+Shift+Tab; Ctrl+Shift+F6"_L1, true},
@@ -159,6 +163,10 @@ void addLookMenu(MainFrame& frame, const MenuState& state) {
                 {TextId::LanguageSimplifiedChinese, u"zh-CN"_s}},
                state.language, [&frame](const QString& value) { emit frame.languageChosen(value); });
     addEntries(frame, *menu, fontEntries, state);
+    addEntries(frame, *menu, densityEntries, state);
+    QAction* compact = menu->actions().back();
+    compact->setCheckable(true);
+    compact->setChecked(state.compactRows);
 }
 
 // The open views, the first nine with Alt and their place in the list as a shortcut.

@@ -23,6 +23,7 @@ struct MenuState {
     QList<ListedView> views;
     int activeView = 0;  // 0: none; commands on the active view are disabled then
     unsigned char linkGroup = 0;
+    bool compactRows = false;  // of the active view
 
     bool operator==(const MenuState&) const = default;
 };

@@ -6,6 +6,7 @@
 #include "host/views/news_control_ids.h"
 #include "terminal/frame/guide_window.h"
 #include "terminal/frame/read_as_of_dialog.h"
+#include "terminal/frame/row_density.h"
 #include "terminal/frame/settings_dialog.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/frame/view_dock.h"
@@ -105,6 +106,9 @@ void FrameCommands::carryOut(FrameCommand command) {
         case FrameCommand::FontSmaller:
             session.setFontSize(session.settings().fontSize() - 1);
             break;
+        case FrameCommand::CompactRows:
+            changeDensity();
+            break;
         case FrameCommand::Guide:
             showGuide();
             break;
@@ -184,6 +188,14 @@ void FrameCommands::carryOutOnView(FrameCommand command) {
         default:
             break;
     }
+}
+
+void FrameCommands::changeDensity() {
+    const OpenView* view = session.workspace().active();
+    if (view == nullptr)
+        return;
+    setRowsCompact(*view, !areRowsCompact(*view));
+    session.showViews();
 }
 
 void FrameCommands::readAsOf() {

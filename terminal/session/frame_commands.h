@@ -24,6 +24,7 @@ public:
 private:
     void carryOut(FrameCommand command);
     void carryOutOnView(FrameCommand command);
+    void changeDensity();
     void readAsOf();
     void changeSettings();
     void rename(int number);

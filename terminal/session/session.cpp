@@ -317,8 +317,10 @@ void Session::showViews() {
     const OpenView* active = openViews->active();
     if (active != nullptr && active->dock != nullptr)
         state.activeView = active->number;
-    if (active != nullptr)
+    if (active != nullptr) {
         state.linkGroup = active->view->linkedGroup();
+        state.compactRows = areRowsCompact(*active);
+    }
     mainFrame->showChoices(state);
     mainFrame->showCaption(active != nullptr ? active->shownTitle() : QString());
     // Only when the view or its group is another one: the user may have picked a group for the box.

@@ -4,6 +4,7 @@
 
 #include "host/contract/view_options.h"
 #include "terminal/frame/main_frame.h"
+#include "terminal/frame/row_density.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/frame/workspace.h"
 #include "terminal/session/link_groups.h"
@@ -77,6 +78,16 @@ Result<OpenView*> WorkspaceKeeper::open(const StoredView& stored) {
     return parts.open(std::move(request));
 }
 
+// A new view has its rows as close as the active one.
+Result<OpenView*> WorkspaceKeeper::openBeside(const StoredView& view) {
+    const OpenView* active = parts.workspace.active();
+    const bool compact = active != nullptr && areRowsCompact(*active);
+    auto opened = open(view);
+    if (opened && compact)
+        setRowsCompact(*opened.value(), true);
+    return opened;
+}
+
 Result<OpenView*> WorkspaceKeeper::openNew(NewsType newsType) {
     StoredView view;
     view.place = freePlace();
@@ -88,7 +99,7 @@ Result<OpenView*> WorkspaceKeeper::openNew(NewsType newsType) {
     if (!parts.workspace.docked().empty())
         parts.layout.setViewInfo(Workspace::settingPath(section, view.place), u"NewsShowType"_s,
                                  static_cast<int>(StoryShowType::Below));
-    return open(view);
+    return openBeside(view);
 }
 
 Result<OpenView*> WorkspaceKeeper::openLike(const OpenView& other) {
@@ -96,7 +107,7 @@ Result<OpenView*> WorkspaceKeeper::openLike(const OpenView& other) {
     view.place = freePlace();
     parts.layout.forget(section, view.place);
     parts.workspace.save(other, view.place);
-    return open(view);
+    return openBeside(view);
 }
 
 int WorkspaceKeeper::freePlace() const {

@@ -51,6 +51,7 @@ public:
 
 private:
     Result<OpenView*> open(const StoredView& stored);
+    Result<OpenView*> openBeside(const StoredView& view);
     WorkspaceLayout layoutNow() const;
     int freePlace() const;
     void keep();

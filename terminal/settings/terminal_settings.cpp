@@ -16,17 +16,6 @@ namespace wirepane {
 
 namespace {
 
-constexpr int defaultFont = 9;
-
-// A face that is narrow enough for a screen of figures, where there is one; else the system's own.
-QString tightFamily(const QString& systemFamily) {
-    for (const QString& family : {u"Segoe UI"_s, u"Helvetica Neue"_s, u"Liberation Sans"_s}) {
-        if (QFontDatabase::hasFamily(family))
-            return family;
-    }
-    return systemFamily;
-}
-
 // The family and, for what it lacks, those that draw Chinese characters as the language writes them: left to
 // itself, the system may take glyphs or weights of another language.
 QStringList familiesWithChinese(const QString& family, bool simplified) {
@@ -71,7 +60,7 @@ void TerminalSettings::setGreenIsUp(bool isGreen) {
 }
 
 int TerminalSettings::fontSize() const {
-    return std::clamp(stored(u"fontSize"_s).toInt(defaultFont), smallestFont, largestFont);
+    return std::clamp(stored(u"fontSize"_s).toInt(usualFont), smallestFont, largestFont);
 }
 
 void TerminalSettings::setFontSize(int points) {
@@ -120,7 +109,7 @@ QColor TerminalSettings::SYS_crGetOtherColor(const QString& name) {
 
 QFont TerminalSettings::SYS_fntGetViewFont() {
     QFont font = QGuiApplication::font();
-    font.setFamilies(familiesWithChinese(tightFamily(QFontInfo(font).family()), simplifiedGlyphs));
+    font.setFamilies(familiesWithChinese(QFontInfo(font).family(), simplifiedGlyphs));
     font.setPointSize(fontSize());
     return font;
 }

@@ -25,6 +25,7 @@ class TerminalSettings : public CSyncInfo {
 public:
     static constexpr int smallestFont = 6;  // points
     static constexpr int largestFont = 36;
+    static constexpr int usualFont = 10;
 
     // `file` is not owned and must outlive the settings.
     explicit TerminalSettings(SettingsFile& file);

@@ -31,6 +31,7 @@ enum class TextId {
     NewsOpenInWindow,
     FontLarger,
     FontSmaller,
+    CompactRows,
     LanguageEnglish,
     LanguageTraditionalChinese,
     LanguageSimplifiedChinese,

@@ -1695,6 +1695,10 @@
         <source></source>
         <translation>&amp;Float or dock view</translation>
     </message>
+    <message id="TERMINAL_COMPACT_ROWS">
+        <source></source>
+        <translation>Compact &amp;Rows</translation>
+    </message>
     <message id="TERMINAL_FONT_LARGER">
         <source></source>
         <translation>&amp;Larger Font</translation>

@@ -1695,6 +1695,10 @@
         <source></source>
         <translation>浮动／停靠(&amp;F)</translation>
     </message>
+    <message id="TERMINAL_COMPACT_ROWS">
+        <source></source>
+        <translation>紧凑行距(&amp;R)</translation>
+    </message>
     <message id="TERMINAL_FONT_LARGER">
         <source></source>
         <translation>放大字体(&amp;L)</translation>

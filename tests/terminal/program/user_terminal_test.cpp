@@ -73,7 +73,7 @@ TEST_F(UserTerminalTest, OpensAsItWasClosed) {
     ASSERT_NE(session, nullptr);
     EXPECT_EQ(stateOf(*session)[u"mode"_s].toInt(), 1);
     EXPECT_EQ(session->settings().scheme(), ColourScheme::Dark);
-    EXPECT_EQ(session->settings().fontSize(), 10);
+    EXPECT_EQ(session->settings().fontSize(), TerminalSettings::usualFont + 1);
 }
 
 TEST_F(UserTerminalTest, ATerminalWhoseCommonFeedNameIsTakenOpensAndSaysSo) {
