@@ -7,6 +7,7 @@
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
+#include "terminal/frame/row_density.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/session/indexing_window.h"
 #include "terminal/session/module_location.h"
