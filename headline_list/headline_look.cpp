@@ -8,6 +8,7 @@
 #include "headline_list/title_chips.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
+#include "host/controls/row_look.h"
 
 #include <QHeaderView>
 #include <QStyle>

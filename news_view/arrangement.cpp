@@ -9,6 +9,7 @@
 #include "host/views/news_control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/news_services.h"
+#include "news_view/pane_handle.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_context.h"
 #include "news_view/view_settings.h"
@@ -47,6 +48,9 @@ LayoutInput Arrangement::input() const {
     if (in.aligned)
         in.needs = needs();
     in.hasAllNewsGrid = parts.lists[ListIndex::All].grid() != nullptr;
+    in.movable = parts.settings.options[ViewOption::MovablePanes];
+    if (in.movable)
+        in.shares = parts.settings.paneShares;
     return in;
 }
 
@@ -79,6 +83,7 @@ void Arrangement::place() {
         if (CSuperSheetWnd* grid = parts.lists[kind.index].grid())
             grid->setGeometry(withoutControls ? places.gridWithoutControls : places.grid);
     }
+    placeHandles(places);
     placed = true;
     view.placeNotices();
     parts.window.update();
@@ -89,12 +94,52 @@ bool Arrangement::takeWidth() {
     return std::exchange(takenWidth, parts.window.width()) != parts.window.width();
 }
 
+PaneEdge Arrangement::edgeOf(bool ofQuotes) const {
+    const bool below = calls.showType() == StoryShowType::Below;
+    if (ofQuotes)
+        return below ? PaneEdge::QuotesBelow : PaneEdge::QuotesRight;
+    return below ? PaneEdge::ListBelow : PaneEdge::ListRight;
+}
+
+void Arrangement::moveEdge(bool ofQuotes, int place) {
+    constexpr int whole = 1000;
+    const ViewLayout places = layout();
+    const QRect& first = ofQuotes ? places.storyPane : places.grid;
+    const QRect& second = ofQuotes ? places.relatedQuotes : places.storyPane;
+    // Of the two that the edge parts, the way from where the first begins to where the second ends.
+    const bool upright =
+        (edgeOf(ofQuotes) == PaneEdge::ListRight) || (edgeOf(ofQuotes) == PaneEdge::QuotesBelow);
+    const int from = upright ? first.left() : first.top();
+    const int to = upright ? second.right() + 1 : second.bottom() + 1;
+    if (to <= from)
+        return;
+    parts.settings.paneShares.set(edgeOf(ofQuotes), std::max(1, (place - from) * whole / (to - from)));
+    this->place();
+}
+
+void Arrangement::restoreEdge(bool ofQuotes) {
+    parts.settings.paneShares.set(edgeOf(ofQuotes), 0);
+    place();
+}
+
+void Arrangement::placeHandles(const ViewLayout& places) {
+    const auto handle = [this](QPointer<PaneHandle>& made, bool ofQuotes, const QRect& edge) {
+        if (made == nullptr && !edge.isEmpty())
+            made = new PaneHandle(&parts.window, {[this, ofQuotes](int to) { moveEdge(ofQuotes, to); },
+                                                  [this, ofQuotes] { restoreEdge(ofQuotes); }});
+        if (made != nullptr)
+            made->placeOver(edge);
+    };
+    handle(listHandle, false, places.listEdge);
+    handle(quotesHandle, true, places.quotesEdge);
+}
+
 int Arrangement::gridWidth() const {
     const StoryShowType type = calls.showType();
     const int width = parts.window.width();
     if (parts.newsType != NewsType::Full || type == StoryShowType::None || type == StoryShowType::Below)
         return width;
-    return type == StoryShowType::Right ? width / 2 : 0;
+    return type == StoryShowType::Right ? layout().grid.width() : 0;
 }
 
 }  // namespace wirepane

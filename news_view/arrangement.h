@@ -5,9 +5,12 @@
 #include "news_view/common_parts.h"
 #include "news_view/view_layout.h"
 
+#include <QPointer>
+
 #include <functional>
 
 namespace wirepane {
+class PaneHandle;
 class StoryStage;
 class ViewContext;
 
@@ -34,8 +37,13 @@ public:
     bool takeWidth();
     // The width that the story leaves for the grid.
     int gridWidth() const;
+    // The user moves an edge of the panes to a place of the window, or back to where the layout has it.
+    void moveEdge(bool ofQuotes, int place);
+    void restoreEdge(bool ofQuotes);
 
 private:
+    PaneEdge edgeOf(bool ofQuotes) const;
+    void placeHandles(const ViewLayout& places);
     LayoutInput input() const;
     bool isAligned() const;
     ButtonNeeds needs() const;
@@ -46,6 +54,8 @@ private:
     const Calls calls;
     bool placed = false;
     int takenWidth = 0;
+    QPointer<PaneHandle> listHandle;  // both belong to the window; null: edges cannot be moved
+    QPointer<PaneHandle> quotesHandle;
 };
 
 }  // namespace wirepane

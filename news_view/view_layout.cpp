@@ -123,27 +123,41 @@ void layOutPageButtons(const LayoutInput& in, const Frame& frame, int top, int b
 }
 
 void layOutPaneAtRight(const LayoutInput& in, const Frame& frame, ViewLayout& out) {
-    const int left = out.grid.x() + out.grid.width() + paneMargin;
+    const int edge = out.grid.x() + out.grid.width();
+    const int left = edge + (in.movable ? 1 : paneMargin);
     const int top = out.grid.y();
     const int height = frame.bottom - top;
     int bottom = frame.bottom;
     if (in.hasRelatedQuotes) {
-        bottom = height / 3 < 121 ? top + height * 2 / 3 : frame.bottom - 120;
+        const int stated = height / 3 < 121 ? top + height * 2 / 3 : frame.bottom - 120;
+        bottom = in.shares.place(PaneEdge::QuotesRight, top, frame.bottom, stated);
         out.relatedQuotes = between(left, bottom, frame.right, frame.bottom);
     }
     out.storyPane = between(left, top, frame.right, bottom);
     out.storyHidesHeadline = true;
+    if (!in.movable)
+        return;
+    out.listEdge = between(edge, top, edge + 1, frame.bottom);
+    if (in.hasRelatedQuotes)
+        out.quotesEdge = between(left, bottom, frame.right, bottom + 1);
 }
 
 void layOutPaneBelow(const LayoutInput& in, const Frame& frame, ViewLayout& out) {
-    const int top = out.grid.y() + out.grid.height();
+    const int edge = out.grid.y() + out.grid.height();
+    const int top = in.movable ? edge + 1 : edge;
     int right = frame.right;
     if (in.hasRelatedQuotes) {
-        right =
+        const int stated =
             std::max(frame.left, std::min(frame.left + (frame.right - frame.left) / 2, frame.right - 250));
+        right = in.shares.place(PaneEdge::QuotesBelow, frame.left, frame.right, stated);
         out.relatedQuotes = between(right, top, frame.right, frame.bottom);
     }
     out.storyPane = between(frame.left, top, right, frame.bottom);
+    if (!in.movable)
+        return;
+    out.listEdge = between(frame.left, edge, frame.right, edge + 1);
+    if (in.hasRelatedQuotes)
+        out.quotesEdge = between(right, top, right + 1, frame.bottom);
 }
 
 }  // namespace
@@ -159,13 +173,16 @@ ViewLayout layOut(const LayoutInput& in) {
     const int rightmost = layOutControls(in, frame, rowTop, rowBottom, unit, out);
     layOutPageButtons(in, frame, rowTop, rowBottom, rightmost, out);
 
+    const int gridTop = rowBottom + 8;
     int gridBottom = frame.bottom;
     if (in.showType == StoryShowType::Below)
-        gridBottom -= std::min(in.client.height() * 30 / 100, 200);
+        gridBottom = in.shares.place(PaneEdge::ListBelow, gridTop, frame.bottom,
+                                     frame.bottom - std::min(in.client.height() * 30 / 100, 200));
     int gridRight = frame.right;
     if (in.newsType == NewsType::Full && in.showType == StoryShowType::Right)
-        gridRight = frame.left + (frame.right - frame.left) / 2;
-    out.grid = between(frame.left, rowBottom + 8, gridRight, gridBottom);
+        gridRight = in.shares.place(PaneEdge::ListRight, frame.left, frame.right,
+                                    frame.left + (frame.right - frame.left) / 2);
+    out.grid = between(frame.left, gridTop, gridRight, gridBottom);
     out.gridWithoutControls = out.grid;
     if (!in.hasAllNewsGrid)
         out.gridWithoutControls.setTop(frame.top + tabHeight + 2);

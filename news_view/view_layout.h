@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/contract/view_kinds.h"
+#include "news_view/pane_shares.h"
 
 #include <QRect>
 
@@ -37,6 +38,8 @@ struct LayoutInput {
     bool hasAllNewsGrid = false;
     bool aligned = false;  // controls keep one margin at either side, and buttons have what they need
     ButtonNeeds needs;
+    bool movable = false;  // the user may move the edges between list, story and quotes
+    PaneShares shares;     // and has moved them so
 };
 
 // Where everything goes. An empty rectangle means: no room.
@@ -49,6 +52,8 @@ struct ViewLayout {
     QRect gridWithoutControls;  // of the symbol and the warrant grid
     QRect storyPane, relatedQuotes;
     bool storyHidesHeadline = false;
+    // Lines of one pixel that can be moved; empty where there are none.
+    QRect listEdge, quotesEdge;
 };
 
 ViewLayout layOut(const LayoutInput& in);

@@ -23,6 +23,7 @@ const QString symbolServiceKey = u"SymbolService"_s;
 const QString categoryKey = u"CategoryID"_s;
 const QString quoteSortingKey = u"QuoteSorting"_s;
 const QString columnWidthsKey = u"ColumnWidths"_s;
+const QString paneSharesKey = u"PaneShares"_s;
 const QString storySizeKey = u"StorySize"_s;
 const QString windowPlacesKey = u"StoryWindowPlaces"_s;
 
@@ -63,6 +64,9 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
     reader.GetViewInfo(path, storySizeKey, settings.storySize);
     settings.storySize = std::clamp(settings.storySize, smallestStorySize, largestStorySize);
     reader.GetViewInfo(path, windowPlacesKey, settings.storyWindowPlaces);
+    QString paneShares;
+    reader.GetViewInfo(path, paneSharesKey, paneShares);
+    settings.paneShares = PaneShares::restored(paneShares);
     settings.options = ViewOptions::read(reader, path);
     return settings;
 }
@@ -79,6 +83,8 @@ void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
     writer.setViewInfo(path, quoteSortingKey, numberOf(quoteSorting));
     if (options[ViewOption::MeasuredColumns])
         writer.setViewInfo(path, columnWidthsKey, columnWidths);
+    if (options[ViewOption::MovablePanes])
+        writer.setViewInfo(path, paneSharesKey, paneShares.keptText());
     if (options[ViewOption::TypesetStory])
         writer.setViewInfo(path, storySizeKey, storySize);
     if (options[ViewOption::StoryWindow])

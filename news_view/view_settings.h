@@ -6,6 +6,7 @@
 #include "host/contract/view_options.h"
 #include "host/views/quote_table.h"
 #include "news_view/mode_table.h"
+#include "news_view/pane_shares.h"
 #include "story/story_size.h"
 
 #include <QString>
@@ -36,7 +37,9 @@ struct ViewSettings {
     QStringList columnWidths;
     int storySize = plainStorySize;  // "StorySize": of typeset stories, in hundredths
     QStringList storyWindowPlaces;   // "StoryWindowPlaces": of the story window, by screen (WindowPlaces)
-    ViewOptions options;             // the host's choice: never written back
+    // "PaneShares": where the user has moved the edges between list, story and quotes (PaneShares::keptText)
+    PaneShares paneShares;
+    ViewOptions options;  // the host's choice: never written back
 
     // `defaultTab`: the focused tab when none is stored.
     static ViewSettings read(const TRVCfgIO2& reader, const ViewSettingPath& path, int defaultTab);

@@ -3,6 +3,7 @@
 // What a sheet costs at 1,000, 100,000 and 1,000,000 rows: showing its rows, scrolling, reading the
 // selection, memory per row. "vs_1000" is a case's time as a multiple of the smallest one's.
 #include "bench/support/run_benchmarks.h"
+#include "host/controls/row_look.h"
 #include "host/controls/sheet_builder.h"
 #include "host/controls/sheet_cells.h"
 #include "host/controls/super_sheet_wnd.h"

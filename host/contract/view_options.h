@@ -36,6 +36,7 @@ enum class ViewOption {
     TitleChips,             // the words of a flash or a correction at a title's head as a chip
     MarkArrivals,           // rows that have just come are tinted, and fade
     RowTips,                // tool tips of rows: title, service, topic, time with seconds, age
+    MovablePanes,           // the user can move the edges between list, story and quotes
     RowAir,                 // what a row has over the height of its text; 0: rows of 16 pixels
     HeadingHeight,          // of the band of column headings; 0: 16
     RowGutter,              // before the first column's text
@@ -72,6 +73,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::TitleChips, QLatin1StringView("TitleChips")},
     {ViewOption::MarkArrivals, QLatin1StringView("MarkArrivals")},
     {ViewOption::RowTips, QLatin1StringView("RowTips")},
+    {ViewOption::MovablePanes, QLatin1StringView("MovablePanes")},
     {ViewOption::RowAir, QLatin1StringView("RowAir"), 32, 6},
     {ViewOption::HeadingHeight, QLatin1StringView("HeadingHeight"), 64, 22},
     {ViewOption::RowGutter, QLatin1StringView("RowGutter"), 32, 16},

@@ -26,8 +26,9 @@ qreal baselineIn(const QRect& room, const QFont& font) {
 }  // namespace
 
 void SheetRowPainter::setFont(const QFont& font) {
-    if (font == texts.font())
+    if (hasFont && font == texts.font())
         return;
+    hasFont = true;
     texts.setFont(font);
     tags.setFont(sizedFont(font, tagShare));
     chipFont = sizedFont(font, chipShare);

@@ -43,6 +43,7 @@ private:
     void setPen(QPainter& painter, const QColor& colour);
 
     const SheetColours& colours;
+    bool hasFont = false;
     DrawnTexts texts;
     DrawnTexts tags;
     QFont chipFont;

@@ -51,8 +51,12 @@ bool CSuperSheetWnd::showToolTip(const QHelpEvent& event) {
         return false;
     const int height = verticalHeader()->defaultSectionSize();
     const QRect place(0, event.pos().y() / height * height, viewport()->width(), height);
-    // It takes what looks like markup for markup.
+    // It takes what looks like markup for markup, and breaks lines early.
+    constexpr qsizetype wide = 160;
     const QString asMarkup = text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
-    QToolTip::showText(event.globalPos(), QStringLiteral("<p>%1</p>").arg(asMarkup), viewport(), place);
+    const QLatin1String space(text.size() < wide ? "nowrap" : "normal");
+    QToolTip::showText(event.globalPos(),
+                       QStringLiteral("<p style='white-space:%1'>%2</p>").arg(space, asMarkup), viewport(),
+                       place);
     return true;
 }

@@ -3,6 +3,7 @@
 #include "host/controls/super_sheet_wnd.h"
 
 #include "host/controls/registered_message.h"
+#include "host/controls/row_look.h"
 #include "host/controls/sheet_builder.h"
 #include "host/controls/sheet_delegate.h"
 #include "host/controls/sheet_header.h"

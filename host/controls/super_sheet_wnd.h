@@ -3,7 +3,6 @@
 #pragma once
 
 #include "host/contract/export.h"
-#include "host/controls/row_look.h"
 
 #include <QTableView>
 
@@ -13,6 +12,7 @@ class CSheetBuilder;
 class QHelpEvent;
 
 namespace wirepane {
+struct RowLook;
 class SheetCells;
 class SheetDelegate;
 class SheetHeader;

@@ -11,7 +11,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <limits>
 #include <numeric>
 
 using namespace wirepane;
@@ -57,10 +56,11 @@ QuoteWidths QuoteListBaseView::wantedWidths() const {
 
 void QuoteListBaseView::fitColumns() {
     const QuoteWidths wanted = wantedWidths();
+    int box = sheet->viewport()->width();
     // Finished rows are set from the left: the eye need not cross a gap.
-    const int most = sheet->look().finished ? std::accumulate(wanted.begin(), wanted.end(), 0)
-                                            : std::numeric_limits<int>::max();
-    const QuoteWidths widths = fitQuoteColumns(wanted, std::min(most, sheet->viewport()->width()));
+    if (sheet->look().finished)
+        box = std::min(std::accumulate(wanted.begin(), wanted.end(), 0), box - sheet->look().gutter / 2);
+    const QuoteWidths widths = fitQuoteColumns(wanted, box);
     for (int column = 0; column < quoteColumns; ++column)
         sheet->vSetColWidth(column, widths.at(static_cast<std::size_t>(column)));
 }

@@ -170,4 +170,36 @@ TEST(ViewLayout, NoSizeIsTooSmall) {
     }
 }
 
+TEST(ViewLayout, EdgesOfPanesGoWhereTheUserMovedThem) {
+    LayoutInput in = ordinary();
+    in.hasRelatedQuotes = true;
+    for (const StoryShowType type : {StoryShowType::Right, StoryShowType::Below}) {
+        in.showType = type;
+        in.movable = false;
+        const QRect stated = layOut(in).grid;
+        in.movable = true;
+        in.shares = {};
+        EXPECT_EQ(layOut(in).grid, stated);
+        const bool right = type == StoryShowType::Right;
+        in.shares.set(right ? PaneEdge::ListRight : PaneEdge::ListBelow, 700);
+        in.shares.set(right ? PaneEdge::QuotesRight : PaneEdge::QuotesBelow, 600);
+        const ViewLayout out = layOut(in);
+        EXPECT_EQ(right ? out.grid.width() : out.grid.height(), right ? 700 : 451);
+        EXPECT_EQ(right ? out.storyPane.height() : out.storyPane.width(), right ? 387 : 600);
+        EXPECT_FALSE(out.grid.intersects(out.storyPane) || out.storyPane.intersects(out.relatedQuotes));
+        EXPECT_FALSE(out.listEdge.isEmpty() || out.quotesEdge.isEmpty());
+        // Of a window that is made small neither side goes out of sight.
+        LayoutInput small = in;
+        small.client = QRect(0, 0, 260, 420);
+        EXPECT_GE(layOut(small).storyPane.width(), 99);
+        EXPECT_GE(layOut(small).storyPane.height(), 99);
+    }
+    for (const QString& kept : {in.shares.keptText(), QStringLiteral("700,x,99999,-3"), QString()}) {
+        const PaneShares shares = PaneShares::restored(kept);
+        EXPECT_EQ(PaneShares::restored(shares.keptText()).shares, shares.shares);
+        EXPECT_GE(shares.of(PaneEdge::QuotesBelow), 0);
+        EXPECT_LE(shares.of(PaneEdge::QuotesRight), 950);
+    }
+}
+
 }  // namespace wirepane

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/drawn_texts.h"
 #include "host/controls/registered_message.h"
+#include "host/controls/row_look.h"
 #include "host/controls/sheet_builder.h"
 #include "host/controls/sheet_colours.h"
 #include "tests/host/controls/sheet_fixture.h"
@@ -258,6 +259,36 @@ TEST_F(SheetLook, GroundsOfFinishedRowsSayWhatBecameOfThem) {
     EXPECT_EQ(rowColour(*sheet, 2), unfocused);  // and no bar
     QTest::mouseMove(sheet->viewport(), {50, 4 * height + 5});
     EXPECT_EQ(ground(3), QColor(Qt::white));
+    sheet->setCells(nullptr);
+}
+
+TEST_F(SheetLook, ATagIsSmallerThanItsRow) {
+    struct Tagged : NumberedCells {
+        QString text(int, int column) const override { return column == 2 ? QStringLiteral("W") : QString(); }
+        QString tag(int, int column) const override { return column == 2 ? QStringLiteral("W") : QString(); }
+    } tagged;
+    sheet->setCells(&tagged);
+    sheet->vSetFont(QGuiApplication::font());
+    sheet->vSetBkColor(Qt::white, Qt::white);
+    sheet->setLook({true, 16, 6});
+    sheet->vSetColWidth(2, 600);
+    sheet->addRows(1);
+    showAt({800, 300});
+    const QImage row =
+        sheet->viewport()->grab({150, 0, sheet->viewport()->width() - 150, sheet->rowHeight(0)}).toImage();
+    // How many columns of pixels the letter has at the left, as the text, and at the right, as the tag.
+    const auto inked = [&row](int from, int to) {
+        int columns = 0;
+        for (int x = from; x < to; ++x) {
+            bool ink = false;
+            for (int y = 0; y < row.height(); ++y)
+                ink |= row.pixelColor(x, y) != QColor(Qt::white);
+            columns += ink ? 1 : 0;
+        }
+        return columns;
+    };
+    EXPECT_GT(inked(300, row.width()), 0);
+    EXPECT_LT(inked(300, row.width()), inked(0, 300));
     sheet->setCells(nullptr);
 }
 
