@@ -6,6 +6,7 @@
 #include "host/contract/lang_text.h"
 #include "host/contract/symbol_name.h"
 #include "host/contract/sync_info.h"
+#include "host/controls/row_look.h"
 #include "host/controls/sheet_builder.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/views/quote_column_kinds.h"
