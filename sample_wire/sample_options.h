@@ -28,6 +28,8 @@ struct SampleOptions {
     // odd ones in English, the even ones in Chinese.
     std::vector<unsigned char> services = {1, 2, 16, 22, 122, 52};
 
+    // The story of a flash comes up to some minutes after its headline; else it never comes.
+    bool lateStories = false;
     bool stories = true;  // false: headlines only, for large stores quickly
     std::optional<StoryLength>
         storyLength;              // every headline has a story of that length; absent: as a desk writes

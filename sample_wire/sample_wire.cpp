@@ -12,13 +12,17 @@
 #include <QHash>
 
 #include <algorithm>
-#include <limits>
+#include <map>
 
 namespace wirepane {
 
 namespace {
 
 using namespace sample;
+
+// After the headline of a flash, in seconds.
+constexpr int earliestStory = 20;
+constexpr int latestStory = 90;
 
 SampleOptions bounded(SampleOptions options) {
     options.days = std::clamp(options.days, 1, SampleOptions::mostDays);
@@ -62,14 +66,17 @@ public:
     bool handSymbols(const Taker& take) const;
     bool handQuotes(const Taker& take) const;
     bool handNews(const Taker& take) const;
-    void follow(std::int64_t moment, const Taker& take) const;
+    void follow(std::int64_t moment, const TimedTaker& take) const;
     bool tick(std::int64_t moment, const Taker& take) const;
 
 private:
-    // Nothing from before `from` is handed over.
-    bool handDay(Day day, const std::vector<PlannedItem>& items, const Taker& take,
-                 std::int64_t from = std::numeric_limits<std::int64_t>::min()) const;
-    NewsItem itemOf(const PlannedItem& planned, const Assignment& assignment) const;
+    using Hand = std::function<bool(const PlannedItem&, const Assignment&)>;
+
+    bool handDay(Day day, const std::vector<PlannedItem>& items, const Hand& hand) const;
+    // When the story of a flash is sent.
+    std::int64_t lateStoryTime(const PlannedItem& planned) const;
+    // As the wire has it at a moment.
+    NewsItem itemOf(const PlannedItem& planned, const Assignment& assignment, std::int64_t moment) const;
     std::vector<CSymbolInfo> relatedOf(const Scene& scene) const;
     QString identityOf(unsigned char service, const Assignment& assignment) const;
 
@@ -123,16 +130,42 @@ bool SampleWire::Desk::handQuotes(const Taker& take) const {
 }
 
 bool SampleWire::Desk::handNews(const Taker& take) const {
+    const Hand hand = [&](const PlannedItem& item, const Assignment& assignment) {
+        // What was sent for the quiet before the present is not followed: its stories come with it.
+        return take(itemOf(item, assignment, item.filler ? options.now + latestStory : options.now));
+    };
     const Day today = LocalTime::fromUtc(options.now).day;
     for (Day day{today.number - options.days + 1}; day.number < today.number; ++day.number)
-        if (!handDay(day, plan.day(day), take))
+        if (!handDay(day, plan.day(day), hand))
             return false;
-    return handDay(today, plan.dayUntil(options.now), take);
+    return handDay(today, plan.dayUntil(options.now), hand);
 }
 
-void SampleWire::Desk::follow(std::int64_t moment, const Taker& take) const {
-    Day day = LocalTime::fromUtc(moment).day;
-    while (handDay(day, plan.followedDay(day), take, moment))
+void SampleWire::Desk::follow(std::int64_t moment, const TimedTaker& take) const {
+    std::multimap<std::int64_t, NewsItem> lateStories;
+    const auto handLateStories = [&](std::int64_t until) {
+        while (!lateStories.empty() && lateStories.begin()->first <= until) {
+            auto next = lateStories.extract(lateStories.begin());
+            if (next.key() >= moment && !take(next.key(), std::move(next.mapped())))
+                return false;
+        }
+        return true;
+    };
+    const Hand hand = [&](const PlannedItem& planned, const Assignment& assignment) {
+        // Stories that are to come after the moment belong to headlines from before it, too.
+        if (planned.time < moment - latestStory)
+            return true;
+        if (!handLateStories(planned.time))
+            return false;
+        NewsItem item = itemOf(planned, assignment, planned.time);
+        if (!item.story) {
+            const std::int64_t sentAt = lateStoryTime(planned);
+            lateStories.emplace(sentAt, itemOf(planned, assignment, sentAt));
+        }
+        return planned.time < moment || take(planned.time, std::move(item));
+    };
+    Day day = LocalTime::fromUtc(moment - latestStory).day;
+    while (handDay(day, plan.followedDay(day), hand))
         ++day.number;
 }
 
@@ -155,18 +188,21 @@ bool SampleWire::Desk::tick(std::int64_t moment, const Taker& take) const {
     return true;
 }
 
-bool SampleWire::Desk::handDay(Day day, const std::vector<PlannedItem>& items, const Taker& take,
-                               std::int64_t from) const {
+bool SampleWire::Desk::handDay(Day day, const std::vector<PlannedItem>& items, const Hand& hand) const {
     std::vector<NewsDesk> desks;
     for (unsigned char service : plan.services())
         desks.emplace_back(service, day, planSeed, options.correctionPermille);
-    return std::all_of(items.begin(), items.end(), [&](const PlannedItem& item) {
-        const Assignment assignment = desks[item.service].next(item);
-        return item.time < from || take(itemOf(item, assignment));
-    });
+    return std::all_of(items.begin(), items.end(),
+                       [&](const PlannedItem& item) { return hand(item, desks[item.service].next(item)); });
 }
 
-NewsItem SampleWire::Desk::itemOf(const PlannedItem& planned, const Assignment& assignment) const {
+std::int64_t SampleWire::Desk::lateStoryTime(const PlannedItem& planned) const {
+    const std::uint64_t draw = hashOf(planSeed, planned.ordinal, static_cast<std::uint64_t>(planned.time));
+    return planned.time + inRange(draw, earliestStory, latestStory);
+}
+
+NewsItem SampleWire::Desk::itemOf(const PlannedItem& planned, const Assignment& assignment,
+                                  std::int64_t moment) const {
     Scene scene(world, assignment.setting);
     NewsItem item;
     item.service = plan.services()[planned.service];
@@ -176,8 +212,11 @@ NewsItem SampleWire::Desk::itemOf(const PlannedItem& planned, const Assignment& 
     item.title = writer.headline(scene, assignment);
     if (options.stories && options.storyLength)
         item.story = writer.story(scene, assignment, {options.storyLength->least, options.storyLength->most});
-    else if (options.stories && !StoryWriter::isFlash(scene, assignment))
+    else if (options.stories && (!StoryWriter::isFlash(scene, assignment) ||
+                                 (options.lateStories && lateStoryTime(planned) <= moment)))
         item.story = writer.story(scene, assignment);
+    else if (options.stories && options.lateStories)
+        item.story.reset();
     item.categoryId = assignment.beat->category;
     item.category = categories[assignment.beat->category].name;
     item.related = relatedOf(scene);
@@ -228,7 +267,7 @@ bool SampleWire::run(const Taker& take) const {
            desk->handNews(take);
 }
 
-void SampleWire::follow(std::int64_t moment, const Taker& take) const {
+void SampleWire::follow(std::int64_t moment, const TimedTaker& take) const {
     desk->follow(moment, take);
 }
 

@@ -31,6 +31,8 @@ class SampleWire {
 public:
     // Takes one item; false: no more are wanted.
     using Taker = std::function<bool(StoreItem&&)>;
+    // The same, with the moment at which the wire sends the item (seconds since 1970, UTC).
+    using TimedTaker = std::function<bool(std::int64_t sentAt, StoreItem&&)>;
 
     // The data must outlive the wire.
     SampleWire(const SampleData& data, SampleOptions options);
@@ -41,9 +43,10 @@ public:
     // later than the present moment. True: all were taken. May be called again, and starts from the beginning
     // then.
     bool run(const Taker& take) const;
-    // Hands over the news from a moment on, day after day without end, until no more is wanted. Between the
-    // items of the plan, ordinary wires send something every ten seconds.
-    void follow(std::int64_t moment, const Taker& take) const;
+    // Hands over what is sent from a moment on, in that order, day after day without end, until no more is
+    // wanted. Between the items of the plan, ordinary wires send something every ten seconds. With late
+    // stories a flash says that one is to come, and is sent again with it.
+    void follow(std::int64_t moment, const TimedTaker& take) const;
     // Hands over the quotes of a few symbols, others at each moment, as trading moves them. False: no more
     // are wanted.
     bool tick(std::int64_t moment, const Taker& take) const;

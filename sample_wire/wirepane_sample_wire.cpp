@@ -66,6 +66,7 @@ public:
         if (!now.isValid())
             faults.append(u"--now takes a moment such as 2026-03-02T09:30:00"_s);
         options.now = now.toSecsSinceEpoch();
+        options.lateStories = true;
         if (!parser.positionalArguments().isEmpty())
             faults.append(u"takes no argument \"%1\""_s.arg(parser.positionalArguments().constFirst()));
         return options;
@@ -122,10 +123,12 @@ public:
             std::_Exit(statusDone);
         }).detach();
         const std::int64_t earliest = options.now - (options.days - 1) * daySeconds;
-        wire.follow(kept > 0 ? std::max(kept, earliest) : options.now, [&](StoreItem&& item) {
-            const std::int64_t time = std::get<NewsItem>(item).time;
-            return waitFor(time, wire) && write(feedLine(item, QString::number(time)));
-        });
+        // Whoever has no position yet may have been filled some seconds ago.
+        constexpr std::int64_t fillingSeconds = 60;
+        wire.follow(kept > 0 ? std::max(kept, earliest) : options.now - fillingSeconds,
+                    [&](std::int64_t sentAt, StoreItem&& item) {
+                        return waitFor(sentAt, wire) && write(feedLine(item, QString::number(sentAt)));
+                    });
     }
 
 private:

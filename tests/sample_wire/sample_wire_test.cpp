@@ -162,13 +162,44 @@ TEST(SampleWire, StopsWhenNoMoreIsWanted) {
     EXPECT_EQ(taken, 2'000);
 }
 
+// Whoever joins between the headline and its story gets the story all the same.
+TEST(SampleWire, SendsTheStoryOfAFlashLater) {
+    SampleOptions options = threeDays();
+    options.lateStories = true;
+    const SampleWire wire(sampleData(), options);
+    const auto storiesFrom = [&wire](std::int64_t from) {
+        std::map<QString, std::int64_t> stories;
+        std::set<QString> awaited;
+        std::int64_t before = from;
+        wire.follow(from, [&](std::int64_t sentAt, StoreItem&& given) {
+            const auto& item = std::get<NewsItem>(given);
+            EXPECT_GE(sentAt, before);
+            before = sentAt;
+            if (!item.story)
+                awaited.insert(item.identity);
+            else if (sentAt > item.time)
+                stories.emplace(item.identity, sentAt);
+            return sentAt < afternoon + hour;
+        });
+        for (const auto& [identity, sentAt] : stories)
+            awaited.erase(identity);
+        EXPECT_LT(awaited.size(), 10U);
+        return stories;
+    };
+    const auto all = storiesFrom(afternoon);
+    ASSERT_GT(all.size(), 10U);
+    const auto half = storiesFrom(afternoon + hour / 2);
+    for (const auto& [identity, sentAt] : all)
+        EXPECT_EQ(half.contains(identity), sentAt >= afternoon + hour / 2) << identity.toStdString();
+}
+
 // At any hour, weekends and midnight included.
 TEST(SampleWire, FollowedItSendsSomethingEveryTwentySecondsAndTheSameToEverybody) {
     SampleOptions options = threeDays();
     const SampleWire wire(sampleData(), options);
     const auto newsFrom = [&wire](std::int64_t from, std::int64_t until) {
         std::vector<NewsItem> news;
-        wire.follow(from, [&](StoreItem&& item) {
+        wire.follow(from, [&](std::int64_t, StoreItem&& item) {
             news.push_back(std::move(std::get<NewsItem>(item)));
             return news.back().time < until;
         });
