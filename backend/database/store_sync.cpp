@@ -56,17 +56,6 @@ void StoreSync::whenOnDisk(Callback callback) {
     waiting.emplace_back(commits, std::move(callback));
 }
 
-void StoreSync::finish() {
-    std::int64_t upTo = 0;
-    Done done = Nothing{};
-    thread.run([&] {
-        syncWhatIsNew();
-        upTo = synced;
-        done = outcome;
-    });
-    deliver(upTo, done);
-}
-
 // Commits that come meanwhile ask again.
 void StoreSync::syncWhatIsNew() {
     isAsked = false;

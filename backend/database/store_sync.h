@@ -31,8 +31,6 @@ public:
 
     // Called back from the event loop, when all that has been committed until now is on the disk.
     void whenOnDisk(Callback callback);
-    // Waits for that, and calls back whoever waits.
-    void finish();
     // The log has grown since the last checkpoint so far that it is time for another. Any thread.
     bool isLogLong() const;
     // A checkpoint has been made, as far as readers let it.

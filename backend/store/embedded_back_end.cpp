@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/embedded_back_end.h"
 
+#include "backend/database/database_errors.h"
 #include "backend/database/database_failure.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
@@ -28,6 +29,9 @@ CHeadlineTable entryOf(const HeadlineKey& key) {
 Result<std::unique_ptr<EmbeddedBackEnd>> EmbeddedBackEnd::open(const QString& storePath,
                                                                const IndexProgress& onIndexing) {
     Result<std::unique_ptr<Database>> store = openStore(storePath, {.onIndexing = onIndexing});
+    // One that others write to for long would be read alone for as long as this lives.
+    if (!store && store.error().code == &database_errors::inUse)
+        return store.error();
     if (!store) {
         Result<std::unique_ptr<Database>> read = openStoreToRead(storePath, {.onIndexing = onIndexing});
         if (!read)

@@ -32,6 +32,7 @@ struct ExportOptions {
     QDate day;          // of the news, without keywords
     CSearch condition;  // with keywords
     std::vector<unsigned char> services;
+    std::int64_t latest = 0;  // what is dated later is not there yet
 };
 
 void addOptions(QCommandLineParser& parser) {
@@ -60,6 +61,7 @@ ExportOptions optionsOf(CommandArguments& arguments) {
     options.target.wholeTitles = true;
     options.target.paper = parser.value(u"paper"_s);
     options.condition = conditionOf(arguments, rest.mid(1));
+    options.latest = latestOf(arguments);
     options.day = host_clock::today();
     if (parser.isSet(u"day"_s))
         options.day = QDate::fromString(parser.value(u"day"_s), dayForm);
@@ -120,9 +122,10 @@ int exportNews(EmbeddedBackEnd& backEnd, const ExportOptions& options) {
     const auto module = loadModule();
     if (!module)
         return unusable(sentence(module.error()));
-    const auto wanted = wantedNews(backEnd, options);
+    auto wanted = wantedNews(backEnd, options);
     if (!wanted)
         return unusable(sentence(wanted.error()));
+    dropLater(wanted.value(), options.latest);
     if (!isReadable(backEnd, wanted.value()))
         return unusable(sentence(*backEnd.storeDamage()));
     if (wanted.value().empty()) {

@@ -9,6 +9,7 @@
 #include "terminal/console/console.h"
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -66,6 +67,15 @@ CSearch conditionOf(CommandArguments& arguments, const QStringList& keywords) {
     for (const QString& symbol : parser.values(u"symbol"_s))
         condition.symbols.push_back(symbolOf(symbol, arguments));
     return condition;
+}
+
+std::int64_t latestOf(const CommandArguments& arguments) {
+    constexpr std::int64_t never = std::numeric_limits<std::int64_t>::max();
+    return momentOf(arguments.parser.value(u"now"_s)).value_or(never);
+}
+
+void dropLater(std::vector<CHeadlineTable>& news, std::int64_t latest) {
+    std::erase_if(news, [latest](const CHeadlineTable& entry) { return entry.time > latest; });
 }
 
 std::optional<std::vector<CHeadlineTable>> findAll(Database& store,

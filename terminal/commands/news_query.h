@@ -7,6 +7,7 @@
 
 #include <QStringList>
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -21,6 +22,11 @@ inline constexpr int lastNewsService = 255;
 void addQueryOptions(QCommandLineParser& parser);
 // The condition of the options and these keywords; what is wrong about it is a fault of the arguments.
 CSearch conditionOf(CommandArguments& arguments, const QStringList& keywords);
+
+// The moment that --now names, beyond which news is not there yet; without it the end of all time.
+std::int64_t latestOf(const CommandArguments& arguments);
+// Takes out what is dated later.
+void dropLater(std::vector<CHeadlineTable>& news, std::int64_t latest);
 
 // What the services hold of the condition, newest first; nothing when the store cannot be read.
 std::optional<std::vector<CHeadlineTable>> findAll(Database& store,

@@ -94,12 +94,13 @@ int runSearch() {
     Database& database = *store.value();
     const std::vector<unsigned char> services =
         service != 0 ? std::vector{service} : StoreReader(database).serviceIds();
-    const auto found = findAll(database, services, condition);
+    auto found = findAll(database, services, condition);
     if (!found || database.damage()) {
         printNote(sentence(database.damage().value_or(database.failure())));
         return exitUnusable;
     }
     noteBacklog(database);
+    dropLater(*found, latestOf(arguments));
     return printFound(database, *found, std::size_t(most), arguments.parser.isSet(u"json"_s));
 }
 

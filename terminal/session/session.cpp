@@ -203,7 +203,11 @@ void Session::followSample() {
     std::int64_t isSample = 0;
     if (!reading || store->isReadOnly() ||
         !reading.value()->readNumber("SELECT EXISTS(SELECT 1 FROM headlines) AND NOT EXISTS("
-                                     "SELECT 1 FROM headlines WHERE identity NOT LIKE 'sample:%')",
+                                     "SELECT 1 FROM services WHERE "
+                                     "EXISTS(SELECT 1 FROM headlines WHERE service = services.id AND "
+                                     "identity < 'sample:') OR "
+                                     "EXISTS(SELECT 1 FROM headlines WHERE service = services.id AND "
+                                     "identity >= 'sample;'))",
                                      isSample) ||
         isSample == 0)
         return;
