@@ -121,6 +121,27 @@ inline constexpr QLatin1StringView hintWarningTerm{"IDS_NEWSCTRLVIEW_HINT_WARNIN
 // "%2": the key that goes to the search box.
 inline constexpr QLatin1StringView hintSearch{"IDS_NEWSCTRLVIEW_HINT_SEARCH"};
 
+// What empty lists say where they offer a way out.
+// "%1": the day.
+inline constexpr QLatin1StringView emptyDay{"IDS_NEWSCTRLVIEW_EMPTY_DAY"};
+inline constexpr QLatin1StringView emptyShowDay{"IDS_NEWSCTRLVIEW_EMPTY_SHOW_DAY"};
+inline constexpr QLatin1StringView emptyNoService{"IDS_NEWSCTRLVIEW_EMPTY_NO_SERVICE"};
+inline constexpr QLatin1StringView emptyChooseServices{"IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_SERVICES"};
+inline constexpr QLatin1StringView emptyShowAllNews{"IDS_NEWSCTRLVIEW_EMPTY_SHOW_ALL_NEWS"};
+inline constexpr QLatin1StringView emptyNothing{"IDS_NEWSCTRLVIEW_EMPTY_NOTHING"};
+// "%1": the category or symbol.
+inline constexpr QLatin1StringView emptyOfSubject{"IDS_NEWSCTRLVIEW_EMPTY_OF_SUBJECT"};
+inline constexpr QLatin1StringView emptyRelation{"IDS_NEWSCTRLVIEW_EMPTY_RELATION"};
+inline constexpr QLatin1StringView emptyChooseKeySets{"IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_KEY_SETS"};
+inline constexpr QLatin1StringView emptyWarningTerm{"IDS_NEWSCTRLVIEW_EMPTY_WARNING_TERM"};
+inline constexpr QLatin1StringView emptyChooseTerms{"IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_TERMS"};
+inline constexpr QLatin1StringView emptySearch{"IDS_NEWSCTRLVIEW_EMPTY_SEARCH"};
+inline constexpr QLatin1StringView emptyBeginSearch{"IDS_NEWSCTRLVIEW_EMPTY_BEGIN_SEARCH"};
+// "%1": a word that was searched for.
+inline constexpr QLatin1StringView emptyQuotedWord{"IDS_NEWSCTRLVIEW_EMPTY_QUOTED_WORD"};
+// "%1": the words, each in quotes.
+inline constexpr QLatin1StringView emptyNotFound{"IDS_NEWSCTRLVIEW_EMPTY_NOT_FOUND"};
+
 // What controls without a text are called.
 inline constexpr QLatin1StringView nameOfModes{"IDS_NEWSCTRLVIEW_NAME_MODES"};
 inline constexpr QLatin1StringView allServices{"IDS_NEWSCTRLVIEW_STRING_ALL_SERVICES"};

@@ -74,6 +74,19 @@ bool Days::hasNewsOn(const QDate& day) const {
            });
 }
 
+std::optional<QDate> Days::nearestWithNews() const {
+    const QDate today = host_clock::today();
+    for (QDate day = pager.pickedDate().addDays(-1); isInRange(day); day = day.addDays(-1)) {
+        if (hasNewsOn(day))
+            return day;
+    }
+    for (QDate day = pager.pickedDate().addDays(1); day <= today; day = day.addDays(1)) {
+        if (hasNewsOn(day))
+            return day;
+    }
+    return std::nullopt;
+}
+
 void Days::loadTexts() {
     if (auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker))
         dressCalendar(*picker->calendar());
@@ -110,6 +123,12 @@ bool Days::pick(const QDate& date) {
         return true;
     context.setStatusText({});
     return false;
+}
+
+void Days::goTo(const QDate& date) {
+    if (auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker))
+        picker->showDate(date);
+    pick(date);
 }
 
 void Days::refuse(const QString& why) {

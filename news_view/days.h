@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace wirepane {
 class DayCalendar;
@@ -33,6 +34,9 @@ public:
     const QDate& newsDay() const { return pager.currentNewsDay(); }
     // yyyymmdd; no date's without a day.
     QString pickedKey() const;
+    // The last day before the picked one that has news of a ticked service, else the first one after it; of
+    // those that may be picked. Nothing where there is none, or the back end cannot tell.
+    std::optional<QDate> nearestWithNews() const;
     // How many days back may be picked.
     void setRange(int days) { pager.setRange(days); }
 
@@ -47,6 +51,8 @@ public:
     // Picks the date of the all-news list. True when the list was read anew and has rows; false for the date
     // in force, for a day out of range (a tip says so and the date picker goes back) and without the list.
     bool pick(const QDate& date);
+    // The same, and the date picker shows it.
+    void goTo(const QDate& date);
     // A news day has begun: the view follows it when it has ticked the service. A status with a date that no
     // calendar knows changes nothing.
     void follow(const CMarketStatus& status);

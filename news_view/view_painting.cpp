@@ -96,6 +96,7 @@ void TRVNewsCtrlView::changeEvent(QEvent* event) {
     parts->days.loadTexts();
     parts->shortcuts.loadToolTips();
     parts->standingSearches.loadHints();
+    parts->emptyLists.followSoon();
     parts->categories.learnCombo();
     parts->symbolMode.nameMarkets();
     for (TRVNewsStory* window : parts->stage.windows())

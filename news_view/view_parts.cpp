@@ -10,14 +10,17 @@
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
+#include "host/contract/symbol_name.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/s_button.h"
 #include "host/controls/s_edit.h"
+#include "host/controls/sc_combo_box.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/com_virtual_base_view.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/notice_line.h"
 #include "news_view/told_notices.h"
+#include "search/search_edit2.h"
 #include "story/news_story_view.h"
 #include "story/trv_news_story.h"
 
@@ -57,8 +60,9 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       serviceMenu(*this, common,
                   {[this](int command) { view.onCommand(command); }, [this] { readForServices(); },
                    [this] { return settings.options[ViewOption::KeepServicesOpen]; }}),
-      liveNews(*this, common, liveCalls()) {
-    lists.setOnRead([this] { board.place(); });
+      liveNews(*this, common, liveCalls()),
+      emptyLists(*this, common, searches.desk(), emptyListCalls()) {
+    lists.setOnRead([this] { placeNotices(); });
 }
 
 // A window that goes hands the keyboard back to the view, whose parts must all be there then.
@@ -104,6 +108,7 @@ void TRVNewsCtrlView::Parts::connectGrid(CSuperSheetWnd& grid, ListIndex list) {
     QObject::connect(grid.selectionModel(), &QItemSelectionModel::currentRowChanged, &view,
                      [this, &grid, list] { story.follow(grid, list); });
     newestRow.watch(grid, list);
+    emptyLists.watch(grid, list);
 }
 
 // --- Stories, output, notices ---
@@ -329,6 +334,39 @@ void TRVNewsCtrlView::Parts::goTo(ListIndex list, int row) {
         grid->vAutoVerScrolling(row);
     }
     story.show();
+}
+
+// --- What empty lists offer ---
+
+EmptyLists::Calls TRVNewsCtrlView::Parts::emptyListCalls() {
+    return {[this] { return days.picked(); },
+            [this] { return days.nearestWithNews(); },
+            [this](QDate day) {
+                days.goTo(day);
+                story.show();
+            },
+            [this] { return shownSubject(); },
+            [this](ListIndex list) { showMode(list); },
+            [this] { serviceMenu.popUp(); },
+            [this] {
+                if (auto* edit = controls.find<SearchEdit2>(ids::searchEdit))
+                    edit->setFocus(Qt::OtherFocusReason);
+            },
+            [this](ListIndex list) {
+                if (list == ListIndex::Relation)
+                    standingSearches.composeKeySets();
+                else
+                    standingSearches.manageWarningTerms();
+            }};
+}
+
+QString TRVNewsCtrlView::Parts::shownSubject() {
+    if (modes.shown() == ListIndex::Symbol) {
+        const CSymbolInfo symbol = symbolMode.listed();
+        return (symbol.code + QLatin1Char(' ') + symbolName(backEnd, symbol).value_or(QString())).trimmed();
+    }
+    const auto* combo = controls.find<SCComboBox>(ids::categoryCombo);
+    return combo != nullptr ? combo->currentText() : QString();
 }
 
 // --- What notices offer ---

@@ -14,6 +14,7 @@
 #include "news_view/context_menu.h"
 #include "news_view/control_set.h"
 #include "news_view/days.h"
+#include "news_view/empty_lists.h"
 #include "news_view/list_input.h"
 #include "news_view/list_tip.h"
 #include "news_view/live_news.h"
@@ -55,7 +56,10 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
         return story.readInPlace(list, read);
     }
     void setStatusText(const QString& text) override { board.setStatus(text); }
-    void placeNotices() override { board.place(); }
+    void placeNotices() override {
+        board.place();
+        emptyLists.followSoon();
+    }
 
     // What lists see of it. The services are the user's own choice, also while the warrant mode has set it
     // aside: every list but the warrants' holds what he has ticked.
@@ -133,6 +137,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::SentAgain sentAgain;
     wirepane::ServiceMenu serviceMenu;
     wirepane::LiveNews liveNews;
+    wirepane::EmptyLists emptyLists;
 
 private:
     // What each owner is given of the view and of the others.
@@ -151,6 +156,9 @@ private:
     wirepane::SymbolMode::Calls symbolCalls();
     wirepane::SentAgain::Choices choices();
     wirepane::LiveNews::Calls liveCalls();
+    wirepane::EmptyLists::Calls emptyListCalls();
+    // What the shown list is of: its category or symbol, as the user reads it.
+    QString shownSubject();
     wirepane::IntakeState intakeChoices() const;
     void connectGrid(CSuperSheetWnd& grid, wirepane::ListIndex list);
     void readForServices();

@@ -29,6 +29,7 @@ enum class ViewOption {
     MarketNames,            // markets are named in the language in force
     AlignControls,          // controls keep one edge at either side, and bear icons beside their texts
     KeepServicesOpen,       // the list of services stays open while ticking
+    EmptyStates,            // lists without rows offer a way out: the nearest day with news, a dialog
     FollowNewest,           // the newest row is selected until the reader goes to one himself
     MeasuredColumns,        // columns as wide as their texts; widths set by hand are kept
     FinishedRows,           // a row under the pointer, a bar at the selected one, small quiet headings
@@ -66,6 +67,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::MarketNames, QLatin1StringView("MarketNames")},
     {ViewOption::AlignControls, QLatin1StringView("AlignControls")},
     {ViewOption::KeepServicesOpen, QLatin1StringView("KeepServicesOpen")},
+    {ViewOption::EmptyStates, QLatin1StringView("EmptyStates")},
     {ViewOption::FollowNewest, QLatin1StringView("FollowNewest")},
     {ViewOption::MeasuredColumns, QLatin1StringView("MeasuredColumns")},
     {ViewOption::FinishedRows, QLatin1StringView("FinishedRows")},

@@ -35,7 +35,7 @@ int runBackup() {
     if (const auto status = arguments.fault())
         return *status;
 
-    const auto store = Database::openToRead(arguments.storeFile(), StoreOptions().busyTimeout);
+    const auto store = Database::openToRead(arguments.storeToRead(), StoreOptions().busyTimeout);
     if (!store)
         return unusable(store.error());
     if (const std::optional<Error> fault = readingFault(*store.value()))
@@ -45,7 +45,7 @@ int runBackup() {
     clearPassing();
     if (!copied)
         return unusable(copied.error());
-    printLine(u"The store %1 is in %2 (%3)."_s.arg(QDir::toNativeSeparators(arguments.storeFile()),
+    printLine(u"The store %1 is in %2 (%3)."_s.arg(QDir::toNativeSeparators(arguments.storeToRead()),
                                                    QDir::toNativeSeparators(target),
                                                    QLocale::c().formattedDataSize(QFileInfo(target).size())));
     return exitDone;

@@ -27,8 +27,8 @@ int runCheck() {
     if (const auto status = arguments.fault())
         return *status;
 
-    const QString file = QDir::toNativeSeparators(arguments.storeFile());
-    const auto faults = StoreChecker(arguments.storeFile()).check();
+    const QString file = QDir::toNativeSeparators(arguments.storeToRead());
+    const auto faults = StoreChecker(arguments.storeToRead()).check();
     if (!faults) {
         printNote(sentence(faults.error()));
         return exitUnusable;

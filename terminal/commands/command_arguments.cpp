@@ -5,6 +5,7 @@
 #include "host/contract/clock.h"
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
+#include "terminal/session/user_stores.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -30,7 +31,7 @@ CommandArguments::CommandArguments(const QString& commandName, const QString& de
     if (!command.isEmpty())
         parser.addPositionalArgument(command, QString(), command);
     parser.addOption(
-        {u"store"_s, u"The news store; made when absent. Default: %1."_s.arg(defaultStoreFile()), u"file"_s});
+        {u"store"_s, u"The news store; made when absent. Default: %1."_s.arg(userStores().own), u"file"_s});
     parser.addOption(
         {u"now"_s, u"What is taken as the present moment, such as 2026-03-02T09:30:00."_s, u"moment"_s});
 }
@@ -71,7 +72,11 @@ std::int64_t CommandArguments::number(const QString& option, std::int64_t fallba
 }
 
 QString CommandArguments::storeFile() const {
-    return parser.isSet(u"store"_s) ? parser.value(u"store"_s) : defaultStoreFile();
+    return parser.isSet(u"store"_s) ? parser.value(u"store"_s) : userStores().own;
+}
+
+QString CommandArguments::storeToRead() const {
+    return parser.isSet(u"store"_s) ? parser.value(u"store"_s) : wirepane::storeToRead(userStores());
 }
 
 void CommandArguments::applyNow() {
@@ -96,11 +101,6 @@ std::optional<int> CommandArguments::fault() const {
     printNote(
         u"\"%1 --help\" tells more."_s.arg((QCoreApplication::applicationName() + u' ' + command).trimmed()));
     return exitUnusable;
-}
-
-QString defaultStoreFile() {
-    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
-        .filePath(u"news.wirepane"_s);
 }
 
 QString defaultConfigFolder() {

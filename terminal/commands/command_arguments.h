@@ -30,6 +30,8 @@ public:
     std::int64_t number(const QString& option, std::int64_t fallback, std::int64_t least, std::int64_t most);
     // The store that --store names, or the user's own.
     QString storeFile() const;
+    // The same for who only reads: the sample wire's when that is all there is.
+    QString storeToRead() const;
     // Sets the host's clock as --now says.
     void applyNow();
     // Something about the arguments is wrong; the first such thing counts.
@@ -42,8 +44,7 @@ private:
     QString faultSentence;
 };
 
-// Where the user's store and settings stand when no option says otherwise.
-QString defaultStoreFile();
+// Where the user's settings stand when no option says otherwise.
 QString defaultConfigFolder();
 
 // A moment as --now takes it, "2026-03-02T09:30:00" in local time unless it names its offset, in seconds

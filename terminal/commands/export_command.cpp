@@ -156,9 +156,9 @@ int runExport() {
     const ExportOptions options = optionsOf(arguments);
     if (const auto status = arguments.fault())
         return *status;
-    if (!QFileInfo::exists(arguments.storeFile()))
-        return unusable(u"There is no store %1."_s.arg(QDir::toNativeSeparators(arguments.storeFile())));
-    auto store = withReader(openStoreToRead(arguments.storeFile(), {.onIndexing = indexingLines()}));
+    if (!QFileInfo::exists(arguments.storeToRead()))
+        return unusable(u"There is no store %1."_s.arg(QDir::toNativeSeparators(arguments.storeToRead())));
+    auto store = withReader(openStoreToRead(arguments.storeToRead(), {.onIndexing = indexingLines()}));
     if (!store)
         return unusable(sentence(store.error()));
     const auto backEnd = std::make_unique<EmbeddedBackEnd>(std::move(store.value()));

@@ -37,6 +37,8 @@ struct OpenOptions {
     QString automationSocket;
     QString tourFolder;
     std::vector<SourceRequest> sources;
+    std::optional<UserStores> stores;     // none: a store was named
+    std::optional<StoreKind> storeKind;   // of them
     std::optional<QString> explainedKey;  // of a headline: nothing is opened, it is explained
     bool automation = false;              // on standard input and output
     bool sample = false;
@@ -124,6 +126,15 @@ OpenOptions openOptions(CommandArguments& arguments) {
     // Who names a source of news has no need of an invented one.
     options.followsSample =
         options.sources.empty() && !options.noSample && !options.isScripted() && !options.tour;
+    if (!parser.isSet(u"store"_s) && !options.isScripted() && !options.tour && !isExplaining) {
+        options.stores = userStores();
+        if (options.sample)
+            options.storeKind = StoreKind::Sample;
+        else if (options.noSample || !options.sources.empty())
+            options.storeKind = StoreKind::Own;
+    }
+    if (isExplaining)
+        options.storeFile = arguments.storeToRead();
     if (!parser.isSet(u"feed"_s) && !options.isScripted() && !options.tour)
         options.sources.push_back({u"feed"_s, defaultFeedName});
     if (isExplaining && (options.isScripted() || options.tour))
@@ -160,13 +171,15 @@ void endTerminal() {
     QCoreApplication::exit(exitDone);
 }
 
-// The user's terminal. Without a store of their own, users start with the sample wire.
-int runForUser(Session& session) {
-    const FrameCommands commands(session);
+// The user's terminal. Without a store of their own, users start with the sample wire. `files` are taken in.
+int runForUser(Session& session, const QStringList& files) {
+    FrameCommands commands(session);
     if (const Done opened = openWorkspace(session); !opened) {
         QMessageBox::critical(&session.frame(), QApplication::applicationName(), shownText(opened.error()));
         return exitUnusable;
     }
+    if (!files.isEmpty())
+        commands.importFiles(files);
     return QApplication::exec();
 }
 
@@ -190,10 +203,15 @@ int runForScripts(Session& session, const OpenOptions& options, StandardChannel*
     return QApplication::exec();
 }
 
-int runOpened(const OpenOptions& options, StandardChannel* channel) {
-    const bool sample = options.sample || (!options.isScripted() && !options.noSample);
-    const auto session = Session::open({options.storeFile, options.configFolder, options.language, sample,
-                                        options.sources, !options.isScripted(), options.followsSample});
+// `onward`: where the user came from another of his stores; afterwards, where he goes on.
+int runOpened(const OpenOptions& options, StandardChannel* channel, std::optional<OnwardStore>& onward) {
+    const bool sample = options.sample || (!options.isScripted() && !options.noSample && !options.stores);
+    const auto session =
+        Session::open({options.storeFile, options.configFolder, options.language, sample, options.sources,
+                       !options.isScripted(), options.followsSample, options.stores,
+                       onward ? std::optional(onward->kind) : options.storeKind});
+    const QStringList files = onward ? onward->files : QStringList();
+    onward.reset();
     if (!session) {
         printNote(sentence(session.error()));
         return exitUnusable;
@@ -201,8 +219,10 @@ int runOpened(const OpenOptions& options, StandardChannel* channel) {
     const OnEndSignal ending(&endTerminal);
     if (!session.value()->settingsMessage().isEmpty())
         printNote(session.value()->settingsMessage());
-    return options.isScripted() ? runForScripts(*session.value(), options, channel)
-                                : runForUser(*session.value());
+    const int status = options.isScripted() ? runForScripts(*session.value(), options, channel)
+                                            : runForUser(*session.value(), files);
+    onward = session.value()->onward();
+    return status;
 }
 
 }  // namespace
@@ -235,7 +255,11 @@ int runTerminal() {
     // Before anything else can print.
     const std::unique_ptr<StandardChannel> channel =
         options.automation ? std::make_unique<StandardChannel>() : nullptr;
-    const int status = runOpened(options, channel.get());
+    std::optional<OnwardStore> onward;
+    int status = exitDone;
+    do
+        status = runOpened(options, channel.get(), onward);
+    while (onward);
     if (channel)
         noteLostOutput(channel->writeError());
     return status;

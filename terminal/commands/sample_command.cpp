@@ -9,6 +9,7 @@
 #include "terminal/console/interrupt.h"
 #include "terminal/session/sample_filling.h"
 #include "terminal/session/store_opening.h"
+#include "terminal/session/user_stores.h"
 
 #include <atomic>
 
@@ -50,7 +51,9 @@ int runSample() {
     if (const auto status = arguments.fault())
         return *status;
 
-    const auto store = openOrMakeStore(arguments.storeFile(), indexingLines());
+    const bool isNamed = arguments.parser.isSet(u"store"_s);
+    const auto store =
+        openOrMakeStore(isNamed ? arguments.storeFile() : userStores().sample, indexingLines());
     if (!store) {
         printNote(sentence(store.error()));
         return exitUnusable;

@@ -81,7 +81,7 @@ int runSearch() {
     if (const auto status = arguments.fault())
         return *status;
 
-    const QString file = arguments.storeFile();
+    const QString file = arguments.storeToRead();
     if (!QFileInfo::exists(file)) {
         printNote(u"There is no store %1."_s.arg(QDir::toNativeSeparators(file)));
         return exitUnusable;

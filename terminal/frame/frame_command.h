@@ -37,6 +37,7 @@ enum class FrameCommand {
     FontLarger,
     FontSmaller,
     CompactRows,
+    OtherStore,
     Guide,
     Quit,
 };

@@ -147,7 +147,17 @@ void addChoices(QMenu& menu, const QList<Choice>& choices, const QString& curren
 }
 
 void addFileMenu(MainFrame& frame, const MenuState& state) {
-    addEntries(frame, *frame.menuBar()->addMenu(terminalText(TextId::FileMenu)), fileEntries, state);
+    QMenu* menu = frame.menuBar()->addMenu(terminalText(TextId::FileMenu));
+    addEntries(frame, *menu, fileEntries, state);
+    if (!state.store)
+        return;
+    const bool isSample = *state.store == StoreKind::Sample;
+    auto* other = new QAction(terminalText(isSample ? TextId::OwnStore : TextId::SampleStore), menu);
+    QObject::connect(other, &QAction::triggered, &frame,
+                     [&frame] { emit frame.commanded(FrameCommand::OtherStore); });
+    QAction* quit = menu->actions().constLast();
+    menu->insertAction(quit, other);
+    menu->insertSeparator(other);
 }
 
 void addLookMenu(MainFrame& frame, const MenuState& state) {

@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "terminal/settings/store_kind.h"
+
 #include <QList>
 #include <QString>
+
+#include <optional>
 
 namespace wirepane {
 class MainFrame;
@@ -24,6 +28,8 @@ struct MenuState {
     int activeView = 0;  // 0: none; commands on the active view are disabled then
     unsigned char linkGroup = 0;
     bool compactRows = false;  // of the active view
+    // Which of the user's stores is open, from which the other can be gone to; nothing: another one is.
+    std::optional<StoreKind> store = std::nullopt;
 
     bool operator==(const MenuState&) const = default;
 };

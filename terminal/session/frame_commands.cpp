@@ -43,7 +43,8 @@ void pressShortcut(QWidget& view, QLatin1StringView key) {
 
 FrameCommands::FrameCommands(Session& terminal)
     : session(terminal),
-      newsImport(terminal.storePath(), terminal.frame(), QCoreApplication::applicationFilePath()) {
+      newsImport(terminal.storePath(), terminal.frame(), QCoreApplication::applicationFilePath(),
+                 [this](const QStringList& files) { importFiles(files); }) {
     MainFrame* frame = &session.frame();
     Workspace* workspace = &session.workspace();
     connect(frame, &MainFrame::commanded, this, &FrameCommands::carryOut);
@@ -108,6 +109,10 @@ void FrameCommands::carryOut(FrameCommand command) {
             break;
         case FrameCommand::CompactRows:
             changeDensity();
+            break;
+        case FrameCommand::OtherStore:
+            session.goToStore(
+                {session.storeKind() == StoreKind::Sample ? StoreKind::Own : StoreKind::Sample, {}});
             break;
         case FrameCommand::Guide:
             showGuide();
@@ -196,6 +201,13 @@ void FrameCommands::changeDensity() {
         return;
     setRowsCompact(*view, !areRowsCompact(*view));
     session.showViews();
+}
+
+void FrameCommands::importFiles(const QStringList& files) {
+    if (session.storeKind() == StoreKind::Sample)
+        session.goToStore({StoreKind::Own, files});
+    else
+        newsImport.takeIn(files);
 }
 
 void FrameCommands::readAsOf() {

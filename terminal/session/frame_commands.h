@@ -21,6 +21,9 @@ public:
     // The session is not owned and must outlive this.
     explicit FrameCommands(Session& session);
 
+    // Takes the files into the user's store, which is opened for that when the sample's is.
+    void importFiles(const QStringList& files);
+
 private:
     void carryOut(FrameCommand command);
     void carryOutOnView(FrameCommand command);

@@ -51,8 +51,9 @@ TextId headlineOf(ImportOutcome::Kind kind) {
 
 }  // namespace
 
-NewsImport::NewsImport(const QString& storeFileName, QWidget& over, const QString& program)
-    : storeFile(storeFileName), window(over), runner(program) {
+NewsImport::NewsImport(const QString& storeFileName, QWidget& over, const QString& program,
+                       std::function<void(const QStringList&)> takePicked)
+    : storeFile(storeFileName), picked(std::move(takePicked)), window(over), runner(program) {
     connect(&runner, &ImportRunner::finished, this, &NewsImport::showOutcome);
 }
 
@@ -71,7 +72,7 @@ void NewsImport::ask() {
     dialog->setNameFilters(fileFilters());
     dialog->setOption(QFileDialog::HideNameFilterDetails);
     if (dialog->exec() == QDialog::Accepted && !dialog->selectedFiles().isEmpty())
-        takeIn(dialog->selectedFiles());
+        picked(dialog->selectedFiles());
 }
 
 void NewsImport::takeIn(const QStringList& files) {

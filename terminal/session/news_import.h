@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QProgressDialog>
 
+#include <functional>
+
 namespace wirepane {
 
 // What the user sees of taking files into the store: which files, that it takes its time, and what came of
@@ -17,9 +19,11 @@ class NewsImport : public QObject {
 public:
     // The window, which is not owned, is that over which the dialogs stand; it outlives this. `program` knows
     // the import command.
-    NewsImport(const QString& storeFile, QWidget& window, const QString& program);
+    // `picked` is given the files that the user picks.
+    NewsImport(const QString& storeFile, QWidget& window, const QString& program,
+               std::function<void(const QStringList&)> picked);
 
-    // Lets the user pick files and takes them in. While that runs, it is shown instead.
+    // Lets the user pick files. While an import runs, that is shown instead.
     void ask();
     // Not while an import is running.
     void takeIn(const QStringList& files);
@@ -32,6 +36,7 @@ private:
     void showOutcome(const ImportOutcome& outcome);
 
     QString storeFile;
+    std::function<void(const QStringList&)> picked;
     QWidget& window;
     ImportRunner runner;
     QPointer<QProgressDialog> progress;

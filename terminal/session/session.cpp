@@ -4,6 +4,7 @@
 
 #include "backend/feed/feed_name.h"
 #include "backend/feed/source_kinds.h"
+#include "backend/lines/socket_server.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
@@ -59,6 +60,11 @@ Session::Session(const SessionOptions& options)
                    QDir(configFolder).filePath(u"wirepane.ini"_s)),
       layout(settingsFile),
       terminalSettings(std::make_unique<TerminalSettings>(settingsFile)) {
+    if (options.stores) {
+        ownKind = options.storeKind ? options.storeKind
+                                    : startingStore(*options.stores, terminalSettings->storeKind());
+        storeFile = (*options.stores)[*ownKind];
+    }
     CSyncInfo::setSettingCFG(terminalSettings.get());
 }
 
@@ -123,7 +129,7 @@ Done Session::openStore(const SessionOptions& options, const QString& language) 
     IndexProgress progress;
     if (options.tellsProgress)
         progress = [&window](std::int64_t done, std::int64_t total) { window.tell(done, total); };
-    auto opened = openBackEnd(storeFile, options.sampleWhenNew, progress);
+    auto opened = openBackEnd(storeFile, options.sampleWhenNew || ownKind == StoreKind::Sample, progress);
     if (!opened)
         return opened.error();
     store = std::move(opened.value());
@@ -185,6 +191,10 @@ Done Session::startFeed(const SessionOptions& options) {
         const SourceKind* kind = sourceKind(request.kind);
         if (kind == nullptr)
             return makeError<session_errors::unknownSource>(request.kind);
+        if (ownKind == StoreKind::Sample && request.value == defaultFeedName) {
+            awaitFeeds(request.value);
+            continue;
+        }
         const Done opened = liveFeed->open(*kind, request.value);
         // Under the common name, another terminal may have been first.
         if (!opened && request.value == defaultFeedName)
@@ -192,9 +202,27 @@ Done Session::startFeed(const SessionOptions& options) {
         else if (!opened)
             return opened;
     }
-    if (options.followsSample)
+    if (options.followsSample && ownKind != StoreKind::Own)
         followSample();
     return Nothing{};
+}
+
+// Nothing is read of it: it comes again, and is taken by the feed of the user's own store.
+void Session::awaitFeeds(const QString& name) {
+    doorbell = std::make_unique<SocketServer>();
+    connect(doorbell.get(), &SocketServer::connected, this, [this] { goToStore({StoreKind::Own, {}}); });
+    // Another terminal may have been first.
+    if (const Done listening = doorbell->listen(name); !listening)
+        feedNotice = shownText(listening.error());
+}
+
+void Session::goToStore(OnwardStore next) {
+    if (wantedStore)
+        return;
+    terminalSettings->setStoreKind(next.kind);
+    wantedStore = std::move(next);
+    // Whoever asks may be called from a window that goes.
+    QMetaObject::invokeMethod(mainFrame.get(), &QWidget::close, Qt::QueuedConnection);
 }
 
 // Invented and real news never mix by themselves.
@@ -317,6 +345,7 @@ void Session::showViews() {
     MenuState state;
     state.scheme = schemeName(terminalSettings->scheme());
     state.language = languages.current();
+    state.store = ownKind;
     for (const OpenView* view : openViews->docked())
         state.views.append({view->number, view->shownTitle()});
     const OpenView* active = openViews->active();

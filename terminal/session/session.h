@@ -14,6 +14,7 @@
 #include "terminal/session/category_watch.h"
 #include "terminal/session/link_groups.h"
 #include "terminal/session/status_report.h"
+#include "terminal/session/user_stores.h"
 #include "terminal/session/workspace_keeper.h"
 #include "terminal/settings/layout_store.h"
 #include "terminal/settings/settings_file.h"
@@ -24,10 +25,12 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 #include <set>
 #include <vector>
 
 namespace wirepane {
+class SocketServer;
 
 // A live source that is wanted: a kind of source_kinds.h, and what it takes.
 struct SourceRequest {
@@ -36,7 +39,7 @@ struct SourceRequest {
 };
 
 struct SessionOptions {
-    QString storeFile;           // made when absent
+    QString storeFile;           // made when absent; unused where the user's own stores are wanted
     QString configFolder;        // made when absent
     QString language;            // empty: as set before, or as the system is set
     bool sampleWhenNew = false;  // a store without headlines is filled with the sample wire
@@ -45,6 +48,15 @@ struct SessionOptions {
     bool tellsProgress = false;
     // Where the store holds the sample wire and nothing else, that goes on as a live source.
     bool followsSample = false;
+    // The user's stores, where one of them is to be opened. The sample's is filled and followed.
+    std::optional<UserStores> stores = std::nullopt;
+    std::optional<StoreKind> storeKind = std::nullopt;  // of them; nothing: the one to begin with
+};
+
+// Where a user goes from a session: to the other one of his stores, to take files into it, if any.
+struct OnwardStore {
+    StoreKind kind = StoreKind::Own;
+    QStringList files;
 };
 
 // One running terminal: the store behind its back end, the settings, the news module and the main frame with
@@ -69,6 +81,11 @@ public:
     WorkspaceKeeper& keeper() { return *workspaceKeeper; }
     // The store in use.
     const QString& storePath() const { return storeFile; }
+    // Which of the user's own stores that is; nothing: it is another one, that was named.
+    std::optional<StoreKind> storeKind() const { return ownKind; }
+    // Closes the windows; whoever runs the session opens the next one with that store, now and from now on.
+    void goToStore(OnwardStore next);
+    const std::optional<OnwardStore>& onward() const { return wantedStore; }
     // The language in force.
     const QString& language() const { return languages.current(); }
     // What was wrong with the settings file, in a sentence; empty when nothing was.
@@ -111,6 +128,8 @@ private:
     void connectParts();
     Done startFeed(const SessionOptions& options);
     void followSample();
+    // Who feeds this terminal under the common name feeds the user's own store.
+    void awaitFeeds(const QString& name);
     void tellDatedAhead(unsigned char service, std::int64_t time);
     void prepareModuleFiles();
     void writeCategories();
@@ -129,7 +148,10 @@ private:
     std::unique_ptr<BackgroundPainter> painter;
     std::unique_ptr<LiveFeed> liveFeed;
     bool isSampleFollowed = false;
-    QString feedNotice;  // why feeds do not find this terminal under the common name
+    std::optional<StoreKind> ownKind;
+    std::optional<OnwardStore> wantedStore;
+    std::unique_ptr<SocketServer> doorbell;  // feeds ring there while the store is the sample's
+    QString feedNotice;                      // why feeds do not find this terminal under the common name
     std::unique_ptr<CategoryDisplay> categoryDisplay;
     std::unique_ptr<MainFrame> mainFrame;
     std::unique_ptr<BreakingNews> latestNews;

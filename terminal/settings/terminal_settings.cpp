@@ -75,6 +75,17 @@ void TerminalSettings::setLanguage(const QString& language) {
     store(u"language"_s, language);
 }
 
+std::optional<StoreKind> TerminalSettings::storeKind() const {
+    const QString kind = stored(u"store"_s).toString();
+    if (kind == "own"_L1)
+        return StoreKind::Own;
+    return kind == "sample"_L1 ? std::optional(StoreKind::Sample) : std::nullopt;
+}
+
+void TerminalSettings::setStoreKind(StoreKind kind) {
+    store(u"store"_s, kind == StoreKind::Own ? u"own"_s : u"sample"_s);
+}
+
 SearchSwitches TerminalSettings::switches() const {
     SearchSwitches result;
     result.normalSearch = stored(u"showNormalSearch"_s).toBool(result.normalSearch);

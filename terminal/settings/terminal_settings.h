@@ -4,9 +4,12 @@
 
 #include "host/contract/sync_info.h"
 #include "terminal/settings/colour_scheme.h"
+#include "terminal/settings/store_kind.h"
 
 #include <QHash>
 #include <QJsonValue>
+
+#include <optional>
 
 namespace wirepane {
 class SettingsFile;
@@ -49,6 +52,9 @@ public:
     void setCurrentSymbol(unsigned char linkGroup, const QString& code);
     // Whether Chinese text is drawn as it is written in simplified characters; not stored.
     void setSimplifiedGlyphs(bool simplified) { simplifiedGlyphs = simplified; }
+    // The one of the user's stores that was chosen last; nothing: none was.
+    std::optional<StoreKind> storeKind() const;
+    void setStoreKind(StoreKind kind);
     // The main frame's place, as QWidget::saveGeometry gives it.
     QByteArray frameGeometry() const;
     void setFrameGeometry(const QByteArray& geometry);

@@ -17,6 +17,8 @@ enum class TextId {
     LanguageMenu,
     SchemeMenu,
     ReadAsOf,
+    OwnStore,
+    SampleStore,
     Quit,
     SchemeLight,
     SchemeDark,

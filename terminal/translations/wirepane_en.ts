@@ -1191,6 +1191,66 @@
         <source></source>
         <translation>Terms</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_BEGIN_SEARCH">
+        <source></source>
+        <translation>Go to the Search Box</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_KEY_SETS">
+        <source></source>
+        <translation>Choose Key Sets…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_SERVICES">
+        <source></source>
+        <translation>Choose Services</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_TERMS">
+        <source></source>
+        <translation>Choose Warning Terms…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_DAY">
+        <source></source>
+        <translation>No news on %1.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_NOTHING">
+        <source></source>
+        <translation>There is no news here.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_NOT_FOUND">
+        <source></source>
+        <translation>Nothing found for %1.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_NO_SERVICE">
+        <source></source>
+        <translation>No news service is ticked.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_OF_SUBJECT">
+        <source></source>
+        <translation>No news of %1.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_QUOTED_WORD">
+        <source></source>
+        <translation>“%1”</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_RELATION">
+        <source></source>
+        <translation>No news of today matches the ticked key sets.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_SEARCH">
+        <source></source>
+        <translation>Type a word to search for.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_SHOW_ALL_NEWS">
+        <source></source>
+        <translation>Show All News</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_SHOW_DAY">
+        <source></source>
+        <translation>Show %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_WARNING_TERM">
+        <source></source>
+        <translation>No news with the warning terms.</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET">
         <source></source>
         <translation>No key set is ticked: this list takes no news. Press %1 to choose key sets.</translation>
@@ -1914,6 +1974,14 @@
     <message id="TERMINAL_QUIT">
         <source></source>
         <translation>&amp;Quit</translation>
+    </message>
+    <message id="TERMINAL_OWN_STORE">
+        <source></source>
+        <translation>Read My &amp;Own News</translation>
+    </message>
+    <message id="TERMINAL_SAMPLE_STORE">
+        <source></source>
+        <translation>Read the S&amp;ample Wire</translation>
     </message>
     <message id="TERMINAL_READ_AS_OF">
         <source></source>

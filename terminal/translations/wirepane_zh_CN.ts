@@ -1191,6 +1191,66 @@
         <source></source>
         <translation>警示词</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_BEGIN_SEARCH">
+        <source></source>
+        <translation>到搜索框</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_KEY_SETS">
+        <source></source>
+        <translation>选择关键词组…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_SERVICES">
+        <source></source>
+        <translation>选择新闻服务</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_TERMS">
+        <source></source>
+        <translation>选择警示词…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_DAY">
+        <source></source>
+        <translation>%1 没有新闻。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_NOTHING">
+        <source></source>
+        <translation>这里没有新闻。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_NOT_FOUND">
+        <source></source>
+        <translation>找不到%1。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_NO_SERVICE">
+        <source></source>
+        <translation>尚未勾选新闻服务。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_OF_SUBJECT">
+        <source></source>
+        <translation>没有%1的新闻。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_QUOTED_WORD">
+        <source></source>
+        <translation>“%1”</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_RELATION">
+        <source></source>
+        <translation>今天没有符合所勾选关键词组的新闻。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_SEARCH">
+        <source></source>
+        <translation>输入要搜索的词。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_SHOW_ALL_NEWS">
+        <source></source>
+        <translation>看所有新闻</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_SHOW_DAY">
+        <source></source>
+        <translation>看 %1 的新闻</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_WARNING_TERM">
+        <source></source>
+        <translation>没有含警示词的新闻。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET">
         <source></source>
         <translation>尚未勾选关键词组，此列表不会收到新闻。按 %1 选择。</translation>
@@ -1914,6 +1974,14 @@
     <message id="TERMINAL_QUIT">
         <source></source>
         <translation>退出(&amp;Q)</translation>
+    </message>
+    <message id="TERMINAL_OWN_STORE">
+        <source></source>
+        <translation>读自己的新闻(&amp;O)</translation>
+    </message>
+    <message id="TERMINAL_SAMPLE_STORE">
+        <source></source>
+        <translation>读示范新闻(&amp;A)</translation>
     </message>
     <message id="TERMINAL_READ_AS_OF">
         <source></source>

@@ -1191,6 +1191,66 @@
         <source></source>
         <translation>警示詞</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_BEGIN_SEARCH">
+        <source></source>
+        <translation>到搜尋框</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_KEY_SETS">
+        <source></source>
+        <translation>選擇關鍵字組…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_SERVICES">
+        <source></source>
+        <translation>選擇新聞服務</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_TERMS">
+        <source></source>
+        <translation>選擇警示詞…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_DAY">
+        <source></source>
+        <translation>%1 沒有新聞。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_NOTHING">
+        <source></source>
+        <translation>這裡沒有新聞。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_NOT_FOUND">
+        <source></source>
+        <translation>找不到%1。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_NO_SERVICE">
+        <source></source>
+        <translation>尚未勾選新聞服務。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_OF_SUBJECT">
+        <source></source>
+        <translation>沒有%1的新聞。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_QUOTED_WORD">
+        <source></source>
+        <translation>「%1」</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_RELATION">
+        <source></source>
+        <translation>今天沒有符合所勾選關鍵字組的新聞。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_SEARCH">
+        <source></source>
+        <translation>輸入要搜尋的詞。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_SHOW_ALL_NEWS">
+        <source></source>
+        <translation>看所有新聞</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_SHOW_DAY">
+        <source></source>
+        <translation>看 %1 的新聞</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_WARNING_TERM">
+        <source></source>
+        <translation>沒有含警示詞的新聞。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET">
         <source></source>
         <translation>尚未勾選關鍵字組，此清單不會收到新聞。按 %1 選擇。</translation>
@@ -1914,6 +1974,14 @@
     <message id="TERMINAL_QUIT">
         <source></source>
         <translation>結束(&amp;Q)</translation>
+    </message>
+    <message id="TERMINAL_OWN_STORE">
+        <source></source>
+        <translation>讀自己的新聞(&amp;O)</translation>
+    </message>
+    <message id="TERMINAL_SAMPLE_STORE">
+        <source></source>
+        <translation>讀示範新聞(&amp;A)</translation>
     </message>
     <message id="TERMINAL_READ_AS_OF">
         <source></source>

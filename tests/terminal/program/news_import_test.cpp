@@ -91,7 +91,7 @@ TEST_F(NewsImportTest, TellsWhatCameOfIt) {
     };
     const int before = rows();
     for (const Case& c : cases) {
-        NewsImport import(c.store, session->frame(), c.program);
+        NewsImport import(c.store, session->frame(), c.program, {});
         import.takeIn({c.file});
         const QString said = report();
         for (const QString& told : c.told)
@@ -120,7 +120,7 @@ TEST_F(NewsImportTest, SaysInTheLanguageOfTheTerminalWhatIsWrong) {
     ASSERT_TRUE(session->setLanguage(u"zh-TW"_s));
     const QString file = scratch.write(
         u"x"_s, ninjsItem(u"u:4"_s, u"Good"_s, u"Story"_s, newsTime) + "\n{\"uri\": broken\n[]\n");
-    NewsImport import(session->storePath(), session->frame(), programFile());
+    NewsImport import(session->storePath(), session->frame(), programFile(), {});
     import.takeIn({file});
     const QString said = report();
     EXPECT_EQ(strangeParts(QString(said).remove(file), u"zh-TW"_s), QStringList()) << qPrintable(said);
@@ -136,7 +136,7 @@ TEST_F(NewsImportTest, ALongOneCanBeCancelledAndLeavesWholeFiles) {
                  R"(","type":"text","versioncreated":"2026-03-02T02:00:00Z","headline":"Long"})" + '\n';
     const QString second = scratch.write(u"second.jsonl"_s, lines);
     const int before = rows();
-    NewsImport import(session->storePath(), session->frame(), programFile());
+    NewsImport import(session->storePath(), session->frame(), programFile(), {});
     import.takeIn({first, second});
     EXPECT_EQ(shownProgress(), nullptr) << "not at once";
     ASSERT_TRUE(QTest::qWaitFor([&] { return shownProgress() != nullptr; }));

@@ -13,12 +13,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QLabel>
+#include <QLocalSocket>
 #include <QStatusBar>
 #include <QTest>
 
 #include <algorithm>
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -94,6 +97,43 @@ TEST_F(UserTerminalTest, ATerminalWhoseCommonFeedNameIsTakenOpensAndSaysSo) {
         return label->toolTip().contains(u"wirepane-feed: Failed since "_s);
     });
     EXPECT_TRUE(isShown) << "beside the other sources, over the state of the feed";
+}
+
+TEST_F(UserTerminalTest, FeedsAndTheUserHimselfLeadFromTheSampleToHisOwnNews) {
+    const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(scratch.path(u""_s)));
+    SessionOptions options{{}, scratch.path(u"config"_s), u"en"_s, false};
+    options.stores = UserStores{scratch.path(u"own"_s), scratch.path(u"sample"_s)};
+    options.sources = {{u"feed"_s, defaultFeedName}};
+    const auto leave = [&](const std::function<void(Session&)>& how) {
+        auto session = Session::open(options);
+        EXPECT_TRUE(session) << (session ? "" : sentence(session.error()).toStdString());
+        session.value()->frame().show();
+        const QString store = QFileInfo(session.value()->storePath()).fileName();
+        how(*session.value());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !session.value()->frame().isVisible(); }));
+        const auto& onward = session.value()->onward();
+        options.storeKind = onward ? std::optional(onward->kind) : std::nullopt;
+        return store + (onward && onward->kind == StoreKind::Own ? u" to own"_s : u" to sample"_s);
+    };
+    EXPECT_EQ(leave([](Session& session) {
+                  FrameCommands(session).importFiles({u"a file"_s});
+                  EXPECT_EQ(session.onward()->files, QStringList(u"a file"_s));
+              }),
+              u"sample to own"_s);
+    EXPECT_EQ(leave([](Session& session) {
+                  const FrameCommands commands(session);
+                  emit session.frame().commanded(FrameCommand::OtherStore);
+              }),
+              u"own to sample"_s);
+    EXPECT_EQ(leave([](Session& session) {
+                  QLocalSocket feed;
+                  feed.connectToServer(socketPath(defaultFeedName).value());
+                  EXPECT_TRUE(feed.waitForConnected());
+                  EXPECT_TRUE(QTest::qWaitFor([&] { return session.onward().has_value(); }));
+              }),
+              u"sample to own"_s);
+    qputenv("XDG_RUNTIME_DIR", before);
 }
 
 // Run a second time where no font has Chinese.

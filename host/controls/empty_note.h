@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/export.h"
+#include "host/controls/line_icon.h"
+
+#include <QString>
+#include <QWidget>
+
+class SButton;
+
+namespace wirepane {
+
+// What a pane without content shows instead: an icon, a sentence, and what the user can do about it.
+struct EmptyText {
+    LineIcon icon = LineIcon::News;
+    QString sentence;
+    QString action;  // the button's text; empty: no button
+
+    bool operator==(const EmptyText&) const = default;
+};
+
+// Covers its parent with such a text, and stays as large as that. Hidden at first.
+class WIREPANE_HOST_EXPORT EmptyNote : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit EmptyNote(QWidget* parent);
+
+    // Shows the text over the whole parent.
+    void tell(const EmptyText& text);
+    const EmptyText& text() const { return told; }
+
+signals:
+    // The button was pressed.
+    void acted();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void place();
+    QRect iconPlace() const;
+    QRect sentencePlace() const;
+
+    EmptyText told;
+    SButton* button;  // its child
+};
+
+}  // namespace wirepane

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/empty_lists.h"
+
+#include "headline_list/headline_list.h"
+#include "headline_list/service_entry.h"
+#include "host/controls/super_sheet_wnd.h"
+#include "news_view/news_services.h"
+#include "news_view/view_context.h"
+#include "news_view/view_settings.h"
+#include "search/search_desk.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace wirepane {
+
+EmptyLists::EmptyLists(ViewContext& viewContext, const CommonParts& commonParts, const SearchDesk& desk,
+                       Calls ofTheView)
+    : context(viewContext), parts(commonParts), searches(desk), calls(std::move(ofTheView)) {}
+
+void EmptyLists::watch(CSuperSheetWnd& grid, ListIndex list) {
+    if (!parts.settings.options[ViewOption::EmptyStates])
+        return;
+    auto* note = new EmptyNote(grid.viewport());
+    notes[list] = note;
+    connect(note, &EmptyNote::acted, this, &EmptyLists::act);
+    const QAbstractItemModel* const rows = grid.model();
+    connect(rows, &QAbstractItemModel::rowsInserted, this, &EmptyLists::followSoon);
+    connect(rows, &QAbstractItemModel::rowsRemoved, this, &EmptyLists::followSoon);
+    connect(rows, &QAbstractItemModel::layoutChanged, this, &EmptyLists::followSoon);
+    connect(rows, &QAbstractItemModel::modelReset, this, &EmptyLists::followSoon);
+}
+
+// From the event loop: once for what changes together.
+void EmptyLists::followSoon() {
+    if (notes.empty() || std::exchange(isPosted, true))
+        return;
+    QMetaObject::invokeMethod(this, &EmptyLists::follow, Qt::QueuedConnection);
+}
+
+void EmptyLists::follow() {
+    isPosted = false;
+    const ListIndex list = context.shownList();
+    EmptyNote* const note = notes[list];
+    if (note == nullptr)
+        return;
+    const CSuperSheetWnd* const grid = context.listOf(list).grid();
+    if (grid == nullptr || grid->rowCount() > 0 || isAwaited()) {
+        note->hide();
+        return;
+    }
+    note->tell(emptyTextOf(known(list), parts.backEnd));
+}
+
+// Answers may still fill the list.
+bool EmptyLists::isAwaited() const {
+    const std::vector<ServiceEntry>& services = parts.services.currentServices();
+    return std::any_of(services.begin(), services.end(),
+                       [](const ServiceEntry& entry) { return entry.searchPending; });
+}
+
+EmptyList EmptyLists::known(ListIndex list) const {
+    EmptyList empty;
+    empty.list = list;
+    empty.hasServices = !parts.services.activeServices(list).empty();
+    if (list == ListIndex::Category || list == ListIndex::Symbol)
+        empty.subject = calls.subject();
+    if (list == ListIndex::Search) {
+        const CSearch found = searches.foundUnder(list);
+        empty.words = QStringList(found.keywords.begin(), found.keywords.end());
+    }
+    if (list == ListIndex::All) {
+        empty.day = calls.day();
+        empty.nearest = calls.nearestDay();
+    }
+    return empty;
+}
+
+void EmptyLists::act() {
+    const EmptyList empty = known(context.shownList());
+    if (wantsServices(empty)) {
+        calls.chooseServices();
+        return;
+    }
+    switch (empty.list) {
+        case ListIndex::All:
+            if (empty.nearest)
+                calls.goToDay(*empty.nearest);
+            break;
+        case ListIndex::Search:
+            calls.beginSearch();
+            break;
+        case ListIndex::Relation:
+        case ListIndex::WarningTerm:
+            calls.compose(empty.list);
+            break;
+        default:
+            calls.showList(ListIndex::All);
+    }
+}
+
+}  // namespace wirepane

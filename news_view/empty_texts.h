@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "headline_list/list_index.h"
+#include "host/controls/empty_note.h"
+
+#include <QDate>
+#include <QStringList>
+
+#include <optional>
+
+class BKQuoteInterface;
+
+namespace wirepane {
+
+// What is known of a list without rows.
+struct EmptyList {
+    ListIndex list = ListIndex::All;
+    bool hasServices = true;       // one is ticked
+    QString subject;               // the chosen category or symbol, as it is shown
+    QStringList words;             // that were searched for
+    QDate day;                     // the picked one
+    std::optional<QDate> nearest;  // the one next to it that has news
+};
+
+// Whether its way out is to tick services.
+bool wantsServices(const EmptyList& list);
+
+// What the list says in the language in force, and what the button beside it.
+EmptyText emptyTextOf(const EmptyList& list, BKQuoteInterface& backEnd);
+
+}  // namespace wirepane
