@@ -2,43 +2,69 @@
 // SPDX-License-Identifier: MIT
 #include "backend/search/headline_keys.h"
 
+#include "backend/database/database.h"
+
 #include <algorithm>
 
 namespace wirepane {
 
 namespace {
 
-// Makes room for more and a little beyond: twice the room is much for all headlines of a store.
-template <class Keys>
-void makeRoom(Keys& keys, std::size_t more) {
-    const std::size_t needed = keys.size() + more;
-    if (needed > keys.capacity())
-        keys.reserve(needed + needed / 32 + 64);
+// So many are looked up sooner than found in memory, and sooner than memory is filled.
+constexpr std::size_t fewMatches = 64;
+constexpr std::size_t fewBeforeLoading = 4096;
+constexpr std::size_t packedAtOnce = 4096;  // keys
+
+bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
+    return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
 }
 
 }  // namespace
 
-HeadlineKeys::HeadlineKeys(Database& database)
-    : all(database, "SELECT service, time, sequence, id FROM headlines ORDER BY service, time, sequence"),
+HeadlineKeys::HeadlineKeys(Database& database, std::int64_t mostKeys)
+    : store(database),
+      all(database, "SELECT service, time, sequence, id FROM headlines ORDER BY service, time, sequence"),
       newer(database, "SELECT service, time, sequence, id FROM headlines WHERE id > ? ORDER BY id"),
       firstHidden(database, "SELECT min(first) FROM import_blocks WHERE hidden"),
-      one(database, "SELECT time, sequence FROM headlines WHERE id = ? AND service = ?") {}
+      ofService(
+          database,
+          "SELECT time, sequence, id FROM headlines WHERE service = ? ORDER BY time DESC, sequence DESC"),
+      one(database, "SELECT time, sequence FROM headlines WHERE id = ? AND service = ?"),
+      most(mostKeys) {}
 
-bool HeadlineKeys::isOlder(const Key& a, const Key& b) {
-    return a.time != b.time ? a.time < b.time : a.sequence < b.sequence;
+std::size_t HeadlineKeys::size() const {
+    std::size_t keys = 0;
+    for (const auto& [service, blocks] : byService)
+        keys += blocks.size();
+    return keys;
 }
 
-// In the order of an index that holds all of it.
-bool HeadlineKeys::loadAll() {
+void HeadlineKeys::pack(Keys& gathered) {
+    for (auto& [service, keys] : gathered)
+        byService[service].add(std::move(keys));
+    gathered.clear();
+}
+
+bool HeadlineKeys::load() {
+    byService.clear();
+    lastId = 0;
+    std::int64_t newestId = 0;
+    if (!store.readNumber("SELECT coalesce(max(id), 0) FROM all_headlines", newestId))
+        return false;
+    oldestId = std::max<std::int64_t>(0, newestId - most);
+    Keys gathered;
     Query query(all);
     while (query.next()) {
         const std::int64_t id = query.number(3);
-        byService[static_cast<unsigned char>(query.number(0))].push_back(
-            {query.number(1), query.smallNumber(2), std::uint32_t(id)});
+        if (id <= oldestId)
+            continue;
+        std::vector<StoredKey>& keys = gathered[static_cast<unsigned char>(query.number(0))];
+        keys.push_back({query.number(1), query.smallNumber(2), std::uint32_t(id)});
+        if (keys.size() == packedAtOnce)
+            pack(gathered);
         lastId = std::max(lastId, id);
     }
-    for (auto& [service, keys] : byService)
-        keys.shrink_to_fit();
+    pack(gathered);
     hasLoaded = !query.failed() && passHidden();
     if (!hasLoaded)
         byService.clear();
@@ -53,54 +79,51 @@ bool HeadlineKeys::passHidden() {
     return !query.failed();
 }
 
+bool HeadlineKeys::addNewer() {
+    Keys added;
+    Query query(newer, std::max(lastId, oldestId));
+    while (query.next()) {
+        added[static_cast<unsigned char>(query.number(0))].push_back(
+            {query.number(1), query.smallNumber(2), std::uint32_t(query.number(3))});
+        lastId = query.number(3);
+    }
+    pack(added);
+    return !query.failed() && passHidden();
+}
+
+// What has grown far beyond its bound, or holds much that is gone, is read anew.
 bool HeadlineKeys::catchUp() {
     if (!isLoaded())
-        return loadAll();
-    std::map<unsigned char, Keys> added;
-    {
-        Query query(newer, lastId);
-        while (query.next()) {
-            added[static_cast<unsigned char>(query.number(0))].push_back(
-                {query.number(1), query.smallNumber(2), std::uint32_t(query.number(3))});
-            lastId = query.number(3);
-        }
-        if (query.failed())
-            return false;
-    }
-    for (auto& [service, keys] : added)
-        merge(byService[service], keys);
-    return passHidden();
+        return load();
+    if (!addNewer())
+        return false;
+    return std::int64_t(size()) <= most + most / 4 || load();
 }
 
-// News that was sent again in its place has another id now, and stays one key.
-void HeadlineKeys::merge(Keys& known, Keys& added) {
-    std::erase_if(added, [&known](const Key& key) {
-        const auto place = std::lower_bound(known.begin(), known.end(), key, isOlder);
-        const bool isKnown = place != known.end() && !isOlder(key, *place);
-        if (isKnown)
-            place->id = key.id;
-        return isKnown;
-    });
-    if (added.empty())
-        return;
-    std::sort(added.begin(), added.end(), isOlder);
-    const auto from = std::upper_bound(known.begin(), known.end(), added.front(), isOlder) - known.begin();
-    const auto middle = std::ptrdiff_t(known.size());
-    makeRoom(known, added.size());
-    known.insert(known.end(), added.begin(), added.end());
-    std::inplace_merge(known.begin() + from, known.begin() + middle, known.end(), isOlder);
-}
-
-std::vector<CHeadlineTable> HeadlineKeys::entries(unsigned char service, const IdSet& ids) const {
+std::optional<std::vector<CHeadlineTable>> HeadlineKeys::entries(unsigned char service, const IdSet& ids) {
+    if (ids.size() <= (isLoaded() ? fewMatches : fewBeforeLoading))
+        return lookUp(service, ids);
+    if (!catchUp())
+        return std::nullopt;
     std::vector<CHeadlineTable> found;
-    const auto known = byService.find(service);
-    if (known == byService.end())
-        return found;
-    for (auto key = known->second.rbegin(); key != known->second.rend(); ++key) {
-        if (ids.contains(key->id))
-            found.push_back({key->time, key->sequence, service, 0, 0});
+    if (const auto known = byService.find(service); known != byService.end()) {
+        known->second.forEachOf(ids, [&](std::int64_t time, std::int32_t sequence) {
+            found.push_back({time, sequence, service, 0, 0});
+        });
     }
+    if (ids.mayHoldAny(0, oldestId))
+        appendOlder(found, service, ids);
     return found;
+}
+
+void HeadlineKeys::appendOlder(std::vector<CHeadlineTable>& found, unsigned char service, const IdSet& ids) {
+    const auto kept = std::ptrdiff_t(found.size());
+    Query query(ofService, service);
+    while (query.next()) {
+        if (const std::int64_t id = query.number(2); id <= oldestId && ids.contains(id))
+            found.push_back({query.number(0), query.smallNumber(1), service, 0, 0});
+    }
+    std::inplace_merge(found.begin(), found.begin() + kept, found.end(), isNewer);
 }
 
 std::vector<CHeadlineTable> HeadlineKeys::lookUp(unsigned char service, const IdSet& ids) {
@@ -110,9 +133,7 @@ std::vector<CHeadlineTable> HeadlineKeys::lookUp(unsigned char service, const Id
         if (query.next())
             found.push_back({query.number(0), query.smallNumber(1), service, 0, 0});
     });
-    std::sort(found.begin(), found.end(), [](const CHeadlineTable& a, const CHeadlineTable& b) {
-        return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
-    });
+    std::sort(found.begin(), found.end(), isNewer);
     return found;
 }
 

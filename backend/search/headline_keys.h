@@ -4,47 +4,55 @@
 
 #include "backend/database/statement.h"
 #include "backend/search/id_set.h"
+#include "backend/search/key_blocks.h"
 #include "host/contract/records.h"
 
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace wirepane {
 
-// The keys of all headlines in memory, 16 bytes each, so that a search that matches many rows reads none of
-// them. The id of a headline stands for one key for good: what was replaced has another id.
+// The keys of the headlines in memory, packed, so that a search that matches many rows reads none of them.
+// The id of a headline stands for one key for good: what was replaced has another id. The keys of the newest
+// ids are kept, about 6 bytes each; older ones are read from the store's index.
 class HeadlineKeys {
 public:
-    explicit HeadlineKeys(Database& database);
+    explicit HeadlineKeys(Database& database, std::int64_t mostKeys = 16'000'000);
 
-    bool isLoaded() const { return hasLoaded; }
     // Reads what is new since the last call; the first call reads all. False on failure.
     bool catchUp();
-    // The entries of a service whose ids are in the set, newest first.
-    std::vector<CHeadlineTable> entries(unsigned char service, const IdSet& ids) const;
-    // The same without the keys in memory, one look-up for each id: for small sets.
-    std::vector<CHeadlineTable> lookUp(unsigned char service, const IdSet& ids);
+    // The entries of a service whose ids are in the set, newest first. Few are looked up one by one, many are
+    // taken from memory. Nothing on failure.
+    std::optional<std::vector<CHeadlineTable>> entries(unsigned char service, const IdSet& ids);
+    // How many are in memory.
+    std::size_t size() const;
 
 private:
-    struct Key {
-        std::int64_t time;
-        std::int32_t sequence;
-        std::uint32_t id;
-    };
-    using Keys = std::vector<Key>;  // oldest first
+    using Keys = std::map<unsigned char, std::vector<StoredKey>>;
 
-    static bool isOlder(const Key& a, const Key& b);
-    static void merge(Keys& known, Keys& added);
-    bool loadAll();
+    bool isLoaded() const { return hasLoaded; }
+    // Reads the keys of ids beyond the oldest that is kept. In the order of an index that holds all of it.
+    bool load();
+    bool addNewer();
     bool passHidden();
+    // Moves what was gathered into the blocks.
+    void pack(Keys& gathered);
+    std::vector<CHeadlineTable> lookUp(unsigned char service, const IdSet& ids);
+    // The entries of ids that are not kept.
+    void appendOlder(std::vector<CHeadlineTable>& found, unsigned char service, const IdSet& ids);
 
+    Database& store;
     Statement all;
     Statement newer;
     Statement firstHidden;
+    Statement ofService;
     Statement one;
-    std::map<unsigned char, Keys> byService;
+    std::int64_t most;
+    std::map<unsigned char, KeyBlocks> byService;
+    std::int64_t oldestId = 0;  // the keys of later ids are kept
+    std::int64_t lastId = 0;    // up to here nothing can come any more
     bool hasLoaded = false;
-    std::int64_t lastId = 0;  // up to here nothing can come any more
 };
 
 }  // namespace wirepane

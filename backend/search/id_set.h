@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -21,6 +22,19 @@ public:
     bool contains(std::int64_t id) const {
         const auto word = std::size_t(id >> 6);
         return word < bits.size() && (bits[word] & bitOf(id)) != 0;
+    }
+    // False only when none of these ids is in the set; a wide range is not looked through.
+    bool mayHoldAny(std::int64_t first, std::int64_t last) const {
+        constexpr std::size_t wide = 64;
+        const auto from = std::size_t(first >> 6);
+        const std::size_t end = std::min(std::size_t(last >> 6) + 1, bits.size());
+        if (end > from && end - from > wide)
+            return true;
+        for (std::size_t word = from; word < end; ++word) {
+            if (bits[word] != 0)
+                return true;
+        }
+        return false;
     }
     void keepCommon(const IdSet& other) {
         if (bits.size() > other.bits.size())

@@ -14,8 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::size_t fewMatches = 4096;  // beyond it, the keys in memory are faster than look-ups
-constexpr int stopAskedEvery = 256;       // matches
+constexpr int stopAskedEvery = 256;  // matches
 
 // What is quoted is never read as operators. The text is split into words there, once: a word that is split
 // again may fall apart ("1,234" is one, but "1,2345" is not, with which "1,234" and a full-width "5" go on).
@@ -109,10 +108,6 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::findNow(unsigned char ser
     if (!condition.symbols.empty())
         named.keepCommon(last->ids);
     const IdSet& ids = condition.symbols.empty() ? last->ids : named;
-    if (!keys.isLoaded() && ids.size() <= fewMatches)
-        return keys.lookUp(service, ids);
-    if (!keys.catchUp())
-        return std::nullopt;
     return keys.entries(service, ids);
 }
 

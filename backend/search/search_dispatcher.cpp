@@ -3,6 +3,7 @@
 #include "backend/search/search_dispatcher.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -10,7 +11,9 @@ namespace wirepane {
 
 namespace {
 
-constexpr std::ptrdiff_t mostKept = 8;  // besides the present ones
+// Besides the present ones.
+constexpr std::ptrdiff_t mostKept = 8;
+constexpr std::size_t mostEntriesKept = 500'000;
 
 // Entries of one service, newest first.
 bool holdsAny(const std::vector<CHeadlineTable>& entries, const std::vector<HeadlineKey>& news) {
@@ -151,8 +154,20 @@ void SearchDispatcher::forgetOldest() {
     const auto canGo = [this](const Search& search) {
         return search.pending.empty() && present[search.kind] != search.id;
     };
-    for (auto idle = std::count_if(searches.begin(), searches.end(), canGo); idle > mostKept; --idle)
-        searches.erase(std::find_if(searches.begin(), searches.end(), canGo));
+    std::ptrdiff_t idle = 0;
+    std::size_t entries = 0;
+    for (auto search = searches.rbegin(); search != searches.rend();) {
+        if (!canGo(*search)) {
+            ++search;
+            continue;
+        }
+        for (const auto& [service, table] : search->tables)
+            entries += table.size();
+        if (++idle > mostKept || entries > mostEntriesKept)
+            search = std::make_reverse_iterator(searches.erase(std::next(search).base()));
+        else
+            ++search;
+    }
 }
 
 }  // namespace wirepane

@@ -20,7 +20,7 @@ namespace wirepane {
 // entries. Thread: that of the database, which must outlive it.
 class DayIndex {
 public:
-    explicit DayIndex(Database& database, std::size_t mostEntries = 4'000'000);
+    explicit DayIndex(Database& database, std::size_t mostEntries = 2'000'000);
 
     // Appends the entries of that day to `table`, newest first. Result: how many.
     int append(std::vector<CHeadlineTable>& table, unsigned char service, QDate day);
