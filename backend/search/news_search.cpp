@@ -65,7 +65,7 @@ private:
 NewsSearch::NewsSearch(Database& database)
     : store(database),
       keys(database),
-      dataVersion(database, "PRAGMA data_version"),
+      version(database),
       matching(database, "SELECT rowid FROM news_search WHERE news_search MATCH ?"),
       naming(database,
              "SELECT headline FROM related_symbols WHERE service = ? AND market IN (?, 0) AND code = ?") {}
@@ -87,18 +87,13 @@ void NewsSearch::prepare() {
 
 std::optional<std::vector<CHeadlineTable>> NewsSearch::findNow(unsigned char service,
                                                                const CSearch& condition) {
-    std::int64_t version = 0;
-    {
-        Query query(dataVersion);
-        if (query.next())
-            version = query.number(0);
-    }
-    if (!last || !(last->condition == condition) || last->version != version) {
+    const std::optional<std::int64_t> present = version.read();
+    if (!last || !(last->condition == condition) || last->version != present) {
         last.reset();
         std::optional<IdSet> ids = matches(condition);
         if (!ids)
             return std::nullopt;
-        last = {condition, version, *std::move(ids)};
+        last = {condition, present, *std::move(ids)};
     }
     IdSet named;
     for (const CSymbolInfo& symbol : condition.symbols) {

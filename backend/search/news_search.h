@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/database/data_version.h"
 #include "backend/search/headline_keys.h"
 #include "host/contract/search_condition.h"
 
@@ -40,14 +41,14 @@ private:
 
     Database& store;
     HeadlineKeys keys;
-    Statement dataVersion;
+    DataVersion version;
     Statement matching;
     Statement naming;
     const std::atomic<bool>* stopping = nullptr;
 
     struct Last {
         CSearch condition;
-        std::int64_t version;
+        std::optional<std::int64_t> version;
         IdSet ids;
     };
     std::optional<Last> last;

@@ -24,10 +24,10 @@ constexpr std::chrono::milliseconds importsLookedAfter{1000};
 }  // namespace
 
 StoreIntake::StoreIntake(Database& store, StoreSync& storeSync, Reported reported)
-    : database(store), sync(storeSync), tell(std::move(reported)), importLock(store.path()) {
+    : database(store), sync(storeSync), tell(std::move(reported)), version(store), importLock(store.path()) {
     database.setBusyTimeout(patience);
     writer = std::make_unique<StoreWriter>(database);
-    database.readNumber("PRAGMA data_version", lastVersion.emplace());
+    version.hasChanged();
     thread.post([this] { lookForUpkeep(); });
 }
 
@@ -59,11 +59,9 @@ WorkReport StoreIntake::perform(const Work& work) {
     if (work)
         work(*writer);
     WorkReport done{.symbols = writer->takeChangedSymbols(), .damage = database.damage()};
-    std::int64_t version = 0;
-    done.byOthers = !database.readNumber("PRAGMA data_version", version) || version != lastVersion;
+    done.byOthers = version.hasChanged();
     // An import that is under way looks after the log itself.
     done.isLogLong = done.byOthers && !upkeep && QFileInfo(database.path() + u"-wal"_s).size() > longLog;
-    lastVersion = version;
     if (done.byOthers)
         lookForUpkeep();
     return done;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/database/data_version.h"
 #include "backend/database/database.h"
 #include "backend/store/import_lock.h"
 #include "backend/store/import_upkeep.h"
@@ -71,7 +72,7 @@ private:
     StoreSync& sync;
     Reported tell;
     std::unique_ptr<StoreWriter> writer;
-    std::optional<std::int64_t> lastVersion;  // of the store, as others have left it
+    DataVersion version;  // of the store, as others have left it
     ImportLock importLock;
     std::unique_ptr<ImportUpkeep> upkeep;  // while there is something to do
     std::deque<Job> jobs;                  // the first is under way

@@ -34,7 +34,7 @@ std::int64_t awaitedSince() {
 }
 
 StoreReader::StoreReader(Database& database)
-    : dataVersion(database, "PRAGMA data_version"),
+    : version(database),
       allServices(database, "SELECT id FROM services WHERE position > 0 ORDER BY position, id"),
       oneService(database,
                  "SELECT full_name, short_name, authorised FROM services WHERE id = ? AND position > 0"),
@@ -61,16 +61,6 @@ StoreReader::StoreReader(Database& database)
           database,
           "SELECT market, code FROM headlines LEFT JOIN related_symbols ON headline = id "
           "WHERE headlines.service = ? AND headlines.time = ? AND headlines.sequence = ? ORDER BY position") {
-}
-
-bool StoreReader::changedElsewhere() {
-    Query query(dataVersion);
-    if (!query.next())
-        return true;
-    const std::int64_t version = query.number(0);
-    const bool changed = lastVersion != version;
-    lastVersion = version;
-    return changed;
 }
 
 std::vector<unsigned char> StoreReader::serviceIds() {

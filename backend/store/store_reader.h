@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/database/data_version.h"
 #include "backend/database/statement.h"
 #include "backend/store/day_bounds.h"
 #include "host/contract/records.h"
@@ -36,7 +37,7 @@ public:
     explicit StoreReader(Database& database);
 
     // True when another program has written since the last call (the first call: true).
-    bool changedElsewhere();
+    bool changedElsewhere() { return version.hasChanged(); }
 
     // In the order of display.
     std::vector<unsigned char> serviceIds();
@@ -64,7 +65,7 @@ public:
     std::optional<std::vector<CSymbolInfo>> relatedSymbols(const HeadlineKey& key);
 
 private:
-    Statement dataVersion;
+    DataVersion version;
     Statement allServices;
     Statement oneService;
     Statement allCategories;
@@ -76,7 +77,6 @@ private:
     Statement oneReceived;
     Statement oneStory;
     Statement allRelated;
-    std::optional<std::int64_t> lastVersion;
 };
 
 }  // namespace wirepane
