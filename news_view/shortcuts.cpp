@@ -89,6 +89,11 @@ void Shortcuts::loadToolTips() {
         const QString name = button != nullptr ? button->text() : control->accessibleName();
         const QKeySequence key{QString(command.key)};
         control->setToolTip(u"%1 (%2)"_s.arg(name, key.toString(QKeySequence::NativeText)).toHtmlEscaped());
+        const auto shortcuts = around.window.findChildren<QShortcut*>(Qt::FindDirectChildrenOnly);
+        for (QShortcut* shortcut : shortcuts) {
+            if (shortcut->key() == key)
+                shortcut->setWhatsThis(name);
+        }
     };
     for (const CommandKey& command : commandKeys)
         hint(command);

@@ -63,9 +63,9 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     parts->story.setShowType(parts->stage.storyPane() != nullptr ? parts->settings.newsShowType
                                                                  : StoryShowType::None);
     parts->controls.loadTexts();
+    parts->shortcuts.create();
     parts->shortcuts.loadToolTips();
     parts->standingSearches.loadHints();
-    parts->shortcuts.create();
     vChangeCast();
     vSetComponentPos();
     openFocusedTab();

@@ -178,6 +178,8 @@ int runForUser(Session& session, const QStringList& files) {
         QMessageBox::critical(&session.frame(), QApplication::applicationName(), shownText(opened.error()));
         return exitUnusable;
     }
+    if (session.settings().showsFirstSteps())
+        session.frame().showFirstSteps();
     if (!files.isEmpty())
         commands.importFiles(files);
     return QApplication::exec();

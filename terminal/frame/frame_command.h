@@ -39,6 +39,8 @@ enum class FrameCommand {
     CompactRows,
     OtherStore,
     Guide,
+    Keys,
+    About,
     Quit,
 };
 

@@ -74,6 +74,8 @@ constexpr std::array windowEntries{
 
 constexpr std::array helpEntries{
     Entry{FrameCommand::Guide, TextId::Guide, "F1"_L1},
+    Entry{FrameCommand::Keys, TextId::Keys, "?"_L1},
+    Entry{FrameCommand::About, TextId::About, ""_L1, false, true},
 };
 
 constexpr std::array arrangeEntries{

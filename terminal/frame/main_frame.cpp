@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/main_frame.h"
 
+#include "terminal/frame/first_steps_bar.h"
 #include "terminal/frame/notice_bar.h"
 #include "terminal/frame/status_line.h"
 #include "terminal/frame/symbol_box.h"
@@ -49,6 +50,7 @@ MainFrame::MainFrame()
       viewDocks(*this),
       symbols(new SymbolBox),
       notice(new NoticeBar),
+      firstSteps(new FirstStepsBar),
       symbolBar(barWith(symbols)),
       statusLine(new StatusLine) {
     statusBar()->setSizeGripEnabled(false);
@@ -62,6 +64,13 @@ MainFrame::MainFrame()
     addToolBarBreak();
     addToolBar(notice);
     notice->hide();
+    addToolBarBreak();
+    addToolBar(firstSteps);
+    firstSteps->hide();
+    connect(firstSteps, &FirstStepsBar::dismissed, this, [this] {
+        showsFirstSteps = false;
+        emit firstStepsDismissed();
+    });
     connect(symbols, &SymbolBox::left, this, [this] { emit viewChosen(menuState.activeView); });
     retranslate();
 }
@@ -83,6 +92,7 @@ void MainFrame::buildMenus() {
 void MainFrame::retranslate() {
     buildMenus();
     symbols->retranslate();
+    firstSteps->retranslate();
     viewDesk->setHint(terminalText(TextId::EmptyDesk));
     showCaption(caption);
 }
@@ -108,6 +118,11 @@ void MainFrame::showNotice(const QString& sentence) {
     notice->tell(sentence);
 }
 
+void MainFrame::showFirstSteps() {
+    showsFirstSteps = true;
+    firstSteps->show();
+}
+
 QString MainFrame::notices() const {
     return notice->text();
 }
@@ -125,6 +140,7 @@ bool MainFrame::restoreArrangement(const QByteArray& stored) {
     // A stored state knows of the bars, too, but it is not what decides on them.
     symbolBar->show();
     notice->showOrHide();
+    firstSteps->setVisible(showsFirstSteps);
     for (ViewDock* dock : viewDocks.all())
         dock->show();
     return restored;

@@ -9,6 +9,7 @@
 #include <QMainWindow>
 
 namespace wirepane {
+class FirstStepsBar;
 class NoticeBar;
 class StatusLine;
 struct FrameStatus;
@@ -36,6 +37,8 @@ public:
     // Tells the user something that he should know, until he has read it.
     void showNotice(const QString& sentence);
     QString notices() const;
+    // The line for who has never been here.
+    void showFirstSteps();
     // Gives the desk this size.
     void resizeDesk(const QSize& size);
     // Puts the docks as ViewDocks::save found them. False: that cannot be understood, they stand as they
@@ -51,6 +54,8 @@ signals:
     // For the active view.
     void linkChosen(unsigned char group);
     void viewChosen(int number);
+    // The user wants to see the first steps no more.
+    void firstStepsDismissed();
     // The window is about to close, or has been told to.
     void closing();
     void languageChanged();
@@ -70,6 +75,8 @@ private:
     ViewDocks viewDocks;
     SymbolBox* symbols;
     NoticeBar* notice;
+    FirstStepsBar* firstSteps;
+    bool showsFirstSteps = false;
     QToolBar* symbolBar;
     StatusLine* statusLine;
     QString caption;

@@ -19,7 +19,7 @@ namespace wirepane {
 class LinkBadge;
 
 // The entry of symbols in the tool bar: a link group, and a line that completes codes and names. Enter or a
-// click takes an offer (Enter at first the topmost) and keeps the keyboard here; a text that fits no symbol
+// click takes an offer (Enter at first the topmost); a text that fits no symbol
 // is said to be unknown; Escape brings the group's symbol back and gives the keyboard to the view.
 class SymbolBox : public QWidget {
     Q_OBJECT

@@ -223,6 +223,32 @@ void Workspace::activate(const OpenView& view) {
     follow(target);
 }
 
+void Workspace::showSymbolNews(unsigned char group) {
+    std::vector<OpenView*> linked = docked();
+    std::erase_if(linked, [group](const OpenView* view) { return view->view->linkedGroup() != group; });
+    if (linked.empty())
+        return;
+    const auto showing = std::find_if(linked.begin(), linked.end(), [](const OpenView* view) {
+        bool ofSymbol = false;
+        subjectOf(*view, ofSymbol);
+        return ofSymbol;
+    });
+    const auto current = std::find(linked.begin(), linked.end(), active());
+    const OpenView& chosen = **(showing != linked.end()   ? showing
+                                : current != linked.end() ? current
+                                                          : linked.begin());
+    if (auto* strip = qobject_cast<CXTPTabControl*>(dlgItem(chosen.view, ids::tabStrip))) {
+        for (int tab = 0; tab < strip->count(); ++tab) {
+            if (strip->itemData(tab) != symbolMode || tab == strip->curSel())
+                continue;
+            strip->SetCurSel(tab);
+            chosen.view->onCommand(ids::tabStrip);
+        }
+    }
+    activate(chosen);
+    keyboardTarget(chosen)->setFocus();
+}
+
 void Workspace::follow(const QWidget* focus) {
     for (const auto& open : openViews) {
         const bool inside = focus != nullptr && (focus == open->view || open->view->isAncestorOf(focus) ||

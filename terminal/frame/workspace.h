@@ -86,6 +86,9 @@ public:
     void activate(const OpenView& view);
     // Activates the docked view that is `step` (1 or -1) from the active one, in the order of opening.
     void activateNext(int step);
+    // Brings the news of a group's symbol to the front and gives it the keyboard: in the view that shows it
+    // already, else in the active one, else in another of the group. Does nothing without one.
+    void showSymbolNews(unsigned char group);
     void arrange(Arrangement arrangement);
 
     // Null when there is no such view.

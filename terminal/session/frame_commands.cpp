@@ -5,6 +5,7 @@
 #include "host/controls/heap_dialog.h"
 #include "host/views/news_control_ids.h"
 #include "terminal/frame/guide_window.h"
+#include "terminal/frame/keys_window.h"
 #include "terminal/frame/read_as_of_dialog.h"
 #include "terminal/frame/row_density.h"
 #include "terminal/frame/settings_dialog.h"
@@ -20,7 +21,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QInputDialog>
-#include <QMessageBox>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -97,6 +98,13 @@ void FrameCommands::carryOut(FrameCommand command) {
             break;
         case FrameCommand::Connect:
             showGuide();
+            break;
+        case FrameCommand::Keys:
+            showKeys();
+            break;
+        case FrameCommand::About:
+            tell(QMessageBox::NoIcon,
+                 terminalText(TextId::AboutText).arg(QCoreApplication::applicationVersion()));
             break;
         case FrameCommand::Settings:
             changeSettings();
@@ -273,11 +281,22 @@ void FrameCommands::save() {
     report(session.keeper().save());
 }
 
+void FrameCommands::showKeys() {
+    const OpenView* view = session.workspace().active();
+    const HeapDialog dialog(new KeysWindow(*session.frame().menuBar(), view != nullptr ? view->view : nullptr,
+                                           view != nullptr ? view->shownTitle() : QString(),
+                                           &session.frame()));
+    dialog->exec();
+}
+
 void FrameCommands::report(const Done& done) {
-    if (done)
-        return;
-    auto* box = new QMessageBox(QMessageBox::Warning, terminalText(TextId::AppTitle), shownText(done.error()),
-                                QMessageBox::Ok, &session.frame());
+    if (!done)
+        tell(QMessageBox::Warning, shownText(done.error()));
+}
+
+void FrameCommands::tell(QMessageBox::Icon icon, const QString& text) {
+    auto* box =
+        new QMessageBox(icon, terminalText(TextId::AppTitle), text, QMessageBox::Ok, &session.frame());
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     box->button(QMessageBox::Ok)->setText(terminalText(TextId::Accept));

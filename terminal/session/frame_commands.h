@@ -6,6 +6,7 @@
 #include "terminal/frame/frame_command.h"
 #include "terminal/session/news_import.h"
 
+#include <QMessageBox>
 #include <QObject>
 #include <QPointer>
 
@@ -32,9 +33,11 @@ private:
     void changeSettings();
     void rename(int number);
     void showGuide();
+    void showKeys();
     void save();
     // Tells what went wrong, if anything did.
     void report(const Done& done);
+    void tell(QMessageBox::Icon icon, const QString& text);
 
     Session& session;
     NewsImport newsImport;

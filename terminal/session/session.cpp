@@ -146,6 +146,7 @@ void Session::connectParts() {
     connect(&box, &SymbolBox::chosen, linkGroups.get(),
             [this](unsigned char group, const SymbolItem& symbol) {
                 linkGroups->change(nullptr, group, symbol);
+                openViews->showSymbolNews(group);
             });
     connect(linkGroups.get(), &LinkGroups::changed, &box,
             [this, &box](unsigned char group, const SymbolItem& symbol) {
@@ -159,6 +160,8 @@ void Session::connectParts() {
     store->onDatedAhead([this](unsigned char service, std::int64_t time) { tellDatedAhead(service, time); });
     connect(liveFeed.get(), &LiveFeed::trouble, mainFrame.get(),
             [this](const Error& error) { mainFrame->showNotice(shownText(error)); });
+    connect(mainFrame.get(), &MainFrame::firstStepsDismissed, this,
+            [this] { terminalSettings->setShowsFirstSteps(false); });
     connect(openViews.get(), &Workspace::arranged, this, &Session::showViews);
     connect(openViews.get(), &Workspace::opened, mainFrame.get(), [this](const OpenView* view) {
         connect(view->view, &TRVQuoteBaseView::messageForUser, mainFrame.get(), &MainFrame::showNotice);
@@ -210,7 +213,15 @@ Done Session::startFeed(const SessionOptions& options) {
 // Nothing is read of it: it comes again, and is taken by the feed of the user's own store.
 void Session::awaitFeeds(const QString& name) {
     doorbell = std::make_unique<SocketServer>();
-    connect(doorbell.get(), &SocketServer::connected, this, [this] { goToStore({StoreKind::Own, {}}); });
+    // Who says nothing only wants to know whether the name is taken.
+    connect(doorbell.get(), &SocketServer::connected, this, [this](LineChannel* channel) {
+        connect(
+            channel, &LineChannel::lineReceived, this,
+            [this] {
+                goToStore({StoreKind::Own, {}});
+            },
+            Qt::QueuedConnection);
+    });
     // Another terminal may have been first.
     if (const Done listening = doorbell->listen(name); !listening)
         feedNotice = shownText(listening.error());

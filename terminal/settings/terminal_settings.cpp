@@ -86,6 +86,14 @@ void TerminalSettings::setStoreKind(StoreKind kind) {
     store(u"store"_s, kind == StoreKind::Own ? u"own"_s : u"sample"_s);
 }
 
+bool TerminalSettings::showsFirstSteps() const {
+    return stored(u"firstSteps"_s).toBool(true);
+}
+
+void TerminalSettings::setShowsFirstSteps(bool shown) {
+    store(u"firstSteps"_s, shown);
+}
+
 SearchSwitches TerminalSettings::switches() const {
     SearchSwitches result;
     result.normalSearch = stored(u"showNormalSearch"_s).toBool(result.normalSearch);

@@ -55,6 +55,9 @@ public:
     // The one of the user's stores that was chosen last; nothing: none was.
     std::optional<StoreKind> storeKind() const;
     void setStoreKind(StoreKind kind);
+    // Whether the line for who has never been here is shown.
+    bool showsFirstSteps() const;
+    void setShowsFirstSteps(bool shown);
     // The main frame's place, as QWidget::saveGeometry gives it.
     QByteArray frameGeometry() const;
     void setFrameGeometry(const QByteArray& geometry);

@@ -1779,6 +1779,31 @@
         <source></source>
         <translation>User's Guide</translation>
     </message>
+    <message id="TERMINAL_KEYS">
+        <source></source>
+        <translation>&amp;Keys</translation>
+    </message>
+    <message id="TERMINAL_KEYS_TITLE">
+        <source></source>
+        <translation>Keys</translation>
+    </message>
+    <message id="TERMINAL_ABOUT">
+        <source></source>
+        <translation>&amp;About Wirepane</translation>
+    </message>
+    <message id="TERMINAL_ABOUT_TEXT">
+        <source></source>
+        <translation>Wirepane %1
+Reads the news of securities markets, live and from files.</translation>
+    </message>
+    <message id="TERMINAL_FIRST_STEPS">
+        <source></source>
+        <translation>%1 reads the next story    %2 searches    %3 imports news    %4 shows all keys</translation>
+    </message>
+    <message id="TERMINAL_FIRST_STEPS_HIDE">
+        <source></source>
+        <translation>Don’t Show Again</translation>
+    </message>
     <message id="TERMINAL_HEADLINE_COUNT">
         <source></source>
         <translation>%1 headlines</translation>

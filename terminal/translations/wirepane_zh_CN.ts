@@ -1779,6 +1779,31 @@
         <source></source>
         <translation>使用手册</translation>
     </message>
+    <message id="TERMINAL_KEYS">
+        <source></source>
+        <translation>按键一览(&amp;K)</translation>
+    </message>
+    <message id="TERMINAL_KEYS_TITLE">
+        <source></source>
+        <translation>按键一览</translation>
+    </message>
+    <message id="TERMINAL_ABOUT">
+        <source></source>
+        <translation>关于 Wirepane(&amp;A)</translation>
+    </message>
+    <message id="TERMINAL_ABOUT_TEXT">
+        <source></source>
+        <translation>Wirepane %1
+阅读证券市场新闻：实时来源与文件。</translation>
+    </message>
+    <message id="TERMINAL_FIRST_STEPS">
+        <source></source>
+        <translation>%1 阅读下一条新闻    %2 搜索    %3 导入新闻    %4 显示所有按键</translation>
+    </message>
+    <message id="TERMINAL_FIRST_STEPS_HIDE">
+        <source></source>
+        <translation>不再显示</translation>
+    </message>
     <message id="TERMINAL_HEADLINE_COUNT">
         <source></source>
         <translation>%1 条新闻</translation>

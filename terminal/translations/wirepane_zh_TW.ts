@@ -1779,6 +1779,31 @@
         <source></source>
         <translation>使用手冊</translation>
     </message>
+    <message id="TERMINAL_KEYS">
+        <source></source>
+        <translation>按鍵一覽(&amp;K)</translation>
+    </message>
+    <message id="TERMINAL_KEYS_TITLE">
+        <source></source>
+        <translation>按鍵一覽</translation>
+    </message>
+    <message id="TERMINAL_ABOUT">
+        <source></source>
+        <translation>關於 Wirepane(&amp;A)</translation>
+    </message>
+    <message id="TERMINAL_ABOUT_TEXT">
+        <source></source>
+        <translation>Wirepane %1
+閱讀證券市場新聞：即時來源與檔案。</translation>
+    </message>
+    <message id="TERMINAL_FIRST_STEPS">
+        <source></source>
+        <translation>%1 閱讀下一則新聞    %2 搜尋    %3 匯入新聞    %4 顯示所有按鍵</translation>
+    </message>
+    <message id="TERMINAL_FIRST_STEPS_HIDE">
+        <source></source>
+        <translation>不再顯示</translation>
+    </message>
     <message id="TERMINAL_HEADLINE_COUNT">
         <source></source>
         <translation>%1 則新聞</translation>

@@ -130,6 +130,10 @@ TEST_F(UserTerminalTest, FeedsAndTheUserHimselfLeadFromTheSampleToHisOwnNews) {
                   QLocalSocket feed;
                   feed.connectToServer(socketPath(defaultFeedName).value());
                   EXPECT_TRUE(feed.waitForConnected());
+                  QTest::qWait(50);
+                  EXPECT_FALSE(session.onward()) << "who says nothing only asks whether somebody is there";
+                  feed.write("{}\n");
+                  feed.flush();
                   EXPECT_TRUE(QTest::qWaitFor([&] { return session.onward().has_value(); }));
               }),
               u"sample to own"_s);

@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/frame/keys_window.h"
+
+#include "terminal/translations/terminal_text.h"
+
+#include <QAction>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QShortcut>
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr std::size_t columns = 3;
+constexpr int betweenColumns = 32;
+
+struct KeyRow {
+    QString keys;  // empty: what stands above those that follow
+    QString does;
+};
+
+// Without the letter for Alt, and the brackets in which it stands where the text has no such letter.
+QString plainText(QString text) {
+    static const QRegularExpression bracketed(u"\\(&.\\)"_s);
+    text.remove(bracketed);
+    text.remove(u'…');
+    return text.remove(u'&');
+}
+
+QString shownKeys(const QList<QKeySequence>& keys) {
+    QStringList all;
+    for (const QKeySequence& key : keys)
+        all.append(key.toString(QKeySequence::NativeText));
+    return all.join(u", "_s);
+}
+
+void addMenu(std::vector<KeyRow>& rows, const QMenu& menu) {
+    const QList<QAction*> actions = menu.actions();
+    for (const QAction* action : actions) {
+        if (action->menu() != nullptr)
+            addMenu(rows, *action->menu());
+        else if (!action->shortcut().isEmpty())
+            rows.push_back({shownKeys(action->shortcuts()), plainText(action->text())});
+    }
+}
+
+std::vector<KeyRow> rowsOf(const QMenuBar& menus, const QWidget* view, const QString& title) {
+    std::vector<KeyRow> rows;
+    const QList<QAction*> titles = menus.actions();
+    for (const QAction* entry : titles) {
+        if (entry->menu() == nullptr)
+            continue;
+        rows.push_back({{}, plainText(entry->text())});
+        const std::size_t before = rows.size();
+        addMenu(rows, *entry->menu());
+        if (rows.size() == before)
+            rows.pop_back();
+    }
+    if (view == nullptr)
+        return rows;
+    rows.push_back({{}, title});
+    const auto shortcuts = view->findChildren<QShortcut*>();
+    for (const QShortcut* shortcut : shortcuts) {
+        if (!shortcut->whatsThis().isEmpty())
+            rows.push_back({shownKeys({shortcut->key()}), plainText(shortcut->whatsThis())});
+    }
+    return rows;
+}
+
+QLabel* label(const QString& text, bool strong) {
+    auto* made = new QLabel(text);
+    made->setTextFormat(Qt::PlainText);
+    QFont font = made->font();
+    font.setBold(strong);
+    made->setFont(font);
+    return made;
+}
+
+}  // namespace
+
+KeysWindow::KeysWindow(const QMenuBar& menus, const QWidget* view, const QString& viewTitle, QWidget* parent)
+    : QDialog(parent) {
+    setWindowTitle(terminalText(TextId::KeysTitle));
+    const std::vector<KeyRow> rows = rowsOf(menus, view, viewTitle);
+    const std::size_t perColumn = (rows.size() + columns - 1) / columns;
+    auto* page = new QHBoxLayout(this);
+    page->setSpacing(betweenColumns);
+    page->setContentsMargins(24, 16, 24, 16);
+    for (std::size_t first = 0; first < rows.size(); first += perColumn) {
+        auto* column = new QGridLayout;
+        column->setHorizontalSpacing(16);
+        column->setVerticalSpacing(4);
+        int line = 0;
+        for (std::size_t row = first; row < std::min(first + perColumn, rows.size()); ++row, ++line) {
+            if (rows[row].keys.isEmpty()) {
+                column->addWidget(label(rows[row].does, true), line, 0, 1, 2);
+                continue;
+            }
+            column->addWidget(label(rows[row].keys, false), line, 0);
+            column->addWidget(label(rows[row].does, false), line, 1);
+        }
+        column->setRowStretch(line, 1);
+        column->setColumnStretch(1, 1);
+        page->addLayout(column);
+    }
+}
+
+}  // namespace wirepane
