@@ -15,7 +15,7 @@ namespace wirepane {
 
 namespace {
 
-constexpr int mostYoung = 1024;
+constexpr int mostYoung = 512;
 constexpr int chipMargin = 6;
 
 // Whose ink stands in the right half of a full-width cell.
@@ -53,6 +53,11 @@ void DrawnTexts::setFont(const QFont& font) {
     figures = Figures(QFontMetricsF(font));
     young.clear();
     old.clear();
+}
+
+void DrawnTexts::forget() {
+    young = {};
+    old = {};
 }
 
 int DrawnTexts::chipWidth(const QString& label) const {

@@ -36,6 +36,8 @@ public:
     // is a chip, which takes of that room, and whether its digits have one width. The answer is valid until
     // the next call.
     const DrawnText& line(const QString& text, int room, const SheetCells* cells = nullptr, int column = -1);
+    // What has been laid out is not needed for now.
+    void forget();
     // Draws it from `x` on the baseline.
     static void draw(QPainter& painter, const DrawnText& text, qreal x, qreal baseline);
     // The width of a chip with this label.

@@ -32,7 +32,7 @@ public:
     void tell(const EmptyText& text);
     const EmptyText& text() const { return told; }
 
-signals:
+Q_SIGNALS:
     // The button was pressed.
     void acted();
 

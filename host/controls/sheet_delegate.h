@@ -35,6 +35,7 @@ public:
     int hoveredRow = -1;       // under the pointer
     // The colours have changed.
     void forgetPictures() { rowPainter.forgetPictures(); }
+    void forgetTexts() { rowPainter.forgetTexts(); }
 
 private:
     bool isMarkedCurrent(const QModelIndex& index) const;

@@ -36,6 +36,11 @@ void SheetRowPainter::setFont(const QFont& font) {
     chips.clear();
 }
 
+void SheetRowPainter::forgetTexts() {
+    texts.forget();
+    tags.forget();
+}
+
 void SheetRowPainter::forgetPictures() {
     chips.clear();
     pens.clear();

@@ -33,6 +33,8 @@ public:
     // The font of what is painted next.
     void setFont(const QFont& font);
     void forgetPictures();
+    // What it has laid out is not on show.
+    void forgetTexts();
     void paint(QPainter& painter, const SheetCells& cells, const Cell& cell, const QPalette& palette);
 
 private:

@@ -266,6 +266,11 @@ void CSuperSheetWnd::changeEvent(QEvent* event) {
         delegate->forgetPictures();
 }
 
+void CSuperSheetWnd::hideEvent(QHideEvent* event) {
+    QTableView::hideEvent(event);
+    delegate->forgetTexts();
+}
+
 void CSuperSheetWnd::initStyleOption(QStyleOptionFrame* option) const {
     QTableView::initStyleOption(option);
     QColor faint = palette().color(QPalette::WindowText);
