@@ -111,7 +111,7 @@ std::optional<std::vector<CHeadlineTable>> HeadlineKeys::entries(unsigned char s
             found.push_back({time, sequence, service, 0, 0});
         });
     }
-    if (ids.mayHoldAny(0, oldestId))
+    if (oldestId > 0 && ids.mayHoldAny(0, oldestId))
         appendOlder(found, service, ids);
     return found;
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/search/news_search.h"
 
-#include "backend/database/database.h"
+#include "backend/database/read_transaction.h"
 #include "backend/words/search_words.h"
 #include "host/contract/search_choices.h"
 
@@ -43,22 +43,6 @@ QStringList queriesOf(const CSearch& condition) {
         query = withinScope(query, scopeOf(condition.scope));
     return phrases;
 }
-
-// Reading within one transaction sees one moment of the store.
-class ReadTransaction {
-public:
-    explicit ReadTransaction(Database& database) : owner(database), begun(database.execute("BEGIN")) {}
-    ~ReadTransaction() {
-        if (begun)
-            owner.execute("COMMIT");
-    }
-    ReadTransaction(const ReadTransaction&) = delete;
-    ReadTransaction& operator=(const ReadTransaction&) = delete;
-
-private:
-    Database& owner;
-    bool begun;
-};
 
 }  // namespace
 

@@ -2,13 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/store_checker.h"
 
+#include "backend/database/read_transaction.h"
 #include "backend/database/statement.h"
 #include "backend/search/search_index_check.h"
-#include "backend/store/schema.h"
 #include "backend/store/store_file.h"
+#include "backend/store/store_rules.h"
 
-#include <array>
+#include <algorithm>
+#include <limits>
+#include <optional>
 #include <sqlite3.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -16,111 +20,281 @@ namespace wirepane {
 
 namespace {
 
-// How many offenders a sentence names.
-constexpr int namedOffenders = 3;
+using Clock = std::chrono::steady_clock;
 
-// What must hold: `offenders` gives the name of each row that breaks it, `sentence` says so with the names
-// for %1.
-struct Rule {
-    const char* offenders;
-    QStringView sentence;
-};
-constexpr std::array rules{
-    Rule{"SELECT \"table\" || ' ' || coalesce(rowid, '') || ' (to ' || parent || ')' FROM "
-         "pragma_foreign_key_check",
-         u"These rows refer to rows that are not there: %1."},
-    Rule{"SELECT name FROM sqlite_schema WHERE type = 'trigger'",
-         u"These triggers are none of the store's; they never run: %1."},
-    Rule{"SELECT service || '/' || identity FROM headlines "
-         "WHERE typeof(title) <> 'text' OR trim(title) = '' OR length(title) > 8192",
-         u"These headlines have no title, or one that is too long: %1."},
-    Rule{"SELECT service || '/' || identity FROM headlines "
-         "WHERE typeof(time) <> 'integer' OR time NOT BETWEEN -2208988800 AND 253402300799",
-         u"The time of these headlines does not lie within the years 1900 to 9999: %1."},
-    Rule{"SELECT service || '/' || day FROM headlines GROUP BY service, day HAVING max(sequence) > "
-         "coalesce((SELECT last FROM numbering WHERE numbering.service = headlines.service AND "
-         "numbering.day = headlines.day), 0)",
-         u"The numbering of these services and days has fallen behind their headlines: %1."},
-    Rule{"SELECT headlines.service || '/' || identity FROM related_symbols JOIN headlines ON id = headline "
-         "WHERE related_symbols.service <> headlines.service OR related_symbols.time <> headlines.time OR "
-         "related_symbols.sequence <> headlines.sequence",
-         u"The related symbols of these headlines stand under another time or number: %1."},
-    Rule{"SELECT headlines.service || '/' || identity FROM related_symbols JOIN headlines ON id = headline "
-         "GROUP BY id HAVING count(*) <> max(position) + 1 OR min(position) <> 0 OR "
-         "sum(code = '' OR length(code) > 64) > 0",
-         u"The related symbols of these headlines have gaps or no proper code: %1."},
-    Rule{"SELECT service || '/' || identity FROM stories JOIN headlines ON id = headline "
-         "WHERE typeof(text) <> 'text' OR length(text) > 4194304",
-         u"The stories of these headlines are no text, or too long: %1."},
-    Rule{"SELECT space || '/' || id FROM categories "
-         "WHERE name = '' OR name GLOB '*[ ,]*' OR length(name) > 64",
-         u"The names of these categories are empty, too long, or hold blanks or commas: %1."},
-    Rule{"SELECT market || '/' || code FROM quotes WHERE code = '' OR length(code) > 64 OR "
-         "typeof(last) <> 'real' OR last NOT BETWEEN 0 AND 1e12 OR typeof(change) <> 'real' OR "
-         "change NOT BETWEEN -1e12 AND last OR typeof(volume) <> 'integer' OR "
-         "volume NOT BETWEEN 0 AND 9007199254740991",
-         u"The quotes of these symbols hold a number that is none, or out of range: %1."},
-};
+constexpr std::int64_t mostId = std::numeric_limits<std::int64_t>::max() - 1;
+constexpr std::int64_t idsAtOnce = 2000;
+constexpr std::int64_t wordsAtOnce = 200'000;
+constexpr std::int64_t idsOfWindow = 16'000'000;  // of which the words are compared at once: 128 MB
+constexpr double secondsOfPage = 40e-6;           // of the file, while its structure is read
+constexpr double wordsOfTexts = 0.8;              // the time to read the index, of that to split the texts
+constexpr int instructionsBetween = 1'000'000;    // of SQLite's, between two reports
 
-QString namesOf(QStringList offenders) {
-    const bool more = offenders.size() > namedOffenders;
-    offenders.resize(std::min<qsizetype>(offenders.size(), namedOffenders));
-    return offenders.join(u", "_s) + (more ? u" and more"_s : QString());
+double since(Clock::time_point from) {
+    return std::chrono::duration<double>(Clock::now() - from).count();
 }
 
-// A rule that cannot be looked at is a fault too.
-void checkRule(Database& database, const Rule& rule, QStringList& faults) {
-    Statement statement(database, rule.offenders);
-    Query query(statement);
-    QStringList offenders;
-    while (offenders.size() <= namedOffenders && query.next())
-        offenders += query.text(0);
-    if (query.failed())
-        faults += sentence(database.failure());
-    else if (!offenders.isEmpty())
-        faults += rule.sentence.toString().arg(namesOf(offenders));
-}
+// How much of a work of known parts is done. Parts are seconds, as they were estimated.
+class Pace {
+public:
+    explicit Pace(const CheckProgress& progress) : tell(progress) {}
 
-QStringList structureFaults(Database& database) {
+    void begin(double seconds) {
+        all = seconds;
+        report(0);
+    }
+    // `share` of the present part, of so many seconds, is done.
+    void report(double share) {
+        const double done =
+            all > 0 ? std::clamp((before + part * std::clamp(share, 0.0, 1.0)) / all, 0.0, 1.0) : 1;
+        const double took = since(from);
+        // After a while the pace tells better than the estimate.
+        constexpr double settled = 0.1;
+        const double left = done > settled ? took * (1 - done) / done : all * (1 - done);
+        if (tell)
+            tell(done, std::chrono::seconds(std::int64_t(left + 0.5)));
+    }
+    void enter(double seconds) {
+        before += std::exchange(part, seconds);
+        partFrom = Clock::now();
+    }
+    // By the clock, where nothing else tells.
+    void reportByTime() { report(part > 0 ? since(partFrom) / part : 1); }
+
+private:
+    const CheckProgress& tell;
+    double all = 0;
+    double before = 0;
+    double part = 0;
+    Clock::time_point from = Clock::now();
+    Clock::time_point partFrom = from;
+};
+
+constexpr const char* nextWithRows =
+    "SELECT min(id) FROM (SELECT min(id) AS id FROM all_headlines WHERE id >= ?1 UNION ALL "
+    "SELECT min(headline) FROM stories WHERE headline >= ?1 UNION ALL "
+    "SELECT min(headline) FROM related_symbols WHERE headline >= ?1)";
+constexpr const char* extent =
+    "SELECT min(id), max(id), (SELECT coalesce(max(position), 0) FROM arrivals) FROM ("
+    "SELECT min(id) AS id FROM all_headlines UNION ALL SELECT max(id) FROM all_headlines UNION ALL "
+    "SELECT min(headline) FROM stories UNION ALL SELECT max(headline) FROM stories UNION ALL "
+    "SELECT min(headline) FROM related_symbols UNION ALL SELECT max(headline) FROM related_symbols)";
+
+class Check {
+public:
+    Check(Database& database, const CheckProgress& progress)
+        : store(database), rules(database), pace(progress), nextId(database, nextWithRows) {}
+
+    Result<QStringList> run();
+
+private:
+    bool readExtent();
+    // The next so many ids from `id` on, beginning with one that has rows; nothing behind the last.
+    std::optional<std::pair<std::int64_t, std::int64_t>> pageFrom(std::int64_t id, std::int64_t ids);
+    double shareBefore(std::int64_t id) const {
+        return (double(id) - double(firstId)) / (double(endId) - double(firstId));
+    }
+    void estimate();
+    QStringList structureFaults();
+    void checkRules();
+    // False when the index cannot be read.
+    bool checkIndex();
+    bool checkWindow(SearchIndexCheck& index, std::int64_t first, std::int64_t end, double share);
+    void addFaults(const SearchIndexCheck::Faults& found, QStringList& offenders);
+    bool isTheSame(std::int64_t id);
+
+    Database& store;
+    StoreRules rules;
+    Pace pace;
+    Statement nextId;
+    // When the check began: the ids of news, those not indexed yet, the last arrival.
+    std::int64_t firstId = 0;
+    std::int64_t endId = 0;
+    UnindexedIds unindexed;
+    std::int64_t lastArrival = 0;
+    double secondsOfStructure = 0;
+    double secondsOfRules = 0;
+    double secondsOfTexts = 0;
     QStringList faults;
-    Statement statement(database, "PRAGMA integrity_check(10)");
+};
+
+bool Check::readExtent() {
+    const ReadTransaction moment(store);
+    Statement statement(store, extent);
+    Query query(statement);
+    if (!query.next())
+        return false;
+    firstId = query.number(0);
+    endId = query.isNull(1) ? firstId : std::min(query.number(1), mostId) + 1;
+    lastArrival = query.number(2);
+    std::optional<UnindexedIds> read = UnindexedIds::read(store);
+    if (read)
+        unindexed = *std::move(read);
+    return read.has_value();
+}
+
+std::optional<std::pair<std::int64_t, std::int64_t>> Check::pageFrom(std::int64_t id, std::int64_t ids) {
+    Query query(nextId, id);
+    if (!query.next() || query.isNull(0) || query.number(0) >= endId)
+        return std::nullopt;
+    const std::int64_t first = query.number(0);
+    return std::pair(first, first < endId - ids ? first + ids : endId);
+}
+
+// By a few pieces from all over the store.
+void Check::estimate() {
+    constexpr int pieces = 4;
+    std::int64_t pages = 0;
+    store.readNumber("PRAGMA page_count", pages);
+    secondsOfStructure = double(pages) * secondsOfPage;
+    double ids = 0;
+    StoreRules sample(store);
+    for (int i = 0; i < pieces; ++i) {
+        const ReadTransaction moment(store);
+        const auto page = pageFrom(firstId + std::int64_t((double(endId) - double(firstId)) * i / pieces),
+                                   idsAtOnce / pieces);
+        if (!page)
+            continue;
+        const auto before = Clock::now();
+        sample.checkPage(page->first, page->second);
+        const auto between = Clock::now();
+        SearchIndexCheck(store, page->first, page->second).addTexts(page->first, page->second);
+        secondsOfRules += std::chrono::duration<double>(between - before).count();
+        secondsOfTexts += since(between);
+        ids += double(page->second - page->first);
+    }
+    const double times = ids > 0 ? (double(endId) - double(firstId)) / ids : 0;
+    secondsOfRules *= times;
+    secondsOfTexts *= times;
+    pace.begin(secondsOfStructure + secondsOfRules + secondsOfTexts * (1 + wordsOfTexts));
+}
+
+QStringList Check::structureFaults() {
+    pace.enter(secondsOfStructure);
+    sqlite3_progress_handler(
+        store.handle(), instructionsBetween,
+        [](void* self) {
+            static_cast<Pace*>(self)->reportByTime();
+            return 0;
+        },
+        &pace);
+    QStringList found;
+    Statement statement(store, "PRAGMA integrity_check(10)");
     Query query(statement);
     while (query.next()) {
         if (query.text(0) != u"ok"_s)
-            faults += u"The file's structure is damaged: %1."_s.arg(query.text(0));
+            found += u"The file's structure is damaged: %1."_s.arg(query.text(0));
     }
     if (query.failed())
-        faults += sentence(database.failure());
-    return faults;
+        found += sentence(store.failure());
+    sqlite3_progress_handler(store.handle(), 0, nullptr, nullptr);
+    return found;
 }
 
-void checkSearchIndex(Database& database, QStringList& faults) {
-    const std::optional<QStringList> offenders = searchIndexFaults(database, namedOffenders + 1);
-    if (!offenders)
-        faults += u"The search index cannot be read: %1"_s.arg(sentence(database.failure()));
-    else if (!offenders->isEmpty())
-        faults += u"The search index does not hold the text of: %1."_s.arg(namesOf(*offenders));
+void Check::checkRules() {
+    pace.enter(secondsOfRules);
+    rules.checkTables();
+    for (auto page = pageFrom(firstId, idsAtOnce); page; page = pageFrom(page->second, idsAtOnce)) {
+        const ReadTransaction moment(store);
+        rules.checkPage(page->first, page->second);
+        pace.report(shareBefore(page->second));
+    }
+    faults += rules.faults();
+}
+
+bool Check::checkWindow(SearchIndexCheck& index, std::int64_t first, std::int64_t end, double share) {
+    pace.enter(secondsOfTexts * share);
+    for (auto page = pageFrom(first, idsAtOnce); page && page->first < end;
+         page = pageFrom(page->second, idsAtOnce)) {
+        const ReadTransaction moment(store);
+        if (!index.addTexts(page->first, std::min(page->second, end)))
+            return false;
+        pace.report(double(page->second - first) / double(end - first));
+    }
+    pace.enter(secondsOfTexts * wordsOfTexts * share);
+    for (std::optional<bool> more = true; *more;) {
+        const ReadTransaction moment(store);
+        more = index.takeWords(wordsAtOnce);
+        if (!more)
+            return false;
+        pace.report(double(index.wordsTaken()) / double(index.wordsAdded() + 1));
+    }
+    return true;
+}
+
+bool Check::checkIndex() {
+    QStringList offenders;
+    for (auto window = pageFrom(firstId, idsOfWindow); window;
+         window = pageFrom(window->second, idsOfWindow)) {
+        const auto [first, end] = *window;
+        SearchIndexCheck index(store, first, end, unindexed);
+        if (!checkWindow(index, first, end, shareBefore(end) - shareBefore(first)))
+            return false;
+        addFaults(index.faults(), offenders);
+    }
+    if (!offenders.isEmpty())
+        faults += namingSome(u"The search index does not hold the text of: %1.", offenders);
+    return true;
+}
+
+// What was written to since the check began may have been read once before and once after that.
+bool Check::isTheSame(std::int64_t id) {
+    Statement changed(store, "SELECT EXISTS(SELECT 1 FROM arrivals WHERE position > ? AND headline = ?)");
+    Query query(changed, lastArrival, id);
+    return !query.next() || query.number(0) == 0;
+}
+
+void Check::addFaults(const SearchIndexCheck::Faults& found, QStringList& offenders) {
+    const ReadTransaction moment(store);
+    Statement named(store, "SELECT service || '/' || identity FROM headlines WHERE id = ?");
+    for (const std::int64_t id : found.texts) {
+        if (offenders.size() > namedOffenders)
+            return;
+        Query query(named, id);
+        // What has gone meanwhile is no fault.
+        if (query.next() && isTheSame(id))
+            offenders += query.text(0);
+    }
+    std::int64_t lastId = 0;
+    store.readNumber("SELECT coalesce(max(id), 0) FROM all_headlines", lastId);
+    for (const std::int64_t id : found.entries) {
+        if (offenders.size() > namedOffenders)
+            return;
+        const bool hasCome = id >= endId && id <= lastId;
+        const bool isOfOtherWindow = id >= firstId && id < endId && Query(named, id).next();
+        if (!hasCome && !isOfOtherWindow)
+            offenders += u"entry %1"_s.arg(id);
+    }
+}
+
+Result<QStringList> Check::run() {
+    if (std::optional<Error> fault = readingFault(store))
+        return *fault;
+    std::optional<Error> unread;
+    if (readExtent())
+        estimate();
+    else
+        unread = store.failure();
+    faults = structureFaults();
+    if (faults.isEmpty() && unread)
+        faults += sentence(*unread);
+    if (!faults.isEmpty())
+        return faults;
+    checkRules();
+    if (!checkIndex())
+        faults += u"The search index cannot be read: %1"_s.arg(sentence(store.failure()));
+    return faults;
 }
 
 }  // namespace
 
-Result<QStringList> StoreChecker::check() const {
+Result<QStringList> StoreChecker::check(const CheckProgress& progress) const {
     const Result<std::unique_ptr<Database>> opened = Database::openToRead(path, StoreOptions().busyTimeout);
     if (!opened)
         return opened.error();
-    Database& database = *opened.value();
-    // One moment of the store, whoever writes to it meanwhile.
-    if (!database.execute("PRAGMA temp_store = MEMORY; BEGIN"))
-        return database.failure();
-    if (std::optional<Error> fault = readingFault(database))
-        return *fault;
-    QStringList faults = structureFaults(database);
-    if (!faults.isEmpty())
-        return faults;
-    for (const Rule& rule : rules)
-        checkRule(database, rule, faults);
-    checkSearchIndex(database, faults);
-    return faults;
+    if (!opened.value()->execute("PRAGMA temp_store = MEMORY"))
+        return opened.value()->failure();
+    return Check(*opened.value(), progress).run();
 }
 
 }  // namespace wirepane

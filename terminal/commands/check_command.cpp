@@ -11,9 +11,43 @@
 
 #include <QDir>
 
+#include <chrono>
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
+
+namespace {
+
+constexpr std::chrono::seconds isLong{5};
+constexpr std::chrono::milliseconds betweenLines{200};
+
+QString spanText(std::chrono::seconds span) {
+    constexpr std::chrono::seconds inMinutes{100};
+    if (span < inMinutes)
+        return span.count() == 1 ? u"1 second"_s : u"%1 seconds"_s.arg(span.count());
+    return u"%1 minutes"_s.arg(std::chrono::round<std::chrono::minutes>(span).count());
+}
+
+// What takes long is told before it begins; then how far it is, a few times a second.
+CheckProgress checkLines() {
+    return [last = std::optional<std::chrono::steady_clock::time_point>()](
+               double share, std::chrono::seconds left) mutable {
+        const auto now = std::chrono::steady_clock::now();
+        if (!last && left >= isLong)
+            printNote(
+                u"The check will take about %1. The store can be used meanwhile."_s.arg(spanText(left)));
+        if (last && now - *last < betweenLines)
+            return;
+        if (last)
+            printPassing(
+                u"Checking the store: %1 %, about %2 left"_s.arg(int(share * 100)).arg(spanText(left)));
+        last = now;
+    };
+}
+
+}  // namespace
 
 int runCheck() {
     CommandArguments arguments(u"check"_s,
@@ -28,14 +62,15 @@ int runCheck() {
         return *status;
 
     const QString file = QDir::toNativeSeparators(arguments.storeToRead());
-    const auto faults = StoreChecker(arguments.storeToRead()).check();
+    const auto faults = StoreChecker(arguments.storeToRead()).check(checkLines());
+    clearPassing();
     if (!faults) {
         printNote(sentence(faults.error()));
         return exitUnusable;
     }
     for (const QString& fault : faults.value())
         printLine(fault);
-    if (const auto store = Database::openToRead(arguments.storeFile(), StoreOptions().busyTimeout)) {
+    if (const auto store = Database::openToRead(arguments.storeToRead(), StoreOptions().busyTimeout)) {
         if (const std::int64_t left = unindexedHeadlines(*store.value()).value_or(0); left > 0)
             printLine(
                 u"The search index is behind an import: %1 headlines are still to come into it."_s.arg(left));

@@ -163,11 +163,24 @@ TEST_F(NewsSearchTest, TheKeysOfAllHeadlinesAreReadOnce) {
     sqlite3_trace_v2(reading->handle(), 0, nullptr, nullptr);
 }
 
-TEST_F(NewsSearchTest, NoMoreFaultsOfTheIndexAreNamedThanWanted) {
-    for (const QString& identity : {u"a"_s, u"b"_s, u"c"_s})
+// However small the pieces are in which the index is read.
+TEST_F(NewsSearchTest, TheIndexIsComparedWithTheTextsItWasMadeOf) {
+    for (const QString& identity : {u"a"_s, u"b"_s, u"c"_s, u"d"_s})
         takeStory(identity, u"Title"_s, u"story"_s);
-    ASSERT_TRUE(store->execute("UPDATE stories SET text = 'another'"));
-    EXPECT_EQ(searchIndexFaults(*reading, 2), (QStringList{u"1/a"_s, u"1/b"_s}));
+    ASSERT_TRUE(
+        store->execute("UPDATE stories SET text = 'another' WHERE headline <> 3; "
+                       "INSERT INTO import_blocks(first, last, hidden) VALUES(4, 4, 0)"));
+    for (const std::int64_t most : {1, 1000}) {
+        SearchIndexCheck index(*reading, 1, 5, UnindexedIds::read(*reading).value());
+        EXPECT_TRUE(index.addTexts(1, 3) && index.addTexts(3, 5));
+        std::optional<bool> more = true;
+        while (more.value_or(false))
+            more = index.takeWords(most);
+        EXPECT_TRUE(more);
+        EXPECT_EQ(index.faults().texts, (std::vector<std::int64_t>{1, 2}));
+        EXPECT_TRUE(index.faults().entries.empty());
+        EXPECT_EQ(index.wordsTaken(), 8);
+    }
 }
 
 TEST_F(NewsSearchTest, KeywordsOfAnySizeAndNumberAreAnswered) {
