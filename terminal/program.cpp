@@ -11,6 +11,7 @@
 #include "terminal/commands/replay_command.h"
 #include "terminal/commands/sample_command.h"
 #include "terminal/commands/search_command.h"
+#include "terminal/commands/trim_command.h"
 #include "terminal/console/console.h"
 
 #include <QApplication>
@@ -32,8 +33,9 @@ struct Command {
 };
 
 constexpr Command commands[] = {
-    {"import", &runImport}, {"feed", &runFeed},     {"replay", &runReplay}, {"sample", &runSample},
-    {"check", &runCheck},   {"backup", &runBackup}, {"search", &runSearch}, {"export", &runExport, true},
+    {"import", &runImport}, {"feed", &runFeed},           {"replay", &runReplay},
+    {"sample", &runSample}, {"check", &runCheck},         {"backup", &runBackup},
+    {"search", &runSearch}, {"export", &runExport, true}, {"trim", &runTrim},
 };
 
 QtMessageHandler usualMessages = nullptr;

@@ -29,6 +29,7 @@ NewsWriter::NewsWriter(Database& owner, const ImportBlocks& importBlocks)
           "UPDATE all_headlines SET id = (SELECT max(id) + 1 FROM all_headlines), time = ?2, sequence = "
           "?3, day = ?4, category = ?5, version = ?6, "
           "received = ?7, title = ?8 WHERE id = ?1 RETURNING id"),
+      deleteHeadline(owner, "DELETE FROM all_headlines WHERE id = ?"),
       insertText(owner, "INSERT INTO stories(headline, text) VALUES(?, ?)"),
       deleteText(owner, "DELETE FROM stories WHERE headline = ?"),
       insertRelated(owner,
@@ -91,6 +92,11 @@ bool NewsWriter::replace(std::int64_t id, const NewsItem& item, const NewsPlace&
             return false;
     }
     return writeTexts(written, item.title, item.story) && writeRelated(written, item, place);
+}
+
+bool NewsWriter::remove(std::int64_t id) {
+    QString title;
+    return takeFromSearch(id, title) && Query(deleteHeadline, id).run();
 }
 
 bool NewsWriter::putStory(std::int64_t id, const QString& story) {

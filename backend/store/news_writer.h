@@ -49,6 +49,8 @@ public:
     bool insert(const NewsItem& item, const NewsPlace& place);
     // The news moves to a new id.
     bool replace(std::int64_t id, const NewsItem& item, const NewsPlace& place);
+    // The news leaves, with its story, its related symbols and its words.
+    bool remove(std::int64_t id);
     // The id of the news that was inserted or replaced last.
     std::int64_t writtenId() const { return written; }
     // Replaces the story, if there is one.
@@ -69,6 +71,7 @@ private:
     Statement findNumber;
     Statement insertHeadline;
     Statement updateHeadline;
+    Statement deleteHeadline;
     Statement insertText;
     Statement deleteText;
     Statement insertRelated;

@@ -149,8 +149,17 @@ CREATE VIEW shown_symbols AS SELECT * FROM related_symbols WHERE
               WHERE first <= headline ORDER BY first DESC LIMIT 1), 1);
 )sql";
 
+// Before this moment news is taken out, and not taken in; `compacting`: what it left in the search index is
+// being taken out, too.
+constexpr const char* retention = R"sql(
+CREATE TABLE retention(
+    id INTEGER PRIMARY KEY CHECK(id = 1),
+    horizon INTEGER NOT NULL,
+    compacting INTEGER NOT NULL);
+)sql";
+
 constexpr std::array steps{firstVersion, arrivalsAndPositions, ownSearchWords, quotes,
-                           goneKeys,     blocksOfImports};
+                           goneKeys,     blocksOfImports,      retention};
 
 }  // namespace
 

@@ -34,6 +34,8 @@ inline constexpr ErrorCode quote{"ERROR_STORE_QUOTE", u"quote"};
 
 // Of items.
 inline constexpr ErrorCode noHeadline{"ERROR_STORE_NO_HEADLINE", u"There is no headline with this key."};
+inline constexpr ErrorCode beyondRetention{"ERROR_STORE_BEYOND_RETENTION",
+                                           u"It is older than the news that this store keeps: since %1."};
 inline constexpr ErrorCode newsGone{"ERROR_STORE_NEWS_GONE", u"The news is no longer in the store."};
 inline constexpr ErrorCode noNumberLeft{"ERROR_STORE_NO_NUMBER_LEFT",
                                         u"No sequence number is left on its day."};

@@ -8,6 +8,8 @@
 #include "backend/store/item_check.h"
 #include "backend/store/store_errors.h"
 
+#include <QDateTime>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -34,6 +36,11 @@ Error numberTaken(const NewsItem& item) {
     return makeError<store_errors::numberTaken>(*item.sequence);
 }
 
+Error tooOld(std::int64_t horizon) {
+    return makeError<store_errors::beyondRetention>(
+        QDateTime::fromSecsSinceEpoch(horizon).toString(u"yyyy/MM/dd HH:mm"_s));
+}
+
 }  // namespace
 
 StoreWriter::StoreWriter(Database& owner)
@@ -44,6 +51,7 @@ StoreWriter::StoreWriter(Database& owner)
       categories(owner),
       arrivals(owner),
       positions(owner),
+      trimmer(owner, news, arrivals),
       quotes(owner),
       insertService(owner,
                     "INSERT INTO services(id, full_name, short_name, position) "
@@ -77,6 +85,7 @@ Done StoreWriter::beginAs(bool isHidden) {
     categories.restart();
     services.clear();
     days = {};
+    horizon = trimmer.horizon();
     begun = true;
     isHiding = isHidden;
     categories.holdLinks(isHidden);
@@ -157,7 +166,7 @@ Result<StoredNews> StoreWriter::takeNews(const NewsItem& given) {
         known.reset();
     }
     if (!known)
-        return add(item);
+        return horizon && item.time < *horizon ? rejected(tooOld(*horizon)) : add(item);
     const bool isNewer = isLater(item, *known);
     const bool bringsStory = !isNewer && item.version == known->version &&
                              !item.story.value_or(QString()).isEmpty() && !known->hasStory;
@@ -246,6 +255,29 @@ Result<TakeOutcome> StoreWriter::takeStory(const HeadlineKey& key, const QString
     if (!news.putStory(known->id, story) || !noteArrival(known->id, true))
         return fail();
     return TakeOutcome{};
+}
+
+Result<TrimStep> StoreWriter::trim(const Retention& keep, std::int64_t now) {
+    if (const Done opened = begin(); !opened)
+        return opened.error();
+    if (isStopped) {
+        rollback();
+        return makeError<store_errors::stopped>();
+    }
+    const std::optional<TrimStep> step = trimmer.step(keep, now);
+    if (!step)
+        return fail();
+    if (const Done kept = commit(); !kept)
+        return kept.error();
+    return *step;
+}
+
+Done StoreWriter::takeAnyAge() {
+    if (const Done opened = begin(); !opened)
+        return opened;
+    if (!trimmer.lift())
+        return fail();
+    return commit();
 }
 
 Done StoreWriter::keepPosition(const QString& source, const QString& position) {

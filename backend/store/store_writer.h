@@ -7,6 +7,7 @@
 #include "backend/store/category_book.h"
 #include "backend/store/day_numbers.h"
 #include "backend/store/feed_positions.h"
+#include "backend/store/news_trimmer.h"
 #include "backend/store/news_writer.h"
 #include "backend/store/quote_book.h"
 #include "host/contract/local_days.h"
@@ -66,6 +67,11 @@ public:
     // Puts the story of the headline with this key, whether it had one or not. Rejected: there is no such
     // headline, or the text is too long.
     Result<TakeOutcome> takeStory(const HeadlineKey& key, const QString& story);
+    // Lets old news leave, in one small transaction; again until it is done. News that is not there and older
+    // than what has left is rejected from then on.
+    Result<TrimStep> trim(const Retention& keep, std::int64_t now);
+    // News of any age is taken in again.
+    Done takeAnyAge();
     // From now on nothing is taken: what is under way fails, and is taken back. Any thread.
     void stop() { isStopped = true; }
     // The symbols that the transactions since the last call have changed.
@@ -99,6 +105,7 @@ private:
     CategoryBook categories;
     ArrivalLog arrivals;
     FeedPositions positions;
+    NewsTrimmer trimmer;
     QuoteBook quotes;
     Statement insertService;
     Statement insertHiddenService;
@@ -110,6 +117,7 @@ private:
     QSet<unsigned char> services;            // known to be there
     std::vector<SymbolItem> changedSymbols;  // the last of them by the running transaction
     std::size_t keptSymbols = 0;             // of them, by those before
+    std::optional<std::int64_t> horizon;     // what is older and new is rejected
     bool begun = false;
     bool isHiding = false;
     std::atomic<bool> isStopped = false;

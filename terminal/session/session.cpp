@@ -110,6 +110,7 @@ Done Session::start(const SessionOptions& options) {
     categoryWatch = std::make_unique<CategoryWatch>(*store, [this] { renameCategories(); });
     status = std::make_unique<StatusReport>(*store, *liveFeed, *openViews);
     look->apply();
+    retention = std::make_unique<RetentionKeeper>(*store, [this] { return terminalSettings->retention(); });
     connectParts();
     for (const QString& sentence : {feedNotice, settingsFile.message()}) {
         if (!sentence.isEmpty())

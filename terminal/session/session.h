@@ -13,6 +13,7 @@
 #include "terminal/session/category_display.h"
 #include "terminal/session/category_watch.h"
 #include "terminal/session/link_groups.h"
+#include "terminal/session/retention_keeper.h"
 #include "terminal/session/status_report.h"
 #include "terminal/session/user_stores.h"
 #include "terminal/session/workspace_keeper.h"
@@ -161,6 +162,7 @@ private:
     std::unique_ptr<WorkspaceKeeper> workspaceKeeper;
     std::unique_ptr<CategoryWatch> categoryWatch;
     std::unique_ptr<StatusReport> status;
+    std::unique_ptr<RetentionKeeper> retention;
     FollowedView followed;
     QTimer clock;                       // the status bar's
     std::set<unsigned char> toldAhead;  // services whose news is dated ahead

@@ -114,6 +114,12 @@ void TerminalSettings::setCurrentSymbol(unsigned char linkGroup, const QString& 
     currentSymbols.insert(linkGroup, code);
 }
 
+Retention TerminalSettings::retention() const {
+    constexpr std::int64_t megabyte = 1'000'000;
+    return {std::max(0, stored(u"keepDays"_s).toInt()),
+            megabyte * std::max(0, stored(u"keepMegabytes"_s).toInt())};
+}
+
 QByteArray TerminalSettings::frameGeometry() const {
     return QByteArray::fromBase64(stored(u"frameGeometry"_s).toString().toLatin1());
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/store/retention.h"
 #include "host/contract/sync_info.h"
 #include "terminal/settings/colour_scheme.h"
 #include "terminal/settings/store_kind.h"
@@ -58,6 +59,8 @@ public:
     // Whether the line for who has never been here is shown.
     bool showsFirstSteps() const;
     void setShowsFirstSteps(bool shown);
+    // How much news the store keeps: "keepDays" and "keepMegabytes" of the file; 0, as at first: all of it.
+    Retention retention() const;
     // The main frame's place, as QWidget::saveGeometry gives it.
     QByteArray frameGeometry() const;
     void setFrameGeometry(const QByteArray& geometry);

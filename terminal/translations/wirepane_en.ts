@@ -759,6 +759,10 @@
         <source></source>
         <translation>The file %1 cannot be written: %2.</translation>
     </message>
+    <message id="ERROR_STORE_BEYOND_RETENTION">
+        <source></source>
+        <translation>It is older than the news that this store keeps: since %1.</translation>
+    </message>
     <message id="ERROR_STORE_CATEGORY">
         <source></source>
         <translation>category</translation>

@@ -759,6 +759,10 @@
         <source></source>
         <translation>无法写入文件 %1：%2。</translation>
     </message>
+    <message id="ERROR_STORE_BEYOND_RETENTION">
+        <source></source>
+        <translation>它早于本数据库所保留的新闻：自 %1 起。</translation>
+    </message>
     <message id="ERROR_STORE_CATEGORY">
         <source></source>
         <translation>分类</translation>

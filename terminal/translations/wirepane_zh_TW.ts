@@ -759,6 +759,10 @@
         <source></source>
         <translation>無法寫入檔案 %1：%2。</translation>
     </message>
+    <message id="ERROR_STORE_BEYOND_RETENTION">
+        <source></source>
+        <translation>它早於本資料庫所保留的新聞：自 %1 起。</translation>
+    </message>
     <message id="ERROR_STORE_CATEGORY">
         <source></source>
         <translation>分類</translation>

@@ -30,7 +30,7 @@ const StoreOptions impatient{.busyTimeout = 20ms};
 constexpr const char* toFirstVersion =
     "PRAGMA user_version = 1; DROP VIEW headlines; DROP VIEW shown_symbols; DROP TABLE import_blocks; "
     "DROP TABLE held_links; DROP TABLE set_aside; ALTER TABLE all_headlines RENAME TO headlines; "
-    "DROP TABLE quotes; DROP TABLE search_rules; DROP TABLE arrivals; DROP TABLE "
+    "DROP TABLE retention; DROP TABLE quotes; DROP TABLE search_rules; DROP TABLE arrivals; DROP TABLE "
     "feed_positions; "
     "DROP TABLE news_search; CREATE VIRTUAL TABLE news_search USING fts5("
     "title, story, content='news_text', content_rowid='id', tokenize='unicode61');"
@@ -185,7 +185,7 @@ TEST_F(StoreFileTest, AFileThatIsNoUsableStoreIsNamedAndLeftAlone) {
     const Case cases[] = {
         {"a single byte", "x", u"is not a news store"_s},
         {"a text", QByteArray("This is a letter, not a store. ").repeated(200), u"is not a news store"_s},
-        {"a newer store", patched(60, QByteArray("\0\0\0\7", 4)), u"newer version"_s},
+        {"a newer store", patched(60, QByteArray("\0\0\0\x7f", 4)), u"newer version"_s},
         {"another program's database", patched(68, "ABCD"), u"but not a news store"_s},
         {"one that says nothing of itself", patched(60, QByteArray(12, '\0')), u"but not a news store"_s},
         {"a store cut in the middle", good.first(good.size() / 2), u"is damaged"_s},
