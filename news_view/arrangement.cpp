@@ -4,6 +4,7 @@
 
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
+#include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/news_control_ids.h"
@@ -20,6 +21,14 @@
 #include <utility>
 
 namespace wirepane {
+
+namespace {
+
+// What a text needs beside it in its control: margins, and the arrow or the icon.
+constexpr int besideText = 36;
+constexpr int widestCategory = 240;
+
+}  // namespace
 
 Arrangement::Arrangement(ViewContext& context, const CommonParts& commonParts, StoryStage& storyStage,
                          Calls ofTheView)
@@ -58,6 +67,18 @@ bool Arrangement::isAligned() const {
     return parts.settings.options[ViewOption::AlignControls];
 }
 
+int Arrangement::widthOfDate() const {
+    const auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker);
+    return picker != nullptr
+               ? picker->fontMetrics().horizontalAdvance(QStringLiteral("0000/00/00")) + besideText
+               : 0;
+}
+
+int Arrangement::widthOfCategories() const {
+    const auto* combo = parts.controls.find<SCComboBox>(ids::categoryCombo);
+    return combo != nullptr ? std::min(combo->widestItem() + besideText, widestCategory) : 0;
+}
+
 ButtonNeeds Arrangement::needs() const {
     const auto of = [this](int id) { return parts.controls.neededWidth(id); };
     return {of(ids::serviceButton),
@@ -65,7 +86,9 @@ ButtonNeeds Arrangement::needs() const {
             of(ids::searchButton),
             of(ids::dealsSearchButton),
             of(ids::showTypeButton),
-            {of(ids::pageDownButton), of(ids::pageUpButton), of(ids::saveAsButton), of(ids::printButton)}};
+            {of(ids::pageDownButton), of(ids::pageUpButton), of(ids::saveAsButton), of(ids::printButton)},
+            widthOfDate(),
+            widthOfCategories()};
 }
 
 ViewLayout Arrangement::layout() const {

@@ -46,6 +46,8 @@ private:
     void placeHandles(const ViewLayout& places);
     LayoutInput input() const;
     bool isAligned() const;
+    int widthOfDate() const;
+    int widthOfCategories() const;
     ButtonNeeds needs() const;
 
     ViewContext& view;

@@ -55,8 +55,8 @@ int layOutControls(const LayoutInput& in, const Frame& frame, int top, int botto
     };
     out.serviceButton = single ? QRect(x0, top, 0, bottom - top) : between(x0, top, a, bottom);
     out.relationButton = place(a + (in.aligned ? 4 : 2), std::max(unit, in.needs.relation));
-    out.datePicker = place(a + 4, dateWidth);
-    out.categoryCombo = place(a + 4, dateWidth + 20);
+    out.datePicker = place(a + 4, std::max(dateWidth, in.needs.date));
+    out.categoryCombo = place(a + 4, std::max(dateWidth + 20, in.needs.category));
     out.serviceCombo = place(a + 4, in.serviceComboText + in.captionButtonWidth);
     const int symbolLeft = out.serviceCombo.x() + out.serviceCombo.width() + 4;
     out.symbolCombo = place(symbolLeft, in.symbolComboText + 25);

@@ -19,6 +19,8 @@ struct ButtonNeeds {
     int deals = 0;
     int showType = 0;
     std::array<int, 4> output{};  // page down, page up, save as, print
+    int date = 0;                 // of the date picker
+    int category = 0;             // of the category combo
 };
 
 // All that the layout of a news view depends on. Pixels of the view's client area.
