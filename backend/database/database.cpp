@@ -5,6 +5,7 @@
 #include "backend/database/database_errors.h"
 #include "backend/database/database_failure.h"
 #include "backend/database/statement.h"
+#include "backend/database/turn_bell.h"
 #include "backend/words/search_tokenizer.h"
 
 #include <QDir>
@@ -195,6 +196,7 @@ int Database::waitForOthers(void* self, int tries) {
         database->waitingSince = now;
     if (now - database->waitingSince >= database->patience)
         return 0;
+    ringForTurn(database->filePath);
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
     return 1;
 }

@@ -4,6 +4,7 @@
 
 #include "backend/worker_thread.h"
 
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
@@ -20,6 +21,7 @@ namespace {
 constexpr qsizetype weightOfRest = 512;
 constexpr qsizetype heldTogether = qsizetype(64) << 10;
 constexpr qsizetype mostWaiting = qsizetype(1) << 20;
+constexpr std::chrono::milliseconds beforePause{20};
 
 struct Lot {
     std::vector<SourceItem> items;
@@ -50,11 +52,11 @@ public:
         changed.notify_all();
     }
 
-    // For who takes them: whether there are any, and waits for them; none when the reader has come to its
-    // end.
-    bool hasAny() {
-        const std::lock_guard lock(mutex);
-        return hasEnded || !lots.empty();
+    // For who takes them: whether there are any before long, and waits for them; none when the reader has
+    // come to its end.
+    bool hasAnySoon() {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, beforePause, [this] { return hasEnded || !lots.empty(); });
     }
     std::vector<SourceItem> pop() {
         std::unique_lock lock(mutex);
@@ -111,7 +113,7 @@ Done readAhead(const Reader& read, const ItemVisitor& visit, const std::function
     WorkerThread thread;
     thread.post([&] { done = readInto(waiting, read); });
     const auto next = [&] {
-        if (pause && !waiting.hasAny())
+        if (pause && !waiting.hasAnySoon())
             pause();
         return waiting.pop();
     };

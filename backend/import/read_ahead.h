@@ -15,7 +15,7 @@ using Reader = std::function<Done(const ItemVisitor&)>;
 // called on the thread that calls this, in the order of the source. A reader that is faster waits: the
 // largest items and a million characters of others are in memory. Returns once the reader has, with what it
 // said; it is stopped as soon as `visit` has answered false and it hands over the next items. `pause` is
-// called before the next item is waited for.
+// called before the next item is waited for any longer than a moment.
 Done readAhead(const Reader& read, const ItemVisitor& visit, const std::function<void()>& pause = {});
 
 }  // namespace wirepane

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/import_lock.h"
 
-#include <QFile>
+#include "backend/database/turn_bell.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -23,7 +23,7 @@ bool isStillThere(int file, const QByteArray& path) {
 
 }  // namespace
 
-ImportLock::ImportLock(const QString& storePath) : path(QFile::encodeName(storePath) + "-import") {}
+ImportLock::ImportLock(const QString& storePath) : path(turnFileOf(storePath)) {}
 
 ImportLock::Taken ImportLock::take() {
     if (isHeld())

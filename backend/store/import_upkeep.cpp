@@ -4,8 +4,6 @@
 
 #include "backend/database/transaction.h"
 
-#include <QElapsedTimer>
-
 #include <algorithm>
 #include <vector>
 
@@ -13,8 +11,6 @@ namespace wirepane {
 
 namespace {
 
-// Writing what was gathered takes as long again.
-constexpr qint64 gatherMs = 25;
 constexpr int readAtOnce = 32;  // headlines
 constexpr std::int64_t clearAtOnce = 300;
 
@@ -37,7 +33,7 @@ ImportUpkeep::ImportUpkeep(Database& owner)
       deleteRelated(owner, "DELETE FROM related_symbols WHERE headline BETWEEN ? AND ?"),
       deleteHeadlines(owner, "DELETE FROM all_headlines WHERE id BETWEEN ? AND ?") {}
 
-Result<bool> ImportUpkeep::indexSome() {
+Result<bool> ImportUpkeep::indexSome(const IsEnough& isEnough) {
     Transaction transaction(database);
     if (!transaction.hasBegun() || !blocks.load())
         return database.failure();
@@ -46,16 +42,15 @@ Result<bool> ImportUpkeep::indexSome() {
     if (shown == blocks.all().end())
         return false;
     std::int64_t indexed = 0;
-    if (!index(*shown, indexed) || !blocks.advance(shown->first, indexed) || !transaction.commit())
+    if (!index(*shown, isEnough, indexed) || !blocks.advance(shown->first, indexed) || !transaction.commit())
         return database.failure();
     return true;
 }
 
 // What is read is not read while it is written: that would make the index write row by row.
-bool ImportUpkeep::index(const ImportBlock& block, std::int64_t& indexed) {
-    QElapsedTimer clock;
-    clock.start();
-    for (indexed = block.first - 1; indexed < block.last && clock.elapsed() < gatherMs;) {
+bool ImportUpkeep::index(const ImportBlock& block, const IsEnough& isEnough, std::int64_t& indexed) {
+    indexed = block.first - 1;
+    for (bool isDone = false; indexed < block.last && !isDone;) {
         std::vector<Searched> texts;
         {
             Query query(readTexts, indexed + 1, block.last, readAtOnce);
@@ -65,10 +60,14 @@ bool ImportUpkeep::index(const ImportBlock& block, std::int64_t& indexed) {
             if (query.failed())
                 return false;
         }
-        indexed = texts.empty() ? block.last : texts.back().id;
-        for (const Searched& text : texts) {
-            if (!Query(insertSearched, text.id, QByteArrayView(text.title), QByteArrayView(text.story)).run())
+        if (texts.empty())
+            indexed = block.last;
+        for (auto text = texts.begin(); text != texts.end() && !isDone; ++text) {
+            if (!Query(insertSearched, text->id, QByteArrayView(text->title), QByteArrayView(text->story))
+                     .run())
                 return false;
+            indexed = text->id;
+            isDone = isEnough();
         }
     }
     return true;

@@ -7,6 +7,7 @@
 #include "backend/store/import_blocks.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace wirepane {
@@ -18,13 +19,15 @@ class ImportUpkeep {
 public:
     explicit ImportUpkeep(Database& database);
 
-    // Each does one piece; true: more is left. Whoever clears holds the ImportLock.
+    // Each does one piece; true: more is left. Whoever clears holds the ImportLock. `isEnough` is asked after
+    // each headline; what was gathered until then has yet to be written.
+    using IsEnough = std::function<bool()>;
     Result<bool> clearSome();
-    Result<bool> indexSome();
+    Result<bool> indexSome(const IsEnough& isEnough);
 
 private:
-    // Of the block, up to its end or until it has taken long enough; `indexed` is the last id that was.
-    bool index(const ImportBlock& block, std::int64_t& indexed);
+    // Of the block, up to its end or until it is enough; `indexed` is the last id that was.
+    bool index(const ImportBlock& block, const IsEnough& isEnough, std::int64_t& indexed);
     bool clear(std::int64_t from, std::int64_t last);
 
     Database& database;

@@ -5,15 +5,22 @@
 #include "backend/clean_text.h"
 #include "backend/store/store_errors.h"
 
+#include <QFile>
+
 #include <sqlite3.h>
 #include <thread>
+#include <unistd.h>
 
 namespace wirepane {
 
 namespace {
 
-constexpr int batchesBetweenCheckpoints = 25;
+constexpr std::chrono::seconds betweenCheckpoints{5};
 constexpr std::chrono::milliseconds betweenLooks{100};  // for another import to end
+
+std::chrono::milliseconds since(const QElapsedTimer& clock) {
+    return std::chrono::milliseconds(clock.elapsed());
+}
 
 }  // namespace
 
@@ -25,6 +32,7 @@ StagedImport::StagedImport(Database& owner, Pace asked)
       writer(owner),
       upkeep(owner),
       lock(owner.path()),
+      bell(owner.path()),
       later(owner.path()),
       readAside(owner,
                 "SELECT id, service, set_aside.identity, version, time, title, category, text, text IS NULL "
@@ -84,6 +92,7 @@ Done StagedImport::clearHidden() {
 }
 
 // What is hidden need not outlast the machine: the transaction that shows it brings all of it to the disk.
+// Its pages are written many times over: the fewer checkpoints, the fewer of them go into the file in vain.
 void StagedImport::setLasting(bool on) {
     database.execute(on ? "PRAGMA synchronous = FULL; PRAGMA wal_autocheckpoint = 1000"
                         : "PRAGMA synchronous = NORMAL; PRAGMA wal_autocheckpoint = 0");
@@ -109,7 +118,7 @@ Result<TakeOutcome> StagedImport::stage(const NewsItem& item) {
     const std::size_t identity = qHashMulti(0, item.service, cleanTitle(item.identity));
     if (identitiesPutOff.contains(identity))
         return putOff(item);
-    if (isBatchOpen && elapsed() >= pace.batch) {
+    if (isBatchOpen && isEnough(pace.batch)) {
         if (Done closed = closeBatch(); !closed)
             return closed.error();
     }
@@ -133,27 +142,47 @@ Result<TakeOutcome> StagedImport::putOff(const StoreItem& item) {
 Done StagedImport::openBatch() {
     Done begun = writer.beginHidden();
     isBatchOpen = bool(begun);
-    sinceOpened.start();
+    startBatch();
     return begun;
 }
 
-std::chrono::milliseconds StagedImport::elapsed() const {
-    return std::chrono::milliseconds(sinceOpened.elapsed());
+void StagedImport::startBatch() {
+    sinceOpened.start();
+    bell.listen();
+}
+
+bool StagedImport::isWorthwhile() const {
+    return since(sinceOpened) >= pace.leastBatch;
+}
+
+bool StagedImport::isEnough(std::chrono::milliseconds most) {
+    return since(sinceOpened) >= most || (isWorthwhile() && hasRung());
+}
+
+bool StagedImport::hasRung() {
+    const bool rung = bell.hasRung();
+    if (rung)
+        sinceRung.start();
+    return rung;
+}
+
+std::chrono::milliseconds StagedImport::mostOfIndex() const {
+    const bool isBesideOthers = sinceRung.isValid() && since(sinceRung) < pace.lately;
+    return isBesideOthers ? pace.indexBatchBesideOthers : pace.indexBatch;
 }
 
 Done StagedImport::closeBatch() {
     isBatchOpen = false;
     if (Done kept = writer.commit(); !kept)
         return kept;
-    if (++batches >= batchesBetweenCheckpoints)
-        checkpoint();
+    checkpointAtTimes();
     letOthersWrite();
     return Nothing{};
 }
 
 void StagedImport::pause() {
     // What fails here fails again with the next item.
-    if (isBatchOpen && elapsed() >= pace.leastBatch)
+    if (isBatchOpen && isWorthwhile())
         (void)closeBatch();
 }
 
@@ -161,9 +190,23 @@ void StagedImport::letOthersWrite() {
     std::this_thread::sleep_for(pace.pause);
 }
 
+// Where it fails, the commit that follows says so.
+void StagedImport::flushLog() {
+    QFile log(database.path() + QStringLiteral("-wal"));
+    if (log.open(QIODevice::ReadOnly))
+        (void)fdatasync(log.handle());
+}
+
+void StagedImport::checkpointAtTimes() {
+    if (!sinceCheckpoint.isValid())
+        sinceCheckpoint.start();
+    if (since(sinceCheckpoint) >= betweenCheckpoints)
+        checkpoint();
+}
+
 // Keeps no writer waiting, and carries over no more than readers let it.
 void StagedImport::checkpoint() {
-    batches = 0;
+    sinceCheckpoint.start();
     sqlite3_wal_checkpoint_v2(database.handle(), "main", SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
 }
 
@@ -181,8 +224,8 @@ Done StagedImport::commit() {
             return closed;
     }
     // So that little is left to be brought to the disk while others wait.
-    checkpoint();
-    setLasting(true);
+    flushLog();
+    database.execute("PRAGMA synchronous = FULL");
     Done shown = writer.begin();
     if (shown)
         shown = showAll();
@@ -251,9 +294,9 @@ void StagedImport::takeBack() {
     if (state == State::Beginning || state == State::Staging) {
         // What cannot be cleared now the next one clears.
         (void)clearHidden();
-        setLasting(true);
         lock.release();
     }
+    setLasting(true);
     later.clear();
     late = {};
     state = State::Idle;
@@ -263,9 +306,15 @@ Result<bool> StagedImport::indexSome() {
     if (!needsUpkeep(database) || lock.take() != ImportLock::Taken::Yes)
         return false;
     setLasting(false);
-    const Result<bool> isMore = upkeep.indexSome();
-    if (++batches >= batchesBetweenCheckpoints)
-        checkpoint();
+    // What is waited for before the first headline does not count.
+    bool isStarted = false;
+    const Result<bool> isMore = upkeep.indexSome([this, &isStarted, most = mostOfIndex()] {
+        if (!std::exchange(isStarted, true))
+            startBatch();
+        return isEnough(most);
+    });
+    hasRung();
+    checkpointAtTimes();
     letOthersWrite();
     if (!isMore || !isMore.value()) {
         setLasting(true);

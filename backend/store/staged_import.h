@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/database/turn_bell.h"
 #include "backend/store/import_lock.h"
 #include "backend/store/import_upkeep.h"
 #include "backend/store/item_spool.h"
@@ -19,10 +20,10 @@ namespace wirepane {
 
 // Takes files into a store beside whoever else writes to it.
 //
-// Few items (begin) go in as with a StoreWriter, in one transaction. Many (beginMany) go in by short ones,
-// with pauses between them in which others have their turn, and stay hidden until commit() shows them all at
-// once; what is killed or taken back before that leaves nothing that readers see, and the next one clears it
-// away. They enter the search index afterwards (indexSome).
+// Few items (begin) go in as with a StoreWriter, in one transaction. Many (beginMany) go in by several, each
+// of which ends early once another program waits for its turn, and stay hidden until commit() shows them all
+// at once; what is killed or taken back before that leaves nothing that readers see, and the next one clears
+// it away. They enter the search index afterwards (indexSome).
 //
 // News that others bring meanwhile stands before the file: where it is the same piece of news as a hidden
 // one, the hidden one is set aside. What would change news that is there, and all that follows an item that
@@ -33,10 +34,15 @@ namespace wirepane {
 // outlive this and is used by nothing else between beginMany() and commit() or rollback().
 class StagedImport : public ItemSink {
 public:
-    // How long others wait at most, and how long they have to notice that they need not: who waits looks
-    // every millisecond. A batch that is shorter than the least is not worth a transaction.
+    // How long a transaction gathers while nobody waits, how long even if somebody does (a shorter one is
+    // not worth it), and how long others have to notice that it is over: who waits looks every millisecond.
+    // Words for the index take as long to write as to gather, and nobody can end that early: so there is less
+    // of them in one, and much less where others have waited lately.
     struct Pace {
-        std::chrono::milliseconds batch{40};
+        std::chrono::milliseconds batch{1000};
+        std::chrono::milliseconds indexBatch{200};
+        std::chrono::milliseconds indexBatchBesideOthers{25};
+        std::chrono::milliseconds lately{10'000};
         std::chrono::milliseconds leastBatch{10};
         std::chrono::milliseconds pause{3};
     };
@@ -73,10 +79,16 @@ private:
     // Transactions of hidden news.
     Done openBatch();
     Done closeBatch();
-    std::chrono::milliseconds elapsed() const;
+    void startBatch();
+    bool isWorthwhile() const;
+    bool isEnough(std::chrono::milliseconds most);
+    bool hasRung();
+    std::chrono::milliseconds mostOfIndex() const;
     Result<TakeOutcome> stage(const NewsItem& item);
     Result<TakeOutcome> putOff(const StoreItem& item);
     void letOthersWrite();
+    void flushLog();
+    void checkpointAtTimes();
     void checkpoint();
     // Within the last transaction.
     Done takeAside(std::vector<NewsItem>& items);
@@ -87,6 +99,7 @@ private:
     StoreWriter writer;
     ImportUpkeep upkeep;
     ImportLock lock;
+    TurnBell bell;
     ItemSpool later;
     Statement readAside;
     Statement readAsideSymbols;
@@ -96,8 +109,9 @@ private:
     bool isBatchOpen = false;
     bool putsAllOff = false;
     QSet<std::size_t> identitiesPutOff;  // their hashes
-    int batches = 0;                     // since the last checkpoint
     QElapsedTimer sinceOpened;
+    QElapsedTimer sinceCheckpoint;
+    QElapsedTimer sinceRung;
     LateOutcomes late;
 };
 

@@ -4,6 +4,7 @@
 
 #include "backend/database/store_sync.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 
 #include <sqlite3.h>
@@ -20,6 +21,8 @@ constexpr std::chrono::milliseconds patience{250};
 constexpr qint64 longLog = 16 << 20;  // bytes
 constexpr std::chrono::milliseconds betweenPieces{20};
 constexpr std::chrono::milliseconds importsLookedAfter{1000};
+// Of words for the index; writing what was gathered takes as long again.
+constexpr qint64 gatherMs = 25;
 
 }  // namespace
 
@@ -91,7 +94,9 @@ bool StoreIntake::doPieceOfUpkeep() {
     const Result<bool> cleared = upkeep->clearSome();
     if (!cleared || cleared.value())
         return bool(cleared);
-    const Result<bool> indexed = upkeep->indexSome();
+    QElapsedTimer clock;
+    clock.start();
+    const Result<bool> indexed = upkeep->indexSome([&clock] { return clock.elapsed() >= gatherMs; });
     return indexed && indexed.value();
 }
 
