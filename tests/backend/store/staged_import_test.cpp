@@ -10,8 +10,10 @@
 #include <QFile>
 
 #include <algorithm>
+#include <atomic>
 #include <map>
 #include <random>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -200,6 +202,21 @@ TEST_F(StagedImportTest, OneImportAtATimeTakesMuch) {
     ASSERT_FALSE(refused);
     second.rollback();
     EXPECT_TRUE(first.beginMany());
+}
+
+TEST_F(StagedImportTest, WhoWaitsForATurnGetsIt) {
+    StagedImport staged(*importing, {.batch = 1h, .leastBatch = 0ms});
+    ASSERT_TRUE(staged.beginMany());
+    ASSERT_TRUE(staged.take(randomItem()));
+    std::atomic<bool> isOver = false;
+    std::thread live([this, &isOver] {
+        EXPECT_TRUE(writer->begin());
+        writer->rollback();
+        isOver = true;
+    });
+    while (!isOver)
+        EXPECT_TRUE(staged.take(randomItem()));
+    live.join();
 }
 
 // Searches find it by and by.
