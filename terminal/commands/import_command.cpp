@@ -87,25 +87,17 @@ int reportEnd(const ImportReport& report, const Wording& worded) {
     return importExitStatus(report);
 }
 
-}  // namespace
-
-int runImport() {
-    CommandArguments arguments(
-        u"import"_s,
-        u"Takes news into the store: %1, and with a mapping any table of news. Each file "
-        "is taken in as a whole."_s.arg(formatsForHelp()));
-    arguments.parser.addPositionalArgument(u"file"_s, u"A file to take in."_s, u"file..."_s);
-    arguments.parser.addOption(
+void addOptions(QCommandLineParser& parser, QCommandLineOption& asValues) {
+    parser.addPositionalArgument(u"file"_s, u"A file to take in."_s, u"file..."_s);
+    parser.addOption(
         {u"service"_s, u"The id of the news service that the news belongs to. Default: 1."_s, u"id"_s});
-    arguments.parser.addOption(
+    parser.addOption(
         {u"mapping"_s, u"Reads the files as tables of news, as this file describes them."_s, u"file"_s});
-    // For the terminal, which has its own words for it.
-    QCommandLineOption asValues(u"values"_s);
     asValues.setFlags(QCommandLineOption::HiddenFromHelp);
-    arguments.parser.addOption(asValues);
-    if (const auto status = arguments.read())
-        return *status;
-    const Wording worded = arguments.parser.isSet(asValues) ? valueLine : sentence;
+    parser.addOption(asValues);
+}
+
+ReadOptions readOptions(CommandArguments& arguments) {
     ReadOptions options;
     options.service = static_cast<unsigned char>(arguments.number(u"service"_s, 1, 1, lastService));
     if (arguments.parser.isSet(u"mapping"_s)) {
@@ -115,6 +107,23 @@ int runImport() {
         else
             arguments.fail(sentence(mapping.error()));
     }
+    return options;
+}
+
+}  // namespace
+
+int runImport() {
+    CommandArguments arguments(
+        u"import"_s,
+        u"Takes news into the store: %1, and with a mapping any table of news. Each file "
+        "is taken in as a whole."_s.arg(formatsForHelp()));
+    // For the terminal, which has its own words for it.
+    QCommandLineOption asValues(u"values"_s);
+    addOptions(arguments.parser, asValues);
+    if (const auto status = arguments.read())
+        return *status;
+    const Wording worded = arguments.parser.isSet(asValues) ? valueLine : sentence;
+    const ReadOptions options = readOptions(arguments);
     arguments.applyNow();
     if (arguments.rest().isEmpty())
         arguments.fail(u"import needs a file."_s);

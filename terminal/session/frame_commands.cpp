@@ -25,6 +25,8 @@
 #include <QPushButton>
 #include <QShortcut>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -37,6 +39,28 @@ void pressShortcut(QWidget& view, QLatin1StringView key) {
     for (QShortcut* shortcut : shortcuts) {
         if (shortcut->key() == QKeySequence(QString(key)))
             emit shortcut->activated();
+    }
+}
+
+// What the view itself carries out.
+std::optional<int> commandOfView(FrameCommand command) {
+    switch (command) {
+        case FrameCommand::Print:
+            return ids::printNews;
+        case FrameCommand::SaveAs:
+            return ids::saveNews;
+        case FrameCommand::NewsServices:
+            return ids::serviceButton;
+        case FrameCommand::NewsNextPage:
+            return ids::pageDownButton;
+        case FrameCommand::NewsPreviousPage:
+            return ids::pageUpButton;
+        case FrameCommand::NewsLayout:
+            return ids::showTypeButton;
+        case FrameCommand::NewsOpenInWindow:
+            return ids::showStory;
+        default:
+            return std::nullopt;
     }
 }
 
@@ -138,6 +162,10 @@ void FrameCommands::carryOutOnView(FrameCommand command) {
     const OpenView* view = workspace.active();
     if (view == nullptr || view->dock == nullptr)
         return;
+    if (const auto ofView = commandOfView(command)) {
+        view->view->onCommand(*ofView);
+        return;
+    }
     switch (command) {
         case FrameCommand::DuplicateView: {
             const auto opened = session.keeper().openLike(*view);
@@ -153,35 +181,14 @@ void FrameCommands::carryOutOnView(FrameCommand command) {
         case FrameCommand::FloatView:
             view->dock->setFloating(!view->dock->isFloating());
             break;
-        case FrameCommand::Print:
-            view->view->onCommand(ids::printNews);
-            break;
         case FrameCommand::PrintPreview:
             view->access->previewSelection();
-            break;
-        case FrameCommand::SaveAs:
-            view->view->onCommand(ids::saveNews);
             break;
         case FrameCommand::NewsSearch:
             pressShortcut(*view->view, "Ctrl+F"_L1);
             break;
-        case FrameCommand::NewsServices:
-            view->view->onCommand(ids::serviceButton);
-            break;
         case FrameCommand::NewsDate:
             pressShortcut(*view->view, "F8"_L1);
-            break;
-        case FrameCommand::NewsNextPage:
-            view->view->onCommand(ids::pageDownButton);
-            break;
-        case FrameCommand::NewsPreviousPage:
-            view->view->onCommand(ids::pageUpButton);
-            break;
-        case FrameCommand::NewsLayout:
-            view->view->onCommand(ids::showTypeButton);
-            break;
-        case FrameCommand::NewsOpenInWindow:
-            view->view->onCommand(ids::showStory);
             break;
         case FrameCommand::NextView:
             workspace.activateNext(1);

@@ -109,6 +109,17 @@ Option recoloured(const Option& option, QPalette::ColorRole part, const QColor& 
     return changed;
 }
 
+bool isLeftOut(QStyle::PrimitiveElement element) {
+    return element == QStyle::PE_FrameFocusRect || element == QStyle::PE_FrameStatusBarItem ||
+           element == QStyle::PE_PanelMenuBar;
+}
+
+void drawGroupFrame(const QStyleOption& option, QPainter& painter) {
+    painter.setPen(option.palette.color(QPalette::Mid));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+}
+
 }  // namespace
 
 TerminalStyle::TerminalStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {
@@ -204,9 +215,7 @@ void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             break;
         case PE_FrameTabWidget:
         case PE_FrameGroupBox:
-            painter->setPen(option->palette.color(QPalette::Mid));
-            painter->setBrush(Qt::NoBrush);
-            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            drawGroupFrame(*option, *painter);
             break;
         case PE_Frame:
             drawListFrame(*option, *painter, isInView(widget));
@@ -225,12 +234,9 @@ void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             painter->setPen(option->palette.color(QPalette::Mid));
             painter->drawLine(option->rect.topLeft(), option->rect.topRight());
             break;
-        case PE_FrameFocusRect:
-        case PE_FrameStatusBarItem:
-        case PE_PanelMenuBar:
-            break;
         default:
-            QProxyStyle::drawPrimitive(element, option, painter, widget);
+            if (!isLeftOut(element))
+                QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 }
 
