@@ -70,10 +70,6 @@ private:
     Clock::time_point partFrom = from;
 };
 
-constexpr const char* nextWithRows =
-    "SELECT min(id) FROM (SELECT min(id) AS id FROM all_headlines WHERE id >= ?1 UNION ALL "
-    "SELECT min(headline) FROM stories WHERE headline >= ?1 UNION ALL "
-    "SELECT min(headline) FROM related_symbols WHERE headline >= ?1)";
 constexpr const char* extent =
     "SELECT min(id), max(id), (SELECT coalesce(max(position), 0) FROM arrivals) FROM ("
     "SELECT min(id) AS id FROM all_headlines UNION ALL SELECT max(id) FROM all_headlines UNION ALL "
@@ -83,7 +79,7 @@ constexpr const char* extent =
 class Check {
 public:
     Check(Database& database, const CheckProgress& progress)
-        : store(database), rules(database), pace(progress), nextId(database, nextWithRows) {}
+        : store(database), rules(database), pace(progress) {}
 
     Result<QStringList> run();
 
@@ -106,7 +102,6 @@ private:
     Database& store;
     StoreRules rules;
     Pace pace;
-    Statement nextId;
     // When the check began: the ids of news, those not indexed yet, the last arrival.
     std::int64_t firstId = 0;
     std::int64_t endId = 0;
@@ -134,10 +129,10 @@ bool Check::readExtent() {
 }
 
 std::optional<std::pair<std::int64_t, std::int64_t>> Check::pageFrom(std::int64_t id, std::int64_t ids) {
-    Query query(nextId, id);
-    if (!query.next() || query.isNull(0) || query.number(0) >= endId)
+    const std::optional<std::int64_t> found = rules.idFrom(id);
+    if (!found || *found >= endId)
         return std::nullopt;
-    const std::int64_t first = query.number(0);
+    const std::int64_t first = *found;
     return std::pair(first, first < endId - ids ? first + ids : endId);
 }
 

@@ -19,6 +19,10 @@ inline constexpr ErrorCode olderVersion{
     "ERROR_STORE_OLDER_VERSION",
     u"%1 is of version %2; the program brings it up to version %3 when it opens it."};
 
+inline constexpr ErrorCode faultFound{
+    "ERROR_STORE_FAULT_FOUND",
+    u"A check in the background has found a fault in the store %1; \"wirepane check\" says which."};
+
 // Of transactions.
 inline constexpr ErrorCode nothingToKeep{"ERROR_STORE_NOTHING_TO_KEEP",
                                          u"Nothing was begun that could be kept."};

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/store_rules.h"
 
-#include "backend/database/statement.h"
-
 #include <algorithm>
 #include <array>
 
@@ -76,6 +74,29 @@ constexpr std::array newsRules{
          u"The stories of these headlines are no text, or too long: %1."},
 };
 
+constexpr Rule indexRule{
+    "SELECT service || '/' || identity FROM all_headlines AS news WHERE id >= ?1 AND id < ?2 AND NOT ("
+    "EXISTS(SELECT 1 FROM all_headlines INDEXED BY headlines_by_identity WHERE service = news.service AND "
+    "identity = news.identity AND id = news.id) AND "
+    "EXISTS(SELECT 1 FROM all_headlines INDEXED BY headlines_by_time WHERE service = news.service AND "
+    "time = news.time AND sequence = news.sequence AND id = news.id) AND "
+    "EXISTS(SELECT 1 FROM all_headlines INDEXED BY headlines_by_number WHERE service = news.service AND "
+    "day = news.day AND sequence = news.sequence AND id = news.id))",
+    u"These headlines are missing in an index: %1."};
+
+constexpr const char* nextWithRows =
+    "SELECT min(id) FROM (SELECT min(id) AS id FROM all_headlines WHERE id >= ?1 UNION ALL "
+    "SELECT min(headline) FROM stories WHERE headline >= ?1 UNION ALL "
+    "SELECT min(headline) FROM related_symbols WHERE headline >= ?1)";
+
+// In the order of their numbers.
+const Rule& ruleAt(std::size_t number) {
+    if (number < tableRules.size())
+        return tableRules[number];
+    number -= tableRules.size();
+    return number < newsRules.size() ? newsRules[number] : indexRule;
+}
+
 }  // namespace
 
 QString namingSome(QStringView sentence, QStringList offenders) {
@@ -85,7 +106,7 @@ QString namingSome(QStringView sentence, QStringList offenders) {
 }
 
 StoreRules::StoreRules(Database& database)
-    : store(database), offenders(tableRules.size() + newsRules.size()) {}
+    : store(database), offenders(tableRules.size() + newsRules.size() + 1), nextId(database, nextWithRows) {}
 
 template <class... Values>
 void StoreRules::look(std::size_t rule, const char* sql, const Values&... values) {
@@ -101,7 +122,7 @@ void StoreRules::look(std::size_t rule, const char* sql, const Values&... values
 
 void StoreRules::checkTables() {
     for (std::size_t i = 0; i < tableRules.size(); ++i)
-        look(i, tableRules[i].offenders);
+        look(i, ruleAt(i).offenders);
 }
 
 void StoreRules::checkPage(std::int64_t first, std::int64_t end) {
@@ -109,13 +130,20 @@ void StoreRules::checkPage(std::int64_t first, std::int64_t end) {
         look(tableRules.size() + i, newsRules[i].offenders, first, end);
 }
 
+void StoreRules::checkIndexes(std::int64_t first, std::int64_t end) {
+    look(tableRules.size() + newsRules.size(), indexRule.offenders, first, end);
+}
+
+std::optional<std::int64_t> StoreRules::idFrom(std::int64_t id) {
+    Query query(nextId, id);
+    return query.next() && !query.isNull(0) ? std::optional(query.number(0)) : std::nullopt;
+}
+
 QStringList StoreRules::faults() const {
     QStringList found = failures;
     for (std::size_t i = 0; i < offenders.size(); ++i) {
-        const QStringView sentence =
-            i < tableRules.size() ? tableRules[i].sentence : newsRules[i - tableRules.size()].sentence;
         if (!offenders[i].isEmpty())
-            found += namingSome(sentence, offenders[i]);
+            found += namingSome(ruleAt(i).sentence, offenders[i]);
     }
     return found;
 }

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "backend/database/database.h"
+#include "backend/database/statement.h"
 
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace wirepane {
@@ -22,6 +24,12 @@ public:
     // The rules of news with ids from `first` to before `end`.
     void checkPage(std::int64_t first, std::int64_t end);
 
+    // Whether the news of a page stands in the indexes. It takes a look-up for each, which a reading of the
+    // file's structure makes superfluous.
+    void checkIndexes(std::int64_t first, std::int64_t end);
+    // The first id from `id` on that has rows of news; nothing: none has.
+    std::optional<std::int64_t> idFrom(std::int64_t id);
+
     // A sentence for each rule that was found broken, naming the first rows that break it. What could not be
     // looked at is a fault, too.
     QStringList faults() const;
@@ -34,6 +42,7 @@ private:
     Database& store;
     std::vector<QStringList> offenders;  // by rule
     QStringList failures;
+    Statement nextId;
 };
 
 // A sentence that names offenders for its %1, a few of them.

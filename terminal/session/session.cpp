@@ -5,6 +5,7 @@
 #include "backend/feed/feed_name.h"
 #include "backend/feed/source_kinds.h"
 #include "backend/lines/socket_server.h"
+#include "backend/store/store_errors.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
@@ -111,6 +112,9 @@ Done Session::start(const SessionOptions& options) {
     status = std::make_unique<StatusReport>(*store, *liveFeed, *openViews);
     look->apply();
     retention = std::make_unique<RetentionKeeper>(*store, [this] { return terminalSettings->retention(); });
+    guard = std::make_unique<StoreGuard>(storeFile, [this] {
+        mainFrame->showNotice(shownText(makeError<store_errors::faultFound>(storeFile)));
+    });
     connectParts();
     for (const QString& sentence : {feedNotice, settingsFile.message()}) {
         if (!sentence.isEmpty())

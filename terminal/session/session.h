@@ -5,6 +5,7 @@
 #include "backend/feed/live_feed.h"
 #include "backend/result.h"
 #include "backend/store/embedded_back_end.h"
+#include "backend/store/store_guard.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/workspace.h"
 #include "terminal/session/appearance.h"
@@ -163,6 +164,7 @@ private:
     std::unique_ptr<CategoryWatch> categoryWatch;
     std::unique_ptr<StatusReport> status;
     std::unique_ptr<RetentionKeeper> retention;
+    std::unique_ptr<StoreGuard> guard;
     FollowedView followed;
     QTimer clock;                       // the status bar's
     std::set<unsigned char> toldAhead;  // services whose news is dated ahead

@@ -795,6 +795,10 @@
         <source></source>
         <translation>%1 is empty: there is no news store in it.</translation>
     </message>
+    <message id="ERROR_STORE_FAULT_FOUND">
+        <source></source>
+        <translation>A check in the background has found a fault in the store %1; "wirepane check" says which.</translation>
+    </message>
     <message id="ERROR_STORE_IDENTITY">
         <source></source>
         <translation>identity</translation>

@@ -795,6 +795,10 @@
         <source></source>
         <translation>%1 为空：其中没有新闻数据库。</translation>
     </message>
+    <message id="ERROR_STORE_FAULT_FOUND">
+        <source></source>
+        <translation>后台检查发现数据库 %1 有错误；请执行“wirepane check”查看。</translation>
+    </message>
     <message id="ERROR_STORE_IDENTITY">
         <source></source>
         <translation>标识</translation>

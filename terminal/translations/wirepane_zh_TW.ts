@@ -795,6 +795,10 @@
         <source></source>
         <translation>%1 是空的：其中沒有新聞資料庫。</translation>
     </message>
+    <message id="ERROR_STORE_FAULT_FOUND">
+        <source></source>
+        <translation>背景檢查發現資料庫 %1 有錯誤；請執行「wirepane check」查看。</translation>
+    </message>
     <message id="ERROR_STORE_IDENTITY">
         <source></source>
         <translation>識別碼</translation>

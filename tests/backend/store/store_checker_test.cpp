@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/store_checker.h"
 
+#include "backend/store/store_guard.h"
 #include "tests/backend/store/store_fixture.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QTest>
 
 #include <chrono>
 #include <sqlite3.h>
@@ -86,6 +88,20 @@ TEST_F(StoreCheckerTest, EachRuleThatIsBrokenIsNamedWithItsOffenders) {
             << one.breaks << ": " << checked.value().join(u" / "_s).toStdString();
         QFile::remove(copy);
     }
+}
+
+TEST_F(StoreCheckerTest, TheGuardTellsOnceOfWhatComesToBeWrong) {
+    int told = 0;
+    const GuardPace quick{std::chrono::milliseconds(1), std::chrono::milliseconds(1),
+                          std::chrono::milliseconds(5)};
+    StoreGuard guard(
+        store->path(), [&] { ++told; }, quick);
+    QTest::qWait(60);
+    EXPECT_EQ(told, 0);
+    ASSERT_TRUE(store->execute("DELETE FROM related_symbols WHERE position = 0 AND headline = 4"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told > 0; }));
+    QTest::qWait(30);
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(StoreCheckerTest, ItReadsAStoreThatIsBeingWrittenAndLeavesItAlone) {
