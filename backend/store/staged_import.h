@@ -40,7 +40,7 @@ public:
     // of them in one, and much less where others have waited lately.
     struct Pace {
         std::chrono::milliseconds batch{1000};
-        std::chrono::milliseconds indexBatch{400};
+        std::chrono::milliseconds indexBatch{200};
         std::chrono::milliseconds indexBatchBesideOthers{25};
         std::chrono::milliseconds lately{10'000};
         std::chrono::milliseconds leastBatch{10};
