@@ -123,9 +123,10 @@ bool Check::readExtent() {
     endId = query.isNull(1) ? firstId : std::min(query.number(1), mostId) + 1;
     lastArrival = query.number(2);
     std::optional<UnindexedIds> read = UnindexedIds::read(store);
-    if (read)
-        unindexed = *std::move(read);
-    return read.has_value();
+    if (!read)
+        return false;
+    unindexed = std::move(*read);
+    return true;
 }
 
 std::optional<std::pair<std::int64_t, std::int64_t>> Check::pageFrom(std::int64_t id, std::int64_t ids) {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QtGlobal>
+#include <QByteArray>
 
 #include <benchmark/benchmark.h>
 
