@@ -759,6 +759,22 @@
         <source></source>
         <translation>The file %1 cannot be written: %2.</translation>
     </message>
+    <message id="ERROR_SOURCES_NO_OPML">
+        <source></source>
+        <translation>This is no list of feeds: its root is &lt;%1&gt;.</translation>
+    </message>
+    <message id="ERROR_SOURCES_OPML_NOT_OPENED">
+        <source></source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message id="ERROR_SOURCES_OPML_TOO_LARGE">
+        <source></source>
+        <translation>A list of feeds may have %1 bytes; this one is larger.</translation>
+    </message>
+    <message id="ERROR_SOURCES_OPML_WITHOUT_FEEDS">
+        <source></source>
+        <translation>The list names no feed that could be read.</translation>
+    </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
         <translation>It is older than the news that this store keeps: since %1.</translation>

@@ -759,6 +759,22 @@
         <source></source>
         <translation>无法写入文件 %1：%2。</translation>
     </message>
+    <message id="ERROR_SOURCES_NO_OPML">
+        <source></source>
+        <translation>这不是来源清单：其根元素为 &lt;%1&gt;。</translation>
+    </message>
+    <message id="ERROR_SOURCES_OPML_NOT_OPENED">
+        <source></source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message id="ERROR_SOURCES_OPML_TOO_LARGE">
+        <source></source>
+        <translation>来源清单最多 %1 字节，这一份更大。</translation>
+    </message>
+    <message id="ERROR_SOURCES_OPML_WITHOUT_FEEDS">
+        <source></source>
+        <translation>清单中没有可读取的来源。</translation>
+    </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
         <translation>它早于本数据库所保留的新闻：自 %1 起。</translation>

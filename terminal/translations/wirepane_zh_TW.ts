@@ -759,6 +759,22 @@
         <source></source>
         <translation>無法寫入檔案 %1：%2。</translation>
     </message>
+    <message id="ERROR_SOURCES_NO_OPML">
+        <source></source>
+        <translation>這不是來源清單：其根元素為 &lt;%1&gt;。</translation>
+    </message>
+    <message id="ERROR_SOURCES_OPML_NOT_OPENED">
+        <source></source>
+        <translation>無法讀取 %1：%2</translation>
+    </message>
+    <message id="ERROR_SOURCES_OPML_TOO_LARGE">
+        <source></source>
+        <translation>來源清單最多 %1 位元組，這一份更大。</translation>
+    </message>
+    <message id="ERROR_SOURCES_OPML_WITHOUT_FEEDS">
+        <source></source>
+        <translation>清單中沒有可讀取的來源。</translation>
+    </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
         <translation>它早於本資料庫所保留的新聞：自 %1 起。</translation>
