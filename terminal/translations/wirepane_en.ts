@@ -759,6 +759,14 @@
         <source></source>
         <translation>The file %1 cannot be written: %2.</translation>
     </message>
+    <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
+        <source></source>
+        <translation>The keychain failed: %1</translation>
+    </message>
+    <message id="ERROR_SOURCES_KEYCHAIN_SILENT">
+        <source></source>
+        <translation>The keychain does not answer.</translation>
+    </message>
     <message id="ERROR_SOURCES_NO_OPML">
         <source></source>
         <translation>This is no list of feeds: its root is &lt;%1&gt;.</translation>
@@ -774,6 +782,26 @@
     <message id="ERROR_SOURCES_OPML_WITHOUT_FEEDS">
         <source></source>
         <translation>The list names no feed that could be read.</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_MISSING">
+        <source></source>
+        <translation>There is no file %1 with the secret.</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_NOT_READ">
+        <source></source>
+        <translation>The file %1 with the secret cannot be read: %2.</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_NOT_WRITTEN">
+        <source></source>
+        <translation>The file %1 for the secret cannot be written: %2.</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_OPEN">
+        <source></source>
+        <translation>Others may read or write the file %1 with the secret; it is used when it is the user's alone (mode 0600).</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_MISSING">
+        <source></source>
+        <translation>The keychain has no secret called %1.</translation>
     </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>

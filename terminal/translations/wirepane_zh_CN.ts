@@ -759,6 +759,14 @@
         <source></source>
         <translation>无法写入文件 %1：%2。</translation>
     </message>
+    <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
+        <source></source>
+        <translation>钥匙串出错：%1</translation>
+    </message>
+    <message id="ERROR_SOURCES_KEYCHAIN_SILENT">
+        <source></source>
+        <translation>钥匙串没有回应。</translation>
+    </message>
     <message id="ERROR_SOURCES_NO_OPML">
         <source></source>
         <translation>这不是来源清单：其根元素为 &lt;%1&gt;。</translation>
@@ -774,6 +782,26 @@
     <message id="ERROR_SOURCES_OPML_WITHOUT_FEEDS">
         <source></source>
         <translation>清单中没有可读取的来源。</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_MISSING">
+        <source></source>
+        <translation>找不到存放密钥的文件 %1。</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_NOT_READ">
+        <source></source>
+        <translation>无法读取存放密钥的文件 %1：%2。</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_NOT_WRITTEN">
+        <source></source>
+        <translation>无法写入存放密钥的文件 %1：%2。</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_OPEN">
+        <source></source>
+        <translation>其他人可以读取或写入存放密钥的文件 %1；只有用户本人可访问时（权限 0600）才会使用。</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_MISSING">
+        <source></source>
+        <translation>钥匙串中没有名为 %1 的密钥。</translation>
     </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>

@@ -759,6 +759,14 @@
         <source></source>
         <translation>無法寫入檔案 %1：%2。</translation>
     </message>
+    <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
+        <source></source>
+        <translation>鑰匙圈發生錯誤：%1</translation>
+    </message>
+    <message id="ERROR_SOURCES_KEYCHAIN_SILENT">
+        <source></source>
+        <translation>鑰匙圈沒有回應。</translation>
+    </message>
     <message id="ERROR_SOURCES_NO_OPML">
         <source></source>
         <translation>這不是來源清單：其根元素為 &lt;%1&gt;。</translation>
@@ -774,6 +782,26 @@
     <message id="ERROR_SOURCES_OPML_WITHOUT_FEEDS">
         <source></source>
         <translation>清單中沒有可讀取的來源。</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_MISSING">
+        <source></source>
+        <translation>找不到存放密鑰的檔案 %1。</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_NOT_READ">
+        <source></source>
+        <translation>無法讀取存放密鑰的檔案 %1：%2。</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_NOT_WRITTEN">
+        <source></source>
+        <translation>無法寫入存放密鑰的檔案 %1：%2。</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_OPEN">
+        <source></source>
+        <translation>其他人可以讀取或寫入存放密鑰的檔案 %1；只有使用者本人可存取時（權限 0600）才會使用。</translation>
+    </message>
+    <message id="ERROR_SOURCES_SECRET_MISSING">
+        <source></source>
+        <translation>鑰匙圈中沒有名為 %1 的密鑰。</translation>
     </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>

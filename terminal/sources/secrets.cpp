@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/sources/secrets.h"
+
+#include "terminal/sources/keychain.h"
+#include "terminal/sources/secret_file.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr auto filePrefix = "file:"_L1;
+
+}  // namespace
+
+Secrets::Secrets(Keychain& systemKeychain, QString filesFolder)
+    : keychain(systemKeychain), folder(std::move(filesFolder)) {}
+
+// Names come from outside: none of them is part of a path.
+QString Secrets::fileOf(const QString& name) const {
+    const QByteArray digest = QCryptographicHash::hash(name.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return QDir(folder).filePath(QString::fromLatin1(digest.left(32)) + u".secret"_s);
+}
+
+void Secrets::find(const QString& name, const Answer& answer) {
+    if (name.startsWith(filePrefix))
+        answer(readSecretFile(name.sliced(filePrefix.size())));
+    else
+        keychain.read(name, answer);
+}
+
+void Secrets::keep(const QString& name, const QString& secret, const Answer& answer) {
+    keychain.write(name, secret, [name, secret, answer, file = fileOf(name)](const Done& kept) {
+        if (kept) {
+            answer(name);
+            return;
+        }
+        const Done written = writeSecretFile(file, secret);
+        answer(written ? Result<QString>(filePrefix + file) : Result<QString>(written.error()));
+    });
+}
+
+void Secrets::forget(const QString& name) {
+    if (!name.startsWith(filePrefix))
+        keychain.remove(name);
+    else if (const QString file = name.sliced(filePrefix.size());
+             QFileInfo(file).absolutePath() == QDir(folder).absolutePath())
+        QFile::remove(file);
+}
+
+}  // namespace wirepane
