@@ -10,20 +10,21 @@
 
 namespace wirepane {
 
-// Where the secrets of sources are. No secret stands in the store, in settings, logs, exports or errors.
-// Interface thread.
+// Where the secrets of sources are kept: passwords, tokens, values of headers. None of them is ever in the
+// store, the settings, a log, an export or an error. Interface thread.
 class SecretStore {
 public:
-    using Answer = std::function<void(const Result<QString>& secret)>;
+    // The secret; or why it cannot be had, without a word of it.
+    using Found = std::function<void(const Result<QString>&)>;
 
     SecretStore() = default;
     SecretStore(const SecretStore&) = delete;
     SecretStore& operator=(const SecretStore&) = delete;
     virtual ~SecretStore() = default;
 
-    // Finds the secret of this name, a text of SourceSecret. The answer comes once, at once or later; it must
-    // not outlive what it captures.
-    virtual void find(const QString& name, const Answer& answer) = 0;
+    // Calls back once, from the event loop or at once; not any more when the store is gone. Who asks makes
+    // sure that the callback can be made for as long.
+    virtual void find(const QString& name, const Found& found) = 0;
 };
 
 }  // namespace wirepane

@@ -30,21 +30,21 @@ QString Secrets::fileOf(const QString& name) const {
     return QDir(folder).filePath(QString::fromLatin1(digest.left(32)) + u".secret"_s);
 }
 
-void Secrets::find(const QString& name, const Answer& answer) {
+void Secrets::find(const QString& name, const Found& found) {
     if (name.startsWith(filePrefix))
-        answer(readSecretFile(name.sliced(filePrefix.size())));
+        found(readSecretFile(name.sliced(filePrefix.size())));
     else
-        keychain.read(name, answer);
+        keychain.read(name, found);
 }
 
-void Secrets::keep(const QString& name, const QString& secret, const Answer& answer) {
-    keychain.write(name, secret, [name, secret, answer, file = fileOf(name)](const Done& kept) {
+void Secrets::keep(const QString& name, const QString& secret, const Found& found) {
+    keychain.write(name, secret, [name, secret, found, file = fileOf(name)](const Done& kept) {
         if (kept) {
-            answer(name);
+            found(name);
             return;
         }
         const Done written = writeSecretFile(file, secret);
-        answer(written ? Result<QString>(filePrefix + file) : Result<QString>(written.error()));
+        found(written ? Result<QString>(filePrefix + file) : Result<QString>(written.error()));
     });
 }
 

@@ -18,9 +18,9 @@ public:
     // The keychain is not owned and outlives this. `folder` is for the files; it is made when there is one.
     Secrets(Keychain& keychain, QString folder);
 
-    void find(const QString& name, const Answer& answer) override;
+    void find(const QString& name, const Found& found) override;
     // Keeps the secret; the answer is the name to find it under, which is this one or that of a file.
-    void keep(const QString& name, const QString& secret, const Answer& answer);
+    void keep(const QString& name, const QString& secret, const Found& found);
     // A file that the user made stays.
     void forget(const QString& name);
 
