@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "backend/error.h"
 
-#include <algorithm>
+#include <QJsonArray>
+#include <QJsonObject>
+
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
@@ -19,6 +23,13 @@ ErrorArgument::ErrorArgument(Error sentence) : part{std::move(sentence)} {}
 
 bool Error::operator==(const Error&) const = default;
 bool ErrorArgument::operator==(const ErrorArgument&) const = default;
+
+QJsonObject errorValue(const Error& error) {
+    QJsonArray arguments;
+    for (const ErrorArgument& argument : error.arguments)
+        arguments += argument.part.empty() ? QJsonValue(argument.text) : errorValue(argument.part.front());
+    return {{u"code"_s, QString::fromLatin1(error.code->key)}, {u"arguments"_s, arguments}};
+}
 
 QString sentence(const Error& error) {
     QStringList arguments;

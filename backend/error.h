@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+class QJsonObject;
+
 namespace wirepane {
 
 // A way to fail: the key of its sentence in the language files, and the sentence in English, in which %1 to
@@ -73,6 +75,10 @@ Error makeError(Arguments... arguments) {
                   "the sentence has as many arguments as are given");
     return {code, {ErrorArgument(std::move(arguments))...}};
 }
+
+// As it is kept, and as one program hands it to another: {"code": key, "arguments": [...]}, each argument a
+// text as it is, or such an object in its turn.
+QJsonObject errorValue(const Error& error);
 
 // In English, as the command line shows it.
 QString sentence(const Error& error);

@@ -34,7 +34,7 @@ FLOORS = {
         "store": {ROOM, "words", "database", "search"},
         "import": {ROOM},
         "feed": {ROOM, "lines", "database", "store", "import"},
-        "network": {ROOM, "lines", "database", "store", "import", "feed"},
+        "network": {ROOM, "lines", "words", "database", "store", "import", "feed"},
     },
     "terminal": {
         "console": set(),

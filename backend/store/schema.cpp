@@ -158,8 +158,38 @@ CREATE TABLE retention(
     compacting INTEGER NOT NULL);
 )sql";
 
+// Sources over the network; `item_origins`: which of them have brought a piece of news, and under which link,
+// so that the same piece from two of them is known again.
+constexpr const char* networkSources = R"sql(
+CREATE TABLE sources(
+    name TEXT PRIMARY KEY,
+    position INTEGER NOT NULL,
+    definition TEXT NOT NULL) WITHOUT ROWID;
+CREATE TABLE source_list(revision INTEGER NOT NULL);
+INSERT INTO source_list(revision) VALUES(0);
+CREATE TABLE source_states(
+    source TEXT PRIMARY KEY,
+    last_try INTEGER NOT NULL,
+    last_success INTEGER NOT NULL,
+    next_try INTEGER NOT NULL,
+    day INTEGER NOT NULL,
+    items INTEGER NOT NULL,
+    delay INTEGER NOT NULL,
+    fault TEXT NOT NULL,
+    gaps TEXT NOT NULL) WITHOUT ROWID;
+CREATE TABLE item_origins(
+    service INTEGER NOT NULL,
+    identity TEXT NOT NULL,
+    source TEXT NOT NULL,
+    link TEXT NOT NULL,
+    taken INTEGER NOT NULL,
+    PRIMARY KEY(service, identity, source)) WITHOUT ROWID;
+CREATE INDEX item_origins_by_link ON item_origins(service, link, identity);
+CREATE INDEX item_origins_by_age ON item_origins(taken);
+)sql";
+
 constexpr std::array steps{firstVersion, arrivalsAndPositions, ownSearchWords, quotes,
-                           goneKeys,     blocksOfImports,      retention};
+                           goneKeys,     blocksOfImports,      retention,      networkSources};
 
 }  // namespace
 

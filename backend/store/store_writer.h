@@ -72,6 +72,8 @@ public:
     Result<TrimStep> trim(const Retention& keep, std::int64_t now);
     // News of any age is taken in again.
     Done takeAnyAge();
+    // What it writes with: for tables that others keep in the store, in transactions of their own.
+    Database& connection() { return database; }
     // From now on nothing is taken: what is under way fails, and is taken back. Any thread.
     void stop() { isStopped = true; }
     // The symbols that the transactions since the last call have changed.

@@ -11,23 +11,12 @@ using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
-namespace {
-
-QJsonObject valueOf(const Error& error) {
-    QJsonArray arguments;
-    for (const ErrorArgument& argument : error.arguments)
-        arguments += argument.part.empty() ? QJsonValue(argument.text) : valueOf(argument.part.front());
-    return {{u"code"_s, QString::fromLatin1(error.code->key)}, {u"arguments"_s, arguments}};
-}
-
-}  // namespace
-
 QString shownText(const Error& error) {
-    return shownText(valueOf(error));
+    return shownText(errorValue(error));
 }
 
 QString valueLine(const Error& error) {
-    return QString::fromUtf8(QJsonDocument(valueOf(error)).toJson(QJsonDocument::Compact));
+    return QString::fromUtf8(QJsonDocument(errorValue(error)).toJson(QJsonDocument::Compact));
 }
 
 QJsonValue valueFrom(const QString& line) {

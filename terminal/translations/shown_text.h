@@ -11,9 +11,8 @@ namespace wirepane {
 // What an error says in the language in force.
 QString shownText(const Error& error);
 
-// An error as one program hands it to another: {"code": key, "arguments": [...]}, each argument a text as it
-// is, or a value in its turn. On a line of its own, and what stands in such a line; what is no value of an
-// error is a text as it is.
+// errorValue() on a line of its own, and what stands in such a line; what is no value of an error is a text
+// as it is.
 QString valueLine(const Error& error);
 QJsonValue valueFrom(const QString& line);
 QString shownText(const QJsonValue& value);

@@ -695,6 +695,34 @@
         <source></source>
         <translation>%1</translation>
     </message>
+    <message id="ERROR_NETWORK_AUTHORISATION_INCOMPLETE">
+        <source></source>
+        <translation>The source's authorisation lacks the name of its secret or of its field.</translation>
+    </message>
+    <message id="ERROR_NETWORK_FIELD_WRONG">
+        <source></source>
+        <translation>The field “%1” of the source cannot be “%2”.</translation>
+    </message>
+    <message id="ERROR_NETWORK_FILE_NOT_TYPED">
+        <source></source>
+        <translation>A file is a source only where the user has typed its address.</translation>
+    </message>
+    <message id="ERROR_NETWORK_LIST_FULL">
+        <source></source>
+        <translation>The list holds %1 sources; no more can be added.</translation>
+    </message>
+    <message id="ERROR_NETWORK_NO_ADDRESS">
+        <source></source>
+        <translation>“%1” is no address that a source can have.</translation>
+    </message>
+    <message id="ERROR_NETWORK_NO_SOURCE">
+        <source></source>
+        <translation>There is no source “%1” in the list.</translation>
+    </message>
+    <message id="ERROR_NETWORK_SECRET_IN_ADDRESS">
+        <source></source>
+        <translation>The address holds a user name or password; they are kept with the secrets instead.</translation>
+    </message>
     <message id="ERROR_SESSION_CATEGORIES_NOT_CHANGED">
         <source></source>
         <translation>The categories of the store could not be changed: %1</translation>

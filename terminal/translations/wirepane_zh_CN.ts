@@ -695,6 +695,34 @@
         <source></source>
         <translation>%1</translation>
     </message>
+    <message id="ERROR_NETWORK_AUTHORISATION_INCOMPLETE">
+        <source></source>
+        <translation>来源的授权缺少机密数据的名称或字段的名称。</translation>
+    </message>
+    <message id="ERROR_NETWORK_FIELD_WRONG">
+        <source></source>
+        <translation>来源的字段“%1”不能是“%2”。</translation>
+    </message>
+    <message id="ERROR_NETWORK_FILE_NOT_TYPED">
+        <source></source>
+        <translation>文件只有在用户亲自输入其地址时才能作为来源。</translation>
+    </message>
+    <message id="ERROR_NETWORK_LIST_FULL">
+        <source></source>
+        <translation>列表已有 %1 个来源，无法再添加。</translation>
+    </message>
+    <message id="ERROR_NETWORK_NO_ADDRESS">
+        <source></source>
+        <translation>“%1”不是可以连接的来源地址。</translation>
+    </message>
+    <message id="ERROR_NETWORK_NO_SOURCE">
+        <source></source>
+        <translation>列表中没有来源“%1”。</translation>
+    </message>
+    <message id="ERROR_NETWORK_SECRET_IN_ADDRESS">
+        <source></source>
+        <translation>地址中含有用户名或密码；它们应与机密数据一起保存。</translation>
+    </message>
     <message id="ERROR_SESSION_CATEGORIES_NOT_CHANGED">
         <source></source>
         <translation>无法更改数据库中的分类：%1</translation>

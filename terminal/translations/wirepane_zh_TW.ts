@@ -695,6 +695,34 @@
         <source></source>
         <translation>%1</translation>
     </message>
+    <message id="ERROR_NETWORK_AUTHORISATION_INCOMPLETE">
+        <source></source>
+        <translation>來源的授權缺少機密資料的名稱或欄位的名稱。</translation>
+    </message>
+    <message id="ERROR_NETWORK_FIELD_WRONG">
+        <source></source>
+        <translation>來源的欄位「%1」不能是「%2」。</translation>
+    </message>
+    <message id="ERROR_NETWORK_FILE_NOT_TYPED">
+        <source></source>
+        <translation>檔案只有在使用者親自輸入其位址時才能作為來源。</translation>
+    </message>
+    <message id="ERROR_NETWORK_LIST_FULL">
+        <source></source>
+        <translation>清單已有 %1 個來源，無法再新增。</translation>
+    </message>
+    <message id="ERROR_NETWORK_NO_ADDRESS">
+        <source></source>
+        <translation>「%1」不是可以連線的來源位址。</translation>
+    </message>
+    <message id="ERROR_NETWORK_NO_SOURCE">
+        <source></source>
+        <translation>清單中沒有來源「%1」。</translation>
+    </message>
+    <message id="ERROR_NETWORK_SECRET_IN_ADDRESS">
+        <source></source>
+        <translation>位址中含有使用者名稱或密碼；它們應與機密資料一起保存。</translation>
+    </message>
     <message id="ERROR_SESSION_CATEGORIES_NOT_CHANGED">
         <source></source>
         <translation>無法變更資料庫中的分類：%1</translation>
