@@ -11,6 +11,7 @@
 #include "terminal/commands/replay_command.h"
 #include "terminal/commands/sample_command.h"
 #include "terminal/commands/search_command.h"
+#include "terminal/commands/source_command.h"
 #include "terminal/commands/trim_command.h"
 #include "terminal/console/console.h"
 
@@ -36,6 +37,7 @@ constexpr Command commands[] = {
     {"import", &runImport}, {"feed", &runFeed},           {"replay", &runReplay},
     {"sample", &runSample}, {"check", &runCheck},         {"backup", &runBackup},
     {"search", &runSearch}, {"export", &runExport, true}, {"trim", &runTrim},
+    {"source", &runSource},
 };
 
 QtMessageHandler usualMessages = nullptr;

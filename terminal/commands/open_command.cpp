@@ -243,7 +243,7 @@ bool wantsOffscreen(int argc, const char* const* argv) {
 int runTerminal() {
     CommandArguments arguments(
         QString(),
-        u"A news terminal. Commands, given as the first argument: import, feed, replay, sample, search, export, check, backup, trim."_s);
+        u"A news terminal. Commands, given as the first argument: import, feed, replay, sample, search, export, check, backup, trim, source."_s);
     addOptions(arguments.parser);
     if (const auto status = arguments.read())
         return *status;

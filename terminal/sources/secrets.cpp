@@ -8,6 +8,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QStandardPaths>
 
 #include <utility>
 
@@ -23,6 +24,10 @@ constexpr auto filePrefix = "file:"_L1;
 
 Secrets::Secrets(Keychain& systemKeychain, QString filesFolder)
     : keychain(systemKeychain), folder(std::move(filesFolder)) {}
+
+QString secretsFolder() {
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).filePath(u"secrets"_s);
+}
 
 // Names come from outside: none of them is part of a path.
 QString Secrets::fileOf(const QString& name) const {

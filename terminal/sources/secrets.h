@@ -11,6 +11,9 @@
 namespace wirepane {
 class Keychain;
 
+// Where files with secrets stand: in the user's data folder.
+QString secretsFolder();
+
 // The secrets of the user's sources: in the keychain or, where none answers, in files that he alone can read.
 // A name that starts with "file:" is that of such a file, which the user may have made himself.
 class Secrets : public SecretStore {

@@ -8,6 +8,7 @@ namespace wirepane::source_errors {
 
 // Why something cannot be done to the list of sources, or to what it is kept in.
 inline constexpr ErrorCode opmlNotOpened{"ERROR_SOURCES_OPML_NOT_OPENED", u"%1 cannot be read: %2"};
+inline constexpr ErrorCode opmlNotWritten{"ERROR_SOURCES_OPML_NOT_WRITTEN", u"%1 cannot be written: %2"};
 inline constexpr ErrorCode opmlTooLarge{"ERROR_SOURCES_OPML_TOO_LARGE",
                                         u"A list of feeds may have %1 bytes; this one is larger."};
 inline constexpr ErrorCode noOpml{"ERROR_SOURCES_NO_OPML", u"This is no list of feeds: its root is <%1>."};

@@ -803,6 +803,10 @@
         <source></source>
         <translation>%1 cannot be read: %2</translation>
     </message>
+    <message id="ERROR_SOURCES_OPML_NOT_WRITTEN">
+        <source></source>
+        <translation>%1 cannot be written: %2</translation>
+    </message>
     <message id="ERROR_SOURCES_OPML_TOO_LARGE">
         <source></source>
         <translation>A list of feeds may have %1 bytes; this one is larger.</translation>
@@ -1803,6 +1807,14 @@
         <source></source>
         <translation>No view is open. Ctrl+N opens one.</translation>
     </message>
+    <message id="TERMINAL_EXCHANGE_ANNOUNCEMENTS">
+        <source></source>
+        <translation>Announcements of listed companies</translation>
+    </message>
+    <message id="TERMINAL_EXCHANGE_PUBLISHER">
+        <source></source>
+        <translation>the Taiwan Stock Exchange</translation>
+    </message>
     <message id="TERMINAL_FEED_LATE">
         <source></source>
         <translation>Live – %1 headlines came late</translation>
@@ -2044,6 +2056,10 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>Se&amp;rvices…</translation>
     </message>
+    <message id="TERMINAL_NEWS_SOURCES">
+        <source></source>
+        <translation>S&amp;ources…</translation>
+    </message>
     <message id="TERMINAL_NEW_SYMBOL_VIEW">
         <source></source>
         <translation>New sy&amp;mbol view</translation>
@@ -2059,6 +2075,14 @@ Reads the news of securities markets, live and from files.</translation>
     <message id="TERMINAL_NO_CHINESE_FONT">
         <source></source>
         <translation>No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
+    </message>
+    <message id="TERMINAL_NO_SOURCES">
+        <source></source>
+        <translation>No sources</translation>
+    </message>
+    <message id="TERMINAL_NO_SOURCES_ADD">
+        <source></source>
+        <translation>Add one…</translation>
     </message>
     <message id="TERMINAL_PRESENT">
         <source></source>
@@ -2212,17 +2236,317 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>Adds a tab with the news that contain your warning terms.</translation>
     </message>
+    <message id="TERMINAL_SOURCES_ADD">
+        <source></source>
+        <translation>&amp;Add…</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_COUNT">
+        <source></source>
+        <translation>%1 on</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_COUNT_FAULTY">
+        <source></source>
+        <translation>%1 on · %2 with a fault</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_DELAY">
+        <source></source>
+        <translation>Delay</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_EXPORT">
+        <source></source>
+        <translation>E&amp;xport…</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_EXPORT_TITLE">
+        <source></source>
+        <translation>Export the list of feeds</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_IMPORT">
+        <source></source>
+        <translation>&amp;Import OPML…</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_IMPORTED">
+        <source></source>
+        <translation>%1 added, paused; %2 in the list already; %3 left out. Look at each, then resume it.</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_IMPORT_TITLE">
+        <source></source>
+        <translation>Import a list of feeds</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_LAST">
+        <source></source>
+        <translation>Last</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_NEXT">
+        <source></source>
+        <translation>Next</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_ON">
+        <source></source>
+        <translation>On</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_PASTE">
+        <source></source>
+        <translation>Paste an address: a feed, a page, or a file</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_PAUSED_ONLY">
+        <source></source>
+        <translation>All sources are paused</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_SOURCE">
+        <source></source>
+        <translation>Source</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_STATE">
+        <source></source>
+        <translation>State</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_TITLE">
+        <source></source>
+        <translation>Sources</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_TODAY">
+        <source></source>
+        <translation>Today</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS">
+        <source></source>
+        <translation>A&amp;ccess</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_BASIC">
+        <source></source>
+        <translation>user:password</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_BEARER">
+        <source></source>
+        <translation>token (bearer)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_HEADER">
+        <source></source>
+        <translation>own header</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_NONE">
+        <source></source>
+        <translation>none</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADAPTS">
+        <source></source>
+        <translation>adapts</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADD">
+        <source></source>
+        <translation>&amp;Add</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADDRESS">
+        <source></source>
+        <translation>Address</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADD_TITLE">
+        <source></source>
+        <translation>Add a source</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ANY_AGE">
+        <source></source>
+        <translation>any age</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_AUTHORISATION">
+        <source></source>
+        <translation>Sign-in</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_AUTHORITY">
+        <source></source>
+        <translation>Certificate of an own authority</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_BROWSE">
+        <source></source>
+        <translation>Choose a file</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY">
+        <source></source>
+        <translation>Category</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY_ALWAYS">
+        <source></source>
+        <translation>always:</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY_OTHERWISE">
+        <source></source>
+        <translation>where an item has none:</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY_OWN">
+        <source></source>
+        <translation>that of each item</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CERTIFICATE">
+        <source></source>
+        <translation>Client certificate</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CERTIFICATE_KEY">
+        <source></source>
+        <translation>Its key</translation>
+    </message>
     <message id="TERMINAL_SOURCE_CONNECTING">
         <source></source>
         <translation>Connecting…</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_DAYS_SUFFIX">
+        <source></source>
+        <translation> days</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_DOWN">
+        <source></source>
+        <translation>Move down (Alt+Down)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_EDIT">
+        <source></source>
+        <translation>&amp;Edit…</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_EDIT_TITLE">
+        <source></source>
+        <translation>Edit the source</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_EVERY">
+        <source></source>
+        <translation>every %1 s</translation>
     </message>
     <message id="TERMINAL_SOURCE_FAILED">
         <source></source>
         <translation>Failed since %1: %2</translation>
     </message>
+    <message id="TERMINAL_SOURCE_FIELD">
+        <source></source>
+        <translation>Name of header or parameter</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_GENERAL">
+        <source></source>
+        <translation>&amp;General</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_GREATEST_AGE">
+        <source></source>
+        <translation>Oldest news taken</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_INTERVAL">
+        <source></source>
+        <translation>Asked every</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_IN_MINUTES">
+        <source></source>
+        <translation>in %1 min</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_IN_SECONDS">
+        <source></source>
+        <translation>in %1 s</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND">
+        <source></source>
+        <translation>What it is</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND_AUTO">
+        <source></source>
+        <translation>recognised</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND_EVENTS">
+        <source></source>
+        <translation>server-sent events</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND_TABLE">
+        <source></source>
+        <translation>table by mapping</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_LINKS">
+        <source></source>
+        <translation>Feeds of this page</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_MAPPING">
+        <source></source>
+        <translation>Mapping</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_NOT_ASKED">
+        <source></source>
+        <translation>Not asked yet</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_NOT_READ">
+        <source></source>
+        <translation>No terminal reads it at the moment</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_PAUSE">
+        <source></source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_PAUSED">
+        <source></source>
+        <translation>Paused</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_PROXIES">
+        <source></source>
+        <translation>The system’s proxy is used where there is one. Through a proxy only names can be checked: it is the proxy that finds the machine behind a name.</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_READY_MADE">
+        <source></source>
+        <translation>ready made · %1</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_READ_TERMS">
+        <source></source>
+        <translation>Off. Read the publisher’s terms first.</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_REMOVE">
+        <source></source>
+        <translation>Re&amp;move</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_REMOVE_QUESTION">
+        <source></source>
+        <translation>Remove “%1”? The news that it brought stays.</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_RESUME">
+        <source></source>
+        <translation>&amp;Resume</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SAVE">
+        <source></source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SECONDS_SUFFIX">
+        <source></source>
+        <translation> s</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SECRET">
+        <source></source>
+        <translation>Secret</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SECRET_KEPT">
+        <source></source>
+        <translation>kept with the secrets; empty leaves it</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SERVICE">
+        <source></source>
+        <translation>News service</translation>
+    </message>
     <message id="TERMINAL_SOURCE_STALE">
         <source></source>
         <translation>Nothing new since %1</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_STREAM">
+        <source></source>
+        <translation>stream</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TERMS_QUESTION">
+        <source></source>
+        <translation>%1 is published by %2. Once it is on, this terminal asks %3 for it again and again. Please read the publisher’s terms first: %4</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TERMS_READ">
+        <source></source>
+        <translation>I have read them: &amp;add</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TEST">
+        <source></source>
+        <translation>&amp;Test</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TITLE">
+        <source></source>
+        <translation>Title</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_UP">
+        <source></source>
+        <translation>Move up (Alt+Up)</translation>
     </message>
     <message id="TERMINAL_STATUS_CONNECT">
         <source></source>
@@ -2243,6 +2567,42 @@ Reads the news of securities markets, live and from files.</translation>
     <message id="TERMINAL_SYMBOL_UNKNOWN">
         <source></source>
         <translation>No such symbol</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_ASKING">
+        <source></source>
+        <translation>Asking…</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_HEADLINE">
+        <source></source>
+        <translation>Headline</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_ITEMS">
+        <source></source>
+        <translation>The first items as they would stand: %1 read, %2 rejected.</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_NOTHING">
+        <source></source>
+        <translation>It answers, and holds no items at the moment.</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_PAGE">
+        <source></source>
+        <translation>This is a page; it names %1 feeds of its own.</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_REJECTED">
+        <source></source>
+        <translation>%1 items were rejected, the first because: %2</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TIME">
+        <source></source>
+        <translation>Time</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TITLE">
+        <source></source>
+        <translation>The first items as they would stand</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TOPIC">
+        <source></source>
+        <translation>Topic</translation>
     </message>
     <message id="TERMINAL_VIEW_FAILED">
         <source></source>

@@ -803,6 +803,10 @@
         <source></source>
         <translation>无法读取 %1：%2</translation>
     </message>
+    <message id="ERROR_SOURCES_OPML_NOT_WRITTEN">
+        <source></source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
     <message id="ERROR_SOURCES_OPML_TOO_LARGE">
         <source></source>
         <translation>来源清单最多 %1 字节，这一份更大。</translation>
@@ -1803,6 +1807,14 @@
         <source></source>
         <translation>没有打开的窗口。按 Ctrl+N 新建。</translation>
     </message>
+    <message id="TERMINAL_EXCHANGE_ANNOUNCEMENTS">
+        <source></source>
+        <translation>上市公司重大信息</translation>
+    </message>
+    <message id="TERMINAL_EXCHANGE_PUBLISHER">
+        <source></source>
+        <translation>台湾证券交易所</translation>
+    </message>
     <message id="TERMINAL_FEED_LATE">
         <source></source>
         <translation>实时 – %1 条新闻延迟送达</translation>
@@ -2044,6 +2056,10 @@
         <source></source>
         <translation>新闻来源(&amp;R)…</translation>
     </message>
+    <message id="TERMINAL_NEWS_SOURCES">
+        <source></source>
+        <translation>来源(&amp;O)…</translation>
+    </message>
     <message id="TERMINAL_NEW_SYMBOL_VIEW">
         <source></source>
         <translation>新建个股新闻窗口(&amp;M)</translation>
@@ -2059,6 +2075,14 @@
     <message id="TERMINAL_NO_CHINESE_FONT">
         <source></source>
         <translation>未安装中文字体，中文会显示为方块。 No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
+    </message>
+    <message id="TERMINAL_NO_SOURCES">
+        <source></source>
+        <translation>没有来源</translation>
+    </message>
+    <message id="TERMINAL_NO_SOURCES_ADD">
+        <source></source>
+        <translation>添加…</translation>
     </message>
     <message id="TERMINAL_PRESENT">
         <source></source>
@@ -2212,17 +2236,317 @@
         <source></source>
         <translation>增加标签页，列出含有警示词的新闻。</translation>
     </message>
+    <message id="TERMINAL_SOURCES_ADD">
+        <source></source>
+        <translation>添加(&amp;A)…</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_COUNT">
+        <source></source>
+        <translation>%1 个开启</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_COUNT_FAULTY">
+        <source></source>
+        <translation>%1 个开启 · %2 个有问题</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_DELAY">
+        <source></source>
+        <translation>延迟</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_EXPORT">
+        <source></source>
+        <translation>导出(&amp;X)…</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_EXPORT_TITLE">
+        <source></source>
+        <translation>导出来源列表</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_IMPORT">
+        <source></source>
+        <translation>导入列表(&amp;I)…</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_IMPORTED">
+        <source></source>
+        <translation>已添加 %1 个（暂停中），%2 个已在列表中，略过 %3 个。请逐一查看后再继续。</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_IMPORT_TITLE">
+        <source></source>
+        <translation>导入来源列表</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_LAST">
+        <source></source>
+        <translation>上次</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_NEXT">
+        <source></source>
+        <translation>下次</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_ON">
+        <source></source>
+        <translation>开启</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_PASTE">
+        <source></source>
+        <translation>粘贴地址：来源、网页或文件</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_PAUSED_ONLY">
+        <source></source>
+        <translation>所有来源均已暂停</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_SOURCE">
+        <source></source>
+        <translation>来源</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_STATE">
+        <source></source>
+        <translation>状态</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_TITLE">
+        <source></source>
+        <translation>来源</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_TODAY">
+        <source></source>
+        <translation>今日</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS">
+        <source></source>
+        <translation>访问(&amp;C)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_BASIC">
+        <source></source>
+        <translation>用户:密码</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_BEARER">
+        <source></source>
+        <translation>令牌</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_HEADER">
+        <source></source>
+        <translation>自定义标头</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_NONE">
+        <source></source>
+        <translation>无</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADAPTS">
+        <source></source>
+        <translation>自动调整</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADD">
+        <source></source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADDRESS">
+        <source></source>
+        <translation>地址</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADD_TITLE">
+        <source></source>
+        <translation>添加来源</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ANY_AGE">
+        <source></source>
+        <translation>不限</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_AUTHORISATION">
+        <source></source>
+        <translation>登录方式</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_AUTHORITY">
+        <source></source>
+        <translation>自有证书颁发机构</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_BROWSE">
+        <source></source>
+        <translation>选择文件</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY">
+        <source></source>
+        <translation>分类</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY_ALWAYS">
+        <source></source>
+        <translation>始终：</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY_OTHERWISE">
+        <source></source>
+        <translation>没有分类时：</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY_OWN">
+        <source></source>
+        <translation>按每条新闻</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CERTIFICATE">
+        <source></source>
+        <translation>客户端证书</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CERTIFICATE_KEY">
+        <source></source>
+        <translation>证书密钥</translation>
+    </message>
     <message id="TERMINAL_SOURCE_CONNECTING">
         <source></source>
         <translation>连接中…</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_DAYS_SUFFIX">
+        <source></source>
+        <translation> 天</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_DOWN">
+        <source></source>
+        <translation>下移 (Alt+Down)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_EDIT">
+        <source></source>
+        <translation>编辑(&amp;E)…</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_EDIT_TITLE">
+        <source></source>
+        <translation>编辑来源</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_EVERY">
+        <source></source>
+        <translation>每 %1 秒</translation>
     </message>
     <message id="TERMINAL_SOURCE_FAILED">
         <source></source>
         <translation>失败（自 %1）：%2</translation>
     </message>
+    <message id="TERMINAL_SOURCE_FIELD">
+        <source></source>
+        <translation>标头或参数名称</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_GENERAL">
+        <source></source>
+        <translation>常规(&amp;G)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_GREATEST_AGE">
+        <source></source>
+        <translation>最旧新闻</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_INTERVAL">
+        <source></source>
+        <translation>查询间隔</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_IN_MINUTES">
+        <source></source>
+        <translation>%1 分钟后</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_IN_SECONDS">
+        <source></source>
+        <translation>%1 秒后</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND">
+        <source></source>
+        <translation>类型</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND_AUTO">
+        <source></source>
+        <translation>自动识别</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND_EVENTS">
+        <source></source>
+        <translation>服务器推送事件</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND_TABLE">
+        <source></source>
+        <translation>映射表格</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_LINKS">
+        <source></source>
+        <translation>此网页的来源</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_MAPPING">
+        <source></source>
+        <translation>映射</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_NOT_ASKED">
+        <source></source>
+        <translation>尚未查询</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_NOT_READ">
+        <source></source>
+        <translation>目前没有终端在读取</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_PAUSE">
+        <source></source>
+        <translation>暂停(&amp;P)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_PAUSED">
+        <source></source>
+        <translation>已暂停</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_PROXIES">
+        <source></source>
+        <translation>若系统设有代理服务器则会使用。经由代理服务器时只能检查名称：由代理服务器找出名称对应的主机。</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_READY_MADE">
+        <source></source>
+        <translation>现成来源 · %1</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_READ_TERMS">
+        <source></source>
+        <translation>未开启。请先阅读发布者的使用条款。</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_REMOVE">
+        <source></source>
+        <translation>移除(&amp;M)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_REMOVE_QUESTION">
+        <source></source>
+        <translation>要移除“%1”吗？已收到的新闻会保留。</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_RESUME">
+        <source></source>
+        <translation>继续(&amp;R)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SAVE">
+        <source></source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SECONDS_SUFFIX">
+        <source></source>
+        <translation> 秒</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SECRET">
+        <source></source>
+        <translation>密钥</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SECRET_KEPT">
+        <source></source>
+        <translation>已保存；留空则不变</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SERVICE">
+        <source></source>
+        <translation>新闻服务</translation>
+    </message>
     <message id="TERMINAL_SOURCE_STALE">
         <source></source>
         <translation>无新消息（自 %1）</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_STREAM">
+        <source></source>
+        <translation>流</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TERMS_QUESTION">
+        <source></source>
+        <translation>“%1”由%2发布。开启后，本终端会持续向 %3 查询。请先阅读发布者的使用条款：%4</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TERMS_READ">
+        <source></source>
+        <translation>我已阅读，添加(&amp;A)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TEST">
+        <source></source>
+        <translation>测试(&amp;T)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TITLE">
+        <source></source>
+        <translation>名称</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_UP">
+        <source></source>
+        <translation>上移 (Alt+Up)</translation>
     </message>
     <message id="TERMINAL_STATUS_CONNECT">
         <source></source>
@@ -2243,6 +2567,42 @@
     <message id="TERMINAL_SYMBOL_UNKNOWN">
         <source></source>
         <translation>无此代码</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_ASKING">
+        <source></source>
+        <translation>查询中…</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_HEADLINE">
+        <source></source>
+        <translation>标题</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_ITEMS">
+        <source></source>
+        <translation>前几条新闻的显示方式：读取 %1 条，拒收 %2 条。</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_NOTHING">
+        <source></source>
+        <translation>有响应，但目前没有任何新闻。</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_PAGE">
+        <source></source>
+        <translation>这是网页，其中列出 %1 个来源。</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_REJECTED">
+        <source></source>
+        <translation>拒收 %1 条，第一条的原因：%2</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TIME">
+        <source></source>
+        <translation>时间</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TITLE">
+        <source></source>
+        <translation>前几条新闻的显示方式</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TOPIC">
+        <source></source>
+        <translation>分类</translation>
     </message>
     <message id="TERMINAL_VIEW_FAILED">
         <source></source>

@@ -803,6 +803,10 @@
         <source></source>
         <translation>無法讀取 %1：%2</translation>
     </message>
+    <message id="ERROR_SOURCES_OPML_NOT_WRITTEN">
+        <source></source>
+        <translation>無法寫入 %1：%2</translation>
+    </message>
     <message id="ERROR_SOURCES_OPML_TOO_LARGE">
         <source></source>
         <translation>來源清單最多 %1 位元組，這一份更大。</translation>
@@ -1803,6 +1807,14 @@
         <source></source>
         <translation>沒有開啟的視窗。按 Ctrl+N 新增。</translation>
     </message>
+    <message id="TERMINAL_EXCHANGE_ANNOUNCEMENTS">
+        <source></source>
+        <translation>上市公司重大訊息</translation>
+    </message>
+    <message id="TERMINAL_EXCHANGE_PUBLISHER">
+        <source></source>
+        <translation>臺灣證券交易所</translation>
+    </message>
     <message id="TERMINAL_FEED_LATE">
         <source></source>
         <translation>即時 – %1 則新聞延遲送達</translation>
@@ -2044,6 +2056,10 @@
         <source></source>
         <translation>新聞來源(&amp;R)…</translation>
     </message>
+    <message id="TERMINAL_NEWS_SOURCES">
+        <source></source>
+        <translation>來源(&amp;O)…</translation>
+    </message>
     <message id="TERMINAL_NEW_SYMBOL_VIEW">
         <source></source>
         <translation>新增個股新聞視窗(&amp;M)</translation>
@@ -2059,6 +2075,14 @@
     <message id="TERMINAL_NO_CHINESE_FONT">
         <source></source>
         <translation>未安裝中文字型，中文會顯示為方塊。 No installed font has Chinese characters: they are shown as boxes. Install one, such as the package fonts-noto-cjk.</translation>
+    </message>
+    <message id="TERMINAL_NO_SOURCES">
+        <source></source>
+        <translation>沒有來源</translation>
+    </message>
+    <message id="TERMINAL_NO_SOURCES_ADD">
+        <source></source>
+        <translation>新增…</translation>
     </message>
     <message id="TERMINAL_PRESENT">
         <source></source>
@@ -2212,17 +2236,317 @@
         <source></source>
         <translation>新增分頁，列出含有警示詞的新聞。</translation>
     </message>
+    <message id="TERMINAL_SOURCES_ADD">
+        <source></source>
+        <translation>新增(&amp;A)…</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_COUNT">
+        <source></source>
+        <translation>%1 個開啟</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_COUNT_FAULTY">
+        <source></source>
+        <translation>%1 個開啟 · %2 個有問題</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_DELAY">
+        <source></source>
+        <translation>延遲</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_EXPORT">
+        <source></source>
+        <translation>匯出(&amp;X)…</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_EXPORT_TITLE">
+        <source></source>
+        <translation>匯出來源清單</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_IMPORT">
+        <source></source>
+        <translation>匯入清單(&amp;I)…</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_IMPORTED">
+        <source></source>
+        <translation>已新增 %1 個（暫停中），%2 個已在清單中，略過 %3 個。請逐一查看後再繼續。</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_IMPORT_TITLE">
+        <source></source>
+        <translation>匯入來源清單</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_LAST">
+        <source></source>
+        <translation>上次</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_NEXT">
+        <source></source>
+        <translation>下次</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_ON">
+        <source></source>
+        <translation>開啟</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_PASTE">
+        <source></source>
+        <translation>貼上位址：來源、網頁或檔案</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_PAUSED_ONLY">
+        <source></source>
+        <translation>所有來源皆已暫停</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_SOURCE">
+        <source></source>
+        <translation>來源</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_STATE">
+        <source></source>
+        <translation>狀態</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_TITLE">
+        <source></source>
+        <translation>來源</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_TODAY">
+        <source></source>
+        <translation>今日</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS">
+        <source></source>
+        <translation>存取(&amp;C)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_BASIC">
+        <source></source>
+        <translation>使用者:密碼</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_BEARER">
+        <source></source>
+        <translation>權杖</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_HEADER">
+        <source></source>
+        <translation>自訂標頭</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ACCESS_NONE">
+        <source></source>
+        <translation>無</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADAPTS">
+        <source></source>
+        <translation>自動調整</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADD">
+        <source></source>
+        <translation>新增(&amp;A)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADDRESS">
+        <source></source>
+        <translation>位址</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ADD_TITLE">
+        <source></source>
+        <translation>新增來源</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_ANY_AGE">
+        <source></source>
+        <translation>不限</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_AUTHORISATION">
+        <source></source>
+        <translation>登入方式</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_AUTHORITY">
+        <source></source>
+        <translation>自有憑證授權單位</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_BROWSE">
+        <source></source>
+        <translation>選擇檔案</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY">
+        <source></source>
+        <translation>分類</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY_ALWAYS">
+        <source></source>
+        <translation>一律：</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY_OTHERWISE">
+        <source></source>
+        <translation>沒有分類時：</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CATEGORY_OWN">
+        <source></source>
+        <translation>依各則新聞</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CERTIFICATE">
+        <source></source>
+        <translation>用戶端憑證</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_CERTIFICATE_KEY">
+        <source></source>
+        <translation>憑證金鑰</translation>
+    </message>
     <message id="TERMINAL_SOURCE_CONNECTING">
         <source></source>
         <translation>連線中…</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_DAYS_SUFFIX">
+        <source></source>
+        <translation> 天</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_DOWN">
+        <source></source>
+        <translation>下移 (Alt+Down)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_EDIT">
+        <source></source>
+        <translation>編輯(&amp;E)…</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_EDIT_TITLE">
+        <source></source>
+        <translation>編輯來源</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_EVERY">
+        <source></source>
+        <translation>每 %1 秒</translation>
     </message>
     <message id="TERMINAL_SOURCE_FAILED">
         <source></source>
         <translation>失敗（自 %1）：%2</translation>
     </message>
+    <message id="TERMINAL_SOURCE_FIELD">
+        <source></source>
+        <translation>標頭或參數名稱</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_GENERAL">
+        <source></source>
+        <translation>一般(&amp;G)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_GREATEST_AGE">
+        <source></source>
+        <translation>最舊新聞</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_INTERVAL">
+        <source></source>
+        <translation>查詢間隔</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_IN_MINUTES">
+        <source></source>
+        <translation>%1 分鐘後</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_IN_SECONDS">
+        <source></source>
+        <translation>%1 秒後</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND">
+        <source></source>
+        <translation>類型</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND_AUTO">
+        <source></source>
+        <translation>自動辨識</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND_EVENTS">
+        <source></source>
+        <translation>伺服器推送事件</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_KIND_TABLE">
+        <source></source>
+        <translation>對應表格</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_LINKS">
+        <source></source>
+        <translation>此網頁的來源</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_MAPPING">
+        <source></source>
+        <translation>對應</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_NOT_ASKED">
+        <source></source>
+        <translation>尚未查詢</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_NOT_READ">
+        <source></source>
+        <translation>目前沒有終端機在讀取</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_PAUSE">
+        <source></source>
+        <translation>暫停(&amp;P)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_PAUSED">
+        <source></source>
+        <translation>已暫停</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_PROXIES">
+        <source></source>
+        <translation>若系統設有代理伺服器則會使用。經由代理伺服器時只能檢查名稱：由代理伺服器找出名稱對應的主機。</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_READY_MADE">
+        <source></source>
+        <translation>現成來源 · %1</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_READ_TERMS">
+        <source></source>
+        <translation>未開啟。請先閱讀發布者的使用條款。</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_REMOVE">
+        <source></source>
+        <translation>移除(&amp;M)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_REMOVE_QUESTION">
+        <source></source>
+        <translation>要移除「%1」嗎？已收到的新聞會保留。</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_RESUME">
+        <source></source>
+        <translation>繼續(&amp;R)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SAVE">
+        <source></source>
+        <translation>儲存(&amp;S)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SECONDS_SUFFIX">
+        <source></source>
+        <translation> 秒</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SECRET">
+        <source></source>
+        <translation>密鑰</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SECRET_KEPT">
+        <source></source>
+        <translation>已保存；留空則不變</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_SERVICE">
+        <source></source>
+        <translation>新聞服務</translation>
+    </message>
     <message id="TERMINAL_SOURCE_STALE">
         <source></source>
         <translation>無新消息（自 %1）</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_STREAM">
+        <source></source>
+        <translation>串流</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TERMS_QUESTION">
+        <source></source>
+        <translation>「%1」由%2發布。開啟後，本終端機會持續向 %3 查詢。請先閱讀發布者的使用條款：%4</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TERMS_READ">
+        <source></source>
+        <translation>我已閱讀，新增(&amp;A)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TEST">
+        <source></source>
+        <translation>測試(&amp;T)</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TITLE">
+        <source></source>
+        <translation>名稱</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_UP">
+        <source></source>
+        <translation>上移 (Alt+Up)</translation>
     </message>
     <message id="TERMINAL_STATUS_CONNECT">
         <source></source>
@@ -2243,6 +2567,42 @@
     <message id="TERMINAL_SYMBOL_UNKNOWN">
         <source></source>
         <translation>查無此商品</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_ASKING">
+        <source></source>
+        <translation>查詢中…</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_HEADLINE">
+        <source></source>
+        <translation>標題</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_ITEMS">
+        <source></source>
+        <translation>前幾則新聞的顯示方式：讀取 %1 則，拒收 %2 則。</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_NOTHING">
+        <source></source>
+        <translation>有回應，但目前沒有任何新聞。</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_PAGE">
+        <source></source>
+        <translation>這是網頁，其中列出 %1 個來源。</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_REJECTED">
+        <source></source>
+        <translation>拒收 %1 則，第一則的原因：%2</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TIME">
+        <source></source>
+        <translation>時間</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TITLE">
+        <source></source>
+        <translation>前幾則新聞的顯示方式</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TOPIC">
+        <source></source>
+        <translation>分類</translation>
     </message>
     <message id="TERMINAL_VIEW_FAILED">
         <source></source>

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/sources/trial_reading.h"
+
+#include "tests/support/qt_printers.h"
+#include "tests/terminal/sources/announcements.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+namespace {
+
+QString linesOf(const TrialReport& report) {
+    QStringList lines;
+    for (const TrialItem& item : report.first)
+        lines += QString::number(item.time) + u'|' + item.category + u'|' + item.title;
+    return lines.join(u'\n');
+}
+
+QByteArray feed(int items) {
+    QByteArray rss = "<rss><channel><title>T</title><link>https://a.example/</link>";
+    for (int i = 1; i <= items; ++i)
+        rss += "<item><guid>g" + QByteArray::number(i) + "</guid><title>Item " + QByteArray::number(i) +
+               "</title><pubDate>Mon, 02 Mar 2026 09:" + QByteArray::number(10 + i) +
+               ":00 GMT</pubDate></item>";
+    return rss + "<item><guid>x</guid><title>No date</title></item></channel></rss>";
+}
+
+TEST(TrialReading, ShowsTheNewestItemsAsTheyWouldStand) {
+    NetworkSource source;
+    source.categoryRule = CategoryRule::Otherwise;
+    source.category = u"Papers"_s;
+    const TrialReport report = readTrial(feed(12), source, QUrl(u"https://a.example/feed"_s));
+    EXPECT_EQ(report.items, 12);
+    EXPECT_EQ(report.rejected, 1);
+    EXPECT_TRUE(report.reason);
+    ASSERT_EQ(report.first.size(), TrialReport::mostItems);
+    EXPECT_EQ(linesOf(report).section(u'\n', 0, 1),
+              u"1772443320|Papers|Item 12\n1772443260|Papers|Item 11"_s);
+    EXPECT_FALSE(report.fitting || report.fault);
+}
+
+TEST(TrialReading, ProposesTheMappingThatFitsATable) {
+    const TrialReport report = readTrial(announcements(), {}, QUrl(u"http://127.0.0.1:8000/list.json"_s));
+    ASSERT_TRUE(report.fitting);
+    EXPECT_EQ(report.fitting->kind, NetworkKind::Table);
+    EXPECT_EQ(report.fitting->mapping, u"exchange_announcements"_s);
+    EXPECT_EQ(linesOf(report),
+              u"1772430632|第51款|公告本公司更換會計師\n1772413203|第12款|召開法人說明會說明"_s);
+    EXPECT_EQ(linesOf(readTrial(announcements(), *report.fitting, {})), linesOf(report));
+}
+
+TEST(TrialReading, TellsPagesEmptyListsAndWhatIsNoNews) {
+    const TrialReport page = readTrial(
+        "\xef\xbb\xbf<!DOCTYPE html><html><head><link rel=alternate type=application/rss+xml title=F "
+        "href=/f>",
+        {}, QUrl(u"https://a.example/x/"_s));
+    EXPECT_EQ(page.links, (std::vector<FeedLink>{{u"F"_s, QUrl(u"https://a.example/f"_s)}}));
+    EXPECT_FALSE(page.fault);
+    struct Case {
+        QByteArray body;
+        NetworkKind kind;
+        QString mapping;
+        bool isFault;
+    };
+    const Case cases[] = {
+        {"<html><body>Sign in</body></html>", NetworkKind::Auto, {}, true},
+        {"", NetworkKind::Auto, {}, true},
+        {R"([{"price": 1}])", NetworkKind::Auto, {}, true},
+        {"<rss><channel/></rss>", NetworkKind::Auto, {}, false},
+        {announcements(), NetworkKind::Table, u"/no/such/file"_s, true},
+        {R"([{"price": 1}])", NetworkKind::Table, u"articles"_s, false},
+    };
+    for (const Case& each : cases) {
+        NetworkSource source;
+        source.kind = each.kind;
+        source.mapping = each.mapping;
+        const TrialReport report = readTrial(each.body, source, QUrl(u"https://a.example/"_s));
+        EXPECT_EQ(report.fault.has_value(), each.isFault) << each.body.toStdString();
+        EXPECT_EQ(report.items, 0);
+        EXPECT_FALSE(report.fitting);
+    }
+}
+
+}  // namespace
+}  // namespace wirepane
