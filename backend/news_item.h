@@ -40,7 +40,9 @@ struct SymbolItem {
     unsigned char market = 0;
     QString code;
     QString name;
-    int category = 1;  // the market's kind of symbol
+    int category = 1;          // the market's kind of symbol
+    QString englishName = {};  // where `name` is in another language; empty: not known, the store keeps the
+                               // one that it has
 };
 
 // One entry of a service's category catalogue.

@@ -12,6 +12,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <array>
 #include <map>
 
 namespace wirepane {
@@ -106,7 +107,7 @@ bool SampleWire::Desk::handCategories(const Taker& take) const {
 bool SampleWire::Desk::handSymbols(const Taker& take) const {
     for (unsigned char market : {stockExchangeService, emergingBoardService, hongKongService})
         for (const Company& company : companies.companies(market))
-            if (!take(SymbolItem{market, company.code, company.chinese, 1}))
+            if (!take(SymbolItem{market, company.code, company.chinese, 1, company.english}))
                 return false;
     return std::all_of(companies.warrants().begin(), companies.warrants().end(),
                        [&take](const Warrant& warrant) {
@@ -170,14 +171,16 @@ void SampleWire::Desk::follow(std::int64_t moment, const TimedTaker& take) const
 }
 
 bool SampleWire::Desk::tick(std::int64_t moment, const Taker& take) const {
-    constexpr int symbols = 12;
+    constexpr int symbols = 60;  // each company once in some fifteen seconds
+    constexpr std::array traded{stockExchangeService, stockExchangeService, emergingBoardService,
+                                hongKongService};
     const LocalTime at = LocalTime::fromUtc(moment);
     Random random(hashOf(options.seed, static_cast<std::uint64_t>(moment)));
     for (int i = 0; i < symbols; ++i) {
-        const unsigned char market = i % 4 == 0 ? hongKongService : stockExchangeService;
-        const auto& traded = companies.companies(market);
+        const unsigned char market = traded[static_cast<std::size_t>(i) % traded.size()];
+        const auto& listed = companies.companies(market);
         const Company& company =
-            traded[static_cast<std::size_t>(random.between(0, static_cast<int>(traded.size()) - 1))];
+            listed[static_cast<std::size_t>(random.between(0, static_cast<int>(listed.size()) - 1))];
         const Quote quote = markets.share(company, at);
         const std::int64_t step = std::max<std::int64_t>(quote.now / 500, 1);
         const std::int64_t now = std::max(step, quote.now + step * random.between(-3, 3));

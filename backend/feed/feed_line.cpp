@@ -86,6 +86,7 @@ Result<StoreItem> symbolEntryFrom(const QJsonObject& object) {
     symbol.market = static_cast<unsigned char>(fields.number(u"market"_s, 1, lastId));
     symbol.code = fields.text(u"code"_s);
     symbol.name = fields.text(u"name"_s);
+    symbol.englishName = fields.optionalText(u"english"_s).value_or(QString());
     symbol.category =
         static_cast<int>(fields.optionalNumber(u"category"_s, 0, mostNumber).value_or(symbol.category));
     if (const auto& fault = fields.fault())

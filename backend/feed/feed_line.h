@@ -24,7 +24,8 @@ struct FeedRecord {
 //   {"item": ITEM, "position": TEXT}      news as a store holds it: service, identity, version, time, title,
 //                                         story, category, related [{market, code}], sequence
 //   {"quote": QUOTE, "position": TEXT}    what a symbol trades at: market, code, last, change, volume
-//   {"symbol": SYMBOL, "position": TEXT}  an entry of the symbol table: market, code, name, category
+//   {"symbol": SYMBOL, "position": TEXT}  an entry of the symbol table: market, code, name, category,
+//                                         english
 //   {"category": CATEGORY, "position": TEXT}  an entry of a service's catalogue: service, id, name, colour
 using FeedLine = std::variant<FeedHandshake, FeedRecord>;
 

@@ -41,12 +41,13 @@ QByteArray lineOf(const NewsItem& item, const QString& position) {
 }
 
 QByteArray lineOf(const SymbolItem& symbol, const QString& position) {
-    return recordLine(u"symbol"_s,
-                      {{u"market"_s, symbol.market},
+    QJsonObject object{{u"market"_s, symbol.market},
                        {u"code"_s, symbol.code},
                        {u"name"_s, symbol.name},
-                       {u"category"_s, symbol.category}},
-                      position);
+                       {u"category"_s, symbol.category}};
+    if (!symbol.englishName.isEmpty())
+        object[u"english"_s] = symbol.englishName;
+    return recordLine(u"symbol"_s, object, position);
 }
 
 QByteArray lineOf(const CategoryItem& category, const QString& position) {

@@ -26,6 +26,8 @@ constexpr std::array headerNames{
     HeaderName{u"公司名稱", Column::Name},
     HeaderName{u"Security Name", Column::Name},
     HeaderName{u"Company Name", Column::Name},
+    HeaderName{u"english", Column::EnglishName},
+    HeaderName{u"英文簡稱", Column::EnglishName},
     HeaderName{u"category", Column::Category},
     HeaderName{u"service", Column::Service},
     HeaderName{u"id", Column::Id},

@@ -11,8 +11,8 @@
 namespace wirepane {
 
 // The columns of tables that the importers read.
-enum class Column { Market, Code, Name, Category, Service, Id, Colour, Last, Change, Volume };
-constexpr std::size_t columnCount = 10;
+enum class Column { Market, Code, Name, EnglishName, Category, Service, Id, Colour, Last, Change, Volume };
+constexpr std::size_t columnCount = 11;
 
 // Where each column of a table stands, worked out from its header line.
 class TableColumns {

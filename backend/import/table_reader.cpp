@@ -82,6 +82,7 @@ Result<StoreItem> symbolItem(const TableColumns& columns, const QStringList& row
     item.name = titleLine(columns.field(row, Column::Name));
     if (item.name.isEmpty())
         return makeError<import_errors::symbolWithoutName>(item.code);
+    item.englishName = titleLine(columns.field(row, Column::EnglishName));
     item.market = marketOfList(columns.market(), options);
     if (columns.has(Column::Market)) {
         const auto market =

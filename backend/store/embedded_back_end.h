@@ -160,7 +160,10 @@ public:
     // called as it is where another one of its service is called so.
     void nameBy(std::function<QString(const QString&)> naming) { nameOf = std::move(naming); }
     void setConvertsToSimplified(bool on) { simplified = on; }  // at first: false
-    void setSysPath(const QString& path) { sysPath = path; }    // at first: the contract's default
+    // Symbols go by their English names, where these are known; at first: false. Receivers that show names
+    // are told that these symbols have changed.
+    void setPrefersEnglishNames(bool on);
+    void setSysPath(const QString& path) { sysPath = path; }  // at first: the contract's default
     // How many headlines (at most) searches do not find yet, since an import has brought more than the index
     // holds; as of the last checkForNews(). All searches are answered again when it becomes 0.
     std::int64_t searchBacklog() const { return unindexed; }

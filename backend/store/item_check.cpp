@@ -79,6 +79,7 @@ SymbolItem cleaned(const SymbolItem& item) {
     SymbolItem clean = item;
     clean.code = cleanTitle(item.code);
     clean.name = cleanTitle(item.name);
+    clean.englishName = cleanTitle(item.englishName);
     return clean;
 }
 
@@ -128,8 +129,9 @@ std::optional<Error> faultOf(const NewsItem& item) {
 std::optional<Error> faultOf(const SymbolItem& item) {
     if (item.market == 0)
         return makeError<store_errors::symbolWithoutMarket>();
-    if (item.name.size() > limits::symbolNameLength)
-        return tooLong(makeError<store_errors::nameOfSymbol>(), item.name.size(), limits::symbolNameLength);
+    if (const auto size = std::max(item.name.size(), item.englishName.size());
+        size > limits::symbolNameLength)
+        return tooLong(makeError<store_errors::nameOfSymbol>(), size, limits::symbolNameLength);
     return symbolFault(item.code);
 }
 

@@ -49,7 +49,7 @@ template <class Stream, class Item>
 void pass(Stream&& each, Item& item) {
     using Kind = std::remove_const_t<Item>;
     if constexpr (std::is_same_v<Kind, SymbolItem>)
-        each(item.market, item.code, item.name, item.category);
+        each(item.market, item.code, item.name, item.category, item.englishName);
     else if constexpr (std::is_same_v<Kind, CategoryItem>)
         each(item.service, item.id, item.name, item.colour);
     else if constexpr (std::is_same_v<Kind, QuoteItem>)

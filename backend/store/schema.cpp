@@ -188,8 +188,13 @@ CREATE INDEX item_origins_by_link ON item_origins(service, link, identity);
 CREATE INDEX item_origins_by_age ON item_origins(taken);
 )sql";
 
+constexpr const char* englishNames = R"sql(
+ALTER TABLE symbols ADD COLUMN english_name TEXT NOT NULL DEFAULT '';
+)sql";
+
 constexpr std::array steps{firstVersion, arrivalsAndPositions, ownSearchWords, quotes,
-                           goneKeys,     blocksOfImports,      retention,      networkSources};
+                           goneKeys,     blocksOfImports,      retention,      networkSources,
+                           englishNames};
 
 }  // namespace
 

@@ -65,8 +65,9 @@ StoreWriter::StoreWriter(Database& owner)
           "INSERT INTO set_aside(headline, identity) SELECT id, identity FROM all_headlines WHERE id = ?"),
       // No identity of a source begins with such a character.
       renameAside(owner, "UPDATE all_headlines SET identity = char(1) || id WHERE id = ?"),
-      findSymbol(owner, "SELECT name, category FROM symbols WHERE market = ? AND code = ?"),
-      writeSymbol(owner, "REPLACE INTO symbols(market, code, name, category) VALUES(?, ?, ?, ?)") {}
+      findSymbol(owner, "SELECT name, category, english_name FROM symbols WHERE market = ? AND code = ?"),
+      writeSymbol(owner,
+                  "REPLACE INTO symbols(market, code, name, category, english_name) VALUES(?, ?, ?, ?, ?)") {}
 
 Done StoreWriter::begin() {
     return beginAs(false);
@@ -342,14 +343,21 @@ Result<TakeOutcome> StoreWriter::takeSymbol(const SymbolItem& item) {
         return makeError<store_errors::nothingBegun>(makeError<store_errors::symbol>());
     if (const auto fault = faultOf(item))
         return TakeOutcome{Take::Rejected, fault};
+    SymbolItem symbol = item;
     {
         Query query(findSymbol, item.market, item.code);
-        if (query.next() && query.text(0) == item.name && query.number(1) == item.category)
+        const bool isThere = query.next();
+        const QString english = isThere ? query.text(2) : QString();
+        if (symbol.englishName.isEmpty())
+            symbol.englishName = english;
+        if (isThere && query.text(0) == symbol.name && query.number(1) == symbol.category &&
+            symbol.englishName == english)
             return TakeOutcome{Take::AlreadyThere, {}};
     }
-    if (!Query(writeSymbol, item.market, item.code, item.name, item.category).run())
+    if (!Query(writeSymbol, symbol.market, symbol.code, symbol.name, symbol.category, symbol.englishName)
+             .run())
         return fail();
-    changedSymbols.push_back(item);
+    changedSymbols.push_back(std::move(symbol));
     return TakeOutcome{};
 }
 

@@ -4,6 +4,7 @@
 
 #include "backend/database/database.h"
 #include "backend/database/statement.h"
+#include "backend/words/character_folding.h"
 
 #include <algorithm>
 #include <array>
@@ -12,19 +13,25 @@ namespace wirepane {
 
 namespace {
 
+// As the news search folds it: full width, case, Traditional and Simplified Chinese.
 QString folded(const QString& text) {
-    return text.normalized(QString::NormalizationForm_KC).toCaseFolded();
+    const CharacterFolding& folding = CharacterFolding::instance();
+    QString result;
+    for (char32_t character : text.normalized(QString::NormalizationForm_KC).toUcs4())
+        result += QChar::fromUcs4(folding.folded(character));
+    return result;
 }
 
 }  // namespace
 
 Done SymbolTable::load(Database& database) {
-    Statement all(database, "SELECT market, code, name, category FROM symbols");
+    Statement all(database, "SELECT market, code, name, category, english_name FROM symbols");
     std::map<unsigned char, std::map<QString, Entry>> read;
     std::swap(read, byMarket);
     Query rows(all);
     while (rows.next())
-        put({static_cast<unsigned char>(rows.number(0)), rows.text(1), rows.text(2), rows.smallNumber(3)});
+        put({static_cast<unsigned char>(rows.number(0)), rows.text(1), rows.text(2), rows.smallNumber(3),
+             rows.text(4)});
     if (!rows.failed())
         return Nothing{};
     std::swap(read, byMarket);
@@ -32,7 +39,8 @@ Done SymbolTable::load(Database& database) {
 }
 
 void SymbolTable::put(const SymbolItem& symbol) {
-    byMarket[symbol.market][symbol.code] = {symbol, folded(symbol.code), folded(symbol.name)};
+    const QString names = symbol.name + QLatin1Char('\n') + symbol.englishName;
+    byMarket[symbol.market][symbol.code] = {symbol, folded(symbol.code), folded(names)};
 }
 
 std::vector<unsigned char> SymbolTable::markets() const {
@@ -50,6 +58,21 @@ const SymbolItem* SymbolTable::find(unsigned char market, const QString& code) c
     return entry == symbols->second.end() ? nullptr : &entry->second.symbol;
 }
 
+const QString& SymbolTable::nameOf(const SymbolItem& symbol) const {
+    return prefersEnglish && !symbol.englishName.isEmpty() ? symbol.englishName : symbol.name;
+}
+
+std::vector<CSymbolUpdateInfo> SymbolTable::withTwoNames() const {
+    std::vector<CSymbolUpdateInfo> result;
+    for (const auto& [market, symbols] : byMarket) {
+        for (const auto& [code, entry] : symbols) {
+            if (!entry.symbol.englishName.isEmpty())
+                result.push_back({market, code});
+        }
+    }
+    return result;
+}
+
 std::vector<SymbolItem> SymbolTable::search(const QString& text, std::size_t limit) const {
     const QString wanted = folded(text.trimmed());
     std::array<std::vector<SymbolItem>, 3> found;  // exact code, code, name
@@ -61,7 +84,7 @@ std::vector<SymbolItem> SymbolTable::search(const QString& text, std::size_t lim
                 found[0].push_back(entry.symbol);
             else if (entry.foldedCode.startsWith(wanted))
                 found[1].push_back(entry.symbol);
-            else if (entry.foldedName.contains(wanted))
+            else if (entry.foldedNames.contains(wanted))
                 found[2].push_back(entry.symbol);
         }
     }
@@ -76,7 +99,7 @@ bool SymbolTable::FindSearchList(const QString& typed, std::vector<QString>& can
     constexpr std::size_t mostCandidates = 200;
     candidates.clear();
     for (const SymbolItem& symbol : search(typed, mostCandidates)) {
-        const QString text = symbol.code + QLatin1Char(' ') + symbol.name;
+        const QString text = symbol.code + QLatin1Char(' ') + nameOf(symbol);
         const auto marketsWithCode = std::count_if(byMarket.begin(), byMarket.end(), [&](const auto& market) {
             return market.second.count(symbol.code) != 0;
         });
@@ -96,7 +119,7 @@ bool SymbolTable::GetSymbolsByService(unsigned char service, std::vector<QString
         return false;
     for (const auto& [code, entry] : symbols->second) {
         codes.push_back(code);
-        names.push_back(entry.symbol.name);
+        names.push_back(nameOf(entry.symbol));
     }
     return true;
 }

@@ -9,13 +9,15 @@
 #include <QString>
 
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace wirepane {
 class Database;
 
 // All symbols of the store, in memory: by market in the order of their codes, and searched by code and name.
-// Full-width letters and digits, and upper and lower case, are alike in a search. Interface thread only.
+// Searches look through the names in both languages; full-width letters and digits, upper and lower case,
+// Traditional and Simplified Chinese are alike in them. Interface thread only.
 class SymbolTable : public SearchControl {
 public:
     // Reads the table anew.
@@ -27,8 +29,14 @@ public:
     std::vector<unsigned char> markets() const;
     // Null when there is no such symbol.
     const SymbolItem* find(unsigned char market, const QString& code) const;
-    // Up to `limit` symbols whose code begins with the text, or whose name contains it: an exact code first,
-    // then codes, then names; within each by market and code. An empty text finds nothing.
+    // The name that a symbol goes by: its own, or the English one where that is preferred and known.
+    const QString& nameOf(const SymbolItem& symbol) const;
+    // At first: false. Result: whether that is another choice.
+    bool setPrefersEnglish(bool on) { return std::exchange(prefersEnglish, on) != on; }
+    // The symbols whose name depends on it.
+    std::vector<CSymbolUpdateInfo> withTwoNames() const;
+    // Up to `limit` symbols whose code begins with the text, or one of whose names contains it: an exact code
+    // first, then codes, then names; within each by market and code. An empty text finds nothing.
     std::vector<SymbolItem> search(const QString& text, std::size_t limit) const;
 
     // Every symbol of a service, whatever the kind: the store keeps no other than those that news may name.
@@ -41,9 +49,10 @@ private:
     struct Entry {
         SymbolItem symbol;
         QString foldedCode;
-        QString foldedName;
+        QString foldedNames;  // both, a line each
     };
     std::map<unsigned char, std::map<QString, Entry>> byMarket;
+    bool prefersEnglish = false;
 };
 
 }  // namespace wirepane

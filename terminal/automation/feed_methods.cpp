@@ -55,6 +55,7 @@ SymbolItem symbolFrom(Params& params, const QJsonValue& value) {
     symbol.market = static_cast<unsigned char>(fields.number(u"market"_s, 1, lastId));
     symbol.code = fields.text(u"code"_s);
     symbol.name = fields.text(u"name"_s);
+    symbol.englishName = fields.optionalText(u"english"_s).value_or(QString());
     const bool supported = fields.optionalBool(u"supported"_s).value_or(true);
     symbol.category = static_cast<int>(fields.optionalNumber(u"category"_s, 0)
                                            .value_or(supported ? supportedCategory : unsupportedCategory));

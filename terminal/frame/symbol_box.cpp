@@ -4,6 +4,7 @@
 
 #include "host/controls/line_icon.h"
 #include "terminal/frame/link_badge.h"
+#include "terminal/frame/symbol_offers.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QAbstractItemView>
@@ -12,7 +13,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QStringListModel>
+#include <QScrollBar>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -21,12 +24,8 @@ namespace wirepane {
 namespace {
 
 constexpr std::size_t mostOffers = 200;
-constexpr int offersInSight = 14;
+constexpr int mostInSight = 14;
 constexpr int lineWidth = 22;  // average characters
-
-QString offerText(const SymbolItem& symbol) {
-    return symbol.name.isEmpty() ? symbol.code : u"%1  %2"_s.arg(symbol.code, symbol.name);
-}
 
 }  // namespace
 
@@ -36,7 +35,8 @@ SymbolBox::SymbolBox(QWidget* parent)
       line(new QLineEdit(this)),
       name(new QLabel(this)),
       completer(new QCompleter(this)),
-      offered(new QStringListModel(this)) {
+      offers(new SymbolOffers(this)),
+      rows(new SymbolOfferDelegate(*offers, this)) {
     badge->setOffersNone(false);
     badge->setGroup(1);
     name->setTextFormat(Qt::PlainText);
@@ -49,10 +49,14 @@ SymbolBox::SymbolBox(QWidget* parent)
     row->addWidget(badge);
     row->addWidget(line);
     row->addWidget(name, 1);
-    completer->setModel(offered);
+    completer->setModel(offers);
     completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-    completer->setMaxVisibleItems(offersInSight);
+    completer->setMaxVisibleItems(mostInSight);
     completer->setWidget(line);
+    QAbstractItemView* list = completer->popup();
+    list->setItemDelegate(rows);
+    list->installEventFilter(this);
+    connect(list->verticalScrollBar(), &QScrollBar::valueChanged, this, &SymbolBox::tellInSight);
     line->installEventFilter(this);
     connect(line, &QLineEdit::textEdited, this, &SymbolBox::offer);
     connect(line, &QLineEdit::returnPressed, this, &SymbolBox::takeTopmost);
@@ -80,10 +84,10 @@ void SymbolBox::showSymbol(unsigned char group, const SymbolItem& symbol) {
 void SymbolBox::showCurrent() {
     const auto found = current.find(badge->group());
     const SymbolItem symbol = found == current.end() ? SymbolItem{} : found->second;
-    offers.clear();
+    offers->offer({});
     completer->popup()->hide();
     line->setText(symbol.code);
-    name->setText(symbol.name);
+    name->setText(namesOf(symbol).first);
 }
 
 void SymbolBox::begin() {
@@ -94,37 +98,56 @@ void SymbolBox::begin() {
 void SymbolBox::retranslate() {
     line->setPlaceholderText(terminalText(TextId::SymbolPrompt));
     line->setAccessibleName(terminalText(TextId::SymbolBar));
+    completer->popup()->setAccessibleName(terminalText(TextId::SymbolBar));
     line->setFixedWidth(fontMetrics().averageCharWidth() * lineWidth + fontMetrics().height() * 2);
     badge->setGroup(badge->group());
 }
 
 void SymbolBox::offer(const QString& typed) {
-    offers = find ? find(typed, mostOffers) : std::vector<SymbolItem>();
-    QStringList texts;
-    for (const SymbolItem& symbol : offers)
-        texts.append(offerText(symbol));
-    offered->setStringList(texts);
-    name->setText(offers.empty() && !typed.trimmed().isEmpty() ? terminalText(TextId::SymbolUnknown)
-                                                               : QString());
-    if (offers.empty()) {
+    offers->offer(find ? find(typed, mostOffers) : std::vector<SymbolItem>());
+    const bool fitsNone = offers->symbols().empty();
+    name->setText(fitsNone && !typed.trimmed().isEmpty() ? terminalText(TextId::SymbolUnknown) : QString());
+    if (fitsNone) {
         completer->popup()->hide();
         return;
     }
-    completer->complete();
-    completer->popup()->setCurrentIndex(completer->popup()->model()->index(0, 0));
+    QAbstractItemView* list = completer->popup();
+    const int barWidth = list->verticalScrollBar()->sizeHint().width() + 2 * list->frameWidth();
+    completer->complete(
+        {0, 0, std::max(line->width(), rows->measure(list->font()) + barWidth), line->height()});
+    list->setCurrentIndex(list->model()->index(0, 0));
+    tellInSight();
+}
+
+void SymbolBox::tellInSight() {
+    const QAbstractItemView* list = completer->popup();
+    std::vector<CSymbolInfo> inSight;
+    if (list->isVisible()) {
+        const int first = std::max(0, list->indexAt(QPoint(0, 0)).row());
+        const int last = std::min(first + mostInSight + 1, static_cast<int>(offers->symbols().size()));
+        for (int row = first; row < last; ++row)
+            inSight.push_back(offers->quoteOf(row).symbol);
+    }
+    emit offersInSight(inSight);
+}
+
+void SymbolBox::showQuote(const CQuoteMemory& quote) {
+    if (offers->takeQuote(quote))
+        completer->popup()->viewport()->update();
 }
 
 void SymbolBox::take(int offerRow) {
-    if (offerRow < 0 || offerRow >= static_cast<int>(offers.size()))
+    const std::vector<SymbolItem>& symbols = offers->symbols();
+    if (offerRow < 0 || offerRow >= static_cast<int>(symbols.size()))
         return;
-    const SymbolItem symbol = offers[static_cast<std::size_t>(offerRow)];
+    const SymbolItem symbol = symbols[static_cast<std::size_t>(offerRow)];
     showSymbol(badge->group(), symbol);
     line->selectAll();
     emit chosen(badge->group(), symbol);
 }
 
 void SymbolBox::takeTopmost() {
-    if (offers.empty())
+    if (offers->symbols().empty())
         offer(line->text());
     take(0);
 }
@@ -136,6 +159,8 @@ bool SymbolBox::eventFilter(QObject* watched, QEvent* event) {
         emit left();
         return true;
     }
+    if (watched == completer->popup() && event->type() == QEvent::Hide)
+        tellInSight();
     // What was typed and not taken gives way to what is in force.
     if (watched == line && event->type() == QEvent::FocusOut &&
         static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason &&

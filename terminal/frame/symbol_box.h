@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/news_item.h"
+#include "host/contract/records.h"
 
 #include <QWidget>
 
@@ -13,14 +14,15 @@
 class QCompleter;
 class QLabel;
 class QLineEdit;
-class QStringListModel;
 
 namespace wirepane {
 class LinkBadge;
+class SymbolOfferDelegate;
+class SymbolOffers;
 
-// The entry of symbols in the tool bar: a link group, and a line that completes codes and names. Enter or a
-// click takes an offer (Enter at first the topmost); a text that fits no symbol
-// is said to be unknown; Escape brings the group's symbol back and gives the keyboard to the view.
+// The entry of symbols in the tool bar: a link group, and a line that completes codes and names, each offer
+// with its quote. Enter or a click takes an offer (Enter at first the topmost); a text that fits no symbol is
+// said to be unknown; Escape brings the group's symbol back and gives the keyboard to the view.
 class SymbolBox : public QWidget {
     Q_OBJECT
 
@@ -37,6 +39,8 @@ public:
     void showGroup(unsigned char group);
     // What a group's symbol is now.
     void showSymbol(unsigned char group, const SymbolItem& symbol);
+    // What a symbol trades at, of those that are in sight (offersInSight).
+    void showQuote(const CQuoteMemory& quote);
     // Gives the box the keyboard, with its text selected.
     void begin();
     // Sets the texts in the language in force.
@@ -45,6 +49,8 @@ public:
 signals:
     // The user chose a symbol for the group.
     void chosen(unsigned char group, const wirepane::SymbolItem& symbol);
+    // The symbols whose quotes the user sees are these now.
+    void offersInSight(const std::vector<CSymbolInfo>& symbols);
     // The user is done here without choosing.
     void left();
 
@@ -56,14 +62,15 @@ private:
     void take(int offerRow);
     void takeTopmost();
     void showCurrent();
+    void tellInSight();
 
     LinkBadge* badge;
     QLineEdit* line;
     QLabel* name;
     QCompleter* completer;
-    QStringListModel* offered;
+    SymbolOffers* offers;
+    SymbolOfferDelegate* rows;
     Search find;
-    std::vector<SymbolItem> offers;
     std::map<unsigned char, SymbolItem> current;  // by group
 };
 

@@ -148,6 +148,7 @@ void Session::connectParts() {
     SymbolBox& box = mainFrame->symbolBox();
     box.setSearch(
         [this](const QString& text, std::size_t limit) { return store->symbols().search(text, limit); });
+    offerQuotes = std::make_unique<OfferQuotes>(*store, box);
     connect(&box, &SymbolBox::chosen, linkGroups.get(),
             [this](unsigned char group, const SymbolItem& symbol) {
                 linkGroups->change(nullptr, group, symbol);
@@ -332,6 +333,7 @@ bool Session::useLanguage(const QString& code) {
     // Set before the texts change, so that a view that writes them anew writes them so.
     if (Languages::codes().contains(code)) {
         store->setConvertsToSimplified(simplified);
+        store->setPrefersEnglishNames(code == "en"_L1);
         terminalSettings->setSimplifiedGlyphs(simplified);
     }
     return languages.use(code);

@@ -14,6 +14,7 @@
 #include "terminal/session/category_display.h"
 #include "terminal/session/category_watch.h"
 #include "terminal/session/link_groups.h"
+#include "terminal/session/offer_quotes.h"
 #include "terminal/session/retention_keeper.h"
 #include "terminal/session/status_report.h"
 #include "terminal/session/user_stores.h"
@@ -163,6 +164,7 @@ private:
     std::unique_ptr<WorkspaceKeeper> workspaceKeeper;
     std::unique_ptr<CategoryWatch> categoryWatch;
     std::unique_ptr<StatusReport> status;
+    std::unique_ptr<OfferQuotes> offerQuotes;
     std::unique_ptr<RetentionKeeper> retention;
     std::unique_ptr<StoreGuard> guard;
     FollowedView followed;

@@ -76,6 +76,7 @@ TEST(FeedLineTest, AQuoteIsReadWithItsPosition) {
 TEST(FeedLineTest, EntriesOfTheSymbolTableAndOfCataloguesComeBackAsTheyWere) {
     const StoreItem entries[] = {
         SymbolItem{52, u"030012"_s, u"嵐蘅岩港購01"_s, 3},
+        SymbolItem{16, u"6214"_s, u"澄川電子"_s, 1, u"Chengchuan Electronics"_s},
         SymbolItem{1, u"X"_s, u"X"_s, 0},
         CategoryItem{22, 301, u"港股"_s, u"#2a8c55"_s},
         QuoteItem{16, u"2330"_s, 601.35, -0.1, mostVolume},

@@ -43,6 +43,16 @@ TEST(SymbolTable, ReadsTheKnownLists) {
     EXPECT_EQ(american.complaints(), u"");
 }
 
+TEST(SymbolTable, ReadsTheEnglishNames) {
+    for (const char* heading : {"英文簡稱", "English"}) {
+        const auto out =
+            readAll(QByteArray("公司代號,公司簡稱,") + heading + "\n1101,台泥,TCC\n1102,亞泥,\n");
+        ASSERT_EQ(out.items.size(), 2U);
+        EXPECT_EQ(std::get<SymbolItem>(out.items.front()).englishName, u"TCC") << heading;
+        EXPECT_EQ(std::get<SymbolItem>(out.items.back()).englishName, u"") << heading;
+    }
+}
+
 TEST(SymbolTable, ReadsCodePage950AndUtf16) {
     QStringEncoder encoder("windows-950");
     ASSERT_TRUE(encoder.isValid());

@@ -26,12 +26,14 @@ protected:
         put(16, "2330", "Aster Chips");
         put(16, "2331", "台灣水泥 ABC");
         put(16, "1101", "Harbour 2330 Holdings");
+        put(22, "00700", "灣翹證券", "Kiu Wan Securities");
         put(122, "23", "Young Board");
         put(1, "NA", "Nano Labs");
     }
-    void put(unsigned char market, const char* code, const char* name, int category = 1) {
-        ASSERT_TRUE(
-            backEnd->takeIn(SymbolItem{market, QString::fromUtf8(code), QString::fromUtf8(name), category}));
+    void put(unsigned char market, const char* code, const char* name, const char* english = "",
+             int category = 1) {
+        ASSERT_TRUE(backEnd->takeIn(SymbolItem{market, QString::fromUtf8(code), QString::fromUtf8(name),
+                                               category, QString::fromUtf8(english)}));
     }
 
     QTemporaryDir folder;
@@ -53,6 +55,9 @@ TEST_F(SymbolTableTest, FindsByCodeAndName) {
         {"aster", 9, "2330"},
         {"ＡＢＣ", 9, "2331"},
         {"水泥", 9, "2331"},
+        {"台湾", 9, "2331"},  // typed in simplified characters
+        {"wan sec", 9, "00700"},
+        {"湾翘", 9, "00700"},
         {"na", 9, "NA"},
         {"330", 9, "1101"},
         {"", 9, ""},
@@ -67,7 +72,7 @@ TEST_F(SymbolTableTest, FindsByCodeAndName) {
 TEST_F(SymbolTableTest, AnswersWhatViewsAsk) {
     std::vector<unsigned char> services;
     EXPECT_TRUE(backEnd->bGetAllServiceID(services));
-    EXPECT_EQ(services, (std::vector<unsigned char>{1, 16, 122}));
+    EXPECT_EQ(services, (std::vector<unsigned char>{1, 16, 22, 122}));
     std::vector<QString> codes;
     std::vector<QString> names;
     EXPECT_TRUE(backEnd->bGetSymbolID(16, codes, names));
@@ -79,7 +84,7 @@ TEST_F(SymbolTableTest, AnswersWhatViewsAsk) {
     EXPECT_EQ(backEnd->bIsSymbolIDExist(16, QStringLiteral("2330")), 1);
     EXPECT_EQ(backEnd->bIsSymbolIDExist(122, QStringLiteral("2330")), 0);
 
-    put(16, "2330", "Aster Chips renamed", 7);
+    put(16, "2330", "Aster Chips renamed", "", 7);
     int category = 0;
     EXPECT_TRUE(backEnd->bGetCategorybySymbolID(category, 16, QStringLiteral("2330")));
     EXPECT_EQ(category, 7);
@@ -93,6 +98,32 @@ TEST_F(SymbolTableTest, AnswersWhatViewsAsk) {
     EXPECT_FALSE(backEnd->bGetServiceID2Delay(16, delayed));
     EXPECT_EQ(backEnd->bIsFromTheSameAuthServiceID(23, 22), 1);
     EXPECT_EQ(backEnd->bIsFromTheSameAuthServiceID(16, 22), 0);
+}
+
+TEST_F(SymbolTableTest, SymbolsGoByTheirEnglishNamesWhereTheseArePreferred) {
+    struct Told : NewsReceiver {
+        void vDoSymbolUpdate(const std::vector<CSymbolUpdateInfo>& updates) override {
+            for (const CSymbolUpdateInfo& update : updates)
+                codes += update.code;
+        }
+        QStringList codes;
+    } told;
+    const auto nameOf = [this] {
+        QString name;
+        backEnd->bGetItemDataByItemNo(name, 22, QStringLiteral("00700"), symbol_items::name);
+        return name.toStdString();
+    };
+    EXPECT_EQ(nameOf(), "灣翹證券");
+    backEnd->attach(&told);
+    backEnd->setPrefersEnglishNames(true);
+    backEnd->setPrefersEnglishNames(true);
+    EXPECT_EQ(told.codes, QStringList(QStringLiteral("00700"))) << "once, and of no symbol with one name";
+    EXPECT_EQ(nameOf(), "Kiu Wan Securities");
+    put(22, "00700", "灣翹控股");
+    EXPECT_EQ(nameOf(), "Kiu Wan Securities") << "a source that knows no English name takes none away";
+    put(22, "00700", "灣翹控股", "Kiu Wan Holdings");
+    EXPECT_EQ(nameOf(), "Kiu Wan Holdings");
+    backEnd->detach(&told);
 }
 
 TEST_F(SymbolTableTest, SeesWhatAnotherProgramAdds) {

@@ -10,9 +10,11 @@
 #include "terminal/frame/view_dock.h"
 #include "tests/terminal/program/frame_fixture.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QInputDialog>
 #include <QLineEdit>
@@ -82,6 +84,30 @@ TEST_F(DeskTest, ViewsAreOpenedReachedAndClosedByKeys) {
     EXPECT_TRUE(session->frame().desk().isVisible()) << "an empty desk says how to go on";
     press(Qt::Key_N);
     EXPECT_EQ(workspace.docked().size(), 1U);
+}
+
+TEST_F(DeskTest, OffersOfTheSymbolBoxShowNamesAndTheQuotesOfThoseInSight) {
+    press(Qt::Key_K);
+    QTest::keyClicks(QApplication::focusWidget(), u"2"_s);
+    auto* list = session->frame().symbolBox().findChild<QCompleter*>()->popup();
+    ASSERT_TRUE(list->isVisible());
+    const auto textOf = [list](int row) { return list->model()->index(row, 0).data().toString(); };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return textOf(0).endsWith(u'%'); }));
+    const SymbolItem symbol = session->backEnd().symbols().search(u"2"_s, 1).at(0);
+    EXPECT_TRUE(textOf(0).startsWith(u"%1  %2  %3  "_s.arg(symbol.code, symbol.englishName, symbol.name)))
+        << textOf(0).toStdString();
+    const int lastRow = list->model()->rowCount() - 1;
+    EXPECT_FALSE(textOf(lastRow).contains(u'%')) << "nobody sees it";
+
+    // A quote that comes changes its row and nothing else.
+    list->setCurrentIndex(list->model()->index(2, 0));
+    ASSERT_TRUE(session->backEnd().takeIn(QuoteItem{symbol.market, symbol.code, 12345.5, 45.5, 1}));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return textOf(0).contains(u"12,345.50  +45.50"_s); }));
+    EXPECT_EQ(list->currentIndex().row(), 2);
+
+    list->scrollToBottom();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return textOf(lastRow).endsWith(u'%'); }));
+    QTest::keyClick(list, Qt::Key_Escape);
 }
 
 TEST_F(DeskTest, TheSymbolBoxDrivesTheViewsOfItsGroup) {

@@ -30,9 +30,13 @@ protected:
         for (const unsigned char market : {stockExchangeService, emergingBoardService, hongKongService}) {
             std::vector<QString> codes;
             std::vector<QString> names;
-            session->backEnd().symbols().GetSymbolsByService(market, codes, names, 0);
-            for (std::size_t i = 0; i < codes.size(); ++i)
-                news.unite({names[i], codes[i] + u' ' + names[i]});
+            SymbolTable& symbols = session->backEnd().symbols();
+            symbols.GetSymbolsByService(market, codes, names, 0);
+            for (const QString& code : codes) {
+                const SymbolItem& symbol = *symbols.find(market, code);
+                for (const QString& name : {symbol.name, symbol.englishName})
+                    news.unite({name, code + u' ' + name});
+            }
         }
         ASSERT_GT(news.size(), 20);
     }
