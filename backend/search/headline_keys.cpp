@@ -106,11 +106,8 @@ std::optional<std::vector<CHeadlineTable>> HeadlineKeys::entries(unsigned char s
     if (!catchUp())
         return std::nullopt;
     std::vector<CHeadlineTable> found;
-    if (const auto known = byService.find(service); known != byService.end()) {
-        known->second.forEachOf(ids, [&](std::int64_t time, std::int32_t sequence) {
-            found.push_back({time, sequence, service, 0, 0});
-        });
-    }
+    if (const auto known = byService.find(service); known != byService.end())
+        found = known->second.entriesOf(ids, service);
     if (oldestId > 0 && ids.mayHoldAny(0, oldestId))
         appendOlder(found, service, ids);
     return found;

@@ -21,7 +21,7 @@ public:
     }
     bool contains(std::int64_t id) const {
         const auto word = std::size_t(id >> 6);
-        return word < bits.size() && (bits[word] & bitOf(id)) != 0;
+        return word < bits.size() && (bits[word] >> (id & 63) & 1) != 0;
     }
     // False only when none of these ids is in the set; a wide range is not looked through.
     bool mayHoldAny(std::int64_t first, std::int64_t last) const {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <bit>
 #include <iterator>
+#include <utility>
 
 namespace wirepane {
 
@@ -62,11 +63,42 @@ KeyBlocks::Block::Block(const StoredKey* keys, std::size_t size)
     }
 }
 
+// Without a branch for each, since nothing foretells which ones are in the set.
+std::uint8_t* KeyBlocks::Block::placesOf(const IdSet& ids, std::uint8_t* places) const {
+    for (std::size_t place = 0; place < count; ++place) {
+        *places = static_cast<std::uint8_t>(place);
+        places += ids.contains(id(place)) ? 1 : 0;
+    }
+    return places;
+}
+
 void KeyBlocks::Block::pack(std::size_t bit, unsigned width, std::uint64_t value) {
     const unsigned shift = bit % 64;
     words[bit / 64] |= value << shift;
     if (shift + width > 64)
         words[bit / 64 + 1] |= value >> (64 - shift);
+}
+
+// All places first, so that the entries, of which there may be millions, are written once and at their place.
+std::vector<CHeadlineTable> KeyBlocks::entriesOf(const IdSet& ids, unsigned char service) const {
+    std::vector<std::uint8_t> places(count + 1);
+    std::vector<std::uint16_t> found(blocks.size());  // by block
+    std::uint8_t* end = places.data();
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+        if (!ids.mayHoldAny(blocks[i].leastId, blocks[i].lastId))
+            continue;
+        std::uint8_t* const begin = std::exchange(end, blocks[i].placesOf(ids, end));
+        found[i] = static_cast<std::uint16_t>(end - begin);
+    }
+    std::vector<CHeadlineTable> entries;
+    entries.reserve(static_cast<std::size_t>(end - places.data()));
+    for (std::size_t i = blocks.size(); i-- > 0;) {
+        for (std::uint16_t left = found[i]; left > 0; --left) {
+            --end;
+            entries.push_back({blocks[i].time(*end), blocks[i].sequence(*end), service, 0, 0});
+        }
+    }
+    return entries;
 }
 
 bool KeyBlocks::isBefore(const StoredKey& key, const Block& block) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/search/id_set.h"
+#include "host/contract/records.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -25,24 +26,17 @@ class KeyBlocks {
 public:
     // Adds keys, in any order. One that is there gets the id that comes with it.
     void add(std::vector<StoredKey> keys);
-    // Calls `take(time, sequence)` with each key whose id is in the set, newest first.
-    template <class Take>
-    void forEachOf(const IdSet& ids, Take take) const {
-        for (auto block = blocks.rbegin(); block != blocks.rend(); ++block) {
-            if (!ids.mayHoldAny(block->leastId, block->lastId))
-                continue;
-            for (std::size_t place = block->count; place-- > 0;) {
-                if (ids.contains(block->id(place)))
-                    take(block->time(place), block->sequence(place));
-            }
-        }
-    }
+    // The entries whose ids are in the set, newest first.
+    std::vector<CHeadlineTable> entriesOf(const IdSet& ids, unsigned char service) const;
     std::size_t size() const { return count; }
 
 private:
     struct Block {
         explicit Block(const StoredKey* keys, std::size_t count);
 
+        // Writes the places whose ids are in the set, oldest first, where there is room for one more than
+        // that of all keys; returns the end.
+        std::uint8_t* placesOf(const IdSet& ids, std::uint8_t* places) const;
         std::uint32_t id(std::size_t place) const {
             return leastId + static_cast<std::uint32_t>(field(place * idBits, idBits));
         }
