@@ -6,7 +6,6 @@
 #include <bit>
 #include <numeric>
 #include <span>
-#include <tuple>
 
 namespace wirepane {
 
@@ -61,10 +60,6 @@ HeadlineRows sortedWhole(const TableRuns& runs) {
 }
 
 }  // namespace
-
-bool newerFirst(const CHeadlineTable& a, const CHeadlineTable& b) {
-    return std::tie(a.time, a.sequence, a.second, a.last) > std::tie(b.time, b.sequence, b.second, b.last);
-}
 
 HeadlineRows sortedNewestFirst(const TableRuns& runs) {
     const auto isSorted = [](const std::vector<CHeadlineTable>& run) {

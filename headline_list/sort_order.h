@@ -11,7 +11,13 @@ namespace wirepane {
 
 // The order of every headline table: newest first by time, then by sequence number, then by the two opaque
 // values, all descending.
-bool newerFirst(const CHeadlineTable& a, const CHeadlineTable& b);
+inline bool newerFirst(const CHeadlineTable& a, const CHeadlineTable& b) {
+    if (a.time != b.time)
+        return a.time > b.time;
+    if (a.sequence != b.sequence)
+        return a.sequence > b.sequence;
+    return a.second != b.second ? a.second > b.second : a.last > b.last;
+}
 
 // The tables of several services, one behind the other.
 using TableRuns = std::vector<std::vector<CHeadlineTable>>;

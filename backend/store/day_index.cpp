@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/day_index.h"
 
+#include "backend/database/database.h"
+
 #include <algorithm>
 
 namespace wirepane {
@@ -11,9 +13,14 @@ constexpr std::size_t mostDays = 10'000;  // most of them empty, then
 }
 
 DayIndex::DayIndex(Database& database, std::size_t mostEntries)
-    : range(database,
+    : store(database),
+      range(database,
             "SELECT time, sequence FROM headlines WHERE service = ? AND time >= ? AND time < ? "
             "ORDER BY time, sequence"),
+      wholeRange(database,
+                 "SELECT time, sequence FROM all_headlines WHERE service = ? AND time >= ? AND time < ? "
+                 "ORDER BY time, sequence"),
+      isAnyHidden(database, "SELECT 1 FROM import_blocks WHERE hidden LIMIT 1"),
       most(mostEntries) {}
 
 int DayIndex::append(std::vector<CHeadlineTable>& table, unsigned char service, QDate date) {
@@ -46,13 +53,22 @@ DayIndex::Day& DayIndex::find(unsigned char service, QDate date) {
 
 void DayIndex::load(Day& day, unsigned char service) {
     day.entries.clear();
-    Query query(range, service, day.bounds.begin, day.bounds.end);
+    Query query(canReadAll() ? wholeRange : range, service, day.bounds.begin, day.bounds.end);
     while (query.next())
         day.entries.push_back(
             {static_cast<std::int32_t>(query.number(0) - day.bounds.begin), query.smallNumber(1)});
     // A day that could not be read whole is read again the next time.
     if (query.failed())
         day.bounds = {};
+}
+
+// Looking at each row whether it is hidden takes a third of the reading; where nothing is, at this very
+// moment of the store, none need be looked at.
+bool DayIndex::canReadAll() {
+    if (!store.inTransaction())
+        return false;
+    Query hidden(isAnyHidden);
+    return !hidden.next() && !hidden.failed();
 }
 
 void DayIndex::makeRoom(const Day& kept) {

@@ -54,12 +54,16 @@ private:
 
     Day& find(unsigned char service, QDate day);
     void load(Day& day, unsigned char service);
+    bool canReadAll();
     void makeRoom(const Day& kept);
     // Calls `change` with every day in memory that holds the time of `key`, and with the entry.
     template <class Change>
     void forDaysOf(const HeadlineKey& key, Change change);
 
+    Database& store;
     Statement range;
+    Statement wholeRange;
+    Statement isAnyHidden;
     std::size_t most;
     std::size_t count = 0;
     std::int64_t uses = 0;

@@ -24,10 +24,11 @@ namespace {
 std::int64_t readIndex(Database& store) {
     const DayBounds bounds = boundsOf(newsDay);
     sqlite3_stmt* statement = nullptr;
-    sqlite3_prepare_v2(store.handle(),
-                       "SELECT time, sequence FROM headlines WHERE service = ? AND time >= ? AND time < ? "
-                       "ORDER BY time DESC, sequence DESC",
-                       -1, &statement, nullptr);
+    sqlite3_prepare_v2(
+        store.handle(),
+        "SELECT time, sequence FROM all_headlines WHERE service = ? AND time >= ? AND time < ? "
+        "ORDER BY time DESC, sequence DESC",
+        -1, &statement, nullptr);
     std::int64_t sum = 0;
     for (int service = 1; service <= serviceCount; ++service) {
         sqlite3_bind_int(statement, 1, service);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/day_index.h"
 
+#include "backend/database/read_transaction.h"
 #include "tests/backend/store/store_fixture.h"
 #include "tests/support/time_zone.h"
 
@@ -46,6 +47,21 @@ TEST_F(DayIndexTest, TooManyEntriesDropTheDaysAskedForLongestAgo) {
     DayIndex tiny(*store, 3);
     EXPECT_EQ(tiny.append(table, 1, monday), 11);
     EXPECT_EQ(tiny.append(table, 1, QDate()), 0);
+}
+
+TEST_F(DayIndexTest, WhatAnImportHidesIsLeftOutWhateverTheMomentThatIsRead) {
+    fill(monday, 1, 10);
+    const auto sizeOfDay = [this] {
+        std::vector<CHeadlineTable> table;
+        return DayIndex(*store).append(table, 1, monday);
+    };
+    for (const auto& [blocks, shown] : {std::pair("INSERT INTO import_blocks VALUES(3, 5, 1)", 7),
+                                        std::pair("UPDATE import_blocks SET hidden = 0", 10)}) {
+        ASSERT_TRUE(store->execute(blocks));
+        EXPECT_EQ(sizeOfDay(), shown) << blocks;
+        const ReadTransaction moment(*store);
+        EXPECT_EQ(sizeOfDay(), shown) << blocks;
+    }
 }
 
 TEST_F(DayIndexTest, ADayIsTheLocalDayAlsoAfterAMoveToAnotherZone) {
