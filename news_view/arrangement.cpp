@@ -4,6 +4,7 @@
 
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
+#include "host/controls/row_look.h"
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/controls/xtp_tab_control.h"
@@ -27,6 +28,10 @@ namespace {
 // What a text needs beside it in its control: margins, and the arrow or the icon.
 constexpr int besideText = 36;
 constexpr int widestCategory = 240;
+
+int besideTextOf(const QWidget& control) {
+    return grown(besideText, control.font());
+}
 
 }  // namespace
 
@@ -70,13 +75,13 @@ bool Arrangement::isAligned() const {
 int Arrangement::widthOfDate() const {
     const auto* picker = parts.controls.find<SDateTimeCtrl>(ids::datePicker);
     return picker != nullptr
-               ? picker->fontMetrics().horizontalAdvance(QStringLiteral("0000/00/00")) + besideText
+               ? picker->fontMetrics().horizontalAdvance(QStringLiteral("0000/00/00")) + besideTextOf(*picker)
                : 0;
 }
 
-int Arrangement::widthOfCategories() const {
-    const auto* combo = parts.controls.find<SCComboBox>(ids::categoryCombo);
-    return combo != nullptr ? std::min(combo->widestItem() + besideText, widestCategory) : 0;
+int Arrangement::widthOfCombo(int id) const {
+    const auto* combo = parts.controls.find<SCComboBox>(id);
+    return combo != nullptr ? combo->widestItem() + besideTextOf(*combo) : 0;
 }
 
 ButtonNeeds Arrangement::needs() const {
@@ -88,7 +93,9 @@ ButtonNeeds Arrangement::needs() const {
             of(ids::showTypeButton),
             {of(ids::pageDownButton), of(ids::pageUpButton), of(ids::saveAsButton), of(ids::printButton)},
             widthOfDate(),
-            widthOfCategories()};
+            std::min(widthOfCombo(ids::categoryCombo), grown(widestCategory, parts.window.font())),
+            widthOfCombo(ids::serviceCombo),
+            widthOfCombo(ids::symbolCombo)};
 }
 
 ViewLayout Arrangement::layout() const {

@@ -47,7 +47,7 @@ private:
     LayoutInput input() const;
     bool isAligned() const;
     int widthOfDate() const;
-    int widthOfCategories() const;
+    int widthOfCombo(int id) const;
     ButtonNeeds needs() const;
 
     ViewContext& view;

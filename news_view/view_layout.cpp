@@ -57,9 +57,9 @@ int layOutControls(const LayoutInput& in, const Frame& frame, int top, int botto
     out.relationButton = place(a + (in.aligned ? 4 : 2), std::max(unit, in.needs.relation));
     out.datePicker = place(a + 4, std::max(dateWidth, in.needs.date));
     out.categoryCombo = place(a + 4, std::max(dateWidth + 20, in.needs.category));
-    out.serviceCombo = place(a + 4, in.serviceComboText + in.captionButtonWidth);
+    out.serviceCombo = place(a + 4, std::max(in.serviceComboText + in.captionButtonWidth, in.needs.market));
     const int symbolLeft = out.serviceCombo.x() + out.serviceCombo.width() + 4;
-    out.symbolCombo = place(symbolLeft, in.symbolComboText + 25);
+    out.symbolCombo = place(symbolLeft, std::max(in.symbolComboText + 25, in.needs.symbol));
     const int gap = in.aligned ? 4 : 2;
     out.searchEdit = place(a + (in.aligned ? 4 : 3), 2 * (unit + 6));
     const int searchLeft = out.searchEdit.x() + out.searchEdit.width() + gap;

@@ -20,7 +20,9 @@ struct ButtonNeeds {
     int showType = 0;
     std::array<int, 4> output{};  // page down, page up, save as, print
     int date = 0;                 // of the date picker
-    int category = 0;             // of the category combo
+    int category = 0;             // of the combos
+    int market = 0;
+    int symbol = 0;
 };
 
 // All that the layout of a news view depends on. Pixels of the view's client area.

@@ -3,6 +3,7 @@
 #include "search/adv_search_dlg.h"
 
 #include "host/contract/lang_text.h"
+#include "host/controls/roomy_rows.h"
 #include "host/controls/window_id.h"
 #include "search/condition_texts.h"
 #include "search/dialog_controls.h"
@@ -24,6 +25,7 @@ namespace {
 
 constexpr int scopeWidth = 100;
 constexpr int methodWidth = 80;
+constexpr int characters = 100;
 constexpr int recentRows = 5;  // that are in sight
 
 }  // namespace
@@ -42,7 +44,7 @@ CAdvSearchDlg::CAdvSearchDlg(const CSearch& edited, const KeywordList& keywordPo
     column->addLayout(createChoices());
     column->addLayout(createRecent());
     column->addLayout(createEnd());
-    resize(fontMetrics().averageCharWidth() * 100, sizeHint().height());
+    fitToScreen(this, characters, {{recentList, RoomyRows::heightOf(fontMetrics()), recentRows}});
     fillRecent();
     loadCondition();
 }

@@ -3,6 +3,7 @@
 #include "search/dialog_controls.h"
 
 #include "host/contract/lang_text.h"
+#include "host/controls/screen_room.h"
 #include "host/controls/window_id.h"
 #include "search/search_ids.h"
 #include "search/search_keys.h"
@@ -15,6 +16,8 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+
+#include <algorithm>
 
 namespace wirepane {
 
@@ -63,6 +66,23 @@ QLayout* addEnd(QDialog* dialog, QPushButton* ok) {
     row->addWidget(ok);
     row->addWidget(cancel);
     return row;
+}
+
+void fitToScreen(QDialog* dialog, int characters, std::vector<RowsInSight> lists) {
+    constexpr int fewestRows = 1;
+    const QSize room =
+        withinScreen(*dialog, {dialog->fontMetrics().averageCharWidth() * characters, QWIDGETSIZE_MAX});
+    const auto mostRows = [](const RowsInSight& a, const RowsInSight& b) { return a.rows < b.rows; };
+    if (dialog->minimumSizeHint().height() > room.height())
+        dialog->layout()->setSpacing(dialog->fontMetrics().height() / 4);
+    while (dialog->minimumSizeHint().height() > room.height()) {
+        const auto longest = std::max_element(lists.begin(), lists.end(), mostRows);
+        if (longest == lists.end() || longest->rows <= fewestRows)
+            break;
+        --longest->rows;
+        longest->list->setMinimumHeight(longest->list->minimumHeight() - longest->rowHeight);
+    }
+    dialog->resize(room.width(), std::min(dialog->sizeHint().height(), room.height()));
 }
 
 int runOver(QWidget* below, QDialog* child) {

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <span>
+#include <vector>
 
 class QButtonGroup;
 class QDialog;
@@ -37,6 +38,16 @@ QButtonGroup* addChoices(QDialog* dialog, QGridLayout& grid, int row, QLabel* ca
 // The last row of the dialog: `ok`, and a button that cancels. They come last in the order of the Tab key
 // when all other controls are there.
 QLayout* addEnd(QDialog* dialog, QPushButton* ok);
+
+// A list that shows so many rows of this height where the screen has room for them.
+struct RowsInSight {
+    QWidget* list;
+    int rowHeight;
+    int rows;
+};
+// Makes a dialog so many characters wide and as high as it asks to be; on a screen that is too low, these
+// lists show fewer rows. To be called when all is in its place.
+void fitToScreen(QDialog* dialog, int characters, std::vector<RowsInSight> lists = {});
 
 // Runs a dialog over a window or a part of it, which gets the keyboard back. Its result; QDialog::Rejected
 // when what is below is gone by then, and `child` with it. Below may be nothing.

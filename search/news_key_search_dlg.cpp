@@ -28,6 +28,7 @@ namespace {
 
 constexpr int methodWidth = 90;
 constexpr int newsTypesWidth = 160;
+constexpr int characters = 100;
 constexpr int newsTypeRows = 5;  // that are in sight
 constexpr int keySetRows = 6;
 
@@ -47,9 +48,10 @@ CNewsKeySearchDlg::CNewsKeySearchDlg(const KeywordList& keywordPool, const Categ
     column->addLayout(createComposition(), 1);
     column->addLayout(createKeySets());
     column->addLayout(createEnd());
-    resize(fontMetrics().averageCharWidth() * 100, sizeHint().height());
-    for (std::size_t row = 0; row < keySets.size(); ++row)
-        fillRow(static_cast<int>(row));
+    const int row = RoomyRows::heightOf(fontMetrics());
+    fitToScreen(this, characters, {{newsTypeList, row, newsTypeRows}, {keySetList, row, keySetRows}});
+    for (std::size_t set = 0; set < keySets.size(); ++set)
+        fillRow(static_cast<int>(set));
 }
 
 // Between what belongs together.

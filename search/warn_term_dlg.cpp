@@ -4,6 +4,7 @@
 
 #include "host/contract/lang_text.h"
 #include "host/controls/heap_dialog.h"
+#include "host/controls/roomy_rows.h"
 #include "host/controls/window_id.h"
 #include "search/condition_texts.h"
 #include "search/dialog_controls.h"
@@ -25,6 +26,7 @@ namespace {
 constexpr int numberWidth = 24;
 constexpr int scopeWidth = 72;
 constexpr int methodWidth = 72;
+constexpr int characters = 90;
 constexpr int rowsInSight = 10;
 
 // A method that is not set has no text.
@@ -44,7 +46,7 @@ CWarnTermDlg::CWarnTermDlg(const WarningItems& items, const CSearch& inForce, QW
     column->addWidget(list, 1);
     column->addLayout(createCommands());
     column->addLayout(createEnd());
-    resize(fontMetrics().averageCharWidth() * 90, sizeHint().height());
+    fitToScreen(this, characters, {{list, RoomyRows::heightOf(fontMetrics()), rowsInSight}});
     for (int row = 0; warnings.itemAt(row) != nullptr; ++row)
         fillRow(row);
     list->setFocus();

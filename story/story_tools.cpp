@@ -5,6 +5,7 @@
 #include "headline_list/language_keys.h"
 #include "host/contract/lang_text.h"
 #include "host/controls/line_icon.h"
+#include "host/controls/row_look.h"
 
 #include <QKeySequence>
 #include <QToolButton>
@@ -15,7 +16,7 @@ namespace wirepane {
 
 namespace {
 
-constexpr int side = 28;
+constexpr int usualSide = 28;
 constexpr int gap = 4;
 constexpr std::size_t pin = 3;
 
@@ -40,10 +41,9 @@ StoryTools::StoryTools(QWidget* parent) : QWidget(parent) {
         row[at]->setIcon(lineIcon(tools[at].icon));
         row[at]->setAutoRaise(true);
         row[at]->setFocusPolicy(Qt::StrongFocus);
-        row[at]->setGeometry(static_cast<int>(at) * (side + gap), 0, side, side);
     }
     row[pin]->setCheckable(true);
-    setFixedSize(static_cast<int>(tools.size()) * (side + gap) - gap, side);
+    fitTo(font());
     connect(row[0], &QToolButton::clicked, this, &StoryTools::copyWanted);
     connect(row[1], &QToolButton::clicked, this, [this] { emit sizeWanted(-1); });
     connect(row[2], &QToolButton::clicked, this, [this] { emit sizeWanted(1); });
@@ -55,6 +55,13 @@ bool StoryTools::isPinned() const {
 
 void StoryTools::unpin() {
     row[pin]->setChecked(false);
+}
+
+void StoryTools::fitTo(const QFont& font) {
+    const int side = grown(usualSide, font);
+    for (std::size_t at = 0; at < row.size(); ++at)
+        row[at]->setGeometry(static_cast<int>(at) * (side + gap), 0, side, side);
+    setFixedSize(static_cast<int>(row.size()) * (side + gap) - gap, side);
 }
 
 void StoryTools::loadTexts() {

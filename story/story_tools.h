@@ -21,6 +21,8 @@ public:
     void unpin();
     // In the language in force.
     void loadTexts();
+    // As large as goes with texts in the font.
+    void fitTo(const QFont& font);
     // In the order in which they stand.
     const std::array<QToolButton*, 4>& buttons() const { return row; }
 

@@ -9,6 +9,7 @@
 #include "host/controls/line_icon.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/quote_static_ex.h"
+#include "host/controls/row_look.h"
 #include "host/controls/s_button.h"
 #include "host/controls/window_id.h"
 #include "host/views/main_frame_window.h"
@@ -42,7 +43,7 @@ constexpr QSize initialSize{640, 480};
 // With tools.
 constexpr QSize largerSize{760, 820};
 constexpr int cascade = 28;
-constexpr int barHeight = 36;
+constexpr int usualBarHeight = 36;
 constexpr int barMargin = 8;
 constexpr int barGap = 3;
 
@@ -346,9 +347,11 @@ void TRVNewsStory::showEvent(QShowEvent* event) {
 
 // The story is as wide as the dialog; its headline stands in it.
 void TRVNewsStory::layOutWithTools() {
+    tools->fitTo(dialogFont);
+    const int barHeight = grown(usualBarHeight, dialogFont);
     QSize size(0, barHeight - 2 * (barMargin - 1));
     for (const SButton* button : buttons)
-        size.setWidth(std::max({size.width(), button->sizeHint().width(), button->widthWithIcon()}));
+        size = size.expandedTo(button->sizeHint()).expandedTo({button->widthWithIcon(), 0});
     int left = barMargin;
     const int top = (barHeight - size.height()) / 2;
     for (const std::size_t at : orderWithTools) {

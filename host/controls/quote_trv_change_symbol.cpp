@@ -6,6 +6,7 @@
 #include "host/contract/lang_text.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/roomy_rows.h"
+#include "host/controls/screen_room.h"
 #include "host/controls/symbol_matches.h"
 #include "host/controls/window_id.h"
 
@@ -66,7 +67,7 @@ bool QuoteTRVChangeSymbol::Create() {
     column->addWidget(search);
     column->addWidget(tree);
     column->addLayout(buttons);
-    resize(fontMetrics().averageCharWidth() * 56, fontMetrics().height() * 26);
+    resize(withinScreen(*this, {fontMetrics().averageCharWidth() * 56, fontMetrics().height() * 26}));
 
     connect(search, &QLineEdit::textChanged, this, &QuoteTRVChangeSymbol::showMatches);
     connect(tree, &QTreeWidget::itemExpanded, this, &QuoteTRVChangeSymbol::fillMarket);

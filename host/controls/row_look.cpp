@@ -25,6 +25,11 @@ int textHeight(const QFont& font) {
     return std::max(QFontMetrics(font).height(), high);
 }
 
+int grown(int pixels, const QFont& font) {
+    constexpr int usualTextHeight = 18;
+    return std::max(pixels, pixels * textHeight(font) / usualTextHeight);
+}
+
 QFont sizedFont(const QFont& font, int share) {
     constexpr double whole = 1000;
     QFont sized = font;

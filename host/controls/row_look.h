@@ -24,6 +24,8 @@ WIREPANE_HOST_EXPORT RowLook rowLook(const ViewOptions& options);
 
 // The larger of the font's height and 1.35 times its size: a Chinese glyph beside a low Latin font needs it.
 WIREPANE_HOST_EXPORT int textHeight(const QFont& font);
+// What so many pixels at the usual size of type are beside this font; never less.
+WIREPANE_HOST_EXPORT int grown(int pixels, const QFont& font);
 // The font in `share` parts of 1000 of its size.
 WIREPANE_HOST_EXPORT QFont sizedFont(const QFont& font, int share);
 // What headings, tags and chips have of the size of their rows' font.

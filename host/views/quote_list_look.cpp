@@ -36,10 +36,8 @@ void QuoteListBaseView::setLook(const RowLook& look) {
 QuoteWidths QuoteListBaseView::wantedWidths() const {
     constexpr int cellMargins = 10;
     constexpr int sortMarkRoom = 12;
-    constexpr int usualTextHeight = 18;
     const QFontMetrics metrics(GetViewFont());
     const int character = metrics.horizontalAdvance(u'0');
-    const int height = textHeight(GetViewFont());
     const RowLook& look = sheet->look();
     QuoteWidths wanted{};
     for (std::size_t column = 0; column < wanted.size(); ++column) {
@@ -48,7 +46,7 @@ QuoteWidths QuoteListBaseView::wantedWidths() const {
         const int header = metrics.horizontalAdvance(langText(kind.headerKey)) + sortMarkRoom;
         wanted.at(column) = std::max(characters * character, header) + cellMargins;
         if (look.finished)
-            wanted.at(column) = std::max(kind.width * height / usualTextHeight, wanted.at(column));
+            wanted.at(column) = std::max(grown(kind.width, GetViewFont()), wanted.at(column));
     }
     wanted.front() += look.gutter;
     return wanted;

@@ -14,10 +14,9 @@ namespace wirepane {
 namespace {
 
 constexpr int margin = 3;
-constexpr int iconSide = 12;
 
-QIcon iconOf(unsigned char group) {
-    QPixmap picture(iconSide, iconSide);
+QIcon iconOf(unsigned char group, int side) {
+    QPixmap picture(side, side);
     picture.fill(link_groups::colour(group));
     return {picture};
 }
@@ -33,7 +32,7 @@ void addLinkGroups(QMenu& menu, unsigned char present, bool withNone, bool short
             menu.addAction(number == 0 ? terminalText(TextId::LinkNone)
                                        : terminalText(TextId::LinkGroup).arg(link_groups::label(linkGroup)));
         if (number > 0)
-            action->setIcon(iconOf(linkGroup));
+            action->setIcon(iconOf(linkGroup, menu.fontMetrics().ascent()));
         if (shortcuts)
             action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + number)));
         action->setCheckable(true);

@@ -17,6 +17,8 @@
 #include <QStatusBar>
 #include <QToolBar>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -54,7 +56,6 @@ MainFrame::MainFrame()
       symbolBar(barWith(symbols)),
       statusLine(new StatusLine) {
     statusBar()->setSizeGripEnabled(false);
-    statusBar()->setMinimumHeight(statusHeight);
     statusBar()->addWidget(statusLine, 1);
     connect(statusLine, &StatusLine::importAsked, this, [this] { emit commanded(FrameCommand::ImportNews); });
     connect(statusLine, &StatusLine::connectAsked, this, [this] { emit commanded(FrameCommand::Connect); });
@@ -106,6 +107,7 @@ void MainFrame::showChoices(const MenuState& state) {
 
 void MainFrame::showStatus(const FrameStatus& status) {
     statusLine->show(status);
+    statusBar()->setMinimumHeight(std::max(statusHeight, statusLine->sizeHint().height()));
 }
 
 void MainFrame::showCaption(const QString& viewCaption) {

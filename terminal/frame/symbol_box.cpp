@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -25,7 +26,7 @@ namespace {
 
 constexpr std::size_t mostOffers = 200;
 constexpr int mostInSight = 14;
-constexpr int lineWidth = 22;  // average characters
+constexpr int lineWidth = 18;  // average characters
 
 }  // namespace
 
@@ -99,8 +100,22 @@ void SymbolBox::retranslate() {
     line->setPlaceholderText(terminalText(TextId::SymbolPrompt));
     line->setAccessibleName(terminalText(TextId::SymbolBar));
     completer->popup()->setAccessibleName(terminalText(TextId::SymbolBar));
-    line->setFixedWidth(fontMetrics().averageCharWidth() * lineWidth + fontMetrics().height() * 2);
+    fitLine();
     badge->setGroup(badge->group());
+}
+
+// As wide as what it asks for, beside its two icons.
+void SymbolBox::fitLine() {
+    const QFontMetrics metrics = fontMetrics();
+    const int text =
+        std::max(metrics.averageCharWidth() * lineWidth, metrics.horizontalAdvance(line->placeholderText()));
+    line->setFixedWidth(text + 2 * (style()->pixelMetric(QStyle::PM_SmallIconSize) + metrics.height()));
+}
+
+void SymbolBox::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitLine();
 }
 
 void SymbolBox::offer(const QString& typed) {

@@ -56,8 +56,10 @@ signals:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void fitLine();
     void offer(const QString& typed);
     void take(int offerRow);
     void takeTopmost();

@@ -21,8 +21,6 @@ QToolButton* flatButton(LineIcon icon, QWidget* parent) {
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setIcon(lineIcon(icon, QPalette::PlaceholderText));
-    button->setIconSize(QSize(14, 14));
-    button->setFixedSize(20, 20);
     return button;
 }
 

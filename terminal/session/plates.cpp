@@ -14,6 +14,7 @@ namespace {
 constexpr qreal corner = 4;
 constexpr qreal ringWidth = 2;
 constexpr int tabLine = 2;
+constexpr int tabMargin = 8;
 
 // A rounded rectangle with an outline of `width` within the place.
 void drawRounded(QPainter& painter, const QRectF& place, const QBrush& fill, const QColor& outline,
@@ -31,6 +32,11 @@ void drawRounded(QPainter& painter, const QRectF& place, const QBrush& fill, con
 QColor neededOutline(const QPalette& palette) {
     const bool alike = palette.color(QPalette::Button) == palette.color(QPalette::Window);
     return alike ? palette.color(QPalette::Dark) : QColor();
+}
+
+QFont tabFont(QFont font, bool inFront) {
+    font.setWeight(inFront ? QFont::DemiBold : QFont::Normal);
+    return font;
 }
 
 bool has(const QStyleOption& option, QStyle::State states) {
@@ -91,18 +97,20 @@ void drawPopupFrame(const QStyleOption& option, QPainter& painter) {
     painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
 }
 
+int tabWidth(const QStyleOptionTab& option, const QFont& font) {
+    const QFontMetrics metrics(tabFont(font, true));
+    return metrics.size(Qt::TextShowMnemonic, option.text).width() + 2 * tabMargin;
+}
+
 void drawTab(const QStyleOptionTab& option, QPainter& painter) {
     const QPalette& palette = option.palette;
     const bool selected = has(option, QStyle::State_Selected);
     const bool enabled = has(option, QStyle::State_Enabled);
     const QRect& place = option.rect;
     painter.fillRect(QRect(place.left(), place.bottom(), place.width(), 1), palette.color(QPalette::Mid));
-    constexpr int margin = 8;
     painter.save();
-    QFont font = painter.font();
-    font.setWeight(selected ? QFont::DemiBold : QFont::Normal);
-    painter.setFont(font);
-    const QRect room = place.adjusted(margin, 0, -margin, 0);
+    painter.setFont(tabFont(painter.font(), selected));
+    const QRect room = place.adjusted(tabMargin, 0, -tabMargin, 0);
     const int textWidth =
         std::min(room.width(), painter.fontMetrics().size(Qt::TextShowMnemonic, option.text).width());
     if (selected)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+class QFont;
 class QPainter;
 class QRect;
 class QStyleOption;
@@ -24,6 +25,8 @@ void drawListFrame(const QStyleOption& option, QPainter& painter, bool inView);
 void drawPopupFrame(const QStyleOption& option, QPainter& painter);
 // A tab of a strip above what it belongs to, and what is written on it.
 void drawTab(const QStyleOptionTab& option, QPainter& painter);
+// What such a tab needs to be written on also while it is in front.
+int tabWidth(const QStyleOptionTab& option, const QFont& font);
 void drawHeading(const QStyleOption& option, QPainter& painter);
 // The ground of the entry of a menu or menu bar that the pointer or the keyboard is on.
 void drawMenuMark(const QStyleOption& option, QPainter& painter);

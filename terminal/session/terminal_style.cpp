@@ -4,6 +4,7 @@
 
 #include "host/contract/colour_roles.h"
 #include "host/controls/line_icon.h"
+#include "host/controls/row_look.h"
 #include "host/controls/thin_bar_style.h"
 #include "host/views/quote_base_view.h"
 #include "terminal/session/indicators.h"
@@ -35,15 +36,18 @@ constexpr int menuBarPadding = 8;
 struct Metric {
     QStyle::PixelMetric metric;
     int pixels;
+    bool grows = false;  // with the size of type
 };
 
 constexpr Metric metrics[] = {
     {QStyle::PM_DefaultFrameWidth, 1},
     {QStyle::PM_ButtonMargin, 8},
-    {QStyle::PM_SmallIconSize, 16},
-    {QStyle::PM_ButtonIconSize, 14},
-    {QStyle::PM_IndicatorWidth, 14},
-    {QStyle::PM_IndicatorHeight, 14},
+    {QStyle::PM_SmallIconSize, 16, true},
+    {QStyle::PM_ButtonIconSize, 14, true},
+    {QStyle::PM_IndicatorWidth, 14, true},
+    {QStyle::PM_IndicatorHeight, 14, true},
+    {QStyle::PM_ExclusiveIndicatorWidth, 14, true},
+    {QStyle::PM_ExclusiveIndicatorHeight, 14, true},
     {QStyle::PM_ScrollBarExtent, thin_bar::widest},
     {QStyle::PM_ScrollBarSliderMin, 24},
     {QStyle::PM_SplitterWidth, 7},
@@ -79,6 +83,11 @@ std::optional<LineIcon> arrowOf(QStyle::PrimitiveElement element) {
         default:
             return std::nullopt;
     }
+}
+
+// Icons and what stands beside text grow with it.
+int grownWithType(int pixels) {
+    return grown(pixels, QApplication::font());
 }
 
 void drawArrow(LineIcon icon, const QStyleOption& option, const QRect& place, int side, QPainter& painter) {
@@ -135,7 +144,7 @@ TerminalStyle::TerminalStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s))
 int TerminalStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     for (const Metric& own : metrics) {
         if (own.metric == metric)
-            return own.pixels;
+            return own.grows ? grownWithType(own.pixels) : own.pixels;
     }
     return QProxyStyle::pixelMetric(metric, option, widget);
 }
@@ -162,17 +171,24 @@ QSize TerminalStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
                                       const QWidget* widget) const {
     if (type == CT_MenuBarItem)
         return size + QSize(2 * menuBarPadding, 10);
-    return QProxyStyle::sizeFromContents(type, option, size, widget);
+    const QSize asked = QProxyStyle::sizeFromContents(type, option, size, widget);
+    // The tab in front is written bolder than it has been measured.
+    if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option); type == CT_TabBarTab && tab)
+        return {std::max(asked.width(), tabWidth(*tab, widget->font())), asked.height()};
+    if (type == CT_ComboBox)
+        return asked + QSize(grownWithType(comboArrowWidth) - comboArrowWidth, 0);
+    return asked;
 }
 
 QRect TerminalStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                                     SubControl subControl, const QWidget* widget) const {
     if (control == CC_ComboBox) {
         const QRect& box = option->rect;
+        const int arrowWidth = grownWithType(comboArrowWidth);
         if (subControl == SC_ComboBoxArrow)
-            return visualRect(option->direction, box, box.adjusted(box.width() - comboArrowWidth, 0, 0, 0));
+            return visualRect(option->direction, box, box.adjusted(box.width() - arrowWidth, 0, 0, 0));
         if (subControl == SC_ComboBoxEditField)
-            return visualRect(option->direction, box, box.adjusted(comboTextMargin, 2, -comboArrowWidth, -2));
+            return visualRect(option->direction, box, box.adjusted(comboTextMargin, 1, -arrowWidth, -1));
     }
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control == CC_ScrollBar && bar != nullptr)
@@ -185,7 +201,8 @@ void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
     if (const auto arrow = arrowOf(element)) {
-        drawArrow(*arrow, *option, option->rect, std::min(arrowSide, option->rect.width()), *painter);
+        drawArrow(*arrow, *option, option->rect, std::min(grownWithType(arrowSide), option->rect.width()),
+                  *painter);
         return;
     }
     switch (element) {
@@ -344,7 +361,7 @@ void TerminalStyle::drawComplexControl(ComplexControl control, const QStyleOptio
         drawInput(*option, *painter, true);
         drawArrow(isDate ? LineIcon::Calendar : LineIcon::Down, *option,
                   subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget).adjusted(0, 0, -2, 0),
-                  isDate ? calendarSide : arrowSide, *painter);
+                  grownWithType(isDate ? calendarSide : arrowSide), *painter);
     } else {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
