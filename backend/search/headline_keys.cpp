@@ -101,7 +101,7 @@ bool HeadlineKeys::catchUp() {
 }
 
 std::optional<std::vector<CHeadlineTable>> HeadlineKeys::entries(unsigned char service, const IdSet& ids) {
-    if (ids.size() <= (isLoaded() ? fewMatches : fewBeforeLoading))
+    if (ids.hasAtMost(isLoaded() ? fewMatches : fewBeforeLoading))
         return lookUp(service, ids);
     if (!catchUp())
         return std::nullopt;

@@ -42,11 +42,11 @@ public:
         for (std::size_t i = 0; i < bits.size(); ++i)
             bits[i] &= other.bits[i];
     }
-    std::size_t size() const {
+    bool hasAtMost(std::size_t most) const {
         std::size_t count = 0;
-        for (const std::uint64_t word : bits)
-            count += std::size_t(std::popcount(word));
-        return count;
+        for (std::size_t i = 0; i < bits.size() && count <= most; ++i)
+            count += std::size_t(std::popcount(bits[i]));
+        return count <= most;
     }
     // Calls `take` with each id, ascending.
     template <class Take>

@@ -64,9 +64,9 @@ KeyBlocks::Block::Block(const StoredKey* keys, std::size_t size)
 }
 
 // Without a branch for each, since nothing foretells which ones are in the set.
-std::uint8_t* KeyBlocks::Block::placesOf(const IdSet& ids, std::uint8_t* places) const {
+std::uint16_t* KeyBlocks::Block::placesOf(const IdSet& ids, std::uint16_t* places) const {
     for (std::size_t place = 0; place < count; ++place) {
-        *places = static_cast<std::uint8_t>(place);
+        *places = static_cast<std::uint16_t>(place);
         places += ids.contains(id(place)) ? 1 : 0;
     }
     return places;
@@ -81,13 +81,13 @@ void KeyBlocks::Block::pack(std::size_t bit, unsigned width, std::uint64_t value
 
 // All places first, so that the entries, of which there may be millions, are written once and at their place.
 std::vector<CHeadlineTable> KeyBlocks::entriesOf(const IdSet& ids, unsigned char service) const {
-    std::vector<std::uint8_t> places(count + 1);
+    std::vector<std::uint16_t> places(count + 1);
     std::vector<std::uint16_t> found(blocks.size());  // by block
-    std::uint8_t* end = places.data();
+    std::uint16_t* end = places.data();
     for (std::size_t i = 0; i < blocks.size(); ++i) {
         if (!ids.mayHoldAny(blocks[i].leastId, blocks[i].lastId))
             continue;
-        std::uint8_t* const begin = std::exchange(end, blocks[i].placesOf(ids, end));
+        std::uint16_t* const begin = std::exchange(end, blocks[i].placesOf(ids, end));
         found[i] = static_cast<std::uint16_t>(end - begin);
     }
     std::vector<CHeadlineTable> entries;

@@ -36,7 +36,7 @@ private:
 
         // Writes the places whose ids are in the set, oldest first, where there is room for one more than
         // that of all keys; returns the end.
-        std::uint8_t* placesOf(const IdSet& ids, std::uint8_t* places) const;
+        std::uint16_t* placesOf(const IdSet& ids, std::uint16_t* places) const;
         std::uint32_t id(std::size_t place) const {
             return leastId + static_cast<std::uint32_t>(field(place * idBits, idBits));
         }

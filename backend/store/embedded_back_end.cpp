@@ -103,11 +103,9 @@ void EmbeddedBackEnd::forgetNews() {
 
 void EmbeddedBackEnd::note(const WorkReport& report) {
     moveOn();
-    // Another program may have done more than put news in.
-    if (report.byOthers) {
-        forgetNews();
+    // What another program did to news stands in the log of arrivals; symbols have none.
+    if (report.byOthers)
         symbolsRead = false;
-    }
     symbolsToTell.insert(symbolsToTell.end(), report.symbols.begin(), report.symbols.end());
     if (report.damage)
         damageOfWork = report.damage;

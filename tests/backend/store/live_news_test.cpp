@@ -92,6 +92,20 @@ TEST_F(LiveNewsTest, WhatAnotherProgramWritesIsToldInTheOrderOfComing) {
     EXPECT_EQ(entriesOfToday(), 4);
 }
 
+// A day is a million headlines at times, and an import beside the terminal commits every second.
+TEST_F(LiveNewsTest, ADayFollowsWhatOthersWriteAndIsNotReadAgain) {
+    takeIn(newsItem(1, u"a"_s, at(11, 0), u"A"_s));
+    EXPECT_EQ(entriesOfToday(), 1);
+    // Outside the rules: only who reads the day again finds it.
+    ASSERT_TRUE(
+        store->execute("INSERT INTO all_headlines(service, time, sequence, day, category, version, "
+                       "received, identity, title) SELECT 1, time + 1, 99, day, 1, 0, 0, 'x', 'X' "
+                       "FROM all_headlines"));
+    takeNews(newsItem(1, u"b"_s, at(10, 0), u"B"_s));
+    takeIn(newsItem(1, u"c"_s, at(9, 0), u"C"_s));
+    EXPECT_EQ(entriesOfToday(), 3);
+}
+
 // By itself, by another program, and in an outage, at whose end the last word counts.
 TEST_F(LiveNewsTest, AKeyThatReplacedNewsHasLostIsToldAsGone) {
     constexpr std::int64_t day = 86400;
