@@ -75,16 +75,34 @@ bool Days::hasNewsOn(const QDate& day) const {
 }
 
 std::optional<QDate> Days::nearestWithNews() const {
-    const QDate today = host_clock::today();
-    for (QDate day = pager.pickedDate().addDays(-1); isInRange(day); day = day.addDays(-1)) {
-        if (hasNewsOn(day))
-            return day;
-    }
-    for (QDate day = pager.pickedDate().addDays(1); day <= today; day = day.addDays(1)) {
+    const std::optional<QDate> before = lastBefore(pager.pickedDate());
+    return before ? before : firstAfter(pager.pickedDate());
+}
+
+std::optional<QDate> Days::lastBefore(const QDate& shown) const {
+    for (QDate day = shown.addDays(-1); isInRange(day); day = day.addDays(-1)) {
         if (hasNewsOn(day))
             return day;
     }
     return std::nullopt;
+}
+
+std::optional<QDate> Days::firstAfter(const QDate& shown) const {
+    const QDate today = host_clock::today();
+    for (QDate day = shown.addDays(1); day <= today; day = day.addDays(1)) {
+        if (hasNewsOn(day))
+            return day;
+    }
+    return std::nullopt;
+}
+
+std::optional<QDate> Days::dayOfCommand(int id) const {
+    const QDate today = host_clock::today();
+    if (id == ids::earlierDay)
+        return lastBefore(pager.pickedDate());
+    if (id == ids::laterDay)
+        return firstAfter(pager.pickedDate()).value_or(today);
+    return id == ids::presentDay ? std::optional(today) : std::nullopt;
 }
 
 void Days::loadTexts() {
@@ -156,19 +174,33 @@ void Days::follow(const CMarketStatus& status) {
     } catch (const std::invalid_argument&) {
         return;
     }
-    const bool isAnother = day != pager.pickedDate();
+    const bool keepsDay = !onlyWarrants && isKept(ListIndex::All);
+    const bool isAnother = day != (keepsDay ? pager.currentNewsDay() : pager.pickedDate());
     parts.services.showDate(static_cast<std::size_t>(entry), status.date);
-    picker->showDate(day);
-    pager.startNewsDay(day, picker->date());
+    if (!keepsDay)
+        picker->showDate(day);
+    pager.startNewsDay(day, keepsDay ? pager.pickedDate() : picker->date());
     if (onlyWarrants) {
         calls.readAgain(ListIndex::Warrant);
         return;
     }
-    tellNewDay(status.service);
-    readCurrentDates();
+    if (keepsDay) {
+        readCurrentRelations();
+    } else if (isKept(ListIndex::Relation)) {
+        parts.lists.rebuildCurrent(ListIndex::All, parts.services.savedServices());
+        parts.lists.noteMissed(ListIndex::Relation);
+    } else {
+        tellNewDay(status.service);
+        readCurrentDates();
+    }
     // Each service tells of the day; the warrants of it are read when the first does.
     if (isAnother && parts.settings.options[ViewOption::ReadMissedTables])
         calls.readNowOrWhenShown(ListIndex::Warrant);
+}
+
+bool Days::isKept(ListIndex list) const {
+    return parts.settings.options[ViewOption::KeepReadDay] && context.shownList() == list &&
+           calls.isRead(list);
 }
 
 // The entry of the warrant service for which a status begins a new news day; -1: it changes nothing.
@@ -192,6 +224,10 @@ bool Days::readCurrentDates() {
     if (parts.lists[ListIndex::All].grid() == nullptr)
         return false;
     parts.lists.rebuildCurrent(ListIndex::All, parts.services.savedServices());
+    return readCurrentRelations();
+}
+
+bool Days::readCurrentRelations() {
     if (parts.lists[ListIndex::Relation].grid() == nullptr)
         return false;
     parts.lists.rebuildCurrent(ListIndex::Relation, parts.services.savedServices(), &calls.keySets());

@@ -24,6 +24,7 @@ public:
         std::function<const RelationMatcher&()> keySets;  // that filter the relation-search list
         std::function<void(ListIndex)> readAgain;
         std::function<void(ListIndex)> readNowOrWhenShown;
+        std::function<bool(ListIndex)> isRead;  // the reader has gone to a row of it
     };
     // Both days are today.
     Days(ViewContext& context, const CommonParts& parts, Calls calls);
@@ -37,6 +38,9 @@ public:
     // The last day before the picked one that has news of a ticked service, else the first one after it; of
     // those that may be picked. Nothing where there is none, or the back end cannot tell.
     std::optional<QDate> nearestWithNews() const;
+    // The day that a command of news_control_ids.h goes to; nothing where it is none, or there is no such
+    // day.
+    std::optional<QDate> dayOfCommand(int id) const;
     // How many days back may be picked.
     void setRange(int days) { pager.setRange(days); }
 
@@ -54,19 +58,24 @@ public:
     // The same, and the date picker shows it.
     void goTo(const QDate& date);
     // A news day has begun: the view follows it when it has ticked the service. A status with a date that no
-    // calendar knows changes nothing.
+    // calendar knows changes nothing. By the view's option a list that is being read stays as it is.
     void follow(const CMarketStatus& status);
     // Reads the all-news list and the relation-search list at each service's current date. False when either
     // list has no grid.
     bool readCurrentDates();
 
 private:
+    // Whether the new news day leaves this list alone.
+    bool isKept(ListIndex list) const;
     void dressCalendar(DayCalendar& calendar);
     bool isInRange(const QDate& day) const;
     bool hasNewsOn(const QDate& day) const;
+    std::optional<QDate> lastBefore(const QDate& day) const;
+    std::optional<QDate> firstAfter(const QDate& day) const;
     void refuse(const QString& why);
     int entryOfWarrants(const CMarketStatus& status) const;
     void tellNewDay(unsigned char service);
+    bool readCurrentRelations();
 
     ViewContext& context;
     const CommonParts parts;

@@ -38,6 +38,11 @@ void NewestRow::forget(ListIndex list) {
     followSoon();
 }
 
+bool NewestRow::isRead(ListIndex list) const {
+    const CSuperSheetWnd* const grid = view.listOf(list).grid();
+    return leftToReader.contains(list) || (grid != nullptr && grid->firstVisibleRow() > 0);
+}
+
 bool NewestRow::eventFilter(QObject*, QEvent* event) {
     if (event->type() == QEvent::Show)
         followSoon();

@@ -26,6 +26,8 @@ public:
 
     // From here on its rows are followed.
     void watch(CSuperSheetWnd& grid, ListIndex list);
+    // The reader has gone to a row of the list, or scrolled away from its top.
+    bool isRead(ListIndex list) const;
     // The list's rows are others now: the reader has gone to none of them.
     void forget(ListIndex list);
 

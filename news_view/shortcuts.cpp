@@ -34,10 +34,12 @@ struct CommandKey {
 };
 
 constexpr std::array commandKeys{
-    CommandKey{"F5"_L1, ids::recoverHeadlineTable},   CommandKey{"Shift+F5"_L1, ids::recoverStory},
-    CommandKey{"Ctrl+F5"_L1, ids::recoverHeadline},   CommandKey{"F7"_L1, ids::serviceButton},
-    CommandKey{"F9"_L1, ids::showTypeButton},         CommandKey{"Ctrl+E"_L1, ids::changeCategoryState},
-    CommandKey{"Alt+PgDown"_L1, ids::pageDownButton}, CommandKey{"Alt+PgUp"_L1, ids::pageUpButton},
+    CommandKey{"F5"_L1, ids::recoverHeadlineTable}, CommandKey{"Shift+F5"_L1, ids::recoverStory},
+    CommandKey{"Ctrl+F5"_L1, ids::recoverHeadline}, CommandKey{"F7"_L1, ids::serviceButton},
+    CommandKey{"F9"_L1, ids::showTypeButton},       CommandKey{"Ctrl+E"_L1, ids::changeCategoryState},
+    CommandKey{"Alt+Left"_L1, ids::earlierDay},     CommandKey{"Alt+Right"_L1, ids::laterDay},
+    CommandKey{"Alt+Home"_L1, ids::presentDay},     CommandKey{"Alt+PgDown"_L1, ids::pageDownButton},
+    CommandKey{"Alt+PgUp"_L1, ids::pageUpButton},
 };
 
 // What is told of the shortcuts that are no commands.

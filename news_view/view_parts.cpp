@@ -53,7 +53,8 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       days(*this, common,
            {[this]() -> const RelationMatcher& { return standingSearches.tickedKeySets(); },
             [this](ListIndex list) { sentAgain.readAgain(list); },
-            [this](ListIndex list) { sentAgain.readNowOrWhenShown(list); }}),
+            [this](ListIndex list) { sentAgain.readNowOrWhenShown(list); },
+            [this](ListIndex list) { return newestRow.isRead(list); }}),
       categories(*this, common, [this] { return standingSearches.filterOfShownList(); }),
       symbolMode(*this, common, symbolCalls()),
       sentAgain(*this, common, choices()),
@@ -341,10 +342,7 @@ void TRVNewsCtrlView::Parts::goTo(ListIndex list, int row) {
 EmptyLists::Calls TRVNewsCtrlView::Parts::emptyListCalls() {
     return {[this] { return days.picked(); },
             [this] { return days.nearestWithNews(); },
-            [this](QDate day) {
-                days.goTo(day);
-                story.show();
-            },
+            [this](QDate day) { goToDay(day); },
             [this] { return shownSubject(); },
             [this](ListIndex list) { showMode(list); },
             [this] { serviceMenu.popUp(); },
@@ -367,6 +365,24 @@ QString TRVNewsCtrlView::Parts::shownSubject() {
     }
     const auto* combo = controls.find<SCComboBox>(ids::categoryCombo);
     return combo != nullptr ? combo->currentText() : QString();
+}
+
+// --- Days ---
+
+bool TRVNewsCtrlView::Parts::takeDayCommand(int id) {
+    if (id != ids::earlierDay && id != ids::laterDay && id != ids::presentDay)
+        return false;
+    if (lists[ListIndex::All].grid() == nullptr)
+        return true;
+    showMode(ListIndex::All);
+    if (const auto day = days.dayOfCommand(id))
+        goToDay(*day);
+    return true;
+}
+
+void TRVNewsCtrlView::Parts::goToDay(const QDate& day) {
+    days.goTo(day);
+    story.show();
 }
 
 // --- What notices offer ---

@@ -96,6 +96,9 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     void searchFor(const QString& words);
     // What notices and the button beside them offer. False: the command is none of theirs.
     bool takeNoticeCommand(int id);
+    // Whether it is a command of another day.
+    bool takeDayCommand(int id);
+    void goToDay(const QDate& day);
 
     // How mouse events come: by the view itself, handed on by a grid.
     static constexpr unsigned leftButton = 0x01;

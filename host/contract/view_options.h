@@ -30,6 +30,7 @@ enum class ViewOption {
     AlignControls,          // controls keep one edge at either side, and bear icons beside their texts
     KeepServicesOpen,       // the list of services stays open while ticking
     EmptyStates,            // lists without rows offer a way out: the nearest day with news, a dialog
+    KeepReadDay,            // a new news day takes no day away that is being read
     FollowNewest,           // the newest row is selected until the reader goes to one himself
     MeasuredColumns,        // columns as wide as their texts; widths set by hand are kept
     FinishedRows,           // a row under the pointer, a bar at the selected one, small quiet headings
@@ -68,6 +69,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::AlignControls, QLatin1StringView("AlignControls")},
     {ViewOption::KeepServicesOpen, QLatin1StringView("KeepServicesOpen")},
     {ViewOption::EmptyStates, QLatin1StringView("EmptyStates")},
+    {ViewOption::KeepReadDay, QLatin1StringView("KeepReadDay")},
     {ViewOption::FollowNewest, QLatin1StringView("FollowNewest")},
     {ViewOption::MeasuredColumns, QLatin1StringView("MeasuredColumns")},
     {ViewOption::FinishedRows, QLatin1StringView("FinishedRows")},

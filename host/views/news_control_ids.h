@@ -30,6 +30,10 @@ inline constexpr int endNarrowing = 3016;
 inline constexpr int readUnfiltered = 3017;
 inline constexpr int searchAgain = 3018;
 inline constexpr std::array noticeCommands{endNarrowing, readUnfiltered, searchAgain};
+// Days with news; menu commands alone.
+inline constexpr int earlierDay = 3019;  // the last one before the one that is shown
+inline constexpr int laterDay = 3020;    // the first one after it, else the present day
+inline constexpr int presentDay = 3021;
 inline constexpr int tabStrip = 3100;
 inline constexpr int pageDownButton = 8067;
 inline constexpr int pageUpButton = 8068;

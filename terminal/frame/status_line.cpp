@@ -40,6 +40,17 @@ QString ageText(std::int64_t seconds) {
     return terminalText(TextId::HoursAgo).arg(seconds / hour);
 }
 
+// Which day the list is of, where that is not to be taken for granted.
+QString dayText(const FrameStatus& status) {
+    const auto textOf = [](TextId text, const QDate& day) {
+        return terminalText(text).arg(day.toString(u"yyyy/MM/dd"_s)).toHtmlEscaped();
+    };
+    if (status.shownDay.isValid())
+        return textOf(TextId::ShownDay, status.shownDay) + u"&nbsp;&nbsp;&nbsp;"_s +
+               link(u"today"_s, TextId::ShowToday);
+    return status.newDay.isValid() ? textOf(TextId::NewDay, status.newDay) : QString();
+}
+
 QString lastText(const FrameStatus& status) {
     if (status.lastHeadline == 0)
         return {};
@@ -80,25 +91,29 @@ StatusLine::StatusLine(QWidget* parent)
       last(addLabel()),
       asOf(addLabel()),
       present(new QPushButton(this)),
+      day(addLabel()),
       index(addLabel()),
       headlines(addLabel()),
       services(addLabel()),
       clock(addLabel()) {
-    actions->setTextFormat(Qt::RichText);
+    for (QLabel* links : {actions, day}) {
+        links->setTextFormat(Qt::RichText);
+        links->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    }
     for (QLabel* weak : {last, index, headlines, services, clock})
         weak->setForegroundRole(QPalette::PlaceholderText);
-    actions->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     present->setAutoDefault(false);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(8, 0, 8, 0);
     row->setSpacing(12);
-    for (QWidget* part : std::initializer_list<QWidget*>{feed, actions, last, asOf, present})
+    for (QWidget* part : std::initializer_list<QWidget*>{feed, actions, last, asOf, present, day})
         row->addWidget(part);
     row->addStretch(1);
     for (QWidget* part : {index, headlines, services, clock})
         row->addWidget(part);
     connect(actions, &QLabel::linkActivated, this,
             [this](const QString& name) { name == "import"_L1 ? emit importAsked() : emit connectAsked(); });
+    connect(day, &QLabel::linkActivated, this, &StatusLine::todayAsked);
     connect(present, &QPushButton::clicked, this, &StatusLine::presentAsked);
 }
 
@@ -132,6 +147,7 @@ void StatusLine::show(const FrameStatus& status) {
     asOf->setVisible(!status.asOf.isEmpty());
     present->setText(terminalText(TextId::Present));
     present->setVisible(!status.asOf.isEmpty());
+    showText(day, dayText(status));
     const QLocale figures(QLocale::English);
     showText(index,
              status.searchBacklog == 0

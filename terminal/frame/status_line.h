@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDate>
 #include <QString>
 #include <QWidget>
 
@@ -25,6 +26,8 @@ struct FrameStatus {
     int allServices = 0;
     int headlines = -1;              // of the list on show; -1: there is none
     QString asOf;                    // empty: the present moment is the machine's
+    QDate newDay;                    // that has begun a while ago
+    QDate shownDay;                  // of the list on show, where it is not the present day
     std::int64_t searchBacklog = 0;  // headlines that searches do not find yet
 };
 
@@ -42,6 +45,7 @@ signals:
     void importAsked();
     void connectAsked();
     void presentAsked();
+    void todayAsked();
 
 private:
     QLabel* addLabel();
@@ -52,6 +56,7 @@ private:
     QLabel* last;
     QLabel* asOf;
     QPushButton* present;
+    QLabel* day;
     QLabel* index;
     QLabel* headlines;
     QLabel* services;

@@ -51,6 +51,12 @@ std::optional<int> commandOfView(FrameCommand command) {
             return ids::saveNews;
         case FrameCommand::NewsServices:
             return ids::serviceButton;
+        case FrameCommand::NewsEarlierDay:
+            return ids::earlierDay;
+        case FrameCommand::NewsLaterDay:
+            return ids::laterDay;
+        case FrameCommand::NewsToday:
+            return ids::presentDay;
         case FrameCommand::NewsNextPage:
             return ids::pageDownButton;
         case FrameCommand::NewsPreviousPage:

@@ -22,6 +22,7 @@ namespace wirepane {
 
 namespace {
 
+constexpr int newDaySeconds = 3600;    // how long a day counts as new
 constexpr int sameMomentSeconds = 60;  // a clock that is no further off counts as the machine's
 
 QString feedText(const FeedState& state) {
@@ -68,6 +69,14 @@ int rowsOf(const NewsViewAccess& access, const QVariantMap& state) {
     return sheet != nullptr ? sheet->model()->rowCount() : -1;
 }
 
+// The day of the list of all news, where that is on show and not the present one.
+QDate anotherDayOf(const QVariantMap& state) {
+    if (state.value(u"mode"_s).toInt() != 0)
+        return {};
+    const QDate day = QDate::fromString(state.value(u"pickedDate"_s).toString(), u"yyyyMMdd"_s);
+    return day == host_clock::today() ? QDate() : day;
+}
+
 int tickedServices(const QVariantMap& state) {
     const QVariantList services = state.value(u"services"_s).toList();
     return static_cast<int>(std::count_if(services.begin(), services.end(), [](const QVariant& service) {
@@ -99,7 +108,19 @@ void StatusReport::RecvNewHeadLine(const CHeadline* headline, const QString&, co
         lastHeadline = std::max(lastHeadline, headline->time);
 }
 
-FrameStatus StatusReport::now(const QString& storeFile, bool isSampleFollowed) const {
+// A leap of the clock to another moment begins no day.
+void StatusReport::watchDay(std::int64_t moment) {
+    const auto dayOf = [](std::int64_t at) { return QDateTime::fromSecsSinceEpoch(at).date(); };
+    constexpr int mostSleepSeconds = 24 * 3600;
+    const std::int64_t passed = moment - lastMoment;
+    if (passed < 0 || passed > mostSleepSeconds)
+        dayBeganAt = 0;
+    else if (dayOf(moment) != dayOf(lastMoment))
+        dayBeganAt = moment;
+    lastMoment = moment;
+}
+
+FrameStatus StatusReport::now(const QString& storeFile, bool isSampleFollowed) {
     std::vector<unsigned char> services;
     backEnd.BKQNEWS_bGetAllNewsService(services);
     // Those that the service menu has: the warrants have a list of their own.
@@ -114,6 +135,9 @@ FrameStatus StatusReport::now(const QString& storeFile, bool isSampleFollowed) c
     status.lastHeadline = lastHeadline;
     status.now = host_clock::now();
     status.storeFile = storeFile;
+    watchDay(status.now);
+    if (dayBeganAt > 0 && status.now - dayBeganAt < newDaySeconds)
+        status.newDay = host_clock::today();
     status.allServices = static_cast<int>(services.size());
     status.services = status.allServices;
     status.asOf = asOfText();
@@ -122,6 +146,7 @@ FrameStatus StatusReport::now(const QString& storeFile, bool isSampleFollowed) c
         const QVariantMap view = active->access->state();
         status.services = tickedServices(view);
         status.headlines = rowsOf(*active->access, view);
+        status.shownDay = anotherDayOf(view);
     }
     return status;
 }

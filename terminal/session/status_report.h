@@ -22,7 +22,7 @@ public:
     StatusReport(const StatusReport&) = delete;
     StatusReport& operator=(const StatusReport&) = delete;
 
-    FrameStatus now(const QString& storeFile, bool isSampleFollowed) const;
+    FrameStatus now(const QString& storeFile, bool isSampleFollowed);
 
     void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
                          const QString& symbolCode) override;
@@ -31,7 +31,11 @@ private:
     EmbeddedBackEnd& backEnd;
     const LiveFeed& feed;
     Workspace& workspace;
+    void watchDay(std::int64_t moment);
+
     std::int64_t lastHeadline = 0;
+    std::int64_t lastMoment = 0;
+    std::int64_t dayBeganAt = 0;  // seen by this; 0: none has
 };
 
 }  // namespace wirepane

@@ -2032,6 +2032,14 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>&amp;Date…</translation>
     </message>
+    <message id="TERMINAL_NEWS_EARLIER_DAY">
+        <source></source>
+        <translation>&amp;Earlier Day</translation>
+    </message>
+    <message id="TERMINAL_NEWS_LATER_DAY">
+        <source></source>
+        <translation>La&amp;ter Day</translation>
+    </message>
     <message id="TERMINAL_NEWS_LAYOUT">
         <source></source>
         <translation>Change &amp;Layout</translation>
@@ -2059,6 +2067,14 @@ Reads the news of securities markets, live and from files.</translation>
     <message id="TERMINAL_NEWS_SOURCES">
         <source></source>
         <translation>S&amp;ources…</translation>
+    </message>
+    <message id="TERMINAL_NEWS_TODAY">
+        <source></source>
+        <translation>Toda&amp;y</translation>
+    </message>
+    <message id="TERMINAL_NEW_DAY">
+        <source></source>
+        <translation>A new day: %1</translation>
     </message>
     <message id="TERMINAL_NEW_SYMBOL_VIEW">
         <source></source>
@@ -2235,6 +2251,14 @@ Reads the news of securities markets, live and from files.</translation>
     <message id="TERMINAL_SETTINGS_WARNING_SEARCH_HELP">
         <source></source>
         <translation>Adds a tab with the news that contain your warning terms.</translation>
+    </message>
+    <message id="TERMINAL_SHOWN_DAY">
+        <source></source>
+        <translation>Showing %1</translation>
+    </message>
+    <message id="TERMINAL_SHOW_TODAY">
+        <source></source>
+        <translation>Show today</translation>
     </message>
     <message id="TERMINAL_SOURCES_ADD">
         <source></source>

@@ -2032,6 +2032,14 @@
         <source></source>
         <translation>日期(&amp;D)…</translation>
     </message>
+    <message id="TERMINAL_NEWS_EARLIER_DAY">
+        <source></source>
+        <translation>前一天(&amp;E)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_LATER_DAY">
+        <source></source>
+        <translation>後一天(&amp;T)</translation>
+    </message>
     <message id="TERMINAL_NEWS_LAYOUT">
         <source></source>
         <translation>變更版面(&amp;L)</translation>
@@ -2059,6 +2067,14 @@
     <message id="TERMINAL_NEWS_SOURCES">
         <source></source>
         <translation>來源(&amp;O)…</translation>
+    </message>
+    <message id="TERMINAL_NEWS_TODAY">
+        <source></source>
+        <translation>今天(&amp;Y)</translation>
+    </message>
+    <message id="TERMINAL_NEW_DAY">
+        <source></source>
+        <translation>新的一天：%1</translation>
     </message>
     <message id="TERMINAL_NEW_SYMBOL_VIEW">
         <source></source>
@@ -2235,6 +2251,14 @@
     <message id="TERMINAL_SETTINGS_WARNING_SEARCH_HELP">
         <source></source>
         <translation>新增分頁，列出含有警示詞的新聞。</translation>
+    </message>
+    <message id="TERMINAL_SHOWN_DAY">
+        <source></source>
+        <translation>顯示中：%1</translation>
+    </message>
+    <message id="TERMINAL_SHOW_TODAY">
+        <source></source>
+        <translation>顯示今天</translation>
     </message>
     <message id="TERMINAL_SOURCES_ADD">
         <source></source>

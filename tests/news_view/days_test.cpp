@@ -30,11 +30,12 @@ protected:
 
     RelationMatcher keySets;
     QList<ListIndex> readAgain, readOrMissed;
+    bool isRead = false;
     Days days{view,
               parts,
               {[this]() -> const RelationMatcher& { return keySets; },
                [this](ListIndex list) { readAgain.append(list); },
-               [this](ListIndex list) { readOrMissed.append(list); }}};
+               [this](ListIndex list) { readOrMissed.append(list); }, [this](ListIndex) { return isRead; }}};
 };
 
 }  // namespace
@@ -139,6 +140,41 @@ TEST_F(DaysTest, ANewsDayOfATickedServiceIsFollowed) {
     for (const CMarketStatus& told : {CMarketStatus{1, 20260304}, CMarketStatus{2, 20260304}}) {
         days.follow(told);
         EXPECT_EQ(readOrMissed, QList{ListIndex::Warrant}) << "once, whoever tells of the day";
+    }
+}
+
+TEST_F(DaysTest, ANewsDayLeavesTheListThatIsReadWhereTheViewIsToldTo) {
+    struct Case {
+        const char* what;
+        bool isToldTo, isRead;
+        ListIndex shown;
+        bool isDayKept, areRelationsMissed;
+    };
+    const Case cases[] = {
+        {"not told to", false, true, ListIndex::All, false, false},
+        {"the reader has gone to no row", true, false, ListIndex::All, false, false},
+        {"a row is read", true, true, ListIndex::All, true, false},
+        {"another list is read", true, true, ListIndex::Category, false, false},
+        {"the relations are read", true, true, ListIndex::Relation, false, true},
+    };
+    givePicker();
+    std::int32_t date = 20260303;
+    for (const Case& c : cases) {
+        settings.options = {};
+        if (c.isToldTo)
+            switchOn(ViewOption::KeepReadDay);
+        isRead = c.isRead;
+        view.shown = c.shown;
+        const QDate before = days.picked();
+        asked();
+        days.follow({1, date});
+        const QDate day = dayOfNumber(date);
+        EXPECT_EQ(days.newsDay(), day) << c.what;
+        EXPECT_EQ(days.picked(), c.isDayKept ? before : day) << c.what;
+        EXPECT_EQ(picker().date(), days.picked()) << c.what;
+        EXPECT_EQ(asked().filter(u"table"_s).isEmpty(), c.isDayKept) << c.what;
+        EXPECT_EQ(lists.hasMissed(ListIndex::Relation), c.areRelationsMissed) << c.what;
+        ++date;
     }
 }
 

@@ -17,6 +17,7 @@
 #include <QCompleter>
 #include <QDialogButtonBox>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStatusBar>
@@ -84,6 +85,44 @@ TEST_F(DeskTest, ViewsAreOpenedReachedAndClosedByKeys) {
     EXPECT_TRUE(session->frame().desk().isVisible()) << "an empty desk says how to go on";
     press(Qt::Key_N);
     EXPECT_EQ(workspace.docked().size(), 1U);
+}
+
+TEST_F(DeskTest, KeysGoToOtherDaysAndTheStatusBarTellsOfThemAndBack) {
+    const auto pickedDay = [this] {
+        return session->workspace().find(1)->access->state()[u"pickedDate"_s].toString();
+    };
+    const auto linkToToday = [this]() -> QLabel* {
+        for (auto* label : session->frame().statusBar()->findChildren<QLabel*>())
+            if (label->isVisible() && label->text().contains(u"'today'"_s))
+                return label;
+        return nullptr;
+    };
+    session->showStatus();
+    EXPECT_EQ(linkToToday(), nullptr);
+    press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(pickedDay(), u"20260301");
+    press(Qt::Key_Left, Qt::AltModifier);
+    press(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(pickedDay(), u"20260301");
+    session->showStatus();
+    QLabel* link = linkToToday();
+    ASSERT_NE(link, nullptr);
+    EXPECT_TRUE(link->text().startsWith(u"Showing 2026/03/01"_s)) << link->text().toStdString();
+    emit link->linkActivated(u"today"_s);
+    EXPECT_EQ(pickedDay(), u"20260302");
+
+    // Midnight passes, and nothing has come yet.
+    host_clock::startAt(QDateTime(QDate(2026, 3, 2), QTime(23, 59, 59)).toSecsSinceEpoch());
+    session->showStatus();
+    host_clock::startAt(QDateTime(QDate(2026, 3, 3), QTime(0, 0, 1)).toSecsSinceEpoch());
+    session->showStatus();
+    EXPECT_NE(linkToToday(), nullptr);
+    press(Qt::Key_Home, Qt::AltModifier);
+    session->showStatus();
+    const auto labels = session->frame().statusBar()->findChildren<QLabel*>();
+    EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+        return label->isVisible() && label->text() == u"A new day: 2026/03/03"_s;
+    }));
 }
 
 TEST_F(DeskTest, OffersOfTheSymbolBoxShowNamesAndTheQuotesOfThoseInSight) {
