@@ -389,7 +389,15 @@ int EmbeddedBackEnd::BKQCheckAuthSupport(unsigned char service) {
 }
 
 bool EmbeddedBackEnd::hasNewsOn(unsigned char service, const QDate& day) {
-    return reader.hasHeadline(service, boundsOf(day));
+    return reader.newestTime(service, boundsOf(day)).has_value();
+}
+
+std::int64_t EmbeddedBackEnd::newestTime() {
+    std::int64_t newest = 0;
+    for (const unsigned char service : reader.serviceIds())
+        newest =
+            std::max(newest, reader.newestTime(service, {firstNewsTime, host_clock::now() + 1}).value_or(0));
+    return newest;
 }
 
 std::optional<StoredCategory> EmbeddedBackEnd::category(std::int32_t id, unsigned char service) {

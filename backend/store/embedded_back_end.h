@@ -149,6 +149,8 @@ public:
     // its market and its code, an entry its service, time and number, a search its keywords.
     std::vector<Request> takeRequests() { return requests.take(); }
     bool hasNewsOn(unsigned char service, const QDate& day) override;
+    // When the newest headline was dated that is there at the present moment; 0: there is none.
+    std::int64_t newestTime();
     // A category by its id. Warrants number their categories for themselves: name their service for one of
     // theirs.
     std::optional<StoredCategory> category(std::int32_t id, unsigned char service = 0);

@@ -43,7 +43,9 @@ StoreReader::StoreReader(Database& database)
                     "JOIN categories ON categories.space = service_categories.space AND id = category "
                     "WHERE service = ? ORDER BY category"),
       oneCategory(database, "SELECT id, name, colour FROM categories WHERE space = ? AND id = ?"),
-      anyHeadline(database, "SELECT 1 FROM headlines WHERE service = ? AND time >= ? AND time < ? LIMIT 1"),
+      newestHeadline(database,
+                     "SELECT time FROM headlines WHERE service = ? AND time >= ? AND time < ? "
+                     "ORDER BY time DESC LIMIT 1"),
       byCategory(database,
                  "SELECT time, sequence FROM headlines WHERE service = ? AND category = ? AND time >= ? AND "
                  "time < ? ORDER BY time DESC, sequence DESC"),
@@ -84,8 +86,9 @@ std::vector<StoredCategory> StoreReader::categories(unsigned char service) {
     return found;
 }
 
-bool StoreReader::hasHeadline(unsigned char service, const DayBounds& bounds) {
-    return Query(anyHeadline, service, bounds.begin, bounds.end).next();
+std::optional<std::int64_t> StoreReader::newestTime(unsigned char service, const DayBounds& bounds) {
+    Query query(newestHeadline, service, bounds.begin, bounds.end);
+    return query.next() ? std::optional(query.number(0)) : std::nullopt;
 }
 
 std::optional<StoredCategory> StoreReader::category(unsigned char service, std::int32_t id) {

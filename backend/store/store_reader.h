@@ -44,8 +44,8 @@ public:
     std::optional<StoredService> service(unsigned char id);
     // By id.
     std::vector<StoredCategory> categories(unsigned char service);
-    // Whether the service has a headline within these bounds.
-    bool hasHeadline(unsigned char service, const DayBounds& bounds);
+    // The time of the service's newest headline within these bounds; nothing where it has none.
+    std::optional<std::int64_t> newestTime(unsigned char service, const DayBounds& bounds);
     // The category with an id of this service's numbering (see categorySpaceOf).
     std::optional<StoredCategory> category(unsigned char service, std::int32_t id);
 
@@ -70,7 +70,7 @@ private:
     Statement oneService;
     Statement allCategories;
     Statement oneCategory;
-    Statement anyHeadline;
+    Statement newestHeadline;
     Statement byCategory;
     Statement bySymbol;
     Statement oneHeadline;

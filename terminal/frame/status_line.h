@@ -19,7 +19,7 @@ struct FrameStatus {
     QString feedTip;  // how its sources stand, in lines
     bool isLive = true;
     bool isInvented = false;        // the news is that of the sample wire
-    std::int64_t lastHeadline = 0;  // its time; 0: none has come yet
+    std::int64_t lastHeadline = 0;  // its time; 0: there is none
     std::int64_t now = 0;
     QString storeFile;
     int services = 0;  // that are ticked, of those that there are

@@ -97,6 +97,7 @@ QString asOfText() {
 StatusReport::StatusReport(EmbeddedBackEnd& embedded, const LiveFeed& liveFeed, Workspace& openViews)
     : backEnd(embedded), feed(liveFeed), workspace(openViews) {
     backEnd.attach(this);
+    lastHeadline = backEnd.newestTime();
 }
 
 StatusReport::~StatusReport() {

@@ -90,6 +90,16 @@ TEST_F(EmbeddedBackEndTest, TablesComeNewestFirstWithinTheirRange) {
     EXPECT_EQ(backEnd.BKQNEWS_cszGetCurrDateByService(1), u"20260302"_s);
 }
 
+TEST_F(EmbeddedBackEndTest, KnowsTheNewestOfAllServicesAtThePresentMoment) {
+    EXPECT_EQ(backEnd.newestTime(), 0);
+    takeIn(newsItem(16, u"a"_s, at(12, 0), u"a"_s));
+    takeIn(newsItem(1, u"b"_s, at(9, 0), u"b"_s));
+    takeIn(newsItem(1, u"c"_s, at(12, 1), u"dated ahead"_s));
+    EXPECT_EQ(backEnd.newestTime(), at(12, 0));
+    EXPECT_TRUE(backEnd.hasNewsOn(1, QDate(2026, 3, 2)));
+    EXPECT_FALSE(backEnd.hasNewsOn(1, QDate(2026, 3, 1)));
+}
+
 TEST_F(EmbeddedBackEndTest, HeadlinesComeInTheOrderAskedForAndOnlyOfTheService) {
     takeIn(newsItem(1, u"a"_s, at(9, 0), u"A"_s));
     takeIn(newsItem(1, u"b"_s, at(9, 1), u"B"_s));
