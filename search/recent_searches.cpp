@@ -7,7 +7,8 @@
 namespace wirepane {
 
 bool asksTheSame(const CSearch& a, const CSearch& b) {
-    if (a.scope != b.scope || a.method != b.method || a.keywords.size() != b.keywords.size())
+    if (a.language != b.language || a.scope != b.scope || a.method != b.method ||
+        a.keywords.size() != b.keywords.size())
         return false;
     if (a.keywords == b.keywords)
         return true;

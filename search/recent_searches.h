@@ -8,7 +8,7 @@
 
 namespace wirepane {
 
-// Scope and method are equal, and the keywords are the same in whatever order.
+// Language, scope and method are equal, and the keywords are the same in whatever order.
 bool asksTheSame(const CSearch& a, const CSearch& b);
 
 // The condition without the symbols that it is narrowed to: dialogs show none, and what they edit and keep

@@ -85,8 +85,9 @@ std::optional<TableKind> SearchDesk::kindOfAnswer(const CSearch& condition) cons
 
 void SearchDesk::takeQuickSearch(const QString& word, std::int64_t now) {
     keepKeyword(history, word);
-    if (ordinary.keywords != std::vector{word})
+    if (ordinary.keywords != std::vector{word} || ordinary.isQuery())
         ordinary.symbols.clear();
+    ordinary.language = SearchLanguage::Plain;
     ordinary.scope = numberOf(SearchScope::Headlines);
     ordinary.method = numberOf(SearchMethod::All);
     ordinary.time = now;

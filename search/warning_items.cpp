@@ -46,6 +46,7 @@ void WarningItems::choose(int row, CSearch& condition) {
     const CSearch* item = itemAt(row);
     if (item == nullptr)
         return;
+    condition.language = item->language;
     condition.keywords = item->keywords;
     condition.symbols.clear();
     condition.scope = numberOf(scopeOf(item->scope));

@@ -42,6 +42,16 @@ public:
         for (std::size_t i = 0; i < bits.size(); ++i)
             bits[i] &= other.bits[i];
     }
+    void add(const IdSet& other) {
+        if (bits.size() < other.bits.size())
+            bits.resize(other.bits.size());
+        for (std::size_t i = 0; i < other.bits.size(); ++i)
+            bits[i] |= other.bits[i];
+    }
+    void remove(const IdSet& other) {
+        for (std::size_t i = 0; i < std::min(bits.size(), other.bits.size()); ++i)
+            bits[i] &= ~other.bits[i];
+    }
     bool hasAtMost(std::size_t most) const {
         std::size_t count = 0;
         for (std::size_t i = 0; i < bits.size() && count <= most; ++i)

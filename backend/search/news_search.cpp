@@ -3,7 +3,8 @@
 #include "backend/search/news_search.h"
 
 #include "backend/database/read_transaction.h"
-#include "backend/words/search_words.h"
+#include "backend/search/index_phrases.h"
+#include "host/contract/clock.h"
 #include "host/contract/search_choices.h"
 
 #include <QStringList>
@@ -16,26 +17,14 @@ namespace {
 
 constexpr int stopAskedEvery = 256;  // matches
 
-// What is quoted is never read as operators. The text is split into words there, once: a word that is split
-// again may fall apart ("1,234" is one, but "1,2345" is not, with which "1,234" and a full-width "5" go on).
-QString phraseOf(QString text) {
-    return u'"' + text.replace(u'\0', u' ').replace(u'"', u"\"\""_s) + u'"';
-}
-
-QString withinScope(const QString& phrases, SearchScope scope) {
-    if (scope == SearchScope::Both)
-        return phrases;
-    return (scope == SearchScope::Headlines ? u"title : ("_s : u"story : ("_s) + phrases + u')';
-}
-
 // The queries whose matches together are those of the condition. What must all be there is asked for at once:
 // the index passes over the many matches of one word that those of a rare one leave behind. What may be there
 // is cheaper to put together here.
 QStringList queriesOf(const CSearch& condition) {
     QStringList phrases;
     for (const QString& keyword : condition.keywords) {
-        if (const QString text = keywordText(keyword); !text.isEmpty())
-            phrases += phraseOf(text);
+        if (const QString phrase = indexPhrase(keyword); !phrase.isEmpty())
+            phrases += phrase;
     }
     if (condition.method != numberOf(SearchMethod::Any) && !phrases.isEmpty())
         phrases = {phrases.join(u" AND "_s)};
@@ -52,7 +41,12 @@ NewsSearch::NewsSearch(Database& database)
       version(database),
       matching(database, "SELECT rowid FROM news_search WHERE news_search MATCH ?"),
       naming(database,
-             "SELECT headline FROM related_symbols WHERE service = ? AND market IN (?, 0) AND code = ?") {}
+             "SELECT headline FROM related_symbols WHERE service = ? AND market IN (?, 0) AND code = ?"),
+      dated(database,
+            "SELECT id, time, sequence FROM headlines WHERE service = ? AND time BETWEEN ? AND ? "
+            "ORDER BY time DESC, sequence DESC"),
+      planner(database),
+      queries(database, [this](IdSet& ids, const QString& match) { return addMatches(ids, match); }) {}
 
 std::optional<std::vector<CHeadlineTable>> NewsSearch::find(unsigned char service, const CSearch& condition,
                                                             const std::atomic<bool>* stop) {
@@ -74,23 +68,66 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::findNow(unsigned char ser
     const std::optional<std::int64_t> present = version.read();
     if (!last || !(last->condition == condition) || last->version != present) {
         last.reset();
-        std::optional<IdSet> ids = matches(condition);
-        if (!ids)
-            return std::nullopt;
-        last = {condition, present, *std::move(ids)};
+        queries.forget();
+        Last next{condition, present, readQuery(condition.query()), {}};
+        if (!condition.isQuery()) {
+            std::optional<IdSet> ids = plainMatches(condition);
+            if (!ids)
+                return std::nullopt;
+            next.ids = *std::move(ids);
+        }
+        last = std::move(next);
     }
+    std::optional<QueryMatch> match = matches(service, condition);
     IdSet named;
     for (const CSymbolInfo& symbol : condition.symbols) {
         if (!addNamed(named, service, symbol))
             return std::nullopt;
     }
-    if (!condition.symbols.empty())
-        named.keepCommon(last->ids);
-    const IdSet& ids = condition.symbols.empty() ? last->ids : named;
-    return keys.entries(service, ids);
+    if (match && !condition.symbols.empty()) {
+        if (match->isAllBut)
+            named.remove(match->ids);
+        else
+            named.keepCommon(match->ids);
+        match->ids = std::move(named);
+        match->isAllBut = false;
+    }
+    return match ? entries(service, *match) : std::nullopt;
 }
 
-std::optional<IdSet> NewsSearch::matches(const CSearch& condition) {
+std::optional<QueryMatch> NewsSearch::matches(unsigned char service, const CSearch& condition) {
+    QueryMatch match;
+    if (!condition.isQuery()) {
+        match.ids = last->ids;
+        return match;
+    }
+    const auto* query = std::get_if<QueryNode>(&last->query);
+    if (query == nullptr)
+        return match;
+    const auto plan = planner.plan(*query, service, scopeOf(condition.scope), host_clock::today());
+    return plan ? queries.find(*plan, service, [this] { return isStopped(); }) : std::nullopt;
+}
+
+std::optional<std::vector<CHeadlineTable>> NewsSearch::entries(unsigned char service,
+                                                               const QueryMatch& match) {
+    if (match.isAllBut) {
+        std::vector<CHeadlineTable> found;
+        Query rows(dated, service, match.days.first, match.days.last);
+        for (int count = 0; rows.next(); ++count) {
+            if (count % stopAskedEvery == 0 && isStopped())
+                return std::nullopt;
+            if (!match.ids.contains(rows.number(0)))
+                found.push_back({rows.number(1), rows.smallNumber(2), service, 0, 0});
+        }
+        return rows.failed() ? std::nullopt : std::optional(std::move(found));
+    }
+    auto found = keys.entries(service, match.ids);
+    if (found && !match.days.areAll())
+        std::erase_if(*found, [&](const CHeadlineTable& entry) { return !match.days.hold(entry.time); });
+    return found;
+}
+
+std::optional<IdSet> NewsSearch::plainMatches(const CSearch& condition) {
     IdSet found;
     for (const QString& query : queriesOf(condition)) {
         if (!addMatches(found, query))

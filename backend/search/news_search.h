@@ -4,6 +4,7 @@
 
 #include "backend/database/data_version.h"
 #include "backend/search/headline_keys.h"
+#include "backend/search/query_matches.h"
 #include "host/contract/search_condition.h"
 
 #include <atomic>
@@ -16,6 +17,7 @@ namespace wirepane {
 //   one behind the other in one paragraph. A keyword without words is left out.
 // - Keywords work together by the method (SearchMethod; one that is not set is "all"), each in the title, in
 //   the story or in either by the scope (SearchScope). A condition without keywords finds nothing.
+// - A query finds what docs/search.md tells; one with a fault finds nothing. Its days go by the host's clock.
 // - Symbols narrow it to news that names one of them, in its market or in one that is not known.
 //
 // Thread: that of the database, which must outlive this and must not be written to through the same
@@ -33,7 +35,10 @@ public:
     void prepare();
 
 private:
-    std::optional<IdSet> matches(const CSearch& condition);
+    // The matches of the condition, without the symbols that narrow it.
+    std::optional<QueryMatch> matches(unsigned char service, const CSearch& condition);
+    std::optional<IdSet> plainMatches(const CSearch& condition);
+    std::optional<std::vector<CHeadlineTable>> entries(unsigned char service, const QueryMatch& match);
     bool addMatches(IdSet& ids, const QString& query);
     bool addNamed(IdSet& ids, unsigned char service, const CSymbolInfo& symbol);
     bool isStopped() const { return stopping != nullptr && *stopping; }
@@ -44,12 +49,16 @@ private:
     DataVersion version;
     Statement matching;
     Statement naming;
+    Statement dated;
+    QueryPlanner planner;
+    QueryMatches queries;
     const std::atomic<bool>* stopping = nullptr;
 
     struct Last {
         CSearch condition;
         std::optional<std::int64_t> version;
-        IdSet ids;
+        ReadQuery query;  // of a condition that is one
+        IdSet ids;        // of any other
     };
     std::optional<Last> last;
 };

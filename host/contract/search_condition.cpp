@@ -20,6 +20,8 @@ namespace {
 constexpr std::int64_t earliest = std::numeric_limits<std::int64_t>::min();
 constexpr std::int64_t latest = std::numeric_limits<std::int64_t>::max();
 
+constexpr QLatin1StringView queryLanguage{"query"};
+
 std::vector<QString> keywordsFrom(const QJsonArray& texts) {
     std::vector<QString> keywords;
     for (const auto& text : texts) {
@@ -51,9 +53,11 @@ QString CSearch::GetString() const {
     QJsonArray pairs;
     for (const CSymbolInfo& symbol : symbols)
         pairs.append(QJsonArray{symbol.market, symbol.code});
-    const QJsonObject object{{u"keywords"_s, words}, {u"scope"_s, scope},
-                             {u"method"_s, method},  {u"time"_s, static_cast<qint64>(time)},
-                             {u"symbols"_s, pairs},  {u"keywordSearch"_s, keywordSearch}};
+    QJsonObject object{{u"keywords"_s, words}, {u"scope"_s, scope},
+                       {u"method"_s, method},  {u"time"_s, static_cast<qint64>(time)},
+                       {u"symbols"_s, pairs},  {u"keywordSearch"_s, keywordSearch}};
+    if (isQuery())
+        object.insert(u"language"_s, queryLanguage);
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
@@ -69,7 +73,11 @@ bool CSearch::LoadStringA(const QString& text) {
     read.time = fields.optionalNumber(u"time"_s, earliest, latest).value_or(0);
     read.keywordSearch = fields.optionalFlag(u"keywordSearch"_s).value_or(false);
     const auto readSymbols = symbolsFrom(fields.optionalList(u"symbols"_s).value_or(QJsonArray()));
-    if (fields.fault() || !readSymbols)
+    const QString named = fields.optionalText(u"language"_s).value_or(QString());
+    if (fields.fault() || !readSymbols || (!named.isEmpty() && named != queryLanguage))
+        return false;
+    read.language = named.isEmpty() ? SearchLanguage::Plain : SearchLanguage::Query;
+    if (read.isQuery() && read.keywords.size() != 1)
         return false;
     read.symbols = *readSymbols;
     *this = read;

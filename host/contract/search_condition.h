@@ -4,6 +4,7 @@
 
 #include "host/contract/export.h"
 #include "host/contract/records.h"
+#include "host/contract/search_choices.h"
 
 #include <QString>
 
@@ -19,15 +20,24 @@ struct WIREPANE_CONTRACT_EXPORT CSearch {
     std::int64_t time = 0;             // when it was composed, seconds since 1970; not part of equality
     std::vector<CSymbolInfo> symbols;  // narrows the search to stories of these symbols; empty: no narrowing
     bool keywordSearch = false;        // true: a shown story has the keywords marked
+    // Of a query the only keyword is its text, the scope is that of its texts without a field, and there is
+    // no method.
+    wirepane::SearchLanguage language = wirepane::SearchLanguage::Plain;
 
-    // The condition as a text of one line, whatever its keywords hold.
+    bool isQuery() const { return language == wirepane::SearchLanguage::Query; }
+    // The text of a query; empty for others.
+    QString query() const { return isQuery() && !keywords.empty() ? keywords.front() : QString(); }
+
+    // The condition as a text of one line, whatever its keywords hold. A language that it does not name is
+    // plain.
     QString GetString() const;
     // Reads back what GetString made. False, and the condition unchanged, for any other text; an empty
     // keyword is left out.
     bool LoadStringA(const QString& text);
 };
 
-// Two conditions ask for the same: keywords in order, scope, method and symbols are equal.
+// Two conditions ask for the same: language, keywords in order, scope, method and symbols are equal.
 inline bool operator==(const CSearch& a, const CSearch& b) {
-    return a.keywords == b.keywords && a.scope == b.scope && a.method == b.method && a.symbols == b.symbols;
+    return a.keywords == b.keywords && a.scope == b.scope && a.method == b.method && a.symbols == b.symbols &&
+           a.language == b.language;
 }

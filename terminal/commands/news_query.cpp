@@ -3,6 +3,7 @@
 #include "terminal/commands/news_query.h"
 
 #include "backend/search/news_search.h"
+#include "backend/search/query_errors.h"
 #include "backend/store/import_upkeep.h"
 #include "host/contract/search_choices.h"
 #include "terminal/commands/command_arguments.h"
@@ -48,6 +49,14 @@ Number chosen(const QCommandLineParser& parser, const auto& table, Number otherw
     return given.size() == 1 ? given.front() : otherwise;
 }
 
+// Several arguments are one query: shells take them apart at blanks.
+void makeQuery(CSearch& condition, const QString& text, CommandArguments& arguments) {
+    if (const auto query = readQuery(text); const auto* fault = std::get_if<QueryFault>(&query))
+        arguments.fail(sentence(errorOf(*fault)));
+    condition.language = SearchLanguage::Query;
+    condition.keywords = {text};
+}
+
 }  // namespace
 
 void addQueryOptions(QCommandLineParser& parser) {
@@ -56,6 +65,9 @@ void addQueryOptions(QCommandLineParser& parser) {
     addChoices(parser, searchMethods);
     parser.addOption({u"symbol"_s, u"Only news that names this symbol, such as 16:2330; may be repeated."_s,
                       u"market:code"_s});
+    parser.addOption(
+        {u"query"_s,
+         u"The keywords are a query (docs/search.md): \"a phrase\", -word, a | b, title:word."_s});
 }
 
 CSearch conditionOf(CommandArguments& arguments, const QStringList& keywords) {
@@ -63,6 +75,8 @@ CSearch conditionOf(CommandArguments& arguments, const QStringList& keywords) {
     CSearch condition;
     condition.keywords.assign(keywords.begin(), keywords.end());
     condition.method = numberOf(chosen(parser, searchMethods, SearchMethod::All));
+    if (parser.isSet(u"query"_s) && !keywords.isEmpty())
+        makeQuery(condition, keywords.join(u' '), arguments);
     condition.scope = numberOf(chosen(parser, searchScopes, SearchScope::Both));
     for (const QString& symbol : parser.values(u"symbol"_s))
         condition.symbols.push_back(symbolOf(symbol, arguments));

@@ -72,6 +72,7 @@ int runSearch() {
     addOptions(arguments.parser);
     if (const auto status = arguments.read())
         return *status;
+    arguments.applyNow();
     const CSearch condition = conditionOf(arguments, arguments.rest());
     if (condition.keywords.empty())
         arguments.fail(u"search needs a keyword."_s);

@@ -723,6 +723,70 @@
         <source></source>
         <translation>The address holds a user name or password; they are kept with the secrets instead.</translation>
     </message>
+    <message id="ERROR_QUERY_CLOSE_BRACKET">
+        <source></source>
+        <translation>The bracket %2 at character %1 closes none that was opened.</translation>
+    </message>
+    <message id="ERROR_QUERY_DAY">
+        <source></source>
+        <translation>"%2" at character %1 is no day such as 2026-03-02, 2026-03, today or -3d.</translation>
+    </message>
+    <message id="ERROR_QUERY_EMPTY">
+        <source></source>
+        <translation>The query is empty.</translation>
+    </message>
+    <message id="ERROR_QUERY_FIELD_VALUE">
+        <source></source>
+        <translation>The field %2 at character %1 lacks its value directly behind the colon, or does not take this one.</translation>
+    </message>
+    <message id="ERROR_QUERY_FIELD_WITHIN">
+        <source></source>
+        <translation>The field %2 at character %1 cannot stand within title: or story:.</translation>
+    </message>
+    <message id="ERROR_QUERY_MISSING">
+        <source></source>
+        <translation>At character %1 something to look for is missing ("%2").</translation>
+    </message>
+    <message id="ERROR_QUERY_NEAR">
+        <source></source>
+        <translation>%2 at character %1 has to stand between two words or phrases.</translation>
+    </message>
+    <message id="ERROR_QUERY_NEAR_NUMBER">
+        <source></source>
+        <translation>"%2" at character %1 names no number of words from 0 to 1000, as in NEAR/5.</translation>
+    </message>
+    <message id="ERROR_QUERY_NOT_IN_KEY_SET">
+        <source></source>
+        <translation>"%2" at character %1 cannot be used for headlines as they come.</translation>
+    </message>
+    <message id="ERROR_QUERY_OPEN_BRACKET">
+        <source></source>
+        <translation>The bracket %2 at character %1 is never closed.</translation>
+    </message>
+    <message id="ERROR_QUERY_OPEN_QUOTE">
+        <source></source>
+        <translation>The quotation mark %2 at character %1 is never closed.</translation>
+    </message>
+    <message id="ERROR_QUERY_OPERATOR_WORD">
+        <source></source>
+        <translation>"%2" at character %1 is no sign: a blank means "and", | "or", - "not". Put it in quotation marks to look for the word.</translation>
+    </message>
+    <message id="ERROR_QUERY_TOO_DEEP">
+        <source></source>
+        <translation>The bracket %2 at character %1 lies too deep: at most 20 within one another.</translation>
+    </message>
+    <message id="ERROR_QUERY_TOO_LONG">
+        <source></source>
+        <translation>The query is longer than %2 characters (character %1).</translation>
+    </message>
+    <message id="ERROR_QUERY_TOO_MANY">
+        <source></source>
+        <translation>The query asks for too much from character %1 on ("%2"): at most 200 texts and fields.</translation>
+    </message>
+    <message id="ERROR_QUERY_UNKNOWN_FIELD">
+        <source></source>
+        <translation>There is no field "%2" (character %1). Put it in quotation marks to look for the text.</translation>
+    </message>
     <message id="ERROR_SESSION_CATEGORIES_NOT_CHANGED">
         <source></source>
         <translation>The categories of the store could not be changed: %1</translation>

@@ -723,6 +723,70 @@
         <source></source>
         <translation>地址中含有用户名或密码；它们应与机密数据一起保存。</translation>
     </message>
+    <message id="ERROR_QUERY_CLOSE_BRACKET">
+        <source></source>
+        <translation>第 %1 个字符的括号 %2 没有对应的开头。</translation>
+    </message>
+    <message id="ERROR_QUERY_DAY">
+        <source></source>
+        <translation>第 %1 个字符的“%2”不是日期；可用 2026-03-02、2026-03、today 或 -3d。</translation>
+    </message>
+    <message id="ERROR_QUERY_EMPTY">
+        <source></source>
+        <translation>查询是空的。</translation>
+    </message>
+    <message id="ERROR_QUERY_FIELD_VALUE">
+        <source></source>
+        <translation>第 %1 个字符的字段 %2 在冒号后缺少内容，或不接受该内容。</translation>
+    </message>
+    <message id="ERROR_QUERY_FIELD_WITHIN">
+        <source></source>
+        <translation>第 %1 个字符的字段 %2 不能放在 title: 或 story: 之内。</translation>
+    </message>
+    <message id="ERROR_QUERY_MISSING">
+        <source></source>
+        <translation>第 %1 个字符处缺少要搜索的内容（“%2”）。</translation>
+    </message>
+    <message id="ERROR_QUERY_NEAR">
+        <source></source>
+        <translation>第 %1 个字符的 %2 必须放在两个词或短语之间。</translation>
+    </message>
+    <message id="ERROR_QUERY_NEAR_NUMBER">
+        <source></source>
+        <translation>第 %1 个字符的“%2”没有 0 到 1000 的字数，例如 NEAR/5。</translation>
+    </message>
+    <message id="ERROR_QUERY_NOT_IN_KEY_SET">
+        <source></source>
+        <translation>第 %1 个字符的“%2”不能用于即时进来的标题。</translation>
+    </message>
+    <message id="ERROR_QUERY_OPEN_BRACKET">
+        <source></source>
+        <translation>第 %1 个字符的括号 %2 没有结束。</translation>
+    </message>
+    <message id="ERROR_QUERY_OPEN_QUOTE">
+        <source></source>
+        <translation>第 %1 个字符的引号 %2 没有结束。</translation>
+    </message>
+    <message id="ERROR_QUERY_OPERATOR_WORD">
+        <source></source>
+        <translation>第 %1 个字符的“%2”不是运算符号：空格表示“且”，| 表示“或”，- 表示“非”。要搜索这个词请加上引号。</translation>
+    </message>
+    <message id="ERROR_QUERY_TOO_DEEP">
+        <source></source>
+        <translation>第 %1 个字符的括号 %2 层数过多：最多 20 层。</translation>
+    </message>
+    <message id="ERROR_QUERY_TOO_LONG">
+        <source></source>
+        <translation>查询超过 %2 个字符（第 %1 个字符）。</translation>
+    </message>
+    <message id="ERROR_QUERY_TOO_MANY">
+        <source></source>
+        <translation>查询从第 %1 个字符（“%2”）起过多：最多 200 个文字与字段。</translation>
+    </message>
+    <message id="ERROR_QUERY_UNKNOWN_FIELD">
+        <source></source>
+        <translation>没有“%2”这个字段（第 %1 个字符）。要搜索文字时请加上引号。</translation>
+    </message>
     <message id="ERROR_SESSION_CATEGORIES_NOT_CHANGED">
         <source></source>
         <translation>无法更改数据库中的分类：%1</translation>

@@ -723,6 +723,70 @@
         <source></source>
         <translation>位址中含有使用者名稱或密碼；它們應與機密資料一起保存。</translation>
     </message>
+    <message id="ERROR_QUERY_CLOSE_BRACKET">
+        <source></source>
+        <translation>第 %1 個字元的括號 %2 沒有對應的開頭。</translation>
+    </message>
+    <message id="ERROR_QUERY_DAY">
+        <source></source>
+        <translation>第 %1 個字元的「%2」不是日期；可用 2026-03-02、2026-03、today 或 -3d。</translation>
+    </message>
+    <message id="ERROR_QUERY_EMPTY">
+        <source></source>
+        <translation>查詢是空的。</translation>
+    </message>
+    <message id="ERROR_QUERY_FIELD_VALUE">
+        <source></source>
+        <translation>第 %1 個字元的欄位 %2 在冒號後缺少內容，或不接受該內容。</translation>
+    </message>
+    <message id="ERROR_QUERY_FIELD_WITHIN">
+        <source></source>
+        <translation>第 %1 個字元的欄位 %2 不能放在 title: 或 story: 之內。</translation>
+    </message>
+    <message id="ERROR_QUERY_MISSING">
+        <source></source>
+        <translation>第 %1 個字元處缺少要搜尋的內容（「%2」）。</translation>
+    </message>
+    <message id="ERROR_QUERY_NEAR">
+        <source></source>
+        <translation>第 %1 個字元的 %2 必須放在兩個詞或片語之間。</translation>
+    </message>
+    <message id="ERROR_QUERY_NEAR_NUMBER">
+        <source></source>
+        <translation>第 %1 個字元的「%2」沒有 0 到 1000 的字數，例如 NEAR/5。</translation>
+    </message>
+    <message id="ERROR_QUERY_NOT_IN_KEY_SET">
+        <source></source>
+        <translation>第 %1 個字元的「%2」不能用於即時進來的標題。</translation>
+    </message>
+    <message id="ERROR_QUERY_OPEN_BRACKET">
+        <source></source>
+        <translation>第 %1 個字元的括號 %2 沒有結束。</translation>
+    </message>
+    <message id="ERROR_QUERY_OPEN_QUOTE">
+        <source></source>
+        <translation>第 %1 個字元的引號 %2 沒有結束。</translation>
+    </message>
+    <message id="ERROR_QUERY_OPERATOR_WORD">
+        <source></source>
+        <translation>第 %1 個字元的「%2」不是運算符號：空格表示「且」，| 表示「或」，- 表示「非」。要搜尋這個字請加上引號。</translation>
+    </message>
+    <message id="ERROR_QUERY_TOO_DEEP">
+        <source></source>
+        <translation>第 %1 個字元的括號 %2 層數過多：最多 20 層。</translation>
+    </message>
+    <message id="ERROR_QUERY_TOO_LONG">
+        <source></source>
+        <translation>查詢超過 %2 個字元（第 %1 個字元）。</translation>
+    </message>
+    <message id="ERROR_QUERY_TOO_MANY">
+        <source></source>
+        <translation>查詢從第 %1 個字元（「%2」）起過多：最多 200 個文字與欄位。</translation>
+    </message>
+    <message id="ERROR_QUERY_UNKNOWN_FIELD">
+        <source></source>
+        <translation>沒有「%2」這個欄位（第 %1 個字元）。要搜尋文字時請加上引號。</translation>
+    </message>
     <message id="ERROR_SESSION_CATEGORIES_NOT_CHANGED">
         <source></source>
         <translation>無法變更資料庫中的分類：%1</translation>

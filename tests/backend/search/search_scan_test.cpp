@@ -1,15 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "backend/import/import_job.h"
-#include "backend/import/mapping.h"
 #include "backend/search/news_search.h"
-#include "backend/store/store_file.h"
 #include "host/contract/search_choices.h"
 #include "tests/backend/search/plain_scan.h"
-#include "tests/backend/store/store_fixture.h"
-
-#include <QDirIterator>
-#include <QFileInfo>
+#include "tests/backend/search/real_news.h"
 
 #include <random>
 
@@ -18,63 +12,15 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 namespace {
 
-// Takes into the store and into the scan.
-class BothSinks : public ItemSink {
-public:
-    BothSinks(StoreWriter& writer, PlainScan& plain) : store(writer), scan(plain) {}
-    Done begin() override { return store.begin(); }
-    Done commit() override { return store.commit(); }
-    void rollback() override { store.rollback(); }
-    Result<TakeOutcome> take(const StoreItem& item) override {
-        Result<TakeOutcome> outcome = store.take(item);
-        if (outcome && outcome.value().take == Take::TakenIn) {
-            scan.add(std::get<NewsItem>(item));
-            taken.push_back(std::get<NewsItem>(item));
-        }
-        return outcome;
-    }
-    std::vector<NewsItem> taken;
-
-private:
-    StoreWriter& store;
-    PlainScan& scan;
-};
-
-class SearchScan : public StoreFixture {
+class SearchScan : public RealNews {
 protected:
     void SetUp() override {
-        news = qEnvironmentVariable("WIREPANE_TEST_NEWS");
-        if (news.isEmpty() || !QFileInfo(news).isDir())
-            GTEST_SKIP() << "no real news: WIREPANE_TEST_NEWS names no folder";
-        sink = std::make_unique<BothSinks>(*writer, scan);
-        import(u"wire/*.jsonl"_s, {});
-        import(u"announcements/*.json"_s, u"exchange_announcements.json"_s);
-        import(u"wikinews/data/*.csv"_s, u"articles.json"_s);
-        ASSERT_GT(sink->taken.size(), 17'000U);
-        reading = std::move(openStore(store->path()).value());
-        ids = readIds();
-    }
-
-    void import(const QString& pattern, const QString& mapping) {
-        ReadOptions options;
-        if (!mapping.isEmpty())
-            options.mapping = std::make_shared<const Mapping>(
-                Mapping::load(QStringLiteral(WIREPANE_MAPPINGS "/") + mapping).value());
-        QStringList files;
-        QDirIterator all(news + u'/' + pattern.section(u'/', 0, -2), {pattern.section(u'/', -1)},
-                         QDir::Files);
-        while (all.hasNext())
-            files += all.next();
-        files.sort();
-        ImportJob(files, *sink, options).run();
-    }
-
-    QMap<QString, QString> readIds() {
-        QMap<QString, QString> found;
-        for (const QString& row :
-             rows("SELECT service || '/' || time || '/' || sequence || '|' || identity FROM headlines"))
-            found.insert(row.section(u'|', 0, 0), row.section(u'|', 1));
-        return found;
+        RealNews::SetUp();
+        if (IsSkipped())
+            return;
+        for (const NewsItem& item : sink->taken)
+            scan.add(item);
+        readIdentities();
     }
 
     // A piece of a real text, of the kinds that people search for.
@@ -97,11 +43,7 @@ protected:
         }
     }
 
-    QString news;
     PlainScan scan;
-    std::unique_ptr<BothSinks> sink;
-    std::unique_ptr<Database> reading;
-    QMap<QString, QString> ids;
 };
 
 TEST_F(SearchScan, FindsExactlyWhatAPlainScanFinds) {
@@ -123,21 +65,10 @@ TEST_F(SearchScan, FindsExactlyWhatAPlainScanFinds) {
         const unsigned char service = random() % 10 == 0 ? 1 : item.service;
         const auto entries = search.find(service, condition);
         ASSERT_TRUE(entries);
-        QStringList found;
-        for (const CHeadlineTable& entry : *entries)
-            found += ids.value(u"%1/%2/%3"_s.arg(entry.service).arg(entry.time).arg(entry.sequence));
-        found.sort();
         const QStringList keywords(condition.keywords.begin(), condition.keywords.end());
-        const QStringList wanted = scan.find(service, condition);
-        const auto without = [](QStringList some, const QStringList& others) {
-            for (const QString& other : others)
-                some.removeOne(other);
-            return some.join(u'\n').toStdString();
-        };
         SCOPED_TRACE(keywords.join(u" | "_s).toStdString() + " in " + std::to_string(condition.scope) +
                      " by " + std::to_string(condition.method));
-        EXPECT_EQ(without(found, wanted), "") << "found only by the search";
-        EXPECT_EQ(without(wanted, found), "") << "found only by the scan";
+        compare(identitiesOf(*entries), scan.find(service, condition));
         matched += entries->empty() ? 0 : 1;
     }
     // Most pieces begin or end within a word and must find nothing.

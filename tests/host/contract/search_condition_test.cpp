@@ -15,7 +15,9 @@ TEST(SearchCondition, SurvivesItsTextForm) {
     full.time = 1772415000;
     full.symbols = {{16, u"2330"_s}, {22, u"A \"B\""_s}};
     full.keywordSearch = true;
-    for (const CSearch& search : {CSearch(), full, condition({u"one"_s}, 1, 0)}) {
+    CSearch query = condition({u"-\"a b\""_s}, 0, 1);
+    query.language = SearchLanguage::Query;
+    for (const CSearch& search : {CSearch(), full, condition({u"one"_s}, 1, 0), query}) {
         const QString text = search.GetString();
         CSearch read = condition({u"other"_s}, 1, 2);
         ASSERT_TRUE(read.LoadStringA(text)) << text.toStdString();
@@ -36,6 +38,8 @@ TEST(SearchCondition, RefusesDamagedTexts) {
                         u"{\"keywords\":[],\"scope\":3}"_s,
                         u"{\"keywords\":[],\"method\":-1}"_s,
                         u"{\"keywords\":[],\"method\":\"1\"}"_s,
+                        u"{\"keywords\":[\"a\"],\"language\":\"other\"}"_s,
+                        u"{\"keywords\":[\"a\",\"b\"],\"language\":\"query\"}"_s,
                         u"{\"keywords\":[],\"symbols\":[[300,\"x\"]]}"_s};
     for (qsizetype length = 1; length < whole.size(); ++length)
         damaged.append(whole.left(length));
@@ -47,6 +51,9 @@ TEST(SearchCondition, RefusesDamagedTexts) {
     CSearch search;
     ASSERT_TRUE(search.LoadStringA(u"{\"keywords\":[\"a\",\"\",\"b\",\"a\",7]}"_s));
     EXPECT_EQ(search.keywords, (std::vector<QString>{u"a"_s, u"b"_s, u"a"_s}));
+    EXPECT_FALSE(search.isQuery());
+    // What is no query is written as it was before there were any.
+    EXPECT_FALSE(search.GetString().contains(u"language"_s));
 }
 
 }  // namespace wirepane

@@ -136,6 +136,9 @@ TEST_F(CommandLineTest, SearchPrintsWhatHoldsTheKeywords) {
         {{u"copper"_s, u"--service"_s, u"9"_s}, {}},
         {{u"copper"_s, u"--symbol"_s, u"16:2330"_s}, {}},
         {{u"\"(*"_s}, {}},
+        {{u"copper -gains"_s, u"--query"_s}, {falls}},
+        {{u"--query"_s, u"--"_s, u"-title:copper"_s, u"積電 | x"_s}, {gains}},
+        {{u"copper on:2026-03-02 NEAR/1"_s}, {}},
     };
     for (const auto& [arguments, titles] : cases) {
         const ProgramOutcome outcome = search(arguments);
@@ -151,6 +154,9 @@ TEST_F(CommandLineTest, SearchPrintsWhatHoldsTheKeywords) {
               u"{\"sequence\":1,\"service\":1,\"time\":\"2026-03-02T01:00:00Z\",\"title\":\"臺積電 gains "
               u"2.5%\"}\n");
     EXPECT_EQ(search({}).status, 2);
+    const ProgramOutcome faulty = search({u"--query"_s, u"copper titel:x"_s});
+    EXPECT_EQ(faulty.status, 2);
+    EXPECT_TRUE(faulty.err.contains(u"\"titel\" (character 8)"_s)) << faulty.err.toStdString();
     EXPECT_EQ(search({u"x"_s, u"--symbol"_s, u"2330"_s}).status, 2);
     EXPECT_EQ(runProgram({u"search"_s, u"--store"_s, scratch.path(u"none"_s), u"x"_s}).status, 2);
 }
