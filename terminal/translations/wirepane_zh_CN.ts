@@ -729,7 +729,7 @@
     </message>
     <message id="ERROR_QUERY_DAY">
         <source></source>
-        <translation>第 %1 个字符的“%2”不是日期；可用 2026-03-02、2026-03、today 或 -3d。</translation>
+        <translation>第 %1 个字符的“%2”不是日期；可用 2026-03-02、2026-03、“today”或 -3d。</translation>
     </message>
     <message id="ERROR_QUERY_EMPTY">
         <source></source>
@@ -741,7 +741,7 @@
     </message>
     <message id="ERROR_QUERY_FIELD_WITHIN">
         <source></source>
-        <translation>第 %1 个字符的字段 %2 不能放在 title: 或 story: 之内。</translation>
+        <translation>第 %1 个字符的字段 %2 不能放在“title”或“story”字段之内。</translation>
     </message>
     <message id="ERROR_QUERY_MISSING">
         <source></source>
@@ -753,7 +753,7 @@
     </message>
     <message id="ERROR_QUERY_NEAR_NUMBER">
         <source></source>
-        <translation>第 %1 个字符的“%2”没有 0 到 1000 的字数，例如 NEAR/5。</translation>
+        <translation>第 %1 个字符的“%2”在斜线后需要 0 到 1000 的字数。</translation>
     </message>
     <message id="ERROR_QUERY_NOT_IN_KEY_SET">
         <source></source>
