@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/csv.h"
 
+#include "backend/import/import_errors.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -15,8 +17,8 @@ bool isLineEnd(QChar c) {
 
 }  // namespace
 
-CsvReader::CsvReader(TextPieces csv, QChar separator)
-    : pieces(std::move(csv)), comma(separator), text(pieces()) {
+CsvReader::CsvReader(TextPieces csv, QChar separator, qint64 mostOfRecord)
+    : pieces(std::move(csv)), comma(separator), text(pieces()), most(mostOfRecord) {
     at = text.startsWith(QChar::ByteOrderMark) ? 1 : 0;
 }
 
@@ -24,17 +26,21 @@ CsvReader::CsvReader(const QString& csv, QChar separator)
     : CsvReader([rest = csv]() mutable { return std::exchange(rest, {}); }, separator) {}
 
 std::optional<CsvRecord> CsvReader::next() {
-    while (takeLineEnd()) {
-    }
+    do {
+        recordStart = position();
+    } while (takeLineEnd());
     if (isAtEnd())
         return std::nullopt;
     return record();
 }
 
-// Goes to the next piece where this one has been read.
+// Goes to the next piece where this one has been read. A record that is too long ends there.
 bool CsvReader::isAtEnd() {
     if (at < text.size())
         return false;
+    tooLong = tooLong || position() - recordStart > most;
+    if (tooLong)
+        return true;
     before += at;
     at = 0;
     text = pieces();
@@ -42,13 +48,18 @@ bool CsvReader::isAtEnd() {
 }
 
 CsvRecord CsvReader::record() {
-    CsvRecord found{{}, line, true};
-    for (;;) {
-        found.fields += field(found.closed);
-        if (isAtEnd() || takeLineEnd())
-            return found;
-        ++at;  // the comma
+    CsvRecord found{{}, line, std::nullopt};
+    bool closed = true;
+    for (bool isDone = false; !isDone; at += isDone ? 0 : 1) {
+        found.fields += field(closed);
+        tooLong = tooLong || found.fields.size() * qint64(sizeof(QString)) > most;
+        isDone = tooLong || isAtEnd() || takeLineEnd();
     }
+    if (tooLong)
+        found.fault = makeError<import_errors::recordTooLong>(most);
+    else if (!closed)
+        found.fault = makeError<import_errors::quoteNotClosed>();
+    return found;
 }
 
 // What stands behind a closing quote belongs to the field as it is.

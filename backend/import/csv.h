@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/import/reading.h"
 #include "backend/import/text_pieces.h"
 
 #include <QString>
@@ -13,8 +14,10 @@ namespace wirepane {
 
 struct CsvRecord {
     QStringList fields;
-    qint64 line = 0;     // the line that it starts on, from 1
-    bool closed = true;  // false: its last field opens a quote that the text never closes
+    qint64 line = 0;  // the line that it starts on, from 1
+    // That its last field opens a quote that the text never closes, or that it is too long: it is not whole
+    // then, and nothing behind it can be read.
+    std::optional<Error> fault;
 };
 
 // Values separated by commas, or by another character: fields in quotes may hold commas, line breaks and
@@ -22,7 +25,8 @@ struct CsvRecord {
 // lines.
 class CsvReader {
 public:
-    explicit CsvReader(TextPieces csv, QChar separator = u',');
+    // A record may have `mostOfRecord` characters.
+    explicit CsvReader(TextPieces csv, QChar separator = u',', qint64 mostOfRecord = ReadLimits().record);
     explicit CsvReader(const QString& csv, QChar separator = u',');
 
     // The next record; nothing at the end.
@@ -43,6 +47,9 @@ private:
     qsizetype at = 0;
     qsizetype before = 0;  // characters of the pieces before it
     qint64 line = 1;
+    const qint64 most;
+    qint64 recordStart = 0;  // in characters
+    bool tooLong = false;
 };
 
 }  // namespace wirepane

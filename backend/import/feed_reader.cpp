@@ -27,7 +27,7 @@ public:
         : source(document), options(readOptions), visit(visitor) {}
 
     void read() {
-        XmlSource xml;
+        XmlSource xml(options.limits.record);
         if (const Done opened = xml.open(source); !opened) {
             visit({opened.error(), makeError<import_errors::atLine>(1), 0});
             return;
@@ -80,7 +80,7 @@ private:
 
     void readWaiting(qint64 end) {
         source.seek(0);
-        XmlSource xml;
+        XmlSource xml(options.limits.record);
         secondEnd = end;
         count = 0;
         if (xml.open(source) && xml.enterChild())

@@ -52,6 +52,8 @@ inline constexpr ErrorCode planOfCoverage{"ERROR_IMPORT_PLAN_OF_COVERAGE", u"a p
 inline constexpr ErrorCode catalogueOfCodes{"ERROR_IMPORT_CATALOGUE_OF_CODES", u"a catalogue of code lists"};
 
 // Of a record.
+inline constexpr ErrorCode recordTooLong{"ERROR_IMPORT_RECORD_TOO_LONG",
+                                         u"The record is longer than %1 bytes."};
 inline constexpr ErrorCode recordNoObject{"ERROR_IMPORT_RECORD_NO_OBJECT",
                                           u"The record is not a JSON object."};
 inline constexpr ErrorCode recordNoJson{"ERROR_IMPORT_RECORD_NO_JSON",

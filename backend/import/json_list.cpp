@@ -10,7 +10,7 @@ constexpr qint64 pieceSize = 32768;  // bytes
 
 }  // namespace
 
-JsonList::JsonList(QIODevice& list) : source(list) {
+JsonList::JsonList(QIODevice& list, qsizetype mostOfEntry) : source(list), most(mostOfEntry) {
     while ((at < text.size() || readOn()) && text.at(at) != '[')
         start = ++at;
     start = ++at;
@@ -20,9 +20,11 @@ std::optional<QByteArrayView> JsonList::next() {
     while (!atEnd) {
         bool isLast = false;
         start = at;
+        tooLong = false;
         const QByteArrayView found = entry(isLast);
         atEnd = isLast;
-        if (!found.isEmpty() || !isLast)  // an empty entry is an error of the list, save before its "]"
+        if (!found.isEmpty() || tooLong ||
+            !isLast)  // an empty entry is an error of the list, save before its "]"
             return found;
     }
     return std::nullopt;
@@ -51,6 +53,10 @@ QByteArrayView JsonList::entry(bool& isLast) {
     bool quoted = false;
     bool escaped = false;
     for (; at < text.size() || readOn(); ++at) {
+        if (at - start >= most) {
+            tooLong = true;
+            start = at;
+        }
         const char c = text.at(at);
         if (quoted) {
             quoted = escaped || c != '"';

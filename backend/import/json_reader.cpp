@@ -24,6 +24,10 @@ Result<StoreItem> storeItem(QByteArrayView record, const ReadOptions& options) {
     return taken;
 }
 
+Result<StoreItem> tooLong(const ReadOptions& options) {
+    return makeError<import_errors::recordTooLong>(options.limits.record);
+}
+
 Phrase placeOf(qsizetype number, const Result<StoreItem>& content) {
     return placeOfItem(number, content ? std::get<NewsItem>(content.value()).identity : QString());
 }
@@ -48,11 +52,11 @@ std::optional<QByteArray> nextLine(QIODevice& source, qint64 limit) {
 
 void readJsonLines(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
     for (qint64 number = 1; !source.atEnd(); ++number) {
-        const std::optional<QByteArray> line = nextLine(source, options.limits.line);
+        const std::optional<QByteArray> line = nextLine(source, options.limits.record);
         const Phrase place = makeError<import_errors::atLine>(number);
         if (!line) {
-            const Error tooLong = makeError<import_errors::lineTooLong>(options.limits.line);
-            if (!visit({tooLong, place, source.pos()}))
+            const Error fault = makeError<import_errors::lineTooLong>(options.limits.record);
+            if (!visit({fault, place, source.pos()}))
                 return;
             continue;
         }
@@ -66,10 +70,10 @@ void readJsonLines(QIODevice& source, const ReadOptions& options, const ItemVisi
 }
 
 void readJsonList(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
-    JsonList list(source);
+    JsonList list(source, options.limits.record);
     qsizetype number = 0;
     while (const auto record = list.next()) {
-        const Result<StoreItem> content = storeItem(*record, options);
+        const Result<StoreItem> content = list.wasTooLong() ? tooLong(options) : storeItem(*record, options);
         if (!visit({content, placeOf(++number, content), source.pos()}))
             return;
     }
@@ -80,9 +84,12 @@ void readJsonList(QIODevice& source, const ReadOptions& options, const ItemVisit
         visit({makeError<import_errors::behindList>(), makeError<import_errors::atEnd>(), source.pos()});
 }
 
-void readJsonDocument(const QByteArray& source, const ReadOptions& options, const ItemVisitor& visit) {
-    const Result<StoreItem> content = storeItem(withoutByteOrderMark(source), options);
-    visit({content, placeOf(1, content), source.size()});
+void readJsonDocument(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit) {
+    const QByteArray record = source.read(options.limits.record + 1);
+    const Result<StoreItem> content = record.size() > options.limits.record
+                                          ? tooLong(options)
+                                          : storeItem(withoutByteOrderMark(record), options);
+    visit({content, placeOf(1, content), source.pos()});
 }
 
 }  // namespace wirepane

@@ -19,6 +19,6 @@ void readJsonLines(QIODevice& source, const ReadOptions& options, const ItemVisi
 void readJsonList(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit);
 
 // One record over several lines.
-void readJsonDocument(const QByteArray& source, const ReadOptions& options, const ItemVisitor& visit);
+void readJsonDocument(QIODevice& source, const ReadOptions& options, const ItemVisitor& visit);
 
 }  // namespace wirepane

@@ -60,8 +60,8 @@ private:
     const ItemVisitor& visit;
 };
 
-Done readCsv(TextPieces table, const Mapping& mapping, const RowSink& sink) {
-    CsvReader csv(std::move(table), mapping.separator);
+Done readCsv(TextPieces table, qint64 most, const Mapping& mapping, const RowSink& sink) {
+    CsvReader csv(std::move(table), mapping.separator, most);
     const auto header = csv.next();
     QStringList columns = header ? header->fields : QStringList();
     std::for_each(columns.begin(), columns.end(), [](QString& column) { column = column.trimmed(); });
@@ -71,8 +71,8 @@ Done readCsv(TextPieces table, const Mapping& mapping, const RowSink& sink) {
     }
     while (const auto record = csv.next()) {
         const RowPlace place{true, record->line};
-        if (!record->closed) {
-            sink.reject(makeError<import_errors::quoteNotClosed>(), place.alone());
+        if (record->fault) {
+            sink.reject(*record->fault, place.alone());
             break;
         }
         MappedRow row;
@@ -100,11 +100,15 @@ bool takeObject(QByteArrayView text, const RowPlace& place, const RowSink& sink)
     return sink.take(row, place);
 }
 
-Done readJson(QIODevice& table, const RowSink& sink) {
-    JsonList list(table);
+Done readJson(QIODevice& table, qint64 most, const RowSink& sink) {
+    JsonList list(table, most);
     qsizetype number = 0;
     while (const auto row = list.next()) {
-        if (!takeObject(*row, {false, ++number}, sink))
+        const RowPlace place{false, ++number};
+        const bool goesOn = list.wasTooLong()
+                                ? sink.reject(makeError<import_errors::recordTooLong>(most), place.alone())
+                                : takeObject(*row, place, sink);
+        if (!goesOn)
             return Nothing{};
     }
     if (!list.isClosed())
@@ -149,9 +153,9 @@ Done readMappedTable(QIODevice& source, const Mapping& mapping, const ReadOption
         return makeError<import_errors::markupPage>(titleLine(start.left(40)));
     const RowSink sink(source, mapping, options, visit);
     if (!start.startsWith(u'['))
-        return readCsv(table.all, mapping, sink);
+        return readCsv(table.all, options.limits.record, mapping, sink);
     DecodedSource list(source, table.all);
-    return readJson(list, sink);
+    return readJson(list, options.limits.record, sink);
 }
 
 }  // namespace wirepane

@@ -40,7 +40,7 @@ const OtherItem* otherItem(QStringView name) {
 class NewsmlReading {
 public:
     NewsmlReading(const ReadOptions& readOptions, const ItemVisitor& visitor)
-        : options(readOptions), visit(visitor) {}
+        : options(readOptions), visit(visitor), xml(readOptions.limits.record) {}
 
     void read(QIODevice& source) {
         const Done opened = xml.open(source);

@@ -25,7 +25,7 @@ Done readShape(JsonShape shape, QIODevice& source, const ReadOptions& options, c
     else if (shape == JsonShape::List)
         readJsonList(source, options, visit);
     else
-        readJsonDocument(source.readAll(), options, visit);
+        readJsonDocument(source, options, visit);
     return Nothing{};
 }
 

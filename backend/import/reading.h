@@ -28,8 +28,10 @@ using ItemVisitor = std::function<bool(SourceItem&&)>;
 
 // What no source may exceed; tests make them smaller.
 struct ReadLimits {
-    qint64 line = qint64(64)
-                  << 20;  // bytes of one line of JSON with its end; a longer one is rejected, reading goes on
+    // Bytes of one line of JSON with its end, of another record of JSON, or of one text in XML; characters of
+    // a record of a table. A story of the most characters fits, however it is escaped; what does not is never
+    // in memory as a whole.
+    qint64 record = qint64(25) << 20;
     qint64 file = qint64(512) << 20;  // bytes of a source that is read as a whole; a larger one is refused
     qint64 atOnce = qint64(4) << 20;  // bytes of a file for which others can wait: some tenths of a second
 };

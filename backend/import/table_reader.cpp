@@ -167,8 +167,8 @@ void readRows(CsvReader csv, const QIODevice& source, const ReadOptions& options
     const TableContent kind = kindOf(columns);
     while (const auto row = csv.next()) {
         const Phrase place = makeError<import_errors::atLine>(row->line);
-        if (!row->closed) {
-            visit({makeError<import_errors::quoteNotClosed>(), place, source.pos()});
+        if (row->fault) {
+            visit({*row->fault, place, source.pos()});
             return;
         }
         if (isLeftOut(row->fields))
@@ -190,7 +190,8 @@ Done readTable(QIODevice& source, const ReadOptions& options, const ItemVisitor&
     auto decoder = textDecoder(source);
     if (!decoder)
         return makeError<import_errors::noKnownEncoding>();
-    readRows(CsvReader(textPieces(source, std::move(*decoder))), source, options, visit);
+    readRows(CsvReader(textPieces(source, std::move(*decoder)), u',', options.limits.record), source, options,
+             visit);
     return Nothing{};
 }
 

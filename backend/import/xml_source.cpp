@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 #include <QStringBuilder>
 
+#include <algorithm>
 #include <utility>
 
 namespace wirepane {
@@ -37,6 +38,21 @@ QStringDecoder parsersDecoder(QIODevice& document) {
 
 }  // namespace
 
+void RationedSource::open(QIODevice& device) {
+    source = &device;
+    QIODevice::open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+}
+
+qint64 RationedSource::readData(char* data, qint64 most) {
+    const qint64 length = isUsedUp() ? -1 : source->read(data, std::min(most, ration - given));
+    given += std::max<qint64>(length, 0);
+    return length;
+}
+
+qint64 RationedSource::writeData(const char*, qint64) {
+    return -1;
+}
+
 QString XmlSource::HtmlEntities::resolveUndeclaredEntity(const QString& name) {
     const char32_t character = htmlEntity(name);
     return character != 0 ? QStringView(QChar::fromUcs4(character)).toString() : QString();
@@ -51,7 +67,8 @@ Done XmlSource::open(QIODevice& document) {
     if (encoding.isEmpty() || encoding.compare("utf-8", Qt::CaseInsensitive) == 0) {
         // A document with a wrong byte is no text, wherever the byte stands.
         const bool isText = isWellEncoded(document, parsersDecoder(document));
-        xml.setDevice(&document);
+        bytes.open(document);
+        xml.setDevice(&bytes);
         if (!isText)
             xml.raiseError(u"Encountered incorrectly encoded content."_s);
     } else {
@@ -68,18 +85,26 @@ Done XmlSource::open(QIODevice& document) {
             return piece;
         };
         decoded = std::make_unique<DecodedSource>(document, std::move(text));
-        xml.setDevice(decoded.get());
+        bytes.open(*decoded);
+        xml.setDevice(&bytes);
     }
     return Nothing{};
 }
 
 bool XmlSource::advance() {
+    bytes.renew();
     const auto token = xml.readNext();
-    if (token == QXmlStreamReader::StartElement && ++depth > deepestNesting)
+    if (bytes.isUsedUp())
+        raiseTooLong();
+    else if (token == QXmlStreamReader::StartElement && ++depth > deepestNesting)
         xml.raiseError(u"elements are nested deeper than %1"_s.arg(deepestNesting));
     else if (token == QXmlStreamReader::EndElement)
         --depth;
     return !xml.atEnd();
+}
+
+void XmlSource::raiseTooLong() {
+    xml.raiseError(u"a text is longer than %1 bytes"_s.arg(bytes.size()));
 }
 
 bool XmlSource::enterChild() {
@@ -111,6 +136,8 @@ XmlSource::Content XmlSource::content() {
         } else if (xml.isEndElement() && depth > outside) {
             content.tagged += u"</" % xml.name() % u'>';
         }
+        if (std::max(content.text.size(), content.tagged.size()) > bytes.size())
+            raiseTooLong();
     }
     return content;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/import/reading.h"
 #include "backend/result.h"
 
 #include <QIODevice>
@@ -13,10 +14,37 @@
 
 namespace wirepane {
 
-// One XML document from outside: its encoding, HTML's named entities, and bounds on nesting and entity
-// expansion. It is read a piece at a time.
+// Hands out a device's bytes, up to a ration at a time: what asks for more is cut off.
+class RationedSource : public QIODevice {
+public:
+    explicit RationedSource(qint64 bytes) : ration(bytes) {}
+
+    // The device outlives this.
+    void open(QIODevice& device);
+    void renew() { given = 0; }
+    bool isUsedUp() const { return given >= ration; }
+    qint64 size() const { return ration; }
+
+    bool isSequential() const override { return true; }
+    bool atEnd() const override { return source->atEnd(); }
+
+protected:
+    qint64 readData(char* data, qint64 most) override;
+    qint64 writeData(const char* data, qint64 length) override;
+
+private:
+    QIODevice* source = nullptr;
+    const qint64 ration;
+    qint64 given = 0;
+};
+
+// One XML document from outside: its encoding, HTML's named entities, and bounds on nesting, entity expansion
+// and the length of a text. It is read a piece at a time.
 class XmlSource {
 public:
+    // `mostOfText`: in bytes, of a text together with its element.
+    explicit XmlSource(qint64 mostOfText = ReadLimits().record) : bytes(mostOfText) {}
+
     // The document must be opened before anything is read; it is random-access, open for reading, stands at
     // its start and outlives this. Fails when the declared encoding is not known.
     Done open(QIODevice& document);
@@ -46,6 +74,7 @@ public:
 
 private:
     bool advance();
+    void raiseTooLong();
     void addElement(Content& content);
 
     struct HtmlEntities : QXmlStreamEntityResolver {
@@ -55,6 +84,7 @@ private:
     HtmlEntities entities;
     QIODevice* source = nullptr;
     std::unique_ptr<QIODevice> decoded;  // where the parser does not decode by itself
+    RationedSource bytes;
     QXmlStreamReader xml;
     int depth = 0;
 };

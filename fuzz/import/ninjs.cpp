@@ -26,7 +26,7 @@ void tryLines(QByteArray source, const ReadOptions& options) {
         source.remove(0, 3);
     const auto all = source.split('\n');
     const auto filled = std::count_if(all.begin(), all.end(), [&](const QByteArray& line) {
-        return line.size() >= options.limits.line || !line.trimmed().isEmpty();
+        return line.size() >= options.limits.record || !line.trimmed().isEmpty();
     });
     promise(qsizetype(result.items.size()) + result.rejections == filled, "every line is accounted for");
 }
@@ -70,15 +70,19 @@ void promiseSameInAList(const QByteArray& source) {
 
 }  // namespace
 
-// ninjs in its three forms; the first byte chooses how long a line may be.
+// ninjs in its three forms; the first byte chooses how long a record may be.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     FuzzInput input(bytes, size);
     ReadOptions options;
-    options.limits.line = 64 + 16 * input.byte();
+    options.limits.record = 64 + 16 * input.byte();
     const QByteArray source = input.bytes();
     tryLines(source, options);
-    const ReadingResult document = promiseReading(
-        source.size(), [&](const ItemVisitor& visit) { readJsonDocument(source, options, visit); });
+    const ReadingResult document = promiseReading(source.size(), [&](const ItemVisitor& visit) {
+        QBuffer buffer;
+        buffer.setData(source);
+        buffer.open(QIODevice::ReadOnly);
+        readJsonDocument(buffer, options, visit);
+    });
     promise(document.items.size() + std::size_t(document.rejections) == 1, "a document is one record");
     promiseSameInAList(source);
     if (source.trimmed().startsWith('['))

@@ -547,6 +547,10 @@
         <source></source>
         <translation>The record has no time that can be read: “%1” is “%2”.</translation>
     </message>
+    <message id="ERROR_IMPORT_RECORD_TOO_LONG">
+        <source></source>
+        <translation>The record is longer than %1 bytes.</translation>
+    </message>
     <message id="ERROR_IMPORT_RECORD_WITHOUT_TIME">
         <source></source>
         <translation>The record has no time (“versioncreated”, “firstcreated” or “contentcreated”).</translation>

@@ -547,6 +547,10 @@
         <source></source>
         <translation>无法读取该记录的时间：“%1”的值为“%2”。</translation>
     </message>
+    <message id="ERROR_IMPORT_RECORD_TOO_LONG">
+        <source></source>
+        <translation>该记录超过 %1 字节。</translation>
+    </message>
     <message id="ERROR_IMPORT_RECORD_WITHOUT_TIME">
         <source></source>
         <translation>该记录没有时间（“versioncreated”、“firstcreated”或“contentcreated”）。</translation>

@@ -547,6 +547,10 @@
         <source></source>
         <translation>無法讀取此筆記錄的時間：「%1」的值為「%2」。</translation>
     </message>
+    <message id="ERROR_IMPORT_RECORD_TOO_LONG">
+        <source></source>
+        <translation>此筆記錄超過 %1 位元組。</translation>
+    </message>
     <message id="ERROR_IMPORT_RECORD_WITHOUT_TIME">
         <source></source>
         <translation>此筆記錄沒有時間（「versioncreated」、「firstcreated」或「contentcreated」）。</translation>

@@ -20,7 +20,7 @@ QString readOut(QStringView csv, qsizetype pieceSize) {
     });
     while (const auto record = reader.next())
         records += QString::number(record->line) + u':' + record->fields.join(u'|') +
-                   (record->closed ? QString() : QStringLiteral("!"));
+                   (record->fault ? QStringLiteral("!") : QString());
     EXPECT_EQ(reader.position(), csv.size());
     return records.join(u' ');
 }

@@ -99,6 +99,46 @@ TEST(HostileInput, LongLinesAreRead) {
     EXPECT_FALSE(readAll("{\"" + megabytes).rejections.empty());
 }
 
+// A record, a row or a text beyond the limit is passed over, and never held; what stands beside it is read.
+TEST(HostileInput, WhatIsLongerThanARecordMayBeIsPassedOver) {
+    const QByteArray longText = QByteArray("long \\\"]},<text> ").repeated(20'000);
+    const auto json = [](const QByteArray& uri, const QByteArray& text) {
+        return "{\n\"uri\": \"" + uri +
+               "\", \"versioncreated\": \"2004\", \"headline\": \"H\", \"body_text\": \"" + text + "\"}";
+    };
+    const auto entry = [](const QByteArray& guid, const QByteArray& text) {
+        return "<item><guid>" + guid + "</guid><title>H</title><pubDate>2004</pubDate><description>" + text +
+               "</description></item>";
+    };
+    const QByteArray rss = "<rss><channel>" + entry("a", "A");
+    const QString recordTooLong = u"The record is longer than 100000 bytes."_s;
+    const QString textTooLong = u"The XML cannot be read: a text is longer than 100000 bytes."_s;
+    struct Case {
+        QByteArray source;
+        std::size_t taken;
+        QString reason;
+    };
+    const std::vector<Case> cases = {
+        {json("a", longText), 0, recordTooLong},
+        {"[" + json("a", "A") + ",\n" + json("b", longText) + ",\n" + json("c", "C") + "]", 2, recordTooLong},
+        {"[" + json("a", "A") + "," + json("b", longText) + "]", 1, recordTooLong},
+        {rss + entry("b", "<![CDATA[" + longText + "]]>") + entry("c", "C") + "</channel></rss>", 1,
+         textTooLong},
+        {rss + entry("b", QByteArray("<b>bold</b> ").repeated(20'000)) + "</channel></rss>", 1, textTooLong},
+        {rss + "<image " + QByteArray("a='long' ").repeated(20'000) + "/></channel></rss>", 1, textTooLong},
+        {"market,code,name\n1,a,A\n1,b,\"" + longText, 1, recordTooLong},
+        {"market,code,name\n1,a,A\n1,b" + QByteArray(20'000, ',') + "\n1,c,C\n", 1, recordTooLong},
+    };
+    ReadOptions options;
+    options.limits.record = 100'000;
+    for (const Case& one : cases) {
+        const auto out = readAll(one.source, options);
+        EXPECT_EQ(out.items.size(), one.taken) << one.source.first(200).constData();
+        ASSERT_EQ(out.rejections.size(), 1U) << qPrintable(out.complaints());
+        EXPECT_EQ(out.rejections.front().reason, one.reason);
+    }
+}
+
 TEST(HostileInput, WhatIsNoNewsIsRefused) {
     for (const QByteArray& source :
          {QByteArray("a,b,c\n1,2,3\n"), QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16),

@@ -189,7 +189,7 @@ TEST(Ninjs, WhatIsTooLongIsRejectedAndReadingGoesOn) {
     for (int i = 0; i < 10; ++i)
         source += record(R"("headline": "H")") + '\n';
     ReadOptions options;
-    options.limits.line = 40;
+    options.limits.record = 40;
     const auto out = readAll(source + "{}\n", options);
     EXPECT_EQ(out.items.size(), 0U);
     ASSERT_EQ(out.rejections.size(), 11U);
