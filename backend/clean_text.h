@@ -28,6 +28,13 @@ inline bool isBlank(QChar character) {
     return c < 0x80 ? c == u' ' || (c >= u'\t' && c <= u'\r') : c <= lastBlank && character.isSpace();
 }
 
+// A letter or a digit of ASCII, of which most of a text consists: asked first where a text is read character
+// by character.
+inline bool isPlainLetter(QChar character) {
+    const unsigned c = character.unicode();
+    return (c | 0x20U) - u'a' < 26U || c - u'0' < 10U;
+}
+
 // One line: line breaks and tabs become blanks, what is hidden goes.
 QString cleanTitle(const QString& text);
 // A story: CR, LF and tabs stay, other line breaks become blanks, what is hidden goes.

@@ -83,7 +83,7 @@ private:
     qsizetype endOfRun(qsizetype from, qsizetype limit) const {
         const auto isText = [this](qsizetype i) {
             const QChar c = text.at(i);
-            return c != u'<' && c != u'&' && !isBlank(c);
+            return isPlainLetter(c) || (c != u'<' && c != u'&' && !isBlank(c));
         };
         while (from < limit &&
                (isText(from) || (text.at(from) == u' ' && from > at && from + 1 < limit && isText(from + 1))))

@@ -73,9 +73,9 @@ bool isRule(QStringView content) {
     qsizetype drawn = 0;
     qsizetype written = 0;
     for (const QChar c : content) {
-        if (isStroke(c))
+        if (!isPlainLetter(c) && isStroke(c))
             ++drawn;
-        else if (!isBlank(c) && ++written > content.size() / 2)
+        else if ((isPlainLetter(c) || !isBlank(c)) && ++written > content.size() / 2)
             return false;
     }
     return drawn >= (written == 0 ? shortestRule : shortestCaptioned) && drawn >= written;
@@ -88,14 +88,14 @@ bool endsSentence(QChar c) {
 
 bool hasColumns(QStringView content) {
     for (qsizetype at = 0; at < content.size();) {
-        if (!isBlank(content.at(at))) {
+        if (isPlainLetter(content.at(at)) || !isBlank(content.at(at))) {
             ++at;
             continue;
         }
         qsizetype end = at;
-        while (isBlank(content.at(end)))  // the content ends with something else
-            ++end;
-        const bool isTab = content.sliced(at, end - at).contains(u'\t');
+        bool isTab = false;
+        for (; isBlank(content.at(end)); ++end)  // the content ends with something else
+            isTab = isTab || content.at(end) == u'\t';
         if (isTab || end - at > 2 || (end - at == 2 && !endsSentence(content.at(at - 1))))
             return true;
         at = end;
