@@ -70,7 +70,8 @@ void promiseSymbol(const SymbolItem& item) {
     promise(!item.code.isEmpty() && item.code.size() <= 2 * 32, "a symbol's code has 1 to 32 characters");
     promiseCleanText(item.code);
     promiseTitle(item.name);
-    promiseTitle(item.englishName);
+    if (!item.englishName.isEmpty())
+        promiseTitle(item.englishName);
     promise(item.category >= 0, "kinds of symbols count from 0 on");
 }
 
