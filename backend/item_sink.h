@@ -52,6 +52,9 @@ public:
 // is after the position that is kept has not been taken, and nothing before it is missing.
 class FeedSink : public ItemSink {
 public:
+    // As take(), of a source whose news others may bring, too: what is known by its link is there already,
+    // whatever it is called by this source.
+    virtual Result<TakeOutcome> takeFrom(const QString&, const StoreItem& item) { return take(item); }
     // Between begin() and commit(). `source` names the source for good; `position` is the source's own text.
     virtual Done keepPosition(const QString& source, const QString& position) = 0;
 };

@@ -28,6 +28,7 @@ struct NewsItem {
                                                // source says that one is still to come
     QString category;                  // name of its category; empty: none. The store gives each name an id
     std::vector<CSymbolInfo> related;  // the first is the main symbol; market 0: not known
+    QString link;                      // where its publisher shows it; empty: not known
 
     std::optional<std::int32_t>
         sequence;  // given by a feed that numbers its headlines; else the store numbers

@@ -4,6 +4,7 @@
 
 #include "host/contract/clock.h"
 
+#include <utility>
 #include <variant>
 
 namespace wirepane {
@@ -13,14 +14,17 @@ namespace {
 // Takes the items of one batch, and counts.
 class Taking {
 public:
-    explicit Taking(FeedSink& target) : sink(target) {}
+    // `origin`: the source whose news others may bring, too; empty: they do not.
+    Taking(FeedSink& target, QString sharedBy) : sink(target), origin(std::move(sharedBy)) {}
 
     bool take(const SourceItem& item) {
         if (!item.content) {
             reject(item.place, item.content.error());
             return true;
         }
-        const Result<TakeOutcome> taken = sink.take(item.content.value());
+        const StoreItem& content = item.content.value();
+        const Result<TakeOutcome> taken =
+            origin.isEmpty() ? sink.take(content) : sink.takeFrom(origin, content);
         if (!taken) {
             failure = taken.error();
             return false;
@@ -50,6 +54,7 @@ private:
     }
 
     FeedSink& sink;
+    QString origin;
 };
 
 }  // namespace
@@ -76,7 +81,7 @@ void FeedSource::tellTrouble(const Error& error) {
 Result<BatchOutcome> takeBatch(FeedBatch& batch, const QString& source, FeedSink& sink) {
     if (const Done begun = sink.begin(); !begun)
         return begun.error();
-    Taking taking(sink);
+    Taking taking(sink, batch.isShared() ? source : QString());
     const Done read = batch.read([&taking](SourceItem&& item) { return taking.take(item); });
     if (taking.failure) {
         sink.rollback();

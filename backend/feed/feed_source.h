@@ -31,10 +31,11 @@ struct SourceState {
         Stale,    // there, but nothing has come for longer than is usual
         Offline,  // the other end is gone, or the terminal is disconnected
         Failed,   // it cannot go on as it is
+        Silent,   // no sign of life from the other end; the reason says what was met instead
     };
     Kind kind = Connecting;
     std::int64_t since = 0;            // when it came to be so, seconds since 1970
-    std::optional<Error> reason = {};  // of Failed
+    std::optional<Error> reason = {};  // of Failed and Silent
 
     bool operator==(const SourceState&) const = default;
 };
@@ -66,6 +67,9 @@ public:
     virtual Done read(const ItemVisitor& visit) = 0;
     // The position behind what has been read; empty: there is none to keep.
     virtual QString position() const { return {}; }
+    // Whether other sources may bring the same news under other identities: it is known again by its link
+    // then.
+    virtual bool isShared() const { return false; }
 };
 
 // A source of news: it hands items over in batches that are taken whole or not at all, each with the position

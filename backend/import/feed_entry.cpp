@@ -182,6 +182,7 @@ Result<StoreItem> feedItem(const FeedEntry& entry, const FeedEntry& feed, unsign
     item.time = *time;
     item.version = versionOf({}, entry.updated.value_or(*time));
     item.category = entry.category;
+    item.link = entry.link;
     return StoreItem(item);
 }
 

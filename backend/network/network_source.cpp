@@ -96,6 +96,13 @@ bool read(const QJsonValue& json, Value& value) {
     }
 }
 
+// What stands in the head of a request must not end its line.
+bool isOf(const QString& text, QStringView marks) {
+    return std::all_of(text.begin(), text.end(), [marks](QChar c) {
+        return (c.unicode() < 0x80 && c.isLetterOrNumber()) || marks.contains(c);
+    });
+}
+
 bool isInRange(int value, int least, int most) {
     return value == 0 || (value >= least && value <= most);
 }
@@ -146,6 +153,10 @@ Done checkedSource(const NetworkSource& source) {
         return makeError<network_errors::fieldWrong>(u"interval"_s, source.interval);
     if (!isInRange(source.greatestAge, 1, longestGreatestAge))
         return makeError<network_errors::fieldWrong>(u"greatestAge"_s, source.greatestAge);
+    if (!isOf(source.language, u"-,;=.* "))
+        return makeError<network_errors::fieldWrong>(u"language"_s, source.language);
+    if (!isOf(source.field, u"-_"))
+        return makeError<network_errors::fieldWrong>(u"field"_s, source.field);
     if ((source.authorisation != Authorisation::None && source.secret.isEmpty()) ||
         (source.authorisation == Authorisation::Header && source.field.isEmpty()))
         return makeError<network_errors::authorisationIncomplete>();

@@ -7,6 +7,7 @@
 #include "backend/store/day_bounds.h"
 #include "backend/store/item_check.h"
 #include "backend/store/store_errors.h"
+#include "host/contract/clock.h"
 
 #include <QDateTime>
 
@@ -51,6 +52,7 @@ StoreWriter::StoreWriter(Database& owner)
       categories(owner),
       arrivals(owner),
       positions(owner),
+      origins(owner),
       trimmer(owner, news, arrivals),
       quotes(owner),
       insertService(owner,
@@ -279,6 +281,25 @@ Done StoreWriter::takeAnyAge() {
     if (!trimmer.lift())
         return fail();
     return commit();
+}
+
+Result<TakeOutcome> StoreWriter::takeFrom(const QString& source, const StoreItem& item) {
+    if (!std::holds_alternative<NewsItem>(item))
+        return take(item);
+    NewsItem named = std::get<NewsItem>(item);
+    bool failed = false;
+    const ItemOrigins::Known known = origins.find(named, source, failed);
+    if (failed)
+        return fail();
+    const bool isAnothers =
+        !known.identity.isEmpty() && known.identity != named.identity && !known.isBySource;
+    if (!known.identity.isEmpty())
+        named.identity = known.identity;
+    const Result<TakeOutcome> taken = isAnothers ? TakeOutcome{Take::AlreadyThere, {}} : take(named);
+    const bool isThere = taken && taken.value().take != Take::Rejected;
+    if (isThere && !origins.note(named, source, host_clock::now()))
+        return fail();
+    return taken;
 }
 
 Done StoreWriter::keepPosition(const QString& source, const QString& position) {

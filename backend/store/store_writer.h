@@ -7,6 +7,7 @@
 #include "backend/store/category_book.h"
 #include "backend/store/day_numbers.h"
 #include "backend/store/feed_positions.h"
+#include "backend/store/item_origins.h"
 #include "backend/store/news_trimmer.h"
 #include "backend/store/news_writer.h"
 #include "backend/store/quote_book.h"
@@ -58,6 +59,7 @@ public:
     Done commit() override;
     void rollback() override;
     Done keepPosition(const QString& source, const QString& position) override;
+    Result<TakeOutcome> takeFrom(const QString& source, const StoreItem& item) override;
 
     // How far a source has been taken. Empty for one that was never heard of.
     Result<QString> positionOf(const QString& source);
@@ -107,6 +109,7 @@ private:
     CategoryBook categories;
     ArrivalLog arrivals;
     FeedPositions positions;
+    ItemOrigins origins;
     NewsTrimmer trimmer;
     QuoteBook quotes;
     Statement insertService;

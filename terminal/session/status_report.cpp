@@ -48,6 +48,7 @@ QString sourceText(const SourceState& state) {
         case SourceState::Offline:
             return terminalText(TextId::OfflineSince).arg(since);
         case SourceState::Failed:
+        case SourceState::Silent:
             break;
     }
     return terminalText(TextId::SourceFailed).arg(since, state.reason ? shownText(*state.reason) : QString());

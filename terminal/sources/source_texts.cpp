@@ -135,6 +135,7 @@ QString stateText(const SourceState& state) {
         case SourceState::Offline:
             return terminalText(TextId::OfflineSince).arg(since);
         case SourceState::Failed:
+        case SourceState::Silent:
             break;
     }
     return terminalText(TextId::SourceFailed).arg(since, state.reason ? shownText(*state.reason) : QString());

@@ -699,9 +699,49 @@
         <source></source>
         <translation>%1</translation>
     </message>
+    <message id="ERROR_NETWORK_ASKED_TOO_OFTEN">
+        <source></source>
+        <translation>%1 was asked too often and wants to be asked later.</translation>
+    </message>
     <message id="ERROR_NETWORK_AUTHORISATION_INCOMPLETE">
         <source></source>
         <translation>The source's authorisation lacks the name of its secret or of its field.</translation>
+    </message>
+    <message id="ERROR_NETWORK_BODY_TOO_LARGE">
+        <source></source>
+        <translation>The answer is larger than %1 MiB; nothing of it was taken.</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_EXPIRED">
+        <source></source>
+        <translation>The certificate of %1 expired on %2, or the clock of this machine is off.</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_NOT_TRUSTED">
+        <source></source>
+        <translation>The certificate of %1 comes from no authority that is trusted; a private one can be named with the source.</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_NOT_YET_VALID">
+        <source></source>
+        <translation>The certificate of %1 is valid from %2 on; the clock of this machine may be off.</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_OF_OTHER">
+        <source></source>
+        <translation>Who answers for %1 shows the certificate of “%2”; nothing was asked of it.</translation>
+    </message>
+    <message id="ERROR_NETWORK_CLOCK_OFF">
+        <source></source>
+        <translation>The clocks of %1 and of this machine are %2 minutes apart.</translation>
+    </message>
+    <message id="ERROR_NETWORK_CUT_OFF">
+        <source></source>
+        <translation>The answer of %1 broke off; nothing of it was taken.</translation>
+    </message>
+    <message id="ERROR_NETWORK_EMPTY_ANSWER">
+        <source></source>
+        <translation>The answer of %1 is empty.</translation>
+    </message>
+    <message id="ERROR_NETWORK_EMPTY_LIST">
+        <source></source>
+        <translation>The list of %1 holds nothing any more; what was in it stays.</translation>
     </message>
     <message id="ERROR_NETWORK_FIELD_WRONG">
         <source></source>
@@ -711,9 +751,37 @@
         <source></source>
         <translation>A file is a source only where the user has typed its address.</translation>
     </message>
+    <message id="ERROR_NETWORK_FORBIDDEN">
+        <source></source>
+        <translation>%1, or a firewall on the way, does not let this request through (status %2).</translation>
+    </message>
+    <message id="ERROR_NETWORK_HOST_UNKNOWN">
+        <source></source>
+        <translation>The host %1 is not known: the name was misspelt, or there is no connection.</translation>
+    </message>
     <message id="ERROR_NETWORK_LIST_FULL">
         <source></source>
         <translation>The list holds %1 sources; no more can be added.</translation>
+    </message>
+    <message id="ERROR_NETWORK_MAPPING_MISSING">
+        <source></source>
+        <translation>The mapping “%1” of the source cannot be used: %2</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOTHING_TAKEN">
+        <source></source>
+        <translation>None of the %1 items can be taken, the first because: %2</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOT_AUTHORISED">
+        <source></source>
+        <translation>%1 wants a valid authorisation (status %2).</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOT_REACHED">
+        <source></source>
+        <translation>%1 cannot be reached.</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOT_THERE">
+        <source></source>
+        <translation>%1 has nothing at this address any more (status %2).</translation>
     </message>
     <message id="ERROR_NETWORK_NO_ADDRESS">
         <source></source>
@@ -723,9 +791,69 @@
         <source></source>
         <translation>There is no source “%1” in the list.</translation>
     </message>
+    <message id="ERROR_NETWORK_OTHER_FORMAT">
+        <source></source>
+        <translation>The answer is %1, not what the source is said to give.</translation>
+    </message>
+    <message id="ERROR_NETWORK_PAGE_INSTEAD">
+        <source></source>
+        <translation>%1 gives a page for people instead of news: “%2”.</translation>
+    </message>
+    <message id="ERROR_NETWORK_PORTAL_INSTEAD">
+        <source></source>
+        <translation>%1 leads to a page of %2 instead of news, as networks do where somebody has to sign in first.</translation>
+    </message>
+    <message id="ERROR_NETWORK_PRIVATE_ADDRESS">
+        <source></source>
+        <translation>%1 leads into a private network, where only an address that the user has typed may lead.</translation>
+    </message>
+    <message id="ERROR_NETWORK_PROXY_FAILS">
+        <source></source>
+        <translation>%1 cannot be reached through the proxy of the system.</translation>
+    </message>
+    <message id="ERROR_NETWORK_QUIET">
+        <source></source>
+        <translation>%1 has not answered in time.</translation>
+    </message>
+    <message id="ERROR_NETWORK_REDIRECTED_TOO_OFTEN">
+        <source></source>
+        <translation>%1 sends on more than %2 times; it may be a loop.</translation>
+    </message>
+    <message id="ERROR_NETWORK_REDIRECT_ELSEWHERE">
+        <source></source>
+        <translation>%1 sends on to an address that is none of the web's.</translation>
+    </message>
+    <message id="ERROR_NETWORK_REDIRECT_IN_CLEAR">
+        <source></source>
+        <translation>%1 sends on to %2 without encryption; that is not followed.</translation>
+    </message>
+    <message id="ERROR_NETWORK_REFUSED">
+        <source></source>
+        <translation>%1 does not take connections at this port.</translation>
+    </message>
     <message id="ERROR_NETWORK_SECRET_IN_ADDRESS">
         <source></source>
         <translation>The address holds a user name or password; they are kept with the secrets instead.</translation>
+    </message>
+    <message id="ERROR_NETWORK_SERVER_FAILS">
+        <source></source>
+        <translation>%1 cannot answer at present (status %2).</translation>
+    </message>
+    <message id="ERROR_NETWORK_SIGN_IN_NEEDED">
+        <source></source>
+        <translation>The network on the way to %1 wants somebody to sign in first.</translation>
+    </message>
+    <message id="ERROR_NETWORK_STRANGE_STATUS">
+        <source></source>
+        <translation>%1 gives an answer that is no news (status %2).</translation>
+    </message>
+    <message id="ERROR_NETWORK_TIMED_OUT">
+        <source></source>
+        <translation>The answer of %1 was not complete after %2 seconds.</translation>
+    </message>
+    <message id="ERROR_NETWORK_TLS_FAILED">
+        <source></source>
+        <translation>No encrypted connection to %1 could be agreed on.</translation>
     </message>
     <message id="ERROR_QUERY_CLOSE_BRACKET">
         <source></source>

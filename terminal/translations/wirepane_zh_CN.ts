@@ -699,9 +699,49 @@
         <source></source>
         <translation>%1</translation>
     </message>
+    <message id="ERROR_NETWORK_ASKED_TOO_OFTEN">
+        <source></source>
+        <translation>%1 被询问得太频繁，要求稍后再来。</translation>
+    </message>
     <message id="ERROR_NETWORK_AUTHORISATION_INCOMPLETE">
         <source></source>
         <translation>来源的授权缺少机密数据的名称或字段的名称。</translation>
+    </message>
+    <message id="ERROR_NETWORK_BODY_TOO_LARGE">
+        <source></source>
+        <translation>回应大于 %1 MiB；其中内容均未采用。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_EXPIRED">
+        <source></source>
+        <translation>%1 的证书已于 %2 到期，或本机的时钟不准。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_NOT_TRUSTED">
+        <source></source>
+        <translation>%1 的证书不是由受信任的机构签发；可以为来源指定私人的机构。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_NOT_YET_VALID">
+        <source></source>
+        <translation>%1 的证书自 %2 起才有效；本机的时钟可能不准。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_OF_OTHER">
+        <source></source>
+        <translation>代 %1 回应者出示的是“%2”的证书；未向其要求任何数据。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CLOCK_OFF">
+        <source></source>
+        <translation>%1 的时钟与本机的时钟相差 %2 分钟。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CUT_OFF">
+        <source></source>
+        <translation>%1 的回应中断；其中内容均未采用。</translation>
+    </message>
+    <message id="ERROR_NETWORK_EMPTY_ANSWER">
+        <source></source>
+        <translation>%1 的回应是空的。</translation>
+    </message>
+    <message id="ERROR_NETWORK_EMPTY_LIST">
+        <source></source>
+        <translation>%1 的列表已没有任何内容；原有的新闻仍会保留。</translation>
     </message>
     <message id="ERROR_NETWORK_FIELD_WRONG">
         <source></source>
@@ -711,9 +751,37 @@
         <source></source>
         <translation>文件只有在用户亲自输入其地址时才能作为来源。</translation>
     </message>
+    <message id="ERROR_NETWORK_FORBIDDEN">
+        <source></source>
+        <translation>%1 或途中的防火墙不允许此请求（状态 %2）。</translation>
+    </message>
+    <message id="ERROR_NETWORK_HOST_UNKNOWN">
+        <source></source>
+        <translation>找不到主机 %1：名称有误，或目前没有连接。</translation>
+    </message>
     <message id="ERROR_NETWORK_LIST_FULL">
         <source></source>
         <translation>列表已有 %1 个来源，无法再添加。</translation>
+    </message>
+    <message id="ERROR_NETWORK_MAPPING_MISSING">
+        <source></source>
+        <translation>无法使用来源的映射文件“%1”：%2</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOTHING_TAKEN">
+        <source></source>
+        <translation>%1 个项目均无法采用，第一个的原因：%2</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOT_AUTHORISED">
+        <source></source>
+        <translation>%1 要求有效的授权（状态 %2）。</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOT_REACHED">
+        <source></source>
+        <translation>无法连接到 %1。</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOT_THERE">
+        <source></source>
+        <translation>%1 在此地址已没有内容（状态 %2）。</translation>
     </message>
     <message id="ERROR_NETWORK_NO_ADDRESS">
         <source></source>
@@ -723,9 +791,69 @@
         <source></source>
         <translation>列表中没有来源“%1”。</translation>
     </message>
+    <message id="ERROR_NETWORK_OTHER_FORMAT">
+        <source></source>
+        <translation>回应是 %1，与来源所设置的格式不符。</translation>
+    </message>
+    <message id="ERROR_NETWORK_PAGE_INSTEAD">
+        <source></source>
+        <translation>%1 给的是网页而不是新闻：“%2”。</translation>
+    </message>
+    <message id="ERROR_NETWORK_PORTAL_INSTEAD">
+        <source></source>
+        <translation>%1 转往 %2 的网页而不是新闻；需要先登录的网络常会如此。</translation>
+    </message>
+    <message id="ERROR_NETWORK_PRIVATE_ADDRESS">
+        <source></source>
+        <translation>%1 指向专用网络；只有用户亲自输入的地址才可以。</translation>
+    </message>
+    <message id="ERROR_NETWORK_PROXY_FAILS">
+        <source></source>
+        <translation>无法通过系统的代理服务器连接到 %1。</translation>
+    </message>
+    <message id="ERROR_NETWORK_QUIET">
+        <source></source>
+        <translation>%1 没有及时回应。</translation>
+    </message>
+    <message id="ERROR_NETWORK_REDIRECTED_TOO_OFTEN">
+        <source></source>
+        <translation>%1 转址超过 %2 次；可能是循环。</translation>
+    </message>
+    <message id="ERROR_NETWORK_REDIRECT_ELSEWHERE">
+        <source></source>
+        <translation>%1 转往一个不属于网页的地址。</translation>
+    </message>
+    <message id="ERROR_NETWORK_REDIRECT_IN_CLEAR">
+        <source></source>
+        <translation>%1 转往未加密的 %2；不予跟随。</translation>
+    </message>
+    <message id="ERROR_NETWORK_REFUSED">
+        <source></source>
+        <translation>%1 在此端口不接受连接。</translation>
+    </message>
     <message id="ERROR_NETWORK_SECRET_IN_ADDRESS">
         <source></source>
         <translation>地址中含有用户名或密码；它们应与机密数据一起保存。</translation>
+    </message>
+    <message id="ERROR_NETWORK_SERVER_FAILS">
+        <source></source>
+        <translation>%1 目前无法回应（状态 %2）。</translation>
+    </message>
+    <message id="ERROR_NETWORK_SIGN_IN_NEEDED">
+        <source></source>
+        <translation>通往 %1 的网络要求先登录。</translation>
+    </message>
+    <message id="ERROR_NETWORK_STRANGE_STATUS">
+        <source></source>
+        <translation>%1 的回应不是新闻（状态 %2）。</translation>
+    </message>
+    <message id="ERROR_NETWORK_TIMED_OUT">
+        <source></source>
+        <translation>%1 的回应在 %2 秒后仍不完整。</translation>
+    </message>
+    <message id="ERROR_NETWORK_TLS_FAILED">
+        <source></source>
+        <translation>无法与 %1 建立加密连接。</translation>
     </message>
     <message id="ERROR_QUERY_CLOSE_BRACKET">
         <source></source>

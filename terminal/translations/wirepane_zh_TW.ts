@@ -699,9 +699,49 @@
         <source></source>
         <translation>%1</translation>
     </message>
+    <message id="ERROR_NETWORK_ASKED_TOO_OFTEN">
+        <source></source>
+        <translation>%1 被詢問得太頻繁，要求稍後再來。</translation>
+    </message>
     <message id="ERROR_NETWORK_AUTHORISATION_INCOMPLETE">
         <source></source>
         <translation>來源的授權缺少機密資料的名稱或欄位的名稱。</translation>
+    </message>
+    <message id="ERROR_NETWORK_BODY_TOO_LARGE">
+        <source></source>
+        <translation>回應大於 %1 MiB；其中內容均未採用。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_EXPIRED">
+        <source></source>
+        <translation>%1 的憑證已於 %2 到期，或本機的時鐘不準。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_NOT_TRUSTED">
+        <source></source>
+        <translation>%1 的憑證不是由受信任的機構簽發；可以為來源指定私人的機構。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_NOT_YET_VALID">
+        <source></source>
+        <translation>%1 的憑證自 %2 起才有效；本機的時鐘可能不準。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CERTIFICATE_OF_OTHER">
+        <source></source>
+        <translation>代 %1 回應者出示的是「%2」的憑證；未向其要求任何資料。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CLOCK_OFF">
+        <source></source>
+        <translation>%1 的時鐘與本機的時鐘相差 %2 分鐘。</translation>
+    </message>
+    <message id="ERROR_NETWORK_CUT_OFF">
+        <source></source>
+        <translation>%1 的回應中斷；其中內容均未採用。</translation>
+    </message>
+    <message id="ERROR_NETWORK_EMPTY_ANSWER">
+        <source></source>
+        <translation>%1 的回應是空的。</translation>
+    </message>
+    <message id="ERROR_NETWORK_EMPTY_LIST">
+        <source></source>
+        <translation>%1 的清單已沒有任何內容；原有的新聞仍會保留。</translation>
     </message>
     <message id="ERROR_NETWORK_FIELD_WRONG">
         <source></source>
@@ -711,9 +751,37 @@
         <source></source>
         <translation>檔案只有在使用者親自輸入其位址時才能作為來源。</translation>
     </message>
+    <message id="ERROR_NETWORK_FORBIDDEN">
+        <source></source>
+        <translation>%1 或途中的防火牆不允許此要求（狀態 %2）。</translation>
+    </message>
+    <message id="ERROR_NETWORK_HOST_UNKNOWN">
+        <source></source>
+        <translation>找不到主機 %1：名稱有誤，或目前沒有連線。</translation>
+    </message>
     <message id="ERROR_NETWORK_LIST_FULL">
         <source></source>
         <translation>清單已有 %1 個來源，無法再新增。</translation>
+    </message>
+    <message id="ERROR_NETWORK_MAPPING_MISSING">
+        <source></source>
+        <translation>無法使用來源的對應檔「%1」：%2</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOTHING_TAKEN">
+        <source></source>
+        <translation>%1 個項目均無法採用，第一個的原因：%2</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOT_AUTHORISED">
+        <source></source>
+        <translation>%1 要求有效的授權（狀態 %2）。</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOT_REACHED">
+        <source></source>
+        <translation>無法連到 %1。</translation>
+    </message>
+    <message id="ERROR_NETWORK_NOT_THERE">
+        <source></source>
+        <translation>%1 在此位址已沒有內容（狀態 %2）。</translation>
     </message>
     <message id="ERROR_NETWORK_NO_ADDRESS">
         <source></source>
@@ -723,9 +791,69 @@
         <source></source>
         <translation>清單中沒有來源「%1」。</translation>
     </message>
+    <message id="ERROR_NETWORK_OTHER_FORMAT">
+        <source></source>
+        <translation>回應是 %1，與來源所設定的格式不符。</translation>
+    </message>
+    <message id="ERROR_NETWORK_PAGE_INSTEAD">
+        <source></source>
+        <translation>%1 給的是網頁而不是新聞：「%2」。</translation>
+    </message>
+    <message id="ERROR_NETWORK_PORTAL_INSTEAD">
+        <source></source>
+        <translation>%1 轉往 %2 的網頁而不是新聞；需要先登入的網路常會如此。</translation>
+    </message>
+    <message id="ERROR_NETWORK_PRIVATE_ADDRESS">
+        <source></source>
+        <translation>%1 指向私人網路；只有使用者親自輸入的位址才可以。</translation>
+    </message>
+    <message id="ERROR_NETWORK_PROXY_FAILS">
+        <source></source>
+        <translation>無法透過系統的代理伺服器連到 %1。</translation>
+    </message>
+    <message id="ERROR_NETWORK_QUIET">
+        <source></source>
+        <translation>%1 沒有及時回應。</translation>
+    </message>
+    <message id="ERROR_NETWORK_REDIRECTED_TOO_OFTEN">
+        <source></source>
+        <translation>%1 轉址超過 %2 次；可能是迴圈。</translation>
+    </message>
+    <message id="ERROR_NETWORK_REDIRECT_ELSEWHERE">
+        <source></source>
+        <translation>%1 轉往一個不屬於網頁的位址。</translation>
+    </message>
+    <message id="ERROR_NETWORK_REDIRECT_IN_CLEAR">
+        <source></source>
+        <translation>%1 轉往未加密的 %2；不予跟隨。</translation>
+    </message>
+    <message id="ERROR_NETWORK_REFUSED">
+        <source></source>
+        <translation>%1 在此連接埠不接受連線。</translation>
+    </message>
     <message id="ERROR_NETWORK_SECRET_IN_ADDRESS">
         <source></source>
         <translation>位址中含有使用者名稱或密碼；它們應與機密資料一起保存。</translation>
+    </message>
+    <message id="ERROR_NETWORK_SERVER_FAILS">
+        <source></source>
+        <translation>%1 目前無法回應（狀態 %2）。</translation>
+    </message>
+    <message id="ERROR_NETWORK_SIGN_IN_NEEDED">
+        <source></source>
+        <translation>通往 %1 的網路要求先登入。</translation>
+    </message>
+    <message id="ERROR_NETWORK_STRANGE_STATUS">
+        <source></source>
+        <translation>%1 的回應不是新聞（狀態 %2）。</translation>
+    </message>
+    <message id="ERROR_NETWORK_TIMED_OUT">
+        <source></source>
+        <translation>%1 的回應在 %2 秒後仍不完整。</translation>
+    </message>
+    <message id="ERROR_NETWORK_TLS_FAILED">
+        <source></source>
+        <translation>無法與 %1 建立加密連線。</translation>
     </message>
     <message id="ERROR_QUERY_CLOSE_BRACKET">
         <source></source>

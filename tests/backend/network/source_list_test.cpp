@@ -66,6 +66,8 @@ TEST(NetworkSource, ThatIsNotSoundIsRefused) {
         {R"({"address": "https://a.example/f", "service": 1.5})", &network_errors::fieldWrong},
         {R"({"address": "https://a.example/f", "kind": "gopher"})", &network_errors::fieldWrong},
         {R"({"address": "https://a.example/f", "typed": "yes"})", &network_errors::fieldWrong},
+        {R"({"address": "https://a.example/f", "language": "zh\r\nX: 1"})", &network_errors::fieldWrong},
+        {R"({"address": "https://a.example/f", "field": "X:"})", &network_errors::fieldWrong},
         {R"({"address": "https://a.example/f", "authorisation": "bearer"})",
          &network_errors::authorisationIncomplete},
         {R"({"address": "https://a.example/f", "authorisation": "header", "secret": "s"})",

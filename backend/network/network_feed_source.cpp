@@ -1,0 +1,229 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/network/network_feed_source.h"
+
+#include "backend/network/network_errors.h"
+#include "host/contract/clock.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr std::size_t mostOfBatch = 500;              // items
+constexpr std::int64_t longestPlan = 2 * 86'400'000;  // ms; a clock that was set back is not waited for
+
+std::int64_t today() {
+    const QDate day = host_clock::today();
+    return day.year() * 10000 + day.month() * 100 + day.day();
+}
+
+QString positionText(const Validators& validators, qsizetype listed) {
+    const QJsonObject json{{u"etag"_s, QString::fromLatin1(validators.etag)},
+                           {u"modified"_s, QString::fromLatin1(validators.modified)},
+                           {u"items"_s, qint64(listed)}};
+    return QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact));
+}
+
+// What an item says, so that one that has changed is told from one that was handed over.
+std::size_t printOf(const NewsItem& item) {
+    return qHashMulti(0, item.version, item.time, item.title, item.story.value_or(QString()), item.category,
+                      item.story.has_value());
+}
+
+}  // namespace
+
+struct NetworkFeedSource::Pending : FeedBatch {
+    std::vector<SourceItem> items;
+    QString behind;
+
+    Done read(const ItemVisitor& visit) override {
+        for (const SourceItem& item : items) {
+            if (!visit(SourceItem(item)))
+                break;
+        }
+        return Nothing{};
+    }
+    QString position() const override { return behind; }
+    bool isShared() const override { return true; }
+};
+
+NetworkFeedSource::NetworkFeedSource(NetworkSource definition, NetworkMeans given, SourceStanding standing)
+    : source(std::move(definition)),
+      means(std::move(given)),
+      kept(std::move(standing)),
+      schedule(source.interval),
+      gaps(UsualGaps::parse(kept.gaps)) {}
+
+NetworkFeedSource::~NetworkFeedSource() {
+    *alive = false;
+}
+
+void NetworkFeedSource::leave() {
+    hasLeft = true;
+    batches.clear();
+    *alive = false;
+    tellReady();
+}
+
+// A store that cannot say is asked again by poll().
+void NetworkFeedSource::resume(const Result<QString>& position) {
+    if (!position)
+        return;
+    isWaiting = false;
+    const QJsonObject json = QJsonDocument::fromJson(position.value().toUtf8()).object();
+    validators = {json.value("etag"_L1).toString().toLatin1(),
+                  json.value("modified"_L1).toString().toLatin1()};
+    listed = json.value("items"_L1).toInteger();
+}
+
+void NetworkFeedSource::poll() {
+    if (isWaiting || !isOnline || isAsking || hasLeft || source.isPaused || hasBatch())
+        return;
+    const std::int64_t now = means.clock();
+    if (now < nextTryMs && nextTryMs - now < longestPlan)
+        return show();
+    isAsking = true;
+    kept.lastTry = now / 1000;
+    hasChanged = true;
+    findSecret();
+}
+
+void NetworkFeedSource::findSecret() {
+    if (source.secret.isEmpty())
+        return ask({});
+    const auto found = [this, life = alive, asked = generation](const Result<QString>& secret) {
+        if (!*life || asked != generation)
+            return;
+        if (secret)
+            return ask(SourceSecret::parse(secret.value()));
+        SourceAnswer answer;
+        answer.fault = secret.error();
+        take(std::move(answer));
+    };
+    if (means.secrets == nullptr)
+        found(makeError<network_errors::authorisationIncomplete>());
+    else
+        means.secrets->find(source.secret, found);
+}
+
+void NetworkFeedSource::ask(const SourceSecret& secret) {
+    means.asker->ask({source, secret, validators},
+                     [this, life = alive, asked = generation](SourceAnswer answer) {
+                         if (*life && asked == generation)
+                             take(std::move(answer));
+                     });
+}
+
+void NetworkFeedSource::take(SourceAnswer&& answer) {
+    isAsking = false;
+    hasAnswer = true;
+    fault = answer.fault;
+    isAlive = answer.isAlive;
+    isReadable = answer.isRead;
+    kept.delay = answer.milliseconds;
+    if (answer.isAlive)
+        gaps.listen(seconds());
+    const bool isEmptied = answer.isRead && !answer.isUnchanged && answer.items.empty() && answer.left == 0;
+    if (isEmptied && listed > 0 && !fault)
+        fault = makeError<network_errors::emptyList>(source.address.host());
+    const SourceAnswer head{answer.fault, answer.isAlive,    answer.isRead, answer.isUnchanged, {},
+                            answer.left,  answer.validators, answer.wish,   answer.milliseconds};
+    int news = 0;
+    if (answer.isRead) {
+        kept.lastSuccess = seconds();
+        const bool isFirst = handed.isEmpty();
+        if (!answer.isUnchanged)
+            takeItems(std::move(answer));
+        for (const auto& batch : batches)
+            news += static_cast<int>(batch->items.size());
+        // What was there before it was ever asked, or read again after a restart, has not come now.
+        if (isFirst)
+            news = 0;
+    }
+    if (news > 0)
+        gaps.arrive(seconds());
+    planNext(head, news);
+    if (hasBatch())
+        tellReady();
+}
+
+void NetworkFeedSource::takeItems(SourceAnswer&& answer) {
+    if (!answer.items.empty())
+        listed = std::ssize(answer.items);
+    validators = answer.validators;
+    QHash<QString, std::size_t> present;
+    auto batch = std::make_shared<Pending>();
+    for (SourceItem& item : answer.items) {
+        const NewsItem* const news = item.content ? std::get_if<NewsItem>(&item.content.value()) : nullptr;
+        if (news != nullptr) {
+            const std::size_t print = printOf(*news);
+            present.insert(news->identity, print);
+            const auto before = handed.constFind(news->identity);
+            if (before != handed.constEnd() && *before == print)
+                continue;
+        }
+        if (batch->items.size() == mostOfBatch)
+            batches.push_back(std::exchange(batch, std::make_shared<Pending>()));
+        batch->items.push_back(std::move(item));
+    }
+    handed = std::move(present);
+    batch->behind = positionText(validators, listed);
+    batches.push_back(std::move(batch));
+}
+
+void NetworkFeedSource::planNext(const SourceAnswer& answer, int news) {
+    const std::int64_t wait = schedule.next({answer.isRead, news, answer.wish}, seconds(), means.chance());
+    nextTryMs = means.clock() + wait;
+    kept.nextTry = nextTryMs / 1000;
+    kept.fault = fault ? errorValue(*fault) : QJsonObject();
+    kept.gaps = gaps.text();
+    hasChanged = true;
+    show();
+}
+
+void NetworkFeedSource::show() {
+    if (!hasAnswer || !isOnline)
+        return;
+    if (!isReadable)
+        setState(isAlive ? SourceState::Failed : SourceState::Silent, fault);
+    else
+        setState(gaps.isStale(seconds()) ? SourceState::Stale : SourceState::Live);
+}
+
+std::shared_ptr<FeedBatch> NetworkFeedSource::batch() {
+    return batches.empty() ? nullptr : batches.front();
+}
+
+void NetworkFeedSource::acknowledge(const BatchOutcome& outcome) {
+    if (batches.empty())
+        return;
+    batches.pop_front();
+    kept.items = kept.itemsOn(today()) + static_cast<int>(outcome.news);
+    kept.day = today();
+    hasChanged = true;
+}
+
+// What was not taken before an outage is asked for anew after it, from the position that is kept by then.
+void NetworkFeedSource::setOnline(bool on) {
+    isOnline = on;
+    ++generation;
+    isAsking = false;
+    batches.clear();
+    handed.clear();
+    isWaiting = true;
+    nextTryMs = 0;
+    hasAnswer = false;
+    setState(on ? SourceState::Connecting : SourceState::Offline);
+    if (on)
+        tellReady();
+}
+
+}  // namespace wirepane

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/database/statement.h"
+#include "backend/news_item.h"
+
+#include <QStringList>
+
+namespace wirepane {
+
+// Which sources have brought a piece of news, and under which link: by that the same piece is known again
+// when another source brings it under an identity of its own, or its own source under a new one. Thread: that
+// of the database, which must outlive this.
+class ItemOrigins {
+public:
+    explicit ItemOrigins(Database& database);
+
+    struct Known {
+        QString identity;         // under which it is in the store; empty: it is not known by its link
+        bool isBySource = false;  // this source has brought it before
+    };
+    Known find(const NewsItem& item, const QString& source, bool& failed);
+    // In the transaction that takes the item. False on failure.
+    bool note(const NewsItem& item, const QString& source, std::int64_t now);
+    // Forgets what was noted before. False on failure.
+    bool forget(std::int64_t before);
+    // The sources that have brought it, in no order.
+    QStringList sourcesOf(unsigned char service, const QString& identity);
+
+private:
+    Statement byLink;
+    Statement write;
+    Statement erase;
+    Statement readSources;
+};
+
+}  // namespace wirepane

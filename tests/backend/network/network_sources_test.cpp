@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// Sources of the list in a running terminal: from a server on the loopback to what views are told.
+#include "backend/network/network_sources.h"
+
+#include "backend/network/network_errors.h"
+#include "tests/backend/feed/live_source_fixture.h"
+#include "tests/backend/network/fault_server.h"
+#include "tests/support/qt_printers.h"
+
+#include <QElapsedTimer>
+
+namespace wirepane {
+namespace {
+
+struct Entry {
+    QString identity;
+    QString title;
+    QString link;
+    int minutes = 0;  // before the present
+};
+
+QByteArray rss(const std::vector<Entry>& entries) {
+    QString text = u"<rss version='2.0'><channel><title>T</title>"_s;
+    for (const Entry& entry : entries) {
+        const QDateTime time =
+            QDateTime::fromSecsSinceEpoch(host_clock::now() / 60 * 60 - entry.minutes * 60, Qt::UTC);
+        text +=
+            u"<item><guid>urn:%1</guid><title>News %2</title><link>%3</link><pubDate>%4</pubDate></item>"_s
+                .arg(entry.identity, entry.title, entry.link, time.toString(Qt::ISODate));
+    }
+    return (text + u"</channel></rss>"_s).toUtf8();
+}
+
+class NetworkSourcesTest : public LiveSourceTest {
+protected:
+    NetworkSourcesTest() { start(); }
+    ~NetworkSourcesTest() override { network.reset(); }
+
+    void start() { network = std::make_unique<NetworkSources>(*backEnd, *feed, nullptr); }
+    void restart() {
+        network.reset();
+        backEnd->run([](StoreWriter&) {});
+        end();
+        open();
+        start();
+    }
+    // As another program does.
+    QString add(const FaultServer& of, const QString& path = u"/feed"_s) {
+        NetworkSource source;
+        source.address = of.url(path);
+        source.isTyped = true;
+        const auto store = openStore(storeFile);
+        return SourceList(*store.value()).add(source).value();
+    }
+    SourceStanding standing(int index = 0) { return network->sources().at(std::size_t(index))->standing(); }
+    bool hasAsked(const FaultServer& of, std::size_t times) {
+        return QTest::qWaitFor([&] { return of.seen.size() >= times && feed->isIdle(); }, 5000);
+    }
+    void askAgain(const FaultServer& of) {
+        const std::size_t before = of.seen.size();
+        for (const auto& source : network->sources())
+            source->askNow();
+        EXPECT_TRUE(hasAsked(of, before + 1));
+        QTest::qWait(50);
+    }
+
+    std::vector<Entry> entries{{u"1"_s, u"1"_s, u"https://x.example/1"_s, 3}};
+    QByteArray answer;  // in place of the entries
+    FaultServer server{[this](const FaultServer::Seen& seen) {
+        const QByteArray body = answer.isNull() ? rss(entries) : answer;
+        const QByteArray etag = '"' + QByteArray::number(qHash(body)) + '"';
+        return seen.headers.value("if-none-match") == etag
+                   ? FaultServer::whole("304 Not Modified", "", "")
+                   : FaultServer::whole("200 OK", "ETag: " + etag + "\r\n", body);
+    }};
+    std::unique_ptr<NetworkSources> network;
+};
+
+TEST_F(NetworkSourcesTest, TellsNewsOfASourceThatAnotherProgramAdds) {
+    const QString name = add(server);
+    ASSERT_TRUE(hasTold(1));
+    EXPECT_EQ(network->sources().front()->state().kind, SourceState::Live);
+
+    // What is unchanged is not sent, what is new is there at once.
+    askAgain(server);
+    EXPECT_EQ(server.seen.back().headers.value("if-none-match").isEmpty(), false);
+    entries.insert(entries.begin(), {u"2"_s, u"2"_s, u"https://x.example/2"_s, 0});
+    network->askNow(name);
+    const std::size_t before = server.seen.size();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.seen.size() > before; }, 5000));
+    QElapsedTimer sinceAnswer;
+    sinceAnswer.start();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return told().size() == 2; }, 5000));
+    RecordProperty("answer_to_row_ms", static_cast<int>(sinceAnswer.elapsed()));
+    EXPECT_LT(sinceAnswer.elapsed(), 300);
+
+    // After a restart it goes on with what it knew.
+    QTest::qWait(50);
+    restart();
+    ASSERT_TRUE(hasAsked(server, before + 2));
+    EXPECT_FALSE(server.seen.back().headers.value("if-none-match").isEmpty());
+    EXPECT_EQ(standing().items, 2);
+    EXPECT_EQ(titlesIn(*openStoreToRead(storeFile).value()), (QStringList{u"News 1"_s, u"News 2"_s}));
+
+    // A paused one is asked no more, a removed one is gone.
+    const std::size_t asked = server.seen.size();
+    const auto store = openStore(storeFile);
+    ASSERT_TRUE(SourceList(*store.value()).pause(name, true));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return network->sources().front()->definition().isPaused; }, 2000));
+    network->askNow(name);
+    QTest::qWait(600);
+    EXPECT_EQ(server.seen.size(), asked);
+    const std::size_t open = feed->sources().size();
+    ASSERT_TRUE(SourceList(*store.value()).remove(name));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return feed->sources().size() + 1 == open; }, 2000));
+}
+
+TEST_F(NetworkSourcesTest, TakesTheSameNewsOnceWhoeverBringsItUnderWhateverName) {
+    entries = {{u"1"_s, u"1"_s, u"https://x.example/1"_s, 3}, {u"2"_s, u"2"_s, u"https://x.example/2"_s, 2}};
+    add(server);
+    ASSERT_TRUE(hasTold(2));
+    // Its identities change; another source has them under its own, and one item more.
+    entries[0].identity = u"1b"_s;
+    entries[1].identity = u"2b"_s;
+    askAgain(server);
+    FaultServer other([](const FaultServer::Seen&) {
+        return FaultServer::whole("200 OK", "",
+                                  rss({{u"other:1"_s, u"one"_s, u"http://x.example/1/?utm_source=o"_s, 3},
+                                       {u"other:3"_s, u"3"_s, u"https://x.example/3"_s, 1}}));
+    });
+    add(other, u"/other"_s);
+    ASSERT_TRUE(hasTold(3));
+    EXPECT_EQ(titlesIn(*openStoreToRead(storeFile).value()),
+              (QStringList{u"News 1"_s, u"News 2"_s, u"News 3"_s}));
+    const auto store = openStoreToRead(storeFile);
+    QStringList sources = ItemOrigins(*store.value()).sourcesOf(1, u"urn:1"_s);
+    sources.sort();
+    EXPECT_EQ(sources, (QStringList{u"net:localhost"_s, u"net:localhost/2"_s}));
+}
+
+TEST_F(NetworkSourcesTest, SaysWhatIsWrongAndKeepsWhatWasThere) {
+    add(server);
+    ASSERT_TRUE(hasTold(1));
+    const struct {
+        QByteArray answer;
+        const ErrorCode* fault;
+        SourceState::Kind state;
+    } cases[] = {
+        {"<!DOCTYPE html><html><head><title>Blocked</title></head></html>", &network_errors::pageInstead,
+         SourceState::Failed},
+        {"  ", &network_errors::emptyAnswer, SourceState::Failed},
+        {rss({}), &network_errors::emptyList, SourceState::Live},
+        {"<rss version='2.0'><channel><item><guid>urn:9</guid></item></channel></rss>",
+         &network_errors::nothingTaken, SourceState::Live},
+        {rss(entries), nullptr, SourceState::Live},
+    };
+    for (const auto& one : cases) {
+        answer = one.answer;
+        askAgain(server);
+        EXPECT_EQ(standing().fault.value("code"_L1).toString(),
+                  QLatin1StringView(one.fault ? one.fault->key : ""))
+            << one.answer.toStdString();
+        EXPECT_EQ(network->sources().front()->state().kind, one.state) << one.answer.toStdString();
+    }
+    server.close();
+    for (QObject* socket : server.findChildren<QSslSocket*>())
+        delete socket;
+    network->sources().front()->askNow();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return network->sources().front()->state().kind == SourceState::Silent; }, 5000));
+    EXPECT_EQ(titlesIn(*openStoreToRead(storeFile).value()), QStringList{u"News 1"_s});
+    EXPECT_EQ(told().size(), 1);
+}
+
+TEST_F(NetworkSourcesTest, DialsNobodyDuringAnOutageNorWithoutSources) {
+    feed->setConnected(false);
+    add(server);
+    QTest::qWait(700);
+    EXPECT_EQ(server.connections, 0);
+    feed->setConnected(true);
+    EXPECT_TRUE(hasTold(1));
+}
+
+}  // namespace
+}  // namespace wirepane
