@@ -137,6 +137,9 @@ inline constexpr QLatin1StringView emptyWarningTerm{"IDS_NEWSCTRLVIEW_EMPTY_WARN
 inline constexpr QLatin1StringView emptyChooseTerms{"IDS_NEWSCTRLVIEW_EMPTY_CHOOSE_TERMS"};
 inline constexpr QLatin1StringView emptySearch{"IDS_NEWSCTRLVIEW_EMPTY_SEARCH"};
 inline constexpr QLatin1StringView emptyBeginSearch{"IDS_NEWSCTRLVIEW_EMPTY_BEGIN_SEARCH"};
+// In a story pane without a story.
+inline constexpr QLatin1StringView emptyStory{"IDS_NEWSCTRLVIEW_EMPTY_STORY"};
+inline constexpr QLatin1StringView emptyReadNewest{"IDS_NEWSCTRLVIEW_EMPTY_READ_NEWEST"};
 // "%1": a word that was searched for.
 inline constexpr QLatin1StringView emptyQuotedWord{"IDS_NEWSCTRLVIEW_EMPTY_QUOTED_WORD"};
 // "%1": the words, each in quotes.

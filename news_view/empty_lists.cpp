@@ -10,6 +10,8 @@
 #include "news_view/view_settings.h"
 #include "search/search_desk.h"
 
+#include <QPlainTextEdit>
+
 #include <algorithm>
 #include <utility>
 
@@ -34,13 +36,41 @@ void EmptyLists::watch(CSuperSheetWnd& grid, ListIndex list) {
 
 // From the event loop: once for what changes together.
 void EmptyLists::followSoon() {
-    if (notes.empty() || std::exchange(isPosted, true))
+    if (!parts.settings.options[ViewOption::EmptyStates] || std::exchange(isPosted, true))
         return;
     QMetaObject::invokeMethod(this, &EmptyLists::follow, Qt::QueuedConnection);
 }
 
 void EmptyLists::follow() {
     isPosted = false;
+    followList();
+    followStory();
+}
+
+// The text is made when the pane is first asked for.
+void EmptyLists::followStory() {
+    QPlainTextEdit* const text = calls.storyText();
+    if (text == nullptr)
+        return;
+    if (storyNote == nullptr) {
+        storyNote = new EmptyNote(text->viewport());
+        connect(storyNote, &EmptyNote::acted, this, &EmptyLists::readNewest);
+        connect(text, &QPlainTextEdit::textChanged, this, &EmptyLists::followSoon);
+    }
+    const CSuperSheetWnd* const grid = context.listOf(context.shownList()).grid();
+    if (text->document()->isEmpty())
+        storyNote->tell(emptyStoryText(grid != nullptr && grid->rowCount() > 0, parts.backEnd));
+    else
+        storyNote->hide();
+}
+
+void EmptyLists::readNewest() {
+    CSuperSheetWnd* const grid = context.listOf(context.shownList()).grid();
+    if (grid != nullptr && grid->rowCount() > 0)
+        grid->setActiveSelection(0, -1);
+}
+
+void EmptyLists::followList() {
     const ListIndex list = context.shownList();
     EmptyNote* const note = notes[list];
     if (note == nullptr)

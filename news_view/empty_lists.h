@@ -14,13 +14,15 @@
 #include <optional>
 
 class CSuperSheetWnd;
+class QPlainTextEdit;
 
 namespace wirepane {
 class SearchDesk;
 class ViewContext;
 
 // Lists without rows say why, and offer a way out: the nearest day with news, another list, the dialog that
-// fills the list. For a view whose options ask for it. Interface thread only.
+// fills the list. A story pane without a story says what it is for. For a view whose options ask for it.
+// Interface thread only.
 class EmptyLists : public QObject {
     Q_OBJECT
 
@@ -33,8 +35,9 @@ public:
         std::function<QString()> subject;  // the chosen category or symbol, as it is shown
         std::function<void(ListIndex)> showList;
         std::function<void()> chooseServices;
-        std::function<void()> beginSearch;       // the keyboard goes to the search box
-        std::function<void(ListIndex)> compose;  // what the list is filled by
+        std::function<void()> beginSearch;           // the keyboard goes to the search box
+        std::function<void(ListIndex)> compose;      // what the list is filled by
+        std::function<QPlainTextEdit*()> storyText;  // of the story pane; null: there is none
     };
     EmptyLists(ViewContext& context, const CommonParts& parts, const SearchDesk& searches, Calls calls);
 
@@ -45,6 +48,9 @@ public:
 
 private:
     void follow();
+    void followList();
+    void followStory();
+    void readNewest();
     bool isAwaited() const;
     EmptyList known(ListIndex list) const;
     // What the button of the shown list is for.
@@ -55,6 +61,7 @@ private:
     const SearchDesk& searches;
     const Calls calls;
     std::map<ListIndex, QPointer<EmptyNote>> notes;  // belong to the grids
+    QPointer<EmptyNote> storyNote;                   // belongs to the text of the pane
     bool isPosted = false;
 };
 

@@ -22,6 +22,11 @@ bool wantsServices(const EmptyList& list) {
     return isOfServices && !list.hasServices;
 }
 
+EmptyText emptyStoryText(bool hasRows, BKQuoteInterface& backEnd) {
+    return {LineIcon::News, langText(backEnd, keys::emptyStory),
+            hasRows ? langText(backEnd, keys::emptyReadNewest) : QString()};
+}
+
 EmptyText emptyTextOf(const EmptyList& list, BKQuoteInterface& backEnd) {
     const auto text = [&backEnd](QLatin1StringView key) { return langText(backEnd, key); };
     if (wantsServices(list))

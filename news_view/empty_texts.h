@@ -27,6 +27,9 @@ struct EmptyList {
 // Whether its way out is to tick services.
 bool wantsServices(const EmptyList& list);
 
+// What a story pane without a story says; `hasRows`: beside a list that has some.
+EmptyText emptyStoryText(bool hasRows, BKQuoteInterface& backEnd);
+
 // What the list says in the language in force, and what the button beside it.
 EmptyText emptyTextOf(const EmptyList& list, BKQuoteInterface& backEnd);
 

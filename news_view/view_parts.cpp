@@ -25,6 +25,7 @@
 #include "story/trv_news_story.h"
 
 #include <QItemSelectionModel>
+#include <QPlainTextEdit>
 
 using namespace wirepane;
 
@@ -355,7 +356,8 @@ EmptyLists::Calls TRVNewsCtrlView::Parts::emptyListCalls() {
                     standingSearches.composeKeySets();
                 else
                     standingSearches.manageWarningTerms();
-            }};
+            },
+            [this] { return qobject_cast<QPlainTextEdit*>(stage.paneText()); }};
 }
 
 QString TRVNewsCtrlView::Parts::shownSubject() {

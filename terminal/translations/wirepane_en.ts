@@ -1511,6 +1511,10 @@
         <source></source>
         <translation>“%1”</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_READ_NEWEST">
+        <source></source>
+        <translation>Read the Newest</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_RELATION">
         <source></source>
         <translation>No news of today matches the ticked key sets.</translation>
@@ -1526,6 +1530,10 @@
     <message id="IDS_NEWSCTRLVIEW_EMPTY_SHOW_DAY">
         <source></source>
         <translation>Show %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_STORY">
+        <source></source>
+        <translation>The story of the chosen headline stands here.</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_WARNING_TERM">
         <source></source>

@@ -1511,6 +1511,10 @@
         <source></source>
         <translation>“%1”</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_READ_NEWEST">
+        <source></source>
+        <translation>阅读最新一条</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_RELATION">
         <source></source>
         <translation>今天没有符合所勾选关键词组的新闻。</translation>
@@ -1526,6 +1530,10 @@
     <message id="IDS_NEWSCTRLVIEW_EMPTY_SHOW_DAY">
         <source></source>
         <translation>看 %1 的新闻</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_STORY">
+        <source></source>
+        <translation>选中的标题，其正文显示在这里。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_WARNING_TERM">
         <source></source>

@@ -1511,6 +1511,10 @@
         <source></source>
         <translation>「%1」</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_READ_NEWEST">
+        <source></source>
+        <translation>閱讀最新一則</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_RELATION">
         <source></source>
         <translation>今天沒有符合所勾選關鍵字組的新聞。</translation>
@@ -1526,6 +1530,10 @@
     <message id="IDS_NEWSCTRLVIEW_EMPTY_SHOW_DAY">
         <source></source>
         <translation>看 %1 的新聞</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_STORY">
+        <source></source>
+        <translation>選取的標題，其內文顯示在這裡。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_WARNING_TERM">
         <source></source>

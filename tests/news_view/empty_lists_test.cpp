@@ -5,6 +5,8 @@
 #include "host/controls/s_button.h"
 #include "tests/news_view/view_fixture.h"
 
+#include <QPlainTextEdit>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -55,6 +57,27 @@ TEST_F(EmptyListsTest, TheButtonCarriesOut) {
     ASSERT_NE(shown, nullptr);
     press(*shown);
     EXPECT_EQ(state(u"mode"_s), 0);
+}
+
+TEST_F(EmptyListsTest, AStoryPaneSaysWhatItIsForUntilAStoryIsThere) {
+    openActive({{u"EmptyStates"_s, true}, {u"NewsShowType"_s, 1}});
+    const auto storyNote = [this]() -> const EmptyNote* {
+        note();
+        for (const auto* text : view->findChildren<QPlainTextEdit*>()) {
+            const auto* found = text->viewport()->findChild<EmptyNote*>();
+            if (found != nullptr && found->isVisible())
+                return found;
+        }
+        return nullptr;
+    };
+    ASSERT_NE(storyNote(), nullptr);
+    EXPECT_TRUE(storyNote()->text().action.isEmpty()) << "there is nothing to read yet";
+    push(1, 10, 0, 7);
+    ASSERT_NE(storyNote(), nullptr);
+    ASSERT_FALSE(storyNote()->text().action.isEmpty());
+    press(*storyNote());
+    EXPECT_EQ(storyNote(), nullptr);
+    EXPECT_EQ(state(u"storyRow"_s), 0);
 }
 
 TEST_F(EmptyListsTest, AViewWhoseSettingsSayNothingHasNone) {
