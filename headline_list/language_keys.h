@@ -99,6 +99,7 @@ inline constexpr QLatin1StringView searching{"IDS_NEWSCTRLVIEW_STRING_NEWS_SEARC
 inline constexpr QLatin1StringView newsNotFound{"IDS_NEWSCTRLVIEW_STRING_NEWS_NOT_FOUND"};
 inline constexpr QLatin1StringView invalidSearch{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_SEARCH"};
 inline constexpr QLatin1StringView reinput{"IDS_NEWSCTRLVIEW_STRING_REINPUT"};
+inline constexpr QLatin1StringView searchAsText{"IDS_NEWSCTRLVIEW_STRING_SEARCH_AS_TEXT"};
 inline constexpr QLatin1StringView invalidValue{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_VALUE"};
 inline constexpr QLatin1StringView invalidPaste{"IDS_NEWSCTRLVIEW_STRING_INVALIDATE_PASTE"};
 

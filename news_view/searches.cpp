@@ -9,6 +9,7 @@
 #include "headline_list/table_reading.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
+#include "host/contract/query/search_query.h"
 #include "host/contract/symbol_name.h"
 #include "host/controls/heap_dialog.h"
 #include "host/controls/registered_message.h"
@@ -52,6 +53,7 @@ Searches::Searches(ViewContext& viewContext, const CommonParts& commonParts,
 void Searches::connectEdit() {
     auto* edit = parts.controls.find<SearchEdit2>(ids::searchEdit);
     edit->setOwner(this);
+    edit->setTakesQueries(parts.settings.options[ViewOption::SearchQueries]);
     QObject::connect(edit, &SEdit::returnPressed, &parts.window, [this] { searchForText(); });
 }
 
@@ -70,12 +72,30 @@ void Searches::searchForText() {
         tipAtEdit(langText(parts.backEnd, keys::invalidSearch));
         return;
     }
+    const std::optional<SearchLanguage> language = languageOf(text);
+    if (!language)
+        return;
+    conditions.takeQuickSearch(text, host_clock::now(), *language);
+    send();
+}
+
+std::optional<SearchLanguage> Searches::languageOf(const QString& text) {
+    if (parts.settings.options[ViewOption::SearchQueries]) {
+        const ReadQuery read = readQuery(text);
+        const auto* fault = std::get_if<QueryFault>(&read);
+        if (fault == nullptr)
+            return SearchLanguage::Query;
+        const QString sentence = langText(parts.backEnd, keyOf(fault->kind))
+                                     .arg(QString::number(fault->position + 1), fault->found);
+        const QString question = langText(parts.backEnd, keys::searchAsText);
+        return askYesNo(&parts.window, sentence + u"\n\n"_s + question) ? std::optional(SearchLanguage::Plain)
+                                                                        : std::nullopt;
+    }
     if (text.contains(u"AND"_s) || text.contains(u"OR"_s)) {
         tellError(&parts.window, langText(parts.backEnd, keys::reinput));
-        return;
+        return std::nullopt;
     }
-    conditions.takeQuickSearch(text, host_clock::now());
-    send();
+    return SearchLanguage::Plain;
 }
 
 void Searches::tipAtEdit(const QString& text) {

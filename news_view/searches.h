@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <vector>
 
 class CXTTipWindow;
@@ -35,7 +36,8 @@ public:
     // Enter in the search box searches, and what it refuses is told in a short tip.
     void connectEdit();
     // Searches headlines for the text of the search box. An empty one is refused with a tip, one that holds
-    // "AND" or "OR" with a message box.
+    // "AND" or "OR" with a message box. Where the view's settings want queries it is one: one with a fault
+    // is searched for as plain text if the user says so, or not at all.
     void searchForText();
     // The user composes the search of the search mode; unless he cancels it is sent. What he changed stays in
     // force in either case.
@@ -71,6 +73,8 @@ public:
 
 private:
     QString textOfEdit() const;
+    // How the text is searched for; none: not at all.
+    std::optional<SearchLanguage> languageOf(const QString& text);
     void tipAtEdit(const QString& text);
     bool waitTipIsUp() const;
     void stopWaiting();

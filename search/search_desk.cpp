@@ -83,11 +83,11 @@ std::optional<TableKind> SearchDesk::kindOfAnswer(const CSearch& condition) cons
     return std::nullopt;
 }
 
-void SearchDesk::takeQuickSearch(const QString& word, std::int64_t now) {
+void SearchDesk::takeQuickSearch(const QString& word, std::int64_t now, SearchLanguage language) {
     keepKeyword(history, word);
-    if (ordinary.keywords != std::vector{word} || ordinary.isQuery())
+    if (ordinary.keywords != std::vector{word} || ordinary.language != language)
         ordinary.symbols.clear();
-    ordinary.language = SearchLanguage::Plain;
+    ordinary.language = language;
     ordinary.scope = numberOf(SearchScope::Headlines);
     ordinary.method = numberOf(SearchMethod::All);
     ordinary.time = now;

@@ -59,9 +59,10 @@ public:
     };
     std::optional<Moment> sentAt(ListIndex list) const;
 
-    // Makes the word alone the ordinary condition (in headlines, composed at `now`), and keeps it in the
-    // history. Another word than the one in force is not narrowed to a symbol.
-    void takeQuickSearch(const QString& word, std::int64_t now);
+    // Makes the word alone, or the query, the ordinary condition (in headlines, composed at `now`), and keeps
+    // it in the history. Another one than that in force is not narrowed to a symbol.
+    void takeQuickSearch(const QString& word, std::int64_t now,
+                         SearchLanguage language = SearchLanguage::Plain);
     // For hosts: the quick-search words used so far, each once, newest last.
     const std::vector<QString>& searchHistory() const { return history; }
     // True when the text of the search box is another one than at the previous search.

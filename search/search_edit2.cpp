@@ -15,7 +15,9 @@ SearchEdit2::SearchEdit2(QWidget* parent) : SEdit(parent) {}
 
 void SearchEdit2::keyPressEvent(QKeyEvent* event) {
     const bool pastes = event->key() == Qt::Key_Insert && event->modifiers().testFlag(Qt::ShiftModifier);
-    if (pastes)
+    if (takesQueries)
+        SEdit::keyPressEvent(event);
+    else if (pastes)
         refuse(keys::invalidPaste);
     else if (event->text() == u" "_s)
         refuse(keys::invalidValue);
@@ -26,7 +28,7 @@ void SearchEdit2::keyPressEvent(QKeyEvent* event) {
 // What has been composed comes without keys: its blanks go, the rest is taken.
 void SearchEdit2::inputMethodEvent(QInputMethodEvent* event) {
     QString composed = event->commitString();
-    if (!composed.contains(u' ')) {
+    if (takesQueries || !composed.contains(u' ')) {
         SEdit::inputMethodEvent(event);
         return;
     }

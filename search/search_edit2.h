@@ -18,13 +18,14 @@ public:
 }  // namespace wirepane
 
 // The line in which a quick search is typed. It takes no blanks, typed or composed, and nothing pasted with
-// Shift+Insert, and tells the user why. Other ways of pasting are open.
+// Shift+Insert, and tells the user why. Other ways of pasting are open. One for queries takes all of it.
 class SearchEdit2 : public SEdit {
     Q_OBJECT
 
 public:
     explicit SearchEdit2(QWidget* parent = nullptr);
 
+    void setTakesQueries(bool takes) { takesQueries = takes; }
     // Who shows the tips; not owned, null: nobody.
     void setOwner(wirepane::ShortTips* view) { owner = view; }
 
@@ -36,4 +37,5 @@ private:
     void refuse(QLatin1StringView key);
 
     wirepane::ShortTips* owner = nullptr;
+    bool takesQueries = false;
 };

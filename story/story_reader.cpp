@@ -6,6 +6,7 @@
 #include "headline_list/entry_source.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/query/query_marks.h"
 #include "host/contract/symbol_name.h"
 #include "story/story_text.h"
 
@@ -102,7 +103,7 @@ StoryTexts StoryReader::RespStory(const CHeadlineTable& answered) {
 }
 
 std::optional<TextRange> StoryReader::mark(const QString& shownText) const {
-    return condition.keywordSearch ? lastKeywordMatch(shownText, condition.keywords) : std::nullopt;
+    return condition.keywordSearch ? lastKeywordMatch(shownText, textsToMark(condition)) : std::nullopt;
 }
 
 std::optional<CHeadlineTable> StoryReader::entryAtPosition() const {

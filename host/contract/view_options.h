@@ -42,9 +42,10 @@ enum class ViewOption {
     RowAir,                 // what a row has over the height of its text; 0: rows of 16 pixels
     HeadingHeight,          // of the band of column headings; 0: 16
     RowGutter,              // before the first column's text
-    TypesetStory,  // stories are typeset, in a size of their own; what is awaited says so in its place
-    StoryMenu,     // a story has a menu of its own
-    StoryWindow,   // the story window has tools, lies beside its list, is kept open when it is pinned
+    TypesetStory,   // stories are typeset, in a size of their own; what is awaited says so in its place
+    StoryMenu,      // a story has a menu of its own
+    StoryWindow,    // the story window has tools, lies beside its list, is kept open when it is pinned
+    SearchQueries,  // what is typed into the search box is a query; it takes blanks
     Count
 };
 
@@ -84,6 +85,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::TypesetStory, QLatin1StringView("TypesetStory")},
     {ViewOption::StoryMenu, QLatin1StringView("StoryMenu")},
     {ViewOption::StoryWindow, QLatin1StringView("StoryWindow")},
+    {ViewOption::SearchQueries, QLatin1StringView("SearchQueries")},
 }};
 
 constexpr const ViewOptionRow& rowOf(ViewOption option) {

@@ -1851,6 +1851,10 @@
         <source></source>
         <translation>The news could not be saved in %1: %2</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SEARCH_AS_TEXT">
+        <source></source>
+        <translation>Search for it as plain text?</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SEARCH_NEWS">
         <source></source>
         <translation>Search</translation>

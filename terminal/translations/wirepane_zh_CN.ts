@@ -1851,6 +1851,10 @@
         <source></source>
         <translation>新闻无法保存到 %1：%2</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SEARCH_AS_TEXT">
+        <source></source>
+        <translation>要作为普通文字搜索吗？</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SEARCH_NEWS">
         <source></source>
         <translation>新闻搜索</translation>

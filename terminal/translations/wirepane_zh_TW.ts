@@ -1851,6 +1851,10 @@
         <source></source>
         <translation>新聞無法儲存到 %1：%2</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SEARCH_AS_TEXT">
+        <source></source>
+        <translation>要當作一般文字搜尋嗎？</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SEARCH_NEWS">
         <source></source>
         <translation>新聞搜尋</translation>

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Searching from the news view: what is sent, what is shown, what the user is told.
+#include "host/contract/query/query_marks.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/views/news_control_ids.h"
 #include "search/adv_search_dlg.h"
@@ -9,6 +10,7 @@
 #include "story/quote_dlg_tip_msg.h"
 #include "story/story_ids.h"
 #include "tests/news_view/view_fixture.h"
+#include "tests/support/answering.h"
 #include "tests/support/conditions.h"
 
 #include <QLineEdit>
@@ -129,6 +131,30 @@ TEST_F(SearchesOfTheView, QuickSearchesThatCannotBeSentAreRefused) {
     EXPECT_EQ(sent(), QStringList());
     EXPECT_EQ(boxesOver([&] { quickSearch(u"standard or and"_s); }), QStringList());
     EXPECT_EQ(sent().size(), 2) << "capitals alone are refused";
+}
+
+TEST_F(SearchesOfTheView, WhatIsTypedIsAQueryWhereTheViewTakesQueries) {
+    openSearch({{u"SearchQueries"_s, true}});
+    auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
+    edit->setFocus();
+    QTest::keyClicks(edit, u"gold -\"old price\""_s);
+    QTest::keyClick(edit, Qt::Key_Return);
+    EXPECT_EQ(sent(), (QStringList{u"search 1 3 0/1 gold -\"old price\" as a query"_s,
+                                   u"search 2 3 0/1 gold -\"old price\" as a query"_s}));
+    const auto answered = [&](QMessageBox::StandardButton button) {
+        QString told;
+        answering<QMessageBox>([&] { quickSearch(u"STANDARD OR (gold"_s); },
+                               [&](QMessageBox& box) {
+                                   told = box.text();
+                                   box.button(button)->click();
+                               });
+        return told;
+    };
+    EXPECT_EQ(answered(QMessageBox::No),
+              u"ERROR_QUERY_OPERATOR_WORD\n\nIDS_NEWSCTRLVIEW_STRING_SEARCH_AS_TEXT"_s);
+    EXPECT_EQ(sent(), QStringList());
+    answered(QMessageBox::Yes);
+    EXPECT_EQ(sent().front(), u"search 1 3 0/1 STANDARD OR (gold"_s) << "as plain text";
 }
 
 TEST_F(SearchesOfTheView, WithoutAServiceTheLastSearchIsSentWhateverIsInTheBox) {
@@ -268,6 +294,10 @@ TEST_F(SearchesOfTheView, TheStoryOfAResultHasItsKeywordsMarked) {
     backEnd.searchTables.clear();
     view->RespSearchHeadLineTable(condition({u"GOLD"_s}), 1);
     EXPECT_EQ(story().literalText(), QString()) << "nothing was found";
+    CSearch query = condition({u"-glitters (oil | all) gol*"_s});
+    query.language = SearchLanguage::Query;
+    EXPECT_EQ(textsToMark(query), (std::vector<QString>{u"oil"_s, u"all"_s, u"gol"_s}))
+        << "what is excluded is none";
 }
 
 TEST_F(SearchesOfTheView, WithWarningTermsAnswersGoToTheirListAndPushesAskAgain) {

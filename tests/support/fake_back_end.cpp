@@ -169,6 +169,8 @@ bool FakeBackEnd::BKQNEWS_bSearchNews(unsigned char service, int kind, const CSe
                        .arg(condition.scope)
                        .arg(condition.method)
                        .arg(words.join(u'|'));
+    if (condition.isQuery())
+        line += QStringLiteral(" as a query");
     for (const CSymbolInfo& symbol : condition.symbols)
         line += QStringLiteral(" @%1 %2").arg(symbol.market).arg(symbol.code);
     asked.append(line);

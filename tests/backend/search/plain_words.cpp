@@ -133,26 +133,22 @@ PlainWords::~PlainWords() = default;
 
 namespace {
 
-// Reads a number from `at` on: digits, groups of three behind commas, one decimal point with its digits.
+// Reads a number from `at` on: digits, and behind points more digits, behind commas groups of three.
 qsizetype endOfNumber(const QList<uint>& text, qsizetype at) {
     const auto digitAt = [&](qsizetype i) { return i < text.size() && isDigit(text[i]); };
-    const qsizetype start = at;
-    while (digitAt(at))
-        ++at;
-    const auto groupFollows = [&] {
-        return at < text.size() && text[at] == ',' && digitAt(at + 1) && digitAt(at + 2) && digitAt(at + 3) &&
-               !digitAt(at + 4);
-    };
-    if (at - start <= 3) {
-        while (groupFollows())
-            at += 4;
-    }
-    if (at < text.size() && text[at] == '.' && digitAt(at + 1)) {
-        ++at;
+    for (bool grouped = false;;) {
+        const qsizetype start = at;
         while (digitAt(at))
             ++at;
+        const bool isPoint = at < text.size() && text[at] == '.' && digitAt(at + 1);
+        const bool isGroup = at < text.size() && text[at] == ',' && digitAt(at + 1) && digitAt(at + 2) &&
+                             digitAt(at + 3) && !digitAt(at + 4) &&
+                             (grouped ? at - start == 3 : at - start <= 3);
+        if (!isPoint && !isGroup)
+            return at;
+        grouped = isGroup;
+        ++at;
     }
-    return at;
 }
 
 bool isPartOfRun(char32_t c) {
