@@ -132,8 +132,8 @@ void StoryStage::applyWindowStyle() {
     if (dialog == nullptr)
         return;
     QWidget* active = QApplication::activeWindow();
-    setTopMost(keepsDialogOnTop());
-    if (active != nullptr && active != dialog)
+    // A dialog that stays as it is may be about to get the keyboard.
+    if (setTopMost(keepsDialogOnTop()) && active != nullptr && active != dialog)
         active->activateWindow();
 }
 
@@ -155,9 +155,9 @@ void StoryStage::applicationActivated(bool active) {
         setTopMost(active && keepsDialogOnTop());
 }
 
-void StoryStage::setTopMost(bool topMost) {
+bool StoryStage::setTopMost(bool topMost) {
     if (dialog->windowFlags().testFlag(Qt::WindowStaysOnTopHint) == topMost)
-        return;
+        return false;
     // Changing the flag hides the window: it is shown again where it was, without taking the keyboard.
     const bool shown = dialog->isVisible();
     const QRect place = dialog->geometry();
@@ -168,6 +168,7 @@ void StoryStage::setTopMost(bool topMost) {
         dialog->show();
         dialog->setAttribute(Qt::WA_ShowWithoutActivating, false);
     }
+    return true;
 }
 
 }  // namespace wirepane

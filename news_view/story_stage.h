@@ -69,7 +69,8 @@ public:
     void applicationActivated(bool active);
 
 private:
-    void setTopMost(bool topMost);
+    // Whether it has changed.
+    bool setTopMost(bool topMost);
 
     QPointer<NewsStoryView> pane;
     QPointer<CNewsRelateSymbolQuoteView> quotes;

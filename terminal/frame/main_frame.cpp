@@ -10,6 +10,7 @@
 #include "terminal/frame/view_dock.h"
 #include "terminal/translations/terminal_text.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
 #include <QMenu>
@@ -72,6 +73,10 @@ MainFrame::MainFrame()
     connect(firstSteps, &FirstStepsBar::dismissed, this, [this] {
         showsFirstSteps = false;
         emit firstStepsDismissed();
+    });
+    // A story window that has the keyboard is the application's, too.
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        emit activationChanged(state == Qt::ApplicationActive ? 1 : 0);
     });
     connect(symbols, &SymbolBox::left, this, [this] { emit viewChosen(menuState.activeView); });
     retranslate();
@@ -163,8 +168,6 @@ void MainFrame::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
         emit languageChanged();
-    } else if (event->type() == QEvent::ActivationChange) {
-        emit activationChanged(isActiveWindow() ? 1 : 0);
     }
 }
 

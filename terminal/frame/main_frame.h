@@ -59,7 +59,7 @@ signals:
     // The window is about to close, or has been told to.
     void closing();
     void languageChanged();
-    // The window has become the active one (1) or is no longer (0).
+    // The application has become the active one (1) or is no longer (0).
     void activationChanged(int active);
 
 protected:

@@ -367,6 +367,25 @@ TEST_F(AutomationSessionTest, ASearchIsComposedInItsDialogAndFindsChineseAndEngl
     EXPECT_TRUE(script.result(u"dialog.state"_s).isNull());
 }
 
+TEST_F(AutomationSessionTest, AStoryWindowIsClosedByEscapeAndByItsButton) {
+    ScriptClient script(arguments());
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:01:00"_s, 1, u"Rate cut is near"_s));
+    script.result(u"view.open"_s, QJsonObject{{u"size"_s, QJsonArray{900, 600}}, {u"own"_s, true}});
+    const auto showType = [&] {
+        return script.result(u"view.state"_s).toObject()[u"storyShowType"_s].toInt();
+    };
+    for (int step = 0; step < 3 && showType() != 0; ++step)
+        script.result(u"view.command"_s, QJsonObject{{u"id"_s, ids::showTypeButton}});
+    for (const auto& [method, params] : {std::pair(u"input.key"_s, QJsonObject{{u"key"_s, u"Escape"_s}}),
+                                         std::pair(u"dialog.close"_s, QJsonObject())}) {
+        script.result(u"input.click"_s, QJsonObject{{u"row"_s, 0}, {u"double"_s, true}});
+        script.result(u"idle"_s);
+        EXPECT_EQ(script.result(u"dialog.state"_s).toObject()[u"title"_s], u"Rate cut is near"_s);
+        script.result(method, params);
+        EXPECT_TRUE(script.result(u"dialog.state"_s).isNull()) << qPrintable(method);
+    }
+}
+
 }  // namespace
 
 }  // namespace wirepane
