@@ -31,7 +31,7 @@ set(CPACK_DEBIAN_TERMINAL_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_TERMINAL_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_TERMINAL_DEBUGINFO_PACKAGE ON)
 set(CPACK_DEBIAN_TERMINAL_PACKAGE_DEPENDS "${WIREPANE_LIBRARY_PACKAGE} (= ${PROJECT_VERSION})")
-set(CPACK_DEBIAN_TERMINAL_PACKAGE_RECOMMENDS "fonts-noto-cjk, fonts-liberation, qt6-translations-l10n, qt6-wayland")
+set(CPACK_DEBIAN_TERMINAL_PACKAGE_RECOMMENDS "fonts-noto-cjk, fonts-noto-cjk-extra, fonts-liberation, qt6-translations-l10n, qt6-wayland")
 set(CPACK_COMPONENT_TERMINAL_DESCRIPTION
     "Reads, searches, prints and saves securities news as it arrives.\n It keeps its news in a store of its own.")
 

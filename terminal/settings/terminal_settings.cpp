@@ -7,6 +7,7 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QGuiApplication>
+#include <QRawFont>
 
 #include <algorithm>
 
@@ -29,6 +30,22 @@ QStringList familiesWithChinese(const QString& family, bool simplified) {
             families.append(chinese);
     }
     return families;
+}
+
+// Light strokes on a dark ground look heavier, those of Chinese characters first: there they are drawn a step
+// lighter where the system has such a face, and where the other letters stay what they are.
+QFont::Weight weightOnDark(const QFont& font) {
+    constexpr auto demiLight = QFont::Weight(350);
+    const QStringList families = font.families();
+    const bool hasFace = std::any_of(families.begin() + 1, families.end(), [](const QString& family) {
+        return QFontDatabase::styles(family).contains(u"DemiLight"_s);
+    });
+    if (!hasFace)
+        return QFont::Normal;
+    QFont lighter(font);
+    lighter.setWeight(demiLight);
+    const bool sameLetters = QRawFont::fromFont(lighter).styleName() == QRawFont::fromFont(font).styleName();
+    return sameLetters ? demiLight : QFont::Normal;
 }
 
 }  // namespace
@@ -136,6 +153,9 @@ QFont TerminalSettings::SYS_fntGetViewFont() {
     QFont font = QGuiApplication::font();
     font.setFamilies(familiesWithChinese(QFontInfo(font).family(), simplifiedGlyphs));
     font.setPointSize(fontSize());
+    font.setWeight(QFont::Normal);
+    if (scheme() == ColourScheme::Dark)
+        font.setWeight(weightOnDark(font));
     return font;
 }
 
