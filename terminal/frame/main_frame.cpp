@@ -113,6 +113,11 @@ void MainFrame::showChoices(const MenuState& state) {
 
 void MainFrame::showStatus(const FrameStatus& status) {
     statusLine->show(status);
+    fitStatusBar();
+}
+
+void MainFrame::fitStatusBar() {
+    statusLine->fitFont();
     statusBar()->setMinimumHeight(std::max(statusHeight, statusLine->sizeHint().height()));
 }
 
@@ -165,6 +170,8 @@ void MainFrame::closeEvent(QCloseEvent* event) {
 
 void MainFrame::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitStatusBar();
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
         emit languageChanged();

@@ -70,6 +70,7 @@ protected:
 private:
     void buildMenus();
     void retranslate();
+    void fitStatusBar();
 
     ViewDesk* viewDesk;
     ViewDocks viewDocks;

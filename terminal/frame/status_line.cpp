@@ -132,7 +132,6 @@ void StatusLine::fitFont() {
 }
 
 void StatusLine::show(const FrameStatus& status) {
-    fitFont();
     const ColourRole tone = status.isLive && !status.isInvented ? ColourRole::Good : ColourRole::Warning;
     showColoured(feed, u"●  "_s + status.feed, tone);
     QStringList tips = status.feedTip.split(u'\n', Qt::SkipEmptyParts);

@@ -40,6 +40,8 @@ public:
     explicit StatusLine(QWidget* parent = nullptr);
 
     void show(const FrameStatus& status);
+    // Takes the size that goes with the application's.
+    void fitFont();
 
 signals:
     void importAsked();
@@ -49,7 +51,6 @@ signals:
 
 private:
     QLabel* addLabel();
-    void fitFont();
 
     QLabel* feed;
     QLabel* actions;
