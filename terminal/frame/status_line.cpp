@@ -15,6 +15,7 @@
 #include <QTimeZone>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -140,7 +141,7 @@ void StatusLine::show(const FrameStatus& status) {
     showText(actions, status.isInvented ? link(u"import"_s, TextId::StatusImport) + u"&nbsp;&nbsp;&nbsp;"_s +
                                               link(u"connect"_s, TextId::StatusConnect)
                                         : QString());
-    showText(last, status.isInvented ? QString() : lastText(status));
+    last->setText(status.isInvented ? QString() : lastText(status));
     showColoured(asOf, status.asOf.isEmpty() ? QString() : terminalText(TextId::AsOf).arg(status.asOf),
                  ColourRole::Warning);
     asOf->setVisible(!status.asOf.isEmpty());
@@ -148,15 +149,33 @@ void StatusLine::show(const FrameStatus& status) {
     present->setVisible(!status.asOf.isEmpty());
     showText(day, dayText(status));
     const QLocale figures(QLocale::English);
-    showText(index,
-             status.searchBacklog == 0
-                 ? QString()
-                 : terminalText(TextId::SearchBacklog).arg(figures.toString(qint64(status.searchBacklog))));
+    index->setText(
+        status.searchBacklog == 0
+            ? QString()
+            : terminalText(TextId::SearchBacklog).arg(figures.toString(qint64(status.searchBacklog))));
     showText(headlines, status.headlines < 0
                             ? QString()
                             : terminalText(TextId::HeadlineCount).arg(figures.toString(status.headlines)));
-    showText(services, terminalText(TextId::ServicesCount).arg(status.services).arg(status.allServices));
+    services->setText(terminalText(TextId::ServicesCount).arg(status.services).arg(status.allServices));
     clock->setText(clockText(status.now));
+    giveRoom();
+}
+
+// What one needs least gives way where all together are too wide.
+void StatusLine::giveRoom() {
+    const std::array parts{services, last, index};
+    for (QLabel* part : parts)
+        part->setHidden(part->text().isEmpty());
+    for (QLabel* part : parts) {
+        if (layout()->totalSizeHint().width() <= width())
+            return;
+        part->hide();
+    }
+}
+
+void StatusLine::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    giveRoom();
 }
 
 }  // namespace wirepane

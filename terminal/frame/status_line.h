@@ -49,7 +49,11 @@ signals:
     void presentAsked();
     void todayAsked();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void giveRoom();
     QLabel* addLabel();
 
     QLabel* feed;
