@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/indexing_window.h"
 
-#include "terminal/translations/terminal_text.h"
-
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace wirepane {
 
@@ -17,12 +17,12 @@ void IndexingWindow::tell(std::int64_t done, std::int64_t total) {
     if (window == nullptr && (started.elapsed() < silentMs || done >= total))
         return;
     if (window == nullptr) {
-        window = std::make_unique<QProgressDialog>(terminalText(TextId::IndexingStore), QString(), 0, steps);
+        window = std::make_unique<QProgressDialog>(terminalText(told), QString(), 0, steps);
         window->setWindowTitle(terminalText(TextId::AppTitle));
         window->setAutoReset(false);
         window->show();
     }
-    window->setValue(static_cast<int>(done * steps / total));
+    window->setValue(static_cast<int>(std::min(done, total) * steps / total));
     QCoreApplication::processEvents();
 }
 

@@ -129,12 +129,19 @@ Done Session::start(const SessionOptions& options) {
 
 Done Session::openStore(const SessionOptions& options, const QString& language) {
     IndexingWindow window;
+    IndexingWindow fillingWindow(TextId::FillingSample);
     if (!languages.use(language))
         languages.use(Languages::ofSystem());
-    IndexProgress progress;
-    if (options.tellsProgress)
-        progress = [&window](std::int64_t done, std::int64_t total) { window.tell(done, total); };
-    auto opened = openBackEnd(storeFile, options.sampleWhenNew || ownKind == StoreKind::Sample, progress);
+    IndexProgress indexing;
+    IndexProgress filling;
+    if (options.tellsProgress) {
+        indexing = [&window](std::int64_t done, std::int64_t total) { window.tell(done, total); };
+        filling = [&fillingWindow](std::int64_t done, std::int64_t total) {
+            fillingWindow.tell(done, total);
+        };
+    }
+    auto opened =
+        openBackEnd(storeFile, options.sampleWhenNew || ownKind == StoreKind::Sample, indexing, filling);
     if (!opened)
         return opened.error();
     store = std::move(opened.value());

@@ -23,7 +23,7 @@ Done makeFolderOf(const QString& file) {
     return Nothing{};
 }
 
-Done fillWhenNew(const QString& storeFile, const IndexProgress& onIndexing) {
+Done fillWhenNew(const QString& storeFile, const IndexProgress& onIndexing, const IndexProgress& onFilling) {
     const auto database = openOrMakeStore(storeFile, onIndexing);
     // One that can only be read stays as it is.
     if (!database)
@@ -35,7 +35,13 @@ Done fillWhenNew(const QString& storeFile, const IndexProgress& onIndexing) {
         return Nothing{};
     SampleOptions options;
     options.now = host_clock::now();
-    const auto filled = fillWithSample(*database.value(), options);
+    // About: weekends have less.
+    const std::int64_t total = std::int64_t{options.days} * options.headlinesPerDay;
+    const auto filled = fillWithSample(*database.value(), options, [&](std::int64_t done) {
+        if (onFilling)
+            onFilling(done, total);
+        return true;
+    });
     return filled ? Done(Nothing{}) : Done(filled.error());
 }
 
@@ -48,11 +54,12 @@ Result<std::unique_ptr<Database>> openOrMakeStore(const QString& storeFile, cons
 }
 
 Result<std::unique_ptr<EmbeddedBackEnd>> openBackEnd(const QString& storeFile, bool sampleWhenNew,
-                                                     const IndexProgress& onIndexing) {
+                                                     const IndexProgress& onIndexing,
+                                                     const IndexProgress& onFilling) {
     if (const Done folder = makeFolderOf(storeFile); !folder)
         return folder.error();
     if (sampleWhenNew) {
-        if (const Done filled = fillWhenNew(storeFile, onIndexing); !filled)
+        if (const Done filled = fillWhenNew(storeFile, onIndexing, onFilling); !filled)
             return filled.error();
     }
     return EmbeddedBackEnd::open(storeFile, onIndexing);

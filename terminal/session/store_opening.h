@@ -16,8 +16,9 @@ Result<std::unique_ptr<Database>> openOrMakeStore(const QString& storeFile,
 
 // Opens the back end over a store, which is made, with its folder, when it is absent. With `sampleWhenNew` a
 // store that holds no headline yet is filled with the sample wire up to the present moment. One that cannot
-// be written to is opened as it is.
+// be written to is opened as it is. `onFilling` hears how far the sample is, the total being a guess.
 Result<std::unique_ptr<EmbeddedBackEnd>> openBackEnd(const QString& storeFile, bool sampleWhenNew,
-                                                     const IndexProgress& onIndexing = {});
+                                                     const IndexProgress& onIndexing = {},
+                                                     const IndexProgress& onFilling = {});
 
 }  // namespace wirepane

@@ -118,6 +118,7 @@ enum class TextId {
     SaveNews,
     BreakingNews,
     IndexingStore,
+    FillingSample,
     HelpMenu,
     Guide,
     GuideTitle,

@@ -2096,6 +2096,10 @@
         <translation>Wirepane %1
 Reads the news of securities markets, live and from files.</translation>
     </message>
+    <message id="TERMINAL_FILLING_SAMPLE">
+        <source></source>
+        <translation>Writing a week of invented news for the sample wire. This happens once.</translation>
+    </message>
     <message id="TERMINAL_FIRST_STEPS">
         <source></source>
         <translation>%1 reads the next story    %2 searches    %3 imports news    %4 shows all keys</translation>

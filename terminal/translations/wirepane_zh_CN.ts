@@ -2096,6 +2096,10 @@
         <translation>Wirepane %1
 阅读证券市场新闻：实时来源与文件。</translation>
     </message>
+    <message id="TERMINAL_FILLING_SAMPLE">
+        <source></source>
+        <translation>正在写入一周的示例新闻，内容均为虚构，只需进行一次。</translation>
+    </message>
     <message id="TERMINAL_FIRST_STEPS">
         <source></source>
         <translation>%1 阅读下一条新闻    %2 搜索    %3 导入新闻    %4 显示所有按键</translation>

@@ -2096,6 +2096,10 @@
         <translation>Wirepane %1
 閱讀證券市場新聞：即時來源與檔案。</translation>
     </message>
+    <message id="TERMINAL_FILLING_SAMPLE">
+        <source></source>
+        <translation>正在寫入一週的示範新聞，內容均為虛構，只需進行一次。</translation>
+    </message>
     <message id="TERMINAL_FIRST_STEPS">
         <source></source>
         <translation>%1 閱讀下一則新聞    %2 搜尋    %3 匯入新聞    %4 顯示所有按鍵</translation>

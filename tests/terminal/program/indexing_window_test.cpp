@@ -38,6 +38,15 @@ TEST(IndexingWindow, ComesUpWhenItTakesLong) {
         window.tell(4, 4);
     }
     EXPECT_EQ(shownProgress(), nullptr);
+
+    IndexingWindow filling(TextId::FillingSample);
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        filling.tell(3, 4);
+        return shownProgress() != nullptr;
+    }));
+    EXPECT_TRUE(shownProgress()->labelText().startsWith(QStringLiteral("正在寫入")));
+    filling.tell(6, 4);  // more than was thought
+    EXPECT_EQ(shownProgress()->value(), shownProgress()->maximum());
 }
 
 }  // namespace
