@@ -75,6 +75,9 @@ void ServiceMenu::popUp() {
         hint->setText(langText(parts.backEnd, keys::onlyThisService));
     }
     menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
+    // Where Space ticks, it has something to tick from the start.
+    if (calls.staysOpen() && !menu->isEmpty())
+        menu->setActiveAction(menu->actions().front());
 }
 
 void ServiceMenu::toggle(int command) {

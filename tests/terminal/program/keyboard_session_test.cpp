@@ -65,6 +65,18 @@ TEST_F(KeyboardSession, TypesEveryCharacter) {
     EXPECT_EQ(typed.toStdString(), text.toStdString());
 }
 
+TEST_F(KeyboardSession, SpaceTicksTheFirstServiceOfTheListThatF7Opens) {
+    script.result(u"view.open"_s, QJsonObject{{u"own"_s, true}});
+    const auto isTicked = [this] { return state(u"services"_s)[0][u"selected"_s].toBool(); };
+    ASSERT_TRUE(isTicked());
+    for (const bool ticked : {false, true}) {
+        key(u"F7"_s);
+        key(u"Space"_s);
+        key(u"Escape"_s);
+        EXPECT_EQ(isTicked(), ticked);
+    }
+}
+
 TEST_F(KeyboardSession, InputThatCannotBeDoneIsRefused) {
     struct Case {
         QString method;
