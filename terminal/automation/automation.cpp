@@ -17,6 +17,7 @@ Automation::Automation(Session& session)
       stories(session),
       output(session),
       feed(session),
+      sources(session),
       host(session),
       input(session),
       links(session),
@@ -30,6 +31,7 @@ Automation::Automation(Session& session)
     stories.addTo(table);
     output.addTo(table);
     feed.addTo(table);
+    sources.addTo(table);
     host.addTo(table);
     input.addTo(table);
     links.addTo(table);

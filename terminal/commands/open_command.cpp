@@ -171,8 +171,9 @@ void endTerminal() {
     QCoreApplication::exit(exitDone);
 }
 
-// The user's terminal. Without a store of their own, users start with the sample wire. `files` are taken in.
-int runForUser(Session& session, const QStringList& files) {
+// The user's terminal. Without a store of their own, users start with the sample wire. `arrived`: what the
+// user came for from the other store.
+int runForUser(Session& session, const OnwardStore& arrived) {
     FrameCommands commands(session);
     if (const Done opened = openWorkspace(session); !opened) {
         QMessageBox::critical(&session.frame(), QApplication::applicationName(), shownText(opened.error()));
@@ -180,8 +181,10 @@ int runForUser(Session& session, const QStringList& files) {
     }
     if (session.settings().showsFirstSteps())
         session.frame().showFirstSteps();
-    if (!files.isEmpty())
-        commands.importFiles(files);
+    if (!arrived.files.isEmpty())
+        commands.importFiles(arrived.files);
+    if (arrived.showsSources)
+        commands.showSources();
     return QApplication::exec();
 }
 
@@ -212,7 +215,7 @@ int runOpened(const OpenOptions& options, StandardChannel* channel, std::optiona
         Session::open({options.storeFile, options.configFolder, options.language, sample, options.sources,
                        !options.isScripted(), options.followsSample, options.stores,
                        onward ? std::optional(onward->kind) : options.storeKind});
-    const QStringList files = onward ? onward->files : QStringList();
+    const OnwardStore arrived = onward.value_or(OnwardStore());
     onward.reset();
     if (!session) {
         printNote(sentence(session.error()));
@@ -222,7 +225,7 @@ int runOpened(const OpenOptions& options, StandardChannel* channel, std::optiona
     if (!session.value()->settingsMessage().isEmpty())
         printNote(session.value()->settingsMessage());
     const int status = options.isScripted() ? runForScripts(*session.value(), options, channel)
-                                            : runForUser(*session.value(), files);
+                                            : runForUser(*session.value(), arrived);
     onward = session.value()->onward();
     return status;
 }

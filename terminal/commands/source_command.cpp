@@ -7,9 +7,8 @@
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
 #include "terminal/session/store_opening.h"
-#include "terminal/sources/keychain.h"
 #include "terminal/sources/opml_exchange.h"
-#include "terminal/sources/secrets.h"
+#include "terminal/sources/source_services.h"
 #include "terminal/sources/source_texts.h"
 #include "terminal/sources/source_values.h"
 #include "terminal/translations/languages.h"
@@ -36,6 +35,7 @@ struct Room {
     CommandArguments& arguments;
     QStringList rest;  // behind the action
     SourceDesk& desk;
+    SourceTrial& trial;
     bool asJson = false;
 };
 
@@ -84,16 +84,6 @@ void printSource(const ListedSource& listed, bool asJson) {
             .join(u"  "_s));
 }
 
-// The first list, or why it cannot be read.
-Done readList(SourceDesk& desk) {
-    const QObject waiting;
-    return awaited<Done>([&](const std::function<void(const Done&)>& told) {
-        QObject::connect(&desk, &SourceDesk::changed, &waiting, [told] { told(Nothing{}); });
-        QObject::connect(&desk, &SourceDesk::trouble, &waiting, [told](const Error& error) { told(error); });
-        desk.watch();
-    });
-}
-
 int list(Room& room) {
     for (const ListedSource& listed : room.desk.sources())
         printSource(listed, room.asJson);
@@ -136,9 +126,13 @@ Result<NetworkSource> defined(CommandArguments& arguments, const SplitAddress& s
     return networkSource(definition);
 }
 
+SplitAddress typedAddress(const Room& room) {
+    return withoutSecrets(
+        QUrl::fromUserInput(room.rest.constFirst(), QDir::currentPath()));
+}
+
 int add(Room& room) {
-    const SplitAddress split = withoutSecrets(
-        QUrl::fromUserInput(room.rest.constFirst(), QDir::currentPath(), QUrl::AssumeLocalFile));
+    const SplitAddress split = typedAddress(room);
     const auto source = defined(room.arguments, split);
     if (const auto status = room.arguments.fault())
         return *status;
@@ -150,6 +144,47 @@ int add(Room& room) {
         return failed(added.error());
     printLine(added.value());
     return exitDone;
+}
+
+void printTrial(const TrialReport& report) {
+    for (const TrialItem& item : report.first)
+        printLine(
+            u"%1  %2  %3"_s.arg(QDateTime::fromSecsSinceEpoch(item.time).toString(u"yyyy-MM-dd HH:mm"_s),
+                                item.category, item.title));
+    for (const FeedLink& link : report.links)
+        printLine(link.address.toString() + u"  "_s + link.title);
+    if (report.fitting)
+        printNote(u"It is a table that the mapping %1 fits."_s.arg(report.fitting->mapping));
+    if (!report.links.empty())
+        printNote(u"This is a page; it names %1 feeds of its own."_s.arg(report.links.size()));
+    else if (!report.fault)
+        printNote(u"%1 read, %2 rejected"_s.arg(report.items).arg(report.rejected));
+    if (report.reason)
+        printNote(sentence(*report.reason));
+}
+
+// A source of the list by its name, or an address as `add` takes it.
+int test(Room& room) {
+    const auto& sources = room.desk.sources();
+    const auto listed = std::find_if(sources.begin(), sources.end(), [&](const ListedSource& each) {
+        return each.source.name == room.rest.constFirst();
+    });
+    const SplitAddress split = listed != sources.end() ? SplitAddress() : typedAddress(room);
+    const auto source =
+        listed != sources.end() ? Result<NetworkSource>(listed->source) : defined(room.arguments, split);
+    if (const auto status = room.arguments.fault())
+        return *status;
+    if (!source)
+        return failed(source.error());
+    const auto report = awaited<TrialReport>(
+        [&](const SourceTrial::Told& told) { room.trial.start(source.value(), split.secret, told); });
+    if (room.asJson)
+        printValue(valueOf(report));
+    else
+        printTrial(report);
+    if (report.fault)
+        return failed(*report.fault);
+    return report.items == 0 && report.links.empty() ? exitPartly : exitDone;
 }
 
 int pause(Room& room) {
@@ -199,18 +234,20 @@ int exportList(Room& room) {
 
 constexpr std::array actions{
     Action{"list"_L1, 0, 0, &list},         Action{"add"_L1, 1, 1, &add},
-    Action{"pause"_L1, 1, 1, &pause},       Action{"resume"_L1, 1, 1, &resume},
-    Action{"remove"_L1, 1, 1, &remove},     Action{"move"_L1, 2, 2, &move},
-    Action{"import"_L1, 1, 1, &importList}, Action{"export"_L1, 1, 1, &exportList},
+    Action{"test"_L1, 1, 1, &test},         Action{"pause"_L1, 1, 1, &pause},
+    Action{"resume"_L1, 1, 1, &resume},     Action{"remove"_L1, 1, 1, &remove},
+    Action{"move"_L1, 2, 2, &move},         Action{"import"_L1, 1, 1, &importList},
+    Action{"export"_L1, 1, 1, &exportList},
 };
 
 void addOptions(QCommandLineParser& parser) {
-    parser.addPositionalArgument(u"action"_s,
-                                 u"list; add ADDRESS; pause, resume or remove NAME; move NAME PLACE; "
-                                 "import or export FILE (OPML)."_s,
-                                 u"action [argument...]"_s);
+    parser.addPositionalArgument(
+        u"action"_s,
+        u"list; add ADDRESS; test NAME or ADDRESS; pause, resume or remove NAME; move NAME PLACE; "
+        "import or export FILE (OPML)."_s,
+        u"action [argument...]"_s);
     parser.addOptions({
-        {u"json"_s, u"list: prints a JSON object per line."_s},
+        {u"json"_s, u"list, test: prints JSON, an object a line."_s},
         {u"title"_s, u"add: how the source is called."_s, u"text"_s},
         {u"kind"_s, u"add: auto, feed, ninjs, newsml, table, events or websocket. Default: auto."_s,
          u"kind"_s},
@@ -251,12 +288,11 @@ int runSource() {
         return failed(made.error());
     Languages texts;
     texts.use(u"en"_s);
-    SystemKeychain keychain;
-    Secrets secrets(keychain, secretsFolder());
-    SourceDesk desk(arguments.storeFile(), secrets);
-    if (const Done read = readList(desk); !read)
+    SourceServices services(arguments.storeFile());
+    SourceDesk& desk = services.desk();
+    if (const Done read = awaited<Done>([&](const SourceDesk::Finished& told) { desk.read(told); }); !read)
         return failed(read.error());
-    Room room{arguments, rest.mid(1), desk, arguments.parser.isSet(u"json"_s)};
+    Room room{arguments, rest.mid(1), desk, services.trial(), arguments.parser.isSet(u"json"_s)};
     return action->run(room);
 }
 

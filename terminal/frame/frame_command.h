@@ -25,7 +25,7 @@ enum class FrameCommand {
     BreakingNews,
     ReadAsOf,
     Present,
-    Connect,
+    Sources,
     NewsSearch,
     NewsServices,
     NewsDate,

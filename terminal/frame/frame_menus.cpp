@@ -56,6 +56,7 @@ constexpr std::array newsEntries{
     Entry{FrameCommand::NewsPreviousPage, TextId::NewsPreviousPage, "Alt+PgUp"_L1, true, false, true},
     Entry{FrameCommand::NewsOpenInWindow, TextId::NewsOpenInWindow, ""_L1, true},
     Entry{FrameCommand::NewsLayout, TextId::NewsLayout, "F9"_L1, true, true, true},
+    Entry{FrameCommand::Sources, TextId::NewsSources, "Ctrl+Shift+O"_L1, false, true},
 };
 
 constexpr std::array fontEntries{
@@ -109,6 +110,8 @@ std::optional<LineIcon> iconOf(FrameCommand command) {
             return LineIcon::Window;
         case FrameCommand::CloseView:
             return LineIcon::Close;
+        case FrameCommand::Sources:
+            return LineIcon::Feed;
         default:
             return std::nullopt;
     }

@@ -59,7 +59,7 @@ MainFrame::MainFrame()
     statusBar()->setSizeGripEnabled(false);
     statusBar()->addWidget(statusLine, 1);
     connect(statusLine, &StatusLine::importAsked, this, [this] { emit commanded(FrameCommand::ImportNews); });
-    connect(statusLine, &StatusLine::connectAsked, this, [this] { emit commanded(FrameCommand::Connect); });
+    connect(statusLine, &StatusLine::connectAsked, this, [this] { emit commanded(FrameCommand::Sources); });
     connect(statusLine, &StatusLine::presentAsked, this, [this] { emit commanded(FrameCommand::Present); });
     connect(statusLine, &StatusLine::todayAsked, this, [this] { emit commanded(FrameCommand::NewsToday); });
     setCentralWidget(viewDesk);

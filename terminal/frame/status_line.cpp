@@ -70,6 +70,14 @@ QString clockText(std::int64_t now) {
     return u"%1 %2"_s.arg(time.toString(u"HH:mm:ss"_s), place).trimmed();
 }
 
+// What one can do about the news that there is.
+QString offers(const FrameStatus& status) {
+    if (status.isInvented)
+        return link(u"import"_s, TextId::StatusImport) + u"&nbsp;&nbsp;&nbsp;"_s +
+               link(u"connect"_s, TextId::StatusConnect);
+    return status.hasNoSource ? link(u"connect"_s, TextId::NoSourcesAdd) : QString();
+}
+
 void showColoured(QLabel* label, const QString& text, ColourRole role) {
     QPalette colours;
     colours.setColor(QPalette::WindowText,
@@ -138,9 +146,7 @@ void StatusLine::show(const FrameStatus& status) {
     QStringList tips = status.feedTip.split(u'\n', Qt::SkipEmptyParts);
     tips.append(QDir::toNativeSeparators(status.storeFile));
     feed->setToolTip(tips.join(u'\n').toHtmlEscaped().replace(u'\n', u"<br>"_s));
-    showText(actions, status.isInvented ? link(u"import"_s, TextId::StatusImport) + u"&nbsp;&nbsp;&nbsp;"_s +
-                                              link(u"connect"_s, TextId::StatusConnect)
-                                        : QString());
+    showText(actions, offers(status));
     last->setText(status.isInvented ? QString() : lastText(status));
     showColoured(asOf, status.asOf.isEmpty() ? QString() : terminalText(TextId::AsOf).arg(status.asOf),
                  ColourRole::Warning);

@@ -19,6 +19,7 @@ struct FrameStatus {
     QString feedTip;  // how its sources stand, in lines
     bool isLive = true;
     bool isInvented = false;        // the news is that of the sample wire
+    bool hasNoSource = false;       // the user is offered to add one
     std::int64_t lastHeadline = 0;  // its time; 0: there is none
     std::int64_t now = 0;
     QString storeFile;

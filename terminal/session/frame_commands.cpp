@@ -13,6 +13,7 @@
 #include "terminal/frame/view_dock.h"
 #include "terminal/session/session.h"
 #include "terminal/session/session_errors.h"
+#include "terminal/sources/sources_window.h"
 #include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
 
@@ -68,6 +69,14 @@ std::optional<int> commandOfView(FrameCommand command) {
         default:
             return std::nullopt;
     }
+}
+
+std::optional<SourceState> stateOf(const LiveFeed& feed, const QString& name) {
+    for (const SourceReport& source : feed.sources()) {
+        if (source.name == name)
+            return source.state;
+    }
+    return std::nullopt;
 }
 
 }  // namespace
@@ -126,8 +135,8 @@ void FrameCommands::carryOut(FrameCommand command) {
         case FrameCommand::Present:
             report(session.readAsOf(QDateTime::currentSecsSinceEpoch()));
             break;
-        case FrameCommand::Connect:
-            showGuide();
+        case FrameCommand::Sources:
+            showSources();
             break;
         case FrameCommand::Keys:
             showKeys();
@@ -150,7 +159,7 @@ void FrameCommands::carryOut(FrameCommand command) {
             break;
         case FrameCommand::OtherStore:
             session.goToStore(
-                {session.storeKind() == StoreKind::Sample ? StoreKind::Own : StoreKind::Sample, {}});
+                {session.storeKind() == StoreKind::Sample ? StoreKind::Own : StoreKind::Sample});
             break;
         case FrameCommand::Guide:
             showGuide();
@@ -226,7 +235,7 @@ void FrameCommands::changeDensity() {
 
 void FrameCommands::importFiles(const QStringList& files) {
     if (session.storeKind() == StoreKind::Sample)
-        session.goToStore({StoreKind::Own, files});
+        session.goToStore({StoreKind::Own, files, false});
     else
         newsImport.takeIn(files);
 }
@@ -288,6 +297,23 @@ void FrameCommands::showGuide() {
     guide->show();
     guide->raise();
     guide->activateWindow();
+}
+
+// The sample wire has no sources but itself: they are those of the user's own store.
+void FrameCommands::showSources() {
+    if (session.storeKind() == StoreKind::Sample) {
+        session.goToStore({StoreKind::Own, {}, true});
+        return;
+    }
+    if (sourcesWindow == nullptr) {
+        sourcesWindow = new SourcesWindow(
+            session.sources().desk(), session.sources().trial(),
+            [feed = &session.feed()](const QString& name) { return stateOf(*feed, name); }, &session.frame());
+        sourcesWindow->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    sourcesWindow->show();
+    sourcesWindow->raise();
+    sourcesWindow->activateWindow();
 }
 
 void FrameCommands::save() {

@@ -13,6 +13,7 @@
 namespace wirepane {
 class GuideWindow;
 class Session;
+class SourcesWindow;
 
 // What the main frame's menus and the bars of its views do to the session.
 class FrameCommands : public QObject {
@@ -24,6 +25,8 @@ public:
 
     // Takes the files into the user's store, which is opened for that when the sample's is.
     void importFiles(const QStringList& files);
+    // The Sources page; of the user's own store, which is opened for that when the sample's is.
+    void showSources();
 
 private:
     void carryOut(FrameCommand command);
@@ -42,6 +45,7 @@ private:
     Session& session;
     NewsImport newsImport;
     QPointer<GuideWindow> guide;
+    QPointer<SourcesWindow> sourcesWindow;
 };
 
 }  // namespace wirepane

@@ -202,6 +202,7 @@ void Session::tellDatedAhead(unsigned char service, std::int64_t time) {
 }
 
 Done Session::startFeed(const SessionOptions& options) {
+    sourceServices = std::make_unique<SourceServices>(storeFile);
     liveFeed = std::make_unique<LiveFeed>(*store);
     for (const SourceRequest& request : options.sources) {
         const SourceKind* kind = sourceKind(request.kind);
@@ -229,10 +230,7 @@ void Session::awaitFeeds(const QString& name) {
     // Who says nothing only wants to know whether the name is taken.
     connect(doorbell.get(), &SocketServer::connected, this, [this](LineChannel* channel) {
         connect(
-            channel, &LineChannel::lineReceived, this,
-            [this] {
-                goToStore({StoreKind::Own, {}});
-            },
+            channel, &LineChannel::lineReceived, this, [this] { goToStore({StoreKind::Own}); },
             Qt::QueuedConnection);
     });
     // Another terminal may have been first.
@@ -363,7 +361,7 @@ void Session::setActive(bool active) {
 }
 
 void Session::showStatus() {
-    mainFrame->showStatus(status->now(storeFile, isSampleFollowed));
+    mainFrame->showStatus(status->now({storeFile, isSampleFollowed, ownKind == StoreKind::Own}));
 }
 
 void Session::showViews() {

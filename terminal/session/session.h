@@ -22,6 +22,7 @@
 #include "terminal/settings/layout_store.h"
 #include "terminal/settings/settings_file.h"
 #include "terminal/settings/terminal_settings.h"
+#include "terminal/sources/source_services.h"
 #include "terminal/translations/languages.h"
 
 #include <QObject>
@@ -56,10 +57,12 @@ struct SessionOptions {
     std::optional<StoreKind> storeKind = std::nullopt;  // of them; nothing: the one to begin with
 };
 
-// Where a user goes from a session: to the other one of his stores, to take files into it, if any.
+// Where a user goes from a session: to the other one of his stores, to take files into it, if any, or to its
+// sources.
 struct OnwardStore {
     StoreKind kind = StoreKind::Own;
-    QStringList files;
+    QStringList files = {};
+    bool showsSources = false;
 };
 
 // One running terminal: the store behind its back end, the settings, the news module and the main frame with
@@ -82,6 +85,7 @@ public:
     BreakingNews& breakingNews() { return *latestNews; }
     LinkGroups& links() { return *linkGroups; }
     WorkspaceKeeper& keeper() { return *workspaceKeeper; }
+    SourceServices& sources() { return *sourceServices; }
     // The store in use.
     const QString& storePath() const { return storeFile; }
     // Which of the user's own stores that is; nothing: it is another one, that was named.
@@ -149,6 +153,7 @@ private:
     std::unique_ptr<TerminalSettings> terminalSettings;
     std::unique_ptr<EmbeddedBackEnd> store;
     std::unique_ptr<BackgroundPainter> painter;
+    std::unique_ptr<SourceServices> sourceServices;
     std::unique_ptr<LiveFeed> liveFeed;
     bool isSampleFollowed = false;
     std::optional<StoreKind> ownKind;

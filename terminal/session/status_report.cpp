@@ -2,16 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/status_report.h"
 
+#include "backend/feed/feed_name.h"
 #include "backend/feed/live_feed.h"
 #include "backend/store/embedded_back_end.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "terminal/frame/workspace.h"
+#include "terminal/sources/source_texts.h"
 #include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QDateTime>
+#include <QDir>
 
 #include <algorithm>
 #include <cmath>
@@ -36,32 +39,41 @@ QString feedText(const FeedState& state) {
     return state.late > 0 ? terminalText(TextId::FeedLate).arg(state.late) : terminalText(TextId::FeedLive);
 }
 
-QString sourceText(const SourceState& state) {
-    const QString since = QDateTime::fromSecsSinceEpoch(state.since).toString(u"HH:mm"_s);
-    switch (state.kind) {
-        case SourceState::Connecting:
-            return terminalText(TextId::SourceConnecting);
-        case SourceState::Live:
-            return terminalText(TextId::FeedLive);
-        case SourceState::Stale:
-            return terminalText(TextId::SourceStale).arg(since);
-        case SourceState::Offline:
-            return terminalText(TextId::OfflineSince).arg(since);
-        case SourceState::Failed:
-        case SourceState::Silent:
-            break;
-    }
-    return terminalText(TextId::SourceFailed).arg(since, state.reason ? shownText(*state.reason) : QString());
-}
-
 // What stands in the way of the feed, then how its sources stand, a line each.
 QString feedTip(const LiveFeed& feed) {
     QStringList lines;
     if (const auto trouble = feed.state().trouble)
         lines += shownText(*trouble);
     for (const SourceReport& source : feed.sources())
-        lines += u"%1: %2"_s.arg(source.name, sourceText(source.state));
+        lines += u"%1: %2"_s.arg(source.name, stateText(source.state));
     return lines.join(u'\n');
+}
+
+// Without the store itself, and the socket that this terminal only listens at: who sends there is a source of
+// its own.
+std::vector<SourceReport> sourcesOf(const LiveFeed& feed, const QString& storePath) {
+    std::vector<SourceReport> sources = feed.sources();
+    std::erase_if(sources, [store = QDir::toNativeSeparators(storePath)](const SourceReport& source) {
+        return source.name == store || source.name == defaultFeedName;
+    });
+    return sources;
+}
+
+// The light is green only while a source is live; a store of the user's own says when it has none.
+void tellSources(FrameStatus& status, const std::vector<SourceReport>& sources, bool isUsersOwn) {
+    const auto has = [&](SourceState::Kind kind) {
+        return std::any_of(sources.begin(), sources.end(),
+                           [kind](const SourceReport& source) { return source.state.kind == kind; });
+    };
+    status.hasNoSource = sources.empty() && isUsersOwn;
+    status.isLive = has(SourceState::Live) || (sources.empty() && !isUsersOwn);
+    if (status.hasNoSource)
+        status.feed = terminalText(TextId::NoSources);
+    else if (!status.isLive && has(SourceState::Stale))
+        status.feed = terminalText(TextId::SourcesStale);
+    else if (!status.isLive)
+        status.feed =
+            terminalText(has(SourceState::Connecting) ? TextId::SourceConnecting : TextId::SourcesSilent);
 }
 
 // The rows of the list on show; -1: there is none.
@@ -122,7 +134,7 @@ void StatusReport::watchDay(std::int64_t moment) {
     lastMoment = moment;
 }
 
-FrameStatus StatusReport::now(const QString& storeFile, bool isSampleFollowed) {
+FrameStatus StatusReport::now(const SessionFacts& session) {
     std::vector<unsigned char> services;
     backEnd.BKQNEWS_bGetAllNewsService(services);
     // Those that the service menu has: the warrants have a list of their own.
@@ -131,12 +143,14 @@ FrameStatus StatusReport::now(const QString& storeFile, bool isSampleFollowed) {
     FrameStatus status;
     status.isLive = state.kind == FeedState::Live;
     // The green light is for real news.
-    status.isInvented = isSampleFollowed && status.isLive;
+    status.isInvented = session.isSampleFollowed && status.isLive;
     status.feed = status.isInvented ? terminalText(TextId::FeedSample) : feedText(state);
+    if (status.isLive && !status.isInvented)
+        tellSources(status, sourcesOf(feed, backEnd.storePath()), session.isUsersOwn);
     status.feedTip = feedTip(feed);
     status.lastHeadline = lastHeadline;
     status.now = host_clock::now();
-    status.storeFile = storeFile;
+    status.storeFile = session.storeFile;
     watchDay(status.now);
     if (dayBeganAt > 0 && status.now - dayBeganAt < newDaySeconds)
         status.newDay = host_clock::today();

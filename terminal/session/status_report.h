@@ -13,6 +13,13 @@ class Workspace;
 // The present moment, where it is not the machine's; else empty.
 QString asOfText();
 
+// What the session knows of itself.
+struct SessionFacts {
+    QString storeFile;
+    bool isSampleFollowed = false;
+    bool isUsersOwn = false;  // the store
+};
+
 // Gathers what the status bar says.
 class StatusReport : public NewsReceiver {
 public:
@@ -22,7 +29,7 @@ public:
     StatusReport(const StatusReport&) = delete;
     StatusReport& operator=(const StatusReport&) = delete;
 
-    FrameStatus now(const QString& storeFile, bool isSampleFollowed);
+    FrameStatus now(const SessionFacts& session);
 
     void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
                          const QString& symbolCode) override;

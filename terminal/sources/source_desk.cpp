@@ -33,6 +33,10 @@ void SourceDesk::watch() {
     seconds.start(period);
 }
 
+void SourceDesk::read(const Finished& finished) {
+    ask([](SourceList&) { return Done(Nothing{}); }, finished);
+}
+
 void SourceDesk::add(NetworkSource source, const SourceSecret& secret, const Added& added) {
     keepSecret(secret, [this, source = std::move(source), added](const Result<QString>& kept) mutable {
         if (!kept) {
@@ -111,8 +115,10 @@ void SourceDesk::keepSecret(const SourceSecret& secret,
 void SourceDesk::ask(Change change, const Finished& finished) {
     thread.post([this, change = std::move(change), finished] {
         const auto sources = list();
-        const Done done = sources ? change(*sources.value()) : Done(sources.error());
+        Done done = sources ? change(*sources.value()) : Done(sources.error());
         const auto read = readList();
+        if (done && !read)
+            done = read.error();
         answers.post([this, done, read, finished] {
             show(read);
             finished(done);

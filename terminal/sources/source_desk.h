@@ -44,6 +44,8 @@ public:
     const std::vector<ListedSource>& sources() const { return listed; }
     // Looks for what has changed, now and then every second.
     void watch();
+    // Looks once.
+    void read(const Finished& finished);
 
     // `secret` is kept with the secrets, and the source names it; empty: it has none. The answer is the
     // source's name.

@@ -42,6 +42,11 @@ void choose(QComboBox& box, Value value) {
     box.setCurrentIndex(box.findData(static_cast<int>(value)));
 }
 
+// As the user would type it.
+QString inputOf(const QUrl& address) {
+    return address.isLocalFile() ? address.toLocalFile() : address.toString();
+}
+
 QLineEdit* lineOf(const QString& name) {
     auto* line = new QLineEdit;
     line->setAccessibleName(name);
@@ -66,6 +71,8 @@ SourceDialog::SourceDialog(const NetworkSource& source, SourceSecret secret, Sou
     pages->setAccessibleName(windowTitle());
     pages->addTab(generalPage(), terminalText(TextId::SourceGeneral));
     pages->addTab(accessPage(), terminalText(TextId::SourceAccess));
+    pages->setSizePolicy(QSizePolicy::Preferred,
+                         QSizePolicy::Fixed);  // what a trial shows takes none of its room
     trialView = new TrialView;
     QDialogButtonBox* buttons = dialogButtons(*this);
     buttons->button(QDialogButtonBox::Ok)
@@ -187,7 +194,7 @@ QWidget* SourceDialog::pathRow(QLineEdit*& line, const QString& name) {
 }
 
 void SourceDialog::fill(const NetworkSource& source) {
-    address->setText(source.address.toString());
+    address->setText(inputOf(source.address));
     isLink = !source.isTyped;
     title->setText(source.title);
     choose(*kind, source.kind);
@@ -215,7 +222,7 @@ void SourceDialog::takeAddress() {
     const SplitAddress split = withoutSecrets(QUrl::fromUserInput(address->text().trimmed()));
     if (split.secret.isEmpty())
         return;
-    address->setText(split.address.toString());
+    address->setText(inputOf(split.address));
     if (!split.secret.parameters.isEmpty())
         parameters = split.secret.parameters;
     if (split.secret.authorisation.isEmpty())
@@ -288,7 +295,7 @@ void SourceDialog::takeReport(const TrialReport& report) {
 
 void SourceDialog::followLink(int place) {
     const FeedLink& link = links.at(std::size_t(place));
-    address->setText(link.address.toString());
+    address->setText(inputOf(link.address));
     isLink = true;
     if (title->text().isEmpty())
         title->setText(link.title);

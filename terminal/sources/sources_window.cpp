@@ -33,7 +33,7 @@ namespace wirepane {
 
 namespace {
 
-constexpr QSize startSize{960, 640};
+constexpr QSize startSize{1080, 640};
 constexpr std::chrono::seconds period{1};  // of what time changes
 
 }  // namespace
@@ -78,6 +78,10 @@ SourcesWindow::SourcesWindow(SourceDesk& sourceDesk, SourceTrial& sourceTrial, S
     showList();
     desk.watch();
     address->setFocus();
+}
+
+SourcesWindow::~SourcesWindow() {
+    trial.stop();
 }
 
 QLayout* SourcesWindow::topRow() {
@@ -138,16 +142,16 @@ QTreeView* SourcesWindow::makeList() {
     view->setTabKeyNavigation(false);
     view->installEventFilter(this);
     const QFontMetrics metrics = view->fontMetrics();
-    const std::pair<int, QString> widths[] = {{SourceModel::On, u"0000"_s},
-                                              {SourceModel::Last, u"00/00 00:000"_s},
-                                              {SourceModel::Next, u"00000000000"_s},
-                                              {SourceModel::Today, u"000,0000"_s},
-                                              {SourceModel::Delay, u"00000 ms"_s}};
+    const std::pair<int, QString> widths[] = {{SourceModel::On, u"000"_s},
+                                              {SourceModel::Last, u"00/00 00:00"_s},
+                                              {SourceModel::Next, u"in 00 min"_s},
+                                              {SourceModel::Today, u"00,000"_s},
+                                              {SourceModel::Delay, u"000 ms"_s}};
     QHeaderView* header = view->header();
     header->setStretchLastSection(false);
     header->setSectionsMovable(false);
     for (const auto& [column, widest] : widths)
-        view->setColumnWidth(column, metrics.horizontalAdvance(widest) + 12);
+        view->setColumnWidth(column, metrics.horizontalAdvance(widest) + 16);
     header->setSectionResizeMode(SourceModel::Source, QHeaderView::Stretch);
     header->setSectionResizeMode(SourceModel::State, QHeaderView::Stretch);
     connect(view, &QTreeView::doubleClicked, this, &SourcesWindow::edit);
@@ -236,12 +240,12 @@ void SourcesWindow::showCurrent() {
     const int row = list->currentIndex().row();
     title->setText(row >= 0 ? model->shown(row).title : QString());
     place->setText(listed != nullptr ? shownAddress(listed->source.address) : QString());
-    const bool isPaused = listed != nullptr && listed->source.isPaused;
+    const bool isPaused = row >= 0 && !model->shown(row).isOn;
     pauseButton->setText(terminalText(isPaused ? TextId::SourceResume : TextId::SourcePause));
     pauseButton->setIcon(lineIcon(isPaused ? LineIcon::Play : LineIcon::Pause));
-    for (QPushButton* button : {pauseButton, editButton, removeButton})
+    for (QPushButton* button : {testButton, editButton, removeButton})
         button->setEnabled(listed != nullptr);
-    testButton->setEnabled(listed != nullptr);
+    pauseButton->setEnabled(row >= 0);
     upButton->setEnabled(listed != nullptr && row > 0);
     downButton->setEnabled(listed != nullptr && model->listed(row + 1) != nullptr);
     const QString name = listed != nullptr ? listed->source.name : QString();
@@ -315,8 +319,8 @@ void SourcesWindow::test() {
 }
 
 void SourcesWindow::togglePause() {
-    if (const ListedSource* listed = current())
-        tick(list->currentIndex().row(), listed->source.isPaused);
+    if (const int row = list->currentIndex().row(); row >= 0)
+        tick(row, !model->shown(row).isOn);
 }
 
 void SourcesWindow::edit() {

@@ -23,6 +23,7 @@ class SourcesWindow : public QDialog {
 public:
     // None is owned; all outlive the window.
     SourcesWindow(SourceDesk& desk, SourceTrial& trial, SourceModel::StateOf stateOf, QWidget* parent);
+    ~SourcesWindow() override;
 
     // What a list of feeds names is added, paused: the user looks at it first.
     void importList(const QString& path);

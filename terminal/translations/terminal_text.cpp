@@ -231,9 +231,10 @@ constexpr std::array keys{
     "TERMINAL_EXCHANGE_PUBLISHER",
     "TERMINAL_NO_SOURCES",
     "TERMINAL_NO_SOURCES_ADD",
-    "TERMINAL_SOURCES_PAUSED_ONLY",
+    "TERMINAL_SOURCES_SILENT",
+    "TERMINAL_SOURCES_STALE",
 };
-static_assert(keys.size() == static_cast<std::size_t>(TextId::SourcesPausedOnly) + 1);
+static_assert(keys.size() == static_cast<std::size_t>(TextId::SourcesStale) + 1);
 
 }  // namespace
 

@@ -230,7 +230,8 @@ enum class TextId {
     ExchangePublisher,
     NoSources,
     NoSourcesAdd,
-    SourcesPausedOnly,
+    SourcesSilent,
+    SourcesStale,
 };
 
 // The text in the language in force.

@@ -983,6 +983,10 @@
         <source></source>
         <translation>The file %1 cannot be written: %2.</translation>
     </message>
+    <message id="ERROR_SOURCES_FILE_NOT_TRIED">
+        <source></source>
+        <translation>The file %1 is missing, cannot be read or is too large.</translation>
+    </message>
     <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
         <source></source>
         <translation>The keychain failed: %1</translation>
@@ -1030,6 +1034,10 @@
     <message id="ERROR_SOURCES_SECRET_MISSING">
         <source></source>
         <translation>The keychain has no secret called %1.</translation>
+    </message>
+    <message id="ERROR_SOURCES_STREAM_NOT_TRIED">
+        <source></source>
+        <translation>A stream cannot be tried beforehand; its row tells how it stands once it is on.</translation>
     </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
@@ -2306,7 +2314,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_NO_SOURCES">
         <source></source>
-        <translation>No sources</translation>
+        <translation>No source is on</translation>
     </message>
     <message id="TERMINAL_NO_SOURCES_ADD">
         <source></source>
@@ -2524,13 +2532,17 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>Paste an address: a feed, a page, or a file</translation>
     </message>
-    <message id="TERMINAL_SOURCES_PAUSED_ONLY">
+    <message id="TERMINAL_SOURCES_SILENT">
         <source></source>
-        <translation>All sources are paused</translation>
+        <translation>No source answers</translation>
     </message>
     <message id="TERMINAL_SOURCES_SOURCE">
         <source></source>
         <translation>Source</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_STALE">
+        <source></source>
+        <translation>Nothing new for longer than usual</translation>
     </message>
     <message id="TERMINAL_SOURCES_STATE">
         <source></source>

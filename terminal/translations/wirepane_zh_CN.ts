@@ -983,6 +983,10 @@
         <source></source>
         <translation>无法写入文件 %1：%2。</translation>
     </message>
+    <message id="ERROR_SOURCES_FILE_NOT_TRIED">
+        <source></source>
+        <translation>文件 %1 不存在、无法读取或过大。</translation>
+    </message>
     <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
         <source></source>
         <translation>钥匙串出错：%1</translation>
@@ -1030,6 +1034,10 @@
     <message id="ERROR_SOURCES_SECRET_MISSING">
         <source></source>
         <translation>钥匙串中没有名为 %1 的密钥。</translation>
+    </message>
+    <message id="ERROR_SOURCES_STREAM_NOT_TRIED">
+        <source></source>
+        <translation>流无法预先测试；开启后会在该行显示状态。</translation>
     </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
@@ -2306,7 +2314,7 @@
     </message>
     <message id="TERMINAL_NO_SOURCES">
         <source></source>
-        <translation>没有来源</translation>
+        <translation>没有开启的来源</translation>
     </message>
     <message id="TERMINAL_NO_SOURCES_ADD">
         <source></source>
@@ -2524,13 +2532,17 @@
         <source></source>
         <translation>粘贴地址：来源、网页或文件</translation>
     </message>
-    <message id="TERMINAL_SOURCES_PAUSED_ONLY">
+    <message id="TERMINAL_SOURCES_SILENT">
         <source></source>
-        <translation>所有来源均已暂停</translation>
+        <translation>没有来源响应</translation>
     </message>
     <message id="TERMINAL_SOURCES_SOURCE">
         <source></source>
         <translation>来源</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_STALE">
+        <source></source>
+        <translation>超过平常时间没有新消息</translation>
     </message>
     <message id="TERMINAL_SOURCES_STATE">
         <source></source>

@@ -983,6 +983,10 @@
         <source></source>
         <translation>無法寫入檔案 %1：%2。</translation>
     </message>
+    <message id="ERROR_SOURCES_FILE_NOT_TRIED">
+        <source></source>
+        <translation>檔案 %1 不存在、無法讀取或過大。</translation>
+    </message>
     <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
         <source></source>
         <translation>鑰匙圈發生錯誤：%1</translation>
@@ -1030,6 +1034,10 @@
     <message id="ERROR_SOURCES_SECRET_MISSING">
         <source></source>
         <translation>鑰匙圈中沒有名為 %1 的密鑰。</translation>
+    </message>
+    <message id="ERROR_SOURCES_STREAM_NOT_TRIED">
+        <source></source>
+        <translation>串流無法預先測試；開啟後會在該列顯示狀態。</translation>
     </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
@@ -2306,7 +2314,7 @@
     </message>
     <message id="TERMINAL_NO_SOURCES">
         <source></source>
-        <translation>沒有來源</translation>
+        <translation>沒有開啟的來源</translation>
     </message>
     <message id="TERMINAL_NO_SOURCES_ADD">
         <source></source>
@@ -2524,13 +2532,17 @@
         <source></source>
         <translation>貼上位址：來源、網頁或檔案</translation>
     </message>
-    <message id="TERMINAL_SOURCES_PAUSED_ONLY">
+    <message id="TERMINAL_SOURCES_SILENT">
         <source></source>
-        <translation>所有來源皆已暫停</translation>
+        <translation>沒有來源回應</translation>
     </message>
     <message id="TERMINAL_SOURCES_SOURCE">
         <source></source>
         <translation>來源</translation>
+    </message>
+    <message id="TERMINAL_SOURCES_STALE">
+        <source></source>
+        <translation>超過平常時間沒有新消息</translation>
     </message>
     <message id="TERMINAL_SOURCES_STATE">
         <source></source>

@@ -9,6 +9,7 @@
 #include "search/search_ids.h"
 #include "terminal/automation/user_input.h"
 #include "terminal/frame/frame_command.h"
+#include "terminal/sources/sources_window.h"
 #include "tests/terminal/program/frame_fixture.h"
 
 #include <QAbstractButton>
@@ -42,6 +43,7 @@ protected:
         visitFrame();
         visitModes();
         visitFrameDialogs();
+        visitSources();
         visitStoryWindow();
         visitSearchDialogs();
         ASSERT_TRUE(session->setSwitches({false, true}));
@@ -125,6 +127,22 @@ protected:
                  });
         for (const FrameCommand id : {FrameCommand::ReadAsOf, FrameCommand::RenameView})
             inDialog([this, id] { command(id); });
+    }
+    // The page, and the dialog of a source that is not there.
+    void visitSources() {
+        command(FrameCommand::Sources);
+        auto* sources = session->frame().findChild<SourcesWindow*>();
+        ASSERT_NE(sources, nullptr);
+        QCoreApplication::processEvents();
+        look(*sources);
+        auto* address = sources->findChild<QLineEdit*>();
+        address->setText(QStringLiteral("/no/such/file"));
+        inDialog([address] { QTest::keyClick(address, Qt::Key_Return); },
+                 [this](QDialog& dialog) {
+                     selectTab(dialog, 1);
+                     look(dialog);
+                 });
+        delete sources;
     }
     void visitStoryWindow() {
         const OpenView& view = *session->workspace().active();

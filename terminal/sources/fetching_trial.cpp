@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/sources/fetching_trial.h"
+
+#include "backend/network/source_request.h"
+#include "terminal/sources/source_errors.h"
+#include "terminal/sources/trial_reading.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+
+#include <utility>
+
+namespace wirepane {
+
+namespace {
+
+TrialReport failed(const Error& fault) {
+    TrialReport report;
+    report.fault = fault;
+    return report;
+}
+
+TrialReport readFile(const NetworkSource& source) {
+    const QString path = source.address.toLocalFile();
+    QFile file(path);
+    const HttpLimits limits;
+    // A pipe would wait for a writer.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > limits.body)
+        return failed(makeError<source_errors::fileNotTried>(QDir::toNativeSeparators(path)));
+    return readTrial(file.readAll(), source, source.address);
+}
+
+bool isStream(const NetworkSource& source) {
+    return source.kind == NetworkKind::EventStream || source.kind == NetworkKind::WebSocket ||
+           source.address.scheme().startsWith(QLatin1StringView("ws"));
+}
+
+}  // namespace
+
+FetchingTrial::FetchingTrial(SecretStore& secretStore) : secrets(secretStore) {}
+
+FetchingTrial::~FetchingTrial() = default;
+
+void FetchingTrial::start(const NetworkSource& source, const SourceSecret& secret, const Told& told) {
+    stop();
+    teller = told;
+    NetworkSource checked = source;
+    if (!secret.isEmpty())
+        checked.secret = QStringLiteral("typed");  // it has no name before it is kept
+    if (const Done sound = checkedSource(checked); !sound) {
+        tell(failed(sound.error()));
+    } else if (isStream(source)) {
+        tell(failed(makeError<source_errors::streamNotTried>()));
+    } else if (source.address.isLocalFile()) {
+        read([source] { return readFile(source); });
+    } else if (secret.isEmpty() && !source.secret.isEmpty()) {
+        secrets.find(source.secret,
+                     [self = QPointer(this), source, asked = number](const Result<QString>& found) {
+                         if (!self || self->number != asked)
+                             return;
+                         if (found)
+                             self->ask(source, SourceSecret::parse(found.value()));
+                         else
+                             self->tell(failed(found.error()));
+                     });
+    } else {
+        ask(source, secret);
+    }
+}
+
+void FetchingTrial::stop() {
+    ++number;
+    teller = {};
+    client.reset();
+}
+
+void FetchingTrial::ask(const NetworkSource& source, const SourceSecret& secret) {
+    client = std::make_unique<HttpClient>();
+    client->ask(requestOf(source, secret), [this, source](const HttpAnswer& answer) {
+        // Not told from within the client, which whoever is told may end.
+        read([answer, source] {
+            return answer.fault ? failed(*answer.fault) : readTrial(answer.body, source, answer.address);
+        });
+    });
+}
+
+void FetchingTrial::read(const std::function<TrialReport()>& reading) {
+    thread.post([this, reading, asked = number] {
+        const auto report = std::make_shared<TrialReport>(reading());
+        answers.post([this, report, asked] {
+            if (asked == number)
+                tell(*report);
+        });
+    });
+}
+
+void FetchingTrial::tell(const TrialReport& report) {
+    if (const Told told = std::exchange(teller, {}))
+        told(report);
+}
+
+}  // namespace wirepane

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/call_queue.h"
+#include "backend/network/http_fetch.h"
+#include "backend/network/secret_store.h"
+#include "backend/worker_thread.h"
+#include "terminal/sources/source_trial.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace wirepane {
+
+// Asks over the network as a terminal does, or reads the file that the user typed; what came is read on a
+// thread of its own.
+class FetchingTrial : public QObject, public SourceTrial {
+public:
+    // The secrets are not owned and outlive this.
+    explicit FetchingTrial(SecretStore& secrets);
+    ~FetchingTrial() override;
+
+    void start(const NetworkSource& source, const SourceSecret& secret, const Told& told) override;
+    void stop() override;
+
+private:
+    void ask(const NetworkSource& source, const SourceSecret& secret);
+    void read(const std::function<TrialReport()>& reading);
+    void tell(const TrialReport& report);
+
+    SecretStore& secrets;
+    Told teller;
+    int number = 0;  // of the trial that is under way
+    std::unique_ptr<HttpClient> client;
+    CallQueue answers;    // on the interface thread
+    WorkerThread thread;  // last: it uses the above
+};
+
+}  // namespace wirepane

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// The Sources page, by keyboard alone, over a server on this machine.
+#include "terminal/sources/sources_window.h"
+
+#include "terminal/sources/source_dialog.h"
+#include "terminal/sources/trial_view.h"
+#include "tests/support/loopback_server.h"
+#include "tests/support/qt_printers.h"
+#include "tests/terminal/program/frame_fixture.h"
+#include "tests/terminal/sources/announcements.h"
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <QTreeView>
+
+#include <algorithm>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane::test {
+namespace {
+
+class SourcesWindowTest : public FrameFixture {
+protected:
+    SourcesWindowTest() : FrameFixture(1200) {
+        server.put("/list.json", announcements(), "application/json");
+        server.put("/page", "<html><head><link rel=alternate type=application/rss+xml title=Post href=/feed>",
+                   "text/html");
+        server.put("/feed",
+                   "<rss><channel><title>T</title><item><guid>a:1</guid><title>First</title>"
+                   "<pubDate>Mon, 02 Mar 2026 01:00:00 GMT</pubDate></item></channel></rss>",
+                   "application/rss+xml");
+        emit session->frame().commanded(FrameCommand::Sources);
+        window = session->frame().findChild<SourcesWindow*>();
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return window->isActiveWindow(); }));
+    }
+
+    // Types the address and Enter; when the trial has answered, does `inDialog`, which closes the dialog.
+    void addByKeyboard(const QString& address, const std::function<void(SourceDialog&)>& inDialog) {
+        bool seen = false;
+        const QDeadlineTimer patience(5000);
+        QTimer poll;
+        QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+            auto* dialog = qobject_cast<SourceDialog*>(QApplication::activeModalWidget());
+            const bool isShown = dialog != nullptr && isAnswered(*dialog);
+            if (!isShown && !patience.hasExpired())
+                return;
+            EXPECT_TRUE(isShown);
+            if (dialog == nullptr)
+                return;
+            poll.stop();
+            seen = true;
+            inDialog(*dialog);
+        });
+        poll.start(5);
+        QTest::keyClicks(QApplication::focusWidget(), address);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        EXPECT_TRUE(seen);
+    }
+    static bool isAnswered(const SourceDialog& dialog) {
+        const auto buttons = dialog.findChildren<QPushButton*>();
+        return std::all_of(buttons.begin(), buttons.end(),
+                           [](const QPushButton* button) { return button->isEnabled(); });
+    }
+    bool lists(std::size_t count) {
+        return QTest::qWaitFor([&] { return desk().sources().size() == count; });
+    }
+    SourceDesk& desk() { return session->sources().desk(); }
+    QTreeView* list() { return window->findChild<QTreeView*>(); }
+    void answerBox(QMessageBox::StandardButton answer) {
+        QTimer::singleShot(0, window, [answer] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            box->button(answer)->click();
+        });
+    }
+
+    LoopbackServer server;
+    SourcesWindow* window = nullptr;
+};
+
+TEST_F(SourcesWindowTest, ASourceIsAddedPausedAndRemovedByKeyboard) {
+    addByKeyboard(server.address(u"/list.json"_s).toString(), [](SourceDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<TrialView*>()->items(), 2);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    });
+    ASSERT_TRUE(lists(1));
+    const NetworkSource added = desk().sources()[0].source;
+    EXPECT_EQ(added.kind, NetworkKind::Table);
+    EXPECT_EQ(added.mapping, u"exchange_announcements"_s);
+    EXPECT_TRUE(added.isTyped);
+    EXPECT_EQ(window->focusWidget(), list());
+    QTest::keyClick(list(), Qt::Key_Space);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return desk().sources()[0].source.isPaused; }));
+    answerBox(QMessageBox::Cancel);
+    QTest::keyClick(list(), Qt::Key_Delete);
+    answerBox(QMessageBox::Ok);
+    QTest::keyClick(list(), Qt::Key_Delete);
+    EXPECT_TRUE(lists(0));
+}
+
+TEST_F(SourcesWindowTest, AFeedThatAPageNamesIsOfferedAndNotTakenForTyped) {
+    addByKeyboard(server.address(u"/page"_s).toString(), [this](SourceDialog& dialog) {
+        EXPECT_EQ(dialog.source().title, u"Post"_s);
+        EXPECT_EQ(dialog.source().address.path(), u"/feed"_s);
+        EXPECT_FALSE(dialog.source().isTyped);
+        // Nobody typed that address of this machine.
+        EXPECT_EQ(dialog.findChild<TrialView*>()->items(), 0);
+        EXPECT_EQ(server.requests, 1);
+        dialog.reject();
+    });
+}
+
+TEST_F(SourcesWindowTest, WhatIsReadyMadeIsOnlyTakenWhenItsTermsAreSaidToBeRead) {
+    ASSERT_EQ(list()->model()->rowCount(), 1);
+    list()->setFocus();
+    answerBox(QMessageBox::Cancel);
+    QTest::keyClick(list(), Qt::Key_Space);
+    QTest::qWait(50);
+    EXPECT_TRUE(desk().sources().empty());
+}
+
+TEST_F(SourcesWindowTest, SourcesAreMovedAndListsComeAndGoPaused) {
+    const QString opml =
+        scratch.write(u"in.opml"_s, R"(<opml><body><outline text="One" xmlUrl="https://one.example/"/>
+        <outline text="Two" xmlUrl="https://two.example/"/></body></opml>)");
+    window->importList(opml);
+    ASSERT_TRUE(lists(2));
+    EXPECT_TRUE(desk().sources()[0].source.isPaused && desk().sources()[1].source.isPaused);
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
+    QApplication::activeModalWidget()->close();
+    list()->setCurrentIndex(list()->model()->index(0, 0));
+    QTest::keyClick(list(), Qt::Key_Down, Qt::AltModifier);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return desk().sources()[0].source.title == u"Two"_s; }));
+    EXPECT_EQ(list()->currentIndex().row(), 1) << "the moved one stays the current one";
+    window->exportList(scratch.path(u"out.opml"_s));
+    QFile written(scratch.path(u"out.opml"_s));
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    const QByteArray text = written.readAll();
+    EXPECT_LT(text.indexOf("two.example"), text.indexOf("one.example"));
+}
+
+}  // namespace
+}  // namespace wirepane::test
