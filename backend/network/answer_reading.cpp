@@ -7,6 +7,7 @@
 #include "backend/import/mapped_table.h"
 #include "backend/import/source_formats.h"
 #include "backend/import/source_head.h"
+#include "backend/import/text_encoding.h"
 #include "backend/import/wire_form.h"
 #include "backend/network/http_values.h"
 #include "backend/network/network_errors.h"
@@ -30,12 +31,22 @@ namespace {
 constexpr std::int64_t secondsOfDay = 86'400;
 constexpr std::int64_t apart = 300;  // seconds between two clocks that count as one
 
+// Without what may stand before the first element of a page: a byte order mark, an XML declaration, comments.
+QByteArrayView withoutProlog(QByteArrayView body) {
+    body = withoutByteOrderMark(body).trimmed();
+    for (const auto& [start, end] : {std::pair("<?", "?>"), std::pair("<!--", "-->")}) {
+        const qsizetype behind = body.startsWith(start) ? body.indexOf(end) + qsizetype(qstrlen(end)) : 0;
+        body = body.sliced(std::clamp<qsizetype>(behind, 0, body.size())).trimmed();
+    }
+    return body;
+}
+
 // A page for people instead of news; its title, which may be empty.
 std::optional<QString> pageTitle(QByteArrayView body) {
     constexpr qsizetype looked = 16384;
     constexpr qsizetype shown = 80;
     const QByteArray head = body.first(std::min(body.size(), looked)).toByteArray();
-    const QByteArray start = head.left(512).trimmed().toLower();
+    const QByteArray start = withoutProlog(head).toByteArray().left(16).toLower();
     if (!start.startsWith("<!doctype html") && !start.startsWith("<html"))
         return std::nullopt;
     const QByteArray lower = head.toLower();

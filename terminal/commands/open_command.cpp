@@ -214,7 +214,7 @@ int runOpened(const OpenOptions& options, StandardChannel* channel, std::optiona
     const auto session =
         Session::open({options.storeFile, options.configFolder, options.language, sample, options.sources,
                        !options.isScripted(), options.followsSample, options.stores,
-                       onward ? std::optional(onward->kind) : options.storeKind});
+                       onward ? std::optional(onward->kind) : options.storeKind, !options.isScripted()});
     const OnwardStore arrived = onward.value_or(OnwardStore());
     onward.reset();
     if (!session) {

@@ -127,8 +127,7 @@ Result<NetworkSource> defined(CommandArguments& arguments, const SplitAddress& s
 }
 
 SplitAddress typedAddress(const Room& room) {
-    return withoutSecrets(
-        QUrl::fromUserInput(room.rest.constFirst(), QDir::currentPath()));
+    return withoutSecrets(QUrl::fromUserInput(room.rest.constFirst(), QDir::currentPath()));
 }
 
 int add(Room& room) {

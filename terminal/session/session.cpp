@@ -219,6 +219,8 @@ Done Session::startFeed(const SessionOptions& options) {
         else if (!opened)
             return opened;
     }
+    if (options.readsSources && ownKind != StoreKind::Sample && !store->isReadOnly())
+        networkSources = std::make_unique<NetworkSources>(*store, *liveFeed, &sourceServices->secrets());
     if (options.followsSample && ownKind != StoreKind::Own)
         followSample();
     return Nothing{};

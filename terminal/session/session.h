@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/feed/live_feed.h"
+#include "backend/network/network_sources.h"
 #include "backend/result.h"
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/store_guard.h"
@@ -55,6 +56,8 @@ struct SessionOptions {
     // The user's stores, where one of them is to be opened. The sample's is filled and followed.
     std::optional<UserStores> stores = std::nullopt;
     std::optional<StoreKind> storeKind = std::nullopt;  // of them; nothing: the one to begin with
+    // The sources of the store's list are asked, unless it is the sample's.
+    bool readsSources = false;
 };
 
 // Where a user goes from a session: to the other one of his stores, to take files into it, if any, or to its
@@ -155,6 +158,7 @@ private:
     std::unique_ptr<BackgroundPainter> painter;
     std::unique_ptr<SourceServices> sourceServices;
     std::unique_ptr<LiveFeed> liveFeed;
+    std::unique_ptr<NetworkSources> networkSources;
     bool isSampleFollowed = false;
     std::optional<StoreKind> ownKind;
     std::optional<OnwardStore> wantedStore;

@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/sources/fetching_trial.h"
 
+#include "backend/network/answer_reading.h"
 #include "backend/network/source_request.h"
+#include "host/contract/clock.h"
 #include "terminal/sources/source_errors.h"
 #include "terminal/sources/trial_reading.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QPointer>
 
 #include <utility>
@@ -21,16 +20,6 @@ TrialReport failed(const Error& fault) {
     TrialReport report;
     report.fault = fault;
     return report;
-}
-
-TrialReport readFile(const NetworkSource& source) {
-    const QString path = source.address.toLocalFile();
-    QFile file(path);
-    const HttpLimits limits;
-    // A pipe would wait for a writer.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > limits.body)
-        return failed(makeError<source_errors::fileNotTried>(QDir::toNativeSeparators(path)));
-    return readTrial(file.readAll(), source, source.address);
 }
 
 bool isStream(const NetworkSource& source) {
@@ -55,7 +44,10 @@ void FetchingTrial::start(const NetworkSource& source, const SourceSecret& secre
     } else if (isStream(source)) {
         tell(failed(makeError<source_errors::streamNotTried>()));
     } else if (source.address.isLocalFile()) {
-        read([source] { return readFile(source); });
+        read([source] {
+            return readTrial(answerOfFile(source.address.toLocalFile(), {}, HttpLimits().body), source,
+                             host_clock::now());
+        });
     } else if (secret.isEmpty() && !source.secret.isEmpty()) {
         secrets.find(source.secret,
                      [self = QPointer(this), source, asked = number](const Result<QString>& found) {
@@ -81,9 +73,7 @@ void FetchingTrial::ask(const NetworkSource& source, const SourceSecret& secret)
     client = std::make_unique<HttpClient>();
     client->ask(requestOf(source, secret), [this, source](const HttpAnswer& answer) {
         // Not told from within the client, which whoever is told may end.
-        read([answer, source] {
-            return answer.fault ? failed(*answer.fault) : readTrial(answer.body, source, answer.address);
-        });
+        read([answer, source] { return readTrial(answer, source, host_clock::now()); });
     });
 }
 

@@ -16,8 +16,6 @@ inline constexpr ErrorCode opmlWithoutFeeds{"ERROR_SOURCES_OPML_WITHOUT_FEEDS",
                                             u"The list names no feed that could be read."};
 
 // Of a source that is asked once, before it is kept.
-inline constexpr ErrorCode fileNotTried{"ERROR_SOURCES_FILE_NOT_TRIED",
-                                        u"The file %1 is missing, cannot be read or is too large."};
 inline constexpr ErrorCode streamNotTried{
     "ERROR_SOURCES_STREAM_NOT_TRIED",
     u"A stream cannot be tried beforehand; its row tells how it stands once it is on."};

@@ -71,6 +71,7 @@ ColourRole lampOf(SourceState::Kind kind) {
         case SourceState::Live:
             return ColourRole::Good;
         case SourceState::Failed:
+        case SourceState::Silent:
             return ColourRole::Flash;
         default:
             return ColourRole::Warning;
@@ -82,7 +83,7 @@ void tellState(SourceRow& row, const ListedSource& listed, const std::optional<S
     const SourceStanding& standing = listed.standing;
     if (listed.source.isPaused) {
         row.state = terminalText(TextId::SourcePaused);
-    } else if (live && live->kind == SourceState::Failed && live->reason) {
+    } else if (live && live->reason) {
         row.state = shownText(*live->reason);
         row.lamp = ColourRole::Flash;
     } else if (!standing.fault.isEmpty()) {

@@ -29,10 +29,11 @@ struct TrialReport {
     std::vector<TrialItem> first;  // the newest, newest first
     int items = 0;                 // that could be taken
     int rejected = 0;
+    int left = 0;                          // that are older than what is taken
     std::optional<Error> reason;           // of the first that was rejected
     std::optional<NetworkSource> fitting;  // the source as it should be to be read, where that is another
     std::vector<FeedLink> links;           // a page came, which names these feeds as its own
-    std::optional<Error> fault;            // nothing could be read
+    std::optional<Error> fault;            // why nothing could be read, or what is strange in what was
 };
 
 // Asks a source once, without keeping anything of it. Interface thread.

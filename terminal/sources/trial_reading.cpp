@@ -4,13 +4,8 @@
 
 #include "backend/import/built_in_mappings.h"
 #include "backend/import/json_shape.h"
-#include "backend/import/mapped_table.h"
-#include "backend/import/source_formats.h"
-#include "backend/import/source_reader.h"
-#include "backend/import/text_encoding.h"
-
-#include <QBuffer>
-#include <QRegularExpression>
+#include "backend/network/answer_reading.h"
+#include "backend/network/network_errors.h"
 
 #include <algorithm>
 
@@ -29,22 +24,6 @@ void keep(std::vector<TrialItem>& first, const NewsItem& item) {
         first.pop_back();
 }
 
-void applyCategory(const NetworkSource& source, NewsItem& item) {
-    if (source.categoryRule == CategoryRule::Always ||
-        (source.categoryRule == CategoryRule::Otherwise && item.category.isEmpty()))
-        item.category = source.category;
-}
-
-bool looksLikeMarkup(QByteArrayView body) {
-    static const QRegularExpression start(
-        u"^\\s*(?:<!--.*?-->\\s*)*<(?:!doctype\\s+html|html|head|body|meta|title)\\b"_s,
-        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
-    return start
-        .match(QString::fromUtf8(
-            withoutByteOrderMark(body.first(std::min(body.size(), qsizetype(recognisedFrom))))))
-        .hasMatch();
-}
-
 // The columns of a table: the header's, or the fields of the records.
 QStringList columnsOf(const QByteArray& body) {
     const SourceHead head(body.left(recognisedFrom));
@@ -52,11 +31,8 @@ QStringList columnsOf(const QByteArray& body) {
     return records.empty() ? head.csvHeader() : records.front().keys();
 }
 
-// The built-in mapping whose every column the table has, where it is of no format that says what it is;
-// empty: none.
+// The built-in mapping whose every column the table has; empty: none.
 QString fittingMapping(const QByteArray& body) {
-    if (recognisedFormat(SourceHead(body.left(recognisedFrom))))
-        return {};
     const QStringList columns = columnsOf(body);
     for (const QString& name : builtInMappings()) {
         const auto mapping = mappingNamed(name);
@@ -70,49 +46,44 @@ QString fittingMapping(const QByteArray& body) {
     return {};
 }
 
-Done readWith(const QByteArray& body, const NetworkSource& source, const ItemVisitor& visit) {
-    ReadOptions options;
-    options.service = source.service;
-    options.market = source.market;
-    QByteArray bytes = body;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    if (source.kind != NetworkKind::Table)
-        return readSource(buffer, options, visit);
-    const auto mapping = mappingNamed(source.mapping);
-    if (!mapping)
-        return mapping.error();
-    return readMappedTable(buffer, mapping.value(), options, visit);
+bool isPage(const SourceAnswer& read) {
+    return read.fault && (read.fault->code == &network_errors::pageInstead ||
+                          read.fault->code == &network_errors::portalInstead);
+}
+
+void showItems(TrialReport& report, std::vector<SourceItem>& items) {
+    for (SourceItem& item : items) {
+        if (!item.content) {
+            if (report.rejected++ == 0)
+                report.reason = item.content.error();
+        } else if (const auto* news = std::get_if<NewsItem>(&item.content.value())) {
+            ++report.items;
+            keep(report.first, *news);
+        }
+    }
 }
 
 }  // namespace
 
-TrialReport readTrial(const QByteArray& body, const NetworkSource& source, const QUrl& from) {
+TrialReport readTrial(const HttpAnswer& answer, const NetworkSource& source, std::int64_t now) {
     TrialReport report;
-    NetworkSource asRead = source;
-    if (source.kind == NetworkKind::Auto && looksLikeMarkup(body))
-        report.links = feedLinks(QString::fromUtf8(body), from);
+    SourceAnswer read = readAnswer(source, answer, now);
+    if (isPage(read))
+        report.links = feedLinks(QString::fromUtf8(answer.body), answer.address);
     if (!report.links.empty())
         return report;
-    if (const QString mapping = source.kind == NetworkKind::Auto ? fittingMapping(body) : QString();
-        !mapping.isEmpty()) {
-        asRead.kind = NetworkKind::Table;
-        asRead.mapping = mapping;
-        report.fitting = asRead;
-    }
-    const Done read = readWith(body, asRead, [&](SourceItem&& item) {
-        if (!item.content) {
-            if (report.rejected++ == 0)
-                report.reason = item.content.error();
-        } else if (auto* news = std::get_if<NewsItem>(&item.content.value())) {
-            ++report.items;
-            applyCategory(asRead, *news);
-            keep(report.first, *news);
+    if (!read.isRead && !answer.fault && source.kind == NetworkKind::Auto) {
+        NetworkSource asTable = source;
+        asTable.kind = NetworkKind::Table;
+        asTable.mapping = fittingMapping(answer.body);
+        if (!asTable.mapping.isEmpty()) {
+            read = readAnswer(asTable, answer, now);
+            report.fitting = asTable;
         }
-        return true;
-    });
-    if (!read)
-        report.fault = read.error();
+    }
+    report.left = read.left;
+    report.fault = read.fault;
+    showItems(report, read.items);
     return report;
 }
 

@@ -2,15 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/network/http_fetch.h"
 #include "terminal/sources/source_trial.h"
 
-#include <QByteArray>
+#include <cstdint>
 
 namespace wirepane {
 
-// What an answer of the source would bring. `from`: the address that it came from in the end. Where the
-// source does not say what it is, and one of the built-in mappings fits a table, that is proposed; a page of
-// markup is looked through for the feeds that it names. Any thread.
-TrialReport readTrial(const QByteArray& body, const NetworkSource& source, const QUrl& from);
+// What an answer of the source would bring. Where the source does not say what it is, and one of the built-in
+// mappings fits a table, that is proposed; a page of markup is looked through for the feeds that it names.
+// `now`: seconds since 1970. Any thread.
+TrialReport readTrial(const HttpAnswer& answer, const NetworkSource& source, std::int64_t now);
 
 }  // namespace wirepane

@@ -27,6 +27,8 @@ QString sentenceOf(const TrialReport& report) {
         return terminalText(TextId::TrialPage).arg(report.links.size());
     if (report.items == 0 && report.reason)
         return terminalText(TextId::TrialRejected).arg(report.rejected).arg(shownText(*report.reason));
+    if (report.items == 0 && report.left > 0)
+        return terminalText(TextId::TrialTooOld).arg(report.left);
     if (report.items == 0)
         return terminalText(TextId::TrialNothing);
     return terminalText(TextId::TrialItems).arg(report.items).arg(report.rejected);

@@ -233,8 +233,9 @@ constexpr std::array keys{
     "TERMINAL_NO_SOURCES_ADD",
     "TERMINAL_SOURCES_SILENT",
     "TERMINAL_SOURCES_STALE",
+    "TERMINAL_TRIAL_TOO_OLD",
 };
-static_assert(keys.size() == static_cast<std::size_t>(TextId::SourcesStale) + 1);
+static_assert(keys.size() == static_cast<std::size_t>(TextId::TrialTooOld) + 1);
 
 }  // namespace
 

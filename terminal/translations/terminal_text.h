@@ -232,6 +232,7 @@ enum class TextId {
     NoSourcesAdd,
     SourcesSilent,
     SourcesStale,
+    TrialTooOld,
 };
 
 // The text in the language in force.

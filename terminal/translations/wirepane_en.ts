@@ -983,10 +983,6 @@
         <source></source>
         <translation>The file %1 cannot be written: %2.</translation>
     </message>
-    <message id="ERROR_SOURCES_FILE_NOT_TRIED">
-        <source></source>
-        <translation>The file %1 is missing, cannot be read or is too large.</translation>
-    </message>
     <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
         <source></source>
         <translation>The keychain failed: %1</translation>
@@ -2847,6 +2843,10 @@ Reads the news of securities markets, live and from files.</translation>
     <message id="TERMINAL_TRIAL_TITLE">
         <source></source>
         <translation>The first items as they would stand</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TOO_OLD">
+        <source></source>
+        <translation>It answers; its %1 items are all older than what is taken.</translation>
     </message>
     <message id="TERMINAL_TRIAL_TOPIC">
         <source></source>

@@ -983,10 +983,6 @@
         <source></source>
         <translation>无法写入文件 %1：%2。</translation>
     </message>
-    <message id="ERROR_SOURCES_FILE_NOT_TRIED">
-        <source></source>
-        <translation>文件 %1 不存在、无法读取或过大。</translation>
-    </message>
     <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
         <source></source>
         <translation>钥匙串出错：%1</translation>
@@ -2847,6 +2843,10 @@
     <message id="TERMINAL_TRIAL_TITLE">
         <source></source>
         <translation>前几条新闻的显示方式</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TOO_OLD">
+        <source></source>
+        <translation>有响应；其中 %1 条新闻都早于收取范围。</translation>
     </message>
     <message id="TERMINAL_TRIAL_TOPIC">
         <source></source>

@@ -983,10 +983,6 @@
         <source></source>
         <translation>無法寫入檔案 %1：%2。</translation>
     </message>
-    <message id="ERROR_SOURCES_FILE_NOT_TRIED">
-        <source></source>
-        <translation>檔案 %1 不存在、無法讀取或過大。</translation>
-    </message>
     <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
         <source></source>
         <translation>鑰匙圈發生錯誤：%1</translation>
@@ -2847,6 +2843,10 @@
     <message id="TERMINAL_TRIAL_TITLE">
         <source></source>
         <translation>前幾則新聞的顯示方式</translation>
+    </message>
+    <message id="TERMINAL_TRIAL_TOO_OLD">
+        <source></source>
+        <translation>有回應；其中 %1 則新聞都早於收取範圍。</translation>
     </message>
     <message id="TERMINAL_TRIAL_TOPIC">
         <source></source>
