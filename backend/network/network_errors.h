@@ -94,6 +94,8 @@ inline constexpr ErrorCode clockOff{"ERROR_NETWORK_CLOCK_OFF",
                                     u"The clocks of %1 and of this machine are %2 minutes apart."};
 inline constexpr ErrorCode mappingMissing{"ERROR_NETWORK_MAPPING_MISSING",
                                           u"The mapping “%1” of the source cannot be used: %2"};
+inline constexpr ErrorCode streamsNotRead{"ERROR_NETWORK_STREAMS_NOT_READ",
+                                          u"Streams are not read by this version; nothing was dialled."};
 inline constexpr ErrorCode otherFormat{"ERROR_NETWORK_OTHER_FORMAT",
                                        u"The answer is %1, not what the source is said to give."};
 

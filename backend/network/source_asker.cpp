@@ -3,11 +3,21 @@
 #include "backend/network/source_asker.h"
 
 #include "backend/network/answer_reading.h"
+#include "backend/network/network_errors.h"
 #include "backend/network/source_request.h"
 #include "backend/worker_thread.h"
 #include "host/contract/clock.h"
 
 namespace wirepane {
+
+namespace {
+
+bool isStream(const NetworkSource& source) {
+    return source.kind == NetworkKind::EventStream || source.kind == NetworkKind::WebSocket ||
+           source.address.scheme().startsWith(u"ws");
+}
+
+}  // namespace
 
 class NetworkAsker::Threads {
 public:
@@ -22,6 +32,12 @@ public:
     Threads& operator=(const Threads&) = delete;
 
     void ask(const SourceQuestion& question, const Answered& answered) {
+        if (isStream(question.source)) {
+            HttpAnswer none;
+            none.fault = makeError<network_errors::streamsNotRead>();
+            reader.post([this, source = question.source, answered, none] { read(source, none, answered); });
+            return;
+        }
         if (question.source.address.isLocalFile()) {
             reader.post([this, question, answered] {
                 const QString path = question.source.address.toLocalFile();

@@ -847,6 +847,10 @@
         <source></source>
         <translation>%1 gives an answer that is no news (status %2).</translation>
     </message>
+    <message id="ERROR_NETWORK_STREAMS_NOT_READ">
+        <source></source>
+        <translation>Streams are not read by this version; nothing was dialled.</translation>
+    </message>
     <message id="ERROR_NETWORK_TIMED_OUT">
         <source></source>
         <translation>The answer of %1 was not complete after %2 seconds.</translation>

@@ -847,6 +847,10 @@
         <source></source>
         <translation>%1 的回应不是新闻（状态 %2）。</translation>
     </message>
+    <message id="ERROR_NETWORK_STREAMS_NOT_READ">
+        <source></source>
+        <translation>此版本尚不读取流；未进行任何连接。</translation>
+    </message>
     <message id="ERROR_NETWORK_TIMED_OUT">
         <source></source>
         <translation>%1 的回应在 %2 秒后仍不完整。</translation>

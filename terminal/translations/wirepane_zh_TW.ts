@@ -847,6 +847,10 @@
         <source></source>
         <translation>%1 的回應不是新聞（狀態 %2）。</translation>
     </message>
+    <message id="ERROR_NETWORK_STREAMS_NOT_READ">
+        <source></source>
+        <translation>此版本尚不讀取串流；未進行任何連線。</translation>
+    </message>
     <message id="ERROR_NETWORK_TIMED_OUT">
         <source></source>
         <translation>%1 的回應在 %2 秒後仍不完整。</translation>
