@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 namespace {
 
-constexpr HttpLimits small{.body = 200'000, .redirects = 3, .quietMs = 400, .totalMs = 1200};
+constexpr HttpLimits small{.body = 200'000, .redirects = 3, .quietMs = 1500, .totalMs = 3000};
 
 HttpRequest typed(const QUrl& address) {
     HttpRequest request;
