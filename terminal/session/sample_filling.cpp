@@ -16,7 +16,7 @@ namespace wirepane {
 
 namespace {
 
-constexpr std::int64_t progressEvery = 1000;  // items
+constexpr std::int64_t progressEvery = 250;  // items
 
 // Takes items into a store, and counts.
 class Filling {
