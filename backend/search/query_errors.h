@@ -44,8 +44,6 @@ inline constexpr ErrorCode tooMany{
     u"The query asks for too much from character %1 on (\"%2\"): at most 200 texts and fields."};
 inline constexpr ErrorCode tooDeep{
     "ERROR_QUERY_TOO_DEEP", u"The bracket %2 at character %1 lies too deep: at most 20 within one another."};
-inline constexpr ErrorCode notInKeySet{"ERROR_QUERY_NOT_IN_KEY_SET",
-                                       u"\"%2\" at character %1 cannot be used for headlines as they come."};
 
 }  // namespace query_errors
 

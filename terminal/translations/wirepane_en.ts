@@ -891,10 +891,6 @@
         <source></source>
         <translation>"%2" at character %1 names no number of words from 0 to 1000, as in NEAR/5.</translation>
     </message>
-    <message id="ERROR_QUERY_NOT_IN_KEY_SET">
-        <source></source>
-        <translation>"%2" at character %1 cannot be used for headlines as they come.</translation>
-    </message>
     <message id="ERROR_QUERY_OPEN_BRACKET">
         <source></source>
         <translation>The bracket %2 at character %1 is never closed.</translation>

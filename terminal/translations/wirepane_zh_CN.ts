@@ -891,10 +891,6 @@
         <source></source>
         <translation>第 %1 个字符的“%2”在斜线后需要 0 到 1000 的字数。</translation>
     </message>
-    <message id="ERROR_QUERY_NOT_IN_KEY_SET">
-        <source></source>
-        <translation>第 %1 个字符的“%2”不能用于即时进来的标题。</translation>
-    </message>
     <message id="ERROR_QUERY_OPEN_BRACKET">
         <source></source>
         <translation>第 %1 个字符的括号 %2 没有结束。</translation>

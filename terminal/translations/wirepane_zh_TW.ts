@@ -891,10 +891,6 @@
         <source></source>
         <translation>第 %1 個字元的「%2」在斜線後需要 0 到 1000 的字數。</translation>
     </message>
-    <message id="ERROR_QUERY_NOT_IN_KEY_SET">
-        <source></source>
-        <translation>第 %1 個字元的「%2」不能用於即時進來的標題。</translation>
-    </message>
     <message id="ERROR_QUERY_OPEN_BRACKET">
         <source></source>
         <translation>第 %1 個字元的括號 %2 沒有結束。</translation>

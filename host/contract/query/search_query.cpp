@@ -395,7 +395,7 @@ constexpr std::array<QLatin1StringView, std::size_t(Fault::Count)> faultKeys{
     QLatin1StringView("ERROR_QUERY_DAY"),           QLatin1StringView("ERROR_QUERY_NEAR"),
     QLatin1StringView("ERROR_QUERY_NEAR_NUMBER"),   QLatin1StringView("ERROR_QUERY_OPERATOR_WORD"),
     QLatin1StringView("ERROR_QUERY_TOO_LONG"),      QLatin1StringView("ERROR_QUERY_TOO_MANY"),
-    QLatin1StringView("ERROR_QUERY_TOO_DEEP"),      QLatin1StringView("ERROR_QUERY_NOT_IN_KEY_SET")};
+    QLatin1StringView("ERROR_QUERY_TOO_DEEP")};
 
 }  // namespace
 

@@ -57,7 +57,6 @@ enum class QueryFaultKind {
     TooLong,
     TooMany,
     TooDeep,
-    NotInKeySet,
     Count
 };
 
