@@ -152,7 +152,7 @@ private:
 };
 
 int makeStore(const QStringList& arguments) {
-    if (arguments.size() < 2) {
+    if (arguments.size() < 2 || arguments[1].startsWith(u'-')) {
         std::fputs("make_store FILE [STORIES [STORIES_A_DAY]]\n", stderr);
         return 1;
     }
