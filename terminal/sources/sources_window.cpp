@@ -69,10 +69,12 @@ SourcesWindow::SourcesWindow(SourceDesk& sourceDesk, SourceTrial& sourceTrial, S
     connect(list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &SourcesWindow::showCurrent);
     connect(&desk, &SourceDesk::changed, this, &SourcesWindow::showList);
-    connect(&desk, &SourceDesk::trouble, this,
-            [this](const Error& error) { counts->setText(shownText(error)); });
+    connect(&desk, &SourceDesk::trouble, this, [this](const Error& error) { tell(shownText(error)); });
     auto* ticking = new QTimer(this);
-    connect(ticking, &QTimer::timeout, model, &SourceModel::refresh);
+    connect(ticking, &QTimer::timeout, this, [this] {
+        model->refresh();
+        showCounts();
+    });
     ticking->start(period);
     retranslate();
     showList();
@@ -224,6 +226,10 @@ void SourcesWindow::showList() {
         model->show(desk.sources());
     }
     select(name);
+    showCounts();
+}
+
+void SourcesWindow::showCounts() {
     counts->setText(
         model->countFaulty() == 0
             ? terminalText(TextId::SourcesCount).arg(model->countOn())

@@ -40,6 +40,7 @@ private:
     QTreeView* makeList();
     const ListedSource* current() const;
     void showList();
+    void showCounts();
     void showCurrent();
     void select(const QString& name);
     void add();
