@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/service_menu.h"
 
+#include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/fixed_services.h"
@@ -11,6 +13,7 @@
 #include "news_view/news_services.h"
 #include "news_view/view_context.h"
 
+#include <map>
 #include <utility>
 
 namespace wirepane {
@@ -73,11 +76,30 @@ void ServiceMenu::popUp() {
             addWholeChoice();
         all->setText(langText(parts.backEnd, keys::allServices));
         hint->setText(langText(parts.backEnd, keys::onlyThisService));
+        showCounts();
     }
     menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
     // Where Space ticks, it has something to tick from the start.
     if (calls.staysOpen() && !menu->isEmpty())
         menu->setActiveAction(menu->actions().front());
+}
+
+// Beside each service, how many of its headlines the list has.
+void ServiceMenu::showCounts() {
+    std::map<unsigned char, int> counts;
+    const HeadlineTable& table = context.listOf(context.shownList()).headlineTable();
+    for (int row = 0; row < table.size(); ++row)
+        ++counts[table.at(row).service];
+    const auto& services = parts.services.currentServices();
+    const QList<QAction*> actions = menu->actions();
+    for (QAction* action : actions) {
+        if (!action->isCheckable())
+            continue;
+        const auto service = static_cast<std::size_t>(action->data().toInt() - ids::firstServiceCommand);
+        const int count = counts[services.at(service).service];
+        action->setText(action->text().section(u'\t', 0, 0) + u'\t' +
+                        (count > 0 ? QString::number(count) : QString()));
+    }
 }
 
 void ServiceMenu::toggle(int command) {

@@ -34,6 +34,7 @@ public:
     void toggle(int command);
     // What is ticked, and whether that can be changed, has changed.
     void showTicks();
+    void showCounts();
 
 private:
     bool standsFast() const;

@@ -69,6 +69,10 @@ TEST_F(KeyboardSession, SpaceTicksTheFirstServiceOfTheListThatF7Opens) {
     script.result(u"view.open"_s, QJsonObject{{u"own"_s, true}});
     const auto isTicked = [this] { return state(u"services"_s)[0][u"selected"_s].toBool(); };
     ASSERT_TRUE(isTicked());
+    const QJsonArray entries =
+        script.result(u"menu.open"_s, QJsonObject{{u"id"_s, ids::serviceButton}})[u"items"_s].toArray();
+    EXPECT_TRUE(entries[0][u"text"_s].toString().endsWith(u"\t6"_s)) << "the headlines of the first";
+    script.result(u"menu.choose"_s, QJsonObject{{u"id"_s, QJsonValue()}});
     for (const bool ticked : {false, true}) {
         key(u"F7"_s);
         key(u"Space"_s);
