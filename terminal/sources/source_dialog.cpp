@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -61,6 +62,16 @@ QFormLayout* formOn(QWidget* page) {
     return form;
 }
 
+// On a low screen a page scrolls, so that the buttons stay in sight.
+QScrollArea* scrolled(QWidget* page) {
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(page);
+    return area;
+}
+
 }  // namespace
 
 SourceDialog::SourceDialog(const NetworkSource& source, SourceSecret secret, SourceTrial& sourceTrial,
@@ -69,10 +80,10 @@ SourceDialog::SourceDialog(const NetworkSource& source, SourceSecret secret, Sou
     setWindowTitle(terminalText(source.name.isEmpty() ? TextId::SourceAddTitle : TextId::SourceEditTitle));
     auto* pages = new QTabWidget;
     pages->setAccessibleName(windowTitle());
-    pages->addTab(generalPage(), terminalText(TextId::SourceGeneral));
-    pages->addTab(accessPage(), terminalText(TextId::SourceAccess));
+    pages->addTab(scrolled(generalPage()), terminalText(TextId::SourceGeneral));
+    pages->addTab(scrolled(accessPage()), terminalText(TextId::SourceAccess));
     pages->setSizePolicy(QSizePolicy::Preferred,
-                         QSizePolicy::Fixed);  // what a trial shows takes none of its room
+                         QSizePolicy::Maximum);  // what a trial shows takes none of its room
     trialView = new TrialView;
     QDialogButtonBox* buttons = dialogButtons(*this);
     buttons->button(QDialogButtonBox::Ok)
