@@ -31,6 +31,13 @@ std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
     return copies;
 }
 
+std::array<int, 256> HeadlineTable::countsOfServices() const {
+    std::array<int, 256> counts{};
+    for (int row = 0; row < size(); ++row)
+        ++counts[at(row).service];
+    return counts;
+}
+
 int HeadlineTable::rowOf(const HeadlineKey& key) const {
     if (!indexed)
         return rowInOrder(key);

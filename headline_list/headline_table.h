@@ -8,6 +8,7 @@
 #include "host/contract/local_days.h"
 #include "host/contract/records.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <unordered_set>
@@ -38,6 +39,8 @@ public:
 
     // The entry of a row in [0, size()).
     const CHeadlineTable& at(int row) const { return entries.at(row); }
+    // How many entries each service has. Looks at all of them.
+    std::array<int, 256> countsOfServices() const;
     // The entry of any row; nothing when there is no such row.
     std::optional<CHeadlineTable> entryAt(int row) const;
 

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/service_menu.h"
 
-#include "headline_list/headline_list.h"
-#include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/fixed_services.h"
@@ -13,7 +11,6 @@
 #include "news_view/news_services.h"
 #include "news_view/view_context.h"
 
-#include <map>
 #include <utility>
 
 namespace wirepane {
@@ -86,10 +83,7 @@ void ServiceMenu::popUp() {
 
 // Beside each service, how many of its headlines the list has.
 void ServiceMenu::showCounts() {
-    std::map<unsigned char, int> counts;
-    const HeadlineTable& table = context.listOf(context.shownList()).headlineTable();
-    for (int row = 0; row < table.size(); ++row)
-        ++counts[table.at(row).service];
+    const std::array<int, 256> counts = calls.counts();
     const auto& services = parts.services.currentServices();
     const QList<QAction*> actions = menu->actions();
     for (QAction* action : actions) {

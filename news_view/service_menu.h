@@ -4,6 +4,7 @@
 
 #include "news_view/common_parts.h"
 
+#include <array>
 #include <functional>
 #include <memory>
 
@@ -21,6 +22,7 @@ public:
         std::function<void(int)> command;
         std::function<void()> ticksChanged;  // lists are to be read anew, registrations brought in line
         std::function<bool()> staysOpen = [] { return false; };  // while ticking
+        std::function<std::array<int, 256>()> counts = {};  // headlines of each service in the shown list
     };
     ServiceMenu(ViewContext& context, const CommonParts& parts, Calls calls);
     ~ServiceMenu();
@@ -34,9 +36,9 @@ public:
     void toggle(int command);
     // What is ticked, and whether that can be changed, has changed.
     void showTicks();
-    void showCounts();
 
 private:
+    void showCounts();
     bool standsFast() const;
     void addWholeChoice();
     // Ticks those services that `isWanted` says, at least one.

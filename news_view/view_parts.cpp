@@ -61,7 +61,8 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       sentAgain(*this, common, choices()),
       serviceMenu(*this, common,
                   {[this](int command) { view.onCommand(command); }, [this] { readForServices(); },
-                   [this] { return settings.options[ViewOption::KeepServicesOpen]; }}),
+                   [this] { return settings.options[ViewOption::KeepServicesOpen]; },
+                   [this] { return listOf(shownList()).headlineTable().countsOfServices(); }}),
       liveNews(*this, common, liveCalls()),
       emptyLists(*this, common, searches.desk(), emptyListCalls()) {
     lists.setOnRead([this] { placeNotices(); });

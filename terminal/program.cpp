@@ -34,10 +34,9 @@ struct Command {
 };
 
 constexpr Command commands[] = {
-    {"import", &runImport}, {"feed", &runFeed},           {"replay", &runReplay},
-    {"sample", &runSample}, {"check", &runCheck},         {"backup", &runBackup},
-    {"search", &runSearch}, {"export", &runExport, true}, {"trim", &runTrim},
-    {"source", &runSource},
+    {"import", &runImport}, {"feed", &runFeed},     {"replay", &runReplay}, {"sample", &runSample},
+    {"check", &runCheck},   {"backup", &runBackup}, {"search", &runSearch}, {"export", &runExport, true},
+    {"trim", &runTrim},     {"source", &runSource},
 };
 
 QtMessageHandler usualMessages = nullptr;

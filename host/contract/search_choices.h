@@ -23,12 +23,6 @@ enum class SearchScope : unsigned char {
     Both = 2,  // each keyword in the headline or in the story
 };
 
-// The language that a condition is written in (docs/search.md).
-enum class SearchLanguage : unsigned char {
-    Plain = 0,  // keywords, each of them plain text
-    Query = 1,  // one query
-};
-
 // What is told and typed for a method or a scope.
 template <class Number>
 struct SearchChoice {

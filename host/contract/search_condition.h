@@ -4,12 +4,21 @@
 
 #include "host/contract/export.h"
 #include "host/contract/records.h"
-#include "host/contract/search_choices.h"
 
 #include <QString>
 
 #include <cstdint>
 #include <vector>
+
+namespace wirepane {
+
+// The language that a condition is written in (docs/search.md).
+enum class SearchLanguage : unsigned char {
+    Plain = 0,  // keywords, each of them plain text
+    Query = 1,  // one query
+};
+
+}  // namespace wirepane
 
 // A search condition. The keywords keep their order of insertion. Those of a warning term may repeat, as its
 // user wrote them; others do not.
