@@ -104,7 +104,7 @@ bool XmlSource::advance() {
 }
 
 void XmlSource::raiseTooLong() {
-    xml.raiseError(u"a text is longer than %1 bytes"_s.arg(bytes.size()));
+    xml.raiseError(u"a text is longer than %1 bytes"_s.arg(bytes.most()));
 }
 
 bool XmlSource::enterChild() {
@@ -136,7 +136,7 @@ XmlSource::Content XmlSource::content() {
         } else if (xml.isEndElement() && depth > outside) {
             content.tagged += u"</" % xml.name() % u'>';
         }
-        if (std::max(content.text.size(), content.tagged.size()) > bytes.size())
+        if (std::max(content.text.size(), content.tagged.size()) > bytes.most())
             raiseTooLong();
     }
     return content;

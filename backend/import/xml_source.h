@@ -23,7 +23,7 @@ public:
     void open(QIODevice& device);
     void renew() { given = 0; }
     bool isUsedUp() const { return given >= ration; }
-    qint64 size() const { return ration; }
+    qint64 most() const { return ration; }
 
     bool isSequential() const override { return true; }
     bool atEnd() const override { return source->atEnd(); }

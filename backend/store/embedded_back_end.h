@@ -133,6 +133,8 @@ public:
     // A service starts a new news day: it is its current one until the present day is a later one, and the
     // receivers are told. A date that is none changes nothing here; it is told all the same.
     void startNewsDay(const CMarketStatus& status);
+    // Lets go what is in memory of the store's news; it is read again when it is asked for.
+    void forgetNews();
     // The current news day of every service is the present day again.
     void forgetNewsDays() { newsDays.forget(); }
     // Tells the receivers that the story of a headline has changed.
@@ -230,8 +232,6 @@ private:
     DayBounds newsRange();
     // Look-ups see what is in the store now; what is in memory of it follows.
     void moveOn();
-    // Forgets what is in memory of it.
-    void forgetNews();
     Result<TakeOutcome> takeOne(const std::function<Result<TakeOutcome>(StoreWriter&)>& take);
     // Work has been done.
     void note(const WorkReport& report);

@@ -37,10 +37,11 @@ constexpr int relationMode = static_cast<int>(ListIndex::Relation);
 constexpr int searchMode = static_cast<int>(ListIndex::Search);
 constexpr int warningMode = static_cast<int>(ListIndex::WarningTerm);
 
-CSearch conditionOf(const QString& word) {
+CSearch conditionOf(const QString& word, SearchLanguage language = SearchLanguage::Plain) {
     CSearch condition;
     condition.keywords = {word};
     condition.method = 1;
+    condition.language = language;
     return condition;
 }
 
@@ -255,9 +256,9 @@ void Desk::search(const QString& word) {
 }
 
 // A warning-term search follows the headlines of every service; so do the results that are compared.
-void Desk::askEveryService(const QString& word) {
+void Desk::askEveryService(const CSearch& condition) {
     for (const unsigned char service : WeekWire::services)
-        backEnd->BKQNEWS_bSearchNews(service, static_cast<int>(TableKind::Search), conditionOf(word));
+        backEnd->BKQNEWS_bSearchNews(service, static_cast<int>(TableKind::Search), condition);
 }
 
 void Desk::rebuildLists(const QDate& day) {
@@ -277,11 +278,12 @@ void Desk::rebuildLists(const QDate& day) {
     viewOf(desk::relating).InitialHeadlineTable(relationMode);
     viewOf(desk::searching).SwitchFunction(searchMode);
     search(searchWord);
-    askEveryService(searchWord);
+    askEveryService(
+        conditionOf(searchWord, SearchLanguage::Query));  // as typed into the box of a user's view
     settle();
     viewOf(desk::warning).SwitchFunction(warningMode);
     viewOf(desk::warning).OnDealsSearch();
-    askEveryService(desk::warningWord);
+    askEveryService(conditionOf(desk::warningWord));
     settle();
     for (const Place& place : views)
         place.view->SwitchFunction(allMode);

@@ -68,7 +68,7 @@ private:
     void open(int number, const QString& systemFolder);
     void tickKeySets();
     void search(const QString& word);
-    void askEveryService(const QString& word);
+    void askEveryService(const CSearch& condition);
     void awaitSearches();
     void letOtherSearchesGo();
 
