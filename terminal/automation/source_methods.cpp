@@ -7,6 +7,8 @@
 
 #include <QJsonArray>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -28,8 +30,17 @@ bool isWrong(const Params& params, const Reply& reply) {
     return params.error().has_value();
 }
 
-// The definition that the parameters are. Who names an address here has typed it.
-Result<NetworkSource> definedBy(const Params& params, const SplitAddress& split) {
+struct Defined {
+    NetworkSource source;
+    SourceSecret secret;
+};
+
+// What the parameters define; none: what is wrong with them is the answer. Who names an address here has
+// typed it.
+std::optional<Defined> defined(Params& params, const Reply& reply) {
+    const SplitAddress split = withoutSecrets(QUrl(params.text(u"address"_s), QUrl::StrictMode));
+    if (isWrong(params, reply))
+        return std::nullopt;
     QJsonObject definition = params.all();
     definition.remove(u"name"_s);
     definition.insert(u"address"_s, split.address.toString(QUrl::FullyEncoded));
@@ -38,7 +49,11 @@ Result<NetworkSource> definedBy(const Params& params, const SplitAddress& split)
         definition.insert(u"authorisation"_s, u"basic"_s);
         definition.insert(u"secret"_s, u"typed"_s);  // until it is kept
     }
-    return networkSource(definition);
+    const auto source = networkSource(definition);
+    if (source)
+        return Defined{source.value(), split.secret};
+    reply(RpcError{RpcCode::BadParameters, sentence(source.error())});
+    return std::nullopt;
 }
 
 }  // namespace
@@ -65,15 +80,10 @@ void SourceMethods::list(const Reply& reply) {
 }
 
 void SourceMethods::add(Params& params, const Reply& reply) {
-    const SplitAddress split = withoutSecrets(QUrl(params.text(u"address"_s), QUrl::StrictMode));
-    if (isWrong(params, reply))
+    const auto asked = defined(params, reply);
+    if (!asked)
         return;
-    const auto source = definedBy(params, split);
-    if (!source) {
-        reply(RpcError{RpcCode::BadParameters, sentence(source.error())});
-        return;
-    }
-    session.sources().desk().add(source.value(), split.secret, [reply](const Result<QString>& added) {
+    session.sources().desk().add(asked->source, asked->secret, [reply](const Result<QString>& added) {
         reply(added ? Answer(QJsonObject{{u"name"_s, added.value()}}) : Answer(refused(added.error())));
     });
 }
@@ -99,15 +109,10 @@ void SourceMethods::move(Params& params, const Reply& reply) {
 }
 
 void SourceMethods::test(Params& params, const Reply& reply) {
-    const SplitAddress split = withoutSecrets(QUrl(params.text(u"address"_s), QUrl::StrictMode));
-    if (isWrong(params, reply))
+    const auto asked = defined(params, reply);
+    if (!asked)
         return;
-    const auto source = definedBy(params, split);
-    if (!source) {
-        reply(RpcError{RpcCode::BadParameters, sentence(source.error())});
-        return;
-    }
-    session.sources().trial().start(source.value(), split.secret,
+    session.sources().trial().start(asked->source, asked->secret,
                                     [reply](const TrialReport& report) { reply(valueOf(report)); });
 }
 
