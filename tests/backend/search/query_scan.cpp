@@ -262,9 +262,9 @@ private:
                        (entry.topicId > 0 && isNumber(value, entry.topicId));
             };
         if (name == "service"_L1)
-            return [=, this, wanted = scan.joined(value)](const Entry& entry) {
+            return [=, &names = scan.serviceNames, wanted = scan.joined(value)](const Entry& entry) {
                 return isNumber(value, entry.service) ||
-                       (!wanted.isEmpty() && scan.serviceNames[entry.service].contains(wanted));
+                       (!wanted.isEmpty() && names[entry.service].contains(wanted));
             };
         return name == "symbol"_L1 ? symbol(value) : days(name, value);
     }
