@@ -3,6 +3,7 @@
 #include "backend/network/network_feed_source.h"
 
 #include "backend/network/network_errors.h"
+#include "backend/store/day_bounds.h"
 #include "host/contract/clock.h"
 
 #include <QJsonDocument>
@@ -19,11 +20,6 @@ namespace {
 
 constexpr std::size_t mostOfBatch = 500;              // items
 constexpr std::int64_t longestPlan = 2 * 86'400'000;  // ms; a clock that was set back is not waited for
-
-std::int64_t today() {
-    const QDate day = host_clock::today();
-    return day.year() * 10000 + day.month() * 100 + day.day();
-}
 
 QString positionText(const Validators& validators, qsizetype listed) {
     const QJsonObject json{{u"etag"_s, QString::fromLatin1(validators.etag)},
@@ -206,8 +202,9 @@ void NetworkFeedSource::acknowledge(const BatchOutcome& outcome) {
     if (batches.empty())
         return;
     batches.pop_front();
-    kept.items = kept.itemsOn(today()) + static_cast<int>(outcome.news);
-    kept.day = today();
+    const std::int64_t today = dayNumber(host_clock::today());
+    kept.items = kept.itemsOn(today) + static_cast<int>(outcome.news);
+    kept.day = today;
     hasChanged = true;
 }
 

@@ -135,6 +135,14 @@ Result<NetworkSource> networkSource(const QJsonObject& json) {
     return source;
 }
 
+bool isStream(NetworkKind kind) {
+    return kind == NetworkKind::EventStream || kind == NetworkKind::WebSocket;
+}
+
+bool isStream(const NetworkSource& source) {
+    return isStream(source.kind) || source.address.scheme().startsWith("ws"_L1);
+}
+
 Done checkedSource(const NetworkSource& source) {
     static constexpr std::array schemes{"http"_L1, "https"_L1, "ws"_L1, "wss"_L1, "file"_L1};
     const QString scheme = source.address.scheme();

@@ -74,6 +74,14 @@ inline constexpr int longestGreatestAge = 3660;  // days
 QJsonObject toJson(const NetworkSource& source);
 Result<NetworkSource> networkSource(const QJsonObject& json);
 
+// Whether its news comes by itself, over one connection, instead of being asked for.
+bool isStream(NetworkKind kind);
+// The same of a source whose address may say it, too.
+bool isStream(const NetworkSource& source);
+
+// What `secret` says while there is a secret that has no name yet, since it is not kept.
+inline constexpr QLatin1StringView secretToKeep("typed");
+
 // Why this definition cannot be used: an address that is none, of no known scheme or with a secret in it, a
 // number out of range, an authorisation without what it needs. The name is not looked at.
 Done checkedSource(const NetworkSource& source);

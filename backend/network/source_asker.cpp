@@ -10,15 +10,6 @@
 
 namespace wirepane {
 
-namespace {
-
-bool isStream(const NetworkSource& source) {
-    return source.kind == NetworkKind::EventStream || source.kind == NetworkKind::WebSocket ||
-           source.address.scheme().startsWith(u"ws");
-}
-
-}  // namespace
-
 class NetworkAsker::Threads {
 public:
     explicit Threads(const HttpLimits& bounds) : limits(bounds) {

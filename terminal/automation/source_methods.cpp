@@ -43,12 +43,9 @@ std::optional<Defined> defined(Params& params, const Reply& reply) {
         return std::nullopt;
     QJsonObject definition = params.all();
     definition.remove(u"name"_s);
-    definition.insert(u"address"_s, split.address.toString(QUrl::FullyEncoded));
-    definition.insert(u"typed"_s, true);
-    if (!split.secret.authorisation.isEmpty()) {
-        definition.insert(u"authorisation"_s, u"basic"_s);
-        definition.insert(u"secret"_s, u"typed"_s);  // until it is kept
-    }
+    const QJsonObject typed = typedDefinition(split);
+    for (auto field = typed.begin(); field != typed.end(); ++field)
+        definition.insert(field.key(), field.value());
     const auto source = networkSource(definition);
     if (source)
         return Defined{source.value(), split.secret};

@@ -113,15 +113,10 @@ void putOptions(const CommandArguments& arguments, QJsonObject& definition) {
 }
 
 Result<NetworkSource> defined(CommandArguments& arguments, const SplitAddress& split) {
-    QJsonObject definition{
-        {u"address"_s, split.address.toString(QUrl::FullyEncoded)},
-        {u"typed"_s, true},
-        {u"service"_s, qint64(arguments.number(u"service"_s, 1, 1, lastService))},
-        {u"interval"_s, qint64(arguments.number(u"interval"_s, 0, shortestInterval, longestInterval))}};
-    if (!split.secret.authorisation.isEmpty()) {
-        definition.insert(u"authorisation"_s, u"basic"_s);
-        definition.insert(u"secret"_s, u"typed"_s);  // until it is kept
-    }
+    QJsonObject definition = typedDefinition(split);
+    definition.insert(u"service"_s, qint64(arguments.number(u"service"_s, 1, 1, lastService)));
+    definition.insert(u"interval"_s,
+                      qint64(arguments.number(u"interval"_s, 0, shortestInterval, longestInterval)));
     putOptions(arguments, definition);
     return networkSource(definition);
 }

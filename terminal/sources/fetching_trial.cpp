@@ -22,11 +22,6 @@ TrialReport failed(const Error& fault) {
     return report;
 }
 
-bool isStream(const NetworkSource& source) {
-    return source.kind == NetworkKind::EventStream || source.kind == NetworkKind::WebSocket ||
-           source.address.scheme().startsWith(QLatin1StringView("ws"));
-}
-
 }  // namespace
 
 FetchingTrial::FetchingTrial(SecretStore& secretStore) : secrets(secretStore) {}
@@ -38,7 +33,7 @@ void FetchingTrial::start(const NetworkSource& source, const SourceSecret& secre
     teller = told;
     NetworkSource checked = source;
     if (!secret.isEmpty())
-        checked.secret = QStringLiteral("typed");  // it has no name before it is kept
+        checked.secret = secretToKeep;
     if (const Done sound = checkedSource(checked); !sound) {
         tell(failed(sound.error()));
     } else if (isStream(source)) {

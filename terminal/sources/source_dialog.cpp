@@ -316,9 +316,8 @@ void SourceDialog::followLink(int place) {
 void SourceDialog::accept() {
     takeAddress();
     NetworkSource wanted = source();
-    // What has been typed has no name before it is kept.
     if (!secret().isEmpty())
-        wanted.secret = u"typed"_s;
+        wanted.secret = secretToKeep;
     if (const Done sound = checkedSource(wanted); !sound)
         QMessageBox::warning(this, windowTitle(), shownText(sound.error()));
     else

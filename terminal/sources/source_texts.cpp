@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/sources/source_texts.h"
 
+#include "backend/store/day_bounds.h"
 #include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
 
@@ -22,10 +23,6 @@ constexpr int minute = 60;
 constexpr int second = 1000;  // milliseconds
 
 const QString nothing(1, QChar(0x2013));
-
-bool isStream(NetworkKind kind) {
-    return kind == NetworkKind::EventStream || kind == NetworkKind::WebSocket;
-}
 
 QString momentText(std::int64_t moment, std::int64_t now) {
     if (moment == 0)
@@ -150,8 +147,7 @@ SourceRow rowOf(const ListedSource& listed, const std::optional<SourceState>& li
     row.detail = QStringList{placeText(source), kindText(source.kind), intervalText(source)}.join(u" · "_s);
     row.last = momentText(listed.standing.lastSuccess, now);
     row.next = nextText(listed, now);
-    row.today = QLocale(QLocale::English)
-                    .toString(listed.standing.itemsOn(today.toString(u"yyyyMMdd"_s).toLongLong()));
+    row.today = QLocale(QLocale::English).toString(listed.standing.itemsOn(dayNumber(today)));
     row.delay = delayText(listed.standing.delay);
     row.icon = source.address.isLocalFile() ? LineIcon::Folder
                : isStream(source.kind)      ? LineIcon::Pipe

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/sources/source_values.h"
 
+#include "backend/store/day_bounds.h"
 #include "terminal/translations/shown_text.h"
 
 #include <QDateTime>
@@ -19,10 +20,18 @@ QString momentValue(std::int64_t moment) {
 
 }  // namespace
 
+QJsonObject typedDefinition(const SplitAddress& typed) {
+    QJsonObject definition{{u"address"_s, typed.address.toString(QUrl::FullyEncoded)}, {u"typed"_s, true}};
+    if (!typed.secret.authorisation.isEmpty()) {
+        definition.insert(u"authorisation"_s, u"basic"_s);
+        definition.insert(u"secret"_s, secretToKeep);
+    }
+    return definition;
+}
+
 QJsonObject valueOf(const ListedSource& listed) {
     const SourceStanding& standing = listed.standing;
-    QJsonObject stands{
-        {u"itemsToday"_s, standing.itemsOn(QDate::currentDate().toString(u"yyyyMMdd"_s).toLongLong())}};
+    QJsonObject stands{{u"itemsToday"_s, standing.itemsOn(dayNumber(QDate::currentDate()))}};
     for (const auto& [name, moment] :
          {std::pair(u"lastTry"_s, standing.lastTry), std::pair(u"lastSuccess"_s, standing.lastSuccess),
           std::pair(u"nextTry"_s, standing.nextTry)}) {
