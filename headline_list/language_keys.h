@@ -149,6 +149,7 @@ inline constexpr QLatin1StringView emptyNotFound{"IDS_NEWSCTRLVIEW_EMPTY_NOT_FOU
 // What controls without a text are called.
 inline constexpr QLatin1StringView nameOfModes{"IDS_NEWSCTRLVIEW_NAME_MODES"};
 inline constexpr QLatin1StringView allServices{"IDS_NEWSCTRLVIEW_STRING_ALL_SERVICES"};
+inline constexpr QLatin1StringView onlyThis{"IDS_NEWSCTRLVIEW_STRING_ONLY_THIS"};
 inline constexpr QLatin1StringView onlyThisService{"IDS_NEWSCTRLVIEW_STRING_ONLY_THIS_SERVICE"};
 inline constexpr QLatin1StringView today{"IDS_NEWSCTRLVIEW_STRING_TODAY"};
 inline constexpr QLatin1StringView yesterday{"IDS_NEWSCTRLVIEW_STRING_YESTERDAY"};

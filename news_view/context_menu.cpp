@@ -7,15 +7,60 @@
 #include "headline_list/language_keys.h"
 #include "host/controls/plain_caption.h"
 #include "host/views/news_control_ids.h"
+#include "news_view/command_keys.h"
 #include "news_view/list_notices.h"
 #include "news_view/view_context.h"
 
+#include <QKeySequence>
 #include <QWidget>
+
+#include <array>
 
 namespace wirepane {
 
-std::vector<MenuEntry> contextMenuEntries(const MenuSituation& situation, BKQuoteInterface& backEnd,
-                                          const std::vector<MenuEntry>& waiting, const ListNotices& notices) {
+namespace {
+
+// A line of the full menu, and the key that does the same.
+struct FullLine {
+    int command;  // 0: a separator
+    QLatin1StringView text;
+    QKeySequence::StandardKey platformKey = QKeySequence::UnknownKey;
+    bool ofRow = true;
+};
+
+constexpr std::array fullMenu{
+    FullLine{ids::copyRows, keys::storyCopy, QKeySequence::Copy},
+    FullLine{ids::openInWindow, keys::storyInWindow},
+    FullLine{ids::printNews, keys::printNews, QKeySequence::Print},
+    FullLine{ids::saveNews, keys::saveAsNews, QKeySequence::Save},
+    FullLine{0, {}},
+    FullLine{ids::recoverStory, keys::recoverStory},
+    FullLine{ids::recoverHeadlineTable, keys::recoverHeadlineList, QKeySequence::UnknownKey, false},
+    FullLine{ids::changeCategoryState, kindOf(HeadlineColumn::Category).menuKey, QKeySequence::UnknownKey,
+             false},
+};
+
+std::vector<MenuEntry> fullEntries(const MenuSituation& situation, BKQuoteInterface& backEnd) {
+    std::vector<MenuEntry> entries;
+    for (const FullLine& line : fullMenu) {
+        const bool isTold = line.command != ids::recoverHeadlineTable || situation.mode <= ListIndex::Symbol;
+        if (!isTold || (line.ofRow && !situation.onRow))
+            continue;
+        if (line.command == 0) {
+            entries.push_back({});
+            continue;
+        }
+        const QKeySequence key = line.platformKey == QKeySequence::UnknownKey
+                                     ? keyOfCommand(line.command)
+                                     : QKeySequence(line.platformKey);
+        const QString told = key.isEmpty() ? QString() : u'\t' + key.toString(QKeySequence::NativeText);
+        entries.push_back({line.command, langText(backEnd, line.text) + told, {}});
+    }
+    entries.back().checked = situation.showsCategory;
+    return entries;
+}
+
+std::vector<MenuEntry> plainEntries(const MenuSituation& situation, BKQuoteInterface& backEnd) {
     std::vector<MenuEntry> entries;
     const auto add = [&](QLatin1StringView key, int command) {
         entries.push_back({command, langText(backEnd, key), {}});
@@ -34,6 +79,15 @@ std::vector<MenuEntry> contextMenuEntries(const MenuSituation& situation, BKQuot
         add(keys::printNews, ids::printNews);
         add(keys::saveAsNews, ids::saveNews);
     }
+    return entries;
+}
+
+}  // namespace
+
+std::vector<MenuEntry> contextMenuEntries(const MenuSituation& situation, BKQuoteInterface& backEnd,
+                                          const std::vector<MenuEntry>& waiting, const ListNotices& notices) {
+    std::vector<MenuEntry> entries =
+        situation.isFull ? fullEntries(situation, backEnd) : plainEntries(situation, backEnd);
     entries.insert(entries.end(), waiting.begin(), waiting.end());
     for (const auto& [kind, text] : notices.inOrder()) {
         if (const int command = commandOf(kind); command != 0)

@@ -20,6 +20,7 @@ struct MenuSituation {
     bool onRow = false;           // it is asked for at a row of the grid
     bool showsCategory = false;   // the category column is shown
     bool hasStoryWindow = false;  // stories are shown in their window
+    bool isFull = false;          // ViewOption::RowMenu
 };
 
 // The lines of the menu: what can be done with the list and the row, with news that waits (`waiting`), and

@@ -86,7 +86,7 @@ constexpr std::array placements{
     Placement{ids::showTypeButton, &ViewLayout::showTypeButton},
     Placement{ids::serviceButton, &ViewLayout::serviceButton},
     Placement{ids::relationSearchButton, &ViewLayout::relationButton},
-    Placement{ids::warningSearchButton, &ViewLayout::relationButton},
+    Placement{ids::warningSearchButton, &ViewLayout::warningButton},
     Placement{ids::datePicker, &ViewLayout::datePicker},
     Placement{ids::categoryCombo, &ViewLayout::categoryCombo},
     Placement{ids::serviceCombo, &ViewLayout::serviceCombo},

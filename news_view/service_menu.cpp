@@ -37,7 +37,6 @@ void ServiceMenu::fill() {
 }
 
 void ServiceMenu::addWholeChoice() {
-    menu->setStaysOpen(true);
     menu->addSeparator();
     all = menu->addAction(QString());
     QObject::connect(all, &QAction::triggered, &parts.window,
@@ -74,6 +73,7 @@ void ServiceMenu::popUp() {
         all->setText(langText(parts.backEnd, keys::allServices));
         hint->setText(langText(parts.backEnd, keys::onlyThisService));
         showCounts();
+        menu->stayOpen(langText(parts.backEnd, keys::onlyThis));
     }
     menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
     // Where Space ticks, it has something to tick from the start.

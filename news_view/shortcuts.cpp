@@ -8,6 +8,7 @@
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/news_control_ids.h"
+#include "news_view/command_keys.h"
 #include "news_view/control_set.h"
 #include "news_view/story_stage.h"
 #include "news_view/view_context.h"
@@ -25,22 +26,6 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 namespace {
-
-// Commands by their shortcut; controls of the same number tell of it. Printing and saving have theirs in the
-// menus of the host.
-struct CommandKey {
-    QLatin1StringView key;
-    int id;
-};
-
-constexpr std::array commandKeys{
-    CommandKey{"F5"_L1, ids::recoverHeadlineTable}, CommandKey{"Shift+F5"_L1, ids::recoverStory},
-    CommandKey{"Ctrl+F5"_L1, ids::recoverHeadline}, CommandKey{"F7"_L1, ids::serviceButton},
-    CommandKey{"F9"_L1, ids::showTypeButton},       CommandKey{"Ctrl+E"_L1, ids::changeCategoryState},
-    CommandKey{"Alt+Left"_L1, ids::earlierDay},     CommandKey{"Alt+Right"_L1, ids::laterDay},
-    CommandKey{"Alt+Home"_L1, ids::presentDay},     CommandKey{"Alt+PgDown"_L1, ids::pageDownButton},
-    CommandKey{"Alt+PgUp"_L1, ids::pageUpButton},
-};
 
 // What is told of the shortcuts that are no commands.
 constexpr std::array otherHints{

@@ -64,6 +64,10 @@ void StoryDisplay::show() {
 }
 
 void StoryDisplay::openWindow() {
+    if (!paneShowsStories()) {
+        show();
+        return;
+    }
     const NewsStoryView* pane = around.stage.storyPane();
     TRVNewsStory* window = around.stage.dialogForNext();
     if (pane == nullptr || window == nullptr || !pane->headlinePointedAt())

@@ -61,7 +61,7 @@ public:
     // Shows the story of the shown list's focused row, unless the pane shows that row's already; without a
     // focused row the story goes.
     void show();
-    // Shows the pane's story in a window, too.
+    // Shows the pane's story in a window, too; without a pane that of the focused row.
     void openWindow();
     // The story of a list's new current row is shown in the pane, when the reader went there: not where the
     // current row went because its own has left, nor within `readInPlace`.

@@ -68,7 +68,7 @@ bool TRVNewsCtrlView::onCommand(int id) {
         (this->*command->carryOut)();
     else if (id >= ids::firstServiceCommand && id <= ids::lastServiceCommand)
         OnSelectCheckService(static_cast<unsigned int>(id));
-    else if (!parts->takeNoticeCommand(id) && !parts->takeDayCommand(id))
+    else if (!parts->takeNoticeCommand(id) && !parts->takeDayCommand(id) && !parts->takeRowCommand(id))
         return TRVQuoteBaseView::onCommand(id);
     return true;
 }

@@ -55,6 +55,8 @@ int layOutControls(const LayoutInput& in, const Frame& frame, int top, int botto
     };
     out.serviceButton = single ? QRect(x0, top, 0, bottom - top) : between(x0, top, a, bottom);
     out.relationButton = place(a + (in.aligned ? 4 : 2), std::max(unit, in.needs.relation));
+    // No list of services stands before it.
+    out.warningButton = in.aligned ? place(x0, std::max(unit, in.needs.relation)) : out.relationButton;
     out.datePicker = place(a + 4, std::max(dateWidth, in.needs.date));
     out.categoryCombo = place(a + 4, std::max(dateWidth + 20, in.needs.category));
     out.serviceCombo = place(a + 4, std::max(in.serviceComboText + in.captionButtonWidth, in.needs.market));

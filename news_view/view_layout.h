@@ -49,7 +49,8 @@ struct LayoutInput {
 // Where everything goes. An empty rectangle means: no room.
 struct ViewLayout {
     QRect tabStrip, showTypeButton;
-    QRect serviceButton, relationButton, datePicker, categoryCombo, serviceCombo, symbolCombo, searchEdit;
+    QRect serviceButton, relationButton, warningButton, datePicker, categoryCombo, serviceCombo, symbolCombo,
+        searchEdit;
     QRect searchButton, dealsButton;  // warning-term search takes the relation button's rectangle
     QRect pageDown, pageUp, saveAs, print;
     QRect grid;

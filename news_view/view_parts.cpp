@@ -189,9 +189,9 @@ void TRVNewsCtrlView::Parts::rowsReplaced(ListIndex list) {
 ContextMenu::Surroundings TRVNewsCtrlView::Parts::contextMenuSurroundings() {
     return {view, [this] { return view.titleHeight(); },
             [this](bool onRow) {
-                return contextMenuEntries(
-                    {modes.shown(), onRow, settings.showCategory, story.hasStoryWindow()}, backEnd,
-                    output.waitingCommands(), board.notices());
+                return contextMenuEntries({modes.shown(), onRow, settings.showCategory,
+                                           story.hasStoryWindow(), settings.options[ViewOption::RowMenu]},
+                                          backEnd, output.waitingCommands(), board.notices());
             }};
 }
 
@@ -371,6 +371,16 @@ QString TRVNewsCtrlView::Parts::shownSubject() {
 }
 
 // --- Days ---
+
+bool TRVNewsCtrlView::Parts::takeRowCommand(int id) {
+    if (id == ids::copyRows)
+        input.copyRows();
+    else if (id == ids::openInWindow)
+        story.openWindow();
+    else
+        return false;
+    return true;
+}
 
 bool TRVNewsCtrlView::Parts::takeDayCommand(int id) {
     if (id != ids::earlierDay && id != ids::laterDay && id != ids::presentDay)

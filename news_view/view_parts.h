@@ -98,6 +98,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     bool takeNoticeCommand(int id);
     // Whether it is a command of another day.
     bool takeDayCommand(int id);
+    bool takeRowCommand(int id);
     void goToDay(const QDate& day);
 
     // How mouse events come: by the view itself, handed on by a grid.

@@ -38,10 +38,11 @@ enum class ViewOption {
     TitleChips,             // the words of a flash or a correction at a title's head as a chip
     MarkArrivals,           // rows that have just come are tinted, and fade
     RowTips,                // tool tips of rows: title, service, topic, time with seconds, age
-    MovablePanes,           // the user can move the edges between list, story and quotes
-    RowAir,                 // what a row has over the height of its text; 0: rows of 16 pixels
-    HeadingHeight,          // of the band of column headings; 0: 16
-    RowGutter,              // before the first column's text
+    RowMenu,        // the menu of a row offers copying and a window, and tells the keys of all it offers
+    MovablePanes,   // the user can move the edges between list, story and quotes
+    RowAir,         // what a row has over the height of its text; 0: rows of 16 pixels
+    HeadingHeight,  // of the band of column headings; 0: 16
+    RowGutter,      // before the first column's text
     TypesetStory,   // stories are typeset, in a size of their own; what is awaited says so in its place
     StoryMenu,      // a story has a menu of its own
     StoryWindow,    // the story window has tools, lies beside its list, is kept open when it is pinned
@@ -78,6 +79,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::TitleChips, QLatin1StringView("TitleChips")},
     {ViewOption::MarkArrivals, QLatin1StringView("MarkArrivals")},
     {ViewOption::RowTips, QLatin1StringView("RowTips")},
+    {ViewOption::RowMenu, QLatin1StringView("RowMenu")},
     {ViewOption::MovablePanes, QLatin1StringView("MovablePanes")},
     {ViewOption::RowAir, QLatin1StringView("RowAir"), 32, 6},
     {ViewOption::HeadingHeight, QLatin1StringView("HeadingHeight"), 64, 22},

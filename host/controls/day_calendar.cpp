@@ -22,7 +22,10 @@ namespace {
 
 constexpr qreal corner = 4;
 constexpr qreal dotRadius = 1.5;
-constexpr qreal dotAbove = 4;  // the middle of the dot above the lower edge
+constexpr qreal dotAbove = 5;  // the middle of the dot above the lower edge
+constexpr int edge = 6;        // between the outline and what it holds
+constexpr int weeks = 6;
+constexpr int daysOfWeek = 7;
 
 }  // namespace
 
@@ -32,8 +35,10 @@ DayCalendar::DayCalendar(QWidget* parent)
     row->setContentsMargins(8, 6, 8, 8);
     row->addStretch(1);
     buttons->hide();
-    if (auto* column = qobject_cast<QBoxLayout*>(layout()))
+    if (auto* column = qobject_cast<QBoxLayout*>(layout())) {
+        column->setContentsMargins(edge, edge, edge, edge);
         column->addWidget(buttons);
+    }
     dress();
 }
 
@@ -59,19 +64,22 @@ void DayCalendar::clearDayButtons() {
         delete button;
 }
 
-// The base knows nothing of the buttons, which would take the room of the last weeks.
+// The base knows nothing of the buttons, which would take the room of the last weeks, nor of the dots, and
+// sets its days close together.
 QSize DayCalendar::minimumSizeHint() const {
-    QSize size = QCalendarWidget::minimumSizeHint();
+    const int line = fontMetrics().height();
+    QSize size = QCalendarWidget::minimumSizeHint() + QSize(2 * edge, 2 * edge + weeks * line / 2);
+    size.setWidth(qMax(size.width(), daysOfWeek * 2 * line + 2 * edge));
     if (!buttons->isHidden())
         size = QSize(qMax(size.width(), buttons->sizeHint().width()),
                      size.height() + buttons->sizeHint().height());
     return size;
 }
 
-// Weekends are days as all others, and the bar above them is no selection.
+// Weekends are days as all others, also in their headings, and the bar above them is no selection.
 void DayCalendar::dress() {
     QTextCharFormat plain;
-    plain.setForeground(palette().color(QPalette::Text));
+    plain.setForeground(palette().color(QPalette::PlaceholderText));
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
         setWeekdayTextFormat(day, plain);
     QTextCharFormat heading;
@@ -91,6 +99,14 @@ void DayCalendar::changeEvent(QEvent* event) {
     QCalendarWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && row != nullptr)
         dress();
+}
+
+// It lies over a list of much the same ground.
+void DayCalendar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Dark));
+    painter.setBrush(palette().color(QPalette::Window));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void DayCalendar::paintCell(QPainter* painter, const QRect& place, QDate date) const {

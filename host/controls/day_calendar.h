@@ -39,6 +39,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void paintCell(QPainter* painter, const QRect& place, QDate date) const override;
     void changeEvent(QEvent* event) override;
 

@@ -23,8 +23,8 @@ QString SButton::literalText() const {
 }
 
 int SButton::widthWithIcon() const {
-    constexpr int sideMargin = 6;
-    constexpr int gap = 4;
+    constexpr int sideMargin = 9;
+    constexpr int gap = 5;
     const int text = fontMetrics().size(Qt::TextShowMnemonic, this->text()).width();
     return 2 * sideMargin + iconSize().width() + gap + text;
 }

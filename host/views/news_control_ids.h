@@ -34,6 +34,9 @@ inline constexpr std::array noticeCommands{endNarrowing, readUnfiltered, searchA
 inline constexpr int earlierDay = 3019;  // the last one before the one that is shown
 inline constexpr int laterDay = 3020;    // the first one after it, else the present day
 inline constexpr int presentDay = 3021;
+// Of the rows; menu commands alone.
+inline constexpr int copyRows = 3022;      // the selected ones, as text
+inline constexpr int openInWindow = 3023;  // the story of the current one
 inline constexpr int tabStrip = 3100;
 inline constexpr int pageDownButton = 8067;
 inline constexpr int pageUpButton = 8068;

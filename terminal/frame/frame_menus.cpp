@@ -54,7 +54,7 @@ constexpr std::array newsEntries{
     Entry{FrameCommand::NewsToday, TextId::NewsToday, "Alt+Home"_L1, true, false, true},
     Entry{FrameCommand::NewsNextPage, TextId::NewsNextPage, "Alt+PgDown"_L1, true, true, true},
     Entry{FrameCommand::NewsPreviousPage, TextId::NewsPreviousPage, "Alt+PgUp"_L1, true, false, true},
-    Entry{FrameCommand::NewsOpenInWindow, TextId::NewsOpenInWindow, ""_L1, true},
+    Entry{FrameCommand::NewsOpenInWindow, TextId::NewsOpenInWindow, "Ctrl+Return"_L1, true, false, true},
     Entry{FrameCommand::NewsLayout, TextId::NewsLayout, "F9"_L1, true, true, true},
     Entry{FrameCommand::Sources, TextId::NewsSources, "Ctrl+Shift+O"_L1, false, true},
 };

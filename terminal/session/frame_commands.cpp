@@ -65,7 +65,7 @@ std::optional<int> commandOfView(FrameCommand command) {
         case FrameCommand::NewsLayout:
             return ids::showTypeButton;
         case FrameCommand::NewsOpenInWindow:
-            return ids::showStory;
+            return ids::openInWindow;
         default:
             return std::nullopt;
     }

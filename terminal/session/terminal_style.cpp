@@ -32,6 +32,7 @@ constexpr int comboTextMargin = 4;
 constexpr int arrowSide = 12;
 constexpr int calendarSide = 14;
 constexpr int menuBarPadding = 8;
+constexpr int menuAir = 4;  // what an entry has over what its text needs
 
 struct Metric {
     QStyle::PixelMetric metric;
@@ -175,6 +176,9 @@ QSize TerminalStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
     // The tab in front is written bolder than it has been measured.
     if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option); type == CT_TabBarTab && tab)
         return {std::max(asked.width(), tabWidth(*tab, widget->font())), asked.height()};
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (type == CT_MenuItem && entry != nullptr && entry->menuItemType != QStyleOptionMenuItem::Separator)
+        return asked + QSize(0, menuAir);
     if (type == CT_ComboBox)
         return asked + QSize(grownWithType(comboArrowWidth) - comboArrowWidth, 0);
     return asked;
@@ -299,14 +303,17 @@ void TerminalStyle::drawControl(ControlElement element, const QStyleOption* opti
     }
 }
 
-// The default button has its text on the accent.
+// The default button has its text on the accent. An icon stands a little off its text, both in the middle.
 void TerminalStyle::drawButtonLabel(const QStyleOption& option, QPainter& painter,
                                     const QWidget* widget) const {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
     const bool onAccent = button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton) &&
                           button->state.testFlag(State_Enabled);
     if (!onAccent) {
-        QProxyStyle::drawControl(CE_PushButtonLabel, &option, &painter, widget);
+        if (button != nullptr && !button->icon.isNull() && !button->text.isEmpty())
+            drawIconAndText(*button, painter);
+        else
+            QProxyStyle::drawControl(CE_PushButtonLabel, &option, &painter, widget);
         return;
     }
     const QColor text = roleColour(ColourRole::OnAccent, option.palette.color(QPalette::Base));
@@ -319,12 +326,34 @@ void TerminalStyle::drawButtonLabel(const QStyleOption& option, QPainter& painte
     painter.restore();
 }
 
+void TerminalStyle::drawIconAndText(const QStyleOptionButton& button, QPainter& painter) const {
+    constexpr int gap = 5;
+    const bool enabled = button.state.testFlag(State_Enabled);
+    const QSize text = button.fontMetrics.size(Qt::TextShowMnemonic, button.text);
+    QRect place(0, 0, button.iconSize.width() + gap + text.width(), button.rect.height());
+    place.moveCenter(button.rect.center());
+    const QRect icon = visualRect(button.direction, button.rect,
+                                  QRect(place.topLeft(), QSize(button.iconSize.width(), place.height())));
+    button.icon.paint(&painter, icon, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
+    const QRect words =
+        visualRect(button.direction, button.rect, place.adjusted(button.iconSize.width() + gap, 0, 0, 0));
+    drawItemText(&painter, words,
+                 Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine | Qt::TextDontClip,
+                 button.palette, enabled, button.text, QPalette::ButtonText);
+}
+
 void TerminalStyle::drawMenuEntry(ControlElement element, const QStyleOption& option, QPainter& painter,
                                   const QWidget* widget) const {
     const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(&option);
     if (entry == nullptr)
         return;
     painter.fillRect(option.rect, option.palette.color(QPalette::Window));
+    if (element == CE_MenuItem && entry->menuItemType == QStyleOptionMenuItem::Separator) {
+        const QRect& place = option.rect;
+        painter.fillRect(place.left(), place.center().y(), place.width(), 1,
+                         option.palette.color(QPalette::Mid));
+        return;
+    }
     QStyleOptionMenuItem plain(*entry);
     if (entry->state.testFlag(State_Selected) && entry->state.testFlag(State_Enabled)) {
         drawMenuMark(option, painter);
@@ -362,6 +391,12 @@ void TerminalStyle::drawComplexControl(ComplexControl control, const QStyleOptio
         drawArrow(isDate ? LineIcon::Calendar : LineIcon::Down, *option,
                   subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget).adjusted(0, 0, -2, 0),
                   grownWithType(isDate ? calendarSide : arrowSide), *painter);
+    } else if (const auto* tool = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+               control == CC_ToolButton && tool != nullptr) {
+        // That a menu opens needs no arrow in the corner of the words.
+        QStyleOptionToolButton plain(*tool);
+        plain.features &= ~QStyleOptionToolButton::HasMenu;
+        QProxyStyle::drawComplexControl(control, &plain, painter, widget);
     } else {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }

@@ -4,6 +4,8 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionButton;
+
 namespace wirepane {
 
 // How the terminal draws its controls: flat, in the palette's colours, with one thin line where something
@@ -30,6 +32,7 @@ public:
 
 private:
     void drawButtonLabel(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
+    void drawIconAndText(const QStyleOptionButton& button, QPainter& painter) const;
     void drawMenuEntry(ControlElement element, const QStyleOption& option, QPainter& painter,
                        const QWidget* widget) const;
     void drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;

@@ -1779,9 +1779,13 @@
         <source></source>
         <translation>Only the last </translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_ONLY_THIS">
+        <source></source>
+        <translation>Only this</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLY_THIS_SERVICE">
         <source></source>
-        <translation>Shift: only this one</translation>
+        <translation>Space ticks, Shift+Space: only this</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE">
         <source></source>

@@ -1779,9 +1779,13 @@
         <source></source>
         <translation>只能选择最近 </translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_ONLY_THIS">
+        <source></source>
+        <translation>只选这个</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLY_THIS_SERVICE">
         <source></source>
-        <translation>Shift：只选这一个</translation>
+        <translation>空格键勾选，Shift+空格键只选这个</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE">
         <source></source>

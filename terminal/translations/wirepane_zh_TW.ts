@@ -1779,9 +1779,13 @@
         <source></source>
         <translation>只能選擇最近 </translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_ONLY_THIS">
+        <source></source>
+        <translation>只選這個</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLY_THIS_SERVICE">
         <source></source>
-        <translation>Shift：只選這一個</translation>
+        <translation>空白鍵勾選，Shift+空白鍵只選這個</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE">
         <source></source>

@@ -151,6 +151,12 @@ TEST(ContextMenu, OffersWhatThePlaceAllows) {
          {},
          {5061, 0, 2053, 2051, 9270, 9271, 9272}},
         {"the last list with a table", {.mode = ListIndex::Symbol}, {}, {}, {5061, 0, 2053}},
+        {"the full menu on a row",
+         {.onRow = true, .isFull = true},
+         {waiting},
+         {},
+         {ids::copyRows, ids::openInWindow, 9271, 9272, 0, 2051, 2053, 5061, ids::stopWaiting}},
+        {"the full menu of a search", {.mode = ListIndex::Search, .isFull = true}, {}, {}, {5061}},
         {"a search", {.mode = ListIndex::Search, .onRow = true}, {}, {}, {5061, 2051, 9271, 9272}},
         {"warrants", {.mode = ListIndex::Warrant}, {}, {}, {5061}},
         {"news that waits", {.mode = ListIndex::Search}, {waiting}, {}, {5061, ids::stopWaiting}},
@@ -166,7 +172,10 @@ TEST(ContextMenu, OffersWhatThePlaceAllows) {
             for (const MenuEntry& entry : entries)
                 commands.append(entry.command);
             EXPECT_EQ(commands, c.commands) << c.what;
-            EXPECT_EQ(entries.front().checked, shown) << c.what;
+            const auto& category =
+                entries.at(static_cast<std::size_t>(commands.indexOf(ids::changeCategoryState)));
+            EXPECT_EQ(category.checked, shown) << c.what;
+            EXPECT_EQ(category.caption.endsWith(u"\tCtrl+E"_s), at.isFull) << c.what;
         }
     }
     const std::vector<MenuEntry> entries = contextMenuEntries({}, backEnd, {}, narrowed);
