@@ -29,6 +29,8 @@ struct NewsItem {
     QString category;                  // name of its category; empty: none. The store gives each name an id
     std::vector<CSymbolInfo> related;  // the first is the main symbol; market 0: not known
     QString link;                      // where its publisher shows it; empty: not known
+    std::optional<QString> withdrawn;  // its publisher takes it back: why, as far as it says. Title and story
+                                       // may be empty then: those that were there stay
 
     std::optional<std::int32_t>
         sequence;  // given by a feed that numbers its headlines; else the store numbers

@@ -98,6 +98,13 @@ void Query::bind(int index, QByteArrayView utf8) {
     }
 }
 
+void Query::bind(int index, const std::optional<QByteArrayView>& utf8) {
+    if (utf8)
+        bind(index, *utf8);
+    else if (!broken)
+        sqlite3_bind_null(running, index);
+}
+
 void Query::bind(int index, double value) {
     if (!broken)
         sqlite3_bind_double(running, index, value);

@@ -8,6 +8,7 @@
 #include <concepts>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 struct sqlite3_stmt;
 
@@ -67,6 +68,8 @@ private:
     }
     void bind(int index, const QString& value);
     void bind(int index, QByteArrayView utf8);
+    // Nothing: null.
+    void bind(int index, const std::optional<QByteArrayView>& utf8);
     void bind(int index, double value);
     void bindNumber(int index, std::int64_t value);
 

@@ -46,7 +46,9 @@ Result<StoreItem> itemFrom(const QJsonObject& object) {
     item.service = static_cast<unsigned char>(fields.number(u"service"_s, 1, lastId));
     item.identity = fields.text(u"identity"_s);
     item.time = fields.number(u"time"_s, firstNewsTime, lastNewsTime);
-    item.title = fields.text(u"title"_s);
+    item.withdrawn = fields.optionalText(u"withdrawn"_s);
+    item.title =
+        item.withdrawn ? fields.optionalText(u"title"_s).value_or(QString()) : fields.text(u"title"_s);
     if (const auto version = fields.optionalNumber(u"version"_s, -mostNumber - 1, mostNumber))
         item.version = static_cast<int>(*version);
     if (const auto sequence = fields.optionalNumber(u"sequence"_s, -mostNumber - 1, mostNumber))

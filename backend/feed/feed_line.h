@@ -22,7 +22,8 @@ struct FeedRecord {
 //   {"source": NAME, "service": ID}       the handshake, as the first line
 //   {"ninjs": RECORD, "position": TEXT}   a record and its position
 //   {"item": ITEM, "position": TEXT}      news as a store holds it: service, identity, version, time, title,
-//                                         story, category, related [{market, code}], sequence
+//                                         story, category, related [{market, code}], sequence,
+//                                         withdrawn (the reason; then title and story may be missing)
 //   {"quote": QUOTE, "position": TEXT}    what a symbol trades at: market, code, last, change, volume
 //   {"symbol": SYMBOL, "position": TEXT}  an entry of the symbol table: market, code, name, category,
 //                                         english

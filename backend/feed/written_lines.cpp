@@ -31,6 +31,8 @@ QByteArray lineOf(const NewsItem& item, const QString& position) {
         object[u"storyFollows"_s] = true;
     else if (!item.story->isEmpty())
         object[u"story"_s] = *item.story;
+    if (item.withdrawn)
+        object[u"withdrawn"_s] = *item.withdrawn;
     if (item.sequence)
         object[u"sequence"_s] = *item.sequence;
     QJsonArray related;

@@ -37,8 +37,12 @@ int versionOf(QStringView stated, std::int64_t time) {
     return int(std::clamp<std::int64_t>(time, 0, std::numeric_limits<int>::max()));
 }
 
+bool isWithdrawal(const QString& status) {
+    return status == "canceled"_L1;
+}
+
 std::optional<Error> notForPublication(const QString& status, QLatin1StringView field) {
-    if (status.isEmpty() || status == "usable"_L1)
+    if (status.isEmpty() || status == "usable"_L1 || isWithdrawal(status))
         return std::nullopt;
     return makeError<import_errors::notForPublication>(field, titleLine(status.left(longestQuote)));
 }

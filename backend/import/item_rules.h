@@ -21,8 +21,11 @@ std::optional<Error> faultOfIdentity(const QString& identity, Phrase what);
 // A later version must have a greater number: that which `stated` starts with, else the item's time.
 int versionOf(QStringView stated, std::int64_t time);
 
+// Whether an item of this publication status takes back what was sent before.
+bool isWithdrawal(const QString& status);
+
 // Why an item of this publication status may not be shown. `field` is what the format calls the status; an
-// empty one is "usable".
+// empty one is "usable". A withdrawal may be shown.
 std::optional<Error> notForPublication(const QString& status, QLatin1StringView field);
 
 // Why an item may not be shown before `until`; a text that is not a time holds it back for good.

@@ -95,8 +95,10 @@ public:
         item.service = service;
         item.identity = guid;
         const QString text = wireForm(!story.text.isEmpty() ? story.text : description.value());
-        item.title = titleOf(text);
-        if (item.title.isEmpty())
+        if (isWithdrawal(status))
+            item.withdrawn = titleLine(note);
+        item.title = item.withdrawn ? statedTitle() : titleOf(text);
+        if (item.title.isEmpty() && !item.withdrawn)
             return makeError<import_errors::itemWithoutHeadline>();
         const Result<std::int64_t> stated = time();
         if (!stated)
@@ -131,6 +133,10 @@ private:
             return takeTime(name);
         if (name == "embargoed"_L1) {
             embargo = cleanLine(xml.content().text);
+            return;
+        }
+        if (name == "edNote"_L1) {
+            note = textOfUnknownForm(xml.content().text.trimmed());
             return;
         }
         if (name == "itemClass"_L1)
@@ -213,12 +219,18 @@ private:
         return embargo ? underEmbargo(*embargo, "embargoed"_L1) : std::nullopt;
     }
 
-    // A picture is not told by its caption alone.
-    QString titleOf(const QString& text) const {
+    QString statedTitle() const {
         for (const QString& candidate : {headline.value(), story.headline, title.value()}) {
-            if (const QString line = titleLine(candidate); !line.isEmpty())
+            if (QString line = titleLine(candidate); !line.isEmpty())
                 return line;
         }
+        return {};
+    }
+
+    // A picture is not told by its caption alone.
+    QString titleOf(const QString& text) const {
+        if (QString stated = statedTitle(); !stated.isEmpty())
+            return stated;
         const bool isText = itemClass.isEmpty() || itemClass == "text"_L1 || itemClass == "composite"_L1;
         if (!isText)
             return {};
@@ -249,6 +261,7 @@ private:
     QString vocabulary;
     QString itemClass;
     QString status;
+    QString note;
     std::optional<QString> embargo;
     std::map<QString, QString, std::less<>> times;
     Preferred headline;

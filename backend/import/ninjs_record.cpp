@@ -156,11 +156,13 @@ Result<NewsItem> ninjsItem(QByteArrayView record, unsigned char service) {
     const QString description = bestText(fields.family("description"_L1));
     item.title = firstOf({titleLine(fields.text("headline"_L1)), mainLine(fields.family("headline"_L1)),
                           titleLine(fields.text("title"_L1))});
+    if (isWithdrawal(fields.text("pubstatus"_L1)))
+        item.withdrawn = titleLine(fields.text("ednote"_L1));
     const QString type = fields.text("type"_L1);
-    if (item.title.isEmpty() && (type.isEmpty() || type == "text"_L1))
+    if (item.title.isEmpty() && !item.withdrawn && (type.isEmpty() || type == "text"_L1))
         item.title = firstOf(
             {titleFromStory(body), titleFromStory(description), titleLine(fields.text("slugline"_L1))});
-    if (item.title.isEmpty())
+    if (item.title.isEmpty() && !item.withdrawn)
         return makeError<import_errors::recordWithoutTitle>();
 
     const Result<std::int64_t> time = timeOf(fields);

@@ -27,6 +27,7 @@
 #include "host/contract/local_days.h"
 #include "host/contract/news_day_finder.h"
 #include "host/contract/news_positions.h"
+#include "host/contract/news_record.h"
 #include "host/contract/reading_moment.h"
 
 #include <QColor>
@@ -80,7 +81,8 @@ namespace wirepane {
 class EmbeddedBackEnd : public BKQuoteInterface,
                         public NewsPositions,
                         public ReadingMoment,
-                        public NewsDayFinder {
+                        public NewsDayFinder,
+                        public NewsRecord {
 public:
     // Opens the store, or makes it (see openStore). One that cannot be written to is read: it takes nothing
     // in.
@@ -151,6 +153,8 @@ public:
     // its market and its code, an entry its service, time and number, a search its keywords.
     std::vector<Request> takeRequests() { return requests.take(); }
     bool hasNewsOn(unsigned char service, const QDate& day) override;
+    NewsState newsState(const HeadlineKey& key) override { return reader.state(key); }
+    std::vector<NewsVersion> versionsOf(const HeadlineKey& key) override { return reader.versions(key); }
     // When the newest headline was dated that is there at the present moment; 0: there is none.
     std::int64_t newestTime();
     // A category by its id. Warrants number their categories for themselves: name their service for one of

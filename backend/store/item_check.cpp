@@ -70,6 +70,8 @@ NewsItem cleaned(const NewsItem& item) {
     clean.title = cleanTitle(item.title);
     if (item.story)
         clean.story = cleanStory(*item.story);
+    if (item.withdrawn)
+        clean.withdrawn = cleanTitle(item.withdrawn->left(limits::withdrawalLength));
     clean.category = cleanCategoryName(item.category);
     clean.related = cleanedSymbols(item.related);
     return clean;
@@ -109,7 +111,7 @@ std::optional<Error> faultOf(const NewsItem& item) {
         return makeError<store_errors::noIdentity>();
     if (item.identity.size() > limits::identityLength)
         return tooLong(makeError<store_errors::identity>(), item.identity.size(), limits::identityLength);
-    if (item.title.trimmed().isEmpty())
+    if (item.title.trimmed().isEmpty() && !item.withdrawn)
         return makeError<store_errors::titleEmpty>();
     if (item.title.size() > limits::titleLength)
         return tooLong(makeError<store_errors::title>(), item.title.size(), limits::titleLength);

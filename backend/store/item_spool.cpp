@@ -56,7 +56,7 @@ void pass(Stream&& each, Item& item) {
         each(item.market, item.code, item.last, item.change, item.volume);
     else
         each(item.service, item.identity, item.version, item.time, item.title, item.story, item.category,
-             item.sequence, item.categoryId);
+             item.link, item.withdrawn, item.sequence, item.categoryId);
 }
 
 void write(QDataStream& out, const StoreItem& item) {

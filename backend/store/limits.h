@@ -11,6 +11,9 @@ namespace wirepane::limits {
 
 inline constexpr qsizetype titleLength = 8192;
 inline constexpr qsizetype storyLength = qsizetype{4} * 1024 * 1024;
+inline constexpr int versions = 20;                          // of one piece of news, before the present one
+inline constexpr qsizetype versionLength = 4 * storyLength;  // of their stories together
+inline constexpr qsizetype withdrawalLength = 1024;          // a longer reason is cut
 inline constexpr qsizetype identityLength = 2048;
 inline constexpr qsizetype codeLength = 64;
 inline constexpr qsizetype symbolNameLength = 256;

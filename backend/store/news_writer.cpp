@@ -6,16 +6,27 @@
 
 namespace wirepane {
 
+namespace {
+
+std::optional<QByteArray> utf8Of(const std::optional<QString>& text) {
+    return text ? std::optional(text->toUtf8()) : std::nullopt;
+}
+
+}  // namespace
+
 NewsWriter::NewsWriter(Database& owner, const ImportBlocks& importBlocks)
     : database(owner),
       blocks(importBlocks),
+      versions(owner),
       findIdentity(owner,
                    "SELECT id, version, time, day, sequence, category, "
-                   "EXISTS(SELECT 1 FROM stories WHERE headline = all_headlines.id AND text <> '') "
+                   "EXISTS(SELECT 1 FROM stories WHERE headline = all_headlines.id AND text <> ''), "
+                   "EXISTS(SELECT 1 FROM withdrawals WHERE headline = all_headlines.id) "
                    "FROM all_headlines WHERE service = ? AND identity = ?"),
       findKey(owner,
               "SELECT id, version, time, day, sequence, category, "
-              "EXISTS(SELECT 1 FROM stories WHERE headline = headlines.id AND text <> '') "
+              "EXISTS(SELECT 1 FROM stories WHERE headline = headlines.id AND text <> ''), "
+              "EXISTS(SELECT 1 FROM withdrawals WHERE headline = headlines.id) "
               "FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),
       findNumber(
           owner,
@@ -32,6 +43,7 @@ NewsWriter::NewsWriter(Database& owner, const ImportBlocks& importBlocks)
       deleteHeadline(owner, "DELETE FROM all_headlines WHERE id = ?"),
       insertText(owner, "INSERT INTO stories(headline, text) VALUES(?, ?)"),
       deleteText(owner, "DELETE FROM stories WHERE headline = ?"),
+      readText(owner, "SELECT text FROM stories WHERE headline = ?"),
       insertRelated(owner,
                     "INSERT INTO related_symbols(headline, position, market, code, service, time, sequence) "
                     "VALUES(?, ?, ?, ?, ?, ?, ?)"),
@@ -56,8 +68,8 @@ std::optional<KnownNews> NewsWriter::known(Query& query, bool& failed) {
     failed = query.failed();
     if (!found)
         return std::nullopt;
-    return KnownNews{query.number(0),      query.smallNumber(1), query.number(2),     query.smallNumber(3),
-                     query.smallNumber(4), query.smallNumber(5), query.number(6) != 0};
+    return KnownNews{query.number(0),      query.smallNumber(1), query.number(2),      query.smallNumber(3),
+                     query.smallNumber(4), query.smallNumber(5), query.number(6) != 0, query.number(7) != 0};
 }
 
 bool NewsWriter::isFree(const NewsItem& item, std::int32_t day, std::int32_t sequence, std::int64_t exceptId,
@@ -74,13 +86,18 @@ bool NewsWriter::insert(const NewsItem& item, const NewsPlace& place) {
              .run())
         return false;
     written = database.lastInsertId();
-    return writeTexts(written, item.title, item.story) && writeRelated(written, item, place);
+    return writeTexts(written, item.title, utf8Of(item.story)) && writeRelated(written, item, place) &&
+           (!item.withdrawn || withdraw(written, item));
 }
 
 // The row gets an id that no row had before, so that an id stands for one service, time and number for good.
 bool NewsWriter::replace(std::int64_t id, const NewsItem& item, const NewsPlace& place) {
+    bool failed = false;
+    const bool keepsStory = item.withdrawn && item.story.value_or(QString()).isEmpty();
+    const std::optional<QByteArray> story = keepsStory ? storyOf(id, failed) : utf8Of(item.story);
     QString before;
-    if (!takeFromSearch(id, before) || !Query(deleteText, id).run() || !Query(deleteRelated, id).run())
+    if (failed || !versions.keep(id, item.title, story) || !versions.restore(id) ||
+        !takeFromSearch(id, before) || !Query(deleteText, id).run() || !Query(deleteRelated, id).run())
         return false;
     {
         Query query(updateHeadline, id, item.time, place.sequence, place.day, place.category, item.version,
@@ -91,7 +108,12 @@ bool NewsWriter::replace(std::int64_t id, const NewsItem& item, const NewsPlace&
         if (query.next() || query.failed())
             return false;
     }
-    return writeTexts(written, item.title, item.story) && writeRelated(written, item, place);
+    return writeTexts(written, item.title, story) && writeRelated(written, item, place) &&
+           (!story || versions.settle(written)) && (!item.withdrawn || withdraw(written, item));
+}
+
+bool NewsWriter::withdraw(std::int64_t id, const NewsItem& withdrawal) {
+    return versions.withdraw(id, withdrawal.time, *withdrawal.withdrawn);
 }
 
 bool NewsWriter::remove(std::int64_t id) {
@@ -101,19 +123,28 @@ bool NewsWriter::remove(std::int64_t id) {
 
 bool NewsWriter::putStory(std::int64_t id, const QString& story) {
     QString title;
-    return takeFromSearch(id, title) && Query(deleteText, id).run() && writeTexts(id, title, story);
+    const QByteArray text = story.toUtf8();
+    return takeFromSearch(id, title) && versions.keep(id, title, QByteArrayView(text)) &&
+           Query(deleteText, id).run() && writeTexts(id, title, text) && versions.settle(id);
 }
 
 // A row for the index is never selected from another table in the same statement: that would make the index
 // write what it gathers, row by row. It is what the view news_text gives: the search sees no paragraph marks.
-bool NewsWriter::writeTexts(std::int64_t id, const QString& title, const std::optional<QString>& story) {
-    QByteArray text = story.value_or(QString()).toUtf8();
-    if (story && !Query(insertText, id, QByteArrayView(text)).run())
+bool NewsWriter::writeTexts(std::int64_t id, const QString& title, const std::optional<QByteArray>& story) {
+    if (story && !Query(insertText, id, QByteArrayView(*story)).run())
         return false;
     if (blocks.isUnindexed(id))
         return true;
+    QByteArray text = story.value_or(QByteArray());
     text.replace("@@@@", "\n");
     return Query(insertSearched, id, title, QByteArrayView(text)).run();
+}
+
+std::optional<QByteArray> NewsWriter::storyOf(std::int64_t id, bool& failed) {
+    Query query(readText, id);
+    const bool isThere = query.next();
+    failed = query.failed();
+    return isThere ? std::optional(query.bytes(0).toByteArray()) : std::nullopt;
 }
 
 bool NewsWriter::takeFromSearch(std::int64_t id, QString& title) {

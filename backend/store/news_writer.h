@@ -6,6 +6,7 @@
 #include "backend/database/statement.h"
 #include "backend/news_item.h"
 #include "backend/store/import_blocks.h"
+#include "backend/store/version_book.h"
 #include "host/contract/records.h"
 
 #include <cstdint>
@@ -22,6 +23,7 @@ struct KnownNews {
     std::int32_t sequence = 0;
     std::int32_t category = 0;
     bool hasStory = false;  // one with text
+    bool isWithdrawn = false;
 };
 
 // Where a piece of news is put.
@@ -31,9 +33,9 @@ struct NewsPlace {
     std::int32_t category = 0;
 };
 
-// The rows of one piece of news: headline, story, related symbols and search index, always in step but for
-// the ids of `blocks`, which the index does not hold yet. Operations answer false on failure, which the
-// database then holds.
+// The rows of one piece of news: headline, story, earlier versions, withdrawal, related symbols and search
+// index, always in step but for the ids of `blocks`, which the index does not hold yet. Operations answer
+// false on failure, which the database then holds.
 class NewsWriter {
 public:
     NewsWriter(Database& database, const ImportBlocks& blocks);
@@ -47,7 +49,7 @@ public:
                 bool& failed);
 
     bool insert(const NewsItem& item, const NewsPlace& place);
-    // The news moves to a new id.
+    // The news moves to a new id. A withdrawal that brings no story leaves the one that is there.
     bool replace(std::int64_t id, const NewsItem& item, const NewsPlace& place);
     // The news leaves, with its story, its related symbols and its words.
     bool remove(std::int64_t id);
@@ -55,17 +57,21 @@ public:
     std::int64_t writtenId() const { return written; }
     // Replaces the story, if there is one.
     bool putStory(std::int64_t id, const QString& story);
+    // The news stays what it is, as one that is withdrawn.
+    bool withdraw(std::int64_t id, const NewsItem& withdrawal);
 
 private:
     static std::optional<KnownNews> known(Query& query, bool& failed);
     // The story, and what the index is to hold of the news.
-    bool writeTexts(std::int64_t id, const QString& title, const std::optional<QString>& story);
+    bool writeTexts(std::int64_t id, const QString& title, const std::optional<QByteArray>& story);
+    std::optional<QByteArray> storyOf(std::int64_t id, bool& failed);
     bool writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place);
     // Takes out what the index holds of a piece of news, if it does; `title` becomes the title that it had.
     bool takeFromSearch(std::int64_t id, QString& title);
 
     Database& database;
     const ImportBlocks& blocks;
+    VersionBook versions;
     Statement findIdentity;
     Statement findKey;
     Statement findNumber;
@@ -74,6 +80,7 @@ private:
     Statement deleteHeadline;
     Statement insertText;
     Statement deleteText;
+    Statement readText;
     Statement insertRelated;
     Statement deleteRelated;
     Statement readSearched;

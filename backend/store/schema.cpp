@@ -192,9 +192,27 @@ constexpr const char* englishNames = R"sql(
 ALTER TABLE symbols ADD COLUMN english_name TEXT NOT NULL DEFAULT '';
 )sql";
 
-constexpr std::array steps{firstVersion, arrivalsAndPositions, ownSearchWords, quotes,
-                           goneKeys,     blocksOfImports,      retention,      networkSources,
-                           englishNames};
+// What news was before it was sent again with another title or story, oldest first. `differs`: not yet when
+// only the story is missing now and still to come. Both tables follow a headline to its new id.
+constexpr const char* versionsAndWithdrawals = R"sql(
+CREATE TABLE versions(
+    headline INTEGER NOT NULL REFERENCES all_headlines(id) ON DELETE CASCADE ON UPDATE CASCADE,
+    number INTEGER NOT NULL,
+    time INTEGER NOT NULL,
+    received INTEGER NOT NULL,
+    differs INTEGER NOT NULL,
+    title TEXT NOT NULL,
+    text TEXT,
+    UNIQUE(headline, number));
+CREATE TABLE withdrawals(
+    headline INTEGER PRIMARY KEY REFERENCES all_headlines(id) ON DELETE CASCADE ON UPDATE CASCADE,
+    moment INTEGER NOT NULL,
+    reason TEXT NOT NULL);
+)sql";
+
+constexpr std::array steps{firstVersion, arrivalsAndPositions,  ownSearchWords, quotes,
+                           goneKeys,     blocksOfImports,       retention,      networkSources,
+                           englishNames, versionsAndWithdrawals};
 
 }  // namespace
 

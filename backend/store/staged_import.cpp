@@ -35,9 +35,11 @@ StagedImport::StagedImport(Database& owner, Pace asked)
       bell(owner.path()),
       later(owner.path()),
       readAside(owner,
-                "SELECT id, service, set_aside.identity, version, time, title, category, text, text IS NULL "
+                "SELECT id, service, set_aside.identity, version, time, title, category, text, text IS NULL, "
+                "reason, reason IS NOT NULL "
                 "FROM set_aside JOIN all_headlines ON id = set_aside.headline "
-                "LEFT JOIN stories ON stories.headline = id ORDER BY id"),
+                "LEFT JOIN stories ON stories.headline = id "
+                "LEFT JOIN withdrawals ON withdrawals.headline = id ORDER BY id"),
       readAsideSymbols(owner,
                        "SELECT market, code FROM related_symbols WHERE headline = ? ORDER BY position"),
       deleteAside(owner, "DELETE FROM all_headlines WHERE id = ?") {}
@@ -275,6 +277,8 @@ Done StagedImport::takeAside(std::vector<NewsItem>& items) {
             item.title = query.text(5);
             item.categoryId = query.smallNumber(6);
             item.story = query.number(8) != 0 ? std::nullopt : std::optional(query.text(7));
+            if (query.number(10) != 0)
+                item.withdrawn = query.text(9);
         }
         if (query.failed())
             return database.failure();

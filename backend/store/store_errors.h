@@ -38,6 +38,8 @@ inline constexpr ErrorCode quote{"ERROR_STORE_QUOTE", u"quote"};
 
 // Of items.
 inline constexpr ErrorCode noHeadline{"ERROR_STORE_NO_HEADLINE", u"There is no headline with this key."};
+inline constexpr ErrorCode withdrawsUnknown{"ERROR_STORE_WITHDRAWS_UNKNOWN",
+                                            u"It withdraws news that is not in the store."};
 inline constexpr ErrorCode beyondRetention{"ERROR_STORE_BEYOND_RETENTION",
                                            u"It is older than the news that this store keeps: since %1."};
 inline constexpr ErrorCode newsGone{"ERROR_STORE_NEWS_GONE", u"The news is no longer in the store."};

@@ -62,8 +62,15 @@ StoreReader::StoreReader(Database& database)
       allRelated(
           database,
           "SELECT market, code FROM headlines LEFT JOIN related_symbols ON headline = id "
-          "WHERE headlines.service = ? AND headlines.time = ? AND headlines.sequence = ? ORDER BY position") {
-}
+          "WHERE headlines.service = ? AND headlines.time = ? AND headlines.sequence = ? ORDER BY position"),
+      oneState(database,
+               "SELECT (SELECT count(*) FROM versions WHERE headline = id AND differs), moment, reason "
+               "FROM headlines LEFT JOIN withdrawals ON headline = id "
+               "WHERE service = ? AND time = ? AND sequence = ?"),
+      allVersions(database,
+                  "SELECT versions.time, versions.received, versions.title, text "
+                  "FROM headlines JOIN versions ON headline = id "
+                  "WHERE service = ? AND headlines.time = ? AND sequence = ? ORDER BY number") {}
 
 std::vector<unsigned char> StoreReader::serviceIds() {
     std::vector<unsigned char> ids;
@@ -159,6 +166,25 @@ std::optional<std::vector<CSymbolInfo>> StoreReader::relatedSymbols(const Headli
             symbols->push_back({static_cast<unsigned char>(query.number(0)), query.text(1)});
     }
     return symbols;
+}
+
+NewsState StoreReader::state(const HeadlineKey& key) {
+    NewsState state;
+    Query query(oneState, key.service, key.time, key.sequence);
+    if (!query.next())
+        return state;
+    state.corrections = query.smallNumber(0);
+    if (!query.isNull(1))
+        state.withdrawal = Withdrawal{query.number(1), query.text(2)};
+    return state;
+}
+
+std::vector<NewsVersion> StoreReader::versions(const HeadlineKey& key) {
+    std::vector<NewsVersion> versions;
+    for (Query query(allVersions, key.service, key.time, key.sequence); query.next();)
+        versions.push_back({query.number(0), query.number(1), query.text(2),
+                            query.isNull(3) ? std::nullopt : std::optional(query.text(3))});
+    return versions;
 }
 
 }  // namespace wirepane

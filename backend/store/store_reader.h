@@ -5,6 +5,7 @@
 #include "backend/database/data_version.h"
 #include "backend/database/statement.h"
 #include "backend/store/day_bounds.h"
+#include "host/contract/news_record.h"
 #include "host/contract/records.h"
 
 #include <QString>
@@ -61,6 +62,9 @@ public:
     std::optional<std::int64_t> received(const HeadlineKey& key);
     // Empty: there is none, as for an unknown headline. Nothing: it is still to come.
     std::optional<QString> story(const HeadlineKey& key);
+    NewsState state(const HeadlineKey& key);
+    // Before the present one, oldest first.
+    std::vector<NewsVersion> versions(const HeadlineKey& key);
     // Nothing for an unknown headline; the main symbol first.
     std::optional<std::vector<CSymbolInfo>> relatedSymbols(const HeadlineKey& key);
 
@@ -77,6 +81,8 @@ private:
     Statement oneReceived;
     Statement oneStory;
     Statement allRelated;
+    Statement oneState;
+    Statement allVersions;
 };
 
 }  // namespace wirepane

@@ -31,6 +31,10 @@ bool isLater(const NewsItem& item, const KnownNews& known) {
     return item.version > known.version || (item.version == known.version && item.time > known.time);
 }
 
+bool isWithdrawing(const NewsItem& item, const KnownNews& known) {
+    return item.withdrawn && (isLater(item, known) || (!known.isWithdrawn && item.version >= known.version));
+}
+
 Error numberTaken(const NewsItem& item) {
     if (!item.sequence)
         return makeError<store_errors::noNumberLeft>();
@@ -168,9 +172,11 @@ Result<StoredNews> StoreWriter::takeNews(const NewsItem& given) {
             return fail();
         known.reset();
     }
+    if (!known && item.title.isEmpty())
+        return rejected(makeError<store_errors::withdrawsUnknown>());
     if (!known)
         return horizon && item.time < *horizon ? rejected(tooOld(*horizon)) : add(item);
-    const bool isNewer = isLater(item, *known);
+    const bool isNewer = item.withdrawn ? isWithdrawing(item, *known) : isLater(item, *known);
     const bool bringsStory = !isNewer && item.version == known->version &&
                              !item.story.value_or(QString()).isEmpty() && !known->hasStory;
     StoredNews stored;
@@ -179,7 +185,7 @@ Result<StoredNews> StoreWriter::takeNews(const NewsItem& given) {
         return stored;
     }
     if (isNewer)
-        return replace(item, *known);
+        return item.title.isEmpty() ? withdraw(item, *known) : replace(item, *known);
     if (bringsStory)
         return addStory(item, *known);
     stored.outcome.take = Take::AlreadyThere;
@@ -229,6 +235,16 @@ Result<StoredNews> StoreWriter::replace(const NewsItem& item, const KnownNews& k
         !noteArrival(news.writtenId(), false, gone))
         return fail();
     stored.categoryId = place.category;
+    return stored;
+}
+
+Result<StoredNews> StoreWriter::withdraw(const NewsItem& item, const KnownNews& known) {
+    if (!news.withdraw(known.id, item) || !noteArrival(known.id, false))
+        return fail();
+    StoredNews stored;
+    stored.key = keyOf(item, known);
+    stored.before = stored.key;
+    stored.categoryId = known.category;
     return stored;
 }
 

@@ -36,7 +36,8 @@ struct StoredNews {
 //
 // News is known by service and identity. A later version, or the same version with a later time, replaces
 // title, story, category and related symbols; it keeps the sequence number while the local day stays the
-// same. The same version with a story that was missing adds the story. Anything else is already there. News
+// same. The same version with a story that was missing adds the story. A withdrawal takes back this version
+// or an earlier one; a later version that is none restores the news. Anything else is already there. News
 // without a number gets the next one of its service and local day; a given number that another piece of news
 // of that day has is a reason to reject it. Services and categories that the store does not know are made.
 //
@@ -93,6 +94,7 @@ private:
     Result<StoredNews> add(const NewsItem& item);
     Result<StoredNews> replace(const NewsItem& item, const KnownNews& known);
     Result<StoredNews> addStory(const NewsItem& item, const KnownNews& known);
+    Result<StoredNews> withdraw(const NewsItem& item, const KnownNews& known);
 
     // The sequence number for an item on a day; nothing when its own is taken or none is left.
     Result<std::optional<std::int32_t>> numberFor(const NewsItem& item, std::int32_t day,

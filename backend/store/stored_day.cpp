@@ -27,8 +27,9 @@ StoredDay::StoredDay(std::unique_ptr<Database> opened)
               "SELECT headlines.service, identity, version, time, sequence, title, "
               "coalesce(text, CASE WHEN received < ?2 THEN '' END), "
               "(SELECT name FROM categories WHERE id = headlines.category AND "
-              "space = CASE headlines.service WHEN 52 THEN 52 ELSE 0 END) "
-              "FROM headlines LEFT JOIN stories ON headline = headlines.id WHERE headlines.id = ?1"),
+              "space = CASE headlines.service WHEN 52 THEN 52 ELSE 0 END), reason "
+              "FROM headlines LEFT JOIN stories ON stories.headline = headlines.id "
+              "LEFT JOIN withdrawals ON withdrawals.headline = headlines.id WHERE headlines.id = ?1"),
       allRelated(*database, "SELECT market, code FROM related_symbols WHERE headline = ? ORDER BY position") {
 }
 
@@ -77,6 +78,8 @@ Result<NewsItem> StoredDay::item(std::size_t index) {
         else
             item.story = query.text(6);
         item.category = query.text(7);
+        if (!query.isNull(8))
+            item.withdrawn = query.text(8);
     }
     for (Query query(allRelated, id); query.next();)
         item.related.push_back({static_cast<unsigned char>(query.number(0)), query.text(1)});

@@ -31,7 +31,7 @@ public:
           writer(*written),
           search(*read) {}
 
-    NewsItem item{1, u"i"_s, 0, 1072915200, {}, {}, {}, {}, {}, {}, {}};
+    NewsItem item{1, u"i"_s, 0, 1072915200, {}, {}, {}, {}, {}, {}, {}, {}};
 
     bool isFull() const { return item.version == itemsPerStore; }
 

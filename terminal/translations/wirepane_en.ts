@@ -1199,6 +1199,10 @@
         <source></source>
         <translation>The volume of %1 is not a number from 0 to %2.</translation>
     </message>
+    <message id="ERROR_STORE_WITHDRAWS_UNKNOWN">
+        <source></source>
+        <translation>It withdraws news that is not in the store.</translation>
+    </message>
     <message id="ERROR_TOUR_NOT_PRINTED">
         <source></source>
         <translation>The news was not printed and saved into %1.</translation>

@@ -1199,6 +1199,10 @@
         <source></source>
         <translation>%1 的成交量不是 0 到 %2 的数字。</translation>
     </message>
+    <message id="ERROR_STORE_WITHDRAWS_UNKNOWN">
+        <source></source>
+        <translation>它撤回的新闻不在数据库中。</translation>
+    </message>
     <message id="ERROR_TOUR_NOT_PRINTED">
         <source></source>
         <translation>新闻未能打印并保存到 %1。</translation>

@@ -1199,6 +1199,10 @@
         <source></source>
         <translation>%1 的成交量不是 0 到 %2 的數字。</translation>
     </message>
+    <message id="ERROR_STORE_WITHDRAWS_UNKNOWN">
+        <source></source>
+        <translation>它撤回的新聞不在資料庫中。</translation>
+    </message>
     <message id="ERROR_TOUR_NOT_PRINTED">
         <source></source>
         <translation>新聞未能列印並儲存至 %1。</translation>

@@ -25,20 +25,23 @@ TEST(FeedLineTest, AnItemComesBackAsItWas) {
     item.category = u"Issue"_s;
     item.related = {{16, u"2330"_s}, {0, u"X"_s}};
     item.sequence = 2147483647;
+    item.withdrawn = u"Not true."_s;
     const FeedLine parsed = parsedFeedLine(itemLine(item, u"p 1"_s), 1);
     const auto& record = std::get<FeedRecord>(parsed);
     ASSERT_TRUE(record.item) << sentence(record.item.error()).toStdString();
     const NewsItem& back = newsOf(record);
     EXPECT_EQ(record.position, u"p 1"_s);
     EXPECT_EQ(std::tie(back.service, back.identity, back.version, back.time, back.title, back.story,
-                       back.category, back.related, back.sequence),
+                       back.category, back.related, back.sequence, back.withdrawn),
               std::tie(item.service, item.identity, item.version, item.time, item.title, item.story,
-                       item.category, item.related, item.sequence));
+                       item.category, item.related, item.sequence, item.withdrawn));
     item.story.reset();
     item.sequence.reset();
+    item.withdrawn.reset();
     const FeedLine bare = parsedFeedLine(itemLine(item, {}), 1);
     EXPECT_EQ(newsOf(std::get<FeedRecord>(bare)).story, std::nullopt) << "still to come";
     EXPECT_EQ(newsOf(std::get<FeedRecord>(bare)).sequence, std::nullopt);
+    EXPECT_EQ(newsOf(std::get<FeedRecord>(bare)).withdrawn, std::nullopt);
     item.story = QString();
     const FeedLine without = parsedFeedLine(itemLine(item, {}), 1);
     EXPECT_EQ(newsOf(std::get<FeedRecord>(without)).story, QString()) << "none";

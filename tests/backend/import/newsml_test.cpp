@@ -93,8 +93,8 @@ TEST(Newsml, WhatCannotBeTakenSaysWhy) {
         {item("<itemMeta><itemClass "
               "qcode=\"ninat:picture\"/></itemMeta><contentMeta><description>d</description></contentMeta>"),
          u"The item has no headline and no text to make one from."_s},
-        {item("<itemMeta><pubStatus qcode=\"stat:canceled\"/></itemMeta>" + headline),
-         u"The record is not for publication: “pubStatus” is “canceled”."_s},
+        {item("<itemMeta><pubStatus qcode=\"stat:withheld\"/></itemMeta>" + headline),
+         u"The record is not for publication: “pubStatus” is “withheld”."_s},
         {item("<itemMeta><embargoed>2199-01-01</embargoed></itemMeta>" + headline),
          u"The record is under embargo: “embargoed” is “2199-01-01”."_s},
         {item("<itemMeta><embargoed/></itemMeta>" + headline),
@@ -109,6 +109,20 @@ TEST(Newsml, WhatCannotBeTakenSaysWhy) {
         EXPECT_TRUE(out.items.empty());
         EXPECT_EQ(out.rejections.size(), 1U) << qPrintable(reason);
         EXPECT_TRUE(out.complaints().contains(reason)) << qPrintable(out.complaints());
+    }
+}
+
+TEST(Newsml, AWithdrawalSaysWhyAndMayHaveNoTitle) {
+    const QByteArray status =
+        "<itemMeta><pubStatus qcode=\"stat:canceled\"/><edNote>Not\n&lt;b&gt;true&lt;/b&gt;.</edNote>"
+        "<versionCreated>2018-11-21T16:25:32-05:00</versionCreated></itemMeta>";
+    for (const auto& [source, title] : std::vector<std::pair<QByteArray, QString>>{
+             {item(status + headline), u"H"_s},
+             {item(status + "<contentMeta><description>Text</description></contentMeta>"), {}}}) {
+        const auto out = readAll(source);
+        ASSERT_EQ(out.items.size(), 1U) << qPrintable(out.complaints());
+        EXPECT_EQ(out.news().title, title);
+        EXPECT_EQ(out.news().withdrawn, u"Not true."_s);
     }
 }
 

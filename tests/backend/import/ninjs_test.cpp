@@ -100,8 +100,6 @@ TEST(Ninjs, SaysWhyItRejects) {
          u"The field “bodies[1].value” must be a text, not a number."_s},
         {record(R"("organisation": [{"symbols": [{"ticker": 2330}]}])"),
          u"The field “organisation[0].symbols[0].ticker” must be a text, not a number."_s},
-        {record(R"("headline": "H", "pubstatus": "canceled")"),
-         u"The record is not for publication: “pubstatus” is “canceled”."_s},
         {record(R"("headline": "H", "pubStatus": "withheld")"),
          u"The record is not for publication: “pubstatus” is “withheld”."_s},
         {record(R"("headline": "H", "embargoed": "2199-01-01")"),
@@ -161,6 +159,20 @@ TEST(Ninjs, IsReadAsLinesListOrDocument) {
         const auto out = readAll(source);
         EXPECT_EQ(out.items.size(), count) << source.toStdString();
         EXPECT_EQ(out.complaints() + out.refusal, u"") << source.toStdString();
+    }
+}
+
+TEST(Ninjs, AWithdrawalSaysWhyAndMayHaveNoTitle) {
+    const std::vector<std::pair<QByteArray, QString>> rows{
+        {R"("headline": "H", "pubstatus": "canceled", "ednote": "Not\ntrue.")", u"H|Not true."_s},
+        {R"("pubStatus": "canceled", "body_text": "Text.")", u"|"_s},
+        {R"("headline": "H", "pubstatus": "usable", "ednote": "n")", u"H|-"_s},
+    };
+    for (const auto& [fields, expected] : rows) {
+        const auto out = readAll(record(fields));
+        ASSERT_EQ(out.items.size(), 1U) << fields.toStdString() << qPrintable(out.complaints());
+        EXPECT_EQ(out.news().title + u'|' + out.news().withdrawn.value_or(u"-"_s), expected)
+            << fields.toStdString();
     }
 }
 

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/version_book.h"
+
+#include "backend/store/limits.h"
+
+namespace wirepane {
+
+VersionBook::VersionBook(Database& database)
+    : write(database,
+            "INSERT INTO versions(headline, number, time, received, differs, title, text) "
+            "SELECT id, 1 + coalesce((SELECT max(number) FROM versions WHERE headline = ?1), 0), time, "
+            "received, "
+            "title <> ?2 OR ?3 IS NOT NULL, title, text "
+            "FROM all_headlines LEFT JOIN stories ON headline = id "
+            "WHERE id = ?1 AND (title <> ?2 OR (coalesce(text, '') <> '' AND text IS NOT ?3))"),
+      drop(database,
+           "DELETE FROM versions WHERE headline = ?1 AND "
+           "number > (SELECT min(number) FROM versions WHERE headline = ?1) AND "
+           "(number <= (SELECT max(number) FROM versions WHERE headline = ?1) - ?2 OR "
+           "(SELECT total(length(later.text)) FROM versions AS later "
+           "WHERE later.headline = ?1 AND later.number >= versions.number) > ?3)"),
+      dropSame(database,
+               "DELETE FROM versions WHERE headline = ?1 AND NOT differs AND "
+               "number = (SELECT max(number) FROM versions WHERE headline = ?1) AND "
+               "title = (SELECT title FROM all_headlines WHERE id = ?1) AND "
+               "text IS (SELECT text FROM stories WHERE headline = ?1)"),
+      confirm(database, "UPDATE versions SET differs = 1 WHERE headline = ? AND NOT differs"),
+      writeWithdrawal(database, "REPLACE INTO withdrawals(headline, moment, reason) VALUES(?, ?, ?)"),
+      eraseWithdrawal(database, "DELETE FROM withdrawals WHERE headline = ?") {}
+
+bool VersionBook::keep(std::int64_t id, const QString& title, const std::optional<QByteArrayView>& story) {
+    return Query(write, id, title, story).run() &&
+           Query(drop, id, limits::versions - 1, limits::versionLength).run();
+}
+
+bool VersionBook::settle(std::int64_t id) {
+    return Query(dropSame, id).run() && Query(confirm, id).run();
+}
+
+bool VersionBook::withdraw(std::int64_t id, std::int64_t moment, const QString& reason) {
+    return Query(writeWithdrawal, id, moment, reason).run();
+}
+
+bool VersionBook::restore(std::int64_t id) {
+    return Query(eraseWithdrawal, id).run();
+}
+
+}  // namespace wirepane
