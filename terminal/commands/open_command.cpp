@@ -14,10 +14,8 @@
 #include "terminal/session/frame_commands.h"
 #include "terminal/session/session.h"
 #include "terminal/tour/tour.h"
-#include "terminal/translations/shown_text.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QScreen>
 
 #include <algorithm>
@@ -176,7 +174,7 @@ void endTerminal() {
 int runForUser(Session& session, const OnwardStore& arrived) {
     FrameCommands commands(session);
     if (const Done opened = openWorkspace(session); !opened) {
-        QMessageBox::critical(&session.frame(), QApplication::applicationName(), shownText(opened.error()));
+        commands.report(opened);
         return exitUnusable;
     }
     if (session.settings().showsFirstSteps())

@@ -56,7 +56,7 @@ ImportReportDialog::ImportReportDialog(const QString& headline, const QString& d
                                        QWidget* parent)
     : QDialog(parent), buttons(new QDialogButtonBox(QDialogButtonBox::Ok)) {
     setWindowTitle(terminalText(TextId::ImportTitle));
-    buttons->button(QDialogButtonBox::Ok)->setText(terminalText(TextId::Accept));
+    buttons->button(QDialogButtonBox::Ok)->setText(terminalText(TextId::CloseButton));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);
     column->addLayout(headlineRow(headline, warns));

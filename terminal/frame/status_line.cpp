@@ -154,15 +154,12 @@ void StatusLine::show(const FrameStatus& status) {
     present->setText(terminalText(TextId::Present));
     present->setVisible(!status.asOf.isEmpty());
     showText(day, dayText(status));
-    const QLocale figures(QLocale::English);
-    index->setText(
-        status.searchBacklog == 0
-            ? QString()
-            : terminalText(TextId::SearchBacklog).arg(figures.toString(qint64(status.searchBacklog))));
-    showText(headlines, status.headlines < 0
-                            ? QString()
-                            : terminalText(TextId::HeadlineCount).arg(figures.toString(status.headlines)));
-    services->setText(terminalText(TextId::ServicesCount).arg(status.services).arg(status.allServices));
+    index->setText(status.searchBacklog == 0 ? QString()
+                                             : countText(TextId::SearchBacklog, status.searchBacklog));
+    showText(headlines,
+             status.headlines < 0 ? QString() : countText(TextId::HeadlineCount, status.headlines));
+    services->setText(
+        countText(terminalText(TextId::ServicesCount).arg(status.services), status.allServices));
     clock->setText(clockText(status.now));
     giveRoom();
 }

@@ -6,6 +6,7 @@
 #include "host/views/news_control_ids.h"
 #include "terminal/frame/guide_window.h"
 #include "terminal/frame/keys_window.h"
+#include "terminal/frame/message_boxes.h"
 #include "terminal/frame/read_as_of_dialog.h"
 #include "terminal/frame/row_density.h"
 #include "terminal/frame/settings_dialog.h"
@@ -274,7 +275,7 @@ void FrameCommands::rename(int number) {
     dialog->setWindowTitle(terminalText(TextId::RenameTitle));
     dialog->setLabelText(terminalText(TextId::RenamePrompt));
     dialog->setTextValue(view->title);
-    dialog->setOkButtonText(terminalText(TextId::Accept));
+    dialog->setOkButtonText(terminalText(TextId::RenameVerb));
     dialog->setCancelButtonText(terminalText(TextId::Cancel));
     if (dialog->exec() != QDialog::Accepted)
         return;
@@ -334,11 +335,8 @@ void FrameCommands::report(const Done& done) {
 }
 
 void FrameCommands::tell(QMessageBox::Icon icon, const QString& text) {
-    auto* box =
-        new QMessageBox(icon, terminalText(TextId::AppTitle), text, QMessageBox::Ok, &session.frame());
+    QMessageBox* box = tellingBox(&session.frame(), icon, text);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText);
-    box->button(QMessageBox::Ok)->setText(terminalText(TextId::Accept));
     box->exec();
 }
 

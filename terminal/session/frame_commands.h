@@ -27,6 +27,8 @@ public:
     void importFiles(const QStringList& files);
     // The Sources page; of the user's own store, which is opened for that when the sample's is.
     void showSources();
+    // Tells what went wrong, if anything did.
+    void report(const Done& done);
 
 private:
     void carryOut(FrameCommand command);
@@ -38,8 +40,6 @@ private:
     void showGuide();
     void showKeys();
     void save();
-    // Tells what went wrong, if anything did.
-    void report(const Done& done);
     void tell(QMessageBox::Icon icon, const QString& text);
 
     Session& session;

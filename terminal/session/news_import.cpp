@@ -98,7 +98,7 @@ void NewsImport::showOutcome(const ImportOutcome& outcome) {
         said += isOld ? terminalText(TextId::ImportNothingRecent) : escapedText(shownText(line));
     }
     if (outcome.leftOut > 0)
-        said += terminalText(TextId::ImportLeftOut).arg(outcome.leftOut);
+        said += countText(TextId::ImportLeftOut, outcome.leftOut);
     auto* report = new ImportReportDialog(terminalText(headlineOf(outcome.kind)), said.join(u'\n'),
                                           outcome.kind != ImportOutcome::Complete, &window);
     report->setAttribute(Qt::WA_DeleteOnClose);

@@ -36,7 +36,7 @@ QString feedText(const FeedState& state) {
     if (state.kind == FeedState::Offline)
         return terminalText(TextId::OfflineSince)
             .arg(QDateTime::fromSecsSinceEpoch(state.since).toString(u"HH:mm"_s));
-    return state.late > 0 ? terminalText(TextId::FeedLate).arg(state.late) : terminalText(TextId::FeedLive);
+    return state.late > 0 ? countText(TextId::FeedLate, state.late) : terminalText(TextId::FeedLive);
 }
 
 // What stands in the way of the feed, then how its sources stand, a line each.

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/sources/source_dialog.h"
 
+#include "host/controls/heap_dialog.h"
 #include "terminal/frame/dialog_buttons.h"
+#include "terminal/frame/message_boxes.h"
 #include "terminal/sources/source_texts.h"
 #include "terminal/sources/trial_view.h"
 #include "terminal/translations/shown_text.h"
@@ -14,7 +16,6 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSignalBlocker>
@@ -318,10 +319,13 @@ void SourceDialog::accept() {
     NetworkSource wanted = source();
     if (!secret().isEmpty())
         wanted.secret = secretToKeep;
-    if (const Done sound = checkedSource(wanted); !sound)
-        QMessageBox::warning(this, windowTitle(), shownText(sound.error()));
-    else
+    const Done sound = checkedSource(wanted);
+    if (sound) {
         QDialog::accept();
+        return;
+    }
+    const HeapDialog box(tellingBox(this, QMessageBox::Warning, shownText(sound.error())));
+    box->exec();
 }
 
 }  // namespace wirepane

@@ -3,6 +3,7 @@
 #include "terminal/sources/sources_window.h"
 
 #include "host/controls/heap_dialog.h"
+#include "terminal/frame/message_boxes.h"
 #include "terminal/sources/opml_exchange.h"
 #include "terminal/sources/source_delegate.h"
 #include "terminal/sources/source_desk.h"
@@ -17,7 +18,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -301,15 +301,12 @@ void SourcesWindow::tick(int row, bool on) {
 }
 
 void SourcesWindow::takeReadyMade(const ReadyMadeSource& made) {
-    const HeapDialog box(new QMessageBox(
-        QMessageBox::Question, windowTitle(),
+    const HeapDialog box(askingBox(
+        this,
         terminalText(TextId::SourceTermsQuestion)
             .arg(made.source.title, made.publisher, made.source.address.host(), made.terms.toString()),
-        QMessageBox::Ok | QMessageBox::Cancel, this));
-    box->setTextFormat(Qt::PlainText);
+        terminalText(TextId::SourceTermsRead)));
     box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    box->button(QMessageBox::Ok)->setText(terminalText(TextId::SourceTermsRead));
-    box->button(QMessageBox::Cancel)->setText(terminalText(TextId::Cancel));
     box->setDefaultButton(QMessageBox::Cancel);
     const NetworkSource source = made.source;
     if (box->exec() == QMessageBox::Ok)
@@ -346,13 +343,9 @@ void SourcesWindow::remove() {
     if (listed == nullptr)
         return;
     const QString name = listed->source.name;
-    const HeapDialog box(
-        new QMessageBox(QMessageBox::Question, windowTitle(),
-                        terminalText(TextId::SourceRemoveQuestion).arg(titleOf(listed->source)),
-                        QMessageBox::Ok | QMessageBox::Cancel, this));
-    box->setTextFormat(Qt::PlainText);
-    box->button(QMessageBox::Ok)->setText(terminalText(TextId::SourceRemove));
-    box->button(QMessageBox::Cancel)->setText(terminalText(TextId::Cancel));
+    const HeapDialog box(askingBox(this,
+                                   terminalText(TextId::SourceRemoveQuestion).arg(titleOf(listed->source)),
+                                   terminalText(TextId::SourceRemove)));
     if (box->exec() == QMessageBox::Ok)
         desk.remove(name, [self = QPointer(this)](const Done& done) {
             if (self)
@@ -405,10 +398,8 @@ void SourcesWindow::exportList(const QString& path) {
 }
 
 void SourcesWindow::tell(const QString& text) {
-    auto* box = new QMessageBox(QMessageBox::NoIcon, windowTitle(), text, QMessageBox::Ok, this);
+    QMessageBox* box = tellingBox(this, QMessageBox::NoIcon, text);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText);
-    box->button(QMessageBox::Ok)->setText(terminalText(TextId::Accept));
     box->open();
 }
 

@@ -24,11 +24,11 @@ QString sentenceOf(const TrialReport& report) {
     if (report.fault)
         return shownText(*report.fault);
     if (!report.links.empty())
-        return terminalText(TextId::TrialPage).arg(report.links.size());
+        return countText(TextId::TrialPage, static_cast<qint64>(report.links.size()));
     if (report.items == 0 && report.reason)
-        return terminalText(TextId::TrialRejected).arg(report.rejected).arg(shownText(*report.reason));
+        return countText(TextId::TrialRejected, report.rejected).arg(shownText(*report.reason));
     if (report.items == 0 && report.left > 0)
-        return terminalText(TextId::TrialTooOld).arg(report.left);
+        return countText(TextId::TrialTooOld, report.left);
     if (report.items == 0)
         return terminalText(TextId::TrialNothing);
     return terminalText(TextId::TrialItems).arg(report.items).arg(report.rejected);

@@ -3,6 +3,7 @@
 #include "terminal/translations/terminal_text.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <array>
 
@@ -89,6 +90,7 @@ constexpr std::array keys{
     "TERMINAL_SYMBOL_PROMPT",
     "TERMINAL_SYMBOL_UNKNOWN",
     "TERMINAL_RENAME_TITLE",
+    "TERMINAL_RENAME_VERB",
     "TERMINAL_RENAME_PROMPT",
     "TERMINAL_EMPTY_DESK",
     "TERMINAL_FEED_OFFLINE_SINCE",
@@ -241,6 +243,23 @@ static_assert(keys.size() == static_cast<std::size_t>(TextId::TrialTooOld) + 1);
 
 QString terminalText(TextId id) {
     return qtTrId(keys[static_cast<std::size_t>(id)]);
+}
+
+QString countText(TextId id, qint64 count) {
+    return countText(terminalText(id), count);
+}
+
+QString countText(const QString& text, qint64 count) {
+    QString chosen = text;
+    const qsizetype begin = chosen.indexOf(u'{');
+    const qsizetype middle = chosen.indexOf(u'|', begin);
+    const qsizetype end = chosen.indexOf(u'}', middle);
+    if (begin >= 0 && middle > begin && end > middle) {
+        const QString word =
+            count == 1 ? chosen.mid(begin + 1, middle - begin - 1) : chosen.mid(middle + 1, end - middle - 1);
+        chosen.replace(begin, end + 1 - begin, word);
+    }
+    return chosen.arg(QLocale(QLocale::English).toString(count));
 }
 
 std::span<const char* const> terminalTextKeys() {

@@ -88,6 +88,7 @@ enum class TextId {
     SymbolPrompt,
     SymbolUnknown,
     RenameTitle,
+    RenameVerb,
     RenamePrompt,
     EmptyDesk,
     OfflineSince,
@@ -237,6 +238,12 @@ enum class TextId {
 
 // The text in the language in force.
 QString terminalText(TextId id);
+
+// The text with a count in the place of `%1` or, behind others that are filled in already, of the next
+// number.
+// "{headline|headlines}" is the first for one, the second for all other counts.
+QString countText(TextId id, qint64 count);
+QString countText(const QString& text, qint64 count);
 
 // The keys of all of them.
 std::span<const char* const> terminalTextKeys();

@@ -1273,7 +1273,7 @@
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_DEL_KEY">
         <source></source>
-        <translation>&amp;Forget keyword</translation>
+        <translation>&amp;Forget Keyword</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_DEL_KEYSET">
         <source></source>
@@ -1785,7 +1785,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLY_THIS">
         <source></source>
-        <translation>Only this</translation>
+        <translation>Only This</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_ONLY_THIS_SERVICE">
         <source></source>
@@ -1877,7 +1877,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SHOW_CATEGORY">
         <source></source>
-        <translation>&amp;Category Column</translation>
+        <translation>&amp;Topic Column</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_STOP_WAITING">
         <source></source>
@@ -1985,15 +1985,15 @@
     </message>
     <message id="TERMINAL_ARRANGE_COLUMNS">
         <source></source>
-        <translation>&amp;Side by side</translation>
+        <translation>&amp;Side by Side</translation>
     </message>
     <message id="TERMINAL_ARRANGE_ROWS">
         <source></source>
-        <translation>&amp;One above another</translation>
+        <translation>&amp;One Above Another</translation>
     </message>
     <message id="TERMINAL_ARRANGE_TABS">
         <source></source>
-        <translation>As &amp;tabs</translation>
+        <translation>As &amp;Tabs</translation>
     </message>
     <message id="TERMINAL_AS_OF">
         <source></source>
@@ -2013,7 +2013,7 @@
     </message>
     <message id="TERMINAL_CLOSE_VIEW">
         <source></source>
-        <translation>&amp;Close view</translation>
+        <translation>&amp;Close View</translation>
     </message>
     <message id="TERMINAL_DATED_AHEAD">
         <source></source>
@@ -2021,7 +2021,7 @@
     </message>
     <message id="TERMINAL_DUPLICATE_VIEW">
         <source></source>
-        <translation>&amp;Duplicate view</translation>
+        <translation>&amp;Duplicate View</translation>
     </message>
     <message id="TERMINAL_EMPTY_DESK">
         <source></source>
@@ -2037,7 +2037,7 @@
     </message>
     <message id="TERMINAL_FEED_LATE">
         <source></source>
-        <translation>Live – %1 headlines came late</translation>
+        <translation>Live – %1 {headline|headlines} came late</translation>
     </message>
     <message id="TERMINAL_FEED_LIVE">
         <source></source>
@@ -2061,11 +2061,11 @@
     </message>
     <message id="TERMINAL_FLOAT_BUTTON">
         <source></source>
-        <translation>Float or dock</translation>
+        <translation>Float or Dock</translation>
     </message>
     <message id="TERMINAL_FLOAT_VIEW">
         <source></source>
-        <translation>&amp;Float or dock view</translation>
+        <translation>&amp;Float or Dock View</translation>
     </message>
     <message id="TERMINAL_COMPACT_ROWS">
         <source></source>
@@ -2081,7 +2081,7 @@
     </message>
     <message id="TERMINAL_GO_TO_SYMBOL">
         <source></source>
-        <translation>Go to s&amp;ymbol…</translation>
+        <translation>Go to S&amp;ymbol…</translation>
     </message>
     <message id="TERMINAL_GUIDE">
         <source></source>
@@ -2122,7 +2122,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_HEADLINE_COUNT">
         <source></source>
-        <translation>%1 headlines</translation>
+        <translation>%1 {headline|headlines}</translation>
     </message>
     <message id="TERMINAL_HOURS_AGO">
         <source></source>
@@ -2150,7 +2150,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_IMPORT_LEFT_OUT">
         <source></source>
-        <translation>And %1 more lines, which “wirepane import” shows in a console.</translation>
+        <translation>And %1 more {line|lines}, which “wirepane import” shows in a console.</translation>
     </message>
     <message id="TERMINAL_IMPORT_NEWS">
         <source></source>
@@ -2210,7 +2210,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_LINK_NONE">
         <source></source>
-        <translation>&amp;Not linked</translation>
+        <translation>&amp;Not Linked</translation>
     </message>
     <message id="TERMINAL_MENU_ARRANGE">
         <source></source>
@@ -2230,7 +2230,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_MENU_LINK">
         <source></source>
-        <translation>&amp;Link group</translation>
+        <translation>&amp;Link Group</translation>
     </message>
     <message id="TERMINAL_MENU_NEWS">
         <source></source>
@@ -2270,7 +2270,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_NEWS_NEXT_PAGE">
         <source></source>
-        <translation>&amp;Next Page</translation>
+        <translation>&amp;Next Story</translation>
     </message>
     <message id="TERMINAL_NEWS_OPEN_IN_WINDOW">
         <source></source>
@@ -2278,7 +2278,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_NEWS_PREVIOUS_PAGE">
         <source></source>
-        <translation>&amp;Previous Page</translation>
+        <translation>&amp;Previous Story</translation>
     </message>
     <message id="TERMINAL_NEWS_SEARCH">
         <source></source>
@@ -2302,15 +2302,15 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_NEW_SYMBOL_VIEW">
         <source></source>
-        <translation>New sy&amp;mbol view</translation>
+        <translation>New Sy&amp;mbol View</translation>
     </message>
     <message id="TERMINAL_NEW_VIEW">
         <source></source>
-        <translation>&amp;New view</translation>
+        <translation>&amp;New View</translation>
     </message>
     <message id="TERMINAL_NEXT_VIEW">
         <source></source>
-        <translation>Ne&amp;xt view</translation>
+        <translation>Ne&amp;xt View</translation>
     </message>
     <message id="TERMINAL_NO_CHINESE_FONT">
         <source></source>
@@ -2322,7 +2322,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_NO_SOURCES_ADD">
         <source></source>
-        <translation>Add one…</translation>
+        <translation>Add One…</translation>
     </message>
     <message id="TERMINAL_PRESENT">
         <source></source>
@@ -2330,7 +2330,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_PREVIOUS_VIEW">
         <source></source>
-        <translation>&amp;Previous view</translation>
+        <translation>&amp;Previous View</translation>
     </message>
     <message id="TERMINAL_PRINT_NEWS">
         <source></source>
@@ -2354,7 +2354,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_READ_AS_OF">
         <source></source>
-        <translation>&amp;Read as of…</translation>
+        <translation>&amp;Read As Of…</translation>
     </message>
     <message id="TERMINAL_READ_AS_OF_EXPLANATION">
         <source></source>
@@ -2374,11 +2374,15 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_RENAME_TITLE">
         <source></source>
-        <translation>Rename view</translation>
+        <translation>Rename View</translation>
+    </message>
+    <message id="TERMINAL_RENAME_VERB">
+        <source></source>
+        <translation>Rename</translation>
     </message>
     <message id="TERMINAL_RENAME_VIEW">
         <source></source>
-        <translation>&amp;Rename view…</translation>
+        <translation>&amp;Rename View…</translation>
     </message>
     <message id="TERMINAL_RISING_GREEN">
         <source></source>
@@ -2406,7 +2410,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_SEARCH_BACKLOG">
         <source></source>
-        <translation>Search lacks %1 headlines: its index follows</translation>
+        <translation>Search lacks %1 {headline|headlines}: its index follows</translation>
     </message>
     <message id="TERMINAL_SECONDS_AGO">
         <source></source>
@@ -2414,7 +2418,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_SERVICES_COUNT">
         <source></source>
-        <translation>%1 of %2 services</translation>
+        <translation>%1 of %2 {service|services}</translation>
     </message>
     <message id="TERMINAL_SETTINGS">
         <source></source>
@@ -2442,7 +2446,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_SETTINGS_NORMAL_SEARCH">
         <source></source>
-        <translation>&amp;Keyword sets</translation>
+        <translation>&amp;Key sets</translation>
     </message>
     <message id="TERMINAL_SETTINGS_NORMAL_SEARCH_HELP">
         <source></source>
@@ -2482,7 +2486,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_SHOW_TODAY">
         <source></source>
-        <translation>Show today</translation>
+        <translation>Show Today</translation>
     </message>
     <message id="TERMINAL_SOURCES_ADD">
         <source></source>
@@ -2506,7 +2510,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_SOURCES_EXPORT_TITLE">
         <source></source>
-        <translation>Export the list of feeds</translation>
+        <translation>Export a List of Feeds</translation>
     </message>
     <message id="TERMINAL_SOURCES_IMPORT">
         <source></source>
@@ -2518,7 +2522,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_SOURCES_IMPORT_TITLE">
         <source></source>
-        <translation>Import a list of feeds</translation>
+        <translation>Import a List of Feeds</translation>
     </message>
     <message id="TERMINAL_SOURCES_LAST">
         <source></source>
@@ -2594,7 +2598,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_SOURCE_ADD_TITLE">
         <source></source>
-        <translation>Add a source</translation>
+        <translation>Add a Source</translation>
     </message>
     <message id="TERMINAL_SOURCE_ANY_AGE">
         <source></source>
@@ -2610,7 +2614,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_SOURCE_BROWSE">
         <source></source>
-        <translation>Choose a file</translation>
+        <translation>Choose a File</translation>
     </message>
     <message id="TERMINAL_SOURCE_CATEGORY">
         <source></source>
@@ -2654,7 +2658,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_SOURCE_EDIT_TITLE">
         <source></source>
-        <translation>Edit the source</translation>
+        <translation>Edit the Source</translation>
     </message>
     <message id="TERMINAL_SOURCE_EVERY">
         <source></source>
@@ -2786,7 +2790,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_SOURCE_TERMS_READ">
         <source></source>
-        <translation>I have read them: &amp;add</translation>
+        <translation>I Have Read Them: &amp;Add</translation>
     </message>
     <message id="TERMINAL_SOURCE_TEST">
         <source></source>
@@ -2838,11 +2842,11 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_TRIAL_PAGE">
         <source></source>
-        <translation>This is a page; it names %1 feeds of its own.</translation>
+        <translation>This is a page; it names %1 {feed|feeds} of its own.</translation>
     </message>
     <message id="TERMINAL_TRIAL_REJECTED">
         <source></source>
-        <translation>%1 items were rejected, the first because: %2</translation>
+        <translation>%1 {item was|items were} rejected, the first because: %2</translation>
     </message>
     <message id="TERMINAL_TRIAL_TIME">
         <source></source>
@@ -2854,7 +2858,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_TRIAL_TOO_OLD">
         <source></source>
-        <translation>It answers; its %1 items are all older than what is taken.</translation>
+        <translation>It answers; its %1 {item is|items are all} older than what is taken.</translation>
     </message>
     <message id="TERMINAL_TRIAL_TOPIC">
         <source></source>

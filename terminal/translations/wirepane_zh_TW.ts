@@ -2270,7 +2270,7 @@
     </message>
     <message id="TERMINAL_NEWS_NEXT_PAGE">
         <source></source>
-        <translation>下一頁(&amp;N)</translation>
+        <translation>下一則(&amp;N)</translation>
     </message>
     <message id="TERMINAL_NEWS_OPEN_IN_WINDOW">
         <source></source>
@@ -2278,7 +2278,7 @@
     </message>
     <message id="TERMINAL_NEWS_PREVIOUS_PAGE">
         <source></source>
-        <translation>上一頁(&amp;P)</translation>
+        <translation>上一則(&amp;P)</translation>
     </message>
     <message id="TERMINAL_NEWS_SEARCH">
         <source></source>
@@ -2375,6 +2375,10 @@
     <message id="TERMINAL_RENAME_TITLE">
         <source></source>
         <translation>重新命名視窗</translation>
+    </message>
+    <message id="TERMINAL_RENAME_VERB">
+        <source></source>
+        <translation>重新命名</translation>
     </message>
     <message id="TERMINAL_RENAME_VIEW">
         <source></source>

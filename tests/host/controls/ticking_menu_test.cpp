@@ -43,7 +43,7 @@ struct Menu {
 
 TEST(TickingMenu, StaysOpenAndTicksOneAloneWhereItIsAsked) {
     Menu of;
-    of.menu.stayOpen(u"Only this"_s);
+    of.menu.stayOpen(u"Only This"_s);
     of.open();
     const QRect row = of.menu.actionGeometry(of.entry(1));
     const QRect only = of.menu.onlyPlace(of.entry(1));

@@ -155,6 +155,26 @@ TEST(TranslationsTest, LanguagesHaveTheSamePlaceholdersAndEdges) {
     }
 }
 
+TEST(TranslationsTest, CountsOfOneReadAsOne) {
+    struct Case {
+        QString text;
+        qint64 count;
+        QString shown;
+    };
+    const Case cases[] = {
+        {u"%1 {item was|items were} left"_s, 1, u"1 item was left"_s},
+        {u"%1 {item was|items were} left"_s, 0, u"0 items were left"_s},
+        {u"%1 {item was|items were} left"_s, 12345, u"12,345 items were left"_s},
+        {u"%1 則新聞"_s, 1, u"1 則新聞"_s},
+        {u"a | b } { %1"_s, 2, u"a | b } { 2"_s},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(countText(c.text, c.count), c.shown);
+    const QString of = u"%1 of %2 {service|services}"_s;
+    EXPECT_EQ(countText(of.arg(1), 1), u"1 of 1 service"_s);
+    EXPECT_EQ(countText(of.arg(1), 5), u"1 of 5 services"_s);
+}
+
 }  // namespace
 
 }  // namespace wirepane
