@@ -146,6 +146,14 @@ inline constexpr QLatin1StringView emptyQuotedWord{"IDS_NEWSCTRLVIEW_EMPTY_QUOTE
 // "%1": the words, each in quotes.
 inline constexpr QLatin1StringView emptyNotFound{"IDS_NEWSCTRLVIEW_EMPTY_NOT_FOUND"};
 
+// On the line over what was found. "%1": a number; a day; a moment; milliseconds; the part of the condition.
+inline constexpr QLatin1StringView foundCount{"IDS_NEWSCTRLVIEW_FOUND_COUNT"};
+inline constexpr QLatin1StringView foundSince{"IDS_NEWSCTRLVIEW_FOUND_SINCE"};
+inline constexpr QLatin1StringView foundUntil{"IDS_NEWSCTRLVIEW_FOUND_UNTIL"};
+inline constexpr QLatin1StringView foundTook{"IDS_NEWSCTRLVIEW_FOUND_TOOK"};
+inline constexpr QLatin1StringView foundTakeOut{"IDS_NEWSCTRLVIEW_FOUND_TAKE_OUT"};
+inline constexpr QLatin1StringView foundAwaited{"IDS_NEWSCTRLVIEW_FOUND_AWAITED"};
+
 // What controls without a text are called.
 inline constexpr QLatin1StringView nameOfModes{"IDS_NEWSCTRLVIEW_NAME_MODES"};
 inline constexpr QLatin1StringView allServices{"IDS_NEWSCTRLVIEW_STRING_ALL_SERVICES"};

@@ -4,6 +4,7 @@
 
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
+#include "host/controls/chip_line.h"
 #include "host/controls/row_look.h"
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/sc_combo_box.h"
@@ -62,6 +63,8 @@ LayoutInput Arrangement::input() const {
     if (in.aligned)
         in.needs = needs();
     in.hasAllNewsGrid = parts.lists[ListIndex::All].grid() != nullptr;
+    const QWidget* line = parts.controls.find<ChipLine>(ids::searchLine);
+    in.hasSearchLine = line != nullptr && !line->isHidden();
     in.movable = parts.settings.options[ViewOption::MovablePanes];
     if (in.movable)
         in.shares = parts.settings.paneShares;

@@ -3,6 +3,7 @@
 #include "news_view/control_set.h"
 
 #include "headline_list/language_keys.h"
+#include "host/controls/chip_line.h"
 #include "host/controls/line_icon.h"
 #include "host/controls/plain_caption.h"
 #include "host/controls/quote_combo_box_auto.h"
@@ -91,6 +92,7 @@ constexpr std::array placements{
     Placement{ids::categoryCombo, &ViewLayout::categoryCombo},
     Placement{ids::serviceCombo, &ViewLayout::serviceCombo},
     Placement{ids::symbolCombo, &ViewLayout::symbolCombo},
+    Placement{ids::searchLine, &ViewLayout::searchLine},
     Placement{ids::searchEdit, &ViewLayout::searchEdit},
     Placement{ids::searchButton, &ViewLayout::searchButton},
     Placement{ids::dealsSearchButton, &ViewLayout::dealsButton},
@@ -140,6 +142,10 @@ void ControlSet::createNotices() {
     QObject::connect(button, &SButton::clicked, &view, [this] { view.onCommand(ids::askBeforeStop); });
     button->setText(QStringLiteral("\u00D7"));
     button->hide();
+}
+
+void ControlSet::createSearchLine() {
+    add<ChipLine>(ids::searchLine, {})->hide();
 }
 
 void ControlSet::createServiceButton(const QRect& rectangle) {

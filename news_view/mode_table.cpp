@@ -16,9 +16,9 @@ constexpr std::array allControls{ids::datePicker, ids::serviceButton};
 constexpr std::array categoryControls{ids::categoryCombo, ids::serviceButton};
 constexpr std::array symbolControls{ids::serviceCombo, ids::symbolCombo, ids::serviceButton};
 constexpr std::array searchControls{ids::dealsSearchButton, ids::searchEdit, ids::searchButton,
-                                    ids::serviceButton};
+                                    ids::serviceButton, ids::searchLine};
 constexpr std::array relationControls{ids::relationSearchButton, ids::serviceButton};
-constexpr std::array warningControls{ids::warningSearchButton};
+constexpr std::array warningControls{ids::warningSearchButton, ids::searchLine};
 
 const std::array<ModeDescription, listCount> modes{{
     {ListIndex::All, keys::allNews, 0x01, LoadRule::FirstSwitch, allControls},
@@ -37,7 +37,7 @@ constexpr std::array creationOrder{ListIndex::All,    ListIndex::Category, ListI
 constexpr std::array switchable{ids::relationSearchButton, ids::dealsSearchButton,   ids::categoryCombo,
                                 ids::symbolCombo,          ids::warningSearchButton, ids::searchButton,
                                 ids::searchEdit,           ids::datePicker,          ids::serviceButton,
-                                ids::serviceCombo};
+                                ids::serviceCombo,         ids::searchLine};
 
 constexpr std::uint32_t sevenFunctions = 0x7F;
 

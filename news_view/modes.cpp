@@ -27,6 +27,8 @@ void Modes::switchTo(ListIndex next) {
     showParts(next);
     mode = next;
     parts.settings.focusedTab = static_cast<int>(mode);
+    if (parts.settings.options[ViewOption::SearchLine])
+        calls.place();
     stage.hideDialog();
     catchUp();
     if (view.paneShowsStories()) {

@@ -26,6 +26,7 @@ public:
         std::function<void()> offerSymbols;         // in the combos of the symbol mode
         std::function<void()> hideWhatSymbolsLack;  // of the symbol mode that is shown
         std::function<void()> servicesTakenOver;    // the ticks of the services may be others
+        std::function<void()> place;                // what stands over the list may be there or not
     };
 
     // All that is referred to outlives the modes.

@@ -174,6 +174,27 @@ void Searches::endNarrowing() {
     send();
 }
 
+void Searches::replace(const CSearch& condition) {
+    const ListIndex shown = context.shownList();
+    CSearch* inForce = conditions.conditionOf(shown);
+    if (inForce == nullptr)
+        return;
+    const CSearch before = conditions.foundUnder(shown);
+    auto* edit = parts.controls.find<SEdit>(ids::searchEdit);
+    if (shown == ListIndex::Search && edit != nullptr &&
+        before.keywords == std::vector{edit->text().trimmed()})
+        edit->setText(condition.keywords.empty() ? QString() : condition.keywords.front());
+    if (condition.keywords.empty()) {
+        stopWaiting();
+        conditions.endSearch(shown);
+        context.listOf(shown).setTable(TableRuns());
+        showFound(shown, false);
+    } else {
+        *inForce = condition;
+        send();
+    }
+}
+
 // --- Results ---
 
 void Searches::showFound(ListIndex index, bool selectFirst) {
@@ -202,7 +223,7 @@ void Searches::takeAnswer(const CSearch& condition, unsigned char service) {
         return;
     const TableRuns found =
         readEveryTable(parts.backEnd, parts.services.currentServices(), *kind, searchTableKey);
-    if (*kind == TableKind::Search && !conditions.takeAnswerDue(condition, service)) {
+    if (*kind == TableKind::Search && !conditions.takeAnswerDue(condition, service, host_clock::now())) {
         context.readInPlace(target, [&] {
             list.setTable(found);
             list.refill();

@@ -47,6 +47,9 @@ public:
     void send();
     // What the search of the shown list is narrowed to counts no more; it is sent again.
     void endNarrowing();
+    // Puts another condition in the place of the shown list's, and sends it; without keywords the search ends
+    // and its list is empty. The search box follows where it says what was searched for.
+    void replace(const CSearch& condition);
 
     // A service has answered: the results of all services are shown anew.
     void takeAnswer(const CSearch& condition, unsigned char service);

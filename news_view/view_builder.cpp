@@ -5,6 +5,7 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "host/contract/fixed_services.h"
+#include "host/controls/chip_line.h"
 #include "host/controls/row_look.h"
 #include "host/controls/window_id.h"
 #include "host/views/news_control_ids.h"
@@ -146,6 +147,12 @@ void ViewBuilder::createControlsOf(ListIndex mode, const QRect& row) {
     }
     if (mode == ListIndex::Search)
         calls.connectSearchEdit();
+    const bool searches = mode == ListIndex::Search || mode == ListIndex::WarningTerm;
+    if (searches && parts.settings.options[ViewOption::SearchLine] &&
+        parts.controls.find<ChipLine>(ids::searchLine) == nullptr) {
+        parts.controls.createSearchLine();
+        calls.connectSearchLine();
+    }
 }
 
 void ViewBuilder::vInitialSheetWnd(ListIndex list, const QRect& place) {

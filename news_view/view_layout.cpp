@@ -175,7 +175,11 @@ ViewLayout layOut(const LayoutInput& in) {
     const int rightmost = layOutControls(in, frame, rowTop, rowBottom, unit, out);
     layOutPageButtons(in, frame, rowTop, rowBottom, rightmost, out);
 
-    const int gridTop = rowBottom + 8;
+    int gridTop = rowBottom + 8;
+    if (in.hasSearchLine) {
+        out.searchLine = between(frame.left, rowBottom + 4, frame.right, gridTop + in.fontHeight + 8);
+        gridTop = out.searchLine.y() + out.searchLine.height();
+    }
     int gridBottom = frame.bottom;
     if (in.showType == StoryShowType::Below)
         gridBottom = in.shares.place(PaneEdge::ListBelow, gridTop, frame.bottom,

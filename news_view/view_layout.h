@@ -40,7 +40,8 @@ struct LayoutInput {
     bool hasStoryPane = false;
     bool hasRelatedQuotes = false;
     bool hasAllNewsGrid = false;
-    bool aligned = false;  // controls keep one margin at either side, and buttons have what they need
+    bool hasSearchLine = false;  // a line stands over the lists
+    bool aligned = false;        // controls keep one margin at either side, and buttons have what they need
     ButtonNeeds needs;
     bool movable = false;  // the user may move the edges between list, story and quotes
     PaneShares shares;     // and has moved them so
@@ -53,6 +54,7 @@ struct ViewLayout {
         searchEdit;
     QRect searchButton, dealsButton;  // warning-term search takes the relation button's rectangle
     QRect pageDown, pageUp, saveAs, print;
+    QRect searchLine;
     QRect grid;
     QRect gridWithoutControls;  // of the symbol and the warrant grid
     QRect storyPane, relatedQuotes;

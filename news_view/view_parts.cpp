@@ -64,7 +64,9 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
                    [this] { return settings.options[ViewOption::KeepServicesOpen]; },
                    [this] { return listOf(shownList()).headlineTable().countsOfServices(); }}),
       liveNews(*this, common, liveCalls()),
-      emptyLists(*this, common, searches.desk(), emptyListCalls()) {
+      emptyLists(*this, common, searches.desk(), emptyListCalls()),
+      searchLine(*this, common, searches.desk(),
+                 [this](const CSearch& condition) { searches.replace(condition); }) {
     lists.setOnRead([this] { placeNotices(); });
 }
 
@@ -87,7 +89,8 @@ Modes::Calls TRVNewsCtrlView::Parts::modeCalls() {
             [this] { categories.bInitialCategoryInfo(); },
             [this] { symbolMode.offer(); },
             [this] { symbolMode.hideWithoutUse(); },
-            [this] { serviceMenu.showTicks(); }};
+            [this] { serviceMenu.showTicks(); },
+            [this] { arrangement.place(); }};
 }
 
 Arrangement::Calls TRVNewsCtrlView::Parts::arrangementCalls() {
@@ -98,7 +101,9 @@ Arrangement::Calls TRVNewsCtrlView::Parts::arrangementCalls() {
 ViewBuilder::Calls TRVNewsCtrlView::Parts::builderCalls() {
     return {[this] { return days.picked(); },
             [this](CSuperSheetWnd& grid, ListIndex list) { connectGrid(grid, list); },
-            [this] { days.connectPicker(); }, [this] { searches.connectEdit(); },
+            [this] { days.connectPicker(); },
+            [this] { searches.connectEdit(); },
+            [this] { searchLine.connectLine(); },
             [this] { categories.connectCombo(); }};
 }
 
@@ -112,6 +117,8 @@ void TRVNewsCtrlView::Parts::connectGrid(CSuperSheetWnd& grid, ListIndex list) {
                      [this, &grid, list] { story.follow(grid, list); });
     newestRow.watch(grid, list);
     emptyLists.watch(grid, list);
+    if (list == ListIndex::Search || list == ListIndex::WarningTerm)
+        searchLine.watch(grid);
 }
 
 // --- Stories, output, notices ---

@@ -24,6 +24,7 @@
 #include "news_view/news_services.h"
 #include "news_view/notice_board.h"
 #include "news_view/output_jobs.h"
+#include "news_view/search_line.h"
 #include "news_view/searches.h"
 #include "news_view/sent_again.h"
 #include "news_view/service_menu.h"
@@ -59,6 +60,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     void placeNotices() override {
         board.place();
         emptyLists.followSoon();
+        searchLine.followSoon();
     }
 
     // What lists see of it. The services are the user's own choice, also while the warrant mode has set it
@@ -142,6 +144,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::ServiceMenu serviceMenu;
     wirepane::LiveNews liveNews;
     wirepane::EmptyLists emptyLists;
+    wirepane::SearchLine searchLine;
 
 private:
     // What each owner is given of the view and of the others.

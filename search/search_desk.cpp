@@ -75,6 +75,24 @@ std::optional<SearchDesk::Moment> SearchDesk::sentAt(ListIndex list) const {
     return sent != nullptr ? sent->at : std::nullopt;
 }
 
+SearchDesk::Course SearchDesk::courseOf(ListIndex list) const {
+    const Sent* sent = sentFrom(list);
+    if (sent == nullptr || !sent->at)
+        return {};
+    const bool isAwaited = std::any_of(due.begin(), due.end(),
+                                       [&](const auto& search) { return search.first == sent->condition; });
+    return {true, isAwaited, std::max(sent->at->time, sent->answeredAt), sent->took};
+}
+
+void SearchDesk::endSearch(ListIndex list) {
+    const Sent* sent = sentFrom(list);
+    if (sent == nullptr)
+        return;
+    std::erase_if(due, [&](const auto& search) { return search.first == sent->condition; });
+    (list == ListIndex::Search ? sentOrdinary : sentWarningTerm) = {};
+    *conditionOf(list) = {};
+}
+
 std::optional<TableKind> SearchDesk::kindOfAnswer(const CSearch& condition) const {
     if (condition == ordinary || condition == warningTerm)
         return TableKind::Search;
@@ -122,7 +140,7 @@ void SearchDesk::sendSearch(ListIndex mode, std::span<ServiceEntry> services, bo
     const CSearch condition = *active;
     Sent& sent = mode == ListIndex::Search ? sentOrdinary : sentWarningTerm;
     std::erase_if(due, [&](const auto& search) { return search.first == sent.condition; });
-    sent = {condition, now};
+    sent = {condition, now, std::chrono::steady_clock::now(), 0, std::nullopt};
     for (ServiceEntry& entry : services) {
         entry.searchPending = entry.selected && awaited;
         if (entry.selected)
@@ -138,8 +156,17 @@ void SearchDesk::ask(const CSearch& condition, unsigned char service) {
     backEnd.BKQNEWS_bSearchNews(service, static_cast<int>(TableKind::Search), condition);
 }
 
-bool SearchDesk::takeAnswerDue(const CSearch& condition, unsigned char service) {
-    return std::erase(due, std::pair(condition, service)) > 0;
+bool SearchDesk::takeAnswerDue(const CSearch& condition, unsigned char service, std::int64_t now) {
+    const bool isDue = std::erase(due, std::pair(condition, service)) > 0;
+    for (Sent* sent : {&sentOrdinary, &sentWarningTerm}) {
+        if (!sent->at || !(sent->condition == condition))
+            continue;
+        sent->answeredAt = now;
+        if (isDue)
+            sent->took = std::chrono::duration_cast<std::chrono::milliseconds>(
+                std::chrono::steady_clock::now() - sent->begun);
+    }
+    return isDue;
 }
 
 void SearchDesk::narrow(const CSearch& condition, const CSymbolInfo& symbol, bool warningTermToo) {

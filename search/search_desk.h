@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <optional>
 #include <span>
 #include <utility>
@@ -39,8 +40,8 @@ public:
     // Asks a service besides.
     void ask(const CSearch& condition, unsigned char service);
     // A service has answered a condition: true when this view waits for that; it does not any more. Other
-    // answers come by themselves, because the service has found more.
-    bool takeAnswerDue(const CSearch& condition, unsigned char service);
+    // answers come by themselves, because the service has found more. `now` as in Moment.
+    bool takeAnswerDue(const CSearch& condition, unsigned char service, std::int64_t now);
 
     // The condition that a list's rows were found under, with its keywords to be marked; empty for others.
     CSearch foundUnder(ListIndex list) const;
@@ -58,6 +59,16 @@ public:
         std::size_t endedOutages = 0;  // of the back end's connection, until then
     };
     std::optional<Moment> sentAt(ListIndex list) const;
+    // What has come of it.
+    struct Course {
+        bool isSent = false;
+        bool isAwaited = false;                         // an answer is still to come
+        std::int64_t until = 0;                         // what is found is as of this moment
+        std::optional<std::chrono::milliseconds> took;  // until the last answer so far; none: there is none
+    };
+    Course courseOf(ListIndex list) const;
+    // Nothing is searched for any more: an answer that comes still is nobody's.
+    void endSearch(ListIndex list);
 
     // Makes the word alone, or the query, the ordinary condition (in headlines, composed at `now`), and keeps
     // it in the history. Another one than that in force is not narrowed to a symbol.
@@ -84,6 +95,9 @@ private:
     struct Sent {
         CSearch condition;
         std::optional<Moment> at;
+        std::chrono::steady_clock::time_point begun;
+        std::int64_t answeredAt = 0;
+        std::optional<std::chrono::milliseconds> took;
     };
     const Sent* sentFrom(ListIndex list) const;
 

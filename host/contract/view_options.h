@@ -47,6 +47,7 @@ enum class ViewOption {
     StoryMenu,      // a story has a menu of its own
     StoryWindow,    // the story window has tools, lies beside its list, is kept open when it is pinned
     SearchQueries,  // what is typed into the search box is a query; it takes blanks
+    SearchLine,     // a line over what was found: the condition in parts that can be taken out, counts
     Count
 };
 
@@ -88,6 +89,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::StoryMenu, QLatin1StringView("StoryMenu")},
     {ViewOption::StoryWindow, QLatin1StringView("StoryWindow")},
     {ViewOption::SearchQueries, QLatin1StringView("SearchQueries")},
+    {ViewOption::SearchLine, QLatin1StringView("SearchLine")},
 }};
 
 constexpr const ViewOptionRow& rowOf(ViewOption option) {

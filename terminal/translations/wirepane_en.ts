@@ -1547,6 +1547,30 @@
         <source></source>
         <translation>No news with the warning terms.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_AWAITED">
+        <source></source>
+        <translation>Searching…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_COUNT">
+        <source></source>
+        <translation>Found: %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_SINCE">
+        <source></source>
+        <translation>since %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_TAKE_OUT">
+        <source></source>
+        <translation>Search without %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_TOOK">
+        <source></source>
+        <translation>%1 ms</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_UNTIL">
+        <source></source>
+        <translation>until %1</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET">
         <source></source>
         <translation>No key set is ticked: this list takes no news. Press %1 to choose key sets.</translation>

@@ -1547,6 +1547,30 @@
         <source></source>
         <translation>没有含警示词的新闻。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_AWAITED">
+        <source></source>
+        <translation>正在搜索…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_COUNT">
+        <source></source>
+        <translation>找到 %1 条</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_SINCE">
+        <source></source>
+        <translation>自 %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_TAKE_OUT">
+        <source></source>
+        <translation>不含 %1 再搜索</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_TOOK">
+        <source></source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_UNTIL">
+        <source></source>
+        <translation>至 %1</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET">
         <source></source>
         <translation>尚未勾选关键词组，此列表不会收到新闻。按 %1 选择。</translation>

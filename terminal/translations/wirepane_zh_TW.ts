@@ -1547,6 +1547,30 @@
         <source></source>
         <translation>沒有含警示詞的新聞。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_AWAITED">
+        <source></source>
+        <translation>搜尋中…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_COUNT">
+        <source></source>
+        <translation>找到 %1 則</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_SINCE">
+        <source></source>
+        <translation>自 %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_TAKE_OUT">
+        <source></source>
+        <translation>不含 %1 再搜尋</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_TOOK">
+        <source></source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_UNTIL">
+        <source></source>
+        <translation>至 %1</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET">
         <source></source>
         <translation>尚未勾選關鍵字組，此清單不會收到新聞。按 %1 選擇。</translation>

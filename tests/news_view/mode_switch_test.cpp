@@ -102,14 +102,14 @@ protected:
                      return true;
                  },
                  note(u"register warrants"_s), note(u"fill categories"_s), note(u"offer symbols"_s),
-                 note(u"hide"_s), note(u"services"_s)}};
+                 note(u"hide"_s), note(u"services"_s), [] {}}};
     ViewBuilder builder{
         view.window,
         view.parts(),
         stage,
         {[] { return QDate(2026, 3, 2); },
          [this](CSuperSheetWnd&, ListIndex list) { view.calls.append(named(u"grid"_s, list)); },
-         note(u"dates"_s), note(u"search edit"_s), note(u"categories"_s)}};
+         note(u"dates"_s), note(u"search edit"_s), [] {}, note(u"categories"_s)}};
 };
 
 }  // namespace
@@ -162,9 +162,9 @@ TEST_F(ModeSwitchTest, TheEnabledFunctionsDecideWhatIsThere) {
         fresh.services.load(backEnd);
         fresh.settings.functions = c.functions;
         fresh.switches = c.switches;
-        ViewBuilder ofFresh(
-            fresh.window, fresh.parts(), stage,
-            {[] { return QDate(2026, 3, 2); }, [](CSuperSheetWnd&, ListIndex) {}, [] {}, [] {}, [] {}});
+        ViewBuilder ofFresh(fresh.window, fresh.parts(), stage,
+                            {[] { return QDate(2026, 3, 2); }, [](CSuperSheetWnd&, ListIndex) {}, [] {},
+                             [] {}, [] {}, [] {}});
         ofFresh.createControls();
         EXPECT_EQ(grids(fresh), c.grids) << c.what;
         EXPECT_EQ(tabs(fresh), c.tabs) << c.what;

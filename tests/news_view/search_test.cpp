@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Searching from the news view: what is sent, what is shown, what the user is told.
 #include "host/contract/query/query_marks.h"
+#include "host/controls/chip_line.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/views/news_control_ids.h"
 #include "search/adv_search_dlg.h"
@@ -298,6 +299,63 @@ TEST_F(SearchesOfTheView, TheStoryOfAResultHasItsKeywordsMarked) {
     query.language = SearchLanguage::Query;
     EXPECT_EQ(textsToMark(query), (std::vector<QString>{u"oil"_s, u"all"_s, u"gol"_s}))
         << "what is excluded is none";
+}
+
+TEST_F(SearchesOfTheView, TheLineOverTheResultsTellsWhatWasFoundAndTakesThePartsOut) {
+    for (const auto& [key, text] : {std::pair{u"COUNT"_s, u"found %1"_s},
+                                    {u"SINCE"_s, u"since %1"_s},
+                                    {u"UNTIL"_s, u"until %1"_s},
+                                    {u"TOOK"_s, u"%1 ms"_s},
+                                    {u"TAKE_OUT"_s, u"not %1"_s}})
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_FOUND_"_s + key] = text;
+    openSearch({{u"SearchQueries"_s, true}, {u"SearchLine"_s, true}});
+    auto* line = qobject_cast<ChipLine*>(dlgItem(view.get(), ids::searchLine));
+    const auto told = [&] {
+        QCoreApplication::processEvents();
+        QStringList parts;
+        for (const ChipLineText::Chip& chip : line->told().chips)
+            parts += chip.text;
+        return parts.join(u'/');
+    };
+    const auto answer = [&](const QString& query) {
+        CSearch found = condition({query});
+        found.language = SearchLanguage::Query;
+        for (const auto service : std::vector<unsigned char>{1, 2})
+            view->RespSearchHeadLineTable(found, service);
+    };
+    ASSERT_TRUE(line->isVisible());
+    EXPECT_EQ(told(), QString());
+    const int top = view->sheetOf(3)->y();
+    EXPECT_GE(top, line->geometry().bottom()) << "the rows begin below it";
+    backEnd.searchTables[1] = {entryOf(1, 9, 0, 1)};
+    backEnd.searchTables[2] = {entryOf(2, 9, 10, 1)};
+    quickSearch(u"gold -tin (a | b)"_s);
+    answer(u"gold -tin (a | b)"_s);
+    EXPECT_EQ(told(), u"gold/-tin/(a | b)"_s);
+    EXPECT_EQ(line->told().chips.front().action, u"not gold"_s);
+    EXPECT_EQ(line->told().sum, u"found 2"_s);
+    EXPECT_TRUE(line->told().details.contains(u"since 2026/03/02 · until "_s));
+    EXPECT_TRUE(line->told().details.endsWith(u" ms"_s));
+
+    view->onCommand(ids::firstServiceCommand);
+    sent();
+    auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
+    emit line->taken(1);
+    EXPECT_EQ(edit->text(), u"gold (a | b)"_s);
+    EXPECT_TRUE(sent().front().contains(u"gold (a | b) as a query"_s));
+    emit line->taken(1);
+    EXPECT_EQ(told(), u"gold"_s);
+    sent();
+    emit line->taken(0);
+    EXPECT_EQ(sent(), QStringList()) << "nothing is left to be searched for";
+    EXPECT_EQ(told(), QString());
+    EXPECT_EQ(edit->text(), QString());
+    EXPECT_EQ(titles(3), QStringList());
+    answer(u"gold"_s);
+    EXPECT_EQ(titles(3), QStringList()) << "the answer came too late";
+    view->SwitchFunction(0);
+    EXPECT_FALSE(line->isVisible());
+    EXPECT_LT(view->sheetOf(0)->y(), top) << "other lists need no line";
 }
 
 TEST_F(SearchesOfTheView, WithWarningTermsAnswersGoToTheirListAndPushesAskAgain) {

@@ -161,9 +161,12 @@ private:
         const qsizetype start = at;
         qsizetype end = at;
         for (; !isAtEnd() && !isAt(isBar) && !isAt(isClosing); skipBlanks()) {
+            const qsizetype from = at;
             Node part = readFactor();
             if (!part)
                 return part;
+            part->position = from;
+            part->length = at - from;
             parts.push_back(*std::move(part));
             end = at;
         }

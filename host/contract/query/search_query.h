@@ -31,7 +31,8 @@ struct QueryNode {
         Not       // not its one part
     };
     Kind kind = Kind::All;
-    qsizetype position = 0;  // in the query, in UTF-16 code units; with `length` the characters that say it
+    qsizetype position = 0;  // in the query, in UTF-16 code units; with `length` the characters that say
+                             // it, with its sign, its field and its brackets
     qsizetype length = 0;
     QString text;
     QueryField field = QueryField::Anywhere;

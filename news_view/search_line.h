@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "news_view/common_parts.h"
+
+#include <QObject>
+
+#include <functional>
+
+class CSuperSheetWnd;
+struct CSearch;
+
+namespace wirepane {
+class HeadlineTable;
+class SearchDesk;
+class ViewContext;
+struct ChipLineText;
+
+// The line over what a search has found: its condition in parts that can be taken out, how much was found, as
+// of which moment, and the time that it took. For a view whose options ask for it. Interface thread only.
+class SearchLine : public QObject {
+    Q_OBJECT
+
+public:
+    // `replace` searches for another condition in the shown list.
+    using Replace = std::function<void(const CSearch& condition)>;
+    SearchLine(ViewContext& context, const CommonParts& parts, const SearchDesk& searches, Replace replace);
+
+    // The line is there from here on.
+    void connectLine();
+    // From here on its rows are followed.
+    void watch(CSuperSheetWnd& grid);
+    // What the line says may have changed, or the language has.
+    void followSoon();
+
+private:
+    void follow();
+    void takeOut(int part);
+    ChipLineText conditionText(const CSearch& found) const;
+    QString detailsOf(const HeadlineTable& found) const;
+
+    ViewContext& context;
+    const CommonParts parts;
+    const SearchDesk& searches;
+    const Replace replace;
+    bool isPosted = false;
+};
+
+}  // namespace wirepane
