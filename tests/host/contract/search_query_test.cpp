@@ -140,7 +140,7 @@ TEST(SearchQuery, PartsKnowTheirCharacters) {
     QStringList said;
     for (const QueryNode& part : std::get<QueryNode>(read).parts)
         said += query.sliced(part.position, part.length);
-    EXPECT_EQ(said, QStringList({u"title:gold"_s, u"-\"a b\""_s, u"c | d"_s, u"e NEAR/2 f"_s}));
+    EXPECT_EQ(said, QStringList({u"title:gold"_s, u"-\"a b\""_s, u"(c | d)"_s, u"e NEAR/2 f"_s}));
 }
 
 TEST(SearchQuery, DaysAreLocalAndWhole) {
