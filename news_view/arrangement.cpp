@@ -4,7 +4,6 @@
 
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
-#include "host/controls/chip_line.h"
 #include "host/controls/row_look.h"
 #include "host/controls/s_date_time_ctrl.h"
 #include "host/controls/sc_combo_box.h"
@@ -63,7 +62,7 @@ LayoutInput Arrangement::input() const {
     if (in.aligned)
         in.needs = needs();
     in.hasAllNewsGrid = parts.lists[ListIndex::All].grid() != nullptr;
-    const QWidget* line = parts.controls.find<ChipLine>(ids::searchLine);
+    const QWidget* line = parts.controls.find<QWidget>(ids::searchLine);
     in.hasSearchLine = line != nullptr && !line->isHidden();
     in.movable = parts.settings.options[ViewOption::MovablePanes];
     if (in.movable)

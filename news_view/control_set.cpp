@@ -3,7 +3,6 @@
 #include "news_view/control_set.h"
 
 #include "headline_list/language_keys.h"
-#include "host/controls/chip_line.h"
 #include "host/controls/line_icon.h"
 #include "host/controls/plain_caption.h"
 #include "host/controls/quote_combo_box_auto.h"
@@ -110,8 +109,7 @@ ControlSet::ControlSet(TRVVirtualBaseView& newsView, BKQuoteInterface& newsBackE
 template <class Control>
 Control* ControlSet::add(int id, const QRect& rectangle) {
     auto* control = new Control(&view);
-    setWindowId(control, id);
-    controls.insert(id, control);
+    take(id, *control);
     control->setGeometry(rectangle);
     return control;
 }
@@ -144,8 +142,9 @@ void ControlSet::createNotices() {
     button->hide();
 }
 
-void ControlSet::createSearchLine() {
-    add<ChipLine>(ids::searchLine, {})->hide();
+void ControlSet::take(int id, QWidget& control) {
+    setWindowId(&control, id);
+    controls.insert(id, &control);
 }
 
 void ControlSet::createServiceButton(const QRect& rectangle) {

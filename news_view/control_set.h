@@ -28,8 +28,8 @@ public:
     void CreateFunctionBtn();
     // The line of notices, and the buttons of those that can be acted on. Hidden.
     void createNotices();
-    // The line over what was found. Hidden.
-    void createSearchLine();
+    // A child of the view's window that another one has created.
+    void take(int id, QWidget& control);
     void createServiceButton(const QRect& rectangle);
     void createTabStrip(const QRect& rectangle);
     void createDatePicker(const QRect& rectangle, const QDate& date);

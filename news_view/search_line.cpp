@@ -37,9 +37,11 @@ SearchLine::SearchLine(ViewContext& viewContext, const CommonParts& commonParts,
                        Replace search)
     : context(viewContext), parts(commonParts), searches(desk), replace(std::move(search)) {}
 
-void SearchLine::connectLine() {
-    if (auto* line = parts.controls.find<ChipLine>(ids::searchLine))
-        connect(line, &ChipLine::taken, this, &SearchLine::takeOut);
+void SearchLine::create() {
+    auto* line = new ChipLine(&parts.window);
+    line->hide();
+    parts.controls.take(ids::searchLine, *line);
+    connect(line, &ChipLine::taken, this, &SearchLine::takeOut);
 }
 
 void SearchLine::watch(CSuperSheetWnd& grid) {

@@ -27,8 +27,8 @@ public:
     using Replace = std::function<void(const CSearch& condition)>;
     SearchLine(ViewContext& context, const CommonParts& parts, const SearchDesk& searches, Replace replace);
 
-    // The line is there from here on.
-    void connectLine();
+    // The line is there from here on, hidden.
+    void create();
     // From here on its rows are followed.
     void watch(CSuperSheetWnd& grid);
     // What the line says may have changed, or the language has.

@@ -5,7 +5,6 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "host/contract/fixed_services.h"
-#include "host/controls/chip_line.h"
 #include "host/controls/row_look.h"
 #include "host/controls/window_id.h"
 #include "host/views/news_control_ids.h"
@@ -149,10 +148,8 @@ void ViewBuilder::createControlsOf(ListIndex mode, const QRect& row) {
         calls.connectSearchEdit();
     const bool searches = mode == ListIndex::Search || mode == ListIndex::WarningTerm;
     if (searches && parts.settings.options[ViewOption::SearchLine] &&
-        parts.controls.find<ChipLine>(ids::searchLine) == nullptr) {
-        parts.controls.createSearchLine();
-        calls.connectSearchLine();
-    }
+        parts.controls.find<QWidget>(ids::searchLine) == nullptr)
+        calls.createSearchLine();
 }
 
 void ViewBuilder::vInitialSheetWnd(ListIndex list, const QRect& place) {

@@ -46,7 +46,7 @@ public:
         std::function<void(CSuperSheetWnd&, ListIndex)> connectGrid;
         std::function<void()> connectDatePicker;
         std::function<void()> connectSearchEdit;
-        std::function<void()> connectSearchLine;
+        std::function<void()> createSearchLine;
         std::function<void()> connectCategoryCombo;
     };
 

@@ -103,7 +103,7 @@ ViewBuilder::Calls TRVNewsCtrlView::Parts::builderCalls() {
             [this](CSuperSheetWnd& grid, ListIndex list) { connectGrid(grid, list); },
             [this] { days.connectPicker(); },
             [this] { searches.connectEdit(); },
-            [this] { searchLine.connectLine(); },
+            [this] { searchLine.create(); },
             [this] { categories.connectCombo(); }};
 }
 
