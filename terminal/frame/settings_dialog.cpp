@@ -16,6 +16,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -29,6 +31,17 @@ QLabel* explanation(const QString& text) {
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     return label;
+}
+
+// All as wide as the widest.
+void alignFields(const QList<QWidget*>& fields) {
+    int widest = 0;
+    for (QWidget* field : fields) {
+        field->ensurePolished();
+        widest = std::max(widest, field->sizeHint().width());
+    }
+    for (QWidget* field : fields)
+        field->setMinimumWidth(widest);
 }
 
 // An explanation that stands under a check box, where its text begins.
@@ -85,6 +98,7 @@ QWidget* SettingsDialog::generalPage(const TerminalChoices& present) {
     form->addRow(terminalText(TextId::SettingsScheme), scheme);
     form->addRow(terminalText(TextId::SettingsRising), rising);
     form->addRow(terminalText(TextId::SettingsFont), fontSize);
+    alignFields({language, scheme, rising, fontSize});
     return page;
 }
 

@@ -15,10 +15,13 @@
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QFrame>
+#include <QLineEdit>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTextLayout>
 
+#include <algorithm>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -105,6 +108,23 @@ bool isPartOfInput(const QWidget* widget) {
     const QWidget* parent = widget != nullptr ? widget->parentWidget() : nullptr;
     return qobject_cast<const QComboBox*>(parent) != nullptr ||
            qobject_cast<const QAbstractSpinBox*>(parent) != nullptr;
+}
+
+int lineHeight(const QString& text, const QFont& font) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    return qRound(line.height());
+}
+
+// A line edit takes account twice of characters that are higher than its font's own, as Chinese ones are: it
+// sets them, and all beside them, too high by this.
+int liftOf(const QLineEdit& line) {
+    const QString text = line.displayText();
+    const bool isPlain =
+        std::all_of(text.begin(), text.end(), [](QChar character) { return character.unicode() < 0x250; });
+    return isPlain ? 0 : (lineHeight(text, line.font()) - lineHeight(u"0"_s, line.font())) / 2;
 }
 
 bool isInView(const QWidget* widget) {
@@ -198,6 +218,15 @@ QRect TerminalStyle::subControlRect(ComplexControl control, const QStyleOptionCo
     if (control == CC_ScrollBar && bar != nullptr)
         return thin_bar::part(*bar, subControl);
     return QProxyStyle::subControlRect(control, option, subControl, widget);
+}
+
+QRect TerminalStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                    const QWidget* widget) const {
+    QRect place = QProxyStyle::subElementRect(element, option, widget);
+    // The text stands in the middle: room below moves it down.
+    if (const auto* line = qobject_cast<const QLineEdit*>(widget); element == SE_LineEditContents && line)
+        place.adjust(0, 0, 0, 2 * liftOf(*line));
+    return place;
 }
 
 void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -373,7 +402,8 @@ void TerminalStyle::drawSpinBox(const QStyleOptionComplex& option, QPainter& pai
     drawInput(option, painter, true);
     for (const auto& [part, icon] :
          {std::pair(SC_SpinBoxUp, LineIcon::Prev), std::pair(SC_SpinBoxDown, LineIcon::Next)})
-        drawArrow(icon, option, proxy()->subControlRect(CC_SpinBox, &option, part, widget), 8, painter);
+        drawArrow(icon, option, proxy()->subControlRect(CC_SpinBox, &option, part, widget), grownWithType(8),
+                  painter);
 }
 
 void TerminalStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
