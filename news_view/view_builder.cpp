@@ -84,6 +84,7 @@ CNewsRelateSymbolQuoteView* ViewBuilder::createQuotes(const ViewSettingPath& pat
         return nullptr;
     }
     quotes->setLook(quoteLook(parts.settings.options));
+    quotes->leaveEdges(parts.settings.options[ViewOption::MovablePanes]);
     quotes->setSorting(parts.settings.quoteSorting);
     stage.setQuotes(quotes);
     return quotes;

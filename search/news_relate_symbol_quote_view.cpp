@@ -90,8 +90,10 @@ void CNewsRelateSymbolQuoteView::vChangeCast() {
 void CNewsRelateSymbolQuoteView::OnDraw(QPainter& painter) {
     QuoteListBaseView::OnDraw(painter);
     painter.setPen(lineColour);
-    painter.drawLine(rect().topLeft(), rect().topRight());
-    painter.drawLine(rect().topLeft(), rect().bottomLeft());
+    if (!edgesLeft) {
+        painter.drawLine(rect().topLeft(), rect().topRight());
+        painter.drawLine(rect().topLeft(), rect().bottomLeft());
+    }
     if (isTitleShown())
         painter.drawLine(0, titleHeight(), width(), titleHeight());
 }

@@ -23,6 +23,8 @@ public:
     int GetCurrSymbolInfo(unsigned char& service, QString& code) override;
     void GetCaption(QString& caption) override;
     void vChangeCast() override;
+    // Whether whoever places it draws the lines between it and what is beside it.
+    void leaveEdges(bool left) { edgesLeft = left; }
 
 protected:
     void OnDraw(QPainter& painter) override;
@@ -31,4 +33,5 @@ protected:
 
 private:
     QColor lineColour;
+    bool edgesLeft = false;
 };

@@ -123,6 +123,7 @@ void TRVNewsStory::createButtons() {
 void TRVNewsStory::addTools(QStringList& places) {
     keptPlaces = &places;
     tools = new StoryTools(this);
+    storyEdit->setFrameStyle(QFrame::NoFrame);
     connect(tools, &StoryTools::copyWanted, this, &TRVNewsStory::copyStory);
     connect(tools, &StoryTools::sizeWanted, this, &TRVNewsStory::sizeWanted);
     reader.tellHeads(true);

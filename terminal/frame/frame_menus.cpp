@@ -105,6 +105,8 @@ std::optional<LineIcon> iconOf(FrameCommand command) {
             return LineIcon::Next;
         case FrameCommand::NewsPreviousPage:
             return LineIcon::Prev;
+        case FrameCommand::NewsLayout:
+            return LineIcon::LayoutRight;
         case FrameCommand::NewsOpenInWindow:
         case FrameCommand::FloatView:
             return LineIcon::Window;

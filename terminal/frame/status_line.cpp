@@ -3,6 +3,7 @@
 #include "terminal/frame/status_line.h"
 
 #include "host/contract/colour_roles.h"
+#include "host/controls/line_icon.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QApplication>
@@ -103,6 +104,7 @@ StatusLine::StatusLine(QWidget* parent)
       day(addLabel()),
       index(addLabel()),
       headlines(addLabel()),
+      servicesIcon(addLabel()),
       services(addLabel()),
       clock(addLabel()) {
     for (QLabel* links : {actions, day}) {
@@ -118,8 +120,14 @@ StatusLine::StatusLine(QWidget* parent)
     for (QWidget* part : std::initializer_list<QWidget*>{feed, actions, last, asOf, present, day})
         row->addWidget(part);
     row->addStretch(1);
-    for (QWidget* part : {index, headlines, services, clock})
+    for (QWidget* part : {index, headlines})
         row->addWidget(part);
+    auto* ticked = new QHBoxLayout;
+    ticked->setSpacing(4);
+    ticked->addWidget(servicesIcon);
+    ticked->addWidget(services);
+    row->addLayout(ticked);
+    row->addWidget(clock);
     connect(actions, &QLabel::linkActivated, this,
             [this](const QString& name) { name == "import"_L1 ? emit importAsked() : emit connectAsked(); });
     connect(day, &QLabel::linkActivated, this, &StatusLine::todayAsked);
@@ -160,6 +168,9 @@ void StatusLine::show(const FrameStatus& status) {
              status.headlines < 0 ? QString() : countText(TextId::HeadlineCount, status.headlines));
     services->setText(
         countText(terminalText(TextId::ServicesCount).arg(status.services), status.allServices));
+    const int side = fontMetrics().height();
+    servicesIcon->setPixmap(lineIcon(LineIcon::Services, QPalette::PlaceholderText)
+                                .pixmap(QSize(side, side), devicePixelRatioF()));
     clock->setText(clockText(status.now));
     giveRoom();
 }
@@ -170,10 +181,12 @@ void StatusLine::giveRoom() {
     for (QLabel* part : parts)
         part->setHidden(part->text().isEmpty());
     for (QLabel* part : parts) {
+        servicesIcon->setHidden(services->isHidden());
         if (layout()->totalSizeHint().width() <= width())
             return;
         part->hide();
     }
+    servicesIcon->hide();
 }
 
 void StatusLine::resizeEvent(QResizeEvent* event) {

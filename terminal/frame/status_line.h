@@ -65,6 +65,7 @@ private:
     QLabel* day;
     QLabel* index;
     QLabel* headlines;
+    QLabel* servicesIcon;
     QLabel* services;
     QLabel* clock;
 };
