@@ -8,6 +8,7 @@
 #include "headline_list/list_state.h"
 #include "headline_list/reading_place.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/news_record.h"
 
 #include <utility>
 
@@ -29,6 +30,7 @@ HeadlineList::HeadlineList(const ListKind& listKind, BKQuoteInterface& newsBackE
       table(state->table),
       cells(state->cells),
       heldPlace(state->heldPlace) {
+    state->record = dynamic_cast<NewsRecord*>(&backEnd);
     afterPainting.setSingleShot(true);
     QObject::connect(&afterPainting, &QTimer::timeout, &afterPainting, [this] { table.buildIndex(); });
     QObject::connect(&state->fading, &QTimer::timeout, &state->fading, [this] { fade(); });

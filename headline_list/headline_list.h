@@ -33,6 +33,7 @@ namespace wirepane {
 enum class NewsType : int;
 enum class HeadlineColumn;
 struct HeadlineKey;
+struct NewsState;
 struct WrittenCells;
 struct HeadlineColumnKind;
 
@@ -113,6 +114,8 @@ public:
     void replaceHeadline(int row, const CHeadline& headline);
     // The row of a headline that is not one of this list's any more, or of none. Result: where it stood.
     HeadlinePlace takeOut(int row);
+    // What became of this news since it was written may have changed.
+    void showStateAgain(const HeadlineKey& key);
     // Takes a row out; one out of range is ignored.
     void vDeleteHeadline(int row);
 
@@ -136,6 +139,8 @@ public:
     QColor textColour(int row, int column) const override;
     SheetChip chip(const QString& cellText, int column) const override;
     QString tag(int row, int column) const override;
+    QString mark(int row, int column) const override;
+    bool isStruck(int row, int column) const override;
     int arrival(int row) const override;
     bool holdsFigures(int column) const override;
     QString toolTip(int row) const override;
@@ -157,6 +162,9 @@ private:
     void noteArrival(const HeadlineKey& key);
     void fade();
     QString serviceName(unsigned char service) const;
+    // What became of the news of a row; as first sent where marks are not asked for.
+    NewsState newsState(int row) const;
+    bool isTitleOfRow(int row, int column) const;
 
     const ListKind& kind;
     BKQuoteInterface& backEnd;

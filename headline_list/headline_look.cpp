@@ -3,11 +3,13 @@
 // How a headline list looks where its settings ask for more than the plain columns.
 #include "headline_list/headline_columns.h"
 #include "headline_list/headline_list.h"
+#include "headline_list/language_keys.h"
 #include "headline_list/list_state.h"
 #include "headline_list/row_tip.h"
 #include "headline_list/title_chips.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
+#include "host/contract/news_record.h"
 #include "host/controls/row_look.h"
 
 #include <QHeaderView>
@@ -97,12 +99,42 @@ QString HeadlineList::serviceName(unsigned char service) const {
     return *state->serviceNames.insert(service, name);
 }
 
-QString HeadlineList::tag(int row, int column) const {
+bool HeadlineList::isTitleOfRow(int row, int column) const {
     const HeadlineColumnKind* shown = columnAt(column);
-    if (!state->options[ViewOption::ServiceTags] || shown == nullptr ||
-        shown->column != HeadlineColumn::Title || row < 0 || row >= table.size())
+    return shown != nullptr && shown->column == HeadlineColumn::Title && row >= 0 && row < table.size();
+}
+
+QString HeadlineList::tag(int row, int column) const {
+    return state->options[ViewOption::ServiceTags] && isTitleOfRow(row, column)
+               ? serviceName(table.at(row).service)
+               : QString();
+}
+
+// --- What became of the news ---
+
+NewsState HeadlineList::newsState(int row) const {
+    return state->options[ViewOption::RecordMarks] && state->record != nullptr
+               ? state->record->newsState(keyOf(table.at(row)))
+               : NewsState();
+}
+
+void HeadlineList::showStateAgain(const HeadlineKey& key) {
+    const int row = table.rowOf(key);
+    if (sheet != nullptr && row >= 0)
+        sheet->invalidateRow(row);
+}
+
+QString HeadlineList::mark(int row, int column) const {
+    if (!isTitleOfRow(row, column))
         return {};
-    return serviceName(table.at(row).service);
+    const NewsState news = newsState(row);
+    if (news.isAsFirstSent())
+        return {};
+    return langText(backEnd, news.withdrawal ? keys::withdrawnMark : keys::correctedMark);
+}
+
+bool HeadlineList::isStruck(int row, int column) const {
+    return isTitleOfRow(row, column) && newsState(row).withdrawal.has_value();
 }
 
 QString HeadlineList::toolTip(int row) const {
@@ -111,7 +143,8 @@ QString HeadlineList::toolTip(int row) const {
         return {};
     const CHeadlineTable& entry = table.at(row);
     return rowTip(backEnd, written->textOf(HeadlineColumn::Title), serviceName(entry.service),
-                  written->textOf(HeadlineColumn::Category), entry.time, host_clock::now());
+                  written->textOf(HeadlineColumn::Category), entry.time, host_clock::now()) +
+           recordTip(backEnd, newsState(row));
 }
 
 // --- Rows that have just come ---

@@ -78,6 +78,11 @@ inline constexpr QLatin1StringView title{"IDS_NEWSCTRLVIEW_STRING_TITLE"};
 inline constexpr QLatin1StringView recover{"IDS_NEWSCTRLVIEW_STRING_RECOVER"};
 
 // How long ago a headline came, in its tool tip. "%1": how many.
+inline constexpr QLatin1StringView correctedMark{"IDS_NEWSCTRLVIEW_CORRECTED"};
+inline constexpr QLatin1StringView withdrawnMark{"IDS_NEWSCTRLVIEW_WITHDRAWN"};
+inline constexpr QLatin1StringView correctedTip{"IDS_NEWSCTRLVIEW_TIP_CORRECTED"};
+inline constexpr QLatin1StringView withdrawnTip{"IDS_NEWSCTRLVIEW_TIP_WITHDRAWN"};
+inline constexpr QLatin1StringView withdrawnWhyTip{"IDS_NEWSCTRLVIEW_TIP_WITHDRAWN_WHY"};
 inline constexpr QLatin1StringView secondsAgo{"IDS_NEWSCTRLVIEW_TIP_SECONDS_AGO"};
 inline constexpr QLatin1StringView minutesAgo{"IDS_NEWSCTRLVIEW_TIP_MINUTES_AGO"};
 inline constexpr QLatin1StringView hoursAgo{"IDS_NEWSCTRLVIEW_TIP_HOURS_AGO"};

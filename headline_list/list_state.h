@@ -16,6 +16,7 @@
 #include <optional>
 
 namespace wirepane {
+class NewsRecord;
 
 // What a headline list is made of. For its own files alone.
 struct HeadlineList::State {
@@ -29,6 +30,7 @@ struct HeadlineList::State {
     QElapsedTimer clock;  // of the arrivals
     QTimer fading;
     QHash<unsigned char, QString> serviceNames;  // that were asked for
+    NewsRecord* record = nullptr;                // of the back end; null: it has none
 };
 
 }  // namespace wirepane

@@ -4,6 +4,7 @@
 
 #include "headline_list/cell_texts.h"
 #include "headline_list/language_keys.h"
+#include "host/contract/news_record.h"
 
 #include <QStringList>
 
@@ -40,6 +41,22 @@ QString rowTip(BKQuoteInterface& backEnd, const QString& title, const QString& s
     QStringList lines{title, parts.join(u" \u00B7 "_s)};
     lines.removeAll(QString());
     return lines.join(u'\n');
+}
+
+QString recordTip(BKQuoteInterface& backEnd, const NewsState& state) {
+    QString text;
+    if (state.corrections > 0)
+        text += u'\n' + langText(backEnd, keys::correctedTip).arg(state.corrections);
+    if (state.withdrawal)
+        text += u'\n' + withdrawalText(backEnd, *state.withdrawal);
+    return text;
+}
+
+QString withdrawalText(BKQuoteInterface& backEnd, const Withdrawal& withdrawal) {
+    const QString time = localTime(withdrawal.moment).toString(u"yyyy/MM/dd HH:mm:ss"_s);
+    return withdrawal.reason.isEmpty()
+               ? langText(backEnd, keys::withdrawnTip).arg(time)
+               : langText(backEnd, keys::withdrawnWhyTip).arg(time, withdrawal.reason);
 }
 
 }  // namespace wirepane

@@ -41,8 +41,10 @@ void TRVNewsCtrlView::RespStory(const CHeadlineTable& entry) {
 }
 
 void TRVNewsCtrlView::StoryUpdateNotify(const CHeadlineTable* entry) {
-    if (entry != nullptr)
-        parts->story.takeUpdate(*entry);
+    if (entry == nullptr)
+        return;
+    parts->story.takeUpdate(*entry);
+    parts->listOf(parts->modes.shown()).showStateAgain(keyOf(*entry));
 }
 
 void TRVNewsCtrlView::OnReCoverStory() {

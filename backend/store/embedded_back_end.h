@@ -153,7 +153,7 @@ public:
     // its market and its code, an entry its service, time and number, a search its keywords.
     std::vector<Request> takeRequests() { return requests.take(); }
     bool hasNewsOn(unsigned char service, const QDate& day) override;
-    NewsState newsState(const HeadlineKey& key) override { return reader.state(key); }
+    NewsState newsState(const HeadlineKey& key) override { return headlineCache.state(key); }
     std::vector<NewsVersion> versionsOf(const HeadlineKey& key) override { return reader.versions(key); }
     // When the newest headline was dated that is there at the present moment; 0: there is none.
     std::int64_t newestTime();

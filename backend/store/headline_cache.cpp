@@ -5,7 +5,7 @@
 namespace wirepane {
 
 HeadlineCache::HeadlineCache(StoreReader& reader, qsizetype mostHeadlines)
-    : store(reader), headlines(mostHeadlines) {}
+    : store(reader), headlines(mostHeadlines), states(mostHeadlines) {}
 
 const CHeadline* HeadlineCache::find(const HeadlineKey& key) {
     if (const CHeadline* const known = headlines.object({key}))
@@ -17,12 +17,22 @@ const CHeadline* HeadlineCache::find(const HeadlineKey& key) {
     return headlines.object({key});
 }
 
+NewsState HeadlineCache::state(const HeadlineKey& key) {
+    if (const NewsState* const known = states.object({key}))
+        return *known;
+    const NewsState read = store.state(key);
+    states.insert({key}, new NewsState(read));
+    return read;
+}
+
 void HeadlineCache::forget(const HeadlineKey& key) {
     headlines.remove({key});
+    states.remove({key});
 }
 
 void HeadlineCache::clear() {
     headlines.clear();
+    states.clear();
 }
 
 }  // namespace wirepane

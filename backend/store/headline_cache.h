@@ -11,8 +11,8 @@
 
 namespace wirepane {
 
-// The headlines that were looked up last, in front of the store. Thread: that of the reader, which must
-// outlive it.
+// The headlines that were looked up last, and what became of them, in front of the store. Thread: that of the
+// reader, which must outlive it.
 class HeadlineCache {
 public:
     explicit HeadlineCache(StoreReader& reader, qsizetype mostHeadlines = 4096);
@@ -20,6 +20,7 @@ public:
     // The headline, from memory (a cache hit) or from the store; null when there is none. Valid until the
     // next call.
     const CHeadline* find(const HeadlineKey& key);
+    NewsState state(const HeadlineKey& key);
     void forget(const HeadlineKey& key);
     void clear();
 
@@ -35,6 +36,7 @@ private:
 
     StoreReader& store;
     QCache<Key, CHeadline> headlines;
+    QCache<Key, NewsState> states;
 };
 
 }  // namespace wirepane

@@ -30,7 +30,7 @@ struct Withdrawal {
 
 struct NewsState {
     int corrections = 0;  // versions before this one
-    std::optional<Withdrawal> withdrawal;
+    std::optional<Withdrawal> withdrawal = {};
 
     bool isAsFirstSent() const { return corrections == 0 && !withdrawal; }
 };

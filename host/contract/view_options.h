@@ -34,6 +34,7 @@ enum class ViewOption {
     FollowNewest,           // the newest row is selected until the reader goes to one himself
     MeasuredColumns,        // columns as wide as their texts; widths set by hand are kept
     FinishedRows,           // a row under the pointer, a bar at the selected one, small quiet headings
+    RecordMarks,            // what was corrected or withdrawn is marked, in its row and in its story
     ServiceTags,            // the service's short name at the right of a title
     TitleChips,             // the words of a flash or a correction at a title's head as a chip
     MarkArrivals,           // rows that have just come are tinted, and fade
@@ -76,6 +77,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::FollowNewest, QLatin1StringView("FollowNewest")},
     {ViewOption::MeasuredColumns, QLatin1StringView("MeasuredColumns")},
     {ViewOption::FinishedRows, QLatin1StringView("FinishedRows")},
+    {ViewOption::RecordMarks, QLatin1StringView("RecordMarks")},
     {ViewOption::ServiceTags, QLatin1StringView("ServiceTags")},
     {ViewOption::TitleChips, QLatin1StringView("TitleChips")},
     {ViewOption::MarkArrivals, QLatin1StringView("MarkArrivals")},

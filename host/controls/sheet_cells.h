@@ -54,6 +54,18 @@ public:
         Q_UNUSED(column);
         return {};
     }
+    // As the tag, before it, in the colour of the text and in every cell that has any room for it.
+    virtual QString mark(int row, int column) const {
+        Q_UNUSED(row);
+        Q_UNUSED(column);
+        return {};
+    }
+    // The text is struck out.
+    virtual bool isStruck(int row, int column) const {
+        Q_UNUSED(row);
+        Q_UNUSED(column);
+        return false;
+    }
     // How much of the colour of rows that have just come a row's ground has, of fullArrival; 0: none.
     static constexpr int fullArrival = 8;
     virtual int arrival(int row) const {

@@ -8,13 +8,16 @@
 #include <QPaintDevice>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace wirepane {
 
 namespace {
 
 constexpr int roomForTag = 420;  // a cell that is narrower shows none
-constexpr int tagEdge = 18;      // from the cell's right edge: the scroll bar lies there
-constexpr int tagGap = 10;       // between text and tag
+constexpr int roomForMark = 160;
+constexpr int tagEdge = 18;  // from the cell's right edge: the scroll bar lies there
+constexpr int tagGap = 10;   // between text and tag
 constexpr int radius = 3;
 constexpr int mostKept = 64;
 
@@ -56,16 +59,32 @@ void SheetRowPainter::setPen(QPainter& painter, const QColor& colour) {
     painter.setPen(*pen);
 }
 
-int SheetRowPainter::paintTag(QPainter& painter, const SheetCells& cells, const Cell& cell,
-                              const QPalette& palette) {
-    const QString tag = cell.room.width() < roomForTag ? QString() : cells.tag(cell.row, cell.column);
-    if (tag.isEmpty())
-        return cell.room.right() + 1;
+int SheetRowPainter::paintTag(QPainter& painter, const QString& tag, const QRect& room,
+                              const QColor& colour) {
     const DrawnText& drawn = tags.line(tag, roomForTag / 2);
-    const qreal left = cell.room.right() + 1 - tagEdge - drawn.width;
-    setPen(painter, colours.weakColour(palette));
-    DrawnTexts::draw(painter, drawn, left, baselineIn(cell.room, tags.font()));
+    const qreal left = room.right() + 1 - drawn.width;
+    setPen(painter, colour);
+    DrawnTexts::draw(painter, drawn, left, baselineIn(room, tags.font()));
     return static_cast<int>(left) - tagGap;
+}
+
+int SheetRowPainter::paintTags(QPainter& painter, const SheetCells& cells, const Cell& cell,
+                               const QPalette& palette) {
+    const int width = cell.room.width();
+    const QString tag = width < roomForTag ? QString() : cells.tag(cell.row, cell.column);
+    const QString mark = width < roomForMark ? QString() : cells.mark(cell.row, cell.column);
+    if (tag.isEmpty() && mark.isEmpty())
+        return cell.room.right() + 1;
+    QRect room = cell.room.adjusted(0, 0, -tagEdge, 0);
+    if (!tag.isEmpty())
+        room.setRight(paintTag(painter, tag, room, colours.weakColour(palette)) - 1);
+    return mark.isEmpty() ? room.right() + 1
+                          : paintTag(painter, mark, room, textColour(cells, cell, palette));
+}
+
+QColor SheetRowPainter::textColour(const SheetCells& cells, const Cell& cell, const QPalette& palette) const {
+    const QColor own = cells.textColour(cell.row, cell.column);
+    return own.isValid() ? own : colours.textColour(palette);
 }
 
 void SheetRowPainter::paint(QPainter& painter, const SheetCells& cells, const Cell& cell,
@@ -73,7 +92,7 @@ void SheetRowPainter::paint(QPainter& painter, const SheetCells& cells, const Ce
     const QString text = cells.text(cell.row, cell.column);
     if (text.isEmpty())
         return;
-    const int right = paintTag(painter, cells, cell, palette);
+    const int right = paintTags(painter, cells, cell, palette);
     const DrawnText& drawn = texts.line(text, right - cell.room.left(), &cells, cell.column);
     qreal x = cell.room.left();
     if (cell.alignment & Qt::AlignRight)
@@ -85,9 +104,13 @@ void SheetRowPainter::paint(QPainter& painter, const SheetCells& cells, const Ce
                            chip);
         x += chip.width() / chip.devicePixelRatio() + DrawnTexts::chipGap;
     }
-    const QColor own = cells.textColour(cell.row, cell.column);
-    setPen(painter, own.isValid() ? own : colours.textColour(palette));
-    DrawnTexts::draw(painter, drawn, x, baselineIn(cell.room, texts.font()));
+    setPen(painter, textColour(cells, cell, palette));
+    const qreal baseline = baselineIn(cell.room, texts.font());
+    DrawnTexts::draw(painter, drawn, x, baseline);
+    if (cells.isStruck(cell.row, cell.column)) {
+        const qreal middle = baseline - QFontMetricsF(texts.font()).xHeight() / 2;
+        painter.drawLine(QPointF(x, middle), QPointF(std::min(x + drawn.width, qreal(right)), middle));
+    }
 }
 
 const QPixmap& SheetRowPainter::chipPicture(const QPainter& painter, const QString& label, bool urgent,

@@ -16,8 +16,8 @@ namespace wirepane {
 class SheetCells;
 
 // Draws what stands in the cells of finished rows: the text, cut with dots at the right, its head as a chip,
-// the tag at its end. What was drawn once is drawn again without being laid out again, and without taking
-// memory.
+// mark and tag at its end. What was drawn once is drawn again without being laid out again, and without
+// taking memory.
 class SheetRowPainter {
 public:
     struct Cell {
@@ -38,8 +38,10 @@ public:
     void paint(QPainter& painter, const SheetCells& cells, const Cell& cell, const QPalette& palette);
 
 private:
-    // Result: where the tag leaves off.
-    int paintTag(QPainter& painter, const SheetCells& cells, const Cell& cell, const QPalette& palette);
+    // Result: where tag and mark leave off.
+    int paintTags(QPainter& painter, const SheetCells& cells, const Cell& cell, const QPalette& palette);
+    int paintTag(QPainter& painter, const QString& tag, const QRect& room, const QColor& colour);
+    QColor textColour(const SheetCells& cells, const Cell& cell, const QPalette& palette) const;
     const QPixmap& chipPicture(const QPainter& painter, const QString& label, bool urgent,
                                const QPalette& palette);
     void setPen(QPainter& painter, const QColor& colour);

@@ -1479,6 +1479,10 @@
         <source></source>
         <translation>Terms</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_CORRECTED">
+        <source></source>
+        <translation>Corrected</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_BEGIN_SEARCH">
         <source></source>
         <translation>Go to the Search Box</translation>
@@ -1839,6 +1843,10 @@
         <source></source>
         <translation>Pending…</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_CORRECTED">
+        <source></source>
+        <translation>Corrected; earlier versions: %1</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_TIP_SECONDS_AGO">
         <source></source>
         <translation>%1 s ago</translation>
@@ -1958,6 +1966,18 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_WARRANT_NEWS">
         <source></source>
         <translation>Warrants</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_WITHDRAWN">
+        <source></source>
+        <translation>Withdrawn by its publisher at %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_WITHDRAWN_WHY">
+        <source></source>
+        <translation>Withdrawn by its publisher at %1: %2</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_WITHDRAWN">
+        <source></source>
+        <translation>Withdrawn</translation>
     </message>
     <message id="IDS_QUOTE-LIST_CHANGE">
         <source></source>

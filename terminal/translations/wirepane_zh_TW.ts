@@ -1479,6 +1479,10 @@
         <source></source>
         <translation>警示詞</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_CORRECTED">
+        <source></source>
+        <translation>更正</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_BEGIN_SEARCH">
         <source></source>
         <translation>到搜尋框</translation>
@@ -1839,6 +1843,10 @@
         <source></source>
         <translation>回補中…</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_CORRECTED">
+        <source></source>
+        <translation>已更正；先前的版本：%1</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_TIP_SECONDS_AGO">
         <source></source>
         <translation>%1 秒前</translation>
@@ -1958,6 +1966,18 @@
     <message id="IDS_NEWSCTRLVIEW_STRING_WARRANT_NEWS">
         <source></source>
         <translation>權證新聞</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_WITHDRAWN">
+        <source></source>
+        <translation>發布者於 %1 撤回</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TIP_WITHDRAWN_WHY">
+        <source></source>
+        <translation>發布者於 %1 撤回：%2</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_WITHDRAWN">
+        <source></source>
+        <translation>撤回</translation>
     </message>
     <message id="IDS_QUOTE-LIST_CHANGE">
         <source></source>

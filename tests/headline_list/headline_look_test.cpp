@@ -71,6 +71,39 @@ TEST_F(HeadlineLook, ATipSaysWhatARowHasNoRoomFor) {
     EXPECT_TRUE(rowTip(backEnd, u"T"_s, {}, {}, time, time - 1).endsWith(u"09:30:05"));  // yet to come
 }
 
+TEST_F(HeadlineLook, RowsSayWhatBecameOfTheirNews) {
+    for (const auto& [key, text] : {std::pair{u"CORRECTED"_s, u"fixed"_s},
+                                    {u"WITHDRAWN"_s, u"gone"_s},
+                                    {u"TIP_CORRECTED"_s, u"%1 before"_s},
+                                    {u"TIP_WITHDRAWN"_s, u"gone at %1"_s},
+                                    {u"TIP_DAYS_AGO"_s, u"%1 d"_s},
+                                    {u"TIP_WITHDRAWN_WHY"_s, u"gone at %1: %2"_s}})
+        backEnd.texts[u"IDS_NEWSCTRLVIEW_"_s + key] = text;
+    const std::int64_t time = localTime(2026, 3, 2, 9, 30);
+    backEnd.states[2].corrections = 2;
+    backEnd.states[3].withdrawal = Withdrawal{time + 60, {}};
+    backEnd.states[4] = {.corrections = 1, .withdrawal = Withdrawal{time + 60, u"Untrue"_s}};
+    HeadlineList& news = list(ListIndex::All);
+    news.setTable({{{time, 4, 1}, {time, 3, 1}, {time, 2, 1}, {time, 1, 1}}});
+    news.vFillHeadlineTable();
+    for (int row = 0; row < 4; ++row)
+        news.vFillSheet(row, u"09:30"_s, u"Topic"_s, u"T"_s);
+    const auto told = [&](int row) {
+        return news.mark(row, titleColumn) + (news.isStruck(row, titleColumn) ? u"|struck|"_s : u"|"_s) +
+               news.toolTip(row).section(u'\n', 2);
+    };
+    for (int row = 0; row < 4; ++row)
+        EXPECT_EQ(news.mark(row, titleColumn) + news.toolTip(row), QString()) << "bare";
+    news.setOptions(ownOptions());
+    EXPECT_EQ(told(3), u"|"_s);
+    EXPECT_EQ(told(2), u"fixed|2 before"_s);
+    EXPECT_EQ(told(1), u"gone|struck|gone at 2026/03/02 09:31:00"_s);
+    EXPECT_EQ(told(0), u"gone|struck|1 before\ngone at 2026/03/02 09:31:00: Untrue"_s);
+    EXPECT_EQ(news.mark(1, timeColumn), QString());
+    EXPECT_EQ(news.mark(4, titleColumn), QString());
+    EXPECT_FALSE(news.isStruck(-1, titleColumn));
+}
+
 TEST_F(HeadlineLook, MeasuredColumnsHoldTheirTextsAtAnySize) {
     backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_CATEGORY"_s] = u"Topic"_s;
     backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_TIME"_s] = u"Time"_s;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/news_record.h"
 #include "host/contract/search_control.h"
 #include "tests/support/qt_printers.h"
 
@@ -17,7 +18,7 @@ namespace wirepane {
 
 // A back end for tests: holds headlines in memory, answers like a real one, and writes down what it was
 // asked.
-class FakeBackEnd : public BKQuoteInterface, public SearchControl {
+class FakeBackEnd : public BKQuoteInterface, public SearchControl, public NewsRecord {
 public:
     FakeBackEnd() {
         setBKInterface(this);
@@ -101,6 +102,13 @@ public:
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
     QString PathGetSysPath() override { return sysPath; }
 
+    NewsState newsState(const HeadlineKey& key) override { return states.value(key.sequence); }
+    std::vector<NewsVersion> versionsOf(const HeadlineKey& key) override {
+        return versions.value(key.sequence);
+    }
+
+    QHash<int, NewsState> states;  // by number
+    QHash<int, std::vector<NewsVersion>> versions;
     QHash<QString, QString> texts;  // language texts; a key without one is its own text
 
 private:
