@@ -100,8 +100,12 @@ bool HeadlineKeys::catchUp() {
     return std::int64_t(size()) <= most + most / 4 || load();
 }
 
+bool HeadlineKeys::areFew(const IdSet& ids) const {
+    return ids.hasAtMost(isLoaded() ? fewMatches : fewBeforeLoading);
+}
+
 std::optional<std::vector<CHeadlineTable>> HeadlineKeys::entries(unsigned char service, const IdSet& ids) {
-    if (ids.hasAtMost(isLoaded() ? fewMatches : fewBeforeLoading))
+    if (areFew(ids))
         return lookUp(service, ids);
     if (!catchUp())
         return std::nullopt;

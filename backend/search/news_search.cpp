@@ -9,6 +9,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 namespace wirepane {
 
 using namespace Qt::StringLiterals;
@@ -51,9 +53,35 @@ NewsSearch::NewsSearch(Database& database)
 std::optional<std::vector<CHeadlineTable>> NewsSearch::find(unsigned char service, const CSearch& condition,
                                                             const std::atomic<bool>* stop) {
     stopping = stop;
+    return atOneMoment([&] {
+        const std::optional<QueryMatch> match = findNow(service, condition);
+        return match ? entries(service, *match) : std::nullopt;
+    });
+}
+
+std::optional<std::vector<CHeadlineTable>> NewsSearch::findOnce(unsigned char service,
+                                                                const CSearch& condition,
+                                                                const Newest& newest) {
+    stopping = nullptr;
+    return atOneMoment([&]() -> std::optional<std::vector<CHeadlineTable>> {
+        std::optional<QueryMatch> match = findNow(service, condition);
+        if (!match)
+            return std::nullopt;
+        match->days.last = std::min(match->days.last, newest.latest);
+        if (match->isAllBut || !keys.areFew(match->ids))
+            return newestEntries(service, *match, newest.most);
+        auto found = entries(service, *match);
+        if (found && found->size() > newest.most)
+            found->resize(newest.most);
+        return found;
+    });
+}
+
+template <class Read>
+std::optional<std::vector<CHeadlineTable>> NewsSearch::atOneMoment(Read read) {
     const ReadTransaction moment(store);
     const int damagesBefore = store.damages();
-    std::optional<std::vector<CHeadlineTable>> found = findNow(service, condition);
+    std::optional<std::vector<CHeadlineTable>> found = read();
     if (store.damages() != damagesBefore)
         found.reset();
     return found;
@@ -63,8 +91,7 @@ void NewsSearch::prepare() {
     keys.catchUp();
 }
 
-std::optional<std::vector<CHeadlineTable>> NewsSearch::findNow(unsigned char service,
-                                                               const CSearch& condition) {
+std::optional<QueryMatch> NewsSearch::findNow(unsigned char service, const CSearch& condition) {
     const std::optional<std::int64_t> present = version.read();
     if (!last || !(last->condition == condition) || last->version != present) {
         last.reset();
@@ -92,7 +119,7 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::findNow(unsigned char ser
         match->ids = std::move(named);
         match->isAllBut = false;
     }
-    return match ? entries(service, *match) : std::nullopt;
+    return match;
 }
 
 std::optional<QueryMatch> NewsSearch::matches(unsigned char service, const CSearch& condition) {
@@ -110,21 +137,26 @@ std::optional<QueryMatch> NewsSearch::matches(unsigned char service, const CSear
 
 std::optional<std::vector<CHeadlineTable>> NewsSearch::entries(unsigned char service,
                                                                const QueryMatch& match) {
-    if (match.isAllBut) {
-        std::vector<CHeadlineTable> found;
-        Query rows(dated, service, match.days.first, match.days.last);
-        for (int count = 0; rows.next(); ++count) {
-            if (count % stopAskedEvery == 0 && isStopped())
-                return std::nullopt;
-            if (!match.ids.contains(rows.number(0)))
-                found.push_back({rows.number(1), rows.smallNumber(2), service, 0, 0});
-        }
-        return rows.failed() ? std::nullopt : std::optional(std::move(found));
-    }
+    if (match.isAllBut)
+        return newestEntries(service, match, Newest().most);
     auto found = keys.entries(service, match.ids);
     if (found && !match.days.areAll())
         std::erase_if(*found, [&](const CHeadlineTable& entry) { return !match.days.hold(entry.time); });
     return found;
+}
+
+std::optional<std::vector<CHeadlineTable>> NewsSearch::newestEntries(unsigned char service,
+                                                                     const QueryMatch& match,
+                                                                     std::size_t most) {
+    std::vector<CHeadlineTable> found;
+    Query rows(dated, service, match.days.first, match.days.last);
+    for (int count = 0; found.size() < most && rows.next(); ++count) {
+        if (count % stopAskedEvery == 0 && isStopped())
+            return std::nullopt;
+        if (match.ids.contains(rows.number(0)) != match.isAllBut)
+            found.push_back({rows.number(1), rows.smallNumber(2), service, 0, 0});
+    }
+    return rows.failed() ? std::nullopt : std::optional(std::move(found));
 }
 
 std::optional<IdSet> NewsSearch::plainMatches(const CSearch& condition) {

@@ -8,7 +8,11 @@
 #include "host/contract/search_condition.h"
 
 #include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <optional>
+#include <vector>
 
 namespace wirepane {
 
@@ -24,12 +28,22 @@ namespace wirepane {
 // connection.
 class NewsSearch {
 public:
+    // Which of the entries are asked for: the newest so many that are no later than a moment.
+    struct Newest {
+        std::size_t most = std::numeric_limits<std::size_t>::max();
+        std::int64_t latest = std::numeric_limits<std::int64_t>::max();
+    };
+
     explicit NewsSearch(Database& database);
 
     // The entries of a service, newest first; nothing when the store cannot be read or `stop` became true
     // meanwhile. Asked for one service after another, the same condition is looked up once.
     std::optional<std::vector<CHeadlineTable>> find(unsigned char service, const CSearch& condition,
                                                     const std::atomic<bool>* stop = nullptr);
+    // For who searches once: many are read from the store's index of times, as far as it takes, and the keys
+    // of all headlines are not.
+    std::optional<std::vector<CHeadlineTable>> findOnce(unsigned char service, const CSearch& condition,
+                                                        const Newest& newest);
 
     // Reads the keys of all headlines, which the first search with many matches would have to do.
     void prepare();
@@ -39,10 +53,14 @@ private:
     std::optional<QueryMatch> matches(unsigned char service, const CSearch& condition);
     std::optional<IdSet> plainMatches(const CSearch& condition);
     std::optional<std::vector<CHeadlineTable>> entries(unsigned char service, const QueryMatch& match);
+    std::optional<std::vector<CHeadlineTable>> newestEntries(unsigned char service, const QueryMatch& match,
+                                                             std::size_t most);
+    template <class Read>
+    std::optional<std::vector<CHeadlineTable>> atOneMoment(Read read);
     bool addMatches(IdSet& ids, const QString& query);
     bool addNamed(IdSet& ids, unsigned char service, const CSymbolInfo& symbol);
     bool isStopped() const { return stopping != nullptr && *stopping; }
-    std::optional<std::vector<CHeadlineTable>> findNow(unsigned char service, const CSearch& condition);
+    std::optional<QueryMatch> findNow(unsigned char service, const CSearch& condition);
 
     Database& store;
     HeadlineKeys keys;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/news_query.h"
 
-#include "backend/search/news_search.h"
 #include "backend/search/query_errors.h"
 #include "backend/store/import_upkeep.h"
 #include "host/contract/search_choices.h"
@@ -94,11 +93,12 @@ void dropLater(std::vector<CHeadlineTable>& news, std::int64_t latest) {
 
 std::optional<std::vector<CHeadlineTable>> findAll(Database& store,
                                                    const std::vector<unsigned char>& services,
-                                                   const CSearch& condition) {
+                                                   const CSearch& condition,
+                                                   const NewsSearch::Newest& newest) {
     NewsSearch search(store);
     std::vector<CHeadlineTable> all;
     for (const unsigned char service : services) {
-        const auto found = search.find(service, condition);
+        const auto found = search.findOnce(service, condition, newest);
         if (!found)
             return std::nullopt;
         all.insert(all.end(), found->begin(), found->end());

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/database/database.h"
+#include "backend/search/news_search.h"
 #include "host/contract/search_condition.h"
 
 #include <QStringList>
@@ -28,10 +29,12 @@ std::int64_t latestOf(const CommandArguments& arguments);
 // Takes out what is dated later.
 void dropLater(std::vector<CHeadlineTable>& news, std::int64_t latest);
 
-// What the services hold of the condition, newest first; nothing when the store cannot be read.
+// What the services hold of the condition, newest first: of each no more than is asked for. Nothing when the
+// store cannot be read.
 std::optional<std::vector<CHeadlineTable>> findAll(Database& store,
                                                    const std::vector<unsigned char>& services,
-                                                   const CSearch& condition);
+                                                   const CSearch& condition,
+                                                   const NewsSearch::Newest& newest = {});
 
 // Tells the user that what findAll() gave may lack something, where the search index is behind the store.
 void noteBacklog(Database& store);

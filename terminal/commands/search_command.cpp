@@ -61,7 +61,7 @@ int printFound(Database& store, const std::vector<CHeadlineTable>& found, std::s
     if (found.empty())
         printNote(u"Nothing was found."_s);
     else if (found.size() > most)
-        printNote(u"%1 were found; the newest %2 are shown."_s.arg(found.size()).arg(most));
+        printNote(u"More than %1 were found; the newest are shown."_s.arg(most));
     return exitDone;
 }
 
@@ -95,13 +95,13 @@ int runSearch() {
     Database& database = *store.value();
     const std::vector<unsigned char> services =
         service != 0 ? std::vector{service} : StoreReader(database).serviceIds();
-    auto found = findAll(database, services, condition);
+    // One more than is shown tells that there are more.
+    const auto found = findAll(database, services, condition, {std::size_t(most) + 1, latestOf(arguments)});
     if (!found || database.damage()) {
         printNote(sentence(database.damage().value_or(database.failure())));
         return exitUnusable;
     }
     noteBacklog(database);
-    dropLater(*found, latestOf(arguments));
     return printFound(database, *found, std::size_t(most), arguments.parser.isSet(u"json"_s));
 }
 

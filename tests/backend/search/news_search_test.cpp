@@ -160,6 +160,24 @@ TEST_F(NewsSearchTest, TheKeysOfAllHeadlinesAreReadOnce) {
         }
         EXPECT_EQ(reads, 1);
     }
+    // Who searches once does without them, and is given the newest of the same.
+    CSearch butTin = condition({u"-tin"_s});
+    butTin.language = SearchLanguage::Query;
+    for (const CSearch& asked : {condition({u"gold"_s}, 2), butTin}) {
+        for (const NewsSearch::Newest newest : {NewsSearch::Newest{}, {70, at(9, 0, 30)}, {many, at(8, 0)}}) {
+            auto wanted = search.find(1, asked).value_or(std::vector<CHeadlineTable>());
+            ASSERT_EQ(wanted.size(), std::size_t(many));
+            std::erase_if(wanted, [&](const CHeadlineTable& entry) { return entry.time > newest.latest; });
+            wanted.resize(std::min(wanted.size(), newest.most));
+            NewsSearch fresh(*reading);
+            reads = 0;
+            const auto entries = fresh.findOnce(1, asked, newest);
+            EXPECT_EQ(reads, 0);
+            ASSERT_TRUE(entries && entries->size() == wanted.size());
+            EXPECT_TRUE(std::equal(wanted.begin(), wanted.end(), entries->begin(),
+                                   [](const auto& a, const auto& b) { return keyOf(a) == keyOf(b); }));
+        }
+    }
     sqlite3_trace_v2(reading->handle(), 0, nullptr, nullptr);
 }
 
