@@ -4,6 +4,7 @@
 
 #include "backend/database/database_errors.h"
 #include "backend/database/database_failure.h"
+#include "backend/database/gathered_numbers.h"
 #include "backend/database/statement.h"
 #include "backend/database/turn_bell.h"
 #include "backend/words/search_tokenizer.h"
@@ -93,6 +94,7 @@ Result<std::unique_ptr<Database>> Database::open(const QString& path, Mode mode,
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     // Where this fails, what uses the search index fails with the library's own sentence.
     registerSearchTokenizer(connection);
+    registerGathering(connection);
     database->execute("PRAGMA cell_size_check = ON");
     return database;
 }

@@ -3,7 +3,9 @@
 #include "backend/database/statement.h"
 
 #include "backend/database/database.h"
+#include "backend/database/gathered_numbers.h"
 
+#include <cstddef>
 #include <sqlite3.h>
 
 namespace wirepane {
@@ -65,6 +67,11 @@ double Query::real(int column) const {
 QByteArrayView Query::bytes(int column) const {
     const auto* first = reinterpret_cast<const char*>(sqlite3_column_text(running, column));
     return {first, sqlite3_column_bytes(running, column)};
+}
+
+std::span<const GatheredPair> Query::pairs(int column) const {
+    const auto* first = static_cast<const GatheredPair*>(sqlite3_column_blob(running, column));
+    return {first, std::size_t(sqlite3_column_bytes(running, column)) / sizeof(GatheredPair)};
 }
 
 QString Query::text(int column) const {

@@ -9,11 +9,13 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 
 struct sqlite3_stmt;
 
 namespace wirepane {
 class Database;
+struct GatheredPair;
 
 // A prepared statement, to be run any number of times through Query. One that SQLite refuses (a damaged
 // schema) fails when it is run.
@@ -58,6 +60,8 @@ public:
     QString text(int column) const;
     // The text in UTF-8, valid until the next row.
     QByteArrayView bytes(int column) const;
+    // What gather() has made; valid until the next row.
+    std::span<const GatheredPair> pairs(int column) const;
     bool isNull(int column) const;
 
 private:

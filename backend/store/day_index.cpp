@@ -3,8 +3,10 @@
 #include "backend/store/day_index.h"
 
 #include "backend/database/database.h"
+#include "backend/database/gathered_numbers.h"
 
 #include <algorithm>
+#include <span>
 
 namespace wirepane {
 
@@ -15,11 +17,10 @@ constexpr std::size_t mostDays = 10'000;  // most of them empty, then
 DayIndex::DayIndex(Database& database, std::size_t mostEntries)
     : store(database),
       range(database,
-            "SELECT time, sequence FROM headlines WHERE service = ? AND time >= ? AND time < ? "
-            "ORDER BY time, sequence"),
+            "SELECT gather(time, sequence) FROM headlines WHERE service = ? AND time >= ? AND time < ?"),
       wholeRange(database,
-                 "SELECT time, sequence FROM all_headlines WHERE service = ? AND time >= ? AND time < ? "
-                 "ORDER BY time, sequence"),
+                 "SELECT gather(time, sequence) FROM all_headlines WHERE service = ? AND time >= ? AND "
+                 "time < ?"),
       isAnyHidden(database, "SELECT 1 FROM import_blocks WHERE hidden LIMIT 1"),
       most(mostEntries) {}
 
@@ -54,12 +55,19 @@ DayIndex::Day& DayIndex::find(unsigned char service, QDate date) {
 void DayIndex::load(Day& day, unsigned char service) {
     day.entries.clear();
     Query query(canReadAll() ? wholeRange : range, service, day.bounds.begin, day.bounds.end);
-    while (query.next())
-        day.entries.push_back(
-            {static_cast<std::int32_t>(query.number(0) - day.bounds.begin), query.smallNumber(1)});
     // A day that could not be read whole is read again the next time.
-    if (query.failed())
+    if (!query.next()) {
         day.bounds = {};
+        return;
+    }
+    const std::span<const GatheredPair> pairs = query.pairs(0);
+    day.entries.reserve(pairs.size());
+    for (const auto& [time, sequence] : pairs)
+        day.entries.push_back(
+            {static_cast<std::int32_t>(time - day.bounds.begin), static_cast<std::int32_t>(sequence)});
+    // An aggregate asks for no order; the index that answers has it.
+    if (!std::is_sorted(day.entries.begin(), day.entries.end()))
+        std::sort(day.entries.begin(), day.entries.end());
 }
 
 // Looking at each row whether it is hidden takes a third of the reading; where nothing is, at this very
