@@ -66,6 +66,20 @@ QString timeText(std::int64_t secondsSince1970, bool showDate) {
            hourAndMinute;
 }
 
+QString otherYearText(std::int64_t secondsSince1970, std::int64_t now) {
+    if (!isInCalendar(secondsSince1970) || !isInCalendar(now))
+        return {};
+    using namespace std::chrono;
+    const auto dateOf = [](std::int64_t moment) {
+        return year_month_day(floor<days>(sys_seconds{seconds(moment + offsetFromUtc(moment))}));
+    };
+    const year_month_day date = dateOf(secondsSince1970);
+    if (date.year() == dateOf(now).year())
+        return {};
+    return QString::number(static_cast<int>(date.year())).rightJustified(4, u'0') + u'/' +
+           twoDigits(static_cast<unsigned>(date.month()), u'/', static_cast<unsigned>(date.day()));
+}
+
 QString dateKey(const QDate& day) {
     const int year = day.isValid() ? day.year() : -1;
     const int month = day.isValid() ? day.month() : -1;

@@ -20,6 +20,10 @@ QDateTime localTime(std::int64_t secondsSince1970);
 // "hh:mm", or "MM/dd hh:mm" with the date, in local time. A time outside any calendar gives an empty text.
 QString timeText(std::int64_t secondsSince1970, bool showDate);
 
+// "yyyy/MM/dd" for a moment of another local year than that of `now`; empty for one of the same, and for one
+// outside any calendar.
+QString otherYearText(std::int64_t secondsSince1970, std::int64_t now);
+
 // A day as the back end's tables are asked for: yyyymmdd; the fields of an invalid date are -1 each.
 QString dateKey(const QDate& day);
 

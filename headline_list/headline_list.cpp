@@ -8,6 +8,7 @@
 #include "headline_list/list_state.h"
 #include "headline_list/reading_place.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/clock.h"
 #include "host/contract/news_record.h"
 
 #include <utility>
@@ -175,7 +176,14 @@ const HeadlineColumnKind* HeadlineList::columnAt(int place) const {
 QString HeadlineList::text(int row, int column) const {
     const WrittenCells* written = cellsOf(row);
     const HeadlineColumnKind* shown = columnAt(column);
-    return written != nullptr && shown != nullptr ? written->textOf(shown->column) : QString();
+    if (written == nullptr || shown == nullptr)
+        return {};
+    if (shown->column == HeadlineColumn::Time && kind.showDate && state->options[ViewOption::OtherYears]) {
+        const QString day = otherYearText(table.at(row).time, host_clock::now());
+        if (!day.isEmpty())
+            return day;
+    }
+    return written->textOf(shown->column);
 }
 
 QColor HeadlineList::textColour(int row, int column) const {

@@ -160,6 +160,7 @@ inline constexpr QLatin1StringView foundTakeOut{"IDS_NEWSCTRLVIEW_FOUND_TAKE_OUT
 inline constexpr QLatin1StringView foundAwaited{"IDS_NEWSCTRLVIEW_FOUND_AWAITED"};
 
 // What controls without a text are called.
+inline constexpr QLatin1StringView nameOfEarlierSearches{"IDS_NEWSCTRLVIEW_NAME_EARLIER_SEARCHES"};
 inline constexpr QLatin1StringView nameOfModes{"IDS_NEWSCTRLVIEW_NAME_MODES"};
 inline constexpr QLatin1StringView allServices{"IDS_NEWSCTRLVIEW_STRING_ALL_SERVICES"};
 inline constexpr QLatin1StringView onlyThis{"IDS_NEWSCTRLVIEW_STRING_ONLY_THIS"};

@@ -28,6 +28,7 @@ namespace {
 // What a text needs beside it in its control: margins, and the arrow or the icon.
 constexpr int besideText = 36;
 constexpr int widestCategory = 240;
+constexpr int searchText = 230;
 
 int besideTextOf(const QWidget& control) {
     return grown(besideText, control.font());
@@ -97,7 +98,10 @@ ButtonNeeds Arrangement::needs() const {
             widthOfDate(),
             std::min(widthOfCombo(ids::categoryCombo), grown(widestCategory, parts.window.font())),
             widthOfCombo(ids::serviceCombo),
-            widthOfCombo(ids::symbolCombo)};
+            widthOfCombo(ids::symbolCombo),
+            parts.settings.options[ViewOption::SearchHistory]
+                ? std::min(grown(searchText, parts.window.font()), parts.window.width() / 4)
+                : 0};
 }
 
 ViewLayout Arrangement::layout() const {

@@ -258,6 +258,8 @@ void ControlSet::loadTexts() {
         if (auto* combo = qobject_cast<QComboBox*>(control); combo != nullptr && combo->isEditable())
             combo->lineEdit()->setAccessibleName(control->accessibleName());
     }
+    if (auto* edit = find<SearchEdit2>(ids::searchEdit))
+        edit->nameOffer(langText(backEnd, keys::nameOfEarlierSearches));
     auto* strip = find<CXTPTabControl>(ids::tabStrip);
     for (int i = 0; strip != nullptr && i < strip->count(); ++i) {
         if (const auto mode = listOfNumber(strip->itemData(i)))

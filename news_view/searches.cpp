@@ -25,6 +25,7 @@
 #include "search/dialog_controls.h"
 #include "search/search_ids.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -54,7 +55,17 @@ void Searches::connectEdit() {
     auto* edit = parts.controls.find<SearchEdit2>(ids::searchEdit);
     edit->setOwner(this);
     edit->setTakesQueries(parts.settings.options[ViewOption::SearchQueries]);
+    if (parts.settings.options[ViewOption::SearchHistory])
+        edit->offerTexts([this] { return textsToOffer(); });
     QObject::connect(edit, &SEdit::returnPressed, &parts.window, [this] { searchForText(); });
+}
+
+QStringList Searches::textsToOffer() const {
+    constexpr std::size_t most = 20;
+    const std::vector<QString>& history = conditions.searchHistory();
+    QStringList texts(history.rbegin(),
+                      history.rbegin() + static_cast<std::ptrdiff_t>(std::min(most, history.size())));
+    return texts;
 }
 
 QString Searches::textOfEdit() const {

@@ -76,6 +76,7 @@ public:
 
 private:
     QString textOfEdit() const;
+    QStringList textsToOffer() const;
     // How the text is searched for; none: not at all.
     std::optional<SearchLanguage> languageOf(const QString& text);
     void tipAtEdit(const QString& text);

@@ -63,7 +63,7 @@ int layOutControls(const LayoutInput& in, const Frame& frame, int top, int botto
     const int symbolLeft = out.serviceCombo.x() + out.serviceCombo.width() + 4;
     out.symbolCombo = place(symbolLeft, std::max(in.symbolComboText + 25, in.needs.symbol));
     const int gap = in.aligned ? 4 : 2;
-    out.searchEdit = place(a + (in.aligned ? 4 : 3), 2 * (unit + 6));
+    out.searchEdit = place(a + (in.aligned ? 4 : 3), std::max(2 * (unit + 6), in.needs.searchText));
     const int searchLeft = out.searchEdit.x() + out.searchEdit.width() + gap;
     out.searchButton = place(searchLeft, std::max(unit, in.needs.search));
     out.dealsButton = place(searchLeft + out.searchButton.width() + gap, std::max(unit + 6, in.needs.deals));

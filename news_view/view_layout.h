@@ -23,6 +23,7 @@ struct ButtonNeeds {
     int category = 0;             // of the combos
     int market = 0;
     int symbol = 0;
+    int searchText = 0;  // of the search box
 };
 
 // All that the layout of a news view depends on. Pixels of the view's client area.

@@ -4,6 +4,11 @@
 
 #include "host/controls/s_edit.h"
 
+#include <QStringList>
+
+#include <functional>
+
+class QAction;
 class QRect;
 
 namespace wirepane {
@@ -26,6 +31,12 @@ public:
     explicit SearchEdit2(QWidget* parent = nullptr);
 
     void setTakesQueries(bool takes) { takesQueries = takes; }
+    // From here on it drops down texts, in this order; the one that is picked is typed and Enter pressed.
+    void offerTexts(std::function<QStringList()> texts);
+    // What they are called.
+    void nameOffer(const QString& name);
+    // Drops them down; nothing without any.
+    void dropDown();
     // Who shows the tips; not owned, null: nobody.
     void setOwner(wirepane::ShortTips* view) { owner = view; }
 
@@ -38,4 +49,6 @@ private:
 
     wirepane::ShortTips* owner = nullptr;
     bool takesQueries = false;
+    std::function<QStringList()> offered;
+    QAction* arrow = nullptr;  // null: it offers nothing
 };

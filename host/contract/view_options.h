@@ -49,6 +49,8 @@ enum class ViewOption {
     StoryWindow,    // the story window has tools, lies beside its list, is kept open when it is pinned
     SearchQueries,  // what is typed into the search box is a query; it takes blanks
     SearchLine,     // a line over what was found: the condition in parts that can be taken out, counts
+    SearchHistory,  // the search box, wider, drops down what was searched for
+    OtherYears,     // rows of another year than the present one show their day with its year
     Count
 };
 
@@ -92,6 +94,8 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::StoryWindow, QLatin1StringView("StoryWindow")},
     {ViewOption::SearchQueries, QLatin1StringView("SearchQueries")},
     {ViewOption::SearchLine, QLatin1StringView("SearchLine")},
+    {ViewOption::SearchHistory, QLatin1StringView("SearchHistory")},
+    {ViewOption::OtherYears, QLatin1StringView("OtherYears")},
 }};
 
 constexpr const ViewOptionRow& rowOf(ViewOption option) {

@@ -50,7 +50,8 @@ void ChipButton::tell(const ChipLineText::Chip& chip) {
 }
 
 int ChipButton::neededWidth() const {
-    const int needed = roomFor(fontMetrics(), literalText()) + 2 * chipMargin + gap + crossSide;
+    const int needed =
+        roomFor(fontMetrics(), literalText()) + 2 * chipMargin + gap + grown(crossSide, font());
     return std::min(needed, grown(widestChip, font()));
 }
 
@@ -66,7 +67,8 @@ void ChipButton::paintEvent(QPaintEvent*) {
     painter.setPen(hasFocus() ? QPen(roleColour(ColourRole::Accent, palette().color(QPalette::Highlight)), 2)
                               : QPen(ground));
     painter.drawRoundedRect(outline, outline.height() / 2, outline.height() / 2);
-    const QRect cross(width() - chipMargin - crossSide, (height() - crossSide) / 2, crossSide, crossSide);
+    const int side = grown(crossSide, font());
+    const QRect cross(width() - chipMargin - side, (height() - side) / 2, side, side);
     const QRect room(chipMargin, 0, cross.left() - gap - chipMargin, height());
     painter.setPen(palette().color(QPalette::ButtonText));
     painter.drawText(room, lineFlags, fontMetrics().elidedText(literalText(), Qt::ElideRight, room.width()));

@@ -1619,6 +1619,10 @@
         <source></source>
         <translation>Date</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_EARLIER_SEARCHES">
+        <source></source>
+        <translation>Earlier searches</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NAME_MARKET">
         <source></source>
         <translation>Market</translation>

@@ -1619,6 +1619,10 @@
         <source></source>
         <translation>日期</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NAME_EARLIER_SEARCHES">
+        <source></source>
+        <translation>先前的搜索</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NAME_MARKET">
         <source></source>
         <translation>市场</translation>

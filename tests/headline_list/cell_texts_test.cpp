@@ -30,6 +30,17 @@ TEST(CellTexts, TimesAreLocal) {
     }
 }
 
+TEST(CellTexts, AMomentOfAnotherYearIsToldByItsDay) {
+    const auto at = [](int year, int month, int day, int hour) {
+        return QDateTime(QDate(year, month, day), QTime(hour, 0)).toSecsSinceEpoch();
+    };
+    const std::int64_t now = at(2026, 1, 1, 0);
+    EXPECT_EQ(otherYearText(at(2025, 12, 31, 23), now), QStringLiteral("2025/12/31"));
+    EXPECT_EQ(otherYearText(at(2027, 3, 2, 1), now), QStringLiteral("2027/03/02"));
+    EXPECT_EQ(otherYearText(at(2026, 12, 31, 23), now), QString());
+    EXPECT_EQ(otherYearText(std::numeric_limits<std::int64_t>::max(), now), QString());
+}
+
 TEST(CellTexts, ADayIsEightDigits) {
     EXPECT_EQ(dateKey(QDate(2026, 3, 2)), QStringLiteral("20260302"));
     EXPECT_EQ(dateKey(QDate()), QStringLiteral("-001-1-1"));

@@ -16,6 +16,7 @@
 
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMessageBox>
 #include <QTest>
 #include <QTextCursor>
@@ -299,6 +300,28 @@ TEST_F(SearchesOfTheView, TheStoryOfAResultHasItsKeywordsMarked) {
     query.language = SearchLanguage::Query;
     EXPECT_EQ(textsToMark(query), (std::vector<QString>{u"oil"_s, u"all"_s, u"gol"_s}))
         << "what is excluded is none";
+}
+
+TEST_F(SearchesOfTheView, TheBoxDropsDownWhatWasSearchedForNewestFirst) {
+    openSearch({{u"SearchQueries"_s, true}, {u"SearchHistory"_s, true}});
+    auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
+    QTest::keyClick(edit, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "there is nothing yet";
+    for (const QString& text : {u"R&D gold"_s, u"tin -lead"_s, u"R&D gold"_s})
+        quickSearch(text);
+    edit->setText(u"half typed"_s);
+    sent();
+    QTest::keyClick(edit, Qt::Key_Down, Qt::AltModifier);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    QStringList offered;
+    for (const QAction* action : menu->actions())
+        offered += action->text();
+    EXPECT_EQ(offered, (QStringList{u"tin -lead"_s, u"R&&D gold"_s}));
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+    EXPECT_EQ(edit->text(), u"R&D gold"_s);
+    EXPECT_TRUE(sent().front().contains(u"R&D gold"_s));
 }
 
 TEST_F(SearchesOfTheView, TheLineOverTheResultsTellsWhatWasFoundAndTakesThePartsOut) {
