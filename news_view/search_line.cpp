@@ -70,6 +70,8 @@ void SearchLine::follow() {
         line->tell({langText(parts.backEnd, keys::emptySearch), {}, {}, {}});
         return;
     }
+    line->setKeyboardBefore(parts.controls.find<QWidget>(
+        list == ListIndex::Search ? ids::dealsSearchButton : ids::warningSearchButton));
     ChipLineText text = conditionText(searches.foundUnder(list));
     const HeadlineTable& found = context.listOf(list).headlineTable();
     if (course.isAwaited && found.empty()) {

@@ -43,7 +43,6 @@ constexpr std::array tabOrder{
     ids::searchEdit,     ids::searchButton,   ids::dealsSearchButton, ids::warningSearchButton,
     ids::stopWaiting,    ids::endNarrowing,   ids::readUnfiltered,    ids::searchAgain,
     ids::pageDownButton, ids::pageUpButton,   ids::saveAsButton,      ids::printButton,
-    ids::searchLine,
 };
 
 }  // namespace

@@ -97,7 +97,7 @@ QFont ChipLine::sumFont() const {
 
 void ChipLine::addChip() {
     auto* chip = new ChipButton(this);
-    setTabOrder(chips.empty() ? static_cast<QWidget*>(this) : chips.back(), chip);
+    setTabOrder(chips.empty() ? before.data() : chips.back(), chip);
     const int index = static_cast<int>(chips.size());
     connect(chip, &SButton::clicked, this, [this, index] { emit taken(index); });
     chips.push_back(chip);

@@ -5,6 +5,7 @@
 #include "host/contract/export.h"
 #include "host/controls/s_button.h"
 
+#include <QPointer>
 #include <QString>
 
 #include <vector>
@@ -51,6 +52,8 @@ public:
     explicit ChipLine(QWidget* parent);
 
     void tell(const ChipLineText& text);
+    // The control that the keyboard comes to the chips from, of the same window.
+    void setKeyboardBefore(QWidget* control) { before = control; }
     const ChipLineText& told() const { return text; }
 
 Q_SIGNALS:
@@ -68,6 +71,7 @@ private:
 
     ChipLineText text;
     std::vector<ChipButton*> chips;  // at least one for each part; the others are hidden
+    QPointer<QWidget> before;
     QRect leadPlace, morePlace, sumPlace, detailsPlace;
 };
 

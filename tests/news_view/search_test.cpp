@@ -360,6 +360,12 @@ TEST_F(SearchesOfTheView, TheLineOverTheResultsTellsWhatWasFoundAndTakesTheParts
     EXPECT_TRUE(line->told().details.contains(u"since 2026/03/02 · until "_s));
     EXPECT_TRUE(line->told().details.endsWith(u" ms"_s));
 
+    const QWidget* next = dlgItem(view.get(), ids::dealsSearchButton);
+    do {
+        next = next->nextInFocusChain();
+    } while (!next->isVisible() || !(next->focusPolicy() & Qt::TabFocus));
+    EXPECT_EQ(next->accessibleName(), u"not gold"_s) << "the keyboard goes there from the buttons";
+
     view->onCommand(ids::firstServiceCommand);
     sent();
     auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
