@@ -167,7 +167,9 @@ public:
     // What services and categories are called whose names in the store are these; at first: so. A category is
     // called as it is where another one of its service is called so.
     void nameBy(std::function<QString(const QString&)> naming) { nameOf = std::move(naming); }
-    void setConvertsToSimplified(bool on) { simplified = on; }  // at first: false
+    // News and the names of symbols are written in Simplified Chinese; at first: false. Receivers that show
+    // names are told that the symbols have changed.
+    void setConvertsToSimplified(bool on);
     // Symbols go by their English names, where these are known; at first: false. Receivers that show names
     // are told that these symbols have changed.
     void setPrefersEnglishNames(bool on);
@@ -225,6 +227,7 @@ public:
     std::int64_t positionTold() const override { return toldPosition; }
 
 private:
+    void tellRenamed(const std::vector<CSymbolUpdateInfo>& renamed);
     struct EntryOrder {
         bool operator()(const CHeadlineTable& a, const CHeadlineTable& b) const {
             return std::tie(a.service, a.time, a.sequence) < std::tie(b.service, b.time, b.sequence);

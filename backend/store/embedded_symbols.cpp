@@ -5,6 +5,7 @@
 #include "host/contract/fixed_services.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace wirepane {
 
@@ -64,7 +65,20 @@ bool EmbeddedBackEnd::bGetItemDataByItemNo(QString& value, unsigned char market,
 void EmbeddedBackEnd::setPrefersEnglishNames(bool on) {
     if (!symbolTable.setPrefersEnglish(on))
         return;
-    const std::vector<CSymbolUpdateInfo> renamed = symbolTable.withTwoNames();
+    tellRenamed(symbolTable.withTwoNames());
+}
+
+void EmbeddedBackEnd::setConvertsToSimplified(bool on) {
+    if (std::exchange(simplified, on) == on)
+        return;
+    if (on)
+        symbolTable.convertNames([this](const QString& name) { return chinese.convert(name); });
+    else
+        symbolTable.convertNames({});
+    tellRenamed(symbolTable.all());
+}
+
+void EmbeddedBackEnd::tellRenamed(const std::vector<CSymbolUpdateInfo>& renamed) {
     if (!renamed.empty())
         forEachReceiver([&](NewsReceiver& receiver) { receiver.vDoSymbolUpdate(renamed); });
 }

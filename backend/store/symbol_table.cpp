@@ -58,8 +58,29 @@ const SymbolItem* SymbolTable::find(unsigned char market, const QString& code) c
     return entry == symbols->second.end() ? nullptr : &entry->second.symbol;
 }
 
-const QString& SymbolTable::nameOf(const SymbolItem& symbol) const {
-    return prefersEnglish && !symbol.englishName.isEmpty() ? symbol.englishName : symbol.name;
+QString SymbolTable::nameOf(const SymbolItem& symbol) const {
+    if (prefersEnglish && !symbol.englishName.isEmpty())
+        return symbol.englishName;
+    if (!convert)
+        return symbol.name;
+    QString& name = converted[symbol.name];
+    if (name.isEmpty())
+        name = convert(symbol.name);
+    return name;
+}
+
+void SymbolTable::convertNames(std::function<QString(const QString&)> conversion) {
+    convert = std::move(conversion);
+    converted.clear();
+}
+
+std::vector<CSymbolUpdateInfo> SymbolTable::all() const {
+    std::vector<CSymbolUpdateInfo> result;
+    for (const auto& [market, symbols] : byMarket) {
+        for (const auto& [code, entry] : symbols)
+            result.push_back({market, code});
+    }
+    return result;
 }
 
 std::vector<CSymbolUpdateInfo> SymbolTable::withTwoNames() const {

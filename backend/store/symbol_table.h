@@ -6,8 +6,10 @@
 #include "backend/result.h"
 #include "host/contract/search_control.h"
 
+#include <QHash>
 #include <QString>
 
+#include <functional>
 #include <map>
 #include <utility>
 #include <vector>
@@ -29,12 +31,18 @@ public:
     std::vector<unsigned char> markets() const;
     // Null when there is no such symbol.
     const SymbolItem* find(unsigned char market, const QString& code) const;
-    // The name that a symbol goes by: its own, or the English one where that is preferred and known.
-    const QString& nameOf(const SymbolItem& symbol) const;
+    // The name that a symbol goes by: its own, converted where that is asked for, or the English one where
+    // that is preferred and known.
+    QString nameOf(const SymbolItem& symbol) const;
     // At first: false. Result: whether that is another choice.
     bool setPrefersEnglish(bool on) { return std::exchange(prefersEnglish, on) != on; }
     // The symbols whose name depends on it.
     std::vector<CSymbolUpdateInfo> withTwoNames() const;
+    // How the own names of symbols are written; nothing, as at first: as the store has them. A name is
+    // converted once.
+    void convertNames(std::function<QString(const QString&)> conversion);
+    // The symbols whose name depends on it, whatever the conversion.
+    std::vector<CSymbolUpdateInfo> all() const;
     // Up to `limit` symbols whose code begins with the text, or one of whose names contains it: an exact code
     // first, then codes, then names; within each by market and code. An empty text finds nothing.
     std::vector<SymbolItem> search(const QString& text, std::size_t limit) const;
@@ -53,6 +61,8 @@ private:
     };
     std::map<unsigned char, std::map<QString, Entry>> byMarket;
     bool prefersEnglish = false;
+    std::function<QString(const QString&)> convert;
+    mutable QHash<QString, QString> converted;
 };
 
 }  // namespace wirepane

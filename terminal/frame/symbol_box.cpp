@@ -102,6 +102,7 @@ void SymbolBox::retranslate() {
     completer->popup()->setAccessibleName(terminalText(TextId::SymbolBar));
     fitLine();
     badge->setGroup(badge->group());
+    showCurrent();
 }
 
 // As wide as what it asks for, beside its two icons.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/symbol_offers.h"
 
+#include "backend/words/simplified_chinese.h"
 #include "host/contract/colour_roles.h"
 
 #include <QFontMetrics>
@@ -28,10 +29,14 @@ constexpr std::array figures{QuoteColumn::Last, QuoteColumn::Change, QuoteColumn
 }  // namespace
 
 SymbolNames namesOf(const SymbolItem& symbol) {
+    static SimplifiedChinese simplified;
+    const QString own = QLocale().script() == QLocale::SimplifiedChineseScript
+                            ? simplified.convert(symbol.name)
+                            : symbol.name;
     if (symbol.englishName.isEmpty() || symbol.englishName == symbol.name)
-        return {symbol.name, {}};
-    return QLocale().language() == QLocale::English ? SymbolNames{symbol.englishName, symbol.name}
-                                                    : SymbolNames{symbol.name, symbol.englishName};
+        return {own, {}};
+    return QLocale().language() == QLocale::English ? SymbolNames{symbol.englishName, own}
+                                                    : SymbolNames{own, symbol.englishName};
 }
 
 void SymbolOffers::offer(std::vector<SymbolItem> symbols) {

@@ -123,6 +123,17 @@ TEST_F(SymbolTableTest, SymbolsGoByTheirEnglishNamesWhereTheseArePreferred) {
     EXPECT_EQ(nameOf(), "Kiu Wan Securities") << "a source that knows no English name takes none away";
     put(22, "00700", "灣翹控股", "Kiu Wan Holdings");
     EXPECT_EQ(nameOf(), "Kiu Wan Holdings");
+
+    backEnd->setPrefersEnglishNames(false);
+    told.codes.clear();
+    backEnd->setConvertsToSimplified(true);
+    backEnd->setConvertsToSimplified(true);
+    EXPECT_EQ(told.codes.count(QStringLiteral("00700")), 1);
+    EXPECT_EQ(nameOf(), "湾翘控股");
+    put(22, "00700", "灣翹證券");
+    EXPECT_EQ(nameOf(), "湾翘证券") << "no name of before";
+    backEnd->setConvertsToSimplified(false);
+    EXPECT_EQ(nameOf(), "灣翹證券");
     backEnd->detach(&told);
 }
 
