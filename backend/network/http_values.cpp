@@ -43,13 +43,14 @@ void eachPart(QByteArrayView text, char separator, const auto& visit) {
 std::optional<std::int64_t> httpDate(QByteArrayView text) {
     const QString date = QString::fromLatin1(text.first(std::min(text.size(), longestValue))).simplified();
     const QLocale english = QLocale::c();
-    for (const QString& form : {u"ddd, dd MMM yyyy hh:mm:ss 'GMT'"_s, u"dddd, dd-MMM-yy hh:mm:ss 'GMT'"_s,
-                                u"ddd MMM d hh:mm:ss yyyy"_s}) {
+    const QString ofTwoDigits = u"dddd, dd-MMM-yy hh:mm:ss 'GMT'"_s;
+    for (const QString& form :
+         {u"ddd, dd MMM yyyy hh:mm:ss 'GMT'"_s, ofTwoDigits, u"ddd MMM d hh:mm:ss yyyy"_s}) {
         QDateTime moment = english.toDateTime(date, form);
         if (!moment.isValid())
             continue;
-        constexpr int firstYear = 1970;  // of two digits
-        if (moment.date().year() < firstYear)
+        constexpr int firstYear = 1970;
+        if (form == ofTwoDigits && moment.date().year() < firstYear)
             moment = moment.addYears(100);
         moment.setTimeZone(QTimeZone::utc());
         return moment.toSecsSinceEpoch();

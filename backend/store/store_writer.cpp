@@ -284,7 +284,10 @@ Result<TrimStep> StoreWriter::trim(const Retention& keep, std::int64_t now) {
         return makeError<store_errors::stopped>();
     }
     const std::optional<TrimStep> step = trimmer.step(keep, now);
-    if (!step)
+    // News that came before the horizon has left, but for what was dated ahead: that is known by its
+    // identity.
+    const std::optional<std::int64_t> before = step && step->isDone ? trimmer.horizon() : std::nullopt;
+    if (!step || (before && !origins.forget(*before)))
         return fail();
     if (const Done kept = commit(); !kept)
         return kept.error();

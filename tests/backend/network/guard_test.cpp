@@ -6,11 +6,9 @@
 #include "backend/network/http_values.h"
 #include "backend/network/network_errors.h"
 #include "tests/backend/network/fault_server.h"
+#include "tests/backend/network/run_authority.h"
 #include "tests/support/qt_printers.h"
 
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -65,6 +63,7 @@ TEST(HttpValues, SayNothingWhereTheyAreNotWellFormed) {
         EXPECT_EQ(httpDate(date), then) << date;
     for (const char* date : {"", "0", "-1", "Sun, 99 Nov 1994 08:49:37 GMT", "yesterday"})
         EXPECT_EQ(httpDate(date), std::nullopt) << date;
+    EXPECT_EQ(httpDate("Thu, 06 Nov 1930 08:49:37 GMT"), -1235574623) << "four digits are meant as they are";
     EXPECT_EQ(retryAfter("120", 0), 120);
     EXPECT_EQ(retryAfter(" Sun, 06 Nov 1994 08:49:37 GMT", then - 60), 60);
     EXPECT_EQ(retryAfter("Sun, 06 Nov 1994 08:49:37 GMT", then + 60), 0);
@@ -102,37 +101,17 @@ TEST(AnswerReading, DecodesByTheHeadWhatSaysNothingItself) {
     EXPECT_EQ(canonicalLink(u"urn:x"_s), QString());
 }
 
-// An authority, and a server's certificate from it, made for the run.
 class TlsTest : public testing::Test {
 protected:
     void SetUp() override {
-        run(u"openssl req -x509 -newkey rsa:2048 -nodes -keyout ca.key -out ca.pem -days 9 -subj /CN=ca"_s);
-        make(u"good"_s, u"localhost"_s, u"-days 5"_s);
-        make(u"expired"_s, u"localhost"_s, u"-days -1"_s);
-        make(u"other"_s, u"other.example"_s, u"-days 5"_s);
-    }
-    void run(const QString& command) {
-        QProcess process;
-        process.setWorkingDirectory(folder.path());
-        process.start(u"sh"_s, {u"-c"_s, command + u" 2>/dev/null"_s});
-        process.waitForFinished();
-        ASSERT_EQ(process.exitCode(), 0) << command.toStdString();
-    }
-    void make(const QString& name, const QString& host, const QString& days) {
-        run(u"openssl req -newkey rsa:2048 -nodes -keyout %1.key -subj /CN=%2 -out %1.csr && "
-            "printf 'subjectAltName=DNS:%2' > %1.ext && "
-            "openssl x509 -req -in %1.csr -CA ca.pem -CAkey ca.key -CAcreateserial %3 -extfile %1.ext -out %1.pem"_s
-                .arg(name, host, days));
-    }
-    QByteArray bytes(const QString& name) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
+        authority.make(u"good"_s, u"localhost"_s, u"-days 5"_s);
+        authority.make(u"expired"_s, u"localhost"_s, u"-days -1"_s);
+        authority.make(u"other"_s, u"other.example"_s, u"-days 5"_s);
     }
     void serve(const QString& name) {
         QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-        tls.setLocalCertificate(QSslCertificate(bytes(name + u".pem"_s)));
-        tls.setPrivateKey(QSslKey(bytes(name + u".key"_s), QSsl::Rsa));
+        tls.setLocalCertificate(QSslCertificate(authority.bytes(name + u".pem"_s)));
+        tls.setPrivateKey(QSslKey(authority.bytes(name + u".key"_s), QSsl::Rsa));
         tls.setPeerVerifyMode(QSslSocket::VerifyNone);
         server.useTls(tls);
         for (QObject* socket : server.findChildren<QSslSocket*>())
@@ -144,14 +123,14 @@ protected:
         request.address = server.url();
         request.address.setScheme(u"https"_s);
         request.isTyped = true;
-        request.authority = trusts ? folder.filePath(u"ca.pem"_s) : QString();
+        request.authority = trusts ? authority.path(u"ca.pem"_s) : QString();
         std::optional<HttpAnswer> answer;
         client.ask(request, [&](HttpAnswer given) { answer = std::move(given); });
         EXPECT_TRUE(QTest::qWaitFor([&] { return answer.has_value(); }, 10'000));
         return answer.value_or(HttpAnswer());
     }
 
-    QTemporaryDir folder;
+    RunAuthority authority;
     FaultServer server{[](const FaultServer::Seen&) { return FaultServer::whole("200 OK", "", "abc"); }};
     HttpClient client{{.quietMs = 2000}};
 };

@@ -6,6 +6,7 @@
 #include "backend/network/network_errors.h"
 #include "tests/backend/feed/live_source_fixture.h"
 #include "tests/backend/network/fault_server.h"
+#include "tests/support/loopback_server.h"
 #include "tests/support/qt_printers.h"
 
 #include <QElapsedTimer>
@@ -46,9 +47,10 @@ protected:
         start();
     }
     // As another program does.
-    QString add(const FaultServer& of, const QString& path = u"/feed"_s) {
+    QString add(const FaultServer& of, const QString& path = u"/feed"_s) { return add(of.url(path)); }
+    QString add(const QUrl& address) {
         NetworkSource source;
-        source.address = of.url(path);
+        source.address = address;
         source.isTyped = true;
         const auto store = openStore(storeFile);
         return SourceList(*store.value()).add(source).value();
@@ -171,6 +173,44 @@ TEST_F(NetworkSourcesTest, SaysWhatIsWrongAndKeepsWhatWasThere) {
         [&] { return network->sources().front()->state().kind == SourceState::Silent; }, 5000));
     EXPECT_EQ(titlesIn(*openStoreToRead(storeFile).value()), QStringList{u"News 1"_s});
     EXPECT_EQ(told().size(), 1);
+}
+
+TEST_F(NetworkSourcesTest, LosesNothingAndDoublesNothingWhenThePlugIsPulled) {
+    test::LoopbackServer line;
+    const auto publish = [&](int number) {
+        const QString text = QString::number(number);
+        entries.insert(entries.begin(), {text, text, u"https://x.example/"_s + text, 0});
+        line.put("/feed", rss(entries), "application/rss+xml");
+    };
+    const auto isIn = [this](SourceState::Kind kind) {
+        network->sources().front()->askNow();
+        return QTest::qWaitFor([&] { return network->sources().front()->state().kind == kind; }, 5000);
+    };
+    publish(2);
+    add(line.address(u"/feed"_s));
+    ASSERT_TRUE(hasTold(2));
+    line.unplug();
+    publish(3);
+    EXPECT_TRUE(isIn(SourceState::Silent));
+    EXPECT_EQ(standing().fault.value("code"_L1).toString(), QLatin1StringView(network_errors::refused.key));
+    line.plugIn();
+    EXPECT_TRUE(isIn(SourceState::Live));
+    ASSERT_TRUE(hasTold(3));
+    EXPECT_TRUE(standing().fault.isEmpty());
+
+    // Pulled again, the terminal ends meanwhile.
+    line.unplug();
+    publish(4);
+    EXPECT_TRUE(isIn(SourceState::Silent));
+    restart();
+    EXPECT_TRUE(isIn(SourceState::Silent));
+    line.plugIn();
+    EXPECT_TRUE(isIn(SourceState::Live));
+    ASSERT_TRUE(hasTold(4));
+    QStringList titles = titlesIn(*openStoreToRead(storeFile).value());
+    titles.sort();
+    EXPECT_EQ(titles, (QStringList{u"News 1"_s, u"News 2"_s, u"News 3"_s, u"News 4"_s}));
+    EXPECT_EQ(told().size(), 4);
 }
 
 TEST_F(NetworkSourcesTest, DialsNobodyDuringAnOutageNorWithoutSources) {

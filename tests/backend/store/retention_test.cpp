@@ -57,6 +57,20 @@ protected:
     std::vector<NewsItem> items;
 };
 
+TEST_F(RetentionTest, WhoBroughtNewsIsForgottenWithIt) {
+    ASSERT_TRUE(writer->begin());
+    for (const int age : {40, 10}) {
+        host_clock::startAt(now - age * day);
+        NewsItem item = newsItem(1, u"n%1"_s.arg(age), now - age * day, u"Silver"_s);
+        item.link = u"https://a.example/%1"_s.arg(age);
+        ASSERT_TRUE(writer->takeFrom(u"net:a.example"_s, item));
+    }
+    ASSERT_TRUE(writer->commit());
+    host_clock::startAt(now);
+    trim({.days = 30});
+    EXPECT_EQ(rows("SELECT identity FROM item_origins"), QStringList{u"n10"_s});
+}
+
 TEST_F(RetentionTest, WhatIsOlderLeavesWholeAndDoesNotComeInAgain) {
     fill(900);
     QStringList expected;
