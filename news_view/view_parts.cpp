@@ -65,8 +65,10 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
                    [this] { return listOf(shownList()).headlineTable().countsOfServices(); }}),
       liveNews(*this, common, liveCalls()),
       emptyLists(*this, common, searches.desk(), emptyListCalls()),
-      searchLine(*this, common, searches.desk(),
-                 [this](const CSearch& condition) { searches.replace(condition); }) {
+      searchLine(*this, common, searches.desk(), [this](const CSearch& condition) {
+          searches.replace(condition);
+          standingSearches.loadHints();
+      }) {
     lists.setOnRead([this] { placeNotices(); });
 }
 

@@ -107,7 +107,7 @@ class Guide:
     def searches(self):
         word, other = WORDS[self.terminal.language]
         self.show_mode(SEARCH)
-        self.ask("control.set", id=SEARCH_EDIT, text=word)
+        self.ask("control.set", id=SEARCH_EDIT, text=f"{word} -{other}")
         self.ask("view.command", id=SEARCH_BUTTON)
         self.terminal.settle()
         self.read(SEARCH)
