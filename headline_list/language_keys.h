@@ -79,6 +79,10 @@ inline constexpr QLatin1StringView recover{"IDS_NEWSCTRLVIEW_STRING_RECOVER"};
 
 // How long ago a headline came, in its tool tip. "%1": how many.
 inline constexpr QLatin1StringView correctedMark{"IDS_NEWSCTRLVIEW_CORRECTED"};
+inline constexpr QLatin1StringView correctedNumbers{"IDS_NEWSCTRLVIEW_CORRECTED_NUMBERS"};
+inline constexpr QLatin1StringView turnChanges{"IDS_NEWSCTRLVIEW_TURN_CHANGES"};
+inline constexpr QLatin1StringView showChanges{"IDS_NEWSCTRLVIEW_SHOW_CHANGES"};
+inline constexpr QLatin1StringView hideChanges{"IDS_NEWSCTRLVIEW_HIDE_CHANGES"};
 inline constexpr QLatin1StringView withdrawnMark{"IDS_NEWSCTRLVIEW_WITHDRAWN"};
 inline constexpr QLatin1StringView correctedTip{"IDS_NEWSCTRLVIEW_TIP_CORRECTED"};
 inline constexpr QLatin1StringView withdrawnTip{"IDS_NEWSCTRLVIEW_TIP_WITHDRAWN"};

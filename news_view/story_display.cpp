@@ -198,6 +198,13 @@ void StoryDisplay::takeUpdate(const CHeadlineTable& entry) {
         around.stage.storyPane()->vStoryUpdateNotify(&entry);
 }
 
+void StoryDisplay::turnChanges() {
+    if (TRVNewsStory* window = windowOnShow())
+        window->turnChanges();
+    else if (paneShowsStories())
+        around.stage.storyPane()->turnChanges();
+}
+
 void StoryDisplay::listRelatedSymbols() {
     CNewsRelateSymbolQuoteView* quotes = around.stage.relatedQuotes();
     const NewsStoryView* pane = around.stage.storyPane();

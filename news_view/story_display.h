@@ -63,6 +63,8 @@ public:
     void show();
     // Shows the pane's story in a window, too; without a pane that of the focused row.
     void openWindow();
+    // What has changed in the story on show, or the story again.
+    void turnChanges();
     // The story of a list's new current row is shown in the pane, when the reader went there: not where the
     // current row went because its own has left, nor within `readInPlace`.
     void follow(const CSuperSheetWnd& grid, ListIndex list);

@@ -67,7 +67,8 @@ QString StoryInput::selectedWords() const {
 }
 
 void StoryInput::openMenu(const QPoint& screen) {
-    menu.popUp(storyMenuEntries(selectedWords(), around.canSearch()), screen);
+    const bool hasChanges = around.stage.storyPane()->hasChanges();
+    menu.popUp(storyMenuEntries({selectedWords(), around.canSearch(), hasChanges}), screen);
 }
 
 void StoryInput::carryOut(int command) {
@@ -80,6 +81,9 @@ void StoryInput::carryOut(int command) {
             break;
         case StoryCommand::Search:
             around.searchFor(selectedWords().simplified());
+            break;
+        case StoryCommand::TurnChanges:
+            around.stage.storyPane()->turnChanges();
             break;
         case StoryCommand::SelectAll:
             text->selectAll();

@@ -5,6 +5,7 @@
 #include "headline_list/language_keys.h"
 #include "host/contract/lang_text.h"
 #include "host/controls/plain_caption.h"
+#include "news_view/command_keys.h"
 
 #include <QKeySequence>
 
@@ -24,17 +25,22 @@ QString withKey(const QString& caption, QKeySequence::StandardKey key) {
 
 }  // namespace
 
-std::vector<MenuEntry> storyMenuEntries(const QString& selected, bool canSearch) {
+std::vector<MenuEntry> storyMenuEntries(const StoryMenuState& state) {
     std::vector<MenuEntry> lines;
-    if (!selected.isEmpty())
+    if (!state.selected.isEmpty())
         lines.push_back(entryOf(StoryCommand::Copy, withKey(langText(keys::storyCopy), QKeySequence::Copy)));
     lines.push_back(
         entryOf(StoryCommand::SelectAll, withKey(langText(keys::storySelectAll), QKeySequence::SelectAll)));
     lines.push_back({});
     lines.push_back(entryOf(StoryCommand::OpenInWindow, langText(keys::storyInWindow)));
-    const bool isOneLine = !selected.contains(QChar::ParagraphSeparator) && selected.size() <= longestSearch;
-    const QString words = selected.simplified();
-    if (canSearch && isOneLine && !words.isEmpty())
+    if (state.hasChanges)
+        lines.push_back(entryOf(StoryCommand::TurnChanges,
+                                langText(keys::turnChanges) + u'\t' +
+                                    keyOfCommand(ids::turnChanges).toString(QKeySequence::NativeText)));
+    const bool isOneLine =
+        !state.selected.contains(QChar::ParagraphSeparator) && state.selected.size() <= longestSearch;
+    const QString words = state.selected.simplified();
+    if (state.canSearch && isOneLine && !words.isEmpty())
         lines.push_back(entryOf(StoryCommand::Search, captionOfName(langText(keys::storySearch).arg(words))));
     return lines;
 }

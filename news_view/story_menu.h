@@ -8,10 +8,15 @@
 
 namespace wirepane {
 
-enum class StoryCommand { Copy = 1, SelectAll, OpenInWindow, Search };
+enum class StoryCommand { Copy = 1, SelectAll, OpenInWindow, Search, TurnChanges };
 
-// What the menu of a story offers where this is selected. Whole words of one line can be searched for, where
-// the view searches.
-std::vector<MenuEntry> storyMenuEntries(const QString& selected, bool canSearch);
+struct StoryMenuState {
+    QString selected;
+    bool canSearch = false;   // the view searches
+    bool hasChanges = false;  // the story has
+};
+
+// What the menu of a story offers. Whole words of one line can be searched for.
+std::vector<MenuEntry> storyMenuEntries(const StoryMenuState& state);
 
 }  // namespace wirepane

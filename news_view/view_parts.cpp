@@ -386,6 +386,8 @@ bool TRVNewsCtrlView::Parts::takeRowCommand(int id) {
         input.copyRows();
     else if (id == ids::openInWindow)
         story.openWindow();
+    else if (id == ids::turnChanges)
+        story.turnChanges();
     else
         return false;
     return true;

@@ -92,7 +92,8 @@ void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
 }
 
 StorySetting storySettingOf(const ViewSettings& settings) {
-    return {settings.options[ViewOption::TypesetStory], settings.storySize};
+    return {settings.options[ViewOption::TypesetStory], settings.storySize,
+            settings.options[ViewOption::RecordMarks]};
 }
 
 }  // namespace wirepane

@@ -44,7 +44,9 @@ void NewsStoryView::InitialViewInfo(TRVCfgIO2* settings, const QString& section,
     notice->hide();
     connect(storyEdit, &MyRichEdit::sizeWanted, this, &NewsStoryView::sizeWanted);
     connect(storyEdit, &MyRichEdit::linkClicked, this, [this](const QString& link) {
-        if (const auto symbol = symbolOfLink(link))
+        if (isLinkToChanges(link))
+            turnChanges();
+        else if (const auto symbol = symbolOfLink(link))
             emit symbolChosen(symbol->market, symbol->code);
     });
     vLoadLanguageString();
@@ -57,6 +59,7 @@ void NewsStoryView::setStorySetting(const StorySetting& setting) {
         return;
     storySetting = setting;
     reader.tellHeads(setting.typeset);
+    reader.tellChanges(setting.tellsChanges);
     applyFont();
     applyTypography();
     vSetComponentPos();

@@ -72,6 +72,9 @@ public:
     // Empties the pane; answers for what it showed are ignored from here on.
     void OnClearStory();
 
+    // What has changed in the story since the version before, or the story again; where heads tell of it.
+    void turnChanges() { draw(reader.turnChanges()); }
+    bool hasChanges() const { return reader.hasChanges(); }
     // Selects the last match of the search's keywords and scrolls to it; only where a keyword search found
     // the headline.
     void vSetStorySearchMarke();

@@ -25,6 +25,8 @@ struct StoryHead {
     QString topic;
     QString time;  // to the second
     std::vector<RelatedSymbol> symbols;
+    QString remark = {};   // what became of it; empty: nothing
+    QString changes = {};  // what the link to its changes, or back from them, says; empty: there is none
 
     bool operator==(const StoryHead&) const = default;
 };

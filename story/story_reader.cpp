@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace wirepane {
 
 void StoryReader::pointAt(std::optional<ListIndex> list, int newPosition, const CSearch& newCondition) {
@@ -47,6 +49,7 @@ StoryTexts StoryReader::showData() {
     if (source == nullptr || !pointedList || source->entryCount(*pointedList) < 1)
         return {};
     pointedAt = entryAtPosition();
+    showsChanges = showsChanges && shown && pointedAt && isSameNews(*shown, *pointedAt);
     shown = pointedAt;
     const QString placeholder = langText(backEnd, keys::recover);
     StoryTexts texts;
@@ -61,7 +64,7 @@ StoryTexts StoryReader::showData() {
     CStory story;
     if (!pointedAt || !backEnd.BKQNEWS_bGetStory(story, *pointedAt))
         return texts;
-    texts.story = textOf(story, pointedAt->service, BodyEnd::Shown);
+    putStory(texts, *pointedAt, story, BodyEnd::Shown);
     state = StoryState::There;
     return texts;
 }
@@ -91,14 +94,19 @@ StoryTexts StoryReader::RespStory(const CHeadlineTable& answered) {
         return {};
     StoryTexts texts;
     if (!titleIsShown()) {
+        showsChanges = false;
         texts = titleOf(*entry);
         if (!texts.title)
             texts.title = langText(backEnd, keys::recover);
+    } else if (tellsChanges) {
+        texts.head = titleOf(*entry).head;
     }
     state = story.text.isEmpty() ? StoryState::Empty : StoryState::There;
-    texts.story = story.text.isEmpty() ? datedText(story.time, langText(backEnd, keys::noStory))
-                                       : textOf(story, entry->service, BodyEnd::Answered);
     shown = entry;
+    if (story.text.isEmpty())
+        texts.story = datedText(story.time, langText(backEnd, keys::noStory));
+    else
+        putStory(texts, *entry, story, BodyEnd::Answered);
     return texts;
 }
 
@@ -157,13 +165,37 @@ StoryHead StoryReader::headOf(const CHeadlineTable& entry, const CHeadline& head
         const QString name = symbolName(backEnd, known).value_or(QString());
         head.symbols.push_back({known, shownText(backEnd, headline.service, name)});
     }
+    if (!tellsChanges)
+        return head;
+    head.remark = shownText(backEnd, headline.service, history.remark(headline));
+    if (history.hasEarlier(keyOf(headline)))
+        head.changes = langText(backEnd, showsChanges ? keys::hideChanges : keys::showChanges);
     return head;
 }
 
-QString StoryReader::textOf(const CStory& story, unsigned char service, BodyEnd end) const {
-    QString body = shownText(backEnd, service, story.text);
+void StoryReader::putStory(StoryTexts& texts, const CHeadlineTable& entry, const CStory& story,
+                           BodyEnd end) const {
+    QString body = shownText(backEnd, entry.service, story.text);
     vConvertStoryContent(body);
-    return storyText(story.time, body, end, langText(backEnd, keys::storyRemark));
+    const std::optional<CHeadline> headline = showsChanges ? headlineOf(entry) : std::nullopt;
+    if (std::optional<ComparedStory> compared = headline ? history.compared(*headline, body) : std::nullopt) {
+        body = compared->text.replace("\n"_L1, "\r\n"_L1);
+        texts.changes = std::move(compared->marks);
+        for (ChangeMark& mark : texts.changes)
+            mark.from += dateLineCharacters;
+    }
+    texts.story = storyText(story.time, body, end, langText(backEnd, keys::storyRemark));
+}
+
+StoryTexts StoryReader::turnChanges() {
+    CStory story;
+    if (!hasChanges() || source == nullptr || !backEnd.BKQNEWS_bGetStory(story, *shown) ||
+        story.text.isEmpty())
+        return {};
+    showsChanges = !showsChanges;
+    StoryTexts texts = headAgain();
+    putStory(texts, *shown, story, BodyEnd::Shown);
+    return texts;
 }
 
 }  // namespace wirepane

@@ -7,6 +7,7 @@
 #include "host/contract/search_condition.h"
 #include "story/keyword_match.h"
 #include "story/story_head.h"
+#include "story/story_history.h"
 
 #include <QString>
 
@@ -26,7 +27,8 @@ enum class StoryState { Awaited, Empty, There };
 struct StoryTexts {
     std::optional<QString> title;
     std::optional<QString> story;
-    std::optional<StoryHead> head = {};  // only where the reader is to tell it
+    std::optional<StoryHead> head = {};    // only where the reader is to tell it
+    std::vector<ChangeMark> changes = {};  // of the story
 
     bool operator==(const StoryTexts&) const = default;
 };
@@ -44,12 +46,17 @@ public:
 
     // `newsSource` outlives the reader.
     explicit StoryReader(BKQuoteInterface& newsSource, Follows followed = Follows::Row)
-        : backEnd(newsSource), follows(followed) {}
+        : backEnd(newsSource), follows(followed), history(newsSource) {}
 
     // Whose headlines are read; not owned, null: none.
     void showSource(EntrySource* owner) { source = owner; }
     // Heads are told with the titles from here on.
     void tellHeads(bool told) { tellsHeads = told; }
+    // Heads tell what became of the news from here on.
+    void tellChanges(bool told) { tellsChanges = told; }
+    // Shows what has changed in the story on show since the version before, or the story as it is again.
+    StoryTexts turnChanges();
+    bool hasChanges() const { return tellsChanges && shown && history.hasEarlier(keyOf(*shown)); }
 
     // Points at a headline of a list (nothing: of none), which was found under `condition` (empty: not by a
     // search).
@@ -97,13 +104,16 @@ private:
     std::optional<CHeadline> headlineOf(const CHeadlineTable& entry) const;
     StoryTexts titleOf(const CHeadlineTable& entry) const;
     StoryHead headOf(const CHeadlineTable& entry, const CHeadline& headline) const;
-    QString textOf(const CStory& story, unsigned char service, BodyEnd end) const;
+    void putStory(StoryTexts& texts, const CHeadlineTable& entry, const CStory& story, BodyEnd end) const;
 
     BKQuoteInterface& backEnd;
     Follows follows;
     EntrySource* source = nullptr;
     CSearch condition;
+    StoryHistory history;
     bool tellsHeads = false;
+    bool tellsChanges = false;
+    bool showsChanges = false;  // of the headline on show
     StoryState state = StoryState::Awaited;
     std::optional<ListIndex> pointedList = ListIndex::All;
     int position = 0;

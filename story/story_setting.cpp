@@ -29,12 +29,29 @@ const QString betweenParts = u"\u00A0\u00A0\u00B7  "_s;
 // What a back end calls the topic of news that has none.
 const QString noTopic = u"\u2013"_s;
 
+const QString linkToChanges = u"changes:"_s;
+
 QString inOnePiece(QString text) {
     return text.replace(u' ', QChar(QChar::Nbsp));
 }
 
 MyRichEdit::Parts partsOf(StoryState state) {
     return {state == StoryState::Awaited ? 0 : dateLineCharacters, true};
+}
+
+QTextCharFormat formatOf(const ChangeMark& mark, const QPalette& palette) {
+    constexpr int lightly = 48;  // of 255
+    QTextCharFormat format;
+    if (mark.isRemoved) {
+        format.setFontStrikeOut(true);
+        format.setForeground(roleColour(ColourRole::Weak, palette.color(QPalette::PlaceholderText)));
+        return format;
+    }
+    QColor ground = roleColour(ColourRole::Accent, palette.color(QPalette::Link));
+    ground.setAlpha(lightly);
+    format.setFontUnderline(true);
+    format.setBackground(ground);
+    return format;
 }
 
 }  // namespace
@@ -59,7 +76,20 @@ TextLead leadOf(const StoryHead& head) {
     for (const RelatedSymbol& related : head.symbols)
         add(u"%1 %2"_s.arg(related.symbol.code, related.name).trimmed(),
             u"%1:%2"_s.arg(related.symbol.market).arg(related.symbol.code));
+    const auto remark = [&lead](const QString& text, const QString& target) {
+        if (text.isEmpty())
+            return;
+        if (!lead.remarks.empty())
+            lead.remarks.push_back({betweenParts, {}});
+        lead.remarks.push_back({text, target});
+    };
+    remark(head.remark, {});
+    remark(head.changes, linkToChanges);
     return lead;
+}
+
+bool isLinkToChanges(const QString& link) {
+    return link == linkToChanges;
 }
 
 std::optional<CSymbolInfo> symbolOfLink(const QString& link) {
@@ -91,8 +121,13 @@ Typography storyTypography(bool withLargeHeadline, const QPalette& palette) {
 void putStory(MyRichEdit& edit, const StoryTexts& texts, StoryState state) {
     if (texts.head)
         edit.setLead(leadOf(*texts.head));
-    if (texts.story)
-        edit.showText(*texts.story, partsOf(state));
+    if (!texts.story)
+        return;
+    edit.showText(*texts.story, partsOf(state));
+    std::vector<MyRichEdit::Mark> marks;
+    for (const ChangeMark& mark : texts.changes)
+        marks.push_back({mark.from, mark.from + mark.length, formatOf(mark, edit.palette())});
+    edit.setMarks(std::move(marks));
 }
 
 }  // namespace wirepane

@@ -15,8 +15,11 @@ struct StorySetting;
 struct StoryTexts;
 enum class StoryState;
 
-// The headline, and under it source, topic, time and symbols; a symbol is a link to itself.
+// The headline, and under it source, topic, time and symbols; a symbol is a link to itself. What became of
+// the news stands below.
 TextLead leadOf(const StoryHead& head);
+// Whether a link is the one to the changes of a story.
+bool isLinkToChanges(const QString& link);
 // The symbol of such a link; nothing for another text.
 std::optional<CSymbolInfo> symbolOfLink(const QString& link);
 

@@ -15,6 +15,7 @@ int steppedStorySize(int size, int step);
 struct StorySetting {
     bool typeset = false;
     int size = plainStorySize;
+    bool tellsChanges = false;  // with heads: what was corrected or withdrawn
 
     bool operator==(const StorySetting&) const = default;
 };

@@ -99,7 +99,9 @@ TRVNewsStory::TRVNewsStory(StoryOwner* storyOwner, CMainFrame* frame, QWidget* p
     createButtons();
     connect(storyEdit, &MyRichEdit::sizeWanted, this, &TRVNewsStory::sizeWanted);
     connect(storyEdit, &MyRichEdit::linkClicked, this, [this](const QString& link) {
-        if (const auto symbol = symbolOfLink(link))
+        if (isLinkToChanges(link))
+            turnChanges();
+        else if (const auto symbol = symbolOfLink(link))
             emit symbolChosen(symbol->market, symbol->code);
     });
     vSetFont(CSyncInfo::GetSettingCFG()->SYS_fntGetViewFont());
@@ -149,6 +151,8 @@ void TRVNewsStory::addShortcuts() {
         auto* shortcut = new QShortcut(QKeySequence(QString(key.key)), this);
         connect(shortcut, &QShortcut::activated, this, storyButtons[key.button].clicked);
     }
+    auto* changes = new QShortcut(QKeySequence(u"Ctrl+D"_s), this);
+    connect(changes, &QShortcut::activated, this, &TRVNewsStory::turnChanges);
 }
 
 bool TRVNewsStory::isPinned() const {
@@ -158,6 +162,7 @@ bool TRVNewsStory::isPinned() const {
 void TRVNewsStory::setStorySetting(const StorySetting& setting) {
     storySetting = setting;
     reader.tellHeads(setting.typeset || tools != nullptr);
+    reader.tellChanges(setting.tellsChanges);
     storyEdit->setTypography(setting.typeset ? std::optional(storyTypography(true, palette()))
                                              : std::nullopt);
     vSetFont(dialogFont);

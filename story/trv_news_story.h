@@ -61,6 +61,9 @@ public:
     void RespStory(const CHeadlineTable& entry);
     // The story is being updated: says so above the title until the next show or story.
     void vStoryUpdateNotify(const CHeadlineTable* entry);
+    // What has changed in the story since the version before, or the story again; where heads tell of it.
+    void turnChanges() { draw(reader.turnChanges()); }
+    bool hasChanges() const { return reader.hasChanges(); }
     // Selects the last match of the search's keywords; only where a keyword search found the headline.
     void vSetStorySearchMarke();
 

@@ -56,6 +56,8 @@ void MyRichEdit::setTypography(const std::optional<Typography>& typography) {
 void MyRichEdit::showText(const QString& text, const Parts& parts) {
     shown = text;
     special = parts;
+    marked.clear();
+    setExtraSelections({});
     fill();
 }
 
@@ -70,6 +72,29 @@ void MyRichEdit::setLead(const TextLead& lead) {
     verticalScrollBar()->setValue(top);
 }
 
+void MyRichEdit::setMarks(std::vector<Mark> marks) {
+    marked = std::move(marks);
+    if (marked.size() > mostMarks)
+        marked.resize(mostMarks);
+    drawMarks();
+}
+
+// Those whose text is there.
+void MyRichEdit::drawMarks() {
+    QList<QTextEdit::ExtraSelection> drawn;
+    for (const Mark& mark : marked) {
+        if (mark.end > portions.handedOut() && !portions.isWhole())
+            continue;
+        QTextEdit::ExtraSelection selection;
+        selection.format = mark.format;
+        selection.cursor = QTextCursor(document());
+        selection.cursor.setPosition(placeOf(mark.start, true));
+        selection.cursor.setPosition(placeOf(mark.end, false), QTextCursor::KeepAnchor);
+        drawn.append(selection);
+    }
+    setExtraSelections(drawn);
+}
+
 void MyRichEdit::fill() {
     portions = TextPortions(shown);
     if (page != nullptr) {
@@ -82,6 +107,7 @@ void MyRichEdit::fill() {
         setPlainText(portions.next());
     }
     awaited.reset();
+    drawMarks();
     if (portions.isWhole())
         filling.stop();
     else
@@ -124,6 +150,8 @@ void MyRichEdit::addPortion() {
         append(portion);
     else
         end.insertText(portion);
+    if (!marked.empty())
+        drawMarks();
     if (portions.isWhole())
         filling.stop();
     if (atEnd)

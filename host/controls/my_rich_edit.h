@@ -12,6 +12,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 // A read-only text of several lines. Text is never taken as markup, and is copied as plain text. Colours that
 // were not set (invalid) follow the palette. What is selected stays visible while another window has the
@@ -51,6 +52,15 @@ public:
     const wirepane::TextLead& lead() const { return above; }
     // Selects the text, the lead not.
     void selectAll();
+    // A part of the shown text that is drawn in a way of its own.
+    struct Mark {
+        int start = 0;
+        int end = 0;  // behind it
+        QTextCharFormat format;
+    };
+    static constexpr std::size_t mostMarks = 2000;
+    // Until another text is shown. Of more than mostMarks the first ones are drawn.
+    void setMarks(std::vector<Mark> marks);
     // The text exactly as it was set.
     const QString& literalText() const { return shown; }
     // The text as selections count it: each line break is one character (U+2029).
@@ -87,6 +97,7 @@ private:
     void addPortion();
     void append(const QString& portion);
     void select(std::pair<int, int> characters);
+    void drawMarks();
     int placeOf(int character, bool behindBreak) const;
     int characterAt(int place) const;
     // How much farther behind a place of the document is than one of what has been handed out.
@@ -101,6 +112,7 @@ private:
     int wheel = 0;                    // of a turn that has not made a step yet
     wirepane::TextPortions portions;  // of the shown text: what the document has of it
     QBasicTimer filling;
+    std::vector<Mark> marked;
     std::optional<std::pair<int, int>> awaited;  // to be selected when it is there
     QColor textColour;
     QColor background;

@@ -114,6 +114,7 @@ void TypesetDocument::loadFormats() {
     large.setWeight(QFont::DemiBold);
     headline.setFont(large);
     particulars.setFont(scaled(font, noteSize));
+    remarks.setFont(particulars.font());
     particulars.setForeground(look.weak);
     link = particulars;
     link.setAnchor(true);
@@ -154,15 +155,23 @@ void TypesetDocument::replaceLead(const TextLead& lead) {
         cursor.insertText(lead.headline, headline);
         cursor.insertBlock(QTextBlockFormat(), particulars);
         cursor.block().setUserState(static_cast<int>(LineKind::Particulars));
-        for (const LeadPart& part : lead.particulars) {
-            link.setAnchorHref(part.target);
-            cursor.insertText(part.text, part.target.isEmpty() ? particulars : link);
-        }
+        insertParts(cursor, lead.particulars, particulars);
+        if (!lead.remarks.empty())
+            cursor.insertText(QString(QChar::LineSeparator), remarks);
+        insertParts(cursor, lead.remarks, remarks);
         cursor.insertBlock(QTextBlockFormat(), body);
         cursor.block().setUserState(kindBehind);
     }
     lengthOfLead = cursor.position();
     cursor.endEditBlock();
+}
+
+void TypesetDocument::insertParts(QTextCursor& cursor, const std::vector<LeadPart>& parts,
+                                  const QTextCharFormat& plain) {
+    for (const LeadPart& part : parts) {
+        link.setAnchorHref(part.target);
+        cursor.insertText(part.text, part.target.isEmpty() ? plain : link);
+    }
 }
 
 const QTextCharFormat& TypesetDocument::formatOf(LineKind kind) const {

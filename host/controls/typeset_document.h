@@ -27,6 +27,7 @@ struct LeadPart {
 struct TextLead {
     QString headline;
     std::vector<LeadPart> particulars;
+    std::vector<LeadPart> remarks = {};  // in a line of their own
 
     bool isEmpty() const { return headline.isEmpty() && particulars.empty(); }
     bool operator==(const TextLead&) const = default;
@@ -65,6 +66,7 @@ public:
 private:
     void loadFormats();
     const QTextCharFormat& formatOf(LineKind kind) const;
+    void insertParts(QTextCursor& cursor, const std::vector<LeadPart>& parts, const QTextCharFormat& plain);
     void insertAligned(QTextCursor& cursor, QStringView lines) const;
 
     Typography look;
@@ -72,6 +74,7 @@ private:
     int lengthOfLead = 0;
     QTextCharFormat headline;
     QTextCharFormat particulars;
+    QTextCharFormat remarks;
     QTextCharFormat link;
     QTextCharFormat endMark;
     QTextCharFormat body;

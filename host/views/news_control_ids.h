@@ -38,6 +38,7 @@ inline constexpr int presentDay = 3021;
 inline constexpr int copyRows = 3022;      // the selected ones, as text
 inline constexpr int openInWindow = 3023;  // the story of the current one
 inline constexpr int searchLine = 3024;
+inline constexpr int turnChanges = 3025;  // a menu command alone: of the story on show, or back to it
 inline constexpr int tabStrip = 3100;
 inline constexpr int pageDownButton = 8067;
 inline constexpr int pageUpButton = 8068;

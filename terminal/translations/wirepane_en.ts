@@ -1483,6 +1483,10 @@
         <source></source>
         <translation>Corrected</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_CORRECTED_NUMBERS">
+        <source></source>
+        <translation>Corrected: %1</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_BEGIN_SEARCH">
         <source></source>
         <translation>Go to the Search Box</translation>
@@ -1574,6 +1578,10 @@
     <message id="IDS_NEWSCTRLVIEW_FOUND_UNTIL">
         <source></source>
         <translation>until %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HIDE_CHANGES">
+        <source></source>
+        <translation>Hide Changes</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET">
         <source></source>
@@ -1670,6 +1678,10 @@
     <message id="IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED">
         <source></source>
         <translation>Not looked through by key sets: do it now</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SHOW_CHANGES">
+        <source></source>
+        <translation>Show Changes</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STORY_COPY">
         <source></source>
@@ -1978,6 +1990,10 @@
     <message id="IDS_NEWSCTRLVIEW_TIP_WITHDRAWN_WHY">
         <source></source>
         <translation>Withdrawn by its publisher at %1: %2</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TURN_CHANGES">
+        <source></source>
+        <translation>Show or Hide Changes</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_WITHDRAWN">
         <source></source>

@@ -1483,6 +1483,10 @@
         <source></source>
         <translation>更正</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_CORRECTED_NUMBERS">
+        <source></source>
+        <translation>更正：%1</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_BEGIN_SEARCH">
         <source></source>
         <translation>到搜尋框</translation>
@@ -1574,6 +1578,10 @@
     <message id="IDS_NEWSCTRLVIEW_FOUND_UNTIL">
         <source></source>
         <translation>至 %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HIDE_CHANGES">
+        <source></source>
+        <translation>隱藏變更</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_HINT_NO_KEY_SET">
         <source></source>
@@ -1670,6 +1678,10 @@
     <message id="IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED">
         <source></source>
         <translation>尚未以關鍵字組篩選：立即篩選</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SHOW_CHANGES">
+        <source></source>
+        <translation>顯示變更</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STORY_COPY">
         <source></source>
@@ -1978,6 +1990,10 @@
     <message id="IDS_NEWSCTRLVIEW_TIP_WITHDRAWN_WHY">
         <source></source>
         <translation>發布者於 %1 撤回：%2</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_TURN_CHANGES">
+        <source></source>
+        <translation>顯示或隱藏變更</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_WITHDRAWN">
         <source></source>

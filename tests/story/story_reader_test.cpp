@@ -68,6 +68,50 @@ TEST_F(StoryReaderTest, ShowsWhatIsAtHandAndAPlaceholderForTheRest) {
     EXPECT_EQ(show(0), nothing);
 }
 
+TEST_F(StoryReaderTest, TellsWhatBecameOfTheNewsAndShowsWhatHasChanged) {
+    backEnd.texts.insert({{u"IDS_NEWSCTRLVIEW_CORRECTED"_s, u"Corrected"_s},
+                          {u"IDS_NEWSCTRLVIEW_CORRECTED_NUMBERS"_s, u"Corrected: %1"_s},
+                          {u"IDS_NEWSCTRLVIEW_TIP_WITHDRAWN_WHY"_s, u"Withdrawn %1: %2"_s},
+                          {u"IDS_NEWSCTRLVIEW_SHOW_CHANGES"_s, u"Show"_s},
+                          {u"IDS_NEWSCTRLVIEW_HIDE_CHANGES"_s, u"Hide"_s}});
+    giveHeadline(first, u"Profit 3.55 billion"_s);
+    giveStory(first, u"Made 3.55 billion.@@@@Up."_s);
+    giveHeadline(second, u"Freight"_s);
+    giveStory(second, u"Ships."_s);
+    reader.tellHeads(true);
+    const StoryTexts plain = show(0);
+    EXPECT_EQ(reader.turnChanges(), nothing) << "not told";
+    reader.tellChanges(true);
+    EXPECT_EQ(show(0), plain) << "as first sent";
+    EXPECT_EQ(reader.turnChanges(), nothing);
+
+    backEnd.states[7] = {1, Withdrawal{first.time, u"Untrue"_s}};
+    backEnd.versions[7] = {
+        {first.time, first.time, u"Profit 5.35 billion"_s, u"Made 5.35 billion.@@@@Up."_s}};
+    const StoryTexts told = show(0);
+    EXPECT_EQ(told.story, plain.story);
+    EXPECT_EQ(told.head->remark,
+              u"Corrected: 5.35 billion → 3.55 billion · Withdrawn 2026/03/02 09:30:00: Untrue"_s);
+    EXPECT_EQ(told.head->changes, u"Show"_s);
+    const StoryTexts changes = reader.turnChanges();
+    EXPECT_EQ(changes.head->changes, u"Hide"_s);
+    EXPECT_EQ(changes.story,
+              u"2026/03/02 09:31:00 \r\nProfit 5.353.55 billion\r\n\r\nMade 5.353.55 "
+              "billion.\r\nUp.  \r\n\r\nEnd."_s);
+    EXPECT_EQ(changes.changes,
+              (std::vector<ChangeMark>{{28, 4, true}, {32, 4, false}, {51, 4, true}, {55, 4, false}}));
+    EXPECT_EQ(show(0).changes, changes.changes) << "the same headline again";
+    EXPECT_EQ(show(1).changes, std::vector<ChangeMark>{});
+    EXPECT_EQ(show(0), told) << "another headline was between";
+    reader.turnChanges();
+    StoryTexts back = reader.turnChanges();
+    back.title = told.title;
+    EXPECT_EQ(back, told);
+
+    backEnd.versions[7] = {{first.time, first.time, u"Profit 3.55 billion"_s, std::nullopt}};
+    EXPECT_TRUE(show(0).head->remark.startsWith(u"Corrected · "));
+}
+
 TEST_F(StoryReaderTest, AsksTheActiveServicesUntilOneHasTheHeadline) {
     giveHeadline(second, u"Freight"_s);
     backEnd.asked.clear();
