@@ -63,16 +63,14 @@ public:
     void show();
     // Shows the pane's story in a window, too; without a pane that of the focused row.
     void openWindow();
-    // What has changed in the story on show, or the story again.
-    void turnChanges();
+    void turnChanges();  // of the story on show, or the story again
     // The story of a list's new current row is shown in the pane, when the reader went there: not where the
     // current row went because its own has left, nor within `readInPlace`.
     void follow(const CSuperSheetWnd& grid, ListIndex list);
     // A row has been clicked: its story is shown in the pane; where stories are in their window, the view
     // goes to the row. False in views without a pane, for which a click is nothing.
     bool takeClick();
-    // A double click opens the window.
-    void takeDoubleClick();
+    void takeDoubleClick();  // opens the window
     // Shows the next, the previous story of the shown list in the pane, round and round; the selection
     // follows.
     void page(int step);
