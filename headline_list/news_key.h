@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/search_condition.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -24,6 +26,11 @@ public:
     CNewsKey& operator=(CNewsKey&&) = default;
     virtual ~CNewsKey() = default;
 
+    // A key set in query form: every method holds, because the query says it all.
+    bool isQuery() const { return language == wirepane::SearchLanguage::Query; }
+    // The text of a query; empty for others.
+    QString query() const { return isQuery() && !keywords.empty() ? keywords.front() : QString(); }
+
     // The method as it works: one of the two.
     std::int32_t knownMethod() const { return method == all ? all : any; }
 
@@ -31,9 +38,13 @@ public:
     std::vector<std::int32_t> newsTypes;  // category ids
     std::vector<QString> keywords;  // as stored; titles are compared in upper case, keywords are not folded
     std::vector<QString> remarks;   // travel with the record; neither stored nor compared
+    // Of a query the only keyword is its text, and the method says nothing.
+    wirepane::SearchLanguage language = wirepane::SearchLanguage::Plain;
 };
 
-// Two key sets want the same: method, news types in order and keywords in order are equal.
+// Two key sets want the same: language, method, news types in order and keywords in order
+// are equal.
 inline bool operator==(const CNewsKey& a, const CNewsKey& b) {
-    return a.method == b.method && a.newsTypes == b.newsTypes && a.keywords == b.keywords;
+    return a.method == b.method && a.newsTypes == b.newsTypes && a.keywords == b.keywords &&
+           a.language == b.language;
 }

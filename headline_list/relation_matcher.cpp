@@ -33,8 +33,10 @@ QString withoutCase(const QString& text) {
 std::vector<CNewsKey> inCapitals(std::span<const CNewsKey> keySets) {
     std::vector<CNewsKey> capitals(keySets.begin(), keySets.end());
     for (CNewsKey& keySet : capitals) {
-        for (QString& word : keySet.keywords)
-            word = word.toUpper();
+        for (QString& word : keySet.keywords) {
+            if (!keySet.isQuery())
+                word = word.toUpper();
+        }
     }
     return capitals;
 }
@@ -43,7 +45,7 @@ std::vector<QString> distinctWords(std::span<const CNewsKey> keySets) {
     std::vector<QString> words;
     for (const CNewsKey& keySet : keySets)
         std::copy_if(keySet.keywords.begin(), keySet.keywords.end(), std::back_inserter(words),
-                     [](const QString& word) { return !word.isEmpty(); });
+                     [&](const QString& word) { return !keySet.isQuery() && !word.isEmpty(); });
     sortOut(words);
     return words;
 }
@@ -65,7 +67,8 @@ bool RelationMatcher::NewsTypes::has(std::int32_t id) const {
     return every || std::binary_search(ids.begin(), ids.end(), id);
 }
 
-RelationMatcher::RelationMatcher(std::span<const CNewsKey> keySets, Case letters) : isEmpty(keySets.empty()) {
+RelationMatcher::RelationMatcher(std::span<const CNewsKey> keySets, Case letters, HeadlineQueries* queries)
+    : isEmpty(keySets.empty()) {
     std::vector<CNewsKey> capitals;
     if (letters == Case::Any) {
         capitals = inCapitals(keySets);
@@ -75,14 +78,28 @@ RelationMatcher::RelationMatcher(std::span<const CNewsKey> keySets, Case letters
     uses.resize(words.size());
     finder = WordFinder(words);
     Together together;
-    for (const CNewsKey& keySet : keySets)
-        take(keySet, together);
+    for (const CNewsKey& keySet : keySets) {
+        if (!keySet.isQuery())
+            take(keySet, together);
+        else if (queries != nullptr)
+            prepare(keySet, *queries);
+    }
     takeGroups(together);
     unconditional.sort();
     for (Word word = 0; word < words.size(); ++word) {
         uses[word].aloneSuffices.sort();
         wordsOfSymbol[withoutCase(words[word])].push_back(word);
     }
+}
+
+void RelationMatcher::prepare(const CNewsKey& keySet, HeadlineQueries& queries) {
+    PreparedQuery ready;
+    ready.query = queries.prepareQuery(keySet.query());
+    if (!ready.query)
+        return;
+    ready.types.add(keySet);
+    ready.types.sort();
+    prepared.push_back(std::move(ready));
 }
 
 RelationMatcher::Words RelationMatcher::numbersOf(const CNewsKey& keySet) const {
@@ -144,6 +161,11 @@ bool RelationMatcher::allHit(const Hits& hits, std::int32_t categoryId) const {
 bool RelationMatcher::CheckIsRelationSearch(const CHeadline& headline, std::int32_t categoryId,
                                             const QString& symbolText) const {
     if (unconditional.has(categoryId))
+        return true;
+    const bool isAskedFor = std::any_of(prepared.begin(), prepared.end(), [&](const PreparedQuery& each) {
+        return each.types.has(categoryId) && each.query->wants(headline, categoryId);
+    });
+    if (isAskedFor)
         return true;
     Hits hits;
     // True when the word is enough.

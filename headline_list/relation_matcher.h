@@ -4,6 +4,7 @@
 
 #include "headline_list/news_key.h"
 #include "headline_list/word_finder.h"
+#include "host/contract/query/headline_query.h"
 #include "host/contract/records.h"
 
 #include <QHash>
@@ -16,8 +17,9 @@
 namespace wirepane {
 
 // The key sets of the relation-search list, made ready to be tried on many headlines: it is built once when
-// they change, and a headline then costs about the same whether there are ten of them or ten thousand. Pure;
-// may be read on several threads at once.
+// they change, and a headline then costs about the same whether there are ten of them or ten thousand. May be
+// read on several threads at once, unless there are queries among them: those are tried one by one, on the
+// interface thread.
 class RelationMatcher {
 public:
     // No key set: wants nothing.
@@ -27,8 +29,10 @@ public:
         AsWritten,  // as they stand: one with small letters hits no title
         Any,        // in upper case, too
     };
-    // `keySets` need not outlive the call.
-    explicit RelationMatcher(std::span<const CNewsKey> keySets, Case letters = Case::AsWritten);
+    // `keySets` need not outlive the call. Without `queries`, or with a fault, a key set in query form wants
+    // nothing.
+    explicit RelationMatcher(std::span<const CNewsKey> keySets, Case letters = Case::AsWritten,
+                             HeadlineQueries* queries = nullptr);
 
     bool empty() const { return isEmpty; }
 
@@ -62,15 +66,21 @@ private:
         NewsTypes aloneSuffices;    // for headlines of these types a hit of the word is enough
         std::vector<Group> groups;  // which hold this word; those of few words first
     };
+    struct PreparedQuery {
+        NewsTypes types;
+        std::shared_ptr<const HeadlineQuery> query;
+    };
     using Hits = QVarLengthArray<Word, 64>;
     using Together = std::map<Words, NewsTypes>;
 
     void take(const CNewsKey& keySet, Together& together);
+    void prepare(const CNewsKey& keySet, HeadlineQueries& queries);
     void takeGroups(Together& together);
     Words numbersOf(const CNewsKey& keySet) const;
     bool allHit(const Hits& hits, std::int32_t categoryId) const;
 
     bool isEmpty = true;
+    std::vector<PreparedQuery> prepared;
     NewsTypes unconditional;     // headlines of these types are wanted whatever they say
     std::vector<QString> words;  // rising, each once
     std::vector<WordUse> uses;   // by word

@@ -9,7 +9,6 @@
 #include "headline_list/table_reading.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
-#include "host/contract/query/search_query.h"
 #include "host/contract/symbol_name.h"
 #include "host/controls/heap_dialog.h"
 #include "host/controls/registered_message.h"
@@ -23,6 +22,7 @@
 #include "news_view/view_settings.h"
 #include "search/adv_search_dlg.h"
 #include "search/dialog_controls.h"
+#include "search/query_entry.h"
 #include "search/search_ids.h"
 
 #include <algorithm>
@@ -91,17 +91,8 @@ void Searches::searchForText() {
 }
 
 std::optional<SearchLanguage> Searches::languageOf(const QString& text) {
-    if (parts.settings.options[ViewOption::SearchQueries]) {
-        const ReadQuery read = readQuery(text);
-        const auto* fault = std::get_if<QueryFault>(&read);
-        if (fault == nullptr)
-            return SearchLanguage::Query;
-        const QString sentence = langText(parts.backEnd, keyOf(fault->kind))
-                                     .arg(QString::number(fault->position + 1), fault->found);
-        const QString question = langText(parts.backEnd, keys::searchAsText);
-        return askYesNo(&parts.window, sentence + u"\n\n"_s + question) ? std::optional(SearchLanguage::Plain)
-                                                                        : std::nullopt;
-    }
+    if (parts.settings.options[ViewOption::SearchQueries])
+        return askLanguage(&parts.window, text);
     if (text.contains(u"AND"_s) || text.contains(u"OR"_s)) {
         tellError(&parts.window, langText(parts.backEnd, keys::reinput));
         return std::nullopt;
@@ -127,7 +118,8 @@ QVariantMap Searches::shortTipState() const {
 
 void Searches::compose() {
     SearchMemory& memory = conditions.memory;
-    HeapDialog dialog(new CAdvSearchDlg(conditions.edited, memory.keywordPool, memory.recent, &parts.window));
+    HeapDialog dialog(new CAdvSearchDlg(conditions.edited, memory.keywordPool, memory.recent, &parts.window,
+                                        parts.settings.options[ViewOption::SearchQueries]));
     const bool accepted = dialog->DoModal() == search_ids::ok;
     if (!dialog)
         return;

@@ -32,6 +32,11 @@ QString keywordsOf(const CSearch& condition) {
     return text.size() > longest ? text.left(longest) + u'…' : text;
 }
 
+// Null: the back end cannot try queries on headlines.
+HeadlineQueries* queriesOf(const CommonParts& parts) {
+    return dynamic_cast<HeadlineQueries*>(&parts.backEnd);
+}
+
 QString nativeKey(const QString& portable) {
     return QKeySequence(portable).toString(QKeySequence::NativeText);
 }
@@ -51,9 +56,11 @@ StandingSearches::StandingSearches(ViewContext& viewContext, const CommonParts& 
 
 void StandingSearches::composeKeySets() {
     setTicked({});
+    const bool takesQueries =
+        parts.settings.options[ViewOption::SearchQueries] && queriesOf(parts) != nullptr;
     HeapDialog dialog(new CNewsKeySearchDlg(desk.memory.keywordPool,
                                             newsTypesOf(parts.backEnd, parts.services.currentServices()),
-                                            desk.memory.keySets, &parts.window));
+                                            desk.memory.keySets, &parts.window, takesQueries));
     if (parts.settings.options[ViewOption::KeySetsInAnyCase])
         dialog->takeAnyCase();
     const bool accepted = dialog->DoModal() == search_ids::ok;
@@ -74,8 +81,8 @@ void StandingSearches::composeKeySets() {
 
 void StandingSearches::setTicked(const std::vector<CNewsKey>& keySets) {
     const bool anyCase = parts.settings.options[ViewOption::KeySetsInAnyCase];
-    ticked =
-        RelationMatcher(keySets, anyCase ? RelationMatcher::Case::Any : RelationMatcher::Case::AsWritten);
+    ticked = RelationMatcher(keySets, anyCase ? RelationMatcher::Case::Any : RelationMatcher::Case::AsWritten,
+                             queriesOf(parts));
     loadHints();
     context.placeNotices();
 }
@@ -87,7 +94,8 @@ const RelationMatcher* StandingSearches::filterOfShownList() const {
 // --- Warning terms ---
 
 void StandingSearches::manageWarningTerms() {
-    HeapDialog dialog(new CWarnTermDlg(desk.memory.warnings, desk.warningTerm, &parts.window));
+    HeapDialog dialog(new CWarnTermDlg(desk.memory.warnings, desk.warningTerm, &parts.window,
+                                       parts.settings.options[ViewOption::SearchQueries]));
     const bool accepted = dialog->DoModal() == search_ids::ok;
     if (!dialog)
         return;

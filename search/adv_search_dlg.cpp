@@ -31,9 +31,9 @@ constexpr int recentRows = 5;  // that are in sight
 }  // namespace
 
 CAdvSearchDlg::CAdvSearchDlg(const CSearch& edited, const KeywordList& keywordPool,
-                             const RecentSearches& searches, QWidget* parent)
+                             const RecentSearches& searches, QWidget* parent, bool takesQueries)
     : KeywordEntryDlg(edited.keywords, keywordPool, {search_ids::removeAll, search_keys::askRemoveAll},
-                      parent),
+                      parent, takesQueries),
       condition(forEverySymbol(edited)),
       recent(searches) {
     setWindowId(this, search_ids::advancedSearch);
@@ -51,7 +51,12 @@ CAdvSearchDlg::CAdvSearchDlg(const CSearch& edited, const KeywordList& keywordPo
 
 void CAdvSearchDlg::readResult(CSearch& edited, KeywordList& keywordPool, RecentSearches& searches) const {
     edited = condition;
-    edited.keywords = composedKeywords();
+    const EnteredCondition entered = composed();
+    const bool isPlain = entered.language == SearchLanguage::Plain;
+    if (isPlain || std::holds_alternative<QueryNode>(readQuery(entered.keywords.front()))) {
+        edited.language = entered.language;
+        edited.keywords = entered.keywords;
+    }
     keywordPool = offeredKeywords();
     searches = recent;
 }
@@ -61,9 +66,8 @@ QLayout* CAdvSearchDlg::createChoices() {
     scope =
         addChoices(this, *grid, 0, addCaption(this, search_ids::scopeCaption, langText(search_keys::scope)),
                    choicesOf(search_ids::scopeButtons));
-    method =
-        addChoices(this, *grid, 1, addCaption(this, search_ids::methodCaption, langText(search_keys::method)),
-                   choicesOf(search_ids::methodButtons));
+    createMethods(*grid, 1, addCaption(this, search_ids::methodCaption, langText(search_keys::method)),
+                  search_ids::methodButtons);
     grid->setHorizontalSpacing(fontMetrics().height());
     grid->setColumnStretch(static_cast<int>(search_ids::scopeButtons.size()) + 1, 1);
     return grid;
@@ -103,16 +107,21 @@ QLayout* CAdvSearchDlg::createRecent() {
 // --- The condition and its controls ---
 
 void CAdvSearchDlg::loadCondition() {
-    method->button(numberOf(shownMethod(condition.method)))->setChecked(true);
     scope->button(numberOf(scopeOf(condition.scope)))->setChecked(true);
-    setKeywords(condition.keywords);
+    setCondition({condition.language, condition.keywords, condition.method});
 }
 
-void CAdvSearchDlg::readCondition() {
-    condition.method = static_cast<unsigned char>(method->checkedId());
+bool CAdvSearchDlg::readCondition() {
+    const auto entered = askComposed();
+    if (!entered)
+        return false;
+    condition.language = entered->language;
+    condition.method = static_cast<unsigned char>(entered->method);
     condition.scope = static_cast<unsigned char>(scope->checkedId());
-    condition.keywords = shownKeywords();
-    setKeywords(condition.keywords);
+    condition.keywords = entered->keywords;
+    std::erase_if(condition.keywords, [](const QString& keyword) { return keyword.isEmpty(); });
+    loadCondition();
+    return true;
 }
 
 void CAdvSearchDlg::fillRecent() {
@@ -121,7 +130,8 @@ void CAdvSearchDlg::fillRecent() {
         QString contents;
         for (const QString& keyword : search->keywords)
             contents += keyword + u' ';
-        recentList->setRow(row, {scopeText(search->scope), searchMethodText(search->method), contents});
+        recentList->setRow(
+            row, {scopeText(search->scope), searchMethodText(search->method, search->language), contents});
     }
 }
 
@@ -138,7 +148,8 @@ void CAdvSearchDlg::selectRecent(int row) {
 }
 
 void CAdvSearchDlg::onOK() {
-    readCondition();
+    if (!readCondition())
+        return;
     keepRecentSearch(recent, condition);
     KeywordEntryDlg::onOK();
 }

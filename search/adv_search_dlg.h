@@ -21,7 +21,7 @@ class CAdvSearchDlg : public wirepane::KeywordEntryDlg {
 public:
     // Edits copies of all three.
     CAdvSearchDlg(const CSearch& condition, const wirepane::KeywordList& pool,
-                  const wirepane::RecentSearches& recent, QWidget* parent);
+                  const wirepane::RecentSearches& recent, QWidget* parent, bool takesQueries = false);
 
     // What the caller takes back whatever the result: the condition and the pool as they were edited, and the
     // recent searches, which OK alone changes.
@@ -36,12 +36,11 @@ private:
     void createRecentList();
     void fillRecent();
     void loadCondition();
-    void readCondition();
+    bool readCondition();
     void selectRecent(int row);
 
     CSearch condition;
     wirepane::RecentSearches recent;
-    QButtonGroup* scope = nullptr;   // button ids: SearchScope
-    QButtonGroup* method = nullptr;  // button ids: SearchMethod
+    QButtonGroup* scope = nullptr;  // button ids: SearchScope
     wirepane::ReportList* recentList = nullptr;
 };

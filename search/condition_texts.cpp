@@ -4,6 +4,8 @@
 
 #include "host/contract/lang_text.h"
 #include "host/controls/plain_caption.h"
+#include "search/query_entry.h"
+#include "search/search_keys.h"
 
 #include <algorithm>
 
@@ -45,12 +47,19 @@ std::vector<Choice> choicesOf(std::span<const search_ids::ScopeButton> buttons) 
     return choicesOf(searchScopes, buttons);
 }
 
+std::vector<Choice> withQuery(std::vector<Choice> choices, bool takesQueries) {
+    if (takesQueries)
+        choices.push_back({search_ids::methodQuery, queryChoice, search_keys::query});
+    return choices;
+}
+
 QString scopeText(int scope) {
     return shown(nameKeyOf(searchScopes, scopeOf(scope)));
 }
 
-QString searchMethodText(int method) {
-    return shown(nameKeyOf(searchMethods, shownMethod(method)));
+QString searchMethodText(int method, SearchLanguage language) {
+    return shown(language == SearchLanguage::Query ? search_keys::query
+                                                   : nameKeyOf(searchMethods, shownMethod(method)));
 }
 
 QStringList scopeTexts() {

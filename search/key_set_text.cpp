@@ -10,6 +10,7 @@ namespace wirepane {
 
 namespace {
 
+constexpr QLatin1StringView queryMark{"L:1 "};
 constexpr QLatin1StringView methodMark{"C:"};
 constexpr QLatin1StringView newsTypesMark{" T:"};
 constexpr QLatin1StringView keywordsMark{" K:"};
@@ -68,11 +69,14 @@ QString textOfKeySet(const CNewsKey& keySet) {
     QStringList keywords;
     for (const QString& keyword : keySet.keywords)
         keywords.append(escaped(keyword));
-    return methodMark + QString::number(keySet.method) + newsTypesMark + newsTypes.join(u',') + keywordsMark +
+    return (keySet.isQuery() ? queryMark : QLatin1StringView()) + methodMark +
+           QString::number(keySet.method) + newsTypesMark + newsTypes.join(u',') + keywordsMark +
            keywords.join(u',');
 }
 
-std::optional<CNewsKey> keySetOfText(const QString& text) {
+std::optional<CNewsKey> keySetOfText(const QString& stored) {
+    const bool isQuery = stored.startsWith(queryMark);
+    const QString text = isQuery ? stored.sliced(queryMark.size()) : stored;
     const qsizetype types = text.indexOf(newsTypesMark);
     const qsizetype words = types < 0 ? -1 : text.indexOf(keywordsMark, types);
     if (!text.startsWith(methodMark) || words < 0)
@@ -82,9 +86,12 @@ std::optional<CNewsKey> keySetOfText(const QString& text) {
     const auto method = numberIn(whole.mid(methodMark.size(), types - methodMark.size()));
     const auto newsTypes = numbersIn(whole.mid(afterTypes, words - afterTypes));
     const auto keywords = keywordsIn(whole.mid(words + keywordsMark.size()));
-    if (!method || !newsTypes || !keywords)
+    if (!method || !newsTypes || !keywords || (isQuery && keywords->size() != 1))
         return std::nullopt;
-    return CNewsKey(*method, *newsTypes, *keywords);
+    CNewsKey keySet(*method, *newsTypes, *keywords);
+    if (isQuery)
+        keySet.language = SearchLanguage::Query;
+    return keySet;
 }
 
 }  // namespace wirepane

@@ -86,7 +86,7 @@ std::vector<int> rowsOfEqual(std::span<const CNewsKey> keySets, std::span<const 
 
 QStringList textsOfKeySet(const CNewsKey& keySet, const CategoryMap& newsTypes) {
     const QStringList keywords(keySet.keywords.begin(), keySet.keywords.end());
-    return {searchMethodText(keySet.knownMethod()), namesOf(keySet, newsTypes),
+    return {searchMethodText(keySet.knownMethod(), keySet.language), namesOf(keySet, newsTypes),
             keywords.join(QStringLiteral(", "))};
 }
 

@@ -6,11 +6,13 @@
 #include "host/controls/roomy_rows.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
+#include "search/condition_texts.h"
 #include "search/dialog_controls.h"
 #include "search/keyword_entry_dlg.h"
 #include "search/search_ids.h"
 #include "search/search_keys.h"
 
+#include <QButtonGroup>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -72,6 +74,15 @@ QGridLayout* KeywordEntryDlg::createEntry() {
     return layOut();
 }
 
+void KeywordEntryDlg::createMethods(QGridLayout& grid, int row, QLabel* caption,
+                                    std::span<const search_ids::MethodButton> buttons) {
+    methodGroup = addChoices(this, grid, row, caption, withQuery(choicesOf(buttons), hasQueries));
+}
+
+QList<QAbstractButton*> KeywordEntryDlg::methodButtons() const {
+    return methodGroup->buttons();
+}
+
 QLayout* KeywordEntryDlg::createEnd() {
     return addEnd(this, okButton);
 }
@@ -94,6 +105,12 @@ void KeywordEntryDlg::createControls() {
     removeButton = makeButton(this, search_ids::remove, langText(search_keys::remove));
     removeAllButton = makeButton(this, removeAll.id, langText(search_keys::removeAll));
     keywordList = addList(this, search_ids::keywords, langText(search_keys::keywords));
+    if (hasQueries) {
+        excludedCaption = addCaption(this, search_ids::excludedCaption, langText(search_keys::excluded));
+        excludedList = addList(this, search_ids::excluded, langText(search_keys::excluded));
+        excludedList->installEventFilter(this);
+        excludeButton = makeButton(this, search_ids::exclude, langText(search_keys::exclude));
+    }
     addTypedButton = makeButton(this, search_ids::addTyped, {});
     addTypedButton->setFocusPolicy(Qt::NoFocus);
     addTypedButton->hide();
@@ -116,6 +133,10 @@ void KeywordEntryDlg::connectControls() {
     connect(candidateList, &QListWidget::itemDoubleClicked, this, &KeywordEntryDlg::addSelected);
     connect(removeButton, &QPushButton::clicked, this, &KeywordEntryDlg::removeSelected);
     connect(keywordList, &QListWidget::itemDoubleClicked, this, &KeywordEntryDlg::removeSelected);
+    if (hasQueries) {
+        connect(excludeButton, &QPushButton::clicked, this, &KeywordEntryDlg::excludeSelected);
+        connect(excludedList, &QListWidget::itemDoubleClicked, this, &KeywordEntryDlg::removeSelected);
+    }
     connect(removeAllButton, &QPushButton::clicked, this, &KeywordEntryDlg::emptyKeywords);
     connect(poolButton, &QPushButton::clicked, this, &KeywordEntryDlg::removeFromPool);
     connect(pickerButton, &QPushButton::clicked, this, &KeywordEntryDlg::showPicker);
@@ -133,6 +154,8 @@ QGridLayout* KeywordEntryDlg::layOut() {
     auto* buttons = new QVBoxLayout;
     buttons->addStretch();
     buttons->addWidget(addButton);
+    if (excludeButton != nullptr)
+        buttons->addWidget(excludeButton);
     buttons->addWidget(removeButton);
     buttons->addSpacing(2 * fontMetrics().height() / 3);
     buttons->addWidget(removeAllButton);
@@ -150,7 +173,13 @@ QGridLayout* KeywordEntryDlg::layOut() {
     grid->addLayout(buttons, 1, 1, 2, 1);
     grid->addWidget(addCaption(this, search_ids::keywordsCaption, langText(search_keys::keywords)), 0, 2,
                     Qt::AlignLeft | Qt::AlignVCenter);
-    grid->addWidget(keywordList, 1, 2, 3, 1);
+    auto* chosen = new QVBoxLayout;
+    chosen->addWidget(keywordList, 2);
+    if (hasQueries) {
+        chosen->addWidget(excludedCaption);
+        chosen->addWidget(excludedList, 1);
+    }
+    grid->addLayout(chosen, 1, 2, 3, 1);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(2, 1);
     grid->setRowStretch(2, 1);

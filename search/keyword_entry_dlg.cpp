@@ -14,6 +14,7 @@
 #include "search/search_desk.h"
 #include "search/search_ids.h"
 
+#include <QButtonGroup>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -60,12 +61,13 @@ void selectAlone(QListWidget& list, int row) {
 }  // namespace
 
 KeywordEntryDlg::KeywordEntryDlg(KeywordList conditionKeywords, KeywordList keywordPool,
-                                 const RemoveAll& removing, QWidget* parent)
+                                 const RemoveAll& removing, QWidget* parent, bool takesQueries)
     : QDialog(parent),
       backEnd(*BKQuoteInterface::GetBKInterface()),
       keywords(std::move(conditionKeywords)),
       pool(std::move(keywordPool)),
-      removeAll(removing) {}
+      removeAll(removing),
+      hasQueries(takesQueries) {}
 
 int KeywordEntryDlg::DoModal() {
     return runModally(this);
@@ -110,13 +112,37 @@ void KeywordEntryDlg::setKeywords(const KeywordList& changed, const std::vector<
         keywordList->scrollToItem(keywordList->item(selected.back()));
 }
 
-KeywordList KeywordEntryDlg::shownKeywords() const {
-    KeywordList shown;
-    for (int row = 0; row < keywordList->count(); ++row) {
-        if (const QString text = keywordList->item(row)->text(); !text.isEmpty())
-            shown.push_back(text);
-    }
-    return shown;
+void KeywordEntryDlg::setExcluded(const KeywordList& changed) {
+    excluded = changed;
+    if (excludedList != nullptr)
+        fill(*excludedList, excluded);
+}
+
+void KeywordEntryDlg::clearKeywords() {
+    shown = {};
+    setKeywords({});
+    setExcluded({});
+}
+
+EnteredCondition KeywordEntryDlg::composed() const {
+    const EntryLists lists{keywords, excluded, methodGroup->checkedId()};
+    const bool isUnchangedQuery = shown.language == SearchLanguage::Query && lists == listsOfCondition(shown);
+    return isUnchangedQuery ? shown : conditionOfLists(lists);
+}
+
+std::optional<EnteredCondition> KeywordEntryDlg::askComposed(QueryUse use) {
+    return askCondition(this, composed(), keywords, use);
+}
+
+void KeywordEntryDlg::setCondition(const EnteredCondition& condition) {
+    shown = condition;
+    EntryLists lists = listsOfCondition(condition);
+    if (!hasQueries && condition.language == SearchLanguage::Query)
+        lists = {condition.keywords, {}, condition.method};
+    setKeywords(lists.keywords);
+    setExcluded(lists.excluded);
+    methodGroup->button(lists.method == queryChoice ? queryChoice : numberOf(shownMethod(lists.method)))
+        ->setChecked(true);
 }
 
 void KeywordEntryDlg::fillPool(const QString& part) {
@@ -145,7 +171,7 @@ void KeywordEntryDlg::addKeywords(const KeywordList& added) {
     setKeywords(changed, selected);
 }
 
-void KeywordEntryDlg::addSelected() {
+KeywordList KeywordEntryDlg::takeSelected() {
     QListWidget& list = currentTab == symbolTab ? *candidateList : *poolList;
     KeywordList added;
     for (const QString& text : selectedTexts(list)) {
@@ -153,7 +179,30 @@ void KeywordEntryDlg::addSelected() {
         added.insert(added.end(), parts.begin(), parts.end());
     }
     list.clearSelection();
-    addKeywords(added);
+    return added;
+}
+
+void KeywordEntryDlg::addSelected() {
+    addKeywords(takeSelected());
+    focusEdit();
+}
+
+// What was typed and not added yet goes before what is selected.
+void KeywordEntryDlg::excludeSelected() {
+    const QString typed = currentTab == symbolTab ? QString() : keywordEdit->text();
+    KeywordList added;
+    if (typed.isEmpty()) {
+        added = takeSelected();
+    } else {
+        added = {typed};
+        keepKeyword(pool, typed);
+        keywordEdit->clear();
+        fillPool({});
+    }
+    KeywordList changed = excluded;
+    for (const QString& keyword : added)
+        keepKeyword(changed, keyword);
+    setExcluded(changed);
     focusEdit();
 }
 
@@ -162,6 +211,12 @@ void KeywordEntryDlg::removeSelected() {
     for (const QString& text : selectedTexts(*keywordList))
         removeKeyword(changed, text);
     setKeywords(changed);
+    if (excludedList == nullptr)
+        return;
+    KeywordList kept = excluded;
+    for (const QString& text : selectedTexts(*excludedList))
+        removeKeyword(kept, text);
+    setExcluded(kept);
 }
 
 void KeywordEntryDlg::removeFromPool() {
@@ -172,8 +227,9 @@ void KeywordEntryDlg::removeFromPool() {
 }
 
 void KeywordEntryDlg::emptyKeywords() {
-    if (!keywords.empty() && askYesNo(this, langText(removeAll.question)))
-        setKeywords({});
+    const bool isEmpty = keywords.empty() && excluded.empty();
+    if (!isEmpty && askYesNo(this, langText(removeAll.question)))
+        clearKeywords();
 }
 
 // --- Symbols ---

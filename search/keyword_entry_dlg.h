@@ -2,18 +2,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "search/keyword_list.h"
+#include "search/query_entry.h"
+#include "search/search_ids.h"
 
 #include <QBasicTimer>
 #include <QDialog>
 #include <QPointer>
 
+#include <span>
 #include <vector>
 
 class BKQuoteInterface;
 class CHoverButton;
 class CXTPTabControl;
+class QAbstractButton;
+class QButtonGroup;
 class QGridLayout;
+class QLabel;
 class QLayout;
 class QLineEdit;
 class QListWidget;
@@ -34,8 +39,8 @@ public:
     // Runs the dialog: search_ids::ok or search_ids::cancel.
     int DoModal();
 
-    // What was edited, whatever the result was.
-    const KeywordList& composedKeywords() const { return keywords; }
+    // What was edited, whatever the result was; a query that nobody has changed as it was written.
+    EnteredCondition composed() const;
     const KeywordList& offeredKeywords() const { return pool; }
 
 protected:
@@ -44,17 +49,27 @@ protected:
         int id;
         QLatin1StringView question;
     };
-    // A back end has been installed.
-    KeywordEntryDlg(KeywordList keywords, KeywordList pool, const RemoveAll& removeAll, QWidget* parent);
+    // A back end has been installed. `takesQueries`: the dialog has a list of keywords that must not be
+    // there, and a method that takes the keywords as pieces of a query.
+    KeywordEntryDlg(KeywordList keywords, KeywordList pool, const RemoveAll& removeAll, QWidget* parent,
+                    bool takesQueries);
 
     // Creates the controls and sets their texts; the row of buttons at the end, when all others are there.
     QGridLayout* createEntry();
     QLayout* createEnd();
+    // The methods with these buttons, in a row of the grid; which of them is chosen belongs to the lists.
+    void createMethods(QGridLayout& grid, int row, QLabel* caption,
+                       std::span<const search_ids::MethodButton> buttons);
+    QList<QAbstractButton*> methodButtons() const;
+    // Shows what a condition says in the lists and the method.
+    void setCondition(const EnteredCondition& condition);
+    // What was edited, when it is being taken; see askCondition.
+    std::optional<EnteredCondition> askComposed(QueryUse use = QueryUse::News);
 
     // Replaces the keywords of the condition; those at `selected` are selected in their list.
     void setKeywords(const KeywordList& changed, const std::vector<int>& selected = {});
-    // The keywords as their list shows them.
-    KeywordList shownKeywords() const;
+    // Neither keywords nor any that are excluded.
+    void clearKeywords();
 
     // OK was pressed: ends the dialog.
     virtual void onOK();
@@ -77,7 +92,10 @@ private:
     void focusEdit();
     void addTypedKeyword();
     void fillPool(const QString& part);
+    KeywordList takeSelected();
     void addSelected();
+    void excludeSelected();
+    void setExcluded(const KeywordList& changed);
     void addKeywords(const KeywordList& added);
     void removeSelected();
     void removeFromPool();
@@ -89,8 +107,11 @@ private:
 
     BKQuoteInterface& backEnd;
     KeywordList keywords;
+    KeywordList excluded;
+    EnteredCondition shown;
     KeywordList pool;
     const RemoveAll removeAll;
+    const bool hasQueries;
     int currentTab = 0;
     QBasicTimer candidateTimer;
     QPointer<QuoteTRVChangeSymbol> symbolPicker;
@@ -103,6 +124,10 @@ private:
     QListWidget* candidateList = nullptr;
     CHoverButton* pickerButton = nullptr;
     QListWidget* keywordList = nullptr;
+    QLabel* excludedCaption = nullptr;  // these three only with queries
+    QListWidget* excludedList = nullptr;
+    QPushButton* excludeButton = nullptr;
+    QButtonGroup* methodGroup = nullptr;  // button ids: SearchMethod, queryChoice
     QPushButton* addTypedButton = nullptr;
     QPushButton* addButton = nullptr;
     QPushButton* removeButton = nullptr;

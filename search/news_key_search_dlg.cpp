@@ -12,7 +12,7 @@
 #include "search/search_ids.h"
 #include "search/search_keys.h"
 
-#include <QButtonGroup>
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
@@ -35,9 +35,9 @@ constexpr int keySetRows = 6;
 }  // namespace
 
 CNewsKeySearchDlg::CNewsKeySearchDlg(const KeywordList& keywordPool, const CategoryMap& categories,
-                                     const std::vector<CNewsKey>& stored, QWidget* parent)
+                                     const std::vector<CNewsKey>& stored, QWidget* parent, bool takesQueries)
     : KeywordEntryDlg({}, keywordPool, {search_ids::removeAllOfKeySet, search_keys::askRemoveAllOfKeySet},
-                      parent),
+                      parent, takesQueries),
       newsTypes(categories),
       keySets(withNewsTypes(stored, categories)) {
     setWindowId(this, search_ids::newsKeySearch);
@@ -110,9 +110,9 @@ QLayout* CNewsKeySearchDlg::createNewsTypes() {
 QLayout* CNewsKeySearchDlg::createSaving() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(fontMetrics().height());
-    method = addChoices(this, *grid, 0, addCaption(this, 0, langText(search_keys::method)),
-                        choicesOf(search_ids::keySetMethodButtons));
-    method->button(CNewsKey::all)->setChecked(true);
+    createMethods(*grid, 0, addCaption(this, 0, langText(search_keys::method)),
+                  search_ids::keySetMethodButtons);
+    setCondition({SearchLanguage::Plain, {}, CNewsKey::all});
     grid->setColumnStretch(static_cast<int>(search_ids::keySetMethodButtons.size()) + 1, 1);
     saveButton = makeButton(this, search_ids::saveKeySet, langText(search_keys::addKeySet));
     connect(saveButton, &QPushButton::clicked, this, &CNewsKeySearchDlg::save);
@@ -167,7 +167,7 @@ QLayout* CNewsKeySearchDlg::createKeySets() {
 }
 
 QPushButton* CNewsKeySearchDlg::defaultFor(const QWidget* focus) const {
-    const QList<QAbstractButton*> methods = method->buttons();
+    const QList<QAbstractButton*> methods = methodButtons();
     const bool composing = focus == newsTypeList || focus == allNewsTypes ||
                            std::find(methods.begin(), methods.end(), focus) != methods.end();
     return composing ? saveButton : KeywordEntryDlg::defaultFor(focus);
@@ -182,22 +182,26 @@ std::vector<CNewsKey> CNewsKeySearchDlg::tickedKeySets() const {
 
 // --- One key set ---
 
-CNewsKey CNewsKeySearchDlg::composedKeySet() const {
-    CNewsKey keySet(method->checkedId(), {}, composedKeywords());
+std::vector<std::int32_t> CNewsKeySearchDlg::tickedNewsTypes() const {
+    std::vector<std::int32_t> ticked;
     for (int row = 0; row < newsTypeList->count(); ++row) {
         if (newsTypeList->check(row))
-            keySet.newsTypes.push_back(newsTypeList->item(row)->data(Qt::UserRole).toInt());
+            ticked.push_back(newsTypeList->item(row)->data(Qt::UserRole).toInt());
     }
-    return keySet;
+    return ticked;
 }
 
 void CNewsKeySearchDlg::save() {
-    const CNewsKey keySet = composedKeySet();
-    if (keySet.newsTypes.empty() || keySet.keywords.empty()) {
-        tellError(this,
-                  langText(keySet.newsTypes.empty() ? search_keys::noNewsType : search_keys::noKeyword));
+    const std::vector<std::int32_t> types = tickedNewsTypes();
+    if (types.empty() || composed().keywords.empty()) {
+        tellError(this, langText(types.empty() ? search_keys::noNewsType : search_keys::noKeyword));
         return;
     }
+    const auto entered = askComposed(QueryUse::Headlines);
+    if (!entered || entered->keywords.empty())
+        return;
+    CNewsKey keySet(entered->method, types, entered->keywords);
+    keySet.language = entered->language;
     const int row = saveKeySet(keySets, keySet, editing);
     if (row < 0)
         return;
@@ -211,8 +215,7 @@ void CNewsKeySearchDlg::edit(int row) {
         return;
     editing = row;
     const CNewsKey& keySet = keySets[static_cast<std::size_t>(row)];
-    setKeywords(keySet.keywords);
-    method->button(keySet.knownMethod())->setChecked(true);
+    setCondition({keySet.language, keySet.keywords, keySet.knownMethod()});
     newsTypeList->clearSelection();
     for (int type = 0; type < newsTypeList->count(); ++type) {
         const std::int32_t id = newsTypeList->item(type)->data(Qt::UserRole).toInt();
@@ -226,7 +229,7 @@ void CNewsKeySearchDlg::edit(int row) {
 void CNewsKeySearchDlg::leaveEditing() {
     editing = -1;
     saveButton->setText(langText(search_keys::addKeySet));
-    setKeywords({});
+    clearKeywords();
     keySetList->mark(-1);
 }
 
@@ -260,7 +263,7 @@ void CNewsKeySearchDlg::deleteChosen(const std::vector<int>& rows) {
 
 // The boxes for all of them are ticked while all are.
 void CNewsKeySearchDlg::followTicks() {
-    const auto ticked = composedKeySet().newsTypes.size();
+    const auto ticked = tickedNewsTypes().size();
     allNewsTypes->setChecked(ticked > 0 && ticked == newsTypes.size());
     const auto sets = keySetList->tickedRows().size();
     allKeySets->setChecked(sets > 0 && sets == keySets.size());

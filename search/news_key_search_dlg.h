@@ -12,7 +12,6 @@ class KeySetList;
 
 }  // namespace wirepane
 
-class QButtonGroup;
 class QCheckBox;
 class QLabel;
 class QLayout;
@@ -26,7 +25,7 @@ class CNewsKeySearchDlg : public wirepane::KeywordEntryDlg {
 public:
     // Works on copies.
     CNewsKeySearchDlg(const wirepane::KeywordList& pool, const wirepane::CategoryMap& newsTypes,
-                      const std::vector<CNewsKey>& stored, QWidget* parent);
+                      const std::vector<CNewsKey>& stored, QWidget* parent, bool takesQueries = false);
 
     // The view compares keywords whatever their case: the note that says otherwise goes.
     void takeAnyCase();
@@ -47,7 +46,7 @@ private:
     int nearby() const;
     QCheckBox* addCheckBox(int id, QLatin1StringView key);
 
-    CNewsKey composedKeySet() const;
+    std::vector<std::int32_t> tickedNewsTypes() const;
     void save();
     void edit(int row);
     void leaveEditing();
@@ -60,7 +59,6 @@ private:
     std::vector<CNewsKey> keySets;
     int editing = -1;  // the row that is worked on; -1: a new key set
 
-    QButtonGroup* method = nullptr;  // button ids: SearchMethod
     CCheckListBox* newsTypeList = nullptr;
     QCheckBox* allNewsTypes = nullptr;
     wirepane::KeySetList* keySetList = nullptr;

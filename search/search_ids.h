@@ -30,6 +30,10 @@ inline constexpr int symbolEdit = 2086;
 inline constexpr int candidates = 2093;
 inline constexpr int tabs = 2094;
 inline constexpr int picker = 9000;
+inline constexpr int excluded = 9001;
+inline constexpr int exclude = 9002;
+inline constexpr int methodQuery = 9003;
+inline constexpr int excludedCaption = 9004;
 
 // Advanced search.
 inline constexpr int scopeHeadlines = 2068;

@@ -23,6 +23,9 @@ inline constexpr QLatin1StringView askRemoveAll{"IDS_DIALOG-DEAL-SEARCH_REQDELAL
 inline constexpr QLatin1StringView keywords{"IDS_DIALOG-DEAL-SEARCH_GROUP2"};
 inline constexpr QLatin1StringView scope{"IDS_DIALOG-DEAL-SEARCH_RANGE"};
 inline constexpr QLatin1StringView method{"IDS_DIALOG-DEAL-SEARCH_CONDITION"};
+inline constexpr QLatin1StringView query{"IDS_DIALOG-DEAL-SEARCH_QUERY_BUTTON"};
+inline constexpr QLatin1StringView excluded{"IDS_DIALOG-DEAL-SEARCH_NONE_OF_THESE"};
+inline constexpr QLatin1StringView exclude{"IDS_DIALOG-DEAL-SEARCH_EXCLUDE_BUTTON"};
 inline constexpr QLatin1StringView recent{"IDS_DIALOG-DEAL-SEARCH_NEAR10FILTER"};
 inline constexpr QLatin1StringView scopeColumn{"IDS_DIALOG-DEAL-SEARCH_SEARCH_SCOPE"};
 inline constexpr QLatin1StringView methodColumn{"IDS_DIALOG-DEAL-SEARCH_SEARCH_METHOD"};

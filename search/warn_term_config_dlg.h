@@ -15,18 +15,20 @@ class CWarnTermConfigDlg : public QDialog {
 
 public:
     // A back end has been installed.
-    CWarnTermConfigDlg(const CSearch& condition, QWidget* parent);
+    CWarnTermConfigDlg(const CSearch& condition, QWidget* parent, bool takesQueries = false);
 
-    // The condition as the controls have it.
-    CSearch composed() const;
+    // The condition as it was edited, after OK.
+    CSearch composed() const { return condition; }
 
 private:
-    void createControls();
+    void createControls(bool takesQueries);
+    void takeControls();
 
     CSearch condition;
     QLineEdit* keywordEdit = nullptr;
-    QButtonGroup* method = nullptr;  // button ids: SearchMethod
-    QButtonGroup* scope = nullptr;   // button ids: the scope
+    QLineEdit* excludedEdit = nullptr;  // only with queries
+    QButtonGroup* method = nullptr;     // button ids: SearchMethod, queryChoice
+    QButtonGroup* scope = nullptr;      // button ids: the scope
 };
 
 namespace wirepane {

@@ -30,14 +30,16 @@ constexpr int characters = 90;
 constexpr int rowsInSight = 10;
 
 // A method that is not set has no text.
-QString methodText(int method) {
-    return isSearchMethod(method) ? searchMethodText(method) : QString();
+QString methodText(const CSearch& item) {
+    return isSearchMethod(item.method) || item.isQuery() ? searchMethodText(item.method, item.language)
+                                                         : QString();
 }
 
 }  // namespace
 
-CWarnTermDlg::CWarnTermDlg(const WarningItems& items, const CSearch& inForce, QWidget* parent)
-    : QDialog(parent), warnings(items), chosen(inForce) {
+CWarnTermDlg::CWarnTermDlg(const WarningItems& items, const CSearch& inForce, QWidget* parent,
+                           bool takesQueries)
+    : QDialog(parent), warnings(items), chosen(inForce), hasQueries(takesQueries) {
     setWindowId(this, search_ids::warnTerms);
     setWindowTitle(langText(search_keys::warningTitle));
     createList();
@@ -101,8 +103,8 @@ int CWarnTermDlg::selectedRow() const {
 void CWarnTermDlg::fillRow(int row) {
     const CSearch& item = *warnings.itemAt(row);
     const QStringList keywords(item.keywords.begin(), item.keywords.end());
-    list->setRow(row, {QString::number(row + 1), scopeText(item.scope), methodText(item.method),
-                       keywords.join(u", "_s)});
+    list->setRow(row,
+                 {QString::number(row + 1), scopeText(item.scope), methodText(item), keywords.join(u", "_s)});
     QFont font = list->font();
     font.setBold(warnings.chosen == row + 1);
     for (int column = 0; column < list->columnCount(); ++column)
@@ -110,7 +112,7 @@ void CWarnTermDlg::fillRow(int row) {
 }
 
 bool CWarnTermDlg::edit(CSearch& condition) {
-    const HeapDialog dialog(new CWarnTermConfigDlg(condition, this));
+    const HeapDialog dialog(new CWarnTermConfigDlg(condition, this, hasQueries));
     if (runOver(this, dialog.get()) != Accepted)
         return false;
     condition = dialog->composed();

@@ -20,7 +20,8 @@ class CWarnTermDlg : public QDialog {
 
 public:
     // Works on copies. `inForce`: the condition that the chosen item changes. A back end has been installed.
-    CWarnTermDlg(const wirepane::WarningItems& items, const CSearch& inForce, QWidget* parent);
+    CWarnTermDlg(const wirepane::WarningItems& items, const CSearch& inForce, QWidget* parent,
+                 bool takesQueries = false);
 
     // Runs the dialog: search_ids::ok or search_ids::cancel.
     int DoModal();
@@ -44,5 +45,6 @@ private:
 
     wirepane::WarningItems warnings;
     CSearch chosen;
+    const bool hasQueries;
     wirepane::ReportList* list = nullptr;
 };

@@ -21,4 +21,17 @@ QString withinScope(const QString& phrases, SearchScope scope) {
     return (scope == SearchScope::Headlines ? u"title : ("_s : u"story : ("_s) + phrases + u')';
 }
 
+QByteArray wordsBetweenBlanks(const QString& text) {
+    const QByteArray utf8 = text.toUtf8();
+    WordReader reader(utf8);
+    QByteArray words;
+    while (reader.next())
+        words.append(' ').append(reader.word().data(), qsizetype(reader.word().size()));
+    return words.isEmpty() ? words : words + ' ';
+}
+
+QByteArray phraseBetweenBlanks(const QString& phrase) {
+    return wordsBetweenBlanks(keywordText(phrase));
+}
+
 }  // namespace wirepane

@@ -4,6 +4,7 @@
 
 #include "host/contract/search_choices.h"
 
+#include <QByteArray>
 #include <QString>
 
 namespace wirepane {
@@ -14,5 +15,11 @@ namespace wirepane {
 QString indexPhrase(const QString& text);
 // What phrases make, looked for in a scope alone.
 QString withinScope(const QString& phrases, SearchScope scope);
+
+// The words of a text in UTF-8, each between blanks, line ends among them: a text holds a phrase where its
+// words hold those of the phrase. Empty: there is no word in it.
+QByteArray wordsBetweenBlanks(const QString& text);
+// The same of a phrase that is looked for; a line end in it is a blank.
+QByteArray phraseBetweenBlanks(const QString& phrase);
 
 }  // namespace wirepane

@@ -13,7 +13,7 @@ using namespace query_errors;
 // In the order of QueryFaultKind.
 constexpr std::array<const ErrorCode*, std::size_t(QueryFaultKind::Count)> codes{
     &empty, &missing, &openQuote,  &openBracket,  &closeBracket, &unknownField, &fieldValue, &fieldWithin,
-    &day,   &near,    &nearNumber, &operatorWord, &tooLong,      &tooMany,      &tooDeep};
+    &day,   &near,    &nearNumber, &operatorWord, &tooLong,      &tooMany,      &tooDeep,    &notOfHeadlines};
 
 }  // namespace
 

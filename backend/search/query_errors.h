@@ -44,6 +44,10 @@ inline constexpr ErrorCode tooMany{
     u"The query asks for too much from character %1 on (\"%2\"): at most 200 texts and fields."};
 inline constexpr ErrorCode tooDeep{
     "ERROR_QUERY_TOO_DEEP", u"The bracket %2 at character %1 lies too deep: at most 20 within one another."};
+inline constexpr ErrorCode notOfHeadlines{
+    "ERROR_QUERY_NOT_OF_HEADLINES",
+    u"\"%2\" at character %1 cannot be answered by a headline as it comes: key sets know words, phrases, "
+    u"what is excluded, title:, topic:, service: and symbol:."};
 
 }  // namespace query_errors
 

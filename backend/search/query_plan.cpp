@@ -3,7 +3,6 @@
 #include "backend/search/query_plan.h"
 
 #include "backend/search/index_phrases.h"
-#include "backend/words/search_words.h"
 #include "host/contract/fixed_services.h"
 
 #include <QJsonArray>
@@ -37,18 +36,6 @@ QueryPlan matchOf(const QString& match) {
     QueryPlan plan = planOf(match.isEmpty() ? Kind::Nothing : Kind::Matches);
     plan.matches = {match};
     return plan;
-}
-
-// The words of a text, each between blanks, as names are compared by.
-QByteArray wordsOf(const QString& text) {
-    const QByteArray utf8 = text.toUtf8();
-    WordReader reader(utf8);
-    QByteArray words;
-    while (reader.next()) {
-        if (!reader.isLineEnd())
-            words.append(' ').append(reader.word().data(), qsizetype(reader.word().size()));
-    }
-    return words.isEmpty() ? words : words + ' ';
 }
 
 // A value of at most nine digits.
@@ -179,7 +166,7 @@ QueryPlan QueryPlanner::planned(const QueryNode& node, const Asked& asked) {
             return matchOf(match.isEmpty() ? match : withinScope(match, scopeOf(node.field, asked.scope)));
         }
         case QueryNode::Kind::Topic:
-            return topicsNamed(node.text, asked.service);
+            return plannedTopics(node.text, asked.service);
         case QueryNode::Kind::Service:
             return constant(isNamed(asked.service, node.text));
         case QueryNode::Kind::Symbol:
@@ -221,30 +208,36 @@ QueryPlan QueryPlanner::plannedParts(const QueryNode& node, const Asked& asked) 
     return plan;
 }
 
-QueryPlan QueryPlanner::topicsNamed(const QString& value, unsigned char service) {
-    const QByteArray wanted = wordsOf(value);
+std::vector<std::int32_t> QueryPlanner::topicsNamed(const QString& value, unsigned char service) {
+    const QByteArray wanted = phraseBetweenBlanks(value);
     const std::optional<std::int32_t> number = numberIn(value);
-    QueryPlan plan = planOf(Kind::Topics);
+    std::vector<std::int32_t> topics;
     Query names(topicNames, service == warrantService ? int(warrantService) : 0);
     while (names.next()) {
-        if (!wanted.isEmpty() && wordsOf(names.text(1)) == wanted)
-            plan.topics.push_back(names.smallNumber(0));
+        if (!wanted.isEmpty() && phraseBetweenBlanks(names.text(1)) == wanted)
+            topics.push_back(names.smallNumber(0));
     }
     hasFailed |= names.failed();
     // A headline may name one that has no name.
-    if (number && *number > 0 &&
-        std::find(plan.topics.begin(), plan.topics.end(), *number) == plan.topics.end())
-        plan.topics.push_back(*number);
+    if (number && *number > 0 && std::find(topics.begin(), topics.end(), *number) == topics.end())
+        topics.push_back(*number);
+    return topics;
+}
+
+QueryPlan QueryPlanner::plannedTopics(const QString& value, unsigned char service) {
+    QueryPlan plan = planOf(Kind::Topics);
+    plan.topics = topicsNamed(value, service);
     return plan.topics.empty() ? planOf(Kind::Nothing) : plan;
 }
 
 bool QueryPlanner::isNamed(unsigned char service, const QString& value) {
     if (numberIn(value) == service)
         return true;
-    const QByteArray wanted = wordsOf(value);
+    const QByteArray wanted = phraseBetweenBlanks(value);
     Query names(serviceNames, service);
-    const bool isNamed = names.next() && !wanted.isEmpty() &&
-                         (wordsOf(names.text(0)) == wanted || wordsOf(names.text(1)) == wanted);
+    const bool isNamed =
+        names.next() && !wanted.isEmpty() &&
+        (phraseBetweenBlanks(names.text(0)) == wanted || phraseBetweenBlanks(names.text(1)) == wanted);
     hasFailed |= names.failed();
     return isNamed;
 }
@@ -260,34 +253,43 @@ QStringList QueryPlanner::namesOf(const QuerySymbol& symbol) {
 
 std::vector<std::pair<QueryPlan::Symbol, QString>> QueryPlanner::symbolsNamed(const QString& value) {
     std::vector<std::pair<QueryPlan::Symbol, QString>> found;
-    const QByteArray start = wordsOf(keywordText(value));
+    const QByteArray start = phraseBetweenBlanks(value);
     Query rows(allSymbols);
     while (!start.isEmpty() && found.size() < mostSymbolsOfName && rows.next()) {
-        if (wordsOf(rows.text(2)).startsWith(start))
+        if (phraseBetweenBlanks(rows.text(2)).startsWith(start))
             found.push_back({{static_cast<unsigned char>(rows.number(0)), rows.text(1)}, rows.text(2)});
     }
     hasFailed |= rows.failed();
     return found;
 }
 
+MeantSymbols QueryPlanner::symbolsMeant(const QString& value) {
+    const auto symbol = readQuerySymbol(value);
+    MeantSymbols meant;
+    if (!symbol)
+        return meant;
+    for (const QString& code : symbol->codes)
+        meant.coded.push_back({symbol->market, code});
+    meant.names = namesOf(*symbol);
+    if (meant.names.isEmpty() && !symbol->market && !symbol->isNumber) {
+        for (const auto& [named, name] : symbolsNamed(value)) {
+            meant.coded.push_back(named);
+            meant.names += name;
+        }
+        meant.names += value;
+    }
+    return meant;
+}
+
 // By its code, and as it is written: a text may name a company that its feed did not.
 QueryPlan QueryPlanner::plannedSymbol(const QString& value) {
-    const auto symbol = readQuerySymbol(value);
-    if (!symbol)
+    MeantSymbols meant = symbolsMeant(value);
+    if (meant.coded.empty())
         return planOf(Kind::Nothing);
     QueryPlan coded = planOf(Kind::Symbols);
-    for (const QString& code : symbol->codes)
-        coded.symbols.push_back({symbol->market, code});
-    QStringList names = namesOf(*symbol);
-    if (names.isEmpty() && !symbol->market && !symbol->isNumber) {
-        for (const auto& [meant, name] : symbolsNamed(value)) {
-            coded.symbols.push_back(meant);
-            names += name;
-        }
-        names += value;
-    }
+    coded.symbols = std::move(meant.coded);
     QueryPlan written = planOf(Kind::Matches);
-    for (const QString& name : names) {
+    for (const QString& name : std::as_const(meant.names)) {
         if (const QString phrase = indexPhrase(name); !phrase.isEmpty())
             written.matches += phrase;
     }

@@ -42,6 +42,12 @@ struct QueryPlan {
     std::vector<QueryPlan> parts;
 };
 
+// What symbol: means: the codes that news may name, and the names that may stand in it.
+struct MeantSymbols {
+    std::vector<QueryPlan::Symbol> coded;
+    QStringList names;
+};
+
 // Plans queries. Thread: that of the database, which must outlive this.
 class QueryPlanner {
 public:
@@ -50,6 +56,13 @@ public:
     // `scope` is where texts without a field are looked for. Nothing when the store cannot be read.
     std::optional<QueryPlan> plan(const QueryNode& query, unsigned char service, SearchScope scope,
                                   QDate today);
+
+    // What the values of fields mean now; see failed().
+    std::vector<std::int32_t> topicsNamed(const QString& value, unsigned char service);
+    bool isNamed(unsigned char service, const QString& value);
+    MeantSymbols symbolsMeant(const QString& value);
+    // The store could not be read.
+    bool failed() const { return hasFailed; }
 
 private:
     struct Asked {
@@ -60,8 +73,7 @@ private:
     QueryPlan planned(const QueryNode& node, const Asked& asked);
     QueryPlan plannedParts(const QueryNode& node, const Asked& asked);
     QueryPlan plannedSymbol(const QString& value);
-    QueryPlan topicsNamed(const QString& value, unsigned char service);
-    bool isNamed(unsigned char service, const QString& value);
+    QueryPlan plannedTopics(const QString& value, unsigned char service);
     QStringList namesOf(const QuerySymbol& symbol);
     std::vector<std::pair<QueryPlan::Symbol, QString>> symbolsNamed(const QString& value);
 

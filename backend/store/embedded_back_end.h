@@ -28,6 +28,7 @@
 #include "host/contract/news_day_finder.h"
 #include "host/contract/news_positions.h"
 #include "host/contract/news_record.h"
+#include "host/contract/query/headline_query.h"
 #include "host/contract/reading_moment.h"
 
 #include <QColor>
@@ -82,7 +83,8 @@ class EmbeddedBackEnd : public BKQuoteInterface,
                         public NewsPositions,
                         public ReadingMoment,
                         public NewsDayFinder,
-                        public NewsRecord {
+                        public NewsRecord,
+                        public HeadlineQueries {
 public:
     // Opens the store, or makes it (see openStore). One that cannot be written to is read: it takes nothing
     // in.
@@ -219,6 +221,7 @@ public:
     bool BKQNEWS_bReCoverHeadline(unsigned char service, std::vector<CHeadline>& headlines,
                                   const std::vector<CHeadlineTable>& entries) override;
     bool BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition) override;
+    std::shared_ptr<const HeadlineQuery> prepareQuery(const QString& query) override;
     bool LangIsConvertToSimplified(const unsigned char& service) override;
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
     QString PathGetSysPath() override;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What views ask of the back end to be answered later, and what scripts hold back of it.
+#include "backend/search/title_query.h"
 #include "backend/store/embedded_back_end.h"
 
 #include <utility>
@@ -110,6 +111,13 @@ bool EmbeddedBackEnd::BKQNEWS_bSearchNews(unsigned char service, int kind, const
         return false;
     searches.ask(service, kind, condition);
     return true;
+}
+
+std::shared_ptr<const HeadlineQuery> EmbeddedBackEnd::prepareQuery(const QString& query) {
+    QueryPlanner planner(*connections.reading);
+    return TitleQuery::make(query, planner, [this](const CHeadline& headline) {
+        return reader.relatedSymbols(keyOf(headline)).value_or(std::vector<CSymbolInfo>());
+    });
 }
 
 void EmbeddedBackEnd::hold(Held what, bool on) {

@@ -891,6 +891,10 @@
         <source></source>
         <translation>"%2" at character %1 names no number of words from 0 to 1000, as in NEAR/5.</translation>
     </message>
+    <message id="ERROR_QUERY_NOT_OF_HEADLINES">
+        <source></source>
+        <translation>"%2" at character %1 cannot be answered by a headline as it comes: key sets know words, phrases, what is excluded, title:, topic:, service: and symbol:.</translation>
+    </message>
     <message id="ERROR_QUERY_OPEN_BRACKET">
         <source></source>
         <translation>The bracket %2 at character %1 is never closed.</translation>
@@ -1342,6 +1346,18 @@
     <message id="IDS_DIALOG-DEAL-SEARCH_PICKER">
         <source></source>
         <translation>Choose from all symbols</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_EXCLUDE_BUTTON">
+        <source></source>
+        <translation>E&amp;xclude &gt;</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NONE_OF_THESE">
+        <source></source>
+        <translation>None of these keywords</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_QUERY_BUTTON">
+        <source></source>
+        <translation>&amp;Query</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_RANGE">
         <source></source>

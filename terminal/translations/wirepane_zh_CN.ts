@@ -891,6 +891,10 @@
         <source></source>
         <translation>第 %1 个字符的“%2”在斜线后需要 0 到 1000 的字数。</translation>
     </message>
+    <message id="ERROR_QUERY_NOT_OF_HEADLINES">
+        <source></source>
+        <translation>第 %1 个字符的“%2”需要标题以外的内容，不能用在关键词组中。</translation>
+    </message>
     <message id="ERROR_QUERY_OPEN_BRACKET">
         <source></source>
         <translation>第 %1 个字符的括号 %2 没有结束。</translation>
@@ -1342,6 +1346,18 @@
     <message id="IDS_DIALOG-DEAL-SEARCH_PICKER">
         <source></source>
         <translation>从所有证券中选择</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_EXCLUDE_BUTTON">
+        <source></source>
+        <translation>排除(&amp;X) &gt;</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NONE_OF_THESE">
+        <source></source>
+        <translation>不含这些关键词</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_QUERY_BUTTON">
+        <source></source>
+        <translation>查询式(&amp;Q)</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_RANGE">
         <source></source>

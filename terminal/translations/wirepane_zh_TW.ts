@@ -891,6 +891,10 @@
         <source></source>
         <translation>第 %1 個字元的「%2」在斜線後需要 0 到 1000 的字數。</translation>
     </message>
+    <message id="ERROR_QUERY_NOT_OF_HEADLINES">
+        <source></source>
+        <translation>第 %1 個字元的「%2」需要標題以外的內容，不能用在關鍵字組中。</translation>
+    </message>
     <message id="ERROR_QUERY_OPEN_BRACKET">
         <source></source>
         <translation>第 %1 個字元的括號 %2 沒有結束。</translation>
@@ -1342,6 +1346,18 @@
     <message id="IDS_DIALOG-DEAL-SEARCH_PICKER">
         <source></source>
         <translation>從所有商品中選擇</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_EXCLUDE_BUTTON">
+        <source></source>
+        <translation>排除(&amp;X) &gt;</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_NONE_OF_THESE">
+        <source></source>
+        <translation>不含這些關鍵字</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_QUERY_BUTTON">
+        <source></source>
+        <translation>查詢式(&amp;Q)</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_RANGE">
         <source></source>

@@ -66,6 +66,47 @@ TEST(RelationMatcher, TakesKeywordsInAnyCaseWhenItIsToldTo) {
 
 namespace {
 
+// Knows one query: the title itself.
+class TitleQueries : public HeadlineQueries {
+public:
+    class Query : public HeadlineQuery {
+    public:
+        explicit Query(QString wanted) : title(std::move(wanted)) {}
+        bool wants(const CHeadline& headline, std::int32_t) const override { return headline.title == title; }
+
+    private:
+        const QString title;
+    };
+    std::shared_ptr<const HeadlineQuery> prepareQuery(const QString& query) override {
+        return query.isEmpty() ? nullptr : std::make_shared<Query>(query);
+    }
+};
+
+}  // namespace
+
+TEST(RelationMatcher, LeavesQueriesToWhoKnowsThem) {
+    CNewsKey query(1, {1, 3}, {u"gold rises"_s});
+    query.language = SearchLanguage::Query;
+    CNewsKey faulty(1, {CNewsKey::everyNewsType}, {QString()});
+    faulty.language = SearchLanguage::Query;
+    const std::vector<CNewsKey> keySets{query, faulty, {1, {2}, {u"TIN"_s}}};
+    TitleQueries queries;
+    CHeadline gold;
+    gold.title = u"gold rises"_s;
+    CHeadline tin;
+    tin.title = u"tin"_s;
+    for (const auto letters : {RelationMatcher::Case::AsWritten, RelationMatcher::Case::Any}) {
+        const RelationMatcher matcher(keySets, letters, &queries);
+        EXPECT_TRUE(matcher.CheckIsRelationSearch(gold, 3, {}));
+        EXPECT_FALSE(matcher.CheckIsRelationSearch(gold, 2, {})) << "of another news type";
+        EXPECT_FALSE(matcher.CheckIsRelationSearch(tin, 1, u"gold rises"_s)) << "a query is no keyword";
+        EXPECT_TRUE(matcher.CheckIsRelationSearch(tin, 2, {}));
+    }
+    EXPECT_FALSE(RelationMatcher(keySets).CheckIsRelationSearch(gold, 1, {}));
+}
+
+namespace {
+
 // One headline tried on one key set after the other, word by word.
 bool plainScan(const std::vector<CNewsKey>& keySets, const QString& title, std::int32_t category,
                const QString& symbol) {

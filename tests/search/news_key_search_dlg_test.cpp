@@ -34,10 +34,11 @@ protected:
                   {1, {3}, {u"W"_s}}};
     }
 
-    void open() {
+    void open(bool takesQueries = false) {
         dialog = std::make_unique<CNewsKeySearchDlg>(
             KeywordList{u"GOLD"_s, u"OIL"_s},
-            CategoryMap{{3, u"Markets"_s}, {7, u"Deals"_s}, {12, u"Policy"_s}}, stored, nullptr);
+            CategoryMap{{3, u"Markets"_s}, {7, u"Deals"_s}, {12, u"Policy"_s}}, stored, nullptr,
+            takesQueries);
         show(*dialog);
     }
     void addKeyword(const QString& keyword) {
@@ -140,6 +141,32 @@ TEST_F(KeySetDialog, AClickedKeySetIsWorkedOnUntilItIsSavedOrLeft) {
     clickRow(search_ids::keySets, 3, false, Qt::RightButton);
     EXPECT_EQ(texts(search_ids::keywords), QStringList{u"HALF"_s}) << "what is composed anew is not lost";
     EXPECT_EQ(result, -1);
+}
+
+TEST_F(KeySetDialog, TakesQueriesAndWhatMustNotBeThere) {
+    stored.resize(1);
+    open(true);
+    clickBox(search_ids::newsTypes, 0);
+    addKeyword(u"GOLD"_s);
+    type(search_ids::keywordEdit, u"TIN"_s);
+    click(search_ids::exclude);
+    EXPECT_EQ(texts(search_ids::excluded), QStringList{u"TIN"_s});
+    click(search_ids::saveKeySet);
+    const QString textQuery = u"IDS_DIALOG-DEAL-SEARCH_QUERY_BUTTON"_s;
+    EXPECT_EQ(rows(search_ids::keySets).value(1), textQuery + u"|Markets |\"GOLD\" -\"TIN\""_s);
+    EXPECT_EQ(texts(search_ids::excluded), QStringList()) << "the next one begins anew";
+
+    clickRow(search_ids::keySets, 1);
+    EXPECT_EQ(texts(search_ids::keywords), QStringList{u"GOLD"_s});
+    EXPECT_EQ(texts(search_ids::excluded), QStringList{u"TIN"_s});
+    addKeyword(u"from:today"_s);
+    click(search_ids::methodQuery);
+    const auto save = [this] { click(search_ids::saveKeySet); };
+    const QString fault = u"ERROR_QUERY_NOT_OF_HEADLINES\n\nIDS_NEWSCTRLVIEW_STRING_SEARCH_AS_TEXT"_s;
+    answerBox(fault, QMessageBox::No, save);
+    EXPECT_EQ(texts(search_ids::keywords), (QStringList{u"GOLD"_s, u"from:today"_s})) << "he goes on";
+    answerBox(fault, QMessageBox::Yes, save);
+    EXPECT_EQ(dialog->composedKeySets().back(), CNewsKey(1, {3}, {u"GOLD"_s, u"from:today"_s}));
 }
 
 TEST_F(KeySetDialog, CheckBoxesTickAndDoNothingElse) {

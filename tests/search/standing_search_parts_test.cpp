@@ -42,16 +42,20 @@ TEST(KeySetText, IsReadBackAsItWasWritten) {
         EXPECT_EQ(textOfKeySet(c.keySet), c.text);
         EXPECT_EQ(keySetOfText(c.text), c.keySet) << c.text.toStdString();
     }
+    CNewsKey query(1, {3}, {u"a, -\"b K:c\""_s});
+    query.language = SearchLanguage::Query;
+    EXPECT_EQ(textOfKeySet(query), u"L:1 C:1 T:3 K:a\\, -\"b\\ K:c\""_s);
+    EXPECT_EQ(keySetOfText(textOfKeySet(query)), query);
     EXPECT_EQ(keySetOfText(u"C:1 T:1 K:a K:b,c"_s), CNewsKey(1, {1}, {u"a K:b"_s, u"c"_s}))
         << "a form from before there were backslashes";
 }
 
 TEST(KeySetText, IsRejectedWholeWhenItIsDamaged) {
-    for (const QString& text :
-         {QString(), u"C:1"_s, u"C:1 T:3"_s, u"C:1 K:A"_s, u"C: T:3 K:A"_s, u"C:x T:3 K:A"_s,
-          u"C:1  T:3 K:A"_s, u"C:1 T:3, K:A"_s, u"C:1 T:3,x K:A"_s, u"C:1 T:03 K:A"_s,
-          u"C:1 T:99999999999 K:A"_s, u"C:1 T:3 K:A,,B"_s, u"C:1 T:3 K:A,"_s, u"C:1 T:3 K:A\\"_s,
-          u" C:1 T:3 K:A"_s, u"T:3 C:1 K:A"_s, u"C:1 K:A T:3"_s})
+    for (const QString& text : {QString(), u"C:1"_s, u"C:1 T:3"_s, u"C:1 K:A"_s, u"C: T:3 K:A"_s,
+                                u"C:x T:3 K:A"_s, u"C:1  T:3 K:A"_s, u"C:1 T:3, K:A"_s, u"C:1 T:3,x K:A"_s,
+                                u"C:1 T:03 K:A"_s, u"C:1 T:99999999999 K:A"_s, u"C:1 T:3 K:A,,B"_s,
+                                u"C:1 T:3 K:A,"_s, u"C:1 T:3 K:A\\"_s, u" C:1 T:3 K:A"_s, u"T:3 C:1 K:A"_s,
+                                u"C:1 K:A T:3"_s, u"L:1 C:1 T:3 K:A,B"_s, u"L:2 C:1 T:3 K:A"_s})
         EXPECT_EQ(keySetOfText(text), std::nullopt) << text.toStdString();
 }
 

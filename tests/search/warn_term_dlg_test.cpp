@@ -30,8 +30,8 @@ protected:
         items.chosen = 2;
     }
 
-    void open() {
-        dialog = std::make_unique<CWarnTermDlg>(items, items.items[1], nullptr);
+    void open(bool takesQueries = false) {
+        dialog = std::make_unique<CWarnTermDlg>(items, items.items[1], nullptr, takesQueries);
         show(*dialog);
     }
     // Works the dialog of one item, which `work` opens: its line becomes `keywords`, the buttons are clicked.
@@ -78,6 +78,29 @@ TEST_F(WarnTerms, AreAddedWithKeywordsOnly) {
     add(u"new"_s, {search_ids::ok});
     EXPECT_EQ(dialog->items().items.back(), condition({u"new"_s}, 0, 1));
     EXPECT_EQ(dialog->items().items[3], condition({u"rate"_s, u"cut"_s}, 2, 2));
+}
+
+TEST_F(WarnTerms, CanBeQueries) {
+    items.items.front() = condition({u"gold -tin"_s}, 2, 1);
+    items.items.front().language = SearchLanguage::Query;
+    open(true);
+    const QString textQuery = u"IDS_DIALOG-DEAL-SEARCH_QUERY_BUTTON"_s;
+    EXPECT_EQ(rows(search_ids::warnings).front(), u"1|"_s + both + u'|' + textQuery + u"|gold -tin"_s);
+    add(u"title:gold, -on:today"_s, {search_ids::methodQuery, search_ids::ok});
+    EXPECT_EQ(rows(search_ids::warnings).value(3),
+              u"4|"_s + headlines + u'|' + textQuery + u"|title:gold, -on:today"_s);
+    answer<CWarnTermConfigDlg>(
+        [](CWarnTermConfigDlg& item) {
+            auto* wanted = qobject_cast<QLineEdit*>(dlgItem(&item, search_ids::warningEdit));
+            auto* excluded = qobject_cast<QLineEdit*>(dlgItem(&item, search_ids::excluded));
+            EXPECT_EQ(wanted->text() + u'/' + excluded->text(), u"gold/tin"_s);
+            wanted->setText(u"gold silver"_s);
+            qobject_cast<QAbstractButton*>(dlgItem(&item, search_ids::warningOr))->click();
+            qobject_cast<QAbstractButton*>(dlgItem(&item, search_ids::ok))->click();
+        },
+        [this] { clickRow(search_ids::warnings, 0, true); });
+    ASSERT_TRUE(QTest::qWaitFor([this] { return dialog->items().items.back().scope == 2; }));
+    EXPECT_EQ(dialog->items().items.back().query(), u"(\"gold\" | \"silver\") -\"tin\""_s);
 }
 
 TEST_F(WarnTerms, GoToTheEndWhenTheyAreEditedAndKeepTheirNumbersWhenOthersGo) {

@@ -92,7 +92,7 @@ bool isOperatorWord(QStringView word) {
 // Reads by recursive descent; each function leaves `at` behind what it has read. Nothing: `fault` says why.
 class QueryReader {
 public:
-    explicit QueryReader(QStringView query) : text(query) {}
+    QueryReader(QStringView query, QueryUse itsUse) : text(query), use(itsUse) {}
 
     ReadQuery read() {
         if (text.size() > longestQuery)
@@ -118,6 +118,9 @@ private:
     void skipBlanks() {
         while (!isAtEnd() && text[at].isSpace())
             ++at;
+    }
+    std::nullopt_t failOfHeadlines(qsizetype position, qsizetype length) {
+        return fail(Fault::NotOfHeadlines, position, length);
     }
     QStringView wordHere() const {
         qsizetype end = at;
@@ -220,6 +223,8 @@ private:
         }
         const qsizetype sign = at;
         const qsizetype signLength = wordHere().size();
+        if (use == QueryUse::Headlines)
+            return failOfHeadlines(sign, signLength);
         const auto words = readNearSign();
         if (!words)
             return std::nullopt;
@@ -305,6 +310,8 @@ private:
             words.chop(1);
         if (words.isEmpty())
             return fail(Fault::Missing, start, 1);
+        if (isCut && use == QueryUse::Headlines)
+            return failOfHeadlines(at - 1, 1);
         wasEnclosed = false;
         QueryNode node = nodeFrom(start, Kind::Text);
         node.text = words.toString();
@@ -323,6 +330,9 @@ private:
             return fail(Fault::UnknownField, start, nameLength);
         if (fieldDepth > 0)
             return fail(Fault::FieldWithin, start, nameLength);
+        const bool isOfHeadlines = *known == FieldKind::Title || kindOf(*known) != Kind::Days;
+        if (use == QueryUse::Headlines && !isOfHeadlines)
+            return failOfHeadlines(start, nameLength);
         if (isBare)
             return fail(Fault::FieldValue, start, nameLength);
         Node node = *known == FieldKind::Title || *known == FieldKind::Story
@@ -381,6 +391,7 @@ private:
     }
 
     const QStringView text;
+    const QueryUse use;
     qsizetype at = 0;
     int depth = 0;       // brackets
     int fieldDepth = 0;  // 1 within title: and story:
@@ -398,12 +409,12 @@ constexpr std::array<QLatin1StringView, std::size_t(Fault::Count)> faultKeys{
     QLatin1StringView("ERROR_QUERY_DAY"),           QLatin1StringView("ERROR_QUERY_NEAR"),
     QLatin1StringView("ERROR_QUERY_NEAR_NUMBER"),   QLatin1StringView("ERROR_QUERY_OPERATOR_WORD"),
     QLatin1StringView("ERROR_QUERY_TOO_LONG"),      QLatin1StringView("ERROR_QUERY_TOO_MANY"),
-    QLatin1StringView("ERROR_QUERY_TOO_DEEP")};
+    QLatin1StringView("ERROR_QUERY_TOO_DEEP"),      QLatin1StringView("ERROR_QUERY_NOT_OF_HEADLINES")};
 
 }  // namespace
 
-ReadQuery readQuery(const QString& query) {
-    return QueryReader(query).read();
+ReadQuery readQuery(const QString& query, QueryUse use) {
+    return QueryReader(query, use).read();
 }
 
 QLatin1StringView keyOf(QueryFaultKind kind) {

@@ -58,6 +58,7 @@ enum class QueryFaultKind {
     TooLong,
     TooMany,
     TooDeep,
+    NotOfHeadlines,  // what a headline alone cannot answer
     Count
 };
 
@@ -74,8 +75,14 @@ inline constexpr int mostWordsBetween = 1000;    // of NEAR
 
 using ReadQuery = std::variant<QueryNode, QueryFault>;
 
+// What a query is tried on.
+enum class QueryUse {
+    News,       // knows the whole language
+    Headlines,  // as they come, without their stories: no story:, NEAR, days and words cut short
+};
+
 // Reads a query of any length and content.
-WIREPANE_CONTRACT_EXPORT ReadQuery readQuery(const QString& query);
+WIREPANE_CONTRACT_EXPORT ReadQuery readQuery(const QString& query, QueryUse use = QueryUse::News);
 
 // The language key of what is told about a fault: a text with %1 for the place, counted from 1, and %2 for
 // what stands there.

@@ -133,6 +133,27 @@ TEST(SearchQuery, NamesThePlaceOfAFault) {
         EXPECT_TRUE(std::holds_alternative<QueryNode>(readQuery(atLimit))) << atLimit.toStdString();
 }
 
+// A headline has no story yet, and is looked at as it comes.
+TEST(SearchQuery, ForHeadlinesRefusesWhatNeedsMore) {
+    const std::vector<std::pair<QString, QString>> cases{{u"a story:b"_s, u"2 story"_s},
+                                                         {u"a -STORY:(b)"_s, u"3 STORY"_s},
+                                                         {u"(a from:today)"_s, u"3 from"_s},
+                                                         {u"to:2026"_s, u"0 to"_s},
+                                                         {u"on:"_s, u"0 on"_s},
+                                                         {u"a gol* b"_s, u"5 *"_s},
+                                                         {u"title:\"a b\"＊"_s, u"11 ＊"_s},
+                                                         {u"a NEAR/5 b"_s, u"2 NEAR/5"_s}};
+    for (const auto& [query, place] : cases) {
+        const ReadQuery read = readQuery(query, QueryUse::Headlines);
+        ASSERT_TRUE(std::holds_alternative<QueryFault>(read)) << query.toStdString();
+        const QueryFault& fault = std::get<QueryFault>(read);
+        EXPECT_EQ(fault.kind, QueryFaultKind::NotOfHeadlines) << query.toStdString();
+        EXPECT_EQ(QString::number(fault.position) + u' ' + fault.found, place);
+    }
+    const QString known = u"a \"b c\" -(d | title:e) topic:f service:1 -symbol:22:0700 near"_s;
+    EXPECT_TRUE(std::holds_alternative<QueryNode>(readQuery(known, QueryUse::Headlines)));
+}
+
 // What an excluded or bracketed part says can be shown and taken out by its characters.
 TEST(SearchQuery, PartsKnowTheirCharacters) {
     const QString query = u"title:gold -\"a b\" (c | d) e NEAR/2 f"_s;
