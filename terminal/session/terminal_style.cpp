@@ -229,6 +229,12 @@ QRect TerminalStyle::subElementRect(SubElement element, const QStyleOption* opti
     return place;
 }
 
+QIcon TerminalStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                  const QWidget* widget) const {
+    return icon == SP_LineEditClearButton ? lineIcon(LineIcon::Close, QPalette::PlaceholderText)
+                                          : QProxyStyle::standardIcon(icon, option, widget);
+}
+
 void TerminalStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                   const QWidget* widget) const {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
