@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/feed_entry.h"
 
-#include "backend/import/feed_text.h"
 #include "backend/import/import_errors.h"
 #include "backend/import/item_rules.h"
 #include "backend/import/news_time.h"
@@ -13,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace wirepane {
 
@@ -96,6 +96,13 @@ void keepFirst(QString& kept, const QString& value) {
         kept = value;
 }
 
+// Whether a text says anything is known when it is plain; most entries have but one.
+void keepFirst(FeedText& kept, FeedText&& value) {
+    kept = {plainTextOf(kept), FeedText::Form::Plain};
+    if (kept.raw.isEmpty())
+        kept = std::move(value);
+}
+
 void keepFirst(std::optional<std::int64_t>& kept, const std::optional<std::int64_t>& value) {
     if (!kept)
         kept = value;
@@ -129,7 +136,8 @@ QString identityOf(const FeedEntry& entry, const FeedEntry& feed) {
     if (!entry.link.isEmpty())
         return entry.link;
     QCryptographicHash hash(QCryptographicHash::Sha1);
-    for (const QString& part : {entry.title, entry.otherTitle, entry.content, entry.summary})
+    for (const QString& part :
+         {entry.title, entry.otherTitle, plainTextOf(entry.content), plainTextOf(entry.summary)})
         hash.addData(part.toUtf8() + '\0');
     return u"sha1:"_s + QLatin1StringView(hash.result().toHex());
 }
@@ -145,9 +153,9 @@ void FeedEntry::takeElement(XmlSource& xml, QStringView ownNamespace) {
         case Role::Link:
             return keepFirst(link, linkOf(xml));
         case Role::Title:
-            return keepFirst(title, titleLine(feedText(xml, kind)));
+            return keepFirst(title, titleLine(plainTextOf(feedText(xml, kind))));
         case Role::OtherTitle:
-            return keepFirst(otherTitle, titleLine(feedText(xml, kind)));
+            return keepFirst(otherTitle, titleLine(plainTextOf(feedText(xml, kind))));
         case Role::Content:
             return keepFirst(content, feedText(xml, kind));
         case Role::Summary:
@@ -169,7 +177,8 @@ Result<StoreItem> feedItem(const FeedEntry& entry, const FeedEntry& feed, unsign
     item.identity = identityOf(entry, feed);
     if (const auto fault = faultOfIdentity(item.identity, makeError<import_errors::identityOfEntry>()))
         return *fault;
-    const QString story = wireForm(entry.content.isEmpty() ? entry.summary : entry.content);
+    const QString content = plainTextOf(entry.content);
+    const QString story = wireForm(content.isEmpty() ? plainTextOf(entry.summary) : content);
     item.story = story;
     item.title = !entry.title.isEmpty() ? entry.title : entry.otherTitle;
     if (item.title.isEmpty())

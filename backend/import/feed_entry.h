@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/import/feed_text.h"
 #include "backend/import/reading.h"
 
 #include <QString>
@@ -18,8 +19,8 @@ struct FeedEntry {
     QString link;
     QString title;
     QString otherTitle;  // of a vocabulary beside the feed's own
-    QString content;     // plain text
-    QString summary;     // plain text
+    FeedText content;
+    FeedText summary;
     QString category;
     std::optional<std::int64_t> published;
     std::optional<std::int64_t> updated;

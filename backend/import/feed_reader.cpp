@@ -89,10 +89,17 @@ private:
 
     bool isDone() const { return secondEnd && count == lastWaiting; }
 
+    // Markup takes as long to be made into text as XML to be read.
     void handOver(const FeedEntry& entry, qint64 position) {
-        const Result<StoreItem> content = feedItem(entry, feed, options.service);
         const QString name = entry.identity.isEmpty() ? entry.link : entry.identity;
-        going = visit({content, placeOfItem(count, name.left(200)), position});
+        SourceItem item{StoreItem(), placeOfItem(count, name.left(200)), position};
+        item.rest = [entry, feed = feed, service = options.service] {
+            return feedItem(entry, feed, service);
+        };
+        item.sizeOfRest = entry.content.raw.size() + entry.summary.raw.size();
+        if (!options.leavesRest)
+            item.finish();
+        going = visit(std::move(item));
     }
 
     QIODevice& source;

@@ -16,6 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using Form = FeedText::Form;
+
 // A media type that is neither text nor XML says that the content is base64.
 bool isBinaryType(QStringView type) {
     return type.contains(u'/') && !type.startsWith("text/"_L1) && !type.endsWith("xml"_L1);
@@ -41,20 +43,35 @@ QString withoutIndents(const QString& text) {
 
 }  // namespace
 
-QString feedText(XmlSource& xml, FeedTextKind kind) {
+FeedText feedText(XmlSource& xml, FeedTextKind kind) {
     const QXmlStreamAttributes attributes = xml.reader().attributes();
     const QString type = attributes.value("type"_L1).toString().toLower();
     const QString mode = attributes.value("mode"_L1).toString().toLower();
     const XmlSource::Content content = xml.content();
     if (content.hasChildren)
-        return plainText(content.markup());
+        return {content.markup(), Form::Markup};
     if (mode == "base64"_L1 || (mode.isEmpty() && isBinaryType(type)))
-        return plainText(QString::fromUtf8(QByteArray::fromBase64(content.text.toUtf8())));
+        return {content.text, Form::EncodedMarkup};
     if (kind == FeedTextKind::Markup || (type.contains("html"_L1) && type != "xhtml"_L1))
-        return plainText(content.text);
+        return {content.text, Form::Markup};
     const bool stated = kind == FeedTextKind::Stated || !type.isEmpty();
-    const QString text = withoutIndents(content.text);
-    return stated ? text : textOfUnknownForm(text);
+    return {content.text, stated ? Form::Indented : Form::Unknown};
+}
+
+QString plainTextOf(const FeedText& text) {
+    switch (text.form) {
+        case Form::Indented:
+            return withoutIndents(text.raw);
+        case Form::Unknown:
+            return textOfUnknownForm(withoutIndents(text.raw));
+        case Form::Markup:
+            return plainText(text.raw);
+        case Form::EncodedMarkup:
+            return plainText(QString::fromUtf8(QByteArray::fromBase64(text.raw.toUtf8())));
+        case Form::Plain:
+            break;
+    }
+    return text.raw;
 }
 
 }  // namespace wirepane

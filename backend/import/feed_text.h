@@ -14,7 +14,18 @@ enum class FeedTextKind {
     Unknown,  // RSS: text or escaped markup
 };
 
-// The plain text of the element that `xml` stands on, and goes to its end.
-QString feedText(XmlSource& xml, FeedTextKind kind);
+// A text as it stands in a feed, and what it takes to make plain text of it.
+struct FeedText {
+    enum class Form { Plain, Indented, Unknown, Markup, EncodedMarkup };
+
+    QString raw;
+    Form form = Form::Plain;
+};
+
+// The text of the element that `xml` stands on, and goes to its end.
+FeedText feedText(XmlSource& xml, FeedTextKind kind);
+
+// Pure, on any thread.
+QString plainTextOf(const FeedText& text);
 
 }  // namespace wirepane

@@ -86,6 +86,7 @@ void ImportJob::takeFile(QFile& file, const QString& path) {
     }
     ReadOptions ofFile = options;
     ofFile.sourceName = QFileInfo(path).fileName();
+    ofFile.leavesRest = true;
     FileState state;
     const Done read = readAhead([&](const ItemVisitor& visit) { return readSource(file, ofFile, visit); },
                                 [&](SourceItem&& item) { return takeItem(std::move(item), path, state); },

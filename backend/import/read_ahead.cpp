@@ -30,10 +30,10 @@ struct Lot {
 
 qsizetype weightOf(const SourceItem& item) {
     const auto* const news = item.content ? std::get_if<NewsItem>(&item.content.value()) : nullptr;
-    return weightOfRest + (news != nullptr && news->story ? news->story->size() : 0);
+    return weightOfRest + item.sizeOfRest + (news != nullptr && news->story ? news->story->size() : 0);
 }
 
-// Between the two threads.
+// Between two threads.
 class Waiting {
 public:
     // For the reader: waits for room. False: nobody takes what it reads any more.
@@ -58,7 +58,7 @@ public:
         std::unique_lock lock(mutex);
         return changed.wait_for(lock, beforePause, [this] { return hasEnded || !lots.empty(); });
     }
-    std::vector<SourceItem> pop() {
+    Lot pop() {
         std::unique_lock lock(mutex);
         changed.wait(lock, [this] { return hasEnded || !lots.empty(); });
         if (lots.empty())
@@ -67,7 +67,7 @@ public:
         lots.pop_front();
         weight -= lot.weight;
         changed.notify_all();
-        return std::move(lot.items);
+        return lot;
     }
     void close() {
         const std::lock_guard lock(mutex);
@@ -97,6 +97,22 @@ Done readInto(Waiting& waiting, const Reader& read) {
     return done;
 }
 
+// Between the one who reads and the one who takes: does what is left to be done to the items.
+void finishAll(Waiting& from, Waiting& to) {
+    bool isTaken = true;
+    for (Lot lot = from.pop(); isTaken && !lot.items.empty(); lot = from.pop()) {
+        lot.weight = 0;
+        for (SourceItem& item : lot.items) {
+            item.finish();
+            lot.weight += weightOf(item);
+        }
+        isTaken = to.push(std::move(lot));
+        if (!isTaken)
+            from.close();
+    }
+    to.end();
+}
+
 bool takeAll(std::vector<SourceItem> items, const ItemVisitor& visit) {
     for (SourceItem& item : items) {
         if (!visit(std::move(item)))
@@ -108,21 +124,25 @@ bool takeAll(std::vector<SourceItem> items, const ItemVisitor& visit) {
 }  // namespace
 
 Done readAhead(const Reader& read, const ItemVisitor& visit, const std::function<void()>& pause) {
+    Waiting unfinished;
     Waiting waiting;
     Done done = Nothing{};
-    WorkerThread thread;
-    thread.post([&] { done = readInto(waiting, read); });
+    WorkerThread reader;
+    WorkerThread finisher;
+    reader.post([&] { done = readInto(unfinished, read); });
+    finisher.post([&] { finishAll(unfinished, waiting); });
     const auto next = [&] {
         if (pause && !waiting.hasAnySoon())
             pause();
-        return waiting.pop();
+        return waiting.pop().items;
     };
     for (auto items = next(); !items.empty(); items = next()) {
         if (!takeAll(std::move(items), visit))
             break;
     }
     waiting.close();
-    thread.run([] {});
+    finisher.run([] {});
+    reader.run([] {});
     return done;
 }
 

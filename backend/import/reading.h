@@ -18,6 +18,12 @@ struct SourceItem {
     Result<StoreItem> content;
     Phrase place;          // where in the source: "line 12", "item 3 (urn:x:1)"
     qint64 bytesRead = 0;  // how much of the source has been read when it is handed over
+    // What is left to be done until there is a content, on any thread, and how many characters that is about;
+    // null: nothing. Only who asked for it is handed such items (ReadOptions::leavesRest).
+    std::function<Result<StoreItem>()> rest = nullptr;
+    qsizetype sizeOfRest = 0;
+
+    void finish();
 };
 
 // "item 3", or "item 3 (urn:x:1)" where it has a name.
@@ -41,6 +47,7 @@ struct ReadOptions {
     unsigned char market = 0;   // the market of symbols whose list does not name one; 0: see docs/formats.md
     QString sourceName;         // the file's name, without its folder
     ReadLimits limits;
+    bool leavesRest = false;                 // items are handed over as soon as they are read
     std::shared_ptr<const Mapping> mapping;  // how to read tables of news; null: the format is recognised
 };
 
