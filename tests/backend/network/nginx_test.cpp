@@ -4,11 +4,9 @@
 #include "backend/network/http_fetch.h"
 #include "backend/network/network_errors.h"
 #include "tests/backend/network/run_authority.h"
+#include "tests/support/nginx_server.h"
 
 #include <QDateTime>
-#include <QStandardPaths>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -16,80 +14,36 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 namespace {
 
-const QString configuration =
+// %1: the port of TLS, %2: the certificate, %3: the other port.
+const QString further =
     uR"(
-daemon off;
-master_process off;  # as whoever runs the test
-pid %1/nginx.pid;
-error_log %1/error.log;
-events { worker_connections 64; }
-http {
-    access_log %1/access.log;
-    client_body_temp_path %1; proxy_temp_path %1; fastcgi_temp_path %1; uwsgi_temp_path %1; scgi_temp_path %1;
-    types { application/rss+xml xml; }
-    gzip on; gzip_types *; gzip_min_length 1;
-    server {
-        listen 127.0.0.1:%2;
-        listen 127.0.0.1:%3 ssl;
-        ssl_certificate %4.pem;
-        ssl_certificate_key %4.key;
-        root %1;
-        location = /loop { return 301 /loop; }
-        location = /moved { return 301 /feed.xml; }
-        location = /clear { return 302 http://localhost:%2/feed.xml; }
-        location = /often { add_header Retry-After 120 always; return 429; }
-        location = /busy { add_header Retry-After 7 always; return 503; }
-    }
-}
+listen 127.0.0.1:%1 ssl;
+ssl_certificate %2.pem;
+ssl_certificate_key %2.key;
+location = /loop { return 301 /loop; }
+location = /moved { return 301 /feed.xml; }
+location = /clear { return 302 http://localhost:%3/feed.xml; }
+location = /often { add_header Retry-After 120 always; return 429; }
+location = /busy { add_header Retry-After 7 always; return 503; }
 )"_s;
-
-quint16 freePort() {
-    QTcpServer probe;
-    EXPECT_TRUE(probe.listen(QHostAddress::LocalHost));
-    return probe.serverPort();
-}
 
 class NginxTest : public testing::Test {
 protected:
     void SetUp() override {
-        program = QStandardPaths::findExecutable(u"nginx"_s, {u"/usr/sbin"_s, u"/usr/bin"_s});
-        if (program.isEmpty())
+        if (test::NginxServer::program().isEmpty())
             GTEST_SKIP() << "nginx is missing";
-        write(u"feed.xml"_s, feed);
+        ASSERT_TRUE(server.write(u"feed.xml"_s, feed));
     }
-    ~NginxTest() override { stop(); }
 
-    void write(const QString& name, const QByteArray& content) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    // Beside "feed.xml", with the certificate of this name.
+    // With the certificate of this name.
     void serve(const QString& certificate) {
-        stop();
         authority.make(certificate, certificate == "other"_L1 ? u"other.example"_s : u"localhost"_s,
                        certificate == "expired"_L1 ? u"-days -1"_s : u"-days 5"_s);
-        write(u"nginx.conf"_s, configuration.arg(folder.path())
-                                   .arg(port)
-                                   .arg(tlsPort)
-                                   .arg(authority.path(certificate))
-                                   .toUtf8());
-        server.start(program, {u"-c"_s, folder.filePath(u"nginx.conf"_s)});
-        ASSERT_TRUE(QTest::qWaitFor([this] { return isListening(); }, 10'000))
-            << server.readAllStandardError().toStdString();
-    }
-    void stop() {
-        server.kill();
-        server.waitForFinished();
-    }
-    bool isListening() const {
-        QTcpSocket probe;
-        probe.connectToHost(QHostAddress(QHostAddress::LocalHost), tlsPort);
-        return probe.waitForConnected(100);
+        ASSERT_TRUE(server.start(further.arg(tlsPort).arg(authority.path(certificate)).arg(server.port())));
     }
     HttpAnswer ask(const QString& path, const Validators& known = {}) {
         HttpRequest request;
-        request.address = QUrl(u"http://localhost:%1%2"_s.arg(port).arg(path));
+        request.address = QUrl(u"http://localhost:%1%2"_s.arg(server.port()).arg(path));
         return ask(request, known);
     }
     HttpAnswer askByTls(const QString& path) {
@@ -108,12 +62,9 @@ protected:
     }
 
     const QByteArray feed = "<rss version='2.0'>" + QByteArray(20'000, ' ') + "</rss>";
-    QString program;
-    QTemporaryDir folder;
     RunAuthority authority;
-    quint16 port = freePort();
-    quint16 tlsPort = freePort();
-    QProcess server;
+    test::NginxServer server;
+    const quint16 tlsPort = test::NginxServer().port();
     HttpClient client;
 };
 
@@ -129,12 +80,12 @@ TEST_F(NginxTest, SendsAFeedPackedAndOnlyWhenItHasChanged) {
         const HttpAnswer again = ask(u"/feed.xml"_s, known);
         EXPECT_TRUE(again.isUnchanged && again.body.isEmpty() && !again.fault);
     }
-    write(u"feed.xml"_s, "<rss/>");
+    ASSERT_TRUE(server.write(u"feed.xml"_s, "<rss/>"));
     const HttpAnswer changed = ask(u"/feed.xml"_s, first.validators);
     EXPECT_EQ(changed.body, "<rss/>");
     EXPECT_NE(changed.validators.etag, first.validators.etag);
 
-    QFile log(folder.filePath(u"access.log"_s));
+    QFile log(server.path(u"access.log"_s));
     ASSERT_TRUE(log.open(QIODevice::ReadOnly));
     const QByteArray line = log.readLine();
     EXPECT_LT(line.mid(line.indexOf(" 200 ") + 5).split(' ').front().toInt(), 2000) << line.toStdString();
@@ -159,7 +110,7 @@ TEST_F(NginxTest, IsLeftAloneForAsLongAsItAsks) {
         EXPECT_EQ(answer.wish.value_or(0), one.wish) << one.path.toStdString();
         EXPECT_TRUE(answer.isAlive) << one.path.toStdString();
     }
-    stop();
+    server.stop();
     EXPECT_EQ(ask(u"/feed.xml"_s).fault->code, &network_errors::refused);
     serve(u"good"_s);
     EXPECT_EQ(ask(u"/feed.xml"_s).body, feed);
