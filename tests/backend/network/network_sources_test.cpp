@@ -98,7 +98,7 @@ TEST_F(NetworkSourcesTest, TellsNewsOfASourceThatAnotherProgramAdds) {
     EXPECT_LT(sinceAnswer.elapsed(), 300);
 
     // After a restart it goes on with what it knew.
-    QTest::qWait(50);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return standing().items == 2; }, 5000));
     restart();
     ASSERT_TRUE(hasAsked(server, before + 2));
     EXPECT_FALSE(server.seen.back().headers.value("if-none-match").isEmpty());
