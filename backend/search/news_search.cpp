@@ -47,6 +47,7 @@ NewsSearch::NewsSearch(Database& database)
       dated(database,
             "SELECT id, time, sequence FROM headlines WHERE service = ? AND time BETWEEN ? AND ? "
             "ORDER BY time DESC, sequence DESC"),
+      withdrawn(database, "SELECT headline FROM withdrawals"),
       planner(database),
       queries(database, [this](IdSet& ids, const QString& match) { return addMatches(ids, match); }) {}
 
@@ -119,7 +120,22 @@ std::optional<QueryMatch> NewsSearch::findNow(unsigned char service, const CSear
         match->ids = std::move(named);
         match->isAllBut = false;
     }
+    if (match && !leaveOutWithdrawn(*match))
+        return std::nullopt;
     return match;
+}
+
+// There are few of them, so they are asked for each time.
+bool NewsSearch::leaveOutWithdrawn(QueryMatch& match) {
+    IdSet ids;
+    Query query(withdrawn);
+    while (query.next())
+        ids.add(query.number(0));
+    if (match.isAllBut)
+        match.ids.add(ids);
+    else
+        match.ids.remove(ids);
+    return !query.failed();
 }
 
 std::optional<QueryMatch> NewsSearch::matches(unsigned char service, const CSearch& condition) {

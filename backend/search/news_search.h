@@ -59,6 +59,7 @@ private:
     std::optional<std::vector<CHeadlineTable>> atOneMoment(Read read);
     bool addMatches(IdSet& ids, const QString& query);
     bool addNamed(IdSet& ids, unsigned char service, const CSymbolInfo& symbol);
+    bool leaveOutWithdrawn(QueryMatch& match);
     bool isStopped() const { return stopping != nullptr && *stopping; }
     std::optional<QueryMatch> findNow(unsigned char service, const CSearch& condition);
 
@@ -68,6 +69,7 @@ private:
     Statement matching;
     Statement naming;
     Statement dated;
+    Statement withdrawn;
     QueryPlanner planner;
     QueryMatches queries;
     const std::atomic<bool>* stopping = nullptr;

@@ -54,6 +54,22 @@ TEST_F(NewsSearchTest, OddNumbersAreFoundAsTyped) {
         EXPECT_EQ(found(condition({keyword}, 2)), QStringList(u"Title"_s)) << qPrintable(keyword);
 }
 
+TEST_F(NewsSearchTest, WhatWasWithdrawnIsNotFoundUntilItIsSentAgain) {
+    takeStory(u"a"_s, u"Silver up"_s, u"Text"_s);
+    takeStory(u"b"_s, u"Silver down"_s, u"Text"_s, 1);
+    NewsItem taken = newsItem(1, u"a"_s, at(9, 0), {});
+    taken.withdrawn = QString();
+    takeNews(taken);
+    EXPECT_EQ(found(condition({u"silver"_s}, 2)), QStringList(u"Silver down"_s));
+    CSearch butGold = condition({u"-gold"_s}, 2);
+    butGold.language = SearchLanguage::Query;
+    EXPECT_EQ(found(butGold), QStringList(u"Silver down"_s));
+    taken = newsItem(1, u"a"_s, at(9, 2), u"Silver up"_s);
+    taken.version = 1;
+    takeNews(taken);
+    EXPECT_EQ(found(condition({u"silver"_s}, 2)), (QStringList{u"Silver up"_s, u"Silver down"_s}));
+}
+
 TEST_F(NewsSearchTest, KeywordsAreFoundAsTyped) {
     const QString text =
         u"台積電(2330)宣布，營收2.5%成長至11,700億元@@@@A&T and c++ 0700.HK in the US-China talks@@@@O'Neil 臺灣"_s;
