@@ -33,8 +33,7 @@ std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
 
 std::array<int, 256> HeadlineTable::countsOfServices() const {
     std::array<int, 256> counts{};
-    for (int row = 0; row < size(); ++row)
-        ++counts[at(row).service];
+    entries.forEach([&](HeadlineRows::Ticket, const CHeadlineTable& entry) { ++counts[entry.service]; });
     return counts;
 }
 

@@ -18,7 +18,6 @@
 
 #include <QLocale>
 
-#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -27,7 +26,7 @@ namespace wirepane {
 
 namespace {
 
-QString counted(int number) {
+QString shownNumber(int number) {
     return QLocale(QLocale::English).toString(number);
 }
 
@@ -46,10 +45,15 @@ void SearchLine::create() {
 
 void SearchLine::watch(CSuperSheetWnd& grid) {
     const QAbstractItemModel* const rows = grid.model();
-    connect(rows, &QAbstractItemModel::rowsInserted, this, &SearchLine::followSoon);
-    connect(rows, &QAbstractItemModel::rowsRemoved, this, &SearchLine::followSoon);
-    connect(rows, &QAbstractItemModel::layoutChanged, this, &SearchLine::followSoon);
-    connect(rows, &QAbstractItemModel::modelReset, this, &SearchLine::followSoon);
+    connect(rows, &QAbstractItemModel::rowsInserted, this, &SearchLine::followRows);
+    connect(rows, &QAbstractItemModel::rowsRemoved, this, &SearchLine::followRows);
+    connect(rows, &QAbstractItemModel::layoutChanged, this, &SearchLine::followRows);
+    connect(rows, &QAbstractItemModel::modelReset, this, &SearchLine::followRows);
+}
+
+void SearchLine::followRows() {
+    counted.reset();
+    followSoon();
 }
 
 // From the event loop: once for what changes together.
@@ -77,13 +81,13 @@ void SearchLine::follow() {
     if (course.isAwaited && found.empty()) {
         text.sum = langText(parts.backEnd, keys::foundAwaited);
     } else {
-        text.sum = langText(parts.backEnd, keys::foundCount).arg(counted(found.size()));
+        text.sum = langText(parts.backEnd, keys::foundCount).arg(shownNumber(found.size()));
         QStringList details{detailsOf(found)};
         details += langText(parts.backEnd, keys::foundUntil)
                        .arg(localTime(course.until).toString(u"yyyy/MM/dd hh:mm"_s));
         if (course.took)
-            details +=
-                langText(parts.backEnd, keys::foundTook).arg(counted(static_cast<int>(course.took->count())));
+            details += langText(parts.backEnd, keys::foundTook)
+                           .arg(shownNumber(static_cast<int>(course.took->count())));
         details.removeAll(QString());
         text.details = details.join(u" · "_s);
     }
@@ -105,17 +109,20 @@ ChipLineText SearchLine::conditionText(const CSearch& found) const {
     return text;
 }
 
-QString SearchLine::detailsOf(const HeadlineTable& found) const {
+QString SearchLine::detailsOf(const HeadlineTable& found) {
     if (found.empty())
         return {};
+    const ListIndex list = context.shownList();
+    if (!counted || counted->list != list)
+        counted = Counted{list, found.countsOfServices()};
     QStringList details;
-    const std::array<int, 256> counts = found.countsOfServices();
+    const std::array<int, 256>& counts = counted->ofServices;
     for (std::size_t service = 0; service < counts.size(); ++service) {
         if (counts[service] == 0)
             continue;
         QString name;
         parts.backEnd.BKQNEWS_bGetShortNameByService(name, static_cast<unsigned char>(service));
-        details += name + u' ' + counted(counts[service]);
+        details += name + u' ' + shownNumber(counts[service]);
     }
     const QString oldest = localTime(found.at(found.size() - 1).time).toString(u"yyyy/MM/dd"_s);
     details += langText(parts.backEnd, keys::foundSince).arg(oldest);

@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/list_index.h"
 #include "news_view/common_parts.h"
 
 #include <QObject>
 
+#include <array>
 #include <functional>
+#include <optional>
 
 class CSuperSheetWnd;
 struct CSearch;
@@ -35,16 +38,23 @@ public:
     void followSoon();
 
 private:
+    void followRows();
     void follow();
     void takeOut(int part);
     ChipLineText conditionText(const CSearch& found) const;
-    QString detailsOf(const HeadlineTable& found) const;
+    QString detailsOf(const HeadlineTable& found);
 
     ViewContext& context;
     const CommonParts parts;
     const SearchDesk& searches;
     const Replace replace;
     bool isPosted = false;
+    // How many headlines each service has in a list; none: its rows have changed.
+    struct Counted {
+        ListIndex list;
+        std::array<int, 256> ofServices;
+    };
+    std::optional<Counted> counted;
 };
 
 }  // namespace wirepane

@@ -360,6 +360,12 @@ TEST_F(SearchesOfTheView, TheLineOverTheResultsTellsWhatWasFoundAndTakesTheParts
     EXPECT_TRUE(line->told().details.contains(u"since 2026/03/02 · until "_s));
     EXPECT_TRUE(line->told().details.endsWith(u" ms"_s));
 
+    backEnd.searchTables[1].push_back(entryOf(1, 8, 0, 2));
+    backEnd.searchTables[2].clear();
+    answer(u"gold -tin (a | b)"_s);
+    told();
+    EXPECT_EQ(line->told().sum, u"found 2"_s);
+    EXPECT_TRUE(line->told().details.contains(u" 2 · since"_s)) << "now all are of one service";
     const QWidget* next = dlgItem(view.get(), ids::dealsSearchButton);
     do {
         next = next->nextInFocusChain();
