@@ -380,7 +380,12 @@ TEST_F(SearchesOfTheView, TheLineOverTheResultsTellsWhatWasFoundAndTakesTheParts
     EXPECT_TRUE(sent().front().contains(u"gold (a | b) as a query"_s));
     emit line->taken(1);
     EXPECT_EQ(told(), u"gold"_s);
+    view->ChangeSymbol(view.get(), 0, 16, u"2330"_s, {});
+    EXPECT_EQ(told(), u"gold/2330 Aster Chips"_s);
     sent();
+    emit line->taken(1);
+    EXPECT_FALSE(sent().front().contains(u"2330"_s)) << "the symbol counts no more";
+    EXPECT_EQ(told(), u"gold"_s);
     emit line->taken(0);
     EXPECT_EQ(sent(), QStringList()) << "nothing is left to be searched for";
     EXPECT_EQ(told(), QString());
