@@ -1349,7 +1349,7 @@
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_EXCLUDE_BUTTON">
         <source></source>
-        <translation>E&amp;xclude &gt;</translation>
+        <translation>E&amp;xclude ▸</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_NONE_OF_THESE">
         <source></source>

@@ -1349,7 +1349,7 @@
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_EXCLUDE_BUTTON">
         <source></source>
-        <translation>排除(&amp;X) &gt;</translation>
+        <translation>排除(&amp;X) ▸</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_NONE_OF_THESE">
         <source></source>
