@@ -32,7 +32,7 @@ inline constexpr std::array commandKeys{
     CommandKey{QLatin1StringView("Alt+PgDown"), ids::pageDownButton},
     CommandKey{QLatin1StringView("Alt+PgUp"), ids::pageUpButton},
     CommandKey{QLatin1StringView("Ctrl+Return"), ids::openInWindow},
-    CommandKey{QLatin1StringView("Ctrl+D"), ids::turnChanges},
+    CommandKey{QLatin1StringView("Ctrl+Shift+D"), ids::turnChanges},
 };
 
 // The key that does what the command does; empty: none.

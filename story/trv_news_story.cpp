@@ -151,7 +151,7 @@ void TRVNewsStory::addShortcuts() {
         auto* shortcut = new QShortcut(QKeySequence(QString(key.key)), this);
         connect(shortcut, &QShortcut::activated, this, storyButtons[key.button].clicked);
     }
-    auto* changes = new QShortcut(QKeySequence(u"Ctrl+D"_s), this);
+    auto* changes = new QShortcut(QKeySequence(u"Ctrl+Shift+D"_s), this);
     connect(changes, &QShortcut::activated, this, &TRVNewsStory::turnChanges);
 }
 
