@@ -104,8 +104,8 @@ StatusLine::StatusLine(QWidget* parent)
       day(addLabel()),
       index(addLabel()),
       headlines(addLabel()),
-      servicesIcon(addLabel()),
       services(addLabel()),
+      servicesIcon(new QLabel(services)),
       clock(addLabel()) {
     for (QLabel* links : {actions, day}) {
         links->setTextFormat(Qt::RichText);
@@ -120,14 +120,8 @@ StatusLine::StatusLine(QWidget* parent)
     for (QWidget* part : std::initializer_list<QWidget*>{feed, actions, last, asOf, present, day})
         row->addWidget(part);
     row->addStretch(1);
-    for (QWidget* part : {index, headlines})
+    for (QWidget* part : {index, headlines, services, clock})
         row->addWidget(part);
-    auto* ticked = new QHBoxLayout;
-    ticked->setSpacing(4);
-    ticked->addWidget(servicesIcon);
-    ticked->addWidget(services);
-    row->addLayout(ticked);
-    row->addWidget(clock);
     connect(actions, &QLabel::linkActivated, this,
             [this](const QString& name) { name == "import"_L1 ? emit importAsked() : emit connectAsked(); });
     connect(day, &QLabel::linkActivated, this, &StatusLine::todayAsked);
@@ -171,6 +165,8 @@ void StatusLine::show(const FrameStatus& status) {
     const int side = fontMetrics().height();
     servicesIcon->setPixmap(lineIcon(LineIcon::Services, QPalette::PlaceholderText)
                                 .pixmap(QSize(side, side), devicePixelRatioF()));
+    servicesIcon->setGeometry(0, 0, side, services->height());
+    services->setContentsMargins(side + 4, 0, 0, 0);
     clock->setText(clockText(status.now));
     giveRoom();
 }
@@ -181,12 +177,10 @@ void StatusLine::giveRoom() {
     for (QLabel* part : parts)
         part->setHidden(part->text().isEmpty());
     for (QLabel* part : parts) {
-        servicesIcon->setHidden(services->isHidden());
         if (layout()->totalSizeHint().width() <= width())
             return;
         part->hide();
     }
-    servicesIcon->hide();
 }
 
 void StatusLine::resizeEvent(QResizeEvent* event) {

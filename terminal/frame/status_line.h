@@ -65,8 +65,8 @@ private:
     QLabel* day;
     QLabel* index;
     QLabel* headlines;
-    QLabel* servicesIcon;
     QLabel* services;
+    QLabel* servicesIcon;  // at its left
     QLabel* clock;
 };
 
