@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -20,7 +22,8 @@ struct SampleOptions {
 
     std::uint64_t seed = 1;
     std::int64_t now = 0;  // the present moment, seconds since 1970, UTC
-    int days = 7;  // calendar days (UTC+8) up to and with the one of the present moment; 1 to mostDays
+    int days = 7;     // calendar days (UTC+8) up to and with the one of the present moment; 1 to mostDays
+    int leftOut = 0;  // of these days: the newest, which are not sent; then it is the news alone that is
     int headlinesPerDay =
         1500;  // on a working day, over all services; weekends have fewer; 1 to mostHeadlinesPerDay
 
@@ -35,5 +38,10 @@ struct SampleOptions {
         storyLength;              // every headline has a story of that length; absent: as a desk writes
     int correctionPermille = 20;  // part of the items that are later versions of earlier ones
 };
+
+// What the wire calls itself as a source; its position is the moment up to which it has sent.
+inline QString sourceName(const SampleOptions& options) {
+    return QStringLiteral("sample-wire-%1").arg(options.seed);
+}
 
 }  // namespace wirepane

@@ -63,14 +63,20 @@ public:
             categories.insert(category.id, category);
     }
 
-    bool handCategories(const Taker& take) const;
-    bool handSymbols(const Taker& take) const;
-    bool handQuotes(const Taker& take) const;
-    bool handNews(const Taker& take) const;
+    bool run(const Taker& take) const {
+        const bool isWhole = options.leftOut == 0;
+        return (!isWhole || (handCategories(take) && handSymbols(take) && handQuotes(take))) &&
+               handNews(take);
+    }
     void follow(std::int64_t moment, const TimedTaker& take) const;
     bool tick(std::int64_t moment, const Taker& take) const;
 
 private:
+    bool handCategories(const Taker& take) const;
+    bool handSymbols(const Taker& take) const;
+    bool handQuotes(const Taker& take) const;
+    bool handNews(const Taker& take) const;
+
     using Hand = std::function<bool(const PlannedItem&, const Assignment&)>;
 
     bool handDay(Day day, const std::vector<PlannedItem>& items, const Hand& hand) const;
@@ -136,10 +142,11 @@ bool SampleWire::Desk::handNews(const Taker& take) const {
         return take(itemOf(item, assignment, item.filler ? options.now + latestStory : options.now));
     };
     const Day today = LocalTime::fromUtc(options.now).day;
-    for (Day day{today.number - options.days + 1}; day.number < today.number; ++day.number)
+    const std::int64_t end = today.number - std::max(options.leftOut - 1, 0);
+    for (Day day{today.number - options.days + 1}; day.number < end; ++day.number)
         if (!handDay(day, plan.day(day), hand))
             return false;
-    return handDay(today, plan.dayUntil(options.now), hand);
+    return options.leftOut > 0 || handDay(today, plan.dayUntil(options.now), hand);
 }
 
 void SampleWire::Desk::follow(std::int64_t moment, const TimedTaker& take) const {
@@ -266,8 +273,7 @@ SampleWire::SampleWire(const SampleData& data, SampleOptions options)
 SampleWire::~SampleWire() = default;
 
 bool SampleWire::run(const Taker& take) const {
-    return desk->handCategories(take) && desk->handSymbols(take) && desk->handQuotes(take) &&
-           desk->handNews(take);
+    return desk->run(take);
 }
 
 void SampleWire::follow(std::int64_t moment, const TimedTaker& take) const {

@@ -41,6 +41,9 @@ public:
              u"1"_s},
             {u"days"_s, u"How many days back. Default: %1."_s.arg(defaults.days), u"number"_s,
              QString::number(defaults.days)},
+            {u"leave-out"_s,
+             u"How many of these days, the newest, are left out; then it is the news alone that is written. Default: 0."_s,
+             u"number"_s, u"0"_s},
             {u"per-day"_s, u"Headlines on a working day. Default: %1."_s.arg(defaults.headlinesPerDay),
              u"number"_s, QString::number(defaults.headlinesPerDay)},
             {u"now"_s, u"What is taken as the present moment, such as 2026-03-02T09:30:00."_s, u"moment"_s},
@@ -58,6 +61,7 @@ public:
         options.seed =
             static_cast<std::uint64_t>(number(u"seed"_s, 0, std::numeric_limits<std::int64_t>::max()));
         options.days = static_cast<int>(number(u"days"_s, 1, SampleOptions::mostDays));
+        options.leftOut = static_cast<int>(number(u"leave-out"_s, 0, SampleOptions::mostDays));
         options.headlinesPerDay =
             static_cast<int>(number(u"per-day"_s, 1, SampleOptions::mostHeadlinesPerDay));
         const QDateTime now = parser.isSet(u"now"_s)
@@ -112,7 +116,7 @@ public:
 
     void run(const SampleWire& wire) {
         constexpr std::int64_t daySeconds = 86'400;
-        if (!write(handshakeLine({u"sample-wire-%1"_s.arg(options.seed), 1})) || std::fflush(stdout) != 0)
+        if (!write(handshakeLine({sourceName(options), 1})) || std::fflush(stdout) != 0)
             return;
         const QJsonObject answer = QJsonDocument::fromJson(readLine().value_or(QByteArray())).object();
         const std::int64_t kept = answer[u"position"_s].toString().toLongLong();

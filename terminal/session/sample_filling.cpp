@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/sample_filling.h"
 
-#include "backend/feed/feed_line.h"
 #include "backend/store/store_defaults.h"
 #include "backend/store/store_writer.h"
 #include "terminal/session/sample_process.h"
@@ -27,20 +26,12 @@ public:
     Done commit() { return writer.commit(); }
     void rollback() { writer.rollback(); }
 
-    Done takeLine(const QByteArray& line) {
-        const FeedLine parsed = parsedFeedLine(line, ownService);
-        const auto* record = std::get_if<FeedRecord>(&parsed);
-        if (record == nullptr)
-            return Nothing{};
-        return record->item ? take(record->item.value()) : Done(unfit(record->item.error()));
-    }
+    Done take(const Result<StoreItem>& item) { return item ? take(item.value()) : Done(unfit(item.error())); }
 
+    StoreWriter writer;
     SampleTotals totals;
 
 private:
-    // Of records that name none; those of the wire do.
-    static constexpr unsigned char ownService = 1;
-
     static Error unfit(const Error& reason) { return makeError<session_errors::sampleNotTaken>(reason); }
     Done take(const StoreItem& item) {
         const auto outcome = writer.take(item);
@@ -52,8 +43,6 @@ private:
         ++(outcome.value().take == Take::TakenIn ? totals.takenIn : totals.alreadyThere);
         return Nothing{};
     }
-
-    StoreWriter writer;
 };
 
 Done takeAll(Filling& filling, const SampleOptions& options,
@@ -61,8 +50,8 @@ Done takeAll(Filling& filling, const SampleOptions& options,
     const Error stopped = makeError<session_errors::sampleStopped>();
     SampleProcess wire(options);
     std::int64_t seen = 0;
-    while (const auto line = wire.nextLine()) {
-        if (const Done taken = filling.takeLine(*line); !taken)
+    while (const auto item = wire.nextItem()) {
+        if (const Done taken = filling.take(*item); !taken)
             return taken;
         if (++seen % progressEvery == 0 && progress && !progress(seen))
             return stopped;
@@ -75,10 +64,18 @@ Done takeAll(Filling& filling, const SampleOptions& options,
 }  // namespace
 
 Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& options,
-                                    const std::function<bool(std::int64_t)>& progress) {
+                                    const std::function<bool(std::int64_t)>& progress,
+                                    const std::function<Result<bool>(StoreWriter&)>& isWanted) {
     Filling filling(store);
     if (const Done begun = filling.begin(); !begun)
         return begun.error();
+    if (isWanted) {
+        const Result<bool> wanted = isWanted(filling.writer);
+        if (!wanted || !wanted.value()) {
+            filling.rollback();
+            return wanted ? Result<SampleTotals>(filling.totals) : wanted.error();
+        }
+    }
     // The wire brings categories of its own; what it has no news in would be an empty list to choose.
     if (!removeDefaultCategories(store)) {
         filling.rollback();

@@ -9,6 +9,7 @@
 
 namespace wirepane {
 class Database;
+class StoreWriter;
 
 struct SampleTotals {
     std::int64_t takenIn = 0;
@@ -17,7 +18,9 @@ struct SampleTotals {
 
 // Takes what the program of the sample wire sends into an open store, all of it or nothing. `progress` hears
 // how many items have been seen, now and then; its false stops the taking in, of which nothing stays then.
+// `isWanted` is asked within the transaction, which its positions belong to.
 Result<SampleTotals> fillWithSample(Database& store, const SampleOptions& options,
-                                    const std::function<bool(std::int64_t items)>& progress = {});
+                                    const std::function<bool(std::int64_t items)>& progress = {},
+                                    const std::function<Result<bool>(StoreWriter&)>& isWanted = {});
 
 }  // namespace wirepane

@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/sample_process.h"
 
+#include "backend/feed/feed_line.h"
 #include "backend/feed/program_source.h"
 #include "terminal/session/session_errors.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
+
+#include <utility>
+#include <variant>
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +21,7 @@ namespace {
 
 constexpr int noLimit = -1;
 constexpr int killMs = 5000;
+constexpr unsigned char ownService = 1;  // of records that name none; those of the wire do
 
 QString momentOf(std::int64_t seconds) {
     return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate);
@@ -27,10 +32,11 @@ QString programFile() {
 }
 
 QStringList argumentsOf(const SampleOptions& options) {
-    return {u"--seed"_s,    QString::number(options.seed),
-            u"--days"_s,    QString::number(options.days),
-            u"--per-day"_s, QString::number(options.headlinesPerDay),
-            u"--now"_s,     momentOf(options.now)};
+    return {u"--seed"_s,      QString::number(options.seed),
+            u"--days"_s,      QString::number(options.days),
+            u"--per-day"_s,   QString::number(options.headlinesPerDay),
+            u"--leave-out"_s, QString::number(options.leftOut),
+            u"--now"_s,       momentOf(options.now)};
 }
 
 }  // namespace
@@ -44,6 +50,15 @@ SampleProcess::SampleProcess(const SampleOptions& options) {
 SampleProcess::~SampleProcess() {
     process.kill();
     process.waitForFinished(killMs);
+}
+
+std::optional<Result<StoreItem>> SampleProcess::nextItem() {
+    while (const auto line = nextLine()) {
+        FeedLine parsed = parsedFeedLine(*line, ownService);
+        if (auto* record = std::get_if<FeedRecord>(&parsed))
+            return std::move(record->item);
+    }
+    return std::nullopt;
 }
 
 std::optional<QByteArray> SampleProcess::nextLine() {

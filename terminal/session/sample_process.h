@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/feed/feed_source.h"
+#include "backend/news_item.h"
 #include "backend/result.h"
 #include "sample_wire/sample_options.h"
 
@@ -18,18 +19,20 @@ namespace wirepane {
 // no event loop is needed.
 class SampleProcess {
 public:
-    // Of the options it is told seed, now, days and headlinesPerDay.
+    // Of the options it is told seed, now, days, leftOut and headlinesPerDay.
     explicit SampleProcess(const SampleOptions& options);
     SampleProcess(const SampleProcess&) = delete;
     SampleProcess& operator=(const SampleProcess&) = delete;
     ~SampleProcess();
 
-    // Waits for the next feed line; nothing at the end.
-    std::optional<QByteArray> nextLine();
-    // After the last line: whether the wire was whole.
+    // Waits for the next item; nothing at the end.
+    std::optional<Result<StoreItem>> nextItem();
+    // After the last item: whether the wire was whole.
     Done end();
 
 private:
+    std::optional<QByteArray> nextLine();
+
     QProcess process;
 };
 

@@ -13,6 +13,7 @@
 #include "terminal/frame/symbol_box.h"
 #include "terminal/session/indexing_window.h"
 #include "terminal/session/module_location.h"
+#include "terminal/session/sample_history.h"
 #include "terminal/session/sample_process.h"
 #include "terminal/session/session_errors.h"
 #include "terminal/session/status_report.h"
@@ -140,8 +141,10 @@ Done Session::openStore(const SessionOptions& options, const QString& language) 
             fillingWindow.tell(done, total);
         };
     }
-    auto opened =
-        openBackEnd(storeFile, options.sampleWhenNew || ownKind == StoreKind::Sample, indexing, filling);
+    const bool isWanted = options.sampleWhenNew || ownKind == StoreKind::Sample;
+    const SampleUse wanted =
+        options.followsSample && ownKind != StoreKind::Own ? SampleUse::Followed : SampleUse::WhenNew;
+    auto opened = openBackEnd(storeFile, isWanted ? wanted : SampleUse::None, indexing, filling);
     if (!opened)
         return opened.error();
     store = std::move(opened.value());
@@ -252,21 +255,13 @@ void Session::goToStore(OnwardStore next) {
 // Invented and real news never mix by themselves.
 void Session::followSample() {
     const auto reading = openStoreToRead(storeFile);
-    std::int64_t isSample = 0;
-    if (!reading || store->isReadOnly() ||
-        !reading.value()->readNumber("SELECT EXISTS(SELECT 1 FROM headlines) AND NOT EXISTS("
-                                     "SELECT 1 FROM services WHERE "
-                                     "EXISTS(SELECT 1 FROM headlines WHERE service = services.id AND "
-                                     "identity < 'sample:') OR "
-                                     "EXISTS(SELECT 1 FROM headlines WHERE service = services.id AND "
-                                     "identity >= 'sample;'))",
-                                     isSample) ||
-        isSample == 0)
+    if (!reading || store->isReadOnly() || !holdsSampleAlone(*reading.value()))
         return;
     SampleOptions sample;
     sample.now = host_clock::now();
     sample.days = daysFollowed;
     liveFeed->addSource(followedSample(sample));
+    liveFeed->addSource(sampleHistory(sample));
     isSampleFollowed = true;
 }
 

@@ -5,6 +5,7 @@
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "terminal/session/sample_filling.h"
+#include "terminal/session/sample_history.h"
 #include "terminal/session/session_errors.h"
 
 #include <QDir>
@@ -23,7 +24,9 @@ Done makeFolderOf(const QString& file) {
     return Nothing{};
 }
 
-Done fillWhenNew(const QString& storeFile, const IndexProgress& onIndexing, const IndexProgress& onFilling) {
+// Invented and real news never mix by themselves.
+Done fill(const QString& storeFile, bool isFollowed, const IndexProgress& onIndexing,
+          const IndexProgress& onFilling) {
     const auto database = openOrMakeStore(storeFile, onIndexing);
     // One that can only be read stays as it is.
     if (!database)
@@ -31,18 +34,24 @@ Done fillWhenNew(const QString& storeFile, const IndexProgress& onIndexing, cons
     std::int64_t hasNews = 0;
     if (!database.value()->readNumber("SELECT EXISTS(SELECT 1 FROM headlines)", hasNews))
         return database.value()->failure();
-    if (hasNews != 0)
+    if (hasNews != 0 && !(isFollowed && holdsSampleAlone(*database.value())))
         return Nothing{};
     SampleOptions options;
     options.now = host_clock::now();
     // About: weekends have less.
-    const std::int64_t total = std::int64_t{options.days} * options.headlinesPerDay;
-    const auto filled = fillWithSample(*database.value(), options, [&](std::int64_t done) {
+    const std::int64_t total = std::int64_t{isFollowed ? 1 : options.days} * options.headlinesPerDay;
+    const auto tell = [&](std::int64_t done) {
         if (onFilling)
             onFilling(done, total);
         return true;
-    });
-    return filled ? Done(Nothing{}) : Done(filled.error());
+    };
+    if (!isFollowed) {
+        const auto filled = fillWithSample(*database.value(), options, tell);
+        return filled ? Done(Nothing{}) : Done(filled.error());
+    }
+    const Done filled = bringSampleUpToDate(*database.value(), options, tell);
+    // What is there can be read, whoever keeps the rest away.
+    return hasNews != 0 ? Done(Nothing{}) : filled;
 }
 
 }  // namespace
@@ -53,13 +62,14 @@ Result<std::unique_ptr<Database>> openOrMakeStore(const QString& storeFile, cons
     return openStore(storeFile, {.onIndexing = onIndexing});
 }
 
-Result<std::unique_ptr<EmbeddedBackEnd>> openBackEnd(const QString& storeFile, bool sampleWhenNew,
+Result<std::unique_ptr<EmbeddedBackEnd>> openBackEnd(const QString& storeFile, SampleUse sample,
                                                      const IndexProgress& onIndexing,
                                                      const IndexProgress& onFilling) {
     if (const Done folder = makeFolderOf(storeFile); !folder)
         return folder.error();
-    if (sampleWhenNew) {
-        if (const Done filled = fillWhenNew(storeFile, onIndexing, onFilling); !filled)
+    if (sample != SampleUse::None) {
+        if (const Done filled = fill(storeFile, sample == SampleUse::Followed, onIndexing, onFilling);
+            !filled)
             return filled.error();
     }
     return EmbeddedBackEnd::open(storeFile, onIndexing);
