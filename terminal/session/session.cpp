@@ -4,6 +4,7 @@
 
 #include "backend/feed/feed_name.h"
 #include "backend/feed/source_kinds.h"
+#include "backend/lines/lines_errors.h"
 #include "backend/lines/socket_server.h"
 #include "backend/store/store_errors.h"
 #include "backend/store/store_file.h"
@@ -51,6 +52,11 @@ bool needsChineseFont(EmbeddedBackEnd& backEnd) {
     for (const CategoryName& category : categoryNames(backEnd))
         texts += category.name;
     return std::any_of(texts.cbegin(), texts.cend(), [](QChar c) { return c.script() == QChar::Script_Han; });
+}
+
+bool isInUse(const Error& error) {
+    const std::vector<Error>& reason = error.arguments.back().part;
+    return !reason.empty() && reason.front().code == &lines_errors::socketInUse;
 }
 
 }  // namespace
@@ -216,9 +222,8 @@ Done Session::startFeed(const SessionOptions& options) {
             continue;
         }
         const Done opened = liveFeed->open(*kind, request.value);
-        // Under the common name, another terminal may have been first.
         if (!opened && request.value == defaultFeedName)
-            feedNotice = shownText(opened.error());
+            noteUnheard(opened.error());
         else if (!opened)
             return opened;
     }
@@ -238,9 +243,15 @@ void Session::awaitFeeds(const QString& name) {
             channel, &LineChannel::lineReceived, this, [this] { goToStore({StoreKind::Own}); },
             Qt::QueuedConnection);
     });
-    // Another terminal may have been first.
     if (const Done listening = doorbell->listen(name); !listening)
-        feedNotice = shownText(listening.error());
+        noteUnheard(listening.error());
+}
+
+// Another terminal may have been first. Where both have the user's own stores, what is sent to that one comes
+// to this one by the store.
+void Session::noteUnheard(const Error& reason) {
+    if (!ownKind || !isInUse(reason))
+        feedNotice = shownText(reason);
 }
 
 void Session::goToStore(OnwardStore next) {

@@ -140,6 +140,8 @@ private:
     void followSample();
     // Who feeds this terminal under the common name feeds the user's own store.
     void awaitFeeds(const QString& name);
+    // Feeds do not find this terminal under the common name.
+    void noteUnheard(const Error& reason);
     void tellDatedAhead(unsigned char service, std::int64_t time);
     void prepareModuleFiles();
     void writeCategories();

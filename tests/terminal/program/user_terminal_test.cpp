@@ -79,7 +79,7 @@ TEST_F(UserTerminalTest, OpensAsItWasClosed) {
     EXPECT_EQ(session->settings().fontSize(), TerminalSettings::usualFont + 1);
 }
 
-TEST_F(UserTerminalTest, ATerminalWhoseCommonFeedNameIsTakenOpensAndSaysSo) {
+TEST_F(UserTerminalTest, ATerminalWhoseCommonFeedNameIsTakenOpensAndSaysSoWhereThatMatters) {
     const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(scratch.path(u""_s)));
     const QString path = socketPath(defaultFeedName).value();
@@ -87,6 +87,15 @@ TEST_F(UserTerminalTest, ATerminalWhoseCommonFeedNameIsTakenOpensAndSaysSo) {
     ASSERT_TRUE(other) << sentence(other.error()).toStdString();
     SessionOptions options{scratch.path(u"news.wirepane"_s), scratch.path(u"config"_s), u"en"_s, false};
     options.sources = {{u"feed"_s, defaultFeedName}};
+    options.stores = UserStores{scratch.path(u"own"_s), scratch.path(u"sample"_s)};
+    for (const StoreKind kind : {StoreKind::Own, StoreKind::Sample}) {
+        options.storeKind = kind;
+        const auto quiet = Session::open(options);
+        ASSERT_TRUE(quiet) << sentence(quiet.error()).toStdString();
+        EXPECT_EQ(quiet.value()->frame().notices(), QString()) << "the store brings what the other one takes";
+    }
+    options.stores.reset();
+    options.storeKind.reset();
     const auto session = Session::open(options);
     qputenv("XDG_RUNTIME_DIR", before);
     ASSERT_TRUE(session) << sentence(session.error()).toStdString();
