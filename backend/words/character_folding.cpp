@@ -2,25 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "backend/words/character_folding.h"
 
-#include "backend/words/simplified_chinese.h"
+#include "backend/words/chinese_variants.h"
 
 #include <QChar>
-#include <QString>
-#include <QStringList>
+#include <QList>
 
-#include <array>
-#include <utility>
+#include <map>
 
 namespace wirepane {
 
 namespace {
 
 constexpr char32_t tableSize = 0x10000;
-constexpr char32_t firstIdeograph = 0x3400;
-constexpr char32_t endOfIdeographs = 0xa000;
 
-// What changes when the rules of this file do; the characters' folding is added to it.
-constexpr std::uint64_t rulesVersion = 1;
+// What changes when the rules by which texts are split do; the characters' folding is added to it.
+constexpr std::uint64_t rulesVersion = 2;
 
 bool isWithin(char32_t c, char32_t first, char32_t last) {
     return c >= first && c <= last;
@@ -115,29 +111,25 @@ CharacterFolding::CharacterFolding() : table(tableSize) {
         entry.kind = kindOf(kindOf(c) == CharacterKind::Dropped ? c : entry.character);
         hash = (hash ^ entry.character ^ (std::uint64_t(entry.kind) << 16)) * 0x100000001b3U;
     }
+    for (const auto& [c, one] : std::map(beyond.begin(), beyond.end()))
+        hash = (hash ^ c ^ (std::uint64_t(one) << 24)) * 0x100000001b3U;
     sum = std::int64_t(hash >> 1);
     for (unsigned char c = 0; c < 0x80; ++c)
         plainLetters[c] = table[c].kind == CharacterKind::Letter ? char(table[c].character) : '\0';
 }
 
 void CharacterFolding::foldChinese() {
-    QString all;
-    for (char32_t c = firstIdeograph; c < endOfIdeographs; ++c) {
-        all += QChar(char16_t(c));
-        all += u'\n';
-    }
-    SimplifiedChinese chinese;
-    const QString simplified = chinese.convert(all);
-    char32_t c = firstIdeograph;
-    for (const QStringView line : QStringView(simplified).tokenize(u'\n')) {
-        if (c < endOfIdeographs && line.size() == 1)
-            table[c].character = line.front().unicode();
-        ++c;
+    for (const auto& [c, one] : chineseVariants()) {
+        if (c < tableSize)
+            table[c].character = char16_t(one);
+        else
+            beyond.emplace(c, one);
     }
 }
 
-CharacterKind CharacterFolding::kindBeyond(char32_t character) {
-    return kindOf(character);
+CharacterFolding::Folded CharacterFolding::foldedBeyond(char32_t character) const {
+    const auto found = beyond.find(character);
+    return {found == beyond.end() ? character : found->second, kindOf(character)};
 }
 
 }  // namespace wirepane

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <unordered_map>
 #include <vector>
 
 namespace wirepane {
@@ -19,8 +20,8 @@ enum class CharacterKind : std::uint8_t {
 };
 
 // How characters are made alike: upper and lower case, full and half width, letters with and without accents,
-// variants of one ideograph, Traditional and Simplified Chinese (character by character, as OpenCC's
-// dictionaries say; unchanged where they are not installed), curly and straight quotes, dashes.
+// variants of one ideograph, Traditional and Simplified Chinese (chineseVariants()), curly and straight
+// quotes, dashes.
 class CharacterFolding {
 public:
     // Made at the first call, which takes some 20 milliseconds; any thread.
@@ -32,7 +33,7 @@ public:
     };
     Folded of(char32_t character) const {
         if (character >= table.size())
-            return {character, kindBeyond(character)};
+            return foldedBeyond(character);
         return {table[character].character, table[character].kind};
     }
     char32_t folded(char32_t character) const { return of(character).character; }
@@ -45,7 +46,7 @@ public:
 private:
     CharacterFolding();
     void foldChinese();
-    static CharacterKind kindBeyond(char32_t character);
+    Folded foldedBeyond(char32_t character) const;
 
     // Side by side: whoever asks for one asks for the other.
     struct Entry {
@@ -53,6 +54,7 @@ private:
         CharacterKind kind = CharacterKind::Space;
     };
     std::vector<Entry> table;
+    std::unordered_map<char32_t, char32_t> beyond;  // what is folded of the characters behind the table
     std::array<char, 256> plainLetters{};
     std::int64_t sum = 0;
 };

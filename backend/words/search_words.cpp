@@ -91,14 +91,13 @@ bool WordReader::readPlainRun(Run& run) {
     const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
     const qsizetype end = std::min(text.size(), at + longestWord);
     const qsizetype start = at;
-    qsizetype lastLetter = start - 1;
+    run.isNumber = isDigit(bytes[start]);
     qsizetype i = start;
     for (; i < end; ++i) {
         const char folded = folding.plainLetter(bytes[i]);
-        if (folded == 0)
+        if (folded == 0 || isDigit(bytes[i]) != run.isNumber)
             break;
         current[std::size_t(i - start)] = folded;
-        lastLetter = isDigit(bytes[i]) ? lastLetter : i;
     }
     if (i == start)
         return false;
@@ -107,17 +106,21 @@ bool WordReader::readPlainRun(Run& run) {
     run.characters = int(i - start);
     if (i == text.size() || run.characters == longestWord)
         return true;
-    run.digits = int(i - 1 - lastLetter);
+    run.digits = run.isNumber ? run.characters : 0;
     run.last = bytes[i - 1];
-    return bytes[i] < 0x80 && (run.digits == 0 || (bytes[i] != '.' && bytes[i] != ','));
+    return bytes[i] < 0x80 && (!run.isNumber || (bytes[i] != '.' && bytes[i] != ','));
 }
 
 void WordReader::readRun(Run run) {
     while (at < text.size() && run.characters < longestWord) {
         const Character character = characterAt(at);
         if (character.kind == CharacterKind::Letter) {
+            const bool isNumber = isDigit(character.folded);
+            if (run.characters > 0 && isNumber != run.isNumber)
+                return;
             append(character.folded);
-            run.digits = isDigit(character.folded) ? run.digits + 1 : 0;
+            run.isNumber = isNumber;
+            run.digits += int(isNumber);
             ++run.characters;
         } else if (character.kind == CharacterKind::Symbol && run.digits > 0 && joinsNumber(character, run)) {
             append(character.folded);

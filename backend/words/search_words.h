@@ -15,9 +15,10 @@ namespace wirepane {
 // Splits a text into the words by which the search compares, in the one way that the index, the query and the
 // check of the index share:
 // - characters are folded (CharacterFolding);
-// - a run of letters and digits is a word, cut after 60 characters; a decimal point between digits, and a
-//   comma before three digits of a number, belong to it: "2.5", "11,700", but "2330,2317" are two codes and
-//   a comma;
+// - a run of letters and a run of digits are words, cut after 60 characters, also where they touch:
+// "iPhone12"
+//   is iphone and 12; a decimal point between digits, and a comma before three digits of a number, belong to
+//   it: "2.5", "11,700", but "2330,2317" are two codes and a comma;
 // - any character of a script without blanks, and any sign, is a word by itself: "c++" is c, + and +;
 // - blanks separate; a line end is the word "\n", so that no phrase is found across it.
 class WordReader {
@@ -48,7 +49,8 @@ private:
     struct Run {
         char32_t last = 0;  // as it stands in the text
         int characters = 0;
-        int digits = 0;  // since the last sign in the number, or the last letter
+        int digits = 0;  // since the last sign in the number
+        bool isNumber = false;
         bool grouped = false;
     };
     Character characterAt(qsizetype position) const;

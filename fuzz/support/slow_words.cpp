@@ -70,18 +70,21 @@ bool SlowWords::next() {
 
 void SlowWords::readRun(Character character) {
     int length = 0;
-    int digits = 0;  // since the last sign in the number, or the last letter
+    int digits = 0;  // since the last sign in the number
     bool grouped = false;
+    const bool isNumber = isDigit(character.folded);
     for (;;) {
         if (character.kind == CharacterKind::Letter) {
             append(character.folded);
-            digits = isDigit(character.folded) ? digits + 1 : 0;
+            digits += int(isNumber);
             ++length;
         }
         const char32_t last = character.raw;
         if (at >= text.size() || length >= longestWord)
             return;
         character = characterAt(at);
+        if (character.kind == CharacterKind::Letter && isDigit(character.folded) != isNumber)
+            return;
         if (character.kind == CharacterKind::Symbol && digits > 0 &&
             joinsNumber(character, last, digits, grouped)) {
             append(character.folded);

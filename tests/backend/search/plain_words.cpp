@@ -4,9 +4,16 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 
-#include <cstdint>
-#include <opencc.h>
+#include <algorithm>
+#include <opencc/Config.hpp>
+#include <opencc/Conversion.hpp>
+#include <opencc/ConversionChain.hpp>
+#include <opencc/Converter.hpp>
+#include <opencc/Dict.hpp>
+#include <opencc/DictEntry.hpp>
+#include <opencc/Lexicon.hpp>
 
 namespace wirepane {
 
@@ -14,32 +21,49 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// One dictionary of the library, asked for a single character.
-class Dictionary {
+// Which characters the library's tables put for which.
+class Neighbours {
 public:
-    explicit Dictionary(const char* name) : opened(opencc_open(name)) {}
-    ~Dictionary() {
-        if (isThere())
-            opencc_close(opened);
+    Neighbours() {
+        for (const char* name : {"t2s.json", "t2hk.json", "t2tw.json"})
+            read(name);
     }
-    Dictionary(const Dictionary&) = delete;
-    Dictionary& operator=(const Dictionary&) = delete;
-
-    QString of(const QString& character) const {
-        const QByteArray bytes = character.toUtf8();
-        char* const converted =
-            isThere() ? opencc_convert_utf8(opened, bytes.constData(), static_cast<std::size_t>(bytes.size()))
-                      : nullptr;
-        if (converted == nullptr)
-            return character;
-        const QString result = QString::fromUtf8(converted);
-        opencc_convert_utf8_free(converted);
-        return result.toUcs4().size() == 1 ? result : character;
+    // The least of all that are reached from a character.
+    char32_t leastOf(char32_t c) const {
+        QSet<char32_t> reached{c};
+        QList<char32_t> waiting{c};
+        while (!waiting.isEmpty()) {
+            for (const char32_t next : beside.value(waiting.takeLast())) {
+                if (!reached.contains(next)) {
+                    reached.insert(next);
+                    waiting.append(next);
+                }
+            }
+        }
+        return *std::min_element(reached.cbegin(), reached.cend());
     }
 
 private:
-    bool isThere() const { return reinterpret_cast<std::intptr_t>(opened) != -1; }
-    opencc_t opened;
+    void read(const char* name) {
+        const auto steps = opencc::Config().NewFromFile(name)->GetConversionChain()->GetConversions();
+        for (const auto& step : steps) {
+            const auto lexicon = step->GetDict()->GetLexicon();
+            for (std::size_t i = 0; i < lexicon->Length(); ++i) {
+                for (const std::string& value : lexicon->At(i)->Values())
+                    put(QString::fromStdString(lexicon->At(i)->Key()).toUcs4(),
+                        QString::fromStdString(value).toUcs4());
+            }
+        }
+    }
+    void put(const QList<uint>& from, const QList<uint>& to) {
+        for (qsizetype i = 0; from.size() == to.size() && i < from.size(); ++i) {
+            if (from[i] == to[i])
+                continue;
+            beside[from[i]].insert(to[i]);
+            beside[to[i]].insert(from[i]);
+        }
+    }
+    QHash<char32_t, QSet<char32_t>> beside;
 };
 
 bool isDash(char32_t c) {
@@ -105,7 +129,7 @@ private:
         if (hasOtherWidth)
             text = text.normalized(QString::NormalizationForm_KC);
         if (QChar::script(c) == QChar::Script_Han)
-            return simplified(text).toUcs4();
+            return oneOf(text);
         QList<uint> letters;
         for (const uint part : text.normalized(QString::NormalizationForm_D).toUcs4()) {
             if (part < 0x300 || part >= 0x370)
@@ -114,17 +138,14 @@ private:
         // What falls into more than one character is none with an accent.
         return letters.size() == 1 ? letters : text.toUcs4();
     }
-    QString simplified(QString text) const {
-        text = text.normalized(QString::NormalizationForm_KC);
-        for (const Dictionary* dictionary : {&taiwan, &hongKong, &japan, &mainland})
-            text = dictionary->of(text);
-        return text;
+    QList<uint> oneOf(const QString& text) const {
+        QList<uint> characters = text.normalized(QString::NormalizationForm_KC).toUcs4();
+        for (uint& c : characters)
+            c = neighbours.leastOf(c);
+        return characters;
     }
 
-    Dictionary taiwan{"tw2t.json"};
-    Dictionary hongKong{"hk2t.json"};
-    Dictionary japan{"jp2t.json"};
-    Dictionary mainland{"t2s.json"};
+    Neighbours neighbours;
     QHash<char32_t, QList<uint>> cache;
 };
 
@@ -159,8 +180,10 @@ bool isPartOfRun(char32_t c) {
 qsizetype endOfWord(const QList<uint>& text, qsizetype at) {
     if (!isPartOfRun(text[at]))
         return at + 1;
-    while (at < text.size() && isPartOfRun(text[at]))
-        at = isDigit(text[at]) ? endOfNumber(text, at) : at + 1;
+    if (isDigit(text[at]))
+        return endOfNumber(text, at);
+    while (at < text.size() && isPartOfRun(text[at]) && !isDigit(text[at]))
+        ++at;
     return at;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/words/search_words.h"
 
+#include "backend/words/simplified_chinese.h"
 #include "fuzz/support/slow_words.h"
 #include "tests/support/qt_printers.h"
 
@@ -36,6 +37,8 @@ TEST(SearchWords, SplitAsTheyAreSearchedFor) {
         {u"2330,2317 700, 941 1,23 1,2345 12,34,567 ,700 .5"_s,
          u"2330 , 2317 700 , 941 1 , 23 1 , 2345 12 , 34,567 , 700 . 5"_s},
         {u"營收100，200人 １１，７００"_s, u"营 收 100 , 200 人 11,700"_s},
+        {u"iPhone12 S&P500 S&P 500 gb200a7 v1.2.3 x2.5% 12億 A1"_s,
+         u"iphone 12 s & p 500 s & p 500 gb 200 a 7 v 1.2.3 x 2.5 % 12 亿 a 1"_s},
         {u"臺積電2330公告⼦公司"_s, u"台 积 电 2330 公 告 子 公 司"_s},
         {u"ガンダム 삼성전자는 カ"_s, u"ガ ン ダ ム 삼 성 전 자 는 カ"_s},
         {u"one\ntwo\r\nthree"_s, u"one / two / / three"_s},
@@ -45,6 +48,49 @@ TEST(SearchWords, SplitAsTheyAreSearchedFor) {
     };
     for (const auto& [text, words] : cases)
         EXPECT_EQ(wordsOf(text), words);
+}
+
+TEST(SearchWords, OfBothScriptsAreOne) {
+    const std::vector<QStringList> cases{
+        {u"計畫"_s, u"計劃"_s, u"计划"_s},
+        {u"瞭解"_s, u"了解"_s},
+        {u"反覆"_s, u"反复"_s},
+        {u"著"_s, u"着"_s},
+        {u"衛"_s, u"衞"_s},
+        {u"裡"_s, u"裏"_s},
+        {u"憑藉"_s, u"凭借"_s},
+        {u"駃"_s, u"𫘝"_s},
+    };
+    for (const QStringList& forms : cases) {
+        for (const QString& form : forms)
+            EXPECT_EQ(wordsOf(form), wordsOf(forms.front()));
+    }
+    EXPECT_NE(wordsOf(u"發現"_s), wordsOf(u"頭現"_s));
+}
+
+// What is shown in Simplified Chinese is found as it is shown.
+void expectFoundAsShown(const QString& text, SimplifiedChinese& chinese) {
+    const QString shown = chinese.convert(text);
+    EXPECT_EQ(wordsOf(shown), wordsOf(text)) << shown.left(200).toStdString();
+}
+
+TEST(SearchWords, OfRealNewsAreTheSameInBothScripts) {
+    const QString root = qEnvironmentVariable("WIREPANE_TEST_NEWS");
+    if (root.isEmpty() || !QFileInfo(root).isDir())
+        GTEST_SKIP() << "no real news: WIREPANE_TEST_NEWS names no folder";
+    SimplifiedChinese chinese;
+    QDirIterator all(root, QDir::Files, QDirIterator::Subdirectories);
+    int lines = 0;
+    while (all.hasNext()) {
+        QFile file(all.next());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        while (!file.atEnd()) {
+            expectFoundAsShown(QString::fromUtf8(file.readLine()), chinese);
+            ++lines;
+        }
+    }
+    RecordProperty("lines", lines);
+    EXPECT_GT(lines, 0);
 }
 
 void expectSameWords(const QByteArray& utf8) {
