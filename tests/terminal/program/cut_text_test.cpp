@@ -127,6 +127,8 @@ protected:
 
     void look(QWidget& window) override {
         QCoreApplication::processEvents();
+        // A timer may just have set a text: as ever, windows are laid out before they are painted.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         ++windows;
         if (window.isWindow() && (window.width() > screen.width() || window.height() > screen.height()))
             complain(window, u"too large"_s, u"%1 x %2"_s.arg(window.width()).arg(window.height()));
