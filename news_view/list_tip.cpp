@@ -26,7 +26,7 @@ void ListTip::showOver(QWidget* grid, const QString& text, int timeMs) {
     const Look now = look();
     window->vSetFont(now.font);
     window->vSetInfo(nullptr, text, now.text, now.background, timeMs);
-    window->vShow(grid, 0, 0, false);
+    window->vShow(grid, now.top, 0, false);
 }
 
 void ListTip::stop() {

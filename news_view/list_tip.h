@@ -20,6 +20,7 @@ public:
         QFont font;
         QColor text;
         QColor background;
+        int top = 0;  // of the tip, below that of the grid
     };
     // `look` is asked each time that a tip is shown. Both must outlive the tip.
     ListTip(QWidget& view, std::function<Look()> look);

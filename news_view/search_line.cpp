@@ -71,7 +71,8 @@ void SearchLine::follow() {
     const ListIndex list = context.shownList();
     const SearchDesk::Course course = searches.courseOf(list);
     if (!course.isSent) {
-        line->tell({langText(parts.backEnd, keys::emptySearch), {}, {}, {}});
+        const bool isTyped = list == ListIndex::Search;
+        line->tell({isTyped ? langText(parts.backEnd, keys::emptySearch) : QString(), {}, {}, {}});
         return;
     }
     line->setKeyboardBefore(parts.controls.find<QWidget>(

@@ -242,7 +242,9 @@ void Searches::takeAnswer(const CSearch& condition, unsigned char service) {
     if (!othersPending)
         parts.tip.stop();
     showFound(target, true);
-    if (list.headlineTable().empty() && !othersPending)
+    // Where empty lists say why, this one does.
+    const bool isSaid = parts.settings.options[ViewOption::EmptyStates];
+    if (list.headlineTable().empty() && !othersPending && !isSaid)
         parts.tip.showOver(list.grid(), langText(parts.backEnd, keys::newsNotFound));
 }
 

@@ -24,6 +24,7 @@
 #include "story/news_story_view.h"
 #include "story/trv_news_story.h"
 
+#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QPlainTextEdit>
 
@@ -79,8 +80,12 @@ TRVNewsCtrlView::Parts::~Parts() {
 
 // --- Modes, places and what is created ---
 
+// Over headings of a height of their own no tip lies.
 ListTip::Look TRVNewsCtrlView::Parts::tipLook() const {
-    return {view.GetViewFont(), view.colText, view.colBackground};
+    const bool hasHeadings = settings.options.value(ViewOption::HeadingHeight) > 0;
+    const CSuperSheetWnd* grid = hasHeadings ? lists[modes.shown()].grid() : nullptr;
+    return {view.GetViewFont(), view.colText, view.colBackground,
+            grid != nullptr ? grid->horizontalHeader()->height() : 0};
 }
 
 Modes::Calls TRVNewsCtrlView::Parts::modeCalls() {

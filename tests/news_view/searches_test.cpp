@@ -116,6 +116,12 @@ TEST_F(SearchesTest, NothingFoundIsToldWithTheLastAnswer) {
     EXPECT_EQ(tip.text(), waiting);
     searches.takeAnswer(plain, 2);
     EXPECT_EQ(tip.text(), QString(keys::newsNotFound));
+    tip.stop();
+    MemoryCfgIO stored;
+    ViewOptions::writeMissing(stored, {});
+    view.settings.options = ViewOptions::read(stored, {});
+    searches.takeAnswer(plain, 2);
+    EXPECT_FALSE(tip.isUp()) << "the empty list says so";
 }
 
 TEST_F(SearchesTest, AnswersGoToTheWarningTermsWhereThoseAreSwitchedOn) {
