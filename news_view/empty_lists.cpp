@@ -81,6 +81,10 @@ void EmptyLists::followList() {
         return;
     }
     note->tell(emptyTextOf(known(list), parts.backEnd));
+    // What stands in the pane was of rows that are gone.
+    const QPlainTextEdit* const story = calls.storyText();
+    if (story != nullptr && !story->document()->isEmpty())
+        calls.clearStory();
 }
 
 // Answers may still fill the list.

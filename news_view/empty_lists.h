@@ -38,6 +38,7 @@ public:
         std::function<void()> beginSearch;           // the keyboard goes to the search box
         std::function<void(ListIndex)> compose;      // what the list is filled by
         std::function<QPlainTextEdit*()> storyText;  // of the story pane; null: there is none
+        std::function<void()> clearStory;            // of that pane
     };
     EmptyLists(ViewContext& context, const CommonParts& parts, const SearchDesk& searches, Calls calls);
 

@@ -372,7 +372,8 @@ EmptyLists::Calls TRVNewsCtrlView::Parts::emptyListCalls() {
                 else
                     standingSearches.manageWarningTerms();
             },
-            [this] { return qobject_cast<QPlainTextEdit*>(stage.paneText()); }};
+            [this] { return qobject_cast<QPlainTextEdit*>(stage.paneText()); },
+            [this] { story.clear(); }};
 }
 
 QString TRVNewsCtrlView::Parts::shownSubject() {

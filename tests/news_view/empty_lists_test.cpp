@@ -78,6 +78,9 @@ TEST_F(EmptyListsTest, AStoryPaneSaysWhatItIsForUntilAStoryIsThere) {
     press(*storyNote());
     EXPECT_EQ(storyNote(), nullptr);
     EXPECT_EQ(state(u"storyRow"_s), 0);
+    view->bChangeDate(QDate(2026, 3, 1));
+    EXPECT_NE(storyNote(), nullptr) << "the story of another day";
+    EXPECT_EQ(state(u"storyRow"_s), -1);
 }
 
 TEST_F(EmptyListsTest, AViewWhoseSettingsSayNothingHasNone) {
