@@ -152,7 +152,8 @@ void printTrial(const TrialReport& report) {
     if (!report.links.empty())
         printNote(u"This is a page; it names %1 feeds of its own."_s.arg(report.links.size()));
     else if (!report.fault)
-        printNote(u"%1 read, %2 rejected"_s.arg(report.items).arg(report.rejected));
+        printNote(
+            u"%1 read, %2 rejected, %3 too old"_s.arg(report.items).arg(report.rejected).arg(report.left));
     if (report.reason)
         printNote(sentence(*report.reason));
 }
@@ -276,6 +277,7 @@ int runSource() {
         arguments.fail(u"source takes an action with its arguments, not \"%1\"."_s.arg(rest.join(u' ')));
     if (arguments.parser.isSet(u"sign-in"_s) != arguments.parser.isSet(u"secret-file"_s))
         arguments.fail(u"--sign-in and --secret-file go together."_s);
+    arguments.applyNow();
     if (const auto status = arguments.fault())
         return *status;
     if (const auto made = openOrMakeStore(arguments.storeFile(), indexingLines()); !made)

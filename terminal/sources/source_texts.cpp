@@ -76,7 +76,8 @@ ColourRole lampOf(SourceState::Kind kind) {
 }
 
 // What it says of itself: paused, a fault of the last try, or how a terminal stands to it.
-void tellState(SourceRow& row, const ListedSource& listed, const std::optional<SourceState>& live) {
+void tellState(SourceRow& row, const ListedSource& listed, const std::optional<SourceState>& live,
+               std::int64_t now) {
     const SourceStanding& standing = listed.standing;
     if (listed.source.isPaused) {
         row.state = terminalText(TextId::SourcePaused);
@@ -89,6 +90,10 @@ void tellState(SourceRow& row, const ListedSource& listed, const std::optional<S
     } else if (live) {
         row.state = stateText(*live);
         row.lamp = lampOf(live->kind);
+    } else if (standing.nextTry + minute >= now) {
+        // Of a terminal elsewhere; one that reads is never late by much.
+        row.state = stateText({SourceState::Live});
+        row.lamp = lampOf(SourceState::Live);
     } else {
         row.state = terminalText(standing.lastTry == 0 ? TextId::SourceNotAsked : TextId::SourceNotRead);
     }
@@ -153,7 +158,7 @@ SourceRow rowOf(const ListedSource& listed, const std::optional<SourceState>& li
                : isStream(source.kind)      ? LineIcon::Pipe
                                             : LineIcon::Feed;
     row.isOn = !source.isPaused;
-    tellState(row, listed, live);
+    tellState(row, listed, live, now);
     return row;
 }
 

@@ -64,6 +64,10 @@ TEST_F(SourceTexts, ARowSaysHowItsSourceStands) {
     fresh.source.kind = NetworkKind::WebSocket;
     fresh.standing = {};
     EXPECT_EQ(shown(fresh), u"post.example|post.example · WebSocket · stream|Not asked yet|–|stream|0|–"_s);
+    ListedSource elsewhere = listed();
+    EXPECT_EQ(rowOf(elsewhere, {}, now).state, u"Live"_s) << "another program's terminal reads it";
+    elsewhere.standing.nextTry = now - 61;
+    EXPECT_EQ(rowOf(elsewhere, {}, now).state, u"No terminal reads it at the moment"_s);
     ListedSource paused = listed();
     paused.source.isPaused = true;
     EXPECT_EQ(shown(paused, live),
