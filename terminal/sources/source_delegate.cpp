@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/sources/source_delegate.h"
 
+#include "host/controls/row_look.h"
 #include "terminal/sources/source_model.h"
 
 #include <QApplication>
@@ -34,13 +35,14 @@ QColor colourOf(ColourRole role, const QStyleOptionViewItem& option, QPalette::C
 }
 
 void drawLine(QPainter& painter, const QRect& place, const QString& text, Qt::Alignment alignment) {
-    painter.drawText(place, int(alignment | Qt::TextSingleLine),
+    // The face of another script may need more than the line has.
+    painter.drawText(place, int(alignment | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip),
                      painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
 }
 
 // In at most two lines; what does not fit ends in an ellipsis.
 void drawWrapped(QPainter& painter, const QRect& place, const QString& text) {
-    const QFontMetrics metrics = painter.fontMetrics();
+    const int height = textHeight(painter.font());
     QTextLayout layout(text, painter.font());
     layout.beginLayout();
     QTextLine first = layout.createLine();
@@ -48,12 +50,12 @@ void drawWrapped(QPainter& painter, const QRect& place, const QString& text) {
     layout.endLayout();
     const qsizetype broken = first.textStart() + first.textLength();
     if (broken >= text.size()) {
-        drawLine(painter, place, text, Qt::AlignVCenter | Qt::AlignLeft);
+        drawLine(painter, place, text, Qt::AlignLeft);
         return;
     }
-    QRect line(place.left(), place.center().y() - metrics.height() + 1, place.width(), metrics.height());
+    QRect line(place.left(), place.center().y() - height + 1, place.width(), height);
     drawLine(painter, line, text.left(broken).trimmed(), Qt::AlignLeft);
-    line.translate(0, metrics.height());
+    line.translate(0, height);
     drawLine(painter, line, text.mid(broken), Qt::AlignLeft);
 }
 
@@ -88,12 +90,13 @@ void drawTitle(QPainter& painter, const QStyleOptionViewItem& option, const Sour
     const QRect icon(place.left(), place.center().y() - iconSize / 2, iconSize, iconSize);
     drawLineIcon(painter, row.icon, icon, weak);
     const QFont small = smaller(option.font);
-    const int height = option.fontMetrics.height() + QFontMetrics(small).height();
-    QRect line(icon.right() + gap, place.center().y() - height / 2, place.right() - icon.right() - gap,
-               option.fontMetrics.height());
+    const int height = textHeight(option.font);
+    const int below = textHeight(small);
+    QRect line(icon.right() + gap, place.center().y() - (height + below) / 2,
+               place.right() - icon.right() - gap, height);
     painter.setPen(row.isOn ? option.palette.color(QPalette::Active, QPalette::Text) : weak);
     drawLine(painter, line, row.title, Qt::AlignLeft);
-    line.moveTop(line.bottom() + 1);
+    line = QRect(line.left(), line.bottom() + 1, line.width(), below);
     painter.setFont(small);
     painter.setPen(weak);
     drawLine(painter, line, row.detail, Qt::AlignLeft);
@@ -114,7 +117,7 @@ void drawState(QPainter& painter, const QStyleOptionViewItem& option, const Sour
 }  // namespace
 
 QSize SourceDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    const int lines = option.fontMetrics.height() + QFontMetrics(smaller(option.font)).height();
+    const int lines = textHeight(option.font) + textHeight(smaller(option.font));
     return {0, std::max(twoLines, lines + aroundLines)};
 }
 
