@@ -18,6 +18,7 @@ class BKQuoteInterface;
 
 namespace wirepane {
 class CellState;
+class HitFinder;
 class HeadlineTable;
 class ListOwner;
 class ReadingPlace;
@@ -114,6 +115,8 @@ public:
     void replaceHeadline(int row, const CHeadline& headline);
     // The row of a headline that is not one of this list's any more, or of none. Result: where it stood.
     HeadlinePlace takeOut(int row);
+    // What is marked in titles from here on; null: nothing.
+    void markHits(std::shared_ptr<const HitFinder> finder);
     // What became of this news since it was written may have changed.
     void showStateAgain(const HeadlineKey& key);
     // Takes a row out; one out of range is ignored.
@@ -138,6 +141,7 @@ public:
     QString text(int row, int column) const override;
     QColor textColour(int row, int column) const override;
     SheetChip chip(const QString& cellText, int column) const override;
+    QList<SheetHit> hits(const QString& cellText, int column) const override;
     QString tag(int row, int column) const override;
     QString mark(int row, int column) const override;
     bool isStruck(int row, int column) const override;

@@ -10,6 +10,7 @@
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
 #include "host/contract/news_record.h"
+#include "host/contract/query/search_hits.h"
 #include "host/controls/row_look.h"
 
 #include <QHeaderView>
@@ -83,6 +84,25 @@ SheetChip HeadlineList::chip(const QString& cellText, int column) const {
     const HeadlineColumnKind* shown = columnAt(column);
     const bool isTitle = shown != nullptr && shown->column == HeadlineColumn::Title;
     return isTitle && state->options[ViewOption::TitleChips] ? chipOfTitle(cellText) : SheetChip{};
+}
+
+void HeadlineList::markHits(std::shared_ptr<const HitFinder> finder) {
+    if (state->hits == finder)
+        return;
+    state->hits = std::move(finder);
+    if (sheet != nullptr)
+        sheet->layTextsOutAnew();
+}
+
+QList<SheetHit> HeadlineList::hits(const QString& cellText, int column) const {
+    constexpr std::size_t most = 100;
+    const HeadlineColumnKind* shown = columnAt(column);
+    if (state->hits == nullptr || shown == nullptr || shown->column != HeadlineColumn::Title)
+        return {};
+    QList<SheetHit> marked;
+    for (const SearchHit& hit : state->hits->hitsIn(cellText, HitPlace::Title, most))
+        marked.append({hit.start, hit.length, hit.word});
+    return marked;
 }
 
 bool HeadlineList::holdsFigures(int column) const {

@@ -13,9 +13,11 @@
 #include <QElapsedTimer>
 #include <QHash>
 
+#include <memory>
 #include <optional>
 
 namespace wirepane {
+class HitFinder;
 class NewsRecord;
 
 // What a headline list is made of. For its own files alone.
@@ -30,6 +32,7 @@ struct HeadlineList::State {
     QElapsedTimer clock;  // of the arrivals
     QTimer fading;
     QHash<unsigned char, QString> serviceNames;  // that were asked for
+    std::shared_ptr<const HitFinder> hits;       // what is marked in titles
     NewsRecord* record = nullptr;                // of the back end; null: it has none
 };
 

@@ -66,10 +66,12 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
                    [this] { return listOf(shownList()).headlineTable().countsOfServices(); }}),
       liveNews(*this, common, liveCalls()),
       emptyLists(*this, common, searches.desk(), emptyListCalls()),
-      searchLine(*this, common, searches.desk(), [this](const CSearch& condition) {
-          searches.replace(condition);
-          standingSearches.loadHints();
-      }) {
+      searchLine(*this, common, searches.desk(),
+                 [this](const CSearch& condition) {
+                     searches.replace(condition);
+                     standingSearches.loadHints();
+                 }),
+      hitMarks(backEnd) {
     lists.setOnRead([this] { placeNotices(); });
 }
 
@@ -196,6 +198,8 @@ void TRVNewsCtrlView::Parts::rowsReplaced(ListIndex list) {
         story.forget();
     if (!story.isReadInPlace())
         newestRow.forget(list);
+    if (settings.options[ViewOption::MarkHits])
+        lists[list].markHits(hitMarks.finderOf(list, searches.desk().foundUnder(list)));
 }
 
 // --- Keys, mouse, menu ---

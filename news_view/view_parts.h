@@ -15,6 +15,7 @@
 #include "news_view/control_set.h"
 #include "news_view/days.h"
 #include "news_view/empty_lists.h"
+#include "news_view/hit_marks.h"
 #include "news_view/list_input.h"
 #include "news_view/list_tip.h"
 #include "news_view/live_news.h"
@@ -145,6 +146,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::LiveNews liveNews;
     wirepane::EmptyLists emptyLists;
     wirepane::SearchLine searchLine;
+    wirepane::HitMarks hitMarks;
 
 private:
     // What each owner is given of the view and of the others.

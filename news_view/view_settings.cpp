@@ -93,7 +93,7 @@ void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
 
 StorySetting storySettingOf(const ViewSettings& settings) {
     return {settings.options[ViewOption::TypesetStory], settings.storySize,
-            settings.options[ViewOption::RecordMarks]};
+            settings.options[ViewOption::RecordMarks], settings.options[ViewOption::MarkHits]};
 }
 
 }  // namespace wirepane

@@ -60,6 +60,7 @@ void NewsStoryView::setStorySetting(const StorySetting& setting) {
     storySetting = setting;
     reader.tellHeads(setting.typeset);
     reader.tellChanges(setting.tellsChanges);
+    reader.tellHits(setting.marksHits);
     applyFont();
     applyTypography();
     vSetComponentPos();
@@ -139,8 +140,7 @@ void NewsStoryView::OnClearStory() {
 void NewsStoryView::vSetStorySearchMarke() {
     if (storyEdit == nullptr)
         return;
-    if (const auto match = reader.mark(storyEdit->shownText()))
-        storyEdit->setSelection(match->start, match->end);
+    markFound(*storyEdit, reader);
 }
 
 void NewsStoryView::vSetTextColor() {

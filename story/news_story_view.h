@@ -76,7 +76,8 @@ public:
     void turnChanges() { draw(reader.turnChanges()); }
     bool hasChanges() const { return reader.hasChanges(); }
     // Selects the last match of the search's keywords and scrolls to it; only where a keyword search found
-    // the headline.
+    // the headline. Or, as the
+    // setting says, marks all of them.
     void vSetStorySearchMarke();
     void vSetTextColor();
     void vSetFont(const QFont& font);

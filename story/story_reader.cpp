@@ -7,6 +7,7 @@
 #include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/query/query_marks.h"
+#include "host/contract/query/search_hits.h"
 #include "host/contract/symbol_name.h"
 #include "story/story_text.h"
 
@@ -19,6 +20,8 @@ namespace wirepane {
 
 void StoryReader::pointAt(std::optional<ListIndex> list, int newPosition, const CSearch& newCondition) {
     pointedList = list;
+    if (!(condition == newCondition))
+        hitFinder.reset();
     condition = newCondition;
     SetHeadLinePos(newPosition);
 }
@@ -112,6 +115,24 @@ StoryTexts StoryReader::RespStory(const CHeadlineTable& answered) {
 
 std::optional<TextRange> StoryReader::mark(const QString& shownText) const {
     return condition.keywordSearch ? lastKeywordMatch(shownText, textsToMark(condition)) : std::nullopt;
+}
+
+std::optional<std::vector<SearchHit>> StoryReader::hits(const QString& shownText, std::size_t most) {
+    if (!hitsAreTold || !condition.keywordSearch)
+        return std::nullopt;
+    if (hitFinder == nullptr)
+        hitFinder = preparedHits(backEnd, condition);
+    if (hitFinder == nullptr)
+        return std::nullopt;
+    // The date above the story and the remark below it are not of it.
+    const qsizetype end = shownText.lastIndexOf(QChar(QChar::ParagraphSeparator));
+    if (state != StoryState::There || end <= dateLineCharacters)
+        return std::vector<SearchHit>();
+    std::vector<SearchHit> found = hitFinder->hitsIn(
+        shownText.sliced(dateLineCharacters, end - dateLineCharacters), HitPlace::Story, most);
+    for (SearchHit& hit : found)
+        hit.start += dateLineCharacters;
+    return found;
 }
 
 std::optional<CHeadlineTable> StoryReader::entryAtPosition() const {

@@ -11,6 +11,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -18,6 +19,8 @@ class BKQuoteInterface;
 
 namespace wirepane {
 class EntrySource;
+class HitFinder;
+struct SearchHit;
 enum class BodyEnd : int;
 
 // What stands in place of a story: a placeholder, that there is none, or the story.
@@ -54,6 +57,11 @@ public:
     void tellHeads(bool told) { tellsHeads = told; }
     // Heads tell what became of the news from here on.
     void tellChanges(bool told) { tellsChanges = told; }
+    // What the story was found by is told from here on, wherever it stands.
+    void tellHits(bool told) { hitsAreTold = told; }
+    // Where it stands in the shown story, so many places at most; nothing where that is not told, by the
+    // owner's choice or as the back end cannot.
+    std::optional<std::vector<SearchHit>> hits(const QString& shownText, std::size_t most);
     // Shows what has changed in the story on show since the version before, or the story as it is again.
     StoryTexts turnChanges();
     bool hasChanges() const { return tellsChanges && shown && history.hasEarlier(keyOf(*shown)); }
@@ -111,6 +119,8 @@ private:
     EntrySource* source = nullptr;
     CSearch condition;
     StoryHistory history;
+    std::shared_ptr<const HitFinder> hitFinder;  // of the condition; null: none has been made
+    bool hitsAreTold = false;
     bool tellsHeads = false;
     bool tellsChanges = false;
     bool showsChanges = false;  // of the headline on show

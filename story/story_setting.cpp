@@ -3,6 +3,8 @@
 #include "story/story_setting.h"
 
 #include "host/contract/colour_roles.h"
+#include "host/contract/query/search_hits.h"
+#include "host/controls/hit_grounds.h"
 #include "story/story_reader.h"
 #include "story/story_size.h"
 #include "story/story_text.h"
@@ -128,6 +130,24 @@ void putStory(MyRichEdit& edit, const StoryTexts& texts, StoryState state) {
     for (const ChangeMark& mark : texts.changes)
         marks.push_back({mark.from, mark.from + mark.length, formatOf(mark, edit.palette())});
     edit.setMarks(std::move(marks));
+}
+
+void markFound(MyRichEdit& edit, StoryReader& reader) {
+    const auto hits = reader.hits(edit.shownText(), MyRichEdit::mostMarks);
+    if (const auto match = hits ? std::nullopt : reader.mark(edit.shownText()))
+        edit.setSelection(match->start, match->end);
+    if (!hits || hits->empty())
+        return;
+    const HitGrounds grounds = hitGrounds();
+    std::vector<MyRichEdit::Mark> marks;
+    for (const SearchHit& hit : *hits) {
+        QTextCharFormat format;
+        format.setBackground(groundOf(grounds, hit.word));
+        marks.push_back({static_cast<int>(hit.start), static_cast<int>(hit.start + hit.length), format});
+    }
+    edit.addMarks(std::move(marks));
+    const auto first = static_cast<int>(hits->front().start);
+    edit.setSelection(first, first);
 }
 
 }  // namespace wirepane

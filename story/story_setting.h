@@ -11,6 +11,7 @@
 #include <optional>
 
 namespace wirepane {
+class StoryReader;
 struct StorySetting;
 struct StoryTexts;
 enum class StoryState;
@@ -30,5 +31,7 @@ Typography storyTypography(bool withLargeHeadline, const QPalette& palette);
 
 // Puts texts into a control: the story, and the lead where it is typeset.
 void putStory(MyRichEdit& edit, const StoryTexts& texts, StoryState state);
+// What the story was found by: marked, with the first of it in sight, or its last match selected.
+void markFound(MyRichEdit& edit, StoryReader& reader);
 
 }  // namespace wirepane

@@ -16,6 +16,7 @@ struct StorySetting {
     bool typeset = false;
     int size = plainStorySize;
     bool tellsChanges = false;  // with heads: what was corrected or withdrawn
+    bool marksHits = false;     // what was searched for; else it is selected
 
     bool operator==(const StorySetting&) const = default;
 };

@@ -163,6 +163,7 @@ void TRVNewsStory::setStorySetting(const StorySetting& setting) {
     storySetting = setting;
     reader.tellHeads(setting.typeset || tools != nullptr);
     reader.tellChanges(setting.tellsChanges);
+    reader.tellHits(setting.marksHits);
     storyEdit->setTypography(setting.typeset ? std::optional(storyTypography(true, palette()))
                                              : std::nullopt);
     vSetFont(dialogFont);
@@ -235,8 +236,7 @@ void TRVNewsStory::draw(const StoryTexts& texts) {
 }
 
 void TRVNewsStory::vSetStorySearchMarke() {
-    if (const auto match = reader.mark(storyEdit->shownText()))
-        storyEdit->setSelection(match->start, match->end);
+    markFound(*storyEdit, reader);
 }
 
 void TRVNewsStory::vStoryUpdateNotify(const CHeadlineTable*) {

@@ -64,7 +64,8 @@ public:
     // What has changed in the story since the version before, or the story again; where heads tell of it.
     void turnChanges() { draw(reader.turnChanges()); }
     bool hasChanges() const { return reader.hasChanges(); }
-    // Selects the last match of the search's keywords; only where a keyword search found the headline.
+    // Selects the last match of the search's keywords; only where a keyword search found the headline. Or, as
+    // the setting says, marks all of them.
     void vSetStorySearchMarke();
 
     // To the next, the previous headline of the list, round and round; the owner's selection follows.

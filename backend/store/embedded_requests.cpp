@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What views ask of the back end to be answered later, and what scripts hold back of it.
+#include "backend/search/hit_words.h"
 #include "backend/search/title_query.h"
 #include "backend/store/embedded_back_end.h"
 
@@ -118,6 +119,11 @@ std::shared_ptr<const HeadlineQuery> EmbeddedBackEnd::prepareQuery(const QString
     return TitleQuery::make(query, planner, [this](const CHeadline& headline) {
         return reader.relatedSymbols(keyOf(headline)).value_or(std::vector<CSymbolInfo>());
     });
+}
+
+std::shared_ptr<const HitFinder> EmbeddedBackEnd::prepareHits(const CSearch& condition) {
+    QueryPlanner planner(*connections.reading);
+    return HitWords::make(condition, planner);
 }
 
 void EmbeddedBackEnd::hold(Held what, bool on) {

@@ -51,6 +51,7 @@ enum class ViewOption {
     SearchLine,     // a line over what was found: the condition in parts that can be taken out, counts
     SearchHistory,  // the search box, wider, drops down what was searched for
     OtherYears,     // rows of another year than the present one show their day with its year
+    MarkHits,       // what was searched for is marked in titles and stories, a tint for each word
     Count
 };
 
@@ -96,6 +97,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::SearchLine, QLatin1StringView("SearchLine")},
     {ViewOption::SearchHistory, QLatin1StringView("SearchHistory")},
     {ViewOption::OtherYears, QLatin1StringView("OtherYears")},
+    {ViewOption::MarkHits, QLatin1StringView("MarkHits")},
 }};
 
 constexpr const ViewOptionRow& rowOf(ViewOption option) {

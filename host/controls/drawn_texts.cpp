@@ -42,6 +42,28 @@ bool spaceFigures(QGlyphRun& run, const QString& text, const QFontMetricsF& metr
     return true;
 }
 
+// Those behind the chip, in what is drawn beside it.
+QList<SheetHit> hitsFrom(qsizetype first, QList<SheetHit> hits) {
+    hits.removeIf([first](const SheetHit& hit) { return hit.start < first; });
+    for (SheetHit& hit : hits)
+        hit.start -= first;
+    return hits;
+}
+
+// In a line that is cut, what is left of a hit ends with it.
+QList<DrawnText::Ground> groundsOf(const QList<SheetHit>& hits, const QTextLine& line) {
+    QList<DrawnText::Ground> grounds;
+    for (const SheetHit& hit : hits) {
+        const auto end = static_cast<int>(std::min<qsizetype>(hit.start + hit.length, line.textLength()));
+        if (hit.start >= end)
+            break;
+        const qreal left = line.cursorToX(static_cast<int>(hit.start));
+        const qreal right = line.cursorToX(end);
+        grounds.append({std::min(left, right), std::max(left, right), hit.tint});
+    }
+    return grounds;
+}
+
 }  // namespace
 
 void DrawnTexts::setFont(const QFont& font) {
@@ -86,14 +108,18 @@ DrawnText DrawnTexts::layOut(const QString& text, int room, const SheetCells* ce
     constexpr qreal blankOfBracket = 0.45;
     if (opensWithFullWidthBracket(shown))
         drawn.overhang = blankOfBracket * QFontInfo(ownFont).pixelSize();
-    const bool ofFigures = cells != nullptr && figures.areUneven() && cells->holdsFigures(column);
-    layOutLine(drawn, shown, ofFigures);
+    Manner manner;
+    if (cells != nullptr) {
+        manner.ofFigures = figures.areUneven() && cells->holdsFigures(column);
+        manner.hits = hitsFrom(drawn.chip.length, cells->hits(text, column));
+    }
+    layOutLine(drawn, shown, manner);
     if (const qreal most = std::max(0, room) + drawn.overhang; drawn.width > most)
-        layOutLine(drawn, QFontMetricsF(ownFont).elidedText(shown, Qt::ElideRight, most), ofFigures);
+        layOutLine(drawn, QFontMetricsF(ownFont).elidedText(shown, Qt::ElideRight, most), manner);
     return drawn;
 }
 
-void DrawnTexts::layOutLine(DrawnText& drawn, const QString& text, bool ofFigures) const {
+void DrawnTexts::layOutLine(DrawnText& drawn, const QString& text, const Manner& manner) const {
     QTextLayout layout(text, ownFont);
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);
@@ -106,7 +132,8 @@ void DrawnTexts::layOutLine(DrawnText& drawn, const QString& text, bool ofFigure
     drawn.ascent = line.ascent();
     drawn.width = line.naturalTextWidth();
     drawn.runs = layout.glyphRuns();
-    if (ofFigures && drawn.runs.size() == 1)
+    drawn.grounds = groundsOf(manner.hits, line);
+    if (manner.ofFigures && drawn.runs.size() == 1)
         spaceFigures(drawn.runs.front(), text, QFontMetricsF(ownFont), figures, drawn.width);
 }
 

@@ -24,6 +24,12 @@ struct DrawnText {
         0;  // how far the first glyph begins right of the line's start: a full-width bracket's blank
     SheetChip chip;
     QString chipLabel;
+    struct Ground {
+        qreal left = 0;
+        qreal right = 0;
+        int tint = 0;
+    };
+    QList<Ground> grounds;  // of what is marked of it
 };
 
 // Lines of text laid out once for each text and room, for as long as they are being drawn: of those that no
@@ -33,8 +39,8 @@ public:
     void setFont(const QFont& font);
     const QFont& font() const { return ownFont; }
     // The line of a text that has `room` pixels, cut with dots where it is wider. `cells` says what of it
-    // is a chip, which takes of that room, and whether its digits have one width. The answer is valid until
-    // the next call.
+    // is a chip, which takes of that room, what is marked, and whether its digits have one width. The answer
+    // is valid until the next call.
     const DrawnText& line(const QString& text, int room, const SheetCells* cells = nullptr, int column = -1);
     // What has been laid out is not needed for now.
     void forget();
@@ -56,7 +62,11 @@ private:
         return qHashMulti(seed, key.text, key.room, key.column);
     }
     DrawnText layOut(const QString& text, int room, const SheetCells* cells, int column) const;
-    void layOutLine(DrawnText& drawn, const QString& text, bool ofFigures) const;
+    struct Manner {
+        bool ofFigures = false;
+        QList<SheetHit> hits;
+    };
+    void layOutLine(DrawnText& drawn, const QString& text, const Manner& manner) const;
 
     QFont ownFont;
     QFont chipFont;

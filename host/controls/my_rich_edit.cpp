@@ -79,6 +79,11 @@ void MyRichEdit::setMarks(std::vector<Mark> marks) {
     drawMarks();
 }
 
+void MyRichEdit::addMarks(std::vector<Mark> marks) {
+    marks.insert(marks.end(), marked.begin(), marked.end());
+    setMarks(std::move(marks));
+}
+
 // Those whose text is there.
 void MyRichEdit::drawMarks() {
     QList<QTextEdit::ExtraSelection> drawn;

@@ -61,6 +61,8 @@ public:
     static constexpr std::size_t mostMarks = 2000;
     // Until another text is shown. Of more than mostMarks the first ones are drawn.
     void setMarks(std::vector<Mark> marks);
+    // Before those that there are: where both stand, theirs is seen.
+    void addMarks(std::vector<Mark> marks);
     // The text exactly as it was set.
     const QString& literalText() const { return shown; }
     // The text as selections count it: each line break is one character (U+2029).

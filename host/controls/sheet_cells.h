@@ -5,6 +5,7 @@
 #include "host/contract/export.h"
 
 #include <QColor>
+#include <QList>
 #include <QString>
 
 namespace wirepane {
@@ -16,6 +17,13 @@ struct SheetChip {
     int labelFrom = 0;
     int labelLength = 0;
     bool urgent = false;  // filled, not outlined
+};
+
+// Characters of a cell's text that stand on a ground of their own.
+struct SheetHit {
+    qsizetype start = 0;
+    qsizetype length = 0;
+    int tint = 0;  // of the grounds that there are, round and round
 };
 
 // Where a sheet takes the texts of its cells from. The sheet asks for rows on screen only, each time it
@@ -44,6 +52,13 @@ public:
 
     // What finished rows have beside that. The head of a cell's text, asked for once for each text.
     virtual SheetChip chip(const QString& cellText, int column) const {
+        Q_UNUSED(cellText);
+        Q_UNUSED(column);
+        return {};
+    }
+    // What of a cell's text is marked, from its beginning on; asked for once for each text, until the sheet
+    // is told to forget them.
+    virtual QList<SheetHit> hits(const QString& cellText, int column) const {
         Q_UNUSED(cellText);
         Q_UNUSED(column);
         return {};

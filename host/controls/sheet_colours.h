@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/contract/export.h"
+#include "host/controls/hit_grounds.h"
 
 #include <QColor>
 #include <QPalette>
@@ -27,6 +28,7 @@ struct WIREPANE_HOST_EXPORT SheetColours {
     QColor line;    // below the headings
     QColor urgent;  // the ground of an urgent chip, and its text
     QColor onUrgent;
+    HitGrounds hits;
 
     QColor rowBackground(bool odd, const QPalette& palette) const;
     QColor markBackground(bool hasFocus, const QPalette& palette) const;

@@ -104,12 +104,26 @@ void SheetRowPainter::paint(QPainter& painter, const SheetCells& cells, const Ce
                            chip);
         x += chip.width() / chip.devicePixelRatio() + DrawnTexts::chipGap;
     }
+    paintGrounds(painter, drawn, x, cell.room);
     setPen(painter, textColour(cells, cell, palette));
     const qreal baseline = baselineIn(cell.room, texts.font());
     DrawnTexts::draw(painter, drawn, x, baseline);
     if (cells.isStruck(cell.row, cell.column)) {
         const qreal middle = baseline - QFontMetricsF(texts.font()).xHeight() / 2;
         painter.drawLine(QPointF(x, middle), QPointF(std::min(x + drawn.width, qreal(right)), middle));
+    }
+}
+
+void SheetRowPainter::paintGrounds(QPainter& painter, const DrawnText& drawn, qreal x,
+                                   const QRect& room) const {
+    if (drawn.grounds.isEmpty())
+        return;
+    const qreal height = std::min<qreal>(room.height() - 2, textHeight(texts.font()));
+    const qreal top = room.top() + (room.height() - height) / 2;
+    for (const DrawnText::Ground& ground : drawn.grounds) {
+        const qreal left = x - drawn.overhang + ground.left;
+        painter.fillRect(QRectF(left - 1, top, ground.right - ground.left + 2, height),
+                         groundOf(colours.hits, ground.tint));
     }
 }
 

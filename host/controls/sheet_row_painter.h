@@ -45,6 +45,7 @@ private:
     const QPixmap& chipPicture(const QPainter& painter, const QString& label, bool urgent,
                                const QPalette& palette);
     void setPen(QPainter& painter, const QColor& colour);
+    void paintGrounds(QPainter& painter, const DrawnText& drawn, qreal x, const QRect& room) const;
 
     const SheetColours& colours;
     bool hasFont = false;

@@ -252,6 +252,7 @@ void CSuperSheetWnd::setFinishColours(const SheetColours& colours) {
     own.line = colours.line;
     own.urgent = colours.urgent;
     own.onUrgent = colours.onUrgent;
+    own.hits = colours.hits;
     header->line = colours.line;
     delegate->forgetPictures();
     header->viewport()->update();

@@ -271,6 +271,11 @@ void CSuperSheetWnd::hideEvent(QHideEvent* event) {
     delegate->forgetTexts();
 }
 
+void CSuperSheetWnd::layTextsOutAnew() {
+    delegate->forgetTexts();
+    viewport()->update();
+}
+
 void CSuperSheetWnd::initStyleOption(QStyleOptionFrame* option) const {
     QTableView::initStyleOption(option);
     QColor faint = palette().color(QPalette::WindowText);

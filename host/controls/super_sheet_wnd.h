@@ -89,6 +89,9 @@ public:
     // Row 0 has the first row colour again. (A row keeps its colour while rows come and go above the others.)
     void resetRowBkColor();
 
+    // What the source says of its texts beside them has changed.
+    void layTextsOutAnew();
+
     // To the first row and the left edge.
     void resetScroll();
     // Scrolls no further than brings the row fully into sight.

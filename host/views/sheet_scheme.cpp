@@ -40,6 +40,7 @@ void applyHostScheme(CSuperSheetWnd& sheet, const QFont& font) {
     finish.line = roleColour(ColourRole::Line);
     finish.urgent = roleColour(ColourRole::Flash);
     finish.onUrgent = roleColour(ColourRole::OnFlash);
+    finish.hits = hitGrounds();
     sheet.setFinishColours(finish);
     sheet.vSetFont(font);
 }

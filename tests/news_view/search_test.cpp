@@ -4,6 +4,8 @@
 #include "host/contract/query/query_marks.h"
 #include "host/controls/chip_line.h"
 #include "host/controls/my_rich_edit.h"
+#include "host/controls/sheet_builder.h"
+#include "host/controls/sheet_cells.h"
 #include "host/views/news_control_ids.h"
 #include "search/adv_search_dlg.h"
 #include "search/search_ids.h"
@@ -300,6 +302,44 @@ TEST_F(SearchesOfTheView, TheStoryOfAResultHasItsKeywordsMarked) {
     query.language = SearchLanguage::Query;
     EXPECT_EQ(textsToMark(query), (std::vector<QString>{u"oil"_s, u"all"_s, u"gol"_s}))
         << "what is excluded is none";
+}
+
+TEST_F(SearchesOfTheView, WhatWasSearchedForIsMarkedAsLongAsItsResultsAreShown) {
+    const CHeadlineTable found = entryOf(1, 9, 0, 1);
+    backEnd.addStory({found.time, u"All that glitters is gold."_s, found});
+    backEnd.searchTables[1] = {found};
+    openSearch(
+        {{u"NewsShowType"_s, 1}, {u"MarkHits"_s, true}, {u"FinishedRows"_s, true}, {u"SearchLine"_s, true}});
+    const auto marks = [&](int list) {
+        const auto* rows = static_cast<const CSheetBuilder*>(view->sheetOf(list)->model());
+        QStringList texts;
+        const QString title = u"Gold rises"_s;
+        for (int column = 0; column < 3; ++column) {
+            for (const SheetHit& hit : rows->cells()->hits(title, column))
+                texts += title.mid(hit.start, hit.length);
+        }
+        return texts;
+    };
+    EXPECT_EQ(marks(3), QStringList());
+    quickSearch(u"GOLD"_s);
+    view->RespSearchHeadLineTable(condition({u"GOLD"_s}), 1);
+    EXPECT_EQ(marks(3), QStringList{u"Gold"_s});
+    EXPECT_FALSE(story().textCursor().hasSelection());
+    ASSERT_EQ(story().extraSelections().size(), 1);
+    EXPECT_EQ(story().extraSelections().front().cursor.selectedText(), u"gold"_s);
+    quickSearch(u"rises"_s);
+    view->RespSearchHeadLineTable(condition({u"rises"_s}), 1);
+    EXPECT_EQ(marks(3), QStringList{u"rises"_s});
+    EXPECT_EQ(story().extraSelections().size(), 0);
+    for (const QString& word : {u"gold"_s, u"ALL"_s}) {
+        quickSearch(word);
+        view->RespSearchHeadLineTable(condition({word}), 1);
+    }
+    EXPECT_EQ(story().extraSelections().size(), 1) << "the same story, found by another word";
+    auto* line = view->findChild<ChipLine*>();
+    ASSERT_NE(line, nullptr);
+    emit line->taken(0);
+    EXPECT_EQ(marks(3), QStringList()) << "nothing is searched for any more";
 }
 
 TEST_F(SearchesOfTheView, TheBoxDropsDownWhatWasSearchedForNewestFirst) {

@@ -8,6 +8,34 @@
 
 namespace wirepane {
 
+namespace {
+
+class WrittenWords : public HitFinder {
+public:
+    explicit WrittenWords(std::vector<QString> written) : words(std::move(written)) {}
+
+    std::vector<SearchHit> hitsIn(const QString& text, HitPlace place, std::size_t most) const override {
+        Q_UNUSED(place);
+        std::vector<SearchHit> hits;
+        for (qsizetype at = 0; at < text.size() && hits.size() < most; ++at) {
+            for (std::size_t word = 0; word < words.size(); ++word) {
+                if (QStringView(text).sliced(at).startsWith(words[word], Qt::CaseInsensitive))
+                    hits.push_back({at, words[word].size(), static_cast<int>(word)});
+            }
+        }
+        return hits;
+    }
+
+private:
+    const std::vector<QString> words;
+};
+
+}  // namespace
+
+std::shared_ptr<const HitFinder> FakeBackEnd::prepareHits(const CSearch& condition) {
+    return std::make_shared<WrittenWords>(condition.keywords);
+}
+
 void FakeBackEnd::add(unsigned char service, std::int64_t time, std::int32_t sequence, const QString& title,
                       std::int32_t category, const QString& symbol, bool atHand) {
     CHeadline headline;

@@ -4,6 +4,7 @@
 
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/news_record.h"
+#include "host/contract/query/search_hits.h"
 #include "host/contract/search_control.h"
 #include "tests/support/qt_printers.h"
 
@@ -18,7 +19,7 @@ namespace wirepane {
 
 // A back end for tests: holds headlines in memory, answers like a real one, and writes down what it was
 // asked.
-class FakeBackEnd : public BKQuoteInterface, public SearchControl, public NewsRecord {
+class FakeBackEnd : public BKQuoteInterface, public SearchControl, public NewsRecord, public SearchHits {
 public:
     FakeBackEnd() {
         setBKInterface(this);
@@ -102,6 +103,8 @@ public:
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
     QString PathGetSysPath() override { return sysPath; }
 
+    // Finds keywords as they are written, in any case.
+    std::shared_ptr<const HitFinder> prepareHits(const CSearch& condition) override;
     NewsState newsState(const HeadlineKey& key) override { return states.value(key.sequence); }
     std::vector<NewsVersion> versionsOf(const HeadlineKey& key) override {
         return versions.value(key.sequence);

@@ -118,6 +118,77 @@ TEST_F(TitleQueryTest, WantsWhatASearchInTitlesFinds) {
     EXPECT_GT(found, 100);
 }
 
+// Marked with the number of the word: "[0:Gold] rises".
+QString marked(const HitFinder& finder, const QString& text, HitPlace place) {
+    QString shown;
+    qsizetype from = 0;
+    for (const SearchHit& hit : finder.hitsIn(text, place, 100)) {
+        shown += text.mid(from, hit.start - from) + u"[%1:"_s.arg(hit.word) +
+                 text.mid(hit.start, hit.length) + u']';
+        from = hit.start + hit.length;
+    }
+    return shown + text.mid(from);
+}
+
+TEST_F(TitleQueryTest, HitsAreMarkedInTheFormInWhichTheyStand) {
+    const struct {
+        QString query;
+        QString text;
+        QString inTitle;
+        QString inStory;
+    } cases[] = {
+        {u"台湾 gold"_s, u"臺灣 ＧＯＬＤ, golden"_s, u"[0:臺灣] [1:ＧＯＬＤ], golden"_s, {}},
+        {u"\"gold rises\" | gold"_s, u"Gold, gold  rises"_s, u"[1:Gold], [0:gold  rises]"_s, {}},
+        {u"title:gold story:(tin | lead)"_s, u"gold tin"_s, u"[0:gold] tin"_s, u"gold [1:tin]"_s},
+        {u"gold -tin -(gold lead)"_s, u"gold tin lead"_s, u"[0:gold] tin lead"_s, {}},
+        {u"gol* \"tin mi\"*"_s, u"Golden tin mines"_s, u"[0:Golden] [1:tin mines]"_s, {}},
+        {u"gold NEAR/3 mine"_s, u"mine of gold"_s, u"[1:mine] of [0:gold]"_s, {}},
+        {u"台積電"_s, u"台積\u2029電 \U0001F600台积电"_s, u"台積\u2029電 \U0001F600[0:台积电]"_s, {}},
+        {u"symbol:700 成長"_s, u"腾讯控股成長"_s, u"[0:腾讯控股][1:成長]"_s, {}},
+        {u"café"_s, u"cafe\u0301s cafe\u0301"_s, u"cafe\u0301s [0:cafe\u0301]"_s, {}},
+    };
+    for (const auto& c : cases) {
+        CSearch condition;
+        condition.language = SearchLanguage::Query;
+        condition.keywords = {c.query};
+        const auto finder = backEnd->prepareHits(condition);
+        ASSERT_NE(finder, nullptr) << c.query.toStdString();
+        EXPECT_EQ(marked(*finder, c.text, HitPlace::Title), c.inTitle) << c.query.toStdString();
+        EXPECT_EQ(marked(*finder, c.text, HitPlace::Story), c.inStory.isEmpty() ? c.inTitle : c.inStory);
+        EXPECT_LE(finder->hitsIn(c.text, HitPlace::Title, 1).size(), 1U);
+    }
+    CSearch plain;
+    plain.keywords = {u"-gold"_s, u"成長"_s};
+    EXPECT_EQ(marked(*backEnd->prepareHits(plain), u"a-gold 成长"_s, HitPlace::Title),
+              u"a[0:-gold] [1:成长]"_s);
+    plain.keywords = {u"\u200d"_s};
+    EXPECT_EQ(backEnd->prepareHits(plain), nullptr) << "there is no word in it";
+}
+
+// What is found is marked, and nothing else is.
+TEST_F(TitleQueryTest, MarksWhatASearchFinds) {
+    std::mt19937 random(11);
+    const auto piece = [&] { return pieces.at(qsizetype(random() % std::size_t(pieces.size()))); };
+    for (int i = 0; i < 60; ++i) {
+        QString phrase = random() % 2 == 0 ? piece() : piece() + u' ' + piece();
+        const QString query = u"title:\"%1\""_s.arg(phrase.remove(u'“').remove(u'”'));
+        CSearch condition;
+        condition.language = SearchLanguage::Query;
+        condition.keywords = {query};
+        const auto finder = backEnd->prepareHits(condition);
+        const auto prepared = backEnd->prepareQuery(query);
+        ASSERT_TRUE(finder && prepared) << query.toStdString();
+        for (int title = 0; title < 50; ++title) {
+            CHeadline headline;
+            headline.service = 1;
+            headline.title = piece() + u' ' + piece() + u' ' + piece();
+            EXPECT_EQ(!finder->hitsIn(headline.title, HitPlace::Title, 9).empty(),
+                      prepared->wants(headline, 0))
+                << query.toStdString() << " in " << headline.title.toStdString();
+        }
+    }
+}
+
 TEST_F(TitleQueryTest, IsNoneWithAFault) {
     for (const QString& query : {u"gold | "_s, u"story:gold"_s, u"gol*"_s, u"from:today"_s})
         EXPECT_EQ(backEnd->prepareQuery(query), nullptr) << query.toStdString();

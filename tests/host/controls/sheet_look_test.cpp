@@ -307,6 +307,33 @@ TEST(DrawnTexts, StayWithinTheirRoomAndAreLaidOutOnce) {
     EXPECT_GT(texts.line(QStringLiteral("《開市》"), 2000).overhang, 0);
 }
 
+// A chip of six characters, and marks on the chip, behind it and at the end.
+class MarkedCells : public NumberedCells {
+public:
+    SheetChip chip(const QString&, int) const override { return {6, 0, 5, true}; }
+    QList<SheetHit> hits(const QString& text, int) const override {
+        return {{0, 5, 0}, {6, 4, 1}, {text.size() - 4, 4, 2}};
+    }
+};
+
+TEST(DrawnTexts, GroundsStandUnderWhatIsMarkedAndNotUnderTheChipOrWhatIsCutOff) {
+    DrawnTexts texts;
+    texts.setFont(QGuiApplication::font());
+    const QString text = QStringLiteral("Flash Gold rises as tin falls");
+    const QFontMetricsF metrics(texts.font());
+    const MarkedCells cells;
+    const DrawnText whole = texts.line(text, 2000, &cells, 2);
+    ASSERT_EQ(whole.grounds.size(), 2);
+    EXPECT_EQ(whole.grounds[0].left, 0);
+    EXPECT_NEAR(whole.grounds[0].right, metrics.horizontalAdvance(text.mid(6, 4)), 1);
+    EXPECT_NEAR(whole.grounds[1].right, whole.width, 1);
+    EXPECT_EQ(whole.grounds[1].tint, 2);
+    const DrawnText cut = texts.line(
+        text, static_cast<int>(whole.width) - 4 + texts.chipWidth(QStringLiteral("Flash")), &cells, 2);
+    for (const DrawnText::Ground& ground : cut.grounds)
+        EXPECT_LE(ground.right, cut.width);
+}
+
 TEST_F(SheetLook, AnEmptySheetShowsItsText) {
     showAt({600, 300});
     sheet->vSetBkColor(Qt::white, Qt::white);

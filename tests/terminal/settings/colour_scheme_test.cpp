@@ -2,11 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/settings/colour_scheme.h"
 
+#include "host/contract/sync_info.h"
+#include "host/controls/hit_grounds.h"
 #include "terminal/settings/topic_tones.h"
 #include "tests/support/contrast.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <initializer_list>
+#include <set>
 #include <string>
 
 using namespace Qt::StringLiterals;
@@ -51,6 +55,26 @@ TEST(ColourSchemeTest, WhatIsReadHasContrastWithEveryGroundItStandsOn) {
                 EXPECT_GE(contrast(schemeColour(scheme, front), schemeColour(scheme, ground)), least)
                     << labelOf(scheme, front) << " on " << labelOf(scheme, ground);
         }
+    }
+}
+
+TEST(ColourSchemeTest, TextIsReadOnTheGroundOfEveryHitAndTheseDiffer) {
+    struct Host : CSyncInfo {
+        Host() { setSettingCFG(this); }
+        QColor SYS_crGetOtherColor(const QString& name) override {
+            const auto role = std::find(colourRoleNames.begin(), colourRoleNames.end(), name);
+            return schemeColour(scheme, static_cast<ColourRole>(role - colourRoleNames.begin()));
+        }
+        ColourScheme scheme = ColourScheme::Light;
+    } host;
+    for (const ColourScheme scheme : schemes) {
+        host.scheme = scheme;
+        std::set<QRgb> different;
+        for (const QColor& ground : hitGrounds()) {
+            EXPECT_GE(contrast(schemeColour(scheme, Text), ground), 4.5) << ground.name().toStdString();
+            different.insert(ground.rgb());
+        }
+        EXPECT_EQ(different.size(), HitGrounds().size());
     }
 }
 
