@@ -80,6 +80,9 @@ bool isOfKind(NetworkKind kind, QStringView format) {
             return format == u"ninjs";
         case NetworkKind::Newsml:
             return format == u"NewsML-G2";
+        case NetworkKind::EventStream:
+        case NetworkKind::WebSocket:
+            return format == u"ninjs";
         default:
             return format != u"CSV";  // without a mapping a table holds no news
     }
@@ -128,15 +131,13 @@ void dropSharedLinks(std::vector<SourceItem>& items) {
     });
 }
 
-void readItems(const NetworkSource& source, const HttpAnswer& answer, std::int64_t now, SourceAnswer& read) {
-    QByteArray content = asUtf8(answer);
+// Adds the items of a body that are not too old.
+Done appendItems(const NetworkSource& source, QByteArray content, std::int64_t now, SourceAnswer& read) {
     QBuffer body(&content);
     body.open(QIODevice::ReadOnly);
     const std::int64_t oldest =
         source.greatestAge == 0 ? firstNewsTime : now - source.greatestAge * secondsOfDay;
-    bool isSound = true;
-    const Done done = readBody(body, source, [&](SourceItem&& item) {
-        isSound = isSound && item.content;
+    return readBody(body, source, [&](SourceItem&& item) {
         NewsItem* const news = item.content ? std::get_if<NewsItem>(&item.content.value()) : nullptr;
         if (news != nullptr && news->time < oldest) {
             ++read.left;
@@ -149,6 +150,10 @@ void readItems(const NetworkSource& source, const HttpAnswer& answer, std::int64
         read.items.push_back(std::move(item));
         return true;
     });
+}
+
+void readItems(const NetworkSource& source, const HttpAnswer& answer, std::int64_t now, SourceAnswer& read) {
+    const Done done = appendItems(source, asUtf8(answer), now, read);
     if (!done) {
         read.fault = done.error();
         read.items.clear();
@@ -157,15 +162,23 @@ void readItems(const NetworkSource& source, const HttpAnswer& answer, std::int64
     dropSharedLinks(read.items);
     read.isRead = true;
     // What is not sound is asked for again, as it may have been mended.
-    if (isSound)
-        read.validators = answer.validators;
     const auto isTaken = [](const SourceItem& item) { return bool(item.content); };
+    if (std::all_of(read.items.begin(), read.items.end(), isTaken))
+        read.validators = answer.validators;
     if (!read.items.empty() && read.left == 0 && std::none_of(read.items.begin(), read.items.end(), isTaken))
         read.fault =
             makeError<network_errors::nothingTaken>(read.items.size(), read.items.front().content.error());
 }
 
 }  // namespace
+
+void readRecords(const NetworkSource& source, const QByteArray& records, std::int64_t now,
+                 SourceAnswer& read) {
+    const Done done = appendItems(source, records, now, read);
+    read.isRead = read.isRead && done;
+    if (!done)
+        read.fault = done.error();
+}
 
 SourceAnswer readAnswer(const NetworkSource& source, const HttpAnswer& answer, std::int64_t now) {
     SourceAnswer read;

@@ -5,6 +5,7 @@
 
 #include <QNetworkAccessManager>
 #include <QNetworkProxy>
+#include <QPointer>
 #include <QSet>
 
 #include <algorithm>
@@ -21,25 +22,55 @@ public:
     ~Queue() override { jobs.clear(); }  // before the managers that they use
 
     void add(const HttpRequest& request, const Answered& answered) {
-        auto job = std::make_unique<Job>();
-        Job* const added = job.get();
-        job->answered = answered;
-        job->run = std::make_unique<HttpRun>(
-            request, limits,
-            [this](const HttpRequest& of, const QNetworkProxy& proxy) -> QNetworkAccessManager& {
-                return manager(of, proxy);
-            },
-            [this, added](bool isDone) { paused(*added, isDone); });
-        jobs.push_back(std::move(job));
+        append([this](const HttpRequest& of,
+                      const QNetworkProxy& proxy) -> QNetworkAccessManager& { return manager(of, proxy); },
+               request, answered);
         goOnSoon();
+    }
+
+    // A manager has few connections to a host: a stream would take one for good.
+    void follow(int number, const HttpRequest& request, const HttpStream& stream, const Answered& answered) {
+        auto own = std::make_unique<QNetworkAccessManager>();
+        Job& job = append(
+            [manager = own.get()](const HttpRequest&, const QNetworkProxy& proxy) -> QNetworkAccessManager& {
+                manager->setProxy(proxy);
+                return *manager;
+            },
+            request, answered);
+        job.own = std::move(own);
+        job.number = number;
+        job.run->follow(stream);
+        goOnSoon();
+    }
+
+    void letGo(int number) {
+        const auto found = std::find_if(jobs.begin(), jobs.end(),
+                                        [number](const auto& job) { return job->number == number; });
+        if (found == jobs.end())
+            return;
+        release(**found);
+        jobs.erase(found);
     }
 
 private:
     struct Job {
+        std::unique_ptr<QNetworkAccessManager> own;  // of a stream; outlives the run
         std::unique_ptr<HttpRun> run;
         Answered answered;
-        QString host;  // that it is asking; empty: it waits
+        QString host;         // that it is asking; empty: it waits, or stands
+        int number = 0;       // of a stream
+        bool stands = false;  // it does
     };
+
+    Job& append(const HttpRun::Managers& from, const HttpRequest& request, const Answered& answered) {
+        auto job = std::make_unique<Job>();
+        Job* const added = job.get();
+        job->answered = answered;
+        job->run = std::make_unique<HttpRun>(request, limits, from,
+                                             [this, added](HttpRun::Pause pause) { paused(*added, pause); });
+        jobs.push_back(std::move(job));
+        return *added;
+    }
 
     // Kept connections are those of one manager: what is verified in another way has its own.
     QNetworkAccessManager& manager(const HttpRequest& request, const QNetworkProxy& proxy) {
@@ -60,7 +91,7 @@ private:
     void goOn() {
         for (std::size_t i = 0; i < jobs.size() && hosts.size() < limits.atOnce; ++i) {
             Job& job = *jobs[i];
-            if (!job.host.isEmpty() || hosts.contains(job.run->host()))
+            if (!job.host.isEmpty() || job.stands || hosts.contains(job.run->host()))
                 continue;
             job.host = job.run->host();
             hosts.insert(job.host);
@@ -69,13 +100,20 @@ private:
     }
 
     // The run is in the middle of a call: it goes from the event loop.
-    void paused(Job& job, bool isDone) {
-        if (!isDone) {
+    void paused(Job& job, HttpRun::Pause pause) {
+        job.stands = pause == HttpRun::Pause::Standing;
+        if (pause != HttpRun::Pause::Done) {
             release(job);
             return;
         }
+        // It may be let go before.
         QMetaObject::invokeMethod(
-            this, [this, &job] { finish(job); }, Qt::QueuedConnection);
+            this,
+            [this, &job, run = QPointer(job.run.get())] {
+                if (run)
+                    finish(job);
+            },
+            Qt::QueuedConnection);
     }
 
     void release(Job& job) {
@@ -104,6 +142,15 @@ HttpClient::~HttpClient() = default;
 
 void HttpClient::ask(const HttpRequest& request, const Answered& answered) {
     queue->add(request, answered);
+}
+
+void HttpClient::follow(int number, const HttpRequest& request, const HttpStream& stream,
+                        const Answered& answered) {
+    queue->follow(number, request, stream, answered);
+}
+
+void HttpClient::letGo(int number) {
+    queue->letGo(number);
 }
 
 }  // namespace wirepane

@@ -17,6 +17,8 @@ QString shownMoment(const QDateTime& moment) {
     return moment.toLocalTime().toString(u"yyyy/MM/dd HH:mm"_s);
 }
 
+}  // namespace
+
 Error tlsFault(const QList<QSslError>& errors, const QString& host) {
     for (const QSslError& error : errors) {
         switch (error.error()) {
@@ -36,6 +38,8 @@ Error tlsFault(const QList<QSslError>& errors, const QString& host) {
     return errors.isEmpty() ? makeError<network_errors::tlsFailed>(host)
                             : makeError<network_errors::certificateNotTrusted>(host);
 }
+
+namespace {
 
 std::optional<Error> statusFault(int status, const QString& host) {
     switch (status) {

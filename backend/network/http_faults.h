@@ -16,6 +16,9 @@ namespace wirepane {
 std::optional<Error> httpFault(const QNetworkReply& reply, const QList<QSslError>& tlsErrors,
                                const QString& host);
 
+// Why no encrypted connection came about; `errors` may be empty.
+Error tlsFault(const QList<QSslError>& errors, const QString& host);
+
 // Nobody was reached at the address: another address of the same host may be tried.
 bool isUnreached(QNetworkReply::NetworkError error);
 

@@ -22,6 +22,7 @@ namespace wirepane {
 struct Validators {
     QByteArray etag;
     QByteArray modified;
+    QByteArray event = {};  // of a stream: the id of the last event
 
     bool operator==(const Validators&) const = default;
 };
@@ -54,9 +55,17 @@ struct HttpAnswer {
 struct HttpLimits {
     qint64 body = qint64(32) << 20;  // bytes, as they come and as they are decoded
     int redirects = 5;
-    int quietMs = 20'000;  // without a byte
-    int totalMs = 60'000;
-    int atOnce = 8;  // requests of all hosts
+    int quietMs = 20'000;        // without a byte
+    int totalMs = 60'000;        // of a stream: until it stands
+    int streamQuietMs = 90'000;  // of a stream, without a byte
+    int atOnce = 8;              // requests of all hosts
+};
+
+// What is told of a stream while it stands.
+struct HttpStream {
+    std::function<void()> opened;
+    std::function<void(const QByteArray&)> part;
+    std::function<bool()> hasRoom;  // for more; while there is none, nothing is read
 };
 
 // Asks servers, one request per host at a time and few at once; the rest wait in their order. Connections are
@@ -73,6 +82,12 @@ public:
 
     // Calls back once, from the event loop.
     void ask(const HttpRequest& request, const Answered& answered);
+    // Follows a stream of server-sent events, over a connection of its own. Calls back from the event loop,
+    // at last `answered`, when it has ended or is none. Once it stands, its host can be asked other things.
+    // `number`: by which it can be let go; no other stream has it.
+    void follow(int number, const HttpRequest& request, const HttpStream& stream, const Answered& answered);
+    // Ends a stream; nobody is called any more.
+    void letGo(int number);
 
 private:
     class Queue;

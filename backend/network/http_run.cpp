@@ -7,16 +7,14 @@
 #include "backend/network/http_faults.h"
 #include "backend/network/http_values.h"
 #include "backend/network/network_errors.h"
+#include "backend/network/tls_settings.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QFile>
 #include <QHostInfo>
 #include <QNetworkAccessManager>
 #include <QNetworkProxy>
 #include <QNetworkProxyFactory>
-#include <QSslConfiguration>
-#include <QSslKey>
 
 #include <algorithm>
 #include <utility>
@@ -36,33 +34,6 @@ QByteArray hostHeader(const QUrl& address) {
     const QString bracketed = host.contains(u':') ? u'[' + host + u']' : host;
     const bool isUsual = address.port() < 0;
     return (isUsual ? bracketed : u"%1:%2"_s.arg(bracketed).arg(address.port())).toLatin1();
-}
-
-QSslKey privateKey(const QByteArray& pem) {
-    for (const QSsl::KeyAlgorithm algorithm : {QSsl::Rsa, QSsl::Ec}) {
-        if (const QSslKey key(pem, algorithm); !key.isNull())
-            return key;
-    }
-    return {};
-}
-
-QByteArray contentOf(const QString& path) {
-    constexpr qint64 largest = qint64(1) << 20;
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(largest) : QByteArray();
-}
-
-QSslConfiguration tlsOf(const HttpRequest& request) {
-    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-    tls.setProtocol(QSsl::TlsV1_2OrLater);
-    tls.setPeerVerifyMode(QSslSocket::VerifyPeer);
-    if (!request.authority.isEmpty())
-        tls.setCaCertificates(QSslCertificate::fromData(contentOf(request.authority)));
-    if (!request.certificate.isEmpty()) {
-        tls.setLocalCertificateChain(QSslCertificate::fromData(contentOf(request.certificate)));
-        tls.setPrivateKey(privateKey(contentOf(request.certificateKey)));
-    }
-    return tls;
 }
 
 // What the user or another machine could do without noticing: a wish is kept within a day.
@@ -90,8 +61,10 @@ HttpRun::HttpRun(HttpRequest asked, const HttpLimits& bounds, Managers managers,
       isTyped(request.isTyped) {
     since.start();
     deadline.setSingleShot(true);
-    connect(&deadline, &QTimer::timeout, this,
-            [this] { fail(makeError<network_errors::timedOut>(address.host(), limits.totalMs / 1000)); });
+    connect(&deadline, &QTimer::timeout, this, [this] {
+        fail(stands ? makeError<network_errors::quiet>(address.host())
+                    : makeError<network_errors::timedOut>(address.host(), limits.totalMs / 1000));
+    });
 }
 
 HttpRun::~HttpRun() {
@@ -157,6 +130,7 @@ void HttpRun::dial(const QUrl& dialled, const QNetworkProxy& proxy) {
         received = so;
         expected = far;
     });
+    connect(reply, &QNetworkReply::metaDataChanged, this, &HttpRun::receive);
     connect(reply, &QNetworkReply::readyRead, this, &HttpRun::receive);
     connect(reply, &QNetworkReply::finished, this, &HttpRun::finish);
 }
@@ -173,13 +147,15 @@ QNetworkRequest HttpRun::requestTo(const QUrl& dialled) const {
     get.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
     // It would take the name of the server from the address that is dialled.
     get.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    get.setTransferTimeout(limits.quietMs);
+    // A stream is quiet for longer, and not dead while it waits for room.
+    if (!stream)
+        get.setTransferTimeout(limits.quietMs);
     get.setRawHeader("Host", hostHeader(address));
     get.setRawHeader("User-Agent", "Wirepane/" + QCoreApplication::applicationVersion().toLatin1());
-    get.setRawHeader("Accept-Encoding", takenCodings);
-    get.setRawHeader("Accept",
-                     "application/rss+xml, application/atom+xml, application/json, application/xml;q=0.9, "
-                     "text/xml;q=0.9, text/csv;q=0.9, */*;q=0.5");
+    get.setRawHeader("Accept-Encoding", stream ? QByteArray("identity") : QByteArray(takenCodings));
+    get.setRawHeader("Accept", stream ? "text/event-stream"
+                                      : "application/rss+xml, application/atom+xml, application/json, "
+                                        "application/xml;q=0.9, text/xml;q=0.9, text/csv;q=0.9, */*;q=0.5");
     for (const auto& [name, value] : request.headers)
         get.setRawHeader(name, value);
     const bool isSameHost = address.host() == request.address.host() &&
@@ -193,6 +169,8 @@ QNetworkRequest HttpRun::requestTo(const QUrl& dialled) const {
         get.setRawHeader("If-None-Match", request.known.etag);
     if (!request.known.modified.isEmpty())
         get.setRawHeader("If-Modified-Since", request.known.modified);
+    if (!request.known.event.isEmpty())
+        get.setRawHeader("Last-Event-ID", request.known.event);
     return get;
 }
 
@@ -205,13 +183,52 @@ void HttpRun::readOn() {
     }
 }
 
+bool HttpRun::opens() const {
+    return stream && reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == 200 &&
+           reply->rawHeader("Content-Type").toLower().startsWith("text/event-stream") &&
+           !reply->hasRawHeader("Content-Encoding");
+}
+
+void HttpRun::passOn() {
+    constexpr int roomMs = 50;  // between two looks for room
+    deadline.start(limits.streamQuietMs);
+    while (reply != nullptr && reply->bytesAvailable() > 0) {
+        if (!stream->hasRoom()) {
+            if (!std::exchange(isWaitingForRoom, true))
+                QTimer::singleShot(roomMs, reply, [this] {
+                    isWaitingForRoom = false;
+                    passOn();
+                });
+            return;
+        }
+        stream->part(reply->read(readAtOnce));
+    }
+    if (reply != nullptr && reply->isFinished())
+        finish();
+}
+
 void HttpRun::receive() {
+    if (!stands && opens()) {
+        stands = true;
+        stream->opened();
+        tell(Pause::Standing);
+    }
+    if (stands)
+        return passOn();
     readOn();
     if (answer.body.size() > limits.body || received > limits.body || expected > limits.body)
         fail(makeError<network_errors::bodyTooLarge>(limits.body >> 20));
 }
 
 void HttpRun::finish() {
+    if (stands) {
+        if (reply->bytesAvailable() > 0)
+            return passOn();
+        readHead();
+        if (const auto fault = httpFault(*reply, tlsErrors, address.host()))
+            return fail(*fault);
+        return end(Pause::Done);
+    }
     readOn();
     if (answer.body.size() > limits.body)
         return fail(makeError<network_errors::bodyTooLarge>(limits.body >> 20));
@@ -235,7 +252,7 @@ void HttpRun::finish() {
         return fail(makeError<network_errors::cutOff>(address.host()));
     answer.isUnchanged = answer.status == 304;
     answer.address = address;
-    end(true);
+    end(Pause::Done);
 }
 
 void HttpRun::readHead() {
@@ -267,16 +284,16 @@ void HttpRun::redirect(const QUrl& to) {
     // To the same name the user's word holds: what is at it is looked up anew.
     isTyped = isTyped && to.host() == request.address.host();
     address = to.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
-    end(false);
+    end(Pause::Redirected);
 }
 
 void HttpRun::fail(const Error& fault) {
     answer.fault = fault;
     answer.body.clear();
-    end(true);
+    end(Pause::Done);
 }
 
-void HttpRun::end(bool isDone) {
+void HttpRun::end(Pause pause) {
     if (lookup != 0)
         QHostInfo::abortHostLookup(std::exchange(lookup, 0));
     if (reply != nullptr) {
@@ -285,9 +302,9 @@ void HttpRun::end(bool isDone) {
         std::exchange(reply, nullptr)->deleteLater();
     }
     answer.milliseconds = static_cast<int>(since.elapsed());
-    if (isDone)
+    if (pause == Pause::Done)
         deadline.stop();
-    tell(isDone);
+    tell(pause);
 }
 
 }  // namespace wirepane

@@ -22,8 +22,9 @@ class HttpRun : public QObject {
 public:
     // Gives the manager whose connections this request may use.
     using Managers = std::function<QNetworkAccessManager&(const HttpRequest&, const QNetworkProxy&)>;
-    // `isDone`: the answer is whole. Otherwise the run waits to go on at another address.
-    using Paused = std::function<void(bool isDone)>;
+    // Why a run tells: it waits to go on at another address, its stream stands, or the answer is whole.
+    enum class Pause { Redirected, Standing, Done };
+    using Paused = std::function<void(Pause)>;
 
     HttpRun(HttpRequest request, const HttpLimits& limits, Managers managers, Paused paused);
     ~HttpRun() override;
@@ -31,8 +32,11 @@ public:
     // The host that goOn() will ask.
     QString host() const { return address.host(); }
     void goOn();
-    // From begin() on.
+    // When it is done.
     HttpAnswer takeAnswer();
+
+    // Before goOn(): the answer is to be a stream.
+    void follow(const HttpStream& followed) { stream = followed; }
 
 private:
     void lookUp();
@@ -41,12 +45,14 @@ private:
     QNetworkRequest requestTo(const QUrl& dialled) const;
     void readOn();
     void receive();
+    void passOn();
+    bool opens() const;
     void finish();
     void readHead();
     bool isRedirected();
     void redirect(const QUrl& to);
     void fail(const Error& fault);
-    void end(bool isDone);
+    void end(Pause pause);
 
     HttpRequest request;
     HttpLimits limits;
@@ -58,6 +64,9 @@ private:
     int lookup = 0;                 // that is under way; 0: none
     QList<QHostAddress> addresses;  // still to be tried
     QNetworkReply* reply = nullptr;
+    std::optional<HttpStream> stream;
+    bool stands = false;            // the stream does
+    bool isWaitingForRoom = false;  // what has come of it does
     QList<QSslError> tlsErrors;
     qint64 received = 0;  // before decoding
     qint64 expected = -1;

@@ -94,8 +94,17 @@ inline constexpr ErrorCode clockOff{"ERROR_NETWORK_CLOCK_OFF",
                                     u"The clocks of %1 and of this machine are %2 minutes apart."};
 inline constexpr ErrorCode mappingMissing{"ERROR_NETWORK_MAPPING_MISSING",
                                           u"The mapping “%1” of the source cannot be used: %2"};
-inline constexpr ErrorCode streamsNotRead{"ERROR_NETWORK_STREAMS_NOT_READ",
-                                          u"Streams are not read by this version; nothing was dialled."};
+inline constexpr ErrorCode noStream{"ERROR_NETWORK_NO_STREAM",
+                                    u"%1 gives no stream of news at this address (%2)."};
+inline constexpr ErrorCode streamBroke{"ERROR_NETWORK_STREAM_BROKE",
+                                       u"The stream of %1 broke off; it is called again."};
+inline constexpr ErrorCode eventTooLong{"ERROR_NETWORK_EVENT_TOO_LONG",
+                                        u"The stream sent an event of more than %1 MiB; it was left out."};
+inline constexpr ErrorCode tooFast{"ERROR_NETWORK_TOO_FAST",
+                                   u"%1 sends faster than its news can be taken; it is called again."};
+inline constexpr ErrorCode socketInClear{
+    "ERROR_NETWORK_SOCKET_IN_CLEAR",
+    u"%1 would be dialled without encryption; that needs an address that the user has typed."};
 inline constexpr ErrorCode otherFormat{"ERROR_NETWORK_OTHER_FORMAT",
                                        u"The answer is %1, not what the source is said to give."};
 

@@ -21,9 +21,11 @@ namespace {
 constexpr std::size_t mostOfBatch = 500;              // items
 constexpr std::int64_t longestPlan = 2 * 86'400'000;  // ms; a clock that was set back is not waited for
 
+// Behind what the next request, or call of a stream, goes on; the number of items of a list.
 QString positionText(const Validators& validators, qsizetype listed) {
     const QJsonObject json{{u"etag"_s, QString::fromLatin1(validators.etag)},
                            {u"modified"_s, QString::fromLatin1(validators.modified)},
+                           {u"event"_s, QString::fromUtf8(validators.event)},
                            {u"items"_s, qint64(listed)}};
     return QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact));
 }
@@ -39,6 +41,7 @@ std::size_t printOf(const NewsItem& item) {
 struct NetworkFeedSource::Pending : FeedBatch {
     std::vector<SourceItem> items;
     QString behind;
+    std::vector<std::shared_ptr<void>> rooms;  // of streams, that the items take
 
     Done read(const ItemVisitor& visit) override {
         for (const SourceItem& item : items) {
@@ -64,6 +67,7 @@ NetworkFeedSource::~NetworkFeedSource() {
 
 void NetworkFeedSource::leave() {
     hasLeft = true;
+    stream.reset();
     batches.clear();
     *alive = false;
     tellReady();
@@ -76,11 +80,14 @@ void NetworkFeedSource::resume(const Result<QString>& position) {
     isWaiting = false;
     const QJsonObject json = QJsonDocument::fromJson(position.value().toUtf8()).object();
     validators = {json.value("etag"_L1).toString().toLatin1(),
-                  json.value("modified"_L1).toString().toLatin1()};
+                  json.value("modified"_L1).toString().toLatin1(),
+                  json.value("event"_L1).toString().toUtf8()};
     listed = json.value("items"_L1).toInteger();
 }
 
 void NetworkFeedSource::poll() {
+    if (isOpen)
+        return show();
     if (isWaiting || !isOnline || isAsking || hasLeft || source.isPaused || hasBatch())
         return;
     const std::int64_t now = means.clock();
@@ -111,11 +118,60 @@ void NetworkFeedSource::findSecret() {
 }
 
 void NetworkFeedSource::ask(const SourceSecret& secret) {
-    means.asker->ask({source, secret, validators},
-                     [this, life = alive, asked = generation](SourceAnswer answer) {
-                         if (*life && asked == generation)
-                             take(std::move(answer));
-                     });
+    const auto answered = [this, life = alive, asked = generation](SourceAnswer answer) {
+        if (!*life || asked != generation)
+            return;
+        if (isStream(source))
+            takeStream(std::move(answer));
+        else
+            take(std::move(answer));
+    };
+    if (isStream(source))
+        stream = means.asker->follow({source, secret, validators}, answered);
+    else
+        means.asker->ask({source, secret, validators}, answered);
+}
+
+void NetworkFeedSource::takeStream(SourceAnswer&& answer) {
+    if (answer.isOpen && !isOpen) {
+        openedMs = means.clock();
+        hasBrought = false;
+        kept.nextTry = 0;
+    }
+    isOpen = answer.isOpen;
+    hasAnswer = true;
+    fault = answer.fault;
+    isAlive = answer.isAlive;
+    isReadable = answer.isRead;
+    if (isAlive)
+        gaps.listen(seconds());
+    if (isReadable)
+        kept.lastSuccess = seconds();
+    const bool goesOn = answer.validators.event != validators.event;
+    if (!answer.items.empty() || (isOpen && goesOn)) {
+        hasBrought = true;
+        if (!answer.items.empty())
+            gaps.arrive(seconds());
+        validators = answer.validators;
+        handOver(std::move(answer.items), answer.room);
+    }
+    if (!isOpen)
+        planCall(answer);
+    keepFault();
+    show();
+    if (hasBatch())
+        tellReady();
+}
+
+// One that ends as soon as it stands is called as one that does not.
+void NetworkFeedSource::planCall(const SourceAnswer& answer) {
+    constexpr std::int64_t aWhile = 30'000;  // ms
+    const bool hasStood = openedMs != 0 && (hasBrought || means.clock() - openedMs >= aWhile);
+    openedMs = 0;
+    stream.reset();
+    isAsking = false;
+    nextTryMs = means.clock() + calls.next(hasStood, answer.wish, means.chance());
+    kept.nextTry = nextTryMs / 1000;
 }
 
 void NetworkFeedSource::take(SourceAnswer&& answer) {
@@ -130,9 +186,8 @@ void NetworkFeedSource::take(SourceAnswer&& answer) {
     const bool isEmptied = answer.isRead && !answer.isUnchanged && answer.items.empty() && answer.left == 0;
     if (isEmptied && listed > 0 && !fault)
         fault = makeError<network_errors::emptyList>(source.address.host());
-    const SourceAnswer head{answer.fault, answer.isAlive,    answer.isRead, answer.isUnchanged, {},
-                            answer.left,  answer.validators, answer.wish,   answer.milliseconds};
-    int news = 0;
+    PollSchedule::Outcome outcome{answer.isRead, 0, answer.wish};
+    int& news = outcome.news;
     if (answer.isRead) {
         kept.lastSuccess = seconds();
         const bool isFirst = handed.isEmpty();
@@ -146,7 +201,7 @@ void NetworkFeedSource::take(SourceAnswer&& answer) {
     }
     if (news > 0)
         gaps.arrive(seconds());
-    planNext(head, news);
+    planNext(outcome);
     if (hasBatch())
         tellReady();
 }
@@ -156,7 +211,7 @@ void NetworkFeedSource::takeItems(SourceAnswer&& answer) {
         listed = std::ssize(answer.items);
     validators = answer.validators;
     QHash<QString, std::size_t> present;
-    auto batch = std::make_shared<Pending>();
+    std::vector<SourceItem> fresh;
     for (SourceItem& item : answer.items) {
         const NewsItem* const news = item.content ? std::get_if<NewsItem>(&item.content.value()) : nullptr;
         if (news != nullptr) {
@@ -166,23 +221,37 @@ void NetworkFeedSource::takeItems(SourceAnswer&& answer) {
             if (before != handed.constEnd() && *before == print)
                 continue;
         }
-        if (batch->items.size() == mostOfBatch)
-            batches.push_back(std::exchange(batch, std::make_shared<Pending>()));
-        batch->items.push_back(std::move(item));
+        fresh.push_back(std::move(item));
     }
     handed = std::move(present);
-    batch->behind = positionText(validators, listed);
-    batches.push_back(std::move(batch));
+    handOver(std::move(fresh), nullptr);
 }
 
-void NetworkFeedSource::planNext(const SourceAnswer& answer, int news) {
-    const std::int64_t wait = schedule.next({answer.isRead, news, answer.wish}, seconds(), means.chance());
+// What waits behind the batch that is being taken grows.
+void NetworkFeedSource::handOver(std::vector<SourceItem>&& items, const std::shared_ptr<void>& room) {
+    if (batches.size() < 2 || batches.back()->items.size() + items.size() > mostOfBatch)
+        batches.push_back(std::make_shared<Pending>());
+    for (SourceItem& item : items) {
+        if (batches.back()->items.size() == mostOfBatch)
+            batches.push_back(std::make_shared<Pending>());
+        batches.back()->items.push_back(std::move(item));
+        batches.back()->rooms.push_back(room);
+    }
+    batches.back()->behind = positionText(validators, listed);
+}
+
+void NetworkFeedSource::planNext(const PollSchedule::Outcome& outcome) {
+    const std::int64_t wait = schedule.next(outcome, seconds(), means.chance());
     nextTryMs = means.clock() + wait;
     kept.nextTry = nextTryMs / 1000;
+    keepFault();
+    show();
+}
+
+void NetworkFeedSource::keepFault() {
     kept.fault = fault ? errorValue(*fault) : QJsonObject();
     kept.gaps = gaps.text();
     hasChanged = true;
-    show();
 }
 
 void NetworkFeedSource::show() {
@@ -212,7 +281,9 @@ void NetworkFeedSource::acknowledge(const BatchOutcome& outcome) {
 void NetworkFeedSource::setOnline(bool on) {
     isOnline = on;
     ++generation;
-    isAsking = false;
+    stream.reset();
+    isAsking = isOpen = false;
+    openedMs = 0;
     batches.clear();
     handed.clear();
     isWaiting = true;

@@ -27,6 +27,7 @@ struct NetworkMeans {
 
 // A source of the user's list that is asked again and again. Of each answer it hands over what the last did
 // not hold; its position holds what the server calls that answer, so that an unchanged one is not sent again.
+// One that is a stream is followed instead, and called again when it ends; its position is the last event.
 class NetworkFeedSource : public FeedSource {
 public:
     NetworkFeedSource(NetworkSource definition, NetworkMeans means, SourceStanding standing);
@@ -57,8 +58,12 @@ private:
     void findSecret();
     void ask(const SourceSecret& secret);
     void take(SourceAnswer&& answer);
+    void takeStream(SourceAnswer&& answer);
     void takeItems(SourceAnswer&& answer);
-    void planNext(const SourceAnswer& answer, int news);
+    void handOver(std::vector<SourceItem>&& items, const std::shared_ptr<void>& room);
+    void planCall(const SourceAnswer& answer);
+    void keepFault();
+    void planNext(const PollSchedule::Outcome& outcome);
     void show();
     std::int64_t seconds() const { return means.clock() / 1000; }
 
@@ -70,7 +75,12 @@ private:
     std::int64_t nextTryMs = 0;
     bool isWaiting = true;  // for its position
     bool isOnline = true;
-    bool isAsking = false;
+    bool isAsking = false;  // or follows a stream
+    std::unique_ptr<SourceStream> stream;
+    bool isOpen = false;        // the stream stands
+    std::int64_t openedMs = 0;  // when it came to
+    bool hasBrought = false;    // something since then
+    CallSchedule calls;
     bool hasLeft = false;
     bool hasChanged = false;
     Validators validators;

@@ -140,7 +140,11 @@ bool isStream(NetworkKind kind) {
 }
 
 bool isStream(const NetworkSource& source) {
-    return isStream(source.kind) || source.address.scheme().startsWith("ws"_L1);
+    return isStream(source.kind) || isWebSocket(source);
+}
+
+bool isWebSocket(const NetworkSource& source) {
+    return source.kind == NetworkKind::WebSocket || source.address.scheme().startsWith("ws"_L1);
 }
 
 Done checkedSource(const NetworkSource& source) {
@@ -155,6 +159,8 @@ Done checkedSource(const NetworkSource& source) {
         return makeError<network_errors::secretInAddress>();
     if (isFile && !source.isTyped)
         return makeError<network_errors::fileNotTyped>();
+    if (isFile && isStream(source))
+        return makeError<network_errors::fieldWrong>(u"kind"_s, toJson(source).value("kind"_L1).toString());
     if (source.service == 0)
         return makeError<network_errors::fieldWrong>(u"service"_s, 0);
     if (!isInRange(source.interval, shortestInterval, longestInterval))

@@ -79,6 +79,9 @@ bool isStream(NetworkKind kind);
 // The same of a source whose address may say it, too.
 bool isStream(const NetworkSource& source);
 
+// Of a stream: of web sockets, not of events.
+bool isWebSocket(const NetworkSource& source);
+
 // What `secret` says while there is a secret that has no name yet, since it is not kept.
 inline constexpr QLatin1StringView secretToKeep("typed");
 

@@ -32,4 +32,15 @@ private:
     std::int64_t lastAnswer = 0;  // 0: there was none
 };
 
+// When a stream that has ended is called again: soon where it had stood, ever later while it does not.
+class CallSchedule {
+public:
+    // Milliseconds until the next call. `hasStood`: it had brought something, or stood for a while. `wish`:
+    // of the publisher, seconds. `chance`: 0 to 1.
+    std::int64_t next(bool hasStood, std::optional<std::int64_t> wish, double chance);
+
+private:
+    int failures = 0;  // in a row
+};
+
 }  // namespace wirepane

@@ -27,11 +27,22 @@ struct SourceAnswer {
     bool isAlive = false;        // the other end has answered, whatever it said
     bool isRead = false;         // the answer counts; also where it says that nothing has changed
     bool isUnchanged = false;
+    bool isOpen = false;               // of a stream: it stands, and says more by itself
     std::vector<SourceItem> items;     // also those that cannot be taken, each with its reason
     int left = 0;                      // news that was too old
     Validators validators;             // none where the answer was not sound as a whole
     std::optional<std::int64_t> wish;  // seconds: not to ask again before
     int milliseconds = 0;
+    std::shared_ptr<void> room;  // of a stream: held until the items have been taken
+};
+
+// A stream that is followed, until this goes; what was on its way then may still be told.
+class SourceStream {
+public:
+    SourceStream() = default;
+    SourceStream(const SourceStream&) = delete;
+    SourceStream& operator=(const SourceStream&) = delete;
+    virtual ~SourceStream() = default;
 };
 
 // Asks sources. Interface thread.
@@ -47,6 +58,10 @@ public:
     // Calls back once, from the event loop; not any more when the asker is gone. Who asks makes sure that the
     // callback can be made for as long.
     virtual void ask(const SourceQuestion& question, const Answered& answered) = 0;
+    // Follows a source that is a stream: calls back when it stands, with all that comes and at signs of life,
+    // each time with `isOpen`, and once without it when it has ended or could not be opened.
+    virtual std::unique_ptr<SourceStream> follow(const SourceQuestion& question,
+                                                 const Answered& answered) = 0;
 };
 
 // Over http and https, or from a file. What is asked, decoded and read is so on threads of its own.
@@ -55,11 +70,14 @@ public:
     explicit NetworkAsker(const HttpLimits& limits = {});
     ~NetworkAsker() override;
 
+    // Of what is no stream.
     void ask(const SourceQuestion& question, const Answered& answered) override;
+    std::unique_ptr<SourceStream> follow(const SourceQuestion& question, const Answered& answered) override;
 
 private:
     class Threads;
-    std::unique_ptr<Threads> threads;
+    class Following;
+    std::shared_ptr<Threads> threads;
 };
 
 }  // namespace wirepane

@@ -48,6 +48,9 @@ public:
             answered(std::move(answer));
         });
     }
+    std::unique_ptr<SourceStream> follow(const SourceQuestion& question, const Answered& answered) override {
+        return asker.follow(question, answered);
+    }
 
     int requests = 0;
     int unchanged = 0;

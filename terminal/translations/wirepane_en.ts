@@ -743,6 +743,10 @@
         <source></source>
         <translation>The list of %1 holds nothing any more; what was in it stays.</translation>
     </message>
+    <message id="ERROR_NETWORK_EVENT_TOO_LONG">
+        <source></source>
+        <translation>The stream sent an event of more than %1 MiB; it was left out.</translation>
+    </message>
     <message id="ERROR_NETWORK_FIELD_WRONG">
         <source></source>
         <translation>The field “%1” of the source cannot be “%2”.</translation>
@@ -790,6 +794,10 @@
     <message id="ERROR_NETWORK_NO_SOURCE">
         <source></source>
         <translation>There is no source “%1” in the list.</translation>
+    </message>
+    <message id="ERROR_NETWORK_NO_STREAM">
+        <source></source>
+        <translation>%1 gives no stream of news at this address (%2).</translation>
     </message>
     <message id="ERROR_NETWORK_OTHER_FORMAT">
         <source></source>
@@ -843,13 +851,17 @@
         <source></source>
         <translation>The network on the way to %1 wants somebody to sign in first.</translation>
     </message>
+    <message id="ERROR_NETWORK_SOCKET_IN_CLEAR">
+        <source></source>
+        <translation>%1 would be dialled without encryption; that needs an address that the user has typed.</translation>
+    </message>
     <message id="ERROR_NETWORK_STRANGE_STATUS">
         <source></source>
         <translation>%1 gives an answer that is no news (status %2).</translation>
     </message>
-    <message id="ERROR_NETWORK_STREAMS_NOT_READ">
+    <message id="ERROR_NETWORK_STREAM_BROKE">
         <source></source>
-        <translation>Streams are not read by this version; nothing was dialled.</translation>
+        <translation>The stream of %1 broke off; it is called again.</translation>
     </message>
     <message id="ERROR_NETWORK_TIMED_OUT">
         <source></source>
@@ -858,6 +870,10 @@
     <message id="ERROR_NETWORK_TLS_FAILED">
         <source></source>
         <translation>No encrypted connection to %1 could be agreed on.</translation>
+    </message>
+    <message id="ERROR_NETWORK_TOO_FAST">
+        <source></source>
+        <translation>%1 sends faster than its news can be taken; it is called again.</translation>
     </message>
     <message id="ERROR_QUERY_CLOSE_BRACKET">
         <source></source>

@@ -743,6 +743,10 @@
         <source></source>
         <translation>%1 的列表已没有任何内容；原有的新闻仍会保留。</translation>
     </message>
+    <message id="ERROR_NETWORK_EVENT_TOO_LONG">
+        <source></source>
+        <translation>流送来一条超过 %1 MiB 的事件；已略过。</translation>
+    </message>
     <message id="ERROR_NETWORK_FIELD_WRONG">
         <source></source>
         <translation>来源的字段“%1”不能是“%2”。</translation>
@@ -790,6 +794,10 @@
     <message id="ERROR_NETWORK_NO_SOURCE">
         <source></source>
         <translation>列表中没有来源“%1”。</translation>
+    </message>
+    <message id="ERROR_NETWORK_NO_STREAM">
+        <source></source>
+        <translation>%1 在此网址不提供新闻流（%2）。</translation>
     </message>
     <message id="ERROR_NETWORK_OTHER_FORMAT">
         <source></source>
@@ -843,13 +851,17 @@
         <source></source>
         <translation>通往 %1 的网络要求先登录。</translation>
     </message>
+    <message id="ERROR_NETWORK_SOCKET_IN_CLEAR">
+        <source></source>
+        <translation>连往 %1 的连接未加密；此类网址须由用户亲自输入。</translation>
+    </message>
     <message id="ERROR_NETWORK_STRANGE_STATUS">
         <source></source>
         <translation>%1 的回应不是新闻（状态 %2）。</translation>
     </message>
-    <message id="ERROR_NETWORK_STREAMS_NOT_READ">
+    <message id="ERROR_NETWORK_STREAM_BROKE">
         <source></source>
-        <translation>此版本尚不读取流；未进行任何连接。</translation>
+        <translation>%1 的流中断；将重新连接。</translation>
     </message>
     <message id="ERROR_NETWORK_TIMED_OUT">
         <source></source>
@@ -858,6 +870,10 @@
     <message id="ERROR_NETWORK_TLS_FAILED">
         <source></source>
         <translation>无法与 %1 建立加密连接。</translation>
+    </message>
+    <message id="ERROR_NETWORK_TOO_FAST">
+        <source></source>
+        <translation>%1 发送过快，来不及收录；将重新连接。</translation>
     </message>
     <message id="ERROR_QUERY_CLOSE_BRACKET">
         <source></source>

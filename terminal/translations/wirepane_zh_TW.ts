@@ -743,6 +743,10 @@
         <source></source>
         <translation>%1 的清單已沒有任何內容；原有的新聞仍會保留。</translation>
     </message>
+    <message id="ERROR_NETWORK_EVENT_TOO_LONG">
+        <source></source>
+        <translation>串流送來一則超過 %1 MiB 的事件；已略過。</translation>
+    </message>
     <message id="ERROR_NETWORK_FIELD_WRONG">
         <source></source>
         <translation>來源的欄位「%1」不能是「%2」。</translation>
@@ -790,6 +794,10 @@
     <message id="ERROR_NETWORK_NO_SOURCE">
         <source></source>
         <translation>清單中沒有來源「%1」。</translation>
+    </message>
+    <message id="ERROR_NETWORK_NO_STREAM">
+        <source></source>
+        <translation>%1 在此網址不提供新聞串流（%2）。</translation>
     </message>
     <message id="ERROR_NETWORK_OTHER_FORMAT">
         <source></source>
@@ -843,13 +851,17 @@
         <source></source>
         <translation>通往 %1 的網路要求先登入。</translation>
     </message>
+    <message id="ERROR_NETWORK_SOCKET_IN_CLEAR">
+        <source></source>
+        <translation>連往 %1 的連線未加密；此類網址須由使用者親自輸入。</translation>
+    </message>
     <message id="ERROR_NETWORK_STRANGE_STATUS">
         <source></source>
         <translation>%1 的回應不是新聞（狀態 %2）。</translation>
     </message>
-    <message id="ERROR_NETWORK_STREAMS_NOT_READ">
+    <message id="ERROR_NETWORK_STREAM_BROKE">
         <source></source>
-        <translation>此版本尚不讀取串流；未進行任何連線。</translation>
+        <translation>%1 的串流中斷；將重新連線。</translation>
     </message>
     <message id="ERROR_NETWORK_TIMED_OUT">
         <source></source>
@@ -858,6 +870,10 @@
     <message id="ERROR_NETWORK_TLS_FAILED">
         <source></source>
         <translation>無法與 %1 建立加密連線。</translation>
+    </message>
+    <message id="ERROR_NETWORK_TOO_FAST">
+        <source></source>
+        <translation>%1 傳送過快，來不及收錄；將重新連線。</translation>
     </message>
     <message id="ERROR_QUERY_CLOSE_BRACKET">
         <source></source>

@@ -45,6 +45,8 @@ public:
         answered(std::move(answer));
     }
 
+    std::unique_ptr<SourceStream> follow(const SourceQuestion&, const Answered&) override { return nullptr; }
+
     std::int64_t now = start;
     bool isDown = false;
     QHash<int, int> requests;
