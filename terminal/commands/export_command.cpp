@@ -7,16 +7,20 @@
 #include "host/contract/clock.h"
 #include "host/views/news_module.h"
 #include "terminal/commands/command_arguments.h"
+#include "terminal/commands/found_rows.h"
 #include "terminal/commands/news_query.h"
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
+#include "terminal/console/interrupt.h"
 #include "terminal/session/module_location.h"
 #include "terminal/translations/languages.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSaveFile>
 
 #include <algorithm>
+#include <atomic>
 
 using namespace Qt::StringLiterals;
 
@@ -36,8 +40,9 @@ struct ExportOptions {
 };
 
 void addOptions(QCommandLineParser& parser) {
-    parser.addPositionalArgument(u"file"_s,
-                                 u"The file to write: pages where its name ends in .pdf, else text."_s);
+    parser.addPositionalArgument(
+        u"file"_s,
+        u"The file to write: by the ending of its name pages (.pdf), rows (.csv, .json, .ndjson) or text."_s);
     parser.addPositionalArgument(u"keyword"_s, u"Writes the news that holds these; else that of a day."_s,
                                  u"[keyword...]"_s);
     addQueryOptions(parser);
@@ -118,30 +123,77 @@ bool isReadable(EmbeddedBackEnd& backEnd, const std::vector<CHeadlineTable>& wan
     return !backEnd.storeDamage();
 }
 
-int exportNews(EmbeddedBackEnd& backEnd, const ExportOptions& options) {
+void tellDone(std::int64_t count, const QString& what, const QString& file) {
+    printLine(u"%1 %2 in %3"_s.arg(count).arg(what, QDir::toNativeSeparators(file)));
+}
+
+int putOut(const std::vector<CHeadlineTable>& wanted, const ExportOptions& options) {
     const auto module = loadModule();
     if (!module)
         return unusable(sentence(module.error()));
+    NewsModule& news = *module.value();
+    const NewsOutcome outcome =
+        options.pdf ? news.printEntries(wanted, options.target) : news.saveEntries(wanted, options.target);
+    if (outcome.failed)
+        return unusable(outcome.message);
+    if (!outcome.message.isEmpty())
+        printNote(outcome.message);
+    tellDone(outcome.count, options.pdf ? u"pages"_s : u"bytes"_s, options.target.file);
+    return exitDone;
+}
+
+// Row by row into a file beside the one that is wanted, whose place it takes when it is whole.
+int writeRows(EmbeddedBackEnd& backEnd, const std::vector<CHeadlineTable>& wanted, const QString& name,
+              NewsRowForm form) {
+    const auto store = openStoreToRead(backEnd.storePath());
+    if (!store)
+        return unusable(sentence(store.error()));
+    QSaveFile file(name);
+    const auto failed = [&file] {
+        return unusable(u"%1 cannot be written: %2."_s.arg(QDir::toNativeSeparators(file.fileName()),
+                                                           file.errorString()));
+    };
+    if (!file.open(QIODevice::WriteOnly))
+        return failed();
+    std::atomic<bool> stopped = false;
+    const OnInterrupt stopping([&stopped] { stopped = true; });
+    const auto progress = passingShare(u"Writing"_s);
+    FoundRows rows(*store.value(), form);
+    std::int64_t done = 0;
+    for (const CHeadlineTable& entry : wanted) {
+        if (stopped) {
+            printNote(u"Stopped; no file was written."_s);
+            return exitPartly;
+        }
+        const auto row = rows.row(keyOf(entry));
+        if (store.value()->damage())
+            return unusable(sentence(*store.value()->damage()));
+        if (row && file.write(*row) != row->size())
+            return failed();
+        progress(++done, std::int64_t(wanted.size()));
+    }
+    file.write(rows.end());
+    const qint64 bytes = file.size();
+    if (!file.commit())
+        return failed();
+    tellDone(bytes, u"bytes"_s, name);
+    return exitDone;
+}
+
+int exportNews(EmbeddedBackEnd& backEnd, const ExportOptions& options) {
     auto wanted = wantedNews(backEnd, options);
     if (!wanted)
         return unusable(sentence(wanted.error()));
     dropLater(wanted.value(), options.latest);
-    if (!isReadable(backEnd, wanted.value()))
+    const auto form = newsRowFormOfFile(options.target.file);
+    if (!form && !isReadable(backEnd, wanted.value()))
         return unusable(sentence(*backEnd.storeDamage()));
     if (wanted.value().empty()) {
         printNote(u"There is no such news; nothing was written."_s);
         return exitPartly;
     }
-    NewsModule& news = *module.value();
-    const NewsOutcome outcome = options.pdf ? news.printEntries(wanted.value(), options.target)
-                                            : news.saveEntries(wanted.value(), options.target);
-    if (outcome.failed)
-        return unusable(outcome.message);
-    if (!outcome.message.isEmpty())
-        printNote(outcome.message);
-    printLine(u"%1 %2 in %3"_s.arg(outcome.count)
-                  .arg(options.pdf ? u"pages"_s : u"bytes"_s, QDir::toNativeSeparators(options.target.file)));
-    return exitDone;
+    return form ? writeRows(backEnd, wanted.value(), options.target.file, *form)
+                : putOut(wanted.value(), options);
 }
 
 }  // namespace

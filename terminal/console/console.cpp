@@ -34,18 +34,27 @@ bool errorIsTerminal() {
 // Why output was lost, the first time that it was; 0: none was.
 int lostOutput = 0;
 
-bool print(std::FILE* stream, const QString& text) {
-    const QByteArray bytes = text.toLocal8Bit();
+bool print(std::FILE* stream, const QByteArray& bytes) {
     const auto size = static_cast<std::size_t>(bytes.size());
     return std::fwrite(bytes.constData(), 1, size, stream) == size && std::fflush(stream) == 0;
 }
 
 }  // namespace
 
-void printLine(const QString& text) {
+QByteArray outputLine(const QString& text) {
+    return (escapedText(text) + u'\n').toLocal8Bit();
+}
+
+int writeOutput(const QByteArray& bytes) {
     errno = 0;
-    if (!print(stdout, escapedText(text) + u'\n'))
-        noteLostOutput(errno != 0 ? errno : EIO);
+    if (print(stdout, bytes))
+        return 0;
+    return errno != 0 ? errno : EIO;
+}
+
+void printLine(const QString& text) {
+    if (const int error = writeOutput(outputLine(text)); error != 0)
+        noteLostOutput(error);
 }
 
 int statusOfOutput(int status) {
@@ -63,17 +72,17 @@ void noteLostOutput(int systemError) {
 
 void printNote(const QString& text) {
     clearPassing();
-    print(stderr, escapedText(text) + u'\n');
+    print(stderr, outputLine(text));
 }
 
 void printPassing(const QString& text) {
     if (errorIsTerminal())
-        print(stderr, u"\r\033[K"_s + escapedText(text));
+        print(stderr, "\r\033[K" + escapedText(text).toLocal8Bit());
 }
 
 void clearPassing() {
     if (errorIsTerminal())
-        print(stderr, u"\r\033[K"_s);
+        print(stderr, "\r\033[K");
 }
 
 std::function<void(std::int64_t done, std::int64_t total)> passingShare(const QString& work) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <cstdint>
@@ -13,6 +14,10 @@ namespace wirepane {
 // instead of showing it (control characters, text-direction marks) is written as "\u001b".
 void printLine(const QString& text);
 void printNote(const QString& text);
+
+// The bytes of such a line; bytes on standard output as they are. Result: errno, 0 when they got there.
+QByteArray outputLine(const QString& text);
+int writeOutput(const QByteArray& bytes);
 
 // What the program returns after all: `status`, unless a line on standard output did not get there (a full
 // disk), which is then said.

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/console/interrupt.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 #include <utility>
 
@@ -40,6 +42,18 @@ void handleEndSignals(void (*handler)(int)) {
         wanted.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
         sigaction(signal, &wanted, nullptr);
     }
+}
+
+volatile std::sig_atomic_t signalHasCome = 0;
+
+void noteSignal(int) {
+    signalHasCome = 1;
+}
+
+// Within so many milliseconds; a signal ends the waiting.
+bool isReaderGone(int ms) {
+    pollfd output{STDOUT_FILENO, 0, 0};
+    return poll(&output, 1, ms) > 0 && (output.revents & (POLLERR | POLLHUP)) != 0;
 }
 
 }  // namespace
@@ -80,6 +94,27 @@ OnEndSignal::~OnEndSignal() {
     notifier.reset();
     for (int& end : signalPipe)
         close(std::exchange(end, -1));
+}
+
+OutputEnd::OutputEnd() {
+    signalHasCome = 0;
+    handleEndSignals(&noteSignal);
+    std::signal(SIGPIPE, SIG_IGN);
+}
+
+OutputEnd::~OutputEnd() {
+    handleEndSignals(SIG_DFL);
+    std::signal(SIGPIPE, SIG_DFL);
+}
+
+bool OutputEnd::hasCome() const {
+    return signalHasCome != 0 || isReaderGone(0);
+}
+
+void OutputEnd::wait(std::int64_t ms) const {
+    constexpr std::int64_t least = 200;
+    constexpr std::int64_t most = 5000;
+    isReaderGone(static_cast<int>(std::clamp(ms, least, most)));
 }
 
 }  // namespace wirepane

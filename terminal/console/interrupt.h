@@ -4,6 +4,7 @@
 
 #include <QSocketNotifier>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -35,6 +36,21 @@ public:
 private:
     bool come = false;
     std::unique_ptr<QSocketNotifier> notifier;
+};
+
+// While it lives, Ctrl+C, a polite kill, the end of the user's session and a reader of standard output who
+// has gone do not end the program, which asks for them instead: for commands that print until they are ended.
+// A second signal ends it at once. One at a time.
+class OutputEnd {
+public:
+    OutputEnd();
+    OutputEnd(const OutputEnd&) = delete;
+    OutputEnd& operator=(const OutputEnd&) = delete;
+    ~OutputEnd();
+
+    bool hasCome() const;
+    // Waits so many milliseconds, at least a moment, or until it has come.
+    void wait(std::int64_t ms = 0) const;
 };
 
 }  // namespace wirepane

@@ -4,12 +4,18 @@
 #include "tests/terminal/program/program_runner.h"
 
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
+#include <random>
 
 using namespace Qt::StringLiterals;
 using namespace wirepane::test;
@@ -159,6 +165,102 @@ TEST_F(CommandLineTest, SearchPrintsWhatHoldsTheKeywords) {
     EXPECT_TRUE(faulty.err.contains(u"\"titel\" (character 8)"_s)) << faulty.err.toStdString();
     EXPECT_EQ(search({u"x"_s, u"--symbol"_s, u"2330"_s}).status, 2);
     EXPECT_EQ(runProgram({u"search"_s, u"--store"_s, scratch.path(u"none"_s), u"x"_s}).status, 2);
+}
+
+TEST_F(CommandLineTest, RowsTellAllThatIsKnownAndAreTakenInAgain) {
+    const QByteArray item =
+        R"({"uri":"u:1","versioncreated":"2026-03-02T01:00:00Z","headline":"Copper, \"red\" gains",)"
+        R"("body_text":"One.\n\nTwo.","subject":[{"name":"Metals"}],)"
+        R"("organisations":[{"symbols":[{"ticker":"2330","exchange":"XTAI"}]}]})";
+    import(
+        {scratch.write(u"wire.jsonl"_s,
+                       item + '\n' + ninjsItem(u"u:2"_s, u"Copper flash"_s, {}, u"2026-03-02T02:00:00Z"_s))});
+    const auto rows = [](const QString& from, const QString& form) {
+        return runProgram({u"search"_s, u"--store"_s, from, u"--format"_s, form, u"copper"_s}).out;
+    };
+    const QString csv = rows(store, u"csv"_s);
+    EXPECT_EQ(csv.section(u"\r\n"_s, 0, 0),
+              u"time,service,service name,sequence,topic,symbols,title,story"_s);
+    EXPECT_TRUE(csv.section(u"\r\n"_s, 2, 2)
+                    .endsWith(u",1,Metals,16:2330,\"Copper, \"\"red\"\" gains\",\"One.\nTwo.\""_s))
+        << csv.toStdString();
+    const QJsonArray list = QJsonDocument::fromJson(rows(store, u"json"_s).toUtf8()).array();
+    ASSERT_EQ(list.size(), 2);
+    EXPECT_EQ(list.at(1)[u"story"_s].toString(), u"One.\nTwo."_s);
+    EXPECT_EQ(list.at(1)[u"symbols"_s].toArray().at(0).toString(), u"16:2330"_s);
+    const QString other = scratch.path(u"other.wirepane"_s);
+    EXPECT_EQ(runProgram({u"import"_s, u"--store"_s, other,
+                          scratch.write(u"rows.ndjson"_s, rows(store, u"ninjs"_s).toUtf8())})
+                  .status,
+              0);
+    const auto unnumbered = [](QString text) {
+        return text.replace(QRegularExpression(u",1,([^,]*),\\d+,"_s), u",\\1,"_s).toStdString();
+    };
+    EXPECT_EQ(unnumbered(rows(other, u"csv"_s)), unnumbered(csv)) << "what comes out goes in again";
+
+    for (const QString& ending : {u"csv"_s, u"json"_s}) {
+        const QString file = scratch.write(u"news."_s + ending, "what was here before");
+        EXPECT_EQ(runProgram({u"export"_s, u"--store"_s, store, file, u"copper"_s}).status, 0);
+        QFile written(file);
+        EXPECT_TRUE(written.open(QIODevice::ReadOnly));
+        EXPECT_EQ(QString::fromUtf8(written.readAll()), rows(store, ending));
+    }
+    EXPECT_EQ(rows(store, u"odd"_s), QString());
+    EXPECT_EQ(runProgram({u"search"_s, u"--store"_s, store, u"--format"_s, u"json"_s, u"--follow"_s, u"x"_s})
+                  .status,
+              2);
+}
+
+// Batches of news of random days come while the search is made and after it.
+TEST_F(CommandLineTest, AFollowedSearchGivesEachPieceOnceAndEndsInOrder) {
+    std::mt19937 random(5);
+    const auto batch = [&](int number) {
+        QByteArray lines;
+        for (int i = 0; i < 20; ++i)
+            lines += ninjsItem(u"u:%1:%2"_s.arg(number).arg(i), i % 3 == 0 ? u"Tin"_s : u"Copper %1"_s.arg(i),
+                               u"Body"_s,
+                               u"2026-03-%1T0%2:00:00Z"_s.arg(1 + int(random() % 28), 2, 10, QChar(u'0'))
+                                   .arg(random() % 10)) +
+                     '\n';
+        import({scratch.write(u"batch%1.jsonl"_s.arg(number), lines)});
+    };
+    batch(0);
+    QProcess following;
+    following.start(programFile(),
+                    {u"search"_s, u"--store"_s, store, u"--json"_s, u"--follow"_s, u"copper"_s});
+    ASSERT_TRUE(following.waitForStarted());
+    for (int number = 1; number <= 6; ++number)
+        batch(number);
+    const auto found = [&] {
+        QStringList lines = runProgram({u"search"_s, u"--store"_s, store, u"--json"_s, u"copper"_s})
+                                .out.split(u'\n', Qt::SkipEmptyParts);
+        lines.sort();
+        return lines;
+    };
+    QByteArray given;
+    const QStringList wanted = found();
+    ASSERT_EQ(wanted.size(), 7 * 13);
+    QDeadlineTimer deadline(20000);
+    while (given.count('\n') < wanted.size() && !deadline.hasExpired()) {
+        following.waitForReadyRead(500);
+        given += following.readAllStandardOutput();
+    }
+    following.terminate();
+    ASSERT_TRUE(following.waitForFinished());
+    given += following.readAllStandardOutput();
+    QStringList lines = QString::fromUtf8(given).split(u'\n', Qt::SkipEmptyParts);
+    lines.sort();
+    EXPECT_EQ(lines, wanted);
+    EXPECT_EQ(following.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(following.exitCode(), 0);
+
+    // Somebody who reads one line.
+    QProcess shell;
+    shell.start(u"sh"_s, {u"-c"_s, u"{ \"$0\" \"$@\"; echo $? >&2; } | head -n 1"_s, programFile(),
+                          u"search"_s, u"--store"_s, store, u"--follow"_s, u"copper"_s});
+    EXPECT_TRUE(shell.waitForFinished(10000));
+    EXPECT_TRUE(shell.readAllStandardError().endsWith("0\n"));
+    EXPECT_EQ(shell.readAllStandardOutput().count('\n'), 1);
 }
 
 TEST_F(CommandLineTest, WhatAConsoleWouldObeyIsWrittenOut) {
