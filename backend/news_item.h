@@ -5,6 +5,7 @@
 #include "backend/error.h"
 #include "host/contract/records.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <cstdint>
@@ -16,6 +17,12 @@ namespace wirepane {
 
 inline constexpr std::int64_t firstNewsTime = -2208988800;  // 1900-01-01 00:00:00 UTC
 inline constexpr std::int64_t lastNewsTime = 253402300799;  // 9999-12-31 23:59:59 UTC
+
+// A story in the packed form (packed_text.h) in which the store keeps it, made by who has the time.
+struct PackedStory {
+    QString of;        // what it was made of: of another story it says nothing
+    QByteArray bytes;  // empty: that story is not packed
+};
 
 // One piece of news on its way into the store, whatever it came from.
 struct NewsItem {
@@ -35,7 +42,8 @@ struct NewsItem {
     std::optional<std::int32_t>
         sequence;  // given by a feed that numbers its headlines; else the store numbers
     std::optional<std::int32_t>
-        categoryId;  // given by a feed that knows the store's ids; goes before `category`
+        categoryId;                // given by a feed that knows the store's ids; goes before `category`
+    PackedStory packedStory = {};  // where it has been made ahead
 };
 
 // One entry of the symbol table.

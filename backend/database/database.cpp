@@ -7,6 +7,7 @@
 #include "backend/database/gathered_numbers.h"
 #include "backend/database/statement.h"
 #include "backend/database/turn_bell.h"
+#include "backend/database/unpacking.h"
 #include "backend/words/search_tokenizer.h"
 
 #include <QDir>
@@ -95,6 +96,7 @@ Result<std::unique_ptr<Database>> Database::open(const QString& path, Mode mode,
     // Where this fails, what uses the search index fails with the library's own sentence.
     registerSearchTokenizer(connection);
     registerGathering(connection);
+    registerUnpacking(connection);
     database->execute("PRAGMA cell_size_check = ON");
     return database;
 }

@@ -105,6 +105,12 @@ void Query::bind(int index, QByteArrayView utf8) {
     }
 }
 
+void Query::bind(int index, Blob blob) {
+    if (!broken)
+        sqlite3_bind_blob64(running, index, blob.bytes.data(), static_cast<sqlite3_uint64>(blob.bytes.size()),
+                            SQLITE_STATIC);
+}
+
 void Query::bind(int index, const std::optional<QByteArrayView>& utf8) {
     if (utf8)
         bind(index, *utf8);

@@ -17,6 +17,11 @@ namespace wirepane {
 class Database;
 struct GatheredPair;
 
+// Bytes that are no text, as a value of a statement; not copied.
+struct Blob {
+    QByteArrayView bytes;
+};
+
 // A prepared statement, to be run any number of times through Query. One that SQLite refuses (a damaged
 // schema) fails when it is run.
 class Statement {
@@ -72,6 +77,7 @@ private:
     }
     void bind(int index, const QString& value);
     void bind(int index, QByteArrayView utf8);
+    void bind(int index, Blob blob);
     // Nothing: null.
     void bind(int index, const std::optional<QByteArrayView>& utf8);
     void bind(int index, double value);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/import/read_ahead.h"
 
+#include "backend/packed_text.h"
 #include "backend/worker_thread.h"
 
 #include <chrono>
@@ -97,13 +98,24 @@ Done readInto(Waiting& waiting, const Reader& read) {
     return done;
 }
 
-// Between the one who reads and the one who takes: does what is left to be done to the items.
-void finishAll(Waiting& from, Waiting& to) {
+void finish(SourceItem& item) {
+    item.finish();
+}
+
+// Takes as long as putting the packed story in: it is not left to who writes.
+void pack(SourceItem& item) {
+    auto* const news = item.content ? std::get_if<NewsItem>(&item.content.value()) : nullptr;
+    if (news != nullptr && news->story)
+        news->packedStory = {*news->story, packedText(news->story->toUtf8())};
+}
+
+// Between the one who reads and the one who takes: does to the items what is left to be done.
+void workOnAll(Waiting& from, Waiting& to, void (*work)(SourceItem&)) {
     bool isTaken = true;
     for (Lot lot = from.pop(); isTaken && !lot.items.empty(); lot = from.pop()) {
         lot.weight = 0;
         for (SourceItem& item : lot.items) {
-            item.finish();
+            work(item);
             lot.weight += weightOf(item);
         }
         isTaken = to.push(std::move(lot));
@@ -125,12 +137,15 @@ bool takeAll(std::vector<SourceItem> items, const ItemVisitor& visit) {
 
 Done readAhead(const Reader& read, const ItemVisitor& visit, const std::function<void()>& pause) {
     Waiting unfinished;
+    Waiting unpacked;
     Waiting waiting;
     Done done = Nothing{};
     WorkerThread reader;
     WorkerThread finisher;
+    WorkerThread packer;
     reader.post([&] { done = readInto(unfinished, read); });
-    finisher.post([&] { finishAll(unfinished, waiting); });
+    finisher.post([&] { workOnAll(unfinished, unpacked, finish); });
+    packer.post([&] { workOnAll(unpacked, waiting, pack); });
     const auto next = [&] {
         if (pause && !waiting.hasAnySoon())
             pause();
@@ -141,6 +156,7 @@ Done readAhead(const Reader& read, const ItemVisitor& visit, const std::function
             break;
     }
     waiting.close();
+    packer.run([] {});
     finisher.run([] {});
     reader.run([] {});
     return done;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/news_writer.h"
 
+#include "backend/packed_text.h"
 #include "host/contract/clock.h"
 
 namespace wirepane {
@@ -10,6 +11,14 @@ namespace {
 
 std::optional<QByteArray> utf8Of(const std::optional<QString>& text) {
     return text ? std::optional(text->toUtf8()) : std::nullopt;
+}
+
+QByteArray packedStoryOf(const NewsItem& item, QByteArrayView utf8) {
+    const QString& of = item.packedStory.of;
+    // A story that was cleaned since then is another one.
+    const bool isSame =
+        item.story && of.constData() == item.story->constData() && of.size() == item.story->size();
+    return isSame ? item.packedStory.bytes : packedText(utf8);
 }
 
 }  // namespace
@@ -43,7 +52,7 @@ NewsWriter::NewsWriter(Database& owner, const ImportBlocks& importBlocks)
       deleteHeadline(owner, "DELETE FROM all_headlines WHERE id = ?"),
       insertText(owner, "INSERT INTO stories(headline, text) VALUES(?, ?)"),
       deleteText(owner, "DELETE FROM stories WHERE headline = ?"),
-      readText(owner, "SELECT text FROM stories WHERE headline = ?"),
+      readText(owner, "SELECT unpacked(text, headline) FROM stories WHERE headline = ?"),
       insertRelated(owner,
                     "INSERT INTO related_symbols(headline, position, market, code, service, time, sequence) "
                     "VALUES(?, ?, ?, ?, ?, ?, ?)"),
@@ -86,7 +95,9 @@ bool NewsWriter::insert(const NewsItem& item, const NewsPlace& place) {
              .run())
         return false;
     written = database.lastInsertId();
-    return writeTexts(written, item.title, utf8Of(item.story)) && writeRelated(written, item, place) &&
+    const std::optional<QByteArray> story = utf8Of(item.story);
+    return (!story || writeStory(written, *story, packedStoryOf(item, *story))) &&
+           index(written, item.title, story) && writeRelated(written, item, place) &&
            (!item.withdrawn || withdraw(written, item));
 }
 
@@ -108,8 +119,9 @@ bool NewsWriter::replace(std::int64_t id, const NewsItem& item, const NewsPlace&
         if (query.next() || query.failed())
             return false;
     }
-    return writeTexts(written, item.title, story) && writeRelated(written, item, place) &&
-           (!story || versions.settle(written)) && (!item.withdrawn || withdraw(written, item));
+    return (!story || writeStory(written, *story, packedText(*story))) && index(written, item.title, story) &&
+           writeRelated(written, item, place) && (!story || versions.settle(written)) &&
+           (!item.withdrawn || withdraw(written, item));
 }
 
 bool NewsWriter::withdraw(std::int64_t id, const NewsItem& withdrawal) {
@@ -125,14 +137,18 @@ bool NewsWriter::putStory(std::int64_t id, const QString& story) {
     QString title;
     const QByteArray text = story.toUtf8();
     return takeFromSearch(id, title) && versions.keep(id, title, QByteArrayView(text)) &&
-           Query(deleteText, id).run() && writeTexts(id, title, text) && versions.settle(id);
+           Query(deleteText, id).run() && writeStory(id, text, packedText(text)) && index(id, title, text) &&
+           versions.settle(id);
+}
+
+bool NewsWriter::writeStory(std::int64_t id, const QByteArray& text, const QByteArray& packed) {
+    return packed.isEmpty() ? Query(insertText, id, QByteArrayView(text)).run()
+                            : Query(insertText, id, Blob{packed}).run();
 }
 
 // A row for the index is never selected from another table in the same statement: that would make the index
 // write what it gathers, row by row. It is what the view news_text gives: the search sees no paragraph marks.
-bool NewsWriter::writeTexts(std::int64_t id, const QString& title, const std::optional<QByteArray>& story) {
-    if (story && !Query(insertText, id, QByteArrayView(*story)).run())
-        return false;
+bool NewsWriter::index(std::int64_t id, const QString& title, const std::optional<QByteArray>& story) {
     if (blocks.isUnindexed(id))
         return true;
     QByteArray text = story.value_or(QByteArray());

@@ -62,8 +62,10 @@ public:
 
 private:
     static std::optional<KnownNews> known(Query& query, bool& failed);
-    // The story, and what the index is to hold of the news.
-    bool writeTexts(std::int64_t id, const QString& title, const std::optional<QByteArray>& story);
+    // `packed` is empty where the text is kept as it is.
+    bool writeStory(std::int64_t id, const QByteArray& text, const QByteArray& packed);
+    // Puts in what the index is to hold of the news.
+    bool index(std::int64_t id, const QString& title, const std::optional<QByteArray>& story);
     std::optional<QByteArray> storyOf(std::int64_t id, bool& failed);
     bool writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place);
     // Takes out what the index holds of a piece of news, if it does; `title` becomes the title that it had.

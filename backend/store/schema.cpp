@@ -210,9 +210,18 @@ CREATE TABLE withdrawals(
     reason TEXT NOT NULL);
 )sql";
 
-constexpr std::array steps{firstVersion, arrivalsAndPositions,  ownSearchWords, quotes,
-                           goneKeys,     blocksOfImports,       retention,      networkSources,
-                           englishNames, versionsAndWithdrawals};
+// The text of a story, and of a version, may be packed: a blob (see packed_text.h).
+constexpr const char* packedStories = R"sql(
+DROP VIEW news_text;
+CREATE VIEW news_text(id, title, story) AS
+    SELECT all_headlines.id, all_headlines.title,
+           replace(coalesce(unpacked(stories.text, stories.headline), ''), '@@@@', char(10))
+    FROM all_headlines LEFT JOIN stories ON stories.headline = all_headlines.id;
+)sql";
+
+constexpr std::array steps{firstVersion, arrivalsAndPositions,   ownSearchWords, quotes,
+                           goneKeys,     blocksOfImports,        retention,      networkSources,
+                           englishNames, versionsAndWithdrawals, packedStories};
 
 }  // namespace
 

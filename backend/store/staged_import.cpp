@@ -35,7 +35,8 @@ StagedImport::StagedImport(Database& owner, Pace asked)
       bell(owner.path()),
       later(owner.path()),
       readAside(owner,
-                "SELECT id, service, set_aside.identity, version, time, title, category, text, text IS NULL, "
+                "SELECT id, service, set_aside.identity, version, time, title, category, unpacked(text, id), "
+                "text IS NULL, "
                 "reason, reason IS NOT NULL "
                 "FROM set_aside JOIN all_headlines ON id = set_aside.headline "
                 "LEFT JOIN stories ON stories.headline = id "

@@ -56,7 +56,7 @@ StoreReader::StoreReader(Database& database)
                   "SELECT title, category FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),
       oneReceived(database, "SELECT received FROM headlines WHERE service = ? AND time = ? AND sequence = ?"),
       oneStory(database,
-               "SELECT coalesce(text, CASE WHEN received < ?4 THEN '' END) "
+               "SELECT coalesce(unpacked(text, id), CASE WHEN received < ?4 THEN '' END) "
                "FROM headlines LEFT JOIN stories ON headline = id "
                "WHERE service = ?1 AND time = ?2 AND sequence = ?3"),
       allRelated(
@@ -68,7 +68,7 @@ StoreReader::StoreReader(Database& database)
                "FROM headlines LEFT JOIN withdrawals ON headline = id "
                "WHERE service = ? AND time = ? AND sequence = ?"),
       allVersions(database,
-                  "SELECT versions.time, versions.received, versions.title, text "
+                  "SELECT versions.time, versions.received, versions.title, unpacked(text, headline) "
                   "FROM headlines JOIN versions ON headline = id "
                   "WHERE service = ? AND headlines.time = ? AND sequence = ? ORDER BY number") {}
 

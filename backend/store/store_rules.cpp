@@ -70,7 +70,7 @@ constexpr std::array newsRules{
          "sum(code = '' OR length(code) > 64) > 0",
          u"The related symbols of these headlines have gaps or no proper code: %1."},
     Rule{"SELECT service || '/' || identity FROM stories JOIN headlines ON id = headline "
-         "WHERE headline >= ?1 AND headline < ?2 AND (typeof(text) <> 'text' OR length(text) > 4194304)",
+         "WHERE headline >= ?1 AND headline < ?2 AND coalesce(length(unpacked_or_null(text)) > 4194304, 1)",
          u"The stories of these headlines are no text, or too long: %1."},
 };
 

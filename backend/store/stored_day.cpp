@@ -25,7 +25,7 @@ StoredDay::StoredDay(std::unique_ptr<Database> opened)
     : database(std::move(opened)),
       oneItem(*database,
               "SELECT headlines.service, identity, version, time, sequence, title, "
-              "coalesce(text, CASE WHEN received < ?2 THEN '' END), "
+              "coalesce(unpacked(text, headlines.id), CASE WHEN received < ?2 THEN '' END), "
               "(SELECT name FROM categories WHERE id = headlines.category AND "
               "space = CASE headlines.service WHEN 52 THEN 52 ELSE 0 END), reason "
               "FROM headlines LEFT JOIN stories ON stories.headline = headlines.id "

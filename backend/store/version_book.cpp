@@ -13,18 +13,20 @@ VersionBook::VersionBook(Database& database)
             "received, "
             "title <> ?2 OR ?3 IS NOT NULL, title, text "
             "FROM all_headlines LEFT JOIN stories ON headline = id "
-            "WHERE id = ?1 AND (title <> ?2 OR (coalesce(text, '') <> '' AND text IS NOT ?3))"),
-      drop(database,
-           "DELETE FROM versions WHERE headline = ?1 AND "
-           "number > (SELECT min(number) FROM versions WHERE headline = ?1) AND "
-           "(number <= (SELECT max(number) FROM versions WHERE headline = ?1) - ?2 OR "
-           "(SELECT total(length(later.text)) FROM versions AS later "
-           "WHERE later.headline = ?1 AND later.number >= versions.number) > ?3)"),
-      dropSame(database,
-               "DELETE FROM versions WHERE headline = ?1 AND NOT differs AND "
-               "number = (SELECT max(number) FROM versions WHERE headline = ?1) AND "
-               "title = (SELECT title FROM all_headlines WHERE id = ?1) AND "
-               "text IS (SELECT text FROM stories WHERE headline = ?1)"),
+            "WHERE id = ?1 AND (title <> ?2 OR (coalesce(text, '') <> '' AND unpacked(text, id) IS NOT ?3))"),
+      drop(
+          database,
+          "DELETE FROM versions WHERE headline = ?1 AND "
+          "number > (SELECT min(number) FROM versions WHERE headline = ?1) AND "
+          "(number <= (SELECT max(number) FROM versions WHERE headline = ?1) - ?2 OR "
+          "number <= (SELECT max(number) FROM (SELECT number, total(length(unpacked(text, headline))) "
+          "OVER (ORDER BY number DESC) AS together FROM versions WHERE headline = ?1) WHERE together > ?3))"),
+      dropSame(
+          database,
+          "DELETE FROM versions WHERE headline = ?1 AND NOT differs AND "
+          "number = (SELECT max(number) FROM versions WHERE headline = ?1) AND "
+          "title = (SELECT title FROM all_headlines WHERE id = ?1) AND "
+          "unpacked(text, headline) IS (SELECT unpacked(text, headline) FROM stories WHERE headline = ?1)"),
       confirm(database, "UPDATE versions SET differs = 1 WHERE headline = ? AND NOT differs"),
       writeWithdrawal(database, "REPLACE INTO withdrawals(headline, moment, reason) VALUES(?, ?, ?)"),
       eraseWithdrawal(database, "DELETE FROM withdrawals WHERE headline = ?") {}

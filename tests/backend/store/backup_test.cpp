@@ -20,7 +20,7 @@ protected:
         ASSERT_TRUE(writer->begin());
         for (int i = 0; i < count; ++i) {
             NewsItem item = newsItem(1, name + QString::number(i), at(9, i % 60), u"T"_s);
-            item.story = u"Copper rises for the third day. "_s.repeated(60);
+            item.story = noise(1900, unsigned(i));
             ASSERT_TRUE(writer->take(item));
         }
         ASSERT_TRUE(writer->commit());

@@ -265,7 +265,7 @@ TEST_F(StoreFileTest, AFullDiskTakesBackTheTransactionAndNothingElse) {
     ASSERT_TRUE(store->execute(("PRAGMA max_page_count = " + std::to_string(pages + 40)).c_str()));
     ASSERT_TRUE(writer->begin());
     NewsItem item = newsItem(1, u"big"_s, at(10, 0), u"Big"_s);
-    item.story = QString(1'000'000, u'x');
+    item.story = noise(1'000'000);
     const Result<StoredNews> stored = writer->takeNews(item);
     ASSERT_FALSE(stored);
     EXPECT_TRUE(sentence(stored.error()).contains(u"the disk is full"_s))

@@ -7,6 +7,8 @@
 #include <QDateTime>
 #include <QFile>
 
+#include <algorithm>
+#include <random>
 #include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
@@ -42,6 +44,16 @@ Take StoreFixture::take(const StoreItem& item) {
 
 QStringList StoreFixture::rows(const char* sql) {
     return rowsOf(*store, sql);
+}
+
+QString noise(qsizetype length, unsigned seed) {
+    std::minstd_rand random(seed + 1);
+    QString text(length, Qt::Uninitialized);
+    std::generate(text.begin(), text.end(), [&] {
+        const auto letter = random() % 52;
+        return QChar(char16_t(letter < 26 ? u'a' + letter : u'A' + letter - 26));
+    });
+    return text;
 }
 
 NewsItem newsItem(unsigned char service, const QString& identity, std::int64_t time, const QString& title) {

@@ -37,6 +37,9 @@ protected:
 // A piece of news with what a test cares about; the rest is plausible.
 NewsItem newsItem(unsigned char service, const QString& identity, std::int64_t time, const QString& title);
 
+// A word of letters in no order, of which the store keeps at least seven tenths as many bytes.
+QString noise(qsizetype length, unsigned seed = 0);
+
 // Seconds since 1970 of a local time on 2 March 2026 (a Monday).
 std::int64_t at(int hour, int minute, int second = 0);
 

@@ -155,7 +155,7 @@ TEST_F(StoreIntakeTest, TheLogStaysShortWhileNewsComesWithoutAPause) {
     constexpr qint64 bytes = 1 << 20;
     const auto itemOf = [](int number) {
         NewsItem item = newsItem(service, QString::number(number), at(9, number % 60), u"T"_s);
-        item.story = QString(bytes, QChar(u'a' + number % 26));
+        item.story = noise(bytes * 3 / 2, unsigned(number));
         return item;
     };
     const auto isShort = [this](int piecesInFile) {
