@@ -69,8 +69,10 @@ int runSample() {
         printNote(sentence(totals.error()));
         return stopped ? exitPartly : exitUnusable;
     }
+    const SampleTotals& counted = totals.value();
     printLine(
-        u"%1 taken in, %2 already there"_s.arg(totals.value().takenIn).arg(totals.value().alreadyThere));
+        u"%1 taken in, %2 already there"_s.arg(counted.takenIn).arg(counted.alreadyThere) +
+        (counted.tooOld > 0 ? u", %1 older than what the store keeps"_s.arg(counted.tooOld) : QString()));
     return exitDone;
 }
 

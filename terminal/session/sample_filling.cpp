@@ -3,6 +3,7 @@
 #include "terminal/session/sample_filling.h"
 
 #include "backend/store/store_defaults.h"
+#include "backend/store/store_errors.h"
 #include "backend/store/store_writer.h"
 #include "terminal/session/sample_process.h"
 #include "terminal/session/session_errors.h"
@@ -38,9 +39,13 @@ private:
         if (!outcome)
             return outcome.error();
         const bool named = std::holds_alternative<CategoryItem>(item);
-        if (outcome.value().take == Take::Rejected && !named)
+        const bool isRejected = outcome.value().take == Take::Rejected && !named;
+        const bool isTooOld = isRejected && outcome.value().reason->code == &store_errors::beyondRetention;
+        if (isRejected && !isTooOld)
             return unfit(*outcome.value().reason);
-        ++(outcome.value().take == Take::TakenIn ? totals.takenIn : totals.alreadyThere);
+        ++(isTooOld                                ? totals.tooOld
+           : outcome.value().take == Take::TakenIn ? totals.takenIn
+                                                   : totals.alreadyThere);
         return Nothing{};
     }
 };

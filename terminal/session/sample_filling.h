@@ -14,6 +14,7 @@ class StoreWriter;
 struct SampleTotals {
     std::int64_t takenIn = 0;
     std::int64_t alreadyThere = 0;
+    std::int64_t tooOld = 0;  // older than what the store keeps: left out
 };
 
 // Takes what the program of the sample wire sends into an open store, all of it or nothing. `progress` hears

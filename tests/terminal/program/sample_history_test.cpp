@@ -95,6 +95,26 @@ TEST_F(SampleHistoryTest, TheRestOfTheFirstFillingSurvivesKillsAndOtherTerminals
     }
 }
 
+TEST_F(SampleHistoryTest, WhatTheStoreKeepsNoLongerIsLeftOut) {
+    const SampleOptions options = optionsAt(noon);
+    const auto whole = open(u"whole"_s);
+    const auto trimmed = open(u"trimmed"_s);
+    const auto every = fillWithSample(*whole, options);
+    StoreWriter writer(*trimmed);
+    for (bool isDone = false; !isDone;) {
+        const auto step = writer.trim({.days = 3}, noon);
+        ASSERT_TRUE(step);
+        isDone = step.value().isDone;
+    }
+    const auto some = fillWithSample(*trimmed, options);
+    ASSERT_TRUE(every && some) << sentence(some.error()).toStdString();
+    EXPECT_EQ(daysOf(*trimmed), u"20260301 20260302 20260303 20260304"_s);
+    EXPECT_GT(some.value().tooOld, 0);
+    EXPECT_EQ(some.value().takenIn + some.value().tooOld, every.value().takenIn);
+    // All of it again brings nothing.
+    EXPECT_EQ(fillWithSample(*trimmed, options).value().takenIn, 0);
+}
+
 TEST_F(SampleHistoryTest, AnAbsenceIsMadeUpForButNoMoreThanTheLastDays) {
     struct Case {
         const char* what;
