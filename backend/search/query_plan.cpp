@@ -147,9 +147,9 @@ QueryPlanner::QueryPlanner(Database& database)
     : topicNames(database, "SELECT id, name FROM categories WHERE space = ?"),
       serviceNames(database, "SELECT full_name, short_name FROM services WHERE id = ?"),
       namesOfCodes(database,
-                   "SELECT name FROM symbols WHERE code IN (SELECT value FROM json_each(?1)) AND "
-                   "(?2 < 0 OR market = ?2)"),
-      allSymbols(database, "SELECT market, code, name FROM symbols ORDER BY market, code") {}
+                   "SELECT name, english_name FROM symbols WHERE code IN (SELECT value FROM json_each(?1)) "
+                   "AND (?2 < 0 OR market = ?2)"),
+      allSymbols(database, "SELECT market, code, name, english_name FROM symbols ORDER BY market, code") {}
 
 std::optional<QueryPlan> QueryPlanner::plan(const QueryNode& query, unsigned char service, SearchScope scope,
                                             QDate today) {
@@ -246,18 +246,25 @@ QStringList QueryPlanner::namesOf(const QuerySymbol& symbol) {
     QStringList names;
     Query rows(namesOfCodes, jsonList(symbol.codes), symbol.market ? int(*symbol.market) : -1);
     while (rows.next())
-        names += rows.text(0);
+        names += {rows.text(0), rows.text(1)};
     hasFailed |= rows.failed();
     return names;
 }
 
-std::vector<std::pair<QueryPlan::Symbol, QString>> QueryPlanner::symbolsNamed(const QString& value) {
-    std::vector<std::pair<QueryPlan::Symbol, QString>> found;
+// Those of which one name, in whichever language, begins so.
+MeantSymbols QueryPlanner::symbolsNamed(const QString& value) {
+    MeantSymbols found;
     const QByteArray start = phraseBetweenBlanks(value);
     Query rows(allSymbols);
-    while (!start.isEmpty() && found.size() < mostSymbolsOfName && rows.next()) {
-        if (phraseBetweenBlanks(rows.text(2)).startsWith(start))
-            found.push_back({{static_cast<unsigned char>(rows.number(0)), rows.text(1)}, rows.text(2)});
+    while (!start.isEmpty() && found.coded.size() < mostSymbolsOfName && rows.next()) {
+        const QStringList names{rows.text(2), rows.text(3)};
+        const bool isNamed = std::any_of(names.begin(), names.end(), [&](const QString& name) {
+            return phraseBetweenBlanks(name).startsWith(start);
+        });
+        if (isNamed) {
+            found.coded.push_back({static_cast<unsigned char>(rows.number(0)), rows.text(1)});
+            found.names += names;
+        }
     }
     hasFailed |= rows.failed();
     return found;
@@ -272,11 +279,9 @@ MeantSymbols QueryPlanner::symbolsMeant(const QString& value) {
         meant.coded.push_back({symbol->market, code});
     meant.names = namesOf(*symbol);
     if (meant.names.isEmpty() && !symbol->market && !symbol->isNumber) {
-        for (const auto& [named, name] : symbolsNamed(value)) {
-            meant.coded.push_back(named);
-            meant.names += name;
-        }
-        meant.names += value;
+        MeantSymbols named = symbolsNamed(value);
+        meant.coded.insert(meant.coded.end(), named.coded.begin(), named.coded.end());
+        meant.names = named.names << value;
     }
     return meant;
 }

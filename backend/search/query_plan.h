@@ -75,7 +75,7 @@ private:
     QueryPlan plannedSymbol(const QString& value);
     QueryPlan plannedTopics(const QString& value, unsigned char service);
     QStringList namesOf(const QuerySymbol& symbol);
-    std::vector<std::pair<QueryPlan::Symbol, QString>> symbolsNamed(const QString& value);
+    MeantSymbols symbolsNamed(const QString& value);
 
     Statement topicNames;
     Statement serviceNames;

@@ -8,9 +8,18 @@
 
 namespace wirepane {
 
-// Whether the search index was made by the rules that this program folds characters by. False as well when
-// that cannot be read.
-bool hasPresentSearchRules(Database& database);
+// The rules by which the search index was made.
+enum class SearchRules {
+    Present,  // by which this program splits texts and folds characters
+    Earlier,  // which it still knows: searches are answered by them
+    Unknown,  // or cannot be read
+};
+SearchRules searchRulesOf(Database& database);
+// Notes that the index was made by the present ones.
+bool noteSearchRules(Database& database);
+
+// Makes an empty index of this name for the present rules. False on failure.
+bool makeSearchIndex(Database& database, const char* name);
 
 // Hears how many of the headlines (more or less) are in the index that is being made.
 using IndexProgress = std::function<void(std::int64_t done, std::int64_t total)>;

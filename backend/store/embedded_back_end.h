@@ -181,6 +181,9 @@ public:
     // How many headlines (at most) searches do not find yet, since an import has brought more than the index
     // holds; as of the last checkForNews(). All searches are answered again when it becomes 0.
     std::int64_t searchBacklog() const { return unindexed; }
+    // How much of the search index is made anew, in a hundred, where earlier rules have made the one that
+    // answers; as of the last checkForNews(). All searches are answered again when it is done.
+    std::optional<int> searchRenewal() const { return renewal; }
     const QString& storePath() const { return connections.reading->path(); }
     // What keeps the store from taking news in for as long as it lasts, found out without trying: a sentence;
     // empty when nothing does.
@@ -302,6 +305,7 @@ private:
     std::map<NewsReceiver*, std::set<unsigned char>> registrations;
     bool connected = true;
     std::int64_t unindexed = 0;
+    std::optional<int> renewal;
     bool simplified = false;
     std::function<QString(const QString&)> nameOf = [](const QString& stored) { return stored; };
     QString sysPath;

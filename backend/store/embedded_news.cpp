@@ -3,6 +3,7 @@
 // The look-ups of the back end into its news: tables, headlines, stories; and how far its index is.
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/import_upkeep.h"
+#include "backend/store/index_renewal.h"
 #include "host/contract/clock.h"
 
 #include <limits>
@@ -104,7 +105,8 @@ bool EmbeddedBackEnd::BKNEWS_GetSymbolListBySeqNo(CNewsSymLst& symbols, const CH
 void EmbeddedBackEnd::followIndex() {
     const std::int64_t before =
         std::exchange(unindexed, unindexedHeadlines(*connections.reading).value_or(0));
-    if (before > 0 && unindexed == 0)
+    const std::optional<int> renewalBefore = std::exchange(renewal, renewalPercent(*connections.reading));
+    if ((before > 0 && unindexed == 0) || (renewalBefore && !renewal))
         searches.renew();
 }
 

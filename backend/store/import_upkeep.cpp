@@ -3,22 +3,15 @@
 #include "backend/store/import_upkeep.h"
 
 #include "backend/database/transaction.h"
+#include "backend/store/index_renewal.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace wirepane {
 
 namespace {
 
-constexpr int readAtOnce = 32;  // headlines
 constexpr std::int64_t clearAtOnce = 300;
-
-struct Searched {
-    std::int64_t id;
-    QByteArray title;
-    QByteArray story;
-};
 
 }  // namespace
 
@@ -26,50 +19,23 @@ ImportUpkeep::ImportUpkeep(Database& owner)
     : database(owner),
       blocks(owner),
       categories(owner),
-      readTexts(owner,
-                "SELECT id, title, story FROM news_text WHERE id >= ? AND id <= ? ORDER BY id LIMIT ?"),
-      insertSearched(owner, "INSERT INTO news_search(rowid, title, story) VALUES(?, ?, ?)"),
+      index(owner),
       deleteStories(owner, "DELETE FROM stories WHERE headline BETWEEN ? AND ?"),
       deleteRelated(owner, "DELETE FROM related_symbols WHERE headline BETWEEN ? AND ?"),
       deleteHeadlines(owner, "DELETE FROM all_headlines WHERE id BETWEEN ? AND ?") {}
 
 Result<bool> ImportUpkeep::indexSome(const IsEnough& isEnough) {
     Transaction transaction(database);
-    if (!transaction.hasBegun() || !blocks.load())
+    if (!transaction.hasBegun() || !blocks.load() || !index.load())
         return database.failure();
     const auto shown = std::find_if(blocks.all().begin(), blocks.all().end(),
                                     [](const ImportBlock& block) { return !block.isHidden; });
     if (shown == blocks.all().end())
         return false;
     std::int64_t indexed = 0;
-    if (!index(*shown, isEnough, indexed) || !blocks.advance(shown->first, indexed) || !transaction.commit())
+    if (!index.putAll(shown->first, shown->last, isEnough, indexed) ||
+        !blocks.advance(shown->first, indexed) || !transaction.commit())
         return database.failure();
-    return true;
-}
-
-// What is read is not read while it is written: that would make the index write row by row.
-bool ImportUpkeep::index(const ImportBlock& block, const IsEnough& isEnough, std::int64_t& indexed) {
-    indexed = block.first - 1;
-    for (bool isDone = false; indexed < block.last && !isDone;) {
-        std::vector<Searched> texts;
-        {
-            Query query(readTexts, indexed + 1, block.last, readAtOnce);
-            while (query.next())
-                texts.push_back(
-                    {query.number(0), query.bytes(1).toByteArray(), query.bytes(2).toByteArray()});
-            if (query.failed())
-                return false;
-        }
-        if (texts.empty())
-            indexed = block.last;
-        for (auto text = texts.begin(); text != texts.end() && !isDone; ++text) {
-            if (!Query(insertSearched, text->id, QByteArrayView(text->title), QByteArrayView(text->story))
-                     .run())
-                return false;
-            indexed = text->id;
-            isDone = isEnough();
-        }
-    }
     return true;
 }
 
@@ -102,11 +68,11 @@ bool ImportUpkeep::clear(std::int64_t from, std::int64_t last) {
 
 bool needsUpkeep(Database& database) {
     std::int64_t needed = 0;
-    return database.readNumber(
-               "SELECT EXISTS(SELECT 1 FROM import_blocks) OR EXISTS(SELECT 1 FROM held_links) OR "
-               "EXISTS(SELECT 1 FROM services WHERE position = 0)",
-               needed) &&
-           needed != 0;
+    const bool isRead = database.readNumber(
+        "SELECT EXISTS(SELECT 1 FROM import_blocks) OR EXISTS(SELECT 1 FROM held_links) OR "
+        "EXISTS(SELECT 1 FROM services WHERE position = 0)",
+        needed);
+    return (isRead && needed != 0) || needsRenewal(database);
 }
 
 std::optional<std::int64_t> unindexedHeadlines(Database& database) {

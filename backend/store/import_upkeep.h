@@ -5,9 +5,9 @@
 #include "backend/database/database.h"
 #include "backend/store/category_book.h"
 #include "backend/store/import_blocks.h"
+#include "backend/store/index_writer.h"
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 
 namespace wirepane {
@@ -21,26 +21,23 @@ public:
 
     // Each does one piece; true: more is left. Whoever clears holds the ImportLock. `isEnough` is asked after
     // each headline; what was gathered until then has yet to be written.
-    using IsEnough = std::function<bool()>;
+    using IsEnough = IndexWriter::IsEnough;
     Result<bool> clearSome();
     Result<bool> indexSome(const IsEnough& isEnough);
 
 private:
-    // Of the block, up to its end or until it is enough; `indexed` is the last id that was.
-    bool index(const ImportBlock& block, const IsEnough& isEnough, std::int64_t& indexed);
     bool clear(std::int64_t from, std::int64_t last);
 
     Database& database;
     ImportBlocks blocks;
     CategoryBook categories;
-    Statement readTexts;
-    Statement insertSearched;
+    IndexWriter index;
     Statement deleteStories;
     Statement deleteRelated;
     Statement deleteHeadlines;
 };
 
-// Whether there may be something to do. False on failure, too.
+// Whether there may be something to do, or the search index is to be made anew. False on failure, too.
 bool needsUpkeep(Database& database);
 
 // How many headlines that readers see are not in the search index yet (at most; a few may be gone). Nothing

@@ -58,9 +58,7 @@ NewsWriter::NewsWriter(Database& owner, const ImportBlocks& importBlocks)
                     "VALUES(?, ?, ?, ?, ?, ?, ?)"),
       deleteRelated(owner, "DELETE FROM related_symbols WHERE headline = ?"),
       readSearched(owner, "SELECT title, story FROM news_text WHERE id = ?"),
-      insertSearched(owner, "INSERT INTO news_search(rowid, title, story) VALUES(?, ?, ?)"),
-      deleteSearched(owner,
-                     "INSERT INTO news_search(news_search, rowid, title, story) VALUES('delete', ?, ?, ?)") {}
+      searchIndex(owner) {}
 
 std::optional<KnownNews> NewsWriter::find(unsigned char service, const QString& identity, bool& failed) {
     Query query(findIdentity, service, identity);
@@ -153,7 +151,7 @@ bool NewsWriter::index(std::int64_t id, const QString& title, const std::optiona
         return true;
     QByteArray text = story.value_or(QByteArray());
     text.replace("@@@@", "\n");
-    return Query(insertSearched, id, title, QByteArrayView(text)).run();
+    return searchIndex.put(id, title.toUtf8(), text);
 }
 
 std::optional<QByteArray> NewsWriter::storyOf(std::int64_t id, bool& failed) {
@@ -164,16 +162,15 @@ std::optional<QByteArray> NewsWriter::storyOf(std::int64_t id, bool& failed) {
 }
 
 bool NewsWriter::takeFromSearch(std::int64_t id, QString& title) {
-    QString story;
+    QByteArray story;
     {
         Query query(readSearched, id);
         if (!query.next())
             return false;
         title = query.text(0);
-        story = query.text(1);
+        story = query.bytes(1).toByteArray();
     }
-    // The index forgets a text only when it is told the very text that it knows.
-    return blocks.isUnindexed(id) || Query(deleteSearched, id, title, story).run();
+    return blocks.isUnindexed(id) || searchIndex.take(id, title.toUtf8(), story);
 }
 
 bool NewsWriter::writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place) {

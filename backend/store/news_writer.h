@@ -6,6 +6,7 @@
 #include "backend/database/statement.h"
 #include "backend/news_item.h"
 #include "backend/store/import_blocks.h"
+#include "backend/store/index_writer.h"
 #include "backend/store/version_book.h"
 #include "host/contract/records.h"
 
@@ -40,6 +41,8 @@ class NewsWriter {
 public:
     NewsWriter(Database& database, const ImportBlocks& blocks);
 
+    // At the start of a transaction.
+    bool begin() { return searchIndex.load(); }
     // Nothing when the news is not there, or on failure (then `failed` is set).
     std::optional<KnownNews> find(unsigned char service, const QString& identity, bool& failed);
     // Of news that readers can see.
@@ -86,8 +89,7 @@ private:
     Statement insertRelated;
     Statement deleteRelated;
     Statement readSearched;
-    Statement insertSearched;
-    Statement deleteSearched;
+    IndexWriter searchIndex;
     std::int64_t written = 0;
 };
 

@@ -219,9 +219,17 @@ CREATE VIEW news_text(id, title, story) AS
     FROM all_headlines LEFT JOIN stories ON stories.headline = all_headlines.id;
 )sql";
 
+// How far the search index has come that is being made beside the one in use, and by which rules; at most one
+// row (see index_renewal.h).
+constexpr const char* indexRenewal = R"sql(
+CREATE TABLE index_renewal(
+    fingerprint INTEGER NOT NULL,
+    indexed INTEGER NOT NULL);
+)sql";
+
 constexpr std::array steps{firstVersion, arrivalsAndPositions,   ownSearchWords, quotes,
                            goneKeys,     blocksOfImports,        retention,      networkSources,
-                           englishNames, versionsAndWithdrawals, packedStories};
+                           englishNames, versionsAndWithdrawals, packedStories,  indexRenewal};
 
 }  // namespace
 

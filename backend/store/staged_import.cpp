@@ -31,6 +31,7 @@ StagedImport::StagedImport(Database& owner, Pace asked)
       pace(asked),
       writer(owner),
       upkeep(owner),
+      renewal(owner),
       lock(owner.path()),
       bell(owner.path()),
       later(owner.path()),
@@ -313,11 +314,14 @@ Result<bool> StagedImport::indexSome() {
     setLasting(false);
     // What is waited for before the first headline does not count.
     bool isStarted = false;
-    const Result<bool> isMore = upkeep.indexSome([this, &isStarted, most = mostOfIndex()] {
+    const auto isEnoughNow = [this, &isStarted, most = mostOfIndex()] {
         if (!std::exchange(isStarted, true))
             startBatch();
         return isEnough(most);
-    });
+    };
+    Result<bool> isMore = upkeep.indexSome(isEnoughNow);
+    if (isMore && !isMore.value())
+        isMore = renewal.renewSome(isEnoughNow);
     hasRung();
     checkpointAtTimes();
     letOthersWrite();

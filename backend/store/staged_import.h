@@ -5,6 +5,7 @@
 #include "backend/database/turn_bell.h"
 #include "backend/store/import_lock.h"
 #include "backend/store/import_upkeep.h"
+#include "backend/store/index_renewal.h"
 #include "backend/store/item_spool.h"
 #include "backend/store/store_writer.h"
 
@@ -65,8 +66,9 @@ public:
     LateOutcomes takeLateOutcomes() override { return std::exchange(late, {}); }
     void rollback() override { takeBack(); }
 
-    // Brings a piece of what has been taken in into the search index, unless another import is under way,
-    // which does that then; true: more is left.
+    // Brings a piece of what has been taken in into the search index, and then goes on making that anew where
+    // earlier rules have made it, unless another import is under way, which does that then; true: more is
+    // left.
     Result<bool> indexSome();
 
 private:
@@ -98,6 +100,7 @@ private:
     const Pace pace;
     StoreWriter writer;
     ImportUpkeep upkeep;
+    IndexRenewal renewal;
     ImportLock lock;
     TurnBell bell;
     ItemSpool later;

@@ -5,6 +5,7 @@
 #include "backend/database/read_transaction.h"
 #include "backend/database/statement.h"
 #include "backend/search/search_index_check.h"
+#include "backend/search/search_rules.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_rules.h"
 
@@ -218,7 +219,9 @@ bool Check::checkWindow(SearchIndexCheck& index, std::int64_t first, std::int64_
     return true;
 }
 
+// An index that took the place of the other meanwhile is another one: of both, a part was read.
 bool Check::checkIndex() {
+    const SearchRules rulesBefore = searchRulesOf(store);
     QStringList offenders;
     for (auto window = pageFrom(firstId, idsOfWindow); window;
          window = pageFrom(window->second, idsOfWindow)) {
@@ -228,6 +231,8 @@ bool Check::checkIndex() {
             return false;
         addFaults(index.faults(), offenders);
     }
+    if (searchRulesOf(store) != rulesBefore)
+        return checkIndex();
     if (!offenders.isEmpty())
         faults += namingSome(u"The search index does not hold the text of: %1.", offenders);
     return true;

@@ -72,7 +72,8 @@ bool bringUpToDate(Database& database, const IndexProgress& onIndexing) {
     std::int64_t version = 0;
     if (!database.readNumber("PRAGMA user_version", version))
         return false;
-    if (version == storeVersion() && hasPresentSearchRules(database))
+    // What earlier rules have made is made anew while it is in use (IndexRenewal).
+    if (version == storeVersion() && searchRulesOf(database) != SearchRules::Unknown)
         return true;
     // A damaged store is not mended by writing to it.
     if (database.damage())
@@ -82,7 +83,7 @@ bool bringUpToDate(Database& database, const IndexProgress& onIndexing) {
     if (!transaction.hasBegun() || !database.readNumber("PRAGMA user_version", version))
         return false;
     return migrate(database, storeMigrations()) && (version > 0 || addDefaults(database)) &&
-           (hasPresentSearchRules(database) || rebuildSearchIndex(database, onIndexing)) &&
+           (searchRulesOf(database) != SearchRules::Unknown || rebuildSearchIndex(database, onIndexing)) &&
            transaction.commit();
 }
 
@@ -162,7 +163,7 @@ Result<std::unique_ptr<Database>> openStoreToRead(const QString& path, const Sto
     if (std::optional<Error> fault = readingFault(database))
         return *fault;
     // What cannot be written to cannot be indexed anew either.
-    if (!database.execute("PRAGMA temp_store = MEMORY") || !hasPresentSearchRules(database))
+    if (!database.execute("PRAGMA temp_store = MEMORY") || searchRulesOf(database) == SearchRules::Unknown)
         return writable;
     return opened;
 }

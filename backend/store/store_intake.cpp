@@ -73,7 +73,7 @@ WorkReport StoreIntake::perform(const Work& work) {
 void StoreIntake::lookForUpkeep() {
     if (upkeep || database.isReadOnly() || !needsUpkeep(database))
         return;
-    upkeep = std::make_unique<ImportUpkeep>(database);
+    upkeep = std::make_unique<Upkeep>(database);
     thread.postLater(betweenPieces, [this] { doUpkeep(); });
 }
 
@@ -91,13 +91,16 @@ void StoreIntake::doUpkeep() {
 
 // Whether more is left. What fails is tried again when another program has written.
 bool StoreIntake::doPieceOfUpkeep() {
-    const Result<bool> cleared = upkeep->clearSome();
+    const Result<bool> cleared = upkeep->ofImports.clearSome();
     if (!cleared || cleared.value())
         return bool(cleared);
     QElapsedTimer clock;
     clock.start();
-    const Result<bool> indexed = upkeep->indexSome([&clock] { return clock.elapsed() >= gatherMs; });
-    return indexed && indexed.value();
+    const auto isEnough = [&clock] { return clock.elapsed() >= gatherMs; };
+    Result<bool> isMore = upkeep->ofImports.indexSome(isEnough);
+    if (isMore && !isMore.value())
+        isMore = upkeep->ofIndex.renewSome(isEnough);
+    return isMore && isMore.value();
 }
 
 void StoreIntake::report(const WorkReport& done) {

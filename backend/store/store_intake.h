@@ -6,6 +6,7 @@
 #include "backend/database/database.h"
 #include "backend/store/import_lock.h"
 #include "backend/store/import_upkeep.h"
+#include "backend/store/index_renewal.h"
 #include "backend/store/store_writer.h"
 #include "backend/worker_thread.h"
 
@@ -63,7 +64,8 @@ private:
     // On the thread:
     WorkReport perform(const Work& work);
     void checkpoint();
-    // What imports have left to do, a piece at a time, so that what is asked meanwhile waits for no more.
+    // What imports have left to do, and then the search index that is to be made anew, a piece at a time, so
+    // that what is asked meanwhile waits for no more.
     void lookForUpkeep();
     void doUpkeep();
     bool doPieceOfUpkeep();
@@ -74,10 +76,15 @@ private:
     std::unique_ptr<StoreWriter> writer;
     DataVersion version;  // of the store, as others have left it
     ImportLock importLock;
-    std::unique_ptr<ImportUpkeep> upkeep;  // while there is something to do
-    std::deque<Job> jobs;                  // the first is under way
-    CallQueue answers;                     // on the interface thread
-    WorkerThread thread;                   // last: it uses all of the above
+    struct Upkeep {
+        explicit Upkeep(Database& database) : ofImports(database), ofIndex(database) {}
+        ImportUpkeep ofImports;
+        IndexRenewal ofIndex;
+    };
+    std::unique_ptr<Upkeep> upkeep;  // while there is something to do
+    std::deque<Job> jobs;            // the first is under way
+    CallQueue answers;               // on the interface thread
+    WorkerThread thread;             // last: it uses all of the above
 };
 
 }  // namespace wirepane

@@ -96,7 +96,7 @@ Done StoreWriter::beginAs(bool isHidden) {
     begun = true;
     isHiding = isHidden;
     categories.holdLinks(isHidden);
-    if (!blocks.load() || (isHidden && !blocks.hideNew()))
+    if (!blocks.load() || !news.begin() || (isHidden && !blocks.hideNew()))
         return fail();
     return Nothing{};
 }

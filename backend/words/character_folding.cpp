@@ -3,9 +3,12 @@
 #include "backend/words/character_folding.h"
 
 #include "backend/words/chinese_variants.h"
+#include "backend/words/simplified_chinese.h"
 
 #include <QChar>
 #include <QList>
+#include <QString>
+#include <QStringTokenizer>
 
 #include <map>
 
@@ -14,9 +17,8 @@ namespace wirepane {
 namespace {
 
 constexpr char32_t tableSize = 0x10000;
-
-// What changes when the rules by which texts are split do; the characters' folding is added to it.
-constexpr std::uint64_t rulesVersion = 2;
+constexpr char32_t firstIdeograph = 0x3400;
+constexpr char32_t endOfIdeographs = 0xa000;
 
 bool isWithin(char32_t c, char32_t first, char32_t last) {
     return c >= first && c <= last;
@@ -93,15 +95,29 @@ char16_t foldedOnce(char32_t c) {
 }  // namespace
 
 const CharacterFolding& CharacterFolding::instance() {
-    static const CharacterFolding folding;
+    static const CharacterFolding folding(Rules::Present);
     return folding;
 }
 
-CharacterFolding::CharacterFolding() : table(tableSize) {
+const CharacterFolding& CharacterFolding::first() {
+    static const CharacterFolding folding(Rules::First);
+    return folding;
+}
+
+const CharacterFolding* CharacterFolding::find(std::int64_t fingerprint) {
+    if (instance().fingerprint() == fingerprint)
+        return &instance();
+    return first().fingerprint() == fingerprint ? &first() : nullptr;
+}
+
+CharacterFolding::CharacterFolding(Rules itsRules) : table(tableSize), rules(itsRules) {
     for (char32_t c = 0; c < tableSize; ++c)
         table[c].character = QChar::isSurrogate(c) ? char16_t(c) : foldedOnce(c);
-    foldChinese();
-    std::uint64_t hash = 0xcbf29ce484222325U ^ rulesVersion;
+    if (rules == Rules::First)
+        foldToSimplified();
+    else
+        foldChinese();
+    std::uint64_t hash = 0xcbf29ce484222325U ^ std::uint64_t(rules);
     for (char32_t c = 0; c < tableSize; ++c) {
         Entry& entry = table[c];
         // Folding what is folded must change nothing.
@@ -124,6 +140,21 @@ void CharacterFolding::foldChinese() {
             table[c].character = char16_t(one);
         else
             beyond.emplace(c, one);
+    }
+}
+
+void CharacterFolding::foldToSimplified() {
+    QString all;
+    for (char32_t c = firstIdeograph; c < endOfIdeographs; ++c) {
+        all += QChar(char16_t(c));
+        all += u'\n';
+    }
+    const QString simplified = SimplifiedChinese().convert(all);
+    char32_t c = firstIdeograph;
+    for (const QStringView line : qTokenize(QStringView(simplified), u'\n')) {
+        if (c < endOfIdeographs && line.size() == 1)
+            table[c].character = line.front().unicode();
+        ++c;
     }
 }
 

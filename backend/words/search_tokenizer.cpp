@@ -4,16 +4,32 @@
 
 #include "backend/words/search_words.h"
 
+#include <optional>
 #include <sqlite3.h>
 
 namespace wirepane {
 
 namespace {
 
-// There is nothing to keep: any address but null will do.
-int create(void*, const char**, int, Fts5Tokenizer** made) {
-    static char nothing = 0;
-    *made = reinterpret_cast<Fts5Tokenizer*>(&nothing);
+// By which the index of a store was made; nothing where that is not told.
+std::optional<std::int64_t> notedRules(sqlite3* connection) {
+    std::optional<std::int64_t> fingerprint;
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v2(connection, "SELECT fingerprint FROM search_rules", -1, &statement, nullptr) ==
+            SQLITE_OK &&
+        sqlite3_step(statement) == SQLITE_ROW)
+        fingerprint = sqlite3_column_int64(statement, 0);
+    sqlite3_finalize(statement);
+    return fingerprint;
+}
+
+// The rules live as long as the program: they are what is made.
+int create(void* connection, const char** arguments, int count, Fts5Tokenizer** made) {
+    const std::optional<std::int64_t> fingerprint =
+        count > 0 ? QByteArrayView(arguments[0]).toLongLong() : notedRules(static_cast<sqlite3*>(connection));
+    const CharacterFolding* known = fingerprint ? CharacterFolding::find(*fingerprint) : nullptr;
+    const CharacterFolding& rules = known != nullptr ? *known : CharacterFolding::instance();
+    *made = reinterpret_cast<Fts5Tokenizer*>(const_cast<CharacterFolding*>(&rules));
     return SQLITE_OK;
 }
 
@@ -21,8 +37,8 @@ void destroy(Fts5Tokenizer*) {}
 
 using Take = int(void*, int, const char*, int, int, int);
 
-int tokenize(Fts5Tokenizer*, void* context, int flags, const char* text, int length, Take* take) {
-    WordReader reader(QByteArrayView(text, length));
+int tokenize(Fts5Tokenizer* made, void* context, int flags, const char* text, int length, Take* take) {
+    WordReader reader(QByteArrayView(text, length), *reinterpret_cast<const CharacterFolding*>(made));
     const bool isQuery = (flags & FTS5_TOKENIZE_QUERY) != 0;
     while (reader.next()) {
         if (isQuery && reader.isLineEnd())
@@ -53,7 +69,7 @@ bool registerSearchTokenizer(sqlite3* connection) {
     fts5_api* const api = apiOf(connection);
     fts5_tokenizer methods{create, destroy, tokenize};
     return api != nullptr &&
-           api->xCreateTokenizer(api, searchTokenizer, nullptr, &methods, nullptr) == SQLITE_OK;
+           api->xCreateTokenizer(api, searchTokenizer, connection, &methods, nullptr) == SQLITE_OK;
 }
 
 }  // namespace wirepane

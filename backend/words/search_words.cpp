@@ -26,7 +26,7 @@ bool isFollowing(unsigned byte) {
 
 }  // namespace
 
-WordReader::WordReader(QByteArrayView utf8) : text(utf8), folding(CharacterFolding::instance()) {}
+WordReader::WordReader(QByteArrayView utf8, const CharacterFolding& rules) : text(utf8), folding(rules) {}
 
 WordReader::Character WordReader::characterAt(qsizetype position) const {
     const auto byte = [this](qsizetype i) {
@@ -91,13 +91,16 @@ bool WordReader::readPlainRun(Run& run) {
     const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
     const qsizetype end = std::min(text.size(), at + longestWord);
     const qsizetype start = at;
+    const bool splits = folding.splitsAtDigits();
     run.isNumber = isDigit(bytes[start]);
     qsizetype i = start;
     for (; i < end; ++i) {
         const char folded = folding.plainLetter(bytes[i]);
-        if (folded == 0 || isDigit(bytes[i]) != run.isNumber)
+        const bool isNumber = isDigit(bytes[i]);
+        if (folded == 0 || (isNumber != run.isNumber && splits))
             break;
         current[std::size_t(i - start)] = folded;
+        run.digits = isNumber ? run.digits + 1 : 0;
     }
     if (i == start)
         return false;
@@ -106,9 +109,8 @@ bool WordReader::readPlainRun(Run& run) {
     run.characters = int(i - start);
     if (i == text.size() || run.characters == longestWord)
         return true;
-    run.digits = run.isNumber ? run.characters : 0;
     run.last = bytes[i - 1];
-    return bytes[i] < 0x80 && (!run.isNumber || (bytes[i] != '.' && bytes[i] != ','));
+    return bytes[i] < 0x80 && (run.digits == 0 || (bytes[i] != '.' && bytes[i] != ','));
 }
 
 void WordReader::readRun(Run run) {
@@ -116,11 +118,11 @@ void WordReader::readRun(Run run) {
         const Character character = characterAt(at);
         if (character.kind == CharacterKind::Letter) {
             const bool isNumber = isDigit(character.folded);
-            if (run.characters > 0 && isNumber != run.isNumber)
+            if (run.characters > 0 && isNumber != run.isNumber && folding.splitsAtDigits())
                 return;
             append(character.folded);
             run.isNumber = isNumber;
-            run.digits += int(isNumber);
+            run.digits = isNumber ? run.digits + 1 : 0;
             ++run.characters;
         } else if (character.kind == CharacterKind::Symbol && run.digits > 0 && joinsNumber(character, run)) {
             append(character.folded);

@@ -15,10 +15,10 @@ namespace wirepane {
 // Splits a text into the words by which the search compares, in the one way that the index, the query and the
 // check of the index share:
 // - characters are folded (CharacterFolding);
-// - a run of letters and a run of digits are words, cut after 60 characters, also where they touch:
-// "iPhone12"
-//   is iphone and 12; a decimal point between digits, and a comma before three digits of a number, belong to
-//   it: "2.5", "11,700", but "2330,2317" are two codes and a comma;
+// - a run of letters and a run of digits are words, cut after 60 characters, also where they touch (by the
+//   first rules they were one word there): "iPhone12" is iphone and 12; a decimal point between digits, and a
+//   comma before three digits of a number, belong to it: "2.5", "11,700", but "2330,2317" are two codes and a
+//   comma;
 // - any character of a script without blanks, and any sign, is a word by itself: "c++" is c, + and +;
 // - blanks separate; a line end is the word "\n", so that no phrase is found across it.
 class WordReader {
@@ -27,7 +27,7 @@ public:
     static constexpr std::size_t longestWordBytes = 4 * longestWord;
 
     // `utf8` outlives this. Bytes that are no UTF-8 count as signs.
-    explicit WordReader(QByteArrayView utf8);
+    explicit WordReader(QByteArrayView utf8, const CharacterFolding& rules = CharacterFolding::instance());
 
     // Goes to the next word; false at the end.
     bool next();
@@ -49,7 +49,7 @@ private:
     struct Run {
         char32_t last = 0;  // as it stands in the text
         int characters = 0;
-        int digits = 0;  // since the last sign in the number
+        int digits = 0;  // since the last sign in the number, or the last letter
         bool isNumber = false;
         bool grouped = false;
     };

@@ -3,6 +3,7 @@
 #include "terminal/commands/check_command.h"
 
 #include "backend/store/import_upkeep.h"
+#include "backend/store/index_renewal.h"
 #include "backend/store/store_checker.h"
 #include "backend/store/store_file.h"
 #include "terminal/commands/command_arguments.h"
@@ -74,6 +75,10 @@ int runCheck() {
         if (const std::int64_t left = unindexedHeadlines(*store.value()).value_or(0); left > 0)
             printLine(
                 u"The search index is behind an import: %1 headlines are still to come into it."_s.arg(left));
+        if (const std::optional<int> percent = renewalPercent(*store.value()))
+            printLine(
+                u"The search index follows earlier rules; a new one is being made beside it: %1 %."_s.arg(
+                    *percent));
     }
     printLine(faults.value().isEmpty() ? u"The store %1 is sound."_s.arg(file)
                                        : u"The store %1 has faults."_s.arg(file));

@@ -4,6 +4,7 @@
 
 #include "backend/search/query_errors.h"
 #include "backend/store/import_upkeep.h"
+#include "backend/store/index_renewal.h"
 #include "host/contract/search_choices.h"
 #include "terminal/commands/command_arguments.h"
 #include "terminal/console/console.h"
@@ -111,6 +112,10 @@ void noteBacklog(Database& store) {
     if (const std::int64_t left = unindexedHeadlines(store).value_or(0); left > 0)
         printNote(
             u"%1 headlines of an import are not in the search index yet, and not searched."_s.arg(left));
+    if (const std::optional<int> percent = renewalPercent(store))
+        printNote(
+            u"The search index is being made anew (%1 %); until then searches follow earlier rules."_s.arg(
+                *percent));
 }
 
 }  // namespace wirepane

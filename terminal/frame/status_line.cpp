@@ -42,6 +42,13 @@ QString ageText(std::int64_t seconds) {
     return terminalText(TextId::HoursAgo).arg(seconds / hour);
 }
 
+// What searches do not find, or find in another way than they will.
+QString indexText(const FrameStatus& status) {
+    if (status.searchBacklog > 0)
+        return countText(TextId::SearchBacklog, status.searchBacklog);
+    return status.searchRenewal ? terminalText(TextId::SearchRenewal).arg(*status.searchRenewal) : QString();
+}
+
 // Which day the list is of, where that is not to be taken for granted.
 QString dayText(const FrameStatus& status) {
     const auto textOf = [](TextId text, const QDate& day) {
@@ -156,8 +163,7 @@ void StatusLine::show(const FrameStatus& status) {
     present->setText(terminalText(TextId::Present));
     present->setVisible(!status.asOf.isEmpty());
     showText(day, dayText(status));
-    index->setText(status.searchBacklog == 0 ? QString()
-                                             : countText(TextId::SearchBacklog, status.searchBacklog));
+    index->setText(indexText(status));
     showText(headlines,
              status.headlines < 0 ? QString() : countText(TextId::HeadlineCount, status.headlines));
     services->setText(

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <optional>
 
 class QLabel;
 class QPushButton;
@@ -30,6 +31,8 @@ struct FrameStatus {
     QDate newDay;                    // that has begun a while ago
     QDate shownDay;                  // of the list on show, where it is not the present day
     std::int64_t searchBacklog = 0;  // headlines that searches do not find yet
+    std::optional<int> searchRenewal =
+        {};  // how much of the new index is made (in a hundred), while there is one
 };
 
 // The contents of the status bar: what one reads at its left, what one can do about it, and at its right the

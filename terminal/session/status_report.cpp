@@ -158,6 +158,7 @@ FrameStatus StatusReport::now(const SessionFacts& session) {
     status.services = status.allServices;
     status.asOf = asOfText();
     status.searchBacklog = backEnd.searchBacklog();
+    status.searchRenewal = backEnd.searchRenewal();
     if (const OpenView* active = workspace.active()) {
         const QVariantMap view = active->access->state();
         status.services = tickedServices(view);

@@ -53,6 +53,7 @@ enum class TextId {
     SourceFailed,
     ServicesCount,
     SearchBacklog,
+    SearchRenewal,
     AsOf,
     LastHeadline,
     SecondsAgo,

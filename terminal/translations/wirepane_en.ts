@@ -2508,6 +2508,10 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>Search lacks %1 {headline|headlines}: its index follows</translation>
     </message>
+    <message id="TERMINAL_SEARCH_RENEWAL">
+        <source></source>
+        <translation>Searches follow earlier rules: the new index is %1 % made</translation>
+    </message>
     <message id="TERMINAL_SECONDS_AGO">
         <source></source>
         <translation>%1 s ago</translation>

@@ -2508,6 +2508,10 @@
         <source></source>
         <translation>搜尋暫缺 %1 則標題：索引建立中</translation>
     </message>
+    <message id="TERMINAL_SEARCH_RENEWAL">
+        <source></source>
+        <translation>搜尋仍依舊規則：新索引已建立 %1%</translation>
+    </message>
     <message id="TERMINAL_SECONDS_AGO">
         <source></source>
         <translation>%1 秒前</translation>

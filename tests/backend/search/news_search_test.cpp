@@ -128,6 +128,23 @@ TEST_F(NewsSearchTest, SymbolsNarrow) {
 }
 
 // With the keys in memory as without them: news, later stories and replacements are seen at once.
+TEST_F(NewsSearchTest, ACompanyIsFoundUnderEachCodeAndName) {
+    take(SymbolItem{22, u"0700"_s, u"騰訊"_s, 1, u"Tencent"_s});
+    NewsItem coded = newsItem(1, u"coded"_s, at(9, 4), u"Coded"_s);
+    coded.related = {{22, u"0700"_s}};
+    takeNews(coded);
+    takeStory(u"chinese"_s, u"腾讯今日回購"_s, u"-"_s, 3);
+    takeStory(u"english"_s, u"TENCENT buys"_s, u"-"_s, 2);
+    takeStory(u"story"_s, u"Markets"_s, u"Shares of Tencent rose"_s, 1);
+    takeStory(u"none"_s, u"11,700 and 0700"_s, u"-"_s);
+    for (const char16_t* value : {u"700", u"0700", u"00700.HK", u"22:700", u"騰訊", u"腾讯", u"TENCENT"}) {
+        CSearch query = condition({u"symbol:"_s + QString::fromUtf16(value)}, 2);
+        query.language = SearchLanguage::Query;
+        EXPECT_EQ(found(query), (QStringList{u"Coded"_s, u"腾讯今日回購"_s, u"TENCENT buys"_s, u"Markets"_s}))
+            << qPrintable(QString::fromUtf16(value));
+    }
+}
+
 TEST_F(NewsSearchTest, FollowsWhatIsTakenIn) {
     for (const bool loaded : {false, true}) {
         if (loaded) {

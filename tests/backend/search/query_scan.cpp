@@ -346,7 +346,10 @@ private:
         if (names.isEmpty() && market < 0 && !isDigits) {
             const QByteArray start = phrase(value);
             for (auto known = scan.symbolNames.begin(); known != scan.symbolNames.end(); ++known) {
-                if (!start.isEmpty() && known.value().startsWith(start) && meant.size() < 100) {
+                const bool fits = std::any_of(known->begin(), known->end(), [&](const QByteArray& name) {
+                    return !start.isEmpty() && name.startsWith(start);
+                });
+                if (fits && meant.size() < 100) {
                     meant += known.key();
                     names += known.value();
                 }
@@ -392,7 +395,7 @@ void QueryScan::add(const NewsItem& item, int categoryId) {
 }
 
 void QueryScan::add(const SymbolItem& symbol) {
-    symbolNames.insert({symbol.market, symbol.code}, joined(symbol.name));
+    symbolNames.insert({symbol.market, symbol.code}, {joined(symbol.name), joined(symbol.englishName)});
 }
 
 void QueryScan::nameService(unsigned char service, const QStringList& names) {

@@ -46,7 +46,7 @@ private:
     const QDate today;
     PlainWords words;
     std::vector<Entry> entries;
-    QMap<std::pair<int, QString>, QByteArray> symbolNames;  // by market and code
+    QMap<std::pair<int, QString>, QList<QByteArray>> symbolNames;  // in each language, by market and code
     QMap<int, QList<QByteArray>> serviceNames;
 };
 

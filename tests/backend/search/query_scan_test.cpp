@@ -165,8 +165,9 @@ protected:
     void takeSymbols() {
         for (const SymbolItem& symbol :
              {SymbolItem{16, u"2330"_s, u"台積電"_s}, SymbolItem{16, u"2317"_s, u"鴻海"_s},
-              SymbolItem{22, u"0700"_s, u"騰訊控股"_s}, SymbolItem{1, u"IBM"_s, u"International Business"_s},
-              SymbolItem{1, u"AAPL"_s, u"Apple Inc."_s}, SymbolItem{1, u"APLE"_s, u"Apple Hospitality"_s}}) {
+              SymbolItem{22, u"0700"_s, u"騰訊控股"_s, 0, u"Apple Daily"_s},
+              SymbolItem{1, u"IBM"_s, u"International Business"_s}, SymbolItem{1, u"AAPL"_s, u"Apple Inc."_s},
+              SymbolItem{1, u"APLE"_s, u"Apple Hospitality"_s}}) {
             take(symbol);
             scan.add(symbol);
         }

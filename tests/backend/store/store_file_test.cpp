@@ -30,7 +30,8 @@ const StoreOptions impatient{.busyTimeout = 20ms};
 constexpr const char* toFirstVersion =
     "PRAGMA user_version = 1; DROP VIEW headlines; DROP VIEW shown_symbols; DROP TABLE import_blocks; "
     "DROP TABLE held_links; DROP TABLE set_aside; ALTER TABLE all_headlines RENAME TO headlines; "
-    "DROP TABLE versions; DROP TABLE withdrawals; DROP TABLE sources; DROP TABLE source_list; DROP TABLE "
+    "DROP TABLE index_renewal; DROP TABLE versions; DROP TABLE withdrawals; DROP TABLE sources; DROP TABLE "
+    "source_list; DROP TABLE "
     "source_states; DROP TABLE item_origins; "
     "ALTER TABLE symbols DROP COLUMN english_name; DROP TABLE retention; DROP TABLE quotes; DROP TABLE "
     "search_rules; DROP TABLE arrivals; DROP TABLE "
@@ -91,7 +92,7 @@ TEST_F(StoreFileTest, ANewStoreHasItsServicesAndKeepsWhatItHoldsWhenOpenedAgain)
 }
 
 TEST_F(StoreFileTest, TheSearchKnowsItsTokenizer) {
-    EXPECT_EQ(rows("SELECT sql LIKE '%tokenize=''wirepane''%' FROM sqlite_schema WHERE name = 'news_search'"),
+    EXPECT_EQ(rows("SELECT sql LIKE '%tokenize=''wirepane %' FROM sqlite_schema WHERE name = 'news_search'"),
               QStringList{u"1"_s});
     EXPECT_STREQ(searchTokenizer, "wirepane");
     takeNews(newsItem(1, u"a"_s, at(9, 0), u"Zürich exchange"_s));
