@@ -87,7 +87,7 @@ void NetworkFeedSource::resume(const Result<QString>& position) {
 
 void NetworkFeedSource::poll() {
     if (isOpen)
-        return show();
+        return keepOpen();
     if (isWaiting || !isOnline || isAsking || hasLeft || source.isPaused || hasBatch())
         return;
     const std::int64_t now = means.clock();
@@ -136,7 +136,6 @@ void NetworkFeedSource::takeStream(SourceAnswer&& answer) {
     if (answer.isOpen && !isOpen) {
         openedMs = means.clock();
         hasBrought = false;
-        kept.nextTry = 0;
     }
     isOpen = answer.isOpen;
     hasAnswer = true;
@@ -161,6 +160,16 @@ void NetworkFeedSource::takeStream(SourceAnswer&& answer) {
     show();
     if (hasBatch())
         tellReady();
+}
+
+// Others see by its next try that somebody reads it.
+void NetworkFeedSource::keepOpen() {
+    constexpr std::int64_t shown = 90;  // seconds
+    if (kept.nextTry < seconds() + shown / 3) {
+        kept.nextTry = seconds() + shown;
+        hasChanged = true;
+    }
+    show();
 }
 
 // One that ends as soon as it stands is called as one that does not.

@@ -61,6 +61,7 @@ private:
     void takeStream(SourceAnswer&& answer);
     void takeItems(SourceAnswer&& answer);
     void handOver(std::vector<SourceItem>&& items, const std::shared_ptr<void>& room);
+    void keepOpen();
     void planCall(const SourceAnswer& answer);
     void keepFault();
     void planNext(const PollSchedule::Outcome& outcome);

@@ -5,7 +5,6 @@
 #include "backend/network/answer_reading.h"
 #include "backend/network/source_request.h"
 #include "host/contract/clock.h"
-#include "terminal/sources/source_errors.h"
 #include "terminal/sources/trial_reading.h"
 
 #include <QPointer>
@@ -24,7 +23,14 @@ TrialReport failed(const Error& fault) {
 
 }  // namespace
 
-FetchingTrial::FetchingTrial(SecretStore& secretStore) : secrets(secretStore) {}
+FetchingTrial::FetchingTrial(SecretStore& secretStore) : secrets(secretStore) {
+    listening.setSingleShot(true);
+    connect(&listening, &QTimer::timeout, this, [this] {
+        stream.reset();
+        asker.reset();
+        tell(followed);
+    });
+}
 
 FetchingTrial::~FetchingTrial() = default;
 
@@ -36,8 +42,6 @@ void FetchingTrial::start(const NetworkSource& source, const SourceSecret& secre
         checked.secret = secretToKeep;
     if (const Done sound = checkedSource(checked); !sound) {
         tell(failed(sound.error()));
-    } else if (isStream(source)) {
-        tell(failed(makeError<source_errors::streamNotTried>()));
     } else if (source.address.isLocalFile()) {
         read([source] {
             return readTrial(answerOfFile(source.address.toLocalFile(), {}, HttpLimits().body), source,
@@ -62,13 +66,33 @@ void FetchingTrial::stop() {
     ++number;
     teller = {};
     client.reset();
+    listening.stop();
+    stream.reset();
+    asker.reset();
 }
 
 void FetchingTrial::ask(const NetworkSource& source, const SourceSecret& secret) {
+    if (isStream(source))
+        return follow(source, secret);
     client = std::make_unique<HttpClient>();
     client->ask(requestOf(source, secret), [this, source](const HttpAnswer& answer) {
         // Not told from within the client, which whoever is told may end.
         read([answer, source] { return readTrial(answer, source, host_clock::now()); });
+    });
+}
+
+// Those who are told may end this, so that it is never from within the asker.
+void FetchingTrial::follow(const NetworkSource& source, const SourceSecret& secret) {
+    constexpr int longestMs = 5000;  // after it stands
+    followed = {};
+    asker = std::make_unique<NetworkAsker>();
+    stream = asker->follow({source, secret, {}}, [this](SourceAnswer answer) {
+        const bool isDone = !answer.isOpen;
+        addToTrial(followed, std::move(answer));
+        if (isDone || followed.items >= static_cast<int>(TrialReport::mostItems))
+            listening.start(0);
+        else if (!listening.isActive())
+            listening.start(longestMs);
     });
 }
 

@@ -15,11 +15,6 @@ inline constexpr ErrorCode noOpml{"ERROR_SOURCES_NO_OPML", u"This is no list of 
 inline constexpr ErrorCode opmlWithoutFeeds{"ERROR_SOURCES_OPML_WITHOUT_FEEDS",
                                             u"The list names no feed that could be read."};
 
-// Of a source that is asked once, before it is kept.
-inline constexpr ErrorCode streamNotTried{
-    "ERROR_SOURCES_STREAM_NOT_TRIED",
-    u"A stream cannot be tried beforehand; its row tells how it stands once it is on."};
-
 // Of secrets; what they say never holds one.
 inline constexpr ErrorCode secretMissing{"ERROR_SOURCES_SECRET_MISSING",
                                          u"The keychain has no secret called %1."};

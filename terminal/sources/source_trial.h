@@ -36,7 +36,7 @@ struct TrialReport {
     std::optional<Error> fault;            // why nothing could be read, or what is strange in what was
 };
 
-// Asks a source once, without keeping anything of it. Interface thread.
+// Asks a source once, or follows a stream for a moment, without keeping anything of it. Interface thread.
 class SourceTrial {
 public:
     using Told = std::function<void(const TrialReport&)>;

@@ -8,6 +8,7 @@
 #include "backend/network/network_errors.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -81,10 +82,14 @@ TrialReport readTrial(const HttpAnswer& answer, const NetworkSource& source, std
             report.fitting = asTable;
         }
     }
-    report.left = read.left;
-    report.fault = read.fault;
-    showItems(report, read.items);
+    addToTrial(report, std::move(read));
     return report;
+}
+
+void addToTrial(TrialReport& report, SourceAnswer&& answer) {
+    report.left += answer.left;
+    report.fault = answer.fault;
+    showItems(report, answer.items);
 }
 
 }  // namespace wirepane

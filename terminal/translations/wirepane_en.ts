@@ -1051,10 +1051,6 @@
         <source></source>
         <translation>The keychain has no secret called %1.</translation>
     </message>
-    <message id="ERROR_SOURCES_STREAM_NOT_TRIED">
-        <source></source>
-        <translation>A stream cannot be tried beforehand; its row tells how it stands once it is on.</translation>
-    </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
         <translation>It is older than the news that this store keeps: since %1.</translation>

@@ -1051,10 +1051,6 @@
         <source></source>
         <translation>钥匙串中没有名为 %1 的密钥。</translation>
     </message>
-    <message id="ERROR_SOURCES_STREAM_NOT_TRIED">
-        <source></source>
-        <translation>流无法预先测试；开启后会在该行显示状态。</translation>
-    </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
         <translation>它早于本数据库所保留的新闻：自 %1 起。</translation>

@@ -1051,10 +1051,6 @@
         <source></source>
         <translation>鑰匙圈中沒有名為 %1 的密鑰。</translation>
     </message>
-    <message id="ERROR_SOURCES_STREAM_NOT_TRIED">
-        <source></source>
-        <translation>串流無法預先測試；開啟後會在該列顯示狀態。</translation>
-    </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
         <translation>它早於本資料庫所保留的新聞：自 %1 起。</translation>

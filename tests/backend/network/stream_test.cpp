@@ -99,6 +99,7 @@ protected:
         ASSERT_TRUE(hasTold(5));
         EXPECT_TRUE(isIn(SourceState::Live));
 
+        EXPECT_GT(standing().nextTry, QDateTime::currentSecsSinceEpoch()) << "somebody reads it";
         stream.unplug();
         EXPECT_TRUE(isIn(SourceState::Silent));
         publish(2);
