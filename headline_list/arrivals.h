@@ -15,6 +15,10 @@ namespace wirepane {
 class Arrivals {
 public:
     static constexpr int stepMs = 500;
+    static constexpr std::int64_t newFor = 900;  // seconds after its publishing that news is new
+
+    // Whether news of this time (seconds since 1970) that comes now has just been published.
+    static bool isNew(std::int64_t time, std::int64_t now) { return now - time <= newFor; }
 
     bool isEmpty() const { return times.isEmpty(); }
     // Of more than a few screens of them, the earlier ones have been pushed out of sight.

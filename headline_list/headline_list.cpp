@@ -98,7 +98,7 @@ void HeadlineList::refill() {
 HeadlinePlace HeadlineList::vProcessNewHeadline(const CHeadline& headline, bool showDate) {
     if (sheet == nullptr)
         return {};
-    noteArrival(keyOf(headline));
+    noteArrival(headline);
     const int known = table.rowOfSameDay(keyOf(headline));
     if (known < 0) {
         const int row = table.insertPosition(headline.time);

@@ -163,7 +163,7 @@ private:
     void forgetCells(const HeadlineKey& key);
     void takeDraggedWidth(int place, int width);
     void applyWidths();
-    void noteArrival(const HeadlineKey& key);
+    void noteArrival(const CHeadline& headline);
     void fade();
     QString serviceName(unsigned char service) const;
     // What became of the news of a row; as first sent where marks are not asked for.

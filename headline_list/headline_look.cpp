@@ -169,11 +169,15 @@ QString HeadlineList::toolTip(int row) const {
 
 // --- Rows that have just come ---
 
-void HeadlineList::noteArrival(const HeadlineKey& key) {
+// What has come late, as all that a source held before it was first read, is told in its place, but is not
+// new.
+void HeadlineList::noteArrival(const CHeadline& headline) {
+    if (!Arrivals::isNew(headline.time, host_clock::now()))
+        return;
     const bool animates = sheet->style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, sheet) > 0;
     if (!state->options[ViewOption::MarkArrivals] || !animates || !sheet->isVisible())
         return;
-    state->arrivals.note(key, state->clock.elapsed());
+    state->arrivals.note(keyOf(headline), state->clock.elapsed());
     if (!state->fading.isActive())
         state->fading.start(Arrivals::stepMs);
 }

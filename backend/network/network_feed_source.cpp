@@ -36,6 +36,10 @@ std::size_t printOf(const NewsItem& item) {
                       item.story.has_value());
 }
 
+const NewsItem* newsOf(const SourceItem& item) {
+    return item.content ? std::get_if<NewsItem>(&item.content.value()) : nullptr;
+}
+
 }  // namespace
 
 struct NetworkFeedSource::Pending : FeedBatch {
@@ -148,16 +152,21 @@ void NetworkFeedSource::takeStream(SourceAnswer&& answer) {
         kept.lastSuccess = seconds();
     const bool goesOn = answer.validators.event != validators.event;
     if (!answer.items.empty() || (isOpen && goesOn)) {
-        hasBrought = true;
         if (!answer.items.empty())
             gaps.arrive(seconds());
+        if (hasBrought || !validators.event.isEmpty())
+            noteDelay(answer.items);
+        hasBrought = true;
         validators = answer.validators;
         handOver(std::move(answer.items), answer.room);
     }
     if (!isOpen)
         planCall(answer);
     keepFault();
-    show();
+    if (isOpen)
+        keepOpen();
+    else
+        show();
     if (hasBatch())
         tellReady();
 }
@@ -189,7 +198,6 @@ void NetworkFeedSource::take(SourceAnswer&& answer) {
     fault = answer.fault;
     isAlive = answer.isAlive;
     isReadable = answer.isRead;
-    kept.delay = answer.milliseconds;
     if (answer.isAlive)
         gaps.listen(seconds());
     const bool isEmptied = answer.isRead && !answer.isUnchanged && answer.items.empty() && answer.left == 0;
@@ -207,6 +215,8 @@ void NetworkFeedSource::take(SourceAnswer&& answer) {
         // What was there before it was ever asked, or read again after a restart, has not come now.
         if (isFirst)
             news = 0;
+        else if (news > 0)
+            noteDelay(batches.back()->items);
     }
     if (news > 0)
         gaps.arrive(seconds());
@@ -222,7 +232,7 @@ void NetworkFeedSource::takeItems(SourceAnswer&& answer) {
     QHash<QString, std::size_t> present;
     std::vector<SourceItem> fresh;
     for (SourceItem& item : answer.items) {
-        const NewsItem* const news = item.content ? std::get_if<NewsItem>(&item.content.value()) : nullptr;
+        const NewsItem* const news = newsOf(item);
         if (news != nullptr) {
             const std::size_t print = printOf(*news);
             present.insert(news->identity, print);
@@ -234,6 +244,18 @@ void NetworkFeedSource::takeItems(SourceAnswer&& answer) {
     }
     handed = std::move(present);
     handOver(std::move(fresh), nullptr);
+}
+
+// From the publishing of the newest of them until now.
+void NetworkFeedSource::noteDelay(const std::vector<SourceItem>& items) {
+    std::int64_t newest = 0;
+    for (const SourceItem& item : items) {
+        if (const NewsItem* const news = newsOf(item))
+            newest = std::max(newest, news->time);
+    }
+    if (newest > 0)
+        kept.delay =
+            static_cast<int>(std::clamp<std::int64_t>(means.clock() - newest * 1000, 0, longestPlan));
 }
 
 // What waits behind the batch that is being taken grows.

@@ -62,6 +62,7 @@ private:
     void takeItems(SourceAnswer&& answer);
     void handOver(std::vector<SourceItem>&& items, const std::shared_ptr<void>& room);
     void keepOpen();
+    void noteDelay(const std::vector<SourceItem>& items);
     void planCall(const SourceAnswer& answer);
     void keepFault();
     void planNext(const PollSchedule::Outcome& outcome);

@@ -48,7 +48,7 @@ NetworkSources::~NetworkSources() {
 }
 
 void NetworkSources::begin() {
-    connect(&looking, &QTimer::timeout, this, &NetworkSources::follow);
+    connect(&looking, &QTimer::timeout, this, &NetworkSources::look);
     connect(&keeping, &QTimer::timeout, this, &NetworkSources::keepStandings);
     looking.start(lookInterval);
     keeping.start(keepInterval);
@@ -69,10 +69,15 @@ void NetworkSources::follow() {
         if (!database)
             return;
         store = std::move(database.value());
-        version = std::make_unique<DataVersion>(*store);
     }
-    if (version->hasChanged())
-        read();
+    read();
+}
+
+// The back end watches the store already.
+void NetworkSources::look() {
+    const std::int64_t present = backEnd.storeChanges();
+    if (store == nullptr || std::exchange(changesSeen, present) != present)
+        follow();
 }
 
 void NetworkSources::read() {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "backend/database/data_version.h"
+#include "backend/database/database.h"
 #include "backend/network/network_feed_source.h"
 #include "backend/network/source_list.h"
 
@@ -39,6 +39,7 @@ public:
 
 private:
     void begin();
+    void look();
     void read();
     void take(const std::vector<NetworkSource>& listed, SourceList& list);
     void open(const NetworkSource& source, const SourceStanding& standing);
@@ -49,7 +50,7 @@ private:
     std::unique_ptr<NetworkAsker> ownAsker;
     NetworkMeans means;
     std::unique_ptr<Database> store;  // to read the list
-    std::unique_ptr<DataVersion> version;
+    std::int64_t changesSeen = -1;    // of the store
     std::int64_t revision = -1;
     std::vector<std::shared_ptr<NetworkFeedSource>> opened;
     QTimer looking;

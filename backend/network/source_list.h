@@ -19,7 +19,7 @@ struct SourceStanding {
     std::int64_t nextTry = 0;
     std::int64_t day = 0;  // yyyymmdd, local: the day of `items`
     int items = 0;         // taken in on that day
-    int delay = -1;        // milliseconds that the last answer took; -1: there was none
+    int delay = -1;        // of its last news, milliseconds from its publishing on; -1: there was none
     QJsonObject fault;     // of the last try, as errorValue() makes it; empty: there was none
     QString gaps;          // what has been learned of the gaps between its news, in the source's own form
 

@@ -181,8 +181,10 @@ std::optional<Error> EmbeddedBackEnd::storeDamage() const {
 void EmbeddedBackEnd::checkForNews() {
     moveOn();
     // Whether it was another program only the store's own thread can tell.
-    if (reader.changedElsewhere())
+    if (reader.changedElsewhere()) {
+        ++changes;
         intake.ask({});
+    }
     tellNews();
     tellDue();
     followIndex();

@@ -123,6 +123,8 @@ public:
     void setConnected(bool on);
     // How many headlines were told late after the last outage.
     int lateHeadlines() const { return lastMissed; }
+    // Another number after anybody has written to the store, as the last look at it has found.
+    std::int64_t storeChanges() const { return changes; }
     // When this headline, or its present version, reached the store, in seconds since 1970; nothing for an
     // unknown one.
     std::optional<std::int64_t> receivedTime(const HeadlineKey& key) { return reader.received(key); }
@@ -298,6 +300,7 @@ private:
     std::vector<SymbolItem> symbolsToTell;
     std::optional<Error> damageOfWork;
     int lastMissed = 0;
+    std::int64_t changes = 0;  // of the store that were seen
     RequestLog requests;
     SimplifiedChinese chinese;
     SymbolTable symbolTable;

@@ -158,12 +158,17 @@ void printTrial(const TrialReport& report) {
         printNote(sentence(*report.reason));
 }
 
-// A source of the list by its name, or an address as `add` takes it.
+// A source of the list by its name or title, or an address as `add` takes it.
 int test(Room& room) {
     const auto& sources = room.desk.sources();
-    const auto listed = std::find_if(sources.begin(), sources.end(), [&](const ListedSource& each) {
-        return each.source.name == room.rest.constFirst();
-    });
+    const QString& named = room.rest.constFirst();
+    const auto isCalled = [&](const QString NetworkSource::*by) {
+        return std::find_if(sources.begin(), sources.end(), [&](const ListedSource& each) {
+            return (each.source.*by).compare(named, Qt::CaseInsensitive) == 0;
+        });
+    };
+    const auto byName = isCalled(&NetworkSource::name);
+    const auto listed = byName != sources.end() ? byName : isCalled(&NetworkSource::title);
     const SplitAddress split = listed != sources.end() ? SplitAddress() : typedAddress(room);
     const auto source =
         listed != sources.end() ? Result<NetworkSource>(listed->source) : defined(room.arguments, split);
@@ -238,7 +243,7 @@ constexpr std::array actions{
 void addOptions(QCommandLineParser& parser) {
     parser.addPositionalArgument(
         u"action"_s,
-        u"list; add ADDRESS; test NAME or ADDRESS; pause, resume or remove NAME; move NAME PLACE; "
+        u"list; add ADDRESS; test NAME, TITLE or ADDRESS; pause, resume or remove NAME; move NAME PLACE; "
         "import or export FILE (OPML)."_s,
         u"action [argument...]"_s);
     parser.addOptions({

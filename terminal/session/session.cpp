@@ -369,7 +369,7 @@ void Session::setActive(bool active) {
 }
 
 void Session::showStatus() {
-    mainFrame->showStatus(status->now({storeFile, isSampleFollowed, ownKind == StoreKind::Own}));
+    mainFrame->showStatus(status->now({storeFile, isSampleFollowed}));
 }
 
 void Session::showViews() {

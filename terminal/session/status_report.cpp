@@ -59,14 +59,14 @@ std::vector<SourceReport> sourcesOf(const LiveFeed& feed, const QString& storePa
     return sources;
 }
 
-// The light is green only while a source is live; a store of the user's own says when it has none.
-void tellSources(FrameStatus& status, const std::vector<SourceReport>& sources, bool isUsersOwn) {
+// The light is green only while a source is live.
+void tellSources(FrameStatus& status, const std::vector<SourceReport>& sources) {
     const auto has = [&](SourceState::Kind kind) {
         return std::any_of(sources.begin(), sources.end(),
                            [kind](const SourceReport& source) { return source.state.kind == kind; });
     };
-    status.hasNoSource = sources.empty() && isUsersOwn;
-    status.isLive = has(SourceState::Live) || (sources.empty() && !isUsersOwn);
+    status.hasNoSource = sources.empty();
+    status.isLive = has(SourceState::Live);
     if (status.hasNoSource)
         status.feed = terminalText(TextId::NoSources);
     else if (!status.isLive && has(SourceState::Stale))
@@ -146,7 +146,7 @@ FrameStatus StatusReport::now(const SessionFacts& session) {
     status.isInvented = session.isSampleFollowed && status.isLive;
     status.feed = status.isInvented ? terminalText(TextId::FeedSample) : feedText(state);
     if (status.isLive && !status.isInvented)
-        tellSources(status, sourcesOf(feed, backEnd.storePath()), session.isUsersOwn);
+        tellSources(status, sourcesOf(feed, backEnd.storePath()));
     status.feedTip = feedTip(feed);
     status.lastHeadline = lastHeadline;
     status.now = host_clock::now();

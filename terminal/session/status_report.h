@@ -17,7 +17,6 @@ QString asOfText();
 struct SessionFacts {
     QString storeFile;
     bool isSampleFollowed = false;
-    bool isUsersOwn = false;  // the store
 };
 
 // Gathers what the status bar says.

@@ -57,6 +57,8 @@ TEST(Arrivals, FadeInEightStepsAndAreForgotten) {
     EXPECT_TRUE(arrivals.holds(key));
     arrivals.forgetFaded(5000);
     EXPECT_TRUE(arrivals.isEmpty());
+    EXPECT_TRUE(Arrivals::isNew(10'000, 10'900));
+    EXPECT_FALSE(Arrivals::isNew(10'000, 10'901)) << "what was published before is late, not new";
 }
 
 TEST_F(HeadlineLook, ATipSaysWhatARowHasNoRoomFor) {

@@ -4,9 +4,9 @@
 #include "backend/network/http_fetch.h"
 #include "backend/network/network_errors.h"
 #include "tests/backend/network/fault_server.h"
+#include "tests/backend/network/gzip.h"
 
 #include <QCoreApplication>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -34,14 +34,6 @@ HttpAnswer answerTo(HttpClient& client, const HttpRequest& request) {
     return answer.value_or(HttpAnswer());
 }
 
-// As the coding "gzip" has it, of so many times the same byte.
-QByteArray gzipOf(qsizetype count) {
-    QProcess gzip;
-    gzip.start(u"sh"_s, {u"-c"_s, u"head -c %1 /dev/zero | gzip -9"_s.arg(count)});
-    gzip.waitForFinished();
-    return gzip.readAllStandardOutput();
-}
-
 QByteArray headOf(const ErrorCode* code) {
     return code == nullptr ? QByteArray("none") : QByteArray(code->key);
 }
@@ -61,18 +53,19 @@ TEST(HttpClient, TakesNothingOfAnswersThatAreNotSound) {
         {"cut off", {ok + "Content-Length: 10\r\n\r\nabc"}, &network_errors::cutOff},
         {"cut off in a chunk", {ok + "Transfer-Encoding: chunked\r\n\r\nff\r\nabc"}, &network_errors::cutOff},
         {"cut off gzip",
-         {ok + "Content-Encoding: gzip\r\nContent-Length: 90000\r\n\r\n" + gzipOf(900).left(12)},
+         {ok + "Content-Encoding: gzip\r\nContent-Length: 90000\r\n\r\n" + test::gzipOf(900).left(12)},
          &network_errors::cutOff},
-        {"gzip", Server::whole("200 OK", "Content-Encoding: gzip\r\n", gzipOf(100)), nullptr,
+        {"gzip", Server::whole("200 OK", "Content-Encoding: gzip\r\n", test::gzipOf(100)), nullptr,
          QByteArray(100, '\0')},
         {"deflate without its head",
          Server::whole("200 OK", "Content-Encoding: deflate\r\n", QByteArray::fromHex("4b4c4a0600")), nullptr,
          "abc"},
-        {"gzip in two members", Server::whole("200 OK", "Content-Encoding: gzip\r\n", gzipOf(3) + gzipOf(2)),
-         nullptr, QByteArray(5, '\0')},
+        {"gzip in two members",
+         Server::whole("200 OK", "Content-Encoding: gzip\r\n", test::gzipOf(3) + test::gzipOf(2)), nullptr,
+         QByteArray(5, '\0')},
         {"a coding that was not asked for", Server::whole("200 OK", "Content-Encoding: br\r\n", "abc"),
          &network_errors::cutOff},
-        {"gzip bomb", Server::whole("200 OK", "Content-Encoding: gzip\r\n", gzipOf(50'000'000)),
+        {"gzip bomb", Server::whole("200 OK", "Content-Encoding: gzip\r\n", test::gzipOf(50'000'000)),
          &network_errors::bodyTooLarge},
         {"too large", Server::whole("200 OK", "", QByteArray(300'000, 'x')), &network_errors::bodyTooLarge},
         {"too large without a length",

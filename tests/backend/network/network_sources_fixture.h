@@ -65,9 +65,11 @@ protected:
     }
 
     std::vector<Entry> entries{{u"1"_s, u"1"_s, u"https://x.example/1"_s, 3}};
-    QByteArray answer;  // in place of the entries
+    std::optional<FaultServer::Reply> instead;  // in place of the entries
     FaultServer server{[this](const FaultServer::Seen& seen) {
-        const QByteArray body = answer.isNull() ? rss(entries) : answer;
+        if (instead)
+            return *instead;
+        const QByteArray body = rss(entries);
         const QByteArray etag = '"' + QByteArray::number(qHash(body)) + '"';
         return seen.headers.value("if-none-match") == etag
                    ? FaultServer::whole("304 Not Modified", "", "")

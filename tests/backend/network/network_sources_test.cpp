@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Sources of the list in a running terminal: from a server on the loopback to what views are told.
 #include "backend/network/network_errors.h"
+#include "tests/backend/network/gzip.h"
 #include "tests/backend/network/network_sources_fixture.h"
 #include "tests/support/loopback_server.h"
 #include "tests/support/qt_printers.h"
@@ -76,26 +77,48 @@ TEST_F(NetworkSourcesTest, TakesTheSameNewsOnceWhoeverBringsItUnderWhateverName)
 TEST_F(NetworkSourcesTest, SaysWhatIsWrongAndKeepsWhatWasThere) {
     add(server);
     ASSERT_TRUE(hasTold(1));
+    using Server = FaultServer;
+    const QByteArray page = "<!DOCTYPE html><html><head><title>Blocked</title></head></html>";
+    const QByteArray big5 = "Content-Type: text/xml; charset=big5\r\n";
+    const QByteArray list = rss(entries);
+    const QByteArray bomb = test::gzipOf(50'000'000);
     const struct {
-        QByteArray answer;
+        const char* what;
+        std::optional<Server::Reply> reply;
         const ErrorCode* fault;
-        SourceState::Kind state;
+        SourceState::Kind state = SourceState::Failed;
     } cases[] = {
-        {"<!DOCTYPE html><html><head><title>Blocked</title></head></html>", &network_errors::pageInstead,
-         SourceState::Failed},
-        {"  ", &network_errors::emptyAnswer, SourceState::Failed},
-        {rss({}), &network_errors::emptyList, SourceState::Live},
-        {"<rss version='2.0'><channel><item><guid>urn:9</guid></item></channel></rss>",
+        {"firewall", Server::whole("403 Forbidden", "", page), &network_errors::forbidden},
+        {"page", Server::whole("200 OK", "", page), &network_errors::pageInstead},
+        {"portal", Server::whole("302 Found", "Location: http://192.168.7.1/login\r\n", ""),
+         &network_errors::privateAddress},
+        {"sign in", Server::whole("511 Sign in", "", page), &network_errors::signInNeeded},
+        {"empty", Server::whole("200 OK", "", "  "), &network_errors::emptyAnswer},
+        {"shrunk to nothing", Server::whole("200 OK", "", rss({})), &network_errors::emptyList,
+         SourceState::Live},
+        {"no item sound",
+         Server::whole("200 OK", "",
+                       "<rss version='2.0'><channel><item><guid>urn:9</guid></item></channel></rss>"),
          &network_errors::nothingTaken, SourceState::Live},
-        {rss(entries), nullptr, SourceState::Live},
+        {"clock off", Server::whole("200 OK", "Date: Sun, 06 Nov 1994 08:49:37 GMT\r\n", list),
+         &network_errors::clockOff, SourceState::Live},
+        {"wrong charset", Server::whole("200 OK", big5, list), nullptr, SourceState::Live},
+        {"cut off", Server::Reply{"HTTP/1.1 200 OK\r\nContent-Length: 9999\r\n\r\n" + list},
+         &network_errors::cutOff},
+        {"bomb", Server::whole("200 OK", "Content-Encoding: gzip\r\n", bomb), &network_errors::bodyTooLarge},
+        {"well again", std::nullopt, nullptr, SourceState::Live},
     };
     for (const auto& one : cases) {
-        answer = one.answer;
+        instead = one.reply;
         askAgain(server);
-        EXPECT_EQ(standing().fault.value("code"_L1).toString(),
-                  QLatin1StringView(one.fault ? one.fault->key : ""))
-            << one.answer.toStdString();
-        EXPECT_EQ(network->sources().front()->state().kind, one.state) << one.answer.toStdString();
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] {
+                return standing().fault.value("code"_L1).toString() ==
+                       QLatin1StringView(one.fault ? one.fault->key : "");
+            },
+            2000))
+            << one.what << ": " << standing().fault.value("code"_L1).toString().toStdString();
+        EXPECT_EQ(network->sources().front()->state().kind, one.state) << one.what;
     }
     server.close();
     for (QObject* socket : server.findChildren<QSslSocket*>())
