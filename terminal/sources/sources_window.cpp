@@ -210,6 +210,9 @@ void SourcesWindow::retranslate() {
     upButton->setAccessibleName(terminalText(TextId::SourceUp));
     downButton->setToolTip(terminalText(TextId::SourceDown));
     downButton->setAccessibleName(terminalText(TextId::SourceDown));
+    // What a trial has told is in the language that was in force.
+    trial.stop();
+    trialView->showNotAsked();
     model->retranslate();
     showList();
 }
@@ -257,7 +260,7 @@ void SourcesWindow::showCurrent() {
     const QString name = listed != nullptr ? listed->source.name : QString();
     if (std::exchange(shownName, name) != name) {
         trial.stop();
-        trialView->clear();
+        trialView->showNotAsked();
     }
 }
 

@@ -42,9 +42,6 @@ TrialView::TrialView(QWidget* parent) : QWidget(parent), label(new QLabel), list
     list->setRootIsDecorated(false);
     list->setUniformRowHeights(true);
     list->setAlternatingRowColors(true);
-    list->setHeaderLabels({terminalText(TextId::TrialTime), terminalText(TextId::TrialTopic),
-                           terminalText(TextId::TrialHeadline)});
-    list->setAccessibleName(terminalText(TextId::TrialTitle));
     list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     list->header()->setStretchLastSection(true);
     list->setMinimumHeight(list->fontMetrics().height() * 3 / 2 * fewestRows);
@@ -53,15 +50,19 @@ TrialView::TrialView(QWidget* parent) : QWidget(parent), label(new QLabel), list
     column->setSpacing(4);
     column->addWidget(label);
     column->addWidget(list, 1);
+    showNotAsked();
 }
 
-void TrialView::clear() {
-    tell({}, false);
+void TrialView::showNotAsked() {
     list->clear();
+    list->setHeaderLabels({terminalText(TextId::TrialTime), terminalText(TextId::TrialTopic),
+                           terminalText(TextId::TrialHeadline)});
+    list->setAccessibleName(terminalText(TextId::TrialTitle));
+    tell(terminalText(TextId::TrialNotAsked), false);
 }
 
 void TrialView::showAsking() {
-    clear();
+    list->clear();
     tell(terminalText(TextId::TrialAsking), false);
 }
 

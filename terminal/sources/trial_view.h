@@ -18,7 +18,8 @@ class TrialView : public QWidget {
 public:
     explicit TrialView(QWidget* parent = nullptr);
 
-    void clear();
+    // What it is for, in the language in force.
+    void showNotAsked();
     void showAsking();
     void show(const TrialReport& report);
     QString sentence() const;

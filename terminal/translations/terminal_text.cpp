@@ -237,8 +237,9 @@ constexpr std::array keys{
     "TERMINAL_SOURCES_SILENT",
     "TERMINAL_SOURCES_STALE",
     "TERMINAL_TRIAL_TOO_OLD",
+    "TERMINAL_TRIAL_NOT_ASKED",
 };
-static_assert(keys.size() == static_cast<std::size_t>(TextId::TrialTooOld) + 1);
+static_assert(keys.size() == static_cast<std::size_t>(TextId::TrialNotAsked) + 1);
 
 }  // namespace
 

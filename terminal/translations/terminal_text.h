@@ -235,6 +235,7 @@ enum class TextId {
     SourcesSilent,
     SourcesStale,
     TrialTooOld,
+    TrialNotAsked,
 };
 
 // The text in the language in force.

@@ -2932,6 +2932,10 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>The first items as they would stand: %1 read, %2 rejected.</translation>
     </message>
+    <message id="TERMINAL_TRIAL_NOT_ASKED">
+        <source></source>
+        <translation>Test asks the source once and shows its newest items here, as they would stand.</translation>
+    </message>
     <message id="TERMINAL_TRIAL_NOTHING">
         <source></source>
         <translation>It answers, and holds no items at the moment.</translation>

@@ -2932,6 +2932,10 @@
         <source></source>
         <translation>前几条新闻的显示方式：读取 %1 条，拒收 %2 条。</translation>
     </message>
+    <message id="TERMINAL_TRIAL_NOT_ASKED">
+        <source></source>
+        <translation>按“测试”会向来源查询一次，并在此列出最新的新闻，与新闻列表中的样子相同。</translation>
+    </message>
     <message id="TERMINAL_TRIAL_NOTHING">
         <source></source>
         <translation>有响应，但目前没有任何新闻。</translation>

@@ -2932,6 +2932,10 @@
         <source></source>
         <translation>前幾則新聞的顯示方式：讀取 %1 則，拒收 %2 則。</translation>
     </message>
+    <message id="TERMINAL_TRIAL_NOT_ASKED">
+        <source></source>
+        <translation>按「測試」會向來源查詢一次，並在此列出最新的新聞，與新聞列表中的樣子相同。</translation>
+    </message>
     <message id="TERMINAL_TRIAL_NOTHING">
         <source></source>
         <translation>有回應，但目前沒有任何新聞。</translation>

@@ -16,14 +16,17 @@
 
 namespace wirepane::test {
 
-// The whole desk in this process, on a sample store, at noon of a fixed day.
+// The whole desk in this process, at noon of a fixed day, on a sample store or, as a user begins, on an empty
+// one whose list of sources is read.
 class FrameFixture : public testing::Test {
 protected:
-    explicit FrameFixture(int width) {
+    explicit FrameFixture(int width, bool isEmpty = false) {
         const QDateTime noon(QDate(2026, 3, 2), QTime(12, 0));
         host_clock::startAt(noon.toSecsSinceEpoch());
-        auto opened = Session::open({scratch.path(QStringLiteral("news.wirepane")),
-                                     scratch.path(QStringLiteral("config")), QStringLiteral("en"), true});
+        SessionOptions options{scratch.path(QStringLiteral("news.wirepane")),
+                               scratch.path(QStringLiteral("config")), QStringLiteral("en"), !isEmpty};
+        options.readsSources = isEmpty;
+        auto opened = Session::open(options);
         session = std::move(opened.value());
         commands = std::make_unique<FrameCommands>(*session);
         session->frame().resize(width, 800);

@@ -3,8 +3,10 @@
 // The Sources page, by keyboard alone, over a server on this machine.
 #include "terminal/sources/sources_window.h"
 
+#include "host/controls/super_sheet_wnd.h"
 #include "terminal/sources/source_dialog.h"
 #include "terminal/sources/trial_view.h"
+#include "terminal/translations/terminal_text.h"
 #include "tests/support/loopback_server.h"
 #include "tests/support/qt_printers.h"
 #include "tests/terminal/program/frame_fixture.h"
@@ -15,6 +17,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSet>
 #include <QTimer>
 #include <QTreeView>
 
@@ -28,7 +31,7 @@ namespace {
 
 class SourcesWindowTest : public FrameFixture {
 protected:
-    SourcesWindowTest() : FrameFixture(1200) {
+    explicit SourcesWindowTest(bool isEmpty = false) : FrameFixture(1200, isEmpty) {
         server.put("/list.json", announcements(), "application/json");
         server.put("/page", "<html><head><link rel=alternate type=application/rss+xml title=Post href=/feed>",
                    "text/html");
@@ -145,6 +148,51 @@ TEST_F(SourcesWindowTest, SourcesAreMovedAndListsComeAndGoPaused) {
     ASSERT_TRUE(written.open(QIODevice::ReadOnly));
     const QByteArray text = written.readAll();
     EXPECT_LT(text.indexOf("two.example"), text.indexOf("one.example"));
+}
+
+class FirstSourceTest : public SourcesWindowTest {
+protected:
+    FirstSourceTest() : SourcesWindowTest(true) {}
+
+    // What the trial tells of the source that is current, asked by keyboard.
+    QString tested() {
+        list()->setFocus();
+        QTest::keyClick(list(), Qt::Key_Tab);
+        QTest::keyClick(window->focusWidget(), Qt::Key_Space);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return trialView().sentence() != asking(); }));
+        return trialView().sentence();
+    }
+    bool listsBothAnnouncements() {
+        const auto* sheet = session->workspace().newest()->access->sheetOf(0);
+        return QTest::qWaitFor([sheet] { return sheet->model()->rowCount() == 2; });
+    }
+    TrialView& trialView() { return *window->findChild<TrialView*>(); }
+    static QString asking() { return terminalText(TextId::TrialAsking); }
+};
+
+TEST_F(FirstSourceTest, AnExchangesListIsAddedTestedWithoutItsServerAndFoundAgainInEachLanguage) {
+    EXPECT_FALSE(trialView().sentence().isEmpty()) << "what an empty table is for";
+    addByKeyboard(server.address(u"/list.json"_s).toString(),
+                  [](const SourceDialog&) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
+    ASSERT_TRUE(lists(1));
+    ASSERT_TRUE(listsBothAnnouncements());
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window->isActiveWindow(); }));
+    QSet<QString> told;
+    for (const QString& language : {u"en"_s, u"zh-TW"_s, u"zh-CN"_s}) {
+        SCOPED_TRACE(language.toStdString());
+        ASSERT_TRUE(session->setLanguage(language));
+        QCoreApplication::processEvents();
+        told += trialView().sentence();
+        server.unplug();
+        told += tested();
+        EXPECT_EQ(trialView().items(), 0);
+        EXPECT_TRUE(listsBothAnnouncements()) << "what was there stays";
+        server.plugIn();
+        told += tested();
+        EXPECT_EQ(trialView().items(), 2);
+    }
+    EXPECT_EQ(told.size(), 9) << QStringList(told.begin(), told.end()).join(u'\n').toStdString();
 }
 
 }  // namespace
