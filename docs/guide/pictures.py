@@ -6,6 +6,7 @@ pictures.py WIREPANE [FOLDER [LANGUAGE]]    FOLDER: beside this script; LANGUAGE
 
 Where pngquant is installed, it makes the pictures a third as large.
 """
+import http.server
 import json
 import os
 import pathlib
@@ -13,12 +14,36 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import threading
 
 MOMENT = "2026-03-02T10:30:00"
 ALL, CATEGORY, SYMBOL, SEARCH, RELATION, WARRANTS, WARNINGS = range(7)
 TABS, SEARCH_EDIT, SEARCH_BUTTON, SHOW_TYPE = 3100, 3008, 3007, 25458
 DEALS_DIALOG, RELATION_DIALOG, WARNING_DIALOG = 3002, 3001, 3006
 WORDS = {"en": ("rate", "bank"), "zh-TW": ("市場", "銀行"), "zh-CN": ("市场", "银行")}
+
+LIST_PORT = 8719  # always the same, because the picture names it
+LIST_TITLES = {"en": "Announcements", "zh-TW": "重大訊息", "zh-CN": "重大讯息"}
+ANNOUNCEMENTS = (("9001", "旻蘅化工", "12", "召開法人說明會"), ("9002", "禧湖科技", "51", "公告本公司更換會計師"),
+                 ("9003", "翎崗數位", "31", "公告董事會通過年度財務報告"), ("9004", "琛溪乳業", "20", "公告取得機器設備"))
+
+
+class AnnouncementList(http.server.BaseHTTPRequestHandler):
+    """A list as the exchange publishes it, of invented companies."""
+
+    def do_GET(self):
+        rows = [{"出表日期": "1150302", "發言日期": "1150302", "發言時間": f"{90000 + 500 * place}", "公司代號": code,
+                 "公司名稱": name, "主旨 ": subject, "符合條款": f"第{rule}款", "事實發生日": "1150302", "說明": subject}
+                for place, (code, name, rule, subject) in enumerate(ANNOUNCEMENTS)]
+        body = json.dumps(rows).encode()
+        self.send_response_only(200)  # without a date, which would not be that of the pictures
+        self.send_header("Content-Type", "application/json")
+        self.send_header("Content-Length", str(len(body)))
+        self.end_headers()
+        self.wfile.write(body)
+
+    def log_message(self, *_):
+        pass
 
 
 class Terminal:
@@ -179,6 +204,20 @@ class Guide:
             self.picture(dialog)
             self.ask("dialog.close")
 
+    def sources(self):
+        with http.server.ThreadingHTTPServer(("127.0.0.1", LIST_PORT), AnnouncementList) as server:
+            threading.Thread(target=server.serve_forever, daemon=True).start()
+            self.ask("source.add", address=f"http://127.0.0.1:{LIST_PORT}/announcements.json", kind="table",
+                     mapping="exchange_announcements", title=LIST_TITLES[self.terminal.language])
+            self.ask("view.open", size=[1120, 560], mask=127, own=True)  # the page is 1080 wide
+            self.ask("input.key", key="Ctrl+Shift+O")
+            self.terminal.settle()
+            self.ask("input.key", key="Alt+T")
+            self.terminal.settle()
+            self.picture("sources")
+            self.ask("dialog.close")
+            server.shutdown()
+
 
 def main() -> int:
     program = sys.argv[1]
@@ -196,6 +235,7 @@ def main() -> int:
         guide.standing_searches()
         guide.warning_terms()
         guide.desk()
+        guide.sources()
         terminal.ask("app.quit")
         terminal.process.wait()
     finally:
