@@ -77,9 +77,9 @@ CSearch conditionOf(QStringView word) {
 struct Answers {
     explicit Answers(const QString& path) : desk(path, [this](const CSearch&, unsigned char) { ++count; }) {}
 
-    std::pair<double, double> search(QStringView word) {
+    std::pair<double, double> search(QStringView word) { return search(conditionOf(word)); }
+    std::pair<double, double> search(const CSearch& condition) {
         count = 0;
-        const CSearch condition = conditionOf(word);
         double first = 0;
         const double all = secondsOf([&] {
             const auto from = BenchClock::now();
@@ -104,11 +104,37 @@ struct Answers {
     SearchDispatcher desk;
 };
 
-double secondsOfBareQuery(Database& store, QStringView word) {
+// What is asked, and the same in the index's own language.
+struct Question {
+    CSearch condition;
+    QString match;
+};
+
+Question keyword(QStringView word) {
+    return {conditionOf(word), word.toString()};
+}
+
+Question query(QStringView text, const QString& match) {
+    CSearch condition = conditionOf(text);
+    condition.language = SearchLanguage::Query;
+    return {condition, match};
+}
+
+Question threeWords() {
+    return query(u"waab waac waad -copper", u"waab AND waac AND waad NOT copper"_s);
+}
+
+// Some four characters that a story holds.
+Question chinesePhrase() {
+    const QString phrase = chineseStory(1).left(4);
+    return query(phrase, u'"' + phrase + u'"');
+}
+
+double secondsOfBareQuery(Database& store, const QString& match) {
     Statement statement(store, "SELECT rowid FROM news_search WHERE news_search MATCH ?");
     return secondsOf([&] {
         std::int64_t sum = 0;
-        Query query(statement, word.toString());
+        Query query(statement, match);
         while (query.next())
             sum += query.number(0);
         benchmark::DoNotOptimize(sum);
@@ -116,7 +142,7 @@ double secondsOfBareQuery(Database& store, QStringView word) {
 }
 
 // all_of_bare: the time until all keys are answered, as a multiple of the bare query's.
-void searchFor(benchmark::State& state, QStringView word) {
+void searchFor(benchmark::State& state, const Question& question) {
     const SearchStore& made = SearchStore::of(static_cast<int>(state.range(0)));
     const auto store = opened(made.path());
     Answers answers(made.path());
@@ -126,10 +152,10 @@ void searchFor(benchmark::State& state, QStringView word) {
     std::vector<double> bare;
     for (auto unused : state) {
         answers.search(u"nothing");  // the last condition is remembered
-        const auto [first, all] = answers.search(word);
+        const auto [first, all] = answers.search(question.condition);
         firsts.push_back(first);
         alls.push_back(all);
-        bare.push_back(secondsOfBareQuery(*store, word));
+        bare.push_back(secondsOfBareQuery(*store, question.match));
         state.SetIterationTime(all);
     }
     state.counters["found"] = double(answers.found());
@@ -183,13 +209,25 @@ BENCHMARK(takeInIndexed)
     ->Iterations(3)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(searchFor, rare, rareWord)
+BENCHMARK_CAPTURE(searchFor, rare, keyword(rareWord))
     ->Arg(1000)
     ->Arg(1'000'000)
     ->Iterations(20)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(searchFor, common, commonWord)
+BENCHMARK_CAPTURE(searchFor, common, keyword(commonWord))
+    ->Arg(1000)
+    ->Arg(1'000'000)
+    ->Iterations(20)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(searchFor, three_words, threeWords())
+    ->Arg(1000)
+    ->Arg(1'000'000)
+    ->Iterations(20)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(searchFor, chinese_phrase, chinesePhrase())
     ->Arg(1000)
     ->Arg(1'000'000)
     ->Iterations(20)

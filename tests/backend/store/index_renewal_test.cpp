@@ -81,7 +81,8 @@ protected:
         EXPECT_EQ(faults(), QStringList{});
     }
 
-    [[noreturn]] void renewBesideNews(const QString& path) {
+    // Tells of each piece through a pipe.
+    [[noreturn]] void renewBesideNews(const QString& path, int pieces) {
         const auto opened = openStore(path);
         if (!opened)
             _exit(1);
@@ -91,6 +92,8 @@ protected:
             if (live.begin() && live.takeNews(randomNews()))
                 (void)live.commit();
             isMore = renewal.renewSome([count = 0]() mutable { return ++count == 7; });
+            if (write(pieces, "", 1) != 1)
+                _exit(1);
         }
         _exit(0);
     }
@@ -147,10 +150,17 @@ TEST_F(IndexRenewalTest, AKillLosesNothing) {
         writer.reset();
         store.reset();
         version += 1000;
+        int pieces[2];
+        ASSERT_EQ(pipe(pieces), 0);
         const pid_t worker = fork();
         if (worker == 0)
-            renewBesideNews(path);
-        usleep(10'000 + unsigned(random() % 20'000));
+            renewBesideNews(path, pieces[1]);
+        close(pieces[1]);
+        char piece = 0;
+        for (auto left = 1 + random() % 12; left > 0 && read(pieces[0], &piece, 1) == 1; --left) {
+        }
+        close(pieces[0]);
+        usleep(unsigned(random() % 3000));
         kill(worker, SIGKILL);
         int status = 0;
         waitpid(worker, &status, 0);

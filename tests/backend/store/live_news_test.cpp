@@ -9,6 +9,7 @@
 #include "tests/backend/store/listener.h"
 #include "tests/backend/store/store_fixture.h"
 #include "tests/backend/store/take_all.h"
+#include "tests/support/conditions.h"
 
 #include <QCoreApplication>
 
@@ -211,6 +212,35 @@ TEST_F(LiveNewsTest, AReaderOfAnEarlierMomentSeesNothingOfTheFuture) {
     }
     backEnd.holdLaterNews(LaterNews::Held::Nothing);
     EXPECT_EQ(counts(), (std::vector<std::size_t>(4, 5)));
+}
+
+TEST_F(LiveNewsTest, NoQueryFindsWhatIsLaterThanThePresentMoment) {
+    for (const int hour : {9, 11, 14, 18}) {
+        NewsItem item = newsItem(1, QString::number(hour), at(hour, 0), u"Tea prices rise"_s);
+        item.story = u"Black tea is dear."_s;
+        item.category = u"Market"_s;
+        item.related = {{16, u"2330"_s}};
+        takeIn(item);
+    }
+    host_clock::startAt(at(12, 0));
+    backEnd.holdLaterNews(LaterNews::Held::All);
+    for (const char16_t* const query :
+         {u"tea", u"\"tea prices\"", u"-coffee", u"coffee | tea", u"(tea rise) -silver", u"title:tea",
+          u"story:tea", u"topic:Market", u"service:1", u"symbol:2330", u"from:today", u"to:today",
+          u"on:2026-03-02", u"pri*", u"tea NEAR rise", u"from:2026 to:2027", u"-(from:today coffee)"}) {
+        CSearch asked = condition({QString::fromUtf16(query)}, 2);
+        asked.language = SearchLanguage::Query;
+        heard();
+        backEnd.BKQNEWS_bSearchNews(1, 3, asked);
+        while (heard().isEmpty())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        std::vector<CHeadlineTable> found;
+        backEnd.BKQNEWS_iGetHeadlineTable(1, found, 3, u"SEARCH"_s);
+        std::vector<std::int64_t> times;
+        for (const CHeadlineTable& entry : found)
+            times.push_back(entry.time);
+        EXPECT_EQ(times, (std::vector<std::int64_t>{at(11, 0), at(9, 0)})) << qPrintable(asked.query());
+    }
 }
 
 TEST_F(LiveNewsTest, ASourceWhoseClockIsOffIsToldOf) {
