@@ -4,8 +4,10 @@
 #include "backend/import/import_errors.h"
 #include "backend/network/event_parser.h"
 #include "backend/network/network_errors.h"
+#include "backend/network/web_socket_run.h"
 #include "tests/backend/network/event_server.h"
 #include "tests/backend/network/network_sources_fixture.h"
+#include "tests/backend/network/run_authority.h"
 #include "tests/support/qt_printers.h"
 
 namespace wirepane {
@@ -178,6 +180,49 @@ TEST_F(StreamTest, LeavesItsHostToOthersAndEndsWithItsSource) {
     const auto store = openStore(storeFile);
     ASSERT_TRUE(SourceList(*store.value()).remove(name));
     EXPECT_TRUE(QTest::qWaitFor([&] { return stream.findChildren<QTcpSocket*>().isEmpty(); }, 5000));
+}
+
+TEST(WebSocketRun, DialsOnlyWhoItMayAndWhoShowsTheCertificateOfTheName) {
+    RunAuthority authority;
+    authority.make(u"server"_s, u"localhost"_s, u"-days 5"_s);
+    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    tls.setLocalCertificate(QSslCertificate(authority.bytes(u"server.pem"_s)));
+    tls.setPrivateKey(QSslKey(authority.bytes(u"server.key"_s), QSsl::Rsa));
+    QWebSocketServer server(u"news"_s, QWebSocketServer::SecureMode);
+    server.setSslConfiguration(tls);
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    const QUrl address(u"wss://localhost:%1/"_s.arg(server.serverPort()));
+    const struct {
+        const char* what;
+        QString scheme;
+        bool isTyped;
+        bool isTrusted;
+        const ErrorCode* fault;  // null: it stands
+    } cases[] = {
+        {"in the clear by a name", u"ws"_s, false, true, &network_errors::socketInClear},
+        {"into the private network", u"wss"_s, false, true, &network_errors::privateAddress},
+        {"by an unknown authority", u"wss"_s, true, false, &network_errors::certificateNotTrusted},
+        {"typed", u"https"_s, true, true, nullptr},
+    };
+    for (const auto& one : cases) {
+        HttpRequest request;
+        request.address = address;
+        request.address.setScheme(one.scheme);
+        request.isTyped = one.isTyped;
+        request.authority = one.isTrusted ? authority.path(u"ca.pem"_s) : QString();
+        request.secretHeaders.emplace_back("X-Key", "secret");
+        bool stands = false;
+        std::optional<HttpAnswer> answer;
+        WebSocketRun run(request, {}, {[&] { stands = true; }, [](const QByteArray&) {}, [] { return true; }},
+                         [&](const HttpAnswer& given) { answer = given; });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return stands || answer; }, 5000)) << one.what;
+        EXPECT_EQ(stands, one.fault == nullptr) << one.what;
+        const ErrorCode* const met = answer && answer->fault ? answer->fault->code : nullptr;
+        EXPECT_STREQ(met == nullptr ? "" : met->key, one.fault == nullptr ? "" : one.fault->key) << one.what;
+        EXPECT_EQ(server.hasPendingConnections(), stands) << one.what;
+    }
+    const std::unique_ptr<QWebSocket> caller(server.nextPendingConnection());
+    EXPECT_EQ(caller->request().rawHeader("X-Key"), "secret");
 }
 
 }  // namespace
