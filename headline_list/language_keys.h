@@ -154,6 +154,10 @@ inline constexpr QLatin1StringView emptyReadNewest{"IDS_NEWSCTRLVIEW_EMPTY_READ_
 inline constexpr QLatin1StringView emptyQuotedWord{"IDS_NEWSCTRLVIEW_EMPTY_QUOTED_WORD"};
 // "%1": the words, each in quotes.
 inline constexpr QLatin1StringView emptyNotFound{"IDS_NEWSCTRLVIEW_EMPTY_NOT_FOUND"};
+// What else would find something. "%1": how much; of the last one: what goes, and "%2" how much.
+inline constexpr QLatin1StringView offerServices{"IDS_NEWSCTRLVIEW_OFFER_SERVICES"};
+inline constexpr QLatin1StringView offerStories{"IDS_NEWSCTRLVIEW_OFFER_STORIES"};
+inline constexpr QLatin1StringView offerWithout{"IDS_NEWSCTRLVIEW_OFFER_WITHOUT"};
 
 // On the line over what was found. "%1": a number; a day; a moment; milliseconds; the part of the condition.
 inline constexpr QLatin1StringView foundCount{"IDS_NEWSCTRLVIEW_FOUND_COUNT"};

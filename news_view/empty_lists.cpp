@@ -27,6 +27,7 @@ void EmptyLists::watch(CSuperSheetWnd& grid, ListIndex list) {
     auto* note = new EmptyNote(grid.viewport());
     notes[list] = note;
     connect(note, &EmptyNote::acted, this, &EmptyLists::act);
+    connect(note, &EmptyNote::otherChosen, this, [this](int offer) { calls.takeOffer(offer); });
     const QAbstractItemModel* const rows = grid.model();
     connect(rows, &QAbstractItemModel::rowsInserted, this, &EmptyLists::followSoon);
     connect(rows, &QAbstractItemModel::rowsRemoved, this, &EmptyLists::followSoon);
@@ -73,14 +74,23 @@ void EmptyLists::readNewest() {
 void EmptyLists::followList() {
     const ListIndex list = context.shownList();
     EmptyNote* const note = notes[list];
-    if (note == nullptr)
+    if (note == nullptr) {
+        calls.forgetOffers();
         return;
+    }
     const CSuperSheetWnd* const grid = context.listOf(list).grid();
     if (grid == nullptr || grid->rowCount() > 0 || isAwaited()) {
         note->hide();
+        calls.forgetOffers();
         return;
     }
-    note->tell(emptyTextOf(known(list), parts.backEnd));
+    EmptyText text = emptyTextOf(known(list), parts.backEnd);
+    const CSearch found = list == ListIndex::Search ? searches.foundUnder(list) : CSearch();
+    if (found.keywords.empty())
+        calls.forgetOffers();
+    else
+        text.others = calls.offers(found);
+    note->tell(text);
     // What stands in the pane was of rows that are gone.
     const QPlainTextEdit* const story = calls.storyText();
     if (story != nullptr && !story->document()->isEmpty())

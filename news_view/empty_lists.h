@@ -15,6 +15,7 @@
 
 class CSuperSheetWnd;
 class QPlainTextEdit;
+struct CSearch;
 
 namespace wirepane {
 class SearchDesk;
@@ -39,6 +40,10 @@ public:
         std::function<void(ListIndex)> compose;      // what the list is filled by
         std::function<QPlainTextEdit*()> storyText;  // of the story pane; null: there is none
         std::function<void()> clearStory;            // of that pane
+        // What a search that found nothing offers; empty: nothing. One of it is taken.
+        std::function<QStringList(const CSearch&)> offers;
+        std::function<void(int)> takeOffer;
+        std::function<void()> forgetOffers;
     };
     EmptyLists(ViewContext& context, const CommonParts& parts, const SearchDesk& searches, Calls calls);
 

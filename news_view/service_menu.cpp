@@ -39,14 +39,17 @@ void ServiceMenu::fill() {
 void ServiceMenu::addWholeChoice() {
     menu->addSeparator();
     all = menu->addAction(QString());
-    QObject::connect(all, &QAction::triggered, &parts.window,
-                     [this] { choose([](std::size_t) { return true; }); });
+    QObject::connect(all, &QAction::triggered, &parts.window, [this] { tickAll(); });
     hint = menu->addAction(QString());
     hint->setEnabled(false);
     QObject::connect(menu.get(), &TickingMenu::onlyAsked, &parts.window, [this](const QAction* entry) {
         const auto only = static_cast<std::size_t>(entry->data().toInt() - ids::firstServiceCommand);
         choose([only](std::size_t index) { return index == only; });
     });
+}
+
+void ServiceMenu::tickAll() {
+    choose([](std::size_t) { return true; });
 }
 
 void ServiceMenu::choose(const std::function<bool(std::size_t)>& isWanted) {

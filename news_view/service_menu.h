@@ -32,6 +32,7 @@ public:
     bool isFilled() const { return menu != nullptr; }
     // Under its button.
     void popUp();
+    void tickAll();
     // Ticks or unticks the service of a command; the last ticked service stays ticked.
     void toggle(int command);
     // What is ticked, and whether that can be changed, has changed.

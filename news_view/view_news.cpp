@@ -5,6 +5,7 @@
 #include "headline_list/headline_list.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
+#include "host/contract/fixed_services.h"
 #include "news_view/trv_news_ctrl_view.h"
 #include "news_view/view_parts.h"
 #include "search/news_relate_symbol_quote_view.h"
@@ -15,6 +16,34 @@ using namespace wirepane;
 
 void TRVNewsCtrlView::OnSearch() {
     parts->searches.searchForText();
+}
+
+QStringList TRVNewsCtrlView::Parts::offersFor(const CSearch& found) {
+    if (!settings.options[ViewOption::SearchOffers])
+        return {};
+    SearchOffers::Services asked;
+    for (const ServiceEntry& entry : services.currentServices()) {
+        if (entry.service != warrantService)
+            (entry.selected ? asked.asked : asked.others).push_back(entry.service);
+    }
+    searchOffers.offerFor(found, asked);
+    return searchOffers.texts();
+}
+
+void TRVNewsCtrlView::Parts::takeOffer(int offer) {
+    const std::vector<SearchOffer> offers = searchOffers.offers();
+    const auto place = static_cast<std::size_t>(offer);
+    if (place >= offers.size())
+        return;
+    if (offers[place].kind == SearchOffer::Kind::OtherServices)
+        serviceMenu.tickAll();
+    else
+        searchInstead(offers[place].condition);
+}
+
+void TRVNewsCtrlView::Parts::searchInstead(const CSearch& condition) {
+    searches.replace(condition);
+    standingSearches.loadHints();
 }
 
 void TRVNewsCtrlView::vOnEnterDown() {

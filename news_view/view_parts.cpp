@@ -65,12 +65,10 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
                    [this] { return settings.options[ViewOption::KeepServicesOpen]; },
                    [this] { return listOf(shownList()).headlineTable().countsOfServices(); }}),
       liveNews(*this, common, liveCalls()),
+      searchOffers(backEnd, [this] { emptyLists.followSoon(); }),
       emptyLists(*this, common, searches.desk(), emptyListCalls()),
       searchLine(*this, common, searches.desk(),
-                 [this](const CSearch& condition) {
-                     searches.replace(condition);
-                     standingSearches.loadHints();
-                 }),
+                 [this](const CSearch& condition) { searchInstead(condition); }),
       hitMarks(backEnd) {
     lists.setOnRead([this] { placeNotices(); });
 }
@@ -377,7 +375,10 @@ EmptyLists::Calls TRVNewsCtrlView::Parts::emptyListCalls() {
                     standingSearches.manageWarningTerms();
             },
             [this] { return qobject_cast<QPlainTextEdit*>(stage.paneText()); },
-            [this] { story.clear(); }};
+            [this] { story.clear(); },
+            [this](const CSearch& found) { return offersFor(found); },
+            [this](int offer) { takeOffer(offer); },
+            [this] { searchOffers.forget(); }};
 }
 
 QString TRVNewsCtrlView::Parts::shownSubject() {

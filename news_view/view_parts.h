@@ -26,6 +26,7 @@
 #include "news_view/notice_board.h"
 #include "news_view/output_jobs.h"
 #include "news_view/search_line.h"
+#include "news_view/search_offers.h"
 #include "news_view/searches.h"
 #include "news_view/sent_again.h"
 #include "news_view/service_menu.h"
@@ -144,6 +145,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::SentAgain sentAgain;
     wirepane::ServiceMenu serviceMenu;
     wirepane::LiveNews liveNews;
+    wirepane::SearchOffers searchOffers;
     wirepane::EmptyLists emptyLists;
     wirepane::SearchLine searchLine;
     wirepane::HitMarks hitMarks;
@@ -166,6 +168,10 @@ private:
     wirepane::SentAgain::Choices choices();
     wirepane::LiveNews::Calls liveCalls();
     wirepane::EmptyLists::Calls emptyListCalls();
+    // What is offered for a search that found nothing, and what becomes of one that is taken.
+    QStringList offersFor(const CSearch& found);
+    void takeOffer(int offer);
+    void searchInstead(const CSearch& condition);
     // What the shown list is of: its category or symbol, as the user reads it.
     QString shownSubject();
     wirepane::IntakeState intakeChoices() const;

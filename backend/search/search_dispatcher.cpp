@@ -55,6 +55,21 @@ void SearchDispatcher::ask(unsigned char service, int kind, const CSearch& condi
     forgetOldest();
 }
 
+std::shared_ptr<const void> SearchDispatcher::askBeside(std::vector<SideJob::Search> wanted, Found told) {
+    const auto dropped = std::make_shared<std::atomic<bool>>(false);
+    const auto call = [this, dropped,
+                       told = std::move(told)](std::vector<std::vector<CHeadlineTable>>&& found) {
+        auto entries = std::make_shared<std::vector<std::vector<CHeadlineTable>>>(std::move(found));
+        answers.post([dropped, told, entries] {
+            if (!*dropped)
+                told(std::move(*entries));
+        });
+    };
+    worker->askBeside({std::move(wanted), dropped, call});
+    // The mark goes with whoever keeps it.
+    return {dropped.get(), [dropped](std::atomic<bool>* mark) { *mark = true; }};
+}
+
 void SearchDispatcher::drop(Search& search, unsigned char service) {
     if (const auto older = search.pending.find(service); older != search.pending.end())
         *older->second.dropped = true;

@@ -37,6 +37,10 @@ public:
 
     // Sends a search; one in the same service for the same condition that is not answered yet is void.
     void ask(unsigned char service, int kind, const CSearch& condition);
+    // Searches beside those; `told` gets the entries of each, from the event loop, as long as what is
+    // returned is kept.
+    using Found = std::function<void(std::vector<std::vector<CHeadlineTable>>&& found)>;
+    std::shared_ptr<const void> askBeside(std::vector<SideJob::Search> wanted, Found told);
     // News has come that no view is told of by itself: the searches in that service that find some of it are
     // answered again.
     void lookAgain(unsigned char service, const std::vector<HeadlineKey>& news);

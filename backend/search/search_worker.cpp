@@ -21,6 +21,27 @@ void SearchWorker::ask(SearchJob job) {
     thread.post([this, job = std::move(job)] { search(job); });
 }
 
+void SearchWorker::askBeside(SideJob job) {
+    thread.post([this, job = std::move(job)] { searchBeside(job); });
+}
+
+void SearchWorker::searchBeside(const SideJob& job) {
+    std::vector<std::vector<CHeadlineTable>> all;
+    for (const SideJob::Search& search : job.searches) {
+        std::vector<CHeadlineTable>& entries = all.emplace_back();
+        NewsSearch* const searching = *job.dropped ? nullptr : opened();
+        for (const unsigned char service : search.services) {
+            const auto found = searching != nullptr
+                                   ? searching->find(service, search.condition, job.dropped.get())
+                                   : std::nullopt;
+            if (found)
+                entries.insert(entries.end(), found->begin(), found->end());
+        }
+    }
+    if (!*job.dropped)
+        job.told(std::move(all));
+}
+
 void SearchWorker::search(const SearchJob& job) {
     if (!*job.dropped) {
         NewsSearch* const search = opened();

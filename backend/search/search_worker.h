@@ -24,6 +24,19 @@ struct SearchJob {
     std::shared_ptr<std::atomic<bool>> dropped;
 };
 
+// Searches whose tables are wanted beside those that views have sent. `told` is called on the worker's
+// thread, unless `dropped`.
+struct SideJob {
+    struct Search {
+        CSearch condition;
+        std::vector<unsigned char> services;
+    };
+    std::vector<Search> searches;
+    std::shared_ptr<std::atomic<bool>> dropped;
+    // The entries of each search, service after service.
+    std::function<void(std::vector<std::vector<CHeadlineTable>>&& found)> told;
+};
+
 // Searches a store on a thread and a connection of its own, in the order of asking. A store that cannot be
 // read gives empty answers. Soon after it was made, when nothing is asked, it reads the keys of the
 // headlines.
@@ -37,10 +50,12 @@ public:
 
     // Any thread. A job that is being searched when the worker ends is waited for, so drop it before.
     void ask(SearchJob job);
+    void askBeside(SideJob job);
 
 private:
     // On the thread, as all that they use.
     void search(const SearchJob& job);
+    void searchBeside(const SideJob& job);
     void prepareWhenIdle();
     NewsSearch* opened();
 

@@ -29,6 +29,7 @@
 #include "host/contract/news_positions.h"
 #include "host/contract/news_record.h"
 #include "host/contract/query/headline_query.h"
+#include "host/contract/query/search_counts.h"
 #include "host/contract/query/search_hits.h"
 #include "host/contract/reading_moment.h"
 
@@ -86,7 +87,8 @@ class EmbeddedBackEnd : public BKQuoteInterface,
                         public NewsDayFinder,
                         public NewsRecord,
                         public HeadlineQueries,
-                        public SearchHits {
+                        public SearchHits,
+                        public SearchCounts {
 public:
     // Opens the store, or makes it (see openStore). One that cannot be written to is read: it takes nothing
     // in.
@@ -230,6 +232,7 @@ public:
     bool BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition) override;
     std::shared_ptr<const HeadlineQuery> prepareQuery(const QString& query) override;
     std::shared_ptr<const HitFinder> prepareHits(const CSearch& condition) override;
+    std::shared_ptr<const void> countFound(std::vector<CountedSearch> wanted, Told told) override;
     bool LangIsConvertToSimplified(const unsigned char& service) override;
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
     QString PathGetSysPath() override;

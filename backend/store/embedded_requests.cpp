@@ -126,6 +126,20 @@ std::shared_ptr<const HitFinder> EmbeddedBackEnd::prepareHits(const CSearch& con
     return HitWords::make(condition, planner);
 }
 
+std::shared_ptr<const void> EmbeddedBackEnd::countFound(std::vector<CountedSearch> wanted, Told told) {
+    std::vector<SideJob::Search> jobs;
+    for (CountedSearch& search : wanted)
+        jobs.push_back({std::move(search.condition), std::move(search.services)});
+    return searches.askBeside(std::move(jobs), [this, told = std::move(told)](auto&& found) {
+        std::vector<int> counts;
+        for (std::vector<CHeadlineTable>& entries : found) {
+            laterNews.takeOut(entries, 0);
+            counts.push_back(static_cast<int>(entries.size()));
+        }
+        told(counts);
+    });
+}
+
 void EmbeddedBackEnd::hold(Held what, bool on) {
     if (on) {
         answers.hold(what);

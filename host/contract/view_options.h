@@ -52,6 +52,7 @@ enum class ViewOption {
     SearchHistory,  // the search box, wider, drops down what was searched for
     OtherYears,     // rows of another year than the present one show their day with its year
     MarkHits,       // what was searched for is marked in titles and stories, a tint for each word
+    SearchOffers,   // a search that finds nothing offers what would find something, with counts
     Count
 };
 
@@ -98,6 +99,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::SearchHistory, QLatin1StringView("SearchHistory")},
     {ViewOption::OtherYears, QLatin1StringView("OtherYears")},
     {ViewOption::MarkHits, QLatin1StringView("MarkHits")},
+    {ViewOption::SearchOffers, QLatin1StringView("SearchOffers")},
 }};
 
 constexpr const ViewOptionRow& rowOf(ViewOption option) {

@@ -40,12 +40,30 @@ void EmptyNote::tell(const EmptyText& text) {
         button->showText(told.action);
         button->setAccessibleName(told.action);
         button->setVisible(!told.action.isEmpty());
+        tellOthers();
     }
     setGeometry(parentWidget()->rect());
     place();
     show();
     raise();
     update();
+}
+
+// Those that were needed once are kept: one of them may be telling of its click.
+void EmptyNote::tellOthers() {
+    while (others.size() < static_cast<std::size_t>(told.others.size())) {
+        auto* other = new SButton(this);
+        other->setAutoDefault(false);
+        connect(other, &SButton::clicked, this,
+                [this, place = static_cast<int>(others.size())] { emit otherChosen(place); });
+        others.push_back(other);
+    }
+    for (std::size_t i = 0; i < others.size(); ++i) {
+        const QString text = told.others.value(static_cast<qsizetype>(i));
+        others[i]->showText(text);
+        others[i]->setAccessibleName(text);
+        others[i]->setVisible(!text.isEmpty());
+    }
 }
 
 bool EmptyNote::eventFilter(QObject* watched, QEvent* event) {
@@ -65,7 +83,8 @@ void EmptyNote::changeEvent(QEvent* event) {
 }
 
 QRect EmptyNote::iconPlace() const {
-    const int needed = iconSide + gap + sentencePlace().height() + 2 * gap + button->height();
+    const int needed = iconSide + gap + sentencePlace().height() + 2 * gap +
+                       (button->height() + gap) * (1 + static_cast<int>(told.others.size()));
     const int top = std::max(margin, std::min({lowestTop, height() / 4, height() - needed - margin}));
     return {(width() - iconSide) / 2, top, iconSide, iconSide};
 }
@@ -75,12 +94,22 @@ QRect EmptyNote::sentencePlace() const {
                                       sentenceFlags, told.sentence);
 }
 
+void EmptyNote::placeButton(SButton& which, int top) const {
+    const QFontMetrics metrics(which.font());
+    const int room = metrics.horizontalAdvance(which.text()) + buttonRoom;
+    which.resize(std::min(room, std::max(1, width() - 2 * margin)), metrics.height() + gap);
+    which.move((width() - which.width()) / 2, top);
+}
+
+// What is offered stands before the general way out.
 void EmptyNote::place() {
-    const QFontMetrics metrics(button->font());
-    const int room = metrics.horizontalAdvance(told.action) + buttonRoom;
-    button->resize(std::min(room, std::max(1, width() - 2 * margin)), metrics.height() + gap);
-    const int top = iconPlace().bottom() + 1 + gap + sentencePlace().height() + 2 * gap;
-    button->move((width() - button->width()) / 2, top);
+    int top = iconPlace().bottom() + 1 + gap + sentencePlace().height() + 2 * gap;
+    for (qsizetype i = 0; i < told.others.size(); ++i) {
+        SButton& other = *others[static_cast<std::size_t>(i)];
+        placeButton(other, top);
+        top += other.height() + gap;
+    }
+    placeButton(*button, top);
 }
 
 void EmptyNote::paintEvent(QPaintEvent*) {

@@ -6,7 +6,10 @@
 #include "host/controls/line_icon.h"
 
 #include <QString>
+#include <QStringList>
 #include <QWidget>
+
+#include <vector>
 
 class SButton;
 
@@ -16,7 +19,8 @@ namespace wirepane {
 struct EmptyText {
     LineIcon icon = LineIcon::News;
     QString sentence;
-    QString action;  // the button's text; empty: no button
+    QString action;           // the button's text; empty: no button
+    QStringList others = {};  // of more buttons, one below the other
 
     bool operator==(const EmptyText&) const = default;
 };
@@ -33,8 +37,9 @@ public:
     const EmptyText& text() const { return told; }
 
 Q_SIGNALS:
-    // The button was pressed.
+    // The button was pressed; one of the others.
     void acted();
+    void otherChosen(int place);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,9 +51,13 @@ private:
     void place();
     QRect iconPlace() const;
     QRect sentencePlace() const;
+    void placeButton(SButton& which, int top) const;
+    void tellOthers();
 
     EmptyText told;
-    SButton* button;  // its child
+
+    SButton* button;               // its child
+    std::vector<SButton*> others;  // as well
 };
 
 }  // namespace wirepane

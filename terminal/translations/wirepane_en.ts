@@ -1707,6 +1707,18 @@
         <source></source>
         <translation>Not looked through by key sets: do it now</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_SERVICES">
+        <source></source>
+        <translation>In other services: %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_STORIES">
+        <source></source>
+        <translation>In stories too: %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_WITHOUT">
+        <source></source>
+        <translation>Without “%1”: %2</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_SHOW_CHANGES">
         <source></source>
         <translation>Show Changes</translation>

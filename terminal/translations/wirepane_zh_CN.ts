@@ -1707,6 +1707,18 @@
         <source></source>
         <translation>尚未以关键词组筛选：立即筛选</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_SERVICES">
+        <source></source>
+        <translation>其他新闻来源：%1 条</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_STORIES">
+        <source></source>
+        <translation>连同正文：%1 条</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_WITHOUT">
+        <source></source>
+        <translation>去掉“%1”：%2 条</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_SHOW_CHANGES">
         <source></source>
         <translation>显示更改</translation>

@@ -1707,6 +1707,18 @@
         <source></source>
         <translation>尚未以關鍵字組篩選：立即篩選</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_SERVICES">
+        <source></source>
+        <translation>其他新聞來源：%1 則</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_STORIES">
+        <source></source>
+        <translation>連同內文：%1 則</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_WITHOUT">
+        <source></source>
+        <translation>去掉「%1」：%2 則</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_SHOW_CHANGES">
         <source></source>
         <translation>顯示變更</translation>

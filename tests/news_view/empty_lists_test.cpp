@@ -3,9 +3,13 @@
 // Lists without rows offer a way out, where the host says so.
 #include "host/controls/empty_note.h"
 #include "host/controls/s_button.h"
+#include "host/views/news_control_ids.h"
 #include "tests/news_view/view_fixture.h"
+#include "tests/support/conditions.h"
 
+#include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -81,6 +85,52 @@ TEST_F(EmptyListsTest, AStoryPaneSaysWhatItIsForUntilAStoryIsThere) {
     view->bChangeDate(QDate(2026, 3, 1));
     EXPECT_NE(storyNote(), nullptr) << "the story of another day";
     EXPECT_EQ(state(u"storyRow"_s), -1);
+}
+
+TEST_F(EmptyListsTest, ASearchThatFindsNothingOffersWhatWouldFindSomething) {
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_OFFER_SERVICES"_s] = u"elsewhere %1"_s;
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_OFFER_STORIES"_s] = u"stories %1"_s;
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_OFFER_WITHOUT"_s] = u"without %1: %2"_s;
+    openActive({{u"EmptyStates"_s, true},
+                {u"SearchQueries"_s, true},
+                {u"SearchOffers"_s, true},
+                {u"Sheet0ServiceCheck1"_s, true},
+                {u"Sheet0ServiceCheck2"_s, true}},
+               3);
+    const auto search = [this](const QString& text) {
+        auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
+        edit->setText(text);
+        QTest::keyClick(edit, Qt::Key_Return);
+        CSearch sent = condition({text});
+        sent.language = SearchLanguage::Query;
+        for (unsigned char service = 1; service <= 2; ++service)
+            view->RespSearchHeadLineTable(sent, service);
+        note();
+    };
+    search(u"gold title:%1"_s);
+    ASSERT_EQ(backEnd.countings.size(), 1U);
+    const FakeBackEnd::Counting first = backEnd.countings.front();
+    ASSERT_EQ(first.searches.size(), 4U) << "elsewhere, stories too, without either word";
+    EXPECT_EQ(first.searches[0].services, (std::vector<unsigned char>{16, 22, 122}));
+    EXPECT_EQ(first.searches[1].services, (std::vector<unsigned char>{1, 2}));
+    EXPECT_EQ(first.searches[3].condition.query(), u"gold"_s);
+    first.told({3, 0, 0, 1200});
+    EXPECT_EQ(note()->text().others, (QStringList{u"elsewhere 3"_s, u"without title:%1: 1,200"_s}));
+    search(u"tin lead"_s);
+    EXPECT_TRUE(note()->text().others.isEmpty()) << "they were of another search";
+    ASSERT_EQ(backEnd.countings.size(), 2U);
+    backEnd.countings.back().told({0, 0, 7, 0});
+    ASSERT_EQ(note()->text().others, QStringList{u"without tin: 7"_s});
+    QPointer<EmptyNote> shown = note();
+    for (SButton* button : shown->findChildren<SButton*>()) {
+        if (button->isVisible() && button->text().startsWith(u"without"_s))
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    EXPECT_EQ(qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit))->text(), u"lead"_s);
+    search(u"zinc tin"_s);
+    view->SwitchFunction(0);
+    note();
+    EXPECT_TRUE(backEnd.countings.back().isDropped()) << "nobody looks at that list any more";
 }
 
 TEST_F(EmptyListsTest, AViewWhoseSettingsSayNothingHasNone) {

@@ -4,6 +4,7 @@
 
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/news_record.h"
+#include "host/contract/query/search_counts.h"
 #include "host/contract/query/search_hits.h"
 #include "host/contract/search_control.h"
 #include "tests/support/qt_printers.h"
@@ -19,7 +20,11 @@ namespace wirepane {
 
 // A back end for tests: holds headlines in memory, answers like a real one, and writes down what it was
 // asked.
-class FakeBackEnd : public BKQuoteInterface, public SearchControl, public NewsRecord, public SearchHits {
+class FakeBackEnd : public BKQuoteInterface,
+                    public SearchControl,
+                    public NewsRecord,
+                    public SearchHits,
+                    public SearchCounts {
 public:
     FakeBackEnd() {
         setBKInterface(this);
@@ -103,6 +108,19 @@ public:
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
     QString PathGetSysPath() override { return sysPath; }
 
+    // Keeps what is to be counted; the test answers it.
+    std::shared_ptr<const void> countFound(std::vector<CountedSearch> wanted, Told told) override {
+        countings.push_back({std::move(wanted), std::move(told)});
+        return countings.back().kept;
+    }
+    struct Counting {
+        std::vector<CountedSearch> searches;
+        Told told;
+        std::shared_ptr<int> kept = std::make_shared<int>();
+        // Nobody waits for it.
+        bool isDropped() const { return kept.use_count() == 1; }
+    };
+    std::vector<Counting> countings;
     // Finds keywords as they are written, in any case.
     std::shared_ptr<const HitFinder> prepareHits(const CSearch& condition) override;
     NewsState newsState(const HeadlineKey& key) override { return states.value(key.sequence); }

@@ -120,6 +120,30 @@ TEST_F(SearchDispatcherTest, ASearchSentDuringAnAnswerIsThePresentOne) {
 }
 
 // The keys of the headlines are read ahead; a store that is open leaves its shared memory beside it.
+TEST_F(SearchDispatcherTest, SearchesBesideThoseOfViewsLeaveTheirTablesAloneAndTellWhoeverStillWaits) {
+    desk->ask(1, kind, condition({u"tin"_s}));
+    ASSERT_TRUE(answered(1));
+    QStringList told;
+    const auto ask = [&](const QString& name) {
+        return desk->askBeside(
+            {{condition({u"gold"_s}), {1, 2}}, {condition({u"tin"_s}), {2}}, {condition({u"tin"_s}), {1}}},
+            [&told, name](std::vector<std::vector<CHeadlineTable>>&& found) {
+                QStringList sizes;
+                for (const auto& entries : found)
+                    sizes += QString::number(entries.size());
+                told += name + u' ' + sizes.join(u',');
+            });
+    };
+    auto dropped = ask(u"dropped"_s);
+    const auto kept = ask(u"kept"_s);
+    dropped.reset();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !told.isEmpty(); }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told, QStringList{u"kept 3,0,1"_s});
+    EXPECT_EQ(answers.size(), 1);
+    EXPECT_EQ(sizes(), u"1,0");
+}
+
 TEST_F(SearchDispatcherTest, AWorkerReadsAheadWhileNothingIsAsked) {
     ASSERT_TRUE(store->execute("PRAGMA wal_checkpoint(TRUNCATE)"));
     for (const bool isAsked : {false, true}) {
