@@ -150,7 +150,13 @@ QString HeadlineList::mark(int row, int column) const {
     const NewsState news = newsState(row);
     if (news.isAsFirstSent())
         return {};
-    return langText(backEnd, news.withdrawal ? keys::withdrawnMark : keys::correctedMark);
+    if (news.withdrawal)
+        return langText(backEnd, keys::withdrawnMark);
+    // A title that says so itself says it in its chip.
+    const WrittenCells* written = cellsOf(row);
+    const bool isSaid =
+        written != nullptr && saysCorrected(chip(written->textOf(HeadlineColumn::Title), column));
+    return isSaid ? QString() : langText(backEnd, keys::correctedMark);
 }
 
 bool HeadlineList::isStruck(int row, int column) const {

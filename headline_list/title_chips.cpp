@@ -40,4 +40,8 @@ SheetChip chipOfTitle(const QString& title) {
     return {};
 }
 
+bool saysCorrected(const SheetChip& chip) {
+    return chip.length > 0 && !chip.urgent;
+}
+
 }  // namespace wirepane

@@ -3,6 +3,7 @@
 #include "terminal/session/user_stores.h"
 
 #include "backend/database/database.h"
+#include "backend/network/source_list.h"
 #include "backend/store/store_file.h"
 
 #include <QDir>
@@ -10,13 +11,21 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
 namespace {
 
-enum class Content { Nothing, OnlySample, News };
+enum class Content { Nothing, OnlySample, OwnNews };
+
+// A source that is asked brings news of the user's own, even if none has come yet.
+bool hasSourceToAsk(Database& store) {
+    const auto sources = SourceList(store).sources();
+    return sources && !std::ranges::all_of(sources.value(), &NetworkSource::isPaused);
+}
 
 Content contentOf(const QString& storeFile) {
     if (!QFileInfo::exists(storeFile))
@@ -26,12 +35,14 @@ Content contentOf(const QString& storeFile) {
     std::int64_t hasOther = 1;
     // What cannot be read is the user's own until he says otherwise.
     if (!store || !store.value()->readNumber("SELECT EXISTS(SELECT 1 FROM headlines)", hasNews))
-        return Content::News;
+        return Content::OwnNews;
+    if (hasSourceToAsk(*store.value()))
+        return Content::OwnNews;
     if (hasNews == 0)
         return Content::Nothing;
     const bool isRead = store.value()->readNumber(
         "SELECT EXISTS(SELECT 1 FROM headlines WHERE identity NOT LIKE 'sample:%')", hasOther);
-    return isRead && hasOther == 0 ? Content::OnlySample : Content::News;
+    return isRead && hasOther == 0 ? Content::OnlySample : Content::OwnNews;
 }
 
 // Only who has a store for himself can end its log, and without a log it is one file.
@@ -55,7 +66,7 @@ StoreKind startingStore(const UserStores& stores, const std::optional<StoreKind>
     const Content own = contentOf(stores.own);
     if (own == Content::Nothing)
         return StoreKind::Sample;
-    if (own == Content::News || hasSample)
+    if (own == Content::OwnNews || hasSample)
         return StoreKind::Own;
     return endLog(stores.own) && QFile::rename(stores.own, stores.sample) ? StoreKind::Sample
                                                                           : StoreKind::Own;

@@ -99,6 +99,8 @@ TEST_F(HeadlineLook, RowsSayWhatBecameOfTheirNews) {
     news.setOptions(ownOptions());
     EXPECT_EQ(told(3), u"|"_s);
     EXPECT_EQ(told(2), u"fixed|2 before"_s);
+    news.vFillSheet(2, u"09:30"_s, u"Topic"_s, u"CORRECTED: T"_s);
+    EXPECT_EQ(told(2), u"|2 before"_s) << "the title says it";
     EXPECT_EQ(told(1), u"gone|struck|gone at 2026/03/02 09:31:00"_s);
     EXPECT_EQ(told(0), u"gone|struck|1 before\ngone at 2026/03/02 09:31:00: Untrue"_s);
     EXPECT_EQ(news.mark(1, timeColumn), QString());

@@ -3,6 +3,7 @@
 // The user's own news and the sample wire's stand in stores of their own.
 #include "terminal/session/user_stores.h"
 
+#include "backend/network/source_list.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_writer.h"
 #include "tests/terminal/program/program_runner.h"
@@ -67,6 +68,23 @@ TEST(UserStoresTest, TheUsersOwnIsOpenedOnceItHasNews) {
         EXPECT_EQ(QFileInfo::exists(stores.sample), c.hasSample || c.isCarriedOver);
         EXPECT_EQ(QFileInfo::exists(stores.own), c.own.has_value() && !c.isCarriedOver);
     }
+}
+
+TEST(UserStoresTest, ASourceToAskOpensTheUsersOwn) {
+    const test::Scratch scratch;
+    const UserStores stores{scratch.path(u"own"_s), scratch.path(u"sample"_s)};
+    write(stores.sample, {u"sample:1"_s});
+    NetworkSource source;
+    source.address = QUrl(u"https://news.example/feed"_s);
+    source.isPaused = true;
+    const auto own = openStore(stores.own);
+    ASSERT_TRUE(own);
+    SourceList list(*own.value());
+    const auto name = list.add(source);
+    ASSERT_TRUE(name);
+    EXPECT_EQ(startingStore(stores, {}), StoreKind::Sample) << "it waits for the user";
+    ASSERT_TRUE(list.pause(name.value(), false));
+    EXPECT_EQ(startingStore(stores, {}), StoreKind::Own);
 }
 
 TEST(UserStoresTest, AStoreThatAnotherProgramHasOpenStaysWhereItIs) {
