@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/list_notices.h"
 
+#include "host/controls/uncut_width.h"
 #include "host/views/news_control_ids.h"
 
 #include <QStringList>
@@ -55,7 +56,7 @@ std::vector<PlacedNotice> placeNotices(const ListNotices& notices, int room, con
     std::vector<PlacedNotice> placed;
     int left = 0;
     for (const auto& [kind, text] : notices.inOrder()) {
-        const int wanted = metrics.horizontalAdvance(text) + 1;  // letters have fractions of pixels
+        const int wanted = uncutWidth(metrics, text);
         const int width = std::min(wanted, room - left);
         if (width < wanted && width < fewLetters * metrics.averageCharWidth())
             break;

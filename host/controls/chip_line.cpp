@@ -5,6 +5,7 @@
 #include "host/contract/colour_roles.h"
 #include "host/controls/line_icon.h"
 #include "host/controls/row_look.h"
+#include "host/controls/uncut_width.h"
 
 #include <QEvent>
 #include <QKeyEvent>
@@ -29,11 +30,6 @@ QColor weakColour(const QPalette& palette) {
     return roleColour(ColourRole::Weak, palette.color(QPalette::PlaceholderText));
 }
 
-// Of a text that is not cut; advances are rounded.
-int roomFor(const QFontMetrics& metrics, const QString& text) {
-    return text.isEmpty() ? 0 : metrics.horizontalAdvance(text) + 2;
-}
-
 }  // namespace
 
 // --- A chip ---
@@ -51,7 +47,7 @@ void ChipButton::tell(const ChipLineText::Chip& chip) {
 
 int ChipButton::neededWidth() const {
     const int needed =
-        roomFor(fontMetrics(), literalText()) + 2 * chipMargin + gap + grown(crossSide, font());
+        uncutWidth(fontMetrics(), literalText()) + 2 * chipMargin + gap + grown(crossSide, font());
     return std::min(needed, grown(widestChip, font()));
 }
 
@@ -124,12 +120,12 @@ void ChipLine::tell(const ChipLineText& newText) {
 
 void ChipLine::place() {
     const QFontMetrics metrics(font());
-    const int sum = roomFor(QFontMetrics(sumFont()), text.sum);
-    const int details = roomFor(metrics, text.details);
+    const int sum = uncutWidth(QFontMetrics(sumFont()), text.sum);
+    const int details = uncutWidth(metrics, text.details);
     const int right = width() - margin;
     const int forChips = right - sum - beforeSum;
     const int dots = metrics.horizontalAdvance(QChar(0x2026)) + gap;
-    leadPlace = QRect(margin, 0, std::min(roomFor(metrics, text.lead), width() - 2 * margin), height());
+    leadPlace = QRect(margin, 0, std::min(uncutWidth(metrics, text.lead), width() - 2 * margin), height());
     morePlace = {};
     int x = text.lead.isEmpty() ? margin : leadPlace.right() + 1 + gap;
     const int high = std::min(height() - 4, metrics.height() + 4);

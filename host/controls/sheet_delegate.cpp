@@ -4,6 +4,7 @@
 
 #include "host/controls/sheet_builder.h"
 #include "host/controls/sheet_cells.h"
+#include "host/controls/uncut_width.h"
 
 #include <QAbstractItemView>
 #include <QPainter>
@@ -94,7 +95,7 @@ void SheetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
 QSize SheetDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const QString text = index.data(Qt::DisplayRole).toString();
-    return {option.fontMetrics.horizontalAdvance(text) + 2 * margin + 1, option.fontMetrics.height()};
+    return {uncutWidth(option.fontMetrics, text) + 2 * margin, option.fontMetrics.height()};
 }
 
 }  // namespace wirepane

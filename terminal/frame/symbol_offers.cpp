@@ -4,6 +4,7 @@
 
 #include "backend/words/simplified_chinese.h"
 #include "host/contract/colour_roles.h"
+#include "host/controls/uncut_width.h"
 
 #include <QFontMetrics>
 #include <QLocale>
@@ -72,16 +73,15 @@ int SymbolOfferDelegate::measure(const QFont& font) {
     const QFontMetrics metrics(font);
     codeWidth = 0;
     namesWidth = 0;
-    figureWidth = metrics.horizontalAdvance(u"+00.00%"_s);
+    figureWidth = uncutWidth(metrics, u"+00.00%"_s);
     for (int row = 0; row < offers.rowCount(); ++row) {
         const SymbolItem& symbol = offers.symbols()[static_cast<std::size_t>(row)];
         const SymbolNames names = namesOf(symbol);
-        const int second = names.second.isEmpty() ? 0 : namesGap + metrics.horizontalAdvance(names.second);
-        codeWidth = std::max(codeWidth, metrics.horizontalAdvance(symbol.code));
-        namesWidth = std::max(namesWidth, metrics.horizontalAdvance(names.first) + second);
+        const int second = names.second.isEmpty() ? 0 : namesGap + uncutWidth(metrics, names.second);
+        codeWidth = std::max(codeWidth, uncutWidth(metrics, symbol.code));
+        namesWidth = std::max(namesWidth, uncutWidth(metrics, names.first) + second);
         for (const QuoteColumn figure : figures)
-            figureWidth =
-                std::max(figureWidth, metrics.horizontalAdvance(textOf(offers.quoteOf(row), figure)));
+            figureWidth = std::max(figureWidth, uncutWidth(metrics, textOf(offers.quoteOf(row), figure)));
     }
     namesWidth = std::min(namesWidth, mostNamesWidth);
     return margin + codeWidth + gap + namesWidth + static_cast<int>(figures.size()) * (gap + figureWidth) +
@@ -117,7 +117,7 @@ void SymbolOfferDelegate::paint(QPainter* painter, const QStyleOptionViewItem& o
     cell.setLeft(cell.left() + codeWidth + gap);
     const SymbolNames names = namesOf(symbol);
     draw(cell, text, Qt::AlignLeft, names.first);
-    cell.setLeft(cell.left() + option.fontMetrics.horizontalAdvance(names.first) + namesGap);
+    cell.setLeft(cell.left() + uncutWidth(option.fontMetrics, names.first) + namesGap);
     if (cell.width() > 0)
         draw(cell, weak, Qt::AlignLeft, names.second);
     painter->restore();
