@@ -10,6 +10,7 @@
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
 #include "host/contract/news_record.h"
+#include "host/contract/reading_marks.h"
 
 #include <utility>
 
@@ -32,6 +33,7 @@ HeadlineList::HeadlineList(const ListKind& listKind, BKQuoteInterface& newsBackE
       cells(state->cells),
       heldPlace(state->heldPlace) {
     state->record = dynamic_cast<NewsRecord*>(&backEnd);
+    state->marks = dynamic_cast<ReadingMarks*>(&backEnd);
     afterPainting.setSingleShot(true);
     QObject::connect(&afterPainting, &QTimer::timeout, &afterPainting, [this] { table.buildIndex(); });
     QObject::connect(&state->fading, &QTimer::timeout, &state->fading, [this] { fade(); });

@@ -35,6 +35,7 @@ enum class NewsType : int;
 enum class HeadlineColumn;
 struct HeadlineKey;
 struct NewsState;
+struct ReadingMark;
 struct WrittenCells;
 struct HeadlineColumnKind;
 
@@ -117,7 +118,7 @@ public:
     HeadlinePlace takeOut(int row);
     // What is marked in titles from here on; null: nothing.
     void markHits(std::shared_ptr<const HitFinder> finder);
-    // What became of this news since it was written may have changed.
+    // What became of this news since it was written, or what the reader did with it, may have changed.
     void showStateAgain(const HeadlineKey& key);
     // Takes a row out; one out of range is ignored.
     void vDeleteHeadline(int row);
@@ -145,6 +146,8 @@ public:
     QString tag(int row, int column) const override;
     QString mark(int row, int column) const override;
     bool isStruck(int row, int column) const override;
+    Tone tone(int row) const override;
+    QString spokenText(int row, int column) const override;
     int arrival(int row) const override;
     bool holdsFigures(int column) const override;
     QString toolTip(int row) const override;
@@ -168,6 +171,9 @@ private:
     QString serviceName(unsigned char service) const;
     // What became of the news of a row; as first sent where marks are not asked for.
     NewsState newsState(int row) const;
+    // What the reader has done with the news of a row; nothing where that is not asked for, or not known.
+    std::optional<ReadingMark> readingMark(int row) const;
+    QString readingWords(int row) const;
     bool isTitleOfRow(int row, int column) const;
 
     const ListKind& kind;

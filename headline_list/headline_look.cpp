@@ -11,10 +11,14 @@
 #include "host/contract/clock.h"
 #include "host/contract/news_record.h"
 #include "host/contract/query/search_hits.h"
+#include "host/contract/reading_marks.h"
 #include "host/controls/row_look.h"
 
 #include <QHeaderView>
+#include <QStringList>
 #include <QStyle>
+
+using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
@@ -148,19 +152,66 @@ QString HeadlineList::mark(int row, int column) const {
     if (!isTitleOfRow(row, column))
         return {};
     const NewsState news = newsState(row);
-    if (news.isAsFirstSent())
-        return {};
+    QStringList marks;
+    if (const auto reading = readingMark(row); reading && reading->isStarred)
+        marks << u"\u2605"_s;
     if (news.withdrawal)
-        return langText(backEnd, keys::withdrawnMark);
+        marks << langText(backEnd, keys::withdrawnMark);
     // A title that says so itself says it in its chip.
     const WrittenCells* written = cellsOf(row);
     const bool isSaid =
         written != nullptr && saysCorrected(chip(written->textOf(HeadlineColumn::Title), column));
-    return isSaid ? QString() : langText(backEnd, keys::correctedMark);
+    if (news.corrections > 0 && !news.withdrawal && !isSaid)
+        marks << langText(backEnd, keys::correctedMark);
+    return marks.join(u' ');
 }
 
 bool HeadlineList::isStruck(int row, int column) const {
     return isTitleOfRow(row, column) && newsState(row).withdrawal.has_value();
+}
+
+// --- What the reader has done with it ---
+
+std::optional<ReadingMark> HeadlineList::readingMark(int row) const {
+    if (!state->options[ViewOption::ReadingMarks] || state->marks == nullptr || row < 0 ||
+        row >= table.size())
+        return std::nullopt;
+    return state->marks->markOf(keyOf(table.at(row)));
+}
+
+SheetCells::Tone HeadlineList::tone(int row) const {
+    const std::optional<ReadingMark> mark = readingMark(row);
+    if (!mark)
+        return Tone::Plain;
+    return mark->state == ReadingState::New    ? Tone::Unread
+           : mark->state == ReadingState::Seen ? Tone::Seen
+                                               : Tone::Read;
+}
+
+QString HeadlineList::readingWords(int row) const {
+    QStringList words;
+    if (const std::optional<ReadingMark> mark = readingMark(row)) {
+        if (mark->isStarred)
+            words << langText(backEnd, keys::starredState);
+        if (mark->wasRead)
+            words << langText(backEnd, keys::readBeforeState);
+        else if (mark->state == ReadingState::New)
+            words << langText(backEnd, keys::unreadState);
+    }
+    return words.join(u", "_s);
+}
+
+// The tone and the star have no words on screen.
+QString HeadlineList::spokenText(int row, int column) const {
+    QStringList parts{text(row, column)};
+    if (isTitleOfRow(row, column)) {
+        const NewsState news = newsState(row);
+        if (!news.isAsFirstSent())
+            parts << langText(backEnd, news.withdrawal ? keys::withdrawnMark : keys::correctedMark);
+        parts << readingWords(row);
+    }
+    parts.removeAll(QString());
+    return parts.join(u", "_s);
 }
 
 QString HeadlineList::toolTip(int row) const {
@@ -168,9 +219,10 @@ QString HeadlineList::toolTip(int row) const {
     if (!state->options[ViewOption::RowTips] || written == nullptr)
         return {};
     const CHeadlineTable& entry = table.at(row);
+    const QString words = readingWords(row);
     return rowTip(backEnd, written->textOf(HeadlineColumn::Title), serviceName(entry.service),
                   written->textOf(HeadlineColumn::Category), entry.time, host_clock::now()) +
-           recordTip(backEnd, newsState(row));
+           recordTip(backEnd, newsState(row)) + (words.isEmpty() ? QString() : u'\n' + words);
 }
 
 // --- Rows that have just come ---

@@ -19,6 +19,7 @@
 namespace wirepane {
 class HitFinder;
 class NewsRecord;
+class ReadingMarks;
 
 // What a headline list is made of. For its own files alone.
 struct HeadlineList::State {
@@ -34,6 +35,7 @@ struct HeadlineList::State {
     QHash<unsigned char, QString> serviceNames;  // that were asked for
     std::shared_ptr<const HitFinder> hits;       // what is marked in titles
     NewsRecord* record = nullptr;                // of the back end; null: it has none
+    ReadingMarks* marks = nullptr;               // of the back end; null: it has none
 };
 
 }  // namespace wirepane

@@ -33,6 +33,10 @@ inline constexpr std::array commandKeys{
     CommandKey{QLatin1StringView("Alt+PgUp"), ids::pageUpButton},
     CommandKey{QLatin1StringView("Ctrl+Return"), ids::openInWindow},
     CommandKey{QLatin1StringView("Ctrl+Shift+D"), ids::turnChanges},
+    CommandKey{QLatin1StringView("Ctrl+R"), ids::markRead},
+    CommandKey{QLatin1StringView("Ctrl+U"), ids::markUnread},
+    CommandKey{QLatin1StringView("Ctrl+J"), ids::turnStar},
+    CommandKey{QLatin1StringView("Ctrl+Shift+A"), ids::markAllRead},
 };
 
 // The key that does what the command does; empty: none.

@@ -26,6 +26,7 @@ struct FullLine {
     QLatin1StringView text;
     QKeySequence::StandardKey platformKey = QKeySequence::UnknownKey;
     bool ofRow = true;
+    bool ofMarks = false;
 };
 
 constexpr std::array fullMenu{
@@ -33,6 +34,11 @@ constexpr std::array fullMenu{
     FullLine{ids::openInWindow, keys::storyInWindow},
     FullLine{ids::printNews, keys::printNews, QKeySequence::Print},
     FullLine{ids::saveNews, keys::saveAsNews, QKeySequence::Save},
+    FullLine{0, {}, QKeySequence::UnknownKey, false, true},
+    FullLine{ids::markRead, keys::markRead, QKeySequence::UnknownKey, true, true},
+    FullLine{ids::markUnread, keys::markUnread, QKeySequence::UnknownKey, true, true},
+    FullLine{ids::turnStar, keys::starNews, QKeySequence::UnknownKey, true, true},
+    FullLine{ids::markAllRead, keys::markAllRead, QKeySequence::UnknownKey, false, true},
     FullLine{0, {}},
     FullLine{ids::recoverStory, keys::recoverStory},
     FullLine{ids::recoverHeadlineTable, keys::recoverHeadlineList, QKeySequence::UnknownKey, false},
@@ -44,7 +50,7 @@ std::vector<MenuEntry> fullEntries(const MenuSituation& situation, BKQuoteInterf
     std::vector<MenuEntry> entries;
     for (const FullLine& line : fullMenu) {
         const bool isTold = line.command != ids::recoverHeadlineTable || situation.mode <= ListIndex::Symbol;
-        if (!isTold || (line.ofRow && !situation.onRow))
+        if (!isTold || (line.ofRow && !situation.onRow) || (line.ofMarks && !situation.hasMarks))
             continue;
         if (line.command == 0) {
             entries.push_back({});
@@ -55,6 +61,8 @@ std::vector<MenuEntry> fullEntries(const MenuSituation& situation, BKQuoteInterf
                                      : QKeySequence(line.platformKey);
         const QString told = key.isEmpty() ? QString() : u'\t' + key.toString(QKeySequence::NativeText);
         entries.push_back({line.command, langText(backEnd, line.text) + told, {}});
+        if (line.command == ids::turnStar)
+            entries.back().checked = situation.isStarred;
     }
     entries.back().checked = situation.showsCategory;
     return entries;

@@ -21,6 +21,8 @@ struct MenuSituation {
     bool showsCategory = false;   // the category column is shown
     bool hasStoryWindow = false;  // stories are shown in their window
     bool isFull = false;          // ViewOption::RowMenu
+    bool hasMarks = false;        // ViewOption::ReadingMarks
+    bool isStarred = false;       // the row is
 };
 
 // The lines of the menu: what can be done with the list and the row, with news that waits (`waiting`), and

@@ -67,7 +67,7 @@ void ListInput::carryOut(const KeyRoute& route, const QKeyEvent& event) {
     if (receiver != nullptr)
         handOn(*receiver, event);
     if (route.showStory)
-        view.showStory();
+        view.openStory();
 }
 
 void ListInput::handOn(QWidget& receiver, const QKeyEvent& event) {
@@ -90,7 +90,7 @@ bool ListInput::takePress(const QKeyEvent& event) {
         return false;
     const bool shifted = event.modifiers().testFlag(Qt::ShiftModifier);
     if (isEnter(event.key()))
-        view.showStory();
+        view.openStory();
     else if (event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && shifted))
         around.openContextMenu();
     else if (event.matches(QKeySequence::Copy))

@@ -30,6 +30,8 @@ public:
     bool isRead(ListIndex list) const;
     // The list's rows are others now: the reader has gone to none of them.
     void forget(ListIndex list);
+    // The row is being gone to for the reader.
+    bool isGoingThere() const { return isGoing; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

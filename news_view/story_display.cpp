@@ -40,7 +40,16 @@ TRVNewsStory* StoryDisplay::windowOnShow() const {
     return hasStoryWindow() && window->isVisible() ? window : nullptr;
 }
 
-void StoryDisplay::show() {
+void StoryDisplay::tellShown(int shownRow, bool byHand) const {
+    if (const auto entry = view.listOf(view.shownList()).headlineTable().entryAt(shownRow))
+        around.shown(*entry, byHand);
+}
+
+std::optional<CHeadlineTable> StoryDisplay::newsInPane() const {
+    return paneShowsStories() ? shownOf(view.shownList()) : std::nullopt;
+}
+
+void StoryDisplay::show(bool byHand) {
     const ListIndex list = view.shownList();
     CSuperSheetWnd* grid = view.listOf(list).grid();
     const int focused = focusedRow(grid);
@@ -53,19 +62,26 @@ void StoryDisplay::show() {
     if (hasStoryWindow()) {
         around.stage.dialogForNext()->vSetStoryData(static_cast<int>(list), focused, around.foundUnder(list));
         around.stage.showDialog();
+        tellShown(focused, byHand);
     }
-    if (!paneShowsStories() || focused == row)
+    if (!paneShowsStories())
         return;
+    if (focused == row) {
+        if (byHand)
+            tellShown(row, true);
+        return;
+    }
     row = focused;
     NewsStoryView* pane = around.stage.storyPane();
     pane->vSetFont(around.font());
     pane->vSetStoryData(static_cast<int>(list), row, around.foundUnder(list));
     listRelatedSymbols();
+    tellShown(row, byHand);
 }
 
 void StoryDisplay::openWindow() {
     if (!paneShowsStories()) {
-        show();
+        open();
         return;
     }
     const NewsStoryView* pane = around.stage.storyPane();
@@ -85,7 +101,7 @@ void StoryDisplay::clear() {
 
 void StoryDisplay::follow(const CSuperSheetWnd& grid, ListIndex list) {
     if (!grid.isTakingUpRows() && !keepsPlace && paneShowsStories() && view.shownList() == list)
-        show();
+        open();
 }
 
 bool StoryDisplay::takeClick() {
@@ -93,7 +109,7 @@ bool StoryDisplay::takeClick() {
     if (pane == nullptr)
         return false;
     if (paneShowsStories()) {
-        show();
+        open();
         return true;
     }
     const HeadlineList& list = view.listOf(view.shownList());
@@ -110,7 +126,7 @@ bool StoryDisplay::takeClick() {
 
 void StoryDisplay::takeDoubleClick() {
     if (hasStoryWindow())
-        show();
+        open();
 }
 
 void StoryDisplay::page(int step) {
@@ -123,6 +139,7 @@ void StoryDisplay::page(int step) {
     pane->vShowData();
     around.goTo(view.shownList(), pane->GetHeadLinePos());
     listRelatedSymbols();
+    tellShown(pane->GetHeadLinePos(), true);
 }
 
 int StoryDisplay::pointAt(int newRow) {

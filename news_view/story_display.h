@@ -36,34 +36,32 @@ public:
         std::function<CSearch(ListIndex)> foundUnder;  // the condition that a list's rows were found under
         std::function<QFont()> font;                   // the view's
         std::function<void(ListIndex list, int row)> goTo;  // the selection of the view goes to a row
+        std::function<void(const CHeadlineTable& entry, bool byHand)> shown;
     };
 
     // All that is referred to outlives the display.
     StoryDisplay(ViewContext& view, BKQuoteInterface& backEnd, Surroundings surroundings);
 
-    // How stories are shown.
     StoryShowType showType() const { return type; }
     void setShowType(StoryShowType shown) { type = shown; }
-    // Whether stories are shown in the pane; else they are in their window.
-    bool paneShowsStories() const;
-    // Whether there is a window that stories are shown in, not the pane.
-    bool hasStoryWindow() const;
+    bool paneShowsStories() const;  // else stories are in their window
+    bool hasStoryWindow() const;    // that stories are shown in, not the pane
     // The story window while it is the view's story display and to be seen; null: it is not.
     TRVNewsStory* windowOnShow() const;
     // Whether `show` opens no window: stories are in the pane, or their window is open.
     bool hasOpenStory() const { return paneShowsStories() || windowOnShow() != nullptr; }
 
-    // The row whose story the pane shows; -1: none, or it is forgotten.
+    // The news whose story is on show in the pane, and its row; -1: none, or it is forgotten.
+    std::optional<CHeadlineTable> newsInPane() const;
     int shownRow() const { return row; }
     void forget() { row = -1; }
-    // Empties the pane, and forgets its row.
-    void clear();
+    void clear();  // empties the pane, and forgets its row
     // Shows the story of the shown list's focused row, unless the pane shows that row's already; without a
     // focused row the story goes.
-    void show();
-    // Shows the pane's story in a window, too; without a pane that of the focused row.
-    void openWindow();
-    void turnChanges();  // of the story on show, or the story again
+    void show() { show(false); }
+    void open() { show(true); }  // where the reader's hand has gone to the row
+    void openWindow();           // for the pane's story, too; without a pane that of the focused row
+    void turnChanges();          // of the story on show, or the story again
     // The story of a list's new current row is shown in the pane, when the reader went there: not where the
     // current row went because its own has left, nor within `readInPlace`.
     void follow(const CSuperSheetWnd& grid, ListIndex list);
@@ -97,6 +95,8 @@ public:
     void takeRelatedSymbols(const CNewsSymlistInfo& info);
 
 private:
+    void show(bool byHand);
+    void tellShown(int shownRow, bool byHand) const;
     std::optional<CHeadlineTable> shownOf(ListIndex list) const;
 
     ViewContext& view;

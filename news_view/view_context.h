@@ -28,6 +28,8 @@ public:
     // Shows the story of the shown list's focused row, unless the pane shows that row's already; without a
     // focused row the story goes.
     virtual void showStory() = 0;
+    // The same, where the reader's hand asks for it.
+    virtual void openStory() { showStory(); }
     virtual void clearStory() = 0;
     virtual bool paneShowsStories() const = 0;
 

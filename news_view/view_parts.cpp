@@ -43,6 +43,7 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       story(*this, backEnd, storySurroundings()),
       storyInput(storyInputSurroundings()),
       newestRow(*this, [this] { return settings.options[ViewOption::FollowNewest]; }),
+      reading(*this, common, {[this] { return selectedEntries(); }, [this] { return story.newsInPane(); }}),
       output(backEnd, outputDialogs, outputSurroundings()),
       board(noticeSurroundings(), noticeTellers()),
       menu(view, [this](int command) { view.onCommand(command); }),
@@ -132,7 +133,10 @@ void TRVNewsCtrlView::Parts::connectGrid(CSuperSheetWnd& grid, ListIndex list) {
 
 StoryDisplay::Surroundings TRVNewsCtrlView::Parts::storySurroundings() {
     return {stage, [this](ListIndex list) { return searches.desk().foundUnder(list); },
-            [this] { return view.GetViewFont(); }, [this](ListIndex list, int row) { goTo(list, row); }};
+            [this] { return view.GetViewFont(); }, [this](ListIndex list, int row) { goTo(list, row); },
+            [this](const CHeadlineTable& entry, bool byHand) {
+                reading.noteShown(entry, byHand && !newestRow.isGoingThere());
+            }};
 }
 
 StoryInput::Surroundings TRVNewsCtrlView::Parts::storyInputSurroundings() {
@@ -205,9 +209,10 @@ void TRVNewsCtrlView::Parts::rowsReplaced(ListIndex list) {
 ContextMenu::Surroundings TRVNewsCtrlView::Parts::contextMenuSurroundings() {
     return {view, [this] { return view.titleHeight(); },
             [this](bool onRow) {
-                return contextMenuEntries({modes.shown(), onRow, settings.showCategory,
-                                           story.hasStoryWindow(), settings.options[ViewOption::RowMenu]},
-                                          backEnd, output.waitingCommands(), board.notices());
+                return contextMenuEntries(
+                    {modes.shown(), onRow, settings.showCategory, story.hasStoryWindow(),
+                     settings.options[ViewOption::RowMenu], reading.isOn(), reading.isStarred()},
+                    backEnd, output.waitingCommands(), board.notices());
             }};
 }
 
@@ -400,7 +405,7 @@ bool TRVNewsCtrlView::Parts::takeRowCommand(int id) {
     else if (id == ids::turnChanges)
         story.turnChanges();
     else
-        return false;
+        return reading.carryOut(id);
     return true;
 }
 

@@ -25,6 +25,7 @@
 #include "news_view/news_services.h"
 #include "news_view/notice_board.h"
 #include "news_view/output_jobs.h"
+#include "news_view/reading.h"
 #include "news_view/search_line.h"
 #include "news_view/search_offers.h"
 #include "news_view/searches.h"
@@ -52,6 +53,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::ListIndex shownList() const override { return modes.shown(); }
     wirepane::HeadlineList& listOf(wirepane::ListIndex list) override { return lists[list]; }
     void showStory() override { story.show(); }
+    void openStory() override { story.open(); }
     void clearStory() override { story.clear(); }
     bool paneShowsStories() const override { return story.paneShowsStories(); }
     void refresh() override { view.vUpdateView(); }
@@ -131,6 +133,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::StoryDisplay story;
     wirepane::StoryInput storyInput;
     wirepane::NewestRow newestRow;
+    wirepane::Reading reading;
     wirepane::OutputJobs output;
     wirepane::NoticeBoard board;
     wirepane::CommandMenu menu;

@@ -13,7 +13,7 @@
 using namespace wirepane;
 
 void TRVNewsCtrlView::OnShowStory() {
-    parts->story.show();
+    parts->story.open();
 }
 
 bool TRVNewsCtrlView::bChangeNewsPos(int list, int row) {

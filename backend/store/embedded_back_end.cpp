@@ -54,6 +54,11 @@ EmbeddedBackEnd::EmbeddedBackEnd(StoreConnections opened)
       reader(*connections.reading),
       days(*connections.reading),
       headlineCache(reader),
+      marks(
+          *connections.reading,
+          onlyRead ? MarkingDesk::Ask()
+                   : [this](StoreIntake::Work work,
+                            StoreIntake::Then then) { intake.ask(std::move(work), std::move(then)); }),
       laterNews(*connections.reading),
       quotes(*connections.reading),
       toldRevision(quotes.lastRevision()),
@@ -75,6 +80,11 @@ EmbeddedBackEnd::EmbeddedBackEnd(StoreConnections opened)
           }),
       intake(*connections.writing, disk, [this](const WorkReport& report) { note(report); }) {}
 
+EmbeddedBackEnd::~EmbeddedBackEnd() {
+    if (marks.writeNow())
+        intake.finish();
+}
+
 void EmbeddedBackEnd::moveOn() {
     // So much is read again sooner than followed, and the log may not reach back.
     constexpr std::int64_t mostFollowed = 10'000;
@@ -89,6 +99,7 @@ void EmbeddedBackEnd::moveOn() {
     delivery.add(fresh);
     for (const Arrival& arrival : fresh) {
         headlineCache.forget(arrival.key);
+        marks.forget(arrival.key);
         if (arrival.isGone)
             days.remove(arrival.key);
         else if (!arrival.onlyStory)
@@ -99,6 +110,7 @@ void EmbeddedBackEnd::moveOn() {
 void EmbeddedBackEnd::forgetNews() {
     days.clear();
     headlineCache.clear();
+    marks.forgetAll();
 }
 
 void EmbeddedBackEnd::note(const WorkReport& report) {
@@ -106,6 +118,9 @@ void EmbeddedBackEnd::note(const WorkReport& report) {
     // What another program did to news stands in the log of arrivals; symbols have none.
     if (report.byOthers)
         symbolsRead = false;
+    // Nor have marks, which the user's other terminal may have changed.
+    if (report.byOthers)
+        marks.forgetAll();
     symbolsToTell.insert(symbolsToTell.end(), report.symbols.begin(), report.symbols.end());
     if (report.damage)
         damageOfWork = report.damage;

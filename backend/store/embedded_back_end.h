@@ -11,6 +11,7 @@
 #include "backend/store/day_index.h"
 #include "backend/store/headline_cache.h"
 #include "backend/store/later_news.h"
+#include "backend/store/marking_desk.h"
 #include "backend/store/news_days.h"
 #include "backend/store/news_delivery.h"
 #include "backend/store/quote_book.h"
@@ -31,6 +32,7 @@
 #include "host/contract/query/headline_query.h"
 #include "host/contract/query/search_counts.h"
 #include "host/contract/query/search_hits.h"
+#include "host/contract/reading_marks.h"
 #include "host/contract/reading_moment.h"
 
 #include <QColor>
@@ -86,6 +88,7 @@ class EmbeddedBackEnd : public BKQuoteInterface,
                         public ReadingMoment,
                         public NewsDayFinder,
                         public NewsRecord,
+                        public ReadingMarks,
                         public HeadlineQueries,
                         public SearchHits,
                         public SearchCounts {
@@ -95,6 +98,8 @@ public:
     static Result<std::unique_ptr<EmbeddedBackEnd>> open(const QString& storePath,
                                                          const IndexProgress& onIndexing = {});
     explicit EmbeddedBackEnd(StoreConnections connections);
+    // Waits until the marks that were changed last are written.
+    ~EmbeddedBackEnd() override;
 
     // Does the work on the store's thread, behind what was asked before, and tells the receivers what it has
     // committed; then calls back, from the event loop.
@@ -163,6 +168,12 @@ public:
     bool hasNewsOn(unsigned char service, const QDate& day) override;
     NewsState newsState(const HeadlineKey& key) override { return headlineCache.state(key); }
     std::vector<NewsVersion> versionsOf(const HeadlineKey& key) override { return reader.versions(key); }
+    bool canMark() const override { return marks.canMark(); }
+    ReadingMark markOf(const HeadlineKey& key) override { return marks.markOf(key); }
+    void changeMarks(const std::vector<HeadlineKey>& keys, const MarkChange& change) override {
+        marks.change(keys, change);
+    }
+    MarkTeller& markTeller() override { return marks.teller(); }
     // When the newest headline was dated that is there at the present moment; 0: there is none.
     std::int64_t newestTime();
     // A category by its id. Warrants number their categories for themselves: name their service for one of
@@ -287,6 +298,7 @@ private:
     StoreReader reader;
     DayIndex days;
     HeadlineCache headlineCache;
+    MarkingDesk marks;
     LaterNews laterNews;
     std::function<void(unsigned char, std::int64_t)> datedAhead;
     QuoteBook quotes;

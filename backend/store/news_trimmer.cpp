@@ -29,7 +29,8 @@ NewsTrimmer::NewsTrimmer(Database& database, NewsWriter& news, ArrivalLog& arriv
       readHidden(database, "SELECT min(first) FROM import_blocks WHERE hidden"),
       oldest(database,
              "SELECT id, time, sequence FROM headlines WHERE service = ? AND time < ? AND "
-             "id < ? ORDER BY time, sequence LIMIT ?"),
+             "id < ? AND NOT EXISTS(SELECT 1 FROM marks WHERE headline = id AND starred) "
+             "ORDER BY time, sequence LIMIT ?"),
       nextTime(database, "SELECT time FROM all_headlines WHERE id >= ? ORDER BY id LIMIT 1"),
       merge(database, "INSERT INTO news_search(news_search, rank) VALUES('merge', ?)") {}
 

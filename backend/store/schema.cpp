@@ -227,9 +227,25 @@ CREATE TABLE index_renewal(
     indexed INTEGER NOT NULL);
 )sql";
 
+// What the user has read and starred; news without a mark that was there before there were any counts as
+// seen.
+constexpr const char* readingMarks = R"sql(
+CREATE TABLE marks(
+    headline INTEGER PRIMARY KEY REFERENCES all_headlines(id) ON DELETE CASCADE ON UPDATE CASCADE,
+    state INTEGER NOT NULL CHECK(state BETWEEN 0 AND 2),
+    starred INTEGER NOT NULL,
+    was_read INTEGER NOT NULL,
+    shown INTEGER NOT NULL,
+    opened INTEGER NOT NULL);
+CREATE INDEX starred_marks ON marks(headline) WHERE starred;
+CREATE TABLE marks_begin(headline INTEGER NOT NULL);
+INSERT INTO marks_begin(headline) SELECT coalesce(max(id), 0) FROM all_headlines;
+)sql";
+
 constexpr std::array steps{firstVersion, arrivalsAndPositions,   ownSearchWords, quotes,
                            goneKeys,     blocksOfImports,        retention,      networkSources,
-                           englishNames, versionsAndWithdrawals, packedStories,  indexRenewal};
+                           englishNames, versionsAndWithdrawals, packedStories,  indexRenewal,
+                           readingMarks};
 
 }  // namespace
 

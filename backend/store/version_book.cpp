@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/version_book.h"
 
+#include "backend/database/database.h"
 #include "backend/store/limits.h"
+
+#include <sqlite3.h>
 
 namespace wirepane {
 
-VersionBook::VersionBook(Database& database)
-    : write(database,
+VersionBook::VersionBook(Database& owner)
+    : database(owner),
+      write(database,
             "INSERT INTO versions(headline, number, time, received, differs, title, text) "
             "SELECT id, 1 + coalesce((SELECT max(number) FROM versions WHERE headline = ?1), 0), time, "
             "received, "
@@ -28,16 +32,23 @@ VersionBook::VersionBook(Database& database)
           "title = (SELECT title FROM all_headlines WHERE id = ?1) AND "
           "unpacked(text, headline) IS (SELECT unpacked(text, headline) FROM stories WHERE headline = ?1)"),
       confirm(database, "UPDATE versions SET differs = 1 WHERE headline = ? AND NOT differs"),
+      renew(database,
+            "UPDATE marks SET state = 0, was_read = 1 WHERE headline = ?1 AND state = 2 AND "
+            "(SELECT differs FROM versions WHERE headline = ?1 ORDER BY number DESC LIMIT 1)"),
       writeWithdrawal(database, "REPLACE INTO withdrawals(headline, moment, reason) VALUES(?, ?, ?)"),
       eraseWithdrawal(database, "DELETE FROM withdrawals WHERE headline = ?") {}
 
 bool VersionBook::keep(std::int64_t id, const QString& title, const std::optional<QByteArrayView>& story) {
-    return Query(write, id, title, story).run() &&
+    return Query(write, id, title, story).run() && renewMark(id) &&
            Query(drop, id, limits::versions - 1, limits::versionLength).run();
 }
 
 bool VersionBook::settle(std::int64_t id) {
-    return Query(dropSame, id).run() && Query(confirm, id).run();
+    return Query(dropSame, id).run() && Query(confirm, id).run() && renewMark(id);
+}
+
+bool VersionBook::renewMark(std::int64_t id) {
+    return sqlite3_changes(database.handle()) == 0 || Query(renew, id).run();
 }
 
 bool VersionBook::withdraw(std::int64_t id, std::int64_t moment, const QString& reason) {

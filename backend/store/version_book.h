@@ -15,8 +15,9 @@ namespace wirepane {
 // What news was before it was sent again with another title or story, and what its publishers have withdrawn.
 // The first version of a piece of news stays, and its last ones, within limits.h. The same title and story
 // again make no version, nor does a story that was still to come; where one is to come again, what has
-// changed shows when it is there. Operations answer false on failure, which the database then holds. Thread:
-// that of the database, which must outlive this.
+// changed shows when it is there. News that was read
+// is marked as new again when it has another version. Operations answer false on failure, which the database
+// then holds. Thread: that of the database, which must outlive this.
 class VersionBook {
 public:
     explicit VersionBook(Database& database);
@@ -30,10 +31,15 @@ public:
     bool restore(std::int64_t id);
 
 private:
+    // When the statement before has changed something.
+    bool renewMark(std::int64_t id);
+
+    Database& database;
     Statement write;
     Statement drop;
     Statement dropSame;
     Statement confirm;
+    Statement renew;
     Statement writeWithdrawal;
     Statement eraseWithdrawal;
 };

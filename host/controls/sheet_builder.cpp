@@ -94,6 +94,8 @@ QVariant CSheetBuilder::data(const QModelIndex& index, int role) const {
         return {};
     if (role == Qt::DisplayRole)
         return source->text(row, index.column());
+    if (role == Qt::AccessibleTextRole)
+        return source->spokenText(row, index.column());
     if (role != Qt::ForegroundRole && role != Qt::BackgroundRole)
         return {};
     const QColor colour = role == Qt::ForegroundRole ? source->textColour(row, index.column())

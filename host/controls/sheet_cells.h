@@ -75,6 +75,15 @@ public:
         Q_UNUSED(column);
         return {};
     }
+    // What the reader has done with a row: unread ones have a dot and are heavier, what was read is paler, of
+    // what was seen only the first column.
+    enum class Tone { Plain, Unread, Seen, Read };
+    virtual Tone tone(int row) const {
+        Q_UNUSED(row);
+        return Tone::Plain;
+    }
+    // What is read out of a cell.
+    virtual QString spokenText(int row, int column) const { return text(row, column); }
     // The text is struck out.
     virtual bool isStruck(int row, int column) const {
         Q_UNUSED(row);

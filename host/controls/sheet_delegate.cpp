@@ -67,11 +67,14 @@ void SheetDelegate::paintFinished(QPainter& painter, const QStyleOptionViewItem&
     if (index.column() == 0 && view->hasFocus() && (selected || isMarkedCurrent(index)))
         painter.fillRect(QRect(cell.left(), cell.top(), barWidth, cell.height()),
                          colours.accentColour(view->palette()));
+    constexpr int roomForDot = 14;
+    if (index.column() == 0 && look.gutter >= roomForDot && cells->tone(row) == SheetCells::Tone::Unread)
+        rowPainter.paintDot(painter, cell, view->palette());
     rowPainter.setFont(option.font);
-    rowPainter.paint(
-        painter, *cells,
-        {row, index.column(), textRoom(cell, index.column(), look), builder->alignment(index.column())},
-        view->palette());
+    rowPainter.paint(painter, *cells,
+                     {row, index.column(), textRoom(cell, index.column(), look),
+                      builder->alignment(index.column()), selected || isMarkedCurrent(index)},
+                     view->palette());
 }
 
 void SheetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -19,6 +19,8 @@ constexpr int roomForMark = 160;
 constexpr int tagEdge = 18;  // from the cell's right edge: the scroll bar lies there
 constexpr int tagGap = 10;   // between text and tag
 constexpr int radius = 3;
+constexpr int dotSize = 6;
+constexpr int dotLeft = 6;
 constexpr int mostKept = 64;
 
 qreal baselineIn(const QRect& room, const QFont& font) {
@@ -33,6 +35,9 @@ void SheetRowPainter::setFont(const QFont& font) {
         return;
     hasFont = true;
     texts.setFont(font);
+    QFont heavy = font;
+    heavy.setWeight(std::max(font.weight(), QFont::Medium));
+    heavyTexts.setFont(heavy);
     tags.setFont(sizedFont(font, tagShare));
     chipFont = sizedFont(font, chipShare);
     chipFont.setWeight(QFont::DemiBold);
@@ -41,6 +46,7 @@ void SheetRowPainter::setFont(const QFont& font) {
 
 void SheetRowPainter::forgetTexts() {
     texts.forget();
+    heavyTexts.forget();
     tags.forget();
 }
 
@@ -84,7 +90,22 @@ int SheetRowPainter::paintTags(QPainter& painter, const SheetCells& cells, const
 
 QColor SheetRowPainter::textColour(const SheetCells& cells, const Cell& cell, const QPalette& palette) const {
     const QColor own = cells.textColour(cell.row, cell.column);
-    return own.isValid() ? own : colours.textColour(palette);
+    if (own.isValid() || cell.isSelected)
+        return own.isValid() ? own : colours.textColour(palette);
+    const SheetCells::Tone tone = cells.tone(cell.row);
+    const bool isPale =
+        tone == SheetCells::Tone::Read || (tone == SheetCells::Tone::Seen && cell.column == 0);
+    return isPale ? colours.weakColour(palette) : colours.textColour(palette);
+}
+
+void SheetRowPainter::paintDot(QPainter& painter, const QRect& cell, const QPalette& palette) const {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colours.accentColour(palette));
+    painter.drawEllipse(
+        QRectF(cell.left() + dotLeft, cell.top() + (cell.height() - dotSize) / 2.0, dotSize, dotSize));
+    painter.restore();
 }
 
 void SheetRowPainter::paint(QPainter& painter, const SheetCells& cells, const Cell& cell,
@@ -93,7 +114,8 @@ void SheetRowPainter::paint(QPainter& painter, const SheetCells& cells, const Ce
     if (text.isEmpty())
         return;
     const int right = paintTags(painter, cells, cell, palette);
-    const DrawnText& drawn = texts.line(text, right - cell.room.left(), &cells, cell.column);
+    DrawnTexts& lines = cells.tone(cell.row) == SheetCells::Tone::Unread ? heavyTexts : texts;
+    const DrawnText& drawn = lines.line(text, right - cell.room.left(), &cells, cell.column);
     qreal x = cell.room.left();
     if (cell.alignment & Qt::AlignRight)
         x = right - drawn.width;

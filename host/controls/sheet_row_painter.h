@@ -25,6 +25,7 @@ public:
         int column = 0;
         QRect room;  // for the text
         Qt::Alignment alignment;
+        bool isSelected = false;
     };
 
     // The colours are referred to; after a change of theirs call forgetPictures.
@@ -33,6 +34,8 @@ public:
     // The font of what is painted next.
     void setFont(const QFont& font);
     void forgetPictures();
+    // The dot of an unread row, in the gutter before its first cell.
+    void paintDot(QPainter& painter, const QRect& cell, const QPalette& palette) const;
     // What it has laid out is not on show.
     void forgetTexts();
     void paint(QPainter& painter, const SheetCells& cells, const Cell& cell, const QPalette& palette);
@@ -50,6 +53,7 @@ private:
     const SheetColours& colours;
     bool hasFont = false;
     DrawnTexts texts;
+    DrawnTexts heavyTexts;  // of unread rows
     DrawnTexts tags;
     QFont chipFont;
     QHash<QString, QPixmap> chips;

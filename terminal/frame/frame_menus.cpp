@@ -55,6 +55,10 @@ constexpr std::array newsEntries{
     Entry{FrameCommand::NewsNextPage, TextId::NewsNextPage, "Alt+PgDown"_L1, true, true, true},
     Entry{FrameCommand::NewsPreviousPage, TextId::NewsPreviousPage, "Alt+PgUp"_L1, true, false, true},
     Entry{FrameCommand::NewsOpenInWindow, TextId::NewsOpenInWindow, "Ctrl+Return"_L1, true, false, true},
+    Entry{FrameCommand::NewsMarkRead, TextId::NewsMarkRead, "Ctrl+R"_L1, true, true, true},
+    Entry{FrameCommand::NewsMarkUnread, TextId::NewsMarkUnread, "Ctrl+U"_L1, true, false, true},
+    Entry{FrameCommand::NewsStar, TextId::NewsStar, "Ctrl+J"_L1, true, false, true},
+    Entry{FrameCommand::NewsMarkAllRead, TextId::NewsMarkAllRead, "Ctrl+Shift+A"_L1, true, false, true},
     Entry{FrameCommand::NewsLayout, TextId::NewsLayout, "F9"_L1, true, true, true},
     Entry{FrameCommand::Sources, TextId::NewsSources, "Ctrl+Shift+O"_L1, false, true},
 };

@@ -67,6 +67,14 @@ std::optional<int> commandOfView(FrameCommand command) {
             return ids::showTypeButton;
         case FrameCommand::NewsOpenInWindow:
             return ids::openInWindow;
+        case FrameCommand::NewsMarkRead:
+            return ids::markRead;
+        case FrameCommand::NewsMarkUnread:
+            return ids::markUnread;
+        case FrameCommand::NewsStar:
+            return ids::turnStar;
+        case FrameCommand::NewsMarkAllRead:
+            return ids::markAllRead;
         default:
             return std::nullopt;
     }

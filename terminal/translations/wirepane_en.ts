@@ -1883,6 +1883,34 @@
         <source></source>
         <translation>The news could not be printed on %1: %2</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_MARK_READ">
+        <source></source>
+        <translation>Mark &amp;Read</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_MARK_UNREAD">
+        <source></source>
+        <translation>Mark &amp;Unread</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_MARK_ALL_READ">
+        <source></source>
+        <translation>Mark A&amp;ll Read</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STAR">
+        <source></source>
+        <translation>S&amp;tar</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STATE_UNREAD">
+        <source></source>
+        <translation>unread</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STATE_STARRED">
+        <source></source>
+        <translation>starred</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STATE_READ_BEFORE">
+        <source></source>
+        <translation>corrected since you read it</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_NEWS">
         <source></source>
         <translation>&amp;Print…</translation>
@@ -2375,6 +2403,22 @@ Reads the news of securities markets, live and from files.</translation>
     <message id="TERMINAL_NEWS_NEXT_PAGE">
         <source></source>
         <translation>&amp;Next Story</translation>
+    </message>
+    <message id="TERMINAL_NEWS_MARK_READ">
+        <source></source>
+        <translation>Mark &amp;Read</translation>
+    </message>
+    <message id="TERMINAL_NEWS_MARK_UNREAD">
+        <source></source>
+        <translation>Mark &amp;Unread</translation>
+    </message>
+    <message id="TERMINAL_NEWS_STAR">
+        <source></source>
+        <translation>S&amp;tar</translation>
+    </message>
+    <message id="TERMINAL_NEWS_MARK_ALL_READ">
+        <source></source>
+        <translation>Mark A&amp;ll Read</translation>
     </message>
     <message id="TERMINAL_NEWS_OPEN_IN_WINDOW">
         <source></source>

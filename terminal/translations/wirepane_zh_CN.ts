@@ -1883,6 +1883,34 @@
         <source></source>
         <translation>新闻无法打印到 %1：%2</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_MARK_READ">
+        <source></source>
+        <translation>标为已读(&amp;R)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_MARK_UNREAD">
+        <source></source>
+        <translation>标为未读(&amp;U)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_MARK_ALL_READ">
+        <source></source>
+        <translation>全部标为已读(&amp;L)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STAR">
+        <source></source>
+        <translation>加星标(&amp;T)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STATE_UNREAD">
+        <source></source>
+        <translation>未读</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STATE_STARRED">
+        <source></source>
+        <translation>已加星标</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STATE_READ_BEFORE">
+        <source></source>
+        <translation>您读过之后已更正</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINT_NEWS">
         <source></source>
         <translation>打印(&amp;P)…</translation>
@@ -2375,6 +2403,22 @@
     <message id="TERMINAL_NEWS_NEXT_PAGE">
         <source></source>
         <translation>下一条(&amp;N)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_MARK_READ">
+        <source></source>
+        <translation>标为已读(&amp;R)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_MARK_UNREAD">
+        <source></source>
+        <translation>标为未读(&amp;U)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_STAR">
+        <source></source>
+        <translation>加星标(&amp;T)</translation>
+    </message>
+    <message id="TERMINAL_NEWS_MARK_ALL_READ">
+        <source></source>
+        <translation>全部标为已读(&amp;L)</translation>
     </message>
     <message id="TERMINAL_NEWS_OPEN_IN_WINDOW">
         <source></source>

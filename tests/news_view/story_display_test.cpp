@@ -59,17 +59,17 @@ protected:
     StoryStage stage;
     QList<ListIndex> foundUnder;
     QStringList wentTo;
-    StoryDisplay story{view,
-                       backEnd,
-                       {stage,
-                        [this](ListIndex list) {
-                            foundUnder.append(list);
-                            return CSearch();
-                        },
-                        [] { return QFont(); },
-                        [this](ListIndex list, int row) {
-                            wentTo.append(u"%1:%2"_s.arg(static_cast<int>(list)).arg(row));
-                        }}};
+    StoryDisplay story{
+        view,
+        backEnd,
+        {stage,
+         [this](ListIndex list) {
+             foundUnder.append(list);
+             return CSearch();
+         },
+         [] { return QFont(); },
+         [this](ListIndex list, int row) { wentTo.append(u"%1:%2"_s.arg(static_cast<int>(list)).arg(row)); },
+         [](const CHeadlineTable&, bool) {}}};
 };
 
 }  // namespace

@@ -15,6 +15,7 @@ namespace {
 
 TEST(UncutWidthTest, NoTextIsCutAtAnySize) {
     QFont font = QGuiApplication::font();
+    font.setHintingPreference(QFont::PreferNoHinting);
     QStringList texts{u"+1.04"_s, u"Ranhe Semiconductor"_s, u"苒禾半導體"_s, u"Wave…"_s};
     for (int code = 1000; code < 1100; ++code)
         texts.append(QString::number(code));

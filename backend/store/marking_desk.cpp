@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/marking_desk.h"
+
+#include "backend/store/store_writer.h"
+#include "host/contract/clock.h"
+
+#include <memory>
+#include <utility>
+
+namespace wirepane {
+
+namespace {
+
+constexpr qsizetype mostKnown = 4096;
+constexpr std::size_t writtenAtOnce = 2000;  // some 20 ms, for which news waits
+constexpr std::chrono::milliseconds gathered{250};
+
+}  // namespace
+
+MarkingDesk::MarkingDesk(Database& database, Ask asking)
+    : book(database), ask(std::move(asking)), known(mostKnown) {
+    soon.setSingleShot(true);
+    QObject::connect(&soon, &QTimer::timeout, &soon, [this] { writeNow(); });
+}
+
+ReadingMark MarkingDesk::markOf(const HeadlineKey& key) {
+    const ReadingMark* kept = known.object({key});
+    if (kept == nullptr) {
+        known.insert({key}, new ReadingMark(book.find(key)));
+        kept = known.object({key});
+    }
+    const auto change = waiting.constFind({key});
+    return change == waiting.cend() ? *kept : changedMark(*kept, change->change, change->moment);
+}
+
+void MarkingDesk::change(const std::vector<HeadlineKey>& keys, const MarkChange& change) {
+    if (!ask || keys.empty())
+        return;
+    const std::int64_t now = host_clock::now();
+    for (const HeadlineKey& key : keys) {
+        Waiting& entry = waiting[{key}];
+        entry.moment = entry.moment == 0 ? now : entry.moment;
+        entry.change = joined(entry.change, change);
+        entry.isUnderWay = false;
+    }
+    if (!soon.isActive())
+        soon.start(gathered);
+    emit tells.changed(keys);
+}
+
+void MarkingDesk::forgetAll() {
+    known.clear();
+    emit tells.changed({});
+}
+
+bool MarkingDesk::writeNow() {
+    soon.stop();
+    std::vector<Writing> all;
+    for (auto entry = waiting.begin(); entry != waiting.end(); ++entry) {
+        if (!std::exchange(entry->isUnderWay, true))
+            all.push_back({entry.key(), entry->change, entry->moment});
+    }
+    for (std::size_t from = 0; from < all.size(); from += writtenAtOnce) {
+        const auto begin = all.begin() + std::ptrdiff_t(from);
+        const auto end = all.begin() + std::ptrdiff_t(std::min(from + writtenAtOnce, all.size()));
+        const auto batch = std::make_shared<const std::vector<Writing>>(begin, end);
+        const auto isWritten = std::make_shared<bool>(false);
+        ask(
+            [batch, isWritten](StoreWriter& writer) {
+                if (!writer.begin())
+                    return;
+                MarkBook written(writer.connection());
+                bool isWell = true;
+                for (const Writing& one : *batch)
+                    isWell = isWell && written.change(one.key.headline, one.change, one.moment);
+                if (!isWell)
+                    writer.rollback();
+                *isWritten = isWell && writer.commit();
+            },
+            [this, batch, isWritten] { noteWritten(*batch, *isWritten); });
+    }
+    return !all.empty();
+}
+
+void MarkingDesk::noteWritten(const std::vector<Writing>& batch, bool isWritten) {
+    for (const Writing& one : batch) {
+        known.remove(one.key);
+        const auto entry = waiting.find(one.key);
+        // What was changed meanwhile is still to be written.
+        if (entry == waiting.end() || !entry->isUnderWay)
+            continue;
+        if (isWritten)
+            waiting.erase(entry);
+        else
+            entry->isUnderWay = false;
+    }
+}
+
+}  // namespace wirepane

@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/reading.h"
+
+#include "headline_list/headline_list.h"
+#include "headline_list/headline_lists.h"
+#include "headline_list/headline_table.h"
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/reading_marks.h"
+#include "host/views/news_control_ids.h"
+#include "news_view/common_parts.h"
+#include "news_view/view_context.h"
+#include "news_view/view_settings.h"
+
+#include <QWidget>
+
+#include <utility>
+
+namespace wirepane {
+
+namespace {
+
+constexpr int secondsUntilSeen = 1;
+constexpr int secondsUntilRead = 5;
+constexpr std::size_t mostShownOneByOne = 256;
+
+}  // namespace
+
+Reading::Reading(ViewContext& context, const CommonParts& common, Calls given)
+    : view(context),
+      parts(common),
+      calls(std::move(given)),
+      marks(dynamic_cast<ReadingMarks*>(&common.backEnd)) {
+    second.setInterval(1000);
+    connect(&second, &QTimer::timeout, this, &Reading::countSecond);
+    if (marks != nullptr)
+        connect(&marks->markTeller(), &MarkTeller::changed, this, &Reading::showAgain);
+}
+
+bool Reading::isOn() const {
+    return marks != nullptr && marks->canMark() && parts.settings.options[ViewOption::ReadingMarks];
+}
+
+bool Reading::isStarred() const {
+    const std::vector<CHeadlineTable> rows = isOn() ? calls.selected() : std::vector<CHeadlineTable>();
+    return !rows.empty() && marks->markOf(keyOf(rows.front())).isStarred;
+}
+
+void Reading::noteShown(const CHeadlineTable& entry, bool byHand) {
+    second.stop();
+    if (!isOn())
+        return;
+    if (byHand) {
+        standing.reset();
+        markIfNew(keyOf(entry), ReadingState::Read);
+        return;
+    }
+    standing = keyOf(entry);
+    stood = 0;
+    second.start();
+}
+
+void Reading::markIfNew(const HeadlineKey& key, ReadingState state) {
+    if (marks->markOf(key).state < state)
+        marks->changeMarks({key}, {.state = state});
+}
+
+void Reading::countSecond() {
+    const auto shown = calls.inPane();
+    if (!standing || !shown || keyOf(*shown) != *standing || !isOn()) {
+        second.stop();
+        return;
+    }
+    if (!parts.window.isActiveWindow() || !parts.window.isVisible())
+        return;
+    ++stood;
+    if (stood == secondsUntilSeen)
+        markIfNew(*standing, ReadingState::Seen);
+    if (stood < secondsUntilRead)
+        return;
+    second.stop();
+    markIfNew(*standing, ReadingState::Read);
+}
+
+bool Reading::carryOut(int command) {
+    if (command == ids::markRead)
+        markSelected({.state = ReadingState::Read});
+    else if (command == ids::markUnread)
+        markSelected({.state = ReadingState::New});
+    else if (command == ids::turnStar)
+        markSelected({.isStarred = !isStarred()});
+    else if (command == ids::markAllRead)
+        markAll();
+    else
+        return false;
+    return true;
+}
+
+void Reading::markSelected(const MarkChange& change) {
+    if (!isOn())
+        return;
+    std::vector<HeadlineKey> keys;
+    for (const CHeadlineTable& entry : calls.selected())
+        keys.push_back(keyOf(entry));
+    // What stands in the pane stays unread once it has been marked so.
+    standing.reset();
+    marks->changeMarks(keys, change);
+}
+
+void Reading::markAll() {
+    if (!isOn())
+        return;
+    const HeadlineTable& table = view.listOf(view.shownList()).headlineTable();
+    std::vector<HeadlineKey> keys;
+    keys.reserve(std::size_t(table.size()));
+    for (int row = 0; row < table.size(); ++row)
+        keys.push_back(keyOf(table.at(row)));
+    marks->changeMarks(keys, {.state = ReadingState::Read});
+}
+
+void Reading::showAgain(const std::vector<HeadlineKey>& changed) {
+    if (!parts.settings.options[ViewOption::ReadingMarks])
+        return;
+    HeadlineList& list = view.listOf(view.shownList());
+    if (list.grid() == nullptr)
+        return;
+    if (changed.empty() || changed.size() > mostShownOneByOne) {
+        list.grid()->viewport()->update();
+        return;
+    }
+    for (const HeadlineKey& key : changed)
+        list.showStateAgain(key);
+}
+
+}  // namespace wirepane

@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/embedded_back_end.h"
+#include "backend/store/store_checker.h"
+#include "backend/store/store_file.h"
+#include "tests/backend/store/store_fixture.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+namespace {
+
+constexpr MarkChange read{.state = ReadingState::Read};
+constexpr MarkChange seen{.state = ReadingState::Seen};
+constexpr MarkChange unread{.state = ReadingState::New};
+constexpr MarkChange starred{.isStarred = true};
+
+// "read*" and the like; with the moments where they are asked for.
+QString told(const ReadingMark& mark) {
+    static const QStringList states{u"new"_s, u"seen"_s, u"read"_s};
+    return states[int(mark.state)] + (mark.isStarred ? u"*"_s : QString()) +
+           (mark.wasRead ? u" before"_s : QString());
+}
+
+TEST(ReadingMarkTest, WhatWasReadStaysReadUntilItIsMarkedUnread) {
+    const struct {
+        QList<MarkChange> changes;
+        QString mark;
+        std::int64_t shown;
+        std::int64_t opened;
+    } cases[] = {
+        {{}, u"new"_s, 0, 0},
+        {{seen}, u"seen"_s, 1, 0},
+        {{read}, u"read"_s, 1, 1},
+        {{seen, read, read}, u"read"_s, 1, 2},
+        {{read, seen}, u"read"_s, 1, 1},
+        {{read, unread}, u"new"_s, 1, 1},
+        {{read, unread, seen}, u"seen"_s, 1, 1},
+        {{starred, read}, u"read*"_s, 2, 2},
+    };
+    for (const auto& one : cases) {
+        ReadingMark mark;
+        MarkChange together;
+        std::int64_t moment = 0;
+        for (const MarkChange& change : one.changes) {
+            mark = changedMark(mark, change, ++moment);
+            together = joined(together, change);
+        }
+        EXPECT_EQ(told(mark), one.mark);
+        EXPECT_EQ(mark.shown, one.shown) << one.mark.toStdString();
+        EXPECT_EQ(mark.opened, one.opened) << one.mark.toStdString();
+        EXPECT_EQ(told(changedMark({}, together, 1)), one.mark) << "in one";
+    }
+}
+
+class MarksTest : public StoreFixture {
+protected:
+    NewsItem news(const QString& identity, int second, int version = 1, const QString& title = u"Tin"_s) {
+        NewsItem item = newsItem(1, identity, at(9, 0) + second, title);
+        item.version = version;
+        item.story = u"Tin rose"_s;
+        return item;
+    }
+    HeadlineKey take(const NewsItem& item) {
+        EXPECT_TRUE(writer->begin());
+        const Result<StoredNews> stored = writer->takeNews(item);
+        EXPECT_TRUE(stored && writer->commit());
+        return stored.value().key;
+    }
+    std::unique_ptr<EmbeddedBackEnd> opened() {
+        return std::move(EmbeddedBackEnd::open(store->path()).value());
+    }
+    QString kept(const HeadlineKey& key) { return told(MarkBook(*store).find(key)); }
+};
+
+TEST_F(MarksTest, HoldAtOnceAreToldAndAreKeptWhenTheStoreIsClosed) {
+    const HeadlineKey first = take(news(u"a"_s, 0));
+    const HeadlineKey second = take(news(u"b"_s, 1));
+    {
+        const auto backEnd = opened();
+        std::size_t changes = 0;
+        QObject::connect(&backEnd->markTeller(), &MarkTeller::changed, &backEnd->markTeller(),
+                         [&](const std::vector<HeadlineKey>& keys) { changes += keys.size(); });
+        backEnd->changeMarks({first, second}, read);
+        backEnd->changeMarks({second}, starred);
+        EXPECT_EQ(told(backEnd->markOf(first)), u"read"_s);
+        EXPECT_EQ(told(backEnd->markOf(second)), u"read*"_s);
+        EXPECT_EQ(changes, 3U);
+    }
+    EXPECT_EQ(kept(first), u"read"_s);
+    EXPECT_EQ(kept(second), u"read*"_s);
+    const auto again = opened();
+    EXPECT_EQ(told(again->markOf(second)), u"read*"_s);
+    again->changeMarks({second}, {.isStarred = false});
+    again->run([](StoreWriter&) {});
+    EXPECT_EQ(told(again->markOf(second)), u"read"_s) << "while it waits to be written";
+    EXPECT_EQ(StoreChecker(store->path()).check().value(), QStringList());
+}
+
+TEST_F(MarksTest, WhatAnotherTerminalMarksIsToldAndShown) {
+    const HeadlineKey key = take(news(u"a"_s, 0));
+    const auto here = opened();
+    EXPECT_EQ(told(here->markOf(key)), u"new"_s);
+    bool isTold = false;
+    QObject::connect(&here->markTeller(), &MarkTeller::changed, &here->markTeller(), [&] { isTold = true; });
+    opened()->changeMarks({key}, read);
+    here->checkForNews();
+    here->run([](StoreWriter&) {});
+    EXPECT_TRUE(isTold);
+    EXPECT_EQ(told(here->markOf(key)), u"read"_s);
+}
+
+TEST_F(MarksTest, NewsThatIsCorrectedAfterItWasReadIsNewAgain) {
+    const struct {
+        const char* what;
+        MarkChange mark;
+        QString title;
+        int second;
+        QString after;
+    } cases[] = {
+        {"another title", read, u"Zinc"_s, 1, u"new before"_s},
+        {"another time", read, u"Zinc"_s, 50, u"new before"_s},
+        {"the same again", read, u"Tin"_s, 1, u"read"_s},
+        {"only seen", seen, u"Zinc"_s, 1, u"seen"_s},
+    };
+    for (const auto& one : cases) {
+        const QString identity = QString::fromLatin1(one.what);
+        const HeadlineKey key = take(news(identity, 0));
+        const auto backEnd = opened();
+        backEnd->changeMarks({key}, one.mark);
+        backEnd->changeMarks({key}, starred);
+        EXPECT_EQ(backEnd->markOf(key).state, one.mark.state);
+        Result<StoredNews> stored = StoredNews();
+        // What was marked is written before what comes later is taken.
+        QTest::qWait(400);
+        backEnd->run([&](StoreWriter& taking) {
+            EXPECT_TRUE(taking.begin());
+            stored = taking.takeNews(news(identity, one.second, 2, one.title));
+            EXPECT_TRUE(stored && taking.commit());
+        });
+        const QString expected = one.after.startsWith(u"new"_s) ? u"new* before"_s : one.after + u'*';
+        EXPECT_EQ(told(backEnd->markOf(stored.value().key)), expected) << one.what;
+        backEnd->changeMarks({stored.value().key}, read);
+        EXPECT_EQ(told(backEnd->markOf(stored.value().key)), u"read*"_s) << one.what;
+    }
+}
+
+TEST_F(MarksTest, StarredNewsStaysWhenOldNewsLeavesAndOtherMarksGoWithTheirNews) {
+    const HeadlineKey plain = take(news(u"a"_s, 0));
+    const HeadlineKey dear = take(news(u"b"_s, 1));
+    take(news(u"c"_s, 90'000));
+    take(news(u"d"_s, 90'001));
+    {
+        const auto backEnd = opened();
+        backEnd->changeMarks({plain, dear}, read);
+        backEnd->changeMarks({dear}, starred);
+    }
+    for (int step = 0; step < 10; ++step)
+        EXPECT_TRUE(writer->trim({.days = 1}, at(9, 0) + 2 * 86'400));
+    EXPECT_EQ(rows("SELECT identity FROM headlines ORDER BY identity"),
+              QStringList({u"b"_s, u"c"_s, u"d"_s}));
+    EXPECT_EQ(rows("SELECT count(*) FROM marks"), QStringList(u"1"_s));
+    EXPECT_EQ(kept(dear), u"read*"_s);
+}
+
+TEST_F(MarksTest, WhatWasThereBeforeMarksWereKeptCountsAsSeen) {
+    const HeadlineKey key = take(news(u"a"_s, 0));
+    ASSERT_TRUE(store->execute("UPDATE marks_begin SET headline = (SELECT max(id) FROM all_headlines)"));
+    EXPECT_EQ(kept(key), u"seen"_s);
+    EXPECT_EQ(kept(take(news(u"b"_s, 1))), u"new"_s);
+}
+
+}  // namespace
+}  // namespace wirepane

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/reading.h"
+
+#include "host/contract/cfg_io.h"
+#include "host/contract/reading_marks.h"
+#include "host/views/news_control_ids.h"
+#include "tests/news_view/fake_view.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+namespace {
+
+class MarkingBackEnd : public FakeBackEnd, public ReadingMarks {
+public:
+    bool canMark() const override { return isWritable; }
+    ReadingMark markOf(const HeadlineKey& key) override { return kept.value(key.sequence); }
+    void changeMarks(const std::vector<HeadlineKey>& keys, const MarkChange& change) override {
+        for (const HeadlineKey& key : keys)
+            kept[key.sequence] = changedMark(kept[key.sequence], change, 1);
+        emit teller.changed(keys);
+    }
+    MarkTeller& markTeller() override { return teller; }
+
+    bool isWritable = true;
+    QHash<int, ReadingMark> kept;  // by number
+    MarkTeller teller;
+};
+
+class ReadingTest : public testing::Test {
+protected:
+    ReadingTest() {
+        for (int number = 1; number <= 3; ++number)
+            view.add(number);
+        setOption(true);
+        view.read();
+        view.listOf(ListIndex::All).vFillHeadline();
+    }
+    void setOption(bool on) {
+        MemoryCfgIO stored;
+        stored.setViewInfo({}, u"ReadingMarks"_s, on);
+        view.settings.options = ViewOptions::read(stored, {});
+        view.listOf(ListIndex::All).setOptions(view.settings.options);
+    }
+    ReadingState state(int number) { return backEnd.kept.value(number).state; }
+    // What is read out of the titles.
+    QStringList spoken() {
+        QStringList told;
+        for (int row = 0; row < 3; ++row)
+            told += view.grid()->model()->index(row, 2).data(Qt::AccessibleTextRole).toString();
+        return told;
+    }
+
+    MarkingBackEnd backEnd;
+    FakeView view{backEnd};
+    std::vector<CHeadlineTable> selected;
+    std::optional<CHeadlineTable> inPane;
+    const CommonParts parts = view.parts();
+    Reading reading{view, parts, {[this] { return selected; }, [this] { return inPane; }}};
+};
+
+TEST_F(ReadingTest, WhatAHandOpensIsReadAndWhatStandsIsSeenAndThenRead) {
+    const CHeadlineTable first = view.entryAt(ListIndex::All, 0);
+    const CHeadlineTable second = view.entryAt(ListIndex::All, 1);
+    reading.noteShown(first, true);
+    EXPECT_EQ(state(first.sequence), ReadingState::Read);
+
+    view.window.show();
+    view.window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view.window));
+    inPane = second;
+    reading.noteShown(second, false);
+    EXPECT_EQ(state(second.sequence), ReadingState::New);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return state(second.sequence) == ReadingState::Seen; }, 3000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return state(second.sequence) == ReadingState::Read; }, 6000));
+}
+
+TEST_F(ReadingTest, WhatNobodyLooksAtStaysNew) {
+    const CHeadlineTable first = view.entryAt(ListIndex::All, 0);
+    inPane = first;
+    reading.noteShown(first, false);
+    QTest::qWait(1200);
+    EXPECT_EQ(state(first.sequence), ReadingState::New) << "no window is active";
+}
+
+TEST_F(ReadingTest, CommandsChangeTheSelectedRowsAndAllOfThem) {
+    selected = {view.entryAt(ListIndex::All, 0), view.entryAt(ListIndex::All, 2)};
+    EXPECT_TRUE(reading.carryOut(ids::markRead));
+    EXPECT_EQ(spoken().filter(u"STATE_UNREAD"_s).size(), 1);
+    EXPECT_TRUE(reading.carryOut(ids::turnStar));
+    EXPECT_TRUE(reading.isStarred());
+    EXPECT_EQ(spoken().filter(u"STATE_STARRED"_s).size(), 2);
+    EXPECT_EQ(view.listOf(ListIndex::All).mark(0, 2), u"\u2605"_s);
+    EXPECT_TRUE(reading.carryOut(ids::turnStar));
+    EXPECT_TRUE(reading.carryOut(ids::markUnread));
+    EXPECT_EQ(spoken().filter(u"STATE_UNREAD"_s).size(), 3);
+    EXPECT_TRUE(reading.carryOut(ids::markAllRead));
+    EXPECT_EQ(spoken().filter(u"STATE"_s), QStringList());
+    EXPECT_FALSE(reading.carryOut(ids::copyRows));
+}
+
+TEST_F(ReadingTest, NothingIsMarkedUnasked) {
+    const struct {
+        const char* what;
+        bool isOn;
+        bool isWritable;
+    } cases[] = {{"a bare view", false, true}, {"what can only be read", true, false}};
+    for (const auto& one : cases) {
+        setOption(one.isOn);
+        backEnd.isWritable = one.isWritable;
+        selected = {view.entryAt(ListIndex::All, 0)};
+        reading.noteShown(selected.front(), true);
+        reading.carryOut(ids::turnStar);
+        reading.carryOut(ids::markAllRead);
+        EXPECT_TRUE(backEnd.kept.isEmpty()) << one.what;
+        EXPECT_FALSE(reading.isOn()) << one.what;
+    }
+    setOption(false);
+    EXPECT_EQ(view.listOf(ListIndex::All).tone(0), SheetCells::Tone::Plain);
+    EXPECT_EQ(spoken().filter(u"STATE"_s), QStringList());
+}
+
+}  // namespace
+}  // namespace wirepane
