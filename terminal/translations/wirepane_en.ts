@@ -1885,7 +1885,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_MARK_READ">
         <source></source>
-        <translation>Mark &amp;Read</translation>
+        <translation>&amp;Mark Read</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_MARK_UNREAD">
         <source></source>
@@ -1893,11 +1893,11 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_MARK_ALL_READ">
         <source></source>
-        <translation>Mark A&amp;ll Read</translation>
+        <translation>Mar&amp;k All Read</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STAR">
         <source></source>
-        <translation>S&amp;tar</translation>
+        <translation>St&amp;ar</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STATE_UNREAD">
         <source></source>
@@ -2406,7 +2406,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_NEWS_MARK_READ">
         <source></source>
-        <translation>Mark &amp;Read</translation>
+        <translation>&amp;Mark Read</translation>
     </message>
     <message id="TERMINAL_NEWS_MARK_UNREAD">
         <source></source>
@@ -2414,11 +2414,11 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_NEWS_STAR">
         <source></source>
-        <translation>S&amp;tar</translation>
+        <translation>St&amp;ar</translation>
     </message>
     <message id="TERMINAL_NEWS_MARK_ALL_READ">
         <source></source>
-        <translation>Mark A&amp;ll Read</translation>
+        <translation>Mar&amp;k All Read</translation>
     </message>
     <message id="TERMINAL_NEWS_OPEN_IN_WINDOW">
         <source></source>

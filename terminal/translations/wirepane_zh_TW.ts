@@ -1885,7 +1885,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_MARK_READ">
         <source></source>
-        <translation>標為已讀(&amp;R)</translation>
+        <translation>標為已讀(&amp;M)</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_MARK_UNREAD">
         <source></source>
@@ -1893,11 +1893,11 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_MARK_ALL_READ">
         <source></source>
-        <translation>全部標為已讀(&amp;L)</translation>
+        <translation>全部標為已讀(&amp;K)</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STAR">
         <source></source>
-        <translation>加星號(&amp;T)</translation>
+        <translation>加星號(&amp;A)</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STATE_UNREAD">
         <source></source>
@@ -2406,7 +2406,7 @@
     </message>
     <message id="TERMINAL_NEWS_MARK_READ">
         <source></source>
-        <translation>標為已讀(&amp;R)</translation>
+        <translation>標為已讀(&amp;M)</translation>
     </message>
     <message id="TERMINAL_NEWS_MARK_UNREAD">
         <source></source>
@@ -2414,11 +2414,11 @@
     </message>
     <message id="TERMINAL_NEWS_STAR">
         <source></source>
-        <translation>加星號(&amp;T)</translation>
+        <translation>加星號(&amp;A)</translation>
     </message>
     <message id="TERMINAL_NEWS_MARK_ALL_READ">
         <source></source>
-        <translation>全部標為已讀(&amp;L)</translation>
+        <translation>全部標為已讀(&amp;K)</translation>
     </message>
     <message id="TERMINAL_NEWS_OPEN_IN_WINDOW">
         <source></source>
