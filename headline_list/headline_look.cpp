@@ -173,8 +173,8 @@ bool HeadlineList::isStruck(int row, int column) const {
 // --- What the reader has done with it ---
 
 std::optional<ReadingMark> HeadlineList::readingMark(int row) const {
-    if (!state->options[ViewOption::ReadingMarks] || state->marks == nullptr || row < 0 ||
-        row >= table.size())
+    if (!state->options[ViewOption::ReadingMarks] || state->marks == nullptr || !state->marks->canMark() ||
+        row < 0 || row >= table.size())
         return std::nullopt;
     return state->marks->markOf(keyOf(table.at(row)));
 }

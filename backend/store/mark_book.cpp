@@ -6,7 +6,7 @@ namespace wirepane {
 
 MarkBook::MarkBook(Database& database)
     : read(database,
-           "SELECT id, coalesce(state, id <= (SELECT headline FROM marks_begin)), starred, was_read, "
+           "SELECT id, coalesce(state, time <= (SELECT moment FROM marks_begin)), starred, was_read, "
            "shown, opened FROM headlines LEFT JOIN marks ON headline = id "
            "WHERE service = ? AND time = ? AND sequence = ?"),
       write(database,

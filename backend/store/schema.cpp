@@ -227,8 +227,8 @@ CREATE TABLE index_renewal(
     indexed INTEGER NOT NULL);
 )sql";
 
-// What the user has read and starred; news without a mark that was there before there were any counts as
-// seen.
+// What the user has read and starred. News without a mark that was published up to the moment of
+// `marks_begin` counts as seen: nobody who begins to read has missed what was there before him.
 constexpr const char* readingMarks = R"sql(
 CREATE TABLE marks(
     headline INTEGER PRIMARY KEY REFERENCES all_headlines(id) ON DELETE CASCADE ON UPDATE CASCADE,
@@ -238,8 +238,8 @@ CREATE TABLE marks(
     shown INTEGER NOT NULL,
     opened INTEGER NOT NULL);
 CREATE INDEX starred_marks ON marks(headline) WHERE starred;
-CREATE TABLE marks_begin(headline INTEGER NOT NULL);
-INSERT INTO marks_begin(headline) SELECT coalesce(max(id), 0) FROM all_headlines;
+CREATE TABLE marks_begin(moment INTEGER NOT NULL);
+INSERT INTO marks_begin(moment) SELECT coalesce(max(time), 0) FROM all_headlines;
 )sql";
 
 constexpr std::array steps{firstVersion, arrivalsAndPositions,   ownSearchWords, quotes,

@@ -4,6 +4,7 @@
 
 #include "backend/database/statement.h"
 #include "backend/store/schema.h"
+#include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
 
 #include <array>
@@ -78,7 +79,8 @@ bool addServices(Database& database) {
 }  // namespace
 
 bool addDefaults(Database& database) {
-    return addCategories(database) && addServices(database);
+    Statement begin(database, "UPDATE marks_begin SET moment = ?");
+    return addCategories(database) && addServices(database) && Query(begin, host_clock::now()).run();
 }
 
 bool removeDefaultCategories(Database& database) {

@@ -3,6 +3,7 @@
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/store_checker.h"
 #include "backend/store/store_file.h"
+#include "host/contract/clock.h"
 #include "tests/backend/store/store_fixture.h"
 
 #include <QTest>
@@ -57,6 +58,7 @@ TEST(ReadingMarkTest, WhatWasReadStaysReadUntilItIsMarkedUnread) {
 
 class MarksTest : public StoreFixture {
 protected:
+    MarksTest() { store->execute("UPDATE marks_begin SET moment = 0"); }
     NewsItem news(const QString& identity, int second, int version = 1, const QString& title = u"Tin"_s) {
         NewsItem item = newsItem(1, identity, at(9, 0) + second, title);
         item.version = version;
@@ -165,11 +167,18 @@ TEST_F(MarksTest, StarredNewsStaysWhenOldNewsLeavesAndOtherMarksGoWithTheirNews)
     EXPECT_EQ(kept(dear), u"read*"_s);
 }
 
-TEST_F(MarksTest, WhatWasThereBeforeMarksWereKeptCountsAsSeen) {
-    const HeadlineKey key = take(news(u"a"_s, 0));
-    ASSERT_TRUE(store->execute("UPDATE marks_begin SET headline = (SELECT max(id) FROM all_headlines)"));
-    EXPECT_EQ(kept(key), u"seen"_s);
-    EXPECT_EQ(kept(take(news(u"b"_s, 1))), u"new"_s);
+TEST_F(MarksTest, WhatWasPublishedBeforeTheStoreWasMadeCountsAsSeen) {
+    const std::int64_t made = host_clock::now();
+    const auto fresh = openStore(pathOf(u"fresh"_s));
+    ASSERT_TRUE(fresh);
+    StoreWriter taking(*fresh.value());
+    MarkBook marks(*fresh.value());
+    ASSERT_TRUE(taking.begin());
+    for (const auto& [identity, time, expected] : {std::tuple{u"later"_s, made + 600, u"new"_s},
+                                                   {u"before, and taken in behind it"_s, made, u"seen"_s}})
+        EXPECT_EQ(told(marks.find(taking.takeNews(newsItem(1, identity, time, u"Tin"_s)).value().key)),
+                  expected);
+    EXPECT_TRUE(taking.commit());
 }
 
 }  // namespace
