@@ -65,9 +65,12 @@ void SystemKeychain::write(const QString& key, const QString& secret,
           [answer](const Error* fault) { answer(fault != nullptr ? Done(*fault) : Done(Nothing{})); });
 }
 
-void SystemKeychain::remove(const QString& key) {
+void SystemKeychain::remove(const QString& key, const std::function<void(const Done&)>& answer) {
     auto* job = new QKeychain::DeletePasswordJob(service());
-    start(job, key, [](const Error*) {});
+    start(job, key, [answer](const Error* fault) {
+        const bool isGone = fault == nullptr || fault->code == &source_errors::secretMissing;
+        answer(isGone ? Done(Nothing{}) : Done(*fault));
+    });
 }
 
 }  // namespace wirepane

@@ -21,7 +21,8 @@ public:
     virtual void read(const QString& key, const std::function<void(const Result<QString>&)>& answer) = 0;
     virtual void write(const QString& key, const QString& secret,
                        const std::function<void(const Done&)>& answer) = 0;
-    virtual void remove(const QString& key) = 0;
+    // What is not there is removed.
+    virtual void remove(const QString& key, const std::function<void(const Done&)>& answer) = 0;
 };
 
 // That of the user's desktop. Where there is none, or it does not answer in time, it fails.
@@ -30,7 +31,7 @@ public:
     void read(const QString& key, const std::function<void(const Result<QString>&)>& answer) override;
     void write(const QString& key, const QString& secret,
                const std::function<void(const Done&)>& answer) override;
-    void remove(const QString& key) override;
+    void remove(const QString& key, const std::function<void(const Done&)>& answer) override;
 };
 
 }  // namespace wirepane

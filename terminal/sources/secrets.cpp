@@ -4,6 +4,7 @@
 
 #include "terminal/sources/keychain.h"
 #include "terminal/sources/secret_file.h"
+#include "terminal/sources/source_errors.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -53,12 +54,18 @@ void Secrets::keep(const QString& name, const QString& secret, const Found& foun
     });
 }
 
-void Secrets::forget(const QString& name) {
-    if (!name.startsWith(filePrefix))
-        keychain.remove(name);
-    else if (const QString file = name.sliced(filePrefix.size());
-             QFileInfo(file).absolutePath() == QDir(folder).absolutePath())
-        QFile::remove(file);
+void Secrets::forget(const QString& name, const std::function<void(const Done&)>& finished) {
+    if (!name.startsWith(filePrefix)) {
+        keychain.remove(name, finished);
+        return;
+    }
+    const QFileInfo info(name.sliced(filePrefix.size()));
+    QFile file(info.filePath());
+    const bool isOurs = info.absolutePath() == QDir(folder).absolutePath();
+    const bool stays = isOurs && info.exists() && !file.remove();
+    finished(stays ? Done(makeError<source_errors::secretFileNotWritten>(
+                         QDir::toNativeSeparators(info.filePath()), file.errorString()))
+                   : Done(Nothing{}));
 }
 
 }  // namespace wirepane

@@ -24,8 +24,8 @@ public:
     void find(const QString& name, const Found& found) override;
     // Keeps the secret; the answer is the name to find it under, which is this one or that of a file.
     void keep(const QString& name, const QString& secret, const Found& found);
-    // A file that the user made stays.
-    void forget(const QString& name);
+    // A file that the user made stays. Answers once, also where there is nothing to forget.
+    void forget(const QString& name, const std::function<void(const Done&)>& finished);
 
 private:
     QString fileOf(const QString& name) const;

@@ -5,6 +5,7 @@
 #include "backend/database/database.h"
 #include "backend/store/store_file.h"
 #include "terminal/sources/secrets.h"
+#include "terminal/sources/source_errors.h"
 
 #include <QUuid>
 
@@ -71,9 +72,10 @@ void SourceDesk::change(NetworkSource source, const SourceSecret& secret, const 
             source.secret = kept.value();
         ask([source](SourceList& sources) { return sources.change(source); },
             [this, former, now = source.secret, finished](const Done& done) {
-                if (done && former != now && !former.isEmpty())
-                    secrets.forget(former);
-                finished(done);
+                if (done && former != now)
+                    forgetSecret(former, finished);
+                else
+                    finished(done);
             });
     });
 }
@@ -93,9 +95,20 @@ void SourceDesk::remove(const QString& name, const Finished& finished) {
             return sources.remove(name);
         },
         [this, secret, finished](const Done& done) {
-            if (done && !secret->isEmpty())
-                secrets.forget(*secret);
-            finished(done);
+            if (done)
+                forgetSecret(*secret, finished);
+            else
+                finished(done);
+        });
+}
+
+// Who ends with the answer must not leave it behind.
+void SourceDesk::forgetSecret(const QString& secret, const Finished& finished) {
+    if (secret.isEmpty())
+        finished(Nothing{});
+    else
+        secrets.forget(secret, [finished](const Done& done) {
+            finished(done ? done : Done(makeError<source_errors::secretStays>(done.error())));
         });
 }
 

@@ -20,6 +20,9 @@ inline constexpr ErrorCode secretMissing{"ERROR_SOURCES_SECRET_MISSING",
                                          u"The keychain has no secret called %1."};
 inline constexpr ErrorCode keychainFailed{"ERROR_SOURCES_KEYCHAIN_FAILED", u"The keychain failed: %1"};
 inline constexpr ErrorCode keychainSilent{"ERROR_SOURCES_KEYCHAIN_SILENT", u"The keychain does not answer."};
+inline constexpr ErrorCode secretStays{
+    "ERROR_SOURCES_SECRET_STAYS",
+    u"The list is as you wish, but the source's former secret could not be removed: %1"};
 inline constexpr ErrorCode secretFileMissing{"ERROR_SOURCES_SECRET_FILE_MISSING",
                                              u"There is no file %1 with the secret."};
 inline constexpr ErrorCode secretFileNotRead{"ERROR_SOURCES_SECRET_FILE_NOT_READ",

@@ -1051,6 +1051,10 @@
         <source></source>
         <translation>The keychain has no secret called %1.</translation>
     </message>
+    <message id="ERROR_SOURCES_SECRET_STAYS">
+        <source></source>
+        <translation>The list is as you wish, but the source's former secret could not be removed: %1</translation>
+    </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
         <translation>It is older than the news that this store keeps: since %1.</translation>

@@ -1051,6 +1051,10 @@
         <source></source>
         <translation>钥匙串中没有名为 %1 的密钥。</translation>
     </message>
+    <message id="ERROR_SOURCES_SECRET_STAYS">
+        <source></source>
+        <translation>列表已按您的要求更新，但无法移除该来源原有的机密数据：%1</translation>
+    </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
         <translation>它早于本数据库所保留的新闻：自 %1 起。</translation>

@@ -1051,6 +1051,10 @@
         <source></source>
         <translation>鑰匙圈中沒有名為 %1 的密鑰。</translation>
     </message>
+    <message id="ERROR_SOURCES_SECRET_STAYS">
+        <source></source>
+        <translation>清單已依您的要求更新，但無法移除該來源原有的機密資料：%1</translation>
+    </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
         <translation>它早於本資料庫所保留的新聞：自 %1 起。</translation>

@@ -32,7 +32,11 @@ struct FakeKeychain : Keychain {
             kept[key] = secret;
         answer(answers ? Done(Nothing{}) : Done(makeError<source_errors::keychainSilent>()));
     }
-    void remove(const QString& key) override { kept.remove(key); }
+    void remove(const QString& key, const std::function<void(const Done&)>& answer) override {
+        if (answers)
+            kept.remove(key);
+        answer(answers ? Done(Nothing{}) : Done(makeError<source_errors::keychainSilent>()));
+    }
 
     QHash<QString, QString> kept;
     bool answers = true;
@@ -54,6 +58,15 @@ QString keptAs(Secrets& secrets, const QString& name, const QString& secret) {
     return stored;
 }
 
+// "gone", or of an error its code's key.
+QString forgotten(Secrets& secrets, const QString& name) {
+    QString answer;
+    secrets.forget(name, [&](const Done& done) {
+        answer = done ? u"gone"_s : QString::fromLatin1(done.error().code->key);
+    });
+    return answer;
+}
+
 TEST(Secrets, StandInTheKeychainOrInAFileThatOnlyTheUserCanRead) {
     const QTemporaryDir folder;
     const QString files = folder.filePath(u"secrets"_s);
@@ -62,7 +75,10 @@ TEST(Secrets, StandInTheKeychainOrInAFileThatOnlyTheUserCanRead) {
     EXPECT_EQ(keptAs(secrets, u"source-1"_s, u"ann:x"_s), u"source-1"_s);
     EXPECT_EQ(found(secrets, u"source-1"_s), u"ann:x"_s);
     EXPECT_FALSE(QDir(files).exists());
-    secrets.forget(u"source-1"_s);
+    keychain.answers = false;
+    EXPECT_EQ(forgotten(secrets, u"source-1"_s), u"ERROR_SOURCES_KEYCHAIN_SILENT"_s);
+    keychain.answers = true;
+    EXPECT_EQ(forgotten(secrets, u"source-1"_s), u"gone"_s);
     EXPECT_EQ(found(secrets, u"source-1"_s), u"ERROR_SOURCES_SECRET_MISSING"_s);
 
     keychain.answers = false;
@@ -74,7 +90,7 @@ TEST(Secrets, StandInTheKeychainOrInAFileThatOnlyTheUserCanRead) {
     EXPECT_EQ(status.st_mode & 0777, 0600U);
     ASSERT_EQ(::stat(qPrintable(files), &status), 0);
     EXPECT_EQ(status.st_mode & 0777, 0700U);
-    secrets.forget(name);
+    EXPECT_EQ(forgotten(secrets, name), u"gone"_s);
     EXPECT_EQ(found(secrets, name), u"ERROR_SOURCES_SECRET_FILE_MISSING"_s);
 }
 
@@ -94,7 +110,7 @@ TEST(Secrets, AFileThatOthersMayReadIsRefusedAndOneOfTheUsersStays) {
         EXPECT_EQ(found(secrets, u"file:"_s + path), expected) << mode;
     }
     EXPECT_EQ(found(secrets, u"file:"_s + folder.path()), u"ERROR_SOURCES_SECRET_FILE_MISSING"_s);
-    secrets.forget(u"file:"_s + path);
+    EXPECT_EQ(forgotten(secrets, u"file:"_s + path), u"gone"_s);
     EXPECT_TRUE(QFile::exists(path));
 }
 
