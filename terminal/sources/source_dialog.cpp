@@ -288,6 +288,8 @@ void SourceDialog::test() {
 void SourceDialog::takeReport(const TrialReport& report) {
     testButton->setEnabled(true);
     trialView->show(report);
+    if (title->text().isEmpty())
+        title->setText(report.title);
     if (report.fitting) {
         choose(*kind, report.fitting->kind);
         mapping->setCurrentText(report.fitting->mapping);

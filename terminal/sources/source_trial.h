@@ -26,6 +26,7 @@ struct TrialItem {
 struct TrialReport {
     static constexpr std::size_t mostItems = 10;
 
+    QString title;                 // of the feed, by itself; empty: it has none
     std::vector<TrialItem> first;  // the newest, newest first
     int items = 0;                 // that could be taken
     int rejected = 0;

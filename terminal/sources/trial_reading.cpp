@@ -6,6 +6,7 @@
 #include "backend/import/json_shape.h"
 #include "backend/network/answer_reading.h"
 #include "backend/network/network_errors.h"
+#include "terminal/sources/feed_title.h"
 
 #include <algorithm>
 #include <utility>
@@ -82,6 +83,8 @@ TrialReport readTrial(const HttpAnswer& answer, const NetworkSource& source, std
             report.fitting = asTable;
         }
     }
+    if (read.isRead)
+        report.title = feedTitle(answer.body);
     addToTrial(report, std::move(read));
     return report;
 }

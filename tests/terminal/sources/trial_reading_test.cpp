@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/sources/trial_reading.h"
 
+#include "terminal/sources/feed_title.h"
 #include "tests/support/qt_printers.h"
 #include "tests/terminal/sources/announcements.h"
 
@@ -52,6 +53,29 @@ TEST(TrialReading, ShowsTheNewestItemsAsTheyWouldStand) {
     EXPECT_EQ(linesOf(report).section(u'\n', 0, 1),
               u"1772443320|Papers|Item 12\n1772443260|Papers|Item 11"_s);
     EXPECT_FALSE(report.fitting || report.fault);
+}
+
+TEST(TrialReading, ProposesTheNameThatAFeedGivesItself) {
+    const QByteArray item = "<item><guid>g</guid><title>Item</title></item>";
+    const std::pair<QByteArray, QString> feeds[] = {
+        {"<rss><channel><title> Harbour\n &amp; Rail </title>" + item + "</channel></rss>",
+         u"Harbour & Rail"_s},
+        {"<rss><channel><image><title>Logo</title></image><title>Wire</title></channel></rss>", u"Wire"_s},
+        {"<rss><channel>" + item + "<title>Behind</title></channel></rss>", {}},
+        {"<feed xmlns='http://www.w3.org/2005/Atom'><author><title>Dr</title></author>"
+         "<title type='xhtml'><div>A <b>bold</b> name</div></title></feed>",
+         u"A bold name"_s},
+        {"<rss><channel><title>" + QByteArray("文").repeated(400) + "</title></channel></rss>",
+         QString(mostFeedTitle, u'文')},
+        {"<html><head><title>Page</title></head></html>", {}},
+        {"<!DOCTYPE r [<!ENTITY a SYSTEM 'file:///etc/passwd'>]><rss><channel><title>&a;</title></channel>",
+         {}},
+        {"<rss><channel><title>cut", {}},
+        {"[]", {}},
+    };
+    for (const auto& [body, title] : feeds)
+        EXPECT_EQ(feedTitle(body), title) << body.left(80).constData();
+    EXPECT_EQ(trial(feed(1)).title, u"T"_s);
 }
 
 TEST(TrialReading, ProposesTheMappingThatFitsATable) {
