@@ -9,8 +9,8 @@
 
 namespace wirepane {
 
-// The words of a text as docs/store.md tells them ("What a search finds"), written from that page alone and
-// sharing nothing with the program's own splitter: what both find alike is what the page promises.
+// The words of a text as docs/store.md tells them ("What a search finds"). It shares nothing with the
+// program's own splitter: what both find alike is what the page promises.
 class PlainWords {
 public:
     PlainWords();

@@ -16,8 +16,6 @@ class SearchScan : public RealNews {
 protected:
     void SetUp() override {
         RealNews::SetUp();
-        if (IsSkipped())
-            return;
         for (const NewsItem& item : sink->taken)
             scan.add(item);
         readIdentities();
@@ -72,7 +70,7 @@ TEST_F(SearchScan, FindsExactlyWhatAPlainScanFinds) {
         matched += entries->empty() ? 0 : 1;
     }
     // Most pieces begin or end within a word and must find nothing.
-    EXPECT_GT(matched, 200U);
+    EXPECT_GT(matched, news.isEmpty() ? 100U : 200U);
 }
 
 }  // namespace
