@@ -12,7 +12,8 @@
 namespace wirepane {
 
 // The marks of the news in an open store. News that no mark is known of is new, but for what was published
-// before the store was made, or had marks: that counts as seen. Thread: that of the database, which must outlive this.
+// before the store was made, or had marks: that counts as seen. Thread: that of the database, which must
+// outlive this.
 class MarkBook {
 public:
     explicit MarkBook(Database& database);

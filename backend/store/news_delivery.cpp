@@ -9,7 +9,7 @@ namespace wirepane {
 namespace {
 // Some 8 ms with three views: a key waits for one batch at most, and for a painting.
 constexpr int batch = 250;
-}
+}  // namespace
 
 NewsDelivery::NewsDelivery(ArrivalLog& log, std::function<void(const Arrival&)> telling)
     : arrivals(log), tell(std::move(telling)), position(log.last().value_or(0)) {}

@@ -7,7 +7,8 @@
 namespace wirepane {
 
 // Gives a store that was just made its first services, with the first categories of each, and the moment from
-// which on its news is new to its readers. Call it inside the transaction that makes the tables. False on failure.
+// which on its news is new to its readers. Call it inside the transaction that makes the tables. False on
+// failure.
 bool addDefaults(Database& database);
 
 // Takes the first categories away from a store that holds no news yet, for one that brings categories of its

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "backend/call_queue.h"
-#include "backend/network/source_asker.h"
 #include "backend/network/secret_store.h"
+#include "backend/network/source_asker.h"
 #include "backend/worker_thread.h"
 #include "terminal/sources/source_trial.h"
 
