@@ -13,8 +13,8 @@
 
 namespace wirepane {
 
-// What a query finds as docs/search.md tells it, written from that page alone: it shares nothing with the
-// program's own parser and splitter, and looks through every text.
+// What a query finds as docs/search.md and docs/store.md tell it: it shares nothing with the program's own
+// parser, splitter and folding, and looks through every text.
 class QueryScan {
 public:
     struct Entry {
