@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/sources/feed_title.h"
 
+#include "backend/clean_text.h"
+
 #include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
@@ -15,6 +17,14 @@ constexpr qsizetype headBytes = 65536;
 
 bool isItem(QStringView name) {
     return name == "item"_L1 || name == "entry"_L1;
+}
+
+// Half a character is none.
+QString shortened(QString title) {
+    title.truncate(mostFeedTitle);
+    if (!title.isEmpty() && title.back().isHighSurrogate())
+        title.chop(1);
+    return title;
 }
 
 }  // namespace
@@ -35,8 +45,8 @@ QString feedTitle(const QByteArray& feed) {
         if ((depth == 1 && xml.name() == "feed"_L1) || (depth == 2 && xml.name() == "channel"_L1))
             titleDepth = depth + 1;
         if (depth == titleDepth && xml.name() == "title"_L1) {
-            const QString title = xml.readElementText(QXmlStreamReader::IncludeChildElements).simplified();
-            return xml.hasError() ? QString() : title.left(mostFeedTitle);
+            const QString title = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+            return xml.hasError() ? QString() : shortened(cleanTitle(title).simplified());
         }
     }
     return {};
