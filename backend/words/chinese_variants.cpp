@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/words/chinese_variants.h"
 
+#include <QList>
 #include <QString>
 
 #include <list>
