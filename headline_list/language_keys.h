@@ -66,6 +66,17 @@ inline constexpr QLatin1StringView waitingToPreview{"IDS_NEWSCTRLVIEW_STRING_WAI
 // "%1": how much of it is done, in hundredths.
 inline constexpr QLatin1StringView printing{"IDS_NEWSCTRLVIEW_STRING_PRINTING"};
 inline constexpr QLatin1StringView saving{"IDS_NEWSCTRLVIEW_STRING_SAVING"};
+// The window that shows the pages before they are printed. "%1": the page, "%2": how many.
+inline constexpr QLatin1StringView previewCaption{"IDS_NEWSCTRLVIEW_PREVIEW_CAPTION"};
+inline constexpr QLatin1StringView previewMaking{"IDS_NEWSCTRLVIEW_PREVIEW_MAKING"};
+inline constexpr QLatin1StringView previewPage{"IDS_NEWSCTRLVIEW_PREVIEW_PAGE"};
+inline constexpr QLatin1StringView previewPreviousPage{"IDS_NEWSCTRLVIEW_PREVIEW_PREVIOUS_PAGE"};
+inline constexpr QLatin1StringView previewNextPage{"IDS_NEWSCTRLVIEW_PREVIEW_NEXT_PAGE"};
+inline constexpr QLatin1StringView previewSmaller{"IDS_NEWSCTRLVIEW_PREVIEW_SMALLER"};
+inline constexpr QLatin1StringView previewLarger{"IDS_NEWSCTRLVIEW_PREVIEW_LARGER"};
+inline constexpr QLatin1StringView previewFitWidth{"IDS_NEWSCTRLVIEW_PREVIEW_FIT_WIDTH"};
+inline constexpr QLatin1StringView previewWholePage{"IDS_NEWSCTRLVIEW_PREVIEW_WHOLE_PAGE"};
+inline constexpr QLatin1StringView previewClose{"IDS_NEWSCTRLVIEW_PREVIEW_CLOSE"};
 inline constexpr QLatin1StringView stopWaiting{"IDS_NEWSCTRLVIEW_STRING_STOP_WAITING"};
 // "%1": how many pieces of news.
 inline constexpr QLatin1StringView putOutReady{"IDS_NEWSCTRLVIEW_STRING_PUT_OUT_READY"};

@@ -95,7 +95,8 @@ void OutputJobs::takeStory(const CHeadlineTable& entry) {
 }
 
 bool OutputJobs::isWaiting() const {
-    return awaited() != std::array<int, 3>{} || printer.progress() || saver.progress();
+    return awaited() != std::array<int, 3>{} || printer.progress() || saver.progress() ||
+           previewer.progress();
 }
 
 std::array<int, 3> OutputJobs::awaited() const {
@@ -111,7 +112,8 @@ QString OutputJobs::awaitedText() const {
             told.append(langText(backEnd, texts[i]).arg(counts[i]));
     }
     for (const auto& [progress, text] :
-         {std::pair(printer.progress(), keys::printing), std::pair(saver.progress(), keys::saving)}) {
+         {std::pair(printer.progress(), keys::printing), std::pair(previewer.progress(), keys::printing),
+          std::pair(saver.progress(), keys::saving)}) {
         if (progress)
             told.append(langText(backEnd, text).arg(static_cast<int>(100 * *progress)));
     }

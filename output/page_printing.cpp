@@ -7,14 +7,12 @@
 #include "host/contract/clock.h"
 #include "host/contract/page_font.h"
 #include "host/contract/sync_info.h"
-#include "host/controls/heap_dialog.h"
 
 #include <QBuffer>
 #include <QDateTime>
 #include <QDir>
 #include <QFontMetrics>
 #include <QPdfWriter>
-#include <QPrintPreviewDialog>
 #include <QPrinter>
 
 #include <algorithm>
@@ -29,7 +27,6 @@ constexpr int pointSize = 12;
 constexpr int pointsPerInch = 72;
 constexpr int longestFaceName = 31;
 constexpr qreal pdfMarginMm = 10;
-constexpr QSize previewSize{900, 800};
 
 class DeviceMeasure : public TextMeasure {
 public:
@@ -181,19 +178,6 @@ NewsOutcome printItemsToPdf(const OutputTarget& target, BKQuoteInterface& backEn
     if (const auto* cannot = std::get_if<NewsOutcome>(&pages))
         return *cannot;
     return printInOneGo(std::get<0>(pages), backEnd, items);
-}
-
-void previewItems(BKQuoteInterface& backEnd, const OutputItems& items, QWidget* parent) {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(langText(backEnd, keys::printDocument));
-    const HeapDialog dialog(new QPrintPreviewDialog(&printer, parent));
-    QObject::connect(dialog.get(), &QPrintPreviewDialog::paintRequested, dialog.get(),
-                     [&backEnd, &items](QPrinter* device) {
-                         drawPages(*device, PageMaking(*device, backEnd, items).allPages(),
-                                   pageFamilies(backEnd));
-                     });
-    dialog->resize(previewSize);
-    dialog->exec();
 }
 
 }  // namespace wirepane

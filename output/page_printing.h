@@ -12,7 +12,6 @@
 
 class BKQuoteInterface;
 class QPrinter;
-class QWidget;
 
 namespace wirepane {
 
@@ -59,8 +58,5 @@ NewsOutcome outcomeOf(const PagesToPaint& pages, const PaintOutcome& painted, BK
 NewsOutcome printInOneGo(const std::shared_ptr<PagesToPaint>& pages, BKQuoteInterface& backEnd,
                          const OutputItems& items);
 NewsOutcome printItemsToPdf(const OutputTarget& target, BKQuoteInterface& backEnd, const OutputItems& items);
-
-// Shows the pages that would be printed. Runs an event loop.
-void previewItems(BKQuoteInterface& backEnd, const OutputItems& items, QWidget* parent);
 
 }  // namespace wirepane

@@ -4,7 +4,8 @@
 
 #include "headline_list/language_keys.h"
 #include "host/contract/whole_file.h"
-#include "output/page_printing.h"
+#include "host/controls/heap_dialog.h"
+#include "output/print_preview.h"
 #include "output/printable_story.h"
 #include "output/save_run.h"
 
@@ -77,9 +78,14 @@ NewsOutcome saveItemsTo(const OutputTarget& target, BKQuoteInterface& backEnd, c
 
 NewsOutcome TRVNewsPreview::output(const OutputItems& items, QWidget* parent,
                                    const std::optional<OutputTarget>&) {
+    const std::shared_ptr<const bool> here = aliveMark();
+    HeapDialog preview(new PrintPreview(newsBackEnd(), items, parent));
+    const bool isToPrint = preview->exec() == QDialog::Accepted;
+    preview.destroy();
+    if (isToPrint && *here)
+        return TRVNewsPrint::output(items, parent, std::nullopt);
     NewsOutcome outcome;
     outcome.count = static_cast<int>(items.size());
-    previewItems(newsBackEnd(), items, parent);
     return outcome;
 }
 

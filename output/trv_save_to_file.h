@@ -19,7 +19,7 @@ protected:
 
 namespace wirepane {
 
-// Shows the pages that would be printed.
+// Shows the pages that would be printed, and prints them where the user wants that then.
 class TRVNewsPreview : public TRVNewsPrint {
 public:
     using TRVNewsPrint::TRVNewsPrint;

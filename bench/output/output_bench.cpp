@@ -5,6 +5,8 @@
 #include "bench/support/run_benchmarks.h"
 #include "bench/support/watched_application.h"
 #include "output/page_printing.h"
+#include "output/page_view.h"
+#include "output/print_preview.h"
 #include "output/trv_news_print.h"
 #include "story/story_text.h"
 #include "terminal/session/background_painter.h"
@@ -85,8 +87,51 @@ void printInBackground(benchmark::State& state) {
     state.counters["wait_ms"] = 1000 * std::max(call, application.longest);
 }
 
+// Until the pages are shown; then a look at some of them, in both sizes.
+void preview(benchmark::State& state, const QString& paragraph) {
+    auto& application = static_cast<WatchedApplication&>(*QApplication::instance());
+    FakeBackEnd backEnd;
+    backEnd.texts.insert(u"IDS_SINGLETON-STRING_FONTNAME"_s, u"Noto Sans Mono CJK TC"_s);
+    backEnd.texts.insert(u"IDS_NEWSCTRLVIEW_PREVIEW_PAGE"_s, u"Page %1 of %2"_s);
+    const OutputItems items{newsOf(paragraph, state.range(0))};
+    double opened = 0;
+    application.longest = 0;
+    for (auto unused : state) {
+        const auto from = BenchClock::now();
+        PrintPreview window(backEnd, items, nullptr);
+        window.show();
+        QApplication::processEvents();
+        opened = std::max(opened, secondsSince(from));
+        auto& view = *window.findChild<PageView*>();
+        while (view.pageCount() == 0)
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        state.counters["pages"] = view.pageCount();
+        state.PauseTiming();
+        for (const auto fit : {PageView::Fit::Width, PageView::Fit::WholePage}) {
+            view.setFit(fit);
+            for (int page = 1; page <= 20; ++page) {
+                QApplication::processEvents();
+                view.showPage(page * view.pageCount() / 20);
+            }
+        }
+        state.ResumeTiming();
+    }
+    state.counters["open_ms"] = 1000 * opened;
+    state.counters["wait_ms"] = 1000 * application.longest;
+}
+
+void previewEnglish(benchmark::State& state) {
+    preview(state, u"Shares of shipping lines firm as freight rates recover. "_s.repeated(11) + u"@@@@"_s);
+}
+
+void previewChinese(benchmark::State& state) {
+    preview(state, u"航運股因運價回升走強，市場人士表示後市看好。"_s.repeated(20) + u"@@@@"_s);
+}
+
 }  // namespace
 
+BENCHMARK(previewEnglish)->Arg(1000)->Arg(4 << 20)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(previewChinese)->Arg(1000)->Arg(4 << 20)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(printInBackground)
     ->Arg(1000)
     ->Arg(100'000)

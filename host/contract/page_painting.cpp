@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/contract/page_painting.h"
 
-#include "host/contract/page_font.h"
 #include "host/contract/pdf_characters.h"
 #include "host/contract/whole_file.h"
 
@@ -12,7 +11,6 @@
 #include <QPdfWriter>
 
 #include <algorithm>
-#include <map>
 
 namespace wirepane {
 
@@ -23,70 +21,20 @@ constexpr int anySize = 16;         // of the font whose characters are named: t
 
 PagePainter* installedPainter = nullptr;
 
-// Draws pages on one device. Fonts are made once: finding their faces costs more than drawing a line.
-class PageDrawing {
-public:
-    PageDrawing(QPainter& pagePainter, const QStringList& fontFamilies)
-        : painter(pagePainter), families(fontFamilies) {}
-
-    void draw(const PrintedPage& page) {
-        const int width = std::max(painter.device()->logicalDpiY() / framesPerInch, 1);
-        painter.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        for (const QRect& frame :
-             {page.frames.outer, page.frames.inner, page.frames.footer, page.frames.title, page.frames.body})
-            draw(frame, width);
-        for (const PlacedText* text : {&page.date, &page.pageNumber, &page.heading})
-            draw(*text);
-        for (const std::vector<PlacedText>* lines : {&page.title, &page.body}) {
-            for (const PlacedText& line : *lines)
-                draw(line);
-        }
-    }
-
-private:
-    struct Face {
-        QFont font;
-        int ascent = 0;
-    };
-
-    // The frame lies inside its rectangle.
-    void draw(const QRect& frame, int width) {
-        const int half = width / 2;
-        painter.drawRect(frame.adjusted(half, half, half - width, half - width));
-    }
-    void draw(const PlacedText& text) {
-        const Face& face = faceOf(text.pixelSize, shapingFor(text.text));
-        painter.setFont(face.font);
-        painter.drawText(text.topLeft + QPoint(0, face.ascent), text.text);
-    }
-    const Face& faceOf(int pixelSize, Shaping shaping) {
-        const auto [face, isNew] = faces.try_emplace({pixelSize, shaping});
-        if (isNew) {
-            face->second.font = pageFont(families, pixelSize, shaping);
-            face->second.ascent = QFontMetrics(face->second.font, painter.device()).ascent();
-        }
-        return face->second;
-    }
-
-    QPainter& painter;
-    const QStringList& families;
-    std::map<std::pair<int, Shaping>, Face> faces;
-};
-
 // False: the device refuses, or the job was stopped.
 bool draw(QPagedPaintDevice& device, const std::vector<PrintedPage>& pages, const QStringList& families,
           int times, const std::function<bool()>& beforePage) {
     QPainter painter;
     if (!painter.begin(&device))
         return false;
-    PageDrawing drawing(painter, families);
+    PageDrawing drawing(families, device.logicalDpiY());
     bool isFirst = true;
     for (int time = 0; time < times; ++time) {
         for (const PrintedPage& page : pages) {
             if (!beforePage() || (!isFirst && !device.newPage()))
                 return false;
             isFirst = false;
-            drawing.draw(page);
+            drawing.draw(painter, page);
         }
     }
     return painter.end();
@@ -146,9 +94,36 @@ void PagePainter::install(PagePainter* painter) {
     installedPainter = painter;
 }
 
-bool drawPages(QPagedPaintDevice& device, const std::vector<PrintedPage>& pages,
-               const QStringList& families) {
-    return draw(device, pages, families, 1, [] { return true; });
+PageDrawing::PageDrawing(QStringList fontFamilies, int dotsPerInch)
+    : families(std::move(fontFamilies)), frameWidth(std::max(dotsPerInch / framesPerInch, 1)) {}
+
+void PageDrawing::draw(QPainter& painter, const PrintedPage& page) {
+    painter.setPen(QPen(Qt::black, frameWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    for (const QRect& frame :
+         {page.frames.outer, page.frames.inner, page.frames.footer, page.frames.title, page.frames.body})
+        drawFrame(painter, frame);
+    for (const PlacedText* text : {&page.date, &page.pageNumber, &page.heading})
+        drawText(painter, *text);
+    for (const std::vector<PlacedText>* lines : {&page.title, &page.body}) {
+        for (const PlacedText& line : *lines)
+            drawText(painter, line);
+    }
+}
+
+// The frame lies inside its rectangle.
+void PageDrawing::drawFrame(QPainter& painter, const QRect& frame) const {
+    const int half = frameWidth / 2;
+    painter.drawRect(frame.adjusted(half, half, half - frameWidth, half - frameWidth));
+}
+
+void PageDrawing::drawText(QPainter& painter, const PlacedText& text) {
+    const auto [face, isNew] = faces.try_emplace({text.pixelSize, shapingFor(text.text)});
+    if (isNew) {
+        face->second.font = pageFont(families, text.pixelSize, face->first.second);
+        face->second.ascent = QFontMetrics(face->second.font, painter.device()).ascent();
+    }
+    painter.setFont(face->second.font);
+    painter.drawText(text.topLeft + QPoint(0, face->second.ascent), text.text);
 }
 
 PaintOutcome paintPages(PagesToPaint& job) {

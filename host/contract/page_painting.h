@@ -3,16 +3,22 @@
 #pragma once
 
 #include "host/contract/export.h"
+#include "host/contract/page_font.h"
 #include "host/contract/printed_page.h"
 
+#include <QFont>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QStringList>
 
 #include <atomic>
 #include <functional>
+#include <map>
 #include <memory>
+#include <utility>
 #include <vector>
+
+class QPainter;
 
 namespace wirepane {
 
@@ -54,9 +60,28 @@ inline constexpr int pdfResolution = 1200;
 // Paints the pages. Any thread, one at a time for each PagesToPaint.
 WIREPANE_CONTRACT_EXPORT PaintOutcome paintPages(PagesToPaint& job);
 
-// Draws pages on a device in one go. False: the device refuses.
-WIREPANE_CONTRACT_EXPORT bool drawPages(QPagedPaintDevice& device, const std::vector<PrintedPage>& pages,
-                                        const QStringList& families);
+// Draws pages, each from the painter's origin on. Fonts are made once: finding their faces costs more than
+// drawing a line. For painters of one device, on one thread.
+class WIREPANE_CONTRACT_EXPORT PageDrawing {
+public:
+    // `families` as of PagesToPaint; the pages are laid out for so many dots an inch.
+    PageDrawing(QStringList families, int dotsPerInch);
+
+    void draw(QPainter& painter, const PrintedPage& page);
+
+private:
+    struct Face {
+        QFont font;
+        int ascent = 0;
+    };
+
+    void drawFrame(QPainter& painter, const QRect& frame) const;
+    void drawText(QPainter& painter, const PlacedText& text);
+
+    QStringList families;
+    int frameWidth;
+    std::map<std::pair<int, Shaping>, Face> faces;
+};
 
 // What a host may offer: a thread of its own on which printed pages are painted, so that its windows go on
 // meanwhile. The module makes the pages a few at a time from the event loop and hands them over; without a

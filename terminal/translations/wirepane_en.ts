@@ -2027,6 +2027,46 @@
         <source></source>
         <translation>Waiting to preview: %1 still to come</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_CAPTION">
+        <source></source>
+        <translation>Print Preview</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_MAKING">
+        <source></source>
+        <translation>Preparing the pages…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_PAGE">
+        <source></source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_PREVIOUS_PAGE">
+        <source></source>
+        <translation>Previous Page</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_NEXT_PAGE">
+        <source></source>
+        <translation>Next Page</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_SMALLER">
+        <source></source>
+        <translation>Zoom Out</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_LARGER">
+        <source></source>
+        <translation>Zoom In</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_FIT_WIDTH">
+        <source></source>
+        <translation>Fit &amp;Width</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_WHOLE_PAGE">
+        <source></source>
+        <translation>W&amp;hole Page</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_CLOSE">
+        <source></source>
+        <translation>&amp;Close</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINTING">
         <source></source>
         <translation>Printing: %1%</translation>

@@ -2027,6 +2027,46 @@
         <source></source>
         <translation>等待打印预览，尚缺 %1 则</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_CAPTION">
+        <source></source>
+        <translation>打印预览</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_MAKING">
+        <source></source>
+        <translation>正在准备页面…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_PAGE">
+        <source></source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_PREVIOUS_PAGE">
+        <source></source>
+        <translation>上一页</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_NEXT_PAGE">
+        <source></source>
+        <translation>下一页</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_SMALLER">
+        <source></source>
+        <translation>缩小</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_LARGER">
+        <source></source>
+        <translation>放大</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_FIT_WIDTH">
+        <source></source>
+        <translation>适合页宽(&amp;W)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_WHOLE_PAGE">
+        <source></source>
+        <translation>整页(&amp;H)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_CLOSE">
+        <source></source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINTING">
         <source></source>
         <translation>正在打印：%1%</translation>

@@ -2027,6 +2027,46 @@
         <source></source>
         <translation>等待預覽列印，尚缺 %1 則</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_CAPTION">
+        <source></source>
+        <translation>預覽列印</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_MAKING">
+        <source></source>
+        <translation>正在準備頁面…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_PAGE">
+        <source></source>
+        <translation>第 %1 頁，共 %2 頁</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_PREVIOUS_PAGE">
+        <source></source>
+        <translation>上一頁</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_NEXT_PAGE">
+        <source></source>
+        <translation>下一頁</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_SMALLER">
+        <source></source>
+        <translation>縮小</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_LARGER">
+        <source></source>
+        <translation>放大</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_FIT_WIDTH">
+        <source></source>
+        <translation>符合頁寬(&amp;W)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_WHOLE_PAGE">
+        <source></source>
+        <translation>整頁(&amp;H)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_PREVIEW_CLOSE">
+        <source></source>
+        <translation>關閉(&amp;C)</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINTING">
         <source></source>
         <translation>正在列印：%1%</translation>

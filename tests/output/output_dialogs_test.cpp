@@ -9,8 +9,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPrintDialog>
-#include <QPrintPreviewDialog>
-#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
@@ -66,18 +64,6 @@ TEST(OutputDialogs, APrinterIsAskedForWithoutRangesOfPages) {
         EXPECT_TRUE(printer.collateCopies());
         EXPECT_EQ(printer.outputFileName().endsWith(u".pdf"_s), QPrinterInfo::availablePrinters().isEmpty());
     }
-}
-
-TEST(OutputDialogs, ThePreviewShowsEveryPage) {
-    FakeBackEnd backEnd;
-    OutputItem item;
-    item.title = u"Title"_s;
-    item.story = u"line\n"_s.repeated(60);
-    answering<QPrintPreviewDialog>([&] { previewItems(backEnd, {item}, nullptr); },
-                                   [](QPrintPreviewDialog& dialog) {
-                                       EXPECT_EQ(dialog.findChild<QPrintPreviewWidget*>()->pageCount(), 2);
-                                       dialog.reject();
-                                   });
 }
 
 }  // namespace wirepane

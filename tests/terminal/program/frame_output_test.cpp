@@ -78,7 +78,13 @@ TEST_F(FrameOutputTest, ThePreviewShowsTheSelectedNews) {
     session->workspace().active()->access->sheetOf(0)->setActiveSelection(0, -1);
     answering<QDialog>([this] { press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier); },
                        [](QDialog& preview) {
-                           EXPECT_STREQ(preview.metaObject()->className(), "QPrintPreviewDialog");
+                           const auto isPlaceOfOne = [&preview] {
+                               const auto labels = preview.findChildren<QLabel*>();
+                               return std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+                                   return label->text() == u"Page 1 of 1"_s;
+                               });
+                           };
+                           EXPECT_TRUE(QTest::qWaitFor(isPlaceOfOne));
                            preview.reject();
                        });
 }
