@@ -36,6 +36,7 @@ PageView::Paper PageView::paperOf(const QPrinter& printer) {
 PageView::PageView(const Paper& pagesPaper, const QStringList& families, QWidget* parent)
     : QAbstractScrollArea(parent), paper(pagesPaper), drawing(families, pagesPaper.dotsPerInch) {
     setFocusPolicy(Qt::StrongFocus);
+    setFrameShape(NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     // With a bar that comes and goes the fitting width would come and go, too.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
