@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -38,7 +39,21 @@ QString sentence(const Error& error) {
     return filledIn(error.code->english, arguments);
 }
 
-QString filledIn(QStringView sentence, const QStringList& arguments) {
+QString inNumber(const QString& sentence, bool isOne) {
+    const qsizetype begin = sentence.indexOf(u'{');
+    const qsizetype middle = sentence.indexOf(u'|', begin);
+    const qsizetype end = sentence.indexOf(u'}', middle);
+    if (begin < 0 || middle < begin || end < middle)
+        return sentence;
+    const QString word =
+        isOne ? sentence.mid(begin + 1, middle - begin - 1) : sentence.mid(middle + 1, end - middle - 1);
+    return sentence.left(begin) + word + sentence.mid(end + 1);
+}
+
+QString filledIn(QStringView given, const QStringList& arguments) {
+    const qsizetype sign = given.left(std::max<qsizetype>(given.indexOf(u'{'), 0)).lastIndexOf(u'%');
+    const qsizetype counted = sign < 0 ? -1 : given.at(sign + 1).unicode() - u'1';
+    const QString sentence = inNumber(given.toString(), arguments.value(counted) == QStringView(u"1"));
     QString filled;
     for (qsizetype at = 0; at < sentence.size(); ++at) {
         const qsizetype number =

@@ -83,7 +83,11 @@ QJsonObject errorValue(const Error& error);
 // In English, as the command line shows it.
 QString sentence(const Error& error);
 
-// The sentence with its arguments in place, none of which is looked into.
+// Of the two words in braces in a sentence, "{item|items}", the one that is wanted.
+QString inNumber(const QString& sentence, bool isOne);
+
+// The sentence with its arguments in place, none of which is looked into. Words in braces go by the argument
+// that stands before them.
 QString filledIn(QStringView sentence, const QStringList& arguments);
 
 }  // namespace wirepane

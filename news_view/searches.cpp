@@ -106,8 +106,11 @@ void Searches::tipAtEdit(const QString& text) {
 }
 
 void Searches::showTip(const QRect& rectangle, const QString& text) {
-    shortTip->vShow(rectangle.topLeft() + QPoint(rectangle.width() / 2, rectangle.height() / 2), text,
-                    shortTipWindowMs);
+    QPoint middle = rectangle.topLeft() + QPoint(rectangle.width() / 2, rectangle.height() / 2);
+    // Below the box, one sees what one goes on typing.
+    if (parts.settings.options[ViewOption::SearchQueries])
+        middle.ry() += 3 * rectangle.height() / 2;
+    shortTip->vShow(middle, text, shortTipWindowMs);
 }
 
 QVariantMap Searches::shortTipState() const {

@@ -163,6 +163,9 @@ void SampleWire::Desk::follow(std::int64_t moment, const TimedTaker& take) const
         // Stories that are to come after the moment belong to headlines from before it, too.
         if (planned.time < moment - latestStory)
             return true;
+        // While nobody listened, nothing had to fill the quiet.
+        if (planned.filler && planned.time >= moment && planned.time < options.now)
+            return true;
         if (!handLateStories(planned.time))
             return false;
         NewsItem item = itemOf(planned, assignment, planned.time);

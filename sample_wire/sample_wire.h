@@ -44,8 +44,9 @@ public:
     // then.
     bool run(const Taker& take) const;
     // Hands over what is sent from a moment on, in that order, day after day without end, until no more is
-    // wanted. Between the items of the plan, ordinary wires send something every ten seconds. With late
-    // stories a flash says that one is to come, and is sent again with it.
+    // wanted. From the present moment of the options on, ordinary wires send something every ten seconds
+    // between the items of the plan. With late stories a flash says that one is to come, and is sent again
+    // with it.
     void follow(std::int64_t moment, const TimedTaker& take) const;
     // Hands over the quotes of a few symbols, others at each moment, as trading moves them. False: no more
     // are wanted.

@@ -89,7 +89,7 @@ inline constexpr ErrorCode emptyAnswer{"ERROR_NETWORK_EMPTY_ANSWER", u"The answe
 inline constexpr ErrorCode emptyList{"ERROR_NETWORK_EMPTY_LIST",
                                      u"The list of %1 holds nothing any more; what was in it stays."};
 inline constexpr ErrorCode nothingTaken{"ERROR_NETWORK_NOTHING_TAKEN",
-                                        u"None of the %1 items can be taken, the first because: %2"};
+                                        u"Of %1 {item|items} none can be taken, the first because: %2"};
 inline constexpr ErrorCode clockOff{"ERROR_NETWORK_CLOCK_OFF",
                                     u"The clocks of %1 and of this machine are %2 minutes apart."};
 inline constexpr ErrorCode mappingMissing{"ERROR_NETWORK_MAPPING_MISSING",

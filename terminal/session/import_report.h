@@ -12,7 +12,7 @@ inline constexpr ErrorCode importTotals{"ERROR_COMMANDS_IMPORT_TOTALS",
 inline constexpr ErrorCode fileRejected{"ERROR_COMMANDS_FILE_REJECTED", u"%1: %2"};
 inline constexpr ErrorCode itemRejected{"ERROR_COMMANDS_ITEM_REJECTED", u"%1: %2: %3"};
 inline constexpr ErrorCode filesNotRead{"ERROR_COMMANDS_FILES_NOT_READ",
-                                        u"%1 of %2 files could not be read."};
+                                        u"%1 of %2 {file|files} could not be read."};
 inline constexpr ErrorCode nothingRecent{
     "ERROR_COMMANDS_NOTHING_RECENT",
     u"None of this news lies within the last 255 days. To see it, start the terminal with --now %1, or read "

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/translations/terminal_text.h"
 
+#include "backend/error.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -256,16 +258,7 @@ QString countText(TextId id, qint64 count) {
 }
 
 QString countText(const QString& text, qint64 count) {
-    QString chosen = text;
-    const qsizetype begin = chosen.indexOf(u'{');
-    const qsizetype middle = chosen.indexOf(u'|', begin);
-    const qsizetype end = chosen.indexOf(u'}', middle);
-    if (begin >= 0 && middle > begin && end > middle) {
-        const QString word =
-            count == 1 ? chosen.mid(begin + 1, middle - begin - 1) : chosen.mid(middle + 1, end - middle - 1);
-        chosen.replace(begin, end + 1 - begin, word);
-    }
-    return chosen.arg(QLocale(QLocale::English).toString(count));
+    return inNumber(text, count == 1).arg(QLocale(QLocale::English).toString(count));
 }
 
 std::span<const char* const> terminalTextKeys() {

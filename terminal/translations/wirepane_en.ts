@@ -5,7 +5,7 @@
     <name></name>
     <message id="ERROR_COMMANDS_FILES_NOT_READ">
         <source></source>
-        <translation>%1 of %2 files could not be read.</translation>
+        <translation>%1 of %2 {file|files} could not be read.</translation>
     </message>
     <message id="ERROR_COMMANDS_FILE_REJECTED">
         <source></source>
@@ -773,7 +773,7 @@
     </message>
     <message id="ERROR_NETWORK_NOTHING_TAKEN">
         <source></source>
-        <translation>None of the %1 items can be taken, the first because: %2</translation>
+        <translation>Of %1 {item|items} none can be taken, the first because: %2</translation>
     </message>
     <message id="ERROR_NETWORK_NOT_AUTHORISED">
         <source></source>
@@ -1777,7 +1777,7 @@
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_CHARACTERS_REPLACED">
         <source></source>
-        <translation>%1 characters have no place in code page 950 and are white squares in %2. To keep them, save as UTF-8 text.</translation>
+        <translation>Characters without a place in code page 950 are white squares in %2 (%1 in all). To keep them, save as UTF-8 text.</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_CLEAR_SERVICE">
         <source></source>

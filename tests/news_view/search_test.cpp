@@ -6,6 +6,7 @@
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/sheet_builder.h"
 #include "host/controls/sheet_cells.h"
+#include "host/controls/xt_tip_window.h"
 #include "host/views/news_control_ids.h"
 #include "search/adv_search_dlg.h"
 #include "search/search_ids.h"
@@ -139,7 +140,12 @@ TEST_F(SearchesOfTheView, QuickSearchesThatCannotBeSentAreRefused) {
 
 TEST_F(SearchesOfTheView, WhatIsTypedIsAQueryWhereTheViewTakesQueries) {
     openSearch({{u"SearchQueries"_s, true}});
+    quickSearch({});
+    EXPECT_EQ(shortTip(), invalid);
     auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
+    EXPECT_FALSE(view->findChild<CXTTipWindow*>()->geometry().intersects(
+        {edit->mapToGlobal(QPoint(0, 0)), edit->size()}))
+        << "what is typed stays in sight";
     edit->setFocus();
     QTest::keyClicks(edit, u"gold -\"old price\""_s);
     QTest::keyClick(edit, Qt::Key_Return);

@@ -193,7 +193,11 @@ TEST(SampleWire, SendsTheStoryOfAFlashLater) {
         EXPECT_EQ(half.contains(identity), sentAt >= afternoon + hour / 2) << identity.toStdString();
 }
 
-// At any hour, weekends and midnight included.
+bool isFiller(const NewsItem& item) {
+    return item.identity.section(u':', -1).size() > 6;
+}
+
+// At every hour of a week, midnight and the weekend included.
 TEST(SampleWire, FollowedItSendsSomethingEveryTwentySecondsAndTheSameToEverybody) {
     SampleOptions options = threeDays();
     const SampleWire wire(sampleData(), options);
@@ -205,7 +209,7 @@ TEST(SampleWire, FollowedItSendsSomethingEveryTwentySecondsAndTheSameToEverybody
         });
         return news;
     };
-    constexpr std::int64_t days = 4 * 24 * hour;  // from Wednesday to Sunday
+    constexpr std::int64_t days = 7 * 24 * hour;
     const std::vector<NewsItem> all = newsFrom(afternoon, afternoon + days);
     std::int64_t before = afternoon;
     std::set<std::pair<QString, int>> versions;
@@ -222,11 +226,33 @@ TEST(SampleWire, FollowedItSendsSomethingEveryTwentySecondsAndTheSameToEverybody
                            [](const NewsItem& a, const NewsItem& b) { return lineOf(a) == lineOf(b); }));
     options.now = afternoon + 24 * hour;
     for (const NewsItem& item : collect(options).news) {
-        const bool isFiller = item.identity.section(u':', -1).size() > 6;
-        if (item.time >= afternoon && !isFiller) {
+        if (item.time >= afternoon && !isFiller(item)) {
             EXPECT_TRUE(versions.contains({item.identity, item.version})) << lineOf(item).toStdString();
         }
     }
+}
+
+// As many headlines as an ordinary day has them, and the story of each that was sent before.
+TEST(SampleWire, AnAbsenceIsMadeUpForWithoutWhatOnlyFillsTheQuiet) {
+    SampleOptions options = threeDays();
+    options.lateStories = true;
+    const std::int64_t left = afternoon;
+    options.now = left + 14 * hour;
+    int missed = 0;
+    int lateFillers = 0;
+    int followed = 0;
+    SampleWire(sampleData(), options).follow(left, [&](std::int64_t sentAt, StoreItem&& given) {
+        const auto& item = std::get<NewsItem>(given);
+        const bool isLate = isFiller(item) && item.time < left;
+        lateFillers += isLate ? 1 : 0;
+        EXPECT_FALSE(sentAt < options.now && isFiller(item) && !isLate) << lineOf(item).toStdString();
+        (sentAt < options.now ? missed : followed) += 1;
+        return sentAt < options.now + hour;
+    });
+    EXPECT_LT(missed, 1'500) << "less than a working day";
+    EXPECT_GT(missed, 100);
+    EXPECT_GT(followed, 300);
+    EXPECT_GT(lateFillers, 0);
 }
 
 }  // namespace

@@ -71,7 +71,7 @@ TEST_F(CommandLineTest, ExportWritesADayOrWhatASearchFinds) {
     };
     const ProgramOutcome day = run({u"--day"_s, u"20260302"_s, file});
     EXPECT_EQ(day.status, 0) << day.err.toStdString();
-    EXPECT_TRUE(day.err.contains(u"1 characters"_s)) << day.err.toStdString();
+    EXPECT_TRUE(day.err.contains(u"(1 in all)"_s)) << day.err.toStdString();
     EXPECT_EQ(day.out, u"%1 bytes in %2\n"_s.arg(text(file).size()).arg(QDir::toNativeSeparators(file)));
     EXPECT_LT(text(file).indexOf("Copper falls"), text(file).indexOf("\xBB\x4F\xBF\x6E\xB9\x71 gains"));
     EXPECT_TRUE(text(file).contains("Caf\xA1\xBC"));

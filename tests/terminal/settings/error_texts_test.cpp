@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What errors say in the terminal, and that every code says it in every language.
 #include "backend/import/import_errors.h"
+#include "backend/network/network_errors.h"
 #include "terminal/session/import_report.h"
 #include "terminal/translations/languages.h"
 #include "terminal/translations/shown_text.h"
@@ -115,6 +116,12 @@ TEST(ErrorTexts, AnErrorIsToldInTheLanguageInForceAlsoByAnotherProgram) {
         {wrongField,
          {u"The field “headline %1” must be a text, not an object."_s,
           u"欄位「headline %1」必須是文字，而不是物件。"_s, u"字段“headline %1”必须是文本，而不是对象。"_s}},
+        {makeError<import_report::filesNotRead>(1, 1),
+         {u"1 of 1 file could not be read."_s, u"1 個檔案中有 1 個無法讀取。"_s,
+          u"1 个文件中有 1 个无法读取。"_s}},
+        {makeError<network_errors::nothingTaken>(12, u"{a|b}"_s),
+         {u"Of 12 items none can be taken, the first because: {a|b}"_s,
+          u"12 個項目均無法採用，第一個的原因：{a|b}"_s, u"12 个项目均无法采用，第一个的原因：{a|b}"_s}},
         {makeError<import_report::itemRejected>(u"a.jsonl"_s, makeError<atLine>(12), wrongField),
          {u"a.jsonl: line 12: The field “headline %1” must be a text, not an object."_s,
           u"a.jsonl：第 12 行：欄位「headline %1」必須是文字，而不是物件。"_s,
