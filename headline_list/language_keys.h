@@ -185,6 +185,30 @@ inline constexpr QLatin1StringView foundTook{"IDS_NEWSCTRLVIEW_FOUND_TOOK"};
 inline constexpr QLatin1StringView foundTakeOut{"IDS_NEWSCTRLVIEW_FOUND_TAKE_OUT"};
 inline constexpr QLatin1StringView foundAwaited{"IDS_NEWSCTRLVIEW_FOUND_AWAITED"};
 
+// Searches with names, at the search box. "%1": a number or a name.
+inline constexpr QLatin1StringView saveSearch{"IDS_NEWSCTRLVIEW_SAVED_SAVE"};
+inline constexpr QLatin1StringView savedName{"IDS_NEWSCTRLVIEW_SAVED_NAME"};
+inline constexpr QLatin1StringView savedReplace{"IDS_NEWSCTRLVIEW_SAVED_REPLACE"};
+inline constexpr QLatin1StringView savedToday{"IDS_NEWSCTRLVIEW_SAVED_TODAY"};
+inline constexpr QLatin1StringView savedManage{"IDS_NEWSCTRLVIEW_SAVED_MANAGE"};
+inline constexpr QLatin1StringView savedAsKeySet{"IDS_NEWSCTRLVIEW_SAVED_AS_KEY_SET"};
+inline constexpr QLatin1StringView savedAsWarning{"IDS_NEWSCTRLVIEW_SAVED_AS_WARNING"};
+inline constexpr QLatin1StringView savedDelete{"IDS_NEWSCTRLVIEW_SAVED_DELETE"};
+inline constexpr QLatin1StringView savedAskDelete{"IDS_NEWSCTRLVIEW_SAVED_ASK_DELETE"};
+inline constexpr QLatin1StringView savedImport{"IDS_NEWSCTRLVIEW_SAVED_IMPORT"};
+inline constexpr QLatin1StringView savedExport{"IDS_NEWSCTRLVIEW_SAVED_EXPORT"};
+inline constexpr QLatin1StringView savedFiles{"IDS_NEWSCTRLVIEW_SAVED_FILES"};
+// "%1": the file; "%2": the reason.
+inline constexpr QLatin1StringView savedFileFailed{"IDS_NEWSCTRLVIEW_SAVED_FILE_FAILED"};
+// "%1": the line; "%2": what stands there.
+inline constexpr QLatin1StringView savedNotText{"IDS_NEWSCTRLVIEW_SAVED_NOT_TEXT"};
+inline constexpr QLatin1StringView savedNoName{"IDS_NEWSCTRLVIEW_SAVED_NO_NAME"};
+inline constexpr QLatin1StringView savedNoSearch{"IDS_NEWSCTRLVIEW_SAVED_NO_SEARCH"};
+inline constexpr QLatin1StringView savedWrongQuery{"IDS_NEWSCTRLVIEW_SAVED_WRONG_QUERY"};
+inline constexpr QLatin1StringView savedNameTwice{"IDS_NEWSCTRLVIEW_SAVED_NAME_TWICE"};
+inline constexpr QLatin1StringView savedTooMany{"IDS_NEWSCTRLVIEW_SAVED_TOO_MANY"};
+inline constexpr QLatin1StringView savedFull{"IDS_NEWSCTRLVIEW_SAVED_FULL"};
+
 // What controls without a text are called.
 inline constexpr QLatin1StringView nameOfEarlierSearches{"IDS_NEWSCTRLVIEW_NAME_EARLIER_SEARCHES"};
 inline constexpr QLatin1StringView nameOfModes{"IDS_NEWSCTRLVIEW_NAME_MODES"};

@@ -201,6 +201,13 @@ void Searches::replace(const CSearch& condition) {
     }
 }
 
+void Searches::show(const CSearch& condition) {
+    if (auto* edit = parts.controls.find<SEdit>(ids::searchEdit))
+        edit->setText(condition.keywords.size() == 1 ? condition.keywords.front() : QString());
+    conditions.edited = conditions.ordinary = condition;
+    send();
+}
+
 // --- Results ---
 
 void Searches::showFound(ListIndex index, bool selectFirst) {

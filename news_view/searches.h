@@ -51,6 +51,10 @@ public:
     // and its list is empty. The search box follows where it says what was searched for.
     void replace(const CSearch& condition);
 
+    // Searches for another condition in the search mode, which is shown. The search box says it where its
+    // text can.
+    void show(const CSearch& condition);
+
     // A service has answered: the results of all services are shown anew.
     void takeAnswer(const CSearch& condition, unsigned char service);
 

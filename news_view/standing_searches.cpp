@@ -17,6 +17,7 @@
 
 #include <QKeySequence>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -79,6 +80,27 @@ void StandingSearches::composeKeySets() {
         context.showStory();
 }
 
+std::optional<QueryFault> StandingSearches::addKeySet(const CSearch& condition) {
+    if (condition.isQuery()) {
+        const ReadQuery read = readQuery(condition.query(), QueryUse::Headlines);
+        if (const auto* fault = std::get_if<QueryFault>(&read))
+            return *fault;
+    }
+    CNewsKey keySet(condition.method, {CNewsKey::everyNewsType}, condition.keywords);
+    keySet.method = keySet.keywords.size() < 2 ? CNewsKey::all : keySet.knownMethod();
+    keySet.language = condition.language;
+    // Titles are compared in upper case.
+    if (!keySet.isQuery() && !parts.settings.options[ViewOption::KeySetsInAnyCase])
+        std::transform(keySet.keywords.begin(), keySet.keywords.end(), keySet.keywords.begin(),
+                       [](const QString& keyword) { return keyword.toUpper(); });
+    std::vector<CNewsKey>& keySets = desk.memory.keySets;
+    if (std::find(keySets.begin(), keySets.end(), keySet) == keySets.end())
+        keySets.push_back(keySet);
+    setTicked({keySet});
+    calls.readRelationList();
+    return std::nullopt;
+}
+
 void StandingSearches::setTicked(const std::vector<CNewsKey>& keySets) {
     const bool anyCase = parts.settings.options[ViewOption::KeySetsInAnyCase];
     ticked = RelationMatcher(keySets, anyCase ? RelationMatcher::Case::Any : RelationMatcher::Case::AsWritten,
@@ -108,6 +130,21 @@ void StandingSearches::manageWarningTerms() {
     context.placeNotices();
     if (accepted)
         calls.sendSearch();
+}
+
+void StandingSearches::addWarningTerm(const CSearch& condition) {
+    WarningItems& warnings = desk.memory.warnings;
+    const CSearch wanted = forEverySymbol(condition);
+    const auto known = std::find_if(warnings.items.begin(), warnings.items.end(),
+                                    [&](const CSearch& item) { return asksTheSame(item, wanted); });
+    const auto row = known - warnings.items.begin();
+    if (known == warnings.items.end() && !warnings.add(wanted))
+        return;
+    warnings.chosen = static_cast<int>(row) + 1;
+    desk.warningTerm = *warnings.chosenItem();
+    desk.edited = desk.warningTerm;
+    loadHints();
+    context.placeNotices();
 }
 
 // --- Hints ---

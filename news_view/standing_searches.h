@@ -3,12 +3,15 @@
 #pragma once
 
 #include "headline_list/relation_matcher.h"
+#include "host/contract/query/search_query.h"
 #include "news_view/common_parts.h"
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class CNewsKey;
+struct CSearch;
 
 namespace wirepane {
 class ListNotices;
@@ -28,6 +31,9 @@ public:
     // The user composes key sets and ticks those whose news the relation-search list is to hold. None is
     // ticked any more when he cancels.
     void composeKeySets();
+    // Keeps one more key set, of any news type, which wants what the condition's keywords say of headlines;
+    // it alone is ticked. Nothing: done; else why a key set cannot be of such a condition.
+    std::optional<QueryFault> addKeySet(const CSearch& condition);
     const RelationMatcher& tickedKeySets() const { return ticked; }
     // While the relation-search list is shown, every reloaded table is filtered by its key sets: hosts rely
     // on it.
@@ -36,6 +42,8 @@ public:
     // The user manages the warning terms; unless he cancels the chosen one is what the warning-term mode
     // sends, and it is sent. The search dialog starts from it then.
     void manageWarningTerms();
+    // Keeps one more warning term, which is chosen; not sent yet.
+    void addWarningTerm(const CSearch& condition);
 
     // What an empty list says: how the user fills it.
     void loadHints();

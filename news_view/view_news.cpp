@@ -46,6 +46,25 @@ void TRVNewsCtrlView::Parts::searchInstead(const CSearch& condition) {
     standingSearches.loadHints();
 }
 
+SavedSearchMenu::Calls TRVNewsCtrlView::Parts::savedSearchCalls() {
+    return {[this] { return view.settingsReader; },
+            [this](const CSearch& condition) {
+                showMode(ListIndex::Search);
+                searches.show(condition);
+            },
+            [this](const CSearch& condition) {
+                const auto fault = standingSearches.addKeySet(condition);
+                if (!fault)
+                    showMode(ListIndex::Relation);
+                return fault;
+            },
+            [this](const CSearch& condition) {
+                standingSearches.addWarningTerm(condition);
+                showMode(ListIndex::WarningTerm);
+                searches.send();
+            }};
+}
+
 void TRVNewsCtrlView::vOnEnterDown() {
     OnSearch();
 }

@@ -70,6 +70,7 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       emptyLists(*this, common, searches.desk(), emptyListCalls()),
       searchLine(*this, common, searches.desk(),
                  [this](const CSearch& condition) { searchInstead(condition); }),
+      savedSearches(common, searches.desk(), savedSearchCalls()),
       hitMarks(backEnd) {
     lists.setOnRead([this] { placeNotices(); });
 }
@@ -110,7 +111,10 @@ ViewBuilder::Calls TRVNewsCtrlView::Parts::builderCalls() {
     return {[this] { return days.picked(); },
             [this](CSuperSheetWnd& grid, ListIndex list) { connectGrid(grid, list); },
             [this] { days.connectPicker(); },
-            [this] { searches.connectEdit(); },
+            [this] {
+                searches.connectEdit();
+                savedSearches.connectEdit();
+            },
             [this] { searchLine.create(); },
             [this] { categories.connectCombo(); }};
 }

@@ -26,6 +26,7 @@
 #include "news_view/notice_board.h"
 #include "news_view/output_jobs.h"
 #include "news_view/reading.h"
+#include "news_view/saved_search_menu.h"
 #include "news_view/search_line.h"
 #include "news_view/search_offers.h"
 #include "news_view/searches.h"
@@ -151,6 +152,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::SearchOffers searchOffers;
     wirepane::EmptyLists emptyLists;
     wirepane::SearchLine searchLine;
+    wirepane::SavedSearchMenu savedSearches;
     wirepane::HitMarks hitMarks;
 
 private:
@@ -175,6 +177,7 @@ private:
     QStringList offersFor(const CSearch& found);
     void takeOffer(int offer);
     void searchInstead(const CSearch& condition);
+    wirepane::SavedSearchMenu::Calls savedSearchCalls();
     // What the shown list is of: its category or symbol, as the user reads it.
     QString shownSubject();
     wirepane::IntakeState intakeChoices() const;

@@ -29,12 +29,8 @@ QString quoted(const QString& keyword) {
 }
 
 QString wantedOf(const EntryLists& lists) {
-    if (lists.method == queryChoice)
-        return QStringList(lists.keywords.begin(), lists.keywords.end()).join(u' ');
-    QStringList texts;
-    std::transform(lists.keywords.begin(), lists.keywords.end(), std::back_inserter(texts), quoted);
-    const bool isChoice = lists.method == anyMethod && texts.size() > 1;
-    return isChoice ? u'(' + texts.join(u" | "_s) + u')' : texts.join(u' ');
+    return lists.method == queryChoice ? QStringList(lists.keywords.begin(), lists.keywords.end()).join(u' ')
+                                       : queryOfKeywords(lists.keywords, lists.method);
 }
 
 bool isPlainText(const QueryNode& node) {
@@ -78,6 +74,13 @@ std::optional<EntryLists> listsOfQuery(const QString& query) {
 }
 
 }  // namespace
+
+QString queryOfKeywords(const KeywordList& keywords, int method) {
+    QStringList texts;
+    std::transform(keywords.begin(), keywords.end(), std::back_inserter(texts), quoted);
+    const bool isChoice = method == anyMethod && texts.size() > 1;
+    return isChoice ? u'(' + texts.join(u" | "_s) + u')' : texts.join(u' ');
+}
 
 EnteredCondition conditionOfLists(const EntryLists& lists) {
     const bool isEmpty = lists.keywords.empty() && lists.excluded.empty();

@@ -31,6 +31,9 @@ struct EnteredCondition {
     int method = 0;
 };
 
+// The query that asks for what plain keywords ask for, by the number of their SearchMethod. Quotation marks
+// in them are blanks.
+QString queryOfKeywords(const KeywordList& keywords, int method);
 // Lists without exclusions and without a query are plain keywords; others make a query, which may be one with
 // a fault. Quotation marks in keywords that are put in such are blanks.
 EnteredCondition conditionOfLists(const EntryLists& lists);

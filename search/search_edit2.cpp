@@ -54,6 +54,15 @@ void SearchEdit2::inputMethodEvent(QInputMethodEvent* event) {
 
 void SearchEdit2::offerTexts(std::function<QStringList()> texts) {
     offered = std::move(texts);
+    showArrow();
+}
+
+void SearchEdit2::offerMore(std::function<void(QMenu&)> fill) {
+    fillMore = std::move(fill);
+    showArrow();
+}
+
+void SearchEdit2::showArrow() {
     if (arrow == nullptr) {
         arrow = addAction(lineIcon(LineIcon::Down, QPalette::Text), QLineEdit::TrailingPosition);
         connect(arrow, &QAction::triggered, this, &SearchEdit2::dropDown);
@@ -67,7 +76,7 @@ void SearchEdit2::nameOffer(const QString& name) {
 
 void SearchEdit2::dropDown() {
     const QStringList texts = offered ? offered() : QStringList();
-    if (texts.empty())
+    if (texts.empty() && !fillMore)
         return;
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -79,6 +88,8 @@ void SearchEdit2::dropDown() {
             emit returnPressed();
         });
     }
+    if (fillMore)
+        fillMore(*menu);
     menu->setActiveAction(menu->actions().front());
     menu->popup(mapToGlobal(QPoint(0, height())));
 }

@@ -9,6 +9,7 @@
 #include <functional>
 
 class QAction;
+class QMenu;
 class QRect;
 
 namespace wirepane {
@@ -33,9 +34,11 @@ public:
     void setTakesQueries(bool takes) { takesQueries = takes; }
     // From here on it drops down texts, in this order; the one that is picked is typed and Enter pressed.
     void offerTexts(std::function<QStringList()> texts);
+    // Puts more into what drops down, behind the texts.
+    void offerMore(std::function<void(QMenu&)> fill);
     // What they are called.
     void nameOffer(const QString& name);
-    // Drops them down; nothing without any.
+    // Drops all of it down; nothing without any.
     void dropDown();
     // Who shows the tips; not owned, null: nobody.
     void setOwner(wirepane::ShortTips* view) { owner = view; }
@@ -46,9 +49,11 @@ protected:
 
 private:
     void refuse(QLatin1StringView key);
+    void showArrow();
 
     wirepane::ShortTips* owner = nullptr;
     bool takesQueries = false;
     std::function<QStringList()> offered;
+    std::function<void(QMenu&)> fillMore;
     QAction* arrow = nullptr;  // null: it offers nothing
 };

@@ -50,6 +50,7 @@ enum class ViewOption {
     SearchQueries,  // what is typed into the search box is a query; it takes blanks
     SearchLine,     // a line over what was found: the condition in parts that can be taken out, counts
     SearchHistory,  // the search box, wider, drops down what was searched for
+    NamedSearches,  // the search box drops down searches that were given names, for all views of the host
     ReadingMarks,   // rows show what was read and starred, what is read is marked, in its row and for good
     OtherYears,     // rows of another year than the present one show their day with its year
     MarkHits,       // what was searched for is marked in titles and stories, a tint for each word
@@ -98,6 +99,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::SearchQueries, QLatin1StringView("SearchQueries")},
     {ViewOption::SearchLine, QLatin1StringView("SearchLine")},
     {ViewOption::SearchHistory, QLatin1StringView("SearchHistory")},
+    {ViewOption::NamedSearches, QLatin1StringView("NamedSearches")},
     {ViewOption::ReadingMarks, QLatin1StringView("ReadingMarks")},
     {ViewOption::OtherYears, QLatin1StringView("OtherYears")},
     {ViewOption::MarkHits, QLatin1StringView("MarkHits")},

@@ -1723,6 +1723,86 @@
         <source></source>
         <translation>Without “%1”: %2</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_ASK_DELETE">
+        <source></source>
+        <translation>Delete the search “%1”?</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_AS_KEY_SET">
+        <source></source>
+        <translation>Use as key set</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_AS_WARNING">
+        <source></source>
+        <translation>Use as warning term</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_DELETE">
+        <source></source>
+        <translation>Delete</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_EXPORT">
+        <source></source>
+        <translation>Export…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_FILES">
+        <source></source>
+        <translation>Saved searches (*.txt)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_FILE_FAILED">
+        <source></source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_FULL">
+        <source></source>
+        <translation>There is room for %1 searches. Delete some first.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_IMPORT">
+        <source></source>
+        <translation>Import…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_MANAGE">
+        <source></source>
+        <translation>Manage saved searches</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NAME">
+        <source></source>
+        <translation>Name of the search:</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NAME_TWICE">
+        <source></source>
+        <translation>Line %1: a line before it is called “%2” as well. Nothing was imported.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NOT_TEXT">
+        <source></source>
+        <translation>Line %1 is no text in UTF-8. Nothing was imported.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NO_NAME">
+        <source></source>
+        <translation>Line %1 has no name and a tab in front of its search. Nothing was imported.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NO_SEARCH">
+        <source></source>
+        <translation>Line %1: what stands behind “%2” is no search. Nothing was imported.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_REPLACE">
+        <source></source>
+        <translation>A search is called “%1” already. Replace it?</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_SAVE">
+        <source></source>
+        <translation>Save this search…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_TODAY">
+        <source></source>
+        <translation>%1 today</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_TOO_MANY">
+        <source></source>
+        <translation>Line %1: there is room for %2 searches. Nothing was imported.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_WRONG_QUERY">
+        <source></source>
+        <translation>Line %1: %2 Nothing was imported.</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_SHOW_CHANGES">
         <source></source>
         <translation>Show Changes</translation>

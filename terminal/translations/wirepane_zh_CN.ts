@@ -1723,6 +1723,86 @@
         <source></source>
         <translation>去掉“%1”：%2 条</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_ASK_DELETE">
+        <source></source>
+        <translation>要删除搜索“%1”吗？</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_AS_KEY_SET">
+        <source></source>
+        <translation>用作关键词组</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_AS_WARNING">
+        <source></source>
+        <translation>用作警示词</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_DELETE">
+        <source></source>
+        <translation>删除</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_EXPORT">
+        <source></source>
+        <translation>导出…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_FILES">
+        <source></source>
+        <translation>已存的搜索 (*.txt)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_FILE_FAILED">
+        <source></source>
+        <translation>%1：%2</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_FULL">
+        <source></source>
+        <translation>最多只能有 %1 个搜索。请先删除一些。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_IMPORT">
+        <source></source>
+        <translation>导入…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_MANAGE">
+        <source></source>
+        <translation>管理已存的搜索</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NAME">
+        <source></source>
+        <translation>搜索名称：</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NAME_TWICE">
+        <source></source>
+        <translation>第 %1 行：前面已有名为“%2”的一行。未导入任何搜索。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NOT_TEXT">
+        <source></source>
+        <translation>第 %1 行不是 UTF-8 文字。未导入任何搜索。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NO_NAME">
+        <source></source>
+        <translation>第 %1 行的搜索前面没有名称及 Tab 字符。未导入任何搜索。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NO_SEARCH">
+        <source></source>
+        <translation>第 %1 行：“%2”后面不是搜索条件。未导入任何搜索。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_REPLACE">
+        <source></source>
+        <translation>已有名为“%1”的搜索。要替换吗？</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_SAVE">
+        <source></source>
+        <translation>保存此搜索…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_TODAY">
+        <source></source>
+        <translation>今日 %1 条</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_TOO_MANY">
+        <source></source>
+        <translation>第 %1 行：最多只能有 %2 个搜索。未导入任何搜索。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_WRONG_QUERY">
+        <source></source>
+        <translation>第 %1 行：%2未导入任何搜索。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_SHOW_CHANGES">
         <source></source>
         <translation>显示更改</translation>

@@ -1723,6 +1723,86 @@
         <source></source>
         <translation>去掉「%1」：%2 則</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_ASK_DELETE">
+        <source></source>
+        <translation>要刪除搜尋「%1」嗎？</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_AS_KEY_SET">
+        <source></source>
+        <translation>用作關鍵字組</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_AS_WARNING">
+        <source></source>
+        <translation>用作警示詞</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_DELETE">
+        <source></source>
+        <translation>刪除</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_EXPORT">
+        <source></source>
+        <translation>匯出…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_FILES">
+        <source></source>
+        <translation>已存的搜尋 (*.txt)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_FILE_FAILED">
+        <source></source>
+        <translation>%1：%2</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_FULL">
+        <source></source>
+        <translation>最多只能有 %1 個搜尋。請先刪除一些。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_IMPORT">
+        <source></source>
+        <translation>匯入…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_MANAGE">
+        <source></source>
+        <translation>管理已存的搜尋</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NAME">
+        <source></source>
+        <translation>搜尋名稱：</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NAME_TWICE">
+        <source></source>
+        <translation>第 %1 行：前面已有名為「%2」的一行。未匯入任何搜尋。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NOT_TEXT">
+        <source></source>
+        <translation>第 %1 行不是 UTF-8 文字。未匯入任何搜尋。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NO_NAME">
+        <source></source>
+        <translation>第 %1 行的搜尋前面沒有名稱及 Tab 字元。未匯入任何搜尋。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_NO_SEARCH">
+        <source></source>
+        <translation>第 %1 行：「%2」後面不是搜尋條件。未匯入任何搜尋。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_REPLACE">
+        <source></source>
+        <translation>已有名為「%1」的搜尋。要取代嗎？</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_SAVE">
+        <source></source>
+        <translation>儲存此搜尋…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_TODAY">
+        <source></source>
+        <translation>今日 %1 則</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_TOO_MANY">
+        <source></source>
+        <translation>第 %1 行：最多只能有 %2 個搜尋。未匯入任何搜尋。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_WRONG_QUERY">
+        <source></source>
+        <translation>第 %1 行：%2未匯入任何搜尋。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_SHOW_CHANGES">
         <source></source>
         <translation>顯示變更</translation>

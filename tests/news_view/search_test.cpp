@@ -17,6 +17,7 @@
 #include "tests/support/answering.h"
 #include "tests/support/conditions.h"
 
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -368,6 +369,50 @@ TEST_F(SearchesOfTheView, TheBoxDropsDownWhatWasSearchedForNewestFirst) {
     QTest::keyClick(menu, Qt::Key_Return);
     EXPECT_EQ(edit->text(), u"R&D gold"_s);
     EXPECT_TRUE(sent().front().contains(u"R&D gold"_s));
+}
+
+TEST_F(SearchesOfTheView, SearchesWithNamesDropDownWithTheirCountsAndAreSentAgain) {
+    openSearch({{u"SearchQueries"_s, true}, {u"NamedSearches"_s, true}});
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_SAVED_TODAY"_s] = u"%1 today"_s;
+    auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
+    const auto drop = [&] {
+        QTest::keyClick(edit, Qt::Key_Down, Qt::AltModifier);
+        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    };
+    const auto lineOf = [](const QMenu& menu, const QString& text) {
+        for (QAction* line : menu.actions()) {
+            if (line->text() == text)
+                return line;
+        }
+        return static_cast<QAction*>(nullptr);
+    };
+    const QString save = u"IDS_NEWSCTRLVIEW_SAVED_SAVE"_s;
+    EXPECT_FALSE(lineOf(*drop(), save)->isEnabled()) << "nothing was searched for yet";
+    QApplication::activePopupWidget()->close();
+    quickSearch(u"gold -tin"_s);
+    QTimer::singleShot(0, view.get(), [] {
+        auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        EXPECT_EQ(dialog->textValue(), u"gold -tin"_s);
+        dialog->setTextValue(u"黃金 & co"_s);
+        dialog->accept();
+    });
+    QMenu* menu = drop();
+    QAction* saving = lineOf(*menu, save);
+    menu->close();
+    saving->trigger();
+    quickSearch(u"lead"_s);
+    sent();
+    menu = drop();
+    ASSERT_FALSE(backEnd.countings.empty());
+    EXPECT_EQ(backEnd.countings.back().searches.front().condition.query(), u"(gold -tin) on:today"_s);
+    EXPECT_EQ(backEnd.countings.back().searches.front().services, (std::vector<unsigned char>{1, 2}));
+    backEnd.countings.back().told({1200});
+    QAction* line = lineOf(*menu, u"黃金 && co\t1,200 today"_s);
+    ASSERT_NE(line, nullptr);
+    line->trigger();
+    EXPECT_EQ(edit->text(), u"gold -tin"_s);
+    EXPECT_TRUE(sent().front().contains(u"gold -tin"_s));
+    menu->close();
 }
 
 TEST_F(SearchesOfTheView, TheLineOverTheResultsTellsWhatWasFoundAndTakesThePartsOut) {
