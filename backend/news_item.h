@@ -20,8 +20,13 @@ inline constexpr std::int64_t lastNewsTime = 253402300799;  // 9999-12-31 23:59:
 
 // A story in the packed form (packed_text.h) in which the store keeps it, made by who has the time.
 struct PackedStory {
-    QString of;        // what it was made of: of another story it says nothing
+    QString of;        // what it was made of
     QByteArray bytes;  // empty: that story is not packed
+
+    // False for a story that was cleaned since then, or is another one: this says nothing of it.
+    bool isOf(const QString& story) const {
+        return of.constData() == story.constData() && of.size() == story.size();
+    }
 };
 
 // One piece of news on its way into the store, whatever it came from.

@@ -69,9 +69,15 @@ QByteArrayView Query::bytes(int column) const {
     return {first, sqlite3_column_bytes(running, column)};
 }
 
+QByteArrayView Query::blob(int column) const {
+    const auto* first = static_cast<const char*>(sqlite3_column_blob(running, column));
+    return {first, sqlite3_column_bytes(running, column)};
+}
+
 std::span<const GatheredPair> Query::pairs(int column) const {
-    const auto* first = static_cast<const GatheredPair*>(sqlite3_column_blob(running, column));
-    return {first, std::size_t(sqlite3_column_bytes(running, column)) / sizeof(GatheredPair)};
+    const QByteArrayView bytes = blob(column);
+    return {reinterpret_cast<const GatheredPair*>(bytes.data()),
+            std::size_t(bytes.size()) / sizeof(GatheredPair)};
 }
 
 QString Query::text(int column) const {

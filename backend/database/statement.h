@@ -65,6 +65,7 @@ public:
     QString text(int column) const;
     // The text in UTF-8, valid until the next row.
     QByteArrayView bytes(int column) const;
+    QByteArrayView blob(int column) const;  // valid until the next row
     // What gather() has made; valid until the next row.
     std::span<const GatheredPair> pairs(int column) const;
     bool isNull(int column) const;

@@ -19,6 +19,7 @@ ImportUpkeep::ImportUpkeep(Database& owner)
     : database(owner),
       blocks(owner),
       categories(owner),
+      changes(owner),
       index(owner),
       deleteStories(owner, "DELETE FROM stories WHERE headline BETWEEN ? AND ?"),
       deleteRelated(owner, "DELETE FROM related_symbols WHERE headline BETWEEN ? AND ?"),
@@ -51,6 +52,8 @@ Result<bool> ImportUpkeep::clearSome() {
             return database.failure();
         return true;
     }
+    if (changes.dropSome())
+        return transaction.commit() ? Result<bool>(true) : database.failure();
     // What only hidden news was in goes last.
     if (!database.execute(
             "DELETE FROM set_aside;"
@@ -70,6 +73,7 @@ bool needsUpkeep(Database& database) {
     std::int64_t needed = 0;
     const bool isRead = database.readNumber(
         "SELECT EXISTS(SELECT 1 FROM import_blocks) OR EXISTS(SELECT 1 FROM held_links) OR "
+        "EXISTS(SELECT 1 FROM held_changes) OR "
         "EXISTS(SELECT 1 FROM services WHERE position = 0)",
         needed);
     return (isRead && needed != 0) || needsRenewal(database);

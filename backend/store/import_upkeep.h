@@ -4,6 +4,7 @@
 
 #include "backend/database/database.h"
 #include "backend/store/category_book.h"
+#include "backend/store/held_changes.h"
 #include "backend/store/import_blocks.h"
 #include "backend/store/index_writer.h"
 
@@ -31,6 +32,7 @@ private:
     Database& database;
     ImportBlocks blocks;
     CategoryBook categories;
+    HeldChanges changes;
     IndexWriter index;
     Statement deleteStories;
     Statement deleteRelated;

@@ -14,11 +14,8 @@ std::optional<QByteArray> utf8Of(const std::optional<QString>& text) {
 }
 
 QByteArray packedStoryOf(const NewsItem& item, QByteArrayView utf8) {
-    const QString& of = item.packedStory.of;
-    // A story that was cleaned since then is another one.
-    const bool isSame =
-        item.story && of.constData() == item.story->constData() && of.size() == item.story->size();
-    return isSame ? item.packedStory.bytes : packedText(utf8);
+    const bool isMade = item.story && item.packedStory.isOf(*item.story);
+    return isMade ? item.packedStory.bytes : packedText(utf8);
 }
 
 }  // namespace
@@ -117,7 +114,10 @@ bool NewsWriter::replace(std::int64_t id, const NewsItem& item, const NewsPlace&
         if (query.next() || query.failed())
             return false;
     }
-    return (!story || writeStory(written, *story, packedText(*story))) && index(written, item.title, story) &&
+    const QByteArray packed = !story       ? QByteArray()
+                              : keepsStory ? packedText(*story)
+                                           : packedStoryOf(item, *story);
+    return (!story || writeStory(written, *story, packed)) && index(written, item.title, story) &&
            writeRelated(written, item, place) && (!story || versions.settle(written)) &&
            (!item.withdrawn || withdraw(written, item));
 }

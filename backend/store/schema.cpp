@@ -242,10 +242,22 @@ CREATE TABLE marks_begin(moment INTEGER NOT NULL);
 INSERT INTO marks_begin(moment) SELECT coalesce(max(time), 0) FROM all_headlines;
 )sql";
 
-constexpr std::array steps{firstVersion, arrivalsAndPositions,   ownSearchWords, quotes,
-                           goneKeys,     blocksOfImports,        retention,      networkSources,
-                           englishNames, versionsAndWithdrawals, packedStories,  indexRenewal,
-                           readingMarks};
+// What an import has to change once its news is shown (see held_changes.h), up to `last` of `due_changes`
+// now; at most one row there.
+constexpr const char* heldChanges = R"sql(
+CREATE TABLE held_changes(
+    position INTEGER PRIMARY KEY,
+    item BLOB NOT NULL);
+CREATE TABLE due_changes(last INTEGER NOT NULL);
+)sql";
+
+constexpr std::array steps{firstVersion,   arrivalsAndPositions,
+                           ownSearchWords, quotes,
+                           goneKeys,       blocksOfImports,
+                           retention,      networkSources,
+                           englishNames,   versionsAndWithdrawals,
+                           packedStories,  indexRenewal,
+                           readingMarks,   heldChanges};
 
 }  // namespace
 

@@ -34,7 +34,7 @@ StagedImport::StagedImport(Database& owner, Pace asked)
       renewal(owner),
       lock(owner.path()),
       bell(owner.path()),
-      later(owner.path()),
+      changes(owner),
       readAside(owner,
                 "SELECT id, service, set_aside.identity, version, time, title, category, unpacked(text, id), "
                 "text IS NULL, "
@@ -63,7 +63,10 @@ Done StagedImport::beginMany() {
         return locked.error();
     if (!locked.value() || database.wasTakenAway())
         return begin();
-    if (Done cleared = clearHidden(); !cleared) {
+    Done cleared = clearHidden();
+    if (cleared)
+        cleared = makeAllChanges();
+    if (!cleared) {
         lock.release();
         return cleared;
     }
@@ -114,33 +117,40 @@ Result<TakeOutcome> StagedImport::take(const StoreItem& item) {
         return writer.take(item);
     state = State::Staging;
     putsAllOff = putsAllOff || !isNews;
-    return putsAllOff ? putOff(item) : stage(std::get<NewsItem>(item));
+    return stage(item);
 }
 
-Result<TakeOutcome> StagedImport::stage(const NewsItem& item) {
+Result<TakeOutcome> StagedImport::stage(const StoreItem& item) {
+    if (Done ready = readyBatch(); !ready)
+        return ready.error();
+    if (!putsAllOff) {
+        Result<TakeOutcome> outcome = takeHidden(std::get<NewsItem>(item));
+        isBatchOpen = bool(outcome);
+        if (!outcome || outcome.value().take != Take::PutOff)
+            return outcome;
+    }
+    if (!changes.add(item))
+        return database.failure();
+    return TakeOutcome{Take::PutOff, {}};
+}
+
+Result<TakeOutcome> StagedImport::takeHidden(const NewsItem& item) {
     // What comes behind news that was put off must not be decided before it.
     const std::size_t identity = qHashMulti(0, item.service, cleanTitle(item.identity));
     if (identitiesPutOff.contains(identity))
-        return putOff(item);
-    if (isBatchOpen && isEnough(pace.batch)) {
-        if (Done closed = closeBatch(); !closed)
-            return closed.error();
-    }
-    if (!isBatchOpen) {
-        if (Done opened = openBatch(); !opened)
-            return opened.error();
-    }
+        return TakeOutcome{Take::PutOff, {}};
     Result<TakeOutcome> outcome = writer.take(item);
-    isBatchOpen = bool(outcome);
-    if (!outcome || outcome.value().take != Take::PutOff)
-        return outcome;
-    identitiesPutOff.insert(identity);
-    return putOff(item);
+    if (outcome && outcome.value().take == Take::PutOff)
+        identitiesPutOff.insert(identity);
+    return outcome;
 }
 
-Result<TakeOutcome> StagedImport::putOff(const StoreItem& item) {
-    const Done kept = later.add(item);
-    return kept ? Result<TakeOutcome>(TakeOutcome{Take::PutOff, {}}) : kept.error();
+Done StagedImport::readyBatch() {
+    if (isBatchOpen && isEnough(pace.batch)) {
+        if (Done closed = closeBatch(); !closed)
+            return closed;
+    }
+    return isBatchOpen ? Done(Nothing{}) : openBatch();
 }
 
 Done StagedImport::openBatch() {
@@ -237,10 +247,23 @@ Done StagedImport::commit() {
         shown = writer.commit();
     if (!shown)
         return shown;
-    later.clear();
-    lock.release();
     state = State::Idle;
-    return Nothing{};
+    Done changed = makeAllChanges();
+    lock.release();
+    return changed;
+}
+
+// They need not outlast the machine one by one: it goes on with what is still due.
+Done StagedImport::makeAllChanges() {
+    database.execute("PRAGMA synchronous = NORMAL");
+    Result<bool> isMore = true;
+    while (isMore && isMore.value())
+        isMore = doPiece([this](const IsEnough& isEnoughNow) {
+            return changes.makeSome(writer, isEnoughNow, late.putOff);
+        });
+    flushLog();
+    database.execute("PRAGMA synchronous = FULL");
+    return isMore ? Done(Nothing{}) : Done(isMore.error());
 }
 
 Done StagedImport::showAll() {
@@ -255,13 +278,7 @@ Done StagedImport::showAll() {
             return outcome.error();
         late.overtaken += outcome.value().take == Take::TakenIn ? 0 : 1;
     }
-    return later.forEach([this](const StoreItem& item) -> Done {
-        const Result<TakeOutcome> outcome = writer.take(item);
-        if (!outcome)
-            return outcome.error();
-        late.putOff.push_back(outcome.value());
-        return Nothing{};
-    });
+    return changes.makeDue() ? Done(Nothing{}) : Done(database.failure());
 }
 
 // Others need no number and no service of it any more: it comes in again as it came.
@@ -303,7 +320,6 @@ void StagedImport::takeBack() {
         lock.release();
     }
     setLasting(true);
-    later.clear();
     late = {};
     state = State::Idle;
 }
@@ -312,24 +328,34 @@ Result<bool> StagedImport::indexSome() {
     if (!needsUpkeep(database) || lock.take() != ImportLock::Taken::Yes)
         return false;
     setLasting(false);
-    // What is waited for before the first headline does not count.
-    bool isStarted = false;
-    const auto isEnoughNow = [this, &isStarted, most = mostOfIndex()] {
-        if (!std::exchange(isStarted, true))
-            startBatch();
-        return isEnough(most);
-    };
-    Result<bool> isMore = upkeep.indexSome(isEnoughNow);
-    if (isMore && !isMore.value())
-        isMore = renewal.renewSome(isEnoughNow);
-    hasRung();
-    checkpointAtTimes();
-    letOthersWrite();
+    Result<bool> isMore = doPiece([this](const IsEnough& isEnoughNow) {
+        std::vector<TakeOutcome> toldToNobody;
+        Result<bool> isLeft = changes.makeSome(writer, isEnoughNow, toldToNobody);
+        if (isLeft && !isLeft.value())
+            isLeft = upkeep.indexSome(isEnoughNow);
+        if (isLeft && !isLeft.value())
+            isLeft = renewal.renewSome(isEnoughNow);
+        return isLeft;
+    });
     if (!isMore || !isMore.value()) {
         setLasting(true);
         checkpoint();
         lock.release();
     }
+    return isMore;
+}
+
+Result<bool> StagedImport::doPiece(const std::function<Result<bool>(const IsEnough&)>& work) {
+    // What is waited for before the first headline does not count.
+    bool isStarted = false;
+    Result<bool> isMore = work([this, &isStarted, most = mostOfIndex()] {
+        if (!std::exchange(isStarted, true))
+            startBatch();
+        return isEnough(most);
+    });
+    hasRung();
+    checkpointAtTimes();
+    letOthersWrite();
     return isMore;
 }
 

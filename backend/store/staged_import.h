@@ -3,10 +3,10 @@
 #pragma once
 
 #include "backend/database/turn_bell.h"
+#include "backend/store/held_changes.h"
 #include "backend/store/import_lock.h"
 #include "backend/store/import_upkeep.h"
 #include "backend/store/index_renewal.h"
-#include "backend/store/item_spool.h"
 #include "backend/store/store_writer.h"
 
 #include <QElapsedTimer>
@@ -27,9 +27,11 @@ namespace wirepane {
 // it away. They enter the search index afterwards (indexSome).
 //
 // News that others bring meanwhile stands before the file: where it is the same piece of news as a hidden
-// one, the hidden one is set aside. What would change news that is there, and all that follows an item that
-// is no news, is put off. commit() then takes both in the transaction that shows the rest. A file that begins
-// with something else than news goes in as few items do.
+// one, the hidden one is set aside, and comes in again in the transaction that shows the rest. What would
+// change news that is there, and all that follows an item that is no news, is put off (HeldChanges): commit()
+// makes it due in that transaction, and then makes it, in short ones. What is killed meanwhile goes on with
+// the next import, or in the terminal. A file that begins with something else than news goes in as few items
+// do.
 //
 // One import into a store at a time takes many items; others wait. Thread: that of the database, which must
 // outlive this and is used by nothing else between beginMany() and commit() or rollback().
@@ -66,9 +68,9 @@ public:
     LateOutcomes takeLateOutcomes() override { return std::exchange(late, {}); }
     void rollback() override { takeBack(); }
 
-    // Brings a piece of what has been taken in into the search index, and then goes on making that anew where
-    // earlier rules have made it, unless another import is under way, which does that then; true: more is
-    // left.
+    // Makes a piece of what a killed import has left due, brings one of what has been taken in into the
+    // index, and then goes on making that anew where earlier rules have made it, unless another import is
+    // under way, which does that then; true: more is left.
     Result<bool> indexSome();
 
 private:
@@ -86,8 +88,9 @@ private:
     bool isEnough(std::chrono::milliseconds most);
     bool hasRung();
     std::chrono::milliseconds mostOfIndex() const;
-    Result<TakeOutcome> stage(const NewsItem& item);
-    Result<TakeOutcome> putOff(const StoreItem& item);
+    Done readyBatch();
+    Result<TakeOutcome> stage(const StoreItem& item);
+    Result<TakeOutcome> takeHidden(const NewsItem& item);
     void letOthersWrite();
     void flushLog();
     void checkpointAtTimes();
@@ -95,6 +98,11 @@ private:
     // Within the last transaction.
     Done takeAside(std::vector<NewsItem>& items);
     Done showAll();
+    // After it.
+    Done makeAllChanges();
+    // A short transaction, and a pause.
+    using IsEnough = std::function<bool()>;
+    Result<bool> doPiece(const std::function<Result<bool>(const IsEnough&)>& work);
 
     Database& database;
     const Pace pace;
@@ -103,7 +111,7 @@ private:
     IndexRenewal renewal;
     ImportLock lock;
     TurnBell bell;
-    ItemSpool later;
+    HeldChanges changes;
     Statement readAside;
     Statement readAsideSymbols;
     Statement deleteAside;

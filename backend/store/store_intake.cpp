@@ -63,6 +63,8 @@ WorkReport StoreIntake::perform(const Work& work) {
         work(*writer);
     WorkReport done{.symbols = writer->takeChangedSymbols(), .damage = database.damage()};
     done.byOthers = version.hasChanged();
+    if (std::exchange(madeChanges, false))
+        done.byOthers = true;
     // An import that is under way looks after the log itself.
     done.isLogLong = done.byOthers && !upkeep && QFileInfo(database.path() + u"-wal"_s).size() > longLog;
     if (done.byOthers)
@@ -97,7 +99,11 @@ bool StoreIntake::doPieceOfUpkeep() {
     QElapsedTimer clock;
     clock.start();
     const auto isEnough = [&clock] { return clock.elapsed() >= gatherMs; };
-    Result<bool> isMore = upkeep->ofImports.indexSome(isEnough);
+    std::vector<TakeOutcome> outcomes;
+    Result<bool> isMore = upkeep->changes.makeSome(*writer, isEnough, outcomes);
+    madeChanges = madeChanges || !outcomes.empty();
+    if (isMore && !isMore.value())
+        isMore = upkeep->ofImports.indexSome(isEnough);
     if (isMore && !isMore.value())
         isMore = upkeep->ofIndex.renewSome(isEnough);
     return isMore && isMore.value();

@@ -4,6 +4,7 @@
 
 #include "backend/database/data_version.h"
 #include "backend/database/database.h"
+#include "backend/store/held_changes.h"
 #include "backend/store/import_lock.h"
 #include "backend/store/import_upkeep.h"
 #include "backend/store/index_renewal.h"
@@ -22,7 +23,8 @@ class StoreSync;
 // What a piece of work has left behind.
 struct WorkReport {
     std::vector<SymbolItem> symbols;  // that it has changed
-    bool byOthers = false;            // another program has written, too, since the last report
+    bool byOthers = false;            // another program has written, too, since the last report, or has left
+                                      // what was to be written
     bool isLogLong = false;           // that of the store, by what others have written
     std::optional<Error> damage;      // the first that the connection has met
 };
@@ -77,11 +79,13 @@ private:
     DataVersion version;  // of the store, as others have left it
     ImportLock importLock;
     struct Upkeep {
-        explicit Upkeep(Database& database) : ofImports(database), ofIndex(database) {}
+        explicit Upkeep(Database& database) : ofImports(database), changes(database), ofIndex(database) {}
         ImportUpkeep ofImports;
+        HeldChanges changes;
         IndexRenewal ofIndex;
     };
     std::unique_ptr<Upkeep> upkeep;  // while there is something to do
+    bool madeChanges = false;        // of a killed import, since the last report
     std::deque<Job> jobs;            // the first is under way
     CallQueue answers;               // on the interface thread
     WorkerThread thread;             // last: it uses all of the above

@@ -235,27 +235,48 @@ private:
     std::thread thread;
 };
 
-void lineToPaintedRowBesideAnImport(benchmark::State& state) {
-    const int count = static_cast<int>(state.range(0));
+void importBesideLines(benchmark::State& state, LiveDesk& desk, const NewsFile& file, int count) {
     constexpr int perSecond = 10;
     constexpr int mostLines = 20'000;
-    constexpr std::int64_t longAgo = 1'600'000'000;
+    Sender sender(desk.socketName(), mostLines, perSecond);
+    PaintWatch watch(desk.sheet(), sender);
+    desk.awaitRows(2 * perSecond);
+    {
+        const Importing import(desk.storePath(), file);
+        while (!import.isDone)
+            QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        if (import.takenIn != count)
+            throw std::runtime_error("the file was not taken in whole");
+        state.counters["shown_per_s"] = count / import.shownAfter;
+        state.counters["items_per_s"] = count / import.indexedAfter;
+    }
+    countWaits(state, watch.waits());
+}
+
+constexpr std::int64_t longAgo = 1'600'000'000;
+
+void lineToPaintedRowBesideAnImport(benchmark::State& state) {
+    const int count = static_cast<int>(state.range(0));
     const NewsFile file(Format::Rss, count, longAgo);
     for (auto unused : state) {
         LiveDesk desk;
-        Sender sender(desk.socketName(), mostLines, perSecond);
-        PaintWatch watch(desk.sheet(), sender);
-        desk.awaitRows(2 * perSecond);
+        importBesideLines(state, desk, file, count);
+    }
+}
+
+// Half of the file is in the store and comes again, a second later.
+void lineToPaintedRowBesideChanges(benchmark::State& state) {
+    const int count = static_cast<int>(state.range(0));
+    const NewsFile before(Format::Rss, count / 2, longAgo);
+    const NewsFile file(Format::Rss, count, longAgo + 1);
+    for (auto unused : state) {
+        LiveDesk desk;
         {
-            const Importing import(desk.storePath(), file);
+            const Importing import(desk.storePath(), before);
             while (!import.isDone)
-                QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-            if (import.takenIn != count)
-                throw std::runtime_error("the file was not taken in whole");
-            state.counters["shown_per_s"] = count / import.shownAfter;
-            state.counters["items_per_s"] = count / import.indexedAfter;
+                QApplication::processEvents(QEventLoop::AllEvents);
         }
-        countWaits(state, watch.waits());
+        importBesideLines(state, desk, file, count);
     }
 }
 
@@ -272,6 +293,11 @@ BENCHMARK(keysDuringALiveFeed)
 BENCHMARK(lineToPaintedRowBesideAnImport)
     ->Arg(20'000)
     ->Arg(200'000)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(lineToPaintedRowBesideChanges)
+    ->Arg(1000)
+    ->Arg(40'000)
     ->Iterations(1)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(lineToPaintedRow)->Arg(1000)->Arg(10'000)->Iterations(1)->Unit(benchmark::kMillisecond);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/check_command.h"
 
+#include "backend/store/held_changes.h"
 #include "backend/store/import_upkeep.h"
 #include "backend/store/index_renewal.h"
 #include "backend/store/store_checker.h"
@@ -75,6 +76,8 @@ int runCheck() {
         if (const std::int64_t left = unindexedHeadlines(*store.value()).value_or(0); left > 0)
             printLine(
                 u"The search index is behind an import: %1 headlines are still to come into it."_s.arg(left));
+        if (const std::int64_t left = dueChanges(*store.value()).value_or(0); left > 0)
+            printLine(u"An import was ended early: %1 of its changes are still to be made."_s.arg(left));
         if (const std::optional<int> percent = renewalPercent(*store.value()))
             printLine(
                 u"The search index follows earlier rules; a new one is being made beside it: %1 %."_s.arg(

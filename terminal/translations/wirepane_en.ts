@@ -1115,6 +1115,10 @@
         <source></source>
         <translation>news</translation>
     </message>
+    <message id="ERROR_STORE_CHANGE_UNREADABLE">
+        <source></source>
+        <translation>What was kept of it in the store (held_changes, row %1) is damaged.</translation>
+    </message>
     <message id="ERROR_STORE_NEWS_GONE">
         <source></source>
         <translation>The news is no longer in the store.</translation>

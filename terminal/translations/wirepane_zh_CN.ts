@@ -1115,6 +1115,10 @@
         <source></source>
         <translation>新闻</translation>
     </message>
+    <message id="ERROR_STORE_CHANGE_UNREADABLE">
+        <source></source>
+        <translation>数据库中为它保留的内容（held_changes，第 %1 行）已损坏。</translation>
+    </message>
     <message id="ERROR_STORE_NEWS_GONE">
         <source></source>
         <translation>该新闻已不在数据库中。</translation>

@@ -1115,6 +1115,10 @@
         <source></source>
         <translation>新聞</translation>
     </message>
+    <message id="ERROR_STORE_CHANGE_UNREADABLE">
+        <source></source>
+        <translation>資料庫中為它保留的內容（held_changes，第 %1 列）已損毀。</translation>
+    </message>
     <message id="ERROR_STORE_NEWS_GONE">
         <source></source>
         <translation>此新聞已不在資料庫中。</translation>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What the receivers of a back end hear of news that comes late, in bursts, or from another program.
 #include "backend/store/embedded_back_end.h"
+#include "backend/store/held_changes.h"
 #include "backend/store/store_checker.h"
 #include "backend/store/store_file.h"
 #include "backend/store/stored_day.h"
@@ -12,6 +13,7 @@
 #include "tests/support/conditions.h"
 
 #include <QCoreApplication>
+#include <QTest>
 
 #include <random>
 
@@ -72,6 +74,23 @@ TEST_F(LiveNewsTest, WhatABreakKeptAwayComesOldestFirstAndOnce) {
     backEnd.setConnected(true);
     EXPECT_EQ(heard(), QStringList{});
     EXPECT_EQ(backEnd.lateHeadlines(), 0);
+}
+
+// A program that was killed had yet to make it.
+TEST_F(LiveNewsTest, WhatAKilledImportHadToChangeIsToldOnce) {
+    const NewsItem known = newsItem(1, u"known"_s, at(9, 30), u"Known"_s);
+    takeNews(known);
+    backEnd.checkForNews();
+    EXPECT_EQ(heard().size(), 1);
+    HeldChanges changes(*store);
+    ASSERT_TRUE(writer->begin() && changes.add(again(known, u"Corrected"_s)) && changes.makeDue() &&
+                writer->commit());
+    EXPECT_TRUE(QTest::qWaitFor([this] {
+        backEnd.checkForNews();
+        return !listener.heard.isEmpty();
+    }));
+    EXPECT_EQ(heard(), QStringList{u"headline 1/1 Corrected [0] "_s});
+    EXPECT_EQ(dueChanges(*store), 0);
 }
 
 TEST_F(LiveNewsTest, WhatAnotherProgramWritesIsToldInTheOrderOfComing) {

@@ -134,7 +134,7 @@ TEST_F(RetentionTest, TheOldestLeavesOfAStoreThatIsTooLarge) {
     const std::int64_t before = inUse();
     const Retention keep{.bytes = before * 2 / 3};
     EXPECT_GT(trim(keep), 600);
-    EXPECT_LT(inUse(), keep.bytes + before / 20);  // in so small a store much is no news
+    EXPECT_LT(inUse(), keep.bytes + before / 16);  // in so small a store much is no news
     EXPECT_GT(inUse(), keep.bytes / 2);
     EXPECT_EQ(checked(), QStringList{});
     // All that stayed is newer than all that left, but for the newest id.

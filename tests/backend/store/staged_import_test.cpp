@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/staged_import.h"
 
+#include "backend/packed_text.h"
 #include "backend/search/news_search.h"
 #include "backend/store/store_checker.h"
 #include "backend/store/store_file.h"
+#include "backend/store/stored_item.h"
 #include "tests/backend/store/store_fixture.h"
 
 #include <QFile>
@@ -13,7 +15,9 @@
 #include <atomic>
 #include <map>
 #include <random>
+#include <sys/wait.h>
 #include <thread>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -105,6 +109,21 @@ protected:
         std::erase_if(outcomes, [](const auto& entry) { return entry.second == 0; });
         return outcomes;
     }
+    // A process of its own; it says when all is staged.
+    [[noreturn]] static void importAll(const QString& path, const std::vector<StoreItem>& items,
+                                       const StagedImport::Pace& pace, int told) {
+        const auto store = openStore(path);
+        StagedImport staged(*store.value(), pace);
+        if (!staged.beginMany())
+            _exit(1);
+        for (const StoreItem& item : items) {
+            if (!staged.take(item))
+                _exit(1);
+        }
+        if (write(told, "", 1) != 1 || !staged.commit())
+            _exit(1);
+        _exit(0);
+    }
     void live(const std::vector<StoreItem>& items) {
         takeAll(*writer, items);
         takeAll(*otherWriter, items);
@@ -183,6 +202,95 @@ TEST_F(StagedImportTest, WhatIsGivenUpLeavesNothing) {
     EXPECT_EQ(rows("SELECT count(*) FROM all_headlines"), QStringList{u"1"_s});
     EXPECT_EQ(rows("SELECT count(*) FROM categories WHERE name LIKE 'Topic%'"), QStringList{u"0"_s});
     EXPECT_EQ(seen(), before);
+}
+
+// Killed before its news is shown it leaves nothing, killed later all of it, by whoever comes next.
+TEST_F(StagedImportTest, AKillLeavesAllOfItOrNothing) {
+    const auto seen = [this] { return (rows(seenNews) + rows(seenLists)).join(u'\n').toStdString(); };
+    constexpr StagedImport::Pace oneChangeAtOnce{
+        .batch = 1000ms, .indexBatch = 0ms, .indexBatchBesideOthers = 0ms, .leastBatch = 0ms, .pause = 0ms};
+    int nothing = 0;
+    int midway = 0;
+    for (round = 1; round < 60 && (nothing < 3 || midway < 3); ++round) {
+        std::vector<StoreItem> items;
+        for (int i = 0; i < 60; ++i)
+            items.emplace_back(randomItem());
+        live({items.begin(), items.begin() + 30});
+        for (StoreItem& item : items) {
+            auto& news = std::get<NewsItem>(item);
+            news.version += 3;
+            news.title += u" again"_s;
+        }
+        const std::string before = seen();
+        const QString path = store->path();
+        importing.reset();
+        writer.reset();
+        store.reset();
+        int staged[2];
+        ASSERT_EQ(pipe(staged), 0);
+        const pid_t worker = fork();
+        if (worker == 0)
+            importAll(path, items, oneChangeAtOnce, staged[1]);
+        close(staged[1]);
+        char byte = 0;
+        ASSERT_EQ(read(staged[0], &byte, 1), 1);
+        close(staged[0]);
+        usleep(unsigned(upTo(6000)));
+        kill(worker, SIGKILL);
+        waitpid(worker, nullptr, 0);
+        store = std::move(openStore(path).value());
+        writer = std::make_unique<StoreWriter>(*store);
+        importing = std::move(openStore(path).value());
+        const auto due = dueChanges(*store).value();
+        midway += due > 0 ? 1 : 0;
+        EXPECT_EQ(faults(), QStringList{}) << round;
+        StagedImport next(*importing, everyPause);
+        ASSERT_TRUE(next.beginMany());
+        next.rollback();
+        if (seen() == before) {
+            ++nothing;
+            EXPECT_EQ(due, 0);
+        } else {
+            takeAll(*otherWriter, items);
+            const QStringList whole = rowsOf(*other, seenNews) + rowsOf(*other, seenLists);
+            EXPECT_EQ(seen(), whole.join(u'\n').toStdString()) << round;
+        }
+        while (next.indexSome().value()) {
+        }
+        EXPECT_FALSE(needsUpkeep(*store)) << round;
+        EXPECT_EQ(faults(), QStringList{}) << round;
+    }
+    EXPECT_GE(nothing, 3);
+    EXPECT_GE(midway, 3);
+}
+
+TEST_F(StagedImportTest, AnItemWaitsAsItIs) {
+    NewsItem news = std::get<NewsItem>(StoreItem(randomItem()));
+    news.story = u"漲停 "_s.repeated(400);
+    news.packedStory = {*news.story, packedText(news.story->toUtf8())};
+    news.withdrawn = u"wrong"_s;
+    news.sequence = 7;
+    news.link = u"https://example.org/1"_s;
+    const auto back = itemOf(bytesOf(news));
+    ASSERT_TRUE(back);
+    const auto& same = std::get<NewsItem>(*back);
+    EXPECT_EQ(same.story, news.story);
+    EXPECT_TRUE(same.packedStory.isOf(*same.story));
+    EXPECT_EQ(same.packedStory.bytes, news.packedStory.bytes);
+    EXPECT_EQ(bytesOf(*back), bytesOf(news));
+    for (const StoreItem& item : {StoreItem(SymbolItem{16, u"23"_s, u"台積電"_s, 1, u"TSMC"_s}),
+                                  StoreItem(CategoryItem{1, 4, u"Bonds"_s, u"#ff0000"_s}),
+                                  StoreItem(QuoteItem{16, u"23"_s, 1.5, -0.5, 900})})
+        EXPECT_EQ(bytesOf(itemOf(bytesOf(item)).value()), bytesOf(item));
+    // What is cut off or changed is no item, or another one; it crashes nothing.
+    const QByteArray bytes = bytesOf(news);
+    for (qsizetype length = 0; length < bytes.size(); ++length)
+        EXPECT_FALSE(itemOf(bytes.first(length))) << length;
+    for (int i = 0; i < 2000; ++i) {
+        QByteArray changed = bytes;
+        changed[upTo(bytes.size())] = char(upTo(256));
+        itemOf(changed);
+    }
 }
 
 TEST_F(StagedImportTest, OneImportAtATimeTakesMuch) {
