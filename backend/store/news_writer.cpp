@@ -57,6 +57,11 @@ NewsWriter::NewsWriter(Database& owner, const ImportBlocks& importBlocks)
       readSearched(owner, "SELECT title, story FROM news_text WHERE id = ?"),
       searchIndex(owner) {}
 
+bool NewsWriter::begin() {
+    words.clear();
+    return searchIndex.load();
+}
+
 std::optional<KnownNews> NewsWriter::find(unsigned char service, const QString& identity, bool& failed) {
     Query query(findIdentity, service, identity);
     return known(query, failed);
@@ -151,7 +156,8 @@ bool NewsWriter::index(std::int64_t id, const QString& title, const std::optiona
         return true;
     QByteArray text = story.value_or(QByteArray());
     text.replace("@@@@", "\n");
-    return searchIndex.put(id, title.toUtf8(), text);
+    words.put(id, title.toUtf8(), text);
+    return !words.isMuch() || finish();
 }
 
 std::optional<QByteArray> NewsWriter::storyOf(std::int64_t id, bool& failed) {
@@ -170,7 +176,9 @@ bool NewsWriter::takeFromSearch(std::int64_t id, QString& title) {
         title = query.text(0);
         story = query.bytes(1).toByteArray();
     }
-    return blocks.isUnindexed(id) || searchIndex.take(id, title.toUtf8(), story);
+    if (!blocks.isUnindexed(id))
+        words.take(id, title.toUtf8(), story);
+    return true;
 }
 
 bool NewsWriter::writeRelated(std::int64_t id, const NewsItem& item, const NewsPlace& place) {

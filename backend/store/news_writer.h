@@ -5,6 +5,7 @@
 #include "backend/database/database.h"
 #include "backend/database/statement.h"
 #include "backend/news_item.h"
+#include "backend/store/gathered_words.h"
 #include "backend/store/import_blocks.h"
 #include "backend/store/index_writer.h"
 #include "backend/store/version_book.h"
@@ -35,14 +36,16 @@ struct NewsPlace {
 };
 
 // The rows of one piece of news: headline, story, earlier versions, withdrawal, related symbols and search
-// index, always in step but for the ids of `blocks`, which the index does not hold yet. Operations answer
+// index, always in step but for the ids of `blocks`, which the index does not hold yet; the index once a
+// transaction is finished. Operations answer
 // false on failure, which the database then holds.
 class NewsWriter {
 public:
     NewsWriter(Database& database, const ImportBlocks& blocks);
 
-    // At the start of a transaction.
-    bool begin() { return searchIndex.load(); }
+    // At the start of a transaction, and before its end.
+    bool begin();
+    bool finish() { return words.write(searchIndex); }
     // Nothing when the news is not there, or on failure (then `failed` is set).
     std::optional<KnownNews> find(unsigned char service, const QString& identity, bool& failed);
     // Of news that readers can see.
@@ -90,6 +93,7 @@ private:
     Statement deleteRelated;
     Statement readSearched;
     IndexWriter searchIndex;
+    GatheredWords words;
     std::int64_t written = 0;
 };
 

@@ -114,7 +114,8 @@ Done StoreWriter::showHidden() {
 Done StoreWriter::commit() {
     if (!begun)
         return makeError<store_errors::nothingToKeep>();
-    if (!numbers.save() || (isHiding ? !blocks.keepNew() : !arrivals.trim()) || !database.commit())
+    if (!news.finish() || !numbers.save() || (isHiding ? !blocks.keepNew() : !arrivals.trim()) ||
+        !database.commit())
         return fail();
     begun = false;
     keptSymbols = changedSymbols.size();
