@@ -43,7 +43,7 @@ inline constexpr ErrorCode withdrawsUnknown{"ERROR_STORE_WITHDRAWS_UNKNOWN",
 inline constexpr ErrorCode beyondRetention{"ERROR_STORE_BEYOND_RETENTION",
                                            u"It is older than the news that this store keeps: since %1."};
 inline constexpr ErrorCode changeUnreadable{
-    "ERROR_STORE_CHANGE_UNREADABLE", u"What was kept of it in the store (held_changes, row %1) is damaged."};
+    "ERROR_STORE_CHANGE_UNREADABLE", u"What an import had kept of it in the store (row %1) is damaged."};
 inline constexpr ErrorCode newsGone{"ERROR_STORE_NEWS_GONE", u"The news is no longer in the store."};
 inline constexpr ErrorCode noNumberLeft{"ERROR_STORE_NO_NUMBER_LEFT",
                                         u"No sequence number is left on its day."};

@@ -1117,7 +1117,7 @@
     </message>
     <message id="ERROR_STORE_CHANGE_UNREADABLE">
         <source></source>
-        <translation>What was kept of it in the store (held_changes, row %1) is damaged.</translation>
+        <translation>What an import had kept of it in the store (row %1) is damaged.</translation>
     </message>
     <message id="ERROR_STORE_NEWS_GONE">
         <source></source>

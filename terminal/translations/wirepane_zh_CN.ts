@@ -1117,7 +1117,7 @@
     </message>
     <message id="ERROR_STORE_CHANGE_UNREADABLE">
         <source></source>
-        <translation>数据库中为它保留的内容（held_changes，第 %1 行）已损坏。</translation>
+        <translation>数据库中为它保留的内容（第 %1 行）已损坏。</translation>
     </message>
     <message id="ERROR_STORE_NEWS_GONE">
         <source></source>

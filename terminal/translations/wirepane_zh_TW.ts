@@ -1117,7 +1117,7 @@
     </message>
     <message id="ERROR_STORE_CHANGE_UNREADABLE">
         <source></source>
-        <translation>資料庫中為它保留的內容（held_changes，第 %1 列）已損毀。</translation>
+        <translation>資料庫中為它保留的內容（第 %1 列）已損毀。</translation>
     </message>
     <message id="ERROR_STORE_NEWS_GONE">
         <source></source>
