@@ -213,6 +213,7 @@ inline constexpr QLatin1StringView savedFull{"IDS_NEWSCTRLVIEW_SAVED_FULL"};
 inline constexpr QLatin1StringView nameOfEarlierSearches{"IDS_NEWSCTRLVIEW_NAME_EARLIER_SEARCHES"};
 inline constexpr QLatin1StringView nameOfModes{"IDS_NEWSCTRLVIEW_NAME_MODES"};
 inline constexpr QLatin1StringView allServices{"IDS_NEWSCTRLVIEW_STRING_ALL_SERVICES"};
+inline constexpr QLatin1StringView servicesAsBefore{"IDS_NEWSCTRLVIEW_STRING_SERVICES_AS_BEFORE"};
 inline constexpr QLatin1StringView onlyThis{"IDS_NEWSCTRLVIEW_STRING_ONLY_THIS"};
 inline constexpr QLatin1StringView onlyThisService{"IDS_NEWSCTRLVIEW_STRING_ONLY_THIS_SERVICE"};
 inline constexpr QLatin1StringView today{"IDS_NEWSCTRLVIEW_STRING_TODAY"};

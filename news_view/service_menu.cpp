@@ -40,6 +40,9 @@ void ServiceMenu::addWholeChoice() {
     menu->addSeparator();
     all = menu->addAction(QString());
     QObject::connect(all, &QAction::triggered, &parts.window, [this] { tickAll(); });
+    asBefore = menu->addAction(QString());
+    QObject::connect(asBefore, &QAction::triggered, &parts.window,
+                     [this] { choose([this](std::size_t index) { return tickedBefore.at(index); }); });
     hint = menu->addAction(QString());
     hint->setEnabled(false);
     QObject::connect(menu.get(), &TickingMenu::onlyAsked, &parts.window, [this](const QAction* entry) {
@@ -74,6 +77,10 @@ void ServiceMenu::popUp() {
         if (all == nullptr)
             addWholeChoice();
         all->setText(langText(parts.backEnd, keys::allServices));
+        asBefore->setText(langText(parts.backEnd, keys::servicesAsBefore));
+        tickedBefore.clear();
+        for (const ServiceEntry& entry : parts.services.currentServices())
+            tickedBefore.push_back(entry.selected);
         hint->setText(langText(parts.backEnd, keys::onlyThisService));
         showCounts();
         menu->stayOpen(langText(parts.backEnd, keys::onlyThis));

@@ -7,6 +7,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <vector>
 
 class QAction;
 
@@ -50,7 +51,9 @@ private:
     const Calls calls;
     std::unique_ptr<TickingMenu> menu;
     QAction* all = nullptr;  // of the menu, where it stays open
+    QAction* asBefore = nullptr;
     QAction* hint = nullptr;
+    std::vector<bool> tickedBefore;  // when the menu opened
 };
 
 }  // namespace wirepane

@@ -86,8 +86,10 @@ void DayCalendar::dress() {
     heading.setForeground(palette().color(QPalette::PlaceholderText));
     heading.setBackground(palette().color(QPalette::Window));
     setHeaderTextFormat(heading);
-    if (auto* bar = findChild<QWidget*>(u"qt_calendar_navigationbar"_s))
+    if (auto* bar = findChild<QWidget*>(u"qt_calendar_navigationbar"_s)) {
         bar->setBackgroundRole(QPalette::Window);
+        orderTitle(*bar);
+    }
     for (const auto& [name, icon] : {std::pair(u"qt_calendar_prevmonth"_s, LineIcon::Left),
                                      std::pair(u"qt_calendar_nextmonth"_s, LineIcon::Right)}) {
         if (auto* step = findChild<QToolButton*>(name))
@@ -95,9 +97,25 @@ void DayCalendar::dress() {
     }
 }
 
+// The base names the month first in every language.
+void DayCalendar::orderTitle(const QWidget& bar) const {
+    auto* places = qobject_cast<QBoxLayout*>(bar.layout());
+    auto* month = findChild<QWidget*>(u"qt_calendar_monthbutton"_s);
+    auto* year = findChild<QWidget*>(u"qt_calendar_yearbutton"_s);
+    if (places == nullptr || month == nullptr || year == nullptr)
+        return;
+    const QString form = locale().dateFormat(QLocale::LongFormat);
+    const bool isYearFirst = form.indexOf(u'y') < form.indexOf(u'M');
+    if (isYearFirst == (places->indexOf(year) < places->indexOf(month)))
+        return;
+    places->removeWidget(month);
+    places->insertWidget(places->indexOf(year) + (isYearFirst ? 1 : 0), month);
+}
+
 void DayCalendar::changeEvent(QEvent* event) {
     QCalendarWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && row != nullptr)
+    const bool isOther = event->type() == QEvent::PaletteChange || event->type() == QEvent::LocaleChange;
+    if (isOther && row != nullptr)
         dress();
 }
 

@@ -45,6 +45,7 @@ protected:
 
 private:
     void dress();
+    void orderTitle(const QWidget& bar) const;
 
     std::function<DayState(const QDate&)> stateOf;
     QWidget* buttons;

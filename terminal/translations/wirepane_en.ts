@@ -2079,6 +2079,10 @@
         <source></source>
         <translation>Services</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SERVICES_AS_BEFORE">
+        <source></source>
+        <translation>As Before</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SHOW_CATEGORY">
         <source></source>
         <translation>&amp;Topic Column</translation>

@@ -2079,6 +2079,10 @@
         <source></source>
         <translation>新闻来源</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SERVICES_AS_BEFORE">
+        <source></source>
+        <translation>恢复原来的勾选</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SHOW_CATEGORY">
         <source></source>
         <translation>显示分类栏(&amp;C)</translation>

@@ -2079,6 +2079,10 @@
         <source></source>
         <translation>新聞來源</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SERVICES_AS_BEFORE">
+        <source></source>
+        <translation>恢復原來的勾選</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_SHOW_CATEGORY">
         <source></source>
         <translation>顯示分類欄(&amp;C)</translation>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What a list, the pane and the ticks show after something else has happened: another list was read, another
 // mode was shown, a linked view chose a symbol.
+#include "headline_list/language_keys.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/sc_combo_box.h"
 #include "host/views/news_control_ids.h"
@@ -195,6 +196,27 @@ TEST_F(ListsInStep, AServiceMenuOnShowGoesGreyWithTheWarrantMode) {
             EXPECT_TRUE(action->isChecked()) << "the marks are the user's own";
         }
     }
+    menu->close();
+}
+
+TEST_F(ListsInStep, TheOpenServiceMenuTicksAllAndGoesBackToWhatWasTicked) {
+    openShown({{u"KeepServicesOpen"_s, true}});
+    view->onCommand(ids::firstServiceCommand);
+    const std::set<int> before = ticked();
+    view->onCommand(ids::serviceButton);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    const QList<QAction*> actions = menu->actions();
+    const auto trigger = [&actions](QLatin1StringView text) {
+        for (QAction* action : actions) {
+            if (action->text() == text)
+                action->trigger();
+        }
+    };
+    trigger(keys::allServices);
+    EXPECT_GT(ticked().size(), before.size());
+    trigger(keys::servicesAsBefore);
+    EXPECT_EQ(ticked(), before);
     menu->close();
 }
 

@@ -8,8 +8,11 @@
 #include <QStyleOptionComboBox>
 #include <QTableView>
 #include <QTest>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
@@ -87,6 +90,22 @@ TEST_F(DatePicker, TheCalendarTellsDropDownChangesCloseUp) {
         QTest::keyClick(days(), Qt::Key_Return);
         EXPECT_FALSE(picker->isDropped());
         EXPECT_EQ(takeTold(), lines("close 03/08"));
+    }
+}
+
+TEST_F(DatePicker, TheCalendarNamesYearAndMonthInTheOrderOfTheLanguage) {
+    const struct {
+        QLocale locale;
+        bool isYearFirst;
+    } cases[] = {{QLocale(u"en"_s), false}, {QLocale(u"zh_TW"_s), true}, {QLocale(u"en"_s), false}};
+    QTest::keyClick(picker, Qt::Key_F4);
+    QCalendarWidget* calendar = picker->calendarWidget();
+    for (const auto& [locale, isYearFirst] : cases) {
+        calendar->setLocale(locale);
+        QApplication::sendPostedEvents();
+        const auto* month = calendar->findChild<QWidget*>(u"qt_calendar_monthbutton"_s);
+        const auto* year = calendar->findChild<QWidget*>(u"qt_calendar_yearbutton"_s);
+        EXPECT_EQ(year->x() < month->x(), isYearFirst) << locale.name().toStdString();
     }
 }
 
