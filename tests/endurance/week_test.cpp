@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-// Seven market days over a real store, with three views that somebody works with. WIREPANE_ENDURANCE is the
-// number of headlines, a few thousand without it; with it the figures of each day are printed.
+// Seven market days over a real store, with three views that somebody works with, and a file that is taken in
+// beside them. WIREPANE_ENDURANCE is the number of headlines, a few thousand without it; with it the figures
+// of each day are printed.
+#include "backend/store/staged_import.h"
 #include "backend/store/store_checker.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_writer.h"
@@ -20,7 +22,10 @@
 #include <gtest/gtest.h>
 #include <iostream>
 #include <map>
+#include <optional>
+#include <thread>
 #include <tuple>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -76,6 +81,34 @@ bool isInOrder(const Keys& rows, const TellOrder& order) {
     return read <= told;
 }
 
+// A file of much that another program takes in beside all else; it ends with this.
+class ImportBeside {
+public:
+    ImportBeside(const QString& storePath, std::vector<StoreItem> items)
+        : thread([storePath, items = std::move(items)] { takeIn(storePath, items); }) {}
+    ~ImportBeside() { thread.join(); }
+    ImportBeside(const ImportBeside&) = delete;
+    ImportBeside& operator=(const ImportBeside&) = delete;
+
+private:
+    static void takeIn(const QString& storePath, const std::vector<StoreItem>& items) {
+        const auto store = openStore(storePath);
+        ASSERT_TRUE(store);
+        StagedImport staged(*store.value());
+        ASSERT_TRUE(staged.beginMany());
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            ASSERT_TRUE(staged.take(items[i]));
+            if (i % 50 == 0)
+                staged.pause();
+        }
+        ASSERT_TRUE(staged.commit());
+        while (staged.indexSome().value()) {
+        }
+    }
+
+    std::thread thread;
+};
+
 class Week : public testing::Test {
 protected:
     Week() {
@@ -102,11 +135,16 @@ protected:
         const int batches = perDay / batch;
         EmbeddedBackEnd& backEnd = session->embeddedBackEnd();
         int offlineFor = 0;
+        std::optional<ImportBeside> import;
         for (int i = 0; i < batches && !HasFatalFailure(); ++i) {
             moveClock(double(i) / batches);
+            if (i == batches / 3)
+                import.emplace(backEnd.storePath(), wire.next(perDay / 5, double(i) / batches));
             const std::vector<StoreItem> items = wire.next(batch, double(i) / batches);
             backEnd.run([&items](StoreWriter& store) {
-                ASSERT_TRUE(store.begin());
+                // The import may be writing.
+                while (!store.begin()) {
+                }
                 for (const StoreItem& item : items)
                     ASSERT_TRUE(store.take(item));
                 ASSERT_TRUE(store.commit());
@@ -124,6 +162,8 @@ protected:
             if (wire.below(batches) < 40)
                 session->doSomethingBig(wire, day);
         }
+        import.reset();
+        backEnd.checkForNews();
         backEnd.setConnected(true);
         session->settle();
     }
