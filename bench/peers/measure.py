@@ -358,6 +358,10 @@ OURS = [
      '{real_time:.0f} ms; an input waits {wait_ms:.0f} ms at most'),
     ('bench_opening', 'openDay/1000000', 'a day of a million headlines opens',
      '{real_time:.0f} ms, {of_bare:.1f} times the bare reading of its rows'),
+    ('bench_host', 'paintSixtyRows/1', '60 rows on screen are painted anew, with tags, chips, arrivals and one under the pointer',
+     '{real_time:.1f} ms'),
+    ('bench_host', 'scrollSteps/1/', 'a step of a scroll through a million rows, painted: a row, a page, to any place',
+     '{p99:.0f} ms ({p99_cpu:.0f} ms) in 99 of 100 cases'),
 ]
 
 

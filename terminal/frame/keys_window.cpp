@@ -11,9 +11,14 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <memory>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -22,8 +27,9 @@ namespace wirepane {
 
 namespace {
 
-constexpr std::size_t columns = 3;
+constexpr std::size_t mostColumns = 3;
 constexpr int betweenColumns = 32;
+constexpr int aroundWindow = 32;  // what a screen has beside it: its title, the edges
 
 struct KeyRow {
     QString keys;  // empty: what stands above those that follow
@@ -87,14 +93,10 @@ QLabel* label(const QString& text, bool strong) {
     return made;
 }
 
-}  // namespace
-
-KeysWindow::KeysWindow(const QMenuBar& menus, const QWidget* view, const QString& viewTitle, QWidget* parent)
-    : QDialog(parent) {
-    setWindowTitle(terminalText(TextId::KeysTitle));
-    const std::vector<KeyRow> rows = rowsOf(menus, view, viewTitle);
+std::unique_ptr<QWidget> pageOf(const std::vector<KeyRow>& rows, std::size_t columns) {
     const std::size_t perColumn = (rows.size() + columns - 1) / columns;
-    auto* page = new QHBoxLayout(this);
+    auto made = std::make_unique<QWidget>();
+    auto* page = new QHBoxLayout(made.get());
     page->setSpacing(betweenColumns);
     page->setContentsMargins(24, 16, 24, 16);
     for (std::size_t first = 0; first < rows.size(); first += perColumn) {
@@ -114,6 +116,32 @@ KeysWindow::KeysWindow(const QMenuBar& menus, const QWidget* view, const QString
         column->setColumnStretch(1, 1);
         page->addLayout(column);
     }
+    return made;
+}
+
+}  // namespace
+
+KeysWindow::KeysWindow(const QMenuBar& menus, const QWidget* view, const QString& viewTitle, QWidget* parent)
+    : QDialog(parent) {
+    setWindowTitle(terminalText(TextId::KeysTitle));
+    const std::vector<KeyRow> rows = rowsOf(menus, view, viewTitle);
+    auto* area = new QScrollArea(this);
+    const int bar = area->verticalScrollBar()->sizeHint().width();
+    const QSize room = screen()->availableGeometry().size() - QSize(aroundWindow, 2 * aroundWindow);
+    std::size_t columns = mostColumns;
+    std::unique_ptr<QWidget> page = pageOf(rows, columns);
+    // What is too wide for the screen goes on below, where one can scroll.
+    while (page->sizeHint().width() + bar > room.width() && columns > 1)
+        page = pageOf(rows, --columns);
+    const QSize wanted = page->sizeHint();
+    area->setAccessibleName(windowTitle());
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(page.release());
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(area);
+    resize((wanted.height() > room.height() ? wanted + QSize(bar, 0) : wanted).boundedTo(room));
 }
 
 }  // namespace wirepane

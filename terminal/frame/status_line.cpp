@@ -179,7 +179,7 @@ void StatusLine::show(const FrameStatus& status) {
 
 // What one needs least gives way where all together are too wide.
 void StatusLine::giveRoom() {
-    const std::array parts{services, last, index};
+    const std::array parts{services, last, index, headlines};
     for (QLabel* part : parts)
         part->setHidden(part->text().isEmpty());
     for (QLabel* part : parts) {

@@ -76,7 +76,7 @@ TEST_F(AccessKeysTest, EachIsOfferedOnceInAMenuOrWindow) {
         ASSERT_TRUE(session->setLanguage(code));
         lookAtAll();
     }
-    EXPECT_EQ(windows, 3 * 26);
+    EXPECT_EQ(windows, 3 * 27);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 // screen. Run again at other scale factors of the screen.
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/row_look.h"
+#include "terminal/frame/status_line.h"
 #include "tests/support/painted_texts.h"
 #include "tests/terminal/program/every_window.h"
 
@@ -158,6 +159,9 @@ TEST_F(CutTextTest, NothingIsCutAndEveryWindowFits) {
             session->setFontSize(points);
             lookAtAll();
         }
+        session->frame().resize(screen * 4 / 5);
+        look(*session->frame().findChild<StatusLine*>());
+        session->frame().resize(screen);
     }
     EXPECT_GT(windows, 200);
     EXPECT_GT(texts, 1000);

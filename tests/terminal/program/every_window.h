@@ -125,7 +125,7 @@ protected:
                      selectTab(dialog, 1);
                      look(dialog);
                  });
-        for (const FrameCommand id : {FrameCommand::ReadAsOf, FrameCommand::RenameView})
+        for (const FrameCommand id : {FrameCommand::ReadAsOf, FrameCommand::RenameView, FrameCommand::Keys})
             inDialog([this, id] { command(id); });
     }
     // The page, and the dialog of a source that is not there.
