@@ -185,6 +185,14 @@ inline constexpr QLatin1StringView foundTook{"IDS_NEWSCTRLVIEW_FOUND_TOOK"};
 inline constexpr QLatin1StringView foundTakeOut{"IDS_NEWSCTRLVIEW_FOUND_TAKE_OUT"};
 inline constexpr QLatin1StringView foundAwaited{"IDS_NEWSCTRLVIEW_FOUND_AWAITED"};
 
+// Files of the news of a list. "%1": how many, else the file; "%2": the file, else the reason.
+inline constexpr QLatin1StringView exportList{"IDS_NEWSCTRLVIEW_EXPORT_LIST"};
+inline constexpr QLatin1StringView exportRunning{"IDS_NEWSCTRLVIEW_EXPORT_RUNNING"};
+inline constexpr QLatin1StringView exportStopped{"IDS_NEWSCTRLVIEW_EXPORT_STOPPED"};
+inline constexpr QLatin1StringView exportWritten{"IDS_NEWSCTRLVIEW_EXPORT_WRITTEN"};
+inline constexpr QLatin1StringView exportNotWritten{"IDS_NEWSCTRLVIEW_EXPORT_NOT_WRITTEN"};
+inline constexpr QLatin1StringView exportUnreadable{"IDS_NEWSCTRLVIEW_EXPORT_UNREADABLE"};
+
 // Searches with names, at the search box. "%1": a number or a name.
 inline constexpr QLatin1StringView saveSearch{"IDS_NEWSCTRLVIEW_SAVED_SAVE"};
 inline constexpr QLatin1StringView savedName{"IDS_NEWSCTRLVIEW_SAVED_NAME"};

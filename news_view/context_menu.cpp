@@ -27,6 +27,7 @@ struct FullLine {
     QKeySequence::StandardKey platformKey = QKeySequence::UnknownKey;
     bool ofRow = true;
     bool ofMarks = false;
+    bool ofExports = false;
 };
 
 constexpr std::array fullMenu{
@@ -34,6 +35,7 @@ constexpr std::array fullMenu{
     FullLine{ids::openInWindow, keys::storyInWindow},
     FullLine{ids::printNews, keys::printNews, QKeySequence::Print},
     FullLine{ids::saveNews, keys::saveAsNews, QKeySequence::Save},
+    FullLine{ids::exportRows, keys::exportList, QKeySequence::UnknownKey, true, false, true},
     FullLine{0, {}, QKeySequence::UnknownKey, false, true},
     FullLine{ids::markRead, keys::markRead, QKeySequence::UnknownKey, true, true},
     FullLine{ids::markUnread, keys::markUnread, QKeySequence::UnknownKey, true, true},
@@ -50,7 +52,8 @@ std::vector<MenuEntry> fullEntries(const MenuSituation& situation, BKQuoteInterf
     std::vector<MenuEntry> entries;
     for (const FullLine& line : fullMenu) {
         const bool isTold = line.command != ids::recoverHeadlineTable || situation.mode <= ListIndex::Symbol;
-        if (!isTold || (line.ofRow && !situation.onRow) || (line.ofMarks && !situation.hasMarks))
+        if (!isTold || (line.ofRow && !situation.onRow) || (line.ofMarks && !situation.hasMarks) ||
+            (line.ofExports && !situation.canExport))
             continue;
         if (line.command == 0) {
             entries.push_back({});

@@ -23,6 +23,7 @@ struct MenuSituation {
     bool isFull = false;          // ViewOption::RowMenu
     bool hasMarks = false;        // ViewOption::ReadingMarks
     bool isStarred = false;       // the row is
+    bool canExport = false;       // the back end writes files of rows
 };
 
 // The lines of the menu: what can be done with the list and the row, with news that waits (`waiting`), and

@@ -45,6 +45,7 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       newestRow(*this, [this] { return settings.options[ViewOption::FollowNewest]; }),
       reading(*this, common, {[this] { return selectedEntries(); }, [this] { return story.newsInPane(); }}),
       output(backEnd, outputDialogs, outputSurroundings()),
+      rowsExport(backEnd, view, exportCalls()),
       board(noticeSurroundings(), noticeTellers()),
       menu(view, [this](int command) { view.onCommand(command); }),
       contextMenu(*this, menu, contextMenuSurroundings()),
@@ -173,6 +174,14 @@ OutputJobs::Surroundings TRVNewsCtrlView::Parts::outputSurroundings() {
             [this](const QString& sentence) { emit view.messageForUser(sentence); }};
 }
 
+RowsExport::Calls TRVNewsCtrlView::Parts::exportCalls() {
+    return {[this](const QString& sentence) { emit view.messageForUser(sentence); },
+            [this](const std::vector<CHeadlineTable>& entries, OutputTarget target) {
+                target.told = [this](const NewsOutcome& outcome) { output.tell(outcome); };
+                output.tell(output.save(entries, target));
+            }};
+}
+
 NoticeBoard::Surroundings TRVNewsCtrlView::Parts::noticeSurroundings() {
     return {view,
             controls,
@@ -213,10 +222,10 @@ void TRVNewsCtrlView::Parts::rowsReplaced(ListIndex list) {
 ContextMenu::Surroundings TRVNewsCtrlView::Parts::contextMenuSurroundings() {
     return {view, [this] { return view.titleHeight(); },
             [this](bool onRow) {
-                return contextMenuEntries(
-                    {modes.shown(), onRow, settings.showCategory, story.hasStoryWindow(),
-                     settings.options[ViewOption::RowMenu], reading.isOn(), reading.isStarred()},
-                    backEnd, output.waitingCommands(), board.notices());
+                return contextMenuEntries({modes.shown(), onRow, settings.showCategory,
+                                           story.hasStoryWindow(), settings.options[ViewOption::RowMenu],
+                                           reading.isOn(), reading.isStarred(), rowsExport.isPossible()},
+                                          backEnd, output.waitingCommands(), board.notices());
             }};
 }
 
@@ -297,6 +306,15 @@ void TRVNewsCtrlView::Parts::readForServices() {
 
 std::optional<CHeadlineTable> TRVNewsCtrlView::Parts::shownEntry(int row) const {
     return lists[modes.shown()].headlineTable().entryAt(row);
+}
+
+std::vector<CHeadlineTable> TRVNewsCtrlView::Parts::shownEntries() const {
+    const HeadlineTable& table = lists[modes.shown()].headlineTable();
+    std::vector<CHeadlineTable> entries;
+    entries.reserve(static_cast<std::size_t>(table.size()));
+    for (int row = 0; row < table.size(); ++row)
+        entries.push_back(table.at(row));
+    return entries;
 }
 
 int TRVNewsCtrlView::Parts::entryCount(ListIndex list) const {
@@ -404,6 +422,8 @@ QString TRVNewsCtrlView::Parts::shownSubject() {
 bool TRVNewsCtrlView::Parts::takeRowCommand(int id) {
     if (id == ids::copyRows)
         input.copyRows();
+    else if (id == ids::exportRows)
+        rowsExport.ask(shownEntries());
     else if (id == ids::openInWindow)
         story.openWindow();
     else if (id == ids::turnChanges)

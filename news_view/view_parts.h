@@ -26,6 +26,7 @@
 #include "news_view/notice_board.h"
 #include "news_view/output_jobs.h"
 #include "news_view/reading.h"
+#include "news_view/rows_export.h"
 #include "news_view/saved_search_menu.h"
 #include "news_view/search_line.h"
 #include "news_view/search_offers.h"
@@ -97,6 +98,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     std::optional<CHeadlineTable> shownEntry(int row) const;
     CSuperSheetWnd* shownGrid() const { return lists[modes.shown()].grid(); }
     std::vector<CHeadlineTable> selectedEntries() const;
+    std::vector<CHeadlineTable> shownEntries() const;
     // The list's mode and its tab, unless it is shown.
     void showMode(wirepane::ListIndex list);
     // Searches as if the words had been typed into the search box.
@@ -136,6 +138,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::NewestRow newestRow;
     wirepane::Reading reading;
     wirepane::OutputJobs output;
+    wirepane::RowsExport rowsExport;
     wirepane::NoticeBoard board;
     wirepane::CommandMenu menu;
     wirepane::ContextMenu contextMenu;
@@ -164,6 +167,7 @@ private:
     wirepane::StoryDisplay::Surroundings storySurroundings();
     wirepane::StoryInput::Surroundings storyInputSurroundings();
     wirepane::OutputJobs::Surroundings outputSurroundings();
+    wirepane::RowsExport::Calls exportCalls();
     wirepane::NoticeBoard::Surroundings noticeSurroundings();
     std::vector<wirepane::NoticeBoard::Teller> noticeTellers();
     wirepane::ContextMenu::Surroundings contextMenuSurroundings();

@@ -66,6 +66,7 @@ EmbeddedBackEnd::EmbeddedBackEnd(StoreConnections opened)
       delivery(arrivals, [this](const Arrival& arrival) { tell(arrival); }),
       announcements([this] { return !delivery.isDone(); },
                     [this](const AnnouncedTables& tables) { announce(tables); }),
+      rowFiles(connections.reading->path()),
       searches(
           connections.reading->path(),
           [this](const CSearch& condition, unsigned char service) {

@@ -17,6 +17,7 @@
 #include "backend/store/quote_book.h"
 #include "backend/store/quote_desk.h"
 #include "backend/store/request_log.h"
+#include "backend/store/row_file_desk.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_intake.h"
 #include "backend/store/store_reader.h"
@@ -29,6 +30,7 @@
 #include "host/contract/news_day_finder.h"
 #include "host/contract/news_positions.h"
 #include "host/contract/news_record.h"
+#include "host/contract/news_row_files.h"
 #include "host/contract/query/headline_query.h"
 #include "host/contract/query/search_counts.h"
 #include "host/contract/query/search_hits.h"
@@ -91,7 +93,8 @@ class EmbeddedBackEnd : public BKQuoteInterface,
                         public ReadingMarks,
                         public HeadlineQueries,
                         public SearchHits,
-                        public SearchCounts {
+                        public SearchCounts,
+                        public NewsRowFiles {
 public:
     // Opens the store, or makes it (see openStore). One that cannot be written to is read: it takes nothing
     // in.
@@ -244,6 +247,10 @@ public:
     std::shared_ptr<const HeadlineQuery> prepareQuery(const QString& query) override;
     std::shared_ptr<const HitFinder> prepareHits(const CSearch& condition) override;
     std::shared_ptr<const void> countFound(std::vector<CountedSearch> wanted, Told told) override;
+    std::shared_ptr<const void> writeRowFile(std::vector<CHeadlineTable> entries, NewsRowForm form,
+                                             const QString& file, Tellers tellers) override {
+        return rowFiles.write(std::move(entries), form, file, std::move(tellers));
+    }
     bool LangIsConvertToSimplified(const unsigned char& service) override;
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
     QString PathGetSysPath() override;
@@ -329,6 +336,7 @@ private:
     QString sysPath;
     NewsDelivery delivery;
     TableAnnouncements announcements;
+    RowFileDesk rowFiles;
     SearchDispatcher searches;
     StoreIntake intake;  // last: its reports reach all of the above
 };

@@ -3,11 +3,11 @@
 #include "terminal/commands/export_command.h"
 
 #include "backend/store/embedded_back_end.h"
+#include "backend/store/row_file.h"
 #include "backend/store/store_file.h"
 #include "host/contract/clock.h"
 #include "host/views/news_module.h"
 #include "terminal/commands/command_arguments.h"
-#include "terminal/commands/found_rows.h"
 #include "terminal/commands/news_query.h"
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
@@ -17,7 +17,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <atomic>
@@ -142,41 +141,32 @@ int putOut(const std::vector<CHeadlineTable>& wanted, const ExportOptions& optio
     return exitDone;
 }
 
-// Row by row into a file beside the one that is wanted, whose place it takes when it is whole.
 int writeRows(EmbeddedBackEnd& backEnd, const std::vector<CHeadlineTable>& wanted, const QString& name,
               NewsRowForm form) {
     const auto store = openStoreToRead(backEnd.storePath());
     if (!store)
         return unusable(sentence(store.error()));
-    QSaveFile file(name);
-    const auto failed = [&file] {
-        return unusable(u"%1 cannot be written: %2."_s.arg(QDir::toNativeSeparators(file.fileName()),
-                                                           file.errorString()));
-    };
-    if (!file.open(QIODevice::WriteOnly))
-        return failed();
     std::atomic<bool> stopped = false;
     const OnInterrupt stopping([&stopped] { stopped = true; });
     const auto progress = passingShare(u"Writing"_s);
-    FoundRows rows(*store.value(), form);
-    std::int64_t done = 0;
-    for (const CHeadlineTable& entry : wanted) {
-        if (stopped) {
+    const RowFileOutcome outcome = writeRowFile(*store.value(), wanted, form, name, [&](int done) {
+        progress(done, std::int64_t(wanted.size()));
+        return !stopped;
+    });
+    switch (outcome.end) {
+        case RowFileOutcome::End::Written:
+            break;
+        case RowFileOutcome::End::Stopped:
             printNote(u"Stopped; no file was written."_s);
             return exitPartly;
-        }
-        const auto row = rows.row(keyOf(entry));
-        if (store.value()->damage())
-            return unusable(sentence(*store.value()->damage()));
-        if (row && file.write(*row) != row->size())
-            return failed();
-        progress(++done, std::int64_t(wanted.size()));
+        case RowFileOutcome::End::NotWritten:
+            return unusable(
+                u"%1 cannot be written: %2."_s.arg(QDir::toNativeSeparators(name), outcome.reason));
+        case RowFileOutcome::End::Unreadable:
+            return unusable(sentence(store.value()->damage().value_or(store.value()->failure())));
     }
-    file.write(rows.end());
-    const qint64 bytes = file.size();
-    if (!file.commit())
-        return failed();
-    tellDone(bytes, u"bytes"_s, name);
+    progress(std::int64_t(wanted.size()), std::int64_t(wanted.size()));
+    tellDone(outcome.bytes, u"bytes"_s, name);
     return exitDone;
 }
 

@@ -8,40 +8,32 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
+FoundRows::FoundRows(Database& database, FoundForm rowForm)
+    : reader(database),
+      form(rowForm),
+      maker(database,
+            std::holds_alternative<NewsRowForm>(form) ? std::get<NewsRowForm>(form) : NewsRowForm::Json) {}
+
 std::optional<QByteArray> FoundRows::row(const HeadlineKey& key) {
+    if (std::holds_alternative<NewsRowForm>(form))
+        return maker.row(key);
     const std::optional<CHeadline> headline = reader.headline(key);
-    if (!headline)
-        return std::nullopt;
-    if (std::holds_alternative<FoundLine>(form))
-        return line(*headline);
-    NewsRow row{*headline, serviceName(headline->service), {}, {}, reader.story(key)};
-    if (const auto topic = reader.category(headline->service, headline->categoryId))
-        row.topic = topic->name;
-    row.symbols = reader.relatedSymbols(key).value_or(std::vector<CSymbolInfo>());
-    return newsRow(std::get<NewsRowForm>(form), row, std::exchange(isFirst, false));
+    return headline ? std::optional(line(*headline)) : std::nullopt;
 }
 
 QByteArray FoundRows::end() const {
-    const auto* rows = std::get_if<NewsRowForm>(&form);
-    return rows != nullptr ? newsRowsEnd(*rows, isFirst) : QByteArray();
-}
-
-QString FoundRows::serviceName(unsigned char service) {
-    const auto stored = reader.service(service);
-    return stored ? stored->shortName : QString::number(service);
+    return std::holds_alternative<NewsRowForm>(form) ? maker.end() : QByteArray();
 }
 
 QByteArray FoundRows::line(const CHeadline& headline) {
     const QDateTime time = QDateTime::fromSecsSinceEpoch(headline.time);
     if (std::get<FoundLine>(form) == FoundLine::Text)
         return outputLine(u"%1  %2  %3"_s.arg(time.toString(u"yyyy-MM-dd HH:mm"_s),
-                                              serviceName(headline.service), headline.title));
+                                              maker.serviceName(headline.service), headline.title));
     const QJsonObject row{{u"service"_s, headline.service},
                           {u"time"_s, time.toUTC().toString(Qt::ISODate)},
                           {u"sequence"_s, headline.sequence},

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/store/row_file.h"
 #include "backend/store/store_reader.h"
 #include "host/contract/news_rows.h"
 
@@ -20,19 +21,18 @@ using FoundForm = std::variant<FoundLine, NewsRowForm>;
 // database, which must outlive this.
 class FoundRows {
 public:
-    FoundRows(Database& database, FoundForm rowForm) : reader(database), form(rowForm) {}
+    FoundRows(Database& database, FoundForm rowForm);
 
     // Nothing where the headline is not there any more.
     std::optional<QByteArray> row(const HeadlineKey& key);
     QByteArray end() const;
 
 private:
-    QString serviceName(unsigned char service);
     QByteArray line(const CHeadline& headline);
 
     StoreReader reader;
     const FoundForm form;
-    bool isFirst = true;
+    NewsRowMaker maker;  // of whole rows, and of names
 };
 
 }  // namespace wirepane

@@ -1591,6 +1591,30 @@
         <source></source>
         <translation>No news with the warning terms.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_LIST">
+        <source></source>
+        <translation>Export List…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_NOT_WRITTEN">
+        <source></source>
+        <translation>%1 cannot be written: %2</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_RUNNING">
+        <source></source>
+        <translation>Writing the news of the list…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_STOPPED">
+        <source></source>
+        <translation>Stopped; no file was written.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_UNREADABLE">
+        <source></source>
+        <translation>%1 was not written: the news cannot be read.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_WRITTEN">
+        <source></source>
+        <translation>%1 headlines are in %2.</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_FOUND_AWAITED">
         <source></source>
         <translation>Searching…</translation>

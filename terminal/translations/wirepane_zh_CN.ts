@@ -1591,6 +1591,30 @@
         <source></source>
         <translation>没有含警示词的新闻。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_LIST">
+        <source></source>
+        <translation>导出列表…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_NOT_WRITTEN">
+        <source></source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_RUNNING">
+        <source></source>
+        <translation>正在写入列表的新闻…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_STOPPED">
+        <source></source>
+        <translation>已停止；未写入文件。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_UNREADABLE">
+        <source></source>
+        <translation>未写入 %1：无法读取新闻。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_WRITTEN">
+        <source></source>
+        <translation>%1 条新闻已写入 %2。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_FOUND_AWAITED">
         <source></source>
         <translation>正在搜索…</translation>

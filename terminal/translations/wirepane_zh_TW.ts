@@ -1591,6 +1591,30 @@
         <source></source>
         <translation>沒有含警示詞的新聞。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_LIST">
+        <source></source>
+        <translation>匯出清單…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_NOT_WRITTEN">
+        <source></source>
+        <translation>無法寫入 %1：%2</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_RUNNING">
+        <source></source>
+        <translation>正在寫入清單的新聞…</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_STOPPED">
+        <source></source>
+        <translation>已停止；未寫入檔案。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_UNREADABLE">
+        <source></source>
+        <translation>未寫入 %1：無法讀取新聞。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EXPORT_WRITTEN">
+        <source></source>
+        <translation>%1 則新聞已寫入 %2。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_FOUND_AWAITED">
         <source></source>
         <translation>搜尋中…</translation>

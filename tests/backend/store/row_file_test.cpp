@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/store/row_file.h"
+
+#include "backend/store/row_file_desk.h"
+#include "tests/backend/store/store_fixture.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+namespace {
+
+using End = RowFileOutcome::End;
+
+class RowFileTest : public StoreFixture {
+protected:
+    CHeadlineTable add(int minute) {
+        NewsItem item = newsItem(1, QString::number(minute), at(9, minute), u"Title %1"_s.arg(minute));
+        item.story = u"Story %1"_s.arg(minute);
+        const StoredNews stored = takeNews(item);
+        return {stored.key.time, stored.key.sequence, stored.key.service, 0, 0};
+    }
+    // The titles in a file of the form "json".
+    QStringList titlesIn(const QString& file) const {
+        QStringList titles;
+        for (const auto& row : QJsonDocument::fromJson(bytesOf(file)).array())
+            titles += row.toObject()[u"title"_s].toString();
+        return titles;
+    }
+    QStringList filesOf(const QString& pattern) const {
+        return QDir(folder.path()).entryList({pattern}, QDir::Files);
+    }
+};
+
+TEST_F(RowFileTest, RowsStandInTheGivenOrderWithoutThoseThatAreGone) {
+    const CHeadlineTable first = add(1);
+    const CHeadlineTable second = add(2);
+    const CHeadlineTable gone{first.time, first.sequence + 1000, 1, 0, 0};
+    const QString file = pathOf(u"out.json"_s);
+    std::vector<int> told;
+    const auto outcome =
+        writeRowFile(*store, std::vector{second, gone, first}, NewsRowForm::Json, file, [&](int done) {
+            told.push_back(done);
+            return true;
+        });
+    EXPECT_EQ(outcome.end, End::Written);
+    EXPECT_EQ(outcome.rows, 2);
+    EXPECT_EQ(outcome.bytes, bytesOf(file).size());
+    EXPECT_EQ(titlesIn(file), (QStringList{u"Title 2"_s, u"Title 1"_s}));
+    EXPECT_EQ(told, (std::vector{0, 1, 2}));
+}
+
+TEST_F(RowFileTest, AFileThatIsNotWholeLeavesTheOneBefore) {
+    const std::vector<CHeadlineTable> entries{add(1), add(2)};
+    const QString file = pathOf(u"out.csv"_s);
+    const auto goesOn = [](int) { return true; };
+    EXPECT_EQ(writeRowFile(*store, entries, NewsRowForm::Csv, file, goesOn).end, End::Written);
+    const QByteArray before = bytesOf(file);
+    const auto stopped =
+        writeRowFile(*store, entries, NewsRowForm::Ninjs, file, [](int done) { return done < 1; });
+    EXPECT_EQ(stopped.end, End::Stopped);
+    EXPECT_EQ(bytesOf(file), before);
+    EXPECT_EQ(filesOf(u"out.csv*"_s), QStringList{u"out.csv"_s}) << "nothing lies beside it";
+    const auto lost = writeRowFile(*store, entries, NewsRowForm::Csv, pathOf(u"no/where.csv"_s), goesOn);
+    EXPECT_EQ(lost.end, End::NotWritten);
+    EXPECT_FALSE(lost.reason.isEmpty());
+}
+
+TEST_F(RowFileTest, TheDeskWritesBesideAndTellsWhoStillWaits) {
+    const std::vector<CHeadlineTable> entries{add(1), add(2)};
+    std::vector<RowFileOutcome> ends;
+    const NewsRowFiles::Tellers tellers{[](int) {},
+                                        [&](const RowFileOutcome& outcome) { ends.push_back(outcome); }};
+    RowFileDesk desk(store->path());
+    auto dropped = desk.write(entries, NewsRowForm::Json, pathOf(u"dropped.json"_s), tellers);
+    dropped.reset();
+    const auto kept = desk.write(entries, NewsRowForm::Json, pathOf(u"kept.json"_s), tellers);
+    EXPECT_TRUE(ends.empty()) << "it tells from the event loop";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !ends.empty(); }));
+    ASSERT_EQ(ends.size(), 1U);
+    EXPECT_EQ(ends[0].end, End::Written);
+    EXPECT_EQ(titlesIn(pathOf(u"kept.json"_s)), (QStringList{u"Title 1"_s, u"Title 2"_s}));
+    RowFileDesk lost(pathOf(u"no.store"_s));
+    const auto unread = lost.write(entries, NewsRowForm::Json, pathOf(u"unread.json"_s), tellers);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ends.size() == 2; }));
+    EXPECT_EQ(ends[1].end, End::Unreadable);
+    EXPECT_EQ(filesOf(u"unread*"_s), QStringList());
+}
+
+}  // namespace
+}  // namespace wirepane
