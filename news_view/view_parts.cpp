@@ -174,14 +174,6 @@ OutputJobs::Surroundings TRVNewsCtrlView::Parts::outputSurroundings() {
             [this](const QString& sentence) { emit view.messageForUser(sentence); }};
 }
 
-RowsExport::Calls TRVNewsCtrlView::Parts::exportCalls() {
-    return {[this](const QString& sentence) { emit view.messageForUser(sentence); },
-            [this](const std::vector<CHeadlineTable>& entries, OutputTarget target) {
-                target.told = [this](const NewsOutcome& outcome) { output.tell(outcome); };
-                output.tell(output.save(entries, target));
-            }};
-}
-
 NoticeBoard::Surroundings TRVNewsCtrlView::Parts::noticeSurroundings() {
     return {view,
             controls,
@@ -306,15 +298,6 @@ void TRVNewsCtrlView::Parts::readForServices() {
 
 std::optional<CHeadlineTable> TRVNewsCtrlView::Parts::shownEntry(int row) const {
     return lists[modes.shown()].headlineTable().entryAt(row);
-}
-
-std::vector<CHeadlineTable> TRVNewsCtrlView::Parts::shownEntries() const {
-    const HeadlineTable& table = lists[modes.shown()].headlineTable();
-    std::vector<CHeadlineTable> entries;
-    entries.reserve(static_cast<std::size_t>(table.size()));
-    for (int row = 0; row < table.size(); ++row)
-        entries.push_back(table.at(row));
-    return entries;
 }
 
 int TRVNewsCtrlView::Parts::entryCount(ListIndex list) const {

@@ -89,3 +89,20 @@ void TRVNewsCtrlView::previewSelection() {
 void TRVNewsCtrlView::Linefeed(QString& story) {
     ::Linefeed(story);
 }
+
+RowsExport::Calls TRVNewsCtrlView::Parts::exportCalls() {
+    return {[this](const QString& sentence) { emit view.messageForUser(sentence); },
+            [this](const std::vector<CHeadlineTable>& entries, OutputTarget target) {
+                target.told = [this](const NewsOutcome& outcome) { output.tell(outcome); };
+                output.tell(output.save(entries, target));
+            }};
+}
+
+std::vector<CHeadlineTable> TRVNewsCtrlView::Parts::shownEntries() const {
+    const HeadlineTable& table = lists[modes.shown()].headlineTable();
+    std::vector<CHeadlineTable> entries;
+    entries.reserve(static_cast<std::size_t>(table.size()));
+    for (int row = 0; row < table.size(); ++row)
+        entries.push_back(table.at(row));
+    return entries;
+}
