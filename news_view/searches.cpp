@@ -90,6 +90,16 @@ void Searches::searchForText() {
     send();
 }
 
+void Searches::searchServices() {
+    const CSearch found = conditions.foundUnder(ListIndex::Search);
+    if (!parts.settings.options[ViewOption::SearchLine] || found.keywords.empty()) {
+        searchForText();
+        return;
+    }
+    conditions.ordinary = found;
+    send();
+}
+
 std::optional<SearchLanguage> Searches::languageOf(const QString& text) {
     if (parts.settings.options[ViewOption::SearchQueries])
         return askLanguage(&parts.window, text);

@@ -39,6 +39,9 @@ public:
     // "AND" or "OR" with a message box. Where the view's settings want queries it is one: one with a fault
     // is searched for as plain text if the user says so, or not at all.
     void searchForText();
+    // Other services are ticked. Searches for the text of the search box; where a line shows the condition
+    // that the list was found under, for that, which the box need not be able to say.
+    void searchServices();
     // The user composes the search of the search mode; unless he cancels it is sent. What he changed stays in
     // force in either case.
     void compose();

@@ -288,7 +288,7 @@ void TRVNewsCtrlView::Parts::readForServices() {
     symbolMode.readFiltered(filter);
     lists.rebuild(ListIndex::Relation, TableKind::ByDate, dateKey(host_clock::today()), filter);
     if (modes.shown() == ListIndex::Search && shownGrid() != nullptr)
-        searches.searchForText();
+        searches.searchServices();
     services.CheckRegisterService(view);
     story.show();
     view.update();

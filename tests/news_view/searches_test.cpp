@@ -38,6 +38,24 @@ protected:
 
 }  // namespace
 
+TEST_F(SearchesTest, OtherServicesAreSearchedForTheWholeConditionThatIsShown) {
+    const CSearch whole = [] {
+        CSearch search = condition(u"title:gold"_s);
+        search.keywords.push_back(u"tin ore"_s);
+        search.scope = 2;
+        search.method = 2;
+        search.symbols = {{16, u"2330"_s}};
+        return search;
+    }();
+    searches.show(whole);
+    switchOn(ViewOption::SearchLine);
+    searches.desk().ordinary = condition(u"of a dialog that was cancelled"_s);
+    asked();
+    searches.searchServices();
+    EXPECT_EQ(searches.desk().foundUnder(ListIndex::Search), whole);
+    EXPECT_EQ(sent().filter(u"tin ore"_s).size(), 2);
+}
+
 TEST_F(SearchesTest, OnlyListsWithSearchesSendAndOnlyWhatHasAKeyword) {
     const ListIndex all[] = {ListIndex::All,        ListIndex::Category, ListIndex::Symbol,
                              ListIndex::Relation,   ListIndex::Warrant,  ListIndex::Search,
