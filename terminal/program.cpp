@@ -8,6 +8,7 @@
 #include "terminal/commands/feed_command.h"
 #include "terminal/commands/import_command.h"
 #include "terminal/commands/open_command.h"
+#include "terminal/commands/rehearse_command.h"
 #include "terminal/commands/replay_command.h"
 #include "terminal/commands/sample_command.h"
 #include "terminal/commands/search_command.h"
@@ -34,9 +35,9 @@ struct Command {
 };
 
 constexpr Command commands[] = {
-    {"import", &runImport}, {"feed", &runFeed},     {"replay", &runReplay}, {"sample", &runSample},
-    {"check", &runCheck},   {"backup", &runBackup}, {"search", &runSearch}, {"export", &runExport, true},
-    {"trim", &runTrim},     {"source", &runSource},
+    {"import", &runImport}, {"feed", &runFeed},     {"replay", &runReplay},     {"sample", &runSample},
+    {"check", &runCheck},   {"backup", &runBackup}, {"search", &runSearch},     {"export", &runExport, true},
+    {"trim", &runTrim},     {"source", &runSource}, {"rehearse", &runRehearse},
 };
 
 QtMessageHandler usualMessages = nullptr;

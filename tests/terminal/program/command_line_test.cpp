@@ -331,6 +331,8 @@ TEST_F(CommandLineTest, WrongArgumentsAreSaidAndChangeNothing) {
         {{u"sample"_s, u"--now"_s, u"yesterday"_s}, u"yesterday"_s},
         {{u"check"_s, u"extra"_s}, u"extra"_s},
         {{u"backup"_s}, u"file"_s},
+        {{u"rehearse"_s, u"gold ("_s}, u"6"_s},
+        {{u"rehearse"_s, u"--days"_s, u"0"_s, u"gold"_s}, u"--days"_s},
         {{u"--automation"_s, u"--lang"_s, u"fr"_s}, u"--lang"_s},
         {{u"--automation"_s, u"imprt"_s}, u"imprt"_s},
         {{u"--automation"_s, u"--now"_s, u"2026-02-30T00:00:00"_s}, u"--now"_s},

@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/search/rehearsal.h"
+
+#include "backend/database/database.h"
+#include "backend/search/index_phrases.h"
+#include "backend/search/title_words.h"
+#include "host/contract/local_days.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <set>
+#include <utility>
+#include <variant>
+
+namespace wirepane {
+
+namespace {
+
+constexpr std::int64_t hourSeconds = 3600;
+
+// A part of the query that asks for something, ready to be tried alone.
+struct AskedPart {
+    std::shared_ptr<const TitleQuery> query;
+    Rehearsal::Word word;
+};
+
+struct AskedParts {
+    std::vector<AskedPart> parts;
+    std::vector<QByteArray> phrases;
+};
+
+class PartsOfQuery {
+public:
+    PartsOfQuery(const QString& query, QueryPlanner& itsPlanner,
+                 const TitleQuery::RelatedSymbols& relatedSymbols)
+        : text(query), planner(itsPlanner), related(relatedSymbols) {}
+
+    AskedParts take(const QueryNode& node) {
+        collect(node);
+        return std::move(asked);
+    }
+
+private:
+    void collect(const QueryNode& node) {
+        if (node.kind == QueryNode::Kind::Not)
+            return;
+        if (node.kind == QueryNode::Kind::Text)
+            asked.phrases.push_back(phraseBetweenBlanks(node.text));
+        const QString written = text.mid(node.position, node.length);
+        if (node.parts.empty() && seen.insert(written).second) {
+            if (auto query = TitleQuery::make(written, planner, related))
+                asked.parts.push_back({std::move(query), {written, 0}});
+        }
+        for (const QueryNode& inner : node.parts)
+            collect(inner);
+    }
+
+    const QString& text;
+    QueryPlanner& planner;
+    const TitleQuery::RelatedSymbols& related;
+    std::set<QString> seen;
+    AskedParts asked;
+};
+
+class Trial {
+public:
+    Trial(std::shared_ptr<const TitleQuery> wantedQuery, AskedParts askedParts, const RehearsedTime& time)
+        : query(std::move(wantedQuery)),
+          parts(std::move(askedParts.parts)),
+          words(std::move(askedParts.phrases)) {
+        for (int before = time.days - 1; before >= 0; --before)
+            result.days.push_back({time.last.addDays(-before), 0});
+        firstDay = result.days.empty() ? 0 : result.days.front().day.toJulianDay();
+    }
+
+    void take(const CHeadline& headline) {
+        ++result.tried;
+        const bool isHit = query->wants(headline, headline.categoryId);
+        words.add(headline.title, isHit);
+        if (!isHit)
+            return;
+        result.hits.push_back(keyOf(headline));
+        const auto day = static_cast<std::size_t>(localDays.of(headline.time) - firstDay);
+        if (day < result.days.size())
+            ++result.days[day].hits;
+        ++hours[headline.time - headline.time % hourSeconds];
+        for (AskedPart& part : parts)
+            part.word.hits += part.query->wants(headline, headline.categoryId) ? 1 : 0;
+    }
+
+    Rehearsal finish() {
+        std::stable_sort(result.hits.begin(), result.hits.end(),
+                         [](const HeadlineKey& a, const HeadlineKey& b) {
+                             return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
+                         });
+        for (auto hour = hours.rbegin(); hour != hours.rend(); ++hour)
+            result.hours.push_back({hour->first, hour->second});
+        std::stable_sort(result.hours.begin(), result.hours.end(),
+                         [](const auto& a, const auto& b) { return a.hits > b.hits; });
+        for (const AskedPart& part : parts)
+            result.bringing.push_back(part.word);
+        std::stable_sort(result.bringing.begin(), result.bringing.end(),
+                         [](const auto& a, const auto& b) { return a.hits > b.hits; });
+        result.bringing.resize(std::min(result.bringing.size(), Rehearsal::mostWords));
+        result.exclusions = words.mostOfHits();
+        return std::move(result);
+    }
+
+private:
+    const std::shared_ptr<const TitleQuery> query;
+    std::vector<AskedPart> parts;
+    TitleWords words;
+    LocalDays localDays;
+    std::int64_t firstDay = 0;
+    std::map<std::int64_t, int> hours;
+    Rehearsal result;
+};
+
+// False when the store cannot be read.
+bool tryService(Trial& trial, Statement& headlines, unsigned char service, const RehearsedTime& time) {
+    const std::int64_t begin = time.last.addDays(1 - time.days).startOfDay().toSecsSinceEpoch();
+    const std::int64_t end = time.last.addDays(1).startOfDay().toSecsSinceEpoch();
+    Query query(headlines, service, begin, std::min(end, time.latest + 1));
+    CHeadline headline;
+    headline.service = service;
+    while (query.next()) {
+        headline.time = query.number(0);
+        headline.sequence = query.smallNumber(1);
+        headline.title = query.text(2);
+        headline.categoryId = query.smallNumber(3);
+        trial.take(headline);
+    }
+    return !query.failed();
+}
+
+}  // namespace
+
+int Rehearsal::hoursOver(int budget) const {
+    return static_cast<int>(
+        std::count_if(hours.begin(), hours.end(), [&](const Hour& hour) { return hour.hits > budget; }));
+}
+
+std::optional<Rehearsal> rehearse(Database& store, const QString& query, const RehearsedTime& time,
+                                  const TitleQuery::RelatedSymbols& related) {
+    const ReadQuery read = readQuery(query, QueryUse::Headlines);
+    const auto* node = std::get_if<QueryNode>(&read);
+    if (node == nullptr)
+        return std::nullopt;
+    QueryPlanner planner(store);
+    auto whole = TitleQuery::make(query, planner, related);
+    if (!whole)
+        return std::nullopt;
+    Trial trial(std::move(whole), PartsOfQuery(query, planner, related).take(*node), time);
+    Statement headlines(
+        store,
+        "SELECT time, sequence, title, category FROM headlines WHERE service = ? AND time >= ? "
+        "AND time < ? ORDER BY time, sequence");
+    for (const unsigned char service : time.services) {
+        if (!tryService(trial, headlines, service, time))
+            return std::nullopt;
+    }
+    return trial.finish();
+}
+
+}  // namespace wirepane
