@@ -23,7 +23,7 @@ SERVICES, PICKER, KEYWORD, ADD = 3010, 9000, 2061, 2063
 CHOSEN = {
     "all-news": ("en", "light", USUAL), "quick-search": ("en", "light", USUAL), "story-below": ("zh-TW", "light", USUAL),
     "by-symbol": ("zh-TW", "dark", USUAL), "all-news-dark": ("en", "dark", USUAL), "services": ("zh-CN", "light", SMALL),
-    "search-dialog": ("zh-TW", "light", SMALL), "search-empty": ("en", "dark", SMALL), "calendar": ("zh-CN", "dark", SMALL),
+    "search-dialog": ("zh-TW", "light", USUAL), "search-empty": ("en", "dark", SMALL), "calendar": ("zh-CN", "dark", SMALL),
     "settings": ("zh-CN", "light", SMALL), "import-report": ("zh-TW", "light", SMALL), "side-by-side": ("en", "light", LARGE),
 }
 OLD_NEWS = '{"uri": "u:%d", "type": "text", "versioncreated": "1987-03-03T01:00:00Z", "headline": "Grain ships delayed"}\n'
