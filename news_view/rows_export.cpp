@@ -42,7 +42,7 @@ RowsExport::~RowsExport() {
 }
 
 bool RowsExport::isPossible() const {
-    return dynamic_cast<NewsRowFiles*>(&backEnd) != nullptr;
+    return !writing && dynamic_cast<NewsRowFiles*>(&backEnd) != nullptr;
 }
 
 void RowsExport::ask(std::vector<CHeadlineTable> entries) {

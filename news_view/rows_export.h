@@ -31,6 +31,7 @@ public:
     RowsExport(const RowsExport&) = delete;
     RowsExport& operator=(const RowsExport&) = delete;
 
+    // Not while a file is being written.
     bool isPossible() const;
     // Asks the user for the file; the view may go meanwhile. Nothing happens without entries.
     void ask(std::vector<CHeadlineTable> entries);

@@ -74,7 +74,8 @@ void SavedSearchMenu::fill(QMenu& menu) {
         menu.addAction(captionOfName(search.name), &parts.window,
                        [this, condition = search.condition] { calls.show(condition); })
             ->setData(search.name);
-    menu.addSeparator();
+    if (!searches.empty())
+        menu.addSeparator();
     const CSearch present = presentSearch();
     menu.addAction(text(keys::saveSearch), &parts.window, [this, present] { askForName(present); })
         ->setEnabled(!present.keywords.empty());

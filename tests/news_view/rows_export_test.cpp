@@ -66,6 +66,7 @@ TEST(RowsExport, WritesByTheEndingOfTheNameAndTellsWhatCameOfIt) {
     backEnd.tellers.end({RowFileOutcome::End::NotWritten, 0, 0, u"full"_s});
     rows.write(entries, u"b.csv"_s);
     EXPECT_TRUE(backEnd.isKept());
+    EXPECT_FALSE(rows.isPossible()) << "one at a time";
     emit window.findChild<QProgressDialog*>()->canceled();
     EXPECT_FALSE(backEnd.isKept());
     EXPECT_EQ(told, (QStringList{u"1,199 in a.ndjson"_s, u"b.json not: full"_s, u"stopped"_s}));
