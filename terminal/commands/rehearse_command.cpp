@@ -58,9 +58,10 @@ QString hourOf(std::int64_t moment) {
 }
 
 void printFigures(const Rehearsal& rehearsal) {
-    printLine(u"%1 of %2 headlines in %3 days"_s.arg(rehearsal.hits.size())
+    const std::size_t days = rehearsal.days.size();
+    printLine(u"%1 of %2 headlines in %3"_s.arg(rehearsal.hits.size())
                   .arg(rehearsal.tried)
-                  .arg(rehearsal.days.size()));
+                  .arg(days == 1 ? u"1 day"_s : u"%1 days"_s.arg(days)));
     for (const Rehearsal::Day& day : rehearsal.days)
         printLine(u"%1  %2"_s.arg(day.day.toString(Qt::ISODate)).arg(day.hits));
     if (!rehearsal.hours.empty())
