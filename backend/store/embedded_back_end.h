@@ -196,6 +196,11 @@ public:
     // are told that these symbols have changed.
     void setPrefersEnglishNames(bool on);
     void setSysPath(const QString& path) { sysPath = path; }  // at first: the contract's default
+    // What searches find that no view has sent, each in an order of its own: told once, from the event loop,
+    // as long as what is returned is kept.
+    using Tables = std::vector<std::vector<CHeadlineTable>>;
+    [[nodiscard]] std::shared_ptr<const void> findNews(std::vector<CountedSearch> wanted,
+                                                       std::function<void(Tables&&)> told);
     // How many headlines (at most) searches do not find yet, since an import has brought more than the index
     // holds; as of the last checkForNews(). All searches are answered again when it becomes 0.
     std::int64_t searchBacklog() const { return unindexed; }

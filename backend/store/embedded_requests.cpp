@@ -126,16 +126,23 @@ std::shared_ptr<const HitFinder> EmbeddedBackEnd::prepareHits(const CSearch& con
     return HitWords::make(condition, planner);
 }
 
-std::shared_ptr<const void> EmbeddedBackEnd::countFound(std::vector<CountedSearch> wanted, Told told) {
+std::shared_ptr<const void> EmbeddedBackEnd::findNews(std::vector<CountedSearch> wanted,
+                                                      std::function<void(Tables&&)> told) {
     std::vector<SideJob::Search> jobs;
     for (CountedSearch& search : wanted)
         jobs.push_back({std::move(search.condition), std::move(search.services)});
-    return searches.askBeside(std::move(jobs), [this, told = std::move(told)](auto&& found) {
-        std::vector<int> counts;
-        for (std::vector<CHeadlineTable>& entries : found) {
+    return searches.askBeside(std::move(jobs), [this, told = std::move(told)](Tables&& found) {
+        for (std::vector<CHeadlineTable>& entries : found)
             laterNews.takeOut(entries, 0);
+        told(std::move(found));
+    });
+}
+
+std::shared_ptr<const void> EmbeddedBackEnd::countFound(std::vector<CountedSearch> wanted, Told told) {
+    return findNews(std::move(wanted), [told = std::move(told)](Tables&& found) {
+        std::vector<int> counts;
+        for (const std::vector<CHeadlineTable>& entries : found)
             counts.push_back(static_cast<int>(entries.size()));
-        }
         told(counts);
     });
 }

@@ -18,6 +18,7 @@ Automation::Automation(Session& session)
       output(session),
       feed(session),
       sources(session),
+      searches(session),
       host(session),
       input(session),
       links(session),
@@ -32,6 +33,7 @@ Automation::Automation(Session& session)
     output.addTo(table);
     feed.addTo(table);
     sources.addTo(table);
+    searches.addTo(table);
     host.addTo(table);
     input.addTo(table);
     links.addTo(table);

@@ -14,6 +14,7 @@
 #include "terminal/automation/menu_methods.h"
 #include "terminal/automation/output_methods.h"
 #include "terminal/automation/request_queue.h"
+#include "terminal/automation/search_methods.h"
 #include "terminal/automation/source_methods.h"
 #include "terminal/automation/story_methods.h"
 #include "terminal/automation/view_methods.h"
@@ -48,6 +49,7 @@ private:
     OutputMethods output;
     FeedMethods feed;
     SourceMethods sources;
+    SearchMethods searches;
     HostMethods host;
     InputMethods input;
     LinkMethods links;

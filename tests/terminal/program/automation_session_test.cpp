@@ -6,6 +6,7 @@
 
 #include <QDateTime>
 #include <QImage>
+#include <QJsonDocument>
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -61,6 +62,48 @@ TEST_F(AutomationSessionTest, AGridShowsWhatTheFeedBrought) {
     EXPECT_EQ(key[u"service"_s].toInt(), 1);
     EXPECT_EQ(key[u"seq"_s].toInt(), 1);
     EXPECT_EQ(key[u"time"_s].toInteger(), localSeconds(u"2026-03-02T09:01:00"_s));
+}
+
+TEST_F(AutomationSessionTest, ASearchBesideTheViewsTellsWhatItFinds) {
+    ScriptClient script(arguments());
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:01:00"_s, 1, u"Copper rises"_s));
+    script.result(u"feed.push"_s, news(16, u"2026-03-02T09:15:00"_s, 1, u"台積電 copper"_s));
+    script.result(u"feed.push"_s, news(1, u"2026-03-02T09:20:00"_s, 2, u"Tin and copper fall"_s));
+    struct Case {
+        QJsonObject params;
+        QString found;  // the sequence numbers, then the count of each service
+    };
+    const Case cases[] = {
+        {{{u"text"_s, u"copper"_s}}, u"2 1 1 | 1:2 16:1"_s},
+        {{{u"text"_s, u"copper -tin"_s}}, u"1 1 | 1:1 16:1"_s},
+        {{{u"text"_s, u"copper -tin"_s}, {u"language"_s, u"plain"_s}}, u"|"_s},
+        {{{u"text"_s, u"text"_s}, {u"scope"_s, u"headlines"_s}}, u"|"_s},
+        {{{u"text"_s, u"text"_s}, {u"scope"_s, u"stories"_s}, {u"limit"_s, 1}}, u"2 | 1:2 16:1"_s},
+        {{{u"text"_s, u"copper"_s}, {u"services"_s, QJsonArray{16}}}, u"1 | 16:1"_s},
+        {{{u"text"_s, u"copper"_s}, {u"services"_s, QJsonArray()}}, u"|"_s},
+    };
+    for (const Case& c : cases) {
+        const QJsonObject answer = script.result(u"search.find"_s, c.params).toObject();
+        QString told;
+        for (const auto& headline : answer[u"headlines"_s].toArray())
+            told += QString::number(headline.toObject()[u"seq"_s].toInt()) + u' ';
+        told += u'|';
+        const QJsonObject counts = answer[u"services"_s].toObject();
+        for (auto count = counts.begin(); count != counts.end(); ++count)
+            told += u" %1:%2"_s.arg(count.key()).arg(count.value().toInt());
+        EXPECT_EQ(told, c.found) << QJsonDocument(c.params).toJson().toStdString();
+    }
+    const QJsonObject fault =
+        script.result(u"search.find"_s, QJsonObject{{u"text"_s, u"copper (tin"_s}})[u"fault"_s].toObject();
+    EXPECT_EQ(fault[u"place"_s].toInt(-1), 7);
+    EXPECT_EQ(fault[u"found"_s].toString(), u"("_s);
+    EXPECT_TRUE(fault[u"text"_s].toString().contains(u"character 8"_s));
+    for (const QJsonObject& wrong :
+         {QJsonObject(), QJsonObject{{u"text"_s, u"a"_s}, {u"scope"_s, u"titles"_s}},
+          QJsonObject{{u"text"_s, u"a"_s}, {u"language"_s, 1}},
+          QJsonObject{{u"text"_s, u"a"_s}, {u"services"_s, QJsonArray{0}}},
+          QJsonObject{{u"text"_s, u"a"_s}, {u"limit"_s, -1}}})
+        EXPECT_EQ(script.errorCode(u"search.find"_s, wrong), -32602);
 }
 
 TEST_F(AutomationSessionTest, AViewTellsItsStateAndGivesItsSettingsBack) {
