@@ -94,6 +94,10 @@ inline constexpr QLatin1StringView correctedNumbers{"IDS_NEWSCTRLVIEW_CORRECTED_
 inline constexpr QLatin1StringView turnChanges{"IDS_NEWSCTRLVIEW_TURN_CHANGES"};
 inline constexpr QLatin1StringView showChanges{"IDS_NEWSCTRLVIEW_SHOW_CHANGES"};
 inline constexpr QLatin1StringView hideChanges{"IDS_NEWSCTRLVIEW_HIDE_CHANGES"};
+// Who has brought a piece of news, where several have. "%1": their names, with what stands between two of
+// them.
+inline constexpr QLatin1StringView severalSources{"IDS_NEWSCTRLVIEW_SEVERAL_SOURCES"};
+inline constexpr QLatin1StringView betweenSources{"IDS_NEWSCTRLVIEW_BETWEEN_SOURCES"};
 inline constexpr QLatin1StringView withdrawnMark{"IDS_NEWSCTRLVIEW_WITHDRAWN"};
 inline constexpr QLatin1StringView markRead{"IDS_NEWSCTRLVIEW_MARK_READ"};
 inline constexpr QLatin1StringView markUnread{"IDS_NEWSCTRLVIEW_MARK_UNREAD"};

@@ -6,6 +6,7 @@
 #include "headline_list/language_keys.h"
 #include "headline_list/row_tip.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/news_origins.h"
 #include "host/contract/news_record.h"
 #include "story/story_text.h"
 
@@ -45,7 +46,9 @@ void append(ComparedStory& whole, const QString& before, const QString& after) {
 }  // namespace
 
 StoryHistory::StoryHistory(BKQuoteInterface& newsSource)
-    : backEnd(newsSource), record(dynamic_cast<NewsRecord*>(&newsSource)) {}
+    : backEnd(newsSource),
+      record(dynamic_cast<NewsRecord*>(&newsSource)),
+      origins(dynamic_cast<NewsOrigins*>(&newsSource)) {}
 
 QString StoryHistory::remark(const CHeadline& headline) const {
     const NewsState state = record != nullptr ? record->newsState(keyOf(headline)) : NewsState();
@@ -57,6 +60,10 @@ QString StoryHistory::remark(const CHeadline& headline) const {
     }
     if (state.withdrawal)
         sentences += withdrawalText(backEnd, *state.withdrawal);
+    const QStringList sources = origins != nullptr ? origins->originsOf(keyOf(headline)) : QStringList();
+    if (sources.size() > 1)
+        sentences += langText(backEnd, keys::severalSources)
+                         .arg(sources.join(langText(backEnd, keys::betweenSources)));
     return sentences.join(u" \u00B7 "_s);
 }
 

@@ -13,6 +13,7 @@
 class BKQuoteInterface;
 
 namespace wirepane {
+class NewsOrigins;
 class NewsRecord;
 
 // A stretch of a text, in characters as texts are shown: a break of lines is one.
@@ -36,10 +37,11 @@ struct ComparedStory {
 // are in the form that is shown; what is compared is the version before the present one. Interface thread.
 class StoryHistory {
 public:
-    // `backEnd` outlives it. One that is no NewsRecord has nothing to tell.
+    // `backEnd` outlives it. One that is neither NewsRecord nor NewsOrigins has nothing to tell.
     explicit StoryHistory(BKQuoteInterface& backEnd);
 
-    // A sentence or two; empty: it is as first sent. Of a correction the numbers that have changed are told.
+    // A sentence or more; empty: it is as first sent, by one source. Of a correction the numbers that have
+    // changed are told.
     QString remark(const CHeadline& headline) const;
     // Whether there is a version before this one.
     bool hasEarlier(const HeadlineKey& key) const;
@@ -56,6 +58,7 @@ private:
 
     BKQuoteInterface& backEnd;
     NewsRecord* record;
+    NewsOrigins* origins;
 };
 
 }  // namespace wirepane

@@ -28,6 +28,7 @@
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/local_days.h"
 #include "host/contract/news_day_finder.h"
+#include "host/contract/news_origins.h"
 #include "host/contract/news_positions.h"
 #include "host/contract/news_record.h"
 #include "host/contract/news_row_files.h"
@@ -90,6 +91,7 @@ class EmbeddedBackEnd : public BKQuoteInterface,
                         public ReadingMoment,
                         public NewsDayFinder,
                         public NewsRecord,
+                        public NewsOrigins,
                         public ReadingMarks,
                         public HeadlineQueries,
                         public SearchHits,
@@ -171,6 +173,7 @@ public:
     bool hasNewsOn(unsigned char service, const QDate& day) override;
     NewsState newsState(const HeadlineKey& key) override { return headlineCache.state(key); }
     std::vector<NewsVersion> versionsOf(const HeadlineKey& key) override { return reader.versions(key); }
+    QStringList originsOf(const HeadlineKey& key) override { return reader.origins(key); }
     bool canMark() const override { return marks.canMark(); }
     ReadingMark markOf(const HeadlineKey& key) override { return marks.markOf(key); }
     void changeMarks(const std::vector<HeadlineKey>& keys, const MarkChange& change) override {

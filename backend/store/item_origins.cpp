@@ -11,8 +11,7 @@ ItemOrigins::ItemOrigins(Database& database)
       write(
           database,
           "INSERT OR IGNORE INTO item_origins(service, identity, source, link, taken) VALUES(?, ?, ?, ?, ?)"),
-      erase(database, "DELETE FROM item_origins WHERE taken < ?"),
-      readSources(database, "SELECT source FROM item_origins WHERE service = ? AND identity = ?") {}
+      erase(database, "DELETE FROM item_origins WHERE taken < ?") {}
 
 ItemOrigins::Known ItemOrigins::find(const NewsItem& item, const QString& source, bool& failed) {
     if (item.link.isEmpty())
@@ -29,13 +28,6 @@ bool ItemOrigins::note(const NewsItem& item, const QString& source, std::int64_t
 
 bool ItemOrigins::forget(std::int64_t before) {
     return Query(erase, before).run();
-}
-
-QStringList ItemOrigins::sourcesOf(unsigned char service, const QString& identity) {
-    QStringList sources;
-    for (Query query(readSources, service, identity); query.next();)
-        sources += query.text(0);
-    return sources;
 }
 
 }  // namespace wirepane

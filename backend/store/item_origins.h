@@ -5,7 +5,7 @@
 #include "backend/database/statement.h"
 #include "backend/news_item.h"
 
-#include <QStringList>
+#include <QString>
 
 namespace wirepane {
 
@@ -25,14 +25,11 @@ public:
     bool note(const NewsItem& item, const QString& source, std::int64_t now);
     // Forgets what was noted before. False on failure.
     bool forget(std::int64_t before);
-    // The sources that have brought it, in no order.
-    QStringList sourcesOf(unsigned char service, const QString& identity);
 
 private:
     Statement byLink;
     Statement write;
     Statement erase;
-    Statement readSources;
 };
 
 }  // namespace wirepane

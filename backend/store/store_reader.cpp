@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace wirepane {
 
 namespace {
@@ -70,7 +72,12 @@ StoreReader::StoreReader(Database& database)
       allVersions(database,
                   "SELECT versions.time, versions.received, versions.title, unpacked(text, headline) "
                   "FROM headlines JOIN versions ON headline = id "
-                  "WHERE service = ? AND headlines.time = ? AND sequence = ? ORDER BY number") {}
+                  "WHERE service = ? AND headlines.time = ? AND sequence = ? ORDER BY number"),
+      allOrigins(database,
+                 "SELECT coalesce(nullif(definition ->> '$.title', ''), name) FROM headlines "
+                 "JOIN item_origins ON item_origins.service = headlines.service AND "
+                 "item_origins.identity = headlines.identity JOIN sources ON name = source "
+                 "WHERE headlines.service = ? AND time = ? AND sequence = ? ORDER BY taken, position") {}
 
 std::vector<unsigned char> StoreReader::serviceIds() {
     std::vector<unsigned char> ids;
@@ -185,6 +192,16 @@ std::vector<NewsVersion> StoreReader::versions(const HeadlineKey& key) {
         versions.push_back({query.number(0), query.number(1), query.text(2),
                             query.isNull(3) ? std::nullopt : std::optional(query.text(3))});
     return versions;
+}
+
+QStringList StoreReader::origins(const HeadlineKey& key) {
+    constexpr auto ofTheList = "net:"_L1;  // a name that was made of the host
+    QStringList titles;
+    for (Query query(allOrigins, key.service, key.time, key.sequence); query.next();) {
+        const QString title = query.text(0);
+        titles += title.startsWith(ofTheList) ? title.sliced(ofTheList.size()) : title;
+    }
+    return titles;
 }
 
 }  // namespace wirepane

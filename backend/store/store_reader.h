@@ -9,6 +9,7 @@
 #include "host/contract/records.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -65,6 +66,8 @@ public:
     NewsState state(const HeadlineKey& key);
     // Before the present one, oldest first.
     std::vector<NewsVersion> versions(const HeadlineKey& key);
+    // What the sources of the list are called that have brought it, in the order of coming.
+    QStringList origins(const HeadlineKey& key);
     // Nothing for an unknown headline; the main symbol first.
     std::optional<std::vector<CSymbolInfo>> relatedSymbols(const HeadlineKey& key);
 
@@ -83,6 +86,7 @@ private:
     Statement allRelated;
     Statement oneState;
     Statement allVersions;
+    Statement allOrigins;
 };
 
 }  // namespace wirepane

@@ -63,7 +63,7 @@ void Secrets::forget(const QString& name, const std::function<void(const Done&)>
     QFile file(info.filePath());
     const bool isOurs = info.absolutePath() == QDir(folder).absolutePath();
     const bool stays = isOurs && info.exists() && !file.remove();
-    finished(stays ? Done(makeError<source_errors::secretFileNotWritten>(
+    finished(stays ? Done(makeError<source_errors::secretFileNotRemoved>(
                          QDir::toNativeSeparators(info.filePath()), file.errorString()))
                    : Done(Nothing{}));
 }

@@ -6,6 +6,7 @@
 #include "backend/store/store_file.h"
 #include "terminal/sources/secrets.h"
 #include "terminal/sources/source_errors.h"
+#include "terminal/sources/source_texts.h"
 
 #include <QUuid>
 
@@ -71,9 +72,9 @@ void SourceDesk::change(NetworkSource source, const SourceSecret& secret, const 
         if (!kept.value().isEmpty())
             source.secret = kept.value();
         ask([source](SourceList& sources) { return sources.change(source); },
-            [this, former, now = source.secret, finished](const Done& done) {
+            [this, former, title = titleOf(source), now = source.secret, finished](const Done& done) {
                 if (done && former != now)
-                    forgetSecret(former, finished);
+                    forgetSecret(former, title, finished);
                 else
                     finished(done);
             });
@@ -85,30 +86,30 @@ void SourceDesk::pause(const QString& name, bool isPaused, const Finished& finis
 }
 
 void SourceDesk::remove(const QString& name, const Finished& finished) {
-    const auto secret = std::make_shared<QString>();
+    const auto removed = std::make_shared<NetworkSource>();
     ask(
-        [name, secret](SourceList& sources) -> Done {
+        [name, removed](SourceList& sources) -> Done {
             const auto source = sources.source(name);
             if (!source)
                 return source.error();
-            *secret = source.value().secret;
+            *removed = source.value();
             return sources.remove(name);
         },
-        [this, secret, finished](const Done& done) {
+        [this, removed, finished](const Done& done) {
             if (done)
-                forgetSecret(*secret, finished);
+                forgetSecret(removed->secret, titleOf(*removed), finished);
             else
                 finished(done);
         });
 }
 
 // Who ends with the answer must not leave it behind.
-void SourceDesk::forgetSecret(const QString& secret, const Finished& finished) {
+void SourceDesk::forgetSecret(const QString& secret, const QString& title, const Finished& finished) {
     if (secret.isEmpty())
         finished(Nothing{});
     else
-        secrets.forget(secret, [finished](const Done& done) {
-            finished(done ? done : Done(makeError<source_errors::secretStays>(done.error())));
+        secrets.forget(secret, [title, finished](const Done& done) {
+            finished(done ? done : Done(makeError<source_errors::secretStays>(title, done.error())));
         });
 }
 

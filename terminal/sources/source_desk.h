@@ -65,7 +65,7 @@ private:
     using Change = std::function<Done(SourceList&)>;
 
     void ask(Change change, const Finished& finished);
-    void forgetSecret(const QString& secret, const Finished& finished);
+    void forgetSecret(const QString& secret, const QString& title, const Finished& finished);
     void keepSecret(const SourceSecret& secret, const std::function<void(const Result<QString>&)>& kept);
     void readAgain();
     void show(const Result<std::vector<ListedSource>>& read);

@@ -22,7 +22,7 @@ inline constexpr ErrorCode keychainFailed{"ERROR_SOURCES_KEYCHAIN_FAILED", u"The
 inline constexpr ErrorCode keychainSilent{"ERROR_SOURCES_KEYCHAIN_SILENT", u"The keychain does not answer."};
 inline constexpr ErrorCode secretStays{
     "ERROR_SOURCES_SECRET_STAYS",
-    u"The list is as you wish, but the source's former secret could not be removed: %1"};
+    u"The list is as you wish, but the former secret of %1 could not be removed: %2"};
 inline constexpr ErrorCode secretFileMissing{"ERROR_SOURCES_SECRET_FILE_MISSING",
                                              u"There is no file %1 with the secret."};
 inline constexpr ErrorCode secretFileNotRead{"ERROR_SOURCES_SECRET_FILE_NOT_READ",
@@ -32,5 +32,7 @@ inline constexpr ErrorCode secretFileOpen{"ERROR_SOURCES_SECRET_FILE_OPEN",
                                           u"when it is the user's alone (mode 0600)."};
 inline constexpr ErrorCode secretFileNotWritten{"ERROR_SOURCES_SECRET_FILE_NOT_WRITTEN",
                                                 u"The file %1 for the secret cannot be written: %2."};
+inline constexpr ErrorCode secretFileNotRemoved{"ERROR_SOURCES_SECRET_FILE_NOT_REMOVED",
+                                                u"The file %1 with the secret cannot be removed: %2."};
 
 }  // namespace wirepane::source_errors

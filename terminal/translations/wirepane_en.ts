@@ -1039,6 +1039,10 @@
         <source></source>
         <translation>The file %1 with the secret cannot be read: %2.</translation>
     </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_NOT_REMOVED">
+        <source></source>
+        <translation>The file %1 with the secret cannot be removed: %2.</translation>
+    </message>
     <message id="ERROR_SOURCES_SECRET_FILE_NOT_WRITTEN">
         <source></source>
         <translation>The file %1 for the secret cannot be written: %2.</translation>
@@ -1053,7 +1057,7 @@
     </message>
     <message id="ERROR_SOURCES_SECRET_STAYS">
         <source></source>
-        <translation>The list is as you wish, but the source's former secret could not be removed: %1</translation>
+        <translation>The list is as you wish, but the former secret of %1 could not be removed: %2</translation>
     </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
@@ -1487,6 +1491,10 @@
         <source></source>
         <translation>Symbol News</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_BETWEEN_SOURCES">
+        <source></source>
+        <translation>, </translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_BUTTON_DEALS_SEARCH">
         <source></source>
         <translation>Advanced</translation>
@@ -1830,6 +1838,10 @@
     <message id="IDS_NEWSCTRLVIEW_SAVED_WRONG_QUERY">
         <source></source>
         <translation>Line %1: %2 Nothing was imported.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SEVERAL_SOURCES">
+        <source></source>
+        <translation>Brought by %1</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_SHOW_CHANGES">
         <source></source>

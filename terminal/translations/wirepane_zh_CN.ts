@@ -1039,6 +1039,10 @@
         <source></source>
         <translation>无法读取存放密钥的文件 %1：%2。</translation>
     </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_NOT_REMOVED">
+        <source></source>
+        <translation>无法移除存放密钥的文件 %1：%2。</translation>
+    </message>
     <message id="ERROR_SOURCES_SECRET_FILE_NOT_WRITTEN">
         <source></source>
         <translation>无法写入存放密钥的文件 %1：%2。</translation>
@@ -1053,7 +1057,7 @@
     </message>
     <message id="ERROR_SOURCES_SECRET_STAYS">
         <source></source>
-        <translation>列表已按您的要求更新，但无法移除该来源原有的机密数据：%1</translation>
+        <translation>列表已按您的要求更新，但无法移除%1原有的密钥：%2</translation>
     </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
@@ -1487,6 +1491,10 @@
         <source></source>
         <translation>个股新闻</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_BETWEEN_SOURCES">
+        <source></source>
+        <translation>、</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_BUTTON_DEALS_SEARCH">
         <source></source>
         <translation>高级搜索</translation>
@@ -1830,6 +1838,10 @@
     <message id="IDS_NEWSCTRLVIEW_SAVED_WRONG_QUERY">
         <source></source>
         <translation>第 %1 行：%2未导入任何搜索。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SEVERAL_SOURCES">
+        <source></source>
+        <translation>由以下来源提供：%1</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_SHOW_CHANGES">
         <source></source>

@@ -1039,6 +1039,10 @@
         <source></source>
         <translation>無法讀取存放密鑰的檔案 %1：%2。</translation>
     </message>
+    <message id="ERROR_SOURCES_SECRET_FILE_NOT_REMOVED">
+        <source></source>
+        <translation>無法移除存放密鑰的檔案 %1：%2。</translation>
+    </message>
     <message id="ERROR_SOURCES_SECRET_FILE_NOT_WRITTEN">
         <source></source>
         <translation>無法寫入存放密鑰的檔案 %1：%2。</translation>
@@ -1053,7 +1057,7 @@
     </message>
     <message id="ERROR_SOURCES_SECRET_STAYS">
         <source></source>
-        <translation>清單已依您的要求更新，但無法移除該來源原有的機密資料：%1</translation>
+        <translation>清單已依您的要求更新，但無法移除%1原有的密鑰：%2</translation>
     </message>
     <message id="ERROR_STORE_BEYOND_RETENTION">
         <source></source>
@@ -1487,6 +1491,10 @@
         <source></source>
         <translation>個股新聞</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_BETWEEN_SOURCES">
+        <source></source>
+        <translation>、</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_BUTTON_DEALS_SEARCH">
         <source></source>
         <translation>進階搜尋</translation>
@@ -1830,6 +1838,10 @@
     <message id="IDS_NEWSCTRLVIEW_SAVED_WRONG_QUERY">
         <source></source>
         <translation>第 %1 行：%2未匯入任何搜尋。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SEVERAL_SOURCES">
+        <source></source>
+        <translation>由以下來源提供：%1</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_SHOW_CHANGES">
         <source></source>

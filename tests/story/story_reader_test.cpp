@@ -72,6 +72,8 @@ TEST_F(StoryReaderTest, TellsWhatBecameOfTheNewsAndShowsWhatHasChanged) {
     backEnd.texts.insert({{u"IDS_NEWSCTRLVIEW_CORRECTED"_s, u"Corrected"_s},
                           {u"IDS_NEWSCTRLVIEW_CORRECTED_NUMBERS"_s, u"Corrected: %1"_s},
                           {u"IDS_NEWSCTRLVIEW_TIP_WITHDRAWN_WHY"_s, u"Withdrawn %1: %2"_s},
+                          {u"IDS_NEWSCTRLVIEW_SEVERAL_SOURCES"_s, u"Brought by %1"_s},
+                          {u"IDS_NEWSCTRLVIEW_BETWEEN_SOURCES"_s, u", "_s},
                           {u"IDS_NEWSCTRLVIEW_SHOW_CHANGES"_s, u"Show"_s},
                           {u"IDS_NEWSCTRLVIEW_HIDE_CHANGES"_s, u"Hide"_s}});
     giveHeadline(first, u"Profit 3.55 billion"_s);
@@ -110,6 +112,12 @@ TEST_F(StoryReaderTest, TellsWhatBecameOfTheNewsAndShowsWhatHasChanged) {
 
     backEnd.versions[7] = {{first.time, first.time, u"Profit 3.55 billion"_s, std::nullopt}};
     EXPECT_TRUE(show(0).head->remark.startsWith(u"Corrected · "));
+
+    backEnd.states.clear();
+    backEnd.origins[7] = {u"Exchange"_s};
+    EXPECT_EQ(show(0).head->remark, QString()) << "one source is no news";
+    backEnd.origins[7] += u"100% paper"_s;
+    EXPECT_EQ(show(0).head->remark, u"Brought by Exchange, 100% paper"_s);
 }
 
 TEST_F(StoryReaderTest, AsksTheActiveServicesUntilOneHasTheHeadline) {

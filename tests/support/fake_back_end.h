@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/news_origins.h"
 #include "host/contract/news_record.h"
 #include "host/contract/query/search_counts.h"
 #include "host/contract/query/search_hits.h"
@@ -23,6 +24,7 @@ namespace wirepane {
 class FakeBackEnd : public BKQuoteInterface,
                     public SearchControl,
                     public NewsRecord,
+                    public NewsOrigins,
                     public SearchHits,
                     public SearchCounts {
 public:
@@ -128,7 +130,10 @@ public:
         return versions.value(key.sequence);
     }
 
-    QHash<int, NewsState> states;  // by number
+    QStringList originsOf(const HeadlineKey& key) override { return origins.value(key.sequence); }
+
+    QHash<int, QStringList> origins;  // by number
+    QHash<int, NewsState> states;     // by number
     QHash<int, std::vector<NewsVersion>> versions;
     QHash<QString, QString> texts;  // language texts; a key without one is its own text
 

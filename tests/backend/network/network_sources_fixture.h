@@ -56,6 +56,16 @@ protected:
     bool hasAsked(const FaultServer& of, std::size_t times) {
         return QTest::qWaitFor([&] { return of.seen.size() >= times && feed->isIdle(); }, 5000);
     }
+    // Of all news, newest first: who brought it.
+    QList<QStringList> origins() {
+        QList<QStringList> origins;
+        std::vector<CHeadlineTable> table;
+        backEnd->checkForNews();
+        backEnd->BKQNEWS_iGetHeadlineTable(1, table, int(TableKind::ByDate), u"20260302"_s);
+        for (const CHeadlineTable& entry : table)
+            origins += backEnd->originsOf(keyOf(entry));
+        return origins;
+    }
     void askAgain(const FaultServer& of) {
         const std::size_t before = of.seen.size();
         for (const auto& source : network->sources())

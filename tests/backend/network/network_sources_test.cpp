@@ -68,10 +68,13 @@ TEST_F(NetworkSourcesTest, TakesTheSameNewsOnceWhoeverBringsItUnderWhateverName)
     ASSERT_TRUE(hasTold(3));
     EXPECT_EQ(titlesIn(*openStoreToRead(storeFile).value()),
               (QStringList{u"News 1"_s, u"News 2"_s, u"News 3"_s}));
-    const auto store = openStoreToRead(storeFile);
-    QStringList sources = ItemOrigins(*store.value()).sourcesOf(1, u"urn:1"_s);
-    sources.sort();
-    EXPECT_EQ(sources, (QStringList{u"net:localhost"_s, u"net:localhost/2"_s}));
+    const auto store = openStore(storeFile);
+    SourceList list(*store.value());
+    NetworkSource titled = list.source(u"net:localhost/2"_s).value();
+    titled.title = u"The \"other\" 報"_s;
+    ASSERT_TRUE(list.change(titled));
+    const QStringList of1{u"localhost"_s, titled.title};
+    EXPECT_EQ(origins(), (QList<QStringList>{of1.mid(1), of1.mid(0, 1), of1}));
 }
 
 TEST_F(NetworkSourcesTest, SaysWhatIsWrongAndKeepsWhatWasThere) {
