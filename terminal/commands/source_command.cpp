@@ -147,6 +147,8 @@ void printTrial(const TrialReport& report) {
                                 item.category, item.title));
     for (const FeedLink& link : report.links)
         printLine(link.address.toString() + u"  "_s + link.title);
+    if (!report.title.isEmpty())
+        printNote(u"The feed calls itself \"%1\"."_s.arg(report.title));
     if (report.fitting)
         printNote(u"It is a table that the mapping %1 fits."_s.arg(report.fitting->mapping));
     if (!report.links.empty())

@@ -56,6 +56,8 @@ QJsonObject valueOf(const TrialReport& report) {
     for (const FeedLink& link : report.links)
         links.append(QJsonObject{{u"title"_s, link.title}, {u"address"_s, link.address.toString()}});
     QJsonObject value{{u"items"_s, report.items}, {u"rejected"_s, report.rejected}, {u"first"_s, items}};
+    if (!report.title.isEmpty())
+        value.insert(u"title"_s, report.title);
     if (!links.isEmpty())
         value.insert(u"feeds"_s, links);
     if (report.fitting)

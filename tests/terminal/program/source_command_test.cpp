@@ -5,8 +5,10 @@
 #include "tests/terminal/program/program_runner.h"
 #include "tests/terminal/program/script_client.h"
 
+#include <QDateTime>
 #include <QDirIterator>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -114,6 +116,53 @@ TEST_F(SourceCommand, WhatIsWrongIsSaidAndChangesNothing) {
         EXPECT_FALSE(outcome.err.isEmpty() || outcome.err.contains(u"geheim"_s)) << outcome.err.toStdString();
     }
     EXPECT_EQ(listed(), QString());
+}
+
+TEST_F(SourceCommand, ATrialTellsWhatTheFeedCallsItselfWhatItBringsAndWhatIsWrong) {
+    const QByteArray now = QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toUtf8();
+    const struct {
+        const char* what;
+        QByteArray body;
+        QString title;
+        int items;
+        int feeds;
+        bool isFault;
+        int status;
+    } cases[] = {
+        {"feed",
+         "<rss version='2.0'><channel><title>A &lt;b&gt;Paper</title><item><guid>1</guid><title>Rates</title>"
+         "<pubDate>" +
+             now + "</pubDate></item></channel></rss>",
+         u"A <b>Paper"_s, 1, 0, false, 0},
+        {"page",
+         "<!DOCTYPE html><html><head><link rel='alternate' type='application/rss+xml' "
+         "href='https://a.example/feed.xml'></head>"
+         "</html>",
+         {},
+         0,
+         1,
+         false,
+         0},
+        {"nothing", "", {}, 0, 0, true, 2},
+    };
+    ScriptClient script({u"--store"_s, scratch.path(u"other"_s), u"--config"_s, scratch.path(u"config"_s),
+                         u"--lang"_s, u"en"_s});
+    for (const auto& one : cases) {
+        const QString file = scratch.write(QString::fromLatin1(one.what), one.body);
+        const QJsonObject told =
+            script.result(u"source.test"_s, QJsonObject{{u"address"_s, u"file://"_s + file}}).toObject();
+        EXPECT_EQ(told[u"title"_s].toString(), one.title) << one.what;
+        EXPECT_EQ(told[u"items"_s].toInt(-1), one.items) << one.what;
+        EXPECT_EQ(told[u"feeds"_s].toArray().size(), one.feeds) << one.what;
+        EXPECT_EQ(told.contains(u"fault"_s), one.isFault) << one.what;
+        const ProgramOutcome outcome = run({u"test"_s, file});
+        EXPECT_EQ(outcome.status, one.status) << one.what << ": " << outcome.err.toStdString();
+        EXPECT_EQ(outcome.err.contains(u"The feed calls itself \"%1\"."_s.arg(one.title)),
+                  !one.title.isEmpty())
+            << outcome.err.toStdString();
+    }
+    EXPECT_EQ(listed(), QString());
+    script.kill();
 }
 
 TEST_F(SourceCommand, AutomationRefusesWhatIsWrongAndKeepsSecretsInFilesOfTheUserAlone) {
