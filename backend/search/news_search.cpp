@@ -120,7 +120,9 @@ std::optional<QueryMatch> NewsSearch::findNow(unsigned char service, const CSear
         match->ids = std::move(named);
         match->isAllBut = false;
     }
-    if (match && !leaveOutWithdrawn(*match))
+    const auto* query = std::get_if<QueryNode>(&last->query);
+    const bool isAskedFor = condition.isQuery() && query != nullptr && asksFor(*query, QueryState::Withdrawn);
+    if (match && !isAskedFor && !leaveOutWithdrawn(*match))
         return std::nullopt;
     return match;
 }

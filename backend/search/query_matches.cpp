@@ -45,7 +45,32 @@ QueryMatches::QueryMatches(Database& database, AskIndex index)
                      "SELECT (SELECT min(market) FROM related_symbols WHERE service = ?1 AND market > "
                      "markets.market) FROM markets WHERE markets.market IS NOT NULL) "
                      "SELECT headline FROM markets CROSS JOIN related_symbols WHERE service = ?1 AND "
-                     "related_symbols.market = markets.market AND code = ?2") {}
+                     "related_symbols.market = markets.market AND code = ?2"),
+      // As MarkBook reads marks.
+      unread(database,
+             "SELECT id FROM headlines WHERE service = ?1 AND time > (SELECT moment FROM marks_begin) AND "
+             "NOT EXISTS(SELECT 1 FROM marks WHERE headline = id AND state > 0) UNION "
+             "SELECT id FROM marks CROSS JOIN headlines ON id = headline WHERE state = 0 AND service = ?1"),
+      hasRead(database,
+              "SELECT id FROM marks CROSS JOIN headlines ON id = headline WHERE state = 2 AND service = ?"),
+      starred(database,
+              "SELECT id FROM marks CROSS JOIN headlines ON id = headline WHERE starred AND service = ?"),
+      withdrawn(database,
+                "SELECT id FROM withdrawals CROSS JOIN headlines ON id = headline WHERE service = ?") {}
+
+Statement& QueryMatches::statementFor(QueryState state) {
+    switch (state) {
+        case QueryState::Unread:
+            return unread;
+        case QueryState::Read:
+            return hasRead;
+        case QueryState::Starred:
+            return starred;
+        case QueryState::Withdrawn:
+            break;
+    }
+    return withdrawn;
+}
 
 std::optional<QueryMatch> QueryMatches::find(const QueryPlan& plan, unsigned char service,
                                              const std::function<bool()>& isStopped) {
@@ -98,6 +123,10 @@ std::optional<QueryMatches::Ids> QueryMatches::idsOf(const QueryPlan& plan) {
             return found;
         case Kind::Days: {
             Query rows(ofDays, asked, plan.days.first, plan.days.last);
+            return addRows(found.ids, rows) ? std::optional(std::move(found)) : std::nullopt;
+        }
+        case Kind::State: {
+            Query rows(statementFor(plan.state), asked);
             return addRows(found.ids, rows) ? std::optional(std::move(found)) : std::nullopt;
         }
         case Kind::Not: {

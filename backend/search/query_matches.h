@@ -45,12 +45,17 @@ private:
     std::optional<Ids> matchedBy(const QStringList& matches);
     bool addNamed(IdSet& ids, const QueryPlan::Symbol& symbol);
     bool addRows(IdSet& ids, Query& query);
+    Statement& statementFor(QueryState state);
 
     AskIndex ask;
     Statement ofTopic;
     Statement ofDays;
     Statement naming;
     Statement namingAnywhere;
+    Statement unread;
+    Statement hasRead;
+    Statement starred;
+    Statement withdrawn;
     std::map<QStringList, IdSet> known;
     unsigned char asked = 0;  // service
     std::function<bool()> stopped;

@@ -176,6 +176,11 @@ QueryPlan QueryPlanner::planned(const QueryNode& node, const Asked& asked) {
             plan.days = momentsOf(node.days, asked.today);
             return plan;
         }
+        case QueryNode::Kind::State: {
+            QueryPlan plan = planOf(Kind::State);
+            plan.state = node.state;
+            return plan;
+        }
         case QueryNode::Kind::Not:
             return inverse(planned(node.parts.front(), asked));
         case QueryNode::Kind::All:

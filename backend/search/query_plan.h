@@ -24,6 +24,7 @@ struct QueryPlan {
         Topics,   // of one of `topics`
         Symbols,  // naming one of `symbols`
         Days,     // within `days`
+        State,    // of `state`
         All,
         Any,
         Not
@@ -39,6 +40,7 @@ struct QueryPlan {
     std::vector<std::int32_t> topics;
     std::vector<Symbol> symbols;
     Moments days;
+    QueryState state = QueryState::Unread;
     std::vector<QueryPlan> parts;
 };
 

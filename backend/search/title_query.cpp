@@ -85,6 +85,7 @@ bool TitleQuery::holds(const Part& part, const Tried& tried) const {
             return std::all_of(part.parts.begin(), part.parts.end(), innerHolds);
         case Kind::Near:
         case Kind::Days:
+        case Kind::State:
             break;  // of no query for headlines
     }
     return false;

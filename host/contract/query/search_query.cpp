@@ -43,7 +43,7 @@ bool endsWord(QChar c) {
     return c.isSpace() || isQuote(c) || isOpening(c) || isClosing(c) || isBar(c);
 }
 
-enum class FieldKind { Title, Story, Topic, Service, Symbol, From, To, On };
+enum class FieldKind { Title, Story, Topic, Service, Symbol, From, To, On, Is };
 struct FieldRow {
     QLatin1StringView name;
     FieldKind kind;
@@ -55,7 +55,24 @@ constexpr std::array fieldRows{FieldRow{QLatin1StringView("title"), FieldKind::T
                                FieldRow{QLatin1StringView("symbol"), FieldKind::Symbol},
                                FieldRow{QLatin1StringView("from"), FieldKind::From},
                                FieldRow{QLatin1StringView("to"), FieldKind::To},
-                               FieldRow{QLatin1StringView("on"), FieldKind::On}};
+                               FieldRow{QLatin1StringView("on"), FieldKind::On},
+                               FieldRow{QLatin1StringView("is"), FieldKind::Is}};
+
+struct StateRow {
+    QLatin1StringView name;
+    QueryState state;
+};
+constexpr std::array stateRows{StateRow{QLatin1StringView("unread"), QueryState::Unread},
+                               StateRow{QLatin1StringView("read"), QueryState::Read},
+                               StateRow{QLatin1StringView("starred"), QueryState::Starred},
+                               StateRow{QLatin1StringView("withdrawn"), QueryState::Withdrawn}};
+
+std::optional<QueryState> stateNamed(QStringView name) {
+    const auto row = std::find_if(stateRows.begin(), stateRows.end(), [&](const StateRow& known) {
+        return name.trimmed().compare(known.name, Qt::CaseInsensitive) == 0;
+    });
+    return row == stateRows.end() ? std::nullopt : std::optional(row->state);
+}
 
 std::optional<FieldKind> fieldNamed(QStringView name) {
     const auto row = std::find_if(fieldRows.begin(), fieldRows.end(), [&](const FieldRow& known) {
@@ -72,6 +89,8 @@ Kind kindOf(FieldKind field) {
             return Kind::Service;
         case FieldKind::Symbol:
             return Kind::Symbol;
+        case FieldKind::Is:
+            return Kind::State;
         default:
             return Kind::Days;
     }
@@ -330,7 +349,8 @@ private:
             return fail(Fault::UnknownField, start, nameLength);
         if (fieldDepth > 0)
             return fail(Fault::FieldWithin, start, nameLength);
-        const bool isOfHeadlines = *known == FieldKind::Title || kindOf(*known) != Kind::Days;
+        const bool isOfHeadlines =
+            *known == FieldKind::Title || (kindOf(*known) != Kind::Days && kindOf(*known) != Kind::State);
         if (use == QueryUse::Headlines && !isOfHeadlines)
             return failOfHeadlines(start, nameLength);
         if (isBare)
@@ -378,6 +398,12 @@ private:
         node.text = value.toString();
         if (node.kind == Kind::Symbol && !readQuerySymbol(value))
             return fail(Fault::FieldValue, start, nameLength);
+        if (node.kind == Kind::State) {
+            const auto state = stateNamed(value);
+            if (!state)
+                return fail(Fault::FieldValue, start, nameLength);
+            node.state = *state;
+        }
         if (node.kind == Kind::Days) {
             const auto day = readQueryDay(value);
             if (!day)
@@ -415,6 +441,12 @@ constexpr std::array<QLatin1StringView, std::size_t(Fault::Count)> faultKeys{
 
 ReadQuery readQuery(const QString& query, QueryUse use) {
     return QueryReader(query, use).read();
+}
+
+bool asksFor(const QueryNode& query, QueryState state) {
+    return (query.kind == Kind::State && query.state == state) ||
+           std::any_of(query.parts.begin(), query.parts.end(),
+                       [state](const QueryNode& part) { return asksFor(part, state); });
 }
 
 QLatin1StringView keyOf(QueryFaultKind kind) {

@@ -18,6 +18,9 @@ namespace wirepane {
 // Where a text is looked for.
 enum class QueryField { Anywhere, Title, Story };
 
+// What has become of news: by the user's hand, or by its publisher's.
+enum class QueryState { Unread, Read, Starred, Withdrawn };
+
 struct QueryNode {
     enum class Kind {
         Text,     // `text`, in `field`
@@ -26,6 +29,7 @@ struct QueryNode {
         Service,  // a name or a number
         Symbol,   // a code, a code behind its market and a colon, or a name
         Days,     // `days`
+        State,    // `state`
         All,      // all parts; two at least
         Any,      // one of them; two at least
         Not       // not its one part
@@ -39,8 +43,12 @@ struct QueryNode {
     bool isCut = false;  // the last word of the text may go on
     int near = 0;
     QueryDays days;
+    QueryState state = QueryState::Unread;
     std::vector<QueryNode> parts;
 };
+
+// Whether a part of the query asks for news of this state, or for news that is not.
+WIREPANE_CONTRACT_EXPORT bool asksFor(const QueryNode& query, QueryState state);
 
 enum class QueryFaultKind {
     Empty,
@@ -78,7 +86,7 @@ using ReadQuery = std::variant<QueryNode, QueryFault>;
 // What a query is tried on.
 enum class QueryUse {
     News,       // knows the whole language
-    Headlines,  // as they come, without their stories: no story:, NEAR, days and words cut short
+    Headlines,  // as they come, without their stories: no story:, NEAR, days, is: and words cut short
 };
 
 // Reads a query of any length and content.

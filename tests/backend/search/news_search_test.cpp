@@ -70,6 +70,44 @@ TEST_F(NewsSearchTest, WhatWasWithdrawnIsNotFoundUntilItIsSentAgain) {
     EXPECT_EQ(found(condition({u"silver"_s}, 2)), (QStringList{u"Silver up"_s, u"Silver down"_s}));
 }
 
+TEST_F(NewsSearchTest, WhatTheUserHasDoneAndWhatWasTakenBackIsFoundByItsState) {
+    const QStringList titles{u"Before"_s,  u"New"_s,  u"Seen"_s,     u"Read"_s,
+                             u"Starred"_s, u"Both"_s, u"Unmarked"_s, u"Gone"_s};
+    for (int i = 0; i < titles.size(); ++i)
+        takeStory(titles[i], titles[i], u"Text"_s, i);
+    NewsItem gone = newsItem(1, u"Gone"_s, at(9, 7), {});
+    gone.withdrawn = u"wrong"_s;
+    takeNews(gone);
+    takeNews(newsItem(2, u"Other"_s, at(9, 8), u"Other"_s));
+    ASSERT_TRUE(
+        store->execute(("UPDATE marks_begin SET moment = " + QByteArray::number(at(9, 0))).constData()));
+    const std::tuple<const char*, int, int> marks[] = {{"Seen", 1, 0}, {"Read", 2, 0},     {"Starred", 0, 1},
+                                                       {"Both", 2, 1}, {"Unmarked", 0, 0}, {"Other", 2, 1}};
+    for (const auto& [title, state, isStarred] : marks)
+        ASSERT_TRUE(store->execute(
+            u"INSERT INTO marks(headline, state, starred, was_read, shown, opened) "
+            "SELECT id, %2, %3, 0, 0, 0 FROM all_headlines WHERE title = '%1'"_s.arg(QLatin1StringView(title))
+                .arg(state)
+                .arg(isStarred)
+                .toUtf8()
+                .constData()));
+    const std::pair<QString, QString> cases[] = {{u"is:starred"_s, u"Both Starred"_s},
+                                                 {u"is:read"_s, u"Both Read"_s},
+                                                 {u"is:unread"_s, u"Unmarked Starred New"_s},
+                                                 {u"is:unread -is:starred"_s, u"Unmarked New"_s},
+                                                 {u"-is:unread -is:read"_s, u"Seen Before"_s},
+                                                 {u"is:starred | title:new"_s, u"Both Starred New"_s},
+                                                 {u"is:withdrawn"_s, u"Gone"_s},
+                                                 {u"title:gone"_s, u""_s},
+                                                 {u"title:gone -is:withdrawn"_s, u""_s},
+                                                 {u"is:withdrawn | is:read"_s, u"Gone Both Read"_s}};
+    for (const auto& [query, wanted] : cases) {
+        CSearch asked = condition({query}, 2);
+        asked.language = SearchLanguage::Query;
+        EXPECT_EQ(found(asked).join(u' '), wanted) << query.toStdString();
+    }
+}
+
 TEST_F(NewsSearchTest, KeywordsAreFoundAsTyped) {
     const QString text =
         u"台積電(2330)宣布，營收2.5%成長至11,700億元@@@@A&T and c++ 0700.HK in the US-China talks@@@@O'Neil 臺灣"_s;

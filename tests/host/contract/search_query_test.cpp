@@ -37,6 +37,8 @@ QString shown(const QueryNode& node) {
             return QStringList{node.days.from ? u"from"_s : u""_s, node.days.to ? u"to"_s : u""_s}.join(
                        u'-') +
                    u' ' + node.text;
+        case QueryNode::Kind::State:
+            return u"is %1"_s.arg(int(node.state));
         case QueryNode::Kind::All:
             return u'(' + parts.join(u" & "_s) + u')';
         case QueryNode::Kind::Any:
@@ -69,6 +71,7 @@ TEST(SearchQuery, ReadsAsItsGrammarSays) {
         {u"title:(a NEAR/3 b) title:\"to:x\""_s, u"({title <a> 3 title <b>} & title <to:x>)"_s},
         {u"topic:\"a b\" -service:1 symbol:22:0700"_s, u"(topic a b & not service 1 & symbol 22:0700)"_s},
         {u"from:2026 to:today on:-3d"_s, u"(from- 2026 & -to today & from-to -3d)"_s},
+        {u"is:unread IS:Starred -is:\"read\" is:withdrawn"_s, u"(is 0 & is 2 & not is 1 & is 3)"_s},
         {u"and \"OR\" ANDY"_s, u"(<and> & <OR> & <ANDY>)"_s}};
     for (const Case& each : cases) {
         const ReadQuery read = readQuery(each.query);
@@ -104,6 +107,8 @@ TEST(SearchQuery, NamesThePlaceOfAFault) {
                                  {u"topic:(a)"_s, Kind::FieldValue, 0, u"topic"_s},
                                  {u"topic:a*"_s, Kind::FieldValue, 0, u"topic"_s},
                                  {u"title:-a"_s, Kind::FieldValue, 0, u"title"_s},
+                                 {u"a is:new"_s, Kind::FieldValue, 2, u"is"_s},
+                                 {u"is:"_s, Kind::FieldValue, 0, u"is"_s},
                                  {u"symbol:256:1"_s, Kind::FieldValue, 0, u"symbol"_s},
                                  {u"title:(a story:b)"_s, Kind::FieldWithin, 9, u"story"_s},
                                  {u"on:2026-02-30"_s, Kind::Day, 3, u"2026-02-30"_s},
@@ -135,14 +140,12 @@ TEST(SearchQuery, NamesThePlaceOfAFault) {
 
 // A headline has no story yet, and is looked at as it comes.
 TEST(SearchQuery, ForHeadlinesRefusesWhatNeedsMore) {
-    const std::vector<std::pair<QString, QString>> cases{{u"a story:b"_s, u"2 story"_s},
-                                                         {u"a -STORY:(b)"_s, u"3 STORY"_s},
-                                                         {u"(a from:today)"_s, u"3 from"_s},
-                                                         {u"to:2026"_s, u"0 to"_s},
-                                                         {u"on:"_s, u"0 on"_s},
-                                                         {u"a gol* b"_s, u"5 *"_s},
-                                                         {u"title:\"a b\"＊"_s, u"11 ＊"_s},
-                                                         {u"a NEAR/5 b"_s, u"2 NEAR/5"_s}};
+    const std::vector<std::pair<QString, QString>> cases{
+        {u"a story:b"_s, u"2 story"_s},     {u"a -STORY:(b)"_s, u"3 STORY"_s},
+        {u"(a from:today)"_s, u"3 from"_s}, {u"to:2026"_s, u"0 to"_s},
+        {u"-is:starred"_s, u"1 is"_s},      {u"on:"_s, u"0 on"_s},
+        {u"a gol* b"_s, u"5 *"_s},          {u"title:\"a b\"＊"_s, u"11 ＊"_s},
+        {u"a NEAR/5 b"_s, u"2 NEAR/5"_s}};
     for (const auto& [query, place] : cases) {
         const ReadQuery read = readQuery(query, QueryUse::Headlines);
         ASSERT_TRUE(std::holds_alternative<QueryFault>(read)) << query.toStdString();
