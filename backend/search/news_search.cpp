@@ -17,7 +17,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int stopAskedEvery = 256;  // matches
+constexpr int stopAskedEvery = 256;             // matches
+constexpr std::size_t newestLookedAt = 16'000;  // headlines of all services together
+constexpr std::size_t mostOfNewest = newestLookedAt / 32;
+
+bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
+    return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
+}
 
 // The queries whose matches together are those of the condition. What must all be there is asked for at once:
 // the index passes over the many matches of one word that those of a rare one leave behind. What may be there
@@ -41,7 +47,7 @@ NewsSearch::NewsSearch(Database& database)
     : store(database),
       keys(database),
       version(database),
-      matching(database, "SELECT rowid FROM news_search WHERE news_search MATCH ?"),
+      matching(database, "SELECT rowid FROM news_search WHERE news_search MATCH ? AND rowid >= ?"),
       naming(database,
              "SELECT headline FROM related_symbols WHERE service = ? AND market IN (?, 0) AND code = ?"),
       dated(database,
@@ -55,27 +61,72 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::find(unsigned char servic
                                                             const std::atomic<bool>* stop) {
     stopping = stop;
     return atOneMoment([&] {
-        const std::optional<QueryMatch> match = findNow(service, condition);
+        const std::optional<QueryMatch> match = findNow(service, condition, Since().id);
         return match ? entries(service, *match) : std::nullopt;
     });
 }
 
-std::optional<std::vector<CHeadlineTable>> NewsSearch::findOnce(unsigned char service,
+std::optional<std::vector<CHeadlineTable>> NewsSearch::findOnce(const std::vector<unsigned char>& services,
                                                                 const CSearch& condition,
                                                                 const Newest& newest) {
     stopping = nullptr;
     return atOneMoment([&]() -> std::optional<std::vector<CHeadlineTable>> {
-        std::optional<QueryMatch> match = findNow(service, condition);
+        if (newest.most <= mostOfNewest) {
+            auto found = findSince(recently(services, newest.latest), services, condition, newest);
+            if (!found || found->size() == newest.most)
+                return found;
+        }
+        return findSince({}, services, condition, newest);
+    });
+}
+
+// As far back as the services can all be looked at in few steps.
+NewsSearch::Since NewsSearch::recently(const std::vector<unsigned char>& services, std::int64_t latest) {
+    struct Row {
+        std::int64_t id;
+        std::int64_t time;
+    };
+    const std::size_t mostOfOne = newestLookedAt / std::max<std::size_t>(services.size(), 1);
+    std::vector<Row> rows;
+    Since since;
+    for (const unsigned char service : services) {
+        Query newest(dated, service, since.time, latest);
+        for (std::size_t count = 0; newest.next(); ++count) {
+            if (count == mostOfOne) {
+                since.time = std::max(since.time, rows.back().time + 1);
+                break;
+            }
+            rows.push_back({newest.number(0), newest.number(1)});
+        }
+    }
+    since.id = std::numeric_limits<std::int64_t>::max();
+    for (const Row& row : rows) {
+        if (row.time >= since.time)
+            since.id = std::min(since.id, row.id);
+    }
+    return since;
+}
+
+std::optional<std::vector<CHeadlineTable>> NewsSearch::findSince(const Since& since,
+                                                                 const std::vector<unsigned char>& services,
+                                                                 const CSearch& condition,
+                                                                 const Newest& newest) {
+    std::vector<CHeadlineTable> all;
+    for (const unsigned char service : services) {
+        std::optional<QueryMatch> match = findNow(service, condition, since.id);
         if (!match)
             return std::nullopt;
+        match->days.first = std::max(match->days.first, since.time);
         match->days.last = std::min(match->days.last, newest.latest);
-        if (match->isAllBut || !keys.areFew(match->ids))
-            return newestEntries(service, *match, newest.most);
-        auto found = entries(service, *match);
-        if (found && found->size() > newest.most)
-            found->resize(newest.most);
-        return found;
-    });
+        const bool areMany = match->isAllBut || since.id != Since().id || !keys.areFew(match->ids);
+        const auto found = areMany ? newestEntries(service, *match, newest.most) : entries(service, *match);
+        if (!found)
+            return std::nullopt;
+        all.insert(all.end(), found->begin(), found->end());
+    }
+    std::stable_sort(all.begin(), all.end(), isNewer);
+    all.resize(std::min(all.size(), newest.most));
+    return all;
 }
 
 template <class Read>
@@ -92,11 +143,13 @@ void NewsSearch::prepare() {
     keys.catchUp();
 }
 
-std::optional<QueryMatch> NewsSearch::findNow(unsigned char service, const CSearch& condition) {
+std::optional<QueryMatch> NewsSearch::findNow(unsigned char service, const CSearch& condition,
+                                              std::int64_t lowest) {
     const std::optional<std::int64_t> present = version.read();
-    if (!last || !(last->condition == condition) || last->version != present) {
+    if (!last || !(last->condition == condition) || last->version != present || lowestId != lowest) {
         last.reset();
         queries.forget();
+        lowestId = lowest;
         Last next{condition, present, readQuery(condition.query()), {}};
         if (!condition.isQuery()) {
             std::optional<IdSet> ids = plainMatches(condition);
@@ -187,7 +240,7 @@ std::optional<IdSet> NewsSearch::plainMatches(const CSearch& condition) {
 }
 
 bool NewsSearch::addMatches(IdSet& ids, const QString& text) {
-    Query query(matching, text);
+    Query query(matching, text, lowestId);
     for (int count = 0; query.next(); ++count) {
         if (count % stopAskedEvery == 0 && isStopped())
             return false;

@@ -40,15 +40,25 @@ public:
     // meanwhile. Asked for one service after another, the same condition is looked up once.
     std::optional<std::vector<CHeadlineTable>> find(unsigned char service, const CSearch& condition,
                                                     const std::atomic<bool>* stop = nullptr);
-    // For who searches once: many are read from the store's index of times, as far as it takes, and the keys
-    // of all headlines are not.
-    std::optional<std::vector<CHeadlineTable>> findOnce(unsigned char service, const CSearch& condition,
-                                                        const Newest& newest);
+    // For who searches once: the newest entries of several services, newest first. Many are read from the
+    // store's index of times, as far as it takes, and the keys of all headlines are not. A few are looked for
+    // in the newest news first: what is common is so there, too, and the index need not tell all that it has.
+    std::optional<std::vector<CHeadlineTable>> findOnce(const std::vector<unsigned char>& services,
+                                                        const CSearch& condition, const Newest& newest);
 
     // Reads the keys of all headlines, which the first search with many matches would have to do.
     void prepare();
 
 private:
+    // The part of the news that is searched: what is not older than a moment; nothing of it has a lower id.
+    struct Since {
+        std::int64_t time = std::numeric_limits<std::int64_t>::min();
+        std::int64_t id = std::numeric_limits<std::int64_t>::min();
+    };
+    Since recently(const std::vector<unsigned char>& services, std::int64_t latest);
+    std::optional<std::vector<CHeadlineTable>> findSince(const Since& since,
+                                                         const std::vector<unsigned char>& services,
+                                                         const CSearch& condition, const Newest& newest);
     // The matches of the condition, without the symbols that narrow it.
     std::optional<QueryMatch> matches(unsigned char service, const CSearch& condition);
     std::optional<IdSet> plainMatches(const CSearch& condition);
@@ -61,7 +71,7 @@ private:
     bool addNamed(IdSet& ids, unsigned char service, const CSymbolInfo& symbol);
     bool leaveOutWithdrawn(QueryMatch& match);
     bool isStopped() const { return stopping != nullptr && *stopping; }
-    std::optional<QueryMatch> findNow(unsigned char service, const CSearch& condition);
+    std::optional<QueryMatch> findNow(unsigned char service, const CSearch& condition, std::int64_t lowest);
 
     Database& store;
     HeadlineKeys keys;
@@ -73,6 +83,7 @@ private:
     QueryPlanner planner;
     QueryMatches queries;
     const std::atomic<bool>* stopping = nullptr;
+    std::int64_t lowestId = Since().id;  // of those that the index is asked for
 
     struct Last {
         CSearch condition;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/export_command.h"
 
+#include "backend/search/news_search.h"
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/row_file.h"
 #include "backend/store/store_file.h"
@@ -90,7 +91,7 @@ Result<std::vector<CHeadlineTable>> wantedNews(EmbeddedBackEnd& backEnd, const E
         if (!store)
             return store.error();
         noteBacklog(*store.value());
-        const auto found = findAll(*store.value(), services, options.condition);
+        const auto found = NewsSearch(*store.value()).findOnce(services, options.condition, {});
         return found ? Result<std::vector<CHeadlineTable>>(*found) : store.value()->failure();
     }
     std::vector<CHeadlineTable> day;

@@ -9,7 +9,6 @@
 #include "terminal/commands/command_arguments.h"
 #include "terminal/console/console.h"
 
-#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -25,10 +24,6 @@ CSymbolInfo symbolOf(const QString& text, CommandArguments& arguments) {
     if (!isNumber || market > lastNewsService || code.isEmpty())
         arguments.fail(u"\"%1\" is not a symbol such as 16:2330."_s.arg(text));
     return {static_cast<unsigned char>(market), code};
-}
-
-bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
-    return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
 }
 
 void addChoices(QCommandLineParser& parser, const auto& table) {
@@ -90,22 +85,6 @@ std::int64_t latestOf(const CommandArguments& arguments) {
 
 void dropLater(std::vector<CHeadlineTable>& news, std::int64_t latest) {
     std::erase_if(news, [latest](const CHeadlineTable& entry) { return entry.time > latest; });
-}
-
-std::optional<std::vector<CHeadlineTable>> findAll(Database& store,
-                                                   const std::vector<unsigned char>& services,
-                                                   const CSearch& condition,
-                                                   const NewsSearch::Newest& newest) {
-    NewsSearch search(store);
-    std::vector<CHeadlineTable> all;
-    for (const unsigned char service : services) {
-        const auto found = search.findOnce(service, condition, newest);
-        if (!found)
-            return std::nullopt;
-        all.insert(all.end(), found->begin(), found->end());
-    }
-    std::stable_sort(all.begin(), all.end(), isNewer);
-    return all;
 }
 
 void noteBacklog(Database& store) {

@@ -29,14 +29,7 @@ std::int64_t latestOf(const CommandArguments& arguments);
 // Takes out what is dated later.
 void dropLater(std::vector<CHeadlineTable>& news, std::int64_t latest);
 
-// What the services hold of the condition, newest first: of each no more than is asked for. Nothing when the
-// store cannot be read.
-std::optional<std::vector<CHeadlineTable>> findAll(Database& store,
-                                                   const std::vector<unsigned char>& services,
-                                                   const CSearch& condition,
-                                                   const NewsSearch::Newest& newest = {});
-
-// Tells the user that what findAll() gave may lack something, where the search index is behind the store.
+// Tells the user that what is found may lack something, where the search index is behind the store.
 void noteBacklog(Database& store);
 
 }  // namespace wirepane

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/search_command.h"
 
+#include "backend/search/news_search.h"
 #include "backend/search/search_following.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_reader.h"
@@ -86,8 +87,8 @@ int unreadable(Database& store) {
 int printFound(Database& store, const SearchOptions& options) {
     constexpr std::int64_t never = std::numeric_limits<std::int64_t>::max();
     // One more than is shown tells that there are more.
-    const auto found = findAll(store, servicesOf(options, store), options.condition,
-                               {options.most + 1, options.latest.value_or(never)});
+    const auto found = NewsSearch(store).findOnce(servicesOf(options, store), options.condition,
+                                                  {options.most + 1, options.latest.value_or(never)});
     if (!found || store.damage())
         return unreadable(store);
     noteBacklog(store);

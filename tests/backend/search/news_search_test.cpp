@@ -7,7 +7,10 @@
 #include "tests/backend/store/store_fixture.h"
 #include "tests/support/conditions.h"
 
+#include <algorithm>
+#include <limits>
 #include <sqlite3.h>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -105,6 +108,60 @@ TEST_F(NewsSearchTest, WhatTheUserHasDoneAndWhatWasTakenBackIsFoundByItsState) {
         CSearch asked = condition({query}, 2);
         asked.language = SearchLanguage::Query;
         EXPECT_EQ(found(asked).join(u' '), wanted) << query.toStdString();
+    }
+}
+
+// However many are asked for, and however the orders of times and ids differ.
+TEST_F(NewsSearchTest, TheNewestFewAreThoseOfAll) {
+    ASSERT_TRUE(writer->begin());
+    for (int i = 0; i < 1400; ++i) {
+        const auto service = static_cast<unsigned char>(i % 7 < 5 ? 1 : i % 100 != 6 ? 2 : 3);
+        NewsItem item = newsItem(service, QString::number(i), at(0, 0) + (i + (i * 7919LL) % 200) / 20,
+                                 i % 4 == 0 && service != 2 ? u"Copper"_s : u"Tin"_s);
+        item.story = i % 6 == 1 ? u"Silver"_s : i % 100 == 3 ? u"Rare"_s : u"Text"_s;
+        if (i % 3 == 0)
+            item.related = {{16, u"2330"_s}};
+        ASSERT_TRUE(writer->take(item));
+    }
+    ASSERT_TRUE(writer->commit());
+    CSearch narrowed = condition({u"tin"_s}, 2);
+    narrowed.symbols = {{16, u"2330"_s}};
+    std::vector<CSearch> asked{condition({u"silver"_s}, 2),
+                               condition({u"copper"_s}, 2),
+                               condition({u"rare"_s}, 2),
+                               condition({u"none"_s}, 2),
+                               narrowed,
+                               condition({u"silver"_s, u"rare"_s}, 2, 2)};
+    for (const QString& query :
+         {u"copper -rare"_s, u"-copper"_s, u"silver | symbol:2330"_s, u"tin to:2026"_s}) {
+        asked.push_back(condition({query}, 2));
+        asked.back().language = SearchLanguage::Query;
+    }
+    std::vector<unsigned char> services(20);
+    std::iota(services.begin(), services.end(), 1);
+    std::vector<std::size_t> counts(240);
+    std::iota(counts.begin(), counts.end(), 1);
+    for (const CSearch& each : asked) {
+        std::vector<CHeadlineTable> all;
+        for (const unsigned char service : services) {
+            const auto found = search.find(service, each).value();
+            all.insert(all.end(), found.begin(), found.end());
+        }
+        std::stable_sort(all.begin(), all.end(), [](const auto& a, const auto& b) {
+            return std::tie(a.time, a.sequence) > std::tie(b.time, b.sequence);
+        });
+        for (const std::int64_t latest : {std::numeric_limits<std::int64_t>::max(), at(0, 0, 50)}) {
+            std::erase_if(all, [&](const CHeadlineTable& entry) { return entry.time > latest; });
+            NewsSearch fresh(*reading);
+            for (const std::size_t most : counts) {
+                const auto found = fresh.findOnce(services, each, {most, latest}).value();
+                ASSERT_EQ(found.size(), std::min(all.size(), most)) << each.keywords.front().toStdString();
+                ASSERT_TRUE(std::equal(found.begin(), found.end(), all.begin(),
+                                       [](auto& a, auto& b) { return keyOf(a) == keyOf(b); }))
+                    << each.keywords.front().toStdString() << ' ' << most;
+            }
+            counts = {1, 50, 500, 1000};
+        }
     }
 }
 
@@ -242,7 +299,7 @@ TEST_F(NewsSearchTest, TheKeysOfAllHeadlinesAreReadOnce) {
             wanted.resize(std::min(wanted.size(), newest.most));
             NewsSearch fresh(*reading);
             reads = 0;
-            const auto entries = fresh.findOnce(1, asked, newest);
+            const auto entries = fresh.findOnce({1}, asked, newest);
             EXPECT_EQ(reads, 0);
             ASSERT_TRUE(entries && entries->size() == wanted.size());
             EXPECT_TRUE(std::equal(wanted.begin(), wanted.end(), entries->begin(),
