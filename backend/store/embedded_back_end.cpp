@@ -58,7 +58,8 @@ EmbeddedBackEnd::EmbeddedBackEnd(StoreConnections opened)
           *connections.reading,
           onlyRead ? MarkingDesk::Ask()
                    : [this](StoreIntake::Work work,
-                            StoreIntake::Then then) { intake.ask(std::move(work), std::move(then)); }),
+                            StoreIntake::Then then) { intake.ask(std::move(work), std::move(then)); },
+          [this] { return snapshot.position(); }),
       laterNews(*connections.reading),
       quotes(*connections.reading),
       toldRevision(quotes.lastRevision()),
@@ -136,6 +137,7 @@ void EmbeddedBackEnd::tellNews() {
 // --- Taking in ---
 
 void EmbeddedBackEnd::ask(StoreIntake::Work work, const std::function<void()>& then) {
+    marks.writeNow();
     intake.ask(std::move(work), [this, then] {
         tellNews();
         if (then)

@@ -20,9 +20,10 @@ public:
 
     // Of news that is not there: as of new news.
     ReadingMark find(const HeadlineKey& key);
-    // Changes the mark as of the moment `now`; news that is not there is passed over. False on failure, which
-    // the database then holds.
-    bool change(const HeadlineKey& key, const MarkChange& change, std::int64_t now);
+    // Changes the mark as of the moment `now`, made by somebody who has heard of the arrivals up to `heard`:
+    // news that has been sent again since then has the mark where it stands now, and is new again where it
+    // was corrected. News that is not there is passed over. False on failure, which the database then holds.
+    bool change(const HeadlineKey& key, const MarkChange& change, std::int64_t now, std::int64_t heard);
 
 private:
     struct Known {
@@ -30,8 +31,13 @@ private:
         ReadingMark mark;
     };
     std::optional<Known> look(const HeadlineKey& key, bool& failed);
+    // The key that the news has now which had this one.
+    std::optional<HeadlineKey> movedTo(const HeadlineKey& key, std::int64_t heard);
+    bool wasCorrected(std::int64_t id, std::int64_t heard);
 
     Statement read;
+    Statement moved;
+    Statement corrected;
     Statement write;
 };
 

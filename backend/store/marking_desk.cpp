@@ -18,8 +18,8 @@ constexpr std::chrono::milliseconds gathered{250};
 
 }  // namespace
 
-MarkingDesk::MarkingDesk(Database& database, Ask asking)
-    : book(database), ask(std::move(asking)), known(mostKnown) {
+MarkingDesk::MarkingDesk(Database& database, Ask asking, Heard hearing)
+    : book(database), ask(std::move(asking)), heard(std::move(hearing)), known(mostKnown) {
     soon.setSingleShot(true);
     QObject::connect(&soon, &QTimer::timeout, &soon, [this] { writeNow(); });
 }
@@ -38,12 +38,15 @@ void MarkingDesk::change(const std::vector<HeadlineKey>& keys, const MarkChange&
     if (!ask || keys.empty())
         return;
     const std::int64_t now = host_clock::now();
+    const std::int64_t position = heard();
     for (const HeadlineKey& key : keys) {
         Waiting& entry = waiting[{key}];
-        entry.moment = entry.moment == 0 ? now : entry.moment;
+        if (entry.moment == 0)
+            entry = {{}, now, position};
         entry.change = joined(entry.change, change);
         entry.isUnderWay = false;
     }
+    isAnyLeft = true;
     if (!soon.isActive())
         soon.start(gathered);
     emit tells.changed(keys);
@@ -56,10 +59,12 @@ void MarkingDesk::forgetAll() {
 
 bool MarkingDesk::writeNow() {
     soon.stop();
+    if (!std::exchange(isAnyLeft, false))
+        return false;
     std::vector<Writing> all;
     for (auto entry = waiting.begin(); entry != waiting.end(); ++entry) {
         if (!std::exchange(entry->isUnderWay, true))
-            all.push_back({entry.key(), entry->change, entry->moment});
+            all.push_back({entry.key(), *entry});
     }
     for (std::size_t from = 0; from < all.size(); from += writtenAtOnce) {
         const auto begin = all.begin() + std::ptrdiff_t(from);
@@ -73,7 +78,8 @@ bool MarkingDesk::writeNow() {
                 MarkBook written(writer.connection());
                 bool isWell = true;
                 for (const Writing& one : *batch)
-                    isWell = isWell && written.change(one.key.headline, one.change, one.moment);
+                    isWell = isWell && written.change(one.key.headline, one.what.change, one.what.moment,
+                                                      one.what.heard);
                 if (!isWell)
                     writer.rollback();
                 *isWritten = isWell && writer.commit();
@@ -84,7 +90,9 @@ bool MarkingDesk::writeNow() {
 }
 
 void MarkingDesk::noteWritten(const std::vector<Writing>& batch, bool isWritten) {
+    std::vector<HeadlineKey> keys;
     for (const Writing& one : batch) {
+        keys.push_back(one.key.headline);
         known.remove(one.key);
         const auto entry = waiting.find(one.key);
         // What was changed meanwhile is still to be written.
@@ -95,6 +103,9 @@ void MarkingDesk::noteWritten(const std::vector<Writing>& batch, bool isWritten)
         else
             entry->isUnderWay = false;
     }
+    isAnyLeft = isAnyLeft || !isWritten;
+    // News that was corrected meanwhile has another mark than was asked for.
+    emit tells.changed(keys);
 }
 
 }  // namespace wirepane

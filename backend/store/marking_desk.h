@@ -17,7 +17,7 @@
 namespace wirepane {
 
 // The marks of the news for those who show it: what they change holds at once, and is written to the store on
-// its thread, a moment later and together. What could not be written is tried again with what is changed
+// its thread, a moment later and together. What could not be written is tried again with what is written
 // next. Memory is taken for the marks that were looked up last and for those that are still to be written.
 // Interface thread.
 class MarkingDesk {
@@ -25,8 +25,11 @@ public:
     // Does the work on the store's thread, and calls back when look-ups see what it has written.
     using Ask = std::function<void(StoreIntake::Work, StoreIntake::Then)>;
 
+    // The position of the last arrival that look-ups see.
+    using Heard = std::function<std::int64_t()>;
+
     // The database is the one that reads. Without `ask` nothing is marked. What is given outlives this.
-    MarkingDesk(Database& database, Ask ask);
+    MarkingDesk(Database& database, Ask ask, Heard heard);
 
     bool canMark() const { return bool(ask); }
     ReadingMark markOf(const HeadlineKey& key);
@@ -36,7 +39,8 @@ public:
     void forget(const HeadlineKey& key) { known.remove({key}); }
     // Any news may have changed.
     void forgetAll();
-    // Gives what is still to be written to the store's thread. True: there was something.
+    // Gives what is still to be written to the store's thread, ahead of news that may correct what was
+    // marked. True: there was something.
     bool writeNow();
 
 private:
@@ -51,19 +55,21 @@ private:
     struct Waiting {
         MarkChange change;
         std::int64_t moment = 0;
+        std::int64_t heard = 0;
         bool isUnderWay = false;
     };
     struct Writing {
         Key key;
-        MarkChange change;
-        std::int64_t moment = 0;
+        Waiting what;
     };
     void noteWritten(const std::vector<Writing>& batch, bool isWritten);
 
     MarkBook book;
     Ask ask;
+    Heard heard;
     QCache<Key, ReadingMark> known;
     QHash<Key, Waiting> waiting;
+    bool isAnyLeft = false;  // that is not under way
     MarkTeller tells;
     QTimer soon;
 };

@@ -98,11 +98,10 @@ private:
 
 }  // namespace
 
-bool holdsSampleAlone(Database& store) {
+bool mayShowSample(Database& store) {
     std::int64_t isSample = 0;
     return store.readNumber(
-               "SELECT EXISTS(SELECT 1 FROM headlines) AND NOT EXISTS("
-               "SELECT 1 FROM services WHERE "
+               "SELECT NOT EXISTS(SELECT 1 FROM sources) AND NOT EXISTS(SELECT 1 FROM services WHERE "
                "EXISTS(SELECT 1 FROM headlines WHERE service = services.id AND "
                "identity < 'sample:') OR "
                "EXISTS(SELECT 1 FROM headlines WHERE service = services.id AND "

@@ -15,8 +15,9 @@ class Database;
 // A store that is to show the sample wire has the present day when its window opens; the days before that it
 // lacks are kept in it as a position, and come behind the window, the newest first.
 
-// Whether there is news, and all of it is the wire's.
-bool holdsSampleAlone(Database& store);
+// Invented and real news never mix by themselves: whether the store has none of its user's sources, and no
+// news but the wire's.
+bool mayShowSample(Database& store);
 
 // Takes in what the store lacks of the present day, where it lacks more than a part of it, all of it or
 // nothing, and keeps which days before it are lacking: of the last options.days those since it was followed

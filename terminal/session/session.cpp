@@ -263,10 +263,9 @@ void Session::goToStore(OnwardStore next) {
     QMetaObject::invokeMethod(mainFrame.get(), &QWidget::close, Qt::QueuedConnection);
 }
 
-// Invented and real news never mix by themselves.
 void Session::followSample() {
     const auto reading = openStoreToRead(storeFile);
-    if (!reading || store->isReadOnly() || !holdsSampleAlone(*reading.value()))
+    if (!reading || store->isReadOnly() || !mayShowSample(*reading.value()))
         return;
     SampleOptions sample;
     sample.now = host_clock::now();

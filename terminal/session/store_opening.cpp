@@ -24,7 +24,6 @@ Done makeFolderOf(const QString& file) {
     return Nothing{};
 }
 
-// Invented and real news never mix by themselves.
 Done fill(const QString& storeFile, bool isFollowed, const IndexProgress& onIndexing,
           const IndexProgress& onFilling) {
     const auto database = openOrMakeStore(storeFile, onIndexing);
@@ -34,7 +33,7 @@ Done fill(const QString& storeFile, bool isFollowed, const IndexProgress& onInde
     std::int64_t hasNews = 0;
     if (!database.value()->readNumber("SELECT EXISTS(SELECT 1 FROM headlines)", hasNews))
         return database.value()->failure();
-    if (hasNews != 0 && !(isFollowed && holdsSampleAlone(*database.value())))
+    if (!mayShowSample(*database.value()) || (hasNews != 0 && !isFollowed))
         return Nothing{};
     SampleOptions options;
     options.now = host_clock::now();

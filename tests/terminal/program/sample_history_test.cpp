@@ -3,10 +3,12 @@
 // The days that a store of the sample wire lacks come behind its window, whatever happened before.
 #include "terminal/session/sample_history.h"
 
+#include "backend/network/source_list.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_writer.h"
 #include "host/contract/clock.h"
 #include "terminal/session/sample_filling.h"
+#include "terminal/session/store_opening.h"
 #include "tests/terminal/program/program_runner.h"
 
 #include <QTest>
@@ -83,7 +85,7 @@ TEST_F(SampleHistoryTest, TheRestOfTheFirstFillingSurvivesKillsAndOtherTerminals
         SCOPED_TRACE(batches);
         const auto store = open(u"killed-%1"_s.arg(batches));
         ASSERT_TRUE(bringSampleUpToDate(*store, options));
-        EXPECT_TRUE(holdsSampleAlone(*store));
+        EXPECT_TRUE(mayShowSample(*store));
         EXPECT_TRUE(daysOf(*store).endsWith(u"20260304"_s));
         EXPECT_LT(newsOf(*store).size(), expected.size() / 2)
             << "the window does not wait for the other days";
@@ -92,6 +94,46 @@ TEST_F(SampleHistoryTest, TheRestOfTheFirstFillingSurvivesKillsAndOtherTerminals
         takeHistory(*store, options);
         takeHistory(*store, options);
         EXPECT_EQ(newsOf(*store), expected);
+    }
+}
+
+TEST_F(SampleHistoryTest, AStoreWithNewsOrSourcesOfTheUsersOwnIsNeverFilled) {
+    optionsAt(noon);
+    const struct {
+        const char* what;
+        QString identity;
+        bool hasSource;
+        bool maySample;
+    } cases[] = {
+        {"nothing", {}, false, true},
+        {"news of the wire", u"sample:1"_s, false, true},
+        {"other news", u"wire:1"_s, false, false},
+        {"a source that waits for the user", {}, true, false},
+        {"a source beside news of the wire", u"sample:1"_s, true, false},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.what);
+        const QString name = QString::fromLatin1(one.what);
+        const auto store = open(name);
+        if (one.hasSource) {
+            NetworkSource source;
+            source.address = QUrl(u"https://news.example/feed"_s);
+            source.isPaused = true;
+            ASSERT_TRUE(SourceList(*store).add(source));
+        }
+        if (!one.identity.isEmpty()) {
+            StoreWriter writer(*store);
+            NewsItem item;
+            item.service = 1;
+            item.identity = one.identity;
+            item.time = noon - 2 * day;
+            item.title = u"a title"_s;
+            ASSERT_TRUE(writer.begin() && writer.takeNews(item) && writer.commit());
+        }
+        EXPECT_EQ(mayShowSample(*store), one.maySample);
+        const QString before = newsOf(*store);
+        ASSERT_TRUE(openBackEnd(scratch.path(name), SampleUse::Followed));
+        EXPECT_EQ(newsOf(*store) != before, one.maySample);
     }
 }
 
