@@ -31,6 +31,13 @@ std::vector<CHeadlineTable> HeadlineTable::rows(int from, int count) const {
     return copies;
 }
 
+std::vector<HeadlineKey> HeadlineTable::keys() const {
+    std::vector<HeadlineKey> all;
+    all.reserve(static_cast<std::size_t>(size()));
+    entries.forEach([&](HeadlineRows::Ticket, const CHeadlineTable& entry) { all.push_back(keyOf(entry)); });
+    return all;
+}
+
 std::array<int, 256> HeadlineTable::countsOfServices() const {
     std::array<int, 256> counts{};
     entries.forEach([&](HeadlineRows::Ticket, const CHeadlineTable& entry) { ++counts[entry.service]; });

@@ -14,6 +14,7 @@
 
 #include <QWidget>
 
+#include <algorithm>
 #include <utility>
 
 namespace wirepane {
@@ -104,18 +105,18 @@ void Reading::markSelected(const MarkChange& change) {
         keys.push_back(keyOf(entry));
     // What stands in the pane stays unread once it has been marked so.
     standing.reset();
-    marks->changeMarks(keys, change);
+    marks->changeMarks(std::move(keys), change);
 }
 
 void Reading::markAll() {
     if (!isOn())
         return;
-    const HeadlineTable& table = view.listOf(view.shownList()).headlineTable();
-    std::vector<HeadlineKey> keys;
-    keys.reserve(std::size_t(table.size()));
-    for (int row = 0; row < table.size(); ++row)
-        keys.push_back(keyOf(table.at(row)));
-    marks->changeMarks(keys, {.state = ReadingState::Read});
+    const HeadlineList& list = view.listOf(view.shownList());
+    std::vector<HeadlineKey> keys = list.headlineTable().keys();
+    // Long lists are marked a portion at a time: first what the reader looks at.
+    const int top = list.grid() != nullptr ? list.grid()->firstVisibleRow() : 0;
+    std::rotate(keys.begin(), keys.begin() + std::min<std::ptrdiff_t>(top, std::ssize(keys)), keys.end());
+    marks->changeMarks(std::move(keys), {.state = ReadingState::Read});
 }
 
 void Reading::showAgain(const std::vector<HeadlineKey>& changed) {

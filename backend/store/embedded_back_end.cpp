@@ -83,7 +83,7 @@ EmbeddedBackEnd::EmbeddedBackEnd(StoreConnections opened)
       intake(*connections.writing, disk, [this](const WorkReport& report) { note(report); }) {}
 
 EmbeddedBackEnd::~EmbeddedBackEnd() {
-    if (marks.writeNow())
+    if (marks.writeAll())
         intake.finish();
 }
 

@@ -176,8 +176,8 @@ public:
     QStringList originsOf(const HeadlineKey& key) override { return reader.origins(key); }
     bool canMark() const override { return marks.canMark(); }
     ReadingMark markOf(const HeadlineKey& key) override { return marks.markOf(key); }
-    void changeMarks(const std::vector<HeadlineKey>& keys, const MarkChange& change) override {
-        marks.change(keys, change);
+    void changeMarks(std::vector<HeadlineKey> keys, const MarkChange& change) override {
+        marks.change(std::move(keys), change);
     }
     MarkTeller& markTeller() override { return marks.teller(); }
     // When the newest headline was dated that is there at the present moment; 0: there is none.

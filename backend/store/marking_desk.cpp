@@ -34,22 +34,54 @@ ReadingMark MarkingDesk::markOf(const HeadlineKey& key) {
     return change == waiting.cend() ? *kept : changedMark(*kept, change->change, change->moment);
 }
 
-void MarkingDesk::change(const std::vector<HeadlineKey>& keys, const MarkChange& change) {
+void MarkingDesk::change(std::vector<HeadlineKey> keys, const MarkChange& change) {
     if (!ask || keys.empty())
         return;
     const std::int64_t now = host_clock::now();
     const std::int64_t position = heard();
-    for (const HeadlineKey& key : keys) {
-        Waiting& entry = waiting[{key}];
-        if (entry.moment == 0)
-            entry = {{}, now, position};
-        entry.change = joined(entry.change, change);
-        entry.isUnderWay = false;
+    if (keys.size() > writtenAtOnce) {
+        bulk.add(std::move(keys), change, now, position);
+        if (!isBulkUnderWay)
+            takeNext();
+        return;
     }
-    isAnyLeft = true;
+    bulk.overtake(keys, change);
+    for (const HeadlineKey& key : keys)
+        hold({key, change, now, position});
     if (!soon.isActive())
         soon.start(gathered);
     emit tells.changed(keys);
+}
+
+void MarkingDesk::hold(const DueMark& due) {
+    Waiting& entry = waiting[{due.key}];
+    if (entry.moment == 0)
+        entry = {{}, due.moment, due.heard};
+    entry.change = joined(entry.change, due.change);
+    entry.isUnderWay = false;
+    isAnyLeft = true;
+}
+
+bool MarkingDesk::takeNext() {
+    std::vector<HeadlineKey> keys;
+    for (const DueMark& due : bulk.next(writtenAtOnce)) {
+        hold(due);
+        keys.push_back(due.key);
+    }
+    isBulkUnderWay = !keys.empty();
+    if (!isBulkUnderWay)
+        return false;
+    emit tells.changed(keys);
+    return writeNow();
+}
+
+bool MarkingDesk::writeAll() {
+    while (!bulk.empty()) {
+        for (const DueMark& due : bulk.next(writtenAtOnce))
+            hold(due);
+    }
+    writeNow();
+    return !waiting.isEmpty();
 }
 
 void MarkingDesk::forgetAll() {
@@ -106,6 +138,9 @@ void MarkingDesk::noteWritten(const std::vector<Writing>& batch, bool isWritten)
     isAnyLeft = isAnyLeft || !isWritten;
     // News that was corrected meanwhile has another mark than was asked for.
     emit tells.changed(keys);
+    // What cannot be written is not heaped up.
+    if (isBulkUnderWay && isWritten && waiting.isEmpty())
+        takeNext();
 }
 
 }  // namespace wirepane

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/store/bulk_marks.h"
 #include "backend/store/mark_book.h"
 #include "backend/store/store_intake.h"
 #include "host/contract/reading_marks.h"
@@ -19,6 +20,7 @@ namespace wirepane {
 // The marks of the news for those who show it: what they change holds at once, and is written to the store on
 // its thread, a moment later and together. What could not be written is tried again with what is written
 // next. Memory is taken for the marks that were looked up last and for those that are still to be written.
+// Those of long lists hold a portion after the other, in the order given, as they are written.
 // Interface thread.
 class MarkingDesk {
 public:
@@ -33,7 +35,7 @@ public:
 
     bool canMark() const { return bool(ask); }
     ReadingMark markOf(const HeadlineKey& key);
-    void change(const std::vector<HeadlineKey>& keys, const MarkChange& change);
+    void change(std::vector<HeadlineKey> keys, const MarkChange& change);
     MarkTeller& teller() { return tells; }
     // The news has been sent again, or has gone.
     void forget(const HeadlineKey& key) { known.remove({key}); }
@@ -42,16 +44,10 @@ public:
     // Gives what is still to be written to the store's thread, ahead of news that may correct what was
     // marked. True: there was something.
     bool writeNow();
+    // The same, with all that is left of long lists. True: something waits, or is under way.
+    bool writeAll();
 
 private:
-    struct Key {
-        HeadlineKey headline;
-
-        bool operator==(const Key&) const = default;
-        friend std::size_t qHash(const Key& key, std::size_t seed) {
-            return qHashMulti(seed, key.headline.time, key.headline.sequence, key.headline.service);
-        }
-    };
     struct Waiting {
         MarkChange change;
         std::int64_t moment = 0;
@@ -59,17 +55,22 @@ private:
         bool isUnderWay = false;
     };
     struct Writing {
-        Key key;
+        MarkedKey key;
         Waiting what;
     };
+    void hold(const DueMark& due);
+    // The next ones of a long list hold, and are given to be written. False: there are none.
+    bool takeNext();
     void noteWritten(const std::vector<Writing>& batch, bool isWritten);
 
     MarkBook book;
     Ask ask;
     Heard heard;
-    QCache<Key, ReadingMark> known;
-    QHash<Key, Waiting> waiting;
+    QCache<MarkedKey, ReadingMark> known;
+    QHash<MarkedKey, Waiting> waiting;
+    BulkMarks bulk;
     bool isAnyLeft = false;  // that is not under way
+    bool isBulkUnderWay = false;
     MarkTeller tells;
     QTimer soon;
 };

@@ -66,8 +66,9 @@ public:
     virtual bool canMark() const = 0;
     // Asked for each row that is drawn: answered from memory or an index. New where nothing is known.
     virtual ReadingMark markOf(const HeadlineKey& key) = 0;
-    // Holds from now on, and is told; what keeps it does so a moment later.
-    virtual void changeMarks(const std::vector<HeadlineKey>& keys, const MarkChange& change) = 0;
+    // Holds from now on, and is told; what keeps it does so a moment later. Thousands at once hold a portion
+    // after the other, in this order, each of which is told.
+    virtual void changeMarks(std::vector<HeadlineKey> keys, const MarkChange& change) = 0;
     // Lives as long as this.
     virtual MarkTeller& markTeller() = 0;
 };

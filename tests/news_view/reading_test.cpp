@@ -20,7 +20,7 @@ class MarkingBackEnd : public FakeBackEnd, public ReadingMarks {
 public:
     bool canMark() const override { return isWritable; }
     ReadingMark markOf(const HeadlineKey& key) override { return kept.value(key.sequence); }
-    void changeMarks(const std::vector<HeadlineKey>& keys, const MarkChange& change) override {
+    void changeMarks(std::vector<HeadlineKey> keys, const MarkChange& change) override {
         for (const HeadlineKey& key : keys)
             kept[key.sequence] = changedMark(kept[key.sequence], change, 1);
         emit teller.changed(keys);

@@ -6,6 +6,8 @@
 #include "host/contract/clock.h"
 #include "tests/backend/store/store_fixture.h"
 
+#include <QTest>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -97,6 +99,34 @@ TEST_F(MarksTest, HoldAtOnceAreToldAndAreKeptWhenTheStoreIsClosed) {
     again->run([](StoreWriter&) {});
     EXPECT_EQ(told(again->markOf(second)), u"read"_s) << "while it waits to be written";
     EXPECT_EQ(StoreChecker(store->path()).check().value(), QStringList());
+}
+
+// More than is written at once; what a hand marks meanwhile is not undone by what is still to come.
+TEST_F(MarksTest, LongListsAreMarkedAPortionAtATimeInTheOrderGiven) {
+    constexpr int count = 5000;
+    std::vector<HeadlineKey> keys;
+    EXPECT_TRUE(writer->begin());
+    for (int i = 0; i < count; ++i)
+        keys.push_back(writer->takeNews(news(QString::number(i), i)).value().key);
+    EXPECT_TRUE(writer->commit());
+    {
+        const auto backEnd = opened();
+        backEnd->changeMarks(keys, read);
+        EXPECT_EQ(told(backEnd->markOf(keys.front())), u"read"_s);
+        EXPECT_EQ(told(backEnd->markOf(keys.back())), u"new"_s) << "its turn is still to come";
+        backEnd->changeMarks({keys.front(), keys.back()}, unread);
+        backEnd->changeMarks({keys[count - 2]}, starred);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return told(backEnd->markOf(keys[count - 2])) == u"read*"_s; }));
+    }
+    EXPECT_EQ(kept(keys.front()), u"new"_s);
+    EXPECT_EQ(kept(keys.back()), u"new"_s);
+    EXPECT_EQ(kept(keys[count - 2]), u"read*"_s);
+    {
+        const auto backEnd = opened();
+        backEnd->changeMarks(keys, unread);
+    }
+    for (const HeadlineKey& key : keys)
+        ASSERT_EQ(kept(key), key == keys[count - 2] ? u"new*"_s : u"new"_s) << "the terminal was closed";
 }
 
 TEST_F(MarksTest, WhatAnotherTerminalMarksIsToldAndShown) {
