@@ -91,16 +91,16 @@ std::vector<PlannedItem> DayPlan::day(Day day) const {
 }
 
 std::vector<PlannedItem> DayPlan::dayUntil(std::int64_t now) const {
-    std::vector<PlannedItem> items = day(LocalTime::fromUtc(now).day);
+    std::vector<PlannedItem> items = followedDay(LocalTime::fromUtc(now).day);
     std::erase_if(items, [now](const PlannedItem& item) { return item.time > now; });
-    for (std::size_t service = 0; service < ids.size(); ++service) {
-        const bool quiet = std::none_of(items.rbegin(), items.rend(), [&](const PlannedItem& item) {
-            return item.service == service && item.time > now - quietSeconds;
-        });
-        if (quiet && isOrdinaryWire(ids[service]))
-            addFillers(items, service, now);
+    std::vector<bool> quiet(ids.size(), true);
+    for (const PlannedItem& item : items) {
+        if (!item.filler && item.time > now - quietSeconds)
+            quiet[item.service] = false;
     }
-    std::sort(items.begin(), items.end(), earlier);
+    std::erase_if(items, [&](const PlannedItem& item) {
+        return item.filler && (!quiet[item.service] || item.time <= now - quietSeconds);
+    });
     return items;
 }
 
@@ -130,18 +130,6 @@ std::vector<PlannedItem> DayPlan::followedDay(Day followed) const {
     }
     std::sort(items.begin(), items.end(), earlier);
     return items;
-}
-
-void DayPlan::addFillers(std::vector<PlannedItem>& items, std::size_t service, std::int64_t now) const {
-    const std::int64_t dayStart = LocalTime::fromUtc(now).day.startUtc();
-    Random random(hashOf(planSeed, ids[service], static_cast<std::uint64_t>(now)));
-    std::int64_t time = now - random.between(300, 540);
-    while (time < now) {
-        if (time >= dayStart)
-            items.push_back({time, static_cast<std::uint16_t>(service),
-                             firstFillerOrdinal + static_cast<std::uint32_t>(time - dayStart), true});
-        time += random.between(70, 200);
-    }
 }
 
 }  // namespace wirepane::sample

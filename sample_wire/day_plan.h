@@ -29,7 +29,7 @@ struct PlannedItem {
     std::int64_t time = 0;      // seconds since 1970, UTC
     std::uint16_t service = 0;  // index into the services of the plan
     std::uint32_t ordinal = 0;  // within the service and day, from 0
-    bool filler = false;  // not part of the day's own: sent because the wire was quiet before the present
+    bool filler = false;        // not part of the day's own: sent because the wires were quiet
 };
 
 // How many items the services send, and when.
@@ -41,8 +41,8 @@ public:
 
     // The items of a day, from the first to the last.
     std::vector<PlannedItem> day(Day day) const;
-    // The items of the day of the present moment up to then. An ordinary wire that sent nothing in the last
-    // minutes sends a few fillers.
+    // The items of the day of the present moment up to then. An ordinary wire whose own items leave the last
+    // minutes empty sends the fillers of these minutes, as those have them who follow the day.
     std::vector<PlannedItem> dayUntil(std::int64_t now) const;
     // The items of a day that is followed as it goes by: those of day(), and a filler of an ordinary wire in
     // every ten seconds in which none sends anything.
@@ -50,7 +50,6 @@ public:
 
 private:
     int countOf(std::size_t service, Day day) const;
-    void addFillers(std::vector<PlannedItem>& items, std::size_t service, std::int64_t now) const;
 
     std::vector<unsigned char> ids;
     std::vector<Rhythm> rhythms;

@@ -232,6 +232,29 @@ TEST(SampleWire, FollowedItSendsSomethingEveryTwentySecondsAndTheSameToEverybody
     }
 }
 
+// Terminals that start seconds apart in a quiet night, and one that has run all along, share what fills it.
+TEST(SampleWire, WhatFillsTheQuietBeforeAStartDoesNotHangOnItsSecond) {
+    SampleOptions options = threeDays();
+    options.headlinesPerDay = 200;
+    const std::int64_t night = afternoon + 10 * hour;
+    std::set<QString> followed;
+    SampleWire(sampleData(), options).follow(night - hour, [&](std::int64_t sentAt, StoreItem&& item) {
+        followed.insert(lineOf(std::get<NewsItem>(item)));
+        return sentAt < night + hour;
+    });
+    for (int second = 0; second < 25; ++second) {
+        options.now = night + second;
+        int fillers = 0;
+        for (const NewsItem& item : collect(options).news) {
+            if (isFiller(item)) {
+                ++fillers;
+                EXPECT_TRUE(followed.contains(lineOf(item))) << lineOf(item).toStdString();
+            }
+        }
+        EXPECT_GT(fillers, 0) << second;
+    }
+}
+
 // As many headlines as an ordinary day has them, and the story of each that was sent before.
 TEST(SampleWire, AnAbsenceIsMadeUpForWithoutWhatOnlyFillsTheQuiet) {
     SampleOptions options = threeDays();
