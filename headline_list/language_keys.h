@@ -187,6 +187,8 @@ inline constexpr QLatin1StringView foundSince{"IDS_NEWSCTRLVIEW_FOUND_SINCE"};
 inline constexpr QLatin1StringView foundUntil{"IDS_NEWSCTRLVIEW_FOUND_UNTIL"};
 inline constexpr QLatin1StringView foundTook{"IDS_NEWSCTRLVIEW_FOUND_TOOK"};
 inline constexpr QLatin1StringView foundTakeOut{"IDS_NEWSCTRLVIEW_FOUND_TAKE_OUT"};
+inline constexpr QLatin1StringView foundNewest{"IDS_NEWSCTRLVIEW_FOUND_NEWEST"};
+inline constexpr QLatin1StringView foundEnter{"IDS_NEWSCTRLVIEW_FOUND_ENTER"};
 inline constexpr QLatin1StringView foundAwaited{"IDS_NEWSCTRLVIEW_FOUND_AWAITED"};
 
 // Files of the news of a list. "%1": how many, else the file; "%2": the file, else the reason.

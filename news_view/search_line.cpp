@@ -12,6 +12,7 @@
 #include "host/views/news_control_ids.h"
 #include "news_view/control_set.h"
 #include "news_view/view_context.h"
+#include "news_view/view_settings.h"
 #include "search/condition_parts.h"
 #include "search/condition_texts.h"
 #include "search/search_desk.h"
@@ -71,8 +72,9 @@ void SearchLine::follow() {
     const ListIndex list = context.shownList();
     const SearchDesk::Course course = searches.courseOf(list);
     if (!course.isSent) {
-        const bool isTyped = list == ListIndex::Search;
-        line->tell({isTyped ? langText(parts.backEnd, keys::emptySearch) : QString(), {}, {}, {}});
+        // Where empty lists say why, this one does.
+        const bool isSaid = list != ListIndex::Search || parts.settings.options[ViewOption::EmptyStates];
+        line->tell({isSaid ? QString() : langText(parts.backEnd, keys::emptySearch), {}, {}, {}});
         return;
     }
     line->setKeyboardBefore(parts.controls.find<QWidget>(
@@ -82,8 +84,11 @@ void SearchLine::follow() {
     if (course.isAwaited && found.empty()) {
         text.sum = langText(parts.backEnd, keys::foundAwaited);
     } else {
-        text.sum = langText(parts.backEnd, keys::foundCount).arg(shownNumber(found.size()));
+        text.sum = langText(parts.backEnd, course.isNewestOnly ? keys::foundNewest : keys::foundCount)
+                       .arg(shownNumber(found.size()));
         QStringList details{detailsOf(found)};
+        if (course.isNewestOnly)
+            details.prepend(langText(parts.backEnd, keys::foundEnter));
         details += langText(parts.backEnd, keys::foundUntil)
                        .arg(localTime(course.until).toString(u"yyyy/MM/dd hh:mm"_s));
         if (course.took)

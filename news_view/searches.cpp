@@ -47,6 +47,7 @@ Searches::Searches(ViewContext& viewContext, const CommonParts& commonParts,
       parts(commonParts),
       showsStory(std::move(showsStoryNow)),
       conditions(parts.backEnd),
+      typed(parts, conditions, [this](const TypedSearch::Found& found) { showTyped(found); }),
       shortTip(new CXTTipWindow(&parts.window)) {}
 
 // --- The search box ---
@@ -57,6 +58,7 @@ void Searches::connectEdit() {
     edit->setTakesQueries(parts.settings.options[ViewOption::SearchQueries]);
     if (parts.settings.options[ViewOption::SearchHistory])
         edit->offerTexts([this] { return textsToOffer(); });
+    typed.follow(*edit);
     QObject::connect(edit, &SEdit::returnPressed, &parts.window, [this] { searchForText(); });
 }
 
@@ -162,7 +164,10 @@ void Searches::send() {
         tipAtEdit(langText(parts.backEnd, keys::invalidSearch));
         return;
     }
+    typed.stop();
     SearchDesk::completeMethod(*condition);
+    // What was found while it was typed stays until there is an answer.
+    const bool showsTyped = conditions.courseOf(shown).isTyped;
     const bool awaited = conditions.takeSearchText(textOfEdit());
     // A wait tip that is still up must not name a search that nobody waits for any more.
     if (awaited || waitTipIsUp()) {
@@ -171,6 +176,10 @@ void Searches::send() {
     }
     conditions.sendSearch(shown, parts.services.liveServices(), awaited,
                           {host_clock::now(), parts.outages.ended()});
+    if (showsTyped && awaited) {
+        context.placeNotices();
+        return;
+    }
     list.setTable(
         readTables(parts.backEnd, parts.services.currentServices(), TableKind::Search, searchTableKey));
     showFound(shown, false);
@@ -219,6 +228,17 @@ void Searches::show(const CSearch& condition) {
 }
 
 // --- Results ---
+
+void Searches::showTyped(const TypedSearch::Found& found) {
+    HeadlineList& list = context.listOf(ListIndex::Search);
+    if (context.shownList() != ListIndex::Search || list.grid() == nullptr)
+        return;
+    stopWaiting();
+    conditions.takeTyped(found.condition, {host_clock::now(), parts.outages.ended()}, found.took,
+                         found.isAll);
+    list.setTable({found.newest});
+    showFound(ListIndex::Search, true);
+}
 
 void Searches::showFound(ListIndex index, bool selectFirst) {
     HeadlineList& list = context.listOf(index);

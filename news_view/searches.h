@@ -3,6 +3,7 @@
 #pragma once
 
 #include "news_view/common_parts.h"
+#include "news_view/typed_search.h"
 #include "search/search_desk.h"
 #include "search/search_edit2.h"
 
@@ -89,6 +90,7 @@ private:
     void tipAtEdit(const QString& text);
     bool waitTipIsUp() const;
     void stopWaiting();
+    void showTyped(const TypedSearch::Found& found);
     void showFound(ListIndex list, bool selectFirst);
 
     ViewContext& context;
@@ -97,7 +99,8 @@ private:
     SearchDesk conditions;
     std::map<unsigned char, CHeadline> pushed;  // the newest of each service since the last refresh
     QString waitTipText;                        // of the search that was announced last, as it was shown
-    CXTTipWindow* shortTip;                     // belongs to the view's window
+    TypedSearch typed;
+    CXTTipWindow* shortTip;  // belongs to the view's window
 };
 
 }  // namespace wirepane

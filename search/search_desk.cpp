@@ -81,7 +81,8 @@ SearchDesk::Course SearchDesk::courseOf(ListIndex list) const {
         return {};
     const bool isAwaited = std::any_of(due.begin(), due.end(),
                                        [&](const auto& search) { return search.first == sent->condition; });
-    return {true, isAwaited, std::max(sent->at->time, sent->answeredAt), sent->took};
+    return {true,       isAwaited,     std::max(sent->at->time, sent->answeredAt),
+            sent->took, sent->isTyped, sent->isNewestOnly};
 }
 
 void SearchDesk::endSearch(ListIndex list) {
@@ -101,15 +102,28 @@ std::optional<TableKind> SearchDesk::kindOfAnswer(const CSearch& condition) cons
     return std::nullopt;
 }
 
+CSearch SearchDesk::quickSearch(const QString& word, std::int64_t now, SearchLanguage language) const {
+    CSearch search = ordinary;
+    if (search.keywords != std::vector{word} || search.language != language)
+        search.symbols.clear();
+    search.language = language;
+    search.scope = numberOf(SearchScope::Headlines);
+    search.method = numberOf(SearchMethod::All);
+    search.time = now;
+    search.keywords = {word};
+    return search;
+}
+
 void SearchDesk::takeQuickSearch(const QString& word, std::int64_t now, SearchLanguage language) {
     keepKeyword(history, word);
-    if (ordinary.keywords != std::vector{word} || ordinary.language != language)
-        ordinary.symbols.clear();
-    ordinary.language = language;
-    ordinary.scope = numberOf(SearchScope::Headlines);
-    ordinary.method = numberOf(SearchMethod::All);
-    ordinary.time = now;
-    ordinary.keywords = {word};
+    ordinary = quickSearch(word, now, language);
+}
+
+void SearchDesk::takeTyped(const CSearch& condition, const Moment& now, std::chrono::milliseconds took,
+                           bool isAll) {
+    std::erase_if(due, [&](const auto& search) { return search.first == sentOrdinary.condition; });
+    ordinary = condition;
+    sentOrdinary = {condition, now, {}, now.time, took, true, !isAll};
 }
 
 bool SearchDesk::takeSearchText(const QString& text) {
@@ -140,7 +154,7 @@ void SearchDesk::sendSearch(ListIndex mode, std::span<ServiceEntry> services, bo
     const CSearch condition = *active;
     Sent& sent = mode == ListIndex::Search ? sentOrdinary : sentWarningTerm;
     std::erase_if(due, [&](const auto& search) { return search.first == sent.condition; });
-    sent = {condition, now, std::chrono::steady_clock::now(), 0, std::nullopt};
+    sent = {condition, now, std::chrono::steady_clock::now(), 0, std::nullopt, false, false};
     for (ServiceEntry& entry : services) {
         entry.searchPending = entry.selected && awaited;
         if (entry.selected)

@@ -65,13 +65,19 @@ public:
         bool isAwaited = false;                         // an answer is still to come
         std::int64_t until = 0;                         // what is found is as of this moment
         std::optional<std::chrono::milliseconds> took;  // until the last answer so far; none: there is none
+        bool isTyped = false;                           // and nobody has sent it
+        bool isNewestOnly = false;                      // there may be more than is shown
     };
     Course courseOf(ListIndex list) const;
     // Nothing is searched for any more: an answer that comes still is nobody's.
     void endSearch(ListIndex list);
 
-    // Makes the word alone, or the query, the ordinary condition (in headlines, composed at `now`), and keeps
-    // it in the history. Another one than that in force is not narrowed to a symbol.
+    // The word alone, or the query, in headlines, composed at `now`; another one than that in force is not
+    // narrowed to a symbol.
+    CSearch quickSearch(const QString& word, std::int64_t now, SearchLanguage language) const;
+    // The newest that such a search finds are shown, before anybody has sent it: it is the one in force.
+    void takeTyped(const CSearch& condition, const Moment& now, std::chrono::milliseconds took, bool isAll);
+    // Makes a quick search the ordinary condition, and keeps its word in the history.
     void takeQuickSearch(const QString& word, std::int64_t now,
                          SearchLanguage language = SearchLanguage::Plain);
     // For hosts: the quick-search words used so far, each once, newest last.
@@ -98,6 +104,8 @@ private:
         std::chrono::steady_clock::time_point begun;
         std::int64_t answeredAt = 0;
         std::optional<std::chrono::milliseconds> took;
+        bool isTyped = false;
+        bool isNewestOnly = false;
     };
     const Sent* sentFrom(ListIndex list) const;
 

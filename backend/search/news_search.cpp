@@ -68,8 +68,9 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::find(unsigned char servic
 
 std::optional<std::vector<CHeadlineTable>> NewsSearch::findOnce(const std::vector<unsigned char>& services,
                                                                 const CSearch& condition,
-                                                                const Newest& newest) {
-    stopping = nullptr;
+                                                                const Newest& newest,
+                                                                const std::atomic<bool>* stop) {
+    stopping = stop;
     return atOneMoment([&]() -> std::optional<std::vector<CHeadlineTable>> {
         if (newest.most <= mostOfNewest) {
             auto found = findSince(recently(services, newest.latest), services, condition, newest);

@@ -44,7 +44,8 @@ public:
     // store's index of times, as far as it takes, and the keys of all headlines are not. A few are looked for
     // in the newest news first: what is common is so there, too, and the index need not tell all that it has.
     std::optional<std::vector<CHeadlineTable>> findOnce(const std::vector<unsigned char>& services,
-                                                        const CSearch& condition, const Newest& newest);
+                                                        const CSearch& condition, const Newest& newest,
+                                                        const std::atomic<bool>* stop = nullptr);
 
     // Reads the keys of all headlines, which the first search with many matches would have to do.
     void prepare();

@@ -30,7 +30,8 @@ bool holdsAny(const std::vector<CHeadlineTable>& entries, const std::vector<Head
 }  // namespace
 
 SearchDispatcher::SearchDispatcher(const QString& storePath, Answered answered, Gate answerGate)
-    : tell(std::move(answered)),
+    : path(storePath),
+      tell(std::move(answered)),
       gate(answerGate ? std::move(answerGate) : [](const std::function<void()>& answer) { answer(); }) {
     worker = std::make_unique<SearchWorker>(
         storePath, [this](std::int64_t ticket, std::vector<CHeadlineTable>&& entries) {
@@ -56,6 +57,17 @@ void SearchDispatcher::ask(unsigned char service, int kind, const CSearch& condi
 }
 
 std::shared_ptr<const void> SearchDispatcher::askBeside(std::vector<SideJob::Search> wanted, Found told) {
+    return askOf(*worker, std::move(wanted), std::move(told));
+}
+
+std::shared_ptr<const void> SearchDispatcher::askNewest(std::vector<SideJob::Search> wanted, Found told) {
+    if (!newest)
+        newest = std::make_unique<SearchWorker>(path, SearchWorker::Answer(), std::nullopt);
+    return askOf(*newest, std::move(wanted), std::move(told));
+}
+
+std::shared_ptr<const void> SearchDispatcher::askOf(SearchWorker& asked, std::vector<SideJob::Search> wanted,
+                                                    Found told) {
     const auto dropped = std::make_shared<std::atomic<bool>>(false);
     const auto call = [this, dropped,
                        told = std::move(told)](std::vector<std::vector<CHeadlineTable>>&& found) {
@@ -65,7 +77,7 @@ std::shared_ptr<const void> SearchDispatcher::askBeside(std::vector<SideJob::Sea
                 told(std::move(*entries));
         });
     };
-    worker->askBeside({std::move(wanted), dropped, call});
+    asked.askBeside({std::move(wanted), dropped, call});
     // The mark goes with whoever keeps it.
     return {dropped.get(), [dropped](std::atomic<bool>* mark) { *mark = true; }};
 }

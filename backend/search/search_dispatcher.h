@@ -41,6 +41,8 @@ public:
     // returned is kept.
     using Found = std::function<void(std::vector<std::vector<CHeadlineTable>>&& found)>;
     std::shared_ptr<const void> askBeside(std::vector<SideJob::Search> wanted, Found told);
+    // The same for the newest few of each, without waiting for any of those.
+    std::shared_ptr<const void> askNewest(std::vector<SideJob::Search> wanted, Found told);
     // News has come that no view is told of by itself: the searches in that service that find some of it are
     // answered again.
     void lookAgain(unsigned char service, const std::vector<HeadlineKey>& news);
@@ -65,6 +67,7 @@ private:
         std::map<unsigned char, Pending> pending;
     };
 
+    std::shared_ptr<const void> askOf(SearchWorker& asked, std::vector<SideJob::Search> wanted, Found told);
     Search& searchOf(int kind, const CSearch& condition);
     static void drop(Search& search, unsigned char service);
     void send(Search& search, unsigned char service, std::optional<News> news);
@@ -72,13 +75,15 @@ private:
     void deliver(Search& search, unsigned char service);
     void forgetOldest();
 
+    const QString path;
     Answered tell;
     Gate gate;
     std::list<Search> searches;           // that sent last at the end
     std::map<int, std::int64_t> present;  // by kind: the id of a search
     std::int64_t lastNumber = 0;
     CallQueue answers;                     // on the interface thread
-    std::unique_ptr<SearchWorker> worker;  // last: it posts its answers
+    std::unique_ptr<SearchWorker> worker;  // last, as the next: they post their answers
+    std::unique_ptr<SearchWorker> newest;  // for the newest few; made when these are first asked for
 };
 
 }  // namespace wirepane

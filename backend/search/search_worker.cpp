@@ -12,7 +12,7 @@ constexpr std::chrono::seconds busyTimeout{5};
 
 }  // namespace
 
-SearchWorker::SearchWorker(QString storePath, Answer answer, std::chrono::milliseconds idle)
+SearchWorker::SearchWorker(QString storePath, Answer answer, std::optional<std::chrono::milliseconds> idle)
     : path(std::move(storePath)), tell(std::move(answer)), preparesAfter(idle) {
     thread.post([this] { prepareWhenIdle(); });
 }
@@ -27,19 +27,26 @@ void SearchWorker::askBeside(SideJob job) {
 
 void SearchWorker::searchBeside(const SideJob& job) {
     std::vector<std::vector<CHeadlineTable>> all;
-    for (const SideJob::Search& search : job.searches) {
-        std::vector<CHeadlineTable>& entries = all.emplace_back();
-        NewsSearch* const searching = *job.dropped ? nullptr : opened();
-        for (const unsigned char service : search.services) {
-            const auto found = searching != nullptr
-                                   ? searching->find(service, search.condition, job.dropped.get())
-                                   : std::nullopt;
-            if (found)
-                entries.insert(entries.end(), found->begin(), found->end());
-        }
-    }
+    for (const SideJob::Search& search : job.searches)
+        all.push_back(found(search, *job.dropped));
     if (!*job.dropped)
         job.told(std::move(all));
+}
+
+std::vector<CHeadlineTable> SearchWorker::found(const SideJob::Search& search,
+                                                const std::atomic<bool>& dropped) {
+    std::vector<CHeadlineTable> entries;
+    NewsSearch* const searching = dropped ? nullptr : opened();
+    if (searching == nullptr)
+        return entries;
+    if (search.most)
+        return searching->findOnce(search.services, search.condition, {.most = *search.most}, &dropped)
+            .value_or(std::move(entries));
+    for (const unsigned char service : search.services) {
+        if (const auto found = searching->find(service, search.condition, &dropped))
+            entries.insert(entries.end(), found->begin(), found->end());
+    }
+    return entries;
 }
 
 void SearchWorker::search(const SearchJob& job) {
@@ -55,9 +62,9 @@ void SearchWorker::search(const SearchJob& job) {
 }
 
 void SearchWorker::prepareWhenIdle() {
-    if (prepared)
+    if (prepared || !preparesAfter)
         return;
-    thread.postLater(preparesAfter, [this, before = searched] {
+    thread.postLater(*preparesAfter, [this, before = searched] {
         if (prepared || searched != before)
             return;
         prepared = true;

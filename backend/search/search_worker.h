@@ -30,6 +30,8 @@ struct SideJob {
     struct Search {
         CSearch condition;
         std::vector<unsigned char> services;
+        // Only so many, the newest of all services; none: all of them.
+        std::optional<std::size_t> most = {};
     };
     std::vector<Search> searches;
     std::shared_ptr<std::atomic<bool>> dropped;
@@ -39,14 +41,14 @@ struct SideJob {
 
 // Searches a store on a thread and a connection of its own, in the order of asking. A store that cannot be
 // read gives empty answers. Soon after it was made, when nothing is asked, it reads the keys of the
-// headlines.
+// headlines, unless it is to do without.
 class SearchWorker {
 public:
     // `answer` is called on the worker's thread, never after the destructor returns; not for dropped jobs.
     using Answer = std::function<void(std::int64_t ticket, std::vector<CHeadlineTable>&& entries)>;
 
     SearchWorker(QString storePath, Answer answer,
-                 std::chrono::milliseconds preparesAfter = std::chrono::seconds(2));
+                 std::optional<std::chrono::milliseconds> preparesAfter = std::chrono::seconds(2));
 
     // Any thread. A job that is being searched when the worker ends is waited for, so drop it before.
     void ask(SearchJob job);
@@ -56,12 +58,13 @@ private:
     // On the thread, as all that they use.
     void search(const SearchJob& job);
     void searchBeside(const SideJob& job);
+    std::vector<CHeadlineTable> found(const SideJob::Search& search, const std::atomic<bool>& dropped);
     void prepareWhenIdle();
     NewsSearch* opened();
 
     const QString path;
     const Answer tell;
-    const std::chrono::milliseconds preparesAfter;
+    const std::optional<std::chrono::milliseconds> preparesAfter;
     std::unique_ptr<Database> database;
     std::optional<NewsSearch> news;
     std::int64_t searched = 0;  // jobs

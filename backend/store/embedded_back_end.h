@@ -33,6 +33,7 @@
 #include "host/contract/news_record.h"
 #include "host/contract/news_row_files.h"
 #include "host/contract/query/headline_query.h"
+#include "host/contract/query/newest_found.h"
 #include "host/contract/query/search_counts.h"
 #include "host/contract/query/search_hits.h"
 #include "host/contract/reading_marks.h"
@@ -96,6 +97,7 @@ class EmbeddedBackEnd : public BKQuoteInterface,
                         public HeadlineQueries,
                         public SearchHits,
                         public SearchCounts,
+                        public NewestFound,
                         public NewsRowFiles {
 public:
     // Opens the store, or makes it (see openStore). One that cannot be written to is read: it takes nothing
@@ -254,7 +256,11 @@ public:
     bool BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition) override;
     std::shared_ptr<const HeadlineQuery> prepareQuery(const QString& query) override;
     std::shared_ptr<const HitFinder> prepareHits(const CSearch& condition) override;
-    std::shared_ptr<const void> countFound(std::vector<CountedSearch> wanted, Told told) override;
+    std::shared_ptr<const void> countFound(std::vector<CountedSearch> wanted,
+                                           SearchCounts::Told told) override;
+    std::shared_ptr<const void> findNewest(const CSearch& condition,
+                                           const std::vector<unsigned char>& services, std::size_t most,
+                                           NewestFound::Told told) override;
     std::shared_ptr<const void> writeRowFile(std::vector<CHeadlineTable> entries, NewsRowForm form,
                                              const QString& file, Tellers tellers) override {
         return rowFiles.write(std::move(entries), form, file, std::move(tellers));

@@ -138,7 +138,20 @@ std::shared_ptr<const void> EmbeddedBackEnd::findNews(std::vector<CountedSearch>
     });
 }
 
-std::shared_ptr<const void> EmbeddedBackEnd::countFound(std::vector<CountedSearch> wanted, Told told) {
+std::shared_ptr<const void> EmbeddedBackEnd::findNewest(const CSearch& condition,
+                                                        const std::vector<unsigned char>& services,
+                                                        std::size_t most, NewestFound::Told told) {
+    return searches.askNewest({{condition, services, most}}, [this, told = std::move(told)](Tables&& found) {
+        // The tables of views hold what this may name.
+        moveOn();
+        laterNews.takeOut(found.front(), 0);
+        told(found.front());
+        tellNews();
+    });
+}
+
+std::shared_ptr<const void> EmbeddedBackEnd::countFound(std::vector<CountedSearch> wanted,
+                                                        SearchCounts::Told told) {
     return findNews(std::move(wanted), [told = std::move(told)](Tables&& found) {
         std::vector<int> counts;
         for (const std::vector<CHeadlineTable>& entries : found)

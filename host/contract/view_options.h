@@ -39,22 +39,23 @@ enum class ViewOption {
     TitleChips,             // the words of a flash or a correction at a title's head as a chip
     MarkArrivals,           // rows that have just come are tinted, and fade
     RowTips,                // tool tips of rows: title, service, topic, time with seconds, age
-    RowMenu,        // the menu of a row offers copying and a window, and tells the keys of all it offers
-    MovablePanes,   // the user can move the edges between list, story and quotes
-    RowAir,         // what a row has over the height of its text; 0: rows of 16 pixels
-    HeadingHeight,  // of the band of column headings; 0: 16
-    RowGutter,      // before the first column's text
-    TypesetStory,   // stories are typeset, in a size of their own; what is awaited says so in its place
-    StoryMenu,      // a story has a menu of its own
-    StoryWindow,    // the story window has tools, lies beside its list, is kept open when it is pinned
-    SearchQueries,  // what is typed into the search box is a query; it takes blanks
-    SearchLine,     // a line over what was found: the condition in parts that can be taken out, counts
-    SearchHistory,  // the search box, wider, drops down what was searched for
-    NamedSearches,  // the search box drops down searches that were given names, for all views of the host
-    ReadingMarks,   // rows show what was read and starred, what is read is marked, in its row and for good
-    OtherYears,     // rows of another year than the present one show their day with its year
-    MarkHits,       // what was searched for is marked in titles and stories, a tint for each word
-    SearchOffers,   // a search that finds nothing offers what would find something, with counts
+    RowMenu,          // the menu of a row offers copying and a window, and tells the keys of all it offers
+    MovablePanes,     // the user can move the edges between list, story and quotes
+    RowAir,           // what a row has over the height of its text; 0: rows of 16 pixels
+    HeadingHeight,    // of the band of column headings; 0: 16
+    RowGutter,        // before the first column's text
+    TypesetStory,     // stories are typeset, in a size of their own; what is awaited says so in its place
+    StoryMenu,        // a story has a menu of its own
+    StoryWindow,      // the story window has tools, lies beside its list, is kept open when it is pinned
+    SearchQueries,    // what is typed into the search box is a query; it takes blanks
+    SearchLine,       // a line over what was found: the condition in parts that can be taken out, counts
+    SearchAsYouType,  // the newest that are found are shown while the user types
+    SearchHistory,    // the search box, wider, drops down what was searched for
+    NamedSearches,    // the search box drops down searches that were given names, for all views of the host
+    ReadingMarks,     // rows show what was read and starred, what is read is marked, in its row and for good
+    OtherYears,       // rows of another year than the present one show their day with its year
+    MarkHits,         // what was searched for is marked in titles and stories, a tint for each word
+    SearchOffers,     // a search that finds nothing offers what would find something, with counts
     Count
 };
 
@@ -98,6 +99,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::StoryWindow, QLatin1StringView("StoryWindow")},
     {ViewOption::SearchQueries, QLatin1StringView("SearchQueries")},
     {ViewOption::SearchLine, QLatin1StringView("SearchLine")},
+    {ViewOption::SearchAsYouType, QLatin1StringView("SearchAsYouType")},
     {ViewOption::SearchHistory, QLatin1StringView("SearchHistory")},
     {ViewOption::NamedSearches, QLatin1StringView("NamedSearches")},
     {ViewOption::ReadingMarks, QLatin1StringView("ReadingMarks")},

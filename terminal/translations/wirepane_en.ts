@@ -1631,6 +1631,14 @@
         <source></source>
         <translation>Found: %1</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_ENTER">
+        <source></source>
+        <translation>Enter finds all</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_NEWEST">
+        <source></source>
+        <translation>The newest %1</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_FOUND_SINCE">
         <source></source>
         <translation>since %1</translation>

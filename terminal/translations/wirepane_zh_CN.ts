@@ -1631,6 +1631,14 @@
         <source></source>
         <translation>找到 %1 条</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_ENTER">
+        <source></source>
+        <translation>按 Enter 找出全部</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOUND_NEWEST">
+        <source></source>
+        <translation>最新的 %1 条</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_FOUND_SINCE">
         <source></source>
         <translation>自 %1</translation>

@@ -349,6 +349,61 @@ TEST_F(SearchesOfTheView, WhatWasSearchedForIsMarkedAsLongAsItsResultsAreShown) 
     EXPECT_EQ(marks(3), QStringList()) << "nothing is searched for any more";
 }
 
+TEST_F(SearchesOfTheView, TheNewestAreShownWhileTheUserTypesAndStayUntilAllAreFound) {
+    const CHeadlineTable newer = entryOf(1, 9, 30, 2);
+    const CHeadlineTable older = entryOf(1, 9, 0, 1);
+    openSearch({{u"SearchQueries"_s, true}, {u"SearchLine"_s, true}, {u"SearchAsYouType"_s, true}});
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_FOUND_NEWEST"_s] = u"newest %1"_s;
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_FOUND_COUNT"_s] = u"found %1"_s;
+    auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
+    const auto type = [&](const QString& text) {
+        edit->clear();
+        QTest::keyClicks(edit, text);
+    };
+    const auto rows = [&] { return view->sheetOf(3)->model()->rowCount(); };
+    const auto sum = [&] {
+        QCoreApplication::processEvents();
+        return view->findChild<ChipLine*>()->told().sum;
+    };
+    sent();
+    type(u"gold"_s);
+    ASSERT_EQ(backEnd.findings.size(), 4U) << "one at each key";
+    EXPECT_EQ(backEnd.findings[1].condition.keywords, std::vector{u"go"_s});
+    EXPECT_EQ(backEnd.findings[3].condition.keywords, std::vector{u"gold*"_s});
+    EXPECT_TRUE(backEnd.findings[2].isDropped());
+    EXPECT_FALSE(backEnd.findings[3].isDropped());
+    backEnd.findings[3].told({newer, older});
+    EXPECT_EQ(rows(), 2);
+    EXPECT_EQ(sum(), u"found 2"_s);
+    backEnd.findings[3].told(std::vector<CHeadlineTable>(200, newer));
+    EXPECT_EQ(sum(), u"newest 200"_s);
+    EXPECT_EQ(sent(), QStringList()) << "nothing is sent before Enter";
+    // What has a fault so far is not looked for, and what was found stays.
+    type(u"gold \""_s);
+    EXPECT_EQ(backEnd.findings.size(), 9U);
+    EXPECT_TRUE(backEnd.findings.back().isDropped());
+    EXPECT_EQ(rows(), 200);
+    type(u"gold"_s);
+    QTest::keyClick(edit, Qt::Key_Return);
+    EXPECT_TRUE(backEnd.findings.back().isDropped()) << "all of it is being searched for";
+    EXPECT_TRUE(sent().front().contains(u"gold"_s));
+    EXPECT_EQ(rows(), 200);
+    backEnd.searchTables[1] = {newer, older};
+    CSearch query = condition({u"gold"_s});
+    query.language = SearchLanguage::Query;
+    query.method = numberOf(SearchMethod::All);
+    view->RespSearchHeadLineTable(query, 1);
+    EXPECT_EQ(rows(), 2);
+    EXPECT_EQ(sum(), u"found 2"_s);
+}
+
+TEST_F(SearchesOfTheView, WithoutTheOptionNothingIsSearchedForBeforeEnter) {
+    openSearch({{u"SearchQueries"_s, true}});
+    auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
+    QTest::keyClicks(edit, u"gold"_s);
+    EXPECT_EQ(backEnd.findings.size(), 0U);
+}
+
 TEST_F(SearchesOfTheView, TheBoxDropsDownWhatWasSearchedForNewestFirst) {
     openSearch({{u"SearchQueries"_s, true}, {u"SearchHistory"_s, true}});
     auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/query_entry.h"
 
+#include "search/typed_query.h"
 #include "tests/support/qt_printers.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +10,36 @@
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
+
+TEST(TypedQuery, TheWordAtTheEndMayGoOnAndFaultsAreLeftOut) {
+    const struct {
+        QString typed;
+        QString sought;
+    } cases[] = {
+        {{}, {}},
+        {u"   "_s, {}},
+        {u"us"_s, u"us"_s},  // too many words begin so
+        {u"gol"_s, u"gol*"_s},
+        {u" tin gold"_s, u"tin gold*"_s},
+        {u"gold "_s, u"gold"_s},  // is done
+        {u"700"_s, u"700*"_s},
+        {u"台積電"_s, u"台積電"_s},
+        {u"台積電ADR"_s, u"台積電ADR*"_s},
+        {u"-gold"_s, u"-gold*"_s},
+        {u"tin | gol"_s, u"tin | gol*"_s},
+        {u"title:cop"_s, u"title:cop*"_s},
+        {u"title:"_s, {}},
+        {u"gold -"_s, {}},
+        {u"\"gold"_s, {}},
+        {u"\"gold bars\""_s, u"\"gold bars\""_s},
+        {u"(gold"_s, {}},
+        {u"gold*"_s, u"gold*"_s},
+        {u"on:today"_s, u"on:today"_s},
+        {u"nonsense:gold"_s, {}},
+    };
+    for (const auto& one : cases)
+        EXPECT_EQ(typedQuery(one.typed), one.sought) << one.typed.toStdString();
+}
 
 TEST(QueryEntry, ListsAndConditionsSayTheSame) {
     constexpr int all = numberOf(SearchMethod::All);

@@ -5,6 +5,7 @@
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/news_origins.h"
 #include "host/contract/news_record.h"
+#include "host/contract/query/newest_found.h"
 #include "host/contract/query/search_counts.h"
 #include "host/contract/query/search_hits.h"
 #include "host/contract/search_control.h"
@@ -26,7 +27,8 @@ class FakeBackEnd : public BKQuoteInterface,
                     public NewsRecord,
                     public NewsOrigins,
                     public SearchHits,
-                    public SearchCounts {
+                    public SearchCounts,
+                    public NewestFound {
 public:
     FakeBackEnd() {
         setBKInterface(this);
@@ -111,13 +113,27 @@ public:
     QString PathGetSysPath() override { return sysPath; }
 
     // Keeps what is to be counted; the test answers it.
-    std::shared_ptr<const void> countFound(std::vector<CountedSearch> wanted, Told told) override {
+    std::shared_ptr<const void> findNewest(const CSearch& condition, const std::vector<unsigned char>& among,
+                                           std::size_t, NewestFound::Told told) override {
+        findings.push_back({condition, among, std::move(told)});
+        return findings.back().kept;
+    }
+    struct Finding {
+        CSearch condition;
+        std::vector<unsigned char> services;
+        NewestFound::Told told;
+        std::shared_ptr<int> kept = std::make_shared<int>();
+        bool isDropped() const { return kept.use_count() == 1; }
+    };
+    std::vector<Finding> findings;
+    std::shared_ptr<const void> countFound(std::vector<CountedSearch> wanted,
+                                           SearchCounts::Told told) override {
         countings.push_back({std::move(wanted), std::move(told)});
         return countings.back().kept;
     }
     struct Counting {
         std::vector<CountedSearch> searches;
-        Told told;
+        SearchCounts::Told told;
         std::shared_ptr<int> kept = std::make_shared<int>();
         // Nobody waits for it.
         bool isDropped() const { return kept.use_count() == 1; }

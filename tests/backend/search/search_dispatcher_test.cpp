@@ -144,6 +144,27 @@ TEST_F(SearchDispatcherTest, SearchesBesideThoseOfViewsLeaveTheirTablesAloneAndT
     EXPECT_EQ(sizes(), u"1,0");
 }
 
+TEST_F(SearchDispatcherTest, TheNewestFewAreToldToWhoeverStillWaits) {
+    QStringList told;
+    const auto ask = [&](const QString& name, std::size_t most) {
+        return desk->askNewest(
+            {{condition({u"gold"_s}), {1, 2}, most}},
+            [&told, name](std::vector<std::vector<CHeadlineTable>>&& found) {
+                told += name + u' ' + QString::number(found.front().size());
+                EXPECT_TRUE(std::is_sorted(found.front().rbegin(), found.front().rend(),
+                                           [](const auto& a, const auto& b) { return a.time < b.time; }));
+            });
+    };
+    auto dropped = ask(u"dropped"_s, 3);
+    const auto few = ask(u"few"_s, 2);
+    const auto all = ask(u"all"_s, 50);
+    dropped.reset();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() >= 2; }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told, (QStringList{u"few 2"_s, u"all 3"_s}));
+    EXPECT_EQ(sizes(), u"0,0") << "the tables of views are left alone";
+}
+
 TEST_F(SearchDispatcherTest, AWorkerReadsAheadWhileNothingIsAsked) {
     ASSERT_TRUE(store->execute("PRAGMA wal_checkpoint(TRUNCATE)"));
     for (const bool isAsked : {false, true}) {
