@@ -154,7 +154,7 @@ QFont TerminalSettings::SYS_fntGetViewFont() {
     font.setFamilies(familiesWithChinese(QFontInfo(font).family(), simplifiedGlyphs));
     font.setPointSize(fontSize());
     font.setWeight(QFont::Normal);
-    if (scheme() == ColourScheme::Dark)
+    if (scheme() != ColourScheme::Light)
         font.setWeight(weightOnDark(font));
     return font;
 }

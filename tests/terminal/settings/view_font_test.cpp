@@ -39,15 +39,18 @@ TEST(ViewFontTest, OnADarkGroundChineseAloneIsDrawnLighterWhereThereIsAFace) {
     SettingsFile file(folder.filePath(u"wirepane.json"_s));
     TerminalSettings settings(file);
     const QFont onLight = settings.SYS_fntGetViewFont();
-    settings.setScheme(ColourScheme::Dark);
-    const QFont onDark = settings.SYS_fntGetViewFont();
     const QString letters = u"Quarterly figures 1234"_s;
     const QString chinese = u"營收創新高半導體"_s;
-    EXPECT_EQ(inkOf(letters, onDark), inkOf(letters, onLight));
-    if (QFontDatabase::styles(u"Noto Sans CJK TC"_s).contains(u"DemiLight"_s))
-        EXPECT_LT(inkOf(chinese, onDark), inkOf(chinese, onLight));
-    else
-        EXPECT_EQ(inkOf(chinese, onDark), inkOf(chinese, onLight));
+    for (const ColourScheme dark : {ColourScheme::Dark, ColourScheme::HighContrast}) {
+        SCOPED_TRACE(schemeName(dark).toStdString());
+        settings.setScheme(dark);
+        const QFont onDark = settings.SYS_fntGetViewFont();
+        EXPECT_EQ(inkOf(letters, onDark), inkOf(letters, onLight));
+        if (QFontDatabase::styles(u"Noto Sans CJK TC"_s).contains(u"DemiLight"_s))
+            EXPECT_LT(inkOf(chinese, onDark), inkOf(chinese, onLight));
+        else
+            EXPECT_EQ(inkOf(chinese, onDark), inkOf(chinese, onLight));
+    }
 }
 
 }  // namespace
