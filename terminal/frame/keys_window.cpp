@@ -54,10 +54,15 @@ QString shownKeys(const QList<QKeySequence>& keys) {
 void addMenu(std::vector<KeyRow>& rows, const QMenu& menu) {
     const QList<QAction*> actions = menu.actions();
     for (const QAction* action : actions) {
-        if (action->menu() != nullptr)
+        if (action->menu() != nullptr) {
             addMenu(rows, *action->menu());
-        else if (!action->shortcut().isEmpty())
-            rows.push_back({shownKeys(action->shortcuts()), plainText(action->text())});
+            continue;
+        }
+        // What the view itself has the shortcut of tells it behind a tab.
+        const QString told = action->text().section(u'\t', 1);
+        const QString keys = told.isEmpty() ? shownKeys(action->shortcuts()) : told;
+        if (!keys.isEmpty())
+            rows.push_back({keys, plainText(action->text().section(u'\t', 0, 0))});
     }
 }
 
@@ -78,8 +83,11 @@ std::vector<KeyRow> rowsOf(const QMenuBar& menus, const QWidget* view, const QSt
     rows.push_back({{}, title});
     const auto shortcuts = view->findChildren<QShortcut*>();
     for (const QShortcut* shortcut : shortcuts) {
-        if (!shortcut->whatsThis().isEmpty())
-            rows.push_back({shownKeys({shortcut->key()}), plainText(shortcut->whatsThis())});
+        const QString keys = shownKeys({shortcut->key()});
+        const bool inMenu =
+            std::any_of(rows.begin(), rows.end(), [&keys](const KeyRow& row) { return row.keys == keys; });
+        if (!shortcut->whatsThis().isEmpty() && !inMenu)
+            rows.push_back({keys, plainText(shortcut->whatsThis())});
     }
     return rows;
 }
@@ -94,17 +102,22 @@ QLabel* label(const QString& text, bool strong) {
 }
 
 std::unique_ptr<QWidget> pageOf(const std::vector<KeyRow>& rows, std::size_t columns) {
-    const std::size_t perColumn = (rows.size() + columns - 1) / columns;
+    // Headings that go over to the next column leave a row free for each.
+    const std::size_t perColumn = (rows.size() + 2 * (columns - 1)) / columns;
     auto made = std::make_unique<QWidget>();
     auto* page = new QHBoxLayout(made.get());
     page->setSpacing(betweenColumns);
     page->setContentsMargins(24, 16, 24, 16);
-    for (std::size_t first = 0; first < rows.size(); first += perColumn) {
+    for (std::size_t first = 0; first < rows.size();) {
+        std::size_t end = std::min(first + perColumn, rows.size());
+        // What stands above keys does not end a column.
+        while (end < rows.size() && end > first + 1 && rows[end - 1].keys.isEmpty())
+            --end;
         auto* column = new QGridLayout;
         column->setHorizontalSpacing(16);
         column->setVerticalSpacing(4);
         int line = 0;
-        for (std::size_t row = first; row < std::min(first + perColumn, rows.size()); ++row, ++line) {
+        for (std::size_t row = first; row < end; ++row, ++line) {
             if (rows[row].keys.isEmpty()) {
                 column->addWidget(label(rows[row].does, true), line, 0, 1, 2);
                 continue;
@@ -115,6 +128,7 @@ std::unique_ptr<QWidget> pageOf(const std::vector<KeyRow>& rows, std::size_t col
         column->setRowStretch(line, 1);
         column->setColumnStretch(1, 1);
         page->addLayout(column);
+        first = end;
     }
     return made;
 }
