@@ -172,6 +172,10 @@ inline constexpr QLatin1StringView emptyBeginSearch{"IDS_NEWSCTRLVIEW_EMPTY_BEGI
 // In a story pane without a story.
 inline constexpr QLatin1StringView emptyStory{"IDS_NEWSCTRLVIEW_EMPTY_STORY"};
 inline constexpr QLatin1StringView emptyReadNewest{"IDS_NEWSCTRLVIEW_EMPTY_READ_NEWEST"};
+// In quotes without symbols: before a headline is chosen, of one that names none.
+inline constexpr QLatin1StringView emptyQuotes{"IDS_NEWSCTRLVIEW_EMPTY_QUOTES"};
+inline constexpr QLatin1StringView noRelatedSymbols{"IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE_NONE"};
+inline constexpr QLatin1StringView emptyLookUpSymbol{"IDS_NEWSCTRLVIEW_EMPTY_LOOK_UP_SYMBOL"};
 // "%1": a word that was searched for.
 inline constexpr QLatin1StringView emptyQuotedWord{"IDS_NEWSCTRLVIEW_EMPTY_QUOTED_WORD"};
 // "%1": the words, each in quotes.

@@ -8,6 +8,7 @@
 #include "news_view/news_services.h"
 #include "news_view/view_context.h"
 #include "news_view/view_settings.h"
+#include "search/news_relate_symbol_quote_view.h"
 #include "search/search_desk.h"
 
 #include <QPlainTextEdit>
@@ -28,6 +29,10 @@ void EmptyLists::watch(CSuperSheetWnd& grid, ListIndex list) {
     notes[list] = note;
     connect(note, &EmptyNote::acted, this, &EmptyLists::act);
     connect(note, &EmptyNote::otherChosen, this, [this](int offer) { calls.takeOffer(offer); });
+    followRowsOf(grid);
+}
+
+void EmptyLists::followRowsOf(const CSuperSheetWnd& grid) {
     const QAbstractItemModel* const rows = grid.model();
     connect(rows, &QAbstractItemModel::rowsInserted, this, &EmptyLists::followSoon);
     connect(rows, &QAbstractItemModel::rowsRemoved, this, &EmptyLists::followSoon);
@@ -46,6 +51,7 @@ void EmptyLists::follow() {
     isPosted = false;
     followList();
     followStory();
+    followQuotes();
 }
 
 // The text is made when the pane is first asked for.
@@ -63,6 +69,25 @@ void EmptyLists::followStory() {
         storyNote->tell(emptyStoryText(grid != nullptr && grid->rowCount() > 0, parts.backEnd));
     else
         storyNote->hide();
+}
+
+// Made with the pane, too.
+void EmptyLists::followQuotes() {
+    CNewsRelateSymbolQuoteView* const quotes = calls.quotes();
+    if (quotes == nullptr)
+        return;
+    if (quotesNote == nullptr) {
+        quotesNote = new EmptyNote(quotes);
+        connect(quotesNote, &EmptyNote::acted, this, [this] { calls.showList(ListIndex::Symbol); });
+        followRowsOf(*quotes->quoteSheet());
+    }
+    const bool canLookUp =
+        context.shownList() != ListIndex::Symbol && context.listOf(ListIndex::Symbol).grid() != nullptr;
+    if (quotes->rowCount() == 0)
+        quotesNote->tell(
+            emptyQuotesText(quotes->currentDataState() == DataState::NotSupported, canLookUp, parts.backEnd));
+    else
+        quotesNote->hide();
 }
 
 void EmptyLists::readNewest() {

@@ -13,6 +13,7 @@
 #include <map>
 #include <optional>
 
+class CNewsRelateSymbolQuoteView;
 class CSuperSheetWnd;
 class QPlainTextEdit;
 struct CSearch;
@@ -22,8 +23,8 @@ class SearchDesk;
 class ViewContext;
 
 // Lists without rows say why, and offer a way out: the nearest day with news, another list, the dialog that
-// fills the list. A story pane without a story says what it is for. For a view whose options ask for it.
-// Interface thread only.
+// fills the list. A story pane without a story says what it is for, and so do quotes without symbols. For a
+// view whose options ask for it. Interface thread only.
 class EmptyLists : public QObject {
     Q_OBJECT
 
@@ -36,10 +37,11 @@ public:
         std::function<QString()> subject;  // the chosen category or symbol, as it is shown
         std::function<void(ListIndex)> showList;
         std::function<void()> chooseServices;
-        std::function<void()> beginSearch;           // the keyboard goes to the search box
-        std::function<void(ListIndex)> compose;      // what the list is filled by
-        std::function<QPlainTextEdit*()> storyText;  // of the story pane; null: there is none
-        std::function<void()> clearStory;            // of that pane
+        std::function<void()> beginSearch;                    // the keyboard goes to the search box
+        std::function<void(ListIndex)> compose;               // what the list is filled by
+        std::function<QPlainTextEdit*()> storyText;           // of the story pane; null: there is none
+        std::function<void()> clearStory;                     // of that pane
+        std::function<CNewsRelateSymbolQuoteView*()> quotes;  // beside it; null: there are none
         // What a search that found nothing offers; empty: nothing. One of it is taken.
         std::function<QStringList(const CSearch&)> offers;
         std::function<void(int)> takeOffer;
@@ -53,9 +55,11 @@ public:
     void followSoon();
 
 private:
+    void followRowsOf(const CSuperSheetWnd& grid);
     void follow();
     void followList();
     void followStory();
+    void followQuotes();
     void readNewest();
     bool isAwaited() const;
     EmptyList known(ListIndex list) const;
@@ -68,6 +72,7 @@ private:
     const Calls calls;
     std::map<ListIndex, QPointer<EmptyNote>> notes;  // belong to the grids
     QPointer<EmptyNote> storyNote;                   // belongs to the text of the pane
+    QPointer<EmptyNote> quotesNote;                  // belongs to the quotes
     bool isPosted = false;
 };
 

@@ -27,6 +27,11 @@ EmptyText emptyStoryText(bool hasRows, BKQuoteInterface& backEnd) {
             hasRows ? langText(backEnd, keys::emptyReadNewest) : QString()};
 }
 
+EmptyText emptyQuotesText(bool isOfHeadline, bool canLookUp, BKQuoteInterface& backEnd) {
+    return {LineIcon::Quotes, langText(backEnd, isOfHeadline ? keys::noRelatedSymbols : keys::emptyQuotes),
+            canLookUp ? langText(backEnd, keys::emptyLookUpSymbol) : QString()};
+}
+
 EmptyText emptyTextOf(const EmptyList& list, BKQuoteInterface& backEnd) {
     const auto text = [&backEnd](QLatin1StringView key) { return langText(backEnd, key); };
     if (wantsServices(list))

@@ -29,6 +29,9 @@ bool wantsServices(const EmptyList& list);
 
 // What a story pane without a story says; `hasRows`: beside a list that has some.
 EmptyText emptyStoryText(bool hasRows, BKQuoteInterface& backEnd);
+// Of the quotes beside it: of a headline that names no symbols, or of none; whether the list of a symbol is
+// another one that can be shown.
+EmptyText emptyQuotesText(bool isOfHeadline, bool canLookUp, BKQuoteInterface& backEnd);
 
 // What the list says in the language in force, and what the button beside it.
 EmptyText emptyTextOf(const EmptyList& list, BKQuoteInterface& backEnd);

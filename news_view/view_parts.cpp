@@ -386,6 +386,7 @@ EmptyLists::Calls TRVNewsCtrlView::Parts::emptyListCalls() {
             },
             [this] { return qobject_cast<QPlainTextEdit*>(stage.paneText()); },
             [this] { story.clear(); },
+            [this] { return stage.relatedQuotes(); },
             [this](const CSearch& found) { return offersFor(found); },
             [this](int offer) { takeOffer(offer); },
             [this] { searchOffers.forget(); }};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/news_relate_symbol_quote_view.h"
 
+#include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/lang_text.h"
 #include "host/contract/symbol_name.h"
@@ -19,7 +20,6 @@ using namespace wirepane;
 namespace {
 
 constexpr QLatin1StringView titleKey{"IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE"};
-constexpr QLatin1StringView noSymbolsKey{"IDS_QUOTE-SYMBOLGROUP_NEWSRELATEQUOTE_NONE"};
 constexpr int nameCharacters = 16;
 
 }  // namespace
@@ -77,7 +77,7 @@ void CNewsRelateSymbolQuoteView::vLoadLanguageString() {
 }
 
 QString CNewsRelateSymbolQuoteView::notice() const {
-    return langText(noSymbolsKey);
+    return langText(keys::noRelatedSymbols);
 }
 
 void CNewsRelateSymbolQuoteView::vChangeCast() {

@@ -82,10 +82,22 @@ void EmptyNote::changeEvent(QEvent* event) {
         place();
 }
 
+int EmptyNote::textHeight() const {
+    return sentencePlace().height() + 2 * gap +
+           (button->height() + gap) * (1 + static_cast<int>(told.others.size()));
+}
+
+bool EmptyNote::hasRoomForIcon() const {
+    return height() >= iconSide + gap + textHeight() + margin;
+}
+
+// Without room for it what stands below is put in the middle.
 QRect EmptyNote::iconPlace() const {
-    const int needed = iconSide + gap + sentencePlace().height() + 2 * gap +
-                       (button->height() + gap) * (1 + static_cast<int>(told.others.size()));
-    const int top = std::max(margin, std::min({lowestTop, height() / 4, height() - needed - margin}));
+    const int text = textHeight();
+    if (!hasRoomForIcon())
+        return {0, std::max(0, (height() - text + gap) / 2) - iconSide - gap, iconSide, iconSide};
+    const int top =
+        std::max(margin, std::min({lowestTop, height() / 4, height() - iconSide - gap - text - margin}));
     return {(width() - iconSide) / 2, top, iconSide, iconSide};
 }
 
@@ -116,7 +128,8 @@ void EmptyNote::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QColor weak = roleColour(ColourRole::Weak, palette().color(QPalette::PlaceholderText));
     const QRect icon = iconPlace();
-    drawLineIcon(painter, told.icon, icon, weak, iconStroke);
+    if (hasRoomForIcon())
+        drawLineIcon(painter, told.icon, icon, weak, iconStroke);
     painter.setPen(palette().color(QPalette::Text));
     painter.drawText(QRect(margin, icon.bottom() + 1 + gap, width() - 2 * margin, height()), sentenceFlags,
                      told.sentence);

@@ -25,7 +25,8 @@ struct EmptyText {
     bool operator==(const EmptyText&) const = default;
 };
 
-// Covers its parent with such a text, and stays as large as that. Hidden at first.
+// Covers its parent with such a text, and stays as large as that; a low one goes without the icon. Hidden at
+// first.
 class WIREPANE_HOST_EXPORT EmptyNote : public QWidget {
     Q_OBJECT
 
@@ -49,8 +50,10 @@ protected:
 
 private:
     void place();
+    bool hasRoomForIcon() const;
     QRect iconPlace() const;
     QRect sentencePlace() const;
+    int textHeight() const;  // of the sentence and the buttons
     void placeButton(SButton& which, int top) const;
     void tellOthers();
 

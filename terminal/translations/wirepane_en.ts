@@ -1551,6 +1551,10 @@
         <source></source>
         <translation>No news on %1.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_LOOK_UP_SYMBOL">
+        <source></source>
+        <translation>Look Up a Symbol</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_NOTHING">
         <source></source>
         <translation>There is no news here.</translation>
@@ -1570,6 +1574,10 @@
     <message id="IDS_NEWSCTRLVIEW_EMPTY_QUOTED_WORD">
         <source></source>
         <translation>“%1”</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_QUOTES">
+        <source></source>
+        <translation>The quotes of the headline’s symbols stand here.</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_READ_NEWEST">
         <source></source>

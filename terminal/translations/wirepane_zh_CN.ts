@@ -1551,6 +1551,10 @@
         <source></source>
         <translation>%1 没有新闻。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_LOOK_UP_SYMBOL">
+        <source></source>
+        <translation>查询证券</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_NOTHING">
         <source></source>
         <translation>这里没有新闻。</translation>
@@ -1570,6 +1574,10 @@
     <message id="IDS_NEWSCTRLVIEW_EMPTY_QUOTED_WORD">
         <source></source>
         <translation>“%1”</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_QUOTES">
+        <source></source>
+        <translation>标题的相关证券，其报价显示在这里。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_READ_NEWEST">
         <source></source>

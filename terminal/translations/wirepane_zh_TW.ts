@@ -1551,6 +1551,10 @@
         <source></source>
         <translation>%1 沒有新聞。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_LOOK_UP_SYMBOL">
+        <source></source>
+        <translation>查詢商品</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_NOTHING">
         <source></source>
         <translation>這裡沒有新聞。</translation>
@@ -1570,6 +1574,10 @@
     <message id="IDS_NEWSCTRLVIEW_EMPTY_QUOTED_WORD">
         <source></source>
         <translation>「%1」</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_EMPTY_QUOTES">
+        <source></source>
+        <translation>標題的相關商品，其報價顯示在這裡。</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_EMPTY_READ_NEWEST">
         <source></source>

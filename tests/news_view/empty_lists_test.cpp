@@ -4,6 +4,7 @@
 #include "host/controls/empty_note.h"
 #include "host/controls/s_button.h"
 #include "host/views/news_control_ids.h"
+#include "search/news_relate_symbol_quote_view.h"
 #include "tests/news_view/view_fixture.h"
 #include "tests/support/conditions.h"
 
@@ -85,6 +86,26 @@ TEST_F(EmptyListsTest, AStoryPaneSaysWhatItIsForUntilAStoryIsThere) {
     view->bChangeDate(QDate(2026, 3, 1));
     EXPECT_NE(storyNote(), nullptr) << "the story of another day";
     EXPECT_EQ(state(u"storyRow"_s), -1);
+}
+
+TEST_F(EmptyListsTest, QuotesWithoutSymbolsOfferTheListOfASymbolFromOtherLists) {
+    openActive({{u"EmptyStates"_s, true}, {u"NewsShowType"_s, 1}});
+    const auto quotesNote = [this]() -> const EmptyNote* {
+        note();
+        const auto* quotes = view->findChild<CNewsRelateSymbolQuoteView*>();
+        const auto* found = quotes != nullptr ? quotes->findChild<EmptyNote*>() : nullptr;
+        return found != nullptr && !found->isHidden() ? found : nullptr;
+    };
+    ASSERT_NE(quotesNote(), nullptr);
+    const QString beforeAStory = quotesNote()->text().sentence;
+    push(1, 10, 0, 7);
+    view->pGetCurrSheetView()->setActiveSelection(0, -1);
+    ASSERT_NE(quotesNote(), nullptr) << "a headline that names no symbol";
+    EXPECT_NE(quotesNote()->text().sentence, beforeAStory);
+    press(*quotesNote());
+    EXPECT_EQ(state(u"mode"_s), 2);
+    ASSERT_NE(quotesNote(), nullptr);
+    EXPECT_TRUE(quotesNote()->text().action.isEmpty());
 }
 
 TEST_F(EmptyListsTest, ASearchThatFindsNothingOffersWhatWouldFindSomething) {
