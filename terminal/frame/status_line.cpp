@@ -166,8 +166,10 @@ void StatusLine::show(const FrameStatus& status) {
     index->setText(indexText(status));
     showText(headlines,
              status.headlines < 0 ? QString() : countText(TextId::HeadlineCount, status.headlines));
-    services->setText(
-        countText(terminalText(TextId::ServicesCount).arg(status.services), status.allServices));
+    showText(services,
+             status.services < 0
+                 ? QString()
+                 : countText(terminalText(TextId::ServicesCount).arg(status.services), status.allServices));
     const int side = fontMetrics().height();
     servicesIcon->setPixmap(lineIcon(LineIcon::Services, QPalette::PlaceholderText)
                                 .pixmap(QSize(side, side), devicePixelRatioF()));

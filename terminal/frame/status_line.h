@@ -24,7 +24,7 @@ struct FrameStatus {
     std::int64_t lastHeadline = 0;  // its time; 0: there is none
     std::int64_t now = 0;
     QString storeFile;
-    int services = 0;  // that are ticked, of those that there are
+    int services = -1;  // that are ticked, of those that there are; -1: the list on show has its own
     int allServices = 0;
     int headlines = -1;              // of the list on show; -1: there is none
     QString asOf;                    // empty: the present moment is the machine's

@@ -10,14 +10,25 @@
 
 namespace wirepane {
 
+namespace {
+
+void takeSchemeAndFont(TerminalSettings& settings) {
+    QApplication::setPalette(schemePalette(settings.scheme()));
+    QApplication::setFont(settings.SYS_fntGetViewFont());
+}
+
+}  // namespace
+
 Appearance::Appearance(TerminalSettings& terminalSettings, Workspace& openViews)
-    : settings(terminalSettings), workspace(openViews) {
+    : settings(terminalSettings), workspace(openViews) {}
+
+void Appearance::dress(TerminalSettings& settings) {
     QApplication::setStyle(new TerminalStyle);
+    takeSchemeAndFont(settings);
 }
 
 void Appearance::apply() {
-    QApplication::setPalette(schemePalette(settings.scheme()));
-    QApplication::setFont(settings.SYS_fntGetViewFont());
+    takeSchemeAndFont(settings);
     tellViews();
 }
 

@@ -17,6 +17,8 @@ public:
 
     // Takes what the settings say: at start, and whenever they have changed.
     void apply();
+    // Style, scheme and font of windows that are shown before there are views.
+    static void dress(TerminalSettings& settings);
     void setScheme(ColourScheme scheme);
     // Points, cut to what the settings allow.
     void setFontSize(int points);

@@ -90,6 +90,7 @@ Done Session::start(const SessionOptions& options) {
     if (!QDir().mkpath(configFolder))
         return makeError<session_errors::settingsFolderNotMade>(configFolder);
     const QString wanted = options.language.isEmpty() ? terminalSettings->language() : options.language;
+    Appearance::dress(*terminalSettings);
     if (const Done opened = openStore(options, wanted); !opened)
         return opened;
     store->setSysPath(configFolder);

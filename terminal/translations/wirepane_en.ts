@@ -2426,7 +2426,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_FILLING_SAMPLE">
         <source></source>
-        <translation>Writing a week of invented news for the sample wire. This happens once.</translation>
+        <translation>Preparing today’s news of the sample wire, all of it invented.</translation>
     </message>
     <message id="TERMINAL_FIRST_STEPS">
         <source></source>

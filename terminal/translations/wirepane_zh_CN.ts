@@ -2426,7 +2426,7 @@
     </message>
     <message id="TERMINAL_FILLING_SAMPLE">
         <source></source>
-        <translation>正在写入一周的示例新闻，内容均为虚构，只需进行一次。</translation>
+        <translation>正在准备今天的示例新闻，内容均为虚构。</translation>
     </message>
     <message id="TERMINAL_FIRST_STEPS">
         <source></source>

@@ -2426,7 +2426,7 @@
     </message>
     <message id="TERMINAL_FILLING_SAMPLE">
         <source></source>
-        <translation>正在寫入一週的示範新聞，內容均為虛構，只需進行一次。</translation>
+        <translation>正在準備今天的示範新聞，內容均為虛構。</translation>
     </message>
     <message id="TERMINAL_FIRST_STEPS">
         <source></source>
