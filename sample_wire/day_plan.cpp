@@ -12,7 +12,8 @@ namespace wirepane::sample {
 namespace {
 
 constexpr int quietSeconds = 600;
-constexpr std::int64_t followedSeconds = 10;
+constexpr int followedSeconds = 10;
+constexpr int burstPermille = 25;
 constexpr std::uint32_t firstFillerOrdinal = 10'000'000;
 
 bool earlier(const PlannedItem& a, const PlannedItem& b) {
@@ -119,14 +120,20 @@ std::vector<PlannedItem> DayPlan::followedDay(Day followed) const {
             busy[static_cast<std::size_t>((item.time - followed.startUtc()) / followedSeconds)] = true;
     }
     for (std::size_t slot = 0; slot < busy.size(); ++slot) {
-        if (busy[slot])
-            continue;
         Random random(hashOf(planSeed, static_cast<std::uint64_t>(followed.number), slot));
-        const std::int64_t second = static_cast<std::int64_t>(slot) * followedSeconds +
-                                    random.between(0, static_cast<int>(followedSeconds) - 1);
-        const int service = random.between(0, static_cast<int>(ordinary.size()) - 1);
-        items.push_back({followed.startUtc() + second, ordinary[static_cast<std::size_t>(service)],
-                         firstFillerOrdinal + static_cast<std::uint32_t>(second), true});
+        const int chosen = random.between(0, followedSeconds - 1);
+        // Where something happens, now and then much does.
+        const bool isBurst = busy[slot] && random.chance(burstPermille);
+        if (busy[slot] && !isBurst)
+            continue;
+        const int end = isBurst ? followedSeconds : chosen + 1;
+        for (int within = isBurst ? 0 : chosen; within < end; ++within) {
+            const auto second =
+                static_cast<std::uint32_t>(slot) * followedSeconds + static_cast<std::uint32_t>(within);
+            const int service = random.between(0, static_cast<int>(ordinary.size()) - 1);
+            items.push_back({followed.startUtc() + second, ordinary[static_cast<std::size_t>(service)],
+                             firstFillerOrdinal + second, true});
+        }
     }
     std::sort(items.begin(), items.end(), earlier);
     return items;

@@ -45,7 +45,7 @@ public:
     // minutes empty sends the fillers of these minutes, as those have them who follow the day.
     std::vector<PlannedItem> dayUntil(std::int64_t now) const;
     // The items of a day that is followed as it goes by: those of day(), and a filler of an ordinary wire in
-    // every ten seconds in which none sends anything.
+    // every ten seconds in which none sends anything, and now and then one in each second of a burst.
     std::vector<PlannedItem> followedDay(Day day) const;
 
 private:

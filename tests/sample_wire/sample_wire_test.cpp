@@ -219,6 +219,12 @@ TEST(SampleWire, FollowedItSendsSomethingEveryTwentySecondsAndTheSameToEverybody
         before = item.time;
         EXPECT_TRUE(versions.emplace(item.identity, item.version).second) << lineOf(item).toStdString();
     }
+    int inBursts = 0;
+    constexpr std::size_t many = 10;
+    for (std::size_t i = many; i < all.size(); ++i)
+        inBursts += all[i].time - all[i - many].time < 10 ? 1 : 0;
+    EXPECT_GT(inBursts, 20);
+    EXPECT_LT(inBursts, 2'000) << "of some sixty thousand";
     // Who comes later gets what the others got, and what the wire has sent of the day is in it.
     const std::vector<NewsItem> later = newsFrom(afternoon + days / 2, afternoon + days);
     ASSERT_GT(later.size(), 1000U);
