@@ -20,7 +20,7 @@ MOMENT = "2026-03-02T10:30:00"
 ALL, CATEGORY, SYMBOL, SEARCH, RELATION, WARRANTS, WARNINGS = range(7)
 TABS, SEARCH_EDIT, SEARCH_BUTTON, SHOW_TYPE = 3100, 3008, 3007, 25458
 DEALS_DIALOG, RELATION_DIALOG, WARNING_DIALOG = 3002, 3001, 3006
-WORDS = {"en": ("rate", "bank"), "zh-TW": ("市場", "銀行"), "zh-CN": ("市场", "银行")}
+WORDS = {"en": ("rate", "bank"), "zh-TW": ("市場", "銀行"), "zh-CN": ("公司", "银行")}
 
 LIST_PORT = 8719  # always the same, because the picture names it
 LIST_TITLES = {"en": "Announcements", "zh-TW": "重大訊息", "zh-CN": "重大讯息"}
