@@ -102,6 +102,11 @@ inline constexpr QLatin1StringView withdrawnMark{"IDS_NEWSCTRLVIEW_WITHDRAWN"};
 inline constexpr QLatin1StringView markRead{"IDS_NEWSCTRLVIEW_MARK_READ"};
 inline constexpr QLatin1StringView markUnread{"IDS_NEWSCTRLVIEW_MARK_UNREAD"};
 inline constexpr QLatin1StringView markAllRead{"IDS_NEWSCTRLVIEW_MARK_ALL_READ"};
+// "%1": how many headlines; what newAbove says.
+inline constexpr QLatin1StringView newAbove{"IDS_NEWSCTRLVIEW_NEW_ABOVE"};
+inline constexpr QLatin1StringView goToNewest{"IDS_NEWSCTRLVIEW_GO_TO_NEWEST"};
+// "%1": the tab or the caption; "%2": how many.
+inline constexpr QLatin1StringView withUnread{"IDS_NEWSCTRLVIEW_WITH_UNREAD"};
 inline constexpr QLatin1StringView starNews{"IDS_NEWSCTRLVIEW_STAR"};
 inline constexpr QLatin1StringView unreadState{"IDS_NEWSCTRLVIEW_STATE_UNREAD"};
 inline constexpr QLatin1StringView starredState{"IDS_NEWSCTRLVIEW_STATE_STARRED"};

@@ -37,6 +37,7 @@ inline constexpr std::array commandKeys{
     CommandKey{QLatin1StringView("Ctrl+U"), ids::markUnread},
     CommandKey{QLatin1StringView("Ctrl+J"), ids::turnStar},
     CommandKey{QLatin1StringView("Ctrl+Shift+A"), ids::markAllRead},
+    CommandKey{QLatin1StringView("Ctrl+T"), ids::showNewest},
 };
 
 // The key that does what the command does; empty: none.

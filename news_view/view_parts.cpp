@@ -44,6 +44,8 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       storyInput(storyInputSurroundings()),
       newestRow(*this, [this] { return settings.options[ViewOption::FollowNewest]; }),
       reading(*this, common, {[this] { return selectedEntries(); }, [this] { return story.newsInPane(); }}),
+      arrivalPill(*this, common),
+      unreadCounts(*this, common),
       output(backEnd, outputDialogs, outputSurroundings()),
       rowsExport(backEnd, view, exportCalls()),
       board(noticeSurroundings(), noticeTellers()),
@@ -129,6 +131,7 @@ void TRVNewsCtrlView::Parts::connectGrid(CSuperSheetWnd& grid, ListIndex list) {
     QObject::connect(grid.selectionModel(), &QItemSelectionModel::currentRowChanged, &view,
                      [this, &grid, list] { story.follow(grid, list); });
     newestRow.watch(grid, list);
+    arrivalPill.watch(grid, list);
     emptyLists.watch(grid, list);
     if (list == ListIndex::Search || list == ListIndex::WarningTerm)
         searchLine.watch(grid);
@@ -203,6 +206,8 @@ QColor TRVNewsCtrlView::Parts::timeColour(std::int64_t time) const {
 void TRVNewsCtrlView::Parts::rowsReplaced(ListIndex list) {
     if (modes.shown() == list)
         story.forget();
+    arrivalPill.forget(list);
+    unreadCounts.forget(list);
     if (!story.isReadInPlace())
         newestRow.forget(list);
     if (settings.options[ViewOption::MarkHits])
@@ -257,7 +262,7 @@ SentAgain::Choices TRVNewsCtrlView::Parts::choices() {
 
 LiveNews::Calls TRVNewsCtrlView::Parts::liveCalls() {
     return {[this] { return intakeChoices(); },
-            [this](ListIndex list, const HeadlinePlace& place) { story.keepThrough(list, place); },
+            [this](ListIndex list, const HeadlinePlace& place) { rowsMoved(list, place); },
             [this] { story.forget(); },
             [this](const CHeadline& headline, const QString& categoryId) {
                 searches.notePushed(headline);
@@ -413,7 +418,7 @@ bool TRVNewsCtrlView::Parts::takeRowCommand(int id) {
     else if (id == ids::turnChanges)
         story.turnChanges();
     else
-        return reading.carryOut(id);
+        return reading.carryOut(id) || arrivalPill.carryOut(id);
     return true;
 }
 

@@ -9,6 +9,7 @@
 #include "headline_list/outages.h"
 #include "news_view/application_switches.h"
 #include "news_view/arrangement.h"
+#include "news_view/arrival_pill.h"
 #include "news_view/category_mode.h"
 #include "news_view/common_parts.h"
 #include "news_view/context_menu.h"
@@ -40,6 +41,7 @@
 #include "news_view/story_stage.h"
 #include "news_view/symbol_mode.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "news_view/unread_counts.h"
 #include "news_view/view_builder.h"
 #include "news_view/view_context.h"
 #include "news_view/view_settings.h"
@@ -66,6 +68,8 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     void placeNotices() override {
         board.place();
         emptyLists.followSoon();
+        arrivalPill.followSoon();
+        unreadCounts.showAgain();
         searchLine.followSoon();
     }
 
@@ -137,6 +141,8 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::StoryInput storyInput;
     wirepane::NewestRow newestRow;
     wirepane::Reading reading;
+    wirepane::ArrivalPill arrivalPill;
+    wirepane::UnreadCounts unreadCounts;
     wirepane::OutputJobs output;
     wirepane::RowsExport rowsExport;
     wirepane::NoticeBoard board;
@@ -186,6 +192,12 @@ private:
     QString shownSubject();
     wirepane::IntakeState intakeChoices() const;
     void connectGrid(CSuperSheetWnd& grid, wirepane::ListIndex list);
+    // Rows of a list have come, gone or moved.
+    void rowsMoved(wirepane::ListIndex list, const wirepane::HeadlinePlace& place) {
+        story.keepThrough(list, place);
+        arrivalPill.noteMoved(list, place);
+        unreadCounts.noteMoved(list, place);
+    }
     void readForServices();
     void readUnfiltered();
 };

@@ -181,6 +181,10 @@ public:
     void changeMarks(std::vector<HeadlineKey> keys, const MarkChange& change) override {
         marks.change(std::move(keys), change);
     }
+    void findUnread(std::vector<HeadlineKey> keys, std::size_t most, QObject* asker,
+                    std::function<void(const std::vector<HeadlineKey>&)> tell) override {
+        marks.findUnread(std::move(keys), most, asker, std::move(tell));
+    }
     MarkTeller& markTeller() override { return marks.teller(); }
     // When the newest headline was dated that is there at the present moment; 0: there is none.
     std::int64_t newestTime();

@@ -5,6 +5,9 @@
 #include "backend/store/store_writer.h"
 #include "host/contract/clock.h"
 
+#include <QPointer>
+
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -82,6 +85,46 @@ bool MarkingDesk::writeAll() {
     }
     writeNow();
     return !waiting.isEmpty();
+}
+
+// A search for what is unread, a portion of it at a time: news waits for no more.
+struct MarkingDesk::Finding {
+    std::vector<HeadlineKey> keys;
+    std::size_t most;
+    QPointer<QObject> asker;
+    Told tell;
+    std::size_t looked = 0;
+    std::vector<HeadlineKey> unread = {};
+
+    bool isDone() const { return looked == keys.size() || unread.size() >= most; }
+    void look(MarkBook& book) {
+        for (std::size_t end = std::min(looked + writtenAtOnce, keys.size()); looked < end && !isDone();
+             ++looked) {
+            if (book.find(keys[looked]).state == ReadingState::New)
+                unread.push_back(keys[looked]);
+        }
+    }
+};
+
+void MarkingDesk::findUnread(std::vector<HeadlineKey> keys, std::size_t most, QObject* asker, Told tell) {
+    if (ask)
+        findFurther(std::make_shared<Finding>(Finding{std::move(keys), most, asker, std::move(tell)}));
+}
+
+void MarkingDesk::findFurther(const std::shared_ptr<Finding>& finding) {
+    ask(
+        [finding](StoreWriter& writer) {
+            MarkBook written(writer.connection());
+            finding->look(written);
+        },
+        [this, finding] {
+            if (finding->asker == nullptr)
+                return;
+            if (finding->isDone())
+                finding->tell(finding->unread);
+            else
+                findFurther(finding);
+        });
 }
 
 void MarkingDesk::forgetAll() {

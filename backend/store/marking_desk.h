@@ -13,6 +13,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace wirepane {
@@ -27,6 +28,8 @@ public:
     // Does the work on the store's thread, and calls back when look-ups see what it has written.
     using Ask = std::function<void(StoreIntake::Work, StoreIntake::Then)>;
 
+    using Told = std::function<void(const std::vector<HeadlineKey>&)>;
+
     // The position of the last arrival that look-ups see.
     using Heard = std::function<std::int64_t()>;
 
@@ -36,6 +39,8 @@ public:
     bool canMark() const { return bool(ask); }
     ReadingMark markOf(const HeadlineKey& key);
     void change(std::vector<HeadlineKey> keys, const MarkChange& change);
+    // As ReadingMarks::findUnread.
+    void findUnread(std::vector<HeadlineKey> keys, std::size_t most, QObject* asker, Told tell);
     MarkTeller& teller() { return tells; }
     // The news has been sent again, or has gone.
     void forget(const HeadlineKey& key) { known.remove({key}); }
@@ -58,6 +63,8 @@ private:
         MarkedKey key;
         Waiting what;
     };
+    struct Finding;
+    void findFurther(const std::shared_ptr<Finding>& finding);
     void hold(const DueMark& due);
     // The next ones of a long list hold, and are given to be written. False: there are none.
     bool takeNext();

@@ -7,7 +7,9 @@
 
 #include <QObject>
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -69,6 +71,10 @@ public:
     // Holds from now on, and is told; what keeps it does so a moment later. Thousands at once hold a portion
     // after the other, in this order, each of which is told.
     virtual void changeMarks(std::vector<HeadlineKey> keys, const MarkChange& change) = 0;
+    // Finds the first `most` of the keys whose news is new, off this thread, and tells them in their order
+    // from the event loop, as long as `asker` is there.
+    virtual void findUnread(std::vector<HeadlineKey> keys, std::size_t most, QObject* asker,
+                            std::function<void(const std::vector<HeadlineKey>&)> tell) = 0;
     // Lives as long as this.
     virtual MarkTeller& markTeller() = 0;
 };

@@ -53,6 +53,8 @@ enum class ViewOption {
     SearchHistory,    // the search box, wider, drops down what was searched for
     NamedSearches,    // the search box drops down searches that were given names, for all views of the host
     ReadingMarks,     // rows show what was read and starred, what is read is marked, in its row and for good
+    ArrivalPill,      // what came above the rows on screen is counted at the list's top; a click goes there
+    UnreadCounts,     // tabs and the view's caption say how much of their lists is unread
     OtherYears,       // rows of another year than the present one show their day with its year
     MarkHits,         // what was searched for is marked in titles and stories, a tint for each word
     SearchOffers,     // a search that finds nothing offers what would find something, with counts
@@ -103,6 +105,8 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::SearchHistory, QLatin1StringView("SearchHistory")},
     {ViewOption::NamedSearches, QLatin1StringView("NamedSearches")},
     {ViewOption::ReadingMarks, QLatin1StringView("ReadingMarks")},
+    {ViewOption::ArrivalPill, QLatin1StringView("ArrivalPill")},
+    {ViewOption::UnreadCounts, QLatin1StringView("UnreadCounts")},
     {ViewOption::OtherYears, QLatin1StringView("OtherYears")},
     {ViewOption::MarkHits, QLatin1StringView("MarkHits")},
     {ViewOption::SearchOffers, QLatin1StringView("SearchOffers")},

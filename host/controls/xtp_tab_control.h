@@ -27,6 +27,10 @@ public:
     // 0 for an index out of range.
     int itemData(int index) const;
 
+    // A count beside a tab's text, and what a screen reader says of the tab; an empty one takes it away.
+    void setBadge(int index, const QString& badge, const QString& spoken);
+    QString badge(int index) const;
+
     void SetColorSet(const TRVTabColorSet& colours);
 
     // The selected tab; -1 when there is none.
@@ -37,6 +41,8 @@ public:
 Q_SIGNALS:
     // The user selected another tab, by mouse, wheel or keys.
     void selChange(int index);
+    // The tab has another count.
+    void badgeChanged(int index);
 
 private:
     bool byUser = true;

@@ -64,6 +64,12 @@ QString OpenView::shownTitle() const {
     return ofSymbol && !code.isEmpty() ? u"%1 %2"_s.arg(subject, code) : subject;
 }
 
+QString OpenView::countedTitle() const {
+    const auto* strip = qobject_cast<CXTPTabControl*>(dlgItem(view, ids::tabStrip));
+    const QString count = strip != nullptr ? strip->badge(strip->curSel()) : QString();
+    return count.isEmpty() ? shownTitle() : u"%1 (%2)"_s.arg(shownTitle(), count);
+}
+
 CSuperSheetWnd* OpenView::shownGrid() const {
     for (int list = 0; list < NewsViewAccess::lists; ++list) {
         CSuperSheetWnd* sheet = access->sheetOf(list);
@@ -133,8 +139,10 @@ Done Workspace::start(OpenView& open, unsigned char group, const QSize& size) {
     if (open.dock != nullptr)
         open.dock->setWidget(view);
     view->show();
-    if (const auto* strip = qobject_cast<CXTPTabControl*>(dlgItem(view, ids::tabStrip)))
+    if (const auto* strip = qobject_cast<CXTPTabControl*>(dlgItem(view, ids::tabStrip))) {
         connect(strip, &QTabBar::currentChanged, this, &Workspace::refreshTitles, Qt::QueuedConnection);
+        connect(strip, &CXTPTabControl::badgeChanged, this, &Workspace::refreshCounts, Qt::QueuedConnection);
+    }
     emit opened(&open);
     return Nothing{};
 }
@@ -285,14 +293,21 @@ void Workspace::showDeskWhereNeeded() {
     frame.showDesk(pinned || frame.docks().all().isEmpty());
 }
 
+void Workspace::refreshCounts() {
+    for (const auto& open : openViews) {
+        if (open->dock != nullptr && open->view != nullptr)
+            open->dock->setTitle(open->countedTitle(), open->view->linkedGroup());
+    }
+    emit counted();
+}
+
 void Workspace::refreshTitles() {
     const OpenView* current = active();
     for (const auto& open : openViews) {
-        if (open->dock == nullptr || open->view == nullptr)
-            continue;
-        open->dock->setTitle(open->shownTitle(), open->view->linkedGroup());
-        open->dock->setActive(open.get() == current);
+        if (open->dock != nullptr && open->view != nullptr)
+            open->dock->setActive(open.get() == current);
     }
+    refreshCounts();
     emit arranged();
 }
 

@@ -50,6 +50,8 @@ struct OpenView {
 
     // What stands on its bar: the user's title, else what the view shows.
     QString shownTitle() const;
+    // With how much of its shown list is unread.
+    QString countedTitle() const;
     // The grid that the user sees in the view; null when there is none.
     CSuperSheetWnd* shownGrid() const;
 };
@@ -100,12 +102,16 @@ public:
     const std::vector<std::unique_ptr<OpenView>>& views() const { return openViews; }
     // The views in docks.
     std::vector<OpenView*> docked() const;
+    // A count of an open view has changed: those that bear it are written anew, and no menu.
+    void refreshCounts();
     // Writes all titles anew.
     void refreshTitles();
     // Takes the language in force into all bars.
     void retranslate();
 
 signals:
+    // What the active view is called with its count has changed.
+    void counted();
     // Views, their titles, links or sizes have changed, or another one is active.
     void arranged();
     // A view has been opened, or started anew.

@@ -186,6 +186,7 @@ void Session::connectParts() {
     connect(mainFrame.get(), &MainFrame::firstStepsDismissed, this,
             [this] { terminalSettings->setShowsFirstSteps(false); });
     connect(openViews.get(), &Workspace::arranged, this, &Session::showViews);
+    connect(openViews.get(), &Workspace::counted, this, &Session::showCaption);
     connect(openViews.get(), &Workspace::opened, mainFrame.get(), [this](const OpenView* view) {
         connect(view->view, &TRVQuoteBaseView::messageForUser, mainFrame.get(), &MainFrame::showNotice);
     });
@@ -372,6 +373,11 @@ void Session::showStatus() {
     mainFrame->showStatus(status->now({storeFile, isSampleFollowed}));
 }
 
+void Session::showCaption() {
+    const OpenView* active = openViews->active();
+    mainFrame->showCaption(active != nullptr ? active->countedTitle() : QString());
+}
+
 void Session::showViews() {
     MenuState state;
     state.scheme = schemeName(terminalSettings->scheme());
@@ -387,7 +393,7 @@ void Session::showViews() {
         state.compactRows = areRowsCompact(*active);
     }
     mainFrame->showChoices(state);
-    mainFrame->showCaption(active != nullptr ? active->shownTitle() : QString());
+    showCaption();
     // Only when the view or its group is another one: the user may have picked a group for the box.
     const FollowedView now{active != nullptr ? active->number : 0, state.linkGroup};
     if (now != followed && now.group != 0)

@@ -119,6 +119,7 @@ public:
     // Brings the status bar up to date.
     void showStatus();
     // Brings menus, title and symbol box up to date with the views.
+    void showCaption();
     void showViews();
 
 private:

@@ -2035,6 +2035,18 @@
         <source></source>
         <translation>Mar&amp;k All Read</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
+        <source></source>
+        <translation>%1 new</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_GO_TO_NEWEST">
+        <source></source>
+        <translation>%1: go to the newest</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_WITH_UNREAD">
+        <source></source>
+        <translation>%1, %2 unread</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STAR">
         <source></source>
         <translation>St&amp;ar</translation>

@@ -2035,6 +2035,18 @@
         <source></source>
         <translation>全部标为已读(&amp;K)</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
+        <source></source>
+        <translation>%1 条新闻</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_GO_TO_NEWEST">
+        <source></source>
+        <translation>%1，前往最新</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_WITH_UNREAD">
+        <source></source>
+        <translation>%1，%2 条未读</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STAR">
         <source></source>
         <translation>加星标(&amp;A)</translation>

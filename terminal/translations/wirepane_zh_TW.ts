@@ -2035,6 +2035,18 @@
         <source></source>
         <translation>全部標為已讀(&amp;K)</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
+        <source></source>
+        <translation>%1 則新聞</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_GO_TO_NEWEST">
+        <source></source>
+        <translation>%1，前往最新</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_WITH_UNREAD">
+        <source></source>
+        <translation>%1，%2 則未讀</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STAR">
         <source></source>
         <translation>加星號(&amp;A)</translation>

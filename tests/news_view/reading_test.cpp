@@ -4,7 +4,9 @@
 
 #include "host/contract/cfg_io.h"
 #include "host/contract/reading_marks.h"
+#include "host/controls/xtp_tab_control.h"
 #include "host/views/news_control_ids.h"
+#include "news_view/unread_counts.h"
 #include "tests/news_view/fake_view.h"
 
 #include <QTest>
@@ -25,6 +27,16 @@ public:
             kept[key.sequence] = changedMark(kept[key.sequence], change, 1);
         emit teller.changed(keys);
     }
+    void findUnread(std::vector<HeadlineKey> keys, std::size_t most, QObject* asker,
+                    std::function<void(const std::vector<HeadlineKey>&)> tell) override {
+        std::vector<HeadlineKey> found;
+        for (const HeadlineKey& key : keys) {
+            if (markOf(key).state == ReadingState::New && found.size() < most)
+                found.push_back(key);
+        }
+        QMetaObject::invokeMethod(
+            asker, [found, tell] { tell(found); }, Qt::QueuedConnection);
+    }
     MarkTeller& markTeller() override { return teller; }
 
     bool isWritable = true;
@@ -43,6 +55,7 @@ protected:
     }
     void setOption(bool on) {
         MemoryCfgIO stored;
+        stored.setViewInfo({}, u"UnreadCounts"_s, on);
         stored.setViewInfo({}, u"ReadingMarks"_s, on);
         view.settings.options = ViewOptions::read(stored, {});
         view.listOf(ListIndex::All).setOptions(view.settings.options);
@@ -102,6 +115,42 @@ TEST_F(ReadingTest, CommandsChangeTheSelectedRowsAndAllOfThem) {
     EXPECT_TRUE(reading.carryOut(ids::markAllRead));
     EXPECT_EQ(spoken().filter(u"STATE"_s), QStringList());
     EXPECT_FALSE(reading.carryOut(ids::copyRows));
+}
+
+TEST_F(ReadingTest, ATabCountsWhatIsUnreadInItsList) {
+    view.controls.createTabStrip({0, 0, 600, 30});
+    view.controls.addTab(ListIndex::All);
+    const auto* strip = view.controls.find<CXTPTabControl>(ids::tabStrip);
+    UnreadCounts counts(view, parts);
+    const auto says = [&](const QString& count) {
+        return QTest::qWaitFor([&] { return strip->badge(0) == count; }, 2000);
+    };
+    counts.forget(ListIndex::All);
+    EXPECT_TRUE(says(u"3"_s));
+    const CHeadlineTable first = view.entryAt(ListIndex::All, 0);
+    backEnd.changeMarks({keyOf(first)}, {.state = ReadingState::Read});
+    EXPECT_TRUE(says(u"2"_s));
+    const CHeadline fresh{1, first.time + 1, 9, u"Fresh"_s, 0, 1, 0};
+    counts.noteMoved(ListIndex::All, view.listOf(ListIndex::All).vProcessNewHeadline(fresh, false));
+    EXPECT_TRUE(says(u"3"_s));
+    // Sent again it moves, and counts once.
+    counts.noteMoved(ListIndex::All, view.listOf(ListIndex::All).vProcessNewHeadline(fresh, false));
+    QTest::qWait(300);
+    EXPECT_EQ(strip->badge(0), u"3"_s);
+    counts.noteMoved(ListIndex::All, view.listOf(ListIndex::All).takeOut(0));
+    EXPECT_TRUE(says(u"2"_s));
+    for (int number = 10; number < 1100; ++number)
+        view.add(number);
+    view.read();
+    counts.forget(ListIndex::All);
+    EXPECT_TRUE(says(u"999+"_s));
+    // More than were counted have gone; the others are found.
+    for (int row = 0; backEnd.kept.size() < 201; ++row)
+        backEnd.changeMarks({keyOf(view.entryAt(ListIndex::All, row))}, {.state = ReadingState::Read});
+    EXPECT_TRUE(says(u"892"_s));
+    setOption(false);
+    counts.showAgain();
+    EXPECT_EQ(strip->badge(0), QString());
 }
 
 TEST_F(ReadingTest, NothingIsMarkedUnasked) {

@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "news_view/unread_counts.h"
+
+#include "headline_list/headline_list.h"
+#include "headline_list/headline_table.h"
+#include "headline_list/language_keys.h"
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/reading_marks.h"
+#include "host/controls/xtp_tab_control.h"
+#include "host/views/news_control_ids.h"
+#include "news_view/common_parts.h"
+#include "news_view/control_set.h"
+#include "news_view/view_context.h"
+#include "news_view/view_settings.h"
+
+#include <chrono>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr std::chrono::milliseconds gathered{200};
+constexpr std::size_t mostFollowed = 4000;  // changes; more are counted anew
+
+}  // namespace
+
+UnreadCounts::UnreadCounts(ViewContext& context, const CommonParts& common)
+    : view(context), parts(common), marks(dynamic_cast<ReadingMarks*>(&common.backEnd)) {
+    soon.setSingleShot(true);
+    soon.setInterval(gathered);
+    connect(&soon, &QTimer::timeout, this, qOverload<>(&UnreadCounts::update));
+    if (marks != nullptr)
+        connect(&marks->markTeller(), &MarkTeller::changed, this, &UnreadCounts::noteMarked);
+}
+
+bool UnreadCounts::isOn() const {
+    return marks != nullptr && marks->canMark() && parts.settings.options[ViewOption::UnreadCounts];
+}
+
+void UnreadCounts::noteMoved(ListIndex list, const HeadlinePlace& place) {
+    const auto entry = lists.find(list);
+    if (entry == lists.end())
+        return;
+    if (place.row >= 0)
+        noteChanged(entry->second, keyOf(view.listOf(list).headlineTable().at(place.row)));
+    if (!soon.isActive())
+        soon.start();
+}
+
+void UnreadCounts::forget(ListIndex list) {
+    if (!isOn())
+        return;
+    lists[list].isDue = true;
+    soon.start();
+}
+
+void UnreadCounts::noteMarked(const std::vector<HeadlineKey>& keys) {
+    for (auto& [list, counted] : lists) {
+        if (keys.empty())
+            counted.isDue = true;
+        for (const HeadlineKey& key : keys)
+            noteChanged(counted, key);
+    }
+    if (!lists.empty() && !soon.isActive())
+        soon.start();
+}
+
+void UnreadCounts::noteChanged(Counted& counted, const HeadlineKey& key) {
+    if (counted.changed.size() < mostFollowed)
+        counted.changed.push_back(key);
+    else
+        counted.isDue = true;
+}
+
+void UnreadCounts::update() {
+    for (auto& [list, counted] : lists)
+        update(list, counted);
+}
+
+void UnreadCounts::update(ListIndex list, Counted& counted) {
+    const HeadlineTable& table = view.listOf(list).headlineTable();
+    if (counted.isDue && !counted.isUnderWay) {
+        counted.isDue = false;
+        counted.isUnderWay = true;
+        marks->findUnread(
+            table.keys(), mostCounted + 1, this,
+            [this, list = list](const std::vector<HeadlineKey>& found) { takeFound(list, found); });
+    }
+    for (const HeadlineKey& key : std::exchange(counted.changed, {}))
+        settle(counted, table, key);
+    erase_if(counted.unread, [&table](const Key& key) { return table.rowOf(key.headline) < 0; });
+    // Others than those that were counted may be unread, too.
+    if (counted.isMore && counted.unread.size() <= mostCounted && !counted.isUnderWay) {
+        counted.isDue = true;
+        soon.start();
+    }
+    show(list, counted);
+}
+
+// What was marked meanwhile may have been looked at before.
+void UnreadCounts::takeFound(ListIndex list, const std::vector<HeadlineKey>& found) {
+    Counted& counted = lists[list];
+    counted.isUnderWay = false;
+    counted.isMore = found.size() > mostCounted;
+    const HeadlineTable& table = view.listOf(list).headlineTable();
+    const QSet<Key> before = counted.unread;
+    for (const Key& key : before)
+        settle(counted, table, key.headline);
+    for (const HeadlineKey& key : found)
+        settle(counted, table, key);
+    show(list, counted);
+    if (counted.isDue)
+        soon.start();
+}
+
+void UnreadCounts::settle(Counted& counted, const HeadlineTable& table, const HeadlineKey& key) const {
+    const bool isUnread = table.rowOf(key) >= 0 && marks->markOf(key).state == ReadingState::New;
+    if (!isUnread)
+        counted.unread.remove({key});
+    else if (counted.unread.size() <= mostCounted)
+        counted.unread.insert({key});
+    else
+        counted.isMore = true;
+}
+
+void UnreadCounts::showAgain() {
+    for (const auto& [list, counted] : lists)
+        show(list, counted);
+}
+
+void UnreadCounts::show(ListIndex list, const Counted& counted) const {
+    auto* strip = parts.controls.find<CXTPTabControl>(ids::tabStrip);
+    for (int tab = 0; strip != nullptr && tab < strip->count(); ++tab) {
+        if (strip->itemData(tab) != static_cast<int>(list))
+            continue;
+        const qsizetype count = isOn() ? counted.unread.size() : 0;
+        const QString told = count > mostCounted ? u"%1+"_s.arg(mostCounted)
+                             : count > 0         ? QString::number(count)
+                                                 : QString();
+        const QString name = strip->literalTabText(tab);
+        strip->setBadge(tab, told,
+                        told.isEmpty() ? name : langText(parts.backEnd, keys::withUnread).arg(name, told));
+    }
+}
+
+}  // namespace wirepane
