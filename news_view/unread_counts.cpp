@@ -17,8 +17,6 @@
 #include <chrono>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace wirepane {
 
 namespace {
@@ -87,14 +85,13 @@ void UnreadCounts::update(ListIndex list, Counted& counted) {
         counted.isDue = false;
         counted.isUnderWay = true;
         marks->findUnread(
-            table.keys(), mostCounted + 1, this,
+            table.keys(), UnreadSet::mostCounted + 1, this,
             [this, list = list](const std::vector<HeadlineKey>& found) { takeFound(list, found); });
     }
-    for (const HeadlineKey& key : std::exchange(counted.changed, {}))
-        settle(counted, table, key);
-    erase_if(counted.unread, [&table](const Key& key) { return table.rowOf(key.headline) < 0; });
-    // Others than those that were counted may be unread, too.
-    if (counted.isMore && counted.unread.size() <= mostCounted && !counted.isUnderWay) {
+    counted.unread.settle(std::exchange(counted.changed, {}), isUnreadIn(table));
+    // What has left the list counts no more.
+    counted.unread.settleAll([&table](const HeadlineKey& key) { return table.rowOf(key) >= 0; });
+    if (counted.unread.isToBeFilled() && !counted.isUnderWay) {
         counted.isDue = true;
         soon.start();
     }
@@ -105,26 +102,19 @@ void UnreadCounts::update(ListIndex list, Counted& counted) {
 void UnreadCounts::takeFound(ListIndex list, const std::vector<HeadlineKey>& found) {
     Counted& counted = lists[list];
     counted.isUnderWay = false;
-    counted.isMore = found.size() > mostCounted;
-    const HeadlineTable& table = view.listOf(list).headlineTable();
-    const QSet<Key> before = counted.unread;
-    for (const Key& key : before)
-        settle(counted, table, key.headline);
-    for (const HeadlineKey& key : found)
-        settle(counted, table, key);
+    const UnreadSet::Test isUnread = isUnreadIn(view.listOf(list).headlineTable());
+    counted.unread.noteFound(found.size());
+    counted.unread.settleAll(isUnread);
+    counted.unread.settle(found, isUnread);
     show(list, counted);
     if (counted.isDue)
         soon.start();
 }
 
-void UnreadCounts::settle(Counted& counted, const HeadlineTable& table, const HeadlineKey& key) const {
-    const bool isUnread = table.rowOf(key) >= 0 && marks->markOf(key).state == ReadingState::New;
-    if (!isUnread)
-        counted.unread.remove({key});
-    else if (counted.unread.size() <= mostCounted)
-        counted.unread.insert({key});
-    else
-        counted.isMore = true;
+UnreadSet::Test UnreadCounts::isUnreadIn(const HeadlineTable& table) const {
+    return [this, &table](const HeadlineKey& key) {
+        return table.rowOf(key) >= 0 && marks->markOf(key).state == ReadingState::New;
+    };
 }
 
 void UnreadCounts::showAgain() {
@@ -137,10 +127,7 @@ void UnreadCounts::show(ListIndex list, const Counted& counted) const {
     for (int tab = 0; strip != nullptr && tab < strip->count(); ++tab) {
         if (strip->itemData(tab) != static_cast<int>(list))
             continue;
-        const qsizetype count = isOn() ? counted.unread.size() : 0;
-        const QString told = count > mostCounted ? u"%1+"_s.arg(mostCounted)
-                             : count > 0         ? QString::number(count)
-                                                 : QString();
+        const QString told = isOn() ? counted.unread.text() : QString();
         const QString name = strip->literalTabText(tab);
         strip->setBadge(tab, told,
                         told.isEmpty() ? name : langText(parts.backEnd, keys::withUnread).arg(name, told));

@@ -4,9 +4,9 @@
 
 #include "headline_list/list_index.h"
 #include "host/contract/records.h"
+#include "news_view/unread_set.h"
 
 #include <QObject>
-#include <QSet>
 #include <QTimer>
 
 #include <map>
@@ -27,8 +27,6 @@ class UnreadCounts : public QObject {
     Q_OBJECT
 
 public:
-    static constexpr int mostCounted = 999;
-
     // All that is referred to outlives this.
     UnreadCounts(ViewContext& view, const CommonParts& parts);
 
@@ -39,20 +37,11 @@ public:
     void showAgain();
 
 private:
-    struct Key {
-        HeadlineKey headline;
-
-        bool operator==(const Key&) const = default;
-        friend std::size_t qHash(const Key& key, std::size_t seed) {
-            return qHashMulti(seed, key.headline.time, key.headline.sequence, key.headline.service);
-        }
-    };
     struct Counted {
-        QSet<Key> unread;
+        UnreadSet unread;
         std::vector<HeadlineKey> changed;  // that came or were marked since
         bool isDue = true;                 // to be counted by the back end
         bool isUnderWay = false;
-        bool isMore = false;  // than were counted
     };
 
     bool isOn() const;
@@ -61,8 +50,7 @@ private:
     void update();
     void update(ListIndex list, Counted& counted);
     void takeFound(ListIndex list, const std::vector<HeadlineKey>& found);
-    // Takes the key in where it is listed and unread, else out.
-    void settle(Counted& counted, const HeadlineTable& table, const HeadlineKey& key) const;
+    UnreadSet::Test isUnreadIn(const HeadlineTable& table) const;
     void show(ListIndex list, const Counted& counted) const;
 
     ViewContext& view;
