@@ -99,6 +99,7 @@ QVariantMap TRVNewsCtrlView::state() const {
     if (const auto* strip = parts->controls.find<CXTPTabControl>(ids::tabStrip)) {
         for (int i = 0; i < strip->count(); ++i) {
             tabs.append(QVariantMap{{QStringLiteral("mode"), strip->itemData(i)},
+                                    {QStringLiteral("unread"), strip->badge(i)},
                                     {QStringLiteral("text"), strip->literalTabText(i)},
                                     {QStringLiteral("selected"), i == strip->curSel()}});
         }

@@ -19,6 +19,7 @@ Automation::Automation(Session& session)
       feed(session),
       sources(session),
       searches(session),
+      marks(session),
       host(session),
       input(session),
       links(session),
@@ -34,6 +35,7 @@ Automation::Automation(Session& session)
     feed.addTo(table);
     sources.addTo(table);
     searches.addTo(table);
+    marks.addTo(table);
     host.addTo(table);
     input.addTo(table);
     links.addTo(table);

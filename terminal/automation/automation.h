@@ -11,6 +11,7 @@
 #include "terminal/automation/host_methods.h"
 #include "terminal/automation/input_methods.h"
 #include "terminal/automation/link_methods.h"
+#include "terminal/automation/mark_methods.h"
 #include "terminal/automation/menu_methods.h"
 #include "terminal/automation/output_methods.h"
 #include "terminal/automation/request_queue.h"
@@ -50,6 +51,7 @@ private:
     FeedMethods feed;
     SourceMethods sources;
     SearchMethods searches;
+    MarkMethods marks;
     HostMethods host;
     InputMethods input;
     LinkMethods links;

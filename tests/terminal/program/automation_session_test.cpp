@@ -43,6 +43,40 @@ protected:
     Scratch scratch;
 };
 
+TEST_F(AutomationSessionTest, MarksAreSetCountedAndKept) {
+    const QJsonObject first = news(1, u"2026-03-02T09:31:00"_s, 1, u"First"_s);
+    const auto with = [&first](const QString& name, const QJsonValue& value) {
+        QJsonObject params{{u"key"_s, first}};
+        params.insert(name, value);
+        return params;
+    };
+    {
+        ScriptClient script(arguments());
+        script.result(u"feed.push"_s, first);
+        script.result(u"feed.push"_s, news(1, u"2026-03-02T09:32:00"_s, 2, u"Second"_s));
+        // Nothing is shown by itself, which would make it seen.
+        script.result(u"view.open"_s, QJsonObject{{u"own"_s, true},
+                                                  {u"settings"_s, QJsonObject{{u"FollowNewest"_s, false}}}});
+        const auto unread = [&script] {
+            script.result(u"wait"_s, QJsonObject{{u"ms"_s, 600}});
+            const QJsonObject state = script.result(u"view.state"_s).toObject();
+            return state[u"tabs"_s].toArray().first().toObject()[u"unread"_s].toString();
+        };
+        EXPECT_EQ(unread(), u"2"_s);
+        script.result(u"mark.set"_s, with(u"state"_s, u"read"_s));
+        script.result(u"mark.set"_s, with(u"starred"_s, true));
+        EXPECT_EQ(unread(), u"1"_s);
+        EXPECT_EQ(script.errorCode(u"mark.set"_s, with(u"state"_s, u"gone"_s)), -32602);
+        EXPECT_EQ(script.errorCode(u"mark.set"_s, QJsonObject{{u"key"_s, first}}), -32602);
+        EXPECT_EQ(script.errorCode(u"mark.get"_s, QJsonObject()), -32602);
+    }
+    ScriptClient again(arguments());
+    const QJsonObject mark = again.result(u"mark.get"_s, QJsonObject{{u"key"_s, first}}).toObject();
+    EXPECT_EQ(mark[u"state"_s].toString(), u"read"_s);
+    EXPECT_TRUE(mark[u"starred"_s].toBool());
+    EXPECT_FALSE(mark[u"readBefore"_s].toBool());
+}
+
 TEST_F(AutomationSessionTest, AGridShowsWhatTheFeedBrought) {
     ScriptClient script(arguments());
     script.result(u"feed.push"_s, news(1, u"2026-03-02T09:01:00"_s, 1, u"First & <b>plain</b>"_s));
