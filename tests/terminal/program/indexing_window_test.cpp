@@ -44,7 +44,7 @@ TEST(IndexingWindow, ComesUpWhenItTakesLong) {
         filling.tell(3, 4);
         return shownProgress() != nullptr;
     }));
-    EXPECT_TRUE(shownProgress()->labelText().startsWith(QStringLiteral("正在寫入")));
+    EXPECT_TRUE(shownProgress()->labelText().startsWith(QStringLiteral("正在準備")));
     filling.tell(6, 4);  // more than was thought
     EXPECT_EQ(shownProgress()->value(), shownProgress()->maximum());
 }
