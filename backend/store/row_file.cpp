@@ -18,6 +18,8 @@ std::optional<QByteArray> NewsRowMaker::row(const HeadlineKey& key) {
     if (const auto topic = reader.category(headline->service, headline->categoryId))
         row.topic = topic->name;
     row.symbols = reader.relatedSymbols(key).value_or(std::vector<CSymbolInfo>());
+    if (const auto withdrawal = reader.state(key).withdrawal)
+        row.withdrawn = withdrawal->reason;
     return newsRow(form, row, std::exchange(isFirst, false));
 }
 

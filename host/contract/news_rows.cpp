@@ -17,7 +17,7 @@ namespace wirepane {
 
 namespace {
 
-constexpr auto headings = "time,service,service name,sequence,topic,symbols,title,story\r\n";
+constexpr auto headings = "time,service,service name,sequence,topic,symbols,title,story,pubstatus\r\n";
 
 // By market, as news is taken in.
 struct Exchange {
@@ -27,6 +27,10 @@ struct Exchange {
 constexpr std::array exchanges{Exchange{1, QLatin1StringView("XNYS")},
                                Exchange{16, QLatin1StringView("XTAI")},
                                Exchange{122, QLatin1StringView("ROCO")}};
+
+QString statusOf(const NewsRow& row) {
+    return row.withdrawn ? u"canceled"_s : u"usable"_s;
+}
 
 QString momentOf(const CHeadline& headline) {
     return QDateTime::fromSecsSinceEpoch(headline.time, QTimeZone::utc()).toString(Qt::ISODate);
@@ -59,11 +63,18 @@ QByteArray csvLine(const NewsRow& row) {
                              row.topic,
                              codesOf(row).join(u' '),
                              row.headline.title,
-                             paragraphsOf(row.story.value_or(QString()), u"\n"_s)};
+                             paragraphsOf(row.story.value_or(QString()), u"\n"_s),
+                             statusOf(row)};
     QStringList line;
     for (const QString& field : fields)
         line += quoted(field);
     return line.join(u',').toUtf8() + "\r\n";
+}
+
+// Where ninjs has it.
+void insertReason(QJsonObject& object, const NewsRow& row) {
+    if (row.withdrawn && !row.withdrawn->isEmpty())
+        object.insert(u"ednote"_s, *row.withdrawn);
 }
 
 QByteArray compact(const QJsonObject& object) {
@@ -77,7 +88,9 @@ QByteArray jsonObject(const NewsRow& row) {
                        {u"sequence"_s, row.headline.sequence},
                        {u"topic"_s, row.topic},
                        {u"symbols"_s, QJsonArray::fromStringList(codesOf(row))},
-                       {u"title"_s, row.headline.title}};
+                       {u"title"_s, row.headline.title},
+                       {u"pubstatus"_s, statusOf(row)}};
+    insertReason(object, row);
     if (row.story)
         object.insert(u"story"_s, paragraphsOf(*row.story, u"\n"_s));
     return compact(object);
@@ -97,9 +110,10 @@ QByteArray ninjsLine(const NewsRow& row) {
         {u"uri"_s,
          u"wirepane:%1:%2:%3"_s.arg(row.headline.service).arg(row.headline.time).arg(row.headline.sequence)},
         {u"type"_s, u"text"_s},
-        {u"pubstatus"_s, u"usable"_s},
+        {u"pubstatus"_s, statusOf(row)},
         {u"versioncreated"_s, momentOf(row.headline)},
         {u"headline"_s, row.headline.title}};
+    insertReason(item, row);
     if (!row.topic.isEmpty())
         item.insert(u"subject"_s, QJsonArray{QJsonObject{{u"name"_s, row.topic}}});
     QJsonArray organisations;

@@ -26,13 +26,15 @@ WIREPANE_CONTRACT_EXPORT const QStringList& newsRowForms();
 WIREPANE_CONTRACT_EXPORT std::optional<NewsRowForm> newsRowFormOf(const QString& name);
 WIREPANE_CONTRACT_EXPORT std::optional<NewsRowForm> newsRowFormOfFile(const QString& file);
 
-// One piece of news. Times are written in UTC, stories in lines.
+// One piece of news. Times are written in UTC, stories in lines. What was withdrawn is "canceled" in every
+// form.
 struct NewsRow {
     CHeadline headline;
     QString service;  // its short name
     QString topic;
     std::vector<CSymbolInfo> symbols;
-    std::optional<QString> story;  // in wire form; nothing: it is still to come
+    std::optional<QString> story;           // in wire form; nothing: it is still to come
+    std::optional<QString> withdrawn = {};  // its publisher has taken it back: why, as far as it said
 };
 
 // The bytes of a row, in UTF-8 and with what goes before it: `isFirst` begins what the rows stand in.

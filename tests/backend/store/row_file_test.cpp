@@ -56,6 +56,31 @@ TEST_F(RowFileTest, RowsStandInTheGivenOrderWithoutThoseThatAreGone) {
     EXPECT_EQ(told, (std::vector{0, 1, 2}));
 }
 
+TEST_F(RowFileTest, WhatWasWithdrawnIsWithdrawnWhereAFileIsTakenIn) {
+    const CHeadlineTable plain = add(1);
+    NewsItem item = newsItem(1, u"2"_s, at(9, 2), u"Title 2"_s);
+    item.withdrawn = u"Wrong figure"_s;
+    const StoredNews stored = takeNews(item);
+    const CHeadlineTable withdrawn{stored.key.time, stored.key.sequence, stored.key.service, 0, 0};
+    const auto written = [&](NewsRowForm form) {
+        writeRowFile(*store, std::vector{plain, withdrawn}, form, pathOf(u"out"_s), [](int) { return true; });
+        return bytesOf(pathOf(u"out"_s));
+    };
+    const QJsonArray rows = QJsonDocument::fromJson(written(NewsRowForm::Json)).array();
+    EXPECT_EQ(rows[0].toObject()[u"pubstatus"_s].toString(), u"usable"_s);
+    EXPECT_FALSE(rows[0].toObject().contains(u"ednote"_s));
+    EXPECT_EQ(rows[1].toObject()[u"pubstatus"_s].toString(), u"canceled"_s);
+    EXPECT_EQ(rows[1].toObject()[u"ednote"_s].toString(), u"Wrong figure"_s);
+    const QList<QByteArray> csv = written(NewsRowForm::Csv).trimmed().split('\n');
+    EXPECT_TRUE(csv[0].trimmed().endsWith(",pubstatus"));
+    EXPECT_TRUE(csv[1].trimmed().endsWith(",usable"));
+    EXPECT_TRUE(csv[2].trimmed().endsWith(",canceled"));
+    const auto record =
+        QJsonDocument::fromJson(written(NewsRowForm::Ninjs).trimmed().split('\n')[1]).object();
+    EXPECT_EQ(record[u"pubstatus"_s].toString(), u"canceled"_s);
+    EXPECT_EQ(record[u"ednote"_s].toString(), u"Wrong figure"_s);
+}
+
 TEST_F(RowFileTest, AFileThatIsNotWholeLeavesTheOneBefore) {
     const std::vector<CHeadlineTable> entries{add(1), add(2)};
     const QString file = pathOf(u"out.csv"_s);
