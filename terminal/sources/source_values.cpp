@@ -55,7 +55,10 @@ QJsonObject valueOf(const TrialReport& report) {
     QJsonArray links;
     for (const FeedLink& link : report.links)
         links.append(QJsonObject{{u"title"_s, link.title}, {u"address"_s, link.address.toString()}});
-    QJsonObject value{{u"items"_s, report.items}, {u"rejected"_s, report.rejected}, {u"first"_s, items}};
+    QJsonObject value{{u"items"_s, report.items},
+                      {u"rejected"_s, report.rejected},
+                      {u"tooOld"_s, report.left},
+                      {u"first"_s, items}};
     if (!report.title.isEmpty())
         value.insert(u"title"_s, report.title);
     if (!links.isEmpty())

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/sources/source_texts.h"
 
+#include "backend/network/answer_reading.h"
+#include "backend/network/http_fetch.h"
 #include "backend/network/network_errors.h"
+#include "backend/network/source_asker.h"
 #include "terminal/sources/source_model.h"
 #include "terminal/translations/languages.h"
 #include "tests/support/qt_printers.h"
@@ -12,6 +15,7 @@
 #include <QJsonArray>
 
 #include <gtest/gtest.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -85,6 +89,29 @@ TEST_F(SourceTexts, AFaultIsToldInTheRowInTheLanguageInForce) {
     const SourceRow row = rowOf(kept, std::nullopt, now);
     EXPECT_TRUE(row.isFaulty);
     EXPECT_TRUE(row.state.contains(u'x') && !row.state.contains(u"There"_s)) << row.state.toStdString();
+}
+
+// What a network gives in which somebody has to sign in first: the page of another host, by a redirect.
+TEST_F(SourceTexts, APageThatAnotherHostGivesIsToldInTheRowInEachLanguage) {
+    HttpAnswer answer;
+    answer.isAlive = true;
+    answer.address = QUrl(u"https://login.example/?from=post.example"_s);
+    answer.contentType = "application/rss+xml";
+    answer.body = "<!DOCTYPE html><html><head><title>Welcome, please sign in</title></head></html>";
+    const SourceAnswer read = readAnswer(listed().source, answer, now);
+    ASSERT_TRUE(read.fault);
+    EXPECT_FALSE(read.isRead);
+    EXPECT_TRUE(read.items.empty());
+    const std::pair<QString, QString> words[] = {
+        {u"en"_s, u"sign in"_s}, {u"zh-TW"_s, u"登入"_s}, {u"zh-CN"_s, u"登录"_s}};
+    for (const auto& [language, word] : words) {
+        ASSERT_TRUE(languages.use(language));
+        const SourceRow row = rowOf(listed(), SourceState{SourceState::Failed, now, *read.fault}, now);
+        EXPECT_TRUE(row.isFaulty);
+        EXPECT_TRUE(row.state.contains(word) && row.state.contains(u"post.example"_s) &&
+                    row.state.contains(u"login.example"_s))
+            << row.state.toStdString();
+    }
 }
 
 TEST_F(SourceTexts, TheListShowsSourcesAndThenWhatIsReadyMadeAndNotTaken) {
