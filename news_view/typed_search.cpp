@@ -43,12 +43,13 @@ void TypedSearch::find(const QString& text) {
         return;
     const CSearch condition = searches.quickSearch(wanted, host_clock::now(),
                                                    isQuery ? SearchLanguage::Query : SearchLanguage::Plain);
+    const bool isCut = isQuery && wanted.endsWith(u'*');
     const auto begun = std::chrono::steady_clock::now();
     asked = finder->findNewest(condition, services, mostShown,
-                               [this, condition, begun](const std::vector<CHeadlineTable>& newest) {
+                               [this, condition, begun, isCut](const std::vector<CHeadlineTable>& newest) {
                                    const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(
                                        std::chrono::steady_clock::now() - begun);
-                                   show({condition, newest, newest.size() < mostShown, took});
+                                   show({condition, newest, newest.size() < mostShown && !isCut, took});
                                });
 }
 

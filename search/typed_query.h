@@ -7,7 +7,7 @@
 namespace wirepane {
 
 // The query to look for while somebody is typing it: the word at its end may go on, once it is long enough to
-// be the beginning of few. Empty: it has a fault so far.
+// mean something. Empty: it has a fault so far.
 QString typedQuery(const QString& text);
 
 }  // namespace wirepane

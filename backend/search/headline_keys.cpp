@@ -15,10 +15,6 @@ constexpr std::size_t fewMatches = 64;
 constexpr std::size_t fewBeforeLoading = 4096;
 constexpr std::size_t packedAtOnce = 4096;  // keys
 
-bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
-    return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
-}
-
 }  // namespace
 
 HeadlineKeys::HeadlineKeys(Database& database, std::int64_t mostKeys)

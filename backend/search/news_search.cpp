@@ -21,10 +21,6 @@ constexpr int stopAskedEvery = 256;             // matches
 constexpr std::size_t newestLookedAt = 16'000;  // headlines of all services together
 constexpr std::size_t mostOfNewest = newestLookedAt / 32;
 
-bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
-    return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
-}
-
 // The queries whose matches together are those of the condition. What must all be there is asked for at once:
 // the index passes over the many matches of one word that those of a rare one leave behind. What may be there
 // is cheaper to put together here.
@@ -113,20 +109,24 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::findSince(const Since& si
                                                                  const CSearch& condition,
                                                                  const Newest& newest) {
     std::vector<CHeadlineTable> all;
+    std::int64_t earliest = since.time;
     for (const unsigned char service : services) {
         std::optional<QueryMatch> match = findNow(service, condition, since.id);
         if (!match)
             return std::nullopt;
-        match->days.first = std::max(match->days.first, since.time);
+        match->days.first = std::max(match->days.first, earliest);
         match->days.last = std::min(match->days.last, newest.latest);
         const bool areMany = match->isAllBut || since.id != Since().id || !keys.areFew(match->ids);
         const auto found = areMany ? newestEntries(service, *match, newest.most) : entries(service, *match);
         if (!found)
             return std::nullopt;
         all.insert(all.end(), found->begin(), found->end());
+        std::stable_sort(all.begin(), all.end(), isNewer);
+        all.resize(std::min(all.size(), newest.most));
+        // No service need go back beyond what the others have.
+        if (all.size() == newest.most && !all.empty())
+            earliest = all.back().time;
     }
-    std::stable_sort(all.begin(), all.end(), isNewer);
-    all.resize(std::min(all.size(), newest.most));
     return all;
 }
 

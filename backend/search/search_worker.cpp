@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "backend/search/search_worker.h"
 
+#include "host/contract/search_choices.h"
+
+#include <algorithm>
 #include <utility>
 
 namespace wirepane {
@@ -40,13 +43,33 @@ std::vector<CHeadlineTable> SearchWorker::found(const SideJob::Search& search,
     if (searching == nullptr)
         return entries;
     if (search.most)
-        return searching->findOnce(search.services, search.condition, {.most = *search.most}, &dropped)
-            .value_or(std::move(entries));
+        return newestFound(search, dropped);
     for (const unsigned char service : search.services) {
         if (const auto found = searching->find(service, search.condition, &dropped))
             entries.insert(entries.end(), found->begin(), found->end());
     }
     return entries;
+}
+
+std::vector<CHeadlineTable> SearchWorker::newestFound(const SideJob::Search& search,
+                                                      const std::atomic<bool>& dropped) {
+    CSearch whole = search.condition;
+    const bool isCut =
+        whole.isQuery() && whole.query().endsWith(u'*') && scopeOf(whole.scope) == SearchScope::Headlines;
+    if (isCut)
+        whole.keywords = {whole.query().chopped(1)};
+    auto found = news->findOnce(search.services, whole, {.most = *search.most}, &dropped)
+                     .value_or(std::vector<CHeadlineTable>());
+    if (!isCut)
+        return found;
+    for (const CHeadlineTable& entry : titles->find(search.services, search.condition.query(), dropped)) {
+        const auto isSame = [&](const CHeadlineTable& other) { return keyOf(other) == keyOf(entry); };
+        if (std::ranges::none_of(found, isSame))
+            found.push_back(entry);
+    }
+    std::ranges::stable_sort(found, isNewer);
+    found.resize(std::min(found.size(), *search.most));
+    return found;
 }
 
 void SearchWorker::search(const SearchJob& job) {
@@ -79,6 +102,7 @@ NewsSearch* SearchWorker::opened() {
         if (auto result = Database::openToRead(path, busyTimeout)) {
             database = std::move(result.value());
             news.emplace(*database);
+            titles.emplace(*database);
         }
     }
     return news ? &*news : nullptr;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/database/database.h"
+#include "backend/search/newest_titles.h"
 #include "backend/search/news_search.h"
 #include "backend/worker_thread.h"
 
@@ -30,7 +31,8 @@ struct SideJob {
     struct Search {
         CSearch condition;
         std::vector<unsigned char> services;
-        // Only so many, the newest of all services; none: all of them.
+        // Only so many, the newest of all services; none: all of them. Of a query of headlines that ends with
+        // a word cut short, what goes on is found in the newest titles alone.
         std::optional<std::size_t> most = {};
     };
     std::vector<Search> searches;
@@ -59,6 +61,7 @@ private:
     void search(const SearchJob& job);
     void searchBeside(const SideJob& job);
     std::vector<CHeadlineTable> found(const SideJob::Search& search, const std::atomic<bool>& dropped);
+    std::vector<CHeadlineTable> newestFound(const SideJob::Search& search, const std::atomic<bool>& dropped);
     void prepareWhenIdle();
     NewsSearch* opened();
 
@@ -67,6 +70,7 @@ private:
     const std::optional<std::chrono::milliseconds> preparesAfter;
     std::unique_ptr<Database> database;
     std::optional<NewsSearch> news;
+    std::optional<NewestTitles> titles;
     std::int64_t searched = 0;  // jobs
     bool prepared = false;
     WorkerThread thread;  // last: it uses all of the above

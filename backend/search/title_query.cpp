@@ -27,8 +27,8 @@ bool holdsPhrase(const QByteArray& words, const std::vector<QByteArray>& phrases
 }  // namespace
 
 std::shared_ptr<const TitleQuery> TitleQuery::make(const QString& query, QueryPlanner& planner,
-                                                   RelatedSymbols related) {
-    const ReadQuery read = readQuery(query, QueryUse::Headlines);
+                                                   RelatedSymbols related, QueryUse use) {
+    const ReadQuery read = readQuery(query, use);
     const auto* node = std::get_if<QueryNode>(&read);
     if (node == nullptr)
         return nullptr;
@@ -43,6 +43,9 @@ TitleQuery::Part TitleQuery::partOf(const QueryNode& node, QueryPlanner& planner
     part.kind = node.kind;
     if (node.kind == Kind::Text)
         addPhrase(part.phrases, node.text);
+    // The word goes on where its end would be.
+    if (node.isCut && !part.phrases.empty())
+        part.phrases.front().chop(1);
     if (node.kind == Kind::Topic) {
         part.topics = planner.topicsNamed(node.text, 0);
         part.warrantTopics = planner.topicsNamed(node.text, warrantService);

@@ -20,7 +20,7 @@ public:
 
     // Null: the query has a fault, or the store cannot be read. The planner is not needed any more then.
     static std::shared_ptr<const TitleQuery> make(const QString& query, QueryPlanner& planner,
-                                                  RelatedSymbols related);
+                                                  RelatedSymbols related, QueryUse use = QueryUse::Headlines);
 
     bool wants(const CHeadline& headline, std::int32_t categoryId) const override;
 

@@ -17,10 +17,6 @@ StoredCategory categoryIn(Query& row) {
     return {row.smallNumber(0), row.text(1), row.text(2)};
 }
 
-bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
-    return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
-}
-
 int appendEntries(std::vector<CHeadlineTable>& table, unsigned char service, Query& query) {
     const std::size_t before = table.size();
     while (query.next())

@@ -8,11 +8,16 @@
 #include "bench/backend/search_store.h"
 #include "bench/backend/store_timing.h"
 #include "bench/support/run_benchmarks.h"
+#include "host/contract/search_choices.h"
 
 #include <QCoreApplication>
 #include <QTimer>
 
+#include <algorithm>
 #include <benchmark/benchmark.h>
+#include <memory>
+#include <numeric>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -166,6 +171,51 @@ void searchFor(benchmark::State& state, const Question& question) {
     state.counters["index_of_text"] = made.indexOfText();
 }
 
+// What the user types, key by key: a word of a story, or three of its Chinese characters.
+QStringList typedKeys(int number) {
+    const bool isChinese = number % 2 == 1;
+    const QString story = isChinese ? chineseStory(number) : englishStory(number);
+    const QString word = isChinese ? story.left(3) : story.section(u' ', number % 7, number % 7).left(4);
+    QStringList keys;
+    for (int length = 1; length <= word.size(); ++length)
+        keys += word.left(length) + (!isChinese && length > 2 ? u"*"_s : QString());
+    return keys;
+}
+
+// From a key to the newest titles that are found of what has been typed.
+void typing(benchmark::State& state) {
+    constexpr std::size_t most = 200;
+    const SearchStore& made = SearchStore::of(static_cast<int>(state.range(0)));
+    SearchDispatcher desk(made.path(), [](const CSearch&, unsigned char) {});
+    std::vector<unsigned char> services(searchServices);
+    std::iota(services.begin(), services.end(), 1);
+    std::vector<double> waits;
+    std::shared_ptr<const void> asked;
+    int number = 0;
+    for (auto unused : state) {
+        const double together = secondsOf([&] {
+            for (const QString& key : typedKeys(++number)) {
+                CSearch condition = conditionOf(key);
+                condition.language = SearchLanguage::Query;
+                condition.scope = numberOf(SearchScope::Headlines);
+                const auto from = BenchClock::now();
+                bool isTold = false;
+                asked.reset();
+                asked = desk.askNewest({{condition, services, most}}, [&](auto&&) { isTold = true; });
+                while (!isTold)
+                    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+                waits.push_back(secondsSince(from) * 1000);
+            }
+        });
+        state.SetIterationTime(together);
+    }
+    std::sort(waits.begin(), waits.end());
+    state.counters["keys"] = double(waits.size());
+    state.counters["p50_ms"] = waits[waits.size() / 2];
+    state.counters["p99_ms"] = waits[waits.size() * 99 / 100];
+    state.counters["most_ms"] = waits.back();
+}
+
 // How late an event comes that is posted every millisecond while searches run. p99_ms: of a hundred, the
 // latest but one.
 void inputDuringSearch(benchmark::State& state) {
@@ -233,6 +283,7 @@ BENCHMARK_CAPTURE(searchFor, chinese_phrase, chinesePhrase())
     ->Iterations(20)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
+BENCHMARK(typing)->Arg(1000)->Arg(1'000'000)->Iterations(200)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(inputDuringSearch)->Arg(1'000'000)->Iterations(3)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace wirepane

@@ -52,6 +52,10 @@ namespace wirepane {
 inline HeadlineKey keyOf(const CHeadlineTable& entry) {
     return {entry.time, entry.sequence, entry.service};
 }
+// The order of lists, newest first.
+inline bool isNewer(const CHeadlineTable& a, const CHeadlineTable& b) {
+    return a.time != b.time ? a.time > b.time : a.sequence > b.sequence;
+}
 inline HeadlineKey keyOf(const CHeadline& headline) {
     return {headline.time, headline.sequence, headline.service};
 }

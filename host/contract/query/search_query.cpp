@@ -242,7 +242,7 @@ private:
         }
         const qsizetype sign = at;
         const qsizetype signLength = wordHere().size();
-        if (use == QueryUse::Headlines)
+        if (use != QueryUse::News)
             return failOfHeadlines(sign, signLength);
         const auto words = readNearSign();
         if (!words)
@@ -351,7 +351,7 @@ private:
             return fail(Fault::FieldWithin, start, nameLength);
         const bool isOfHeadlines =
             *known == FieldKind::Title || (kindOf(*known) != Kind::Days && kindOf(*known) != Kind::State);
-        if (use == QueryUse::Headlines && !isOfHeadlines)
+        if (use != QueryUse::News && !isOfHeadlines)
             return failOfHeadlines(start, nameLength);
         if (isBare)
             return fail(Fault::FieldValue, start, nameLength);

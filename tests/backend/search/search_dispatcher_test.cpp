@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/search/search_dispatcher.h"
 
+#include "host/contract/search_choices.h"
 #include "tests/backend/store/store_fixture.h"
 #include "tests/support/conditions.h"
 
@@ -163,6 +164,41 @@ TEST_F(SearchDispatcherTest, TheNewestFewAreToldToWhoeverStillWaits) {
     QCoreApplication::processEvents();
     EXPECT_EQ(told, (QStringList{u"few 2"_s, u"all 3"_s}));
     EXPECT_EQ(sizes(), u"0,0") << "the tables of views are left alone";
+}
+
+// As typed, in titles alone.
+TEST_F(SearchDispatcherTest, WordsCutShortAreFoundAmongTheNewestTitles) {
+    NewsItem withStory = newsItem(1, u"s"_s, at(8, 0), u"iron12 marigold"_s);
+    withStory.story = u"golden"_s;
+    takeNews(withStory);
+    const struct {
+        QString query;
+        std::vector<std::int64_t> times;
+    } cases[] = {
+        {u"gol*"_s, {at(9, 2), at(9, 1), at(9, 0)}},
+        {u"gold ti*"_s, {at(9, 1)}},
+        {u"gold*"_s, {at(9, 2), at(9, 1), at(9, 0)}},  // each once
+        {u"gold -ti*"_s, {at(9, 2), at(9, 0)}},
+        {u"iro* | ti*"_s, {at(9, 1), at(8, 0)}},
+        {u"iron1*"_s, {at(8, 0)}},
+        {u"\"gold and t\"*"_s, {at(9, 1)}},
+        {u"service:2 gol*"_s, {at(9, 2)}},
+        {u"mar*"_s, {at(8, 0)}},
+        {u"igol*"_s, {}},
+    };
+    for (const auto& one : cases) {
+        CSearch typed = condition({one.query}, 0);
+        typed.language = SearchLanguage::Query;
+        typed.scope = numberOf(SearchScope::Headlines);
+        std::optional<std::vector<std::int64_t>> times;
+        const auto kept = desk->askNewest({{typed, {1, 2}, 50}}, [&](auto&& found) {
+            times.emplace();
+            for (const CHeadlineTable& entry : found.front())
+                times->push_back(entry.time);
+        });
+        ASSERT_TRUE(QTest::qWaitFor([&] { return times.has_value(); }));
+        EXPECT_EQ(*times, one.times) << one.query.toStdString();
+    }
 }
 
 TEST_F(SearchDispatcherTest, AWorkerReadsAheadWhileNothingIsAsked) {
