@@ -27,11 +27,18 @@ bool isSound(const QString& query) {
     return std::holds_alternative<QueryNode>(readQuery(query));
 }
 
+// What the user leaves out is a whole word: its beginning leaves out too much.
+bool mayGoOn(const QString& query) {
+    const ReadQuery read = readQuery(query);
+    const auto* node = std::get_if<QueryNode>(&read);
+    return node != nullptr && !leavesOutCut(*node);
+}
+
 }  // namespace
 
 QString typedQuery(const QString& text) {
     if (lettersAtEnd(text) >= shortestBeginning) {
-        if (QString query = text.trimmed() + u'*'; isSound(query))
+        if (QString query = text.trimmed() + u'*'; mayGoOn(query))
             return query;
     }
     return isSound(text) ? text.trimmed() : QString();

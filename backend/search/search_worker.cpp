@@ -2,16 +2,27 @@
 // SPDX-License-Identifier: MIT
 #include "backend/search/search_worker.h"
 
+#include "host/contract/query/search_query.h"
 #include "host/contract/search_choices.h"
 
 #include <algorithm>
 #include <utility>
+#include <variant>
 
 namespace wirepane {
 
 namespace {
 
 constexpr std::chrono::seconds busyTimeout{5};
+
+bool endsCutShort(const CSearch& condition) {
+    if (!condition.isQuery() || !condition.query().endsWith(u'*') ||
+        scopeOf(condition.scope) != SearchScope::Headlines)
+        return false;
+    const ReadQuery read = readQuery(condition.query());
+    const auto* query = std::get_if<QueryNode>(&read);
+    return query != nullptr && !leavesOutCut(*query);
+}
 
 }  // namespace
 
@@ -54,8 +65,7 @@ std::vector<CHeadlineTable> SearchWorker::found(const SideJob::Search& search,
 std::vector<CHeadlineTable> SearchWorker::newestFound(const SideJob::Search& search,
                                                       const std::atomic<bool>& dropped) {
     CSearch whole = search.condition;
-    const bool isCut =
-        whole.isQuery() && whole.query().endsWith(u'*') && scopeOf(whole.scope) == SearchScope::Headlines;
+    const bool isCut = endsCutShort(whole);
     if (isCut)
         whole.keywords = {whole.query().chopped(1)};
     auto found = news->findOnce(search.services, whole, {.most = *search.most}, &dropped)

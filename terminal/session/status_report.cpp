@@ -5,7 +5,6 @@
 #include "backend/feed/feed_name.h"
 #include "backend/feed/live_feed.h"
 #include "backend/store/embedded_back_end.h"
-#include "headline_list/list_index.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
 #include "host/controls/super_sheet_wnd.h"
@@ -91,9 +90,11 @@ QDate anotherDayOf(const QVariantMap& state) {
     return day == host_clock::today() ? QDate() : day;
 }
 
+constexpr int warrantMode = 5;  // as views number their modes
+
 // -1: the list on show is that of the warrants, which has a service of its own.
 int tickedServices(const QVariantMap& state) {
-    if (state.value(u"mode"_s).toInt() == static_cast<int>(ListIndex::Warrant))
+    if (state.value(u"mode"_s).toInt() == warrantMode)
         return -1;
     const QVariantList services = state.value(u"services"_s).toList();
     return static_cast<int>(std::count_if(services.begin(), services.end(), [](const QVariant& service) {

@@ -25,7 +25,7 @@ TEST(TypedQuery, TheWordAtTheEndMayGoOnAndFaultsAreLeftOut) {
         {u"700"_s, u"700*"_s},
         {u"台積電"_s, u"台積電"_s},
         {u"台積電ADR"_s, u"台積電ADR*"_s},
-        {u"-gold"_s, u"-gold*"_s},
+        {u"tin -gold"_s, u"tin -gold"_s},  // less than is meant would be found
         {u"tin | gol"_s, u"tin | gol*"_s},
         {u"title:cop"_s, u"title:cop*"_s},
         {u"title:"_s, {}},

@@ -449,6 +449,16 @@ bool asksFor(const QueryNode& query, QueryState state) {
                        [state](const QueryNode& part) { return asksFor(part, state); });
 }
 
+bool leavesOutCut(const QueryNode& query) {
+    if (query.kind != QueryNode::Kind::Not)
+        return std::any_of(query.parts.begin(), query.parts.end(), leavesOutCut);
+    const auto holdsCut = [](const QueryNode& node, const auto& self) -> bool {
+        return node.isCut || std::any_of(node.parts.begin(), node.parts.end(),
+                                         [&](const QueryNode& part) { return self(part, self); });
+    };
+    return holdsCut(query, holdsCut);
+}
+
 QLatin1StringView keyOf(QueryFaultKind kind) {
     return faultKeys.at(std::size_t(kind));
 }

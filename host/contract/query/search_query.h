@@ -50,6 +50,9 @@ struct QueryNode {
 // Whether a part of the query asks for news of this state, or for news that is not.
 WIREPANE_CONTRACT_EXPORT bool asksFor(const QueryNode& query, QueryState state);
 
+// Whether a word cut short stands in what the query leaves out.
+WIREPANE_CONTRACT_EXPORT bool leavesOutCut(const QueryNode& query);
+
 enum class QueryFaultKind {
     Empty,
     Missing,  // nothing to look for where something should stand
