@@ -81,9 +81,9 @@ RelationMatcher::RelationMatcher(std::span<const CNewsKey> keySets, Case letters
     for (const CNewsKey& keySet : keySets) {
         if (!keySet.isQuery())
             take(keySet, together);
-        else if (queries != nullptr)
-            prepare(keySet, *queries);
     }
+    if (queries != nullptr)
+        prepare(keySets, *queries);
     takeGroups(together);
     unconditional.sort();
     for (Word word = 0; word < words.size(); ++word) {
@@ -92,14 +92,18 @@ RelationMatcher::RelationMatcher(std::span<const CNewsKey> keySets, Case letters
     }
 }
 
-void RelationMatcher::prepare(const CNewsKey& keySet, HeadlineQueries& queries) {
-    PreparedQuery ready;
-    ready.query = queries.prepareQuery(keySet.query());
-    if (!ready.query)
-        return;
-    ready.types.add(keySet);
-    ready.types.sort();
-    prepared.push_back(std::move(ready));
+void RelationMatcher::prepare(std::span<const CNewsKey> keySets, HeadlineQueries& queries) {
+    std::vector<QString> texts;
+    for (const CNewsKey& keySet : keySets) {
+        if (!keySet.isQuery())
+            continue;
+        texts.push_back(keySet.query());
+        NewsTypes& types = typesOfQuery.emplace_back();
+        types.add(keySet);
+        types.sort();
+    }
+    if (!texts.empty())
+        prepared = queries.prepareQueries(texts);
 }
 
 RelationMatcher::Words RelationMatcher::numbersOf(const CNewsKey& keySet) const {
@@ -162,10 +166,8 @@ bool RelationMatcher::CheckIsRelationSearch(const CHeadline& headline, std::int3
                                             const QString& symbolText) const {
     if (unconditional.has(categoryId))
         return true;
-    const bool isAskedFor = std::any_of(prepared.begin(), prepared.end(), [&](const PreparedQuery& each) {
-        return each.types.has(categoryId) && each.query->wants(headline, categoryId);
-    });
-    if (isAskedFor)
+    const auto isOfItsTypes = [&](std::size_t query) { return typesOfQuery[query].has(categoryId); };
+    if (prepared && prepared->findWanting(headline, categoryId, isOfItsTypes))
         return true;
     Hits hits;
     // True when the word is enough.

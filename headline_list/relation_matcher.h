@@ -18,8 +18,8 @@ namespace wirepane {
 
 // The key sets of the relation-search list, made ready to be tried on many headlines: it is built once when
 // they change, and a headline then costs about the same whether there are ten of them or ten thousand. May be
-// read on several threads at once, unless there are queries among them: those are tried one by one, on the
-// interface thread.
+// read on several threads at once, unless there are queries among them: those are tried on the interface
+// thread.
 class RelationMatcher {
 public:
     // No key set: wants nothing.
@@ -66,21 +66,18 @@ private:
         NewsTypes aloneSuffices;    // for headlines of these types a hit of the word is enough
         std::vector<Group> groups;  // which hold this word; those of few words first
     };
-    struct PreparedQuery {
-        NewsTypes types;
-        std::shared_ptr<const HeadlineQuery> query;
-    };
     using Hits = QVarLengthArray<Word, 64>;
     using Together = std::map<Words, NewsTypes>;
 
     void take(const CNewsKey& keySet, Together& together);
-    void prepare(const CNewsKey& keySet, HeadlineQueries& queries);
+    void prepare(std::span<const CNewsKey> keySets, HeadlineQueries& queries);
     void takeGroups(Together& together);
     Words numbersOf(const CNewsKey& keySet) const;
     bool allHit(const Hits& hits, std::int32_t categoryId) const;
 
     bool isEmpty = true;
-    std::vector<PreparedQuery> prepared;
+    std::shared_ptr<const HeadlineQuerySet> prepared;  // null: there are no queries
+    std::vector<NewsTypes> typesOfQuery;               // by its number in `prepared`
     NewsTypes unconditional;     // headlines of these types are wanted whatever they say
     std::vector<QString> words;  // rising, each once
     std::vector<WordUse> uses;   // by word

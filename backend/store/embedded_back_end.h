@@ -47,6 +47,7 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <span>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -259,6 +260,7 @@ public:
                                   const std::vector<CHeadlineTable>& entries) override;
     bool BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition) override;
     std::shared_ptr<const HeadlineQuery> prepareQuery(const QString& query) override;
+    std::shared_ptr<const HeadlineQuerySet> prepareQueries(std::span<const QString> queries) override;
     std::shared_ptr<const HitFinder> prepareHits(const CSearch& condition) override;
     std::shared_ptr<const void> countFound(std::vector<CountedSearch> wanted,
                                            SearchCounts::Told told) override;
@@ -277,6 +279,7 @@ public:
     std::int64_t positionTold() const override { return toldPosition; }
 
 private:
+    std::function<std::vector<CSymbolInfo>(const CHeadline&)> symbolsOfHeadlines();
     void tellRenamed(const std::vector<CSymbolUpdateInfo>& renamed);
     struct EntryOrder {
         bool operator()(const CHeadlineTable& a, const CHeadlineTable& b) const {

@@ -116,9 +116,18 @@ bool EmbeddedBackEnd::BKQNEWS_bSearchNews(unsigned char service, int kind, const
 
 std::shared_ptr<const HeadlineQuery> EmbeddedBackEnd::prepareQuery(const QString& query) {
     QueryPlanner planner(*connections.reading);
-    return TitleQuery::make(query, planner, [this](const CHeadline& headline) {
+    return TitleQuery::make(query, planner, symbolsOfHeadlines());
+}
+
+std::shared_ptr<const HeadlineQuerySet> EmbeddedBackEnd::prepareQueries(std::span<const QString> queries) {
+    QueryPlanner planner(*connections.reading);
+    return TitleQuerySet::make(queries, planner, symbolsOfHeadlines());
+}
+
+std::function<std::vector<CSymbolInfo>(const CHeadline&)> EmbeddedBackEnd::symbolsOfHeadlines() {
+    return [this](const CHeadline& headline) {
         return reader.relatedSymbols(keyOf(headline)).value_or(std::vector<CSymbolInfo>());
-    });
+    };
 }
 
 std::shared_ptr<const HitFinder> EmbeddedBackEnd::prepareHits(const CSearch& condition) {

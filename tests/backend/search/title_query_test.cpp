@@ -38,20 +38,38 @@ protected:
         reading = std::move(openStore(store->path()).value());
         search = std::make_unique<NewsSearch>(*reading);
     }
-    QStringList tried(const QString& query) {
-        const auto prepared = backEnd->prepareQuery(query);
-        QStringList wanted;
+    template <class Take>
+    void forEachHeadline(const Take& take) {
         for (unsigned char service = 1; service <= 2; ++service) {
             std::vector<CHeadlineTable> table;
             backEnd->BKQNEWS_iGetHeadlineTable(service, table, int(TableKind::ByDate), u"20260302"_s);
             std::vector<CHeadline> headlines;
             backEnd->BKQNEWS_iGetHeadline(service, headlines, table);
-            for (const CHeadline& headline : headlines) {
-                if (prepared && prepared->wants(headline, headline.categoryId))
-                    wanted += u"%1/%2/%3"_s.arg(service).arg(headline.time).arg(headline.sequence);
-            }
+            for (const CHeadline& headline : headlines)
+                take(headline, u"%1/%2/%3"_s.arg(service).arg(headline.time).arg(headline.sequence));
         }
+    }
+    QStringList tried(const QString& query) {
+        const auto prepared = backEnd->prepareQuery(query);
+        QStringList wanted;
+        forEachHeadline([&](const CHeadline& headline, const QString& name) {
+            if (prepared && prepared->wants(headline, headline.categoryId))
+                wanted += name;
+        });
         wanted.sort();
+        return wanted;
+    }
+    std::vector<QStringList> triedTogether(const std::vector<QString>& queries) {
+        const auto prepared = backEnd->prepareQueries(queries);
+        std::vector<QStringList> wanted(queries.size());
+        forEachHeadline([&](const CHeadline& headline, const QString& name) {
+            prepared->findWanting(headline, headline.categoryId, [&](std::size_t query) {
+                wanted[query] += name;
+                return false;
+            });
+        });
+        for (QStringList& names : wanted)
+            names.sort();
         return wanted;
     }
     QStringList searched(const QString& query) {
@@ -105,6 +123,8 @@ TEST_F(TitleQueryTest, WantsWhatASearchInTitlesFinds) {
         return some.at(qsizetype(random() % std::size_t(some.size())));
     };
     int found = 0;
+    std::vector<QString> queries{u"gold | "_s};
+    std::vector<QStringList> expected{{}};
     for (int i = 0; i < 200; ++i) {
         QString query = oneOf(random() % 3 == 0 ? fields : texts);
         for (int more = int(random() % 3); more > 0; --more)
@@ -114,8 +134,14 @@ TEST_F(TitleQueryTest, WantsWhatASearchInTitlesFinds) {
         EXPECT_EQ(wanted.join(u' ').toStdString(), searched(query).join(u' ').toStdString())
             << query.toStdString();
         found += wanted.isEmpty() ? 0 : 1;
+        queries.push_back(query);
+        expected.push_back(searched(query));
     }
     EXPECT_GT(found, 100);
+    const std::vector<QStringList> together = triedTogether(queries);
+    for (std::size_t i = 0; i < queries.size(); ++i)
+        EXPECT_EQ(together[i].join(u' ').toStdString(), expected[i].join(u' ').toStdString())
+            << queries[i].toStdString() << " among others";
 }
 
 // Marked with the number of the word: "[0:Gold] rises".
