@@ -42,6 +42,13 @@ QString ageText(std::int64_t seconds) {
     return terminalText(TextId::HoursAgo).arg(seconds / hour);
 }
 
+QString headlinesText(const FrameStatus& status) {
+    if (status.headlines < 0)
+        return {};
+    const QString all = countText(TextId::HeadlineCount, status.headlines);
+    return status.unread.isEmpty() ? all : all + u" · "_s + terminalText(TextId::UnreadOf).arg(status.unread);
+}
+
 // What searches do not find, or find in another way than they will.
 QString indexText(const FrameStatus& status) {
     if (status.searchBacklog > 0)
@@ -164,8 +171,7 @@ void StatusLine::show(const FrameStatus& status) {
     present->setVisible(!status.asOf.isEmpty());
     showText(day, dayText(status));
     index->setText(indexText(status));
-    showText(headlines,
-             status.headlines < 0 ? QString() : countText(TextId::HeadlineCount, status.headlines));
+    showText(headlines, headlinesText(status));
     showText(services,
              status.services < 0
                  ? QString()

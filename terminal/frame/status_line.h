@@ -27,6 +27,7 @@ struct FrameStatus {
     int services = -1;  // that are ticked, of those that there are; -1: the list on show has its own
     int allServices = 0;
     int headlines = -1;              // of the list on show; -1: there is none
+    QString unread;                  // of them, a number; empty: none, or nobody marks what is read
     QString asOf;                    // empty: the present moment is the machine's
     QDate newDay;                    // that has begun a while ago
     QDate shownDay;                  // of the list on show, where it is not the present day

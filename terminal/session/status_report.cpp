@@ -82,6 +82,16 @@ int rowsOf(const NewsViewAccess& access, const QVariantMap& state) {
     return sheet != nullptr ? sheet->model()->rowCount() : -1;
 }
 
+// Of the list on show.
+QString unreadOf(const QVariantMap& state) {
+    for (const QVariant& each : state.value(u"tabs"_s).toList()) {
+        const QVariantMap tab = each.toMap();
+        if (tab.value(u"selected"_s).toBool())
+            return tab.value(u"unread"_s).toString();
+    }
+    return {};
+}
+
 // The day of the list of all news, where that is on show and not the present one.
 QDate anotherDayOf(const QVariantMap& state) {
     if (state.value(u"mode"_s).toInt() != 0)
@@ -168,6 +178,7 @@ FrameStatus StatusReport::now(const SessionFacts& session) {
         const QVariantMap view = active->access->state();
         status.services = tickedServices(view);
         status.headlines = rowsOf(*active->access, view);
+        status.unread = unreadOf(view);
         status.shownDay = anotherDayOf(view);
     }
     return status;

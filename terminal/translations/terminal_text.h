@@ -64,6 +64,7 @@ enum class TextId {
     MinutesAgo,
     HoursAgo,
     HeadlineCount,
+    UnreadOf,
     StatusImport,
     StatusConnect,
     Present,

@@ -2452,6 +2452,10 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>%1 {headline|headlines}</translation>
     </message>
+    <message id="TERMINAL_UNREAD_OF">
+        <source></source>
+        <translation>%1 unread</translation>
+    </message>
     <message id="TERMINAL_HOURS_AGO">
         <source></source>
         <translation>%1 h ago</translation>

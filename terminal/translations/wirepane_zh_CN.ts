@@ -2452,6 +2452,10 @@
         <source></source>
         <translation>%1 条新闻</translation>
     </message>
+    <message id="TERMINAL_UNREAD_OF">
+        <source></source>
+        <translation>%1 条未读</translation>
+    </message>
     <message id="TERMINAL_HOURS_AGO">
         <source></source>
         <translation>%1 小时前</translation>

@@ -2452,6 +2452,10 @@
         <source></source>
         <translation>%1 則新聞</translation>
     </message>
+    <message id="TERMINAL_UNREAD_OF">
+        <source></source>
+        <translation>%1 則未讀</translation>
+    </message>
     <message id="TERMINAL_HOURS_AGO">
         <source></source>
         <translation>%1 小時前</translation>

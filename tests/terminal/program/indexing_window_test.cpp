@@ -35,6 +35,9 @@ TEST(IndexingWindow, ComesUpWhenItTakesLong) {
         }));
         EXPECT_EQ(shownProgress()->value() * 2, shownProgress()->maximum());
         EXPECT_TRUE(shownProgress()->labelText().startsWith(QStringLiteral("正在重建")));
+        QTest::keyClick(shownProgress(), Qt::Key_Escape);
+        window.tell(3, 4);
+        EXPECT_NE(shownProgress(), nullptr) << "it goes on, and there is nothing else to see";
         window.tell(4, 4);
     }
     EXPECT_EQ(shownProgress(), nullptr);
