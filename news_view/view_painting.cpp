@@ -34,7 +34,10 @@ bool TRVNewsCtrlView::OnEraseBkgnd(QPainter& painter) {
 }
 
 void TRVNewsCtrlView::OnDraw(QPainter& painter) {
-    if (currentDataState() == DataState::NotSupported) {
+    // Where empty lists say why, that of the symbol says it in its place, and no other.
+    const bool isElsewhere =
+        parts->settings.options[ViewOption::EmptyStates] && parts->shownList() != ListIndex::Symbol;
+    if (currentDataState() == DataState::NotSupported && !isElsewhere) {
         vNotSupportSymbol(painter);
         drawFrameBorder(painter);
     } else {
@@ -49,7 +52,8 @@ void TRVNewsCtrlView::DrawTitile(QPainter& painter) {
 
 void TRVNewsCtrlView::vNotSupportSymbol(QPainter& painter) {
     const QRect grid = parts->arrangement.layout().grid;
-    const QRect area(0, titleHeight(), grid.width(), grid.bottom() + 1 - titleHeight());
+    const int top = parts->settings.options[ViewOption::EmptyStates] ? grid.top() : titleHeight();
+    const QRect area(0, top, grid.width(), grid.bottom() + 1 - top);
     painter.fillRect(area, colBackground);
     painter.setFont(GetViewFont());
     painter.setPen(QColor::fromRgb(colBackground.rgb() ^ 0xFFFFFFU));
