@@ -102,6 +102,7 @@ inline constexpr QLatin1StringView withdrawnMark{"IDS_NEWSCTRLVIEW_WITHDRAWN"};
 inline constexpr QLatin1StringView markRead{"IDS_NEWSCTRLVIEW_MARK_READ"};
 inline constexpr QLatin1StringView markUnread{"IDS_NEWSCTRLVIEW_MARK_UNREAD"};
 inline constexpr QLatin1StringView markAllRead{"IDS_NEWSCTRLVIEW_MARK_ALL_READ"};
+inline constexpr QLatin1StringView nothingMarked{"IDS_NEWSCTRLVIEW_NOTHING_MARKED"};
 // "%1": how many headlines; what newAbove says.
 inline constexpr QLatin1StringView newAbove{"IDS_NEWSCTRLVIEW_NEW_ABOVE"};
 inline constexpr QLatin1StringView goToNewest{"IDS_NEWSCTRLVIEW_GO_TO_NEWEST"};

@@ -5,6 +5,7 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_lists.h"
 #include "headline_list/headline_table.h"
+#include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/reading_marks.h"
 #include "host/views/news_control_ids.h"
@@ -97,8 +98,14 @@ bool Reading::carryOut(int command) {
     return true;
 }
 
+bool Reading::isAllowed() const {
+    if (marks != nullptr && !marks->canMark() && parts.settings.options[ViewOption::ReadingMarks])
+        calls.tell(langText(parts.backEnd, keys::nothingMarked));
+    return isOn();
+}
+
 void Reading::markSelected(const MarkChange& change) {
-    if (!isOn())
+    if (!isAllowed())
         return;
     std::vector<HeadlineKey> keys;
     for (const CHeadlineTable& entry : calls.selected())
@@ -109,7 +116,7 @@ void Reading::markSelected(const MarkChange& change) {
 }
 
 void Reading::markAll() {
-    if (!isOn())
+    if (!isAllowed())
         return;
     const HeadlineList& list = view.listOf(view.shownList());
     std::vector<HeadlineKey> keys = list.headlineTable().keys();

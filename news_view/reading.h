@@ -28,6 +28,7 @@ public:
     struct Calls {
         std::function<std::vector<CHeadlineTable>()> selected;
         std::function<std::optional<CHeadlineTable>()> inPane;  // whose story the pane shows
+        std::function<void(const QString& sentence)> tell;
     };
 
     // All that is referred to outlives this.
@@ -42,6 +43,8 @@ public:
     bool carryOut(int command);
 
 private:
+    // The same, telling the user where what is kept can only be read.
+    bool isAllowed() const;
     void markSelected(const MarkChange& change);
     void markAll();
     void markIfNew(const HeadlineKey& key, ReadingState state);

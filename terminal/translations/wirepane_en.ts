@@ -2035,6 +2035,10 @@
         <source></source>
         <translation>Mar&amp;k All Read</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTHING_MARKED">
+        <source></source>
+        <translation>Nothing is marked: the news store can only be read.</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
         <source></source>
         <translation>%1 new</translation>

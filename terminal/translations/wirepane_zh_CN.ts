@@ -2035,6 +2035,10 @@
         <source></source>
         <translation>全部标为已读(&amp;K)</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTHING_MARKED">
+        <source></source>
+        <translation>未作标记：新闻数据库只能读取。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
         <source></source>
         <translation>%1 条新闻</translation>

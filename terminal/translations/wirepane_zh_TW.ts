@@ -2035,6 +2035,10 @@
         <source></source>
         <translation>全部標為已讀(&amp;K)</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTHING_MARKED">
+        <source></source>
+        <translation>未作標記：新聞資料庫只能讀取。</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
         <source></source>
         <translation>%1 則新聞</translation>

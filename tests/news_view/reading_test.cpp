@@ -74,7 +74,11 @@ protected:
     std::vector<CHeadlineTable> selected;
     std::optional<CHeadlineTable> inPane;
     const CommonParts parts = view.parts();
-    Reading reading{view, parts, {[this] { return selected; }, [this] { return inPane; }}};
+    QStringList sentences;
+    Reading reading{view,
+                    parts,
+                    {[this] { return selected; }, [this] { return inPane; },
+                     [this](const QString& sentence) { sentences += sentence; }}};
 };
 
 TEST_F(ReadingTest, WhatAHandOpensIsReadAndWhatStandsIsSeenAndThenRead) {
@@ -169,6 +173,7 @@ TEST_F(ReadingTest, NothingIsMarkedUnasked) {
         EXPECT_TRUE(backEnd.kept.isEmpty()) << one.what;
         EXPECT_FALSE(reading.isOn()) << one.what;
     }
+    EXPECT_EQ(sentences, QStringList(2, u"IDS_NEWSCTRLVIEW_NOTHING_MARKED"_s)) << "once for each command";
     setOption(false);
     EXPECT_EQ(view.listOf(ListIndex::All).tone(0), SheetCells::Tone::Plain);
     EXPECT_EQ(spoken().filter(u"STATE"_s), QStringList());
