@@ -397,13 +397,10 @@ TEST_F(SearchesOfTheView, TheNewestAreShownWhileTheUserTypesAndStayUntilAllAreFo
     view->RespSearchHeadLineTable(query, 1);
     EXPECT_EQ(rows(), 2);
     EXPECT_EQ(sum(), u"found 2"_s);
-}
-
-TEST_F(SearchesOfTheView, WithoutTheOptionNothingIsSearchedForBeforeEnter) {
+    backEnd.findings.clear();
     openSearch({{u"SearchQueries"_s, true}});
-    auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
-    QTest::keyClicks(edit, u"gold"_s);
-    EXPECT_EQ(backEnd.findings.size(), 0U);
+    QTest::keyClicks(dlgItem(view.get(), ids::searchEdit), u"gold"_s);
+    EXPECT_EQ(backEnd.findings.size(), 0U) << "a view without the option";
 }
 
 TEST_F(SearchesOfTheView, TheBoxDropsDownWhatWasSearchedForNewestFirst) {
