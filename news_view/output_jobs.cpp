@@ -8,6 +8,7 @@
 #include "news_view/story_stage.h"
 
 #include <QPointer>
+#include <QWidget>
 
 #include <numeric>
 
