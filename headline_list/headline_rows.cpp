@@ -15,7 +15,7 @@ constexpr auto atOffset = [](auto& content, std::size_t offset) {
 
 }  // namespace
 
-const CHeadlineTable& HeadlineRows::at(int row) const {
+CHeadlineTable HeadlineRows::at(int row) const {
     const Spot spot = spotOf(row);
     return pageAt(spot.place).entries[spot.offset];
 }
@@ -30,7 +30,7 @@ int HeadlineRows::rowOf(Ticket ticket) const {
     return rowAt(spot.place, spot.offset);
 }
 
-const CHeadlineTable& HeadlineRows::entryOf(Ticket ticket) const {
+CHeadlineTable HeadlineRows::entryOf(Ticket ticket) const {
     const Spot spot = spotOf(ticket);
     return pageAt(spot.place).entries[spot.offset];
 }
@@ -51,7 +51,7 @@ void HeadlineRows::insert(int row, const CHeadlineTable& entry) {
     const Ticket ticket = takeTicket();
     pageOfTicket[numberOf(ticket)] = order[place];
     Page& page = pageAt(place);
-    page.entries.insert(atOffset(page.entries, offset), entry);
+    page.entries.insert(offset, entry);
     page.tickets.insert(atOffset(page.tickets, offset), ticket);
     earliest[place] = std::min(earliest[place], entry.time);
     shiftAbove(place, 1);
@@ -61,8 +61,8 @@ void HeadlineRows::remove(int row) {
     const auto [place, offset] = spotOf(row);
     Page& page = pageAt(place);
     freeTickets.push_back(page.tickets[offset]);
-    const std::int64_t time = page.entries[offset].time;
-    page.entries.erase(atOffset(page.entries, offset));
+    const std::int64_t time = page.entries.timeAt(offset);
+    page.entries.erase(offset);
     page.tickets.erase(atOffset(page.tickets, offset));
     shiftAbove(place, -1);
     if (page.entries.empty()) {
@@ -81,10 +81,11 @@ int HeadlineRows::firstEarlierThan(std::int64_t time) const {
     if (page == earliest.rend())
         return rowCount;
     const auto place = static_cast<std::size_t>(earliest.rend() - page - 1);
-    const std::vector<CHeadlineTable>& entries = pageAt(place).entries;
-    const auto entry = std::find_if(entries.rbegin(), entries.rend(),
-                                    [&](const CHeadlineTable& candidate) { return candidate.time < time; });
-    return rowAt(place, static_cast<std::size_t>(entries.rend() - entry - 1));
+    const PackedEntries& entries = pageAt(place).entries;
+    std::size_t offset = entries.size() - 1;
+    while (offset > 0 && entries.timeAt(offset) >= time)
+        --offset;
+    return rowAt(place, offset);
 }
 
 // Those near the top are asked for most often: it looks ever further down from there, then in between.
@@ -170,9 +171,8 @@ void HeadlineRows::moveEntries(std::size_t from, std::size_t firstOffset, std::s
     Page& target = pageAt(to);
     for (std::size_t offset = firstOffset; offset < source.tickets.size(); ++offset)
         pageOfTicket[numberOf(source.tickets[offset])] = order[to];
-    target.entries.insert(target.entries.end(), atOffset(source.entries, firstOffset), source.entries.end());
+    target.entries.moveFrom(firstOffset, source.entries);
     target.tickets.insert(target.tickets.end(), atOffset(source.tickets, firstOffset), source.tickets.end());
-    source.entries.resize(firstOffset);
     source.tickets.resize(firstOffset);
     findEarliest(to);
 }
@@ -189,8 +189,9 @@ void HeadlineRows::renumberFrom(std::size_t place) {
 
 void HeadlineRows::findEarliest(std::size_t place) {
     earliest[place] = std::numeric_limits<std::int64_t>::max();
-    for (const CHeadlineTable& entry : pageAt(place).entries)
-        earliest[place] = std::min(earliest[place], entry.time);
+    const PackedEntries& entries = pageAt(place).entries;
+    for (std::size_t offset = 0; offset < entries.size(); ++offset)
+        earliest[place] = std::min(earliest[place], entries.timeAt(offset));
 }
 
 }  // namespace wirepane

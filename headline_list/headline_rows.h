@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "headline_list/packed_entries.h"
 #include "host/contract/records.h"
 
 #include <algorithm>
@@ -28,10 +29,10 @@ public:
     bool empty() const { return rowCount == 0; }
 
     // Rows in [0, size()) and tickets of rows that are here.
-    const CHeadlineTable& at(int row) const;
+    CHeadlineTable at(int row) const;
     Ticket ticketOf(int row) const;
     int rowOf(Ticket ticket) const;
-    const CHeadlineTable& entryOf(Ticket ticket) const;
+    CHeadlineTable entryOf(Ticket ticket) const;
 
     // Puts an entry in before `row`, in [0, size()].
     void insert(int row, const CHeadlineTable& entry);
@@ -56,7 +57,7 @@ private:
     // What stands further up comes later, so that the top grows at the end of its page. A position in the
     // list counts from the bottom in the same way.
     struct Page {
-        std::vector<CHeadlineTable> entries;
+        PackedEntries entries;
         std::vector<Ticket> tickets;  // of the entries
     };
     struct Spot {
@@ -115,7 +116,7 @@ HeadlineRows::HeadlineRows(int count, Next next) : rowCount(count) {
         Page& page = pages[place];
         page.entries.resize(length);
         for (std::size_t offset = length; offset-- > 0;)
-            page.entries[offset] = next();
+            page.entries.set(offset, next());
         page.tickets.resize(length);
         for (std::size_t offset = 0; offset < length; ++offset)
             page.tickets[offset] = Ticket(static_cast<std::size_t>(below[place]) + offset);
@@ -128,7 +129,7 @@ template <class Wanted>
 int HeadlineRows::firstWithin(int from, int end, Wanted wanted) const {
     for (int row = from; row < end;) {
         const auto [place, offset] = spotOf(row);
-        const std::vector<CHeadlineTable>& entries = pageAt(place).entries;
+        const PackedEntries& entries = pageAt(place).entries;
         for (std::size_t left = offset + 1; left-- > 0 && row < end; ++row) {
             if (wanted(entries[left]))
                 return row;

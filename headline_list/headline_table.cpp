@@ -118,6 +118,8 @@ void HeadlineTable::remove(int row) {
 }
 
 void HeadlineTable::assign(const TableRuns& runs) {
+    // The old ones first, or there would be room for both.
+    entries = HeadlineRows();
     entries = sortedNewestFirst(runs);
     days.clear();
     indexed = false;

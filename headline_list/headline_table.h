@@ -38,7 +38,7 @@ public:
     bool empty() const { return entries.empty(); }
 
     // The entry of a row in [0, size()).
-    const CHeadlineTable& at(int row) const { return entries.at(row); }
+    CHeadlineTable at(int row) const { return entries.at(row); }
     // From the top down; some milliseconds for a million.
     std::vector<HeadlineKey> keys() const;
     // How many entries each service has. Looks at all of them.
