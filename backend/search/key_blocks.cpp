@@ -33,6 +33,17 @@ void keepLastOfEach(std::vector<StoredKey>& keys) {
 
 }  // namespace
 
+KeyBlocks::KeyBlocks(const std::vector<CHeadlineTable>& newestFirst) {
+    std::vector<StoredKey> piece;
+    for (auto next = newestFirst.rbegin(); next != newestFirst.rend();) {
+        piece.clear();
+        for (; next != newestFirst.rend() && piece.size() < blockSize; ++next)
+            piece.push_back({next->time, next->sequence, 0});
+        append(piece, true);
+    }
+    blocks.shrink_to_fit();
+}
+
 KeyBlocks::Block::Block(const StoredKey* keys, std::size_t size)
     : firstTime(keys[0].time),
       firstSequence(keys[0].sequence),
@@ -99,6 +110,25 @@ std::vector<CHeadlineTable> KeyBlocks::entriesOf(const IdSet& ids, unsigned char
         }
     }
     return entries;
+}
+
+void KeyBlocks::appendTo(std::vector<CHeadlineTable>& entries, unsigned char service) const {
+    entries.reserve(entries.size() + count);
+    for (auto block = blocks.rbegin(); block != blocks.rend(); ++block) {
+        for (std::size_t place = block->count; place-- > 0;)
+            entries.push_back({block->time(place), block->sequence(place), service, 0, 0});
+    }
+}
+
+bool KeyBlocks::hold(const HeadlineKey& key) const {
+    const StoredKey wanted{key.time, key.sequence, 0};
+    const auto behind = std::upper_bound(blocks.begin(), blocks.end(), wanted, isBefore);
+    if (behind == blocks.begin())
+        return false;
+    std::vector<StoredKey> keys;
+    unpack(*std::prev(behind), keys);
+    return std::any_of(keys.begin(), keys.end(),
+                       [&](const StoredKey& candidate) { return isSame(candidate, wanted); });
 }
 
 bool KeyBlocks::isBefore(const StoredKey& key, const Block& block) {

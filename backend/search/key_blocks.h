@@ -24,10 +24,17 @@ struct StoredKey {
 // that hold none of them.
 class KeyBlocks {
 public:
+    KeyBlocks() = default;
+    // Those of entries, newest first, without their ids.
+    explicit KeyBlocks(const std::vector<CHeadlineTable>& newestFirst);
+
     // Adds keys, in any order. One that is there gets the id that comes with it.
     void add(std::vector<StoredKey> keys);
     // The entries whose ids are in the set, newest first.
     std::vector<CHeadlineTable> entriesOf(const IdSet& ids, unsigned char service) const;
+    // Appends all entries, newest first.
+    void appendTo(std::vector<CHeadlineTable>& entries, unsigned char service) const;
+    bool hold(const HeadlineKey& key) const;
     std::size_t size() const { return count; }
 
 private:

@@ -15,30 +15,17 @@ namespace {
 constexpr std::ptrdiff_t mostKept = 8;
 constexpr std::size_t mostEntriesKept = 500'000;
 
-// Entries of one service, newest first.
-bool holdsAny(const std::vector<CHeadlineTable>& entries, const std::vector<HeadlineKey>& news) {
-    return std::any_of(news.begin(), news.end(), [&](const HeadlineKey& key) {
-        const auto place = std::lower_bound(
-            entries.begin(), entries.end(), key, [](const CHeadlineTable& entry, const HeadlineKey& wanted) {
-                return entry.time != wanted.time ? entry.time > wanted.time
-                                                 : entry.sequence > wanted.sequence;
-            });
-        return place != entries.end() && keyOf(*place) == key;
-    });
-}
-
 }  // namespace
 
 SearchDispatcher::SearchDispatcher(const QString& storePath, Answered answered, Gate answerGate)
     : path(storePath),
       tell(std::move(answered)),
       gate(answerGate ? std::move(answerGate) : [](const std::function<void()>& answer) { answer(); }) {
-    worker = std::make_unique<SearchWorker>(
-        storePath, [this](std::int64_t ticket, std::vector<CHeadlineTable>&& entries) {
-            auto found = std::make_shared<std::vector<CHeadlineTable>>(std::move(entries));
-            const auto answer = [this, ticket, found] { take(ticket, std::move(*found)); };
-            answers.post([this, answer] { gate(answer); });
-        });
+    worker = std::make_unique<SearchWorker>(storePath, [this](std::int64_t ticket, KeyBlocks&& blocks) {
+        auto found = std::make_shared<KeyBlocks>(std::move(blocks));
+        const auto answer = [this, ticket, found] { take(ticket, std::move(*found)); };
+        answers.post([this, answer] { gate(answer); });
+    });
 }
 
 SearchDispatcher::~SearchDispatcher() {
@@ -132,8 +119,8 @@ SearchDispatcher::Search& SearchDispatcher::searchOf(int kind, const CSearch& co
     return searches.back();
 }
 
-const std::vector<CHeadlineTable>& SearchDispatcher::table(unsigned char service, int kind) const {
-    static const std::vector<CHeadlineTable> none;
+const KeyBlocks& SearchDispatcher::table(unsigned char service, int kind) const {
+    static const KeyBlocks none;
     const auto id = present.find(kind);
     if (id == present.end())
         return none;
@@ -146,7 +133,7 @@ const std::vector<CHeadlineTable>& SearchDispatcher::table(unsigned char service
     return none;
 }
 
-void SearchDispatcher::take(std::int64_t ticket, std::vector<CHeadlineTable>&& entries) {
+void SearchDispatcher::take(std::int64_t ticket, KeyBlocks&& found) {
     for (Search& search : searches) {
         for (auto pending = search.pending.begin(); pending != search.pending.end(); ++pending) {
             if (pending->second.ticket != ticket)
@@ -156,8 +143,9 @@ void SearchDispatcher::take(std::int64_t ticket, std::vector<CHeadlineTable>&& e
             search.pending.erase(pending);
             if (!done.later.empty())
                 send(search, service, done.later);
-            if (!done.news || holdsAny(entries, *done.news)) {
-                search.tables[service] = std::move(entries);
+            const auto isFound = [&](const HeadlineKey& key) { return found.hold(key); };
+            if (!done.news || std::ranges::any_of(*done.news, isFound)) {
+                search.tables[service] = std::move(found);
                 deliver(search, service);
             }
             forgetOldest();

@@ -48,8 +48,8 @@ public:
     void lookAgain(unsigned char service, const std::vector<HeadlineKey>& news);
     // The index holds more of the news that is there: all searches are answered again.
     void renew();
-    // The table of the present search.
-    const std::vector<CHeadlineTable>& table(unsigned char service, int kind) const;
+    // The table of the present search, packed.
+    const KeyBlocks& table(unsigned char service, int kind) const;
 
 private:
     using News = std::vector<HeadlineKey>;
@@ -63,7 +63,7 @@ private:
         std::int64_t id;
         int kind;
         CSearch condition;
-        std::map<unsigned char, std::vector<CHeadlineTable>> tables;
+        std::map<unsigned char, KeyBlocks> tables;
         std::map<unsigned char, Pending> pending;
     };
 
@@ -71,7 +71,7 @@ private:
     Search& searchOf(int kind, const CSearch& condition);
     static void drop(Search& search, unsigned char service);
     void send(Search& search, unsigned char service, std::optional<News> news);
-    void take(std::int64_t ticket, std::vector<CHeadlineTable>&& entries);
+    void take(std::int64_t ticket, KeyBlocks&& found);
     void deliver(Search& search, unsigned char service);
     void forgetOldest();
 

@@ -85,10 +85,10 @@ std::vector<CHeadlineTable> SearchWorker::newestFound(const SideJob::Search& sea
 void SearchWorker::search(const SearchJob& job) {
     if (!*job.dropped) {
         NewsSearch* const search = opened();
-        auto found =
+        const auto found =
             search != nullptr ? search->find(job.service, job.condition, job.dropped.get()) : std::nullopt;
         if (!*job.dropped)
-            tell(job.ticket, found ? *std::move(found) : std::vector<CHeadlineTable>());
+            tell(job.ticket, found ? KeyBlocks(*found) : KeyBlocks());
     }
     ++searched;
     prepareWhenIdle();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/database/database.h"
+#include "backend/search/key_blocks.h"
 #include "backend/search/newest_titles.h"
 #include "backend/search/news_search.h"
 #include "backend/worker_thread.h"
@@ -47,7 +48,7 @@ struct SideJob {
 class SearchWorker {
 public:
     // `answer` is called on the worker's thread, never after the destructor returns; not for dropped jobs.
-    using Answer = std::function<void(std::int64_t ticket, std::vector<CHeadlineTable>&& entries)>;
+    using Answer = std::function<void(std::int64_t ticket, KeyBlocks&& found)>;
 
     SearchWorker(QString storePath, Answer answer,
                  std::optional<std::chrono::milliseconds> preparesAfter = std::chrono::seconds(2));

@@ -37,8 +37,7 @@ int EmbeddedBackEnd::tableOf(unsigned char service, std::vector<CHeadlineTable>&
         days.append(table, service, dayOfText(key));
     } else if (kind == static_cast<int>(TableKind::Search) ||
                kind == static_cast<int>(TableKind::SecondSearch)) {
-        const std::vector<CHeadlineTable>& found = searches.table(service, kind);
-        table.insert(table.end(), found.begin(), found.end());
+        searches.table(service, kind).appendTo(table, service);
     } else if (kind == static_cast<int>(TableKind::ByCategory) && isNumber) {
         reader.appendCategory(table, service, category, newsRange());
     }

@@ -20,6 +20,22 @@ std::vector<HeadlineKey> found(HeadlineKeys& keys, unsigned char service, const 
     return entries;
 }
 
+// What was found, packed for as long as somebody may read it.
+void expectPacked(const std::vector<CHeadlineTable>& entries) {
+    const KeyBlocks packed(entries);
+    std::vector<CHeadlineTable> unpacked;
+    packed.appendTo(unpacked, 1);
+    ASSERT_EQ(unpacked.size(), entries.size());
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        const HeadlineKey key = keyOf(entries[i]);
+        ASSERT_TRUE(unpacked[i].time == key.time && unpacked[i].sequence == key.sequence) << i;
+        if (i % 50 == 0) {
+            ASSERT_TRUE(packed.hold(key)) << i;
+        }
+    }
+    EXPECT_FALSE(!entries.empty() && packed.hold({entries.front().time + 1, entries.front().sequence, 1}));
+}
+
 // News of all times in any order, replaced now and then, some of it hidden for a while, beside a store that
 // is asked the plain way.
 TEST_F(HeadlineKeysTest, EntriesAreThoseOfTheStoreHoweverManyAreKept) {
@@ -70,6 +86,7 @@ TEST_F(HeadlineKeysTest, EntriesAreThoseOfTheStoreHoweverManyAreKept) {
                         expected.push_back({query.number(0), query.smallNumber(1), service});
                 }
                 EXPECT_TRUE(found(all, service, ids) == expected) << round << " 1/" << rarity;
+                expectPacked(all.entries(service, ids).value());
                 EXPECT_TRUE(found(some, service, ids) == expected) << round << " 1/" << rarity;
             }
         }
