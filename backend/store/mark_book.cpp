@@ -2,13 +2,29 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/mark_book.h"
 
+#include <algorithm>
+#include <tuple>
+
 namespace wirepane {
+
+namespace {
+
+// Of a row of service, time and sequence.
+HeadlineKey keyIn(const Query& query) {
+    return {query.number(1), query.smallNumber(2), static_cast<unsigned char>(query.smallNumber(0))};
+}
+
+}  // namespace
 
 MarkBook::MarkBook(Database& database)
     : read(database,
            "SELECT id, coalesce(state, time <= (SELECT moment FROM marks_begin)), starred, was_read, "
            "shown, opened FROM headlines LEFT JOIN marks ON headline = id "
            "WHERE service = ? AND time = ? AND sequence = ?"),
+      begin(database, "SELECT moment FROM marks_begin"),
+      newBefore(database,
+                "SELECT service, time, sequence FROM marks JOIN headlines ON id = headline "
+                "WHERE state = 0 AND time <= ?"),
       moved(database,
             "SELECT service, time, sequence FROM headlines WHERE id = (SELECT headline FROM arrivals "
             "WHERE position > ? AND gone_service = ? AND gone_time = ? AND gone_sequence = ?)"),
@@ -41,12 +57,34 @@ ReadingMark MarkBook::find(const HeadlineKey& key) {
     return known ? known->mark : ReadingMark();
 }
 
+void MarkBook::sift(std::vector<HeadlineKey>& keys) {
+    Query moment(begin);
+    if (!moment.next())
+        return;
+    const std::int64_t first = moment.number(0);
+    const auto isBefore = [&](const HeadlineKey& key) { return key.time <= first; };
+    if (std::ranges::none_of(keys, isBefore))
+        return;
+    std::vector<HeadlineKey> marked;
+    Query query(newBefore, first);
+    while (query.next())
+        marked.push_back(keyIn(query));
+    if (query.failed())
+        return;
+    constexpr auto inOrder = [](const HeadlineKey& a, const HeadlineKey& b) {
+        return std::tie(a.time, a.sequence, a.service) < std::tie(b.time, b.sequence, b.service);
+    };
+    std::ranges::sort(marked, inOrder);
+    std::erase_if(keys, [&](const HeadlineKey& key) {
+        return isBefore(key) && !std::ranges::binary_search(marked, key, inOrder);
+    });
+}
+
 std::optional<HeadlineKey> MarkBook::movedTo(const HeadlineKey& key, std::int64_t heard) {
     Query query(moved, heard, key.service, key.time, key.sequence);
     if (!query.next())
         return std::nullopt;
-    return HeadlineKey{query.number(1), query.smallNumber(2),
-                       static_cast<unsigned char>(query.smallNumber(0))};
+    return keyIn(query);
 }
 
 bool MarkBook::wasCorrected(std::int64_t id, std::int64_t heard) {

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace wirepane {
 
@@ -20,6 +21,9 @@ public:
 
     // Of news that is not there: as of new news.
     ReadingMark find(const HeadlineKey& key);
+    // Leaves of these what may be new: what was published since marks are kept, or is marked so. One look at
+    // the store, however many they are.
+    void sift(std::vector<HeadlineKey>& keys);
     // Changes the mark as of the moment `now`, made by somebody who has heard of the arrivals up to `heard`:
     // news that has been sent again since then has the mark where it stands now, and is new again where it
     // was corrected. News that is not there is passed over. False on failure, which the database then holds.
@@ -36,6 +40,8 @@ private:
     bool wasCorrected(std::int64_t id, std::int64_t heard);
 
     Statement read;
+    Statement begin;
+    Statement newBefore;
     Statement moved;
     Statement corrected;
     Statement write;

@@ -93,11 +93,14 @@ struct MarkingDesk::Finding {
     std::size_t most;
     QPointer<QObject> asker;
     Told tell;
+    bool isSifted = false;
     std::size_t looked = 0;
     std::vector<HeadlineKey> unread = {};
 
     bool isDone() const { return looked == keys.size() || unread.size() >= most; }
     void look(MarkBook& book) {
+        if (!std::exchange(isSifted, true))
+            book.sift(keys);
         for (std::size_t end = std::min(looked + writtenAtOnce, keys.size()); looked < end && !isDone();
              ++looked) {
             if (book.find(keys[looked]).state == ReadingState::New)

@@ -129,6 +129,31 @@ TEST_F(MarksTest, LongListsAreMarkedAPortionAtATimeInTheOrderGiven) {
         ASSERT_EQ(kept(key), key == keys[count - 2] ? u"new*"_s : u"new"_s) << "the terminal was closed";
 }
 
+TEST_F(MarksTest, WhatWasPublishedBeforeMarksWereKeptIsUnreadOnlyWhereItIsMarkedSo) {
+    std::vector<HeadlineKey> keys;
+    for (int i = 0; i < 6; ++i)
+        keys.push_back(take(news(QString::number(i), i)));
+    Statement begin(*store, "UPDATE marks_begin SET moment = ?");
+    ASSERT_TRUE(Query(begin, at(9, 0) + 3).run());
+    {
+        const auto marking = opened();
+        marking->changeMarks({keys[1]}, read);
+        marking->changeMarks({keys[1], keys[2]}, unread);
+        marking->changeMarks({keys[4]}, seen);
+    }
+    const auto backEnd = opened();
+    const auto isAsked = [&](std::size_t most, const std::vector<HeadlineKey>& expected) {
+        std::optional<std::vector<HeadlineKey>> found;
+        backEnd->findUnread(keys, most, &backEnd->markTeller(),
+                            [&](const auto& unreadKeys) { found = unreadKeys; });
+        return QTest::qWaitFor([&] { return found.has_value(); }) && *found == expected;
+    };
+    EXPECT_TRUE(isAsked(10, {keys[1], keys[2], keys[5]}));
+    EXPECT_TRUE(isAsked(2, {keys[1], keys[2]}));
+    keys = {keys[0], keys[3]};
+    EXPECT_TRUE(isAsked(10, {}));
+}
+
 TEST_F(MarksTest, WhatAnotherTerminalMarksIsToldAndShown) {
     const HeadlineKey key = take(news(u"a"_s, 0));
     const auto here = opened();
