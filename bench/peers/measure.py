@@ -441,6 +441,10 @@ def main():
     parser.add_argument('--ours', help='the folder of the benchmarks')
     parser.add_argument('--into', type=Path)
     options = parser.parse_args()
+    mark = 'ours' if options.ours else '%d items' % options.items
+    place = re.compile(r'(<!-- %s -->\n).*?(<!-- end -->)' % mark, re.DOTALL)
+    if options.into is not None and not place.search(options.into.read_text(encoding='utf-8')):
+        sys.exit('%s has no place for "%s"' % (options.into, mark))
     server = None if options.ours else display()
     try:
         lines = ours(options) if options.ours else peers(options)
@@ -451,11 +455,7 @@ def main():
     if options.into is None:
         print(text)
         return
-    mark = 'ours' if options.ours else '%d items' % options.items
     document = options.into.read_text(encoding='utf-8')
-    place = re.compile(r'(<!-- %s -->\n).*?(<!-- end -->)' % mark, re.DOTALL)
-    if not place.search(document):
-        sys.exit('%s has no place for "%s"' % (options.into, mark))
     options.into.write_text(place.sub(lambda m: m.group(1) + text + '\n' + m.group(2), document), encoding='utf-8')
 
 
