@@ -32,8 +32,9 @@ int DayIndex::append(std::vector<CHeadlineTable>& table, unsigned char service, 
     // Doubling keeps the appending of several services linear.
     if (table.capacity() < table.size() + size)
         table.reserve(std::max(table.size() + size, 2 * table.capacity()));
-    for (auto entry = day.entries.rbegin(); entry != day.entries.rend(); ++entry)
-        table.push_back({day.bounds.begin + entry->second, entry->sequence, service, 0, 0});
+    day.entries.forEachNewestFirst([&](const DayEntry& entry) {
+        table.push_back({day.bounds.begin + entry.second, entry.sequence, service, 0, 0});
+    });
     return static_cast<int>(size);
 }
 
@@ -53,7 +54,7 @@ DayIndex::Day& DayIndex::find(unsigned char service, QDate date) {
 }
 
 void DayIndex::load(Day& day, unsigned char service) {
-    day.entries.clear();
+    day.entries = {};
     Query query(canReadAll() ? wholeRange : range, service, day.bounds.begin, day.bounds.end);
     // A day that could not be read whole is read again the next time.
     if (!query.next()) {
@@ -61,13 +62,15 @@ void DayIndex::load(Day& day, unsigned char service) {
         return;
     }
     const std::span<const GatheredPair> pairs = query.pairs(0);
-    day.entries.reserve(pairs.size());
+    std::vector<DayEntry> entries;
+    entries.reserve(pairs.size());
     for (const auto& [time, sequence] : pairs)
-        day.entries.push_back(
+        entries.push_back(
             {static_cast<std::int32_t>(time - day.bounds.begin), static_cast<std::int32_t>(sequence)});
     // An aggregate asks for no order; the index that answers has it.
-    if (!std::is_sorted(day.entries.begin(), day.entries.end()))
-        std::sort(day.entries.begin(), day.entries.end());
+    if (!std::is_sorted(entries.begin(), entries.end()))
+        std::sort(entries.begin(), entries.end());
+    day.entries = DayEntries(entries);
 }
 
 // Looking at each row whether it is hidden takes a third of the reading; where nothing is, at this very
@@ -98,28 +101,18 @@ void DayIndex::forDaysOf(const HeadlineKey& key, Change change) {
          day != days.end() && day->first.first == key.service; ++day) {
         if (day->second.bounds.contains(key.time))
             change(day->second.entries,
-                   Entry{static_cast<std::int32_t>(key.time - day->second.bounds.begin), key.sequence});
+                   DayEntry{static_cast<std::int32_t>(key.time - day->second.bounds.begin), key.sequence});
     }
 }
 
 void DayIndex::add(const HeadlineKey& key) {
-    forDaysOf(key, [this](std::vector<Entry>& entries, const Entry& entry) {
-        const auto place = std::lower_bound(entries.begin(), entries.end(), entry);
-        if (place != entries.end() && *place == entry)
-            return;
-        entries.insert(place, entry);
-        ++count;
-    });
+    forDaysOf(key,
+              [this](DayEntries& entries, const DayEntry& entry) { count += entries.add(entry) ? 1 : 0; });
 }
 
 void DayIndex::remove(const HeadlineKey& key) {
-    forDaysOf(key, [this](std::vector<Entry>& entries, const Entry& entry) {
-        const auto place = std::lower_bound(entries.begin(), entries.end(), entry);
-        if (place == entries.end() || *place != entry)
-            return;
-        entries.erase(place);
-        --count;
-    });
+    forDaysOf(key,
+              [this](DayEntries& entries, const DayEntry& entry) { count -= entries.remove(entry) ? 1 : 0; });
 }
 
 void DayIndex::clear() {

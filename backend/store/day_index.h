@@ -4,6 +4,7 @@
 
 #include "backend/database/statement.h"
 #include "backend/store/day_bounds.h"
+#include "backend/store/day_entries.h"
 #include "host/contract/records.h"
 
 #include <QDate>
@@ -35,19 +36,9 @@ public:
     std::size_t entryCount() const { return count; }
 
 private:
-    // Ordered as the table is, oldest first, so that news is added at the cheap end.
-    struct Entry {
-        std::int32_t second = 0;  // since the day's begin
-        std::int32_t sequence = 0;
-
-        bool operator==(const Entry&) const = default;
-        bool operator<(const Entry& other) const {
-            return second != other.second ? second < other.second : sequence < other.sequence;
-        }
-    };
     struct Day {
         DayBounds bounds;
-        std::vector<Entry> entries;
+        DayEntries entries;
         std::int64_t lastUse = 0;
     };
     using Days = std::map<std::pair<unsigned char, QDate>, Day>;

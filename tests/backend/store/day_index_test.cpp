@@ -3,8 +3,13 @@
 #include "backend/store/day_index.h"
 
 #include "backend/database/read_transaction.h"
+#include "backend/store/day_entries.h"
 #include "tests/backend/store/store_fixture.h"
 #include "tests/support/time_zone.h"
+
+#include <algorithm>
+#include <random>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +32,35 @@ protected:
         ASSERT_TRUE(writer->commit());
     }
 };
+
+// The day fills from its end, in between and at its begin, empties and fills again.
+TEST(DayEntriesTest, AreASetInOrder) {
+    std::mt19937 random(5);
+    std::set<DayEntry> plain;
+    for (int i = 0; i < 3000; ++i)
+        plain.insert({int(random() % 80'000), i});
+    DayEntries entries(std::vector<DayEntry>(plain.begin(), plain.end()));
+    for (const unsigned growth : {9U, 1U, 8U}) {
+        for (int step = 0; step < 8000; ++step) {
+            DayEntry entry{int(random() % 80'000), int(random() % 3000)};
+            if (step % 3 == 0 && !plain.empty())
+                entry = *plain.lower_bound(std::min(entry, *plain.rbegin()));
+            else if (step % 3 == 1)
+                entry = {80'000 + step, int(growth)};
+            const bool comes = random() % 10 < growth;
+            const bool expected = comes ? plain.insert(entry).second : plain.erase(entry) > 0;
+            ASSERT_EQ(comes ? entries.add(entry) : entries.remove(entry), expected) << step;
+        }
+        std::vector<DayEntry> all;
+        entries.forEachNewestFirst([&](const DayEntry& entry) { all.push_back(entry); });
+        ASSERT_EQ(entries.size(), plain.size());
+        ASSERT_TRUE(std::equal(all.begin(), all.end(), plain.rbegin(), plain.rend())) << growth;
+    }
+    while (!plain.empty())
+        ASSERT_TRUE(entries.remove(plain.extract(plain.begin()).value()));
+    EXPECT_FALSE(entries.remove({}));
+    EXPECT_TRUE(entries.add({}));
+}
 
 TEST_F(DayIndexTest, TooManyEntriesDropTheDaysAskedForLongestAgo) {
     fill(monday, 4, 10);
