@@ -14,8 +14,8 @@
 #include "news_view/view_context.h"
 #include "news_view/view_settings.h"
 
+#include <algorithm>
 #include <chrono>
-#include <utility>
 
 namespace wirepane {
 
@@ -23,6 +23,7 @@ namespace {
 
 constexpr std::chrono::milliseconds gathered{200};
 constexpr std::size_t mostFollowed = 4000;  // changes; more are counted anew
+constexpr std::size_t lookedAtOnce = 500;   // changes: a key waits for no more
 
 }  // namespace
 
@@ -88,7 +89,12 @@ void UnreadCounts::update(ListIndex list, Counted& counted) {
             table.keys(), UnreadSet::mostCounted + 1, this,
             [this, list = list](const std::vector<HeadlineKey>& found) { takeFound(list, found); });
     }
-    counted.unread.settle(std::exchange(counted.changed, {}), isUnreadIn(table));
+    const auto rest =
+        counted.changed.begin() + static_cast<std::ptrdiff_t>(std::min(lookedAtOnce, counted.changed.size()));
+    counted.unread.settle({counted.changed.begin(), rest}, isUnreadIn(table));
+    counted.changed.erase(counted.changed.begin(), rest);
+    if (!counted.changed.empty())
+        QTimer::singleShot(0, this, [this, list] { update(list, lists[list]); });
     // What has left the list counts no more.
     counted.unread.settleAll([&table](const HeadlineKey& key) { return table.rowOf(key) >= 0; });
     if (counted.unread.isToBeFilled() && !counted.isUnderWay) {

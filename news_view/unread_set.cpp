@@ -8,12 +8,15 @@ namespace wirepane {
 
 void UnreadSet::settle(const std::vector<HeadlineKey>& changed, const Test& isUnread) {
     for (const HeadlineKey& key : changed) {
-        if (!isUnread(key))
-            keys.remove({key});
-        else if (keys.size() <= mostCounted)
-            keys.insert({key});
-        else
+        if (keys.contains({key})) {
+            if (!isUnread(key))
+                keys.remove({key});
+        } else if (keys.size() > mostCounted) {
+            // Looked at when there is room for it.
             isMore = true;
+        } else if (isUnread(key)) {
+            keys.insert({key});
+        }
     }
 }
 

@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/news_delivery.h"
 
+#include <QDeadlineTimer>
+
 #include <algorithm>
 
 namespace wirepane {
 
 namespace {
-// Some 8 ms with three views: a key waits for one batch at most, and for a painting.
-constexpr int batch = 250;
+// A key waits for one turn at most, and for a painting.
+constexpr int turnMs = 4;
+constexpr int batch = 250;  // as much as is handed on in it
 }  // namespace
 
 NewsDelivery::NewsDelivery(ArrivalLog& log, std::function<void(const Arrival&)> telling)
@@ -61,7 +64,8 @@ void NewsDelivery::run() {
     isBusy = true;
     if (waiting.empty() && !ranges.empty())
         readOn();
-    for (int left = batch; left > 0 && isOpen && !waiting.empty(); --left) {
+    const QDeadlineTimer turn(turnMs, Qt::PreciseTimer);
+    for (int left = batch; left > 0 && isOpen && !waiting.empty(); left = turn.hasExpired() ? 0 : left - 1) {
         const Arrival next = waiting.front();
         waiting.pop_front();
         tell(next);

@@ -18,6 +18,7 @@
 #include "host/controls/super_sheet_wnd.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/trv_news_ctrl_view.h"
+#include "terminal/session/terminal_style.h"
 
 #include <QAbstractItemModel>
 #include <QApplication>
@@ -60,6 +61,7 @@ class LiveDesk {
 public:
     LiveDesk() {
         host_clock::startAt(evening);
+        QApplication::setStyle(new TerminalStyle);
         BKQuoteInterface::setBKInterface(&backEnd);
         for (Place& place : views) {
             place.view = std::make_unique<TRVNewsCtrlView>();
