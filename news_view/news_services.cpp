@@ -22,32 +22,56 @@ QString checkKey(int sheet, unsigned char service) {
 }  // namespace
 
 void NewsServices::load(BKQuoteInterface& backEnd) {
+    live.clear();
+    saved.clear();
+    registered.clear();
+    warrantIndex = -1;
+    append(backEnd);
+}
+
+// Those that are there keep their places, which are the numbers of their commands.
+void NewsServices::append(BKQuoteInterface& backEnd) {
     std::vector<unsigned char> services;
     backEnd.BKQNEWS_bGetAllNewsService(services);
-    live.clear();
-    warrantIndex = -1;
     for (const unsigned char service : services) {
+        if (std::any_of(live.begin(), live.end(),
+                        [service](const ServiceEntry& entry) { return entry.service == service; }))
+            continue;
         if (service == warrantService)
             warrantIndex = static_cast<int>(live.size());
         live.push_back({service, false, backEnd.BKQNEWS_cszGetCurrDateByService(service).toInt(), false});
+        saved.push_back(live.back());
+        registered.push_back(false);
     }
-    saved = live;
-    registered.assign(live.size(), false);
+}
+
+bool NewsServices::addNew(BKQuoteInterface& backEnd, TRVQuoteBaseView& view, bool ticked, bool isSetAside) {
+    const std::size_t before = live.size();
+    append(backEnd);
+    for (std::size_t i = before; i < live.size(); ++i) {
+        saved[i].selected = registered[i] = ticked && live[i].service != warrantService;
+        live[i].selected = registered[i] && !isSetAside;
+        if (registered[i])
+            RegisterService(view, live[i].service);
+    }
+    return live.size() > before;
 }
 
 void NewsServices::vInitialNewsService(const TRVCfgIO2& reader, const ViewSettingPath& path,
-                                       TRVQuoteBaseView& view) {
-    bool anyStored = false;
+                                       TRVQuoteBaseView& view, bool ticksUnknown) {
+    std::vector<bool> stored(live.size(), false);
     for (int sheet = 0; sheet < sheetCount; ++sheet) {
-        for (ServiceEntry& entry : live) {
+        for (std::size_t i = 0; i < live.size(); ++i) {
             bool checked = false;
-            anyStored |= reader.GetViewInfo(path, checkKey(sheet, entry.service), checked);
-            entry.selected |= checked;
+            if (reader.GetViewInfo(path, checkKey(sheet, live[i].service), checked))
+                stored[i] = true;
+            live[i].selected |= checked;
         }
     }
-    if (!anyStored) {
-        for (ServiceEntry& entry : live)
-            entry.selected = entry.service != warrantService;
+    const bool anyStored = std::find(stored.begin(), stored.end(), true) != stored.end();
+    for (std::size_t i = 0; i < live.size(); ++i) {
+        if (!anyStored || (ticksUnknown && !stored[i]))
+            live[i].selected = live[i].service != warrantService;
     }
     saved = live;
     CheckRegisterService(view);

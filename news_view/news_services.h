@@ -23,6 +23,9 @@ class NewsServices {
 public:
     // Reads the services and each one's current news date; nothing is ticked.
     void load(BKQuoteInterface& backEnd);
+    // Puts those that the back end has got since then behind the others. Where they are ticked they are
+    // registered; in the live list they are not while that is set aside. False: there are none.
+    bool addNew(BKQuoteInterface& backEnd, TRVQuoteBaseView& view, bool ticked, bool isSetAside);
 
     const std::vector<ServiceEntry>& currentServices() const { return live; }
     const std::vector<ServiceEntry>& savedServices() const { return saved; }
@@ -32,8 +35,10 @@ public:
     int indexOfWarrants() const { return warrantIndex; }
 
     // Reads the user's choice: a service that is ticked on any of the sheets is ticked. When nothing was
-    // stored, every service but the warrant service is. Registers the ticked ones.
-    void vInitialNewsService(const TRVCfgIO2& reader, const ViewSettingPath& path, TRVQuoteBaseView& view);
+    // stored, every service but the warrant service is; with `ticksUnknown` so is each of which nothing was
+    // stored. Registers the ticked ones.
+    void vInitialNewsService(const TRVCfgIO2& reader, const ViewSettingPath& path, TRVQuoteBaseView& view,
+                             bool ticksUnknown = false);
     // Writes the saved copy.
     void save(TRVCfgIO2& writer, const ViewSettingPath& path) const;
 
@@ -63,6 +68,8 @@ public:
     std::vector<unsigned char> activeServices(ListIndex mode) const;
 
 private:
+    void append(BKQuoteInterface& backEnd);
+
     std::vector<ServiceEntry> live;
     std::vector<ServiceEntry> saved;
     std::vector<bool> registered;

@@ -22,22 +22,39 @@ ServiceMenu::~ServiceMenu() = default;
 
 void ServiceMenu::fill() {
     menu = std::make_unique<TickingMenu>();
-    int command = ids::firstServiceCommand;
-    for (const ServiceEntry& entry : parts.services.currentServices()) {
-        const int id = command++;
-        if (entry.service == warrantService || id > ids::lastServiceCommand)
+    addEntries();
+}
+
+void ServiceMenu::addEntries() {
+    const auto& services = parts.services.currentServices();
+    for (; entries < services.size(); ++entries) {
+        const int id = ids::firstServiceCommand + static_cast<int>(entries);
+        const unsigned char service = services[entries].service;
+        if (service == warrantService || id > ids::lastServiceCommand)
             continue;
         QString name;
-        parts.backEnd.BKQNEWS_bGetFullNameByService(name, entry.service);
-        QAction* action = menu->addAction(name.replace(u'&', QStringLiteral("&&")));
+        parts.backEnd.BKQNEWS_bGetFullNameByService(name, service);
+        auto* action = new QAction(name.replace(u'&', QStringLiteral("&&")), menu.get());
+        menu->insertAction(endLine, action);
         action->setCheckable(true);
         action->setData(id);
         QObject::connect(action, &QAction::triggered, &parts.window, [this, id] { calls.command(id); });
     }
 }
 
+void ServiceMenu::addNew(bool areTicked) {
+    if (!isFilled() || !calls.takeNew(areTicked, standsFast()))
+        return;
+    addEntries();
+    // The menu may be open.
+    tickedBefore.resize(entries, areTicked);
+    showTicks();
+    if (areTicked && !standsFast())
+        calls.ticksChanged();
+}
+
 void ServiceMenu::addWholeChoice() {
-    menu->addSeparator();
+    endLine = menu->addSeparator();
     all = menu->addAction(QString());
     QObject::connect(all, &QAction::triggered, &parts.window, [this] { tickAll(); });
     asBefore = menu->addAction(QString());

@@ -24,12 +24,17 @@ public:
         std::function<void()> ticksChanged;  // lists are to be read anew, registrations brought in line
         std::function<bool()> staysOpen = [] { return false; };  // while ticking
         std::function<std::array<int, 256>()> counts = {};  // headlines of each service in the shown list
+        // Takes up the services that have come; see NewsServices::addNew.
+        std::function<bool(bool ticked, bool isSetAside)> takeNew = [](bool, bool) { return false; };
     };
     ServiceMenu(ViewContext& context, const CommonParts& parts, Calls calls);
     ~ServiceMenu();
 
     // The services are known: the menu gets one command for each. Once.
     void fill();
+    // Services may have come: they get commands behind the others, and the lists hold their news where
+    // `areTicked`. Nothing before fill().
+    void addNew(bool areTicked);
     bool isFilled() const { return menu != nullptr; }
     // Under its button.
     void popUp();
@@ -40,6 +45,7 @@ public:
     void showTicks();
 
 private:
+    void addEntries();
     void showCounts();
     bool standsFast() const;
     void addWholeChoice();
@@ -50,7 +56,9 @@ private:
     const CommonParts parts;
     const Calls calls;
     std::unique_ptr<TickingMenu> menu;
-    QAction* all = nullptr;  // of the menu, where it stays open
+    std::size_t entries = 0;     // services that are in the menu
+    QAction* endLine = nullptr;  // of the menu, where it stays open; so are these
+    QAction* all = nullptr;
     QAction* asBefore = nullptr;
     QAction* hint = nullptr;
     std::vector<bool> tickedBefore;  // when the menu opened

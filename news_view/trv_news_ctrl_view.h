@@ -181,6 +181,7 @@ public:
     void OnSelchangeComboIndex();
     void OnChangeCategoryState();
     void reloadCategories() override;
+    void reloadServices() override;
 
     // --- For the host's scripts ---
 

@@ -214,6 +214,10 @@ void TRVNewsCtrlView::reloadCategories() {
     parts->categories.reloadNames();
 }
 
+void TRVNewsCtrlView::reloadServices() {
+    parts->serviceMenu.addNew(parts->settings.options[ViewOption::TickNewServices]);
+}
+
 void TRVNewsCtrlView::ChangeCurrViewCategoryState(bool show) {
     parts->categories.showColumn(show);
 }

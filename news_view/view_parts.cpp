@@ -66,10 +66,12 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       categories(*this, common, [this] { return standingSearches.filterOfShownList(); }),
       symbolMode(*this, common, symbolCalls()),
       sentAgain(*this, common, choices()),
-      serviceMenu(*this, common,
-                  {[this](int command) { view.onCommand(command); }, [this] { readForServices(); },
-                   [this] { return settings.options[ViewOption::KeepServicesOpen]; },
-                   [this] { return listOf(shownList()).headlineTable().countsOfServices(); }}),
+      serviceMenu(
+          *this, common,
+          {[this](int command) { view.onCommand(command); }, [this] { readForServices(); },
+           [this] { return settings.options[ViewOption::KeepServicesOpen]; },
+           [this] { return listOf(shownList()).headlineTable().countsOfServices(); },
+           [this](bool ticked, bool aside) { return services.addNew(backEnd, view, ticked, aside); }}),
       liveNews(*this, common, liveCalls()),
       searchOffers(backEnd, [this] { emptyLists.followSoon(); }),
       emptyLists(*this, common, searches.desk(), emptyListCalls()),
@@ -302,10 +304,6 @@ void TRVNewsCtrlView::Parts::readForServices() {
 }
 
 // --- Entries ---
-
-std::optional<CHeadlineTable> TRVNewsCtrlView::Parts::shownEntry(int row) const {
-    return lists[modes.shown()].headlineTable().entryAt(row);
-}
 
 int TRVNewsCtrlView::Parts::entryCount(ListIndex list) const {
     return lists[list].headlineTable().size();

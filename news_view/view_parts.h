@@ -99,7 +99,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     void printHeadline(const CHeadlineTable& headline) override;
     void saveHeadline(const CHeadlineTable& headline) override;
 
-    std::optional<CHeadlineTable> shownEntry(int row) const;
+    std::optional<CHeadlineTable> shownEntry(int row) const { return entryOf(modes.shown(), row); }
     CSuperSheetWnd* shownGrid() const { return lists[modes.shown()].grid(); }
     std::vector<CHeadlineTable> selectedEntries() const;
     std::vector<CHeadlineTable> shownEntries() const;

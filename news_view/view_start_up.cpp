@@ -55,7 +55,8 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
         parts->controls.CreateFunctionBtn();
     }
     parts->controls.createNotices();
-    parts->services.vInitialNewsService(*reader, settingsPath, *this);
+    parts->services.vInitialNewsService(*reader, settingsPath, *this,
+                                        parts->settings.options[ViewOption::TickNewServices]);
     parts->searches.desk().restore(SearchMemory::read(*reader, settingsPath));
     parts->categories.bInitialTransferCatObject();
     parts->categories.bInitialTransferWarrantCatObject();

@@ -252,4 +252,9 @@ QStringList Mapping::neededColumns() const {
     return needed;
 }
 
+unsigned char fixedServiceOf(const Mapping& mapping) {
+    return mapping.service.columns.isEmpty() ? static_cast<unsigned char>(mapping.service.otherwise.toUInt())
+                                             : 0;
+}
+
 }  // namespace wirepane

@@ -55,4 +55,7 @@ struct Mapping {
     QStringList neededColumns() const;
 };
 
+// The service of all rows; 0: the mapping leaves it to the command, or to the rows.
+unsigned char fixedServiceOf(const Mapping& mapping);
+
 }  // namespace wirepane

@@ -161,8 +161,6 @@ Done checkedSource(const NetworkSource& source) {
         return makeError<network_errors::fileNotTyped>();
     if (isFile && isStream(source))
         return makeError<network_errors::fieldWrong>(u"kind"_s, toJson(source).value("kind"_L1).toString());
-    if (source.service == 0)
-        return makeError<network_errors::fieldWrong>(u"service"_s, 0);
     if (!isInRange(source.interval, shortestInterval, longestInterval))
         return makeError<network_errors::fieldWrong>(u"interval"_s, source.interval);
     if (!isInRange(source.greatestAge, 1, longestGreatestAge))

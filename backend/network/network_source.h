@@ -46,7 +46,7 @@ struct NetworkSource {
     QUrl address;  // http, https, ws, wss or file; without user, password and other secrets
     NetworkKind kind = NetworkKind::Auto;
     QString mapping;            // of a table: the path of a mapping file, or the name of a built-in one
-    unsigned char service = 1;  // that its news belongs to
+    unsigned char service = 1;  // that its news belongs to, or ownService
     CategoryRule categoryRule = CategoryRule::Own;
     QString category;
     unsigned char market = 0;  // of symbols whose list does not name one; 0: see docs/formats.md
@@ -64,6 +64,9 @@ struct NetworkSource {
 
     bool operator==(const NetworkSource&) const = default;
 };
+
+// A service of its own, which the list of sources gives it when it is to be read.
+inline constexpr unsigned char ownService = 0;
 
 inline constexpr int shortestInterval = 15;      // seconds
 inline constexpr int longestInterval = 86400;    // seconds

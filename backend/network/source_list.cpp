@@ -2,13 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "backend/network/source_list.h"
 
+#include "backend/clean_text.h"
 #include "backend/database/database.h"
 #include "backend/database/transaction.h"
+#include "backend/import/built_in_mappings.h"
 #include "backend/network/network_errors.h"
+#include "host/contract/fixed_services.h"
 
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <bitset>
 
 using namespace Qt::StringLiterals;
 
@@ -38,10 +42,21 @@ Result<NetworkSource> definition(const QString& name, const QString& text) {
     return source;
 }
 
+QString stemOf(const NetworkSource& source) {
+    const QString host = source.address.host();
+    return host.isEmpty() ? source.address.fileName() : host;
+}
+
+constexpr qsizetype longestServiceName = 40;
+
 }  // namespace
 
 SourceList::SourceList(Database& owner)
     : database(owner),
+      readServices(owner, "SELECT id FROM services"),
+      writeService(owner,
+                   "INSERT INTO services(id, full_name, short_name, position) "
+                   "SELECT ?1, ?2, ?2, coalesce(max(position), 0) + 1 FROM services"),
       readAll(owner, "SELECT name, definition FROM sources ORDER BY position"),
       readOne(owner, "SELECT definition FROM sources WHERE name = ?"),
       append(owner,
@@ -92,6 +107,8 @@ Result<QString> SourceList::add(NetworkSource source) {
         if (std::ssize(all.value()) >= mostSources)
             return makeError<network_errors::listFull>(mostSources);
         source.name = freeName(source);
+        if (const Done given = giveService(source); !given)
+            return given;
         return ran(Query(append, source.name, definitionOf(source)).run());
     });
     if (!added)
@@ -99,13 +116,15 @@ Result<QString> SourceList::add(NetworkSource source) {
     return source.name;
 }
 
-Done SourceList::change(const NetworkSource& changed) {
+Done SourceList::change(NetworkSource changed) {
     if (const Done sound = checkedSource(changed); !sound)
         return sound;
     return inTransaction([&]() -> Done {
         const auto before = source(changed.name);
         if (!before)
             return before.error();
+        if (const Done given = giveService(changed); !given)
+            return given;
         const bool startsAnew =
             before.value().address != changed.address || before.value().kind != changed.kind;
         return ran(Query(replace, changed.name, definitionOf(changed)).run() &&
@@ -182,8 +201,7 @@ Done SourceList::keepStandings(const std::vector<std::pair<QString, SourceStandi
 // The host's name, with a number where another source has it; names of removed sources may come again, since
 // nothing is kept under them.
 QString SourceList::freeName(const NetworkSource& source) {
-    const QString host = source.address.host();
-    const QString stem = host.isEmpty() ? source.address.fileName() : host;
+    const QString stem = stemOf(source);
     const auto isFree = [this](const QString& name) {
         Query query(readOne, name);
         return !query.next();
@@ -192,6 +210,50 @@ QString SourceList::freeName(const NetworkSource& source) {
     for (int number = 2; !isFree(name); ++number)
         name = u"net:%1/%2"_s.arg(stem).arg(number);
     return name;
+}
+
+// Where all numbers are given away, several share one.
+Done SourceList::giveService(NetworkSource& source) {
+    if (source.service != ownService || source.isPaused)
+        return Nothing{};
+    if (!source.mapping.isEmpty()) {
+        if (const auto mapping = mappingNamed(source.mapping))
+            source.service = fixedServiceOf(mapping.value());
+    }
+    if (source.service != ownService)
+        return Nothing{};
+    const auto free = freeService();
+    if (!free)
+        return free.error();
+    source.service = free.value();
+    if (source.service == NetworkSource().service)
+        return Nothing{};
+    const QString name = cleanTitle(source.title.isEmpty() ? stemOf(source) : source.title);
+    return ran(Query(writeService, source.service, name.left(longestServiceName)).run());
+}
+
+// From the last one on, as people and programs that choose a number begin with the first. Markets have
+// numbers of services, and news keeps its service when its source has left.
+Result<unsigned char> SourceList::freeService() {
+    std::bitset<256> taken;
+    for (const unsigned char market : {stockExchangeService, hongKongService, delayedHongKongService,
+                                       warrantService, emergingBoardService})
+        taken.set(market);
+    const auto all = sources();
+    if (!all)
+        return all.error();
+    for (const NetworkSource& source : all.value())
+        taken.set(source.service);
+    Query query(readServices);
+    while (query.next())
+        taken.set(static_cast<std::size_t>(query.number(0)) % taken.size());
+    if (query.failed())
+        return failure();
+    for (auto service = taken.size() - 1; service > 0; --service) {
+        if (!taken[service])
+            return static_cast<unsigned char>(service);
+    }
+    return NetworkSource().service;
 }
 
 Done SourceList::inTransaction(const std::function<Done()>& work) {

@@ -39,10 +39,12 @@ public:
 
     Result<std::vector<NetworkSource>> sources();
     Result<NetworkSource> source(const QString& name);
-    // Puts it at the end of the list, under a name that none has; answers that name.
+    // Puts it at the end of the list, under a name that none has; answers that name. One that is not paused
+    // and is to have a service of its own gets one, here and with each change: that of its mapping, else one
+    // that is new, which is called as the source is.
     Result<QString> add(NetworkSource source);
     // Replaces that of its name. One that has another address or kind from now on is read from the start.
-    Done change(const NetworkSource& source);
+    Done change(NetworkSource source);
     Done pause(const QString& name, bool isPaused);
     // The news that it has brought stays; its position and standing go.
     Done remove(const QString& name);
@@ -59,12 +61,16 @@ public:
 
 private:
     QString freeName(const NetworkSource& source);
+    Done giveService(NetworkSource& source);
+    Result<unsigned char> freeService();
     // In a transaction that also raises the revision; taken back where `work` or the database fails.
     Done inTransaction(const std::function<Done()>& work);
     Done ran(bool isRun) const;
     Error failure() const;
 
     Database& database;
+    Statement readServices;
+    Statement writeService;
     Statement readAll;
     Statement readOne;
     Statement append;

@@ -29,6 +29,7 @@ enum class ViewOption {
     MarketNames,            // markets are named in the language in force
     AlignControls,          // controls keep one edge at either side, and bear icons beside their texts
     KeepServicesOpen,       // the list of services stays open while ticking
+    TickNewServices,        // services that came after the settings were written are ticked
     EmptyStates,            // lists without rows offer a way out: the nearest day with news, a dialog
     KeepReadDay,            // a new news day takes no day away that is being read
     FollowNewest,           // the newest row is selected until the reader goes to one himself
@@ -81,6 +82,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::MarketNames, QLatin1StringView("MarketNames")},
     {ViewOption::AlignControls, QLatin1StringView("AlignControls")},
     {ViewOption::KeepServicesOpen, QLatin1StringView("KeepServicesOpen")},
+    {ViewOption::TickNewServices, QLatin1StringView("TickNewServices")},
     {ViewOption::EmptyStates, QLatin1StringView("EmptyStates")},
     {ViewOption::KeepReadDay, QLatin1StringView("KeepReadDay")},
     {ViewOption::FollowNewest, QLatin1StringView("FollowNewest")},

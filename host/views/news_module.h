@@ -95,6 +95,9 @@ public:
     virtual std::vector<HeadlineKey> keysOf(int list, int from, int count) const = 0;
     // The host's file of category names has changed: the view reads it again.
     virtual void reloadCategories() = 0;
+    // The back end may have got services: the view takes them up, ticked where its settings want it
+    // (TickNewServices).
+    virtual void reloadServices() = 0;
 };
 
 // Loads the module from a file. Null when that fails; `error` then says why, in a sentence with the file's

@@ -43,7 +43,9 @@ std::optional<Defined> defined(Params& params, const Reply& reply) {
         return std::nullopt;
     QJsonObject definition = params.all();
     definition.remove(u"name"_s);
-    const QJsonObject typed = typedDefinition(split);
+    QJsonObject typed = typedDefinition(split);
+    if (definition.contains("service"_L1))
+        typed.remove(u"service"_s);
     for (auto field = typed.begin(); field != typed.end(); ++field)
         definition.insert(field.key(), field.value());
     const auto source = networkSource(definition);

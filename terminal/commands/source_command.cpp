@@ -114,7 +114,7 @@ void putOptions(const CommandArguments& arguments, QJsonObject& definition) {
 
 Result<NetworkSource> defined(CommandArguments& arguments, const SplitAddress& split) {
     QJsonObject definition = typedDefinition(split);
-    definition.insert(u"service"_s, qint64(arguments.number(u"service"_s, 1, 1, lastService)));
+    definition.insert(u"service"_s, qint64(arguments.number(u"service"_s, ownService, 1, lastService)));
     definition.insert(u"interval"_s,
                       qint64(arguments.number(u"interval"_s, 0, shortestInterval, longestInterval)));
     putOptions(arguments, definition);
@@ -254,7 +254,8 @@ void addOptions(QCommandLineParser& parser) {
         {u"kind"_s, u"add: auto, feed, ninjs, newsml, table, events or websocket. Default: auto."_s,
          u"kind"_s},
         {u"mapping"_s, u"add: of a table: a mapping file, or one of the built-in mappings."_s, u"file"_s},
-        {u"service"_s, u"add: the news service that its news belongs to."_s, u"id"_s},
+        {u"service"_s, u"add: the news service that its news belongs to. Default: one of its own."_s,
+         u"id"_s},
         {u"category"_s, u"add: the category of all its news."_s, u"name"_s},
         {u"language"_s, u"add: the language that is asked for."_s, u"code"_s},
         {u"interval"_s, u"add: seconds between two requests. Default: adapts to how often news comes."_s,

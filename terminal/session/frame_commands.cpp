@@ -12,6 +12,7 @@
 #include "terminal/frame/settings_dialog.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/frame/view_dock.h"
+#include "terminal/session/service_watch.h"
 #include "terminal/session/session.h"
 #include "terminal/session/session_errors.h"
 #include "terminal/sources/sources_window.h"
@@ -317,7 +318,8 @@ void FrameCommands::showSources() {
     if (sourcesWindow == nullptr) {
         sourcesWindow = new SourcesWindow(
             session.sources().desk(), session.sources().trial(),
-            [feed = &session.feed()](const QString& name) { return stateOf(*feed, name); }, &session.frame());
+            [feed = &session.feed()](const QString& name) { return stateOf(*feed, name); },
+            [backEnd = &session.backEnd()] { return namedServices(*backEnd); }, &session.frame());
         sourcesWindow->setAttribute(Qt::WA_DeleteOnClose);
     }
     sourcesWindow->show();

@@ -117,6 +117,7 @@ Done Session::start(const SessionOptions& options) {
         WorkspaceKeeper::Parts{settingsFile, layout, *terminalSettings, *openViews, *linkGroups, *mainFrame,
                                [this](ViewRequest request) { return openView(std::move(request)); }});
     categoryWatch = std::make_unique<CategoryWatch>(*store, [this] { renameCategories(); });
+    serviceWatch = std::make_unique<ServiceWatch>(*store, [this] { takeNewServices(); });
     status = std::make_unique<StatusReport>(*store, *liveFeed, *openViews);
     look->apply();
     retention = std::make_unique<RetentionKeeper>(*store, [this] { return terminalSettings->retention(); });
@@ -295,6 +296,11 @@ void Session::renameCategories() {
     writeCategories();
     for (const auto& view : openViews->views())
         view->access->reloadCategories();
+}
+
+void Session::takeNewServices() {
+    for (const auto& view : openViews->views())
+        view->access->reloadServices();
 }
 
 Result<OpenView*> Session::openView(ViewRequest request) {

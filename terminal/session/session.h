@@ -17,6 +17,7 @@
 #include "terminal/session/link_groups.h"
 #include "terminal/session/offer_quotes.h"
 #include "terminal/session/retention_keeper.h"
+#include "terminal/session/service_watch.h"
 #include "terminal/session/status_report.h"
 #include "terminal/session/user_stores.h"
 #include "terminal/session/workspace_keeper.h"
@@ -147,6 +148,7 @@ private:
     void prepareModuleFiles();
     void writeCategories();
     void renameCategories();
+    void takeNewServices();
     Done reopenUserViews();
     bool useLanguage(const QString& code);
 
@@ -175,6 +177,7 @@ private:
     std::unique_ptr<LinkGroups> linkGroups;
     std::unique_ptr<WorkspaceKeeper> workspaceKeeper;
     std::unique_ptr<CategoryWatch> categoryWatch;
+    std::unique_ptr<ServiceWatch> serviceWatch;
     std::unique_ptr<StatusReport> status;
     std::unique_ptr<OfferQuotes> offerQuotes;
     std::unique_ptr<RetentionKeeper> retention;

@@ -3,6 +3,7 @@
 #include "terminal/sources/opml_exchange.h"
 
 #include "backend/network/address_secrets.h"
+#include "terminal/sources/new_source.h"
 #include "terminal/sources/source_errors.h"
 #include "terminal/sources/source_texts.h"
 
@@ -38,11 +39,8 @@ void addNext(SourceDesk& desk, const std::shared_ptr<Adding>& adding,
             ++adding->sofar.known;
             continue;
         }
-        NetworkSource source;
+        NetworkSource source = newSource(split);
         source.title = feed.title;
-        source.address = split.address;
-        source.authorisation =
-            split.secret.authorisation.isEmpty() ? Authorisation::None : Authorisation::Basic;
         source.isPaused = true;
         desk.add(source, split.secret, [&desk, adding, finished](const Result<QString>& added) {
             if (!added)

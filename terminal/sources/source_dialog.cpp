@@ -5,6 +5,7 @@
 #include "host/controls/heap_dialog.h"
 #include "terminal/frame/dialog_buttons.h"
 #include "terminal/frame/message_boxes.h"
+#include "terminal/sources/service_box.h"
 #include "terminal/sources/source_texts.h"
 #include "terminal/sources/trial_view.h"
 #include "terminal/translations/shown_text.h"
@@ -75,13 +76,14 @@ QScrollArea* scrolled(QWidget* page) {
 
 }  // namespace
 
-SourceDialog::SourceDialog(const NetworkSource& source, SourceSecret secret, SourceTrial& sourceTrial,
+SourceDialog::SourceDialog(const NetworkSource& source, SourceSecret secret,
+                           const std::vector<NamedService>& services, SourceTrial& sourceTrial,
                            QWidget* parent)
     : QDialog(parent), given(source), parameters(std::move(secret.parameters)), trial(sourceTrial) {
     setWindowTitle(terminalText(source.name.isEmpty() ? TextId::SourceAddTitle : TextId::SourceEditTitle));
     auto* pages = new QTabWidget;
     pages->setAccessibleName(windowTitle());
-    pages->addTab(scrolled(generalPage()), terminalText(TextId::SourceGeneral));
+    pages->addTab(scrolled(generalPage(services)), terminalText(TextId::SourceGeneral));
     pages->addTab(scrolled(accessPage()), terminalText(TextId::SourceAccess));
     pages->setSizePolicy(QSizePolicy::Preferred,
                          QSizePolicy::Maximum);  // what a trial shows takes none of its room
@@ -107,7 +109,7 @@ SourceDialog::~SourceDialog() {
     trial.stop();
 }
 
-QWidget* SourceDialog::generalPage() {
+QWidget* SourceDialog::generalPage(const std::vector<NamedService>& services) {
     auto* page = new QWidget;
     address = lineOf(terminalText(TextId::SourceAddress));
     pageLinks = new QComboBox;
@@ -120,8 +122,7 @@ QWidget* SourceDialog::generalPage() {
     mapping->setEditable(true);
     mapping->addItem(u"exchange_announcements"_s);
     mapping->addItem(u"articles"_s);
-    service = new QSpinBox;
-    service->setRange(1, 255);
+    service = new ServiceBox(services);
     categoryRule = new QComboBox;
     categoryRule->addItem(terminalText(TextId::SourceCategoryOwn), int(CategoryRule::Own));
     categoryRule->addItem(terminalText(TextId::SourceCategoryOtherwise), int(CategoryRule::Otherwise));
@@ -212,7 +213,7 @@ void SourceDialog::fill(const NetworkSource& source) {
     choose(*kind, source.kind);
     if (!source.mapping.isEmpty())
         mapping->setCurrentText(source.mapping);
-    service->setValue(source.service);
+    service->choose(source.service);
     choose(*categoryRule, source.categoryRule);
     category->setText(source.category);
     interval->setValue(source.interval == 0 ? interval->minimum() : source.interval);
@@ -261,7 +262,7 @@ NetworkSource SourceDialog::source() const {
     source.title = title->text().simplified();
     source.kind = chosen<NetworkKind>(*kind);
     source.mapping = source.kind == NetworkKind::Table ? mapping->currentText().trimmed() : QString();
-    source.service = static_cast<unsigned char>(service->value());
+    source.service = service->service();
     source.categoryRule = chosen<CategoryRule>(*categoryRule);
     source.category = category->text().simplified();
     source.interval = interval->value() < shortestInterval ? 0 : interval->value();
@@ -293,7 +294,7 @@ void SourceDialog::takeReport(const TrialReport& report) {
     if (report.fitting) {
         choose(*kind, report.fitting->kind);
         mapping->setCurrentText(report.fitting->mapping);
-        service->setValue(report.fitting->service);
+        service->choose(report.fitting->service);
     }
     // A feed that turns out to be another page is not followed any further.
     if (report.links.empty() || isLink)

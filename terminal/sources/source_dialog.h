@@ -14,7 +14,9 @@ class QPushButton;
 class QSpinBox;
 
 namespace wirepane {
+class ServiceBox;
 class TrialView;
+struct NamedService;
 
 // Shows and changes the definition of a source, and asks it once before it is kept. It changes nothing
 // itself.
@@ -24,8 +26,8 @@ class SourceDialog : public QDialog {
 public:
     // `source` is new when it has no name; it is then asked at once. `secret`: taken out of its address. The
     // trial outlives the dialog.
-    SourceDialog(const NetworkSource& source, SourceSecret secret, SourceTrial& trial,
-                 QWidget* parent = nullptr);
+    SourceDialog(const NetworkSource& source, SourceSecret secret, const std::vector<NamedService>& services,
+                 SourceTrial& trial, QWidget* parent = nullptr);
     ~SourceDialog() override;
 
     // As it is to be, and what of a secret was typed; empty: nothing, or what it has.
@@ -35,7 +37,7 @@ public:
     void accept() override;
 
 private:
-    QWidget* generalPage();
+    QWidget* generalPage(const std::vector<NamedService>& services);
     QWidget* accessPage();
     QWidget* pathRow(QLineEdit*& line, const QString& name);
     void fill(const NetworkSource& source);
@@ -56,7 +58,7 @@ private:
     QLineEdit* title = nullptr;
     QComboBox* kind = nullptr;
     QComboBox* mapping = nullptr;
-    QSpinBox* service = nullptr;
+    ServiceBox* service = nullptr;
     QComboBox* categoryRule = nullptr;
     QLineEdit* category = nullptr;
     QSpinBox* interval = nullptr;

@@ -3,6 +3,7 @@
 #include "terminal/sources/source_values.h"
 
 #include "backend/store/day_bounds.h"
+#include "terminal/sources/new_source.h"
 #include "terminal/translations/shown_text.h"
 
 #include <QDateTime>
@@ -21,12 +22,11 @@ QString momentValue(std::int64_t moment) {
 }  // namespace
 
 QJsonObject typedDefinition(const SplitAddress& typed) {
-    QJsonObject definition{{u"address"_s, typed.address.toString(QUrl::FullyEncoded)}, {u"typed"_s, true}};
-    if (!typed.secret.authorisation.isEmpty()) {
-        definition.insert(u"authorisation"_s, u"basic"_s);
-        definition.insert(u"secret"_s, secretToKeep);
-    }
-    return definition;
+    NetworkSource source = newSource(typed);
+    source.isTyped = true;
+    if (!typed.secret.authorisation.isEmpty())
+        source.secret = secretToKeep;
+    return toJson(source);
 }
 
 QJsonObject valueOf(const ListedSource& listed) {

@@ -4,6 +4,7 @@
 
 #include "host/controls/heap_dialog.h"
 #include "terminal/frame/message_boxes.h"
+#include "terminal/sources/new_source.h"
 #include "terminal/sources/opml_exchange.h"
 #include "terminal/sources/source_delegate.h"
 #include "terminal/sources/source_desk.h"
@@ -39,9 +40,10 @@ constexpr std::chrono::seconds period{1};  // of what time changes
 }  // namespace
 
 SourcesWindow::SourcesWindow(SourceDesk& sourceDesk, SourceTrial& sourceTrial, SourceModel::StateOf stateOf,
-                             QWidget* parent)
+                             ServicesOf servicesOf, QWidget* parent)
     : QDialog(parent, Qt::Window),
       desk(sourceDesk),
+      services(std::move(servicesOf)),
       trial(sourceTrial),
       model(new SourceModel(std::move(stateOf), this)),
       address(new QLineEdit),
@@ -271,11 +273,9 @@ void SourcesWindow::add() {
         return;
     }
     const SplitAddress split = withoutSecrets(QUrl::fromUserInput(text));
-    NetworkSource source;
-    source.address = split.address;
-    source.authorisation = split.secret.authorisation.isEmpty() ? Authorisation::None : Authorisation::Basic;
+    NetworkSource source = newSource(split);
     source.isTyped = true;
-    const HeapDialog dialog(new SourceDialog(source, split.secret, trial, this));
+    const HeapDialog dialog(new SourceDialog(source, split.secret, services(), trial, this));
     if (dialog->exec() != QDialog::Accepted)
         return;
     address->clear();
@@ -333,7 +333,7 @@ void SourcesWindow::edit() {
     const ListedSource* listed = current();
     if (listed == nullptr)
         return;
-    const HeapDialog dialog(new SourceDialog(listed->source, SourceSecret(), trial, this));
+    const HeapDialog dialog(new SourceDialog(listed->source, SourceSecret(), services(), trial, this));
     if (dialog->exec() == QDialog::Accepted)
         desk.change(dialog->source(), dialog->secret(), [self = QPointer(this)](const Done& done) {
             if (self)

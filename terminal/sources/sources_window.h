@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "terminal/sources/service_box.h"
 #include "terminal/sources/source_model.h"
 #include "terminal/sources/source_trial.h"
 
@@ -22,7 +23,8 @@ class SourcesWindow : public QDialog {
 
 public:
     // None is owned; all outlive the window.
-    SourcesWindow(SourceDesk& desk, SourceTrial& trial, SourceModel::StateOf stateOf, QWidget* parent);
+    SourcesWindow(SourceDesk& desk, SourceTrial& trial, SourceModel::StateOf stateOf, ServicesOf services,
+                  QWidget* parent);
     ~SourcesWindow() override;
 
     // What a list of feeds names is added, paused: the user looks at it first.
@@ -58,6 +60,7 @@ private:
     void report(const Done& done);
 
     SourceDesk& desk;
+    const ServicesOf services;
     SourceTrial& trial;
     SourceModel* model;
     QLineEdit* address;

@@ -79,6 +79,8 @@ TrialReport readTrial(const HttpAnswer& answer, const NetworkSource& source, std
         asTable.kind = NetworkKind::Table;
         asTable.mapping = fittingMapping(answer.body);
         if (!asTable.mapping.isEmpty()) {
+            if (asTable.service == ownService)
+                asTable.service = fixedServiceOf(mappingNamed(asTable.mapping).value());
             read = readAnswer(asTable, answer, now);
             report.fitting = asTable;
         }

@@ -202,6 +202,7 @@ enum class TextId {
     SourceKind,
     SourceMapping,
     SourceService,
+    SourceOwnService,
     SourceCategory,
     SourceCategoryOwn,
     SourceCategoryOtherwise,

@@ -3080,6 +3080,10 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>No terminal reads it at the moment</translation>
     </message>
+    <message id="TERMINAL_SOURCE_OWN_SERVICE">
+        <source></source>
+        <translation>Its own, named after it</translation>
+    </message>
     <message id="TERMINAL_SOURCE_PAUSE">
         <source></source>
         <translation>&amp;Pause</translation>

@@ -3080,6 +3080,10 @@
         <source></source>
         <translation>目前没有终端在读取</translation>
     </message>
+    <message id="TERMINAL_SOURCE_OWN_SERVICE">
+        <source></source>
+        <translation>专属服务，以来源命名</translation>
+    </message>
     <message id="TERMINAL_SOURCE_PAUSE">
         <source></source>
         <translation>暂停(&amp;P)</translation>

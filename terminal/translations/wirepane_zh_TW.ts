@@ -3080,6 +3080,10 @@
         <source></source>
         <translation>目前沒有終端機在讀取</translation>
     </message>
+    <message id="TERMINAL_SOURCE_OWN_SERVICE">
+        <source></source>
+        <translation>專屬服務，以來源命名</translation>
+    </message>
     <message id="TERMINAL_SOURCE_PAUSE">
         <source></source>
         <translation>暫停(&amp;P)</translation>

@@ -220,6 +220,47 @@ TEST_F(ListsInStep, TheOpenServiceMenuTicksAllAndGoesBackToWhatWasTicked) {
     menu->close();
 }
 
+TEST_F(ListsInStep, AServiceThatComesIsTakenUpBehindTheOthers) {
+    const struct {
+        const char* what;
+        bool wants;
+        int mode;
+        std::int32_t number;
+    } cases[] = {{"ticked", true, 0, 1},
+                 {"left alone", false, 0, 2},
+                 {"while warrants are shown", true, warrantMode, 3}};
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.what);
+        backEnd.services = {1, 2, 52};
+        openShown({{u"TickNewServices"_s, one.wants}, {u"KeepServicesOpen"_s, true}});
+        view->SwitchFunction(one.mode);
+        view->onCommand(ids::serviceButton);
+        backEnd.services = {1, 2, 52, 200};
+        addTold(200, today, 10, one.number);
+        view->reloadServices();
+        view->reloadServices();
+        EXPECT_EQ(backEnd.registrations[view.get()].contains(200), one.wants);
+        view->SwitchFunction(0);
+        EXPECT_EQ(ticked().contains(200), one.wants);
+        EXPECT_EQ(titles(0).contains(u"200-%1"_s.arg(one.number)), one.wants && one.mode == 0);
+        push(200, 9, 20, 30 + one.number);
+        EXPECT_EQ(titles(0).contains(u"pushed %1"_s.arg(30 + one.number)), one.wants);
+        view->onCommand(ids::serviceButton);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        QStringList entries;
+        for (const QAction* action : menu->actions()) {
+            if (action->isCheckable())
+                entries += QString::number(action->data().toInt() - ids::firstServiceCommand);
+        }
+        EXPECT_EQ(entries, (QStringList{u"0"_s, u"1"_s, u"3"_s})) << "the others keep their commands";
+        menu->close();
+        view->onCommand(ids::firstServiceCommand + 3);
+        EXPECT_NE(ticked().contains(200), one.wants);
+        view.reset();
+    }
+}
+
 TEST_F(ListsInStep, OtherListsKeepToTheTicksWhileWarrantsAreShown) {
     addTold(1, today, 10, 1, 1, u"2330"_s);
     addTold(1, today, 5, 2, 1, u"6214"_s);

@@ -36,8 +36,15 @@ TEST(NewsServices, WhatWasStoredIsTicked) {
         const char* what;
         QMap<QString, QVariant> stored;
         Ids ticked;
+        bool ticksUnknown = false;
     };
     const Case cases[] = {
+        {"what came since then",
+         {{QStringLiteral("Sheet0ServiceCheck1"), true},
+          {QStringLiteral("Sheet0ServiceCheck2"), false},
+          {QStringLiteral("Sheet1ServiceCheck16"), false}},
+         {1, 22, 122},
+         true},
         {"nothing stored: all but the warrant service", {}, {1, 2, 16, 22, 122}},
         {"ticked on any sheet",
          {{QStringLiteral("Sheet0ServiceCheck1"), true},
@@ -60,7 +67,7 @@ TEST(NewsServices, WhatWasStoredIsTicked) {
         reader.values = c.stored;
         NewsServices services;
         services.load(backEnd);
-        services.vInitialNewsService(reader, path, view);
+        services.vInitialNewsService(reader, path, view, c.ticksUnknown);
         EXPECT_EQ(ticked(services.currentServices()), c.ticked) << c.what;
         EXPECT_EQ(ticked(services.savedServices()), c.ticked) << c.what;
         EXPECT_EQ(Ids(backEnd.registrations[&view].begin(), backEnd.registrations[&view].end()), c.ticked)

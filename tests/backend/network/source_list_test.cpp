@@ -4,10 +4,13 @@
 
 #include "backend/network/network_errors.h"
 #include "backend/store/store_file.h"
+#include "backend/store/store_reader.h"
 #include "tests/backend/feed/feed_fixture.h"
 #include "tests/support/qt_printers.h"
 
 #include <QJsonDocument>
+
+#include <set>
 
 namespace wirepane {
 namespace {
@@ -51,6 +54,7 @@ TEST(NetworkSource, ThatIsNotSoundIsRefused) {
         const ErrorCode* fault;  // null: it is sound
     } cases[] = {
         {R"({"address": "https://a.example/f"})", nullptr},
+        {R"({"address": "https://a.example/f", "service": 0})", nullptr},
         {R"({"address": "https://a.example/f", "interval": 15, "later": {"x": 1}})", nullptr},
         {R"({"address": "file:///tmp/a.xml", "typed": true})", nullptr},
         {R"({"address": "wss://a.example/f", "kind": "websocket"})", nullptr},
@@ -62,7 +66,6 @@ TEST(NetworkSource, ThatIsNotSoundIsRefused) {
         {R"({"address": "https://me:pw@a.example/f"})", &network_errors::secretInAddress},
         {R"({"address": "https://a.example/f", "interval": 14})", &network_errors::fieldWrong},
         {R"({"address": "https://a.example/f", "service": 256})", &network_errors::fieldWrong},
-        {R"({"address": "https://a.example/f", "service": 0})", &network_errors::fieldWrong},
         {R"({"address": "https://a.example/f", "service": 1.5})", &network_errors::fieldWrong},
         {R"({"address": "https://a.example/f", "kind": "gopher"})", &network_errors::fieldWrong},
         {R"({"address": "https://a.example/f", "typed": "yes"})", &network_errors::fieldWrong},
@@ -113,6 +116,55 @@ TEST_F(SourceListTest, KeepsTheOrderOfTheUserUnderNamesForGood) {
     for (const Done& done : {list.remove(nobody), list.move(nobody, 0), list.pause(nobody, true)})
         EXPECT_EQ(done.error().code, &network_errors::noSource);
     EXPECT_EQ(other.revision().value(), 7);  // of which none was a failure
+}
+
+TEST_F(SourceListTest, GivesASourceThatIsToBeReadAServiceOfItsOwn) {
+    const struct {
+        const char* what;
+        QString title;
+        QString mapping;
+        unsigned char wanted;
+        bool isPaused;
+        unsigned char given;
+        QString name;  // of its service
+    } cases[] = {
+        {"named after itself", u"A\tPaper"_s, {}, ownService, false, 255, u"A Paper"_s},
+        {"after its host", {}, {}, ownService, false, 254, u"a.example"_s},
+        {"not yet", u"Later"_s, {}, ownService, true, ownService, {}},
+        {"as the user chose", u"B"_s, {}, 2, false, 2, u"Market News"_s},
+        {"as its mapping says", u"C"_s, u"exchange_announcements"_s, ownService, false, 16,
+         u"Stock Exchange"_s},
+        {"not one that another is to have", u"D"_s, {}, 253, false, 253, {}},
+        {"but the next", u"E"_s, {}, ownService, false, 252, u"E"_s},
+    };
+    StoreReader reader(*store);
+    for (const auto& one : cases) {
+        NetworkSource source = sourceAt(u"https://a.example/"_s);
+        source.title = one.title;
+        source.mapping = one.mapping;
+        source.service = one.wanted;
+        source.isPaused = one.isPaused;
+        const QString name = list.add(source).value();
+        EXPECT_EQ(list.source(name).value().service, one.given) << one.what;
+        const auto service = reader.service(one.given);
+        EXPECT_EQ(service ? service->fullName : QString(), one.name) << one.what;
+    }
+    // It comes with the first moment in which it is read, and stays.
+    for (const bool isPaused : {false, true, false}) {
+        ASSERT_TRUE(list.pause(u"net:a.example/3"_s, isPaused));
+        EXPECT_EQ(list.source(u"net:a.example/3"_s).value().service, 251);
+    }
+    // News stays in its service, which nobody gets a second time.
+    ASSERT_TRUE(list.remove(u"net:a.example"_s));
+    NetworkSource source = sourceAt(u"https://b.example/"_s);
+    source.service = ownService;
+    for (int i = 0; i < 250; ++i)
+        ASSERT_TRUE(list.add(source));
+    EXPECT_EQ(list.sources().value().back().service, 1) << "where none is left";
+    std::set<unsigned char> services;
+    for (const NetworkSource& each : list.sources().value())
+        services.insert(each.service);
+    EXPECT_FALSE(services.contains(255) || services.contains(23) || services.contains(22));
 }
 
 TEST_F(SourceListTest, ForgetsPositionAndStandingWithTheSource) {

@@ -125,6 +125,7 @@ TEST_F(SourceCommand, ATrialTellsWhatTheFeedCallsItselfWhatItBringsAndWhatIsWron
         QByteArray body;
         QString title;
         int items;
+        int tooOld;
         int feeds;
         bool isFault;
         int status;
@@ -132,18 +133,21 @@ TEST_F(SourceCommand, ATrialTellsWhatTheFeedCallsItselfWhatItBringsAndWhatIsWron
         {"feed",
          "<rss version='2.0'><channel><title>A &lt;b&gt;Paper</title><item><guid>1</guid><title>Rates</title>"
          "<pubDate>" +
-             now + "</pubDate></item></channel></rss>",
-         u"A <b>Paper"_s, 1, 0, false, 0},
+             now +
+             "</pubDate></item><item><guid>2</guid><title>Of old</title>"
+             "<pubDate>Mon, 02 Mar 2020 09:00:00 GMT</pubDate></item></channel></rss>",
+         u"A <b>Paper"_s, 1, 1, 0, false, 0},
         {"page",
          "<!DOCTYPE html><html><head><link rel='alternate' type='application/rss+xml' "
          "href='https://a.example/feed.xml'></head>"
          "</html>",
          {},
          0,
+         0,
          1,
          false,
          0},
-        {"nothing", "", {}, 0, 0, true, 2},
+        {"nothing", "", {}, 0, 0, 0, true, 2},
     };
     ScriptClient script({u"--store"_s, scratch.path(u"other"_s), u"--config"_s, scratch.path(u"config"_s),
                          u"--lang"_s, u"en"_s});
@@ -153,6 +157,7 @@ TEST_F(SourceCommand, ATrialTellsWhatTheFeedCallsItselfWhatItBringsAndWhatIsWron
             script.result(u"source.test"_s, QJsonObject{{u"address"_s, u"file://"_s + file}}).toObject();
         EXPECT_EQ(told[u"title"_s].toString(), one.title) << one.what;
         EXPECT_EQ(told[u"items"_s].toInt(-1), one.items) << one.what;
+        EXPECT_EQ(told[u"tooOld"_s].toInt(-1), one.tooOld) << one.what;
         EXPECT_EQ(told[u"feeds"_s].toArray().size(), one.feeds) << one.what;
         EXPECT_EQ(told.contains(u"fault"_s), one.isFault) << one.what;
         const ProgramOutcome outcome = run({u"test"_s, file});

@@ -3,6 +3,7 @@
 // The Sources page, by keyboard alone, over a server on this machine.
 #include "terminal/sources/sources_window.h"
 
+#include "host/contract/clock.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "terminal/sources/source_dialog.h"
 #include "terminal/sources/trial_view.h"
@@ -98,6 +99,7 @@ TEST_F(SourcesWindowTest, ASourceIsAddedPausedAndRemovedByKeyboard) {
     const NetworkSource added = desk().sources()[0].source;
     EXPECT_EQ(added.kind, NetworkKind::Table);
     EXPECT_EQ(added.mapping, u"exchange_announcements"_s);
+    EXPECT_EQ(added.service, 16) << "that of the mapping";
     EXPECT_TRUE(added.isTyped);
     EXPECT_EQ(window->focusWidget(), list());
     QTest::keyClick(list(), Qt::Key_Space);
@@ -169,6 +171,34 @@ protected:
     TrialView& trialView() { return *window->findChild<TrialView*>(); }
     static QString asking() { return terminalText(TextId::TrialAsking); }
 };
+
+TEST_F(FirstSourceTest, ANewSourceHasAServiceOfItsOwnThatViewsTick) {
+    server.put(
+        "/today",
+        "<rss><channel><title>A Paper</title><item><guid>a:1</guid><title>Told today</title><pubDate>" +
+            QDateTime::fromSecsSinceEpoch(host_clock::now() - 60).toString(Qt::RFC2822Date).toUtf8() +
+            "</pubDate></item></channel></rss>",
+        "application/rss+xml");
+    addByKeyboard(server.address(u"/today"_s).toString(),
+                  [](const SourceDialog&) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
+    ASSERT_TRUE(lists(1));
+    const int service = desk().sources()[0].source.service;
+    EXPECT_EQ(service, 255);
+    const NewsViewAccess& view = *session->workspace().newest()->access;
+    QVariantMap entry;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const QVariantList services = view.state()[u"services"_s].toList();
+        entry = services.isEmpty() ? QVariantMap() : services.back().toMap();
+        return entry[u"id"_s].toInt() == service;
+    }));
+    EXPECT_EQ(entry[u"name"_s].toString(), u"A Paper"_s);
+    EXPECT_TRUE(entry[u"selected"_s].toBool());
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const auto keys = view.keysOf(0, 0, 1000);
+        return std::any_of(keys.begin(), keys.end(),
+                           [&](const HeadlineKey& key) { return key.service == service; });
+    }));
+}
 
 TEST_F(FirstSourceTest, AnExchangesListIsAddedTestedWithoutItsServerAndFoundAgainInEachLanguage) {
     EXPECT_FALSE(trialView().sentence().isEmpty()) << "what an empty table is for";
