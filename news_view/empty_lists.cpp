@@ -5,12 +5,14 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/service_entry.h"
 #include "host/controls/super_sheet_wnd.h"
+#include "host/views/news_module.h"
 #include "news_view/news_services.h"
 #include "news_view/view_context.h"
 #include "news_view/view_settings.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "search/search_desk.h"
 
+#include <QAction>
 #include <QPlainTextEdit>
 
 #include <algorithm>
@@ -25,10 +27,10 @@ EmptyLists::EmptyLists(ViewContext& viewContext, const CommonParts& commonParts,
 void EmptyLists::watch(CSuperSheetWnd& grid, ListIndex list) {
     if (!parts.settings.options[ViewOption::EmptyStates])
         return;
-    auto* note = new EmptyNote(grid.viewport());
+    auto* note = new EmptyNote(grid.viewport(), parts.window);
     notes[list] = note;
     connect(note, &EmptyNote::acted, this, &EmptyLists::act);
-    connect(note, &EmptyNote::otherChosen, this, [this](int offer) { calls.takeOffer(offer); });
+    connect(note, &EmptyNote::otherChosen, this, &EmptyLists::takeOther);
     followRowsOf(grid);
 }
 
@@ -60,7 +62,7 @@ void EmptyLists::followStory() {
     if (text == nullptr)
         return;
     if (storyNote == nullptr) {
-        storyNote = new EmptyNote(text->viewport());
+        storyNote = new EmptyNote(text->viewport(), parts.window);
         connect(storyNote, &EmptyNote::acted, this, &EmptyLists::readNewest);
         connect(text, &QPlainTextEdit::textChanged, this, &EmptyLists::followSoon);
     }
@@ -77,7 +79,7 @@ void EmptyLists::followQuotes() {
     if (quotes == nullptr)
         return;
     if (quotesNote == nullptr) {
-        quotesNote = new EmptyNote(quotes);
+        quotesNote = new EmptyNote(quotes, parts.window);
         connect(quotesNote, &EmptyNote::acted, this, [this] { calls.showList(ListIndex::Symbol); });
         followRowsOf(*quotes->quoteSheet());
     }
@@ -104,17 +106,22 @@ void EmptyLists::followList() {
         return;
     }
     const CSuperSheetWnd* const grid = context.listOf(list).grid();
-    if (grid == nullptr || grid->rowCount() > 0 || isAwaited()) {
+    const EmptyList empty = known(list);
+    if (grid == nullptr || (grid->rowCount() > 0 && empty.isSupported) || isAwaited()) {
         note->hide();
         calls.forgetOffers();
         return;
     }
-    EmptyText text = emptyTextOf(known(list), parts.backEnd);
+    EmptyText text = emptyTextOf(empty, parts.backEnd);
     const CSearch found = list == ListIndex::Search ? searches.foundUnder(list) : CSearch();
     if (found.keywords.empty())
         calls.forgetOffers();
     else
         text.others = calls.offers(found);
+    if (list == ListIndex::All && text.action.isEmpty()) {
+        for (const QAction* action : offeredByHost())
+            text.others += QString(action->text()).remove(u'&').remove(u'…');
+    }
     note->tell(text);
     // What stands in the pane was of rows that are gone.
     const QPlainTextEdit* const story = calls.storyText();
@@ -133,6 +140,8 @@ EmptyList EmptyLists::known(ListIndex list) const {
     EmptyList empty;
     empty.list = list;
     empty.hasServices = !parts.services.activeServices(list).empty();
+    empty.isSupported = list != ListIndex::Symbol || calls.isSupported();
+    empty.hasAllNews = context.listOf(ListIndex::All).grid() != nullptr;
     if (list == ListIndex::Category || list == ListIndex::Symbol)
         empty.subject = calls.subject();
     if (list == ListIndex::Search) {
@@ -144,6 +153,19 @@ EmptyList EmptyLists::known(ListIndex list) const {
         empty.nearest = calls.nearestDay();
     }
     return empty;
+}
+
+QList<QAction*> EmptyLists::offeredByHost() const {
+    QList<QAction*> offered = parts.window.actions();
+    offered.removeIf([](const QAction* action) { return !action->property(offeredWithoutNews).toBool(); });
+    return offered;
+}
+
+void EmptyLists::takeOther(int place) {
+    if (context.shownList() == ListIndex::Search)
+        calls.takeOffer(place);
+    else if (QAction* const action = offeredByHost().value(place))
+        action->trigger();
 }
 
 void EmptyLists::act() {

@@ -15,6 +15,7 @@
 
 class CNewsRelateSymbolQuoteView;
 class CSuperSheetWnd;
+class QAction;
 class QPlainTextEdit;
 struct CSearch;
 
@@ -34,7 +35,8 @@ public:
         // The one next to it that has news, as far as the back end can tell.
         std::function<std::optional<QDate>()> nearestDay;
         std::function<void(QDate)> goToDay;
-        std::function<QString()> subject;  // the chosen category or symbol, as it is shown
+        std::function<QString()> subject;   // the chosen category or symbol, as it is shown
+        std::function<bool()> isSupported;  // false: there can be no news of that symbol
         std::function<void(ListIndex)> showList;
         std::function<void()> chooseServices;
         std::function<void()> beginSearch;                    // the keyboard goes to the search box
@@ -63,6 +65,9 @@ private:
     void readNewest();
     bool isAwaited() const;
     EmptyList known(ListIndex list) const;
+    // What the host offers who has no news on any day.
+    QList<QAction*> offeredByHost() const;
+    void takeOther(int place);
     // What the button of the shown list is for.
     void act();
 

@@ -34,6 +34,9 @@ EmptyText emptyQuotesText(bool isOfHeadline, bool canLookUp, BKQuoteInterface& b
 
 EmptyText emptyTextOf(const EmptyList& list, BKQuoteInterface& backEnd) {
     const auto text = [&backEnd](QLatin1StringView key) { return langText(backEnd, key); };
+    const QString toAllNews = list.hasAllNews ? text(keys::emptyShowAllNews) : QString();
+    if (list.list == ListIndex::Symbol && !list.isSupported)
+        return {LineIcon::News, text(keys::noData), toAllNews};
     if (wantsServices(list))
         return {LineIcon::Services, text(keys::emptyNoService), text(keys::emptyChooseServices)};
     switch (list.list) {
@@ -45,9 +48,9 @@ EmptyText emptyTextOf(const EmptyList& list, BKQuoteInterface& backEnd) {
             return {LineIcon::News,
                     list.subject.isEmpty() ? text(keys::emptyNothing)
                                            : text(keys::emptyOfSubject).arg(list.subject),
-                    text(keys::emptyShowAllNews)};
+                    toAllNews};
         case ListIndex::Warrant:
-            return {LineIcon::News, text(keys::hintNoWarrantNews), text(keys::emptyShowAllNews)};
+            return {LineIcon::News, text(keys::hintNoWarrantNews), toAllNews};
         case ListIndex::Relation:
             return {LineIcon::Relation, text(keys::emptyRelation), text(keys::emptyChooseKeySets)};
         case ListIndex::WarningTerm:

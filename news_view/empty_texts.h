@@ -18,6 +18,8 @@ namespace wirepane {
 struct EmptyList {
     ListIndex list = ListIndex::All;
     bool hasServices = true;       // one is ticked
+    bool isSupported = true;       // false: there can be no news of the symbol
+    bool hasAllNews = true;        // the list of all news can be shown
     QString subject;               // the chosen category or symbol, as it is shown
     QStringList words;             // that were searched for
     QDate day;                     // the picked one

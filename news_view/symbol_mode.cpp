@@ -115,10 +115,11 @@ void SymbolMode::hideWithoutUse() {
         hideControls();
 }
 
-// The grid and the controls of the mode make room for the notice that there is nothing to show.
+// The grid and the controls of the mode make room for the notice that there is nothing to show; where empty
+// lists say so, that stands on the grid.
 void SymbolMode::hideMode() {
     hideControls();
-    if (CSuperSheetWnd* sheet = grid())
+    if (CSuperSheetWnd* sheet = grid(); sheet != nullptr && !parts.settings.options[ViewOption::EmptyStates])
         sheet->hide();
 }
 

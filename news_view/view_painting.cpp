@@ -34,10 +34,9 @@ bool TRVNewsCtrlView::OnEraseBkgnd(QPainter& painter) {
 }
 
 void TRVNewsCtrlView::OnDraw(QPainter& painter) {
-    // Where empty lists say why, that of the symbol says it in its place, and no other.
-    const bool isElsewhere =
-        parts->settings.options[ViewOption::EmptyStates] && parts->shownList() != ListIndex::Symbol;
-    if (currentDataState() == DataState::NotSupported && !isElsewhere) {
+    // Empty lists that say why say this, too.
+    const bool isSaid = parts->settings.options[ViewOption::EmptyStates];
+    if (currentDataState() == DataState::NotSupported && !isSaid) {
         vNotSupportSymbol(painter);
         drawFrameBorder(painter);
     } else {
@@ -52,8 +51,7 @@ void TRVNewsCtrlView::DrawTitile(QPainter& painter) {
 
 void TRVNewsCtrlView::vNotSupportSymbol(QPainter& painter) {
     const QRect grid = parts->arrangement.layout().grid;
-    const int top = parts->settings.options[ViewOption::EmptyStates] ? grid.top() : titleHeight();
-    const QRect area(0, top, grid.width(), grid.bottom() + 1 - top);
+    const QRect area(0, titleHeight(), grid.width(), grid.bottom() + 1 - titleHeight());
     painter.fillRect(area, colBackground);
     painter.setFont(GetViewFont());
     painter.setPen(QColor::fromRgb(colBackground.rgb() ^ 0xFFFFFFU));

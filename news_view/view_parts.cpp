@@ -248,6 +248,7 @@ SymbolMode::Calls TRVNewsCtrlView::Parts::symbolCalls() {
             [this] { return view.currentDataState() != DataState::NotSupported; },
             [this](bool supported) {
                 view.setDataState(supported ? DataState::Normal : DataState::NotSupported);
+                emptyLists.followSoon();
             },
             [this] { return CSyncInfo::GetSettingCFG()->SYS_cszGetCurrentSymbol(view.linkedGroup()); },
             [this](const CSymbolInfo& symbol) {
@@ -377,6 +378,7 @@ EmptyLists::Calls TRVNewsCtrlView::Parts::emptyListCalls() {
             [this] { return days.nearestWithNews(); },
             [this](QDate day) { goToDay(day); },
             [this] { return shownSubject(); },
+            [this] { return view.currentDataState() != DataState::NotSupported; },
             [this](ListIndex list) { showMode(list); },
             [this] { serviceMenu.popUp(); },
             [this] {
@@ -404,65 +406,4 @@ QString TRVNewsCtrlView::Parts::shownSubject() {
     }
     const auto* combo = controls.find<SCComboBox>(ids::categoryCombo);
     return combo != nullptr ? combo->currentText() : QString();
-}
-
-// --- Days ---
-
-bool TRVNewsCtrlView::Parts::takeRowCommand(int id) {
-    if (id == ids::copyRows)
-        input.copyRows();
-    else if (id == ids::exportRows)
-        rowsExport.ask(shownEntries());
-    else if (id == ids::openInWindow)
-        story.openWindow();
-    else if (id == ids::turnChanges)
-        story.turnChanges();
-    else
-        return reading.carryOut(id) || arrivalPill.carryOut(id);
-    return true;
-}
-
-bool TRVNewsCtrlView::Parts::takeDayCommand(int id) {
-    if (id != ids::earlierDay && id != ids::laterDay && id != ids::presentDay)
-        return false;
-    if (lists[ListIndex::All].grid() == nullptr)
-        return true;
-    showMode(ListIndex::All);
-    if (const auto day = days.dayOfCommand(id))
-        goToDay(*day);
-    return true;
-}
-
-void TRVNewsCtrlView::Parts::goToDay(const QDate& day) {
-    days.goTo(day);
-    story.show();
-}
-
-// --- What notices offer ---
-
-bool TRVNewsCtrlView::Parts::takeNoticeCommand(int id) {
-    // The button beside the notice asks first what is to become of what is complete.
-    if (id == ids::askBeforeStop && output.ready() > 0) {
-        const QWidget* stop = controls.find<SButton>(ids::stopWaiting);
-        menu.popUp(output.waitingCommands(), stop->mapToGlobal(QPoint(0, stop->height())));
-    } else if (id == ids::stopWaiting || id == ids::askBeforeStop) {
-        output.stopWaiting();
-    } else if (id == ids::putOutReady) {
-        output.putOutReady();
-    } else if (id == ids::endNarrowing) {
-        searches.endNarrowing();
-    } else if (id == ids::readUnfiltered) {
-        readUnfiltered();
-    } else {
-        return false;
-    }
-    return true;
-}
-
-// The shown list without another list's filter.
-void TRVNewsCtrlView::Parts::readUnfiltered() {
-    if (!lists.hasOthersFilter(shownList()))
-        return;
-    sentAgain.readAgain(shownList());
-    story.show();
 }

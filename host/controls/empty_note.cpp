@@ -33,6 +33,10 @@ EmptyNote::EmptyNote(QWidget* parent) : QWidget(parent), button(new SButton(this
     parent->installEventFilter(this);
 }
 
+EmptyNote::EmptyNote(QWidget* parent, const QWidget& ofBoth) : EmptyNote(parent) {
+    frame = &ofBoth;
+}
+
 void EmptyNote::tell(const EmptyText& text) {
     if (text != told) {
         told = text;
@@ -43,6 +47,11 @@ void EmptyNote::tell(const EmptyText& text) {
         tellOthers();
     }
     setGeometry(parentWidget()->rect());
+    if (frame != nullptr) {
+        QFont whole = frame->font();
+        whole.setResolveMask(QFont::AllPropertiesResolved);
+        setFont(whole);
+    }
     place();
     show();
     raise();
@@ -96,8 +105,10 @@ QRect EmptyNote::iconPlace() const {
     const int text = textHeight();
     if (!hasRoomForIcon())
         return {0, std::max(0, (height() - text + gap) / 2) - iconSide - gap, iconSide, iconSide};
-    const int top =
-        std::max(margin, std::min({lowestTop, height() / 4, height() - iconSide - gap - text - margin}));
+    const int lowest = height() - iconSide - gap - text - margin;
+    const int line = frame != nullptr ? mapFrom(frame, QPoint(0, frame->height() * 3 / 8)).y() : 0;
+    const bool standsOnLine = line >= margin && line <= lowest;
+    const int top = standsOnLine ? line : std::max(margin, std::min({lowestTop, height() / 4, lowest}));
     return {(width() - iconSide) / 2, top, iconSide, iconSide};
 }
 

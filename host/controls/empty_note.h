@@ -32,6 +32,8 @@ class WIREPANE_HOST_EXPORT EmptyNote : public QWidget {
 
 public:
     explicit EmptyNote(QWidget* parent);
+    // With a frame that holds several, the notes of panes side by side stand on one line and in its font.
+    EmptyNote(QWidget* parent, const QWidget& frame);
 
     // Shows the text over the whole parent.
     void tell(const EmptyText& text);
@@ -58,9 +60,9 @@ private:
     void tellOthers();
 
     EmptyText told;
-
-    SButton* button;               // its child
-    std::vector<SButton*> others;  // as well
+    const QWidget* frame = nullptr;  // an ancestor
+    SButton* button;                 // its child
+    std::vector<SButton*> others;    // as well
 };
 
 }  // namespace wirepane

@@ -67,6 +67,10 @@ Q_DECLARE_INTERFACE(wirepane::NewsModule, WIREPANE_NEWS_MODULE_IID)
 
 namespace wirepane {
 
+// The property of a QAction that a host adds to a view (QWidget::addAction): true when an empty list shall
+// offer it where there is no news on any day, by its text. What a view offers then without one: nothing.
+inline constexpr const char* offeredWithoutNews = "offeredWithoutNews";
+
 // What a terminal and its scripts can do with a news view beyond what any view offers. A news view implements
 // it beside its base class: dynamic_cast from TRVQuoteBaseView.
 class WIREPANE_HOST_EXPORT NewsViewAccess {

@@ -7,6 +7,8 @@
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/news_control_ids.h"
+#include "terminal/frame/first_news.h"
+#include "terminal/frame/first_news.h"
 #include "terminal/frame/frame_errors.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/view_desk.h"
@@ -132,6 +134,7 @@ Done Workspace::start(OpenView& open, unsigned char group, const QSize& size) {
         view->resize(open.dock->widget() != nullptr ? open.dock->widget()->size() : startSize);
     view->setFrameId(open.number);
     view->setLinkGroup(group);
+    offerFirstNews(*view, frame);
     view->OnInitialUpdate();
     view->setTypeName(open.typeName);
     access->vSetNewsType(static_cast<int>(open.newsType));

@@ -1,13 +1,16 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // Lists without rows offer a way out, where the host says so.
+#include "headline_list/language_keys.h"
 #include "host/controls/empty_note.h"
 #include "host/controls/s_button.h"
 #include "host/views/news_control_ids.h"
+#include "host/views/news_module.h"
 #include "search/news_relate_symbol_quote_view.h"
 #include "tests/news_view/view_fixture.h"
 #include "tests/support/conditions.h"
 
+#include <QAction>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -42,6 +45,37 @@ TEST_F(EmptyListsTest, EachListSaysWhyItIsEmptyAndWhatToDo) {
         const bool knowsNoDay = mode == 0;
         EXPECT_EQ(shown->text().action.isEmpty(), knowsNoDay);
     }
+}
+
+// Where there is no news on any day the host may know a way to some.
+TEST_F(EmptyListsTest, WithoutNewsTheHostsActionsAreOffered) {
+    openActive({{u"EmptyStates"_s, true}});
+    int imported = 0;
+    auto* import = new QAction(u"&Import News…"_s, view.get());
+    import->setProperty(offeredWithoutNews, true);
+    QObject::connect(import, &QAction::triggered, view.get(), [&] { ++imported; });
+    view->addAction(new QAction(u"Another"_s, view.get()));
+    view->addAction(import);
+    view->SwitchFunction(3);
+    ASSERT_NE(note(), nullptr);
+    EXPECT_EQ(note()->text().others, QStringList()) << "it is a search that finds nothing";
+    view->SwitchFunction(0);
+    ASSERT_NE(note(), nullptr);
+    EXPECT_EQ(note()->text().others, QStringList({u"Import News"_s}));
+    emit note()->otherChosen(0);
+    EXPECT_EQ(imported, 1);
+}
+
+TEST_F(EmptyListsTest, ThatNoSymbolHasNewsIsSaidInTheListOfSymbolsAndInNoOther) {
+    backEnd.symbols.clear();
+    openActive({{u"EmptyStates"_s, true}});
+    view->SwitchFunction(2);
+    ASSERT_EQ(view->currentDataState(), DataState::NotSupported);
+    ASSERT_NE(note(), nullptr);
+    EXPECT_EQ(note()->text().sentence, backEnd.LangGetLangString(keys::noData));
+    press(*note());
+    ASSERT_NE(note(), nullptr);
+    EXPECT_NE(note()->text().sentence, backEnd.LangGetLangString(keys::noData));
 }
 
 TEST_F(EmptyListsTest, GoesAsNewsComesAndComesBackWithAnEmptyDay) {
