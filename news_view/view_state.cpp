@@ -4,6 +4,7 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/news_origins.h"
 #include "host/controls/my_rich_edit.h"
 #include "host/controls/window_id.h"
 #include "host/controls/xtp_tab_control.h"
@@ -48,10 +49,13 @@ QVariantMap storyTexts(const QWidget& window) {
             {QStringLiteral("onTop"), window.windowFlags().testFlag(Qt::WindowStaysOnTopHint)}};
 }
 
-// A story display: its texts, and the headline that it points at.
+// A story display: its texts, the headline that it points at, and who has brought the one on show.
 template <class Display>
-QVariantMap displayState(const Display& display) {
+QVariantMap displayState(const Display& display, BKQuoteInterface& backEnd) {
     QVariantMap state = storyTexts(display);
+    const auto& shown = display.shownHeadline();
+    if (auto* origins = dynamic_cast<NewsOrigins*>(&backEnd); origins != nullptr && shown)
+        state.insert(QStringLiteral("origins"), origins->originsOf(keyOf(*shown)));
     state.insert(QStringLiteral("position"), display.GetHeadLinePos());
     state.insert(QStringLiteral("table"), display.list() ? static_cast<int>(*display.list()) : -1);
     return state;
@@ -88,10 +92,10 @@ std::vector<HeadlineKey> TRVNewsCtrlView::keysOf(int list, int from, int count) 
 }
 
 QVariantMap TRVNewsCtrlView::storyState(bool inDialog) const {
-    if (inDialog)
-        return parts->stage.storyDialog() != nullptr ? displayState(*parts->stage.storyDialog())
-                                                     : QVariantMap();
-    return parts->stage.storyPane() != nullptr ? displayState(*parts->stage.storyPane()) : QVariantMap();
+    const auto stateOf = [this](const auto* display) {
+        return display != nullptr ? displayState(*display, parts->backEnd) : QVariantMap();
+    };
+    return inDialog ? stateOf(parts->stage.storyDialog()) : stateOf(parts->stage.storyPane());
 }
 
 QVariantMap TRVNewsCtrlView::state() const {

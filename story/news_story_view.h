@@ -52,6 +52,8 @@ public:
     void leaveHeadline() { reader.leaveHeadline(); }
     // The headline shown, while its list has it; nothing: none.
     const std::optional<CHeadlineTable>& headlinePointedAt() const { return reader.headlinePointedAt(); }
+    // The one on show, also when its list has it no more.
+    const std::optional<CHeadlineTable>& shownHeadline() const { return reader.shownHeadline(); }
     // The owner's list that the position refers to.
     std::optional<wirepane::ListIndex> list() const { return reader.list(); }
 

@@ -53,6 +53,7 @@ public:
     void SetHeadLinePos(int position) { reader.SetHeadLinePos(position); }
     int GetHeadLinePos() const { return reader.GetHeadLinePos(); }
     std::optional<wirepane::ListIndex> list() const { return reader.list(); }
+    const std::optional<CHeadlineTable>& shownHeadline() const { return reader.shownHeadline(); }
     // Shows the headline and story at the position, or a placeholder while they are not at hand. An empty
     // list leaves the dialog as it is.
     void vShowData();

@@ -59,10 +59,11 @@ private:
 
 }  // namespace
 
-void FeedSource::setState(SourceState::Kind kind, const std::optional<Error>& reason) {
+void FeedSource::setState(SourceState::Kind kind, const std::optional<Error>& reason,
+                          std::optional<std::int64_t> wanted) {
     if (kind == current.kind && reason == current.reason)
         return;
-    const std::int64_t since = kind == current.kind ? current.since : host_clock::now();
+    const std::int64_t since = kind == current.kind ? current.since : wanted.value_or(host_clock::now());
     current = {kind, since, reason};
     if (owner != nullptr)
         owner->sourceStateChanged(*this);

@@ -34,7 +34,7 @@ struct SourceState {
         Silent,   // no sign of life from the other end; the reason says what was met instead
     };
     Kind kind = Connecting;
-    std::int64_t since = 0;            // when it came to be so, seconds since 1970
+    std::int64_t since = 0;  // when it came to be so, of Stale when its last news came; seconds since 1970
     std::optional<Error> reason = {};  // of Failed and Silent
 
     bool operator==(const SourceState&) const = default;
@@ -114,8 +114,9 @@ public:
     void setTaker(SourceTaker* sourceTaker) { owner = sourceTaker; }
 
 protected:
-    // `reason`: for Failed.
-    void setState(SourceState::Kind kind, const std::optional<Error>& reason = {});
+    // `reason`: for Failed and Silent. `since`: where it is not the present moment.
+    void setState(SourceState::Kind kind, const std::optional<Error>& reason = {},
+                  std::optional<std::int64_t> since = {});
     void tellReady();
     void tellTrouble(const Error& error);
     SourceTaker* taker() const { return owner; }

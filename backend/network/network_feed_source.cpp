@@ -290,8 +290,10 @@ void NetworkFeedSource::show() {
         return;
     if (!isReadable)
         setState(isAlive ? SourceState::Failed : SourceState::Silent, fault);
+    else if (gaps.isStale(seconds()))
+        setState(SourceState::Stale, {}, gaps.lastNews());
     else
-        setState(gaps.isStale(seconds()) ? SourceState::Stale : SourceState::Live);
+        setState(SourceState::Live);
 }
 
 std::shared_ptr<FeedBatch> NetworkFeedSource::batch() {

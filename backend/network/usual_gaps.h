@@ -26,6 +26,8 @@ public:
     double expected(std::int64_t now) const;
     bool isStale(std::int64_t now) const { return expected(now) >= arrivalsMissed; }
 
+    std::int64_t lastNews() const { return lastArrival; }  // 0: there was none
+
     // What has been learned, to be kept; what is no such text has taught nothing.
     QString text() const;
     static UsualGaps parse(const QString& text);

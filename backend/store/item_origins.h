@@ -10,16 +10,18 @@
 namespace wirepane {
 
 // Which sources have brought a piece of news, and under which link: by that the same piece is known again
-// when another source brings it under an identity of its own, or its own source under a new one. Thread: that
-// of the database, which must outlive this.
+// when another source brings it under an identity of its own or to another service, or its own source under
+// a new identity. Thread: that of the database, which must outlive this.
 class ItemOrigins {
 public:
     explicit ItemOrigins(Database& database);
 
     struct Known {
-        QString identity;         // under which it is in the store; empty: it is not known by its link
+        unsigned char service = 0;
+        QString identity;         // under which it is in that service; empty: it is not known
         bool isBySource = false;  // this source has brought it before
     };
+    // By its link, or by an identity that is the same everywhere, in its own service first.
     Known find(const NewsItem& item, const QString& source, bool& failed);
     // In the transaction that takes the item. False on failure.
     bool note(const NewsItem& item, const QString& source, std::int64_t now);
@@ -27,7 +29,10 @@ public:
     bool forget(std::int64_t before);
 
 private:
+    static Known firstOf(Statement& statement, const NewsItem& item, const QString& source, bool& failed);
+
     Statement byLink;
+    Statement byIdentity;
     Statement write;
     Statement erase;
 };

@@ -311,10 +311,12 @@ Result<TakeOutcome> StoreWriter::takeFrom(const QString& source, const StoreItem
     const ItemOrigins::Known known = origins.find(named, source, failed);
     if (failed)
         return fail();
-    const bool isAnothers =
-        !known.identity.isEmpty() && known.identity != named.identity && !known.isBySource;
-    if (!known.identity.isEmpty())
+    const bool isRenamed = known.identity != named.identity || known.service != named.service;
+    const bool isAnothers = !known.identity.isEmpty() && isRenamed && !known.isBySource;
+    if (!known.identity.isEmpty()) {
         named.identity = known.identity;
+        named.service = known.service;
+    }
     const Result<TakeOutcome> taken = isAnothers ? TakeOutcome{Take::AlreadyThere, {}} : take(named);
     const bool isThere = taken && taken.value().take != Take::Rejected;
     if (isThere && !origins.note(named, source, host_clock::now()))

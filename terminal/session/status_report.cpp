@@ -4,6 +4,7 @@
 
 #include "backend/feed/feed_name.h"
 #include "backend/feed/live_feed.h"
+#include "backend/feed/source_health.h"
 #include "backend/store/embedded_back_end.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
@@ -61,19 +62,24 @@ std::vector<SourceReport> sourcesOf(const LiveFeed& feed, const QString& storePa
 
 // The light is green only while a source is live.
 void tellSources(FrameStatus& status, const std::vector<SourceReport>& sources) {
-    const auto has = [&](SourceState::Kind kind) {
-        return std::any_of(sources.begin(), sources.end(),
-                           [kind](const SourceReport& source) { return source.state.kind == kind; });
-    };
-    status.hasNoSource = sources.empty();
-    status.isLive = has(SourceState::Live);
-    if (status.hasNoSource)
-        status.feed = terminalText(TextId::NoSources);
-    else if (!status.isLive && has(SourceState::Stale))
-        status.feed = terminalText(TextId::SourcesStale);
-    else if (!status.isLive)
-        status.feed =
-            terminalText(has(SourceState::Connecting) ? TextId::SourceConnecting : TextId::SourcesSilent);
+    const SourceHealth health = healthOf(sources);
+    status.hasNoSource = health == SourceHealth::None;
+    status.isLive = health == SourceHealth::Good;
+    switch (health) {
+        case SourceHealth::Good:
+            break;
+        case SourceHealth::None:
+            status.feed = terminalText(TextId::NoSources);
+            break;
+        case SourceHealth::Stale:
+            status.feed = terminalText(TextId::SourcesStale);
+            break;
+        case SourceHealth::Connecting:
+            status.feed = terminalText(TextId::SourceConnecting);
+            break;
+        default:
+            status.feed = terminalText(TextId::SourcesSilent);
+    }
 }
 
 // The rows of the list on show; -1: there is none.

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/sources/source_texts.h"
 
+#include "backend/feed/source_health.h"
+#include "backend/network/usual_gaps.h"
 #include "backend/store/day_bounds.h"
 #include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
@@ -35,7 +37,7 @@ QString momentText(std::int64_t moment, std::int64_t now) {
 QString nextText(const ListedSource& listed, std::int64_t now) {
     if (listed.source.isPaused)
         return nothing;
-    if (isStream(listed.source.kind))
+    if (isStream(listed.source))
         return terminalText(TextId::SourceStream);
     if (listed.standing.nextTry == 0)
         return nothing;
@@ -51,7 +53,7 @@ QString delayText(int delay) {
 }
 
 QString intervalText(const NetworkSource& source) {
-    if (isStream(source.kind))
+    if (isStream(source))
         return terminalText(TextId::SourceStream);
     if (source.interval == 0)
         return terminalText(TextId::SourceAdapts);
@@ -63,16 +65,18 @@ QString placeText(const NetworkSource& source) {
                                         : source.address.host();
 }
 
-ColourRole lampOf(SourceState::Kind kind) {
-    switch (kind) {
-        case SourceState::Live:
-            return ColourRole::Good;
-        case SourceState::Failed:
-        case SourceState::Silent:
-            return ColourRole::Flash;
-        default:
-            return ColourRole::Warning;
-    }
+ColourRole lampOf(const SourceState& state) {
+    const SourceHealth health = healthOf(state);
+    if (health == SourceHealth::Good)
+        return ColourRole::Good;
+    return isFaulty(health) ? ColourRole::Flash : ColourRole::Warning;
+}
+
+// As a terminal elsewhere sees it that reads it.
+SourceState elsewhereOf(const SourceStanding& standing, std::int64_t now) {
+    const UsualGaps gaps = UsualGaps::parse(standing.gaps);
+    return gaps.isStale(now) ? SourceState{SourceState::Stale, gaps.lastNews()}
+                             : SourceState{SourceState::Live};
 }
 
 // What it says of itself: paused, a fault of the last try, or how a terminal stands to it.
@@ -89,11 +93,12 @@ void tellState(SourceRow& row, const ListedSource& listed, const std::optional<S
         row.lamp = ColourRole::Flash;
     } else if (live) {
         row.state = stateText(*live);
-        row.lamp = lampOf(live->kind);
+        row.lamp = lampOf(*live);
     } else if (standing.nextTry + minute >= now) {
         // Of a terminal elsewhere; one that reads is never late by much.
-        row.state = stateText({SourceState::Live});
-        row.lamp = lampOf(SourceState::Live);
+        const SourceState elsewhere = elsewhereOf(standing, now);
+        row.state = stateText(elsewhere);
+        row.lamp = lampOf(elsewhere);
     } else {
         row.state = terminalText(standing.lastTry == 0 ? TextId::SourceNotAsked : TextId::SourceNotRead);
     }
@@ -155,7 +160,7 @@ SourceRow rowOf(const ListedSource& listed, const std::optional<SourceState>& li
     row.today = QLocale(QLocale::English).toString(listed.standing.itemsOn(dayNumber(today)));
     row.delay = delayText(listed.standing.delay);
     row.icon = source.address.isLocalFile() ? LineIcon::Folder
-               : isStream(source.kind)      ? LineIcon::Pipe
+               : isStream(source)           ? LineIcon::Pipe
                                             : LineIcon::Feed;
     row.isOn = !source.isPaused;
     tellState(row, listed, live, now);

@@ -77,6 +77,7 @@ TEST_F(ListsInStep, AClickShowsTheStoryOfTheHeadlineThatStandsThere) {
     const QDate yesterday = today.addDays(-1);
     addTold(1, today, 10, 1, 1, u"2330"_s);
     addTold(1, today, 5, 2, 2, u"6214"_s);
+    backEnd.origins[2] = {u"Exchange"_s, u"Paper"_s};
     addTold(1, yesterday, 10, 3, 3);
     addTold(52, today, 10, 4);
     addTold(52, yesterday, 10, 5);
@@ -123,6 +124,8 @@ TEST_F(ListsInStep, AClickShowsTheStoryOfTheHeadlineThatStandsThere) {
         c.happens();
         click(0);
         EXPECT_TRUE(story().contains(c.told)) << c.what << ": " << story().toStdString();
+        EXPECT_EQ(view->storyState(false)[u"origins"_s].toStringList().size(),
+                  c.told.endsWith(u"1-2"_s) ? 2 : 0);
     }
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/live_feed.h"
 #include "backend/feed/socket_source.h"
+#include "backend/feed/source_health.h"
 #include "backend/feed/spool_source.h"
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/store_checker.h"
@@ -238,6 +239,29 @@ TEST_F(LiveFeedStatesTest, AStoreThatCanOnlyBeReadIsSaidToBeSoOnce) {
     QTest::qWait(600);
     EXPECT_EQ(sentences, QStringList{trouble()});
     EXPECT_TRUE(trouble().contains(u"can only be read"_s));
+}
+
+TEST(SourceHealth, OfAllIsThatOfTheOneThatStandsBest) {
+    const struct {
+        std::vector<SourceState::Kind> kinds;
+        SourceHealth health;
+        bool isFaulty;
+    } cases[] = {
+        {{}, SourceHealth::None, false},
+        {{SourceState::Failed, SourceState::Live, SourceState::Stale}, SourceHealth::Good, false},
+        {{SourceState::Silent, SourceState::Stale, SourceState::Connecting}, SourceHealth::Stale, false},
+        {{SourceState::Offline, SourceState::Connecting}, SourceHealth::Connecting, false},
+        {{SourceState::Failed, SourceState::Silent}, SourceHealth::Silent, true},
+        {{SourceState::Failed}, SourceHealth::Failed, true},
+        {{SourceState::Failed, SourceState::Offline}, SourceHealth::Offline, false},
+    };
+    for (const auto& one : cases) {
+        std::vector<SourceReport> sources;
+        for (const SourceState::Kind kind : one.kinds)
+            sources.push_back({{}, {kind}});
+        EXPECT_EQ(healthOf(sources), one.health) << one.kinds.size();
+        EXPECT_EQ(isFaulty(healthOf(sources)), one.isFaulty) << one.kinds.size();
+    }
 }
 
 TEST_F(LiveFeedStatesTest, AClockThatIsSetBackStartsNoDayTwice) {

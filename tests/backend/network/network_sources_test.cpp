@@ -66,15 +66,28 @@ TEST_F(NetworkSourcesTest, TakesTheSameNewsOnceWhoeverBringsItUnderWhateverName)
     });
     add(other, u"/other"_s);
     ASSERT_TRUE(hasTold(3));
+    // One of another service has both as well, by a link and by a URI, and one under a name that is none.
+    FaultServer apart([](const FaultServer::Seen&) {
+        return FaultServer::whole("200 OK", "",
+                                  rss({{u"apart:1"_s, u"eins"_s, u"https://x.example/1"_s, 3},
+                                       {u"2"_s, u"zwei"_s, u"https://apart.example/2"_s, 2},
+                                       {u"apart:4"_s, u"4"_s, u"https://apart.example/4"_s, 1}}));
+    });
+    NetworkSource definition;
+    definition.address = apart.url(u"/apart"_s);
+    definition.service = ownService;
+    add(definition);
+    ASSERT_TRUE(hasTold(4));
     EXPECT_EQ(titlesIn(*openStoreToRead(storeFile).value()),
-              (QStringList{u"News 1"_s, u"News 2"_s, u"News 3"_s}));
+              (QStringList{u"News 1"_s, u"News 2"_s, u"News 3"_s, u"News 4"_s}));
     const auto store = openStore(storeFile);
     SourceList list(*store.value());
     NetworkSource titled = list.source(u"net:localhost/2"_s).value();
     titled.title = u"The \"other\" 報"_s;
     ASSERT_TRUE(list.change(titled));
     const QStringList of1{u"localhost"_s, titled.title};
-    EXPECT_EQ(origins(), (QList<QStringList>{of1.mid(1), of1.mid(0, 1), of1}));
+    const QStringList ofApart{u"localhost/3"_s};
+    EXPECT_EQ(origins(), (QList<QStringList>{of1.mid(1), of1.mid(0, 1) + ofApart, of1 + ofApart}));
 }
 
 TEST_F(NetworkSourcesTest, SaysWhatIsWrongAndKeepsWhatWasThere) {

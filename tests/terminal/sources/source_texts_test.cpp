@@ -70,6 +70,8 @@ TEST_F(SourceTexts, ARowSaysHowItsSourceStands) {
     EXPECT_EQ(shown(fresh), u"post.example|post.example · WebSocket · stream|Not asked yet|–|stream|0|–"_s);
     ListedSource elsewhere = listed();
     EXPECT_EQ(rowOf(elsewhere, {}, now).state, u"Live"_s) << "another program's terminal reads it";
+    elsewhere.standing.gaps = QString::number(now - 7200) + u" 30/10"_s.repeated(48);
+    EXPECT_EQ(rowOf(elsewhere, {}, now).state, u"Nothing new since 10:00"_s);
     elsewhere.standing.nextTry = now - 61;
     EXPECT_EQ(rowOf(elsewhere, {}, now).state, u"No terminal reads it at the moment"_s);
     ListedSource paused = listed();
