@@ -32,7 +32,10 @@ OLD_NEWS = '{"uri": "u:%d", "type": "text", "versioncreated": "1987-03-03T01:00:
 class Gallery:
     def __init__(self, program: str, folder: pathlib.Path, language: str, scheme: str, size: list, only: set):
         self.folder, self.language, self.scheme, self.size, self.only = folder, language, scheme, size, only
-        self.work = pathlib.Path(tempfile.mkdtemp(prefix="wirepane-gallery-"))
+        # A folder that pictures may show.
+        self.work = pathlib.Path(tempfile.gettempdir()) / "wirepane"
+        shutil.rmtree(self.work, ignore_errors=True)
+        self.work.mkdir()
         self.terminal = Terminal(program, language, self.work)
         self.ask = self.terminal.ask
         self.ask("host.set", scheme=scheme)

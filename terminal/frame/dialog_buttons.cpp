@@ -10,10 +10,10 @@
 
 namespace wirepane {
 
-QDialogButtonBox* dialogButtons(QDialog& dialog) {
+QDialogButtonBox* dialogButtons(QDialog& dialog, TextId verb) {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     // The toolkit's own texts may lack the language.
-    buttons->button(QDialogButtonBox::Ok)->setText(terminalText(TextId::Accept));
+    buttons->button(QDialogButtonBox::Ok)->setText(terminalText(verb));
     buttons->button(QDialogButtonBox::Cancel)->setText(terminalText(TextId::Cancel));
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);

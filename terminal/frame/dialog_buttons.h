@@ -6,8 +6,10 @@ class QDialog;
 class QDialogButtonBox;
 
 namespace wirepane {
+enum class TextId;
 
-// The buttons that accept and reject a dialog, in the language in force.
-QDialogButtonBox* dialogButtons(QDialog& dialog);
+// The buttons that accept a dialog, with what that does for their text, and reject it, in the language in
+// force.
+QDialogButtonBox* dialogButtons(QDialog& dialog, TextId verb);
 
 }  // namespace wirepane

@@ -25,7 +25,7 @@ ReadAsOfDialog::ReadAsOfDialog(QWidget* parent) : QDialog(parent) {
     edit->setAccessibleName(windowTitle());
     edit->setCalendarPopup(true);
     edit->setDisplayFormat(u"yyyy/MM/dd HH:mm"_s);
-    QDialogButtonBox* buttons = dialogButtons(*this);
+    QDialogButtonBox* buttons = dialogButtons(*this, TextId::ReadAsOfRead);
     auto* now = buttons->addButton(terminalText(TextId::ReadAsOfNow), QDialogButtonBox::ResetRole);
     connect(now, &QPushButton::clicked, edit, [this] { edit->setDateTime(QDateTime::currentDateTime()); });
     auto* column = new QVBoxLayout(this);

@@ -60,7 +60,7 @@ SettingsDialog::SettingsDialog(const TerminalChoices& present, QWidget* parent) 
     pages->setAccessibleName(windowTitle());
     pages->addTab(generalPage(present), terminalText(TextId::SettingsGeneral));
     pages->addTab(newsPage(present), terminalText(TextId::SettingsNews));
-    QDialogButtonBox* buttons = dialogButtons(*this);
+    QDialogButtonBox* buttons = dialogButtons(*this, TextId::SettingsSave);
     auto* column = new QVBoxLayout(this);
     column->addWidget(pages);
     column->addWidget(buttons);

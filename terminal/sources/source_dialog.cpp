@@ -88,9 +88,8 @@ SourceDialog::SourceDialog(const NetworkSource& source, SourceSecret secret,
     pages->setSizePolicy(QSizePolicy::Preferred,
                          QSizePolicy::Maximum);  // what a trial shows takes none of its room
     trialView = new TrialView;
-    QDialogButtonBox* buttons = dialogButtons(*this);
-    buttons->button(QDialogButtonBox::Ok)
-        ->setText(terminalText(source.name.isEmpty() ? TextId::SourceAdd : TextId::SourceSave));
+    QDialogButtonBox* buttons =
+        dialogButtons(*this, source.name.isEmpty() ? TextId::SourceAdd : TextId::SourceSave);
     testButton = buttons->addButton(terminalText(TextId::SourceTest), QDialogButtonBox::ActionRole);
     connect(testButton, &QPushButton::clicked, this, &SourceDialog::test);
     auto* column = new QVBoxLayout(this);

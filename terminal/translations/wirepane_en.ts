@@ -2307,10 +2307,6 @@
         <source></source>
         <translation>Yesterday</translation>
     </message>
-    <message id="TERMINAL_ACCEPT">
-        <source></source>
-        <translation>OK</translation>
-    </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>
         <translation>Wirepane</translation>
@@ -2716,6 +2712,10 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>&amp;Present</translation>
     </message>
+    <message id="TERMINAL_READ_AS_OF_READ">
+        <source></source>
+        <translation>&amp;Read</translation>
+    </message>
     <message id="TERMINAL_READ_AS_OF_TITLE">
         <source></source>
         <translation>Read As Of</translation>
@@ -2819,6 +2819,10 @@ Reads the news of securities markets, live and from files.</translation>
     <message id="TERMINAL_SETTINGS_RISING">
         <source></source>
         <translation>&amp;Rising quotes</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_SAVE">
+        <source></source>
+        <translation>&amp;Save</translation>
     </message>
     <message id="TERMINAL_SETTINGS_SCHEME">
         <source></source>

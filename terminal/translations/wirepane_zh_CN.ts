@@ -2307,10 +2307,6 @@
         <source></source>
         <translation>昨天</translation>
     </message>
-    <message id="TERMINAL_ACCEPT">
-        <source></source>
-        <translation>确定</translation>
-    </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>
         <translation>Wirepane</translation>
@@ -2716,6 +2712,10 @@
         <source></source>
         <translation>当前时间(&amp;N)</translation>
     </message>
+    <message id="TERMINAL_READ_AS_OF_READ">
+        <source></source>
+        <translation>阅读(&amp;R)</translation>
+    </message>
     <message id="TERMINAL_READ_AS_OF_TITLE">
         <source></source>
         <translation>指定时点阅读</translation>
@@ -2819,6 +2819,10 @@
     <message id="TERMINAL_SETTINGS_RISING">
         <source></source>
         <translation>上涨颜色(&amp;R)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_SAVE">
+        <source></source>
+        <translation>保存(&amp;S)</translation>
     </message>
     <message id="TERMINAL_SETTINGS_SCHEME">
         <source></source>
