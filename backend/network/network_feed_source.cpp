@@ -207,16 +207,10 @@ void NetworkFeedSource::take(SourceAnswer&& answer) {
     int& news = outcome.news;
     if (answer.isRead) {
         kept.lastSuccess = seconds();
-        const bool isFirst = handed.isEmpty();
-        if (!answer.isUnchanged)
-            takeItems(std::move(answer));
-        for (const auto& batch : batches)
-            news += static_cast<int>(batch->items.size());
         // What was there before it was ever asked, or read again after a restart, has not come now.
-        if (isFirst)
-            news = 0;
-        else if (news > 0)
-            noteDelay(batches.back()->items);
+        const bool isFirst = !std::exchange(isFollowed, true);
+        if (!answer.isUnchanged)
+            news = takeItems(std::move(answer), isFirst);
     }
     if (news > 0)
         gaps.arrive(seconds());
@@ -225,7 +219,10 @@ void NetworkFeedSource::take(SourceAnswer&& answer) {
         tellReady();
 }
 
-void NetworkFeedSource::takeItems(SourceAnswer&& answer) {
+// How many of the items have come since the last answer, one where there is none to compare with: those that
+// the store has, too, are among them.
+int NetworkFeedSource::takeItems(SourceAnswer&& answer, bool isFirst) {
+    const bool canCompare = !handed.isEmpty();
     if (!answer.items.empty())
         listed = std::ssize(answer.items);
     validators = answer.validators;
@@ -243,7 +240,11 @@ void NetworkFeedSource::takeItems(SourceAnswer&& answer) {
         fresh.push_back(std::move(item));
     }
     handed = std::move(present);
+    const int news = isFirst ? 0 : static_cast<int>(fresh.size());
+    if (news > 0)
+        noteDelay(fresh);
     handOver(std::move(fresh), nullptr);
+    return canCompare ? news : std::min(news, 1);
 }
 
 // From the publishing of the newest of them until now.
@@ -319,6 +320,7 @@ void NetworkFeedSource::setOnline(bool on) {
     openedMs = 0;
     batches.clear();
     handed.clear();
+    isFollowed = false;
     isWaiting = true;
     nextTryMs = 0;
     hasAnswer = false;

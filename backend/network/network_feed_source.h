@@ -59,7 +59,7 @@ private:
     void ask(const SourceSecret& secret);
     void take(SourceAnswer&& answer);
     void takeStream(SourceAnswer&& answer);
-    void takeItems(SourceAnswer&& answer);
+    int takeItems(SourceAnswer&& answer, bool isFirst);
     void handOver(std::vector<SourceItem>&& items, const std::shared_ptr<void>& room);
     void keepOpen();
     void noteDelay(const std::vector<SourceItem>& items);
@@ -84,6 +84,7 @@ private:
     bool hasBrought = false;    // something since then
     CallSchedule calls;
     bool hasLeft = false;
+    bool isFollowed = false;  // it has answered since this began, or the terminal was connected
     bool hasChanged = false;
     Validators validators;
     qsizetype listed = 0;           // items of the last answer

@@ -34,9 +34,20 @@ TEST_F(NetworkSourcesTest, TellsNewsOfASourceThatAnotherProgramAdds) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return standing().items == 2; }, 5000));
     restart();
     ASSERT_TRUE(hasAsked(server, before + 2));
+    ASSERT_TRUE(QTest::qWaitFor(
+        [this] { return network->sources().front()->state().kind == SourceState::Live; }, 5000));
     EXPECT_FALSE(server.seen.back().headers.value("if-none-match").isEmpty());
     EXPECT_EQ(standing().items, 2);
-    EXPECT_EQ(titlesIn(*openStoreToRead(storeFile).value()), (QStringList{u"News 1"_s, u"News 2"_s}));
+    // What comes after an unchanged answer has come now, late as it is.
+    const auto lastArrival = [this] { return standing().gaps.section(u' ', 0, 0).toLongLong(); };
+    const std::int64_t arrived = lastArrival();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QDateTime::currentSecsSinceEpoch() > arrived; }, 5000));
+    entries.insert(entries.begin(), {u"3"_s, u"3"_s, u"https://x.example/3"_s, 5});
+    askAgain(server);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return standing().items == 3; }, 5000));
+    EXPECT_GT(lastArrival(), arrived);
+    EXPECT_EQ(titlesIn(*openStoreToRead(storeFile).value()),
+              (QStringList{u"News 1"_s, u"News 2"_s, u"News 3"_s}));
 
     // A paused one is asked no more, a removed one is gone.
     const std::size_t asked = server.seen.size();
