@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/frame/keys_window.h"
 
+#include "terminal/frame/window_room.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QAction>
@@ -29,7 +30,6 @@ namespace {
 
 constexpr std::size_t mostColumns = 3;
 constexpr int betweenColumns = 32;
-constexpr int aroundWindow = 32;  // what a screen has beside it: its title, the edges
 
 struct KeyRow {
     QString keys;  // empty: what stands above those that follow
@@ -141,7 +141,7 @@ KeysWindow::KeysWindow(const QMenuBar& menus, const QWidget* view, const QString
     const std::vector<KeyRow> rows = rowsOf(menus, view, viewTitle);
     auto* area = new QScrollArea(this);
     const int bar = area->verticalScrollBar()->sizeHint().width();
-    const QSize room = screen()->availableGeometry().size() - QSize(aroundWindow, 2 * aroundWindow);
+    const QSize room = windowRoom(*this);
     std::size_t columns = mostColumns;
     std::unique_ptr<QWidget> page = pageOf(rows, columns);
     // What is too wide for the screen goes on below, where one can scroll.

@@ -5,6 +5,7 @@
 #include "host/controls/heap_dialog.h"
 #include "terminal/frame/dialog_buttons.h"
 #include "terminal/frame/message_boxes.h"
+#include "terminal/frame/window_room.h"
 #include "terminal/sources/service_box.h"
 #include "terminal/sources/source_texts.h"
 #include "terminal/sources/trial_view.h"
@@ -32,6 +33,7 @@ namespace wirepane {
 namespace {
 
 constexpr int widthInCharacters = 84;
+constexpr int rowsOfTrial = 6;  // that are seen at first beyond those that always are
 
 constexpr auto lastKind = int(NetworkKind::WebSocket);
 
@@ -99,6 +101,8 @@ SourceDialog::SourceDialog(const NetworkSource& source, SourceSecret secret,
     setMinimumWidth(fontMetrics().averageCharWidth() * widthInCharacters);
     fill(source);
     secretLine->setText(secret.authorisation);
+    const int more = fontMetrics().height() * rowsOfTrial;
+    resize((sizeHint() + QSize(0, more)).boundedTo(windowRoom(*this)));
     address->setFocus();
     if (source.name.isEmpty())
         test();

@@ -4,6 +4,7 @@
 
 #include "host/controls/heap_dialog.h"
 #include "terminal/frame/message_boxes.h"
+#include "terminal/frame/window_room.h"
 #include "terminal/sources/new_source.h"
 #include "terminal/sources/opml_exchange.h"
 #include "terminal/sources/source_delegate.h"
@@ -35,6 +36,7 @@ namespace wirepane {
 namespace {
 
 constexpr QSize startSize{1080, 640};
+constexpr int startFontHeight = 17;        // with which this is enough
 constexpr std::chrono::seconds period{1};  // of what time changes
 
 }  // namespace
@@ -61,7 +63,8 @@ SourcesWindow::SourcesWindow(SourceDesk& sourceDesk, SourceTrial& sourceTrial, S
       upButton(new QPushButton),
       downButton(new QPushButton),
       trialView(new TrialView) {
-    resize(startSize);
+    const double larger = std::max(1.0, double(fontMetrics().height()) / startFontHeight);
+    resize((startSize * larger).boundedTo(windowRoom(*this)));
     auto* column = new QVBoxLayout(this);
     column->addLayout(topRow());
     column->addWidget(list, 3);

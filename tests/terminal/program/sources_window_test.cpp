@@ -3,6 +3,7 @@
 // The Sources page, by keyboard alone, over a server on this machine.
 #include "terminal/sources/sources_window.h"
 
+#include "backend/network/network_errors.h"
 #include "host/contract/clock.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "terminal/sources/source_dialog.h"
@@ -198,6 +199,34 @@ TEST_F(FirstSourceTest, ANewSourceHasAServiceOfItsOwnThatViewsTick) {
         return std::any_of(keys.begin(), keys.end(),
                            [&](const HeadlineKey& key) { return key.service == service; });
     }));
+}
+
+TEST_F(FirstSourceTest, WhatAListNamesOfThePrivateNetworkIsNotDialledEvenWhenItIsSwitchedOn) {
+    const QString feed = server.address(u"/feed"_s).toString();
+    const QString withSecret = QString(feed).replace(u"//"_s, u"//me:geheim@"_s) + u"?token=geheim"_s;
+    const QString list =
+        u"<opml><body><outline text=\"A\" xmlUrl=\"%1\"/><outline text=\"B\" xmlUrl=\"%2\"/>"
+        "<outline text=\"again\" xmlUrl=\"%1\"/><outline xmlUrl=\"file:///etc/passwd\"/>"
+        "<outline text=\"C\" xmlUrl=\"http://192.168.7.1/feed\"/></body></opml>"_s;
+    window->importList(scratch.write(u"in.opml"_s, list.arg(feed, withSecret).toUtf8()));
+    ASSERT_TRUE(lists(3));
+    for (const ListedSource& each : desk().sources()) {
+        EXPECT_EQ(each.source.service, ownService) << "none before it is read";
+        EXPECT_FALSE(each.source.isTyped);
+        EXPECT_FALSE(each.source.address.toString().contains(u"geheim"_s));
+        desk().pause(each.source.name, false, [](const Done& done) { EXPECT_TRUE(done); });
+    }
+    const auto isRefused = [](const ListedSource& each) {
+        return each.standing.fault[u"code"_s].toString() ==
+               QLatin1StringView(network_errors::privateAddress.key);
+    };
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            const auto& all = desk().sources();
+            return std::all_of(all.begin(), all.end(), isRefused);
+        },
+        10'000));
+    EXPECT_EQ(server.requests, 0);
 }
 
 TEST_F(FirstSourceTest, AnExchangesListIsAddedTestedWithoutItsServerAndFoundAgainInEachLanguage) {
