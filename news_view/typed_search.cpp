@@ -45,12 +45,13 @@ void TypedSearch::find(const QString& text) {
                                                    isQuery ? SearchLanguage::Query : SearchLanguage::Plain);
     const bool isCut = isQuery && wanted.endsWith(u'*');
     const auto begun = std::chrono::steady_clock::now();
-    asked = finder->findNewest(condition, services, mostShown,
-                               [this, condition, begun, isCut](const std::vector<CHeadlineTable>& newest) {
-                                   const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(
-                                       std::chrono::steady_clock::now() - begun);
-                                   show({condition, newest, newest.size() < mostShown && !isCut, took});
-                               });
+    asked = finder->findNewest(
+        condition, services, mostShown,
+        [this, condition, begun, isCut](const std::vector<CHeadlineTable>& newest, bool isAll) {
+            const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(
+                std::chrono::steady_clock::now() - begun);
+            show({condition, newest, isAll && newest.size() < mostShown && !isCut, took});
+        });
 }
 
 }  // namespace wirepane

@@ -65,13 +65,18 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::find(unsigned char servic
 std::optional<std::vector<CHeadlineTable>> NewsSearch::findOnce(const std::vector<unsigned char>& services,
                                                                 const CSearch& condition,
                                                                 const Newest& newest,
-                                                                const std::atomic<bool>* stop) {
+                                                                const std::atomic<bool>* stop,
+                                                                const First& first) {
     stopping = stop;
     return atOneMoment([&]() -> std::optional<std::vector<CHeadlineTable>> {
         if (newest.most <= mostOfNewest) {
-            auto found = findSince(recently(services, newest.latest), services, condition, newest);
-            if (!found || found->size() == newest.most)
+            const Since since = recently(services, newest.latest);
+            auto found = findSince(since, services, condition, newest);
+            const bool wasAll = since.time == Since().time;
+            if (!found || found->size() == newest.most || wasAll)
                 return found;
+            if (first)
+                first(*found);
         }
         return findSince({}, services, condition, newest);
     });

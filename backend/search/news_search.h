@@ -10,6 +10,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <vector>
@@ -43,9 +44,12 @@ public:
     // For who searches once: the newest entries of several services, newest first. Many are read from the
     // store's index of times, as far as it takes, and the keys of all headlines are not. A few are looked for
     // in the newest news first: what is common is so there, too, and the index need not tell all that it has.
+    // `first` is called with what was found there, where all news is looked through for more.
+    using First = std::function<void(const std::vector<CHeadlineTable>& found)>;
     std::optional<std::vector<CHeadlineTable>> findOnce(const std::vector<unsigned char>& services,
                                                         const CSearch& condition, const Newest& newest,
-                                                        const std::atomic<bool>* stop = nullptr);
+                                                        const std::atomic<bool>* stop = nullptr,
+                                                        const First& first = {});
 
     // Reads the keys of all headlines, which the first search with many matches would have to do.
     void prepare();

@@ -44,24 +44,27 @@ void SearchDispatcher::ask(unsigned char service, int kind, const CSearch& condi
 }
 
 std::shared_ptr<const void> SearchDispatcher::askBeside(std::vector<SideJob::Search> wanted, Found told) {
-    return askOf(*worker, std::move(wanted), std::move(told));
+    return askOf(*worker, std::move(wanted),
+                 [told = std::move(told)](auto&& found, bool) { told(std::move(found)); });
 }
 
-std::shared_ptr<const void> SearchDispatcher::askNewest(std::vector<SideJob::Search> wanted, Found told) {
+std::shared_ptr<const void> SearchDispatcher::askNewest(SideJob::Search wanted, FoundNewest told) {
     if (!newest)
         newest = std::make_unique<SearchWorker>(path, SearchWorker::Answer(), std::nullopt);
-    return askOf(*newest, std::move(wanted), std::move(told));
+    return askOf(*newest, {std::move(wanted)}, [told = std::move(told)](auto&& found, bool isAll) {
+        told(std::move(found.front()), isAll);
+    });
 }
 
 std::shared_ptr<const void> SearchDispatcher::askOf(SearchWorker& asked, std::vector<SideJob::Search> wanted,
-                                                    Found told) {
+                                                    FoundPart told) {
     const auto dropped = std::make_shared<std::atomic<bool>>(false);
-    const auto call = [this, dropped,
-                       told = std::move(told)](std::vector<std::vector<CHeadlineTable>>&& found) {
+    const auto call = [this, dropped, told = std::move(told)](
+                          std::vector<std::vector<CHeadlineTable>>&& found, bool isAll) {
         auto entries = std::make_shared<std::vector<std::vector<CHeadlineTable>>>(std::move(found));
-        answers.post([dropped, told, entries] {
+        answers.post([dropped, told, entries, isAll] {
             if (!*dropped)
-                told(std::move(*entries));
+                told(std::move(*entries), isAll);
         });
     };
     asked.askBeside({std::move(wanted), dropped, call});

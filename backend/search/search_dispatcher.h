@@ -41,8 +41,10 @@ public:
     // returned is kept.
     using Found = std::function<void(std::vector<std::vector<CHeadlineTable>>&& found)>;
     std::shared_ptr<const void> askBeside(std::vector<SideJob::Search> wanted, Found told);
-    // The same for the newest few of each, without waiting for any of those.
-    std::shared_ptr<const void> askNewest(std::vector<SideJob::Search> wanted, Found told);
+    // The same for the newest few of one, without waiting for any of those; `told` may get those that were
+    // soon found before it gets all.
+    using FoundNewest = std::function<void(std::vector<CHeadlineTable>&& found, bool isAll)>;
+    std::shared_ptr<const void> askNewest(SideJob::Search wanted, FoundNewest told);
     // News has come that no view is told of by itself: the searches in that service that find some of it are
     // answered again.
     void lookAgain(unsigned char service, const std::vector<HeadlineKey>& news);
@@ -67,7 +69,9 @@ private:
         std::map<unsigned char, Pending> pending;
     };
 
-    std::shared_ptr<const void> askOf(SearchWorker& asked, std::vector<SideJob::Search> wanted, Found told);
+    using FoundPart = std::function<void(std::vector<std::vector<CHeadlineTable>>&& found, bool isAll)>;
+    std::shared_ptr<const void> askOf(SearchWorker& asked, std::vector<SideJob::Search> wanted,
+                                      FoundPart told);
     Search& searchOf(int kind, const CSearch& condition);
     static void drop(Search& search, unsigned char service);
     void send(Search& search, unsigned char service, std::optional<News> news);

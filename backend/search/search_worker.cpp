@@ -24,6 +24,17 @@ bool endsCutShort(const CSearch& condition) {
     return query != nullptr && !leavesOutCut(*query);
 }
 
+// Each once.
+void keepNewest(std::vector<CHeadlineTable>& entries, std::size_t most) {
+    const auto isBefore = [](const CHeadlineTable& a, const CHeadlineTable& b) {
+        return isNewer(a, b) || (!isNewer(b, a) && a.service < b.service);
+    };
+    const auto isSame = [](const CHeadlineTable& a, const CHeadlineTable& b) { return keyOf(a) == keyOf(b); };
+    std::ranges::sort(entries, isBefore);
+    entries.erase(std::unique(entries.begin(), entries.end(), isSame), entries.end());
+    entries.resize(std::min(entries.size(), most));
+}
+
 }  // namespace
 
 SearchWorker::SearchWorker(QString storePath, Answer answer, std::optional<std::chrono::milliseconds> idle)
@@ -42,44 +53,45 @@ void SearchWorker::askBeside(SideJob job) {
 void SearchWorker::searchBeside(const SideJob& job) {
     std::vector<std::vector<CHeadlineTable>> all;
     for (const SideJob::Search& search : job.searches)
-        all.push_back(found(search, *job.dropped));
+        all.push_back(found(search, job));
     if (!*job.dropped)
-        job.told(std::move(all));
+        job.told(std::move(all), true);
 }
 
-std::vector<CHeadlineTable> SearchWorker::found(const SideJob::Search& search,
-                                                const std::atomic<bool>& dropped) {
+std::vector<CHeadlineTable> SearchWorker::found(const SideJob::Search& search, const SideJob& job) {
     std::vector<CHeadlineTable> entries;
-    NewsSearch* const searching = dropped ? nullptr : opened();
+    NewsSearch* const searching = *job.dropped ? nullptr : opened();
     if (searching == nullptr)
         return entries;
     if (search.most)
-        return newestFound(search, dropped);
+        return newestFound(search, job);
     for (const unsigned char service : search.services) {
-        if (const auto found = searching->find(service, search.condition, &dropped))
+        if (const auto found = searching->find(service, search.condition, job.dropped.get()))
             entries.insert(entries.end(), found->begin(), found->end());
     }
     return entries;
 }
 
-std::vector<CHeadlineTable> SearchWorker::newestFound(const SideJob::Search& search,
-                                                      const std::atomic<bool>& dropped) {
+std::vector<CHeadlineTable> SearchWorker::newestFound(const SideJob::Search& search, const SideJob& job) {
     CSearch whole = search.condition;
-    const bool isCut = endsCutShort(whole);
-    if (isCut)
+    std::vector<CHeadlineTable> cut;
+    if (endsCutShort(whole)) {
         whole.keywords = {whole.query().chopped(1)};
-    auto found = news->findOnce(search.services, whole, {.most = *search.most}, &dropped)
-                     .value_or(std::vector<CHeadlineTable>());
-    if (!isCut)
-        return found;
-    for (const CHeadlineTable& entry : titles->find(search.services, search.condition.query(), dropped)) {
-        const auto isSame = [&](const CHeadlineTable& other) { return keyOf(other) == keyOf(entry); };
-        if (std::ranges::none_of(found, isSame))
-            found.push_back(entry);
+        cut = titles->find(search.services, search.condition.query(), *job.dropped);
     }
-    std::ranges::stable_sort(found, isNewer);
-    found.resize(std::min(found.size(), *search.most));
-    return found;
+    const auto withCut = [&](std::vector<CHeadlineTable> found) {
+        found.insert(found.end(), cut.begin(), cut.end());
+        keepNewest(found, *search.most);
+        return found;
+    };
+    const bool isAlone = job.searches.size() == 1;
+    const auto first = [&](const std::vector<CHeadlineTable>& soon) {
+        std::vector<CHeadlineTable> found = withCut(soon);
+        if (isAlone && !found.empty() && !*job.dropped)
+            job.told({std::move(found)}, false);
+    };
+    return withCut(news->findOnce(search.services, whole, {.most = *search.most}, job.dropped.get(), first)
+                       .value_or(std::vector<CHeadlineTable>()));
 }
 
 void SearchWorker::search(const SearchJob& job) {

@@ -28,6 +28,7 @@ struct SearchJob {
 
 // Searches whose tables are wanted beside those that views have sent. `told` is called on the worker's
 // thread, unless `dropped`.
+// Of one that wants the newest few it may be called before, with those that were soon found.
 struct SideJob {
     struct Search {
         CSearch condition;
@@ -39,7 +40,7 @@ struct SideJob {
     std::vector<Search> searches;
     std::shared_ptr<std::atomic<bool>> dropped;
     // The entries of each search, service after service.
-    std::function<void(std::vector<std::vector<CHeadlineTable>>&& found)> told;
+    std::function<void(std::vector<std::vector<CHeadlineTable>>&& found, bool isAll)> told;
 };
 
 // Searches a store on a thread and a connection of its own, in the order of asking. A store that cannot be
@@ -61,8 +62,8 @@ private:
     // On the thread, as all that they use.
     void search(const SearchJob& job);
     void searchBeside(const SideJob& job);
-    std::vector<CHeadlineTable> found(const SideJob::Search& search, const std::atomic<bool>& dropped);
-    std::vector<CHeadlineTable> newestFound(const SideJob::Search& search, const std::atomic<bool>& dropped);
+    std::vector<CHeadlineTable> found(const SideJob::Search& search, const SideJob& job);
+    std::vector<CHeadlineTable> newestFound(const SideJob::Search& search, const SideJob& job);
     void prepareWhenIdle();
     NewsSearch* opened();
 

@@ -150,13 +150,14 @@ std::shared_ptr<const void> EmbeddedBackEnd::findNews(std::vector<CountedSearch>
 std::shared_ptr<const void> EmbeddedBackEnd::findNewest(const CSearch& condition,
                                                         const std::vector<unsigned char>& services,
                                                         std::size_t most, NewestFound::Told told) {
-    return searches.askNewest({{condition, services, most}}, [this, told = std::move(told)](Tables&& found) {
+    const auto takeFound = [this, told = std::move(told)](std::vector<CHeadlineTable>&& found, bool isAll) {
         // The tables of views hold what this may name.
         moveOn();
-        laterNews.takeOut(found.front(), 0);
-        told(found.front());
+        laterNews.takeOut(found, 0);
+        told(found, isAll);
         tellNews();
-    });
+    };
+    return searches.askNewest({condition, services, most}, takeFound);
 }
 
 std::shared_ptr<const void> EmbeddedBackEnd::countFound(std::vector<CountedSearch> wanted,

@@ -7,6 +7,7 @@
 
 #include <map>
 #include <random>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -61,7 +62,7 @@ QString chineseStory(int number) {
     return text;
 }
 
-SearchStore::SearchStore(int stories) : file(folder.filePath(u"search.db"_s)) {
+SearchStore::SearchStore(int stories, Coming coming) : file(folder.filePath(u"search.db"_s)) {
     const auto store = opened(file);
     check(store->execute(
               "PRAGMA synchronous = OFF; PRAGMA cache_size = -262144; PRAGMA journal_mode = OFF; BEGIN"),
@@ -77,8 +78,8 @@ SearchStore::SearchStore(int stories) : file(folder.filePath(u"search.db"_s)) {
     Statement search(*store, "INSERT INTO news_search(rowid, title, story) VALUES(?, ?, ?)");
     std::int64_t bytes = 0;
     for (int i = 0; i < stories; ++i) {
-        // In no order of time, as imports come.
-        const std::int64_t time = begin + std::int64_t(i) * 7919 % stories * yearOfSeconds / stories;
+        const std::int64_t place = coming == Coming::AsPublished ? i : std::int64_t(i) * 7919 % stories;
+        const std::int64_t time = begin + place * yearOfSeconds / stories;
         const QString story = storyOf(i, stories);
         const QString title = story.left(40);
         bytes += title.toUtf8().size() + story.toUtf8().size();
@@ -93,11 +94,11 @@ SearchStore::SearchStore(int stories) : file(folder.filePath(u"search.db"_s)) {
     share = double(index) / double(bytes);
 }
 
-const SearchStore& SearchStore::of(int stories) {
-    static std::map<int, std::unique_ptr<SearchStore>> made;
-    std::unique_ptr<SearchStore>& store = made[stories];
+const SearchStore& SearchStore::of(int stories, Coming coming) {
+    static std::map<std::pair<int, Coming>, std::unique_ptr<SearchStore>> made;
+    std::unique_ptr<SearchStore>& store = made[{stories, coming}];
     if (!store)
-        store = std::make_unique<SearchStore>(stories);
+        store = std::make_unique<SearchStore>(stories, coming);
     return *store;
 }
 

@@ -14,11 +14,14 @@ inline constexpr int rareStories = 50;
 
 // A store of headlines with stories of about 1,200 characters, English and Chinese by turns, over a year and
 // the services 1 to 8, made once in a run and past the writer.
+// How the news came: as it was published, as a wire brings it, or in no order of time, as imports do.
+enum class Coming { AsPublished, InNoOrder };
+
 class SearchStore {
 public:
-    static const SearchStore& of(int stories);
+    static const SearchStore& of(int stories, Coming coming = Coming::InNoOrder);
 
-    explicit SearchStore(int stories);
+    SearchStore(int stories, Coming coming);
     const QString& path() const { return file; }
     // What the index takes up, as a share of the text in UTF-8.
     double indexOfText() const { return share; }

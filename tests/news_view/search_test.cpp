@@ -372,12 +372,12 @@ TEST_F(SearchesOfTheView, TheNewestAreShownWhileTheUserTypesAndStayUntilAllAreFo
     EXPECT_EQ(backEnd.findings[3].condition.keywords, std::vector{u"gold*"_s});
     EXPECT_TRUE(backEnd.findings[2].isDropped());
     EXPECT_FALSE(backEnd.findings[3].isDropped());
-    backEnd.findings[3].told({newer, older});
+    backEnd.findings[3].told({newer, older}, false);
     EXPECT_EQ(rows(), 2);
     EXPECT_EQ(sum(), u"newest 2"_s) << "the word may go on";
-    backEnd.findings[1].told({newer});
+    backEnd.findings[1].told({newer}, true);
     EXPECT_EQ(sum(), u"found 1"_s);
-    backEnd.findings[3].told(std::vector<CHeadlineTable>(200, newer));
+    backEnd.findings[3].told(std::vector<CHeadlineTable>(200, newer), true);
     EXPECT_EQ(sum(), u"newest 200"_s);
     EXPECT_EQ(sent(), QStringList()) << "nothing is sent before Enter";
     // What has a fault so far is not looked for, and what was found stays.

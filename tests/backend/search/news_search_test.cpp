@@ -309,6 +309,29 @@ TEST_F(NewsSearchTest, TheKeysOfAllHeadlinesAreReadOnce) {
     sqlite3_trace_v2(reading->handle(), 0, nullptr, nullptr);
 }
 
+TEST_F(NewsSearchTest, WhatTheNewestNewsHasOfAFewIsToldBeforeAllIsLookedThrough) {
+    ASSERT_TRUE(store->execute(
+        "INSERT INTO all_headlines(service, time, sequence, day, category, version, received, identity, "
+        "title) "
+        "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 19999) "
+        "SELECT 1, 1772400000 + i, i, 20260302, 1, 0, 0, 'n' || i, iif(i % 5000 = 7, 'gold', 'tin') FROM n; "
+        "INSERT INTO news_search(rowid, title, story) SELECT id, title, '' FROM all_headlines"));
+    const struct {
+        QString word;
+        std::vector<std::size_t> told;
+        std::size_t all;
+    } cases[] = {{u"gold"_s, {3}, 4}, {u"tin"_s, {}, 10}, {u"iron"_s, {0}, 0}};
+    for (const auto& one : cases) {
+        std::vector<std::size_t> told;
+        const auto found =
+            search.findOnce({1}, condition({one.word}), {10}, nullptr,
+                            [&](const std::vector<CHeadlineTable>& first) { told.push_back(first.size()); });
+        ASSERT_TRUE(found);
+        EXPECT_EQ(found->size(), one.all) << one.word.toStdString();
+        EXPECT_EQ(told, one.told) << one.word.toStdString();
+    }
+}
+
 // However small the pieces are in which the index is read.
 TEST_F(NewsSearchTest, TheIndexIsComparedWithTheTextsItWasMadeOf) {
     for (const QString& identity : {u"a"_s, u"b"_s, u"c"_s, u"d"_s})

@@ -151,10 +151,11 @@ TEST_F(SearchDispatcherTest, TheNewestFewAreToldToWhoeverStillWaits) {
     QStringList told;
     const auto ask = [&](const QString& name, std::size_t most) {
         return desk->askNewest(
-            {{condition({u"gold"_s}), {1, 2}, most}},
-            [&told, name](std::vector<std::vector<CHeadlineTable>>&& found) {
-                told += name + u' ' + QString::number(found.front().size());
-                EXPECT_TRUE(std::is_sorted(found.front().rbegin(), found.front().rend(),
+            {condition({u"gold"_s}), {1, 2}, most},
+            [&told, name](std::vector<CHeadlineTable>&& found, bool isAll) {
+                told += name + u' ' + QString::number(found.size());
+                EXPECT_TRUE(isAll) << "all of it is the newest news";
+                EXPECT_TRUE(std::is_sorted(found.rbegin(), found.rend(),
                                            [](const auto& a, const auto& b) { return a.time < b.time; }));
             });
     };
@@ -193,9 +194,9 @@ TEST_F(SearchDispatcherTest, WordsCutShortAreFoundAmongTheNewestTitles) {
         typed.language = SearchLanguage::Query;
         typed.scope = numberOf(SearchScope::Headlines);
         std::optional<std::vector<std::int64_t>> times;
-        const auto kept = desk->askNewest({{typed, {1, 2}, 50}}, [&](auto&& found) {
+        const auto kept = desk->askNewest({typed, {1, 2}, 50}, [&](auto&& found, bool) {
             times.emplace();
-            for (const CHeadlineTable& entry : found.front())
+            for (const CHeadlineTable& entry : found)
                 times->push_back(entry.time);
         });
         ASSERT_TRUE(QTest::qWaitFor([&] { return times.has_value(); }));
