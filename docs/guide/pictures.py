@@ -215,6 +215,11 @@ class Guide:
             self.ask("input.key", key="Alt+T")
             self.terminal.settle()
             self.picture("sources")
+            self.ask("input.key", key="Alt+E")
+            self.terminal.settle()
+            self.ask("input.key", key="Alt+T")
+            self.terminal.settle()
+            self.picture("source-dialog")
             self.ask("dialog.close")
             server.shutdown()
 

@@ -33,7 +33,6 @@ namespace wirepane {
 namespace {
 
 constexpr int widthInCharacters = 84;
-constexpr int rowsOfTrial = 6;  // that are seen at first beyond those that always are
 
 constexpr auto lastKind = int(NetworkKind::WebSocket);
 
@@ -101,8 +100,9 @@ SourceDialog::SourceDialog(const NetworkSource& source, SourceSecret secret,
     setMinimumWidth(fontMetrics().averageCharWidth() * widthInCharacters);
     fill(source);
     secretLine->setText(secret.authorisation);
-    const int more = fontMetrics().height() * rowsOfTrial;
-    resize((sizeHint() + QSize(0, more)).boundedTo(windowRoom(*this)));
+    // Of itself it would fill two thirds of the screen at most.
+    const int width = sizeHint().width();
+    resize(QSize(width, layout()->totalHeightForWidth(width)).boundedTo(windowRoom(*this)));
     address->setFocus();
     if (source.name.isEmpty())
         test();

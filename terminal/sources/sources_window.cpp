@@ -64,7 +64,7 @@ SourcesWindow::SourcesWindow(SourceDesk& sourceDesk, SourceTrial& sourceTrial, S
       downButton(new QPushButton),
       trialView(new TrialView) {
     const double larger = std::max(1.0, double(fontMetrics().height()) / startFontHeight);
-    resize((startSize * larger).boundedTo(windowRoom(*this)));
+    resize((startSize * larger).boundedTo(windowRoom(*this)).expandedTo(startSize));
     auto* column = new QVBoxLayout(this);
     column->addLayout(topRow());
     column->addWidget(list, 3);

@@ -44,8 +44,6 @@ TrialView::TrialView(QWidget* parent) : QWidget(parent), label(new QLabel), list
     list->setAlternatingRowColors(true);
     list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     list->header()->setStretchLastSection(true);
-    // It takes the room that others leave.
-    list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     list->setMinimumHeight(list->fontMetrics().height() * 3 / 2 * fewestRows);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
