@@ -189,6 +189,7 @@ inline constexpr QLatin1StringView emptyNotFound{"IDS_NEWSCTRLVIEW_EMPTY_NOT_FOU
 // What else would find something. "%1": how much; of the last one: what goes, and "%2" how much.
 inline constexpr QLatin1StringView offerServices{"IDS_NEWSCTRLVIEW_OFFER_SERVICES"};
 inline constexpr QLatin1StringView offerStories{"IDS_NEWSCTRLVIEW_OFFER_STORIES"};
+inline constexpr QLatin1StringView offerDays{"IDS_NEWSCTRLVIEW_OFFER_DAYS"};
 inline constexpr QLatin1StringView offerWithout{"IDS_NEWSCTRLVIEW_OFFER_WITHOUT"};
 
 // On the line over what was found. "%1": a number; a day; a moment; milliseconds; the part of the condition.

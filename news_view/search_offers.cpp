@@ -11,6 +11,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +28,8 @@ QString textOf(const SearchOffer& offer, BKQuoteInterface& backEnd) {
             return langText(backEnd, keys::offerServices).arg(count);
         case SearchOffer::Kind::StoriesToo:
             return langText(backEnd, keys::offerStories).arg(count);
+        case SearchOffer::Kind::OtherDays:
+            return langText(backEnd, keys::offerDays).arg(count);
         case SearchOffer::Kind::WithoutWord:
         case SearchOffer::Kind::WithoutSymbol:
             break;
@@ -47,14 +50,23 @@ std::vector<SearchOffer> possibleOffers(const CSearch& condition, bool hasOthers
         both.scope = numberOf(SearchScope::Both);
         offers.push_back({Kind::StoriesToo, {}, both});
     }
+    if (const auto onAllDays = withoutDays(condition))
+        offers.push_back({Kind::OtherDays, {}, *onAllDays});
     for (std::size_t i = 0; i < condition.symbols.size(); ++i)
         offers.push_back({Kind::WithoutSymbol, condition.symbols[i].code, withoutSymbol(condition, i)});
     const std::vector<QString> words = wordsOf(condition);
     // Where any of them is enough, none is in the way.
     if (words.size() < 2 || isAnyEnough(condition))
         return offers;
-    for (std::size_t i = 0; i < std::min(words.size(), mostWords); ++i)
-        offers.push_back({Kind::WithoutWord, words[i], withoutWord(condition, i)});
+    for (std::size_t i = 0; i < std::min(words.size(), mostWords); ++i) {
+        SearchOffer offer{Kind::WithoutWord, words[i], withoutWord(condition, i)};
+        // A day that stands alone goes with the days already.
+        const bool isOffered = std::any_of(offers.begin(), offers.end(), [&offer](const SearchOffer& other) {
+            return other.kind == Kind::OtherDays && other.condition == offer.condition;
+        });
+        if (!isOffered)
+            offers.push_back(std::move(offer));
+    }
     return offers;
 }
 

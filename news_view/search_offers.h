@@ -16,7 +16,7 @@ namespace wirepane {
 
 // Another search in the place of one that finds nothing.
 struct SearchOffer {
-    enum class Kind { OtherServices, StoriesToo, WithoutWord, WithoutSymbol };
+    enum class Kind { OtherServices, StoriesToo, OtherDays, WithoutWord, WithoutSymbol };
     Kind kind = Kind::WithoutWord;
     QString part;  // what goes; empty for others
     CSearch condition;

@@ -70,4 +70,23 @@ CSearch withoutSymbol(CSearch condition, std::size_t symbol) {
     return condition;
 }
 
+std::optional<CSearch> withoutDays(const CSearch& condition) {
+    if (!condition.isQuery() || isAnyEnough(condition))
+        return std::nullopt;
+    const QString query = condition.query();
+    const auto list = listOfParts(query);
+    if (!list)
+        return std::nullopt;
+    QStringList rest;
+    for (const QueryNode& part : list->parts) {
+        if (part.kind != QueryNode::Kind::Days)
+            rest += query.mid(part.position, part.length);
+    }
+    if (rest.empty() || rest.size() == static_cast<qsizetype>(list->parts.size()))
+        return std::nullopt;
+    CSearch onAllDays = condition;
+    onAllDays.keywords = {rest.join(u' ')};
+    return onAllDays;
+}
+
 }  // namespace wirepane

@@ -5,6 +5,7 @@
 #include "host/contract/search_condition.h"
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace wirepane {
@@ -18,5 +19,8 @@ bool isAnyEnough(const CSearch& condition);
 // last word it has no keywords.
 CSearch withoutWord(const CSearch& condition, std::size_t word);
 CSearch withoutSymbol(CSearch condition, std::size_t symbol);
+// The condition on all days; nothing where no part of it names days that all of it has to be of, or nothing
+// else is left.
+std::optional<CSearch> withoutDays(const CSearch& condition);
 
 }  // namespace wirepane

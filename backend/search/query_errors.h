@@ -21,11 +21,11 @@ inline constexpr ErrorCode closeBracket{"ERROR_QUERY_CLOSE_BRACKET",
 inline constexpr ErrorCode unknownField{
     "ERROR_QUERY_UNKNOWN_FIELD",
     u"There is no field \"%2\" (character %1). Put it in quotation marks to look for the text."};
-inline constexpr ErrorCode fieldValue{
-    "ERROR_QUERY_FIELD_VALUE",
-    u"The field %2 at character %1 lacks its value directly behind the colon, or does not take this one."};
-inline constexpr ErrorCode fieldWithin{"ERROR_QUERY_FIELD_WITHIN",
-                                       u"The field %2 at character %1 cannot stand within title: or story:."};
+inline constexpr ErrorCode fieldValue{"ERROR_QUERY_FIELD_VALUE",
+                                      u"The field \"%2\" at character %1 lacks its value directly behind the "
+                                      u"colon, or does not take this one."};
+inline constexpr ErrorCode fieldWithin{
+    "ERROR_QUERY_FIELD_WITHIN", u"The field \"%2\" at character %1 cannot stand within title: or story:."};
 inline constexpr ErrorCode day{
     "ERROR_QUERY_DAY", u"\"%2\" at character %1 is no day such as 2026-03-02, 2026-03, today or -3d."};
 inline constexpr ErrorCode near{"ERROR_QUERY_NEAR",

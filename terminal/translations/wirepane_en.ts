@@ -889,11 +889,11 @@
     </message>
     <message id="ERROR_QUERY_FIELD_VALUE">
         <source></source>
-        <translation>The field %2 at character %1 lacks its value directly behind the colon, or does not take this one.</translation>
+        <translation>The field "%2" at character %1 lacks its value directly behind the colon, or does not take this one.</translation>
     </message>
     <message id="ERROR_QUERY_FIELD_WITHIN">
         <source></source>
-        <translation>The field %2 at character %1 cannot stand within title: or story:.</translation>
+        <translation>The field "%2" at character %1 cannot stand within title: or story:.</translation>
     </message>
     <message id="ERROR_QUERY_MISSING">
         <source></source>
@@ -1762,6 +1762,10 @@
     <message id="IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED">
         <source></source>
         <translation>Not looked through by key sets: do it now</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_DAYS">
+        <source></source>
+        <translation>On other days: %1</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_OFFER_SERVICES">
         <source></source>

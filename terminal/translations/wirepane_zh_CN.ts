@@ -889,11 +889,11 @@
     </message>
     <message id="ERROR_QUERY_FIELD_VALUE">
         <source></source>
-        <translation>第 %1 个字符的字段 %2 在冒号后缺少内容，或不接受该内容。</translation>
+        <translation>第 %1 个字符的字段“%2”在冒号后缺少内容，或不接受该内容。</translation>
     </message>
     <message id="ERROR_QUERY_FIELD_WITHIN">
         <source></source>
-        <translation>第 %1 个字符的字段 %2 不能放在“title”或“story”字段之内。</translation>
+        <translation>第 %1 个字符的字段“%2”不能放在“title”或“story”字段之内。</translation>
     </message>
     <message id="ERROR_QUERY_MISSING">
         <source></source>
@@ -1762,6 +1762,10 @@
     <message id="IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED">
         <source></source>
         <translation>尚未以关键词组筛选：立即筛选</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_DAYS">
+        <source></source>
+        <translation>其他日期：%1 条</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_OFFER_SERVICES">
         <source></source>

@@ -889,11 +889,11 @@
     </message>
     <message id="ERROR_QUERY_FIELD_VALUE">
         <source></source>
-        <translation>第 %1 個字元的欄位 %2 在冒號後缺少內容，或不接受該內容。</translation>
+        <translation>第 %1 個字元的欄位「%2」在冒號後缺少內容，或不接受該內容。</translation>
     </message>
     <message id="ERROR_QUERY_FIELD_WITHIN">
         <source></source>
-        <translation>第 %1 個字元的欄位 %2 不能放在「title」或「story」欄位之內。</translation>
+        <translation>第 %1 個字元的欄位「%2」不能放在「title」或「story」欄位之內。</translation>
     </message>
     <message id="ERROR_QUERY_MISSING">
         <source></source>
@@ -1762,6 +1762,10 @@
     <message id="IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED">
         <source></source>
         <translation>尚未以關鍵字組篩選：立即篩選</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_OFFER_DAYS">
+        <source></source>
+        <translation>其他日期：%1 則</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_OFFER_SERVICES">
         <source></source>

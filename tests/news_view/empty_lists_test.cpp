@@ -145,6 +145,7 @@ TEST_F(EmptyListsTest, QuotesWithoutSymbolsOfferTheListOfASymbolFromOtherLists) 
 TEST_F(EmptyListsTest, ASearchThatFindsNothingOffersWhatWouldFindSomething) {
     backEnd.texts[u"IDS_NEWSCTRLVIEW_OFFER_SERVICES"_s] = u"elsewhere %1"_s;
     backEnd.texts[u"IDS_NEWSCTRLVIEW_OFFER_STORIES"_s] = u"stories %1"_s;
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_OFFER_DAYS"_s] = u"other days %1"_s;
     backEnd.texts[u"IDS_NEWSCTRLVIEW_OFFER_WITHOUT"_s] = u"without %1: %2"_s;
     openActive({{u"EmptyStates"_s, true},
                 {u"SearchQueries"_s, true},
@@ -182,6 +183,13 @@ TEST_F(EmptyListsTest, ASearchThatFindsNothingOffersWhatWouldFindSomething) {
             QTest::mouseClick(button, Qt::LeftButton);
     }
     EXPECT_EQ(qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit))->text(), u"lead"_s);
+    search(u"zinc from:2026-03-01 to:2026-03-02"_s);
+    ASSERT_EQ(backEnd.countings.back().searches.size(), 6U);
+    EXPECT_EQ(backEnd.countings.back().searches[2].condition.query(), u"zinc"_s);
+    search(u"zinc on:2026-03-01"_s);
+    ASSERT_EQ(backEnd.countings.back().searches.size(), 4U) << "without the day is offered once";
+    backEnd.countings.back().told({0, 0, 12, 0});
+    EXPECT_EQ(note()->text().others, QStringList{u"other days 12"_s});
     search(u"zinc tin"_s);
     view->SwitchFunction(0);
     note();

@@ -76,4 +76,32 @@ TEST(ConditionParts, KeywordsAndSymbolsGoOneByOne) {
     EXPECT_EQ(withoutSymbol(search, 2), search);
 }
 
+TEST(ConditionParts, DaysGoTogetherWhereAllOfTheConditionIsOfThem) {
+    const struct {
+        QString query;
+        QString onAllDays;  // empty: it is not narrowed by days alone
+    } rows[]{
+        {u"from:2026-03 gold to:today -tin"_s, u"gold -tin"_s},
+        {u"台積電 on:-3d"_s, u"台積電"_s},
+        {u"gold | on:today"_s, {}},
+        {u"gold -on:today"_s, {}},
+        {u"gold (tin | on:today)"_s, {}},
+        {u"from:2026 to:today"_s, {}},
+        {u"on:today"_s, {}},
+        {u"gold \"on:today\""_s, {}},
+        {u"gold from:never"_s, {}},
+    };
+    for (const auto& row : rows) {
+        CSearch search = queryOf(row.query);
+        search.symbols = {{22, u"0700"_s}};
+        const auto rest = withoutDays(search);
+        ASSERT_EQ(rest.has_value(), !row.onAllDays.isEmpty()) << row.query.toStdString();
+        if (!rest)
+            continue;
+        EXPECT_EQ(rest->query(), row.onAllDays);
+        EXPECT_EQ(rest->symbols, search.symbols);
+    }
+    EXPECT_FALSE(withoutDays(condition({u"gold"_s, u"on:today"_s}))) << "plain text names no days";
+}
+
 }  // namespace wirepane
