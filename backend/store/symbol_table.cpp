@@ -5,9 +5,11 @@
 #include "backend/database/database.h"
 #include "backend/database/statement.h"
 #include "backend/words/character_folding.h"
+#include "host/contract/query/query_symbol.h"
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace wirepane {
 
@@ -20,6 +22,31 @@ QString folded(const QString& text) {
     for (char32_t character : text.normalized(QString::NormalizationForm_KC).toUcs4())
         result += QChar::fromUcs4(folding.folded(character));
     return result;
+}
+
+// How a symbol fits what is typed, the best first.
+enum Fit { ExactCode, OtherForm, ExactName, CodeBegins, NameBegins, NameHolds, NoFit };
+
+// What is typed, folded, with the forms in which it may be written where it is a code.
+struct Typed {
+    explicit Typed(const QString& text) : wanted(folded(text)) {
+        const auto symbol = readQuerySymbol(wanted);
+        if (!symbol)
+            return;
+        market = symbol->market;
+        for (const QString& code : symbol->codes)
+            forms += folded(code);
+    }
+
+    QString wanted;
+    std::optional<unsigned char> market;  // that it names; none: any
+    QStringList forms;
+};
+
+Fit fitOfName(QStringView name, QStringView wanted) {
+    if (!name.startsWith(wanted))
+        return name.contains(wanted) ? NameHolds : NoFit;
+    return name.size() == wanted.size() ? ExactName : NameBegins;
 }
 
 }  // namespace
@@ -39,8 +66,8 @@ Done SymbolTable::load(Database& database) {
 }
 
 void SymbolTable::put(const SymbolItem& symbol) {
-    const QString names = symbol.name + QLatin1Char('\n') + symbol.englishName;
-    byMarket[symbol.market][symbol.code] = {symbol, folded(symbol.code), folded(names)};
+    byMarket[symbol.market][symbol.code] = {symbol, folded(symbol.code), folded(symbol.name),
+                                            folded(symbol.englishName)};
 }
 
 std::vector<unsigned char> SymbolTable::markets() const {
@@ -95,18 +122,24 @@ std::vector<CSymbolUpdateInfo> SymbolTable::withTwoNames() const {
 }
 
 std::vector<SymbolItem> SymbolTable::search(const QString& text, std::size_t limit) const {
-    const QString wanted = folded(text.trimmed());
-    std::array<std::vector<SymbolItem>, 3> found;  // exact code, code, name
-    if (wanted.isEmpty())
+    const Typed typed(text.trimmed());
+    std::array<std::vector<SymbolItem>, NoFit> found;
+    if (typed.wanted.isEmpty())
         return {};
+    const auto fitOf = [&typed](unsigned char market, const Entry& entry) {
+        if (entry.foldedCode == typed.wanted)
+            return ExactCode;
+        if ((!typed.market || typed.market == market) && typed.forms.contains(entry.foldedCode))
+            return OtherForm;
+        const Fit byName = std::min(fitOfName(entry.foldedName, typed.wanted),
+                                    fitOfName(entry.foldedEnglishName, typed.wanted));
+        return entry.foldedCode.startsWith(typed.wanted) ? std::min(CodeBegins, byName) : byName;
+    };
     for (const auto& [market, symbols] : byMarket) {
         for (const auto& [code, entry] : symbols) {
-            if (entry.foldedCode == wanted)
-                found[0].push_back(entry.symbol);
-            else if (entry.foldedCode.startsWith(wanted))
-                found[1].push_back(entry.symbol);
-            else if (entry.foldedNames.contains(wanted))
-                found[2].push_back(entry.symbol);
+            const Fit fit = fitOf(market, entry);
+            if (fit != NoFit)
+                found.at(fit).push_back(entry.symbol);
         }
     }
     std::vector<SymbolItem> result;

@@ -43,8 +43,10 @@ public:
     void convertNames(std::function<QString(const QString&)> conversion);
     // The symbols whose name depends on it, whatever the conversion.
     std::vector<CSymbolUpdateInfo> all() const;
-    // Up to `limit` symbols whose code begins with the text, or one of whose names contains it: an exact code
-    // first, then codes, then names; within each by market and code. An empty text finds nothing.
+    // Up to `limit` symbols whose code is the text, in any form in which codes are written, or begins with
+    // it, or one of whose names contains it. First those that are meant most likely: the exact code, its
+    // other forms, exact names, codes that begin so, names that do, other names; within each by market and
+    // code. An empty text finds nothing.
     std::vector<SymbolItem> search(const QString& text, std::size_t limit) const;
 
     // Every symbol of a service, whatever the kind: the store keeps no other than those that news may name.
@@ -57,7 +59,8 @@ private:
     struct Entry {
         SymbolItem symbol;
         QString foldedCode;
-        QString foldedNames;  // both, a line each
+        QString foldedName;
+        QString foldedEnglishName;
     };
     std::map<unsigned char, std::map<QString, Entry>> byMarket;
     bool prefersEnglish = false;

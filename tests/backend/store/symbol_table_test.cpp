@@ -69,6 +69,33 @@ TEST_F(SymbolTableTest, FindsByCodeAndName) {
         EXPECT_EQ(codesOf(backEnd->symbols().search(QString::fromUtf8(c.text), c.limit)), c.codes) << c.text;
 }
 
+TEST_F(SymbolTableTest, OffersTheCompanyFirstHoweverItIsWritten) {
+    put(16, "7001", "灣翹證券購01");
+    put(16, "1700", "大灣翹證券");
+    put(16, "0070", "Kiu Wan");
+    put(22, "BRK.B", "Berk");
+    const struct {
+        const char* text;
+        const char* codes;
+    } cases[] = {
+        {"700", "00700 7001"},  // not 1700
+        {"0700", "00700"},
+        {"00700.HK", "00700"},
+        {"700.hk", "00700"},
+        {"22:700", "00700"},
+        {"16:700", ""},
+        {"００７００", "00700"},
+        {"灣翹證券", "00700 7001 1700"},
+        {"湾翘证券", "00700 7001 1700"},
+        {"kiu wan", "0070 00700"},
+        {"KIU WAN SECURITIES", "00700"},
+        {"70", "0070 7001"},
+        {"brk.b", "BRK.B"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(codesOf(backEnd->symbols().search(QString::fromUtf8(c.text), 9)), c.codes) << c.text;
+}
+
 TEST_F(SymbolTableTest, AnswersWhatViewsAsk) {
     std::vector<unsigned char> services;
     EXPECT_TRUE(backEnd->bGetAllServiceID(services));
