@@ -50,8 +50,31 @@ void SavedSearchMenu::connectEdit() {
         edit->offerMore([this](QMenu& menu) { fill(menu); });
 }
 
+void SavedSearchMenu::showWaiting() {
+    const QString name = std::exchange(waiting, {});
+    if (name.isEmpty())
+        return;
+    const SavedSearches searches = kept();
+    const int place = savedSearchNamed(searches, name);
+    if (place >= 0)
+        calls.show(searches[std::size_t(place)].condition);
+}
+
+QString SavedSearchMenu::shownName() const {
+    if (!waiting.isEmpty())
+        return waiting;
+    const CSearch present = presentSearch();
+    for (const SavedSearch& search : kept()) {
+        CSearch sent = search.condition;
+        SearchDesk::completeMethod(sent);
+        if (sent == present)
+            return search.name;
+    }
+    return {};
+}
+
 SavedSearches SavedSearchMenu::kept() const {
-    const TRVCfgIO2* store = calls.settings();
+    const TRVCfgIO2* store = parts.settings.options[ViewOption::NamedSearches] ? calls.settings() : nullptr;
     return store != nullptr ? storedSavedSearches(*store) : SavedSearches();
 }
 

@@ -31,6 +31,12 @@ public:
 
     // The box drops them down from here on, where the view's settings want it.
     void connectEdit();
+    // The search that the search mode showed when the view was last open; it waits until that mode is shown.
+    void restore(const QString& name) { waiting = name; }
+    // The search mode is shown.
+    void showWaiting();
+    // Of the search that the search mode shows, or will show; empty: it has no name.
+    QString shownName() const;
 
 private:
     SavedSearches kept() const;
@@ -51,6 +57,7 @@ private:
     const CommonParts parts;
     const SearchDesk& desk;
     const Calls calls;
+    QString waiting;  // the name of a search; empty: none waits
     std::shared_ptr<const void> counting;
 };
 

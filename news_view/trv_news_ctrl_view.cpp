@@ -112,8 +112,11 @@ void TRVNewsCtrlView::OnChangeSize(quintptr sender) {
 // --- Modes and layout ---
 
 void TRVNewsCtrlView::SwitchFunction(int mode) {
-    if (const auto index = listOfNumber(mode))
+    if (const auto index = listOfNumber(mode)) {
         parts->modes.switchTo(*index);
+        if (*index == ListIndex::Search)
+            parts->savedSearches.showWaiting();
+    }
 }
 
 void TRVNewsCtrlView::ShowHideCtrObject(int mode) {

@@ -26,6 +26,7 @@ const QString columnWidthsKey = u"ColumnWidths"_s;
 const QString paneSharesKey = u"PaneShares"_s;
 const QString storySizeKey = u"StorySize"_s;
 const QString windowPlacesKey = u"StoryWindowPlaces"_s;
+const QString namedSearchKey = u"NamedSearch"_s;
 
 std::optional<QuoteTable::Sorting> sortingOf(int number) {
     if (number == 0 || number < -quoteColumns || number > quoteColumns)
@@ -67,6 +68,7 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
     QString paneShares;
     reader.GetViewInfo(path, paneSharesKey, paneShares);
     settings.paneShares = PaneShares::restored(paneShares);
+    reader.GetViewInfo(path, namedSearchKey, settings.namedSearch);
     settings.options = ViewOptions::read(reader, path);
     return settings;
 }
@@ -89,6 +91,8 @@ void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
         writer.setViewInfo(path, storySizeKey, storySize);
     if (options[ViewOption::StoryWindow])
         writer.setViewInfo(path, windowPlacesKey, storyWindowPlaces);
+    if (options[ViewOption::NamedSearches])
+        writer.setViewInfo(path, namedSearchKey, namedSearch);
 }
 
 StorySetting storySettingOf(const ViewSettings& settings) {

@@ -39,6 +39,9 @@ struct ViewSettings {
     QStringList storyWindowPlaces;   // "StoryWindowPlaces": of the story window, by screen (WindowPlaces)
     // "PaneShares": where the user has moved the edges between list, story and quotes (PaneShares::keptText)
     PaneShares paneShares;
+    // "NamedSearch": the name of the search that the search mode shows; only a view with named searches
+    // writes it
+    QString namedSearch;
     ViewOptions options;  // the host's choice: never written back
 
     // `defaultTab`: the focused tab when none is stored.

@@ -58,6 +58,7 @@ void TRVNewsCtrlView::InitialViewInfo(TRVCfgIO2* reader, const QString& section,
     parts->services.vInitialNewsService(*reader, settingsPath, *this,
                                         parts->settings.options[ViewOption::TickNewServices]);
     parts->searches.desk().restore(SearchMemory::read(*reader, settingsPath));
+    parts->savedSearches.restore(parts->settings.namedSearch);
     parts->categories.bInitialTransferCatObject();
     parts->categories.bInitialTransferWarrantCatObject();
     vViewCreate();
@@ -121,6 +122,7 @@ void TRVNewsCtrlView::SaveViewInfo(TRVCfgIO2* writer, const QString& section, in
     parts->settings.columnWidths.clear();
     for (const ListKind& kind : listKinds)
         parts->settings.columnWidths << parts->listOf(kind.index).keptWidths();
+    parts->settings.namedSearch = parts->savedSearches.shownName();
     parts->settings.write(*writer, path);
     parts->services.save(*writer, path);
     parts->searches.desk().memory.write(*writer, path);
