@@ -15,6 +15,7 @@
 #include "tests/terminal/sources/announcements.h"
 
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -199,6 +200,56 @@ TEST_F(FirstSourceTest, ANewSourceHasAServiceOfItsOwnThatViewsTick) {
         return std::any_of(keys.begin(), keys.end(),
                            [&](const HeadlineKey& key) { return key.service == service; });
     }));
+}
+
+// Notes when the list of a view is painted with so many rows.
+class PaintWatch : public QObject {
+public:
+    PaintWatch(QAbstractItemView* of, int count) : view(of), rows(count) {
+        view->viewport()->installEventFilter(this);
+    }
+    bool isPainted = false;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        isPainted = isPainted || (event->type() == QEvent::Paint && view->model()->rowCount() == rows);
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QAbstractItemView* view;
+    int rows;
+};
+
+TEST_F(FirstSourceTest, NewsIsPaintedAsSoonAsItIsAnswered) {
+    const auto publish = [this](int count) {
+        QByteArray items;
+        for (int i = 0; i < count; ++i)
+            items +=
+                "<item><guid>a:" + QByteArray::number(i) + "</guid><title>Told</title><pubDate>" +
+                QDateTime::fromSecsSinceEpoch(host_clock::now() - 60).toString(Qt::RFC2822Date).toUtf8() +
+                "</pubDate></item>";
+        server.put("/today", "<rss><channel><title>T</title>" + items + "</channel></rss>",
+                   "application/rss+xml");
+    };
+    publish(1);
+    addByKeyboard(server.address(u"/today"_s).toString(),
+                  [](const SourceDialog&) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
+    auto* sheet = session->workspace().newest()->access->sheetOf(0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return sheet->model()->rowCount() == 1; }));
+    publish(2);
+    const int asked = server.requests;
+    PaintWatch watch(sheet, 2);
+    // One that has changed is asked at once.
+    NetworkSource renamed = desk().sources()[0].source;
+    renamed.title = u"Renamed"_s;
+    desk().change(renamed, {}, [](const Done& done) { EXPECT_TRUE(done); });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.requests > asked; }));
+    QElapsedTimer sinceAnswer;
+    sinceAnswer.start();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return watch.isPainted; }));
+    RecordProperty("answer_to_painted_row_ms", static_cast<int>(sinceAnswer.elapsed()));
+    EXPECT_LT(sinceAnswer.elapsed(), 300);
 }
 
 TEST_F(FirstSourceTest, WhatAListNamesOfThePrivateNetworkIsNotDialledEvenWhenItIsSwitchedOn) {
