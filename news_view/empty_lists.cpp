@@ -106,13 +106,13 @@ void EmptyLists::followList() {
         return;
     }
     const CSuperSheetWnd* const grid = context.listOf(list).grid();
-    const EmptyList empty = known(list);
-    if (grid == nullptr || (grid->rowCount() > 0 && empty.isSupported) || isAwaited()) {
+    const bool holdsRows = grid != nullptr && grid->rowCount() > 0 && isSupported(list);
+    if (grid == nullptr || holdsRows || isAwaited()) {
         note->hide();
         calls.forgetOffers();
         return;
     }
-    EmptyText text = emptyTextOf(empty, parts.backEnd);
+    EmptyText text = emptyTextOf(known(list), parts.backEnd);
     const CSearch found = list == ListIndex::Search ? searches.foundUnder(list) : CSearch();
     if (found.keywords.empty())
         calls.forgetOffers();
@@ -136,11 +136,15 @@ bool EmptyLists::isAwaited() const {
                        [](const ServiceEntry& entry) { return entry.searchPending; });
 }
 
+bool EmptyLists::isSupported(ListIndex list) const {
+    return list != ListIndex::Symbol || calls.isSupported();
+}
+
 EmptyList EmptyLists::known(ListIndex list) const {
     EmptyList empty;
     empty.list = list;
     empty.hasServices = !parts.services.activeServices(list).empty();
-    empty.isSupported = list != ListIndex::Symbol || calls.isSupported();
+    empty.isSupported = isSupported(list);
     empty.hasAllNews = context.listOf(ListIndex::All).grid() != nullptr;
     if (list == ListIndex::Category || list == ListIndex::Symbol)
         empty.subject = calls.subject();

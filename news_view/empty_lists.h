@@ -64,6 +64,7 @@ private:
     void followQuotes();
     void readNewest();
     bool isAwaited() const;
+    bool isSupported(ListIndex list) const;
     EmptyList known(ListIndex list) const;
     // What the host offers who has no news on any day.
     QList<QAction*> offeredByHost() const;

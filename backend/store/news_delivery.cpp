@@ -2,16 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "backend/store/news_delivery.h"
 
-#include <QDeadlineTimer>
-
 #include <algorithm>
 
 namespace wirepane {
 
 namespace {
-// A key waits for one turn at most, and for a painting.
-constexpr int turnMs = 4;
-constexpr int batch = 250;  // as much as is handed on in it
+// Some 8 ms with three views: a key waits for one batch at most, and for a painting.
+constexpr int batch = 250;
 }  // namespace
 
 NewsDelivery::NewsDelivery(ArrivalLog& log, std::function<void(const Arrival&)> telling)
@@ -64,8 +61,7 @@ void NewsDelivery::run() {
     isBusy = true;
     if (waiting.empty() && !ranges.empty())
         readOn();
-    const QDeadlineTimer turn(turnMs, Qt::PreciseTimer);
-    for (int left = batch; left > 0 && isOpen && !waiting.empty(); left = turn.hasExpired() ? 0 : left - 1) {
+    for (int left = batch; left > 0 && isOpen && !waiting.empty(); --left) {
         const Arrival next = waiting.front();
         waiting.pop_front();
         tell(next);
