@@ -8,7 +8,6 @@
 #include "host/controls/xtp_tab_control.h"
 #include "host/views/news_control_ids.h"
 #include "terminal/frame/first_news.h"
-#include "terminal/frame/first_news.h"
 #include "terminal/frame/frame_errors.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/view_desk.h"
