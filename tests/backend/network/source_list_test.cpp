@@ -162,7 +162,8 @@ TEST_F(SourceListTest, GivesASourceThatIsToBeReadAServiceOfItsOwn) {
         ASSERT_TRUE(list.add(source));
     EXPECT_EQ(list.sources().value().back().service, 1) << "where none is left";
     std::set<unsigned char> services;
-    for (const NetworkSource& each : list.sources().value())
+    const std::vector<NetworkSource> all = list.sources().value();
+    for (const NetworkSource& each : all)
         services.insert(each.service);
     EXPECT_FALSE(services.contains(255) || services.contains(23) || services.contains(22));
 }
