@@ -15,6 +15,20 @@ constexpr auto atOffset = [](auto& content, std::size_t offset) {
 
 }  // namespace
 
+std::size_t HeadlineRows::Page::offsetOf(Ticket ticket) const {
+    if (tickets.empty())
+        return numberOf(ticket) - numberOf(first);
+    const auto found = std::find(tickets.rbegin(), tickets.rend(), ticket);
+    return static_cast<std::size_t>(tickets.rend() - found - 1);
+}
+
+void HeadlineRows::Page::giveTickets() {
+    if (!tickets.empty())
+        return;
+    for (std::size_t offset = 0; offset < entries.size(); ++offset)
+        tickets.push_back(Ticket(numberOf(first) + offset));
+}
+
 CHeadlineTable HeadlineRows::at(int row) const {
     const Spot spot = spotOf(row);
     return pageAt(spot.place).entries[spot.offset];
@@ -22,7 +36,7 @@ CHeadlineTable HeadlineRows::at(int row) const {
 
 HeadlineRows::Ticket HeadlineRows::ticketOf(int row) const {
     const Spot spot = spotOf(row);
-    return pageAt(spot.place).tickets[spot.offset];
+    return pageAt(spot.place).ticketAt(spot.offset);
 }
 
 int HeadlineRows::rowOf(Ticket ticket) const {
@@ -51,6 +65,7 @@ void HeadlineRows::insert(int row, const CHeadlineTable& entry) {
     const Ticket ticket = takeTicket();
     pageOfTicket[numberOf(ticket)] = order[place];
     Page& page = pageAt(place);
+    page.giveTickets();
     page.entries.insert(offset, entry);
     page.tickets.insert(atOffset(page.tickets, offset), ticket);
     earliest[place] = std::min(earliest[place], entry.time);
@@ -60,6 +75,7 @@ void HeadlineRows::insert(int row, const CHeadlineTable& entry) {
 void HeadlineRows::remove(int row) {
     const auto [place, offset] = spotOf(row);
     Page& page = pageAt(place);
+    page.giveTickets();
     freeTickets.push_back(page.tickets[offset]);
     const std::int64_t time = page.entries.timeAt(offset);
     page.entries.erase(offset);
@@ -106,9 +122,7 @@ HeadlineRows::Spot HeadlineRows::spotOf(int row) const {
 
 HeadlineRows::Spot HeadlineRows::spotOf(Ticket ticket) const {
     const std::uint32_t number = pageOfTicket[numberOf(ticket)];
-    const std::vector<Ticket>& tickets = pages[number].tickets;
-    const auto found = std::find(tickets.rbegin(), tickets.rend(), ticket);
-    return {places[number], static_cast<std::size_t>(tickets.rend() - found - 1)};
+    return {places[number], pages[number].offsetOf(ticket)};
 }
 
 HeadlineRows::Ticket HeadlineRows::takeTicket() {
@@ -169,6 +183,8 @@ void HeadlineRows::joinWithNeighbour(std::size_t place) {
 void HeadlineRows::moveEntries(std::size_t from, std::size_t firstOffset, std::size_t to) {
     Page& source = pageAt(from);
     Page& target = pageAt(to);
+    source.giveTickets();
+    target.giveTickets();
     for (std::size_t offset = firstOffset; offset < source.tickets.size(); ++offset)
         pageOfTicket[numberOf(source.tickets[offset])] = order[to];
     target.entries.moveFrom(firstOffset, source.entries);

@@ -54,11 +54,21 @@ private:
     static constexpr int fullPage = 256;
     static constexpr int freshPage = fullPage / 2;
 
+    static std::size_t numberOf(Ticket ticket) { return static_cast<std::size_t>(ticket); }
+
     // What stands further up comes later, so that the top grows at the end of its page. A position in the
     // list counts from the bottom in the same way.
     struct Page {
         PackedEntries entries;
-        std::vector<Ticket> tickets;  // of the entries
+        Ticket first{};               // of the entries, which have the next ones in turn, unless:
+        std::vector<Ticket> tickets;  // of each entry, in a page that has changed
+
+        Ticket ticketAt(std::size_t offset) const {
+            return tickets.empty() ? Ticket(numberOf(first) + offset) : tickets[offset];
+        }
+        std::size_t offsetOf(Ticket ticket) const;
+        // From here on each entry has its own.
+        void giveTickets();
     };
     struct Spot {
         std::size_t place;
@@ -74,7 +84,6 @@ private:
         return rowCount - 1 - below[place] - static_cast<int>(offset);
     }
     Ticket takeTicket();
-    static std::size_t numberOf(Ticket ticket) { return static_cast<std::size_t>(ticket); }
     void openPage(std::size_t place);
     void closePage(std::size_t place);
     void split(std::size_t place);
@@ -117,9 +126,7 @@ HeadlineRows::HeadlineRows(int count, Next next) : rowCount(count) {
         page.entries.resize(length);
         for (std::size_t offset = length; offset-- > 0;)
             page.entries.set(offset, next());
-        page.tickets.resize(length);
-        for (std::size_t offset = 0; offset < length; ++offset)
-            page.tickets[offset] = Ticket(static_cast<std::size_t>(below[place]) + offset);
+        page.first = Ticket(below[place]);
         std::fill_n(pageOfTicket.begin() + below[place], length, static_cast<std::uint32_t>(number));
         findEarliest(place);
     }
@@ -143,7 +150,7 @@ void HeadlineRows::forEach(Use use) const {
     for (std::size_t place = order.size(); place-- > 0;) {
         const Page& page = pageAt(place);
         for (std::size_t offset = page.entries.size(); offset-- > 0;)
-            use(page.tickets[offset], page.entries[offset]);
+            use(page.ticketAt(offset), page.entries[offset]);
     }
 }
 
