@@ -146,6 +146,8 @@ inline constexpr QLatin1StringView noticeFiltered{"IDS_NEWSCTRLVIEW_NOTICE_FILTE
 inline constexpr QLatin1StringView noticeUnfiltered{"IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED"};
 // "%1": when it was searched.
 inline constexpr QLatin1StringView noticeAsOf{"IDS_NEWSCTRLVIEW_NOTICE_AS_OF"};
+inline constexpr QLatin1StringView noticeSilent{"IDS_NEWSCTRLVIEW_NOTICE_SILENT"};
+inline constexpr QLatin1StringView noticeNothingNew{"IDS_NEWSCTRLVIEW_NOTICE_NOTHING_NEW"};
 inline constexpr QLatin1StringView noticeBeforeOutage{"IDS_NEWSCTRLVIEW_NOTICE_BEFORE_BREAK"};
 
 // What empty lists say. "%1": the key that opens the dialog.

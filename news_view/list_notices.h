@@ -16,6 +16,7 @@ namespace wirepane {
 enum class NoticeKind {
     Awaited,       // what printing and saving wait for; the button beside it stops that
     Offline,       // the back end is cut off from its source
+    Quiet,         // sources give no sign of life, or have nothing new for longer than is usual
     AsOf,          // the back end is read as of an earlier moment
     Narrowed,      // the search is narrowed to a symbol
     Filtered,      // the list was read under another list's filter

@@ -88,7 +88,8 @@ void NoticeLine::paintEvent(QPaintEvent*) {
     for (const PlacedNotice& notice : placed) {
         if (commandOf(notice.kind) != 0)
             continue;
-        painter.setPen(notice.kind == NoticeKind::Offline ? colourOfLate : plainColour);
+        painter.setPen(notice.kind == NoticeKind::Offline || notice.kind == NoticeKind::Quiet ? colourOfLate
+                                                                                              : plainColour);
         painter.drawText(QRect(notice.left, 0, notice.width, height()), Qt::AlignVCenter | Qt::TextSingleLine,
                          notice.text);
     }

@@ -10,6 +10,7 @@
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
 #include "host/contract/fixed_services.h"
+#include "host/contract/quiet_sources.h"
 #include "host/contract/symbol_name.h"
 #include "host/contract/sync_info.h"
 #include "host/controls/s_button.h"
@@ -19,6 +20,7 @@
 #include "host/views/com_virtual_base_view.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/notice_line.h"
+#include "news_view/quiet_notice.h"
 #include "news_view/told_notices.h"
 #include "search/search_edit2.h"
 #include "story/news_story_view.h"
@@ -80,6 +82,8 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       savedSearches(common, searches.desk(), savedSearchCalls()),
       hitMarks(backEnd) {
     lists.setOnRead([this] { placeNotices(); });
+    if (auto* sources = dynamic_cast<QuietSources*>(&backEnd))
+        QObject::connect(&sources->quietTeller(), &QuietTeller::changed, &view, [this] { placeNotices(); });
 }
 
 // A window that goes hands the keyboard back to the view, whose parts must all be there then.
@@ -196,6 +200,10 @@ std::vector<NoticeBoard::Teller> TRVNewsCtrlView::Parts::noticeTellers() {
     return {
         [this](ListNotices& notices) { notices.tell(NoticeKind::Awaited, output.awaitedText()); },
         [this](ListNotices& notices) { tellOfBackEnd(notices, backEnd, outages); },
+        [this](ListNotices& notices) {
+            if (settings.options[ViewOption::QuietSources])
+                tellOfSources(notices, backEnd);
+        },
         [this](ListNotices& notices) {
             tellOfList(notices, backEnd, modes.shown(), lists, searches.desk(), outages);
         },

@@ -84,9 +84,11 @@ public:
     FeedSource& operator=(const FeedSource&) = delete;
     virtual ~FeedSource() = default;
 
-    // The name that it is shown by and under which its position is kept, the same for good; empty: a source
+    // The name under which its position is kept, the same for good; empty: a source
     // without a memory.
     virtual QString name() const = 0;
+    // What its reader calls it.
+    virtual QString title() const { return name(); }
 
     // Whether it waits to be told where to go on, as after it was opened and after an outage.
     virtual bool awaitsPosition() const { return false; }

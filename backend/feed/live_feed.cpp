@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/live_feed.h"
 
+#include "backend/feed/source_health.h"
 #include "backend/feed/source_kinds.h"
 #include "backend/feed/store_watch.h"
 #include "backend/store/embedded_back_end.h"
@@ -29,6 +30,8 @@ LiveFeed::LiveFeed(EmbeddedBackEnd& store) : backEnd(store) {
     ticking.start(tickMs);
     pumping.setSingleShot(true);
     connect(&pumping, &QTimer::timeout, this, &LiveFeed::pump);
+    connect(this, &LiveFeed::sourcesChanged, this,
+            [this] { backEnd.setQuietSources(quietAmong(withOtherEnds(sources(), backEnd.storePath()))); });
     addSource(std::make_shared<StoreWatch>(backEnd));
 }
 
@@ -60,7 +63,7 @@ std::vector<SourceReport> LiveFeed::sources() const {
     std::vector<SourceReport> reports;
     for (const Entry& entry : entries) {
         if (!entry.source->name().isEmpty())
-            reports.push_back({entry.source->name(), entry.source->state()});
+            reports.push_back({entry.source->name(), entry.source->state(), entry.source->title()});
     }
     return reports;
 }

@@ -35,6 +35,7 @@ struct FeedState {
 struct SourceReport {
     QString name;
     SourceState state;
+    QString title = name;  // what its reader calls it
 };
 
 // The live news of a running terminal: owns the sources, lets each go on where it was, and has what they

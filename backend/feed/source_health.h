@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/feed/feed_source.h"
+#include "host/contract/quiet_sources.h"
 
 #include <vector>
 
@@ -23,6 +24,11 @@ enum class SourceHealth {
 SourceHealth healthOf(const SourceState& state);
 // Of all together: that of the one that stands best, since one that is there brings news.
 SourceHealth healthOf(const std::vector<SourceReport>& sources);
+// Without the store itself, and the socket that a terminal only listens at: who sends there is a source of
+// its own.
+std::vector<SourceReport> withOtherEnds(std::vector<SourceReport> sources, const QString& storePath);
+// Those from which nothing comes though something should, as QuietSources tells them.
+std::vector<QuietSource> quietAmong(const std::vector<SourceReport>& sources);
 // Whether the user has to do or know something.
 bool isFaulty(SourceHealth health);
 

@@ -43,6 +43,7 @@ public:
     void leave();
 
     QString name() const override { return source.name; }
+    QString title() const override { return source.title.isEmpty() ? source.name : source.title; }
     bool awaitsPosition() const override { return isWaiting; }
     void resume(const Result<QString>& position) override;
     void poll() override;

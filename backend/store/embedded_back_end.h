@@ -36,6 +36,7 @@
 #include "host/contract/query/newest_found.h"
 #include "host/contract/query/search_counts.h"
 #include "host/contract/query/search_hits.h"
+#include "host/contract/quiet_sources.h"
 #include "host/contract/reading_marks.h"
 #include "host/contract/reading_moment.h"
 
@@ -94,6 +95,7 @@ class EmbeddedBackEnd : public BKQuoteInterface,
                         public NewsDayFinder,
                         public NewsRecord,
                         public NewsOrigins,
+                        public QuietSources,
                         public ReadingMarks,
                         public HeadlineQueries,
                         public SearchHits,
@@ -187,6 +189,10 @@ public:
         marks.findUnread(std::move(keys), most, asker, std::move(tell));
     }
     MarkTeller& markTeller() override { return marks.teller(); }
+    std::vector<QuietSource> quietSources() const override { return quiet; }
+    QuietTeller& quietTeller() override { return quietTells; }
+    // Whoever runs the sources says which are quiet now; at first: none.
+    void setQuietSources(std::vector<QuietSource> sources);
     // When the newest headline was dated that is there at the present moment; 0: there is none.
     std::int64_t newestTime();
     // A category by its id. Warrants number their categories for themselves: name their service for one of
@@ -327,6 +333,8 @@ private:
     DayIndex days;
     HeadlineCache headlineCache;
     MarkingDesk marks;
+    std::vector<QuietSource> quiet;
+    QuietTeller quietTells;
     LaterNews laterNews;
     std::function<void(unsigned char, std::int64_t)> datedAhead;
     QuoteBook quotes;

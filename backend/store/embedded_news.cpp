@@ -19,6 +19,13 @@ DayBounds EmbeddedBackEnd::newsRange() {
     return {boundsOf(first).begin, std::numeric_limits<std::int64_t>::max()};
 }
 
+void EmbeddedBackEnd::setQuietSources(std::vector<QuietSource> sources) {
+    if (quiet == sources)
+        return;
+    quiet = std::move(sources);
+    emit quietTells.changed();
+}
+
 int EmbeddedBackEnd::tableOf(unsigned char service, std::vector<CHeadlineTable>& table,
                              const CSymbolInfo& symbol) {
     const std::size_t before = table.size();

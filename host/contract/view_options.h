@@ -56,6 +56,7 @@ enum class ViewOption {
     ReadingMarks,     // rows show what was read and starred, what is read is marked, in its row and for good
     ArrivalPill,      // what came above the rows on screen is counted at the list's top; a click goes there
     UnreadCounts,     // tabs and the view's caption say how much of their lists is unread
+    QuietSources,     // lists say which sources give no sign of life, and that none has anything new
     OtherYears,       // rows of another year than the present one show their day with its year
     MarkHits,         // what was searched for is marked in titles and stories, a tint for each word
     SearchOffers,     // a search that finds nothing offers what would find something, with counts
@@ -109,6 +110,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::ReadingMarks, QLatin1StringView("ReadingMarks")},
     {ViewOption::ArrivalPill, QLatin1StringView("ArrivalPill")},
     {ViewOption::UnreadCounts, QLatin1StringView("UnreadCounts")},
+    {ViewOption::QuietSources, QLatin1StringView("QuietSources")},
     {ViewOption::OtherYears, QLatin1StringView("OtherYears")},
     {ViewOption::MarkHits, QLatin1StringView("MarkHits")},
     {ViewOption::SearchOffers, QLatin1StringView("SearchOffers")},

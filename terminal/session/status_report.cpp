@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/status_report.h"
 
-#include "backend/feed/feed_name.h"
 #include "backend/feed/live_feed.h"
 #include "backend/feed/source_health.h"
 #include "backend/store/embedded_back_end.h"
@@ -15,7 +14,6 @@
 #include "terminal/translations/terminal_text.h"
 
 #include <QDateTime>
-#include <QDir>
 
 #include <algorithm>
 #include <cmath>
@@ -46,18 +44,8 @@ QString feedTip(const LiveFeed& feed) {
     if (const auto trouble = feed.state().trouble)
         lines += shownText(*trouble);
     for (const SourceReport& source : feed.sources())
-        lines += u"%1: %2"_s.arg(source.name, stateText(source.state));
+        lines += u"%1: %2"_s.arg(source.title, stateText(source.state));
     return lines.join(u'\n');
-}
-
-// Without the store itself, and the socket that this terminal only listens at: who sends there is a source of
-// its own.
-std::vector<SourceReport> sourcesOf(const LiveFeed& feed, const QString& storePath) {
-    std::vector<SourceReport> sources = feed.sources();
-    std::erase_if(sources, [store = QDir::toNativeSeparators(storePath)](const SourceReport& source) {
-        return source.name == store || source.name == defaultFeedName;
-    });
-    return sources;
 }
 
 // The light is green only while a source is live.
@@ -167,7 +155,7 @@ FrameStatus StatusReport::now(const SessionFacts& session) {
     status.isInvented = session.isSampleFollowed && status.isLive;
     status.feed = status.isInvented ? terminalText(TextId::FeedSample) : feedText(state);
     if (status.isLive && !status.isInvented)
-        tellSources(status, sourcesOf(feed, backEnd.storePath()));
+        tellSources(status, withOtherEnds(feed.sources(), backEnd.storePath()));
     status.feedTip = feedTip(feed);
     status.lastHeadline = lastHeadline;
     status.now = host_clock::now();

@@ -1759,6 +1759,14 @@
         <source></source>
         <translation>Only news of %1: search all</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_NOTHING_NEW">
+        <source></source>
+        <translation>Nothing new from any source since %1</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_SILENT">
+        <source></source>
+        <translation>No sign of life from %1 since %2</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED">
         <source></source>
         <translation>Not looked through by key sets: do it now</translation>

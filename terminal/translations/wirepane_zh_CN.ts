@@ -1759,6 +1759,14 @@
         <source></source>
         <translation>只找 %1 的新闻：改找全部</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_NOTHING_NEW">
+        <source></source>
+        <translation>所有来源自 %1 起没有新内容</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_SILENT">
+        <source></source>
+        <translation>%1 自 %2 起没有回应</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED">
         <source></source>
         <translation>尚未以关键词组筛选：立即筛选</translation>

@@ -1759,6 +1759,14 @@
         <source></source>
         <translation>只找 %1 的新聞：改找全部</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_NOTHING_NEW">
+        <source></source>
+        <translation>所有來源自 %1 起沒有新內容</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_NOTICE_SILENT">
+        <source></source>
+        <translation>%1 自 %2 起沒有回應</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NOTICE_UNFILTERED">
         <source></source>
         <translation>尚未以關鍵字組篩選：立即篩選</translation>

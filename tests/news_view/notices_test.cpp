@@ -269,6 +269,30 @@ TEST_F(Notices, AFilteredListIsReadAnewWhenItIsShownWhereTheSettingsSaySo) {
     EXPECT_EQ(notice(), QString());
 }
 
+TEST_F(Notices, QuietSourcesAreNamedOverEveryListWhereTheSettingsSaySo) {
+    backEnd.texts[keys::noticeSilent] = u"silent: %1 since %2"_s;
+    backEnd.texts[keys::noticeNothingNew] = u"nothing new since %1"_s;
+    const auto saying = [this](std::vector<QuietSource> sources) {
+        backEnd.quiet = std::move(sources);
+        emit backEnd.quietTells.changed();
+        return notice();
+    };
+    const std::int64_t nine = localTime(2026, 3, 2, 9, 0);
+    const QuietSource silent{u"Harbour Post"_s, false, nine};
+    const QuietSource stale{u"Daily"_s, true, nine + 60};
+    openMode({}, 0, {{u"QuietSources"_s, true}});
+    EXPECT_EQ(saying({silent}), u"silent: Harbour Post since 09:00"_s);
+    view->SwitchFunction(1);
+    EXPECT_EQ(notice(), u"silent: Harbour Post since 09:00"_s) << "over another list, too";
+    EXPECT_EQ(saying({stale, {u"Weekly"_s, true, nine}}), u"nothing new since 09:01"_s);
+    EXPECT_EQ(saying({stale, silent, {u"C"_s, false, nine - 86400}, {u"D"_s}, {u"E"_s}}),
+              u"silent: Harbour Post, C, D… since 01/01 08:00"_s);
+    EXPECT_EQ(saying({}), QString());
+    view.reset();
+    openMode({}, 0);
+    EXPECT_EQ(saying({silent}), QString()) << "a view whose settings say nothing";
+}
+
 TEST_F(Notices, KeySetsMatchInAnyCaseWhereTheSettingsSaySo) {
     openRelation({}, u"gold"_s);
     EXPECT_EQ(titles(4), QStringList());

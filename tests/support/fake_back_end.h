@@ -8,6 +8,7 @@
 #include "host/contract/query/newest_found.h"
 #include "host/contract/query/search_counts.h"
 #include "host/contract/query/search_hits.h"
+#include "host/contract/quiet_sources.h"
 #include "host/contract/search_control.h"
 #include "tests/support/qt_printers.h"
 
@@ -26,6 +27,7 @@ class FakeBackEnd : public BKQuoteInterface,
                     public SearchControl,
                     public NewsRecord,
                     public NewsOrigins,
+                    public QuietSources,
                     public SearchHits,
                     public SearchCounts,
                     public NewestFound {
@@ -112,6 +114,10 @@ public:
     void LangConvertToSimplifiedChinese(const QString& in, QString& out) override;
     QString PathGetSysPath() override { return sysPath; }
 
+    std::vector<QuietSource> quietSources() const override { return quiet; }
+    QuietTeller& quietTeller() override { return quietTells; }
+    std::vector<QuietSource> quiet;
+    QuietTeller quietTells;
     // Keeps what is to be counted; the test answers it.
     std::shared_ptr<const void> findNewest(const CSearch& condition, const std::vector<unsigned char>& among,
                                            std::size_t, NewestFound::Told told) override {

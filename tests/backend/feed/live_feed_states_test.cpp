@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
+#include "backend/feed/feed_name.h"
 #include "backend/feed/live_feed.h"
 #include "backend/feed/socket_source.h"
 #include "backend/feed/source_health.h"
@@ -262,6 +263,28 @@ TEST(SourceHealth, OfAllIsThatOfTheOneThatStandsBest) {
         EXPECT_EQ(healthOf(sources), one.health) << one.kinds.size();
         EXPECT_EQ(isFaulty(healthOf(sources)), one.isFaulty) << one.kinds.size();
     }
+}
+
+// Of one that has nothing new others may still bring news; of one without a sign of life nobody knows.
+TEST(SourceHealth, QuietAreThoseWithoutASignOfLifeAndAllThatHaveNothingNew) {
+    const auto told = [](const std::vector<SourceState::Kind>& kinds) {
+        std::vector<SourceReport> sources{{u"news.db"_s, {SourceState::Live}},
+                                          {defaultFeedName, {SourceState::Live}}};
+        for (const SourceState::Kind kind : kinds)
+            sources.push_back({QString::number(sources.size()), {kind, 100}});
+        QStringList names;
+        for (const QuietSource& source : quietAmong(withOtherEnds(sources, u"news.db"_s))) {
+            EXPECT_EQ(source.since, 100);
+            names += source.name + (source.answers ? u" answers"_s : u" silent"_s);
+        }
+        return names.join(u", "_s);
+    };
+    EXPECT_EQ(told({}), QString());
+    EXPECT_EQ(told({SourceState::Live, SourceState::Stale}), QString());
+    EXPECT_EQ(told({SourceState::Stale, SourceState::Stale}), u"2 answers, 3 answers"_s);
+    EXPECT_EQ(told({SourceState::Live, SourceState::Silent, SourceState::Stale}), u"3 silent"_s);
+    EXPECT_EQ(told({SourceState::Stale, SourceState::Silent}), u"2 answers, 3 silent"_s);
+    EXPECT_EQ(told({SourceState::Offline, SourceState::Connecting}), QString());
 }
 
 TEST_F(LiveFeedStatesTest, AClockThatIsSetBackStartsNoDayTwice) {
