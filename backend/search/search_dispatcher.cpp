@@ -45,13 +45,13 @@ void SearchDispatcher::ask(unsigned char service, int kind, const CSearch& condi
 
 std::shared_ptr<const void> SearchDispatcher::askBeside(std::vector<SideJob::Search> wanted, Found told) {
     return askOf(*worker, std::move(wanted),
-                 [told = std::move(told)](auto&& found, bool) { told(std::move(found)); });
+                 [told = std::move(told)](Tables&& found, bool) { told(std::move(found)); });
 }
 
 std::shared_ptr<const void> SearchDispatcher::askNewest(SideJob::Search wanted, FoundNewest told) {
     if (!newest)
         newest = std::make_unique<SearchWorker>(path, SearchWorker::Answer(), std::nullopt);
-    return askOf(*newest, {std::move(wanted)}, [told = std::move(told)](auto&& found, bool isAll) {
+    return askOf(*newest, {std::move(wanted)}, [told = std::move(told)](Tables&& found, bool isAll) {
         told(std::move(found.front()), isAll);
     });
 }

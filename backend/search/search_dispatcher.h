@@ -69,7 +69,8 @@ private:
         std::map<unsigned char, Pending> pending;
     };
 
-    using FoundPart = std::function<void(std::vector<std::vector<CHeadlineTable>>&& found, bool isAll)>;
+    using Tables = std::vector<std::vector<CHeadlineTable>>;
+    using FoundPart = std::function<void(Tables&& found, bool isAll)>;
     std::shared_ptr<const void> askOf(SearchWorker& asked, std::vector<SideJob::Search> wanted,
                                       FoundPart told);
     Search& searchOf(int kind, const CSearch& condition);
