@@ -8,6 +8,7 @@
 #include "tests/news_view/fake_view.h"
 #include "tests/support/answering.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QTest>
 

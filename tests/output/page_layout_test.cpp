@@ -4,6 +4,8 @@
 
 #include "tests/support/qt_printers.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;

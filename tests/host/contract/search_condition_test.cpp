@@ -4,6 +4,8 @@
 
 #include "tests/support/conditions.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;

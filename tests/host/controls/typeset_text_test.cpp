@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QTextBlock>
 
+#include <gtest/gtest.h>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {

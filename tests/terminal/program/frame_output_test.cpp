@@ -10,6 +10,7 @@
 #include <QDateTime>
 #include <QDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTest>
