@@ -88,7 +88,8 @@ void SearchLine::follow() {
                        .arg(shownNumber(found.size()));
         QStringList details{detailsOf(found)};
         if (course.isNewestOnly)
-            details.prepend(langText(parts.backEnd, keys::foundEnter));
+            details.prepend(
+                langText(parts.backEnd, course.isAwaited ? keys::foundAwaited : keys::foundEnter));
         details += langText(parts.backEnd, keys::foundUntil)
                        .arg(localTime(course.until).toString(u"yyyy/MM/dd hh:mm"_s));
         if (course.took)

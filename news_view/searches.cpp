@@ -47,7 +47,7 @@ Searches::Searches(ViewContext& viewContext, const CommonParts& commonParts,
       parts(commonParts),
       showsStory(std::move(showsStoryNow)),
       conditions(parts.backEnd),
-      typed(parts, conditions, [this](const TypedSearch::Found& found) { showTyped(found); }),
+      firstFound(parts, conditions, [this](const FirstFound::Found& found) { showTyped(found); }),
       shortTip(new CXTTipWindow(&parts.window)) {}
 
 // --- The search box ---
@@ -58,7 +58,7 @@ void Searches::connectEdit() {
     edit->setTakesQueries(parts.settings.options[ViewOption::SearchQueries]);
     if (parts.settings.options[ViewOption::SearchHistory])
         edit->offerTexts([this] { return textsToOffer(); });
-    typed.follow(*edit);
+    firstFound.follow(*edit);
     QObject::connect(edit, &SEdit::returnPressed, &parts.window, [this] { searchForText(); });
 }
 
@@ -164,7 +164,7 @@ void Searches::send() {
         tipAtEdit(langText(parts.backEnd, keys::invalidSearch));
         return;
     }
-    typed.stop();
+    firstFound.stop();
     SearchDesk::completeMethod(*condition);
     // What was found while it was typed stays until there is an answer.
     const bool showsTyped = conditions.courseOf(shown).isTyped;
@@ -177,12 +177,16 @@ void Searches::send() {
     conditions.sendSearch(shown, parts.services.liveServices(), awaited,
                           {host_clock::now(), parts.outages.ended()});
     if (showsTyped && awaited) {
+        conditions.noteNewestOnly(shown);
         context.placeNotices();
         return;
     }
     list.setTable(
         readTables(parts.backEnd, parts.services.currentServices(), TableKind::Search, searchTableKey));
     showFound(shown, false);
+    if (list.headlineTable().empty())
+        firstFound.find(*condition,
+                        [this, shown](const FirstFound::Found& found) { showFirst(shown, found); });
 }
 
 bool Searches::waitTipIsUp() const {
@@ -229,7 +233,7 @@ void Searches::show(const CSearch& condition) {
 
 // --- Results ---
 
-void Searches::showTyped(const TypedSearch::Found& found) {
+void Searches::showTyped(const FirstFound::Found& found) {
     HeadlineList& list = context.listOf(ListIndex::Search);
     if (context.shownList() != ListIndex::Search || list.grid() == nullptr)
         return;
@@ -238,6 +242,44 @@ void Searches::showTyped(const TypedSearch::Found& found) {
                          found.isAll);
     list.setTable({found.newest});
     showFound(ListIndex::Search, true);
+}
+
+void Searches::showFirst(ListIndex index, const FirstFound::Found& found) {
+    HeadlineList& list = context.listOf(index);
+    const SearchDesk::Course course = conditions.courseOf(index);
+    const bool isInForce = course.isAwaited && conditions.foundUnder(index) == found.condition;
+    // What a service has answered is more than this.
+    const bool hasMore = !course.isNewestOnly && !list.headlineTable().empty();
+    if (!isInForce || hasMore || list.grid() == nullptr || found.newest.empty())
+        return;
+    parts.tip.stop();
+    conditions.noteNewestOnly(index);
+    if (course.isNewestOnly) {
+        refillInPlace(index, {found.newest});
+    } else {
+        list.setTable({found.newest});
+        showFound(index, true);
+    }
+}
+
+Searches::Runs Searches::allFound(TableKind kind) const {
+    return readEveryTable(parts.backEnd, parts.services.currentServices(), kind, searchTableKey);
+}
+
+void Searches::showAll(ListIndex index, TableKind kind) {
+    context.listOf(index).setTable(allFound(kind));
+    showFound(index, true);
+}
+
+void Searches::refillInPlace(ListIndex index, const Runs& found) {
+    HeadlineList& list = context.listOf(index);
+    context.readInPlace(index, [&] {
+        list.setTable(found);
+        list.refill();
+        return true;
+    });
+    if (list.headlineTable().empty() && context.shownList() == index)
+        context.showStory();
 }
 
 void Searches::showFound(ListIndex index, bool selectFirst) {
@@ -264,27 +306,24 @@ void Searches::takeAnswer(const CSearch& condition, unsigned char service) {
     HeadlineList& list = context.listOf(target);
     if (list.grid() == nullptr)
         return;
-    const TableRuns found =
-        readEveryTable(parts.backEnd, parts.services.currentServices(), *kind, searchTableKey);
-    if (*kind == TableKind::Search && !conditions.takeAnswerDue(condition, service, host_clock::now())) {
-        context.readInPlace(target, [&] {
-            list.setTable(found);
-            list.refill();
-            return true;
-        });
-        if (list.headlineTable().empty() && context.shownList() == target)
-            context.showStory();
-        return;
-    }
-    list.setTable(found);
-    const bool othersPending =
-        *kind == TableKind::Search && markAnswered(parts.services.liveServices(), service);
-    if (!othersPending)
+    const bool isSearch = *kind == TableKind::Search;
+    const bool newestStand =
+        isSearch && conditions.courseOf(target).isNewestOnly && conditions.foundUnder(target) == condition;
+    const bool isDue = !isSearch || conditions.takeAnswerDue(condition, service, host_clock::now());
+    const bool othersPending = isSearch && isDue && markAnswered(parts.services.liveServices(), service);
+    if (isDue && !othersPending)
         parts.tip.stop();
-    showFound(target, true);
+    if (newestStand && conditions.courseOf(target).isAwaited)
+        return;
+    if (isDue && !newestStand)
+        showAll(target, *kind);
+    else
+        refillInPlace(target, allFound(*kind));
+    if (newestStand)
+        context.placeNotices();
     // Where empty lists say why, this one does.
     const bool isSaid = parts.settings.options[ViewOption::EmptyStates];
-    if (list.headlineTable().empty() && !othersPending && !isSaid)
+    if (isDue && list.headlineTable().empty() && !othersPending && !isSaid)
         parts.tip.showOver(list.grid(), langText(parts.backEnd, keys::newsNotFound));
 }
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "news_view/common_parts.h"
-#include "news_view/typed_search.h"
+#include "news_view/first_found.h"
 #include "search/search_desk.h"
 #include "search/search_edit2.h"
 
@@ -59,7 +59,8 @@ public:
     // text can.
     void show(const CSearch& condition);
 
-    // A service has answered: the results of all services are shown anew.
+    // A service has answered: the results of all services are shown anew; where the newest stand already, when
+    // all have answered.
     void takeAnswer(const CSearch& condition, unsigned char service);
 
     // A headline was pushed. The newest of each service is searched for at the next refresh, while the
@@ -90,7 +91,12 @@ private:
     void tipAtEdit(const QString& text);
     bool waitTipIsUp() const;
     void stopWaiting();
-    void showTyped(const TypedSearch::Found& found);
+    void showTyped(const FirstFound::Found& found);
+    void showFirst(ListIndex list, const FirstFound::Found& found);
+    using Runs = std::vector<std::vector<CHeadlineTable>>;
+    Runs allFound(TableKind kind) const;
+    void showAll(ListIndex list, TableKind kind);
+    void refillInPlace(ListIndex list, const Runs& found);
     void showFound(ListIndex list, bool selectFirst);
 
     ViewContext& context;
@@ -99,7 +105,7 @@ private:
     SearchDesk conditions;
     std::map<unsigned char, CHeadline> pushed;  // the newest of each service since the last refresh
     QString waitTipText;                        // of the search that was announced last, as it was shown
-    TypedSearch typed;
+    FirstFound firstFound;
     CXTTipWindow* shortTip;  // belongs to the view's window
 };
 

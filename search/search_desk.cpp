@@ -41,6 +41,10 @@ const SearchDesk::Sent* SearchDesk::sentFrom(ListIndex list) const {
     }
 }
 
+bool SearchDesk::isAwaited(const CSearch& condition) const {
+    return std::any_of(due.begin(), due.end(), [&](const auto& search) { return search.first == condition; });
+}
+
 CSearch SearchDesk::foundUnder(ListIndex list) const {
     const Sent* sent = sentFrom(list);
     CSearch found = sent != nullptr ? sent->condition : CSearch();
@@ -79,10 +83,8 @@ SearchDesk::Course SearchDesk::courseOf(ListIndex list) const {
     const Sent* sent = sentFrom(list);
     if (sent == nullptr || !sent->at)
         return {};
-    const bool isAwaited = std::any_of(due.begin(), due.end(),
-                                       [&](const auto& search) { return search.first == sent->condition; });
-    return {true,       isAwaited,     std::max(sent->at->time, sent->answeredAt),
-            sent->took, sent->isTyped, sent->isNewestOnly};
+    return {true,          isAwaited(sent->condition), std::max(sent->at->time, sent->answeredAt), sent->took,
+            sent->isTyped, sent->isNewestOnly};
 }
 
 void SearchDesk::endSearch(ListIndex list) {
@@ -124,6 +126,13 @@ void SearchDesk::takeTyped(const CSearch& condition, const Moment& now, std::chr
     std::erase_if(due, [&](const auto& search) { return search.first == sentOrdinary.condition; });
     ordinary = condition;
     sentOrdinary = {condition, now, {}, now.time, took, true, !isAll};
+}
+
+void SearchDesk::noteNewestOnly(ListIndex list) {
+    if (list == ListIndex::Search)
+        sentOrdinary.isNewestOnly = true;
+    else if (list == ListIndex::WarningTerm)
+        sentWarningTerm.isNewestOnly = true;
 }
 
 bool SearchDesk::takeSearchText(const QString& text) {
@@ -176,6 +185,7 @@ bool SearchDesk::takeAnswerDue(const CSearch& condition, unsigned char service, 
         if (!sent->at || !(sent->condition == condition))
             continue;
         sent->answeredAt = now;
+        sent->isNewestOnly = sent->isNewestOnly && isAwaited(condition);
         if (isDue)
             sent->took = std::chrono::duration_cast<std::chrono::milliseconds>(
                 std::chrono::steady_clock::now() - sent->begun);

@@ -77,6 +77,8 @@ public:
     CSearch quickSearch(const QString& word, std::int64_t now, SearchLanguage language) const;
     // The newest that such a search finds are shown, before anybody has sent it: it is the one in force.
     void takeTyped(const CSearch& condition, const Moment& now, std::chrono::milliseconds took, bool isAll);
+    // Of what has been sent the newest stand in the list, until all is answered.
+    void noteNewestOnly(ListIndex list);
     // Makes a quick search the ordinary condition, and keeps its word in the history.
     void takeQuickSearch(const QString& word, std::int64_t now,
                          SearchLanguage language = SearchLanguage::Plain);
@@ -108,6 +110,7 @@ private:
         bool isNewestOnly = false;
     };
     const Sent* sentFrom(ListIndex list) const;
+    bool isAwaited(const CSearch& condition) const;
 
     BKQuoteInterface& backEnd;
     Sent sentOrdinary;

@@ -63,12 +63,73 @@ TEST_F(SearchesOfTheView, TheNewestAreShownWhileTheUserTypesAndStayUntilAllAreFo
     query.language = SearchLanguage::Query;
     query.method = numberOf(SearchMethod::All);
     view->RespSearchHeadLineTable(query, 1);
+    EXPECT_EQ(rows(), 200) << "the newest stand until all services have answered";
+    EXPECT_EQ(sum(), u"newest 200"_s);
+    view->RespSearchHeadLineTable(query, 2);
     EXPECT_EQ(rows(), 2);
     EXPECT_EQ(sum(), u"found 2"_s);
     backEnd.findings.clear();
     openSearch({{u"SearchQueries"_s, true}});
     QTest::keyClicks(dlgItem(view.get(), ids::searchEdit), u"gold"_s);
     EXPECT_EQ(backEnd.findings.size(), 0U) << "a view without the option";
+}
+
+TEST_F(SearchesOfTheView, TheNewestOfASearchStandUntilEveryServiceHasAnswered) {
+    const CHeadlineTable newest = entryOf(2, 9, 10, 1);
+    const CHeadlineTable older = entryOf(1, 9, 0, 1);
+    openSearch({{u"SearchAsYouType"_s, true}});
+    const auto rows = [&] { return view->sheetOf(3)->model()->rowCount(); };
+    const auto search = [&](const QString& word) {
+        backEnd.searchTables.clear();
+        auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
+        edit->setText(word);
+        QTest::keyClick(edit, Qt::Key_Return);
+        CSearch sent = condition({word});
+        sent.method = numberOf(SearchMethod::All);
+        return sent;
+    };
+    struct Case {
+        QString word;
+        QString events;  // a, b: service 1, 2 answers; s: the newest so far, A: the newest
+        QList<int> rows;
+    };
+    const Case cases[] = {
+        {u"gold"_s, u"sAab"_s, {1, 2, 2, 3}},
+        {u"lead"_s, u"asb"_s, {1, 1, 3}},
+        {u"none"_s, u"abA"_s, {1, 3, 3}},
+    };
+    for (const Case& each : cases) {
+        const CSearch sent = search(each.word);
+        EXPECT_EQ(rows(), 0) << each.word.toStdString();
+        const auto found = backEnd.findings.back();
+        EXPECT_EQ(found.services, (std::vector<unsigned char>{1, 2}));
+        for (int i = 0; i < each.events.size(); ++i) {
+            switch (each.events[i].unicode()) {
+                case u'a':
+                    backEnd.searchTables[1] = {older};
+                    view->RespSearchHeadLineTable(sent, 1);
+                    break;
+                case u'b':
+                    backEnd.searchTables[2] = {entryOf(2, 9, 20, 9), newest};
+                    view->RespSearchHeadLineTable(sent, 2);
+                    break;
+                case u's':
+                    found.told({newest}, false);
+                    break;
+                default:
+                    found.told({newest, older}, true);
+            }
+            EXPECT_EQ(rows(), each.rows[i]) << each.word.toStdString() << i;
+            if (i == 0)
+                view->sheetOf(3)->setActiveSelection(0, -1);
+        }
+        EXPECT_EQ(view->sheetOf(3)->currentIndex().row(), each.events.startsWith(u's') ? 1 : 0)
+            << "the row that the user is on stays under him: " << each.word.toStdString();
+    }
+    // Another search is sent, or typed: nobody waits for the newest of that before.
+    search(u"zinc"_s);
+    search(u"tin"_s);
+    EXPECT_TRUE(backEnd.findings[backEnd.findings.size() - 2].isDropped());
 }
 
 TEST_F(SearchesOfTheView, TheBoxDropsDownWhatWasSearchedForNewestFirst) {

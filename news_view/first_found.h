@@ -18,9 +18,10 @@ struct CHeadlineTable;
 namespace wirepane {
 class SearchDesk;
 
-// Finds the newest news of what is being typed into the search box, at each key, where the view's options and
-// the back end have it. Interface thread only.
-class TypedSearch : public QObject {
+// Finds the newest news of a search before all of it is found, where the view's options and the back end have
+// that: of what is being typed into the search box, at each key, and of what has been sent. Interface thread
+// only.
+class FirstFound : public QObject {
     Q_OBJECT
 
 public:
@@ -30,21 +31,24 @@ public:
         bool isAll = false;
         std::chrono::milliseconds took{};
     };
-    // Never hears of anything but what was typed last.
+    // Never hears of anything but what was asked for last.
     using Show = std::function<void(const Found& found)>;
-    TypedSearch(const CommonParts& parts, const SearchDesk& searches, Show show);
+    FirstFound(const CommonParts& parts, const SearchDesk& searches, Show showTyped);
 
     // From here on.
     void follow(SearchEdit2& box);
-    // What is typed is nobody's concern any more.
+    // Of a search that is being looked for in the ticked services.
+    void find(const CSearch& condition, Show show);
+    // Nobody waits for it any more.
     void stop() { asked.reset(); }
 
 private:
-    void find(const QString& text);
+    void findTyped(const QString& text);
+    bool isWanted() const;
 
     const CommonParts parts;
     const SearchDesk& searches;
-    const Show show;
+    const Show showTyped;
     std::shared_ptr<const void> asked;
 };
 
