@@ -113,6 +113,16 @@ std::optional<std::vector<CHeadlineTable>> HeadlineKeys::entries(unsigned char s
     return found;
 }
 
+std::optional<KeyBlocks> HeadlineKeys::packed(unsigned char service, const IdSet& ids) {
+    const bool areInMemory = !areFew(ids) && catchUp() && (oldestId == 0 || !ids.mayHoldAny(0, oldestId));
+    if (!areInMemory) {
+        const auto found = entries(service, ids);
+        return found ? std::optional(KeyBlocks(*found)) : std::nullopt;
+    }
+    const auto known = byService.find(service);
+    return known != byService.end() ? known->second.only(ids) : KeyBlocks();
+}
+
 void HeadlineKeys::appendOlder(std::vector<CHeadlineTable>& found, unsigned char service, const IdSet& ids) {
     const auto kept = std::ptrdiff_t(found.size());
     Query query(ofService, service);

@@ -25,6 +25,8 @@ public:
     // The entries of a service whose ids are in the set, newest first. Few are looked up one by one, many are
     // taken from memory. Nothing on failure.
     std::optional<std::vector<CHeadlineTable>> entries(unsigned char service, const IdSet& ids);
+    // The same, packed.
+    std::optional<KeyBlocks> packed(unsigned char service, const IdSet& ids);
     // Whether the entries of such a set are looked up without the keys of all.
     bool areFew(const IdSet& ids) const;
     // How many are in memory.

@@ -3,6 +3,7 @@
 #include "backend/search/key_blocks.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <iterator>
 #include <utility>
@@ -110,6 +111,30 @@ std::vector<CHeadlineTable> KeyBlocks::entriesOf(const IdSet& ids, unsigned char
         }
     }
     return entries;
+}
+
+KeyBlocks KeyBlocks::only(const IdSet& ids) const {
+    KeyBlocks found;
+    std::array<std::uint16_t, blockSize + 1> places{};
+    std::vector<StoredKey> keys;
+    const auto packFirst = [&](std::size_t size) {
+        found.blocks.emplace_back(keys.data(), size);
+        found.count += size;
+        keys.erase(keys.begin(), keys.begin() + std::ptrdiff_t(size));
+    };
+    for (const Block& block : blocks) {
+        if (!ids.mayHoldAny(block.leastId, block.lastId))
+            continue;
+        const std::uint16_t* const end = block.placesOf(ids, places.data());
+        for (const std::uint16_t* place = places.data(); place != end; ++place)
+            keys.push_back({block.time(*place), block.sequence(*place), 0});
+        if (keys.size() >= blockSize)
+            packFirst(blockSize);
+    }
+    if (!keys.empty())
+        packFirst(keys.size());
+    found.blocks.shrink_to_fit();
+    return found;
 }
 
 void KeyBlocks::appendTo(std::vector<CHeadlineTable>& entries, unsigned char service) const {

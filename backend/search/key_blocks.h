@@ -32,6 +32,8 @@ public:
     void add(std::vector<StoredKey> keys);
     // The entries whose ids are in the set, newest first.
     std::vector<CHeadlineTable> entriesOf(const IdSet& ids, unsigned char service) const;
+    // The same, packed, without their ids.
+    KeyBlocks only(const IdSet& ids) const;
     // Appends all entries, newest first.
     void appendTo(std::vector<CHeadlineTable>& entries, unsigned char service) const;
     bool hold(const HeadlineKey& key) const;

@@ -43,7 +43,9 @@ NewsSearch::NewsSearch(Database& database)
     : store(database),
       keys(database),
       version(database),
-      matching(database, "SELECT rowid FROM news_search WHERE news_search MATCH ? AND rowid >= ?"),
+      matching(database, "SELECT rowid FROM news_search WHERE news_search MATCH ?"),
+      matchingAmong(database,
+                    "SELECT rowid FROM news_search WHERE news_search MATCH ? AND rowid BETWEEN ? AND ?"),
       naming(database,
              "SELECT headline FROM related_symbols WHERE service = ? AND market IN (?, 0) AND code = ?"),
       dated(database,
@@ -53,12 +55,34 @@ NewsSearch::NewsSearch(Database& database)
       planner(database),
       queries(database, [this](IdSet& ids, const QString& match) { return addMatches(ids, match); }) {}
 
+template <class Read>
+auto NewsSearch::atOneMoment(Read read) {
+    const ReadTransaction moment(store);
+    const int damagesBefore = store.damages();
+    auto found = read();
+    if (store.damages() != damagesBefore)
+        found.reset();
+    return found;
+}
+
 std::optional<std::vector<CHeadlineTable>> NewsSearch::find(unsigned char service, const CSearch& condition,
                                                             const std::atomic<bool>* stop) {
     stopping = stop;
     return atOneMoment([&] {
-        const std::optional<QueryMatch> match = findNow(service, condition, Since().id);
+        const std::optional<QueryMatch> match = findNow(service, condition, {});
         return match ? entries(service, *match) : std::nullopt;
+    });
+}
+
+std::optional<KeyBlocks> NewsSearch::findPacked(unsigned char service, const CSearch& condition,
+                                                const std::atomic<bool>* stop) {
+    stopping = stop;
+    return atOneMoment([&]() -> std::optional<KeyBlocks> {
+        const std::optional<QueryMatch> match = findNow(service, condition, {});
+        if (match && !match->isAllBut && match->days.areAll())
+            return keys.packed(service, match->ids);
+        const auto found = match ? entries(service, *match) : std::nullopt;
+        return found ? std::optional(KeyBlocks(*found)) : std::nullopt;
     });
 }
 
@@ -101,10 +125,12 @@ NewsSearch::Since NewsSearch::recently(const std::vector<unsigned char>& service
             rows.push_back({newest.number(0), newest.number(1)});
         }
     }
-    since.id = std::numeric_limits<std::int64_t>::max();
+    since.ids = {since.ids.last, since.ids.first};
     for (const Row& row : rows) {
-        if (row.time >= since.time)
-            since.id = std::min(since.id, row.id);
+        if (row.time < since.time)
+            continue;
+        since.ids.first = std::min(since.ids.first, row.id);
+        since.ids.last = std::max(since.ids.last, row.id);
     }
     return since;
 }
@@ -116,12 +142,12 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::findSince(const Since& si
     std::vector<CHeadlineTable> all;
     std::int64_t earliest = since.time;
     for (const unsigned char service : services) {
-        std::optional<QueryMatch> match = findNow(service, condition, since.id);
+        std::optional<QueryMatch> match = findNow(service, condition, since.ids);
         if (!match)
             return std::nullopt;
         match->days.first = std::max(match->days.first, earliest);
         match->days.last = std::min(match->days.last, newest.latest);
-        const bool areMany = match->isAllBut || since.id != Since().id || !keys.areFew(match->ids);
+        const bool areMany = match->isAllBut || !since.ids.areAll() || !keys.areFew(match->ids);
         const auto found = areMany ? newestEntries(service, *match, newest.most) : entries(service, *match);
         if (!found)
             return std::nullopt;
@@ -135,27 +161,17 @@ std::optional<std::vector<CHeadlineTable>> NewsSearch::findSince(const Since& si
     return all;
 }
 
-template <class Read>
-std::optional<std::vector<CHeadlineTable>> NewsSearch::atOneMoment(Read read) {
-    const ReadTransaction moment(store);
-    const int damagesBefore = store.damages();
-    std::optional<std::vector<CHeadlineTable>> found = read();
-    if (store.damages() != damagesBefore)
-        found.reset();
-    return found;
-}
-
 void NewsSearch::prepare() {
     keys.catchUp();
 }
 
 std::optional<QueryMatch> NewsSearch::findNow(unsigned char service, const CSearch& condition,
-                                              std::int64_t lowest) {
+                                              const Ids& among) {
     const std::optional<std::int64_t> present = version.read();
-    if (!last || !(last->condition == condition) || last->version != present || lowestId != lowest) {
+    if (!last || !(last->condition == condition) || last->version != present || !(askedAmong == among)) {
         last.reset();
         queries.forget();
-        lowestId = lowest;
+        askedAmong = among;
         Last next{condition, present, readQuery(condition.query()), {}};
         if (!condition.isQuery()) {
             std::optional<IdSet> ids = plainMatches(condition);
@@ -246,7 +262,11 @@ std::optional<IdSet> NewsSearch::plainMatches(const CSearch& condition) {
 }
 
 bool NewsSearch::addMatches(IdSet& ids, const QString& text) {
-    Query query(matching, text, lowestId);
+    return askedAmong.areAll() ? addRows(ids, Query(matching, text))
+                               : addRows(ids, Query(matchingAmong, text, askedAmong.first, askedAmong.last));
+}
+
+bool NewsSearch::addRows(IdSet& ids, Query query) {
     for (int count = 0; query.next(); ++count) {
         if (count % stopAskedEvery == 0 && isStopped())
             return false;

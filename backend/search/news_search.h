@@ -41,6 +41,9 @@ public:
     // meanwhile. Asked for one service after another, the same condition is looked up once.
     std::optional<std::vector<CHeadlineTable>> find(unsigned char service, const CSearch& condition,
                                                     const std::atomic<bool>* stop = nullptr);
+    // The same, packed.
+    std::optional<KeyBlocks> findPacked(unsigned char service, const CSearch& condition,
+                                        const std::atomic<bool>* stop = nullptr);
     // For who searches once: the newest entries of several services, newest first. Many are read from the
     // store's index of times, as far as it takes, and the keys of all headlines are not. A few are looked for
     // in the newest news first: what is common is so there, too, and the index need not tell all that it has.
@@ -55,10 +58,18 @@ public:
     void prepare();
 
 private:
-    // The part of the news that is searched: what is not older than a moment; nothing of it has a lower id.
+    // Ids between which all that is searched lies, both among them.
+    struct Ids {
+        std::int64_t first = std::numeric_limits<std::int64_t>::min();
+        std::int64_t last = std::numeric_limits<std::int64_t>::max();
+
+        bool areAll() const { return *this == Ids(); }
+        bool operator==(const Ids&) const = default;
+    };
+    // The part of the news that is searched: what is not older than a moment.
     struct Since {
         std::int64_t time = std::numeric_limits<std::int64_t>::min();
-        std::int64_t id = std::numeric_limits<std::int64_t>::min();
+        Ids ids;
     };
     Since recently(const std::vector<unsigned char>& services, std::int64_t latest);
     std::optional<std::vector<CHeadlineTable>> findSince(const Since& since,
@@ -71,24 +82,26 @@ private:
     std::optional<std::vector<CHeadlineTable>> newestEntries(unsigned char service, const QueryMatch& match,
                                                              std::size_t most);
     template <class Read>
-    std::optional<std::vector<CHeadlineTable>> atOneMoment(Read read);
+    auto atOneMoment(Read read);
     bool addMatches(IdSet& ids, const QString& query);
+    bool addRows(IdSet& ids, Query query);
     bool addNamed(IdSet& ids, unsigned char service, const CSymbolInfo& symbol);
     bool leaveOutWithdrawn(QueryMatch& match);
     bool isStopped() const { return stopping != nullptr && *stopping; }
-    std::optional<QueryMatch> findNow(unsigned char service, const CSearch& condition, std::int64_t lowest);
+    std::optional<QueryMatch> findNow(unsigned char service, const CSearch& condition, const Ids& among);
 
     Database& store;
     HeadlineKeys keys;
     DataVersion version;
     Statement matching;
+    Statement matchingAmong;
     Statement naming;
     Statement dated;
     Statement withdrawn;
     QueryPlanner planner;
     QueryMatches queries;
     const std::atomic<bool>* stopping = nullptr;
-    std::int64_t lowestId = Since().id;  // of those that the index is asked for
+    Ids askedAmong;  // the index is
 
     struct Last {
         CSearch condition;

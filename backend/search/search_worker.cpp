@@ -97,10 +97,10 @@ std::vector<CHeadlineTable> SearchWorker::newestFound(const SideJob::Search& sea
 void SearchWorker::search(const SearchJob& job) {
     if (!*job.dropped) {
         NewsSearch* const search = opened();
-        const auto found =
-            search != nullptr ? search->find(job.service, job.condition, job.dropped.get()) : std::nullopt;
+        auto found = search != nullptr ? search->findPacked(job.service, job.condition, job.dropped.get())
+                                       : std::nullopt;
         if (!*job.dropped)
-            tell(job.ticket, found ? KeyBlocks(*found) : KeyBlocks());
+            tell(job.ticket, found ? *std::move(found) : KeyBlocks());
     }
     ++searched;
     prepareWhenIdle();

@@ -11,10 +11,13 @@
 #include "host/contract/search_choices.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTimer>
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
+#include <map>
 #include <memory>
 #include <numeric>
 #include <vector>
@@ -91,9 +94,8 @@ struct Answers {
         count = 0;
         std::optional<double> first;
         const auto from = BenchClock::now();
-        const auto asked = desk.askNewest({condition, services, mostOfFirst}, [&](auto&&, bool) {
-            first = first.value_or(secondsSince(from));
-        });
+        const auto asked = desk.askNewest({condition, services, mostOfFirst},
+                                          [&](auto&&, bool) { first = first.value_or(secondsSince(from)); });
         const double all = secondsOf([&] {
             for (const unsigned char service : services)
                 desk.ask(service, kind, condition);
@@ -120,24 +122,73 @@ struct Question {
     QString match;
 };
 
-Question keyword(QStringView word) {
-    return {conditionOf(word), word.toString()};
-}
-
-Question query(QStringView text, const QString& match) {
+Question query(const QString& text, const QString& match) {
     CSearch condition = conditionOf(text);
     condition.language = SearchLanguage::Query;
     return {condition, match};
 }
 
-Question threeWords() {
-    return query(u"waab waac waad -copper", u"waab AND waac AND waad NOT copper"_s);
+// Words of a language, as some stories of a store have them.
+struct Words {
+    QString common;        // in about a quarter of all stories
+    QStringList frequent;  // three of the most frequent, but not the first
+    QString rare;          // in few stories
+    QString phrase;        // four characters, or three words, of one story
+};
+
+bool isChinese(const QString& text) {
+    return !text.isEmpty() && text.front().unicode() >= 0x3400;
 }
 
-// Some four characters that a story holds.
-Question chinesePhrase() {
-    const QString phrase = chineseStory(1).left(4);
-    return query(phrase, u'"' + phrase + u'"');
+Words wordsOf(Database& store, bool inChinese) {
+    constexpr int sampled = 400;  // stories
+    Words words;
+    std::map<QString, int> counts;
+    Statement statement(store, "SELECT story FROM news_text WHERE id = ?");
+    const QRegularExpression between(inChinese ? u""_s : u"[^\\w]+"_s,
+                                     QRegularExpression::UseUnicodePropertiesOption);
+    for (int id = 1; id <= sampled; ++id) {
+        Query row(statement, id);
+        const QString story = row.next() ? row.text(0) : QString();
+        QStringList all = story.split(between, Qt::SkipEmptyParts);
+        if (isChinese(story) != inChinese)
+            continue;
+        all.removeIf([&](const QString& word) { return isChinese(word) != inChinese; });
+        words.phrase = inChinese ? story.left(4) : all.sliced(0, 3).join(u' ');
+        for (const QString& word : QSet<QString>(all.begin(), all.end()))
+            ++counts[word];
+    }
+    std::vector<std::pair<int, QString>> order;
+    for (const auto& [word, count] : counts)
+        order.emplace_back(count, word);
+    std::ranges::sort(order);
+    words.rare = order.front().second;
+    words.common = std::ranges::min_element(order, {}, [](const auto& each) {
+                       return std::abs(each.first - sampled / 4);
+                   })->second;
+    for (auto each = order.rbegin() + 1; each != order.rbegin() + 4; ++each)
+        words.frequent += each->second;
+    return words;
+}
+
+enum class Asked { RareWord, CommonWord, ThreeWordsButOne, Phrase };
+
+Question questionOf(Database& store, Asked asked, bool inChinese) {
+    const Words words = wordsOf(store, inChinese);
+    switch (asked) {
+        case Asked::RareWord:
+            return inChinese ? query(words.rare, words.rare)
+                             : query(rareWord.toString(), rareWord.toString());
+        case Asked::CommonWord:
+            return inChinese ? query(words.common, words.common)
+                             : query(commonWord.toString(), commonWord.toString());
+        case Asked::ThreeWordsButOne:
+            return query(words.frequent.join(u' ') + u" -copper"_s,
+                         words.frequent.join(u" AND "_s) + u" NOT copper"_s);
+        case Asked::Phrase:
+            break;
+    }
+    return query(u'"' + words.phrase + u'"', u'"' + words.phrase + u'"');
 }
 
 double secondsOfBareQuery(Database& store, const QString& match) {
@@ -152,11 +203,12 @@ double secondsOfBareQuery(Database& store, const QString& match) {
 }
 
 // all_of_bare: the time until all keys are answered, as a multiple of the bare query's.
-void searchFor(benchmark::State& state, const Question& question) {
-    const SearchStore& made = SearchStore::of(static_cast<int>(state.range(0)));
-    const auto store = opened(made.path());
-    Answers answers(made.path());
+void searchFor(benchmark::State& state, const QString& path, Asked asked, bool inChinese) {
+    const auto store =
+        opened(path.isEmpty() ? SearchStore::of(int(state.range(0)), Coming::AsPublished).path() : path);
+    Answers answers(store->path());
     answers.search(commonWord);  // the keys are in memory from then on
+    const Question question = questionOf(*store, asked, inChinese);
     std::vector<double> firsts;
     std::vector<double> alls;
     std::vector<double> bare;
@@ -172,8 +224,32 @@ void searchFor(benchmark::State& state, const Question& question) {
     state.counters["first_ms"] = median(firsts) * 1000;
     state.counters["all_ms"] = median(alls) * 1000;
     state.counters["bare_ms"] = median(bare) * 1000;
+    state.counters["first_of_bare"] = median(firsts) / median(bare);
     state.counters["all_of_bare"] = median(alls) / median(bare);
-    state.counters["index_of_text"] = made.indexOfText();
+}
+
+// In stores of their own; and in one that was made before, where the environment names it.
+void registerSearches() {
+    constexpr std::pair<Asked, const char*> all[] = {{Asked::RareWord, "rare"},
+                                                     {Asked::CommonWord, "common"},
+                                                     {Asked::ThreeWordsButOne, "three_but_one"},
+                                                     {Asked::Phrase, "phrase"}};
+    const QString given = qEnvironmentVariable("WIREPANE_SEARCH_STORE");
+    for (const auto& [asked, name] : all) {
+        for (const bool inChinese : {false, true}) {
+            const std::string called = std::string("searchFor/") + name + (inChinese ? "/zh" : "/en");
+            const auto add = [&](const QString& path, const std::string& suffix) {
+                return benchmark::RegisterBenchmark((called + suffix).c_str(), searchFor, path, asked,
+                                                    inChinese)
+                    ->Iterations(20)
+                    ->UseManualTime()
+                    ->Unit(benchmark::kMillisecond);
+            };
+            add({}, {})->Arg(1000)->Arg(1'000'000);
+            if (!given.isEmpty())
+                add(given, "/given");
+        }
+    }
 }
 
 // What the user types, key by key: a word of a story, or three of its Chinese characters.
@@ -274,30 +350,6 @@ BENCHMARK(takeInIndexed)
     ->Iterations(3)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(searchFor, rare, keyword(rareWord))
-    ->Arg(1000)
-    ->Arg(1'000'000)
-    ->Iterations(20)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(searchFor, common, keyword(commonWord))
-    ->Arg(1000)
-    ->Arg(1'000'000)
-    ->Iterations(20)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(searchFor, three_words, threeWords())
-    ->Arg(1000)
-    ->Arg(1'000'000)
-    ->Iterations(20)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(searchFor, chinese_phrase, chinesePhrase())
-    ->Arg(1000)
-    ->Arg(1'000'000)
-    ->Iterations(20)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
 BENCHMARK(typing)
     ->ArgNames({"", "no_order"})
     ->Args({1000, 0})
@@ -311,5 +363,6 @@ BENCHMARK(inputDuringSearch)->Arg(1'000'000)->Iterations(3)->UseManualTime()->Un
 }  // namespace wirepane
 
 int main(int argc, char** argv) {
+    registerSearches();
     return wirepane::runBenchmarks<QCoreApplication>(argc, argv);
 }
