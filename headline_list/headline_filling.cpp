@@ -29,9 +29,14 @@ std::vector<unsigned char> HeadlineList::servicesToAsk() const {
 }
 
 std::vector<CHeadlineTable> HeadlineList::vGetShowedHeadlineTable() const {
-    if (sheet == nullptr || sheet->rowCount() == 0)
-        return {};
-    return table.rows(sheet->firstVisibleRow(), sheet->rowsPerPage() + 1);
+    return sheet != nullptr ? entriesAt(sheet->rowsOnScreen()) : std::vector<CHeadlineTable>();
+}
+
+std::vector<CHeadlineTable> HeadlineList::entriesAt(const std::vector<int>& rows) const {
+    std::vector<CHeadlineTable> entries;
+    for (const int row : rows)
+        entries.push_back(table.at(row));
+    return entries;
 }
 
 std::vector<CHeadline> HeadlineList::headlinesOf(const std::vector<CHeadlineTable>& entries) const {
@@ -83,16 +88,16 @@ void HeadlineList::vUpdataTopHeadline(bool showDate, const RelationMatcher* rela
 }
 
 void HeadlineList::vFillTempHeadline() {
-    const std::vector<CHeadlineTable> shown = vGetShowedHeadlineTable();
-    int row = shown.empty() ? 0 : sheet->firstVisibleRow();
-    for (const CHeadlineTable& entry : shown) {
+    if (sheet == nullptr)
+        return;
+    for (const int row : sheet->rowsOnScreen()) {
+        const CHeadlineTable entry = table.at(row);
         const WrittenCells* written = cellsOf(row);
         const QString time = written != nullptr ? written->textOf(HeadlineColumn::Time) : QString();
         const bool right = written != nullptr && (time == timeText(entry.time, kind.showDate) ||
                                                   time == timeText(entry.time, !kind.showDate));
         if (!right)
             writeCells(row, placeholdersOf(entry, kind.showDate != cells.hasOtherTimeForm(keyOf(entry))));
-        ++row;
     }
 }
 
@@ -163,9 +168,8 @@ void HeadlineList::writeCells(int row, WrittenCells&& written) {
 // Pushes write rows that nobody may ever look at. What is on screen stays, and the page at the top, where a
 // reader of the news comes back to.
 void HeadlineList::letCellsGo() {
-    const int page = sheet->rowsPerPage() + 1;
-    std::vector<CHeadlineTable> kept = table.rows(sheet->firstVisibleRowToCome(), page);
-    const std::vector<CHeadlineTable> top = table.rows(0, page);
+    std::vector<CHeadlineTable> kept = entriesAt(sheet->rowsOnScreenToCome());
+    const std::vector<CHeadlineTable> top = table.rows(0, sheet->rowsPerPage() + 1);
     kept.insert(kept.end(), top.begin(), top.end());
     cells.keepOnly(kept, kind.showDate);
 }

@@ -50,6 +50,7 @@ void HeadlineList::setGrid(CSuperSheetWnd* grid) {
     if (sheet == nullptr)
         return;
     sheet->setCells(this);
+    watchFolds();
     QObject::connect(sheet, &CSuperSheetWnd::columnDragged, &afterPainting,
                      [this](int place, int width) { takeDraggedWidth(place, width); });
     QObject::connect(sheet, &CSuperSheetWnd::columnEndDoubleClicked, &afterPainting,
@@ -78,6 +79,11 @@ void HeadlineList::vFillHeadlineTable() {
     sheet->clearRows();
     sheet->addRows(table.size());
     sheet->resetRowBkColor();
+    if (heldPlace)
+        state->folds.tellAll();
+    else
+        state->folds.clear();
+    showFolds();
     owner.rowsReplaced(kind.index);
     if (heldPlace) {
         std::exchange(heldPlace, std::nullopt)->restore(table, *sheet);
@@ -97,13 +103,15 @@ void HeadlineList::refill() {
     vFillHeadline();
 }
 
-HeadlinePlace HeadlineList::vProcessNewHeadline(const CHeadline& headline, bool showDate) {
+HeadlinePlace HeadlineList::vProcessNewHeadline(const CHeadline& headline, bool showDate,
+                                                const QString& symbol) {
     if (sheet == nullptr)
         return {};
     noteArrival(headline);
     const int known = table.rowOfSameDay(keyOf(headline));
     if (known < 0) {
         const int row = table.insertPosition(headline.time);
+        noteBurst(headline, symbol);
         vInsertHeadline(row, headline, showDate);
         return {row, -1};
     }
@@ -119,6 +127,7 @@ HeadlinePlace HeadlineList::vProcessNewHeadline(const CHeadline& headline, bool 
     const HeadlineKey oldKey = keyOf(table.at(old));
     table.remove(old);
     table.insert(0, entryOf(headline));
+    state->folds.letGo(oldKey, keyOf(headline));
     forgetCells(oldKey);
     sheet->moveRowToTop(old);
     writeHeadline(0, headline, showDate);
@@ -142,7 +151,9 @@ void HeadlineList::replaceHeadline(int row, const CHeadline& headline) {
     const bool showDate = kind.showDate != cells.hasOtherTimeForm(oldKey);
     table.remove(row);
     table.insert(row, entryOf(headline));
+    state->folds.letGo(oldKey, keyOf(headline));
     forgetCells(oldKey);
+    showFolds();
     writeHeadline(row, headline, showDate);
 }
 
@@ -163,8 +174,10 @@ void HeadlineList::vDeleteHeadline(int row) {
 }
 
 void HeadlineList::forgetCells(const HeadlineKey& key) {
-    if (table.rowOf(key) < 0)
-        cells.forget(key);
+    if (table.rowOf(key) >= 0)
+        return;
+    cells.forget(key);
+    state->folds.forget(key);
 }
 
 const WrittenCells* HeadlineList::cellsOf(int row) const {

@@ -109,7 +109,8 @@ public:
     // Puts a pushed headline in. A new one goes above the first row from the top that is earlier. One that is
     // listed already with its service and number on its day moves to the top, and the first row with that
     // service and number, of whatever day, goes.
-    HeadlinePlace vProcessNewHeadline(const CHeadline& headline, bool showDate);
+    // `symbol`: the one that it names, for bursts to fold by; may be empty.
+    HeadlinePlace vProcessNewHeadline(const CHeadline& headline, bool showDate, const QString& symbol = {});
     // Puts a headline in before `row`, in [0, Table().size()], and writes its row.
     void vInsertHeadline(int row, const CHeadline& headline, bool showDate);
     // The row of a headline takes over what it is now, where it stands: the list is not one that it enters.
@@ -122,6 +123,11 @@ public:
     void showStateAgain(const HeadlineKey& key);
     // Takes a row out; one out of range is ignored.
     void vDeleteHeadline(int row);
+
+    // Whether headlines of a burst are folded under a row, or were until they were unfolded there.
+    bool isFold(int row) const;
+    // Unfolds them, or folds them again; also from a row among them. False: there are none.
+    bool turnFold(int row);
 
     // Writes the cells of one row; columns beside these three get the placeholder.
     void vFillSheet(int row, const QString& time, const QString& category, const QString& title);
@@ -156,6 +162,7 @@ private:
     // The column at a place of the grid; null: there is none.
     const HeadlineColumnKind* columnAt(int place) const;
     std::vector<unsigned char> servicesToAsk() const;
+    std::vector<CHeadlineTable> entriesAt(const std::vector<int>& rows) const;
     std::vector<CHeadline> headlinesOf(const std::vector<CHeadlineTable>& entries) const;
     const WrittenCells* cellsOf(int row) const;
     void writeHeadline(int row, const CHeadline& headline, bool showDate);
@@ -175,6 +182,11 @@ private:
     std::optional<ReadingMark> readingMark(int row) const;
     QString readingWords(int row) const;
     bool isTitleOfRow(int row, int column) const;
+    void watchFolds();
+    void noteBurst(const CHeadline& headline, const QString& symbol);
+    void showFolds();
+    QString foldMark(int row) const;
+    QString foldWords(int row) const;
 
     const ListKind& kind;
     BKQuoteInterface& backEnd;

@@ -152,7 +152,7 @@ QString HeadlineList::mark(int row, int column) const {
     if (!isTitleOfRow(row, column))
         return {};
     const NewsState news = newsState(row);
-    QStringList marks;
+    QStringList marks{foldMark(row)};
     if (const auto reading = readingMark(row); reading && reading->isStarred)
         marks << u"\u2605"_s;
     if (news.withdrawal)
@@ -163,6 +163,7 @@ QString HeadlineList::mark(int row, int column) const {
         written != nullptr && saysCorrected(chip(written->textOf(HeadlineColumn::Title), column));
     if (news.corrections > 0 && !news.withdrawal && !isSaid)
         marks << langText(backEnd, keys::correctedMark);
+    marks.removeAll(QString());
     return marks.join(u' ');
 }
 
@@ -208,7 +209,7 @@ QString HeadlineList::spokenText(int row, int column) const {
         const NewsState news = newsState(row);
         if (!news.isAsFirstSent())
             parts << langText(backEnd, news.withdrawal ? keys::withdrawnMark : keys::correctedMark);
-        parts << readingWords(row);
+        parts << readingWords(row) << foldWords(row);
     }
     parts.removeAll(QString());
     return parts.join(u", "_s);
@@ -249,8 +250,7 @@ int HeadlineList::arrival(int row) const {
 // Only rows on screen that fade are drawn again, and once more when they have faded.
 void HeadlineList::fade() {
     if (sheet != nullptr) {
-        const int first = sheet->firstVisibleRow();
-        for (int row = first; row <= first + sheet->rowsPerPage() && row < table.size(); ++row) {
+        for (const int row : sheet->rowsOnScreen()) {
             if (state->arrivals.holds(keyOf(table.at(row))))
                 sheet->repaintRow(row);
         }

@@ -103,6 +103,10 @@ inline constexpr QLatin1StringView markRead{"IDS_NEWSCTRLVIEW_MARK_READ"};
 inline constexpr QLatin1StringView markUnread{"IDS_NEWSCTRLVIEW_MARK_UNREAD"};
 inline constexpr QLatin1StringView markAllRead{"IDS_NEWSCTRLVIEW_MARK_ALL_READ"};
 inline constexpr QLatin1StringView nothingMarked{"IDS_NEWSCTRLVIEW_NOTHING_MARKED"};
+inline constexpr QLatin1StringView turnFold{"IDS_NEWSCTRLVIEW_TURN_FOLD"};
+// "%1": how many.
+inline constexpr QLatin1StringView foldedState{"IDS_NEWSCTRLVIEW_FOLDED_STATE"};
+inline constexpr QLatin1StringView unfoldedState{"IDS_NEWSCTRLVIEW_UNFOLDED_STATE"};
 // "%1": how many headlines; what newAbove says.
 inline constexpr QLatin1StringView newAbove{"IDS_NEWSCTRLVIEW_NEW_ABOVE"};
 inline constexpr QLatin1StringView goToNewest{"IDS_NEWSCTRLVIEW_GO_TO_NEWEST"};

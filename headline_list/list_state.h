@@ -3,6 +3,7 @@
 #pragma once
 
 #include "headline_list/arrivals.h"
+#include "headline_list/burst_folds.h"
 #include "headline_list/cell_state.h"
 #include "headline_list/column_widths.h"
 #include "headline_list/headline_list.h"
@@ -30,7 +31,8 @@ struct HeadlineList::State {
     ColumnWidths widths;
     bool categoryShown = true;
     Arrivals arrivals;
-    QElapsedTimer clock;  // of the arrivals
+    BurstFolds folds;
+    QElapsedTimer clock;  // of the arrivals and the folds
     QTimer fading;
     QHash<unsigned char, QString> serviceNames;  // that were asked for
     std::shared_ptr<const HitFinder> hits;       // what is marked in titles

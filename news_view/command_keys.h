@@ -38,6 +38,7 @@ inline constexpr std::array commandKeys{
     CommandKey{QLatin1StringView("Ctrl+J"), ids::turnStar},
     CommandKey{QLatin1StringView("Ctrl+Shift+A"), ids::markAllRead},
     CommandKey{QLatin1StringView("Ctrl+T"), ids::showNewest},
+    CommandKey{QLatin1StringView("Ctrl+Shift+L"), ids::turnFold},
 };
 
 // The key that does what the command does; empty: none.

@@ -28,6 +28,7 @@ struct FullLine {
     bool ofRow = true;
     bool ofMarks = false;
     bool ofExports = false;
+    bool ofFolds = false;
 };
 
 constexpr std::array fullMenu{
@@ -35,6 +36,7 @@ constexpr std::array fullMenu{
     FullLine{ids::openInWindow, keys::storyInWindow},
     FullLine{ids::printNews, keys::printNews, QKeySequence::Print},
     FullLine{ids::saveNews, keys::saveAsNews, QKeySequence::Save},
+    FullLine{ids::turnFold, keys::turnFold, QKeySequence::UnknownKey, true, false, false, true},
     FullLine{ids::exportRows, keys::exportList, QKeySequence::UnknownKey, true, false, true},
     FullLine{0, {}, QKeySequence::UnknownKey, false, true},
     FullLine{ids::markRead, keys::markRead, QKeySequence::UnknownKey, true, true},
@@ -53,7 +55,7 @@ std::vector<MenuEntry> fullEntries(const MenuSituation& situation, BKQuoteInterf
     for (const FullLine& line : fullMenu) {
         const bool isTold = line.command != ids::recoverHeadlineTable || situation.mode <= ListIndex::Symbol;
         if (!isTold || (line.ofRow && !situation.onRow) || (line.ofMarks && !situation.hasMarks) ||
-            (line.ofExports && !situation.canExport))
+            (line.ofExports && !situation.canExport) || (line.ofFolds && !situation.hasFold))
             continue;
         if (line.command == 0) {
             entries.push_back({});

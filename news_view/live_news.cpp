@@ -39,7 +39,8 @@ void LiveNews::push(const PushedHeadline& pushed) {
         if (parts.lists.wasRead(target.list, pushed.headline))
             continue;
         HeadlineList& list = parts.lists[target.list];
-        calls.rowsMoved(target.list, list.vProcessNewHeadline(pushed.headline, target.showDate));
+        calls.rowsMoved(target.list,
+                        list.vProcessNewHeadline(pushed.headline, target.showDate, pushed.symbolCode));
     }
     replaceElsewhere(pushed, targets, now);
     calls.wasPushed(pushed.headline, pushed.categoryId);

@@ -100,6 +100,8 @@ bool TRVNewsCtrlView::Parts::takeRowCommand(int id) {
         rowsExport.ask(shownEntries());
     else if (id == ids::openInWindow)
         story.openWindow();
+    else if (id == ids::turnFold)
+        listOf(shownList()).turnFold(currentRow());
     else if (id == ids::turnChanges)
         story.turnChanges();
     else

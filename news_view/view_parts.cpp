@@ -231,10 +231,11 @@ void TRVNewsCtrlView::Parts::rowsReplaced(ListIndex list) {
 ContextMenu::Surroundings TRVNewsCtrlView::Parts::contextMenuSurroundings() {
     return {view, [this] { return view.titleHeight(); },
             [this](bool onRow) {
-                return contextMenuEntries({modes.shown(), onRow, settings.showCategory,
-                                           story.hasStoryWindow(), settings.options[ViewOption::RowMenu],
-                                           reading.isOn(), reading.isStarred(), rowsExport.isPossible()},
-                                          backEnd, output.waitingCommands(), board.notices());
+                return contextMenuEntries(
+                    {modes.shown(), onRow, settings.showCategory, story.hasStoryWindow(),
+                     settings.options[ViewOption::RowMenu], reading.isOn(), reading.isStarred(),
+                     listOf(shownList()).isFold(currentRow()), rowsExport.isPossible()},
+                    backEnd, output.waitingCommands(), board.notices());
             }};
 }
 

@@ -100,6 +100,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     void saveHeadline(const CHeadlineTable& headline) override;
 
     std::optional<CHeadlineTable> shownEntry(int row) const { return entryOf(modes.shown(), row); }
+    int currentRow() const { return shownGrid() != nullptr ? shownGrid()->cptGetFocusNdx().y() : -1; }
     CSuperSheetWnd* shownGrid() const { return lists[modes.shown()].grid(); }
     std::vector<CHeadlineTable> selectedEntries() const;
     std::vector<CHeadlineTable> shownEntries() const;

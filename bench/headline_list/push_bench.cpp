@@ -3,6 +3,8 @@
 // What pushed headlines cost in lists of 1,000, 100,000 and 1,000,000 entries: one at the top, one that is
 // sent again, one that comes late, bursts with the grid on screen, and memory after a day of pushes.
 #include "bench/headline_list/list_bench.h"
+#include "host/contract/cfg_io.h"
+#include "host/contract/view_options.h"
 
 #include <QApplication>
 
@@ -110,18 +112,30 @@ void sendRowTwentyAgainAndPaint(benchmark::State& state) {
 }
 
 // A thousand pushes to a turn of the event loop, in which the grid takes them up and paints.
-void burst(benchmark::State& state) {
+void measureBurst(benchmark::State& state, const std::string& name, int foldBeyond) {
     Fixture fixture(static_cast<int>(state.range(0)));
     fixture.open();
     HeadlineList& list = fixture.lists[ListIndex::All];
+    MemoryCfgIO stored;
+    stored.setViewInfo({}, QStringLiteral("FoldBursts"), foldBeyond);
+    list.setOptions(ViewOptions::read(stored, {}));
     std::int64_t pushed = 0;
-    measure(state, "burst", [&] {
+    measure(state, name, [&] {
         for (int i = 0; i < 1000; ++i)
             list.vProcessNewHeadline(newestHeadline(), false);
         QApplication::processEvents();
         pushed += 1000;
     });
     state.counters["pushes"] = benchmark::Counter(static_cast<double>(pushed), benchmark::Counter::kIsRate);
+}
+
+void burst(benchmark::State& state) {
+    measureBurst(state, "burst", 0);
+}
+
+// Nearly all of them fold.
+void foldedBurst(benchmark::State& state) {
+    measureBurst(state, "folded burst", 30);
 }
 
 // Bytes of one pushed headline, all in all: table, indexes, grid, written cells. `showDate` is not the list's
@@ -152,6 +166,12 @@ BENCHMARK(pushLateFarDown)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(
 BENCHMARK(sendAgainFarDown)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(10);
 BENCHMARK(sendRowTwentyAgainAndPaint)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(10);
 BENCHMARK(burst)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Iterations(20)->Unit(benchmark::kMillisecond);
+BENCHMARK(foldedBurst)
+    ->Arg(1000)
+    ->Arg(100'000)
+    ->Arg(1'000'000)
+    ->Iterations(20)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(memoryPerPushedHeadline)
     ->Args({1000, 0})
     ->Args({100'000, 0})

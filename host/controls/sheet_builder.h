@@ -65,6 +65,8 @@ public:
     void queueRemove(int row);
     void queueMoveToTop(int row);
     // Where the first of the rows from `row` on that stay in their order goes: how many rows further down.
+    // What is queued; null: nothing.
+    const wirepane::RowRuns* queued() const { return queue ? &*queue : nullptr; }
     int queuedShift(int row) const { return queue ? queue->shiftFrom(row) : 0; }
     // Where the row goes; -1: it goes away.
     int queuedRow(int row) const { return queue ? queue->newRow(row) : row; }

@@ -1,14 +1,17 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // How the rows of a sheet come and go, and what stays in place meanwhile.
+#include "host/controls/hidden_rows.h"
 #include "host/controls/sheet_builder.h"
 #include "host/controls/sheet_delegate.h"
 #include "host/controls/super_sheet_wnd.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 #include <algorithm>
+#include <utility>
 
 using namespace wirepane;
 
@@ -51,22 +54,26 @@ void CSuperSheetWnd::takeUpRows() const {
 }
 
 int CSuperSheetWnd::firstVisibleRowToCome() const {
-    const int first = verticalScrollBar()->value();
-    return first == 0 || builder == nullptr ? first : std::max(0, first + builder->queuedShift(first));
+    if (isAtTop() || builder == nullptr)
+        return 0;
+    const int first = rowAtPlace(verticalScrollBar()->value());
+    return std::max(0, first + builder->queuedShift(first));
 }
 
 // From above, in the place of the first row on screen when that goes; from below, when fewer rows come above
 // the last row on screen than above the first. At its top the sheet shows what comes.
 bool CSuperSheetWnd::mayShowOthers() const {
     const bool fromAbove = shownFirst > 0 && builder->queuedRow(shownFirst) != shownFirst + shownShift;
-    const int last = std::min(shownFirst + rowsPerPage(), builder->rowCount() - 1);
+    const int last =
+        std::min(rowAtPlace(hidden->placeOf(shownFirst) + rowsPerPage()), builder->rowCount() - 1);
     return fromAbove || builder->queuedShift(last) < (shownFirst > 0 ? shownShift : 0);
 }
 
 void CSuperSheetWnd::keepShownRows() {
+    emit rowsTakenUp();
     executeDelayedItemsLayout();
     if (shownFirst > 0)
-        verticalScrollBar()->setValue(shownFirst + shownShift);
+        verticalScrollBar()->setValue(hidden->placeOf(shownFirst + shownShift));
     takingUp = false;
     if (builder->rowCount() == 0)
         resetRowBkColor();
@@ -77,6 +84,65 @@ void CSuperSheetWnd::keepShownRows() {
         emit scrolledVertically();
 }
 
+int CSuperSheetWnd::rowAtPlace(int place) const {
+    return hidden->rowAt(place);
+}
+
+bool CSuperSheetWnd::isAtTop() const {
+    return verticalScrollBar()->value() == 0;
+}
+
+bool CSuperSheetWnd::isInSight(int row) const {
+    return !hidden->holds(row);
+}
+
+std::vector<int> CSuperSheetWnd::rowsOnScreen() const {
+    takeUpRows();
+    return rowsOnScreenToCome();
+}
+
+std::vector<int> CSuperSheetWnd::rowsOnScreenToCome() const {
+    std::vector<int> rows;
+    if (builder == nullptr)
+        return rows;
+    const int first = verticalScrollBar()->value();
+    const int end = std::min(first + rowsPerPage() + 1, builder->rowCount() - hidden->count());
+    for (int place = first; place < end; ++place) {
+        if (const int row = builder->queuedRow(rowAtPlace(place)); row >= 0)
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+void CSuperSheetWnd::changeSight(std::vector<int> hide, std::vector<int> show) {
+    if (builder == nullptr || model() == nullptr)
+        return;
+    takeUpRows();
+    const bool wasAtTop = isAtTop();
+    const int first = rowAtPlace(verticalScrollBar()->value());
+    std::erase_if(hide, [this](int row) { return row < 0 || row >= builder->rowCount(); });
+    const std::vector<int> hiding = hidden->hide(std::move(hide));
+    const std::vector<int> showing = hidden->show(std::move(show));
+    if (hiding.empty() && showing.empty())
+        return;
+    // The header would measure all rows after each.
+    const QSignalBlocker quiet(verticalHeader());
+    verticalHeader()->setUpdatesEnabled(false);
+    for (const int row : hiding)
+        setRowHidden(row, true);
+    for (const int row : showing)
+        setRowHidden(row, false);
+    verticalHeader()->setUpdatesEnabled(true);
+    othersComeOnScreen = true;
+    updateGeometries();
+    viewport()->update();
+    if (takingUp)
+        return;
+    if (!wasAtTop)
+        verticalScrollBar()->setValue(hidden->placeOf(first));
+    emit scrolledVertically();
+}
+
 void CSuperSheetWnd::invalidateRow(int row) {
     if (builder != nullptr)
         builder->rowWritten(row);
@@ -84,7 +150,9 @@ void CSuperSheetWnd::invalidateRow(int row) {
 
 void CSuperSheetWnd::repaintRow(int row) {
     const int height = verticalHeader()->defaultSectionSize();
-    const int place = row - verticalScrollBar()->value();
+    if (!isInSight(row))
+        return;
+    const int place = hidden->placeOf(row) - verticalScrollBar()->value();
     if (place >= 0 && place <= viewport()->height() / height)
         viewport()->update(0, place * height, viewport()->width(), height);
 }
@@ -94,6 +162,20 @@ void CSuperSheetWnd::resetRowBkColor() {
         return;
     delegate->firstRowOdd = false;
     viewport()->update();
+}
+
+// Of rows that came or went without being queued.
+void CSuperSheetWnd::keepSight(int firstRow, int count, bool came) {
+    if (hidden->empty())
+        return;
+    RowRuns runs(builder->rowCount() + (came ? -count : count));
+    for (int i = 0; i < count; ++i) {
+        if (came)
+            runs.insert(firstRow);
+        else
+            runs.remove(firstRow);
+    }
+    hidden->follow(runs);
 }
 
 void CSuperSheetWnd::keepRowColours(int firstRow, int count) {

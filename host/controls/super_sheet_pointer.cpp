@@ -29,7 +29,7 @@ bool CSuperSheetWnd::viewportEvent(QEvent* event) {
 int CSuperSheetWnd::rowAtHeight(int y) const {
     if (y < 0 || builder == nullptr)
         return -1;
-    const int row = verticalScrollBar()->value() + y / verticalHeader()->defaultSectionSize();
+    const int row = rowAtPlace(verticalScrollBar()->value() + y / verticalHeader()->defaultSectionSize());
     return row < builder->rowCount() ? row : -1;
 }
 

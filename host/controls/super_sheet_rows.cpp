@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // The rows of a sheet: which of them are on screen, selected and current, and in which colours.
+#include "host/controls/hidden_rows.h"
 #include "host/controls/sheet_builder.h"
 #include "host/controls/sheet_delegate.h"
 #include "host/controls/sheet_header.h"
@@ -28,12 +29,13 @@ void CSuperSheetWnd::vAutoVerScrolling(int row) {
     if (row < 0 || row >= rowCount())
         return;
     executeDelayedItemsLayout();
-    const int first = firstVisibleRow();
+    const int first = verticalScrollBar()->value();
     const int page = std::max(1, rowsPerPage());
-    if (row < first)
-        verticalScrollBar()->setValue(row);
-    else if (row >= first + page)
-        verticalScrollBar()->setValue(row - page + 1);
+    const int place = hidden->placeOf(row);
+    if (place < first)
+        verticalScrollBar()->setValue(place);
+    else if (place >= first + page)
+        verticalScrollBar()->setValue(place - page + 1);
 }
 
 void CSuperSheetWnd::scrollTo(const QModelIndex& index, ScrollHint hint) {
@@ -46,14 +48,12 @@ void CSuperSheetWnd::scrollTo(const QModelIndex& index, ScrollHint hint) {
 void CSuperSheetWnd::setFirstVisibleRow(int row) {
     takeUpRows();
     executeDelayedItemsLayout();
-    verticalScrollBar()->setValue(row);
+    verticalScrollBar()->setValue(hidden->placeOf(row));
 }
 
 int CSuperSheetWnd::firstVisibleRow() const {
     takeUpRows();
-    // With rows of one height, scrolled by the row, the bar's value is the row: asking the header would walk
-    // it.
-    return std::clamp(verticalScrollBar()->value(), 0, std::max(0, rowCount() - 1));
+    return std::clamp(rowAtPlace(verticalScrollBar()->value()), 0, std::max(0, rowCount() - 1));
 }
 
 int CSuperSheetWnd::rowsPerPage() const {
@@ -65,8 +65,7 @@ int CSuperSheetWnd::iCalcRowNdx(const QPoint& client) const {
     const QPoint point = viewport()->mapFrom(this, client);
     if (!viewport()->rect().contains(point))
         return -1;
-    const int row = firstVisibleRow() + point.y() / verticalHeader()->defaultSectionSize();
-    return row < rowCount() ? row : -1;
+    return rowAtHeight(point.y());
 }
 
 bool CSuperSheetWnd::bHasFocus() const {
@@ -155,9 +154,9 @@ QModelIndex CSuperSheetWnd::moveCursor(CursorAction action, Qt::KeyboardModifier
             horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
             return current;
         case MoveHome:
-            return current.siblingAtRow(0);
+            return current.siblingAtRow(rowAtPlace(0));
         case MoveEnd:
-            return builder->index(rowCount() - 1, current.column());
+            return builder->index(rowAtPlace(rowCount() - hidden->count() - 1), current.column());
         default:
             return QTableView::moveCursor(action, modifiers);
     }

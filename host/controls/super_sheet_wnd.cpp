@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/super_sheet_wnd.h"
 
+#include "host/controls/hidden_rows.h"
 #include "host/controls/registered_message.h"
 #include "host/controls/row_look.h"
 #include "host/controls/sheet_builder.h"
@@ -24,7 +25,8 @@ CSuperSheetWnd::CSuperSheetWnd(CSheetBuilder* sheetBuilder, QWidget* parent)
     : QTableView(parent),
       builder(sheetBuilder),
       delegate(new SheetDelegate(this)),
-      header(new SheetHeader(this)) {
+      header(new SheetHeader(this)),
+      hidden(std::make_unique<HiddenRows>()) {
     if (builder != nullptr)
         builder->setParent(this);
     setItemDelegate(delegate);
@@ -53,6 +55,8 @@ CSuperSheetWnd::CSuperSheetWnd(CSheetBuilder* sheetBuilder, QWidget* parent)
     applyHeights();
 }
 
+CSuperSheetWnd::~CSuperSheetWnd() = default;
+
 bool CSuperSheetWnd::bCreateSheet() {
     if (builder == nullptr)
         return false;
@@ -68,20 +72,27 @@ void CSuperSheetWnd::connectRows() {
     connect(builder, &QAbstractItemModel::columnsInserted, this,
             [this](const QModelIndex&, int first, int last) { columnsInserted(first, last); });
     connect(builder, &QAbstractItemModel::modelReset, this, [this] {
+        hidden->clear();
         resetRowBkColor();
         verticalScrollBar()->setValue(0);
     });
-    const auto keepColours = [this](const QModelIndex&, int first, int last) {
-        if (!takingUp)
-            keepRowColours(first, last - first + 1);
+    const auto keepLook = [this](int first, int last, bool came) {
+        if (takingUp)
+            return;
+        keepSight(first, last - first + 1, came);
+        keepRowColours(first, last - first + 1);
     };
-    connect(builder, &QAbstractItemModel::rowsInserted, this, keepColours);
-    connect(builder, &QAbstractItemModel::rowsRemoved, this, keepColours);
+    connect(builder, &QAbstractItemModel::rowsInserted, this,
+            [=](const QModelIndex&, int first, int last) { keepLook(first, last, true); });
+    connect(builder, &QAbstractItemModel::rowsRemoved, this,
+            [=](const QModelIndex&, int first, int last) { keepLook(first, last, false); });
     connect(builder, &CSheetBuilder::queueAboutToBeTakenUp, this, [this] {
         takingUp = true;
-        shownFirst = verticalScrollBar()->value();
+        shownFirst = isAtTop() ? 0 : rowAtPlace(verticalScrollBar()->value());
         shownShift = builder->queuedShift(shownFirst);
         othersComeOnScreen = mayShowOthers();
+        if (const RowRuns* queued = builder->queued())
+            hidden->follow(*queued);
     });
     connect(builder, &CSheetBuilder::queueTakenUp, this, &CSuperSheetWnd::keepShownRows);
 }

@@ -6,6 +6,7 @@
 
 #include <QTableView>
 
+#include <memory>
 #include <vector>
 
 class CSheetBuilder;
@@ -14,6 +15,7 @@ class QHelpEvent;
 namespace wirepane {
 struct RowLook;
 class SheetCells;
+class HiddenRows;
 class SheetDelegate;
 class SheetHeader;
 struct SheetColours;
@@ -34,6 +36,7 @@ class WIREPANE_HOST_EXPORT CSuperSheetWnd : public QTableView {
 public:
     // Takes the builder over. It may be null: bCreateSheet then fails, and the sheet stays without rows.
     CSuperSheetWnd(CSheetBuilder* builder, QWidget* parent);
+    ~CSuperSheetWnd() override;
 
     // Puts the sheet over its builder. False without a builder.
     bool bCreateSheet();
@@ -79,6 +82,14 @@ public:
     void moveRowToTop(int row);
     // True in signals that come of this, and not of the user.
     bool isTakingUpRows() const { return takingUp; }
+    // Takes rows out of sight, brings others back; those on screen keep their places. Rows out of sight are
+    // counted like all others, and stay out of sight wherever they move, until the builder starts over.
+    void changeSight(std::vector<int> hide, std::vector<int> show);
+    bool isInSight(int row) const;
+    // Those on screen, with one that may show in part.
+    std::vector<int> rowsOnScreen() const;
+    // Where those on screen will be, without taking anything up.
+    std::vector<int> rowsOnScreenToCome() const;
     int rowCount() const;
     // What stands in the middle of the sheet while it has no rows.
     void setEmptyText(const QString& text);
@@ -98,7 +109,7 @@ public:
     void vAutoVerScrolling(int row);
     // As far as there are rows below it.
     void setFirstVisibleRow(int row);
-    // 0 also when there are no rows.
+    // 0 also when there are no rows in sight.
     int firstVisibleRow() const;
     // What firstVisibleRow would say, without taking anything up.
     int firstVisibleRowToCome() const;
@@ -148,6 +159,8 @@ Q_SIGNALS:
     // The user has dragged a column to a width, has clicked twice at the end of its heading.
     void columnDragged(int column, int width);
     void columnEndDoubleClicked(int column);
+    // Rows that came and went have been taken up: what of them is to be out of sight is to be said now.
+    void rowsTakenUp();
 
 public:
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
@@ -173,12 +186,16 @@ private:
     void stretchLastColumn();
     void applyHeights();
     void keepRowColours(int firstRow, int count);
+    void keepSight(int firstRow, int count, bool came);
     void takeUpRows() const;
     bool mayShowOthers() const;
     void keepShownRows();
     int heightFor(int height, const QFontMetrics& metrics) const;
     int rowHeightFor() const;
     int rowAtHeight(int y) const;
+    // The place of a row among those in sight is the scroll bar's value.
+    int rowAtPlace(int place) const;
+    bool isAtTop() const;
     void hoverAt(int y);
     bool showToolTip(const QHelpEvent& event);
     QString headerTexts() const;
@@ -187,6 +204,7 @@ private:
     CSheetBuilder* builder;
     wirepane::SheetDelegate* delegate;
     wirepane::SheetHeader* header;
+    std::unique_ptr<wirepane::HiddenRows> hidden;
     std::vector<int> widths;  // as set or dragged, before stretching; 0: hidden
     QColor frameColour;
     QString emptyText;

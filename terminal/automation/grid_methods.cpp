@@ -77,6 +77,15 @@ QJsonArray keysReport(const NewsViewAccess& access, int list, const Rows& rows) 
     return keys;
 }
 
+QJsonArray outOfSightReport(const CSuperSheetWnd& sheet, const Rows& rows) {
+    QJsonArray hidden;
+    for (int row = rows.first; row < rows.first + rows.count; ++row) {
+        if (!sheet.isInSight(row))
+            hidden.append(row);
+    }
+    return hidden;
+}
+
 QJsonArray selectionReport(const CSuperSheetWnd& sheet) {
     std::vector<int> rows;
     sheet.vGetAllSelectionNdx(rows);
@@ -114,6 +123,7 @@ Answer GridMethods::read(Params& params) {
         {u"rowsPerPage"_s, sheet->rowsPerPage()},
         {u"selection"_s, selectionReport(*sheet)},
         {u"focus"_s, focus},
+        {u"hidden"_s, outOfSightReport(*sheet, rows)},
         {u"cells"_s, cellsReport(*sheet->model(), rows)},
         {u"colours"_s, coloursReport(*sheet, rows)},
         {u"keys"_s, keysReport(*view->access, static_cast<int>(params.number(u"list"_s)), rows)}};

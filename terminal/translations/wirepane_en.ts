@@ -2051,6 +2051,18 @@
         <source></source>
         <translation>Nothing is marked: the news store can only be read.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_TURN_FOLD">
+        <source></source>
+        <translation>Fold or Unfold &amp;Burst</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOLDED_STATE">
+        <source></source>
+        <translation>%1 folded below</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_UNFOLDED_STATE">
+        <source></source>
+        <translation>%1 unfolded below</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
         <source></source>
         <translation>%1 new</translation>

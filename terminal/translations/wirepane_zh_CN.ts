@@ -2051,6 +2051,18 @@
         <source></source>
         <translation>未作标记：新闻数据库只能读取。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_TURN_FOLD">
+        <source></source>
+        <translation>折叠或展开同类新闻(&amp;B)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOLDED_STATE">
+        <source></source>
+        <translation>其下已折叠 %1 条</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_UNFOLDED_STATE">
+        <source></source>
+        <translation>其下已展开 %1 条</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
         <source></source>
         <translation>%1 条新闻</translation>

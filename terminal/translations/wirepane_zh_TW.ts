@@ -2051,6 +2051,18 @@
         <source></source>
         <translation>未作標記：新聞資料庫只能讀取。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_TURN_FOLD">
+        <source></source>
+        <translation>折疊或展開同類新聞(&amp;B)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_FOLDED_STATE">
+        <source></source>
+        <translation>其下已折疊 %1 則</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_UNFOLDED_STATE">
+        <source></source>
+        <translation>其下已展開 %1 則</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
         <source></source>
         <translation>%1 則新聞</translation>
