@@ -62,6 +62,11 @@ EmbeddedBackEnd::EmbeddedBackEnd(StoreConnections opened)
           [this] { return snapshot.position(); }),
       laterNews(*connections.reading),
       quotes(*connections.reading),
+      prices(*connections.reading,
+             [this](const HeadlineKey& key) -> std::optional<CSymbolInfo> {
+                 const auto related = reader.relatedSymbols(key);
+                 return related && !related->empty() ? std::optional(related->front()) : std::nullopt;
+             }),
       toldRevision(quotes.lastRevision()),
       quoteDesk([this](const CSymbolInfo& symbol) { return quotes.find(symbol); }),
       delivery(arrivals, [this](const Arrival& arrival) { tell(arrival); }),
@@ -102,6 +107,7 @@ void EmbeddedBackEnd::moveOn() {
     for (const Arrival& arrival : fresh) {
         headlineCache.forget(arrival.key);
         marks.forget(arrival.key);
+        prices.forget(arrival.key);
         if (arrival.isGone)
             days.remove(arrival.key);
         else if (!arrival.onlyStory)
@@ -113,6 +119,7 @@ void EmbeddedBackEnd::forgetNews() {
     days.clear();
     headlineCache.clear();
     marks.forgetAll();
+    prices.forgetAll();
 }
 
 void EmbeddedBackEnd::note(const WorkReport& report) {
@@ -222,8 +229,10 @@ void EmbeddedBackEnd::tellQuotes() {
     // A receiver may take quotes in meanwhile: they are told behind those that came before.
     tellingQuotes = true;
     for (auto fresh = quotes.after(toldRevision); !fresh.empty(); fresh = quotes.after(toldRevision)) {
-        for (const CQuoteMemory& quote : fresh)
+        for (const CQuoteMemory& quote : fresh) {
+            prices.noteQuote(quote.symbol);
             quoteDesk.tell(quote);
+        }
     }
     tellingQuotes = false;
 }

@@ -14,6 +14,7 @@
 #include "backend/store/marking_desk.h"
 #include "backend/store/news_days.h"
 #include "backend/store/news_delivery.h"
+#include "backend/store/price_desk.h"
 #include "backend/store/quote_book.h"
 #include "backend/store/quote_desk.h"
 #include "backend/store/request_log.h"
@@ -32,6 +33,7 @@
 #include "host/contract/news_positions.h"
 #include "host/contract/news_record.h"
 #include "host/contract/news_row_files.h"
+#include "host/contract/price_history.h"
 #include "host/contract/query/headline_query.h"
 #include "host/contract/query/newest_found.h"
 #include "host/contract/query/search_counts.h"
@@ -95,6 +97,7 @@ class EmbeddedBackEnd : public BKQuoteInterface,
                         public NewsDayFinder,
                         public NewsRecord,
                         public NewsOrigins,
+                        public PriceHistory,
                         public QuietSources,
                         public ReadingMarks,
                         public HeadlineQueries,
@@ -179,6 +182,12 @@ public:
     NewsState newsState(const HeadlineKey& key) override { return headlineCache.state(key); }
     std::vector<NewsVersion> versionsOf(const HeadlineKey& key) override { return reader.versions(key); }
     QStringList originsOf(const HeadlineKey& key) override { return reader.origins(key); }
+    std::optional<PriceSince> priceSince(const HeadlineKey& key) override { return prices.since(key); }
+    std::vector<MinutePrice> pricesOf(const CSymbolInfo& symbol, std::int64_t from,
+                                      std::int64_t to) override {
+        return prices.between(symbol, from, to);
+    }
+    std::int64_t priceChanges() const override { return prices.changes(); }
     bool canMark() const override { return marks.canMark(); }
     ReadingMark markOf(const HeadlineKey& key) override { return marks.markOf(key); }
     void changeMarks(std::vector<HeadlineKey> keys, const MarkChange& change) override {
@@ -338,6 +347,7 @@ private:
     LaterNews laterNews;
     std::function<void(unsigned char, std::int64_t)> datedAhead;
     QuoteBook quotes;
+    PriceDesk prices;
     std::int64_t toldRevision;  // of the quotes
     bool tellingQuotes = false;
     QuoteDesk quoteDesk;

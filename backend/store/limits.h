@@ -5,6 +5,7 @@
 #include <QtGlobal>
 
 #include <cstddef>
+#include <cstdint>
 
 // What the store takes at most. Lengths are in characters as QString counts them (UTF-16 code units).
 namespace wirepane::limits {
@@ -19,6 +20,8 @@ inline constexpr qsizetype codeLength = 64;
 inline constexpr qsizetype symbolNameLength = 256;
 inline constexpr qsizetype categoryNameLength = 64;  // a longer name is cut
 inline constexpr std::size_t relatedSymbols = 1000;
+
+inline constexpr std::int64_t priceDays = 366;  // of the prices that were
 
 inline constexpr double price = 1e12;  // and no change is larger
 

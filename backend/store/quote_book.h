@@ -4,6 +4,7 @@
 
 #include "backend/database/statement.h"
 #include "backend/news_item.h"
+#include "backend/store/price_book.h"
 #include "host/contract/records.h"
 
 #include <cstdint>
@@ -13,15 +14,16 @@
 namespace wirepane {
 
 // The quotes of a store: one of each symbol, the one that came last. Each change takes the next revision, so
-// that what came after a moment is found, whoever wrote it. Thread: that of the database, which must outlive
-// the book.
+// that what came after a moment is found, whoever wrote it. With the first change in a later minute the price
+// that was the last of its minute goes to the prices that were. Thread: that of the database, which must
+// outlive the book.
 class QuoteBook {
 public:
     explicit QuoteBook(Database& database);
 
-    // Inside a transaction. `changed` tells whether the symbol had another quote, or none. False on failure,
-    // which the database then holds.
-    bool put(const QuoteItem& item, bool& changed);
+    // Inside a transaction. `now` is when it came. `changed` tells whether the symbol had another quote, or
+    // none. False on failure, which the database then holds.
+    bool put(const QuoteItem& item, std::int64_t now, bool& changed);
 
     std::optional<CQuoteMemory> find(const CSymbolInfo& symbol);
     // The revision of the last change; 0: none yet.
@@ -31,6 +33,7 @@ public:
     std::vector<CQuoteMemory> after(std::int64_t& revision);
 
 private:
+    PriceBook prices;
     Statement one;
     Statement write;
     Statement newest;

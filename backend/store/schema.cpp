@@ -251,13 +251,30 @@ CREATE TABLE held_changes(
 CREATE TABLE due_changes(last INTEGER NOT NULL);
 )sql";
 
+// The prices of each symbol and day, packed (see packed_prices.h); `moment`: the beginning of the minute of
+// the last quote, whose price stands there until a later minute begins. 0: it came before prices were kept.
+constexpr const char* prices = R"sql(
+ALTER TABLE quotes ADD COLUMN moment INTEGER NOT NULL DEFAULT 0;
+CREATE TABLE day_prices(
+    market INTEGER NOT NULL,
+    code TEXT NOT NULL,
+    day INTEGER NOT NULL,
+    low REAL NOT NULL,
+    high REAL NOT NULL,
+    packed BLOB NOT NULL,
+    PRIMARY KEY(market, code, day)) WITHOUT ROWID;
+CREATE INDEX day_prices_by_day ON day_prices(day);
+CREATE INDEX day_price_ranges ON day_prices(market, code, day, low, high);
+)sql";
+
 constexpr std::array steps{firstVersion,   arrivalsAndPositions,
                            ownSearchWords, quotes,
                            goneKeys,       blocksOfImports,
                            retention,      networkSources,
                            englishNames,   versionsAndWithdrawals,
                            packedStories,  indexRenewal,
-                           readingMarks,   heldChanges};
+                           readingMarks,   heldChanges,
+                           prices};
 
 }  // namespace
 

@@ -423,7 +423,7 @@ Result<TakeOutcome> StoreWriter::takeQuote(const QuoteItem& item) {
     if (const auto fault = faultOf(item))
         return TakeOutcome{Take::Rejected, fault};
     bool changed = false;
-    if (!quotes.put(item, changed))
+    if (!quotes.put(item, host_clock::now(), changed))
         return fail();
     return TakeOutcome{changed ? Take::TakenIn : Take::AlreadyThere, {}};
 }
