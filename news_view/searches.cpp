@@ -262,16 +262,7 @@ void Searches::showFirst(ListIndex index, const FirstFound::Found& found) {
     }
 }
 
-Searches::Runs Searches::allFound(TableKind kind) const {
-    return readEveryTable(parts.backEnd, parts.services.currentServices(), kind, searchTableKey);
-}
-
-void Searches::showAll(ListIndex index, TableKind kind) {
-    context.listOf(index).setTable(allFound(kind));
-    showFound(index, true);
-}
-
-void Searches::refillInPlace(ListIndex index, const Runs& found) {
+void Searches::refillInPlace(ListIndex index, const TableRuns& found) {
     HeadlineList& list = context.listOf(index);
     context.readInPlace(index, [&] {
         list.setTable(found);
@@ -315,10 +306,14 @@ void Searches::takeAnswer(const CSearch& condition, unsigned char service) {
         parts.tip.stop();
     if (newestStand && conditions.courseOf(target).isAwaited)
         return;
-    if (isDue && !newestStand)
-        showAll(target, *kind);
-    else
-        refillInPlace(target, allFound(*kind));
+    const TableRuns found =
+        readEveryTable(parts.backEnd, parts.services.currentServices(), *kind, searchTableKey);
+    if (isDue && !newestStand) {
+        list.setTable(found);
+        showFound(target, true);
+    } else {
+        refillInPlace(target, found);
+    }
     if (newestStand)
         context.placeNotices();
     // Where empty lists say why, this one does.

@@ -59,8 +59,8 @@ public:
     // text can.
     void show(const CSearch& condition);
 
-    // A service has answered: the results of all services are shown anew; where the newest stand already, when
-    // all have answered.
+    // A service has answered: the results of all services are shown anew; where the newest stand already,
+    // when all have answered.
     void takeAnswer(const CSearch& condition, unsigned char service);
 
     // A headline was pushed. The newest of each service is searched for at the next refresh, while the
@@ -93,10 +93,7 @@ private:
     void stopWaiting();
     void showTyped(const FirstFound::Found& found);
     void showFirst(ListIndex list, const FirstFound::Found& found);
-    using Runs = std::vector<std::vector<CHeadlineTable>>;
-    Runs allFound(TableKind kind) const;
-    void showAll(ListIndex list, TableKind kind);
-    void refillInPlace(ListIndex list, const Runs& found);
+    void refillInPlace(ListIndex list, const std::vector<std::vector<CHeadlineTable>>& found);
     void showFound(ListIndex list, bool selectFirst);
 
     ViewContext& context;

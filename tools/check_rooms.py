@@ -32,6 +32,7 @@ FLOORS = {
         "database": {ROOM, "words"},
         "search": {ROOM, "words", "database"},
         "store": {ROOM, "words", "database", "search"},
+        "alerts": {ROOM, "database", "search", "store"},
         "import": {ROOM},
         "feed": {ROOM, "lines", "database", "store", "import"},
         "network": {ROOM, "lines", "words", "database", "store", "import", "feed"},

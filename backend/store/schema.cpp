@@ -267,6 +267,28 @@ CREATE INDEX day_prices_by_day ON day_prices(day);
 CREATE INDEX day_price_ranges ON day_prices(market, code, day, low, high);
 )sql";
 
+// What the user's rules have matched last (see backend/alerts), and in one row how far they have looked at
+// the arrivals and which of it the user has seen.
+constexpr const char* alerts = R"sql(
+CREATE TABLE alerts(
+    number INTEGER PRIMARY KEY,
+    rule TEXT NOT NULL,
+    service INTEGER NOT NULL,
+    time INTEGER NOT NULL,
+    sequence INTEGER NOT NULL,
+    title TEXT NOT NULL,
+    words TEXT NOT NULL,
+    received INTEGER NOT NULL,
+    matched INTEGER NOT NULL,
+    told INTEGER NOT NULL,
+    outcome INTEGER NOT NULL,
+    UNIQUE(rule, service, time, sequence));
+CREATE TABLE alert_state(
+    one INTEGER PRIMARY KEY CHECK(one = 1),
+    position INTEGER NOT NULL,
+    seen INTEGER NOT NULL);
+)sql";
+
 constexpr std::array steps{firstVersion,   arrivalsAndPositions,
                            ownSearchWords, quotes,
                            goneKeys,       blocksOfImports,
@@ -274,7 +296,7 @@ constexpr std::array steps{firstVersion,   arrivalsAndPositions,
                            englishNames,   versionsAndWithdrawals,
                            packedStories,  indexRenewal,
                            readingMarks,   heldChanges,
-                           prices};
+                           prices,         alerts};
 
 }  // namespace
 

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/contract/records.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+
+namespace wirepane {
+
+// What became of a headline that a rule matched. Stored by these numbers.
+enum class AlertOutcome {
+    Told = 0,
+    RuleOff = 1,
+    Disconnected = 2,
+    Duplicate = 3,  // the same was said within the hour
+    Late = 4,       // it was published, or came, too long ago
+    QuietHours = 5,
+    Pause = 6,
+};
+inline constexpr int lastAlertOutcome = 6;
+
+// A headline that a rule matched. Moments are seconds since 1970.
+struct AlertEntry {
+    std::int64_t number = 0;  // rises from entry to entry of a store
+    QString rule;
+    HeadlineKey headline;
+    QString title;
+    QStringList
+        words;  // which the rule matched, as they stand in the title; none: its symbols, topic or service
+    std::int64_t received = 0;
+    std::int64_t matched = 0;
+    std::int64_t told = 0;  // 0: not yet, or never
+    AlertOutcome outcome = AlertOutcome::Told;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "backend/alerts/alert_rule.h"
+
+#include "host/contract/json_fields.h"
+
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int lastMinute = 24 * 60 - 1;
+
+std::optional<AlertRule> ruleFrom(const QJsonObject& object) {
+    JsonFields fields(object);
+    AlertRule rule;
+    rule.name = fields.text(u"name"_s).trimmed();
+    rule.query = fields.text(u"query"_s);
+    rule.isOn = fields.optionalFlag(u"on"_s).value_or(rule.isOn);
+    rule.hasToast = fields.optionalFlag(u"toast"_s).value_or(rule.hasToast);
+    rule.hasSound = fields.optionalFlag(u"sound"_s).value_or(rule.hasSound);
+    rule.pauseSeconds = int(fields.optionalNumber(u"pause"_s, 0, longestAlertPause).value_or(0));
+    rule.onlyConnected = fields.optionalFlag(u"onlyConnected"_s).value_or(rule.onlyConnected);
+    if (rule.name.isEmpty() || rule.query.trimmed().isEmpty())
+        return std::nullopt;
+    return rule;
+}
+
+}  // namespace
+
+AlertSettings usualAlerts() {
+    AlertRule flash;
+    flash.name = u"FLASH"_s;
+    flash.query = u"title:FLASH | title:快訊"_s;
+    flash.hasSound = true;
+    AlertRule correction;
+    correction.name = u"CORRECTION"_s;
+    correction.query = u"title:correction | title:corrected | title:更正"_s;
+    return {{flash, correction}};
+}
+
+QJsonObject alertsToJson(const AlertSettings& settings) {
+    QJsonArray rules;
+    for (const AlertRule& rule : settings.rules) {
+        rules.append(QJsonObject{{u"name"_s, rule.name},
+                                 {u"query"_s, rule.query},
+                                 {u"on"_s, rule.isOn},
+                                 {u"toast"_s, rule.hasToast},
+                                 {u"sound"_s, rule.hasSound},
+                                 {u"pause"_s, rule.pauseSeconds},
+                                 {u"onlyConnected"_s, rule.onlyConnected}});
+    }
+    return {{u"rules"_s, rules}, {u"quietFrom"_s, settings.quietFrom}, {u"quietTo"_s, settings.quietTo}};
+}
+
+AlertSettings alertsFromJson(const QJsonObject& stored) {
+    JsonFields fields(stored);
+    AlertSettings settings;
+    settings.quietFrom = int(fields.optionalNumber(u"quietFrom"_s, 0, lastMinute).value_or(0));
+    settings.quietTo = int(fields.optionalNumber(u"quietTo"_s, 0, lastMinute).value_or(0));
+    QSet<QString> names;
+    const QJsonArray rules = fields.optionalList(u"rules"_s).value_or(QJsonArray());
+    for (const QJsonValue& each : rules) {
+        const auto rule = ruleFrom(each.toObject());
+        if (!rule || names.contains(rule->name) || names.size() == mostAlertRules)
+            continue;
+        names.insert(rule->name);
+        settings.rules.push_back(*rule);
+    }
+    return settings;
+}
+
+}  // namespace wirepane

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace wirepane {
+
+// What the user wants to be told of, and how.
+struct AlertRule {
+    QString name;           // each once; entries of the list of alerts go by it
+    QString query;          // of headlines, as key sets know them (docs/search.md)
+    bool isOn = true;       // else what it matches is listed, and not told
+    bool hasToast = true;   // shown in the corner of the window
+    bool hasSound = false;  // the desktop's
+    int pauseSeconds = 0;   // between two that are told, 0 to a day
+    bool onlyConnected = false;
+
+    bool operator==(const AlertRule&) const = default;
+};
+
+// All of them, and when they keep silent.
+struct AlertSettings {
+    std::vector<AlertRule> rules;
+    // Minutes of the day, 0 to 1439, in local time; equal: there are no quiet hours. They may go over
+    // midnight.
+    int quietFrom = 0;
+    int quietTo = 0;
+
+    bool operator==(const AlertSettings&) const = default;
+};
+
+inline constexpr int mostAlertRules = 1000;
+inline constexpr int longestAlertPause = 86'400;  // seconds
+
+// What is there before the user has changed anything: flashes and corrections.
+AlertSettings usualAlerts();
+QJsonObject alertsToJson(const AlertSettings& settings);
+// What cannot be understood of it is left out: a rule without a name or a query, one whose name another has.
+AlertSettings alertsFromJson(const QJsonObject& stored);
+
+}  // namespace wirepane
