@@ -17,12 +17,15 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 void HeadlineList::watchFolds() {
-    QObject::connect(sheet, &CSuperSheetWnd::rowsTakenUp, &afterPainting, [this] { showFolds(); });
+    QObject::connect(sheet, &CSuperSheetWnd::rowsTakenUp, &afterPainting, [this] {
+        if (!sheet->isHeld())
+            showFolds();
+    });
     // Whoever goes to a row sees it, for as long as he stands there.
     QObject::connect(sheet->selectionModel(), &QItemSelectionModel::currentRowChanged, &afterPainting,
                      [this](const QModelIndex& current) {
                          const int row = current.row();
-                         if (sheet->isTakingUpRows())
+                         if (sheet->isTakingUpRows() || (sheet->isHeld() && sheet->isInSight(row)))
                              return;
                          if (!sheet->isInSight(row) && row < table.size())
                              state->folds.open(keyOf(table.at(row)));
@@ -54,6 +57,14 @@ void HeadlineList::showFolds() {
     for (const HeadlineKey& key : changes.show)
         show.push_back(table.rowOf(key));
     sheet->changeSight(std::move(hide), std::move(show));
+}
+
+void HeadlineList::hold(bool on) {
+    if (sheet == nullptr)
+        return;
+    sheet->setHeld(on);
+    if (!on)
+        showFolds();
 }
 
 bool HeadlineList::isFold(int row) const {

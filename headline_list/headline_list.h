@@ -124,6 +124,8 @@ public:
     // Takes a row out; one out of range is ignored.
     void vDeleteHeadline(int row);
 
+    // While it is held the rows on screen keep their places, and none folds.
+    void hold(bool on);
     // Whether headlines of a burst are folded under a row, or were until they were unfolded there.
     bool isFold(int row) const;
     // Unfolds them, or folds them again; also from a row among them. False: there are none.

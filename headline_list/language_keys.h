@@ -107,6 +107,13 @@ inline constexpr QLatin1StringView turnFold{"IDS_NEWSCTRLVIEW_TURN_FOLD"};
 // "%1": how many.
 inline constexpr QLatin1StringView foldedState{"IDS_NEWSCTRLVIEW_FOLDED_STATE"};
 inline constexpr QLatin1StringView unfoldedState{"IDS_NEWSCTRLVIEW_UNFOLDED_STATE"};
+inline constexpr QLatin1StringView holdList{"IDS_NEWSCTRLVIEW_HOLD_LIST"};
+inline constexpr QLatin1StringView heldList{"IDS_NEWSCTRLVIEW_HELD_LIST"};
+// "%1": how many have come meanwhile, "%2": how many of them key sets want.
+inline constexpr QLatin1StringView heldWaiting{"IDS_NEWSCTRLVIEW_HELD_WAITING"};
+inline constexpr QLatin1StringView heldMatching{"IDS_NEWSCTRLVIEW_HELD_MATCHING"};
+// "%1": what one of these says.
+inline constexpr QLatin1StringView letListGo{"IDS_NEWSCTRLVIEW_LET_LIST_GO"};
 // "%1": how many headlines; what newAbove says.
 inline constexpr QLatin1StringView newAbove{"IDS_NEWSCTRLVIEW_NEW_ABOVE"};
 inline constexpr QLatin1StringView goToNewest{"IDS_NEWSCTRLVIEW_GO_TO_NEWEST"};

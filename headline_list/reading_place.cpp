@@ -20,7 +20,7 @@ std::vector<HeadlineKey> keysOf(const std::vector<CHeadlineTable>& entries) {
 
 ReadingPlace::ReadingPlace(const HeadlineTable& table, const CSuperSheetWnd& sheet) {
     const int first = sheet.firstVisibleRow();
-    if (first > 0)
+    if (first > 0 || sheet.isHeld())
         onScreen = keysOf(table.rows(first, sheet.rowsPerPage() + 1));
     if (const int row = sheet.cptGetFocusNdx().y(); row >= 0 && row < table.size())
         current = keyOf(table.at(row));

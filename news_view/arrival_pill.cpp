@@ -28,7 +28,8 @@ constexpr int fromEdge = 14;  // the scroll bar lies there
 
 }  // namespace
 
-ArrivalPill::ArrivalPill(ViewContext& context, const CommonParts& common) : view(context), parts(common) {}
+ArrivalPill::ArrivalPill(ViewContext& context, const CommonParts& common, Calls given)
+    : view(context), parts(common), calls(std::move(given)) {}
 
 void ArrivalPill::watch(CSuperSheetWnd& grid, ListIndex list) {
     grid.installEventFilter(this);
@@ -38,7 +39,8 @@ void ArrivalPill::watch(CSuperSheetWnd& grid, ListIndex list) {
 void ArrivalPill::noteMoved(ListIndex list, const HeadlinePlace& place) {
     const CSuperSheetWnd* const grid = view.listOf(list).grid();
     if (grid == nullptr || place.row < 0 || place.oldRow >= 0 ||
-        !parts.settings.options[ViewOption::ArrivalPill] || place.row >= grid->firstVisibleRowToCome())
+        !(parts.settings.options[ViewOption::ArrivalPill] || calls.heldAt(list)) ||
+        place.row >= grid->firstVisibleRowToCome())
         return;
     ++above[list];
     followSoon();
@@ -62,13 +64,15 @@ void ArrivalPill::noteScrolled(ListIndex list) {
 
 int ArrivalPill::count() const {
     const auto entry = above.find(view.shownList());
-    return entry != above.end() ? entry->second : 0;
+    // Of a list that is shorter than its page nothing is above.
+    return entry != above.end() ? std::min(entry->second, view.listOf(entry->first).grid()->firstVisibleRow())
+                                : 0;
 }
 
 bool ArrivalPill::carryOut(int command) {
     if (command != ids::showNewest)
         return false;
-    if (parts.settings.options[ViewOption::ArrivalPill])
+    if (parts.settings.options[ViewOption::ArrivalPill] || calls.heldAt(view.shownList()))
         goToTop();
     return true;
 }
@@ -80,6 +84,7 @@ void ArrivalPill::goToTop() {
     if (button != nullptr && button->hasFocus())
         grid->setFocus(Qt::OtherFocusReason);
     above.erase(view.shownList());
+    calls.letGo(view.shownList());
     grid->setFirstVisibleRow(0);
     view.refresh();
     followSoon();
@@ -98,11 +103,24 @@ void ArrivalPill::followSoon() {
         QMetaObject::invokeMethod(this, &ArrivalPill::follow, Qt::QueuedConnection);
 }
 
+QString ArrivalPill::said(ListIndex list) const {
+    const int rows = count();
+    const auto matching = calls.heldAt(list);
+    if (!matching)
+        return rows > 0 ? langText(parts.backEnd, keys::newAbove).arg(rows) : QString();
+    if (rows == 0)
+        return langText(parts.backEnd, keys::heldList);
+    return *matching > 0
+               ? langText(parts.backEnd, keys::heldMatching).arg(rows).arg(std::min(*matching, rows))
+               : langText(parts.backEnd, keys::heldWaiting).arg(rows);
+}
+
 void ArrivalPill::follow() {
     isPosted = false;
     CSuperSheetWnd* const grid = view.listOf(view.shownList()).grid();
-    const int rows = count();
-    if (rows == 0 || grid == nullptr || !grid->isVisible()) {
+    const ListIndex list = view.shownList();
+    const QString told = grid != nullptr && grid->isVisible() ? said(list) : QString();
+    if (told.isEmpty()) {
         if (button != nullptr) {
             if (button->hasFocus() && grid != nullptr)
                 grid->setFocus(Qt::OtherFocusReason);
@@ -115,10 +133,11 @@ void ArrivalPill::follow() {
         setWindowId(button, ids::showNewest);
         connect(button, &QAbstractButton::clicked, this, &ArrivalPill::goToTop);
     }
-    const QString said = langText(parts.backEnd, keys::newAbove).arg(rows);
     button->setFont(grid->headingFont());
-    button->showText(said, keyOfCommand(ids::showNewest).toString(QKeySequence::NativeText));
-    button->setAccessibleName(langText(parts.backEnd, keys::goToNewest).arg(said));
+    const bool isHeld = calls.heldAt(list).has_value();
+    button->showText(
+        told, keyOfCommand(isHeld ? ids::holdList : ids::showNewest).toString(QKeySequence::NativeText));
+    button->setAccessibleName(langText(parts.backEnd, isHeld ? keys::letListGo : keys::goToNewest).arg(told));
     button->setToolTip(button->accessibleName().toHtmlEscaped());
     const QHeaderView* const band = grid->horizontalHeader();
     const QSize size(button->sizeHint().width(),

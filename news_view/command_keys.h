@@ -39,6 +39,7 @@ inline constexpr std::array commandKeys{
     CommandKey{QLatin1StringView("Ctrl+Shift+A"), ids::markAllRead},
     CommandKey{QLatin1StringView("Ctrl+T"), ids::showNewest},
     CommandKey{QLatin1StringView("Ctrl+Shift+L"), ids::turnFold},
+    CommandKey{QLatin1StringView("Ctrl+H"), ids::holdList},
 };
 
 // The key that does what the command does; empty: none.

@@ -29,6 +29,7 @@ struct FullLine {
     bool ofMarks = false;
     bool ofExports = false;
     bool ofFolds = false;
+    bool ofHold = false;
 };
 
 constexpr std::array fullMenu{
@@ -43,6 +44,7 @@ constexpr std::array fullMenu{
     FullLine{ids::markUnread, keys::markUnread, QKeySequence::UnknownKey, true, true},
     FullLine{ids::turnStar, keys::starNews, QKeySequence::UnknownKey, true, true},
     FullLine{ids::markAllRead, keys::markAllRead, QKeySequence::UnknownKey, false, true},
+    FullLine{ids::holdList, keys::holdList, QKeySequence::UnknownKey, false, false, false, false, true},
     FullLine{0, {}},
     FullLine{ids::recoverStory, keys::recoverStory},
     FullLine{ids::recoverHeadlineTable, keys::recoverHeadlineList, QKeySequence::UnknownKey, false},
@@ -55,7 +57,8 @@ std::vector<MenuEntry> fullEntries(const MenuSituation& situation, BKQuoteInterf
     for (const FullLine& line : fullMenu) {
         const bool isTold = line.command != ids::recoverHeadlineTable || situation.mode <= ListIndex::Symbol;
         if (!isTold || (line.ofRow && !situation.onRow) || (line.ofMarks && !situation.hasMarks) ||
-            (line.ofExports && !situation.canExport) || (line.ofFolds && !situation.hasFold))
+            (line.ofExports && !situation.canExport) || (line.ofFolds && !situation.hasFold) ||
+            (line.ofHold && !situation.canHold))
             continue;
         if (line.command == 0) {
             entries.push_back({});
@@ -68,6 +71,8 @@ std::vector<MenuEntry> fullEntries(const MenuSituation& situation, BKQuoteInterf
         entries.push_back({line.command, langText(backEnd, line.text) + told, {}});
         if (line.command == ids::turnStar)
             entries.back().checked = situation.isStarred;
+        if (line.command == ids::holdList)
+            entries.back().checked = situation.isHeld;
     }
     entries.back().checked = situation.showsCategory;
     return entries;

@@ -23,6 +23,8 @@ struct MenuSituation {
     bool isFull = false;          // ViewOption::RowMenu
     bool hasMarks = false;        // ViewOption::ReadingMarks
     bool isStarred = false;       // the row is
+    bool canHold = false;         // ViewOption::HoldLists
+    bool isHeld = false;          // the list is
     bool hasFold = false;         // headlines are folded at the row, or were
     bool canExport = false;       // the back end writes files of rows
 };

@@ -41,6 +41,7 @@ void LiveNews::push(const PushedHeadline& pushed) {
         HeadlineList& list = parts.lists[target.list];
         calls.rowsMoved(target.list,
                         list.vProcessNewHeadline(pushed.headline, target.showDate, pushed.symbolCode));
+        calls.rowCame(target.list, pushed);
     }
     replaceElsewhere(pushed, targets, now);
     calls.wasPushed(pushed.headline, pushed.categoryId);

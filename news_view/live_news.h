@@ -21,6 +21,8 @@ public:
         std::function<IntakeState()> choices;
         // Rows of a list have come, gone or moved.
         std::function<void(ListIndex, const HeadlinePlace&)> rowsMoved;
+        // A row has come into a list, moved or new.
+        std::function<void(ListIndex, const PushedHeadline&)> rowCame;
         // The next story that is to be shown is, also the same row's.
         std::function<void()> forgetShownStory;
         // A headline was pushed, whether or not a list takes it.

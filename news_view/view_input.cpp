@@ -105,7 +105,7 @@ bool TRVNewsCtrlView::Parts::takeRowCommand(int id) {
     else if (id == ids::turnChanges)
         story.turnChanges();
     else
-        return reading.carryOut(id) || arrivalPill.carryOut(id);
+        return reading.carryOut(id) || arrivalPill.carryOut(id) || hold.carryOut(id);
     return true;
 }
 

@@ -48,7 +48,12 @@ TRVNewsCtrlView::Parts::Parts(TRVNewsCtrlView& newsView)
       reading(*this, common,
               {[this] { return selectedEntries(); }, [this] { return story.newsInPane(); },
                [this](const QString& sentence) { emit view.messageForUser(sentence); }}),
-      arrivalPill(*this, common),
+      hold(
+          *this, common, [this]() -> const RelationMatcher& { return standingSearches.tickedKeySets(); },
+          [this] { arrivalPill.followSoon(); }),
+      arrivalPill(*this, common,
+                  {[this](ListIndex list) { return hold.heldAt(list); },
+                   [this](ListIndex list) { hold.letGo(list); }}),
       unreadCounts(*this, common),
       output(backEnd, outputDialogs, outputSurroundings()),
       rowsExport(backEnd, view, exportCalls()),
@@ -220,8 +225,10 @@ void TRVNewsCtrlView::Parts::rowsReplaced(ListIndex list) {
         story.forget();
     arrivalPill.forget(list);
     unreadCounts.forget(list);
-    if (!story.isReadInPlace())
+    if (!story.isReadInPlace()) {
         newestRow.forget(list);
+        hold.letGo(list);
+    }
     if (settings.options[ViewOption::MarkHits])
         lists[list].markHits(hitMarks.finderOf(list, searches.desk().foundUnder(list)));
 }
@@ -234,6 +241,7 @@ ContextMenu::Surroundings TRVNewsCtrlView::Parts::contextMenuSurroundings() {
                 return contextMenuEntries(
                     {modes.shown(), onRow, settings.showCategory, story.hasStoryWindow(),
                      settings.options[ViewOption::RowMenu], reading.isOn(), reading.isStarred(),
+                     settings.options[ViewOption::HoldLists], hold.isHeld(shownList()),
                      listOf(shownList()).isFold(currentRow()), rowsExport.isPossible()},
                     backEnd, output.waitingCommands(), board.notices());
             }};
@@ -277,6 +285,7 @@ SentAgain::Choices TRVNewsCtrlView::Parts::choices() {
 LiveNews::Calls TRVNewsCtrlView::Parts::liveCalls() {
     return {[this] { return intakeChoices(); },
             [this](ListIndex list, const HeadlinePlace& place) { rowsMoved(list, place); },
+            [this](ListIndex list, const PushedHeadline& pushed) { hold.noteCome(list, pushed); },
             [this] { story.forget(); },
             [this](const CHeadline& headline, const QString& categoryId) {
                 searches.notePushed(headline);

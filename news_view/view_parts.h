@@ -17,6 +17,7 @@
 #include "news_view/days.h"
 #include "news_view/empty_lists.h"
 #include "news_view/hit_marks.h"
+#include "news_view/list_hold.h"
 #include "news_view/list_input.h"
 #include "news_view/list_tip.h"
 #include "news_view/live_news.h"
@@ -142,6 +143,7 @@ struct TRVNewsCtrlView::Parts final : wirepane::ViewContext, wirepane::ListOwner
     wirepane::StoryInput storyInput;
     wirepane::NewestRow newestRow;
     wirepane::Reading reading;
+    wirepane::ListHold hold;
     wirepane::ArrivalPill arrivalPill;
     wirepane::UnreadCounts unreadCounts;
     wirepane::OutputJobs output;

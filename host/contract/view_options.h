@@ -55,6 +55,7 @@ enum class ViewOption {
     NamedSearches,    // the search box drops down searches that were given names, for all views of the host
     ReadingMarks,     // rows show what was read and starred, what is read is marked, in its row and for good
     FoldBursts,       // more headlines a minute of one topic than this fold under their newest; 0: none
+    HoldLists,        // a key holds the list still, and lets it go on; what waits is counted at its top
     ArrivalPill,      // what came above the rows on screen is counted at the list's top; a click goes there
     UnreadCounts,     // tabs and the view's caption say how much of their lists is unread
     QuietSources,     // lists say which sources give no sign of life, and that none has anything new
@@ -110,6 +111,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::NamedSearches, QLatin1StringView("NamedSearches")},
     {ViewOption::ReadingMarks, QLatin1StringView("ReadingMarks")},
     {ViewOption::FoldBursts, QLatin1StringView("FoldBursts"), 1000, 30},
+    {ViewOption::HoldLists, QLatin1StringView("HoldLists")},
     {ViewOption::ArrivalPill, QLatin1StringView("ArrivalPill")},
     {ViewOption::UnreadCounts, QLatin1StringView("UnreadCounts")},
     {ViewOption::QuietSources, QLatin1StringView("QuietSources")},

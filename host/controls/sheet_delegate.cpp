@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/controls/sheet_delegate.h"
 
+#include "host/controls/hidden_rows.h"
 #include "host/controls/sheet_builder.h"
 #include "host/controls/sheet_cells.h"
 #include "host/controls/uncut_width.h"
@@ -17,12 +18,16 @@ bool SheetDelegate::isMarkedCurrent(const QModelIndex& index) const {
     return colours.marking && view->currentIndex().row() == index.row();
 }
 
+bool SheetDelegate::isOdd(int row) const {
+    const int place = hidden != nullptr ? hidden->placeOf(row) : row;
+    return (place % 2 == 1) != firstRowOdd;
+}
+
 void SheetDelegate::paintBackground(QPainter& painter, const QRect& cell, const QModelIndex& index,
                                     bool selected) const {
     const bool current = isMarkedCurrent(index);
-    const bool odd = (index.row() % 2 == 1) != firstRowOdd;
     painter.fillRect(cell, selected || current ? colours.markBackground(view->hasFocus(), view->palette())
-                                               : colours.rowBackground(odd, view->palette()));
+                                               : colours.rowBackground(isOdd(index.row()), view->palette()));
     const QVariant highlight = index.data(Qt::BackgroundRole);
     if (highlight.isValid())
         painter.fillRect(cell, highlight.value<QBrush>());
@@ -45,7 +50,7 @@ QColor SheetDelegate::finishedGround(const QModelIndex& index, bool selected, co
     const QPalette& palette = view->palette();
     if (selected || isMarkedCurrent(index))
         return colours.markBackground(view->hasFocus(), palette);
-    const QColor plain = colours.rowBackground((index.row() % 2 == 1) != firstRowOdd, palette);
+    const QColor plain = colours.rowBackground(isOdd(index.row()), palette);
     if (const int arrival = cells.arrival(row); arrival > 0)
         return colours.arrivedBackground(plain, arrival, palette);
     return index.row() == hoveredRow ? colours.hoverBackground(palette) : plain;

@@ -12,6 +12,7 @@
 class QAbstractItemView;
 
 namespace wirepane {
+class HiddenRows;
 
 // Draws the cells of a sheet: one line of plain text on the row's colour, cut with dots at the right. Marked
 // rows (selected or current) keep the colours of their texts. Finished rows besides: the row under the
@@ -31,13 +32,15 @@ public:
 
     SheetColours colours;
     RowLook look;
-    bool firstRowOdd = false;  // row 0 has the colour of odd rows
-    int hoveredRow = -1;       // under the pointer
+    const HiddenRows* hidden = nullptr;  // colours take turns over the rows in sight; null: all are
+    bool firstRowOdd = false;            // the first of them has the colour of odd ones
+    int hoveredRow = -1;                 // under the pointer
     // The colours have changed.
     void forgetPictures() { rowPainter.forgetPictures(); }
     void forgetTexts() { rowPainter.forgetTexts(); }
 
 private:
+    bool isOdd(int row) const;
     bool isMarkedCurrent(const QModelIndex& index) const;
     void paintBackground(QPainter& painter, const QRect& cell, const QModelIndex& index, bool selected) const;
     void paintFinished(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;

@@ -54,7 +54,7 @@ void CSuperSheetWnd::takeUpRows() const {
 }
 
 int CSuperSheetWnd::firstVisibleRowToCome() const {
-    if (isAtTop() || builder == nullptr)
+    if (showsWhatComes() || builder == nullptr)
         return 0;
     const int first = rowAtPlace(verticalScrollBar()->value());
     return std::max(0, first + builder->queuedShift(first));
@@ -63,22 +63,23 @@ int CSuperSheetWnd::firstVisibleRowToCome() const {
 // From above, in the place of the first row on screen when that goes; from below, when fewer rows come above
 // the last row on screen than above the first. At its top the sheet shows what comes.
 bool CSuperSheetWnd::mayShowOthers() const {
-    const bool fromAbove = shownFirst > 0 && builder->queuedRow(shownFirst) != shownFirst + shownShift;
+    const bool fromAbove = !showsNewest && builder->queuedRow(shownFirst) != shownFirst + shownShift;
     const int last =
         std::min(rowAtPlace(hidden->placeOf(shownFirst) + rowsPerPage()), builder->rowCount() - 1);
-    return fromAbove || builder->queuedShift(last) < (shownFirst > 0 ? shownShift : 0);
+    return fromAbove || builder->queuedShift(last) < (showsNewest ? 0 : shownShift);
 }
 
 void CSuperSheetWnd::keepShownRows() {
     emit rowsTakenUp();
     executeDelayedItemsLayout();
-    if (shownFirst > 0)
-        verticalScrollBar()->setValue(hidden->placeOf(shownFirst + shownShift));
+    const int place = hidden->placeOf(shownFirst + shownShift);
+    if (!showsNewest)
+        verticalScrollBar()->setValue(place);
     takingUp = false;
     if (builder->rowCount() == 0)
         resetRowBkColor();
-    else if (shownShift % 2 != 0)
-        delegate->firstRowOdd = !delegate->firstRowOdd;
+    else
+        turnColoursFor(place - shownPlace);
     viewport()->update();
     if (othersComeOnScreen)
         emit scrolledVertically();
@@ -88,8 +89,8 @@ int CSuperSheetWnd::rowAtPlace(int place) const {
     return hidden->rowAt(place);
 }
 
-bool CSuperSheetWnd::isAtTop() const {
-    return verticalScrollBar()->value() == 0;
+bool CSuperSheetWnd::showsWhatComes() const {
+    return verticalScrollBar()->value() == 0 && !held;
 }
 
 bool CSuperSheetWnd::isInSight(int row) const {
@@ -118,8 +119,9 @@ void CSuperSheetWnd::changeSight(std::vector<int> hide, std::vector<int> show) {
     if (builder == nullptr || model() == nullptr)
         return;
     takeUpRows();
-    const bool wasAtTop = isAtTop();
-    const int first = rowAtPlace(verticalScrollBar()->value());
+    const bool wasAtTop = showsWhatComes();
+    const int before = verticalScrollBar()->value();
+    const int first = rowAtPlace(before);
     std::erase_if(hide, [this](int row) { return row < 0 || row >= builder->rowCount(); });
     const std::vector<int> hiding = hidden->hide(std::move(hide));
     const std::vector<int> showing = hidden->show(std::move(show));
@@ -138,6 +140,7 @@ void CSuperSheetWnd::changeSight(std::vector<int> hide, std::vector<int> show) {
     viewport()->update();
     if (takingUp)
         return;
+    turnColoursFor(hidden->placeOf(first) - before);
     if (!wasAtTop)
         verticalScrollBar()->setValue(hidden->placeOf(first));
     emit scrolledVertically();
@@ -182,5 +185,11 @@ void CSuperSheetWnd::keepRowColours(int firstRow, int count) {
     if (builder->rowCount() == 0 || (firstRow == 0 && builder->rowCount() == count))
         resetRowBkColor();
     else if (firstRow == 0 && count % 2 == 1)
+        delegate->firstRowOdd = !delegate->firstRowOdd;
+}
+
+// What stays on screen keeps its colour.
+void CSuperSheetWnd::turnColoursFor(int placesMoved) {
+    if (placesMoved % 2 != 0)
         delegate->firstRowOdd = !delegate->firstRowOdd;
 }

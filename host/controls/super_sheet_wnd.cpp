@@ -29,6 +29,7 @@ CSuperSheetWnd::CSuperSheetWnd(CSheetBuilder* sheetBuilder, QWidget* parent)
       hidden(std::make_unique<HiddenRows>()) {
     if (builder != nullptr)
         builder->setParent(this);
+    delegate->hidden = hidden.get();
     setItemDelegate(delegate);
     setHorizontalHeader(header);
     // Per row work in the header is what makes many rows dear: one fixed height, nothing measured.
@@ -88,7 +89,9 @@ void CSuperSheetWnd::connectRows() {
             [=](const QModelIndex&, int first, int last) { keepLook(first, last, false); });
     connect(builder, &CSheetBuilder::queueAboutToBeTakenUp, this, [this] {
         takingUp = true;
-        shownFirst = isAtTop() ? 0 : rowAtPlace(verticalScrollBar()->value());
+        showsNewest = showsWhatComes();
+        shownPlace = verticalScrollBar()->value();
+        shownFirst = rowAtPlace(shownPlace);
         shownShift = builder->queuedShift(shownFirst);
         othersComeOnScreen = mayShowOthers();
         if (const RowRuns* queued = builder->queued())

@@ -107,6 +107,10 @@ public:
     void resetScroll();
     // Scrolls no further than brings the row fully into sight.
     void vAutoVerScrolling(int row);
+    // While it is held the rows on screen keep their places also at its top, as far as there are rows below
+    // them.
+    void setHeld(bool hold) { held = hold; }
+    bool isHeld() const { return held; }
     // As far as there are rows below it.
     void setFirstVisibleRow(int row);
     // 0 also when there are no rows in sight.
@@ -185,6 +189,7 @@ private:
     void sectionResized(int column, int size);
     void stretchLastColumn();
     void applyHeights();
+    void turnColoursFor(int placesMoved);
     void keepRowColours(int firstRow, int count);
     void keepSight(int firstRow, int count, bool came);
     void takeUpRows() const;
@@ -195,7 +200,7 @@ private:
     int rowAtHeight(int y) const;
     // The place of a row among those in sight is the scroll bar's value.
     int rowAtPlace(int place) const;
-    bool isAtTop() const;
+    bool showsWhatComes() const;
     void hoverAt(int y);
     bool showToolTip(const QHelpEvent& event);
     QString headerTexts() const;
@@ -214,8 +219,11 @@ private:
     int hoverY = -1;  // of the pointer over the rows; -1: it is elsewhere
     bool stretching = false;
     bool lastColumnStretches = true;
+    int shownPlace = 0;
     int shownFirst = 0;  // the first visible row before and after rows are taken up
     int shownShift = 0;
+    bool showsNewest = true;
+    bool held = false;
     bool othersComeOnScreen = false;
     bool takingUp = false;
 };

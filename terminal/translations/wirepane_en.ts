@@ -2063,6 +2063,26 @@
         <source></source>
         <translation>%1 unfolded below</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_HOLD_LIST">
+        <source></source>
+        <translation>Hold &amp;List</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HELD_LIST">
+        <source></source>
+        <translation>Held</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HELD_WAITING">
+        <source></source>
+        <translation>%1 waiting</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HELD_MATCHING">
+        <source></source>
+        <translation>%1 waiting, %2 match</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_LET_LIST_GO">
+        <source></source>
+        <translation>%1, let the list go on</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
         <source></source>
         <translation>%1 new</translation>

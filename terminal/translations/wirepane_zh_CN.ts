@@ -2063,6 +2063,26 @@
         <source></source>
         <translation>其下已展开 %1 条</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_HOLD_LIST">
+        <source></source>
+        <translation>冻结列表(&amp;L)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HELD_LIST">
+        <source></source>
+        <translation>已冻结</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HELD_WAITING">
+        <source></source>
+        <translation>%1 条等候中</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HELD_MATCHING">
+        <source></source>
+        <translation>%1 条等候中，%2 条符合</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_LET_LIST_GO">
+        <source></source>
+        <translation>%1，恢复更新</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
         <source></source>
         <translation>%1 条新闻</translation>

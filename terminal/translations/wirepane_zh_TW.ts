@@ -2063,6 +2063,26 @@
         <source></source>
         <translation>其下已展開 %1 則</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_HOLD_LIST">
+        <source></source>
+        <translation>凍結清單(&amp;L)</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HELD_LIST">
+        <source></source>
+        <translation>已凍結</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HELD_WAITING">
+        <source></source>
+        <translation>%1 則等候中</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_HELD_MATCHING">
+        <source></source>
+        <translation>%1 則等候中，%2 則符合</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_LET_LIST_GO">
+        <source></source>
+        <translation>%1，恢復更新</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_NEW_ABOVE">
         <source></source>
         <translation>%1 則新聞</translation>

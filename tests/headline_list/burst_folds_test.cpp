@@ -186,6 +186,14 @@ TEST_F(FoldedRows, LeaveTheRowThatIsReadInSight) {
     EXPECT_EQ(inSight(), (std::vector<int>{0, 5, 6})) << "he has gone on";
 }
 
+TEST_F(FoldedRows, WaitWhileTheListIsHeld) {
+    list(ListIndex::All).hold(true);
+    come(6);
+    EXPECT_EQ(inSight().size(), 6U);
+    list(ListIndex::All).hold(false);
+    EXPECT_EQ(inSight(), (std::vector<int>{0, 4, 5}));
+}
+
 TEST_F(FoldedRows, OutliveReadingTheListInPlaceAndNoOtherReading) {
     come(6);
     HeadlineList& all = list(ListIndex::All);

@@ -2,15 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/arrival_pill.h"
 
+#include "headline_list/intake.h"
+#include "headline_list/news_key.h"
+#include "headline_list/relation_matcher.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/controls/window_id.h"
 #include "host/views/news_control_ids.h"
+#include "news_view/list_hold.h"
 #include "tests/news_view/fake_view.h"
 #include "tests/support/answering.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QTest>
+
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -32,12 +38,14 @@ protected:
     void setOption(bool on) {
         MemoryCfgIO stored;
         stored.setViewInfo({}, u"ArrivalPill"_s, on);
+        stored.setViewInfo({}, u"HoldLists"_s, on);
         view.settings.options = ViewOptions::read(stored, {});
     }
     void come(int count) {
         for (int i = 0; i < count; ++i, ++next) {
             const CHeadline headline{1, localTime(2026, 3, 2, 10, 0) + next, next, u"Fresh"_s, 0, 1, 0};
             pill.noteMoved(ListIndex::All, view.listOf(ListIndex::All).vProcessNewHeadline(headline, false));
+            hold.noteCome(ListIndex::All, {headline, none, none});
         }
         QApplication::processEvents();
     }
@@ -50,7 +58,14 @@ protected:
     FakeBackEnd backEnd;
     FakeView view{backEnd};
     const CommonParts parts = view.parts();
-    ArrivalPill pill{view, parts};
+    RelationMatcher keySets;
+    ListHold hold{view, parts, [this]() -> const RelationMatcher& { return keySets; },
+                  [this] { pill.followSoon(); }};
+    ArrivalPill pill{
+        view,
+        parts,
+        {[this](ListIndex list) { return hold.heldAt(list); }, [this](ListIndex list) { hold.letGo(list); }}};
+    const QString none;
     int next = 100;
 };
 
@@ -97,6 +112,46 @@ TEST_F(ArrivalPillTest, GoesWithItsListAndTakesTheKeyboardNowhere) {
     EXPECT_EQ(said(), QString()) << "the rows are others now";
 }
 
+TEST_F(ArrivalPillTest, SaysWhatWaitsWhileTheListIsHeldAndLetsItGo) {
+    const auto press = [this] {
+        EXPECT_TRUE(hold.carryOut(ids::holdList));
+        QApplication::processEvents();
+    };
+    const std::vector<CNewsKey> wanted{CNewsKey(CNewsKey::any, {CNewsKey::everyNewsType}, {u"FRESH"_s})};
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_HELD_LIST"_s] = u"Held"_s;
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_HELD_WAITING"_s] = u"%1 waiting"_s;
+    backEnd.texts[u"IDS_NEWSCTRLVIEW_HELD_MATCHING"_s] = u"%1 waiting, %2 match"_s;
+    view.grid()->setActiveSelection(2, -1);
+    press();
+    EXPECT_EQ(said(), u"Held"_s);
+    come(2);
+    EXPECT_EQ(said(), u"2 waiting"_s);
+    keySets = RelationMatcher(wanted);
+    come(1);
+    EXPECT_EQ(said(), u"3 waiting, 1 match"_s);
+    EXPECT_EQ(view.grid()->firstVisibleRow(), 3) << "it stood at its top, and stands still";
+    EXPECT_EQ(view.grid()->cptGetFocusNdx().y(), 5) << "the same headline";
+    EXPECT_EQ(view.listOf(ListIndex::All).headlineTable().size(), 62) << "nothing is held back";
+    view.grid()->setFirstVisibleRow(1);
+    QApplication::processEvents();
+    EXPECT_EQ(said(), u"1 waiting, 1 match"_s) << "two are on screen now";
+    press();
+    EXPECT_EQ(view.grid()->firstVisibleRow(), 0) << "it goes on where it stood";
+    EXPECT_EQ(said(), QString());
+    come(1);
+    EXPECT_EQ(view.grid()->firstVisibleRow(), 0);
+
+    view.grid()->setFirstVisibleRow(20);
+    press();
+    come(1);
+    press();
+    EXPECT_EQ(view.grid()->firstVisibleRow(), 21) << "it stood further down";
+    press();
+    EXPECT_TRUE(pill.carryOut(ids::showNewest));
+    EXPECT_EQ(view.grid()->firstVisibleRow(), 0);
+    EXPECT_FALSE(hold.isHeld(ListIndex::All));
+}
+
 TEST_F(ArrivalPillTest, IsNotThereUnasked) {
     setOption(false);
     view.grid()->setFirstVisibleRow(20);
@@ -104,6 +159,8 @@ TEST_F(ArrivalPillTest, IsNotThereUnasked) {
     EXPECT_EQ(dlgItem(&view.window, ids::showNewest), nullptr);
     pill.carryOut(ids::showNewest);
     EXPECT_EQ(view.grid()->firstVisibleRow(), 23);
+    hold.carryOut(ids::holdList);
+    EXPECT_FALSE(hold.isHeld(ListIndex::All));
 }
 
 }  // namespace

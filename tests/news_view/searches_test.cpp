@@ -281,7 +281,7 @@ protected:
          [this](ListIndex list, const HeadlinePlace& place) {
              told.append(u"%1: %2 %3"_s.arg(static_cast<int>(list)).arg(place.oldRow).arg(place.row));
          },
-         [this] { view.calls.append(u"forget story"_s); },
+         [](ListIndex, const PushedHeadline&) {}, [this] { view.calls.append(u"forget story"_s); },
          [this](const CHeadline& pushed, const QString& category) {
              told.append(u"pushed %1 %2"_s.arg(pushed.sequence).arg(category));
          }}};
