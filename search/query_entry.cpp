@@ -103,7 +103,7 @@ EntryLists listsOfCondition(const EnteredCondition& condition) {
 }
 
 QString textOf(const QueryFault& fault) {
-    return langText(keyOf(fault.kind)).arg(QString::number(fault.position + 1), fault.found);
+    return langText(keyOf(fault.kind)).arg(QString::number(fault.character), fault.found);
 }
 
 std::optional<SearchLanguage> askLanguage(QWidget* below, const QString& query, QueryUse use) {

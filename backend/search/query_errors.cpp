@@ -21,7 +21,7 @@ Error errorOf(const QueryFault& fault) {
     const ErrorCode& code = *codes.at(std::size_t(fault.kind));
     std::vector<ErrorArgument> arguments;
     if (fault.kind != QueryFaultKind::Empty)
-        arguments = {ErrorArgument(fault.position + 1), ErrorArgument(fault.found)};
+        arguments = {ErrorArgument(fault.character), ErrorArgument(fault.found)};
     return {code, std::move(arguments)};
 }
 

@@ -115,10 +115,11 @@ public:
 
     ReadQuery read() {
         if (text.size() > longestQuery)
-            return QueryFault{Fault::TooLong, longestQuery, QString::number(longestQuery)};
+            return QueryFault{Fault::TooLong, longestQuery, QString::number(longestQuery),
+                              characterAt(longestQuery)};
         skipBlanks();
         if (at == text.size())
-            return QueryFault{Fault::Empty, 0, {}};
+            return QueryFault{};
         auto root = readAny();
         if (root && at < text.size())
             root = fail(Fault::CloseBracket, at, 1);
@@ -129,8 +130,12 @@ private:
     using Node = std::optional<QueryNode>;
 
     std::nullopt_t fail(Fault kind, qsizetype position, qsizetype length) {
-        fault = {kind, position, text.mid(position, length).toString()};
+        fault = {kind, position, text.mid(position, length).toString(), characterAt(position)};
         return std::nullopt;
+    }
+    qsizetype characterAt(qsizetype position) const {
+        const QStringView before = text.first(position);
+        return 1 + std::count_if(before.begin(), before.end(), [](QChar c) { return !c.isLowSurrogate(); });
     }
     bool isAtEnd() const { return at == text.size(); }
     bool isAt(bool (*sign)(QChar)) const { return !isAtEnd() && sign(text[at]); }

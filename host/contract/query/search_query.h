@@ -75,8 +75,9 @@ enum class QueryFaultKind {
 
 struct QueryFault {
     QueryFaultKind kind = QueryFaultKind::Empty;
-    qsizetype position = 0;  // in UTF-16 code units, from 0
-    QString found;           // what stands there
+    qsizetype position = 0;   // in UTF-16 code units, from 0
+    QString found;            // what stands there
+    qsizetype character = 1;  // the place as one counts it: an ideograph of two code units is one
 };
 
 inline constexpr qsizetype longestQuery = 2000;  // UTF-16 code units

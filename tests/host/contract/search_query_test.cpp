@@ -138,6 +138,26 @@ TEST(SearchQuery, NamesThePlaceOfAFault) {
         EXPECT_TRUE(std::holds_alternative<QueryNode>(readQuery(atLimit))) << atLimit.toStdString();
 }
 
+// As one counts them, also behind ideographs of two code units and with the signs that input methods write.
+TEST(SearchQuery, CountsThePlaceOfAFaultInCharacters) {
+    const std::vector<std::pair<QString, int>> cases{{u" "_s, 1},
+                                                     {u"𠮷野家 OR 吉野家"_s, 5},
+                                                     {u"𠮷田　𠮷田　）"_s, 7},
+                                                     {u"𠮷 （title:(𠮷 from:today)）"_s, 13},
+                                                     {u"“𠮷” “gold"_s, 5},
+                                                     {u"gold ｜ ｜ 𠮷"_s, 8},
+                                                     {u"𠮷 on：明天"_s, 6},
+                                                     {u"𠮷 －－gold"_s, 3},
+                                                     {u"𠮷 |"_s, 4},
+                                                     {u"story:(gold (mine titel:x))"_s, 19},
+                                                     {u"𠮷"_s.repeated(1001), 1001}};
+    for (const auto& [query, character] : cases) {
+        const ReadQuery read = readQuery(query);
+        ASSERT_TRUE(std::holds_alternative<QueryFault>(read)) << query.left(40).toStdString();
+        EXPECT_EQ(std::get<QueryFault>(read).character, character) << query.left(40).toStdString();
+    }
+}
+
 // A headline has no story yet, and is looked at as it comes.
 TEST(SearchQuery, ForHeadlinesRefusesWhatNeedsMore) {
     const std::vector<std::pair<QString, QString>> cases{
