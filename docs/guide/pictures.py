@@ -19,8 +19,10 @@ import threading
 MOMENT = "2026-03-02T10:30:00"
 ALL, CATEGORY, SYMBOL, SEARCH, RELATION, WARRANTS, WARNINGS = range(7)
 TABS, SEARCH_EDIT, SEARCH_BUTTON, SHOW_TYPE = 3100, 3008, 3007, 25458
-DEALS_DIALOG, RELATION_DIALOG, WARNING_DIALOG = 3002, 3001, 3006
+DEALS_DIALOG, RELATION_DIALOG, WARNING_DIALOG, EXPORT_LIST = 3002, 3001, 3006, 3030
 WORDS = {"en": ("rate", "bank"), "zh-TW": ("市場", "銀行"), "zh-CN": ("公司", "银行")}
+SEARCH_NAMES = {"en": ("Interest rates", "Central banks"), "zh-TW": ("市場消息", "市場與銀行"), "zh-CN": ("公司消息", "公司与银行")}
+NOT_FOUND = {"en": "rate bank statement on:today", "zh-TW": "市場 銀行 on:today", "zh-CN": "公司 银行 on:today"}
 
 LIST_PORT = 8719  # always the same, because the picture names it
 LIST_TITLES = {"en": "Announcements", "zh-TW": "重大訊息", "zh-CN": "重大讯息"}
@@ -53,8 +55,11 @@ class Terminal:
         self.language = language
         arguments = ["--automation", "--offscreen", "--sample", "--now", MOMENT, "--lang", language]
         arguments += ["--store", str(work / "news"), "--config", str(work / "config")]
+        # File dialogs show where it runs, and whose home it is.
+        desk = work / "user" / "news"
+        desk.mkdir(parents=True)
         self.process = subprocess.Popen([program, *arguments], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True,
-                                        env=dict(os.environ, TZ="Asia/Taipei"))
+                                        cwd=desk, env=dict(os.environ, TZ="Asia/Taipei", HOME=str(desk.parent)))
         self.number = 0
 
     def ask(self, method: str, **params):
@@ -87,6 +92,10 @@ class Guide:
         if shutil.which("pngquant"):
             subprocess.run(["pngquant", "--force", "--ext", ".png", "--speed", "1", "64", path], check=True)
         print(name)
+
+    def open_anew(self, height: int):
+        self.ask("view.close")
+        self.ask("view.open", size=[1000, height], mask=127, own=True)
 
     def press(self, button: int):
         self.ask("input.click", target=button)
@@ -132,11 +141,12 @@ class Guide:
     def searches(self):
         word, other = WORDS[self.terminal.language]
         self.show_mode(SEARCH)
-        self.ask("control.set", id=SEARCH_EDIT, text=f"{word} -{other}")
-        self.ask("view.command", id=SEARCH_BUTTON)
-        self.terminal.settle()
+        self.search_for(f"{word} -{other}")
         self.read(SEARCH)
         self.picture("quick-search")
+        self.search_box()
+        self.open_anew(690)  # the dialog is higher than the usual window
+        self.show_mode(SEARCH)
         self.ask("view.command", id=DEALS_DIALOG)
         for keyword in (word, other):
             self.ask("dialog.set", id=2061, text=keyword)
@@ -152,6 +162,38 @@ class Guide:
         self.picture("symbol-picker")
         self.ask("dialog.close")
         self.ask("dialog.close")
+        self.open_anew(620)
+
+    def search_for(self, text: str):
+        self.ask("control.set", id=SEARCH_EDIT, text=text)
+        self.ask("view.command", id=SEARCH_BUTTON)
+        self.terminal.settle()
+
+    def press_keys(self, *keys: str, **where):
+        for key in keys:
+            self.ask("input.key", key=key, **where)
+            self.terminal.settle()
+
+    def search_box(self):
+        """What drops down from it, what it offers where nothing is found, and where its results go."""
+        word, other = WORDS[self.terminal.language]
+        for text, name in zip((word, f"{word} | {other}"), SEARCH_NAMES[self.terminal.language]):
+            self.search_for(text)
+            self.press_keys("Alt+Down", target=SEARCH_EDIT)
+            self.press_keys("Up", "Up", "Return")  # saves it
+            self.ask("input.type", text=name)
+            self.press_keys("Return")
+        self.search_for(NOT_FOUND[self.terminal.language])
+        self.picture("search-offers")
+        self.press_keys("Alt+Down", target=SEARCH_EDIT)
+        self.picture("search-box")
+        self.press_keys("Escape")
+        self.search_for(word)
+        self.ask("menu.open", row=1)
+        self.ask("menu.choose", id=EXPORT_LIST)
+        self.press_keys("Tab", "Alt+Down")
+        self.picture("export-list")
+        self.press_keys("Escape", "Escape")
 
     def standing_searches(self):
         word, other = WORDS[self.terminal.language]
@@ -173,8 +215,7 @@ class Guide:
         word, other = WORDS[self.terminal.language]
         # With both kinds of standing searches on, a view loads nothing but searches.
         self.ask("host.set", switches={"ShowNormalSearch": 0, "ShowWarningSearch": 1})
-        self.ask("view.close")
-        self.ask("view.open", size=[1000, 620], mask=127, own=True)
+        self.open_anew(620)
         self.show_mode(WARNINGS)
         self.ask("view.command", id=WARNING_DIALOG)
         self.ask("dialog.click", id=3)
@@ -225,7 +266,7 @@ class Guide:
 
 
 def main() -> int:
-    program = sys.argv[1]
+    program = os.path.abspath(shutil.which(sys.argv[1]) or sys.argv[1])
     folder = pathlib.Path(sys.argv[2]) if len(sys.argv) > 2 else pathlib.Path(__file__).resolve().parent / "pictures"
     folder.mkdir(parents=True, exist_ok=True)
     # A fixed place, because the status bar names it.

@@ -134,8 +134,7 @@ private:
         return std::nullopt;
     }
     qsizetype characterAt(qsizetype position) const {
-        const QStringView before = text.first(position);
-        return 1 + std::count_if(before.begin(), before.end(), [](QChar c) { return !c.isLowSurrogate(); });
+        return 1 + std::ranges::count_if(text.first(position), [](QChar c) { return !c.isLowSurrogate(); });
     }
     bool isAtEnd() const { return at == text.size(); }
     bool isAt(bool (*sign)(QChar)) const { return !isAtEnd() && sign(text[at]); }
