@@ -28,7 +28,7 @@ HeadlineList::HeadlineList(const ListKind& listKind, BKQuoteInterface& newsBackE
     : kind(listKind),
       backEnd(newsBackEnd),
       owner(listOwner),
-      state(std::make_unique<State>()),
+      state(std::make_unique<State>(newsBackEnd)),
       table(state->table),
       cells(state->cells),
       heldPlace(state->heldPlace) {
@@ -189,6 +189,8 @@ const HeadlineColumnKind* HeadlineList::columnAt(int place) const {
 }
 
 QString HeadlineList::text(int row, int column) const {
+    if (state->prices.holds(column) && row >= 0 && row < table.size())
+        return state->prices.text(keyOf(table.at(row)), column);
     const WrittenCells* written = cellsOf(row);
     const HeadlineColumnKind* shown = columnAt(column);
     if (written == nullptr || shown == nullptr)
@@ -202,6 +204,8 @@ QString HeadlineList::text(int row, int column) const {
 }
 
 QColor HeadlineList::textColour(int row, int column) const {
+    if (state->prices.holds(column) && row >= 0 && row < table.size())
+        return state->prices.colour(keyOf(table.at(row)), column);
     const HeadlineColumnKind* shown = columnAt(column);
     if (shown == nullptr || shown->colour == nullptr || row < 0 || row >= table.size())
         return {};

@@ -70,6 +70,8 @@ public:
     void measureColumns();
     // A column in its width, or out of sight.
     void showColumn(HeadlineColumn column, bool show);
+    // Whether it has the columns of prices; nothing where they are not to be had.
+    std::optional<bool> showsPrices() const;
     // The widths that the user has given by hand, as a text to keep; empty: none. Only columns that are
     // measured keep them.
     QString keptWidths() const;

@@ -20,6 +20,13 @@ HeadlineLists::HeadlineLists(BKQuoteInterface& newsBackEnd, ListOwner& listOwner
 
 HeadlineLists::~HeadlineLists() = default;
 
+void HeadlineLists::setOptions(const ViewOptions& options) {
+    for (const auto& list : lists) {
+        if (list->grid() != nullptr)
+            list->setOptions(options);
+    }
+}
+
 template <class Fill>
 bool HeadlineLists::rebuildFrom(ListIndex index, RelationFilter filter, Fill fill) {
     HeadlineList& list = (*this)[index];

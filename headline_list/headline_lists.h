@@ -21,6 +21,7 @@ class HeadlineList;
 class ListOwner;
 class NewsPositions;
 class RelationMatcher;
+class ViewOptions;
 enum class TableKind : int;
 struct ServiceEntry;
 
@@ -33,6 +34,8 @@ public:
     HeadlineList& operator[](ListIndex list) { return *lists[static_cast<std::size_t>(list)]; }
     const HeadlineList& operator[](ListIndex list) const { return *lists[static_cast<std::size_t>(list)]; }
 
+    // For all that have a grid.
+    void setOptions(const ViewOptions& options);
     // Called each time that a list has been read anew.
     void setOnRead(std::function<void()> call) { onRead = std::move(call); }
 

@@ -22,6 +22,12 @@ using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
+namespace {
+
+constexpr int pricesShown = 2;  // ViewOption::PriceColumns
+
+}  // namespace
+
 void HeadlineList::setOptions(const ViewOptions& options) {
     state->options = options;
     if (sheet == nullptr)
@@ -35,6 +41,11 @@ void HeadlineList::setOptions(const ViewOptions& options) {
 
 void HeadlineList::measureColumns() {
     state->serviceNames.clear();
+    if (sheet != nullptr) {
+        state->prices.show(*sheet, state->options.value(ViewOption::PriceColumns) == pricesShown);
+        sheet->stretchInstead(state->prices.areShown() ? placeOf(HeadlineColumn::Title, owner.GetNewsType())
+                                                       : -1);
+    }
     if (sheet == nullptr || !state->options[ViewOption::MeasuredColumns])
         return;
     QStringList headings;
@@ -43,6 +54,11 @@ void HeadlineList::measureColumns() {
     state->widths.measure({sheet->font(), sheet->headingFont(), headings, owner.topicNames()},
                           state->options.value(ViewOption::RowGutter), kind.showDate);
     applyWidths();
+}
+
+std::optional<bool> HeadlineList::showsPrices() const {
+    const int setting = state->options.value(ViewOption::PriceColumns);
+    return setting > 0 && state->prices.arePossible() ? std::optional(setting == pricesShown) : std::nullopt;
 }
 
 void HeadlineList::applyWidths() {
@@ -111,7 +127,7 @@ QList<SheetHit> HeadlineList::hits(const QString& cellText, int column) const {
 
 bool HeadlineList::holdsFigures(int column) const {
     const HeadlineColumnKind* shown = columnAt(column);
-    return shown != nullptr && shown->column == HeadlineColumn::Time;
+    return state->prices.holds(column) || (shown != nullptr && shown->column == HeadlineColumn::Time);
 }
 
 QString HeadlineList::serviceName(unsigned char service) const {

@@ -247,6 +247,13 @@ inline constexpr QLatin1StringView savedNameTwice{"IDS_NEWSCTRLVIEW_SAVED_NAME_T
 inline constexpr QLatin1StringView savedTooMany{"IDS_NEWSCTRLVIEW_SAVED_TOO_MANY"};
 inline constexpr QLatin1StringView savedFull{"IDS_NEWSCTRLVIEW_SAVED_FULL"};
 
+// The columns of prices.
+inline constexpr QLatin1StringView priceThen{"IDS_NEWSCTRLVIEW_STRING_PRICE_THEN"};
+inline constexpr QLatin1StringView showPrices{"IDS_NEWSCTRLVIEW_STRING_SHOW_PRICES"};
+inline constexpr QLatin1StringView priceThenTip{"IDS_NEWSCTRLVIEW_STRING_PRICE_THEN_TIP"};
+inline constexpr QLatin1StringView largestMove{"IDS_NEWSCTRLVIEW_STRING_LARGEST_MOVE"};
+inline constexpr QLatin1StringView largestMoveTip{"IDS_NEWSCTRLVIEW_STRING_LARGEST_MOVE_TIP"};
+
 // What controls without a text are called.
 inline constexpr QLatin1StringView nameOfEarlierSearches{"IDS_NEWSCTRLVIEW_NAME_EARLIER_SEARCHES"};
 inline constexpr QLatin1StringView nameOfModes{"IDS_NEWSCTRLVIEW_NAME_MODES"};

@@ -8,6 +8,7 @@
 #include "headline_list/column_widths.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
+#include "headline_list/price_columns.h"
 #include "headline_list/reading_place.h"
 #include "host/contract/view_options.h"
 
@@ -24,11 +25,14 @@ class ReadingMarks;
 
 // What a headline list is made of. For its own files alone.
 struct HeadlineList::State {
+    explicit State(BKQuoteInterface& backEnd) : prices(backEnd) {}
+
     HeadlineTable table;
     CellState cells;
     std::optional<ReadingPlace> heldPlace;
     ViewOptions options;
     ColumnWidths widths;
+    PriceColumns prices;
     bool categoryShown = true;
     Arrivals arrivals;
     BurstFolds folds;

@@ -30,6 +30,7 @@ struct FullLine {
     bool ofExports = false;
     bool ofFolds = false;
     bool ofHold = false;
+    bool ofPrices = false;
 };
 
 constexpr std::array fullMenu{
@@ -48,6 +49,8 @@ constexpr std::array fullMenu{
     FullLine{0, {}},
     FullLine{ids::recoverStory, keys::recoverStory},
     FullLine{ids::recoverHeadlineTable, keys::recoverHeadlineList, QKeySequence::UnknownKey, false},
+    FullLine{ids::turnPrices, keys::showPrices, QKeySequence::UnknownKey, false, false, false, false, false,
+             true},
     FullLine{ids::changeCategoryState, kindOf(HeadlineColumn::Category).menuKey, QKeySequence::UnknownKey,
              false},
 };
@@ -58,7 +61,7 @@ std::vector<MenuEntry> fullEntries(const MenuSituation& situation, BKQuoteInterf
         const bool isTold = line.command != ids::recoverHeadlineTable || situation.mode <= ListIndex::Symbol;
         if (!isTold || (line.ofRow && !situation.onRow) || (line.ofMarks && !situation.hasMarks) ||
             (line.ofExports && !situation.canExport) || (line.ofFolds && !situation.hasFold) ||
-            (line.ofHold && !situation.canHold))
+            (line.ofHold && !situation.canHold) || (line.ofPrices && !situation.showsPrices))
             continue;
         if (line.command == 0) {
             entries.push_back({});
@@ -73,6 +76,8 @@ std::vector<MenuEntry> fullEntries(const MenuSituation& situation, BKQuoteInterf
             entries.back().checked = situation.isStarred;
         if (line.command == ids::holdList)
             entries.back().checked = situation.isHeld;
+        if (line.command == ids::turnPrices)
+            entries.back().checked = situation.showsPrices.value_or(false);
     }
     entries.back().checked = situation.showsCategory;
     return entries;

@@ -6,6 +6,7 @@
 #include "news_view/command_menu.h"
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class BKQuoteInterface;
@@ -17,16 +18,17 @@ class ViewContext;
 // What the context menu of a view depends on.
 struct MenuSituation {
     ListIndex mode = ListIndex::All;
-    bool onRow = false;           // it is asked for at a row of the grid
-    bool showsCategory = false;   // the category column is shown
-    bool hasStoryWindow = false;  // stories are shown in their window
-    bool isFull = false;          // ViewOption::RowMenu
-    bool hasMarks = false;        // ViewOption::ReadingMarks
-    bool isStarred = false;       // the row is
-    bool canHold = false;         // ViewOption::HoldLists
-    bool isHeld = false;          // the list is
-    bool hasFold = false;         // headlines are folded at the row, or were
-    bool canExport = false;       // the back end writes files of rows
+    bool onRow = false;                    // it is asked for at a row of the grid
+    bool showsCategory = false;            // the category column is shown
+    bool hasStoryWindow = false;           // stories are shown in their window
+    bool isFull = false;                   // ViewOption::RowMenu
+    bool hasMarks = false;                 // ViewOption::ReadingMarks
+    bool isStarred = false;                // the row is
+    bool canHold = false;                  // ViewOption::HoldLists
+    bool isHeld = false;                   // the list is
+    bool hasFold = false;                  // headlines are folded at the row, or were
+    bool canExport = false;                // the back end writes files of rows
+    std::optional<bool> showsPrices = {};  // nothing: there are none
 };
 
 // The lines of the menu: what can be done with the list and the row, with news that waits (`waiting`), and

@@ -102,6 +102,8 @@ bool TRVNewsCtrlView::Parts::takeRowCommand(int id) {
         story.openWindow();
     else if (id == ids::turnFold)
         listOf(shownList()).turnFold(currentRow());
+    else if (id == ids::turnPrices)
+        lists.setOptions(settings.turnPrices());
     else if (id == ids::turnChanges)
         story.turnChanges();
     else

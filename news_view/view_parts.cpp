@@ -242,7 +242,8 @@ ContextMenu::Surroundings TRVNewsCtrlView::Parts::contextMenuSurroundings() {
                     {modes.shown(), onRow, settings.showCategory, story.hasStoryWindow(),
                      settings.options[ViewOption::RowMenu], reading.isOn(), reading.isStarred(),
                      settings.options[ViewOption::HoldLists], hold.isHeld(shownList()),
-                     listOf(shownList()).isFold(currentRow()), rowsExport.isPossible()},
+                     listOf(shownList()).isFold(currentRow()), rowsExport.isPossible(),
+                     listOf(shownList()).showsPrices()},
                     backEnd, output.waitingCommands(), board.notices());
             }};
 }

@@ -73,6 +73,15 @@ ViewSettings ViewSettings::read(const TRVCfgIO2& reader, const ViewSettingPath& 
     return settings;
 }
 
+const ViewOptions& ViewSettings::turnPrices() {
+    constexpr int offered = 1;
+    constexpr int shown = 2;
+    const int setting = options.value(ViewOption::PriceColumns);
+    if (setting > 0)
+        options.set(ViewOption::PriceColumns, setting == shown ? offered : shown);
+    return options;
+}
+
 void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
     writer.setViewInfo(path, functionsKey, static_cast<int>(functions));
     writer.setViewInfo(path, showTypeKey, static_cast<int>(newsShowType));
@@ -91,6 +100,9 @@ void ViewSettings::write(TRVCfgIO2& writer, const ViewSettingPath& path) const {
         writer.setViewInfo(path, storySizeKey, storySize);
     if (options[ViewOption::StoryWindow])
         writer.setViewInfo(path, windowPlacesKey, storyWindowPlaces);
+    if (options[ViewOption::PriceColumns])
+        writer.setViewInfo(path, QString(rowOf(ViewOption::PriceColumns).key),
+                           options.value(ViewOption::PriceColumns));
     if (options[ViewOption::NamedSearches])
         writer.setViewInfo(path, namedSearchKey, namedSearch);
 }

@@ -42,10 +42,12 @@ struct ViewSettings {
     // "NamedSearch": the name of the search that the search mode shows; only a view with named searches
     // writes it
     QString namedSearch;
-    ViewOptions options;  // the host's choice: never written back
+    ViewOptions options;  // the host's choice: never written back, but for what turnPrices() turns
 
     // `defaultTab`: the focused tab when none is stored.
     static ViewSettings read(const TRVCfgIO2& reader, const ViewSettingPath& path, int defaultTab);
+    // Shows the columns of prices, or hides them, where the settings offer them. The options then.
+    const ViewOptions& turnPrices();
     void write(TRVCfgIO2& writer, const ViewSettingPath& path) const;
 };
 

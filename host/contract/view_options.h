@@ -62,6 +62,7 @@ enum class ViewOption {
     OtherYears,       // rows of another year than the present one show their day with its year
     MarkHits,         // what was searched for is marked in titles and stories, a tint for each word
     SearchOffers,     // a search that finds nothing offers what would find something, with counts
+    PriceColumns,     // 1: the menu offers what prices have done since the headlines; 2: lists show it
     Count
 };
 
@@ -118,6 +119,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::OtherYears, QLatin1StringView("OtherYears")},
     {ViewOption::MarkHits, QLatin1StringView("MarkHits")},
     {ViewOption::SearchOffers, QLatin1StringView("SearchOffers")},
+    {ViewOption::PriceColumns, QLatin1StringView("PriceColumns"), 2, 1},
 }};
 
 constexpr const ViewOptionRow& rowOf(ViewOption option) {
@@ -136,6 +138,7 @@ public:
 
     bool operator[](ViewOption option) const { return value(option) != 0; }
     int value(ViewOption option) const { return values[static_cast<std::size_t>(option)]; }
+    void set(ViewOption option, int value) { values[static_cast<std::size_t>(option)] = value; }
 
 private:
     std::array<int, viewOptionTable.size()> values{};

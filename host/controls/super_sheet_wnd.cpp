@@ -241,14 +241,21 @@ void CSuperSheetWnd::stretchLast(bool stretch) {
     stretchLastColumn();
 }
 
+void CSuperSheetWnd::stretchInstead(int column) {
+    stretched = column;
+    stretchLastColumn();
+}
+
 void CSuperSheetWnd::stretchLastColumn() {
     const auto shown = std::find_if(widths.rbegin(), widths.rend(), [](int width) { return width > 0; });
     if (shown == widths.rend() || stretching)
         return;
-    const int last = static_cast<int>(widths.rend() - shown) - 1;
+    const int last = hasColumn(stretched) ? stretched : static_cast<int>(widths.rend() - shown) - 1;
     stretching = true;
     int others = 0;
-    for (int column = 0; column < last; ++column) {
+    for (int column = 0; column < static_cast<int>(widths.size()); ++column) {
+        if (column == last || widths[column] == 0)
+            continue;
         others += widths[column];
         setColumnWidth(column, widths[column]);
     }

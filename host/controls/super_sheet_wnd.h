@@ -59,6 +59,8 @@ public:
     void insertColumn(int width, Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter,
                       const QString& key = {});
     void stretchLast(bool stretch);
+    // This one is stretched in place of the last.
+    void stretchInstead(int column);
     // The header texts are the sheet's accessible name, until another one is set.
     void setHeaderText(int column, const QString& text, const QString& toolTip = {});
     // The column that was inserted with the key; -1: none was.
@@ -220,6 +222,7 @@ private:
     bool stretching = false;
     bool lastColumnStretches = true;
     int shownPlace = 0;
+    int stretched = -1;  // in place of the last column; -1: none is
     int shownFirst = 0;  // the first visible row before and after rows are taken up
     int shownShift = 0;
     bool showsNewest = true;

@@ -47,6 +47,7 @@ inline constexpr int exportRows = 3030;   // a menu command alone: the news of a
 inline constexpr int showNewest = 3031;   // the button over a list, and a menu command: to its top
 inline constexpr int turnFold = 3032;     // a menu command alone: what is folded at the current row
 inline constexpr int holdList = 3033;     // a menu command alone: the list stands still, or goes on
+inline constexpr int turnPrices = 3040;   // a menu command alone: the columns of prices, or none
 inline constexpr int tabStrip = 3100;
 inline constexpr int pageDownButton = 8067;
 inline constexpr int pageUpButton = 8068;

@@ -128,11 +128,8 @@ void QuoteListBaseView::changeEvent(QEvent* event) {
 
 void QuoteListBaseView::vChangeCast() {
     TRVQuoteBaseView::vChangeCast();
-    const bool dark = colBackground.lightness() < 128;
-    riseColour =
-        hostColour(u"COLOR_QUOTE_RISE"_s, dark ? QColor(0xFF, 0x7B, 0x7B) : QColor(0xC0, 0x26, 0x26));
-    fallColour =
-        hostColour(u"COLOR_QUOTE_FALL"_s, dark ? QColor(0x4C, 0xC3, 0x8A) : QColor(0x14, 0x74, 0x3A));
+    riseColour = movementColour(1, colBackground);
+    fallColour = movementColour(-1, colBackground);
     if (sheet == nullptr)
         return;
     applyHostScheme(*sheet, GetViewFont());

@@ -19,6 +19,16 @@ QColor hostColour(const QString& name, const QColor& fallback) {
     return colour.isValid() ? colour : fallback;
 }
 
+QColor movementColour(int direction, const QColor& ground) {
+    const bool dark = ground.lightness() < 128;
+    if (direction == 0)
+        return {};
+    return direction > 0
+               ? hostColour(u"COLOR_QUOTE_RISE"_s, dark ? QColor(0xFF, 0x7B, 0x7B) : QColor(0xC0, 0x26, 0x26))
+               : hostColour(u"COLOR_QUOTE_FALL"_s,
+                            dark ? QColor(0x4C, 0xC3, 0x8A) : QColor(0x14, 0x74, 0x3A));
+}
+
 void applyHostScheme(CSuperSheetWnd& sheet, const QFont& font) {
     const QPalette palette = QApplication::palette();
     const QColor background = hostColour(u"COLOR_LISTCTL_BACKGROUND"_s, palette.color(QPalette::Base));

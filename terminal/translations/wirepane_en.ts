@@ -1967,6 +1967,14 @@
         <source></source>
         <translation>without news for this date.</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_LARGEST_MOVE">
+        <source></source>
+        <translation>Largest move</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_LARGEST_MOVE_TIP">
+        <source></source>
+        <translation>How far the price has been from there since</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_LEFT_OUT">
         <source></source>
         <translation>Left out, as they have no story: %1</translation>
@@ -2027,6 +2035,14 @@
         <source></source>
         <translation>Space ticks, Shift+Space: only this</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRICE_THEN">
+        <source></source>
+        <translation>Price then</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRICE_THEN_TIP">
+        <source></source>
+        <translation>What the price was when the headline came, and its change since</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE">
         <source></source>
         <translation>the printer cannot be reached</translation>
@@ -2050,6 +2066,10 @@
     <message id="IDS_NEWSCTRLVIEW_NOTHING_MARKED">
         <source></source>
         <translation>Nothing is marked: the news store can only be read.</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SHOW_PRICES">
+        <source></source>
+        <translation>Prices Since Headlines</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_TURN_FOLD">
         <source></source>

@@ -1967,6 +1967,14 @@
         <source></source>
         <translation>这一天没有新闻。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_LARGEST_MOVE">
+        <source></source>
+        <translation>最大变动</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_LARGEST_MOVE_TIP">
+        <source></source>
+        <translation>其后价格离当时最远的变动</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_LEFT_OUT">
         <source></source>
         <translation>没有正文而略去：%1 则</translation>
@@ -2027,6 +2035,14 @@
         <source></source>
         <translation>空格键勾选，Shift+空格键只选这个</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRICE_THEN">
+        <source></source>
+        <translation>当时价格</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRICE_THEN_TIP">
+        <source></source>
+        <translation>消息发布时的价格及其后的变动</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE">
         <source></source>
         <translation>无法连接打印机</translation>
@@ -2050,6 +2066,10 @@
     <message id="IDS_NEWSCTRLVIEW_NOTHING_MARKED">
         <source></source>
         <translation>未作标记：新闻数据库只能读取。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SHOW_PRICES">
+        <source></source>
+        <translation>显示发布后价格</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_TURN_FOLD">
         <source></source>

@@ -1967,6 +1967,14 @@
         <source></source>
         <translation>這一天沒有新聞。</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_LARGEST_MOVE">
+        <source></source>
+        <translation>最大變動</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_LARGEST_MOVE_TIP">
+        <source></source>
+        <translation>其後價格離當時最遠的變動</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_LEFT_OUT">
         <source></source>
         <translation>沒有內文而略去：%1 則</translation>
@@ -2027,6 +2035,14 @@
         <source></source>
         <translation>空白鍵勾選，Shift+空白鍵只選這個</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRICE_THEN">
+        <source></source>
+        <translation>當時價格</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_PRICE_THEN_TIP">
+        <source></source>
+        <translation>消息發布時的價格及其後的變動</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_STRING_PRINTER_GONE">
         <source></source>
         <translation>無法連接印表機</translation>
@@ -2050,6 +2066,10 @@
     <message id="IDS_NEWSCTRLVIEW_NOTHING_MARKED">
         <source></source>
         <translation>未作標記：新聞資料庫只能讀取。</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_STRING_SHOW_PRICES">
+        <source></source>
+        <translation>顯示發布後價格</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_TURN_FOLD">
         <source></source>
