@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
 #include <memory>
 #include <opencc/Config.hpp>
 #include <opencc/Conversion.hpp>
@@ -84,12 +85,22 @@ bool isOfScriptWithoutBlanks(char32_t c) {
         case QChar::Script_Thai:
         case QChar::Script_Lao:
         case QChar::Script_Khmer:
-        case QChar::Script_Myanmar:
             return true;
         default:
-            // Belongs to several of them, as the long sound of Japanese does.
-            return c >= 0x3000 && c < 0x3200;
+            // Burmese without what other languages have added to its script, and what belongs to several
+            // scripts, as the long sound of Japanese does.
+            return (c >= 0x1000 && c < 0x10A0) || (c >= 0x3000 && c < 0x3200);
     }
+}
+
+bool isCircledHangul(char32_t c) {
+    return c >= 0x3260 && c < 0x327F;
+}
+
+// The last of what one character after another is a form of.
+char32_t formOf(char32_t c) {
+    const auto parts = QChar::decomposition(c).toUcs4();
+    return parts.size() == 1 && parts.front() < 0x10000 ? formOf(parts.front()) : c;
 }
 
 bool isLineEnd(char32_t c) {
@@ -139,15 +150,22 @@ private:
         // Raised and circled digits are no numbers beside which others may stand.
         if (QChar::category(c) == QChar::Number_Other)
             return given;
+        if (c >= 0x10000) {
+            const char32_t one = ideographs.representing(c);
+            return QString::fromUcs4(&one, 1);
+        }
+        // What stands for several characters stays itself, as a circled syllable of Korean does.
+        const char32_t form = formOf(c);
         QString base;
-        for (const char32_t part : given.normalized(QString::NormalizationForm_KD).toUcs4())
+        for (const char32_t part :
+             QString::fromUcs4(&form, 1).normalized(QString::NormalizationForm_KD).toUcs4())
             base += isAccent(part) ? QString() : QString::fromUcs4(&part, 1);
         const auto one = base.normalized(QString::NormalizationForm_C).toUcs4();
         if (one.isEmpty())
             return {};
-        // What stands for several characters stays itself.
-        const char32_t plain = ideographs.representing(
-            QChar::toCaseFolded(plainSign(one.size() == 1 ? one.front() : char32_t(c))));
+        const bool isOne = one.size() == 1 && !isCircledHangul(c);
+        const char32_t plain =
+            ideographs.representing(QChar::toCaseFolded(plainSign(isOne ? char32_t(one.front()) : form)));
         return QString::fromUcs4(&plain, 1);
     }
 
@@ -159,8 +177,9 @@ PlainWords::PlainWords() : folding(std::make_unique<Folding>()) {}
 PlainWords::~PlainWords() = default;
 
 QStringList PlainWords::of(const QString& text) const {
-    // A sign of full width is no part of a number of half width.
-    static const QRegularExpression sentenceSign(u"((?<![０-９])[，．]|[，．](?![０-９]))"_s);
+    // A sign of another width than the digits beside it is no part of their number.
+    static const QRegularExpression sentenceSign(
+        u"((?<![０-９])[，．]|[，．](?![０-９])|(?<=[０-９])[,.․﹐﹒]|[,.․﹐﹒](?=[０-９]))"_s);
     QString parted = text;
     parted.replace(sentenceSign, u" \\1 "_s);
     QString plain;

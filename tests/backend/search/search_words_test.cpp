@@ -4,10 +4,12 @@
 
 #include "backend/words/simplified_chinese.h"
 #include "fuzz/support/slow_words.h"
+#include "tests/backend/search/plain_words.h"
 #include "tests/support/qt_printers.h"
 
 #include <QDirIterator>
 #include <QFile>
+#include <QHash>
 
 #include <gtest/gtest.h>
 #include <random>
@@ -48,6 +50,31 @@ TEST(SearchWords, SplitAsTheyAreSearchedFor) {
     };
     for (const auto& [text, words] : cases)
         EXPECT_EQ(wordsOf(text), words);
+}
+
+// Which characters are alike, and which part what stands beside them, as a second reading of the rules has
+// it. Each folds to a character of its own choice, so that only what it makes alike is compared.
+TEST(SearchWords, OfEveryCharacterAreThoseOfTheScan) {
+    const PlainWords scan;
+    QHash<QString, QString> ofScan;
+    QHash<QString, QString> ofProgram;
+    for (char32_t c = 1; c < 0x10000; ++c) {
+        const QChar::Category category = QChar::category(c);
+        if (category >= QChar::Other_Surrogate && category <= QChar::Other_NotAssigned)
+            continue;
+        for (const QString& form : {u" %1 "_s, u"a%1b"_s, u"1%1234"_s, u"１%1２３４"_s}) {
+            const QString text = form.arg(QChar(char16_t(c)));
+            const QString words = wordsOf(text);
+            const QString scanned = scan.of(text).replaceInStrings(u"\n"_s, u"/"_s).join(u' ');
+            const bool isAlike = words.count(u' ') == scanned.count(u' ') &&
+                                 ofScan.value(words, scanned) == scanned &&
+                                 ofProgram.value(scanned, words) == words;
+            EXPECT_TRUE(isAlike) << "U+" << std::hex << unsigned(c) << ": " << words.toStdString() << ", "
+                                 << scanned.toStdString();
+            ofScan.insert(words, scanned);
+            ofProgram.insert(scanned, words);
+        }
+    }
 }
 
 TEST(SearchWords, OfBothScriptsAreOne) {
