@@ -18,6 +18,10 @@ std::optional<QByteArray> NewsRowMaker::row(const HeadlineKey& key) {
     if (const auto topic = reader.category(headline->service, headline->categoryId))
         row.topic = topic->name;
     row.symbols = reader.relatedSymbols(key).value_or(std::vector<CSymbolInfo>());
+    if (!row.symbols.empty()) {
+        if (const auto since = prices.since(row.symbols.front(), key.time))
+            row.prices = FrozenPrices{*since, asOf};
+    }
     if (const auto withdrawal = reader.state(key).withdrawal)
         row.withdrawn = withdrawal->reason;
     return newsRow(form, row, std::exchange(isFirst, false));

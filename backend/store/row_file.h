@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/store/price_book.h"
 #include "backend/store/store_reader.h"
+#include "host/contract/clock.h"
 #include "host/contract/news_row_files.h"
 
 #include <QByteArray>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
@@ -17,7 +20,8 @@ namespace wirepane {
 // outlive this.
 class NewsRowMaker {
 public:
-    NewsRowMaker(Database& database, NewsRowForm rowForm) : reader(database), form(rowForm) {}
+    NewsRowMaker(Database& database, NewsRowForm rowForm)
+        : reader(database), prices(database), asOf(host_clock::now()), form(rowForm) {}
 
     // Nothing where the headline is not there any more.
     std::optional<QByteArray> row(const HeadlineKey& key);
@@ -27,6 +31,8 @@ public:
 
 private:
     StoreReader reader;
+    PriceBook prices;
+    const std::int64_t asOf;  // of the prices
     const NewsRowForm form;
     bool isFirst = true;
 };

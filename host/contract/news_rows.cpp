@@ -17,7 +17,9 @@ namespace wirepane {
 
 namespace {
 
-constexpr auto headings = "time,service,service name,sequence,topic,symbols,title,story,pubstatus\r\n";
+constexpr auto headings =
+    "time,service,service name,sequence,topic,symbols,title,story,pubstatus,"
+    "price then,price,farthest price,price moment\r\n";
 
 // By market, as news is taken in.
 struct Exchange {
@@ -32,8 +34,28 @@ QString statusOf(const NewsRow& row) {
     return row.withdrawn ? u"canceled"_s : u"usable"_s;
 }
 
+QString momentText(std::int64_t moment) {
+    return QDateTime::fromSecsSinceEpoch(moment, QTimeZone::utc()).toString(Qt::ISODate);
+}
+
 QString momentOf(const CHeadline& headline) {
-    return QDateTime::fromSecsSinceEpoch(headline.time, QTimeZone::utc()).toString(Qt::ISODate);
+    return momentText(headline.time);
+}
+
+// In the order of the headings.
+QStringList pricesOf(const NewsRow& row) {
+    if (!row.prices)
+        return {{}, {}, {}, {}};
+    const PriceSince& since = row.prices->since;
+    const auto number = [](double price) { return QString::number(price, 'g', 15); };
+    return {number(since.then), number(since.now), number(since.farthest), momentText(row.prices->moment)};
+}
+
+QJsonObject priceObject(const FrozenPrices& prices) {
+    return {{u"then"_s, prices.since.then},
+            {u"now"_s, prices.since.now},
+            {u"farthest"_s, prices.since.farthest},
+            {u"moment"_s, momentText(prices.moment)}};
 }
 
 QStringList codesOf(const NewsRow& row) {
@@ -66,7 +88,7 @@ QByteArray csvLine(const NewsRow& row) {
                              paragraphsOf(row.story.value_or(QString()), u"\n"_s),
                              statusOf(row)};
     QStringList line;
-    for (const QString& field : fields)
+    for (const QString& field : fields + pricesOf(row))
         line += quoted(field);
     return line.join(u',').toUtf8() + "\r\n";
 }
@@ -91,6 +113,8 @@ QByteArray jsonObject(const NewsRow& row) {
                        {u"title"_s, row.headline.title},
                        {u"pubstatus"_s, statusOf(row)}};
     insertReason(object, row);
+    if (row.prices)
+        object.insert(u"prices"_s, priceObject(*row.prices));
     if (row.story)
         object.insert(u"story"_s, paragraphsOf(*row.story, u"\n"_s));
     return compact(object);

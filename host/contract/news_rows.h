@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/contract/export.h"
+#include "host/contract/price_history.h"
 #include "host/contract/records.h"
 
 #include <QByteArray>
@@ -26,6 +27,12 @@ WIREPANE_CONTRACT_EXPORT const QStringList& newsRowForms();
 WIREPANE_CONTRACT_EXPORT std::optional<NewsRowForm> newsRowFormOf(const QString& name);
 WIREPANE_CONTRACT_EXPORT std::optional<NewsRowForm> newsRowFormOfFile(const QString& file);
 
+// What the price of the first symbol had done since the headline, as of a moment (seconds since 1970, UTC).
+struct FrozenPrices {
+    PriceSince since;
+    std::int64_t moment = 0;
+};
+
 // One piece of news. Times are written in UTC, stories in lines. What was withdrawn is "canceled" in every
 // form.
 struct NewsRow {
@@ -33,8 +40,9 @@ struct NewsRow {
     QString service;  // its short name
     QString topic;
     std::vector<CSymbolInfo> symbols;
-    std::optional<QString> story;           // in wire form; nothing: it is still to come
-    std::optional<QString> withdrawn = {};  // its publisher has taken it back: why, as far as it said
+    std::optional<QString> story;             // in wire form; nothing: it is still to come
+    std::optional<QString> withdrawn = {};    // its publisher has taken it back: why, as far as it said
+    std::optional<FrozenPrices> prices = {};  // left out of ninjs records, which are taken in again
 };
 
 // The bytes of a row, in UTF-8 and with what goes before it: `isFirst` begins what the rows stand in.

@@ -3,13 +3,16 @@
 #include "backend/store/row_file.h"
 
 #include "backend/store/row_file_desk.h"
+#include "host/contract/clock.h"
 #include "tests/backend/store/store_fixture.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
+#include <QTimeZone>
 
 using namespace Qt::StringLiterals;
 
@@ -72,13 +75,44 @@ TEST_F(RowFileTest, WhatWasWithdrawnIsWithdrawnWhereAFileIsTakenIn) {
     EXPECT_EQ(rows[1].toObject()[u"pubstatus"_s].toString(), u"canceled"_s);
     EXPECT_EQ(rows[1].toObject()[u"ednote"_s].toString(), u"Wrong figure"_s);
     const QList<QByteArray> csv = written(NewsRowForm::Csv).trimmed().split('\n');
-    EXPECT_TRUE(csv[0].trimmed().endsWith(",pubstatus"));
-    EXPECT_TRUE(csv[1].trimmed().endsWith(",usable"));
-    EXPECT_TRUE(csv[2].trimmed().endsWith(",canceled"));
+    EXPECT_TRUE(csv[0].trimmed().endsWith(",pubstatus,price then,price,farthest price,price moment"));
+    EXPECT_TRUE(csv[1].trimmed().endsWith(",usable,,,,"));
+    EXPECT_TRUE(csv[2].trimmed().endsWith(",canceled,,,,"));
     const auto record =
         QJsonDocument::fromJson(written(NewsRowForm::Ninjs).trimmed().split('\n')[1]).object();
     EXPECT_EQ(record[u"pubstatus"_s].toString(), u"canceled"_s);
     EXPECT_EQ(record[u"ednote"_s].toString(), u"Wrong figure"_s);
+}
+
+TEST_F(RowFileTest, PricesAreThoseOfTheMomentOfTheFile) {
+    const auto quote = [this](std::int64_t moment, double last) {
+        host_clock::startAt(moment);
+        take(QuoteItem{22, u"00001"_s, last, 0, 0});
+    };
+    quote(at(9, 0), 10.05);
+    NewsItem item = newsItem(1, u"priced"_s, at(9, 2), u"Priced"_s);
+    item.related = {{22, u"00001"_s}};
+    const StoredNews stored = takeNews(item);
+    quote(at(9, 3), 12);
+    quote(at(9, 4), 11.5);
+    const std::vector<CHeadlineTable> entries{{stored.key.time, stored.key.sequence, 1, 0, 0}};
+    const auto written = [&](NewsRowForm form) {
+        writeRowFile(*store, entries, form, pathOf(u"out"_s), [](int) { return true; });
+        return bytesOf(pathOf(u"out"_s));
+    };
+    host_clock::startAt(at(9, 5));
+    const QString moment =
+        QDateTime::fromSecsSinceEpoch(at(9, 5), QTimeZone::utc()).toString(u"yyyy-MM-ddTHH:mm"_s);
+    const QString csv = QString::fromUtf8(written(NewsRowForm::Csv)).section(u"\r\n"_s, 1, 1);
+    EXPECT_TRUE(csv.contains(u",usable,10.05,11.5,12,"_s + moment)) << csv.toStdString();
+    const QJsonObject prices =
+        QJsonDocument::fromJson(written(NewsRowForm::Json)).array()[0].toObject()[u"prices"_s].toObject();
+    EXPECT_EQ(prices[u"then"_s].toDouble(), 10.05);
+    EXPECT_EQ(prices[u"now"_s].toDouble(), 11.5);
+    EXPECT_EQ(prices[u"farthest"_s].toDouble(), 12);
+    EXPECT_TRUE(prices[u"moment"_s].toString().startsWith(moment));
+    EXPECT_FALSE(written(NewsRowForm::Ninjs).contains("price"));
+    host_clock::startAt(QDateTime::currentSecsSinceEpoch());
 }
 
 TEST_F(RowFileTest, AFileThatIsNotWholeLeavesTheOneBefore) {

@@ -180,9 +180,10 @@ TEST_F(CommandLineTest, RowsTellAllThatIsKnownAndAreTakenInAgain) {
     };
     const QString csv = rows(store, u"csv"_s);
     EXPECT_EQ(csv.section(u"\r\n"_s, 0, 0),
-              u"time,service,service name,sequence,topic,symbols,title,story,pubstatus"_s);
+              u"time,service,service name,sequence,topic,symbols,title,story,pubstatus,"
+              "price then,price,farthest price,price moment"_s);
     EXPECT_TRUE(csv.section(u"\r\n"_s, 2, 2)
-                    .endsWith(u",1,Metals,16:2330,\"Copper, \"\"red\"\" gains\",\"One.\nTwo.\",usable"_s))
+                    .endsWith(u",1,Metals,16:2330,\"Copper, \"\"red\"\" gains\",\"One.\nTwo.\",usable,,,,"_s))
         << csv.toStdString();
     const QJsonArray list = QJsonDocument::fromJson(rows(store, u"json"_s).toUtf8()).array();
     ASSERT_EQ(list.size(), 2);
