@@ -179,7 +179,7 @@ PlainWords::~PlainWords() = default;
 QStringList PlainWords::of(const QString& text) const {
     // A sign of another width than the digits beside it is no part of their number.
     static const QRegularExpression sentenceSign(
-        u"((?<![０-９])[，．]|[，．](?![０-９])|(?<=[０-９])[,.․﹐﹒]|[,.․﹐﹒](?=[０-９]))"_s);
+        u"((?<![０-９])[，．]|[，．](?![０-９])|(?<=[０-９])[,.․︐﹐﹒]|[,.․︐﹐﹒](?=[０-９]))"_s);
     QString parted = text;
     parted.replace(sentenceSign, u" \\1 "_s);
     QString plain;
