@@ -20,6 +20,7 @@ Automation::Automation(Session& session)
       sources(session),
       searches(session),
       marks(session),
+      alerts(session),
       host(session),
       input(session),
       links(session),
@@ -36,6 +37,7 @@ Automation::Automation(Session& session)
     sources.addTo(table);
     searches.addTo(table);
     marks.addTo(table);
+    alerts.addTo(table);
     host.addTo(table);
     input.addTo(table);
     links.addTo(table);

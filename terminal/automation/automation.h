@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/lines/socket_server.h"
+#include "terminal/automation/alert_methods.h"
 #include "terminal/automation/app_methods.h"
 #include "terminal/automation/control_methods.h"
 #include "terminal/automation/date_methods.h"
@@ -52,6 +53,7 @@ private:
     SourceMethods sources;
     SearchMethods searches;
     MarkMethods marks;
+    AlertMethods alerts;
     HostMethods host;
     InputMethods input;
     LinkMethods links;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/commands/explain_command.h"
 
+#include "backend/alerts/alert_book.h"
+#include "backend/alerts/alert_matcher.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_reader.h"
 #include "terminal/commands/command_arguments.h"
@@ -17,6 +19,7 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 
@@ -82,6 +85,64 @@ QString topicName(EmbeddedBackEnd& backEnd, unsigned char service, const QString
     return id;
 }
 
+QString momentText(std::int64_t moment) {
+    return QDateTime::fromSecsSinceEpoch(moment).toString(u"HH:mm:ss"_s);
+}
+
+QString whyNot(AlertOutcome outcome) {
+    switch (outcome) {
+        case AlertOutcome::Told:
+            break;
+        case AlertOutcome::RuleOff:
+            return u"the rule is off"_s;
+        case AlertOutcome::Disconnected:
+            return u"not connected"_s;
+        case AlertOutcome::Duplicate:
+            return u"the same was said within the hour"_s;
+        case AlertOutcome::Late:
+            return u"it came late"_s;
+        case AlertOutcome::QuietHours:
+            return u"quiet hours"_s;
+        case AlertOutcome::Pause:
+            return u"within the rule's pause"_s;
+    }
+    return {};
+}
+
+// What each rule says of it, and what became of that when it came.
+void explainAlerts(Session& session, const CHeadline& headline) {
+    const auto opened = openStoreToRead(session.storePath());
+    if (!opened)
+        return;
+    Database& store = *opened.value();
+    QueryPlanner planner(store);
+    const std::vector<AlertRule>& rules = session.alerts().rules().rules;
+    StoreReader reader(store);
+    const AlertMatcher matcher(rules, planner, [&](const CHeadline& of) {
+        return reader.relatedSymbols(keyOf(of)).value_or(std::vector<CSymbolInfo>());
+    });
+    const std::vector<AlertEntry> entries = AlertBook(store).entries();
+    std::vector<bool> matched(rules.size());
+    matcher.match(headline, [&](std::size_t rule, const QStringList& words) {
+        matched[rule] = true;
+        const auto entry = std::ranges::find_if(entries, [&](const AlertEntry& each) {
+            return each.rule == rules[rule].name && each.headline == keyOf(headline);
+        });
+        const QString what = words.isEmpty() ? u"its symbols, topic or service"_s
+                                             : u"\"%1\" in the title"_s.arg(words.join(u"\", \""_s));
+        QString became = u"not among the last alerts"_s;
+        if (entry != entries.end())
+            became = entry->outcome == AlertOutcome::Told
+                         ? u"told at %1"_s.arg(momentText(entry->told))
+                         : u"not told at %1: %2"_s.arg(momentText(entry->matched), whyNot(entry->outcome));
+        printLine(u"alert %1: matches %2, %3"_s.arg(rules[rule].name, what, became));
+    });
+    for (std::size_t i = 0; i < rules.size(); ++i) {
+        if (!matched[i])
+            printLine(u"alert %1: does not match"_s.arg(rules[i].name));
+    }
+}
+
 int explain(Session& session, const CHeadline& headline) {
     const QDateTime time = QDateTime::fromSecsSinceEpoch(headline.time);
     printLine(u"%1  %2"_s.arg(time.toString(u"yyyy-MM-dd HH:mm"_s), headline.title));
@@ -97,6 +158,7 @@ int explain(Session& session, const CHeadline& headline) {
             printLine(u"view %1, %2, %3"_s.arg(view->number)
                           .arg(view->shownTitle(), standingText(standing, nameOf)));
     }
+    explainAlerts(session, headline);
     return exitDone;
 }
 

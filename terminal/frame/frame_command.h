@@ -26,6 +26,7 @@ enum class FrameCommand {
     ReadAsOf,
     Present,
     Sources,
+    Alerts,
     NewsSearch,
     NewsServices,
     NewsDate,

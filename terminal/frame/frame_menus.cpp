@@ -61,6 +61,7 @@ constexpr std::array newsEntries{
     Entry{FrameCommand::NewsMarkAllRead, TextId::NewsMarkAllRead, "Ctrl+Shift+A"_L1, true, false, true},
     Entry{FrameCommand::NewsLayout, TextId::NewsLayout, "F9"_L1, true, true, true},
     Entry{FrameCommand::Sources, TextId::NewsSources, "Ctrl+Shift+O"_L1, false, true},
+    Entry{FrameCommand::Alerts, TextId::AlertsMenu, "Ctrl+Shift+B"_L1},
 };
 
 constexpr std::array fontEntries{
@@ -118,6 +119,8 @@ std::optional<LineIcon> iconOf(FrameCommand command) {
             return LineIcon::Close;
         case FrameCommand::Sources:
             return LineIcon::Feed;
+        case FrameCommand::Alerts:
+            return LineIcon::Bell;
         default:
             return std::nullopt;
     }

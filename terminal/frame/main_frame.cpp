@@ -61,6 +61,7 @@ MainFrame::MainFrame()
     connect(statusLine, &StatusLine::importAsked, this, [this] { emit commanded(FrameCommand::ImportNews); });
     connect(statusLine, &StatusLine::connectAsked, this, [this] { emit commanded(FrameCommand::Sources); });
     connect(statusLine, &StatusLine::presentAsked, this, [this] { emit commanded(FrameCommand::Present); });
+    connect(statusLine, &StatusLine::alertsAsked, this, [this] { emit commanded(FrameCommand::Alerts); });
     connect(statusLine, &StatusLine::todayAsked, this, [this] { emit commanded(FrameCommand::NewsToday); });
     setCentralWidget(viewDesk);
     addToolBar(symbolBar);

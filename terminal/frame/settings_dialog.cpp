@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -54,9 +55,9 @@ QLayout* indented(QLabel* label) {
 
 }  // namespace
 
-SettingsDialog::SettingsDialog(const TerminalChoices& present, QWidget* parent) : QDialog(parent) {
+SettingsDialog::SettingsDialog(const TerminalChoices& present, QWidget* parent)
+    : QDialog(parent), pages(new QTabWidget) {
     setWindowTitle(terminalText(TextId::SettingsTitle));
-    auto* pages = new QTabWidget;
     pages->setAccessibleName(windowTitle());
     pages->addTab(generalPage(present), terminalText(TextId::SettingsGeneral));
     pages->addTab(newsPage(present), terminalText(TextId::SettingsNews));
@@ -66,6 +67,25 @@ SettingsDialog::SettingsDialog(const TerminalChoices& present, QWidget* parent) 
     column->addWidget(buttons);
     setMinimumWidth(fontMetrics().averageCharWidth() * widthInCharacters);
     language->setFocus();
+}
+
+void SettingsDialog::addPage(QWidget* page, const QString& name, std::function<bool()> isReady) {
+    pages->addTab(page, name);
+    added.emplace_back(page, std::move(isReady));
+}
+
+void SettingsDialog::showPage(QWidget* page) {
+    pages->setCurrentWidget(page);
+}
+
+void SettingsDialog::accept() {
+    for (const auto& [page, isReady] : added) {
+        if (isReady())
+            continue;
+        pages->setCurrentWidget(page);
+        return;
+    }
+    QDialog::accept();
 }
 
 QWidget* SettingsDialog::generalPage(const TerminalChoices& present) {

@@ -7,10 +7,15 @@
 
 #include <QDialog>
 
+#include <functional>
+#include <utility>
+#include <vector>
+
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QSpinBox;
+class QTabWidget;
 
 namespace wirepane {
 
@@ -30,13 +35,20 @@ class SettingsDialog : public QDialog {
 public:
     SettingsDialog(const TerminalChoices& present, QWidget* parent = nullptr);
 
+    // A page more, which this owns. `isReady`: whether what is on it can be saved; else the page says why.
+    void addPage(QWidget* page, const QString& name, std::function<bool()> isReady);
+    void showPage(QWidget* page);
     TerminalChoices choices() const;
+
+    void accept() override;
 
 private:
     QWidget* generalPage(const TerminalChoices& present);
     QWidget* newsPage(const TerminalChoices& present);
     void showWarning();
 
+    QTabWidget* pages;
+    std::vector<std::pair<QWidget*, std::function<bool()>>> added;
     QComboBox* language = nullptr;
     QComboBox* scheme = nullptr;
     QComboBox* rising = nullptr;

@@ -120,6 +120,7 @@ StatusLine::StatusLine(QWidget* parent)
       headlines(addLabel()),
       services(addLabel()),
       servicesIcon(new QLabel(services)),
+      alerts(new QPushButton(this)),
       clock(addLabel()) {
     for (QLabel* links : {actions, day}) {
         links->setTextFormat(Qt::RichText);
@@ -128,14 +129,17 @@ StatusLine::StatusLine(QWidget* parent)
     for (QLabel* weak : {last, index, headlines, services, clock})
         weak->setForegroundRole(QPalette::PlaceholderText);
     present->setAutoDefault(false);
+    alerts->setAutoDefault(false);
+    alerts->setFlat(true);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(8, 0, 8, 0);
     row->setSpacing(12);
     for (QWidget* part : std::initializer_list<QWidget*>{feed, actions, last, asOf, present, day})
         row->addWidget(part);
     row->addStretch(1);
-    for (QWidget* part : {index, headlines, services, clock})
+    for (QWidget* part : std::initializer_list<QWidget*>{index, headlines, services, alerts, clock})
         row->addWidget(part);
+    connect(alerts, &QPushButton::clicked, this, &StatusLine::alertsAsked);
     connect(actions, &QLabel::linkActivated, this,
             [this](const QString& name) { name == "import"_L1 ? emit importAsked() : emit connectAsked(); });
     connect(day, &QLabel::linkActivated, this, &StatusLine::todayAsked);
@@ -181,6 +185,10 @@ void StatusLine::show(const FrameStatus& status) {
                                 .pixmap(QSize(side, side), devicePixelRatioF()));
     servicesIcon->setGeometry(0, 0, side, services->height());
     services->setContentsMargins(side + 4, 0, 0, 0);
+    alerts->setIcon(lineIcon(LineIcon::Bell));
+    alerts->setText(status.alerts > 0 ? QString::number(status.alerts) : QString());
+    alerts->setAccessibleName(countText(TextId::AlertCount, status.alerts));
+    alerts->setToolTip(terminalText(TextId::AlertsOpen));
     clock->setText(clockText(status.now));
     giveRoom();
 }

@@ -28,6 +28,7 @@ struct FrameStatus {
     int allServices = 0;
     int headlines = -1;              // of the list on show; -1: there is none
     QString unread;                  // of them, a number; empty: none, or nobody marks what is read
+    int alerts = 0;                  // that were told and not seen
     QString asOf;                    // empty: the present moment is the machine's
     QDate newDay;                    // that has begun a while ago
     QDate shownDay;                  // of the list on show, where it is not the present day
@@ -53,6 +54,7 @@ signals:
     void connectAsked();
     void presentAsked();
     void todayAsked();
+    void alertsAsked();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -71,6 +73,7 @@ private:
     QLabel* headlines;
     QLabel* services;
     QLabel* servicesIcon;  // at its left
+    QPushButton* alerts;
     QLabel* clock;
 };
 

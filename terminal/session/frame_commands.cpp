@@ -4,6 +4,7 @@
 
 #include "host/controls/heap_dialog.h"
 #include "host/views/news_control_ids.h"
+#include "terminal/alerts/alert_rules_page.h"
 #include "terminal/frame/guide_window.h"
 #include "terminal/frame/keys_window.h"
 #include "terminal/frame/message_boxes.h"
@@ -12,6 +13,7 @@
 #include "terminal/frame/settings_dialog.h"
 #include "terminal/frame/symbol_box.h"
 #include "terminal/frame/view_dock.h"
+#include "terminal/session/alert_center.h"
 #include "terminal/session/service_watch.h"
 #include "terminal/session/session.h"
 #include "terminal/session/session_errors.h"
@@ -117,6 +119,8 @@ FrameCommands::FrameCommands(Session& terminal)
     });
     connect(&newsImport, &NewsImport::readAsOfAsked, this,
             [this](std::int64_t moment) { report(session.readAsOf(moment)); });
+    connect(&session.alerts(), &AlertCenter::rulesAsked, this,
+            [this] { changeSettings(SettingsPage::Alerts); });
     connect(workspace, &Workspace::renameAsked, this, &FrameCommands::rename);
     connect(workspace, &Workspace::closeAsked, workspace, &Workspace::close);
 }
@@ -148,6 +152,9 @@ void FrameCommands::carryOut(FrameCommand command) {
         case FrameCommand::Sources:
             showSources();
             break;
+        case FrameCommand::Alerts:
+            session.alerts().show();
+            break;
         case FrameCommand::Keys:
             showKeys();
             break;
@@ -156,7 +163,7 @@ void FrameCommands::carryOut(FrameCommand command) {
                  terminalText(TextId::AboutText).arg(QCoreApplication::applicationVersion()));
             break;
         case FrameCommand::Settings:
-            changeSettings();
+            changeSettings(SettingsPage::First);
             break;
         case FrameCommand::FontLarger:
             session.setFontSize(session.settings().fontSize() + 1);
@@ -256,14 +263,22 @@ void FrameCommands::readAsOf() {
         report(session.readAsOf(dialog->moment()));
 }
 
-void FrameCommands::changeSettings() {
+void FrameCommands::changeSettings(SettingsPage first) {
     TerminalSettings& settings = session.settings();
     const TerminalChoices present{session.language(), settings.scheme(), settings.greenIsUp(),
                                   settings.fontSize(), settings.switches()};
     const HeapDialog dialog(new SettingsDialog(present, &session.frame()));
+    auto* rules = new AlertRulesPage(session.alerts().rules(),
+                                     [this](const AlertRule& rule) { session.alerts().test(rule); });
+    dialog->addPage(rules, terminalText(TextId::AlertsTitle),
+                    [rules] { return rules->showFault().isEmpty(); });
+    if (first == SettingsPage::Alerts)
+        dialog->showPage(rules);
     if (dialog->exec() != QDialog::Accepted)
         return;
     const TerminalChoices chosen = dialog->choices();
+    if (rules->settings() != session.alerts().rules())
+        session.alerts().setRules(rules->settings());
     if (chosen.greenIsUp != present.greenIsUp)
         settings.setGreenIsUp(chosen.greenIsUp);
     if (chosen.scheme != present.scheme || chosen.greenIsUp != present.greenIsUp)

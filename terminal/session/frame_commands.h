@@ -35,7 +35,8 @@ private:
     void carryOutOnView(FrameCommand command);
     void changeDensity();
     void readAsOf();
-    void changeSettings();
+    enum class SettingsPage { First, Alerts };
+    void changeSettings(SettingsPage first);
     void rename(int number);
     void showGuide();
     void showKeys();

@@ -110,6 +110,7 @@ Done Session::start(const SessionOptions& options) {
         useLanguage(Languages::ofSystem());
     mainFrame = std::make_unique<MainFrame>();
     latestNews = std::make_unique<BreakingNews>(*module.value(), *store, *mainFrame);
+    alertCenter = std::make_unique<AlertCenter>(*store, *terminalSettings, *mainFrame);
     openViews = std::make_unique<Workspace>(*module.value(), *mainFrame);
     look = std::make_unique<Appearance>(*terminalSettings, *openViews);
     linkGroups = std::make_unique<LinkGroups>(*openViews, *terminalSettings);
@@ -180,7 +181,10 @@ void Session::connectParts() {
     connect(liveFeed.get(), &LiveFeed::stateChanged, this, &Session::showStatus);
     connect(liveFeed.get(), &LiveFeed::sourcesChanged, this, &Session::showStatus);
     connect(&clock, &QTimer::timeout, this, &Session::showStatus);
+    // News of other days is pushed to nobody.
+    connect(&clock, &QTimer::timeout, &alertCenter->desk(), &AlertDesk::look);
     clock.start(clockPeriod);
+    connect(&alertCenter->desk(), &AlertDesk::changed, this, &Session::showStatus);
     store->onDatedAhead([this](unsigned char service, std::int64_t time) { tellDatedAhead(service, time); });
     connect(liveFeed.get(), &LiveFeed::trouble, mainFrame.get(),
             [this](const Error& error) { mainFrame->showNotice(shownText(error)); });
@@ -376,7 +380,7 @@ void Session::setActive(bool active) {
 }
 
 void Session::showStatus() {
-    mainFrame->showStatus(status->now({storeFile, isSampleFollowed}));
+    mainFrame->showStatus(status->now({storeFile, isSampleFollowed, alertCenter->desk().unseen()}));
 }
 
 void Session::showCaption() {

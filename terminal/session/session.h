@@ -9,6 +9,7 @@
 #include "backend/store/store_guard.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/workspace.h"
+#include "terminal/session/alert_center.h"
 #include "terminal/session/appearance.h"
 #include "terminal/session/background_painter.h"
 #include "terminal/session/breaking_news.h"
@@ -89,6 +90,7 @@ public:
     BreakingNews& breakingNews() { return *latestNews; }
     LinkGroups& links() { return *linkGroups; }
     WorkspaceKeeper& keeper() { return *workspaceKeeper; }
+    AlertCenter& alerts() { return *alertCenter; }
     SourceServices& sources() { return *sourceServices; }
     // The store in use.
     const QString& storePath() const { return storeFile; }
@@ -172,6 +174,7 @@ private:
     std::unique_ptr<CategoryDisplay> categoryDisplay;
     std::unique_ptr<MainFrame> mainFrame;
     std::unique_ptr<BreakingNews> latestNews;
+    std::unique_ptr<AlertCenter> alertCenter;
     std::unique_ptr<Workspace> openViews;
     std::unique_ptr<Appearance> look;
     std::unique_ptr<LinkGroups> linkGroups;

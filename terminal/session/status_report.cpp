@@ -159,6 +159,7 @@ FrameStatus StatusReport::now(const SessionFacts& session) {
     status.feedTip = feedTip(feed);
     status.lastHeadline = lastHeadline;
     status.now = host_clock::now();
+    status.alerts = session.alerts;
     status.storeFile = session.storeFile;
     watchDay(status.now);
     if (dayBeganAt > 0 && status.now - dayBeganAt < newDaySeconds)

@@ -17,6 +17,7 @@ QString asOfText();
 struct SessionFacts {
     QString storeFile;
     bool isSampleFollowed = false;
+    int alerts = 0;  // that were told and not seen
 };
 
 // Gathers what the status bar says.

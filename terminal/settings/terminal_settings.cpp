@@ -137,6 +137,14 @@ Retention TerminalSettings::retention() const {
             megabyte * std::max(0, stored(u"keepMegabytes"_s).toInt())};
 }
 
+QJsonObject TerminalSettings::alerts() const {
+    return stored(u"alerts"_s).toObject();
+}
+
+void TerminalSettings::setAlerts(const QJsonObject& alerts) {
+    store(u"alerts"_s, alerts);
+}
+
 QByteArray TerminalSettings::frameGeometry() const {
     return QByteArray::fromBase64(stored(u"frameGeometry"_s).toString().toLatin1());
 }

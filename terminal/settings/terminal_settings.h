@@ -8,6 +8,7 @@
 #include "terminal/settings/store_kind.h"
 
 #include <QHash>
+#include <QJsonObject>
 #include <QJsonValue>
 
 #include <optional>
@@ -61,6 +62,9 @@ public:
     void setShowsFirstSteps(bool shown);
     // How much news the store keeps: "keepDays" and "keepMegabytes" of the file; 0, as at first: all of it.
     Retention retention() const;
+    // The user's alerts, as they are stored; empty: he has changed nothing.
+    QJsonObject alerts() const;
+    void setAlerts(const QJsonObject& alerts);
     // The main frame's place, as QWidget::saveGeometry gives it.
     QByteArray frameGeometry() const;
     void setFrameGeometry(const QByteArray& geometry);

@@ -2371,6 +2371,166 @@
         <source></source>
         <translation>Yesterday</translation>
     </message>
+    <message id="TERMINAL_ALERTS_OPEN">
+        <source></source>
+        <translation>Open the alerts</translation>
+    </message>
+    <message id="TERMINAL_ALERTS_TITLE">
+        <source></source>
+        <translation>Alerts</translation>
+    </message>
+    <message id="TERMINAL_ALERT_ADD">
+        <source></source>
+        <translation>Add</translation>
+    </message>
+    <message id="TERMINAL_ALERT_BETWEEN_WORDS">
+        <source></source>
+        <translation>”, “</translation>
+    </message>
+    <message id="TERMINAL_ALERT_CLOSE">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_HEADLINE">
+        <source></source>
+        <translation>Headline</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_OUTCOME">
+        <source></source>
+        <translation>What became of it</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_RULE">
+        <source></source>
+        <translation>Rule</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_TIME">
+        <source></source>
+        <translation>Time</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COUNT">
+        <source></source>
+        <translation>%1 {alert|alerts}</translation>
+    </message>
+    <message id="TERMINAL_ALERT_DISCONNECTED">
+        <source></source>
+        <translation>Not told: not connected</translation>
+    </message>
+    <message id="TERMINAL_ALERT_DUPLICATE">
+        <source></source>
+        <translation>Not told: said within the hour</translation>
+    </message>
+    <message id="TERMINAL_ALERT_LATE">
+        <source></source>
+        <translation>Not told: it came late</translation>
+    </message>
+    <message id="TERMINAL_ALERT_LOOKS_FOR">
+        <source></source>
+        <translation>Looks for</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED">
+        <source></source>
+        <translation>The rule “%1” matched “%2” in the title.</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED_AT">
+        <source></source>
+        <translation>matched %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED_OTHER">
+        <source></source>
+        <translation>The rule “%1” matched the symbols, the topic or the service.</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MORE">
+        <source></source>
+        <translation>and %1 more</translation>
+    </message>
+    <message id="TERMINAL_ALERT_NONE">
+        <source></source>
+        <translation>No alert yet. What your rules match is listed here as it comes, with the reason.</translation>
+    </message>
+    <message id="TERMINAL_ALERT_NOT_TOLD">
+        <source></source>
+        <translation>%1.</translation>
+    </message>
+    <message id="TERMINAL_ALERT_ONLY_CONNECTED">
+        <source></source>
+        <translation>Only while connected</translation>
+    </message>
+    <message id="TERMINAL_ALERT_PAUSE">
+        <source></source>
+        <translation>Not told: within the rule's pause</translation>
+    </message>
+    <message id="TERMINAL_ALERT_PAUSE_OF">
+        <source></source>
+        <translation>Pause (seconds)</translation>
+    </message>
+    <message id="TERMINAL_ALERT_PUBLISHED">
+        <source></source>
+        <translation>Published %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_QUIET_FROM">
+        <source></source>
+        <translation>Quiet from</translation>
+    </message>
+    <message id="TERMINAL_ALERT_QUIET_HOURS">
+        <source></source>
+        <translation>Not told: quiet hours</translation>
+    </message>
+    <message id="TERMINAL_ALERT_QUIET_TO">
+        <source></source>
+        <translation>to</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RECEIVED">
+        <source></source>
+        <translation>received %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_REMOVE">
+        <source></source>
+        <translation>Remove</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULES">
+        <source></source>
+        <translation>Alert rules</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULES_HELP">
+        <source></source>
+        <translation>Every headline that comes is tried with these rules, whatever a view shows. A rule that is not ticked is listed under the alerts and not told.</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULE_INCOMPLETE">
+        <source></source>
+        <translation>A rule needs a name and something to look for.</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULE_OFF">
+        <source></source>
+        <translation>Not told: the rule is off</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULE_TWICE">
+        <source></source>
+        <translation>There are two rules called “%1”.</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND">
+        <source></source>
+        <translation>Sound</translation>
+    </message>
+    <message id="TERMINAL_ALERT_STORY">
+        <source></source>
+        <translation>Story of the alert</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TEST">
+        <source></source>
+        <translation>Test</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TOAST">
+        <source></source>
+        <translation>Shown</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TOLD">
+        <source></source>
+        <translation>Told</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TOLD_AT">
+        <source></source>
+        <translation>told %1</translation>
+    </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>
         <translation>Wirepane</translation>
@@ -2515,6 +2675,10 @@ Reads the news of securities markets, live and from files.</translation>
     <message id="TERMINAL_HEADLINE_COUNT">
         <source></source>
         <translation>%1 {headline|headlines}</translation>
+    </message>
+    <message id="TERMINAL_MENU_ALERTS">
+        <source></source>
+        <translation>&amp;Alerts</translation>
     </message>
     <message id="TERMINAL_UNREAD_OF">
         <source></source>

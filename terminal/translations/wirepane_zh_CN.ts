@@ -2371,6 +2371,166 @@
         <source></source>
         <translation>昨天</translation>
     </message>
+    <message id="TERMINAL_ALERTS_OPEN">
+        <source></source>
+        <translation>打开警示</translation>
+    </message>
+    <message id="TERMINAL_ALERTS_TITLE">
+        <source></source>
+        <translation>警示</translation>
+    </message>
+    <message id="TERMINAL_ALERT_ADD">
+        <source></source>
+        <translation>新增</translation>
+    </message>
+    <message id="TERMINAL_ALERT_BETWEEN_WORDS">
+        <source></source>
+        <translation>」、「</translation>
+    </message>
+    <message id="TERMINAL_ALERT_CLOSE">
+        <source></source>
+        <translation>关闭</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_HEADLINE">
+        <source></source>
+        <translation>标题</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_OUTCOME">
+        <source></source>
+        <translation>处理结果</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_RULE">
+        <source></source>
+        <translation>规则</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_TIME">
+        <source></source>
+        <translation>时间</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COUNT">
+        <source></source>
+        <translation>%1 则警示</translation>
+    </message>
+    <message id="TERMINAL_ALERT_DISCONNECTED">
+        <source></source>
+        <translation>未提示：未连接</translation>
+    </message>
+    <message id="TERMINAL_ALERT_DUPLICATE">
+        <source></source>
+        <translation>未提示：一小时内已有相同内容</translation>
+    </message>
+    <message id="TERMINAL_ALERT_LATE">
+        <source></source>
+        <translation>未提示：新闻迟到</translation>
+    </message>
+    <message id="TERMINAL_ALERT_LOOKS_FOR">
+        <source></source>
+        <translation>查找</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED">
+        <source></source>
+        <translation>规则「%1」比对到标题中的「%2」。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED_AT">
+        <source></source>
+        <translation>比对 %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED_OTHER">
+        <source></source>
+        <translation>规则「%1」比对到商品、类别或新闻服务。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MORE">
+        <source></source>
+        <translation>另有 %1 则</translation>
+    </message>
+    <message id="TERMINAL_ALERT_NONE">
+        <source></source>
+        <translation>尚无警示。规则比对到的新闻会即时列在这里，并说明原因。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_NOT_TOLD">
+        <source></source>
+        <translation>%1。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_ONLY_CONNECTED">
+        <source></source>
+        <translation>仅限连接时</translation>
+    </message>
+    <message id="TERMINAL_ALERT_PAUSE">
+        <source></source>
+        <translation>未提示：规则的间隔时间内</translation>
+    </message>
+    <message id="TERMINAL_ALERT_PAUSE_OF">
+        <source></source>
+        <translation>间隔（秒）</translation>
+    </message>
+    <message id="TERMINAL_ALERT_PUBLISHED">
+        <source></source>
+        <translation>发布 %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_QUIET_FROM">
+        <source></source>
+        <translation>勿扰时段自</translation>
+    </message>
+    <message id="TERMINAL_ALERT_QUIET_HOURS">
+        <source></source>
+        <translation>未提示：勿扰时段</translation>
+    </message>
+    <message id="TERMINAL_ALERT_QUIET_TO">
+        <source></source>
+        <translation>至</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RECEIVED">
+        <source></source>
+        <translation>收到 %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_REMOVE">
+        <source></source>
+        <translation>移除</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULES">
+        <source></source>
+        <translation>警示规则</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULES_HELP">
+        <source></source>
+        <translation>每则进来的标题都会以这些规则比对，与窗口显示的内容无关。未勾选的规则只列在警示中，不会提示。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULE_INCOMPLETE">
+        <source></source>
+        <translation>规则需要名称与要查找的内容。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULE_OFF">
+        <source></source>
+        <translation>未提示：规则已关闭</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULE_TWICE">
+        <source></source>
+        <translation>有两个名为「%1」的规则。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND">
+        <source></source>
+        <translation>音效</translation>
+    </message>
+    <message id="TERMINAL_ALERT_STORY">
+        <source></source>
+        <translation>警示的新闻内容</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TEST">
+        <source></source>
+        <translation>测试</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TOAST">
+        <source></source>
+        <translation>显示</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TOLD">
+        <source></source>
+        <translation>已提示</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TOLD_AT">
+        <source></source>
+        <translation>提示 %1</translation>
+    </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>
         <translation>Wirepane</translation>
@@ -2515,6 +2675,10 @@
     <message id="TERMINAL_HEADLINE_COUNT">
         <source></source>
         <translation>%1 条新闻</translation>
+    </message>
+    <message id="TERMINAL_MENU_ALERTS">
+        <source></source>
+        <translation>警示(&amp;A)</translation>
     </message>
     <message id="TERMINAL_UNREAD_OF">
         <source></source>

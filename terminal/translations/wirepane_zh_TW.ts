@@ -2371,6 +2371,166 @@
         <source></source>
         <translation>昨天</translation>
     </message>
+    <message id="TERMINAL_ALERTS_OPEN">
+        <source></source>
+        <translation>開啟警示</translation>
+    </message>
+    <message id="TERMINAL_ALERTS_TITLE">
+        <source></source>
+        <translation>警示</translation>
+    </message>
+    <message id="TERMINAL_ALERT_ADD">
+        <source></source>
+        <translation>新增</translation>
+    </message>
+    <message id="TERMINAL_ALERT_BETWEEN_WORDS">
+        <source></source>
+        <translation>」、「</translation>
+    </message>
+    <message id="TERMINAL_ALERT_CLOSE">
+        <source></source>
+        <translation>關閉</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_HEADLINE">
+        <source></source>
+        <translation>標題</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_OUTCOME">
+        <source></source>
+        <translation>處理結果</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_RULE">
+        <source></source>
+        <translation>規則</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COLUMN_TIME">
+        <source></source>
+        <translation>時間</translation>
+    </message>
+    <message id="TERMINAL_ALERT_COUNT">
+        <source></source>
+        <translation>%1 則警示</translation>
+    </message>
+    <message id="TERMINAL_ALERT_DISCONNECTED">
+        <source></source>
+        <translation>未提示：未連線</translation>
+    </message>
+    <message id="TERMINAL_ALERT_DUPLICATE">
+        <source></source>
+        <translation>未提示：一小時內已有相同內容</translation>
+    </message>
+    <message id="TERMINAL_ALERT_LATE">
+        <source></source>
+        <translation>未提示：新聞遲到</translation>
+    </message>
+    <message id="TERMINAL_ALERT_LOOKS_FOR">
+        <source></source>
+        <translation>尋找</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED">
+        <source></source>
+        <translation>規則「%1」比對到標題中的「%2」。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED_AT">
+        <source></source>
+        <translation>比對 %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED_OTHER">
+        <source></source>
+        <translation>規則「%1」比對到商品、類別或新聞服務。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MORE">
+        <source></source>
+        <translation>另有 %1 則</translation>
+    </message>
+    <message id="TERMINAL_ALERT_NONE">
+        <source></source>
+        <translation>尚無警示。規則比對到的新聞會即時列在這裡，並說明原因。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_NOT_TOLD">
+        <source></source>
+        <translation>%1。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_ONLY_CONNECTED">
+        <source></source>
+        <translation>僅限連線時</translation>
+    </message>
+    <message id="TERMINAL_ALERT_PAUSE">
+        <source></source>
+        <translation>未提示：規則的間隔時間內</translation>
+    </message>
+    <message id="TERMINAL_ALERT_PAUSE_OF">
+        <source></source>
+        <translation>間隔（秒）</translation>
+    </message>
+    <message id="TERMINAL_ALERT_PUBLISHED">
+        <source></source>
+        <translation>發布 %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_QUIET_FROM">
+        <source></source>
+        <translation>勿擾時段自</translation>
+    </message>
+    <message id="TERMINAL_ALERT_QUIET_HOURS">
+        <source></source>
+        <translation>未提示：勿擾時段</translation>
+    </message>
+    <message id="TERMINAL_ALERT_QUIET_TO">
+        <source></source>
+        <translation>至</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RECEIVED">
+        <source></source>
+        <translation>收到 %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_REMOVE">
+        <source></source>
+        <translation>移除</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULES">
+        <source></source>
+        <translation>警示規則</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULES_HELP">
+        <source></source>
+        <translation>每則進來的標題都會以這些規則比對，與視窗顯示的內容無關。未勾選的規則只列在警示中，不會提示。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULE_INCOMPLETE">
+        <source></source>
+        <translation>規則需要名稱與要尋找的內容。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULE_OFF">
+        <source></source>
+        <translation>未提示：規則已關閉</translation>
+    </message>
+    <message id="TERMINAL_ALERT_RULE_TWICE">
+        <source></source>
+        <translation>有兩個名為「%1」的規則。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND">
+        <source></source>
+        <translation>音效</translation>
+    </message>
+    <message id="TERMINAL_ALERT_STORY">
+        <source></source>
+        <translation>警示的新聞內容</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TEST">
+        <source></source>
+        <translation>測試</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TOAST">
+        <source></source>
+        <translation>顯示</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TOLD">
+        <source></source>
+        <translation>已提示</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TOLD_AT">
+        <source></source>
+        <translation>提示 %1</translation>
+    </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>
         <translation>Wirepane</translation>
@@ -2515,6 +2675,10 @@
     <message id="TERMINAL_HEADLINE_COUNT">
         <source></source>
         <translation>%1 則新聞</translation>
+    </message>
+    <message id="TERMINAL_MENU_ALERTS">
+        <source></source>
+        <translation>警示(&amp;A)</translation>
     </message>
     <message id="TERMINAL_UNREAD_OF">
         <source></source>

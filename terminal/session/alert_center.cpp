@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/session/alert_center.h"
+
+#include "backend/store/embedded_back_end.h"
+#include "terminal/alerts/alert_toast.h"
+#include "terminal/alerts/alerts_window.h"
+#include "terminal/frame/main_frame.h"
+#include "terminal/settings/terminal_settings.h"
+#include "terminal/translations/terminal_text.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+AlertSettings storedIn(const TerminalSettings& settings) {
+    const QJsonObject stored = settings.alerts();
+    return stored.isEmpty() ? usualAlerts() : alertsFromJson(stored);
+}
+
+}  // namespace
+
+AlertCenter::AlertCenter(EmbeddedBackEnd& embedded, TerminalSettings& terminalSettings, MainFrame& mainFrame)
+    : backEnd(embedded),
+      settings(terminalSettings),
+      frame(mainFrame),
+      present(storedIn(settings)),
+      alerts(backEnd, present),
+      toast(new AlertToast(frame)),
+      teller(*toast, [] { QApplication::beep(); }) {
+    connect(&alerts, &AlertDesk::told, &teller,
+            [this](const std::vector<AlertEntry>& entries) { teller.tell(entries, present.rules); });
+    connect(toast, &AlertToast::opened, this, &AlertCenter::show);
+}
+
+void AlertCenter::setRules(const AlertSettings& rules) {
+    present = rules;
+    settings.setAlerts(alertsToJson(present));
+    alerts.setSettings(present);
+}
+
+void AlertCenter::test(const AlertRule& rule) {
+    AlertEntry entry;
+    entry.rule = rule.name;
+    entry.title = rule.query;
+    teller.tell({entry}, {rule});
+}
+
+void AlertCenter::show() {
+    if (!window) {
+        window = new AlertsWindow(
+            alerts, [this](const HeadlineKey& key) { return storyOf(key); }, &frame);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        connect(window, &AlertsWindow::rulesAsked, this, &AlertCenter::rulesAsked);
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+// Stories part their lines by four signs.
+QString AlertCenter::storyOf(const HeadlineKey& key) {
+    CStory story;
+    const CHeadlineTable entry{key.time, key.sequence, key.service, 0, 0};
+    return backEnd.BKQNEWS_bGetStory(story, entry) ? story.text.replace("@@@@"_L1, "\n"_L1) : QString();
+}
+
+}  // namespace wirepane

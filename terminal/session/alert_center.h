@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/alerts/alert_desk.h"
+#include "terminal/alerts/alert_teller.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace wirepane {
+class AlertsWindow;
+class AlertToast;
+class EmbeddedBackEnd;
+class MainFrame;
+class TerminalSettings;
+
+// The alerts of a session: the rules that the settings hold, what they match, and where the user is told and
+// reads of it. Interface thread.
+class AlertCenter : public QObject {
+    Q_OBJECT
+
+public:
+    // None is owned; all outlive this.
+    AlertCenter(EmbeddedBackEnd& backEnd, TerminalSettings& settings, MainFrame& frame);
+
+    AlertDesk& desk() { return alerts; }
+    const AlertSettings& rules() const { return present; }
+    // Takes rules into force, for the next start too.
+    void setRules(const AlertSettings& rules);
+    // Tells a rule as it would be told, whatever it says of pauses.
+    void test(const AlertRule& rule);
+    // Opens the window of the alerts.
+    void show();
+
+signals:
+    // Of the window.
+    void rulesAsked();
+
+private:
+    QString storyOf(const HeadlineKey& key);
+
+    EmbeddedBackEnd& backEnd;
+    TerminalSettings& settings;
+    MainFrame& frame;
+    AlertSettings present;
+    AlertDesk alerts;
+    AlertToast* toast;  // belongs to the frame
+    AlertTeller teller;
+    QPointer<AlertsWindow> window;
+};
+
+}  // namespace wirepane

@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// What the user is told of as it comes, where he reads of it, and how he says what he wants to be told of.
+#include "terminal/alerts/alert_model.h"
+#include "terminal/alerts/alert_rules_page.h"
+#include "terminal/alerts/alert_toast.h"
+#include "terminal/alerts/alerts_window.h"
+#include "terminal/session/alert_center.h"
+#include "tests/support/answering.h"
+#include "tests/terminal/program/frame_fixture.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTreeView>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane::test {
+
+namespace {
+
+class AlertsTest : public FrameFixture {
+protected:
+    AlertsTest() : FrameFixture(1280, true) {}
+
+    void publish(const QString& title) {
+        NewsItem item;
+        item.service = 1;
+        item.identity = QString::number(++items);
+        item.time = host_clock::now();
+        item.title = title;
+        item.story = u"First line@@@@second line"_s;
+        ASSERT_TRUE(session->backEnd().takeIn(item));
+    }
+    AlertDesk& desk() { return session->alerts().desk(); }
+    AlertToast& toast() { return *session->frame().findChild<AlertToast*>(); }
+    QStringList toastTexts() {
+        QStringList texts;
+        for (const QLabel* label : toast().findChildren<QLabel*>())
+            texts += label->text();
+        return texts;
+    }
+
+    int items = 0;
+};
+
+TEST_F(AlertsTest, WhatARuleMatchesIsToldInTheCornerWithoutTakingTheFocusAndListedWithItsReason) {
+    AlertSettings rules = usualAlerts();
+    rules.rules.push_back(rules.rules.front());
+    rules.rules.back().name = u"gold"_s;
+    rules.rules.back().query = u"gold -tin"_s;
+    session->alerts().setRules(rules);
+    const QWidget* focus = QApplication::focusWidget();
+    publish(u"Copper"_s);
+    publish(u"FLASH: Gold jumps"_s);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return toast().isVisible(); }));
+    EXPECT_EQ(toastTexts(), (QStringList{u"FLASH, gold"_s, QString(), u"FLASH: Gold jumps"_s}));
+    EXPECT_EQ(QApplication::focusWidget(), focus);
+    EXPECT_TRUE(session->frame().rect().contains(toast().geometry()));
+    // Within the second it is told together.
+    publish(u"Gold once more"_s);
+    publish(u"Gold for ever"_s);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return desk().entries().size() == 4; }));
+    EXPECT_TRUE(toastTexts().contains(u"FLASH: Gold jumps"_s));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return toastTexts().contains(u"Gold for ever"_s); }));
+    EXPECT_TRUE(toastTexts().contains(u"and 2 more"_s));
+    EXPECT_EQ(desk().unseen(), 4);
+
+    QTest::mouseClick(&toast(), Qt::LeftButton);
+    EXPECT_FALSE(toast().isVisible());
+    auto* window = session->frame().findChild<AlertsWindow*>();
+    ASSERT_NE(window, nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return desk().unseen() == 0; })) << "he reads them";
+    const auto* list = window->findChild<QTreeView*>();
+    EXPECT_EQ(list->model()->rowCount(), 4);
+    EXPECT_EQ(list->currentIndex().row(), 0);
+    EXPECT_EQ(window->findChild<QPlainTextEdit*>()->toPlainText(),
+              u"Gold for ever\n\nFirst line\nsecond line"_s);
+    const auto reasons = window->findChildren<QLabel*>();
+    ASSERT_EQ(reasons.size(), 1);
+    EXPECT_TRUE(reasons.front()->text().startsWith(u"The rule “gold” matched “Gold” in the title."_s))
+        << reasons.front()->text().toStdString();
+    // One that is not told is listed, and the row that he is on stays his.
+    publish(u"Gold for ever"_s);
+    ASSERT_TRUE(QTest::qWaitFor([list] { return list->model()->rowCount() == 5; }));
+    EXPECT_EQ(list->currentIndex().row(), 1);
+    EXPECT_EQ(list->model()->index(0, AlertModel::Outcome).data().toString(),
+              u"Not told: said within the hour"_s);
+}
+
+TEST_F(AlertsTest, TheSettingsTakeNoRuleThatCannotBeUnderstood) {
+    session->alerts().setRules(usualAlerts());
+    const auto change = [](QDialog& dialog) {
+        auto* page = dialog.findChild<AlertRulesPage*>();
+        auto* table = page->findChild<QTableWidget*>();
+        QAbstractButton* save = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        EXPECT_EQ(table->rowCount(), 2);
+        table->item(0, 1)->setText(u"story:gold"_s);
+        save->click();
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_TRUE(page->showFault().contains(u"cannot be answered by a headline"_s));
+        table->item(0, 1)->setText(u"gold"_s);
+        table->item(1, 0)->setText(table->item(0, 0)->text());
+        EXPECT_TRUE(page->showFault().contains(u"two rules"_s));
+        table->item(1, 0)->setText(u"tin"_s);
+        table->item(1, 5)->setText(u"-3"_s);
+        save->click();
+    };
+    answering<QDialog>([this] { emit session->frame().commanded(FrameCommand::Settings); }, change);
+    const AlertSettings& rules = session->alerts().rules();
+    ASSERT_EQ(rules.rules.size(), 2U);
+    EXPECT_EQ(rules.rules[0].query, u"gold"_s);
+    EXPECT_EQ(rules.rules[1].name, u"tin"_s);
+    EXPECT_EQ(rules.rules[1].pauseSeconds, 0);
+    EXPECT_EQ(alertsFromJson(session->settings().alerts()), rules) << "they are kept";
+}
+
+}  // namespace
+
+}  // namespace wirepane::test
