@@ -2678,7 +2678,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_MENU_ALERTS">
         <source></source>
-        <translation>&amp;Alerts</translation>
+        <translation>Alert &amp;History</translation>
     </message>
     <message id="TERMINAL_UNREAD_OF">
         <source></source>

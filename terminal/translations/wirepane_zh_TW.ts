@@ -2678,7 +2678,7 @@
     </message>
     <message id="TERMINAL_MENU_ALERTS">
         <source></source>
-        <translation>警示(&amp;A)</translation>
+        <translation>警示(&amp;H)</translation>
     </message>
     <message id="TERMINAL_UNREAD_OF">
         <source></source>
