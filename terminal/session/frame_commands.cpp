@@ -277,8 +277,10 @@ void FrameCommands::changeSettings(SettingsPage first) {
     if (dialog->exec() != QDialog::Accepted)
         return;
     const TerminalChoices chosen = dialog->choices();
-    if (rules->settings() != session.alerts().rules())
+    if (rules->settings() != session.alerts().rules()) {
         session.alerts().setRules(rules->settings());
+        save();
+    }
     if (chosen.greenIsUp != present.greenIsUp)
         settings.setGreenIsUp(chosen.greenIsUp);
     if (chosen.scheme != present.scheme || chosen.greenIsUp != present.greenIsUp)

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+// What alert rules cost: each headline that has come is read and tried with all of them, on a thread of its
+// own.
+#include "backend/alerts/alert_worker.h"
+#include "backend/store/store_writer.h"
+#include "bench/backend/news_samples.h"
+#include "bench/backend/store_timing.h"
+#include "bench/support/run_benchmarks.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+#include <random>
+#include <semaphore>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+using namespace wirepane::bench;
+
+namespace {
+
+constexpr int headlines = 20'000;
+
+// Ten words each, with a phrase and an exclusion; few titles hold one.
+std::vector<AlertRule> rulesOf(std::int64_t count) {
+    std::mt19937 random(3);
+    const auto word = [&] { return u"rule%1"_s.arg(random() % 20'000); };
+    std::vector<AlertRule> rules;
+    while (std::int64_t(rules.size()) < count) {
+        QStringList words;
+        while (words.size() < 8)
+            words += word();
+        AlertRule& rule = rules.emplace_back();
+        rule.name = QString::number(rules.size());
+        rule.query = u"(%1 | \"%2 %3\") -%4"_s.arg(words.join(u" | "_s), word(), word(), word());
+    }
+    return rules;
+}
+
+void fill(Database& store) {
+    StoreWriter writer(store);
+    bool good = static_cast<bool>(writer.begin());
+    for (const NewsItem& item : newsSamples(headlines))
+        good = good && writer.take(item);
+    good = good && writer.commit() && store.execute("INSERT INTO alert_state VALUES(1, 0, 0)");
+    if (!good)
+        throw std::runtime_error("the news was not taken in");
+}
+
+// us_a_headline: of the worker's thread, the reading of the headline among it.
+void lookAtWhatCame(benchmark::State& state) {
+    const QTemporaryDir folder;
+    const auto store = opened(folder.filePath(u"s.db"_s));
+    fill(*store);
+    const std::vector<AlertRule> rules = rulesOf(state.range(0));
+    std::vector<double> seconds;
+    for (auto unused : state) {
+        std::binary_semaphore isReady(0);
+        std::binary_semaphore isDone(0);
+        bool isFirst = true;
+        AlertWorker worker(store->path(), [&](AlertFindings&& found) {
+            if (std::exchange(isFirst, false))
+                isReady.release();
+            else if (found.position >= headlines)
+                isDone.release();
+        });
+        worker.setRules(rules);
+        isReady.acquire();
+        seconds.push_back(secondsOf([&] {
+            worker.look({});
+            isDone.acquire();
+        }));
+        state.SetIterationTime(seconds.back());
+    }
+    state.counters["us_a_headline"] = median(seconds) / headlines * 1e6;
+}
+
+}  // namespace
+
+BENCHMARK(lookAtWhatCame)->Arg(2)->Arg(1000)->Iterations(5)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace wirepane
+
+int main(int argc, char** argv) {
+    return wirepane::runBenchmarks<QCoreApplication>(argc, argv);
+}
