@@ -42,6 +42,9 @@ AlertDesk::AlertDesk(EmbeddedBackEnd& embedded, const AlertSettings& present)
             seen = before->seen;
             add(before->entries);
         });
+}
+
+void AlertDesk::begin() {
     worker = std::make_unique<AlertWorker>(backEnd.storePath(), [this](AlertFindings&& findings) {
         found.post([this, all = std::move(findings)] { take(all); });
     });
@@ -56,7 +59,8 @@ AlertDesk::~AlertDesk() {
 
 void AlertDesk::setSettings(const AlertSettings& wanted) {
     settings = wanted;
-    worker->setRules(settings.rules);
+    if (worker)
+        worker->setRules(settings.rules);
 }
 
 int AlertDesk::unseen() const {
@@ -86,7 +90,7 @@ void AlertDesk::RecvNewHeadLine(const CHeadline*, const QString&, const QString&
 }
 
 void AlertDesk::look() {
-    if (std::exchange(isAsked, true))
+    if (!worker || std::exchange(isAsked, true))
         return;
     QMetaObject::invokeMethod(
         this,

@@ -24,10 +24,12 @@ class AlertDesk : public QObject, public NewsReceiver {
     Q_OBJECT
 
 public:
-    // The back end outlives this.
+    // The back end outlives this. Nothing is looked at before begin().
     AlertDesk(EmbeddedBackEnd& backEnd, const AlertSettings& settings);
     ~AlertDesk() override;
 
+    // Goes on behind what was looked at last: from here on somebody is there to be told.
+    void begin();
     void setSettings(const AlertSettings& settings);
     // The last 500, oldest first.
     const std::deque<AlertEntry>& entries() const { return known; }
@@ -63,7 +65,7 @@ private:
     std::int64_t written = 0;             // the position that the store has
     bool isAsked = false;                 // to look, and the event loop will
     CallQueue found;                      // on the interface thread
-    std::unique_ptr<AlertWorker> worker;  // last: it posts what it finds
+    std::unique_ptr<AlertWorker> worker;  // last: it posts what it finds; null before the beginning
 };
 
 }  // namespace wirepane

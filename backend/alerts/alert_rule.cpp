@@ -63,7 +63,7 @@ AlertSettings alertsFromJson(const QJsonObject& stored) {
     settings.quietTo = int(fields.optionalNumber(u"quietTo"_s, 0, lastMinute).value_or(0));
     QSet<QString> names;
     const QJsonArray rules = fields.optionalList(u"rules"_s).value_or(QJsonArray());
-    for (const QJsonValue& each : rules) {
+    for (const auto& each : rules) {
         const auto rule = ruleFrom(each.toObject());
         if (!rule || names.contains(rule->name) || names.size() == mostAlertRules)
             continue;

@@ -178,7 +178,10 @@ int runExplain(const Explained& explained) {
     if (!settings.isValid() || !copySettings(explained.configFolder, settings.path()))
         return unusable(
             u"The settings in %1 cannot be copied."_s.arg(QDir::toNativeSeparators(explained.configFolder)));
-    const auto session = Session::open({explained.storeFile, settings.path(), u"en"_s});
+    const auto session = Session::open({.storeFile = explained.storeFile,
+                                        .configFolder = settings.path(),
+                                        .language = u"en"_s,
+                                        .watchesAlerts = false});
     if (!session)
         return unusable(sentence(session.error()));
     if (const Done opened = session.value()->keeper().restore(); !opened)

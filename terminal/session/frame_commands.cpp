@@ -128,12 +128,9 @@ FrameCommands::FrameCommands(Session& terminal)
 void FrameCommands::carryOut(FrameCommand command) {
     switch (command) {
         case FrameCommand::NewView:
-        case FrameCommand::NewSymbolView: {
-            const auto opened = session.keeper().openNew(
-                command == FrameCommand::NewSymbolView ? NewsType::Symbol : NewsType::Full);
-            report(opened ? Done(Nothing{}) : Done(opened.error()));
+        case FrameCommand::NewSymbolView:
+            openNew(command == FrameCommand::NewSymbolView ? NewsType::Symbol : NewsType::Full);
             break;
-        }
         case FrameCommand::GoToSymbolBox:
             session.frame().symbolBox().begin();
             break;
@@ -187,6 +184,11 @@ void FrameCommands::carryOut(FrameCommand command) {
         default:
             carryOutOnView(command);
     }
+}
+
+void FrameCommands::openNew(NewsType type) {
+    const auto opened = session.keeper().openNew(type);
+    report(opened ? Done(Nothing{}) : Done(opened.error()));
 }
 
 void FrameCommands::carryOutOnView(FrameCommand command) {

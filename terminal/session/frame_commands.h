@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/result.h"
+#include "host/contract/view_kinds.h"
 #include "terminal/frame/frame_command.h"
 #include "terminal/session/news_import.h"
 
@@ -33,6 +34,7 @@ public:
 private:
     void carryOut(FrameCommand command);
     void carryOutOnView(FrameCommand command);
+    void openNew(NewsType type);
     void changeDensity();
     void readAsOf();
     enum class SettingsPage { First, Alerts };

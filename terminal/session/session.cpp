@@ -126,6 +126,8 @@ Done Session::start(const SessionOptions& options) {
         mainFrame->showNotice(shownText(makeError<store_errors::faultFound>(storeFile)));
     });
     connectParts();
+    if (options.watchesAlerts)
+        alertCenter->desk().begin();
     for (const QString& sentence : {feedNotice, settingsFile.message()}) {
         if (!sentence.isEmpty())
             mainFrame->showNotice(sentence);

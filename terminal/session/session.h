@@ -60,6 +60,8 @@ struct SessionOptions {
     std::optional<StoreKind> storeKind = std::nullopt;  // of them; nothing: the one to begin with
     // The sources of the store's list are asked, unless it is the sample's.
     bool readsSources = false;
+    // Somebody is there to be told what his alert rules match.
+    bool watchesAlerts = true;
 };
 
 // Where a user goes from a session: to the other one of his stores, to take files into it, if any, or to its

@@ -7,14 +7,14 @@
 #include <QCoreApplication>
 #include <QLocale>
 
-#include <array>
+#include <iterator>
 
 namespace wirepane {
 
 namespace {
 
 // In the order of TextId.
-constexpr std::array keys{
+constexpr const char* keys[]{
     "TERMINAL_APP_TITLE",
     "TERMINAL_MENU_FILE",
     "TERMINAL_MENU_VIEW",
@@ -289,7 +289,7 @@ constexpr std::array keys{
     "TERMINAL_ALERT_RULE_TWICE",
     "TERMINAL_ALERT_COUNT",
 };
-static_assert(keys.size() == static_cast<std::size_t>(TextId::AlertCount) + 1);
+static_assert(std::size(keys) == static_cast<std::size_t>(TextId::AlertCount) + 1);
 
 }  // namespace
 

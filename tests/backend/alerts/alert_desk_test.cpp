@@ -35,6 +35,7 @@ struct Terminal {
         QObject::connect(&desk, &AlertDesk::told, &desk, [this](const std::vector<AlertEntry>& entries) {
             told.insert(told.end(), entries.begin(), entries.end());
         });
+        desk.begin();
         wait();
     }
     // Until all that is there has been looked at.
