@@ -2,22 +2,28 @@
 // SPDX-License-Identifier: MIT
 #include "news_view/standing_searches.h"
 
+#include "headline_list/cell_state.h"
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
 #include "host/controls/heap_dialog.h"
 #include "news_view/list_notices.h"
 #include "news_view/news_services.h"
+#include "news_view/rehearsed_key_set.h"
 #include "news_view/view_context.h"
 #include "news_view/view_settings.h"
+#include "search/dialog_controls.h"
 #include "search/news_key_search_dlg.h"
+#include "search/rehearsal_dlg.h"
 #include "search/search_desk.h"
 #include "search/search_ids.h"
 #include "search/warn_term_dlg.h"
 
+#include <QHash>
 #include <QKeySequence>
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +37,24 @@ QString keywordsOf(const CSearch& condition) {
     constexpr qsizetype longest = 200;
     const QString text = QStringList(condition.keywords.begin(), condition.keywords.end()).join(u", "_s);
     return text.size() > longest ? text.left(longest) + u'…' : text;
+}
+
+// Of headlines in their order; empty where one is not at hand.
+QStringList titlesOfKeys(BKQuoteInterface& backEnd, const std::vector<HeadlineKey>& keys) {
+    std::map<unsigned char, std::vector<CHeadlineTable>> wanted;
+    for (const HeadlineKey& key : keys)
+        wanted[key.service].push_back({key.time, key.sequence, key.service, 0, 0});
+    QHash<HeadlineKey, QString> titles;
+    for (const auto& [service, entries] : wanted) {
+        std::vector<CHeadline> found;
+        backEnd.BKQNEWS_iGetHeadline(service, found, entries);
+        for (const CHeadline& headline : found)
+            titles[keyOf(headline)] = headline.title;
+    }
+    QStringList inOrder;
+    for (const HeadlineKey& key : keys)
+        inOrder << titles.value(key);
+    return inOrder;
 }
 
 // Null: the back end cannot try queries on headlines.
@@ -64,6 +88,9 @@ void StandingSearches::composeKeySets() {
                                             desk.memory.keySets, &parts.window, takesQueries));
     if (parts.settings.options[ViewOption::KeySetsInAnyCase])
         dialog->takeAnyCase();
+    if (parts.settings.options[ViewOption::RehearseKeySets] &&
+        dynamic_cast<KeySetRehearsal*>(&parts.backEnd) != nullptr)
+        dialog->offerRehearsal([this, &dialog](const CNewsKey& keySet) { rehearse(keySet, dialog.get()); });
     const bool accepted = dialog->DoModal() == search_ids::ok;
     if (!dialog)
         return;
@@ -78,6 +105,21 @@ void StandingSearches::composeKeySets() {
     calls.readRelationList();
     if (context.shownList() == ListIndex::Relation)
         context.showStory();
+}
+
+// As it would be matched live, in the services of the list.
+void StandingSearches::rehearse(const CNewsKey& keySet, QWidget* over) {
+    const auto letters = parts.settings.options[ViewOption::KeySetsInAnyCase]
+                             ? RelationMatcher::Case::Any
+                             : RelationMatcher::Case::AsWritten;
+    const auto titlesOf = [this](const std::vector<HeadlineKey>& keys) {
+        return titlesOfKeys(parts.backEnd, keys);
+    };
+    HeapDialog dialog(
+        new RehearsalDlg(*dynamic_cast<KeySetRehearsal*>(&parts.backEnd),
+                         rehearsedKeySet(keySet, letters, parts.services.activeServices(ListIndex::Relation)),
+                         titlesOf, over));
+    runModally(dialog.get());
 }
 
 std::optional<QueryFault> StandingSearches::addKeySet(const CSearch& condition) {

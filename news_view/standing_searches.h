@@ -52,6 +52,7 @@ public:
 
 private:
     void setTicked(const std::vector<CNewsKey>& keySets);
+    void rehearse(const CNewsKey& keySet, QWidget* over);
 
     ViewContext& context;
     const CommonParts parts;

@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace wirepane;
 
@@ -57,6 +58,16 @@ CNewsKeySearchDlg::CNewsKeySearchDlg(const KeywordList& keywordPool, const Categ
 // Between what belongs together.
 void CNewsKeySearchDlg::takeAnyCase() {
     capitalsNote->hide();
+}
+
+void CNewsKeySearchDlg::offerRehearsal(std::function<void(const CNewsKey&)> rehearse) {
+    QPushButton* button = makeButton(this, search_ids::rehearseKeySet, langText(search_keys::rehearse));
+    savingButtons->addWidget(button);
+    setTabOrder(saveButton, button);
+    connect(button, &QPushButton::clicked, this, [this, rehearse = std::move(rehearse)] {
+        if (const auto keySet = askKeySet())
+            rehearse(*keySet);
+    });
 }
 
 int CNewsKeySearchDlg::nearby() const {
@@ -123,7 +134,9 @@ QLayout* CNewsKeySearchDlg::createSaving() {
     column->addLayout(grid);
     column->addWidget(capitalsNote);
     column->addStretch();
-    column->addWidget(saveButton);
+    savingButtons = new QHBoxLayout;
+    savingButtons->addWidget(saveButton);
+    column->addLayout(savingButtons);
     return column;
 }
 
@@ -191,18 +204,23 @@ std::vector<std::int32_t> CNewsKeySearchDlg::tickedNewsTypes() const {
     return ticked;
 }
 
-void CNewsKeySearchDlg::save() {
+std::optional<CNewsKey> CNewsKeySearchDlg::askKeySet() {
     const std::vector<std::int32_t> types = tickedNewsTypes();
     if (types.empty() || composed().keywords.empty()) {
         tellError(this, langText(types.empty() ? search_keys::noNewsType : search_keys::noKeyword));
-        return;
+        return std::nullopt;
     }
     const auto entered = askComposed(QueryUse::Headlines);
     if (!entered || entered->keywords.empty())
-        return;
+        return std::nullopt;
     CNewsKey keySet(entered->method, types, entered->keywords);
     keySet.language = entered->language;
-    const int row = saveKeySet(keySets, keySet, editing);
+    return keySet;
+}
+
+void CNewsKeySearchDlg::save() {
+    const std::optional<CNewsKey> keySet = askKeySet();
+    const int row = keySet ? saveKeySet(keySets, *keySet, editing) : -1;
     if (row < 0)
         return;
     fillRow(row);

@@ -5,6 +5,9 @@
 #include "search/key_sets.h"
 #include "search/keyword_entry_dlg.h"
 
+#include <functional>
+#include <optional>
+
 class CCheckListBox;
 
 namespace wirepane {
@@ -12,6 +15,7 @@ class KeySetList;
 
 }  // namespace wirepane
 
+class QBoxLayout;
 class QCheckBox;
 class QLabel;
 class QLayout;
@@ -30,6 +34,9 @@ public:
     // The view compares keywords whatever their case: the note that says otherwise goes.
     void takeAnyCase();
 
+    // The key set that is being composed can be tried before it is saved: `rehearse` is called with it.
+    void offerRehearsal(std::function<void(const CNewsKey&)> rehearse);
+
     // What the caller takes back after OK, besides the pool.
     const std::vector<CNewsKey>& composedKeySets() const { return keySets; }
     std::vector<CNewsKey> tickedKeySets() const;
@@ -47,6 +54,8 @@ private:
     QCheckBox* addCheckBox(int id, QLatin1StringView key);
 
     std::vector<std::int32_t> tickedNewsTypes() const;
+    // As it is to be saved; nothing: the user was told what is missing.
+    std::optional<CNewsKey> askKeySet();
     void save();
     void edit(int row);
     void leaveEditing();
@@ -64,6 +73,7 @@ private:
     wirepane::KeySetList* keySetList = nullptr;
     QCheckBox* allKeySets = nullptr;
     QLabel* capitalsNote = nullptr;
+    QBoxLayout* savingButtons = nullptr;
     QPushButton* saveButton = nullptr;
     QPushButton* deleteButton = nullptr;
 };

@@ -10,6 +10,7 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -22,11 +23,19 @@ namespace {
 
 constexpr std::int64_t hourSeconds = 3600;
 
-// A part of the query that asks for something, ready to be tried alone.
+using Wants = KeySetRehearsal::Wants;
+
+// A part that asks for something, ready to be tried alone.
 struct AskedPart {
-    std::shared_ptr<const TitleQuery> query;
+    Wants wants;
     Rehearsal::Word word;
 };
+
+Wants wantsOf(std::shared_ptr<const TitleQuery> query) {
+    return [query = std::move(query)](const CHeadline& headline, const QString&) {
+        return query->wants(headline, headline.categoryId);
+    };
+}
 
 struct AskedParts {
     std::vector<AskedPart> parts;
@@ -53,7 +62,7 @@ private:
         const QString written = text.mid(node.position, node.length);
         if (node.parts.empty() && seen.insert(written).second) {
             if (auto query = TitleQuery::make(written, planner, related))
-                asked.parts.push_back({std::move(query), {written, 0}});
+                asked.parts.push_back({wantsOf(std::move(query)), {written, 0}});
         }
         for (const QueryNode& inner : node.parts)
             collect(inner);
@@ -68,8 +77,8 @@ private:
 
 class Trial {
 public:
-    Trial(std::shared_ptr<const TitleQuery> wantedQuery, AskedParts askedParts, const RehearsedTime& time)
-        : query(std::move(wantedQuery)),
+    Trial(Wants itsWants, AskedParts askedParts, const RehearsedTime& time)
+        : wants(std::move(itsWants)),
           parts(std::move(askedParts.parts)),
           words(std::move(askedParts.phrases)) {
         for (int before = time.days - 1; before >= 0; --before)
@@ -77,9 +86,9 @@ public:
         firstDay = result.days.empty() ? 0 : result.days.front().day.toJulianDay();
     }
 
-    void take(const CHeadline& headline) {
+    void take(const CHeadline& headline, const QString& symbol) {
         ++result.tried;
-        const bool isHit = query->wants(headline, headline.categoryId);
+        const bool isHit = wants(headline, symbol);
         words.add(headline.title, isHit);
         if (!isHit)
             return;
@@ -89,7 +98,7 @@ public:
             ++result.days[day].hits;
         ++hours[headline.time - headline.time % hourSeconds];
         for (AskedPart& part : parts)
-            part.word.hits += part.query->wants(headline, headline.categoryId) ? 1 : 0;
+            part.word.hits += part.wants(headline, symbol) ? 1 : 0;
     }
 
     Rehearsal finish() {
@@ -111,7 +120,7 @@ public:
     }
 
 private:
-    const std::shared_ptr<const TitleQuery> query;
+    const Wants wants;
     std::vector<AskedPart> parts;
     TitleWords words;
     LocalDays localDays;
@@ -120,7 +129,7 @@ private:
     Rehearsal result;
 };
 
-// False when the store cannot be read.
+// False when the store cannot be read, or nobody waits.
 bool tryService(Trial& trial, Statement& headlines, unsigned char service, const RehearsedTime& time) {
     const std::int64_t begin = time.last.addDays(1 - time.days).startOfDay().toSecsSinceEpoch();
     const std::int64_t end = time.last.addDays(1).startOfDay().toSecsSinceEpoch();
@@ -132,33 +141,66 @@ bool tryService(Trial& trial, Statement& headlines, unsigned char service, const
         headline.sequence = query.smallNumber(1);
         headline.title = query.text(2);
         headline.categoryId = query.smallNumber(3);
-        trial.take(headline);
+        trial.take(headline, query.text(4));
+        if (time.dropped != nullptr && *time.dropped)
+            return false;
     }
     return !query.failed();
 }
 
-}  // namespace
+// What a key set asks for. Nothing where its query has a fault.
+struct Asked {
+    Wants wants;
+    AskedParts parts;
+};
 
-int Rehearsal::hoursOver(int budget) const {
-    return static_cast<int>(
-        std::count_if(hours.begin(), hours.end(), [&](const Hour& hour) { return hour.hits > budget; }));
+std::optional<Asked> askedOf(const QString& query, QueryPlanner& planner,
+                             const TitleQuery::RelatedSymbols& related) {
+    const ReadQuery read = readQuery(query, QueryUse::Headlines);
+    const auto* node = std::get_if<QueryNode>(&read);
+    auto whole = node != nullptr ? TitleQuery::make(query, planner, related) : nullptr;
+    if (!whole)
+        return std::nullopt;
+    return Asked{wantsOf(std::move(whole)), PartsOfQuery(query, planner, related).take(*node)};
 }
+
+Asked askedOf(const KeySetRehearsal::KeySet& keySet) {
+    Asked asked{keySet.wants, {}};
+    for (const KeySetRehearsal::Part& part : keySet.parts) {
+        asked.parts.parts.push_back({part.wants, {part.text, 0}});
+        asked.parts.phrases.push_back(phraseBetweenBlanks(part.text));
+    }
+    return asked;
+}
+
+Wants ofNewsTypes(Wants wants, const std::vector<std::int32_t>& newsTypes) {
+    if (newsTypes.empty())
+        return wants;
+    return [wants = std::move(wants), &newsTypes](const CHeadline& headline, const QString& symbol) {
+        return std::find(newsTypes.begin(), newsTypes.end(), headline.categoryId) != newsTypes.end() &&
+               wants(headline, symbol);
+    };
+}
+
+}  // namespace
 
 std::optional<Rehearsal> rehearse(Database& store, const QString& query, const RehearsedTime& time,
                                   const TitleQuery::RelatedSymbols& related) {
-    const ReadQuery read = readQuery(query, QueryUse::Headlines);
-    const auto* node = std::get_if<QueryNode>(&read);
-    if (node == nullptr)
-        return std::nullopt;
+    return rehearse(store, KeySetRehearsal::KeySet{query, {}, {}, {}, {}}, time, related);
+}
+
+std::optional<Rehearsal> rehearse(Database& store, const KeySetRehearsal::KeySet& keySet,
+                                  const RehearsedTime& time, const TitleQuery::RelatedSymbols& related) {
     QueryPlanner planner(store);
-    auto whole = TitleQuery::make(query, planner, related);
-    if (!whole)
+    std::optional<Asked> asked = keySet.wants ? askedOf(keySet) : askedOf(keySet.query, planner, related);
+    if (!asked)
         return std::nullopt;
-    Trial trial(std::move(whole), PartsOfQuery(query, planner, related).take(*node), time);
-    Statement headlines(
-        store,
-        "SELECT time, sequence, title, category FROM headlines WHERE service = ? AND time >= ? "
-        "AND time < ? ORDER BY time, sequence");
+    Trial trial(ofNewsTypes(std::move(asked->wants), keySet.newsTypes), std::move(asked->parts), time);
+    Statement headlines(store,
+                        "SELECT time, sequence, title, category, (SELECT code FROM related_symbols "
+                        "WHERE headline = headlines.id ORDER BY position LIMIT 1) FROM headlines WHERE "
+                        "service = ? AND time >= ? "
+                        "AND time < ? ORDER BY time, sequence");
     for (const unsigned char service : time.services) {
         if (!tryService(trial, headlines, service, time))
             return std::nullopt;

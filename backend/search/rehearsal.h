@@ -3,10 +3,12 @@
 #pragma once
 
 #include "backend/search/title_query.h"
+#include "host/contract/query/key_set_rehearsal.h"
 
 #include <QDate>
 #include <QString>
 
+#include <atomic>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -22,42 +24,16 @@ struct RehearsedTime {
     QDate last;
     int days = 30;
     std::int64_t latest = 0;
+    const std::atomic<bool>* dropped = nullptr;  // set from any thread: nobody waits for it any more
 };
 
-// How often a query for headlines would have spoken.
-struct Rehearsal {
-    struct Day {
-        QDate day;
-        int hits = 0;
-    };
-    struct Hour {
-        std::int64_t begin = 0;  // seconds since 1970
-        int hits = 0;
-    };
-    struct Word {
-        QString text;
-        int hits = 0;
-    };
-    static constexpr std::size_t mostWords = 10;
-
-    int tried = 0;                  // headlines
-    std::vector<HeadlineKey> hits;  // newest first
-    std::vector<Day> days;          // oldest first, also those without a hit
-    std::vector<Hour> hours;        // those with hits, busiest first, of equal ones the latest
-    // Parts of the query that ask for something, as they are written, by the hits that hold them.
-    std::vector<Word> bringing;
-    // Words, and pairs of characters of a script without blanks, that the query does not name and that stand
-    // at least twice as often in its hits as elsewhere: how many hits fewer it had if it excluded one of
-    // them.
-    std::vector<Word> exclusions;
-
-    // In how many hours there were more hits.
-    int hoursOver(int budget) const;
-};
-
-// Tries the query as the live lists do. Nothing where it has a fault or the store cannot be read. 300,000
+// Tries the query as the live lists do. Nothing where it has a fault or is dropped, or the store cannot be
+// read. 300,000
 // headlines take about a second; thread: that of the database.
 std::optional<Rehearsal> rehearse(Database& store, const QString& query, const RehearsedTime& time,
                                   const TitleQuery::RelatedSymbols& related);
+// The same of a key set: the services that count are those of `time`.
+std::optional<Rehearsal> rehearse(Database& store, const KeySetRehearsal::KeySet& keySet,
+                                  const RehearsedTime& time, const TitleQuery::RelatedSymbols& related);
 
 }  // namespace wirepane

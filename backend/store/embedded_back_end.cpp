@@ -73,6 +73,7 @@ EmbeddedBackEnd::EmbeddedBackEnd(StoreConnections opened)
       announcements([this] { return !delivery.isDone(); },
                     [this](const AnnouncedTables& tables) { announce(tables); }),
       rowFiles(connections.reading->path()),
+      rehearsals(connections.reading->path()),
       searches(
           connections.reading->path(),
           [this](const CSearch& condition, unsigned char service) {

@@ -17,6 +17,7 @@
 #include "backend/store/price_desk.h"
 #include "backend/store/quote_book.h"
 #include "backend/store/quote_desk.h"
+#include "backend/store/rehearsal_desk.h"
 #include "backend/store/request_log.h"
 #include "backend/store/row_file_desk.h"
 #include "backend/store/store_file.h"
@@ -35,6 +36,7 @@
 #include "host/contract/news_row_files.h"
 #include "host/contract/price_history.h"
 #include "host/contract/query/headline_query.h"
+#include "host/contract/query/key_set_rehearsal.h"
 #include "host/contract/query/newest_found.h"
 #include "host/contract/query/search_counts.h"
 #include "host/contract/query/search_hits.h"
@@ -103,6 +105,7 @@ class EmbeddedBackEnd : public BKQuoteInterface,
                         public HeadlineQueries,
                         public SearchHits,
                         public SearchCounts,
+                        public KeySetRehearsal,
                         public NewestFound,
                         public NewsRowFiles {
 public:
@@ -279,6 +282,9 @@ public:
     std::shared_ptr<const HitFinder> prepareHits(const CSearch& condition) override;
     std::shared_ptr<const void> countFound(std::vector<CountedSearch> wanted,
                                            SearchCounts::Told told) override;
+    std::shared_ptr<const void> rehearseKeySet(KeySet keySet, KeySetRehearsal::Told told) override {
+        return rehearsals.rehearse(std::move(keySet), std::move(told));
+    }
     std::shared_ptr<const void> findNewest(const CSearch& condition,
                                            const std::vector<unsigned char>& services, std::size_t most,
                                            NewestFound::Told told) override;
@@ -376,6 +382,7 @@ private:
     NewsDelivery delivery;
     TableAnnouncements announcements;
     RowFileDesk rowFiles;
+    RehearsalDesk rehearsals;
     SearchDispatcher searches;
     StoreIntake intake;  // last: its reports reach all of the above
 };

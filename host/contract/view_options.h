@@ -60,6 +60,7 @@ enum class ViewOption {
     UnreadCounts,     // tabs and the view's caption say how much of their lists is unread
     QuietSources,     // lists say which sources give no sign of life, and that none has anything new
     OtherYears,       // rows of another year than the present one show their day with its year
+    RehearseKeySets,  // before a key set is kept it can be tried on the news of the last 30 days
     MarkHits,         // what was searched for is marked in titles and stories, a tint for each word
     SearchOffers,     // a search that finds nothing offers what would find something, with counts
     PriceColumns,     // 1: the menu offers what prices have done since the headlines; 2: lists show it
@@ -117,6 +118,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::UnreadCounts, QLatin1StringView("UnreadCounts")},
     {ViewOption::QuietSources, QLatin1StringView("QuietSources")},
     {ViewOption::OtherYears, QLatin1StringView("OtherYears")},
+    {ViewOption::RehearseKeySets, QLatin1StringView("RehearseKeySets")},
     {ViewOption::MarkHits, QLatin1StringView("MarkHits")},
     {ViewOption::SearchOffers, QLatin1StringView("SearchOffers")},
     {ViewOption::PriceColumns, QLatin1StringView("PriceColumns"), 2, 1},

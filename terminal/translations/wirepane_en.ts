@@ -1283,6 +1283,74 @@
         <source></source>
         <translation>All &amp;keywords</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSE">
+        <source></source>
+        <translation>Try &amp;on 30 Days…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TITLE">
+        <source></source>
+        <translation>Key Set on the News of 30 Days</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_RUNS">
+        <source></source>
+        <translation>Trying…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_FAILED">
+        <source></source>
+        <translation>The news cannot be read.</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_SUMMARY">
+        <source></source>
+        <translation>%1 of %2 headlines in 30 days</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUSIEST">
+        <source></source>
+        <translation>busiest hour: %1, %2</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUDGET">
+        <source></source>
+        <translation>At &amp;most an hour:</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_OVER">
+        <source></source>
+        <translation>Hours with more: %1</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_WITHIN">
+        <source></source>
+        <translation>No hour had more.</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_DAY">
+        <source></source>
+        <translation>Day</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_COUNT">
+        <source></source>
+        <translation>Hits</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BROUGHT">
+        <source></source>
+        <translation>Brought by</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_EXCLUDED">
+        <source></source>
+        <translation>Without</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_SAVED">
+        <source></source>
+        <translation>Saved</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TIME">
+        <source></source>
+        <translation>Time</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_HIT">
+        <source></source>
+        <translation>Headline</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_CLOSE">
+        <source></source>
+        <translation>&amp;Close</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_CAPITALS_NOTE">
         <source></source>
         <translation>Headlines are compared in capitals: write Latin letters so (CHIPS, not chips).</translation>

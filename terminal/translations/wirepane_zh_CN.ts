@@ -1283,6 +1283,74 @@
         <source></source>
         <translation>全部关键词(&amp;K)</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSE">
+        <source></source>
+        <translation>以三十天新闻测试(&amp;O)…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TITLE">
+        <source></source>
+        <translation>关键字组与三十天新闻</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_RUNS">
+        <source></source>
+        <translation>测试中…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_FAILED">
+        <source></source>
+        <translation>无法读取新闻。</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_SUMMARY">
+        <source></source>
+        <translation>三十天 %2 条标题中有 %1 条</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUSIEST">
+        <source></source>
+        <translation>最忙的一小时：%1，%2 条</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUDGET">
+        <source></source>
+        <translation>每小时至多(&amp;M)：</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_OVER">
+        <source></source>
+        <translation>超过的小时数：%1</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_WITHIN">
+        <source></source>
+        <translation>没有一小时超过。</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_DAY">
+        <source></source>
+        <translation>日期</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_COUNT">
+        <source></source>
+        <translation>条数</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BROUGHT">
+        <source></source>
+        <translation>来自</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_EXCLUDED">
+        <source></source>
+        <translation>若排除</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_SAVED">
+        <source></source>
+        <translation>减少</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TIME">
+        <source></source>
+        <translation>时间</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_HIT">
+        <source></source>
+        <translation>标题</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_CLOSE">
+        <source></source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_CAPITALS_NOTE">
         <source></source>
         <translation>标题以大写比对：英文字母请用大写（CHIPS，而不是 chips）。</translation>

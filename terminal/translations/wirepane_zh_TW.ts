@@ -1283,6 +1283,74 @@
         <source></source>
         <translation>全部關鍵字(&amp;K)</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSE">
+        <source></source>
+        <translation>以三十日新聞測試(&amp;O)…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TITLE">
+        <source></source>
+        <translation>關鍵字組與三十日新聞</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_RUNS">
+        <source></source>
+        <translation>測試中…</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_FAILED">
+        <source></source>
+        <translation>無法讀取新聞。</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_SUMMARY">
+        <source></source>
+        <translation>三十日 %2 則標題中有 %1 則</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUSIEST">
+        <source></source>
+        <translation>最忙的一小時：%1，%2 則</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUDGET">
+        <source></source>
+        <translation>每小時至多(&amp;M)：</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_OVER">
+        <source></source>
+        <translation>超過的小時數：%1</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_WITHIN">
+        <source></source>
+        <translation>沒有一小時超過。</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_DAY">
+        <source></source>
+        <translation>日期</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_COUNT">
+        <source></source>
+        <translation>則數</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BROUGHT">
+        <source></source>
+        <translation>來自</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_EXCLUDED">
+        <source></source>
+        <translation>若排除</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_SAVED">
+        <source></source>
+        <translation>減少</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TIME">
+        <source></source>
+        <translation>時間</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_HIT">
+        <source></source>
+        <translation>標題</translation>
+    </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_CLOSE">
+        <source></source>
+        <translation>關閉(&amp;C)</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_CAPITALS_NOTE">
         <source></source>
         <translation>標題以大寫比對：英文字母請用大寫（CHIPS，不是 chips）。</translation>

@@ -82,6 +82,34 @@ TEST_F(RehearsalTest, CountsByDayAndHourWhatIsWithinItsTime) {
         EXPECT_FALSE(rehearsed(fault)) << fault.toStdString();
 }
 
+TEST_F(RehearsalTest, TriesPlainKeywordsWithWhatMatchesThemLive) {
+    add(at(9, 0), u"Gold price"_s);
+    add(at(9, 1), u"Golden"_s);
+    add(at(9, 2), u"Tin"_s, 2);
+    const auto wants = [](const QString& word) {
+        return [word](const CHeadline& headline, const QString& symbol) {
+            return headline.title.contains(word) || symbol == word;
+        };
+    };
+    const std::int32_t type = 3;
+    struct Expected {
+        QString word;
+        std::vector<std::int32_t> newsTypes;
+        std::size_t hits;
+    };
+    const Expected cases[] = {{u"Gold"_s, {}, 2}, {u"AAPL"_s, {}, 3}, {u"Gold"_s, {type}, 0}};
+    for (const auto& [word, newsTypes, hits] : cases) {
+        const KeySetRehearsal::KeySet keySet{{}, wants(word), {{word, wants(word)}}, newsTypes, {}};
+        const auto found = rehearse(*store, keySet, {{1, 2}, QDate(2026, 3, 2), 3, at(23, 59)}, {});
+        ASSERT_TRUE(found);
+        EXPECT_EQ(found->hits.size(), hits) << word.toStdString();
+        EXPECT_EQ(wordsOf(found->bringing), u"%1=%2"_s.arg(word).arg(hits));
+    }
+    const std::atomic<bool> dropped = true;
+    EXPECT_FALSE(rehearse(*store, {u"gold"_s, {}, {}, {}, {}},
+                          {{1, 2}, QDate(2026, 3, 2), 3, at(23, 59), &dropped}, {}));
+}
+
 // What is promised of an exclusion is what a query with it has fewer.
 TEST_F(RehearsalTest, TellsWhatBringsItAndWhatAnExclusionSaves) {
     for (int i = 0; i < 12; ++i) {
