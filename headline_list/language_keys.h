@@ -91,6 +91,8 @@ inline constexpr QLatin1StringView recover{"IDS_NEWSCTRLVIEW_STRING_RECOVER"};
 // How long ago a headline came, in its tool tip. "%1": how many.
 inline constexpr QLatin1StringView correctedMark{"IDS_NEWSCTRLVIEW_CORRECTED"};
 inline constexpr QLatin1StringView correctedNumbers{"IDS_NEWSCTRLVIEW_CORRECTED_NUMBERS"};
+// "%1": how many seconds.
+inline constexpr QLatin1StringView correctedAfterReading{"IDS_NEWSCTRLVIEW_CORRECTED_AFTER_READING"};
 inline constexpr QLatin1StringView turnChanges{"IDS_NEWSCTRLVIEW_TURN_CHANGES"};
 inline constexpr QLatin1StringView showChanges{"IDS_NEWSCTRLVIEW_SHOW_CHANGES"};
 inline constexpr QLatin1StringView hideChanges{"IDS_NEWSCTRLVIEW_HIDE_CHANGES"};

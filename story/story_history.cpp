@@ -10,6 +10,7 @@
 #include "host/contract/news_record.h"
 #include "story/story_text.h"
 
+#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -31,6 +32,13 @@ QString linesOf(BKQuoteInterface& backEnd, unsigned char service, const QString&
 
 CHeadlineTable entryOf(const CHeadline& headline) {
     return {headline.time, headline.sequence, headline.service};
+}
+
+// There is one at least.
+const NewsVersion& comparedVersion(const std::vector<NewsVersion>& versions) {
+    const auto read = std::find_if(versions.rbegin(), versions.rend(),
+                                   [](const NewsVersion& version) { return version.opened != 0; });
+    return read != versions.rend() ? *read : versions.back();
 }
 
 // Puts what went before what came, one behind the other.
@@ -57,6 +65,7 @@ QString StoryHistory::remark(const CHeadline& headline) const {
         const QString numbers = changedNumbers(headline);
         sentences += numbers.isEmpty() ? langText(backEnd, keys::correctedMark)
                                        : langText(backEnd, keys::correctedNumbers).arg(numbers);
+        sentences += timeSinceReading(keyOf(headline));
     }
     if (state.withdrawal)
         sentences += withdrawalText(backEnd, *state.withdrawal);
@@ -64,6 +73,7 @@ QString StoryHistory::remark(const CHeadline& headline) const {
     if (sources.size() > 1)
         sentences += langText(backEnd, keys::severalSources)
                          .arg(sources.join(langText(backEnd, keys::betweenSources)));
+    sentences.removeAll(QString());
     return sentences.join(u" \u00B7 "_s);
 }
 
@@ -77,9 +87,20 @@ std::optional<StoryHistory::Texts> StoryHistory::earlier(const CHeadline& headli
     const std::vector<NewsVersion> versions = record->versionsOf(keyOf(headline));
     if (versions.empty())
         return std::nullopt;
-    const NewsVersion& last = versions.back();
-    return Texts{shownText(backEnd, headline.service, last.title),
-                 linesOf(backEnd, headline.service, last.story.value_or(QString()))};
+    const NewsVersion& before = comparedVersion(versions);
+    return Texts{shownText(backEnd, headline.service, before.title),
+                 linesOf(backEnd, headline.service, before.story.value_or(QString()))};
+}
+
+QString StoryHistory::timeSinceReading(const HeadlineKey& key) const {
+    const std::vector<NewsVersion> versions = record->versionsOf(key);
+    if (versions.empty())
+        return {};
+    const NewsVersion& before = comparedVersion(versions);
+    if (before.opened == 0)
+        return {};
+    const std::int64_t seconds = std::max<std::int64_t>(before.replaced - before.opened, 0);
+    return langText(backEnd, keys::correctedAfterReading).arg(QLocale(QLocale::English).toString(seconds));
 }
 
 std::optional<ComparedStory> StoryHistory::compared(const CHeadline& headline, const QString& story) const {

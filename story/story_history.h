@@ -34,7 +34,8 @@ struct ComparedStory {
 };
 
 // What a story display tells of news that was corrected or withdrawn, and shows of what has changed. Texts
-// are in the form that is shown; what is compared is the version before the present one. Interface thread.
+// are in the form that is shown; what is compared is the last version that the user has read, or, where he
+// has read none, the one before the present one. Interface thread.
 class StoryHistory {
 public:
     // `backEnd` outlives it. One that is neither NewsRecord nor NewsOrigins has nothing to tell.
@@ -55,6 +56,8 @@ private:
     };
     std::optional<Texts> earlier(const CHeadline& headline) const;
     QString changedNumbers(const CHeadline& headline) const;
+    // How long after he had read it the user's version was corrected; empty: he had not.
+    QString timeSinceReading(const HeadlineKey& key) const;
 
     BKQuoteInterface& backEnd;
     NewsRecord* record;

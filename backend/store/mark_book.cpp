@@ -34,7 +34,10 @@ MarkBook::MarkBook(Database& database)
                 "EXISTS(SELECT 1 FROM arrivals WHERE position > ?1 AND headline = ?2)"),
       write(database,
             "REPLACE INTO marks(headline, state, starred, was_read, shown, opened) "
-            "VALUES(?, ?, ?, ?, ?, ?)") {}
+            "VALUES(?, ?, ?, ?, ?, ?)"),
+      readBefore(database,
+                 "UPDATE versions SET opened = ?2, shown = iif(shown = 0, ?2, shown) WHERE headline = ?1 AND "
+                 "opened = 0 AND number = (SELECT max(number) FROM versions WHERE headline = ?1)") {}
 
 std::optional<MarkBook::Known> MarkBook::look(const HeadlineKey& key, bool& failed) {
     Query query(read, key.service, key.time, key.sequence);
@@ -92,6 +95,10 @@ bool MarkBook::wasCorrected(std::int64_t id, std::int64_t heard) {
     return query.next();
 }
 
+bool MarkBook::noteRead(std::int64_t id, std::int64_t now) {
+    return Query(readBefore, id, now).run();
+}
+
 bool MarkBook::change(const HeadlineKey& key, const MarkChange& change, std::int64_t now,
                       std::int64_t heard) {
     bool failed = false;
@@ -104,8 +111,12 @@ bool MarkBook::change(const HeadlineKey& key, const MarkChange& change, std::int
         return !failed;
     ReadingMark mark = changedMark(known->mark, change, now);
     if (change.state == ReadingState::Read && wasCorrected(known->id, heard)) {
+        mark = known->mark;
+        mark.isStarred = change.isStarred.value_or(mark.isStarred);
         mark.state = ReadingState::New;
         mark.wasRead = true;
+        if (!noteRead(known->id, now))
+            return false;
     }
     if (mark == known->mark)
         return true;

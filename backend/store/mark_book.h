@@ -26,7 +26,8 @@ public:
     void sift(std::vector<HeadlineKey>& keys);
     // Changes the mark as of the moment `now`, made by somebody who has heard of the arrivals up to `heard`:
     // news that has been sent again since then has the mark where it stands now, and is new again where it
-    // was corrected. News that is not there is passed over. False on failure, which the database then holds.
+    // was corrected: what was read is the version before. News that is not there is passed over. False on
+    // failure, which the database then holds.
     bool change(const HeadlineKey& key, const MarkChange& change, std::int64_t now, std::int64_t heard);
 
 private:
@@ -38,6 +39,7 @@ private:
     // The key that the news has now which had this one.
     std::optional<HeadlineKey> movedTo(const HeadlineKey& key, std::int64_t heard);
     bool wasCorrected(std::int64_t id, std::int64_t heard);
+    bool noteRead(std::int64_t id, std::int64_t now);
 
     Statement read;
     Statement begin;
@@ -45,6 +47,7 @@ private:
     Statement moved;
     Statement corrected;
     Statement write;
+    Statement readBefore;
 };
 
 }  // namespace wirepane

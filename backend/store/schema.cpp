@@ -289,6 +289,12 @@ CREATE TABLE alert_state(
     seen INTEGER NOT NULL);
 )sql";
 
+// When the user was first shown a version, and read it; 0: never.
+constexpr const char* readVersions = R"sql(
+ALTER TABLE versions ADD COLUMN shown INTEGER NOT NULL DEFAULT 0;
+ALTER TABLE versions ADD COLUMN opened INTEGER NOT NULL DEFAULT 0;
+)sql";
+
 constexpr std::array steps{firstVersion,   arrivalsAndPositions,
                            ownSearchWords, quotes,
                            goneKeys,       blocksOfImports,
@@ -296,7 +302,8 @@ constexpr std::array steps{firstVersion,   arrivalsAndPositions,
                            englishNames,   versionsAndWithdrawals,
                            packedStories,  indexRenewal,
                            readingMarks,   heldChanges,
-                           prices,         alerts};
+                           prices,         alerts,
+                           readVersions};
 
 }  // namespace
 

@@ -66,7 +66,8 @@ StoreReader::StoreReader(Database& database)
                "FROM headlines LEFT JOIN withdrawals ON headline = id "
                "WHERE service = ? AND time = ? AND sequence = ?"),
       allVersions(database,
-                  "SELECT versions.time, versions.received, versions.title, unpacked(text, headline) "
+                  "SELECT versions.time, versions.received, versions.title, unpacked(text, headline), "
+                  "lead(versions.received, 1, headlines.received) OVER (ORDER BY number), shown, opened "
                   "FROM headlines JOIN versions ON headline = id "
                   "WHERE service = ? AND headlines.time = ? AND sequence = ? ORDER BY number"),
       allOrigins(database,
@@ -186,7 +187,8 @@ std::vector<NewsVersion> StoreReader::versions(const HeadlineKey& key) {
     std::vector<NewsVersion> versions;
     for (Query query(allVersions, key.service, key.time, key.sequence); query.next();)
         versions.push_back({query.number(0), query.number(1), query.text(2),
-                            query.isNull(3) ? std::nullopt : std::optional(query.text(3))});
+                            query.isNull(3) ? std::nullopt : std::optional(query.text(3)), query.number(4),
+                            query.number(5), query.number(6)});
     return versions;
 }
 

@@ -12,11 +12,12 @@ namespace wirepane {
 VersionBook::VersionBook(Database& owner)
     : database(owner),
       write(database,
-            "INSERT INTO versions(headline, number, time, received, differs, title, text) "
+            "INSERT INTO versions(headline, number, time, received, differs, title, text, shown, opened) "
             "SELECT id, 1 + coalesce((SELECT max(number) FROM versions WHERE headline = ?1), 0), time, "
             "received, "
-            "title <> ?2 OR ?3 IS NOT NULL, title, text "
-            "FROM all_headlines LEFT JOIN stories ON headline = id "
+            "title <> ?2 OR ?3 IS NOT NULL, title, text, coalesce(shown, 0), coalesce(opened, 0) "
+            "FROM all_headlines LEFT JOIN stories ON stories.headline = id "
+            "LEFT JOIN marks ON marks.headline = id "
             "WHERE id = ?1 AND (title <> ?2 OR (coalesce(text, '') <> '' AND unpacked(text, id) IS NOT ?3))"),
       drop(
           database,
@@ -33,7 +34,8 @@ VersionBook::VersionBook(Database& owner)
           "unpacked(text, headline) IS (SELECT unpacked(text, headline) FROM stories WHERE headline = ?1)"),
       confirm(database, "UPDATE versions SET differs = 1 WHERE headline = ? AND NOT differs"),
       renew(database,
-            "UPDATE marks SET state = 0, was_read = 1 WHERE headline = ?1 AND state = 2 AND "
+            "UPDATE marks SET state = 0, was_read = 1, shown = 0, opened = 0 WHERE headline = ?1 AND state = "
+            "2 AND "
             "(SELECT differs FROM versions WHERE headline = ?1 ORDER BY number DESC LIMIT 1)"),
       writeWithdrawal(database, "REPLACE INTO withdrawals(headline, moment, reason) VALUES(?, ?, ?)"),
       eraseWithdrawal(database, "DELETE FROM withdrawals WHERE headline = ?") {}

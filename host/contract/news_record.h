@@ -20,6 +20,9 @@ struct NewsVersion {
     std::int64_t received = 0;  // when it was taken in
     QString title;
     std::optional<QString> story;  // in wire form; none: it was still to come when the next version came
+    std::int64_t replaced = 0;     // when the next one was taken in
+    std::int64_t shown = 0;        // when the user was shown it first; 0: never
+    std::int64_t opened = 0;       // when he read it first; 0: never
 };
 
 // That its publisher has taken a piece of news back.

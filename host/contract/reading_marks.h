@@ -27,7 +27,7 @@ struct ReadingMark {
     bool isStarred = false;
     bool wasRead = false;     // before it was corrected: it is new again since then
     std::int64_t shown = 0;   // when its story was shown first
-    std::int64_t opened = 0;  // when it was read first
+    std::int64_t opened = 0;  // when it was read first; of news that was corrected since: its present version
 
     bool operator==(const ReadingMark&) const = default;
 };

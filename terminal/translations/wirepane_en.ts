@@ -1595,6 +1595,10 @@
         <source></source>
         <translation>Corrected</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_CORRECTED_AFTER_READING">
+        <source></source>
+        <translation>%1 s after you read it</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_CORRECTED_NUMBERS">
         <source></source>
         <translation>Corrected: %1</translation>

@@ -1595,6 +1595,10 @@
         <source></source>
         <translation>更正</translation>
     </message>
+    <message id="IDS_NEWSCTRLVIEW_CORRECTED_AFTER_READING">
+        <source></source>
+        <translation>在您阅读 %1 秒之后</translation>
+    </message>
     <message id="IDS_NEWSCTRLVIEW_CORRECTED_NUMBERS">
         <source></source>
         <translation>更正：%1</translation>

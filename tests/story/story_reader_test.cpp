@@ -71,6 +71,7 @@ TEST_F(StoryReaderTest, ShowsWhatIsAtHandAndAPlaceholderForTheRest) {
 TEST_F(StoryReaderTest, TellsWhatBecameOfTheNewsAndShowsWhatHasChanged) {
     backEnd.texts.insert({{u"IDS_NEWSCTRLVIEW_CORRECTED"_s, u"Corrected"_s},
                           {u"IDS_NEWSCTRLVIEW_CORRECTED_NUMBERS"_s, u"Corrected: %1"_s},
+                          {u"IDS_NEWSCTRLVIEW_CORRECTED_AFTER_READING"_s, u"%1 s after reading"_s},
                           {u"IDS_NEWSCTRLVIEW_TIP_WITHDRAWN_WHY"_s, u"Withdrawn %1: %2"_s},
                           {u"IDS_NEWSCTRLVIEW_SEVERAL_SOURCES"_s, u"Brought by %1"_s},
                           {u"IDS_NEWSCTRLVIEW_BETWEEN_SOURCES"_s, u", "_s},
@@ -112,6 +113,13 @@ TEST_F(StoryReaderTest, TellsWhatBecameOfTheNewsAndShowsWhatHasChanged) {
 
     backEnd.versions[7] = {{first.time, first.time, u"Profit 3.55 billion"_s, std::nullopt}};
     EXPECT_TRUE(show(0).head->remark.startsWith(u"Corrected · "));
+    // What the user has read is what is compared.
+    backEnd.versions[7] = {
+        {first.time, first.time, u"Profit 5.35 billion"_s, u"Made 3.55 billion.@@@@Up."_s, first.time + 1300,
+         first.time, first.time + 60},
+        {first.time, first.time + 1300, u"Profit 9.99 billion"_s, u"Made 3.55 billion.@@@@Up."_s}};
+    EXPECT_TRUE(show(0).head->remark.startsWith(
+        u"Corrected: 5.35 billion → 3.55 billion · 1,240 s after reading · Withdrawn"_s));
 
     backEnd.states.clear();
     backEnd.origins[7] = {u"Exchange"_s};

@@ -101,6 +101,34 @@ TEST_F(MarksTest, HoldAtOnceAreToldAndAreKeptWhenTheStoreIsClosed) {
     EXPECT_EQ(StoreChecker(store->path()).check().value(), QStringList());
 }
 
+TEST_F(MarksTest, AVersionKeepsWhenItWasReadAndTheNextOneIsReadAnew) {
+    host_clock::startAt(at(9, 0));
+    const HeadlineKey first = take(news(u"a"_s, 0));
+    const HeadlineKey crossed = take(news(u"b"_s, 0));
+    const std::int64_t heard = ArrivalLog(*store).last().value();
+    ASSERT_TRUE(MarkBook(*store).change(first, read, at(9, 10), heard));
+    host_clock::startAt(at(9, 10, 40));
+    const HeadlineKey second = take(news(u"a"_s, 0, 2, u"Lead"_s));
+    const auto versions = [&](const HeadlineKey& key) { return StoreReader(*store).versions(key); };
+    ASSERT_EQ(versions(second).size(), 1U);
+    EXPECT_EQ(versions(second)[0].opened, at(9, 10));
+    EXPECT_NEAR(double(versions(second)[0].replaced), double(at(9, 10, 40)), 2);
+    EXPECT_EQ(MarkBook(*store).find(second).opened, 0);
+    EXPECT_EQ(kept(second), u"new before"_s);
+    ASSERT_TRUE(MarkBook(*store).change(second, read, at(9, 20), ArrivalLog(*store).last().value()));
+    take(news(u"a"_s, 0, 3, u"Zinc"_s));
+    const HeadlineKey fourth = take(news(u"a"_s, 0, 4, u"Iron"_s));
+    std::vector<std::int64_t> moments;
+    for (const NewsVersion& version : versions(fourth))
+        moments.push_back(version.opened);
+    EXPECT_EQ(moments, (std::vector<std::int64_t>{at(9, 10), at(9, 20), 0}));
+    // Read while the correction was on its way.
+    const HeadlineKey corrected = take(news(u"b"_s, 0, 2, u"Lead"_s));
+    ASSERT_TRUE(MarkBook(*store).change(crossed, read, at(9, 30), heard));
+    EXPECT_EQ(kept(corrected), u"new before"_s);
+    EXPECT_EQ(versions(corrected)[0].opened, at(9, 30));
+}
+
 // More than is written at once; what a hand marks meanwhile is not undone by what is still to come.
 TEST_F(MarksTest, LongListsAreMarkedAPortionAtATimeInTheOrderGiven) {
     constexpr int count = 5000;
