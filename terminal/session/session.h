@@ -12,6 +12,7 @@
 #include "terminal/session/alert_center.h"
 #include "terminal/session/appearance.h"
 #include "terminal/session/background_painter.h"
+#include "terminal/session/blind_window.h"
 #include "terminal/session/breaking_news.h"
 #include "terminal/session/category_display.h"
 #include "terminal/session/category_watch.h"
@@ -177,6 +178,7 @@ private:
     std::unique_ptr<MainFrame> mainFrame;
     std::unique_ptr<BreakingNews> latestNews;
     std::unique_ptr<AlertCenter> alertCenter;
+    std::unique_ptr<BlindWindow> blindWindow;
     std::unique_ptr<Workspace> openViews;
     std::unique_ptr<Appearance> look;
     std::unique_ptr<LinkGroups> linkGroups;

@@ -288,8 +288,13 @@ constexpr const char* keys[]{
     "TERMINAL_ALERT_RULE_INCOMPLETE",
     "TERMINAL_ALERT_RULE_TWICE",
     "TERMINAL_ALERT_COUNT",
+    "TERMINAL_BLIND_CUT_OFF",
+    "TERMINAL_BLIND_SOURCE",
+    "TERMINAL_BLIND_LATE",
+    "TERMINAL_BLIND_NOTHING",
+    "TERMINAL_BLIND_BOTH",
 };
-static_assert(std::size(keys) == static_cast<std::size_t>(TextId::AlertCount) + 1);
+static_assert(std::size(keys) == static_cast<std::size_t>(TextId::BlindBoth) + 1);
 
 }  // namespace
 

@@ -284,6 +284,11 @@ enum class TextId {
     AlertRuleIncomplete,
     AlertRuleTwice,
     AlertCount,
+    BlindCutOff,
+    BlindSource,
+    BlindLate,
+    BlindNothing,
+    BlindBoth,
 };
 
 // The text in the language in force.

@@ -2623,6 +2623,26 @@
         <source></source>
         <translation>As of %1</translation>
     </message>
+    <message id="TERMINAL_BLIND_BOTH">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="TERMINAL_BLIND_CUT_OFF">
+        <source></source>
+        <translation>Cut off from %1 to %2.</translation>
+    </message>
+    <message id="TERMINAL_BLIND_LATE">
+        <source></source>
+        <translation>%1 {headline|headlines} of that time came late, alerts among them: %2.</translation>
+    </message>
+    <message id="TERMINAL_BLIND_NOTHING">
+        <source></source>
+        <translation>No headline of that time has come since.</translation>
+    </message>
+    <message id="TERMINAL_BLIND_SOURCE">
+        <source></source>
+        <translation>No sign of life from %1 between %2 and %3.</translation>
+    </message>
     <message id="TERMINAL_BREAKING_NEWS">
         <source></source>
         <translation>&amp;Breaking News Window</translation>

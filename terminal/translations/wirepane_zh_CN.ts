@@ -2623,6 +2623,26 @@
         <source></source>
         <translation>时点 %1</translation>
     </message>
+    <message id="TERMINAL_BLIND_BOTH">
+        <source></source>
+        <translation>%1%2</translation>
+    </message>
+    <message id="TERMINAL_BLIND_CUT_OFF">
+        <source></source>
+        <translation>%1 至 %2 连接中断。</translation>
+    </message>
+    <message id="TERMINAL_BLIND_LATE">
+        <source></source>
+        <translation>其间的 %1 则标题迟到，符合警示规则：%2。</translation>
+    </message>
+    <message id="TERMINAL_BLIND_NOTHING">
+        <source></source>
+        <translation>其间的标题尚未补到。</translation>
+    </message>
+    <message id="TERMINAL_BLIND_SOURCE">
+        <source></source>
+        <translation>%1 自 %2 至 %3 没有回应。</translation>
+    </message>
     <message id="TERMINAL_BREAKING_NEWS">
         <source></source>
         <translation>即时新闻窗口(&amp;B)</translation>

@@ -2623,6 +2623,26 @@
         <source></source>
         <translation>時點 %1</translation>
     </message>
+    <message id="TERMINAL_BLIND_BOTH">
+        <source></source>
+        <translation>%1%2</translation>
+    </message>
+    <message id="TERMINAL_BLIND_CUT_OFF">
+        <source></source>
+        <translation>%1 至 %2 連線中斷。</translation>
+    </message>
+    <message id="TERMINAL_BLIND_LATE">
+        <source></source>
+        <translation>其間的 %1 則標題遲到，符合警示規則：%2。</translation>
+    </message>
+    <message id="TERMINAL_BLIND_NOTHING">
+        <source></source>
+        <translation>其間的標題尚未補到。</translation>
+    </message>
+    <message id="TERMINAL_BLIND_SOURCE">
+        <source></source>
+        <translation>%1 自 %2 至 %3 沒有回應。</translation>
+    </message>
     <message id="TERMINAL_BREAKING_NEWS">
         <source></source>
         <translation>即時新聞視窗(&amp;B)</translation>

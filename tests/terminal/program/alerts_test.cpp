@@ -93,6 +93,32 @@ TEST_F(AlertsTest, WhatARuleMatchesIsToldInTheCornerWithoutTakingTheFocusAndList
               u"Not told: said within the hour"_s);
 }
 
+TEST_F(AlertsTest, ATimeWithoutNewsIsToldOnceItIsOverUntilTheUserClosesIt) {
+    AlertSettings rules;
+    rules.rules = {usualAlerts().rules.front()};
+    session->alerts().setRules(rules);
+    const std::int64_t noon = host_clock::now();
+    session->setConnected(false);
+    host_clock::startAt(noon + 60);
+    publish(u"FLASH: Gold jumps"_s);
+    publish(u"Copper"_s);
+    host_clock::startAt(noon + 120);
+    EXPECT_EQ(session->frame().notices(), QString());
+    session->setConnected(true);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !session->frame().notices().isEmpty(); }, 20'000));
+    const QString told = session->frame().notices();
+    EXPECT_TRUE(told.startsWith(u"Cut off from 12:00:0"_s)) << told.toStdString();
+    EXPECT_TRUE(told.endsWith(u" 2 headlines of that time came late, alerts among them: 1."_s))
+        << told.toStdString();
+    // A source that gives signs of life again.
+    session->backEnd().setQuietSources({{u"Harbour"_s, false, noon}, {u"Slow"_s, true, noon}});
+    session->backEnd().setQuietSources({});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return session->frame().notices() != told; }, 20'000));
+    const QString both = session->frame().notices();
+    EXPECT_TRUE(both.contains(u"No sign of life from Harbour between 12:00:0"_s)) << both.toStdString();
+    EXPECT_FALSE(both.contains(u"Slow"_s));
+}
+
 TEST_F(AlertsTest, TheSettingsTakeNoRuleThatCannotBeUnderstood) {
     session->alerts().setRules(usualAlerts());
     const auto change = [](QDialog& dialog) {
