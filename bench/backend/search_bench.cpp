@@ -230,16 +230,20 @@ void searchFor(benchmark::State& state, const QString& path, Asked asked, bool i
 
 // In stores of their own; and in one that was made before, where the environment names it.
 void registerSearches() {
-    constexpr std::pair<Asked, const char*> all[] = {{Asked::RareWord, "rare"},
-                                                     {Asked::CommonWord, "common"},
-                                                     {Asked::ThreeWordsButOne, "three_but_one"},
-                                                     {Asked::Phrase, "phrase"}};
+    struct Named {
+        Asked asked;
+        const char* name;
+    };
+    constexpr Named all[] = {{Asked::RareWord, "rare"},
+                             {Asked::CommonWord, "common"},
+                             {Asked::ThreeWordsButOne, "three_but_one"},
+                             {Asked::Phrase, "phrase"}};
     const QString given = qEnvironmentVariable("WIREPANE_SEARCH_STORE");
-    for (const auto& [asked, name] : all) {
+    for (const Named& named : all) {
         for (const bool inChinese : {false, true}) {
-            const std::string called = std::string("searchFor/") + name + (inChinese ? "/zh" : "/en");
+            const std::string called = std::string("searchFor/") + named.name + (inChinese ? "/zh" : "/en");
             const auto add = [&](const QString& path, const std::string& suffix) {
-                return benchmark::RegisterBenchmark((called + suffix).c_str(), searchFor, path, asked,
+                return benchmark::RegisterBenchmark((called + suffix).c_str(), searchFor, path, named.asked,
                                                     inChinese)
                     ->Iterations(20)
                     ->UseManualTime()
