@@ -20,14 +20,16 @@ NewestTitles::NewestTitles(Database& database)
     : planner(database),
       newest(database,
              "SELECT time, sequence, category, title FROM headlines WHERE service = ? AND "
-             "NOT EXISTS(SELECT 1 FROM withdrawals WHERE headline = id) ORDER BY time DESC, sequence DESC "
+             "time <= ? AND NOT EXISTS(SELECT 1 FROM withdrawals WHERE headline = id) ORDER BY time DESC, "
+             "sequence DESC "
              "LIMIT ?"),
       named(database,
             "SELECT market, code FROM related_symbols WHERE headline = "
             "(SELECT id FROM headlines WHERE service = ? AND time = ? AND sequence = ?)") {}
 
 std::vector<CHeadlineTable> NewestTitles::find(const std::vector<unsigned char>& services,
-                                               const QString& query, const std::atomic<bool>& stop) {
+                                               const QString& query, std::int64_t latest,
+                                               const std::atomic<bool>& stop) {
     std::vector<CHeadlineTable> found;
     const auto wanted = TitleQuery::make(
         query, planner, [this](const CHeadline& headline) { return symbolsOf(headline); }, QueryUse::Titles);
@@ -35,7 +37,7 @@ std::vector<CHeadlineTable> NewestTitles::find(const std::vector<unsigned char>&
         return found;
     std::size_t tried = 0;
     for (const unsigned char service : services) {
-        Query rows(newest, service, std::int64_t(titlesTried / services.size()));
+        Query rows(newest, service, latest, std::int64_t(titlesTried / services.size()));
         while (rows.next()) {
             if (++tried % stopAskedEvery == 0 && stop)
                 return {};

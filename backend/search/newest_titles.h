@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace wirepane {
@@ -19,11 +20,11 @@ class NewestTitles {
 public:
     explicit NewestTitles(Database& database);
 
-    // Of some thousand titles of all services together, those that a query wants that may end with a word cut
-    // short; newest first in each service. None of a query that titles cannot answer, or when `stop` became
-    // true meanwhile.
+    // Of some thousand titles of all services together that are no later than a moment, those that a query
+    // wants that may end with a word cut short; newest first in each service. None of a query that titles
+    // cannot answer, or when `stop` became true meanwhile.
     std::vector<CHeadlineTable> find(const std::vector<unsigned char>& services, const QString& query,
-                                     const std::atomic<bool>& stop);
+                                     std::int64_t latest, const std::atomic<bool>& stop);
 
 private:
     std::vector<CSymbolInfo> symbolsOf(const CHeadline& headline);

@@ -63,7 +63,7 @@ std::vector<CHeadlineTable> SearchWorker::found(const SideJob::Search& search, c
     NewsSearch* const searching = *job.dropped ? nullptr : opened();
     if (searching == nullptr)
         return entries;
-    if (search.most)
+    if (search.newest)
         return newestFound(search, job);
     for (const unsigned char service : search.services) {
         if (const auto found = searching->find(service, search.condition, job.dropped.get()))
@@ -77,11 +77,11 @@ std::vector<CHeadlineTable> SearchWorker::newestFound(const SideJob::Search& sea
     std::vector<CHeadlineTable> cut;
     if (endsCutShort(whole)) {
         whole.keywords = {whole.query().chopped(1)};
-        cut = titles->find(search.services, search.condition.query(), *job.dropped);
+        cut = titles->find(search.services, search.condition.query(), search.newest->latest, *job.dropped);
     }
     const auto withCut = [&](std::vector<CHeadlineTable> found) {
         found.insert(found.end(), cut.begin(), cut.end());
-        keepNewest(found, *search.most);
+        keepNewest(found, search.newest->most);
         return found;
     };
     const bool isAlone = job.searches.size() == 1;
@@ -90,7 +90,7 @@ std::vector<CHeadlineTable> SearchWorker::newestFound(const SideJob::Search& sea
         if (isAlone && !found.empty() && !*job.dropped)
             job.told({std::move(found)}, false);
     };
-    return withCut(news->findOnce(search.services, whole, {.most = *search.most}, job.dropped.get(), first)
+    return withCut(news->findOnce(search.services, whole, *search.newest, job.dropped.get(), first)
                        .value_or(std::vector<CHeadlineTable>()));
 }
 

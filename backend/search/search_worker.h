@@ -33,9 +33,9 @@ struct SideJob {
     struct Search {
         CSearch condition;
         std::vector<unsigned char> services;
-        // Only so many, the newest of all services; none: all of them. Of a query of headlines that ends with
+        // Only these, the newest of all services; none: all of them. Of a query of headlines that ends with
         // a word cut short, what goes on is found in the newest titles alone.
-        std::optional<std::size_t> most = {};
+        std::optional<NewsSearch::Newest> newest = {};
     };
     std::vector<Search> searches;
     std::shared_ptr<std::atomic<bool>> dropped;

@@ -150,14 +150,16 @@ std::shared_ptr<const void> EmbeddedBackEnd::findNews(std::vector<CountedSearch>
 std::shared_ptr<const void> EmbeddedBackEnd::findNewest(const CSearch& condition,
                                                         const std::vector<unsigned char>& services,
                                                         std::size_t most, NewestFound::Told told) {
+    moveOn();
+    // Among the newest of all, those that are held would take the places of those that are shown.
+    const NewsSearch::Newest newest{most, laterNews.shownUpTo()};
     const auto takeFound = [this, told = std::move(told)](std::vector<CHeadlineTable>&& found, bool isAll) {
         // The tables of views hold what this may name.
         moveOn();
-        laterNews.takeOut(found, 0);
-        told(found, isAll);
+        told(found, isAll && !laterNews.showsSomeLater());
         tellNews();
     };
-    return searches.askNewest({condition, services, most}, takeFound);
+    return searches.askNewest({condition, services, newest}, takeFound);
 }
 
 std::shared_ptr<const void> EmbeddedBackEnd::countFound(std::vector<CountedSearch> wanted,

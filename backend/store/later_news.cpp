@@ -5,6 +5,7 @@
 #include "host/contract/clock.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace wirepane {
 
@@ -36,6 +37,10 @@ void LaterNews::takeOut(std::vector<CHeadlineTable>& table, std::size_t from) co
     };
     table.erase(std::remove_if(table.begin() + static_cast<std::ptrdiff_t>(from), table.end(), isHeld),
                 table.end());
+}
+
+std::int64_t LaterNews::shownUpTo() const {
+    return which == Held::Nothing ? std::numeric_limits<std::int64_t>::max() : end;
 }
 
 std::vector<HeadlineKey> LaterNews::due() {

@@ -33,6 +33,10 @@ public:
     bool admits(const HeadlineKey& key);
     // Takes out of a table what is held, from entry `from` on.
     void takeOut(std::vector<CHeadlineTable>& table, std::size_t from) const;
+    // All news up to here is shown.
+    std::int64_t shownUpTo() const;
+    // So is some that is later.
+    bool showsSomeLater() const { return !admitted.empty(); }
     // The headlines whose moment has come since the last call, oldest first. Only from now on are they in
     // tables.
     std::vector<HeadlineKey> due();
@@ -49,7 +53,7 @@ private:
 
     Statement between;
     Held which = Held::Nothing;
-    std::int64_t end = 0;  // the moment up to which news is shown
+    std::int64_t end = 0;  // the moment up to which news is shown where some is held
     QSet<Key> admitted;    // beyond it
 };
 

@@ -94,7 +94,7 @@ struct Answers {
         count = 0;
         std::optional<double> first;
         const auto from = BenchClock::now();
-        const auto asked = desk.askNewest({condition, services, mostOfFirst},
+        const auto asked = desk.askNewest({condition, services, NewsSearch::Newest{mostOfFirst}},
                                           [&](auto&&, bool) { first = first.value_or(secondsSince(from)); });
         const double all = secondsOf([&] {
             for (const unsigned char service : services)
@@ -288,12 +288,13 @@ void typing(benchmark::State& state) {
                 std::optional<double> first;
                 std::optional<double> end;
                 asked.reset();
-                asked = desk.askNewest({condition, services, mostOfFirst}, [&](auto&&, bool isAll) {
-                    const double wait = secondsSince(from) * 1000;
-                    first = first.value_or(wait);
-                    if (isAll)
-                        end = wait;
-                });
+                asked = desk.askNewest({condition, services, NewsSearch::Newest{mostOfFirst}},
+                                       [&](auto&&, bool isAll) {
+                                           const double wait = secondsSince(from) * 1000;
+                                           first = first.value_or(wait);
+                                           if (isAll)
+                                               end = wait;
+                                       });
                 while (!end)
                     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
                 waits.push_back(*first);

@@ -151,7 +151,7 @@ TEST_F(SearchDispatcherTest, TheNewestFewAreToldToWhoeverStillWaits) {
     QStringList told;
     const auto ask = [&](const QString& name, std::size_t most) {
         return desk->askNewest(
-            {condition({u"gold"_s}), {1, 2}, most},
+            {condition({u"gold"_s}), {1, 2}, NewsSearch::Newest{most}},
             [&told, name](std::vector<CHeadlineTable>&& found, bool isAll) {
                 told += name + u' ' + QString::number(found.size());
                 EXPECT_TRUE(isAll) << "all of it is the newest news";
@@ -194,7 +194,7 @@ TEST_F(SearchDispatcherTest, WordsCutShortAreFoundAmongTheNewestTitles) {
         typed.language = SearchLanguage::Query;
         typed.scope = numberOf(SearchScope::Headlines);
         std::optional<std::vector<std::int64_t>> times;
-        const auto kept = desk->askNewest({typed, {1, 2}, 50}, [&](auto&& found, bool) {
+        const auto kept = desk->askNewest({typed, {1, 2}, NewsSearch::Newest{50}}, [&](auto&& found, bool) {
             times.emplace();
             for (const CHeadlineTable& entry : found)
                 times->push_back(entry.time);

@@ -15,6 +15,7 @@
 #include <QCoreApplication>
 #include <QTest>
 
+#include <optional>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -255,10 +256,18 @@ TEST_F(LiveNewsTest, NoQueryFindsWhatIsLaterThanThePresentMoment) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         std::vector<CHeadlineTable> found;
         backEnd.BKQNEWS_iGetHeadlineTable(1, found, 3, u"SEARCH"_s);
-        std::vector<std::int64_t> times;
-        for (const CHeadlineTable& entry : found)
-            times.push_back(entry.time);
-        EXPECT_EQ(times, (std::vector<std::int64_t>{at(11, 0), at(9, 0)})) << qPrintable(asked.query());
+        const auto timesOf = [](const std::vector<CHeadlineTable>& entries) {
+            std::vector<std::int64_t> times;
+            for (const CHeadlineTable& entry : entries)
+                times.push_back(entry.time);
+            return times;
+        };
+        const std::vector<std::int64_t> present{at(11, 0), at(9, 0)};
+        EXPECT_EQ(timesOf(found), present) << qPrintable(asked.query());
+        std::optional<std::vector<CHeadlineTable>> newest;
+        const auto kept = backEnd.findNewest(asked, {1}, 2, [&](const auto& told, bool) { newest = told; });
+        ASSERT_TRUE(QTest::qWaitFor([&] { return newest.has_value(); }));
+        EXPECT_EQ(timesOf(*newest), present) << "later ones took the places: " << qPrintable(asked.query());
     }
 }
 
