@@ -9,6 +9,7 @@
 #include "headline_list/reading_place.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
+#include "host/contract/headline_looks.h"
 #include "host/contract/news_record.h"
 #include "host/contract/reading_marks.h"
 
@@ -34,6 +35,12 @@ HeadlineList::HeadlineList(const ListKind& listKind, BKQuoteInterface& newsBackE
       heldPlace(state->heldPlace) {
     state->record = dynamic_cast<NewsRecord*>(&backEnd);
     state->marks = dynamic_cast<ReadingMarks*>(&backEnd);
+    state->looks = dynamic_cast<HeadlineLooks*>(&backEnd);
+    if (state->looks != nullptr)
+        QObject::connect(&state->looks->lookTeller(), &LookTeller::changed, &afterPainting, [this] {
+            if (sheet != nullptr)
+                sheet->viewport()->update();
+        });
     afterPainting.setSingleShot(true);
     QObject::connect(&afterPainting, &QTimer::timeout, &afterPainting, [this] { table.buildIndex(); });
     QObject::connect(&state->fading, &QTimer::timeout, &state->fading, [this] { fade(); });

@@ -19,6 +19,7 @@ class BKQuoteInterface;
 namespace wirepane {
 class CellState;
 class HitFinder;
+struct HeadlineLook;
 class HeadlineTable;
 class ListOwner;
 class ReadingPlace;
@@ -153,6 +154,7 @@ public:
     QColor textColour(int row, int column) const override;
     SheetChip chip(const QString& cellText, int column) const override;
     QList<SheetHit> hits(const QString& cellText, int column) const override;
+    QColor highlight(int row, int column) const override;
     QString tag(int row, int column) const override;
     QString mark(int row, int column) const override;
     bool isStruck(int row, int column) const override;
@@ -185,6 +187,8 @@ private:
     // What the reader has done with the news of a row; nothing where that is not asked for, or not known.
     std::optional<ReadingMark> readingMark(int row) const;
     QString readingWords(int row) const;
+    // How it stands out; plain where that is not asked for.
+    HeadlineLook lookOf(int row) const;
     bool isTitleOfRow(int row, int column) const;
     void watchFolds();
     void noteBurst(const CHeadline& headline, const QString& symbol);

@@ -9,10 +9,12 @@
 #include "headline_list/title_chips.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
+#include "host/contract/headline_looks.h"
 #include "host/contract/news_record.h"
 #include "host/contract/query/search_hits.h"
 #include "host/contract/reading_marks.h"
 #include "host/controls/row_look.h"
+#include "host/controls/row_tints.h"
 
 #include <QHeaderView>
 #include <QStringList>
@@ -150,6 +152,16 @@ QString HeadlineList::tag(int row, int column) const {
                : QString();
 }
 
+HeadlineLook HeadlineList::lookOf(int row) const {
+    return state->looks != nullptr && state->options[ViewOption::AlertLooks] && row >= 0 && row < table.size()
+               ? state->looks->lookOf(keyOf(table.at(row)))
+               : HeadlineLook();
+}
+
+QColor HeadlineList::highlight(int row, int) const {
+    return rowTint(lookOf(row).tint);
+}
+
 // --- What became of the news ---
 
 NewsState HeadlineList::newsState(int row) const {
@@ -171,6 +183,7 @@ QString HeadlineList::mark(int row, int column) const {
     QStringList marks{foldMark(row)};
     if (const auto reading = readingMark(row); reading && reading->isStarred)
         marks << u"\u2605"_s;
+    marks << lookOf(row).tag;
     if (news.withdrawal)
         marks << langText(backEnd, keys::withdrawnMark);
     // A title that says so itself says it in its chip.
@@ -225,7 +238,7 @@ QString HeadlineList::spokenText(int row, int column) const {
         const NewsState news = newsState(row);
         if (!news.isAsFirstSent())
             parts << langText(backEnd, news.withdrawal ? keys::withdrawnMark : keys::correctedMark);
-        parts << readingWords(row) << foldWords(row);
+        parts << readingWords(row) << lookOf(row).tag << foldWords(row);
     }
     parts.removeAll(QString());
     return parts.join(u", "_s);

@@ -19,6 +19,7 @@
 #include <optional>
 
 namespace wirepane {
+class HeadlineLooks;
 class HitFinder;
 class NewsRecord;
 class ReadingMarks;
@@ -40,6 +41,7 @@ struct HeadlineList::State {
     QTimer fading;
     QHash<unsigned char, QString> serviceNames;  // that were asked for
     std::shared_ptr<const HitFinder> hits;       // what is marked in titles
+    HeadlineLooks* looks = nullptr;              // of the back end; null: it has none
     NewsRecord* record = nullptr;                // of the back end; null: it has none
     ReadingMarks* marks = nullptr;               // of the back end; null: it has none
 };

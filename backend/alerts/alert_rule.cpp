@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/alerts/alert_rule.h"
 
+#include "host/contract/headline_looks.h"
 #include "host/contract/json_fields.h"
 
 #include <QSet>
@@ -24,12 +25,18 @@ std::optional<AlertRule> ruleFrom(const QJsonObject& object) {
     rule.hasSound = fields.optionalFlag(u"sound"_s).value_or(rule.hasSound);
     rule.pauseSeconds = int(fields.optionalNumber(u"pause"_s, 0, longestAlertPause).value_or(0));
     rule.onlyConnected = fields.optionalFlag(u"onlyConnected"_s).value_or(rule.onlyConnected);
+    rule.tint = int(fields.optionalNumber(u"tint"_s, 0, HeadlineLook::tints).value_or(0));
+    rule.tag = alertTag(fields.optionalText(u"tag"_s).value_or(QString()));
     if (rule.name.isEmpty() || rule.query.trimmed().isEmpty())
         return std::nullopt;
     return rule;
 }
 
 }  // namespace
+
+QString alertTag(const QString& typed) {
+    return typed.simplified().left(longestAlertTag).trimmed();
+}
 
 AlertSettings usualAlerts() {
     AlertRule flash;
@@ -51,7 +58,9 @@ QJsonObject alertsToJson(const AlertSettings& settings) {
                                  {u"toast"_s, rule.hasToast},
                                  {u"sound"_s, rule.hasSound},
                                  {u"pause"_s, rule.pauseSeconds},
-                                 {u"onlyConnected"_s, rule.onlyConnected}});
+                                 {u"onlyConnected"_s, rule.onlyConnected},
+                                 {u"tint"_s, rule.tint},
+                                 {u"tag"_s, rule.tag}});
     }
     return {{u"rules"_s, rules}, {u"quietFrom"_s, settings.quietFrom}, {u"quietTo"_s, settings.quietTo}};
 }

@@ -21,6 +21,8 @@ struct AlertRule {
     bool hasSound = false;  // the desktop's
     int pauseSeconds = 0;   // between two that are told, 0 to a day
     bool onlyConnected = false;
+    int tint = 0;  // of its rows in lists, as HeadlineLook numbers them; 0: none
+    QString tag;   // beside its titles in lists; empty: none
 
     bool operator==(const AlertRule&) const = default;
 };
@@ -37,8 +39,11 @@ struct AlertSettings {
 };
 
 inline constexpr int mostAlertRules = 1000;
+inline constexpr int longestAlertTag = 12;        // characters
 inline constexpr int longestAlertPause = 86'400;  // seconds
 
+// A typed tag as a rule keeps it: in one line, at most so long.
+QString alertTag(const QString& typed);
 // What is there before the user has changed anything: flashes and corrections.
 AlertSettings usualAlerts();
 QJsonObject alertsToJson(const AlertSettings& settings);

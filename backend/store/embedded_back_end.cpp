@@ -54,6 +54,7 @@ EmbeddedBackEnd::EmbeddedBackEnd(StoreConnections opened)
       reader(*connections.reading),
       days(*connections.reading),
       headlineCache(reader),
+      looks(headlineCache),
       marks(
           *connections.reading,
           onlyRead ? MarkingDesk::Ask()
@@ -107,6 +108,7 @@ void EmbeddedBackEnd::moveOn() {
     delivery.add(fresh);
     for (const Arrival& arrival : fresh) {
         headlineCache.forget(arrival.key);
+        looks.forget(arrival.key);
         marks.forget(arrival.key);
         prices.forget(arrival.key);
         if (arrival.isGone)
@@ -119,6 +121,7 @@ void EmbeddedBackEnd::moveOn() {
 void EmbeddedBackEnd::forgetNews() {
     days.clear();
     headlineCache.clear();
+    looks.forgetAll();
     marks.forgetAll();
     prices.forgetAll();
 }

@@ -11,6 +11,7 @@
 #include "backend/store/day_index.h"
 #include "backend/store/headline_cache.h"
 #include "backend/store/later_news.h"
+#include "backend/store/look_desk.h"
 #include "backend/store/marking_desk.h"
 #include "backend/store/news_days.h"
 #include "backend/store/news_delivery.h"
@@ -28,6 +29,7 @@
 #include "backend/store/table_announcements.h"
 #include "backend/words/simplified_chinese.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/headline_looks.h"
 #include "host/contract/local_days.h"
 #include "host/contract/news_day_finder.h"
 #include "host/contract/news_origins.h"
@@ -99,6 +101,7 @@ class EmbeddedBackEnd : public BKQuoteInterface,
                         public NewsDayFinder,
                         public NewsRecord,
                         public NewsOrigins,
+                        public HeadlineLooks,
                         public PriceHistory,
                         public QuietSources,
                         public ReadingMarks,
@@ -191,6 +194,10 @@ public:
         return prices.between(symbol, from, to);
     }
     std::int64_t priceChanges() const override { return prices.changes(); }
+    HeadlineLook lookOf(const HeadlineKey& key) override { return looks.of(key); }
+    LookTeller& lookTeller() override { return looks.teller(); }
+    // Who knows which headlines stand out; at first nobody does.
+    void judgeLooksBy(LookDesk::Judge judge) { looks.judgeBy(std::move(judge)); }
     bool canMark() const override { return marks.canMark(); }
     ReadingMark markOf(const HeadlineKey& key) override { return marks.markOf(key); }
     void changeMarks(std::vector<HeadlineKey> keys, const MarkChange& change) override {
@@ -347,6 +354,7 @@ private:
     StoreReader reader;
     DayIndex days;
     HeadlineCache headlineCache;
+    LookDesk looks;
     MarkingDesk marks;
     std::vector<QuietSource> quiet;
     QuietTeller quietTells;

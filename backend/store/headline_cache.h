@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/store/hashed_key.h"
 #include "backend/store/store_reader.h"
-#include "host/contract/records.h"
 
 #include <QCache>
 
@@ -25,18 +25,9 @@ public:
     void clear();
 
 private:
-    struct Key {
-        HeadlineKey headline;
-
-        bool operator==(const Key&) const = default;
-        friend std::size_t qHash(const Key& key, std::size_t seed) {
-            return qHashMulti(seed, key.headline.time, key.headline.sequence, key.headline.service);
-        }
-    };
-
     StoreReader& store;
-    QCache<Key, CHeadline> headlines;
-    QCache<Key, NewsState> states;
+    QCache<HashedKey, CHeadline> headlines;
+    QCache<HashedKey, NewsState> states;
 };
 
 }  // namespace wirepane

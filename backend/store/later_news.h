@@ -3,7 +3,7 @@
 #pragma once
 
 #include "backend/database/statement.h"
-#include "host/contract/records.h"
+#include "backend/store/hashed_key.h"
 
 #include <QSet>
 
@@ -42,19 +42,10 @@ public:
     std::vector<HeadlineKey> due();
 
 private:
-    struct Key {
-        HeadlineKey headline;
-
-        bool operator==(const Key&) const = default;
-        friend std::size_t qHash(const Key& key, std::size_t seed) {
-            return qHashMulti(seed, key.headline.time, key.headline.sequence, key.headline.service);
-        }
-    };
-
     Statement between;
     Held which = Held::Nothing;
-    std::int64_t end = 0;  // the moment up to which news is shown where some is held
-    QSet<Key> admitted;    // beyond it
+    std::int64_t end = 0;      // the moment up to which news is shown where some is held
+    QSet<HashedKey> admitted;  // beyond it
 };
 
 }  // namespace wirepane

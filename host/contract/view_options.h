@@ -62,6 +62,7 @@ enum class ViewOption {
     OtherYears,       // rows of another year than the present one show their day with its year
     RehearseKeySets,  // before a key set is kept it can be tried on the news of the last 30 days
     MarkHits,         // what was searched for is marked in titles and stories, a tint for each word
+    AlertLooks,       // rows that alert rules of the host want stand out in their colours, with their tags
     SearchOffers,     // a search that finds nothing offers what would find something, with counts
     PriceColumns,     // 1: the menu offers what prices have done since the headlines; 2: lists show it
     Count
@@ -120,6 +121,7 @@ inline constexpr std::array<ViewOptionRow, static_cast<std::size_t>(ViewOption::
     {ViewOption::OtherYears, QLatin1StringView("OtherYears")},
     {ViewOption::RehearseKeySets, QLatin1StringView("RehearseKeySets")},
     {ViewOption::MarkHits, QLatin1StringView("MarkHits")},
+    {ViewOption::AlertLooks, QLatin1StringView("AlertLooks")},
     {ViewOption::SearchOffers, QLatin1StringView("SearchOffers")},
     {ViewOption::PriceColumns, QLatin1StringView("PriceColumns"), 2, 1},
 }};

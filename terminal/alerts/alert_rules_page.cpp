@@ -4,13 +4,16 @@
 
 #include "backend/search/query_errors.h"
 #include "host/contract/colour_roles.h"
+#include "host/contract/headline_looks.h"
 #include "host/contract/query/search_query.h"
 #include "host/controls/line_icon.h"
+#include "host/controls/row_tints.h"
 #include "terminal/frame/window_room.h"
 #include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -20,6 +23,8 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <utility>
 #include <variant>
 
@@ -32,7 +37,7 @@ namespace {
 constexpr int widthInCharacters = 120;
 constexpr int margin = 100;  // pixels, of the dialog and its frame
 
-enum Column { Name, QueryText, Toast, Sound, OnlyConnected, Pause, ColumnCount };
+enum Column { Name, QueryText, Toast, Sound, OnlyConnected, Pause, Tint, Tag, ColumnCount };
 
 QTime timeOf(int minutes) {
     return {minutes / 60, minutes % 60};
@@ -49,6 +54,22 @@ QTableWidgetItem* ticked(bool on) {
     return item;
 }
 
+QComboBox* tintChoice(int chosen) {
+    constexpr std::array<TextId, HeadlineLook::tints + 1> names{
+        TextId::TintNone, TextId::TintRed,  TextId::TintOrange, TextId::TintGreen,
+        TextId::TintCyan, TextId::TintBlue, TextId::TintViolet};
+    constexpr int side = 12;
+    auto* choice = new QComboBox;
+    for (int tint = 0; tint <= HeadlineLook::tints; ++tint) {
+        QPixmap sample(side, side);
+        sample.fill(tint == 0 ? Qt::transparent : sampleOfTint(tint));
+        choice->addItem(sample, terminalText(names[std::size_t(tint)]));
+    }
+    choice->setCurrentIndex(chosen);
+    choice->setAccessibleName(terminalText(TextId::AlertTint));
+    return choice;
+}
+
 }  // namespace
 
 AlertRulesPage::AlertRulesPage(const AlertSettings& present, std::function<void(const AlertRule&)> tell)
@@ -61,7 +82,8 @@ AlertRulesPage::AlertRulesPage(const AlertSettings& present, std::function<void(
     table->setHorizontalHeaderLabels(
         {terminalText(TextId::AlertColumnRule), terminalText(TextId::AlertLooksFor),
          terminalText(TextId::AlertToast), terminalText(TextId::AlertSound),
-         terminalText(TextId::AlertOnlyConnected), terminalText(TextId::AlertPauseOf)});
+         terminalText(TextId::AlertOnlyConnected), terminalText(TextId::AlertPauseOf),
+         terminalText(TextId::AlertTint), terminalText(TextId::AlertTag)});
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table->horizontalHeader()->setSectionResizeMode(QueryText, QHeaderView::Stretch);
     table->verticalHeader()->hide();
@@ -137,6 +159,8 @@ void AlertRulesPage::addRow(const AlertRule& rule) {
     table->setItem(row, Sound, ticked(rule.hasSound));
     table->setItem(row, OnlyConnected, ticked(rule.onlyConnected));
     table->setItem(row, Pause, new QTableWidgetItem(QString::number(rule.pauseSeconds)));
+    table->setCellWidget(row, Tint, tintChoice(rule.tint));
+    table->setItem(row, Tag, new QTableWidgetItem(rule.tag));
 }
 
 void AlertRulesPage::addNew() {
@@ -167,6 +191,8 @@ AlertRule AlertRulesPage::ruleAt(int row) const {
     rule.hasSound = isTicked(Sound);
     rule.onlyConnected = isTicked(OnlyConnected);
     rule.pauseSeconds = std::clamp(table->item(row, Pause)->text().toInt(), 0, longestAlertPause);
+    rule.tint = static_cast<const QComboBox*>(table->cellWidget(row, Tint))->currentIndex();
+    rule.tag = alertTag(table->item(row, Tag)->text());
     return rule;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/session/alert_center.h"
 
+#include "backend/alerts/alert_looks.h"
 #include "backend/store/embedded_back_end.h"
 #include "terminal/alerts/alert_toast.h"
 #include "terminal/alerts/alerts_window.h"
@@ -35,12 +36,14 @@ AlertCenter::AlertCenter(EmbeddedBackEnd& embedded, TerminalSettings& terminalSe
     connect(&alerts, &AlertDesk::told, &teller,
             [this](const std::vector<AlertEntry>& entries) { teller.tell(entries, present.rules); });
     connect(toast, &AlertToast::opened, this, &AlertCenter::show);
+    backEnd.judgeLooksBy(looksBy(present.rules, backEnd));
 }
 
 void AlertCenter::setRules(const AlertSettings& rules) {
     present = rules;
     settings.setAlerts(alertsToJson(present));
     alerts.setSettings(present);
+    backEnd.judgeLooksBy(looksBy(present.rules, backEnd));
 }
 
 void AlertCenter::test(const AlertRule& rule) {

@@ -2587,9 +2587,17 @@
         <source></source>
         <translation>Story of the alert</translation>
     </message>
+    <message id="TERMINAL_ALERT_TAG">
+        <source></source>
+        <translation>Tag</translation>
+    </message>
     <message id="TERMINAL_ALERT_TEST">
         <source></source>
         <translation>Test</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TINT">
+        <source></source>
+        <translation>Color</translation>
     </message>
     <message id="TERMINAL_ALERT_TOAST">
         <source></source>
@@ -2771,6 +2779,34 @@ Reads the news of securities markets, live and from files.</translation>
     <message id="TERMINAL_MENU_ALERTS">
         <source></source>
         <translation>Alert &amp;History</translation>
+    </message>
+    <message id="TERMINAL_TINT_BLUE">
+        <source></source>
+        <translation>Blue</translation>
+    </message>
+    <message id="TERMINAL_TINT_CYAN">
+        <source></source>
+        <translation>Cyan</translation>
+    </message>
+    <message id="TERMINAL_TINT_GREEN">
+        <source></source>
+        <translation>Green</translation>
+    </message>
+    <message id="TERMINAL_TINT_NONE">
+        <source></source>
+        <translation>None</translation>
+    </message>
+    <message id="TERMINAL_TINT_ORANGE">
+        <source></source>
+        <translation>Orange</translation>
+    </message>
+    <message id="TERMINAL_TINT_RED">
+        <source></source>
+        <translation>Red</translation>
+    </message>
+    <message id="TERMINAL_TINT_VIOLET">
+        <source></source>
+        <translation>Violet</translation>
     </message>
     <message id="TERMINAL_UNREAD_OF">
         <source></source>

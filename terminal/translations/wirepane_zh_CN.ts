@@ -2587,9 +2587,17 @@
         <source></source>
         <translation>警示的新闻内容</translation>
     </message>
+    <message id="TERMINAL_ALERT_TAG">
+        <source></source>
+        <translation>标签</translation>
+    </message>
     <message id="TERMINAL_ALERT_TEST">
         <source></source>
         <translation>测试</translation>
+    </message>
+    <message id="TERMINAL_ALERT_TINT">
+        <source></source>
+        <translation>颜色</translation>
     </message>
     <message id="TERMINAL_ALERT_TOAST">
         <source></source>
@@ -2771,6 +2779,34 @@
     <message id="TERMINAL_MENU_ALERTS">
         <source></source>
         <translation>警示(&amp;H)</translation>
+    </message>
+    <message id="TERMINAL_TINT_BLUE">
+        <source></source>
+        <translation>蓝</translation>
+    </message>
+    <message id="TERMINAL_TINT_CYAN">
+        <source></source>
+        <translation>青</translation>
+    </message>
+    <message id="TERMINAL_TINT_GREEN">
+        <source></source>
+        <translation>绿</translation>
+    </message>
+    <message id="TERMINAL_TINT_NONE">
+        <source></source>
+        <translation>无</translation>
+    </message>
+    <message id="TERMINAL_TINT_ORANGE">
+        <source></source>
+        <translation>橙</translation>
+    </message>
+    <message id="TERMINAL_TINT_RED">
+        <source></source>
+        <translation>红</translation>
+    </message>
+    <message id="TERMINAL_TINT_VIOLET">
+        <source></source>
+        <translation>紫</translation>
     </message>
     <message id="TERMINAL_UNREAD_OF">
         <source></source>

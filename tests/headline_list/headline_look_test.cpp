@@ -7,6 +7,7 @@
 #include "host/contract/cfg_io.h"
 #include "host/contract/view_options.h"
 #include "host/controls/row_look.h"
+#include "host/controls/row_tints.h"
 #include "tests/headline_list/list_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -15,7 +16,7 @@ namespace wirepane {
 
 namespace {
 
-using HeadlineLook = HeadlineListTest;
+using HeadlineLookTest = HeadlineListTest;
 
 ViewOptions ownOptions() {
     MemoryCfgIO store;
@@ -61,7 +62,7 @@ TEST(Arrivals, FadeInEightStepsAndAreForgotten) {
     EXPECT_FALSE(Arrivals::isNew(10'000, 10'901)) << "what was published before is late, not new";
 }
 
-TEST_F(HeadlineLook, ATipSaysWhatARowHasNoRoomFor) {
+TEST_F(HeadlineLookTest, ATipSaysWhatARowHasNoRoomFor) {
     for (const auto& [key, text] :
          {std::pair{"SECONDS", u"%1 s"_s}, {"MINUTES", u"%1 min"_s}, {"HOURS", u"%1 h"_s}})
         backEnd.texts[u"IDS_NEWSCTRLVIEW_TIP_%1_AGO"_s.arg(QLatin1StringView(key))] = text;
@@ -73,7 +74,7 @@ TEST_F(HeadlineLook, ATipSaysWhatARowHasNoRoomFor) {
     EXPECT_TRUE(rowTip(backEnd, u"T"_s, {}, {}, time, time - 1).endsWith(u"09:30:05"));  // yet to come
 }
 
-TEST_F(HeadlineLook, RowsSayWhatBecameOfTheirNews) {
+TEST_F(HeadlineLookTest, RowsSayWhatBecameOfTheirNews) {
     for (const auto& [key, text] : {std::pair{u"CORRECTED"_s, u"fixed"_s},
                                     {u"WITHDRAWN"_s, u"gone"_s},
                                     {u"TIP_CORRECTED"_s, u"%1 before"_s},
@@ -108,7 +109,29 @@ TEST_F(HeadlineLook, RowsSayWhatBecameOfTheirNews) {
     EXPECT_FALSE(news.isStruck(-1, titleColumn));
 }
 
-TEST_F(HeadlineLook, MeasuredColumnsHoldTheirTextsAtAnySize) {
+TEST_F(HeadlineLookTest, RowsStandOutAsTheHostSays) {
+    const std::int64_t time = localTime(2026, 3, 2, 9, 30);
+    backEnd.looks[1] = {2, u"METAL"_s};
+    HeadlineList& news = list(ListIndex::All);
+    news.setTable({{{time, 2, 1}, {time, 1, 1}}});
+    news.vFillHeadlineTable();
+    news.vFillSheet(1, u"09:30"_s, u"Topic"_s, u"T"_s);
+    EXPECT_FALSE(news.highlight(1, titleColumn).isValid()) << "bare";
+    EXPECT_EQ(news.mark(1, titleColumn), QString()) << "bare";
+    news.setOptions(ownOptions());
+    EXPECT_EQ(news.highlight(1, timeColumn), rowTint(2));
+    EXPECT_LT(rowTint(2).alpha(), 100) << "one reads through it";
+    EXPECT_EQ(news.mark(1, titleColumn), u"METAL"_s);
+    EXPECT_TRUE(news.spokenText(1, titleColumn).contains(u"METAL"_s));
+    EXPECT_FALSE(news.highlight(0, timeColumn).isValid());
+    backEnd.looks.clear();
+    emit backEnd.lookTells.changed();
+    EXPECT_FALSE(news.highlight(1, timeColumn).isValid());
+    for (const int none : {-1, 0, HeadlineLook::tints + 1})
+        EXPECT_FALSE(rowTint(none).isValid());
+}
+
+TEST_F(HeadlineLookTest, MeasuredColumnsHoldTheirTextsAtAnySize) {
     backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_CATEGORY"_s] = u"Topic"_s;
     backEnd.texts[u"IDS_NEWSCTRLVIEW_STRING_TIME"_s] = u"Time"_s;
     HeadlineList& news = list(ListIndex::All);
@@ -142,7 +165,7 @@ TEST_F(HeadlineLook, MeasuredColumnsHoldTheirTextsAtAnySize) {
     }
 }
 
-TEST_F(HeadlineLook, WidthsGivenByHandAreKept) {
+TEST_F(HeadlineLookTest, WidthsGivenByHandAreKept) {
     HeadlineList& news = list(ListIndex::All);
     emit news.grid()->columnDragged(categoryColumn, 77);
     EXPECT_EQ(news.keptWidths(), QString());  // plain columns are not kept

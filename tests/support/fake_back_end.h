@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/headline_looks.h"
 #include "host/contract/news_origins.h"
 #include "host/contract/news_record.h"
 #include "host/contract/query/newest_found.h"
@@ -27,6 +28,7 @@ class FakeBackEnd : public BKQuoteInterface,
                     public SearchControl,
                     public NewsRecord,
                     public NewsOrigins,
+                    public HeadlineLooks,
                     public QuietSources,
                     public SearchHits,
                     public SearchCounts,
@@ -153,9 +155,13 @@ public:
     }
 
     QStringList originsOf(const HeadlineKey& key) override { return origins.value(key.sequence); }
+    HeadlineLook lookOf(const HeadlineKey& key) override { return looks.value(key.sequence); }
+    LookTeller& lookTeller() override { return lookTells; }
 
     QHash<int, QStringList> origins;  // by number
-    QHash<int, NewsState> states;     // by number
+    QHash<int, HeadlineLook> looks;   // by number
+    LookTeller lookTells;
+    QHash<int, NewsState> states;  // by number
     QHash<int, std::vector<NewsVersion>> versions;
     QHash<QString, QString> texts;  // language texts; a key without one is its own text
 

@@ -91,14 +91,19 @@ TEST(AlertSettingsText, ComesBackAndLeavesOutWhatCannotBeUnderstood) {
     settings.quietFrom = minutesOf(22, 0);
     settings.rules.front().pauseSeconds = 90;
     settings.rules.front().isOn = false;
+    settings.rules.front().tint = 6;
+    settings.rules.front().tag = u"A tag"_s;
     EXPECT_EQ(alertsFromJson(alertsToJson(settings)), settings);
     const AlertSettings read = alertsFromJson(QJsonDocument::fromJson(R"({"quietFrom": 1440, "rules": [
-        7, {"name": "", "query": "a"}, {"name": "a", "query": " "}, {"name": "b", "query": "x", "pause": -1},
+        7, {"name": "", "query": "a"}, {"name": "a", "query": " "}, {"name": "b", "query": "x", "pause": -1, "tint": 7,
+        "tag": " of  too\nmany words"},
         {"name": "b", "query": "y"}]})")
                                                   .object());
     ASSERT_EQ(read.rules.size(), 1U);
     EXPECT_EQ(read.rules.front().query, u"x"_s);
     EXPECT_EQ(read.rules.front().pauseSeconds, 0);
+    EXPECT_EQ(read.rules.front().tint, 0);
+    EXPECT_EQ(read.rules.front().tag, u"of too many"_s);
     EXPECT_EQ(read.quietFrom, 0);
 }
 
