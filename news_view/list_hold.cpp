@@ -5,6 +5,8 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/intake.h"
 #include "headline_list/relation_matcher.h"
+#include "host/contract/bk_quote_interface.h"
+#include "host/contract/headline_looks.h"
 #include "host/controls/super_sheet_wnd.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/common_parts.h"
@@ -26,8 +28,13 @@ std::optional<int> ListHold::heldAt(ListIndex list) const {
 
 void ListHold::noteCome(ListIndex list, const PushedHeadline& pushed) {
     const auto entry = held.find(list);
-    if (entry != held.end() &&
-        keySets().CheckIsRelationSearch(pushed.headline, pushed.categoryId.toInt(), pushed.symbolCode))
+    if (entry == held.end())
+        return;
+    auto* const alerts = dynamic_cast<HeadlineLooks*>(&parts.backEnd);
+    const bool isWanted =
+        keySets().CheckIsRelationSearch(pushed.headline, pushed.categoryId.toInt(), pushed.symbolCode) ||
+        (alerts != nullptr && alerts->lookOf(keyOf(pushed.headline)).isWanted);
+    if (isWanted)
         ++entry->second.matching;
 }
 

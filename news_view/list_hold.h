@@ -22,7 +22,8 @@ public:
     ListHold(ViewContext& view, const CommonParts& parts, std::function<const RelationMatcher&()> keySets,
              std::function<void()> changed);
 
-    // How many of what came into a held list the key sets want; nothing: the list is not held.
+    // How many of what came into a held list the key sets want, or alert rules of the host; nothing: the list
+    // is not held.
     std::optional<int> heldAt(ListIndex list) const;
     bool isHeld(ListIndex list) const { return held.contains(list); }
     void noteCome(ListIndex list, const PushedHeadline& pushed);

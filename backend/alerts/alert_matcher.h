@@ -6,6 +6,7 @@
 #include "backend/search/hit_words.h"
 #include "backend/search/title_query_set.h"
 
+#include <QLatin1StringView>
 #include <QStringList>
 
 #include <functional>
@@ -21,14 +22,28 @@ public:
     AlertMatcher(const std::vector<AlertRule>& rules, QueryPlanner& planner,
                  TitleQuerySet::RelatedSymbols related);
 
+    // What stands before the words of a story.
+    static constexpr QLatin1StringView storyField{"story:"};
+
+    // Some rules look for texts in stories.
+    bool looksAtStories() const { return set->looksAtStories(); }
+
     // Calls `take` with each rule's place among them that wants the headline, rising, and with the words that
-    // stand in the title, each once.
+    // stand in the title, each once; those of the story stand behind `storyField`. `story` is empty until it
+    // has come.
     using Take = std::function<void(std::size_t rule, const QStringList& words)>;
-    void match(const CHeadline& headline, const Take& take) const;
+    void match(const CHeadline& headline, const QString& story, const Take& take) const;
+    // Only the rules that did not want it without its story.
+    void matchStory(const CHeadline& headline, const QString& story, const Take& take) const;
 
 private:
+    std::vector<std::size_t> wanting(const CHeadline& headline, const QString& story) const;
+    QStringList wordsOf(std::size_t rule, const CHeadline& headline, const QString& story) const;
+
     std::shared_ptr<const TitleQuerySet> set;
-    std::vector<std::shared_ptr<const HitWords>> hits;  // by rule; null: it looks for no words
+    // By rule; null: it looks for no words there.
+    std::vector<std::shared_ptr<const HitWords>> inTitles;
+    std::vector<std::shared_ptr<const HitWords>> inStories;
 };
 
 }  // namespace wirepane

@@ -15,7 +15,7 @@ namespace wirepane {
 // What the user wants to be told of, and how.
 struct AlertRule {
     QString name;           // each once; entries of the list of alerts go by it
-    QString query;          // of headlines, as key sets know them (docs/search.md)
+    QString query;          // as alerts know them (docs/search.md)
     bool isOn = true;       // else what it matches is listed, and not told
     bool hasToast = true;   // shown in the corner of the window
     bool hasSound = false;  // the desktop's

@@ -24,6 +24,7 @@ AlertWorker::Opened::Opened(std::unique_ptr<Database> store)
       version(*database),
       log(*database),
       reader(*database),
+      names(*database, "SELECT (SELECT count(*) FROM categories) + (SELECT count(*) FROM services)"),
       policy(AlertBook(*database).entries()),
       position(AlertBook(*database).position().value_or(log.last().value_or(0))) {}
 
@@ -33,7 +34,9 @@ AlertWorker::AlertWorker(QString storePath, Found found)
 void AlertWorker::setRules(std::vector<AlertRule> wanted) {
     thread.post([this, wanted = std::move(wanted)] {
         rules = wanted;
-        compile();
+        const bool isAnother = matcher.has_value();
+        if (compile())
+            tell({{}, store->position, isAnother});
     });
 }
 
@@ -50,23 +53,29 @@ AlertWorker::Opened* AlertWorker::opened() {
     return store.get();
 }
 
-void AlertWorker::compile() {
+std::int64_t AlertWorker::Opened::countNames() {
+    Query query(names);
+    return query.next() ? query.number(0) : 0;
+}
+
+bool AlertWorker::compile() {
     Opened* const in = opened();
     if (in == nullptr)
-        return;
+        return false;
     QueryPlanner planner(*in->database);
-    const bool isAnother = matcher.has_value();
+    in->namesKnown = in->countNames();
     matcher.emplace(rules, planner, [in](const CHeadline& headline) {
         return in->reader.relatedSymbols(keyOf(headline)).value_or(std::vector<CSymbolInfo>());
     });
-    tell({{}, in->position, isAnother});
+    return true;
 }
 
 void AlertWorker::lookOn(const AlertPolicy::Conditions& conditions) {
     Opened* const in = opened();
     if (in == nullptr || !in->version.hasChanged())
         return;
-    if (!matcher)
+    // Rules that name a topic mean one that came after them, too.
+    if (!matcher || in->countNames() != in->namesKnown)
         compile();
     const std::int64_t last = in->log.last().value_or(in->position);
     while (in->position < last) {
@@ -74,20 +83,25 @@ void AlertWorker::lookOn(const AlertPolicy::Conditions& conditions) {
         const ReadTransaction moment(*in->database);
         const std::int64_t end = std::min(in->position + lookedAtOnce, last);
         for (const Arrival& arrival : in->log.after(in->position, end)) {
-            if (!arrival.onlyStory && !arrival.isGone && !rules.empty())
-                tryOn(arrival.key, conditions, found.entries);
+            if (!arrival.isGone && !rules.empty())
+                tryOn(arrival, conditions, found.entries);
         }
         in->position = found.position = end;
         tell(std::move(found));
     }
 }
 
-void AlertWorker::tryOn(const HeadlineKey& key, const AlertPolicy::Conditions& conditions,
+void AlertWorker::tryOn(const Arrival& arrival, const AlertPolicy::Conditions& conditions,
                         std::vector<AlertEntry>& found) {
+    const HeadlineKey& key = arrival.key;
+    if (arrival.onlyStory && !matcher->looksAtStories())
+        return;
     const auto headline = store->reader.headline(key);
     if (!headline)
         return;
-    matcher->match(*headline, [&](std::size_t rule, const QStringList& words) {
+    const QString story =
+        matcher->looksAtStories() ? store->reader.story(key).value_or(QString()) : QString();
+    const auto take = [&](std::size_t rule, const QStringList& words) {
         AlertEntry entry;
         entry.rule = rules[rule].name;
         entry.headline = key;
@@ -97,7 +111,11 @@ void AlertWorker::tryOn(const HeadlineKey& key, const AlertPolicy::Conditions& c
         entry.matched = host_clock::now();
         store->policy.decide(entry, rules[rule], conditions);
         found.push_back(std::move(entry));
-    });
+    };
+    if (arrival.onlyStory)
+        matcher->matchStory(*headline, story, take);
+    else
+        matcher->match(*headline, story, take);
 }
 
 }  // namespace wirepane

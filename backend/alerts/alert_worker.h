@@ -45,14 +45,20 @@ private:
         DataVersion version;
         ArrivalLog log;
         StoreReader reader;
+        Statement names;
         AlertPolicy policy;
         std::int64_t position = 0;
+        std::int64_t namesKnown = 0;  // to the matcher
+
+        // Of topics and services that there are.
+        std::int64_t countNames();
     };
     // On the thread, as all that they use.
     Opened* opened();
-    void compile();
+    // False: the store cannot be read.
+    bool compile();
     void lookOn(const AlertPolicy::Conditions& conditions);
-    void tryOn(const HeadlineKey& key, const AlertPolicy::Conditions& conditions,
+    void tryOn(const Arrival& arrival, const AlertPolicy::Conditions& conditions,
                std::vector<AlertEntry>& found);
 
     const QString path;

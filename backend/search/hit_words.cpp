@@ -60,6 +60,19 @@ std::shared_ptr<const HitWords> HitWords::make(const CSearch& condition, QueryPl
         for (const QString& keyword : condition.keywords)
             found->add(keyword, QueryField::Anywhere, false, found->words++);
     }
+    return made(found);
+}
+
+std::shared_ptr<const HitWords> HitWords::makeOfStories(const QString& query, QueryPlanner& planner) {
+    const std::shared_ptr<HitWords> found(new HitWords);
+    const ReadQuery read = readQuery(query);
+    if (const auto* node = std::get_if<QueryNode>(&read))
+        found->collect(*node, planner);
+    std::erase_if(found->phrases, [](const Phrase& phrase) { return phrase.field != QueryField::Story; });
+    return made(found);
+}
+
+std::shared_ptr<const HitWords> HitWords::made(const std::shared_ptr<HitWords>& found) {
     for (std::size_t i = 0; i < found->phrases.size(); ++i) {
         const Phrase& phrase = found->phrases[i];
         if (phrase.isCut && phrase.words.size() == 1)

@@ -20,6 +20,8 @@ class HitWords final : public HitFinder {
 public:
     // Null: there is nothing to be found. The planner is not needed any more then.
     static std::shared_ptr<const HitWords> make(const CSearch& condition, QueryPlanner& planner);
+    // Of a query only what it looks for in stories alone.
+    static std::shared_ptr<const HitWords> makeOfStories(const QString& query, QueryPlanner& planner);
 
     std::vector<SearchHit> hitsIn(const QString& text, HitPlace place, std::size_t most) const override;
 
@@ -40,6 +42,7 @@ private:
     struct SplitText;
 
     HitWords() = default;
+    static std::shared_ptr<const HitWords> made(const std::shared_ptr<HitWords>& found);
     void collect(const QueryNode& node, QueryPlanner& planner);
     void add(const QString& text, QueryField field, bool isCut, int word);
     bool stands(const Phrase& phrase, const SplitText& text, std::size_t at) const;

@@ -3,6 +3,7 @@
 #include "backend/search/phrase_finder.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace wirepane {
 
@@ -14,6 +15,14 @@ std::string_view viewOf(const QByteArray& bytes) {
 
 }  // namespace
 
+std::size_t PhraseFinder::signOf(std::string_view word) {
+    constexpr std::uint64_t mixing = 0x9e3779b97f4a7c15;
+    constexpr int highest = 48;
+    std::uint64_t head = 0;
+    std::memcpy(&head, word.data(), std::min(word.size(), sizeof(head)));
+    return static_cast<std::size_t>(((head ^ (std::uint64_t(word.size()) << 56U)) * mixing) >> highest);
+}
+
 PhraseFinder::Number PhraseFinder::add(const QByteArray& phrase) {
     if (const auto known = numbers.find(viewOf(phrase)); known != numbers.end())
         return known->second;
@@ -21,6 +30,8 @@ PhraseFinder::Number PhraseFinder::add(const QByteArray& phrase) {
     const std::string_view text = viewOf(phrases.emplace_back(phrase));
     numbers.emplace(text, number);
     const std::size_t firstEnd = text.find(' ', 1) + 1;
+    signs.resize(signCount);
+    signs[signOf(text.substr(0, firstEnd))] = true;
     if (firstEnd == text.size()) {
         begins[text].alone.push_back(number);
     } else {
@@ -32,6 +43,8 @@ PhraseFinder::Number PhraseFinder::add(const QByteArray& phrase) {
 
 PhraseFinder::Found PhraseFinder::find(const QByteArray& words) const {
     Found found;
+    if (signs.empty())
+        return found;
     const std::string_view text = viewOf(words);
     const auto take = [&](const Begin& begin, std::size_t at) {
         for (const Number number : begin.alone) {
@@ -41,7 +54,9 @@ PhraseFinder::Found PhraseFinder::find(const QByteArray& words) const {
     };
     for (std::size_t at = 0; at + 1 < text.size();) {
         const std::size_t end = text.find(' ', at + 1);
-        if (const auto one = begins.find(text.substr(at, end + 1 - at)); one != begins.end()) {
+        const std::string_view word = text.substr(at, end + 1 - at);
+        const auto one = signs[signOf(word)] ? begins.find(word) : begins.end();
+        if (one != begins.end()) {
             take(one->second, at);
             const std::size_t secondEnd = one->second.goesOn ? text.find(' ', end + 1) : text.npos;
             if (secondEnd != text.npos) {

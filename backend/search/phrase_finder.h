@@ -31,10 +31,16 @@ private:
         std::vector<Number> alone;  // phrases of this one word, or that begin with these two
         bool goesOn = false;        // phrases of more words begin with it
     };
+    // Of a word between its blanks. One that begins no phrase mostly has a sign that none has that does:
+    // cheaper to find out than by looking it up.
+    static std::size_t signOf(std::string_view word);
+    static constexpr std::size_t signCount = 1U << 16U;
+
     // Keys lie in `phrases`, whose bytes do not move.
     std::unordered_map<std::string_view, Begin> begins;
     std::unordered_map<std::string_view, Number> numbers;
     std::vector<QByteArray> phrases;
+    std::vector<bool> signs;  // of the words that begin phrases; empty: there is none
 };
 
 }  // namespace wirepane

@@ -64,6 +64,8 @@ TitleQuerySet::Part TitleQuerySet::partOf(const QueryNode& node, QueryPlanner& p
         part.beginning.chop(1);
     } else if (node.kind == Kind::Text) {
         addPhrase(part.phrases, node.text);
+        part.isInStory = node.field == QueryField::Story;
+        inStories |= part.isInStory;
     }
     if (node.kind == Kind::Topic) {
         part.topics = planner.topicsNamed(node.text, 0);
@@ -111,18 +113,31 @@ std::optional<TitleQuerySet::Phrases> TitleQuerySet::neededBy(const Part& part) 
 }
 
 bool TitleQuerySet::findWanting(const CHeadline& headline, std::int32_t categoryId, const Told& told) const {
-    Tried tried{headline, categoryId, wordsBetweenBlanks(headline.title), {}, {}};
+    Tried tried{headline, categoryId, wordsBetweenBlanks(headline.title), {}};
     tried.phrases = finder.find(tried.words);
+    return findWanting(tried, told);
+}
+
+bool TitleQuerySet::findWanting(const CHeadline& headline, const QString& story, const Told& told) const {
+    Tried tried{headline, headline.categoryId, wordsBetweenBlanks(headline.title), {}};
+    tried.phrases = finder.find(tried.words);
+    tried.inStory = finder.find(wordsBetweenBlanks(story));
+    return findWanting(tried, told);
+}
+
+bool TitleQuerySet::findWanting(Tried& tried, const Told& told) const {
     const auto isTold = [&](std::size_t query) { return holds(roots[query], tried) && told(query); };
     constexpr std::size_t bits = 64;
     QVarLengthArray<std::uint64_t, 32> seen(static_cast<qsizetype>(roots.size() / bits + 1), 0);
-    for (const PhraseFinder::Number phrase : tried.phrases) {
-        for (const std::size_t query : queriesOf[phrase]) {
-            std::uint64_t& word = seen[static_cast<qsizetype>(query / bits)];
-            const std::uint64_t bit = std::uint64_t{1} << query % bits;
-            if ((word & bit) == 0 && isTold(query))
-                return true;
-            word |= bit;
+    for (const PhraseFinder::Found* const found : {&tried.phrases, &tried.inStory}) {
+        for (const PhraseFinder::Number phrase : *found) {
+            for (const std::size_t query : queriesOf[phrase]) {
+                std::uint64_t& word = seen[static_cast<qsizetype>(query / bits)];
+                const std::uint64_t bit = std::uint64_t{1} << query % bits;
+                if ((word & bit) == 0 && isTold(query))
+                    return true;
+                word |= bit;
+            }
         }
     }
     return std::any_of(always.begin(), always.end(), isTold);
@@ -132,7 +147,7 @@ bool TitleQuerySet::holds(const Part& part, Tried& tried) const {
     const auto innerHolds = [&](const Part& inner) { return holds(inner, tried); };
     switch (part.kind) {
         case Kind::Text:
-            return holdsPhrase(tried.phrases, part.phrases) ||
+            return holdsPhrase(part.isInStory ? tried.inStory : tried.phrases, part.phrases) ||
                    (!part.beginning.isEmpty() && tried.words.contains(part.beginning));
         case Kind::Topic: {
             const auto& topics = tried.headline.service == warrantService ? part.warrantTopics : part.topics;

@@ -30,16 +30,21 @@ public:
 
     // No query is without a fault.
     bool isEmpty() const { return usable == 0; }
+    // Some of them, made for alerts, look for texts in stories.
+    bool looksAtStories() const { return inStories; }
 
     bool findWanting(const CHeadline& headline, std::int32_t categoryId, const Told& told) const override;
+    // The same of a headline whose story has come.
+    bool findWanting(const CHeadline& headline, const QString& story, const Told& told) const;
 
 private:
     static constexpr std::size_t serviceCount = std::numeric_limits<unsigned char>::max() + 1;
     using Phrases = std::vector<PhraseFinder::Number>;
     struct Part {
         QueryNode::Kind kind = QueryNode::Kind::All;
-        Phrases phrases;       // one of them suffices
-        QByteArray beginning;  // the last word of which may go on
+        bool isInStory = false;  // of a text
+        Phrases phrases;         // one of them suffices
+        QByteArray beginning;    // the last word of which may go on
         std::vector<std::int32_t> topics;
         std::vector<std::int32_t> warrantTopics;  // which are numbered for themselves
         std::bitset<serviceCount> services;
@@ -51,7 +56,8 @@ private:
         std::int32_t categoryId;
         QByteArray words;
         PhraseFinder::Found phrases;
-        std::optional<std::vector<CSymbolInfo>> related;  // once it was asked for
+        PhraseFinder::Found inStory = {};
+        std::optional<std::vector<CSymbolInfo>> related = {};  // once it was asked for
     };
     explicit TitleQuerySet(RelatedSymbols symbols) : related(std::move(symbols)) {}
 
@@ -59,12 +65,14 @@ private:
     Part partOf(const QueryNode& node, QueryPlanner& planner);
     void addPhrase(Phrases& phrases, const QString& text);
     static std::optional<Phrases> neededBy(const Part& part);
+    bool findWanting(Tried& tried, const Told& told) const;
     bool holds(const Part& part, Tried& tried) const;
     bool namesSymbol(const Part& part, Tried& tried) const;
 
     const RelatedSymbols related;
     std::vector<Part> roots;
     std::size_t usable = 0;
+    bool inStories = false;
     PhraseFinder finder;
     std::vector<std::vector<std::size_t>> queriesOf;  // by phrase: those that need it, or another
     std::vector<std::size_t> always;                  // those that may do without any

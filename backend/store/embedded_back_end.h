@@ -60,6 +60,7 @@
 #include <vector>
 
 namespace wirepane {
+class TitleQuerySet;
 
 // The back end over one news store. Every operation runs on the interface thread; what writes is done on the
 // store's own (see StoreIntake), and nobody waits for it but who asks to.
@@ -286,6 +287,10 @@ public:
     bool BKQNEWS_bSearchNews(unsigned char service, int kind, const CSearch& condition) override;
     std::shared_ptr<const HeadlineQuery> prepareQuery(const QString& query) override;
     std::shared_ptr<const HeadlineQuerySet> prepareQueries(std::span<const QString> queries) override;
+    // The same for alerts, which may look at stories. Never null; outlived by this.
+    std::shared_ptr<const TitleQuerySet> prepareAlerts(std::span<const QString> queries);
+    // The story of a headline as far as it is there, without asking for it.
+    QString storyThere(const HeadlineKey& key) { return reader.story(key).value_or(QString()); }
     std::shared_ptr<const HitFinder> prepareHits(const CSearch& condition) override;
     std::shared_ptr<const void> countFound(std::vector<CountedSearch> wanted,
                                            SearchCounts::Told told) override;

@@ -124,6 +124,11 @@ std::shared_ptr<const HeadlineQuerySet> EmbeddedBackEnd::prepareQueries(std::spa
     return TitleQuerySet::make(queries, planner, symbolsOfHeadlines());
 }
 
+std::shared_ptr<const TitleQuerySet> EmbeddedBackEnd::prepareAlerts(std::span<const QString> queries) {
+    QueryPlanner planner(*connections.reading);
+    return TitleQuerySet::make(queries, planner, symbolsOfHeadlines(), QueryUse::Alerts);
+}
+
 std::function<std::vector<CSymbolInfo>(const CHeadline&)> EmbeddedBackEnd::symbolsOfHeadlines() {
     return [this](const CHeadline& headline) {
         return reader.relatedSymbols(keyOf(headline)).value_or(std::vector<CSymbolInfo>());

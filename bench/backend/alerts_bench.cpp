@@ -5,6 +5,7 @@
 #include "backend/alerts/alert_worker.h"
 #include "backend/store/store_writer.h"
 #include "bench/backend/news_samples.h"
+#include "bench/backend/search_store.h"
 #include "bench/backend/store_timing.h"
 #include "bench/support/run_benchmarks.h"
 
@@ -28,7 +29,12 @@ constexpr int headlines = 20'000;
 // Ten words each, with a phrase and an exclusion; few titles hold one.
 std::vector<AlertRule> rulesOf(std::int64_t count) {
     std::mt19937 random(3);
-    const auto word = [&] { return u"rule%1"_s.arg(random() % 20'000); };
+    const auto word = [&] {
+        QString letters = u"zq"_s;
+        for (auto number = random() % 20'000; number > 0; number /= 26)
+            letters += QChar(u'a' + int(number % 26));
+        return letters;
+    };
     std::vector<AlertRule> rules;
     while (std::int64_t(rules.size()) < count) {
         QStringList words;
@@ -79,8 +85,40 @@ void lookAtWhatCame(benchmark::State& state) {
     state.counters["us_a_headline"] = median(seconds) / headlines * 1e6;
 }
 
+// ns_a_character: of a story that has come, with rules that look at stories.
+void tryStory(benchmark::State& state) {
+    const QTemporaryDir folder;
+    const auto store = opened(folder.filePath(u"s.db"_s));
+    std::vector<AlertRule> rules = rulesOf(state.range(0));
+    for (AlertRule& rule : rules)
+        rule.query = u"story:(%1)"_s.arg(rule.query);
+    QueryPlanner planner(*store);
+    const AlertMatcher matcher(rules, planner, {});
+    const bool isChinese = state.range(1) != 0;
+    CHeadline headline;
+    headline.title = u"Results of the year"_s;
+    QString story;
+    for (int i = 0; story.size() < 20'000; ++i)
+        story += isChinese ? chineseStory(i) : englishStory(i);
+    std::vector<double> seconds;
+    std::size_t wanted = 0;
+    for (auto unused : state) {
+        seconds.push_back(secondsOf([&] {
+            matcher.matchStory(headline, story, [&](std::size_t, const QStringList&) { ++wanted; });
+        }));
+        state.SetIterationTime(seconds.back());
+    }
+    state.counters["ns_a_character"] = median(seconds) / double(story.size()) * 1e9;
+    state.counters["wanted"] = double(wanted) / double(seconds.size());
+}
+
 }  // namespace
 
+BENCHMARK(tryStory)
+    ->ArgsProduct({{1000}, {0, 1}})
+    ->ArgNames({"rules", "zh"})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(lookAtWhatCame)->Arg(2)->Arg(1000)->Iterations(5)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace wirepane

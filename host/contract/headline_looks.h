@@ -14,8 +14,9 @@ namespace wirepane {
 struct HeadlineLook {
     static constexpr int tints = 6;  // red, orange, green, cyan, blue, violet
 
-    int tint = 0;  // from 1 to `tints`; 0: none
-    QString tag;   // a short plain text, in one line; empty: none
+    int tint = 0;           // from 1 to `tints`; 0: none
+    QString tag;            // a short plain text, in one line; empty: none
+    bool isWanted = false;  // the user is told of it, also where it has neither
 
     bool operator==(const HeadlineLook&) const = default;
 };

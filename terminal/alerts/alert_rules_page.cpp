@@ -204,7 +204,7 @@ QString AlertRulesPage::faultAt(int row) const {
         if (ruleAt(other).name == rule.name)
             return terminalText(TextId::AlertRuleTwice).arg(rule.name);
     }
-    const ReadQuery read = readQuery(rule.query, QueryUse::Headlines);
+    const ReadQuery read = readQuery(rule.query, QueryUse::Alerts);
     const auto* wrong = std::get_if<QueryFault>(&read);
     return wrong != nullptr ? rule.name + u": "_s + shownText(errorOf(*wrong)) : QString();
 }

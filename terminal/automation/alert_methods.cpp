@@ -62,7 +62,7 @@ Answer AlertMethods::setRules(Params& params) const {
     if (!params.value(u"rules"_s).isArray() || std::size_t(given) != wanted.rules.size())
         params.fail(u"\"rules\" is no list of rules, each with a \"name\" of its own and a \"query\""_s);
     for (const AlertRule& rule : wanted.rules) {
-        const ReadQuery read = readQuery(rule.query, QueryUse::Headlines);
+        const ReadQuery read = readQuery(rule.query, QueryUse::Alerts);
         if (const auto* fault = std::get_if<QueryFault>(&read))
             params.fail(u"\"%1\": %2"_s.arg(rule.name, sentence(errorOf(*fault))));
     }

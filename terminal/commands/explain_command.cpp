@@ -109,6 +109,24 @@ QString whyNot(AlertOutcome outcome) {
     return {};
 }
 
+// In which field the words stand that a rule matched.
+QString placesOf(const QStringList& words) {
+    QStringList inTitle;
+    QStringList inStory;
+    for (const QString& word : words) {
+        if (word.startsWith(AlertMatcher::storyField))
+            inStory << word.mid(AlertMatcher::storyField.size());
+        else
+            inTitle << word;
+    }
+    QStringList places;
+    if (!inTitle.isEmpty())
+        places << u"\"%1\" in the title"_s.arg(inTitle.join(u"\", \""_s));
+    if (!inStory.isEmpty())
+        places << u"\"%1\" in the story"_s.arg(inStory.join(u"\", \""_s));
+    return places.isEmpty() ? u"its symbols, topic or service"_s : places.join(u", "_s);
+}
+
 // What each rule says of it, and what became of that when it came.
 void explainAlerts(Session& session, const CHeadline& headline) {
     const auto opened = openStoreToRead(session.storePath());
@@ -123,19 +141,19 @@ void explainAlerts(Session& session, const CHeadline& headline) {
     });
     const std::vector<AlertEntry> entries = AlertBook(store).entries();
     std::vector<bool> matched(rules.size());
-    matcher.match(headline, [&](std::size_t rule, const QStringList& words) {
+    const QString story =
+        matcher.looksAtStories() ? reader.story(keyOf(headline)).value_or(QString()) : QString();
+    matcher.match(headline, story, [&](std::size_t rule, const QStringList& words) {
         matched[rule] = true;
         const auto entry = std::ranges::find_if(entries, [&](const AlertEntry& each) {
             return each.rule == rules[rule].name && each.headline == keyOf(headline);
         });
-        const QString what = words.isEmpty() ? u"its symbols, topic or service"_s
-                                             : u"\"%1\" in the title"_s.arg(words.join(u"\", \""_s));
         QString became = u"not among the last alerts"_s;
         if (entry != entries.end())
             became = entry->outcome == AlertOutcome::Told
                          ? u"told at %1"_s.arg(momentText(entry->told))
                          : u"not told at %1: %2"_s.arg(momentText(entry->matched), whyNot(entry->outcome));
-        printLine(u"alert %1: matches %2, %3"_s.arg(rules[rule].name, what, became));
+        printLine(u"alert %1: matches %2, %3"_s.arg(rules[rule].name, placesOf(words), became));
     });
     for (std::size_t i = 0; i < rules.size(); ++i) {
         if (!matched[i])

@@ -143,7 +143,10 @@ TEST_F(ArrivalPillTest, SaysWhatWaitsWhileTheListIsHeldAndLetsItGo) {
 
     view.grid()->setFirstVisibleRow(20);
     press();
+    keySets = RelationMatcher();
+    backEnd.looks[next].isWanted = true;
     come(1);
+    EXPECT_EQ(said(), u"1 waiting, 1 match"_s) << "an alert rule wants it";
     press();
     EXPECT_EQ(view.grid()->firstVisibleRow(), 21) << "it stood further down";
     press();

@@ -333,7 +333,7 @@ private:
             words.chop(1);
         if (words.isEmpty())
             return fail(Fault::Missing, start, 1);
-        if (isCut && use == QueryUse::Headlines)
+        if (isCut && use != QueryUse::News && use != QueryUse::Titles)
             return failOfHeadlines(at - 1, 1);
         wasEnclosed = false;
         QueryNode node = nodeFrom(start, Kind::Text);
@@ -354,7 +354,7 @@ private:
         if (fieldDepth > 0)
             return fail(Fault::FieldWithin, start, nameLength);
         const bool isOfHeadlines =
-            *known == FieldKind::Title || (kindOf(*known) != Kind::Days && kindOf(*known) != Kind::State);
+            *known == FieldKind::Title || (*known == FieldKind::Story && use == QueryUse::Alerts) || (kindOf(*known) != Kind::Days && kindOf(*known) != Kind::State);
         if (use != QueryUse::News && !isOfHeadlines)
             return failOfHeadlines(start, nameLength);
         if (isBare)

@@ -91,7 +91,8 @@ using ReadQuery = std::variant<QueryNode, QueryFault>;
 enum class QueryUse {
     News,       // knows the whole language
     Headlines,  // as they come, without their stories: no story:, NEAR, days, is: and words cut short
-    Titles      // the same for headlines that are there; words may be cut short
+    Titles,     // the same for headlines that are there; words may be cut short
+    Alerts      // as for headlines, with their stories once they have come
 };
 
 // Reads a query of any length and content.

@@ -109,6 +109,47 @@ TEST_F(AlertDeskTest, TellsWhatComesOnceWithTheWordsThatMatchedWhoeverTookItIn) 
     EXPECT_EQ(terminal.titles(), QStringList{u"any: Lead"_s});
 }
 
+TEST_F(AlertDeskTest, LooksAtStoriesWhenTheyComeAndTellsWhatTheyAdd) {
+    settings.rules = {ruleOf(u"mine"_s, u"story:\"mine closes\" -tin"_s),
+                      ruleOf(u"gold"_s, u"gold | story:gold"_s)};
+    Terminal terminal(store->path(), settings);
+    NewsItem whole = item(u"Copper"_s);
+    whole.story = u"A mine opens.\nThe Mine closes."_s;
+    NewsItem late = item(u"Gold"_s);
+    NewsItem none = item(u"Tin"_s);
+    NewsItem parted = item(u"Lead"_s);
+    parted.story = u"The mine\ncloses."_s;
+    terminal.take({whole, late, none, parted});
+    EXPECT_EQ(terminal.titles(), (QStringList{u"mine: Copper"_s, u"gold: Gold"_s}));
+    EXPECT_EQ(terminal.told.front().words, QStringList{u"story:Mine closes"_s});
+    terminal.told.clear();
+    for (const QString& title : {u"Gold"_s, u"Tin"_s}) {
+        std::vector<CHeadlineTable> table;
+        std::vector<CHeadline> headlines;
+        terminal.backEnd.BKQNEWS_iGetHeadlineTable(1, table, 0, u"20260302"_s);
+        terminal.backEnd.BKQNEWS_iGetHeadline(1, headlines, table);
+        for (const CHeadline& headline : headlines) {
+            if (headline.title == title) {
+                EXPECT_TRUE(terminal.backEnd.takeStory(keyOf(headline), u"Gold: a mine closes."_s));
+            }
+        }
+    }
+    terminal.wait();
+    EXPECT_EQ(terminal.titles(), (QStringList{u"mine: Gold"_s, u"gold: Tin"_s}))
+        << "what the title had said is not told again";
+    EXPECT_EQ(terminal.told.back().words, QStringList{u"story:Gold"_s});
+}
+
+TEST_F(AlertDeskTest, RulesMeanTopicsThatComeAfterThem) {
+    settings.rules = {ruleOf(u"metals"_s, u"topic:Metals"_s)};
+    Terminal terminal(store->path(), settings);
+    terminal.take({item(u"Before"_s)});
+    NewsItem first = item(u"The first of its topic"_s);
+    first.category = u"Metals"_s;
+    terminal.take({first});
+    EXPECT_EQ(terminal.titles(), QStringList{u"metals: The first of its topic"_s});
+}
+
 TEST_F(AlertDeskTest, TellsNothingTwiceAndLosesNothingOverRestarts) {
     {
         Terminal terminal(store->path(), settings);

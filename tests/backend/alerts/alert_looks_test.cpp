@@ -64,7 +64,16 @@ TEST_F(AlertLooksTest, GiveRowsTheTintOfTheFirstRuleAndTheTagsOfAll) {
     backEnd.judgeLooksBy(looksBy({gold, dear}, backEnd));
     EXPECT_EQ(lookOf(u"Gold is dear"_s), u"0DEAR"_s);
     EXPECT_EQ(told, 2);
-    EXPECT_FALSE(looksBy({plain}, backEnd)) << "nothing to look for";
+    EXPECT_FALSE(looksBy({gold}, backEnd)) << "nothing to look for";
+    const AlertRule inStory = ruleOf(u"story"_s, u"story:mine"_s, 4, {});
+    backEnd.judgeLooksBy(looksBy({plain, inStory}, backEnd));
+    EXPECT_EQ(lookOf(u"Gold is dear"_s), u"0"_s);
+    NewsItem copper = newsItem(1, u"4"_s, at(9, 30), u"Copper falls"_s);
+    EXPECT_TRUE(backEnd.takeIn(copper));
+    EXPECT_EQ(lookOf(u"Copper falls"_s), u"0"_s);
+    EXPECT_TRUE(backEnd.lookOf(keyOf(CHeadlineTable{at(9, 30), 4, 1, 0, 0})).isWanted);
+    EXPECT_TRUE(backEnd.takeStory({at(9, 30), 4, 1}, u"A mine closes."_s));
+    EXPECT_EQ(lookOf(u"Copper falls"_s), u"4"_s) << "the story has come";
 }
 
 }  // namespace

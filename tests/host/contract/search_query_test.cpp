@@ -175,6 +175,12 @@ TEST(SearchQuery, ForHeadlinesRefusesWhatNeedsMore) {
     }
     const QString known = u"a \"b c\" -(d | title:e) topic:f service:1 -symbol:22:0700 near"_s;
     EXPECT_TRUE(std::holds_alternative<QueryNode>(readQuery(known, QueryUse::Headlines)));
+    // Alerts wait for stories, and for nothing else.
+    for (const auto& [query, place] : cases) {
+        const bool isOfStories = query.contains(u"story:"_s, Qt::CaseInsensitive);
+        EXPECT_EQ(std::holds_alternative<QueryNode>(readQuery(query, QueryUse::Alerts)), isOfStories)
+            << query.toStdString();
+    }
 }
 
 // What an excluded or bracketed part says can be shown and taken out by its characters.
