@@ -231,6 +231,7 @@ inline constexpr QLatin1StringView savedName{"IDS_NEWSCTRLVIEW_SAVED_NAME"};
 inline constexpr QLatin1StringView savedReplace{"IDS_NEWSCTRLVIEW_SAVED_REPLACE"};
 inline constexpr QLatin1StringView savedToday{"IDS_NEWSCTRLVIEW_SAVED_TODAY"};
 inline constexpr QLatin1StringView savedManage{"IDS_NEWSCTRLVIEW_SAVED_MANAGE"};
+inline constexpr QLatin1StringView savedAsAlert{"IDS_NEWSCTRLVIEW_SAVED_AS_ALERT"};
 inline constexpr QLatin1StringView savedAsKeySet{"IDS_NEWSCTRLVIEW_SAVED_AS_KEY_SET"};
 inline constexpr QLatin1StringView savedAsWarning{"IDS_NEWSCTRLVIEW_SAVED_AS_WARNING"};
 inline constexpr QLatin1StringView savedDelete{"IDS_NEWSCTRLVIEW_SAVED_DELETE"};

@@ -4,6 +4,7 @@
 
 #include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/headline_looks.h"
 #include "host/contract/query/search_counts.h"
 #include "host/contract/whole_file.h"
 #include "host/controls/heap_dialog.h"
@@ -13,6 +14,7 @@
 #include "news_view/control_set.h"
 #include "news_view/news_services.h"
 #include "news_view/view_settings.h"
+#include "search/alert_query.h"
 #include "search/dialog_controls.h"
 #include "search/query_entry.h"
 #include "search/search_desk.h"
@@ -121,6 +123,10 @@ void SavedSearchMenu::fillChoices(QMenu& menu, const SavedSearch& search) {
     if (parts.switches.showWarningSearch)
         menu.addAction(text(keys::savedAsWarning), &parts.window,
                        [this, condition] { calls.addWarningTerm(condition); });
+    auto* const host = dynamic_cast<HeadlineLooks*>(&parts.backEnd);
+    if (host != nullptr && parts.settings.options[ViewOption::AlertLooks])
+        menu.addAction(text(keys::savedAsAlert), &parts.window,
+                       [host, search] { host->proposeAlert(search.name, alertQuery(search.condition)); });
     menu.addAction(text(keys::savedDelete), &parts.window, [this, name = search.name] { remove(name); });
 }
 

@@ -6,12 +6,14 @@
 #include "headline_list/headline_list.h"
 #include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
+#include "host/contract/headline_looks.h"
 #include "host/controls/heap_dialog.h"
 #include "news_view/list_notices.h"
 #include "news_view/news_services.h"
 #include "news_view/rehearsed_key_set.h"
 #include "news_view/view_context.h"
 #include "news_view/view_settings.h"
+#include "search/alert_query.h"
 #include "search/dialog_controls.h"
 #include "search/news_key_search_dlg.h"
 #include "search/rehearsal_dlg.h"
@@ -31,6 +33,8 @@ using namespace Qt::StringLiterals;
 namespace wirepane {
 
 namespace {
+
+constexpr qsizetype longestName = 40;  // of an alert
 
 // As the user reads it: longer ones would fill the list.
 QString keywordsOf(const CSearch& condition) {
@@ -73,6 +77,11 @@ QString hintOf(QString text, const QString& second = {}) {
 
 }  // namespace
 
+HeadlineLooks* StandingSearches::alerts() const {
+    return parts.settings.options[ViewOption::AlertLooks] ? dynamic_cast<HeadlineLooks*>(&parts.backEnd)
+                                                          : nullptr;
+}
+
 StandingSearches::StandingSearches(ViewContext& viewContext, const CommonParts& commonParts,
                                    SearchDesk& searchDesk, Calls given)
     : context(viewContext), parts(commonParts), desk(searchDesk), calls(std::move(given)) {}
@@ -91,6 +100,12 @@ void StandingSearches::composeKeySets() {
     if (parts.settings.options[ViewOption::RehearseKeySets] &&
         dynamic_cast<KeySetRehearsal*>(&parts.backEnd) != nullptr)
         dialog->offerRehearsal([this, &dialog](const CNewsKey& keySet) { rehearse(keySet, dialog.get()); });
+    if (HeadlineLooks* const host = alerts())
+        dialog->offerAlert([this, host](const CNewsKey& keySet) {
+            const QString query =
+                alertQuery(keySet, newsTypesOf(parts.backEnd, parts.services.currentServices()));
+            host->proposeAlert(query.left(longestName), query);
+        });
     const bool accepted = dialog->DoModal() == search_ids::ok;
     if (!dialog)
         return;
@@ -160,6 +175,11 @@ const RelationMatcher* StandingSearches::filterOfShownList() const {
 void StandingSearches::manageWarningTerms() {
     HeapDialog dialog(new CWarnTermDlg(desk.memory.warnings, desk.warningTerm, &parts.window,
                                        parts.settings.options[ViewOption::SearchQueries]));
+    if (HeadlineLooks* const host = alerts())
+        dialog->offerAlert([host](const CSearch& term) {
+            const QString query = alertQuery(term);
+            host->proposeAlert(query.left(longestName), query);
+        });
     const bool accepted = dialog->DoModal() == search_ids::ok;
     if (!dialog)
         return;

@@ -14,6 +14,7 @@ class CNewsKey;
 struct CSearch;
 
 namespace wirepane {
+class HeadlineLooks;
 class ListNotices;
 class SearchDesk;
 class ViewContext;
@@ -53,6 +54,8 @@ public:
 private:
     void setTicked(const std::vector<CNewsKey>& keySets);
     void rehearse(const CNewsKey& keySet, QWidget* over);
+    // Null: the host takes no alerts from its views.
+    HeadlineLooks* alerts() const;
 
     ViewContext& context;
     const CommonParts parts;

@@ -61,12 +61,23 @@ void CNewsKeySearchDlg::takeAnyCase() {
 }
 
 void CNewsKeySearchDlg::offerRehearsal(std::function<void(const CNewsKey&)> rehearse) {
-    QPushButton* button = makeButton(this, search_ids::rehearseKeySet, langText(search_keys::rehearse));
+    addToSaving(search_ids::rehearseKeySet, search_keys::rehearse, std::move(rehearse));
+}
+
+void CNewsKeySearchDlg::offerAlert(std::function<void(const CNewsKey&)> propose) {
+    addToSaving(search_ids::alertOfKeySet, search_keys::alertMe, std::move(propose));
+}
+
+// What is done with the key set that is being composed.
+void CNewsKeySearchDlg::addToSaving(int id, QLatin1StringView key, std::function<void(const CNewsKey&)> use) {
+    auto* const last =
+        qobject_cast<QPushButton*>(savingButtons->itemAt(savingButtons->count() - 1)->widget());
+    QPushButton* button = makeButton(this, id, langText(key));
     savingButtons->addWidget(button);
-    setTabOrder(saveButton, button);
-    connect(button, &QPushButton::clicked, this, [this, rehearse = std::move(rehearse)] {
+    setTabOrder(last != nullptr ? last : saveButton, button);
+    connect(button, &QPushButton::clicked, this, [this, use = std::move(use)] {
         if (const auto keySet = askKeySet())
-            rehearse(*keySet);
+            use(*keySet);
     });
 }
 

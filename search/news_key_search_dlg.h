@@ -37,6 +37,9 @@ public:
     // The key set that is being composed can be tried before it is saved: `rehearse` is called with it.
     void offerRehearsal(std::function<void(const CNewsKey&)> rehearse);
 
+    // An alert can be made of it: `propose` is called with it.
+    void offerAlert(std::function<void(const CNewsKey&)> propose);
+
     // What the caller takes back after OK, besides the pool.
     const std::vector<CNewsKey>& composedKeySets() const { return keySets; }
     std::vector<CNewsKey> tickedKeySets() const;
@@ -45,6 +48,7 @@ protected:
     QPushButton* defaultFor(const QWidget* focus) const override;
 
 private:
+    void addToSaving(int id, QLatin1StringView key, std::function<void(const CNewsKey&)> use);
     QLayout* createComposition();
     QLayout* createNewsTypes();
     QLayout* createSaving();

@@ -60,6 +60,7 @@ inline constexpr int allKeySets = 2096;
 inline constexpr int rehearseKeySet = 9005;
 
 // A rehearsal.
+inline constexpr int alertOfKeySet = 9014;
 inline constexpr int rehearsal = 9006;  // the dialog itself
 inline constexpr int rehearsalSummary = 9007;
 inline constexpr int rehearsalBudget = 9008;
@@ -74,6 +75,7 @@ inline constexpr int warnTerms = 2015;  // the dialog itself
 inline constexpr int addWarning = 3;
 inline constexpr int editWarning = 4;
 inline constexpr int warnings = 2047;
+inline constexpr int alertOfWarning = 9015;
 inline constexpr int deleteWarning = 2051;
 
 // One warning term.

@@ -51,6 +51,7 @@ inline constexpr QLatin1StringView capitalsNote{"IDS_DIALOG-DEAL-SEARCH_CAPITALS
 
 // A rehearsal of a key set. "%1", "%2": numbers, or an hour and a number.
 inline constexpr QLatin1StringView rehearse{"IDS_DIALOG-DEAL-SEARCH_REHEARSE"};
+inline constexpr QLatin1StringView alertMe{"IDS_DIALOG-DEAL-SEARCH_ALERT_ME"};
 inline constexpr QLatin1StringView rehearsalTitle{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TITLE"};
 inline constexpr QLatin1StringView rehearsalRuns{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_RUNS"};
 inline constexpr QLatin1StringView rehearsalFailed{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_FAILED"};

@@ -17,6 +17,7 @@
 #include <QPushButton>
 
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace wirepane;
@@ -54,6 +55,15 @@ CWarnTermDlg::CWarnTermDlg(const WarningItems& items, const CSearch& inForce, QW
     list->setFocus();
 }
 
+void CWarnTermDlg::offerAlert(std::function<void(const CSearch&)> propose) {
+    QPushButton* button = makeButton(this, search_ids::alertOfWarning, langText(search_keys::alertMe));
+    commands->addWidget(button);
+    connect(button, &QPushButton::clicked, this, [this, propose = std::move(propose)] {
+        if (const CSearch* const item = warnings.itemAt(selectedRow()))
+            propose(*item);
+    });
+}
+
 int CWarnTermDlg::DoModal() {
     return runModally(this);
 }
@@ -75,6 +85,7 @@ void CWarnTermDlg::createList() {
 
 QLayout* CWarnTermDlg::createCommands() {
     auto* row = new QHBoxLayout;
+    commands = row;
     const auto add = [&](int id, QLatin1StringView key, void (CWarnTermDlg::*act)()) {
         QPushButton* button = makeButton(this, id, langText(key));
         connect(button, &QPushButton::clicked, this, act);

@@ -6,6 +6,9 @@
 
 #include <QDialog>
 
+#include <functional>
+
+class QBoxLayout;
 class QLayout;
 
 namespace wirepane {
@@ -22,6 +25,9 @@ public:
     // Works on copies. `inForce`: the condition that the chosen item changes. A back end has been installed.
     CWarnTermDlg(const wirepane::WarningItems& items, const CSearch& inForce, QWidget* parent,
                  bool takesQueries = false);
+
+    // An alert can be made of the term that is selected: `propose` is called with it.
+    void offerAlert(std::function<void(const CSearch&)> propose);
 
     // Runs the dialog: search_ids::ok or search_ids::cancel.
     int DoModal();
@@ -47,4 +53,5 @@ private:
     CSearch chosen;
     const bool hasQueries;
     wirepane::ReportList* list = nullptr;
+    QBoxLayout* commands = nullptr;
 };

@@ -197,6 +197,13 @@ public:
     std::int64_t priceChanges() const override { return prices.changes(); }
     HeadlineLook lookOf(const HeadlineKey& key) override { return looks.of(key); }
     LookTeller& lookTeller() override { return looks.teller(); }
+    void proposeAlert(const QString& name, const QString& query) override {
+        if (alertProposed)
+            alertProposed(name, query);
+    }
+    void onAlertProposed(std::function<void(const QString& name, const QString& query)> call) {
+        alertProposed = std::move(call);
+    }
     // Who knows which headlines stand out; at first nobody does.
     void judgeLooksBy(LookDesk::Judge judge) { looks.judgeBy(std::move(judge)); }
     bool canMark() const override { return marks.canMark(); }
@@ -360,6 +367,7 @@ private:
     DayIndex days;
     HeadlineCache headlineCache;
     LookDesk looks;
+    std::function<void(const QString&, const QString&)> alertProposed;
     MarkingDesk marks;
     std::vector<QuietSource> quiet;
     QuietTeller quietTells;

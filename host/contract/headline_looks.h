@@ -43,6 +43,9 @@ public:
     virtual HeadlineLook lookOf(const HeadlineKey& key) = 0;
     // Lives as long as this.
     virtual LookTeller& lookTeller() = 0;
+    // The user wants to be told of what a query finds as it comes (docs/search.md, of alerts): has him decide
+    // how, and returns when he has. `name` is what he knows it by.
+    virtual void proposeAlert(const QString& name, const QString& query) = 0;
 };
 
 }  // namespace wirepane

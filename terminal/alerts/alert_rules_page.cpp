@@ -163,6 +163,23 @@ void AlertRulesPage::addRow(const AlertRule& rule) {
     table->setItem(row, Tag, new QTableWidgetItem(rule.tag));
 }
 
+void AlertRulesPage::propose(AlertRule rule) {
+    QStringList names;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const AlertRule known = ruleAt(row);
+        names << known.name;
+        if (known.query == rule.query) {
+            table->setCurrentCell(row, Name);
+            return;
+        }
+    }
+    const QString name = rule.name;
+    for (int number = 2; names.contains(rule.name); ++number)
+        rule.name = u"%1 (%2)"_s.arg(name).arg(number);
+    addRow(rule);
+    table->setCurrentCell(table->rowCount() - 1, Name);
+}
+
 void AlertRulesPage::addNew() {
     addRow({});
     table->setCurrentCell(table->rowCount() - 1, Name);

@@ -24,6 +24,9 @@ public:
     // `test` tells a rule as it would be told.
     AlertRulesPage(const AlertSettings& present, std::function<void(const AlertRule&)> test);
 
+    // One more rule, under a name of its own; where there is one with its query, that is the present one.
+    void propose(AlertRule rule);
+
     AlertSettings settings() const;
     // What is wrong with the rules, as the page shows it, on the row that has it; empty: nothing.
     QString showFault();

@@ -37,6 +37,17 @@ AlertCenter::AlertCenter(EmbeddedBackEnd& embedded, TerminalSettings& terminalSe
             [this](const std::vector<AlertEntry>& entries) { teller.tell(entries, present.rules); });
     connect(toast, &AlertToast::opened, this, &AlertCenter::show);
     backEnd.judgeLooksBy(looksBy(present.rules, backEnd));
+    backEnd.onAlertProposed([this](const QString& name, const QString& query) {
+        AlertRule rule;
+        rule.name = name;
+        rule.query = query;
+        emit rulesAsked(rule);
+    });
+}
+
+AlertCenter::~AlertCenter() {
+    backEnd.onAlertProposed({});
+    backEnd.judgeLooksBy({});
 }
 
 void AlertCenter::setRules(const AlertSettings& rules) {
@@ -58,7 +69,7 @@ void AlertCenter::show() {
         window = new AlertsWindow(
             alerts, [this](const HeadlineKey& key) { return storyOf(key); }, &frame);
         window->setAttribute(Qt::WA_DeleteOnClose);
-        connect(window, &AlertsWindow::rulesAsked, this, &AlertCenter::rulesAsked);
+        connect(window, &AlertsWindow::rulesAsked, this, [this] { emit rulesAsked(std::nullopt); });
     }
     window->show();
     window->raise();

@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <optional>
+
 namespace wirepane {
 class AlertsWindow;
 class AlertToast;
@@ -23,6 +25,7 @@ class AlertCenter : public QObject {
 public:
     // None is owned; all outlive this.
     AlertCenter(EmbeddedBackEnd& backEnd, TerminalSettings& settings, MainFrame& frame);
+    ~AlertCenter() override;
 
     AlertDesk& desk() { return alerts; }
     const AlertSettings& rules() const { return present; }
@@ -34,8 +37,8 @@ public:
     void show();
 
 signals:
-    // Of the window.
-    void rulesAsked();
+    // Of the window, or of a view with a rule that the user may want.
+    void rulesAsked(const std::optional<wirepane::AlertRule>& proposed);
 
 private:
     QString storyOf(const HeadlineKey& key);

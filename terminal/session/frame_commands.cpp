@@ -119,8 +119,9 @@ FrameCommands::FrameCommands(Session& terminal)
     });
     connect(&newsImport, &NewsImport::readAsOfAsked, this,
             [this](std::int64_t moment) { report(session.readAsOf(moment)); });
-    connect(&session.alerts(), &AlertCenter::rulesAsked, this,
-            [this] { changeSettings(SettingsPage::Alerts); });
+    connect(
+        &session.alerts(), &AlertCenter::rulesAsked, this,
+        [this](const std::optional<AlertRule>& proposed) { changeSettings(SettingsPage::Alerts, proposed); });
     connect(workspace, &Workspace::renameAsked, this, &FrameCommands::rename);
     connect(workspace, &Workspace::closeAsked, workspace, &Workspace::close);
 }
@@ -265,7 +266,7 @@ void FrameCommands::readAsOf() {
         report(session.readAsOf(dialog->moment()));
 }
 
-void FrameCommands::changeSettings(SettingsPage first) {
+void FrameCommands::changeSettings(SettingsPage first, const std::optional<AlertRule>& proposed) {
     TerminalSettings& settings = session.settings();
     const TerminalChoices present{session.language(), settings.scheme(), settings.greenIsUp(),
                                   settings.fontSize(), settings.switches()};
@@ -274,6 +275,8 @@ void FrameCommands::changeSettings(SettingsPage first) {
                                      [this](const AlertRule& rule) { session.alerts().test(rule); });
     dialog->addPage(rules, terminalText(TextId::AlertsTitle),
                     [rules] { return rules->showFault().isEmpty(); });
+    if (proposed)
+        rules->propose(*proposed);
     if (first == SettingsPage::Alerts)
         dialog->showPage(rules);
     if (dialog->exec() != QDialog::Accepted)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/alerts/alert_rule.h"
 #include "backend/result.h"
 #include "host/contract/view_kinds.h"
 #include "terminal/frame/frame_command.h"
@@ -10,6 +11,8 @@
 #include <QMessageBox>
 #include <QObject>
 #include <QPointer>
+
+#include <optional>
 
 namespace wirepane {
 class GuideWindow;
@@ -38,7 +41,7 @@ private:
     void changeDensity();
     void readAsOf();
     enum class SettingsPage { First, Alerts };
-    void changeSettings(SettingsPage first);
+    void changeSettings(SettingsPage first, const std::optional<AlertRule>& proposed = {});
     void rename(int number);
     void showGuide();
     void showKeys();

@@ -1275,6 +1275,10 @@
         <source></source>
         <translation>Save as &amp;New Key Set</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ALERT_ME">
+        <source></source>
+        <translation>&amp;Alert Me…</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_ALL_NEWSTYPE">
         <source></source>
         <translation>All</translation>
@@ -1862,6 +1866,10 @@
     <message id="IDS_NEWSCTRLVIEW_SAVED_ASK_DELETE">
         <source></source>
         <translation>Delete the search “%1”?</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_AS_ALERT">
+        <source></source>
+        <translation>Alert me…</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_SAVED_AS_KEY_SET">
         <source></source>

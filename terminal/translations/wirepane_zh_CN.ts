@@ -1275,6 +1275,10 @@
         <source></source>
         <translation>保存为新组(&amp;N)</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ALERT_ME">
+        <source></source>
+        <translation>设置警示(&amp;A)…</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_ALL_NEWSTYPE">
         <source></source>
         <translation>全部</translation>
@@ -1862,6 +1866,10 @@
     <message id="IDS_NEWSCTRLVIEW_SAVED_ASK_DELETE">
         <source></source>
         <translation>要删除搜索“%1”吗？</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_AS_ALERT">
+        <source></source>
+        <translation>设置警示…</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_SAVED_AS_KEY_SET">
         <source></source>

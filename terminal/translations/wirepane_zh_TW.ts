@@ -1275,6 +1275,10 @@
         <source></source>
         <translation>儲存為新組(&amp;N)</translation>
     </message>
+    <message id="IDS_DIALOG-DEAL-SEARCH_ALERT_ME">
+        <source></source>
+        <translation>設定警示(&amp;A)…</translation>
+    </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_ALL_NEWSTYPE">
         <source></source>
         <translation>全部</translation>
@@ -1862,6 +1866,10 @@
     <message id="IDS_NEWSCTRLVIEW_SAVED_ASK_DELETE">
         <source></source>
         <translation>要刪除搜尋「%1」嗎？</translation>
+    </message>
+    <message id="IDS_NEWSCTRLVIEW_SAVED_AS_ALERT">
+        <source></source>
+        <translation>設定警示…</translation>
     </message>
     <message id="IDS_NEWSCTRLVIEW_SAVED_AS_KEY_SET">
         <source></source>

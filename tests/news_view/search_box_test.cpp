@@ -155,7 +155,7 @@ TEST_F(SearchesOfTheView, TheBoxDropsDownWhatWasSearchedForNewestFirst) {
 }
 
 TEST_F(SearchesOfTheView, SearchesWithNamesDropDownWithTheirCountsAndAreSentAgain) {
-    openSearch({{u"SearchQueries"_s, true}, {u"NamedSearches"_s, true}});
+    openSearch({{u"SearchQueries"_s, true}, {u"NamedSearches"_s, true}, {u"AlertLooks"_s, true}});
     backEnd.texts[u"IDS_NEWSCTRLVIEW_SAVED_TODAY"_s] = u"%1 today"_s;
     auto* edit = qobject_cast<QLineEdit*>(dlgItem(view.get(), ids::searchEdit));
     const auto drop = [&] {
@@ -195,6 +195,10 @@ TEST_F(SearchesOfTheView, SearchesWithNamesDropDownWithTheirCountsAndAreSentAgai
     line->trigger();
     EXPECT_EQ(edit->text(), u"gold -tin"_s);
     EXPECT_TRUE(sent().front().contains(u"gold -tin"_s));
+    const QMenu* choices =
+        lineOf(*menu, u"IDS_NEWSCTRLVIEW_SAVED_MANAGE"_s)->menu()->actions().front()->menu();
+    lineOf(*choices, u"IDS_NEWSCTRLVIEW_SAVED_AS_ALERT"_s)->trigger();
+    EXPECT_EQ(backEnd.asked.back(), u"alert 黃金 & co: gold -tin"_s);
     menu->close();
 }
 

@@ -62,6 +62,17 @@ protected:
 
 }  // namespace
 
+TEST_F(KeySetDialog, AnAlertIsMadeOfTheOneThatIsComposed) {
+    open();
+    std::vector<CNewsKey> proposed;
+    dialog->offerAlert([&](const CNewsKey& keySet) { proposed.push_back(keySet); });
+    addKeyword(u"TIN"_s);
+    click(search_ids::allNewsTypes);
+    click(search_ids::alertOfKeySet);
+    EXPECT_EQ(proposed, std::vector{CNewsKey(CNewsKey::all, {3, 7, 12}, {u"TIN"_s})});
+    EXPECT_EQ(dialog->composedKeySets().size(), stored.size()) << "it is not saved by that";
+}
+
 TEST_F(KeySetDialog, ShowsNewsTypesAndKeySetsAndStartsANewOne) {
     open();
     EXPECT_EQ(texts(search_ids::newsTypes), (QStringList{u"Markets"_s, u"Deals"_s, u"Policy"_s}));

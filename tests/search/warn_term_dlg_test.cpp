@@ -68,6 +68,19 @@ TEST_F(WarnTerms, AreListedWithTheOneInForceInBold) {
     EXPECT_EQ(defaultButton(), search_ids::ok);
 }
 
+TEST_F(WarnTerms, AnAlertIsMadeOfTheSelectedOne) {
+    open();
+    std::vector<CSearch> proposed;
+    EXPECT_EQ(dlgItem(dialog.get(), search_ids::alertOfWarning), nullptr) << "nobody takes it";
+    dialog->offerAlert([&](const CSearch& term) { proposed.push_back(term); });
+    at<QTableWidget>(search_ids::warnings).clearSelection();
+    click(search_ids::alertOfWarning);
+    EXPECT_TRUE(proposed.empty());
+    at<QTableWidget>(search_ids::warnings).selectRow(2);
+    click(search_ids::alertOfWarning);
+    EXPECT_EQ(proposed, std::vector{items.items[2]});
+}
+
 TEST_F(WarnTerms, AreAddedWithKeywordsOnly) {
     open();
     add(u" rate,cut "_s, {search_ids::warningOr, search_ids::warningBoth, search_ids::ok});

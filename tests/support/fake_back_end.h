@@ -157,6 +157,9 @@ public:
     QStringList originsOf(const HeadlineKey& key) override { return origins.value(key.sequence); }
     HeadlineLook lookOf(const HeadlineKey& key) override { return looks.value(key.sequence); }
     LookTeller& lookTeller() override { return lookTells; }
+    void proposeAlert(const QString& name, const QString& query) override {
+        asked += QStringLiteral("alert %1: %2").arg(name, query);
+    }
 
     QHash<int, QStringList> origins;  // by number
     QHash<int, HeadlineLook> looks;   // by number

@@ -126,7 +126,7 @@ TEST_F(AlertsTest, TheSettingsTakeNoRuleThatCannotBeUnderstood) {
         auto* table = page->findChild<QTableWidget*>();
         QAbstractButton* save = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
         EXPECT_EQ(table->rowCount(), 2);
-        table->item(0, 1)->setText(u"story:gold"_s);
+        table->item(0, 1)->setText(u"gold on:today"_s);
         save->click();
         EXPECT_TRUE(dialog.isVisible());
         EXPECT_TRUE(page->showFault().contains(u"cannot be answered by a headline"_s));
@@ -144,6 +144,25 @@ TEST_F(AlertsTest, TheSettingsTakeNoRuleThatCannotBeUnderstood) {
     EXPECT_EQ(rules.rules[1].name, u"tin"_s);
     EXPECT_EQ(rules.rules[1].pauseSeconds, 0);
     EXPECT_EQ(alertsFromJson(session->settings().alerts()), rules) << "they are kept";
+}
+
+TEST_F(AlertsTest, WhatAViewProposesIsOneMoreRuleThatTheUserDecidesOn) {
+    session->alerts().setRules(usualAlerts());
+    const auto propose = [this](const QString& query, int rows) {
+        answering<QDialog>([&] { session->backEnd().proposeAlert(u"FLASH"_s, query); },
+                           [rows](QDialog& dialog) {
+                               auto* table = dialog.findChild<QTableWidget*>();
+                               EXPECT_EQ(table->rowCount(), rows);
+                               EXPECT_TRUE(table->isVisible());
+                               dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+                           });
+    };
+    propose(u"story:gold"_s, 3);
+    propose(u"story:gold"_s, 3);
+    const AlertSettings& rules = session->alerts().rules();
+    ASSERT_EQ(rules.rules.size(), 3U);
+    EXPECT_EQ(rules.rules[2].name, u"FLASH (2)"_s);
+    EXPECT_EQ(rules.rules[2].query, u"story:gold"_s);
 }
 
 }  // namespace
