@@ -3,28 +3,24 @@
 #include "terminal/alerts/alert_rules_page.h"
 
 #include "backend/search/query_errors.h"
-#include "host/contract/colour_roles.h"
-#include "host/contract/headline_looks.h"
 #include "host/contract/query/search_query.h"
 #include "host/controls/line_icon.h"
-#include "host/controls/row_tints.h"
-#include "terminal/frame/window_room.h"
+#include "terminal/alerts/alert_rule_form.h"
 #include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
-#include <QTableWidget>
+#include <QSignalBlocker>
 #include <QTimeEdit>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
+#include <tuple>
 #include <utility>
 #include <variant>
 
@@ -34,11 +30,6 @@ namespace wirepane {
 
 namespace {
 
-constexpr int widthInCharacters = 120;
-constexpr int margin = 100;  // pixels, of the dialog and its frame
-
-enum Column { Name, QueryText, Toast, Sound, OnlyConnected, Pause, Tint, Tag, ColumnCount };
-
 QTime timeOf(int minutes) {
     return {minutes / 60, minutes % 60};
 }
@@ -47,68 +38,43 @@ int minutesOf(const QTime& time) {
     return time.hour() * 60 + time.minute();
 }
 
-QTableWidgetItem* ticked(bool on) {
-    auto* item = new QTableWidgetItem;
-    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    item->setCheckState(on ? Qt::Checked : Qt::Unchecked);
-    return item;
-}
-
-QComboBox* tintChoice(int chosen) {
-    constexpr std::array<TextId, HeadlineLook::tints + 1> names{
-        TextId::TintNone, TextId::TintRed,  TextId::TintOrange, TextId::TintGreen,
-        TextId::TintCyan, TextId::TintBlue, TextId::TintViolet};
-    constexpr int side = 12;
-    auto* choice = new QComboBox;
-    for (int tint = 0; tint <= HeadlineLook::tints; ++tint) {
-        QPixmap sample(side, side);
-        sample.fill(tint == 0 ? Qt::transparent : sampleOfTint(tint));
-        choice->addItem(sample, terminalText(names[std::size_t(tint)]));
-    }
-    choice->setCurrentIndex(chosen);
-    choice->setAccessibleName(terminalText(TextId::AlertTint));
-    return choice;
-}
-
 }  // namespace
 
 AlertRulesPage::AlertRulesPage(const AlertSettings& present, std::function<void(const AlertRule&)> tell)
     : test(std::move(tell)),
-      table(new QTableWidget(0, ColumnCount)),
+      list(new QListWidget),
+      form(new AlertRuleForm),
       fault(new QLabel),
       hasQuietHours(new QCheckBox(terminalText(TextId::AlertQuietFrom))),
       quietFrom(new QTimeEdit),
       quietTo(new QTimeEdit) {
-    table->setHorizontalHeaderLabels(
-        {terminalText(TextId::AlertColumnRule), terminalText(TextId::AlertLooksFor),
-         terminalText(TextId::AlertToast), terminalText(TextId::AlertSound),
-         terminalText(TextId::AlertOnlyConnected), terminalText(TextId::AlertPauseOf),
-         terminalText(TextId::AlertTint), terminalText(TextId::AlertTag)});
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    table->horizontalHeader()->setSectionResizeMode(QueryText, QHeaderView::Stretch);
-    table->verticalHeader()->hide();
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setTabKeyNavigation(false);
-    table->setAccessibleName(terminalText(TextId::AlertRules));
+    constexpr int listInCharacters = 22;
+    list->setAccessibleName(terminalText(TextId::AlertRules));
+    list->setSpacing(2);
+    list->setFixedWidth(fontMetrics().averageCharWidth() * listInCharacters);
     for (const AlertRule& rule : present.rules)
-        addRow(rule);
-    table->setCurrentCell(0, 0);
+        add(rule);
     fault->setTextFormat(Qt::PlainText);
     fault->setWordWrap(true);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
     auto* help = new QLabel(terminalText(TextId::AlertRulesHelp));
     help->setTextFormat(Qt::PlainText);
     help->setWordWrap(true);
+    auto* both = new QHBoxLayout;
+    both->setSpacing(16);
+    both->addWidget(list);
+    both->addWidget(form, 1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 16, 16, 16);
     column->addWidget(help);
-    column->addWidget(table, 1);
+    column->addLayout(both, 1);
     column->addWidget(fault);
     column->addLayout(buttonRow());
     column->addLayout(quietRow(present));
-    setMinimumWidth(
-        std::min(fontMetrics().averageCharWidth() * widthInCharacters, windowRoom(*this).width() - margin));
-    connect(table, &QTableWidget::itemChanged, this, [this] { fault->clear(); });
+    connect(list, &QListWidget::currentRowChanged, this, &AlertRulesPage::showCurrent);
+    connect(list, &QListWidget::itemChanged, this, &AlertRulesPage::takeTicks);
+    connect(form, &AlertRuleForm::edited, this, &AlertRulesPage::takeEdited);
+    list->setCurrentRow(0);
+    showCurrent();
 }
 
 QLayout* AlertRulesPage::buttonRow() {
@@ -147,93 +113,92 @@ QLayout* AlertRulesPage::quietRow(const AlertSettings& present) {
     return row;
 }
 
-void AlertRulesPage::addRow(const AlertRule& rule) {
-    const int row = table->rowCount();
-    table->insertRow(row);
-    auto* name = ticked(rule.isOn);
-    name->setFlags(name->flags() | Qt::ItemIsEditable);
-    name->setText(rule.name);
-    table->setItem(row, Name, name);
-    table->setItem(row, QueryText, new QTableWidgetItem(rule.query));
-    table->setItem(row, Toast, ticked(rule.hasToast));
-    table->setItem(row, Sound, ticked(rule.hasSound));
-    table->setItem(row, OnlyConnected, ticked(rule.onlyConnected));
-    table->setItem(row, Pause, new QTableWidgetItem(QString::number(rule.pauseSeconds)));
-    table->setCellWidget(row, Tint, tintChoice(rule.tint));
-    table->setItem(row, Tag, new QTableWidgetItem(rule.tag));
+void AlertRulesPage::add(const AlertRule& rule) {
+    const QSignalBlocker nobodyTicks(list);
+    rules.push_back(rule);
+    auto* item = new QListWidgetItem(rule.name, list);
+    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+    item->setCheckState(rule.isOn ? Qt::Checked : Qt::Unchecked);
 }
 
 void AlertRulesPage::propose(AlertRule rule) {
-    QStringList names;
-    for (int row = 0; row < table->rowCount(); ++row) {
-        const AlertRule known = ruleAt(row);
-        names << known.name;
-        if (known.query == rule.query) {
-            table->setCurrentCell(row, Name);
-            return;
-        }
+    const auto known = std::ranges::find(rules, rule.query, &AlertRule::query);
+    if (known != rules.end()) {
+        list->setCurrentRow(int(known - rules.begin()));
+        return;
     }
     const QString name = rule.name;
-    for (int number = 2; names.contains(rule.name); ++number)
+    for (int number = 2; std::ranges::find(rules, rule.name, &AlertRule::name) != rules.end(); ++number)
         rule.name = u"%1 (%2)"_s.arg(name).arg(number);
-    addRow(rule);
-    table->setCurrentCell(table->rowCount() - 1, Name);
+    add(rule);
+    list->setCurrentRow(list->count() - 1);
 }
 
 void AlertRulesPage::addNew() {
-    addRow({});
-    table->setCurrentCell(table->rowCount() - 1, Name);
-    table->editItem(table->currentItem());
+    add({});
+    list->setCurrentRow(list->count() - 1);
+    form->editName();
 }
 
 void AlertRulesPage::removeCurrent() {
-    table->removeRow(table->currentRow());
-    fault->clear();
+    const int row = list->currentRow();
+    if (row < 0)
+        return;
+    rules.erase(rules.begin() + row);
+    const QSignalBlocker shownBelow(list);
+    delete list->takeItem(row);
+    showCurrent();
 }
 
 void AlertRulesPage::testCurrent() {
-    if (table->currentRow() >= 0)
-        test(ruleAt(table->currentRow()));
+    if (list->currentRow() >= 0)
+        test(rules[std::size_t(list->currentRow())]);
 }
 
-AlertRule AlertRulesPage::ruleAt(int row) const {
-    const auto isTicked = [&](Column column) {
-        return table->item(row, column)->checkState() == Qt::Checked;
-    };
-    AlertRule rule;
-    rule.name = table->item(row, Name)->text().trimmed();
-    rule.query = table->item(row, QueryText)->text().trimmed();
-    rule.isOn = isTicked(Name);
-    rule.hasToast = isTicked(Toast);
-    rule.hasSound = isTicked(Sound);
-    rule.onlyConnected = isTicked(OnlyConnected);
-    rule.pauseSeconds = std::clamp(table->item(row, Pause)->text().toInt(), 0, longestAlertPause);
-    rule.tint = static_cast<const QComboBox*>(table->cellWidget(row, Tint))->currentIndex();
-    rule.tag = alertTag(table->item(row, Tag)->text());
-    return rule;
+void AlertRulesPage::showCurrent() {
+    const int row = list->currentRow();
+    form->setEnabled(row >= 0);
+    form->show(row >= 0 ? rules[std::size_t(row)] : AlertRule());
+    fault->clear();
 }
 
-QString AlertRulesPage::faultAt(int row) const {
-    const AlertRule rule = ruleAt(row);
+void AlertRulesPage::takeEdited() {
+    const int row = list->currentRow();
+    if (row < 0)
+        return;
+    AlertRule& rule = rules[std::size_t(row)];
+    rule = form->changed(rule);
+    const QSignalBlocker nobodyTicks(list);
+    list->item(row)->setText(rule.name);
+    fault->clear();
+}
+
+void AlertRulesPage::takeTicks() {
+    for (std::size_t i = 0; i < rules.size(); ++i)
+        rules[i].isOn = list->item(int(i))->checkState() == Qt::Checked;
+}
+
+QString AlertRulesPage::faultOf(std::size_t place) const {
+    const AlertRule& rule = rules[place];
     if (rule.name.isEmpty() || rule.query.isEmpty())
         return terminalText(TextId::AlertRuleIncomplete);
-    for (int other = 0; other < row; ++other) {
-        if (ruleAt(other).name == rule.name)
-            return terminalText(TextId::AlertRuleTwice).arg(rule.name);
-    }
+    const auto here = rules.begin() + std::ptrdiff_t(place);
+    if (std::find_if(rules.begin(), here, [&](const AlertRule& other) { return other.name == rule.name; }) !=
+        here)
+        return terminalText(TextId::AlertRuleTwice).arg(rule.name);
     const ReadQuery read = readQuery(rule.query, QueryUse::Alerts);
     const auto* wrong = std::get_if<QueryFault>(&read);
     return wrong != nullptr ? rule.name + u": "_s + shownText(errorOf(*wrong)) : QString();
 }
 
 QString AlertRulesPage::showFault() {
-    for (int row = 0; row < table->rowCount(); ++row) {
-        const QString text = faultAt(row);
+    for (std::size_t place = 0; place < rules.size(); ++place) {
+        const QString text = faultOf(place);
         if (text.isEmpty())
             continue;
+        list->setCurrentRow(int(place));
         fault->setText(text);
-        table->setCurrentCell(row, QueryText);
-        table->setFocus();
+        form->editQuery();
         return text;
     }
     return {};
@@ -241,8 +206,7 @@ QString AlertRulesPage::showFault() {
 
 AlertSettings AlertRulesPage::settings() const {
     AlertSettings chosen;
-    for (int row = 0; row < table->rowCount(); ++row)
-        chosen.rules.push_back(ruleAt(row));
+    chosen.rules = rules;
     if (hasQuietHours->isChecked()) {
         chosen.quietFrom = minutesOf(quietFrom->time());
         chosen.quietTo = minutesOf(quietTo->time());

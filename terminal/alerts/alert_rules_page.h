@@ -7,16 +7,19 @@
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
 class QCheckBox;
 class QLabel;
+class QListWidget;
 class QPushButton;
-class QTableWidget;
 class QTimeEdit;
 
 namespace wirepane {
+class AlertRuleForm;
 
-// The page of the settings on which the user says what he is told of, and how. It changes nothing itself.
+// The page of the settings on which the user says what he is told of, and how: the rules, ticked where they
+// are on, and beside them what the present one is. It changes nothing itself.
 class AlertRulesPage : public QWidget {
     Q_OBJECT
 
@@ -28,21 +31,25 @@ public:
     void propose(AlertRule rule);
 
     AlertSettings settings() const;
-    // What is wrong with the rules, as the page shows it, on the row that has it; empty: nothing.
+    // What is wrong with the rules, as the page shows it, on the rule that has it; empty: nothing.
     QString showFault();
 
 private:
-    void addRow(const AlertRule& rule);
+    void add(const AlertRule& rule);
     void addNew();
     void removeCurrent();
     void testCurrent();
-    AlertRule ruleAt(int row) const;
-    QString faultAt(int row) const;
+    void showCurrent();
+    void takeEdited();
+    void takeTicks();
+    QString faultOf(std::size_t place) const;
     QLayout* buttonRow();
     QLayout* quietRow(const AlertSettings& present);
 
     const std::function<void(const AlertRule&)> test;
-    QTableWidget* table;
+    std::vector<AlertRule> rules;  // as they are in the list
+    QListWidget* list;
+    AlertRuleForm* form;
     QLabel* fault;
     QCheckBox* hasQuietHours;
     QTimeEdit* quietFrom;

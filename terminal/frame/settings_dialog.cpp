@@ -71,6 +71,7 @@ SettingsDialog::SettingsDialog(const TerminalChoices& present, QWidget* parent)
 
 void SettingsDialog::addPage(QWidget* page, const QString& name, std::function<bool()> isReady) {
     pages->addTab(page, name);
+    setMinimumWidth(std::max(minimumWidth(), layout()->totalMinimumSize().width()));
     added.emplace_back(page, std::move(isReady));
 }
 

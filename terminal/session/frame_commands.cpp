@@ -273,7 +273,7 @@ void FrameCommands::changeSettings(SettingsPage first, const std::optional<Alert
     const HeapDialog dialog(new SettingsDialog(present, &session.frame()));
     auto* rules = new AlertRulesPage(session.alerts().rules(),
                                      [this](const AlertRule& rule) { session.alerts().test(rule); });
-    dialog->addPage(rules, terminalText(TextId::AlertsTitle),
+    dialog->addPage(rules, terminalText(TextId::SettingsAlerts),
                     [rules] { return rules->showFault().isEmpty(); });
     if (proposed)
         rules->propose(*proposed);

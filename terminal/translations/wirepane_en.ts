@@ -1277,7 +1277,7 @@
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_ALERT_ME">
         <source></source>
-        <translation>&amp;Alert Me…</translation>
+        <translation>Alert &amp;Me…</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_ALL_NEWSTYPE">
         <source></source>
@@ -2461,7 +2461,7 @@
     </message>
     <message id="TERMINAL_ALERT_ADD">
         <source></source>
-        <translation>Add</translation>
+        <translation>A&amp;dd</translation>
     </message>
     <message id="TERMINAL_ALERT_BETWEEN_WORDS">
         <source></source>
@@ -2505,7 +2505,7 @@
     </message>
     <message id="TERMINAL_ALERT_LOOKS_FOR">
         <source></source>
-        <translation>Looks for</translation>
+        <translation>&amp;Looks for</translation>
     </message>
     <message id="TERMINAL_ALERT_MATCHED">
         <source></source>
@@ -2533,7 +2533,7 @@
     </message>
     <message id="TERMINAL_ALERT_ONLY_CONNECTED">
         <source></source>
-        <translation>Only while connected</translation>
+        <translation>Only while &amp;connected</translation>
     </message>
     <message id="TERMINAL_ALERT_PAUSE">
         <source></source>
@@ -2541,7 +2541,7 @@
     </message>
     <message id="TERMINAL_ALERT_PAUSE_OF">
         <source></source>
-        <translation>Pause (seconds)</translation>
+        <translation>&amp;Pause between two</translation>
     </message>
     <message id="TERMINAL_ALERT_PUBLISHED">
         <source></source>
@@ -2549,7 +2549,7 @@
     </message>
     <message id="TERMINAL_ALERT_QUIET_FROM">
         <source></source>
-        <translation>Quiet from</translation>
+        <translation>&amp;Quiet from</translation>
     </message>
     <message id="TERMINAL_ALERT_QUIET_HOURS">
         <source></source>
@@ -2565,7 +2565,7 @@
     </message>
     <message id="TERMINAL_ALERT_REMOVE">
         <source></source>
-        <translation>Remove</translation>
+        <translation>Re&amp;move</translation>
     </message>
     <message id="TERMINAL_ALERT_RULES">
         <source></source>
@@ -2579,6 +2579,10 @@
         <source></source>
         <translation>A rule needs a name and something to look for.</translation>
     </message>
+    <message id="TERMINAL_ALERT_RULE_NAME">
+        <source></source>
+        <translation>&amp;Rule</translation>
+    </message>
     <message id="TERMINAL_ALERT_RULE_OFF">
         <source></source>
         <translation>Not told: the rule is off</translation>
@@ -2587,9 +2591,13 @@
         <source></source>
         <translation>There are two rules called “%1”.</translation>
     </message>
+    <message id="TERMINAL_ALERT_SECONDS">
+        <source></source>
+        <translation> seconds</translation>
+    </message>
     <message id="TERMINAL_ALERT_SOUND">
         <source></source>
-        <translation>Sound</translation>
+        <translation>S&amp;ound</translation>
     </message>
     <message id="TERMINAL_ALERT_STORY">
         <source></source>
@@ -2597,19 +2605,19 @@
     </message>
     <message id="TERMINAL_ALERT_TAG">
         <source></source>
-        <translation>Tag</translation>
+        <translation>&amp;Tag in lists</translation>
     </message>
     <message id="TERMINAL_ALERT_TEST">
         <source></source>
-        <translation>Test</translation>
+        <translation>T&amp;est</translation>
     </message>
     <message id="TERMINAL_ALERT_TINT">
         <source></source>
-        <translation>Color</translation>
+        <translation>Colo&amp;ur in lists</translation>
     </message>
     <message id="TERMINAL_ALERT_TOAST">
         <source></source>
-        <translation>Shown</translation>
+        <translation>S&amp;hown in the corner</translation>
     </message>
     <message id="TERMINAL_ALERT_TOLD">
         <source></source>
@@ -2787,6 +2795,10 @@ Reads the news of securities markets, live and from files.</translation>
     <message id="TERMINAL_MENU_ALERTS">
         <source></source>
         <translation>Alert &amp;History</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_ALERTS">
+        <source></source>
+        <translation>&amp;Alerts</translation>
     </message>
     <message id="TERMINAL_TINT_BLUE">
         <source></source>

@@ -1277,7 +1277,7 @@
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_ALERT_ME">
         <source></source>
-        <translation>設定警示(&amp;A)…</translation>
+        <translation>設定警示(&amp;M)…</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_ALL_NEWSTYPE">
         <source></source>
@@ -2461,7 +2461,7 @@
     </message>
     <message id="TERMINAL_ALERT_ADD">
         <source></source>
-        <translation>新增</translation>
+        <translation>新增(&amp;D)</translation>
     </message>
     <message id="TERMINAL_ALERT_BETWEEN_WORDS">
         <source></source>
@@ -2505,7 +2505,7 @@
     </message>
     <message id="TERMINAL_ALERT_LOOKS_FOR">
         <source></source>
-        <translation>尋找</translation>
+        <translation>尋找(&amp;L)</translation>
     </message>
     <message id="TERMINAL_ALERT_MATCHED">
         <source></source>
@@ -2533,7 +2533,7 @@
     </message>
     <message id="TERMINAL_ALERT_ONLY_CONNECTED">
         <source></source>
-        <translation>僅限連線時</translation>
+        <translation>僅限連線時(&amp;C)</translation>
     </message>
     <message id="TERMINAL_ALERT_PAUSE">
         <source></source>
@@ -2541,7 +2541,7 @@
     </message>
     <message id="TERMINAL_ALERT_PAUSE_OF">
         <source></source>
-        <translation>間隔（秒）</translation>
+        <translation>兩次之間隔(&amp;P)</translation>
     </message>
     <message id="TERMINAL_ALERT_PUBLISHED">
         <source></source>
@@ -2549,7 +2549,7 @@
     </message>
     <message id="TERMINAL_ALERT_QUIET_FROM">
         <source></source>
-        <translation>勿擾時段自</translation>
+        <translation>勿擾時段自(&amp;Q)</translation>
     </message>
     <message id="TERMINAL_ALERT_QUIET_HOURS">
         <source></source>
@@ -2565,7 +2565,7 @@
     </message>
     <message id="TERMINAL_ALERT_REMOVE">
         <source></source>
-        <translation>移除</translation>
+        <translation>移除(&amp;M)</translation>
     </message>
     <message id="TERMINAL_ALERT_RULES">
         <source></source>
@@ -2579,6 +2579,10 @@
         <source></source>
         <translation>規則需要名稱與要尋找的內容。</translation>
     </message>
+    <message id="TERMINAL_ALERT_RULE_NAME">
+        <source></source>
+        <translation>規則(&amp;R)</translation>
+    </message>
     <message id="TERMINAL_ALERT_RULE_OFF">
         <source></source>
         <translation>未提示：規則已關閉</translation>
@@ -2587,9 +2591,13 @@
         <source></source>
         <translation>有兩個名為「%1」的規則。</translation>
     </message>
+    <message id="TERMINAL_ALERT_SECONDS">
+        <source></source>
+        <translation> 秒</translation>
+    </message>
     <message id="TERMINAL_ALERT_SOUND">
         <source></source>
-        <translation>音效</translation>
+        <translation>音效(&amp;O)</translation>
     </message>
     <message id="TERMINAL_ALERT_STORY">
         <source></source>
@@ -2597,19 +2605,19 @@
     </message>
     <message id="TERMINAL_ALERT_TAG">
         <source></source>
-        <translation>標籤</translation>
+        <translation>清單中的標籤(&amp;T)</translation>
     </message>
     <message id="TERMINAL_ALERT_TEST">
         <source></source>
-        <translation>測試</translation>
+        <translation>測試(&amp;E)</translation>
     </message>
     <message id="TERMINAL_ALERT_TINT">
         <source></source>
-        <translation>顏色</translation>
+        <translation>清單中的顏色(&amp;U)</translation>
     </message>
     <message id="TERMINAL_ALERT_TOAST">
         <source></source>
-        <translation>顯示</translation>
+        <translation>顯示在視窗角落(&amp;H)</translation>
     </message>
     <message id="TERMINAL_ALERT_TOLD">
         <source></source>
@@ -2787,6 +2795,10 @@
     <message id="TERMINAL_MENU_ALERTS">
         <source></source>
         <translation>警示(&amp;H)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_ALERTS">
+        <source></source>
+        <translation>警示(&amp;A)</translation>
     </message>
     <message id="TERMINAL_TINT_BLUE">
         <source></source>

@@ -13,9 +13,11 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTableWidget>
+#include <QSpinBox>
 #include <QTreeView>
 
 using namespace Qt::StringLiterals;
@@ -123,18 +125,25 @@ TEST_F(AlertsTest, TheSettingsTakeNoRuleThatCannotBeUnderstood) {
     session->alerts().setRules(usualAlerts());
     const auto change = [](QDialog& dialog) {
         auto* page = dialog.findChild<AlertRulesPage*>();
-        auto* table = page->findChild<QTableWidget*>();
+        auto* list = page->findChild<QListWidget*>();
+        const auto write = [&](int row, const QString& field, const QString& text) {
+            list->setCurrentRow(row);
+            auto* edit = page->findChild<QLineEdit*>(field);
+            edit->selectAll();
+            QTest::keyClicks(edit, text);
+        };
         QAbstractButton* save = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
-        EXPECT_EQ(table->rowCount(), 2);
-        table->item(0, 1)->setText(u"gold on:today"_s);
+        EXPECT_EQ(list->count(), 2);
+        write(0, u"query"_s, u"gold on:today"_s);
         save->click();
         EXPECT_TRUE(dialog.isVisible());
         EXPECT_TRUE(page->showFault().contains(u"cannot be answered by a headline"_s));
-        table->item(0, 1)->setText(u"gold"_s);
-        table->item(1, 0)->setText(table->item(0, 0)->text());
+        write(0, u"query"_s, u"gold"_s);
+        write(1, u"name"_s, u"FLASH"_s);
         EXPECT_TRUE(page->showFault().contains(u"two rules"_s));
-        table->item(1, 0)->setText(u"tin"_s);
-        table->item(1, 5)->setText(u"-3"_s);
+        write(1, u"name"_s, u"tin"_s);
+        list->item(1)->setCheckState(Qt::Unchecked);
+        page->findChild<QSpinBox*>()->setValue(-3);
         save->click();
     };
     answering<QDialog>([this] { emit session->frame().commanded(FrameCommand::Settings); }, change);
@@ -142,6 +151,7 @@ TEST_F(AlertsTest, TheSettingsTakeNoRuleThatCannotBeUnderstood) {
     ASSERT_EQ(rules.rules.size(), 2U);
     EXPECT_EQ(rules.rules[0].query, u"gold"_s);
     EXPECT_EQ(rules.rules[1].name, u"tin"_s);
+    EXPECT_FALSE(rules.rules[1].isOn);
     EXPECT_EQ(rules.rules[1].pauseSeconds, 0);
     EXPECT_EQ(alertsFromJson(session->settings().alerts()), rules) << "they are kept";
 }
@@ -151,9 +161,10 @@ TEST_F(AlertsTest, WhatAViewProposesIsOneMoreRuleThatTheUserDecidesOn) {
     const auto propose = [this](const QString& query, int rows) {
         answering<QDialog>([&] { session->backEnd().proposeAlert(u"FLASH"_s, query); },
                            [rows](QDialog& dialog) {
-                               auto* table = dialog.findChild<QTableWidget*>();
-                               EXPECT_EQ(table->rowCount(), rows);
-                               EXPECT_TRUE(table->isVisible());
+                               auto* page = dialog.findChild<AlertRulesPage*>();
+                               EXPECT_EQ(page->findChild<QListWidget*>()->count(), rows);
+                               EXPECT_EQ(page->findChild<QLineEdit*>(u"query"_s)->text(), u"story:gold"_s);
+                               EXPECT_TRUE(page->isVisible());
                                dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
                            });
     };

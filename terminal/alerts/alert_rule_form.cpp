@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#include "terminal/alerts/alert_rule_form.h"
+
+#include "host/contract/headline_looks.h"
+#include "host/controls/row_tints.h"
+#include "terminal/translations/terminal_text.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include <array>
+#include <cstddef>
+
+using namespace Qt::StringLiterals;
+
+namespace wirepane {
+
+namespace {
+
+constexpr int longestName = 80;
+
+void addTints(QComboBox& choice) {
+    constexpr std::array<TextId, HeadlineLook::tints + 1> names{
+        TextId::TintNone, TextId::TintRed,  TextId::TintOrange, TextId::TintGreen,
+        TextId::TintCyan, TextId::TintBlue, TextId::TintViolet};
+    constexpr int side = 12;
+    for (int tint = 0; tint <= HeadlineLook::tints; ++tint) {
+        QPixmap sample(side, side);
+        sample.fill(tint == 0 ? Qt::transparent : sampleOfTint(tint));
+        choice.addItem(sample, terminalText(names[std::size_t(tint)]));
+    }
+}
+
+}  // namespace
+
+AlertRuleForm::AlertRuleForm()
+    : name(new QLineEdit),
+      query(new QLineEdit),
+      hasToast(new QCheckBox(terminalText(TextId::AlertToast))),
+      hasSound(new QCheckBox(terminalText(TextId::AlertSound))),
+      onlyConnected(new QCheckBox(terminalText(TextId::AlertOnlyConnected))),
+      pause(new QSpinBox),
+      tint(new QComboBox),
+      tag(new QLineEdit) {
+    name->setObjectName(u"name"_s);
+    query->setObjectName(u"query"_s);
+    name->setMaxLength(longestName);
+    tag->setMaxLength(longestAlertTag);
+    constexpr int queryInCharacters = 44;
+    query->setMinimumWidth(fontMetrics().averageCharWidth() * queryInCharacters);
+    pause->setRange(0, longestAlertPause);
+    pause->setSuffix(terminalText(TextId::AlertSeconds));
+    addTints(*tint);
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    addField(*form, TextId::AlertRuleName, *name);
+    addField(*form, TextId::AlertLooksFor, *query);
+    for (QCheckBox* box : {hasToast, hasSound, onlyConnected}) {
+        form->addRow(QString(), box);
+        connect(box, &QCheckBox::toggled, this, &AlertRuleForm::edited);
+    }
+    addField(*form, TextId::AlertPauseOf, *pause);
+    addField(*form, TextId::AlertTint, *tint);
+    addField(*form, TextId::AlertTag, *tag);
+    for (const QLineEdit* edit : {name, query, tag})
+        connect(edit, &QLineEdit::textEdited, this, &AlertRuleForm::edited);
+    connect(pause, &QSpinBox::valueChanged, this, &AlertRuleForm::edited);
+    connect(tint, &QComboBox::currentIndexChanged, this, &AlertRuleForm::edited);
+}
+
+void AlertRuleForm::addField(QFormLayout& form, TextId text, QWidget& field) {
+    auto* label = new QLabel(terminalText(text));
+    label->setBuddy(&field);
+    constexpr int underlined = 4;  // a letter that is underlined takes more room than it is measured to
+    label->setMinimumWidth(label->sizeHint().width() + underlined);
+    form.addRow(label, &field);
+}
+
+void AlertRuleForm::show(const AlertRule& rule) {
+    const QSignalBlocker nobodyEdits(this);
+    name->setText(rule.name);
+    query->setText(rule.query);
+    query->setCursorPosition(0);
+    hasToast->setChecked(rule.hasToast);
+    hasSound->setChecked(rule.hasSound);
+    onlyConnected->setChecked(rule.onlyConnected);
+    pause->setValue(rule.pauseSeconds);
+    tint->setCurrentIndex(rule.tint);
+    tag->setText(rule.tag);
+}
+
+AlertRule AlertRuleForm::changed(AlertRule rule) const {
+    rule.name = name->text().trimmed();
+    rule.query = query->text().trimmed();
+    rule.hasToast = hasToast->isChecked();
+    rule.hasSound = hasSound->isChecked();
+    rule.onlyConnected = onlyConnected->isChecked();
+    rule.pauseSeconds = pause->value();
+    rule.tint = tint->currentIndex();
+    rule.tag = alertTag(tag->text());
+    return rule;
+}
+
+void AlertRuleForm::editName() {
+    name->setFocus();
+    name->selectAll();
+}
+
+void AlertRuleForm::editQuery() {
+    query->setFocus();
+}
+
+}  // namespace wirepane

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Wirepane authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backend/alerts/alert_rule.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QFormLayout;
+class QLineEdit;
+class QSpinBox;
+
+namespace wirepane {
+enum class TextId;
+
+// What one rule is, to be changed: all but whether it is on.
+class AlertRuleForm : public QWidget {
+    Q_OBJECT
+
+public:
+    AlertRuleForm();
+
+    void show(const AlertRule& rule);
+    // The rule with what stands in the form.
+    AlertRule changed(AlertRule rule) const;
+    void editName();
+    void editQuery();
+
+signals:
+    // The user has changed something.
+    void edited();
+
+private:
+    void addField(QFormLayout& form, TextId text, QWidget& field);
+
+    QLineEdit* name;
+    QLineEdit* query;
+    QCheckBox* hasToast;
+    QCheckBox* hasSound;
+    QCheckBox* onlyConnected;
+    QSpinBox* pause;
+    QComboBox* tint;
+    QLineEdit* tag;
+};
+
+}  // namespace wirepane
