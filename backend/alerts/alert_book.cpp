@@ -24,7 +24,10 @@ AlertBook::AlertBook(Database& database)
              "INSERT OR IGNORE INTO alerts(rule, service, time, sequence, title, words, received, matched, "
              "told, "
              "outcome) VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-      trim(database, "DELETE FROM alerts WHERE number <= (SELECT max(number) FROM alerts) - ?"),
+      // What a rule told last stays: its pause goes on from there.
+      trim(database,
+           "DELETE FROM alerts WHERE number <= (SELECT max(number) FROM alerts) - ? AND number NOT IN "
+           "(SELECT max(number) FROM alerts WHERE outcome = 0 GROUP BY rule)"),
       move(database,
            "INSERT INTO alert_state(one, position, seen) VALUES(1, ?1, 0) "
            "ON CONFLICT(one) DO UPDATE SET position = max(position, ?1)"),

@@ -27,7 +27,7 @@ public:
     std::int64_t seen();
 
     // Inside a transaction; false on failure, which the database then holds. What is there already, of the
-    // same rule and headline, is not added again: `added` are those that were not, with their numbers.
+    // same rule, headline and title, is not added again: `added` are those that were not, with their numbers.
     bool add(const std::vector<AlertEntry>& entries, std::vector<AlertEntry>& added);
     // Never back.
     bool moveTo(std::int64_t position);

@@ -10,6 +10,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <chrono>
 #include <iterator>
 #include <utility>
 
@@ -50,6 +51,8 @@ void AlertDesk::begin() {
     });
     worker->setRules(settings.rules);
     backEnd.attach(this);
+    connect(&eachSecond, &QTimer::timeout, this, &AlertDesk::look);
+    eachSecond.start(std::chrono::seconds(1));
     look();
 }
 

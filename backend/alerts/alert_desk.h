@@ -6,6 +6,7 @@
 #include "host/contract/news_receiver.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <cstdint>
 #include <deque>
@@ -39,8 +40,8 @@ public:
     void see();
     // Up to this position of the log of arrivals the news has been looked at; 0: not yet at all.
     std::int64_t looked() const { return lookedAt; }
-    // Looks at what came, from the event loop. Called for each push, and now and then for the news of other
-    // days.
+    // Looks at what came, from the event loop. By itself it looks at each push, and each second: news of
+    // other days, stories, and what comes while there is no connection are not pushed.
     void look();
 
     void RecvNewHeadLine(const CHeadline* headline, const QString& categoryId,
@@ -64,6 +65,7 @@ private:
     std::int64_t lookedAt = 0;
     std::int64_t written = 0;             // the position that the store has
     bool isAsked = false;                 // to look, and the event loop will
+    QTimer eachSecond;
     CallQueue found;                      // on the interface thread
     std::unique_ptr<AlertWorker> worker;  // last: it posts what it finds; null before the beginning
 };

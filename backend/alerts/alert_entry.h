@@ -4,6 +4,7 @@
 
 #include "host/contract/records.h"
 
+#include <QLatin1StringView>
 #include <QString>
 #include <QStringList>
 
@@ -23,18 +24,28 @@ enum class AlertOutcome {
 };
 inline constexpr int lastAlertOutcome = 6;
 
+// The words that a rule matched, by where they stand.
+struct AlertWords {
+    QStringList title;
+    QStringList story;
+};
+
 // A headline that a rule matched. Moments are seconds since 1970.
 struct AlertEntry {
     std::int64_t number = 0;  // rises from entry to entry of a store
     QString rule;
     HeadlineKey headline;
     QString title;
-    QStringList
-        words;  // which the rule matched, as they stand in the title; none: its symbols, topic or service
+    // Which the rule matched, as they stand in the title, and those of the story behind `storyField`; none:
+    // its symbols, topic or service.
+    QStringList words;
     std::int64_t received = 0;
     std::int64_t matched = 0;
     std::int64_t told = 0;  // 0: not yet, or never
     AlertOutcome outcome = AlertOutcome::Told;
+
+    static constexpr QLatin1StringView storyField{"story:"};
+    AlertWords wordsByPlace() const;
 };
 
 }  // namespace wirepane

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "backend/alerts/alert_matcher.h"
 
+#include "backend/alerts/alert_entry.h"
+
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -41,14 +43,14 @@ std::vector<std::size_t> AlertMatcher::wanting(const CHeadline& headline, const 
 QStringList AlertMatcher::wordsOf(std::size_t rule, const CHeadline& headline, const QString& story) const {
     QStringList words;
     const auto add = [&](const HitWords* hits, const QString& text, HitPlace place, std::size_t most,
-                         const QString& field) {
+                         QLatin1StringView field) {
         if (hits == nullptr || text.isEmpty())
             return;
         for (const SearchHit& hit : hits->hitsIn(text, place, most))
             words += field + text.mid(hit.start, hit.length);
     };
     add(inTitles[rule].get(), headline.title, HitPlace::Title, std::numeric_limits<std::size_t>::max(), {});
-    add(inStories[rule].get(), story, HitPlace::Story, mostOfStory, QString(storyField));
+    add(inStories[rule].get(), story, HitPlace::Story, mostOfStory, AlertEntry::storyField);
     words.removeDuplicates();
     return words;
 }

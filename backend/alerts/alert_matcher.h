@@ -6,7 +6,6 @@
 #include "backend/search/hit_words.h"
 #include "backend/search/title_query_set.h"
 
-#include <QLatin1StringView>
 #include <QStringList>
 
 #include <functional>
@@ -21,9 +20,6 @@ public:
     // The planner is not needed any more then. A rule whose query has a fault matches nothing.
     AlertMatcher(const std::vector<AlertRule>& rules, QueryPlanner& planner,
                  TitleQuerySet::RelatedSymbols related);
-
-    // What stands before the words of a story.
-    static constexpr QLatin1StringView storyField{"story:"};
 
     // Some rules look for texts in stories.
     bool looksAtStories() const { return set->looksAtStories(); }

@@ -295,6 +295,26 @@ ALTER TABLE versions ADD COLUMN shown INTEGER NOT NULL DEFAULT 0;
 ALTER TABLE versions ADD COLUMN opened INTEGER NOT NULL DEFAULT 0;
 )sql";
 
+// What was corrected under its key is matched again, under the title that it has now.
+constexpr const char* alertsOfTitles = R"sql(
+ALTER TABLE alerts RENAME TO alerts_of_keys;
+CREATE TABLE alerts(
+    number INTEGER PRIMARY KEY,
+    rule TEXT NOT NULL,
+    service INTEGER NOT NULL,
+    time INTEGER NOT NULL,
+    sequence INTEGER NOT NULL,
+    title TEXT NOT NULL,
+    words TEXT NOT NULL,
+    received INTEGER NOT NULL,
+    matched INTEGER NOT NULL,
+    told INTEGER NOT NULL,
+    outcome INTEGER NOT NULL,
+    UNIQUE(rule, service, time, sequence, title));
+INSERT INTO alerts SELECT * FROM alerts_of_keys;
+DROP TABLE alerts_of_keys;
+)sql";
+
 constexpr std::array steps{firstVersion,   arrivalsAndPositions,
                            ownSearchWords, quotes,
                            goneKeys,       blocksOfImports,
@@ -303,7 +323,7 @@ constexpr std::array steps{firstVersion,   arrivalsAndPositions,
                            packedStories,  indexRenewal,
                            readingMarks,   heldChanges,
                            prices,         alerts,
-                           readVersions};
+                           readVersions,   alertsOfTitles};
 
 }  // namespace
 

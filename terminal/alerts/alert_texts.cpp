@@ -26,6 +26,20 @@ QString moment(TextId what, std::int64_t time) {
                      : terminalText(what).arg(QDateTime::fromSecsSinceEpoch(time).toString(u"HH:mm:ss"_s));
 }
 
+QString matchText(const AlertEntry& entry) {
+    const AlertWords words = entry.wordsByPlace();
+    const QString between = terminalText(TextId::AlertBetweenWords);
+    const QString inTitle = words.title.join(between);
+    const QString inStory = words.story.join(between);
+    if (inTitle.isEmpty() && inStory.isEmpty())
+        return terminalText(TextId::AlertMatchedOther).arg(entry.rule);
+    if (inStory.isEmpty())
+        return terminalText(TextId::AlertMatched).arg(entry.rule, inTitle);
+    if (inTitle.isEmpty())
+        return terminalText(TextId::AlertMatchedStory).arg(entry.rule, inStory);
+    return terminalText(TextId::AlertMatchedBoth).arg(entry.rule, inTitle, inStory);
+}
+
 }  // namespace
 
 QString outcomeText(const AlertEntry& entry) {
@@ -33,14 +47,11 @@ QString outcomeText(const AlertEntry& entry) {
 }
 
 QString reasonText(const AlertEntry& entry) {
-    const QString words = entry.words.join(terminalText(TextId::AlertBetweenWords));
-    const QString rule = words.isEmpty() ? terminalText(TextId::AlertMatchedOther).arg(entry.rule)
-                                         : terminalText(TextId::AlertMatched).arg(entry.rule, words);
     QStringList moments{
         moment(TextId::AlertPublished, entry.headline.time), moment(TextId::AlertReceived, entry.received),
         moment(TextId::AlertMatchedAt, entry.matched), moment(TextId::AlertToldAt, entry.told)};
     moments.removeAll(QString());
-    QStringList lines{rule, moments.join(u" · "_s)};
+    QStringList lines{matchText(entry), moments.join(u" · "_s)};
     if (entry.outcome != AlertOutcome::Told)
         lines += terminalText(TextId::AlertNotTold).arg(outcomeText(entry));
     return lines.join(u'\n');

@@ -110,20 +110,12 @@ QString whyNot(AlertOutcome outcome) {
 }
 
 // In which field the words stand that a rule matched.
-QString placesOf(const QStringList& words) {
-    QStringList inTitle;
-    QStringList inStory;
-    for (const QString& word : words) {
-        if (word.startsWith(AlertMatcher::storyField))
-            inStory << word.mid(AlertMatcher::storyField.size());
-        else
-            inTitle << word;
-    }
+QString placesOf(const AlertWords& words) {
     QStringList places;
-    if (!inTitle.isEmpty())
-        places << u"\"%1\" in the title"_s.arg(inTitle.join(u"\", \""_s));
-    if (!inStory.isEmpty())
-        places << u"\"%1\" in the story"_s.arg(inStory.join(u"\", \""_s));
+    if (!words.title.isEmpty())
+        places << u"\"%1\" in the title"_s.arg(words.title.join(u"\", \""_s));
+    if (!words.story.isEmpty())
+        places << u"\"%1\" in the story"_s.arg(words.story.join(u"\", \""_s));
     return places.isEmpty() ? u"its symbols, topic or service"_s : places.join(u", "_s);
 }
 
@@ -145,6 +137,8 @@ void explainAlerts(Session& session, const CHeadline& headline) {
         matcher.looksAtStories() ? reader.story(keyOf(headline)).value_or(QString()) : QString();
     matcher.match(headline, story, [&](std::size_t rule, const QStringList& words) {
         matched[rule] = true;
+        AlertEntry found;
+        found.words = words;
         const auto entry = std::ranges::find_if(entries, [&](const AlertEntry& each) {
             return each.rule == rules[rule].name && each.headline == keyOf(headline);
         });
@@ -153,7 +147,8 @@ void explainAlerts(Session& session, const CHeadline& headline) {
             became = entry->outcome == AlertOutcome::Told
                          ? u"told at %1"_s.arg(momentText(entry->told))
                          : u"not told at %1: %2"_s.arg(momentText(entry->matched), whyNot(entry->outcome));
-        printLine(u"alert %1: matches %2, %3"_s.arg(rules[rule].name, placesOf(words), became));
+        printLine(
+            u"alert %1: matches %2, %3"_s.arg(rules[rule].name, placesOf(found.wordsByPlace()), became));
     });
     for (std::size_t i = 0; i < rules.size(); ++i) {
         if (!matched[i])

@@ -261,6 +261,8 @@ enum class TextId {
     AlertBetweenWords,
     AlertMatched,
     AlertMatchedOther,
+    AlertMatchedBoth,
+    AlertMatchedStory,
     AlertPublished,
     AlertReceived,
     AlertMatchedAt,

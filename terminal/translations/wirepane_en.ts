@@ -2515,9 +2515,17 @@
         <source></source>
         <translation>matched %1</translation>
     </message>
+    <message id="TERMINAL_ALERT_MATCHED_BOTH">
+        <source></source>
+        <translation>The rule “%1” matched “%2” in the title and “%3” in the story.</translation>
+    </message>
     <message id="TERMINAL_ALERT_MATCHED_OTHER">
         <source></source>
         <translation>The rule “%1” matched the symbols, the topic or the service.</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED_STORY">
+        <source></source>
+        <translation>The rule “%1” matched “%2” in the story.</translation>
     </message>
     <message id="TERMINAL_ALERT_MORE">
         <source></source>

@@ -2515,9 +2515,17 @@
         <source></source>
         <translation>比对 %1</translation>
     </message>
+    <message id="TERMINAL_ALERT_MATCHED_BOTH">
+        <source></source>
+        <translation>规则「%1」比对到标题中的「%2」和正文中的「%3」。</translation>
+    </message>
     <message id="TERMINAL_ALERT_MATCHED_OTHER">
         <source></source>
         <translation>规则「%1」比对到商品、类别或新闻服务。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED_STORY">
+        <source></source>
+        <translation>规则「%1」比对到正文中的「%2」。</translation>
     </message>
     <message id="TERMINAL_ALERT_MORE">
         <source></source>

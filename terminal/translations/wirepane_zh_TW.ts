@@ -2515,9 +2515,17 @@
         <source></source>
         <translation>比對 %1</translation>
     </message>
+    <message id="TERMINAL_ALERT_MATCHED_BOTH">
+        <source></source>
+        <translation>規則「%1」比對到標題中的「%2」與內文中的「%3」。</translation>
+    </message>
     <message id="TERMINAL_ALERT_MATCHED_OTHER">
         <source></source>
         <translation>規則「%1」比對到商品、類別或新聞服務。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_MATCHED_STORY">
+        <source></source>
+        <translation>規則「%1」比對到內文中的「%2」。</translation>
     </message>
     <message id="TERMINAL_ALERT_MORE">
         <source></source>

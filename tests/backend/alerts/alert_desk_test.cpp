@@ -175,6 +175,46 @@ TEST_F(AlertDeskTest, TellsNothingTwiceAndLosesNothingOverRestarts) {
     }
 }
 
+TEST_F(AlertDeskTest, TellsWhatIsCorrectedUnderItsKeyAndLooksByItself) {
+    Terminal terminal(store->path(), settings);
+    const auto send = [&](const QString& title) {
+        NewsItem one = newsItem(1, u"one"_s, at(9, 0), title);
+        one.sequence = 7;
+        one.version = ++items;
+        takeNews(one);  // as another program does: nothing is pushed
+    };
+    const auto titles = [&] { return terminal.titles().filter(u"gold:"_s); };
+    send(u"Gold at 5"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return titles().size() == 1; }, 10'000));
+    send(u"Gold at 6"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return titles().size() == 2; }, 10'000));
+    send(u"Gold at 6"_s);
+    terminal.wait();
+    EXPECT_EQ(titles(), (QStringList{u"gold: Gold at 5"_s, u"gold: Gold at 6"_s}));
+}
+
+TEST_F(AlertDeskTest, APauseGoesOnOverARestartHoweverMuchHasComeSince) {
+    settings.rules.front().pauseSeconds = 86'400;
+    settings.rules.back() = ruleOf(u"any"_s, u"tick"_s);
+    const auto take = [&](Terminal& terminal, int count) {
+        std::vector<NewsItem> many;
+        for (int i = 0; i < count; ++i)
+            many.push_back(item(u"Tick %1"_s.arg(items)));
+        terminal.take(many);
+    };
+    {
+        Terminal terminal(store->path(), settings);
+        terminal.take({item(u"Gold"_s)});
+        take(terminal, 600);
+        EXPECT_EQ(terminal.told.size(), 601U);
+    }
+    Terminal terminal(store->path(), settings);
+    EXPECT_EQ(terminal.desk.entries().size(), 500U);
+    terminal.take({item(u"Gold again"_s)});
+    EXPECT_EQ(terminal.told.size(), 0U);
+    EXPECT_EQ(terminal.desk.entries().back().outcome, AlertOutcome::Pause);
+}
+
 // What each rule matches is counted by hand: words in upper case between blanks.
 TEST_F(AlertDeskTest, AMorningAgreesWithACountByHand) {
     constexpr int headlines = 3000;
