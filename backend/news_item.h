@@ -49,6 +49,11 @@ struct NewsItem {
     std::optional<std::int32_t>
         categoryId;                // given by a feed that knows the store's ids; goes before `category`
     PackedStory packedStory = {};  // where it has been made ahead
+
+    // Where several stores are to hold it alike: when it was taken in, and the day that its number belongs
+    // to. With a day, number and category are taken as they are.
+    std::optional<std::int64_t> received = {};
+    std::optional<std::int32_t> day = {};
 };
 
 // One entry of the symbol table.

@@ -8,6 +8,9 @@ set(WIREPANE_CMAKE lib/cmake/Wirepane)
 # Nothing else is built for what is installed: whoever builds this much can install.
 add_custom_target(wirepane_installed
     DEPENDS wirepane wirepane_sample_wire_program wirepane_news wirepane_contract wirepane_host wirepane_conformance)
+if(TARGET wirepane_wire_postgres)
+    add_dependencies(wirepane_installed wirepane_wire_postgres)
+endif()
 
 # For whoever uses the terminal.
 install(TARGETS wirepane wirepane_sample_wire_program RUNTIME DESTINATION bin COMPONENT terminal)

@@ -8,12 +8,14 @@
 #include "terminal/commands/feed_command.h"
 #include "terminal/commands/import_command.h"
 #include "terminal/commands/open_command.h"
+#include "terminal/commands/publish_command.h"
 #include "terminal/commands/rehearse_command.h"
 #include "terminal/commands/replay_command.h"
 #include "terminal/commands/sample_command.h"
 #include "terminal/commands/search_command.h"
 #include "terminal/commands/source_command.h"
 #include "terminal/commands/trim_command.h"
+#include "terminal/commands/wire_command.h"
 #include "terminal/console/console.h"
 
 #include <QApplication>
@@ -35,9 +37,11 @@ struct Command {
 };
 
 constexpr Command commands[] = {
-    {"import", &runImport}, {"feed", &runFeed},     {"replay", &runReplay},     {"sample", &runSample},
-    {"check", &runCheck},   {"backup", &runBackup}, {"search", &runSearch},     {"export", &runExport, true},
-    {"trim", &runTrim},     {"source", &runSource}, {"rehearse", &runRehearse},
+    {"import", &runImport},   {"feed", &runFeed},           {"replay", &runReplay},
+    {"sample", &runSample},   {"check", &runCheck},         {"backup", &runBackup},
+    {"search", &runSearch},   {"export", &runExport, true}, {"trim", &runTrim},
+    {"source", &runSource},   {"rehearse", &runRehearse},   {"wire", &runWire},
+    {"publish", &runPublish},
 };
 
 QtMessageHandler usualMessages = nullptr;

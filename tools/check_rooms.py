@@ -17,8 +17,9 @@ MAY_USE = {
     "search": MIDDLE,
     "news_view": MIDDLE | {"story", "output", "search"},
     "backend": {"host"},
+    "wire": {"backend", "host"},
     "sample_wire": {"backend", "host"},
-    "terminal": {"host", "backend", "sample_wire"},
+    "terminal": {"host", "backend", "wire", "sample_wire"},
     "examples": {"host"},
 }
 # Floors within a room, from the ground up: a folder may use itself and those that it names, which stand above it in the
@@ -36,6 +37,10 @@ FLOORS = {
         "import": {ROOM},
         "feed": {ROOM, "lines", "database", "store", "import"},
         "network": {ROOM, "lines", "words", "database", "store", "import", "feed"},
+    },
+    "wire": {
+        ROOM: set(),
+        "postgres": {ROOM},
     },
     "terminal": {
         "console": set(),
@@ -73,7 +78,7 @@ MOST_REACHED_BY_HALF = 21
 # Any source of the product: what is longer has more than one job.
 MOST_LINES_OF_A_SOURCE = 470
 # A back end needs no widgets: of the host it knows the contract alone.
-WITHOUT_WIDGETS = {"backend", "host/contract", "sample_wire"}
+WITHOUT_WIDGETS = {"backend", "wire", "host/contract", "sample_wire"}
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([^">]+)[">]', re.MULTILINE)
 WIDGETS = re.compile(r"^(QWidget|QApplication|QMessageBox|QtWidgets/.*|host/(controls|views)/.*)$")
 

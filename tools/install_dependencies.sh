@@ -8,6 +8,7 @@ packages=(
     qt6-base-dev qt6-websockets-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
     qtkeychain-qt6-dev libgl-dev
     libsqlite3-dev libopencc-dev libopencc-data zlib1g-dev libzstd-dev libdtl-dev
+    libpq-dev postgresql
     libgtest-dev libbenchmark-dev nginx-light openssl
     fonts-dejavu-core fonts-liberation fonts-noto-cjk fonts-noto-mono tzdata
 )

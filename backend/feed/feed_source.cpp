@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/feed/feed_source.h"
 
+#include "backend/feed/feed_errors.h"
 #include "host/contract/clock.h"
 
 #include <utility>
@@ -92,6 +93,13 @@ Result<BatchOutcome> takeBatch(FeedBatch& batch, const QString& source, FeedSink
         sink.rollback();
         BatchOutcome refused;
         refused.fault = read.error();
+        return refused;
+    }
+    if (batch.isWhole() && !taking.outcome.rejections.empty()) {
+        sink.rollback();
+        BatchOutcome refused;
+        const Rejection& first = taking.outcome.rejections.front();
+        refused.fault = makeError<feed_errors::rejectedAt>(*first.place, first.reason);
         return refused;
     }
     const QString position = batch.position();

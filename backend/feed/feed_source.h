@@ -70,6 +70,8 @@ public:
     // Whether other sources may bring the same news under other identities: it is known again by its link
     // then.
     virtual bool isShared() const { return false; }
+    // Whether one item that cannot be taken is a reason to take nothing of it.
+    virtual bool isWhole() const { return false; }
 };
 
 // A source of news: it hands items over in batches that are taken whole or not at all, each with the position

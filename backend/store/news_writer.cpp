@@ -91,7 +91,7 @@ bool NewsWriter::isFree(const NewsItem& item, std::int32_t day, std::int32_t seq
 
 bool NewsWriter::insert(const NewsItem& item, const NewsPlace& place) {
     if (!Query(insertHeadline, item.service, item.time, place.sequence, place.day, place.category,
-               item.version, host_clock::now(), item.identity, item.title)
+               item.version, item.received.value_or(host_clock::now()), item.identity, item.title)
              .run())
         return false;
     written = database.lastInsertId();
@@ -112,7 +112,7 @@ bool NewsWriter::replace(std::int64_t id, const NewsItem& item, const NewsPlace&
         return false;
     {
         Query query(updateHeadline, id, item.time, place.sequence, place.day, place.category, item.version,
-                    host_clock::now(), item.title);
+                    item.received.value_or(host_clock::now()), item.title);
         if (!query.next())
             return false;
         written = query.number(0);

@@ -44,6 +44,14 @@ inline constexpr ErrorCode beyondRetention{"ERROR_STORE_BEYOND_RETENTION",
                                            u"It is older than the news that this store keeps: since %1."};
 inline constexpr ErrorCode changeUnreadable{
     "ERROR_STORE_CHANGE_UNREADABLE", u"What an import had kept of it in the store (row %1) is damaged."};
+inline constexpr ErrorCode ofWireAlone{
+    "ERROR_STORE_OF_WIRE_ALONE",
+    u"This store follows a wire and takes news from there alone; publish it on the wire."};
+inline constexpr ErrorCode newsOfItsOwn{
+    "ERROR_STORE_NEWS_OF_ITS_OWN",
+    u"This store has news of its own; a wire needs a store that has none, or follows it already."};
+inline constexpr ErrorCode copyDiffers{"ERROR_STORE_COPY_DIFFERS",
+                                       u"The store holds the news %1 otherwise than the wire does."};
 inline constexpr ErrorCode newsGone{"ERROR_STORE_NEWS_GONE", u"The news is no longer in the store."};
 inline constexpr ErrorCode noNumberLeft{"ERROR_STORE_NO_NUMBER_LEFT",
                                         u"No sequence number is left on its day."};

@@ -56,6 +56,7 @@ StoreWriter::StoreWriter(Database& owner)
       categories(owner),
       arrivals(owner),
       positions(owner),
+      copying(owner),
       origins(owner),
       trimmer(owner, news, arrivals),
       quotes(owner),
@@ -96,7 +97,7 @@ Done StoreWriter::beginAs(bool isHidden) {
     begun = true;
     isHiding = isHidden;
     categories.holdLinks(isHidden);
-    if (!blocks.load() || !news.begin() || (isHidden && !blocks.hideNew()))
+    if (!copying.load() || !blocks.load() || !news.begin() || (isHidden && !blocks.hideNew()))
         return fail();
     return Nothing{};
 }
@@ -164,6 +165,8 @@ Result<StoredNews> StoreWriter::takeNews(const NewsItem& given) {
     const NewsItem item = cleaned(given);
     if (const auto fault = faultOf(item))
         return rejected(*fault);
+    if (const auto fault = copying.faultOf(item))
+        return rejected(*fault);
     bool failed = false;
     std::optional<KnownNews> known = news.find(item.service, item.identity, failed);
     if (failed)
@@ -176,7 +179,7 @@ Result<StoredNews> StoreWriter::takeNews(const NewsItem& given) {
     if (!known && item.title.isEmpty())
         return rejected(makeError<store_errors::withdrawsUnknown>());
     if (!known)
-        return horizon && item.time < *horizon ? rejected(tooOld(*horizon)) : add(item);
+        return horizon && item.time < *horizon && !item.day ? rejected(tooOld(*horizon)) : add(item);
     const bool isNewer = item.withdrawn ? isWithdrawing(item, *known) : isLater(item, *known);
     const bool bringsStory = !isNewer && item.version == known->version &&
                              !item.story.value_or(QString()).isEmpty() && !known->hasStory;
@@ -204,7 +207,7 @@ bool StoreWriter::setAside(std::int64_t id) {
 }
 
 Result<StoredNews> StoreWriter::add(const NewsItem& item) {
-    NewsPlace place{.day = dayNumber(days.dateOf(item.time))};
+    NewsPlace place{.day = dayOf(item)};
     const Result<std::optional<std::int32_t>> number = numberFor(item, place.day, nullptr);
     if (!number)
         return number.error();
@@ -221,7 +224,7 @@ Result<StoredNews> StoreWriter::add(const NewsItem& item) {
 }
 
 Result<StoredNews> StoreWriter::replace(const NewsItem& item, const KnownNews& known) {
-    NewsPlace place{.day = dayNumber(days.dateOf(item.time))};
+    NewsPlace place{.day = dayOf(item)};
     const Result<std::optional<std::int32_t>> number = numberFor(item, place.day, &known);
     if (!number)
         return number.error();
@@ -343,7 +346,7 @@ Result<QString> StoreWriter::positionOf(const QString& source) {
 Result<std::optional<std::int32_t>> StoreWriter::numberFor(const NewsItem& item, std::int32_t day,
                                                            const KnownNews* known) {
     const std::int64_t own = known != nullptr ? known->id : 0;
-    const bool keeps = known != nullptr && known->day == day;
+    const bool keeps = known != nullptr && known->day == day && !item.day;
     std::optional<std::int32_t> number = keeps ? known->sequence : item.sequence;
     bool failed = false;
     if (number) {
@@ -360,6 +363,10 @@ Result<std::optional<std::int32_t>> StoreWriter::numberFor(const NewsItem& item,
     if (failed)
         return fail();
     return number;
+}
+
+std::int32_t StoreWriter::dayOf(const NewsItem& item) {
+    return item.day ? *item.day : dayNumber(days.dateOf(item.time));
 }
 
 bool StoreWriter::ensureService(unsigned char service) {

@@ -5,6 +5,7 @@
 #include "backend/item_sink.h"
 #include "backend/store/arrival_log.h"
 #include "backend/store/category_book.h"
+#include "backend/store/copy_rule.h"
 #include "backend/store/day_numbers.h"
 #include "backend/store/feed_positions.h"
 #include "backend/store/item_origins.h"
@@ -43,6 +44,8 @@ struct StoredNews {
 //
 // Texts are cleaned (item_check.h) and checked against limits.h; what does not pass is rejected with a
 // reason. A symbol has one quote, the one that came last.
+//
+// A store that follows a wire takes news from there alone (copy_rule.h).
 //
 // An error takes everything back since begin(). Thread: that of the database, which must outlive the writer.
 class StoreWriter : public FeedSink {
@@ -99,6 +102,7 @@ private:
     // The sequence number for an item on a day; nothing when its own is taken or none is left.
     Result<std::optional<std::int32_t>> numberFor(const NewsItem& item, std::int32_t day,
                                                   const KnownNews* known);
+    std::int32_t dayOf(const NewsItem& item);
     bool ensureService(unsigned char service);
     bool findCategory(const NewsItem& item, std::int32_t& id);
     // Takes everything back and says why.
@@ -111,6 +115,7 @@ private:
     CategoryBook categories;
     ArrivalLog arrivals;
     FeedPositions positions;
+    CopyRule copying;
     ItemOrigins origins;
     NewsTrimmer trimmer;
     QuoteBook quotes;

@@ -38,6 +38,7 @@ struct OpenOptions {
     std::optional<UserStores> stores;     // none: a store was named
     std::optional<StoreKind> storeKind;   // of them
     std::optional<QString> explainedKey;  // of a headline: nothing is opened, it is explained
+    QString wire;                         // empty: none is followed
     bool automation = false;              // on standard input and output
     bool sample = false;
     bool noSample = false;
@@ -75,6 +76,8 @@ void addOptions(QCommandLineParser& parser) {
         {u"automation"_s, u"Is driven by JSON-RPC on standard input and output."_s},
         {u"automation-socket"_s, u"Is driven by JSON-RPC on a local socket."_s, u"name"_s},
         {u"source"_s, u"Takes news from a live source: %1."_s.arg(kindsOfSources()), u"kind:value"_s},
+        {u"wire"_s, u"Follows a wire: a name in the service file of its server's connections."_s,
+         u"service"_s},
         {u"spool"_s, u"Takes news from the files that are put into the folder."_s, u"folder"_s},
         {u"feed"_s, u"The name under which feeds and replays find this terminal."_s, u"name"_s},
         {u"explain"_s,
@@ -121,10 +124,13 @@ OpenOptions openOptions(CommandArguments& arguments) {
     options.sample = parser.isSet(u"sample"_s);
     options.noSample = parser.isSet(u"no-sample"_s);
     options.sources = sourcesFrom(arguments);
+    options.wire = parser.value(u"wire"_s);
     // Who names a source of news has no need of an invented one.
-    options.followsSample =
-        options.sources.empty() && !options.noSample && !options.isScripted() && !options.tour;
-    if (!parser.isSet(u"store"_s) && !options.isScripted() && !options.tour && !isExplaining) {
+    options.followsSample = options.wire.isEmpty() && options.sources.empty() && !options.noSample &&
+                            !options.isScripted() && !options.tour;
+    if (!options.wire.isEmpty() && !parser.isSet(u"store"_s))
+        options.storeFile = storeOfWire(options.wire, WireStore::Terminal);
+    else if (!parser.isSet(u"store"_s) && !options.isScripted() && !options.tour && !isExplaining) {
         options.stores = userStores();
         if (options.sample)
             options.storeKind = StoreKind::Sample;
@@ -133,10 +139,12 @@ OpenOptions openOptions(CommandArguments& arguments) {
     }
     if (isExplaining)
         options.storeFile = arguments.storeToRead();
-    if (!parser.isSet(u"feed"_s) && !options.isScripted() && !options.tour)
+    if (options.wire.isEmpty() && !parser.isSet(u"feed"_s) && !options.isScripted() && !options.tour)
         options.sources.push_back({u"feed"_s, defaultFeedName});
     if (isExplaining && (options.isScripted() || options.tour))
         arguments.fail(u"--explain opens no window, and goes with neither automation nor --tour."_s);
+    if (!options.wire.isEmpty() && !options.sources.empty())
+        arguments.fail(u"--wire takes news from the wire alone, and goes with no other source."_s);
     if (!options.language.isEmpty() && !Languages::codes().contains(options.language))
         arguments.fail(u"--lang takes one of %1."_s.arg(Languages::codes().join(u", "_s)));
     if (!arguments.rest().isEmpty())
@@ -208,11 +216,13 @@ int runForScripts(Session& session, const OpenOptions& options, StandardChannel*
 
 // `onward`: where the user came from another of his stores; afterwards, where he goes on.
 int runOpened(const OpenOptions& options, StandardChannel* channel, std::optional<OnwardStore>& onward) {
-    const bool sample = options.sample || (!options.isScripted() && !options.noSample && !options.stores);
+    const bool sample = options.wire.isEmpty() &&
+                        (options.sample || (!options.isScripted() && !options.noSample && !options.stores));
     const auto session =
         Session::open({options.storeFile, options.configFolder, options.language, sample, options.sources,
                        !options.isScripted(), options.followsSample, options.stores,
-                       onward ? std::optional(onward->kind) : options.storeKind, !options.isScripted()});
+                       onward ? std::optional(onward->kind) : options.storeKind,
+                       options.wire.isEmpty() && !options.isScripted(), options.wire});
     const OnwardStore arrived = onward.value_or(OnwardStore());
     onward.reset();
     if (!session) {

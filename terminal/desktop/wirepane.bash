@@ -1,7 +1,7 @@
 # Completion of wirepane's commands and options for bash. The program's own --help is what is offered.
 _wirepane() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command='' word
-    local commands='import feed replay sample search rehearse export check backup trim source'
+    local commands='import feed replay sample search rehearse export check backup trim source publish wire'
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
         [[ " $commands " == *" $word "* ]] && command=$word && break
     done
@@ -18,7 +18,7 @@ _wirepane() {
         COMPREPLY=($(compgen -W "$options" -- "$current"))
     elif [[ -z $command ]]; then
         COMPREPLY=($(compgen -W "$commands" -- "$current"))
-    elif [[ $command == import || $command == export || $command == backup ]]; then
+    elif [[ $command == import || $command == export || $command == backup || $command == publish ]]; then
         COMPREPLY=($(compgen -f -- "$current"))
     fi
 }

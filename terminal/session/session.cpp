@@ -23,6 +23,8 @@
 #include "terminal/translations/shown_text.h"
 #include "terminal/translations/stored_names.h"
 #include "terminal/translations/terminal_text.h"
+#include "wire/wire_driver.h"
+#include "wire/wire_source.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -223,6 +225,8 @@ void Session::tellDatedAhead(unsigned char service, std::int64_t time) {
 Done Session::startFeed(const SessionOptions& options) {
     sourceServices = std::make_unique<SourceServices>(storeFile);
     liveFeed = std::make_unique<LiveFeed>(*store);
+    if (const Done opened = followWire(options.wire); !opened)
+        return opened;
     for (const SourceRequest& request : options.sources) {
         const SourceKind* kind = sourceKind(request.kind);
         if (kind == nullptr)
@@ -271,6 +275,17 @@ void Session::goToStore(OnwardStore next) {
     wantedStore = std::move(next);
     // Whoever asks may be called from a window that goes.
     QMetaObject::invokeMethod(mainFrame.get(), &QWidget::close, Qt::QueuedConnection);
+}
+
+Done Session::followWire(const QString& wire) {
+    if (wire.isEmpty())
+        return Nothing{};
+    const Result<WireDriver*> driver = wireDriverFor(wire);
+    if (!driver)
+        return driver.error();
+    liveFeed->addSource(std::make_shared<WireSource>(
+        wire, [&](WireTail::Listener listener) { return driver.value()->tail(wire, std::move(listener)); }));
+    return Nothing{};
 }
 
 void Session::followSample() {

@@ -61,6 +61,8 @@ struct SessionOptions {
     std::optional<StoreKind> storeKind = std::nullopt;  // of them; nothing: the one to begin with
     // The sources of the store's list are asked, unless it is the sample's.
     bool readsSources = false;
+    // The wire that the store follows, by the name of its connection; empty: none.
+    QString wire = {};
     // Somebody is there to be told what his alert rules match.
     bool watchesAlerts = true;
 };
@@ -144,6 +146,7 @@ private:
     Done openStore(const SessionOptions& options, const QString& language);
     void connectParts();
     Done startFeed(const SessionOptions& options);
+    Done followWire(const QString& wire);
     void followSample();
     // Who feeds this terminal under the common name feeds the user's own store.
     void awaitFeeds(const QString& name);

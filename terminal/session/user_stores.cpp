@@ -59,6 +59,12 @@ UserStores userStores() {
     return {folder.filePath(u"news.wirepane"_s), folder.filePath(u"sample.wirepane"_s)};
 }
 
+QString storeOfWire(const QString& wire, WireStore use) {
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return folder.filePath(
+        (use == WireStore::Ingest ? u"ingest-%1.wirepane"_s : u"wire-%1.wirepane"_s).arg(wire));
+}
+
 StoreKind startingStore(const UserStores& stores, const std::optional<StoreKind>& chosen) {
     const bool hasSample = QFileInfo::exists(stores.sample);
     if (chosen && (hasSample || *chosen == StoreKind::Own))

@@ -20,6 +20,10 @@ struct UserStores {
 // Both in the folder of the user's data.
 UserStores userStores();
 
+// The store that follows a wire, for a terminal or for an ingest point; each has its own.
+enum class WireStore { Terminal, Ingest };
+QString storeOfWire(const QString& wire, WireStore use);
+
 // The store to begin with: the one that was chosen last, else his own when it has news, else the sample's.
 // An own store that holds the sample wire and nothing else becomes the sample's, unless that has one already
 // or another program has the store open.

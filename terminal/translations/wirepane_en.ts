@@ -3620,5 +3620,77 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>A view could not be restored: %1</translation>
     </message>
+    <message id="ERROR_STORE_OF_WIRE_ALONE">
+        <source></source>
+        <translation>This store follows a wire and takes news from there alone; publish it on the wire.</translation>
+    </message>
+    <message id="ERROR_STORE_NEWS_OF_ITS_OWN">
+        <source></source>
+        <translation>This store has news of its own; a wire needs a store that has none, or follows it already.</translation>
+    </message>
+    <message id="ERROR_STORE_COPY_DIFFERS">
+        <source></source>
+        <translation>The store holds the news %1 otherwise than the wire does.</translation>
+    </message>
+    <message id="ERROR_WIRE_HOLE">
+        <source></source>
+        <translation>The wire has a hole before row %1: service %2 stands at %3 there and at %4 here. Nothing was taken.</translation>
+    </message>
+    <message id="ERROR_WIRE_OTHER_EPOCH">
+        <source></source>
+        <translation>The wire was set back: it is of the epoch %1 now, and this store follows %2. Nothing was taken.</translation>
+    </message>
+    <message id="ERROR_WIRE_WENT_BACK">
+        <source></source>
+        <translation>The wire was set back: it ends at row %1, and this store has followed it to row %2. Nothing was taken.</translation>
+    </message>
+    <message id="ERROR_WIRE_UNKNOWN_FORMAT">
+        <source></source>
+        <translation>The wire is written in form %1, which this version of the program does not know.</translation>
+    </message>
+    <message id="ERROR_WIRE_UNKNOWN_KIND">
+        <source></source>
+        <translation>It is of the kind &quot;%1&quot;, which this version of the program does not know.</translation>
+    </message>
+    <message id="ERROR_WIRE_ROW_DAMAGED">
+        <source></source>
+        <translation>It is damaged: nothing can be read from it.</translation>
+    </message>
+    <message id="ERROR_WIRE_ROW">
+        <source></source>
+        <translation>row %1 of the wire</translation>
+    </message>
+    <message id="ERROR_WIRE_POSITION_UNREADABLE">
+        <source></source>
+        <translation>How far this store has followed the wire is not to be read: &quot;%1&quot;.</translation>
+    </message>
+    <message id="ERROR_WIRE_NO_BEAT">
+        <source></source>
+        <translation>No ingest point of the wire has given a sign of life for %1 seconds.</translation>
+    </message>
+    <message id="ERROR_WIRE_SERVER">
+        <source></source>
+        <translation>The wire's server says: %1</translation>
+    </message>
+    <message id="ERROR_WIRE_NOT_MADE">
+        <source></source>
+        <translation>There is no wire in this database; &quot;wirepane wire init&quot; makes one.</translation>
+    </message>
+    <message id="ERROR_WIRE_MADE_ALREADY">
+        <source></source>
+        <translation>There is a wire in this database already.</translation>
+    </message>
+    <message id="ERROR_WIRE_DRIVER_MISSING">
+        <source></source>
+        <translation>What speaks with a wire's server is not installed: %1</translation>
+    </message>
+    <message id="ERROR_WIRE_SERVICE_NAME">
+        <source></source>
+        <translation>&quot;%1&quot; is no name of a wire: letters, digits, &quot;.&quot;, &quot;_&quot; and &quot;-&quot; are taken.</translation>
+    </message>
+    <message id="ERROR_WIRE_NO_QUOTES">
+        <source></source>
+        <translation>Quotes do not travel by a wire.</translation>
+    </message>
 </context>
 </TS>

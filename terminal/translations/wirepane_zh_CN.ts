@@ -3620,5 +3620,77 @@
         <source></source>
         <translation>有窗口无法恢复：%1</translation>
     </message>
+    <message id="ERROR_STORE_OF_WIRE_ALONE">
+        <source></source>
+        <translation>本库跟随专线，只收专线来的新闻；请在专线上发布。</translation>
+    </message>
+    <message id="ERROR_STORE_NEWS_OF_ITS_OWN">
+        <source></source>
+        <translation>本库已有自己的新闻；专线需要一个没有新闻的库，或已在跟随它的库。</translation>
+    </message>
+    <message id="ERROR_STORE_COPY_DIFFERS">
+        <source></source>
+        <translation>库里的新闻 %1 与专线上的不同。</translation>
+    </message>
+    <message id="ERROR_WIRE_HOLE">
+        <source></source>
+        <translation>专线在第 %1 行之前有缺口：服务 %2 那边到第 %3 行，这边到第 %4 行。没有收下任何内容。</translation>
+    </message>
+    <message id="ERROR_WIRE_OTHER_EPOCH">
+        <source></source>
+        <translation>专线已重设：现在是纪元 %1，而本库跟随 %2。没有收下任何内容。</translation>
+    </message>
+    <message id="ERROR_WIRE_WENT_BACK">
+        <source></source>
+        <translation>专线倒退了：它止于第 %1 行，而本库已跟到第 %2 行。没有收下任何内容。</translation>
+    </message>
+    <message id="ERROR_WIRE_UNKNOWN_FORMAT">
+        <source></source>
+        <translation>专线以形式 %1 写成，本版程序不认得。</translation>
+    </message>
+    <message id="ERROR_WIRE_UNKNOWN_KIND">
+        <source></source>
+        <translation>它属于“%1”类，本版程序不认得。</translation>
+    </message>
+    <message id="ERROR_WIRE_ROW_DAMAGED">
+        <source></source>
+        <translation>它已损坏，无法读取。</translation>
+    </message>
+    <message id="ERROR_WIRE_ROW">
+        <source></source>
+        <translation>专线第 %1 行</translation>
+    </message>
+    <message id="ERROR_WIRE_POSITION_UNREADABLE">
+        <source></source>
+        <translation>无法读取本库跟随专线到何处：“%1”。</translation>
+    </message>
+    <message id="ERROR_WIRE_NO_BEAT">
+        <source></source>
+        <translation>专线的收稿点已有 %1 秒没有动静。</translation>
+    </message>
+    <message id="ERROR_WIRE_SERVER">
+        <source></source>
+        <translation>专线服务器回复：%1</translation>
+    </message>
+    <message id="ERROR_WIRE_NOT_MADE">
+        <source></source>
+        <translation>此数据库里还没有专线，请先在命令行建立。</translation>
+    </message>
+    <message id="ERROR_WIRE_MADE_ALREADY">
+        <source></source>
+        <translation>此数据库里已有专线。</translation>
+    </message>
+    <message id="ERROR_WIRE_DRIVER_MISSING">
+        <source></source>
+        <translation>没有安装与专线服务器连接的部分：%1</translation>
+    </message>
+    <message id="ERROR_WIRE_SERVICE_NAME">
+        <source></source>
+        <translation>“%1”不是专线的名称：可用字母、数字、“.”、“_”和“-”。</translation>
+    </message>
+    <message id="ERROR_WIRE_NO_QUOTES">
+        <source></source>
+        <translation>专线不传送报价。</translation>
+    </message>
 </context>
 </TS>

@@ -3620,5 +3620,77 @@
         <source></source>
         <translation>有視窗無法還原：%1</translation>
     </message>
+    <message id="ERROR_STORE_OF_WIRE_ALONE">
+        <source></source>
+        <translation>本庫跟隨專線，只收專線來的新聞；請在專線上發佈。</translation>
+    </message>
+    <message id="ERROR_STORE_NEWS_OF_ITS_OWN">
+        <source></source>
+        <translation>本庫已有自己的新聞；專線需要一個沒有新聞的庫，或已在跟隨它的庫。</translation>
+    </message>
+    <message id="ERROR_STORE_COPY_DIFFERS">
+        <source></source>
+        <translation>庫裏的新聞 %1 與專線上的不同。</translation>
+    </message>
+    <message id="ERROR_WIRE_HOLE">
+        <source></source>
+        <translation>專線在第 %1 列之前有缺口：服務 %2 那邊到第 %3 列，這邊到第 %4 列。沒有收下任何內容。</translation>
+    </message>
+    <message id="ERROR_WIRE_OTHER_EPOCH">
+        <source></source>
+        <translation>專線已重設：現在是紀元 %1，而本庫跟隨 %2。沒有收下任何內容。</translation>
+    </message>
+    <message id="ERROR_WIRE_WENT_BACK">
+        <source></source>
+        <translation>專線倒退了：它止於第 %1 列，而本庫已跟到第 %2 列。沒有收下任何內容。</translation>
+    </message>
+    <message id="ERROR_WIRE_UNKNOWN_FORMAT">
+        <source></source>
+        <translation>專線以形式 %1 寫成，本版程式不認得。</translation>
+    </message>
+    <message id="ERROR_WIRE_UNKNOWN_KIND">
+        <source></source>
+        <translation>它屬於「%1」類，本版程式不認得。</translation>
+    </message>
+    <message id="ERROR_WIRE_ROW_DAMAGED">
+        <source></source>
+        <translation>它已損壞，無法讀取。</translation>
+    </message>
+    <message id="ERROR_WIRE_ROW">
+        <source></source>
+        <translation>專線第 %1 列</translation>
+    </message>
+    <message id="ERROR_WIRE_POSITION_UNREADABLE">
+        <source></source>
+        <translation>無法讀取本庫跟隨專線到何處：「%1」。</translation>
+    </message>
+    <message id="ERROR_WIRE_NO_BEAT">
+        <source></source>
+        <translation>專線的收稿點已有 %1 秒沒有動靜。</translation>
+    </message>
+    <message id="ERROR_WIRE_SERVER">
+        <source></source>
+        <translation>專線伺服器回覆：%1</translation>
+    </message>
+    <message id="ERROR_WIRE_NOT_MADE">
+        <source></source>
+        <translation>此資料庫裏還沒有專線，請先在命令列建立。</translation>
+    </message>
+    <message id="ERROR_WIRE_MADE_ALREADY">
+        <source></source>
+        <translation>此資料庫裏已有專線。</translation>
+    </message>
+    <message id="ERROR_WIRE_DRIVER_MISSING">
+        <source></source>
+        <translation>沒有安裝與專線伺服器連線的部分：%1</translation>
+    </message>
+    <message id="ERROR_WIRE_SERVICE_NAME">
+        <source></source>
+        <translation>「%1」不是專線的名稱：可用字母、數字、「.」、「_」和「-」。</translation>
+    </message>
+    <message id="ERROR_WIRE_NO_QUOTES">
+        <source></source>
+        <translation>專線不傳送報價。</translation>
+    </message>
 </context>
 </TS>

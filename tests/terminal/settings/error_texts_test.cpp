@@ -32,7 +32,7 @@ Texts codesInSources() {
         uR"re(ErrorCode\s+\w+\{\s*"(ERROR_\w+)",\s*((?:u"(?:[^"\\]|\\.)*"\s*)+)\})re"_s);
     static const QRegularExpression literal(uR"re(u"((?:[^"\\]|\\.)*)")re"_s);
     Texts found;
-    for (const QString& room : {u"backend"_s, u"terminal"_s}) {
+    for (const QString& room : {u"backend"_s, u"wire"_s, u"terminal"_s}) {
         QDirIterator files(sources + u'/' + room, {u"*.h"_s, u"*.cpp"_s}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
