@@ -28,4 +28,10 @@ std::optional<Error> CopyRule::faultOf(const NewsItem& item) const {
     return std::nullopt;
 }
 
+std::optional<Error> CopyRule::faultOfSource(const QString& source) const {
+    if (source == wirePosition && !isCopy && hasNews)
+        return makeError<store_errors::newsOfItsOwn>();
+    return std::nullopt;
+}
+
 }  // namespace wirepane

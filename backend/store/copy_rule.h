@@ -26,6 +26,8 @@ public:
     bool load();
     // Why this news cannot be taken; nothing: it can.
     std::optional<Error> faultOf(const NewsItem& item) const;
+    // Why the store cannot keep a position of this source; nothing: it can.
+    std::optional<Error> faultOfSource(const QString& source) const;
 
 private:
     Statement read;

@@ -192,6 +192,8 @@ Result<StoredNews> StoreWriter::takeNews(const NewsItem& given) {
         return item.title.isEmpty() ? withdraw(item, *known) : replace(item, *known);
     if (bringsStory)
         return addStory(item, *known);
+    if (item.day)
+        return rejected(makeError<store_errors::copyDiffers>(item.identity));
     stored.outcome.take = Take::AlreadyThere;
     stored.key = keyOf(item, *known);
     stored.categoryId = known->category;
@@ -330,6 +332,8 @@ Result<TakeOutcome> StoreWriter::takeFrom(const QString& source, const StoreItem
 Done StoreWriter::keepPosition(const QString& source, const QString& position) {
     if (!begun)
         return makeError<store_errors::nothingBegun>(makeError<store_errors::position>());
+    if (const auto fault = copying.faultOfSource(source))
+        return *fault;
     if (!positions.keep(source, position))
         return fail();
     return Nothing{};
