@@ -8,6 +8,7 @@
 #include "terminal/alerts/alerts_window.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/settings/terminal_settings.h"
+#include "terminal/translations/shown_text.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QApplication>
@@ -53,6 +54,9 @@ AlertCenter::~AlertCenter() {
 void AlertCenter::setRules(const AlertSettings& rules) {
     present = rules;
     settings.setAlerts(alertsToJson(present));
+    // What is killed before its end starts with them, too.
+    if (const Done saved = settings.save(); !saved)
+        frame.showNotice(shownText(saved.error()));
     alerts.setSettings(present);
     backEnd.judgeLooksBy(looksBy(present.rules, backEnd));
 }

@@ -141,6 +141,10 @@ QJsonObject TerminalSettings::alerts() const {
     return stored(u"alerts"_s).toObject();
 }
 
+Done TerminalSettings::save() {
+    return file.save();
+}
+
 void TerminalSettings::setAlerts(const QJsonObject& alerts) {
     store(u"alerts"_s, alerts);
 }

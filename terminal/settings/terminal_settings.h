@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/result.h"
 #include "backend/store/retention.h"
 #include "host/contract/sync_info.h"
 #include "terminal/settings/colour_scheme.h"
@@ -34,6 +35,9 @@ public:
 
     // `file` is not owned and must outlive the settings.
     explicit TerminalSettings(SettingsFile& file);
+
+    // Writes the file as it is now.
+    Done save();
 
     ColourScheme scheme() const;
     void setScheme(ColourScheme scheme);
