@@ -63,8 +63,8 @@ private:
     std::deque<AlertEntry> known;
     std::int64_t seen = 0;
     std::int64_t lookedAt = 0;
-    std::int64_t written = 0;             // the position that the store has
-    bool isAsked = false;                 // to look, and the event loop will
+    std::int64_t written = 0;  // the position that the store has
+    bool isAsked = false;      // to look, and the event loop will
     QTimer eachSecond;
     CallQueue found;                      // on the interface thread
     std::unique_ptr<AlertWorker> worker;  // last: it posts what it finds; null before the beginning

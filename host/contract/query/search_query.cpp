@@ -353,8 +353,9 @@ private:
             return fail(Fault::UnknownField, start, nameLength);
         if (fieldDepth > 0)
             return fail(Fault::FieldWithin, start, nameLength);
-        const bool isOfHeadlines =
-            *known == FieldKind::Title || (*known == FieldKind::Story && use == QueryUse::Alerts) || (kindOf(*known) != Kind::Days && kindOf(*known) != Kind::State);
+        const bool isOfHeadlines = *known == FieldKind::Title ||
+                                   (*known == FieldKind::Story && use == QueryUse::Alerts) ||
+                                   (kindOf(*known) != Kind::Days && kindOf(*known) != Kind::State);
         if (use != QueryUse::News && !isOfHeadlines)
             return failOfHeadlines(start, nameLength);
         if (isBare)
