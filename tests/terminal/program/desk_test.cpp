@@ -225,7 +225,10 @@ TEST_F(DeskTest, SettingsTakeEffectWhenTheyAreAccepted) {
             auto* dialog = session->frame().findChild<SettingsDialog*>();
             for (QCheckBox* box : dialog->findChildren<QCheckBox*>())
                 box->toggle();
-            dialog->findChild<QComboBox*>()->setCurrentIndex(2);
+            for (QComboBox* box : dialog->findChildren<QComboBox*>()) {
+                if (const int simplified = box->findData(u"zh-CN"_s); simplified >= 0)
+                    box->setCurrentIndex(simplified);
+            }
             dialog->findChild<QDialogButtonBox*>()
                 ->button(accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel)
                 ->click();

@@ -302,7 +302,10 @@ TEST_F(MorningTest, AgreesWithACountByOtherMeans) {
     };
     EXPECT_EQ(without(toldNow, expected), "") << "told, and not expected";
     EXPECT_EQ(without(expected, toldNow), "") << "expected, and not told";
-    EXPECT_EQ(toldNow, expected) << "in the order of coming";
+    const auto differs = std::ranges::mismatch(toldNow, expected);
+    EXPECT_TRUE(differs.in1 == toldNow.end() && differs.in2 == expected.end())
+        << "not in the order of coming, from " << differs.in1 - toldNow.begin() << " of " << toldNow.size()
+        << " on: " << toldNow.value(differs.in1 - toldNow.begin()).toStdString();
     std::map<QString, int> outcomes;
     for (const QString& text : expected)
         ++outcomes[text.section(u": "_s, -1)];
