@@ -353,16 +353,14 @@ private:
             return fail(Fault::UnknownField, start, nameLength);
         if (fieldDepth > 0)
             return fail(Fault::FieldWithin, start, nameLength);
-        const bool isOfHeadlines = *known == FieldKind::Title ||
-                                   (*known == FieldKind::Story && use == QueryUse::Alerts) ||
-                                   (kindOf(*known) != Kind::Days && kindOf(*known) != Kind::State);
-        if (use != QueryUse::News && !isOfHeadlines)
+        const bool isStory = *known == FieldKind::Story;
+        const bool isText = isStory || *known == FieldKind::Title;
+        const bool isOfStore = kindOf(*known) == Kind::Days || kindOf(*known) == Kind::State;
+        if (use != QueryUse::News && (isText ? isStory && use != QueryUse::Alerts : isOfStore))
             return failOfHeadlines(start, nameLength);
         if (isBare)
             return fail(Fault::FieldValue, start, nameLength);
-        Node node = *known == FieldKind::Title || *known == FieldKind::Story
-                        ? readInField(*known, start, nameLength)
-                        : readValue(*known, start, nameLength);
+        Node node = isText ? readInField(*known, start, nameLength) : readValue(*known, start, nameLength);
         wasEnclosed = true;
         return node;
     }
