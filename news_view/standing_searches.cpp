@@ -8,6 +8,7 @@
 #include "headline_list/language_keys.h"
 #include "host/contract/headline_looks.h"
 #include "host/controls/heap_dialog.h"
+#include "host/controls/rehearsal_dlg.h"
 #include "news_view/list_notices.h"
 #include "news_view/news_services.h"
 #include "news_view/rehearsed_key_set.h"
@@ -16,16 +17,13 @@
 #include "search/alert_query.h"
 #include "search/dialog_controls.h"
 #include "search/news_key_search_dlg.h"
-#include "search/rehearsal_dlg.h"
 #include "search/search_desk.h"
 #include "search/search_ids.h"
 #include "search/warn_term_dlg.h"
 
-#include <QHash>
 #include <QKeySequence>
 
 #include <algorithm>
-#include <map>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -41,24 +39,6 @@ QString keywordsOf(const CSearch& condition) {
     constexpr qsizetype longest = 200;
     const QString text = QStringList(condition.keywords.begin(), condition.keywords.end()).join(u", "_s);
     return text.size() > longest ? text.left(longest) + u'…' : text;
-}
-
-// Of headlines in their order; empty where one is not at hand.
-QStringList titlesOfKeys(BKQuoteInterface& backEnd, const std::vector<HeadlineKey>& keys) {
-    std::map<unsigned char, std::vector<CHeadlineTable>> wanted;
-    for (const HeadlineKey& key : keys)
-        wanted[key.service].push_back({key.time, key.sequence, key.service, 0, 0});
-    QHash<HeadlineKey, QString> titles;
-    for (const auto& [service, entries] : wanted) {
-        std::vector<CHeadline> found;
-        backEnd.BKQNEWS_iGetHeadline(service, found, entries);
-        for (const CHeadline& headline : found)
-            titles[keyOf(headline)] = headline.title;
-    }
-    QStringList inOrder;
-    for (const HeadlineKey& key : keys)
-        inOrder << titles.value(key);
-    return inOrder;
 }
 
 // Null: the back end cannot try queries on headlines.
@@ -127,13 +107,10 @@ void StandingSearches::rehearse(const CNewsKey& keySet, QWidget* over) {
     const auto letters = parts.settings.options[ViewOption::KeySetsInAnyCase]
                              ? RelationMatcher::Case::Any
                              : RelationMatcher::Case::AsWritten;
-    const auto titlesOf = [this](const std::vector<HeadlineKey>& keys) {
-        return titlesOfKeys(parts.backEnd, keys);
-    };
     HeapDialog dialog(
         new RehearsalDlg(*dynamic_cast<KeySetRehearsal*>(&parts.backEnd),
                          rehearsedKeySet(keySet, letters, parts.services.activeServices(ListIndex::Relation)),
-                         titlesOf, over));
+                         RehearsalDlg::usualBudget, over));
     runModally(dialog.get());
 }
 

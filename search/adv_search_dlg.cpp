@@ -3,11 +3,11 @@
 #include "search/adv_search_dlg.h"
 
 #include "host/contract/lang_text.h"
+#include "host/controls/report_list.h"
 #include "host/controls/roomy_rows.h"
 #include "host/controls/window_id.h"
 #include "search/condition_texts.h"
 #include "search/dialog_controls.h"
-#include "search/report_list.h"
 #include "search/search_ids.h"
 #include "search/search_keys.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "search/report_list.h"
+#include "host/controls/report_list.h"
 
 #include <vector>
 

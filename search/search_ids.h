@@ -58,17 +58,7 @@ inline constexpr int newsTypesCaption = 2095;
 inline constexpr int allKeySets = 2096;
 
 inline constexpr int rehearseKeySet = 9005;
-
-// A rehearsal.
 inline constexpr int alertOfKeySet = 9014;
-inline constexpr int rehearsal = 9006;  // the dialog itself
-inline constexpr int rehearsalSummary = 9007;
-inline constexpr int rehearsalBudget = 9008;
-inline constexpr int rehearsalWarning = 9009;
-inline constexpr int rehearsalDays = 9010;
-inline constexpr int rehearsalWords = 9011;
-inline constexpr int rehearsalExclusions = 9012;
-inline constexpr int rehearsalHits = 9013;
 
 // Warning terms.
 inline constexpr int warnTerms = 2015;  // the dialog itself

@@ -49,25 +49,8 @@ inline constexpr QLatin1StringView askDeleteKeySets{"IDS_DIALOG-DEAL-SEARCH_REQD
 inline constexpr QLatin1StringView askRemoveAllOfKeySet{"IDS_DIALOG-DEAL-SEARCH_REQDELALL_KEY"};
 inline constexpr QLatin1StringView capitalsNote{"IDS_DIALOG-DEAL-SEARCH_CAPITALS_NOTE"};
 
-// A rehearsal of a key set. "%1", "%2": numbers, or an hour and a number.
 inline constexpr QLatin1StringView rehearse{"IDS_DIALOG-DEAL-SEARCH_REHEARSE"};
 inline constexpr QLatin1StringView alertMe{"IDS_DIALOG-DEAL-SEARCH_ALERT_ME"};
-inline constexpr QLatin1StringView rehearsalTitle{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TITLE"};
-inline constexpr QLatin1StringView rehearsalRuns{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_RUNS"};
-inline constexpr QLatin1StringView rehearsalFailed{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_FAILED"};
-inline constexpr QLatin1StringView rehearsalSummary{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_SUMMARY"};
-inline constexpr QLatin1StringView rehearsalBusiest{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUSIEST"};
-inline constexpr QLatin1StringView rehearsalBudget{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUDGET"};
-inline constexpr QLatin1StringView rehearsalOver{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_OVER"};
-inline constexpr QLatin1StringView rehearsalWithin{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_WITHIN"};
-inline constexpr QLatin1StringView rehearsalDay{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_DAY"};
-inline constexpr QLatin1StringView rehearsalCount{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_COUNT"};
-inline constexpr QLatin1StringView rehearsalBrought{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BROUGHT"};
-inline constexpr QLatin1StringView rehearsalExcluded{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_EXCLUDED"};
-inline constexpr QLatin1StringView rehearsalSaved{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_SAVED"};
-inline constexpr QLatin1StringView rehearsalTime{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TIME"};
-inline constexpr QLatin1StringView rehearsalHit{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_HIT"};
-inline constexpr QLatin1StringView rehearsalClose{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_CLOSE"};
 
 // Warning terms.
 inline constexpr QLatin1StringView warningTitle{"IDS_DIALOG-DEAL-SEARCH_WARNING_TITLE"};

@@ -4,11 +4,11 @@
 
 #include "host/contract/lang_text.h"
 #include "host/controls/heap_dialog.h"
+#include "host/controls/report_list.h"
 #include "host/controls/roomy_rows.h"
 #include "host/controls/window_id.h"
 #include "search/condition_texts.h"
 #include "search/dialog_controls.h"
-#include "search/report_list.h"
 #include "search/search_ids.h"
 #include "search/search_keys.h"
 #include "search/warn_term_config_dlg.h"

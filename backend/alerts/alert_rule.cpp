@@ -24,6 +24,7 @@ std::optional<AlertRule> ruleFrom(const QJsonObject& object) {
     rule.hasToast = fields.optionalFlag(u"toast"_s).value_or(rule.hasToast);
     rule.hasSound = fields.optionalFlag(u"sound"_s).value_or(rule.hasSound);
     rule.pauseSeconds = int(fields.optionalNumber(u"pause"_s, 0, longestAlertPause).value_or(0));
+    rule.budget = int(fields.optionalNumber(u"budget"_s, 0, largestAlertBudget).value_or(0));
     rule.onlyConnected = fields.optionalFlag(u"onlyConnected"_s).value_or(rule.onlyConnected);
     rule.tint = int(fields.optionalNumber(u"tint"_s, 0, HeadlineLook::tints).value_or(0));
     rule.tag = alertTag(fields.optionalText(u"tag"_s).value_or(QString()));
@@ -58,6 +59,7 @@ QJsonObject alertsToJson(const AlertSettings& settings) {
                                  {u"toast"_s, rule.hasToast},
                                  {u"sound"_s, rule.hasSound},
                                  {u"pause"_s, rule.pauseSeconds},
+                                 {u"budget"_s, rule.budget},
                                  {u"onlyConnected"_s, rule.onlyConnected},
                                  {u"tint"_s, rule.tint},
                                  {u"tag"_s, rule.tag}});

@@ -20,6 +20,7 @@ struct AlertRule {
     bool hasToast = true;   // shown in the corner of the window
     bool hasSound = false;  // the desktop's
     int pauseSeconds = 0;   // between two that are told, 0 to a day
+    int budget = 0;         // within an hour; whoever is told of more is warned of it; 0: there is none
     bool onlyConnected = false;
     int tint = 0;  // of its rows in lists, as HeadlineLook numbers them; 0: none
     QString tag;   // beside its titles in lists; empty: none
@@ -41,6 +42,7 @@ struct AlertSettings {
 inline constexpr int mostAlertRules = 1000;
 inline constexpr int longestAlertTag = 12;        // characters
 inline constexpr int longestAlertPause = 86'400;  // seconds
+inline constexpr int largestAlertBudget = 100'000;
 
 // A typed tag as a rule keeps it: in one line, at most so long.
 QString alertTag(const QString& typed);

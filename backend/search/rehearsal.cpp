@@ -31,9 +31,22 @@ struct AskedPart {
     Rehearsal::Word word;
 };
 
-Wants wantsOf(std::shared_ptr<const TitleQuery> query) {
-    return [query = std::move(query)](const CHeadline& headline, const QString&) {
-        return query->wants(headline, headline.categoryId);
+// What a query is made ready with.
+struct Sources {
+    QueryPlanner& planner;
+    const RehearsedNews& news;
+};
+
+// Stories are read only where the query looks for texts in them. Empty: it has a fault.
+Wants wantsOf(const QString& query, const Sources& sources) {
+    auto set = TitleQuerySet::make({&query, 1}, sources.planner, sources.news.related, QueryUse::Alerts);
+    if (set->isEmpty())
+        return {};
+    return [set = std::move(set), &news = sources.news](const CHeadline& headline, const QString&) {
+        const auto one = [](std::size_t) { return true; };
+        if (!set->looksAtStories())
+            return set->findWanting(headline, headline.categoryId, one);
+        return set->findWanting(headline, news.story(keyOf(headline)), one);
     };
 }
 
@@ -44,9 +57,7 @@ struct AskedParts {
 
 class PartsOfQuery {
 public:
-    PartsOfQuery(const QString& query, QueryPlanner& itsPlanner,
-                 const TitleQuery::RelatedSymbols& relatedSymbols)
-        : text(query), planner(itsPlanner), related(relatedSymbols) {}
+    PartsOfQuery(const QString& query, const Sources& from) : text(query), sources(from) {}
 
     AskedParts take(const QueryNode& node) {
         collect(node);
@@ -61,16 +72,15 @@ private:
             asked.phrases.push_back(phraseBetweenBlanks(node.text));
         const QString written = text.mid(node.position, node.length);
         if (node.parts.empty() && seen.insert(written).second) {
-            if (auto query = TitleQuery::make(written, planner, related))
-                asked.parts.push_back({wantsOf(std::move(query)), {written, 0}});
+            if (Wants wants = wantsOf(written, sources))
+                asked.parts.push_back({std::move(wants), {written, 0}});
         }
         for (const QueryNode& inner : node.parts)
             collect(inner);
     }
 
     const QString& text;
-    QueryPlanner& planner;
-    const TitleQuery::RelatedSymbols& related;
+    const Sources& sources;
     std::set<QString> seen;
     AskedParts asked;
 };
@@ -154,14 +164,13 @@ struct Asked {
     AskedParts parts;
 };
 
-std::optional<Asked> askedOf(const QString& query, QueryPlanner& planner,
-                             const TitleQuery::RelatedSymbols& related) {
-    const ReadQuery read = readQuery(query, QueryUse::Headlines);
+std::optional<Asked> askedOf(const QString& query, const Sources& sources) {
+    const ReadQuery read = readQuery(query, QueryUse::Alerts);
     const auto* node = std::get_if<QueryNode>(&read);
-    auto whole = node != nullptr ? TitleQuery::make(query, planner, related) : nullptr;
+    Wants whole = node != nullptr ? wantsOf(query, sources) : Wants();
     if (!whole)
         return std::nullopt;
-    return Asked{wantsOf(std::move(whole)), PartsOfQuery(query, planner, related).take(*node)};
+    return Asked{std::move(whole), PartsOfQuery(query, sources).take(*node)};
 }
 
 Asked askedOf(const KeySetRehearsal::KeySet& keySet) {
@@ -171,6 +180,17 @@ Asked askedOf(const KeySetRehearsal::KeySet& keySet) {
         asked.parts.phrases.push_back(phraseBetweenBlanks(part.text));
     }
     return asked;
+}
+
+// Of the first of them.
+QStringList titlesOf(Database& store, const std::vector<HeadlineKey>& hits) {
+    Statement named(store, "SELECT title FROM headlines WHERE service = ? AND time = ? AND sequence = ?");
+    QStringList titles;
+    for (std::size_t hit = 0; hit < std::min(hits.size(), Rehearsal::mostTitles); ++hit) {
+        Query title(named, hits[hit].service, hits[hit].time, hits[hit].sequence);
+        titles += title.next() ? title.text(0) : QString();
+    }
+    return titles;
 }
 
 Wants ofNewsTypes(Wants wants, const std::vector<std::int32_t>& newsTypes) {
@@ -185,14 +205,14 @@ Wants ofNewsTypes(Wants wants, const std::vector<std::int32_t>& newsTypes) {
 }  // namespace
 
 std::optional<Rehearsal> rehearse(Database& store, const QString& query, const RehearsedTime& time,
-                                  const TitleQuery::RelatedSymbols& related) {
-    return rehearse(store, KeySetRehearsal::KeySet{query, {}, {}, {}, {}}, time, related);
+                                  const RehearsedNews& news) {
+    return rehearse(store, KeySetRehearsal::KeySet{query, {}, {}, {}, {}}, time, news);
 }
 
 std::optional<Rehearsal> rehearse(Database& store, const KeySetRehearsal::KeySet& keySet,
-                                  const RehearsedTime& time, const TitleQuery::RelatedSymbols& related) {
+                                  const RehearsedTime& time, const RehearsedNews& news) {
     QueryPlanner planner(store);
-    std::optional<Asked> asked = keySet.wants ? askedOf(keySet) : askedOf(keySet.query, planner, related);
+    std::optional<Asked> asked = keySet.wants ? askedOf(keySet) : askedOf(keySet.query, {planner, news});
     if (!asked)
         return std::nullopt;
     Trial trial(ofNewsTypes(std::move(asked->wants), keySet.newsTypes), std::move(asked->parts), time);
@@ -205,7 +225,9 @@ std::optional<Rehearsal> rehearse(Database& store, const KeySetRehearsal::KeySet
         if (!tryService(trial, headlines, service, time))
             return std::nullopt;
     }
-    return trial.finish();
+    Rehearsal found = trial.finish();
+    found.titles = titlesOf(store, found.hits);
+    return found;
 }
 
 }  // namespace wirepane

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "backend/search/title_query.h"
+#include "backend/search/title_query_set.h"
 #include "host/contract/query/key_set_rehearsal.h"
 
 #include <QDate>
@@ -10,6 +10,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -27,13 +28,19 @@ struct RehearsedTime {
     const std::atomic<bool>* dropped = nullptr;  // set from any thread: nobody waits for it any more
 };
 
-// Tries the query as the live lists do. Nothing where it has a fault or is dropped, or the store cannot be
-// read. 300,000
-// headlines take about a second; thread: that of the database.
+// What a query may have to know of a headline, asked only then.
+struct RehearsedNews {
+    TitleQuerySet::RelatedSymbols related;
+    std::function<QString(const HeadlineKey&)> story;  // empty: it has none
+};
+
+// Tries the query as alerts do, on stories too where it looks for texts in them. Nothing
+// where it has a fault or is dropped, or the store cannot be read. 300,000 headlines take about a second;
+// thread: that of the database.
 std::optional<Rehearsal> rehearse(Database& store, const QString& query, const RehearsedTime& time,
-                                  const TitleQuery::RelatedSymbols& related);
+                                  const RehearsedNews& news);
 // The same of a key set: the services that count are those of `time`.
 std::optional<Rehearsal> rehearse(Database& store, const KeySetRehearsal::KeySet& keySet,
-                                  const RehearsedTime& time, const TitleQuery::RelatedSymbols& related);
+                                  const RehearsedTime& time, const RehearsedNews& news);
 
 }  // namespace wirepane

@@ -20,6 +20,13 @@ constexpr int rehearsedDays = 30;
 
 }  // namespace
 
+RehearsedNews rehearsedNews(StoreReader& reader) {
+    return {[&reader](const CHeadline& headline) {
+                return reader.relatedSymbols(keyOf(headline)).value_or(std::vector<CSymbolInfo>());
+            },
+            [&reader](const HeadlineKey& key) { return reader.story(key).value_or(QString()); }};
+}
+
 struct RehearsalDesk::Job {
     KeySetRehearsal::KeySet keySet;
     KeySetRehearsal::Told told;  // called on the interface thread alone
@@ -58,12 +65,10 @@ void RehearsalDesk::carryOut(const std::shared_ptr<Job>& job) {
     std::optional<Rehearsal> rehearsal;
     if (const auto store = openStoreToRead(path)) {
         StoreReader reader(*store.value());
-        rehearsal = wirepane::rehearse(
-            *store.value(), job->keySet,
-            {job->keySet.services, job->today, rehearsedDays, job->now, &job->dropped},
-            [&](const CHeadline& headline) {
-                return reader.relatedSymbols(keyOf(headline)).value_or(std::vector<CSymbolInfo>());
-            });
+        rehearsal =
+            wirepane::rehearse(*store.value(), job->keySet,
+                               {job->keySet.services, job->today, rehearsedDays, job->now, &job->dropped},
+                               rehearsedNews(reader));
     }
     answers.post([job, rehearsal = std::move(rehearsal)] {
         if (!job->dropped)

@@ -13,6 +13,11 @@
 #include <vector>
 
 namespace wirepane {
+struct RehearsedNews;
+class StoreReader;
+
+// As the store has it. The reader outlives it.
+RehearsedNews rehearsedNews(StoreReader& reader);
 
 // Tries key sets on a thread and a connection of its own, one after the other. Interface thread.
 class RehearsalDesk {

@@ -46,6 +46,7 @@ AlertRuleForm::AlertRuleForm()
       hasSound(new QCheckBox(terminalText(TextId::AlertSound))),
       onlyConnected(new QCheckBox(terminalText(TextId::AlertOnlyConnected))),
       pause(new QSpinBox),
+      budget(new QSpinBox),
       tint(new QComboBox),
       tag(new QLineEdit) {
     name->setObjectName(u"name"_s);
@@ -56,6 +57,9 @@ AlertRuleForm::AlertRuleForm()
     query->setMinimumWidth(fontMetrics().averageCharWidth() * queryInCharacters);
     pause->setRange(0, longestAlertPause);
     pause->setSuffix(terminalText(TextId::AlertSeconds));
+    budget->setRange(0, largestAlertBudget);
+    budget->setSpecialValueText(terminalText(TextId::AlertNoBudget));
+    budget->setSuffix(terminalText(TextId::AlertAnHour));
     addTints(*tint);
     auto* form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
@@ -67,11 +71,13 @@ AlertRuleForm::AlertRuleForm()
         connect(box, &QCheckBox::toggled, this, &AlertRuleForm::edited);
     }
     addField(*form, TextId::AlertPauseOf, *pause);
+    addField(*form, TextId::AlertBudget, *budget);
     addField(*form, TextId::AlertTint, *tint);
     addField(*form, TextId::AlertTag, *tag);
     for (const QLineEdit* edit : {name, query, tag})
         connect(edit, &QLineEdit::textEdited, this, &AlertRuleForm::edited);
-    connect(pause, &QSpinBox::valueChanged, this, &AlertRuleForm::edited);
+    for (const QSpinBox* number : {pause, budget})
+        connect(number, &QSpinBox::valueChanged, this, &AlertRuleForm::edited);
     connect(tint, &QComboBox::currentIndexChanged, this, &AlertRuleForm::edited);
 }
 
@@ -92,6 +98,7 @@ void AlertRuleForm::show(const AlertRule& rule) {
     hasSound->setChecked(rule.hasSound);
     onlyConnected->setChecked(rule.onlyConnected);
     pause->setValue(rule.pauseSeconds);
+    budget->setValue(rule.budget);
     tint->setCurrentIndex(rule.tint);
     tag->setText(rule.tag);
 }
@@ -103,6 +110,7 @@ AlertRule AlertRuleForm::changed(AlertRule rule) const {
     rule.hasSound = hasSound->isChecked();
     rule.onlyConnected = onlyConnected->isChecked();
     rule.pauseSeconds = pause->value();
+    rule.budget = budget->value();
     rule.tint = tint->currentIndex();
     rule.tag = alertTag(tag->text());
     return rule;
@@ -115,6 +123,10 @@ void AlertRuleForm::editName() {
 
 void AlertRuleForm::editQuery() {
     query->setFocus();
+}
+
+void AlertRuleForm::setBudget(int hitsAnHour) {
+    budget->setValue(hitsAnHour);
 }
 
 }  // namespace wirepane

@@ -27,6 +27,7 @@ public:
     AlertRule changed(AlertRule rule) const;
     void editName();
     void editQuery();
+    void setBudget(int hitsAnHour);
 
 signals:
     // The user has changed something.
@@ -41,6 +42,7 @@ private:
     QCheckBox* hasSound;
     QCheckBox* onlyConnected;
     QSpinBox* pause;
+    QSpinBox* budget;
     QComboBox* tint;
     QLineEdit* tag;
 };

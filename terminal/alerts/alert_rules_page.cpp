@@ -13,6 +13,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTimeEdit>
@@ -40,8 +41,8 @@ int minutesOf(const QTime& time) {
 
 }  // namespace
 
-AlertRulesPage::AlertRulesPage(const AlertSettings& present, std::function<void(const AlertRule&)> tell)
-    : test(std::move(tell)),
+AlertRulesPage::AlertRulesPage(const AlertSettings& present, Calls given)
+    : calls(std::move(given)),
       list(new QListWidget),
       form(new AlertRuleForm),
       fault(new QLabel),
@@ -83,6 +84,7 @@ QLayout* AlertRulesPage::buttonRow() {
         {TextId::AlertAdd, LineIcon::Add, &AlertRulesPage::addNew},
         {TextId::AlertRemove, LineIcon::Remove, &AlertRulesPage::removeCurrent},
         {TextId::AlertTest, LineIcon::Bell, &AlertRulesPage::testCurrent},
+        {TextId::AlertRehearse, LineIcon::Clock, &AlertRulesPage::rehearseCurrent},
     };
     for (const auto& [text, icon, action] : buttons) {
         auto* button = new QPushButton(lineIcon(icon), terminalText(text));
@@ -152,7 +154,22 @@ void AlertRulesPage::removeCurrent() {
 
 void AlertRulesPage::testCurrent() {
     if (list->currentRow() >= 0)
-        test(rules[std::size_t(list->currentRow())]);
+        calls.test(rules[std::size_t(list->currentRow())]);
+}
+
+void AlertRulesPage::rehearseCurrent() {
+    const int row = list->currentRow();
+    if (row < 0)
+        return;
+    if (const QString text = faultOf(std::size_t(row)); !text.isEmpty()) {
+        fault->setText(text);
+        form->editQuery();
+        return;
+    }
+    const QPointer<AlertRulesPage> self(this);
+    const int budget = calls.rehearse(rules[std::size_t(row)]);
+    if (self)
+        form->setBudget(budget);
 }
 
 void AlertRulesPage::showCurrent() {

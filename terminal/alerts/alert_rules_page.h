@@ -24,8 +24,12 @@ class AlertRulesPage : public QWidget {
     Q_OBJECT
 
 public:
-    // `test` tells a rule as it would be told.
-    AlertRulesPage(const AlertSettings& present, std::function<void(const AlertRule&)> test);
+    struct Calls {
+        std::function<void(const AlertRule&)> test;  // tells a rule as it would be told
+        // Shows how often a rule would have spoken. The budget that the user found by it.
+        std::function<int(const AlertRule&)> rehearse;
+    };
+    AlertRulesPage(const AlertSettings& present, Calls calls);
 
     // One more rule, under a name of its own; where there is one with its query, that is the present one.
     void propose(AlertRule rule);
@@ -39,6 +43,7 @@ private:
     void addNew();
     void removeCurrent();
     void testCurrent();
+    void rehearseCurrent();
     void showCurrent();
     void takeEdited();
     void takeTicks();
@@ -46,7 +51,7 @@ private:
     QLayout* buttonRow();
     QLayout* quietRow(const AlertSettings& present);
 
-    const std::function<void(const AlertRule&)> test;
+    const Calls calls;
     std::vector<AlertRule> rules;  // as they are in the list
     QListWidget* list;
     AlertRuleForm* form;

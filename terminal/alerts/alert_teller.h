@@ -5,6 +5,7 @@
 #include "backend/alerts/alert_entry.h"
 #include "backend/alerts/alert_rule.h"
 
+#include <QHash>
 #include <QObject>
 #include <QTimer>
 
@@ -27,12 +28,15 @@ public:
 
 private:
     void tellWaiting();
+    // How the toast names a rule: with its budget, where that is exceeded within the hour.
+    QString nameOf(const AlertRule& rule, std::int64_t moment);
 
     AlertToast& toast;
     const std::function<void()> beep;
     AlertEntry newest;  // to be shown
     int waiting = 0;
     bool isSoundWaiting = false;
+    QHash<QString, std::vector<std::int64_t>> told;  // moments within the hour, of rules with a budget
     QTimer pause;
 };
 

@@ -4,6 +4,7 @@
 
 #include "backend/search/query_errors.h"
 #include "backend/search/rehearsal.h"
+#include "backend/store/rehearsal_desk.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_reader.h"
 #include "host/contract/clock.h"
@@ -43,7 +44,7 @@ RehearseOptions optionsOf(CommandArguments& arguments) {
     constexpr std::int64_t most = std::numeric_limits<int>::max();
     RehearseOptions options;
     options.query = arguments.rest().join(u' ');
-    if (const auto read = readQuery(options.query, QueryUse::Headlines);
+    if (const auto read = readQuery(options.query, QueryUse::Alerts);
         const auto* fault = std::get_if<QueryFault>(&read))
         arguments.fail(sentence(errorOf(*fault)));
     options.service = static_cast<unsigned char>(arguments.number(u"service"_s, 0, 1, lastNewsService));
@@ -89,9 +90,7 @@ int rehearseIn(Database& store, const RehearseOptions& options) {
     StoreReader reader(store);
     const RehearsedTime time{options.service != 0 ? std::vector{options.service} : reader.serviceIds(),
                              host_clock::today(), options.days, host_clock::now()};
-    const auto rehearsal = rehearse(store, options.query, time, [&](const CHeadline& headline) {
-        return reader.relatedSymbols(keyOf(headline)).value_or(std::vector<CSymbolInfo>());
-    });
+    const auto rehearsal = rehearse(store, options.query, time, rehearsedNews(reader));
     if (!rehearsal || store.damage()) {
         printNote(sentence(store.damage().value_or(store.failure())));
         return exitUnusable;
@@ -111,7 +110,7 @@ int rehearseIn(Database& store, const RehearseOptions& options) {
 int runRehearse() {
     CommandArguments arguments(u"rehearse"_s,
                                u"Tells how often a query would have found a headline as it came."_s);
-    arguments.parser.addPositionalArgument(u"query"_s, u"What a key set looks for (docs/search.md)."_s,
+    arguments.parser.addPositionalArgument(u"query"_s, u"What an alert looks for (docs/search.md)."_s,
                                            u"query..."_s);
     arguments.parser.addOptions({
         {u"service"_s, u"News of this service only."_s, u"id"_s},

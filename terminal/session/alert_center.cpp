@@ -4,6 +4,8 @@
 
 #include "backend/alerts/alert_looks.h"
 #include "backend/store/embedded_back_end.h"
+#include "host/controls/heap_dialog.h"
+#include "host/controls/rehearsal_dlg.h"
 #include "terminal/alerts/alert_toast.h"
 #include "terminal/alerts/alerts_window.h"
 #include "terminal/frame/main_frame.h"
@@ -12,6 +14,8 @@
 #include "terminal/translations/terminal_text.h"
 
 #include <QApplication>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -66,6 +70,17 @@ void AlertCenter::test(const AlertRule& rule) {
     entry.rule = rule.name;
     entry.title = rule.query;
     teller.tell({entry}, {rule});
+}
+
+int AlertCenter::rehearse(const AlertRule& rule, QWidget* over) {
+    KeySetRehearsal::KeySet wanted;
+    wanted.query = rule.query;
+    backEnd.BKQNEWS_bGetAllNewsService(wanted.services);
+    const int budget = rule.budget > 0 ? rule.budget : RehearsalDlg::usualBudget;
+    const HeapDialog dialog(new RehearsalDlg(backEnd, std::move(wanted), budget, over));
+    dialog->exec();
+    // Who has only looked has set none.
+    return dialog && dialog->hitsAnHour() != budget ? dialog->hitsAnHour() : rule.budget;
 }
 
 void AlertCenter::show() {

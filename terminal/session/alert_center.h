@@ -33,6 +33,8 @@ public:
     void setRules(const AlertSettings& rules);
     // Tells a rule as it would be told, whatever it says of pauses.
     void test(const AlertRule& rule);
+    // Shows how often a rule would have spoken, over a window. The hits an hour that the user had it warn of.
+    int rehearse(const AlertRule& rule, QWidget* over);
     // Opens the window of the alerts.
     void show();
 

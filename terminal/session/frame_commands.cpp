@@ -271,8 +271,10 @@ void FrameCommands::changeSettings(SettingsPage first, const std::optional<Alert
     const TerminalChoices present{session.language(), settings.scheme(), settings.greenIsUp(),
                                   settings.fontSize(), settings.switches()};
     const HeapDialog dialog(new SettingsDialog(present, &session.frame()));
-    auto* rules = new AlertRulesPage(session.alerts().rules(),
-                                     [this](const AlertRule& rule) { session.alerts().test(rule); });
+    auto* rules = new AlertRulesPage(
+        session.alerts().rules(),
+        {[this](const AlertRule& rule) { session.alerts().test(rule); },
+         [this, &dialog](const AlertRule& rule) { return session.alerts().rehearse(rule, dialog.get()); }});
     dialog->addPage(rules, terminalText(TextId::SettingsAlerts),
                     [rules] { return rules->showFault().isEmpty(); });
     if (proposed)

@@ -1293,7 +1293,7 @@
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TITLE">
         <source></source>
-        <translation>Key Set on the News of 30 Days</translation>
+        <translation>Tried on the Last 30 Days</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_RUNS">
         <source></source>
@@ -2463,9 +2463,17 @@
         <source></source>
         <translation>A&amp;dd</translation>
     </message>
+    <message id="TERMINAL_ALERT_AN_HOUR">
+        <source></source>
+        <translation> an hour</translation>
+    </message>
     <message id="TERMINAL_ALERT_BETWEEN_WORDS">
         <source></source>
         <translation>”, “</translation>
+    </message>
+    <message id="TERMINAL_ALERT_BUDGET">
+        <source></source>
+        <translation>&amp;Budget</translation>
     </message>
     <message id="TERMINAL_ALERT_CLOSE">
         <source></source>
@@ -2539,9 +2547,17 @@
         <source></source>
         <translation>%1.</translation>
     </message>
+    <message id="TERMINAL_ALERT_NO_BUDGET">
+        <source></source>
+        <translation>no limit</translation>
+    </message>
     <message id="TERMINAL_ALERT_ONLY_CONNECTED">
         <source></source>
         <translation>Only while &amp;connected</translation>
+    </message>
+    <message id="TERMINAL_ALERT_OVER_BUDGET">
+        <source></source>
+        <translation>%1 (more than %2 an hour)</translation>
     </message>
     <message id="TERMINAL_ALERT_PAUSE">
         <source></source>
@@ -2570,6 +2586,10 @@
     <message id="TERMINAL_ALERT_RECEIVED">
         <source></source>
         <translation>received %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_REHEARSE">
+        <source></source>
+        <translation>Tr&amp;y on 30 Days…</translation>
     </message>
     <message id="TERMINAL_ALERT_REMOVE">
         <source></source>

@@ -1293,7 +1293,7 @@
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TITLE">
         <source></source>
-        <translation>關鍵字組與三十日新聞</translation>
+        <translation>三十日新聞測試</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_RUNS">
         <source></source>
@@ -2463,9 +2463,17 @@
         <source></source>
         <translation>新增(&amp;D)</translation>
     </message>
+    <message id="TERMINAL_ALERT_AN_HOUR">
+        <source></source>
+        <translation> 則/小時</translation>
+    </message>
     <message id="TERMINAL_ALERT_BETWEEN_WORDS">
         <source></source>
         <translation>」、「</translation>
+    </message>
+    <message id="TERMINAL_ALERT_BUDGET">
+        <source></source>
+        <translation>上限(&amp;B)</translation>
     </message>
     <message id="TERMINAL_ALERT_CLOSE">
         <source></source>
@@ -2539,9 +2547,17 @@
         <source></source>
         <translation>%1。</translation>
     </message>
+    <message id="TERMINAL_ALERT_NO_BUDGET">
+        <source></source>
+        <translation>不限</translation>
+    </message>
     <message id="TERMINAL_ALERT_ONLY_CONNECTED">
         <source></source>
         <translation>僅限連線時(&amp;C)</translation>
+    </message>
+    <message id="TERMINAL_ALERT_OVER_BUDGET">
+        <source></source>
+        <translation>%1（每小時超過 %2 則）</translation>
     </message>
     <message id="TERMINAL_ALERT_PAUSE">
         <source></source>
@@ -2570,6 +2586,10 @@
     <message id="TERMINAL_ALERT_RECEIVED">
         <source></source>
         <translation>收到 %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_REHEARSE">
+        <source></source>
+        <translation>以三十日新聞測試(&amp;Y)…</translation>
     </message>
     <message id="TERMINAL_ALERT_REMOVE">
         <source></source>

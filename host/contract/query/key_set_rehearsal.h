@@ -7,6 +7,7 @@
 
 #include <QDate>
 #include <QString>
+#include <QStringList>
 
 #include <cstddef>
 #include <cstdint>
@@ -32,9 +33,11 @@ struct WIREPANE_CONTRACT_EXPORT Rehearsal {
         int hits = 0;
     };
     static constexpr std::size_t mostWords = 10;
+    static constexpr std::size_t mostTitles = 200;
 
     int tried = 0;                  // headlines
     std::vector<HeadlineKey> hits;  // newest first
+    QStringList titles;             // of the first of them, in their order, `mostTitles` at most
     std::vector<Day> days;          // oldest first, also those without a hit
     std::vector<Hour> hours;        // those with hits, busiest first, of equal ones the latest
     // Parts that ask for something, as they are written, by the hits that hold them.
@@ -60,7 +63,7 @@ public:
         Wants wants;
     };
     struct KeySet {
-        QString query;  // unless:
+        QString query;  // as alerts know them, unless:
         Wants wants;    // says what is wanted, and `parts` which keyword brings it
         std::vector<Part> parts;
         std::vector<std::int32_t> newsTypes;  // empty: all

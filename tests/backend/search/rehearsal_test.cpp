@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "backend/search/rehearsal.h"
 
+#include "backend/store/rehearsal_desk.h"
 #include "backend/store/store_file.h"
 #include "backend/store/store_reader.h"
 #include "tests/backend/store/store_fixture.h"
@@ -18,16 +19,14 @@ protected:
     void add(std::int64_t time, const QString& title, unsigned char service = 1) {
         NewsItem item = newsItem(service, u"n%1"_s.arg(++added), time, title);
         item.related = {{0, u"AAPL"_s}};
+        item.story = u"The story of "_s + title;
         takeNews(item);
     }
     std::optional<Rehearsal> rehearsed(const QString& query, std::int64_t latest = at(23, 59),
                                        std::vector<unsigned char> services = {1, 2}) {
         StoreReader reader(*store);
-        return rehearse(
-            *store, query, {std::move(services), QDate(2026, 3, 2), 3, latest},
-            [&](const CHeadline& headline) {
-                return reader.relatedSymbols(keyOf(headline)).value_or(std::vector<CSymbolInfo>());
-            });
+        return rehearse(*store, query, {std::move(services), QDate(2026, 3, 2), 3, latest},
+                        rehearsedNews(reader));
     }
     static QString wordsOf(const std::vector<Rehearsal::Word>& words) {
         QStringList texts;
@@ -78,8 +77,17 @@ TEST_F(RehearsalTest, CountsByDayAndHourWhatIsWithinItsTime) {
     const auto found = rehearsed(u"gold"_s);
     EXPECT_EQ(found->hours.front().begin, at(9, 0));
     EXPECT_EQ(found->hits.front().time, at(10, 0));
-    for (const QString& fault : {u""_s, u"gold |"_s, u"story:gold"_s})
+    for (const QString& fault : {u""_s, u"gold |"_s, u"is:unread"_s})
         EXPECT_FALSE(rehearsed(fault)) << fault.toStdString();
+}
+
+TEST_F(RehearsalTest, LooksAtStoriesWhereAnAlertDoes) {
+    add(at(9, 0), u"Gold"_s);
+    add(at(9, 1), u"Tin"_s);
+    const auto found = rehearsed(u"story:\"story of tin\" | title:copper"_s);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->titles, QStringList{u"Tin"_s});
+    EXPECT_EQ(wordsOf(found->bringing), u"story:\"story of tin\"=1, title:copper=0"_s);
 }
 
 TEST_F(RehearsalTest, TriesPlainKeywordsWithWhatMatchesThemLive) {

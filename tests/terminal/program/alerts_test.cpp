@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What the user is told of as it comes, where he reads of it, and how he says what he wants to be told of.
+#include "host/controls/rehearsal_dlg.h"
+#include "host/controls/report_list.h"
 #include "terminal/alerts/alert_model.h"
 #include "terminal/alerts/alert_rules_page.h"
 #include "terminal/alerts/alert_toast.h"
@@ -174,6 +176,40 @@ TEST_F(AlertsTest, WhatAViewProposesIsOneMoreRuleThatTheUserDecidesOn) {
     ASSERT_EQ(rules.rules.size(), 3U);
     EXPECT_EQ(rules.rules[2].name, u"FLASH (2)"_s);
     EXPECT_EQ(rules.rules[2].query, u"story:gold"_s);
+}
+
+TEST_F(AlertsTest, ARuleIsTriedOnThePastBeforeItIsKeptAndWarnsOfMoreThanItsBudget) {
+    AlertSettings rules;
+    rules.rules = {AlertRule()};
+    rules.rules.front().name = u"metals"_s;
+    rules.rules.front().query = u"tin"_s;
+    rules.rules.front().isOn = false;
+    session->alerts().setRules(rules);
+    for (const QString& title : {u"Tin"_s, u"Tin again"_s, u"Copper"_s})
+        publish(title);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return desk().entries().size() == 2; }));
+    const auto rehearse = [](RehearsalDlg& tried) {
+        const auto* days = tried.findChild<ReportList*>();
+        ASSERT_TRUE(QTest::qWaitFor([days] { return days->rowCount() == 30; }, 10'000));
+        EXPECT_EQ(days->item(0, 0)->text(), u"2"_s);
+        tried.findChild<QSpinBox*>()->setValue(1);
+        tried.accept();
+    };
+    const auto change = [&](QDialog& dialog) {
+        auto* page = dialog.findChild<AlertRulesPage*>();
+        const auto buttons = page->findChildren<QPushButton*>();
+        answering<RehearsalDlg>([&] { buttons.back()->click(); }, rehearse);
+        page->findChild<QListWidget*>()->item(0)->setCheckState(Qt::Checked);
+        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    };
+    answering<QDialog>([this] { emit session->frame().commanded(FrameCommand::Settings); }, change);
+    ASSERT_EQ(session->alerts().rules().rules.size(), 1U);
+    EXPECT_EQ(session->alerts().rules().rules.front().budget, 1);
+    EXPECT_EQ(alertsFromJson(session->settings().alerts()), session->alerts().rules());
+    publish(u"Tin jumps"_s);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return toastTexts().contains(u"metals"_s); }));
+    publish(u"Tin falls"_s);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return toastTexts().contains(u"metals (more than 1 an hour)"_s); }));
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "search/report_list.h"
+#include "host/controls/report_list.h"
 
 #include "host/controls/roomy_rows.h"
 

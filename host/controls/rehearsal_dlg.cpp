@@ -1,13 +1,10 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
-#include "search/rehearsal_dlg.h"
+#include "host/controls/rehearsal_dlg.h"
 
 #include "host/contract/lang_text.h"
+#include "host/controls/report_list.h"
 #include "host/controls/window_id.h"
-#include "search/dialog_controls.h"
-#include "search/report_list.h"
-#include "search/search_ids.h"
-#include "search/search_keys.h"
 
 #include <QDateTime>
 #include <QHBoxLayout>
@@ -26,9 +23,6 @@ namespace wirepane {
 
 namespace {
 
-constexpr int usualBudget = 20;
-constexpr int mostBudget = 100000;
-constexpr std::size_t mostHitsShown = 200;
 constexpr int characters = 110;
 constexpr int rowsOfFigures = 10;
 constexpr int rowsOfHits = 8;
@@ -47,28 +41,50 @@ QLabel* addLabel(QDialog* dialog, int id) {
     return label;
 }
 
+// "%1", "%2": numbers, or an hour and a number.
+namespace keys {
+
+constexpr QLatin1StringView title{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TITLE"};
+constexpr QLatin1StringView runs{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_RUNS"};
+constexpr QLatin1StringView failed{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_FAILED"};
+constexpr QLatin1StringView summary{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_SUMMARY"};
+constexpr QLatin1StringView busiest{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUSIEST"};
+constexpr QLatin1StringView budget{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUDGET"};
+constexpr QLatin1StringView over{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_OVER"};
+constexpr QLatin1StringView within{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_WITHIN"};
+constexpr QLatin1StringView day{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_DAY"};
+constexpr QLatin1StringView count{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_COUNT"};
+constexpr QLatin1StringView brought{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BROUGHT"};
+constexpr QLatin1StringView excluded{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_EXCLUDED"};
+constexpr QLatin1StringView saved{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_SAVED"};
+constexpr QLatin1StringView time{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_TIME"};
+constexpr QLatin1StringView hit{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_HIT"};
+constexpr QLatin1StringView close{"IDS_DIALOG-DEAL-SEARCH_REHEARSAL_CLOSE"};
+
+}  // namespace keys
+
 }  // namespace
 
-RehearsalDlg::RehearsalDlg(KeySetRehearsal& rehearsals, KeySetRehearsal::KeySet keySet, TitlesOf titlesOfKeys,
+RehearsalDlg::RehearsalDlg(KeySetRehearsal& rehearsals, KeySetRehearsal::KeySet keySet, int present,
                            QWidget* parent)
-    : QDialog(parent), titlesOf(std::move(titlesOfKeys)) {
-    setWindowId(this, search_ids::rehearsal);
-    setWindowTitle(langText(search_keys::rehearsalTitle));
+    : QDialog(parent) {
+    setWindowId(this, rehearsal_ids::dialog);
+    setWindowTitle(langText(keys::title));
     auto* column = new QVBoxLayout(this);
-    summary = addLabel(this, search_ids::rehearsalSummary);
-    summary->setText(langText(search_keys::rehearsalRuns));
+    summary = addLabel(this, rehearsal_ids::summary);
+    summary->setText(langText(keys::runs));
     column->addWidget(summary);
-    column->addLayout(createBudget());
+    column->addLayout(createBudget(present));
     column->addLayout(createFigures(), 1);
     hits = new ReportList(
-        std::array{
-            ReportColumn{langText(search_keys::rehearsalTime), timeWidth, Qt::AlignLeft, {momentText(0)}},
-            ReportColumn{langText(search_keys::rehearsalHit), 0}},
+        std::array{ReportColumn{langText(keys::time), timeWidth, Qt::AlignLeft, {momentText(0)}},
+                   ReportColumn{langText(keys::hit), 0}},
         this);
-    setWindowId(hits, search_ids::rehearsalHits);
-    hits->setAccessibleName(langText(search_keys::rehearsalHit));
+    setWindowId(hits, rehearsal_ids::hits);
+    hits->setAccessibleName(langText(keys::hit));
     column->addWidget(hits, 1);
-    auto* close = makeButton(this, search_ids::ok, langText(search_keys::rehearsalClose));
+    auto* close = new QPushButton(langText(keys::close), this);
+    setWindowId(close, rehearsal_ids::close);
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     column->addWidget(close, 0, Qt::AlignRight);
@@ -80,15 +96,15 @@ RehearsalDlg::RehearsalDlg(KeySetRehearsal& rehearsals, KeySetRehearsal::KeySet 
                                         [this](const std::optional<Rehearsal>& outcome) { show(outcome); });
 }
 
-QLayout* RehearsalDlg::createBudget() {
+QLayout* RehearsalDlg::createBudget(int present) {
     budget = new QSpinBox(this);
-    setWindowId(budget, search_ids::rehearsalBudget);
-    budget->setRange(1, mostBudget);
-    budget->setValue(usualBudget);
-    auto* caption = new QLabel(langText(search_keys::rehearsalBudget), this);
+    setWindowId(budget, rehearsal_ids::budget);
+    budget->setRange(1, largestBudget);
+    budget->setValue(present);
+    auto* caption = new QLabel(langText(keys::budget), this);
     caption->setTextFormat(Qt::PlainText);
     caption->setBuddy(budget);
-    warning = addLabel(this, search_ids::rehearsalWarning);
+    warning = addLabel(this, rehearsal_ids::warning);
     connect(budget, &QSpinBox::valueChanged, this, &RehearsalDlg::warn);
     auto* row = new QHBoxLayout;
     row->addWidget(caption);
@@ -107,11 +123,9 @@ ReportList* RehearsalDlg::createList(int id, QLatin1StringView what, QLatin1Stri
 }
 
 QLayout* RehearsalDlg::createFigures() {
-    days = createList(search_ids::rehearsalDays, search_keys::rehearsalDay, search_keys::rehearsalCount);
-    words =
-        createList(search_ids::rehearsalWords, search_keys::rehearsalBrought, search_keys::rehearsalCount);
-    exclusions = createList(search_ids::rehearsalExclusions, search_keys::rehearsalExcluded,
-                            search_keys::rehearsalSaved);
+    days = createList(rehearsal_ids::days, keys::day, keys::count);
+    words = createList(rehearsal_ids::words, keys::brought, keys::count);
+    exclusions = createList(rehearsal_ids::exclusions, keys::excluded, keys::saved);
     auto* row = new QHBoxLayout;
     for (ReportList* list : {days, words, exclusions})
         row->addWidget(list);
@@ -121,12 +135,12 @@ QLayout* RehearsalDlg::createFigures() {
 void RehearsalDlg::show(const std::optional<Rehearsal>& outcome) {
     rehearsal = outcome;
     if (!rehearsal) {
-        summary->setText(langText(search_keys::rehearsalFailed));
+        summary->setText(langText(keys::failed));
         return;
     }
-    QString text = langText(search_keys::rehearsalSummary).arg(rehearsal->hits.size()).arg(rehearsal->tried);
+    QString text = langText(keys::summary).arg(rehearsal->hits.size()).arg(rehearsal->tried);
     if (!rehearsal->hours.empty())
-        text += u'\n' + langText(search_keys::rehearsalBusiest)
+        text += u'\n' + langText(keys::busiest)
                             .arg(momentText(rehearsal->hours.front().begin))
                             .arg(rehearsal->hours.front().hits);
     summary->setText(text);
@@ -141,22 +155,23 @@ void RehearsalDlg::show(const std::optional<Rehearsal>& outcome) {
     };
     fill(*words, rehearsal->bringing);
     fill(*exclusions, rehearsal->exclusions);
-    const std::vector<HeadlineKey> newest(
-        rehearsal->hits.begin(), rehearsal->hits.begin() + static_cast<std::ptrdiff_t>(std::min(
-                                                               rehearsal->hits.size(), mostHitsShown)));
-    const QStringList titles = titlesOf(newest);
-    for (std::size_t hit = 0; hit < newest.size(); ++hit)
-        hits->setRow(static_cast<int>(hit),
-                     {momentText(newest[hit].time), titles.value(static_cast<qsizetype>(hit))});
+    int hit = 0;
+    for (const QString& title : std::as_const(rehearsal->titles)) {
+        hits->setRow(hit, {momentText(rehearsal->hits[static_cast<std::size_t>(hit)].time), title});
+        ++hit;
+    }
     warn();
+}
+
+int RehearsalDlg::hitsAnHour() const {
+    return budget->value();
 }
 
 void RehearsalDlg::warn() {
     if (!rehearsal)
         return;
     const int over = rehearsal->hoursOver(budget->value());
-    warning->setText(over > 0 ? langText(search_keys::rehearsalOver).arg(over)
-                              : langText(search_keys::rehearsalWithin));
+    warning->setText(over > 0 ? langText(keys::over).arg(over) : langText(keys::within));
     QFont font = this->font();
     font.setBold(over > 0);
     warning->setFont(font);

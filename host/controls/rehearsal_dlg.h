@@ -2,15 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
 #include "host/contract/query/key_set_rehearsal.h"
 
 #include <QDialog>
-#include <QStringList>
 
-#include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
 
 class QLabel;
 class QLayout;
@@ -19,26 +17,43 @@ class QSpinBox;
 namespace wirepane {
 class ReportList;
 
+// The numbers of its controls.
+namespace rehearsal_ids {
+
+inline constexpr int close = 1;
+inline constexpr int dialog = 9006;
+inline constexpr int summary = 9007;
+inline constexpr int budget = 9008;
+inline constexpr int warning = 9009;
+inline constexpr int days = 9010;
+inline constexpr int words = 9011;
+inline constexpr int exclusions = 9012;
+inline constexpr int hits = 9013;
+
+}  // namespace rehearsal_ids
+
 // Shows how often a key set would have spoken: on each of the last 30 days and in the busiest hour, which of
 // its words bring it, what an exclusion would save, its newest hits, and how many hours were over a budget.
-class RehearsalDlg : public QDialog {
+class WIREPANE_HOST_EXPORT RehearsalDlg : public QDialog {
     Q_OBJECT
 
 public:
-    // The titles of the headlines, in their order; empty where one is not at hand.
-    using TitlesOf = std::function<QStringList(const std::vector<HeadlineKey>&)>;
+    static constexpr int usualBudget = 20;
+    static constexpr int largestBudget = 100'000;
 
-    RehearsalDlg(KeySetRehearsal& rehearsals, KeySetRehearsal::KeySet keySet, TitlesOf titlesOf,
-                 QWidget* parent);
+    // `rehearsals` outlives it. `budget`: hits an hour, from 1 to `largestBudget`.
+    RehearsalDlg(KeySetRehearsal& rehearsals, KeySetRehearsal::KeySet keySet, int budget, QWidget* parent);
+
+    // As the user has left it.
+    int hitsAnHour() const;
 
 private:
-    QLayout* createBudget();
+    QLayout* createBudget(int present);
     QLayout* createFigures();
     ReportList* createList(int id, QLatin1StringView what, QLatin1StringView count);
     void show(const std::optional<Rehearsal>& outcome);
     void warn();
 
-    const TitlesOf titlesOf;
     std::optional<Rehearsal> rehearsal;
     QLabel* summary = nullptr;
     QLabel* warning = nullptr;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/export.h"
+
 #include <QTableWidget>
 
 #include <span>
@@ -15,9 +17,9 @@ struct ReportColumn {
     QStringList texts = {};  // for which it is wide enough, as it is for its header
 };
 
-// A list of records in the search dialogs: rows of texts, of which one is selected as a whole, under a header
+// A list of records in a dialog: rows of texts, of which one is selected as a whole, under a header
 // whose columns the user can move.
-class ReportList : public QTableWidget {
+class WIREPANE_HOST_EXPORT ReportList : public QTableWidget {
     Q_OBJECT
 
 public:
