@@ -4,6 +4,8 @@
 
 #include "backend/news_item.h"
 
+#include <QJsonArray>
+
 using namespace Qt::StringLiterals;
 
 namespace wirepane {
@@ -17,6 +19,22 @@ HeadlineKey headlineFrom(Params& params) {
     if (key.error())
         params.fail(key.error()->message);
     return read;
+}
+
+std::vector<HeadlineKey> headlinesFrom(Params& params) {
+    if (!params.has(u"keys"_s))
+        return {headlineFrom(params)};
+    if (!params.value(u"keys"_s).isArray())
+        params.fail(u"\"keys\" is no list of headlines"_s);
+    const QJsonArray list = params.value(u"keys"_s).toArray();
+    std::vector<HeadlineKey> keys;
+    for (qsizetype place = 0; place < list.size() && !params.error(); ++place) {
+        Params key(list[place].toObject());
+        keys.push_back(headlineFrom(key));
+        if (key.error())
+            params.fail(u"\"keys\", %1: %2"_s.arg(place + 1).arg(key.error()->message));
+    }
+    return keys;
 }
 
 }  // namespace wirepane

@@ -50,7 +50,7 @@ Answer MarkMethods::get(Params& params) const {
 }
 
 Answer MarkMethods::set(Params& params) const {
-    const HeadlineKey key = headlineFrom(params);
+    const std::vector<HeadlineKey> keys = headlinesFrom(params);
     const MarkChange change{stateFrom(params), params.optionalBool(u"starred"_s)};
     if (!change.state && !change.isStarred)
         params.fail(u"\"state\" or \"starred\" is missing"_s);
@@ -58,7 +58,7 @@ Answer MarkMethods::set(Params& params) const {
         params.fail(u"the store can only be read: nothing is marked"_s, RpcCode::Refused);
     if (params.error())
         return *params.error();
-    session.backEnd().changeMarks({key}, change);
+    session.backEnd().changeMarks(keys, change);
     return QJsonObject();
 }
 

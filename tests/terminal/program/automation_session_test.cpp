@@ -53,7 +53,8 @@ TEST_F(AutomationSessionTest, MarksAreSetCountedAndKept) {
     {
         ScriptClient script(arguments());
         script.result(u"feed.push"_s, first);
-        script.result(u"feed.push"_s, news(1, u"2026-03-02T09:32:00"_s, 2, u"Second"_s));
+        const QJsonObject second = news(1, u"2026-03-02T09:32:00"_s, 2, u"Second"_s);
+        script.result(u"feed.push"_s, second);
         // Nothing is shown by itself, which would make it seen.
         script.result(u"view.open"_s, QJsonObject{{u"own"_s, true},
                                                   {u"settings"_s, QJsonObject{{u"FollowNewest"_s, false}}}});
@@ -69,6 +70,14 @@ TEST_F(AutomationSessionTest, MarksAreSetCountedAndKept) {
         EXPECT_EQ(script.errorCode(u"mark.set"_s, with(u"state"_s, u"gone"_s)), -32602);
         EXPECT_EQ(script.errorCode(u"mark.set"_s, QJsonObject{{u"key"_s, first}}), -32602);
         EXPECT_EQ(script.errorCode(u"mark.get"_s, QJsonObject()), -32602);
+        // Many at once: all or nothing.
+        const auto all = [&](const QJsonArray& keys) {
+            return QJsonObject{{u"keys"_s, keys}, {u"state"_s, u"read"_s}};
+        };
+        EXPECT_EQ(script.errorCode(u"mark.set"_s, all({second, QJsonObject()})), -32602);
+        EXPECT_EQ(unread(), u"1"_s);
+        script.result(u"mark.set"_s, all({first, second}));
+        EXPECT_EQ(unread(), QString());
     }
     ScriptClient again(arguments());
     const QJsonObject mark = again.result(u"mark.get"_s, QJsonObject{{u"key"_s, first}}).toObject();
