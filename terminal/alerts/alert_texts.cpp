@@ -3,9 +3,9 @@
 #include "terminal/alerts/alert_texts.h"
 
 #include "backend/alerts/alert_entry.h"
+#include "terminal/translations/shown_time.h"
 #include "terminal/translations/terminal_text.h"
 
-#include <QDateTime>
 #include <QStringList>
 
 #include <array>
@@ -22,8 +22,7 @@ constexpr std::array outcomes{TextId::AlertTold,      TextId::AlertRuleOff, Text
 static_assert(outcomes.size() == lastAlertOutcome + 1);
 
 QString moment(TextId what, std::int64_t time) {
-    return time == 0 ? QString()
-                     : terminalText(what).arg(QDateTime::fromSecsSinceEpoch(time).toString(u"HH:mm:ss"_s));
+    return time == 0 ? QString() : terminalText(what).arg(shownTime(time));
 }
 
 QString matchText(const AlertEntry& entry) {

@@ -12,6 +12,7 @@
 #include "terminal/console/console.h"
 #include "terminal/console/exit_status.h"
 #include "terminal/session/session.h"
+#include "terminal/translations/shown_time.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -85,10 +86,6 @@ QString topicName(EmbeddedBackEnd& backEnd, unsigned char service, const QString
     return id;
 }
 
-QString momentText(std::int64_t moment) {
-    return QDateTime::fromSecsSinceEpoch(moment).toString(u"HH:mm:ss"_s);
-}
-
 QString whyNot(AlertOutcome outcome) {
     switch (outcome) {
         case AlertOutcome::Told:
@@ -145,8 +142,8 @@ void explainAlerts(Session& session, const CHeadline& headline) {
         QString became = u"not among the last alerts"_s;
         if (entry != entries.end())
             became = entry->outcome == AlertOutcome::Told
-                         ? u"told at %1"_s.arg(momentText(entry->told))
-                         : u"not told at %1: %2"_s.arg(momentText(entry->matched), whyNot(entry->outcome));
+                         ? u"told at %1"_s.arg(shownTime(entry->told))
+                         : u"not told at %1: %2"_s.arg(shownTime(entry->matched), whyNot(entry->outcome));
         printLine(
             u"alert %1: matches %2, %3"_s.arg(rules[rule].name, placesOf(found.wordsByPlace()), became));
     });

@@ -6,15 +6,12 @@
 #include "backend/store/embedded_back_end.h"
 #include "host/contract/clock.h"
 #include "terminal/frame/main_frame.h"
+#include "terminal/translations/shown_time.h"
 #include "terminal/translations/terminal_text.h"
-
-#include <QDateTime>
 
 #include <algorithm>
 #include <chrono>
 #include <utility>
-
-using namespace Qt::StringLiterals;
 
 namespace wirepane {
 
@@ -26,10 +23,6 @@ constexpr std::chrono::seconds comesWithin{3};  // what was kept away
 bool isSilentIn(const std::vector<QuietSource>& sources, const QString& name) {
     return std::ranges::any_of(
         sources, [&](const QuietSource& source) { return source.name == name && !source.answers; });
-}
-
-QString timeOf(std::int64_t moment) {
-    return QDateTime::fromSecsSinceEpoch(moment).toString(u"HH:mm:ss"_s);
 }
 
 }  // namespace
@@ -81,8 +74,8 @@ void BlindWindow::tell() {
 QString BlindWindow::textOf(const Away& away) const {
     const QString when =
         away.source.isEmpty()
-            ? terminalText(TextId::BlindCutOff).arg(timeOf(away.from), timeOf(away.to))
-            : terminalText(TextId::BlindSource).arg(away.source, timeOf(away.from), timeOf(away.to));
+            ? terminalText(TextId::BlindCutOff).arg(shownTime(away.from), shownTime(away.to))
+            : terminalText(TextId::BlindSource).arg(away.source, shownTime(away.from), shownTime(away.to));
     const auto matched = std::ranges::count_if(alerts.entries(), [&](const AlertEntry& entry) {
         return entry.matched >= away.to && entry.headline.time >= away.from && entry.headline.time < away.to;
     });

@@ -121,6 +121,13 @@ TEST_F(AlertsTest, ATimeWithoutNewsIsToldOnceItIsOverUntilTheUserClosesIt) {
     const QString both = session->frame().notices();
     EXPECT_TRUE(both.contains(u"No sign of life from Harbour between 12:00:0"_s)) << both.toStdString();
     EXPECT_FALSE(both.contains(u"Slow"_s));
+    // Over a night it names the days.
+    session->setConnected(false);
+    host_clock::startAt(noon + 24 * 3600);
+    session->setConnected(true);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return session->frame().notices() != both; }, 20'000));
+    EXPECT_TRUE(session->frame().notices().contains(u"Cut off from 03/02 12:02:0"_s))
+        << session->frame().notices().toStdString();
 }
 
 TEST_F(AlertsTest, TheSettingsTakeNoRuleThatCannotBeUnderstood) {
