@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/endurance/desk.h"
 
+#include "backend/alerts/alert_looks.h"
 #include "host/contract/fixed_services.h"
 #include "host/contract/search_control.h"
 #include "host/contract/view_options.h"
@@ -22,6 +23,7 @@
 #include <QTimer>
 
 #include <gtest/gtest.h>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -128,6 +130,7 @@ Desk::Desk(const QString& storePath, const QString& systemFolder)
     for (int view = 0; view < desk::views; ++view)
         open(view, systemFolder);
     tickKeySets();
+    startAlerts();
 }
 
 Desk::Desk(const Desk& other, const QString& systemFolder)
@@ -143,6 +146,22 @@ Desk::Desk(const Desk& other, const QString& systemFolder)
 Desk::~Desk() {
     for (Place& place : views)
         place.view.reset();
+    backEnd->judgeLooksBy({});
+}
+
+void Desk::startAlerts() {
+    AlertSettings settings;
+    for (const QString& query : {u"copper -strike"_s, u"title:rate | title:rates"_s, u"story:strike"_s}) {
+        AlertRule rule;
+        rule.name = query;
+        rule.query = query;
+        rule.tint = 1;
+        rule.tag = query.left(longestAlertTag);
+        settings.rules.push_back(rule);
+    }
+    alertDesk = std::make_unique<AlertDesk>(*backEnd, settings);
+    backEnd->judgeLooksBy(looksBy(settings.rules, *backEnd));
+    alertDesk->begin();
 }
 
 void Desk::install() {
@@ -195,8 +214,14 @@ void Desk::goTo(int view, int mode) {
 
 QStringList Desk::textsOf(int view, int list, int row) const {
     CSuperSheetWnd& sheet = *viewOf(view).sheetOf(list);
+    // What is folded is read once it is unfolded.
+    if (sheet.isRowHidden(row)) {
+        sheet.setActiveSelection(row, 0);
+        viewOf(view).onCommand(ids::turnFold);
+        EXPECT_FALSE(sheet.isRowHidden(row));
+    }
     if (row < sheet.firstVisibleRow() || row > sheet.firstVisibleRow() + sheet.rowsPerPage()) {
-        sheet.verticalScrollBar()->setValue(row);
+        sheet.setFirstVisibleRow(row);
         viewOf(view).vRealUpdateView();
     }
     QStringList texts;
@@ -306,6 +331,14 @@ void Desk::doSomething(WeekWire& dice) {
         sheet->verticalScrollBar()->setValue(dice.below(3) == 0 ? dice.below(std::max(1, rows)) : 0);
     else if (rows > 0)
         view.bChangeNewsPos(view.state()[u"mode"_s].toInt(), dice.below(std::min(rows, 200)));
+    if (dice.below(4) == 0)
+        readAndHold(view, dice);
+}
+
+// What the keys of a list do to what is marked, held and folded.
+void Desk::readAndHold(TRVNewsCtrlView& view, WeekWire& dice) {
+    constexpr int commands[] = {ids::markRead, ids::markUnread, ids::turnStar, ids::holdList, ids::turnFold};
+    view.onCommand(commands[dice.below(int(std::size(commands)))]);
 }
 
 void Desk::doSomethingBig(WeekWire& dice, const QDate& day) {

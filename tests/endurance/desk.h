@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/alerts/alert_desk.h"
 #include "backend/store/embedded_back_end.h"
 #include "headline_list/list_index.h"
 #include "host/contract/cfg_io.h"
@@ -28,7 +29,8 @@ inline const QString warningWord = QStringLiteral("strike");
 bool isRelated(std::int32_t category, const QString& title);
 }  // namespace desk
 
-// A terminal with three views over one store. The installed back end is its own from here on.
+// A terminal with three views, all that views can do switched on, and alert rules over one store. The
+// installed back end is its own from here on.
 class Desk {
 public:
     // `systemFolder` is where the module looks for its own files.
@@ -38,6 +40,8 @@ public:
     ~Desk();
 
     wirepane::EmbeddedBackEnd& embeddedBackEnd() { return *backEnd; }
+    // Those of the terminal that was opened first: it alone keeps them.
+    const AlertDesk& alerts() const { return *alertDesk; }
     TRVNewsCtrlView& viewOf(int number) const { return *views.at(static_cast<std::size_t>(number)).view; }
     std::vector<HeadlineKey> keysOf(int view, int list) const;
     std::vector<unsigned char> tickedServices(int view) const;
@@ -67,12 +71,15 @@ private:
     };
     void open(int number, const QString& systemFolder);
     void tickKeySets();
+    void startAlerts();
+    void readAndHold(TRVNewsCtrlView& view, WeekWire& dice);
     void search(const QString& word);
     void askEveryService(const CSearch& condition);
     void awaitSearches();
     void letOtherSearchesGo();
 
     std::unique_ptr<wirepane::EmbeddedBackEnd> backEnd;
+    std::unique_ptr<AlertDesk> alertDesk;  // null: there is none
     std::array<Place, desk::views> views;
 };
 
