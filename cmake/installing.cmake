@@ -12,6 +12,10 @@ if(TARGET wirepane_wire_postgres)
     add_dependencies(wirepane_installed wirepane_wire_postgres)
 endif()
 
+if(TARGET wirepane_sound)
+    add_dependencies(wirepane_installed wirepane_sound)
+endif()
+
 # For whoever uses the terminal.
 install(TARGETS wirepane wirepane_sample_wire_program RUNTIME DESTINATION bin COMPONENT terminal)
 # Under a folder of its interface: the module of another version may stand beside it.

@@ -1,14 +1,18 @@
 # The Debian packages: "wirepane"; the libraries and the module, under a name that changes with their interface;
-# "wirepane-wire", what speaks with the server of a wire; and "wirepane-dev" for embedders. Debug symbols stand in packages of their own ("-dbgsym").
+# "wirepane-wire", what speaks with the server of a wire; "wirepane-sound", what plays tones; and "wirepane-dev" for embedders. Debug symbols stand in packages of their own ("-dbgsym").
 set(WIREPANE_CONTACT "The Wirepane authors <authors@wirepane.example>" CACHE STRING "Who answers for the packages")
 set(WIREPANE_TERMINAL_PACKAGE wirepane)
 set(WIREPANE_LIBRARY_PACKAGE libwirepane-host${WIREPANE_ABI})
 set(WIREPANE_DEVELOPMENT_PACKAGE wirepane-dev)
 
 set(WIREPANE_WIRE_PACKAGE wirepane-wire)
+set(WIREPANE_SOUND_PACKAGE wirepane-sound)
 set(WIREPANE_COMPONENTS terminal library development)
 if(TARGET wirepane_wire_postgres)
     list(APPEND WIREPANE_COMPONENTS wire)
+endif()
+if(TARGET wirepane_sound)
+    list(APPEND WIREPANE_COMPONENTS sound)
 endif()
 
 # What Debian asks of every package.
@@ -37,7 +41,7 @@ set(CPACK_DEBIAN_TERMINAL_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_TERMINAL_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_TERMINAL_DEBUGINFO_PACKAGE ON)
 set(CPACK_DEBIAN_TERMINAL_PACKAGE_DEPENDS "${WIREPANE_LIBRARY_PACKAGE} (= ${PROJECT_VERSION})")
-set(CPACK_DEBIAN_TERMINAL_PACKAGE_RECOMMENDS "fonts-noto-cjk, fonts-noto-cjk-extra, fonts-liberation, qt6-translations-l10n, qt6-wayland")
+set(CPACK_DEBIAN_TERMINAL_PACKAGE_RECOMMENDS "${WIREPANE_SOUND_PACKAGE}, fonts-noto-cjk, fonts-noto-cjk-extra, fonts-liberation, qt6-translations-l10n, qt6-wayland")
 set(CPACK_COMPONENT_TERMINAL_DESCRIPTION
     "Reads, searches, prints and saves securities news as it arrives.\n It keeps its news in a store of its own.")
 
@@ -57,6 +61,13 @@ set(CPACK_DEBIAN_WIRE_DEBUGINFO_PACKAGE ON)
 set(CPACK_DEBIAN_WIRE_PACKAGE_DEPENDS "${WIREPANE_TERMINAL_PACKAGE} (= ${PROJECT_VERSION})")
 set(CPACK_COMPONENT_WIRE_DESCRIPTION
     "Lets Wirepane's terminals follow a wire that PostgreSQL keeps.\n Loaded when a wire is named.")
+
+set(CPACK_DEBIAN_SOUND_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_SOUND_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_SOUND_DEBUGINFO_PACKAGE ON)
+set(CPACK_DEBIAN_SOUND_PACKAGE_DEPENDS "${WIREPANE_TERMINAL_PACKAGE} (= ${PROJECT_VERSION})")
+set(CPACK_COMPONENT_SOUND_DESCRIPTION
+    "Lets Wirepane's terminal tell alerts by tones.\n Without it alerts are told by the desktop's own sound.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS

@@ -9,6 +9,7 @@ packages=(
     qtkeychain-qt6-dev libgl-dev
     libsqlite3-dev libopencc-dev libopencc-data zlib1g-dev libzstd-dev libdtl-dev
     libpq-dev postgresql
+    qt6-multimedia-dev dbus
     libgtest-dev libbenchmark-dev nginx-light openssl
     fonts-dejavu-core fonts-liberation fonts-noto-cjk fonts-noto-mono tzdata
 )

@@ -15,6 +15,11 @@ namespace {
 
 constexpr int lastMinute = 24 * 60 - 1;
 
+// Rules of before there was a choice say whether there is one.
+QString soundFrom(const QJsonValue& stored) {
+    return stored.toBool() ? QString(soundOfDesktop) : stored.toString();
+}
+
 std::optional<AlertRule> ruleFrom(const QJsonObject& object) {
     JsonFields fields(object);
     AlertRule rule;
@@ -22,7 +27,10 @@ std::optional<AlertRule> ruleFrom(const QJsonObject& object) {
     rule.query = fields.text(u"query"_s);
     rule.isOn = fields.optionalFlag(u"on"_s).value_or(rule.isOn);
     rule.hasToast = fields.optionalFlag(u"toast"_s).value_or(rule.hasToast);
-    rule.hasSound = fields.optionalFlag(u"sound"_s).value_or(rule.hasSound);
+    rule.toastSeconds =
+        int(fields.optionalNumber(u"toastSeconds"_s, 0, longestToast).value_or(rule.toastSeconds));
+    rule.hasNotice = fields.optionalFlag(u"notice"_s).value_or(rule.hasNotice);
+    rule.sound = soundFrom(object[u"sound"_s]);
     rule.pauseSeconds = int(fields.optionalNumber(u"pause"_s, 0, longestAlertPause).value_or(0));
     rule.budget = int(fields.optionalNumber(u"budget"_s, 0, largestAlertBudget).value_or(0));
     rule.onlyConnected = fields.optionalFlag(u"onlyConnected"_s).value_or(rule.onlyConnected);
@@ -43,7 +51,7 @@ AlertSettings usualAlerts() {
     AlertRule flash;
     flash.name = u"FLASH"_s;
     flash.query = u"title:FLASH | title:快訊"_s;
-    flash.hasSound = true;
+    flash.sound = soundOfDesktop;
     AlertRule correction;
     correction.name = u"CORRECTION"_s;
     correction.query = u"title:correction | title:corrected | title:更正"_s;
@@ -57,7 +65,9 @@ QJsonObject alertsToJson(const AlertSettings& settings) {
                                  {u"query"_s, rule.query},
                                  {u"on"_s, rule.isOn},
                                  {u"toast"_s, rule.hasToast},
-                                 {u"sound"_s, rule.hasSound},
+                                 {u"toastSeconds"_s, rule.toastSeconds},
+                                 {u"notice"_s, rule.hasNotice},
+                                 {u"sound"_s, rule.sound},
                                  {u"pause"_s, rule.pauseSeconds},
                                  {u"budget"_s, rule.budget},
                                  {u"onlyConnected"_s, rule.onlyConnected},

@@ -4,11 +4,13 @@
 
 #include "host/contract/headline_looks.h"
 #include "host/controls/row_tints.h"
+#include "terminal/alerts/sound_box.h"
 #include "terminal/translations/terminal_text.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -37,13 +39,23 @@ void addTints(QComboBox& choice) {
     }
 }
 
+QLabel* labelOf(TextId text, QWidget& field) {
+    auto* label = new QLabel(terminalText(text));
+    label->setBuddy(&field);
+    constexpr int underlined = 4;  // a letter that is underlined takes more room than it is measured to
+    label->setMinimumWidth(label->sizeHint().width() + underlined);
+    return label;
+}
+
 }  // namespace
 
 AlertRuleForm::AlertRuleForm()
     : name(new QLineEdit),
       query(new QLineEdit),
       hasToast(new QCheckBox(terminalText(TextId::AlertToast))),
-      hasSound(new QCheckBox(terminalText(TextId::AlertSound))),
+      toastSeconds(new QSpinBox),
+      hasNotice(new QCheckBox(terminalText(TextId::AlertNotice))),
+      sound(new SoundBox),
       onlyConnected(new QCheckBox(terminalText(TextId::AlertOnlyConnected))),
       pause(new QSpinBox),
       budget(new QSpinBox),
@@ -51,10 +63,14 @@ AlertRuleForm::AlertRuleForm()
       tag(new QLineEdit) {
     name->setObjectName(u"name"_s);
     query->setObjectName(u"query"_s);
+    pause->setObjectName(u"pause"_s);
     name->setMaxLength(longestName);
     tag->setMaxLength(longestAlertTag);
     constexpr int queryInCharacters = 44;
     query->setMinimumWidth(fontMetrics().averageCharWidth() * queryInCharacters);
+    toastSeconds->setRange(0, longestToast);
+    toastSeconds->setSuffix(terminalText(TextId::AlertSeconds));
+    toastSeconds->setSpecialValueText(terminalText(TextId::AlertUntilClosed));
     pause->setRange(0, longestAlertPause);
     pause->setSuffix(terminalText(TextId::AlertSeconds));
     budget->setRange(0, largestAlertBudget);
@@ -64,29 +80,33 @@ AlertRuleForm::AlertRuleForm()
     auto* form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    addField(*form, TextId::AlertRuleName, *name);
-    addField(*form, TextId::AlertLooksFor, *query);
-    for (QCheckBox* box : {hasToast, hasSound, onlyConnected}) {
-        form->addRow(QString(), box);
+    form->addRow(labelOf(TextId::AlertRuleName, *name), name);
+    form->addRow(labelOf(TextId::AlertLooksFor, *query), query);
+    toastSeconds->setAccessibleName(terminalText(TextId::AlertStays));
+    auto* corner = new QHBoxLayout;
+    corner->addWidget(hasToast);
+    corner->addWidget(toastSeconds);
+    corner->addStretch(1);
+    form->addRow(QString(), corner);
+    form->addRow(QString(), hasNotice);
+    form->addRow(labelOf(TextId::AlertSound, *sound), sound);
+    form->addRow(QString(), onlyConnected);
+    for (const QCheckBox* box : {hasToast, hasNotice, onlyConnected})
         connect(box, &QCheckBox::toggled, this, &AlertRuleForm::edited);
-    }
-    addField(*form, TextId::AlertPauseOf, *pause);
-    addField(*form, TextId::AlertBudget, *budget);
-    addField(*form, TextId::AlertTint, *tint);
-    addField(*form, TextId::AlertTag, *tag);
+    connect(hasToast, &QCheckBox::toggled, toastSeconds, &QWidget::setEnabled);
+    connect(sound, &SoundBox::chosen, this, &AlertRuleForm::edited);
+    form->addRow(labelOf(TextId::AlertPauseOf, *pause), pause);
+    form->addRow(labelOf(TextId::AlertBudget, *budget), budget);
+    auto* looks = new QHBoxLayout;
+    looks->addWidget(tint);
+    looks->addWidget(labelOf(TextId::AlertTag, *tag));
+    looks->addWidget(tag, 1);
+    form->addRow(labelOf(TextId::AlertTint, *tint), looks);
     for (const QLineEdit* edit : {name, query, tag})
         connect(edit, &QLineEdit::textEdited, this, &AlertRuleForm::edited);
-    for (const QSpinBox* number : {pause, budget})
+    for (const QSpinBox* number : {toastSeconds, pause, budget})
         connect(number, &QSpinBox::valueChanged, this, &AlertRuleForm::edited);
     connect(tint, &QComboBox::currentIndexChanged, this, &AlertRuleForm::edited);
-}
-
-void AlertRuleForm::addField(QFormLayout& form, TextId text, QWidget& field) {
-    auto* label = new QLabel(terminalText(text));
-    label->setBuddy(&field);
-    constexpr int underlined = 4;  // a letter that is underlined takes more room than it is measured to
-    label->setMinimumWidth(label->sizeHint().width() + underlined);
-    form.addRow(label, &field);
 }
 
 void AlertRuleForm::show(const AlertRule& rule) {
@@ -95,7 +115,10 @@ void AlertRuleForm::show(const AlertRule& rule) {
     query->setText(rule.query);
     query->setCursorPosition(0);
     hasToast->setChecked(rule.hasToast);
-    hasSound->setChecked(rule.hasSound);
+    toastSeconds->setValue(rule.toastSeconds);
+    toastSeconds->setEnabled(rule.hasToast);
+    hasNotice->setChecked(rule.hasNotice);
+    sound->setSound(rule.sound);
     onlyConnected->setChecked(rule.onlyConnected);
     pause->setValue(rule.pauseSeconds);
     budget->setValue(rule.budget);
@@ -107,7 +130,9 @@ AlertRule AlertRuleForm::changed(AlertRule rule) const {
     rule.name = name->text().trimmed();
     rule.query = query->text().trimmed();
     rule.hasToast = hasToast->isChecked();
-    rule.hasSound = hasSound->isChecked();
+    rule.toastSeconds = toastSeconds->value();
+    rule.hasNotice = hasNotice->isChecked();
+    rule.sound = sound->sound();
     rule.onlyConnected = onlyConnected->isChecked();
     rule.pauseSeconds = pause->value();
     rule.budget = budget->value();

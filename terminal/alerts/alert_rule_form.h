@@ -8,12 +8,11 @@
 
 class QCheckBox;
 class QComboBox;
-class QFormLayout;
 class QLineEdit;
 class QSpinBox;
 
 namespace wirepane {
-enum class TextId;
+class SoundBox;
 
 // What one rule is, to be changed: all but whether it is on.
 class AlertRuleForm : public QWidget {
@@ -34,12 +33,12 @@ signals:
     void edited();
 
 private:
-    void addField(QFormLayout& form, TextId text, QWidget& field);
-
     QLineEdit* name;
     QLineEdit* query;
     QCheckBox* hasToast;
-    QCheckBox* hasSound;
+    QSpinBox* toastSeconds;
+    QCheckBox* hasNotice;
+    SoundBox* sound;
     QCheckBox* onlyConnected;
     QSpinBox* pause;
     QSpinBox* budget;

@@ -19,8 +19,7 @@ constexpr std::chrono::seconds atMostEvery{1};
 constexpr std::int64_t budgetSeconds = 3600;
 }  // namespace
 
-AlertTeller::AlertTeller(AlertToast& alertToast, std::function<void()> sound)
-    : toast(alertToast), beep(std::move(sound)) {
+AlertTeller::AlertTeller(AlertToast& alertToast, Ways given) : toast(alertToast), ways(std::move(given)) {
     pause.setSingleShot(true);
     connect(&pause, &QTimer::timeout, this, &AlertTeller::tellWaiting);
 }
@@ -30,21 +29,31 @@ void AlertTeller::tell(const std::vector<AlertEntry>& entries, const std::vector
         const auto rule = std::ranges::find(rules, entry.rule, &AlertRule::name);
         if (rule == rules.end())
             continue;
-        isSoundWaiting = isSoundWaiting || rule->hasSound;
-        if (!rule->hasToast)
-            continue;
+        if (sound.isEmpty())
+            sound = rule->sound;
         const QString name = nameOf(*rule, entry.matched);
-        // What several rules say of one headline is said together.
-        if (waiting > 0 && newest.headline == entry.headline) {
-            newest.rule += u", "_s + name;
-            continue;
+        if (rule->hasToast) {
+            const bool isFirst = shown.count == 0;
+            add(shown, entry, name);
+            const bool staysUp = rule->toastSeconds == 0 || (!isFirst && seconds == 0);
+            seconds = staysUp ? 0 : isFirst ? rule->toastSeconds : std::max(seconds, rule->toastSeconds);
         }
-        newest = entry;
-        newest.rule = name;
-        ++waiting;
+        if (rule->hasNotice)
+            add(noticed, entry, name);
     }
     if (!pause.isActive())
         tellWaiting();
+}
+
+// What several rules say of one headline is said together.
+void AlertTeller::add(Waiting& waiting, const AlertEntry& entry, const QString& name) {
+    if (waiting.count > 0 && waiting.newest.headline == entry.headline) {
+        waiting.newest.rule += u", "_s + name;
+        return;
+    }
+    waiting.newest = entry;
+    waiting.newest.rule = name;
+    ++waiting.count;
 }
 
 QString AlertTeller::nameOf(const AlertRule& rule, std::int64_t moment) {
@@ -59,13 +68,21 @@ QString AlertTeller::nameOf(const AlertRule& rule, std::int64_t moment) {
 }
 
 void AlertTeller::tellWaiting() {
-    if (waiting == 0 && !isSoundWaiting)
-        return;
-    if (const int count = std::exchange(waiting, 0); count > 0)
-        toast.tell(newest.rule, newest.title, count);
-    if (std::exchange(isSoundWaiting, false))
-        beep();
-    pause.start(atMostEvery);
+    const Waiting forToast = std::exchange(shown, {});
+    const Waiting forDesktop = std::exchange(noticed, {});
+    const QString toPlay = std::exchange(sound, {});
+    if (forToast.count > 0)
+        toast.tell(forToast.newest.rule, forToast.newest.title, forToast.count, seconds);
+    if (forDesktop.count > 0) {
+        const QString more = forDesktop.count == 1
+                                 ? QString()
+                                 : u" ("_s + terminalText(TextId::AlertMore).arg(forDesktop.count - 1) + u')';
+        ways.notify(forDesktop.newest.rule + more, forDesktop.newest.title);
+    }
+    if (!toPlay.isEmpty())
+        ways.play(toPlay);
+    if (forToast.count > 0 || forDesktop.count > 0 || !toPlay.isEmpty())
+        pause.start(atMostEvery);
 }
 
 }  // namespace wirepane

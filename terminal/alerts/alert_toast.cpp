@@ -13,13 +13,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <chrono>
 
 namespace wirepane {
 
 namespace {
 
-constexpr std::chrono::seconds stays{12};
 constexpr int widthInCharacters = 52;
 constexpr int fromEdge = 12;  // of the window, pixels
 constexpr int overStatusBar = 40;
@@ -58,7 +58,7 @@ AlertToast::AlertToast(QWidget& window)
     hide();
 }
 
-void AlertToast::tell(const QString& ruleName, const QString& headline, int count) {
+void AlertToast::tell(const QString& ruleName, const QString& headline, int count, int seconds) {
     shown += count;
     rule->setText(ruleName);
     title->setText(headline);
@@ -69,13 +69,19 @@ void AlertToast::tell(const QString& ruleName, const QString& headline, int coun
     place();
     show();
     raise();
-    goes.start(stays);
+    staysUp = staysUp || seconds == 0;
+    if (staysUp)
+        goes.stop();
+    else
+        goes.start(std::max(std::chrono::milliseconds(std::chrono::seconds(seconds)),
+                            goes.remainingTimeAsDuration()));
     QAccessibleEvent spoken(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&spoken);
 }
 
 void AlertToast::hideEvent(QHideEvent* event) {
     shown = 0;
+    staysUp = false;
     goes.stop();
     QFrame::hideEvent(event);
 }

@@ -19,8 +19,9 @@ public:
     // Over the window, which owns it.
     explicit AlertToast(QWidget& window);
 
-    // The newest of `count` alerts, beside those that are up already.
-    void tell(const QString& rule, const QString& title, int count);
+    // The newest of `count` alerts, beside those that are up already; for so many seconds, and no shorter
+    // than these. 0: until the user closes it.
+    void tell(const QString& rule, const QString& title, int count, int seconds);
 
 signals:
     // The user wants to see them all.
@@ -38,7 +39,8 @@ private:
     QLabel* title;
     QLabel* more;
     QPushButton* close;
-    int shown = 0;  // alerts since it is up
+    int shown = 0;         // alerts since it is up
+    bool staysUp = false;  // one of them is to stay
     QTimer goes;
 };
 

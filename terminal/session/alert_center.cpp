@@ -37,10 +37,13 @@ AlertCenter::AlertCenter(EmbeddedBackEnd& embedded, TerminalSettings& terminalSe
       present(storedIn(settings)),
       alerts(backEnd, present),
       toast(new AlertToast(frame)),
-      teller(*toast, [] { QApplication::beep(); }) {
+      sounds([] { QApplication::beep(); }),
+      teller(*toast, {[this](const QString& sound) { sounds.play(sound); },
+                      [this](const QString& rule, const QString& title) { notices.tell(rule, title); }}) {
     connect(&alerts, &AlertDesk::told, &teller,
             [this](const std::vector<AlertEntry>& entries) { teller.tell(entries, present.rules); });
     connect(toast, &AlertToast::opened, this, &AlertCenter::show);
+    connect(&notices, &DesktopNotices::opened, this, &AlertCenter::show);
     backEnd.judgeLooksBy(looksBy(present.rules, backEnd));
     backEnd.onAlertProposed([this](const QString& name, const QString& query) {
         AlertRule rule;

@@ -4,6 +4,8 @@
 
 #include "backend/alerts/alert_desk.h"
 #include "terminal/alerts/alert_teller.h"
+#include "terminal/alerts/desktop_notices.h"
+#include "terminal/sound/alert_sounds.h"
 
 #include <QObject>
 #include <QPointer>
@@ -51,6 +53,8 @@ private:
     AlertSettings present;
     AlertDesk alerts;
     AlertToast* toast;  // belongs to the frame
+    AlertSounds sounds;
+    DesktopNotices notices;
     AlertTeller teller;
     QPointer<AlertsWindow> window;
 };

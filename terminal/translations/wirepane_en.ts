@@ -1003,6 +1003,18 @@
         <source></source>
         <translation>The file %1 cannot be written: %2.</translation>
     </message>
+    <message id="ERROR_SOUND_NOT_READ">
+        <source></source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message id="ERROR_SOUND_NO_WAVE">
+        <source></source>
+        <translation>%1 is no WAV file of plain samples (PCM of 8 or 16 bits).</translation>
+    </message>
+    <message id="ERROR_SOUND_TOO_LONG">
+        <source></source>
+        <translation>%1 is too long: a sound may last %2 seconds.</translation>
+    </message>
     <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
         <source></source>
         <translation>The keychain failed: %1</translation>
@@ -2543,6 +2555,10 @@
         <source></source>
         <translation>No alert yet. What your rules match is listed here as it comes, with the reason.</translation>
     </message>
+    <message id="TERMINAL_ALERT_NOTICE">
+        <source></source>
+        <translation>Told by the des&amp;ktop</translation>
+    </message>
     <message id="TERMINAL_ALERT_NOT_TOLD">
         <source></source>
         <translation>%1.</translation>
@@ -2627,13 +2643,53 @@
         <source></source>
         <translation>S&amp;ound</translation>
     </message>
+    <message id="TERMINAL_ALERT_SOUND_CHIME">
+        <source></source>
+        <translation>Chime</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_CHOOSE">
+        <source></source>
+        <translation>Choose a Sound</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_DESKTOP">
+        <source></source>
+        <translation>The desktop’s</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_FILE">
+        <source></source>
+        <translation>File…</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_FILES">
+        <source></source>
+        <translation>Sounds (*.wav)</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_KNOCK">
+        <source></source>
+        <translation>Knock</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_NONE">
+        <source></source>
+        <translation>None</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_PING">
+        <source></source>
+        <translation>Ping</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_USE">
+        <source></source>
+        <translation>Use</translation>
+    </message>
+    <message id="TERMINAL_ALERT_STAYS">
+        <source></source>
+        <translation>Stays for</translation>
+    </message>
     <message id="TERMINAL_ALERT_STORY">
         <source></source>
         <translation>Story of the alert</translation>
     </message>
     <message id="TERMINAL_ALERT_TAG">
         <source></source>
-        <translation>&amp;Tag in lists</translation>
+        <translation>&amp;Tag</translation>
     </message>
     <message id="TERMINAL_ALERT_TEST">
         <source></source>
@@ -2645,7 +2701,7 @@
     </message>
     <message id="TERMINAL_ALERT_TOAST">
         <source></source>
-        <translation>S&amp;hown in the corner</translation>
+        <translation>S&amp;hown in the corner for</translation>
     </message>
     <message id="TERMINAL_ALERT_TOLD">
         <source></source>
@@ -2654,6 +2710,10 @@
     <message id="TERMINAL_ALERT_TOLD_AT">
         <source></source>
         <translation>told %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_UNTIL_CLOSED">
+        <source></source>
+        <translation>until closed</translation>
     </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>

@@ -1003,6 +1003,18 @@
         <source></source>
         <translation>无法写入文件 %1：%2。</translation>
     </message>
+    <message id="ERROR_SOUND_NOT_READ">
+        <source></source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message id="ERROR_SOUND_NO_WAVE">
+        <source></source>
+        <translation>%1 不是未压缩的 WAV 文件（8 或 16 位）。</translation>
+    </message>
+    <message id="ERROR_SOUND_TOO_LONG">
+        <source></source>
+        <translation>%1 太长：音效最长 %2 秒。</translation>
+    </message>
     <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
         <source></source>
         <translation>钥匙串出错：%1</translation>
@@ -2497,7 +2509,7 @@
     </message>
     <message id="TERMINAL_ALERT_COUNT">
         <source></source>
-        <translation>%1 则警示</translation>
+        <translation>%1 条警示</translation>
     </message>
     <message id="TERMINAL_ALERT_DISCONNECTED">
         <source></source>
@@ -2537,11 +2549,15 @@
     </message>
     <message id="TERMINAL_ALERT_MORE">
         <source></source>
-        <translation>另有 %1 则</translation>
+        <translation>另有 %1 条</translation>
     </message>
     <message id="TERMINAL_ALERT_NONE">
         <source></source>
         <translation>尚无警示。规则比对到的新闻会即时列在这里，并说明原因。</translation>
+    </message>
+    <message id="TERMINAL_ALERT_NOTICE">
+        <source></source>
+        <translation>也以桌面通知提示(&amp;K)</translation>
     </message>
     <message id="TERMINAL_ALERT_NOT_TOLD">
         <source></source>
@@ -2601,7 +2617,7 @@
     </message>
     <message id="TERMINAL_ALERT_RULES_HELP">
         <source></source>
-        <translation>每则进来的标题都会以这些规则比对，与窗口显示的内容无关。未勾选的规则只列在警示中，不会提示。</translation>
+        <translation>每条进来的标题都会以这些规则比对，与窗口显示的内容无关。未勾选的规则只列在警示中，不会提示。</translation>
     </message>
     <message id="TERMINAL_ALERT_RULE_INCOMPLETE">
         <source></source>
@@ -2627,13 +2643,53 @@
         <source></source>
         <translation>音效(&amp;O)</translation>
     </message>
+    <message id="TERMINAL_ALERT_SOUND_CHIME">
+        <source></source>
+        <translation>钟声</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_CHOOSE">
+        <source></source>
+        <translation>选择音效</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_DESKTOP">
+        <source></source>
+        <translation>桌面音效</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_FILE">
+        <source></source>
+        <translation>文件…</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_FILES">
+        <source></source>
+        <translation>音效 (*.wav)</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_KNOCK">
+        <source></source>
+        <translation>敲击声</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_NONE">
+        <source></source>
+        <translation>无</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_PING">
+        <source></source>
+        <translation>清脆声</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_USE">
+        <source></source>
+        <translation>使用</translation>
+    </message>
+    <message id="TERMINAL_ALERT_STAYS">
+        <source></source>
+        <translation>停留</translation>
+    </message>
     <message id="TERMINAL_ALERT_STORY">
         <source></source>
         <translation>警示的新闻内容</translation>
     </message>
     <message id="TERMINAL_ALERT_TAG">
         <source></source>
-        <translation>列表中的标签(&amp;T)</translation>
+        <translation>标签(&amp;T)</translation>
     </message>
     <message id="TERMINAL_ALERT_TEST">
         <source></source>
@@ -2654,6 +2710,10 @@
     <message id="TERMINAL_ALERT_TOLD_AT">
         <source></source>
         <translation>提示 %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_UNTIL_CLOSED">
+        <source></source>
+        <translation>直到关闭</translation>
     </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>

@@ -1003,6 +1003,18 @@
         <source></source>
         <translation>無法寫入檔案 %1：%2。</translation>
     </message>
+    <message id="ERROR_SOUND_NOT_READ">
+        <source></source>
+        <translation>無法讀取 %1：%2</translation>
+    </message>
+    <message id="ERROR_SOUND_NO_WAVE">
+        <source></source>
+        <translation>%1 不是未壓縮的 WAV 檔案（8 或 16 位元）。</translation>
+    </message>
+    <message id="ERROR_SOUND_TOO_LONG">
+        <source></source>
+        <translation>%1 太長：音效最長 %2 秒。</translation>
+    </message>
     <message id="ERROR_SOURCES_KEYCHAIN_FAILED">
         <source></source>
         <translation>鑰匙圈發生錯誤：%1</translation>
@@ -2543,6 +2555,10 @@
         <source></source>
         <translation>尚無警示。規則比對到的新聞會即時列在這裡，並說明原因。</translation>
     </message>
+    <message id="TERMINAL_ALERT_NOTICE">
+        <source></source>
+        <translation>也以桌面通知提示(&amp;K)</translation>
+    </message>
     <message id="TERMINAL_ALERT_NOT_TOLD">
         <source></source>
         <translation>%1。</translation>
@@ -2627,13 +2643,53 @@
         <source></source>
         <translation>音效(&amp;O)</translation>
     </message>
+    <message id="TERMINAL_ALERT_SOUND_CHIME">
+        <source></source>
+        <translation>鐘聲</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_CHOOSE">
+        <source></source>
+        <translation>選擇音效</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_DESKTOP">
+        <source></source>
+        <translation>桌面音效</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_FILE">
+        <source></source>
+        <translation>檔案…</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_FILES">
+        <source></source>
+        <translation>音效 (*.wav)</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_KNOCK">
+        <source></source>
+        <translation>敲擊聲</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_NONE">
+        <source></source>
+        <translation>無</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_PING">
+        <source></source>
+        <translation>清脆聲</translation>
+    </message>
+    <message id="TERMINAL_ALERT_SOUND_USE">
+        <source></source>
+        <translation>使用</translation>
+    </message>
+    <message id="TERMINAL_ALERT_STAYS">
+        <source></source>
+        <translation>停留</translation>
+    </message>
     <message id="TERMINAL_ALERT_STORY">
         <source></source>
         <translation>警示的新聞內容</translation>
     </message>
     <message id="TERMINAL_ALERT_TAG">
         <source></source>
-        <translation>清單中的標籤(&amp;T)</translation>
+        <translation>標籤(&amp;T)</translation>
     </message>
     <message id="TERMINAL_ALERT_TEST">
         <source></source>
@@ -2654,6 +2710,10 @@
     <message id="TERMINAL_ALERT_TOLD_AT">
         <source></source>
         <translation>提示 %1</translation>
+    </message>
+    <message id="TERMINAL_ALERT_UNTIL_CLOSED">
+        <source></source>
+        <translation>直到關閉</translation>
     </message>
     <message id="TERMINAL_APP_TITLE">
         <source></source>

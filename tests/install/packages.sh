@@ -18,6 +18,8 @@ contains wirepane usr/bin/wirepane
 contains wirepane usr/bin/wirepane-sample-wire
 contains libwirepane-host0.1 usr/lib/wirepane-0.1/libwirepane_news.so
 contains wirepane usr/share/wirepane/docs/guide/guide.md
+contains wirepane-wire usr/lib/wirepane-0.1/libwirepane_wire_postgres.so
+contains wirepane-sound usr/lib/wirepane-0.1/libwirepane_sound.so
 contains wirepane-dev usr/share/pkgconfig/wirepane-host.pc
 
 # The symbols of a program that was stripped for its package stand in another.

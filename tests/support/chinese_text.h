@@ -15,7 +15,7 @@ namespace wirepane {
 // as it is may be there: the words of this list, keys with Ctrl, Alt or Shift, options, paths, placeholders.
 inline QStringList strangeParts(const QString& text, const QString& language) {
     static const QRegularExpression asItIs(QStringLiteral(
-        R"(\{market, code\}|\b(?:Wirepane|wirepane(?: import| check)?|RSS|Atom|OPML|WebSocket|ninjs|NewsML-G2|NewsML|CSV|JSON|XML|PDF|)"
+        R"(\{market, code\}|\b(?:Wirepane|wirepane(?: import| check)?|RSS|Atom|OPML|WebSocket|ninjs|NewsML-G2|NewsML|CSV|WAV|JSON|XML|PDF|)"
         R"(UTF-8|UTF-16|MiB|KB|AND|OR|CHIPS|chips|ASCII|Unicode|English|true|false|AM|PM|pt|px|A4|A3)\b|)"
         R"(\b(?:Ctrl|Alt|Shift)(?:\+\S+)?|\b(?:Enter|Esc|Tab|Space|Home|End|Del|Menu)\b|\bPage (?:Up|Down)\b|)"
         R"(--\w+|\*\.\w+|(?:/[\w.+~-]+)+|“\w+”|「\w+」|:memory:|Noto Sans Mono CJK \w+|fonts-noto-cjk|#rrggbb)"));

@@ -152,7 +152,7 @@ TEST_F(AlertsTest, TheSettingsTakeNoRuleThatCannotBeUnderstood) {
         EXPECT_TRUE(page->showFault().contains(u"two rules"_s));
         write(1, u"name"_s, u"tin"_s);
         list->item(1)->setCheckState(Qt::Unchecked);
-        page->findChild<QSpinBox*>()->setValue(-3);
+        page->findChild<QSpinBox*>(u"pause"_s)->setValue(-3);
         save->click();
     };
     answering<QDialog>([this] { emit session->frame().commanded(FrameCommand::Settings); }, change);
