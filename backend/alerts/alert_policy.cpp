@@ -6,6 +6,7 @@
 #include <QTime>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace wirepane {
 
@@ -17,6 +18,11 @@ bool isQuiet(std::int64_t moment, int from, int to) {
     const QTime time = QDateTime::fromSecsSinceEpoch(moment).time();
     const int minute = time.hour() * 60 + time.minute();
     return from <= to ? minute >= from && minute < to : minute >= from || minute < to;
+}
+
+// Also when the clock was set back meanwhile.
+bool isWithin(std::int64_t seconds, std::int64_t before, std::int64_t now) {
+    return std::abs(now - before) < seconds;
 }
 
 }  // namespace
@@ -38,7 +44,7 @@ AlertOutcome AlertPolicy::outcomeOf(const AlertEntry& entry, const AlertRule& ru
         return AlertOutcome::RuleOff;
     const OfRule known = ofRules.value(rule.name);
     const auto said = known.said.constFind(entry.title);
-    if (said != known.said.cend() && entry.matched - *said < sameWithin)
+    if (said != known.said.cend() && isWithin(sameWithin, *said, entry.matched))
         return AlertOutcome::Duplicate;
     if (entry.matched - entry.headline.time > lateAfter)
         return AlertOutcome::Late;
@@ -46,7 +52,7 @@ AlertOutcome AlertPolicy::outcomeOf(const AlertEntry& entry, const AlertRule& ru
         return AlertOutcome::Disconnected;
     if (isQuiet(entry.matched, conditions.quietFrom, conditions.quietTo))
         return AlertOutcome::QuietHours;
-    if (known.lastTold != 0 && entry.matched - known.lastTold < rule.pauseSeconds)
+    if (known.lastTold != 0 && isWithin(rule.pauseSeconds, known.lastTold, entry.matched))
         return AlertOutcome::Pause;
     return AlertOutcome::Told;
 }
@@ -54,9 +60,10 @@ AlertOutcome AlertPolicy::outcomeOf(const AlertEntry& entry, const AlertRule& ru
 void AlertPolicy::remember(const AlertEntry& entry) {
     OfRule& known = ofRules[entry.rule];
     if (entry.outcome == AlertOutcome::Told)
-        known.lastTold = std::max(known.lastTold, entry.matched);
+        known.lastTold = entry.matched;
     if (known.said.size() == mostTitles)
-        known.said.removeIf([&](const auto& said) { return entry.matched - said.value() >= sameWithin; });
+        known.said.removeIf(
+            [&](const auto& said) { return !isWithin(sameWithin, said.value(), entry.matched); });
     if (known.said.size() < mostTitles && entry.outcome != AlertOutcome::Duplicate)
         known.said.insert(entry.title, entry.matched);
 }

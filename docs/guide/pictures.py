@@ -17,12 +17,27 @@ import tempfile
 import threading
 
 MOMENT = "2026-03-02T10:30:00"
+PRESENT = 1_772_418_600  # the same, in seconds since 1970
 ALL, CATEGORY, SYMBOL, SEARCH, RELATION, WARRANTS, WARNINGS = range(7)
 TABS, SEARCH_EDIT, SEARCH_BUTTON, SHOW_TYPE = 3100, 3008, 3007, 25458
 DEALS_DIALOG, RELATION_DIALOG, WARNING_DIALOG, EXPORT_LIST = 3002, 3001, 3006, 3030
 WORDS = {"en": ("rate", "bank"), "zh-TW": ("市場", "銀行"), "zh-CN": ("公司", "银行")}
 SEARCH_NAMES = {"en": ("Interest rates", "Central banks"), "zh-TW": ("市場消息", "市場與銀行"), "zh-CN": ("公司消息", "公司与银行")}
 NOT_FOUND = {"en": "rate bank statement on:today", "zh-TW": "市場 銀行 on:today", "zh-CN": "公司 银行 on:today"}
+
+# Alert rules (name, query, tint, tag), what comes, and what comes often.
+RULES = {
+    "en": (("Flashes", "title:FLASH", 1, ""), ("Copper", "copper -scrap", 4, "Cu"), ("Harbour Steel", "\"Harbour Steel\"", 3, "HS")),
+    "zh-TW": (("快訊", "title:快訊", 1, ""), ("銅", "銅 -廢銅", 4, "銅"), ("港口鋼鐵", "港口鋼鐵", 3, "鋼")),
+    "zh-CN": (("快讯", "title:快讯", 1, ""), ("铜", "铜 -废铜", 4, "铜"), ("港口钢铁", "港口钢铁", 3, "钢")),
+}
+ARRIVALS = {
+    "en": ("FLASH: Harbour Steel halts its second furnace", "Copper stocks at a low of three years", "Shares open little changed"),
+    "zh-TW": ("快訊：港口鋼鐵停開二號高爐", "銅庫存降至三年低點", "股市開盤變動不大"),
+    "zh-CN": ("快讯：港口钢铁停开二号高炉", "铜库存降至三年低点", "股市开盘变动不大"),
+}
+COMMODITIES = {"en": (1, 108), "zh-TW": (2, 208), "zh-CN": (2, 208)}  # service and topic
+BURST = {"en": "Tin futures at {}", "zh-TW": "錫期貨報 {}", "zh-CN": "锡期货报 {}"}
 
 LIST_PORT = 8719  # always the same, because the picture names it
 LIST_TITLES = {"en": "Announcements", "zh-TW": "重大訊息", "zh-CN": "重大讯息"}
@@ -245,6 +260,44 @@ class Guide:
             self.picture(dialog)
             self.ask("dialog.close")
 
+    def push(self, number: int, title: str, category: int = 0):
+        self.ask("feed.push", service=self.source[0], time=PRESENT + number, seq=90_000 + number, title=title, category=category or self.source[1],
+                 symbol="", related=[], story=title)
+
+    def attention(self):
+        """Alerts, what they do to lists, a list that is held with a burst in it, and a rehearsal."""
+        language = self.terminal.language
+        self.source = COMMODITIES[language]
+        word = WORDS[language][0]
+        rules = [{"name": name, "query": query, "tint": tint, "tag": tag, "toastSeconds": 0}
+                 for name, query, tint, tag in RULES[language]]
+        rules.append({"name": word, "query": word, "on": False, "budget": 20})
+        self.ask("alert.setRules", rules=rules)
+        self.ask("host.set", switches={"ShowNormalSearch": 1, "ShowWarningSearch": 0})
+        self.ask("view.close")
+        self.ask("view.open", size=[1000, 620], mask=127, own=True, settings={"FoldBursts": 4, "FollowNewest": False})
+        for number, title in enumerate(ARRIVALS[language]):
+            self.push(number, title)
+        for number in range(20):
+            self.push(3 + number, BURST[language].format(f"{28_000 + 5 * number:,}"))
+        self.ask("grid.scroll", list=ALL, row=0)
+        self.terminal.settle()
+        self.ask("input.key", key="Ctrl+H")
+        self.push(25, ARRIVALS[language][1], self.source[1] - 7)  # of companies
+        self.picture("alerts-in-lists")
+        self.ask("input.key", key="Ctrl+H")
+        self.ask("input.key", key="Ctrl+Shift+B")
+        self.picture("alerts")
+        self.ask("input.key", key="Escape")
+        self.ask("input.key", key="Ctrl+,")
+        self.ask("input.key", key="Alt+A")
+        self.picture("alert-rules")
+        self.press_keys("End", "Alt+Y")
+        self.terminal.settle()
+        self.picture("rehearsal")
+        self.ask("dialog.close")
+        self.ask("dialog.close")
+
     def sources(self):
         with http.server.ThreadingHTTPServer(("127.0.0.1", LIST_PORT), AnnouncementList) as server:
             threading.Thread(target=server.serve_forever, daemon=True).start()
@@ -280,6 +333,7 @@ def main() -> int:
         guide.searches()
         guide.standing_searches()
         guide.warning_terms()
+        guide.attention()
         guide.desk()
         guide.sources()
         terminal.ask("app.quit")

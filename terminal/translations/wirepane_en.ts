@@ -1321,7 +1321,7 @@
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUSIEST">
         <source></source>
-        <translation>busiest hour: %1, %2</translation>
+        <translation>Busiest hour: %1, %2</translation>
     </message>
     <message id="IDS_DIALOG-DEAL-SEARCH_REHEARSAL_BUDGET">
         <source></source>

@@ -60,6 +60,13 @@ TEST(AlertPolicy, SaysWhyItKeepsSilentTheNewsFirst) {
         {linked, u"ten"_s, at(23, 0), at(23, 0), overMidnight, Outcome::QuietHours},
         {linked, u"early"_s, at(6, 59), at(6, 59), overMidnight, Outcome::QuietHours},
         {linked, u"not quiet"_s, at(22, 0), at(22, 0), usual, Outcome::Told},
+        // The clock is set back.
+        {linked, u"back"_s, at(21, 59), at(21, 59), usual, Outcome::Told},
+        {paused, u"late"_s, at(20, 0), at(20, 0), usual, Outcome::Told},
+        {paused, u"before"_s, at(19, 59, 30), at(19, 59, 30), usual, Outcome::Pause},
+        {paused, u"long before"_s, at(19, 50), at(19, 50), usual, Outcome::Told},
+        {paused, u"pausing again"_s, at(19, 50), at(19, 50, 30), usual, Outcome::Pause},
+        {paused, u"late"_s, at(19, 52), at(19, 52), usual, Outcome::Duplicate},
     };
     AlertPolicy policy;
     std::vector<AlertEntry> all;
@@ -92,14 +99,21 @@ TEST(AlertSettingsText, ComesBackAndLeavesOutWhatCannotBeUnderstood) {
     settings.rules.front().pauseSeconds = 90;
     settings.rules.front().isOn = false;
     settings.rules.front().tint = 6;
+    settings.rules.front().budget = 20;
+    settings.rules.front().toastSeconds = 0;
+    settings.rules.front().hasNotice = true;
+    settings.rules.front().sound = u"chime"_s;
     settings.rules.front().tag = u"A tag"_s;
     EXPECT_EQ(alertsFromJson(alertsToJson(settings)), settings);
     const AlertSettings read = alertsFromJson(QJsonDocument::fromJson(R"({"quietFrom": 1440, "rules": [
         7, {"name": "", "query": "a"}, {"name": "a", "query": " "}, {"name": "b", "query": "x", "pause": -1, "tint": 7,
         "tag": " of  too\nmany words"},
-        {"name": "b", "query": "y"}]})")
+        {"name": "b", "query": "y"}, {"name": "old", "query": "z", "sound": true},
+        {"name": "silent", "query": "z", "sound": false}]})")
                                                   .object());
-    ASSERT_EQ(read.rules.size(), 1U);
+    ASSERT_EQ(read.rules.size(), 3U);
+    EXPECT_EQ(read.rules[1].sound, soundOfDesktop) << "from before there was a choice";
+    EXPECT_EQ(read.rules[2].sound, QString());
     EXPECT_EQ(read.rules.front().query, u"x"_s);
     EXPECT_EQ(read.rules.front().pauseSeconds, 0);
     EXPECT_EQ(read.rules.front().tint, 0);
