@@ -4,6 +4,7 @@
 // own.
 #include "backend/alerts/alert_worker.h"
 #include "backend/store/store_writer.h"
+#include "bench/backend/alert_rules.h"
 #include "bench/backend/news_samples.h"
 #include "bench/backend/search_store.h"
 #include "bench/backend/store_timing.h"
@@ -13,7 +14,6 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
-#include <random>
 #include <semaphore>
 
 using namespace Qt::StringLiterals;
@@ -25,27 +25,6 @@ using namespace wirepane::bench;
 namespace {
 
 constexpr int headlines = 20'000;
-
-// Ten words each, with a phrase and an exclusion; few titles hold one.
-std::vector<AlertRule> rulesOf(std::int64_t count) {
-    std::mt19937 random(3);
-    const auto word = [&] {
-        QString letters = u"zq"_s;
-        for (auto number = random() % 20'000; number > 0; number /= 26)
-            letters += QChar(u'a' + int(number % 26));
-        return letters;
-    };
-    std::vector<AlertRule> rules;
-    while (std::int64_t(rules.size()) < count) {
-        QStringList words;
-        while (words.size() < 8)
-            words += word();
-        AlertRule& rule = rules.emplace_back();
-        rule.name = QString::number(rules.size());
-        rule.query = u"(%1 | \"%2 %3\") -%4"_s.arg(words.join(u" | "_s), word(), word(), word());
-    }
-    return rules;
-}
 
 void fill(Database& store) {
     StoreWriter writer(store);

@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: MIT
 // A live feed from its lines to the rows on screen: a sender on a socket, the store, three views. How much
 // comes through at full rate and how long a key waits meanwhile; how long a line takes to its painted row
-// when 500 come in a second, and when ten do while a large file is imported into the same store.
+// when 500 come in a second, and when ten do while a large file is imported into the same store. The second
+// argument of the first: alert rules.
+#include "backend/alerts/alert_desk.h"
+#include "backend/alerts/alert_looks.h"
 #include "backend/feed/live_feed.h"
 #include "backend/feed/socket_source.h"
 #include "backend/import/import_job.h"
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/staged_import.h"
+#include "bench/backend/alert_rules.h"
 #include "bench/backend/news_file.h"
 #include "bench/backend/store_timing.h"
 #include "bench/news_view/key_watch.h"
@@ -59,8 +63,11 @@ QByteArray lineOf(int number) {
 // Three views over a store with a live feed.
 class LiveDesk {
 public:
-    LiveDesk() {
+    // With so many alert rules, and one that wants every headline; 0: without any.
+    explicit LiveDesk(std::int64_t rules = 0) {
         host_clock::startAt(evening);
+        if (rules > 0)
+            startAlerts(rules);
         QApplication::setStyle(new TerminalStyle);
         BKQuoteInterface::setBKInterface(&backEnd);
         for (Place& place : views) {
@@ -94,9 +101,19 @@ private:
         MemoryCfgIO settings;
         std::unique_ptr<TRVNewsCtrlView> view;
     };
+    void startAlerts(std::int64_t rules) {
+        AlertSettings settings{rulesOf(rules)};
+        AlertRule& all = settings.rules.emplace_back();
+        all.name = all.query = u"headline"_s;
+        all.tint = 1;
+        alerts = std::make_unique<AlertDesk>(backEnd, settings);
+        alerts->begin();
+        backEnd.judgeLooksBy(looksBy(settings.rules, backEnd));
+    }
 
     QTemporaryDir folder;
     EmbeddedBackEnd backEnd{connectionsTo(folder.filePath(u"news.db"_s))};
+    std::unique_ptr<AlertDesk> alerts;
     std::array<Place, viewCount> views;
     LiveFeed feed{backEnd};
 };
@@ -142,7 +159,7 @@ private:
 void keysDuringALiveFeed(benchmark::State& state) {
     const int count = static_cast<int>(state.range(0));
     for (auto unused : state) {
-        LiveDesk desk;
+        LiveDesk desk(state.range(1));
         KeyWatch watch(desk.sheet());
         const auto from = Clock::now();
         {
@@ -287,9 +304,11 @@ void lineToPaintedRowBesideChanges(benchmark::State& state) {
 namespace wirepane {
 
 BENCHMARK(keysDuringALiveFeed)
-    ->Arg(1000)
-    ->Arg(30'000)
-    ->Arg(200'000)
+    ->Args({1000, 0})
+    ->Args({30'000, 0})
+    ->Args({200'000, 0})
+    ->Args({50'000, 1000})
+    ->Args({50'000, 0})
     ->Iterations(1)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(lineToPaintedRowBesideAnImport)
