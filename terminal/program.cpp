@@ -4,6 +4,7 @@
 
 #include "terminal/commands/backup_command.h"
 #include "terminal/commands/check_command.h"
+#include "terminal/commands/diary_command.h"
 #include "terminal/commands/export_command.h"
 #include "terminal/commands/feed_command.h"
 #include "terminal/commands/import_command.h"
@@ -41,7 +42,7 @@ constexpr Command commands[] = {
     {"sample", &runSample},   {"check", &runCheck},         {"backup", &runBackup},
     {"search", &runSearch},   {"export", &runExport, true}, {"trim", &runTrim},
     {"source", &runSource},   {"rehearse", &runRehearse},   {"wire", &runWire},
-    {"publish", &runPublish},
+    {"publish", &runPublish}, {"diary", &runDiary, true},
 };
 
 QtMessageHandler usualMessages = nullptr;

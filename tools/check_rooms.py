@@ -34,6 +34,7 @@ FLOORS = {
         "search": {ROOM, "words", "database"},
         "store": {ROOM, "words", "database", "search"},
         "alerts": {ROOM, "database", "search", "store"},
+        "diary": {ROOM, "database", "store"},
         "import": {ROOM},
         "feed": {ROOM, "lines", "database", "store", "import"},
         "network": {ROOM, "lines", "words", "database", "store", "import", "feed"},

@@ -315,6 +315,14 @@ INSERT INTO alerts SELECT * FROM alerts_of_keys;
 DROP TABLE alerts_of_keys;
 )sql";
 
+// Where the diary beside the store ends (see backend/diary); one row at most.
+constexpr const char* diaryHead = R"sql(
+CREATE TABLE diary_head(
+    one INTEGER PRIMARY KEY CHECK(one = 1),
+    entries INTEGER NOT NULL,
+    seal TEXT NOT NULL);
+)sql";
+
 constexpr std::array steps{firstVersion,   arrivalsAndPositions,
                            ownSearchWords, quotes,
                            goneKeys,       blocksOfImports,
@@ -323,7 +331,8 @@ constexpr std::array steps{firstVersion,   arrivalsAndPositions,
                            packedStories,  indexRenewal,
                            readingMarks,   heldChanges,
                            prices,         alerts,
-                           readVersions,   alertsOfTitles};
+                           readVersions,   alertsOfTitles,
+                           diaryHead};
 
 }  // namespace
 

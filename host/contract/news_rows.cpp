@@ -87,10 +87,7 @@ QByteArray csvLine(const NewsRow& row) {
                              row.headline.title,
                              paragraphsOf(row.story.value_or(QString()), u"\n"_s),
                              statusOf(row)};
-    QStringList line;
-    for (const QString& field : fields + pricesOf(row))
-        line += quoted(field);
-    return line.join(u',').toUtf8() + "\r\n";
+    return csvLineOf(fields + pricesOf(row));
 }
 
 // Where ninjs has it.
@@ -153,6 +150,13 @@ QByteArray ninjsLine(const NewsRow& row) {
 }
 
 }  // namespace
+
+QByteArray csvLineOf(const QStringList& fields) {
+    QStringList line;
+    for (const QString& field : fields)
+        line += quoted(field);
+    return line.join(u',').toUtf8() + "\r\n";
+}
 
 const QStringList& newsRowForms() {
     static const QStringList names{u"csv"_s, u"json"_s, u"ninjs"_s};

@@ -50,4 +50,7 @@ WIREPANE_CONTRACT_EXPORT QByteArray newsRow(NewsRowForm form, const NewsRow& row
 // What ends the rows. `isEmpty`: there were none.
 WIREPANE_CONTRACT_EXPORT QByteArray newsRowsEnd(NewsRowForm form, bool isEmpty);
 
+// The line of a CSV file with these fields, with its end.
+WIREPANE_CONTRACT_EXPORT QByteArray csvLineOf(const QStringList& fields);
+
 }  // namespace wirepane

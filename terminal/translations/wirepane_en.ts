@@ -95,6 +95,22 @@
         <source></source>
         <translation>%1 was moved or deleted while it was open: no news is taken in until it is back or the program is started again.</translation>
     </message>
+    <message id="ERROR_DIARY_HEAD_NOT_KEPT">
+        <source></source>
+        <translation>The store cannot keep how far the diary %1 goes: %2.</translation>
+    </message>
+    <message id="ERROR_DIARY_NOT_OPENED">
+        <source></source>
+        <translation>The diary %1 cannot be opened: %2.</translation>
+    </message>
+    <message id="ERROR_DIARY_NOT_READ">
+        <source></source>
+        <translation>The diary %1 cannot be read: %2.</translation>
+    </message>
+    <message id="ERROR_DIARY_NOT_WRITTEN">
+        <source></source>
+        <translation>The diary %1 cannot be written: %2.</translation>
+    </message>
     <message id="ERROR_FEED_AT_POSITION">
         <source></source>
         <translation>%1</translation>

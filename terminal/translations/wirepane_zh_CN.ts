@@ -95,6 +95,22 @@
         <source></source>
         <translation>%1 在使用期间已被移动或删除；还原该文件或重新启动程序之前，不会接收任何新闻。</translation>
     </message>
+    <message id="ERROR_DIARY_HEAD_NOT_KEPT">
+        <source></source>
+        <translation>数据库无法记下日志 %1 写到哪里：%2。</translation>
+    </message>
+    <message id="ERROR_DIARY_NOT_OPENED">
+        <source></source>
+        <translation>无法打开日志 %1：%2。</translation>
+    </message>
+    <message id="ERROR_DIARY_NOT_READ">
+        <source></source>
+        <translation>无法读取日志 %1：%2。</translation>
+    </message>
+    <message id="ERROR_DIARY_NOT_WRITTEN">
+        <source></source>
+        <translation>无法写入日志 %1：%2。</translation>
+    </message>
     <message id="ERROR_FEED_AT_POSITION">
         <source></source>
         <translation>%1</translation>

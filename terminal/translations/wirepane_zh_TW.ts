@@ -95,6 +95,22 @@
         <source></source>
         <translation>%1 在使用期間已被移動或刪除；還原該檔案或重新啟動程式之前，不會接收任何新聞。</translation>
     </message>
+    <message id="ERROR_DIARY_HEAD_NOT_KEPT">
+        <source></source>
+        <translation>資料庫無法記下日誌 %1 寫到哪裡：%2。</translation>
+    </message>
+    <message id="ERROR_DIARY_NOT_OPENED">
+        <source></source>
+        <translation>無法開啟日誌 %1：%2。</translation>
+    </message>
+    <message id="ERROR_DIARY_NOT_READ">
+        <source></source>
+        <translation>無法讀取日誌 %1：%2。</translation>
+    </message>
+    <message id="ERROR_DIARY_NOT_WRITTEN">
+        <source></source>
+        <translation>無法寫入日誌 %1：%2。</translation>
+    </message>
     <message id="ERROR_FEED_AT_POSITION">
         <source></source>
         <translation>%1</translation>
