@@ -133,7 +133,8 @@ FeedLine opened(const QJsonObject& content, unsigned char service) {
     const auto number = id.isUndefined() ? 1 : id.toInteger(0);
     if (!content.value("source"_L1).isString() || number < 1 || number > lastId)
         return FeedRecord{makeError<feed_errors::unknownLine>(), {}};
-    return FeedHandshake{content.value("source"_L1).toString(), static_cast<unsigned char>(number)};
+    return FeedHandshake{content.value("source"_L1).toString(), static_cast<unsigned char>(number),
+                         content.value("numbered"_L1).toBool()};
 }
 
 // The content of a line that is one of our own; nothing for any other.

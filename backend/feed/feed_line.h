@@ -19,7 +19,9 @@ struct FeedRecord {
 };
 
 // One line of a feed is a ninjs record, or an object with the one field "wirepane", which is
-//   {"source": NAME, "service": ID}       the handshake, as the first line
+//   {"source": NAME, "service": ID}       the handshake, as the first line; "numbered": true, where the
+//   sequence
+//                                         of items is one higher from item to item
 //   {"ninjs": RECORD, "position": TEXT}   a record and its position
 //   {"item": ITEM, "position": TEXT}      news as a store holds it: service, identity, version, time, title,
 //                                         story, category, related [{market, code}], sequence,

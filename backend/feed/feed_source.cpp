@@ -15,8 +15,9 @@ namespace {
 // Takes the items of one batch, and counts.
 class Taking {
 public:
-    // `origin`: the source whose news others may bring, too; empty: they do not.
-    Taking(FeedSink& target, QString sharedBy) : sink(target), origin(std::move(sharedBy)) {}
+    // `sharedBy`: the source whose news others may bring, too; empty: they do not.
+    Taking(FeedSink& target, QString sharedBy, bool isNumbered)
+        : sink(target), origin(std::move(sharedBy)), notesNumbers(isNumbered) {}
 
     bool take(const SourceItem& item) {
         if (!item.content) {
@@ -31,6 +32,9 @@ public:
             return false;
         }
         count(item, taken.value());
+        const auto* news = std::get_if<NewsItem>(&content);
+        if (notesNumbers && news != nullptr && news->sequence)
+            outcome.numbers.push_back(*news->sequence);
         return true;
     }
 
@@ -56,6 +60,7 @@ private:
 
     FeedSink& sink;
     QString origin;
+    bool notesNumbers;
 };
 
 }  // namespace
@@ -83,7 +88,7 @@ void FeedSource::tellTrouble(const Error& error) {
 Result<BatchOutcome> takeBatch(FeedBatch& batch, const QString& source, FeedSink& sink) {
     if (const Done begun = sink.begin(); !begun)
         return begun.error();
-    Taking taking(sink, batch.isShared() ? source : QString());
+    Taking taking(sink, batch.isShared() ? source : QString(), batch.isNumbered());
     const Done read = batch.read([&taking](SourceItem&& item) { return taking.take(item); });
     if (taking.failure) {
         sink.rollback();

@@ -17,6 +17,7 @@ class FeedSource;
 struct BatchOutcome {
     ImportTotals totals;
     qint64 news = 0;                    // taken in, of the totals
+    std::vector<std::int64_t> numbers;  // of the news, where its source numbers it
     std::vector<Rejection> rejections;  // the first mostRejections of them
     std::optional<Error> fault;         // the batch as a whole cannot be read: nothing of it was taken
 
@@ -70,6 +71,8 @@ public:
     // Whether other sources may bring the same news under other identities: it is known again by its link
     // then.
     virtual bool isShared() const { return false; }
+    // Whether its news is numbered, each one higher than the one before.
+    virtual bool isNumbered() const { return false; }
     // Whether one item that cannot be taken is a reason to take nothing of it.
     virtual bool isWhole() const { return false; }
 };

@@ -19,8 +19,11 @@ constexpr qint64 mostBytes = 512 * 1024;  // of a batch, about
 class LineBatch : public FeedBatch {
 public:
     // `before`: how many lines have gone before.
-    LineBatch(std::vector<Result<QByteArray>> batchLines, qint64 before, unsigned char ofService)
-        : lines(std::move(batchLines)), number(before), service(ofService) {}
+    LineBatch(std::vector<Result<QByteArray>> batchLines, qint64 before, const FeedHandshake& ofSource)
+        : lines(std::move(batchLines)),
+          number(before),
+          service(ofSource.service),
+          hasNumbers(ofSource.isNumbered) {}
 
     Done read(const ItemVisitor& visit) override {
         qint64 at = number;
@@ -31,6 +34,7 @@ public:
         return Nothing{};
     }
     QString position() const override { return lastPosition; }
+    bool isNumbered() const override { return hasNumbers; }
 
 private:
     SourceItem itemOf(const Result<QByteArray>& line, const Phrase& place) {
@@ -48,6 +52,7 @@ private:
     std::vector<Result<QByteArray>> lines;
     qint64 number;
     unsigned char service;
+    bool hasNumbers;
     QString lastPosition;
 };
 
@@ -86,7 +91,7 @@ std::shared_ptr<FeedBatch> LineSource::batch() {
         bytes += next.back() ? next.back().value().size() : 0;
     }
     linesOfBatch = next.size();
-    return std::make_shared<LineBatch>(std::move(next), acknowledged, handshake.service);
+    return std::make_shared<LineBatch>(std::move(next), acknowledged, handshake);
 }
 
 void LineSource::acknowledge(const BatchOutcome& outcome) {

@@ -228,8 +228,20 @@ void LiveFeed::acknowledge(const std::shared_ptr<FeedSource>& source, const Batc
         return;
     }
     entry->batch = 0;
+    noteNumbers(*source, outcome.numbers);
     source->acknowledge(outcome);
     pumpSoon();
+}
+
+void LiveFeed::noteNumbers(const FeedSource& source, const std::vector<std::int64_t>& numbers) {
+    if (numbers.empty())
+        return;
+    NumberGaps& ofSource = gaps[source.name()];
+    const NumberGaps before = ofSource;
+    for (const std::int64_t number : numbers)
+        ofSource.take(number);
+    if (ofSource.text() != before.text() || ofSource.missing() != before.missing())
+        emit numbersMissing(source.title(), ofSource);
 }
 
 LiveFeed::Entry* LiveFeed::entryOf(const FeedSource& source) {

@@ -3,11 +3,13 @@
 #pragma once
 
 #include "backend/feed/feed_source.h"
+#include "backend/feed/number_gaps.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -66,6 +68,8 @@ signals:
     void stateChanged();
     // Another source, or another state of one.
     void sourcesChanged();
+    // A source that numbers its news has left numbers out, or has brought some of them since; as it is shown.
+    void numbersMissing(const QString& source, const wirepane::NumberGaps& gaps);
     // About a source, or about a store that takes nothing in for longer than a moment.
     void trouble(const wirepane::Error& error);
 
@@ -89,6 +93,7 @@ private:
     void awaitDisk(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch);
     void acknowledge(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch,
                      const Done& onDisk);
+    void noteNumbers(const FeedSource& source, const std::vector<std::int64_t>& numbers);
     Entry* entryOf(const FeedSource& source);
     bool hasCaughtUp();
     void tellTrouble(const std::optional<Error>& now);
@@ -104,8 +109,9 @@ private:
     int batches = 0;             // handed to the store so far
     QTimer ticking;
     QTimer pumping;
-    std::optional<Error> takeTrouble;  // of the last batch
-    bool isTold = false;               // that trouble is
+    std::map<QString, NumberGaps> gaps;  // by the names of sources, over outages
+    std::optional<Error> takeTrouble;    // of the last batch
+    bool isTold = false;                 // that trouble is
     bool isConnected = true;
     bool isCatchingUp = false;
     std::size_t sourcesBefore = 0;  // the outage

@@ -74,7 +74,10 @@ QByteArray lineOf(const QuoteItem& quote, const QString& position) {
 }  // namespace
 
 QByteArray handshakeLine(const FeedHandshake& handshake) {
-    return lineOf({{u"source"_s, handshake.source}, {u"service"_s, handshake.service}});
+    QJsonObject content{{u"source"_s, handshake.source}, {u"service"_s, handshake.service}};
+    if (handshake.isNumbered)
+        content[u"numbered"_s] = true;
+    return lineOf(content);
 }
 
 QByteArray itemLine(const NewsItem& item, const QString& position) {

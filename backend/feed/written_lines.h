@@ -13,6 +13,7 @@ namespace wirepane {
 struct FeedHandshake {
     QString source;             // the name under which its position is kept; empty: none is kept
     unsigned char service = 1;  // of records that do not name one
+    bool isNumbered = false;    // its items' sequence is one higher from item to item
 };
 
 // Lines of a feed in the form of feed_line.h, with their line feed. `position`: the sender's mark behind the

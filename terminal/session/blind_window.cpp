@@ -3,6 +3,7 @@
 #include "terminal/session/blind_window.h"
 
 #include "backend/alerts/alert_desk.h"
+#include "backend/feed/live_feed.h"
 #include "backend/store/embedded_back_end.h"
 #include "host/contract/clock.h"
 #include "terminal/frame/main_frame.h"
@@ -27,10 +28,12 @@ bool isSilentIn(const std::vector<QuietSource>& sources, const QString& name) {
 
 }  // namespace
 
-BlindWindow::BlindWindow(EmbeddedBackEnd& embedded, const AlertDesk& alertDesk, MainFrame& mainFrame)
+BlindWindow::BlindWindow(EmbeddedBackEnd& embedded, const AlertDesk& alertDesk, const LiveFeed& feed,
+                         MainFrame& mainFrame)
     : backEnd(embedded), alerts(alertDesk), frame(mainFrame), quiet(backEnd.quietSources()) {
     backEnd.attach(this);
     connect(&backEnd.quietTeller(), &QuietTeller::changed, this, &BlindWindow::followSources);
+    connect(&feed, &LiveFeed::numbersMissing, this, &BlindWindow::noteMissing);
     soon.setSingleShot(true);
     connect(&soon, &QTimer::timeout, this, &BlindWindow::tell);
 }
@@ -66,9 +69,19 @@ void BlindWindow::RecvNewHeadLine(const CHeadline* headline, const QString&, con
         away.late += headline != nullptr && headline->time >= away.from && headline->time < away.to ? 1 : 0;
 }
 
+// What is out of order comes within a moment.
+void BlindWindow::noteMissing(const QString& source, const NumberGaps& gaps) {
+    missing[source] = gaps;
+    soon.start(comesWithin);
+}
+
 void BlindWindow::tell() {
     for (const Away& away : std::exchange(over, {}))
         frame.showNotice(textOf(away));
+    for (const auto& [source, gaps] : std::exchange(missing, {})) {
+        if (gaps.missing() > 0)
+            frame.showNotice(countText(TextId::BlindMissing, int(gaps.missing())).arg(source, gaps.text()));
+    }
 }
 
 QString BlindWindow::textOf(const Away& away) const {

@@ -113,7 +113,7 @@ Done Session::start(const SessionOptions& options) {
     mainFrame = std::make_unique<MainFrame>();
     latestNews = std::make_unique<BreakingNews>(*module.value(), *store, *mainFrame);
     alertCenter = std::make_unique<AlertCenter>(*store, *terminalSettings, *mainFrame);
-    blindWindow = std::make_unique<BlindWindow>(*store, alertCenter->desk(), *mainFrame);
+    blindWindow = std::make_unique<BlindWindow>(*store, alertCenter->desk(), *liveFeed, *mainFrame);
     openViews = std::make_unique<Workspace>(*module.value(), *mainFrame);
     look = std::make_unique<Appearance>(*terminalSettings, *openViews);
     linkGroups = std::make_unique<LinkGroups>(*openViews, *terminalSettings);

@@ -323,6 +323,7 @@ constexpr const char* keys[]{
     "TERMINAL_BLIND_SOURCE",
     "TERMINAL_BLIND_LATE",
     "TERMINAL_BLIND_NOTHING",
+    "TERMINAL_BLIND_MISSING",
     "TERMINAL_BLIND_BOTH",
 };
 static_assert(std::size(keys) == static_cast<std::size_t>(TextId::BlindBoth) + 1);

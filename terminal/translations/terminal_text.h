@@ -319,6 +319,7 @@ enum class TextId {
     BlindSource,
     BlindLate,
     BlindNothing,
+    BlindMissing,
     BlindBoth,
 };
 

@@ -2763,6 +2763,10 @@
         <source></source>
         <translation>%1 {headline|headlines} of that time came late, alerts among them: %2.</translation>
     </message>
+    <message id="TERMINAL_BLIND_MISSING">
+        <source></source>
+        <translation>%1 {item|items} of %2 did not come, by its numbers: %3.</translation>
+    </message>
     <message id="TERMINAL_BLIND_NOTHING">
         <source></source>
         <translation>No headline of that time has come since.</translation>

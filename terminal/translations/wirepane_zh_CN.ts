@@ -2763,6 +2763,10 @@
         <source></source>
         <translation>其间的 %1 则标题迟到，符合警示规则：%2。</translation>
     </message>
+    <message id="TERMINAL_BLIND_MISSING">
+        <source></source>
+        <translation>按 %2 的编号，尚缺 %1 条：%3。</translation>
+    </message>
     <message id="TERMINAL_BLIND_NOTHING">
         <source></source>
         <translation>其间的标题尚未补到。</translation>

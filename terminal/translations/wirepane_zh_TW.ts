@@ -2763,6 +2763,10 @@
         <source></source>
         <translation>其間的 %1 則標題遲到，符合警示規則：%2。</translation>
     </message>
+    <message id="TERMINAL_BLIND_MISSING">
+        <source></source>
+        <translation>依 %2 的編號，尚缺 %1 則：%3。</translation>
+    </message>
     <message id="TERMINAL_BLIND_NOTHING">
         <source></source>
         <translation>其間的標題尚未補到。</translation>

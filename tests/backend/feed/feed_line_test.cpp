@@ -61,6 +61,9 @@ TEST(FeedLineTest, RecordsAndHandshakesAreToldApart) {
         const FeedLine handshake = parsedFeedLine(handshakeLine({u"desk 1"_s, service}), 1);
         EXPECT_EQ(std::get<FeedHandshake>(handshake).source, u"desk 1"_s);
         EXPECT_EQ(std::get<FeedHandshake>(handshake).service, service);
+        EXPECT_FALSE(std::get<FeedHandshake>(handshake).isNumbered);
+        const FeedLine numbered = parsedFeedLine(handshakeLine({u"desk 1"_s, service, true}), 1);
+        EXPECT_TRUE(std::get<FeedHandshake>(numbered).isNumbered);
     }
 }
 

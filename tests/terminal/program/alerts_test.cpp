@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 // What the user is told of as it comes, where he reads of it, and how he says what he wants to be told of.
+#include "backend/feed/line_source.h"
+#include "backend/feed/live_feed.h"
+#include "backend/feed/written_lines.h"
 #include "host/controls/rehearsal_dlg.h"
 #include "host/controls/report_list.h"
 #include "terminal/alerts/alert_model.h"
@@ -128,6 +131,35 @@ TEST_F(AlertsTest, ATimeWithoutNewsIsToldOnceItIsOverUntilTheUserClosesIt) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return session->frame().notices() != both; }, 20'000));
     EXPECT_TRUE(session->frame().notices().contains(u"Cut off from 03/02 12:02:0"_s))
         << session->frame().notices().toStdString();
+}
+
+TEST_F(AlertsTest, WhatIsMissingOfASourceThatNumbersItsNewsIsToldOnceNothingOfItIsUnderWay) {
+    const auto source = std::make_shared<LineSource>();
+    source->add(handshakeLine({u"desk"_s, 1, true}));
+    session->feed().addSource(source);
+    const auto bring = [&](std::int32_t number) {
+        NewsItem item;
+        item.service = 1;
+        item.identity = u"desk:%1"_s.arg(number);
+        item.time = host_clock::now();
+        item.title = item.identity;
+        item.sequence = number;
+        source->add(itemLine(item));
+    };
+    const auto isTold = [this](const QString& text) {
+        return QTest::qWaitFor([&] { return session->frame().notices().contains(text); }, 20'000);
+    };
+    for (const std::int32_t number : {11, 12, 16, 15})
+        bring(number);
+    EXPECT_TRUE(isTold(u"2 items of desk did not come, by its numbers: 13-14."_s));
+    bring(14);
+    EXPECT_TRUE(isTold(u"1 item of desk did not come, by its numbers: 13."_s));
+    const QString told = session->frame().notices();
+    bring(13);
+    bring(17);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return session->feed().isIdle(); }));
+    QTest::qWait(100);
+    EXPECT_EQ(session->frame().notices(), told);
 }
 
 TEST_F(AlertsTest, TheSettingsTakeNoRuleThatCannotBeUnderstood) {
