@@ -30,7 +30,8 @@ const StoreOptions impatient{.busyTimeout = 20ms};
 constexpr const char* toFirstVersion =
     "PRAGMA user_version = 1; DROP VIEW headlines; DROP VIEW shown_symbols; DROP TABLE import_blocks; "
     "DROP TABLE held_links; DROP TABLE set_aside; ALTER TABLE all_headlines RENAME TO headlines; "
-    "DROP TABLE diary_head; DROP TABLE alerts; DROP TABLE alert_state; DROP TABLE day_prices; DROP TABLE held_changes; DROP TABLE "
+    "DROP TABLE diary_head; DROP TABLE alerts; DROP TABLE alert_state; DROP TABLE day_prices; DROP TABLE "
+    "held_changes; DROP TABLE "
     "due_changes; DROP TABLE marks; DROP TABLE "
     "marks_begin; DROP TABLE "
     "index_renewal; DROP TABLE versions; DROP TABLE "
