@@ -7,6 +7,7 @@
 #include "headline_list/headline_table.h"
 #include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/news_diary.h"
 #include "host/contract/reading_marks.h"
 #include "host/views/news_control_ids.h"
 #include "news_view/common_parts.h"
@@ -25,6 +26,12 @@ namespace {
 constexpr int secondsUntilSeen = 1;
 constexpr int secondsUntilRead = 5;
 constexpr std::size_t mostShownOneByOne = 256;
+
+NewsAct::Kind actOf(const MarkChange& change) {
+    if (!change.state)
+        return NewsAct::Kind::Starred;
+    return *change.state == ReadingState::Read ? NewsAct::Kind::MarkedRead : NewsAct::Kind::MarkedUnread;
+}
 
 }  // namespace
 
@@ -50,6 +57,8 @@ bool Reading::isStarred() const {
 
 void Reading::noteShown(const CHeadlineTable& entry, bool byHand) {
     second.stop();
+    if (byHand)
+        NewsDiary::tell(parts.window, {.kind = NewsAct::Kind::Opened, .news = {keyOf(entry)}});
     if (!isOn())
         return;
     if (byHand) {
@@ -110,6 +119,7 @@ void Reading::markSelected(const MarkChange& change) {
     std::vector<HeadlineKey> keys;
     for (const CHeadlineTable& entry : calls.selected())
         keys.push_back(keyOf(entry));
+    NewsDiary::tell(parts.window, {.kind = actOf(change), .news = keys});
     // What stands in the pane stays unread once it has been marked so.
     standing.reset();
     marks->changeMarks(std::move(keys), change);
@@ -123,6 +133,7 @@ void Reading::markAll() {
     // Long lists are marked a portion at a time: first what the reader looks at.
     const int top = list.grid() != nullptr ? list.grid()->firstVisibleRow() : 0;
     std::rotate(keys.begin(), keys.begin() + std::min<std::ptrdiff_t>(top, std::ssize(keys)), keys.end());
+    NewsDiary::tell(parts.window, {.kind = NewsAct::Kind::MarkedRead, .news = keys});
     marks->changeMarks(std::move(keys), {.state = ReadingState::Read});
 }
 

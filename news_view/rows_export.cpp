@@ -4,6 +4,7 @@
 
 #include "headline_list/language_keys.h"
 #include "host/contract/bk_quote_interface.h"
+#include "host/contract/news_diary.h"
 #include "host/controls/heap_dialog.h"
 #include "host/controls/plain_caption.h"
 #include "search/dialog_controls.h"
@@ -71,12 +72,20 @@ void RowsExport::write(std::vector<CHeadlineTable> entries, const QString& file)
     if (files == nullptr)
         return;
     showProgress(static_cast<int>(entries.size()));
-    writing = files->writeRowFile(std::move(entries), *form, file,
-                                  {[this](int done) {
-                                       if (progress)
-                                           progress->setValue(done);
-                                   },
-                                   [this, file](const RowFileOutcome& outcome) { finish(file, outcome); }});
+    std::vector<HeadlineKey> keys;
+    for (const CHeadlineTable& entry : entries)
+        keys.push_back(keyOf(entry));
+    writing = files->writeRowFile(
+        std::move(entries), *form, file,
+        {[this](int done) {
+             if (progress)
+                 progress->setValue(done);
+         },
+         [this, file, keys = std::move(keys)](const RowFileOutcome& outcome) {
+             finish(file, outcome);
+             if (outcome.end == RowFileOutcome::End::Written)
+                 NewsDiary::tell(window, {.kind = NewsAct::Kind::Saved, .news = keys, .words = file});
+         }});
 }
 
 void RowsExport::showProgress(int most) {

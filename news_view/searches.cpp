@@ -9,6 +9,7 @@
 #include "headline_list/table_reading.h"
 #include "host/contract/bk_quote_interface.h"
 #include "host/contract/clock.h"
+#include "host/contract/news_diary.h"
 #include "host/contract/symbol_name.h"
 #include "host/controls/heap_dialog.h"
 #include "host/controls/registered_message.h"
@@ -38,6 +39,10 @@ constexpr int waitTipTimeMs = 100000;
 constexpr int shortTipWindowMs = 2000;
 constexpr unsigned char futuresMarket = 1;
 constexpr unsigned char commodityMarket = 0x6D;
+
+QString wordsOf(const CSearch& condition) {
+    return QStringList(condition.keywords.begin(), condition.keywords.end()).join(u' ');
+}
 
 }  // namespace
 
@@ -176,6 +181,7 @@ void Searches::send() {
     }
     conditions.sendSearch(shown, parts.services.liveServices(), awaited,
                           {host_clock::now(), parts.outages.ended()});
+    NewsDiary::tell(parts.window, {.kind = NewsAct::Kind::Searched, .words = wordsOf(*condition)});
     if (showsTyped && awaited) {
         conditions.noteNewestOnly(shown);
         context.placeNotices();

@@ -73,6 +73,13 @@ bool isSettled(const OutputItems& items) {
     return std::all_of(items.begin(), items.end(), [](const OutputItem& item) { return item.isSettled(); });
 }
 
+std::vector<HeadlineKey> keysOf(const OutputItems& items) {
+    std::vector<HeadlineKey> keys;
+    for (const OutputItem& item : items)
+        keys.push_back(keyOf(item.entry));
+    return keys;
+}
+
 OutputItems completeItems(const OutputItems& items) {
     OutputItems complete;
     std::copy_if(items.begin(), items.end(), std::back_inserter(complete),

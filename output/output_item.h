@@ -32,6 +32,8 @@ bool isSettled(const OutputItems& items);
 // The complete ones.
 OutputItems completeItems(const OutputItems& items);
 
+std::vector<HeadlineKey> keysOf(const OutputItems& items);
+
 // How a story that is at hand is written.
 using StoryForm = QString (*)(const CStory&);
 

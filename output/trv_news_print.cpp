@@ -187,9 +187,10 @@ NewsOutcome TRVNewsPrint::output(const OutputItems& items, QWidget* parent,
         pages = pagesFor(printer, news);
     }
     const bool isTold = !target || target->told;
+    const NewsAct act{.kind = NewsAct::Kind::Printed, .news = keysOf(items), .words = pages->file};
     if (!isTold || PagePainter::installed() == nullptr)
-        return printInOneGo(pages, news, items);
-    return start(target, [&](OutputRun::Told told) {
+        return noted(act, printInOneGo(pages, news, items));
+    return start(target, act, [&](OutputRun::Told told) {
         return std::make_unique<PrintRun>(pages, std::make_unique<PageMaking>(*pages, news, items), news,
                                           std::move(told));
     });
@@ -197,7 +198,14 @@ NewsOutcome TRVNewsPrint::output(const OutputItems& items, QWidget* parent,
 
 // --- What goes on beside everything else ---
 
-NewsOutcome TRVNewsPrint::start(const std::optional<OutputTarget>& target, const MakeRun& makeRun) {
+NewsOutcome TRVNewsPrint::noted(const NewsAct& act, const NewsOutcome& outcome) const {
+    if (!outcome.failed && outcome.count > 0)
+        NewsDiary::tell(parentWindow, act);
+    return outcome;
+}
+
+NewsOutcome TRVNewsPrint::start(const std::optional<OutputTarget>& target, NewsAct act,
+                                const MakeRun& makeRun) {
     const int number = ++runsBegun;
     OutputRun::Told told{[this] { handedOver(); },
                          [this] {
@@ -205,7 +213,7 @@ NewsOutcome TRVNewsPrint::start(const std::optional<OutputTarget>& target, const
                                  onAwaited();
                          },
                          [this, number](const NewsOutcome& outcome) { endRun(number, outcome); }};
-    runs.push_back({number, makeRun(std::move(told)), target});
+    runs.push_back({number, makeRun(std::move(told)), target, std::move(act)});
     NewsOutcome outcome;
     outcome.underWay = true;
     return outcome;
@@ -224,6 +232,7 @@ void TRVNewsPrint::endRun(int number, NewsOutcome outcome) {
     Run run = std::move(*ended);
     runs.erase(ended);
     run.run.release()->deleteLater();
+    noted(run.act, outcome);
     tellLeftOut(backEnd, run.leftOut, outcome);
     if (onAwaited)
         onAwaited();

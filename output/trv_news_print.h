@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/contract/news_diary.h"
 #include "output/output_dialogs.h"
 #include "output/output_item.h"
 #include "output/output_run.h"
@@ -73,9 +74,12 @@ protected:
     // Puts the items out. May run an event loop in which the owner goes.
     virtual wirepane::NewsOutcome output(const wirepane::OutputItems& items, QWidget* parent,
                                          const std::optional<wirepane::OutputTarget>& target);
+    // Tells the host's diary, when it has been done, what has been put out where.
+    wirepane::NewsOutcome noted(const wirepane::NewsAct& act, const wirepane::NewsOutcome& outcome) const;
     using MakeRun = std::function<std::unique_ptr<wirepane::OutputRun>(wirepane::OutputRun::Told)>;
     // Begins a run, whose outcome is told later: also to the target, where there is one that is.
-    wirepane::NewsOutcome start(const std::optional<wirepane::OutputTarget>& target, const MakeRun& makeRun);
+    wirepane::NewsOutcome start(const std::optional<wirepane::OutputTarget>& target, wirepane::NewsAct act,
+                                const MakeRun& makeRun);
     // False when this has gone.
     std::shared_ptr<const bool> aliveMark() const { return alive; }
     // How stories that are at hand are written.
@@ -94,6 +98,7 @@ private:
         int number = 0;
         std::unique_ptr<wirepane::OutputRun> run;
         std::optional<wirepane::OutputTarget> target;
+        wirepane::NewsAct act;
         std::size_t leftOut = 0;
     };
     void handedOver();

@@ -42,9 +42,10 @@ NewsOutcome TRVSaveToFile::output(const OutputItems& items, QWidget* parent,
     qsizetype characters = 0;
     for (const OutputItem& item : items)
         characters += item.story.size();
+    const NewsAct act{.kind = NewsAct::Kind::Saved, .news = keysOf(items), .words = file->file};
     if (characters < longSave || (target && !target->told))
-        return saveItemsTo(*file, news, items);
-    return start(target, [&](OutputRun::Told told) {
+        return noted(act, saveItemsTo(*file, news, items));
+    return start(target, act, [&](OutputRun::Told told) {
         return std::make_unique<SaveRun>(*file, news, items, std::move(told));
     });
 }

@@ -21,6 +21,7 @@ Automation::Automation(Session& session)
       searches(session),
       marks(session),
       alerts(session),
+      diary(session),
       host(session),
       input(session),
       links(session),
@@ -38,6 +39,7 @@ Automation::Automation(Session& session)
     searches.addTo(table);
     marks.addTo(table);
     alerts.addTo(table);
+    diary.addTo(table);
     host.addTo(table);
     input.addTo(table);
     links.addTo(table);

@@ -7,6 +7,7 @@
 #include "terminal/automation/app_methods.h"
 #include "terminal/automation/control_methods.h"
 #include "terminal/automation/date_methods.h"
+#include "terminal/automation/diary_methods.h"
 #include "terminal/automation/feed_methods.h"
 #include "terminal/automation/grid_methods.h"
 #include "terminal/automation/host_methods.h"
@@ -54,6 +55,7 @@ private:
     SearchMethods searches;
     MarkMethods marks;
     AlertMethods alerts;
+    DiaryMethods diary;
     HostMethods host;
     InputMethods input;
     LinkMethods links;

@@ -65,8 +65,8 @@ void showScreen(const DiaryScreen& screen) {
         printLine((static_cast<int>(row) == screen.focus ? u"> "_s : u"  "_s) +
                   screen.rows[row].join(u" | "_s));
     for (const QStringList& story : screen.stories) {
-        printLine(u"  --- "_s + story.value(0));
-        for (const QString& line : story.value(1).split(u'\n'))
+        printLine(u"  ---"_s);
+        for (const QString& line : (story.value(0) + u'\n' + story.value(1)).split(u'\n'))
             printLine(u"  "_s + line);
     }
 }
@@ -77,7 +77,13 @@ int replay(const Diary& diary, const Span& span) {
     std::map<std::pair<QString, int>, DiaryScreen> before;
     std::vector<DiaryScreen> within;
     const auto report = checkDiary(diary.file, diary.kept, [&](std::int64_t, QByteArrayView json) {
-        auto screen = screens.take(QJsonDocument::fromJson(json.toByteArray()).object());
+        const QJsonObject entry = QJsonDocument::fromJson(json.toByteArray()).object();
+        auto screen = screens.take(entry);
+        if (entry.value(diary_names::kind) == "end"_L1 &&
+            entry.value(diary_names::moment).toInteger() <= span.from)
+            std::erase_if(before, [&](const auto& shown) {
+                return shown.first.first == entry.value(diary_names::session).toString();
+            });
         if (screen && screen->moment <= span.from)
             before[{screen->session, screen->view}] = std::move(*screen);
         else if (screen && screen->moment <= span.to)

@@ -5,6 +5,7 @@
 #include "host/controls/heap_dialog.h"
 #include "host/views/news_control_ids.h"
 #include "terminal/alerts/alert_rules_page.h"
+#include "terminal/diary/diary_page.h"
 #include "terminal/frame/guide_window.h"
 #include "terminal/frame/keys_window.h"
 #include "terminal/frame/message_boxes.h"
@@ -277,6 +278,8 @@ void FrameCommands::changeSettings(SettingsPage first, const std::optional<Alert
          [this, &dialog](const AlertRule& rule) { return session.alerts().rehearse(rule, dialog.get()); }});
     dialog->addPage(rules, terminalText(TextId::SettingsAlerts),
                     [rules] { return rules->showFault().isEmpty(); });
+    auto* diary = new DiaryPage(settings.diary(), session.diary().file());
+    dialog->addPage(diary, terminalText(TextId::SettingsDiary), [] { return true; });
     if (proposed)
         rules->propose(*proposed);
     if (first == SettingsPage::Alerts)
@@ -288,6 +291,8 @@ void FrameCommands::changeSettings(SettingsPage first, const std::optional<Alert
         session.alerts().setRules(rules->settings());
         save();
     }
+    if (diary->choices() != settings.diary())
+        session.setDiary(diary->choices());
     if (chosen.greenIsUp != present.greenIsUp)
         settings.setGreenIsUp(chosen.greenIsUp);
     if (chosen.scheme != present.scheme || chosen.greenIsUp != present.greenIsUp)

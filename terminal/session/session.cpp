@@ -33,6 +33,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -115,6 +116,7 @@ Done Session::start(const SessionOptions& options) {
     alertCenter = std::make_unique<AlertCenter>(*store, *terminalSettings, *mainFrame);
     blindWindow = std::make_unique<BlindWindow>(*store, alertCenter->desk(), *liveFeed, *mainFrame);
     openViews = std::make_unique<Workspace>(*module.value(), *mainFrame);
+    diaryKeeper = std::make_unique<DiaryKeeper>(storeFile, *openViews);
     look = std::make_unique<Appearance>(*terminalSettings, *openViews);
     linkGroups = std::make_unique<LinkGroups>(*openViews, *terminalSettings);
     workspaceKeeper = std::make_unique<WorkspaceKeeper>(
@@ -129,6 +131,7 @@ Done Session::start(const SessionOptions& options) {
         mainFrame->showNotice(shownText(makeError<store_errors::faultFound>(storeFile)));
     });
     connectParts();
+    connectDiary();
     if (options.watchesAlerts)
         alertCenter->desk().begin();
     for (const QString& sentence : {feedNotice, settingsFile.message()}) {
@@ -209,6 +212,31 @@ void Session::connectParts() {
             latestNews->retranslate();
         },
         Qt::QueuedConnection);
+}
+
+void Session::connectDiary() {
+    AlertDesk* desk = &alertCenter->desk();
+    connect(desk, &AlertDesk::told, diaryKeeper.get(), [this](const std::vector<AlertEntry>& entries) {
+        for (const AlertEntry& entry : entries)
+            diaryKeeper->addAlert(entry);
+    });
+    connect(desk, &AlertDesk::changed, diaryKeeper.get(), [this, desk] {
+        const int before = std::exchange(unseenAlerts, desk->unseen());
+        if (before > 0 && unseenAlerts == 0)
+            diaryKeeper->add(u"acknowledged"_s, {{u"alerts"_s, before}});
+    });
+    connect(diaryKeeper.get(), &DiaryKeeper::failed, mainFrame.get(),
+            [this](const Error& error) { mainFrame->showNotice(shownText(error)); });
+    if (!store->isReadOnly())
+        diaryKeeper->choose(terminalSettings->diary());
+}
+
+void Session::setDiary(const DiaryChoices& choices) {
+    terminalSettings->setDiary(choices);
+    if (const Done saved = terminalSettings->save(); !saved)
+        mainFrame->showNotice(shownText(saved.error()));
+    if (!store->isReadOnly())
+        diaryKeeper->choose(choices);
 }
 
 // Once for a service: a wrong clock makes all of its news so.

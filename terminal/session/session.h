@@ -7,6 +7,7 @@
 #include "backend/result.h"
 #include "backend/store/embedded_back_end.h"
 #include "backend/store/store_guard.h"
+#include "terminal/diary/diary_keeper.h"
 #include "terminal/frame/main_frame.h"
 #include "terminal/frame/workspace.h"
 #include "terminal/session/alert_center.h"
@@ -96,6 +97,7 @@ public:
     LinkGroups& links() { return *linkGroups; }
     WorkspaceKeeper& keeper() { return *workspaceKeeper; }
     AlertCenter& alerts() { return *alertCenter; }
+    DiaryKeeper& diary() { return *diaryKeeper; }
     SourceServices& sources() { return *sourceServices; }
     // The store in use.
     const QString& storePath() const { return storeFile; }
@@ -116,6 +118,8 @@ public:
     Done readAsOf(std::int64_t moment);
     // Takes the search switches into force, for the user's views too.
     Done setSwitches(const SearchSwitches& switches);
+    // Takes the choices of the diary into force, for the next start too.
+    void setDiary(const DiaryChoices& choices);
 
     void setScheme(ColourScheme scheme);
     void setFontSize(int points);
@@ -145,6 +149,7 @@ private:
     // In the language that the user is told of the progress in.
     Done openStore(const SessionOptions& options, const QString& language);
     void connectParts();
+    void connectDiary();
     Done startFeed(const SessionOptions& options);
     Done followWire(const QString& wire);
     void followSample();
@@ -183,6 +188,8 @@ private:
     std::unique_ptr<AlertCenter> alertCenter;
     std::unique_ptr<BlindWindow> blindWindow;
     std::unique_ptr<Workspace> openViews;
+    std::unique_ptr<DiaryKeeper> diaryKeeper;
+    int unseenAlerts = 0;  // as the diary knows it
     std::unique_ptr<Appearance> look;
     std::unique_ptr<LinkGroups> linkGroups;
     std::unique_ptr<WorkspaceKeeper> workspaceKeeper;

@@ -149,6 +149,15 @@ void TerminalSettings::setAlerts(const QJsonObject& alerts) {
     store(u"alerts"_s, alerts);
 }
 
+DiaryChoices TerminalSettings::diary() const {
+    return {stored(u"diary"_s).toBool(), stored(u"diaryWords"_s).toBool(true)};
+}
+
+void TerminalSettings::setDiary(const DiaryChoices& diary) {
+    store(u"diary"_s, diary.isKept);
+    store(u"diaryWords"_s, diary.hasWords);
+}
+
 QByteArray TerminalSettings::frameGeometry() const {
     return QByteArray::fromBase64(stored(u"frameGeometry"_s).toString().toLatin1());
 }

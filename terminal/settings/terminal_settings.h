@@ -25,6 +25,14 @@ struct SearchSwitches {
     bool operator==(const SearchSwitches&) const = default;
 };
 
+// Whether a diary is kept beside the store, and with the words of searches.
+struct DiaryChoices {
+    bool isKept = false;
+    bool hasWords = true;
+
+    bool operator==(const DiaryChoices&) const = default;
+};
+
 // The terminal's own settings, and what views read of them. Setters take effect for the next reader and are
 // on disk after the settings file is saved; who changes what is on screen tells the views.
 class TerminalSettings : public CSyncInfo {
@@ -69,6 +77,8 @@ public:
     // The user's alerts, as they are stored; empty: he has changed nothing.
     QJsonObject alerts() const;
     void setAlerts(const QJsonObject& alerts);
+    DiaryChoices diary() const;
+    void setDiary(const DiaryChoices& diary);
     // The main frame's place, as QWidget::saveGeometry gives it.
     QByteArray frameGeometry() const;
     void setFrameGeometry(const QByteArray& geometry);

@@ -2908,6 +2908,22 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>&amp;Alerts</translation>
     </message>
+    <message id="TERMINAL_SETTINGS_DIARY">
+        <source></source>
+        <translation>Diary</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_DIARY_HELP">
+        <source></source>
+        <translation>The diary holds which rows and stories each view showed and when, what was opened, searched, marked, printed and saved, and which alerts were told and seen: with the moments of source, receipt and screen, your user name and the name of this machine. It stands in the file %1 and is kept until you delete that file; the terminal takes nothing out. Each entry is sealed with the one before, so that a later change shows.</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_DIARY_KEEP">
+        <source></source>
+        <translation>&amp;Keep a diary</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_DIARY_WORDS">
+        <source></source>
+        <translation>With the &amp;words that are searched for</translation>
+    </message>
     <message id="TERMINAL_TINT_BLUE">
         <source></source>
         <translation>Blue</translation>

@@ -2908,6 +2908,22 @@
         <source></source>
         <translation>警示(&amp;A)</translation>
     </message>
+    <message id="TERMINAL_SETTINGS_DIARY">
+        <source></source>
+        <translation>日誌</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_DIARY_HELP">
+        <source></source>
+        <translation>日誌記下每個檢視在何時顯示了哪些標題與內文，您開啟、搜尋、標記、列印及儲存了什麼，以及哪些警示已通知及看過；並記下來源、收到及上螢幕的時刻、您的使用者名稱與本機名稱。日誌在檔案 %1 中，保留到您刪除該檔案為止，程式不會從中移除任何內容。每筆記錄都與前一筆封在一起，事後的更動會顯現出來。</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_DIARY_KEEP">
+        <source></source>
+        <translation>保留日誌(&amp;K)</translation>
+    </message>
+    <message id="TERMINAL_SETTINGS_DIARY_WORDS">
+        <source></source>
+        <translation>記下搜尋的字詞(&amp;W)</translation>
+    </message>
     <message id="TERMINAL_TINT_BLUE">
         <source></source>
         <translation>藍</translation>
