@@ -254,7 +254,7 @@ bool wantsOffscreen(int argc, const char* const* argv) {
 int runTerminal() {
     CommandArguments arguments(
         QString(),
-        u"A news terminal. Commands, given as the first argument: import, feed, replay, sample, search, export, check, backup, trim, source."_s);
+        u"A news terminal. Commands, given as the first argument: import, feed, replay, sample, search, export, check, diary, backup, trim, source."_s);
     addOptions(arguments.parser);
     if (const auto status = arguments.read())
         return *status;

@@ -2914,7 +2914,7 @@
     </message>
     <message id="TERMINAL_SETTINGS_DIARY_HELP">
         <source></source>
-        <translation>日志记下每个视图在何时显示了哪些标题与正文，您打开、搜索、标记、打印及保存了什么，以及哪些警报已通知及看过；并记下来源、收到及上屏幕的时刻、您的用户名与本机名称。日志在文件 %1 中，保留到您删除该文件为止，程序不会从中移除任何内容。每条记录都与前一条封在一起，事后的改动会显现出来。</translation>
+        <translation>日志记下每个视图在何时显示了哪些标题与正文，您打开、搜索、标记、打印及保存了什么，以及哪些警示已通知及看过；并记下来源、收到及上屏幕的时刻、您的用户名与本机名称。日志在文件 %1 中，保留到您删除该文件为止，程序不会从中移除任何内容。每条记录都与前一条封在一起，事后的改动会显现出来。</translation>
     </message>
     <message id="TERMINAL_SETTINGS_DIARY_KEEP">
         <source></source>
