@@ -2910,7 +2910,7 @@ Reads the news of securities markets, live and from files.</translation>
     </message>
     <message id="TERMINAL_SETTINGS_DIARY">
         <source></source>
-        <translation>Diary</translation>
+        <translation>&amp;Diary</translation>
     </message>
     <message id="TERMINAL_SETTINGS_DIARY_HELP">
         <source></source>

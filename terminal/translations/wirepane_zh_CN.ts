@@ -2910,7 +2910,7 @@
     </message>
     <message id="TERMINAL_SETTINGS_DIARY">
         <source></source>
-        <translation>日志</translation>
+        <translation>日志(&amp;D)</translation>
     </message>
     <message id="TERMINAL_SETTINGS_DIARY_HELP">
         <source></source>
