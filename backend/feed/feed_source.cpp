@@ -54,7 +54,10 @@ private:
             ++outcome.totals.alreadyThere;
         } else {
             ++outcome.totals.takenIn;
-            outcome.news += std::holds_alternative<NewsItem>(item.content.value()) ? 1 : 0;
+            if (const auto* news = std::get_if<NewsItem>(&item.content.value())) {
+                ++outcome.news;
+                outcome.times.push_back(news->time);
+            }
         }
     }
 

@@ -5,6 +5,7 @@
 #include "backend/import/import_job.h"
 #include "backend/import/reading.h"
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -18,6 +19,7 @@ struct BatchOutcome {
     ImportTotals totals;
     qint64 news = 0;                    // taken in, of the totals
     std::vector<std::int64_t> numbers;  // of the news, where its source numbers it
+    std::vector<std::int64_t> times;    // when the news taken in was published, seconds since 1970
     std::vector<Rejection> rejections;  // the first mostRejections of them
     std::optional<Error> fault;         // the batch as a whole cannot be read: nothing of it was taken
 
@@ -64,6 +66,9 @@ public:
     FeedBatch& operator=(const FeedBatch&) = delete;
     virtual ~FeedBatch() = default;
 
+    using Clock = std::chrono::steady_clock;
+    // When the oldest of it reached the terminal; unless it says otherwise, when it was made.
+    virtual Clock::time_point received() const { return made; }
     // Hands the items over, until `visit` answers false. An error: the batch as a whole cannot be read.
     virtual Done read(const ItemVisitor& visit) = 0;
     // The position behind what has been read; empty: there is none to keep.
@@ -75,6 +80,9 @@ public:
     virtual bool isNumbered() const { return false; }
     // Whether one item that cannot be taken is a reason to take nothing of it.
     virtual bool isWhole() const { return false; }
+
+private:
+    const Clock::time_point made = Clock::now();
 };
 
 // A source of news: it hands items over in batches that are taken whole or not at all, each with the position

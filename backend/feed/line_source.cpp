@@ -19,8 +19,10 @@ constexpr qint64 mostBytes = 512 * 1024;  // of a batch, about
 class LineBatch : public FeedBatch {
 public:
     // `before`: how many lines have gone before.
-    LineBatch(std::vector<Result<QByteArray>> batchLines, qint64 before, const FeedHandshake& ofSource)
-        : lines(std::move(batchLines)),
+    LineBatch(std::vector<Result<QByteArray>> batchLines, Clock::time_point first, qint64 before,
+              const FeedHandshake& ofSource)
+        : came(first),
+          lines(std::move(batchLines)),
           number(before),
           service(ofSource.service),
           hasNumbers(ofSource.isNumbered) {}
@@ -35,6 +37,7 @@ public:
     }
     QString position() const override { return lastPosition; }
     bool isNumbered() const override { return hasNumbers; }
+    Clock::time_point received() const override { return came; }
 
 private:
     SourceItem itemOf(const Result<QByteArray>& line, const Phrase& place) {
@@ -49,6 +52,7 @@ private:
         return {std::move(record->item), place, 0};
     }
 
+    Clock::time_point came;
     std::vector<Result<QByteArray>> lines;
     qint64 number;
     unsigned char service;
@@ -69,12 +73,12 @@ void LineSource::add(const QByteArray& line) {
         }
     }
     waitingBytes += line.size();
-    lines.emplace_back(line);
+    lines.push_back({line});
 }
 
 void LineSource::addRejected(const Error& reason) {
     begun = true;
-    lines.emplace_back(reason);
+    lines.push_back({reason});
 }
 
 void LineSource::drop() {
@@ -84,20 +88,20 @@ void LineSource::drop() {
 }
 
 std::shared_ptr<FeedBatch> LineSource::batch() {
-    std::vector<Line> next;
+    std::vector<Result<QByteArray>> next;
     qint64 bytes = 0;
     while (next.size() < lines.size() && next.size() < mostLines && bytes < mostBytes) {
-        next.push_back(lines[next.size()]);
+        next.push_back(lines[next.size()].text);
         bytes += next.back() ? next.back().value().size() : 0;
     }
     linesOfBatch = next.size();
-    return std::make_shared<LineBatch>(std::move(next), acknowledged, handshake);
+    return std::make_shared<LineBatch>(std::move(next), lines.front().received, acknowledged, handshake);
 }
 
 void LineSource::acknowledge(const BatchOutcome& outcome) {
     const auto end = lines.begin() + static_cast<std::ptrdiff_t>(linesOfBatch);
     for (auto line = lines.begin(); line != end; ++line)
-        waitingBytes -= *line ? line->value().size() : 0;
+        waitingBytes -= line->text ? line->text.value().size() : 0;
     lines.erase(lines.begin(), end);
     acknowledged += static_cast<qint64>(linesOfBatch);
     linesOfBatch = 0;

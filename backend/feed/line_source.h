@@ -45,7 +45,10 @@ public:
     void acknowledge(const BatchOutcome& outcome) override;
 
 private:
-    using Line = Result<QByteArray>;
+    struct Line {
+        Result<QByteArray> text;
+        FeedBatch::Clock::time_point received = FeedBatch::Clock::now();
+    };
     static constexpr std::size_t mostWaiting = 4000;  // lines
     static constexpr qint64 mostWaitingBytes = 512 * 1024;
 

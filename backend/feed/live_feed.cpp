@@ -12,6 +12,8 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <chrono>
+#include <iterator>
 #include <utility>
 
 namespace wirepane {
@@ -19,7 +21,8 @@ namespace wirepane {
 namespace {
 
 constexpr int tickMs = 250;
-constexpr int retryMs = 2000;             // after the store could not be written
+constexpr int retryMs = 2000;  // after the store could not be written
+constexpr std::int64_t microsOfSecond = 1'000'000;
 constexpr int behindMs = 5;               // between looks whether the telling has come up to the taking
 constexpr qint64 longestReturnMs = 3000;  // of sources, after an outage
 
@@ -184,29 +187,60 @@ bool LiveFeed::pumpOne() {
 void LiveFeed::take(const std::shared_ptr<FeedSource>& source) {
     const int batch = ++batches;
     entryOf(*source)->batch = batch;
-    const auto taken = std::make_shared<Result<BatchOutcome>>(BatchOutcome());
-    backEnd.ask([items = source->batch(), name = source->name(),
-                 taken](StoreWriter& writer) { *taken = takeBatch(*items, name, writer); },
-                [self = QPointer(this), source, taken, batch] {
-                    if (self)
-                        self->noteTaken(source, *taken, batch);
-                });
+    const auto taken = std::make_shared<Taken>();
+    backEnd.ask(
+        [items = source->batch(), name = source->name(), taken](StoreWriter& writer) {
+            taken->received = items->received();
+            taken->outcome = takeBatch(*items, name, writer);
+            taken->stored = FeedBatch::Clock::now();
+        },
+        [self = QPointer(this), source, taken, batch] {
+            if (self)
+                self->noteTaken(source, *taken, batch);
+        });
 }
 
-void LiveFeed::noteTaken(const std::shared_ptr<FeedSource>& source, const Result<BatchOutcome>& taken,
-                         int batch) {
+void LiveFeed::noteTaken(const std::shared_ptr<FeedSource>& source, const Taken& handed, int batch) {
+    const Result<BatchOutcome>& taken = handed.outcome;
     tellTrouble(taken ? std::nullopt : std::optional(taken.error()));
     Entry* const entry = entryOf(*source);
     if (entry == nullptr)
         return;
     if (taken) {
         takenLate += isCatchingUp ? taken.value().news : 0;
+        noteDelays(*source, handed);
         awaitDisk(source, taken.value(), batch);
     } else {
         entry->batch = 0;
         pumpSoon();
     }
     updateState();
+}
+
+// The news of a batch came at several moments: the first of them counts for all.
+void LiveFeed::noteDelays(const FeedSource& source, const Taken& taken) {
+    using std::chrono::duration_cast;
+    using std::chrono::microseconds;
+    const std::vector<std::int64_t>& times = taken.outcome.value().times;
+    if (times.empty())
+        return;
+    Delays& delays = delaysOf[source.name()];
+    const std::int64_t now = host_clock::now();
+    const auto since = duration_cast<microseconds>(FeedBatch::Clock::now() - taken.received).count();
+    for (const std::int64_t time : times)
+        delays.toReceipt.add((now - time) * microsOfSecond - since, now);
+    delays.toStore.add(duration_cast<microseconds>(taken.stored - taken.received).count(), now,
+                       std::ssize(times));
+}
+
+std::vector<SourceDelays> LiveFeed::delays() const {
+    const std::int64_t now = host_clock::now();
+    std::vector<SourceDelays> all;
+    for (const auto& [name, delays] : delaysOf) {
+        if (const auto toStore = delays.toStore.figures(now); toStore.count > 0)
+            all.push_back({name, delays.toReceipt.figures(now), toStore});
+    }
+    return all;
 }
 
 void LiveFeed::awaitDisk(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backend/feed/delay_window.h"
 #include "backend/feed/feed_source.h"
 #include "backend/feed/number_gaps.h"
 
@@ -40,6 +41,13 @@ struct SourceReport {
     QString title = name;  // what its reader calls it
 };
 
+// How long news of a source took in the last hour.
+struct SourceDelays {
+    QString name;
+    DelayWindow::Figures toReceipt;  // from its publishing, which is known to the second
+    DelayWindow::Figures toStore;    // from its receipt
+};
+
 // The live news of a running terminal: owns the sources, lets each go on where it was, and has what they
 // bring taken in on the store's thread, one batch of each at a time. The store is watched as a source like
 // the others. Interface thread.
@@ -56,6 +64,8 @@ public:
     void addSource(const std::shared_ptr<FeedSource>& source) override;
     // Those that have a name, in the order in which they came.
     std::vector<SourceReport> sources() const;
+    // Of all that have brought news within the hour, by name; sources without one have an empty one.
+    std::vector<SourceDelays> delays() const;
 
     // An outage keeps everything away: files stay in the spool, clients are sent off and may come
     // again after it. What came to the store meanwhile is told when it is over, oldest first.
@@ -89,7 +99,14 @@ private:
     bool pumpOne();
     void resume(const std::shared_ptr<FeedSource>& source);
     void take(const std::shared_ptr<FeedSource>& source);
-    void noteTaken(const std::shared_ptr<FeedSource>& source, const Result<BatchOutcome>& taken, int batch);
+    // A batch that the store has taken, or not.
+    struct Taken {
+        Result<BatchOutcome> outcome = BatchOutcome();
+        FeedBatch::Clock::time_point received;
+        FeedBatch::Clock::time_point stored;
+    };
+    void noteTaken(const std::shared_ptr<FeedSource>& source, const Taken& taken, int batch);
+    void noteDelays(const FeedSource& source, const Taken& taken);
     void awaitDisk(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch);
     void acknowledge(const std::shared_ptr<FeedSource>& source, const BatchOutcome& outcome, int batch,
                      const Done& onDisk);
@@ -109,7 +126,12 @@ private:
     int batches = 0;             // handed to the store so far
     QTimer ticking;
     QTimer pumping;
+    struct Delays {
+        DelayWindow toReceipt;
+        DelayWindow toStore;
+    };
     std::map<QString, NumberGaps> gaps;  // by the names of sources, over outages
+    std::map<QString, Delays> delaysOf;  // the same
     std::optional<Error> takeTrouble;    // of the last batch
     bool isTold = false;                 // that trouble is
     bool isConnected = true;

@@ -20,6 +20,7 @@ public:
         return Nothing{};
     }
     QString position() const override { return batch->position; }
+    Clock::time_point received() const override { return batch->received; }
 
 private:
     std::shared_ptr<const SourceBatch> batch;

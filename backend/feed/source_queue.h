@@ -17,6 +17,7 @@ namespace wirepane {
 struct SourceBatch {
     std::vector<SourceItem> items;
     QString position;
+    std::chrono::steady_clock::time_point received = std::chrono::steady_clock::now();
 };
 
 // The batches and states of a source that is read on a thread of its own, in their order, on their way to the

@@ -106,6 +106,7 @@ void FeedMethods::addTo(MethodTable& table) {
     table.addModal(u"feed.push"_s, [this](Params& params) { return push(params); });
     table.addWithList(u"feed.symbols"_s, u"symbols"_s, [this](Params& params) { return symbols(params); });
     table.addWithList(u"feed.quotes"_s, u"quotes"_s, [this](Params& params) { return quotes(params); });
+    table.add(u"feed.delays"_s, [this](Params&) { return delays(); });
     table.add(u"feed.requests"_s, [this](Params&) { return requests(); });
     table.addModal(u"feed.connect"_s, [this](Params& params) { return connectFeed(params); });
     table.addModal(u"feed.story"_s, [this](Params& params) { return story(params); });
@@ -170,6 +171,22 @@ Answer FeedMethods::requests() {
         requests.append(QJsonObject{{u"operation"_s, request.operation},
                                     {u"arguments"_s, QJsonArray::fromVariantList(request.arguments)}});
     return requests;
+}
+
+Answer FeedMethods::delays() {
+    const auto inMs = [](const DelayWindow::Figures& figures) {
+        constexpr double microsOfMs = 1000;
+        return QJsonObject{{u"p50"_s, double(figures.half) / microsOfMs},
+                           {u"p99"_s, double(figures.most) / microsOfMs},
+                           {u"longest"_s, double(figures.longest) / microsOfMs}};
+    };
+    QJsonArray all;
+    for (const SourceDelays& source : session.feed().delays())
+        all.append(QJsonObject{{u"source"_s, source.name},
+                               {u"news"_s, qint64(source.toStore.count)},
+                               {u"toReceipt"_s, inMs(source.toReceipt)},
+                               {u"toStore"_s, inMs(source.toStore)}});
+    return all;
 }
 
 Answer FeedMethods::connectFeed(Params& params) {

@@ -23,6 +23,7 @@ private:
     template <class ItemFrom>
     Answer takeList(Params& params, const QString& name, const QString& fields, ItemFrom itemFrom);
     Answer requests();
+    Answer delays();
     Answer connectFeed(Params& params);
     Answer story(Params& params);
     Answer updated(Params& params);

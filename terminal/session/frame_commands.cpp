@@ -84,12 +84,13 @@ std::optional<int> commandOfView(FrameCommand command) {
     }
 }
 
-std::optional<SourceState> stateOf(const LiveFeed& feed, const QString& name) {
-    for (const SourceReport& source : feed.sources()) {
-        if (source.name == name)
-            return source.state;
-    }
-    return std::nullopt;
+std::map<QString, SourceModel::Life> livesOf(const LiveFeed& feed) {
+    std::map<QString, SourceModel::Life> lives;
+    for (const SourceReport& source : feed.sources())
+        lives[source.name].state = source.state;
+    for (const SourceDelays& delays : feed.delays())
+        lives[delays.name].delays = delays;
+    return lives;
 }
 
 }  // namespace
@@ -347,7 +348,7 @@ void FrameCommands::showSources() {
     if (sourcesWindow == nullptr) {
         sourcesWindow = new SourcesWindow(
             session.sources().desk(), session.sources().trial(),
-            [feed = &session.feed()](const QString& name) { return stateOf(*feed, name); },
+            [feed = &session.feed()] { return livesOf(*feed); },
             [backEnd = &session.backEnd()] { return namedServices(*backEnd); }, &session.frame());
         sourcesWindow->setAttribute(Qt::WA_DeleteOnClose);
     }

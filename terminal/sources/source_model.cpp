@@ -46,8 +46,8 @@ bool isOfFigures(int column) {
 
 }  // namespace
 
-SourceModel::SourceModel(StateOf terminalsStateOf, QObject* parent)
-    : QAbstractTableModel(parent), stateOf(std::move(terminalsStateOf)) {
+SourceModel::SourceModel(Lives lives, QObject* parent)
+    : QAbstractTableModel(parent), livesOf(std::move(lives)) {
     show({});
 }
 
@@ -80,8 +80,14 @@ void SourceModel::retranslate() {
 std::vector<SourceRow> SourceModel::madeRows() const {
     const std::int64_t now = QDateTime::currentSecsSinceEpoch();
     std::vector<SourceRow> made;
-    for (const ListedSource& listed : sources)
-        made.push_back(rowOf(listed, stateOf(listed.source.name), now));
+    const std::map<QString, Life> lives = livesOf();
+    for (const ListedSource& listed : sources) {
+        const auto life = lives.find(listed.source.name);
+        const Life known = life != lives.end() ? life->second : Life();
+        made.push_back(rowOf(listed, known.state, now));
+        if (known.delays)
+            made.back().delays = delaysText(*known.delays);
+    }
     for (const ReadyMadeSource& each : ready) {
         SourceRow row = rowOf({each.source, {}}, std::nullopt, now);
         row.detail = terminalText(TextId::SourceReadyMade).arg(each.publisher);
@@ -129,7 +135,11 @@ QVariant SourceModel::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return cellText(row, index.column());
         case Qt::ToolTipRole:
-            return index.column() == State ? row.state.toHtmlEscaped() : QVariant();
+            return index.column() == State   ? row.state.toHtmlEscaped()
+                   : index.column() == Delay ? QVariant(row.delays)
+                                             : QVariant();
+        case Qt::AccessibleDescriptionRole:
+            return index.column() == Delay ? QVariant(row.delays) : QVariant();
         case Qt::AccessibleTextRole:
             return index.column() == On ? row.title : cellText(row, index.column());
         case Qt::CheckStateRole:

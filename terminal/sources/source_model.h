@@ -8,6 +8,7 @@
 #include <QAbstractTableModel>
 
 #include <functional>
+#include <map>
 
 namespace wirepane {
 
@@ -19,10 +20,14 @@ class SourceModel : public QAbstractTableModel {
 public:
     enum Column { On, Source, State, Last, Next, Today, Delay, ColumnCount };
 
-    using StateOf = std::function<std::optional<SourceState>(const QString& name)>;
+    // How the terminal stands to a source, and what it has brought.
+    struct Life {
+        std::optional<SourceState> state;
+        std::optional<SourceDelays> delays;
+    };
+    using Lives = std::function<std::map<QString, Life>()>;  // by name
 
-    // `stateOf`: how the terminal stands to a source.
-    SourceModel(StateOf stateOf, QObject* parent);
+    SourceModel(Lives lives, QObject* parent);
 
     void show(const std::vector<ListedSource>& sources);
     // What time and the terminal's state have changed.
@@ -51,7 +56,7 @@ signals:
 private:
     std::vector<SourceRow> madeRows() const;
 
-    StateOf stateOf;
+    Lives livesOf;
     std::vector<ListedSource> sources;
     std::vector<ReadyMadeSource> ready;
     std::vector<SourceRow> rows;

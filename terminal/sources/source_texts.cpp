@@ -46,7 +46,7 @@ QString nextText(const ListedSource& listed, std::int64_t now) {
                              : terminalText(TextId::SourceInMinutes).arg(wait / minute);
 }
 
-QString delayText(int delay) {
+QString delayText(std::int64_t delay) {
     if (delay < 0)
         return nothing;
     return delay < second ? u"%1 ms"_s.arg(delay) : u"%1 s"_s.arg(double(delay) / second, 0, 'f', 1);
@@ -147,6 +147,18 @@ QString stateText(const SourceState& state) {
             break;
     }
     return terminalText(TextId::SourceFailed).arg(since, state.reason ? shownText(*state.reason) : QString());
+}
+
+QString delaysText(const SourceDelays& delays) {
+    const auto line = [](TextId what, const DelayWindow::Figures& figures) {
+        constexpr std::int64_t microsOfMs = 1000;
+        return terminalText(what).arg(delayText(figures.half / microsOfMs),
+                                      delayText(figures.most / microsOfMs),
+                                      delayText(figures.longest / microsOfMs));
+    };
+    return countText(TextId::SourceDelaysOf, delays.toStore.count) + u'\n' +
+           line(TextId::SourceToReceipt, delays.toReceipt) + u'\n' +
+           line(TextId::SourceToStore, delays.toStore);
 }
 
 SourceRow rowOf(const ListedSource& listed, const std::optional<SourceState>& live, std::int64_t now) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backend/feed/feed_source.h"
+#include "backend/feed/live_feed.h"
 #include "host/contract/colour_roles.h"
 #include "host/controls/line_icon.h"
 #include "terminal/sources/source_desk.h"
@@ -23,6 +24,7 @@ struct SourceRow {
     QString next;
     QString today;
     QString delay;
+    QString delays;  // of the last hour; empty: nothing came
     ColourRole lamp = ColourRole::Weak;
     LineIcon icon = LineIcon::Feed;
     bool isOn = false;
@@ -31,6 +33,8 @@ struct SourceRow {
     bool operator==(const SourceRow&) const = default;
 };
 
+// How long most news of a source took, and the longest.
+QString delaysText(const SourceDelays& delays);
 // `live`: how a terminal that reads it stands to it; nothing: none does. `now`: seconds since 1970.
 SourceRow rowOf(const ListedSource& listed, const std::optional<SourceState>& live, std::int64_t now);
 

@@ -41,13 +41,13 @@ constexpr std::chrono::seconds period{1};  // of what time changes
 
 }  // namespace
 
-SourcesWindow::SourcesWindow(SourceDesk& sourceDesk, SourceTrial& sourceTrial, SourceModel::StateOf stateOf,
+SourcesWindow::SourcesWindow(SourceDesk& sourceDesk, SourceTrial& sourceTrial, SourceModel::Lives lives,
                              ServicesOf servicesOf, QWidget* parent)
     : QDialog(parent, Qt::Window),
       desk(sourceDesk),
       services(std::move(servicesOf)),
       trial(sourceTrial),
-      model(new SourceModel(std::move(stateOf), this)),
+      model(new SourceModel(std::move(lives), this)),
       address(new QLineEdit),
       addButton(new QPushButton),
       importButton(new QPushButton),

@@ -23,7 +23,7 @@ class SourcesWindow : public QDialog {
 
 public:
     // None is owned; all outlive the window.
-    SourcesWindow(SourceDesk& desk, SourceTrial& trial, SourceModel::StateOf stateOf, ServicesOf services,
+    SourcesWindow(SourceDesk& desk, SourceTrial& trial, SourceModel::Lives lives, ServicesOf services,
                   QWidget* parent);
     ~SourcesWindow() override;
 

@@ -2924,6 +2924,18 @@ Reads the news of securities markets, live and from files.</translation>
         <source></source>
         <translation>With the &amp;words that are searched for</translation>
     </message>
+    <message id="TERMINAL_SOURCE_DELAYS_OF">
+        <source></source>
+        <translation>The last hour, %1 {headline|headlines}: half within, 99 of 100 within, longest</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TO_RECEIPT">
+        <source></source>
+        <translation>From publishing to receipt: %1, %2, %3</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TO_STORE">
+        <source></source>
+        <translation>From receipt to the store: %1, %2, %3</translation>
+    </message>
     <message id="TERMINAL_TINT_BLUE">
         <source></source>
         <translation>Blue</translation>

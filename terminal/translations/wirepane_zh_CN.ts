@@ -2924,6 +2924,18 @@
         <source></source>
         <translation>记下搜索的字词(&amp;W)</translation>
     </message>
+    <message id="TERMINAL_SOURCE_DELAYS_OF">
+        <source></source>
+        <translation>最近一小时 %1 条：半数以内、百分之九十九以内、最长</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TO_RECEIPT">
+        <source></source>
+        <translation>发布至收到：%1、%2、%3</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TO_STORE">
+        <source></source>
+        <translation>收到至存入：%1、%2、%3</translation>
+    </message>
     <message id="TERMINAL_TINT_BLUE">
         <source></source>
         <translation>蓝</translation>

@@ -2924,6 +2924,18 @@
         <source></source>
         <translation>記下搜尋的字詞(&amp;W)</translation>
     </message>
+    <message id="TERMINAL_SOURCE_DELAYS_OF">
+        <source></source>
+        <translation>最近一小時 %1 則：半數以內、百分之九十九以內、最長</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TO_RECEIPT">
+        <source></source>
+        <translation>發布至收到：%1、%2、%3</translation>
+    </message>
+    <message id="TERMINAL_SOURCE_TO_STORE">
+        <source></source>
+        <translation>收到至存入：%1、%2、%3</translation>
+    </message>
     <message id="TERMINAL_TINT_BLUE">
         <source></source>
         <translation>藍</translation>

@@ -6,6 +6,7 @@
 #include "backend/feed/source_kinds.h"
 #include "backend/feed/spool_source.h"
 #include "backend/store/store_writer.h"
+#include "host/contract/clock.h"
 #include "tests/backend/feed/live_source_fixture.h"
 
 #include <QFile>
@@ -119,6 +120,24 @@ TEST_P(EverySourceTest, OverABreakAndARestartNothingIsLostAndNothingComesTwice) 
     titles.sort();
     EXPECT_EQ(titles, titlesUpTo(9));
     EXPECT_EQ(told().removeDuplicates(), 0);
+}
+
+TEST_P(EverySourceTest, WhatItBringsIsTimed) {
+    const SourceCase one = cases().at(GetParam());
+    begin(one);
+    for (int number = 1; number <= 3; ++number)
+        one.bring(number);
+    ASSERT_TRUE(hasTold(3));
+    const std::vector<SourceDelays> delays = feed->delays();
+    // What another program has written to the store did not come by a source.
+    ASSERT_EQ(delays.size(), one.open ? 1U : 0U);
+    if (delays.empty())
+        return;
+    EXPECT_EQ(delays.front().toStore.count, 3);
+    EXPECT_EQ(delays.front().toReceipt.count, 3);
+    EXPECT_GT(delays.front().toStore.longest, 0);
+    const std::int64_t seconds = host_clock::now() - numbered(1).time;
+    EXPECT_NEAR(double(delays.front().toReceipt.longest), double(seconds) * 1e6, 60e6);
 }
 
 TEST_P(EverySourceTest, ItsStateIsToldAsItChanges) {

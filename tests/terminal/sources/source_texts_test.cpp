@@ -117,7 +117,12 @@ TEST_F(SourceTexts, APageThatAnotherHostGivesIsToldInTheRowInEachLanguage) {
 }
 
 TEST_F(SourceTexts, TheListShowsSourcesAndThenWhatIsReadyMadeAndNotTaken) {
-    SourceModel model([](const QString&) { return std::nullopt; }, nullptr);
+    SourceModel model(
+        [] {
+            const SourceDelays delays{u"a"_s, {4, 250'000, 1'500'000, 61'000'000}, {4, 900, 12'400, 13'000}};
+            return std::map<QString, SourceModel::Life>{{u"a"_s, {std::nullopt, delays}}};
+        },
+        nullptr);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     ASSERT_EQ(model.rowCount(), 1);
     const ReadyMadeSource made = *model.readyMade(0);
@@ -134,6 +139,14 @@ TEST_F(SourceTexts, TheListShowsSourcesAndThenWhatIsReadyMadeAndNotTaken) {
     EXPECT_EQ(model.readyMade(1), nullptr);
     EXPECT_EQ(model.rowOfName(u"b"_s), 1);
     EXPECT_EQ(model.countOn(), 1);
+
+    const auto tipOf = [&](int row) {
+        return model.data(model.index(row, SourceModel::Delay), Qt::ToolTipRole).toString();
+    };
+    const QString tip = tipOf(0);
+    EXPECT_TRUE(tip.contains(u"250 ms, 1.5 s, 61.0 s"_s) && tip.contains(u"0 ms, 12 ms, 13 ms"_s))
+        << tip.toStdString();
+    EXPECT_EQ(tipOf(1), QString());
 
     std::vector<std::pair<int, bool>> ticks;
     QObject::connect(&model, &SourceModel::ticked, &model,
