@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Wirepane authors
 // SPDX-License-Identifier: MIT
 #include "host/views/news_control_ids.h"
+#include "tests/support/time_zone.h"
 #include "tests/terminal/program/program_runner.h"
 #include "tests/terminal/program/script_client.h"
 
@@ -10,6 +11,7 @@
 #include <QJsonDocument>
 #include <QThread>
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -85,6 +87,14 @@ protected:
         return rows.mid(1);
     }
 
+    // Where it is about noon: a replay is of one day.
+    static QByteArray noonZone() {
+        const int east = 12 - QDateTime::currentDateTimeUtc().time().hour();
+        return east == 0 ? QByteArray("Etc/GMT")
+                         : "Etc/GMT" + QByteArray(east > 0 ? "-" : "+") + QByteArray::number(std::abs(east));
+    }
+
+    TimeZone atNoon{noonZone().constData()};
     Scratch scratch;
     ScriptClient terminal;
 };
